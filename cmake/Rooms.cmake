@@ -1,0 +1,20 @@
+# talvesk_room(NAME [SOURCES ...] [DEPENDS ...] [MOC])
+#
+# A folder of src/ as one library target, talvesk_NAME. A room without sources yet is an interface
+# target, so that the rooms above it can already name it. MOC runs Qt's meta-object compiler.
+function(talvesk_room name)
+  cmake_parse_arguments(ROOM "MOC" "" "SOURCES;DEPENDS" ${ARGN})
+  set(target talvesk_${name})
+  if(ROOM_SOURCES)
+    add_library(${target} STATIC ${ROOM_SOURCES})
+    target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${target} PUBLIC ${ROOM_DEPENDS} PRIVATE talvesk_options)
+    if(ROOM_MOC)
+      set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    endif()
+  else()
+    add_library(${target} INTERFACE)
+    target_include_directories(${target} INTERFACE ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${target} INTERFACE ${ROOM_DEPENDS})
+  endif()
+endfunction()

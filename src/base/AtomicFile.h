@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+#include "base/Status.h"
+
+namespace talvesk {
+
+/// Replaces the file at `path` (UTF-8) by `bytes`, whole or not at all: a failure leaves what was
+/// there before, and no half-written file.
+Status writeFileAtomically(const std::string& path, std::string_view bytes);
+
+/// The same for text that `write` prints; the stream prints numbers by the "C" locale.
+Status writeTextAtomically(const std::string& path,
+                           const std::function<void(std::ostream&)>& write);
+
+/// Reads a whole file. Files above `limitBytes` are refused before they are read.
+Status readWholeFile(const std::string& path, std::string& bytes,
+                     std::size_t limitBytes = std::size_t{1} << 31);
+
+}  // namespace talvesk

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <fstream>
+#include <string>
+
+namespace talvesk {
+
+/// The application log: every message goes to the console and, when a path was given, to the log
+/// file, each line headed by the local time. Used from one thread.
+class Log {
+ public:
+  /// A log without a file: messages reach the console only.
+  Log() = default;
+  /// The file is opened, and emptied, by the first message.
+  explicit Log(std::string path) : mPath(std::move(path)) {}
+
+  /// \param level 0 information (standard output), 1 error (standard error). Only the file's line
+  /// carries the word "ERROR : "; the console line does not.
+  void write(const std::string& message, int level = 0);
+
+  const std::string& path() const { return mPath; }
+
+ private:
+  std::string mPath;
+  std::ofstream mFile;
+};
+
+}  // namespace talvesk

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+
+#include "base/Status.h"
+
+namespace talvesk {
+
+/// What the user prefers, kept in an XML file of the working folder.
+class Settings {
+ public:
+  explicit Settings(std::string path) : mPath(std::move(path)) {}
+
+  /// True when the file exists and could be read. Keys that an older version did not write keep
+  /// their defaults and are told on the console.
+  bool load();
+  Status save() const;
+
+  const std::string& path() const { return mPath; }
+
+  std::string language = "en";     ///< locale code of the user interface
+  bool fillWiggle = true;          ///< fill the wiggles of traces
+  bool zoomIn = false;             ///< traces zoomed in
+  bool cutHorizontal = true;       ///< wiggles cut horizontally
+  bool showFiltered = true;        ///< show the filtered copies
+  bool showAllTraces = false;      ///< show all traces
+  bool twoColors = false;          ///< wiggles in two colours
+  bool savePngHColorbar = false;   ///< horizontal colour bar in saved pictures
+
+ private:
+  std::string mPath;
+};
+
+}  // namespace talvesk

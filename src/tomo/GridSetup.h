@@ -1,0 +1,29 @@
+#pragma once
+
+#include <vector>
+
+#include "base/Log.h"
+#include "base/Status.h"
+#include "model/TomoDocument.h"
+
+namespace talvesk {
+
+/// What the user chooses for a grid.
+struct GridSettings {
+  double maxDepth = 0.0;    ///< metres
+  double cellSize = 0.0;    ///< metres
+  std::uint32_t nodes = 6;  ///< per cell side
+};
+
+/// Measures the survey, proposes a cell size (kept in the document's list) and returns what a dialog
+/// shows as defaults: half the array length deep, the proposed cells, 6 nodes.
+GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& log);
+
+/// Builds the grid with the default model under the survey and installs it; the information density
+/// restarts at -1.0. On failure (no geometry, too large, exception) the document keeps its grid.
+Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log);
+
+/// Replaces the document's grid by one with a layered model and keeps the layers.
+Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers);
+
+}  // namespace talvesk

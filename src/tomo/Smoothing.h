@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "base/Log.h"
+#include "grid/Grid.h"
+
+namespace talvesk {
+
+enum class SmoothingType : int { kUniform = 0, kLinear = 1, kGaussian = 2, kRayBased = 3 };
+
+/// Any number but 1, 2 and 3 means uniform.
+SmoothingType smoothingTypeOf(int type);
+
+/// Smoothed slownesses (s/m, cell order) of a grid. The window of a cell reaches `radius` columns to
+/// each side and floor(radius * ratio) rows up and down, cut at the edges of the grid.
+/// \param hits per cell: greater than 0 where a ray passed; read by the ray-based kind
+/// \param radius smoothing parameter, cells, at least 1
+/// \param ratio vertical ratio of the window: 1.0 symmetric, else 0.7
+std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
+                                   const std::vector<std::uint32_t>& hits, int radius,
+                                   double ratio);
+
+/// The same operators on the hit counts: the information density.
+std::vector<double> smoothRayDensity(SmoothingType type, const Grid& grid,
+                                     const std::vector<std::uint32_t>& hits, int radius,
+                                     double ratio, Log& log);
+
+}  // namespace talvesk

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "base/Log.h"
+#include "base/Status.h"
+#include "model/TomoDocument.h"
+#include "tomo/Misfit.h"
+#include "tomo/Smoothing.h"
+
+namespace talvesk {
+
+/// What the user chooses before an inversion.
+struct TomographyParameters {
+  int externalIterations = 10;  ///< at least 1
+  int solverIterations = 20;    ///< at least 1
+  int smoothing = 5;            ///< smoothing parameter, cells, at least 1
+  SmoothingType smoothingType = SmoothingType::kRayBased;
+  bool symmetric = false;
+  bool singleThread = false;
+  double minVelocity = 250.0;   ///< m/s
+  double maxVelocity = 3500.0;  ///< m/s
+};
+
+/// Told after every completed external iteration.
+struct TomographyProgress {
+  int completed = 0;
+  int total = 0;
+  double elapsedSeconds = 0.0;
+  Misfit misfit;
+};
+
+struct TomographyResult {
+  Status status;
+  int iterationsDone = 0;
+  bool stopped = false;  ///< left before the last iteration because of a stop request
+  double elapsedSeconds = 0.0;
+  Misfit misfit;                ///< of the last evaluation; count 0 without any pick
+  std::vector<Misfit> history;  ///< one per completed external iteration
+};
+
+/// A whole inversion: external iterations until done or stopped, then the information density and
+/// the misfit. The document must hold a grid. On failure the document keeps the results of the last
+/// completed iteration.
+/// \param progress called after every external iteration, from the calling thread; may be empty
+/// \param cancelled asked after every external iteration; the one under way always completes
+TomographyResult runInversion(TomoDocument& document, const TomographyParameters& parameters,
+                              Log& log,
+                              const std::function<void(const TomographyProgress&)>& progress = {},
+                              const std::function<bool()>& cancelled = {});
+
+}  // namespace talvesk
