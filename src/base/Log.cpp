@@ -1,0 +1,41 @@
+#include "base/Log.h"
+
+#include "base/CLocale.h"
+#include "base/Console.h"
+
+#include <array>
+#include <ctime>
+
+namespace talvesk {
+namespace {
+
+/// The local time; %X follows no user's locale, so that logs of all users look alike.
+std::string timeStamp() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  std::array<char, 80> buffer{};
+  const std::size_t length =
+      strftime_l(buffer.data(), buffer.size(), "%Y-%m-%d.%X", &local, cLocale());
+  return {buffer.data(), length};
+}
+
+}  // namespace
+
+void Log::write(const std::string& message, int level) {
+  const std::string stamp = "[" + timeStamp() + "] ";
+  const bool isError = level == 1;
+  if (!mPath.empty() && !mFile.is_open()) {
+    mFile.clear();
+    mFile.open(mPath, std::ios::out | std::ios::trunc);
+    if (!mFile.is_open()) {
+      console::error() << "Impossible to open log file" << message << std::endl;
+    }
+  }
+  (isError ? console::error() : console::out()) << stamp << message << std::endl;
+  if (mFile.is_open()) {
+    mFile << stamp << (isError ? "ERROR : " : "") << message << std::endl;
+  }
+}
+
+}  // namespace talvesk
