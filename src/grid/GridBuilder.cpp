@@ -1,0 +1,128 @@
+#include "grid/GridBuilder.h"
+
+#include <cmath>
+#include <exception>
+#include <fstream>
+#include <limits>
+#include <sstream>
+
+#include "base/Console.h"
+
+namespace talvesk {
+namespace {
+
+constexpr std::uint64_t kMaxNodes = 2147483646U;
+
+/// Memory that could be had without swapping, bytes; infinite where the system does not tell.
+double availableBytes() {
+  std::ifstream file("/proc/meminfo");
+  std::string key;
+  double kibibytes = 0.0;
+  while (file >> key >> kibibytes) {
+    if (key == "MemAvailable:") return kibibytes * 1024.0;
+    file.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+  }
+  return std::numeric_limits<double>::infinity();
+}
+
+/// Runs a builder; what it throws becomes a line on the error stream.
+std::unique_ptr<Grid> guarded(const std::function<std::unique_ptr<Grid>()>& build) {
+  try {
+    return build();
+  } catch (const std::exception& error) {
+    console::error() << error.what() << " : Error creating the grid " << std::endl;
+  } catch (...) {
+    console::error() << "Unknown exception" << " : Error creating the grid " << std::endl;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+double defaultVelocity(double depth) {
+  if (depth < 3.0) return 90.0 * depth + 200.0;
+  if (depth <= 20.0) return 50.0 * depth + 1000.0;
+  return 25.0 * depth + 2500.0;
+}
+
+GridSize gridSizeFor(double arrayLength, double maxDepth, double cellSize, std::uint32_t nodes) {
+  const auto count = [](double cells) {
+    constexpr double kLimit = std::numeric_limits<std::uint32_t>::max();
+    if (!(cells > 0.0)) return std::uint32_t{0};
+    return cells >= kLimit ? std::numeric_limits<std::uint32_t>::max()
+                           : static_cast<std::uint32_t>(cells);
+  };
+  GridSize size;
+  size.col = count(arrayLength / cellSize);
+  size.righe = count(std::round(maxDepth / cellSize));
+  size.nV = nodes;
+  size.aLato = cellSize;
+  return size;
+}
+
+double estimatedGridBytes(const GridSize& size, unsigned searches) {
+  const double cells = static_cast<double>(size.righe) * size.col;
+  const double lineNodes = (size.righe + 1.0) * (size.col * (size.nV - 1.0) + 1.0);
+  const double nodes = lineNodes + cells * (size.nV - 2.0);
+  // Line depths and slownesses; per search a distance and a bucket number per node, and the two
+  // accumulators per cell.
+  return lineNodes * 8.0 + cells * 9.0 + searches * (nodes * 12.0 + cells * 16.0);
+}
+
+Status checkGridSize(const GridSize& size, unsigned searches) {
+  const double cells = static_cast<double>(size.righe) * size.col;
+  const double lineNodes = (size.righe + 1.0) * (size.col * (size.nV - 1.0) + 1.0);
+  const double nodes = lineNodes + size.righe * (size.nV - 2.0) * (size.col + 1.0);
+  std::ostringstream text;
+  text.imbue(std::locale::classic());
+  text.precision(12);
+  text << "A grid of " << size.righe << " rows and " << size.col << " columns with " << size.nV
+       << " nodes per side ";
+  if (cells < 1.0) {
+    text << "has no cells; choose smaller cells or a greater depth.";
+    return Status::failure(text.str());
+  }
+  if (nodes > static_cast<double>(kMaxNodes)) {
+    text << "has " << nodes << " nodes; at most " << kMaxNodes
+         << " can be numbered. Choose larger cells or a smaller depth.";
+    return Status::failure(text.str());
+  }
+  const double needed = estimatedGridBytes(size, searches);
+  const double available = availableBytes();
+  if (needed > available) {
+    text.precision(0);
+    text << std::fixed << "needs about " << std::ceil(needed / 1048576.0) << " MiB, but only "
+         << std::floor(available / 1048576.0)
+         << " MiB are free. Choose larger cells or a smaller depth.";
+    return Status::failure(text.str());
+  }
+  return {};
+}
+
+std::unique_ptr<Grid> buildDefaultGrid(const GridSize& size, const Splines::Spline& surface) {
+  return buildGridFromVelocity(size, defaultVelocity, surface);
+}
+
+std::unique_ptr<Grid> buildGridFromValues(const GridSize& size, std::vector<double> slownesses,
+                                          const Splines::Spline& surface) {
+  return guarded([&] {
+    return std::make_unique<Grid>(std::make_shared<GridGeometry>(size, surface),
+                                  std::move(slownesses));
+  });
+}
+
+std::unique_ptr<Grid> buildGridFromVelocity(const GridSize& size,
+                                            const std::function<double(double)>& velocityOfDepth,
+                                            const Splines::Spline& surface) {
+  return guarded([&] {
+    std::vector<double> slownesses;
+    slownesses.reserve(size.cellCount());
+    for (std::uint32_t iz = 0; iz < size.righe; ++iz) {
+      slownesses.insert(slownesses.end(), size.col, 1.0 / velocityOfDepth(iz * size.aLato));
+    }
+    return std::make_unique<Grid>(std::make_shared<GridGeometry>(size, surface),
+                                  std::move(slownesses));
+  });
+}
+
+}  // namespace talvesk

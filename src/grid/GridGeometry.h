@@ -70,7 +70,7 @@ class GridGeometry {
   double lineZ(std::uint32_t line, std::uint32_t i) const {
     return mLineZ[std::size_t{line} * mLineNodes + i];
   }
-  double sideX(std::uint32_t verticalLine) const { return mLineX[verticalLine * (mSize.nV - 1)]; }
+  double sideX(std::uint32_t verticalLine) const { return verticalLine * mSize.aLato; }
   double sideZ(std::uint32_t row, std::uint32_t verticalLine, std::uint32_t j) const {
     return lineZ(row, verticalLine * (mSize.nV - 1)) + mStep[j];
   }
@@ -99,6 +99,31 @@ class GridGeometry {
   std::vector<double> mStep;
   std::vector<double> mSurface;
 };
+
+/// The sides of a cell, in the order of its node lists.
+enum class CellSide { kTop, kLeft, kRight, kBottom };
+
+/// Calls visit(cell, side) for the cells that a node belongs to, ascending cell order; side is the
+/// one of that cell on which the node lies. A corner lies on a top or bottom side.
+template <typename Visit>
+void forEachCellOf(const GridGeometry& g, std::uint32_t node, Visit visit) {
+  const GridGeometry::Place p = g.place(node);
+  const std::uint32_t col = g.col();
+  if (!p.onLine) {
+    if (p.along > 0) visit(p.row * col + p.along - 1, CellSide::kRight);
+    if (p.along < col) visit(p.row * col + p.along, CellSide::kLeft);
+    return;
+  }
+  const std::uint32_t steps = g.nV() - 1;
+  const std::uint32_t column = p.along / steps;
+  const bool corner = p.along % steps == 0;
+  const auto visitRow = [&](std::uint32_t row, CellSide side) {
+    if (corner && column > 0) visit(row * col + column - 1, side);
+    if (column < col) visit(row * col + column, side);
+  };
+  if (p.row > 0) visitRow(p.row - 1, CellSide::kBottom);
+  if (p.row < g.righe()) visitRow(p.row, CellSide::kTop);
+}
 
 /// One smoothing pass over a profile: every entry but four at each end becomes the mean of its
 /// eight neighbours without itself. Profiles of at most eight entries stay as they are.

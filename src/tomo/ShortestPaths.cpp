@@ -1,0 +1,103 @@
+#include "tomo/ShortestPaths.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+#include <string>
+
+#include "tomo/ShortestPathsState.h"
+
+namespace talvesk {
+namespace {
+
+// More buckets than this cost more to skip than wider ones cost in repeated relaxations.
+constexpr double kMostBuckets = 65536.0;
+
+using SearchFunction = void (*)(SearchField&, std::uint32_t);
+
+SearchFunction searchFor(std::uint32_t nodesPerSide) {
+  if (nodesPerSide < 6) return searchScalar;
+#ifdef TALVESK_HAVE_AVX2
+  static const bool avx2 = __builtin_cpu_supports("avx2");
+  if (avx2) return searchAvx2;
+#endif
+  return searchBaseline;
+}
+
+/// An upper bound of all edge lengths.
+double longestEdge(const GridGeometry& g) {
+  const std::uint32_t steps = g.nV() - 1;
+  double drop = 0.0;
+  for (std::uint32_t row = 0; row < g.righe(); ++row) {
+    for (std::uint32_t column = 0; column < g.col(); ++column) {
+      const double* top = g.lineZData() + std::size_t{row} * g.lineNodeCount() + column * steps;
+      const double* bottom = top + g.lineNodeCount();
+      const auto [topMin, topMax] = std::minmax_element(top, top + g.nV());
+      const auto [bottomMin, bottomMax] = std::minmax_element(bottom, bottom + g.nV());
+      // Side nodes end less than one cell below the corners of the top.
+      drop = std::max(drop, std::max(*topMax + g.aLato(), *bottomMax) -
+                                std::min(*topMin, *bottomMin));
+    }
+  }
+  return std::hypot(g.aLato(), drop) * 1.000001;
+}
+
+}  // namespace
+
+ShortestPaths::ShortestPaths() : mState(std::make_unique<State>()) {}
+ShortestPaths::~ShortestPaths() = default;
+ShortestPaths::ShortestPaths(ShortestPaths&&) noexcept = default;
+ShortestPaths& ShortestPaths::operator=(ShortestPaths&&) noexcept = default;
+
+void ShortestPaths::search(const Grid& grid, std::uint32_t source) {
+  if (source >= grid.nodeCount()) {
+    throw std::out_of_range("no source node " + std::to_string(source));
+  }
+  State& s = *mState;
+  const GridGeometry& g = grid.geometry();
+  s.grid = &grid;
+  s.source = source;
+  s.distance.assign(grid.nodeCount(), std::numeric_limits<double>::infinity());
+  s.queued.assign(grid.nodeCount(), SearchField::kNotQueued);
+
+  SearchField& f = s.field;
+  f.rows = g.righe();
+  f.cols = g.col();
+  f.nV = g.nV();
+  f.lineNodes = g.lineNodeCount();
+  f.sideBase = (g.righe() + 1) * g.lineNodeCount();
+  f.h = g.aLato();
+  f.lineX = g.lineXData();
+  f.lineZ = g.lineZData();
+  f.step = g.sideStepData();
+  f.slowness = grid.slownesses().data();
+  f.distance = s.distance.data();
+  f.queued = s.queued.data();
+  f.ring = &s.ring;
+
+  // The shortest edge of level ground is one node step long. Over topography edges can be as good as
+  // zero long; a width that followed those would make empty buckets only.
+  double width = 1.0;
+  double longest = 0.0;
+  if (grid.cellCount() > 0) {
+    const auto [fastest, slowest] =
+        std::minmax_element(grid.slownesses().begin(), grid.slownesses().end());
+    longest = longestEdge(g) * *slowest;
+    width = std::max(g.aLato() / (g.nV() - 1) * *fastest, longest / kMostBuckets);
+  }
+  f.bucketsPerSecond = 1.0 / width;
+  s.ring.reset(static_cast<std::uint32_t>(longest * f.bucketsPerSecond) + 3);
+
+  searchFor(g.nV())(f, s.searchId(source));
+}
+
+std::uint32_t ShortestPaths::source() const { return mState->source; }
+
+double ShortestPaths::distance(std::uint32_t node) const { return mState->distanceOf(node); }
+
+std::size_t ShortestPaths::bytes() const {
+  return mState->distance.capacity() * sizeof(double) +
+         mState->queued.capacity() * sizeof(std::uint32_t) + mState->ring.bytes();
+}
+
+}  // namespace talvesk

@@ -1,0 +1,2 @@
+#define TALVESK_SEARCH searchAvx2
+#include "tomo/SearchKernel.inl"

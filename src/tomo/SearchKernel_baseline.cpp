@@ -1,0 +1,2 @@
+#define TALVESK_SEARCH searchBaseline
+#include "tomo/SearchKernel.inl"

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <limits>
+#include <vector>
+
+#include "tomo/SearchField.h"
+#include "tomo/ShortestPaths.h"
+
+namespace talvesk {
+
+/// The memory of a search, and the two numberings of nodes: the grid's own, and the search ids.
+struct ShortestPaths::State {
+  const Grid* grid = nullptr;
+  std::uint32_t source = 0;
+  std::vector<double> distance;
+  std::vector<std::uint32_t> queued;
+  BucketRing ring;
+  SearchField field{};
+
+  std::uint32_t searchId(std::uint32_t node) const {
+    const GridGeometry::Place p = grid->geometry().place(node);
+    if (p.onLine) return p.row * field.lineNodes + p.along;
+    return field.sideBase + (p.row * (field.cols + 1) + p.along) * (field.nV - 2) + p.level;
+  }
+  double distanceOf(std::uint32_t node) const { return distance[searchId(node)]; }
+};
+
+}  // namespace talvesk

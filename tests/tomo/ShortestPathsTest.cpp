@@ -1,0 +1,142 @@
+#include "tomo/ShortestPaths.h"
+
+#include <gtest/gtest.h>
+
+#include "support/ReferenceSearch.h"
+#include "support/TestGrids.h"
+
+namespace talvesk {
+namespace {
+
+/// Every distance, predecessor and predecessor edge, to the last bit.
+void expectSameAsReference(const Grid& grid, std::uint32_t source) {
+  const reference::Graph graph(grid);
+  const reference::Paths expected = reference::search(graph, source);
+  ShortestPaths paths;
+  paths.search(grid, source);
+  int wrong = 0;
+  for (std::uint32_t n = 0; n < grid.nodeCount() && wrong < 5; ++n) {
+    GridEdge edge;
+    const std::uint32_t predecessor = paths.predecessor(n, edge);
+    const GridEdge& wanted = expected.predecessorEdge[n];
+    const bool same = paths.distance(n) == expected.distance[n] &&
+                      predecessor == expected.predecessor[n] && edge.target == wanted.target &&
+                      edge.cell == wanted.cell && edge.time == wanted.time &&
+                      edge.length == wanted.length;
+    if (same) continue;
+    ++wrong;
+    ADD_FAILURE() << "node " << n << ": " << paths.distance(n) << " from " << predecessor
+                  << " through cell " << edge.cell << ", reference " << expected.distance[n]
+                  << " from " << expected.predecessor[n] << " through cell " << wanted.cell;
+  }
+}
+
+struct Case {
+  const char* name;
+  GridSize size;
+  double relief;
+  double roughness;
+  std::vector<std::uint32_t> sources;
+};
+
+TEST(ShortestPaths, equalTheReferenceToTheLastBit) {
+  const std::vector<Case> cases = {
+      {"rough hills", {12, 20, 6, 1.0}, 3.0, 0.5, {0, 7, 50, 100}},
+      {"level ground full of ties", {10, 15, 6, 1.0}, 0.0, 0.0, {0, 31, 75}},
+      {"level ground, steps that binary cannot hold", {10, 15, 6, 0.3}, 0.0, 0.0, {0, 31, 75}},
+      {"ten nodes per side", {6, 9, 10, 0.5}, 2.0, 0.3, {0, 40}},
+      {"seven nodes per side", {7, 9, 7, 2.0}, 5.0, 1.2, {3, 54}},
+      {"fifteen nodes per side", {4, 5, 15, 1.0}, 2.0, 0.4, {0, 33}},
+      {"fewer nodes than a vector", {8, 9, 3, 1.0}, 2.0, 0.4, {0, 11}},
+      {"no side nodes at all", {8, 9, 2, 1.0}, 2.0, 0.4, {0, 5}},
+      {"one cell", {1, 1, 6, 1.0}, 1.0, 0.0, {0, 3, 5}},
+      {"one column", {9, 1, 6, 1.0}, 4.0, 0.3, {2}},
+      {"one row", {1, 30, 6, 1.0}, 4.0, 0.3, {0, 77}},
+      {"steep ground", {10, 20, 6, 1.0}, 60.0, 0.5, {0, 50, 100}},
+  };
+  for (const Case& c : cases) {
+    const auto grid = testing::roughGrid(c.size, c.relief, c.roughness);
+    for (const std::uint32_t source : c.sources) {
+      SCOPED_TRACE(std::string(c.name) + ", source " + std::to_string(source));
+      expectSameAsReference(*grid, source);
+    }
+  }
+}
+
+TEST(ShortestPaths, equalTheReferenceFromInsideTheGround) {
+  const auto grid = testing::roughGrid({8, 8, 6, 1.0}, 3.0, 0.5);
+  for (const std::uint32_t source : {60u, 155u, grid->nodeCount() - 1}) {
+    expectSameAsReference(*grid, source);
+  }
+}
+
+// Notches in the surface are filled by the smoothing: below them the next line rises by one node step,
+// and the lowest side node falls exactly onto the corner below it.
+TEST(ShortestPaths, equalTheReferenceOverEdgesOfNoLength) {
+  Splines::LinearSpline notches;
+  std::vector<double> x, z;
+  for (int i = 0; i <= 60; ++i) {
+    x.push_back(i);
+    z.push_back(i % 5 == 0 ? 0.0 : 1.0);
+  }
+  notches.build(x, z);
+  const auto geometry = std::make_shared<GridGeometry>(GridSize{6, 12, 6, 5.0}, notches);
+  int coincident = 0;
+  for (std::uint32_t v = 1; v < 12; ++v) {
+    coincident += geometry->sideZ(0, v, 3) == geometry->lineZ(1, v * 5);
+  }
+  ASSERT_EQ(coincident, 11);
+
+  for (const double contrast : {0.0, 0.5}) {
+    std::vector<double> slowness(geometry->cellCount(), 1.0 / 1024.0);
+    for (std::size_t c = 0; c < slowness.size(); c += 3) slowness[c] *= 1.0 + contrast;
+    const Grid grid(geometry, slowness);
+    for (const std::uint32_t source : {0u, 25u, 27u, 60u, geometry->sideNode(0, 5, 3),
+                                       geometry->lineNode(1, 25), geometry->lineNode(4, 13)}) {
+      SCOPED_TRACE("contrast " + std::to_string(contrast) + ", source " + std::to_string(source));
+      expectSameAsReference(grid, source);
+    }
+  }
+}
+
+TEST(ShortestPaths, equalTheReferenceAcrossExtremeContrasts) {
+  auto grid = testing::roughGrid({10, 12, 6, 1.0}, 2.0, 0.0);
+  for (std::uint32_t c = 0; c < grid->cellCount(); ++c) {
+    grid->setSlowness(c, c % 3 == 0 ? 1e-9 : (c % 3 == 1 ? 1.0 : 1e-3));
+  }
+  expectSameAsReference(*grid, 0);
+  expectSameAsReference(*grid, 30);
+}
+
+TEST(ShortestPaths, aReceiverAtTheSourceIsARayOfOneNode) {
+  const auto grid = testing::roughGrid({3, 3, 6, 1.0}, 1.0);
+  ShortestPaths paths;
+  paths.search(*grid, 4);
+  const Ray ray = paths.ray(4);
+  EXPECT_EQ(ray.nodes, std::vector<std::uint32_t>{4});
+  EXPECT_TRUE(ray.steps.empty());
+  EXPECT_THROW(paths.search(*grid, kNoNode), std::out_of_range);
+  EXPECT_THROW(paths.ray(kNoNode), std::out_of_range);
+}
+
+// The closed form of a constant gradient: t = 2/k asinh(k x / (2 sqrt(v0 v(0)))) along the surface.
+TEST(ShortestPaths, stayWithinTwoPercentOfAGradientsClosedForm) {
+  const GridSize size{60, 200, 10, 0.5};
+  const auto surface = testing::hills(100.0, 0.0);
+  const double v0 = 500.0, k = 40.0;
+  std::vector<double> slowness;
+  for (std::uint32_t iz = 0; iz < size.righe; ++iz) {
+    slowness.insert(slowness.end(), size.col, 1.0 / (v0 + k * (iz + 0.5) * size.aLato));
+  }
+  Grid grid(std::make_shared<GridGeometry>(size, surface), slowness);
+  ShortestPaths paths;
+  paths.search(grid, grid.geometry().topNodeIndex(5.0));
+  for (const double offset : {10.0, 20.0, 40.0, 60.0}) {
+    const double exact = 2.0 / k * std::asinh(k * offset / (2.0 * v0));
+    const double time = paths.distance(grid.geometry().topNodeIndex(5.0 + offset));
+    EXPECT_NEAR(time / exact, 1.0, 0.02) << offset << " m";
+  }
+}
+
+}  // namespace
+}  // namespace talvesk
