@@ -1,0 +1,240 @@
+#include "view/SectionScene.h"
+
+#include "model/TomoDocument.h"
+#include "view/SectionValues.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+std::vector<double> valuesOf(const TomoDocument& document, SectionQuantity quantity) {
+  const Grid& grid = *document.grid;
+  switch (quantity) {
+    case SectionQuantity::kVelocity:
+      return velocityValues(grid);
+    case SectionQuantity::kVerticalGradient:
+      return verticalGradientValues(grid);
+    case SectionQuantity::kLaplacian:
+      return laplacianValues(grid);
+    case SectionQuantity::kInformationDensity:
+      break;
+  }
+  // Negative numbers say that a cell has no information density yet.
+  std::vector<double> values = document.info_density;
+  values.resize(grid.cellCount(), -1.0);
+  for (double& value : values) {
+    if (value < 0.0) value = std::numeric_limits<double>::quiet_NaN();
+  }
+  return values;
+}
+
+/// Least and greatest finite value of the drawn cells; min above max when there is none.
+ValueRange drawnRange(const SectionMesh& mesh, const std::vector<double>& values) {
+  ValueRange range{kInfinity, -kInfinity};
+  for (std::size_t cell = 0; cell < values.size(); ++cell) {
+    if (mesh.drawn[cell] == 0 || !std::isfinite(values[cell])) continue;
+    range.min = std::min(range.min, values[cell]);
+    range.max = std::max(range.max, values[cell]);
+  }
+  return range;
+}
+
+std::vector<Point2D> eachPlaceOnce(std::vector<Point2D> points) {
+  const auto notAPlace = [](const Point2D& p) {
+    return !std::isfinite(p.x) || !std::isfinite(p.z);
+  };
+  points.erase(std::remove_if(points.begin(), points.end(), notAPlace), points.end());
+  std::sort(points.begin(), points.end(), [](const Point2D& a, const Point2D& b) {
+    return std::pair(a.x, a.z) < std::pair(b.x, b.z);
+  });
+  points.erase(std::unique(points.begin(), points.end()), points.end());
+  return points;
+}
+
+std::vector<Point2D> allGeophones(const TomoDocument& document) {
+  std::vector<Point2D> points;
+  for (const auto& string : document.goephonesStringSet) {
+    points.insert(points.end(), string.begin(), string.end());
+  }
+  return eachPlaceOnce(std::move(points));
+}
+
+std::vector<Point2D> surfaceLine(const Grid& grid, double xOffset) {
+  const GridGeometry& geometry = grid.geometry();
+  std::vector<Point2D> line;
+  line.reserve(geometry.lineNodeCount());
+  for (std::uint32_t i = 0; i < geometry.lineNodeCount(); ++i) {
+    line.push_back({geometry.lineX(i) - xOffset, -geometry.lineZ(0, i)});
+  }
+  return line;
+}
+
+std::vector<std::vector<Point2D>> rayLines(const TomoDocument& document) {
+  const GridGeometry& geometry = document.grid->geometry();
+  std::vector<std::vector<Point2D>> lines;
+  lines.reserve(document.rays.size());
+  for (const auto& ray : document.rays) {
+    std::vector<Point2D> line;
+    line.reserve(ray.size());
+    for (const std::uint32_t node : ray) {
+      // A project may bring rays of another grid.
+      if (node >= geometry.nodeCount()) continue;
+      line.push_back({geometry.nodeX(node) - document.xOffset, -geometry.nodeZ(node)});
+    }
+    if (line.size() >= 2) lines.push_back(std::move(line));
+  }
+  return lines;
+}
+
+std::vector<Point2D> coverageCurve(const TomoDocument& document) {
+  std::vector<Point2D> curve;
+  if (!document.coverageSpline || document.coverageSpline->npts() < 2) return curve;
+  const Splines::BesselSpline spline = *document.coverageSpline;  // evaluation writes its cache
+  const double first = spline.X().front();
+  const double last = spline.X().back();
+  const double step = document.grid->aLato() / 4.0;
+  const auto pieces = static_cast<std::uint32_t>(
+      std::clamp((last - first) / step, 1.0, 4.0 * document.grid->col()));
+  for (std::uint32_t i = 0; i <= pieces; ++i) {
+    const double x = i == pieces ? last : first + (last - first) * i / pieces;
+    const Point2D point{x - document.xOffset, -spline(x)};
+    if (std::isfinite(point.z)) curve.push_back(point);
+  }
+  return curve;
+}
+
+Status checkRange(const std::optional<ValueRange>& range) {
+  if (!range) return {};
+  if (!std::isfinite(range->min) || !std::isfinite(range->max) || !(range->span() > 0.0)) {
+    return Status::failure(
+        "The value range of the section is empty: its maximum must be greater than its minimum.");
+  }
+  return {};
+}
+
+template <typename Less>
+Point2D extreme(const SectionScene& scene, double start, Less better) {
+  Point2D corner{start, start};
+  const auto take = [&corner, better](const Point2D& p) {
+    if (better(p.x, corner.x)) corner.x = p.x;
+    if (better(p.z, corner.z)) corner.z = p.z;
+  };
+  const SectionMesh& mesh = scene.mesh;
+  for (std::uint32_t row = 0; row < mesh.rows; ++row) {
+    for (std::uint32_t column = 0; column < mesh.columns; ++column) {
+      if (!mesh.isDrawn(row, column)) continue;
+      take(mesh.corners[mesh.corner(row, column)]);
+      take(mesh.corners[mesh.corner(row, column + 1)]);
+      take(mesh.corners[mesh.corner(row + 1, column)]);
+      take(mesh.corners[mesh.corner(row + 1, column + 1)]);
+    }
+  }
+  for (const Point2D& p : scene.geophones) take(p);
+  for (const Point2D& p : scene.shots) take(p);
+  return corner;
+}
+
+}  // namespace
+
+Point2D SectionScene::lowerLeft() const {
+  return extreme(*this, kInfinity, std::less<double>());
+}
+
+Point2D SectionScene::upperRight() const {
+  return extreme(*this, -kInfinity, std::greater<double>());
+}
+
+Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions& options,
+                         SectionScene& out) {
+  if (!document.grid || document.grid->cellCount() == 0) {
+    return Status::failure("There is no section to draw: the survey has no grid yet. Build one.");
+  }
+  if (Status status = checkRange(options.range); !status.ok()) return status;
+
+  SectionScene scene;
+  scene.title = document.title;
+  scene.quantity = options.quantity;
+  scene.mesh = sectionMesh(*document.grid, document.xOffset);
+  scene.cellValues = valuesOf(document, options.quantity);
+  scene.dataRange = drawnRange(scene.mesh, scene.cellValues);
+  if (scene.dataRange.min > scene.dataRange.max) {
+    return Status::failure("There is no section to draw: no cell that is shown has a value for \"" +
+                           quantityName(options.quantity) + "\".");
+  }
+  scene.range = options.range ? *options.range : niceRange(scene.dataRange);
+  scene.cornerValues = cornerMeans(scene.mesh, scene.cellValues);
+
+  scene.contourLevels = options.contourValues;
+  for (const double value : equallySpacedValues(scene.range, options.equallySpacedContours)) {
+    scene.contourLevels.push_back(value);
+  }
+  std::sort(scene.contourLevels.begin(), scene.contourLevels.end());
+  scene.contours = contourLines(scene.mesh, scene.cornerValues, scene.contourLevels);
+
+  if (options.rays) scene.rays = rayLines(document);
+  if (options.coverageLimit) scene.coverageLimit = coverageCurve(document);
+  scene.surface = surfaceLine(*document.grid, document.xOffset);
+  scene.geophones = allGeophones(document);
+  scene.shots = eachPlaceOnce(document.shotPoints());
+  if (document.hasTomographicInfo) scene.rmsPercent = document.RMSE_tomography;
+  out = std::move(scene);
+  return {};
+}
+
+std::string quantityName(SectionQuantity quantity) {
+  switch (quantity) {
+    case SectionQuantity::kVerticalGradient:
+      return "Vertical gradient of velocity";
+    case SectionQuantity::kLaplacian:
+      return "Laplacian of velocity";
+    case SectionQuantity::kInformationDensity:
+      return "Information density";
+    case SectionQuantity::kVelocity:
+      break;
+  }
+  return "Velocity";
+}
+
+std::string quantityUnit(SectionQuantity quantity) {
+  switch (quantity) {
+    case SectionQuantity::kVerticalGradient:
+      return "1/s";
+    case SectionQuantity::kLaplacian:
+      return "1/(m\xC2\xB7s)";
+    case SectionQuantity::kInformationDensity:
+      return "";
+    case SectionQuantity::kVelocity:
+      break;
+  }
+  return "m/s";
+}
+
+ValueRange niceRange(const ValueRange& range) {
+  // A range narrower than rounding errors of its values is one value.
+  const double size = std::max(std::abs(range.min), std::abs(range.max));
+  ValueRange wide = range;
+  if (!(range.span() > 1e-9 * size)) {
+    const double margin = size > 0.0 ? 0.05 * size : 1.0;
+    wide = {range.min - margin, range.max + margin};
+  }
+  const double rough = wide.span() / 10.0;
+  const double power = std::pow(10.0, std::floor(std::log10(rough)));
+  double step = 10.0 * power;
+  for (const double factor : {1.0, 2.0, 5.0}) {
+    if (rough <= factor * power * (1.0 + 1e-9)) {
+      step = factor * power;
+      break;
+    }
+  }
+  // An end that is a multiple but for rounding stays where it is.
+  return {std::floor(wide.min / step + 1e-6) * step, std::ceil(wide.max / step - 1e-6) * step};
+}
+
+}  // namespace talvesk

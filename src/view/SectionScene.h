@@ -1,0 +1,74 @@
+#pragma once
+
+#include "base/Point2D.h"
+#include "base/Status.h"
+#include "view/ColorPalette.h"
+#include "view/ContourLines.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace talvesk {
+
+class TomoDocument;
+
+/// The quantity that colours the cells of a section.
+enum class SectionQuantity {
+  kVelocity,            ///< m/s
+  kVerticalGradient,    ///< dv/dz over depth, 1/s, positive where velocity grows downward
+  kLaplacian,           ///< second derivatives of velocity along the line and over depth, 1/(m s)
+  kInformationDensity,  ///< of the last inversion, as it comes
+};
+
+struct SectionSceneOptions {
+  SectionQuantity quantity = SectionQuantity::kVelocity;
+  std::optional<ValueRange>
+      range;  ///< to colour and contour; default: niceRange() of what is drawn
+  std::vector<double> contourValues;  ///< drawn in addition to the equally spaced ones
+  int equallySpacedContours = 0;      ///< how many values divide the range into equal parts
+  bool rays = false;
+  bool coverageLimit = true;
+};
+
+/// What a section shows, without a word on how it is drawn: every program and every output takes
+/// its picture from here, so that screen, file and report agree. All positions are survey
+/// positions: x along the line as surveyed, elevation positive upward, metres.
+struct SectionScene {
+  std::string title;
+  SectionQuantity quantity = SectionQuantity::kVelocity;
+  SectionMesh mesh;
+  std::vector<double> cellValues;    ///< per cell, drawn or not; not a number where undefined
+  std::vector<double> cornerValues;  ///< cornerMeans() of them
+  ValueRange dataRange;              ///< of the drawn cells
+  ValueRange range;                  ///< to colour with
+  std::vector<double> contourLevels;
+  std::vector<ContourLine> contours;
+  std::vector<std::vector<Point2D>> rays;  ///< empty when not asked for
+  std::vector<Point2D> coverageLimit;      ///< a curve; empty when there is none
+  std::vector<Point2D> surface;            ///< top line of the grid, left to right
+  std::vector<Point2D> geophones;          ///< of all strings, ascending x, each place once
+  std::vector<Point2D> shots;              ///< of all records, ascending x, each place once
+  double rmsPercent = -1.0;                ///< misfit of the last inversion; negative: none
+
+  /// Lower left and upper right of the drawn cells, geophones and shots.
+  Point2D lowerLeft() const;
+  Point2D upperRight() const;
+};
+
+/// Puts together what the section of a document shows. Fails, with `out` unchanged, when the
+/// document has no grid, when no cell is drawn or has a value, and for a range that is empty or not
+/// finite.
+Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions& options,
+                         SectionScene& out);
+
+/// "Velocity", "Vertical gradient of velocity", ...
+std::string quantityName(SectionQuantity quantity);
+/// "m/s", "1/s", ...; empty for a quantity without a unit.
+std::string quantityUnit(SectionQuantity quantity);
+
+/// The smallest range around `range` whose ends are multiples of 1, 2 or 5 times a power of ten, in
+/// steps of about a tenth of it. Never empty: a single value gets a range around it.
+ValueRange niceRange(const ValueRange& range);
+
+}  // namespace talvesk
