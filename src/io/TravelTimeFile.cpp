@@ -1,0 +1,152 @@
+#include "io/TravelTimeFile.h"
+
+#include "base/AtomicFile.h"
+#include "base/Console.h"
+#include "io/CsvPickFile.h"
+#include "io/OtteFile.h"
+#include "io/PickReader.h"
+#include "io/PickTableFile.h"
+#include "io/TxCurveFile.h"
+
+#include <cmath>
+#include <ostream>
+#include <string_view>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+/// A survey's picks take kilobytes; what is larger is no travel-time file.
+constexpr std::size_t kLargestFile = std::size_t{256} << 20;
+
+enum class Format { kNone, kOtte, kTxCurves, kPickTable, kCsv };
+
+Format formatOf(std::string_view path) {
+  const std::size_t dot = path.find_last_of("./\\");
+  if (dot == std::string_view::npos || path[dot] != '.') return Format::kNone;
+  const std::string_view suffix = path.substr(dot);
+  if (suffix == ".otte") return Format::kOtte;
+  if (suffix == ".txt") return Format::kTxCurves;
+  if (suffix == ".xyz" || suffix == ".XYZ") return Format::kPickTable;
+  if (suffix == ".csv" || suffix == ".CSV") return Format::kCsv;
+  return Format::kNone;
+}
+
+Status unknownFormat(const std::string& path) {
+  const std::string message = "Invalid input TT file : " + path;
+  console::error() << message << std::endl;
+  return Status::failure(message + " (its suffix is none of .otte, .txt, .xyz, .csv)");
+}
+
+std::optional<Refusal> readOtteAndTellVersion(std::string_view bytes, TravelTimeData& data) {
+  std::string version;
+  auto refusal = readOtte(bytes, version, data);
+  if (!version.empty()) console::out() << version << std::endl;
+  return refusal;
+}
+
+std::optional<Refusal> readAs(Format format, std::string_view bytes, TravelTimeData& data) {
+  switch (format) {
+    case Format::kOtte:
+      return readOtteAndTellVersion(bytes, data);
+    case Format::kTxCurves:
+      return readTxCurves(bytes, data);
+    case Format::kPickTable:
+      return readPickTable(bytes, data);
+    case Format::kCsv:
+    case Format::kNone:
+      break;
+  }
+  return readCsvPicks(bytes, data);
+}
+
+Status checkPositions(const TomoDocument& document) {
+  const auto finite = [](const Point2D& p) { return std::isfinite(p.x) && std::isfinite(p.z); };
+  for (std::size_t s = 0; s < document.goephonesStringSet.size(); ++s) {
+    for (const Point2D& geophone : document.goephonesStringSet[s]) {
+      if (!finite(geophone)) {
+        return Status::failure("a geophone of string " + std::to_string(s) +
+                               " has no finite position; edit the geometry first");
+      }
+    }
+  }
+  for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
+    if (!finite(document.ttArray[i].shotPos2d)) {
+      return Status::failure("shot " + std::to_string(i) +
+                             " has no finite position; edit the geometry first");
+    }
+  }
+  return {};
+}
+
+/// The format does not say where a string ends, so that some surveys do not come back as they were.
+void warnOfWhatIsLost(const std::string& path, const std::string& text,
+                      const TomoDocument& document) {
+  std::string version;
+  TravelTimeData restored;
+  const auto refusal = readOtte(text, version, restored);
+  std::string loss;
+  if (refusal) loss = "it cannot be read back: " + refusal->reason;
+  for (std::size_t i = 0; loss.empty() && i < restored.strings.size(); ++i) {
+    if (restored.strings[i].size() != document.goephonesStringSet[i].size()) {
+      loss = "read back, string " + std::to_string(i) + " will have another number of geophones";
+    }
+  }
+  if (!loss.empty()) console::error() << "Warning: " << path << ": " << loss << std::endl;
+}
+
+}  // namespace
+
+Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelTimeData& data) {
+  const Format format = formatOf(path);
+  if (format == Format::kNone) return unknownFormat(path);
+  TravelTimeData read;
+  if (const auto refusal = readAs(format, bytes, read)) {
+    const std::string message =
+        path + ", line " + std::to_string(refusal->line) + ": " + refusal->reason;
+    const bool ownText = !refusal->consoleText.empty();
+    console::error() << (ownText ? refusal->consoleText : message) << std::endl;
+    return Status::failure(message);
+  }
+  for (const std::string& warning : read.warnings) {
+    console::error() << "Warning: " << path << ": " << warning << std::endl;
+  }
+  data = std::move(read);
+  return {};
+}
+
+Status readTravelTimes(const std::string& path, TravelTimeData& data) {
+  if (formatOf(path) == Format::kNone) return unknownFormat(path);
+  std::string bytes;
+  if (const Status opened = readWholeFile(path, bytes, kLargestFile); !opened.ok()) {
+    const std::string message = "File " + path + " cannot be open.";
+    console::error() << message << std::endl;
+    return Status::failure(message + " " + opened.message());
+  }
+  return parseTravelTimes(bytes, path, data);
+}
+
+Status loadTravelTimes(const std::string& path, TomoDocument& document) {
+  TravelTimeData data;
+  if (Status read = readTravelTimes(path, data); !read.ok()) return read;
+  Status imported = importTravelTimes(std::move(data), document);
+  if (imported.ok()) return imported;
+  const std::string message = path + ": " + imported.message();
+  console::error() << message << std::endl;
+  return Status::failure(message);
+}
+
+Status writeTravelTimes(const std::string& path, const TomoDocument& document) {
+  if (const Status positions = checkPositions(document); !positions.ok()) {
+    const std::string message = "Cannot write " + path + ": " + positions.message();
+    console::error() << message << std::endl;
+    return Status::failure(message);
+  }
+  const std::string text = formatOtte(document);
+  warnOfWhatIsLost(path, text, document);
+  Status written = writeFileAtomically(path, text);
+  if (!written.ok()) console::error() << written.message() << std::endl;
+  return written;
+}
+
+}  // namespace talvesk

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "base/Point2D.h"
 #include "base/Status.h"
 #include "model/TomoDocument.h"
 #include "model/TravelTime.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace talvesk {
 
@@ -22,15 +23,22 @@ struct TravelTimeData {
 /// also go to the console's error stream.
 Status readTravelTimes(const std::string& path, TravelTimeData& data);
 
-/// Puts what was read into the document, or leaves the document as it was. A document with trace sets
-/// keeps them and takes the times by trace set, provided that shots and traces agree in number; any
-/// other gets new strings, shots and records, and loses its grid and results.
+/// The same from the bytes of a file; its name chooses the format and stands in the messages.
+/// `data` is as before when that fails.
+Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelTimeData& data);
+
+/// Puts what was read into the document, or leaves the document as it was. A document with trace
+/// sets keeps them and takes times and positions by trace set, provided that shots and traces agree
+/// in number; its grid and results stay unless a position changed. Any other document gets new
+/// strings, shots and records, and loses its file names, starting model, grid and results.
 Status importTravelTimes(TravelTimeData data, TomoDocument& document);
 
 /// readTravelTimes, then importTravelTimes. Returns 0 or 1; the message is the status's.
 Status loadTravelTimes(const std::string& path, TomoDocument& document);
 
-/// Writes the exchange format (".otte"), six significant digits, whole or not at all.
+/// Writes the exchange format (".otte"), six significant digits, whole or not at all. Positions
+/// must be finite; a time that is not is written as no pick. A survey whose strings the format
+/// cannot tell apart is written with a warning on the console.
 Status writeTravelTimes(const std::string& path, const TomoDocument& document);
 
 }  // namespace talvesk

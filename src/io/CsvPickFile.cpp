@@ -1,0 +1,135 @@
+#include "io/CsvPickFile.h"
+
+#include <string>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr std::size_t kLineLimit = 256;
+constexpr std::size_t kLeadingFields = 2;  ///< unused above the distance and elevation of the shots
+constexpr double kMillisecondsPerSecond = 1000.0;
+
+class CsvPickReader : private PickReader {
+ public:
+  explicit CsvPickReader(std::string_view bytes) : PickReader(bytes) {}
+
+  std::optional<Refusal> read(TravelTimeData& data) {
+    const bool whole = readReceivers() && readShots();
+    return finish(whole, "csv", data);
+  }
+
+ private:
+  /// An empty line when the file has ended.
+  bool readLine(std::string_view& line) {
+    line = {};
+    mText.nextLine(line);
+    return line.size() <= kLineLimit ||
+           refuse("the line holds " + std::to_string(line.size()) +
+                  " characters, more than the limit of " + std::to_string(kLineLimit) +
+                  "; split the table into one file per spread");
+  }
+
+  bool readReceivers() {
+    std::vector<double> distances;
+    std::vector<double> elevations;
+    if (!readReceiverRow("distance", distances)) return false;
+    if (distances.empty()) return refuse("the first line names no receiver");
+    if (!readReceiverRow("elevation", elevations)) return false;
+    if (elevations.size() > distances.size()) {
+      return refuse("there are " + counted(elevations.size(), "elevation") + " for " +
+                    counted(distances.size(), "receiver"));
+    }
+    if (elevations.size() < distances.size()) {
+      warn(counted(distances.size() - elevations.size(), "receiver") +
+           " without an elevation were taken to lie at 0");
+      elevations.resize(distances.size(), 0.0);
+    }
+    auto& geophones = mData.strings.emplace_back();
+    for (std::size_t i = 0; i < distances.size(); ++i) {
+      geophones.push_back({distances[i], elevations[i]});
+    }
+    return true;
+  }
+
+  bool readReceiverRow(const std::string& what, std::vector<double>& row) {
+    std::string_view line;
+    if (!readLine(line)) return false;
+    FieldCursor fields(line, ';');
+    for (std::string_view field; fields.next(field);) {
+      if (fields.count() <= kLeadingFields) continue;
+      if (!readField("receiver " + what, field, row.emplace_back())) return false;
+    }
+    return true;
+  }
+
+  bool readShots() {
+    for (;;) {
+      std::string_view line;
+      if (!readLine(line)) return false;
+      if (!TextCursor(line).skipToText()) break;
+      if (!readShot(line)) return false;
+    }
+    warnOfRest();
+    return true;
+  }
+
+  bool readShot(std::string_view line) {
+    TravelTime record;
+    record.traceSetID = static_cast<std::int32_t>(mData.records.size());
+    const std::size_t receivers = mData.strings.front().size();
+    FieldCursor fields(line, ';');
+    for (std::string_view field; fields.next(field);) {
+      double value = 0.0;
+      if (!readField(nameOf(fields.count()), field, value)) return false;
+      if (fields.count() == 1) {
+        record.shotPos2d.x = value;
+      } else if (fields.count() == kLeadingFields) {
+        record.shotPos2d.z = value;
+      } else {
+        record.ttMisurati.push_back(value / kMillisecondsPerSecond);
+      }
+    }
+    if (fields.count() < kLeadingFields) return refuse("the shot has no elevation");
+    if (record.ttMisurati.size() > receivers) {
+      return refuse("there are " + counted(record.ttMisurati.size(), "time") + " for " +
+                    counted(receivers, "receiver"));
+    }
+    if (record.ttMisurati.size() < receivers) {
+      warn("line " + std::to_string(mText.line()) + ": only " +
+           counted(record.ttMisurati.size(), "time") + " for " + counted(receivers, "receiver"));
+    }
+    record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+    mData.records.push_back(std::move(record));
+    return true;
+  }
+
+  static const char* nameOf(std::size_t field) {
+    if (field == 1) return "shot distance";
+    return field == kLeadingFields ? "shot elevation" : "first-break time";
+  }
+
+  /// The conversion's faults go by the names that the users of this format know.
+  bool readField(const std::string& what, std::string_view field, double& value) {
+    const std::string details = "the " + what + " " + quoted(field);
+    switch (convert(field, value)) {
+      case Fault::kNone:
+        return true;
+      case Fault::kNotANumber:
+        return refuseWith("invalid stod argument", details);
+      case Fault::kOutOfRange:
+        return refuseWith("stod argument out of range", details);
+      case Fault::kNotFinite:
+        break;
+    }
+    return refuseNumber(what, field, Fault::kNotFinite);
+  }
+};
+
+}  // namespace
+
+std::optional<Refusal> readCsvPicks(std::string_view bytes, TravelTimeData& data) {
+  return CsvPickReader(bytes).read(data);
+}
+
+}  // namespace talvesk

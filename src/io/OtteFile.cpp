@@ -1,0 +1,247 @@
+#include "io/OtteFile.h"
+
+#include <algorithm>
+#include <cmath>
+#include <locale>
+#include <sstream>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr int kFormatConstant = 2;
+constexpr double kMillisecondsPerSecond = 1000.0;
+
+class OtteReader : private PickReader {
+ public:
+  explicit OtteReader(std::string_view bytes) : PickReader(bytes) {}
+
+  std::optional<Refusal> read(std::string& version, TravelTimeData& data) {
+    const bool whole = readHead(version) && readPositions("geophone", mGeophones) &&
+                       checkStringCount() && readPositions("shot", mShots) && readRecords() &&
+                       makeStrings();
+    return finish(whole, "otte", data);
+  }
+
+ private:
+  bool readHead(std::string& version) {
+    std::string_view line;
+    if (!mText.nextLine(line) || line != "otte") {
+      return refuse("the first line is " + quoted(line) + " where \"otte\" must stand");
+    }
+    std::string_view word;
+    if (!mText.nextWord(word)) return refuse("the format version is missing");
+    version = quotable(word);
+    if (word != "1.0") warn("the format version " + quoted(word) + " was read as \"1.0\"");
+    int constant = 0;
+    if (!readCount("format constant 2", constant)) return false;
+    if (constant != kFormatConstant) warn("line 3 holds " + std::to_string(constant) + ", not 2");
+    if (!readCount("number of geophone strings", mStringCount)) return false;
+    mText.nextLine(line);
+    return true;
+  }
+
+  bool readCount(std::string_view what, int& value) {
+    std::string_view word;
+    if (!mText.nextWord(word)) return refuse("the " + std::string(what) + " is missing");
+    return readWholeInt(what, word, value);
+  }
+
+  bool readRow(const std::string& what, std::vector<double>& row) {
+    if (!mText.nextLine(mLastRow)) return refuse("the line of each " + what + " is missing");
+    FieldCursor fields(mLastRow, ';');
+    for (std::string_view field; fields.next(field);) {
+      double value = 0.0;
+      if (!readNumber(what, field, value)) return false;
+      row.push_back(value);
+    }
+    return true;
+  }
+
+  bool readPositions(const std::string& of, std::vector<Point2D>& points) {
+    std::vector<double> distances;
+    std::vector<double> elevations;
+    if (!readRow(of + " distance", distances) || !readRow(of + " elevation", elevations)) {
+      return false;
+    }
+    if (distances.size() != elevations.size()) {
+      return refuse("there are " + counted(distances.size(), of + " distance") + " but " +
+                    counted(elevations.size(), "elevation"));
+    }
+    points.reserve(distances.size());
+    for (std::size_t i = 0; i < distances.size(); ++i) {
+      points.push_back({distances[i], elevations[i]});
+    }
+    return true;
+  }
+
+  /// Before anything is sized by the number of strings: a string cannot be without a geophone, but
+  /// for the only one of a survey whose geophones are not known yet.
+  bool checkStringCount() {
+    const std::size_t most = std::max<std::size_t>(mGeophones.size(), 1);
+    const bool sane = mStringCount >= 0 && static_cast<std::size_t>(mStringCount) <= most &&
+                      (mStringCount > 0 || mGeophones.empty());
+    return sane || refuse("the file names " + std::to_string(mStringCount) + " strings for " +
+                          counted(mGeophones.size(), "geophone"));
+  }
+
+  bool readRecords() {
+    while (mText.skipToText()) {
+      if (mData.records.size() == mShots.size()) {
+        return refuse("there are more records than the " + counted(mShots.size(), "shot position"));
+      }
+      if (!readRecord()) return false;
+    }
+    if (mData.records.size() == mShots.size()) return true;
+    return refuse("the file ends after " + counted(mData.records.size(), "record") + " of " +
+                  std::to_string(mShots.size()));
+  }
+
+  bool readRecord() {
+    TravelTime record;
+    record.shotPos2d = mShots[mData.records.size()];
+    if (!readCount("string of the record", record.indexStesa)) return false;
+    if (record.indexStesa < 0 || record.indexStesa >= mStringCount) {
+      return refuse("the record names string " + std::to_string(record.indexStesa) + " of " +
+                    std::to_string(mStringCount));
+    }
+    if (!readCount("trace set of the record", record.traceSetID)) return false;
+    if (record.traceSetID < 0) {
+      return refuse("the trace set " + std::to_string(record.traceSetID) + " is negative");
+    }
+    std::string_view line;
+    mText.nextLine(line);
+    if (!readRow("time", record.ttMisurati)) return false;
+    warnOfCut();
+    if (record.ttMisurati.size() > mGeophones.size()) {
+      return refuse("there are " + counted(record.ttMisurati.size(), "time") + " for " +
+                    counted(mGeophones.size(), "geophone"));
+    }
+    for (double& time : record.ttMisurati) time /= kMillisecondsPerSecond;
+    record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+    mData.records.push_back(std::move(record));
+    return true;
+  }
+
+  /// The bytes that a broken copy lost may be the last digits of the last time.
+  void warnOfCut() {
+    if (mText.atEnd() && !mLastRow.empty() && mLastRow.back() != ';') {
+      warn("the last line does not end in \";\": the file may be cut short");
+    }
+  }
+
+  /// Divides the row of geophones among the strings.
+  bool makeStrings() {
+    std::vector<std::size_t> sizes(static_cast<std::size_t>(mStringCount), 0);
+    if (!sizeStrings(sizes)) return false;
+    std::size_t first = 0;
+    for (const std::size_t size : sizes) {
+      const auto begin = mGeophones.begin() + static_cast<std::ptrdiff_t>(first);
+      mData.strings.emplace_back(begin, begin + static_cast<std::ptrdiff_t>(size));
+      first += size;
+    }
+    warnOfShortRecords();
+    return true;
+  }
+
+  bool sizeStrings(std::vector<std::size_t>& sizes) {
+    if (sizes.size() == 1) {
+      sizes[0] = mGeophones.size();
+      return true;
+    }
+    std::vector<bool> named(sizes.size(), false);
+    for (const TravelTime& record : mData.records) {
+      const auto string = static_cast<std::size_t>(record.indexStesa);
+      named[string] = true;
+      sizes[string] = std::max(sizes[string], record.ttMisurati.size());
+    }
+    std::size_t claimed = 0;
+    for (const std::size_t size : sizes) claimed += size;
+    if (claimed > mGeophones.size()) {
+      return refuse("the records need " + counted(claimed, "geophone") + " in " +
+                    counted(sizes.size(), "string") + ", the file holds " +
+                    std::to_string(mGeophones.size()));
+    }
+    return shareRest(mGeophones.size() - claimed, named, sizes);
+  }
+
+  bool shareRest(std::size_t rest, const std::vector<bool>& named,
+                 std::vector<std::size_t>& sizes) {
+    if (rest == 0) return true;
+    const auto unnamed = static_cast<std::size_t>(std::count(named.begin(), named.end(), false));
+    if (unnamed == 0) {
+      return refuse("no string claims the last " + counted(rest, "geophone") +
+                    ": a record of each string must hold one time per geophone");
+    }
+    std::size_t oneMore = rest % unnamed;
+    if (oneMore != 0) {
+      warn("the strings without a record do not share " + counted(rest, "geophone") +
+           " equally; the first ones took one more");
+    }
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+      if (named[i]) continue;
+      sizes[i] = rest / unnamed + (oneMore > 0 ? 1 : 0);
+      if (oneMore > 0) --oneMore;
+    }
+    return true;
+  }
+
+  void warnOfShortRecords() {
+    for (std::size_t i = 0; i < mData.records.size(); ++i) {
+      const TravelTime& record = mData.records[i];
+      const std::size_t size = mData.strings[static_cast<std::size_t>(record.indexStesa)].size();
+      if (record.ttMisurati.size() == size) continue;
+      warn("record " + std::to_string(i) + " holds " + counted(record.ttMisurati.size(), "time") +
+           " for " + counted(size, "geophone"));
+    }
+  }
+
+  std::string_view mLastRow;
+  int mStringCount = 0;
+  std::vector<Point2D> mGeophones;
+  std::vector<Point2D> mShots;
+};
+
+/// What the reader takes back: it refuses numbers below the range of normal doubles.
+double readable(double value) {
+  return std::fpclassify(value) == FP_SUBNORMAL ? 0.0 : value;
+}
+
+void printRow(std::ostream& out, const std::vector<Point2D>& points, double Point2D::*coordinate) {
+  for (const Point2D& point : points) out << readable(point.*coordinate) << ';';
+  out << '\n';
+}
+
+}  // namespace
+
+std::optional<Refusal> readOtte(std::string_view bytes, std::string& version,
+                                TravelTimeData& data) {
+  return OtteReader(bytes).read(version, data);
+}
+
+std::string formatOtte(const TomoDocument& document) {
+  std::ostringstream out;
+  out.imbue(std::locale::classic());
+  std::vector<Point2D> geophones;
+  for (const auto& string : document.goephonesStringSet) {
+    geophones.insert(geophones.end(), string.begin(), string.end());
+  }
+  out << "otte\n1.0\n" << kFormatConstant << '\n' << document.goephonesStringSet.size() << '\n';
+  printRow(out, geophones, &Point2D::x);
+  printRow(out, geophones, &Point2D::z);
+  std::vector<Point2D> shots;
+  for (const TravelTime& record : document.ttArray) shots.push_back(record.shotPos2d);
+  printRow(out, shots, &Point2D::x);
+  printRow(out, shots, &Point2D::z);
+  for (const TravelTime& record : document.ttArray) {
+    out << record.indexStesa << '\n' << record.traceSetID << '\n';
+    for (const double seconds : record.ttMisurati) {
+      const double time = seconds * kMillisecondsPerSecond;
+      out << (std::isfinite(time) ? readable(time) : kNoTime * kMillisecondsPerSecond) << ';';
+    }
+    out << '\n';
+  }
+  return out.str();
+}
+
+}  // namespace talvesk

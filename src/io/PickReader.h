@@ -1,0 +1,65 @@
+#pragma once
+
+#include "io/TextCursor.h"
+#include "io/TravelTimeFile.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace talvesk {
+
+/// Why a reader gave a file up.
+struct Refusal {
+  std::size_t line = 0;  ///< from 1
+  std::string reason;    ///< what is wrong, without file and line
+  /// What the console is told instead, where the format has a message of its own; empty: the
+  /// reason, headed by file and line.
+  std::string consoleText;
+};
+
+/// Text of a file for use in a message: cut to a readable length, without control characters.
+std::string quotable(std::string_view text);
+inline std::string quoted(std::string_view text) {
+  return '"' + quotable(text) + '"';
+}
+
+/// What the readers of travel-time files share: a cursor over the bytes, what was read so far and
+/// the first refusal. The steps of a reader return false once the file is refused.
+class PickReader {
+ public:
+  explicit PickReader(std::string_view bytes);
+
+ protected:
+  enum class Fault { kNone, kNotANumber, kOutOfRange, kNotFinite };
+  /// A finite number at the front of the field, by the rules of the standard conversion.
+  static Fault convert(std::string_view field, double& value);
+
+  bool refuse(std::string reason);
+  /// Refuses with a message of the format itself.
+  bool refuseWith(const std::string& message, const std::string& details = {});
+  bool refuseNumber(std::string_view what, std::string_view field, Fault fault);
+
+  /// \param what names the number in messages ("geophone distance")
+  bool readNumber(std::string_view what, std::string_view field, double& value);
+  /// A decimal integer that fills the whole word.
+  bool readWholeInt(std::string_view what, std::string_view word, int& value);
+
+  /// Notes something repaired or ignored; a file can cause a bounded number of notes only.
+  void warn(const std::string& text);
+  void warnOfRest();  ///< when text follows after all that the format knows
+
+  /// Hands the data out, or says why not.
+  std::optional<Refusal> finish(bool read, std::string_view format, TravelTimeData& data);
+
+  static std::string counted(std::size_t count, const std::string& noun);  ///< "3 shots"
+
+  TextCursor mText;
+  TravelTimeData mData;
+
+ private:
+  std::optional<Refusal> mRefusal;
+};
+
+}  // namespace talvesk

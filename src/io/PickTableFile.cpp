@@ -1,0 +1,181 @@
+#include "io/PickTableFile.h"
+
+#include "base/TextNumber.h"
+
+#include <map>
+#include <string>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr double kMillisecondsPerSecond = 1000.0;
+
+/// Position of a shot or receiver, put together from two sections.
+struct Entry {
+  double distance = 0.0;
+  double elevation = 0.0;
+  bool complete = false;  ///< the second section named it
+};
+using Table = std::map<int, Entry>;
+
+/// The two lines of a section.
+struct Section {
+  std::vector<int> numbers;
+  std::vector<double> values;
+  std::string_view numberLine;
+};
+
+class PickTableReader : private PickReader {
+ public:
+  explicit PickTableReader(std::string_view bytes) : PickReader(bytes) {}
+
+  std::optional<Refusal> read(TravelTimeData& data) {
+    const bool whole = readTables() && readTimes();
+    if (whole) warnOfRest();
+    return finish(whole, "xyz", data);
+  }
+
+ private:
+  bool readTables() {
+    Section section;
+    if (!readSection("Shot number, Shot elevation", section)) return false;
+    open(section, &Entry::elevation, mShots);
+    if (!readSection("Shot number, Shot distance", section) ||
+        !complete(section, &Entry::distance, mShots, "Invalid shot ids : ") ||
+        !allComplete(mShots, "shot", "distance")) {
+      return false;
+    }
+    if (!readSection("Receiver number, receiver distance", section)) return false;
+    open(section, &Entry::distance, mReceivers);
+    if (!readSection("Receiver number, receiver elevation", section)) return false;
+    if (section.numbers.size() != mReceivers.size()) {
+      return refuseWith("Invalid phone list : " + quotable(section.numberLine),
+                        counted(section.numbers.size(), "number") + " for " +
+                            counted(mReceivers.size(), "receiver"));
+    }
+    return complete(section, &Entry::elevation, mReceivers, "Invalid phone ids : ") &&
+           allComplete(mReceivers, "receiver", "elevation");
+  }
+
+  bool readHeader(std::string_view header) {
+    std::string_view line;
+    mText.nextLine(line);
+    if (line == header) return true;
+    return refuseWith("Invalid header : " + quotable(line), quoted(header) + " must stand here");
+  }
+
+  bool readSection(std::string_view header, Section& section) {
+    section = {};
+    if (!readHeader(header)) return false;
+    mText.nextLine(section.numberLine);
+    FieldCursor numbers(section.numberLine, ' ');
+    for (std::string_view field; numbers.next(field);) {
+      int number = 0;
+      const NumberError error = parseInt(field, number);
+      if (error == NumberError::kOutOfRange) {
+        return refuseNumber("number", field, Fault::kOutOfRange);
+      }
+      if (error == NumberError::kNotANumber) warnOfZero(field);
+      section.numbers.push_back(number);
+    }
+    std::string_view line;
+    mText.nextLine(line);
+    if (!readValues(line, section.values)) return false;
+    if (section.values.size() == section.numbers.size()) return true;
+    return refuseWith("Invalid match : " + quotable(line),
+                      counted(section.values.size(), "value") + " for " +
+                          counted(section.numbers.size(), "number"));
+  }
+
+  bool readValues(std::string_view line, std::vector<double>& values) {
+    FieldCursor fields(line, ' ');
+    for (std::string_view field; fields.next(field);) {
+      double value = 0.0;
+      const Fault fault = convert(field, value);
+      if (fault == Fault::kNotANumber) {
+        warnOfZero(field);
+      } else if (fault != Fault::kNone) {
+        return refuseNumber("value", field, fault);
+      }
+      values.push_back(value);
+    }
+    return true;
+  }
+
+  void warnOfZero(std::string_view field) {
+    warn("line " + std::to_string(mText.line()) + ": " + quoted(field) +
+         " is not a number and was taken as 0");
+  }
+
+  void open(const Section& section, double Entry::*member, Table& table) {
+    for (std::size_t i = 0; i < section.numbers.size(); ++i) {
+      const auto [entry, isNew] = table.try_emplace(section.numbers[i]);
+      entry->second.*member = section.values[i];
+      if (!isNew) {
+        warn("line " + std::to_string(mText.line() - 1) + ": number " +
+             std::to_string(section.numbers[i]) + " is named twice; its last value was taken");
+      }
+    }
+  }
+
+  bool complete(const Section& section, double Entry::*member, Table& table,
+                const std::string& complaint) {
+    for (std::size_t i = 0; i < section.numbers.size(); ++i) {
+      const auto entry = table.find(section.numbers[i]);
+      if (entry == table.end()) {
+        return refuseWith(complaint + quotable(section.numberLine),
+                          "number " + std::to_string(section.numbers[i]) + " is not known");
+      }
+      entry->second.*member = section.values[i];
+      entry->second.complete = true;
+    }
+    return true;
+  }
+
+  bool allComplete(const Table& table, const std::string& owner, const std::string& what) {
+    for (const auto& [number, entry] : table) {
+      if (!entry.complete) {
+        return refuse(owner + " " + std::to_string(number) + " has no " + what);
+      }
+    }
+    return true;
+  }
+
+  bool readTimes() {
+    if (!readHeader("FBP times")) return false;
+    mData.strings.emplace_back();
+    for (const auto& [number, receiver] : mReceivers) {
+      mData.strings.front().push_back({receiver.distance, receiver.elevation});
+    }
+    for (const auto& [number, shot] : mShots) {
+      TravelTime record;
+      record.shotPos2d = {shot.distance, shot.elevation};
+      record.traceSetID = static_cast<std::int32_t>(mData.records.size());
+      std::string_view line;
+      mText.nextLine(line);
+      if (!readValues(line, record.ttMisurati)) return false;
+      if (record.ttMisurati.size() != mReceivers.size()) {
+        return refuseWith("Invalid times : " + quotable(line),
+                          counted(record.ttMisurati.size(), "time") + " of shot " +
+                              std::to_string(number) + " for " +
+                              counted(mReceivers.size(), "receiver"));
+      }
+      for (double& time : record.ttMisurati) time /= kMillisecondsPerSecond;
+      record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+      mData.records.push_back(std::move(record));
+    }
+    return true;
+  }
+
+  Table mShots;
+  Table mReceivers;
+};
+
+}  // namespace
+
+std::optional<Refusal> readPickTable(std::string_view bytes, TravelTimeData& data) {
+  return PickTableReader(bytes).read(data);
+}
+
+}  // namespace talvesk
