@@ -1,0 +1,103 @@
+#include "base/Settings.h"
+
+#include "base/AtomicFile.h"
+#include "base/Console.h"
+
+#include <algorithm>
+#include <exception>
+#include <sstream>
+
+#include <cereal/archives/xml.hpp>
+#include <cereal/types/string.hpp>
+
+namespace talvesk {
+namespace {
+
+constexpr std::size_t kMostBytes = std::size_t{1} << 16;
+// Every nested element costs the XML parser stack, so a file is asked for its number of tags first.
+// Ours has under twenty.
+constexpr std::ptrdiff_t kMostTags = 1000;
+
+/// One value by its name. False, and the value as it was, when the file has no such value.
+bool read(cereal::XMLInputArchive& archive, const char* key, std::string& value) {
+  std::string text;
+  try {
+    archive(cereal::make_nvp(key, text));
+  } catch (const cereal::Exception&) {
+    return false;
+  }
+  value = std::move(text);
+  return true;
+}
+
+/// The archive itself would take any word for false.
+bool read(cereal::XMLInputArchive& archive, const char* key, bool& value) {
+  std::string text;
+  if (!read(archive, key, text)) return false;
+  const bool isTrue = text == "true" || text == "1";
+  if (!isTrue && text != "false" && text != "0") return false;
+  value = isTrue;
+  return true;
+}
+
+/// A value that came with a later version: false unless the file says otherwise.
+void readLater(cereal::XMLInputArchive& archive, const char* key, bool& value,
+               const char* version) {
+  value = false;
+  if (read(archive, key, value)) return;
+  console::out() << "First time running version " << version << ". Some setting where not in. "
+                 << std::endl
+                 << "Unknown settings set to default." << std::endl;
+}
+
+void readStages(cereal::XMLInputArchive& archive, Settings& settings) {
+  bool complete = read(archive, "language", settings.language);
+  complete &= read(archive, "zoomIn", settings.zoomIn);
+  complete &= read(archive, "cutHorizontal", settings.cutHorizontal);
+  complete &= read(archive, "fillWiggle", settings.fillWiggle);
+  complete &= read(archive, "showFiltered", settings.showFiltered);
+  complete &= read(archive, "showAllTraces", settings.showAllTraces);
+  if (!complete) {
+    console::error() << "First time running version 2019.1. Some setting where not in." << std::endl
+                     << "Unknown settings set to default." << std::endl;
+  }
+  // Read a second time on purpose: a file of version 2019.1 may hold it or not, and one that lacks
+  // it is told about version 2020.0 too.
+  readLater(archive, "showAllTraces", settings.showAllTraces, "2020.0");
+  readLater(archive, "savePngHColorbar", settings.savePngHColorbar, "2020.0");
+  readLater(archive, "twoColors", settings.twoColors, "2020.2");
+}
+
+}  // namespace
+
+bool Settings::load() {
+  std::string bytes;
+  if (!readWholeFile(mPath, bytes, kMostBytes).ok()) return false;
+  if (std::count(bytes.begin(), bytes.end(), '<') > kMostTags) return false;
+  try {
+    std::istringstream stream(bytes);
+    cereal::XMLInputArchive archive(stream);
+    Settings found(mPath);
+    readStages(archive, found);
+    *this = std::move(found);
+  } catch (const std::exception&) {
+    return false;
+  }
+  return true;
+}
+
+Status Settings::save() const {
+  std::ostringstream stream;
+  stream.imbue(std::locale::classic());
+  try {
+    cereal::XMLOutputArchive archive(stream);
+    archive(CEREAL_NVP(language), CEREAL_NVP(zoomIn), CEREAL_NVP(cutHorizontal),
+            CEREAL_NVP(fillWiggle), CEREAL_NVP(showFiltered), CEREAL_NVP(showAllTraces),
+            CEREAL_NVP(savePngHColorbar), CEREAL_NVP(twoColors));
+  } catch (const std::exception& error) {  // the archive writes its text as it goes out of scope
+    return Status::failure("Cannot write " + mPath + ": " + error.what());
+  }
+  return writeFileAtomically(mPath, stream.str());
+}
+
+}  // namespace talvesk

@@ -1,0 +1,99 @@
+#include "grid/VelocityLayers.h"
+
+#include "base/TextNumber.h"
+#include "grid/GridBuilder.h"
+
+#include <cmath>
+#include <exception>
+#include <string>
+
+namespace talvesk {
+namespace {
+
+constexpr double kSurfaceVelocity = 300.0;  // m/s
+constexpr double kBottomVelocity = 2500.0;  // m/s
+constexpr double kBottomGap = 0.01;         // metres: keeps a bottom apart from the next top
+
+/// Empty when the velocity is positive and finite in every row, else what is wrong.
+std::string invalidVelocity(const GridSize& size, const Splines::Spline& velocityOfDepth) {
+  for (std::uint32_t row = 0; row < size.righe; ++row) {
+    const double depth = row * size.aLato;
+    const double velocity = velocityOfDepth(depth);
+    if (velocity > 0.0 && std::isfinite(velocity)) continue;
+    return "The layers give a velocity of " + formatDouble(velocity) + " m/s at a depth of " +
+           formatDouble(depth) +
+           " m, which is no velocity of the ground. Let the layers cover the whole depth of the "
+           "grid, or make the change between them gentler.";
+  }
+  return {};
+}
+
+}  // namespace
+
+VelocityLayer defaultLayer(double gridDepth) {
+  return {0.0, kSurfaceVelocity, gridDepth, kBottomVelocity};
+}
+
+void splitLastLayer(std::vector<VelocityLayer>& layers) {
+  if (layers.empty()) return;
+  VelocityLayer& upper = layers.back();
+  VelocityLayer lower = upper;
+  const double middle = (upper.initialDepth + upper.finalDepth) / 2.0;
+  // Velocities are edited as whole numbers.
+  const double velocity = std::trunc(std::abs(upper.initialVelocity + upper.finalVelocity) / 2.0);
+  upper.finalDepth = lower.initialDepth = middle;
+  upper.finalVelocity = lower.initialVelocity = velocity;
+  layers.push_back(lower);
+}
+
+std::vector<VelocityLayer> acceptedLayers(const std::vector<VelocityLayer>& layers) {
+  std::vector<VelocityLayer> accepted;
+  for (const VelocityLayer& layer : layers) {
+    if (layer.finalDepth > layer.initialDepth && layer.initialDepth >= 0.0) {
+      accepted.push_back(layer);
+    }
+  }
+  return accepted;
+}
+
+Splines::CubicSpline layerSpline(const std::vector<VelocityLayer>& layers) {
+  std::vector<double> depths;
+  std::vector<double> velocities;
+  for (const VelocityLayer& layer : layers) {
+    depths.insert(depths.end(), {layer.initialDepth, (layer.initialDepth + layer.finalDepth) / 2.0,
+                                 layer.finalDepth - kBottomGap});
+    velocities.insert(velocities.end(),
+                      {layer.initialVelocity, (layer.initialVelocity + layer.finalVelocity) / 2.0,
+                       layer.finalVelocity});
+  }
+  Splines::CubicSpline spline;
+  spline.build(depths, velocities);
+  return spline;
+}
+
+Status buildLayeredGrid(const Grid& current, const std::vector<VelocityLayer>& layers,
+                        const Splines::Spline& surface, std::unique_ptr<Grid>& out) {
+  const std::vector<VelocityLayer> accepted = acceptedLayers(layers);
+  if (accepted.empty()) {
+    return Status::failure(
+        "No layer is left: a layer's final depth must be greater than its "
+        "initial depth, and that not negative.");
+  }
+  const GridSize& size = current.geometry().size();
+  try {
+    const Splines::CubicSpline velocityOfDepth = layerSpline(accepted);
+    const std::string problem = invalidVelocity(size, velocityOfDepth);
+    if (!problem.empty()) return Status::failure(problem);
+    std::unique_ptr<Grid> grid = buildGridFromVelocity(
+        size, [&](double depth) { return velocityOfDepth(depth); }, surface);
+    if (!grid) return Status::failure("The grid of the layered model could not be built.");
+    out = std::move(grid);
+  } catch (const std::exception& error) {
+    return Status::failure(std::string("The layers make no velocity model. Order them by depth, "
+                                       "without overlap, each more than 0.02 m thick. ") +
+                           error.what());
+  }
+  return {};
+}
+
+}  // namespace talvesk
