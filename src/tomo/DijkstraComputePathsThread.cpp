@@ -1,0 +1,95 @@
+#include "tomo/DijkstraComputePathsThread.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace talvesk {
+
+DijkstraComputePathsThread::DijkstraComputePathsThread(TomoDocument& document,
+                                                       std::uint32_t shotIndex,
+                                                       std::uint32_t sourceNode)
+    : mThreadNumber(shotIndex),
+      mShotIndex(shotIndex),
+      mDocument(document),
+      mSpreadIndex(static_cast<std::uint32_t>(document.ttArray.at(shotIndex).indexStesa)),
+      mSourceNode(sourceNode) {}
+
+void DijkstraComputePathsThread::use(ShortestPaths& search, std::vector<double>& correction,
+                                     std::vector<double>& rayLength) {
+  mSearch = &search;
+  mCorrection = &correction;
+  mRayLength = &rayLength;
+}
+
+void DijkstraComputePathsThread::run() {
+  try {
+    if (mRays.empty()) traceRays();
+    for (std::uint32_t i = 0; i < mRays.size(); ++i) evaluateRay(i);
+  } catch (const std::exception& error) {
+    mFailure = error.what();
+  } catch (...) {
+    mFailure = "Unknown exception";
+  }
+}
+
+void DijkstraComputePathsThread::traceRays() {
+  mSearch->search(*mDocument.grid, mSourceNode);
+  const auto& spread = mDocument.goephonesStringSet.at(mSpreadIndex);
+  const std::size_t receivers =
+      std::min(spread.size(), mDocument.ttArray.at(mShotIndex).ttMisurati.size());
+  std::vector<Ray> rays(receivers);
+  for (std::size_t i = 0; i < receivers; ++i) {
+    const std::uint32_t node =
+        mDocument.grid->geometry().topNodeIndex(spread[i].x + mDocument.xOffset);
+    if (node != kNoNode) rays[i] = mSearch->ray(node);
+  }
+  mRays = std::move(rays);
+  collectCells();
+}
+
+void DijkstraComputePathsThread::collectCells() {
+  std::vector<std::uint8_t> seen(mDocument.grid->cellCount(), 0);
+  for (const Ray& ray : mRays) {
+    for (const GridEdge& step : ray.steps) {
+      if (seen[step.cell] != 0) continue;
+      seen[step.cell] = 1;
+      mCells.push_back(step.cell);
+    }
+  }
+}
+
+void DijkstraComputePathsThread::evaluateRay(std::uint32_t receiver) {
+  const Ray& ray = mRays.at(receiver);
+  if (ray.nodes.empty()) return;
+  const Grid& grid = *mDocument.grid;
+  double time = 0.0;
+  double length = 0.0;
+  for (const GridEdge& step : ray.steps) {
+    time += step.length * grid.slowness(step.cell);
+    length += step.length;
+  }
+  mLastTime = time;
+  TravelTime& record = mDocument.ttArray.at(mShotIndex);
+  record.ttCalcolati.at(receiver) = time;
+
+  const double measured = record.ttMisurati.at(receiver);
+  double residual = time - measured;
+  if (measured <= 0.0) residual = 0.0;
+  residual /= length;
+  // A ray without length, to a receiver at the source, crosses no cell and so adds nothing.
+  if (residual == 0.0) return;
+  double* correction = mCorrection->data();
+  double* rayLength = mRayLength->data();
+  for (const GridEdge& step : ray.steps) {
+    correction[step.cell] += residual * step.length;
+    rayLength[step.cell] += step.length;
+  }
+}
+
+void DijkstraComputePathsThread::refreshRayTimes(std::uint32_t receiver) {
+  for (GridEdge& step : mRays.at(receiver).steps) {
+    step.time = mDocument.grid->slowness(step.cell) * step.length;
+  }
+}
+
+}  // namespace talvesk

@@ -1,0 +1,150 @@
+#include <QThread>
+
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <exception>
+#include <ostream>
+#include <stdexcept>
+
+#include "base/Console.h"
+#include "model/TomoDocument.h"
+#include "tomo/ForwardPass.h"
+#include "tomo/RayRecomputation.h"
+#include "tomo/Smoothing.h"
+#include "tomo/Solver.h"
+
+namespace talvesk {
+namespace {
+
+Status checkGrid(const TomoDocument& document) {
+  if (document.grid == nullptr || document.grid->cellCount() == 0) {
+    return Status::failure("There is no grid with cells; build the grid first.");
+  }
+  const std::string invalid = document.grid->invalidSlowness();
+  if (!invalid.empty()) return Status::failure("The velocity model cannot be used: " + invalid);
+  return {};
+}
+
+void tellEnd(std::chrono::steady_clock::time_point start) {
+  const std::time_t now = std::time(nullptr);
+  char text[32] = "";
+  ctime_r(&now, text);
+  const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(
+      std::chrono::steady_clock::now() - start);
+  console::out() << "finished iteration at " << text << "elapsed time: " << seconds.count()
+                 << "s\n";
+}
+
+/// Draw flags of the new grid and the lower limit of what rays covered.
+void setCoverage(TomoDocument& document) {
+  Grid& grid = *document.grid;
+  document.coverageLimit.clear();
+  document.coverageSpline.reset();
+  for (std::uint32_t column = 0; column < grid.col(); ++column) {
+    bool covered = false;
+    for (std::uint32_t row = grid.righe() - 1; row >= 1; --row) {
+      const std::uint32_t cell = grid.cellIndex(row, column);
+      if (!covered && document.hitCounts[cell] > 0) {
+        covered = true;
+        document.coverageLimit.push_back(grid.cellCentre(cell));
+      }
+      grid.setDraw(cell, covered);
+    }
+  }
+  std::vector<double> x, z;
+  for (const Point2D& centre : document.coverageLimit) {
+    x.push_back(centre.x);
+    z.push_back(centre.z);
+  }
+  if (x.size() < 2) return;
+  Splines::BesselSpline spline;
+  spline.Spline::build(x, z);
+  document.coverageSpline = spline;
+}
+
+}  // namespace
+
+Status TomoDocument::runTomography_fast(std::vector<double>& slownesses, unsigned threads,
+                                        int solverIterations, int smoothing, bool symmetric,
+                                        int smoothingType, Log& log) {
+  log.write("TomoDocument::runTomography_fast");
+  const auto start = std::chrono::steady_clock::now();
+  rays.clear();
+  log.write(" Forwarding ... ");
+  const std::size_t cells = grid->cellCount();
+  std::vector<double> coorslow(cells, 0.0);
+  coorcount.assign(cells, 0.0);
+  hitCounts.assign(cells, 0);
+
+  const std::string n = std::to_string(threads);
+  const std::string total =
+      " [TOTAL N. THREADS] " + std::to_string(ttArray.size()) + " to be run " + n + " by " + n;
+  console::out() << total << std::endl;
+  log.write(total);
+
+  ForwardPass pass(*this, threads, log);
+  Status status = pass.run("[RUNNIG DIJKSTRA]", &coorslow, &coorcount);
+  if (!status.ok()) return status;
+  pass.appendRaysTo(rays);
+  tellEnd(start);
+
+  const std::string caption =
+      "[INTERNAL RUN " + std::to_string(solverIterations) + "][RUNNIG SOLVEART]";
+  for (int it = 0; it < solverIterations; ++it) {
+    slownesses = updateSlownesses(*grid, coorslow, coorcount, hitCounts,
+                                  {minVelocity, maxVelocity});
+    pass.refreshRayTimes();
+    if (it + 1 == solverIterations) break;
+    std::fill(coorslow.begin(), coorslow.end(), 0.0);
+    std::fill(coorcount.begin(), coorcount.end(), 0.0);
+    status = pass.run(caption, &coorslow, &coorcount);
+    if (!status.ok()) return status;
+  }
+  slownesses = smoothSlowness(smoothingTypeOf(smoothingType), *grid, hitCounts, smoothing,
+                              verticalRatio(symmetric));
+  return {};
+}
+
+Status TomoDocument::runTomography(std::vector<double>& slownesses, int solverIterations,
+                                   int smoothing, bool multiThread, bool symmetric,
+                                   int smoothingType, Log& log) {
+  log.write("TomoDocument::runTomography");
+  if (const Status status = checkGrid(*this); !status.ok()) return status;
+  const unsigned threads =
+      multiThread ? static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1)) : 1U;
+  const std::vector<double> before = grid->slownesses();
+  Status status;
+  try {
+    status = runTomography_fast(slownesses, threads, solverIterations, smoothing, symmetric,
+                                smoothingType, log);
+    if (status.ok()) {
+      grid = std::make_unique<Grid>(grid->sharedGeometry(), slownesses);
+      hasTomographicInfo = true;
+      setCoverage(*this);
+      return status;
+    }
+  } catch (const std::exception& error) {
+    status = Status::failure(std::string("The inversion failed: ") + error.what());
+  }
+  for (std::uint32_t c = 0; c < grid->cellCount(); ++c) grid->setSlowness(c, before[c]);
+  return status;
+}
+
+Status recomputeRays(TomoDocument& document, Log& log) {
+  if (const Status status = checkGrid(document); !status.ok()) return status;
+  try {
+    document.rays.clear();
+    document.coorcount.assign(document.grid->cellCount(), 0.0);
+    document.hitCounts.assign(document.grid->cellCount(), 0);
+    const auto threads = static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
+    ForwardPass pass(document, threads, log);
+    const Status status = pass.run("[RUNNIG DIJKSTRA]", nullptr, nullptr);
+    if (status.ok()) pass.appendRaysTo(document.rays);
+    return status;
+  } catch (const std::exception& error) {
+    return Status::failure(std::string("The rays could not be traced: ") + error.what());
+  }
+}
+
+}  // namespace talvesk

@@ -1,0 +1,98 @@
+#include "tomo/TomographyRun.h"
+
+#include <chrono>
+#include <ostream>
+#include <sstream>
+
+#include "base/Console.h"
+
+namespace talvesk {
+namespace {
+
+std::string general(double value) {
+  std::ostringstream text;
+  text.imbue(std::locale::classic());
+  text << value;
+  return text.str();
+}
+
+class Stopwatch {
+ public:
+  double seconds() const {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - mStart).count();
+  }
+
+ private:
+  std::chrono::steady_clock::time_point mStart = std::chrono::steady_clock::now();
+};
+
+Status checkParameters(const TomographyParameters& p) {
+  if (p.externalIterations < 1 || p.solverIterations < 1 || p.smoothing < 1) {
+    return Status::failure("Iterations and smoothing parameter must be 1 at least.");
+  }
+  if (!(p.minVelocity > 0.0) || !(p.maxVelocity > 0.0)) {
+    return Status::failure("The velocity limits must be positive.");
+  }
+  return {};
+}
+
+void finish(TomoDocument& document, const TomographyParameters& p, TomographyResult& result,
+            Log& log) {
+  document.info_density =
+      smoothRayDensity(p.smoothingType, *document.grid, document.hitCounts, p.smoothing,
+                       verticalRatio(p.symmetric), log);
+  log.write("Elapsed time: " + std::to_string(static_cast<long long>(result.elapsedSeconds)) +
+            " seconds.");
+  result.misfit = computeMisfit(document);
+  if (result.misfit.count == 0) return;
+  console::out() << "[LOG] RMSE: s" << general(result.misfit.rmse) << '\n'
+                 << "[LOG] MaxError: %" << general(result.misfit.maxRelativeError * 100.0)
+                 << std::endl;
+  document.RMSE_tomography = result.misfit.relativeRms * 100.0;
+}
+
+}  // namespace
+
+TomographyResult runInversion(TomoDocument& document, const TomographyParameters& p, Log& log,
+                              const std::function<void(const TomographyProgress&)>& progress,
+                              const std::function<bool()>& cancelled) {
+  TomographyResult result;
+  result.status = checkParameters(p);
+  if (!result.status.ok()) return result;
+  const Stopwatch watch;
+  document.stopRequested = false;
+  document.minVelocity = p.minVelocity;
+  document.maxVelocity = p.maxVelocity;
+  document.modified = true;
+  log.write(std::string("Running Tomography :") +
+            (p.singleThread ? "Single thread mode. " : "Multi thread mode. "));
+
+  for (int i = 0; i < p.externalIterations; ++i) {
+    const std::string line = "Running Tomography - external iteration " + std::to_string(i);
+    log.write(line);
+    std::vector<double> slownesses;
+    result.status =
+        document.runTomography(slownesses, p.solverIterations, p.smoothing, !p.singleThread,
+                               p.symmetric, static_cast<int>(p.smoothingType), log);
+    if (!result.status.ok()) break;
+    log.write(line + " ... COMPLETED. ");
+    result.iterationsDone = i + 1;
+    result.history.push_back(computeMisfit(document));
+    log.write("Updating tomographic profile ... ");
+    if (progress) {
+      progress({i + 1, p.externalIterations, watch.seconds(), result.history.back()});
+    }
+    log.write("Updating tomographic profile ... COMPLETED. ");
+    if (cancelled && cancelled()) document.stopRequested = true;
+    if (document.stopRequested) {
+      log.write("Stop Request by the user.");
+      result.stopped = true;
+      break;
+    }
+  }
+  result.elapsedSeconds = watch.seconds();
+  if (result.iterationsDone > 0) finish(document, p, result, log);
+  return result;
+}
+
+}  // namespace talvesk

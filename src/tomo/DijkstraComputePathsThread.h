@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QThread>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "model/TomoDocument.h"
+#include "tomo/ShortestPaths.h"
+
+namespace talvesk {
+
+/// The worker of one shot: its rays through the current grid, the times along them, and what they ask
+/// of every cell. Started once to trace and evaluate, and again after every solver iteration, when it
+/// evaluates the rays that it has with the new slownesses.
+///
+/// Reads the document; writes the computed times of its own shot and its own two accumulators, so
+/// that workers of different shots need no lock. Nothing escapes the thread: see failure().
+class DijkstraComputePathsThread : public QThread {
+ public:
+  /// \param shotIndex record of the shot, also the thread's number; its `ttCalcolati` is as long as
+  /// its `ttMisurati`
+  /// \param sourceNode top-line node of the shot
+  DijkstraComputePathsThread(TomoDocument& document, std::uint32_t shotIndex,
+                             std::uint32_t sourceNode);
+
+  /// What the next start works with: the search's memory (first start only) and two zeroed arrays,
+  /// one entry per cell.
+  void use(ShortestPaths& search, std::vector<double>& correction, std::vector<double>& rayLength);
+
+  void evaluateRay(std::uint32_t receiver);      ///< time, computed time and corrections
+  void refreshRayTimes(std::uint32_t receiver);  ///< edge times from the current slownesses
+
+  std::uint32_t threadNumber() const { return mThreadNumber; }
+  const std::vector<Ray>& rays() const { return mRays; }  ///< without nodes: beyond the top line
+  double lastTime() const { return mLastTime; }  ///< seconds, of the ray evaluated last
+  /// Every cell that a ray crosses, once. Only these entries of the accumulators are ever written.
+  const std::vector<std::uint32_t>& cells() const { return mCells; }
+  const std::string& failure() const { return mFailure; }  ///< empty: all went well
+
+ protected:
+  void run() override;
+
+ private:
+  void traceRays();
+  void collectCells();
+
+  std::uint32_t mThreadNumber;
+  std::uint32_t mShotIndex;
+  TomoDocument& mDocument;
+  std::uint32_t mSpreadIndex;
+  std::uint32_t mSourceNode;
+  std::vector<Ray> mRays;  ///< per receiver; empty until the first run
+  std::vector<std::uint32_t> mCells;
+  ShortestPaths* mSearch = nullptr;
+  std::vector<double>* mCorrection = nullptr;
+  std::vector<double>* mRayLength = nullptr;
+  double mLastTime = 0.0;
+  std::string mFailure;
+};
+
+}  // namespace talvesk

@@ -1,0 +1,153 @@
+#include "tomo/ForwardPass.h"
+
+#include <algorithm>
+#include <ostream>
+#include <sstream>
+
+#include "base/Console.h"
+
+namespace talvesk {
+namespace {
+
+bool sameExclusions(const std::vector<ExcludedPosition>& a,
+                    const std::vector<ExcludedPosition>& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](const ExcludedPosition& p, const ExcludedPosition& q) {
+                      return p.shot == q.shot && p.receiver == q.receiver && p.x == q.x;
+                    });
+}
+
+std::string describe(const ExcludedPosition& position) {
+  std::ostringstream text;
+  text.imbue(std::locale::classic());
+  text << "Left out: shot " << position.shot + 1;
+  if (position.receiver >= 0) text << ", receiver " << position.receiver + 1;
+  text << " at x = " << position.x << " m lies beyond the grid or has no geophone string";
+  return text.str();
+}
+
+void both(Log& log, const std::string& line) {
+  console::out() << line << std::endl;
+  log.write(line);
+}
+
+}  // namespace
+
+std::vector<ExcludedPosition> findExcluded(const TomoDocument& document) {
+  std::vector<ExcludedPosition> excluded;
+  const GridGeometry& g = document.grid->geometry();
+  const auto outside = [&](double x) {
+    return g.topNodeIndex(x + document.xOffset) == kNoNode;
+  };
+  for (std::size_t s = 0; s < document.ttArray.size(); ++s) {
+    const TravelTime& record = document.ttArray[s];
+    const auto shot = static_cast<std::int32_t>(s);
+    const bool noString =
+        record.indexStesa < 0 ||
+        static_cast<std::size_t>(record.indexStesa) >= document.goephonesStringSet.size();
+    if (noString || outside(record.shotPos2d.x)) {
+      excluded.push_back({shot, -1, record.shotPos2d.x});
+      continue;
+    }
+    const auto& spread = document.goephonesStringSet[record.indexStesa];
+    const std::size_t n = std::min(spread.size(), record.ttMisurati.size());
+    for (std::size_t i = 0; i < n; ++i) {
+      if (!outside(spread[i].x)) continue;
+      excluded.push_back({shot, static_cast<std::int32_t>(i), spread[i].x});
+    }
+  }
+  return excluded;
+}
+
+ForwardPass::ForwardPass(TomoDocument& document, unsigned threads, Log& log)
+    : mDocument(document), mLog(log) {
+  std::vector<ExcludedPosition> excluded = findExcluded(document);
+  if (!sameExclusions(excluded, document.excluded)) {
+    for (const ExcludedPosition& position : excluded) log.write(describe(position), 1);
+  }
+  document.excluded = std::move(excluded);
+
+  const std::size_t shots = document.ttArray.size();
+  mWorkers.resize(shots);
+  std::vector<bool> whole(shots, true);
+  for (const ExcludedPosition& p : document.excluded) {
+    if (p.receiver < 0) whole[p.shot] = false;
+  }
+  for (std::size_t s = 0; s < shots; ++s) {
+    TravelTime& record = document.ttArray[s];
+    record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+    if (!whole[s]) continue;
+    const std::uint32_t source =
+        document.grid->geometry().topNodeIndex(record.shotPos2d.x + document.xOffset);
+    mWorkers[s] = std::make_unique<DijkstraComputePathsThread>(
+        document, static_cast<std::uint32_t>(s), source);
+  }
+  mSlots.resize(std::min<std::size_t>(std::max(threads, 1U), std::max<std::size_t>(shots, 1)));
+  for (Slot& slot : mSlots) {
+    slot.correction.assign(document.grid->cellCount(), 0.0);
+    slot.rayLength.assign(document.grid->cellCount(), 0.0);
+  }
+}
+
+Status ForwardPass::run(const std::string& caption, std::vector<double>* coorslow,
+                        std::vector<double>* coorcount) {
+  for (std::size_t first = 0; first < mWorkers.size(); first += mSlots.size()) {
+    const std::size_t last = std::min(first + mSlots.size(), mWorkers.size()) - 1;
+    both(mLog, caption + " Traces from " + std::to_string(first) + " to " + std::to_string(last));
+    if (const Status status = runBatch(first, last, coorslow, coorcount); !status.ok()) {
+      return status;
+    }
+  }
+  mTraced = true;
+  return {};
+}
+
+Status ForwardPass::runBatch(std::size_t first, std::size_t last, std::vector<double>* coorslow,
+                             std::vector<double>* coorcount) {
+  for (std::size_t s = first; s <= last; ++s) {
+    if (!mTraced) both(mLog, " --- Creating and running thread " + std::to_string(s));
+    if (mWorkers[s] == nullptr) continue;
+    Slot& slot = mSlots[s - first];
+    mWorkers[s]->use(slot.search, slot.correction, slot.rayLength);
+    mWorkers[s]->start();
+  }
+  Status status;
+  for (std::size_t s = first; s <= last; ++s) {
+    if (mWorkers[s] == nullptr) continue;
+    mWorkers[s]->wait();
+    if (!mWorkers[s]->failure().empty()) {
+      status = Status::failure("Ray tracing of shot " + std::to_string(s + 1) +
+                               " failed: " + mWorkers[s]->failure());
+    }
+  }
+  if (!mTraced && coorslow != nullptr) {
+    console::out() << " --- Updating coorslow and coorcount " << std::endl;
+  }
+  for (std::size_t s = first; s <= last; ++s) {
+    if (mWorkers[s] == nullptr) continue;
+    Slot& slot = mSlots[s - first];
+    for (const std::uint32_t c : mWorkers[s]->cells()) {
+      if (coorslow != nullptr) (*coorslow)[c] += slot.correction[c];
+      if (coorcount != nullptr) (*coorcount)[c] += slot.rayLength[c];
+      slot.correction[c] = 0.0;
+      slot.rayLength[c] = 0.0;
+    }
+  }
+  return status;
+}
+
+void ForwardPass::refreshRayTimes() {
+  for (const auto& worker : mWorkers) {
+    if (worker == nullptr) continue;
+    for (std::uint32_t i = 0; i < worker->rays().size(); ++i) worker->refreshRayTimes(i);
+  }
+}
+
+void ForwardPass::appendRaysTo(std::vector<std::vector<std::uint32_t>>& rays) const {
+  for (const auto& worker : mWorkers) {
+    if (worker == nullptr) continue;
+    for (const Ray& ray : worker->rays()) rays.push_back(ray.nodes);
+  }
+}
+
+}  // namespace talvesk

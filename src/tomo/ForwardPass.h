@@ -1,0 +1,52 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "base/Log.h"
+#include "base/Status.h"
+#include "model/TomoDocument.h"
+#include "tomo/DijkstraComputePathsThread.h"
+
+namespace talvesk {
+
+/// Shots and receivers that the current grid has no top-line node for, and shots whose geophone
+/// string does not exist (receiver -1).
+std::vector<ExcludedPosition> findExcluded(const TomoDocument& document);
+
+/// The workers of all shots of a document, run in batches of consecutive shots.
+class ForwardPass {
+ public:
+  /// Makes the workers, leaves out what the grid cannot hold (document.excluded, named in the log
+  /// when it is news) and marks all computed times as missing.
+  /// \param threads width of a batch, at least 1
+  ForwardPass(TomoDocument& document, unsigned threads, Log& log);
+
+  /// Traces rays (first time) and evaluates them, adding the workers' sums shot by shot. The result
+  /// does not depend on the width of the batches.
+  /// \param coorslow, coorcount one entry per cell, added to; null: sums are dropped
+  /// \param caption what a batch's line begins with
+  Status run(const std::string& caption, std::vector<double>* coorslow,
+             std::vector<double>* coorcount);
+
+  void refreshRayTimes();
+  void appendRaysTo(std::vector<std::vector<std::uint32_t>>& rays) const;
+
+ private:
+  struct Slot {
+    ShortestPaths search;
+    std::vector<double> correction;
+    std::vector<double> rayLength;
+  };
+
+  Status runBatch(std::size_t first, std::size_t last, std::vector<double>* coorslow,
+                  std::vector<double>* coorcount);
+
+  TomoDocument& mDocument;
+  Log& mLog;
+  bool mTraced = false;
+  std::vector<std::unique_ptr<DijkstraComputePathsThread>> mWorkers;  ///< null: shot excluded
+  std::vector<Slot> mSlots;
+};
+
+}  // namespace talvesk
