@@ -1,0 +1,71 @@
+#include "base/Log.h"
+#include "support/CapturedConsole.h"
+#include "support/TestFolder.h"
+
+#include <regex>
+
+#include <gtest/gtest.h>
+
+namespace talvesk {
+namespace {
+
+using testing::CapturedConsole;
+using testing::TestFolder;
+
+const std::string kStamp = R"(\[\d{4}-\d{2}-\d{2}\.\d{2}:\d{2}:\d{2}\] )";
+
+bool isStamped(const std::string& text, const std::string& rest) {
+  return std::regex_match(text, std::regex(kStamp + rest + "\n"));
+}
+
+TEST(Log, writesTheErrorMarkToTheFileOnly) {
+  const TestFolder folder;
+  const CapturedConsole console;
+  Log log(folder.file("run.log"));
+  log.write("disk is full", 1);
+  EXPECT_EQ(console.out(), "");
+  EXPECT_PRED2(isStamped, console.error(), "disk is full");
+  EXPECT_PRED2(isStamped, TestFolder::get(log.path()), "ERROR : disk is full");
+}
+
+TEST(Log, takesEveryOtherLevelAsInformation) {
+  for (const int level : {0, 2, -1}) {
+    const TestFolder folder;
+    const CapturedConsole console;
+    Log log(folder.file("run.log"));
+    log.write("Setting Grid ...", level);
+    EXPECT_EQ(console.error(), "");
+    EXPECT_PRED2(isStamped, console.out(), R"(Setting Grid \.\.\.)");
+    EXPECT_EQ(TestFolder::get(log.path()), console.out());
+  }
+}
+
+TEST(Log, startsAFreshFileWithTheFirstMessageAndKeepsTheLater) {
+  const TestFolder folder;
+  const CapturedConsole console;
+  Log log(folder.put("run.log", "lines of the last run\n"));
+  EXPECT_EQ(TestFolder::get(log.path()), "lines of the last run\n");
+  log.write("Application Start");
+  log.write("second");
+  EXPECT_PRED2(isStamped, TestFolder::get(log.path()), "Application Start\n" + kStamp + "second");
+}
+
+TEST(Log, complainsAndGoesOnWhenTheFileCannotBeOpened) {
+  const TestFolder folder;
+  const CapturedConsole console;
+  Log log(folder.file("no/such/folder/run.log"));
+  log.write("hello");
+  EXPECT_EQ(console.error(), "Impossible to open log filehello\n");
+  EXPECT_PRED2(isStamped, console.out(), "hello");
+}
+
+TEST(Log, withoutAFileReachesTheConsoleOnly) {
+  const CapturedConsole console;
+  Log log;
+  log.write("hello");
+  EXPECT_EQ(console.error(), "");
+  EXPECT_PRED2(isStamped, console.out(), "hello");
+}
+
+}  // namespace
+}  // namespace talvesk
