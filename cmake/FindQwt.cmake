@@ -11,7 +11,8 @@ find_package_handle_standard_args(Qwt
   REQUIRED_VARS QWT_LIBRARY QWT_INCLUDE_DIR VERSION_VAR Qwt_VERSION)
 
 if(Qwt_FOUND AND NOT TARGET Qwt::Qwt)
-  add_library(Qwt::Qwt UNKNOWN IMPORTED)
+  # Global: programs in other folders link it through the room that uses it.
+  add_library(Qwt::Qwt UNKNOWN IMPORTED GLOBAL)
   # Headers of an imported target are system headers: their warnings are not ours.
   set_target_properties(Qwt::Qwt PROPERTIES
     IMPORTED_LOCATION ${QWT_LIBRARY}

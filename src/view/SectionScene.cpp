@@ -224,7 +224,7 @@ ValueRange niceRange(const ValueRange& range) {
     const double margin = size > 0.0 ? 0.05 * size : 1.0;
     wide = {range.min - margin, range.max + margin};
   }
-  const double rough = wide.span() / 10.0;
+  const double rough = wide.span() / 30.0;
   const double power = std::pow(10.0, std::floor(std::log10(rough)));
   double step = 10.0 * power;
   for (const double factor : {1.0, 2.0, 5.0}) {

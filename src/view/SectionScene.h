@@ -68,7 +68,7 @@ std::string quantityName(SectionQuantity quantity);
 std::string quantityUnit(SectionQuantity quantity);
 
 /// The smallest range around `range` whose ends are multiples of 1, 2 or 5 times a power of ten, in
-/// steps of about a tenth of it. Never empty: a single value gets a range around it.
+/// steps of about a thirtieth of it. Never empty: a single value gets a range around it.
 ValueRange niceRange(const ValueRange& range);
 
 }  // namespace talvesk

@@ -1,0 +1,80 @@
+#include "figures/SectionFigure.h"
+
+#include "base/AtomicFile.h"
+#include "figures/SectionPlot.h"
+#include "model/TomoDocument.h"
+
+#include <QApplication>
+#include <QByteArray>
+#include <QPainter>
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+Status checkOptions(const SectionFigureOptions& options) {
+  const double exaggeration = options.verticalExaggeration;
+  if (exaggeration != 0.0 && !(exaggeration >= 0.01 && exaggeration <= 100.0)) {
+    return Status::failure(
+        "The vertical exaggeration must lie between 0.01 and 100, or be 0 to "
+        "let the picture choose.");
+  }
+  if (options.palette.color_gradient.empty()) {
+    return Status::failure("The palette \"" + options.palette.name + "\" has no colours.");
+  }
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
+    return Status::failure("A section cannot be drawn before the application object exists.");
+  }
+  return {};
+}
+
+}  // namespace
+
+double SectionFigureLayout::xToMm(double x) const {
+  return leftMm + (x - minX) / (maxX - minX) * (rightMm - leftMm);
+}
+
+double SectionFigureLayout::elevationToMm(double elevation) const {
+  return topMm + (maxElevation - elevation) / (maxElevation - minElevation) * (bottomMm - topMm);
+}
+
+Status renderSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
+                           FigureFormat format, QByteArray& bytes, SectionFigureLayout* layout) {
+  SectionScene scene;
+  if (Status status = buildSectionScene(document, options.scene, scene); !status.ok()) {
+    return status;
+  }
+  if (Status status = checkOptions(options); !status.ok()) return status;
+
+  // Sizes are checked before anything is laid out in them; a height yet to be chosen passes.
+  FigureSheet sheet;
+  sheet.widthMm = options.widthMm;
+  sheet.heightMm = options.heightMm == 0.0 ? FigureSheet::kMinMm : options.heightMm;
+  sheet.dpi = options.dpi;
+  if (Status status = sheet.check(format); !status.ok()) return status;
+
+  SectionPlot plot(std::move(scene), options);
+  if (Status status = plot.layOut(options.widthMm, options.heightMm); !status.ok()) return status;
+  sheet.heightMm = plot.layout().heightMm;
+  sheet.title = plot.title();
+  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot.paint(painter, rect); };
+  if (Status status = paintFigure(format, sheet, paint, bytes); !status.ok()) return status;
+  if (layout != nullptr) *layout = plot.layout();
+  return {};
+}
+
+Status writeSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
+                          const std::string& path) {
+  FigureFormat format{};
+  if (Status status = figureFormatOf(path, format); !status.ok()) return status;
+  QByteArray bytes;
+  if (Status status = renderSectionFigure(document, options, format, bytes); !status.ok()) {
+    return status;
+  }
+  return writeFileAtomically(
+      path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
+
+}  // namespace talvesk

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "base/Status.h"
+#include "figures/FigureFile.h"
+#include "view/ColorPalette.h"
+#include "view/SectionScene.h"
+
+#include <string>
+
+class QByteArray;
+
+namespace talvesk {
+
+class TomoDocument;
+
+/// How iso-lines are drawn.
+struct ContourStyle {
+  RgbColor color{0.1, 0.1, 0.1};
+  double width = 0.9;        ///< points of 1/96 inch
+  int labelEvery = 1;        ///< every how many values a line carries its value; 0: no labels
+  double labelPoints = 7.5;  ///< label size, points
+};
+
+struct SectionFigureOptions {
+  double widthMm = 280.0;
+  double heightMm = 0.0;  ///< 0: as high as the section asks for
+  double dpi = 150.0;     ///< pixels per inch of a PNG
+
+  SectionSceneOptions scene;  ///< quantity, value range, contour values, rays
+  ColorPalette palette = ColorPaletteList().current();
+  ContourStyle contourStyle;
+  std::string title;  ///< UTF-8; empty: the document's title, and without one the quantity
+
+  /// Height of a metre over width of a metre. 0 lets the picture choose: 1 where the section stays
+  /// legible, more for one that is long and shallow. The caption states any other than 1.
+  double verticalExaggeration = 0.0;
+};
+
+/// Where the section lies in its picture: the rectangle between the axes, and what its sides stand
+/// for. Who lays something over the picture, or checks it, finds positions with it.
+struct SectionFigureLayout {
+  double widthMm = 0.0;   ///< whole picture
+  double heightMm = 0.0;  ///< whole picture
+  double leftMm = 0.0;    ///< of the rectangle, from the picture's left edge
+  double topMm = 0.0;     ///< of the rectangle, from the picture's upper edge
+  double rightMm = 0.0;
+  double bottomMm = 0.0;
+  double minX = 0.0;  ///< survey x at the left side, metres
+  double maxX = 0.0;
+  double minElevation = 0.0;  ///< at the lower side, metres
+  double maxElevation = 0.0;
+  double verticalExaggeration = 1.0;
+
+  double xToMm(double x) const;                  ///< from the picture's left edge
+  double elevationToMm(double elevation) const;  ///< from the picture's upper edge
+};
+
+/// Draws the section of a document and replaces the file at `path` by it, whole or not at all; the
+/// suffix decides between PNG, SVG and PDF. Needs the QApplication (offscreen will do) and must run
+/// on its thread. Fails without a grid, for a value or size that makes no picture, and when the
+/// file cannot be written; then a file that was there before is untouched.
+Status writeSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
+                          const std::string& path);
+
+/// The same into memory. \param layout where the section lies; null when nobody asks
+Status renderSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
+                           FigureFormat format, QByteArray& bytes,
+                           SectionFigureLayout* layout = nullptr);
+
+}  // namespace talvesk

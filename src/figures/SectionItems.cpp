@@ -1,0 +1,367 @@
+#include "figures/SectionItems.h"
+
+#include "figures/SectionFigure.h"
+#include "view/SectionScene.h"
+#include "view/SectionTexts.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include <qwt_curve_fitter.h>
+#include <qwt_graphic.h>
+#include <qwt_plot_item.h>
+#include <qwt_scale_map.h>
+#include <qwt_text.h>
+
+namespace talvesk::section_items {
+namespace {
+
+/// Lines are thinned to this accuracy, in points of 1/96 inch: a twentieth of a millimetre.
+constexpr double kThinning = 0.2;
+
+enum Layer { kCellsLayer = 10, kRaysLayer = 20, kContoursLayer = 30, kMarkersLayer = 50 };
+
+QColor toColor(const RgbColor& c) {
+  return QColor::fromRgbF(c.r, c.g, c.b);
+}
+
+bool isVector(const QPainter& painter) {
+  const QPaintEngine::Type type = painter.paintEngine()->type();
+  return type == QPaintEngine::SVG || type == QPaintEngine::Pdf || type == QPaintEngine::Picture;
+}
+
+/// Every item hands its legend icon to the same few lines.
+class SectionItem : public QwtPlotItem {
+ public:
+  /// \param name in the legend; an item without a name is not in it
+  SectionItem(const QString& name, double z) : QwtPlotItem(QwtText(name, QwtText::PlainText)) {
+    setItemAttribute(Legend, !name.isEmpty());
+    setLegendIconSize(QSize(22, 12));
+    setZ(z);
+  }
+
+  QwtGraphic legendIcon(int /*index*/, const QSizeF& size) const override {
+    QwtGraphic graphic;
+    graphic.setDefaultSize(size);
+    graphic.setRenderHint(QwtGraphic::RenderPensUnscaled, true);
+    QPainter painter(&graphic);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawIcon(painter, size);
+    return graphic;
+  }
+
+ protected:
+  virtual void drawIcon(QPainter& /*painter*/, const QSizeF& /*size*/) const {}
+};
+
+class CellsItem : public SectionItem {
+ public:
+  CellsItem(const SectionScene& scene, const ColorTable& colors)
+      : SectionItem({}, kCellsLayer), mScene(scene), mColors(colors) {}
+
+  void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+            const QRectF& /*canvas*/) const override {
+    const bool vector = isVector(*painter);
+    std::vector<QPainterPath> ofColor(static_cast<std::size_t>(mColors.size()));
+    for (std::uint32_t row = 0; row < mScene.mesh.rows; ++row) {
+      std::uint32_t end = 0;
+      for (std::uint32_t begin = 0; begin < mScene.mesh.columns; begin = end) {
+        const int color = colorOf(row, begin);
+        end = begin + 1;
+        while (end < mScene.mesh.columns && colorOf(row, end) == color) ++end;
+        if (color < 0) continue;
+        QPainterPath& path = ofColor[static_cast<std::size_t>(color)];
+        path.addPolygon(band(row, begin, end, xMap, yMap, vector));
+        path.closeSubpath();
+      }
+    }
+    painter->save();
+    // Neighbours share their sides: filled without antialiasing they meet without a seam. A viewer
+    // of vector files antialiases as it likes, so there every band overlaps its neighbours by a
+    // hair.
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    for (int color = 0; color < mColors.size(); ++color) {
+      const QPainterPath& path = ofColor[static_cast<std::size_t>(color)];
+      if (path.isEmpty()) continue;
+      const QColor fill = toColor(mColors[color]);
+      painter->setBrush(fill);
+      painter->setPen(vector ? QPen(fill, 0.3, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin)
+                             : QPen(Qt::NoPen));
+      painter->drawPath(path);
+    }
+    painter->restore();
+  }
+
+ private:
+  int colorOf(std::uint32_t row, std::uint32_t column) const {
+    if (!mScene.mesh.isDrawn(row, column)) return -1;
+    return mColors.indexOf(mScene.cellValues[mScene.mesh.cell(row, column)]);
+  }
+
+  /// Outline of the cells [begin, end) of a row. Thinned, it goes without the corners where it does
+  /// not bend: smaller files, but no longer the very points of the rows above and below, by which
+  /// pixels are shared out without a gap.
+  QPolygonF band(std::uint32_t row, std::uint32_t begin, std::uint32_t end, const QwtScaleMap& xMap,
+                 const QwtScaleMap& yMap, bool thin) const {
+    QPolygonF outline;
+    const auto add = [&](std::uint32_t line, std::uint32_t column) {
+      const Point2D& p = mScene.mesh.corners[mScene.mesh.corner(line, column)];
+      const QPointF point(xMap.transform(p.x), yMap.transform(p.z));
+      const int n = outline.size();
+      if (thin && n >= 2 && bendIsInvisible(outline[n - 2], outline[n - 1], point))
+        outline.removeLast();
+      outline.append(point);
+    };
+    for (std::uint32_t column = begin; column <= end; ++column) add(row, column);
+    for (std::uint32_t column = end + 1; column-- > begin;) add(row + 1, column);
+    return outline;
+  }
+
+  static bool bendIsInvisible(const QPointF& a, const QPointF& b, const QPointF& c) {
+    const QPointF ac = c - a;
+    const QPointF ab = b - a;
+    const double twiceArea = std::abs(ac.x() * ab.y() - ac.y() * ab.x());
+    // b must lie between a and c, and off the line by rounding only: thinning by more would let
+    // neighbouring rows part.
+    return QPointF::dotProduct(ab, c - b) >= 0.0 && twiceArea <= 1e-3 * std::hypot(ac.x(), ac.y());
+  }
+
+  const SectionScene& mScene;
+  const ColorTable& mColors;
+};
+
+QPolygonF thinned(const std::vector<Point2D>& points, const QwtScaleMap& xMap,
+                  const QwtScaleMap& yMap) {
+  QPolygonF line;
+  line.reserve(static_cast<int>(points.size()));
+  for (const Point2D& p : points) line.append({xMap.transform(p.x), yMap.transform(p.z)});
+  return QwtWeedingCurveFitter(kThinning).fitCurve(line);
+}
+
+class LinesItem : public SectionItem {
+ public:
+  LinesItem(const std::vector<std::vector<Point2D>>& polylines, const QString& name, QPen pen)
+      : SectionItem(name, kRaysLayer), mLines(polylines), mPen(std::move(pen)) {}
+
+  void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+            const QRectF& /*canvas*/) const override {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(mPen);
+    for (const auto& line : mLines) painter->drawPolyline(thinned(line, xMap, yMap));
+    painter->restore();
+  }
+
+ protected:
+  void drawIcon(QPainter& painter, const QSizeF& size) const override {
+    QPen pen = mPen;
+    QColor opaque = pen.color();
+    opaque.setAlphaF(1.0);
+    pen.setColor(opaque);
+    painter.setPen(pen);
+    painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
+  }
+
+ private:
+  std::vector<std::vector<Point2D>> mLines;
+  QPen mPen;
+};
+
+QPainterPath triangleOnTip(double size) {
+  QPainterPath path;
+  path.lineTo(-0.5 * size, -0.87 * size);
+  path.lineTo(0.5 * size, -0.87 * size);
+  path.closeSubpath();
+  return path;
+}
+
+QPainterPath star(double size) {
+  constexpr double kPi = 3.14159265358979323846;
+  QPolygonF outline;
+  for (int i = 0; i < 10; ++i) {
+    const double radius = (i % 2 == 0 ? 0.5 : 0.2) * size;
+    outline.append({radius * std::sin(i * kPi / 5.0), -radius * std::cos(i * kPi / 5.0)});
+  }
+  QPainterPath path;
+  path.addPolygon(outline);
+  path.closeSubpath();
+  return path;
+}
+
+class MarkersItem : public SectionItem {
+ public:
+  MarkersItem(const std::vector<Point2D>& points, const QString& name, Marker marker)
+      : SectionItem(name, kMarkersLayer + (marker == Marker::kShot ? 1 : 0)),
+        mPoints(points),
+        mMarker(marker) {}
+
+  void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+            const QRectF& /*canvas*/) const override {
+    painter->save();
+    setColors(*painter);
+    const QPainterPath symbol = shape(symbolSize(xMap));
+    for (const Point2D& p : mPoints) {
+      painter->drawPath(symbol.translated(xMap.transform(p.x), yMap.transform(p.z)));
+    }
+    painter->restore();
+  }
+
+ protected:
+  void drawIcon(QPainter& painter, const QSizeF& size) const override {
+    setColors(painter);
+    const QPainterPath symbol = shape(10.0);
+    painter.drawPath(symbol.translated(QPointF(size.width() / 2, size.height() / 2) -
+                                       symbol.boundingRect().center()));
+  }
+
+ private:
+  QPainterPath shape(double size) const {
+    return mMarker == Marker::kShot ? star(1.4 * size) : triangleOnTip(size);
+  }
+
+  void setColors(QPainter& painter) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::white, 0.5));
+    painter.setBrush(mMarker == Marker::kShot ? QColor(208, 32, 32) : QColor(32, 32, 32));
+  }
+
+  /// As large as neighbours leave room for, within what is legible. The points ascend in x.
+  double symbolSize(const QwtScaleMap& xMap) const {
+    double spacing = 10.0;
+    if (mPoints.size() > 1) {
+      const double length = xMap.transform(mPoints.back().x) - xMap.transform(mPoints.front().x);
+      spacing = length / static_cast<double>(mPoints.size() - 1);
+    }
+    return std::clamp(0.9 * spacing, 5.0, 10.0);
+  }
+
+  std::vector<Point2D> mPoints;
+  Marker mMarker;
+};
+
+/// Iso-lines with their values set into them, upright and clear of each other.
+class ContoursItem : public SectionItem {
+ public:
+  ContoursItem(const SectionScene& scene, const ContourStyle& style)
+      : SectionItem(QStringLiteral("Contours"), kContoursLayer), mScene(scene), mStyle(style) {}
+
+  void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+            const QRectF& canvas) const override {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    std::vector<QPolygonF> lines;
+    for (const ContourLine& contour : mScene.contours) {
+      lines.push_back(thinned(contour.points, xMap, yMap));
+      if (contour.closed) lines.back().append(lines.back().front());
+    }
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(toColor(mStyle.color), mStyle.width));
+    for (const QPolygonF& line : lines) painter->drawPolyline(line);
+
+    std::vector<QRectF> taken;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      if (hasLabel(mScene.contours[i].value)) {
+        label(*painter, lines[i], mScene.contours[i].value, canvas, taken);
+      }
+    }
+    painter->restore();
+  }
+
+ protected:
+  void drawIcon(QPainter& painter, const QSizeF& size) const override {
+    painter.setPen(QPen(toColor(mStyle.color), mStyle.width));
+    painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
+  }
+
+ private:
+  bool hasLabel(double value) const {
+    if (mStyle.labelEvery < 1) return false;
+    const auto& levels = mScene.contourLevels;
+    const auto at = std::lower_bound(levels.begin(), levels.end(), value) - levels.begin();
+    return at % mStyle.labelEvery == 0;
+  }
+
+  /// Tries places along the line, from its middle outwards, until one is free.
+  void label(QPainter& painter, const QPolygonF& line, double value, const QRectF& canvas,
+             std::vector<QRectF>& taken) const {
+    QFont font;  // not the painter's, which counts in the device's resolution
+    font.setPointSizeF(mStyle.labelPoints);
+    QPainterPath text;
+    text.addText(0, 0, font, QString::fromStdString(valueText(value, mScene.range.span() / 50.0)));
+    const QRectF box = text.boundingRect();
+    text.translate(-box.center());
+    const double length = lengthOf(line);
+    if (length < 1.6 * box.width()) return;
+    for (const double f : {0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8}) {
+      const double half = 0.5 * box.width();
+      const QPointF from = pointAt(line, f * length - half);
+      const QPointF to = pointAt(line, f * length + half);
+      const QPointF along = to - from;
+      // Where the line turns within the width of the text, the text would not lie on it.
+      if (std::hypot(along.x(), along.y()) < 1.8 * half) continue;
+      double angle = std::atan2(along.y(), along.x());
+      if (std::cos(angle) < 0.0) angle += 3.14159265358979323846;
+      QTransform place;
+      const QPointF middle = (from + to) / 2.0;
+      place.translate(middle.x(), middle.y());
+      place.rotateRadians(angle);
+      const QPainterPath placed = place.map(text);
+      const QRectF bounds = placed.boundingRect().adjusted(-3, -3, 3, 3);
+      const auto collides = [&bounds](const QRectF& other) { return other.intersects(bounds); };
+      if (!canvas.contains(bounds) || std::any_of(taken.begin(), taken.end(), collides)) continue;
+      taken.push_back(bounds);
+      painter.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      painter.setBrush(Qt::NoBrush);
+      painter.drawPath(placed);
+      painter.setPen(Qt::NoPen);
+      painter.setBrush(toColor(mStyle.color));
+      painter.drawPath(placed);
+      return;
+    }
+  }
+
+  static double lengthOf(const QPolygonF& line) {
+    double length = 0.0;
+    for (int i = 1; i < line.size(); ++i) length += QLineF(line[i - 1], line[i]).length();
+    return length;
+  }
+
+  static QPointF pointAt(const QPolygonF& line, double distance) {
+    for (int i = 1; i < line.size(); ++i) {
+      const QLineF piece(line[i - 1], line[i]);
+      const double length = piece.length();
+      if (distance <= length && length > 0.0) return piece.pointAt(distance / length);
+      distance -= length;
+    }
+    return line.back();
+  }
+
+  const SectionScene& mScene;
+  const ContourStyle& mStyle;
+};
+
+}  // namespace
+
+QwtPlotItem* cells(const SectionScene& scene, const ColorTable& colors) {
+  return new CellsItem(scene, colors);
+}
+
+QwtPlotItem* contours(const SectionScene& scene, const ContourStyle& style) {
+  return new ContoursItem(scene, style);
+}
+
+QwtPlotItem* lines(const std::vector<std::vector<Point2D>>& polylines, const QString& name,
+                   const QColor& color, const LineStyle& style) {
+  QPen pen(color, style.width);
+  if (style.dashed) pen.setStyle(Qt::DashLine);
+  return new LinesItem(polylines, name, pen);
+}
+
+QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker) {
+  return new MarkersItem(points, name, marker);
+}
+
+}  // namespace talvesk::section_items

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "base/Point2D.h"
+#include "view/ColorPalette.h"
+
+#include <vector>
+
+class QColor;
+class QString;
+class QwtPlotItem;
+
+namespace talvesk {
+
+struct ContourStyle;
+struct SectionScene;
+
+/// The layers of a section on a plot with distance below and elevation at the left. The plot that
+/// they are attached to owns them; scene and colours must outlive it.
+namespace section_items {
+
+/// The drawn cells, each in the colour of its class and without an outline.
+QwtPlotItem* cells(const SectionScene& scene, const ColorTable& colors);
+
+/// The iso-lines with their values written into them.
+QwtPlotItem* contours(const SectionScene& scene, const ContourStyle& style);
+
+struct LineStyle {
+  double width = 1.0;  ///< points of 1/96 inch
+  bool dashed = false;
+};
+
+/// Polylines of one colour, with `name` in the legend. Points that lie on the line between their
+/// neighbours, as far as an eye can see, are left out.
+QwtPlotItem* lines(const std::vector<std::vector<Point2D>>& polylines, const QString& name,
+                   const QColor& color, const LineStyle& style);
+
+enum class Marker { kGeophone, kShot };
+
+/// Symbols at points: a triangle that stands with its tip on a geophone, a star around a shot.
+QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker);
+
+}  // namespace section_items
+}  // namespace talvesk

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/Status.h"
+#include "figures/SectionFigure.h"
+
+#include <memory>
+#include <string>
+
+class QPainter;
+class QRectF;
+
+namespace talvesk {
+
+/// A section laid out as a plot with axes, colour bar, legend and caption, ready to be painted on
+/// any device. Lives on the thread of the QApplication.
+class SectionPlot {
+ public:
+  SectionPlot(SectionScene scene, const SectionFigureOptions& options);
+  ~SectionPlot();
+  SectionPlot(const SectionPlot&) = delete;
+  SectionPlot& operator=(const SectionPlot&) = delete;
+
+  /// Chooses scales and, for a heightMm of 0, the height. Fails when axes and texts leave no room
+  /// for the section.
+  Status layOut(double widthMm, double heightMm);
+  const SectionFigureLayout& layout() const { return mLayout; }
+  const std::string& title() const { return mTitle; }
+
+  /// Paints onto a device that knows its resolution; `sheet` is the rectangle that the layout
+  /// fills.
+  void paint(QPainter& painter, const QRectF& sheet);
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> mParts;
+  SectionFigureLayout mLayout;
+  std::string mTitle;
+};
+
+/// The exaggeration at which a section of this height over width is legible: the least of a row of
+/// round numbers, 1 first, that makes it at least a quarter as high as wide.
+double legibleExaggeration(double heightOverWidth);
+
+}  // namespace talvesk
