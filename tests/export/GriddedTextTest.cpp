@@ -1,0 +1,117 @@
+#include "base/AtomicFile.h"
+#include "export/GriddedText.h"
+#include "support/ConsoleCapture.h"
+#include "support/TestGrids.h"
+
+#include <clocale>
+#include <filesystem>
+#include <limits>
+#include <sstream>
+
+#include <gmock/gmock.h>
+
+namespace talvesk {
+namespace {
+
+using namespace talvesk::testing;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+std::string temporary(const std::string& name) {
+  return (std::filesystem::path(::testing::TempDir()) / name).string();
+}
+
+/// Two rows of two cells of 10 m under level ground at 100 m, 500 m/s above 2000 m/s.
+TomoDocument document() {
+  TomoDocument document;
+  const auto surface = hills(20.0, 0.0);
+  document.grid =
+      std::make_unique<Grid>(std::make_shared<GridGeometry>(GridSize{2, 2, 3, 10.0}, surface),
+                             std::vector<double>{0.002, 0.002, 0.0005, 0.0005});
+  return document;
+}
+
+std::vector<std::string> linesOf(const std::string& path) {
+  std::string bytes;
+  EXPECT_TRUE(readWholeFile(path, bytes).ok());
+  std::istringstream stream(bytes);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+TEST(GriddedText, writesCentreLineElevationAndVelocity) {
+  const ConsoleCapture console;
+  const std::string path = temporary("grid.txt");
+  ASSERT_TRUE(writeGriddedText(path, document(), 0.0, 0.0).ok());
+  const TomoDocument same = document();
+  const Point2D first = same.grid->cellCentre(0);
+  ASSERT_NEAR(first.x, 5.0, 2.0);
+  EXPECT_EQ(first.z, -95.0);  // a depth: five metres below ground at 100 m
+  std::ostringstream x0, x1;
+  x0 << first.x;
+  x1 << same.grid->cellCentre(1).x;
+  EXPECT_THAT(linesOf(path), ElementsAre(x0.str() + " 0 95 500", x1.str() + " 0 95 500",
+                                         x0.str() + " 0 85 2000", x1.str() + " 0 85 2000"));
+  EXPECT_EQ(console.out(), "Exporting tomographic data on file: " + path + "\n");
+}
+
+TEST(GriddedText, shiftsTheLineInSixDigitsWhateverTheLocale) {
+  const ConsoleCapture console;
+  const std::string path = temporary("shifted.txt");
+  const char* locale = std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
+  ASSERT_TRUE(writeGriddedText(path, document(), 1234567.8, -0.12345678).ok());
+  if (locale != nullptr) std::setlocale(LC_NUMERIC, "C");
+  EXPECT_THAT(linesOf(path)[0], HasSubstr(" 1.23457e+06 94.8765 500"));
+}
+
+TEST(GriddedText, leavesOutCellsThatAreNotDrawn) {
+  const ConsoleCapture console;
+  const std::string path = temporary("hidden.txt");
+  const TomoDocument hidden = document();
+  hidden.grid->setDraw(1, false);
+  hidden.grid->setDraw(2, false);
+  ASSERT_TRUE(writeGriddedText(path, hidden, 0.0, 0.0).ok());
+  EXPECT_THAT(linesOf(path), ElementsAre(HasSubstr(" 95 500"), HasSubstr(" 85 2000")));
+}
+
+TEST(GriddedText, writesAPlaceholderForAnInfiniteVelocity) {
+  const ConsoleCapture console;
+  const std::string path = temporary("placeholder.txt");
+  const TomoDocument unknown = document();
+  unknown.grid->setSlowness(0, 0.0);
+  unknown.grid->setSlowness(1, -0.0);
+  unknown.grid->setSlowness(2, std::numeric_limits<double>::denorm_min());
+  ASSERT_TRUE(writeGriddedText(path, unknown, 0.0, 0.0).ok());
+  EXPECT_THAT(linesOf(path), ElementsAre(HasSubstr(" 1.79769e+308"), HasSubstr(" 1.79769e+308"),
+                                         HasSubstr(" 1.79769e+308"), HasSubstr(" 85 2000")));
+}
+
+TEST(GriddedText, writesNothingWithoutAGridOrWithAnEndlessShift) {
+  const std::string path = temporary("old.txt");
+  ASSERT_TRUE(writeFileAtomically(path, "old\n").ok());
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const struct {
+    TomoDocument document;
+    double lineY;
+    const char* message;
+  } cases[] = {{TomoDocument(), 0.0, "has no grid"}, {document(), nan, "must be finite"}};
+  for (const auto& c : cases) {
+    const ConsoleCapture console;
+    const Status status = writeGriddedText(path, c.document, c.lineY, 0.0);
+    EXPECT_FALSE(status.ok());
+    EXPECT_THAT(status.message(), HasSubstr(c.message));
+    EXPECT_EQ(console.error(), status.message() + "\n");
+    EXPECT_THAT(linesOf(path), ElementsAre("old"));
+  }
+}
+
+TEST(GriddedText, saysWhereItCannotWrite) {
+  const ConsoleCapture console;
+  const Status status = writeGriddedText("/no/such/folder/grid.txt", document(), 0.0, 0.0);
+  EXPECT_FALSE(status.ok());
+  EXPECT_THAT(status.message(), HasSubstr("/no/such/folder/grid.txt"));
+}
+
+}  // namespace
+}  // namespace talvesk

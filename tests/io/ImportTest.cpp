@@ -1,0 +1,173 @@
+#include "Samples.h"
+#include "base/AtomicFile.h"
+#include "io/TravelTimeFile.h"
+#include "support/ConsoleCapture.h"
+#include "support/TestGrids.h"
+
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+namespace talvesk {
+namespace {
+
+using namespace talvesk::testing;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+TravelTimeData sample() {
+  const ConsoleCapture console;
+  TravelTimeData data;
+  EXPECT_TRUE(parseTravelTimes(kOtte, "a.otte", data).ok());
+  return data;
+}
+
+/// A document with a grid and the results of an inversion.
+TomoDocument inverted(std::size_t shots, std::size_t traces) {
+  TomoDocument document;
+  document.traceSets.assign(shots, TraceSet(traces));
+  document.filenames.assign(shots, "shot.dat");
+  document.goephonesStringSet = {{{0, 1}, {1, 1}}, {{2, 1}}};
+  for (std::size_t i = 0; i < shots; ++i) {
+    TravelTime record;
+    record.traceSetID = static_cast<int>(i);
+    record.ttMisurati.assign(traces, kUnpicked);
+    record.ttCalcolati.assign(traces, 0.5);
+    document.ttArray.push_back(record);
+  }
+  document.grid = roughGrid({2, 2, 3, 5.0}, 0.0);
+  document.proposedCellSizes = {5.0};
+  document.hasTomographicInfo = true;
+  document.RMSE_tomography = 3.0;
+  document.info_density = {1.0};
+  document.rays = {{1, 2}};
+  document.hitCounts = {1};
+  document.coorcount = {1.0};
+  document.excluded = {{0, 1, 2.0}};
+  document.layers.resize(1);
+  return document;
+}
+
+void expectNoModel(const TomoDocument& document) {
+  EXPECT_EQ(document.grid, nullptr);
+  EXPECT_FALSE(document.hasTomographicInfo);
+  EXPECT_EQ(document.RMSE_tomography, -1.0);
+  EXPECT_TRUE(document.info_density.empty() && document.rays.empty());
+  EXPECT_TRUE(document.hitCounts.empty() && document.coorcount.empty());
+  EXPECT_TRUE(document.excluded.empty() && document.proposedCellSizes.empty());
+}
+
+TEST(Import, replacesASurveyWithoutTraces) {
+  TomoDocument document = inverted(5, 2);
+  document.traceSets.clear();
+  document.title = "line 4";
+  ASSERT_TRUE(importTravelTimes(sample(), document).ok());
+  EXPECT_EQ(document.goephonesStringSet.size(), 1u);
+  EXPECT_EQ(document.ttArray.size(), 2u);
+  EXPECT_THAT(document.shotPositions, ElementsAre(-2.5, 12.5));
+  EXPECT_THAT(document.filenames, IsEmpty());
+  EXPECT_THAT(document.layers, IsEmpty());
+  EXPECT_EQ(document.title, "line 4");
+  expectNoModel(document);
+  EXPECT_TRUE(document.modified);
+}
+
+TEST(Import, fillsTheRecordsByTheirTraceSet) {
+  TomoDocument document = inverted(2, 3);
+  TravelTimeData data = sample();
+  std::swap(data.records[0], data.records[1]);
+  ASSERT_TRUE(importTravelTimes(std::move(data), document).ok());
+  EXPECT_THAT(document.ttArray[0].ttMisurati, ElementsAre(0.0055, 0.01025, kNoTime));
+  EXPECT_THAT(document.ttArray[1].ttMisurati, ElementsAre(0.03, 0.02, kUnpicked));
+  EXPECT_THAT(document.ttArray[1].ttCalcolati, ElementsAre(kNoTime, kNoTime, kNoTime));
+  EXPECT_EQ(document.ttArray[0].traceSetID, 0);
+  EXPECT_EQ(document.ttArray[0].shotPos2d, (Point2D{-2.5, 99}));
+  EXPECT_THAT(document.shotPositions, ElementsAre(-2.5, 12.5));
+  EXPECT_EQ(document.goephonesStringSet, sample().strings);
+  EXPECT_EQ(document.traceSets.size(), 2u);
+  EXPECT_EQ(document.filenames.size(), 2u);
+  EXPECT_EQ(document.layers.size(), 1u);
+  expectNoModel(document);
+  EXPECT_TRUE(document.modified);
+}
+
+TEST(Import, keepsTheGridWhenOnlyTimesChange) {
+  TomoDocument document = inverted(2, 3);
+  document.goephonesStringSet = sample().strings;
+  for (std::size_t i = 0; i < 2; ++i) document.ttArray[i].shotPos2d = sample().records[i].shotPos2d;
+  ASSERT_TRUE(importTravelTimes(sample(), document).ok());
+  EXPECT_THAT(document.ttArray[0].ttMisurati, ElementsAre(0.0055, 0.01025, kNoTime));
+  EXPECT_THAT(document.ttArray[0].ttCalcolati, ElementsAre(0.5, 0.5, 0.5));
+  EXPECT_NE(document.grid, nullptr);
+  EXPECT_TRUE(document.hasTomographicInfo);
+}
+
+void expectUntouched(const TomoDocument& document, std::size_t shots, std::size_t traces) {
+  EXPECT_FALSE(document.modified);
+  EXPECT_NE(document.grid, nullptr);
+  EXPECT_EQ(document.RMSE_tomography, 3.0);
+  EXPECT_EQ(document.goephonesStringSet.size(), 2u);
+  EXPECT_THAT(document.shotPositions, IsEmpty());
+  ASSERT_EQ(document.ttArray.size(), shots);
+  for (const TravelTime& record : document.ttArray) {
+    EXPECT_EQ(record.ttMisurati, std::vector<double>(traces, kUnpicked));
+  }
+}
+
+TEST(Import, leavesTheDocumentWhenThePicksDoNotFitItsTraces) {
+  TravelTimeData twice = sample();
+  twice.records[1].traceSetID = 0;
+  TravelTimeData beyond = sample();
+  beyond.records[1].traceSetID = 2;
+  TravelTimeData negative = sample();
+  negative.records[0].traceSetID = -1;
+  TravelTimeData noString = sample();
+  noString.records[1].indexStesa = 1;
+  const struct {
+    TravelTimeData data;
+    std::size_t shots;
+    std::size_t traces;
+    const char* message;
+  } cases[] = {
+      {sample(), 3, 3, "picks of 2 shots, the survey has 3"},
+      {sample(), 2, 4, "3 times for trace set 0, which has 4 traces"},
+      {twice, 2, 3, "trace set 0 is named twice or not in the survey"},
+      {beyond, 2, 3, "trace set 2 is named twice or not in the survey"},
+      {negative, 2, 3, "trace set -1 is named twice or not in the survey"},
+      {noString, 2, 3, "a record names geophone string 1 of 1"},
+  };
+  for (const auto& c : cases) {
+    TomoDocument document = inverted(c.shots, c.traces);
+    const Status status = importTravelTimes(c.data, document);
+    EXPECT_EQ(status.code(), 1);
+    EXPECT_THAT(status.message(), HasSubstr(c.message));
+    expectUntouched(document, c.shots, c.traces);
+  }
+}
+
+TEST(Load, tellsFileAndReasonAndLeavesTheDocument) {
+  const std::string path = (std::filesystem::path(::testing::TempDir()) / "load.otte").string();
+  for (const std::string& text : {kOtte, replaced(kOtte, "10.25", "x")}) {
+    ASSERT_TRUE(writeFileAtomically(path, text).ok());
+    TomoDocument document = inverted(3, 3);
+    const ConsoleCapture console;
+    const Status status = loadTravelTimes(path, document);
+    EXPECT_EQ(status.code(), 1);
+    EXPECT_THAT(status.message(), HasSubstr(path));
+    EXPECT_EQ(console.error(), status.message() + "\n");
+    expectUntouched(document, 3, 3);
+  }
+}
+
+TEST(Load, fillsAnEmptyDocument) {
+  const std::string path = (std::filesystem::path(::testing::TempDir()) / "load.XYZ").string();
+  ASSERT_TRUE(writeFileAtomically(path, kPickTable).ok());
+  TomoDocument document;
+  const ConsoleCapture console;
+  EXPECT_EQ(loadTravelTimes(path, document).code(), 0);
+  EXPECT_EQ(document.ttArray.size(), 2u);
+}
+
+}  // namespace
+}  // namespace talvesk
