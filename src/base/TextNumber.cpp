@@ -6,7 +6,6 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
-#include <cstring>
 #include <system_error>
 
 #include <stdlib.h>
@@ -48,7 +47,7 @@ NumberError parseDouble(std::string_view text, double& value) {
   text = text.substr(0, static_cast<std::size_t>(end - text.begin()));
   std::array<char, 64> buffer;
   if (text.size() >= buffer.size()) return convert(std::string(text).c_str(), value);
-  std::memcpy(buffer.data(), text.data(), text.size());
+  text.copy(buffer.data(), text.size());
   buffer[text.size()] = '\0';
   return convert(buffer.data(), value);
 }

@@ -1,5 +1,5 @@
 #include "base/Log.h"
-#include "support/CapturedConsole.h"
+#include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 
 #include <regex>
@@ -9,7 +9,7 @@
 namespace talvesk {
 namespace {
 
-using testing::CapturedConsole;
+using testing::ConsoleCapture;
 using testing::TestFolder;
 
 const std::string kStamp = R"(\[\d{4}-\d{2}-\d{2}\.\d{2}:\d{2}:\d{2}\] )";
@@ -20,7 +20,7 @@ bool isStamped(const std::string& text, const std::string& rest) {
 
 TEST(Log, writesTheErrorMarkToTheFileOnly) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   Log log(folder.file("run.log"));
   log.write("disk is full", 1);
   EXPECT_EQ(console.out(), "");
@@ -31,7 +31,7 @@ TEST(Log, writesTheErrorMarkToTheFileOnly) {
 TEST(Log, takesEveryOtherLevelAsInformation) {
   for (const int level : {0, 2, -1}) {
     const TestFolder folder;
-    const CapturedConsole console;
+    const ConsoleCapture console;
     Log log(folder.file("run.log"));
     log.write("Setting Grid ...", level);
     EXPECT_EQ(console.error(), "");
@@ -42,7 +42,7 @@ TEST(Log, takesEveryOtherLevelAsInformation) {
 
 TEST(Log, startsAFreshFileWithTheFirstMessageAndKeepsTheLater) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   Log log(folder.put("run.log", "lines of the last run\n"));
   EXPECT_EQ(TestFolder::get(log.path()), "lines of the last run\n");
   log.write("Application Start");
@@ -52,7 +52,7 @@ TEST(Log, startsAFreshFileWithTheFirstMessageAndKeepsTheLater) {
 
 TEST(Log, complainsAndGoesOnWhenTheFileCannotBeOpened) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   Log log(folder.file("no/such/folder/run.log"));
   log.write("hello");
   EXPECT_EQ(console.error(), "Impossible to open log filehello\n");
@@ -60,7 +60,7 @@ TEST(Log, complainsAndGoesOnWhenTheFileCannotBeOpened) {
 }
 
 TEST(Log, withoutAFileReachesTheConsoleOnly) {
-  const CapturedConsole console;
+  const ConsoleCapture console;
   Log log;
   log.write("hello");
   EXPECT_EQ(console.error(), "");

@@ -1,5 +1,5 @@
 #include "base/Settings.h"
-#include "support/CapturedConsole.h"
+#include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 
 #include <tuple>
@@ -9,7 +9,7 @@
 namespace talvesk {
 namespace {
 
-using testing::CapturedConsole;
+using testing::ConsoleCapture;
 using ::testing::HasSubstr;
 using testing::TestFolder;
 
@@ -36,7 +36,7 @@ const std::string kGroupOf2019 =
 
 TEST(Settings, comeBackAsTheyWereSaved) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   Settings saved(folder.file("settings.xml"));
   saved.language = "it <&> \xC3\xA8";
   saved.fillWiggle = saved.cutHorizontal = saved.showFiltered = false;
@@ -68,7 +68,7 @@ TEST(Settings, areWrittenInTheOrderOfTheFile) {
 
 TEST(Settings, ofTheLanguageOnlyKeepTheDefaultsAndTellEveryStage) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   Settings settings(folder.put("settings.xml", xml("<language>it</language>")));
   EXPECT_TRUE(settings.load());
   Settings expected("");
@@ -89,7 +89,7 @@ class SettingsOfOlderVersions : public ::testing::TestWithParam<OldFile> {};
 
 TEST_P(SettingsOfOlderVersions, keepWhatTheyHold) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   const std::string content = "<language>fr</language>" + kGroupOf2019 + GetParam().content;
   Settings settings(folder.put("settings.xml", xml(content)));
   settings.twoColors = settings.savePngHColorbar = settings.showAllTraces = true;
@@ -112,7 +112,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Settings, areReadByNameInAnyOrder) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   Settings settings(folder.put(
       "settings.xml", xml("<twoColors>true</twoColors><savePngHColorbar>true</savePngHColorbar>"
                           "<showAllTraces>true</showAllTraces>" +

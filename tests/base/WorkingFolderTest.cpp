@@ -1,6 +1,6 @@
 #include "base/History.h"
 #include "base/WorkingFolder.h"
-#include "support/CapturedConsole.h"
+#include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 namespace talvesk {
 namespace {
 
-using testing::CapturedConsole;
+using testing::ConsoleCapture;
 using testing::TestFolder;
 
 TEST(WorkingFolder, isCreatedOneLevelDeep) {
@@ -30,7 +30,7 @@ TEST(WorkingFolder, isCreatedOneLevelDeep) {
 
 TEST(History, remembersTheLastFolder) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   const History history(folder.file("history.txt"));
   history.saveHistory("/data/a rather long name/line 7");
   history.saveHistory(
@@ -45,7 +45,7 @@ TEST(History, remembersTheLastFolder) {
 
 TEST(History, isTheFirstLineOfTheFile) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   EXPECT_EQ(History(folder.put("empty", "")).readHistory(), "");
   EXPECT_EQ(History(folder.put("two", "/first\n/second\n")).readHistory(), "/first");
   EXPECT_EQ(History(folder.put("dos", "C:/first\r\n")).readHistory(), "C:/first");
@@ -55,7 +55,7 @@ TEST(History, isTheFirstLineOfTheFile) {
 TEST(History, fallsBackToTheHomeDirectory) {
   const TestFolder folder;
   for (const std::string& path : {folder.file("missing"), folder.path()}) {
-    const CapturedConsole console;
+    const ConsoleCapture console;
     EXPECT_EQ(History(path).readHistory(), QDir::homePath().toStdString());
     EXPECT_EQ(console.error(), "ERROR while trying to read history file.\n");
   }
@@ -63,7 +63,7 @@ TEST(History, fallsBackToTheHomeDirectory) {
 
 TEST(History, tellsThatItCannotBeSaved) {
   const TestFolder folder;
-  const CapturedConsole console;
+  const ConsoleCapture console;
   History(folder.file("no/such/folder/history.txt")).saveHistory("/data");
   EXPECT_EQ(console.error(), "ERROR while trying to save history file.\n");
 }
