@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kFormatConstant = 2;
 constexpr double kMillisecondsPerSecond = 1000.0;
+constexpr double kSmallest = 1e-300;  ///< of a distance or time that is written as more than 0
 
 class OtteReader : private PickReader {
  public:
@@ -18,7 +19,7 @@ class OtteReader : private PickReader {
 
   std::optional<Refusal> read(std::string& version, TravelTimeData& data) {
     const bool whole = readHead(version) && readPositions("geophone", mGeophones) &&
-                       checkStringCount() && readPositions("shot", mShots) && readRecords() &&
+                       readPositions("shot", mShots) && checkStringCount() && readRecords() &&
                        makeStrings();
     return finish(whole, "otte", data);
   }
@@ -75,14 +76,15 @@ class OtteReader : private PickReader {
     return true;
   }
 
-  /// Before anything is sized by the number of strings: a string cannot be without a geophone, but
-  /// for the only one of a survey whose geophones are not known yet.
+  /// Before anything is sized by the number of strings: each has a geophone, or at least a shot
+  /// that was fired into it, but for the only string of a survey that is still empty.
   bool checkStringCount() {
-    const std::size_t most = std::max<std::size_t>(mGeophones.size(), 1);
+    const std::size_t most = std::max<std::size_t>(mGeophones.size() + mShots.size(), 1);
     const bool sane = mStringCount >= 0 && static_cast<std::size_t>(mStringCount) <= most &&
                       (mStringCount > 0 || mGeophones.empty());
     return sane || refuse("the file names " + std::to_string(mStringCount) + " strings for " +
-                          counted(mGeophones.size(), "geophone"));
+                          counted(mGeophones.size(), "geophone") + " and " +
+                          counted(mShots.size(), "shot"));
   }
 
   bool readRecords() {
@@ -202,9 +204,9 @@ class OtteReader : private PickReader {
   std::vector<Point2D> mShots;
 };
 
-/// What the reader takes back: it refuses numbers below the range of normal doubles.
+/// What the reader takes back: it refuses numbers that lose digits at the end of the range.
 double readable(double value) {
-  return std::fpclassify(value) == FP_SUBNORMAL ? 0.0 : value;
+  return std::abs(value) < kSmallest ? 0.0 : value;
 }
 
 void printRow(std::ostream& out, const std::vector<Point2D>& points, double Point2D::*coordinate) {

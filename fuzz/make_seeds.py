@@ -1,0 +1,77 @@
+#!/usr/bin/env python3
+"""Writes the seed corpus of fuzz_travel_times: a small survey in every format.
+
+usage: make_seeds.py FOLDER
+The first byte of a seed chooses the reader, the rest is the file.
+"""
+import pathlib
+import sys
+
+
+def row(values, separator, last=""):
+    return separator.join(f"{value:g}" for value in values) + (last if values else "")
+
+
+def survey(shots, geophones):
+    """Geophones every 5 m on a slope, times (ms) of a direct wave, every fourth pick missing."""
+    receivers = [(5.0 * i, 100 + 0.3 * i) for i in range(geophones)]
+    sources = [(-2.5 + 10 * i, 99.5 + i) for i in range(shots)]
+    times = [[-99000 if (i + j) % 4 == 3 else 0.1 + abs(x - s[0]) / 0.8
+              for j, (x, _) in enumerate(receivers)] for i, s in enumerate(sources)]
+    return receivers, sources, times
+
+
+def otte(receivers, sources, times, strings=1):
+    every = receivers * strings
+    lines = ["otte", "1.0", "2", str(strings)]
+    lines += [row([p[k] for p in points], ";", ";") for points in (every, sources) for k in (0, 1)]
+    for i, line in enumerate(times):
+        lines += [str(i % strings), str(i), row(line, ";", ";")]
+    return lines
+
+
+def tx_curves(receivers, sources, times):
+    lines = ["TX_CURVE", "VERSION: 1.0", "INFO", "ELEVATION 1",
+             f"TOTAL_NUMBER_OF_SHOTS {len(sources)}"]
+    for i, (source, line) in enumerate(zip(sources, times)):
+        lines += ["", f"SEISMIC_DATA_FILE_NAME {i}.dat",
+                  "SHOT_LOCATION " + row(source if i % 2 else source[:1], " "),
+                  f"NUMBER_OF_RECEIVERS {len(receivers)}"]
+        lines += [row([j + 1, *p, t], " ") for j, (p, t) in enumerate(zip(receivers, line))]
+    return lines
+
+
+def pick_table(receivers, sources, times):
+    def section(header, points, coordinate):
+        return [header, row(range(1, len(points) + 1), " "), row([p[coordinate] for p in points], " ")]
+
+    return (section("Shot number, Shot elevation", sources, 1)
+            + section("Shot number, Shot distance", sources, 0)
+            + section("Receiver number, receiver distance", receivers, 0)
+            + section("Receiver number, receiver elevation", receivers, 1)
+            + ["FBP times"] + [row(line, " ") for line in times])
+
+
+def csv(receivers, sources, times):
+    lines = [";;" + row([p[k] for p in receivers], ";") for k in (0, 1)]
+    return lines + [row([*source, *line], ";") for source, line in zip(sources, times)]
+
+
+def main():
+    folder = pathlib.Path(sys.argv[1])
+    folder.mkdir(parents=True, exist_ok=True)
+    count = 0
+    for size in ((0, 1), (1, 1), (2, 3), (4, 12)):
+        data = survey(*size)
+        for reader, lines in enumerate([otte(*data), tx_curves(*data), pick_table(*data),
+                                        csv(*data), otte(*data, strings=2)]):
+            for end in ("\n", "\r\n"):
+                text = "".join(line + end for line in lines)
+                seed = bytes([reader % 4]) + text.encode("ascii")
+                (folder / f"seed{count:02d}").write_bytes(seed)
+                count += 1
+    print(f"{count} seeds in {folder}")
+
+
+if __name__ == "__main__":
+    main()
