@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QByteArray>
+#include <QFont>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QImage>
@@ -150,6 +151,14 @@ Status paintFigure(FigureFormat format, const FigureSheet& sheet, const Paint& p
       break;
   }
   return paintPdf(sheet, paint, buffer);
+}
+
+QFont figureFont(double points, bool bold) {
+  QFont font(QStringLiteral("sans-serif"));
+  font.setStyleHint(QFont::SansSerif);
+  font.setPointSizeF(points);
+  font.setBold(bold);
+  return font;
 }
 
 }  // namespace talvesk

@@ -6,6 +6,7 @@
 #include <string>
 
 class QByteArray;
+class QFont;
 class QPainter;
 class QRectF;
 
@@ -40,5 +41,9 @@ struct FigureSheet {
 /// figure without words is no figure.
 Status paintFigure(FigureFormat format, const FigureSheet& sheet,
                    const std::function<void(QPainter&, const QRectF&)>& paint, QByteArray& bytes);
+
+/// The font of all figures. An SVG names it, so it goes by the generic family that every viewer
+/// has.
+QFont figureFont(double points, bool bold = false);
 
 }  // namespace talvesk

@@ -5,9 +5,11 @@
 
 #include <vector>
 
+class QPolygonF;
 class QColor;
 class QString;
 class QwtPlotItem;
+class QwtScaleMap;
 
 namespace talvesk {
 
@@ -38,6 +40,17 @@ enum class Marker { kGeophone, kShot };
 
 /// Symbols at points: a triangle that stands with its tip on a geophone, a star around a shot.
 QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker);
+
+// --- What the items share.
+
+/// Who paints over whom, the highest last.
+enum Layer { kCellsLayer = 10, kRaysLayer = 20, kContoursLayer = 30, kMarkersLayer = 50 };
+
+QColor toColor(const RgbColor& color);
+
+/// A line on the sheet without the points that no eye would miss.
+QPolygonF thinned(const std::vector<Point2D>& points, const QwtScaleMap& xMap,
+                  const QwtScaleMap& elevationMap);
 
 }  // namespace section_items
 }  // namespace talvesk

@@ -3,6 +3,7 @@
 #include "figures/SectionItems.h"
 #include "view/SectionTexts.h"
 
+#include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QImage>
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 #include <qwt_legend.h>
 #include <qwt_plot.h>
@@ -49,11 +51,16 @@ QString number(double value, int digits = 10) {
 
 QwtText plainText(const QString& words, double points, bool bold = false) {
   QwtText result(words, QwtText::PlainText);
-  QFont font;
-  font.setPointSizeF(points);
-  font.setBold(bold);
-  result.setFont(font);
+  result.setFont(figureFont(points, bold));
+  result.setRenderFlags(Qt::AlignCenter | Qt::TextWordWrap);
   return result;
+}
+
+/// The more rays there are, the lighter each is drawn, so that they do not hide the section.
+QColor rayColor(std::size_t count) {
+  const double opacity =
+      0.45 * std::sqrt(500.0 / static_cast<double>(std::max<std::size_t>(count, 500)));
+  return QColor::fromRgbF(0.0, 0.0, 0.0, std::max(opacity, 0.1));
 }
 
 class NumberScaleDraw : public QwtScaleDraw {
@@ -73,25 +80,42 @@ class SectionRenderer : public QwtPlotRenderer {
 
   void measureOnly() { mMeasureOnly = true; }
 
+  /// Qwt shortens a scale whose end labels it cannot seat. These labels have room; every scale is
+  /// as long as the canvas, and a position has one meaning on the sheet.
   void renderScale(const QwtPlot* plot, QPainter* painter, int axis, int startDist, int endDist,
                    int baseDist, const QRectF& rect) const override {
     if (mMeasureOnly) return;
-    if (axis == QwtPlot::yRight) {
-      paintColorBar(*painter, QRectF(rect.left() + kColorBarGap, rect.top() + startDist,
-                                     kColorBarWidth, rect.height() - startDist - endDist));
+    const QRectF canvas = plot->plotLayout()->canvasRect();
+    QRectF place = rect;
+    if (axis == QwtPlot::xBottom || axis == QwtPlot::xTop) {
+      place.setLeft(canvas.left() - startDist);
+      place.setRight(canvas.right() + endDist);
+    } else {
+      place.setTop(canvas.top() - startDist);
+      place.setBottom(canvas.bottom() + endDist);
     }
-    QwtPlotRenderer::renderScale(plot, painter, axis, startDist, endDist, baseDist, rect);
+    if (axis == QwtPlot::yRight) {
+      paintColorBar(*painter, QRectF(rect.left() + kColorBarGap, canvas.top(), kColorBarWidth,
+                                     canvas.height()));
+    }
+    QwtPlotRenderer::renderScale(plot, painter, axis, startDist, endDist, baseDist, place);
   }
 
   void renderCanvas(const QwtPlot* plot, QPainter* painter, const QRectF& rect,
                     const QwtScaleMap* maps) const override {
-    mXMap = maps[QwtPlot::xBottom];
-    mElevationMap = maps[QwtPlot::yLeft];
+    std::vector<QwtScaleMap> filling(maps, maps + QwtPlot::axisCnt);
+    for (const int axis : {QwtPlot::xBottom, QwtPlot::xTop}) {
+      filling[axis].setPaintInterval(rect.left(), rect.right());
+    }
+    for (const int axis : {QwtPlot::yLeft, QwtPlot::yRight}) {
+      filling[axis].setPaintInterval(rect.bottom(), rect.top());
+    }
+    mXMap = filling[QwtPlot::xBottom];
+    mElevationMap = filling[QwtPlot::yLeft];
     if (mMeasureOnly) return;
-    QwtPlotRenderer::renderCanvas(plot, painter, rect, maps);
+    QwtPlotRenderer::renderCanvas(plot, painter, rect, filling.data());
     painter->save();
-    paintFrame(*painter, QRectF(QPointF(mXMap.p1(), mElevationMap.p2()),
-                                QPointF(mXMap.p2(), mElevationMap.p1())));
+    paintFrame(*painter, rect);
     painter->restore();
   }
 
@@ -147,6 +171,7 @@ struct SectionPlot::Parts {
   void addLayers();
   void measure(double widthMm, double heightMm, SectionFigureLayout& layout);
   void setScales(double width, double height);
+  void takePlace(const SectionRenderer& renderer, double mmPerPoint, SectionFigureLayout& layout);
 
   SectionFigureOptions options;
   SectionScene scene;
@@ -160,9 +185,7 @@ struct SectionPlot::Parts {
 void SectionPlot::Parts::addAxis(int axis, const QString& title) {
   plot.enableAxis(axis);
   plot.setAxisTitle(axis, plainText(title, 9.5));
-  QFont font;
-  font.setPointSizeF(8.5);
-  plot.setAxisFont(axis, font);
+  plot.setAxisFont(axis, figureFont(8.5));
   auto* scale = new NumberScaleDraw;
   scale->enableComponent(QwtAbstractScaleDraw::Backbone, false);  // the frame is the axis
   plot.setAxisScaleDraw(axis, scale);
@@ -195,9 +218,7 @@ void SectionPlot::Parts::style() {
   plot.axisWidget(QwtPlot::yRight)->setMargin(static_cast<int>(kColorBarGap + kColorBarWidth));
 
   auto* legend = new QwtLegend;
-  QFont font;
-  font.setPointSizeF(8.5);
-  legend->setFont(font);
+  legend->setFont(figureFont(8.5));
   plot.insertLegend(legend, QwtPlot::BottomLegend);
 }
 
@@ -209,7 +230,8 @@ void SectionPlot::Parts::addLayers() {
   markers(scene.shots, QStringLiteral("Shots"), Marker::kShot)->attach(&plot);
   if (!scene.contours.empty()) contours(scene, options.contourStyle)->attach(&plot);
   if (!scene.rays.empty()) {
-    lines(scene.rays, QStringLiteral("Rays"), QColor(0, 0, 0, 110), {0.5, false})->attach(&plot);
+    lines(scene.rays, QStringLiteral("Rays"), rayColor(scene.rays.size()), {0.5, false})
+        ->attach(&plot);
   }
   if (!scene.coverageLimit.empty()) {
     lines({scene.coverageLimit}, QStringLiteral("Coverage limit"), QColor(200, 0, 120), {1.4, true})
@@ -229,10 +251,20 @@ void SectionPlot::Parts::measure(double widthMm, double heightMm, SectionFigureL
   renderer.render(&plot, &painter, QRectF(0, 0, widthMm * perMm, heightMm * perMm));
   layout.widthMm = widthMm;
   layout.heightMm = heightMm;
-  layout.leftMm = renderer.xMap().p1() / perMm;
-  layout.rightMm = renderer.xMap().p2() / perMm;
-  layout.topMm = renderer.elevationMap().p2() / perMm;
-  layout.bottomMm = renderer.elevationMap().p1() / perMm;
+  takePlace(renderer, 1.0 / perMm, layout);
+}
+
+void SectionPlot::Parts::takePlace(const SectionRenderer& renderer, double mmPerPoint,
+                                   SectionFigureLayout& layout) {
+  layout.leftMm = renderer.xMap().p1() * mmPerPoint;
+  layout.rightMm = renderer.xMap().p2() * mmPerPoint;
+  layout.topMm = renderer.elevationMap().p2() * mmPerPoint;
+  layout.bottomMm = renderer.elevationMap().p1() * mmPerPoint;
+  layout.minX = renderer.xMap().s1();
+  layout.maxX = renderer.xMap().s2();
+  layout.minElevation = renderer.elevationMap().s1();
+  layout.maxElevation = renderer.elevationMap().s2();
+  layout.verticalExaggeration = exaggeration;
 }
 
 /// Scales for a canvas of this size, points: as large as the section fits in, in the middle.
@@ -311,17 +343,17 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
     parts.setScales(width, height);
   }
   parts.measure(widthMm, sheetHeightMm, mLayout);
-  mLayout.minX = parts.plot.axisScaleDiv(QwtPlot::xBottom).lowerBound();
-  mLayout.maxX = parts.plot.axisScaleDiv(QwtPlot::xBottom).upperBound();
-  mLayout.minElevation = parts.plot.axisScaleDiv(QwtPlot::yLeft).lowerBound();
-  mLayout.maxElevation = parts.plot.axisScaleDiv(QwtPlot::yLeft).upperBound();
-  mLayout.verticalExaggeration = parts.exaggeration;
   return {};
 }
 
 void SectionPlot::paint(QPainter& painter, const QRectF& sheet) {
   SectionRenderer renderer(mParts->colors);
   renderer.render(&mParts->plot, &painter, sheet);
+  // A sheet of whole pixels is not quite the sheet that was laid out; Qwt has fitted the plot to
+  // it.
+  const double points =
+      sheet.width() * mParts->plot.logicalDpiX() / painter.device()->logicalDpiX();
+  mParts->takePlace(renderer, mLayout.widthMm / points, mLayout);
 }
 
 double legibleExaggeration(double heightOverWidth) {

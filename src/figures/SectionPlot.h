@@ -23,6 +23,7 @@ class SectionPlot {
   /// Chooses scales and, for a heightMm of 0, the height. Fails when axes and texts leave no room
   /// for the section.
   Status layOut(double widthMm, double heightMm);
+  /// As laid out; after paint() as painted.
   const SectionFigureLayout& layout() const { return mLayout; }
   const std::string& title() const { return mTitle; }
 

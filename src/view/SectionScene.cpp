@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <utility>
 
@@ -110,9 +111,16 @@ std::vector<Point2D> coverageCurve(const TomoDocument& document) {
   return curve;
 }
 
-Status checkRange(const std::optional<ValueRange>& range) {
-  if (!range) return {};
-  if (!std::isfinite(range->min) || !std::isfinite(range->max) || !(range->span() > 0.0)) {
+Status checkOptions(const SectionSceneOptions& options) {
+  const std::size_t most = SectionSceneOptions::kMaxContours;
+  if (options.equallySpacedContours < 0 ||
+      options.contourValues.size() + static_cast<std::size_t>(options.equallySpacedContours) >
+          most) {
+    return Status::failure("A section has 0 to " + std::to_string(most) + " contour values.");
+  }
+  const std::optional<ValueRange>& range = options.range;
+  if (range &&
+      (!std::isfinite(range->min) || !std::isfinite(range->max) || !(range->span() > 0.0))) {
     return Status::failure(
         "The value range of the section is empty: its maximum must be greater than its minimum.");
   }
@@ -156,7 +164,7 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   if (!document.grid || document.grid->cellCount() == 0) {
     return Status::failure("There is no section to draw: the survey has no grid yet. Build one.");
   }
-  if (Status status = checkRange(options.range); !status.ok()) return status;
+  if (Status status = checkOptions(options); !status.ok()) return status;
 
   SectionScene scene;
   scene.title = document.title;

@@ -27,6 +27,7 @@ struct SectionSceneOptions {
       range;  ///< to colour and contour; default: niceRange() of what is drawn
   std::vector<double> contourValues;  ///< drawn in addition to the equally spaced ones
   int equallySpacedContours = 0;      ///< how many values divide the range into equal parts
+  static constexpr std::size_t kMaxContours = 1000;  ///< values altogether
   bool rays = false;
   bool coverageLimit = true;
 };
