@@ -1,0 +1,15 @@
+#pragma once
+
+#include "batch/Options.h"
+
+namespace talvesk {
+
+// The commands. Each returns an ExitCode and has told on standard error what went wrong. Output
+// files appear whole or not at all.
+
+int run(const InfoOptions& options);
+int run(const InvertOptions& options);
+int run(const ConvertOptions& options);
+int run(const DemoOptions& options);
+
+}  // namespace talvesk

@@ -1,0 +1,35 @@
+#include "batch/Failure.h"
+
+#include "batch/Options.h"
+
+#include <iostream>
+
+namespace talvesk {
+namespace {
+
+std::string asOneLine(std::string text) {
+  while (!text.empty() && (text.back() == '\n' || text.back() == ' ')) text.pop_back();
+  for (char& c : text) {
+    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7f) c = ' ';
+  }
+  return text;
+}
+
+}  // namespace
+
+int failed(const std::string& message) {
+  std::cerr << "talvesk-batch: " << asOneLine(message) << std::endl;
+  return kFailed;
+}
+
+void warn(const std::string& message) {
+  std::cerr << "talvesk-batch: warning: " << asOneLine(message) << std::endl;
+}
+
+int wrongUsage(const std::string& command, const std::string& message) {
+  std::cerr << "talvesk-batch: " << asOneLine(message) << "\nTry 'talvesk-batch "
+            << (command.empty() ? "" : command + " ") << "--help'." << std::endl;
+  return kWrongUsage;
+}
+
+}  // namespace talvesk

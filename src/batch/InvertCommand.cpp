@@ -1,0 +1,163 @@
+#include "base/TextNumber.h"
+#include "batch/Commands.h"
+#include "batch/Diagnostics.h"
+#include "batch/Failure.h"
+#include "batch/Interrupt.h"
+#include "batch/OutputFiles.h"
+#include "batch/ResultJson.h"
+#include "batch/SectionImage.h"
+#include "export/GriddedText.h"
+#include "grid/GridBuilder.h"
+#include "tomo/GridSetup.h"
+
+#include <algorithm>
+#include <iostream>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+Status readInput(const InvertOptions& options, TomoDocument& document) {
+  TravelTimeData data;
+  const Status status = readPicks(options.input, data, options.quiet);
+  if (!status.ok()) return status;
+  return importTravelTimes(std::move(data), document);
+}
+
+Status checkDepth(const GridSettings& settings, const SurveyProfile& profile) {
+  const std::string depth = formatDouble(settings.maxDepth);
+  if (settings.maxDepth > profile.arrayLength) {
+    return Status::failure("The depth of " + depth + " m is greater than the array length, " +
+                           formatDouble(profile.arrayLength) + " m");
+  }
+  const GridSize size =
+      gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);
+  if (size.righe > 0) return {};
+  return Status::failure("A depth of " + depth + " m with cells of " +
+                         formatDouble(settings.cellSize) +
+                         " m makes a grid without rows; choose a greater depth or smaller cells");
+}
+
+Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log) {
+  SurveyProfile profile;
+  GridSettings settings = proposeGrid(document, profile, log);
+  if (!profile.hasGeometry()) {
+    return Status::failure(options.input + ": no two geophones have different positions");
+  }
+  if (options.cellSize) settings.cellSize = *options.cellSize;
+  if (options.depth) settings.maxDepth = *options.depth;
+  settings.nodes = static_cast<std::uint32_t>(options.nodes);
+  Status status = checkDepth(settings, profile);
+  if (status.ok()) status = setUpGrid(document, settings, log);
+  if (status.ok() && !options.layers.empty()) status = applyLayers(document, options.layers);
+  return status;
+}
+
+bool anyPick(const TomoDocument& document) {
+  return std::any_of(
+      document.ttArray.begin(), document.ttArray.end(), [](const TravelTime& record) {
+        return std::any_of(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick);
+      });
+}
+
+/// What the window would ask about; nobody is there to answer.
+void warnAboutChoices(const InvertOptions& options, const TomoDocument& document) {
+  if (!anyPick(document)) {
+    warn("there are no picks; the starting model will not be fitted to anything");
+  } else if (!document.picksComplete()) {
+    warn("uncomplete set of picks; the inversion is run anyway");
+  }
+  const TomographyParameters& run = options.parameters;
+  if (run.minVelocity > run.maxVelocity) {
+    warn("the minimum velocity is above the maximum; every cell that changes ends at the maximum");
+  }
+}
+
+TomographyResult invert(const InvertOptions& options, const Channels& channels,
+                        TomoDocument& document, Log& log) {
+  listenForInterrupt(!options.quiet);
+  Progress progress(channels.progress, std::cerr, options.parameters.externalIterations);
+  TomographyResult result = runInversion(
+      document, options.parameters, log,
+      [&](const TomographyProgress& state) { progress.show(state); }, interruptRequested);
+  progress.finish();
+  return result;
+}
+
+void summarizeExcluded(const TomoDocument& document, std::ostream& out) {
+  for (const ExcludedPosition& position : document.excluded) {
+    out << "Left out, beyond the grid: ";
+    if (position.receiver >= 0) out << "receiver " << position.receiver << " of ";
+    out << "shot " << position.shot << " at " << formatDouble(position.x) << " m\n";
+  }
+}
+
+void summarize(const InvertOptions& options, const TomoDocument& document,
+               const TomographyResult& result, std::ostream& out) {
+  const Grid& grid = *document.grid;
+  const Misfit& misfit = result.misfit;
+  out << "Grid: " << grid.righe() << " rows, " << grid.col() << " columns of "
+      << formatDouble(grid.aLato()) << " m, " << grid.nV() << " nodes per side\n"
+      << "External iterations: " << result.iterationsDone << " of "
+      << options.parameters.externalIterations << (result.stopped ? ", stopped by the user" : "")
+      << "\n";
+  summarizeExcluded(document, out);
+  out << "Elapsed time: [s] " << formatDouble(result.elapsedSeconds) << "\n";
+  if (misfit.count == 0) {
+    out << "No picks: there is no misfit." << std::endl;
+    return;
+  }
+  out << "RMSE: [ms] " << formatDouble(misfit.rmse * 1000.0) << "; [%] "
+      << formatDouble(misfit.relativeRms * 100.0) << "\n"
+      << "MaxError: [ms] " << formatDouble(misfit.maxError * 1000.0) << "; [%] "
+      << formatDouble(misfit.maxRelativeError * 100.0) << "\n"
+      << "Picks used: " << misfit.count << std::endl;
+}
+
+/// Tries every output: a picture that cannot be drawn must not cost the numbers.
+int writeResults(const InvertOptions& options, const TomoDocument& document,
+                 const TomographyResult& result) {
+  int exitCode = kDone;
+  const auto attempt = [&](const std::string& path, const auto& write) {
+    if (path.empty()) return;
+    const Status status = write();
+    if (!status.ok()) exitCode = failed(status.message());
+  };
+  attempt(options.json, [&] { return writeOutput(options.json, inversionJson(document, result)); });
+  attempt(options.gridded, [&] {
+    return writeGriddedText(options.gridded, document, options.lineY, options.zOffset);
+  });
+  attempt(options.otte, [&] { return writeTravelTimes(options.otte, document); });
+  attempt(options.image, [&] { return drawSection(document, options); });
+  return exitCode;
+}
+
+}  // namespace
+
+int run(const InvertOptions& options) {
+  const Channels channels =
+      openChannels(options.json == kStandardOutput, options.quiet, options.verbose);
+  const Status places = checkOutputFiles({{"--gridded", options.gridded},
+                                          {"--image", options.image},
+                                          {"--otte", options.otte},
+                                          {"--json", options.json}},
+                                         {options.input});
+  if (places.code() == kWrongUsage) return wrongUsage("invert", places.message());
+  if (!places.ok()) return failed(places.message());
+  if (!options.image.empty()) prepareDrawing();
+
+  Log log;
+  TomoDocument document;
+  Status status = readInput(options, document);
+  if (status.ok()) status = setUpModel(options, document, log);
+  if (!status.ok()) return failed(status.message());
+  if (!options.quiet) warnAboutChoices(options, document);
+
+  const TomographyResult result = invert(options, channels, document, log);
+  if (!result.status.ok()) return failed(result.status.message());
+  const int exitCode = writeResults(options, document, result);
+  summarize(options, document, result, *channels.summary);
+  return exitCode;
+}
+
+}  // namespace talvesk

@@ -1,0 +1,70 @@
+#include "batch/OutputFiles.h"
+
+#include "base/AtomicFile.h"
+#include "batch/Options.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <iostream>
+
+namespace talvesk {
+namespace {
+
+/// One spelling per place, whether or not the file exists yet.
+QString placeOf(const std::string& path) {
+  const QFileInfo file(QString::fromStdString(path));
+  if (file.exists()) return file.canonicalFilePath();
+  return QDir(file.absolutePath()).canonicalPath() + '/' + file.fileName();
+}
+
+Status checkPlace(const OutputFile& output) {
+  const auto refuse = [&](const std::string& why) {
+    return Status::failure("Cannot write " + output.path + ": " + why);
+  };
+  const QFileInfo file(QString::fromStdString(output.path));
+  const QFileInfo folder(file.absolutePath());
+  const std::string folderName = folder.filePath().toStdString();
+  if (file.isDir() || file.fileName().isEmpty()) return refuse("it is a folder");
+  if (file.exists() && !file.isFile()) return refuse("it is not a regular file");
+  if (!folder.isDir()) return refuse("there is no folder " + folderName);
+  if (!folder.isWritable()) return refuse("the folder " + folderName + " is not writable");
+  if (file.exists() && !file.isWritable()) return refuse("the file is write-protected");
+  return {};
+}
+
+}  // namespace
+
+Status checkOutputFiles(const std::vector<OutputFile>& outputs,
+                        const std::vector<std::string>& inputs) {
+  std::vector<OutputFile> files;
+  for (const OutputFile& output : outputs) {
+    if (!output.path.empty() && output.path != kStandardOutput) files.push_back(output);
+  }
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    const QString place = placeOf(files[i].path);
+    for (std::size_t j = 0; j < i; ++j) {
+      if (placeOf(files[j].path) != place) continue;
+      return Status::failure(
+          files[j].option + " and " + files[i].option + " name the same file " + files[i].path,
+          kWrongUsage);
+    }
+    for (const std::string& input : inputs) {
+      if (placeOf(input) != place) continue;
+      return Status::failure(files[i].option + " would overwrite the input " + input, kWrongUsage);
+    }
+  }
+  for (const OutputFile& output : files) {
+    Status status = checkPlace(output);
+    if (!status.ok()) return status;
+  }
+  return {};
+}
+
+Status writeOutput(const std::string& path, const std::string& text) {
+  if (path != kStandardOutput) return writeFileAtomically(path, text);
+  std::cout << text << std::flush;
+  if (std::cout) return {};
+  return Status::failure("Cannot write to the standard output");
+}
+
+}  // namespace talvesk

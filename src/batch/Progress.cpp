@@ -1,0 +1,82 @@
+#include "batch/Progress.h"
+
+#include "base/TextNumber.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ostream>
+
+namespace talvesk {
+namespace {
+
+constexpr int kBarWidth = 30;
+constexpr double kLongestShown = 359999.0;  // 99:59:59
+
+std::string clock(double seconds) {
+  const auto whole = static_cast<int>(std::lround(std::clamp(seconds, 0.0, kLongestShown)));
+  const auto twoDigits = [](int n) { return (n < 10 ? "0" : "") + std::to_string(n); };
+  const int hours = whole / 3600;
+  const int minutes = whole / 60 % 60;
+  const std::string head =
+      hours > 0 ? std::to_string(hours) + ":" + twoDigits(minutes) : std::to_string(minutes);
+  return head + ":" + twoDigits(whole % 60);
+}
+
+/// Iterations take about the same time each.
+std::string remaining(const TomographyProgress& progress) {
+  if (progress.completed < 1) return "unknown";
+  const double perIteration = progress.elapsedSeconds / progress.completed;
+  return "about " + clock(perIteration * std::max(0, progress.total - progress.completed));
+}
+
+std::string rmse(const Misfit& misfit) {
+  if (misfit.count == 0) return "no picks";
+  return "RMSE " + formatDouble(misfit.rmse * 1000.0, 4) + " ms (" +
+         formatDouble(misfit.relativeRms * 100.0, 3) + " %)";
+}
+
+}  // namespace
+
+std::string progressLine(const TomographyProgress& progress) {
+  return "External iteration " + std::to_string(progress.completed) + " of " +
+         std::to_string(progress.total) + ": " + rmse(progress.misfit) + ", elapsed " +
+         clock(progress.elapsedSeconds) + ", remaining " + remaining(progress);
+}
+
+std::string progressBar(const TomographyProgress& progress, int width) {
+  const double share =
+      progress.total > 0 ? static_cast<double>(progress.completed) / progress.total : 1.0;
+  const auto filled = static_cast<std::size_t>(std::clamp(share, 0.0, 1.0) * width);
+  std::string text = "[" + std::string(filled, '#') +
+                     std::string(static_cast<std::size_t>(width) - filled, '.') + "] " +
+                     std::to_string(progress.completed) + "/" + std::to_string(progress.total);
+  if (progress.completed == 0) return text + " tracing rays";
+  text += " " + rmse(progress.misfit);
+  return progress.completed < progress.total ? text + " " + remaining(progress).substr(6) + " left"
+                                             : text;
+}
+
+Progress::Progress(ProgressStyle style, std::ostream& stream, int total)
+    : mStyle(style), mStream(stream) {
+  TomographyProgress nothingYet;
+  nothingYet.total = total;
+  if (mStyle == ProgressStyle::kBar) drawBar(nothingYet);
+}
+
+void Progress::show(const TomographyProgress& progress) {
+  if (mStyle == ProgressStyle::kBar) drawBar(progress);
+  if (mStyle == ProgressStyle::kLines) mStream << progressLine(progress) << std::endl;
+}
+
+void Progress::finish() {
+  if (mBarDrawn) mStream << std::endl;
+  mBarDrawn = false;
+}
+
+void Progress::drawBar(const TomographyProgress& progress) {
+  // Erase to the end of the line: the text may be shorter than the one before.
+  mStream << '\r' << progressBar(progress, kBarWidth) << "\x1b[K" << std::flush;
+  mBarDrawn = true;
+}
+
+}  // namespace talvesk

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "tomo/TomographyRun.h"
+
+#include <iosfwd>
+#include <string>
+
+namespace talvesk {
+
+enum class ProgressStyle {
+  kSilent,
+  kLines,  ///< a line per external iteration, for logs
+  kBar,    ///< one line of a terminal, drawn again and again
+};
+
+/// Shows how far an inversion is and about how long it still takes.
+class Progress {
+ public:
+  /// \param total external iterations; \param stream must outlive the object
+  Progress(ProgressStyle style, std::ostream& stream, int total);
+
+  void show(const TomographyProgress& progress);
+  void finish();  ///< leaves the bar's line
+
+ private:
+  void drawBar(const TomographyProgress& progress);
+
+  ProgressStyle mStyle;
+  std::ostream& mStream;
+  bool mBarDrawn = false;
+};
+
+/// "External iteration 3 of 10: RMSE 1.52 ms (3.1 %), elapsed 0:12, remaining about 0:28".
+std::string progressLine(const TomographyProgress& progress);
+
+/// The same with a bar of `width` characters, short enough for a terminal of 80 columns at 30.
+std::string progressBar(const TomographyProgress& progress, int width);
+
+}  // namespace talvesk

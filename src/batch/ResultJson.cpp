@@ -1,0 +1,136 @@
+#include "batch/ResultJson.h"
+
+#include <nlohmann/json.hpp>
+
+namespace talvesk {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+std::string text(const Json& value) {
+  return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+/// An object with a line for each of its keys: short enough to read, easy to compare.
+std::string lineByLine(const Json& object) {
+  std::string lines;
+  for (const auto& item : object.items()) {
+    lines += (lines.empty() ? "{\n" : ",\n") + text(item.key()) + ": " + text(item.value());
+  }
+  return lines + "\n}";
+}
+
+/// A quantity of a misfit, or null when there was nothing to compare.
+Json ofPicks(const Misfit& misfit, double value) {
+  return misfit.count > 0 ? Json(value) : Json(nullptr);
+}
+
+Json pointJson(const Point2D& point) {
+  return Json::array({point.x, point.z});
+}
+
+Json gridJson(const TomoDocument& document) {
+  const Grid& grid = *document.grid;
+  Json json = Json::object();
+  json["righe"] = grid.righe();
+  json["col"] = grid.col();
+  json["nV"] = grid.nV();
+  json["aLato"] = grid.aLato();
+  json["x_offset"] = document.xOffset;
+  return json;
+}
+
+Json excludedJson(const std::vector<ExcludedPosition>& positions) {
+  Json list = Json::array();
+  for (const ExcludedPosition& position : positions) {
+    Json json = Json::object();
+    json["shot"] = position.shot;
+    // The whole shot has no receiver to name.
+    json["receiver"] = position.receiver < 0 ? Json(nullptr) : Json(position.receiver);
+    json["x"] = position.x;
+    list.push_back(std::move(json));
+  }
+  return list;
+}
+
+Json historyJson(const std::vector<Misfit>& history) {
+  Json list = Json::array();
+  for (std::size_t i = 0; i < history.size(); ++i) {
+    Json json = Json::object();
+    json["iteration"] = i + 1;
+    json["rmse_ms"] = ofPicks(history[i], history[i].rmse * 1000.0);
+    json["rms_percent"] = ofPicks(history[i], history[i].relativeRms * 100.0);
+    list.push_back(std::move(json));
+  }
+  return list;
+}
+
+}  // namespace
+
+std::string inversionJson(const TomoDocument& document, const TomographyResult& result) {
+  const Misfit& misfit = result.misfit;
+  Json json = Json::object();
+  json["grid"] = gridJson(document);
+  json["iterations_done"] = result.iterationsDone;
+  json["elapsed_s"] = result.elapsedSeconds;
+  json["rmse_ms"] = ofPicks(misfit, misfit.rmse * 1000.0);
+  json["rms_percent"] = ofPicks(misfit, misfit.relativeRms * 100.0);
+  json["max_error_ms"] = ofPicks(misfit, misfit.maxError * 1000.0);
+  json["max_error_percent"] = ofPicks(misfit, misfit.maxRelativeError * 100.0);
+  json["picks_used"] = misfit.count;
+  json["excluded"] = excludedJson(document.excluded);
+  json["misfit_history"] = historyJson(result.history);
+  json["velocities"] = document.grid->velocities();
+  json["hit_counts"] = document.hitCounts;
+  json["coverage_m"] = document.coorcount;
+  json["info_density"] = document.info_density;
+  Json drawn = Json::array();
+  for (std::uint32_t cell = 0; cell < document.grid->cellCount(); ++cell) {
+    drawn.push_back(document.grid->draw(cell));
+  }
+  json["to_be_draw"] = std::move(drawn);
+  Json times = Json::array();
+  for (const TravelTime& record : document.ttArray) times.push_back(record.ttCalcolati);
+  json["computed_times"] = std::move(times);
+  return lineByLine(json) + "\n";
+}
+
+std::string travelTimesJson(const TravelTimeData& data) {
+  Json strings = Json::array();
+  for (const auto& string : data.strings) {
+    Json points = Json::array();
+    for (const Point2D& point : string) points.push_back(pointJson(point));
+    strings.push_back(std::move(points));
+  }
+  Json shots = Json::array();
+  for (const TravelTime& record : data.records) {
+    Json shot = Json::object();
+    shot["position"] = pointJson(record.shotPos2d);
+    shot["string"] = record.indexStesa;
+    shot["trace_set"] = record.traceSetID;
+    shot["times"] = record.ttMisurati;
+    shots.push_back(std::move(shot));
+  }
+  Json json = Json::object();
+  json["format"] = data.format;
+  json["strings"] = std::move(strings);
+  json["shots"] = std::move(shots);
+  return text(json) + "\n";
+}
+
+std::string unreadableJson(const std::string& file, const std::string& error) {
+  Json json = Json::object();
+  json["file"] = file;
+  json["error"] = error;
+  return text(json) + "\n";
+}
+
+std::string jsonArray(const std::vector<std::string>& values) {
+  std::string array;
+  for (const std::string& value : values) {
+    array += (array.empty() ? "[\n" : ",\n") + value.substr(0, value.find_last_not_of('\n') + 1);
+  }
+  return (array.empty() ? "[" : array + "\n") + "]\n";
+}
+
+}  // namespace talvesk

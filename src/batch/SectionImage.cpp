@@ -1,0 +1,41 @@
+#include "batch/SectionImage.h"
+
+#include "batch/Failure.h"
+#include "figures/SectionFigure.h"
+
+#include <QApplication>
+#include <clocale>
+#include <cstdlib>
+
+namespace talvesk {
+namespace {
+
+/// Qt remarks on many an environment that draws well. What it cannot live with ends the program.
+void hearQt(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type != QtCriticalMsg && type != QtFatalMsg) return;
+  failed(message.toStdString());
+  if (type == QtFatalMsg) std::_Exit(kFailed);
+}
+
+}  // namespace
+
+void prepareDrawing() {
+  static int argc = 1;
+  static char name[] = "talvesk-batch";
+  static char* argv[] = {name, nullptr};
+  // No display is needed, and an environment that names one is not asked.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(hearQt);
+  static const QApplication application(argc, argv);
+  // Qt has taken over the user's locale.
+  std::setlocale(LC_NUMERIC, "C");
+}
+
+Status drawSection(const TomoDocument& document, const InvertOptions& options) {
+  SectionFigureOptions figure;
+  figure.scene.rays = options.rays;
+  figure.scene.equallySpacedContours = options.contours;
+  return writeSectionFigure(document, figure, options.image);
+}
+
+}  // namespace talvesk

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "base/Status.h"
+#include "batch/Options.h"
+
+namespace talvesk {
+
+/// Makes drawing possible without a display. Called before long work, so that what is missing shows
+/// early; numbers are read and printed by the "C" locale afterwards as before.
+void prepareDrawing();
+
+/// Draws the section into the file that the options name.
+Status drawSection(const TomoDocument& document, const InvertOptions& options);
+
+}  // namespace talvesk

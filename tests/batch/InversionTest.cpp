@@ -1,0 +1,198 @@
+#include "batch/BatchRunner.h"
+
+#include <algorithm>
+#include <set>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace talvesk::batchtest {
+namespace {
+
+using nlohmann::ordered_json;
+using testing::HasSubstr;
+using testing::Not;
+
+/// The arguments of a run that takes a moment.
+std::vector<std::string> quickRun(const std::string& input,
+                                  const std::vector<std::string>& more = {}) {
+  std::vector<std::string> arguments = {"invert",       input, "--cell-size",         "1",
+                                        "--iterations", "2",   "--solver-iterations", "5"};
+  arguments.insert(arguments.end(), more.begin(), more.end());
+  return arguments;
+}
+
+std::string withoutElapsed(const std::string& json) {
+  const std::size_t begin = json.find("\"elapsed_s\"");
+  const std::size_t end = json.find('\n', begin);
+  return begin == std::string::npos ? json : json.substr(0, begin) + json.substr(end);
+}
+
+TEST(Inversion, standardOutputIsPureJsonWithItsKeysInOrder) {
+  const Folder folder;
+  const Outcome outcome =
+      runBatch(quickRun(folder.write("line.otte", smallLine()), {"--json", "-"}));
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  std::string keys;
+  for (const auto& item : json.items()) keys += item.key() + " ";
+  for (const auto& item : json["grid"].items()) keys += item.key() + " ";
+  for (const auto& item : json["misfit_history"][0].items()) keys += item.key() + " ";
+  EXPECT_EQ(keys,
+            "grid iterations_done elapsed_s rmse_ms rms_percent max_error_ms max_error_percent "
+            "picks_used excluded misfit_history velocities hit_counts coverage_m info_density "
+            "to_be_draw computed_times righe col nV aLato x_offset iteration rmse_ms rms_percent ");
+  // 26 m of array, half of it deep, in cells of 1 m.
+  EXPECT_EQ(json["grid"],
+            ordered_json::parse(R"({"righe":13,"col":26,"nV":6,"aLato":1.0,"x_offset":1.0})"));
+  for (const char* key : {"velocities", "hit_counts", "coverage_m", "info_density", "to_be_draw"}) {
+    EXPECT_EQ(json[key].size(), 13U * 26U) << key;
+  }
+  EXPECT_EQ(json["iterations_done"], 2);
+  EXPECT_EQ(json["picks_used"], 39);
+  EXPECT_EQ(json["misfit_history"].size(), 2U);
+  EXPECT_EQ(json["misfit_history"][1]["rmse_ms"], json["rmse_ms"]);
+  ASSERT_EQ(json["computed_times"].size(), 3U);
+  EXPECT_EQ(json["computed_times"][2].size(), 13U);
+  EXPECT_THAT(outcome.err, HasSubstr("RMSE: [ms] "));
+}
+
+TEST(Inversion, fitsTheSmallLine) {
+  const Folder folder;
+  const Outcome outcome = runBatch({"invert", folder.write("line.otte", smallLine()), "--cell-size",
+                                    "0.5", "--json", "-", "--quiet"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  EXPECT_LT(json["rmse_ms"].get<double>(), 1.5);
+  EXPECT_LT(json["rmse_ms"].get<double>(), json["misfit_history"][0]["rmse_ms"].get<double>());
+  for (const ordered_json& velocity : json["velocities"]) {
+    EXPECT_LE(velocity.get<double>(), 3500.0 * (1.0 + 1e-9));
+  }
+}
+
+TEST(Inversion, resultsDoNotDependOnThreadsOrRuns) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const Outcome many = runBatch(quickRun(input, {"--json", "-", "--quiet"}));
+  const Outcome again = runBatch(quickRun(input, {"--json", "-", "--quiet"}));
+  const Outcome single = runBatch(quickRun(input, {"--json", "-", "--quiet", "--single-thread"}));
+  ASSERT_EQ(many.code, 0) << many.err;
+  EXPECT_EQ(withoutElapsed(many.out), withoutElapsed(again.out));
+  EXPECT_EQ(withoutElapsed(many.out), withoutElapsed(single.out));
+  EXPECT_NE(withoutElapsed(many.out), many.out);
+}
+
+TEST(Inversion, everyOutputIsTheSameInALocaleWithDecimalCommas) {
+  const Folder folder;
+  // Not every system has the locale; it is made for the test.
+  const std::string locale = folder / "de_DE.UTF-8";
+  const std::string make = "localedef -i de_DE -f UTF-8 '" + locale + "' >/dev/null 2>&1";
+  if (std::system(make.c_str()) != 0) GTEST_SKIP() << "no localedef here";
+  const std::string input = folder.write("line.otte", smallLine());
+  std::string texts[2];
+  const Environment environments[2] = {{{"LC_ALL", "C"}},
+                                       {{"LC_ALL", "de_DE.UTF-8"}, {"LOCPATH", folder / ""}}};
+  for (int i = 0; i < 2; ++i) {
+    const Outcome outcome = runBatch(
+        quickRun(input, {"--json", "-", "--quiet", "--layer", "0:12.5:300.5:2500", "--gridded",
+                         folder / "out.txt", "--line-y", "-2.5", "--otte", folder / "out.otte",
+                         "--image", folder / "out.svg", "--contours", "5", "--rays"}),
+        environments[i]);
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_EQ(outcome.err, "");
+    texts[i] = withoutElapsed(outcome.out) + contentsOf(folder / "out.txt") +
+               contentsOf(folder / "out.otte") + contentsOf(folder / "out.svg");
+  }
+  EXPECT_EQ(texts[0], texts[1]);
+  EXPECT_THAT(contentsOf(folder / "out.txt"), HasSubstr(" -2.5 "));
+  EXPECT_EQ(contentsOf(folder / "out.otte"), contentsOf(input));
+}
+
+TEST(Inversion, picturesAreOfTheKindThatTheirNameSays) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const std::pair<const char*, const char*> kinds[] = {
+      {"a.png", "\x89PNG\r\n"}, {"b.svg", "<svg"}, {"c.pdf", "%PDF-"}};
+  for (const auto& [name, begins] : kinds) {
+    const Outcome outcome = runBatch(quickRun(input, {"--image", folder / name, "--quiet"}));
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_THAT(contentsOf(folder / name).substr(0, 1000), HasSubstr(begins)) << name;
+  }
+}
+
+TEST(Inversion, interruptKeepsTheIterationUnderWay) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const Outcome outcome =
+      interruptBatch({"invert", input, "--iterations", "100000", "--json", folder / "out.json"},
+                     "External iteration 1 of");
+  EXPECT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("Stopping after this external iteration"));
+  EXPECT_THAT(outcome.out, HasSubstr("Stop Request by the user."));
+  EXPECT_THAT(outcome.out, HasSubstr("RMSE: [ms] "));
+  const ordered_json json = ordered_json::parse(contentsOf(folder / "out.json"));
+  EXPECT_GE(json["iterations_done"].get<int>(), 1);
+  EXPECT_LT(json["iterations_done"].get<int>(), 100000);
+  EXPECT_EQ(json["misfit_history"].size(), json["iterations_done"].get<std::size_t>());
+}
+
+TEST(Inversion, positionsBeyondTheGridAreNamed) {
+  // Two columns of 10 m end at 19 m, nodes are 2 m apart: the geophone at 20 m is taken to the last
+  // node, those at 22 and 24 m and the shot at 23.5 m have none.
+  const Folder folder;
+  const Outcome outcome = runBatch({"invert", folder.write("line.otte", smallLine()), "--cell-size",
+                                    "10", "--iterations", "1", "--json", "-"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  std::set<std::pair<int, double>> shots;
+  std::size_t receivers = 0;
+  for (const ordered_json& entry : json["excluded"]) {
+    if (entry["receiver"].is_null()) {
+      shots.insert({entry["shot"].get<int>(), entry["x"].get<double>()});
+    } else {
+      ++receivers;
+      EXPECT_GT(entry["x"].get<double>(), 21.0);
+    }
+  }
+  EXPECT_EQ(shots, (std::set<std::pair<int, double>>{{2, 23.5}}));
+  EXPECT_EQ(receivers, 4U);  // two geophones, for each of the two shots that are left
+  EXPECT_EQ(json["picks_used"], 22);
+  EXPECT_THAT(outcome.err, HasSubstr("Left out, beyond the grid: shot 2 at 23.5 m"));
+}
+
+TEST(Inversion, aLineWithoutPicksHasNoMisfit) {
+  const Folder folder;
+  std::string line = "otte\n1.0\n2\n1\n0;2;4;6;\n0;0;0;0;\n1;\n0;\n0\n0\n0;0;-99000;0;\n";
+  const Outcome outcome = runBatch(quickRun(folder.write("line.otte", line), {"--json", "-"}));
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  EXPECT_EQ(json["picks_used"], 0);
+  EXPECT_TRUE(json["rmse_ms"].is_null());
+  EXPECT_TRUE(json["misfit_history"][0]["rms_percent"].is_null());
+  EXPECT_THAT(outcome.err, HasSubstr("there are no picks"));
+  EXPECT_THAT(outcome.err, Not(HasSubstr("RMSE: [ms]")));
+}
+
+TEST(Inversion, doubtfulChoicesAreWarnedOfAndCarriedOut) {
+  const Folder folder;
+  const std::string few = "otte\n1.0\n2\n1\n0;2;4;6;\n0;0;0;0;\n1;\n0;\n0\n0\n2;0;0;0;\n";
+  const Outcome outcome = runBatch(
+      quickRun(folder.write("line.otte", few), {"--min-velocity", "900", "--max-velocity", "800"}));
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_THAT(outcome.err, HasSubstr("warning: uncomplete set of picks"));
+  EXPECT_THAT(outcome.err, HasSubstr("warning: the minimum velocity is above the maximum"));
+}
+
+TEST(Inversion, quietSaysNothing) {
+  const Folder folder;
+  const Outcome outcome =
+      runBatch(quickRun(folder.write("line.otte", smallLine()),
+                        {"--quiet", "--gridded", folder / "out.txt", "--z-offset", "-5"}));
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_EQ(outcome.out + outcome.err, "");
+  EXPECT_TRUE(folder.holds("out.txt"));
+}
+
+}  // namespace
+}  // namespace talvesk::batchtest
