@@ -95,7 +95,7 @@ class CsvPickReader : private PickReader {
       return refuse("there are " + counted(record.ttMisurati.size(), "time") + " for " +
                     counted(receivers, "receiver"));
     }
-    if (record.ttMisurati.size() < receivers) {
+    if (record.ttMisurati.size() < receivers && takesWarnings()) {
       warn("line " + std::to_string(mText.line()) + ": only " +
            counted(record.ttMisurati.size(), "time") + " for " + counted(receivers, "receiver"));
     }

@@ -189,7 +189,7 @@ class OtteReader : private PickReader {
   }
 
   void warnOfShortRecords() {
-    for (std::size_t i = 0; i < mData.records.size(); ++i) {
+    for (std::size_t i = 0; i < mData.records.size() && takesWarnings(); ++i) {
       const TravelTime& record = mData.records[i];
       const std::size_t size = mData.strings[static_cast<std::size_t>(record.indexStesa)].size();
       if (record.ttMisurati.size() == size) continue;

@@ -85,8 +85,12 @@ bool PickReader::readWholeInt(std::string_view what, std::string_view word, int&
 }
 
 void PickReader::warn(const std::string& text) {
-  if (mData.warnings.size() < kWarnings) mData.warnings.push_back(text);
+  if (takesWarnings()) mData.warnings.push_back(text);
   if (mData.warnings.size() == kWarnings) mData.warnings.push_back("and more of this kind");
+}
+
+bool PickReader::takesWarnings() const {
+  return mData.warnings.size() < kWarnings;
 }
 
 void PickReader::warnOfRest() {

@@ -46,8 +46,10 @@ class PickReader {
   /// A decimal integer that fills the whole word.
   bool readWholeInt(std::string_view what, std::string_view word, int& value);
 
-  /// Notes something repaired or ignored; a file can cause a bounded number of notes only.
+  /// Notes something repaired or ignored; a file can cause a bounded number of notes only. What may
+  /// recur with every field or line asks first whether its text is still worth putting together.
   void warn(const std::string& text);
+  bool takesWarnings() const;
   void warnOfRest();  ///< when text follows after all that the format knows
 
   /// Hands the data out, or says why not.

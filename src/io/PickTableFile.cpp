@@ -104,6 +104,7 @@ class PickTableReader : private PickReader {
   }
 
   void warnOfZero(std::string_view field) {
+    if (!takesWarnings()) return;
     warn("line " + std::to_string(mText.line()) + ": " + quoted(field) +
          " is not a number and was taken as 0");
   }
@@ -112,7 +113,7 @@ class PickTableReader : private PickReader {
     for (std::size_t i = 0; i < section.numbers.size(); ++i) {
       const auto [entry, isNew] = table.try_emplace(section.numbers[i]);
       entry->second.*member = section.values[i];
-      if (!isNew) {
+      if (!isNew && takesWarnings()) {
         warn("line " + std::to_string(mText.line() - 1) + ": number " +
              std::to_string(section.numbers[i]) + " is named twice; its last value was taken");
       }
