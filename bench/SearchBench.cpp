@@ -1,10 +1,10 @@
 // One search per source beside the reference, in the same run; bytes per cell are those of grid and
 // search together.
-#include <benchmark/benchmark.h>
-
 #include "support/ReferenceSearch.h"
 #include "support/TestGrids.h"
 #include "tomo/ShortestPaths.h"
+
+#include <benchmark/benchmark.h>
 
 namespace talvesk {
 namespace {
@@ -29,9 +29,9 @@ void search(benchmark::State& state) {
   state.counters["bytes/cell"] =
       static_cast<double>(paths.bytes() + grid->geometry().bytes() + grid->cellCount() * 9) /
       grid->cellCount();
-  state.counters["ns/cell"] = benchmark::Counter(
-      grid->cellCount() * 1e-9,
-      benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+  state.counters["ns/cell"] =
+      benchmark::Counter(grid->cellCount() * 1e-9, benchmark::Counter::kIsIterationInvariantRate |
+                                                       benchmark::Counter::kInvert);
 }
 
 void referenceSearch(benchmark::State& state) {

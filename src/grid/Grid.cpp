@@ -16,18 +16,22 @@ struct Targets {
   int count;
 };
 constexpr Targets kTargets[] = {
-    {{Side::kLeft, Side::kRight, Side::kBottom}, 3},              // of a top node
+    {{Side::kLeft, Side::kRight, Side::kBottom}, 3},                // of a top node
     {{Side::kTop, Side::kBottom, Side::kRight, Side::kBottom}, 4},  // of a left node
-    {{Side::kTop, Side::kLeft, Side::kBottom}, 3},                // of a right node
-    {{Side::kTop, Side::kLeft, Side::kRight, Side::kLeft}, 4},    // of a bottom node
+    {{Side::kTop, Side::kLeft, Side::kBottom}, 3},                  // of a right node
+    {{Side::kTop, Side::kLeft, Side::kRight, Side::kLeft}, 4},      // of a bottom node
 };
 
 const std::vector<std::uint32_t>& sideOf(const GridCell& cell, Side side) {
   switch (side) {
-    case Side::kTop: return cell.top;
-    case Side::kLeft: return cell.left;
-    case Side::kRight: return cell.right;
-    default: return cell.bottom;
+    case Side::kTop:
+      return cell.top;
+    case Side::kLeft:
+      return cell.left;
+    case Side::kRight:
+      return cell.right;
+    default:
+      return cell.bottom;
   }
 }
 

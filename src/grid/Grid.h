@@ -1,12 +1,12 @@
 #pragma once
 
+#include "grid/GridGeometry.h"
+#include "grid/GridGraph.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "grid/GridGeometry.h"
-#include "grid/GridGraph.h"
 
 namespace talvesk {
 
@@ -31,7 +31,7 @@ class Grid {
     return row * col() + column;
   }
 
-  double slowness(std::uint32_t cell) const { return mSlowness[cell]; }  ///< s/m
+  double slowness(std::uint32_t cell) const { return mSlowness[cell]; }        ///< s/m
   double velocity(std::uint32_t cell) const { return 1.0 / mSlowness[cell]; }  ///< m/s
   void setSlowness(std::uint32_t cell, double value) { mSlowness[cell] = value; }
   const std::vector<double>& slownesses() const { return mSlowness; }

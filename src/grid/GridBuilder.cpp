@@ -1,21 +1,21 @@
 #include "grid/GridBuilder.h"
 
+#include "base/Console.h"
+
 #include <cmath>
 #include <exception>
 #include <fstream>
 #include <limits>
+#include <locale>
 #include <sstream>
-
-#include "base/Console.h"
 
 namespace talvesk {
 namespace {
 
-constexpr std::uint64_t kMaxNodes = 2147483646U;
-
 /// Memory that could be had without swapping, bytes; infinite where the system does not tell.
 double availableBytes() {
   std::ifstream file("/proc/meminfo");
+  file.imbue(std::locale::classic());
   std::string key;
   double kibibytes = 0.0;
   while (file >> key >> kibibytes) {
@@ -32,7 +32,8 @@ std::unique_ptr<Grid> guarded(const std::function<std::unique_ptr<Grid>()>& buil
   } catch (const std::exception& error) {
     console::error() << error.what() << " : Error creating the grid " << std::endl;
   } catch (...) {
-    console::error() << "Unknown exception" << " : Error creating the grid " << std::endl;
+    console::error() << "Unknown exception"
+                     << " : Error creating the grid " << std::endl;
   }
   return nullptr;
 }
@@ -63,27 +64,26 @@ GridSize gridSizeFor(double arrayLength, double maxDepth, double cellSize, std::
 double estimatedGridBytes(const GridSize& size, unsigned searches) {
   const double cells = static_cast<double>(size.righe) * size.col;
   const double lineNodes = (size.righe + 1.0) * (size.col * (size.nV - 1.0) + 1.0);
-  const double nodes = lineNodes + cells * (size.nV - 2.0);
+  const double nodes = size.nodesAsNumber();
   // Line depths and slownesses; per search a distance and a bucket number per node, and the two
   // accumulators per cell.
   return lineNodes * 8.0 + cells * 9.0 + searches * (nodes * 12.0 + cells * 16.0);
 }
 
 Status checkGridSize(const GridSize& size, unsigned searches) {
-  const double cells = static_cast<double>(size.righe) * size.col;
-  const double lineNodes = (size.righe + 1.0) * (size.col * (size.nV - 1.0) + 1.0);
-  const double nodes = lineNodes + size.righe * (size.nV - 2.0) * (size.col + 1.0);
+  const double nodes = size.nodesAsNumber();
   std::ostringstream text;
   text.imbue(std::locale::classic());
   text.precision(12);
   text << "A grid of " << size.righe << " rows and " << size.col << " columns with " << size.nV
        << " nodes per side ";
-  if (cells < 1.0) {
-    text << "has no cells; choose smaller cells or a greater depth.";
+  // No rows are allowed: a depth of 0 only warns, and there is nothing to draw or trace yet.
+  if (size.col == 0) {
+    text << "has no cells; choose cells smaller than the array is long.";
     return Status::failure(text.str());
   }
-  if (nodes > static_cast<double>(kMaxNodes)) {
-    text << "has " << nodes << " nodes; at most " << kMaxNodes
+  if (nodes > GridSize::kMaxNodes) {
+    text << "has " << nodes << " nodes; at most " << GridSize::kMaxNodes
          << " can be numbered. Choose larger cells or a smaller depth.";
     return Status::failure(text.str());
   }

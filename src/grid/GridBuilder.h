@@ -1,14 +1,14 @@
 #pragma once
 
+#include "base/Status.h"
+#include "grid/Grid.h"
+#include "grid/SurveyProfile.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "base/Status.h"
-#include "grid/Grid.h"
-#include "grid/SurveyProfile.h"
 
 namespace talvesk {
 
@@ -23,8 +23,9 @@ double defaultVelocity(double depth);
 /// \param maxDepth, cellSize metres; \param nodes per side
 GridSize gridSizeFor(double arrayLength, double maxDepth, double cellSize, std::uint32_t nodes);
 
-/// Refuses a size whose nodes cannot be numbered or whose memory cannot be had, with the numbers.
-/// \param searches how many ray searches run at once beside the grid
+/// Refuses a size without columns, whose nodes cannot be numbered or whose memory cannot be had,
+/// with the numbers. A grid without rows is allowed. \param searches how many ray searches run at
+/// once beside the grid
 Status checkGridSize(const GridSize& size, unsigned searches);
 
 /// Bytes that a grid and its searches take, estimated.

@@ -1,9 +1,10 @@
 #include "grid/GridGeometry.h"
 
-#include <algorithm>
-#include <stdexcept>
-
 #include "grid/GridGraph.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
 
 namespace talvesk {
 
@@ -11,6 +12,10 @@ std::uint64_t GridSize::nodeCount() const {
   const std::uint64_t n = nV;
   return (std::uint64_t{righe} + 1) * (col * (n - 1) + 1) +
          std::uint64_t{righe} * (n - 2) * (std::uint64_t{col} + 1);
+}
+
+double GridSize::nodesAsNumber() const {
+  return (righe + 1.0) * (col * (nV - 1.0) + 1.0) + righe * (nV - 2.0) * (col + 1.0);
 }
 
 void smoothProfile(const std::vector<double>& in, std::vector<double>& out) {
@@ -25,8 +30,10 @@ void smoothProfile(const std::vector<double>& in, std::vector<double>& out) {
 
 GridGeometry::GridGeometry(const GridSize& size, const Splines::Spline& surface) : mSize(size) {
   if (size.nV < 2) throw std::invalid_argument("a cell side needs two nodes at least");
-  if (!(size.aLato > 0.0)) throw std::invalid_argument("the cell size must be positive");
-  if (size.nodeCount() > 2147483646U) throw std::invalid_argument("too many nodes");
+  if (!(size.aLato > 0.0) || !std::isfinite(size.aLato)) {
+    throw std::invalid_argument("the cell size must be positive");
+  }
+  if (size.nodesAsNumber() > GridSize::kMaxNodes) throw std::invalid_argument("too many nodes");
 
   const std::uint32_t steps = size.nV - 1;
   const double h = size.aLato;
@@ -93,8 +100,8 @@ Point2D GridGeometry::cellCentre(std::uint32_t cell) const {
 }
 
 std::size_t GridGeometry::bytes() const {
-  return sizeof(double) * (mLineX.capacity() + mLineZ.capacity() + mStep.capacity() +
-                           mSurface.capacity());
+  return sizeof(double) *
+         (mLineX.capacity() + mLineZ.capacity() + mStep.capacity() + mSurface.capacity());
 }
 
 }  // namespace talvesk

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include "base/Point2D.h"
 #include "numerics/Splines.h"
+
+#include <cstdint>
+#include <vector>
 
 namespace talvesk {
 
@@ -17,7 +17,10 @@ struct GridSize {
 
   std::uint64_t cellCount() const { return std::uint64_t{righe} * col; }
   std::uint64_t lineNodeCount() const { return std::uint64_t{col} * (nV - 1) + 1; }
-  std::uint64_t nodeCount() const;
+  std::uint64_t nodeCount() const;  ///< exact only up to kMaxNodes
+  double nodesAsNumber() const;     ///< the same for sizes of any magnitude, nearly exact
+
+  static constexpr std::uint32_t kMaxNodes = 2147483646U;  ///< one less than kNoNode
 };
 
 /// Where the cells and nodes of a grid lie. It does not change while an inversion goes on, so the
@@ -45,9 +48,7 @@ class GridGeometry {
   std::uint32_t lineNodeCount() const { return mLineNodes; }  ///< nodes of one horizontal line
 
   // --- Node numbers: block by block, each a horizontal line followed by its levels of side nodes.
-  std::uint32_t lineNode(std::uint32_t line, std::uint32_t i) const {
-    return line * mBlock + i;
-  }
+  std::uint32_t lineNode(std::uint32_t line, std::uint32_t i) const { return line * mBlock + i; }
   /// \param verticalLine 0 .. col; \param j 0 .. nV - 3 from the top
   std::uint32_t sideNode(std::uint32_t row, std::uint32_t verticalLine, std::uint32_t j) const {
     return row * mBlock + mLineNodes + j * (mSize.col + 1) + verticalLine;
@@ -58,10 +59,10 @@ class GridGeometry {
 
   /// Where a node sits in the block that its number names.
   struct Place {
-    bool onLine;           ///< on a horizontal line, else on a vertical side
-    std::uint32_t row;     ///< line number, or the row of the side
-    std::uint32_t along;   ///< position on the line, or the number of the vertical line
-    std::uint32_t level;   ///< 0, or the level of the side node from the top
+    bool onLine;          ///< on a horizontal line, else on a vertical side
+    std::uint32_t row;    ///< line number, or the row of the side
+    std::uint32_t along;  ///< position on the line, or the number of the vertical line
+    std::uint32_t level;  ///< 0, or the level of the side node from the top
   };
   Place place(std::uint32_t node) const;
 
@@ -80,7 +81,9 @@ class GridGeometry {
   // --- Flat arrays for the search.
   const double* lineXData() const { return mLineX.data(); }
   const double* lineZData() const { return mLineZ.data(); }
-  const double* sideStepData() const { return mStep.data(); }  ///< depth of level j below its corner
+  const double* sideStepData() const {
+    return mStep.data();
+  }  ///< depth of level j below its corner
 
   /// Centre of a cell: x grid coordinate, z downward (so `z` here is a depth coordinate).
   Point2D cellCentre(std::uint32_t cell) const;

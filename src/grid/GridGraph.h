@@ -6,8 +6,8 @@
 
 namespace talvesk {
 
-inline constexpr std::uint32_t kNoNode = 2147483647U;       ///< top-line lookup found no node
-inline constexpr std::uint32_t kNoCell = 4294967295U;       ///< an edge that crosses no cell
+inline constexpr std::uint32_t kNoNode = 2147483647U;  ///< top-line lookup found no node
+inline constexpr std::uint32_t kNoCell = 4294967295U;  ///< an edge that crosses no cell
 inline constexpr std::uint32_t kNoPredecessor = 4294967295U;
 
 /// An edge of the ray graph, from the node that hands it out to `target`. The default value is the
@@ -31,8 +31,8 @@ struct GridNode {
 struct GridCell {
   bool draw = true;  ///< whether the section shows it
   std::uint32_t index = kNoCell;
-  double size = 0.0;      ///< side length, metres
-  double slowness = 0.0;  ///< s/m
+  double size = 0.0;                  ///< side length, metres
+  double slowness = 0.0;              ///< s/m
   std::vector<std::uint32_t> top;     ///< left to right, both corners
   std::vector<std::uint32_t> left;    ///< top to bottom, without corners
   std::vector<std::uint32_t> right;   ///< top to bottom, without corners

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <vector>
-
 #include "base/Point2D.h"
 #include "numerics/Splines.h"
+
+#include <vector>
 
 namespace talvesk {
 

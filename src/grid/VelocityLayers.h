@@ -1,10 +1,10 @@
 #pragma once
 
-#include <memory>
-#include <vector>
-
 #include "base/Status.h"
 #include "grid/Grid.h"
+
+#include <memory>
+#include <vector>
 
 namespace talvesk {
 
@@ -13,7 +13,7 @@ struct VelocityLayer {
   double initialDepth = 0.0;
   double initialVelocity = 0.0;  ///< m/s at the initial depth
   double finalDepth = 0.0;
-  double finalVelocity = 0.0;    ///< m/s at the final depth
+  double finalVelocity = 0.0;  ///< m/s at the final depth
 };
 
 /// The layer of an empty list: 300 m/s at the surface, 2500 m/s at the grid's depth.
@@ -26,13 +26,13 @@ void splitLastLayer(std::vector<VelocityLayer>& layers);
 /// Layers whose final depth is greater than their initial depth, which is not negative; in order.
 std::vector<VelocityLayer> acceptedLayers(const std::vector<VelocityLayer>& layers);
 
-/// The spline over depth that a layered model puts into the grid: three points per layer, the lowest
-/// 0.01 m above the layer's bottom. Throws std::runtime_error when it cannot be built.
+/// The spline over depth that a layered model puts into the grid: three points per layer, the
+/// lowest 0.01 m above the layer's bottom. Throws std::runtime_error when it cannot be built.
 Splines::CubicSpline layerSpline(const std::vector<VelocityLayer>& layers);
 
 /// A grid of the same sizes and surface whose rows take the spline's velocity at the depth of their
-/// top. Fails, naming depth and velocity, where the spline swings to a velocity that is not positive,
-/// and when no layer is left.
+/// top. Fails, naming depth and velocity, where the spline swings to a velocity that is not
+/// positive, and when no layer is left.
 Status buildLayeredGrid(const Grid& current, const std::vector<VelocityLayer>& layers,
                         const Splines::Spline& surface, std::unique_ptr<Grid>& out);
 

@@ -1,7 +1,7 @@
+#include "tomo/SearchField.h"
+
 #include <cstdlib>
 #include <new>
-
-#include "tomo/SearchField.h"
 
 namespace talvesk {
 

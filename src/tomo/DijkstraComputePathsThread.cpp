@@ -14,6 +14,10 @@ DijkstraComputePathsThread::DijkstraComputePathsThread(TomoDocument& document,
       mSpreadIndex(static_cast<std::uint32_t>(document.ttArray.at(shotIndex).indexStesa)),
       mSourceNode(sourceNode) {}
 
+DijkstraComputePathsThread::~DijkstraComputePathsThread() {
+  wait();
+}
+
 void DijkstraComputePathsThread::use(ShortestPaths& search, std::vector<double>& correction,
                                      std::vector<double>& rayLength) {
   mSearch = &search;
@@ -33,10 +37,11 @@ void DijkstraComputePathsThread::run() {
 }
 
 void DijkstraComputePathsThread::traceRays() {
-  mSearch->search(*mDocument.grid, mSourceNode);
   const auto& spread = mDocument.goephonesStringSet.at(mSpreadIndex);
   const std::size_t receivers =
       std::min(spread.size(), mDocument.ttArray.at(mShotIndex).ttMisurati.size());
+  if (receivers == 0) return;
+  mSearch->search(*mDocument.grid, mSourceNode);
   std::vector<Ray> rays(receivers);
   for (std::size_t i = 0; i < receivers; ++i) {
     const std::uint32_t node =

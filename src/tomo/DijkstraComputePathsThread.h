@@ -1,19 +1,18 @@
 #pragma once
 
-#include <QThread>
+#include "model/TomoDocument.h"
+#include "tomo/ShortestPaths.h"
 
+#include <QThread>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include "model/TomoDocument.h"
-#include "tomo/ShortestPaths.h"
-
 namespace talvesk {
 
-/// The worker of one shot: its rays through the current grid, the times along them, and what they ask
-/// of every cell. Started once to trace and evaluate, and again after every solver iteration, when it
-/// evaluates the rays that it has with the new slownesses.
+/// The worker of one shot: its rays through the current grid, the times along them, and what they
+/// ask of every cell. Started once to trace and evaluate, and again after every solver iteration,
+/// when it evaluates the rays that it has with the new slownesses.
 ///
 /// Reads the document; writes the computed times of its own shot and its own two accumulators, so
 /// that workers of different shots need no lock. Nothing escapes the thread: see failure().
@@ -24,6 +23,8 @@ class DijkstraComputePathsThread : public QThread {
   /// \param sourceNode top-line node of the shot
   DijkstraComputePathsThread(TomoDocument& document, std::uint32_t shotIndex,
                              std::uint32_t sourceNode);
+  /// Waits for the thread where a batch was given up while it ran.
+  ~DijkstraComputePathsThread() override;
 
   /// What the next start works with: the search's memory (first start only) and two zeroed arrays,
   /// one entry per cell.
@@ -34,7 +35,7 @@ class DijkstraComputePathsThread : public QThread {
 
   std::uint32_t threadNumber() const { return mThreadNumber; }
   const std::vector<Ray>& rays() const { return mRays; }  ///< without nodes: beyond the top line
-  double lastTime() const { return mLastTime; }  ///< seconds, of the ray evaluated last
+  double lastTime() const { return mLastTime; }           ///< seconds, of the ray evaluated last
   /// Every cell that a ray crosses, once. Only these entries of the accumulators are ever written.
   const std::vector<std::uint32_t>& cells() const { return mCells; }
   const std::string& failure() const { return mFailure; }  ///< empty: all went well

@@ -1,10 +1,10 @@
 #include "tomo/ForwardPass.h"
 
+#include "base/Console.h"
+
 #include <algorithm>
 #include <ostream>
 #include <sstream>
-
-#include "base/Console.h"
 
 namespace talvesk {
 namespace {
@@ -13,7 +13,7 @@ bool sameExclusions(const std::vector<ExcludedPosition>& a,
                     const std::vector<ExcludedPosition>& b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](const ExcludedPosition& p, const ExcludedPosition& q) {
-                      return p.shot == q.shot && p.receiver == q.receiver && p.x == q.x;
+                      return p.shot == q.shot && p.receiver == q.receiver;
                     });
 }
 
@@ -36,15 +36,12 @@ void both(Log& log, const std::string& line) {
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document) {
   std::vector<ExcludedPosition> excluded;
   const GridGeometry& g = document.grid->geometry();
-  const auto outside = [&](double x) {
-    return g.topNodeIndex(x + document.xOffset) == kNoNode;
-  };
+  const auto outside = [&](double x) { return g.topNodeIndex(x + document.xOffset) == kNoNode; };
   for (std::size_t s = 0; s < document.ttArray.size(); ++s) {
     const TravelTime& record = document.ttArray[s];
     const auto shot = static_cast<std::int32_t>(s);
-    const bool noString =
-        record.indexStesa < 0 ||
-        static_cast<std::size_t>(record.indexStesa) >= document.goephonesStringSet.size();
+    const bool noString = record.indexStesa < 0 || static_cast<std::size_t>(record.indexStesa) >=
+                                                       document.goephonesStringSet.size();
     if (noString || outside(record.shotPos2d.x)) {
       excluded.push_back({shot, -1, record.shotPos2d.x});
       continue;
@@ -93,7 +90,9 @@ Status ForwardPass::run(const std::string& caption, std::vector<double>* coorslo
                         std::vector<double>* coorcount) {
   for (std::size_t first = 0; first < mWorkers.size(); first += mSlots.size()) {
     const std::size_t last = std::min(first + mSlots.size(), mWorkers.size()) - 1;
-    both(mLog, caption + " Traces from " + std::to_string(first) + " to " + std::to_string(last));
+    if (!caption.empty()) {
+      both(mLog, caption + " Traces from " + std::to_string(first) + " to " + std::to_string(last));
+    }
     if (const Status status = runBatch(first, last, coorslow, coorcount); !status.ok()) {
       return status;
     }
@@ -105,7 +104,7 @@ Status ForwardPass::run(const std::string& caption, std::vector<double>* coorslo
 Status ForwardPass::runBatch(std::size_t first, std::size_t last, std::vector<double>* coorslow,
                              std::vector<double>* coorcount) {
   for (std::size_t s = first; s <= last; ++s) {
-    if (!mTraced) both(mLog, " --- Creating and running thread " + std::to_string(s));
+    if (!mTraced) tellThread(s, coorslow != nullptr);
     if (mWorkers[s] == nullptr) continue;
     Slot& slot = mSlots[s - first];
     mWorkers[s]->use(slot.search, slot.correction, slot.rayLength);
@@ -134,6 +133,12 @@ Status ForwardPass::runBatch(std::size_t first, std::size_t last, std::vector<do
     }
   }
   return status;
+}
+
+void ForwardPass::tellThread(std::size_t shot, bool log) {
+  const std::string line = " --- Creating and running thread " + std::to_string(shot);
+  console::out() << line << std::endl;
+  if (log) mLog.write(line);
 }
 
 void ForwardPass::refreshRayTimes() {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <memory>
-#include <vector>
-
 #include "base/Log.h"
 #include "base/Status.h"
 #include "model/TomoDocument.h"
 #include "tomo/DijkstraComputePathsThread.h"
+
+#include <memory>
+#include <vector>
 
 namespace talvesk {
 
@@ -24,8 +24,9 @@ class ForwardPass {
 
   /// Traces rays (first time) and evaluates them, adding the workers' sums shot by shot. The result
   /// does not depend on the width of the batches.
-  /// \param coorslow, coorcount one entry per cell, added to; null: sums are dropped
-  /// \param caption what a batch's line begins with
+  /// \param coorslow, coorcount one entry per cell, added to; null: sums are dropped, and the
+  /// threads are told on the console only
+  /// \param caption what a batch's line begins with; empty: no such line
   Status run(const std::string& caption, std::vector<double>* coorslow,
              std::vector<double>* coorcount);
 
@@ -42,11 +43,13 @@ class ForwardPass {
   Status runBatch(std::size_t first, std::size_t last, std::vector<double>* coorslow,
                   std::vector<double>* coorcount);
 
+  void tellThread(std::size_t shot, bool log);
+
   TomoDocument& mDocument;
   Log& mLog;
   bool mTraced = false;
+  std::vector<Slot> mSlots;  ///< outlive the workers, which write into them
   std::vector<std::unique_ptr<DijkstraComputePathsThread>> mWorkers;  ///< null: shot excluded
-  std::vector<Slot> mSlots;
 };
 
 }  // namespace talvesk

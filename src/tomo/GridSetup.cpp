@@ -1,19 +1,21 @@
 #include "tomo/GridSetup.h"
 
-#include <QThread>
+#include "base/Console.h"
+#include "grid/GridBuilder.h"
 
+#include <QThread>
+#include <algorithm>
 #include <cmath>
 #include <exception>
 #include <memory>
 #include <sstream>
 
-#include "base/Console.h"
-#include "grid/GridBuilder.h"
-
 namespace talvesk {
 namespace {
 
-constexpr double kLargestCoordinate = 1e8;  // metres; more than that is no survey line on this globe
+constexpr std::uint32_t kFewestNodes = 6;  // per cell side, of those that users choose
+constexpr double kLargestCoordinate =
+    1e8;  // metres; more than that is no survey line on this globe
 
 std::string inClassic(double value, bool fixed) {
   std::ostringstream text;
@@ -52,9 +54,32 @@ Status checkSurvey(const SurveyProfile& profile) {
   return {};
 }
 
+/// Rays, coverage and misfit belong to the grid that they were traced through.
+void forgetInversion(TomoDocument& document) {
+  document.hasTomographicInfo = false;
+  document.RMSE_tomography = -1.0;
+  document.rays.clear();
+  document.coorcount.clear();
+  document.hitCounts.clear();
+  document.excluded.clear();
+  document.coverageLimit.clear();
+  document.coverageSpline.reset();
+}
+
 Status fail(Log& log, const std::string& message) {
   log.write("Setting Grid ... FAILED. ", 1);
   return Status::failure(message);
+}
+
+void install(TomoDocument& document, std::unique_ptr<Grid> grid, Splines::LinearSpline surface,
+             double xOffset) {
+  std::vector<double> noInformation(grid->cellCount(), -1.0);
+  forgetInversion(document);
+  document.info_density = std::move(noInformation);
+  document.surface = std::move(surface);
+  document.xOffset = xOffset;
+  document.grid = std::move(grid);
+  document.modified = true;
 }
 
 }  // namespace
@@ -63,9 +88,8 @@ GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& lo
   profile = measure(document, log);
   GridSettings settings;
   settings.maxDepth = profile.arrayLength / 2.0;
-  settings.cellSize =
-      document.proposedCellSizes.empty() ? 0.5 : document.proposedCellSizes.front();
-  settings.nodes = 6;
+  settings.cellSize = document.proposedCellSizes.empty() ? 0.5 : document.proposedCellSizes.front();
+  settings.nodes = std::max(document.grid ? document.grid->nV() : 0U, kFewestNodes);
   return settings;
 }
 
@@ -81,30 +105,30 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
                          inClassic(settings.maxDepth, false) +
                          " m deep, cannot be built; choose a positive cell size and depth.");
   }
-  const GridSize size = gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize,
-                                    settings.nodes);
+  const GridSize size =
+      gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);
   const auto threads = static_cast<unsigned>(QThread::idealThreadCount());
   if (const Status status = checkGridSize(size, threads); !status.ok()) {
     return fail(log, status.message());
   }
   log.write("Generating the grid ... ");
-  const Splines::LinearSpline surface = profile.surface();
-  std::unique_ptr<Grid> grid = buildDefaultGrid(size, surface);
-  if (grid == nullptr) return fail(log, "The grid could not be built; see the log.");
-  log.write("Generating the grid ... COMPLETED");
-
-  document.info_density.assign(grid->cellCount(), -1.0);
-  document.grid = std::move(grid);
-  document.surface = surface;
-  document.xOffset = profile.xOffset;
-  document.modified = true;
+  try {
+    const Splines::LinearSpline surface = profile.surface();
+    std::unique_ptr<Grid> grid = buildDefaultGrid(size, surface);
+    if (grid == nullptr) return fail(log, "The grid could not be built; see the error stream.");
+    log.write("Generating the grid ... COMPLETED");
+    install(document, std::move(grid), surface, profile.xOffset);
+  } catch (const std::exception& error) {
+    return fail(log, std::string("The grid could not be built: ") + error.what());
+  }
   log.write("Setting Grid ... COMPLETED. ");
   log.write("Setting info layer ... COMPLETED. ");
   return {};
 }
 
 Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers) {
-  if (document.grid == nullptr) return Status::failure("There is no grid yet; build the grid first.");
+  if (document.grid == nullptr)
+    return Status::failure("There is no grid yet; build the grid first.");
   const std::vector<VelocityLayer> accepted = acceptedLayers(layers);
   std::unique_ptr<Grid> grid;
   Status status = buildLayeredGrid(*document.grid, accepted, document.surface, grid);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <vector>
-
 #include "base/Log.h"
 #include "base/Status.h"
 #include "model/TomoDocument.h"
+
+#include <vector>
 
 namespace talvesk {
 
@@ -15,12 +15,14 @@ struct GridSettings {
   std::uint32_t nodes = 6;  ///< per cell side
 };
 
-/// Measures the survey, proposes a cell size (kept in the document's list) and returns what a dialog
-/// shows as defaults: half the array length deep, the proposed cells, 6 nodes.
+/// Measures the survey, proposes a cell size (kept in the document's list) and returns what a
+/// dialog shows as defaults: half the array length deep, the size proposed first, as many nodes per
+/// side as the present grid has, 6 without one.
 GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& log);
 
 /// Builds the grid with the default model under the survey and installs it; the information density
-/// restarts at -1.0. On failure (no geometry, too large, exception) the document keeps its grid.
+/// restarts at -1.0, and what an inversion through the grid before left is forgotten. On failure
+/// (no geometry, too large, exception) the document keeps its grid.
 Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log);
 
 /// Replaces the document's grid by one with a layered model and keeps the layers.

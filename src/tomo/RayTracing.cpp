@@ -1,3 +1,5 @@
+#include "tomo/ShortestPathsState.h"
+
 #include <algorithm>
 #include <cmath>
 #include <set>
@@ -5,8 +7,6 @@
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
-
-#include "tomo/ShortestPathsState.h"
 
 namespace talvesk {
 namespace {
@@ -68,8 +68,8 @@ class SettlingOrder {
   }
 
  private:
-  /// Nodes waiting at one time go by number, unless one gets that time only from another of the same
-  /// time, over an edge too short to count.
+  /// Nodes waiting at one time go by number, unless one gets that time only from another of the
+  /// same time, over an edge too short to count.
   bool reachedEarlier(std::uint32_t node) const {
     if (node == mPaths.source()) return true;
     const double d = mPaths.distance(node);

@@ -69,8 +69,8 @@ struct SearchField {
 };
 
 /// Settles every node that can be reached from `source` (a search id). Which one runs is decided by
-/// what the processor can do; all compute the same. The vector kinds need runs of four nodes: six nodes
-/// per side, the fewest that users choose.
+/// what the processor can do; all compute the same. The vector kinds need runs of four nodes: six
+/// nodes per side, the fewest that users choose.
 void searchScalar(SearchField& field, std::uint32_t source);
 void searchBaseline(SearchField& field, std::uint32_t source);
 void searchAvx2(SearchField& field, std::uint32_t source);

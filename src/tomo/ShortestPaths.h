@@ -1,15 +1,15 @@
 #pragma once
 
+#include "grid/Grid.h"
+
 #include <cstdint>
 #include <memory>
 #include <vector>
 
-#include "grid/Grid.h"
-
 namespace talvesk {
 
-/// A ray from source to receiver: nodes[0] is the source, steps[k] the edge that enters nodes[k + 1].
-/// A receiver at the source has one node and no step; so has one that cannot be reached.
+/// A ray from source to receiver: nodes[0] is the source, steps[k] the edge that enters nodes[k +
+/// 1]. A receiver at the source has one node and no step; so has one that cannot be reached.
 struct Ray {
   std::vector<std::uint32_t> nodes;
   std::vector<GridEdge> steps;
@@ -34,16 +34,16 @@ class ShortestPaths {
   ShortestPaths(ShortestPaths&&) noexcept;
   ShortestPaths& operator=(ShortestPaths&&) noexcept;
 
-  /// Settles every node. The grid must outlive the queries below, with its slownesses unchanged. All
-  /// slownesses must be valid (Grid::invalidSlowness). Throws std::out_of_range for a source that
-  /// is no node, std::bad_alloc.
+  /// Settles every node. The grid must outlive the queries below, with its slownesses unchanged.
+  /// All slownesses must be valid (Grid::invalidSlowness). Throws std::out_of_range for a source
+  /// that is no node, std::bad_alloc.
   void search(const Grid& grid, std::uint32_t source);
 
   std::uint32_t source() const;
   double distance(std::uint32_t node) const;  ///< seconds; infinite where no path leads
 
-  /// The node from which the search last reached `node`; kNoPredecessor for the source and for nodes
-  /// that cannot be reached. `edge` becomes the edge taken, or the empty edge.
+  /// The node from which the search last reached `node`; kNoPredecessor for the source and for
+  /// nodes that cannot be reached. `edge` becomes the edge taken, or the empty edge.
   std::uint32_t predecessor(std::uint32_t node, GridEdge& edge) const;
 
   /// The ray to a receiver node. Throws std::out_of_range for a number that is no node.

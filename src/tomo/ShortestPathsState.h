@@ -1,10 +1,10 @@
 #pragma once
 
-#include <limits>
-#include <vector>
-
 #include "tomo/SearchField.h"
 #include "tomo/ShortestPaths.h"
+
+#include <limits>
+#include <vector>
 
 namespace talvesk {
 

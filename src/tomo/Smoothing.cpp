@@ -1,11 +1,13 @@
 #include "tomo/Smoothing.h"
 
+#include "base/Console.h"
+
 #include <algorithm>
 #include <cmath>
 #include <functional>
 #include <limits>
-
-#include "base/Console.h"
+#include <stdexcept>
+#include <string>
 
 namespace talvesk {
 namespace {
@@ -52,8 +54,8 @@ struct Centres {
   std::vector<double> z;
 };
 
-/// Works through a row of cells at once, but adds up every window in its own order: row by row, left
-/// to right.
+/// Works through a row of cells at once, but adds up every window in its own order: row by row,
+/// left to right.
 std::vector<double> uniform(const Windows& w, const std::vector<double>& in) {
   std::vector<double> out(in.size(), 0.0);
   const int reach = w.columnReach();
@@ -113,8 +115,8 @@ std::function<double(double)> gaussian(int radius) {
   };
 }
 
-/// Rows of a column whose centres can lie within `reach` of a depth. All of them where centres do not
-/// grow with the row, as below a cliff.
+/// Rows of a column whose centres can lie within `reach` of a depth. All of them where centres do
+/// not grow with the row, as below a cliff.
 class ColumnRows {
  public:
   ColumnRows(const Grid& grid, const Centres& centres)
@@ -134,8 +136,10 @@ class ColumnRows {
     std::size_t low = 0, high = mRows;  // first row not above depth - reach
     while (low < high) {
       const std::size_t middle = (low + high) / 2;
-      if (mCentres.z[middle * mCols + column] < depth - reach) low = middle + 1;
-      else high = middle;
+      if (mCentres.z[middle * mCols + column] < depth - reach)
+        low = middle + 1;
+      else
+        high = middle;
     }
     first = std::min(first, low);
     std::size_t end = std::max(low, last);
@@ -150,9 +154,9 @@ class ColumnRows {
   std::vector<std::uint8_t> mOrdered;
 };
 
-/// Gives the cells that no ray crossed a mean of covered cells near by; looks only at the columns and
-/// rows in which such cells can lie, in cell order.
-/// \param in what a cell keeps; \param values what is averaged, read where hits are
+/// Gives the cells that no ray crossed a mean of covered cells near by; looks only at the columns
+/// and rows in which such cells can lie, in cell order. \param in what a cell keeps; \param values
+/// what is averaged, read where hits are
 std::vector<double> fillUncovered(const Grid& grid, const std::vector<std::uint32_t>& hits,
                                   int radius, const std::vector<double>& in,
                                   const std::vector<double>& values) {
@@ -164,8 +168,8 @@ std::vector<double> fillUncovered(const Grid& grid, const std::vector<std::uint3
   const double limit = 2.0 * (radius * grid.aLato()) * (radius * grid.aLato());
   // One cell wider than the circle, beyond any rounding of the centres.
   const double reach = std::sqrt(limit) + grid.aLato();
-  const auto width = static_cast<std::size_t>(
-      std::min(reach / grid.aLato() + 1.0, static_cast<double>(cols)));
+  const auto width =
+      static_cast<std::size_t>(std::min(reach / grid.aLato() + 1.0, static_cast<double>(cols)));
 
   for (std::size_t cell = 0; cell < out.size(); ++cell) {
     if (hits[cell] > 0) continue;
@@ -212,10 +216,19 @@ std::vector<double> smooth(SmoothingType type, const Grid& grid, const std::vect
 
 const char* nameOf(SmoothingType type) {
   switch (type) {
-    case SmoothingType::kLinear: return "Linear";
-    case SmoothingType::kGaussian: return "Gaussian";
-    default: return "Uniform";
+    case SmoothingType::kLinear:
+      return "Linear";
+    case SmoothingType::kGaussian:
+      return "Gaussian";
+    default:
+      return "Uniform";
   }
+}
+
+void checkHits(const Grid& grid, const std::vector<std::uint32_t>& hits) {
+  if (hits.size() == grid.cellCount()) return;
+  throw std::out_of_range(std::to_string(hits.size()) + " hit counts for " +
+                          std::to_string(grid.cellCount()) + " cells");
 }
 
 }  // namespace
@@ -227,6 +240,7 @@ SmoothingType smoothingTypeOf(int type) {
 std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
                                    const std::vector<std::uint32_t>& hits, int radius,
                                    double ratio) {
+  checkHits(grid, hits);
   if (type == SmoothingType::kRayBased) {
     std::vector<double> velocities = grid.slownesses();
     for (double& v : velocities) v = v == 0.0 ? kLargest : 1.0 / v;
@@ -240,10 +254,11 @@ std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
 std::vector<double> smoothRayDensity(SmoothingType type, const Grid& grid,
                                      const std::vector<std::uint32_t>& hits, int radius,
                                      double ratio, Log& log) {
+  checkHits(grid, hits);
   const std::vector<double> counts(hits.begin(), hits.end());
   if (type == SmoothingType::kRayBased) {
-    // The fill turns a mean hit count into its reciprocal, as it does with velocities; kept, so that
-    // uncovered ground stands apart in the layer.
+    // The fill turns a mean hit count into its reciprocal, as it does with velocities; kept, so
+    // that uncovered ground stands apart in the layer.
     const auto filled = fillUncovered(grid, hits, radius, counts, counts);
     return smooth(SmoothingType::kUniform, grid, filled, radius, ratio);
   }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include "base/Log.h"
 #include "grid/Grid.h"
+
+#include <cstdint>
+#include <vector>
 
 namespace talvesk {
 
@@ -13,15 +13,17 @@ enum class SmoothingType : int { kUniform = 0, kLinear = 1, kGaussian = 2, kRayB
 /// Any number but 1, 2 and 3 means uniform.
 SmoothingType smoothingTypeOf(int type);
 
-/// Height over width of the smoothing window. Ground is layered: unless the user asks for a symmetric
-/// window it is flatter than wide.
-inline constexpr double verticalRatio(bool symmetric) { return symmetric ? 1.0 : 0.7; }
+/// Height over width of the smoothing window. Ground is layered: unless the user asks for a
+/// symmetric window it is flatter than wide.
+inline constexpr double verticalRatio(bool symmetric) {
+  return symmetric ? 1.0 : 0.7;
+}
 
-/// Smoothed slownesses (s/m, cell order) of a grid. The window of a cell reaches `radius` columns to
-/// each side and floor(radius * ratio) rows up and down, cut at the edges of the grid.
-/// \param hits per cell: greater than 0 where a ray passed; read by the ray-based kind
-/// \param radius smoothing parameter, cells, at least 1
-/// \param ratio see verticalRatio()
+/// Smoothed slownesses (s/m, cell order) of a grid. The window of a cell reaches `radius` columns
+/// to each side and floor(radius * ratio) rows up and down, cut at the edges of the grid. \param
+/// hits per cell: greater than 0 where a ray passed; read by the ray-based kind. Any other number
+/// of entries throws std::out_of_range. \param radius smoothing parameter, cells, at least 1 \param
+/// ratio see verticalRatio()
 std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
                                    const std::vector<std::uint32_t>& hits, int radius,
                                    double ratio);

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "grid/Grid.h"
+
 #include <cstdint>
 #include <vector>
-
-#include "grid/Grid.h"
 
 namespace talvesk {
 

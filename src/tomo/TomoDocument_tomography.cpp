@@ -1,18 +1,17 @@
-#include <QThread>
-
-#include <algorithm>
-#include <chrono>
-#include <ctime>
-#include <exception>
-#include <ostream>
-#include <stdexcept>
-
 #include "base/Console.h"
 #include "model/TomoDocument.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"
 #include "tomo/Smoothing.h"
 #include "tomo/Solver.h"
+
+#include <QThread>
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <exception>
+#include <ostream>
+#include <stdexcept>
 
 namespace talvesk {
 namespace {
@@ -30,15 +29,50 @@ void tellEnd(std::chrono::steady_clock::time_point start) {
   const std::time_t now = std::time(nullptr);
   char text[32] = "";
   ctime_r(&now, text);
-  const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(
-      std::chrono::steady_clock::now() - start);
+  const auto seconds =
+      std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
   console::out() << "finished iteration at " << text << "elapsed time: " << seconds.count()
                  << "s\n";
 }
 
-/// Draw flags of the new grid and the lower limit of what rays covered.
-void setCoverage(TomoDocument& document) {
-  Grid& grid = *document.grid;
+/// What an external iteration overwrites before it is through.
+class ResultsBefore {
+ public:
+  explicit ResultsBefore(TomoDocument& document)
+      : mDocument(document),
+        mSlownesses(document.grid->slownesses()),
+        mCoorcount(document.coorcount),
+        mHitCounts(document.hitCounts),
+        mRays(document.rays),
+        mExcluded(document.excluded) {
+    for (const TravelTime& record : document.ttArray) mComputed.push_back(record.ttCalcolati);
+  }
+
+  void restore() {
+    for (std::uint32_t c = 0; c < mSlownesses.size(); ++c) {
+      mDocument.grid->setSlowness(c, mSlownesses[c]);
+    }
+    mDocument.coorcount = std::move(mCoorcount);
+    mDocument.hitCounts = std::move(mHitCounts);
+    mDocument.rays = std::move(mRays);
+    mDocument.excluded = std::move(mExcluded);
+    for (std::size_t s = 0; s < mComputed.size(); ++s) {
+      mDocument.ttArray[s].ttCalcolati = std::move(mComputed[s]);
+    }
+  }
+
+ private:
+  TomoDocument& mDocument;
+  std::vector<double> mSlownesses;
+  std::vector<double> mCoorcount;
+  std::vector<std::uint32_t> mHitCounts;
+  std::vector<std::vector<std::uint32_t>> mRays;
+  std::vector<ExcludedPosition> mExcluded;
+  std::vector<std::vector<double>> mComputed;
+};
+
+/// Draw flags of the new grid, and in the document the lower limit of what rays covered.
+void setCoverage(TomoDocument& document, Grid& grid) {
   document.coverageLimit.clear();
   document.coverageSpline.reset();
   for (std::uint32_t column = 0; column < grid.col(); ++column) {
@@ -92,8 +126,8 @@ Status TomoDocument::runTomography_fast(std::vector<double>& slownesses, unsigne
   const std::string caption =
       "[INTERNAL RUN " + std::to_string(solverIterations) + "][RUNNIG SOLVEART]";
   for (int it = 0; it < solverIterations; ++it) {
-    slownesses = updateSlownesses(*grid, coorslow, coorcount, hitCounts,
-                                  {minVelocity, maxVelocity});
+    slownesses =
+        updateSlownesses(*grid, coorslow, coorcount, hitCounts, {minVelocity, maxVelocity});
     pass.refreshRayTimes();
     if (it + 1 == solverIterations) break;
     std::fill(coorslow.begin(), coorslow.end(), 0.0);
@@ -113,21 +147,22 @@ Status TomoDocument::runTomography(std::vector<double>& slownesses, int solverIt
   if (const Status status = checkGrid(*this); !status.ok()) return status;
   const unsigned threads =
       multiThread ? static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1)) : 1U;
-  const std::vector<double> before = grid->slownesses();
+  ResultsBefore before(*this);
   Status status;
   try {
     status = runTomography_fast(slownesses, threads, solverIterations, smoothing, symmetric,
                                 smoothingType, log);
     if (status.ok()) {
-      grid = std::make_unique<Grid>(grid->sharedGeometry(), slownesses);
+      auto corrected = std::make_unique<Grid>(grid->sharedGeometry(), slownesses);
+      setCoverage(*this, *corrected);
+      grid = std::move(corrected);
       hasTomographicInfo = true;
-      setCoverage(*this);
       return status;
     }
   } catch (const std::exception& error) {
     status = Status::failure(std::string("The inversion failed: ") + error.what());
   }
-  for (std::uint32_t c = 0; c < grid->cellCount(); ++c) grid->setSlowness(c, before[c]);
+  before.restore();
   return status;
 }
 
@@ -139,7 +174,7 @@ Status recomputeRays(TomoDocument& document, Log& log) {
     document.hitCounts.assign(document.grid->cellCount(), 0);
     const auto threads = static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
     ForwardPass pass(document, threads, log);
-    const Status status = pass.run("[RUNNIG DIJKSTRA]", nullptr, nullptr);
+    const Status status = pass.run("", nullptr, nullptr);
     if (status.ok()) pass.appendRaysTo(document.rays);
     return status;
   } catch (const std::exception& error) {

@@ -1,10 +1,12 @@
 #include "tomo/TomographyRun.h"
 
+#include "base/Console.h"
+
 #include <chrono>
+#include <cmath>
+#include <exception>
 #include <ostream>
 #include <sstream>
-
-#include "base/Console.h"
 
 namespace talvesk {
 namespace {
@@ -30,17 +32,19 @@ Status checkParameters(const TomographyParameters& p) {
   if (p.externalIterations < 1 || p.solverIterations < 1 || p.smoothing < 1) {
     return Status::failure("Iterations and smoothing parameter must be 1 at least.");
   }
-  if (!(p.minVelocity > 0.0) || !(p.maxVelocity > 0.0)) {
-    return Status::failure("The velocity limits must be positive.");
+  for (const double limit : {p.minVelocity, p.maxVelocity}) {
+    if (limit > 0.0 && std::isfinite(limit) && std::isfinite(1.0 / limit)) continue;
+    return Status::failure("The velocity limits must be positive numbers; " + general(limit) +
+                           " m/s is none.");
   }
   return {};
 }
 
 void finish(TomoDocument& document, const TomographyParameters& p, TomographyResult& result,
-            Log& log) {
-  document.info_density =
-      smoothRayDensity(p.smoothingType, *document.grid, document.hitCounts, p.smoothing,
-                       verticalRatio(p.symmetric), log);
+            const Stopwatch& watch, Log& log) {
+  document.info_density = smoothRayDensity(p.smoothingType, *document.grid, document.hitCounts,
+                                           p.smoothing, verticalRatio(p.symmetric), log);
+  result.elapsedSeconds = watch.seconds();
   log.write("Elapsed time: " + std::to_string(static_cast<long long>(result.elapsedSeconds)) +
             " seconds.");
   result.misfit = computeMisfit(document);
@@ -61,6 +65,7 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   if (!result.status.ok()) return result;
   const Stopwatch watch;
   document.stopRequested = false;
+  document.excluded.clear();  // every run names anew what it leaves out
   document.minVelocity = p.minVelocity;
   document.maxVelocity = p.maxVelocity;
   document.modified = true;
@@ -91,7 +96,13 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
     }
   }
   result.elapsedSeconds = watch.seconds();
-  if (result.iterationsDone > 0) finish(document, p, result, log);
+  if (result.iterationsDone == 0) return result;
+  try {
+    finish(document, p, result, watch, log);
+  } catch (const std::exception& error) {
+    result.status = Status::failure(std::string("The information density could not be computed: ") +
+                                    error.what());
+  }
   return result;
 }
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <functional>
-#include <string>
-#include <vector>
-
 #include "base/Log.h"
 #include "base/Status.h"
 #include "model/TomoDocument.h"
 #include "tomo/Misfit.h"
 #include "tomo/Smoothing.h"
+
+#include <functional>
+#include <string>
+#include <vector>
 
 namespace talvesk {
 

@@ -1,18 +1,18 @@
 #pragma once
 
+#include "grid/Grid.h"
+
 #include <cmath>
 #include <limits>
 #include <set>
 #include <utility>
 #include <vector>
 
-#include "grid/Grid.h"
-
 namespace talvesk::reference {
 
-/// The ray graph as records in an adjacency list per node, and the search over it with an ordered set:
-/// slow and large, but plain enough to be believed. What the program's own search must equal to the
-/// last bit.
+/// The ray graph as records in an adjacency list per node, and the search over it with an ordered
+/// set: slow and large, but plain enough to be believed. What the program's own search must equal
+/// to the last bit.
 struct Graph {
   explicit Graph(const Grid& grid) : edges(grid.nodeCount()) {
     for (std::uint32_t c = 0; c < grid.cellCount(); ++c) addCell(grid, grid.cell(c));

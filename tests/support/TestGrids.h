@@ -1,12 +1,12 @@
 #pragma once
 
+#include "grid/Grid.h"
+#include "numerics/Splines.h"
+
 #include <cmath>
 #include <cstdint>
 #include <memory>
 #include <random>
-
-#include "grid/Grid.h"
-#include "numerics/Splines.h"
 
 namespace talvesk::testing {
 
@@ -35,8 +35,7 @@ inline std::unique_ptr<Grid> roughGrid(const GridSize& size, double relief, doub
       slowness.push_back(1.0 / (v * (1.0 + roughness * (unit - 0.5))));
     }
   }
-  return std::make_unique<Grid>(std::make_shared<GridGeometry>(size, surface),
-                                std::move(slowness));
+  return std::make_unique<Grid>(std::make_shared<GridGeometry>(size, surface), std::move(slowness));
 }
 
 }  // namespace talvesk::testing
