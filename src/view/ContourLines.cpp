@@ -125,11 +125,16 @@ class LevelTracer {
   void follow(std::size_t start, std::vector<ContourLine>& out) {
     ContourLine line;
     line.value = mLevel;
+    std::size_t visited = 0;
     std::size_t at = start;
     while (at != kNone) {
       Crossing& crossing = mCrossings[at];
       crossing.used = true;
-      line.points.push_back(crossing.point);
+      ++visited;
+      // In a corner that lies on the level, the crossings of all its sides are one point.
+      if (line.points.empty() || line.points.back() != crossing.point) {
+        line.points.push_back(crossing.point);
+      }
       at = kNone;
       for (const std::size_t next : crossing.next) {
         if (next == kNone) continue;
@@ -137,10 +142,11 @@ class LevelTracer {
           at = next;
           break;
         }
-        line.closed |= next == start && line.points.size() > 2;
+        line.closed |= next == start && visited > 2;
       }
     }
-    if (line.points.size() >= 2) out.push_back(std::move(line));
+    if (line.closed && line.points.front() == line.points.back()) line.points.pop_back();
+    if (line.points.size() >= (line.closed ? 3 : 2)) out.push_back(std::move(line));
   }
 
   const SectionMesh& mMesh;
