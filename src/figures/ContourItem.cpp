@@ -40,6 +40,10 @@ class ContoursItem : public QwtPlotItem {
       if (contour.closed) lines.back().append(lines.back().front());
     }
     painter->setBrush(Qt::NoBrush);
+    if (!mScene.rays.empty()) {  // else one could not tell them from rays
+      painter->setPen(QPen(QColor(255, 255, 255, 150), mStyle.width + 1.6));
+      for (const QPolygonF& line : lines) painter->drawPolyline(line);
+    }
     painter->setPen(QPen(toColor(mStyle.color), mStyle.width));
     for (const QPolygonF& line : lines) painter->drawPolyline(line);
 

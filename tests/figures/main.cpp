@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+/// The offscreen platform of Qt never frees its screen; the leak checker need not tell.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:libqoffscreen\nleak:QScreen::QScreen\n";
+}
+
 /// Figures are drawn by widgets that never come to a screen.
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
