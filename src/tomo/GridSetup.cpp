@@ -101,9 +101,12 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
   }
   if (!(settings.cellSize > 0.0) || !(settings.maxDepth >= 0.0) || settings.nodes < 2 ||
       !std::isfinite(settings.cellSize) || !std::isfinite(settings.maxDepth)) {
-    return fail(log, "A grid of cells of " + inClassic(settings.cellSize, false) + " m, " +
-                         inClassic(settings.maxDepth, false) +
-                         " m deep, cannot be built; choose a positive cell size and depth.");
+    return fail(log,
+                "A grid of cells of " + inClassic(settings.cellSize, false) + " m with " +
+                    std::to_string(settings.nodes) + " nodes per side, " +
+                    inClassic(settings.maxDepth, false) +
+                    " m deep, cannot be built; choose a positive cell size, two nodes at least "
+                    "and no negative depth.");
   }
   const GridSize size =
       gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);

@@ -1,11 +1,11 @@
 #include "support/ConsoleCapture.h"
-#include "support/TestFolder.h"
 #include "support/TestGrids.h"
 #include "tomo/Smoothing.h"
 
 #include <cmath>
 #include <limits>
 #include <random>
+#include <sstream>
 #include <stdexcept>
 
 #include <gtest/gtest.h>

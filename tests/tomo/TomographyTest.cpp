@@ -1,0 +1,489 @@
+#include "support/ConsoleCapture.h"
+#include "support/TestSurveys.h"
+#include "tomo/RayRecomputation.h"
+#include "tomo/TomographyRun.h"
+
+#include <algorithm>
+#include <cctype>
+#include <functional>
+#include <iostream>
+#include <limits>
+#include <regex>
+#include <sstream>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+namespace talvesk {
+namespace {
+
+/// A line over two layers, its starting grid, and picks that fit neither.
+TomoDocument twoLayers(double relief = 0.0) {
+  TomoDocument line = testing::testLine(24, 2.0, {-2.0, 9.0, 23.0, 37.0, 48.0}, relief);
+  testing::pickTwoLayers(line, 450.0, 1800.0, 3.0);
+  testing::putGrid(line, 12.0, 1.0);
+  return line;
+}
+
+TomographyParameters fewIterations(int external = 2, int solver = 3) {
+  TomographyParameters p;
+  p.externalIterations = external;
+  p.solverIterations = solver;
+  p.smoothing = 2;
+  return p;
+}
+
+/// Lines that went through the log are marked, their stamp removed; times of day and seconds that
+/// passed are taken out.
+std::vector<std::string> linesOf(const std::string& text) {
+  const std::regex clock("[A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-9]{2} [0-9:]{8} [0-9]{4}");
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) {
+    const bool stamped = line.size() > 5 && line[0] == '[' && std::isdigit(line[1]) != 0;
+    if (stamped) line = "log: " + line.substr(line.find("] ") + 2);
+    lines.push_back(std::regex_replace(line, clock, "DATE"));
+  }
+  return lines;
+}
+
+TEST(Inversion, tellsEveryStepInOrder) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = testing::testLine(6, 2.0, {0.0, 10.0});
+  testing::pickTwoLayers(line, 450.0, 1800.0, 3.0);
+  testing::putGrid(line, 4.0, 1.0);
+  TomographyParameters p = fewIterations(1, 2);
+  p.singleThread = true;
+  p.smoothingType = SmoothingType::kLinear;
+  Log log;
+  const TomographyResult result = runInversion(line, p, log);
+  ASSERT_TRUE(result.status.ok()) << result.status.message();
+
+  std::ostringstream rmse, error;
+  rmse << "[LOG] RMSE: s" << result.misfit.rmse;
+  error << "[LOG] MaxError: %" << result.misfit.maxRelativeError * 100.0;
+  const std::vector<std::string> expected = {
+      "log: Running Tomography :Single thread mode. ",
+      "log: Running Tomography - external iteration 0",
+      "log: TomoDocument::runTomography",
+      "log: TomoDocument::runTomography_fast",
+      "log:  Forwarding ... ",
+      " [TOTAL N. THREADS] 2 to be run 1 by 1",
+      "log:  [TOTAL N. THREADS] 2 to be run 1 by 1",
+      "[RUNNIG DIJKSTRA] Traces from 0 to 0",
+      "log: [RUNNIG DIJKSTRA] Traces from 0 to 0",
+      " --- Creating and running thread 0",
+      "log:  --- Creating and running thread 0",
+      " --- Updating coorslow and coorcount ",
+      "[RUNNIG DIJKSTRA] Traces from 1 to 1",
+      "log: [RUNNIG DIJKSTRA] Traces from 1 to 1",
+      " --- Creating and running thread 1",
+      "log:  --- Creating and running thread 1",
+      " --- Updating coorslow and coorcount ",
+      "finished iteration at DATE",
+      "elapsed time: 0s",
+      "[INTERNAL RUN 2][RUNNIG SOLVEART] Traces from 0 to 0",
+      "log: [INTERNAL RUN 2][RUNNIG SOLVEART] Traces from 0 to 0",
+      "[INTERNAL RUN 2][RUNNIG SOLVEART] Traces from 1 to 1",
+      "log: [INTERNAL RUN 2][RUNNIG SOLVEART] Traces from 1 to 1",
+      "Linear Smoothing...",
+      "log: Running Tomography - external iteration 0 ... COMPLETED. ",
+      "log: Updating tomographic profile ... ",
+      "log: Updating tomographic profile ... COMPLETED. ",
+      "log: Linear RayDensity Smoothing",
+      "log: 2",
+      "log: Elapsed time: 0 seconds.",
+      rmse.str(),
+      error.str(),
+  };
+  EXPECT_EQ(linesOf(console.out()), expected);
+  EXPECT_EQ(console.error(), "");
+}
+
+TEST(Inversion, runsShotsInBatchesOfItsThreads) {
+  const struct {
+    unsigned threads;
+    std::vector<std::string> batches;
+  } cases[] = {
+      {1, {"0 to 0", "1 to 1", "2 to 2", "3 to 3", "4 to 4"}},
+      {2, {"0 to 1", "2 to 3", "4 to 4"}},
+      {3, {"0 to 2", "3 to 4"}},
+      {5, {"0 to 4"}},
+      {64, {"0 to 4"}},
+  };
+  for (const auto& c : cases) {
+    const testing::ConsoleCapture console;
+    TomoDocument line = twoLayers();
+    std::vector<double> slownesses;
+    Log log;
+    ASSERT_TRUE(line.runTomography_fast(slownesses, c.threads, 1, 2, false, 3, log).ok());
+    const std::string n = std::to_string(c.threads);
+    const std::vector<std::string> lines = linesOf(console.out());
+    EXPECT_EQ(lines[2], " [TOTAL N. THREADS] 5 to be run " + n + " by " + n);
+    std::vector<std::string> batches;
+    for (const std::string& text : lines) {
+      const std::string head = "[RUNNIG DIJKSTRA] Traces from ";
+      if (text.compare(0, head.size(), head) == 0) batches.push_back(text.substr(head.size()));
+    }
+    EXPECT_EQ(batches, c.batches);
+  }
+}
+
+TEST(Inversion, doesNotDependOnTheNumberOfThreads) {
+  const testing::ConsoleCapture console;
+  for (int type = 0; type <= 3; ++type) {
+    TomoDocument one = twoLayers(1.5);
+    std::vector<double> slownesses;
+    Log log;
+    ASSERT_TRUE(one.runTomography_fast(slownesses, 1, 4, 2, false, type, log).ok());
+    for (const unsigned threads : {1U, 2U, 3U, 8U}) {  // 1: the same run twice gives the same
+      SCOPED_TRACE(std::to_string(threads) + " threads, smoothing " + std::to_string(type));
+      TomoDocument other = twoLayers(1.5);
+      std::vector<double> result;
+      ASSERT_TRUE(other.runTomography_fast(result, threads, 4, 2, false, type, log).ok());
+      EXPECT_EQ(result, slownesses);
+      EXPECT_EQ(other.coorcount, one.coorcount);
+      EXPECT_EQ(other.hitCounts, one.hitCounts);
+      EXPECT_EQ(other.rays, one.rays);
+      EXPECT_EQ(other.grid->slownesses(), one.grid->slownesses());
+      for (std::size_t s = 0; s < 5; ++s) {
+        EXPECT_EQ(other.ttArray[s].ttCalcolati, one.ttArray[s].ttCalcolati);
+      }
+    }
+  }
+}
+
+TEST(Inversion, givesTheSameInBothModes) {
+  const testing::ConsoleCapture console;
+  Log log;
+  TomoDocument single = twoLayers(1.5), multi = twoLayers(1.5);
+  TomographyParameters p = fewIterations();
+  ASSERT_TRUE(runInversion(multi, p, log).status.ok());
+  p.singleThread = true;
+  ASSERT_TRUE(runInversion(single, p, log).status.ok());
+  EXPECT_EQ(multi.grid->slownesses(), single.grid->slownesses());
+  EXPECT_EQ(multi.info_density, single.info_density);
+  EXPECT_EQ(multi.RMSE_tomography, single.RMSE_tomography);
+}
+
+TEST(Inversion, finishesTheIterationUnderWayWhenItIsStopped) {
+  for (const bool byFlag : {true, false}) {
+    const testing::ConsoleCapture console;
+    TomoDocument line = twoLayers();
+    line.stopRequested = true;  // of a run before; this one starts afresh
+    Log log;
+    const TomographyResult result = runInversion(
+        line, fewIterations(5, 2), log,
+        [&](const TomographyProgress& state) {
+          EXPECT_EQ(state.total, 5);
+          if (byFlag && state.completed == 2) line.stopRequested = true;
+        },
+        [&] { return !byFlag && line.hasTomographicInfo; });
+    ASSERT_TRUE(result.status.ok());
+    EXPECT_TRUE(result.stopped);
+    EXPECT_EQ(result.iterationsDone, byFlag ? 2 : 1);
+    EXPECT_GT(result.misfit.count, 0);
+    EXPECT_EQ(line.RMSE_tomography, result.misfit.relativeRms * 100.0);
+    const std::vector<std::string> lines = linesOf(console.out());
+    const auto stop = std::find(lines.begin(), lines.end(), "log: Stop Request by the user.");
+    ASSERT_NE(stop, lines.end());
+    EXPECT_EQ(*(stop - 1), "log: Updating tomographic profile ... COMPLETED. ");
+    EXPECT_EQ(stop[1].find("log: Elapsed time: "), 0u);
+  }
+}
+
+TEST(Inversion, makesOneUpdateFromTheForwardPassForASingleSolverIteration) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers();
+  Log log;
+  ASSERT_TRUE(runInversion(line, fewIterations(1, 1), log).status.ok());
+  EXPECT_EQ(console.out().find("INTERNAL RUN"), std::string::npos);
+  for (const std::uint32_t hits : line.hitCounts) EXPECT_LE(hits, 1u);
+  EXPECT_EQ(*std::max_element(line.hitCounts.begin(), line.hitCounts.end()), 1u);
+}
+
+TEST(Inversion, countsHitsOfTheLastExternalIterationOnly) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers();
+  Log log;
+  ASSERT_TRUE(runInversion(line, fewIterations(3, 4), log).status.ok());
+  EXPECT_EQ(*std::max_element(line.hitCounts.begin(), line.hitCounts.end()), 4u);
+  std::size_t rays = 0;
+  for (const TravelTime& record : line.ttArray) rays += record.ttMisurati.size();
+  EXPECT_EQ(line.rays.size(), rays);
+}
+
+TEST(Inversion, drawsEachColumnDownToItsDeepestHit) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers(1.0);
+  // Leaves columns without any ray at the right end.
+  line.goephonesStringSet[0].resize(18);
+  line.ttArray.resize(3);
+  Log log;
+  ASSERT_TRUE(runInversion(line, fewIterations(2, 2), log).status.ok());
+  const Grid& grid = *line.grid;
+  std::vector<Point2D> limit;
+  std::uint32_t bare = 0;
+  for (std::uint32_t column = 0; column < grid.col(); ++column) {
+    std::uint32_t deepest = 0;
+    for (std::uint32_t row = 1; row < grid.righe(); ++row) {
+      if (line.hitCounts[grid.cellIndex(row, column)] > 0) deepest = row;
+    }
+    if (deepest > 0) limit.push_back(grid.cellCentre(grid.cellIndex(deepest, column)));
+    bare += deepest == 0;
+    for (std::uint32_t row = 0; row < grid.righe(); ++row) {
+      EXPECT_EQ(grid.draw(grid.cellIndex(row, column)), row <= deepest) << row << ", " << column;
+    }
+  }
+  EXPECT_GT(bare, 0u);
+  EXPECT_EQ(line.coverageLimit, limit);
+  ASSERT_TRUE(line.coverageSpline.has_value());
+  EXPECT_EQ((*line.coverageSpline)(limit[3].x), limit[3].z);
+}
+
+TEST(Inversion, hasNoCoverageCurveForFewerThanTwoColumns) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers();
+  for (TravelTime& record : line.ttArray) {
+    record.ttMisurati.assign(record.ttMisurati.size(), kUnpicked);
+  }
+  line.coverageLimit = {{1.0, 1.0}};
+  Log log;
+  const TomographyResult result = runInversion(line, fewIterations(1, 2), log);
+  ASSERT_TRUE(result.status.ok());
+  EXPECT_TRUE(line.coverageLimit.empty());
+  EXPECT_FALSE(line.coverageSpline.has_value());
+  EXPECT_TRUE(line.hasTomographicInfo);
+  // No pick, no misfit.
+  EXPECT_EQ(result.misfit.count, 0);
+  EXPECT_LT(line.RMSE_tomography, 0.0);
+  EXPECT_EQ(console.out().find("[LOG] RMSE"), std::string::npos);
+}
+
+TEST(Inversion, fitsTwoLayersBetterThanItsStart) {
+  const testing::ConsoleCapture console;
+  Log log;
+  double start = 0.0;
+  {
+    TomoDocument untouched = twoLayers();
+    ASSERT_TRUE(recomputeRays(untouched, log).ok());
+    start = computeMisfit(untouched).rmse;
+  }
+  TomoDocument line = twoLayers();
+  TomographyParameters p;
+  p.externalIterations = 5;
+  p.solverIterations = 10;
+  p.smoothing = 2;
+  const TomographyResult result = runInversion(line, p, log);
+  ASSERT_TRUE(result.status.ok());
+  EXPECT_GT(start, 0.01);
+  EXPECT_LT(result.misfit.rmse, 0.1 * start);
+  EXPECT_EQ(result.history.size(), 5u);
+  EXPECT_EQ(result.history.back().rmse, result.misfit.rmse);
+
+  // Under the middle of the line: slow cover, fast ground below.
+  const Grid& grid = *line.grid;
+  const std::uint32_t middle = grid.col() / 2;
+  EXPECT_NEAR(grid.velocity(grid.cellIndex(0, middle)), 450.0, 100.0);
+  EXPECT_GT(grid.velocity(grid.cellIndex(5, middle)), 1200.0);
+  for (std::uint32_t c = 0; c < grid.cellCount(); ++c) {
+    EXPECT_GT(line.info_density[c], -1.0);
+    EXPECT_LE(grid.velocity(c), 3500.0 * (1.0 + 1e-12));
+  }
+}
+
+TEST(Inversion, refusesWhatItCannotRunWith) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  struct Case {
+    const char* name;
+    std::function<void(TomoDocument&, TomographyParameters&)> change;
+    std::string text;
+  };
+  const Case cases[] = {
+      {"no grid", [](TomoDocument& d, TomographyParameters&) { d.grid.reset(); }, "no grid"},
+      {"a grid without rows",
+       [](TomoDocument& d, TomographyParameters&) {
+         d.grid = buildDefaultGrid({0, 10, 6, 1.0}, d.surface);
+       },
+       "no grid with cells"},
+      {"a cell without velocity",
+       [](TomoDocument& d, TomographyParameters&) { d.grid->setSlowness(3, 0.0); }, "cell 3 "},
+      {"no iterations", [](TomoDocument&, TomographyParameters& p) { p.externalIterations = 0; },
+       "1 at least"},
+      {"no solver iterations",
+       [](TomoDocument&, TomographyParameters& p) { p.solverIterations = 0; }, "1 at least"},
+      {"no smoothing", [](TomoDocument&, TomographyParameters& p) { p.smoothing = 0; },
+       "1 at least"},
+      {"no minimum", [](TomoDocument&, TomographyParameters& p) { p.minVelocity = 0.0; },
+       "positive"},
+      {"no number", [nan](TomoDocument&, TomographyParameters& p) { p.maxVelocity = nan; },
+       "positive"},
+      {"infinite", [=](TomoDocument&, TomographyParameters& p) { p.minVelocity = infinity; },
+       "positive"},
+      {"infinitely slow", [](TomoDocument&, TomographyParameters& p) { p.maxVelocity = 5e-324; },
+       "positive"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    const testing::ConsoleCapture console;
+    TomoDocument line = twoLayers();
+    TomographyParameters p = fewIterations();
+    c.change(line, p);
+    const std::vector<double> before = line.grid ? line.grid->slownesses() : std::vector<double>();
+    Log log;
+    const TomographyResult result = runInversion(line, p, log);
+    EXPECT_FALSE(result.status.ok());
+    EXPECT_NE(result.status.message().find(c.text), std::string::npos) << result.status.message();
+    EXPECT_EQ(result.iterationsDone, 0);
+    EXPECT_FALSE(line.hasTomographicInfo);
+    EXPECT_EQ(line.grid ? line.grid->slownesses() : std::vector<double>(), before);
+  }
+}
+
+/// A console that breaks down at a word.
+class BrokenConsole : private std::streambuf {
+ public:
+  explicit BrokenConsole(std::string word) : mWord(std::move(word)), mStream(this) {
+    mStream.exceptions(std::ios::badbit);
+    console::setOut(mStream);
+  }
+  ~BrokenConsole() override { console::setOut(std::cout); }
+
+ private:
+  int_type overflow(int_type c) override {
+    mText += static_cast<char>(c);
+    return accept(c);
+  }
+  std::streamsize xsputn(const char* text, std::streamsize n) override {
+    mText.append(text, static_cast<std::size_t>(n));
+    return accept(n);
+  }
+  template <typename T>
+  T accept(T value) const {
+    if (mText.find(mWord) != std::string::npos) throw std::runtime_error("the console is gone");
+    return value;
+  }
+  std::string mWord;
+  std::string mText;
+  std::ostream mStream;
+};
+
+TEST(Inversion, goesBackToTheLastCompletedIterationWhenOneFails) {
+  for (const char* word : {"Forwarding", "running thread 3", "Updating coorslow", "INTERNAL RUN",
+                           "Gaussian Smoothing"}) {
+    SCOPED_TRACE(word);
+    TomoDocument line = twoLayers(1.0), expected = twoLayers(1.0);
+    Log log;
+    {
+      const testing::ConsoleCapture console;
+      ASSERT_TRUE(runInversion(line, fewIterations(1, 3), log).status.ok());
+      ASSERT_TRUE(runInversion(expected, fewIterations(1, 3), log).status.ok());
+    }
+    const Grid* grid = line.grid.get();
+    std::vector<double> slownesses;
+    Status status;
+    {
+      const BrokenConsole console(word);
+      status = line.runTomography(slownesses, 3, 2, true, false, 2, log);
+    }
+    ASSERT_FALSE(status.ok());
+    EXPECT_NE(status.message().find("the console is gone"), std::string::npos);
+    EXPECT_EQ(line.grid.get(), grid);
+    EXPECT_EQ(line.grid->slownesses(), expected.grid->slownesses());
+    EXPECT_EQ(line.hitCounts, expected.hitCounts);
+    EXPECT_EQ(line.coorcount, expected.coorcount);
+    EXPECT_EQ(line.rays, expected.rays);
+    EXPECT_EQ(line.coverageLimit, expected.coverageLimit);
+    for (std::size_t s = 0; s < 5; ++s) {
+      EXPECT_EQ(line.ttArray[s].ttCalcolati, expected.ttArray[s].ttCalcolati);
+    }
+  }
+}
+
+TEST(Inversion, letsNothingEscapeItsLastSteps) {
+  TomoDocument line = twoLayers();
+  Log log;
+  const BrokenConsole console("RayDensity");
+  TomographyParameters p = fewIterations(1, 1);
+  p.smoothingType = SmoothingType::kUniform;
+  const TomographyResult result = runInversion(line, p, log);
+  EXPECT_FALSE(result.status.ok());
+  EXPECT_EQ(result.iterationsDone, 1);
+  EXPECT_TRUE(line.hasTomographicInfo);
+}
+
+TEST(Inversion, namesWhatItLeavesOutOncePerRun) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers();
+  line.ttArray[4].shotPos2d.x = 500.0;
+  Log log;
+  for (const int runs : {1, 2}) {
+    const TomographyResult result = runInversion(line, fewIterations(3, 1), log);
+    ASSERT_TRUE(result.status.ok());
+    EXPECT_EQ(result.misfit.count, 4 * 24);
+    EXPECT_EQ(line.excluded.size(), 1u);
+    int named = 0;
+    for (const std::string& text : linesOf(console.error())) {
+      named += text.find("Left out: shot 5 ") != std::string::npos;
+    }
+    EXPECT_EQ(named, runs);
+  }
+}
+
+TEST(Inversion, takesPicksAtTheSourceAsTheyAre) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers();
+  line.ttArray[1].shotPos2d.x = 10.0;      // at a geophone
+  line.ttArray[1].ttMisurati[5] = 0.0005;  // where the computed time is 0
+  Log log;
+  ASSERT_TRUE(runInversion(line, fewIterations(2, 2), log).status.ok());
+  EXPECT_EQ(line.ttArray[1].ttCalcolati[5], 0.0);
+  EXPECT_EQ(line.grid->invalidSlowness(), "");
+}
+
+TEST(RayRecomputation, bringsBackRaysAndTimesAndChangesNoModel) {
+  TomoDocument line = twoLayers(1.0);
+  Log log;
+  {
+    const testing::ConsoleCapture console;
+    ASSERT_TRUE(runInversion(line, fewIterations(1, 1), log).status.ok());
+  }
+  TomoDocument loaded = twoLayers(1.0);
+  loaded.grid = std::make_unique<Grid>(line.grid->sharedGeometry(), line.grid->slownesses());
+  loaded.hasTomographicInfo = true;
+  loaded.rays = {{7}};
+  const testing::ConsoleCapture console;
+  ASSERT_TRUE(recomputeRays(loaded, log).ok());
+  EXPECT_EQ(loaded.grid->slownesses(), line.grid->slownesses());
+  EXPECT_EQ(loaded.rays.size(), 5u * 24u);
+  EXPECT_EQ(loaded.coorcount, std::vector<double>(line.grid->cellCount(), 0.0));
+  EXPECT_EQ(loaded.hitCounts, std::vector<std::uint32_t>(line.grid->cellCount(), 0));
+  EXPECT_EQ(linesOf(console.out()),
+            (std::vector<std::string>{
+                " --- Creating and running thread 0", " --- Creating and running thread 1",
+                " --- Creating and running thread 2", " --- Creating and running thread 3",
+                " --- Creating and running thread 4"}));
+
+  // The times are those that the next iteration of the inversion begins with.
+  std::vector<double> slownesses;
+  const testing::ConsoleCapture quiet;
+  ASSERT_TRUE(line.runTomography_fast(slownesses, 1, 1, 2, false, 3, log).ok());
+  EXPECT_EQ(loaded.rays, line.rays);
+  for (std::size_t s = 0; s < 5; ++s) {
+    EXPECT_EQ(loaded.ttArray[s].ttCalcolati, line.ttArray[s].ttCalcolati);
+  }
+}
+
+TEST(RayRecomputation, failsWithoutAGridOrAVelocity) {
+  const testing::ConsoleCapture console;
+  Log log;
+  TomoDocument line = twoLayers();
+  line.grid->setSlowness(2, std::numeric_limits<double>::infinity());
+  EXPECT_FALSE(recomputeRays(line, log).ok());
+  line.grid.reset();
+  EXPECT_FALSE(recomputeRays(line, log).ok());
+}
+
+}  // namespace
+}  // namespace talvesk

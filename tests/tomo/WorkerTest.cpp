@@ -1,0 +1,255 @@
+#include "support/ConsoleCapture.h"
+#include "support/TestSurveys.h"
+#include "tomo/DijkstraComputePathsThread.h"
+#include "tomo/ForwardPass.h"
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <numeric>
+
+#include <gtest/gtest.h>
+
+namespace talvesk {
+namespace {
+
+/// One shot's worker, started again and again with fresh accumulators.
+class Worker {
+ public:
+  explicit Worker(TomoDocument& document)
+      : mDocument(document), mThread(document, 0, sourceOf(document)) {
+    document.ttArray[0].ttCalcolati.assign(document.ttArray[0].ttMisurati.size(), kNoTime);
+  }
+
+  void run() {
+    correction.assign(mDocument.grid->cellCount(), 0.0);
+    rayLength = correction;
+    mThread.use(mSearch, correction, rayLength);
+    mThread.start();
+    mThread.wait();
+  }
+  DijkstraComputePathsThread& thread() { return mThread; }
+  double computed(std::size_t i) const { return mDocument.ttArray[0].ttCalcolati[i]; }
+
+  std::vector<double> correction, rayLength;
+
+ private:
+  static std::uint32_t sourceOf(const TomoDocument& d) {
+    return d.grid->geometry().topNodeIndex(d.ttArray[0].shotPos2d.x + d.xOffset);
+  }
+  TomoDocument& mDocument;
+  ShortestPaths mSearch;
+  DijkstraComputePathsThread mThread;
+};
+
+/// Ten geophones two metres apart, a shot at the third of them.
+TomoDocument smallLine() {
+  TomoDocument line = testing::testLine(10, 2.0, {4.0}, 1.0);
+  testing::putGrid(line, 6.0, 1.0);
+  return line;
+}
+
+double sum(const std::vector<double>& values) {
+  return std::accumulate(values.begin(), values.end(), 0.0);
+}
+
+TEST(Worker, spreadsTheErrorOfARayAlongItsWay) {
+  TomoDocument line = smallLine();
+  line.ttArray[0].ttMisurati[8] = 0.02;
+  Worker worker(line);
+  worker.run();
+  ASSERT_EQ(worker.thread().failure(), "");
+
+  const Ray& ray = worker.thread().rays()[8];
+  double time = 0.0, length = 0.0;
+  for (const GridEdge& step : ray.steps) {
+    time += step.length * line.grid->slowness(step.cell);
+    length += step.length;
+  }
+  EXPECT_EQ(worker.computed(8), time);
+  EXPECT_GT(length, 12.0);
+  const double perMetre = (time - 0.02) / length;
+  std::vector<double> correction(line.grid->cellCount(), 0.0), rayLength = correction;
+  for (const GridEdge& step : ray.steps) {
+    correction[step.cell] += perMetre * step.length;
+    rayLength[step.cell] += step.length;
+  }
+  EXPECT_EQ(worker.correction, correction);
+  EXPECT_EQ(worker.rayLength, rayLength);
+  // The whole error is spread, no more and no less.
+  EXPECT_NEAR(sum(worker.correction), time - 0.02, 1e-14);
+}
+
+TEST(Worker, addsNothingForRaysThatAskForNothing) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const struct {
+    const char* name;
+    std::size_t receiver;
+    double measured;
+  } cases[] = {
+      {"never picked", 6, kUnpicked},       {"removed", 6, kNoTime},
+      {"at the source, picked", 2, 0.015},  {"at the source, not picked", 2, kUnpicked},
+      {"at the source, no number", 2, nan},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    TomoDocument line = smallLine();
+    line.ttArray[0].ttMisurati[c.receiver] = c.measured;
+    Worker worker(line);
+    worker.run();
+    for (std::size_t i = 0; i < 10; ++i) {
+      // Computed all the same; 0 only at the source.
+      EXPECT_EQ(worker.computed(i) > 0.0, i != 2) << i;
+    }
+    EXPECT_EQ(worker.computed(2), 0.0);
+    EXPECT_EQ(worker.correction, std::vector<double>(line.grid->cellCount(), 0.0));
+    EXPECT_EQ(worker.rayLength, std::vector<double>(line.grid->cellCount(), 0.0));
+  }
+}
+
+TEST(Worker, addsNoLengthForAnExactFit) {
+  TomoDocument line = smallLine();
+  Worker worker(line);
+  worker.run();
+  line.ttArray[0].ttMisurati = line.ttArray[0].ttCalcolati;
+  worker.run();
+  EXPECT_EQ(sum(worker.rayLength), 0.0);
+  line.ttArray[0].ttMisurati[9] = std::nextafter(line.ttArray[0].ttMisurati[9], 1.0);
+  worker.run();
+  EXPECT_GT(sum(worker.rayLength), 13.0);
+}
+
+TEST(Worker, keepsItsRaysWhenItIsStartedAgain) {
+  TomoDocument line = smallLine();
+  Worker worker(line);
+  worker.run();
+  std::vector<std::vector<std::uint32_t>> before;
+  for (const Ray& ray : worker.thread().rays()) before.push_back(ray.nodes);
+  const std::vector<double> times = line.ttArray[0].ttCalcolati;
+
+  // A model that would bend every ray otherwise.
+  for (std::uint32_t c = 0; c < line.grid->cellCount(); ++c) {
+    line.grid->setSlowness(c, c < line.grid->col() ? 1.0 / 5000.0 : 1.0 / 100.0);
+  }
+  worker.thread().refreshRayTimes(9);
+  for (const GridEdge& step : worker.thread().rays()[9].steps) {
+    EXPECT_EQ(step.time, step.length * line.grid->slowness(step.cell));
+  }
+  worker.run();
+  for (std::size_t i = 0; i < before.size(); ++i) {
+    const Ray& ray = worker.thread().rays()[i];
+    EXPECT_EQ(ray.nodes, before[i]);
+    double time = 0.0;
+    for (const GridEdge& step : ray.steps) time += step.length * line.grid->slowness(step.cell);
+    EXPECT_EQ(worker.computed(i), time);
+  }
+  EXPECT_NE(line.ttArray[0].ttCalcolati, times);
+  EXPECT_EQ(worker.thread().lastTime(), worker.computed(9));
+}
+
+TEST(Worker, goesAsFarAsStringAndRecordBothGo) {
+  for (const std::size_t times : {0, 4, 15}) {
+    TomoDocument line = smallLine();
+    line.ttArray[0].ttMisurati.assign(times, 0.01);
+    Worker worker(line);
+    worker.run();
+    EXPECT_EQ(worker.thread().failure(), "");
+    EXPECT_EQ(worker.thread().rays().size(), std::min<std::size_t>(times, 10));
+    for (std::size_t i = 0; i < times; ++i) EXPECT_EQ(worker.computed(i) == kNoTime, i >= 10) << i;
+  }
+}
+
+TEST(Worker, letsNothingEscapeItsThread) {
+  TomoDocument line = smallLine();
+  DijkstraComputePathsThread thread(line, 0, kNoNode);
+  ShortestPaths search;
+  std::vector<double> correction, rayLength;
+  thread.use(search, correction, rayLength);
+  thread.start();
+  thread.wait();
+  EXPECT_NE(thread.failure(), "");
+}
+
+// --- Exclusions
+
+std::vector<std::string> exclusionsIn(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) {
+    const std::size_t at = line.find("Left out: ");
+    if (at != std::string::npos) lines.push_back(line.substr(at));
+  }
+  return lines;
+}
+
+/// Three shots; the line has changed since the grid was built.
+TomoDocument movedLine() {
+  TomoDocument line = testing::testLine(10, 2.0, {4.0, 9.0, 13.0}, 1.0);
+  testing::putGrid(line, 6.0, 1.0);
+  testing::pickTwoLayers(line, 500.0, 1500.0, 2.0);
+  return line;
+}
+
+TEST(ForwardPass, leavesOutWhatTheGridCannotHold) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const struct {
+    const char* name;
+    std::function<void(TomoDocument&)> change;
+    std::vector<std::pair<int, int>> excluded;  ///< shot and receiver
+  } cases[] = {
+      {"nothing", [](TomoDocument&) {}, {}},
+      {"a shot to the right", [](TomoDocument& d) { d.ttArray[1].shotPos2d.x = 500.0; }, {{1, -1}}},
+      {"a shot to the left", [](TomoDocument& d) { d.ttArray[2].shotPos2d.x = -5.0; }, {{2, -1}}},
+      {"a shot nowhere", [nan](TomoDocument& d) { d.ttArray[0].shotPos2d.x = nan; }, {{0, -1}}},
+      {"a geophone of all shots",
+       [](TomoDocument& d) { d.goephonesStringSet[0][9].x = 21.5; },
+       {{0, 9}, {1, 9}, {2, 9}}},
+      {"no such string", [](TomoDocument& d) { d.ttArray[1].indexStesa = 1; }, {{1, -1}}},
+      {"a negative string", [](TomoDocument& d) { d.ttArray[1].indexStesa = -1; }, {{1, -1}}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const testing::ConsoleCapture console;
+    TomoDocument whole = movedLine(), line = movedLine();
+    c.change(line);
+    Log log;
+    std::vector<double> coorslow(line.grid->cellCount(), 0.0), coorcount = coorslow;
+    ForwardPass reference(whole, 2, log);
+    ASSERT_TRUE(reference.run("all", &coorslow, &coorcount).ok());
+    ForwardPass pass(line, 2, log);
+    ASSERT_TRUE(pass.run("rest", &coorslow, &coorcount).ok());
+
+    std::vector<std::pair<int, int>> excluded;
+    for (const ExcludedPosition& p : line.excluded) excluded.push_back({p.shot, p.receiver});
+    EXPECT_EQ(excluded, c.excluded);
+    EXPECT_EQ(exclusionsIn(console.error()).size(), c.excluded.size());
+    for (std::size_t s = 0; s < 3; ++s) {
+      for (std::size_t i = 0; i < 10; ++i) {
+        bool out = false;
+        for (const auto& [shot, receiver] : c.excluded) {
+          out = out ||
+                (shot == static_cast<int>(s) && (receiver < 0 || receiver == static_cast<int>(i)));
+        }
+        const double expected = out ? kNoTime : whole.ttArray[s].ttCalcolati[i];
+        EXPECT_EQ(line.ttArray[s].ttCalcolati[i], expected) << s << ", " << i;
+      }
+    }
+  }
+}
+
+TEST(ForwardPass, namesExclusionsOnceAndCountsFromOne) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = movedLine();
+  line.ttArray[1].shotPos2d.x = 500.0;
+  line.goephonesStringSet[0][9].x = std::numeric_limits<double>::quiet_NaN();
+  Log log;
+  ForwardPass(line, 1, log);
+  ForwardPass(line, 1, log);
+  const auto lines = exclusionsIn(console.error());
+  ASSERT_EQ(lines.size(), 3u);
+  EXPECT_EQ(lines[0].find("Left out: shot 1, receiver 10 at x = "), 0u) << lines[0];
+  EXPECT_EQ(lines[1].find("Left out: shot 2 at x = 500 m"), 0u) << lines[1];
+}
+
+}  // namespace
+}  // namespace talvesk
