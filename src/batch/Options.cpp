@@ -147,9 +147,9 @@ void addGridOptions(CLI::App& app, InvertOptions& options) {
            for (const std::string& text : texts) options.layers.push_back(readLayer(text));
          },
          "One layer of the starting model: depths of top and bottom in metres below the surface "
-         "(0 to 999.99), velocities at top and bottom in m/s (1 to 999999). Give it once per "
-         "layer, "
-         "from the top down (default: a model that grows with depth)")
+         "(0 to 999.99), velocities at top and bottom in m/s (1 to 999999). Once per "
+         "layer, from the top down, each beginning with the velocity that the one above ends with "
+         "(default: a model that grows with depth)")
       ->type_name("TOP:BOTTOM:VTOP:VBOTTOM")
       ->allow_extra_args(false)
       ->group("Grid");

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kPatience = 240000;  // milliseconds
 
-void start(QProcess& process, const std::vector<std::string>& arguments,
+void start(QProcess& process, const char* program, const std::vector<std::string>& arguments,
            const Environment& environment) {
   QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
   for (const auto& [name, value] : environment) {
@@ -28,8 +28,8 @@ void start(QProcess& process, const std::vector<std::string>& arguments,
   process.setProcessEnvironment(variables);
   QStringList list;
   for (const std::string& argument : arguments) list << QString::fromStdString(argument);
-  process.start(QStringLiteral(TALVESK_BATCH), list);
-  ASSERT_TRUE(process.waitForStarted()) << TALVESK_BATCH;
+  process.start(QString::fromUtf8(program), list);
+  ASSERT_TRUE(process.waitForStarted()) << program;
 }
 
 void finish(QProcess& process, Outcome& outcome) {
@@ -46,7 +46,17 @@ void finish(QProcess& process, Outcome& outcome) {
 Outcome runBatch(const std::vector<std::string>& arguments, const Environment& environment) {
   QProcess process;
   Outcome outcome;
-  start(process, arguments, environment);
+  start(process, TALVESK_BATCH, arguments, environment);
+  finish(process, outcome);
+  return outcome;
+}
+
+Outcome runExample(const std::string& script, const std::vector<std::string>& arguments) {
+  QProcess process;
+  Outcome outcome;
+  std::vector<std::string> all = {std::string(TALVESK_EXAMPLES "/") + script};
+  all.insert(all.end(), arguments.begin(), arguments.end());
+  start(process, "sh", all, {{"TALVESK_BATCH", TALVESK_BATCH}});
   finish(process, outcome);
   return outcome;
 }
@@ -54,7 +64,7 @@ Outcome runBatch(const std::vector<std::string>& arguments, const Environment& e
 Outcome interruptBatch(const std::vector<std::string>& arguments, const std::string& trigger) {
   QProcess process;
   Outcome outcome;
-  start(process, arguments, {});
+  start(process, TALVESK_BATCH, arguments, {});
   while (outcome.err.find(trigger) == std::string::npos && process.waitForReadyRead(kPatience)) {
     outcome.err += process.readAllStandardError().toStdString();
   }

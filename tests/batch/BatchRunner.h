@@ -19,6 +19,9 @@ using Environment = std::vector<std::pair<std::string, std::string>>;
 /// Runs talvesk-batch with these arguments, no shell in between, and waits for it.
 Outcome runBatch(const std::vector<std::string>& arguments, const Environment& environment = {});
 
+/// Runs a shell script of the examples with the program that was built.
+Outcome runExample(const std::string& script, const std::vector<std::string>& arguments);
+
 /// Runs it and sends it SIGINT as soon as it writes `trigger` to standard error.
 Outcome interruptBatch(const std::vector<std::string>& arguments, const std::string& trigger);
 

@@ -84,8 +84,9 @@ TEST_F(Demo, defaultInversionFindsTheBuriedValley) {
   EXPECT_GT(valley, right + 3.0) << right;
 }
 
-TEST_F(Demo, aNameThatIsTakenIsAFailure) {
-  const std::string taken = sFolder->write("taken", "");
+TEST(DemoFolder, aNameThatIsTakenIsAFailure) {
+  const Folder folder;
+  const std::string taken = folder.write("taken", "");
   const Outcome outcome = runBatch({"demo", taken});
   EXPECT_EQ(outcome.code, 1);
   EXPECT_EQ(outcome.err.rfind("talvesk-batch: ", 0), 0U) << outcome.err;
