@@ -8,6 +8,7 @@
 #include "batch/SectionImage.h"
 #include "export/GriddedText.h"
 #include "grid/GridBuilder.h"
+#include "tomo/ForwardPass.h"
 #include "tomo/GridSetup.h"
 
 #include <algorithm>
@@ -85,11 +86,7 @@ TomographyResult invert(const InvertOptions& options, const Channels& channels,
 }
 
 void summarizeExcluded(const TomoDocument& document, std::ostream& out) {
-  for (const ExcludedPosition& position : document.excluded) {
-    out << "Left out, beyond the grid: ";
-    if (position.receiver >= 0) out << "receiver " << position.receiver << " of ";
-    out << "shot " << position.shot << " at " << formatDouble(position.x) << " m\n";
-  }
+  for (const ExcludedPosition& position : document.excluded) out << describe(position) << '\n';
 }
 
 void summarize(const InvertOptions& options, const TomoDocument& document,
@@ -128,7 +125,9 @@ int writeResults(const InvertOptions& options, const TomoDocument& document,
     return writeGriddedText(options.gridded, document, options.lineY, options.zOffset);
   });
   attempt(options.otte, [&] { return writeTravelTimes(options.otte, document); });
-  attempt(options.image, [&] { return drawSection(document, options); });
+  for (const std::string& image : options.images) {
+    attempt(image, [&] { return drawSection(document, options, image); });
+  }
   return exitCode;
 }
 
@@ -137,14 +136,13 @@ int writeResults(const InvertOptions& options, const TomoDocument& document,
 int run(const InvertOptions& options) {
   const Channels channels =
       openChannels(options.json == kStandardOutput, options.quiet, options.verbose);
-  const Status places = checkOutputFiles({{"--gridded", options.gridded},
-                                          {"--image", options.image},
-                                          {"--otte", options.otte},
-                                          {"--json", options.json}},
-                                         {options.input});
+  std::vector<OutputFile> outputs = {
+      {"--gridded", options.gridded}, {"--otte", options.otte}, {"--json", options.json}};
+  for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  const Status places = checkOutputFiles(outputs, {options.input});
   if (places.code() == kWrongUsage) return wrongUsage("invert", places.message());
   if (!places.ok()) return failed(places.message());
-  if (!options.image.empty()) prepareDrawing();
+  if (!options.images.empty()) prepareDrawing();
 
   Log log;
   TomoDocument document;

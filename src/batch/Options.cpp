@@ -210,8 +210,10 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
   CLI::Option* zOffset = addNumber(app, "--z-offset", "M", Range<double>{-1e9, 1e9},
                                    "Added to Z in --gridded, metres (default: 0)",
                                    [&](double value) { options.zOffset = value; });
-  CLI::Option* image =
-      addPath(app, "--image", options.image, "Draw the section: .png, .svg or .pdf");
+  CLI::Option* image = app.add_option("--image", options.images,
+                                      "Draw the section: .png, .svg or .pdf; once per picture")
+                           ->type_name("FILE")
+                           ->allow_extra_args(false);
   image->check([](const std::string& path) {
     for (const char* suffix : {".png", ".svg", ".pdf"}) {
       if (endsWith(path, suffix, true)) return std::string();

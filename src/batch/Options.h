@@ -31,9 +31,9 @@ struct InvertOptions {
   std::vector<VelocityLayer> layers;  ///< none: the grid's default model
   TomographyParameters parameters;
   std::string gridded;
-  double lineY = 0.0;    ///< metres
-  double zOffset = 0.0;  ///< metres
-  std::string image;
+  double lineY = 0.0;               ///< metres
+  double zOffset = 0.0;             ///< metres
+  std::vector<std::string> images;  ///< one picture per path
   bool rays = false;
   int contours = 0;  ///< number of contour lines
   std::string otte;

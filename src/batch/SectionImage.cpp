@@ -31,11 +31,12 @@ void prepareDrawing() {
   std::setlocale(LC_NUMERIC, "C");
 }
 
-Status drawSection(const TomoDocument& document, const InvertOptions& options) {
+Status drawSection(const TomoDocument& document, const InvertOptions& options,
+                   const std::string& path) {
   SectionFigureOptions figure;
   figure.scene.rays = options.rays;
   figure.scene.equallySpacedContours = options.contours;
-  return writeSectionFigure(document, figure, options.image);
+  return writeSectionFigure(document, figure, path);
 }
 
 }  // namespace talvesk

@@ -9,7 +9,8 @@ namespace talvesk {
 /// early; numbers are read and printed by the "C" locale afterwards as before.
 void prepareDrawing();
 
-/// Draws the section into the file that the options name.
-Status drawSection(const TomoDocument& document, const InvertOptions& options);
+/// Draws the section as the options say, in the format that the path's suffix names.
+Status drawSection(const TomoDocument& document, const InvertOptions& options,
+                   const std::string& path);
 
 }  // namespace talvesk

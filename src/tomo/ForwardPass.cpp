@@ -17,6 +17,13 @@ bool sameExclusions(const std::vector<ExcludedPosition>& a,
                     });
 }
 
+void both(Log& log, const std::string& line) {
+  console::out() << line << std::endl;
+  log.write(line);
+}
+
+}  // namespace
+
 std::string describe(const ExcludedPosition& position) {
   std::ostringstream text;
   text.imbue(std::locale::classic());
@@ -25,13 +32,6 @@ std::string describe(const ExcludedPosition& position) {
   text << " at x = " << position.x << " m lies beyond the grid or has no geophone string";
   return text.str();
 }
-
-void both(Log& log, const std::string& line) {
-  console::out() << line << std::endl;
-  log.write(line);
-}
-
-}  // namespace
 
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document) {
   std::vector<ExcludedPosition> excluded;

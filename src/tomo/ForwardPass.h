@@ -6,6 +6,7 @@
 #include "tomo/DijkstraComputePathsThread.h"
 
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace talvesk {
@@ -13,6 +14,9 @@ namespace talvesk {
 /// Shots and receivers that the current grid has no top-line node for, and shots whose geophone
 /// string does not exist (receiver -1).
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document);
+
+/// One line for users, who count shots and receivers from 1.
+std::string describe(const ExcludedPosition& position);
 
 /// The workers of all shots of a document, run in batches of consecutive shots.
 class ForwardPass {

@@ -158,7 +158,7 @@ TEST(Inversion, positionsBeyondTheGridAreNamed) {
   EXPECT_EQ(shots, (std::set<std::pair<int, double>>{{2, 23.5}}));
   EXPECT_EQ(receivers, 4U);  // two geophones, for each of the two shots that are left
   EXPECT_EQ(json["picks_used"], 22);
-  EXPECT_THAT(outcome.err, HasSubstr("Left out, beyond the grid: shot 2 at 23.5 m"));
+  EXPECT_THAT(outcome.err, HasSubstr("Left out: shot 3 at x = 23.5 m"));
 }
 
 TEST(Inversion, aLineWithoutPicksHasNoMisfit) {
