@@ -21,6 +21,16 @@ TEST(SurveyProfile, collectsEveryPositionOnceInOrder) {
   EXPECT_EQ(p.arrayLength, 14.0);  // a metre more at each end
 }
 
+TEST(SurveyProfile, takesTheElevationThatItMetFirst) {
+  std::vector<Point2D> string, shots;
+  for (int i = 0; i < 50; ++i) {
+    string.push_back({2.0 * i, 10.0});
+    shots.push_back({98.0 - 2.0 * i, 20.0});
+  }
+  EXPECT_EQ(measureSurvey({string}, shots).elevation, std::vector<double>(50, 10.0));
+  EXPECT_EQ(measureSurvey({shots, string}, {}).elevation, std::vector<double>(50, 20.0));
+}
+
 TEST(SurveyProfile, measuresTheSmallestSpacingInsideAString) {
   const struct {
     const char* name;

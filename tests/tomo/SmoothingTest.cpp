@@ -102,6 +102,21 @@ std::unique_ptr<Grid> cliff(const GridSize& size, double drop) {
   return std::make_unique<Grid>(std::make_shared<GridGeometry>(size, surface), rough->slownesses());
 }
 
+/// A cleft at every corner of the cells. It is smoothed away in the line below, so that the centres
+/// of the first row lie under those of many others.
+std::unique_ptr<Grid> clefts(const GridSize& size, double depth) {
+  std::vector<double> x, elevation;
+  for (std::uint32_t v = 0; v <= size.col; ++v) {
+    const double corner = v * size.aLato;
+    x.insert(x.end(), {corner - 0.05, corner, corner + 0.05});
+    elevation.insert(elevation.end(), {0.0, -depth, 0.0});
+  }
+  Splines::LinearSpline surface;
+  surface.build(x, elevation);
+  auto rough = testing::roughGrid(size, 0.0, 0.8);
+  return std::make_unique<Grid>(std::make_shared<GridGeometry>(size, surface), rough->slownesses());
+}
+
 std::vector<std::uint32_t> someHits(const Grid& grid, double share) {
   std::mt19937 random(3);
   std::vector<std::uint32_t> hits;
@@ -130,6 +145,7 @@ std::vector<NamedGrid> grids() {
   all.push_back({"level ground", testing::roughGrid({9, 14, 6, 0.7}, 0.0, 0.8)});
   all.push_back({"hills", testing::roughGrid({12, 15, 6, 1.0}, 8.0, 0.8)});
   all.push_back({"a cliff", cliff({14, 20, 6, 1.0}, 60.0)});
+  all.push_back({"clefts", clefts({36, 6, 6, 1.0}, 50.0)});
   all.push_back({"a pit of one column", testing::roughGrid({15, 1, 6, 1.0}, 5.0, 0.8)});
   all.push_back({"one row", testing::roughGrid({1, 15, 6, 1.0}, 5.0, 0.8)});
   return all;
@@ -145,6 +161,7 @@ bool centresGrowWithTheRow(const Grid& grid) {
 TEST(Smoothing, equalsTheFormulasOnEveryGround) {
   const testing::ConsoleCapture console;
   ASSERT_FALSE(centresGrowWithTheRow(*cliff({14, 20, 6, 1.0}, 60.0)));
+  ASSERT_FALSE(centresGrowWithTheRow(*clefts({36, 6, 6, 1.0}, 50.0)));
   for (const NamedGrid& g : grids()) {
     for (const double share : {0.0, 0.1, 0.6, 1.0}) {
       const auto hits = someHits(*g.grid, share);
