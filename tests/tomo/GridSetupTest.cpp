@@ -1,8 +1,7 @@
+#include "TestInversion.h"
 #include "support/ConsoleCapture.h"
-#include "support/TestSurveys.h"
 #include "tomo/GridSetup.h"
 
-#include <cctype>
 #include <functional>
 #include <limits>
 
@@ -13,16 +12,7 @@ namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-/// Lines that went through the log come with their stamp replaced.
-std::vector<std::string> linesOf(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) {
-    const bool stamped = line.size() > 5 && line[0] == '[' && std::isdigit(line[1]) != 0;
-    lines.push_back(stamped ? "log: " + line.substr(line.find("] ") + 2) : line);
-  }
-  return lines;
-}
+using testing::linesOf;
 
 TEST(GridSetup, buildsTheGridAndSaysSo) {
   TomoDocument line = testing::testLine(10, 2.0, {-1.5, 9.0}, 1.0);

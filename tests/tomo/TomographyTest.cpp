@@ -1,51 +1,20 @@
+#include "TestInversion.h"
 #include "support/ConsoleCapture.h"
-#include "support/TestSurveys.h"
 #include "tomo/RayRecomputation.h"
 #include "tomo/TomographyRun.h"
 
 #include <algorithm>
-#include <cctype>
-#include <functional>
-#include <iostream>
 #include <limits>
-#include <regex>
 #include <sstream>
-#include <stdexcept>
 
 #include <gtest/gtest.h>
 
 namespace talvesk {
 namespace {
 
-/// A line over two layers, its starting grid, and picks that fit neither.
-TomoDocument twoLayers(double relief = 0.0) {
-  TomoDocument line = testing::testLine(24, 2.0, {-2.0, 9.0, 23.0, 37.0, 48.0}, relief);
-  testing::pickTwoLayers(line, 450.0, 1800.0, 3.0);
-  testing::putGrid(line, 12.0, 1.0);
-  return line;
-}
-
-TomographyParameters fewIterations(int external = 2, int solver = 3) {
-  TomographyParameters p;
-  p.externalIterations = external;
-  p.solverIterations = solver;
-  p.smoothing = 2;
-  return p;
-}
-
-/// Lines that went through the log are marked, their stamp removed; times of day and seconds that
-/// passed are taken out.
-std::vector<std::string> linesOf(const std::string& text) {
-  const std::regex clock("[A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-9]{2} [0-9:]{8} [0-9]{4}");
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) {
-    const bool stamped = line.size() > 5 && line[0] == '[' && std::isdigit(line[1]) != 0;
-    if (stamped) line = "log: " + line.substr(line.find("] ") + 2);
-    lines.push_back(std::regex_replace(line, clock, "DATE"));
-  }
-  return lines;
-}
+using testing::fewIterations;
+using testing::linesOf;
+using testing::twoLayers;
 
 TEST(Inversion, tellsEveryStepInOrder) {
   const testing::ConsoleCapture console;
@@ -292,127 +261,6 @@ TEST(Inversion, fitsTwoLayersBetterThanItsStart) {
   }
 }
 
-TEST(Inversion, refusesWhatItCannotRunWith) {
-  const double infinity = std::numeric_limits<double>::infinity();
-  const double nan = std::numeric_limits<double>::quiet_NaN();
-  struct Case {
-    const char* name;
-    std::function<void(TomoDocument&, TomographyParameters&)> change;
-    std::string text;
-  };
-  const Case cases[] = {
-      {"no grid", [](TomoDocument& d, TomographyParameters&) { d.grid.reset(); }, "no grid"},
-      {"a grid without rows",
-       [](TomoDocument& d, TomographyParameters&) {
-         d.grid = buildDefaultGrid({0, 10, 6, 1.0}, d.surface);
-       },
-       "no grid with cells"},
-      {"a cell without velocity",
-       [](TomoDocument& d, TomographyParameters&) { d.grid->setSlowness(3, 0.0); }, "cell 3 "},
-      {"no iterations", [](TomoDocument&, TomographyParameters& p) { p.externalIterations = 0; },
-       "1 at least"},
-      {"no solver iterations",
-       [](TomoDocument&, TomographyParameters& p) { p.solverIterations = 0; }, "1 at least"},
-      {"no smoothing", [](TomoDocument&, TomographyParameters& p) { p.smoothing = 0; },
-       "1 at least"},
-      {"no minimum", [](TomoDocument&, TomographyParameters& p) { p.minVelocity = 0.0; },
-       "positive"},
-      {"no number", [nan](TomoDocument&, TomographyParameters& p) { p.maxVelocity = nan; },
-       "positive"},
-      {"infinite", [=](TomoDocument&, TomographyParameters& p) { p.minVelocity = infinity; },
-       "positive"},
-      {"infinitely slow", [](TomoDocument&, TomographyParameters& p) { p.maxVelocity = 5e-324; },
-       "positive"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.name);
-    const testing::ConsoleCapture console;
-    TomoDocument line = twoLayers();
-    TomographyParameters p = fewIterations();
-    c.change(line, p);
-    const std::vector<double> before = line.grid ? line.grid->slownesses() : std::vector<double>();
-    Log log;
-    const TomographyResult result = runInversion(line, p, log);
-    EXPECT_FALSE(result.status.ok());
-    EXPECT_NE(result.status.message().find(c.text), std::string::npos) << result.status.message();
-    EXPECT_EQ(result.iterationsDone, 0);
-    EXPECT_FALSE(line.hasTomographicInfo);
-    EXPECT_EQ(line.grid ? line.grid->slownesses() : std::vector<double>(), before);
-  }
-}
-
-/// A console that breaks down at a word.
-class BrokenConsole : private std::streambuf {
- public:
-  explicit BrokenConsole(std::string word) : mWord(std::move(word)), mStream(this) {
-    mStream.exceptions(std::ios::badbit);
-    console::setOut(mStream);
-  }
-  ~BrokenConsole() override { console::setOut(std::cout); }
-
- private:
-  int_type overflow(int_type c) override {
-    mText += static_cast<char>(c);
-    return accept(c);
-  }
-  std::streamsize xsputn(const char* text, std::streamsize n) override {
-    mText.append(text, static_cast<std::size_t>(n));
-    return accept(n);
-  }
-  template <typename T>
-  T accept(T value) const {
-    if (mText.find(mWord) != std::string::npos) throw std::runtime_error("the console is gone");
-    return value;
-  }
-  std::string mWord;
-  std::string mText;
-  std::ostream mStream;
-};
-
-TEST(Inversion, goesBackToTheLastCompletedIterationWhenOneFails) {
-  for (const char* word : {"Forwarding", "running thread 3", "Updating coorslow", "INTERNAL RUN",
-                           "Gaussian Smoothing"}) {
-    SCOPED_TRACE(word);
-    TomoDocument line = twoLayers(1.0), expected = twoLayers(1.0);
-    Log log;
-    {
-      const testing::ConsoleCapture console;
-      ASSERT_TRUE(runInversion(line, fewIterations(1, 3), log).status.ok());
-      ASSERT_TRUE(runInversion(expected, fewIterations(1, 3), log).status.ok());
-    }
-    const Grid* grid = line.grid.get();
-    std::vector<double> slownesses;
-    Status status;
-    {
-      const BrokenConsole console(word);
-      status = line.runTomography(slownesses, 3, 2, true, false, 2, log);
-    }
-    ASSERT_FALSE(status.ok());
-    EXPECT_NE(status.message().find("the console is gone"), std::string::npos);
-    EXPECT_EQ(line.grid.get(), grid);
-    EXPECT_EQ(line.grid->slownesses(), expected.grid->slownesses());
-    EXPECT_EQ(line.hitCounts, expected.hitCounts);
-    EXPECT_EQ(line.coorcount, expected.coorcount);
-    EXPECT_EQ(line.rays, expected.rays);
-    EXPECT_EQ(line.coverageLimit, expected.coverageLimit);
-    for (std::size_t s = 0; s < 5; ++s) {
-      EXPECT_EQ(line.ttArray[s].ttCalcolati, expected.ttArray[s].ttCalcolati);
-    }
-  }
-}
-
-TEST(Inversion, letsNothingEscapeItsLastSteps) {
-  TomoDocument line = twoLayers();
-  Log log;
-  const BrokenConsole console("RayDensity");
-  TomographyParameters p = fewIterations(1, 1);
-  p.smoothingType = SmoothingType::kUniform;
-  const TomographyResult result = runInversion(line, p, log);
-  EXPECT_FALSE(result.status.ok());
-  EXPECT_EQ(result.iterationsDone, 1);
-  EXPECT_TRUE(line.hasTomographicInfo);
-}
-
 TEST(Inversion, namesWhatItLeavesOutOncePerRun) {
   const testing::ConsoleCapture console;
   TomoDocument line = twoLayers();
@@ -440,49 +288,6 @@ TEST(Inversion, takesPicksAtTheSourceAsTheyAre) {
   ASSERT_TRUE(runInversion(line, fewIterations(2, 2), log).status.ok());
   EXPECT_EQ(line.ttArray[1].ttCalcolati[5], 0.0);
   EXPECT_EQ(line.grid->invalidSlowness(), "");
-}
-
-TEST(RayRecomputation, bringsBackRaysAndTimesAndChangesNoModel) {
-  TomoDocument line = twoLayers(1.0);
-  Log log;
-  {
-    const testing::ConsoleCapture console;
-    ASSERT_TRUE(runInversion(line, fewIterations(1, 1), log).status.ok());
-  }
-  TomoDocument loaded = twoLayers(1.0);
-  loaded.grid = std::make_unique<Grid>(line.grid->sharedGeometry(), line.grid->slownesses());
-  loaded.hasTomographicInfo = true;
-  loaded.rays = {{7}};
-  const testing::ConsoleCapture console;
-  ASSERT_TRUE(recomputeRays(loaded, log).ok());
-  EXPECT_EQ(loaded.grid->slownesses(), line.grid->slownesses());
-  EXPECT_EQ(loaded.rays.size(), 5u * 24u);
-  EXPECT_EQ(loaded.coorcount, std::vector<double>(line.grid->cellCount(), 0.0));
-  EXPECT_EQ(loaded.hitCounts, std::vector<std::uint32_t>(line.grid->cellCount(), 0));
-  EXPECT_EQ(linesOf(console.out()),
-            (std::vector<std::string>{
-                " --- Creating and running thread 0", " --- Creating and running thread 1",
-                " --- Creating and running thread 2", " --- Creating and running thread 3",
-                " --- Creating and running thread 4"}));
-
-  // The times are those that the next iteration of the inversion begins with.
-  std::vector<double> slownesses;
-  const testing::ConsoleCapture quiet;
-  ASSERT_TRUE(line.runTomography_fast(slownesses, 1, 1, 2, false, 3, log).ok());
-  EXPECT_EQ(loaded.rays, line.rays);
-  for (std::size_t s = 0; s < 5; ++s) {
-    EXPECT_EQ(loaded.ttArray[s].ttCalcolati, line.ttArray[s].ttCalcolati);
-  }
-}
-
-TEST(RayRecomputation, failsWithoutAGridOrAVelocity) {
-  const testing::ConsoleCapture console;
-  Log log;
-  TomoDocument line = twoLayers();
-  line.grid->setSlowness(2, std::numeric_limits<double>::infinity());
-  EXPECT_FALSE(recomputeRays(line, log).ok());
-  line.grid.reset();
-  EXPECT_FALSE(recomputeRays(line, log).ok());
 }
 
 }  // namespace
