@@ -1,4 +1,5 @@
 #include "figures/FigureFile.h"
+#include "figures/FigureItem.h"
 #include "figures/SectionFigure.h"
 #include "figures/SectionItems.h"
 #include "view/SectionScene.h"
@@ -10,60 +11,39 @@
 #include <algorithm>
 #include <cmath>
 
-#include <qwt_graphic.h>
-#include <qwt_plot_item.h>
 #include <qwt_scale_map.h>
-#include <qwt_text.h>
 
 namespace talvesk::section_items {
 namespace {
 
 /// Iso-lines with their values set into them, upright and clear of each other.
-class ContoursItem : public QwtPlotItem {
+class ContoursPainter {
  public:
-  ContoursItem(const SectionScene& scene, const ContourStyle& style)
-      : QwtPlotItem(QwtText(QStringLiteral("Contours"), QwtText::PlainText)),
-        mScene(scene),
-        mStyle(style) {
-    setItemAttribute(Legend);
-    setLegendIconSize(QSize(22, 12));
-    setZ(kContoursLayer);
-  }
+  ContoursPainter(const SectionScene& scene, const ContourStyle& style)
+      : mScene(scene), mStyle(style) {}
 
-  void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
-            const QRectF& canvas) const override {
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
+  void operator()(QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+                  const QRectF& canvas) const {
+    painter.setRenderHint(QPainter::Antialiasing);
     std::vector<QPolygonF> lines;
     for (const ContourLine& contour : mScene.contours) {
       lines.push_back(thinned(contour.points, xMap, yMap));
       if (contour.closed) lines.back().append(lines.back().front());
     }
-    painter->setBrush(Qt::NoBrush);
+    painter.setBrush(Qt::NoBrush);
     if (!mScene.rays.empty()) {  // else one could not tell them from rays
-      painter->setPen(QPen(QColor(255, 255, 255, 150), mStyle.width + 1.6));
-      for (const QPolygonF& line : lines) painter->drawPolyline(line);
+      painter.setPen(QPen(QColor(255, 255, 255, 150), mStyle.width + 1.6));
+      for (const QPolygonF& line : lines) painter.drawPolyline(line);
     }
-    painter->setPen(QPen(toColor(mStyle.color), mStyle.width));
-    for (const QPolygonF& line : lines) painter->drawPolyline(line);
+    painter.setPen(QPen(toColor(mStyle.color), mStyle.width));
+    for (const QPolygonF& line : lines) painter.drawPolyline(line);
 
     std::vector<QRectF> taken;
     for (std::size_t i = 0; i < lines.size(); ++i) {
       if (hasLabel(mScene.contours[i].value)) {
-        label(*painter, lines[i], mScene.contours[i].value, canvas, taken);
+        label(painter, lines[i], mScene.contours[i].value, canvas, taken);
       }
     }
-    painter->restore();
-  }
-
-  QwtGraphic legendIcon(int /*index*/, const QSizeF& size) const override {
-    QwtGraphic graphic;
-    graphic.setDefaultSize(size);
-    graphic.setRenderHint(QwtGraphic::RenderPensUnscaled, true);
-    QPainter painter(&graphic);
-    painter.setPen(QPen(toColor(mStyle.color), mStyle.width));
-    painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
-    return graphic;
   }
 
  private:
@@ -136,7 +116,12 @@ class ContoursItem : public QwtPlotItem {
 }  // namespace
 
 QwtPlotItem* contours(const SectionScene& scene, const ContourStyle& style) {
-  return new ContoursItem(scene, style);
+  const auto icon = [&style](QPainter& painter, const QSizeF& size) {
+    painter.setPen(QPen(toColor(style.color), style.width));
+    painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
+  };
+  return figureItem(QStringLiteral("Contours"), kContoursLayer, ContoursPainter(scene, style),
+                    icon);
 }
 
 }  // namespace talvesk::section_items

@@ -1,5 +1,6 @@
 #include "figures/SectionItems.h"
 
+#include "figures/FigureItem.h"
 #include "view/SectionScene.h"
 
 #include <QPainter>
@@ -8,10 +9,7 @@
 #include <cmath>
 
 #include <qwt_curve_fitter.h>
-#include <qwt_graphic.h>
-#include <qwt_plot_item.h>
 #include <qwt_scale_map.h>
-#include <qwt_text.h>
 
 namespace talvesk::section_items {
 namespace {
@@ -20,47 +18,14 @@ namespace {
 /// the sheet between them in viewers that antialias.
 constexpr double kOverlap = 1.0;
 
-QColor toColor(const RgbColor& c) {
-  return QColor::fromRgbF(c.r, c.g, c.b);
-}
-
-bool isVector(const QPainter& painter) {
-  const QPaintEngine::Type type = painter.paintEngine()->type();
-  return type == QPaintEngine::SVG || type == QPaintEngine::Pdf || type == QPaintEngine::Picture;
-}
-
-/// Every item hands its legend icon to the same few lines.
-class SectionItem : public QwtPlotItem {
+class CellsPainter {
  public:
-  /// \param name in the legend; an item without a name is not in it
-  SectionItem(const QString& name, double z) : QwtPlotItem(QwtText(name, QwtText::PlainText)) {
-    setItemAttribute(Legend, !name.isEmpty());
-    setLegendIconSize(QSize(22, 12));
-    setZ(z);
-  }
+  CellsPainter(const SectionScene& scene, const ColorTable& colors)
+      : mScene(scene), mColors(colors) {}
 
-  QwtGraphic legendIcon(int /*index*/, const QSizeF& size) const override {
-    QwtGraphic graphic;
-    graphic.setDefaultSize(size);
-    graphic.setRenderHint(QwtGraphic::RenderPensUnscaled, true);
-    QPainter painter(&graphic);
-    painter.setRenderHint(QPainter::Antialiasing);
-    drawIcon(painter, size);
-    return graphic;
-  }
-
- protected:
-  virtual void drawIcon(QPainter& /*painter*/, const QSizeF& /*size*/) const {}
-};
-
-class CellsItem : public SectionItem {
- public:
-  CellsItem(const SectionScene& scene, const ColorTable& colors)
-      : SectionItem({}, kCellsLayer), mScene(scene), mColors(colors) {}
-
-  void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
-            const QRectF& /*canvas*/) const override {
-    const bool vector = isVector(*painter);
+  void operator()(QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+                  const QRectF& /*canvas*/) const {
+    const bool vector = paintsVectors(painter);
     std::vector<QPainterPath> ofColor(static_cast<std::size_t>(mColors.size()));
     for (std::uint32_t row = 0; row < mScene.mesh.rows; ++row) {
       std::uint32_t end = 0;
@@ -74,21 +39,19 @@ class CellsItem : public SectionItem {
         path.closeSubpath();
       }
     }
-    painter->save();
     // Neighbours share their sides: filled without antialiasing they meet without a seam. A viewer
     // of vector files antialiases as it likes, so there every band overlaps its neighbours by a
     // hair.
-    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter.setRenderHint(QPainter::Antialiasing, false);
     for (int color = 0; color < mColors.size(); ++color) {
       const QPainterPath& path = ofColor[static_cast<std::size_t>(color)];
       if (path.isEmpty()) continue;
       const QColor fill = toColor(mColors[color]);
-      painter->setBrush(fill);
-      painter->setPen(vector ? QPen(fill, kOverlap, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin)
-                             : QPen(Qt::NoPen));
-      painter->drawPath(path);
+      painter.setBrush(fill);
+      painter.setPen(vector ? QPen(fill, kOverlap, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin)
+                            : QPen(Qt::NoPen));
+      painter.drawPath(path);
     }
-    painter->restore();
   }
 
  private:
@@ -129,36 +92,6 @@ class CellsItem : public SectionItem {
   const ColorTable& mColors;
 };
 
-class LinesItem : public SectionItem {
- public:
-  LinesItem(const std::vector<std::vector<Point2D>>& polylines, const QString& name, QPen pen)
-      : SectionItem(name, kRaysLayer), mLines(polylines), mPen(std::move(pen)) {}
-
-  void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
-            const QRectF& /*canvas*/) const override {
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setBrush(Qt::NoBrush);
-    painter->setPen(mPen);
-    for (const auto& line : mLines) painter->drawPolyline(thinned(line, xMap, yMap));
-    painter->restore();
-  }
-
- protected:
-  void drawIcon(QPainter& painter, const QSizeF& size) const override {
-    QPen pen = mPen;
-    QColor opaque = pen.color();
-    opaque.setAlphaF(1.0);
-    pen.setColor(opaque);
-    painter.setPen(pen);
-    painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
-  }
-
- private:
-  std::vector<std::vector<Point2D>> mLines;
-  QPen mPen;
-};
-
 QPainterPath triangleOnTip(double size) {
   QPainterPath path;
   path.lineTo(-0.5 * size, -0.87 * size);
@@ -180,62 +113,27 @@ QPainterPath star(double size) {
   return path;
 }
 
-class MarkersItem : public SectionItem {
- public:
-  MarkersItem(const std::vector<Point2D>& points, const QString& name, Marker marker)
-      : SectionItem(name, kMarkersLayer + (marker == Marker::kShot ? 1 : 0)),
-        mPoints(points),
-        mMarker(marker) {}
+QPainterPath symbol(Marker marker, double size) {
+  return marker == Marker::kShot ? star(1.4 * size) : triangleOnTip(size);
+}
 
-  void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
-            const QRectF& /*canvas*/) const override {
-    painter->save();
-    setColors(*painter);
-    const QPainterPath symbol = shape(symbolSize(xMap));
-    for (const Point2D& p : mPoints) {
-      painter->drawPath(symbol.translated(xMap.transform(p.x), yMap.transform(p.z)));
-    }
-    painter->restore();
+void setMarkerColors(QPainter& painter, Marker marker) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(Qt::white, 0.5));
+  painter.setBrush(marker == Marker::kShot ? QColor(208, 32, 32) : QColor(32, 32, 32));
+}
+
+/// As large as neighbours leave room for, within what is legible. The points ascend in x.
+double symbolSize(const std::vector<Point2D>& points, const QwtScaleMap& xMap) {
+  double spacing = 10.0;
+  if (points.size() > 1) {
+    const double length = xMap.transform(points.back().x) - xMap.transform(points.front().x);
+    spacing = length / static_cast<double>(points.size() - 1);
   }
-
- protected:
-  void drawIcon(QPainter& painter, const QSizeF& size) const override {
-    setColors(painter);
-    const QPainterPath symbol = shape(10.0);
-    painter.drawPath(symbol.translated(QPointF(size.width() / 2, size.height() / 2) -
-                                       symbol.boundingRect().center()));
-  }
-
- private:
-  QPainterPath shape(double size) const {
-    return mMarker == Marker::kShot ? star(1.4 * size) : triangleOnTip(size);
-  }
-
-  void setColors(QPainter& painter) const {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::white, 0.5));
-    painter.setBrush(mMarker == Marker::kShot ? QColor(208, 32, 32) : QColor(32, 32, 32));
-  }
-
-  /// As large as neighbours leave room for, within what is legible. The points ascend in x.
-  double symbolSize(const QwtScaleMap& xMap) const {
-    double spacing = 10.0;
-    if (mPoints.size() > 1) {
-      const double length = xMap.transform(mPoints.back().x) - xMap.transform(mPoints.front().x);
-      spacing = length / static_cast<double>(mPoints.size() - 1);
-    }
-    return std::clamp(0.9 * spacing, 5.0, 10.0);
-  }
-
-  std::vector<Point2D> mPoints;
-  Marker mMarker;
-};
+  return std::clamp(0.9 * spacing, 5.0, 10.0);
+}
 
 }  // namespace
-
-QColor toColor(const RgbColor& color) {
-  return QColor::fromRgbF(color.r, color.g, color.b);
-}
 
 /// Lines are thinned to this accuracy, in points of 1/96 inch: a twentieth of a millimetre.
 static constexpr double kThinning = 0.2;
@@ -249,18 +147,47 @@ QPolygonF thinned(const std::vector<Point2D>& points, const QwtScaleMap& xMap,
 }
 
 QwtPlotItem* cells(const SectionScene& scene, const ColorTable& colors) {
-  return new CellsItem(scene, colors);
+  return figureItem({}, kCellsLayer, CellsPainter(scene, colors));
 }
 
 QwtPlotItem* lines(const std::vector<std::vector<Point2D>>& polylines, const QString& name,
                    const QColor& color, const LineStyle& style) {
   QPen pen(color, style.width);
   if (style.dashed) pen.setStyle(Qt::DashLine);
-  return new LinesItem(polylines, name, pen);
+  const auto paint = [polylines, pen](QPainter& painter, const QwtScaleMap& xMap,
+                                      const QwtScaleMap& yMap, const QRectF&) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(pen);
+    for (const auto& line : polylines) painter.drawPolyline(thinned(line, xMap, yMap));
+  };
+  QColor opaque = color;
+  opaque.setAlphaF(1.0);
+  QPen iconPen = pen;
+  iconPen.setColor(opaque);
+  const auto icon = [iconPen](QPainter& painter, const QSizeF& size) {
+    painter.setPen(iconPen);
+    painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
+  };
+  return figureItem(name, kRaysLayer, paint, icon);
 }
 
 QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker) {
-  return new MarkersItem(points, name, marker);
+  const auto paint = [points, marker](QPainter& painter, const QwtScaleMap& xMap,
+                                      const QwtScaleMap& yMap, const QRectF&) {
+    setMarkerColors(painter, marker);
+    const QPainterPath shape = symbol(marker, symbolSize(points, xMap));
+    for (const Point2D& p : points) {
+      painter.drawPath(shape.translated(xMap.transform(p.x), yMap.transform(p.z)));
+    }
+  };
+  const auto icon = [marker](QPainter& painter, const QSizeF& size) {
+    setMarkerColors(painter, marker);
+    const QPainterPath shape = symbol(marker, 10.0);
+    painter.drawPath(shape.translated(QPointF(size.width() / 2, size.height() / 2) -
+                                      shape.boundingRect().center()));
+  };
+  return figureItem(name, kMarkersLayer + (marker == Marker::kShot ? 1 : 0), paint, icon);
 }
 
 }  // namespace talvesk::section_items

@@ -46,8 +46,6 @@ QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Ma
 /// Who paints over whom, the highest last.
 enum Layer { kCellsLayer = 10, kRaysLayer = 20, kContoursLayer = 30, kMarkersLayer = 50 };
 
-QColor toColor(const RgbColor& color);
-
 /// A line on the sheet without the points that no eye would miss.
 QPolygonF thinned(const std::vector<Point2D>& points, const QwtScaleMap& xMap,
                   const QwtScaleMap& elevationMap);

@@ -1,0 +1,240 @@
+#include "figures/FigurePlot.h"
+
+#include "figures/FigureFile.h"
+
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+#include <qwt_legend.h>
+#include <qwt_plot.h>
+#include <qwt_plot_canvas.h>
+#include <qwt_plot_item.h>
+#include <qwt_plot_layout.h>
+#include <qwt_plot_renderer.h>
+#include <qwt_scale_div.h>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_engine.h>
+#include <qwt_scale_map.h>
+#include <qwt_scale_widget.h>
+#include <qwt_text.h>
+
+namespace talvesk {
+namespace {
+
+constexpr double kMmPerInch = 25.4;
+constexpr int kSheetMargin = 8;  ///< points of 1/96 inch
+
+QwtText plainText(const QString& words, double points, bool bold = false) {
+  QwtText result(words, QwtText::PlainText);
+  result.setFont(figureFont(points, bold));
+  result.setRenderFlags(Qt::AlignCenter | Qt::TextWordWrap);
+  return result;
+}
+
+class NumberScaleDraw : public QwtScaleDraw {
+ public:
+  QwtText label(double value) const override {
+    // A tick at zero may come as the remainder of a division into ticks.
+    const double span = std::abs(scaleDiv().range());
+    return figureNumber(std::abs(value) < 1e-9 * span ? 0.0 : value);
+  }
+};
+
+}  // namespace
+
+/// Seats the scales so that a position has one meaning on the sheet, and keeps the maps from values
+/// to the sheet.
+class FigurePlot::Renderer : public QwtPlotRenderer {
+ public:
+  explicit Renderer(const PaintBeside& paintBeside) : mPaintBeside(paintBeside) {}
+
+  void measureOnly() { mMeasureOnly = true; }
+
+  /// Qwt shortens a scale whose end labels it cannot seat. These labels have room; every scale is
+  /// as long as the canvas.
+  void renderScale(const QwtPlot* plot, QPainter* painter, int axis, int startDist, int endDist,
+                   int baseDist, const QRectF& rect) const override {
+    if (mMeasureOnly) return;
+    const QRectF canvas = plot->plotLayout()->canvasRect();
+    QRectF place = rect;
+    if (axis == QwtPlot::xBottom || axis == QwtPlot::xTop) {
+      place.setLeft(canvas.left() - startDist);
+      place.setRight(canvas.right() + endDist);
+    } else {
+      place.setTop(canvas.top() - startDist);
+      place.setBottom(canvas.bottom() + endDist);
+    }
+    if (axis == QwtPlot::yRight && mPaintBeside) mPaintBeside(*painter, rect, canvas);
+    QwtPlotRenderer::renderScale(plot, painter, axis, startDist, endDist, baseDist, place);
+  }
+
+  void renderCanvas(const QwtPlot* plot, QPainter* painter, const QRectF& rect,
+                    const QwtScaleMap* maps) const override {
+    std::vector<QwtScaleMap> filling(maps, maps + QwtPlot::axisCnt);
+    for (const int axis : {QwtPlot::xBottom, QwtPlot::xTop}) {
+      filling[axis].setPaintInterval(rect.left(), rect.right());
+    }
+    for (const int axis : {QwtPlot::yLeft, QwtPlot::yRight}) {
+      filling[axis].setPaintInterval(rect.bottom(), rect.top());
+    }
+    mXMap = filling[QwtPlot::xBottom];
+    mYMap = filling[QwtPlot::yLeft];
+    if (mMeasureOnly) return;
+    QwtPlotRenderer::renderCanvas(plot, painter, rect, filling.data());
+    painter->save();
+    paintFigureFrame(*painter, rect);
+    painter->restore();
+  }
+
+  PlotPlace place(double mmPerPoint) const {
+    PlotPlace place;
+    place.leftMm = mXMap.p1() * mmPerPoint;
+    place.rightMm = mXMap.p2() * mmPerPoint;
+    place.topMm = mYMap.p2() * mmPerPoint;
+    place.bottomMm = mYMap.p1() * mmPerPoint;
+    place.left = mXMap.s1();
+    place.right = mXMap.s2();
+    place.bottom = mYMap.s1();
+    place.top = mYMap.s2();
+    return place;
+  }
+
+ private:
+  const PaintBeside& mPaintBeside;
+  bool mMeasureOnly = false;
+  mutable QwtScaleMap mXMap;
+  mutable QwtScaleMap mYMap;
+};
+
+double PlotPlace::xToMm(double x) const {
+  return leftMm + (x - left) / (right - left) * (rightMm - leftMm);
+}
+
+double PlotPlace::yToMm(double y) const {
+  return topMm + (top - y) / (top - bottom) * (bottomMm - topMm);
+}
+
+FigurePlot::FigurePlot() : mPlot(std::make_unique<QwtPlot>()) {
+  QwtPlot& plot = *mPlot;
+  plot.setAutoDelete(true);
+  plot.setCanvasBackground(Qt::white);
+  QPalette palette = plot.palette();
+  palette.setColor(QPalette::Window, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text}) {
+    palette.setColor(role, Qt::black);
+  }
+  plot.setPalette(palette);
+  if (auto* canvas = qobject_cast<QwtPlotCanvas*>(plot.canvas())) {
+    canvas->setFrameStyle(QFrame::NoFrame);
+    canvas->setBorderRadius(0);
+  }
+  plot.setContentsMargins(kSheetMargin, kSheetMargin, kSheetMargin, kSheetMargin);
+  plot.plotLayout()->setCanvasMargin(0);
+  plot.plotLayout()->setAlignCanvasToScales(true);
+  plot.plotLayout()->setSpacing(6);
+
+  auto* legend = new QwtLegend;
+  legend->setFont(figureFont(8.5));
+  plot.insertLegend(legend, QwtPlot::BottomLegend);
+}
+
+FigurePlot::~FigurePlot() = default;
+
+double FigurePlot::pointsPerMm() const {
+  return mPlot->logicalDpiX() / kMmPerInch;
+}
+
+void FigurePlot::addAxis(int axis, const QString& title) {
+  mPlot->enableAxis(axis);
+  mPlot->setAxisTitle(axis, plainText(title, 9.5));
+  mPlot->setAxisFont(axis, figureFont(8.5));
+  auto* scale = new NumberScaleDraw;
+  scale->enableComponent(QwtAbstractScaleDraw::Backbone, false);  // the frame is the axis
+  mPlot->setAxisScaleDraw(axis, scale);
+  mPlot->axisWidget(axis)->setMargin(0);
+}
+
+void FigurePlot::setScale(int axis, const Scale& scale) {
+  const int majors = std::clamp(static_cast<int>(scale.length / scale.spacing), 2, 20);
+  QwtLinearScaleEngine engine;
+  QwtScaleDiv division = engine.divideScale(scale.from, scale.to, majors, 5);
+  if (scale.wholeNumbers) {
+    const QList<double> ticks = division.ticks(QwtScaleDiv::MajorTick);
+    if (ticks.size() < 2 || std::abs(ticks[1] - ticks[0]) < 1.0) {
+      division = engine.divideScale(scale.from, scale.to, majors, 1, 1.0);
+    }
+  }
+  const double slack = 1e-9 * std::abs(scale.to - scale.from);
+  for (int kind = 0; kind < QwtScaleDiv::NTickTypes; ++kind) {
+    QList<double> kept;
+    for (const double tick : division.ticks(kind)) {
+      const bool whole = !scale.wholeNumbers || tick == std::floor(tick);
+      if (whole && tick >= scale.firstTick - slack && tick <= scale.lastTick + slack) {
+        kept.append(tick);
+      }
+    }
+    division.setTicks(kind, kept);
+  }
+  mPlot->setAxisScaleDiv(axis, division);
+}
+
+void FigurePlot::setTexts(const std::string& title, const std::string& caption, double widthMm) {
+  QwtText words = plainText(QString::fromStdString(title), 11.5, true);
+  words.setText(QFontMetricsF(words.font())
+                    .elidedText(words.text(), Qt::ElideRight, 0.9 * widthMm * pointsPerMm()),
+                QwtText::PlainText);
+  mPlot->setTitle(words);
+  mPlot->setFooter(plainText(QString::fromStdString(caption), 8.5));
+}
+
+void FigurePlot::add(QwtPlotItem* item) {
+  item->attach(mPlot.get());
+}
+
+void FigurePlot::setPaintBeside(PaintBeside paint) {
+  mPaintBeside = std::move(paint);
+}
+
+PlotPlace FigurePlot::measure(double widthMm, double heightMm) {
+  const double perMm = pointsPerMm();
+  QImage sheet(1, 1, QImage::Format_RGB32);
+  sheet.setDotsPerMeterX(static_cast<int>(std::lround(perMm * 1000.0)));
+  sheet.setDotsPerMeterY(static_cast<int>(std::lround(perMm * 1000.0)));
+  QPainter painter(&sheet);
+  Renderer renderer(mPaintBeside);
+  renderer.measureOnly();
+  mPlot->resize(static_cast<int>(widthMm * perMm), static_cast<int>(heightMm * perMm));
+  renderer.render(mPlot.get(), &painter, QRectF(0, 0, widthMm * perMm, heightMm * perMm));
+  PlotPlace place = renderer.place(1.0 / perMm);
+  place.widthMm = widthMm;
+  place.heightMm = heightMm;
+  return place;
+}
+
+PlotPlace FigurePlot::paint(QPainter& painter, const QRectF& sheet, double widthMm) {
+  Renderer renderer(mPaintBeside);
+  renderer.render(mPlot.get(), &painter, sheet);
+  const double points = sheet.width() * mPlot->logicalDpiX() / painter.device()->logicalDpiX();
+  PlotPlace place = renderer.place(widthMm / points);
+  place.widthMm = widthMm;
+  place.heightMm = widthMm * sheet.height() / sheet.width();
+  return place;
+}
+
+QString figureNumber(double value, int digits) {
+  return QString::number(value, 'g', digits);
+}
+
+void paintFigureFrame(QPainter& painter, const QRectF& rect) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(Qt::black, 0.8, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(rect);
+}
+
+}  // namespace talvesk
