@@ -24,32 +24,49 @@ bool belongsToNumber(char c) {
          c == '+' || c == '-';
 }
 
-NumberError convert(const char* terminated, double& value) {
+/// \param used how many characters make the number
+NumberError convert(const char* terminated, double& value, std::size_t& used) {
   char* end = nullptr;
   const int before = errno;
   errno = 0;
   const double converted = strtod_l(terminated, &end, cLocale());
   const bool outOfRange = errno == ERANGE;
   errno = before;
-  if (end == terminated) return NumberError::kNotANumber;
+  used = static_cast<std::size_t>(end - terminated);
+  if (used == 0) return NumberError::kNotANumber;
   if (outOfRange) return NumberError::kOutOfRange;
   value = converted;
   return NumberError::kNone;
 }
 
-}  // namespace
-
-NumberError parseDouble(std::string_view text, double& value) {
+/// \param text begins with the number
+NumberError convert(std::string_view text, double& value, std::size_t& used) {
   // Only the characters of the number are copied for the C function, which needs a terminator: the
   // text may be the rest of a whole file.
-  text = skipBlanks(text);
   const auto end = std::find_if_not(text.begin(), text.end(), belongsToNumber);
   text = text.substr(0, static_cast<std::size_t>(end - text.begin()));
   std::array<char, 64> buffer;
-  if (text.size() >= buffer.size()) return convert(std::string(text).c_str(), value);
+  if (text.size() >= buffer.size()) return convert(std::string(text).c_str(), value, used);
   text.copy(buffer.data(), text.size());
   buffer[text.size()] = '\0';
-  return convert(buffer.data(), value);
+  return convert(buffer.data(), value, used);
+}
+
+}  // namespace
+
+NumberError parseDouble(std::string_view text, double& value) {
+  std::size_t used = 0;
+  return convert(skipBlanks(text), value, used);
+}
+
+NumberError parseWholeDouble(std::string_view text, double& value) {
+  text = skipBlanks(text);
+  double number = 0.0;
+  std::size_t used = 0;
+  const NumberError error = convert(text, number, used);
+  if (used != text.size()) return NumberError::kNotANumber;
+  if (error == NumberError::kNone) value = number;
+  return error;
 }
 
 NumberError parseInt(std::string_view text, int& value) {

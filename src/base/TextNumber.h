@@ -13,6 +13,9 @@ enum class NumberError { kNone, kNotANumber, kOutOfRange };
 /// the number is ignored ("12 m" is 12), and a value that a double cannot hold is out of range.
 NumberError parseDouble(std::string_view text, double& value);
 
+/// The same, but text in which anything follows the number is not a number.
+NumberError parseWholeDouble(std::string_view text, double& value);
+
 /// The same for integers, decimal.
 NumberError parseInt(std::string_view text, int& value);
 

@@ -9,23 +9,6 @@
 namespace talvesk {
 namespace {
 
-/// Forgets what was computed for a geometry that is no longer there.
-void clearModelAndResults(TomoDocument& document) {
-  document.grid.reset();
-  document.xOffset = 0.0;
-  document.surface = Splines::LinearSpline();
-  document.proposedCellSizes.clear();
-  document.hasTomographicInfo = false;
-  document.RMSE_tomography = -1.0;
-  document.info_density.clear();
-  document.coorcount.clear();
-  document.hitCounts.clear();
-  document.rays.clear();
-  document.excluded.clear();
-  document.coverageLimit.clear();
-  document.coverageSpline.reset();
-}
-
 Status checkStrings(const TravelTimeData& data) {
   for (const TravelTime& record : data.records) {
     if (record.indexStesa < 0 ||
@@ -93,7 +76,7 @@ Status fillTraceSets(TravelTimeData data, TomoDocument& document) {
     if (moved) record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
   }
   document.goephonesStringSet = std::move(data.strings);
-  if (moved) clearModelAndResults(document);
+  if (moved) document.clearModelAndResults();
   return {};
 }
 
@@ -104,7 +87,7 @@ void replaceSurvey(TravelTimeData data, TomoDocument& document) {
   document.filenames_DX.clear();
   document.filenames_SX.clear();
   document.layers.clear();
-  clearModelAndResults(document);
+  document.clearModelAndResults();
 }
 
 }  // namespace

@@ -64,6 +64,22 @@ TomoDocument::~TomoDocument() = default;
 TomoDocument::TomoDocument(TomoDocument&&) noexcept = default;
 TomoDocument& TomoDocument::operator=(TomoDocument&&) noexcept = default;
 
+void TomoDocument::clearModelAndResults() {
+  grid.reset();
+  xOffset = 0.0;
+  surface = Splines::LinearSpline();
+  proposedCellSizes.clear();
+  hasTomographicInfo = false;
+  RMSE_tomography = -1.0;
+  info_density.clear();
+  coorcount.clear();
+  hitCounts.clear();
+  rays.clear();
+  excluded.clear();
+  coverageLimit.clear();
+  coverageSpline.reset();
+}
+
 bool TomoDocument::picksComplete() const {
   std::size_t total = 0;
   std::size_t notZero = 0;

@@ -76,6 +76,10 @@ class TomoDocument {
 
   bool modified = false;  ///< something changed since the last save
 
+  /// Forgets grid, results and what else was computed for a geometry that is no longer there. The
+  /// starting model stays.
+  void clearModelAndResults();
+
   // --- Questions.
   /// True when more than half (integer halving) of all measured times are not 0. NaN and removed
   /// picks count; a document without records is incomplete. Lenient on purpose.

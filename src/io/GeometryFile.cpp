@@ -1,0 +1,144 @@
+#include "io/GeometryFile.h"
+
+#include "base/AtomicFile.h"
+#include "base/TextNumber.h"
+#include "io/TextCursor.h"
+
+#include <cmath>
+#include <ostream>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr std::size_t kLineLimit = 256;
+/// Positions of a line take kilobytes.
+constexpr std::size_t kLargestFile = std::size_t{16} << 20;
+
+std::string separatorText(const std::string& choice) {
+  return choice == kBlankSeparator ? " " : choice;
+}
+
+void writeFields(std::ostream& stream, const std::string& separator,
+                 const std::vector<double>& record) {
+  const char* between = "";
+  for (const double value : record) {
+    stream << between << formatDouble(value);
+    between = separator.c_str();
+  }
+  stream << '\n';
+}
+
+/// What stands before the next separator; false when nothing is left.
+bool nextField(std::string_view& rest, const std::string& separator, std::string_view& field) {
+  if (rest.empty()) return false;
+  const std::size_t end = separator.empty() ? std::string_view::npos : rest.find(separator);
+  field = rest.substr(0, end);
+  rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + separator.size());
+  return true;
+}
+
+bool readNumber(std::string_view field, double& value) {
+  value = 0.0;
+  return parseDouble(field, value) != NumberError::kOutOfRange && std::isfinite(value);
+}
+
+bool readRecord(std::string_view line, const std::string& separator, bool labelled,
+                std::vector<double>& record) {
+  std::string_view field;
+  if (labelled) nextField(line, separator, field);
+  while (nextField(line, separator, field)) {
+    if (!readNumber(field, record.emplace_back())) return false;
+  }
+  return true;
+}
+
+Status refused(const std::string& name, std::size_t line, const std::string& reason) {
+  return Status::failure(name + ", line " + std::to_string(line) + ": " + reason);
+}
+
+Status readFile(const std::string& path, const std::string& separator, bool labelled,
+                GeometryRecords& records) {
+  std::string text;
+  if (Status opened = readWholeFile(path, text, kLargestFile); !opened.ok()) return opened;
+  return parseRecords(text, path, separator, labelled, records);
+}
+
+}  // namespace
+
+Status writeRecords(const std::string& path, const std::string& separator,
+                    const GeometryRecords& records) {
+  const std::string between = separatorText(separator);
+  return writeTextAtomically(path, [&](std::ostream& stream) {
+    for (const auto& record : records) writeFields(stream, between, record);
+  });
+}
+
+Status writeLabelledRecords(const std::string& path, const std::string& separator,
+                            const std::vector<std::string>& labels,
+                            const GeometryRecords& records) {
+  if (labels.size() != records.size()) {
+    return Status::failure("Cannot write " + path + ": there are " + std::to_string(labels.size()) +
+                           " labels for " + std::to_string(records.size()) + " records");
+  }
+  const std::string between = separatorText(separator);
+  return writeTextAtomically(path, [&](std::ostream& stream) {
+    for (std::size_t i = 0; i < records.size(); ++i) {
+      stream << labels[i] << between;
+      writeFields(stream, between, records[i]);
+    }
+  });
+}
+
+Status parseRecords(std::string_view text, const std::string& name, const std::string& separator,
+                    bool labelled, GeometryRecords& records) {
+  const std::string between = separatorText(separator);
+  GeometryRecords read;
+  TextCursor cursor(text);
+  for (std::string_view line; !cursor.atEnd() && cursor.nextLine(line);) {
+    if (line.size() > kLineLimit) {
+      return refused(name, cursor.line(),
+                     "the line holds more than " + std::to_string(kLineLimit) + " characters");
+    }
+    if (!readRecord(line, between, labelled, read.emplace_back())) {
+      return refused(name, cursor.line(), "a number is out of range or not finite");
+    }
+  }
+  while (!read.empty() && read.back().empty()) read.pop_back();
+  records = std::move(read);
+  return {};
+}
+
+Status readRecords(const std::string& path, const std::string& separator,
+                   GeometryRecords& records) {
+  return readFile(path, separator, false, records);
+}
+
+Status readLabelledRecords(const std::string& path, const std::string& separator,
+                           GeometryRecords& records) {
+  return readFile(path, separator, true, records);
+}
+
+Status positionsOf(const GeometryRecords& records, std::vector<Point2D>& positions) {
+  std::vector<Point2D> read;
+  read.reserve(records.size());
+  for (const auto& record : records) {
+    if (record.size() < 2) {
+      return Status::failure("line " + std::to_string(read.size() + 1) +
+                             " has no x and z; check the separator");
+    }
+    read.push_back({record[0], record[1]});
+  }
+  positions = std::move(read);
+  return {};
+}
+
+std::string withCsvSuffix(std::string name) {
+  constexpr std::string_view kSuffix = ".csv";
+  const bool has = name.size() >= kSuffix.size() &&
+                   name.compare(name.size() - kSuffix.size(), kSuffix.size(), kSuffix) == 0;
+  if (!has) name += kSuffix;
+  return name;
+}
+
+}  // namespace talvesk

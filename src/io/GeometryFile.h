@@ -1,0 +1,50 @@
+#pragma once
+
+#include "base/Point2D.h"
+#include "base/Status.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace talvesk {
+
+/// Small delimited text files of positions: geophones as "x z" lines, shots as "shot_id_... x z"
+/// lines, metres. No header line. A separator is one of ";", "," and kBlankSeparator, or its text.
+
+using GeometryRecords = std::vector<std::vector<double>>;
+
+/// How the choice of separators names a single blank; means one blank wherever a separator is
+/// given.
+inline constexpr const char* kBlankSeparator = "(blank space)";
+/// With what the label of a shot begins.
+inline constexpr const char* kShotLabel = "shot_id_";
+
+/// Writes one line per record, six significant digits. Status 1 when the file cannot be written.
+Status writeRecords(const std::string& path, const std::string& separator,
+                    const GeometryRecords& records);
+/// The same, each line headed by its label. Status 1, too, when the two lists differ in length.
+Status writeLabelledRecords(const std::string& path, const std::string& separator,
+                            const std::vector<std::string>& labels, const GeometryRecords& records);
+
+/// Reads one record per line; a field that is no number gives 0, the empty rest after a last
+/// separator is no field. Empty lines at the end are no records. Status 1, with a message that
+/// names file and line, when the file cannot be read, a line exceeds 256 characters or a number
+/// does not fit a double. `records` is as before then.
+Status readRecords(const std::string& path, const std::string& separator, GeometryRecords& records);
+/// The same without the first field of each line.
+Status readLabelledRecords(const std::string& path, const std::string& separator,
+                           GeometryRecords& records);
+
+/// The readers on the bytes of a file; `name` stands in the messages.
+Status parseRecords(std::string_view text, const std::string& name, const std::string& separator,
+                    bool labelled, GeometryRecords& records);
+
+/// The first two fields of each record, x and z. Status 1 when a record has fewer, as all have when
+/// the file was read with another separator than it was written with.
+Status positionsOf(const GeometryRecords& records, std::vector<Point2D>& positions);
+
+/// The name itself if it ends in ".csv", in lower case; otherwise with ".csv" behind it.
+std::string withCsvSuffix(std::string name);
+
+}  // namespace talvesk

@@ -1,0 +1,143 @@
+#include "io/Seg2Strings.h"
+
+#include "base/Console.h"
+#include "base/TextNumber.h"
+#include "io/ByteReader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <ostream>
+#include <string>
+
+namespace talvesk {
+namespace {
+
+constexpr std::size_t kLengthBytes = 2;
+
+/// Whether the bytes at the front of `rest` are the length of a string. Two letters of plain text
+/// would make a length above 8191; so long a string must at least end where its text does.
+bool beginsWithLength(std::string_view rest) {
+  if (rest.size() < kLengthBytes) return false;
+  const auto length = assembled<ByteOrder::kLittle, std::uint16_t>(rest.data());
+  if (length < kLengthBytes) return false;
+  const bool maybeLetters = static_cast<unsigned char>(rest[1]) >= ' ';
+  return !maybeLetters || rest.find('\0', kLengthBytes) + 1 == length;
+}
+
+void splitWords(std::string_view text, std::vector<std::string_view>& words) {
+  const auto separates = [](char c) { return c == ' ' || c == '\n' || c == '\0'; };
+  const char* const end = text.data() + text.size();
+  for (const char* at = text.data(); at != end;) {
+    const char* const first = std::find_if_not(at, end, separates);
+    at = std::find_if(first, end, separates);
+    if (at != first) words.emplace_back(first, static_cast<std::size_t>(at - first));
+  }
+}
+
+std::string withPoints(std::string_view word) {
+  std::string text(word);
+  std::replace(text.begin(), text.end(), ',', '.');
+  return text;
+}
+
+bool usable(NumberError error, double number, double& value) {
+  if (error != NumberError::kNone || !std::isfinite(number)) return false;
+  value = number + 0.0;  // minus zero becomes zero
+  return true;
+}
+
+bool numberInFront(std::string_view word, double& value) {
+  double number = 0.0;
+  const NumberError error = parseDouble(withPoints(word), number);
+  return usable(error, number, value);
+}
+
+bool wholeNumber(std::string_view word, double& value) {
+  double number = 0.0;
+  const NumberError error = parseWholeDouble(withPoints(word), number);
+  return usable(error, number, value);
+}
+
+class StringsParser {
+ public:
+  explicit StringsParser(std::string_view area) { seg2Words(area, mWords); }
+
+  Seg2Strings parse() {
+    bool badInterval = false;
+    for (std::size_t i = 0; i < mWords.size(); ++i) {
+      const std::string_view word = mWords[i];
+      if (word == "SAMPLE_INTERVAL") {
+        if (!readInterval(i)) badInterval = true;
+      } else if (word == "SOURCE_LOCATION") {
+        readLocation(i, "Exception Source location", mRead.source);
+      } else if (word == "RECEIVER_LOCATION") {
+        readLocation(i, "Exception Receiver Location", mRead.receiver);
+      } else if (word == "DELAY") {
+        readDelay(i);
+      }
+    }
+    mRead.hasInterval = mRead.hasInterval && !badInterval;
+    if (!mRead.hasInterval && !badInterval) tellNoInterval();
+    return mRead;
+  }
+
+ private:
+  /// The word that stands `ahead` words behind the keyword; empty past the end.
+  std::string_view after(std::size_t keyword, std::size_t ahead) const {
+    return ahead < mWords.size() - keyword ? mWords[keyword + ahead] : std::string_view{};
+  }
+
+  static void tellNoInterval() { console::out() << "FATAL ERROR no sample interval provided\n"; }
+
+  bool readInterval(std::size_t keyword) {
+    if (numberInFront(after(keyword, 1), mRead.sampleInterval)) return mRead.hasInterval = true;
+    tellNoInterval();
+    return false;
+  }
+
+  /// Files write x, x and elevation, or x, y and elevation.
+  void readLocation(std::size_t keyword, const char* complaint, Point2D& location) {
+    if (!numberInFront(after(keyword, 1), location.x)) {
+      console::out() << complaint << '\n';
+      return;
+    }
+    double second = 0.0;
+    double third = 0.0;
+    if (!wholeNumber(after(keyword, 2), second)) return;
+    if (!wholeNumber(after(keyword, 3), third)) {
+      location.z = second;
+      console::out() << "Z: " << after(keyword, 2) << '\n';
+      return;
+    }
+    location.z = third;
+    console::out() << "Y: " << after(keyword, 2) << "\nZ: " << after(keyword, 3) << '\n';
+  }
+
+  /// Some instruments write the time from the start of the record to the shot, some the opposite.
+  void readDelay(std::size_t keyword) {
+    double delay = 0.0;
+    if (numberInFront(after(keyword, 1), delay)) mRead.delay = delay > 0.0 ? -delay : delay;
+  }
+
+  std::vector<std::string_view> mWords;
+  Seg2Strings mRead;
+};
+
+}  // namespace
+
+void seg2Words(std::string_view area, std::vector<std::string_view>& words) {
+  while (beginsWithLength(area)) {
+    const auto length = assembled<ByteOrder::kLittle, std::uint16_t>(area.data());
+    const std::string_view string = area.substr(0, length);
+    splitWords(string.substr(kLengthBytes), words);
+    area.remove_prefix(string.size());
+  }
+  splitWords(area, words);
+}
+
+Seg2Strings parseSeg2Strings(std::string_view area) {
+  return StringsParser(area).parse();
+}
+
+}  // namespace talvesk

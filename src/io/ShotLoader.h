@@ -1,0 +1,43 @@
+#pragma once
+
+#include "base/Status.h"
+#include "io/SegyFile.h"
+#include "model/TomoDocument.h"
+
+#include <string>
+#include <vector>
+
+namespace talvesk {
+
+/// What became of one shot file.
+struct ShotFileOutcome {
+  std::string path;
+  Status status;                      ///< as of readShotFile
+  std::string format;                 ///< "seg2", "segy", "su"; empty after a failure
+  std::vector<std::string> warnings;  ///< without the path
+};
+
+/// Loads shot files into a document and remembers between them, and between calls, what the readers
+/// of SEG-Y and SU must remember.
+class ShotLoader {
+ public:
+  /// Appends the files in the order given: per file a trace set, a record without picks, the path
+  /// and the position of the source, all taken from the first trace (0 when there is none). The
+  /// receivers become a geophone string unless an equal one exists already. Grid and results, which
+  /// belong to the line as it was, are forgotten. Files that fail change nothing. A document that
+  /// holds records without trace sets takes no file: the status of all is 1.
+  std::vector<ShotFileOutcome> load(const std::vector<std::string>& paths, TomoDocument& document);
+
+  SegyState& state() { return mState; }
+
+ private:
+  SegyState mState;
+};
+
+/// The traces as the document keeps them.
+TraceSet traceSetOf(ShotFileData data);
+
+/// Appends one file that was read.
+void appendShot(const std::string& path, ShotFileData data, TomoDocument& document);
+
+}  // namespace talvesk

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "base/Point2D.h"
+
+#include <string>
+#include <vector>
+
+namespace talvesk {
+
+/// One channel of a shot file, as a reader delivers it.
+struct ShotRecord {
+  std::vector<double> samples;  ///< finite; the last one is always 0
+  Point2D source;               ///< finite; z is 0 where the format or the file has no elevation
+  Point2D receiver;
+  double delay = 0.0;           ///< recording delay, seconds, never positive
+  double sampleInterval = 0.0;  ///< seconds; 0 when the file does not tell
+};
+
+/// What a shot file holds.
+struct ShotFileData {
+  std::string format;                 ///< "seg2", "segy" or "su"
+  std::vector<ShotRecord> traces;     ///< in channel order; may be empty
+  std::vector<std::string> warnings;  ///< what was repaired, ignored or looks odd, without the path
+};
+
+}  // namespace talvesk
