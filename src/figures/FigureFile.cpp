@@ -20,6 +20,7 @@ namespace talvesk {
 namespace {
 
 using Paint = std::function<void(QPainter&, const QRectF&)>;
+using PaintPage = std::function<Status(std::size_t page, QPainter&, const QRectF&)>;
 
 constexpr double kMmPerInch = 25.4;
 /// SVG has no resolution of its own; this is what browsers take a pixel for.
@@ -67,7 +68,8 @@ Status paintSvg(const FigureSheet& sheet, const Paint& paint, QBuffer& buffer) {
   return {};
 }
 
-Status paintPdf(const FigureSheet& sheet, const Paint& paint, QBuffer& buffer) {
+Status paintPdf(const FigureSheet& sheet, std::size_t pages, const PaintPage& paint,
+                QBuffer& buffer) {
   QPdfWriter writer(&buffer);
   writer.setResolution(kPdfDpi);
   writer.setTitle(QString::fromStdString(sheet.title));
@@ -77,8 +79,24 @@ Status paintPdf(const FigureSheet& sheet, const Paint& paint, QBuffer& buffer) {
   writer.setPageLayout(QPageLayout(page, QPageLayout::Portrait, QMarginsF()));
   QPainter painter;
   if (!painter.begin(&writer)) return Status::failure("The PDF page cannot be made.");
-  paint(painter, QRectF(0, 0, writer.width(), writer.height()));
+  for (std::size_t number = 0; number < pages; ++number) {
+    if (number > 0 && !writer.newPage()) return Status::failure("The PDF page cannot be made.");
+    const QRectF rect(0, 0, writer.width(), writer.height());
+    if (Status status = paint(number, painter, rect); !status.ok()) return status;
+  }
   painter.end();
+  return {};
+}
+
+Status checkEnvironment() {
+  if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr) {
+    return Status::failure("A figure cannot be drawn before the application object exists.");
+  }
+  if (QFontDatabase().families().isEmpty()) {
+    return Status::failure(
+        "A figure cannot be drawn without fonts: install a font package, for "
+        "instance fonts-dejavu-core.");
+  }
   return {};
 }
 
@@ -130,14 +148,7 @@ Status FigureSheet::check(FigureFormat format) const {
 
 Status paintFigure(FigureFormat format, const FigureSheet& sheet, const Paint& paint,
                    QByteArray& bytes) {
-  if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr) {
-    return Status::failure("A figure cannot be drawn before the application object exists.");
-  }
-  if (QFontDatabase().families().isEmpty()) {
-    return Status::failure(
-        "A figure cannot be drawn without fonts: install a font package, for "
-        "instance fonts-dejavu-core.");
-  }
+  if (Status status = checkEnvironment(); !status.ok()) return status;
   if (Status status = sheet.check(format); !status.ok()) return status;
   bytes.clear();
   QBuffer buffer(&bytes);
@@ -150,7 +161,22 @@ Status paintFigure(FigureFormat format, const FigureSheet& sheet, const Paint& p
     case FigureFormat::kPdf:
       break;
   }
-  return paintPdf(sheet, paint, buffer);
+  const auto paintPage = [&paint](std::size_t, QPainter& painter, const QRectF& rect) {
+    paint(painter, rect);
+    return Status();
+  };
+  return paintPdf(sheet, 1, paintPage, buffer);
+}
+
+Status paintFigurePages(const FigureSheet& sheet, std::size_t pages, const PaintPage& paint,
+                        QByteArray& bytes) {
+  if (Status status = checkEnvironment(); !status.ok()) return status;
+  if (Status status = sheet.check(FigureFormat::kPdf); !status.ok()) return status;
+  bytes.clear();
+  if (pages == 0) return Status::failure("A PDF file needs a page at least.");
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  return paintPdf(sheet, pages, paint, buffer);
 }
 
 QFont figureFont(double points, bool bold) {

@@ -2,6 +2,7 @@
 
 #include "base/Status.h"
 
+#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -41,6 +42,14 @@ struct FigureSheet {
 /// figure without words is no figure.
 Status paintFigure(FigureFormat format, const FigureSheet& sheet,
                    const std::function<void(QPainter&, const QRectF&)>& paint, QByteArray& bytes);
+
+/// Paints a PDF of several pages of one size into the bytes of a file. `paint` is called once per
+/// page, from 0; its first failure ends the work and is returned. Needs what paintFigure() needs,
+/// and a page at least.
+Status paintFigurePages(
+    const FigureSheet& sheet, std::size_t pages,
+    const std::function<Status(std::size_t page, QPainter&, const QRectF&)>& paint,
+    QByteArray& bytes);
 
 /// The font of all figures. An SVG names it, so it goes by the generic family that every viewer
 /// has.

@@ -184,7 +184,7 @@ void FigurePlot::setScale(int axis, const Scale& scale) {
 }
 
 void FigurePlot::setTexts(const std::string& title, const std::string& caption, double widthMm) {
-  QwtText words = plainText(QString::fromStdString(title), 11.5, true);
+  QwtText words = plainText(QString::fromStdString(title).simplified(), 11.5, true);
   words.setText(QFontMetricsF(words.font())
                     .elidedText(words.text(), Qt::ElideRight, 0.9 * widthMm * pointsPerMm()),
                 QwtText::PlainText);
@@ -214,6 +214,27 @@ PlotPlace FigurePlot::measure(double widthMm, double heightMm) {
   place.widthMm = widthMm;
   place.heightMm = heightMm;
   return place;
+}
+
+Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, double leastHeight,
+                       const std::function<void(double, double)>& setScales, PlotPlace& place) {
+  const double perMm = pointsPerMm();
+  // How wide the numbers at the axes are depends on the scales, which depend on the room that the
+  // numbers leave: twice round settles it.
+  setScales(0.9 * widthMm * perMm, 0.8 * heightMm * perMm);
+  for (int round = 0; round < 2; ++round) {
+    place = measure(widthMm, heightMm);
+    const double width = (place.rightMm - place.leftMm) * perMm;
+    const double height = (place.bottomMm - place.topMm) * perMm;
+    if (width < leastWidth || height < leastHeight) {
+      return Status::failure(
+          "The picture is too small for what it shows with its axes and texts: "
+          "choose a larger size.");
+    }
+    setScales(width, height);
+  }
+  place = measure(widthMm, heightMm);
+  return {};
 }
 
 PlotPlace FigurePlot::paint(QPainter& painter, const QRectF& sheet, double widthMm) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Status.h"
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -67,6 +69,11 @@ class FigurePlot {
 
   /// Lays the plot out on a sheet. The place depends on scales and texts, which are set before.
   PlotPlace measure(double widthMm, double heightMm);
+
+  /// Lays the plot out on a sheet of that size, `setScales` setting the scales for a canvas of so
+  /// many points. Fails when axes and texts leave less room than the least.
+  Status fit(double widthMm, double heightMm, double leastWidth, double leastHeight,
+             const std::function<void(double width, double height)>& setScales, PlotPlace& place);
 
   /// Paints onto a device that knows its resolution; `sheet` is the whole sheet.
   /// \param widthMm of the sheet, by which the result is measured; it is the place as painted, for

@@ -113,10 +113,6 @@ QPainterPath star(double size) {
   return path;
 }
 
-QPainterPath symbol(Marker marker, double size) {
-  return marker == Marker::kShot ? star(1.4 * size) : triangleOnTip(size);
-}
-
 void setMarkerColors(QPainter& painter, Marker marker) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(Qt::white, 0.5));
@@ -134,6 +130,10 @@ double symbolSize(const std::vector<Point2D>& points, const QwtScaleMap& xMap) {
 }
 
 }  // namespace
+
+QPainterPath symbol(Marker marker, double size) {
+  return marker == Marker::kShot ? star(1.4 * size) : triangleOnTip(size);
+}
 
 /// Lines are thinned to this accuracy, in points of 1/96 inch: a twentieth of a millimetre.
 static constexpr double kThinning = 0.2;

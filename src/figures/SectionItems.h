@@ -5,6 +5,7 @@
 
 #include <vector>
 
+class QPainterPath;
 class QPolygonF;
 class QColor;
 class QString;
@@ -42,6 +43,9 @@ enum class Marker { kGeophone, kShot };
 QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker);
 
 // --- What the items share.
+
+/// The symbol around, or for a geophone above, the origin. \param size points of 1/96 inch
+QPainterPath symbol(Marker marker, double size);
 
 /// Who paints over whom, the highest last.
 enum Layer { kCellsLayer = 10, kRaysLayer = 20, kContoursLayer = 30, kMarkersLayer = 50 };

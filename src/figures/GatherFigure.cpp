@@ -1,0 +1,219 @@
+#include "figures/GatherFigure.h"
+
+#include "base/AtomicFile.h"
+#include "figures/FigureItem.h"
+#include "figures/GatherItems.h"
+#include "figures/GatherScene.h"
+#include "figures/SectionItems.h"
+#include "model/TomoDocument.h"
+
+#include <QApplication>
+#include <QByteArray>
+#include <QColor>
+#include <QPainter>
+#include <QString>
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+#include <qwt_plot.h>
+
+namespace talvesk {
+namespace {
+
+// Lengths on the sheet, in points of 1/96 inch.
+constexpr double kTopPadding = 16.0;  ///< geophones and shot stand above the first sample
+constexpr double kBottomPadding = 4.0;
+constexpr double kSidePadding = 12.0;  ///< beyond the largest swing
+constexpr double kMinCanvasWidth = 120.0;
+constexpr double kMinCanvasHeight = 80.0;
+
+/// One shot laid out as a plot. The options must outlive it.
+class GatherPlot {
+ public:
+  GatherPlot(GatherScene scene, const GatherFigureOptions& options);
+
+  /// Fails when axes and texts leave no room for the traces.
+  Status layOut();
+  void paint(QPainter& painter, const QRectF& sheet) {
+    mPlace = mPlot.paint(painter, sheet, mOptions.widthMm);
+  }
+
+  const GatherScene& scene() const { return mScene; }
+  GatherFigureLayout layout() const;
+
+ private:
+  void setScales(double width, double height);
+
+  const GatherFigureOptions& mOptions;
+  GatherScene mScene;
+  PlotPlace mPlace;
+  FigurePlot mPlot;  // goes first at the end: its items look at the scene
+};
+
+GatherPlot::GatherPlot(GatherScene scene, const GatherFigureOptions& options)
+    : mOptions(options), mScene(std::move(scene)) {
+  mPlot.addAxis(QwtPlot::xBottom,
+                mScene.byChannel ? QStringLiteral("Channel") : QStringLiteral("Distance [m]"));
+  mPlot.addAxis(QwtPlot::yLeft, QStringLiteral("Time [ms]"));
+  mPlot.add(gather_items::wiggles(mScene, {mOptions.gain, mOptions.clip, mOptions.fillPositive}));
+  const double top = mScene.window.beginMs;
+  if (!mScene.byChannel) {
+    std::vector<Point2D> receivers;
+    for (const double x : mScene.receivers) receivers.push_back({x, top});
+    mPlot.add(section_items::markers(receivers, QStringLiteral("Geophones"),
+                                     section_items::Marker::kGeophone));
+  }
+  if (mScene.shotX) {
+    mPlot.add(section_items::markers({{*mScene.shotX, top}}, QStringLiteral("Shot"),
+                                     section_items::Marker::kShot));
+  }
+  if (mOptions.picks) mPlot.add(gather_items::picks(mScene, toColor(mOptions.pickColor)));
+}
+
+void GatherPlot::setScales(double width, double height) {
+  // The outer traces need room for their swings, which are counted in distances between traces.
+  const double swing = mOptions.clip * mScene.spacing * static_cast<double>(mScene.traceStep);
+  const double perPoint = (mScene.high - mScene.low + 2.0 * swing) / (width - 2.0 * kSidePadding);
+  const double side = swing + kSidePadding * perPoint;
+  FigurePlot::Scale x;
+  x.from = mScene.low - side;
+  x.to = mScene.high + side;
+  x.firstTick = mScene.byChannel ? mScene.low : x.from;
+  x.lastTick = mScene.byChannel ? mScene.high : x.to;
+  x.length = width;
+  x.spacing = mScene.byChannel ? 30.0 : 60.0;
+  x.wholeNumbers = mScene.byChannel;
+  mPlot.setScale(QwtPlot::xBottom, x);
+
+  const TimeWindow& window = mScene.window;
+  const double msPerPoint =
+      (window.endMs - window.beginMs) / (height - kTopPadding - kBottomPadding);
+  FigurePlot::Scale time;
+  time.from = window.endMs + kBottomPadding * msPerPoint;
+  time.to = window.beginMs - kTopPadding * msPerPoint;
+  time.firstTick = window.beginMs;
+  time.lastTick = window.endMs;
+  time.length = height;
+  time.spacing = 40.0;
+  mPlot.setScale(QwtPlot::yLeft, time);
+  mPlot.plot().updateAxes();
+}
+
+Status GatherPlot::layOut() {
+  mPlot.setTexts(mScene.title, mScene.caption, mOptions.widthMm);
+  const auto scale = [this](double width, double height) { setScales(width, height); };
+  return mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight, scale,
+                   mPlace);
+}
+
+GatherFigureLayout GatherPlot::layout() const {
+  GatherFigureLayout layout;
+  layout.place = mPlace;
+  layout.byChannel = mScene.byChannel;
+  layout.window = mScene.window;
+  for (const GatherTrace& trace : mScene.traces) {
+    if (trace.pickMs) layout.picks.push_back({trace.channel, trace.x, *trace.pickMs});
+    if (trace.end > trace.first) ++layout.tracesDrawn;
+  }
+  return layout;
+}
+
+FigureSheet sheetOf(const GatherFigureOptions& options, std::string title) {
+  FigureSheet sheet;
+  sheet.widthMm = options.widthMm;
+  sheet.heightMm = options.heightMm;
+  sheet.dpi = options.dpi;
+  sheet.title = std::move(title);
+  return sheet;
+}
+
+Status checkDrawing(const GatherFigureOptions& options, FigureFormat format) {
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
+    return Status::failure("A gather cannot be drawn before the application object exists.");
+  }
+  return sheetOf(options, {}).check(format);
+}
+
+Status writeBytes(const std::string& path, const QByteArray& bytes,
+                  std::vector<std::string>& written) {
+  const std::string_view view(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+  if (Status status = writeFileAtomically(path, view); !status.ok()) return status;
+  written.push_back(path);
+  return {};
+}
+
+/// "line.png" is "line_07.png" for the seventh of up to 99 shots.
+std::string numbered(const std::string& path, std::size_t shot, std::size_t count) {
+  constexpr std::size_t kSuffix = 4;  // of all three formats
+  const std::size_t width = std::max<std::size_t>(std::to_string(count).size(), 2);
+  std::string number = std::to_string(shot + 1);
+  number.insert(0, width - std::min(width, number.size()), '0');
+  return path.substr(0, path.size() - kSuffix) + '_' + number + path.substr(path.size() - kSuffix);
+}
+
+Status writePages(const TomoDocument& document, const GatherFigureOptions& options,
+                  const std::vector<std::size_t>& shots, const std::string& path,
+                  std::vector<std::string>& written) {
+  if (Status status = checkDrawing(options, FigureFormat::kPdf); !status.ok()) return status;
+  const auto paint = [&](std::size_t page, QPainter& painter, const QRectF& rect) {
+    GatherScene scene;
+    Status status = buildGatherScene(document, shots[page], options, scene);
+    if (!status.ok()) return status;
+    GatherPlot plot(std::move(scene), options);
+    status = plot.layOut();
+    if (status.ok()) plot.paint(painter, rect);
+    return status;
+  };
+  const std::string& line = options.title.empty() ? document.title : options.title;
+  const FigureSheet sheet = sheetOf(options, line.empty() ? "Shots" : line);
+  QByteArray bytes;
+  Status status = paintFigurePages(sheet, shots.size(), paint, bytes);
+  return status.ok() ? writeBytes(path, bytes, written) : status;
+}
+
+}  // namespace
+
+Status renderGatherFigure(const TomoDocument& document, std::size_t shot,
+                          const GatherFigureOptions& options, FigureFormat format,
+                          QByteArray& bytes, GatherFigureLayout* layout) {
+  GatherScene scene;
+  if (Status status = buildGatherScene(document, shot, options, scene); !status.ok()) {
+    return status;
+  }
+  if (Status status = checkDrawing(options, format); !status.ok()) return status;
+  GatherPlot plot(std::move(scene), options);
+  if (Status status = plot.layOut(); !status.ok()) return status;
+  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot.paint(painter, rect); };
+  const FigureSheet sheet = sheetOf(options, plot.scene().title);
+  if (Status status = paintFigure(format, sheet, paint, bytes); !status.ok()) return status;
+  if (layout != nullptr) *layout = plot.layout();
+  return {};
+}
+
+Status writeGatherFigures(const TomoDocument& document, const GatherFigureOptions& options,
+                          const std::string& path, std::vector<std::string>& written) {
+  written.clear();
+  FigureFormat format{};
+  if (Status status = figureFormatOf(path, format); !status.ok()) return status;
+  const std::size_t count = document.traceSets.size();
+  if (count == 0) return Status::failure("The document has no traces to draw.");
+  std::vector<std::size_t> shots;
+  if (options.shot) {
+    shots.push_back(*options.shot);
+  } else {
+    for (std::size_t shot = 0; shot < count; ++shot) shots.push_back(shot);
+  }
+  if (format == FigureFormat::kPdf) return writePages(document, options, shots, path, written);
+  for (const std::size_t shot : shots) {
+    QByteArray bytes;
+    Status status = renderGatherFigure(document, shot, options, format, bytes);
+    const std::string name = shots.size() == 1 ? path : numbered(path, shot, count);
+    if (status.ok()) status = writeBytes(name, bytes, written);
+    if (!status.ok()) return status;
+  }
+  return {};
+}
+
+}  // namespace talvesk

@@ -1,0 +1,28 @@
+#pragma once
+
+class QColor;
+class QwtPlotItem;
+
+namespace talvesk {
+
+struct GatherScene;
+
+/// The layers of a gather on a plot with distance or channel below and time, downward, at the left.
+/// The scene must outlive the plot that they are added to.
+namespace gather_items {
+
+struct WiggleStyle {
+  double gain = 1.0;  ///< swing of a trace's full scale, in distances between traces
+  double clip = 1.0;  ///< swings are cut beyond, in distances between traces
+  bool fillPositive = true;
+};
+
+/// The traces. However many samples fall into one row of the picture, the row shows the smallest
+/// and the largest of them.
+QwtPlotItem* wiggles(const GatherScene& scene, const WiggleStyle& style);
+
+/// A bar across its trace at each first break.
+QwtPlotItem* picks(const GatherScene& scene, const QColor& color);
+
+}  // namespace gather_items
+}  // namespace talvesk

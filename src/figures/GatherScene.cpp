@@ -1,0 +1,322 @@
+#include "figures/GatherScene.h"
+
+#include "base/TextNumber.h"
+#include "model/TomoDocument.h"
+#include "view/SectionTexts.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+/// A shot further from the spread than this part of the spread's length is not drawn: the traces
+/// would lose their room to it. The title tells where it is.
+constexpr double kShotReach = 0.35;
+/// More wiggles than this stand too close for any eye; every second or third is drawn then.
+constexpr std::size_t kMostTraces = 600;
+constexpr double kLongestMs = 1e9;
+constexpr double kMaxGain = 1e6;
+
+bool hasInterval(const Trace& trace) {
+  return trace.sampleInterval > 0.0 && trace.sampleInterval <= 1e3;
+}
+
+const TravelTime* recordOf(const TomoDocument& document, std::size_t shot) {
+  const auto belongs = [shot](const TravelTime& record) {
+    return record.traceSetID >= 0 && static_cast<std::size_t>(record.traceSetID) == shot;
+  };
+  const auto& records = document.ttArray;
+  if (shot < records.size() && belongs(records[shot])) return &records[shot];
+  const auto found = std::find_if(records.begin(), records.end(), belongs);
+  if (found != records.end()) return &*found;
+  return records.size() == document.traceSets.size() ? &records[shot] : nullptr;
+}
+
+/// Positions that say something about every trace: known, and not all at one place.
+bool tellApart(const std::vector<double>& positions) {
+  const auto known = std::all_of(positions.begin(), positions.end(), isPosition);
+  if (!known || positions.empty()) return false;
+  const auto [low, high] = std::minmax_element(positions.begin(), positions.end());
+  return positions.size() == 1 || *low < *high;
+}
+
+std::vector<double> stringPositions(const TomoDocument& document, const TravelTime* record,
+                                    std::size_t traces) {
+  const auto& strings = document.goephonesStringSet;
+  if (record == nullptr || record->indexStesa < 0) return {};
+  const auto index = static_cast<std::size_t>(record->indexStesa);
+  if (index >= strings.size() || strings[index].size() < traces) return {};
+  std::vector<double> positions;
+  for (std::size_t i = 0; i < traces; ++i) positions.push_back(strings[index][i].x);
+  return positions;
+}
+
+std::vector<double> positionsOf(const TomoDocument& document, const TravelTime* record,
+                                const TraceSet& set, bool& byChannel) {
+  std::vector<double> positions;
+  if (!byChannel) {
+    positions = stringPositions(document, record, set.size());
+    if (tellApart(positions)) return positions;
+    positions.clear();
+    for (const Trace& trace : set) positions.push_back(trace.receiverPosition.x);
+    if (tellApart(positions)) return positions;
+  }
+  byChannel = true;
+  positions.clear();
+  for (std::size_t i = 0; i < set.size(); ++i) positions.push_back(static_cast<double>(i + 1));
+  return positions;
+}
+
+/// The level that the trace swings about. Not the mean, which a strong late phase pulls away from
+/// the quiet before the first break.
+double medianOf(const std::vector<double>& samples) {
+  std::vector<double> known;
+  known.reserve(samples.size());
+  for (const double v : samples) {
+    if (std::isfinite(v)) known.push_back(v);
+  }
+  if (known.empty()) return 0.0;
+  const auto middle = known.begin() + static_cast<std::ptrdiff_t>(known.size() / 2);
+  std::nth_element(known.begin(), middle, known.end());
+  return *middle;
+}
+
+/// What of the samples lies in the window, and how far they swing there.
+void measure(GatherTrace& trace, const TimeWindow& window) {
+  const std::vector<double>& samples = *trace.samples;
+  const auto index = [&](double ms) {
+    return static_cast<std::size_t>(
+        std::clamp(ms / trace.intervalMs, 0.0, static_cast<double>(samples.size())));
+  };
+  // A hair of slack: a window that ends on a sample has that sample.
+  const double slack = 1e-6 * trace.intervalMs;
+  trace.first = index(window.beginMs + trace.intervalMs - slack);
+  trace.end = std::min(index(window.endMs + slack) + 1, samples.size());
+  trace.first = std::min(trace.first, trace.end);
+
+  trace.level = medianOf(samples);
+  trace.scale = GatherTrace::kFlat;
+  for (std::size_t i = trace.first; i < trace.end; ++i) {
+    if (!std::isfinite(samples[i])) continue;
+    trace.scale = std::max(trace.scale, std::min(std::abs(samples[i] - trace.level),
+                                                 std::numeric_limits<double>::max()));
+  }
+}
+
+Status checkWindow(const TimeWindow& window) {
+  if (window.beginMs >= 0.0 && window.endMs <= kLongestMs && window.endMs > window.beginMs) {
+    return {};
+  }
+  return Status::failure("The times from " + formatDouble(window.beginMs) + " to " +
+                         formatDouble(window.endMs) +
+                         " ms cannot be drawn: choose a begin of 0 or more and an end after it.");
+}
+
+Status checkOptions(const GatherFigureOptions& options) {
+  if (options.window) {
+    if (Status status = checkWindow(*options.window); !status.ok()) return status;
+  }
+  if (!(options.gain > 0.0 && options.gain <= kMaxGain)) {
+    return Status::failure("The gain of a gather must lie above 0 and not above " +
+                           formatDouble(kMaxGain) + ".");
+  }
+  if (!(options.clip > 0.0 && options.clip <= 100.0)) {
+    return Status::failure("Wiggles can be cut at more than 0 and up to 100 trace distances.");
+  }
+  return {};
+}
+
+TimeWindow windowOf(const TraceSet& set, const TravelTime* record,
+                    const GatherFigureOptions& options) {
+  if (options.window) return *options.window;
+  double recordMs = 0.0;
+  for (const Trace& trace : set) {
+    if (!hasInterval(trace)) continue;
+    const std::size_t samples = std::max(trace.samples.size(), trace.filtered.size());
+    if (samples < 2) continue;
+    recordMs = std::max(recordMs, 1e3 * trace.sampleInterval * static_cast<double>(samples - 1));
+  }
+  double lastPickMs = 0.0;
+  if (record != nullptr) {
+    const std::size_t count = std::min(set.size(), record->ttMisurati.size());
+    for (std::size_t i = 0; i < count; ++i) {
+      const double seconds = record->ttMisurati[i];
+      if (isDrawableTime(seconds)) lastPickMs = std::max(lastPickMs, 1e3 * seconds);
+    }
+  }
+  double endMs = std::min(recordMs, kLongestMs);
+  if (lastPickMs > 0.0) {
+    const double wanted = roundUp(1.5 * lastPickMs);
+    // A pick past the end of its record is an error that must show.
+    endMs = endMs > 0.0 ? std::min(wanted, std::max(endMs, 1.05 * lastPickMs)) : wanted;
+  }
+  return {0.0, endMs > 0.0 ? endMs : 1.0};
+}
+
+std::string countOf(std::size_t count, const std::string& noun) {
+  return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
+}
+
+std::string titleOf(const TomoDocument& document, std::size_t shot, const TravelTime* record,
+                    const GatherFigureOptions& options) {
+  std::string title = options.title;
+  if (title.empty() && shot < document.filenames.size()) {
+    title = document.filenames[shot];
+    title.erase(0, title.find_last_of("/\\") + 1);
+  }
+  if (!title.empty()) title += "   \xC2\xB7   ";
+  title += "Shot " + std::to_string(shot + 1);
+  const std::size_t count = document.traceSets.size();
+  if (count > 1) title += " of " + std::to_string(count);
+  if (record != nullptr && isPosition(record->shotPos2d.x)) {
+    title += " at " + valueText(record->shotPos2d.x, 0.1) + " m";
+  }
+  return title;
+}
+
+/// What the picture was made from, and what of it is not to be seen.
+class Caption {
+ public:
+  void add(const std::string& part) {
+    if (!mText.empty()) mText += "   \xC2\xB7   ";
+    mText += part;
+  }
+  const std::string& text() const { return mText; }
+
+ private:
+  std::string mText;
+};
+
+std::string swingsText(const GatherFigureOptions& options) {
+  return std::string(options.scaling == GatherScaling::kEachTrace ? "Each trace" : "All traces") +
+         " to " + (options.scaling == GatherScaling::kEachTrace ? "its own" : "one") +
+         " maximum, gain " + formatDouble(options.gain, 3);
+}
+
+void setAxis(const std::vector<double>& positions, const TravelTime* record, GatherScene& scene) {
+  scene.low = scene.high = 1.0;
+  if (positions.empty()) return;
+  scene.receivers = positions;
+  std::sort(scene.receivers.begin(), scene.receivers.end());
+  scene.spacing = usualSpacing(scene.receivers);
+  scene.low = scene.receivers.front();
+  scene.high = scene.receivers.back();
+  if (scene.byChannel || record == nullptr || !isPosition(record->shotPos2d.x)) return;
+  const double reach = std::max(kShotReach * (scene.high - scene.low), 2.0 * scene.spacing);
+  const double x = record->shotPos2d.x;
+  if (x < scene.low - reach || x > scene.high + reach) return;
+  scene.shotX = x;
+  scene.low = std::min(scene.low, x);
+  scene.high = std::max(scene.high, x);
+}
+
+/// One trace; false when there is nothing to draw. \param hidden counts picks out of the window
+bool addTrace(const TraceSet& set, std::size_t channel, double x, const TravelTime* record,
+              const GatherFigureOptions& options, GatherScene& scene, std::size_t& hidden) {
+  const Trace& source = set[channel];
+  GatherTrace trace;
+  trace.channel = channel;
+  trace.x = x;
+  if (options.picks && record != nullptr && channel < record->ttMisurati.size() &&
+      isDrawableTime(record->ttMisurati[channel])) {
+    const double ms = 1e3 * record->ttMisurati[channel];
+    const bool inside = ms >= scene.window.beginMs && ms <= scene.window.endMs;
+    if (inside) trace.pickMs = ms;
+    hidden += inside ? 0 : 1;
+  }
+  trace.samples = options.filtered && !source.filtered.empty() ? &source.filtered : &source.samples;
+  const bool drawn = !trace.samples->empty() && hasInterval(source);
+  if (drawn) {
+    trace.intervalMs = 1e3 * source.sampleInterval;
+    measure(trace, scene.window);
+  }
+  if (drawn || trace.pickMs) scene.traces.push_back(trace);
+  return drawn;
+}
+
+}  // namespace
+
+double GatherTrace::swing(std::size_t sample) const {
+  const double value = (*samples)[sample];
+  if (!std::isfinite(value)) return std::numeric_limits<double>::quiet_NaN();
+  if (scale <= kFlat) return 0.0;
+  return std::clamp(value - level, -std::numeric_limits<double>::max(),
+                    std::numeric_limits<double>::max()) /
+         scale;
+}
+
+double usualSpacing(const std::vector<double>& ascending) {
+  std::vector<double> gaps;
+  for (std::size_t i = 1; i < ascending.size(); ++i) {
+    if (ascending[i] > ascending[i - 1]) gaps.push_back(ascending[i] - ascending[i - 1]);
+  }
+  if (gaps.empty()) return 1.0;
+  const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>(gaps.size() / 2);
+  std::nth_element(gaps.begin(), middle, gaps.end());
+  return *middle;
+}
+
+double roundUp(double value) {
+  const double power = std::pow(10.0, std::floor(std::log10(value)));
+  for (const double factor : {1.0, 1.2, 1.5, 2.0, 2.5, 3.0, 4.0, 5.0, 6.0, 8.0}) {
+    if (factor * power >= value * (1.0 - 1e-12)) return factor * power;
+  }
+  return 10.0 * power;
+}
+
+Status buildGatherScene(const TomoDocument& document, std::size_t shot,
+                        const GatherFigureOptions& options, GatherScene& scene) {
+  if (shot >= document.traceSets.size()) {
+    return Status::failure("There is no shot " + std::to_string(shot + 1) +
+                           " to draw: the document has " +
+                           countOf(document.traceSets.size(), "shot") + " with traces.");
+  }
+  if (Status status = checkOptions(options); !status.ok()) return status;
+  const TraceSet& set = document.traceSets[shot];
+  const TravelTime* record = recordOf(document, shot);
+  GatherScene made;
+  made.byChannel = options.byChannel;
+  made.title = titleOf(document, shot, record, options);
+  made.window = windowOf(set, record, options);
+  const std::vector<double> positions = positionsOf(document, record, set, made.byChannel);
+  setAxis(positions, record, made);
+
+  std::size_t drawn = 0;
+  std::size_t filtered = 0;
+  std::size_t hidden = 0;
+  std::size_t picks = 0;
+  double largest = 0.0;
+  const std::size_t step = std::max<std::size_t>((set.size() + kMostTraces - 1) / kMostTraces, 1);
+  made.traceStep = step;
+  for (std::size_t i = 0; i < set.size(); i += step) {
+    const bool shown = addTrace(set, i, positions[i], record, options, made, hidden);
+    drawn += shown ? 1 : 0;
+    if (shown && made.traces.back().samples == &set[i].filtered) ++filtered;
+    if (made.traces.empty() || made.traces.back().channel != i) continue;
+    largest = std::max(largest, made.traces.back().scale);
+    picks += made.traces.back().pickMs ? 1 : 0;
+  }
+  if (options.scaling == GatherScaling::kWholeShot) {
+    for (GatherTrace& trace : made.traces) {
+      if (trace.scale > GatherTrace::kFlat) trace.scale = largest;
+    }
+  }
+
+  Caption caption;
+  caption.add(countOf(drawn, "trace") +
+              (filtered == 0 ? "" : (filtered == drawn ? ", filtered" : ", some filtered")));
+  if (step > 1) caption.add("One of every " + std::to_string(step) + " is drawn");
+  const std::size_t looked = (set.size() + step - 1) / step;
+  if (drawn < looked) {
+    caption.add(std::to_string(looked - drawn) + " without samples or sample interval");
+  }
+  caption.add(swingsText(options));
+  if (options.picks) caption.add(countOf(picks, "pick"));
+  if (hidden > 0) caption.add(countOf(hidden, "pick") + " outside the times shown");
+  made.caption = caption.text();
+  scene = std::move(made);
+  return {};
+}
+
+}  // namespace talvesk

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "base/Status.h"
+#include "figures/GatherFigure.h"
+
+#include <cstddef>
+#include <limits>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace talvesk {
+
+/// A trace as a gather shows it: about its median, as a part of its full swing.
+struct GatherTrace {
+  static constexpr double kFlat = 0.0;  ///< scale of a trace that does not swing
+
+  std::size_t channel = 0;                       ///< index in the trace set
+  double x = 0.0;                                ///< on the lower axis
+  const std::vector<double>* samples = nullptr;  ///< of the document
+  double intervalMs = 0.0;
+  std::size_t first = 0;  ///< samples [first, end) lie within the window
+  std::size_t end = 0;
+  double level = 0.0;            ///< median of all samples
+  double scale = kFlat;          ///< largest distance from the level within the window
+  std::optional<double> pickMs;  ///< within the window
+
+  double timeMs(std::size_t sample) const { return static_cast<double>(sample) * intervalMs; }
+  /// From -1 to 1 for a trace scaled by itself; not a number where the sample is none.
+  double swing(std::size_t sample) const;
+};
+
+/// What the picture of one shot shows. Looks at the document, which must outlive it.
+struct GatherScene {
+  std::string title;    ///< UTF-8
+  std::string caption;  ///< UTF-8
+  bool byChannel = false;
+  /// Those with samples or a pick, in channel order; of very many only every `traceStep`-th.
+  std::vector<GatherTrace> traces;
+  std::size_t traceStep = 1;
+  std::vector<double> receivers;  ///< x of all traces, ascending
+  double spacing = 1.0;           ///< usual distance between neighbours, on the lower axis
+  double low = 0.0;               ///< of the lower axis: receivers, and the shot where it is near
+  double high = 0.0;
+  std::optional<double> shotX;  ///< within low and high
+  TimeWindow window;
+};
+
+/// Gathers what the options ask for. Fails for a shot that is not there, and for options that make
+/// no picture; traces that cannot be drawn (no samples, no sample interval) are left out and
+/// counted in the caption.
+Status buildGatherScene(const TomoDocument& document, std::size_t shot,
+                        const GatherFigureOptions& options, GatherScene& scene);
+
+/// Positions of measured things that no line of this world has: beyond, they count as unknown.
+inline bool isPosition(double metres) {
+  return metres >= -1e8 && metres <= 1e8;  // false for what is not a number
+}
+
+/// Whether a time can be drawn: a pick of a length that a record may have.
+inline bool isDrawableTime(double seconds) {
+  return seconds > 0.0 && seconds <= 1e6;
+}
+
+/// Median distance between neighbours that differ; 1 when there are none. \param ascending sorted
+double usualSpacing(const std::vector<double>& ascending);
+
+/// The least of 1, 1.2, 1.5, 2, 2.5, 3, 4, 5, 6, 8 times a power of ten that is not below `value`.
+double roundUp(double value);
+
+}  // namespace talvesk
