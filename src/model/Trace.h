@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <vector>
@@ -27,6 +28,7 @@ struct Trace {
   double furtherValue3 = std::numeric_limits<double>::max();
   double delay = 0.0;  ///< recording delay, seconds, never positive
   std::int32_t furtherValue4 = std::numeric_limits<std::int32_t>::max();
+  std::size_t droppedSamples = 0;  ///< taken off the front, so that sample 0 is at the shot
 };
 
 /// The traces of one shot file, in channel order.
