@@ -1,0 +1,218 @@
+#include "processing/FirstBreak.h"
+
+#include "base/Console.h"
+#include "base/TextNumber.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+#include <limits>
+#include <new>
+#include <numeric>
+#include <ostream>
+#include <string>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr double kSlowest = 200.0;   // m/s
+constexpr double kFastest = 4500.0;  // m/s
+
+double meanOf(const std::vector<double>& samples) {
+  if (samples.empty()) return 0.0;
+  double sum = 0.0;
+  for (const double sample : samples) sum += sample;
+  return sum / static_cast<double>(samples.size());
+}
+
+void rebuildPair(Trace& trace) {
+  if (trace.waveKind != Trace::kSWavePair) return;
+  trace.samples = trace.samplesDX;
+  const std::size_t both = std::min(trace.samplesDX.size(), trace.samplesSX.size());
+  for (std::size_t k = 0; k < both; ++k) trace.samples[k] -= trace.samplesSX[k];
+}
+
+std::int32_t detect(const Trace& trace, bool useFiltered) {
+  const std::vector<double>& signal = useFiltered ? trace.filtered : trace.samples;
+  return characteristicPick(signal, meanOf(signal), kPickWindow);
+}
+
+TravelTime* recordOf(TomoDocument& document, std::int32_t shot) {
+  if (shot < 0 || static_cast<std::size_t>(shot) >= document.ttArray.size()) return nullptr;
+  return &document.ttArray[static_cast<std::size_t>(shot)];
+}
+
+/// The traces that belong to a shot's times; null when there are none.
+TraceSet* tracesOf(TomoDocument& document, std::int32_t shot) {
+  const TravelTime* record = recordOf(document, shot);
+  if (record == nullptr || record->traceSetID < 0) return nullptr;
+  const auto set = static_cast<std::size_t>(record->traceSetID);
+  return set < document.traceSets.size() ? &document.traceSets[set] : nullptr;
+}
+
+void store(TravelTime& record, const TraceSet& traces, std::size_t trace, std::int32_t index) {
+  if (record.ttMisurati.size() < traces.size()) record.ttMisurati.resize(traces.size(), kUnpicked);
+  record.ttMisurati[trace] = static_cast<std::uint32_t>(index) * traces[trace].sampleInterval;
+}
+
+/// The geophones that have a pick, nearest to the shot first. A position that is not known is last.
+std::vector<std::size_t> outward(const std::vector<double>& offsets) {
+  std::vector<std::size_t> order(offsets.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  const auto distance = [&](std::size_t i) {
+    return std::isnan(offsets[i]) ? std::numeric_limits<double>::infinity() : std::fabs(offsets[i]);
+  };
+  std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+    return distance(a) != distance(b) ? distance(a) < distance(b) : a > b;
+  });
+  return order;
+}
+
+void removeWhatWasNotFound(TravelTime& record, const std::vector<std::int32_t>& indices) {
+  for (std::size_t t = 0; t < indices.size(); ++t) {
+    if (indices[t] < 0) record.ttMisurati[t] = kNoTime;
+  }
+}
+
+/// Stores what the detector found in a shot and screens it.
+Status takePicks(TomoDocument& document, std::int32_t shot,
+                 const std::vector<std::int32_t>& indices) {
+  const TraceSet* traces = tracesOf(document, shot);
+  if (traces == nullptr) {
+    return Status::failure("shot " + std::to_string(shot) + " has no traces to pick on");
+  }
+  TravelTime& record = *recordOf(document, shot);
+  for (std::size_t t = 0; t < indices.size(); ++t) {
+    store(record, *traces, t, indices[t]);
+    console::out() << "[FIRST BREAK] TRACE " + std::to_string(t) + " : " +
+                          std::to_string(indices[t]) + '\n';
+  }
+  const Status status = screenShotPicks(document, shot);
+  removeWhatWasNotFound(record, indices);
+  return status;
+}
+
+struct Job {
+  const Trace* trace;
+  std::int32_t* index;
+};
+
+/// Runs the detector over the jobs on several threads; each job has its own place for the result.
+Status runJobs(const std::vector<Job>& jobs, bool useFiltered, unsigned threads) {
+  std::atomic<std::size_t> next{0};
+  std::atomic<bool> outOfMemory{false};
+  const auto work = [&]() noexcept {
+    try {
+      for (std::size_t j = next++; j < jobs.size(); j = next++) {
+        *jobs[j].index = detect(*jobs[j].trace, useFiltered);
+      }
+    } catch (const std::bad_alloc&) {
+      outOfMemory = true;
+    }
+  };
+  if (threads == 0) threads = std::max(std::thread::hardware_concurrency(), 1U);
+  const std::size_t helpers = std::min<std::size_t>(threads, jobs.size());
+  std::vector<std::thread> pool;
+  try {
+    for (std::size_t t = 1; t < helpers; ++t) pool.emplace_back(work);
+  } catch (const std::system_error&) {
+    // The system gives no more threads: those that run do all the work.
+  }
+  work();
+  for (std::thread& thread : pool) thread.join();
+  return outOfMemory ? Status::failure("the machine has no memory left to pick first breaks")
+                     : Status{};
+}
+
+}  // namespace
+
+std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t trace,
+                       bool useFiltered) {
+  TravelTime* record = recordOf(document, shot);
+  const Trace* found = nullptr;
+  if (document.findTrace(record == nullptr ? shot : record->traceSetID, trace, found) < 0)
+    return -1;
+  if (record == nullptr) {
+    console::error() << "[ERROR] Shot " + std::to_string(shot) + " has no record of times.\n";
+    return -1;
+  }
+  TraceSet& traces = *tracesOf(document, shot);
+  const auto t = static_cast<std::size_t>(trace);
+  rebuildPair(traces[t]);
+  const std::int32_t index = detect(traces[t], useFiltered);
+  store(*record, traces, t, index);
+  document.modified = true;
+  return index;
+}
+
+Status screenShotPicks(TomoDocument& document, std::int32_t shot) {
+  TravelTime* record = recordOf(document, shot);
+  if (record == nullptr) {
+    return Status::failure("shot " + std::to_string(shot) + " has no record of times to screen");
+  }
+  const auto string = static_cast<std::size_t>(record->indexStesa);
+  if (record->indexStesa < 0 || string >= document.goephonesStringSet.size()) {
+    return Status::failure("the picks of shot " + std::to_string(shot) +
+                           " are not screened: its geophone string " +
+                           std::to_string(record->indexStesa) + " does not exist");
+  }
+  const std::vector<Point2D>& geophones = document.goephonesStringSet[string];
+  std::vector<double>& times = record->ttMisurati;
+  std::vector<double> offsets;
+  for (std::size_t i = 0; i < std::min(geophones.size(), times.size()); ++i) {
+    offsets.push_back(geophones[i].x - record->shotPos2d.x);
+  }
+
+  double slowestLeft = kSlowest;
+  double slowestRight = kSlowest;
+  for (const std::size_t i : outward(offsets)) {
+    const double velocity = offsets[i] / times[i];
+    const double speed = std::fabs(velocity);
+    const std::string line =
+        formatDouble(offsets[i]) + ' ' + formatDouble(times[i]) + ' ' + formatDouble(velocity);
+    console::out() << line + '\n';
+    double& slowest = offsets[i] > 0.0 ? slowestRight : slowestLeft;
+    // Written so that a NaN is rejected.
+    if (!(speed >= slowest && speed <= kFastest)) {
+      console::out() << line + " - Rejected\n";
+      times[i] = kNoTime;
+    } else {
+      slowest = std::max(slowest, 0.5 * speed);
+    }
+  }
+  document.modified = true;
+  return {};
+}
+
+Status pickShot(TomoDocument& document, std::int32_t shot, bool useFiltered) {
+  return pickShots(document, {shot}, useFiltered, 1);
+}
+
+Status pickShots(TomoDocument& document, const std::vector<std::int32_t>& shots, bool useFiltered,
+                 unsigned threads) {
+  std::vector<std::vector<std::int32_t>> indices(shots.size());
+  std::vector<Job> jobs;
+  for (std::size_t s = 0; s < shots.size(); ++s) {
+    TraceSet* traces = tracesOf(document, shots[s]);
+    if (traces == nullptr) continue;
+    indices[s].assign(traces->size(), -1);
+    for (std::size_t t = 0; t < traces->size(); ++t) {
+      rebuildPair((*traces)[t]);
+      jobs.push_back({&(*traces)[t], &indices[s][t]});
+    }
+  }
+  Status first = runJobs(jobs, useFiltered, threads);
+  if (!first.ok()) return first;
+
+  for (std::size_t s = 0; s < shots.size(); ++s) {
+    const Status status = takePicks(document, shots[s], indices[s]);
+    if (first.ok() && !status.ok()) first = status;
+  }
+  if (!shots.empty()) document.modified = true;
+  return first;
+}
+
+}  // namespace talvesk

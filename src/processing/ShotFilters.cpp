@@ -1,0 +1,147 @@
+#include "processing/ShotFilters.h"
+
+#include "base/TextNumber.h"
+#include "processing/Spectrum.h"
+#include "processing/TraceFilters.h"
+
+#include <string>
+
+namespace talvesk {
+namespace {
+
+double normalised(double hertz, double highestFrequency) {
+  return hertz / (2.0 * highestFrequency);
+}
+
+Status checkCorner(const std::string& name, const FilterCorner& corner, double highestFrequency) {
+  const double fc = normalised(corner.hertz, highestFrequency);
+  // The design works in single precision, where a frequency just below the limit rounds up to it.
+  const auto single = static_cast<float>(fc);
+  if (single > 0.0F && single < 0.5F) return {};
+  const std::string limit =
+      highestFrequency > 0.0
+          ? "must be above 0 Hz and below " + formatDouble(highestFrequency) +
+                " Hz, the highest frequency of the spectrum"
+          : "has no limit to keep to, as the spectrum has no frequency above 0 Hz: the traces are "
+            "too short or their sample interval is not known";
+  return Status::failure("No filter applied. The " + name + " cut-off of " +
+                         formatDouble(corner.hertz) + " Hz " + limit + '.');
+}
+
+void count(FilterOutcome& outcome, const Status& status, const std::string& where) {
+  if (status.ok()) {
+    ++outcome.filtered;
+    return;
+  }
+  ++outcome.failed;
+  if (outcome.status.ok()) outcome.status = Status::failure(where + ": " + status.message());
+}
+
+void add(FilterOutcome& sum, const FilterOutcome& part, const std::string& where) {
+  sum.filtered += part.filtered;
+  sum.failed += part.failed;
+  if (sum.status.ok() && !part.status.ok()) {
+    sum.status = Status::failure(where + ": " + part.status.message());
+  }
+}
+
+TraceSet* tracesOf(TomoDocument& document, std::int32_t shot) {
+  if (shot < 0 || static_cast<std::size_t>(shot) >= document.traceSets.size()) return nullptr;
+  return &document.traceSets[static_cast<std::size_t>(shot)];
+}
+
+std::string nameOf(std::int32_t shot) {
+  return "shot " + std::to_string(shot);
+}
+std::string nameOf(std::size_t trace) {
+  return "trace " + std::to_string(trace);
+}
+
+/// Runs an operation over shots and puts their outcomes together.
+template <typename Operation>
+FilterOutcome overShots(TomoDocument& document, const std::vector<std::int32_t>& shots,
+                        Operation operation) {
+  FilterOutcome outcome;
+  for (const std::int32_t shot : shots) {
+    TraceSet* traces = tracesOf(document, shot);
+    if (traces == nullptr) {
+      add(outcome, {0, 0, Status::failure("there are no traces")}, nameOf(shot));
+    } else {
+      add(outcome, operation(*traces), nameOf(shot));
+    }
+  }
+  if (outcome.filtered > 0) document.modified = true;
+  return outcome;
+}
+
+}  // namespace
+
+Status checkBandFilter(const BandFilter& filter, double highestFrequency) {
+  for (const auto& corner : {filter.low, filter.high}) {
+    if (corner && corner->order < 1) {
+      return Status::failure("No filter applied. Filter order must be greater then 0.");
+    }
+  }
+  Status status;
+  if (filter.low) status = checkCorner("low-pass", *filter.low, highestFrequency);
+  if (status.ok() && filter.high) status = checkCorner("high-pass", *filter.high, highestFrequency);
+  return status;
+}
+
+Status bandFilterTrace(const std::vector<double>& in, const BandFilter& filter,
+                       double highestFrequency, std::vector<double>& out) {
+  Status status = checkBandFilter(filter, highestFrequency);
+  if (!status.ok()) return status;
+  std::vector<double> result = in;
+  if (filter.low) {
+    status =
+        lowPass(result, filter.low->order, normalised(filter.low->hertz, highestFrequency), result);
+  }
+  if (status.ok() && filter.high) {
+    status = highPass(result, filter.high->order, normalised(filter.high->hertz, highestFrequency),
+                      result);
+  }
+  if (status.ok()) out = std::move(result);
+  return status;
+}
+
+FilterOutcome bandFilterTraces(TraceSet& traces, const BandFilter& filter,
+                               double highestFrequency) {
+  if (!filter.low && !filter.high) return {};
+  const Status check = checkBandFilter(filter, highestFrequency);
+  if (!check.ok()) return {0, traces.size(), check};
+  FilterOutcome outcome;
+  for (std::size_t t = 0; t < traces.size(); ++t) {
+    count(outcome, bandFilterTrace(traces[t].samples, filter, highestFrequency, traces[t].filtered),
+          nameOf(t));
+  }
+  return outcome;
+}
+
+FilterOutcome bandFilterShots(TomoDocument& document, const std::vector<std::int32_t>& shots,
+                              const BandFilter& filter) {
+  if (!filter.low && !filter.high) return {};
+  return overShots(document, shots, [&](TraceSet& traces) {
+    HighestFrequency highest;
+    highest.see(computeSpectrum(traces, true));
+    return bandFilterTraces(traces, filter, highest.value());
+  });
+}
+
+FilterOutcome agcShots(TomoDocument& document, const std::vector<std::int32_t>& shots) {
+  return filterEachTrace(document, shots,
+                         [](Trace& trace) { return agcTrace(trace.samples, trace.filtered); });
+}
+
+FilterOutcome filterEachTrace(TomoDocument& document, const std::vector<std::int32_t>& shots,
+                              const std::function<Status(Trace&)>& operation) {
+  return overShots(document, shots, [&](TraceSet& traces) {
+    FilterOutcome outcome;
+    for (std::size_t t = 0; t < traces.size(); ++t) {
+      count(outcome, operation(traces[t]), nameOf(t));
+    }
+    return outcome;
+  });
+}
+
+}  // namespace talvesk

@@ -1,0 +1,58 @@
+#include "processing/ShotTime.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+void dropFront(std::vector<double>& samples, std::size_t count) {
+  const std::size_t dropped = std::min(count, samples.size());
+  samples.erase(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(dropped));
+}
+
+/// Samples recorded before the shot, or -1 where delay and interval make no number of them. Kept as
+/// a double: absurd headers give numbers beyond every integer.
+double leadOf(const Trace& trace) {
+  if (trace.delay == 0.0) return 0.0;
+  const double lead = std::round(-trace.delay / trace.sampleInterval);
+  return trace.sampleInterval > 0.0 && std::isfinite(lead) && lead >= 0.0 ? lead : -1.0;
+}
+
+std::size_t recorded(const Trace& trace) {
+  return std::max({trace.samples.size(), trace.samplesDX.size(), trace.samplesSX.size()}) +
+         trace.droppedSamples;
+}
+
+void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
+  const double lead = leadOf(trace);
+  if (lead == static_cast<double>(trace.droppedSamples)) return;
+  if (lead < 0.0 || lead >= static_cast<double>(recorded(trace))) {
+    ++outcome.leftAsRecorded;
+    return;
+  }
+  const auto total = static_cast<std::size_t>(lead);
+  if (total <= trace.droppedSamples) return;
+  const std::size_t now = total - trace.droppedSamples;
+  for (auto* samples : {&trace.samples, &trace.samplesDX, &trace.samplesSX}) {
+    dropFront(*samples, now);
+  }
+  // A filtered copy as long as the samples now are was kept from an earlier shortening.
+  if (trace.filtered.size() != trace.samples.size()) dropFront(trace.filtered, now);
+  trace.droppedSamples = total;
+  ++outcome.shortened;
+  outcome.mostDropped = std::max(outcome.mostDropped, now);
+}
+
+}  // namespace
+
+ShotTimeOutcome countTimeFromShot(TomoDocument& document) {
+  ShotTimeOutcome outcome;
+  for (TraceSet& traces : document.traceSets) {
+    for (Trace& trace : traces) countFromShot(trace, outcome);
+  }
+  if (outcome.shortened > 0) document.modified = true;
+  return outcome;
+}
+
+}  // namespace talvesk

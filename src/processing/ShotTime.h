@@ -1,0 +1,25 @@
+#pragma once
+
+#include "model/TomoDocument.h"
+
+#include <cstddef>
+
+namespace talvesk {
+
+/// What counting time from the shot did to the traces of a document.
+struct ShotTimeOutcome {
+  std::size_t shortened = 0;  ///< traces that lost samples now
+  /// Traces left as recorded although their recording delay is not 0: the record ends before the
+  /// shot, or delay and sample interval make no number of samples.
+  std::size_t leftAsRecorded = 0;
+  std::size_t mostDropped = 0;  ///< samples that the longest lead, of those shortened, had
+};
+
+/// Recorders often start before the shot (half a second is common). Picks are sample index times
+/// interval, so they count from the start of the record; this drops the first round(-delay /
+/// interval) samples of every trace, raw, components and filtered alike, and remembers how many in
+/// Trace::droppedSamples. Repeating it drops nothing more. Times that were picked before are not
+/// moved: count time from the shot before picking.
+ShotTimeOutcome countTimeFromShot(TomoDocument& document);
+
+}  // namespace talvesk
