@@ -47,6 +47,19 @@ INSTANTIATE_TEST_SUITE_P(
         DoubleCase{"-1e400", NumberError::kOutOfRange},
         DoubleCase{"1e-400", NumberError::kOutOfRange}));
 
+TEST(TextNumber, takesWholeNumbersOnlyWhenNothingFollows) {
+  for (const DoubleCase& expected :
+       {DoubleCase{"12.5", NumberError::kNone, 12.5}, DoubleCase{" -3e2", NumberError::kNone, -300},
+        DoubleCase{"12 ", NumberError::kNotANumber}, DoubleCase{"12m", NumberError::kNotANumber},
+        DoubleCase{"1.2.3", NumberError::kNotANumber}, DoubleCase{"1,5", NumberError::kNotANumber},
+        DoubleCase{"", NumberError::kNotANumber}, DoubleCase{"1e400", NumberError::kOutOfRange},
+        DoubleCase{"7\0"sv, NumberError::kNotANumber}}) {
+    double value = kUntouched;
+    EXPECT_EQ(parseWholeDouble(expected.text, value), expected.error) << expected.text;
+    EXPECT_EQ(value, expected.value) << expected.text;
+  }
+}
+
 TEST(TextNumber, readsNumbersLongerThanAnyBuffer) {
   double value = 0.0;
   EXPECT_EQ(parseDouble(std::string(5000, '0') + "25.0" + std::string(5000, '0'), value),

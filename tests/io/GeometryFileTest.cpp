@@ -1,0 +1,108 @@
+#include "io/GeometryFile.h"
+#include "support/TestFolder.h"
+
+#include <gmock/gmock.h>
+
+namespace talvesk {
+namespace {
+
+using namespace talvesk::testing;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+GeometryRecords parsed(std::string_view text, const std::string& separator, bool labelled = false) {
+  GeometryRecords records;
+  EXPECT_TRUE(parseRecords(text, "a.csv", separator, labelled, records).ok()) << text;
+  return records;
+}
+
+TEST(GeometryFile, returnsWhatWasWrittenWithEverySeparator) {
+  const GeometryRecords records = {{0.0, 101.25}, {5.0, -3e-7}, {1234567.0, 1e20}};
+  const struct {
+    const char* separator;
+    const char* geophones;
+    const char* shots;
+  } kCases[] = {
+      {";", "0;101.25\n5;-3e-07\n1.23457e+06;1e+20\n", "shot_id_1;0;101.25\n"},
+      {",", "0,101.25\n5,-3e-07\n1.23457e+06,1e+20\n", "shot_id_1,0,101.25\n"},
+      {kBlankSeparator, "0 101.25\n5 -3e-07\n1.23457e+06 1e+20\n", "shot_id_1 0 101.25\n"},
+  };
+  for (const auto& [separator, geophones, shots] : kCases) {
+    const TestFolder folder;
+    const std::string path = folder.file("line.csv");
+    ASSERT_TRUE(writeRecords(path, separator, records).ok());
+    EXPECT_EQ(TestFolder::get(path), geophones);
+    GeometryRecords read;
+    ASSERT_TRUE(readRecords(path, separator, read).ok());
+    EXPECT_EQ(read, (GeometryRecords{{0.0, 101.25}, {5.0, -3e-7}, {1234570.0, 1e20}}));
+
+    ASSERT_TRUE(
+        writeLabelledRecords(path, separator, {std::string(kShotLabel) + "1"}, {records.front()})
+            .ok());
+    EXPECT_EQ(TestFolder::get(path), shots);
+    ASSERT_TRUE(readLabelledRecords(path, separator, read).ok());
+    EXPECT_EQ(read, (GeometryRecords{{0.0, 101.25}}));
+  }
+}
+
+TEST(GeometryFile, convertsFieldsLikeTheStandardFunction) {
+  EXPECT_THAT(parsed("12 m;x\r\n ;0x10;7;\n", ";"),
+              ElementsAre(ElementsAre(12, 0), ElementsAre(0, 16, 7)));
+  EXPECT_THAT(parsed("1  2", kBlankSeparator), ElementsAre(ElementsAre(1, 0, 2)));
+  EXPECT_THAT(parsed("\n1;2\n\n\n", ";"), ElementsAre(IsEmpty(), ElementsAre(1, 2)));
+  EXPECT_THAT(parsed("only a label\n", ";", true), IsEmpty());
+  EXPECT_THAT(parsed("", ";"), IsEmpty());
+}
+
+TEST(GeometryFile, hasNoPositionsWhenReadWithAnotherSeparator) {
+  const GeometryRecords records = parsed("1.5;2.5\n3;4\n", ",");
+  EXPECT_THAT(records, ElementsAre(ElementsAre(1.5), ElementsAre(3)));
+  std::vector<Point2D> positions = {{9, 9}};
+  const Status status = positionsOf(records, positions);
+  EXPECT_EQ(status.code(), 1);
+  EXPECT_THAT(status.message(), HasSubstr("line 1"));
+  EXPECT_THAT(positions, ElementsAre(Point2D{9, 9}));
+  ASSERT_TRUE(positionsOf(parsed("1.5;2.5;9\n3;4\n", ";"), positions).ok());
+  EXPECT_THAT(positions, ElementsAre(Point2D{1.5, 2.5}, Point2D{3, 4}));
+}
+
+TEST(GeometryFile, refusesLongLinesAndNumbersThatFitNoDouble) {
+  const std::string limit(256, '1');
+  EXPECT_THAT(parsed("a;" + limit.substr(2), ";"), ElementsAre(ElementsAre(0, ::testing::_)));
+  const struct {
+    std::string text;
+    const char* reason;
+  } kCases[] = {{"1;2\n" + limit + "1\n", "line 2: the line holds more than 256"},
+                {"1;2\n3;1e999\n", "line 2: a number is out of range"},
+                {"1;inf\n", "line 1: a number is out of range or not finite"},
+                {"nan;1\n", "line 1: a number is out of range or not finite"}};
+  for (const auto& [text, reason] : kCases) {
+    GeometryRecords records = {{9}};
+    const Status status = parseRecords(text, "a.csv", ";", false, records);
+    EXPECT_EQ(status.code(), 1);
+    EXPECT_THAT(status.message(), HasSubstr("a.csv, " + std::string(reason)));
+    EXPECT_EQ(records, (GeometryRecords{{9}}));
+  }
+}
+
+TEST(GeometryFile, saysWhichFileCannotBeReadOrWritten) {
+  GeometryRecords records;
+  for (const Status& status :
+       {readRecords("/no/a.csv", ";", records), readLabelledRecords("/no/a.csv", ";", records),
+        writeRecords("/no/a.csv", ";", records), writeLabelledRecords("/no/a.csv", ";", {}, {}),
+        writeLabelledRecords("/no/a.csv", ";", {"one"}, {})}) {
+    EXPECT_EQ(status.code(), 1);
+    EXPECT_THAT(status.message(), HasSubstr("/no/a.csv"));
+  }
+}
+
+TEST(GeometryFile, namesEndInCsvByTheLetter) {
+  EXPECT_EQ(withCsvSuffix("line1"), "line1.csv");
+  EXPECT_EQ(withCsvSuffix("line1.csv"), "line1.csv");
+  EXPECT_EQ(withCsvSuffix("line1.CSV"), "line1.CSV.csv");
+  EXPECT_EQ(withCsvSuffix("csv"), "csv.csv");
+}
+
+}  // namespace
+}  // namespace talvesk

@@ -1,0 +1,195 @@
+#include "io/ShotFile.h"
+#include "io/ShotLoader.h"
+#include "support/ConsoleCapture.h"
+#include "support/ShotFiles.h"
+#include "support/TestFolder.h"
+#include "support/TestGrids.h"
+
+#include <limits>
+
+#include <gmock/gmock.h>
+
+namespace talvesk {
+namespace {
+
+using namespace talvesk::testing;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+/// A shot into as many channels, 5 m apart from `first` on.
+std::string seg2Shot(double source, double first, int channels) {
+  std::vector<Seg2Channel> made;
+  for (int i = 0; i < channels; ++i) {
+    made.push_back({4,
+                    {1, 2, 3},
+                    seg2Area({"DELAY -0.5", "RECEIVER_LOCATION " + std::to_string(first + 5 * i),
+                              "SAMPLE_INTERVAL 0.001",
+                              "SOURCE_LOCATION " + std::to_string(source) + " 101"})});
+  }
+  return seg2Bytes(made);
+}
+
+std::string segyShot(ByteOrder order) {
+  SegyFixture file;
+  file.order = order;
+  file.constant = order == ByteOrder::kBig ? std::string{1, 2, 3, 4} : std::string{4, 3, 2, 1};
+  file.channels = {{{1, 2, 3}, 7, 10, 0}};
+  return segyBytes(file);
+}
+
+std::string suShot(ByteOrder order) {
+  SegyFixture file;
+  file.order = order;
+  file.channels = {{{4, 5, 6}, 7, 10, 0}, {{4, 5, 6}, 7, 20, 0}};
+  return suBytes(file);
+}
+
+class ShotLoading : public ::testing::Test {
+ protected:
+  std::vector<int> load(const std::vector<std::string>& paths) {
+    outcomes = loader.load(paths, document);
+    std::vector<int> codes;
+    for (const ShotFileOutcome& outcome : outcomes) codes.push_back(outcome.status.code());
+    return codes;
+  }
+
+  TestFolder folder;
+  ConsoleCapture console;
+  ShotLoader loader;
+  TomoDocument document;
+  std::vector<ShotFileOutcome> outcomes;
+};
+
+TEST_F(ShotLoading, makesATraceSetAndARecordOfEachFile) {
+  const std::string first = folder.put("b.DAT", seg2Shot(-2.5, 0, 3));
+  const std::string second = folder.put("a.Sg2", seg2Shot(12.5, 0, 2));
+  EXPECT_THAT(load({first, second}), ElementsAre(0, 0));
+  EXPECT_EQ(outcomes[0].format, "seg2");
+  EXPECT_THAT(document.filenames, ElementsAre(first, second));
+  EXPECT_THAT(document.shotPositions, ElementsAre(-2.5, 12.5));
+  ASSERT_THAT(document.traceSets, ElementsAre(SizeIs(3), SizeIs(2)));
+  ASSERT_THAT(document.ttArray, SizeIs(2));
+  EXPECT_EQ(document.ttArray[0].shotPos2d, (Point2D{-2.5, 101}));
+  EXPECT_EQ(document.ttArray[1].traceSetID, 1);
+  EXPECT_THAT(document.ttArray[0].ttMisurati, ElementsAre(0, 0, 0));
+  EXPECT_THAT(document.ttArray[1].ttCalcolati, ElementsAre(kNoTime, kNoTime));
+  EXPECT_TRUE(document.modified);
+}
+
+TEST_F(ShotLoading, keepsWhatTheTraceHeadersSay) {
+  load({folder.put("a.dat", seg2Shot(-2.5, 10, 1))});
+  const Trace& trace = document.traceSets.at(0).at(0);
+  EXPECT_EQ(trace.waveKind, Trace::kFromFile);
+  EXPECT_THAT(trace.samples, ElementsAre(1, 2, 0));
+  EXPECT_THAT(trace.filtered, IsEmpty());
+  EXPECT_EQ(trace.sourcePosition, (Point2D{-2.5, 101}));
+  EXPECT_EQ(trace.receiverPosition, (Point2D{10, 0}));
+  EXPECT_EQ(trace.delay, -0.5);
+  EXPECT_EQ(trace.sampleInterval, 0.001);
+  EXPECT_EQ(trace.furtherValue1, std::numeric_limits<double>::max());
+}
+
+TEST_F(ShotLoading, sharesGeophoneStringsThatAreEqual) {
+  EXPECT_THAT(
+      load({folder.put("a.dat", seg2Shot(0, 0, 3)), folder.put("b.dat", seg2Shot(5, 60, 3)),
+            folder.put("c.dat", seg2Shot(9, 0, 3)), folder.put("d.dat", seg2Shot(9, 0, 2))}),
+      ElementsAre(0, 0, 0, 0));
+  EXPECT_THAT(document.goephonesStringSet, ElementsAre(SizeIs(3), SizeIs(3), SizeIs(2)));
+  std::vector<int> strings;
+  for (const TravelTime& record : document.ttArray) strings.push_back(record.indexStesa);
+  EXPECT_THAT(strings, ElementsAre(0, 1, 0, 2));
+}
+
+TEST_F(ShotLoading, leavesFilesThatFailOut) {
+  const std::string good = folder.put("good.dat", seg2Shot(1, 0, 2));
+  EXPECT_THAT(load({folder.file("missing.dat"), folder.put("bad.seg2", "no"), good,
+                    folder.put("silent.dat", seg2Bytes({{4, {1, 2}, seg2Area({"DELAY 0"})}})),
+                    folder.put("picks.otte", "otte")}),
+              ElementsAre(1, 1, 0, 2, 3));
+  EXPECT_THAT(document.filenames, ElementsAre(good));
+  EXPECT_THAT(document.ttArray, SizeIs(1));
+  EXPECT_THAT(document.traceSets, SizeIs(1));
+  EXPECT_THAT(document.goephonesStringSet, SizeIs(1));
+  for (const ShotFileOutcome& outcome : outcomes) {
+    EXPECT_EQ(outcome.status.message().find(outcome.path) == std::string::npos,
+              outcome.status.ok());
+  }
+}
+
+TEST_F(ShotLoading, isNoChangeWhenNoFileLoads) {
+  document.grid = roughGrid({2, 2, 3, 5.0}, 0.0);
+  load({folder.file("missing.dat")});
+  EXPECT_FALSE(document.modified);
+  EXPECT_NE(document.grid, nullptr);
+  load({folder.put("a.dat", seg2Shot(1, 0, 2))});
+  EXPECT_EQ(document.grid, nullptr) << "the grid was made for another line";
+}
+
+TEST_F(ShotLoading, takesFilesWithoutATrace) {
+  EXPECT_THAT(load({folder.put("none.dat", seg2Bytes({}))}), ElementsAre(0));
+  EXPECT_THAT(document.traceSets, ElementsAre(IsEmpty()));
+  EXPECT_THAT(document.ttArray.at(0).ttMisurati, IsEmpty());
+  EXPECT_EQ(document.ttArray[0].shotPos2d, Point2D());
+  EXPECT_THAT(outcomes[0].warnings, ElementsAre("the file holds no trace"));
+}
+
+TEST_F(ShotLoading, refusesASurveyOfPicksWithoutTraces) {
+  document.ttArray.resize(2);
+  EXPECT_THAT(load({folder.put("a.dat", seg2Shot(1, 0, 2))}), ElementsAre(1));
+  EXPECT_THAT(document.ttArray, SizeIs(2));
+  EXPECT_THAT(document.filenames, IsEmpty());
+}
+
+TEST_F(ShotLoading, remembersTheByteOrderBetweenFilesAndCalls) {
+  const std::string su = folder.put("big.su", suShot(ByteOrder::kBig));
+  load({folder.put("big.segy", segyShot(ByteOrder::kBig)), su});
+  EXPECT_THAT(document.traceSets, ElementsAre(SizeIs(1), SizeIs(2)));
+  load({su});
+  EXPECT_THAT(document.traceSets.at(2).at(1).samples, ElementsAre(4, 5, 0));
+  ShotLoader fresh;
+  EXPECT_TRUE(fresh.state().nativeOrder);
+}
+
+TEST(ShotFile, goesByTheSuffixWhateverItsCase) {
+  const ConsoleCapture console;
+  const std::string seg2 = seg2Shot(0, 0, 1);
+  const std::string segy = segyShot(ByteOrder::kLittle);
+  const std::string su = suShot(ByteOrder::kLittle);
+  const struct {
+    const char* path;
+    const std::string& bytes;
+    const char* format;
+  } kCases[] = {
+      {"a.seg2", seg2, "seg2"},  {"a.DAT", seg2, "seg2"},    {"/x.y/a.b.sg2", seg2, "seg2"},
+      {"a.sgy", segy, "segy"},   {"a.SegY", segy, "segy"},   {"a.SU", su, "su"},
+      {"seg2", seg2, nullptr},   {"a.dat/b", seg2, nullptr}, {"a.dat ", seg2, nullptr},
+      {"a.segd", seg2, nullptr}, {"", seg2, nullptr},        {"a.", seg2, nullptr}};
+  for (const auto& [path, bytes, format] : kCases) {
+    SegyState state;
+    ShotFileData data;
+    EXPECT_EQ(parseShotFile(bytes, path, state, data).code(), format == nullptr ? 3 : 0) << path;
+    EXPECT_EQ(data.format, format == nullptr ? "" : format) << path;
+  }
+}
+
+TEST(ShotFile, tellsWhichFileItOpensAndWhichItCannot) {
+  const struct {
+    const char* name;
+    const char* opening;
+  } kCases[] = {{"/no/a.dat", "opening seg2 file /no/a.dat\n"},
+                {"/no/a.sgy", "opening segy file /no/a.sgy\n"},
+                {"/no/a.su", "opening su file /no/a.su\n"}};
+  for (const auto& [name, opening] : kCases) {
+    const ConsoleCapture console;
+    SegyState state;
+    ShotFileData data;
+    EXPECT_EQ(readShotFile(name, state, data).code(), 1);
+    EXPECT_EQ(console.out(), opening);
+    EXPECT_EQ(console.error(), std::string("Error while loading ") + name + "\n");
+  }
+}
+
+}  // namespace
+}  // namespace talvesk
