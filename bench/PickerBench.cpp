@@ -1,13 +1,13 @@
 // The first-break picker on shots of 48 traces of 4000 samples: the detector alone, and whole shots
 // with their screening on one thread and on two.
-#include <benchmark/benchmark.h>
+#include "base/Console.h"
+#include "processing/FirstBreak.h"
 
 #include <cmath>
 #include <ostream>
 #include <random>
 
-#include "base/Console.h"
-#include "processing/FirstBreak.h"
+#include <benchmark/benchmark.h>
 
 namespace talvesk {
 namespace {
