@@ -8,6 +8,7 @@ namespace talvesk {
 // files appear whole or not at all.
 
 int run(const InfoOptions& options);
+int run(const PickOptions& options);
 int run(const InvertOptions& options);
 int run(const ConvertOptions& options);
 int run(const DemoOptions& options);

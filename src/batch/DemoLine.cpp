@@ -1,11 +1,13 @@
 #include "batch/DemoLine.h"
 
+#include "batch/DemoNoise.h"
 #include "tomo/ShortestPaths.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <future>
+#include <iterator>
 #include <memory>
 #include <thread>
 
@@ -27,7 +29,8 @@ constexpr double kCellSize = 0.125;  // metres
 constexpr double kGridDepth = 26.0;  // metres
 constexpr std::uint32_t kNodes = 6;
 
-constexpr double kNoise = 0.0003;          // seconds, standard deviation
+constexpr double kNoise = 0.0003;  // seconds, standard deviation
+constexpr std::uint64_t kNoiseSeed = 2022;
 constexpr double kShortestTime = 0.00005;  // seconds: noise never makes a first break that is none
 
 /// A smooth hill of height 1 and the given half width. Polynomials, because the mathematical
@@ -38,30 +41,6 @@ double bump(double x, double centre, double halfWidth) {
   const double v = 1.0 - u * u;
   return v * v;
 }
-
-/// Normally distributed numbers, near enough: the sum of twelve uniform ones. Written out, as the
-/// standard library leaves the values of its own distributions to each implementation.
-class Noise {
- public:
-  double next() {
-    double sum = -6.0;
-    for (int i = 0; i < 12; ++i) sum += uniform();
-    return sum;
-  }
-
- private:
-  /// SplitMix64 (Steele, Lea and Flood 2014, Fast splittable pseudorandom number generators).
-  double uniform() {
-    mState += 0x9e3779b97f4a7c15U;
-    std::uint64_t z = mState;
-    z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9U;
-    z = (z ^ (z >> 27)) * 0x94d049bb133111ebU;
-    z ^= z >> 31;
-    return static_cast<double>(z >> 11) * 0x1p-53;
-  }
-
-  std::uint64_t mState = 2022;
-};
 
 /// Positions as a surveyor writes them down, to the centimetre.
 Point2D onSurface(double x) {
@@ -128,7 +107,7 @@ void fireShots(TomoDocument& line, const Grid& grid, double xOffset) {
 }
 
 void addNoise(TomoDocument& line) {
-  Noise noise;
+  DemoNoise noise(kNoiseSeed);
   for (TravelTime& record : line.ttArray) {
     for (double& time : record.ttMisurati) {
       time = std::max(time + kNoise * noise.next(), kShortestTime);
@@ -149,6 +128,10 @@ double demoBedrockDepth(double x) {
 double demoVelocity(double x, double depth) {
   if (depth < kCoverThickness) return kCover;
   return depth < demoBedrockDepth(x) ? kWeathered : kBedrock;
+}
+
+std::size_t demoShotCount() {
+  return std::size(kShots);
 }
 
 TomoDocument demoLine() {

@@ -2,6 +2,8 @@
 
 #include "model/TomoDocument.h"
 
+#include <cstddef>
+
 namespace talvesk {
 
 // A synthetic line to try the program on, computed and not measured: 48 geophones every 2 m on a
@@ -16,6 +18,8 @@ double demoBedrockDepth(double x);
 
 /// Velocity of the ground, m/s. \param depth below the surface, metres
 double demoVelocity(double x, double depth);
+
+std::size_t demoShotCount();
 
 /// The survey: positions, and first breaks by this engine's ray tracer on a grid four times finer
 /// than an inversion takes, with 0.3 ms (standard deviation) of noise. The same every time. Takes

@@ -4,18 +4,16 @@
 #include "batch/Failure.h"
 #include "batch/OutputFiles.h"
 #include "batch/ResultJson.h"
+#include "batch/ShotPicking.h"
 #include "grid/SurveyProfile.h"
+#include "io/ShotFile.h"
 
 #include <algorithm>
 #include <ostream>
+#include <set>
 
 namespace talvesk {
 namespace {
-
-std::size_t pickCount(const TravelTime& record) {
-  return static_cast<std::size_t>(
-      std::count_if(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick));
-}
 
 void describe(const std::string& file, const TravelTimeData& data, std::ostream& out) {
   std::vector<Point2D> shots;
@@ -41,6 +39,108 @@ void describe(const std::string& file, const TravelTimeData& data, std::ostream&
   }
 }
 
+/// "7", or "7 to 9" where the traces differ.
+template <typename ValueOf>
+std::string span(const std::vector<ShotRecord>& traces, ValueOf valueOf) {
+  double least = valueOf(traces.front());
+  double greatest = least;
+  for (const ShotRecord& trace : traces) {
+    least = std::min(least, valueOf(trace));
+    greatest = std::max(greatest, valueOf(trace));
+  }
+  const std::string text = formatDouble(least);
+  return least == greatest ? text : text + " to " + formatDouble(greatest);
+}
+
+std::string place(const Point2D& point) {
+  return formatDouble(point.x) + " m, elevation " + formatDouble(point.z) + " m";
+}
+
+void describe(const std::string& file, const ShotFileData& data, std::ostream& out) {
+  out << file << "\n  format      " << data.format << "\n  traces      " << data.traces.size()
+      << '\n';
+  if (data.traces.empty()) return;
+  out << "  samples     "
+      << span(data.traces,
+              [](const ShotRecord& t) { return static_cast<double>(t.samples.size()); })
+      << "\n  interval    "
+      << span(data.traces, [](const ShotRecord& t) { return t.sampleInterval * 1000.0; })
+      << " ms\n  delay       "
+      << span(data.traces, [](const ShotRecord& t) { return t.delay * 1000.0; })
+      << " ms\n  source      " << place(data.traces.front().source) << "\n  receivers   "
+      << place(data.traces.front().receiver) << "\n              to "
+      << place(data.traces.back().receiver) << '\n';
+}
+
+/// What the command makes of the files one after the other.
+class Inventory {
+ public:
+  Inventory(const InfoOptions& options, std::ostream& out) : mOptions(options), mOut(out) {}
+
+  void add(const std::string& file) {
+    isTravelTimeFile(file) ? addTravelTimes(file) : addShot(file);
+  }
+
+  int exitCode() const { return mExitCode; }
+
+  /// A single file that is no shot file has nothing to say when it cannot be read.
+  bool hasJson() const {
+    return mExitCode == kDone || mOptions.files.size() > 1 ||
+           hasShotFileSuffix(mOptions.files.front());
+  }
+  std::string json() const {
+    return mOptions.files.size() == 1 ? mValues.front() : jsonArray(mValues);
+  }
+
+ private:
+  static bool isTravelTimeFile(const std::string& file) {
+    static const std::set<std::string> kSuffixes = {".otte", ".txt", ".xyz",
+                                                    ".XYZ",  ".csv", ".CSV"};
+    const std::size_t dot = file.find_last_of("./");
+    return dot != std::string::npos && kSuffixes.count(file.substr(dot)) > 0;
+  }
+
+  static Status neitherKind(const std::string& file) {
+    constexpr int kUnknownFormat = 3;  // as the readers of shot files call it
+    return Status::failure(file +
+                               ": its suffix is neither of a travel-time file (.otte, .txt, .xyz, "
+                               ".csv) nor of a shot file (.seg2, .sg2, .dat, .sgy, .segy, .su)",
+                           kUnknownFormat);
+  }
+
+  void addTravelTimes(const std::string& file) {
+    TravelTimeData data;
+    const Status status = readPicks(file, data, false);
+    take(file, status, data, [&] { return travelTimesJson(data); });
+  }
+
+  void addShot(const std::string& file) {
+    ShotFileData data;
+    const Status status =
+        hasShotFileSuffix(file) ? readShotFile(file, mState, data) : neitherKind(file);
+    for (const std::string& warning : data.warnings) warn(file + ": " + warning);
+    take(file, status, data, [&] { return shotFileJson(data, mOptions.samples); });
+  }
+
+  template <typename Data, typename ToJson>
+  void take(const std::string& file, const Status& status, const Data& data, ToJson toJson) {
+    if (!status.ok()) {
+      mExitCode = failed(status.message());
+      mValues.push_back(unreadableJson(file, status));
+    } else if (mOptions.json.empty()) {
+      describe(file, data, mOut);
+    } else {
+      mValues.push_back(toJson());
+    }
+  }
+
+  const InfoOptions& mOptions;
+  std::ostream& mOut;
+  SegyState mState;  ///< what the readers of SEG-Y and SU pass on from file to file
+  std::vector<std::string> mValues;
+  int mExitCode = kDone;
+};
+
 }  // namespace
 
 int run(const InfoOptions& options) {
@@ -49,26 +149,12 @@ int run(const InfoOptions& options) {
   if (places.code() == kWrongUsage) return wrongUsage("info", places.message());
   if (!places.ok()) return failed(places.message());
 
-  int exitCode = kDone;
-  std::vector<std::string> values;
-  for (const std::string& file : options.files) {
-    TravelTimeData data;
-    const Status status = readPicks(file, data, false);
-    if (!status.ok()) {
-      exitCode = failed(status.message());
-      values.push_back(unreadableJson(file, status.message()));
-    } else if (options.json.empty()) {
-      describe(file, data, *channels.summary);
-    } else {
-      values.push_back(travelTimesJson(data));
-    }
-  }
+  Inventory inventory(options, *channels.summary);
+  for (const std::string& file : options.files) inventory.add(file);
   channels.summary->flush();
-  if (options.json.empty()) return exitCode;
-  const bool single = options.files.size() == 1;
-  if (single && exitCode != kDone) return exitCode;
-  const Status written = writeOutput(options.json, single ? values.front() : jsonArray(values));
-  return written.ok() ? exitCode : failed(written.message());
+  if (options.json.empty() || !inventory.hasJson()) return inventory.exitCode();
+  const Status written = writeOutput(options.json, inventory.json());
+  return written.ok() ? inventory.exitCode() : failed(written.message());
 }
 
 }  // namespace talvesk

@@ -2,10 +2,11 @@
 #include "batch/Commands.h"
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
+#include "batch/Images.h"
 #include "batch/Interrupt.h"
 #include "batch/OutputFiles.h"
 #include "batch/ResultJson.h"
-#include "batch/SectionImage.h"
+#include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
 #include "grid/GridBuilder.h"
 #include "tomo/ForwardPass.h"
@@ -18,7 +19,15 @@
 namespace talvesk {
 namespace {
 
-Status readInput(const InvertOptions& options, TomoDocument& document) {
+Status readInput(const InvertOptions& options, const Channels& channels, TomoDocument& document) {
+  if (options.input.empty()) {
+    PickingManner manner;
+    manner.threads = options.parameters.singleThread ? 1 : 0;
+    manner.quiet = options.quiet;
+    manner.verbose = options.verbose;
+    manner.summary = channels.summary;
+    return pickShotFiles(options.shots, manner, document);
+  }
   TravelTimeData data;
   const Status status = readPicks(options.input, data, options.quiet);
   if (!status.ok()) return status;
@@ -39,11 +48,17 @@ Status checkDepth(const GridSettings& settings, const SurveyProfile& profile) {
                          " m makes a grid without rows; choose a greater depth or smaller cells");
 }
 
+std::vector<std::string> inputsOf(const InvertOptions& options) {
+  if (!options.input.empty()) return {options.input};
+  return filesOf(options.shots);
+}
+
 Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log) {
   SurveyProfile profile;
   GridSettings settings = proposeGrid(document, profile, log);
   if (!profile.hasGeometry()) {
-    return Status::failure(options.input + ": no two geophones have different positions");
+    return Status::failure(inputsOf(options).front() +
+                           ": no two geophones have different positions");
   }
   if (options.cellSize) settings.cellSize = *options.cellSize;
   if (options.depth) settings.maxDepth = *options.depth;
@@ -139,14 +154,14 @@ int run(const InvertOptions& options) {
   std::vector<OutputFile> outputs = {
       {"--gridded", options.gridded}, {"--otte", options.otte}, {"--json", options.json}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
-  const Status places = checkOutputFiles(outputs, {options.input});
+  const Status places = checkOutputFiles(outputs, inputsOf(options));
   if (places.code() == kWrongUsage) return wrongUsage("invert", places.message());
   if (!places.ok()) return failed(places.message());
   if (!options.images.empty()) prepareDrawing();
 
   Log log;
   TomoDocument document;
-  Status status = readInput(options, document);
+  Status status = readInput(options, channels, document);
   if (status.ok()) status = setUpModel(options, document, log);
   if (!status.ok()) return failed(status.message());
   if (!options.quiet) warnAboutChoices(options, document);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grid/VelocityLayers.h"
+#include "processing/ShotFilters.h"
 #include "tomo/TomographyRun.h"
 
 #include <optional>
@@ -21,10 +22,35 @@ inline constexpr const char* kStandardOutput = "-";
 struct InfoOptions {
   std::vector<std::string> files;  ///< at least one
   std::string json;
+  bool samples = false;
+};
+
+/// On what the first breaks are picked.
+enum class PickFilter { kNone, kAgc, kHushel, kBand };
+
+/// How shot files become picks.
+struct ShotOptions {
+  std::vector<std::string> files;
+  PickFilter filter = PickFilter::kNone;
+  BandFilter band;              ///< of kBand: one corner at least
+  std::string geophones;        ///< geometry file
+  std::string shots;            ///< geometry file
+  std::string separator = ";";  ///< of the geometry files
+  bool asRecorded = false;      ///< time counts from the first sample, wherever the shot was
+};
+
+struct PickOptions {
+  ShotOptions shots;
+  std::string otte;
+  std::string json;
+  std::vector<std::string> images;
+  bool quiet = false;
+  bool verbose = false;
 };
 
 struct InvertOptions {
-  std::string input;
+  std::string input;  ///< travel-time file; none: shot files
+  ShotOptions shots;
   std::optional<double> cellSize;     ///< metres; none: as proposed
   std::optional<double> depth;        ///< metres; none: half the array length
   int nodes = 6;                      ///< per cell side
@@ -53,7 +79,8 @@ struct DemoOptions {
   bool quiet = false;
 };
 
-using CommandOptions = std::variant<InfoOptions, InvertOptions, ConvertOptions, DemoOptions>;
+using CommandOptions =
+    std::variant<InfoOptions, PickOptions, InvertOptions, ConvertOptions, DemoOptions>;
 
 /// A command to run, or none and the exit code to leave with: help was printed on standard output,
 /// or what is wrong on standard error.

@@ -1,5 +1,7 @@
 #include "batch/ResultJson.h"
 
+#include "batch/ShotPicking.h"
+
 #include <nlohmann/json.hpp>
 
 namespace talvesk {
@@ -27,6 +29,25 @@ Json ofPicks(const Misfit& misfit, double value) {
 
 Json pointJson(const Point2D& point) {
   return Json::array({point.x, point.z});
+}
+
+Json stringsJson(const std::vector<std::vector<Point2D>>& strings) {
+  Json list = Json::array();
+  for (const auto& string : strings) {
+    Json points = Json::array();
+    for (const Point2D& point : string) points.push_back(pointJson(point));
+    list.push_back(std::move(points));
+  }
+  return list;
+}
+
+Json recordJson(const TravelTime& record) {
+  Json shot = Json::object();
+  shot["position"] = pointJson(record.shotPos2d);
+  shot["string"] = record.indexStesa;
+  shot["trace_set"] = record.traceSetID;
+  shot["times"] = record.ttMisurati;
+  return shot;
 }
 
 Json gridJson(const TomoDocument& document) {
@@ -96,33 +117,59 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
 }
 
 std::string travelTimesJson(const TravelTimeData& data) {
-  Json strings = Json::array();
-  for (const auto& string : data.strings) {
-    Json points = Json::array();
-    for (const Point2D& point : string) points.push_back(pointJson(point));
-    strings.push_back(std::move(points));
-  }
   Json shots = Json::array();
-  for (const TravelTime& record : data.records) {
-    Json shot = Json::object();
-    shot["position"] = pointJson(record.shotPos2d);
-    shot["string"] = record.indexStesa;
-    shot["trace_set"] = record.traceSetID;
-    shot["times"] = record.ttMisurati;
-    shots.push_back(std::move(shot));
-  }
+  for (const TravelTime& record : data.records) shots.push_back(recordJson(record));
   Json json = Json::object();
   json["format"] = data.format;
-  json["strings"] = std::move(strings);
+  json["strings"] = stringsJson(data.strings);
   json["shots"] = std::move(shots);
   return text(json) + "\n";
 }
 
-std::string unreadableJson(const std::string& file, const std::string& error) {
+std::string shotFileJson(const ShotFileData& data, bool samples) {
+  Json traces = Json::array();
+  for (const ShotRecord& record : data.traces) {
+    Json trace = Json::object();
+    trace["samples"] = record.samples.size();
+    trace["sample_interval"] = record.sampleInterval;
+    trace["source"] = pointJson(record.source);
+    trace["receiver"] = pointJson(record.receiver);
+    trace["delay"] = record.delay;
+    if (samples) trace["data"] = record.samples;
+    traces.push_back(std::move(trace));
+  }
+  Json json = Json::object();
+  json["format"] = data.format;
+  json["status"] = 0;
+  json["traces"] = std::move(traces);
+  return text(json) + "\n";
+}
+
+std::string unreadableJson(const std::string& file, const Status& status) {
   Json json = Json::object();
   json["file"] = file;
-  json["error"] = error;
+  json["status"] = status.code();
+  json["message"] = status.message();
   return text(json) + "\n";
+}
+
+std::string picksJson(const TomoDocument& document, const std::string& filter) {
+  Json shots = Json::array();
+  for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
+    const TravelTime& record = document.ttArray[i];
+    const TraceSet& traces = document.traceSets[i];
+    Json shot = recordJson(record);
+    shot["file"] = document.filenames[i];
+    shot["samples_before_shot"] = traces.empty() ? 0 : traces.front().droppedSamples;
+    shot["accepted"] = pickCount(record);
+    shot["rejected"] = record.ttMisurati.size() - pickCount(record);
+    shots.push_back(std::move(shot));
+  }
+  Json json = Json::object();
+  json["filter"] = filter;
+  json["strings"] = stringsJson(document.goephonesStringSet);
+  json["shots"] = std::move(shots);
+  return lineByLine(json) + "\n";
 }
 
 std::string jsonArray(const std::vector<std::string>& values) {

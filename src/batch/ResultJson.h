@@ -1,5 +1,6 @@
 #pragma once
 
+#include "io/ShotRecord.h"
 #include "io/TravelTimeFile.h"
 #include "model/TomoDocument.h"
 #include "tomo/TomographyRun.h"
@@ -21,8 +22,16 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
 /// Positions in metres, times in seconds.
 std::string travelTimesJson(const TravelTimeData& data);
 
+/// A shot file: positions in metres, intervals and delays in seconds.
+/// \param samples the samples of the traces, too, in the units of the file
+std::string shotFileJson(const ShotFileData& data, bool samples);
+
 /// Takes the place of a file that could not be read.
-std::string unreadableJson(const std::string& file, const std::string& error);
+std::string unreadableJson(const std::string& file, const Status& status);
+
+/// Positions and picks of a survey of shot files: the keys of travelTimesJson, and what became of
+/// the traces of each shot. \param filter what was picked on
+std::string picksJson(const TomoDocument& document, const std::string& filter);
 
 /// Texts of JSON values as one array.
 std::string jsonArray(const std::vector<std::string>& values);

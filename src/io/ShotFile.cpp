@@ -63,6 +63,10 @@ void announce(Format format, const std::string& path) {
 
 }  // namespace
 
+bool hasShotFileSuffix(const std::string& path) {
+  return formatOf(path) != Format::kNone;
+}
+
 Status parseShotFile(std::string_view bytes, const std::string& path, SegyState& state,
                      ShotFileData& data) {
   const Format format = formatOf(path);

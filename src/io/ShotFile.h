@@ -9,6 +9,9 @@
 
 namespace talvesk {
 
+/// Whether the suffix of a path, whatever its case, is one of a shot file.
+bool hasShotFileSuffix(const std::string& path);
+
 /// Reads one shot file, of a format that its suffix tells whatever its case: SEG-2 (seg2, dat,
 /// sg2), SEG-Y (sgy, segy) or SU (su). Memory stays below 64 MiB and 16 times the file.
 ///

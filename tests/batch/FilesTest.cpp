@@ -172,7 +172,8 @@ TEST(Files, oneUnreadableFileDoesNotHideTheOthers) {
   EXPECT_EQ(array[0], array[2]);
   EXPECT_EQ(array[0]["format"], "otte");
   EXPECT_EQ(array[1]["file"], folder / "none.xyz");
-  EXPECT_THAT(array[1]["error"].get<std::string>(), HasSubstr("none.xyz"));
+  EXPECT_EQ(array[1]["status"], 1);
+  EXPECT_THAT(array[1]["message"].get<std::string>(), HasSubstr("none.xyz"));
 }
 
 TEST(Files, infoForReadersCountsWhatIsThere) {

@@ -13,4 +13,8 @@ void prepareDrawing();
 Status drawSection(const TomoDocument& document, const InvertOptions& options,
                    const std::string& path);
 
+/// Draws the traces of all shots, as they were picked, and their picks: one file for a PDF or a
+/// single shot, else one per shot. \param filtered the filtered copies
+Status drawGathers(const TomoDocument& document, bool filtered, const std::string& path);
+
 }  // namespace talvesk

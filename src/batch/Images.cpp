@@ -1,6 +1,7 @@
-#include "batch/SectionImage.h"
+#include "batch/Images.h"
 
 #include "batch/Failure.h"
+#include "figures/GatherFigure.h"
 #include "figures/SectionFigure.h"
 
 #include <QApplication>
@@ -37,6 +38,13 @@ Status drawSection(const TomoDocument& document, const InvertOptions& options,
   figure.scene.rays = options.rays;
   figure.scene.equallySpacedContours = options.contours;
   return writeSectionFigure(document, figure, path);
+}
+
+Status drawGathers(const TomoDocument& document, bool filtered, const std::string& path) {
+  GatherFigureOptions figure;
+  figure.filtered = filtered;
+  std::vector<std::string> written;
+  return writeGatherFigures(document, figure, path, written);
 }
 
 }  // namespace talvesk

@@ -1,0 +1,75 @@
+#include "batch/OptionParsing.h"
+
+#include <algorithm>
+#include <cctype>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr std::size_t kNameColumn = 30;
+constexpr std::size_t kHelpColumns = 50;
+
+std::string wrapped(const std::string& text) {
+  std::string lines;
+  std::size_t lineLength = 0;
+  for (const std::string_view word : splitFields(text, ' ')) {
+    if (lineLength > 0 && lineLength + 1 + word.size() > kHelpColumns) {
+      lines += '\n';
+      lineLength = 0;
+    } else if (lineLength > 0) {
+      lines += ' ';
+      ++lineLength;
+    }
+    lines += word;
+    lineLength += word.size();
+  }
+  return lines;
+}
+
+bool endsWith(const std::string& text, std::string_view suffix, bool anyCase) {
+  if (text.size() <= suffix.size()) return false;
+  return std::equal(suffix.begin(), suffix.end(), text.end() - static_cast<long>(suffix.size()),
+                    [anyCase](char expected, char c) {
+                      return c == expected ||
+                             (anyCase && std::tolower(static_cast<unsigned char>(c)) == expected);
+                    });
+}
+
+/// ".png, .svg or .pdf"
+std::string listed(const std::vector<std::string>& words) {
+  std::string list;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (i > 0) list += i + 1 == words.size() ? " or " : ", ";
+    list += words[i];
+  }
+  return list;
+}
+
+}  // namespace
+
+CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,
+                     const std::string& help) {
+  return app.add_option(name, path, help)->type_name("FILE");
+}
+
+CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase) {
+  return option->check([suffixes = std::move(suffixes), anyCase](const std::string& path) {
+    for (const std::string& suffix : suffixes) {
+      if (endsWith(path, suffix, anyCase)) return std::string();
+    }
+    return "the name '" + path + "' must end in " + listed(suffixes);
+  });
+}
+
+void wrapHelp(CLI::App& app) {
+  app.get_formatter()->column_width(kNameColumn);
+  app.description(wrapped(app.get_description()));
+  for (CLI::Option* option : app.get_options()) {
+    option->description(wrapped(option->get_description()));
+    if (option->get_positional()) option->type_name("");
+  }
+  for (CLI::App* command : app.get_subcommands({})) wrapHelp(*command);
+}
+
+}  // namespace talvesk

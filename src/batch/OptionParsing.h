@@ -1,0 +1,70 @@
+#pragma once
+
+#include "base/TextNumber.h"
+
+#include <charconv>
+#include <cmath>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include <CLI/CLI.hpp>
+
+namespace talvesk {
+
+// What the commands' options have in common.
+
+template <typename T>
+struct Range {
+  T least;
+  T greatest;
+};
+
+/// The whole text as a number, or false. Neither "nan" nor "12 m" nor "0x10" is one.
+template <typename T>
+bool readWhole(std::string_view text, T& value) {
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  T read{};
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), read);
+  if (result.ec != std::errc{} || result.ptr != text.data() + text.size()) return false;
+  if (!std::isfinite(static_cast<double>(read))) return false;
+  value = read;
+  return true;
+}
+
+/// The number, or CLI::ValidationError that names the range. \param what for the message
+template <typename T>
+T numberWithin(const std::string& what, const std::string& text, Range<T> range) {
+  T value{};
+  if (readWhole(text, value) && value >= range.least && value <= range.greatest) return value;
+  const std::string kind = std::is_integral_v<T> ? "a whole number" : "a number";
+  throw CLI::ValidationError(what, "'" + text + "' is not " + kind + " from " +
+                                       formatDouble(static_cast<double>(range.least), 10) + " to " +
+                                       formatDouble(static_cast<double>(range.greatest), 10));
+}
+
+/// An option with one number; `assign` takes it once it is in range.
+template <typename T, typename Assign>
+CLI::Option* addNumber(CLI::App& app, const std::string& name, const std::string& unit,
+                       Range<T> range, const std::string& help, Assign assign) {
+  return app
+      .add_option_function<std::string>(
+          name,
+          [name, range, assign](const std::string& text) {
+            assign(numberWithin<T>(name, text, range));
+          },
+          help)
+      ->type_name(unit);
+}
+
+CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,
+                     const std::string& help);
+
+/// A path to write that must end in one of the suffixes (in lower case).
+/// \param anyCase whether ".PNG" ends in ".png"
+CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase);
+
+/// Breaks the help texts of a command and its subcommands into lines that fit a terminal.
+void wrapHelp(CLI::App& app);
+
+}  // namespace talvesk

@@ -1,0 +1,112 @@
+#include "batch/OptionGroups.h"
+#include "batch/OptionParsing.h"
+#include "io/GeometryFile.h"
+#include "processing/TraceFilters.h"
+
+#include <algorithm>
+
+namespace talvesk {
+namespace {
+
+constexpr const char* kGroup = "Shot files";
+
+PickFilter readFilter(const std::string& text) {
+  if (text == "none") return PickFilter::kNone;
+  if (text == "agc") return PickFilter::kAgc;
+  if (text == "hushel") return PickFilter::kHushel;
+  if (text == "band") return PickFilter::kBand;
+  throw CLI::ValidationError("--filter", "'" + text + "' is none of none, agc, hushel, band");
+}
+
+std::string readSeparator(const std::string& text) {
+  if (text == ";" || text == "," || text == " ") return text;
+  if (text == kBlankSeparator || text == "blank") return " ";
+  throw CLI::ValidationError("--separator", "'" + text + "' is none of ';', ',', ' '");
+}
+
+/// Cut-off and order of one end of the band.
+std::vector<CLI::Option*> addCorner(CLI::App& command, const std::string& name,
+                                    const std::string& help, std::optional<FilterCorner>& corner) {
+  CLI::Option* cutOff =
+      addNumber(command, name, "HZ", Range<double>{1e-6, 1e9}, help, [&corner](double hertz) {
+        if (!corner) corner.emplace();
+        corner->hertz = hertz;
+      });
+  CLI::Option* orderOption = addNumber(
+      command, name + "-order", "N", Range<int>{1, kMaxFilterOrder},
+      "Order of the Butterworth filter of " + name + " (default: 1)", [&corner](int value) {
+        if (!corner) corner.emplace();
+        corner->order = value;
+      });
+  orderOption->needs(cutOff);
+  return {cutOff, orderOption};
+}
+
+}  // namespace
+
+bool ShotOptionGroup::anyGiven() const {
+  return std::any_of(options.begin(), options.end(),
+                     [](const CLI::Option* option) { return option->count() > 0; });
+}
+
+void ShotOptionGroup::check(const ShotOptions& shots) const {
+  const bool corners = shots.band.low || shots.band.high;
+  if (shots.filter == PickFilter::kBand && !corners) {
+    throw CLI::ValidationError("--filter", "band needs --low, --high or both");
+  }
+  if (shots.filter != PickFilter::kBand && corners) {
+    throw CLI::ValidationError("--low and --high", "they go with --filter band");
+  }
+  const bool separatorGiven = options.back()->count() > 0;
+  if (separatorGiven && shots.geophones.empty() && shots.shots.empty()) {
+    throw CLI::ValidationError("--separator", "it goes with --geophones and --shots");
+  }
+}
+
+ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
+  ShotOptionGroup group;
+  const auto add = [&](CLI::Option* option) {
+    option->group(kGroup);
+    group.options.push_back(option);
+    return option;
+  };
+  add(command
+          .add_option_function<std::string>(
+              "--filter", [&](const std::string& text) { shots.filter = readFilter(text); },
+              "What to pick on: none, the samples as they are; agc, after automatic gain "
+              "control; hushel, 14 to 85 Hz; band, what --low and --high leave (default: none)")
+          ->type_name("TYPE"));
+  for (CLI::Option* option :
+       addCorner(command, "--low", "Low-pass: keep what is below this frequency", shots.band.low)) {
+    add(option);
+  }
+  for (CLI::Option* option : addCorner(
+           command, "--high", "High-pass: keep what is above this frequency", shots.band.high)) {
+    add(option);
+  }
+  add(command.add_flag("--as-recorded", shots.asRecorded,
+                       "Count time from the first sample of a record, also when recording began "
+                       "before the shot"));
+  add(addPath(command, "--geophones", shots.geophones,
+              "Positions of the geophones, a line 'x;z' (metres) per trace, instead of those "
+              "in the shot files; the same for all shots"));
+  add(addPath(command, "--shots", shots.shots,
+              "Positions of the shots, a line 'shot_id_...;x;z' (metres) per shot file, "
+              "instead of those in the shot files"));
+  add(command
+          .add_option_function<std::string>(
+              "--separator",
+              [&](const std::string& text) { shots.separator = readSeparator(text); },
+              "Separator of --geophones and --shots: ';', ',' or ' ' (default: ';')")
+          ->type_name("CHAR"));
+  return group;
+}
+
+CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
+                       const std::string& help) {
+  CLI::Option* image =
+      command.add_option("--image", images, help)->type_name("FILE")->allow_extra_args(false);
+  return mustEndIn(image, {".png", ".svg", ".pdf"}, true);
+}
+
+}  // namespace talvesk

@@ -1,0 +1,216 @@
+#include "batch/ShotPicking.h"
+
+#include "base/Console.h"
+#include "batch/Failure.h"
+#include "io/GeometryFile.h"
+#include "io/ShotLoader.h"
+#include "processing/FirstBreak.h"
+#include "processing/NoiseReduction.h"
+#include "processing/ShotFilters.h"
+#include "processing/ShotTime.h"
+
+#include <algorithm>
+#include <ostream>
+#include <vector>
+
+namespace talvesk {
+namespace {
+
+/// Keeps the console's information away while it lives: a line or three per trace is for those who
+/// look for something.
+class SilentConsole {
+ public:
+  explicit SilentConsole(bool silent) : mBefore(console::out()) {
+    if (silent) console::setOut(console::nowhere());
+  }
+  ~SilentConsole() { console::setOut(mBefore); }
+  SilentConsole(const SilentConsole&) = delete;
+  SilentConsole& operator=(const SilentConsole&) = delete;
+
+ private:
+  std::ostream& mBefore;
+};
+
+/// Every file that fails has its line; the last one is the status.
+Status load(const std::vector<std::string>& files, bool quiet, TomoDocument& document) {
+  ShotLoader loader;
+  Status status;
+  for (const ShotFileOutcome& outcome : loader.load(files, document)) {
+    if (!quiet) {
+      for (const std::string& warning : outcome.warnings) warn(outcome.path + ": " + warning);
+    }
+    if (outcome.status.ok()) continue;
+    if (!status.ok()) failed(status.message());
+    status = outcome.status;
+  }
+  return status;
+}
+
+Status readPositions(const std::string& path, const std::string& separator, bool labelled,
+                     std::vector<Point2D>& positions) {
+  GeometryRecords records;
+  Status status = labelled ? readLabelledRecords(path, separator, records)
+                           : readRecords(path, separator, records);
+  if (!status.ok()) return status;
+  status = positionsOf(records, positions);
+  return status.ok() ? status : Status::failure(path + ": " + status.message());
+}
+
+Status placeGeophones(const ShotOptions& options, TomoDocument& document) {
+  std::vector<Point2D> geophones;
+  Status status = readPositions(options.geophones, options.separator, false, geophones);
+  if (!status.ok()) return status;
+  for (std::size_t i = 0; i < document.traceSets.size(); ++i) {
+    TraceSet& traces = document.traceSets[i];
+    if (traces.size() != geophones.size()) {
+      return Status::failure(options.geophones + ": " + std::to_string(geophones.size()) +
+                             " geophones do not fit the " + std::to_string(traces.size()) +
+                             " traces of " + document.filenames[i]);
+    }
+    for (std::size_t t = 0; t < traces.size(); ++t) traces[t].receiverPosition = geophones[t];
+    document.ttArray[i].indexStesa = 0;
+  }
+  document.goephonesStringSet = {std::move(geophones)};
+  return {};
+}
+
+Status placeShots(const ShotOptions& options, TomoDocument& document) {
+  std::vector<Point2D> shots;
+  Status status = readPositions(options.shots, options.separator, true, shots);
+  if (!status.ok()) return status;
+  if (shots.size() != document.traceSets.size()) {
+    return Status::failure(options.shots + ": " + std::to_string(shots.size()) +
+                           " shots do not fit " + std::to_string(document.traceSets.size()) +
+                           " shot files");
+  }
+  for (std::size_t i = 0; i < shots.size(); ++i) {
+    for (Trace& trace : document.traceSets[i]) trace.sourcePosition = shots[i];
+    document.ttArray[i].shotPos2d = shots[i];
+    document.shotPositions[i] = shots[i].x;
+  }
+  return {};
+}
+
+/// The screening goes by distances, and without them removes every pick.
+void warnOfHeap(const TomoDocument& document) {
+  for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
+    const auto string = static_cast<std::size_t>(document.ttArray[i].indexStesa);
+    const std::vector<Point2D>& geophones = document.goephonesStringSet[string];
+    const bool apart = std::any_of(geophones.begin(), geophones.end(), [&](const Point2D& point) {
+      return point.x != geophones.front().x;
+    });
+    if (apart || geophones.size() < 2) continue;
+    warn(document.filenames[i] +
+         ": all receivers are at one place, so that no pick can be plausible; give their positions "
+         "with --geophones and --shots");
+  }
+}
+
+void startAtShot(const ShotOptions& options, const PickingManner& manner, TomoDocument& document) {
+  const auto early = [](const Trace& trace) { return trace.delay < 0.0; };
+  const bool anyEarly =
+      std::any_of(document.traceSets.begin(), document.traceSets.end(),
+                  [&](const TraceSet& set) { return std::any_of(set.begin(), set.end(), early); });
+  if (!anyEarly) return;
+  std::ostream& out = *manner.summary;
+  if (options.asRecorded) {
+    out << "Records start before the shot; times count from their first sample, as asked for.\n";
+    return;
+  }
+  const ShotTimeOutcome outcome = countTimeFromShot(document);
+  if (outcome.shortened > 0) {
+    out << "Records start before the shot: up to " << outcome.mostDropped
+        << " samples were left out of " << outcome.shortened
+        << " traces, and time counts from the shot.\n";
+  }
+  if (outcome.leftAsRecorded > 0 && !manner.quiet) {
+    warn(std::to_string(outcome.leftAsRecorded) +
+         " traces end before the shot, or their delay is no number of samples; their times count "
+         "from the first sample");
+  }
+}
+
+Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots, bool quiet,
+              TomoDocument& document) {
+  FilterOutcome outcome;
+  if (options.filter == PickFilter::kAgc) outcome = agcShots(document, shots);
+  if (options.filter == PickFilter::kHushel) outcome = reduceNoise(document, shots);
+  if (options.filter == PickFilter::kBand) {
+    outcome = bandFilterShots(document, shots, options.band);
+  }
+  if (outcome.failed == 0) return {};
+  if (outcome.filtered == 0) return outcome.status;
+  if (!quiet) {
+    warn(std::to_string(outcome.failed) + " of " +
+         std::to_string(outcome.failed + outcome.filtered) +
+         " traces cannot be filtered and are not picked; " + outcome.status.message());
+  }
+  return {};
+}
+
+void summarize(const ShotOptions& options, const TomoDocument& document, std::ostream& out) {
+  std::size_t traces = 0;
+  std::size_t picks = 0;
+  for (const TravelTime& record : document.ttArray) {
+    traces += record.ttMisurati.size();
+    picks += pickCount(record);
+  }
+  out << "Shots: " << document.ttArray.size() << ", traces: " << traces
+      << ", geophone strings: " << document.goephonesStringSet.size() << "\n"
+      << "Filter: " << nameOf(options.filter) << "\n"
+      << "Picks: " << picks << " accepted, " << traces - picks << " rejected" << std::endl;
+}
+
+}  // namespace
+
+Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
+                     TomoDocument& document) {
+  const SilentConsole console(!manner.verbose);
+  Status status = load(options.files, manner.quiet, document);
+  if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
+  if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
+  if (!status.ok()) return status;
+
+  std::vector<std::int32_t> shots;
+  for (std::size_t i = 0; i < document.traceSets.size(); ++i) {
+    if (!document.traceSets[i].empty()) shots.push_back(static_cast<std::int32_t>(i));
+  }
+  if (shots.empty()) return Status::failure("the shot files hold no traces");
+  if (!manner.quiet) warnOfHeap(document);
+  startAtShot(options, manner, document);
+  status = filter(options, shots, manner.quiet, document);
+  if (status.ok()) {
+    status = pickShots(document, shots, options.filter != PickFilter::kNone, manner.threads);
+  }
+  if (status.ok()) summarize(options, document, *manner.summary);
+  return status;
+}
+
+std::vector<std::string> filesOf(const ShotOptions& options) {
+  std::vector<std::string> files = options.files;
+  for (const std::string& geometry : {options.geophones, options.shots}) {
+    if (!geometry.empty()) files.push_back(geometry);
+  }
+  return files;
+}
+
+std::size_t pickCount(const TravelTime& record) {
+  return static_cast<std::size_t>(
+      std::count_if(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick));
+}
+
+std::string nameOf(PickFilter filter) {
+  switch (filter) {
+    case PickFilter::kAgc:
+      return "agc";
+    case PickFilter::kHushel:
+      return "hushel";
+    case PickFilter::kBand:
+      return "band";
+    case PickFilter::kNone:
+      break;
+  }
+  return "none";
+}
+
+}  // namespace talvesk

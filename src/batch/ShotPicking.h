@@ -1,0 +1,37 @@
+#pragma once
+
+#include "base/Status.h"
+#include "batch/Options.h"
+#include "model/TomoDocument.h"
+
+#include <cstddef>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace talvesk {
+
+/// How talvesk-batch goes about it, apart from the options of the shot files.
+struct PickingManner {
+  unsigned threads = 0;             ///< 0: as many as the machine has processors
+  bool quiet = false;               ///< no warnings
+  bool verbose = false;             ///< the readers and the picker tell the console what they do
+  std::ostream* summary = nullptr;  ///< what the user came to know
+};
+
+/// Loads shot files into an empty document, takes positions from geometry files, counts time from
+/// the shot, filters, picks every trace and screens every shot. One file that cannot be read, or
+/// geometry that does not fit the files, fails the whole: a survey with a shot missing would be
+/// another survey.
+Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
+                     TomoDocument& document);
+
+/// The shot files, then the geometry files.
+std::vector<std::string> filesOf(const ShotOptions& options);
+
+std::size_t pickCount(const TravelTime& record);
+
+/// "none", "agc", "hushel" or "band".
+std::string nameOf(PickFilter filter);
+
+}  // namespace talvesk
