@@ -1,0 +1,68 @@
+#include "app/Messages.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMessageBox>
+
+namespace talvesk {
+namespace {
+
+void show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& text,
+          const QString& details, const QString& textStyle = QString()) {
+  QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(details);
+  // The box offers no other way to style its text without its buttons.
+  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+    label->setStyleSheet(textStyle);
+  }
+  box.exec();
+}
+
+}  // namespace
+
+void showError(QWidget* parent, const QString& title, const QString& text, const QString& details) {
+  show(parent, QMessageBox::Critical, title, text, details,
+       QStringLiteral("color: red; font-size: 11px;"));
+}
+
+void showNote(QWidget* parent, const QString& title, const QString& text, const QString& details) {
+  show(parent, QMessageBox::Information, title, text, details);
+}
+
+bool askYesNo(QWidget* parent, const QString& title, const QString& text, const QString& details,
+              bool yesIsDefault) {
+  QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent);
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(details);
+  box.setDefaultButton(yesIsDefault ? QMessageBox::Yes : QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
+SaveAnswer askToSave(QWidget* parent) {
+  QMessageBox box(parent);
+  box.setIcon(QMessageBox::Question);
+  box.setWindowTitle(QCoreApplication::applicationName());
+  box.setText(QCoreApplication::translate("talvesk::Messages", "The document has been modified"));
+  box.setInformativeText(
+      QCoreApplication::translate("talvesk::Messages", "Do you want to save your changes?"));
+  box.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+  box.setDefaultButton(QMessageBox::Save);
+  switch (box.exec()) {
+    case QMessageBox::Save:
+      return SaveAnswer::kSave;
+    case QMessageBox::Discard:
+      return SaveAnswer::kDiscard;
+    default:
+      return SaveAnswer::kCancel;
+  }
+}
+
+QString shortList(const QStringList& lines, int limit) {
+  if (lines.size() <= limit) return lines.join(QLatin1Char('\n'));
+  const int rest = static_cast<int>(lines.size()) - limit;
+  return lines.mid(0, limit).join(QLatin1Char('\n')) + QLatin1Char('\n') +
+         QCoreApplication::translate("talvesk::Messages", "and %n more", nullptr, rest);
+}
+
+}  // namespace talvesk

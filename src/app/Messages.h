@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace talvesk {
+
+/// A box that tells of a failure: what happened in `text`, which file and why in `details`.
+void showError(QWidget* parent, const QString& title, const QString& text,
+               const QString& details = QString());
+
+/// A box for what the user should know although nothing went wrong.
+void showNote(QWidget* parent, const QString& title, const QString& text,
+              const QString& details = QString());
+
+/// The buttons Yes and No.
+bool askYesNo(QWidget* parent, const QString& title, const QString& text, const QString& details,
+              bool yesIsDefault);
+
+enum class SaveAnswer { kSave, kDiscard, kCancel };
+
+/// What to do with a survey that was changed and not saved.
+SaveAnswer askToSave(QWidget* parent);
+
+/// At most `limit` lines of a list; the rest as one line that counts it.
+QString shortList(const QStringList& lines, int limit = 8);
+
+}  // namespace talvesk

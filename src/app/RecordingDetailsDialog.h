@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDialog>
+#include <QStringList>
+#include <memory>
+#include <vector>
+
+namespace talvesk {
+
+namespace Ui {
+class RecordingDetailsDialog;
+}
+class TomoDocument;
+
+/// What is known of a shot file beside its traces.
+struct RecordingInfo {
+  QString format;        ///< "seg2", "segy", "su"; empty when not known
+  QStringList warnings;  ///< of its reader
+};
+
+/// Shows what the shot files of a survey hold: format, samples, interval, delay, positions and what
+/// the readers warned about.
+class RecordingDetailsDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// \param document outlives the dialog; \param files one per trace set; \param current trace set
+  /// to show first
+  RecordingDetailsDialog(const TomoDocument& document, std::vector<RecordingInfo> files,
+                         int current, QWidget* parent = nullptr);
+  ~RecordingDetailsDialog() override;
+
+ private:
+  void showSet(int index);
+  void fillTable(int index);
+
+  std::unique_ptr<Ui::RecordingDetailsDialog> mUi;
+  const TomoDocument& mDocument;
+  std::vector<RecordingInfo> mFiles;
+};
+
+}  // namespace talvesk

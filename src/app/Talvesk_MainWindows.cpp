@@ -1,0 +1,218 @@
+#include "app/Talvesk_MainWindows.h"
+
+#include "app/CommandIcons.h"
+#include "app/Messages.h"
+#include "app/SettingsDialog.h"
+#include "ui_Talvesk_MainWindows.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QSettings>
+#include <QUndoStack>
+
+namespace talvesk {
+namespace {
+
+/// Share of the width that the traces get; the travel times have the rest.
+constexpr double kTracesShare = 0.618;
+
+/// Where the window's place and tool bars are remembered, beside the settings.
+QString windowStateFile(const WorkingFolder& folder) {
+  return QString::fromStdString(folder.path) + QStringLiteral("Talvesk_window.ini");
+}
+
+}  // namespace
+
+Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
+    : QMainWindow(parent),
+      mUi(std::make_unique<Ui::Talvesk_MainWindows>()),
+      mFolder(WorkingFolder::ofUser()),
+      mSettings(mFolder.settings),
+      mHistory(mFolder.history) {
+  mUi->setupUi(this);
+  setCommandIcons(*this);
+  addShotChooser();
+  groupActions();
+  addKeys();
+  startLog();
+  loadSettings();
+  connectViews();
+  connectCommands();
+  mUi->showTracesWidget_2->hide();
+  mUi->tabWidget->setCurrentIndex(0);
+  retranslate();
+  restoreWindow();
+  documentChanged();
+}
+
+Talvesk_MainWindows::~Talvesk_MainWindows() = default;
+
+void Talvesk_MainWindows::startLog() {
+  mFolder.create();
+  mLog = Log(mFolder.log);
+  mLog.write("Application Start", 0);
+}
+
+void Talvesk_MainWindows::loadSettings() {
+  if (mSettings.load()) {
+    changeLanguage(mLanguages.indexOf(QString::fromStdString(mSettings.language)));
+    return;
+  }
+  SettingsDialog dialog(mLanguages.list(), mLanguages.current(), mSettings, this);
+  if (dialog.exec() == QDialog::Accepted) {
+    dialog.apply(mSettings);
+    if (dialog.languageIndex() != mLanguages.current()) changeLanguage(dialog.languageIndex());
+  }
+  saveSettings();
+}
+
+void Talvesk_MainWindows::changeLanguage(int index) {
+  if (index < 0) return;
+  if (mLanguages.use(index, mLog)) {
+    retranslate();
+    mSettings.language = mLanguages.list()[static_cast<std::size_t>(index)].code.toStdString();
+  }
+  saveSettings();
+}
+
+void Talvesk_MainWindows::saveSettings() {
+  if (const Status saved = mSettings.save(); !saved.ok()) mLog.write(saved.message(), 1);
+}
+
+void Talvesk_MainWindows::connectViews() {
+  for (editTravelTimesWidget* editor : editors()) {
+    editor->setDocument(&mDocument);
+    connect(editor, &editTravelTimesWidget::pick_added, this,
+            &Talvesk_MainWindows::enable_draw_travel_times);
+    connect(editor, &editTravelTimesWidget::pick_edited, this, &Talvesk_MainWindows::on_pickEdited);
+    connect(editor, &editTravelTimesWidget::mouse_moved, this, &Talvesk_MainWindows::on_mousemoved);
+    connect(editor, &editTravelTimesWidget::cursorMoved, this, &Talvesk_MainWindows::showCursor);
+  }
+  connect(mUi->showTracesWidget, &editTravelTimesWidget::viewChanged, this,
+          &Talvesk_MainWindows::refreshCommands);
+  connect(mUi->showTracesWidget, &editTravelTimesWidget::optionsChanged, this,
+          &Talvesk_MainWindows::refreshViewActions);
+  connect(mUi->showTracesWidget, &editTravelTimesWidget::toolChanged, this,
+          &Talvesk_MainWindows::refreshViewActions);
+  connect(mUi->showTracesWidget, &editTravelTimesWidget::shotEdited, this,
+          &Talvesk_MainWindows::showFile);
+  const QUndoStack* edits = mUi->showTracesWidget->undoStack();
+  connect(edits, &QUndoStack::canUndoChanged, mUi->actionUndo, &QAction::setEnabled);
+  connect(edits, &QUndoStack::canRedoChanged, mUi->actionRedo, &QAction::setEnabled);
+  mCursorLabel = new QLabel(this);
+  mUi->statusBar->addPermanentWidget(mCursorLabel);
+}
+
+void Talvesk_MainWindows::connectCommands() {
+  connect(mUi->showTravelTimeCB, &QCheckBox::clicked, this,
+          &Talvesk_MainWindows::update_show_traces);
+  connect(mUi->actionApply_Hushel, &QAction::triggered, this,
+          &Talvesk_MainWindows::on_actionAuto_improve_triggered);
+  connect(mUi->actionOpen_shot_files, &QAction::triggered, this,
+          &Talvesk_MainWindows::loadTraces_PWave);
+  connect(mShotChooser, QOverload<int>::of(&QComboBox::activated), this,
+          &Talvesk_MainWindows::showFile);
+}
+
+void Talvesk_MainWindows::addShotChooser() {
+  mShotChooser = new QComboBox(this);
+  mShotChooser->setObjectName(QStringLiteral("shotCBox"));
+  mShotChooser->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  mShotChooser->setMinimumContentsLength(12);
+  mUi->toolBar->insertWidget(mUi->actionNext_file, mShotChooser);
+}
+
+void Talvesk_MainWindows::groupActions() {
+  const std::vector<std::vector<QAction*>> groups = {
+      {mUi->actionGrid_view, mUi->actionSmooth_view},
+      {mUi->actionSmallGeo, mUi->actionNormalGeo, mUi->actionLargeGeo},
+      {mUi->actionTool_pick, mUi->actionTool_zoom, mUi->actionTool_pan, mUi->actionTool_ruler,
+       mUi->actionTool_select},
+      {mUi->actionSnap_none, mUi->actionSnap_onset, mUi->actionSnap_zero, mUi->actionSnap_peak}};
+  for (const std::vector<QAction*>& actions : groups) {
+    auto* group = new QActionGroup(this);
+    for (QAction* action : actions) group->addAction(action);
+  }
+}
+
+void Talvesk_MainWindows::addKeys() {
+  // The keypad arrows are missing on many keyboards.
+  mUi->actionNext_file->setShortcuts(
+      {mUi->actionNext_file->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Right)});
+  mUi->actionPrev_file->setShortcuts(
+      {mUi->actionPrev_file->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Left)});
+}
+
+std::array<editTravelTimesWidget*, 2> Talvesk_MainWindows::editors() const {
+  return {mUi->showTracesWidget, mUi->showTracesWidget_2};
+}
+
+void Talvesk_MainWindows::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (mLaidOut) return;
+  mLaidOut = true;
+  layOutSplitter();
+}
+
+void Talvesk_MainWindows::layOutSplitter() {
+  const int width = mUi->splitter->width();
+  const int left = static_cast<int>(kTracesShare * width);
+  mUi->splitter->setSizes({left, 0, width - left});
+}
+
+void Talvesk_MainWindows::restoreWindow() {
+  const QSettings state(windowStateFile(mFolder), QSettings::IniFormat);
+  restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray());
+  restoreState(state.value(QStringLiteral("toolBars")).toByteArray());
+}
+
+void Talvesk_MainWindows::saveWindow() {
+  QSettings state(windowStateFile(mFolder), QSettings::IniFormat);
+  state.setValue(QStringLiteral("geometry"), saveGeometry());
+  state.setValue(QStringLiteral("toolBars"), saveState());
+}
+
+void Talvesk_MainWindows::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::LanguageChange) retranslate();
+  QMainWindow::changeEvent(event);
+}
+
+void Talvesk_MainWindows::retranslate() {
+  mUi->retranslateUi(this);
+  mShotChooser->setAccessibleName(tr("Shot in view"));
+  mShotChooser->setToolTip(tr("The shot in view"));
+  refreshTitle();
+  refreshShotChooser();
+}
+
+void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
+  if (!mayLoseChanges()) {
+    event->ignore();
+    return;
+  }
+  saveWindow();
+  event->accept();
+}
+
+bool Talvesk_MainWindows::mayLoseChanges() {
+  if (!mDocument.modified) return true;
+  switch (askToSave(this)) {
+    case SaveAnswer::kSave:
+      return saveProject();
+    case SaveAnswer::kDiscard:
+      return true;
+    case SaveAnswer::kCancel:
+      return false;
+  }
+  return false;
+}
+
+void Talvesk_MainWindows::logSlot(const char* name) {
+  mLog.write(std::string("Talvesk_MainWindows::") + name, 0);
+}
+
+}  // namespace talvesk

@@ -1,0 +1,244 @@
+#pragma once
+
+#include "app/Languages.h"
+#include "base/History.h"
+#include "base/Log.h"
+#include "base/Settings.h"
+#include "base/WorkingFolder.h"
+#include "io/ShotLoader.h"
+#include "model/TomoDocument.h"
+
+#include <QMainWindow>
+#include <QStringList>
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QComboBox;
+class QLabel;
+
+namespace talvesk {
+
+namespace Ui {
+class Talvesk_MainWindows;
+}
+class SettingsDialog;
+class editTravelTimesWidget;
+enum class PickSnap;
+enum class TraceTool;
+struct FilterOutcome;
+struct TraceCursor;
+
+/// The one window of the program. It owns the survey, the log and the settings, asks what a command
+/// must ask, calls the room that does the work and shows the outcome. Its slots are spread over
+/// several files, menu by menu.
+class Talvesk_MainWindows : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// Creates the working folder, opens the log, reads the settings; asks for them at the first run.
+  explicit Talvesk_MainWindows(QWidget* parent = nullptr);
+  ~Talvesk_MainWindows() override;
+
+  /// Loads what the command line names or what was dropped: shot files, then travel-time files.
+  void openFiles(const QStringList& files);
+
+  TomoDocument& document() { return mDocument; }
+  const Settings& settings() const { return mSettings; }
+  int currentFile() const { return mCurrentFile; }  ///< record in view, -1 without one
+
+  /// Makes a record the current one; one that does not exist leaves none current.
+  void showFile(int index);
+
+ public slots:
+  /// Asks for shot files and adds them to the survey.
+  void loadTraces_PWave();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private slots:
+  // File, Export, KML
+  void on_actionNew_triggered();
+  void on_actionLoad_Project_triggered();
+  void on_actionSave_Project_triggered();
+  void on_actionSave_Project_As_triggered();
+  void on_actionLoad_TT_triggered();
+  void on_actionExport_TravelTimes_triggered();
+  void on_actionExit_triggered();
+  void on_actionSettings_triggered();
+  void on_actionExport_tomographic_data_triggered();
+  void on_actionGridded_Data_triggered();
+  void on_actionExportTomographic_profile_2_KML_triggered();
+  void on_actionExportSeismic_line_triggered();
+  void on_actionImages_triggered();
+  void on_actionScreenshot_triggered();
+  void on_actionPDF_triggered();
+  void on_actionODT_triggered();
+  // Project
+  void on_actionGeometry_triggered();
+  void on_actionSet_geography_coordinates_triggered();
+  void on_actionGrid_triggered();
+  void on_actionDefine_model_velocity_triggered();
+  void on_actionSet_title_triggered();
+  // Traces
+  void on_actionNext_file_triggered();
+  void on_actionPrev_file_triggered();
+  void on_actionUndo_triggered();
+  void on_actionRedo_triggered();
+  void on_actionFill_wiggle_triggered(bool checked);
+  void on_actionTwo_colors_triggered(bool checked);
+  void on_actionCut_horizontal_triggered(bool checked);
+  void on_actionZoom_in_triggered(bool checked);
+  void on_actionShow_filtered_triggered(bool checked);
+  void on_actionShow_all_traces_triggered(bool checked);
+  void on_actionRecording_details_triggered();
+  void on_actionConfirm_picks_triggered();
+  void on_actionRemove_picks_triggered();
+  void on_actionRemove_unconfirmed_triggered();
+  void on_actionBy_distance_triggered(bool checked);
+  void on_actionTrue_amplitudes_triggered(bool checked);
+  void on_actionAir_wave_triggered(bool checked);
+  void on_actionMagnifier_triggered(bool checked);
+  void on_actionGain_up_triggered();
+  void on_actionGain_down_triggered();
+  void on_actionSnap_none_triggered();
+  void on_actionSnap_onset_triggered();
+  void on_actionSnap_zero_triggered();
+  void on_actionSnap_peak_triggered();
+  void on_actionTool_pick_triggered();
+  void on_actionTool_zoom_triggered();
+  void on_actionTool_pan_triggered();
+  void on_actionTool_ruler_triggered();
+  void on_actionTool_select_triggered();
+  void on_actionFit_triggered();
+  void on_actionZoom_back_triggered();
+  void on_actionZoom_forward_triggered();
+  void on_show_filtered_cb_clicked(bool checked);
+  void on_showAllPicksCB_clicked(bool checked);
+  void on_showSimTT_CB_clicked(bool checked);
+  // Processing
+  void on_actionAutoPick_triggered();
+  void on_actionFilter_triggered();
+  void on_actionAGC_triggered();
+  void on_actionRun_tomography_inversion_triggered();
+  void on_actionApply_smoothing_triggered();
+  void on_actionRefraction_triggered();
+  // View
+  void on_actionShow_Tomographic_Profile_triggered();
+  void on_actionGrid_view_triggered();
+  void on_actionSmooth_view_triggered();
+  void on_actionShow_rays_triggered();
+  void on_actionShow_Contour_Lines_triggered();
+  void on_actionShow_Information_Density_Layer_triggered();
+  void on_actionVertical_Gradient_triggered();
+  void on_actionLaplacian_Gradient_triggered();
+  void on_actionShow_refraction_triggered();
+  void on_actionShow_scalarbar_triggered();
+  void on_actionShow_Grid_Lines_triggered();
+  void on_actionSmallGeo_triggered();
+  void on_actionNormalGeo_triggered();
+  void on_actionLargeGeo_triggered();
+  void on_actionShow_title_triggered();
+  void on_actionPalette_triggered();
+  void on_actionReset_View_triggered();
+  // Help
+  void on_actionUser_guide_triggered();
+  void on_actionHelp_triggered();
+  void on_actionAbout_triggered();
+
+ private:
+  // Connected by hand: no widget has these names.
+  void on_actionAuto_improve_triggered();
+  void enable_draw_travel_times();
+  void on_pickEdited();
+  void on_mousemoved(int trace);
+  void update_show_traces(bool onlyTraces);
+
+  /// What the window remembers of a shot beside the document.
+  struct ShotMemory {
+    bool filtered = false;      ///< a command made its filtered copy while it was current
+    bool showFiltered = false;  ///< its views show that copy
+    QString format;             ///< of its file
+    QStringList warnings;       ///< that the reader had about its file
+  };
+
+  // Start and end
+  void startLog();
+  void loadSettings();
+  void connectViews();
+  void connectCommands();
+  void addShotChooser();
+  void groupActions();
+  void addKeys();
+  void layOutSplitter();
+  void restoreWindow();
+  void saveWindow();
+  void retranslate();
+  bool mayLoseChanges();
+  bool saveProject();
+
+  // Loading
+  void loadShotFiles(const QStringList& files);
+  void reportShotFiles(const std::vector<ShotFileOutcome>& outcomes);
+  void askForShotTime(std::size_t firstSet);
+  void importTravelTimeFile(const QString& file);
+  QString historyFolder() const;
+  void saveHistoryOf(const QString& file);
+
+  // State
+  void changeLanguage(int index);
+  void clearDocument();
+  void documentChanged();
+  void documentModified();
+  void refreshTitle();
+  void refreshCommands();
+  void refreshShotChooser();
+  void refreshTraceOptions();
+  void refreshFilteredBox();
+  void setOption(bool Settings::*option, bool value);
+  void saveSettings();
+  void refreshViewActions();
+  void refreshTravelTimes();
+  void showTraceInPreview(int trace);
+  bool hasFilteredCopy(int shot) const;
+  template <typename Change>
+  void changeView(Change change);
+  void chooseSnap(PickSnap snap);
+  void chooseTool(TraceTool tool);
+  std::array<editTravelTimesWidget*, 2> editors() const;
+  void showCursor(const TraceCursor& cursor);
+
+  // Processing
+  std::vector<std::int32_t> shotsToProcess() const;
+  bool forEachShot(const std::vector<std::int32_t>& shots, const QString& text,
+                   const std::function<void(std::int32_t)>& work);
+  void makeFilteredCopies(const QString& text,
+                          const std::function<FilterOutcome(std::int32_t)>& filter);
+  void showFilteredCopies();
+
+  void logSlot(const char* name);
+  void openUserGuide();
+
+  std::unique_ptr<Ui::Talvesk_MainWindows> mUi;
+  WorkingFolder mFolder;
+  Log mLog;
+  Settings mSettings;
+  History mHistory;
+  Languages mLanguages;
+  ShotLoader mLoader;
+  TomoDocument mDocument;
+  std::vector<ShotMemory> mShots;  ///< one per trace set
+  int mCurrentFile = -1;
+  bool mLaidOut = false;
+  QComboBox* mShotChooser = nullptr;
+  QLabel* mCursorLabel = nullptr;
+};
+
+}  // namespace talvesk

@@ -1,0 +1,286 @@
+#include "app/Messages.h"
+#include "app/SettingsDialog.h"
+#include "app/Talvesk_MainWindows.h"
+#include "io/TravelTimeFile.h"
+#include "processing/ShotTime.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QProgressDialog>
+#include <QStatusBar>
+#include <QUrl>
+#include <algorithm>
+#include <iterator>
+
+namespace talvesk {
+namespace {
+
+constexpr int kUnsupportedFormat = 3;  ///< status of a shot file whose suffix no reader takes
+
+bool isTravelTimeFile(const QString& file) {
+  static const QStringList suffixes = {QStringLiteral("otte"), QStringLiteral("txt"),
+                                       QStringLiteral("xyz"), QStringLiteral("csv")};
+  return suffixes.contains(QFileInfo(file).suffix().toLower());
+}
+
+bool hasAnyPick(const TomoDocument& document) {
+  return std::any_of(
+      document.ttArray.begin(), document.ttArray.end(), [](const TravelTime& record) {
+        return std::any_of(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick);
+      });
+}
+
+}  // namespace
+
+void Talvesk_MainWindows::on_actionNew_triggered() {
+  logSlot(__func__);
+  if (!mayLoseChanges()) return;
+  clearDocument();
+  loadTraces_PWave();
+}
+
+QString Talvesk_MainWindows::historyFolder() const {
+  return QString::fromStdString(mHistory.readHistory());
+}
+
+void Talvesk_MainWindows::saveHistoryOf(const QString& file) {
+  mHistory.saveHistory(QFileInfo(file).absolutePath().toStdString());
+}
+
+void Talvesk_MainWindows::loadTraces_PWave() {
+  logSlot(__func__);
+  const QStringList files = QFileDialog::getOpenFileNames(
+      this, tr("Open Seismic Trace"), historyFolder(),
+      tr("SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;"
+         "All Files (*)"));
+  if (files.isEmpty()) return;
+  saveHistoryOf(files.front());
+  mLog.write("Loading " + std::to_string(files.size()) + " seismic files", 0);
+  loadShotFiles(files);
+}
+
+void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
+  const std::size_t before = mDocument.traceSets.size();
+  std::vector<ShotFileOutcome> outcomes;
+  QProgressDialog progress(tr("Loading shot files ..."), tr("Stop"), 0,
+                           static_cast<int>(files.size()), this);
+  progress.setWindowModality(Qt::WindowModal);
+  for (const QString& file : files) {
+    progress.setValue(static_cast<int>(outcomes.size()));
+    if (progress.wasCanceled()) break;
+    const std::vector<ShotFileOutcome> one = mLoader.load({file.toStdString()}, mDocument);
+    outcomes.insert(outcomes.end(), one.begin(), one.end());
+    if (!one.front().status.ok()) continue;
+    ShotMemory& memory = mShots.emplace_back();
+    memory.format = QString::fromStdString(one.front().format);
+    for (const std::string& warning : one.front().warnings) {
+      memory.warnings << QString::fromStdString(warning);
+    }
+  }
+  progress.reset();
+  documentChanged();
+  if (mDocument.traceSets.size() > before) showFile(static_cast<int>(before));
+  reportShotFiles(outcomes);
+  askForShotTime(before);
+}
+
+void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& outcomes) {
+  QStringList unsupported;
+  QStringList broken;
+  int warned = 0;
+  for (const ShotFileOutcome& outcome : outcomes) {
+    if (!outcome.warnings.empty()) ++warned;
+    if (outcome.status.ok()) continue;
+    mLog.write(outcome.status.message(), 1);
+    const QString message = QString::fromStdString(outcome.status.message());
+    (outcome.status.code() == kUnsupportedFormat ? unsupported : broken) << message;
+  }
+  const QString title = tr("Error occured");
+  if (!unsupported.isEmpty()) {
+    showError(this, title, tr("Unsupported file format."), shortList(unsupported));
+  }
+  if (!broken.isEmpty()) {
+    showError(this, title, tr("Error while loading one or more traces."), shortList(broken));
+  }
+  const int loaded = static_cast<int>(outcomes.size()) - static_cast<int>(unsupported.size()) -
+                     static_cast<int>(broken.size());
+  QString text = tr("%n shot file(s) loaded.", nullptr, loaded);
+  if (warned > 0) {
+    text +=
+        QLatin1Char(' ') + tr("%n with warnings, see Traces > Recording details.", nullptr, warned);
+  }
+  statusBar()->showMessage(text, 10000);
+}
+
+void Talvesk_MainWindows::askForShotTime(std::size_t firstSet) {
+  double longest = 0.0;
+  for (std::size_t set = firstSet; set < mDocument.traceSets.size(); ++set) {
+    for (const Trace& trace : mDocument.traceSets[set]) longest = std::min(longest, trace.delay);
+  }
+  if (longest >= 0.0) return;
+  const bool yes = askYesNo(
+      this, tr("Recording delay"),
+      tr("The records start before the shot, by up to %1 ms.").arg(-1000.0 * longest),
+      tr("Do you want to count times from the shot? What was recorded before it is then dropped."),
+      true);
+  if (!yes) return;
+  // Only the new records: picks on the older ones count from where those start now.
+  TomoDocument fresh;
+  const auto first = mDocument.traceSets.begin() + static_cast<std::ptrdiff_t>(firstSet);
+  std::move(first, mDocument.traceSets.end(), std::back_inserter(fresh.traceSets));
+  const ShotTimeOutcome outcome = countTimeFromShot(fresh);
+  std::move(fresh.traceSets.begin(), fresh.traceSets.end(), first);
+  documentChanged();
+  if (outcome.leftAsRecorded > 0) {
+    showNote(this, tr("Recording delay"),
+             tr("%n trace(s) end before the shot and stay as recorded.", nullptr,
+                static_cast<int>(outcome.leftAsRecorded)));
+  }
+}
+
+void Talvesk_MainWindows::on_actionLoad_TT_triggered() {
+  logSlot(__func__);
+  const QString file = QFileDialog::getOpenFileName(
+      this, tr("Import TravelTimes"), historyFolder(),
+      tr("Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)"));
+  if (file.isEmpty()) return;
+  saveHistoryOf(file);
+  importTravelTimeFile(file);
+}
+
+void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
+  // An import replaces the picks at least.
+  if (hasAnyPick(mDocument) && !mayLoseChanges()) return;
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  TravelTimeData read;
+  Status status = readTravelTimes(file.toStdString(), read);
+  const std::vector<std::string> warnings = read.warnings;
+  if (status.ok()) status = importTravelTimes(std::move(read), mDocument);
+  QApplication::restoreOverrideCursor();
+  if (!status.ok()) {
+    mLog.write(status.message(), 1);
+    showError(this, tr("Error occured"),
+              tr("Error while loading %1.").arg(QFileInfo(file).fileName()),
+              QString::fromStdString(status.message()));
+    return;
+  }
+  for (editTravelTimesWidget* editor : editors()) editor->picksReplaced();
+  documentChanged();
+  showFile(mCurrentFile < 0 ? 0 : mCurrentFile);
+  QStringList lines;
+  for (const std::string& warning : warnings) lines << QString::fromStdString(warning);
+  if (!lines.isEmpty()) {
+    showNote(this, tr("Warning"),
+             tr("%1 was loaded with warnings.").arg(QFileInfo(file).fileName()), shortList(lines));
+  }
+}
+
+void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
+  logSlot(__func__);
+  QFileDialog dialog(this, tr("Save TravelTimeExchange"), historyFolder(),
+                     tr("Open Travel Time Exchange format (*.otte);;All Files (*)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setDefaultSuffix(QStringLiteral("otte"));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+  const QString file = dialog.selectedFiles().front();
+  if (const Status status = writeTravelTimes(file.toStdString(), mDocument); !status.ok()) {
+    mLog.write(status.message(), 1);
+    showError(this, tr("Error occured"), tr("The travel times have not been saved."),
+              QString::fromStdString(status.message()));
+    return;
+  }
+  statusBar()->showMessage(tr("Travel times saved in %1").arg(file), 10000);
+}
+
+void Talvesk_MainWindows::openFiles(const QStringList& files) {
+  QStringList shots;
+  QStringList travelTimes;
+  for (const QString& file : files) (isTravelTimeFile(file) ? travelTimes : shots) << file;
+  if (!shots.isEmpty()) loadShotFiles(shots);
+  for (const QString& file : travelTimes) importTravelTimeFile(file);
+}
+
+void Talvesk_MainWindows::dragEnterEvent(QDragEnterEvent* event) {
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); })) {
+    event->acceptProposedAction();
+  }
+}
+
+void Talvesk_MainWindows::dropEvent(QDropEvent* event) {
+  QStringList files;
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) files << url.toLocalFile();
+  }
+  event->acceptProposedAction();
+  // The program that the files come from waits for the end of the drop, and loading may ask.
+  QMetaObject::invokeMethod(
+      this, [this, files] { openFiles(files); }, Qt::QueuedConnection);
+}
+
+void Talvesk_MainWindows::on_actionSettings_triggered() {
+  logSlot(__func__);
+  SettingsDialog dialog(mLanguages.list(), mLanguages.current(), mSettings, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  dialog.apply(mSettings);
+  refreshTraceOptions();
+  if (dialog.languageIndex() != mLanguages.current()) {
+    changeLanguage(dialog.languageIndex());
+  } else {
+    saveSettings();
+  }
+}
+
+void Talvesk_MainWindows::on_actionExit_triggered() {
+  logSlot(__func__);
+  close();
+}
+
+bool Talvesk_MainWindows::saveProject() {
+  showNote(this, QApplication::applicationName(), tr("Projects cannot be saved yet."),
+           tr("To keep the picks, use File > Export > Export TravelTimes..."));
+  return false;
+}
+
+void Talvesk_MainWindows::on_actionSave_Project_triggered() {
+  logSlot(__func__);
+  saveProject();
+}
+
+void Talvesk_MainWindows::on_actionSave_Project_As_triggered() {
+  logSlot(__func__);
+}
+void Talvesk_MainWindows::on_actionLoad_Project_triggered() {
+  logSlot(__func__);
+}
+void Talvesk_MainWindows::on_actionExport_tomographic_data_triggered() {
+  logSlot(__func__);
+}
+void Talvesk_MainWindows::on_actionGridded_Data_triggered() {
+  logSlot(__func__);
+}
+void Talvesk_MainWindows::on_actionExportTomographic_profile_2_KML_triggered() {
+  logSlot(__func__);
+}
+void Talvesk_MainWindows::on_actionExportSeismic_line_triggered() {
+  logSlot(__func__);
+}
+void Talvesk_MainWindows::on_actionImages_triggered() {
+  logSlot(__func__);
+}
+void Talvesk_MainWindows::on_actionScreenshot_triggered() {
+  logSlot(__func__);
+}
+void Talvesk_MainWindows::on_actionPDF_triggered() {
+  logSlot(__func__);
+}
+void Talvesk_MainWindows::on_actionODT_triggered() {
+  logSlot(__func__);
+}
+
+}  // namespace talvesk

@@ -1,0 +1,46 @@
+#include "app/HelpTargets.h"
+#include "app/Messages.h"
+#include "app/Talvesk_MainWindows.h"
+
+#include <QDesktopServices>
+#include <QMessageBox>
+
+namespace talvesk {
+
+void Talvesk_MainWindows::openUserGuide() {
+  const QString guide = userGuidePath(QString::fromStdString(mSettings.language));
+  if (guide.isEmpty()) {
+    showError(this, tr("User guide"), tr("The user guide is not where it was installed."),
+              tr("Install Talvesk again to get it back."));
+  } else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(guide))) {
+    showNote(this, tr("User guide"), tr("No program to show the user guide was found."),
+             tr("You find it in %1").arg(guide));
+  }
+}
+
+void Talvesk_MainWindows::on_actionUser_guide_triggered() {
+  logSlot(__func__);
+  openUserGuide();
+}
+
+void Talvesk_MainWindows::on_actionHelp_triggered() {
+  logSlot(__func__);
+  const QUrl address(QString::fromLatin1(kOnlineHelpAddress));
+  whenHostIsKnown(address, this, [this, address](bool known) {
+    if (!known || !QDesktopServices::openUrl(address)) openUserGuide();
+  });
+}
+
+void Talvesk_MainWindows::on_actionAbout_triggered() {
+  logSlot(__func__);
+  const QString text =
+      tr("<h2>Talvesk 2022.0</h2>"
+         "<p>Seismic refraction surveys: from field records to velocity sections.</p>"
+         "<p>Talvesk is free software under the MIT licence, without any warranty.</p>"
+         "<p>It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), "
+         "Eigen (MPL 2) and cereal (BSD).</p>")
+          .arg(QString::fromLatin1(qVersion()));
+  QMessageBox::about(this, tr("About"), text);
+}
+
+}  // namespace talvesk

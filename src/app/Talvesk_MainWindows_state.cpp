@@ -1,0 +1,201 @@
+#include "app/Talvesk_MainWindows.h"
+#include "ui_Talvesk_MainWindows.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLocale>
+#include <QUndoStack>
+#include <algorithm>
+
+// What the window shows follows the document and the settings through the functions of this file.
+
+namespace talvesk {
+
+bool Talvesk_MainWindows::hasFilteredCopy(int shot) const {
+  if (shot < 0 || static_cast<std::size_t>(shot) >= mDocument.traceSets.size()) return false;
+  const TraceSet& traces = mDocument.traceSets[static_cast<std::size_t>(shot)];
+  return std::any_of(traces.begin(), traces.end(),
+                     [](const Trace& trace) { return !trace.filtered.empty(); });
+}
+
+void Talvesk_MainWindows::clearDocument() {
+  mDocument = TomoDocument();
+  mShots.clear();
+  mCurrentFile = -1;
+  for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
+  documentChanged();
+}
+
+void Talvesk_MainWindows::documentChanged() {
+  mShots.resize(mDocument.traceSets.size());
+  const int count = static_cast<int>(mDocument.ttArray.size());
+  if (mCurrentFile >= count) mCurrentFile = count - 1;
+  for (editTravelTimesWidget* editor : editors()) editor->documentChanged();
+  mUi->tracesStack->setCurrentWidget(count == 0 ? mUi->emptyPage
+                                                : static_cast<QWidget*>(mUi->splitter));
+  refreshTravelTimes();
+  refreshShotChooser();
+  refreshTraceOptions();
+  refreshTitle();
+}
+
+void Talvesk_MainWindows::documentModified() {
+  mDocument.modified = true;
+  refreshTitle();
+  refreshCommands();
+}
+
+void Talvesk_MainWindows::showFile(int index) {
+  const int count = static_cast<int>(mDocument.ttArray.size());
+  mCurrentFile = index >= 0 && index < count ? index : -1;
+  for (editTravelTimesWidget* editor : editors()) editor->setShot(mCurrentFile);
+  mShotChooser->setCurrentIndex(mCurrentFile);
+  refreshTraceOptions();
+  refreshTravelTimes();
+}
+
+void Talvesk_MainWindows::refreshTitle() {
+  QString title = tr("Talvesk 2022.0") + QStringLiteral("[*]");
+  if (!mDocument.title.empty()) {
+    // Two markers are how Qt writes one that is not its own.
+    title += QStringLiteral(" - ") + QString::fromStdString(mDocument.title)
+                                         .replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+  }
+  setWindowTitle(title);
+  setWindowModified(mDocument.modified);
+}
+
+void Talvesk_MainWindows::refreshShotChooser() {
+  mShotChooser->clear();
+  const QLocale locale;
+  for (std::size_t i = 0; i < mDocument.ttArray.size(); ++i) {
+    const TravelTime& record = mDocument.ttArray[i];
+    const QString place = tr("%1 m").arg(locale.toString(record.shotPos2d.x, 'f', 1));
+    const auto number = static_cast<int>(i + 1);
+    const QString text =
+        i < mDocument.filenames.size()
+            ? tr("%1: %2 at %3", "shot number, file, place")
+                  .arg(number)
+                  .arg(QFileInfo(QString::fromStdString(mDocument.filenames[i])).fileName(), place)
+            : tr("%1: at %2", "shot number, place").arg(number).arg(place);
+    mShotChooser->addItem(text);
+  }
+  mShotChooser->setCurrentIndex(mCurrentFile);
+}
+
+void Talvesk_MainWindows::refreshTraceOptions() {
+  const bool hasCopy = hasFilteredCopy(mCurrentFile);
+  mUi->show_filtered_cb->setEnabled(hasCopy);
+  mUi->show_filtered_cb->setChecked(hasCopy && mSettings.showFiltered);
+  for (editTravelTimesWidget* editor : editors()) {
+    TraceViewOptions view = editor->options();
+    view.fillWiggle = mSettings.fillWiggle;
+    view.zoomIn = mSettings.zoomIn;
+    view.cutHorizontal = mSettings.cutHorizontal;
+    view.showFiltered = mSettings.showFiltered;
+    view.showAllTraces = mSettings.showAllTraces;
+    view.twoColors = mSettings.twoColors;
+    editor->setOptions(view);
+  }
+  mUi->actionFill_wiggle->setChecked(mSettings.fillWiggle);
+  mUi->actionZoom_in->setChecked(mSettings.zoomIn);
+  mUi->actionCut_horizontal->setChecked(mSettings.cutHorizontal);
+  mUi->actionShow_filtered->setChecked(mSettings.showFiltered);
+  mUi->actionShow_all_traces->setChecked(mSettings.showAllTraces);
+  mUi->actionTwo_colors->setChecked(mSettings.twoColors);
+  refreshViewActions();
+  refreshCommands();
+}
+
+void Talvesk_MainWindows::refreshViewActions() {
+  const TraceViewOptions& view = mUi->showTracesWidget->options();
+  mUi->actionBy_distance->setChecked(view.byDistance);
+  mUi->actionTrue_amplitudes->setChecked(view.normalise == TraceNormalise::WholeShot);
+  mUi->actionAir_wave->setChecked(view.airWave);
+  mUi->actionMagnifier->setChecked(view.magnifier);
+  QAction* const snaps[] = {mUi->actionSnap_none, mUi->actionSnap_onset, mUi->actionSnap_zero,
+                            mUi->actionSnap_peak};
+  snaps[static_cast<int>(view.snap)]->setChecked(true);
+  QAction* const tools[] = {mUi->actionTool_pick, mUi->actionTool_zoom, mUi->actionTool_pan,
+                            mUi->actionTool_ruler, mUi->actionTool_select};
+  tools[static_cast<int>(mUi->showTracesWidget->tool())]->setChecked(true);
+}
+
+void Talvesk_MainWindows::refreshCommands() {
+  const bool records = !mDocument.ttArray.empty();
+  const bool traces = !mDocument.traceSets.empty();
+  const bool shotInView = traces && mCurrentFile >= 0;
+  const bool computed = mDocument.hasTomographicInfo;
+  const QUndoStack& edits = *mUi->showTracesWidget->undoStack();
+
+  const std::pair<QAction*, bool> states[] = {
+      {mUi->actionExport_TravelTimes, records},
+      {mUi->actionNext_file, records},
+      {mUi->actionPrev_file, records},
+      {mUi->actionRecording_details, traces},
+      {mUi->actionAutoPick, shotInView},
+      {mUi->actionFilter, false},
+      {mUi->actionAGC, shotInView},
+      {mUi->actionApply_Hushel, shotInView},
+      {mUi->actionConfirm_picks, shotInView},
+      {mUi->actionRemove_picks, shotInView},
+      {mUi->actionRemove_unconfirmed, shotInView},
+      {mUi->actionFit, shotInView},
+      {mUi->actionZoom_back, shotInView && mUi->showTracesWidget->canZoomBack()},
+      {mUi->actionZoom_forward, shotInView && mUi->showTracesWidget->canZoomForward()},
+      {mUi->actionUndo, edits.canUndo()},
+      {mUi->actionRedo, edits.canRedo()},
+  };
+  for (const auto& [action, enabled] : states) action->setEnabled(enabled);
+  mShotChooser->setEnabled(records);
+  mUi->showAllPicksCB->setEnabled(records);
+  mUi->showTravelTimeCB->setEnabled(records);
+  mUi->showSimTT_CB->setEnabled(computed);
+
+  // What follows waits for the rooms that do the work.
+  QAction* const waiting[] = {mUi->actionLoad_Project,
+                              mUi->actionSave_Project,
+                              mUi->actionSave_Project_As,
+                              mUi->actionExport_tomographic_data,
+                              mUi->actionGridded_Data,
+                              mUi->actionExportTomographic_profile_2_KML,
+                              mUi->actionExportSeismic_line,
+                              mUi->actionImages,
+                              mUi->actionScreenshot,
+                              mUi->actionPDF,
+                              mUi->actionODT,
+                              mUi->actionGeometry,
+                              mUi->actionSet_geography_coordinates,
+                              mUi->actionGrid,
+                              mUi->actionDefine_model_velocity,
+                              mUi->actionRun_tomography_inversion,
+                              mUi->actionApply_smoothing,
+                              mUi->actionRefraction,
+                              mUi->actionShow_Tomographic_Profile,
+                              mUi->actionGrid_view,
+                              mUi->actionSmooth_view,
+                              mUi->actionShow_rays,
+                              mUi->actionShow_Contour_Lines,
+                              mUi->actionShow_Information_Density_Layer,
+                              mUi->actionVertical_Gradient,
+                              mUi->actionLaplacian_Gradient,
+                              mUi->actionShow_refraction,
+                              mUi->actionShow_scalarbar,
+                              mUi->actionShow_Grid_Lines,
+                              mUi->actionSmallGeo,
+                              mUi->actionNormalGeo,
+                              mUi->actionLargeGeo,
+                              mUi->actionShow_title,
+                              mUi->actionPalette,
+                              mUi->actionReset_View};
+  for (QAction* action : waiting) action->setEnabled(false);
+}
+
+// --- The travel-time views
+
+void Talvesk_MainWindows::refreshTravelTimes() {}
+
+void Talvesk_MainWindows::showTraceInPreview(int) {}
+
+}  // namespace talvesk

@@ -1,0 +1,56 @@
+#include "app/LineIcon.h"
+#include "app/StartOptions.h"
+#include "app/Talvesk_MainWindows.h"
+
+#include <QApplication>
+#include <QSplashScreen>
+#include <QTextCodec>
+#include <QTimer>
+#include <cstdio>
+
+namespace {
+
+/// Help and version need no display, so they come before the application object.
+bool asksForText(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QString::fromUtf8(argv[i]);
+  const talvesk::StartOptions options = talvesk::parseStartOptions(arguments);
+  if (options.action != talvesk::StartOptions::Action::kPrintAndLeave) return false;
+  std::fputs(options.text.toUtf8().constData(), stdout);
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+  if (asksForText(argc, argv)) return 0;
+  // The surface format of the section view becomes the default here, before the application object
+  // exists, as soon as there is a section view.
+  QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+  QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  QApplication::setHighDpiScaleFactorRoundingPolicy(
+      Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Talvesk"));
+  QApplication::setApplicationVersion(QStringLiteral("2022.0"));
+  // Qt has taken its own options away by now.
+  const talvesk::StartOptions options =
+      talvesk::parseStartOptions(QApplication::arguments().mid(1));
+  if (options.action == talvesk::StartOptions::Action::kRefuse) {
+    std::fputs(options.text.toUtf8().constData(), stderr);
+    return 2;
+  }
+
+  QSplashScreen splash(
+      talvesk::picture(QStringLiteral(":/splash20220"), application.devicePixelRatio()));
+  splash.show();
+  QApplication::setWindowIcon(talvesk::pictureIcon(QStringLiteral("://icons/iconaTalvesk128.png")));
+  talvesk::Talvesk_MainWindows window;
+  window.show();
+  splash.finish(&window);
+  if (!options.files.isEmpty()) {
+    QTimer::singleShot(0, &window, [&] { window.openFiles(options.files); });
+  }
+  return QApplication::exec();
+}
