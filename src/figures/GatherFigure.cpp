@@ -69,7 +69,7 @@ GatherPlot::GatherPlot(GatherScene scene, const GatherFigureOptions& options)
     mPlot.add(section_items::markers({{*mScene.shotX, top}}, QStringLiteral("Shot"),
                                      section_items::Marker::kShot));
   }
-  if (mOptions.picks) mPlot.add(gather_items::picks(mScene, toColor(mOptions.pickColor)));
+  if (mScene.hasPicks) mPlot.add(gather_items::picks(mScene, toColor(mOptions.pickColor)));
 }
 
 void GatherPlot::setScales(double width, double height) {

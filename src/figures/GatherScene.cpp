@@ -159,7 +159,7 @@ std::string countOf(std::size_t count, const std::string& noun) {
 }
 
 std::string titleOf(const TomoDocument& document, std::size_t shot, const TravelTime* record,
-                    const GatherFigureOptions& options) {
+                    bool receiversKnown, const GatherFigureOptions& options) {
   std::string title = options.title;
   if (title.empty() && shot < document.filenames.size()) {
     title = document.filenames[shot];
@@ -169,29 +169,41 @@ std::string titleOf(const TomoDocument& document, std::size_t shot, const Travel
   title += "Shot " + std::to_string(shot + 1);
   const std::size_t count = document.traceSets.size();
   if (count > 1) title += " of " + std::to_string(count);
-  if (record != nullptr && isPosition(record->shotPos2d.x)) {
+  // Where nothing else has a position, 0 is what stands for none.
+  if (record != nullptr && isPosition(record->shotPos2d.x) &&
+      (receiversKnown || record->shotPos2d.x != 0.0)) {
     title += " at " + valueText(record->shotPos2d.x, 0.1) + " m";
   }
   return title;
 }
 
-/// What the picture was made from, and what of it is not to be seen.
-class Caption {
- public:
-  void add(const std::string& part) {
-    if (!mText.empty()) mText += "   \xC2\xB7   ";
-    mText += part;
-  }
-  const std::string& text() const { return mText; }
-
- private:
-  std::string mText;
+/// What became of the traces of a shot.
+struct Counts {
+  std::size_t looked = 0;
+  std::size_t drawn = 0;
+  std::size_t filtered = 0;
+  std::size_t picks = 0;
+  std::size_t hiddenPicks = 0;
 };
 
-std::string swingsText(const GatherFigureOptions& options) {
-  return std::string(options.scaling == GatherScaling::kEachTrace ? "Each trace" : "All traces") +
-         " to " + (options.scaling == GatherScaling::kEachTrace ? "its own" : "one") +
-         " maximum, gain " + formatDouble(options.gain, 3);
+std::string captionOf(const Counts& counts, std::size_t step, const GatherFigureOptions& options) {
+  std::string text = countOf(counts.drawn, "trace");
+  if (counts.filtered > 0) {
+    text += counts.filtered == counts.drawn ? ", filtered" : ", some filtered";
+  }
+  const auto add = [&text](const std::string& part) { text += "   \xC2\xB7   " + part; };
+  if (step > 1) add("One of every " + std::to_string(step) + " is drawn");
+  if (counts.drawn < counts.looked) {
+    add(std::to_string(counts.looked - counts.drawn) + " without samples or sample interval");
+  }
+  const bool own = options.scaling == GatherScaling::kEachTrace;
+  add((own ? "Each trace to its own maximum, gain " : "All traces to one maximum, gain ") +
+      formatDouble(options.gain, 3));
+  if (options.picks) add(counts.picks == 0 ? "no picks" : countOf(counts.picks, "pick"));
+  if (counts.hiddenPicks > 0) {
+    add(countOf(counts.hiddenPicks, "pick") + " outside the times shown");
+  }
+  return text;
 }
 
 void setAxis(const std::vector<double>& positions, const TravelTime* record, GatherScene& scene) {
@@ -211,28 +223,41 @@ void setAxis(const std::vector<double>& positions, const TravelTime* record, Gat
   scene.high = std::max(scene.high, x);
 }
 
-/// One trace; false when there is nothing to draw. \param hidden counts picks out of the window
-bool addTrace(const TraceSet& set, std::size_t channel, double x, const TravelTime* record,
-              const GatherFigureOptions& options, GatherScene& scene, std::size_t& hidden) {
+/// Adds a trace unless there is nothing of it to draw.
+void addTrace(const TraceSet& set, std::size_t channel, double x, const TravelTime* record,
+              const GatherFigureOptions& options, GatherScene& scene, Counts& counts) {
   const Trace& source = set[channel];
   GatherTrace trace;
   trace.channel = channel;
   trace.x = x;
+  ++counts.looked;
   if (options.picks && record != nullptr && channel < record->ttMisurati.size() &&
       isDrawableTime(record->ttMisurati[channel])) {
     const double ms = 1e3 * record->ttMisurati[channel];
     const bool inside = ms >= scene.window.beginMs && ms <= scene.window.endMs;
     if (inside) trace.pickMs = ms;
-    hidden += inside ? 0 : 1;
+    ++(inside ? counts.picks : counts.hiddenPicks);
   }
-  trace.samples = options.filtered && !source.filtered.empty() ? &source.filtered : &source.samples;
-  const bool drawn = !trace.samples->empty() && hasInterval(source);
-  if (drawn) {
+  const bool filtered = options.filtered && !source.filtered.empty();
+  trace.samples = filtered ? &source.filtered : &source.samples;
+  if (!trace.samples->empty() && hasInterval(source)) {
     trace.intervalMs = 1e3 * source.sampleInterval;
     measure(trace, scene.window);
+    ++counts.drawn;
+    counts.filtered += filtered ? 1 : 0;
+  } else if (!trace.pickMs) {
+    return;
   }
-  if (drawn || trace.pickMs) scene.traces.push_back(trace);
-  return drawn;
+  scene.traces.push_back(trace);
+}
+
+/// One scale for all traces that swing at all.
+void scaleAlike(std::vector<GatherTrace>& traces) {
+  double largest = GatherTrace::kFlat;
+  for (const GatherTrace& trace : traces) largest = std::max(largest, trace.scale);
+  for (GatherTrace& trace : traces) {
+    if (trace.scale > GatherTrace::kFlat) trace.scale = largest;
+  }
 }
 
 }  // namespace
@@ -277,44 +302,19 @@ Status buildGatherScene(const TomoDocument& document, std::size_t shot,
   const TravelTime* record = recordOf(document, shot);
   GatherScene made;
   made.byChannel = options.byChannel;
-  made.title = titleOf(document, shot, record, options);
   made.window = windowOf(set, record, options);
   const std::vector<double> positions = positionsOf(document, record, set, made.byChannel);
+  made.title = titleOf(document, shot, record, options.byChannel || !made.byChannel, options);
   setAxis(positions, record, made);
 
-  std::size_t drawn = 0;
-  std::size_t filtered = 0;
-  std::size_t hidden = 0;
-  std::size_t picks = 0;
-  double largest = 0.0;
-  const std::size_t step = std::max<std::size_t>((set.size() + kMostTraces - 1) / kMostTraces, 1);
-  made.traceStep = step;
-  for (std::size_t i = 0; i < set.size(); i += step) {
-    const bool shown = addTrace(set, i, positions[i], record, options, made, hidden);
-    drawn += shown ? 1 : 0;
-    if (shown && made.traces.back().samples == &set[i].filtered) ++filtered;
-    if (made.traces.empty() || made.traces.back().channel != i) continue;
-    largest = std::max(largest, made.traces.back().scale);
-    picks += made.traces.back().pickMs ? 1 : 0;
+  made.traceStep = std::max<std::size_t>((set.size() + kMostTraces - 1) / kMostTraces, 1);
+  Counts counts;
+  for (std::size_t i = 0; i < set.size(); i += made.traceStep) {
+    addTrace(set, i, positions[i], record, options, made, counts);
   }
-  if (options.scaling == GatherScaling::kWholeShot) {
-    for (GatherTrace& trace : made.traces) {
-      if (trace.scale > GatherTrace::kFlat) trace.scale = largest;
-    }
-  }
-
-  Caption caption;
-  caption.add(countOf(drawn, "trace") +
-              (filtered == 0 ? "" : (filtered == drawn ? ", filtered" : ", some filtered")));
-  if (step > 1) caption.add("One of every " + std::to_string(step) + " is drawn");
-  const std::size_t looked = (set.size() + step - 1) / step;
-  if (drawn < looked) {
-    caption.add(std::to_string(looked - drawn) + " without samples or sample interval");
-  }
-  caption.add(swingsText(options));
-  if (options.picks) caption.add(countOf(picks, "pick"));
-  if (hidden > 0) caption.add(countOf(hidden, "pick") + " outside the times shown");
-  made.caption = caption.text();
+  if (options.scaling == GatherScaling::kWholeShot) scaleAlike(made.traces);
+  made.hasPicks = counts.picks > 0;
+  made.caption = captionOf(counts, made.traceStep, options);
   scene = std::move(made);
   return {};
 }

@@ -44,6 +44,7 @@ struct GatherScene {
   double high = 0.0;
   std::optional<double> shotX;  ///< within low and high
   TimeWindow window;
+  bool hasPicks = false;
 };
 
 /// Gathers what the options ask for. Fails for a shot that is not there, and for options that make
