@@ -10,7 +10,8 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 struct UsageCase {
-  std::vector<std::string> arguments;  ///< "LINE" stands for a good travel-time file
+  /// "LINE" stands for a good travel-time file, the other capitals for files that do not exist.
+  std::vector<std::string> arguments;
   std::string says;
 };
 
@@ -23,6 +24,8 @@ TEST_P(WrongUsage, endsWithTwoAndOneLineAndAHint) {
   for (std::string& argument : arguments) {
     if (argument == "LINE") argument = line;
     if (argument == "IMAGE") argument = folder / "section.png";
+    if (argument == "SHOT") argument = folder / "shot.sg2";
+    if (argument == "PICKS") argument = folder / "picks.otte";
   }
   const Outcome outcome = runBatch(arguments);
   EXPECT_EQ(outcome.code, 2);
@@ -67,6 +70,27 @@ INSTANTIATE_TEST_SUITE_P(
         UsageCase{{"invert", "LINE", "--image", "IMAGE", "--otte", "IMAGE"}, "same file"},
         UsageCase{{"invert", "LINE", "--otte", "LINE"}, "overwrite"}, UsageCase{{"info"}, "FILE"},
         UsageCase{{"info", "LINE", "--json", "LINE"}, "overwrite"},
+        UsageCase{{"info", "LINE", "--samples"}, "--json"}, UsageCase{{"pick"}, "SHOTS"},
+        UsageCase{{"pick", "SHOT"}, "--otte"},
+        UsageCase{{"pick", "SHOT", "-o", "picks.csv"}, ".otte"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--filter", "fir"}, "'fir'"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--filter", "band"}, "band needs"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--low", "50"}, "--filter band"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--filter", "agc", "--high", "5"}, "band"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--filter", "band", "--low", "0"}, "--low"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--filter", "band", "--low-order", "2"}, "--low"},
+        UsageCase{
+            {"pick", "SHOT", "-o", "PICKS", "--filter", "band", "--low", "9", "--low-order", "0"},
+            "--low-order"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--separator", ","}, "--geophones"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--shots", "LINE", "--separator", "|"}, "'|'"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--image", "gather.bmp"}, "gather.bmp"},
+        UsageCase{{"pick", "SHOT", "-o", "PICKS", "--json", "PICKS"}, "same file"},
+        UsageCase{{"pick", "SHOT", "-o", "LINE", "--geophones", "LINE"}, "overwrite"},
+        UsageCase{{"invert", "SHOT", "LINE"}, "together"},
+        UsageCase{{"invert", "LINE", "LINE"}, "one travel-time file"},
+        UsageCase{{"invert", "LINE", "--filter", "agc"}, "no shot file"},
+        UsageCase{{"invert", "SHOT", "--filter", "band"}, "band needs"},
         UsageCase{{"convert", "LINE", "picks.txt"}, ".otte"},
         UsageCase{{"convert", "LINE", "LINE"}, "overwrite"}, UsageCase{{"demo"}, "DIR"}));
 
@@ -77,8 +101,11 @@ TEST(CommandLine, everyHelpTextNamesTheUnitsOfItsNumbers) {
   for (const char* word : {"metres", "m/s", "seconds", "cells", "--layer", "Ctrl-C"}) {
     EXPECT_THAT(invert.out, HasSubstr(word));
   }
-  const std::vector<std::vector<std::string>> others = {
-      {"--help"}, {"info", "--help"}, {"convert", "--help"}, {"demo", "--help"}};
+  const std::vector<std::vector<std::string>> others = {{"--help"},
+                                                        {"info", "--help"},
+                                                        {"pick", "--help"},
+                                                        {"convert", "--help"},
+                                                        {"demo", "--help"}};
   for (const auto& arguments : others) {
     const Outcome outcome = runBatch(arguments);
     EXPECT_EQ(outcome.code, 0) << arguments.front();

@@ -1,8 +1,11 @@
 #include "batch/BatchRunner.h"
 #include "batch/DemoLine.h"
+#include "batch/DemoShots.h"
+#include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -35,6 +38,23 @@ class Demo : public testing::Test {
   }
   static void TearDownTestSuite() { delete sFolder; }
   static std::string line() { return *sFolder / "new/demo/demo.otte"; }
+  static std::vector<std::string> shots() {
+    std::vector<std::string> files;
+    for (const char* number : {"01", "02", "03", "04", "05", "06", "07", "08", "09", "10", "11"}) {
+      files.push_back(*sFolder / (std::string("new/demo/shot") + number + ".sg2"));
+    }
+    return files;
+  }
+  /// The results of a command on the shot files.
+  static ordered_json ofShots(const std::string& command, const std::vector<std::string>& more) {
+    std::vector<std::string> arguments = {command};
+    for (const std::string& file : shots()) arguments.push_back(file);
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    arguments.insert(arguments.end(), {"--quiet", "--json", "-"});
+    const Outcome outcome = runBatch(arguments);
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    return ordered_json::parse(outcome.out);
+  }
 
   static Folder* sFolder;
   static Outcome sMade;
@@ -45,8 +65,67 @@ Outcome Demo::sMade;
 TEST_F(Demo, makesTheFolderAndTheSameBytesEveryTime) {
   ASSERT_EQ(sMade.code, 0) << sMade.err;
   const std::string again = *sFolder / "again.otte";
-  ASSERT_TRUE(writeTravelTimes(again, demoLine()).ok());
+  const TomoDocument document = demoLine();
+  ASSERT_TRUE(writeTravelTimes(again, document).ok());
   EXPECT_EQ(contentsOf(line()), contentsOf(again));
+  const std::vector<Seg2Record> records = demoShots(document);
+  ASSERT_EQ(records.size(), shots().size());
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    EXPECT_TRUE(contentsOf(shots()[i]) == formatSeg2(records[i])) << i;
+  }
+}
+
+TEST_F(Demo, shotFilesAndGeometryFilesAgreeAboutPositions) {
+  const ordered_json byHeaders = ofShots("pick", {"-o", *sFolder / "a.otte"});
+  const ordered_json byFiles = ofShots(
+      "pick", {"-o", *sFolder / "b.otte", "--geophones", *sFolder / "new/demo/geophones.csv",
+               "--shots", *sFolder / "new/demo/shots.csv"});
+  EXPECT_EQ(byHeaders, byFiles);
+  const Outcome info = runBatch({"info", line(), "--json", "-"});
+  EXPECT_EQ(byHeaders["strings"], ordered_json::parse(info.out)["strings"]);
+}
+
+TEST_F(Demo, recordsStartBeforeTheShotAndEndWithAZero) {
+  SegyState state;
+  ShotFileData data;
+  ASSERT_TRUE(readShotFile(shots()[4], state, data).ok());
+  EXPECT_EQ(data.warnings, std::vector<std::string>());
+  ASSERT_EQ(data.traces.size(), 48U);
+  for (const ShotRecord& trace : data.traces) {
+    EXPECT_EQ(trace.source, (Point2D{33.0, std::round(demoElevation(33.0) * 100.0) / 100.0}));
+    EXPECT_EQ(trace.delay, -0.01);
+    EXPECT_EQ(trace.sampleInterval, 0.0000625);
+    ASSERT_EQ(trace.samples.size(), 4000U);
+    EXPECT_NE(trace.samples[3998], 0.0);
+    EXPECT_EQ(trace.samples[3999], 0.0);
+  }
+}
+
+TEST_F(Demo, firstBreaksFourTimesAboveTheNoiseArePickedWithinAMillisecond) {
+  const ordered_json picks = ofShots("pick", {"-o", *sFolder / "picks.otte"});
+  TravelTimeData truth;
+  ASSERT_TRUE(readTravelTimes(line(), truth).ok());
+  std::size_t clear = 0;
+  std::size_t found = 0;
+  for (std::size_t shot = 0; shot < truth.records.size(); ++shot) {
+    const TravelTime& record = truth.records[shot];
+    for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
+      if (demoSignalToNoise(truth.strings[0][i].x - record.shotPos2d.x) < 4.0) continue;
+      ++clear;
+      const double picked = picks["shots"][shot]["times"][i].get<double>();
+      if (std::abs(picked - record.ttMisurati[i]) <= 0.001) ++found;
+    }
+  }
+  EXPECT_GT(clear, 400U);
+  EXPECT_GE(static_cast<double>(found), 0.95 * static_cast<double>(clear));
+}
+
+TEST_F(Demo, autopicksInvertAlmostAsWellAsTheTruePicks) {
+  const Outcome truth = runBatch({"invert", line(), "--json", "-", "--quiet"});
+  const double best = ordered_json::parse(truth.out)["rmse_ms"].get<double>();
+  const ordered_json picked = ofShots("invert", {});
+  EXPECT_GT(picked["picks_used"], 500);
+  EXPECT_NEAR(picked["rmse_ms"].get<double>(), best, 0.2 * best);
 }
 
 TEST_F(Demo, isALineOf48GeophonesAnd11ShotsWithTimesThatGrowAwayFromTheShot) {

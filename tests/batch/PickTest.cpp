@@ -1,0 +1,259 @@
+#include "batch/SmallShots.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace talvesk::batchtest {
+namespace {
+
+using nlohmann::ordered_json;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+std::vector<std::string> arguments(const std::string& command,
+                                   const std::vector<std::string>& files,
+                                   const std::vector<std::string>& more) {
+  std::vector<std::string> all = {command};
+  all.insert(all.end(), files.begin(), files.end());
+  all.insert(all.end(), more.begin(), more.end());
+  return all;
+}
+
+class Picking : public testing::Test {
+ protected:
+  Outcome pick(const std::vector<std::string>& more) const {
+    return runBatch(arguments("pick", mFiles, more));
+  }
+  ordered_json pickJson(std::vector<std::string> more = {}) const {
+    more.insert(more.end(), {"-o", mFolder / "out.otte", "--json", "-"});
+    const Outcome outcome = pick(more);
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    return ordered_json::parse(outcome.out);
+  }
+  std::string geophones(std::size_t count, double spacing, const std::string& separator) const {
+    std::string text;
+    for (std::size_t i = 0; i < count; ++i) {
+      text += std::to_string(spacing * static_cast<double>(i)) + separator + "5\n";
+    }
+    return mFolder.write("geophones.csv", text);
+  }
+
+  Folder mFolder;
+  std::vector<std::string> mFiles = writeSmallShots(mFolder);
+};
+
+TEST_F(Picking, writesThePicksThatItTellsOf) {
+  const Outcome outcome = pick({"-o", mFolder / "out.otte", "--json", mFolder / "out.json"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("Shots: 3, traces: 39"));
+  EXPECT_THAT(outcome.out, HasSubstr("up to 80 samples"));
+  EXPECT_THAT(outcome.out, Not(HasSubstr("[FIRST BREAK]")));
+  const ordered_json json = ordered_json::parse(contentsOf(mFolder / "out.json"));
+  std::string keys;
+  for (const auto& item : json.items()) keys += item.key() + " ";
+  for (const auto& item : json["shots"][0].items()) keys += item.key() + " ";
+  EXPECT_EQ(keys,
+            "filter strings shots position string trace_set times file samples_before_shot "
+            "accepted rejected ");
+  const ordered_json written =
+      ordered_json::parse(runBatch({"info", mFolder / "out.otte", "--json", "-"}).out);
+  EXPECT_EQ(written["strings"], json["strings"]);
+  std::size_t accepted = 0;
+  for (std::size_t shot = 0; shot < 3; ++shot) {
+    EXPECT_EQ(written["shots"][shot]["position"], json["shots"][shot]["position"]);
+    const auto times = json["shots"][shot]["times"].get<std::vector<double>>();
+    const auto read = written["shots"][shot]["times"].get<std::vector<double>>();
+    ASSERT_EQ(times.size(), read.size());
+    std::size_t picks = 0;
+    for (std::size_t i = 0; i < times.size(); ++i) {
+      EXPECT_NEAR(times[i], read[i], 1e-6);
+      if (times[i] > 0.0) ++picks;
+    }
+    EXPECT_EQ(json["shots"][shot]["accepted"], picks);
+    EXPECT_EQ(json["shots"][shot]["rejected"], 13 - picks);
+    accepted += picks;
+  }
+  EXPECT_GT(accepted, 30U);
+  EXPECT_THAT(outcome.out, HasSubstr(std::to_string(accepted) + " accepted"));
+}
+
+TEST_F(Picking, countsFromTheFirstSampleWhenAsked) {
+  const ordered_json counted = pickJson();
+  const ordered_json recorded = pickJson({"--as-recorded"});
+  EXPECT_EQ(counted["shots"][0]["samples_before_shot"], kSmallLead);
+  EXPECT_EQ(recorded["shots"][0]["samples_before_shot"], 0);
+  std::size_t compared = 0;
+  for (std::size_t i = 0; i < 13; ++i) {
+    const double late = recorded["shots"][0]["times"][i].get<double>();
+    const double early = counted["shots"][0]["times"][i].get<double>();
+    if (late < 0.0 || early < 0.0) continue;
+    ++compared;
+    EXPECT_NEAR(late - early, static_cast<double>(kSmallLead) * kSmallInterval, 1e-9) << i;
+  }
+  EXPECT_GT(compared, 8U);
+}
+
+TEST_F(Picking, everyFilterHasItsSay) {
+  const ordered_json raw = pickJson()["shots"];
+  const std::vector<std::pair<std::string, std::vector<std::string>>> filters = {
+      {"hushel", {}},
+      {"band", {"--low", "100"}},
+      {"band", {"--high", "150", "--high-order", "3"}},
+      {"band", {"--low", "300", "--low-order", "2", "--high", "20"}}};
+  std::vector<ordered_json> seen = {raw};
+  for (const auto& [name, corners] : filters) {
+    std::vector<std::string> options = {"--filter", name};
+    options.insert(options.end(), corners.begin(), corners.end());
+    const ordered_json json = pickJson(options);
+    EXPECT_EQ(json["filter"], name);
+    EXPECT_GT(json["shots"][1]["accepted"], 5) << name;
+    EXPECT_EQ(std::count(seen.begin(), seen.end(), json["shots"]), 0) << json["shots"];
+    seen.push_back(json["shots"]);
+  }
+  // Gain does not move breaks as sharp as these.
+  const ordered_json agc = pickJson({"--filter", "agc"});
+  EXPECT_EQ(agc["filter"], "agc");
+  EXPECT_GT(agc["shots"][1]["accepted"], 5);
+  EXPECT_EQ(pickJson({"--filter", "none"})["shots"], raw);
+}
+
+TEST_F(Picking, geometryFilesReplaceThePositionsOfTheHeaders) {
+  for (const std::string separator : {";", ",", " "}) {
+    const std::string places = geophones(13, 3.0, separator);
+    const std::string shots = mFolder.write(
+        "shots.csv", "shot_id_a" + separator + "1.5" + separator + "4\nshot_id_b" + separator +
+                         "19" + separator + "4\nshot_id_c" + separator + "35" + separator + "4\n");
+    const ordered_json json =
+        pickJson({"--geophones", places, "--shots", shots, "--separator", separator});
+    ASSERT_EQ(json["strings"].size(), 1U);
+    EXPECT_EQ(json["strings"][0][12], ordered_json::parse("[36.0,5.0]"));
+    EXPECT_EQ(json["shots"][2]["position"], ordered_json::parse("[35.0,4.0]"));
+    EXPECT_EQ(json["shots"][2]["string"], 0);
+  }
+}
+
+TEST_F(Picking, whatDoesNotFitFailsInOneLineAndLeavesTheOldFile) {
+  const std::string out = mFolder.write("out.otte", "old");
+  const std::string few = geophones(12, 3.0, ";");
+  const std::string twoShots = mFolder.write("two.csv", "shot_id_1;1;0\nshot_id_2;2;0\n");
+  const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
+      {{"--geophones", few}, "12 geophones do not fit"},
+      {{"--geophones", few, "--separator", ","}, "geophones.csv"},
+      {{"--shots", twoShots}, "2 shots do not fit 3"},
+      {{"--shots", mFolder / "none.csv"}, "none.csv"},
+      {{"--filter", "band", "--low", "5000"}, "5000 Hz"},
+      {{"--filter", "band", "--high", "2000"}, "2000 Hz"},
+      {{mFolder / "none.sg2"}, "none.sg2"},
+      {{mFolder / "line.otte"}, "suffix"}};
+  const std::size_t files = mFolder.fileCount();
+  for (const auto& [options, says] : cases) {
+    std::vector<std::string> all = {
+        "-o", out, "--json", mFolder / "out.json", "--image", mFolder / "out.pdf"};
+    all.insert(all.begin(), options.begin(), options.end());
+    const Outcome outcome = pick(all);
+    EXPECT_EQ(outcome.code, 1) << says;
+    EXPECT_THAT(outcome.err, StartsWith("talvesk-batch: "));
+    EXPECT_THAT(outcome.err, HasSubstr(says));
+    EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome.err;
+    EXPECT_EQ(contentsOf(out), "old") << says;
+    EXPECT_EQ(mFolder.fileCount(), files) << says;
+  }
+}
+
+TEST_F(Picking, picturesAreOnePdfOrOneFilePerShot) {
+  ASSERT_EQ(pick({"-o", mFolder / "out.otte", "--image", mFolder / "all.pdf", "--image",
+                  mFolder / "one.svg", "--filter", "agc", "--quiet"})
+                .code,
+            0);
+  EXPECT_THAT(contentsOf(mFolder / "all.pdf"), StartsWith("%PDF-"));
+  for (const char* name : {"one_01.svg", "one_02.svg", "one_03.svg"}) {
+    EXPECT_THAT(contentsOf(mFolder / name), HasSubstr("<svg")) << name;
+  }
+}
+
+TEST_F(Picking, thePickerIsHeardOnlyOnRequestAndQuietSaysNothing) {
+  const Outcome verbose = pick({"-o", mFolder / "out.otte", "--verbose"});
+  EXPECT_THAT(verbose.out, HasSubstr("opening seg2 file "));
+  EXPECT_THAT(verbose.out, HasSubstr("[FIRST BREAK] TRACE 12 : "));
+  const Outcome quiet = pick({"-o", mFolder / "out.otte", "--quiet"});
+  EXPECT_EQ(quiet.code, 0);
+  EXPECT_EQ(quiet.out + quiet.err, "");
+}
+
+TEST_F(Picking, recordsWithoutPositionsAreWarnedOf) {
+  Seg2Record record = smallShot(0.5);
+  for (Point2D& receiver : record.receivers) receiver = {0.0, 0.0};
+  const Outcome outcome =
+      runBatch({"pick", mFolder.write("heap.sg2", formatSeg2(record)), "-o", mFolder / "out.otte"});
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_THAT(outcome.err, HasSubstr("--geophones"));
+  EXPECT_THAT(outcome.out, HasSubstr("0 accepted, 13 rejected"));
+}
+
+TEST_F(Picking, invertPicksTheSameFirstBreaksAndThreadsChangeNothing) {
+  const std::vector<std::string> quick = {"--cell-size", "1", "--iterations", "2"};
+  std::vector<std::string> more = quick;
+  more.insert(more.end(), {"--filter", "hushel", "--otte", mFolder / "a.otte"});
+  ASSERT_EQ(runBatch(arguments("invert", mFiles, more)).code, 0);
+  more.back() = mFolder / "b.otte";
+  more.emplace_back("--single-thread");
+  ASSERT_EQ(runBatch(arguments("invert", mFiles, more)).code, 0);
+  ASSERT_EQ(pick({"--filter", "hushel", "-o", mFolder / "c.otte"}).code, 0);
+  EXPECT_EQ(contentsOf(mFolder / "a.otte"), contentsOf(mFolder / "b.otte"));
+  EXPECT_EQ(contentsOf(mFolder / "a.otte"), contentsOf(mFolder / "c.otte"));
+}
+
+struct HostileShot {
+  std::string name;
+  std::string bytes;
+};
+
+class UnusableShot : public testing::TestWithParam<HostileShot> {};
+
+TEST_P(UnusableShot, failsWithOneLineAndLeavesNoFile) {
+  const Folder folder;
+  const std::string file = folder.write(GetParam().name, GetParam().bytes);
+  const std::vector<std::vector<std::string>> commands = {
+      {"info", file},
+      {"pick", file, "-o", folder / "out.otte", "--json", folder / "out.json", "--image",
+       folder / "out.png"},
+      {"invert", file, "--otte", folder / "out.otte", "--gridded", folder / "out.txt"}};
+  for (const auto& command : commands) {
+    const Outcome outcome = runBatch(command);
+    EXPECT_EQ(outcome.code, 1) << command.front();
+    EXPECT_THAT(outcome.err, StartsWith("talvesk-batch: ")) << command.front();
+    EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome.err;
+    EXPECT_EQ(folder.fileCount(), 1U) << command.front();
+  }
+}
+
+/// A file of `traces` pointers to one and the same block, which claims 65535 samples.
+std::string manyForOne(std::size_t traces) {
+  std::string bytes(32 + 4 * traces + 64, '\0');
+  bytes.replace(0, 2, "\x55\x3a");
+  bytes[6] = static_cast<char>(traces & 0xff);
+  bytes[7] = static_cast<char>(traces >> 8);
+  const std::size_t block = 32 + 4 * traces;
+  for (std::size_t i = 0; i < traces; ++i) {
+    for (std::size_t b = 0; b < 4; ++b) {
+      bytes[32 + 4 * i + b] = static_cast<char>((block >> (8 * b)) & 0xff);
+    }
+  }
+  bytes[block + 2] = 64;
+  bytes.replace(block + 8, 2, "\xff\xff");
+  return bytes;
+}
+
+INSTANTIATE_TEST_SUITE_P(Picking, UnusableShot,
+                         testing::Values(HostileShot{"empty.sg2", ""},
+                                         HostileShot{"big-endian.dat", "\x3a\x55 etc."},
+                                         HostileShot{"words.seg2", "no shot at all"},
+                                         HostileShot{"greedy.sg2", manyForOne(65535)}));
+
+}  // namespace
+}  // namespace talvesk::batchtest
