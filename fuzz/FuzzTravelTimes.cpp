@@ -1,5 +1,6 @@
 // Throws any bytes at the readers of travel-time files. What a reader accepts must be fit for use,
 // and must come back from the exchange format as it was written.
+#include "Demand.h"
 #include "base/Console.h"
 #include "io/OtteFile.h"
 #include "io/TravelTimeFile.h"
@@ -7,8 +8,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
-#include <iostream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,12 +16,6 @@
 namespace {
 
 using namespace talvesk;
-
-void demand(bool condition, const char* what) {
-  if (condition) return;
-  std::cerr << "violated: " << what << std::endl;
-  std::abort();
-}
 
 bool finite(const Point2D& point) {
   return std::isfinite(point.x) && std::isfinite(point.z);

@@ -1,11 +1,14 @@
 #!/usr/bin/env python3
-"""Writes the seed corpus of fuzz_travel_times: a small survey in every format.
+"""Writes the seed corpora of the fuzz targets, one folder each: a small survey in every format.
 
 usage: make_seeds.py FOLDER
-The first byte of a seed chooses the reader, the rest is the file.
+The first byte of a travel-time seed chooses the reader, that of an SU seed the state that an earlier
+file left; the rest is the file.
 """
 import pathlib
 import sys
+
+from shot_seeds import shot_seeds
 
 
 def row(values, separator, last=""):
@@ -57,20 +60,29 @@ def csv(receivers, sources, times):
     return lines + [row([*source, *line], ";") for source, line in zip(sources, times)]
 
 
-def main():
-    folder = pathlib.Path(sys.argv[1])
-    folder.mkdir(parents=True, exist_ok=True)
-    count = 0
+def travel_time_seeds():
     for size in ((0, 1), (1, 1), (2, 3), (4, 12)):
         data = survey(*size)
         for reader, lines in enumerate([otte(*data), tx_curves(*data), pick_table(*data),
                                         csv(*data), otte(*data, strings=2)]):
             for end in ("\n", "\r\n"):
                 text = "".join(line + end for line in lines)
-                seed = bytes([reader % 4]) + text.encode("ascii")
-                (folder / f"seed{count:02d}").write_bytes(seed)
-                count += 1
+                yield bytes([reader % 4]) + text.encode("ascii")
+
+
+def write(folder, seeds):
+    folder.mkdir(parents=True, exist_ok=True)
+    count = 0
+    for count, seed in enumerate(seeds, 1):
+        (folder / f"seed{count:02d}").write_bytes(seed)
     print(f"{count} seeds in {folder}")
+
+
+def main():
+    root = pathlib.Path(sys.argv[1])
+    write(root / "travel_times", travel_time_seeds())
+    for target, seeds in shot_seeds().items():
+        write(root / target, seeds)
 
 
 if __name__ == "__main__":
