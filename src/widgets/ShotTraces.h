@@ -1,0 +1,59 @@
+#pragma once
+
+#include "model/TomoDocument.h"
+
+#include <cstddef>
+#include <limits>
+#include <vector>
+
+namespace talvesk {
+
+/// One record of a document as the trace view sees it: samples, times and positions by channel.
+/// Looks everything up anew, so that a document that changed behind its back is read within its
+/// bounds; keeps only means and largest deflections. The document is not owned.
+class ShotTraces {
+ public:
+  ShotTraces() = default;
+  /// \param record from 0; one that does not exist makes a shot without traces
+  /// \param showFiltered prefer the filtered copies
+  ShotTraces(TomoDocument* document, int record, bool showFiltered);
+
+  int record() const { return mRecord; }
+  /// Traces of the trace set; of a record of picks only: its measured times.
+  int count() const { return static_cast<int>(mMean.size()); }
+  bool hasSamples() const;
+
+  const std::vector<double>& samples(int trace) const;  ///< as displayed; empty: none
+  double interval(int trace) const;   ///< seconds, above 0; 0.001 where the file gave none
+  double recordEnd(int trace) const;  ///< time of the last sample, seconds
+  double mean(int trace) const { return mMean[index(trace)]; }
+  double peak(int trace) const { return mPeak[index(trace)]; }  ///< largest |sample - mean|
+  double shotPeak() const { return mShotPeak; }                 ///< largest of all traces
+  /// End of the time axis, seconds, above 0: of the longest trace, or of the latest time.
+  double timeEnd() const { return mTimeEnd; }
+
+  double receiverX(int trace) const;  ///< metres; NaN unknown
+  double shotX() const;               ///< metres; NaN unknown
+  double offset(int trace) const { return receiverX(trace) - shotX(); }
+
+  bool canPick(int trace) const;  ///< the record has a time for the trace
+  double measured(int trace) const;
+  double computed(int trace) const;
+  const TravelTime* times() const;
+
+ private:
+  static std::size_t index(int trace) { return static_cast<std::size_t>(trace); }
+  const Trace* find(int trace) const;
+  const TraceSet* traceSet() const;
+  void measure();
+
+  TomoDocument* mDocument = nullptr;
+  int mRecord = -1;
+  bool mShowFiltered = false;
+  std::vector<double> mMean;
+  std::vector<double> mPeak;
+  double mShotPeak = 0.0;
+  double mTimeEnd = 0.1;
+};
+
+}  // namespace talvesk

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "widgets/TraceMapping.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace talvesk {
+
+/// The views that a user came through, as a browser keeps its pages.
+class ViewHistory {
+ public:
+  void clear();
+  /// The view that is about to be left. Views that were gone back from are forgotten.
+  void leave(const TraceWindow& window);
+
+  bool canGoBack() const { return !mBack.empty(); }
+  bool canGoForward() const { return !mForward.empty(); }
+  /// \param now the view that is left \return the one to show; `now` where there is none
+  TraceWindow back(const TraceWindow& now);
+  TraceWindow forward(const TraceWindow& now);
+
+  static constexpr std::size_t kLongest = 100;  ///< older views are forgotten
+
+ private:
+  std::vector<TraceWindow> mBack;
+  std::vector<TraceWindow> mForward;
+};
+
+}  // namespace talvesk

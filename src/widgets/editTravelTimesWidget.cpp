@@ -1,0 +1,305 @@
+#include "widgets/editTravelTimesWidget.h"
+
+#include "widgets/TraceGuides.h"
+#include "widgets/editTravelTimesWidget_state.h"
+
+#include <QEvent>
+#include <QScrollBar>
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+double within(double value, double low, double high, double otherwise) {
+  return std::isfinite(value) ? std::clamp(value, low, high) : otherwise;
+}
+
+/// Options come from files and other widgets; none may break the picture.
+TraceViewOptions sane(TraceViewOptions options) {
+  options.gain = within(options.gain, TraceViewOptions::kMinGain, TraceViewOptions::kMaxGain, 1.0);
+  options.snapRadius = within(options.snapRadius, 0.0, 10.0, TraceViewOptions().snapRadius);
+  options.airVelocity = within(options.airVelocity, 1.0, 1e5, TraceViewOptions().airVelocity);
+  return options;
+}
+
+}  // namespace
+
+editTravelTimesWidget::editTravelTimesWidget(QWidget* parent)
+    : QWidget(parent), mState(std::make_unique<State>(*this)) {
+  setFocusPolicy(Qt::StrongFocus);
+  setMouseTracking(true);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAccessibleName(tr("Seismic traces"));
+  State& s = *mState;
+  s.across = new QScrollBar(Qt::Horizontal, this);
+  s.down = new QScrollBar(Qt::Vertical, this);
+  for (QScrollBar* bar : {s.across, s.down}) {
+    bar->setFocusPolicy(Qt::NoFocus);
+    bar->setCursor(Qt::ArrowCursor);
+  }
+  connect(s.across, &QScrollBar::valueChanged, this, [&s](int v) { s.scrolled(true, v); });
+  connect(s.down, &QScrollBar::valueChanged, this, [&s](int v) { s.scrolled(false, v); });
+  setTool(TraceTool::Pick);
+  s.rebuildShot(true);
+}
+
+editTravelTimesWidget::~editTravelTimesWidget() = default;
+
+void editTravelTimesWidget::setDocument(TomoDocument* document) {
+  State& s = *mState;
+  s.cancelDrag();
+  s.stack.clear();
+  s.review.clear();
+  s.history.clear();
+  s.document = document;
+  s.shot = -1;
+  s.movedByUser = false;
+  s.rebuildShot(true);
+}
+
+TomoDocument* editTravelTimesWidget::document() const {
+  return mState->document;
+}
+
+void editTravelTimesWidget::setShot(int shot) {
+  State& s = *mState;
+  const bool exists = s.document != nullptr && shot >= 0 &&
+                      static_cast<std::size_t>(shot) < s.document->ttArray.size();
+  s.cancelDrag();
+  s.shot = exists ? shot : -1;
+  s.rebuildShot(true);
+}
+
+int editTravelTimesWidget::shot() const {
+  return mState->shot;
+}
+
+void editTravelTimesWidget::setOptions(const TraceViewOptions& options) {
+  State& s = *mState;
+  const TraceViewOptions before = s.options;
+  s.options = sane(options);
+  if (s.options == before) return;
+  if (s.options.showOnlyTraces) s.cancelDrag();
+  const bool reopen = s.options.zoomIn != before.zoomIn ||
+                      s.options.showAllTraces != before.showAllTraces ||
+                      s.options.byDistance != before.byDistance;
+  if (s.options.byDistance != before.byDistance) s.history.clear();
+  if (reopen) s.movedByUser = false;
+  if (reopen || s.options.showFiltered != before.showFiltered) s.rebuildShot(false);
+  s.redrawAll();
+}
+
+const TraceViewOptions& editTravelTimesWidget::options() const {
+  return mState->options;
+}
+
+void editTravelTimesWidget::setTool(TraceTool tool) {
+  State& s = *mState;
+  const bool changed = s.tool != tool;
+  s.cancelDrag();
+  s.tool = tool;
+  switch (tool) {
+    case TraceTool::Pan:
+      setCursor(Qt::OpenHandCursor);
+      break;
+    case TraceTool::Select:
+      setCursor(Qt::SizeHorCursor);
+      break;
+    default:
+      setCursor(Qt::CrossCursor);
+  }
+  if (changed) emit toolChanged();
+}
+
+TraceTool editTravelTimesWidget::tool() const {
+  return mState->tool;
+}
+
+QUndoStack* editTravelTimesWidget::undoStack() const {
+  return &mState->stack;
+}
+
+void editTravelTimesWidget::documentChanged() {
+  setShot(mState->shot);
+}
+
+void editTravelTimesWidget::picksReplaced() {
+  State& s = *mState;
+  s.cancelDrag();
+  s.stack.clear();
+  s.review.clear();
+  s.redrawMarks();
+}
+
+void editTravelTimesWidget::autoPicked(const std::vector<std::int32_t>& shots) {
+  State& s = *mState;
+  s.cancelDrag();
+  s.stack.clear();
+  if (s.document == nullptr) return;
+  for (const std::int32_t shot : shots) s.review.markShot(*s.document, shot);
+  s.redrawMarks();
+}
+
+int editTravelTimesWidget::currentTrace() const {
+  return mState->current;
+}
+
+void editTravelTimesWidget::setCurrentTrace(int trace) {
+  mState->setCurrent(trace);
+}
+
+int editTravelTimesWidget::selectedFirst() const {
+  return mState->selectedFirst;
+}
+
+int editTravelTimesWidget::selectedLast() const {
+  return mState->selectedLast;
+}
+
+void editTravelTimesWidget::selectTraces(int first, int last) {
+  mState->select(first, last);
+}
+
+const TraceWindow& editTravelTimesWidget::window() const {
+  return mState->window;
+}
+
+void editTravelTimesWidget::setWindow(const TraceWindow& window) {
+  mState->show(window, State::Step::New);
+}
+
+bool editTravelTimesWidget::canZoomBack() const {
+  return mState->history.canGoBack();
+}
+
+bool editTravelTimesWidget::canZoomForward() const {
+  return mState->history.canGoForward();
+}
+
+QPointF editTravelTimesWidget::pointOf(int trace, double time) const {
+  const State& s = *mState;
+  if (trace < 0 || trace >= s.layout.count()) return {};
+  return s.mapping().point(s.layout.position(trace), time);
+}
+
+int editTravelTimesWidget::traceAt(const QPointF& point) const {
+  return mState->traceAt(point);
+}
+
+double editTravelTimesWidget::timeAt(const QPointF& point) const {
+  return mState->mapping().timeAt(point.y());
+}
+
+std::optional<double> editTravelTimesWidget::rulerVelocity() const {
+  const State& s = *mState;
+  if (!s.ruler) return std::nullopt;
+  return apparentVelocity(s.traces, s.layout, s.ruler->first, s.ruler->second);
+}
+
+QSize editTravelTimesWidget::sizeHint() const {
+  return {800, 600};
+}
+
+QSize editTravelTimesWidget::minimumSizeHint() const {
+  return {200, 160};
+}
+
+void editTravelTimesWidget::setShowAllPicks(bool show) {
+  TraceViewOptions changed = options();
+  changed.showAllPicks = show;
+  setOptions(changed);
+}
+
+void editTravelTimesWidget::setShowComputedTimes(bool show) {
+  TraceViewOptions changed = options();
+  changed.showComputedTimes = show;
+  setOptions(changed);
+}
+
+void editTravelTimesWidget::setShowOnlyTraces(bool show) {
+  TraceViewOptions changed = options();
+  changed.showOnlyTraces = show;
+  setOptions(changed);
+}
+
+void editTravelTimesWidget::setAirWave(bool show) {
+  TraceViewOptions changed = options();
+  changed.airWave = show;
+  setOptions(changed);
+}
+
+void editTravelTimesWidget::setMagnifier(bool show) {
+  TraceViewOptions changed = options();
+  changed.magnifier = show;
+  setOptions(changed);
+}
+
+void editTravelTimesWidget::setGain(double gain) {
+  TraceViewOptions changed = options();
+  changed.gain = gain;
+  setOptions(changed);
+}
+
+void editTravelTimesWidget::zoomIn() {
+  mState->zoomAboutMiddle(1.5);
+}
+
+void editTravelTimesWidget::zoomOut() {
+  mState->zoomAboutMiddle(1.0 / 1.5);
+}
+
+void editTravelTimesWidget::fit() {
+  mState->show(mState->wholeWindow(), State::Step::New);
+}
+
+void editTravelTimesWidget::home() {
+  mState->show(mState->openingWindow(), State::Step::New);
+  mState->movedByUser = false;
+}
+
+void editTravelTimesWidget::zoomBack() {
+  mState->goInHistory(true);
+}
+
+void editTravelTimesWidget::zoomForward() {
+  mState->goInHistory(false);
+}
+
+void editTravelTimesWidget::confirmPicks() {
+  mState->confirmRange();
+}
+
+void editTravelTimesWidget::removePicks() {
+  mState->removeRange(false);
+}
+
+void editTravelTimesWidget::removeUnconfirmedPicks() {
+  mState->removeRange(true);
+}
+
+void editTravelTimesWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  mState->placePlot();
+}
+
+void editTravelTimesWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  switch (event->type()) {
+    case QEvent::LanguageChange:
+      setAccessibleName(tr("Seismic traces"));
+      mState->describe();
+      mState->placePlot();
+      break;
+    case QEvent::PaletteChange:
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::EnabledChange:
+      mState->placePlot();
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace talvesk

@@ -1,0 +1,144 @@
+#include "widgets/PickSnap.h"
+#include "widgets/editTravelTimesWidget_state.h"
+
+#include <QLocale>
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+/// A pick at 0 would be none: the earliest time that is one, seconds.
+constexpr double kEarliest = 1e-6;
+
+}  // namespace
+
+double editTravelTimesWidget::State::adjusted(int trace, double time, bool snapping) const {
+  const double end = traces.recordEnd(trace);
+  const double latest = std::max(end > 0.0 ? end : traces.timeEnd(), kEarliest);
+  time = std::clamp(time, kEarliest, latest);
+  if (snapping && options.snap != PickSnap::None) {
+    time = snapPick(traces.samples(trace), traces.interval(trace), traces.mean(trace), time,
+                    options.snap, options.snapRadius);
+  }
+  return std::clamp(time, kEarliest, latest);
+}
+
+PickStroke::Adjust editTravelTimesWidget::State::adjuster(bool snapping) const {
+  return [this, snapping](int trace, double time) { return adjusted(trace, time, snapping); };
+}
+
+void editTravelTimesWidget::State::edit(const QString& text, const std::map<int, double>& times,
+                                        PickEditCommand::Merge merge) {
+  std::vector<PickChange> changes;
+  for (const auto& [trace, time] : times) {
+    if (!traces.canPick(trace)) continue;
+    const double before = traces.measured(trace);
+    const bool nothing = hasPick(time) ? time == before : !hasPick(before);
+    if (nothing) continue;
+    changes.push_back({trace, before, time, review.waits(shot, trace), false});
+  }
+  push(text, std::move(changes), merge);
+}
+
+void editTravelTimesWidget::State::push(const QString& text, std::vector<PickChange> changes,
+                                        PickEditCommand::Merge merge) {
+  if (changes.empty() || document == nullptr) return;
+  stack.push(new PickEditCommand(text, *document, review, shot, std::move(changes), merge,
+                                 [this](const PickEditEffect& effect) { edited(effect); }));
+}
+
+void editTravelTimesWidget::State::edited(const PickEditEffect& effect) {
+  redrawMarks();
+  describe();
+  if (effect.added) emit widget.pick_added();
+  if (effect.timesChanged) emit widget.pick_edited();
+  if (effect.shot != shot) emit widget.shotEdited(effect.shot);
+}
+
+std::pair<int, int> editTravelTimesWidget::State::range() const {
+  if (selectedFirst >= 0) return {selectedFirst, selectedLast};
+  if (current >= 0) return {current, current};
+  return {0, -1};
+}
+
+void editTravelTimesWidget::State::removeRange(bool unconfirmedOnly) {
+  if (!canEdit()) return;
+  std::map<int, double> times;
+  const auto [first, last] = range();
+  for (int trace = first; trace <= last; ++trace) {
+    if (!unconfirmedOnly || review.waits(shot, trace)) times[trace] = kNoTime;
+  }
+  edit(times.size() > 1 ? editTravelTimesWidget::tr("Remove picks")
+                        : editTravelTimesWidget::tr("Remove pick"),
+       times);
+}
+
+void editTravelTimesWidget::State::confirmRange() {
+  if (!canEdit()) return;
+  std::vector<PickChange> changes;
+  const auto [first, last] = range();
+  for (int trace = first; trace <= last; ++trace) {
+    if (!traces.canPick(trace) || !review.waits(shot, trace)) continue;
+    const double time = traces.measured(trace);
+    changes.push_back({trace, time, time, true, false});
+  }
+  push(editTravelTimesWidget::tr("Confirm picks"), std::move(changes), PickEditCommand::Merge::No);
+}
+
+void editTravelTimesWidget::State::nudge(double seconds, bool keyHeld) {
+  if (!canEdit() || current < 0 || !hasPick(traces.measured(current))) return;
+  const double time = adjusted(current, traces.measured(current) + seconds, false);
+  edit(editTravelTimesWidget::tr("Nudge pick"), {{current, time}},
+       keyHeld ? PickEditCommand::Merge::KeyHeld : PickEditCommand::Merge::No);
+  reveal(current);
+}
+
+void editTravelTimesWidget::State::pickLikeNeighbour() {
+  if (!canEdit() || current < 0 || !traces.canPick(current)) return;
+  if (hasPick(traces.measured(current))) {
+    confirmRange();
+    return;
+  }
+  double time = 0.5 * (window.top + window.bottom);
+  for (int away = 1; away < layout.count(); ++away) {
+    const double left = traces.measured(layout.stepped(current, -away));
+    const double right = traces.measured(layout.stepped(current, away));
+    if (!hasPick(left) && !hasPick(right)) continue;
+    time = hasPick(left) && hasPick(right) ? 0.5 * (left + right) : hasPick(left) ? left : right;
+    break;
+  }
+  edit(editTravelTimesWidget::tr("Set pick"), {{current, adjusted(current, time, true)}});
+}
+
+void editTravelTimesWidget::State::setCurrent(int trace) {
+  if (trace < -1 || trace >= layout.count() || trace == current) return;
+  current = trace;
+  redrawMarks();
+  describe();
+  emit widget.selectionChanged();
+}
+
+void editTravelTimesWidget::State::select(int first, int last) {
+  if (first > last) std::swap(first, last);
+  if (first < 0 || last >= layout.count()) first = last = -1;
+  if (first == selectedFirst && last == selectedLast) return;
+  selectedFirst = first;
+  selectedLast = last;
+  redrawMarks();
+  emit widget.selectionChanged();
+}
+
+void editTravelTimesWidget::State::describe() {
+  QString text;
+  if (current >= 0 && current < layout.count()) {
+    const double pick = traces.measured(current);
+    text = hasPick(pick) ? editTravelTimesWidget::tr("Trace %1, picked at %2 ms")
+                               .arg(current + 1)
+                               .arg(QLocale().toString(1e3 * pick, 'f', 2))
+                         : editTravelTimesWidget::tr("Trace %1, not picked").arg(current + 1);
+  }
+  if (widget.accessibleDescription() != text) widget.setAccessibleDescription(text);
+}
+
+}  // namespace talvesk

@@ -1,0 +1,139 @@
+#pragma once
+
+#include "widgets/PickEdit.h"
+#include "widgets/PickStroke.h"
+#include "widgets/ShotTraces.h"
+#include "widgets/TraceColors.h"
+#include "widgets/TraceLayout.h"
+#include "widgets/TraceMapping.h"
+#include "widgets/ViewHistory.h"
+#include "widgets/WigglePainter.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QUndoStack>
+#include <map>
+#include <optional>
+#include <utility>
+
+class QScrollBar;
+
+namespace talvesk {
+
+/// What the trace view remembers between events. Its functions stand in the file of their purpose:
+/// _view.cpp, _edit.cpp, _mouse.cpp, _keys.cpp, _paint.cpp.
+struct editTravelTimesWidget::State {
+  explicit State(editTravelTimesWidget& owner) : widget(owner) {}
+
+  /// How a new window enters the history of views.
+  enum class Step {
+    New,         ///< the one before can be gone back to
+    Continuing,  ///< one of many small steps, that are gone back from together
+    Silent       ///< not at all
+  };
+  enum class Drag { None, Pick, Remove, Band, Pan, Ruler, Select };
+
+  // --- View.
+  void rebuildShot(bool newShot);
+  void placePlot();
+  TraceMapping mapping() const { return {plot, window}; }
+  TraceWindow wholeWindow() const;
+  TraceWindow openingWindow() const;
+  TraceWindow confinedWindow(const TraceWindow& wanted) const;
+  void show(const TraceWindow& wanted, Step step);
+  void zoomAbout(const QPointF& point, double byPosition, double byTime, Step step);
+  void zoomAboutMiddle(double by);
+  void goInHistory(bool back);
+  void reveal(int trace);  ///< moves the window so far that the trace and its pick are in sight
+  void syncScrollBars();
+  void scrolled(bool horizontal, int value);
+
+  // --- Picks.
+  bool canEdit() const { return document != nullptr && shot >= 0 && !options.showOnlyTraces; }
+  /// A time that may become a pick: within the record, drawn to a feature when snapping.
+  double adjusted(int trace, double time, bool snapping) const;
+  PickStroke::Adjust adjuster(bool snapping) const;
+  void edit(const QString& text, const std::map<int, double>& times,
+            PickEditCommand::Merge merge = PickEditCommand::Merge::No);
+  void push(const QString& text, std::vector<PickChange> changes, PickEditCommand::Merge merge);
+  void edited(const PickEditEffect& effect);
+  std::pair<int, int> range() const;  ///< selected traces or the current one; first > last: none
+  void removeRange(bool unconfirmedOnly);
+  void confirmRange();
+  void nudge(double seconds, bool keyHeld);
+  void pickLikeNeighbour();
+  void setCurrent(int trace);
+  void select(int first, int last);
+  void describe();  ///< tells assistive technology what is current
+
+  // --- Mouse.
+  int traceAt(const QPointF& point) const;
+  bool nearPick(const QPointF& point, int trace) const;
+  void beginDrag(Drag kind, const QPointF& point, bool snapping);
+  void continueDrag(const QPointF& point, bool snapping);
+  void finishDrag(const QPointF& point);
+  void cancelDrag();
+  void finishBand(const QPointF& point);
+  TraceCursor cursorFor(int trace, double time) const;
+  void hoverAt(const QPointF& point);
+  void changeGain(double factor);
+
+  // --- Keys; true: the key was one of these.
+  void walk(int steps, bool selecting);
+  bool walkKey(const QKeyEvent& event);
+  bool pickKey(const QKeyEvent& event);
+  bool viewKey(const QKeyEvent& event);
+  bool escape();
+
+  // --- Pictures.
+  void redrawAll();    ///< wiggles too
+  void redrawMarks();  ///< axes, guides, picks
+  void refreshPictures();
+  void paintStill(QPainter& painter);
+  void paintLive(QPainter& painter);
+  void paintEmpty(QPainter& painter);
+  WiggleScene scene() const { return {traces, layout, options, colors}; }
+
+  editTravelTimesWidget& widget;
+  TomoDocument* document = nullptr;
+  int shot = -1;
+  TraceViewOptions options;
+  TraceTool tool = TraceTool::Pick;
+
+  ShotTraces traces;
+  TraceLayout layout;
+  QRectF plot{0.0, 0.0, 1.0, 1.0};
+  TraceWindow window;
+  bool movedByUser = false;  ///< else the window follows size and options
+  ViewHistory history;
+  QElapsedTimer sinceStep;
+  QScrollBar* across = nullptr;
+  QScrollBar* down = nullptr;
+
+  int current = -1;
+  int selectedFirst = -1;
+  int selectedLast = -1;
+
+  Drag drag = Drag::None;
+  Qt::MouseButton dragButton = Qt::NoButton;
+  QPointF pressed;
+  TraceWindow pressedWindow;
+  int pressedTrace = -1;
+  bool strayed = false;  ///< the drag went beyond the trace that it started on
+  PickStroke stroke;
+  std::optional<std::pair<QPointF, QPointF>> ruler;  ///< positions, seconds
+  std::optional<QPointF> hover;                      ///< cursor, when over the plot
+  int hoverTrace = -1;
+
+  TraceColors colors;
+  QImage wiggles;
+  QImage still;
+  bool wigglesStale = true;
+  bool stillStale = true;
+
+  PickReview review;
+  QUndoStack stack;  ///< last: its commands refer to the others
+};
+
+}  // namespace talvesk

@@ -1,0 +1,186 @@
+#include "widgets/TraceAxes.h"
+#include "widgets/editTravelTimesWidget_state.h"
+
+#include <QFontMetricsF>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+constexpr double kLegible = 7.0;       ///< least pixels per trace of the opening view
+constexpr int kContinuingMs = 900;     ///< steps nearer in time than this are one
+constexpr double kLeastSamples = 6.0;  ///< that a window is high
+constexpr double kLeastTraces = 1.5;   ///< spacings that a window is wide
+constexpr double kSlowest = 320.0;     ///< m/s: first breaks come before the sound in the air
+constexpr int kScrollSteps = 100000;   ///< of a scroll bar, for the whole
+
+std::vector<double> distances(const ShotTraces& traces) {
+  std::vector<double> x;
+  for (int i = 0; i < traces.count(); ++i) x.push_back(traces.receiverX(i));
+  return x;
+}
+
+/// Time until which first breaks are to be expected, seconds.
+double firstBreakEnd(const ShotTraces& traces) {
+  double end = 0.0;
+  for (int i = 0; i < traces.count(); ++i) {
+    const double pick = traces.measured(i);
+    if (hasPick(pick)) end = std::max(end, std::min(1.25 * pick, traces.timeEnd()));
+  }
+  if (end > 0.0) return end;
+  for (int i = 0; i < traces.count(); ++i) {
+    const double arrival = std::fabs(traces.offset(i)) / kSlowest;
+    if (std::isfinite(arrival)) end = std::max(end, std::min(arrival, traces.timeEnd()));
+  }
+  return end > 0.0 ? end : 0.25 * traces.timeEnd();
+}
+
+void setBar(QScrollBar& bar, double from, double to, double low, double high) {
+  const QSignalBlocker quiet(bar);
+  const double scale = kScrollSteps / (high - low);
+  const int page = std::clamp(static_cast<int>(std::lround((to - from) * scale)), 1, kScrollSteps);
+  bar.setRange(0, kScrollSteps - page);
+  bar.setPageStep(page);
+  bar.setSingleStep(std::max(page / 12, 1));
+  bar.setValue(static_cast<int>(std::lround((from - low) * scale)));
+}
+
+}  // namespace
+
+void editTravelTimesWidget::State::rebuildShot(bool newShot) {
+  const int countBefore = layout.count();
+  traces = ShotTraces(document, shot, options.showFiltered);
+  layout = options.byDistance ? TraceLayout::byDistance(distances(traces))
+                              : TraceLayout::byChannel(traces.count());
+  hoverTrace = -1;
+  if (newShot) ruler.reset();
+  if (current >= layout.count()) current = -1;
+  if (selectedLast >= layout.count()) selectedFirst = selectedLast = -1;
+  if (current < 0 && layout.count() > 0) current = layout.order().front();
+  const TraceWindow whole = wholeWindow();
+  const bool overlaps = window.left < whole.right && window.right > whole.left;
+  if (movedByUser && (!overlaps || (!layout.isByDistance() && countBefore != layout.count()))) {
+    // The times that were looked at stay, whatever becomes of the traces.
+    window.left = whole.left;
+    window.right = whole.right;
+  }
+  placePlot();
+  emit widget.selectionChanged();
+}
+
+void editTravelTimesWidget::State::placePlot() {
+  const QFontMetricsF metrics(widget.font());
+  const QMarginsF margins = axisMargins(metrics);
+  const int thick = down->sizeHint().width();
+  const QRectF rest = QRectF(widget.rect()).adjusted(0.0, 0.0, -thick, -thick);
+  plot = rest.marginsRemoved(margins);
+  // Whole pixels keep the picture of the wiggles sharp.
+  plot = QRectF(std::ceil(plot.left()), std::ceil(plot.top()),
+                std::max(std::floor(plot.width()), 1.0), std::max(std::floor(plot.height()), 1.0));
+  down->setGeometry(widget.width() - thick, static_cast<int>(plot.top()), thick,
+                    static_cast<int>(plot.height()));
+  across->setGeometry(static_cast<int>(plot.left()), widget.height() - thick,
+                      static_cast<int>(plot.width()), thick);
+  const bool any = layout.count() > 0;
+  down->setVisible(any);
+  across->setVisible(any);
+  window = confinedWindow(movedByUser ? window : openingWindow());
+  syncScrollBars();
+  redrawAll();
+  emit widget.viewChanged();
+}
+
+TraceWindow editTravelTimesWidget::State::wholeWindow() const {
+  const double margin = layout.spacing();
+  return {layout.first() - margin, layout.last() + margin, 0.0, traces.timeEnd()};
+}
+
+TraceWindow editTravelTimesWidget::State::openingWindow() const {
+  TraceWindow opening = wholeWindow();
+  if (options.zoomIn) opening.bottom = firstBreakEnd(traces);
+  if (!options.showAllTraces) {
+    const double legible = plot.width() / kLegible * layout.spacing();
+    opening.right = std::min(opening.right, opening.left + legible);
+  }
+  return opening;
+}
+
+TraceWindow editTravelTimesWidget::State::confinedWindow(const TraceWindow& wanted) const {
+  double interval = traces.timeEnd();
+  for (int i = 0; i < traces.count(); ++i) interval = std::min(interval, traces.interval(i));
+  return confined(wanted, wholeWindow(), kLeastTraces * layout.spacing(), kLeastSamples * interval);
+}
+
+void editTravelTimesWidget::State::show(const TraceWindow& wanted, Step step) {
+  const TraceWindow next = confinedWindow(wanted);
+  if (next == window) return;
+  const bool goesOn =
+      step == Step::Continuing && sinceStep.isValid() && sinceStep.elapsed() < kContinuingMs;
+  if (step != Step::Silent && !goesOn) history.leave(window);
+  if (step == Step::Continuing) {
+    sinceStep.start();
+  } else {
+    sinceStep.invalidate();
+  }
+  window = next;
+  movedByUser = true;
+  syncScrollBars();
+  redrawAll();
+  emit widget.viewChanged();
+}
+
+void editTravelTimesWidget::State::zoomAbout(const QPointF& point, double byPosition, double byTime,
+                                             Step step) {
+  const TraceMapping map = mapping();
+  const double x = std::clamp(point.x(), plot.left(), plot.right());
+  const double y = std::clamp(point.y(), plot.top(), plot.bottom());
+  show(zoomed(window, map.positionAt(x), map.timeAt(y), byPosition, byTime), step);
+}
+
+void editTravelTimesWidget::State::zoomAboutMiddle(double by) {
+  // About the cursor while it is over the traces, so that keys zoom where the user looks.
+  zoomAbout(hover ? *hover : plot.center(), by, by, Step::New);
+}
+
+void editTravelTimesWidget::State::goInHistory(bool back) {
+  const TraceWindow to = back ? history.back(window) : history.forward(window);
+  show(to, Step::Silent);
+  emit widget.viewChanged();
+}
+
+void editTravelTimesWidget::State::reveal(int trace) {
+  if (trace < 0 || trace >= layout.count()) return;
+  TraceWindow wanted = window;
+  const double margin = std::min(layout.spacing(), 0.25 * window.width());
+  const double x = layout.position(trace);
+  if (x - margin < window.left) wanted = moved(wanted, x - margin - window.left, 0.0);
+  if (x + margin > window.right) wanted = moved(wanted, x + margin - window.right, 0.0);
+  const double pick = traces.measured(trace);
+  if (hasPick(pick) && pick < traces.timeEnd() && (pick < window.top || pick > window.bottom)) {
+    wanted = moved(wanted, 0.0, pick - 0.5 * (window.top + window.bottom));
+  }
+  show(wanted, Step::Continuing);
+}
+
+void editTravelTimesWidget::State::syncScrollBars() {
+  const TraceWindow whole = wholeWindow();
+  setBar(*across, window.left, window.right, whole.left, whole.right);
+  setBar(*down, window.top, window.bottom, whole.top, whole.bottom);
+}
+
+void editTravelTimesWidget::State::scrolled(bool horizontal, int value) {
+  const TraceWindow whole = wholeWindow();
+  const double part = static_cast<double>(value) / kScrollSteps;
+  TraceWindow wanted = window;
+  if (horizontal) {
+    wanted = moved(window, whole.left + part * whole.width() - window.left, 0.0);
+  } else {
+    wanted = moved(window, 0.0, whole.top + part * whole.height() - window.top);
+  }
+  show(wanted, Step::Silent);
+}
+
+}  // namespace talvesk
