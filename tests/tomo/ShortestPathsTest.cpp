@@ -1,9 +1,8 @@
+#include "support/ReferenceSearch.h"
+#include "support/TestGrids.h"
 #include "tomo/ShortestPaths.h"
 
 #include <gtest/gtest.h>
-
-#include "support/ReferenceSearch.h"
-#include "support/TestGrids.h"
 
 namespace talvesk {
 namespace {
@@ -70,8 +69,8 @@ TEST(ShortestPaths, equalTheReferenceFromInsideTheGround) {
   }
 }
 
-// Notches in the surface are filled by the smoothing: below them the next line rises by one node step,
-// and the lowest side node falls exactly onto the corner below it.
+// Notches in the surface are filled by the smoothing: below them the next line rises by one node
+// step, and the lowest side node falls exactly onto the corner below it.
 TEST(ShortestPaths, equalTheReferenceOverEdgesOfNoLength) {
   Splines::LinearSpline notches;
   std::vector<double> x, z;
