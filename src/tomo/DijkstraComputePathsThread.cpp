@@ -23,12 +23,14 @@ void DijkstraComputePathsThread::use(ShortestPaths& search, std::vector<double>&
   mSearch = &search;
   mCorrection = &correction;
   mRayLength = &rayLength;
+  mFailure = "the thread could not be started";  // until it has run to its end
 }
 
 void DijkstraComputePathsThread::run() {
   try {
     if (mRays.empty()) traceRays();
     for (std::uint32_t i = 0; i < mRays.size(); ++i) evaluateRay(i);
+    mFailure.clear();
   } catch (const std::exception& error) {
     mFailure = error.what();
   } catch (...) {
