@@ -5,9 +5,9 @@
     <name>talvesk::Messages</name>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>and one more</numerusform>
+            <numerusform>and %n more</numerusform>
         </translation>
     </message>
 </context>
@@ -15,30 +15,30 @@
     <name>talvesk::Talvesk_MainWindows</name>
     <message numerus="yes">
         <source>%n shot file(s) loaded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n shot file loaded.</numerusform>
+            <numerusform>%n shot files loaded.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n with warnings, see Traces &gt; Recording details.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n with warnings, see Traces &gt; Recording details.</numerusform>
+            <numerusform>%n with warnings, see Traces &gt; Recording details.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n trace(s) end before the shot and stay as recorded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n trace ends before the shot and stays as recorded.</numerusform>
+            <numerusform>%n traces end before the shot and stay as recorded.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n trace(s) stay as they were.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n trace stays as it was.</numerusform>
+            <numerusform>%n traces stay as they were.</numerusform>
         </translation>
     </message>
 </context>

@@ -5,86 +5,64 @@
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sì</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Non salvare</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Applica</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>talvesk</name>
-    <message>
-        <source>Channel</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>talvesk::Axes</name>
-    <message>
-        <source>x (m)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Channel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Time (ms)</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri</translation>
     </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
     <message>
         <source>The document has been modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento è stato modificato</translation>
     </message>
     <message>
         <source>Do you want to save your changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare le modifiche?</translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>e un altro</numerusform>
+            <numerusform>e altri %n</numerusform>
         </translation>
     </message>
 </context>
@@ -92,1147 +70,1240 @@
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
-        <translation type="unfinished"></translation>
+        <translation>Dettagli di registrazione</translation>
     </message>
     <message>
         <source>&amp;Shot:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tiro:</translation>
     </message>
     <message>
         <source>File:</source>
-        <translation type="unfinished"></translation>
+        <translation>File:</translation>
     </message>
     <message>
         <source>Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato:</translation>
     </message>
     <message>
         <source>Traces:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracce:</translation>
     </message>
     <message>
         <source>Samples per trace:</source>
-        <translation type="unfinished"></translation>
+        <translation>Campioni per traccia:</translation>
     </message>
     <message>
         <source>Sample interval:</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervallo di campionamento:</translation>
     </message>
     <message>
         <source>Record length:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza della registrazione:</translation>
     </message>
     <message>
         <source>Recording delay:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritardo di registrazione:</translation>
     </message>
     <message>
         <source>Samples dropped before the shot:</source>
-        <translation type="unfinished"></translation>
+        <translation>Campioni tolti prima del tiro:</translation>
     </message>
     <message>
         <source>Traces of the shot</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracce del tiro</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canale</translation>
     </message>
     <message>
         <source>Geophone x (m)</source>
-        <translation type="unfinished"></translation>
+        <translation>Geofono x (m)</translation>
     </message>
     <message>
         <source>Geophone z (m)</source>
-        <translation type="unfinished"></translation>
+        <translation>Geofono z (m)</translation>
     </message>
     <message>
         <source>Shot x (m)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiro x (m)</translation>
     </message>
     <message>
         <source>Shot z (m)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiro z (m)</translation>
     </message>
     <message>
         <source>Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Campioni</translation>
     </message>
     <message>
         <source>Interval (ms)</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervallo (ms)</translation>
     </message>
     <message>
         <source>Delay (ms)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritardo (ms)</translation>
     </message>
     <message>
         <source>&amp;Warnings of the reader:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avvertimenti del lettore:</translation>
     </message>
     <message>
         <source>ms</source>
-        <translation type="unfinished"></translation>
+        <translation>ms</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno</translation>
     </message>
 </context>
 <context>
     <name>talvesk::SettingsDialog</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lingua:</translation>
     </message>
     <message>
         <source>Traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracce</translation>
     </message>
     <message>
         <source>Fill wiggle</source>
-        <translation type="unfinished"></translation>
+        <translation>Riempi le oscillazioni</translation>
     </message>
     <message>
         <source>Fills the positive half of every wiggle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Riempie la metà positiva di ogni oscillazione.</translation>
     </message>
     <message>
         <source>Two colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Due colori</translation>
     </message>
     <message>
         <source>Fills the two halves of every wiggle in two colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Riempie le due metà di ogni oscillazione con due colori.</translation>
     </message>
     <message>
         <source>Cut at the neighbour</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia alla traccia vicina</translation>
     </message>
     <message>
         <source>Ends every wiggle where the next trace begins. Otherwise strong wiggles run over their neighbours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma ogni oscillazione dove comincia la traccia vicina. Altrimenti le oscillazioni forti coprono le vicine.</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingrandisci</translation>
     </message>
     <message>
         <source>Show filtered traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le tracce filtrate</translation>
     </message>
     <message>
         <source>Shows the filtered copy of the traces where there is one. AutoPick then picks on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la copia filtrata delle tracce, dove c&apos;è. L&apos;AutoPick lavora allora su di essa.</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini</translation>
     </message>
     <message>
         <source>Horizontal colour bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei colori orizzontale</translation>
     </message>
     <message>
         <source>Puts the colour bar of saved PNG pictures below the section, not beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mette la barra dei colori delle immagini PNG sotto la sezione invece che a lato.</translation>
     </message>
     <message>
         <source>Opens shots at the part of the record that holds the first breaks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre i tiri sulla parte della registrazione che contiene i primi arrivi.</translation>
     </message>
     <message>
         <source>Show all traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutte le tracce</translation>
     </message>
     <message>
         <source>Opens shots with all traces in view, however narrow. AutoPick, AGC and Hushel then work on all shots.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre i tiri con tutte le tracce in vista, per quanto strette. AutoPick, AGC e Hushel lavorano allora su tutti i tiri.</translation>
     </message>
 </context>
 <context>
     <name>talvesk::Talvesk_MainWindows</name>
     <message>
         <source>Traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracce</translation>
     </message>
     <message>
         <source>&lt;h2&gt;No survey yet&lt;/h2&gt;&lt;p&gt;Open shot files with Ctrl+O, or drop them here.&lt;/p&gt;&lt;p&gt;Picks without traces come in with File &amp;gt; Import TravelTimes.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Nessun rilievo&lt;/h2&gt;&lt;p&gt;Apri i file dei tiri con Ctrl+O, o trascinali qui.&lt;/p&gt;&lt;p&gt;I tempi senza tracce si caricano con File &amp;gt; Importa tempi di arrivo.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Traces and picks of the current shot</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracce e primi arrivi del tiro in vista</translation>
     </message>
     <message>
         <source>Traces and picks, second view</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracce e primi arrivi, seconda vista</translation>
     </message>
     <message>
         <source>Travel times of the current shot</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempi di arrivo del tiro in vista</translation>
     </message>
     <message>
         <source>Draw the picks of the other shots faintly over the traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna in chiaro sulle tracce i primi arrivi degli altri tiri</translation>
     </message>
     <message>
         <source>Show All Picks</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutti i primi arrivi</translation>
     </message>
     <message>
         <source>Show the filtered copy of the traces where there is one</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la copia filtrata delle tracce, dove c&apos;è</translation>
     </message>
     <message>
         <source>Show Filtered Traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le tracce filtrate</translation>
     </message>
     <message>
         <source>Hide the picks and the travel-time preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Nasconde i primi arrivi e l&apos;anteprima dei tempi</translation>
     </message>
     <message>
         <source>Show Only Traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra solo le tracce</translation>
     </message>
     <message>
         <source>Draw the times that the last inversion computed</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna i tempi calcolati dall&apos;ultima inversione</translation>
     </message>
     <message>
         <source>Show computed Travel Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra i tempi calcolati</translation>
     </message>
     <message>
         <source>Travel time curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Dromocrone</translation>
     </message>
     <message>
         <source>Travel time curves of all shots</source>
-        <translation type="unfinished"></translation>
+        <translation>Dromocrone di tutti i tiri</translation>
     </message>
     <message>
         <source>Tomographic profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezione tomografica</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;File</translation>
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Esporta</translation>
     </message>
     <message>
         <source>&amp;KML</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;KML</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vista</translation>
     </message>
     <message>
         <source>Show Velocity Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il gradiente di velocità</translation>
     </message>
     <message>
         <source>Show Geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra i geofoni</translation>
     </message>
     <message>
         <source>&amp;Traces</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tracce</translation>
     </message>
     <message>
         <source>Picks of the selected traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Primi arrivi delle tracce scelte</translation>
     </message>
     <message>
         <source>Mouse tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Strumento del mouse</translation>
     </message>
     <message>
         <source>Snap picks to</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggancia i primi arrivi a</translation>
     </message>
     <message>
         <source>Wiggles</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscillazioni</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aiuto</translation>
     </message>
     <message>
         <source>&amp;Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Progetto</translation>
     </message>
     <message>
         <source>P&amp;rocessing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elaborazione</translation>
     </message>
     <message>
         <source>Survey</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilievo</translation>
     </message>
     <message>
         <source>New...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo...</translation>
     </message>
     <message>
         <source>Start a new survey: empties this one, then asks for shot files</source>
-        <translation type="unfinished"></translation>
+        <translation>Comincia un nuovo rilievo: svuota questo, poi chiede i file dei tiri</translation>
     </message>
     <message>
         <source>Import TravelTimes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa tempi di arrivo...</translation>
     </message>
     <message>
         <source>Load traveltimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica i tempi di arrivo</translation>
     </message>
     <message>
         <source>Apply smoothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Applica lo smussamento</translation>
     </message>
     <message>
         <source>Smooth the velocities of the section once more</source>
-        <translation type="unfinished"></translation>
+        <translation>Smussa ancora una volta le velocità della sezione</translation>
     </message>
     <message>
         <source>Run tomography inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegui l&apos;inversione tomografica</translation>
     </message>
     <message>
         <source>Invert the picks into a velocity section</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverte i primi arrivi in una sezione di velocità</translation>
     </message>
     <message>
         <source>Grid view</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista a celle</translation>
     </message>
     <message>
         <source>Draw the section cell by cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna la sezione cella per cella</translation>
     </message>
     <message>
         <source>Smooth view</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista sfumata</translation>
     </message>
     <message>
         <source>Draw the section with velocities blended between cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna la sezione con velocità sfumate fra le celle</translation>
     </message>
     <message>
         <source>Export tomographic data ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta i dati tomografici ...</translation>
     </message>
     <message>
         <source>Write the velocities, rays and times of the last inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive velocità, raggi e tempi dell&apos;ultima inversione</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Successivo</translation>
     </message>
     <message>
         <source>Show the next seismic file</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il file sismico successivo</translation>
     </message>
     <message>
         <source>Prev</source>
-        <translation type="unfinished"></translation>
+        <translation>Precedente</translation>
     </message>
     <message>
         <source>Show the previous file</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il file precedente</translation>
     </message>
     <message>
         <source>Define model velocity</source>
-        <translation type="unfinished"></translation>
+        <translation>Definisci il modello di velocità</translation>
     </message>
     <message>
         <source>Set the layers and velocities that the inversion starts from</source>
-        <translation type="unfinished"></translation>
+        <translation>Definisce gli strati e le velocità da cui parte l&apos;inversione</translation>
     </message>
     <message>
         <source>Load Project...</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri progetto...</translation>
     </message>
     <message>
         <source>Open a project with its shots, picks and section</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre un progetto con tiri, primi arrivi e sezione</translation>
     </message>
     <message>
         <source>Save Project As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva progetto con nome...</translation>
     </message>
     <message>
         <source>Save the project in a file of another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva il progetto in un file con un altro nome</translation>
     </message>
     <message>
         <source>Images ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini ...</translation>
     </message>
     <message>
         <source>Save pictures of the section, the curves and the traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva immagini della sezione, delle dromocrone e delle tracce</translation>
     </message>
     <message>
         <source>AutoPick</source>
-        <translation type="unfinished"></translation>
+        <translation>AutoPick</translation>
     </message>
     <message>
         <source>Pick the first breaks of the current shot, or of all shots when all traces are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova i primi arrivi del tiro in vista, o di tutti i tiri quando si mostrano tutte le tracce</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>Version, libraries and licence of Talvesk</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione, librerie e licenza di Talvesk</translation>
     </message>
     <message>
         <source>Geometry ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Geometria ...</translation>
     </message>
     <message>
         <source>Set the positions of geophones and shots</source>
-        <translation type="unfinished"></translation>
+        <translation>Definisce le posizioni di geofoni e tiri</translation>
     </message>
     <message>
         <source>Grid ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Griglia ...</translation>
     </message>
     <message>
         <source>Lay the grid of the tomography under the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Stende la griglia della tomografia sotto la linea</translation>
     </message>
     <message>
         <source>PDF ...</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF ...</translation>
     </message>
     <message>
         <source>Write a report of the survey as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive una relazione del rilievo in PDF</translation>
     </message>
     <message>
         <source>Palette Options...</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni della tavolozza...</translation>
     </message>
     <message>
         <source>Choose the colours of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sceglie i colori della sezione</translation>
     </message>
     <message>
         <source>ODT...</source>
-        <translation type="unfinished"></translation>
+        <translation>ODT...</translation>
     </message>
     <message>
         <source>Write a report of the survey as a text document</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive una relazione del rilievo come documento di testo</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci</translation>
     </message>
     <message>
         <source>Close Talvesk</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiude Talvesk</translation>
     </message>
     <message>
         <source>On line help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuto in linea</translation>
     </message>
     <message>
         <source>Open the help pages on the web, or the user guide without a network</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre le pagine di aiuto sul web, o la guida se manca la rete</translation>
     </message>
     <message>
         <source>Show Rays</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra i raggi</translation>
     </message>
     <message>
         <source>Overlay the seismic rays to profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Sovrappone i raggi sismici alla sezione</translation>
     </message>
     <message>
         <source>Fill wiggle</source>
-        <translation type="unfinished"></translation>
+        <translation>Riempi le oscillazioni</translation>
     </message>
     <message>
         <source>Fill the positive half of every wiggle</source>
-        <translation type="unfinished"></translation>
+        <translation>Riempie la metà positiva di ogni oscillazione</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Language, trace view and image options</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua, vista delle tracce e opzioni delle immagini</translation>
     </message>
     <message>
         <source>Show Contour Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le isolinee</translation>
     </message>
     <message>
         <source>Draw lines of equal velocity over the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna sulla sezione le linee di uguale velocità</translation>
     </message>
     <message>
         <source>Set geographic coordinates ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordinate geografiche ...</translation>
     </message>
     <message>
         <source>Say where the first and the last geophone lie on the map</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice dove si trovano sulla mappa il primo e l&apos;ultimo geofono</translation>
     </message>
     <message>
         <source>Reset View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina la vista</translation>
     </message>
     <message>
         <source>Bring the whole section back into view</source>
-        <translation type="unfinished"></translation>
+        <translation>Riporta in vista tutta la sezione</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva progetto</translation>
     </message>
     <message>
         <source>Save the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva il progetto</translation>
     </message>
     <message>
         <source>Vertical Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Gradiente verticale</translation>
     </message>
     <message>
         <source>Show how fast the velocity grows with depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra quanto cresce la velocità con la profondità</translation>
     </message>
     <message>
         <source>Laplacian Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Gradiente laplaciano</translation>
     </message>
     <message>
         <source>Show where the velocity changes most abruptly</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra dove la velocità cambia più bruscamente</translation>
     </message>
     <message>
         <source>Show Tomographic Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la sezione tomografica</translation>
     </message>
     <message>
         <source>Show the velocity section</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la sezione di velocità</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Guida per l&apos;utente</translation>
     </message>
     <message>
         <source>Open the guide that comes with Talvesk</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre la guida che accompagna Talvesk</translation>
     </message>
     <message>
         <source>Filter...</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro...</translation>
     </message>
     <message>
         <source>Filter the traces of the current shot by frequency, with spectrum and preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtra in frequenza le tracce del tiro in vista, con spettro e anteprima</translation>
     </message>
     <message>
         <source>Apply Hushel</source>
-        <translation type="unfinished"></translation>
+        <translation>Applica Hushel</translation>
     </message>
     <message>
         <source>Apply Hushel - The Noise Reduction tool for seismic refraction data</source>
-        <translation type="unfinished"></translation>
+        <translation>Applica Hushel - La riduzione del rumore per i dati di sismica a rifrazione</translation>
     </message>
     <message>
         <source>AGC</source>
-        <translation type="unfinished"></translation>
+        <translation>AGC</translation>
     </message>
     <message>
         <source>Even out the amplitudes of the traces (automatic gain control)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pareggia le ampiezze delle tracce (controllo automatico del guadagno)</translation>
     </message>
     <message>
         <source>Refraction</source>
-        <translation type="unfinished"></translation>
+        <translation>Rifrazione</translation>
     </message>
     <message>
         <source>Interpret the picks layer by layer with the reciprocal method</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpreta i primi arrivi strato per strato con il metodo reciproco</translation>
     </message>
     <message>
         <source>Small</source>
-        <translation type="unfinished"></translation>
+        <translation>Piccoli</translation>
     </message>
     <message>
         <source>Draw small geophones on the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna geofoni piccoli sulla sezione</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normali</translation>
     </message>
     <message>
         <source>Draw geophones of normal size on the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna geofoni di grandezza normale sulla sezione</translation>
     </message>
     <message>
         <source>Large</source>
-        <translation type="unfinished"></translation>
+        <translation>Grandi</translation>
     </message>
     <message>
         <source>Draw large geophones on the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna geofoni grandi sulla sezione</translation>
     </message>
     <message>
         <source>Show refraction</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la rifrazione</translation>
     </message>
     <message>
         <source>Overlay the refractors of the layered interpretation</source>
-        <translation type="unfinished"></translation>
+        <translation>Sovrappone i rifrattori dell&apos;interpretazione a strati</translation>
     </message>
     <message>
         <source>Show scalarbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la scala dei colori</translation>
     </message>
     <message>
         <source>Show the colour scale beside the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la scala dei colori accanto alla sezione</translation>
     </message>
     <message>
         <source>Screenshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Istantanea</translation>
     </message>
     <message>
         <source>Take a Screenshot of the tomographic profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Prende un&apos;istantanea della sezione tomografica</translation>
     </message>
     <message>
         <source>Export TravelTimes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta tempi di arrivo...</translation>
     </message>
     <message>
         <source>Write picks and positions to a travel-time file</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive primi arrivi e posizioni in un file</translation>
     </message>
     <message>
         <source>Show Information Density Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la densità d&apos;informazione</translation>
     </message>
     <message>
         <source>Veil the parts of the section that few rays cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Vela le parti della sezione attraversate da pochi raggi</translation>
     </message>
     <message>
         <source>Show Grid Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le linee della griglia</translation>
     </message>
     <message>
         <source>Draw distance and depth lines over the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna sulla sezione linee di distanza e profondità</translation>
     </message>
     <message>
         <source>Set title ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo ...</translation>
     </message>
     <message>
         <source>Set prject title</source>
-        <translation type="unfinished"></translation>
+        <translation>Definisce il titolo del progetto</translation>
     </message>
     <message>
         <source>Show title ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il titolo ...</translation>
     </message>
     <message>
         <source>Write the project title over the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive il titolo del progetto sopra la sezione</translation>
     </message>
     <message>
         <source>Tomography to text file ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomografia in un file di testo ...</translation>
     </message>
     <message>
         <source>Export tomography as a XYZVelocity gridded text file</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta la tomografia in un file di testo XYZVelocità</translation>
     </message>
     <message>
         <source>Tomographic profile ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezione tomografica ...</translation>
     </message>
     <message>
         <source>Export the section to KML, standing on the globe</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta la sezione in KML, in piedi sul globo</translation>
     </message>
     <message>
         <source>Seismic line ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Linea sismica ...</translation>
     </message>
     <message>
         <source>Export seismic line to KML</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta la linea sismica in KML</translation>
     </message>
     <message>
         <source>Open shot files...</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri file dei tiri...</translation>
     </message>
     <message>
         <source>Add shot files (SEG-2, SEG-Y, SU) to the survey</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunge al rilievo file dei tiri (SEG-2, SEG-Y, SU)</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla modifica</translation>
     </message>
     <message>
         <source>Take back the last edit of the picks</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla l&apos;ultima modifica dei primi arrivi</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripeti modifica</translation>
     </message>
     <message>
         <source>Do again the edit that was taken back</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripete la modifica annullata</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingrandisci</translation>
     </message>
     <message>
         <source>Open shots at the part of the record that holds the first breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre i tiri sulla parte della registrazione che contiene i primi arrivi</translation>
     </message>
     <message>
         <source>Cut at the neighbour</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia alla traccia vicina</translation>
     </message>
     <message>
         <source>End every wiggle where the next trace begins</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma ogni oscillazione dove comincia la traccia vicina</translation>
     </message>
     <message>
         <source>Two colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Due colori</translation>
     </message>
     <message>
         <source>Fill the two halves of every wiggle in two colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Riempie le due metà di ogni oscillazione con due colori</translation>
     </message>
     <message>
         <source>Show filtered traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le tracce filtrate</translation>
     </message>
     <message>
         <source>Show the filtered copy of the traces where there is one; AutoPick then picks on it</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la copia filtrata delle tracce, dove c&apos;è; l&apos;AutoPick lavora allora su di essa</translation>
     </message>
     <message>
         <source>Show all traces</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutte le tracce</translation>
     </message>
     <message>
         <source>Open shots with all traces in view; AutoPick, AGC and Hushel then work on all shots</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre i tiri con tutte le tracce in vista; AutoPick, AGC e Hushel lavorano allora su tutti i tiri</translation>
     </message>
     <message>
         <source>At true distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Alla distanza vera</translation>
     </message>
     <message>
         <source>Place the traces at their distance along the line, not one beside the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Mette le tracce alla loro distanza lungo la linea, non una accanto all&apos;altra</translation>
     </message>
     <message>
         <source>True amplitudes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampiezze vere</translation>
     </message>
     <message>
         <source>Keep the amplitudes of a shot in proportion; otherwise every trace is as wide as the others</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantiene le proporzioni fra le ampiezze di un tiro; altrimenti ogni traccia è larga come le altre</translation>
     </message>
     <message>
         <source>Air wave</source>
-        <translation type="unfinished"></translation>
+        <translation>Onda d&apos;aria</translation>
     </message>
     <message>
         <source>Draw the line of the sound that travels through the air</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna la linea del suono che viaggia nell&apos;aria</translation>
     </message>
     <message>
         <source>Magnifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Lente</translation>
     </message>
     <message>
         <source>Enlarge what is around the cursor (key M)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingrandisce ciò che sta intorno al cursore (tasto M)</translation>
     </message>
     <message>
         <source>Larger wiggles</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscillazioni più grandi</translation>
     </message>
     <message>
         <source>Raise the gain (key ])</source>
-        <translation type="unfinished"></translation>
+        <translation>Alza il guadagno (tasto ])</translation>
     </message>
     <message>
         <source>Smaller wiggles</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscillazioni più piccole</translation>
     </message>
     <message>
         <source>Lower the gain (key [)</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbassa il guadagno (tasto [)</translation>
     </message>
     <message>
         <source>Pick</source>
-        <translation type="unfinished"></translation>
+        <translation>Primo arrivo</translation>
     </message>
     <message>
         <source>Click sets a pick, dragging moves it or draws a run of picks, right click removes it</source>
-        <translation type="unfinished"></translation>
+        <translation>Il clic mette un primo arrivo, trascinando lo si sposta o se ne traccia una serie, il clic destro lo toglie</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingrandimento</translation>
     </message>
     <message>
         <source>Drag a rectangle to zoom to it</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina un rettangolo per ingrandirlo</translation>
     </message>
     <message>
         <source>Pan</source>
-        <translation type="unfinished"></translation>
+        <translation>Spostamento</translation>
     </message>
     <message>
         <source>Drag the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina l&apos;immagine</translation>
     </message>
     <message>
         <source>Ruler</source>
-        <translation type="unfinished"></translation>
+        <translation>Righello</translation>
     </message>
     <message>
         <source>Drag a line to read its apparent velocity (key R)</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina una linea per leggerne la velocità apparente (tasto R)</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Selezione</translation>
     </message>
     <message>
         <source>Drag over traces to confirm or remove their picks together</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina sulle tracce per confermarne o toglierne insieme i primi arrivi</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Niente</translation>
     </message>
     <message>
         <source>Picks stay where they are set</source>
-        <translation type="unfinished"></translation>
+        <translation>I primi arrivi restano dove sono messi</translation>
     </message>
     <message>
         <source>Onset</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizio del segnale</translation>
     </message>
     <message>
         <source>Draw picks to where the noise ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Porta i primi arrivi dove finisce il rumore</translation>
     </message>
     <message>
         <source>Zero crossing</source>
-        <translation type="unfinished"></translation>
+        <translation>Passaggio per lo zero</translation>
     </message>
     <message>
         <source>Draw picks to the nearest change of sign</source>
-        <translation type="unfinished"></translation>
+        <translation>Porta i primi arrivi al cambio di segno più vicino</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Picco</translation>
     </message>
     <message>
         <source>Draw picks to the strongest peak or trough nearby</source>
-        <translation type="unfinished"></translation>
+        <translation>Porta i primi arrivi al picco o alla valle più forte vicina</translation>
     </message>
     <message>
         <source>Confirm picks</source>
-        <translation type="unfinished"></translation>
+        <translation>Conferma i primi arrivi</translation>
     </message>
     <message>
         <source>Make the automatic picks of the selected traces your own (key C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fa propri i primi arrivi automatici delle tracce scelte (tasto C)</translation>
     </message>
     <message>
         <source>Remove picks</source>
-        <translation type="unfinished"></translation>
+        <translation>Togli i primi arrivi</translation>
     </message>
     <message>
         <source>Remove the picks of the selected traces (key Delete)</source>
-        <translation type="unfinished"></translation>
+        <translation>Toglie i primi arrivi delle tracce scelte (tasto Canc)</translation>
     </message>
     <message>
         <source>Remove unconfirmed picks</source>
-        <translation type="unfinished"></translation>
+        <translation>Togli i primi arrivi non confermati</translation>
     </message>
     <message>
         <source>Remove the automatic picks of the selected traces that were not confirmed</source>
-        <translation type="unfinished"></translation>
+        <translation>Toglie i primi arrivi automatici delle tracce scelte che non sono stati confermati</translation>
     </message>
     <message>
         <source>Show everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutto</translation>
     </message>
     <message>
         <source>Show all traces and all times (key F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutte le tracce e tutti i tempi (tasto F)</translation>
     </message>
     <message>
         <source>Previous view</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista precedente</translation>
     </message>
     <message>
         <source>Go back to the view before the last zoom (key Backspace)</source>
-        <translation type="unfinished"></translation>
+        <translation>Torna alla vista prima dell&apos;ultimo ingrandimento (tasto Backspace)</translation>
     </message>
     <message>
         <source>Next view</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista successiva</translation>
     </message>
     <message>
         <source>Go forward again after going back (keys Shift+Backspace)</source>
-        <translation type="unfinished"></translation>
+        <translation>Torna avanti dopo essere tornati indietro (tasti Maiusc+Backspace)</translation>
     </message>
     <message>
         <source>Recording details...</source>
-        <translation type="unfinished"></translation>
+        <translation>Dettagli di registrazione...</translation>
     </message>
     <message>
         <source>What the shot files hold: samples, interval, delay, positions, warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Che cosa contengono i file dei tiri: campioni, intervallo, ritardo, posizioni, avvertimenti</translation>
     </message>
     <message>
         <source>Shot in view</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiro in vista</translation>
     </message>
     <message>
         <source>The shot in view</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tiro in vista</translation>
     </message>
     <message>
         <source>Open Seismic Trace</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri tracce sismiche</translation>
     </message>
     <message>
         <source>SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato SEG2 (*.sg2 *.dat *.seg2);;Formato SEGY (*.sgy *.segy);;Formato SU (*.su);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>Loading shot files ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Caricamento dei file dei tiri ...</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma</translation>
     </message>
     <message>
         <source>Error occured</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore</translation>
     </message>
     <message>
         <source>Unsupported file format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato di file non supportato.</translation>
     </message>
     <message>
         <source>Error while loading one or more traces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore nel caricamento di una o più tracce.</translation>
     </message>
     <message numerus="yes">
         <source>%n shot file(s) loaded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n file caricato.</numerusform>
+            <numerusform>%n file caricati.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n with warnings, see Traces &gt; Recording details.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n con avvertimenti, vedi Tracce &gt; Dettagli di registrazione.</numerusform>
+            <numerusform>%n con avvertimenti, vedi Tracce &gt; Dettagli di registrazione.</numerusform>
         </translation>
     </message>
     <message>
         <source>Recording delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritardo di registrazione</translation>
     </message>
     <message>
         <source>The records start before the shot, by up to %1 ms.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le registrazioni cominciano prima del tiro, fino a %1 ms.</translation>
     </message>
     <message>
         <source>Do you want to count times from the shot? What was recorded before it is then dropped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Contare i tempi dal tiro? Ciò che è stato registrato prima viene allora tolto.</translation>
     </message>
     <message numerus="yes">
         <source>%n trace(s) end before the shot and stay as recorded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n traccia finisce prima del tiro e resta come registrata.</numerusform>
+            <numerusform>%n tracce finiscono prima del tiro e restano come registrate.</numerusform>
         </translation>
     </message>
     <message>
         <source>Import TravelTimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa tempi di arrivo</translation>
     </message>
     <message>
         <source>Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempi di arrivo (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>Error while loading %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore nel caricamento di %1.</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvertimento</translation>
     </message>
     <message>
         <source>%1 was loaded with warnings.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è stato caricato con avvertimenti.</translation>
     </message>
     <message>
         <source>Save TravelTimeExchange</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva tempi di arrivo</translation>
     </message>
     <message>
         <source>Open Travel Time Exchange format (*.otte);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato Open Travel Time Exchange (*.otte);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>The travel times have not been saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>I tempi di arrivo non sono stati salvati.</translation>
     </message>
     <message>
         <source>Travel times saved in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempi di arrivo salvati in %1</translation>
     </message>
     <message>
         <source>Projects cannot be saved yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>I progetti non si possono ancora salvare.</translation>
     </message>
     <message>
         <source>To keep the picks, use File &gt; Export &gt; Export TravelTimes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Per conservare i primi arrivi usa File &gt; Esporta &gt; Esporta tempi di arrivo...</translation>
     </message>
     <message>
         <source>The user guide is not where it was installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La guida non è dove era stata installata.</translation>
     </message>
     <message>
         <source>Install Talvesk again to get it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installa di nuovo Talvesk per riaverla.</translation>
     </message>
     <message>
         <source>No program to show the user guide was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato trovato un programma per mostrare la guida.</translation>
     </message>
     <message>
         <source>You find it in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Si trova in %1</translation>
     </message>
     <message>
         <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), Eigen (MPL 2) and cereal (BSD).&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Rilievi di sismica a rifrazione: dalle registrazioni di campagna alle sezioni di velocità.&lt;/p&gt;&lt;p&gt;Talvesk è software libero con licenza MIT, senza alcuna garanzia.&lt;/p&gt;&lt;p&gt;È costruito con Qt %1 (LGPL), Qwt (LGPL con eccezioni), liquid-dsp (MIT), Eigen (MPL 2) e cereal (BSD).&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Picking first breaks ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricerca dei primi arrivi ...</translation>
     </message>
     <message>
         <source>Not every shot could be picked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non tutti i tiri hanno dato primi arrivi.</translation>
     </message>
     <message numerus="yes">
         <source>%n trace(s) stay as they were.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n traccia resta com&apos;era.</numerusform>
+            <numerusform>%n tracce restano com&apos;erano.</numerusform>
         </translation>
     </message>
     <message>
         <source>Applying AGC ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Applicazione dell&apos;AGC ...</translation>
     </message>
     <message>
         <source>Applying Hushel ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Applicazione di Hushel ...</translation>
     </message>
     <message>
         <source>Project title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo del progetto</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titolo:</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1: %2 at %3</source>
         <comment>shot number, file, place</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 a %3</translation>
     </message>
     <message>
         <source>%1: at %2</source>
         <comment>shot number, place</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1: a %2</translation>
     </message>
     <message>
         <source>Trace %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Traccia %1</translation>
     </message>
     <message>
         <source>Offset %1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Offset %1 m</translation>
     </message>
     <message>
         <source>Time %1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo %1 ms</translation>
     </message>
     <message>
         <source>Pick %1 ms (automatic)</source>
-        <translation type="unfinished"></translation>
+        <translation>Primo arrivo %1 ms (automatico)</translation>
     </message>
     <message>
         <source>Pick %1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Primo arrivo %1 ms</translation>
     </message>
     <message>
         <source>Amplitude %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampiezza %1</translation>
     </message>
     <message>
         <source>Talvesk 2022.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Talvesk 2022.0</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceAxes</name>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canale</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Tempo (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceTexts</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 ms</source>
+        <translation>%1 m, %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 m/s (%2 m, %3 ms)</source>
+        <translation>%1 m/s (%2 m, %3 ms)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::editTravelTimesWidget</name>
+    <message>
+        <source>Seismic traces</source>
+        <translation>Tracce sismiche</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Togli i primi arrivi</translation>
+    </message>
+    <message>
+        <source>Remove pick</source>
+        <translation>Togli il primo arrivo</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Conferma i primi arrivi</translation>
+    </message>
+    <message>
+        <source>Nudge pick</source>
+        <translation>Sposta di poco il primo arrivo</translation>
+    </message>
+    <message>
+        <source>Set pick</source>
+        <translation>Metti il primo arrivo</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms</source>
+        <translation>Traccia %1, primo arrivo a %2 ms</translation>
+    </message>
+    <message>
+        <source>Trace %1, not picked</source>
+        <translation>Traccia %1, senza primo arrivo</translation>
+    </message>
+    <message>
+        <source>Draw picks</source>
+        <translation>Traccia i primi arrivi</translation>
+    </message>
+    <message>
+        <source>Move pick</source>
+        <translation>Sposta il primo arrivo</translation>
+    </message>
+    <message>
+        <source>No samples, only picks</source>
+        <translation>Nessun campione, solo primi arrivi</translation>
+    </message>
+    <message>
+        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
+        <translation>Tracce da %1 a %2: C conferma, Canc toglie, Esc lascia</translation>
+    </message>
+    <message>
+        <source>Open shot files with Ctrl+O or drop them here</source>
+        <translation>Apri i file dei tiri con Ctrl+O o trascinali qui</translation>
+    </message>
+    <message>
+        <source>No shot is shown</source>
+        <translation>Nessun tiro in vista</translation>
+    </message>
+    <message>
+        <source>This shot has no traces</source>
+        <translation>Questo tiro non ha tracce</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,160 @@
+#include "gui/WindowTest.h"
+#include "io/TravelTimeFile.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTableWidget>
+#include <QTest>
+#include <QUrl>
+
+namespace talvesk {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::SizeIs;
+using testing::WindowTest;
+
+class Loading : public WindowTest {
+ protected:
+  Loading() { open(); }
+
+  void drop(const QStringList& files) {
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& file : files) urls << QUrl::fromLocalFile(file);
+    data.setUrls(urls);
+    const QPoint middle = window->rect().center();
+    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    ASSERT_TRUE(enter.isAccepted());
+    QDropEvent event(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &event);
+    QTest::qWait(50);
+  }
+
+  QString picksFile(const std::string& name, int shots, int traces) const {
+    TomoDocument picks;
+    picks.goephonesStringSet.emplace_back();
+    for (int i = 0; i < traces; ++i) picks.goephonesStringSet[0].push_back({10.0 + 2.0 * i, 0.0});
+    for (int shot = 0; shot < shots; ++shot) {
+      TravelTime record;
+      record.traceSetID = shot;
+      record.shotPos2d = {9.0 + 4.0 * shot, 0.0};
+      record.ttMisurati.assign(static_cast<std::size_t>(traces), 0.02 + 0.001 * shot);
+      picks.ttArray.push_back(record);
+    }
+    EXPECT_TRUE(writeTravelTimes(home.file(name), picks).ok());
+    return QString::fromStdString(home.file(name));
+  }
+};
+
+TEST_F(Loading, byDialogAddsToTheSurveyAndRemembersTheFolder) {
+  const QStringList files = {shotFile("a.dat"), shotFile("b.dat", 13.0)};
+  dialogs.expectFiles("Open Seismic Trace", files);
+  action("actionOpen_shot_files").trigger();
+  EXPECT_THAT(window->document().traceSets, SizeIs(2));
+  EXPECT_EQ(window->currentFile(), 0);
+  EXPECT_EQ(testing::TestFolder::get(home.file("Talvesk_TMP/Talvesk_history.txt")), home.path());
+  EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::loadTraces_PWave\n"));
+
+  dialogs.expectFiles("Open Seismic Trace", {shotFile("c.dat", 17.0)});
+  action("actionOpen_shot_files").trigger();
+  EXPECT_THAT(window->document().traceSets, SizeIs(3));
+  EXPECT_EQ(window->currentFile(), 2) << "the first of the new shots is in view";
+  EXPECT_EQ(child<QComboBox>("shotCBox").currentText().toStdString(), "3: c.dat at 17.0 m");
+}
+
+TEST_F(Loading, givenUpChangesNothing) {
+  dialogs.expectAndCancel();
+  action("actionOpen_shot_files").trigger();
+  EXPECT_THAT(window->document().traceSets, SizeIs(0));
+  EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(Loading, byDropTakesShotsAndTheirPicksTogether) {
+  EXPECT_EQ(child<QStackedWidget>("tracesStack").currentIndex(), 0) << "says what to do next";
+  drop({picksFile("picks.otte", 2, 12), shotFile("a.dat"), shotFile("b.dat", 13.0)});
+  EXPECT_THAT(window->document().traceSets, SizeIs(2));
+  EXPECT_DOUBLE_EQ(window->document().ttArray.at(1).ttMisurati.at(3), 0.021);
+  EXPECT_EQ(child<QStackedWidget>("tracesStack").currentIndex(), 1);
+}
+
+TEST_F(Loading, namesTheFilesThatFailAndTakesTheOthers) {
+  const QString noShot = QString::fromStdString(home.put("notes.doc", "no shot"));
+  const QString broken = QString::fromStdString(home.put("broken.dat", "no SEG-2 either"));
+  dialogs.expectBox("Error occured", "Unsupported file format.", "notes.doc", QMessageBox::Ok);
+  dialogs.expectBox("Error occured", "Error while loading one or more traces.", "broken.dat",
+                    QMessageBox::Ok);
+  window->openFiles({noShot, shotFile("good.dat"), broken});
+  EXPECT_THAT(window->document().traceSets, SizeIs(1));
+  EXPECT_THAT(log(), HasSubstr("ERROR : " + broken.toStdString()));
+}
+
+TEST_F(Loading, refusesPicksOfAnotherSurveyAndKeepsItsOwn) {
+  loadShots(2);
+  window->document().ttArray[0].ttMisurati[0] = 0.011;
+  window->document().modified = false;
+  dialogs.expectBox("Error occured", "Error while loading other.otte.", "3 shots", QMessageBox::Ok);
+  window->openFiles({picksFile("other.otte", 3, 12)});
+  EXPECT_DOUBLE_EQ(window->document().ttArray[0].ttMisurati[0], 0.011);
+}
+
+TEST_F(Loading, ofPicksAsksBeforeItReplacesUnsavedOnes) {
+  loadShots(1);
+  window->document().ttArray[0].ttMisurati[0] = 0.011;
+  dialogs.expectBox("Talvesk", "The document has been modified",
+                    "Do you want to save your changes?", QMessageBox::Cancel);
+  window->openFiles({picksFile("picks.otte", 1, 12)});
+  EXPECT_DOUBLE_EQ(window->document().ttArray[0].ttMisurati[0], 0.011);
+}
+
+TEST_F(Loading, asksWhetherTimesCountFromTheShot) {
+  const QString text = "The records start before the shot, by up to 20 ms.";
+  dialogs.expectBox("Recording delay", text, "count times from the shot", QMessageBox::No);
+  window->openFiles({shotFile("a.dat", 9.0, -0.02)});
+  EXPECT_EQ(window->document().traceSets[0][0].samples.size(), 400U);
+
+  dialogs.expectBox("Recording delay", text, "count times from the shot", QMessageBox::Yes);
+  window->openFiles({shotFile("b.dat", 13.0, -0.02)});
+  EXPECT_EQ(window->document().traceSets[1][0].samples.size(), 320U);
+  EXPECT_EQ(window->document().traceSets[0][0].samples.size(), 400U)
+      << "what was answered for the first file stands";
+}
+
+TEST_F(Loading, exportedPicksComeBack) {
+  loadShots(1);
+  window->document().ttArray[0].ttMisurati[5] = 0.0425;
+  dialogs.expectFiles("Save TravelTimeExchange", {QString::fromStdString(home.file("out"))});
+  action("actionExport_TravelTimes").trigger();
+  ASSERT_FALSE(testing::TestFolder::get(home.file("out.otte")).empty()) << "the suffix is added";
+  window->document().ttArray[0].ttMisurati[5] = 0.0;
+  dialogs.expectFiles("Import TravelTimes", {QString::fromStdString(home.file("out.otte"))});
+  action("actionLoad_TT").trigger();
+  EXPECT_DOUBLE_EQ(window->document().ttArray[0].ttMisurati[5], 0.0425);
+}
+
+TEST_F(Loading, showsWhatAFileHolds) {
+  loadShots(2);
+  action("actionNext_file").trigger();
+  dialogs.expect([this](QWidget& dialog) {
+    EXPECT_EQ(dialog.findChild<QComboBox*>("fileCBox")->currentText().toStdString(),
+              "2: shot2.dat");
+    EXPECT_EQ(dialog.findChild<QLabel*>("formatValue")->text().toStdString(), "SEG-2");
+    EXPECT_EQ(dialog.findChild<QLabel*>("samplesValue")->text().toStdString(), "400");
+    EXPECT_EQ(dialog.findChild<QLabel*>("intervalValue")->text().toStdString(), "0.25 ms");
+    const auto* table = dialog.findChild<QTableWidget*>("tracesTable");
+    ASSERT_EQ(table->rowCount(), 12);
+    EXPECT_EQ(table->item(3, 1)->text().toStdString(), "16");
+    dialog.close();
+  });
+  action("actionRecording_details").trigger();
+}
+
+}  // namespace
+}  // namespace talvesk

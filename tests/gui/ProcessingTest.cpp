@@ -1,0 +1,92 @@
+#include "gui/WindowTest.h"
+#include "support/ShotDocument.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+
+namespace talvesk {
+namespace {
+
+using testing::WindowTest;
+
+class Processing : public WindowTest {
+ protected:
+  Processing() {
+    open();
+    loadShots(3);
+  }
+
+  int picksOf(std::size_t shot) {
+    int picks = 0;
+    for (const double time : window->document().ttArray[shot].ttMisurati) picks += hasPick(time);
+    return picks;
+  }
+  bool hasCopy(std::size_t shot) {
+    return !window->document().traceSets[shot].front().filtered.empty();
+  }
+};
+
+TEST_F(Processing, picksTheShotInViewOrAllWhenAllAreShown) {
+  window->showFile(1);
+  action("actionAutoPick").trigger();
+  EXPECT_EQ(picksOf(0), 0);
+  EXPECT_GT(picksOf(1), 6);
+  EXPECT_EQ(picksOf(2), 0);
+  const std::vector<double>& times = window->document().ttArray[1].ttMisurati;
+  for (std::size_t i = 6; i < times.size(); ++i) {
+    if (!hasPick(times[i])) continue;
+    EXPECT_NEAR(times[i], testing::firstBreak(i), 0.002) << i;
+  }
+  action("actionShow_all_traces").trigger();
+  action("actionAutoPick").trigger();
+  EXPECT_GT(picksOf(0), 6);
+  EXPECT_GT(picksOf(2), 6);
+}
+
+TEST_F(Processing, filtersTheShotInViewAndTurnsItsCopyOver) {
+  for (const char* command : {"actionAGC", "actionApply_Hushel"}) {
+    open();
+    loadShots(2);
+    auto& shown = child<QCheckBox>("show_filtered_cb");
+    EXPECT_FALSE(shown.isEnabled()) << "there is no copy yet";
+    EXPECT_FALSE(shown.isChecked());
+    action(command).trigger();
+    EXPECT_TRUE(hasCopy(0)) << command;
+    EXPECT_FALSE(hasCopy(1)) << command;
+    EXPECT_TRUE(shown.isEnabled() && shown.isChecked()) << command;
+    action("actionNext_file").trigger();
+    EXPECT_FALSE(shown.isEnabled()) << "the next shot has none";
+    action("actionPrev_file").trigger();
+    EXPECT_TRUE(shown.isChecked());
+  }
+}
+
+TEST_F(Processing, reachesAllShotsWhenAllAreShown) {
+  action("actionShow_all_traces").trigger();
+  action("actionAGC").trigger();
+  EXPECT_TRUE(hasCopy(0) && hasCopy(1) && hasCopy(2));
+}
+
+TEST_F(Processing, picksRawSamplesWhereThereIsNoFilteredCopy) {
+  action("actionApply_Hushel").trigger();
+  action("actionShow_all_traces").trigger();
+  ASSERT_TRUE(child<QCheckBox>("show_filtered_cb").isChecked());
+  action("actionAutoPick").trigger();
+  EXPECT_GT(picksOf(2), 6);
+}
+
+TEST_F(Processing, leavesTracesThatCannotBeFilteredAndSaysSo) {
+  window->document().traceSets[0][2].sampleInterval = 0.01;
+  dialogs.expect([](QWidget& dialog) {
+    auto& box = dynamic_cast<QMessageBox&>(dialog);
+    EXPECT_EQ(box.text().toStdString(), "1 trace stays as it was.");
+    box.button(QMessageBox::Ok)->click();
+  });
+  action("actionApply_Hushel").trigger();
+  EXPECT_TRUE(window->document().traceSets[0][2].filtered.empty());
+  EXPECT_TRUE(hasCopy(0));
+}
+
+}  // namespace
+}  // namespace talvesk

@@ -1,0 +1,132 @@
+#include "gui/WindowTest.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QInputDialog>
+#include <QTest>
+
+namespace talvesk {
+namespace {
+
+using ::testing::SizeIs;
+using testing::WindowTest;
+
+class Survey : public WindowTest {
+ protected:
+  Survey() { open(); }
+
+  void expectToSave(QMessageBox::StandardButton answer) {
+    dialogs.expectBox("Talvesk", "The document has been modified",
+                      "Do you want to save your changes?", answer);
+  }
+  editTravelTimesWidget& traces() { return child<editTravelTimesWidget>("showTracesWidget"); }
+};
+
+TEST_F(Survey, goesRoundItsShotsAndNeverBeyond) {
+  for (const char* name : {"actionNext_file", "actionPrev_file"}) {
+    QMetaObject::invokeMethod(window.get(), ("on_" + std::string(name) + "_triggered").c_str());
+    EXPECT_EQ(window->currentFile(), -1) << "nothing to show";
+  }
+  loadShots(3);
+  QAction& next = action("actionNext_file");
+  QAction& previous = action("actionPrev_file");
+  const auto& chooser = child<QComboBox>("shotCBox");
+  std::vector<int> seen;
+  for (QAction* step : {&previous, &next, &next, &next, &next, &previous}) {
+    step->trigger();
+    seen.push_back(window->currentFile());
+    EXPECT_EQ(traces().shot(), window->currentFile());
+    EXPECT_EQ(chooser.currentIndex(), window->currentFile());
+  }
+  EXPECT_THAT(seen, ::testing::ElementsAre(2, 0, 1, 2, 0, 2));
+}
+
+TEST_F(Survey, closesAtOnceWhenNothingChanged) {
+  EXPECT_TRUE(window->close());
+  EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(Survey, staysOpenOnCancelAndGoesOnDiscard) {
+  loadShots(1);
+  EXPECT_TRUE(window->isWindowModified());
+  expectToSave(QMessageBox::Cancel);
+  EXPECT_FALSE(window->close());
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_THAT(window->document().traceSets, SizeIs(1));
+  expectToSave(QMessageBox::Discard);
+  EXPECT_TRUE(window->close());
+}
+
+TEST_F(Survey, isNotLostOnSaveBeforeProjectsCanBeSaved) {
+  loadShots(1);
+  expectToSave(QMessageBox::Save);
+  dialogs.expectBox("Talvesk", "Projects cannot be saved yet.", "Export TravelTimes",
+                    QMessageBox::Ok);
+  EXPECT_FALSE(window->close());
+  EXPECT_THAT(window->document().traceSets, SizeIs(1));
+}
+
+TEST_F(Survey, isEmptiedByNewWhichAsksFirst) {
+  loadShots(2);
+  expectToSave(QMessageBox::Cancel);
+  action("actionNew").trigger();
+  EXPECT_THAT(window->document().traceSets, SizeIs(2));
+
+  expectToSave(QMessageBox::Discard);
+  dialogs.expectFiles("Open Seismic Trace", {shotFile("new.dat")});
+  action("actionNew").trigger();
+  EXPECT_THAT(window->document().traceSets, SizeIs(1));
+  EXPECT_EQ(window->currentFile(), 0);
+}
+
+TEST_F(Survey, namesItselfInTheTitle) {
+  EXPECT_EQ(window->windowTitle().toStdString(), "Talvesk 2022.0[*]");
+  dialogs.expect([](QWidget& dialog) {
+    auto& input = dynamic_cast<QInputDialog&>(dialog);
+    input.setTextValue("Valley [*] 3");
+    input.accept();
+  });
+  action("actionSet_title").trigger();
+  EXPECT_EQ(window->document().title, "Valley [*] 3");
+  EXPECT_TRUE(window->isWindowModified());
+  EXPECT_EQ(window->windowTitle().toStdString(), "Talvesk 2022.0[*] - Valley [*][*] 3");
+}
+
+TEST_F(Survey, isPickedByMouseAndKeysWithUndo) {
+  loadShots(2);
+  editTravelTimesWidget& view = traces();
+  const std::vector<double>& times = window->document().ttArray[0].ttMisurati;
+  view.fit();
+  QTest::qWait(50);
+  QTest::mouseClick(&view, Qt::LeftButton, {}, view.pointOf(4, 0.05).toPoint());
+  const double clicked = times[4];
+  ASSERT_GT(clicked, 0.0) << "a click sets a pick";
+  EXPECT_TRUE(action("actionUndo").isEnabled());
+
+  QTest::keyClick(&view, Qt::Key_Down);
+  EXPECT_NEAR(times[4], clicked + 0.00025, 1e-9) << "a key moves it by a sample";
+  action("actionUndo").trigger();
+  EXPECT_DOUBLE_EQ(times[4], clicked);
+  action("actionUndo").trigger();
+  EXPECT_FALSE(hasPick(times[4]));
+  action("actionRedo").trigger();
+  EXPECT_DOUBLE_EQ(times[4], clicked);
+
+  QTest::keyClick(&view, Qt::Key_Delete);
+  EXPECT_FALSE(hasPick(times[4]));
+}
+
+TEST_F(Survey, showsOnlyTracesWithoutTheirTimes) {
+  loadShots(1);
+  auto& box = child<QCheckBox>("showTravelTimeCB");
+  box.click();
+  EXPECT_FALSE(child<QWidget>("travelTimePreview").isVisible());
+  EXPECT_TRUE(traces().options().showOnlyTraces);
+  box.click();
+  EXPECT_TRUE(child<QWidget>("travelTimePreview").isVisible());
+  EXPECT_FALSE(child<QWidget>("showTracesWidget_2").isVisible());
+}
+
+}  // namespace
+}  // namespace talvesk
