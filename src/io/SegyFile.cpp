@@ -123,12 +123,19 @@ class SegyReader {
     warn("its numbers seem to be in the other byte order; load a SEG-Y file of that order first");
   }
 
+  /// A wrong byte order is the likeliest cause of a promise that cannot be kept.
+  Status refusal(std::uint64_t traces) const {
+    std::string message = ReadBudget::refusal(traces, mReader.size());
+    for (const std::string& warning : mData.warnings) message += "; " + warning;
+    return Status::failure(message);
+  }
+
   Status readTraces(std::uint64_t first, std::uint64_t count, SegyState& state,
                     ShotFileData& data) {
     ReadBudget budget(mReader.size());
     for (std::uint64_t i = 0; i < count; ++i) {
       if (!budget.takeTrace(samples(), kTraceHeaderBytes)) {
-        return Status::failure(ReadBudget::refusal(count, mReader.size()));
+        return refusal(count);
       }
     }
     if (mSpacing == 0) mSpacing = spacing();

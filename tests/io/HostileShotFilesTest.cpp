@@ -134,6 +134,19 @@ TEST(HostileShotFiles, segyOfTooManyTracesAndSamplesIsRefused) {
   EXPECT_THAT(status.message(), HasSubstr("promise 32639 traces"));
 }
 
+TEST(HostileShotFiles, areExplainedByTheByteOrderOfAFileBefore) {
+  SegyFixture file = smallSegy();
+  file.constant = {4, 3, 2, 1};
+  file.channels.assign(24, {std::vector<float>(1200), 1, 2, 0});
+  const ConsoleCapture console;
+  SegyState state;
+  state.nativeOrder = false;
+  ShotFileData data;
+  const Status status = parseShotFile(segyBytes(file), "a.sgy", state, data);
+  EXPECT_EQ(status.code(), 1);
+  EXPECT_THAT(status.message(), HasSubstr("is read big-endian as a file before it"));
+}
+
 TEST(HostileShotFiles, areNeverSlow) {
   const auto start = std::chrono::steady_clock::now();
   // The largest header that is not refused, full of locations that are told on the console.
