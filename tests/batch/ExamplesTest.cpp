@@ -1,4 +1,4 @@
-#include "batch/BatchRunner.h"
+#include "batch/SmallShots.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,6 +21,19 @@ TEST(Examples, buriedValleyWritesAllThatItPromises) {
   EXPECT_LT(json["rmse_ms"].get<double>(), 1.0);
   EXPECT_TRUE(folder.holds("valley/section.txt"));
   EXPECT_TRUE(folder.holds("valley/section.svg"));
+}
+
+TEST(Examples, shotsToSectionLeavesPicksAndPictures) {
+  const Folder folder;
+  std::vector<std::string> arguments = {folder / "results"};
+  for (const std::string& file : writeSmallShots(folder)) arguments.push_back(file);
+  const Outcome outcome = runExample("shots-to-section.sh", arguments);
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("Picks: "));
+  EXPECT_THAT(outcome.out, HasSubstr("RMSE: [ms] "));
+  for (const char* name : {"picks.otte", "picks.json", "shots.pdf", "section.png"}) {
+    EXPECT_TRUE(folder.holds(std::string("results/") + name)) << name;
+  }
 }
 
 TEST(Examples, surveyTableListsTheGoodFilesAndFailsForTheBad) {
