@@ -88,8 +88,9 @@ class SegyReader {
         console::out() << "same endianess\n";
         if (!mState.nativeOrder) {
           warn(
-              "it says that its numbers are little-endian, but is read big-endian as a file "
-              "before");
+              "it says that its numbers are little-endian, but is read big-endian as a file before "
+              "it; "
+              "load the little-endian files first");
         }
         break;
       case 0x04030201:

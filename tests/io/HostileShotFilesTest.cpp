@@ -144,7 +144,7 @@ TEST(HostileShotFiles, areExplainedByTheByteOrderOfAFileBefore) {
   ShotFileData data;
   const Status status = parseShotFile(segyBytes(file), "a.sgy", state, data);
   EXPECT_EQ(status.code(), 1);
-  EXPECT_THAT(status.message(), HasSubstr("is read big-endian as a file before it"));
+  EXPECT_THAT(status.message(), HasSubstr("but is read big-endian"));
 }
 
 TEST(HostileShotFiles, areNeverSlow) {
