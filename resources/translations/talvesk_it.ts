@@ -196,10 +196,6 @@
         <translation>Ferma ogni oscillazione dove comincia la traccia vicina. Altrimenti le oscillazioni forti coprono le vicine.</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Ingrandisci</translation>
-    </message>
-    <message>
         <source>Show filtered traces</source>
         <translation>Mostra le tracce filtrate</translation>
     </message>
@@ -230,6 +226,10 @@
     <message>
         <source>Opens shots with all traces in view, however narrow. AutoPick, AGC and Hushel then work on all shots.</source>
         <translation>Apre i tiri con tutte le tracce in vista, per quanto strette. AutoPick, AGC e Hushel lavorano allora su tutti i tiri.</translation>
+    </message>
+    <message>
+        <source>Zoom in on first breaks</source>
+        <translation>Ingrandisci i primi arrivi</translation>
     </message>
 </context>
 <context>
@@ -791,10 +791,6 @@
         <translation>Ripete la modifica annullata</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Ingrandisci</translation>
-    </message>
-    <message>
         <source>Open shots at the part of the record that holds the first breaks</source>
         <translation>Apre i tiri sulla parte della registrazione che contiene i primi arrivi</translation>
     </message>
@@ -1212,6 +1208,10 @@
         <source>Talvesk 2022.0</source>
         <translation>Talvesk 2022.0</translation>
     </message>
+    <message>
+        <source>Zoom in on first breaks</source>
+        <translation>Ingrandisci i primi arrivi</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -1241,6 +1241,18 @@
     <message>
         <source>%1 m/s (%2 m, %3 ms)</source>
         <translation>%1 m/s (%2 m, %3 ms)</translation>
+    </message>
+    <message>
+        <source>Other shots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Air %1 m/s</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -54,7 +54,12 @@ RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
     mUi->fileCBox->addItem(QStringLiteral("%1: %2").arg(i + 1).arg(QFileInfo(path).fileName()));
     mUi->fileCBox->setItemData(static_cast<int>(i), path, Qt::ToolTipRole);
   }
-  mUi->tracesTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  QHeaderView& columns = *mUi->tracesTable->horizontalHeader();
+  columns.setSectionResizeMode(QHeaderView::ResizeToContents);
+  columns.setStretchLastSection(true);
+  QHeaderView& rows = *mUi->tracesTable->verticalHeader();
+  rows.setSectionResizeMode(QHeaderView::Fixed);
+  rows.setDefaultSectionSize(fontMetrics().height() + 8);
   connect(mUi->fileCBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
           &RecordingDetailsDialog::showSet);
   mUi->fileCBox->setCurrentIndex(std::max(0, current));
