@@ -1,10 +1,8 @@
 #include "widgets/PickMarks.h"
 
-#include "widgets/TraceGuides.h"
+#include "widgets/TraceTags.h"
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
-#include <QLocale>
 #include <QPainter>
 #include <QVector>
 #include <algorithm>
@@ -12,13 +10,6 @@
 
 namespace talvesk {
 namespace {
-
-constexpr double kFar = 1e6;  // pixels; lines are not drawn beyond
-
-/// Context of the texts on the picture.
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(talvesk::TraceTexts)
-};
 
 double barHalf(const WiggleScene& scene, const TraceMapping& mapping) {
   const double spacing = mapping.x(scene.layout.spacing()) - mapping.x(0.0);
@@ -40,68 +31,6 @@ QVector<QLineF> pickBars(const WiggleScene& scene, const TraceMapping& mapping,
   return bars;
 }
 
-QPolygonF toScreen(const std::vector<QPointF>& points, const TraceMapping& mapping) {
-  QPolygonF line;
-  for (const QPointF& p : points) {
-    const QPointF q = mapping.point(p.x(), p.y());
-    line.append({std::clamp(q.x(), -kFar, kFar), std::clamp(q.y(), -kFar, kFar)});
-  }
-  return line;
-}
-
-void paintAirWave(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping) {
-  const QPolygonF line =
-      toScreen(airWaveLine(scene.traces, scene.layout, scene.options.airVelocity), mapping);
-  if (line.isEmpty()) return;
-  painter.setPen(QPen(scene.colors.airWave, 1.5, Qt::DashLine));
-  painter.drawPolyline(line);
-}
-
-void paintComputed(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping) {
-  for (const auto& piece : computedLines(scene.traces, scene.layout)) {
-    const QPolygonF line = toScreen(piece, mapping);
-    painter.setPen(QPen(scene.colors.halo, 3.5));
-    painter.drawPolyline(line);
-    painter.setPen(QPen(scene.colors.computed, 1.75));
-    painter.drawPolyline(line);
-    painter.setBrush(scene.colors.computed);
-    painter.setPen(QPen(scene.colors.halo, 0.75));
-    for (const QPointF& p : line) painter.drawEllipse(p, 2.75, 2.75);
-    painter.setBrush(Qt::NoBrush);
-  }
-}
-
-void paintOtherPicks(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
-                     const TomoDocument& document) {
-  const double half = std::min(barHalf(scene, mapping), 5.0);
-  QVector<QLineF> bars;
-  for (const QPointF& pick : otherPicks(document, scene.traces, scene.layout)) {
-    const QPointF p = mapping.point(pick.x(), pick.y());
-    if (mapping.plot.contains(p)) bars.append({p.x() - half, p.y(), p.x() + half, p.y()});
-  }
-  painter.setPen(QPen(scene.colors.halo, 2.5));
-  painter.drawLines(bars);
-  painter.setPen(QPen(scene.colors.otherPicks, 1.25));
-  painter.drawLines(bars);
-}
-
-QString number(double value, int decimals) {
-  QLocale locale;
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  return locale.toString(value, 'f', decimals);
-}
-
-QString rulerText(const WiggleScene& scene, const QPointF& from, const QPointF& to) {
-  const QString time = number(1e3 * std::fabs(to.y() - from.y()), 2);
-  const auto a = distanceAt(scene.traces, scene.layout, from.x());
-  const auto b = distanceAt(scene.traces, scene.layout, to.x());
-  if (!a || !b) return Texts::tr("%1 ms").arg(time);
-  const QString way = number(std::fabs(*b - *a), 1);
-  const auto velocity = apparentVelocity(scene.traces, scene.layout, from, to);
-  if (!velocity || !std::isfinite(*velocity)) return Texts::tr("%1 m, %2 ms").arg(way, time);
-  return Texts::tr("%1 m/s (%2 m, %3 ms)").arg(number(*velocity, 0), way, time);
-}
-
 }  // namespace
 
 double shownPick(const ShotTraces& traces, const std::map<int, double>& draft, int trace) {
@@ -118,33 +47,6 @@ void paintPicks(QPainter& painter, const WiggleScene& scene, const TraceMapping&
   painter.drawLines(bars);
 }
 
-void paintGuides(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
-                 const TomoDocument& document) {
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  if (scene.options.airWave) paintAirWave(painter, scene, mapping);
-  if (scene.options.showAllPicks) paintOtherPicks(painter, scene, mapping, document);
-  if (scene.options.showComputedTimes) paintComputed(painter, scene, mapping);
-  painter.restore();
-}
-
-void paintRuler(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
-                const QPointF& from, const QPointF& to) {
-  const QPolygonF line = toScreen({from, to}, mapping);
-  painter.save();
-  painter.setClipRect(mapping.plot);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(scene.colors.halo, 4.0));
-  painter.drawPolyline(line);
-  painter.setPen(QPen(scene.colors.ruler, 2.0));
-  painter.drawPolyline(line);
-  painter.setBrush(scene.colors.ruler);
-  for (const QPointF& p : line) painter.drawEllipse(p, 3.0, 3.0);
-  painter.restore();
-  paintTag(painter, scene.colors, line.last() + QPointF(12.0, -30.0), rulerText(scene, from, to),
-           mapping.plot);
-}
-
 void paintCrosshair(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                     int trace, double time) {
   const QRectF& plot = mapping.plot;
@@ -155,7 +57,7 @@ void paintCrosshair(QPainter& painter, const WiggleScene& scene, const TraceMapp
   painter.drawLine(QPointF(plot.left(), y), QPointF(plot.right(), y));
   const QFontMetricsF metrics(painter.font());
   const QRectF whole(0.0, 0.0, plot.right(), plot.bottom());
-  const QString ms = number(1e3 * time, 2);
+  const QString ms = screenNumber(1e3 * time, 2);
   paintTag(painter, scene.colors,
            {plot.left() - metrics.horizontalAdvance(ms) - 9.0, y - 0.5 * metrics.height() - 1.0},
            ms, whole);
@@ -170,24 +72,6 @@ void paintCrosshair(QPainter& painter, const WiggleScene& scene, const TraceMapp
            {x - 0.5 * metrics.horizontalAdvance(channel) - 4.0,
             plot.top() - 9.0 - row * metrics.height() - 1.0},
            channel, whole);
-}
-
-void paintTag(QPainter& painter, const TraceColors& colors, const QPointF& corner,
-              const QString& text, const QRectF& bounds) {
-  const QFontMetricsF metrics(painter.font());
-  QRectF plate(corner, QSizeF(metrics.horizontalAdvance(text) + 8.0, metrics.height() + 2.0));
-  if (plate.right() > bounds.right()) plate.moveRight(bounds.right());
-  if (plate.bottom() > bounds.bottom()) plate.moveBottom(bounds.bottom());
-  plate.moveLeft(std::max(plate.left(), bounds.left()));
-  plate.moveTop(std::max(plate.top(), bounds.top()));
-  QColor back = colors.text;
-  back.setAlphaF(0.88);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(back);
-  painter.drawRoundedRect(plate, 2.0, 2.0);
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(colors.background);
-  painter.drawText(plate, Qt::AlignCenter, text);
 }
 
 void paintMagnifier(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,

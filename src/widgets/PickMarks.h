@@ -4,12 +4,9 @@
 #include "widgets/WigglePainter.h"
 
 #include <QPointF>
-#include <QRectF>
 #include <map>
-#include <optional>
 
 class QPainter;
-class QString;
 
 namespace talvesk {
 
@@ -21,14 +18,6 @@ double shownPick(const ShotTraces& traces, const std::map<int, double>& draft, i
 void paintPicks(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                 const std::map<int, double>& draft);
 
-/// The guides that the options switch on, under the picks.
-void paintGuides(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
-                 const TomoDocument& document);
-
-/// A line between two points (positions, seconds) with what it reads.
-void paintRuler(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
-                const QPointF& from, const QPointF& to);
-
 /// Lines through the cursor, the time at the left side and the channel above.
 void paintCrosshair(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                     int trace, double time);
@@ -36,9 +25,5 @@ void paintCrosshair(QPainter& painter, const WiggleScene& scene, const TraceMapp
 /// A magnified window around a point (position, seconds) with its picks, beside the cursor.
 void paintMagnifier(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                     const std::map<int, double>& draft, const QPointF& at);
-
-/// Words on a plate, kept within bounds. \param corner upper left where it fits
-void paintTag(QPainter& painter, const TraceColors& colors, const QPointF& corner,
-              const QString& text, const QRectF& bounds);
 
 }  // namespace talvesk

@@ -2,10 +2,10 @@
 
 #include "widgets/AxisTicks.h"
 #include "widgets/TraceGuides.h"
+#include "widgets/TraceTags.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
-#include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -17,14 +17,6 @@ namespace {
 constexpr double kMajor = 6.0;  ///< length of a mark, pixels
 constexpr double kMinor = 3.0;
 constexpr double kGap = 3.0;  ///< between marks and numbers
-
-QString number(double value, int decimals) {
-  // Rounding a sum of steps must not leave "-0".
-  if (std::fabs(value) < 0.5 * std::pow(10.0, -decimals)) value = 0.0;
-  QLocale locale;
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  return locale.toString(value, 'f', decimals);
-}
 
 AxisTicks timeTicks(const TraceMapping& mapping, double lineHeight) {
   const int most = std::clamp(static_cast<int>(mapping.plot.height() / (2.2 * lineHeight)), 2, 20);
@@ -76,7 +68,7 @@ class Axes {
       const double y = timeMark(1e-3 * ms, kMajor);
       const QRectF cell(0.0, y - 0.5 * mMetrics.height(), mPlot.left() - kMajor - kGap,
                         mMetrics.height());
-      mPainter.drawText(cell, Qt::AlignRight | Qt::AlignVCenter, number(ms, ticks.decimals));
+      mPainter.drawText(cell, Qt::AlignRight | Qt::AlignVCenter, screenNumber(ms, ticks.decimals));
     }
     mPainter.save();
     mPainter.translate(mMetrics.height(), mPlot.center().y());
@@ -119,22 +111,45 @@ class Axes {
     for (const double value : ticks.major) {
       const double x = positionMark(value - added, kMajor);
       if (!mLayout.isByDistance() && (value < 1.0 || value > mLayout.count())) continue;
-      label(x, top, number(value, ticks.decimals), rightEnd);
+      label(x, top, screenNumber(value, ticks.decimals), rightEnd);
     }
+  }
+
+  QString labelOf(int trace, bool channels) const {
+    if (channels) return QString::number(trace + 1);
+    const double metres = mTraces.receiverX(trace);
+    if (!std::isfinite(metres)) return {};
+    return screenNumber(metres, std::fabs(metres - std::round(metres)) < 0.005 ? 0 : 1);
+  }
+
+  /// Every how many traces there is room for a label.
+  int labelStride(bool channels) const {
+    double widest = 0.0;
+    for (const int trace : mLayout.order()) {
+      widest = std::max(widest, mMetrics.horizontalAdvance(labelOf(trace, channels)));
+    }
+    const double spacing = mMapping.x(mLayout.spacing()) - mMapping.x(0.0);
+    for (int decade = 1; decade < 1000000; decade *= 10) {
+      for (const int factor : {1, 2, 5}) {
+        if (factor * decade * spacing >= widest + mMetrics.averageCharWidth()) {
+          return factor * decade;
+        }
+      }
+    }
+    return 1000000;
   }
 
   /// The other numbering at the traces themselves, as many as have room.
   bool paintAtTraces(double top, bool channels) {
+    const int stride = labelStride(channels);
     double rightEnd = -HUGE_VAL;
     bool any = false;
     for (const int trace : mLayout.order()) {
-      const double x = mMapping.x(mLayout.position(trace));
-      const double metres = mTraces.receiverX(trace);
-      if (!channels && !std::isfinite(metres)) continue;
-      const int decimals = std::fabs(metres - std::round(metres)) < 0.005 ? 0 : 1;
-      any = label(x, top, channels ? QString::number(trace + 1) : number(metres, decimals),
-                  rightEnd) ||
-            any;
+      // Channels 10, 20, 30; but distances from the first geophone on, which tend to be round.
+      if ((channels ? trace + 1 : mLayout.rank(trace)) % stride != 0) continue;
+      const QString text = labelOf(trace, channels);
+      if (text.isEmpty()) continue;
+      any = label(mMapping.x(mLayout.position(trace)), top, text, rightEnd) || any;
     }
     return any;
   }

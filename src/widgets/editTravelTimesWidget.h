@@ -71,6 +71,10 @@ class editTravelTimesWidget : public QWidget {
   /// The same by the autopicker: the picks of these shots wait to be confirmed.
   void autoPicked(const std::vector<std::int32_t>& shots);
 
+  /// Sets the pick of a trace of any shot (both from 0), seconds, kNoTime to remove it, as an edit
+  /// by hand that can be undone. Nothing happens where there is no such trace or nothing to change.
+  void editPick(int shot, int trace, double seconds);
+
   int currentTrace() const;  ///< from 0; -1 none
   void setCurrentTrace(int trace);
   int selectedFirst() const;  ///< channels selected, from 0; -1 none

@@ -141,4 +141,20 @@ void editTravelTimesWidget::State::describe() {
   if (widget.accessibleDescription() != text) widget.setAccessibleDescription(text);
 }
 
+void editTravelTimesWidget::editPick(int shot, int trace, double seconds) {
+  State& state = *mState;
+  if (state.document == nullptr || shot < 0 || trace < 0) return;
+  const std::vector<TravelTime>& records = state.document->ttArray;
+  if (static_cast<std::size_t>(shot) >= records.size()) return;
+  const std::vector<double>& times = records[static_cast<std::size_t>(shot)].ttMisurati;
+  if (static_cast<std::size_t>(trace) >= times.size()) return;
+  const double before = times[static_cast<std::size_t>(trace)];
+  if (hasPick(seconds) ? seconds == before : !hasPick(before)) return;
+  const PickChange change = {trace, before, seconds, state.review.waits(shot, trace), false};
+  state.stack.push(
+      new PickEditCommand(hasPick(seconds) ? tr("Move pick") : tr("Remove pick"), *state.document,
+                          state.review, shot, {change}, PickEditCommand::Merge::No,
+                          [&state](const PickEditEffect& effect) { state.edited(effect); }));
+}
+
 }  // namespace talvesk

@@ -1,5 +1,7 @@
+#include "widgets/GuideMarks.h"
 #include "widgets/PickMarks.h"
 #include "widgets/TraceAxes.h"
+#include "widgets/TraceTags.h"
 #include "widgets/editTravelTimesWidget_state.h"
 
 #include <QFocusEvent>
@@ -74,9 +76,10 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
     paintPicks(painter, scene(), map, stroke.times());
   }
   painter.restore();
+  if (!options.showOnlyTraces) paintLegend(painter, scene(), plot);
   paintAxes(painter, map, traces, layout, widget.palette().color(QPalette::WindowText));
   if (!traces.hasSamples()) {
-    paintTag(painter, colors, plot.bottomLeft() + QPointF(8.0, -30.0),
+    paintTag(painter, colors, plot.topLeft() + QPointF(8.0, 8.0),
              editTravelTimesWidget::tr("No samples, only picks"), plot);
   }
 }
@@ -85,7 +88,7 @@ void editTravelTimesWidget::State::paintLive(QPainter& painter) {
   const TraceMapping map = mapping();
   if (ruler) paintRuler(painter, scene(), map, ruler->first, ruler->second);
   if (selectedFirst >= 0 && !options.showOnlyTraces) {
-    paintTag(painter, colors, plot.topLeft() + QPointF(8.0, 8.0),
+    paintTag(painter, colors, plot.bottomLeft() + QPointF(8.0, -30.0),
              editTravelTimesWidget::tr("Traces %1 to %2: C confirms, Del removes, Esc leaves")
                  .arg(selectedFirst + 1)
                  .arg(selectedLast + 1),

@@ -14,6 +14,7 @@ constexpr double kLegible = 7.0;       ///< least pixels per trace of the openin
 constexpr int kContinuingMs = 900;     ///< steps nearer in time than this are one
 constexpr double kLeastSamples = 6.0;  ///< that a window is high
 constexpr double kLeastTraces = 1.5;   ///< spacings that a window is wide
+constexpr double kNarrowest = 1e-9;    ///< part of the whole that a window is wide and high
 constexpr double kSlowest = 320.0;     ///< m/s: first breaks come before the sound in the air
 constexpr int kScrollSteps = 100000;   ///< of a scroll bar, for the whole
 
@@ -111,7 +112,11 @@ TraceWindow editTravelTimesWidget::State::openingWindow() const {
 TraceWindow editTravelTimesWidget::State::confinedWindow(const TraceWindow& wanted) const {
   double interval = traces.timeEnd();
   for (int i = 0; i < traces.count(); ++i) interval = std::min(interval, traces.interval(i));
-  return confined(wanted, wholeWindow(), kLeastTraces * layout.spacing(), kLeastSamples * interval);
+  // Far from zero, a window may not become narrower than numbers can tell apart.
+  const TraceWindow whole = wholeWindow();
+  return confined(wanted, whole,
+                  std::max(kLeastTraces * layout.spacing(), kNarrowest * whole.width()),
+                  std::max(kLeastSamples * interval, kNarrowest * whole.height()));
 }
 
 void editTravelTimesWidget::State::show(const TraceWindow& wanted, Step step) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "widgets/WigglePainter.h"
+
+#include <QPointF>
+#include <QRectF>
+
+class QPainter;
+
+namespace talvesk {
+
+/// The guides that the options switch on, under the picks.
+void paintGuides(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
+                 const TomoDocument& document);
+
+/// Names the guides that are switched on, in the lower right corner of the plot.
+void paintLegend(QPainter& painter, const WiggleScene& scene, const QRectF& plot);
+
+/// A line between two points (positions, seconds) with what it reads.
+void paintRuler(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
+                const QPointF& from, const QPointF& to);
+
+}  // namespace talvesk

@@ -1,0 +1,254 @@
+#include "WidgetDriver.h"
+
+#include <QSignalSpy>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace talvesk {
+namespace {
+
+using testing::arrival;
+using testing::kInterval;
+
+class Picking : public ::testing::Test {
+ protected:
+  TomoDocument mDocument = testing::testShots(12, 400, {-1.0, 25.0});
+  testing::WidgetDriver mUser{mDocument};
+  editTravelTimesWidget& mWidget = mUser.widget;
+  QSignalSpy mAdded{&mWidget, &editTravelTimesWidget::pick_added};
+  QSignalSpy mEdited{&mWidget, &editTravelTimesWidget::pick_edited};
+};
+
+TEST_F(Picking, aClickSetsAPickAtTheTimeUnderTheCursor) {
+  for (const auto& [trace, time] : {std::pair{0, 0.031}, {5, 0.1}, {11, 0.183}}) {
+    mUser.click(mUser.at(trace, time));
+    EXPECT_NEAR(mUser.pick(trace), time, mUser.pixel()) << trace;
+    EXPECT_EQ(mWidget.currentTrace(), trace);
+  }
+  EXPECT_EQ(mAdded.count(), 3);
+  EXPECT_EQ(mEdited.count(), 3);
+  EXPECT_TRUE(mDocument.modified);
+  EXPECT_EQ(mUser.pick(3), kUnpicked);
+}
+
+TEST_F(Picking, aClickAtTheVeryTopIsStillAPick) {
+  mUser.click(mUser.at(4, 0.0));
+  EXPECT_TRUE(hasPick(mUser.pick(4)));
+  EXPECT_LE(mUser.pick(4), mUser.pixel());
+}
+
+TEST_F(Picking, clicksBesideTheTracesDoNothing) {
+  mUser.click({2, 300});
+  mUser.click({400, 598});
+  EXPECT_FALSE(mWidget.undoStack()->canUndo());
+}
+
+TEST_F(Picking, aDragMovesThePickOfItsTraceOnly) {
+  mUser.setPick(4, 0.05);
+  mUser.dragTo(mUser.at(4, 0.05), mUser.at(7, 0.12));
+  EXPECT_NEAR(mUser.pick(4), 0.12, mUser.pixel());
+  EXPECT_EQ(mUser.pick(7), kUnpicked);
+  EXPECT_EQ(mAdded.count(), 0);
+  EXPECT_EQ(mEdited.count(), 1) << "one edit, when the button is up";
+  mWidget.undoStack()->undo();
+  EXPECT_DOUBLE_EQ(mUser.pick(4), 0.05);
+}
+
+TEST_F(Picking, aDragAcrossTracesDrawsARunAndIsOneEdit) {
+  mUser.dragTo(mUser.at(2, 0.04), mUser.at(8, 0.10));
+  for (int trace = 2; trace <= 8; ++trace) {
+    EXPECT_NEAR(mUser.pick(trace), 0.04 + 0.01 * (trace - 2), 0.006) << trace;
+  }
+  EXPECT_EQ(mUser.pick(1), kUnpicked);
+  EXPECT_EQ(mUser.pick(9), kUnpicked);
+  EXPECT_EQ(mWidget.undoStack()->count(), 1);
+  mWidget.undoStack()->undo();
+  EXPECT_EQ(mUser.pick(5), kUnpicked);
+}
+
+TEST_F(Picking, aShakingHandPicksOneTrace) {
+  const QPoint between((mUser.at(3, 0.05) + mUser.at(4, 0.05)) / 2);
+  mUser.press(between - QPoint(1, 0));
+  mUser.move(between + QPoint(1, 0));
+  mUser.release(between + QPoint(1, 0));
+  EXPECT_NE(hasPick(mUser.pick(3)), hasPick(mUser.pick(4)));
+}
+
+TEST_F(Picking, escapeGivesADragUp) {
+  mUser.press(mUser.at(2, 0.04));
+  mUser.move(mUser.at(6, 0.04));
+  mUser.key(Qt::Key_Escape);
+  mUser.release(mUser.at(6, 0.04));
+  EXPECT_FALSE(mWidget.undoStack()->canUndo());
+  EXPECT_EQ(mUser.pick(2), kUnpicked);
+}
+
+TEST_F(Picking, rightClickAndDeleteRemove) {
+  for (int trace = 0; trace < 12; ++trace) mUser.setPick(trace, 0.05);
+  mUser.click(mUser.at(3, 0.15), Qt::RightButton);
+  EXPECT_EQ(mUser.pick(3), kNoTime);
+  mUser.dragTo(mUser.at(5, 0.1), mUser.at(7, 0.1), Qt::RightButton);
+  EXPECT_EQ(mUser.pick(6), kNoTime);
+  mWidget.setCurrentTrace(10);
+  mUser.key(Qt::Key_Delete);
+  EXPECT_EQ(mUser.pick(10), kNoTime);
+  EXPECT_EQ(mUser.pick(9), 0.05);
+  EXPECT_EQ(mWidget.undoStack()->count(), 3);
+  mUser.click(mUser.at(3, 0.15), Qt::RightButton);
+  EXPECT_EQ(mWidget.undoStack()->count(), 3) << "there was nothing left to remove";
+}
+
+TEST_F(Picking, arrowKeysNudgeByASampleTenOrAMillisecond) {
+  mUser.setPick(4, 0.05);
+  mWidget.setCurrentTrace(4);
+  mUser.key(Qt::Key_Down);
+  EXPECT_NEAR(mUser.pick(4), 0.05 + kInterval, 1e-12);
+  mUser.key(Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_NEAR(mUser.pick(4), 0.05 - 9 * kInterval, 1e-12);
+  mUser.key(Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_NEAR(mUser.pick(4), 0.051 - 9 * kInterval, 1e-12);
+  mUser.key(Qt::Key_Z, Qt::ControlModifier);
+  mUser.key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_NEAR(mUser.pick(4), 0.05 + kInterval, 1e-12);
+  mUser.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_NEAR(mUser.pick(4), 0.05 - 9 * kInterval, 1e-12);
+}
+
+TEST_F(Picking, nudgesStopAtTheEndsOfTheRecord) {
+  const double end = 399 * kInterval;
+  mUser.setPick(4, end - 0.0001);
+  mWidget.setCurrentTrace(4);
+  mUser.key(Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_DOUBLE_EQ(mUser.pick(4), end);
+  mUser.setPick(4, 0.0001);
+  mUser.key(Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_TRUE(hasPick(mUser.pick(4)));
+}
+
+TEST_F(Picking, keysAloneAreEnough) {
+  mUser.key(Qt::Key_Home);
+  EXPECT_EQ(mWidget.currentTrace(), 0);
+  mUser.setPick(0, 0.020);
+  mUser.setPick(2, 0.030);
+  mUser.key(Qt::Key_Right);
+  mUser.key(Qt::Key_Return);
+  EXPECT_NEAR(mUser.pick(1), 0.025, 1e-12) << "between its neighbours";
+  mUser.key(Qt::Key_End);
+  EXPECT_EQ(mWidget.currentTrace(), 11);
+  mUser.key(Qt::Key_Left);
+  EXPECT_EQ(mWidget.currentTrace(), 10);
+  EXPECT_TRUE(mWidget.accessibleDescription().contains("11"));
+}
+
+TEST_F(Picking, snapsToTheOnsetUnlessAltIsHeld) {
+  mUser.change([](TraceViewOptions& options) { options.snap = PickSnap::Onset; });
+  const double onset = arrival(6, -1.0);
+  mUser.click(mUser.at(6, onset + 0.002));
+  EXPECT_NEAR(mUser.pick(6), onset, 2.0 * kInterval);
+  mUser.click(mUser.at(7, 0.1), Qt::LeftButton, Qt::AltModifier);
+  EXPECT_NEAR(mUser.pick(7), 0.1, mUser.pixel());
+}
+
+TEST_F(Picking, automaticPicksOfARangeAreConfirmedOrRemovedAtOnce) {
+  mUser.setPick(1, 0.02);
+  mWidget.undoStack()->clear();
+  for (int trace = 2; trace <= 8; ++trace) mUser.setPick(trace, 0.05);
+  mUser.click(mUser.at(0, 0.1));
+  mWidget.autoPicked({0});
+  EXPECT_FALSE(mWidget.undoStack()->canUndo()) << "autopicking clears the history";
+  mUser.dragTo(mUser.at(4, 0.1), mUser.at(6, 0.1), Qt::LeftButton, Qt::ShiftModifier);
+  EXPECT_EQ(mWidget.selectedFirst(), 4);
+  EXPECT_EQ(mWidget.selectedLast(), 6);
+  mUser.key(Qt::Key_C);
+  mWidget.selectTraces(0, 11);
+  mWidget.removeUnconfirmedPicks();
+  for (int trace = 0; trace < 12; ++trace) {
+    EXPECT_EQ(hasPick(mUser.pick(trace)), trace >= 4 && trace <= 6) << trace;
+  }
+  mWidget.undoStack()->undo();
+  EXPECT_EQ(mUser.pick(8), 0.05);
+  mUser.key(Qt::Key_Delete);
+  EXPECT_FALSE(hasPick(mUser.pick(5)));
+  mWidget.undoStack()->undo();
+  EXPECT_TRUE(hasPick(mUser.pick(5)));
+}
+
+TEST_F(Picking, shiftAndArrowsSelectFromWhereTheyStarted) {
+  mWidget.setCurrentTrace(5);
+  mUser.key(Qt::Key_Right, Qt::ShiftModifier);
+  mUser.key(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(mWidget.selectedFirst(), 5);
+  EXPECT_EQ(mWidget.selectedLast(), 7);
+  for (int i = 0; i < 4; ++i) mUser.key(Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_EQ(mWidget.selectedFirst(), 3);
+  EXPECT_EQ(mWidget.selectedLast(), 5);
+  mUser.key(Qt::Key_Escape);
+  EXPECT_EQ(mWidget.selectedFirst(), -1);
+}
+
+TEST_F(Picking, undoOfAnotherShotSaysWhichOne) {
+  mUser.click(mUser.at(3, 0.05));
+  mWidget.setShot(1);
+  QSignalSpy shots(&mWidget, &editTravelTimesWidget::shotEdited);
+  mWidget.undoStack()->undo();
+  EXPECT_EQ(mUser.pick(3, 0), kUnpicked);
+  ASSERT_EQ(shots.count(), 1);
+  EXPECT_EQ(shots[0][0].toInt(), 0);
+}
+
+TEST_F(Picking, aNewDocumentForgetsTheHistory) {
+  mUser.click(mUser.at(3, 0.05));
+  mWidget.setDocument(&mDocument);
+  EXPECT_FALSE(mWidget.undoStack()->canUndo());
+  EXPECT_EQ(mWidget.shot(), -1);
+}
+
+TEST_F(Picking, restsWhileOnlyTracesAreShown) {
+  mUser.setPick(4, 0.05);
+  mWidget.setShowOnlyTraces(true);
+  mUser.click(mUser.at(3, 0.05));
+  mUser.click(mUser.at(4, 0.05), Qt::RightButton);
+  mWidget.setCurrentTrace(4);
+  mUser.key(Qt::Key_Delete);
+  mUser.key(Qt::Key_Down);
+  EXPECT_EQ(mUser.pick(3), kUnpicked);
+  EXPECT_EQ(mUser.pick(4), 0.05);
+}
+
+TEST_F(Picking, tracesWithoutATimeInTheRecordAreNotPicked) {
+  mDocument.ttArray[0].ttMisurati.resize(6);
+  mWidget.documentChanged();
+  mUser.click(mUser.at(8, 0.05));
+  mUser.dragTo(mUser.at(4, 0.05), mUser.at(8, 0.05));
+  EXPECT_EQ(mDocument.ttArray[0].ttMisurati.size(), 6u);
+  EXPECT_TRUE(hasPick(mUser.pick(5)));
+}
+
+TEST_F(Picking, tellsWhatIsUnderTheCursor) {
+  std::vector<TraceCursor> told;
+  QObject::connect(&mWidget, &editTravelTimesWidget::cursorMoved,
+                   [&told](const TraceCursor& cursor) { told.push_back(cursor); });
+  QSignalSpy moved(&mWidget, &editTravelTimesWidget::mouse_moved);
+  mUser.setPick(3, 0.04);
+  mUser.move(mUser.at(3, 0.1), Qt::NoButton);
+  ASSERT_FALSE(told.empty());
+  const TraceCursor& cursor = told.back();
+  EXPECT_EQ(cursor.trace, 3);
+  EXPECT_NEAR(cursor.time, 0.1, mUser.pixel());
+  EXPECT_DOUBLE_EQ(*cursor.offset, 7.0);
+  EXPECT_DOUBLE_EQ(*cursor.distance, 6.0);
+  EXPECT_DOUBLE_EQ(*cursor.pick, 0.04);
+  const auto& samples = mDocument.traceSets[0][3].samples;
+  EXPECT_EQ(*cursor.amplitude,
+            samples[static_cast<std::size_t>(std::lround(cursor.time / kInterval))]);
+  ASSERT_EQ(moved.count(), 1);
+  EXPECT_EQ(moved[0][0].toInt(), 3);
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&mWidget, &leave);
+  EXPECT_EQ(moved.back()[0].toInt(), -1);
+  EXPECT_EQ(told.back().trace, -1);
+}
+
+}  // namespace
+}  // namespace talvesk
