@@ -1212,6 +1212,10 @@
         <source>Zoom in on first breaks</source>
         <translation>Ingrandisci i primi arrivi</translation>
     </message>
+    <message>
+        <source>&lt;h2&gt;No section yet&lt;/h2&gt;&lt;p&gt;The velocity section is drawn here after an inversion.&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Nessuna sezione&lt;/h2&gt;&lt;p&gt;La sezione di velocità viene disegnata qui dopo un&apos;inversione.&lt;/p&gt;</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -1244,14 +1248,71 @@
     </message>
     <message>
         <source>Other shots</source>
-        <translation type="unfinished"></translation>
+        <translation>Altri tiri</translation>
     </message>
     <message>
         <source>Computed</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolati</translation>
     </message>
     <message>
         <source>Air %1 m/s</source>
+        <translation>Aria %1 m/s</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TravelTimePlot</name>
+    <message>
+        <source>Travel-time curves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No travel times yet.
+
+Pick first breaks in the traces, by hand or with AutoPick, or import travel times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Computed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all curves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export &amp;picture...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shot %1 has no travel times yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click a curve to choose its shot</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -3,6 +3,7 @@
 #include "base/Settings.h"
 #include "ui_SettingsDialog.h"
 
+#include <QLayout>
 #include <QLocale>
 
 namespace talvesk {
@@ -38,6 +39,8 @@ SettingsDialog::SettingsDialog(const std::vector<Language>& languages, int curre
   mUi->languageCBox->setCurrentIndex(currentLanguage >= 0 ? currentLanguage
                                                           : languageOfSystem(languages));
   forEachOption(*mUi, settings, [](QCheckBox& box, bool value) { box.setChecked(value); });
+  // A wrapped hint asks for less height than it needs, and languages differ in length.
+  setMinimumSize(width(), layout()->totalHeightForWidth(width()));
 }
 
 SettingsDialog::~SettingsDialog() = default;

@@ -104,10 +104,14 @@ void Talvesk_MainWindows::connectViews() {
   connect(edits, &QUndoStack::canUndoChanged, mUi->actionUndo, &QAction::setEnabled);
   connect(edits, &QUndoStack::canRedoChanged, mUi->actionRedo, &QAction::setEnabled);
   mCursorLabel = new QLabel(this);
+  mCursorLabel->setMinimumWidth(1);  // a long text must not widen the window
   mUi->statusBar->addPermanentWidget(mCursorLabel);
 }
 
 void Talvesk_MainWindows::connectCommands() {
+  mUi->menuView->addSeparator();
+  mUi->menuView->addAction(mUi->mainToolBar->toggleViewAction());
+  mUi->menuView->addAction(mUi->toolBar->toggleViewAction());
   connect(mUi->showTravelTimeCB, &QCheckBox::clicked, this,
           &Talvesk_MainWindows::update_show_traces);
   connect(mUi->actionApply_Hushel, &QAction::triggered, this,
@@ -145,6 +149,7 @@ void Talvesk_MainWindows::addKeys() {
       {mUi->actionNext_file->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Right)});
   mUi->actionPrev_file->setShortcuts(
       {mUi->actionPrev_file->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Left)});
+  mUi->actionExit->setShortcuts({mUi->actionExit->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q)});
 }
 
 std::array<editTravelTimesWidget*, 2> Talvesk_MainWindows::editors() const {

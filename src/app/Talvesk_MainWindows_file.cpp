@@ -19,6 +19,7 @@
 namespace talvesk {
 namespace {
 
+constexpr int kPatience = 500;  ///< milliseconds of loading before progress is shown
 constexpr int kUnsupportedFormat = 3;  ///< status of a shot file whose suffix no reader takes
 
 bool isTravelTimeFile(const QString& file) {
@@ -69,6 +70,7 @@ void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
   QProgressDialog progress(tr("Loading shot files ..."), tr("Stop"), 0,
                            static_cast<int>(files.size()), this);
   progress.setWindowModality(Qt::WindowModal);
+  progress.setMinimumDuration(kPatience);
   for (const QString& file : files) {
     progress.setValue(static_cast<int>(outcomes.size()));
     if (progress.wasCanceled()) break;
@@ -200,7 +202,9 @@ void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
 void Talvesk_MainWindows::openFiles(const QStringList& files) {
   QStringList shots;
   QStringList travelTimes;
-  for (const QString& file : files) (isTravelTimeFile(file) ? travelTimes : shots) << file;
+  for (const QString& file : files) {
+    (isTravelTimeFile(file) ? travelTimes : shots) << QFileInfo(file).absoluteFilePath();
+  }
   if (!shots.isEmpty()) loadShotFiles(shots);
   for (const QString& file : travelTimes) importTravelTimeFile(file);
 }

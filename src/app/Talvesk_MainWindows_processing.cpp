@@ -23,8 +23,10 @@ bool Talvesk_MainWindows::forEachShot(const std::vector<std::int32_t>& shots, co
                                       const std::function<void(std::int32_t)>& work) {
   QProgressDialog progress(text, tr("Stop"), 0, static_cast<int>(shots.size()), this);
   progress.setWindowModality(Qt::WindowModal);
+  progress.setMinimumDuration(500);
   progress.setWindowTitle(QApplication::applicationName());
   QApplication::setOverrideCursor(Qt::WaitCursor);
+  progress.setValue(0);
   bool whole = true;
   for (std::size_t i = 0; i < shots.size() && whole; ++i) {
     work(shots[i]);
