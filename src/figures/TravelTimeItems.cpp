@@ -3,7 +3,6 @@
 #include "figures/FigureItem.h"
 #include "figures/SectionItems.h"
 
-#include <QColor>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPolygonF>
@@ -14,12 +13,32 @@ namespace talvesk::travel_time_items {
 namespace {
 
 constexpr double kSymbol = 4.6;  ///< points of 1/96 inch across
+constexpr double kStar = 9.0;
+constexpr double kStronger = 1.5;  ///< the current curve, times the others
+constexpr double kFaintness = 0.68;
 
-/// Dark enough for thin lines on white; neighbours in the list are far apart in hue.
-QColor colorOf(std::size_t record) {
-  static constexpr QRgb kColors[] = {0xff1f5fa8, 0xffc4281b, 0xff1f8a3b, 0xff7a3fa0, 0xffb86a00,
-                                     0xff008a93, 0xffb5307c, 0xff5b6b1a, 0xff3b3b3b, 0xff8a5a3c};
-  return QColor(kColors[record % (sizeof kColors / sizeof *kColors)]);
+QColor mixed(const QColor& a, const QColor& b, double partOfB) {
+  const auto mix = [partOfB](int x, int y) {
+    return static_cast<int>((1.0 - partOfB) * x + partOfB * y);
+  };
+  return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+}
+
+/// Draws one curve after the other, the current one last.
+/// \param draw is given the curve, its colour, and by how much to enlarge lines and symbols
+template <typename Draw>
+void forEachCurve(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look,
+                  Draw draw) {
+  const TravelTimeCurve* current = nullptr;
+  for (const TravelTimeCurve& curve : curves) {
+    if (curve.record == look.current) {
+      current = &curve;
+      continue;
+    }
+    const QColor color = colorOf(curve.record, look);
+    draw(curve, look.othersFaint ? mixed(color, look.ground, kFaintness) : color, 1.0);
+  }
+  if (current != nullptr) draw(*current, colorOf(current->record, look), kStronger);
 }
 
 void drawLines(QPainter& painter, const std::vector<std::vector<Point2D>>& lines,
@@ -32,73 +51,85 @@ void drawLines(QPainter& painter, const std::vector<std::vector<Point2D>>& lines
   }
 }
 
-/// A ring of white keeps symbols apart where curves cross.
-void drawSymbol(QPainter& painter, const QColor& color, const QPointF& middle) {
-  painter.setPen(QPen(Qt::white, 0.6));
+/// A ring of the ground keeps symbols apart where curves cross.
+void drawSymbol(QPainter& painter, const QColor& color, const QColor& ground, const QPointF& middle,
+                double size) {
+  painter.setPen(QPen(ground, 0.6));
   painter.setBrush(color);
-  painter.drawEllipse(middle, 0.5 * kSymbol, 0.5 * kSymbol);
+  painter.drawEllipse(middle, 0.5 * size, 0.5 * size);
 }
 
-void drawIconLine(QPainter& painter, const QSizeF& size, double width) {
-  painter.setPen(QPen(QColor(60, 60, 60), width));
+void drawIconLine(QPainter& painter, const QColor& color, const QSizeF& size, double width) {
+  painter.setPen(QPen(color, width));
   painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
 }
 
 }  // namespace
 
-QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, bool joined) {
-  const auto paint = [&curves, joined](QPainter& painter, const QwtScaleMap& xMap,
-                                       const QwtScaleMap& timeMap, const QRectF&) {
+QColor colorOf(std::size_t record, const TravelTimeLook& look) {
+  // Dark enough for thin lines on white; neighbours in the list are far apart in hue.
+  static constexpr QRgb kColors[] = {0xff1f5fa8, 0xffc4281b, 0xff1f8a3b, 0xff7a3fa0, 0xffb86a00,
+                                     0xff008a93, 0xffb5307c, 0xff5b6b1a, 0xff3b3b3b, 0xff8a5a3c};
+  const QColor color(kColors[record % (sizeof kColors / sizeof *kColors)]);
+  if (look.ground.lightness() >= 128) return color;
+  return QColor::fromHslF(color.hslHueF(), color.hslSaturationF(), 0.70);
+}
+
+QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look) {
+  const auto paint = [&curves, &look](QPainter& painter, const QwtScaleMap& xMap,
+                                      const QwtScaleMap& timeMap, const QRectF&) {
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const TravelTimeCurve& curve : curves) {
-      const QColor color = colorOf(curve.record);
-      painter.setPen(QPen(color, 0.9));
-      if (joined) drawLines(painter, curve.measuredLines, xMap, timeMap);
+    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, double by) {
+      painter.setPen(QPen(color, by * 0.9));
+      if (look.joined) drawLines(painter, curve.measuredLines, xMap, timeMap);
       for (const auto& pick : curve.picks) {
-        drawSymbol(painter, color, {xMap.transform(pick.point.x), timeMap.transform(pick.point.z)});
+        drawSymbol(painter, color, look.ground,
+                   {xMap.transform(pick.point.x), timeMap.transform(pick.point.z)}, by * kSymbol);
       }
-    }
+    });
   };
-  const auto icon = [joined](QPainter& painter, const QSizeF& size) {
+  const auto icon = [&look](QPainter& painter, const QSizeF& size) {
     // A dot alone would be blown up to fill the icon.
     painter.setPen(Qt::NoPen);
     painter.drawRect(QRectF(QPointF(), size));
-    if (joined) drawIconLine(painter, size, 0.9);
-    drawSymbol(painter, QColor(60, 60, 60), {size.width() / 2, size.height() / 2});
+    if (look.joined) drawIconLine(painter, look.icons, size, 0.9);
+    drawSymbol(painter, look.icons, look.ground, {size.width() / 2, size.height() / 2}, kSymbol);
   };
   return figureItem(QStringLiteral("Measured"), section_items::kContoursLayer, paint, icon);
 }
 
-QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves) {
-  const auto paint = [&curves](QPainter& painter, const QwtScaleMap& xMap,
-                               const QwtScaleMap& timeMap, const QRectF&) {
+QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look) {
+  const auto paint = [&curves, &look](QPainter& painter, const QwtScaleMap& xMap,
+                                      const QwtScaleMap& timeMap, const QRectF&) {
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const TravelTimeCurve& curve : curves) {
-      painter.setPen(QPen(colorOf(curve.record), 0.6));
+    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, double by) {
+      painter.setPen(QPen(color, by * 0.6));
       drawLines(painter, curve.computedLines, xMap, timeMap);
-    }
+    });
   };
-  const auto icon = [](QPainter& painter, const QSizeF& size) { drawIconLine(painter, size, 0.6); };
+  const auto icon = [&look](QPainter& painter, const QSizeF& size) {
+    drawIconLine(painter, look.icons, size, 0.6);
+  };
   return figureItem(QStringLiteral("Computed"), section_items::kRaysLayer, paint, icon);
 }
 
-QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves) {
-  const auto paint = [&curves](QPainter& painter, const QwtScaleMap& xMap,
-                               const QwtScaleMap& timeMap, const QRectF&) {
+QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look) {
+  const auto paint = [&curves, &look](QPainter& painter, const QwtScaleMap& xMap,
+                                      const QwtScaleMap& timeMap, const QRectF&) {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::white, 0.5));
-    const QPainterPath star = section_items::symbol(section_items::Marker::kShot, 9.0);
-    for (const TravelTimeCurve& curve : curves) {
-      if (!curve.hasShot) continue;
-      painter.setBrush(colorOf(curve.record));
+    painter.setPen(QPen(look.ground, 0.5));
+    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, double by) {
+      if (!curve.hasShot) return;
+      painter.setBrush(color);
       painter.drawPath(
-          star.translated(xMap.transform(curve.shot.x), timeMap.transform(curve.shot.z)));
-    }
+          section_items::symbol(section_items::Marker::kShot, by * kStar)
+              .translated(xMap.transform(curve.shot.x), timeMap.transform(curve.shot.z)));
+    });
   };
-  const auto icon = [](QPainter& painter, const QSizeF& size) {
-    painter.setPen(QPen(Qt::white, 0.5));
-    painter.setBrush(QColor(60, 60, 60));
-    const QPainterPath star = section_items::symbol(section_items::Marker::kShot, 9.0);
+  const auto icon = [&look](QPainter& painter, const QSizeF& size) {
+    painter.setPen(QPen(look.ground, 0.5));
+    painter.setBrush(look.icons);
+    const QPainterPath star = section_items::symbol(section_items::Marker::kShot, kStar);
     painter.drawPath(star.translated(size.width() / 2, size.height() / 2));
   };
   return figureItem(QStringLiteral("Shots"), section_items::kMarkersLayer, paint, icon);

@@ -1,38 +1,37 @@
 #pragma once
 
-#include "base/Point2D.h"
+#include "figures/TravelTimeCurves.h"
 
+#include <QColor>
 #include <cstddef>
+#include <limits>
 #include <vector>
 
 class QwtPlotItem;
 
 namespace talvesk {
 
-/// The T-x curve of one shot; of its points, x is distance in metres and z is time in milliseconds.
-struct TravelTimeCurve {
-  struct Pick {
-    std::size_t geophone = 0;  ///< of the record's string, from 0
-    Point2D point;
-  };
+/// How T-x curves are drawn; as they stand, the values are for paper.
+struct TravelTimeLook {
+  static constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
 
-  std::size_t record = 0;   ///< from 0; chooses the colour
-  std::vector<Pick> picks;  ///< by ascending x
-  /// Lines through picks, or computed times, of neighbouring geophones.
-  std::vector<std::vector<Point2D>> measuredLines;
-  std::vector<std::vector<Point2D>> computedLines;
-  bool hasShot = false;
-  Point2D shot;  ///< at time 0
+  bool joined = true;           ///< lines through the picks
+  std::size_t current = kNone;  ///< record that is drawn over the others, and stronger
+  bool othersFaint = false;
+  QColor ground = Qt::white;  ///< what is behind; the colours of the curves stand out from it
+  QColor icons{60, 60, 60};   ///< of the legend
 };
 
-/// The layers of T-x curves on a plot with distance below and time at the left. The curves must
-/// outlive the plot.
+/// The layers of T-x curves on a plot with distance below and time at the left. Curves and look
+/// must outlive the plot; changes show when the plot is painted next.
 namespace travel_time_items {
 
-/// \param joined draws lines through the picks
-QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, bool joined);
-QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves);
-QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves);
+QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);
+QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);
+QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);
+
+/// The colour of a record's curve.
+QColor colorOf(std::size_t record, const TravelTimeLook& look);
 
 }  // namespace travel_time_items
 }  // namespace talvesk

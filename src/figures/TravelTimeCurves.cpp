@@ -1,0 +1,118 @@
+#include "figures/TravelTimeCurves.h"
+
+#include "figures/GatherScene.h"
+#include "model/TomoDocument.h"
+
+#include <algorithm>
+
+namespace talvesk {
+namespace {
+
+/// Positions of a record's receivers, as many as are known.
+std::vector<double> receiversOf(const TomoDocument& document, const TravelTime& record) {
+  std::vector<double> positions;
+  const auto& strings = document.goephonesStringSet;
+  const auto string = static_cast<std::size_t>(record.indexStesa);
+  if (record.indexStesa >= 0 && string < strings.size() && !strings[string].empty()) {
+    for (const Point2D& p : strings[string]) positions.push_back(p.x);
+    return positions;
+  }
+  const auto set = static_cast<std::size_t>(record.traceSetID);
+  if (record.traceSetID >= 0 && set < document.traceSets.size()) {
+    for (const Trace& trace : document.traceSets[set]) {
+      positions.push_back(trace.receiverPosition.x);
+    }
+  }
+  return positions;
+}
+
+/// Geophones with a known position, by ascending x.
+std::vector<std::size_t> alongTheLine(const std::vector<double>& positions) {
+  std::vector<std::size_t> order;
+  for (std::size_t i = 0; i < positions.size(); ++i) {
+    if (isPosition(positions[i])) order.push_back(i);
+  }
+  std::stable_sort(order.begin(), order.end(), [&positions](std::size_t a, std::size_t b) {
+    return positions[a] < positions[b];
+  });
+  return order;
+}
+
+/// Lines through the times of geophones that follow each other; one without a time ends a line.
+std::vector<std::vector<Point2D>> linesThrough(const std::vector<double>& times,
+                                               const std::vector<std::size_t>& order,
+                                               const std::vector<double>& positions) {
+  std::vector<std::vector<Point2D>> lines(1);
+  for (const std::size_t i : order) {
+    if (i < times.size() && isDrawableTime(times[i])) {
+      lines.back().push_back({positions[i], 1e3 * times[i]});
+    } else if (!lines.back().empty()) {
+      lines.emplace_back();
+    }
+  }
+  if (lines.back().empty()) lines.pop_back();
+  return lines;
+}
+
+TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool withComputed) {
+  const TravelTime& record = document.ttArray[index];
+  const std::vector<double> positions = receiversOf(document, record);
+  const std::vector<std::size_t> order = alongTheLine(positions);
+  TravelTimeCurve curve;
+  curve.record = index;
+  for (const std::size_t i : order) {
+    if (i >= record.ttMisurati.size() || !isDrawableTime(record.ttMisurati[i])) continue;
+    curve.picks.push_back({i, {positions[i], 1e3 * record.ttMisurati[i]}});
+  }
+  curve.measuredLines = linesThrough(record.ttMisurati, order, positions);
+  if (withComputed) curve.computedLines = linesThrough(record.ttCalcolati, order, positions);
+  curve.hasShot = isPosition(record.shotPos2d.x);
+  if (curve.hasShot) curve.shot = {record.shotPos2d.x, 0.0};
+  return curve;
+}
+
+void takeIn(TravelTimeCurves& result, const Point2D& point, bool first) {
+  result.low = first ? point.x : std::min(result.low, point.x);
+  result.high = first ? point.x : std::max(result.high, point.x);
+  result.latestMs = std::max(result.latestMs, point.z);
+}
+
+void takeInTimes(TravelTimeCurves& result, const TravelTimeCurve& curve) {
+  for (const auto& pick : curve.picks) {
+    takeIn(result, pick.point, result.picks + result.computedTimes == 0);
+    ++result.picks;
+  }
+  for (const auto& line : curve.computedLines) {
+    for (const Point2D& p : line) {
+      takeIn(result, p, result.picks + result.computedTimes == 0);
+      ++result.computedTimes;
+    }
+  }
+}
+
+/// A shot further off than the receivers' whole line is long would take the room of the curves.
+void takeInShots(TravelTimeCurves& result) {
+  const double reach = std::max(result.high - result.low, 1.0);
+  const double low = result.low - reach;
+  const double high = result.high + reach;
+  for (TravelTimeCurve& curve : result.curves) {
+    curve.hasShot = curve.hasShot && curve.shot.x >= low && curve.shot.x <= high;
+    if (curve.hasShot) takeIn(result, curve.shot, false);
+  }
+}
+
+}  // namespace
+
+TravelTimeCurves travelTimeCurves(const TomoDocument& document, bool computed) {
+  TravelTimeCurves result;
+  for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
+    TravelTimeCurve curve = curveOf(document, i, computed);
+    if (curve.picks.empty() && curve.computedLines.empty()) continue;
+    takeInTimes(result, curve);
+    result.curves.push_back(std::move(curve));
+  }
+  takeInShots(result);
+  return result;
+}
+
+}  // namespace talvesk

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/Point2D.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace talvesk {
+
+class TomoDocument;
+
+/// The T-x curve of one shot; of its points, x is distance in metres and z is time in milliseconds.
+struct TravelTimeCurve {
+  struct Pick {
+    std::size_t geophone = 0;  ///< of the record's string, from 0
+    Point2D point;
+  };
+
+  std::size_t record = 0;   ///< from 0; chooses the colour
+  std::vector<Pick> picks;  ///< by ascending x
+  /// Lines through picks, or computed times, of neighbouring geophones.
+  std::vector<std::vector<Point2D>> measuredLines;
+  std::vector<std::vector<Point2D>> computedLines;
+  bool hasShot = false;
+  Point2D shot;  ///< at time 0
+};
+
+/// The T-x curves of a survey and the room that they need, which begins at time 0.
+struct TravelTimeCurves {
+  std::vector<TravelTimeCurve> curves;  ///< of the records with a time to draw, in order
+  std::size_t picks = 0;
+  std::size_t computedTimes = 0;
+  double low = 0.0;  ///< metres, shots included; 0 without a time
+  double high = 0.0;
+  double latestMs = 0.0;  ///< milliseconds
+};
+
+/// Removed and missing times leave a gap. Receiver positions are those of the record's geophone
+/// string, else of the headers of its traces. A shot that lies off the receivers by more than their
+/// line is long counts as unknown.
+/// \param computed whether to take the computed times
+TravelTimeCurves travelTimeCurves(const TomoDocument& document, bool computed);
+
+}  // namespace talvesk
