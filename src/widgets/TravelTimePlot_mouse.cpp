@@ -35,6 +35,20 @@ double distanceToLine(const QPointF& p, const QPointF& a, const QPointF& b) {
   return distance(p, a + part * along);
 }
 
+/// A pick at 0 would be none, and after the end of its record there is nothing to pick.
+double withinRecord(const TomoDocument& document, int shot, int trace, double seconds) {
+  constexpr double kEarliest = 1e-6;
+  const auto set =
+      static_cast<std::size_t>(document.ttArray[static_cast<std::size_t>(shot)].traceSetID);
+  if (set < document.traceSets.size() &&
+      static_cast<std::size_t>(trace) < document.traceSets[set].size()) {
+    const Trace& recorded = document.traceSets[set][static_cast<std::size_t>(trace)];
+    const double end = static_cast<double>(recorded.samples.size()) * recorded.sampleInterval;
+    if (end > 0.0) seconds = std::min(seconds, end);
+  }
+  return std::max(seconds, kEarliest);
+}
+
 QString milliseconds(double seconds) {
   return QLocale().toString(1e3 * seconds, 'f', 2);
 }
@@ -83,7 +97,7 @@ int TravelTimePlot::State::curveAt(const QPointF& at) const {
   if (const auto pick = pickAt(at)) return pick->shot;
   double nearest = kReach;
   int found = -1;
-  const auto look_at = [&](const std::vector<std::vector<Point2D>>& lines, int shot) {
+  const auto lookAt = [&](const std::vector<std::vector<Point2D>>& lines, int shot) {
     for (const auto& line : lines) {
       for (std::size_t i = 1; i < line.size(); ++i) {
         const double away = distanceToLine(at, point(line[i - 1]), point(line[i]));
@@ -95,8 +109,8 @@ int TravelTimePlot::State::curveAt(const QPointF& at) const {
   };
   for (const TravelTimeCurve& curve : curves.curves) {
     const auto shot = static_cast<int>(curve.record);
-    if (measuredShown && look.joined) look_at(curve.measuredLines, shot);
-    if (computedShown) look_at(curve.computedLines, shot);
+    if (measuredShown && look.joined) lookAt(curve.measuredLines, shot);
+    if (computedShown) lookAt(curve.computedLines, shot);
     if (!curve.hasShot) continue;
     const double away = distance(at, point(curve.shot));
     if (away < nearest) {
@@ -164,8 +178,8 @@ void TravelTimePlot::State::release(const QMouseEvent& event) {
     if (const int shot = curveAt(at); shot >= 0) chooseShot(shot);
   } else if (finished == Drag::Band) {
     finishBand(at);
-  } else if (finished == Drag::Pick && pick) {
-    movePick(*pick, timeAt(at.y()));
+  } else if (finished == Drag::Pick && pickPoint(pick ? pick->shot : -1, pick ? pick->trace : -1)) {
+    movePick(*pick, withinRecord(*document, pick->shot, pick->trace, timeAt(at.y())));
   }
 }
 
