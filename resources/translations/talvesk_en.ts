@@ -42,4 +42,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>talvesk::doFilteringDialog</name>
+    <message numerus="yes">
+        <source>%n trace(s) stay as they were.</source>
+        <translation>
+            <numerusform>%n trace stays as it was.</numerusform>
+            <numerusform>%n traces stay as they were.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -233,6 +233,21 @@
     </message>
 </context>
 <context>
+    <name>talvesk::SpectrumPlot</name>
+    <message>
+        <source>Amplitude spectrum</source>
+        <translation>Spettro d&apos;ampiezza</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenza</translation>
+    </message>
+    <message>
+        <source>Intensity</source>
+        <translation>Intensità</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::Talvesk_MainWindows</name>
     <message>
         <source>Traces</source>
@@ -1216,6 +1231,22 @@
         <source>&lt;h2&gt;No section yet&lt;/h2&gt;&lt;p&gt;The velocity section is drawn here after an inversion.&lt;/p&gt;</source>
         <translation>&lt;h2&gt;Nessuna sezione&lt;/h2&gt;&lt;p&gt;La sezione di velocità viene disegnata qui dopo un&apos;inversione.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Save travel-time curves</source>
+        <translation>Salva le dromocrone</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf);;All Files (*)</source>
+        <translation>Immagini (*.png *.svg *.pdf);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>The picture has not been saved.</source>
+        <translation>L&apos;immagine non è stata salvata.</translation>
+    </message>
+    <message>
+        <source>Picture saved in %1</source>
+        <translation>Immagine salvata in %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -1263,57 +1294,201 @@
     <name>talvesk::TravelTimePlot</name>
     <message>
         <source>Travel-time curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Dromocrone</translation>
     </message>
     <message>
         <source>No travel times yet.
 
 Pick first breaks in the traces, by hand or with AutoPick, or import travel times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun tempo di arrivo.
+
+Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi di arrivo.</translation>
     </message>
     <message>
         <source>Distance [m]</source>
-        <translation type="unfinished"></translation>
+        <translation>Distanza [m]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo [ms]</translation>
     </message>
     <message>
         <source>&amp;Measured</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Misurati</translation>
     </message>
     <message>
         <source>&amp;Computed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Calcolati</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra &amp;tutto</translation>
     </message>
     <message>
         <source>Show all curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutte le dromocrone</translation>
     </message>
     <message>
         <source>Export &amp;picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta &amp;immagine...</translation>
     </message>
     <message>
         <source>Save the curves as PNG, SVG or PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva le dromocrone come PNG, SVG o PDF</translation>
     </message>
     <message>
         <source>Shot %1 at %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiro %1 a %2 m</translation>
     </message>
     <message>
         <source>Shot %1 has no travel times yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tiro %1 non ha ancora tempi di arrivo</translation>
     </message>
     <message>
         <source>Click a curve to choose its shot</source>
+        <translation>Un clic su una dromocrona ne sceglie il tiro</translation>
+    </message>
+    <message>
+        <source>Shot %1, trace %2: %3 ms</source>
+        <translation>Tiro %1, traccia %2: %3 ms</translation>
+    </message>
+    <message>
+        <source>Computed: %1 ms</source>
+        <translation>Calcolato: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Remove pick</source>
+        <translation>&amp;Togli il primo arrivo</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;back</source>
+        <translation>Vista &amp;precedente</translation>
+    </message>
+    <message>
+        <source>Zoom for&amp;ward</source>
+        <translation>Vista &amp;successiva</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::doFilteringDialog</name>
+    <message>
+        <source>Trace Filtering</source>
+        <translation>Filtro delle tracce</translation>
+    </message>
+    <message>
+        <source>High Pass Filter</source>
+        <translation>Filtro passa alto</translation>
+    </message>
+    <message>
+        <source>Use &amp;high pass</source>
+        <translation>Usa il passa &amp;alto</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Frequenza (Hz)</translation>
+    </message>
+    <message>
+        <source>High pass frequency in hertz</source>
+        <translation>Frequenza del passa alto in hertz</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordine</translation>
+    </message>
+    <message>
+        <source>High pass order</source>
+        <translation>Ordine del passa alto</translation>
+    </message>
+    <message>
+        <source>Low Pass Filter</source>
+        <translation>Filtro passa basso</translation>
+    </message>
+    <message>
+        <source>Use &amp;low pass</source>
+        <translation>Usa il passa &amp;basso</translation>
+    </message>
+    <message>
+        <source>Low pass frequency in hertz</source>
+        <translation>Frequenza del passa basso in hertz</translation>
+    </message>
+    <message>
+        <source>Low pass order</source>
+        <translation>Ordine del passa basso</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Applica il filtro a:</translation>
+    </message>
+    <message>
+        <source>Filter the samples as they were recorded</source>
+        <translation>Filtra i campioni come sono stati registrati</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Originali</translation>
+    </message>
+    <message>
+        <source>Filter what the filters and AGC before made of them</source>
+        <translation>Filtra ciò che ne hanno fatto i filtri e l&apos;AGC di prima</translation>
+    </message>
+    <message>
+        <source>Filtered</source>
+        <translation>Filtrati</translation>
+    </message>
+    <message>
+        <source>&amp;Apply filter</source>
+        <translation>A&amp;pplica il filtro</translation>
+    </message>
+    <message>
+        <source>Display:</source>
+        <translation>Mostra:</translation>
+    </message>
+    <message>
+        <source>What the filter is applied to</source>
+        <translation>Ciò a cui si applica il filtro</translation>
+    </message>
+    <message>
+        <source>Original data</source>
+        <translation>Dati originali</translation>
+    </message>
+    <message>
+        <source>What comes out of the filter</source>
+        <translation>Ciò che esce dal filtro</translation>
+    </message>
+    <message>
+        <source>Filtered data</source>
+        <translation>Dati filtrati</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Caution</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No filter applied. Filter order must be greater then 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) stay as they were.</source>
+        <translation>
+            <numerusform>%n traccia resta com&apos;era.</numerusform>
+            <numerusform>%n tracce restano com&apos;erano.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 #include "app/Messages.h"
 #include "app/SettingsDialog.h"
 #include "ui_Talvesk_MainWindows.h"
+#include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QActionGroup>
@@ -41,6 +42,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   startLog();
   loadSettings();
   connectViews();
+  connectPlots();
   connectCommands();
   mUi->showTracesWidget_2->hide();
   mUi->tabWidget->setCurrentIndex(0);

@@ -26,6 +26,7 @@ class Talvesk_MainWindows;
 }
 class SettingsDialog;
 class editTravelTimesWidget;
+class TravelTimePlot;
 enum class PickSnap;
 enum class TraceTool;
 struct FilterOutcome;
@@ -173,6 +174,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void startLog();
   void loadSettings();
   void connectViews();
+  void connectPlots();
   void connectCommands();
   void addShotChooser();
   void groupActions();
@@ -191,6 +193,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void importTravelTimeFile(const QString& file);
   QString historyFolder() const;
   void saveHistoryOf(const QString& file);
+  void exportCurves();
 
   // State
   void changeLanguage(int index);
@@ -205,14 +208,14 @@ class Talvesk_MainWindows : public QMainWindow {
   void setOption(bool Settings::*option, bool value);
   void saveSettings();
   void refreshViewActions();
-  void refreshTravelTimes();
-  void showTraceInPreview(int trace);
+  void refreshPlots();
   bool hasFilteredCopy(int shot) const;
   template <typename Change>
   void changeView(Change change);
   void chooseSnap(PickSnap snap);
   void chooseTool(TraceTool tool);
   std::array<editTravelTimesWidget*, 2> editors() const;
+  std::array<TravelTimePlot*, 2> plots() const;
   void showCursor(const TraceCursor& cursor);
 
   // Processing

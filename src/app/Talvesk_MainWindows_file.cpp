@@ -19,7 +19,7 @@
 namespace talvesk {
 namespace {
 
-constexpr int kPatience = 500;  ///< milliseconds of loading before progress is shown
+constexpr int kPatience = 500;         ///< milliseconds of loading before progress is shown
 constexpr int kUnsupportedFormat = 3;  ///< status of a shot file whose suffix no reader takes
 
 bool isTravelTimeFile(const QString& file) {

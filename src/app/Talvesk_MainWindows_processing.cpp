@@ -52,7 +52,7 @@ void Talvesk_MainWindows::on_actionAutoPick_triggered() {
   });
   for (editTravelTimesWidget* editor : editors()) editor->autoPicked(picked);
   documentModified();
-  refreshTravelTimes();
+  refreshPlots();
   if (!failed.ok()) {
     mLog.write(failed.message(), 1);
     showError(this, tr("Warning"), tr("Not every shot could be picked."),

@@ -1,5 +1,6 @@
 #include "app/Talvesk_MainWindows.h"
 #include "ui_Talvesk_MainWindows.h"
+#include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QComboBox>
@@ -24,6 +25,7 @@ void Talvesk_MainWindows::clearDocument() {
   mShots.clear();
   mCurrentFile = -1;
   for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
+  for (TravelTimePlot* plot : plots()) plot->setDocument(&mDocument);
   documentChanged();
 }
 
@@ -34,7 +36,7 @@ void Talvesk_MainWindows::documentChanged() {
   for (editTravelTimesWidget* editor : editors()) editor->documentChanged();
   mUi->tracesStack->setCurrentWidget(count == 0 ? mUi->emptyPage
                                                 : static_cast<QWidget*>(mUi->splitter));
-  refreshTravelTimes();
+  refreshPlots();
   refreshShotChooser();
   refreshTraceOptions();
   refreshTitle();
@@ -52,7 +54,7 @@ void Talvesk_MainWindows::showFile(int index) {
   for (editTravelTimesWidget* editor : editors()) editor->setShot(mCurrentFile);
   mShotChooser->setCurrentIndex(mCurrentFile);
   refreshTraceOptions();
-  refreshTravelTimes();
+  refreshPlots();
 }
 
 void Talvesk_MainWindows::refreshTitle() {
@@ -191,11 +193,5 @@ void Talvesk_MainWindows::refreshCommands() {
                               mUi->actionReset_View};
   for (QAction* action : waiting) action->setEnabled(false);
 }
-
-// --- The travel-time views
-
-void Talvesk_MainWindows::refreshTravelTimes() {}
-
-void Talvesk_MainWindows::showTraceInPreview(int) {}
 
 }  // namespace talvesk

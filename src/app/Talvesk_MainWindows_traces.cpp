@@ -1,6 +1,7 @@
 #include "app/RecordingDetailsDialog.h"
 #include "app/Talvesk_MainWindows.h"
 #include "ui_Talvesk_MainWindows.h"
+#include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QLocale>
@@ -44,11 +45,11 @@ void Talvesk_MainWindows::enable_draw_travel_times() {
 
 void Talvesk_MainWindows::on_pickEdited() {
   documentModified();
-  refreshTravelTimes();
+  refreshPlots();
 }
 
 void Talvesk_MainWindows::on_mousemoved(int trace) {
-  showTraceInPreview(trace);
+  mUi->travelTimePreview->setHighlightedTrace(trace);
 }
 
 void Talvesk_MainWindows::showCursor(const TraceCursor& cursor) {
@@ -161,7 +162,7 @@ void Talvesk_MainWindows::on_showAllPicksCB_clicked(bool checked) {
 void Talvesk_MainWindows::on_showSimTT_CB_clicked(bool checked) {
   logSlot(__func__);
   changeView([=](TraceViewOptions& view) { view.showComputedTimes = checked; });
-  refreshTravelTimes();
+  refreshPlots();
 }
 
 void Talvesk_MainWindows::update_show_traces(bool onlyTraces) {

@@ -1,9 +1,11 @@
 #include "gui/WindowTest.h"
+#include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputDialog>
+#include <QTabWidget>
 #include <QTest>
 
 namespace talvesk {
@@ -115,6 +117,33 @@ TEST_F(Survey, isPickedByMouseAndKeysWithUndo) {
 
   QTest::keyClick(&view, Qt::Key_Delete);
   EXPECT_FALSE(hasPick(times[4]));
+}
+
+TEST_F(Survey, isChosenAndEditedInItsCurvesToo) {
+  loadShots(2);
+  for (TravelTime& record : window->document().ttArray) {
+    for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
+      record.ttMisurati[i] = 0.02 + 0.002 * static_cast<double>(i) + 0.01 * record.traceSetID;
+    }
+  }
+  window->showFile(0);
+  child<QTabWidget>("tabWidget").setCurrentIndex(1);
+  QTest::qWait(50);
+  auto& curves = child<TravelTimePlot>("travelTimeCurves");
+  ASSERT_TRUE(curves.pointOf(1, 6));
+  const QPoint pick = curves.pointOf(1, 6)->toPoint();
+  QTest::mouseClick(curves.canvas(), Qt::LeftButton, {}, pick);
+  EXPECT_EQ(window->currentFile(), 1);
+
+  const double& time = window->document().ttArray[1].ttMisurati[6];
+  const double before = time;
+  QTest::mousePress(curves.canvas(), Qt::LeftButton, {}, pick);
+  QTest::mouseMove(curves.canvas(), pick - QPoint(0, 20));
+  QTest::mouseMove(curves.canvas(), pick - QPoint(0, 40));
+  QTest::mouseRelease(curves.canvas(), Qt::LeftButton, {}, pick - QPoint(0, 40));
+  EXPECT_GT(time, before + 0.001) << "up is later";
+  action("actionUndo").trigger();
+  EXPECT_DOUBLE_EQ(time, before);
 }
 
 TEST_F(Survey, showsOnlyTracesWithoutTheirTimes) {

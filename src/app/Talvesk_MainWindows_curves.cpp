@@ -1,0 +1,58 @@
+#include "app/Messages.h"
+#include "app/Talvesk_MainWindows.h"
+#include "figures/TravelTimeFigure.h"
+#include "ui_Talvesk_MainWindows.h"
+#include "widgets/TravelTimePlot.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QFileDialog>
+
+namespace talvesk {
+
+std::array<TravelTimePlot*, 2> Talvesk_MainWindows::plots() const {
+  return {mUi->travelTimePreview, mUi->travelTimeCurves};
+}
+
+void Talvesk_MainWindows::connectPlots() {
+  mUi->travelTimePreview->setRole(TravelTimePlot::Role::CurrentShot);
+  mUi->travelTimeCurves->setRole(TravelTimePlot::Role::AllShots);
+  for (TravelTimePlot* plot : plots()) {
+    plot->setDocument(&mDocument);
+    // A pick dragged in a plot is undone with the others, so the trace view makes the edit.
+    plot->setEditor([this](int shot, int trace, double seconds) {
+      mUi->showTracesWidget->editPick(shot, trace, seconds);
+    });
+    connect(plot, &TravelTimePlot::shotChosen, this, &Talvesk_MainWindows::showFile);
+    connect(plot, &TravelTimePlot::exportRequested, this, &Talvesk_MainWindows::exportCurves);
+  }
+}
+
+void Talvesk_MainWindows::refreshPlots() {
+  for (TravelTimePlot* plot : plots()) {
+    plot->refresh();
+    plot->setCurrentShot(mCurrentFile);
+  }
+  mUi->travelTimePreview->setShowComputed(mUi->showSimTT_CB->isChecked());
+}
+
+void Talvesk_MainWindows::exportCurves() {
+  QFileDialog dialog(this, tr("Save travel-time curves"), historyFolder(),
+                     tr("Pictures (*.png *.svg *.pdf);;All Files (*)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setDefaultSuffix(QStringLiteral("png"));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+  const QString file = dialog.selectedFiles().front();
+  TravelTimeFigureOptions options;
+  options.computed = mUi->travelTimeCurves->showsComputed();
+  if (const Status status = writeTravelTimeFigure(mDocument, options, file.toStdString());
+      !status.ok()) {
+    mLog.write(status.message(), 1);
+    showError(this, tr("Error occured"), tr("The picture has not been saved."),
+              QString::fromStdString(status.message()));
+    return;
+  }
+  mUi->statusBar->showMessage(tr("Picture saved in %1").arg(file), 10000);
+}
+
+}  // namespace talvesk
