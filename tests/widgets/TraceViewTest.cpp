@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QSignalSpy>
 #include <limits>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -156,13 +157,16 @@ TEST_F(TraceView, everyGuideShowsAndGoesAgain) {
   mDocument.ttArray[0].ttCalcolati.assign(24, 0.25);
   mDocument.ttArray[1].ttMisurati.assign(24, 0.35);
   const QImage bare = picture();
-  const std::vector<void (editTravelTimesWidget::*)(bool)> switches{
-      &editTravelTimesWidget::setAirWave, &editTravelTimesWidget::setShowAllPicks,
-      &editTravelTimesWidget::setShowComputedTimes};
-  for (const auto toggle : switches) {
-    (mWidget.*toggle)(true);
+  const TraceViewOptions none = mWidget.options();
+  const std::vector<bool TraceViewOptions::*> guides{&TraceViewOptions::airWave,
+                                                     &TraceViewOptions::showAllPicks,
+                                                     &TraceViewOptions::showComputedTimes};
+  for (const auto guide : guides) {
+    TraceViewOptions one = none;
+    one.*guide = true;
+    mWidget.setOptions(one);
     EXPECT_GT(differing(picture(), bare), 100);
-    (mWidget.*toggle)(false);
+    mWidget.setOptions(none);
     EXPECT_EQ(differing(picture(), bare), 0);
   }
 }
