@@ -149,6 +149,7 @@ void editTravelTimesWidget::editPick(int shot, int trace, double seconds) {
   const std::vector<double>& times = records[static_cast<std::size_t>(shot)].ttMisurati;
   if (static_cast<std::size_t>(trace) >= times.size()) return;
   const double before = times[static_cast<std::size_t>(trace)];
+  if (!hasPick(seconds) || !std::isfinite(seconds)) seconds = kNoTime;
   if (hasPick(seconds) ? seconds == before : !hasPick(before)) return;
   const PickChange change = {trace, before, seconds, state.review.waits(shot, trace), false};
   state.stack.push(

@@ -1,6 +1,7 @@
 #include "WidgetDriver.h"
 
 #include <QSignalSpy>
+#include <limits>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -195,6 +196,18 @@ TEST_F(Picking, undoOfAnotherShotSaysWhichOne) {
   EXPECT_EQ(mUser.pick(3, 0), kUnpicked);
   ASSERT_EQ(shots.count(), 1);
   EXPECT_EQ(shots[0][0].toInt(), 0);
+}
+
+TEST_F(Picking, editsThatOtherViewsAskForCanBeUndone) {
+  mWidget.editPick(1, 4, 0.07);
+  mWidget.editPick(1, 5, std::numeric_limits<double>::quiet_NaN());
+  mWidget.editPick(1, 40, 0.07);
+  mWidget.editPick(9, 4, 0.07);
+  EXPECT_EQ(mUser.pick(4, 1), 0.07);
+  EXPECT_EQ(mUser.pick(5, 1), kUnpicked);
+  EXPECT_EQ(mWidget.undoStack()->count(), 1);
+  mWidget.undoStack()->undo();
+  EXPECT_EQ(mUser.pick(4, 1), kUnpicked);
 }
 
 TEST_F(Picking, aNewDocumentForgetsTheHistory) {
