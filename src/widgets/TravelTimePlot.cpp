@@ -149,7 +149,6 @@ void TravelTimePlot::State::dress() {
 }
 
 void TravelTimePlot::State::retranslate() {
-  widget.setAccessibleName(TravelTimePlot::tr("Travel-time curves"));
   emptyPage->setText(TravelTimePlot::tr(
       "No travel times yet.\n\nPick first breaks in the traces, by hand or with AutoPick, or "
       "import travel times."));
@@ -225,6 +224,7 @@ void TravelTimePlot::State::walk(int steps) {
 TravelTimePlot::TravelTimePlot(QWidget* parent)
     : QWidget(parent), mState(std::make_unique<State>(*this)) {
   setFocusPolicy(Qt::StrongFocus);
+  setAccessibleName(tr("Travel-time curves"));
   mState->build();
   mState->retranslate();
   mState->dress();
