@@ -1465,23 +1465,23 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     </message>
     <message>
         <source>Shot %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiro %1 di %2</translation>
     </message>
     <message>
         <source>The filter goes to all shots.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il filtro va a tutti i tiri.</translation>
     </message>
     <message>
         <source>Caution</source>
-        <translation type="unfinished"></translation>
+        <translation>Attenzione</translation>
     </message>
     <message>
         <source>No filter applied. Filter order must be greater then 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun filtro applicato. L&apos;ordine del filtro deve essere maggiore di 0.</translation>
     </message>
     <message>
         <source>No filter applied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun filtro applicato.</translation>
     </message>
     <message numerus="yes">
         <source>%n trace(s) stay as they were.</source>

@@ -1,5 +1,6 @@
 #include "app/Messages.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/doFilteringDialog.h"
 #include "processing/FirstBreak.h"
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
@@ -108,6 +109,14 @@ void Talvesk_MainWindows::on_actionAuto_improve_triggered() {
 
 void Talvesk_MainWindows::on_actionFilter_triggered() {
   logSlot(__func__);
+  const std::vector<std::int32_t> shots = shotsToProcess();
+  if (shots.empty() || mCurrentFile < 0) return;
+  doFilteringDialog dialog(mDocument, mCurrentFile, shots, this);
+  dialog.setTraceOptions(mUi->showTracesWidget->options());
+  dialog.exec();
+  if (!dialog.changedDocument()) return;
+  documentModified();
+  showFilteredCopies();
 }
 
 void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {

@@ -137,7 +137,7 @@ void Talvesk_MainWindows::refreshCommands() {
       {mUi->actionPrev_file, records},
       {mUi->actionRecording_details, traces},
       {mUi->actionAutoPick, shotInView},
-      {mUi->actionFilter, false},
+      {mUi->actionFilter, shotInView},
       {mUi->actionAGC, shotInView},
       {mUi->actionApply_Hushel, shotInView},
       {mUi->actionConfirm_picks, shotInView},

@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QDoubleSpinBox>
+#include <QPushButton>
 
 namespace talvesk {
 namespace {
@@ -60,6 +62,20 @@ TEST_F(Processing, filtersTheShotInViewAndTurnsItsCopyOver) {
     action("actionPrev_file").trigger();
     EXPECT_TRUE(shown.isChecked());
   }
+}
+
+TEST_F(Processing, filtersByDialogAndShowsTheResult) {
+  dialogs.expect([](QWidget& dialog) {
+    dialog.findChild<QCheckBox*>("lowPassCBox")->setChecked(true);
+    dialog.findChild<QDoubleSpinBox*>("doubleFxLowpass")->setValue(100.0);
+    dialog.findChild<QSpinBox*>("lowPassOrder")->setValue(2);
+    dialog.findChild<QPushButton*>("button_apply_filter")->click();
+    dialog.close();
+  });
+  action("actionFilter").trigger();
+  EXPECT_TRUE(hasCopy(0));
+  EXPECT_FALSE(hasCopy(1));
+  EXPECT_TRUE(child<QCheckBox>("show_filtered_cb").isChecked());
 }
 
 TEST_F(Processing, reachesAllShotsWhenAllAreShown) {
