@@ -94,6 +94,7 @@ void doFilteringDialog::makeWorkingCopy() {
   const auto shot = static_cast<std::size_t>(mShot);
   mCopy.traceSets = {workingCopyOf(mDocument.traceSets[shot], mUi->applyToFiltered->isChecked())};
   TravelTime record;
+  if (shot < mDocument.ttArray.size()) record.shotPos2d = mDocument.ttArray[shot].shotPos2d;
   record.indexStesa = -1;  // positions are those of the traces
   record.ttMisurati.assign(mCopy.traceSets.front().size(), kUnpicked);
   mCopy.ttArray = {record};

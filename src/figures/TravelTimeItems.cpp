@@ -14,8 +14,19 @@ namespace {
 
 constexpr double kSymbol = 4.6;  ///< points of 1/96 inch across
 constexpr double kStar = 9.0;
-constexpr double kStronger = 1.5;  ///< the current curve, times the others
-constexpr double kFaintness = 0.68;
+constexpr double kLarger = 1.5;   ///< symbols of the current curve, times the others
+constexpr double kThicker = 2.2;  ///< its lines
+constexpr double kFaintOnLight = 0.68;
+constexpr double kFaintOnDark = 0.55;
+
+struct Strength {
+  double symbols = 1.0;
+  double lines = 1.0;
+};
+
+bool isDark(const QColor& ground) {
+  return ground.lightness() < 128;
+}
 
 QColor mixed(const QColor& a, const QColor& b, double partOfB) {
   const auto mix = [partOfB](int x, int y) {
@@ -25,10 +36,11 @@ QColor mixed(const QColor& a, const QColor& b, double partOfB) {
 }
 
 /// Draws one curve after the other, the current one last.
-/// \param draw is given the curve, its colour, and by how much to enlarge lines and symbols
+/// \param draw is given the curve, its colour, and by how much to enlarge it
 template <typename Draw>
 void forEachCurve(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look,
                   Draw draw) {
+  const double faintness = isDark(look.ground) ? kFaintOnDark : kFaintOnLight;
   const TravelTimeCurve* current = nullptr;
   for (const TravelTimeCurve& curve : curves) {
     if (curve.record == look.current) {
@@ -36,9 +48,10 @@ void forEachCurve(const std::vector<TravelTimeCurve>& curves, const TravelTimeLo
       continue;
     }
     const QColor color = colorOf(curve.record, look);
-    draw(curve, look.othersFaint ? mixed(color, look.ground, kFaintness) : color, 1.0);
+    draw(curve, look.othersFaint ? mixed(color, look.ground, faintness) : color, Strength());
   }
-  if (current != nullptr) draw(*current, colorOf(current->record, look), kStronger);
+  if (current != nullptr)
+    draw(*current, colorOf(current->record, look), Strength{kLarger, kThicker});
 }
 
 void drawLines(QPainter& painter, const std::vector<std::vector<Point2D>>& lines,
@@ -71,7 +84,7 @@ QColor colorOf(std::size_t record, const TravelTimeLook& look) {
   static constexpr QRgb kColors[] = {0xff1f5fa8, 0xffc4281b, 0xff1f8a3b, 0xff7a3fa0, 0xffb86a00,
                                      0xff008a93, 0xffb5307c, 0xff5b6b1a, 0xff3b3b3b, 0xff8a5a3c};
   const QColor color(kColors[record % (sizeof kColors / sizeof *kColors)]);
-  if (look.ground.lightness() >= 128) return color;
+  if (!isDark(look.ground)) return color;
   return QColor::fromHslF(color.hslHueF(), color.hslSaturationF(), 0.70);
 }
 
@@ -79,12 +92,13 @@ QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, const TravelTi
   const auto paint = [&curves, &look](QPainter& painter, const QwtScaleMap& xMap,
                                       const QwtScaleMap& timeMap, const QRectF&) {
     painter.setRenderHint(QPainter::Antialiasing);
-    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, double by) {
-      painter.setPen(QPen(color, by * 0.9));
+    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, Strength by) {
+      painter.setPen(QPen(color, by.lines * 0.9));
       if (look.joined) drawLines(painter, curve.measuredLines, xMap, timeMap);
       for (const auto& pick : curve.picks) {
         drawSymbol(painter, color, look.ground,
-                   {xMap.transform(pick.point.x), timeMap.transform(pick.point.z)}, by * kSymbol);
+                   {xMap.transform(pick.point.x), timeMap.transform(pick.point.z)},
+                   by.symbols * kSymbol);
       }
     });
   };
@@ -102,8 +116,8 @@ QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves, const TravelTi
   const auto paint = [&curves, &look](QPainter& painter, const QwtScaleMap& xMap,
                                       const QwtScaleMap& timeMap, const QRectF&) {
     painter.setRenderHint(QPainter::Antialiasing);
-    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, double by) {
-      painter.setPen(QPen(color, by * 0.6));
+    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, Strength by) {
+      painter.setPen(QPen(color, by.lines * 0.6));
       drawLines(painter, curve.computedLines, xMap, timeMap);
     });
   };
@@ -118,11 +132,11 @@ QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves, const TravelTimeL
                                       const QwtScaleMap& timeMap, const QRectF&) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(look.ground, 0.5));
-    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, double by) {
+    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, Strength by) {
       if (!curve.hasShot) return;
       painter.setBrush(color);
       painter.drawPath(
-          section_items::symbol(section_items::Marker::kShot, by * kStar)
+          section_items::symbol(section_items::Marker::kShot, by.symbols * kStar)
               .translated(xMap.transform(curve.shot.x), timeMap.transform(curve.shot.z)));
     });
   };

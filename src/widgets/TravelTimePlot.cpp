@@ -110,6 +110,10 @@ void TravelTimePlot::State::buildLegend() {
   }
   measuredBox->setObjectName(QStringLiteral("measuredBox"));
   computedBox->setObjectName(QStringLiteral("computedBox"));
+  shotIcon = new QLabel(bar);
+  shotLabel = new QLabel(bar);
+  row->addWidget(shotIcon);
+  row->addWidget(shotLabel);
   currentLabel = new QLabel(bar);
   currentLabel->setTextFormat(Qt::PlainText);
   row->addWidget(currentLabel, 1, Qt::AlignCenter);
@@ -145,6 +149,7 @@ void TravelTimePlot::State::dress() {
   }
   measuredBox->setIcon(iconOf(*measured));
   computedBox->setIcon(iconOf(*computed));
+  shotIcon->setPixmap(iconOf(*shots).pixmap(kIcon));
   plot->replot();
 }
 
@@ -156,6 +161,7 @@ void TravelTimePlot::State::retranslate() {
   plot->setAxisTitle(QwtPlot::yLeft, TravelTimePlot::tr("Time [ms]"));
   measuredBox->setText(TravelTimePlot::tr("&Measured"));
   computedBox->setText(TravelTimePlot::tr("&Computed"));
+  shotLabel->setText(TravelTimePlot::tr("Shots"));
   fitButton->setText(TravelTimePlot::tr("&Fit"));
   fitButton->setToolTip(TravelTimePlot::tr("Show all curves"));
   exportButton->setText(TravelTimePlot::tr("Export &picture..."));

@@ -113,6 +113,8 @@ struct TravelTimePlot::State {
   QWidget* bar = nullptr;
   QCheckBox* measuredBox = nullptr;
   QCheckBox* computedBox = nullptr;
+  QLabel* shotIcon = nullptr;
+  QLabel* shotLabel = nullptr;
   QLabel* currentLabel = nullptr;
   QToolButton* fitButton = nullptr;
   QToolButton* exportButton = nullptr;
