@@ -1321,6 +1321,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>&amp;Calcolati</translation>
     </message>
     <message>
+        <source>Shots</source>
+        <translation>Tiri</translation>
+    </message>
+    <message>
         <source>&amp;Fit</source>
         <translation>Mostra &amp;tutto</translation>
     </message>
