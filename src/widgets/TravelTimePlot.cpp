@@ -238,7 +238,8 @@ TravelTimePlot::TravelTimePlot(QWidget* parent)
 }
 
 TravelTimePlot::~TravelTimePlot() {
-  // The plot's items look at the curves.
+  // The plot's items look at the curves, and its canvas sends a last event when it goes.
+  mState->plot->canvas()->removeEventFilter(this);
   delete mState->plot;
 }
 
