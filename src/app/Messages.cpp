@@ -7,6 +7,9 @@
 namespace talvesk {
 namespace {
 
+/// Paths and reasons are long, and a box is as wide as its short text else; pixels.
+constexpr int kTextWidth = 420;
+
 void show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& text,
           const QString& details, const QString& textStyle = QString()) {
   QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
@@ -15,6 +18,7 @@ void show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const Q
   // The box offers no other way to style its text without its buttons.
   if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
     label->setStyleSheet(textStyle);
+    label->setMinimumWidth(kTextWidth);
   }
   box.exec();
 }

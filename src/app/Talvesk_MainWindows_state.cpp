@@ -127,7 +127,8 @@ void Talvesk_MainWindows::refreshViewActions() {
 void Talvesk_MainWindows::refreshCommands() {
   const bool records = !mDocument.ttArray.empty();
   const bool traces = !mDocument.traceSets.empty();
-  const bool shotInView = traces && mCurrentFile >= 0;
+  const bool recordInView = records && mCurrentFile >= 0;
+  const bool shotInView = traces && recordInView;
   const bool computed = mDocument.hasTomographicInfo;
   const QUndoStack& edits = *mUi->showTracesWidget->undoStack();
 
@@ -140,12 +141,12 @@ void Talvesk_MainWindows::refreshCommands() {
       {mUi->actionFilter, shotInView},
       {mUi->actionAGC, shotInView},
       {mUi->actionApply_Hushel, shotInView},
-      {mUi->actionConfirm_picks, shotInView},
-      {mUi->actionRemove_picks, shotInView},
-      {mUi->actionRemove_unconfirmed, shotInView},
-      {mUi->actionFit, shotInView},
-      {mUi->actionZoom_back, shotInView && mUi->showTracesWidget->canZoomBack()},
-      {mUi->actionZoom_forward, shotInView && mUi->showTracesWidget->canZoomForward()},
+      {mUi->actionConfirm_picks, recordInView},
+      {mUi->actionRemove_picks, recordInView},
+      {mUi->actionRemove_unconfirmed, recordInView},
+      {mUi->actionFit, recordInView},
+      {mUi->actionZoom_back, recordInView && mUi->showTracesWidget->canZoomBack()},
+      {mUi->actionZoom_forward, recordInView && mUi->showTracesWidget->canZoomForward()},
       {mUi->actionUndo, edits.canUndo()},
       {mUi->actionRedo, edits.canRedo()},
   };
