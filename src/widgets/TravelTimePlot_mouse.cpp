@@ -170,6 +170,7 @@ void TravelTimePlot::State::move(const QMouseEvent& event) {
 
 void TravelTimePlot::State::release(const QMouseEvent& event) {
   if (drag == Drag::None || event.button() != dragButton) return;
+  move(event);  // a quick hand may have left no moves between
   const Drag finished = drag;
   const auto pick = grabbed;
   const QPointF at = event.localPos();
