@@ -1,15 +1,15 @@
 #pragma once
 
-#include <cmath>
-
 #include "base/Console.h"
 #include "model/TomoDocument.h"
 #include "tomo/GridSetup.h"
 
+#include <cmath>
+
 namespace talvesk::bench {
 
-/// A line of geophones 2 m apart over gentle ground, with shots spread evenly along it and picks of a
-/// ground whose velocity grows with depth (direct and turning rays in closed form).
+/// A line of geophones 2 m apart over gentle ground, with shots spread evenly along it and picks of
+/// a ground whose velocity grows with depth (direct and turning rays in closed form).
 inline TomoDocument survey(int geophones, int shots) {
   const auto elevation = [](double x) { return 100.0 + 1.5 * std::sin(x / 20.0); };
   TomoDocument document;

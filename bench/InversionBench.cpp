@@ -1,12 +1,12 @@
 // Building a grid, one external iteration with one and with all threads, a whole default inversion,
 // and the smoothing operators.
-#include <benchmark/benchmark.h>
-
-#include <ostream>
-
 #include "BenchSurvey.h"
 #include "grid/GridBuilder.h"
 #include "tomo/TomographyRun.h"
+
+#include <ostream>
+
+#include <benchmark/benchmark.h>
 
 namespace talvesk {
 namespace {

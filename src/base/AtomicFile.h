@@ -1,11 +1,11 @@
 #pragma once
 
+#include "base/Status.h"
+
 #include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
-
-#include "base/Status.h"
 
 namespace talvesk {
 

@@ -17,10 +17,18 @@ Streams& streams() {
 
 }  // namespace
 
-std::ostream& out() { return *streams().out; }
-std::ostream& error() { return *streams().error; }
-void setOut(std::ostream& stream) { streams().out = &stream; }
-void setError(std::ostream& stream) { streams().error = &stream; }
+std::ostream& out() {
+  return *streams().out;
+}
+std::ostream& error() {
+  return *streams().error;
+}
+void setOut(std::ostream& stream) {
+  streams().out = &stream;
+}
+void setError(std::ostream& stream) {
+  streams().error = &stream;
+}
 
 std::ostream& nowhere() {
   static std::ostream stream(nullptr);

@@ -8,7 +8,11 @@ struct Point2D {
   double z = 0.0;  ///< elevation, metres, positive upward
 };
 
-inline bool operator==(const Point2D& a, const Point2D& b) { return a.x == b.x && a.z == b.z; }
-inline bool operator!=(const Point2D& a, const Point2D& b) { return !(a == b); }
+inline bool operator==(const Point2D& a, const Point2D& b) {
+  return a.x == b.x && a.z == b.z;
+}
+inline bool operator!=(const Point2D& a, const Point2D& b) {
+  return !(a == b);
+}
 
 }  // namespace talvesk

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "base/Status.h"
+
+#include <string>
 
 namespace talvesk {
 
@@ -18,14 +18,14 @@ class Settings {
 
   const std::string& path() const { return mPath; }
 
-  std::string language = "en";     ///< locale code of the user interface
-  bool fillWiggle = true;          ///< fill the wiggles of traces
-  bool zoomIn = false;             ///< traces zoomed in
-  bool cutHorizontal = true;       ///< wiggles cut horizontally
-  bool showFiltered = true;        ///< show the filtered copies
-  bool showAllTraces = false;      ///< show all traces
-  bool twoColors = false;          ///< wiggles in two colours
-  bool savePngHColorbar = false;   ///< horizontal colour bar in saved pictures
+  std::string language = "en";    ///< locale code of the user interface
+  bool fillWiggle = true;         ///< fill the wiggles of traces
+  bool zoomIn = false;            ///< traces zoomed in
+  bool cutHorizontal = true;      ///< wiggles cut horizontally
+  bool showFiltered = true;       ///< show the filtered copies
+  bool showAllTraces = false;     ///< show all traces
+  bool twoColors = false;         ///< wiggles in two colours
+  bool savePngHColorbar = false;  ///< horizontal colour bar in saved pictures
 
  private:
   std::string mPath;

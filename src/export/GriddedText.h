@@ -1,9 +1,9 @@
 #pragma once
 
-#include <string>
-
 #include "base/Status.h"
 #include "model/TomoDocument.h"
+
+#include <string>
 
 namespace talvesk {
 

@@ -1,11 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "base/Log.h"
 #include "base/Point2D.h"
 #include "base/Status.h"
@@ -16,6 +10,12 @@
 #include "model/Trace.h"
 #include "model/TravelTime.h"
 #include "numerics/Splines.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace talvesk {
 
@@ -55,8 +55,8 @@ class TomoDocument {
 
   // --- The model of the ground.
   std::unique_ptr<Grid> grid;
-  double xOffset = 0.0;  ///< added to survey x to get grid x, metres
-  Splines::LinearSpline surface;  ///< elevation over grid x, of the current grid
+  double xOffset = 0.0;                   ///< added to survey x to get grid x, metres
+  Splines::LinearSpline surface;          ///< elevation over grid x, of the current grid
   std::vector<double> proposedCellSizes;  ///< metres; only grows
   std::vector<VelocityLayer> layers;      ///< starting model; empty until the user made one
   double minVelocity = 250.0;             ///< m/s, limits of the solver
@@ -64,13 +64,13 @@ class TomoDocument {
 
   // --- Results of the last inversion.
   bool hasTomographicInfo = false;
-  double RMSE_tomography = -1.0;         ///< relative RMS misfit, percent; negative: none
-  std::vector<double> info_density;      ///< per cell; -1.0 before any inversion
-  std::vector<double> coorcount;         ///< metres of ray per cell, last update
-  std::vector<std::uint32_t> hitCounts;  ///< per cell, of the last external iteration
+  double RMSE_tomography = -1.0;                 ///< relative RMS misfit, percent; negative: none
+  std::vector<double> info_density;              ///< per cell; -1.0 before any inversion
+  std::vector<double> coorcount;                 ///< metres of ray per cell, last update
+  std::vector<std::uint32_t> hitCounts;          ///< per cell, of the last external iteration
   std::vector<std::vector<std::uint32_t>> rays;  ///< node lists, shot by shot, receivers in order
   std::vector<ExcludedPosition> excluded;
-  std::vector<Point2D> coverageLimit;    ///< centres of the deepest covered cells, grid coordinates
+  std::vector<Point2D> coverageLimit;  ///< centres of the deepest covered cells, grid coordinates
   std::optional<Splines::BesselSpline> coverageSpline;  ///< through them; none for fewer than two
   bool stopRequested = false;
 

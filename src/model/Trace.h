@@ -1,18 +1,19 @@
 #pragma once
 
+#include "base/Point2D.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <vector>
 
-#include "base/Point2D.h"
-
 namespace talvesk {
 
 /// One recorded channel of one shot file.
 struct Trace {
-  static constexpr std::uint32_t kSWavePair = 2;  ///< built from two recordings of opposite polarity
-  static constexpr std::uint32_t kFromFile = 3;   ///< read from a shot file
+  static constexpr std::uint32_t kSWavePair =
+      2;                                         ///< built from two recordings of opposite polarity
+  static constexpr std::uint32_t kFromFile = 3;  ///< read from a shot file
   static constexpr std::uint32_t kUnknown = 4;
 
   std::uint32_t waveKind = kUnknown;

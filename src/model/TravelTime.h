@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/Point2D.h"
+
 #include <cstdint>
 #include <vector>
-
-#include "base/Point2D.h"
 
 namespace talvesk {
 
@@ -23,6 +23,8 @@ struct TravelTime {
 };
 
 /// Whether a measured time is a pick: neither never picked (0) nor removed (negative).
-inline bool hasPick(double measured) { return measured > 0.0; }
+inline bool hasPick(double measured) {
+  return measured > 0.0;
+}
 
 }  // namespace talvesk
