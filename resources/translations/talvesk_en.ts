@@ -21,6 +21,13 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>Travel times of %n shot(s) imported.</source>
+        <translation>
+            <numerusform>Travel times of %n shot imported.</numerusform>
+            <numerusform>Travel times of %n shots imported.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%n with warnings, see Traces &gt; Recording details.</source>
         <translation>
             <numerusform>%n with warnings, see Traces &gt; Recording details.</numerusform>

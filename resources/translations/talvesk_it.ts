@@ -224,8 +224,8 @@
         <translation>Mostra tutte le tracce</translation>
     </message>
     <message>
-        <source>Opens shots with all traces in view, however narrow. AutoPick, AGC and Hushel then work on all shots.</source>
-        <translation>Apre i tiri con tutte le tracce in vista, per quanto strette. AutoPick, AGC e Hushel lavorano allora su tutti i tiri.</translation>
+        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Hushel then work on all shots.</source>
+        <translation>Apre i tiri con tutte le tracce in vista, per quanto strette. AutoPick, Filtro, AGC e Hushel lavorano allora su tutti i tiri.</translation>
     </message>
     <message>
         <source>Zoom in on first breaks</source>
@@ -838,8 +838,8 @@
         <translation>Mostra tutte le tracce</translation>
     </message>
     <message>
-        <source>Open shots with all traces in view; AutoPick, AGC and Hushel then work on all shots</source>
-        <translation>Apre i tiri con tutte le tracce in vista; AutoPick, AGC e Hushel lavorano allora su tutti i tiri</translation>
+        <source>Open shots with all traces in view; AutoPick, Filter, AGC and Hushel then work on all shots</source>
+        <translation>Apre i tiri con tutte le tracce in vista; AutoPick, Filtro, AGC e Hushel lavorano allora su tutti i tiri</translation>
     </message>
     <message>
         <source>At true distance</source>
@@ -1059,6 +1059,17 @@
             <numerusform>%n file caricato.</numerusform>
             <numerusform>%n file caricati.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>Travel times of %n shot(s) imported.</source>
+        <translation>
+            <numerusform>Tempi di arrivo di %n tiro importati.</numerusform>
+            <numerusform>Tempi di arrivo di %n tiri importati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>First breaks found on %1 of %2 traces.</source>
+        <translation>Primi arrivi trovati su %1 tracce di %2.</translation>
     </message>
     <message numerus="yes">
         <source>%n with warnings, see Traces &gt; Recording details.</source>

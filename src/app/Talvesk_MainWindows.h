@@ -189,6 +189,7 @@ class Talvesk_MainWindows : public QMainWindow {
   // Loading
   void loadShotFiles(const QStringList& files);
   void reportShotFiles(const std::vector<ShotFileOutcome>& outcomes);
+  void showFresh(int index);
   void askForShotTime(std::size_t firstSet);
   void importTravelTimeFile(const QString& file);
   QString historyFolder() const;

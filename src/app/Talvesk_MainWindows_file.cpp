@@ -3,6 +3,7 @@
 #include "app/Talvesk_MainWindows.h"
 #include "io/TravelTimeFile.h"
 #include "processing/ShotTime.h"
+#include "ui_Talvesk_MainWindows.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QApplication>
@@ -20,6 +21,7 @@ namespace talvesk {
 namespace {
 
 constexpr int kPatience = 500;         ///< milliseconds of loading before progress is shown
+constexpr int kMessageTime = 10000;    ///< milliseconds that the status bar shows an outcome
 constexpr int kUnsupportedFormat = 3;  ///< status of a shot file whose suffix no reader takes
 
 bool isTravelTimeFile(const QString& file) {
@@ -85,9 +87,16 @@ void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
   }
   progress.reset();
   documentChanged();
-  if (mDocument.traceSets.size() > before) showFile(static_cast<int>(before));
+  if (mDocument.traceSets.size() > before) showFresh(static_cast<int>(before));
   reportShotFiles(outcomes);
   askForShotTime(before);
+}
+
+/// Makes a record that was just loaded the current one, and the keys go to its traces: they would
+/// turn the tabs over where the focus was before there was anything to pick.
+void Talvesk_MainWindows::showFresh(int index) {
+  showFile(index);
+  mUi->showTracesWidget->setFocus();
 }
 
 void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& outcomes) {
@@ -115,7 +124,7 @@ void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& ou
     text +=
         QLatin1Char(' ') + tr("%n with warnings, see Traces > Recording details.", nullptr, warned);
   }
-  statusBar()->showMessage(text, 10000);
+  statusBar()->showMessage(text, kMessageTime);
 }
 
 void Talvesk_MainWindows::askForShotTime(std::size_t firstSet) {
@@ -172,7 +181,10 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   }
   for (editTravelTimesWidget* editor : editors()) editor->picksReplaced();
   documentChanged();
-  showFile(mCurrentFile < 0 ? 0 : mCurrentFile);
+  showFresh(mCurrentFile < 0 ? 0 : mCurrentFile);
+  statusBar()->showMessage(tr("Travel times of %n shot(s) imported.", nullptr,
+                              static_cast<int>(mDocument.ttArray.size())),
+                           kMessageTime);
   QStringList lines;
   for (const std::string& warning : warnings) lines << QString::fromStdString(warning);
   if (!lines.isEmpty()) {
@@ -196,7 +208,7 @@ void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
               QString::fromStdString(status.message()));
     return;
   }
-  statusBar()->showMessage(tr("Travel times saved in %1").arg(file), 10000);
+  statusBar()->showMessage(tr("Travel times saved in %1").arg(file), kMessageTime);
 }
 
 void Talvesk_MainWindows::openFiles(const QStringList& files) {

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QProgressDialog>
+#include <QStatusBar>
 #include <algorithm>
 
 namespace talvesk {
@@ -54,6 +55,16 @@ void Talvesk_MainWindows::on_actionAutoPick_triggered() {
   for (editTravelTimesWidget* editor : editors()) editor->autoPicked(picked);
   documentModified();
   refreshPlots();
+  // The traces may be behind another tab.
+  std::size_t traces = 0;
+  std::ptrdiff_t found = 0;
+  for (const std::int32_t shot : picked) {
+    const auto& times = mDocument.ttArray[static_cast<std::size_t>(shot)].ttMisurati;
+    traces += times.size();
+    found += std::count_if(times.begin(), times.end(), hasPick);
+  }
+  statusBar()->showMessage(tr("First breaks found on %1 of %2 traces.").arg(found).arg(traces),
+                           10000);
   if (!failed.ok()) {
     mLog.write(failed.message(), 1);
     showError(this, tr("Warning"), tr("Not every shot could be picked."),

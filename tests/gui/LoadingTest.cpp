@@ -83,6 +83,7 @@ TEST_F(Loading, byDropTakesShotsAndTheirPicksTogether) {
   EXPECT_THAT(window->document().traceSets, SizeIs(2));
   EXPECT_DOUBLE_EQ(window->document().ttArray.at(1).ttMisurati.at(3), 0.021);
   EXPECT_EQ(child<QStackedWidget>("tracesStack").currentIndex(), 1);
+  EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(), "Travel times of 2 shots imported.");
 }
 
 TEST_F(Loading, namesTheFilesThatFailAndTakesTheOthers) {

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QPushButton>
+#include <QStatusBar>
 
 namespace talvesk {
 namespace {
@@ -35,6 +36,8 @@ TEST_F(Processing, picksTheShotInViewOrAllWhenAllAreShown) {
   EXPECT_EQ(picksOf(0), 0);
   EXPECT_GT(picksOf(1), 6);
   EXPECT_EQ(picksOf(2), 0);
+  EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(),
+            QString("First breaks found on %1 of 12 traces.").arg(picksOf(1)));
   const std::vector<double>& times = window->document().ttArray[1].ttMisurati;
   for (std::size_t i = 6; i < times.size(); ++i) {
     if (!hasPick(times[i])) continue;

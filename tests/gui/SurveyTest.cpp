@@ -95,6 +95,15 @@ TEST_F(Survey, namesItselfInTheTitle) {
   EXPECT_EQ(window->windowTitle().toStdString(), "Talvesk 2022.0[*] - Valley [*][*] 3");
 }
 
+TEST_F(Survey, hasTheKeysInItsTracesOnceLoaded) {
+  auto& tabs = child<QTabWidget>("tabWidget");
+  loadShots(2);
+  ASSERT_EQ(window->focusWidget(), &traces());
+  QTest::keyClick(window->focusWidget(), Qt::Key_Right);
+  EXPECT_EQ(traces().currentTrace(), 1);
+  EXPECT_EQ(tabs.currentIndex(), 0) << "no key turned the tabs over";
+}
+
 TEST_F(Survey, isPickedByMouseAndKeysWithUndo) {
   loadShots(2);
   editTravelTimesWidget& view = traces();
