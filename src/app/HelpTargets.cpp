@@ -9,11 +9,13 @@ namespace talvesk {
 
 QString userGuidePath(const QString& language) {
   const QDir program(QCoreApplication::applicationDirPath());
+  const QStringList languages = {language, language.section(QLatin1Char('_'), 0, 0),
+                                 QStringLiteral("en")};
   // Installed in bin/, built in build/PRESET/bin/.
-  for (const char* folder : {"../share/talvesk/guide", "../../../resources/guide"}) {
-    for (const QString& name :
-         {QStringLiteral("user-guide.%1.html").arg(language), QStringLiteral("user-guide.html")}) {
-      const QFileInfo file(program, QLatin1String(folder) + QLatin1Char('/') + name);
+  for (const char* folder : {"../share/talvesk/guide/", "../../../resources/guide/"}) {
+    for (const QString& name : languages) {
+      if (name.isEmpty()) continue;
+      const QFileInfo file(program, QLatin1String(folder) + name + QStringLiteral("/index.html"));
       if (file.isFile()) return file.canonicalFilePath();
     }
   }

@@ -11,8 +11,9 @@ namespace talvesk {
 /// The help pages on the web. The one place that names them.
 inline constexpr char kOnlineHelpAddress[] = "https://talvesk.example/help/";
 
-/// The guide that came with the program, in the language (a locale code) where there is one: beside
-/// the installed program, or in the source tree that it was built in. Empty when it is missing.
+/// The first page of the guide that came with the program, in the language (a locale code) where
+/// there is one, else in English: beside the installed program, or in the source tree that it was
+/// built in. Empty when it is missing.
 QString userGuidePath(const QString& language);
 
 /// Tells `found` whether the host of an address can be reached by name, at once or within the

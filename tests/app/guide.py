@@ -1,0 +1,128 @@
+#!/usr/bin/env python3
+"""Fails on a user guide that leads nowhere or calls things by names that the program does not use.
+
+Every language has the same pages and pictures; every link, anchor, style sheet and picture is there;
+every page is reached from the first one; and what stands in bold is a text of the program in the
+language of the page.
+"""
+import html.parser
+import pathlib
+import sys
+import urllib.parse
+import xml.etree.ElementTree as ElementTree
+
+LARGEST_PICTURE = 150 * 1024  # bytes
+VOID = {"img", "link", "meta", "br"}
+
+
+class Page(html.parser.HTMLParser):
+    """Links, anchors and bold texts of a page."""
+
+    def __init__(self, path):
+        super().__init__()
+        self.path = path
+        self.links, self.anchors, self.bold, self.faults, self.open = [], set(), [], [], []
+        self.feed(path.read_text(encoding="utf-8"))
+        if self.open:
+            self.faults.append(f"{path}: <{self.open[-1]}> is not closed")
+
+    def handle_starttag(self, tag, attributes):
+        values = dict(attributes)
+        if tag not in VOID:
+            self.open.append(tag)
+        if "id" in values:
+            self.anchors.add(values["id"])
+        if tag == "b":
+            self.bold.append("")
+        if tag == "img" and not values.get("alt"):
+            self.faults.append(f"{self.path}: {values.get('src')} has no text in its place")
+        self.links += [values[name] for name in ("href", "src") if name in values]
+
+    def handle_endtag(self, tag):
+        if not self.open or self.open.pop() != tag:
+            self.faults.append(f"{self.path}, line {self.getpos()[0]}: </{tag}> closes nothing")
+
+    def handle_data(self, data):
+        if self.open and self.open[-1] == "b":
+            self.bold[-1] += data
+
+
+def texts_of_program(root, language):
+    """What the program says, without keys: the sources are English, the rest is translated."""
+    names = set()
+    own = root / "resources" / "translations" / f"talvesk_{language}.ts"
+    # The English file holds plurals only; every other one has all texts.
+    full = own if language != "en" else own.with_name("talvesk_it.ts")
+    for message in ElementTree.parse(full).getroot().iter("message"):
+        text = message.findtext("source" if language == "en" else "translation") or ""
+        names.add(" ".join(text.replace("&", "").split()))
+    return names
+
+
+def faults_of_links(page, pages, root):
+    for link in page.links:
+        parts = urllib.parse.urlsplit(link)
+        if parts.scheme or parts.netloc or parts.path.startswith("/"):
+            yield f"{page.path}: {link} leaves the guide"
+            continue
+        target = (page.path.parent / parts.path).resolve() if parts.path else page.path
+        if root not in target.parents or not target.is_file():
+            yield f"{page.path}: {link} is not there"
+        elif parts.fragment and parts.fragment not in pages[target].anchors:
+            yield f"{page.path}: {link} has no such place"
+
+
+def reached_from(first, pages):
+    found, waiting = set(), [first]
+    while waiting:
+        path = waiting.pop()
+        if path in found or path not in pages or path.parent != first.parent:
+            continue
+        found.add(path)
+        waiting += [(path.parent / urllib.parse.urlsplit(link).path).resolve()
+                    for link in pages[path].links if link.split("#")[0].endswith(".html")]
+    return found
+
+
+def faults_of_guide(repository):
+    root = (repository / "resources" / "guide").resolve()
+    languages = sorted(folder for folder in root.iterdir() if folder.is_dir())
+    if not {"en", "it"} <= {folder.name for folder in languages}:
+        yield f"{root}: a language is missing"
+        return
+    pages = {path: Page(path) for path in sorted(root.glob("*/*.html"))}
+    wanted = {path.name for path in (root / "en").iterdir()}
+    for folder in languages:
+        for name in wanted ^ {path.name for path in folder.iterdir()}:
+            yield f"{folder}: {name} is not in every language"
+        names = texts_of_program(repository, folder.name)
+        for path, page in pages.items():
+            if path.parent != folder:
+                continue
+            for text in (" ".join(text.split()) for text in page.bold):
+                if text not in names:
+                    yield f"{path}: the program says nowhere '{text}'"
+        reached = reached_from(folder / "index.html", pages)
+        for path in pages:
+            if path.parent == folder and path not in reached:
+                yield f"{path}: no way leads there"
+    for page in pages.values():
+        yield from page.faults
+        yield from faults_of_links(page, pages, root)
+    for picture in root.glob("**/*.png"):
+        if picture.stat().st_size > LARGEST_PICTURE:
+            yield f"{picture}: larger than {LARGEST_PICTURE} bytes"
+        if not any(picture.name in page.links for page in pages.values()
+                   if page.path.parent == picture.parent):
+            yield f"{picture}: no page shows it"
+
+
+def main():
+    found = list(faults_of_guide(pathlib.Path(sys.argv[1]).resolve()))
+    for fault in found:
+        print(fault)
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
