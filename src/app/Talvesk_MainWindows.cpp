@@ -51,7 +51,13 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   documentChanged();
 }
 
-Talvesk_MainWindows::~Talvesk_MainWindows() = default;
+Talvesk_MainWindows::~Talvesk_MainWindows() {
+  // The views are children and go last; what they say then finds no window any more.
+  for (editTravelTimesWidget* editor : editors()) {
+    editor->disconnect(this);
+    editor->undoStack()->disconnect(this);
+  }
+}
 
 void Talvesk_MainWindows::startLog() {
   mFolder.create();
@@ -96,6 +102,8 @@ void Talvesk_MainWindows::connectViews() {
   }
   connect(mUi->showTracesWidget, &editTravelTimesWidget::viewChanged, this,
           &Talvesk_MainWindows::refreshCommands);
+  connect(mUi->showTracesWidget, &editTravelTimesWidget::selectionChanged, this,
+          &Talvesk_MainWindows::refreshCommands);
   connect(mUi->showTracesWidget, &editTravelTimesWidget::optionsChanged, this,
           &Talvesk_MainWindows::refreshViewActions);
   connect(mUi->showTracesWidget, &editTravelTimesWidget::toolChanged, this,
@@ -105,6 +113,7 @@ void Talvesk_MainWindows::connectViews() {
   const QUndoStack* edits = mUi->showTracesWidget->undoStack();
   connect(edits, &QUndoStack::canUndoChanged, mUi->actionUndo, &QAction::setEnabled);
   connect(edits, &QUndoStack::canRedoChanged, mUi->actionRedo, &QAction::setEnabled);
+  connect(edits, &QUndoStack::indexChanged, this, &Talvesk_MainWindows::refreshCommands);
   mCursorLabel = new QLabel(this);
   mCursorLabel->setMinimumWidth(1);  // a long text must not widen the window
   mUi->statusBar->addPermanentWidget(mCursorLabel);

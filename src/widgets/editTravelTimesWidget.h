@@ -76,6 +76,9 @@ class editTravelTimesWidget : public QWidget {
   void editPick(int shot, int trace, double seconds);
 
   int currentTrace() const;  ///< from 0; -1 none
+  /// Whether removePicks() would find any, or confirmPicks() and removeUnconfirmedPicks() one that
+  /// waits. Follows selectionChanged() and the undo stack.
+  bool hasPicksInRange(bool unconfirmedOnly) const;
   void setCurrentTrace(int trace);
   int selectedFirst() const;  ///< channels selected, from 0; -1 none
   int selectedLast() const;

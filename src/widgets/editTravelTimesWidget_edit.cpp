@@ -86,6 +86,17 @@ void editTravelTimesWidget::State::confirmRange() {
   push(editTravelTimesWidget::tr("Confirm picks"), std::move(changes), PickEditCommand::Merge::No);
 }
 
+bool editTravelTimesWidget::hasPicksInRange(bool unconfirmedOnly) const {
+  const State& state = *mState;
+  if (!state.canEdit()) return false;
+  const auto [first, last] = state.range();
+  for (int trace = first; trace <= last; ++trace) {
+    if (!state.traces.canPick(trace) || !hasPick(state.traces.measured(trace))) continue;
+    if (!unconfirmedOnly || state.review.waits(state.shot, trace)) return true;
+  }
+  return false;
+}
+
 void editTravelTimesWidget::State::nudge(double seconds, bool keyHeld) {
   if (!canEdit() || current < 0 || !hasPick(traces.measured(current))) return;
   const double time = adjusted(current, traces.measured(current) + seconds, false);

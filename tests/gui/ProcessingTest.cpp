@@ -49,6 +49,29 @@ TEST_F(Processing, picksTheShotInViewOrAllWhenAllAreShown) {
   EXPECT_GT(picksOf(2), 6);
 }
 
+TEST_F(Processing, offersToReviewPicksOnlyWhereThereAreSome) {
+  auto& view = child<editTravelTimesWidget>("showTracesWidget");
+  const auto offered = [this] {
+    return std::make_pair(action("actionConfirm_picks").isEnabled(),
+                          action("actionRemove_picks").isEnabled());
+  };
+  view.setCurrentTrace(8);
+  EXPECT_EQ(offered(), std::make_pair(false, false)) << "nothing is picked";
+  action("actionAutoPick").trigger();
+  ASSERT_TRUE(hasPick(window->document().ttArray[0].ttMisurati[8]));
+  EXPECT_EQ(offered(), std::make_pair(true, true));
+  action("actionConfirm_picks").trigger();
+  EXPECT_EQ(offered(), std::make_pair(false, true));
+  action("actionUndo").trigger();
+  EXPECT_EQ(offered(), std::make_pair(true, true));
+  action("actionRemove_picks").trigger();
+  EXPECT_EQ(offered(), std::make_pair(false, false));
+  view.setCurrentTrace(9);
+  EXPECT_EQ(offered(), std::make_pair(true, true));
+  action("actionNext_file").trigger();
+  EXPECT_EQ(offered(), std::make_pair(false, false)) << "that shot is not picked";
+}
+
 TEST_F(Processing, filtersTheShotInViewAndTurnsItsCopyOver) {
   for (const char* command : {"actionAGC", "actionApply_Hushel"}) {
     open();
