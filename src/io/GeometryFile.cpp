@@ -12,8 +12,9 @@ namespace talvesk {
 namespace {
 
 constexpr std::size_t kLineLimit = 256;
-/// Positions of a line take kilobytes.
-constexpr std::size_t kLargestFile = std::size_t{16} << 20;
+/// Positions of a line take kilobytes, those of as many traces as a shot file can count two
+/// megabytes. A short line takes thirty times its length as a record, so more is not asked for.
+constexpr std::size_t kLargestFile = std::size_t{2} << 20;
 
 std::string separatorText(const std::string& choice) {
   return choice == kBlankSeparator ? " " : choice;

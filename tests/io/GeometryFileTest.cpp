@@ -86,6 +86,23 @@ TEST(GeometryFile, refusesLongLinesAndNumbersThatFitNoDouble) {
   }
 }
 
+TEST(GeometryFile, takesAsManyPositionsAsAShotFileHasTracesAndRefusesFarMore) {
+  const TestFolder folder;
+  std::string text;
+  for (int i = 0; i < 65535; ++i) text += "123456.789;-1234.56789012345\n";
+  const std::string path = folder.put("line.csv", text);
+  GeometryRecords records;
+  ASSERT_TRUE(readRecords(path, ";", records).ok());
+  EXPECT_EQ(records.size(), 65535U);
+
+  // Records of next to nothing cost many times the file.
+  folder.put("line.csv", std::string((std::size_t{2} << 20) + 1, '\n'));
+  const Status status = readRecords(path, ";", records);
+  EXPECT_EQ(status.code(), 1);
+  EXPECT_THAT(status.message(), HasSubstr("more than the limit"));
+  EXPECT_EQ(records.size(), 65535U);
+}
+
 TEST(GeometryFile, saysWhichFileCannotBeReadOrWritten) {
   GeometryRecords records;
   for (const Status& status :
