@@ -12,6 +12,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
+#include <QScreen>
 #include <QSettings>
 #include <QUndoStack>
 
@@ -20,6 +21,9 @@ namespace {
 
 /// Share of the width that the traces get; the travel times have the rest.
 constexpr double kTracesShare = 0.618;
+
+/// Share of the screen, either way, that a window without a remembered place fills at most.
+constexpr double kMostOfScreen = 0.95;
 
 /// Where the window's place and tool bars are remembered, beside the settings.
 QString windowStateFile(const WorkingFolder& folder) {
@@ -182,7 +186,10 @@ void Talvesk_MainWindows::layOutSplitter() {
 
 void Talvesk_MainWindows::restoreWindow() {
   const QSettings state(windowStateFile(mFolder), QSettings::IniFormat);
-  restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray());
+  if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
+    // A laptop at twice the scale has fewer points than the form; the frame needs some too.
+    resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
+  }
   restoreState(state.value(QStringLiteral("toolBars")).toByteArray());
 }
 
