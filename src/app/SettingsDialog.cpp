@@ -5,6 +5,8 @@
 
 #include <QLayout>
 #include <QLocale>
+#include <QScreen>
+#include <algorithm>
 
 namespace talvesk {
 namespace {
@@ -39,11 +41,23 @@ SettingsDialog::SettingsDialog(const std::vector<Language>& languages, int curre
   mUi->languageCBox->setCurrentIndex(currentLanguage >= 0 ? currentLanguage
                                                           : languageOfSystem(languages));
   forEachOption(*mUi, settings, [](QCheckBox& box, bool value) { box.setChecked(value); });
-  // A wrapped hint asks for less height than it needs, and languages differ in length.
-  setMinimumSize(width(), layout()->totalHeightForWidth(width()));
+  fitToScreen();
 }
 
 SettingsDialog::~SettingsDialog() = default;
+
+// A wrapped hint asks for less height than it needs, and languages differ in length. On a screen
+// that is shorter than all of it the choices scroll, and the buttons stay in sight.
+void SettingsDialog::fitToScreen() {
+  const QMargins margins = layout()->contentsMargins();
+  const int wide = width() - margins.left() - margins.right();
+  const int choices = mUi->choices->layout()->totalHeightForWidth(wide);
+  const int others = layout()->sizeHint().height() - mUi->choicesArea->sizeHint().height();
+  const int slack = 2 * fontMetrics().height();  // the style adds its own margins when shown
+  const int available = screen()->availableGeometry().height() * 9 / 10;
+  setMinimumWidth(width());
+  resize(width(), std::min(others + choices + slack, available));
+}
 
 int SettingsDialog::languageIndex() const {
   return mUi->languageCBox->currentIndex();

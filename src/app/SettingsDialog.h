@@ -29,6 +29,8 @@ class SettingsDialog : public QDialog {
   void apply(Settings& settings) const;
 
  private:
+  void fitToScreen();
+
   std::unique_ptr<Ui::SettingsDialog> mUi;
 };
 
