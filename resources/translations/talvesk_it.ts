@@ -1071,6 +1071,10 @@
         <source>First breaks found on %1 of %2 traces.</source>
         <translation>Primi arrivi trovati su %1 tracce di %2.</translation>
     </message>
+    <message>
+        <source>Filtered copies made of %1 of %2 traces.</source>
+        <translation>Copie filtrate di %1 tracce su %2.</translation>
+    </message>
     <message numerus="yes">
         <source>%n with warnings, see Traces &gt; Recording details.</source>
         <translation>

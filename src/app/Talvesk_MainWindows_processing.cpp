@@ -87,6 +87,10 @@ void Talvesk_MainWindows::makeFilteredCopies(
     documentModified();
     showFilteredCopies();
   }
+  statusBar()->showMessage(tr("Filtered copies made of %1 of %2 traces.")
+                               .arg(sum.filtered)
+                               .arg(sum.filtered + sum.failed),
+                           10000);
   if (sum.failed > 0) {
     mLog.write(sum.status.message(), 1);
     showError(this, tr("Warning"),

@@ -83,6 +83,9 @@ TEST_F(Processing, filtersTheShotInViewAndTurnsItsCopyOver) {
     EXPECT_TRUE(hasCopy(0)) << command;
     EXPECT_FALSE(hasCopy(1)) << command;
     EXPECT_TRUE(shown.isEnabled() && shown.isChecked()) << command;
+    const QString traces = QString::number(window->document().traceSets[0].size());
+    EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(),
+              "Filtered copies made of " + traces + " of " + traces + " traces.");
     action("actionNext_file").trigger();
     EXPECT_FALSE(shown.isEnabled()) << "the next shot has none";
     action("actionPrev_file").trigger();
