@@ -6,7 +6,10 @@
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
 #include "io/ShotLoader.h"
+#include "model/RefractionDataStructure.h"
 #include "model/TomoDocument.h"
+#include "view/ColorPalette.h"
+#include "view/SectionViewSettings.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -203,6 +206,14 @@ class Talvesk_MainWindows : public QMainWindow {
   void documentModified();
   void refreshTitle();
   void refreshCommands();
+  void refreshGeometryCommands();
+  void refreshTomographyCommands();
+  void refreshSectionCommands();
+  void refreshRefractionCommands();
+  void refreshProjectCommands();
+  void refreshExportCommands();
+  void refreshReportCommands();
+  void refreshSection();  ///< shows grid and results of the document as they are now
   void refreshShotChooser();
   void refreshTraceOptions();
   void refreshFilteredBox();
@@ -238,6 +249,9 @@ class Talvesk_MainWindows : public QMainWindow {
   Languages mLanguages;
   ShotLoader mLoader;
   TomoDocument mDocument;
+  refractionDataStructure::Interpretation mInterpretation;
+  ColorPaletteList mPalettes;
+  SectionViewSettings mSection;
   std::vector<ShotMemory> mShots;  ///< one per trace set
   int mCurrentFile = -1;
   bool mLaidOut = false;

@@ -257,46 +257,4 @@ void Talvesk_MainWindows::on_actionExit_triggered() {
   close();
 }
 
-bool Talvesk_MainWindows::saveProject() {
-  showNote(this, QApplication::applicationName(), tr("Projects cannot be saved yet."),
-           tr("To keep the picks, use File > Export > Export TravelTimes..."));
-  return false;
-}
-
-void Talvesk_MainWindows::on_actionSave_Project_triggered() {
-  logSlot(__func__);
-  saveProject();
-}
-
-void Talvesk_MainWindows::on_actionSave_Project_As_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionLoad_Project_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionExport_tomographic_data_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionGridded_Data_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionExportTomographic_profile_2_KML_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionExportSeismic_line_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionImages_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionScreenshot_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionPDF_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionODT_triggered() {
-  logSlot(__func__);
-}
-
 }  // namespace talvesk

@@ -134,14 +134,4 @@ void Talvesk_MainWindows::on_actionFilter_triggered() {
   showFilteredCopies();
 }
 
-void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionRefraction_triggered() {
-  logSlot(__func__);
-}
-
 }  // namespace talvesk

@@ -15,17 +15,4 @@ void Talvesk_MainWindows::on_actionSet_title_triggered() {
   documentModified();
 }
 
-void Talvesk_MainWindows::on_actionGeometry_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionSet_geography_coordinates_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionGrid_triggered() {
-  logSlot(__func__);
-}
-void Talvesk_MainWindows::on_actionDefine_model_velocity_triggered() {
-  logSlot(__func__);
-}
-
 }  // namespace talvesk

@@ -22,6 +22,7 @@ bool Talvesk_MainWindows::hasFilteredCopy(int shot) const {
 
 void Talvesk_MainWindows::clearDocument() {
   mDocument = TomoDocument();
+  mInterpretation = {};
   mShots.clear();
   mCurrentFile = -1;
   for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
@@ -37,6 +38,7 @@ void Talvesk_MainWindows::documentChanged() {
   mUi->tracesStack->setCurrentWidget(count == 0 ? mUi->emptyPage
                                                 : static_cast<QWidget*>(mUi->splitter));
   refreshPlots();
+  refreshSection();
   refreshShotChooser();
   refreshTraceOptions();
   refreshTitle();
@@ -158,43 +160,13 @@ void Talvesk_MainWindows::refreshCommands() {
   mUi->showTravelTimeCB->setEnabled(records);
   mUi->showSimTT_CB->setEnabled(computed);
 
-  // What follows waits for the rooms that do the work.
-  QAction* const waiting[] = {mUi->actionLoad_Project,
-                              mUi->actionSave_Project,
-                              mUi->actionSave_Project_As,
-                              mUi->actionExport_tomographic_data,
-                              mUi->actionGridded_Data,
-                              mUi->actionExportTomographic_profile_2_KML,
-                              mUi->actionExportSeismic_line,
-                              mUi->actionImages,
-                              mUi->actionScreenshot,
-                              mUi->actionPDF,
-                              mUi->actionODT,
-                              mUi->actionGeometry,
-                              mUi->actionSet_geography_coordinates,
-                              mUi->actionGrid,
-                              mUi->actionDefine_model_velocity,
-                              mUi->actionRun_tomography_inversion,
-                              mUi->actionApply_smoothing,
-                              mUi->actionRefraction,
-                              mUi->actionShow_Tomographic_Profile,
-                              mUi->actionGrid_view,
-                              mUi->actionSmooth_view,
-                              mUi->actionShow_rays,
-                              mUi->actionShow_Contour_Lines,
-                              mUi->actionShow_Information_Density_Layer,
-                              mUi->actionVertical_Gradient,
-                              mUi->actionLaplacian_Gradient,
-                              mUi->actionShow_refraction,
-                              mUi->actionShow_scalarbar,
-                              mUi->actionShow_Grid_Lines,
-                              mUi->actionSmallGeo,
-                              mUi->actionNormalGeo,
-                              mUi->actionLargeGeo,
-                              mUi->actionShow_title,
-                              mUi->actionPalette,
-                              mUi->actionReset_View};
-  for (QAction* action : waiting) action->setEnabled(false);
+  refreshGeometryCommands();
+  refreshTomographyCommands();
+  refreshSectionCommands();
+  refreshRefractionCommands();
+  refreshProjectCommands();
+  refreshExportCommands();
+  refreshReportCommands();
 }
 
 }  // namespace talvesk

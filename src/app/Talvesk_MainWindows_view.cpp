@@ -1,4 +1,5 @@
 #include "app/Talvesk_MainWindows.h"
+#include "ui_Talvesk_MainWindows.h"
 
 // The commands of the section view. Their actions are disabled until there is a section to view.
 
@@ -28,9 +29,6 @@ void Talvesk_MainWindows::on_actionVertical_Gradient_triggered() {
 void Talvesk_MainWindows::on_actionLaplacian_Gradient_triggered() {
   logSlot(__func__);
 }
-void Talvesk_MainWindows::on_actionShow_refraction_triggered() {
-  logSlot(__func__);
-}
 void Talvesk_MainWindows::on_actionShow_scalarbar_triggered() {
   logSlot(__func__);
 }
@@ -55,5 +53,19 @@ void Talvesk_MainWindows::on_actionPalette_triggered() {
 void Talvesk_MainWindows::on_actionReset_View_triggered() {
   logSlot(__func__);
 }
+
+void Talvesk_MainWindows::refreshSectionCommands() {
+  for (QAction* action :
+       {mUi->actionShow_Tomographic_Profile, mUi->actionGrid_view, mUi->actionSmooth_view,
+        mUi->actionShow_rays, mUi->actionShow_Contour_Lines,
+        mUi->actionShow_Information_Density_Layer, mUi->actionVertical_Gradient,
+        mUi->actionLaplacian_Gradient, mUi->actionShow_scalarbar, mUi->actionShow_Grid_Lines,
+        mUi->actionSmallGeo, mUi->actionNormalGeo, mUi->actionLargeGeo, mUi->actionShow_title,
+        mUi->actionPalette, mUi->actionReset_View}) {
+    action->setEnabled(false);
+  }
+}
+
+void Talvesk_MainWindows::refreshSection() {}
 
 }  // namespace talvesk

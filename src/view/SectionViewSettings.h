@@ -1,0 +1,43 @@
+#pragma once
+
+#include "view/ColorPalette.h"
+#include "view/SectionScene.h"
+
+#include <vector>
+
+namespace talvesk {
+
+/// What the user chose about contours.
+struct ContourSettings {
+  bool customized = false;           ///< the list of values instead of equally spaced ones
+  int numberOfValues = 10;           ///< of the equally spaced ones, 1 or more
+  std::vector<double> customValues;  ///< ascending, each within the range of the quantity shown
+  int labelEvery = 1;                ///< every how many lines carry a label; 0 none
+  int labelSize = 12;                ///< points
+  RgbColor color;
+  bool onProfile = false;           ///< lines over the velocity section
+  bool filled = false;              ///< bands between the values instead of cells
+  bool onLaplacian = false;         ///< lines over the Laplacian
+  bool onVerticalGradient = false;  ///< lines over the vertical gradient
+};
+
+/// Size of the geophone markers on the section.
+enum class GeophoneMarkers { kNone, kSmall, kNormal, kLarge };
+
+/// What the user chose about the section. Saved with the project.
+struct SectionViewSettings {
+  bool profile = true;  ///< the section itself; false leaves geophones, rays and refractors
+  bool smooth = false;  ///< smooth view instead of cells
+  SectionQuantity quantity = SectionQuantity::kVelocity;
+  bool rays = false;
+  bool refraction = false;  ///< the layered profile over the section
+  bool scalarBar = true;
+  bool title = true;
+  bool gridLines = false;
+  GeophoneMarkers geophones = GeophoneMarkers::kNormal;
+  double verticalExaggeration = 1.0;  ///< height of a metre over its width, positive
+  bool lockRange = false;             ///< the palette's range stays when another line is shown
+  ContourSettings contours;
+};
+
+}  // namespace talvesk
