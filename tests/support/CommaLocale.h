@@ -1,8 +1,11 @@
 #pragma once
 
 #include <clocale>
+#include <cstdlib>
+#include <filesystem>
 #include <locale>
 #include <string>
+#include <system_error>
 
 namespace talvesk::testing {
 
@@ -23,25 +26,42 @@ class CommaStreams {
   std::locale mBefore;
 };
 
-/// A C locale with decimal commas, where the machine has one installed.
+/// A C locale with decimal commas: one that the machine has, or one that is built for the test.
 class CommaNumbers {
  public:
   CommaNumbers() : mBefore(std::setlocale(LC_ALL, nullptr)) {
     for (const char* name : {"de_DE.UTF-8", "de_DE", "it_IT.UTF-8", "it_IT", "fr_FR.UTF-8"}) {
-      if (std::setlocale(LC_ALL, name) && *std::localeconv()->decimal_point == ',') {
-        mFound = true;
-        return;
-      }
+      if (use(name)) return;
     }
+    char folder[] = "/tmp/talvesk-locale-XXXXXX";
+    if (mkdtemp(folder) == nullptr) return;
+    mFolder = folder;
+    const std::string make =
+        "localedef -i de_DE -f UTF-8 " + mFolder + "/de_DE.UTF-8 >/dev/null 2>&1";
+    if (std::system(make.c_str()) != 0) return;
+    setenv("LOCPATH", folder, 1);
+    use("de_DE.UTF-8");
   }
-  ~CommaNumbers() { std::setlocale(LC_ALL, mBefore.c_str()); }
+  ~CommaNumbers() {
+    std::setlocale(LC_ALL, mBefore.c_str());
+    if (mFolder.empty()) return;
+    unsetenv("LOCPATH");
+    std::error_code ignored;
+    std::filesystem::remove_all(mFolder, ignored);
+  }
   CommaNumbers(const CommaNumbers&) = delete;
   CommaNumbers& operator=(const CommaNumbers&) = delete;
 
   bool found() const { return mFound; }
 
  private:
+  bool use(const char* name) {
+    mFound = std::setlocale(LC_ALL, name) != nullptr && *std::localeconv()->decimal_point == ',';
+    return mFound;
+  }
+
   std::string mBefore;
+  std::string mFolder;  ///< of the locale built here; empty without one
   bool mFound = false;
 };
 
