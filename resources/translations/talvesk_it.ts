@@ -158,6 +158,25 @@
     </message>
 </context>
 <context>
+    <name>talvesk::SelectCSVDelimiterDialog</name>
+    <message>
+        <source>Select CSV Separator</source>
+        <translation>Separatore CSV</translation>
+    </message>
+    <message>
+        <source>CSV Separator</source>
+        <translation>Separatore CSV</translation>
+    </message>
+    <message>
+        <source>What stands between two numbers of a line</source>
+        <translation>Ciò che separa due numeri di una riga</translation>
+    </message>
+    <message>
+        <source>(blank space)</source>
+        <translation>(spazio)</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::SettingsDialog</name>
     <message>
         <source>Settings</source>

@@ -49,6 +49,10 @@ class Talvesk_MainWindows : public QMainWindow {
   /// Loads what the command line names or what was dropped: shot files, then travel-time files.
   void openFiles(const QStringList& files);
 
+  /// Lets the user edit where geophones and shots stand. True when the survey has the geometry that
+  /// the dialog was left with by OK; false after Cancel, which changes nothing.
+  bool askGeometry();
+
   TomoDocument& document() { return mDocument; }
   const Settings& settings() const { return mSettings; }
   int currentFile() const { return mCurrentFile; }  ///< record in view, -1 without one

@@ -7,6 +7,11 @@ namespace talvesk {
 
 void Talvesk_MainWindows::on_actionGeometry_triggered() {
   logSlot(__func__);
+  askGeometry();
+}
+
+bool Talvesk_MainWindows::askGeometry() {
+  return false;
 }
 
 void Talvesk_MainWindows::refreshGeometryCommands() {
