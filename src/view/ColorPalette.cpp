@@ -89,9 +89,12 @@ RgbColor ColorGradient::colorAt(double t) const {
 }
 
 void buildGradient(ColorGradient& gradient, int type) {
-  const std::vector<GradientColorPoint> stops = stopsOfType(type);
-  if (stops.empty()) console::error() << "Unknown gradient type. " << std::endl;
-  for (const GradientColorPoint& point : stops) gradient.add(point);
+  std::vector<GradientColorPoint> stops = stopsOfType(type);
+  if (stops.empty()) {
+    console::error() << "Unknown gradient type. " << std::endl;
+    return;
+  }
+  gradient.assign(std::move(stops));
 }
 
 ColorPaletteList::ColorPaletteList() {
@@ -134,6 +137,13 @@ bool ColorPaletteList::remove(std::size_t index) {
 bool ColorPaletteList::rename(std::size_t index, std::string name) {
   if (index >= mPalettes.size() || !mPalettes[index].is_editable) return false;
   mPalettes[index].name = std::move(name);
+  return true;
+}
+
+bool ColorPaletteList::assign(std::vector<ColorPalette> palettes, std::size_t current) {
+  if (palettes.empty()) return false;
+  mPalettes = std::move(palettes);
+  curr_palette = current < mPalettes.size() ? current : 0;
   return true;
 }
 

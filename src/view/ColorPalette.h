@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace talvesk {
@@ -29,6 +30,8 @@ class ColorGradient {
 
   void add(const GradientColorPoint& point) { mPoints.push_back(point); }
   void clear() { mPoints.clear(); }
+  /// Puts other stops in place of those there are; the caller minds their order.
+  void assign(std::vector<GradientColorPoint> points) { mPoints = std::move(points); }
   /// Ascending positions; stops at the same place keep their order.
   void sort();
 
@@ -44,8 +47,8 @@ class ColorGradient {
 inline constexpr int kFirstGradientType = 0;
 inline constexpr int kLastGradientType = 8;
 
-/// Appends the stops of a gradient type. Any number but 0 to 8 is told on the console's error
-/// stream and leaves the gradient as it was.
+/// Makes the gradient hold the stops of a gradient type and nothing else. Any number but 0 to 8 is
+/// told on the console's error stream and leaves the gradient as it was.
 void buildGradient(ColorGradient& gradient, int type);
 
 /// A named gradient with the value scale that it is stretched over and the number of discrete
@@ -80,6 +83,9 @@ class ColorPaletteList {
   /// Built-in palettes are neither removed nor renamed: false, and no change.
   bool remove(std::size_t index);
   bool rename(std::size_t index, std::string name);
+  /// Takes over the palettes of a project; a current one past their end makes the first one
+  /// current. False, and no change, when there are none.
+  bool assign(std::vector<ColorPalette> palettes, std::size_t current);
 
  private:
   std::vector<ColorPalette> mPalettes;

@@ -21,6 +21,14 @@ struct ContourSettings {
   bool onVerticalGradient = false;  ///< lines over the vertical gradient
 };
 
+/// The values to contour: the n that divide the range into n + 1 equal parts, or the custom ones
+/// that lie within the range, its ends included; ascending, each once. At most
+/// SectionSceneOptions::kMaxContours; none for a range that is empty or not finite.
+std::vector<double> contourValues(const ContourSettings& settings, const ValueRange& range);
+
+/// Whether any of the switches draws contours of that quantity, lines or bands.
+bool showsContours(const ContourSettings& settings, SectionQuantity quantity);
+
 /// Size of the geophone markers on the section.
 enum class GeophoneMarkers { kNone, kSmall, kNormal, kLarge };
 

@@ -63,6 +63,13 @@ TEST(ColorPalette, anUnknownGradientTypeIsToldAndChangesNothing) {
   EXPECT_EQ(console.error(), "Unknown gradient type. \nUnknown gradient type. \n");
 }
 
+TEST(ColorPalette, aGradientIsBuiltFromAnEmptyOne) {
+  ColorGradient gradient;
+  buildGradient(gradient, 5);
+  buildGradient(gradient, 1);
+  EXPECT_EQ(gradient.points().size(), 2U);
+}
+
 TEST(ColorPalette, blendsBetweenStopsAndHoldsTheEnds) {
   const ColorGradient gradient = ColorPaletteList().find("Blue to red")->color_gradient;
   const struct {

@@ -1,0 +1,120 @@
+#pragma once
+
+// How palettes are laid out in an XML archive, alone in a file or as a list in a project. Included
+// by the sources that read or write such archives; it throws what the archive throws.
+
+#include "base/TextNumber.h"
+#include "view/ColorPalette.h"
+#include "view/PaletteRepair.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <cereal/archives/xml.hpp>
+#include <cereal/types/string.hpp>
+#include <cereal/types/vector.hpp>
+
+namespace talvesk {
+namespace palettes {
+
+// The archive prints and reads numbers by the locale of the process, and takes "12 apples" for 12.
+// As text they are the same elements, by rules of our own.
+
+inline void put(cereal::XMLOutputArchive& archive, const char* key, double value) {
+  constexpr int kAllDigits = 17;
+  archive(cereal::make_nvp(key, formatDouble(value, kAllDigits)));
+}
+inline void put(cereal::XMLOutputArchive& archive, const char* key, int value) {
+  archive(cereal::make_nvp(key, std::to_string(value)));
+}
+
+template <typename Number, typename Parse>
+void getNumber(cereal::XMLInputArchive& archive, const char* key, Number& value, Parse parse) {
+  std::string text;
+  archive(cereal::make_nvp(key, text));
+  Number read{};
+  if (parse(text, read) != NumberError::kNone) {
+    throw cereal::Exception(std::string("the value of ") + key + " is not a number it can hold");
+  }
+  value = read;
+}
+inline void get(cereal::XMLInputArchive& archive, const char* key, double& value) {
+  getNumber(archive, key, value, parseWholeDouble);
+}
+inline void get(cereal::XMLInputArchive& archive, const char* key, int& value) {
+  getNumber(archive, key, value, parseInt);
+}
+
+}  // namespace palettes
+
+inline void save(cereal::XMLOutputArchive& archive, const GradientColorPoint& point) {
+  palettes::put(archive, "mr", point.mr);
+  palettes::put(archive, "mg", point.mg);
+  palettes::put(archive, "mb", point.mb);
+  palettes::put(archive, "mval", point.mval);
+}
+
+inline void load(cereal::XMLInputArchive& archive, GradientColorPoint& point) {
+  palettes::get(archive, "mr", point.mr);
+  palettes::get(archive, "mg", point.mg);
+  palettes::get(archive, "mb", point.mb);
+  palettes::get(archive, "mval", point.mval);
+}
+
+inline void save(cereal::XMLOutputArchive& archive, const ColorGradient& gradient) {
+  ColorGradient sorted = gradient;
+  sorted.sort();
+  archive(cereal::make_nvp("color", sorted.points()));
+}
+
+inline void load(cereal::XMLInputArchive& archive, ColorGradient& gradient) {
+  std::vector<GradientColorPoint> points;
+  archive(cereal::make_nvp("color", points));
+  gradient.assign(std::move(points));
+}
+
+inline void save(cereal::XMLOutputArchive& archive, const ColorPalette& palette) {
+  archive(cereal::make_nvp("name", palette.name));
+  palettes::put(archive, "n_colors", palette.n_colors);
+  archive(cereal::make_nvp("is_editable", palette.is_editable));
+  palettes::put(archive, "min_db", palette.min_db);
+  palettes::put(archive, "max_db", palette.max_db);
+  archive(cereal::make_nvp("color_gradient", palette.color_gradient));
+}
+
+/// What comes out is fit for use, see repairPalette(); a palette that cannot be made so throws.
+inline void load(cereal::XMLInputArchive& archive, ColorPalette& palette) {
+  ColorPalette read;
+  archive(cereal::make_nvp("name", read.name));
+  palettes::get(archive, "n_colors", read.n_colors);
+  archive(cereal::make_nvp("is_editable", read.is_editable));
+  palettes::get(archive, "min_db", read.min_db);
+  palettes::get(archive, "max_db", read.max_db);
+  archive(cereal::make_nvp("color_gradient", read.color_gradient));
+  if (const Status repaired = repairPalette(read); !repaired.ok()) {
+    throw cereal::Exception("palette \"" + read.name + "\": " + repaired.message());
+  }
+  palette = std::move(read);
+}
+
+inline void save(cereal::XMLOutputArchive& archive, const ColorPaletteList& list) {
+  palettes::put(archive, "n_palettes", static_cast<int>(list.size()));
+  palettes::put(archive, "curr_palette", static_cast<int>(list.currentIndex()));
+  archive(cereal::make_nvp("palettes", list.palettes()));
+}
+
+/// The palettes themselves say how many they are. A current one that is not there gives the first.
+inline void load(cereal::XMLInputArchive& archive, ColorPaletteList& list) {
+  int count = 0;
+  int current = 0;
+  std::vector<ColorPalette> read;
+  palettes::get(archive, "n_palettes", count);
+  palettes::get(archive, "curr_palette", current);
+  archive(cereal::make_nvp("palettes", read));
+  if (!list.assign(std::move(read), static_cast<std::size_t>(current))) {
+    throw cereal::Exception("there are no palettes in it");
+  }
+}
+
+}  // namespace talvesk
