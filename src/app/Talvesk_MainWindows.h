@@ -167,6 +167,9 @@ class Talvesk_MainWindows : public QMainWindow {
   void enable_draw_travel_times();
   void on_pickEdited();
   void on_mousemoved(int trace);
+  void update_palette_max(int value);
+  void update_palette_min(int value);
+  void on_vtk_palette_changed();
   void update_show_traces(bool onlyTraces);
 
   /// What the window remembers of a shot beside the document.
@@ -213,6 +216,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void refreshGeometryCommands();
   void refreshTomographyCommands();
   void refreshSectionCommands();
+  void refreshPaletteCommands();
   void refreshRefractionCommands();
   void refreshProjectCommands();
   void refreshExportCommands();

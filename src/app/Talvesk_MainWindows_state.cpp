@@ -163,6 +163,7 @@ void Talvesk_MainWindows::refreshCommands() {
   refreshGeometryCommands();
   refreshTomographyCommands();
   refreshSectionCommands();
+  refreshPaletteCommands();
   refreshRefractionCommands();
   refreshProjectCommands();
   refreshExportCommands();

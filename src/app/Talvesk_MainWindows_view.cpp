@@ -17,9 +17,6 @@ void Talvesk_MainWindows::on_actionSmooth_view_triggered() {
 void Talvesk_MainWindows::on_actionShow_rays_triggered() {
   logSlot(__func__);
 }
-void Talvesk_MainWindows::on_actionShow_Contour_Lines_triggered() {
-  logSlot(__func__);
-}
 void Talvesk_MainWindows::on_actionShow_Information_Density_Layer_triggered() {
   logSlot(__func__);
 }
@@ -47,9 +44,6 @@ void Talvesk_MainWindows::on_actionLargeGeo_triggered() {
 void Talvesk_MainWindows::on_actionShow_title_triggered() {
   logSlot(__func__);
 }
-void Talvesk_MainWindows::on_actionPalette_triggered() {
-  logSlot(__func__);
-}
 void Talvesk_MainWindows::on_actionReset_View_triggered() {
   logSlot(__func__);
 }
@@ -57,11 +51,10 @@ void Talvesk_MainWindows::on_actionReset_View_triggered() {
 void Talvesk_MainWindows::refreshSectionCommands() {
   for (QAction* action :
        {mUi->actionShow_Tomographic_Profile, mUi->actionGrid_view, mUi->actionSmooth_view,
-        mUi->actionShow_rays, mUi->actionShow_Contour_Lines,
-        mUi->actionShow_Information_Density_Layer, mUi->actionVertical_Gradient,
-        mUi->actionLaplacian_Gradient, mUi->actionShow_scalarbar, mUi->actionShow_Grid_Lines,
-        mUi->actionSmallGeo, mUi->actionNormalGeo, mUi->actionLargeGeo, mUi->actionShow_title,
-        mUi->actionPalette, mUi->actionReset_View}) {
+        mUi->actionShow_rays, mUi->actionShow_Information_Density_Layer,
+        mUi->actionVertical_Gradient, mUi->actionLaplacian_Gradient, mUi->actionShow_scalarbar,
+        mUi->actionShow_Grid_Lines, mUi->actionSmallGeo, mUi->actionNormalGeo, mUi->actionLargeGeo,
+        mUi->actionShow_title, mUi->actionReset_View}) {
     action->setEnabled(false);
   }
 }
