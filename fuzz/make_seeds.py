@@ -3,11 +3,12 @@
 
 usage: make_seeds.py FOLDER
 The first byte of a travel-time seed chooses the reader, that of an SU seed the state that an earlier
-file left; the rest is the file.
+file left, that of an isovalue seed the separator; the rest is the file.
 """
 import pathlib
 import sys
 
+from palette_seeds import isovalue_seeds, palette_seeds
 from shot_seeds import shot_seeds
 
 
@@ -81,6 +82,8 @@ def write(folder, seeds):
 def main():
     root = pathlib.Path(sys.argv[1])
     write(root / "travel_times", travel_time_seeds())
+    write(root / "palette", palette_seeds())
+    write(root / "isovalues", isovalue_seeds())
     for target, seeds in shot_seeds().items():
         write(root / target, seeds)
 

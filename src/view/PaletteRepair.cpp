@@ -15,10 +15,6 @@ bool isFinite(const GradientColorPoint& point) {
 Status checkGradient(const ColorGradient& gradient) {
   const auto& points = gradient.points();
   if (points.empty()) return Status::failure("its gradient has no colours");
-  if (points.size() > kMostGradientStops) {
-    return Status::failure("its gradient has " + std::to_string(points.size()) +
-                           " colour stops, more than " + std::to_string(kMostGradientStops));
-  }
   if (!std::all_of(points.begin(), points.end(), isFinite)) {
     return Status::failure("a colour stop of its gradient is not a finite number");
   }
@@ -47,8 +43,8 @@ void repairScale(ColorPalette& palette) {
   if (palette.min_db > palette.max_db) std::swap(palette.min_db, palette.max_db);
   if (palette.min_db < palette.max_db) return;
   const double half = std::max(0.5, 1e-3 * std::abs(palette.min_db));
-  palette.min_db -= half;
-  palette.max_db += half;
+  palette.min_db = std::max(palette.min_db - half, -kLargestPaletteValue);
+  palette.max_db = std::min(palette.max_db + half, kLargestPaletteValue);
 }
 
 }  // namespace
@@ -61,7 +57,12 @@ Status repairPalette(ColorPalette& palette) {
       return Status::failure("its range of values is out of bounds");
     }
   }
-  palette.color_gradient = repaired(palette.color_gradient);
+  ColorGradient gradient = repaired(palette.color_gradient);
+  if (const std::size_t stops = gradient.points().size(); stops > kMostGradientStops) {
+    return Status::failure("its gradient has " + std::to_string(stops) +
+                           " colour stops, more than " + std::to_string(kMostGradientStops));
+  }
+  palette.color_gradient = std::move(gradient);
   palette.n_colors = std::clamp(palette.n_colors, 1, ColorTable::kMaxColors);
   repairScale(palette);
   return {};
