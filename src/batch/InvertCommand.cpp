@@ -137,7 +137,7 @@ int writeResults(const InvertOptions& options, const TomoDocument& document,
   };
   attempt(options.json, [&] { return writeOutput(options.json, inversionJson(document, result)); });
   attempt(options.gridded, [&] {
-    return writeGriddedText(options.gridded, document, options.lineY, options.zOffset);
+    return writeGriddedText(options.gridded, document, {options.lineY, options.zOffset});
   });
   attempt(options.otte, [&] { return writeTravelTimes(options.otte, document); });
   for (const std::string& image : options.images) {

@@ -7,10 +7,20 @@
 
 namespace talvesk {
 
-/// One line "X Y Z V" per drawn cell: X grid abscissa of the cell's centre (metres), Y as given, Z
+/// How the columns of the gridded text are placed.
+struct GriddedTextOptions {
+  double lineY = 0.0;    ///< Y coordinate of the line, metres
+  double zOffset = 0.0;  ///< added to the elevation, metres
+  bool surveyX = false;  ///< X is the distance along the line instead of the grid's abscissa
+};
+
+/// One line "X Y Z V" per drawn cell: X the abscissa of the cell's centre (metres), Y as given, Z
 /// the offset minus the centre's depth coordinate (metres), V velocity (m/s).
-/// \param lineY Y coordinate of the line, metres; \param zOffset metres
-Status writeGriddedText(const std::string& path, const TomoDocument& document, double lineY,
-                        double zOffset);
+Status writeGriddedText(const std::string& path, const TomoDocument& document,
+                        const GriddedTextOptions& options = {});
+
+/// Elevation of the highest point of the grid's surface, metres: what heights are counted from when
+/// only depth matters. 0 for a grid whose surface is unknown.
+double referenceElevation(const Grid& grid);
 
 }  // namespace talvesk

@@ -43,7 +43,7 @@ std::vector<std::string> linesOf(const std::string& path) {
 TEST(GriddedText, writesCentreLineElevationAndVelocity) {
   const ConsoleCapture console;
   const std::string path = temporary("grid.txt");
-  ASSERT_TRUE(writeGriddedText(path, document(), 0.0, 0.0).ok());
+  ASSERT_TRUE(writeGriddedText(path, document()).ok());
   const TomoDocument same = document();
   const Point2D first = same.grid->cellCentre(0);
   ASSERT_NEAR(first.x, 5.0, 2.0);
@@ -60,9 +60,21 @@ TEST(GriddedText, shiftsTheLineInSixDigitsWhateverTheLocale) {
   const ConsoleCapture console;
   const std::string path = temporary("shifted.txt");
   const char* locale = std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
-  ASSERT_TRUE(writeGriddedText(path, document(), 1234567.8, -0.12345678).ok());
+  ASSERT_TRUE(writeGriddedText(path, document(), {1234567.8, -0.12345678}).ok());
   if (locale != nullptr) std::setlocale(LC_NUMERIC, "C");
   EXPECT_THAT(linesOf(path)[0], HasSubstr(" 1.23457e+06 94.8765 500"));
+}
+
+TEST(GriddedText, takesTheOffsetOfTheGridOffAndCountsFromTheHighestGround) {
+  const ConsoleCapture console;
+  const std::string path = temporary("survey.txt");
+  TomoDocument offset = document();
+  offset.xOffset = -95.0;
+  EXPECT_EQ(referenceElevation(*offset.grid), 100.0);
+  ASSERT_TRUE(writeGriddedText(path, offset, {0.0, -referenceElevation(*offset.grid), true}).ok());
+  std::ostringstream x;
+  x << offset.grid->cellCentre(0).x + 95.0;
+  EXPECT_EQ(linesOf(path)[0], x.str() + " 0 -5 500");
 }
 
 TEST(GriddedText, leavesOutCellsThatAreNotDrawn) {
@@ -71,7 +83,7 @@ TEST(GriddedText, leavesOutCellsThatAreNotDrawn) {
   const TomoDocument hidden = document();
   hidden.grid->setDraw(1, false);
   hidden.grid->setDraw(2, false);
-  ASSERT_TRUE(writeGriddedText(path, hidden, 0.0, 0.0).ok());
+  ASSERT_TRUE(writeGriddedText(path, hidden).ok());
   EXPECT_THAT(linesOf(path), ElementsAre(HasSubstr(" 95 500"), HasSubstr(" 85 2000")));
 }
 
@@ -82,7 +94,7 @@ TEST(GriddedText, writesAPlaceholderForAnInfiniteVelocity) {
   unknown.grid->setSlowness(0, 0.0);
   unknown.grid->setSlowness(1, -0.0);
   unknown.grid->setSlowness(2, std::numeric_limits<double>::denorm_min());
-  ASSERT_TRUE(writeGriddedText(path, unknown, 0.0, 0.0).ok());
+  ASSERT_TRUE(writeGriddedText(path, unknown).ok());
   EXPECT_THAT(linesOf(path), ElementsAre(HasSubstr(" 1.79769e+308"), HasSubstr(" 1.79769e+308"),
                                          HasSubstr(" 1.79769e+308"), HasSubstr(" 85 2000")));
 }
@@ -98,7 +110,7 @@ TEST(GriddedText, writesNothingWithoutAGridOrWithAnEndlessShift) {
   } cases[] = {{TomoDocument(), 0.0, "has no grid"}, {document(), nan, "must be finite"}};
   for (const auto& c : cases) {
     const ConsoleCapture console;
-    const Status status = writeGriddedText(path, c.document, c.lineY, 0.0);
+    const Status status = writeGriddedText(path, c.document, {c.lineY, 0.0});
     EXPECT_FALSE(status.ok());
     EXPECT_THAT(status.message(), HasSubstr(c.message));
     EXPECT_EQ(console.error(), status.message() + "\n");
@@ -108,7 +120,7 @@ TEST(GriddedText, writesNothingWithoutAGridOrWithAnEndlessShift) {
 
 TEST(GriddedText, saysWhereItCannotWrite) {
   const ConsoleCapture console;
-  const Status status = writeGriddedText("/no/such/folder/grid.txt", document(), 0.0, 0.0);
+  const Status status = writeGriddedText("/no/such/folder/grid.txt", document());
   EXPECT_FALSE(status.ok());
   EXPECT_THAT(status.message(), HasSubstr("/no/such/folder/grid.txt"));
 }

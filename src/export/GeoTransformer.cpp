@@ -1,0 +1,117 @@
+#include "export/GeoTransformer.h"
+
+#include "base/Console.h"
+
+#include <cmath>
+#include <ostream>
+#include <vector>
+
+#include <proj.h>
+
+namespace talvesk {
+namespace {
+
+constexpr const char* kGlobe = "EPSG:4326";  ///< WGS84, which every map viewer understands
+
+/// PROJ's own complaints are many lines, and come with every code that is half typed.
+class SilentProj {
+ public:
+  SilentProj() : mBefore(proj_log_level(nullptr, PJ_LOG_NONE)) {}
+  ~SilentProj() { proj_log_level(nullptr, mBefore); }
+  SilentProj(const SilentProj&) = delete;
+  SilentProj& operator=(const SilentProj&) = delete;
+
+ private:
+  PJ_LOG_LEVEL mBefore;
+};
+
+struct Axis {
+  std::string direction;  ///< "east", "north", "west", "south"
+  std::string unit;
+  double metres = 0.0;  ///< of one unit
+};
+
+std::vector<Axis> axesOf(const PJ* coordinateSystem) {
+  std::vector<Axis> axes;
+  const int count = proj_cs_get_axis_count(nullptr, coordinateSystem);
+  for (int i = 0; i < count; ++i) {
+    const char* direction = nullptr;
+    const char* unit = nullptr;
+    double metres = 0.0;
+    if (proj_cs_get_axis_info(nullptr, coordinateSystem, i, nullptr, nullptr, &direction, &metres,
+                              &unit, nullptr, nullptr) == 0) {
+      return {};
+    }
+    axes.push_back({direction ? direction : "", unit ? unit : "", metres});
+  }
+  return axes;
+}
+
+/// Systems of the poles count both axes along meridians, and have easting and northing all the
+/// same.
+bool countsBackward(const std::vector<Axis>& axes) {
+  const std::string both = axes[0].direction + " " + axes[1].direction;
+  return both.find("west") != std::string::npos || both == "south east" || both == "east south";
+}
+
+}  // namespace
+
+void GeoTransformer::Release::operator()(PJconsts* object) const {
+  proj_destroy(object);
+}
+
+GeoTransformer::GeoTransformer(std::int32_t epsg) {
+  console::error() << "PROJ" << std::endl;
+  const SilentProj silence;
+  const std::string code = "EPSG:" + std::to_string(epsg);
+  const Object system(epsg > 0 ? proj_create(nullptr, code.c_str()) : nullptr);
+  mStatus = examine(system, code);
+  if (mStatus.ok()) mStatus = build(code);
+}
+
+GeoTransformer::~GeoTransformer() = default;
+GeoTransformer::GeoTransformer(GeoTransformer&&) noexcept = default;
+GeoTransformer& GeoTransformer::operator=(GeoTransformer&&) noexcept = default;
+
+Status GeoTransformer::examine(const Object& system, const std::string& code) {
+  if (!system) return Status::failure(code + " is no reference system that is known here");
+  if (const char* name = proj_get_name(system.get())) mName = name;
+  const std::string what = code + " (" + mName + ")";
+  if (proj_get_type(system.get()) != PJ_TYPE_PROJECTED_CRS) {
+    return Status::failure(what + " is not a projected system; easting and northing need one");
+  }
+  const Object coordinateSystem(proj_crs_get_coordinate_system(nullptr, system.get()));
+  const std::vector<Axis> axes =
+      coordinateSystem ? axesOf(coordinateSystem.get()) : std::vector<Axis>{};
+  if (axes.size() < 2) return Status::failure(what + " has no axes that are known here");
+  for (const Axis& axis : axes) {
+    if (axis.metres == 1.0) continue;
+    return Status::failure(what + " counts in another unit than the metre: " + axis.unit +
+                           "; choose a system in metres");
+  }
+  if (countsBackward(axes)) {
+    return Status::failure(what + " counts " + axes[0].direction + "ward and " + axes[1].direction +
+                           "ward; choose a system with easting and northing");
+  }
+  return {};
+}
+
+Status GeoTransformer::build(const std::string& code) {
+  const Object asDefined(proj_create_crs_to_crs(nullptr, code.c_str(), kGlobe, nullptr));
+  if (asDefined) mTransformation.reset(proj_normalize_for_visualization(nullptr, asDefined.get()));
+  if (mTransformation) return {};
+  return Status::failure(code + " (" + mName + ") cannot be turned into longitude and latitude");
+}
+
+bool GeoTransformer::transform(double easting, double northing, LonLat& out) const {
+  if (!mTransformation || !std::isfinite(easting) || !std::isfinite(northing)) return false;
+  const SilentProj silence;
+  proj_errno_reset(mTransformation.get());
+  const PJ_COORD place =
+      proj_trans(mTransformation.get(), PJ_FWD, proj_coord(easting, northing, 0.0, 0.0));
+  if (!std::isfinite(place.xy.x) || !std::isfinite(place.xy.y)) return false;
+  out = {place.xy.x, place.xy.y};
+  return true;
+}
+
+}  // namespace talvesk

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "base/Status.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+struct PJconsts;  // of the PROJ library
+
+namespace talvesk {
+
+/// A place on the globe, degrees on WGS84.
+struct LonLat {
+  double longitude = 0.0;
+  double latitude = 0.0;
+};
+
+/// Turns easting and northing of a projected reference system into longitude and latitude. Uses
+/// PROJ's default context: for one thread of the program at a time.
+class GeoTransformer {
+ public:
+  /// Prints "PROJ" on the console's error stream. Check status() before use. Refused beside what
+  /// PROJ does not know: systems that are not projected, that count in another unit than the metre,
+  /// and that count westward or southward from their origin, for a line entered as easting and
+  /// northing would land in the wrong place without a word.
+  /// \param epsg code of the system
+  explicit GeoTransformer(std::int32_t epsg);
+  ~GeoTransformer();
+  GeoTransformer(GeoTransformer&&) noexcept;
+  GeoTransformer& operator=(GeoTransformer&&) noexcept;
+
+  const Status& status() const { return mStatus; }
+  /// Of the reference system, as its register has it ("WGS 84 / UTM zone 32N"); empty for a code
+  /// that PROJ does not know.
+  const std::string& systemName() const { return mName; }
+
+  /// Easting before northing and longitude before latitude, whatever order the systems have by
+  /// their definition. False, with `out` as it was, without a transformation and for a point that
+  /// the system cannot place.
+  /// \param easting, northing metres
+  bool transform(double easting, double northing, LonLat& out) const;
+
+ private:
+  struct Release {
+    void operator()(PJconsts* object) const;
+  };
+  using Object = std::unique_ptr<PJconsts, Release>;
+
+  Status examine(const Object& system, const std::string& code);
+  Status build(const std::string& code);
+
+  std::string mName;
+  Object mTransformation;
+  Status mStatus;
+};
+
+}  // namespace talvesk

@@ -1,0 +1,55 @@
+#include "export/LinePlacement.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace talvesk {
+
+std::optional<LineEnds> lineEnds(const TomoDocument& document) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  LineEnds ends{kInfinity, -kInfinity};
+  for (const auto& string : document.goephonesStringSet) {
+    for (const Point2D& geophone : string) {
+      if (!std::isfinite(geophone.x)) continue;
+      ends.first = std::min(ends.first, geophone.x);
+      ends.last = std::max(ends.last, geophone.x);
+    }
+  }
+  if (ends.first > ends.last) return std::nullopt;
+  return ends;
+}
+
+LinePlacement::LinePlacement(const geographicsCoord& ends)
+    : mFirst{ends.mEastFstGeoph, ends.mNorthFstGeoph} {
+  const double east = ends.mEastLstGeoph - ends.mEastFstGeoph;
+  const double north = ends.mNorthLstGeoph - ends.mNorthFstGeoph;
+  mLength = std::sqrt(east * east + north * north);
+  // A line along an axis has no component across it, and one without a length has none at all.
+  mEast = east == 0.0 ? 0.0 : east / mLength;
+  mNorth = north == 0.0 ? 0.0 : north / mLength;
+}
+
+MapPoint LinePlacement::at(double distance) const {
+  return {mFirst.easting + mEast * distance, mFirst.northing + mNorth * distance};
+}
+
+LineOnGlobe::LineOnGlobe(const geographicsCoord& ends)
+    : mTransformer(ends.CRS), mPlacement(ends), mStatus(mTransformer.status()) {
+  if (!mStatus.ok()) return;
+  if (!std::isfinite(mPlacement.length())) {
+    mStatus = Status::failure("the coordinates of the geophones are not numbers");
+  } else if (!(mPlacement.length() > 0.0)) {
+    mStatus = Status::failure("the first and the last geophone have the same coordinates");
+  } else if (!locate(0.0, mFirst) || !locate(mPlacement.length(), mLast)) {
+    mStatus = Status::failure("the coordinates of the geophones lie outside of EPSG:" +
+                              std::to_string(ends.CRS) + " (" + systemName() + ")");
+  }
+}
+
+bool LineOnGlobe::locate(double distance, LonLat& out) const {
+  const MapPoint place = mPlacement.at(distance);
+  return mTransformer.transform(place.easting, place.northing, out);
+}
+
+}  // namespace talvesk

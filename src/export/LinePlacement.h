@@ -1,0 +1,75 @@
+#pragma once
+
+#include "base/Status.h"
+#include "export/GeoTransformer.h"
+#include "model/TomoDocument.h"
+
+#include <optional>
+#include <string>
+
+namespace talvesk {
+
+/// What users are told when the line has no place on the globe.
+inline constexpr const char* kNoGeographicCoordinates =
+    "Geographical coordinates are missing, data cannot be exported in KML format";
+
+/// Survey abscissas of the first and the last geophone: the least and the greatest of all strings,
+/// whatever the order of channels. Metres.
+struct LineEnds {
+  double first = 0.0;
+  double last = 0.0;
+  double length() const { return last - first; }
+};
+
+/// None without a geophone whose position is known.
+std::optional<LineEnds> lineEnds(const TomoDocument& document);
+
+/// Easting and northing, metres.
+struct MapPoint {
+  double easting = 0.0;
+  double northing = 0.0;
+};
+
+/// The straight line from the first geophone to the last one, on the map.
+class LinePlacement {
+ public:
+  explicit LinePlacement(const geographicsCoord& ends);
+
+  double length() const { return mLength; }  ///< between both ends, metres
+  /// \param distance from the first geophone, metres; may lie before it or beyond the last one
+  MapPoint at(double distance) const;
+
+ private:
+  MapPoint mFirst;
+  double mEast = 0.0;  ///< components of the unit vector along the line
+  double mNorth = 0.0;
+  double mLength = 0.0;
+};
+
+/// Where a line lies on the globe, for as long as its export or dialog takes.
+class LineOnGlobe {
+ public:
+  /// Builds the transformation. Check status() before use.
+  explicit LineOnGlobe(const geographicsCoord& ends);
+
+  /// Why there is none: an unusable reference system, ends that are no numbers or the same, or ends
+  /// that the system cannot place.
+  const Status& status() const { return mStatus; }
+  const std::string& systemName() const { return mTransformer.systemName(); }
+  double length() const { return mPlacement.length(); }  ///< metres
+  LonLat first() const { return mFirst; }                ///< geophone
+  LonLat last() const { return mLast; }                  ///< geophone
+
+  /// False, with `out` as it was, for a distance that cannot be placed.
+  /// \param distance from the first geophone, metres
+  bool locate(double distance, LonLat& out) const;
+
+ private:
+  GeoTransformer mTransformer;
+  LinePlacement mPlacement;
+  Status mStatus;
+  LonLat mFirst;
+  LonLat mLast;
+};
+
+}  // namespace talvesk

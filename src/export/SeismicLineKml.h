@@ -1,0 +1,16 @@
+#pragma once
+
+#include "base/Status.h"
+#include "model/TomoDocument.h"
+
+#include <string>
+
+namespace talvesk {
+
+/// Writes geophones ("G-spread-geophone") and shots ("S-shot"), all counted from 0, as marks on the
+/// globe. Positions that are not known are left out, with a line on the console's error stream.
+/// Fails, with nothing written, without geographic coordinates, geophones or a usable reference
+/// system.
+Status writeSeismicLineKml(const std::string& path, const TomoDocument& document);
+
+}  // namespace talvesk

@@ -1,0 +1,162 @@
+#include "export/VtkGrid.h"
+
+#include "base/AtomicFile.h"
+#include "export/ExportFailure.h"
+#include "view/SectionValues.h"
+
+#include <QByteArray>
+#include <QSysInfo>
+#include <QXmlStreamWriter>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+namespace talvesk {
+namespace {
+
+constexpr std::uint8_t kQuadrilateral = 9;    ///< by VTK's numbers of cell types
+constexpr std::size_t kMaxCells = 4'000'000;  ///< Qt counts the bytes of a text in 31 bits
+constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+
+/// The drawn cells and the corners that they have in common, numbered anew.
+struct Cells {
+  std::vector<std::uint32_t> cells;   ///< of the grid
+  std::vector<double> points;         ///< x, y, z of each corner
+  std::vector<std::int64_t> corners;  ///< four per cell, against the clock
+  std::vector<std::int64_t> offsets;  ///< where the next cell's corners begin
+};
+
+Cells drawnCells(const SectionMesh& mesh) {
+  Cells result;
+  std::vector<std::int64_t> number(mesh.corners.size(), -1);
+  const auto use = [&](std::uint32_t line, std::uint32_t column) {
+    const std::size_t corner = mesh.corner(line, column);
+    if (number[corner] < 0) {
+      number[corner] = static_cast<std::int64_t>(result.points.size() / 3);
+      const Point2D& place = mesh.corners[corner];
+      result.points.insert(result.points.end(), {place.x, 0.0, place.z});
+    }
+    result.corners.push_back(number[corner]);
+  };
+  for (std::uint32_t row = 0; row < mesh.rows; ++row) {
+    for (std::uint32_t column = 0; column < mesh.columns; ++column) {
+      if (!mesh.isDrawn(row, column)) continue;
+      use(row + 1, column);
+      use(row + 1, column + 1);
+      use(row, column + 1);
+      use(row, column);
+      result.cells.push_back(static_cast<std::uint32_t>(mesh.cell(row, column)));
+      result.offsets.push_back(static_cast<std::int64_t>(result.corners.size()));
+    }
+  }
+  return result;
+}
+
+/// The file's XML. Arrays are inline, in base64: exact, and able to say "not a number".
+class VtuWriter {
+ public:
+  VtuWriter() : mXml(&mBytes) {
+    mXml.setAutoFormatting(true);
+    mXml.setAutoFormattingIndent(1);
+    mXml.writeStartDocument();
+    begin("VTKFile");
+    attribute("type", "UnstructuredGrid");
+    attribute("version", "1.0");
+    attribute("byte_order",
+              QSysInfo::ByteOrder == QSysInfo::LittleEndian ? "LittleEndian" : "BigEndian");
+    attribute("header_type", "UInt64");
+  }
+
+  void begin(const char* element) { mXml.writeStartElement(QLatin1String(element)); }
+  void end() { mXml.writeEndElement(); }
+  void attribute(const char* name, const char* value) {
+    mXml.writeAttribute(QLatin1String(name), QLatin1String(value));
+  }
+  void attribute(const char* name, std::size_t value) {
+    mXml.writeAttribute(QLatin1String(name), QString::number(value));
+  }
+
+  template <typename T>
+  void array(const char* type, const char* name, const std::vector<T>& values, int components = 1) {
+    begin("DataArray");
+    attribute("type", type);
+    attribute("Name", name);
+    if (components > 1) attribute("NumberOfComponents", static_cast<std::size_t>(components));
+    attribute("format", "binary");
+    const std::uint64_t size = values.size() * sizeof(T);
+    QByteArray block(reinterpret_cast<const char*>(&size), sizeof size);
+    block.append(reinterpret_cast<const char*>(values.data()), static_cast<int>(size));
+    mXml.writeCharacters(QString::fromLatin1(block.toBase64()));
+    end();
+  }
+
+  const QByteArray& finish() {
+    mXml.writeEndDocument();
+    return mBytes;
+  }
+
+ private:
+  QByteArray mBytes;
+  QXmlStreamWriter mXml;
+};
+
+std::vector<double> ofCells(const Cells& cells, const std::vector<double>& all) {
+  std::vector<double> values;
+  values.reserve(cells.cells.size());
+  for (const std::uint32_t cell : cells.cells) {
+    values.push_back(cell < all.size() && std::isfinite(all[cell]) ? all[cell] : kNone);
+  }
+  return values;
+}
+
+void writeCellData(VtuWriter& vtu, const Cells& cells, const TomoDocument& document) {
+  vtu.begin("CellData");
+  vtu.attribute("Scalars", "Velocity (m/s)");
+  vtu.array("Float64", "Velocity (m/s)", ofCells(cells, velocityValues(*document.grid)));
+  vtu.array("Float64", "Slowness (s/m)", ofCells(cells, document.grid->slownesses()));
+  vtu.array("Float64", "Vertical gradient (1/s)",
+            ofCells(cells, verticalGradientValues(*document.grid)));
+  if (document.hasTomographicInfo) {
+    std::vector<double> density = document.info_density;
+    for (double& value : density) {
+      if (value < 0.0) value = kNone;  // no inversion came by this cell
+    }
+    vtu.array("Float64", "Information density", ofCells(cells, density));
+  }
+  vtu.end();
+}
+
+}  // namespace
+
+Status writeVtkGrid(const std::string& path, const TomoDocument& document) {
+  if (!document.grid) {
+    return cannotWrite(path, "the survey has no grid; create the grid or run the inversion first");
+  }
+  const Cells cells = drawnCells(sectionMesh(*document.grid, document.xOffset));
+  if (cells.cells.empty()) return cannotWrite(path, "no cell of the section is drawn");
+  if (cells.cells.size() > kMaxCells) {
+    return cannotWrite(path, "the section has too many cells for this format, " +
+                                 std::to_string(cells.cells.size()));
+  }
+
+  VtuWriter vtu;
+  vtu.begin("UnstructuredGrid");
+  vtu.begin("Piece");
+  vtu.attribute("NumberOfPoints", cells.points.size() / 3);
+  vtu.attribute("NumberOfCells", cells.cells.size());
+  writeCellData(vtu, cells, document);
+  vtu.begin("Points");
+  vtu.array("Float64", "Points", cells.points, 3);
+  vtu.end();
+  vtu.begin("Cells");
+  vtu.array("Int64", "connectivity", cells.corners);
+  vtu.array("Int64", "offsets", cells.offsets);
+  vtu.array("UInt8", "types", std::vector<std::uint8_t>(cells.cells.size(), kQuadrilateral));
+  vtu.end();
+  const QByteArray& bytes = vtu.finish();
+  return told(
+      writeFileAtomically(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())}));
+}
+
+}  // namespace talvesk
