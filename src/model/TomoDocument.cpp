@@ -78,6 +78,7 @@ void TomoDocument::clearModelAndResults() {
   excluded.clear();
   coverageLimit.clear();
   coverageSpline.reset();
+  lastInversion.reset();
 }
 
 bool TomoDocument::picksComplete() const {

@@ -7,6 +7,7 @@
 #include "grid/SurveyProfile.h"
 #include "grid/VelocityLayers.h"
 #include "model/GeographicsCoord.h"
+#include "model/InversionRecord.h"
 #include "model/Trace.h"
 #include "model/TravelTime.h"
 #include "numerics/Splines.h"
@@ -72,6 +73,7 @@ class TomoDocument {
   std::vector<ExcludedPosition> excluded;
   std::vector<Point2D> coverageLimit;  ///< centres of the deepest covered cells, grid coordinates
   std::optional<Splines::BesselSpline> coverageSpline;  ///< through them; none for fewer than two
+  std::optional<InversionRecord> lastInversion;         ///< none when nothing is known of it
   bool stopRequested = false;
 
   bool modified = false;  ///< something changed since the last save

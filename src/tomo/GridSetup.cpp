@@ -64,6 +64,7 @@ void forgetInversion(TomoDocument& document) {
   document.excluded.clear();
   document.coverageLimit.clear();
   document.coverageSpline.reset();
+  document.lastInversion.reset();
 }
 
 Status fail(Log& log, const std::string& message) {

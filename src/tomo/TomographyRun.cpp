@@ -40,11 +40,27 @@ Status checkParameters(const TomographyParameters& p) {
   return {};
 }
 
+InversionRecord recordOf(const TomographyParameters& p, const TomographyResult& result) {
+  InversionRecord record;
+  record.externalIterations = p.externalIterations;
+  record.solverIterations = p.solverIterations;
+  record.smoothing = p.smoothing;
+  record.smoothingType = static_cast<int>(p.smoothingType);
+  record.symmetric = p.symmetric;
+  record.minVelocity = p.minVelocity;
+  record.maxVelocity = p.maxVelocity;
+  record.elapsedSeconds = result.elapsedSeconds;
+  record.stopped = result.stopped;
+  record.history = result.history;
+  return record;
+}
+
 void finish(TomoDocument& document, const TomographyParameters& p, TomographyResult& result,
             const Stopwatch& watch, Log& log) {
   document.info_density = smoothRayDensity(p.smoothingType, *document.grid, document.hitCounts,
                                            p.smoothing, verticalRatio(p.symmetric), log);
   result.elapsedSeconds = watch.seconds();
+  if (document.lastInversion) document.lastInversion->elapsedSeconds = result.elapsedSeconds;
   log.write("Elapsed time: " + std::to_string(static_cast<long long>(result.elapsedSeconds)) +
             " seconds.");
   result.misfit = computeMisfit(document);
@@ -97,6 +113,7 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   }
   result.elapsedSeconds = watch.seconds();
   if (result.iterationsDone == 0) return result;
+  document.lastInversion = recordOf(p, result);
   try {
     finish(document, p, result, watch, log);
   } catch (const std::exception& error) {

@@ -122,6 +122,7 @@ TEST(GridSetup, forgetsWhatAnInversionLeftInTheGridBefore) {
   line.RMSE_tomography = 4.0;
   line.coverageLimit = {{1.0, 2.0}, {2.0, 2.0}};
   line.coverageSpline.emplace();
+  line.lastInversion.emplace();
   line.excluded = {{0, 1, 2.0}};
   ASSERT_TRUE(setUpGrid(line, {5.0, 1.0, 6}, log).ok());
   EXPECT_TRUE(line.rays.empty());
@@ -131,6 +132,7 @@ TEST(GridSetup, forgetsWhatAnInversionLeftInTheGridBefore) {
   EXPECT_LT(line.RMSE_tomography, 0.0);
   EXPECT_TRUE(line.coverageLimit.empty());
   EXPECT_FALSE(line.coverageSpline.has_value());
+  EXPECT_FALSE(line.lastInversion.has_value());
   EXPECT_TRUE(line.excluded.empty());
 }
 

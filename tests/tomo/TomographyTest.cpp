@@ -153,6 +153,12 @@ TEST(Inversion, finishesTheIterationUnderWayWhenItIsStopped) {
     EXPECT_EQ(result.iterationsDone, byFlag ? 2 : 1);
     EXPECT_GT(result.misfit.count, 0);
     EXPECT_EQ(line.RMSE_tomography, result.misfit.relativeRms * 100.0);
+    ASSERT_TRUE(line.lastInversion);
+    EXPECT_TRUE(line.lastInversion->stopped);
+    EXPECT_EQ(line.lastInversion->externalIterations, 5);
+    EXPECT_EQ(line.lastInversion->solverIterations, 2);
+    ASSERT_EQ(line.lastInversion->history.size(), byFlag ? 2u : 1u);
+    EXPECT_EQ(line.lastInversion->history.back().rmse, result.misfit.rmse);
     const std::vector<std::string> lines = linesOf(console.out());
     const auto stop = std::find(lines.begin(), lines.end(), "log: Stop Request by the user.");
     ASSERT_NE(stop, lines.end());
