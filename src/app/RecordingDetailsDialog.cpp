@@ -1,5 +1,6 @@
 #include "app/RecordingDetailsDialog.h"
 
+#include "model/SurveyGeometry.h"
 #include "model/TomoDocument.h"
 #include "ui_RecordingDetailsDialog.h"
 
@@ -31,6 +32,14 @@ QString rangeOf(const TraceSet& traces, Value value, const QString& unit) {
   return unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
 }
 
+/// Of the file of a set, or of both files of an S-wave pair.
+QString pathsOf(const TomoDocument& document, std::size_t set) {
+  QString paths = QString::fromStdString(shotFile(document, set));
+  const bool pair = set < document.filenames_SX.size() && !document.filenames_SX[set].empty();
+  if (pair) paths += QLatin1Char('\n') + QString::fromStdString(document.filenames_SX[set]);
+  return paths.isEmpty() ? QStringLiteral("-") : paths;
+}
+
 QString formatName(const QString& format) {
   if (format == QLatin1String("seg2")) return QStringLiteral("SEG-2");
   if (format == QLatin1String("segy")) return QStringLiteral("SEG-Y");
@@ -49,8 +58,7 @@ RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
       mFiles(std::move(files)) {
   mUi->setupUi(this);
   for (std::size_t i = 0; i < mDocument.traceSets.size(); ++i) {
-    const QString path =
-        i < mDocument.filenames.size() ? QString::fromStdString(mDocument.filenames[i]) : QString();
+    const QString path = QString::fromStdString(shotFile(mDocument, i));
     mUi->fileCBox->addItem(QStringLiteral("%1: %2").arg(i + 1).arg(QFileInfo(path).fileName()));
     mUi->fileCBox->setItemData(static_cast<int>(i), path, Qt::ToolTipRole);
   }
@@ -73,9 +81,7 @@ void RecordingDetailsDialog::showSet(int index) {
   const auto set = static_cast<std::size_t>(index);
   const TraceSet& traces = mDocument.traceSets[set];
   const RecordingInfo info = set < mFiles.size() ? mFiles[set] : RecordingInfo();
-  mUi->pathValue->setText(set < mDocument.filenames.size()
-                              ? QString::fromStdString(mDocument.filenames[set])
-                              : QStringLiteral("-"));
+  mUi->pathValue->setText(pathsOf(mDocument, set));
   mUi->formatValue->setText(formatName(info.format));
   mUi->tracesValue->setText(QLocale().toString(static_cast<qulonglong>(traces.size())));
   mUi->samplesValue->setText(rangeOf(

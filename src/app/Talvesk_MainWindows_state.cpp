@@ -1,4 +1,5 @@
 #include "app/Talvesk_MainWindows.h"
+#include "model/SurveyGeometry.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -77,12 +78,12 @@ void Talvesk_MainWindows::refreshShotChooser() {
     const TravelTime& record = mDocument.ttArray[i];
     const QString place = tr("%1 m").arg(locale.toString(record.shotPos2d.x, 'f', 1));
     const auto number = static_cast<int>(i + 1);
-    const QString text =
-        i < mDocument.filenames.size()
-            ? tr("%1: %2 at %3", "shot number, file, place")
-                  .arg(number)
-                  .arg(QFileInfo(QString::fromStdString(mDocument.filenames[i])).fileName(), place)
-            : tr("%1: at %2", "shot number, place").arg(number).arg(place);
+    const std::string file = shotFile(mDocument, i);
+    const QString text = !file.empty()
+                             ? tr("%1: %2 at %3", "shot number, file, place")
+                                   .arg(number)
+                                   .arg(QFileInfo(QString::fromStdString(file)).fileName(), place)
+                             : tr("%1: at %2", "shot number, place").arg(number).arg(place);
     mShotChooser->addItem(text);
   }
   mShotChooser->setCurrentIndex(mCurrentFile);

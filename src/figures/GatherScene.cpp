@@ -1,6 +1,7 @@
 #include "figures/GatherScene.h"
 
 #include "base/TextNumber.h"
+#include "model/SurveyGeometry.h"
 #include "model/TomoDocument.h"
 #include "view/SectionTexts.h"
 
@@ -161,8 +162,8 @@ std::string countOf(std::size_t count, const std::string& noun) {
 std::string titleOf(const TomoDocument& document, std::size_t shot, const TravelTime* record,
                     bool receiversKnown, const GatherFigureOptions& options) {
   std::string title = options.title;
-  if (title.empty() && shot < document.filenames.size()) {
-    title = document.filenames[shot];
+  if (title.empty()) {
+    title = shotFile(document, shot);
     title.erase(0, title.find_last_of("/\\") + 1);
   }
   if (!title.empty()) title += "   \xC2\xB7   ";

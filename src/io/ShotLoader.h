@@ -25,7 +25,7 @@ class ShotLoader {
   /// and the position of the source, all taken from the first trace (0 when there is none). The
   /// receivers become a geophone string unless an equal one exists already. Grid and results, which
   /// belong to the line as it was, are forgotten. Files that fail change nothing. A document that
-  /// holds records without trace sets takes no file: the status of all is 1.
+  /// holds records without trace sets, or S-wave pairs, takes no file: the status of all is 1.
   std::vector<ShotFileOutcome> load(const std::vector<std::string>& paths, TomoDocument& document);
 
   SegyState& state() { return mState; }

@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "model/SWavePair.h"
 
 #include <algorithm>
 #include <atomic>
@@ -26,13 +27,6 @@ double meanOf(const std::vector<double>& samples) {
   double sum = 0.0;
   for (const double sample : samples) sum += sample;
   return sum / static_cast<double>(samples.size());
-}
-
-void rebuildPair(Trace& trace) {
-  if (trace.waveKind != Trace::kSWavePair) return;
-  trace.samples = trace.samplesDX;
-  const std::size_t both = std::min(trace.samplesDX.size(), trace.samplesSX.size());
-  for (std::size_t k = 0; k < both; ++k) trace.samples[k] -= trace.samplesSX[k];
 }
 
 std::int32_t detect(const Trace& trace, bool useFiltered) {
@@ -141,7 +135,7 @@ std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t t
   }
   TraceSet& traces = *tracesOf(document, shot);
   const auto t = static_cast<std::size_t>(trace);
-  rebuildPair(traces[t]);
+  subtractRecordings(traces[t]);
   const std::int32_t index = detect(traces[t], useFiltered);
   store(*record, traces, t, index);
   document.modified = true;
@@ -200,7 +194,7 @@ Status pickShots(TomoDocument& document, const std::vector<std::int32_t>& shots,
     if (traces == nullptr) continue;
     indices[s].assign(traces->size(), -1);
     for (std::size_t t = 0; t < traces->size(); ++t) {
-      rebuildPair((*traces)[t]);
+      subtractRecordings((*traces)[t]);
       jobs.push_back({&(*traces)[t], &indices[s][t]});
     }
   }
