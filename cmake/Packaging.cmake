@@ -1,0 +1,58 @@
+# What an installed Talvesk consists of, and the Debian package that cpack makes of it.
+set(docs ${CMAKE_INSTALL_DATADIR}/doc/talvesk)
+set(desktop ${PROJECT_SOURCE_DIR}/resources/desktop)
+install(TARGETS talvesk talvesk-batch RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY resources/guide DESTINATION ${CMAKE_INSTALL_DATADIR}/talvesk)
+install(FILES ${desktop}/talvesk.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${desktop}/example.talvesk.Talvesk.metainfo.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${desktop}/talvesk-mime.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME talvesk.xml)
+install(FILES resources/icons/talvesk.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES README.md DESTINATION ${docs})
+install(FILES LICENSE DESTINATION ${docs} RENAME copyright)
+
+# Manual pages and the change log are compressed, without a time stamp: equal sources, equal package.
+find_program(GZIP_PROGRAM gzip REQUIRED)
+function(talvesk_install_compressed source name folder)
+  set(packed ${CMAKE_CURRENT_BINARY_DIR}/packed/${name}.gz)
+  add_custom_command(OUTPUT ${packed}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_CURRENT_BINARY_DIR}/packed
+    COMMAND ${GZIP_PROGRAM} -9nc ${source} > ${packed}
+    DEPENDS ${source} VERBATIM)
+  add_custom_target(pack_${name} ALL DEPENDS ${packed})
+  install(FILES ${packed} DESTINATION ${folder})
+endfunction()
+talvesk_install_compressed(${PROJECT_SOURCE_DIR}/resources/man/talvesk.1 talvesk.1
+                           ${CMAKE_INSTALL_MANDIR}/man1)
+talvesk_install_compressed(${PROJECT_SOURCE_DIR}/resources/desktop/changelog changelog ${docs})
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME talvesk)
+set(CPACK_PACKAGE_VENDOR "The Talvesk developers")
+set(CPACK_PACKAGE_CONTACT "The Talvesk developers <developers@talvesk.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "seismic refraction surveys, from records to sections")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://talvesk.example/)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Found at run time and not by the linker: tables of coordinate systems, Qt's own texts in other
+# languages, and a font for figures made without a display.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "proj-data, qttranslations5-l10n, fonts-dejavu-core")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libgl1-mesa-dri")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"Talvesk turns a seismic refraction survey into a velocity section of the
+ground. It loads the records of the shots (SEG-2, SEG-Y, SU), picks the first
+breaks by hand or by itself, and inverts the travel times by tomography: rays
+by a shortest-path search on a grid that follows the topography, a simultaneous
+iterative solver, and smoothing. The layered interpretation of the reciprocal
+method is offered beside it.
+.
+The package holds the window, talvesk, and the same engine without one,
+talvesk-batch.")
+include(CPack)
