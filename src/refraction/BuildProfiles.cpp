@@ -1,0 +1,246 @@
+#include "refraction/BuildProfiles.h"
+
+#include "base/Console.h"
+#include "base/TextNumber.h"
+#include "refraction/Branches.h"
+#include "refraction/Phantoming.h"
+#include "refraction/Profile.h"
+#include "refraction/ReciprocalMethod.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <ostream>
+#include <utility>
+
+namespace talvesk {
+
+using namespace refractionDataStructure;
+
+namespace {
+
+using Kind = RefractionWarning::Kind;
+using Warnings = std::vector<RefractionWarning>;
+
+constexpr std::uint32_t kFirstRefractor = 2;
+constexpr std::uint32_t kSecondRefractor = 3;
+constexpr std::size_t kSkippedEnds = 0;
+constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
+
+struct Curves {
+  ShotPair pair;
+  phantom forward;
+  phantom reverse;
+};
+
+/// Forward and reverse curve of a refractor; false when there are none, with the reason.
+bool makeCurves(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
+                std::vector<layerStruct>& marks, Curves& curves, Warnings& warnings) {
+  curves.pair = findShotPair(shots, marks, refractor);
+  if (!curves.pair.complete()) {
+    const bool first = refractor == kFirstRefractor;
+    warnings.push_back({first ? Kind::kNoShotPair : Kind::kNoShotPairBelow, refractor});
+    return false;
+  }
+  if (refractor == kSecondRefractor) console::out() << "Phantom 3\n";
+  clearShifts(refractor, marks);
+  CurveOutcome forward = buildCurve(shots, curves.pair.a, refractor, Side::kRight, marks);
+  CurveOutcome reverse = buildCurve(shots, curves.pair.b, refractor, Side::kLeft, marks);
+  const bool usable = forward.usable() && reverse.usable();
+  if (!forward.usable()) warnings.push_back({Kind::kFewForward, refractor, forward.ownPicks});
+  if (!reverse.usable()) warnings.push_back({Kind::kFewReverse, refractor, reverse.ownPicks});
+  curves.forward = std::move(forward.curve);
+  curves.reverse = std::move(reverse.curve);
+  return usable;
+}
+
+/// The receivers of the forward curve where there are reverse arrivals, too. Farther out the
+/// reverse curve would be a cubic that left its last picks long ago.
+phantom withinReverse(const phantom& forward, const phantom& reverse) {
+  phantom common = forward;
+  common.points.clear();
+  common.times.clear();
+  const double first = reverse.points.front().x;
+  const double last = reverse.points.back().x;
+  for (std::size_t i = 0; i < forward.points.size(); ++i) {
+    if (forward.points[i].x < first || forward.points[i].x > last) continue;
+    common.points.push_back(forward.points[i]);
+    common.times.push_back(forward.times[i]);
+  }
+  common.enabled.assign(common.points.size(), true);
+  return common;
+}
+
+/// tV, tG and velocities of a refractor from its curves, whose reciprocal times are set.
+bool interpretRefractor(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
+                        Curves& curves, computedData& result, Warnings& warnings) {
+  const double xA = shots[static_cast<std::size_t>(curves.pair.a)].shot.x;
+  const double xB = shots[static_cast<std::size_t>(curves.pair.b)].shot.x;
+  const double tAB = reciprocalTime(curves.forward, curves.reverse, xA, xB);
+  if (refractor == kSecondRefractor) {
+    console::out() << " TAB 3 \nTAB3 : " << formatDouble(tAB) << '\n';
+  }
+  const phantom forward = withinReverse(curves.forward, curves.reverse);
+  if (forward.points.size() < 2) {
+    warnings.push_back({Kind::kFewCommon, refractor, forward.points.size()});
+    return false;
+  }
+  for (const Point2D& point : forward.points) {
+    result.x.push_back(point.x);
+    result.elevation.push_back(point.z);
+  }
+  const std::size_t chosen = indexOfXY(result.chosenXY);
+  result.chosenXY = kXYFamily[chosen];
+  result.tVs = buildTV(forward, curves.reverse, tAB);
+  result.tV = memberOf(result.tVs, chosen);
+  result.tGs = buildTG(forward, curves.reverse, tAB, result.tV);
+  result.tG = memberOf(result.tGs, chosen);
+  return true;
+}
+
+void findVelocity(std::uint32_t refractor, computedData& result, Warnings& warnings) {
+  RefractorVelocity found = refractorVelocity(result.x, result.tV);
+  result.velocity = std::move(found.velocity);
+  if (found.fallback == VelocityFallback::kNotPositive) {
+    warnings.push_back({Kind::kVelocityNegative, refractor});
+  } else if (found.fallback == VelocityFallback::kStrongVariation) {
+    warnings.push_back({Kind::kStrongVariation, refractor});
+  }
+}
+
+void warnOfUnknownDepths(std::uint32_t refractor, const computedData& result, std::size_t explained,
+                         Warnings& warnings) {
+  const auto unknown =
+      static_cast<std::size_t>(std::count_if(result.depth.begin(), result.depth.end(),
+                                             [](double depth) { return !std::isfinite(depth); }));
+  if (unknown > explained) {
+    warnings.push_back({Kind::kSlowRefractor, refractor, unknown - explained, result.depth.size()});
+  }
+}
+
+void findFirstDepth(double v1, computedData& result, Warnings& warnings) {
+  RefractorDepth found = depthFirstRefractor(result.tG, result.velocity, v1, kSkippedEnds);
+  result.depth = std::move(found.depth);
+  if (found.tGNotPositive) warnings.push_back({Kind::kTgNegative, kFirstRefractor});
+  if (std::isfinite(v1)) warnOfUnknownDepths(kFirstRefractor, result, 0, warnings);
+}
+
+void findSecondDepth(double v1, const computedData& upper, computedData& result,
+                     Warnings& warnings) {
+  std::vector<double> z1;
+  std::vector<double> v2;
+  std::size_t outside = 0;
+  std::size_t unknownAbove = 0;
+  for (const double x : result.x) {
+    const auto depth = valueAt(upper, upper.depth, x);
+    z1.push_back(depth.value_or(kUnknown));
+    v2.push_back(valueAt(upper, upper.velocity, x).value_or(kUnknown));
+    if (!depth) ++outside;
+    if (depth && !std::isfinite(*depth)) ++unknownAbove;
+  }
+  result.depth = depthSecondRefractor(result.tG, z1, v2, result.velocity, v1, kSkippedEnds);
+  if (outside > 0) {
+    warnings.push_back({Kind::kOutsideUpper, kSecondRefractor, outside, result.x.size()});
+  }
+  if (std::isfinite(v1)) {
+    warnOfUnknownDepths(kSecondRefractor, result, outside + unknownAbove, warnings);
+  }
+}
+
+std::string cell(const computedData* refractor, const std::vector<double>& values, double x) {
+  if (refractor == nullptr) return "-";
+  const auto at = std::lower_bound(refractor->x.begin(), refractor->x.end(), x);
+  if (at == refractor->x.end() || *at != x) return "-";
+  return formatDouble(values[static_cast<std::size_t>(at - refractor->x.begin())]);
+}
+
+void printTable(const processingData& results) {
+  std::ostream& out = console::out();
+  out << " x    z    z2    tV  TV2   tg    tg2      V       V2\n";
+  const computedData* first = results.cData.data();
+  const computedData* second = results.cData.size() > 1 ? &results.cData[1] : nullptr;
+  static const computedData kNone;
+  const computedData& below = second != nullptr ? *second : kNone;
+  for (const Point2D& at : profileSurface(results)) {
+    const double x = at.x;
+    out << formatDouble(x) << ' ' << cell(first, first->depth, x) << ' '
+        << cell(second, below.depth, x) << ' ' << cell(first, first->tV, x) << ' '
+        << cell(second, below.tV, x) << ' ' << cell(first, first->tG, x) << ' '
+        << cell(second, below.tG, x) << ' ' << cell(first, first->velocity, x) << ' '
+        << cell(second, below.velocity, x) << '\n';
+  }
+  out.flush();
+}
+
+/// What is kept of a refractor when it is built anew.
+computedData rebuilt(const processingData& results, std::size_t index) {
+  computedData fresh;
+  if (index < results.cData.size()) fresh.chosenXY = results.cData[index].chosenXY;
+  return fresh;
+}
+
+}  // namespace
+
+ProfileOutcome buildProfiles(const std::vector<ShotArrivals>& shots,
+                             Interpretation& interpretation) {
+  ProfileOutcome outcome;
+  Interpretation work = interpretation;
+  work.phnt_A.clear();
+  work.phnt_R.clear();
+  work.refractData = {};
+  processingData& results = work.refractData;
+  const auto interpret = [&](std::uint32_t refractor) {
+    Curves curves;
+    computedData result = rebuilt(interpretation.refractData, refractor - kFirstRefractor);
+    if (!makeCurves(shots, refractor, work.ttLayer, curves, outcome.warnings)) return false;
+    const bool interpreted = interpretRefractor(shots, refractor, curves, result, outcome.warnings);
+    if (!interpreted) return false;
+    work.phnt_A.push_back(std::move(curves.forward));
+    work.phnt_R.push_back(std::move(curves.reverse));
+    results.cData.push_back(std::move(result));
+    return true;
+  };
+
+  if (!interpret(kFirstRefractor)) return outcome;
+  results.v1 = layerVelocity(shots, work.ttLayer, 1);
+  if (!std::isfinite(results.v1)) outcome.warnings.push_back({Kind::kNoFirstLayer, 1});
+  findVelocity(kFirstRefractor, results.cData[0], outcome.warnings);
+  findFirstDepth(results.v1, results.cData[0], outcome.warnings);
+  results.v2 = results.cData[0].velocity;
+  if (isAssigned(work.ttLayer, kSecondRefractor) && interpret(kSecondRefractor)) {
+    findVelocity(kSecondRefractor, results.cData[1], outcome.warnings);
+    findSecondDepth(results.v1, results.cData[0], results.cData[1], outcome.warnings);
+    results.v3 = results.cData[1].velocity;
+  }
+  printTable(results);
+  outcome.built = true;
+  interpretation = std::move(work);
+  return outcome;
+}
+
+std::vector<RefractionWarning> buildPhantoms(const std::vector<ShotArrivals>& shots,
+                                             Interpretation& interpretation) {
+  Warnings warnings;
+  std::vector<phantom> forward;
+  std::vector<phantom> reverse;
+  for (const std::uint32_t refractor : {kFirstRefractor, kSecondRefractor}) {
+    if (refractor == kSecondRefractor && !isAssigned(interpretation.ttLayer, refractor)) break;
+    Curves curves;
+    if (!makeCurves(shots, refractor, interpretation.ttLayer, curves, warnings)) break;
+    forward.push_back(std::move(curves.forward));
+    reverse.push_back(std::move(curves.reverse));
+  }
+  interpretation.phnt_A = std::move(forward);
+  interpretation.phnt_R = std::move(reverse);
+  return warnings;
+}
+
+void chooseXY(Interpretation& interpretation, std::uint32_t refractor, double xy) {
+  if (refractor < kFirstRefractor || refractor > kSecondRefractor) return;
+  auto& data = interpretation.refractData.cData;
+  const std::size_t index = refractor - kFirstRefractor;
+  if (data.size() <= index) data.resize(index + 1);
+  data[index].chosenXY = kXYFamily[indexOfXY(xy)];
+}
+
+}  // namespace talvesk

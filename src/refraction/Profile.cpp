@@ -1,0 +1,62 @@
+#include "refraction/Profile.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+
+using namespace refractionDataStructure;
+
+std::vector<ProfileBoundary> profileBoundaries(const processingData& results) {
+  std::vector<ProfileBoundary> boundaries;
+  for (std::size_t i = 0; i < results.cData.size(); ++i) {
+    const computedData& refractor = results.cData[i];
+    ProfileBoundary boundary;
+    boundary.refractor = static_cast<std::uint32_t>(i) + 2;
+    const std::size_t n =
+        std::min({refractor.x.size(), refractor.depth.size(), refractor.elevation.size()});
+    bool joined = false;
+    for (std::size_t j = 0; j < n; ++j) {
+      const double z = refractor.elevation[j] - refractor.depth[j];
+      if (std::isfinite(z)) {
+        if (!joined) boundary.lines.emplace_back();
+        boundary.lines.back().push_back({refractor.x[j], z});
+      }
+      joined = std::isfinite(z);
+    }
+    if (!boundary.lines.empty()) boundaries.push_back(std::move(boundary));
+  }
+  return boundaries;
+}
+
+std::vector<Point2D> profileSurface(const processingData& results) {
+  std::vector<Point2D> surface;
+  for (const computedData& refractor : results.cData) {
+    const std::size_t n = std::min(refractor.x.size(), refractor.elevation.size());
+    for (std::size_t j = 0; j < n; ++j) {
+      surface.push_back({refractor.x[j], refractor.elevation[j]});
+    }
+  }
+  std::stable_sort(surface.begin(), surface.end(),
+                   [](const Point2D& a, const Point2D& b) { return a.x < b.x; });
+  surface.erase(std::unique(surface.begin(), surface.end(),
+                            [](const Point2D& a, const Point2D& b) { return a.x == b.x; }),
+                surface.end());
+  return surface;
+}
+
+std::optional<double> valueAt(const computedData& refractor, const std::vector<double>& values,
+                              double x) {
+  const std::size_t n = std::min(refractor.x.size(), values.size());
+  const auto begin = refractor.x.begin();
+  const auto end = begin + static_cast<std::ptrdiff_t>(n);
+  const auto at = std::lower_bound(begin, end, x);
+  if (at == end) return std::nullopt;
+  const auto i = static_cast<std::size_t>(at - begin);
+  if (*at == x) return values[i];
+  if (i == 0) return std::nullopt;
+  const double w = (x - refractor.x[i - 1]) / (refractor.x[i] - refractor.x[i - 1]);
+  return (1.0 - w) * values[i - 1] + w * values[i];
+}
+
+}  // namespace talvesk
