@@ -192,7 +192,8 @@ TEST(PaletteFile, refusesAGradientWithoutAColourAndOneOfTooMany) {
   EXPECT_THAT(parsePalette(formatPalette(palette), "a.xml", read).message(),
               HasSubstr("no colours"));
   palette.color_gradient.assign(std::vector<GradientColorPoint>(257));
-  EXPECT_THAT(parsePalette(formatPalette(palette), "a.xml", read).message(), HasSubstr("more than 256"));
+  EXPECT_THAT(parsePalette(formatPalette(palette), "a.xml", read).message(),
+              HasSubstr("more than 256"));
   palette.color_gradient.assign(std::vector<GradientColorPoint>(1));
   ASSERT_TRUE(parsePalette(formatPalette(palette), "a.xml", read).ok());
   EXPECT_EQ(read.color_gradient.points().size(), 2U) << "one colour from end to end";

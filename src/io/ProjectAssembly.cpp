@@ -1,0 +1,207 @@
+#include "io/ProjectAssembly.h"
+
+#include "grid/GridBuilder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr double kLargestCoordinate = 1e8;  // metres; more is no survey line on this globe
+
+bool plausible(const Point2D& point) {
+  return std::fabs(point.x) <= kLargestCoordinate && std::fabs(point.z) <= kLargestCoordinate;
+}
+
+bool finite(const std::vector<double>& values) {
+  return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+}
+
+bool positive(double value) {
+  return std::isfinite(value) && value > 0.0;
+}
+
+bool fits(const VelocityLayer& layer) {
+  return std::isfinite(layer.initialDepth) && std::isfinite(layer.finalDepth) &&
+         positive(layer.initialVelocity) && positive(layer.finalVelocity);
+}
+
+void repairRun(TomoDocument& document) {
+  const TomoDocument fresh;
+  if (!positive(document.minVelocity)) document.minVelocity = fresh.minVelocity;
+  if (!positive(document.maxVelocity)) document.maxVelocity = fresh.maxVelocity;
+  if (!std::all_of(document.layers.begin(), document.layers.end(), fits)) document.layers.clear();
+  auto& sizes = document.proposedCellSizes;
+  if (!std::all_of(sizes.begin(), sizes.end(), positive)) sizes.clear();
+  const geographicsCoord& place = document.geoCoord;
+  if (!finite(std::vector<double>{place.mEastFstGeoph, place.mEastLstGeoph, place.mNorthFstGeoph,
+                                  place.mNorthLstGeoph})) {
+    document.geoCoord = {};
+    document.geoCoordIsSet = false;
+  }
+}
+
+void repairSection(SectionViewSettings& section) {
+  const SectionViewSettings fresh;
+  if (section.quantity < SectionQuantity::kVelocity ||
+      section.quantity > SectionQuantity::kInformationDensity) {
+    section.quantity = fresh.quantity;
+  }
+  if (section.geophones < GeophoneMarkers::kNone || section.geophones > GeophoneMarkers::kLarge) {
+    section.geophones = fresh.geophones;
+  }
+  constexpr double kMostExaggerated = 1000.0;
+  if (!positive(section.verticalExaggeration) || section.verticalExaggeration > kMostExaggerated) {
+    section.verticalExaggeration = fresh.verticalExaggeration;
+  }
+  ContourSettings& contours = section.contours;
+  constexpr int kMost = static_cast<int>(SectionSceneOptions::kMaxContours);
+  constexpr int kLargestLabel = 200;  // points
+  contours.numberOfValues = std::clamp(contours.numberOfValues, 1, kMost);
+  contours.labelEvery = std::clamp(contours.labelEvery, 0, kMost);
+  contours.labelSize = std::clamp(contours.labelSize, 1, kLargestLabel);
+  if (!finite(contours.customValues) ||
+      contours.customValues.size() > SectionSceneOptions::kMaxContours) {
+    contours.customValues.clear();
+  }
+  std::sort(contours.customValues.begin(), contours.customValues.end());
+  if (contours.customValues.empty()) contours.customized = false;
+  for (double* part : {&contours.color.r, &contours.color.g, &contours.color.b}) {
+    *part = std::isfinite(*part) ? std::clamp(*part, 0.0, 1.0) : 0.0;
+  }
+}
+
+Status checkCells(const GridMember& grid) {
+  const auto cells = static_cast<std::uint64_t>(grid.righe) * grid.col;
+  if (cells != grid.velocities.size() || cells != grid.toBeDraw.size()) {
+    return Status::failure(std::to_string(grid.righe) + " rows of " + std::to_string(grid.col) +
+                           " columns do not go with " + std::to_string(grid.velocities.size()) +
+                           " velocities and " + std::to_string(grid.toBeDraw.size()) +
+                           " draw flags");
+  }
+  constexpr std::uint32_t kMostNodes = 1000;  // per side; more has no use and no memory
+  if (grid.nV < 2 || grid.nV > kMostNodes || !positive(grid.aLato) ||
+      grid.aLato > kLargestCoordinate) {
+    return Status::failure("cells with " + std::to_string(grid.nV) + " nodes per side, " +
+                           std::to_string(grid.aLato) + " m long, cannot be");
+  }
+  if (!std::all_of(grid.velocities.begin(), grid.velocities.end(), positive)) {
+    return Status::failure("a velocity is not a positive number");
+  }
+  return {};
+}
+
+Status buildGrid(const GridMember& grid, TomoDocument& document) {
+  const SurveyProfile profile = document.surveyProfile();
+  if (!profile.hasGeometry()) return Status::failure("there is a grid, but no two geophones");
+  GridSize size;
+  size.righe = grid.righe;
+  size.col = grid.col;
+  size.nV = grid.nV;
+  size.aLato = grid.aLato;
+  if (Status status = checkGridSize(size, 1); !status.ok()) return status;
+  std::vector<double> slownesses;
+  slownesses.reserve(grid.velocities.size());
+  for (const double velocity : grid.velocities) slownesses.push_back(1.0 / velocity);
+  Splines::LinearSpline surface = profile.surface();
+  std::unique_ptr<Grid> built = buildGridFromValues(size, std::move(slownesses), surface);
+  if (built == nullptr) return Status::failure("the grid cannot be built");
+  for (std::uint32_t c = 0; c < built->cellCount(); ++c) built->setDraw(c, grid.toBeDraw[c]);
+  document.grid = std::move(built);
+  document.surface = std::move(surface);
+  document.xOffset = profile.xOffset;
+  return {};
+}
+
+/// The centres of the deepest cells that were drawn since an inversion, column by column.
+std::vector<Point2D> drawnLimit(const Grid& grid) {
+  std::vector<Point2D> limit;
+  for (std::uint32_t column = 0; column < grid.col(); ++column) {
+    for (std::uint32_t row = grid.righe(); row-- > 1;) {
+      const std::uint32_t cell = grid.cellIndex(row, column);
+      if (!grid.draw(cell)) continue;
+      limit.push_back(grid.cellCentre(cell));
+      break;
+    }
+  }
+  return limit;
+}
+
+void restoreCoverage(SurveyMember& survey) {
+  TomoDocument& document = survey.document;
+  std::vector<Point2D>& limit = document.coverageLimit;
+  const bool usable = survey.hasCoverageLimit && std::all_of(limit.begin(), limit.end(), plausible);
+  if (!usable) limit.clear();
+  if (!usable && document.hasTomographicInfo) limit = drawnLimit(*document.grid);
+  if (limit.size() < 2) return;
+  std::vector<double> x, z;
+  for (const Point2D& centre : limit) {
+    x.push_back(centre.x);
+    z.push_back(centre.z);
+  }
+  Splines::BesselSpline spline;
+  spline.Spline::build(x, z);
+  document.coverageSpline = spline;
+}
+
+void restoreDensity(SurveyMember& survey) {
+  std::vector<double>& density = survey.document.info_density;
+  const std::size_t cells = survey.document.grid->cellCount();
+  if (!survey.hasInformationDensity) {
+    density.assign(cells, 1.0);
+  } else if (density.size() == 1 && cells != 1) {
+    density.assign(cells, density.front());
+  } else if (density.size() != cells) {
+    density.assign(cells, -1.0);
+  }
+}
+
+}  // namespace
+
+Status checkSurvey(SurveyMember& member) {
+  TomoDocument& document = member.document;
+  for (const auto& string : document.goephonesStringSet) {
+    if (!std::all_of(string.begin(), string.end(), plausible)) {
+      return Status::failure("a geophone has no place");
+    }
+  }
+  for (TravelTime& record : document.ttArray) {
+    const auto string = static_cast<std::size_t>(record.indexStesa);
+    if (record.indexStesa < 0 || string >= document.goephonesStringSet.size()) {
+      return Status::failure("a shot was recorded by geophone string " +
+                             std::to_string(record.indexStesa) + " of " +
+                             std::to_string(document.goephonesStringSet.size()));
+    }
+    if (!plausible(record.shotPos2d)) return Status::failure("a shot has no place");
+    if (record.traceSetID < 0) return Status::failure("a shot has trace set -1");
+    record.ttCalcolati.resize(record.ttMisurati.size(), kNoTime);
+  }
+  repairRun(document);
+  repairSection(member.section);
+  return {};
+}
+
+Status installGrid(const GridMember& grid, SurveyMember& survey) {
+  TomoDocument& document = survey.document;
+  if (grid.col == 0 && grid.righe == 0 && grid.velocities.empty()) {
+    document.hasTomographicInfo = false;
+    document.info_density.clear();
+    document.coverageLimit.clear();
+    return {};
+  }
+  try {
+    Status status = checkCells(grid);
+    if (status.ok()) status = buildGrid(grid, document);
+    if (!status.ok()) return status;
+    restoreDensity(survey);
+    restoreCoverage(survey);
+    return status;
+  } catch (const std::exception& error) {
+    return Status::failure(std::string("the grid cannot be built: ") + error.what());
+  }
+}
+
+}  // namespace talvesk

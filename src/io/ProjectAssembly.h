@@ -1,0 +1,54 @@
+#pragma once
+
+#include "base/Status.h"
+#include "io/ProjectMembers.h"
+#include "io/SegyFile.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace talvesk {
+
+// From the members of a project to a survey that the program can work with. Sizes and indexes are
+// checked against each other before anything uses them; a failure says what does not fit.
+
+/// Positions, spreads and settings. What only concerns the looks of a section is repaired.
+Status checkSurvey(SurveyMember& member);
+
+/// Builds the grid under the survey and restores what an inversion left with it.
+Status installGrid(const GridMember& grid, SurveyMember& survey);
+
+/// Puts the traces into the document, from the member or from the shot files in `folder` (ending in
+/// "/"), where the document's file names then point. A shot file that is missing, fails or is not
+/// the one that was saved leaves its traces empty and a warning; that is no failure.
+Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,
+                     std::vector<std::string>& warnings);
+
+/// Layers that name shots or layers which do not exist are refused; results that do not hang
+/// together are dropped, they can be built again.
+Status checkInterpretation(const TomoDocument& document,
+                           refractionDataStructure::Interpretation& interpretation);
+
+/// The shot files of one trace set: one file, or the two of a pair.
+struct SetFiles {
+  std::string main;
+  std::string dx;
+  std::string sx;
+
+  bool isPair() const { return !dx.empty() && !sx.empty(); }
+  bool none() const { return main.empty() && !isPair(); }
+};
+SetFiles filesOfSet(const std::vector<std::string>& main, const std::vector<std::string>& dx,
+                    const std::vector<std::string>& sx, std::size_t set);
+
+/// Reads the traces of one set again from the files of these bare names in `folder`. Both the
+/// loader and the writer, who wants to know what the loader will see, use it. False, with a reason,
+/// and `state` as before, when a file is missing or fails, or the files of a pair do not match.
+bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& state,
+                  TraceSet& traces, std::string& why);
+
+/// Takes samples off the front of a trace that was just read.
+void dropSamples(Trace& trace, std::size_t count);
+
+}  // namespace talvesk

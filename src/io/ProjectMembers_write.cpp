@@ -1,0 +1,132 @@
+#include "base/Console.h"
+#include "io/ProjectMembers.h"
+#include "io/ProjectRecords.inl"
+
+#include <fstream>
+#include <functional>
+
+namespace talvesk {
+namespace {
+
+/// \param what the member, as its messages call it
+int writeMember(const std::string& path, const char* what,
+                const std::function<void(XmlWriter&)>& write) {
+  const auto fail = [&] {
+    console::error() << "[ERROR] Error in opening " << path << "." << std::endl
+                     << "[ERROR] " << what << " cannot be stored on disk." << std::endl;
+    return 1;
+  };
+  std::ofstream stream(path, std::ios::binary);
+  if (!stream.is_open()) return fail();
+  XmlWriter writer(stream);
+  write(writer);
+  const bool complete = writer.finish();
+  stream.close();
+  return complete && stream.good() ? 0 : fail();
+}
+
+std::vector<std::string> bareNames(const std::vector<std::string>& paths) {
+  std::vector<std::string> names;
+  names.reserve(paths.size());
+  for (const std::string& path : paths) names.push_back(bareName(path));
+  return names;
+}
+
+StoredTrace storedTrace(const Trace& trace, bool withSamples) {
+  StoredTrace stored;
+  stored.pos = trace.receiverPosition.x;
+  stored.time = trace.sampleInterval;
+  stored.droppedSamples = trace.droppedSamples;
+  stored.waveKind = trace.waveKind;
+  stored.delay = trace.delay;
+  stored.source = trace.sourcePosition;
+  stored.receiver = trace.receiverPosition;
+  if (!withSamples) return stored;
+  stored.TAB = trace.samples;
+  stored.TAB_DX = trace.samplesDX;
+  stored.TAB_SX = trace.samplesSX;
+  return stored;
+}
+
+/// One trace at a time: the samples of a survey exist once in memory and no more.
+void putTraceSets(XmlWriter& writer, const TomoDocument& document,
+                  const std::vector<bool>& withSamples) {
+  xml::Output output(writer);
+  writer.beginSequence("traceSet");
+  for (std::size_t set = 0; set < document.traceSets.size(); ++set) {
+    const bool full = set < withSamples.size() && withSamples[set];
+    writer.beginSequence(nullptr);
+    for (const Trace& trace : document.traceSets[set]) {
+      output.put(nullptr, storedTrace(trace, full));
+    }
+    writer.end();
+  }
+  writer.end();
+}
+
+void putFiltered(XmlWriter& writer, const TomoDocument& document) {
+  xml::Output output(writer);
+  writer.beginSequence("filtered");
+  for (const TraceSet& traces : document.traceSets) {
+    writer.beginSequence(nullptr);
+    for (const Trace& trace : traces) output.put(nullptr, trace.filtered);
+    writer.end();
+  }
+  writer.end();
+}
+
+}  // namespace
+
+std::string bareName(const std::string& path) {
+  return path.substr(path.find_last_of("/\\") + 1);
+}
+
+int writeSurvey(const std::string& path, const TomoDocument& document,
+                const SectionViewSettings& section) {
+  return writeMember(path, "TomoDocument", [&](XmlWriter& writer) {
+    xml::Output output(writer);
+    SectionViewSettings view = section;
+    describeSurvey(output, const_cast<TomoDocument&>(document), view);
+  });
+}
+
+int writeGrid(const std::string& path, const TomoDocument& document) {
+  return writeMember(path, "Grid", [&](XmlWriter& writer) {
+    GridMember member;
+    if (const Grid* grid = document.grid.get()) {
+      member.righe = grid->righe();
+      member.col = grid->col();
+      member.nV = grid->nV();
+      member.aLato = grid->aLato();
+      member.velocities = grid->velocities();
+      for (std::uint32_t c = 0; c < grid->cellCount(); ++c)
+        member.toBeDraw.push_back(grid->draw(c));
+    }
+    xml::Output output(writer);
+    describe(output, member);
+  });
+}
+
+int writeTraces(const std::string& path, const TomoDocument& document,
+                const std::vector<bool>& withSamples) {
+  return writeMember(path, "Traces", [&](XmlWriter& writer) {
+    xml::Output output(writer);
+    output.put("filenames", bareNames(document.filenames));
+    output.put("filenames_DX", bareNames(document.filenames_DX));
+    output.put("filenames_SX", bareNames(document.filenames_SX));
+    output.put("wave_type", document.waveType);
+    output.put("shot_pos", document.shotPositions);
+    putTraceSets(writer, document, withSamples);
+    putFiltered(writer, document);
+  });
+}
+
+int writeRefraction(const std::string& path,
+                    const refractionDataStructure::Interpretation& interpretation) {
+  return writeMember(path, "Refraction data", [&](XmlWriter& writer) {
+    xml::Output output(writer);
+    describe(output, const_cast<refractionDataStructure::Interpretation&>(interpretation));
+  });
+}
+
+}  // namespace talvesk

@@ -1,0 +1,66 @@
+#include "base/AtomicFile.h"
+#include "base/Console.h"
+#include "io/PaletteArchive.inl"
+#include "io/ProjectMembers.h"
+#include "io/XmlShape.h"
+
+#include <exception>
+#include <fstream>
+#include <ostream>
+#include <sstream>
+
+namespace talvesk {
+namespace {
+
+/// Some hundred palettes of as many stops as there may be.
+constexpr std::size_t kLargestMember = std::size_t{1} << 22;
+constexpr std::size_t kMostLevels = 16;
+
+int failWriting(const std::string& path) {
+  console::error() << "[ERROR] Error in opening " << path << "." << std::endl
+                   << "[ERROR] Palettes cannot be stored on disk." << std::endl;
+  return 1;
+}
+
+int failReading(const std::string& reason, std::string& why) {
+  why = std::string(kPalettesMember) + ": " + reason;
+  console::error() << "[ERROR] Palettes cannot be read from disk." << std::endl;
+  return 1;
+}
+
+}  // namespace
+
+int writePalettes(const std::string& path, const ColorPaletteList& palettes) {
+  std::ofstream stream(path, std::ios::binary);
+  if (!stream.is_open()) return failWriting(path);
+  stream.imbue(std::locale::classic());
+  try {
+    cereal::XMLOutputArchive archive(stream);
+    save(archive, palettes);
+  } catch (const std::exception&) {
+    return failWriting(path);
+  }  // the archive writes its text as it goes out of scope
+  stream.close();
+  return stream.good() ? 0 : failWriting(path);
+}
+
+int readPalettes(const std::string& path, ColorPaletteList& palettes, std::string& why) {
+  std::string text;
+  if (const Status status = readWholeFile(path, text, kLargestMember); !status.ok()) {
+    console::error() << "[ERROR] Error in opening " << path << "." << std::endl;
+    return failReading(status.message(), why);
+  }
+  if (const Status shape = checkXmlShape(text, kPalettesMember, kMostLevels); !shape.ok()) {
+    return failReading(shape.message(), why);
+  }
+  try {
+    std::istringstream stream(std::move(text));
+    cereal::XMLInputArchive archive(stream);
+    load(archive, palettes);
+    return 0;
+  } catch (const std::exception& error) {
+    return failReading(error.what(), why);
+  }
+}
+
+}  // namespace talvesk

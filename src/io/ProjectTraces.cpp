@@ -1,0 +1,233 @@
+#include "base/Console.h"
+#include "io/ProjectAssembly.h"
+#include "io/ShotFile.h"
+#include "io/ShotLoader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ostream>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+std::string entryOf(const std::vector<std::string>& list, std::size_t i) {
+  return i < list.size() ? list[i] : std::string();
+}
+
+bool namesFile(const std::string& name) {
+  return !name.empty() && name != "." && name != ".." && name == bareName(name);
+}
+
+Status readOne(const std::string& folder, const std::string& name, SegyState& state,
+               TraceSet& traces) {
+  if (!namesFile(name)) return Status::failure("\"" + name + "\" is no name of a file");
+  ShotFileData data;
+  const Status status = readShotFile(folder + name, state, data);
+  if (status.ok()) traces = traceSetOf(std::move(data));
+  return status;
+}
+
+/// Difference of the two polarities, over the length of the first.
+void subtract(Trace& trace, std::vector<double> sx) {
+  trace.waveKind = Trace::kSWavePair;
+  trace.samplesDX = trace.samples;
+  trace.samplesSX = std::move(sx);
+  const std::size_t both = std::min(trace.samples.size(), trace.samplesSX.size());
+  for (std::size_t i = 0; i < both; ++i) trace.samples[i] -= trace.samplesSX[i];
+}
+
+/// What the record of a trace knows better than its shot file, or alone.
+void place(const StoredTrace& stored, Trace& trace) {
+  if (std::isfinite(stored.time) && stored.time >= 0.0) trace.sampleInterval = stored.time;
+  trace.droppedSamples = static_cast<std::size_t>(stored.droppedSamples);
+  if (!stored.hasPlace) return;
+  trace.waveKind = stored.waveKind;
+  trace.delay = stored.delay;
+  trace.sourcePosition = stored.source;
+  trace.receiverPosition = stored.receiver;
+}
+
+/// The traces of the member alone.
+TraceSet storedSet(std::vector<StoredTrace>& stored) {
+  TraceSet traces(stored.size());
+  for (std::size_t i = 0; i < stored.size(); ++i) {
+    Trace& trace = traces[i];
+    trace.waveKind = Trace::kFromFile;
+    trace.receiverPosition.x = stored[i].pos;
+    place(stored[i], trace);
+    trace.samples = std::move(stored[i].TAB);
+    trace.samplesDX = std::move(stored[i].TAB_DX);
+    trace.samplesSX = std::move(stored[i].TAB_SX);
+    // A pair without its two recordings would be picked on nothing.
+    if (trace.waveKind == Trace::kSWavePair && trace.samplesDX.empty()) {
+      trace.waveKind = Trace::kFromFile;
+    }
+  }
+  return traces;
+}
+
+bool hasSamples(const std::vector<StoredTrace>& stored) {
+  return std::any_of(stored.begin(), stored.end(),
+                     [](const StoredTrace& trace) { return !trace.TAB.empty(); });
+}
+
+bool finitePlaces(const std::vector<StoredTrace>& stored) {
+  return std::all_of(stored.begin(), stored.end(), [](const StoredTrace& trace) {
+    return std::isfinite(trace.pos) && std::isfinite(trace.source.x) &&
+           std::isfinite(trace.source.z) && std::isfinite(trace.receiver.x) &&
+           std::isfinite(trace.receiver.z) && std::isfinite(trace.delay) && trace.delay <= 0.0;
+  });
+}
+
+/// Samples beyond every number would spoil pictures and filters.
+bool finiteSamples(const TraceSet& traces) {
+  const auto finite = [](const std::vector<double>& samples) {
+    return std::all_of(samples.begin(), samples.end(), [](double v) { return std::isfinite(v); });
+  };
+  return std::all_of(traces.begin(), traces.end(), [&](const Trace& trace) {
+    return finite(trace.samples) && finite(trace.samplesDX) && finite(trace.samplesSX) &&
+           finite(trace.filtered);
+  });
+}
+
+Status installFiltered(TracesMember& member, std::size_t set, TraceSet& traces) {
+  if (set >= member.filtered.size()) return {};
+  std::vector<std::vector<double>>& copies = member.filtered[set];
+  if (copies.empty()) return {};
+  if (copies.size() != traces.size()) {
+    return Status::failure("trace set " + std::to_string(set) + " has " +
+                           std::to_string(traces.size()) + " traces, but " +
+                           std::to_string(copies.size()) + " filtered copies");
+  }
+  for (std::size_t i = 0; i < traces.size(); ++i) traces[i].filtered = std::move(copies[i]);
+  return {};
+}
+
+/// One set, from its record or its files.
+TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<StoredTrace>& stored,
+               SegyState& state, std::vector<std::string>& warnings) {
+  if (hasSamples(stored) || names.none()) return storedSet(stored);
+  TraceSet traces;
+  std::string why;
+  bool read = readSetFiles(folder, names, state, traces, why);
+  if (read && traces.size() != stored.size()) {
+    why = (names.isPair() ? names.dx : names.main) + " has " + std::to_string(traces.size()) +
+          " traces instead of " + std::to_string(stored.size());
+    read = false;
+  }
+  if (!read) {
+    console::error() << "Error while loading traces: Invalid file format." << std::endl;
+    warnings.push_back(why);
+    return storedSet(stored);
+  }
+  for (std::size_t i = 0; i < traces.size(); ++i) {
+    place(stored[i], traces[i]);
+    dropSamples(traces[i], traces[i].droppedSamples);
+  }
+  return traces;
+}
+
+/// One record per set, in their order, each with a time for every trace.
+Status matchRecords(TomoDocument& document) {
+  if (document.traceSets.empty()) return {};
+  std::vector<TravelTime>& records = document.ttArray;
+  if (records.size() != document.traceSets.size()) {
+    return Status::failure("there are " + std::to_string(document.traceSets.size()) +
+                           " trace sets, but " + std::to_string(records.size()) +
+                           " travel-time records");
+  }
+  std::stable_sort(records.begin(), records.end(), [](const TravelTime& a, const TravelTime& b) {
+    return a.traceSetID < b.traceSetID;
+  });
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    if (records[i].traceSetID != static_cast<std::int32_t>(i)) {
+      return Status::failure("no travel-time record belongs to trace set " + std::to_string(i));
+    }
+    const std::size_t traces = document.traceSets[i].size();
+    if (records[i].ttMisurati.size() < traces) records[i].ttMisurati.resize(traces, kUnpicked);
+    records[i].ttCalcolati.resize(records[i].ttMisurati.size(), kNoTime);
+  }
+  return {};
+}
+
+std::vector<std::string> inFolder(const std::string& folder, std::vector<std::string> names) {
+  for (std::string& name : names) {
+    if (namesFile(name)) name.insert(0, folder);
+  }
+  return names;
+}
+
+}  // namespace
+
+SetFiles filesOfSet(const std::vector<std::string>& main, const std::vector<std::string>& dx,
+                    const std::vector<std::string>& sx, std::size_t set) {
+  return {entryOf(main, set), entryOf(dx, set), entryOf(sx, set)};
+}
+
+void dropSamples(Trace& trace, std::size_t count) {
+  for (auto* samples : {&trace.samples, &trace.samplesDX, &trace.samplesSX}) {
+    const auto dropped = static_cast<std::ptrdiff_t>(std::min(count, samples->size()));
+    samples->erase(samples->begin(), samples->begin() + dropped);
+  }
+}
+
+bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& state,
+                  TraceSet& traces, std::string& why) {
+  SegyState after = state;
+  TraceSet first;
+  TraceSet second;
+  Status status = readOne(folder, names.isPair() ? names.dx : names.main, after, first);
+  if (status.ok() && names.isPair()) {
+    status = readOne(folder, names.sx, after, second);
+    if (status.ok() && first.size() != second.size()) {
+      status = Status::failure(names.dx + " and " + names.sx + " have different numbers of traces");
+    }
+  }
+  why = status.message();
+  if (!status.ok()) return false;
+  for (std::size_t i = 0; i < second.size(); ++i) subtract(first[i], std::move(second[i].samples));
+  state = after;
+  traces = std::move(first);
+  return true;
+}
+
+Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,
+                     std::vector<std::string>& warnings) {
+  const std::size_t sets = member.traceSets.size();
+  if (member.waveType != WaveType::P && member.waveType != WaveType::S) {
+    return Status::failure("wave type " + std::to_string(static_cast<int>(member.waveType)) +
+                           " does not exist");
+  }
+  if (std::max({member.filenames.size(), member.filenames_DX.size(), member.filenames_SX.size(),
+                member.filtered.size()}) > sets) {
+    return Status::failure("there are more files or filtered copies than trace sets");
+  }
+  SegyState state;
+  std::vector<TraceSet> traceSets;
+  for (std::size_t set = 0; set < sets; ++set) {
+    if (!finitePlaces(member.traceSets[set])) {
+      return Status::failure("trace set " + std::to_string(set) +
+                             " has a position or delay that cannot be");
+    }
+    const SetFiles names =
+        filesOfSet(member.filenames, member.filenames_DX, member.filenames_SX, set);
+    TraceSet traces = setOf(folder, names, member.traceSets[set], state, warnings);
+    member.traceSets[set] = {};
+    if (Status status = installFiltered(member, set, traces); !status.ok()) return status;
+    if (!finiteSamples(traces)) {
+      return Status::failure("trace set " + std::to_string(set) +
+                             " has a sample that is no finite number");
+    }
+    traceSets.push_back(std::move(traces));
+  }
+  document.waveType = member.waveType;
+  document.filenames = inFolder(folder, std::move(member.filenames));
+  document.filenames_DX = inFolder(folder, std::move(member.filenames_DX));
+  document.filenames_SX = inFolder(folder, std::move(member.filenames_SX));
+  document.shotPositions = std::move(member.shotPositions);
+  document.traceSets = std::move(traceSets);
+  return matchRecords(document);
+}
+
+}  // namespace talvesk

@@ -1,0 +1,92 @@
+#include "io/SourceCopies.h"
+
+#include "base/Console.h"
+#include "io/ProjectAssembly.h"
+
+#include <filesystem>
+#include <map>
+#include <ostream>
+#include <set>
+#include <system_error>
+
+namespace talvesk {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isMember(const std::string& name) {
+  static const std::set<std::string> kMembers = {kSurveyMember, kGridMember, kTracesMember,
+                                                 kPalettesMember, kRefractionMember};
+  return kMembers.count(name) > 0 || name == "." || name == "..";
+}
+
+bool copyOver(const std::string& source, const std::string& target) {
+  std::error_code error;
+  // Reading a pipe or a device may never end.
+  if (!fs::is_regular_file(source, error)) return false;
+  return fs::copy_file(source, target, fs::copy_options::overwrite_existing, error) && !error;
+}
+
+bool sameSamples(const TraceSet& kept, TraceSet& read) {
+  if (kept.size() != read.size()) return false;
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    dropSamples(read[i], kept[i].droppedSamples);
+    if (kept[i].samples != read[i].samples || kept[i].samplesDX != read[i].samplesDX ||
+        kept[i].samplesSX != read[i].samplesSX) {
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+SourceCopies copySources(const std::vector<const std::vector<std::string>*>& lists,
+                         const std::string& folder) {
+  SourceCopies copies;
+  std::map<std::string, std::string> sourceOf;  // by bare name
+  for (const auto* list : lists) {
+    for (const std::string& source : *list) {
+      const std::string name = bareName(source);
+      if (name.empty()) continue;
+      const auto known = sourceOf.find(name);
+      if (known != sourceOf.end() && known->second == source) continue;
+      const std::string target = folder + name;
+      if (isMember(name) || !copyOver(source, target)) {
+        console::error() << "Error while saving " << source << std::endl;
+        copies.warnings.push_back("The shot file " + source +
+                                  " could not be copied; its traces are saved without it.");
+        continue;
+      }
+      if (known != sourceOf.end()) {
+        copies.warnings.push_back("Of the shot files " + known->second + " and " + source +
+                                  " only the second is in the project; the traces of both are.");
+      } else {
+        copies.files.push_back(target);
+      }
+      sourceOf[name] = source;
+    }
+  }
+  return copies;
+}
+
+std::vector<bool> setsWithoutFile(const TomoDocument& document, const std::string& folder) {
+  std::vector<bool> without(document.traceSets.size(), true);
+  SegyState state;
+  for (std::size_t set = 0; set < without.size(); ++set) {
+    SetFiles names =
+        filesOfSet(document.filenames, document.filenames_DX, document.filenames_SX, set);
+    for (std::string* name : {&names.main, &names.dx, &names.sx}) *name = bareName(*name);
+    if (names.none()) continue;
+    SegyState after = state;
+    TraceSet read;
+    std::string why;
+    if (!readSetFiles(folder, names, after, read, why)) continue;
+    if (!sameSamples(document.traceSets[set], read)) continue;
+    without[set] = false;
+    state = after;
+  }
+  return without;
+}
+
+}  // namespace talvesk

@@ -1,0 +1,89 @@
+#include "io/TemporaryFolder.h"
+
+#include <QLockFile>
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include <sys/stat.h>
+
+namespace talvesk {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isDecimal(const std::string& name) {
+  const std::size_t first = !name.empty() && name.front() == '-' ? 1 : 0;
+  return name.size() > first &&
+         std::all_of(name.begin() + static_cast<std::ptrdiff_t>(first), name.end(),
+                     [](char c) { return c >= '0' && c <= '9'; });
+}
+
+long long millisecondsNow() {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(
+             std::chrono::system_clock::now().time_since_epoch())
+      .count();
+}
+
+}  // namespace
+
+struct TemporaryFolder::Lock {
+  /// \param folder without a slash at its end
+  explicit Lock(const std::string& folder) : file(QString::fromStdString(folder + ".lock")) {
+    // Only the end of its process makes a lock void, not its age: a project may be open for days.
+    file.setStaleLockTime(0);
+  }
+  bool take() { return file.tryLock(0); }
+
+  QLockFile file;
+};
+
+TemporaryFolder::TemporaryFolder(std::string path, std::unique_ptr<Lock> lock)
+    : mPath(std::move(path)), mLock(std::move(lock)) {}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  fs::remove_all(mPath.substr(0, mPath.size() - 1), ignored);
+}
+
+std::unique_ptr<TemporaryFolder> TemporaryFolder::create(const std::string& workingFolder) {
+  constexpr int kMostTries = 100;  // two saves within a millisecond take the next free names
+  const long long now = millisecondsNow();
+  for (int i = 0; i < kMostTries; ++i) {
+    const std::string path = workingFolder + std::to_string(now + i);
+    auto lock = std::make_unique<Lock>(path);
+    if (!lock->take()) {
+      if (lock->file.error() == QLockFile::LockFailedError) continue;  // somebody else's
+      return nullptr;
+    }
+    if (::mkdir(path.c_str(), S_IRWXU) == 0) {
+      return std::unique_ptr<TemporaryFolder>(new TemporaryFolder(path + "/", std::move(lock)));
+    }
+    if (errno != EEXIST) return nullptr;
+  }
+  return nullptr;
+}
+
+void TemporaryFolder::clear(const std::string& workingFolder) {
+  std::error_code error;
+  std::vector<fs::path> folders;
+  for (fs::directory_iterator entry(workingFolder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    // A lock without its folder is left by a process that died in between.
+    const bool isLock = entry->path().extension() == ".lock";
+    const fs::path folder = isLock ? fs::path(entry->path()).replace_extension() : entry->path();
+    const bool isFolder = isLock || fs::is_directory(entry->symlink_status());
+    if (isFolder && isDecimal(folder.filename().string())) folders.push_back(folder);
+  }
+  for (const fs::path& folder : folders) {
+    Lock lock(folder.string());
+    std::error_code ignored;
+    if (lock.take() && !fs::is_symlink(folder, ignored)) fs::remove_all(folder, ignored);
+  }
+}
+
+}  // namespace talvesk

@@ -1,0 +1,130 @@
+#include "io/projectReader.h"
+
+#include "base/Console.h"
+#include "io/ProjectAssembly.h"
+#include "io/ProjectZip.h"
+
+#include <exception>
+#include <filesystem>
+#include <ostream>
+#include <system_error>
+#include <utility>
+
+namespace talvesk {
+
+int projectReader::fail(const std::string& message) {
+  mError = true;
+  if (mMessage.empty()) mMessage = message;  // the first reason is the one that matters
+  return 1;
+}
+
+bool projectReader::step(int result, void (projectReader::*done)(),
+                         void (projectReader::*failed)()) {
+  emit(this->*(result == 0 ? done : failed))();
+  if (result != 0) mError = true;
+  return result == 0;
+}
+
+int projectReader::read_ZIP(const std::string& archive, const std::string& folder) {
+  return readZip(archive, folder);
+}
+
+int projectReader::readTomoDocument_XML(const std::string& path, SurveyMember& survey) {
+  std::string why;
+  if (readSurvey(path, survey, why) != 0) return fail(why);
+  const Status status = checkSurvey(survey);
+  return status.ok() ? 0 : fail(std::string(kSurveyMember) + ": " + status.message());
+}
+
+int projectReader::readTomoDocumentGrid_XML(const std::string& path, SurveyMember& survey) {
+  std::string why;
+  GridMember grid;
+  if (readGrid(path, grid, why) != 0) return fail(why);
+  const Status status = installGrid(grid, survey);
+  return status.ok() ? 0 : fail(std::string(kGridMember) + ": " + status.message());
+}
+
+int projectReader::readTomoDocumentTraces_XML(const std::string& path, TomoDocument& document) {
+  std::string why;
+  TracesMember traces;
+  if (readTraces(path, traces, why) != 0) return fail(why);
+  const std::string folder = path.substr(0, path.size() - bareName(path).size());
+  const Status status = installTraces(std::move(traces), folder, document, mWarnings);
+  return status.ok() ? 0 : fail(std::string(kTracesMember) + ": " + status.message());
+}
+
+int projectReader::readPalettes_XML(const std::string& path, ColorPaletteList& palettes) {
+  std::string why;
+  return readPalettes(path, palettes, why) == 0 ? 0 : fail(why);
+}
+
+int projectReader::readRefraction_XML(const std::string& path, const TomoDocument& document,
+                                      refractionDataStructure::Interpretation& interpretation) {
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) return 0;  // projects of earlier versions
+  std::string why;
+  if (readRefraction(path, interpretation, why) != 0) return fail(why);
+  const Status status = checkInterpretation(document, interpretation);
+  return status.ok() ? 0 : fail(std::string(kRefractionMember) + ": " + status.message());
+}
+
+bool projectReader::readMembers(const std::string& folder, LoadedProject& project) {
+  SurveyMember survey;
+  // Whatever fails, the others are read, so that all that is wrong with a project is told at once;
+  // but grid and traces mean nothing without the survey.
+  const bool hasSurvey = step(readTomoDocument_XML(folder + kSurveyMember, survey),
+                              &projectReader::read_tomo_xml, &projectReader::error_read_tomo_xml);
+  step(hasSurvey ? readTomoDocumentGrid_XML(folder + kGridMember, survey) : 1,
+       &projectReader::read_grid, &projectReader::error_read_grid);
+  const bool hasTraces =
+      step(hasSurvey ? readTomoDocumentTraces_XML(folder + kTracesMember, survey.document) : 1,
+           &projectReader::read_traces, &projectReader::error_read_traces);
+  mTracesFailed = hasSurvey && !hasTraces;
+  step(readPalettes_XML(folder + kPalettesMember, project.palettes), &projectReader::read_palettes,
+       &projectReader::error_read_palettes);
+  if (hasSurvey && hasTraces) {
+    readRefraction_XML(folder + kRefractionMember, survey.document, project.interpretation);
+  }
+  project.document = std::move(survey.document);
+  project.section = survey.section;
+  project.document.modified = false;
+  return !mError;
+}
+
+int projectReader::loadInto(const std::string& archive, const std::string& workingFolder,
+                            LoadedProject& project) {
+  TemporaryFolder::clear(workingFolder);
+  project.folder = TemporaryFolder::create(workingFolder);
+  if (project.folder == nullptr) {
+    console::error() << "ERROR: Impossible to save!" << std::endl;
+    return fail("No temporary folder can be created in " + workingFolder + ".");
+  }
+  if (read_ZIP(archive, project.folder->path()) != 0) {
+    console::error() << "[ERROR] While extracting " << archive << std::endl;
+    mError = true;
+    emit error_read_compressed();
+    return fail(
+        "It cannot be extracted: it is no archive of a project, it is damaged, or there is "
+        "no room on the disk for it.");
+  }
+  emit read_compressed();
+  return readMembers(project.folder->path(), project) ? 0 : 1;
+}
+
+int projectReader::load(const std::string& archive, const std::string& workingFolder,
+                        LoadedProject& project) {
+  mError = false;
+  mTracesFailed = false;
+  mMessage.clear();
+  mWarnings.clear();
+  try {
+    LoadedProject fresh;
+    if (loadInto(archive, workingFolder, fresh) != 0) return 1;
+    project = std::move(fresh);
+    return 0;
+  } catch (const std::exception& error) {
+    return fail(std::string("It cannot be loaded: ") + error.what());
+  }
+}
+
+}  // namespace talvesk

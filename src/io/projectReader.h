@@ -1,0 +1,78 @@
+#pragma once
+
+#include "io/ProjectMembers.h"
+#include "io/TemporaryFolder.h"
+
+#include <QObject>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace talvesk {
+
+struct SurveyMember;
+
+/// What a project file holds, ready for work.
+struct LoadedProject {
+  TomoDocument document;
+  refractionDataStructure::Interpretation interpretation;
+  ColorPaletteList palettes;
+  SectionViewSettings section;
+  /// Where the shot files lie that the document names. They are gone with the last owner, so it
+  /// stays as long as the document does.
+  SharedFolder folder;
+};
+
+/// Loads a project, all of it or nothing. Runs on any thread.
+///
+/// Rays and computed times are not in a project; see recomputeRays(). The computed times are those
+/// that were saved until then.
+class projectReader : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Deletes the temporary folders of earlier loads that nobody uses any more, extracts the archive
+  /// into a new one and reads its members. 0, or 1 and `project` as before.
+  int load(const std::string& archive, const std::string& workingFolder, LoadedProject& project);
+
+  bool hasError() const { return mError; }                 ///< of the last load
+  const std::string& message() const { return mMessage; }  ///< why it failed
+  bool tracesFailed() const { return mTracesFailed; }
+  /// Shot files whose traces are empty now, of a load that succeeded.
+  const std::vector<std::string>& warnings() const { return mWarnings; }
+
+  // The steps. Each returns 0 or 1. They are virtual so that tests can make each of them fail.
+  virtual int read_ZIP(const std::string& archive, const std::string& folder);
+  virtual int readTomoDocument_XML(const std::string& path, SurveyMember& survey);
+  virtual int readTomoDocumentGrid_XML(const std::string& path, SurveyMember& survey);
+  virtual int readTomoDocumentTraces_XML(const std::string& path, TomoDocument& document);
+  virtual int readPalettes_XML(const std::string& path, ColorPaletteList& palettes);
+  virtual int readRefraction_XML(const std::string& path, const TomoDocument& document,
+                                 refractionDataStructure::Interpretation& interpretation);
+
+ signals:
+  void read_compressed();
+  void read_tomo_xml();
+  void read_grid();
+  void read_traces();
+  void read_palettes();
+  void error_read_compressed();
+  void error_read_tomo_xml();
+  void error_read_grid();
+  void error_read_traces();
+  void error_read_palettes();
+
+ private:
+  int fail(const std::string& message);
+  bool step(int result, void (projectReader::*done)(), void (projectReader::*failed)());
+  bool readMembers(const std::string& folder, LoadedProject& project);
+  int loadInto(const std::string& archive, const std::string& workingFolder,
+               LoadedProject& project);
+
+  bool mError = false;
+  bool mTracesFailed = false;
+  std::string mMessage;
+  std::vector<std::string> mWarnings;
+};
+
+}  // namespace talvesk

@@ -1,0 +1,316 @@
+#include "processing/ShotTime.h"
+#include "support/TestProjects.h"
+#include "tomo/RayRecomputation.h"
+#include "tomo/TomographyRun.h"
+
+#include <gmock/gmock.h>
+
+namespace talvesk {
+namespace {
+
+using namespace talvesk::testing;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::SizeIs;
+
+void invert(TomoDocument& document) {
+  putGrid(document, 12, 1.5);
+  Log log;
+  TomographyParameters parameters;
+  parameters.externalIterations = 2;
+  ASSERT_TRUE(runInversion(document, parameters, log).status.ok());
+}
+
+void interpret(LoadedProject& project) {
+  auto& records = project.interpretation;
+  for (std::uint32_t shot = 0; shot < 3; ++shot) {
+    records.ttLayer.push_back({shot, {1, 1, 2, 2, 3, 0}, {0, 0, 0.001, 0, -0.002, 0}, shot != 1});
+  }
+  refractionDataStructure::phantom curve;
+  curve.layer = 2;
+  curve.shotID = 0;
+  curve.points = {{0, 100}, {5, 100}};
+  curve.times = {0.01, -1};
+  curve.enabled = {true, false};
+  curve.slope = 1.0 / 1500;
+  curve.reciprocalTime = 0.033;
+  records.phnt_A = {curve};
+  records.phnt_R = {curve};
+  refractionDataStructure::computedData data;
+  data.x = {0, 5};
+  data.tG = {0.002, 0.003};
+  data.tV = {0.001, 0.004};
+  data.tGs.assign(18, 0.5);
+  data.tVs.assign(18, 0.25);
+  data.chosenXY = 2.0;
+  data.velocity = {1500, 1510};
+  data.depth = {3, 3.1};
+  data.elevation = {100, 100};
+  records.refractData = {{data}, 400, {1500, 1510}, {}};
+}
+
+TEST_F(ProjectTest, comesBackAsItWasSaved) {
+  TomoDocument& document = project.document;
+  countTimeFromShot(document);
+  for (Trace& trace : document.traceSets[1]) trace.filtered = trace.samples;
+  document.traceSets[1][2].filtered[3] = 0.1;
+  document.title = "Strada <Nord> & Süd ";
+  document.geoCoord = {32632, 500000.25, 500100, 5000000, 5000001};
+  document.geoCoordIsSet = true;
+  document.minVelocity = 300;
+  document.layers = {{0, 300, 5, 900}};
+  invert(document);
+  interpret(project);
+  project.palettes.select(3);
+  project.section.quantity = SectionQuantity::kLaplacian;
+  project.section.contours.customValues = {400, 800};
+  project.section.contours.customized = true;
+  ASSERT_EQ(save(), 0) << console.error();
+  EXPECT_THAT(writer.warnings(), IsEmpty());
+
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.warnings(), IsEmpty());
+  EXPECT_FALSE(back.document.modified);
+  EXPECT_EQ(back.document.title, document.title);
+  EXPECT_EQ(back.document.geoCoord.CRS, 32632);
+  ASSERT_THAT(back.document.traceSets, SizeIs(3));
+  const Trace& trace = back.document.traceSets[1][2];
+  EXPECT_EQ(trace.samples, document.traceSets[1][2].samples);
+  EXPECT_EQ(trace.droppedSamples, 2U);
+  EXPECT_EQ(trace.delay, -0.002);
+  EXPECT_EQ(trace.filtered, document.traceSets[1][2].filtered);
+  EXPECT_THAT(back.document.traceSets[0][0].filtered, IsEmpty());
+  EXPECT_EQ(back.document.ttArray[2].ttMisurati, document.ttArray[2].ttMisurati);
+  EXPECT_EQ(back.document.ttArray[2].ttCalcolati, document.ttArray[2].ttCalcolati);
+  ASSERT_NE(back.document.grid, nullptr);
+  EXPECT_EQ(back.document.grid->velocities(), document.grid->velocities());
+  EXPECT_EQ(back.document.xOffset, document.xOffset);
+  EXPECT_EQ(back.document.surface.Y(), document.surface.Y());
+  EXPECT_EQ(back.document.info_density, document.info_density);
+  EXPECT_EQ(back.document.coverageLimit.size(), document.coverageLimit.size());
+  EXPECT_EQ(back.document.coverageSpline.has_value(), document.coverageSpline.has_value());
+  EXPECT_TRUE(back.document.hasTomographicInfo);
+  EXPECT_EQ(back.interpretation.ttLayer[1].layer, project.interpretation.ttLayer[1].layer);
+  EXPECT_FALSE(back.interpretation.ttLayer[1].enabled);
+  EXPECT_EQ(back.interpretation.refractData.cData[0].chosenXY, 2.0);
+  EXPECT_EQ(back.interpretation.phnt_A[0].enabled, project.interpretation.phnt_A[0].enabled);
+  EXPECT_EQ(back.palettes.currentIndex(), 3U);
+  EXPECT_EQ(back.section.quantity, SectionQuantity::kLaplacian);
+  EXPECT_THAT(back.section.contours.customValues, ElementsAre(400, 800));
+}
+
+TEST_F(ProjectTest, isTheSameByteForByteAfterLoadingAndSavingAgain) {
+  countTimeFromShot(project.document);
+  for (Trace& trace : project.document.traceSets[0]) trace.filtered = trace.samples;
+  invert(project.document);
+  interpret(project);
+  ASSERT_EQ(save(), 0);
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
+  const auto first = entriesOf(archive());
+  EXPECT_EQ(entriesOf(folder.file("again.tvsk")), first);
+  EXPECT_THAT(first, SizeIs(8));
+  EXPECT_THAT(first.at("traces.xml"), HasSubstr("<TAB size=\"dynamic\"/>"));
+  EXPECT_EQ(first.at("2.dat"), TestFolder::get(shots[1]));
+}
+
+TEST_F(ProjectTest, hasItsRaysAgainAfterOneForwardPass) {
+  invert(project.document);
+  ASSERT_EQ(save(), 0);
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0);
+  EXPECT_THAT(back.document.rays, IsEmpty());
+  Log log;
+  ASSERT_TRUE(recomputeRays(back.document, log).ok());
+  ASSERT_TRUE(recomputeRays(project.document, log).ok());
+  EXPECT_EQ(back.document.rays.size(), project.document.rays.size());
+}
+
+TEST_F(ProjectTest, ofPicksAloneNeedsNoTraces) {
+  LoadedProject picks;
+  picks.document = testLine(8, 5, {0, 20});
+  ASSERT_EQ(save(archive(), picks), 0);
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(back.document.ttArray, SizeIs(2));
+  EXPECT_EQ(back.document.grid, nullptr);
+}
+
+TEST_F(ProjectTest, tellsWhatItWritesAndExtracts) {
+  ASSERT_EQ(save(), 0);
+  EXPECT_THAT(console.out(), HasSubstr("ProjectWriter::saveTomoDocument_XML\n"
+                                       "ProjectWriter::saveTomoDocumentGrid_XML\n"
+                                       "ProjectWriter::saveTomoDocumentTraces_XML\n"));
+  EXPECT_THAT(console.out(), HasSubstr("ProjectWriter::savePalettes_XML\n"
+                                       "ProjectWriter::saveRefraction_XML\n"
+                                       "ProjectWriter::compress_project\n"));
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0);
+  EXPECT_THAT(console.out(),
+              HasSubstr("extract [ tomodoc.xml ] in [ " + back.folder->path() + " ]\n"));
+}
+
+TEST_F(ProjectTest, keepsTheSamplesOfAFileThatVanishedOrChanged) {
+  QFile::remove(QString::fromStdString(shots[0]));
+  folder.put("2.dat", projectShot(12.5, 5));
+  const TraceSet vanished = project.document.traceSets[0];
+  const TraceSet changed = project.document.traceSets[1];
+  ASSERT_EQ(save(), 0);
+  EXPECT_THAT(console.error(), HasSubstr("Error while saving " + shots[0] + "\n"));
+  EXPECT_THAT(writer.warnings(), ElementsAre(HasSubstr(shots[0])));
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  for (std::size_t i = 0; i < vanished.size(); ++i) {
+    EXPECT_EQ(back.document.traceSets[0][i].samples, vanished[i].samples);
+    EXPECT_EQ(back.document.traceSets[0][i].receiverPosition, vanished[i].receiverPosition);
+    EXPECT_EQ(back.document.traceSets[0][i].delay, vanished[i].delay);
+    EXPECT_EQ(back.document.traceSets[1][i].samples, changed[i].samples);
+  }
+}
+
+TEST_F(ProjectTest, keepsTheSamplesOfTwoFilesOfOneName) {
+  QDir(QString::fromStdString(folder.path())).mkdir(QStringLiteral("day2"));
+  const std::string other = folder.put("day2/1.dat", projectShot(40, 9));
+  ShotLoader().load({other}, project.document);
+  ASSERT_EQ(save(), 0);
+  EXPECT_THAT(writer.warnings(), ElementsAre(HasSubstr(shots[0] + " and " + other)));
+  EXPECT_THAT(entriesOf(archive()), SizeIs(8));
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_EQ(back.document.traceSets[0][1].samples, project.document.traceSets[0][1].samples);
+  EXPECT_EQ(back.document.traceSets[3][1].samples, project.document.traceSets[3][1].samples);
+}
+
+TEST_F(ProjectTest, bringsPairsOfPolaritiesBackAsTheirDifference) {
+  LoadedProject pairs;
+  TomoDocument dx, sx;
+  ShotLoader().load({shots[0], shots[1]}, dx);
+  ShotLoader().load({shots[1], shots[2]}, sx);
+  pairs.document = std::move(dx);
+  pairs.document.filenames_DX = std::move(pairs.document.filenames);
+  pairs.document.filenames_SX = sx.filenames;
+  pairs.document.filenames = {};
+  pairs.document.waveType = WaveType::S;
+  for (std::size_t set = 0; set < 2; ++set) {
+    for (std::size_t i = 0; i < 6; ++i) {
+      Trace& trace = pairs.document.traceSets[set][i];
+      trace.waveKind = Trace::kSWavePair;
+      trace.samplesDX = trace.samples;
+      trace.samplesSX = sx.traceSets[set][i].samples;
+      for (std::size_t s = 0; s < 40; ++s) trace.samples[s] -= trace.samplesSX[s];
+    }
+  }
+  for (const bool filesThere : {true, false}) {
+    if (!filesThere) QFile::remove(QString::fromStdString(shots[2]));
+    ASSERT_EQ(save(archive(), pairs), 0);
+    LoadedProject back;
+    ASSERT_EQ(load(archive(), back), 0) << reader.message();
+    EXPECT_EQ(back.document.waveType, WaveType::S);
+    const Trace& trace = back.document.traceSets[1][4];
+    EXPECT_EQ(trace.waveKind, Trace::kSWavePair);
+    EXPECT_EQ(trace.samples, pairs.document.traceSets[1][4].samples) << filesThere;
+    EXPECT_EQ(trace.samplesDX, pairs.document.traceSets[1][4].samplesDX);
+    EXPECT_EQ(trace.samplesSX, pairs.document.traceSets[1][4].samplesSX);
+  }
+}
+
+TEST_F(ProjectTest, leavesTracesEmptyWhoseFileIsNotInTheArchive) {
+  ASSERT_EQ(save(), 0);
+  auto entries = entriesOf(archive());
+  entries.erase("2.dat");
+  entries["3.dat"] = "no shot file";
+  LoadedProject back;
+  ASSERT_EQ(load(pack("poor.tvsk", entries), back), 0);
+  EXPECT_THAT(reader.warnings(), SizeIs(2));
+  EXPECT_THAT(console.error(), HasSubstr("Error while loading traces: Invalid file format.\n"));
+  ASSERT_THAT(back.document.traceSets[1], SizeIs(6));
+  EXPECT_THAT(back.document.traceSets[1][0].samples, IsEmpty());
+  EXPECT_EQ(back.document.traceSets[1][5].receiverPosition, (Point2D{25, 100}));
+  EXPECT_THAT(back.document.traceSets[0][0].samples, SizeIs(40));
+}
+
+struct OldElement {
+  const char* element;
+  const char* message;
+};
+
+class OldProject : public ProjectTest, public ::testing::WithParamInterface<OldElement> {};
+
+TEST_P(OldProject, loadsWithItsDefaultAndSaysSo) {
+  invert(project.document);
+  project.document.title = "Title";
+  ASSERT_EQ(save(), 0);
+  auto entries = entriesOf(archive());
+  std::string& member =
+      entries[entries["tomodoc.xml"].find(GetParam().element) == std::string::npos ? "traces.xml"
+                                                                                   : "tomodoc.xml"];
+  member = without(member, GetParam().element);
+  LoadedProject back;
+  ASSERT_EQ(load(pack("old.tvsk", entries), back), 0) << reader.message();
+  EXPECT_THAT(console.out() + console.error(), HasSubstr(std::string(GetParam().message) + "\n"));
+  const TomoDocument& document = back.document;
+  const std::string element = GetParam().element;
+  EXPECT_EQ(document.hasTomographicInfo, element != "has_tomographic_info");
+  EXPECT_EQ(document.RMSE_tomography < 0, element == "RMSE_tomography");
+  EXPECT_EQ(document.title, element == "title" ? "" : "Title");
+  EXPECT_THAT(document.info_density, SizeIs(document.grid->cellCount()));
+  if (element == "info_density") {
+    EXPECT_EQ(document.info_density, std::vector<double>(document.grid->cellCount(), 1.0));
+  }
+  EXPECT_FALSE(document.geoCoordIsSet);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Elements, OldProject,
+    ::testing::Values(
+        OldElement{"has_tomographic_info",
+                   "Flag [has_tomographic_info] unknown. Set to FALSE by default."},
+        OldElement{"geoCoord", "Variable [geoCoord] unknown. Set to  default."},
+        OldElement{"geoCoord_isSet", "Variable [geoCoord_isSet] unknown. Set to  default."},
+        OldElement{"RMSE_tomography", "Variable [RMSE_tomography] unknown. Set to  default."},
+        OldElement{"info_density", "Variable [info_density] unknown. Set to  default."},
+        OldElement{"title", "Variable [info_density] unknown. Set to  default."},
+        OldElement{"CRS", " CRS not set"},
+        OldElement{"filenames_DX",
+                   "[No DX and SX filenames.] This is a project saved before "
+                   "version 2019.1"},
+        OldElement{"filtered",
+                   "[No filtered traces] This is a project saved before version 2019.1"}));
+
+TEST_F(ProjectTest, ofAnEarlierVersionHasNeitherNewElementsNorRefraction) {
+  invert(project.document);
+  ASSERT_EQ(save(), 0);
+  auto entries = entriesOf(archive());
+  for (const char* later : {"min_velocity", "max_velocity", "layers", "proposed_cell_sizes",
+                            "coverage_limit", "section_view"}) {
+    entries["tomodoc.xml"] = without(entries["tomodoc.xml"], later);
+  }
+  entries.erase("refraction.xml");
+  LoadedProject back;
+  ASSERT_EQ(load(pack("old.tvsk", entries), back), 0) << reader.message();
+  // The limit can be told from the cells that are drawn.
+  ASSERT_EQ(back.document.coverageLimit.size(), project.document.coverageLimit.size());
+  EXPECT_EQ(back.document.coverageLimit.front(), project.document.coverageLimit.front());
+  EXPECT_EQ(back.document.maxVelocity, 3500.0);
+}
+
+TEST_F(ProjectTest, keepsItsShotFilesAsLongAsItIsOpen) {
+  ASSERT_EQ(save(), 0);
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0);
+  const std::string extracted = back.folder->path();
+  LoadedProject other;
+  ASSERT_EQ(load(archive(), other), 0);
+  EXPECT_TRUE(QFile::exists(QString::fromStdString(extracted + "1.dat")));
+  back = std::move(other);
+  EXPECT_FALSE(QFile::exists(QString::fromStdString(extracted)));
+  back = {};
+  EXPECT_THAT(leftovers(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace talvesk
