@@ -169,11 +169,11 @@ Status checkSurvey(SurveyMember& member) {
     }
   }
   for (TravelTime& record : document.ttArray) {
-    const auto string = static_cast<std::size_t>(record.indexStesa);
-    if (record.indexStesa < 0 || string >= document.goephonesStringSet.size()) {
+    // -1 is a shot that no string recorded.
+    const auto strings = static_cast<std::int64_t>(document.goephonesStringSet.size());
+    if (record.indexStesa < -1 || record.indexStesa >= strings) {
       return Status::failure("a shot was recorded by geophone string " +
-                             std::to_string(record.indexStesa) + " of " +
-                             std::to_string(document.goephonesStringSet.size()));
+                             std::to_string(record.indexStesa) + " of " + std::to_string(strings));
     }
     if (!plausible(record.shotPos2d)) return Status::failure("a shot has no place");
     if (record.traceSetID < 0) return Status::failure("a shot has trace set -1");

@@ -2,6 +2,7 @@
 #include "io/ProjectAssembly.h"
 #include "io/ShotFile.h"
 #include "io/ShotLoader.h"
+#include "model/SWavePair.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,13 +29,12 @@ Status readOne(const std::string& folder, const std::string& name, SegyState& st
   return status;
 }
 
-/// Difference of the two polarities, over the length of the first.
-void subtract(Trace& trace, std::vector<double> sx) {
-  trace.waveKind = Trace::kSWavePair;
-  trace.samplesDX = trace.samples;
-  trace.samplesSX = std::move(sx);
-  const std::size_t both = std::min(trace.samples.size(), trace.samplesSX.size());
-  for (std::size_t i = 0; i < both; ++i) trace.samples[i] -= trace.samplesSX[i];
+/// One trace of the recordings with the source struck either way.
+void join(Trace& dx, Trace& sx) {
+  dx.waveKind = Trace::kSWavePair;
+  dx.samplesDX = std::move(dx.samples);
+  dx.samplesSX = std::move(sx.samples);
+  subtractRecordings(dx);
 }
 
 /// What the record of a trace knows better than its shot file, or alone.
@@ -186,7 +186,7 @@ bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& s
   }
   why = status.message();
   if (!status.ok()) return false;
-  for (std::size_t i = 0; i < second.size(); ++i) subtract(first[i], std::move(second[i].samples));
+  for (std::size_t i = 0; i < second.size(); ++i) join(first[i], second[i]);
   state = after;
   traces = std::move(first);
   return true;
