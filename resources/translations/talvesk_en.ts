@@ -12,6 +12,16 @@
     </message>
 </context>
 <context>
+    <name>talvesk::SectionSheet</name>
+    <message numerus="yes">
+        <source>%n ray(s)</source>
+        <translation>
+            <numerusform>%n ray</numerusform>
+            <numerusform>%n rays</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::Talvesk_MainWindows</name>
     <message numerus="yes">
         <source>%n shot file(s) loaded.</source>

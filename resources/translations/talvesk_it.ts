@@ -49,237 +49,6 @@
     </message>
 </context>
 <context>
-    <name>talvesk::ExportTomoVelData</name>
-    <message>
-        <source>Set optional shift parameter before export</source>
-        <translation>Traslazione facoltativa prima dell&apos;esportazione</translation>
-    </message>
-    <message>
-        <source>Y coord of the line</source>
-        <translation>Coordinata Y della linea</translation>
-    </message>
-    <message>
-        <source>Y coordinate of the line in metres</source>
-        <translation>Coordinata Y della linea in metri</translation>
-    </message>
-    <message>
-        <source>Written as Y of every cell</source>
-        <translation>Scritta come Y di ogni cella</translation>
-    </message>
-    <message>
-        <source>m</source>
-        <translation>m</translation>
-    </message>
-    <message>
-        <source>Z offset of the line</source>
-        <translation>Spostamento Z della linea</translation>
-    </message>
-    <message>
-        <source>Z offset of the line in metres</source>
-        <translation>Spostamento Z della linea in metri</translation>
-    </message>
-    <message>
-        <source>Added to the elevation of every cell</source>
-        <translation>Aggiunto alla quota di ogni cella</translation>
-    </message>
-    <message>
-        <source>X is the distance along the line</source>
-        <translation>X è la distanza lungo la linea</translation>
-    </message>
-    <message>
-        <source>Takes the grid&apos;s offset off; X is the grid&apos;s own abscissa else</source>
-        <translation>Toglie lo scostamento della griglia; altrimenti X è l&apos;ascissa della griglia</translation>
-    </message>
-    <message>
-        <source>The Y coordinate is not a number.</source>
-        <translation>La coordinata Y non è un numero.</translation>
-    </message>
-    <message>
-        <source>The Z offset is not a number.</source>
-        <translation>Lo spostamento Z non è un numero.</translation>
-    </message>
-</context>
-<context>
-    <name>talvesk::FigureWords</name>
-    <message>
-        <source>Contours</source>
-        <translation>Isolinee</translation>
-    </message>
-    <message>
-        <source>Vertical gradient of velocity</source>
-        <translation>Gradiente verticale di velocità</translation>
-    </message>
-    <message>
-        <source>Laplacian of velocity</source>
-        <translation>Laplaciano della velocità</translation>
-    </message>
-    <message>
-        <source>Information density</source>
-        <translation>Densità di informazione</translation>
-    </message>
-    <message>
-        <source>Velocity</source>
-        <translation>Velocità</translation>
-    </message>
-    <message>
-        <source>1 trace</source>
-        <translation>1 traccia</translation>
-    </message>
-    <message>
-        <source>%1 traces</source>
-        <translation>%1 tracce</translation>
-    </message>
-    <message>
-        <source>1 pick</source>
-        <translation>1 primo arrivo</translation>
-    </message>
-    <message>
-        <source>%1 picks</source>
-        <translation>%1 primi arrivi</translation>
-    </message>
-    <message>
-        <source>1 shot</source>
-        <translation>1 tiro</translation>
-    </message>
-    <message>
-        <source>%1 shots</source>
-        <translation>%1 tiri</translation>
-    </message>
-    <message>
-        <source>1 computed time</source>
-        <translation>1 tempo calcolato</translation>
-    </message>
-    <message>
-        <source>%1 computed times</source>
-        <translation>%1 tempi calcolati</translation>
-    </message>
-    <message>
-        <source>RMS misfit %1 %</source>
-        <translation>Scarto quadratico medio %1 %</translation>
-    </message>
-    <message>
-        <source>%1 %2 to %3</source>
-        <comment>quantity, least and greatest value with its unit</comment>
-        <translation>%1 da %2 a %3</translation>
-    </message>
-    <message>
-        <source>Contours every %1</source>
-        <translation>Isolinee ogni %1</translation>
-    </message>
-    <message>
-        <source>1 ray</source>
-        <translation>1 raggio</translation>
-    </message>
-    <message>
-        <source>%1 rays</source>
-        <translation>%1 raggi</translation>
-    </message>
-    <message>
-        <source>Vertical exaggeration %1</source>
-        <translation>Esagerazione verticale %1</translation>
-    </message>
-    <message>
-        <source>Distance [m]</source>
-        <translation>Distanza [m]</translation>
-    </message>
-    <message>
-        <source>Elevation [m]</source>
-        <translation>Quota [m]</translation>
-    </message>
-    <message>
-        <source>Time [ms]</source>
-        <translation>Tempo [ms]</translation>
-    </message>
-    <message>
-        <source>Channel</source>
-        <translation>Canale</translation>
-    </message>
-    <message>
-        <source>Geophones</source>
-        <translation>Geofoni</translation>
-    </message>
-    <message>
-        <source>Shot</source>
-        <translation>Tiro</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Tiri</translation>
-    </message>
-    <message>
-        <source>First breaks</source>
-        <translation>Primi arrivi</translation>
-    </message>
-    <message>
-        <source>Shot %1 of %2</source>
-        <translation>Tiro %1 di %2</translation>
-    </message>
-    <message>
-        <source>Shot %1</source>
-        <translation>Tiro %1</translation>
-    </message>
-    <message>
-        <source>%1 at %2 m</source>
-        <comment>shot, place</comment>
-        <translation>%1 a %2 m</translation>
-    </message>
-    <message>
-        <source>%1, filtered</source>
-        <comment>traces</comment>
-        <translation>%1, filtrate</translation>
-    </message>
-    <message>
-        <source>%1, some filtered</source>
-        <comment>traces</comment>
-        <translation>%1, alcune filtrate</translation>
-    </message>
-    <message>
-        <source>One of every %1 is drawn</source>
-        <translation>Disegnata una ogni %1</translation>
-    </message>
-    <message>
-        <source>%1 without samples or sample interval</source>
-        <translation>%1 senza campioni o intervallo di campionamento</translation>
-    </message>
-    <message>
-        <source>Each trace to its own maximum, gain %1</source>
-        <translation>Ogni traccia al proprio massimo, guadagno %1</translation>
-    </message>
-    <message>
-        <source>All traces to one maximum, gain %1</source>
-        <translation>Tutte le tracce a un solo massimo, guadagno %1</translation>
-    </message>
-    <message>
-        <source>no picks</source>
-        <translation>nessun primo arrivo</translation>
-    </message>
-    <message>
-        <source>%1 outside the times shown</source>
-        <comment>picks</comment>
-        <translation>%1 fuori dai tempi mostrati</translation>
-    </message>
-    <message>
-        <source>Rays</source>
-        <translation>Raggi</translation>
-    </message>
-    <message>
-        <source>Coverage limit</source>
-        <translation>Limite di copertura</translation>
-    </message>
-    <message>
-        <source>Travel times</source>
-        <translation>Tempi di arrivo</translation>
-    </message>
-    <message>
-        <source>Measured</source>
-        <translation>Misurati</translation>
-    </message>
-    <message>
-        <source>Computed</source>
-        <translation>Calcolati</translation>
-    </message>
-</context>
-<context>
     <name>talvesk::Messages</name>
     <message>
         <source>The document has been modified</source>
@@ -386,6 +155,95 @@
     <message>
         <source>None</source>
         <translation>Nessuno</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SectionSheet</name>
+    <message>
+        <source>Vertical gradient of velocity [1/s]</source>
+        <translation>Gradiente verticale di velocità [1/s]</translation>
+    </message>
+    <message>
+        <source>Laplacian of velocity [1/(m·s)]</source>
+        <translation>Laplaciano della velocità [1/(m·s)]</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densità di informazione</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tiri</translation>
+    </message>
+    <message>
+        <source>Contours</source>
+        <translation>Isolinee</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ray(s)</source>
+        <translation>
+            <numerusform>%n raggio</numerusform>
+            <numerusform>%n raggi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Limite di copertura</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distanza [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Quota [m]</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration %1×</source>
+        <translation>Esagerazione verticale %1×</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SectionView</name>
+    <message>
+        <source>Vertical exaggeration:</source>
+        <translation>Esagerazione verticale:</translation>
+    </message>
+    <message>
+        <source>How much higher than wide a metre is drawn</source>
+        <translation>Quanto un metro è disegnato più alto che largo</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration</source>
+        <translation>Esagerazione verticale</translation>
+    </message>
+    <message>
+        <source>Turn in 3-D</source>
+        <translation>Ruota in 3-D</translation>
+    </message>
+    <message>
+        <source>Dragging turns the section instead of moving it</source>
+        <translation>Trascinando, la sezione ruota invece di spostarsi</translation>
+    </message>
+    <message>
+        <source>Reset View</source>
+        <translation>Ripristina la vista</translation>
+    </message>
+    <message>
+        <source>Bring the whole section back into view (Home)</source>
+        <translation>Riporta in vista tutta la sezione (Home)</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Sezione di velocità</translation>
     </message>
 </context>
 <context>
@@ -674,6 +532,10 @@
     <message>
         <source>Export tomographic data ...</source>
         <translation>Esporta i dati tomografici ...</translation>
+    </message>
+    <message>
+        <source>Write the velocities, rays and times of the last inversion</source>
+        <translation>Scrive velocità, raggi e tempi dell&apos;ultima inversione</translation>
     </message>
     <message>
         <source>Next</source>
@@ -974,10 +836,6 @@
     <message>
         <source>Show Information Density Layer</source>
         <translation>Mostra la densità d&apos;informazione</translation>
-    </message>
-    <message>
-        <source>Veil the parts of the section that few rays cross</source>
-        <translation>Vela le parti della sezione attraversate da pochi raggi</translation>
     </message>
     <message>
         <source>Show Grid Lines</source>
@@ -1489,10 +1347,6 @@
         <translation>Ingrandisci i primi arrivi</translation>
     </message>
     <message>
-        <source>&lt;h2&gt;No section yet&lt;/h2&gt;&lt;p&gt;The velocity section is drawn here after an inversion.&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Nessuna sezione&lt;/h2&gt;&lt;p&gt;La sezione di velocità viene disegnata qui dopo un&apos;inversione.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Save travel-time curves</source>
         <translation>Salva le dromocrone</translation>
     </message>
@@ -1509,72 +1363,68 @@
         <translation>Immagine salvata in %1</translation>
     </message>
     <message>
-        <source>Export the section as a gridded text file, heights counted from the highest ground</source>
-        <translation>Esporta la sezione come file di testo a griglia, con le quote contate dal punto più alto del terreno</translation>
+        <source>Colour the section by how well rays cover it</source>
+        <translation>Colora la sezione secondo la copertura dei raggi</translation>
     </message>
     <message>
-        <source>Section as VTK grid ...</source>
-        <translation>Sezione come griglia VTK ...</translation>
+        <source>No section yet</source>
+        <translation>Ancora nessuna sezione</translation>
     </message>
     <message>
-        <source>Export velocity, gradient and information density of the cells as a VTK unstructured grid</source>
-        <translation>Esporta velocità, gradiente e densità di informazione delle celle come griglia non strutturata VTK</translation>
+        <source>Load shot files or travel times with the File menu first.</source>
+        <translation>Caricare prima i file dei tiri o i tempi di arrivo dal menu File.</translation>
     </message>
     <message>
-        <source>Section as Surfer grid ...</source>
-        <translation>Sezione come griglia Surfer ...</translation>
+        <source>Build a grid with &lt;b&gt;Project &amp;gt; Grid ...&lt;/b&gt;, then invert the picks with &lt;b&gt;Processing &amp;gt; Run tomography inversion&lt;/b&gt;.</source>
+        <translation>Costruire una griglia con &lt;b&gt;Progetto &amp;gt; Griglia ...&lt;/b&gt;, poi invertire i tempi con &lt;b&gt;Elaborazione &amp;gt; Esegui l&apos;inversione tomografica&lt;/b&gt;.</translation>
     </message>
     <message>
-        <source>Export the velocities on a regular raster as a Surfer ASCII grid</source>
-        <translation>Esporta le velocità su una maglia regolare come griglia ASCII di Surfer</translation>
+        <source>The grid has no cells</source>
+        <translation>La griglia non ha celle</translation>
     </message>
     <message>
-        <source>Saved in %1</source>
-        <translation>Salvato in %1</translation>
+        <source>Build another one with &lt;b&gt;Project &amp;gt; Grid ...&lt;/b&gt; and give it a depth greater than the cell size.</source>
+        <translation>Costruirne un&apos;altra con &lt;b&gt;Progetto &amp;gt; Griglia ...&lt;/b&gt;, con una profondità maggiore della dimensione delle celle.</translation>
     </message>
     <message>
-        <source>The data have not been exported.</source>
-        <translation>I dati non sono stati esportati.</translation>
+        <source>Nothing to draw</source>
+        <translation>Niente da disegnare</translation>
     </message>
     <message>
-        <source>Export Gridded Data</source>
-        <translation>Esporta dati a griglia</translation>
+        <source>No cell of the grid has a value to show.</source>
+        <translation>Nessuna cella della griglia ha un valore da mostrare.</translation>
     </message>
     <message>
-        <source>Save gridded tomographic velocity in a text file (*.txt);;All Files (*)</source>
-        <translation>Velocità tomografiche a griglia in un file di testo (*.txt);;Tutti i file (*)</translation>
+        <source>Refractor %1</source>
+        <translation>Rifrattore %1</translation>
     </message>
     <message>
-        <source>Export VTK Grid</source>
-        <translation>Esporta griglia VTK</translation>
+        <source>Distance %1 m</source>
+        <translation>Distanza %1 m</translation>
     </message>
     <message>
-        <source>VTK unstructured grid (*.vtu);;All Files (*)</source>
-        <translation>Griglia non strutturata VTK (*.vtu);;Tutti i file (*)</translation>
+        <source>Elevation %1 m</source>
+        <translation>Quota %1 m</translation>
     </message>
     <message>
-        <source>Export Surfer Grid</source>
-        <translation>Esporta griglia Surfer</translation>
+        <source>Depth %1 m</source>
+        <translation>Profondità %1 m</translation>
     </message>
     <message>
-        <source>Surfer ASCII grid (*.grd);;All Files (*)</source>
-        <translation>Griglia ASCII di Surfer (*.grd);;Tutti i file (*)</translation>
+        <source>Velocity %1 m/s</source>
+        <translation>Velocità %1 m/s</translation>
     </message>
     <message>
-        <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
-        <translation>Mancano le coordinate geografiche: i dati non possono essere esportati in formato KML</translation>
+        <source>Gradient %1 1/s</source>
+        <translation>Gradiente %1 1/s</translation>
     </message>
     <message>
-        <source>Export Tomography to KML</source>
-        <translation>Esporta tomografia in KML</translation>
+        <source>Laplacian %1 1/(m·s)</source>
+        <translation>Laplaciano %1 1/(m·s)</translation>
     </message>
     <message>
-        <source>KML (*.kml);;All Files (*)</source>
-        <translation>KML (*.kml);;Tutti i file (*)</translation>
-    </message>
-    <message>
-        <source>Export Seismic Line to KML</source>
-        <translation>Esporta linea sismica in KML</translation>
+        <source>Information density %1</source>
+        <translation>Densità di informazione %1</translation>
     </message>
 </context>
 <context>
@@ -1885,134 +1735,6 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>This shot has no traces</source>
         <translation>Questo tiro non ha tracce</translation>
-    </message>
-</context>
-<context>
-    <name>talvesk::setGeographyDialog</name>
-    <message>
-        <source>Set geographic coordinates</source>
-        <translation>Coordinate geografiche</translation>
-    </message>
-    <message>
-        <source>Easting (m)</source>
-        <translation>Est (m)</translation>
-    </message>
-    <message>
-        <source>Northing (m)</source>
-        <translation>Nord (m)</translation>
-    </message>
-    <message>
-        <source>Latitude, longitude (WGS84)</source>
-        <translation>Latitudine, longitudine (WGS84)</translation>
-    </message>
-    <message>
-        <source>First geophone</source>
-        <translation>Primo geofono</translation>
-    </message>
-    <message>
-        <source>Easting of the first geophone in metres</source>
-        <translation>Coordinata est del primo geofono in metri</translation>
-    </message>
-    <message>
-        <source>Northing of the first geophone in metres</source>
-        <translation>Coordinata nord del primo geofono in metri</translation>
-    </message>
-    <message>
-        <source>Last geophone</source>
-        <translation>Ultimo geofono</translation>
-    </message>
-    <message>
-        <source>Easting of the last geophone in metres</source>
-        <translation>Coordinata est dell&apos;ultimo geofono in metri</translation>
-    </message>
-    <message>
-        <source>Northing of the last geophone in metres</source>
-        <translation>Coordinata nord dell&apos;ultimo geofono in metri</translation>
-    </message>
-    <message>
-        <source>EPSG code</source>
-        <translation>Codice EPSG</translation>
-    </message>
-    <message>
-        <source>EPSG code of the reference system</source>
-        <translation>Codice EPSG del sistema di riferimento</translation>
-    </message>
-    <message>
-        <source>First geophone (at %1 m)</source>
-        <translation>Primo geofono (a %1 m)</translation>
-    </message>
-    <message>
-        <source>Last geophone (at %1 m)</source>
-        <translation>Ultimo geofono (a %1 m)</translation>
-    </message>
-    <message>
-        <source>N</source>
-        <comment>north</comment>
-        <translation>N</translation>
-    </message>
-    <message>
-        <source>S</source>
-        <comment>south</comment>
-        <translation>S</translation>
-    </message>
-    <message>
-        <source>E</source>
-        <comment>east</comment>
-        <translation>E</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <comment>west</comment>
-        <translation>O</translation>
-    </message>
-    <message>
-        <source>There is no reference system with this EPSG code.</source>
-        <translation>Non esiste un sistema di riferimento con questo codice EPSG.</translation>
-    </message>
-    <message>
-        <source>This system is not projected: it has no easting and northing.</source>
-        <translation>Questo sistema non è proiettato: non ha coordinate est e nord.</translation>
-    </message>
-    <message>
-        <source>This system does not count in metres. Choose one that does.</source>
-        <translation>Questo sistema non è in metri. Sceglierne uno in metri.</translation>
-    </message>
-    <message>
-        <source>This system counts westward or southward. Choose one with easting and northing.</source>
-        <translation>Questo sistema conta verso ovest o verso sud. Sceglierne uno con coordinate est e nord.</translation>
-    </message>
-    <message>
-        <source>This system cannot be turned into longitude and latitude.</source>
-        <translation>Questo sistema non può essere convertito in longitudine e latitudine.</translation>
-    </message>
-    <message>
-        <source>Enter easting and northing of both geophones, in metres.</source>
-        <translation>Inserire le coordinate est e nord dei due geofoni, in metri.</translation>
-    </message>
-    <message>
-        <source>Enter the EPSG code of the reference system, for example 32632 for UTM zone 32 N.</source>
-        <translation>Inserire il codice EPSG del sistema di riferimento, per esempio 32632 per UTM zona 32 N.</translation>
-    </message>
-    <message>
-        <source>The first and the last geophone have the same coordinates.</source>
-        <translation>Il primo e l&apos;ultimo geofono hanno le stesse coordinate.</translation>
-    </message>
-    <message>
-        <source>These coordinates lie outside of the reference system.</source>
-        <translation>Queste coordinate sono fuori dal sistema di riferimento.</translation>
-    </message>
-    <message>
-        <source>On the map the two geophones are %1 m apart</source>
-        <translation>Sulla carta i due geofoni distano %1 m</translation>
-    </message>
-    <message>
-        <source>%1, along the line %2 m.</source>
-        <comment>distance on the map, distance along the line</comment>
-        <translation>%1, lungo la linea %2 m.</translation>
-    </message>
-    <message>
-        <source>Check the coordinates.</source>
-        <translation>Controllare le coordinate.</translation>
     </message>
 </context>
 </TS>

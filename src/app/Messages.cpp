@@ -34,11 +34,6 @@ void showNote(QWidget* parent, const QString& title, const QString& text, const 
   show(parent, QMessageBox::Information, title, text, details);
 }
 
-void showWarning(QWidget* parent, const QString& title, const QString& text,
-                 const QString& details) {
-  show(parent, QMessageBox::Warning, title, text, details);
-}
-
 bool askYesNo(QWidget* parent, const QString& title, const QString& text, const QString& details,
               bool yesIsDefault) {
   QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent);

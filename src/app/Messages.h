@@ -14,10 +14,6 @@ void showError(QWidget* parent, const QString& title, const QString& text,
 void showNote(QWidget* parent, const QString& title, const QString& text,
               const QString& details = QString());
 
-/// A box for what keeps a command from being carried out although nothing failed.
-void showWarning(QWidget* parent, const QString& title, const QString& text,
-                 const QString& details = QString());
-
 /// The buttons Yes and No.
 bool askYesNo(QWidget* parent, const QString& title, const QString& text, const QString& details,
               bool yesIsDefault);

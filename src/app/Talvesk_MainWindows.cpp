@@ -4,6 +4,7 @@
 #include "app/Messages.h"
 #include "app/SettingsDialog.h"
 #include "ui_Talvesk_MainWindows.h"
+#include "widgets/SectionView.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -47,6 +48,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   loadSettings();
   connectViews();
   connectPlots();
+  connectSection();
   connectCommands();
   mUi->showTracesWidget_2->hide();
   mUi->tabWidget->setCurrentIndex(0);
@@ -61,6 +63,7 @@ Talvesk_MainWindows::~Talvesk_MainWindows() {
     editor->disconnect(this);
     editor->undoStack()->disconnect(this);
   }
+  mUi->vtk_widget->disconnect(this);
 }
 
 void Talvesk_MainWindows::startLog() {
@@ -210,6 +213,7 @@ void Talvesk_MainWindows::retranslate() {
   mShotChooser->setToolTip(tr("The shot in view"));
   refreshTitle();
   refreshShotChooser();
+  refreshSection();
 }
 
 void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {

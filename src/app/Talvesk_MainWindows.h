@@ -33,6 +33,7 @@ class TravelTimePlot;
 enum class PickSnap;
 enum class TraceTool;
 struct FilterOutcome;
+struct SectionReading;
 struct TraceCursor;
 
 /// The one window of the program. It owns the survey, the log and the settings, asks what a command
@@ -83,8 +84,6 @@ class Talvesk_MainWindows : public QMainWindow {
   void on_actionSettings_triggered();
   void on_actionExport_tomographic_data_triggered();
   void on_actionGridded_Data_triggered();
-  void on_actionExport_VTK_triggered();
-  void on_actionExport_Surfer_triggered();
   void on_actionExportTomographic_profile_2_KML_triggered();
   void on_actionExportSeismic_line_triggered();
   void on_actionImages_triggered();
@@ -207,9 +206,6 @@ class Talvesk_MainWindows : public QMainWindow {
   QString historyFolder() const;
   void saveHistoryOf(const QString& file);
   void exportCurves();
-  QString askForExport(const QString& title, const QString& filter, const char* suffix);
-  void tellExport(const Status& written, const QString& file);
-  bool mayExportKml();
 
   // State
   void changeLanguage(int index);
@@ -227,6 +223,14 @@ class Talvesk_MainWindows : public QMainWindow {
   void refreshExportCommands();
   void refreshReportCommands();
   void refreshSection();  ///< shows grid and results of the document as they are now
+  void connectSection();
+  void changeSection(const std::function<void(SectionViewSettings&)>& change);
+  void chooseQuantity(SectionQuantity quantity, bool chosen);
+  void chooseGeophones(GeophoneMarkers size);
+  bool hasInformationDensity() const;
+  QString whyNoSection() const;
+  std::vector<SectionLine> refractors() const;
+  void showSectionCursor(const SectionReading& reading);
   void refreshShotChooser();
   void refreshTraceOptions();
   void refreshFilteredBox();

@@ -13,6 +13,7 @@ void Talvesk_MainWindows::on_actionSet_title_triggered() {
   if (!accepted || title.toStdString() == mDocument.title) return;
   mDocument.title = title.toStdString();
   documentModified();
+  refreshSection();
 }
 
 }  // namespace talvesk

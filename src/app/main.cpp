@@ -1,6 +1,7 @@
 #include "app/LineIcon.h"
 #include "app/StartOptions.h"
 #include "app/Talvesk_MainWindows.h"
+#include "widgets/SectionSurface.h"
 
 #include <QApplication>
 #include <QSplashScreen>
@@ -25,8 +26,8 @@ bool asksForText(int argc, char** argv) {
 int main(int argc, char** argv) {
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   if (asksForText(argc, argv)) return 0;
-  // The surface format of the section view becomes the default here, before the application object
-  // exists, as soon as there is a section view.
+  // Before the application object exists, or the window could not share its OpenGL with the view.
+  QSurfaceFormat::setDefaultFormat(talvesk::sectionSurfaceFormat());
   QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   QApplication::setHighDpiScaleFactorRoundingPolicy(

@@ -51,8 +51,7 @@ class NumberScaleDraw : public QwtScaleDraw {
 /// to the sheet.
 class FigurePlot::Renderer : public QwtPlotRenderer {
  public:
-  Renderer(int besideAxis, const PaintBeside& paintBeside)
-      : mBesideAxis(besideAxis), mPaintBeside(paintBeside) {}
+  explicit Renderer(const PaintBeside& paintBeside) : mPaintBeside(paintBeside) {}
 
   void measureOnly() { mMeasureOnly = true; }
 
@@ -70,7 +69,7 @@ class FigurePlot::Renderer : public QwtPlotRenderer {
       place.setTop(canvas.top() - startDist);
       place.setBottom(canvas.bottom() + endDist);
     }
-    if (axis == mBesideAxis && mPaintBeside) mPaintBeside(*painter, rect, canvas);
+    if (axis == QwtPlot::yRight && mPaintBeside) mPaintBeside(*painter, rect, canvas);
     QwtPlotRenderer::renderScale(plot, painter, axis, startDist, endDist, baseDist, place);
   }
 
@@ -106,7 +105,6 @@ class FigurePlot::Renderer : public QwtPlotRenderer {
   }
 
  private:
-  const int mBesideAxis;
   const PaintBeside& mPaintBeside;
   bool mMeasureOnly = false;
   mutable QwtScaleMap mXMap;
@@ -198,8 +196,7 @@ void FigurePlot::add(QwtPlotItem* item) {
   item->attach(mPlot.get());
 }
 
-void FigurePlot::setPaintBeside(int axis, PaintBeside paint) {
-  mBesideAxis = axis;
+void FigurePlot::setPaintBeside(PaintBeside paint) {
   mPaintBeside = std::move(paint);
 }
 
@@ -209,7 +206,7 @@ PlotPlace FigurePlot::measure(double widthMm, double heightMm) {
   sheet.setDotsPerMeterX(static_cast<int>(std::lround(perMm * 1000.0)));
   sheet.setDotsPerMeterY(static_cast<int>(std::lround(perMm * 1000.0)));
   QPainter painter(&sheet);
-  Renderer renderer(mBesideAxis, mPaintBeside);
+  Renderer renderer(mPaintBeside);
   renderer.measureOnly();
   mPlot->resize(static_cast<int>(widthMm * perMm), static_cast<int>(heightMm * perMm));
   renderer.render(mPlot.get(), &painter, QRectF(0, 0, widthMm * perMm, heightMm * perMm));
@@ -241,7 +238,7 @@ Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, doubl
 }
 
 PlotPlace FigurePlot::paint(QPainter& painter, const QRectF& sheet, double widthMm) {
-  Renderer renderer(mBesideAxis, mPaintBeside);
+  Renderer renderer(mPaintBeside);
   renderer.render(mPlot.get(), &painter, sheet);
   const double points = sheet.width() * mPlot->logicalDpiX() / painter.device()->logicalDpiX();
   PlotPlace place = renderer.place(widthMm / points);

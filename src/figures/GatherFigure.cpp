@@ -2,7 +2,6 @@
 
 #include "base/AtomicFile.h"
 #include "figures/FigureItem.h"
-#include "figures/FigureWords.h"
 #include "figures/GatherItems.h"
 #include "figures/GatherScene.h"
 #include "figures/SectionItems.h"
@@ -56,18 +55,18 @@ class GatherPlot {
 GatherPlot::GatherPlot(GatherScene scene, const GatherFigureOptions& options)
     : mOptions(options), mScene(std::move(scene)) {
   mPlot.addAxis(QwtPlot::xBottom,
-                mScene.byChannel ? FigureWords::channelAxis() : FigureWords::distanceAxis());
-  mPlot.addAxis(QwtPlot::yLeft, FigureWords::timeAxis());
+                mScene.byChannel ? QStringLiteral("Channel") : QStringLiteral("Distance [m]"));
+  mPlot.addAxis(QwtPlot::yLeft, QStringLiteral("Time [ms]"));
   mPlot.add(gather_items::wiggles(mScene, {mOptions.gain, mOptions.clip, mOptions.fillPositive}));
   const double top = mScene.window.beginMs;
   if (!mScene.byChannel) {
     std::vector<Point2D> receivers;
     for (const double x : mScene.receivers) receivers.push_back({x, top});
-    mPlot.add(section_items::markers(receivers, FigureWords::tr("Geophones"),
+    mPlot.add(section_items::markers(receivers, QStringLiteral("Geophones"),
                                      section_items::Marker::kGeophone));
   }
   if (mScene.shotX) {
-    mPlot.add(section_items::markers({{*mScene.shotX, top}}, FigureWords::tr("Shot"),
+    mPlot.add(section_items::markers({{*mScene.shotX, top}}, QStringLiteral("Shot"),
                                      section_items::Marker::kShot));
   }
   if (mScene.hasPicks) mPlot.add(gather_items::picks(mScene, toColor(mOptions.pickColor)));
@@ -168,8 +167,7 @@ Status writePages(const TomoDocument& document, const GatherFigureOptions& optio
     return status;
   };
   const std::string& line = options.title.empty() ? document.title : options.title;
-  const FigureSheet sheet =
-      sheetOf(options, line.empty() ? FigureWords::tr("Shots").toStdString() : line);
+  const FigureSheet sheet = sheetOf(options, line.empty() ? "Shots" : line);
   QByteArray bytes;
   Status status = paintFigurePages(sheet, shots.size(), paint, bytes);
   return status.ok() ? writeBytes(path, bytes, written) : status;

@@ -8,7 +8,6 @@
 #include <QByteArray>
 #include <QPainter>
 #include <cmath>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -41,11 +40,8 @@ double SectionFigureLayout::elevationToMm(double elevation) const {
   return topMm + (maxElevation - elevation) / (maxElevation - minElevation) * (bottomMm - topMm);
 }
 
-namespace {
-
-/// Lays the section out for a file of that format.
-Status layOut(const TomoDocument& document, const SectionFigureOptions& options,
-              FigureFormat format, FigureSheet& sheet, std::unique_ptr<SectionPlot>& plot) {
+Status renderSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
+                           FigureFormat format, QByteArray& bytes, SectionFigureLayout* layout) {
   SectionScene scene;
   if (Status status = buildSectionScene(document, options.scene, scene); !status.ok()) {
     return status;
@@ -53,41 +49,19 @@ Status layOut(const TomoDocument& document, const SectionFigureOptions& options,
   if (Status status = checkOptions(options); !status.ok()) return status;
 
   // Sizes are checked before anything is laid out in them; a height yet to be chosen passes.
-  sheet = FigureSheet();
+  FigureSheet sheet;
   sheet.widthMm = options.widthMm;
   sheet.heightMm = options.heightMm == 0.0 ? FigureSheet::kMinMm : options.heightMm;
   sheet.dpi = options.dpi;
   if (Status status = sheet.check(format); !status.ok()) return status;
 
-  plot = std::make_unique<SectionPlot>(std::move(scene), options);
-  if (Status status = plot->layOut(options.widthMm, options.heightMm); !status.ok()) return status;
-  sheet.heightMm = plot->layout().heightMm;
-  sheet.title = plot->title();
-  return {};
-}
-
-}  // namespace
-
-Status prepareSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
-                            FigureDrawing& drawing) {
-  std::unique_ptr<SectionPlot> plot;
-  if (Status status = layOut(document, options, FigureFormat::kPdf, drawing.sheet, plot);
-      !status.ok()) {
-    return status;
-  }
-  drawing.paint = [shared = std::shared_ptr<SectionPlot>(std::move(plot))](
-                      QPainter& painter, const QRectF& rect) { shared->paint(painter, rect); };
-  return {};
-}
-
-Status renderSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
-                           FigureFormat format, QByteArray& bytes, SectionFigureLayout* layout) {
-  FigureSheet sheet;
-  std::unique_ptr<SectionPlot> plot;
-  if (Status status = layOut(document, options, format, sheet, plot); !status.ok()) return status;
-  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot->paint(painter, rect); };
+  SectionPlot plot(std::move(scene), options);
+  if (Status status = plot.layOut(options.widthMm, options.heightMm); !status.ok()) return status;
+  sheet.heightMm = plot.layout().heightMm;
+  sheet.title = plot.title();
+  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot.paint(painter, rect); };
   if (Status status = paintFigure(format, sheet, paint, bytes); !status.ok()) return status;
-  if (layout != nullptr) *layout = plot->layout();
+  if (layout != nullptr) *layout = plot.layout();
   return {};
 }
 

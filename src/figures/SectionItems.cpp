@@ -2,6 +2,7 @@
 
 #include "figures/FigureItem.h"
 #include "view/SectionScene.h"
+#include "view/SectionViewSettings.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -113,23 +114,47 @@ QPainterPath star(double size) {
   return path;
 }
 
+/// The points ascend in x.
+double symbolSize(double size, const std::vector<Point2D>& points, const QwtScaleMap& xMap) {
+  if (points.size() < 2) return size;
+  const double length = xMap.transform(points.back().x) - xMap.transform(points.front().x);
+  return fittingMarkerSize(size, length / static_cast<double>(points.size() - 1));
+}
+
+}  // namespace
+
 void setMarkerColors(QPainter& painter, Marker marker) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(Qt::white, 0.5));
   painter.setBrush(marker == Marker::kShot ? QColor(208, 32, 32) : QColor(32, 32, 32));
 }
 
-/// As large as neighbours leave room for, within what is legible. The points ascend in x.
-double symbolSize(const std::vector<Point2D>& points, const QwtScaleMap& xMap) {
-  double spacing = 10.0;
-  if (points.size() > 1) {
-    const double length = xMap.transform(points.back().x) - xMap.transform(points.front().x);
-    spacing = length / static_cast<double>(points.size() - 1);
+double markerSize(GeophoneMarkers markers) {
+  switch (markers) {
+    case GeophoneMarkers::kNone:
+      return 0.0;
+    case GeophoneMarkers::kSmall:
+      return 6.0;
+    case GeophoneMarkers::kLarge:
+      return 16.0;
+    case GeophoneMarkers::kNormal:
+      break;
   }
-  return std::clamp(0.9 * spacing, 5.0, 10.0);
+  return 10.0;
 }
 
-}  // namespace
+double fittingMarkerSize(double size, double spacing) {
+  return std::clamp(0.9 * spacing, 0.5 * size, size);
+}
+
+QColor coverageColor() {
+  return {200, 0, 120};
+}
+
+QColor refractorColor(std::size_t index) {
+  const QColor colors[] = {{0, 90, 200}, {200, 80, 0}, {0, 130, 60}};
+  return colors[index % 3];
+}
 
 QPainterPath symbol(Marker marker, double size) {
   return marker == Marker::kShot ? star(1.4 * size) : triangleOnTip(size);
@@ -172,11 +197,12 @@ QwtPlotItem* lines(const std::vector<std::vector<Point2D>>& polylines, const QSt
   return figureItem(name, kRaysLayer, paint, icon);
 }
 
-QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker) {
-  const auto paint = [points, marker](QPainter& painter, const QwtScaleMap& xMap,
-                                      const QwtScaleMap& yMap, const QRectF&) {
+QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker,
+                     double chosenSize) {
+  const auto paint = [points, marker, chosenSize](QPainter& painter, const QwtScaleMap& xMap,
+                                            const QwtScaleMap& yMap, const QRectF&) {
     setMarkerColors(painter, marker);
-    const QPainterPath shape = symbol(marker, symbolSize(points, xMap));
+    const QPainterPath shape = symbol(marker, symbolSize(chosenSize, points, xMap));
     for (const Point2D& p : points) {
       painter.drawPath(shape.translated(xMap.transform(p.x), yMap.transform(p.z)));
     }

@@ -5,6 +5,7 @@
 
 #include <vector>
 
+class QPainter;
 class QPainterPath;
 class QPolygonF;
 class QColor;
@@ -16,6 +17,7 @@ namespace talvesk {
 
 struct ContourStyle;
 struct SectionScene;
+enum class GeophoneMarkers;
 
 /// The layers of a section on a plot with distance below and elevation at the left. The plot that
 /// they are attached to owns them; scene and colours must outlive it.
@@ -40,12 +42,27 @@ QwtPlotItem* lines(const std::vector<std::vector<Point2D>>& polylines, const QSt
 enum class Marker { kGeophone, kShot };
 
 /// Symbols at points: a triangle that stands with its tip on a geophone, a star around a shot.
-QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker);
+/// \param size of a geophone where neighbours leave room, points of 1/96 inch
+QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker,
+                     double size = 10.0);
 
 // --- What the items share.
 
 /// The symbol around, or for a geophone above, the origin. \param size points of 1/96 inch
 QPainterPath symbol(Marker marker, double size);
+
+/// The size that the user chose, points of 1/96 inch; 0 for none.
+double markerSize(GeophoneMarkers markers);
+
+/// As large as neighbours `spacing` apart leave room for, but half the chosen size at least.
+double fittingMarkerSize(double size, double spacing);
+
+/// Dress of a marker: its brush, and a pen that sets it off.
+void setMarkerColors(QPainter& painter, Marker marker);
+
+/// The colour of the coverage limit, and of refractor `index` from 0.
+QColor coverageColor();
+QColor refractorColor(std::size_t index);
 
 /// Who paints over whom, the highest last.
 enum Layer { kCellsLayer = 10, kRaysLayer = 20, kContoursLayer = 30, kMarkersLayer = 50 };

@@ -153,15 +153,33 @@ ColorTable::ColorTable(const ColorPalette& palette, ValueRange range) : mRange(r
   for (int i = 0; i < n; ++i) mColors.push_back(palette.color_gradient.colorAt((i + 0.5) / n));
 }
 
+ColorTable::ColorTable(const ColorPalette& palette, ValueRange range,
+                       const std::vector<double>& edges)
+    : mRange(range), mEdges(edges) {
+  mColors.resize(mEdges.size() + 1);
+  for (int i = 0; i < size(); ++i) {
+    const ValueRange band = classRange(i);
+    const double middle = (0.5 * (band.min + band.max) - mRange.min) / mRange.span();
+    mColors[static_cast<std::size_t>(i)] = palette.color_gradient.colorAt(middle);
+  }
+}
+
 int ColorTable::indexOf(double value) const {
   if (std::isnan(value)) return -1;
   if (value <= mRange.min) return 0;
   if (value >= mRange.max) return size() - 1;
+  if (!mEdges.empty()) {
+    return static_cast<int>(std::upper_bound(mEdges.begin(), mEdges.end(), value) - mEdges.begin());
+  }
   return std::min(static_cast<int>((value - mRange.min) / mRange.span() * size()), size() - 1);
 }
 
 ValueRange ColorTable::classRange(int index) const {
-  const auto edge = [this](int i) { return mRange.min + mRange.span() * i / size(); };
+  const auto edge = [this](int i) {
+    if (mEdges.empty()) return mRange.min + mRange.span() * i / size();
+    if (i == 0) return mRange.min;
+    return i == size() ? mRange.max : mEdges[static_cast<std::size_t>(i - 1)];
+  };
   return {edge(index), edge(index + 1)};
 }
 

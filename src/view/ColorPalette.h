@@ -100,8 +100,8 @@ struct ValueRange {
   bool contains(double value) const { return value >= min && value <= max; }
 };
 
-/// The discrete colours that a view shows a value range with: equal classes over the range, each
-/// with the gradient's colour at its centre.
+/// The discrete colours that a view shows a value range with: classes over the range, each with the
+/// gradient's colour at its centre.
 class ColorTable {
  public:
   static constexpr int kMaxColors = 4096;
@@ -109,6 +109,9 @@ class ColorTable {
   /// \param palette its n_colors is held within 1 and kMaxColors
   /// \param range the values at both ends of the table
   ColorTable(const ColorPalette& palette, ValueRange range);
+  /// Classes that end at the given values instead, however many colours the palette has.
+  /// \param edges ascending, each once, inside the range
+  ColorTable(const ColorPalette& palette, ValueRange range, const std::vector<double>& edges);
   /// Over the palette's own scale, min_db to max_db.
   explicit ColorTable(const ColorPalette& palette)
       : ColorTable(palette, {palette.min_db, palette.max_db}) {}
@@ -125,6 +128,7 @@ class ColorTable {
 
  private:
   ValueRange mRange;
+  std::vector<double> mEdges;  ///< between the classes; empty where they are equal
   std::vector<RgbColor> mColors;
 };
 

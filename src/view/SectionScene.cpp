@@ -36,6 +36,13 @@ std::vector<double> valuesOf(const TomoDocument& document, SectionQuantity quant
   return values;
 }
 
+/// A cell without a value is nothing to draw.
+void drawOnlyValues(SectionMesh& mesh, const std::vector<double>& values) {
+  for (std::size_t cell = 0; cell < values.size(); ++cell) {
+    if (!std::isfinite(values[cell])) mesh.drawn[cell] = 0;
+  }
+}
+
 /// Least and greatest finite value of the drawn cells; min above max when there is none.
 ValueRange drawnRange(const SectionMesh& mesh, const std::vector<double>& values) {
   ValueRange range{kInfinity, -kInfinity};
@@ -127,6 +134,44 @@ Status checkOptions(const SectionSceneOptions& options) {
   return {};
 }
 
+void addContours(const SectionSceneOptions& options, SectionScene& scene) {
+  scene.contourLevels = options.contourValues;
+  for (const double value : equallySpacedValues(scene.range, options.equallySpacedContours)) {
+    scene.contourLevels.push_back(value);
+  }
+  std::vector<double>& levels = scene.contourLevels;
+  const auto notALevel = [](double level) { return !std::isfinite(level); };
+  levels.erase(std::remove_if(levels.begin(), levels.end(), notALevel), levels.end());
+  std::sort(levels.begin(), levels.end());
+  levels.erase(std::unique(levels.begin(), levels.end()), levels.end());
+  if (options.contourLines) scene.contours = contourLines(scene.mesh, scene.cornerValues, levels);
+  if (scene.fill == SectionFill::kBands) {
+    scene.bands = contourBands(scene.mesh, scene.cornerValues, scene.bandLevels());
+  }
+}
+
+/// The values of the cells and all that follows from them.
+Status fillIn(const TomoDocument& document, const SectionSceneOptions& options,
+              SectionScene& scene) {
+  scene.velocities = velocityValues(*document.grid);
+  scene.cellValues = valuesOf(document, options.quantity);
+  const bool filled = scene.fill != SectionFill::kNone;
+  if (filled) drawOnlyValues(scene.mesh, scene.cellValues);
+  scene.dataRange = drawnRange(scene.mesh, scene.cellValues);
+  if (scene.dataRange.min > scene.dataRange.max) {
+    if (filled) {
+      return Status::failure(
+          "There is no section to draw: no cell that is shown has a value for \"" +
+          quantityName(options.quantity) + "\".");
+    }
+    scene.dataRange = {};
+  }
+  scene.range = options.range ? *options.range : niceRange(scene.dataRange);
+  scene.cornerValues = cornerMeans(scene.mesh, scene.cellValues);
+  if (filled) addContours(options, scene);
+  return {};
+}
+
 template <typename Less>
 Point2D extreme(const SectionScene& scene, double start, Less better) {
   Point2D corner{start, start};
@@ -159,6 +204,19 @@ Point2D SectionScene::upperRight() const {
   return extreme(*this, -kInfinity, std::greater<double>());
 }
 
+std::vector<double> SectionScene::bandLevels() const {
+  std::vector<double> levels;
+  for (const double level : contourLevels) {
+    if (level > range.min && level < range.max) levels.push_back(level);
+  }
+  return levels;
+}
+
+ColorTable sectionColors(const SectionScene& scene, const ColorPalette& palette) {
+  if (scene.fill == SectionFill::kBands) return {palette, scene.range, scene.bandLevels()};
+  return {palette, scene.range};
+}
+
 Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions& options,
                          SectionScene& out) {
   if (!document.grid || document.grid->cellCount() == 0) {
@@ -169,25 +227,13 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   SectionScene scene;
   scene.title = document.title;
   scene.quantity = options.quantity;
+  scene.fill = options.fill;
   scene.mesh = sectionMesh(*document.grid, document.xOffset);
-  scene.cellValues = valuesOf(document, options.quantity);
-  scene.dataRange = drawnRange(scene.mesh, scene.cellValues);
-  if (scene.dataRange.min > scene.dataRange.max) {
-    return Status::failure("There is no section to draw: no cell that is shown has a value for \"" +
-                           quantityName(options.quantity) + "\".");
-  }
-  scene.range = options.range ? *options.range : niceRange(scene.dataRange);
-  scene.cornerValues = cornerMeans(scene.mesh, scene.cellValues);
-
-  scene.contourLevels = options.contourValues;
-  for (const double value : equallySpacedValues(scene.range, options.equallySpacedContours)) {
-    scene.contourLevels.push_back(value);
-  }
-  std::sort(scene.contourLevels.begin(), scene.contourLevels.end());
-  scene.contours = contourLines(scene.mesh, scene.cornerValues, scene.contourLevels);
+  if (Status status = fillIn(document, options, scene); !status.ok()) return status;
 
   if (options.rays) scene.rays = rayLines(document);
   if (options.coverageLimit) scene.coverageLimit = coverageCurve(document);
+  scene.refractors = options.refractors;
   scene.surface = surfaceLine(*document.grid, document.xOffset);
   scene.geophones = allGeophones(document);
   scene.shots = eachPlaceOnce(document.shotPoints());
@@ -222,6 +268,11 @@ std::string quantityUnit(SectionQuantity quantity) {
       break;
   }
   return "m/s";
+}
+
+double rayOpacity(std::size_t count) {
+  const double many = static_cast<double>(std::max<std::size_t>(count, 500));
+  return std::max(0.45 * std::sqrt(500.0 / many), 0.1);
 }
 
 ValueRange niceRange(const ValueRange& range) {

@@ -3,6 +3,7 @@
 #include "base/Point2D.h"
 #include "base/Status.h"
 #include "view/ColorPalette.h"
+#include "view/ContourBands.h"
 #include "view/ContourLines.h"
 
 #include <optional>
@@ -21,15 +22,32 @@ enum class SectionQuantity {
   kInformationDensity,  ///< of the last inversion, as it comes
 };
 
+/// How the values fill the section.
+enum class SectionFill {
+  kNone,    ///< not at all: surface, markers, rays and refractors only
+  kCells,   ///< every cell in its colour
+  kSmooth,  ///< blended from corner to corner
+  kBands,   ///< in steps between the contour levels
+};
+
+/// A line of the layered interpretation.
+struct SectionLine {
+  std::string name;             ///< for the legend, UTF-8
+  std::vector<Point2D> points;  ///< survey positions
+};
+
 struct SectionSceneOptions {
   SectionQuantity quantity = SectionQuantity::kVelocity;
+  SectionFill fill = SectionFill::kCells;
   std::optional<ValueRange>
       range;  ///< to colour and contour; default: niceRange() of what is drawn
   std::vector<double> contourValues;  ///< drawn in addition to the equally spaced ones
   int equallySpacedContours = 0;      ///< how many values divide the range into equal parts
   static constexpr std::size_t kMaxContours = 1000;  ///< values altogether
+  bool contourLines = true;                          ///< false: levels for the bands only
   bool rays = false;
   bool coverageLimit = true;
+  std::vector<SectionLine> refractors;  ///< shown as they are
 };
 
 /// What a section shows, without a word on how it is drawn: every program and every output takes
@@ -38,35 +56,49 @@ struct SectionSceneOptions {
 struct SectionScene {
   std::string title;
   SectionQuantity quantity = SectionQuantity::kVelocity;
-  SectionMesh mesh;
-  std::vector<double> cellValues;    ///< per cell, drawn or not; not a number where undefined
-  std::vector<double> cornerValues;  ///< cornerMeans() of them
-  ValueRange dataRange;              ///< of the drawn cells
-  ValueRange range;                  ///< to colour with
-  std::vector<double> contourLevels;
+  SectionFill fill = SectionFill::kCells;
+  SectionMesh mesh;                   ///< a cell counts as drawn when it has a value, too
+  std::vector<double> cellValues;     ///< per cell, drawn or not; not a number where undefined
+  std::vector<double> velocities;     ///< per cell, m/s, whatever the quantity
+  std::vector<double> cornerValues;   ///< cornerMeans() of them
+  ValueRange dataRange;               ///< of the drawn cells
+  ValueRange range;                   ///< to colour with
+  std::vector<double> contourLevels;  ///< ascending, each once
   std::vector<ContourLine> contours;
+  ContourBands bands;  ///< between bandLevels(); filled for SectionFill::kBands only
   std::vector<std::vector<Point2D>> rays;  ///< empty when not asked for
   std::vector<Point2D> coverageLimit;      ///< a curve; empty when there is none
-  std::vector<Point2D> surface;            ///< top line of the grid, left to right
-  std::vector<Point2D> geophones;          ///< of all strings, ascending x, each place once
-  std::vector<Point2D> shots;              ///< of all records, ascending x, each place once
-  double rmsPercent = -1.0;                ///< misfit of the last inversion; negative: none
+  std::vector<SectionLine> refractors;
+  std::vector<Point2D> surface;    ///< top line of the grid, left to right
+  std::vector<Point2D> geophones;  ///< of all strings, ascending x, each place once
+  std::vector<Point2D> shots;      ///< of all records, ascending x, each place once
+  double rmsPercent = -1.0;        ///< misfit of the last inversion; negative: none
 
   /// Lower left and upper right of the drawn cells, geophones and shots.
   Point2D lowerLeft() const;
   Point2D upperRight() const;
+
+  /// The contour levels that lie inside the range: the edges of the bands.
+  std::vector<double> bandLevels() const;
 };
 
 /// Puts together what the section of a document shows. Fails, with `out` unchanged, when the
-/// document has no grid, when no cell is drawn or has a value, and for a range that is empty or not
-/// finite.
+/// document has no grid, when no cell is drawn or has a value (unless the section is not filled),
+/// and for a range that is empty or not finite.
 Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions& options,
                          SectionScene& out);
+
+/// The colours that fill a section, and the bar beside it.
+ColorTable sectionColors(const SectionScene& scene, const ColorPalette& palette);
 
 /// "Velocity", "Vertical gradient of velocity", ...
 std::string quantityName(SectionQuantity quantity);
 /// "m/s", "1/s", ...; empty for a quantity without a unit.
 std::string quantityUnit(SectionQuantity quantity);
+
+/// How opaque each of `count` rays is drawn, 0 to 1: the more there are the lighter, so that they
+/// do not hide the section.
+double rayOpacity(std::size_t count);
 
 /// The smallest range around `range` whose ends are multiples of 1, 2 or 5 times a power of ten, in
 /// steps of about a thirtieth of it. Never empty: a single value gets a range around it.

@@ -48,4 +48,15 @@ struct SectionViewSettings {
   ContourSettings contours;
 };
 
+/// The scene that these settings ask for. The palette's scale is the range of velocities, unless it
+/// is empty or upside down; other quantities take their own range.
+SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const ColorPalette& palette);
+
+/// Puts together what the section of a document shows with these settings. Fails as
+/// buildSectionScene() does, with `out` unchanged.
+/// \param refractors the layered profile, shown when the settings ask for it
+Status buildSectionScene(const TomoDocument& document, const SectionViewSettings& settings,
+                         const ColorPalette& palette, const std::vector<SectionLine>& refractors,
+                         SectionScene& out);
+
 }  // namespace talvesk

@@ -4,6 +4,7 @@
 #include "app/doFilteringDialog.h"
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
+#include "widgets/SectionSurface.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QApplication>
@@ -119,6 +120,7 @@ void storePictures(const QString& demo, const QString& language, const QString& 
 /// replaced.
 int main(int argc, char** argv) {
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+  QSurfaceFormat::setDefaultFormat(talvesk::sectionSurfaceFormat());
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   const QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Talvesk"));

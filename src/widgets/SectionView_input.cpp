@@ -1,0 +1,156 @@
+#include "widgets/SectionView_state.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+#include <cmath>
+
+// What mouse and keys do to the view.
+
+namespace talvesk {
+namespace {
+
+constexpr double kZoomStep = 1.25;
+constexpr double kPanShare = 0.1;      ///< of the plot, per arrow key
+constexpr double kTurnPerPixel = 0.4;  ///< degrees
+constexpr double kTurnPerKey = 5.0;    ///< degrees
+
+}  // namespace
+
+bool SectionView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == mState->paper && sheetEvent(event)) return true;
+  return QWidget::eventFilter(watched, event);
+}
+
+bool SectionView::sheetEvent(QEvent* event) {
+  State& s = *mState;
+  if (event->type() == QEvent::Resize) {
+    layOut();
+    return false;
+  }
+  if (isEmpty()) return false;
+  switch (event->type()) {
+    case QEvent::Wheel: {
+      auto* wheel = static_cast<QWheelEvent*>(event);
+      const double notches = wheel->angleDelta().y() / 120.0;
+      if (notches == 0.0) return false;
+      const QRect plot = plotRect();
+      s.camera.zoomAt(wheel->position() - plot.topLeft(), std::pow(kZoomStep, notches),
+                      plot.size());
+      s.fits = false;
+      applyCamera();
+      readCursor(wheel->position());
+      return true;
+    }
+    case QEvent::MouseButtonPress: {
+      auto* mouse = static_cast<QMouseEvent*>(event);
+      s.dragButton = mouse->button();
+      s.dragPoint = mouse->localPos();
+      return true;
+    }
+    case QEvent::MouseButtonDblClick:
+      resetView();
+      return true;
+    case QEvent::MouseMove: {
+      auto* mouse = static_cast<QMouseEvent*>(event);
+      if (s.dragButton != Qt::NoButton && mouse->buttons() != Qt::NoButton) drag(mouse->localPos());
+      readCursor(mouse->localPos());
+      return true;
+    }
+    case QEvent::MouseButtonRelease:
+      s.dragButton = Qt::NoButton;
+      s.paper->unsetCursor();
+      return true;
+    case QEvent::Leave:
+      emit cursorLeft();
+      return false;
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+      return event->type() == QEvent::KeyPress && key(static_cast<QKeyEvent*>(event)->key());
+    default:
+      return false;
+  }
+}
+
+void SectionView::drag(const QPointF& to) {
+  State& s = *mState;
+  const QPointF by = to - s.dragPoint;
+  s.dragPoint = to;
+  const bool turns = s.turning && s.dragButton != Qt::MiddleButton;
+  s.paper->setCursor(turns ? Qt::SizeAllCursor : Qt::ClosedHandCursor);
+  if (turns) {
+    s.camera.turnBy(-kTurnPerPixel * by.x(), kTurnPerPixel * by.y());
+  } else {
+    s.camera.pan(by);
+    s.fits = false;
+  }
+  applyCamera();
+}
+
+void SectionView::zoomIn() {
+  State& s = *mState;
+  const QSizeF size = plotRect().size();
+  s.camera.zoomAt({0.5 * size.width(), 0.5 * size.height()}, kZoomStep, size);
+  s.fits = false;
+  applyCamera();
+}
+
+void SectionView::zoomOut() {
+  State& s = *mState;
+  const QSizeF size = plotRect().size();
+  s.camera.zoomAt({0.5 * size.width(), 0.5 * size.height()}, 1.0 / kZoomStep, size);
+  s.fits = false;
+  applyCamera();
+}
+
+bool SectionView::key(int key) {
+  State& s = *mState;
+  QPointF way;
+  switch (key) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+      zoomIn();
+      return true;
+    case Qt::Key_Minus:
+      zoomOut();
+      return true;
+    case Qt::Key_Home:
+      resetView();
+      return true;
+    case Qt::Key_Left:
+      way = {-1.0, 0.0};
+      break;
+    case Qt::Key_Right:
+      way = {1.0, 0.0};
+      break;
+    case Qt::Key_Up:
+      way = {0.0, -1.0};
+      break;
+    case Qt::Key_Down:
+      way = {0.0, 1.0};
+      break;
+    default:
+      return false;
+  }
+  if (s.turning) {
+    s.camera.turnBy(kTurnPerKey * way.x(), -kTurnPerKey * way.y());
+  } else {
+    const QSizeF size = plotRect().size();
+    // The view goes the way of the arrow, so the picture goes the other.
+    s.camera.pan({-kPanShare * size.width() * way.x(), -kPanShare * size.height() * way.y()});
+    s.fits = false;
+  }
+  applyCamera();
+  return true;
+}
+
+void SectionView::readCursor(const QPointF& point) {
+  if (!QRectF(plotRect()).contains(point)) {
+    emit cursorLeft();
+    return;
+  }
+  emit cursorMoved(readSection(*mState->sheet.scene(), positionOf(point)));
+}
+
+}  // namespace talvesk

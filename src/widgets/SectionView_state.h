@@ -1,0 +1,51 @@
+#pragma once
+
+#include "widgets/SectionCamera.h"
+#include "widgets/SectionCanvas.h"
+#include "widgets/SectionSheet.h"
+#include "widgets/SectionView.h"
+
+#include <QWidget>
+
+class QDoubleSpinBox;
+class QLabel;
+class QStackedLayout;
+class QToolButton;
+
+namespace talvesk {
+
+/// Paints the paper over the canvas; it lies in front of it and takes no events.
+class SectionOverlay : public QWidget {
+ public:
+  SectionOverlay(QWidget* parent, const SectionSheet& sheet, const SectionCamera& camera);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const SectionSheet& mSheet;
+  const SectionCamera& mCamera;
+};
+
+struct SectionView::State {
+  SectionSheet sheet;
+  SectionCamera camera;
+  std::unique_ptr<SectionCanvas> canvas;  ///< none before the first section
+  bool fits = true;                       ///< nobody has moved the view since it was reset
+  bool turning = false;
+
+  QWidget* controls = nullptr;
+  QLabel* exaggerationLabel = nullptr;
+  QDoubleSpinBox* exaggeration = nullptr;
+  QToolButton* turn = nullptr;
+  QToolButton* reset = nullptr;
+  QStackedLayout* pages = nullptr;
+  QLabel* text = nullptr;
+  QWidget* paper = nullptr;
+  SectionOverlay* overlay = nullptr;
+
+  Qt::MouseButton dragButton = Qt::NoButton;
+  QPointF dragPoint;
+};
+
+}  // namespace talvesk
