@@ -60,6 +60,16 @@
     </message>
 </context>
 <context>
+    <name>talvesk::contourlines_dialog</name>
+    <message numerus="yes">
+        <source>%n value(s) of the list are no numbers from %1 to %2.</source>
+        <translation>
+            <numerusform>%n value of the list is no number from %1 to %2.</numerusform>
+            <numerusform>%n values of the list are no numbers from %1 to %2.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::doFilteringDialog</name>
     <message numerus="yes">
         <source>%n trace(s) stay as they were.</source>

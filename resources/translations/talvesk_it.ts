@@ -49,6 +49,103 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ColorPaletteWidget</name>
+    <message>
+        <source>Handles of the gradient</source>
+        <translation>Cursori del gradiente</translation>
+    </message>
+    <message>
+        <source>Drag a handle; double-click it for its colour.
+Keys: Left and Right move the selected handle (with Ctrl by one), Up and Down select another, Space asks for its colour, Insert adds and Delete removes one.</source>
+        <translation>Trascinare un cursore; doppio clic per sceglierne il colore.
+Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e Giù ne selezionano un altro, Spazio chiede il colore, Ins ne aggiunge uno e Canc lo toglie.</translation>
+    </message>
+    <message>
+        <source>Number of the handle that the value, the colour and Delete are for</source>
+        <translation>Numero del cursore a cui si riferiscono valore, colore ed eliminazione</translation>
+    </message>
+    <message>
+        <source>Where on the scale the selected handle stands</source>
+        <translation>Posizione del cursore selezionato sulla scala</translation>
+    </message>
+    <message>
+        <source>Value shown in the first colour, and below it</source>
+        <translation>Valore mostrato con il primo colore, come quelli inferiori</translation>
+    </message>
+    <message>
+        <source>Value shown in the last colour, and above it</source>
+        <translation>Valore mostrato con l&apos;ultimo colore, come quelli superiori</translation>
+    </message>
+    <message>
+        <source>Add Slider</source>
+        <translation>Aggiungi cursore</translation>
+    </message>
+    <message>
+        <source>Add a handle between the selected one and the next, in the colour of that place</source>
+        <translation>Aggiunge un cursore tra quello selezionato e il successivo, con il colore di quel punto</translation>
+    </message>
+    <message>
+        <source>Set Selected Slider Color</source>
+        <translation>Colore del cursore selezionato</translation>
+    </message>
+    <message>
+        <source>Choose the handle&apos;s colour</source>
+        <translation>Sceglie il colore del cursore</translation>
+    </message>
+    <message>
+        <source>Delete Selected Slider</source>
+        <translation>Elimina il cursore selezionato</translation>
+    </message>
+    <message>
+        <source>Remove the selected handle; the first and the last stay</source>
+        <translation>Toglie il cursore selezionato; il primo e l&apos;ultimo restano</translation>
+    </message>
+    <message>
+        <source>Selected Handle</source>
+        <translation>Cursore selezionato</translation>
+    </message>
+    <message>
+        <source>Value: </source>
+        <translation>Valore: </translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimo</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Massimo</translation>
+    </message>
+    <message>
+        <source>The colours of a built-in palette stay as they are; Edit Palette makes a copy.</source>
+        <translation>I colori di una tavolozza predefinita non si cambiano; Modifica tavolozza ne crea una copia.</translation>
+    </message>
+    <message>
+        <source>Cannot move handle at mimimum value.</source>
+        <translation>Il cursore del valore minimo non si può spostare.</translation>
+    </message>
+    <message>
+        <source>Cannot move handle at maximum value.</source>
+        <translation>Il cursore del valore massimo non si può spostare.</translation>
+    </message>
+    <message>
+        <source>There is no room for another handle here.</source>
+        <translation>Qui non c&apos;è posto per un altro cursore.</translation>
+    </message>
+    <message>
+        <source>The first and the last handle stay.</source>
+        <translation>Il primo e l&apos;ultimo cursore restano.</translation>
+    </message>
+    <message>
+        <source>Colour of the selected handle</source>
+        <translation>Colore del cursore selezionato</translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <translation> di %1</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::Messages</name>
     <message>
         <source>The document has been modified</source>
@@ -64,6 +161,133 @@
             <numerusform>e un altro</numerusform>
             <numerusform>e altri %n</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PaletteDialog</name>
+    <message>
+        <source>Palette Settings</source>
+        <translation>Impostazioni della tavolozza</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Tavolozza</translation>
+    </message>
+    <message>
+        <source>Palette that colours the section</source>
+        <translation>Tavolozza che colora la sezione</translation>
+    </message>
+    <message>
+        <source>Load palettes from files</source>
+        <translation>Carica tavolozze da file</translation>
+    </message>
+    <message>
+        <source>Save this palette to a file</source>
+        <translation>Salva questa tavolozza in un file</translation>
+    </message>
+    <message>
+        <source>Create New Palette</source>
+        <translation>Crea nuova tavolozza</translation>
+    </message>
+    <message>
+        <source>Add a palette from black to white and select it</source>
+        <translation>Aggiunge una tavolozza dal nero al bianco e la seleziona</translation>
+    </message>
+    <message>
+        <source>Edit Palette</source>
+        <translation>Modifica tavolozza</translation>
+    </message>
+    <message>
+        <source>Edit the colours; of a built-in palette, those of a copy</source>
+        <translation>Modifica i colori; per una tavolozza predefinita, quelli di una copia</translation>
+    </message>
+    <message>
+        <source>Rename Palette</source>
+        <translation>Rinomina tavolozza</translation>
+    </message>
+    <message>
+        <source>Give the palette another name; built-in ones keep theirs</source>
+        <translation>Dà un altro nome alla tavolozza; quelle predefinite lo conservano</translation>
+    </message>
+    <message>
+        <source>Delete Palette</source>
+        <translation>Elimina tavolozza</translation>
+    </message>
+    <message>
+        <source>Remove the palette; built-in ones stay</source>
+        <translation>Toglie la tavolozza; quelle predefinite restano</translation>
+    </message>
+    <message>
+        <source>Number of colours</source>
+        <translation>Numero di colori</translation>
+    </message>
+    <message>
+        <source>Into how many colours the gradient is cut</source>
+        <translation>In quanti colori è diviso il gradiente</translation>
+    </message>
+    <message>
+        <source>Range from Data</source>
+        <translation>Intervallo dai dati</translation>
+    </message>
+    <message>
+        <source>Take minimum and maximum from what the section shows</source>
+        <translation>Prende minimo e massimo dai valori mostrati nella sezione</translation>
+    </message>
+    <message>
+        <source>Lock the range</source>
+        <translation>Blocca l&apos;intervallo</translation>
+    </message>
+    <message>
+        <source>Keep minimum and maximum when another palette is chosen or another line is shown</source>
+        <translation>Conserva minimo e massimo quando si sceglie un&apos;altra tavolozza o si mostra un&apos;altra linea</translation>
+    </message>
+    <message>
+        <source>Talvesk Palette (*.xml)</source>
+        <translation>Tavolozza di Talvesk (*.xml)</translation>
+    </message>
+    <message>
+        <source>MIN: %1, MAX: %2</source>
+        <translation>MIN: %1, MAX: %2</translation>
+    </message>
+    <message>
+        <source>New palette</source>
+        <translation>Nuova tavolozza</translation>
+    </message>
+    <message>
+        <source>%1 - copy</source>
+        <translation>%1 - copia</translation>
+    </message>
+    <message>
+        <source>Save new palette as : </source>
+        <translation>Salva la nuova tavolozza come : </translation>
+    </message>
+    <message>
+        <source>There is a palette of this name already.</source>
+        <translation>Esiste già una tavolozza con questo nome.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Questo nome è troppo lungo.</translation>
+    </message>
+    <message>
+        <source>Save Palette</source>
+        <translation>Salva tavolozza</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Sostituire il file?</translation>
+    </message>
+    <message>
+        <source>Error while saving palette.</source>
+        <translation>Errore durante il salvataggio della tavolozza.</translation>
+    </message>
+    <message>
+        <source>Open Palette</source>
+        <translation>Apri tavolozza</translation>
+    </message>
+    <message>
+        <source>Error while loading palette.</source>
+        <translation>Errore durante il caricamento della tavolozza.</translation>
     </message>
 </context>
 <context>
@@ -1554,6 +1778,212 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::contourlines_dialog</name>
+    <message>
+        <source>Contour Lines - Settings</source>
+        <translation>Isolinee - Impostazioni</translation>
+    </message>
+    <message>
+        <source>Contour values</source>
+        <translation>Valori delle isolinee</translation>
+    </message>
+    <message>
+        <source>Equally spaced contour values</source>
+        <translation>Valori equidistanti</translation>
+    </message>
+    <message>
+        <source>Values that divide the range into equal parts</source>
+        <translation>Valori che dividono l&apos;intervallo in parti uguali</translation>
+    </message>
+    <message>
+        <source># Values</source>
+        <translation>N. di valori</translation>
+    </message>
+    <message>
+        <source>How many values divide the range</source>
+        <translation>Quanti valori dividono l&apos;intervallo</translation>
+    </message>
+    <message>
+        <source>Customized Contour Values</source>
+        <translation>Valori personalizzati</translation>
+    </message>
+    <message>
+        <source>The values of the list</source>
+        <translation>I valori dell&apos;elenco</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valori</translation>
+    </message>
+    <message>
+        <source>Add One More Value</source>
+        <translation>Aggiungi un valore</translation>
+    </message>
+    <message>
+        <source>Add an empty line to the list</source>
+        <translation>Aggiunge una riga vuota all&apos;elenco</translation>
+    </message>
+    <message>
+        <source>Load Isovalues</source>
+        <translation>Carica isovalori</translation>
+    </message>
+    <message>
+        <source>Replace the list by the values of a file</source>
+        <translation>Sostituisce l&apos;elenco con i valori di un file</translation>
+    </message>
+    <message>
+        <source>Save Isovalues</source>
+        <translation>Salva isovalori</translation>
+    </message>
+    <message>
+        <source>Write the list to a file</source>
+        <translation>Scrive l&apos;elenco in un file</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>Togli tutti</translation>
+    </message>
+    <message>
+        <source>Empty the list</source>
+        <translation>Svuota l&apos;elenco</translation>
+    </message>
+    <message>
+        <source>Where contours are shown</source>
+        <translation>Dove mostrare le isolinee</translation>
+    </message>
+    <message>
+        <source>Show Contours (on top of  Tomographic Profile)</source>
+        <translation>Mostra le isolinee (sul profilo tomografico)</translation>
+    </message>
+    <message>
+        <source>Lines over the velocities</source>
+        <translation>Linee sopra le velocità</translation>
+    </message>
+    <message>
+        <source>Show Filled Contours</source>
+        <translation>Mostra le fasce colorate</translation>
+    </message>
+    <message>
+        <source>Velocities in bands from one value to the next</source>
+        <translation>Velocità a fasce, da un valore al successivo</translation>
+    </message>
+    <message>
+        <source>Show Contours (on Vertical Gradient of Velocity)</source>
+        <translation>Mostra le isolinee (sul gradiente verticale della velocità)</translation>
+    </message>
+    <message>
+        <source>Lines over the vertical gradient; not together with filled contours</source>
+        <translation>Linee sopra il gradiente verticale; non insieme alle fasce colorate</translation>
+    </message>
+    <message>
+        <source>Show Contours (on Laplacian Gradient of Velocity)</source>
+        <translation>Mostra le isolinee (sul laplaciano della velocità)</translation>
+    </message>
+    <message>
+        <source>Lines over the Laplacian; not together with filled contours</source>
+        <translation>Linee sopra il laplaciano; non insieme alle fasce colorate</translation>
+    </message>
+    <message>
+        <source>Lines and labels</source>
+        <translation>Linee ed etichette</translation>
+    </message>
+    <message>
+        <source>Show label every N contour lines</source>
+        <translation>Etichetta ogni N isolinee</translation>
+    </message>
+    <message>
+        <source>1 labels every line, 2 every second one</source>
+        <translation>1: un&apos;etichetta a ogni linea, 2: una linea sì e una no</translation>
+    </message>
+    <message>
+        <source>No labels</source>
+        <translation>Nessuna</translation>
+    </message>
+    <message>
+        <source>Label size</source>
+        <translation>Dimensione delle etichette</translation>
+    </message>
+    <message>
+        <source>Size of the labels in points</source>
+        <translation>Dimensione delle etichette in punti</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Contours colour:</source>
+        <translation>Colore delle isolinee:</translation>
+    </message>
+    <message>
+        <source>Choose the colour of the lines</source>
+        <translation>Sceglie il colore delle linee</translation>
+    </message>
+    <message>
+        <source>Contours colour</source>
+        <translation>Colore delle isolinee</translation>
+    </message>
+    <message>
+        <source>Isolines (*.csv)</source>
+        <translation>Isolinee (*.csv)</translation>
+    </message>
+    <message>
+        <source>The section shows values from %1 to %2 %3</source>
+        <translation>La sezione mostra valori da %1 a %2 %3</translation>
+    </message>
+    <message>
+        <source>Value : </source>
+        <translation>Valore : </translation>
+    </message>
+    <message>
+        <source>Remove this value</source>
+        <translation>Togli questo valore</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n value(s) of the list are no numbers from %1 to %2.</source>
+        <translation>
+            <numerusform>%n valore dell&apos;elenco non è un numero da %1 a %2.</numerusform>
+            <numerusform>%n valori dell&apos;elenco non sono numeri da %1 a %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Sostituire il file?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>Cannot save file </source>
+        <translation>Impossibile salvare il file </translation>
+    </message>
+    <message>
+        <source>Cannot open file </source>
+        <translation>Impossibile aprire il file </translation>
+    </message>
+    <message>
+        <source>Invalid value at line </source>
+        <translation>Valore non valido alla riga </translation>
+    </message>
+    <message>
+        <source>Or wrong CVS separator.</source>
+        <translation>Oppure separatore CSV sbagliato.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Attenzione</translation>
+    </message>
+    <message>
+        <source>Some loaded isovalues were out of range. Ignored.</source>
+        <translation>Alcuni isovalori caricati erano fuori intervallo. Ignorati.</translation>
+    </message>
+    <message>
+        <source>Select background color</source>
+        <translation>Scelta del colore delle isolinee</translation>
     </message>
 </context>
 <context>

@@ -30,6 +30,11 @@ void showError(QWidget* parent, const QString& title, const QString& text, const
        QStringLiteral("color: red; font-size: 11px;"));
 }
 
+void showWarning(QWidget* parent, const QString& title, const QString& text,
+                 const QString& details) {
+  show(parent, QMessageBox::Warning, title, text, details);
+}
+
 void showNote(QWidget* parent, const QString& title, const QString& text, const QString& details) {
   show(parent, QMessageBox::Information, title, text, details);
 }

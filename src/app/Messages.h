@@ -10,6 +10,10 @@ namespace talvesk {
 void showError(QWidget* parent, const QString& title, const QString& text,
                const QString& details = QString());
 
+/// A box for what the user should look after.
+void showWarning(QWidget* parent, const QString& title, const QString& text,
+                 const QString& details = QString());
+
 /// A box for what the user should know although nothing went wrong.
 void showNote(QWidget* parent, const QString& title, const QString& text,
               const QString& details = QString());

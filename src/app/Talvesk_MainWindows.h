@@ -17,6 +17,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QComboBox;
@@ -218,6 +219,9 @@ class Talvesk_MainWindows : public QMainWindow {
   void refreshTomographyCommands();
   void refreshSectionCommands();
   void refreshPaletteCommands();
+  std::optional<SectionScene> plainSection(SectionQuantity quantity) const;
+  void logContours();
+  void takeOverPalettes(ColorPaletteList palettes);  ///< of another project; a locked range stays
   void refreshRefractionCommands();
   void refreshProjectCommands();
   void refreshExportCommands();

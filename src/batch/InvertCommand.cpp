@@ -5,7 +5,6 @@
 #include "batch/Images.h"
 #include "batch/Interrupt.h"
 #include "batch/OutputFiles.h"
-#include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
@@ -20,8 +19,7 @@
 namespace talvesk {
 namespace {
 
-Status readInput(const InvertOptions& options, const Channels& channels, LoadedProject& project) {
-  TomoDocument& document = project.document;
+Status readInput(const InvertOptions& options, const Channels& channels, TomoDocument& document) {
   if (options.input.empty()) {
     PickingManner manner;
     manner.threads = options.parameters.singleThread ? 1 : 0;
@@ -30,7 +28,6 @@ Status readInput(const InvertOptions& options, const Channels& channels, LoadedP
     manner.summary = channels.summary;
     return pickShotFiles(options.shots, manner, document);
   }
-  if (isProjectFile(options.input)) return readProject(options.input, options.quiet, project);
   TravelTimeData data;
   const Status status = readPicks(options.input, data, options.quiet);
   if (!status.ok()) return status;
@@ -56,13 +53,7 @@ std::vector<std::string> inputsOf(const InvertOptions& options) {
   return filesOf(options.shots);
 }
 
-/// A project continues from the grid that it has, as it would in the window.
-bool continues(const InvertOptions& options, const TomoDocument& document) {
-  return !options.ownGrid && document.grid != nullptr && document.grid->cellCount() > 0;
-}
-
 Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log) {
-  if (continues(options, document)) return {};
   SurveyProfile profile;
   GridSettings settings = proposeGrid(document, profile, log);
   if (!profile.hasGeometry()) {
@@ -86,31 +77,25 @@ bool anyPick(const TomoDocument& document) {
 }
 
 /// What the window would ask about; nobody is there to answer.
-void warnAboutChoices(const TomographyParameters& parameters, const TomoDocument& document) {
+void warnAboutChoices(const InvertOptions& options, const TomoDocument& document) {
   if (!anyPick(document)) {
     warn("there are no picks; the starting model will not be fitted to anything");
   } else if (!document.picksComplete()) {
     warn("uncomplete set of picks; the inversion is run anyway");
   }
-  if (parameters.minVelocity > parameters.maxVelocity) {
+  const TomographyParameters& run = options.parameters;
+  if (run.minVelocity > run.maxVelocity) {
     warn("the minimum velocity is above the maximum; every cell that changes ends at the maximum");
   }
 }
 
-TomographyParameters parametersOf(const InvertOptions& options, const TomoDocument& document) {
-  TomographyParameters parameters = options.parameters;
-  parameters.minVelocity = options.minVelocity.value_or(document.minVelocity);
-  parameters.maxVelocity = options.maxVelocity.value_or(document.maxVelocity);
-  return parameters;
-}
-
-TomographyResult invert(const InvertOptions& options, const TomographyParameters& parameters,
-                        const Channels& channels, TomoDocument& document, Log& log) {
+TomographyResult invert(const InvertOptions& options, const Channels& channels,
+                        TomoDocument& document, Log& log) {
   listenForInterrupt(!options.quiet);
   Progress progress(channels.progress, std::cerr, options.parameters.externalIterations);
   TomographyResult result = runInversion(
-      document, parameters, log, [&](const TomographyProgress& state) { progress.show(state); },
-      interruptRequested);
+      document, options.parameters, log,
+      [&](const TomographyProgress& state) { progress.show(state); }, interruptRequested);
   progress.finish();
   return result;
 }
@@ -142,9 +127,8 @@ void summarize(const InvertOptions& options, const TomoDocument& document,
 }
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
-int writeResults(const InvertOptions& options, const LoadedProject& project,
+int writeResults(const InvertOptions& options, const TomoDocument& document,
                  const TomographyResult& result) {
-  const TomoDocument& document = project.document;
   int exitCode = kDone;
   const auto attempt = [&](const std::string& path, const auto& write) {
     if (path.empty()) return;
@@ -156,7 +140,6 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
     return writeGriddedText(options.gridded, document, {options.lineY, options.zOffset});
   });
   attempt(options.otte, [&] { return writeTravelTimes(options.otte, document); });
-  attempt(options.project, [&] { return writeProject(options.project, options.quiet, project); });
   for (const std::string& image : options.images) {
     attempt(image, [&] { return drawSection(document, options, image); });
   }
@@ -168,10 +151,8 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
 int run(const InvertOptions& options) {
   const Channels channels =
       openChannels(options.json == kStandardOutput, options.quiet, options.verbose);
-  std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
-                                     {"--otte", options.otte},
-                                     {"--json", options.json},
-                                     {"--project", options.project}};
+  std::vector<OutputFile> outputs = {
+      {"--gridded", options.gridded}, {"--otte", options.otte}, {"--json", options.json}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   const Status places = checkOutputFiles(outputs, inputsOf(options));
   if (places.code() == kWrongUsage) return wrongUsage("invert", places.message());
@@ -179,17 +160,15 @@ int run(const InvertOptions& options) {
   if (!options.images.empty()) prepareDrawing();
 
   Log log;
-  LoadedProject project;
-  TomoDocument& document = project.document;
-  Status status = readInput(options, channels, project);
+  TomoDocument document;
+  Status status = readInput(options, channels, document);
   if (status.ok()) status = setUpModel(options, document, log);
   if (!status.ok()) return failed(status.message());
-  const TomographyParameters parameters = parametersOf(options, document);
-  if (!options.quiet) warnAboutChoices(parameters, document);
+  if (!options.quiet) warnAboutChoices(options, document);
 
-  const TomographyResult result = invert(options, parameters, channels, document, log);
+  const TomographyResult result = invert(options, channels, document, log);
   if (!result.status.ok()) return failed(result.status.message());
-  const int exitCode = writeResults(options, project, result);
+  const int exitCode = writeResults(options, document, result);
   summarize(options, document, result, *channels.summary);
   return exitCode;
 }

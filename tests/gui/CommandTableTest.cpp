@@ -158,9 +158,7 @@ TEST_F(Commands, writeTheirNameToTheLogFirst) {
                                "actionShow_rays",
                                "actionExportSeismic_line",
                                "actionRefraction",
-                               "actionGridded_Data",
-                               "actionPalette",
-                               "actionShow_Contour_Lines"};
+                               "actionGridded_Data"};
   for (const char* name : names) {
     QMetaObject::invokeMethod(window.get(), ("on_" + std::string(name) + "_triggered").c_str());
     EXPECT_THAT(log(), ::testing::HasSubstr("] Talvesk_MainWindows::on_" + std::string(name) +

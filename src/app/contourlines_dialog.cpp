@@ -1,0 +1,301 @@
+#include "app/contourlines_dialog.h"
+
+#include "app/Messages.h"
+#include "app/SelectCSVDelimiterDialog.h"
+#include "base/TextNumber.h"
+#include "io/IsovalueFile.h"
+#include "ui_contourlines_dialog.h"
+
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPixmap>
+#include <QPushButton>
+#include <QToolButton>
+#include <algorithm>
+
+namespace talvesk {
+namespace {
+
+QLocale numberLocale() {
+  QLocale locale;
+  locale.setNumberOptions(QLocale::RejectGroupSeparator | QLocale::OmitGroupSeparator);
+  return locale;
+}
+
+/// As the user writes numbers, or with a decimal point.
+bool numberOf(const QString& text, double& value) {
+  bool ok = false;
+  value = numberLocale().toDouble(text.trimmed(), &ok);
+  if (ok) return true;
+  return parseWholeDouble(text.trimmed().toStdString(), value) == NumberError::kNone;
+}
+
+QString textOf(double value) {
+  return numberLocale().toString(value, 'g', QLocale::FloatingPointShortest);
+}
+
+QString isovalueFilter() {
+  return contourlines_dialog::tr("Isolines (*.csv)");
+}
+
+}  // namespace
+
+contourlines_dialog::contourlines_dialog(const ContourSettings& settings, ValueRange range,
+                                         const QString& unit, QWidget* parent)
+    : QDialog(parent), mUi(std::make_unique<Ui::contourlines_dialog>()), mRange(range) {
+  mUi->setupUi(this);
+  setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  const QLocale locale;
+  mUi->rangeLabel->setText(
+      tr("The section shows values from %1 to %2 %3")
+          .arg(locale.toString(range.min, 'g', 6), locale.toString(range.max, 'g', 6), unit)
+          .trimmed());
+  // The look of a fault must be legible on light and on dark windows.
+  mUi->faultLabel->setStyleSheet(QStringLiteral("color: #d03020;"));
+  mUi->rowsLayout->setAlignment(Qt::AlignTop);
+  connectControls();
+  fillIn(settings);
+}
+
+contourlines_dialog::~contourlines_dialog() = default;
+
+void contourlines_dialog::connectControls() {
+  connect(mUi->equallySpacedCB, &QCheckBox::clicked, this,
+          &contourlines_dialog::enable_add_number_of_values);
+  connect(mUi->customizedCB, &QCheckBox::clicked, this,
+          &contourlines_dialog::enable_add_more_values);
+  connect(mUi->filledContours, &QCheckBox::clicked, this,
+          &contourlines_dialog::enable_filled_contours);
+  connect(mUi->add_button, &QPushButton::clicked, this, &contourlines_dialog::add_value);
+  connect(mUi->save_button, &QPushButton::clicked, this, &contourlines_dialog::saveIsovalues);
+  connect(mUi->load_button, &QPushButton::clicked, this, &contourlines_dialog::loadIsovalues);
+  connect(mUi->remove_all_button, &QPushButton::clicked, this, &contourlines_dialog::removeAll);
+  connect(mUi->toolColorButton, &QToolButton::clicked, this, &contourlines_dialog::chooseColor);
+}
+
+void contourlines_dialog::fillIn(const ContourSettings& settings) {
+  mUi->spinBox->setValue(settings.numberOfValues);
+  mUi->every_N_contour_lines_spinBox->setValue(settings.labelEvery);
+  mUi->fontSize->setValue(settings.labelSize);
+  mUi->profileContours->setChecked(settings.onProfile);
+  mUi->filledContours->setChecked(settings.filled);
+  mUi->laplacianGradientContours->setChecked(settings.onLaplacian);
+  mUi->gradientContours->setChecked(settings.onVerticalGradient);
+  mColor = QColor::fromRgbF(settings.color.r, settings.color.g, settings.color.b);
+  showColor();
+  for (const double value : settings.customValues) addRow(textOf(value));
+  enable_filled_contours();
+  chooseCustomized(settings.customized);
+}
+
+ContourSettings contourlines_dialog::settings() const {
+  ContourSettings chosen;
+  chosen.customized = mUi->customizedCB->isChecked();
+  chosen.numberOfValues = mUi->spinBox->value();
+  chosen.customValues = values();
+  chosen.labelEvery = mUi->every_N_contour_lines_spinBox->value();
+  chosen.labelSize = mUi->fontSize->value();
+  chosen.color = {mColor.redF(), mColor.greenF(), mColor.blueF()};
+  chosen.onProfile = mUi->profileContours->isChecked();
+  chosen.filled = mUi->filledContours->isChecked();
+  chosen.onLaplacian = mUi->laplacianGradientContours->isChecked();
+  chosen.onVerticalGradient = mUi->gradientContours->isChecked();
+  return chosen;
+}
+
+// One of the two is always on: to switch one off is to switch the other on.
+void contourlines_dialog::enable_add_number_of_values(bool enabled) {
+  chooseCustomized(!enabled);
+}
+
+void contourlines_dialog::enable_add_more_values(bool enabled) {
+  chooseCustomized(enabled);
+}
+
+void contourlines_dialog::chooseCustomized(bool customized) {
+  mUi->equallySpacedCB->setChecked(!customized);
+  mUi->customizedCB->setChecked(customized);
+  mUi->spinBox->setEnabled(!customized);
+  mUi->spinBoxLabel->setEnabled(!customized);
+  for (QWidget* each :
+       {static_cast<QWidget*>(mUi->scrollArea), static_cast<QWidget*>(mUi->add_button),
+        static_cast<QWidget*>(mUi->load_button)}) {
+    each->setEnabled(customized);
+  }
+  check();
+}
+
+// Filled contours fill the velocity section: its values are none of the other two quantities'.
+void contourlines_dialog::enable_filled_contours() {
+  const bool filled = mUi->filledContours->isChecked();
+  for (QCheckBox* other : {mUi->laplacianGradientContours, mUi->gradientContours}) {
+    if (filled) other->setChecked(false);
+    other->setEnabled(!filled);
+  }
+}
+
+void contourlines_dialog::add_value() {
+  addRow(QString());
+  check();
+  editors().back()->setFocus();
+}
+
+void contourlines_dialog::addRow(const QString& text) {
+  auto* row = new QWidget;
+  auto* edit = new QLineEdit(text);
+  auto* label = new QLabel(tr("Value : "));
+  label->setBuddy(edit);
+  auto* remove = new QToolButton;
+  remove->setText(QStringLiteral("\u00D7"));
+  remove->setToolTip(tr("Remove this value"));
+  remove->setAccessibleName(remove->toolTip());
+  auto* line = new QHBoxLayout(row);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->addWidget(label);
+  line->addWidget(edit, 1);
+  line->addWidget(remove);
+  mUi->rowsLayout->addWidget(row);
+  connect(edit, &QLineEdit::textChanged, this, &contourlines_dialog::check);
+  connect(remove, &QToolButton::clicked, this, [this, row] { removeRow(row); });
+}
+
+void contourlines_dialog::removeRow(QWidget* row) {
+  mUi->rowsLayout->removeWidget(row);
+  row->hide();
+  row->deleteLater();  // its own button calls
+  check();
+}
+
+void contourlines_dialog::removeAll() {
+  while (QLayoutItem* item = mUi->rowsLayout->takeAt(0)) {
+    delete item->widget();
+    delete item;
+  }
+  check();
+}
+
+std::vector<QLineEdit*> contourlines_dialog::editors() const {
+  std::vector<QLineEdit*> found;
+  for (int i = 0; i < mUi->rowsLayout->count(); ++i) {
+    found.push_back(mUi->rowsLayout->itemAt(i)->widget()->findChild<QLineEdit*>());
+  }
+  return found;
+}
+
+bool contourlines_dialog::isInRange(const QString& text) const {
+  double value = 0.0;
+  return numberOf(text, value) && mRange.contains(value);
+}
+
+std::vector<double> contourlines_dialog::values() const {
+  std::vector<double> found;
+  for (const QLineEdit* edit : editors()) {
+    double value = 0.0;
+    if (numberOf(edit->text(), value) && mRange.contains(value)) found.push_back(value);
+  }
+  std::sort(found.begin(), found.end());
+  found.erase(std::unique(found.begin(), found.end()), found.end());
+  return found;
+}
+
+/// Marks what cannot be used; empty lines are no values and do no harm.
+void contourlines_dialog::check() {
+  int wrong = 0;
+  for (QLineEdit* edit : editors()) {
+    const bool fine = edit->text().trimmed().isEmpty() || isInRange(edit->text());
+    const QString style = fine ? QString() : QStringLiteral("color: #d03020;");
+    if (edit->styleSheet() != style) edit->setStyleSheet(style);
+    wrong += fine ? 0 : 1;
+  }
+  const bool customized = mUi->customizedCB->isChecked();
+  const QLocale locale;
+  mUi->faultLabel->setText(
+      !customized || wrong == 0
+          ? QString()
+          : tr("%n value(s) of the list are no numbers from %1 to %2.", nullptr, wrong)
+                .arg(locale.toString(mRange.min, 'g', 6), locale.toString(mRange.max, 'g', 6)));
+  mUi->save_button->setEnabled(customized && wrong == 0 && !values().empty());
+  mUi->remove_all_button->setEnabled(customized && mUi->rowsLayout->count() > 0);
+  mUi->add_button->setEnabled(customized &&
+                              mUi->rowsLayout->count() < static_cast<int>(kMostIsovalues));
+  mUi->buttonBox->button(QDialogButtonBox::Ok)->setEnabled(!customized || wrong == 0);
+}
+
+void contourlines_dialog::saveIsovalues() {
+  const QString typed =
+      QFileDialog::getSaveFileName(this, tr("Save Isovalues"), QDir::homePath(), isovalueFilter());
+  if (typed.isEmpty()) return;
+  const QString file = QString::fromStdString(withIsovalueSuffix(typed.toStdString()));
+  // The file dialog has asked about the name as it was typed.
+  if (file != typed && QFileInfo::exists(file) &&
+      !askYesNo(this, tr("Save Isovalues"), tr("Replace the file?"), file, false)) {
+    return;
+  }
+  const auto separator = SelectCSVDelimiterDialog::ask(this);
+  if (!separator) return;
+  const Status saved = writeIsovalues(file.toStdString(), *separator, values());
+  if (!saved.ok()) {
+    showError(this, tr("Error"), tr("Cannot save file ") + file,
+              QString::fromStdString(saved.message()));
+  }
+}
+
+void contourlines_dialog::loadIsovalues() {
+  const QString typed =
+      QFileDialog::getOpenFileName(this, tr("Save Isovalues"), QDir::homePath(), isovalueFilter());
+  if (typed.isEmpty()) return;
+  const std::string file = withIsovalueSuffix(typed.toStdString());
+  std::string text;
+  if (const Status opened = readIsovalueText(file, text); !opened.ok()) {
+    return showError(this, tr("Error"), tr("Cannot open file ") + QString::fromStdString(file),
+                     QString::fromStdString(opened.message()));
+  }
+  const auto separator = SelectCSVDelimiterDialog::ask(this);
+  if (!separator) return;
+  const IsovalueRead read = parseIsovalues(text, file, *separator);
+  if (read.invalidLine > 0) {
+    showError(this, tr("Error"),
+              tr("Invalid value at line ") + QString::number(read.invalidLine) + QLatin1Char('\n') +
+                  tr("Or wrong CVS separator."));
+  } else if (!read.status.ok()) {
+    showError(this, tr("Error"), QString::fromStdString(read.status.message()));
+  }
+  // A file that gave nothing, as with the wrong separator, does not cost the list.
+  if (read.status.ok() || !read.values.empty()) takeLoaded(read.values);
+}
+
+void contourlines_dialog::takeLoaded(const std::vector<double>& loaded) {
+  removeAll();
+  bool outside = false;
+  for (const double value : loaded) {
+    if (mRange.contains(value)) {
+      addRow(textOf(value));
+    } else {
+      outside = true;
+    }
+  }
+  check();
+  if (outside) {
+    showWarning(this, tr("Warning"), tr("Some loaded isovalues were out of range. Ignored."));
+  }
+}
+
+void contourlines_dialog::chooseColor() {
+  const QColor chosen = QColorDialog::getColor(mColor, this, tr("Select background color"));
+  if (!chosen.isValid()) return;
+  mColor = chosen;
+  showColor();
+}
+
+void contourlines_dialog::showColor() {
+  QPixmap patch(48, 16);
+  patch.fill(mColor);
+  mUi->toolColorButton->setIconSize(patch.size());
+  mUi->toolColorButton->setIcon(patch);
+}
+
+}  // namespace talvesk

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "view/SectionViewSettings.h"
+
+#include <QColor>
+#include <QDialog>
+#include <memory>
+#include <vector>
+
+class QLineEdit;
+
+namespace talvesk {
+
+namespace Ui {
+class contourlines_dialog;
+}
+
+/// Asks what contours show and how: equally spaced values or a list of one's own, which can be
+/// saved and loaded; over which quantities; labels and colour. A value of the list that is no
+/// number within the range is marked as it is typed, and keeps the dialog from being accepted.
+class contourlines_dialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// \param range of the quantity that the section shows
+  /// \param unit of it, may be empty
+  contourlines_dialog(const ContourSettings& settings, ValueRange range, const QString& unit,
+                      QWidget* parent = nullptr);
+  ~contourlines_dialog() override;
+
+  /// What is chosen; custom values ascending, each once.
+  ContourSettings settings() const;
+
+ public slots:
+  void enable_add_number_of_values(bool enabled);
+  void enable_add_more_values(bool enabled);
+  void enable_filled_contours();
+  void add_value();
+
+ private:
+  void connectControls();
+  void fillIn(const ContourSettings& settings);
+  void chooseCustomized(bool customized);
+  void addRow(const QString& text);
+  void removeRow(QWidget* row);
+  void removeAll();
+  std::vector<QLineEdit*> editors() const;
+  std::vector<double> values() const;
+  bool isInRange(const QString& text) const;
+  void check();
+  void saveIsovalues();
+  void loadIsovalues();
+  void takeLoaded(const std::vector<double>& loaded);
+  void chooseColor();
+  void showColor();
+
+  std::unique_ptr<Ui::contourlines_dialog> mUi;
+  ValueRange mRange;
+  QColor mColor;
+};
+
+}  // namespace talvesk
