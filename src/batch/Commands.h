@@ -10,6 +10,7 @@ namespace talvesk {
 int run(const InfoOptions& options);
 int run(const PickOptions& options);
 int run(const InvertOptions& options);
+int run(const RefractOptions& options);
 int run(const ConvertOptions& options);
 int run(const DemoOptions& options);
 

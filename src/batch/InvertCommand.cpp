@@ -19,21 +19,6 @@
 namespace talvesk {
 namespace {
 
-Status readInput(const InvertOptions& options, const Channels& channels, TomoDocument& document) {
-  if (options.input.empty()) {
-    PickingManner manner;
-    manner.threads = options.parameters.singleThread ? 1 : 0;
-    manner.quiet = options.quiet;
-    manner.verbose = options.verbose;
-    manner.summary = channels.summary;
-    return pickShotFiles(options.shots, manner, document);
-  }
-  TravelTimeData data;
-  const Status status = readPicks(options.input, data, options.quiet);
-  if (!status.ok()) return status;
-  return importTravelTimes(std::move(data), document);
-}
-
 Status checkDepth(const GridSettings& settings, const SurveyProfile& profile) {
   const std::string depth = formatDouble(settings.maxDepth);
   if (settings.maxDepth > profile.arrayLength) {
@@ -49,8 +34,7 @@ Status checkDepth(const GridSettings& settings, const SurveyProfile& profile) {
 }
 
 std::vector<std::string> inputsOf(const InvertOptions& options) {
-  if (!options.input.empty()) return {options.input};
-  return filesOf(options.shots);
+  return surveyFiles(options.input, options.shots);
 }
 
 Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log) {
@@ -161,7 +145,12 @@ int run(const InvertOptions& options) {
 
   Log log;
   TomoDocument document;
-  Status status = readInput(options, channels, document);
+  PickingManner manner;
+  manner.threads = options.parameters.singleThread ? 1 : 0;
+  manner.quiet = options.quiet;
+  manner.verbose = options.verbose;
+  manner.summary = channels.summary;
+  Status status = readSurvey(options.input, options.shots, manner, document);
   if (status.ok()) status = setUpModel(options, document, log);
   if (!status.ok()) return failed(status.message());
   if (!options.quiet) warnAboutChoices(options, document);

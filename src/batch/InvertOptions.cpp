@@ -1,6 +1,5 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
-#include "io/ShotFile.h"
 
 #include <algorithm>
 #include <memory>
@@ -133,29 +132,6 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
   }
 }
 
-/// Tells shot files from a travel-time file, which stands alone and has nothing to be filtered.
-void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven,
-                InvertOptions& options) {
-  const auto shots =
-      static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), hasShotFileSuffix));
-  if (shots == inputs.size()) {
-    options.shots.files = inputs;
-    return;
-  }
-  if (shots > 0) {
-    throw CLI::ValidationError("INPUT", "shot files and travel-time files do not go together");
-  }
-  if (inputs.size() > 1) {
-    throw CLI::ValidationError("INPUT", "only one travel-time file can be inverted at a time");
-  }
-  if (shotOptionsGiven) {
-    throw CLI::ValidationError("INPUT", "'" + inputs.front() +
-                                            "' is no shot file; the options of shot files do not "
-                                            "apply");
-  }
-  options.input = inputs.front();
-}
-
 }  // namespace
 
 void addInvert(CLI::App& app, InvertOptions& options) {
@@ -178,7 +154,7 @@ void addInvert(CLI::App& app, InvertOptions& options) {
                    "Print the messages of the readers and the picker, and those of the engine even "
                    "where a progress bar would take their place");
   command.final_callback([inputs, shots, &options] {
-    sortInputs(*inputs, shots.anyGiven(), options);
+    sortInputs(*inputs, shots.anyGiven(), options.input, options.shots.files);
     shots.check(options.shots);
   });
   command.footer(

@@ -30,7 +30,13 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots);
 CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
                        const std::string& help);
 
-/// The command `invert`.
+/// Tells shot files from a travel-time file, which stands alone and has nothing to be filtered.
+/// Throws CLI::ValidationError for what does not go together.
+void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, std::string& input,
+                std::vector<std::string>& shotFiles);
+
+/// The commands `invert` and `refract`.
 void addInvert(CLI::App& app, InvertOptions& options);
+void addRefract(CLI::App& app, RefractOptions& options);
 
 }  // namespace talvesk

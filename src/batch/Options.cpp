@@ -77,6 +77,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
   InfoOptions info;
   PickOptions pick;
   InvertOptions invert;
+  RefractOptions refract;
   ConvertOptions convert;
   DemoOptions demo;
 
@@ -87,6 +88,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
   app.require_subcommand(0, 1);
   app.footer(kExitCodes);  // the commands inherit it
   addInvert(app, invert);
+  addRefract(app, refract);
   addPick(app, pick);
   addInfo(app, info);
   addConvert(app, convert);
@@ -108,7 +110,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
   }
 
   if (chosenCommand(app) == nullptr) {
-    result.exitCode = wrongUsage("", "a command is required: info, pick, invert, convert or demo");
+    result.exitCode =
+        wrongUsage("", "a command is required: info, pick, invert, refract, convert or demo");
     return result;
   }
   const std::string name = chosenCommand(app)->get_name();
@@ -118,6 +121,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     result.command = std::move(pick);
   } else if (name == "invert") {
     result.command = std::move(invert);
+  } else if (name == "refract") {
+    result.command = std::move(refract);
   } else if (name == "convert") {
     result.command = std::move(convert);
   } else {

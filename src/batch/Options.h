@@ -68,6 +68,18 @@ struct InvertOptions {
   bool verbose = false;
 };
 
+struct RefractOptions {
+  std::string input;  ///< travel-time file; none: shot files
+  ShotOptions shots;
+  std::string layers;  ///< file of marks; none: as proposed
+  double xy = 0.0;     ///< metres, of the family
+  std::string json;
+  std::string table;
+  std::vector<std::string> images;  ///< one picture per path
+  bool quiet = false;
+  bool verbose = false;
+};
+
 struct ConvertOptions {
   std::string input;
   std::string output;
@@ -79,8 +91,8 @@ struct DemoOptions {
   bool quiet = false;
 };
 
-using CommandOptions =
-    std::variant<InfoOptions, PickOptions, InvertOptions, ConvertOptions, DemoOptions>;
+using CommandOptions = std::variant<InfoOptions, PickOptions, InvertOptions, RefractOptions,
+                                    ConvertOptions, DemoOptions>;
 
 /// A command to run, or none and the exit code to leave with: help was printed on standard output,
 /// or what is wrong on standard error.

@@ -1,26 +1,10 @@
 #include "batch/ResultJson.h"
 
+#include "batch/JsonText.h"
 #include "batch/ShotPicking.h"
-
-#include <nlohmann/json.hpp>
 
 namespace talvesk {
 namespace {
-
-using Json = nlohmann::ordered_json;
-
-std::string text(const Json& value) {
-  return value.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
-/// An object with a line for each of its keys: short enough to read, easy to compare.
-std::string lineByLine(const Json& object) {
-  std::string lines;
-  for (const auto& item : object.items()) {
-    lines += (lines.empty() ? "{\n" : ",\n") + text(item.key()) + ": " + text(item.value());
-  }
-  return lines + "\n}";
-}
 
 /// A quantity of a misfit, or null when there was nothing to compare.
 Json ofPicks(const Misfit& misfit, double value) {
@@ -113,7 +97,7 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   Json times = Json::array();
   for (const TravelTime& record : document.ttArray) times.push_back(record.ttCalcolati);
   json["computed_times"] = std::move(times);
-  return lineByLine(json) + "\n";
+  return linePerKey(json) + "\n";
 }
 
 std::string travelTimesJson(const TravelTimeData& data) {
@@ -123,7 +107,7 @@ std::string travelTimesJson(const TravelTimeData& data) {
   json["format"] = data.format;
   json["strings"] = stringsJson(data.strings);
   json["shots"] = std::move(shots);
-  return text(json) + "\n";
+  return jsonText(json) + "\n";
 }
 
 std::string shotFileJson(const ShotFileData& data, bool samples) {
@@ -142,7 +126,7 @@ std::string shotFileJson(const ShotFileData& data, bool samples) {
   json["format"] = data.format;
   json["status"] = 0;
   json["traces"] = std::move(traces);
-  return text(json) + "\n";
+  return jsonText(json) + "\n";
 }
 
 std::string unreadableJson(const std::string& file, const Status& status) {
@@ -150,7 +134,7 @@ std::string unreadableJson(const std::string& file, const Status& status) {
   json["file"] = file;
   json["status"] = status.code();
   json["message"] = status.message();
-  return text(json) + "\n";
+  return jsonText(json) + "\n";
 }
 
 std::string picksJson(const TomoDocument& document, const std::string& filter) {
@@ -169,7 +153,7 @@ std::string picksJson(const TomoDocument& document, const std::string& filter) {
   json["filter"] = filter;
   json["strings"] = stringsJson(document.goephonesStringSet);
   json["shots"] = std::move(shots);
-  return lineByLine(json) + "\n";
+  return linePerKey(json) + "\n";
 }
 
 std::string jsonArray(const std::vector<std::string>& values) {

@@ -1,6 +1,7 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
 #include "io/GeometryFile.h"
+#include "io/ShotFile.h"
 #include "processing/TraceFilters.h"
 
 #include <algorithm>
@@ -107,6 +108,28 @@ CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
   CLI::Option* image =
       command.add_option("--image", images, help)->type_name("FILE")->allow_extra_args(false);
   return mustEndIn(image, {".png", ".svg", ".pdf"}, true);
+}
+
+void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, std::string& input,
+                std::vector<std::string>& shotFiles) {
+  const auto shots =
+      static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), hasShotFileSuffix));
+  if (shots == inputs.size()) {
+    shotFiles = inputs;
+    return;
+  }
+  if (shots > 0) {
+    throw CLI::ValidationError("INPUT", "shot files and travel-time files do not go together");
+  }
+  if (inputs.size() > 1) {
+    throw CLI::ValidationError("INPUT", "only one travel-time file can be read at a time");
+  }
+  if (shotOptionsGiven) {
+    throw CLI::ValidationError("INPUT", "'" + inputs.front() +
+                                            "' is no shot file; the options of shot files do not "
+                                            "apply");
+  }
+  input = inputs.front();
 }
 
 }  // namespace talvesk

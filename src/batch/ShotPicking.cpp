@@ -1,6 +1,7 @@
 #include "batch/ShotPicking.h"
 
 #include "base/Console.h"
+#include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "io/GeometryFile.h"
 #include "io/ShotLoader.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <ostream>
+#include <utility>
 #include <vector>
 
 namespace talvesk {
@@ -184,6 +186,20 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
   }
   if (status.ok()) summarize(options, document, *manner.summary);
   return status;
+}
+
+Status readSurvey(const std::string& travelTimes, const ShotOptions& shots,
+                  const PickingManner& manner, TomoDocument& document) {
+  if (travelTimes.empty()) return pickShotFiles(shots, manner, document);
+  TravelTimeData data;
+  const Status status = readPicks(travelTimes, data, manner.quiet);
+  if (!status.ok()) return status;
+  return importTravelTimes(std::move(data), document);
+}
+
+std::vector<std::string> surveyFiles(const std::string& travelTimes, const ShotOptions& shots) {
+  if (!travelTimes.empty()) return {travelTimes};
+  return filesOf(shots);
 }
 
 std::vector<std::string> filesOf(const ShotOptions& options) {

@@ -26,6 +26,13 @@ struct PickingManner {
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
                      TomoDocument& document);
 
+/// A survey with picks: those of the travel-time file, or without one those of pickShotFiles().
+Status readSurvey(const std::string& travelTimes, const ShotOptions& shots,
+                  const PickingManner& manner, TomoDocument& document);
+
+/// The files that readSurvey() takes.
+std::vector<std::string> surveyFiles(const std::string& travelTimes, const ShotOptions& shots);
+
 /// The shot files, then the geometry files.
 std::vector<std::string> filesOf(const ShotOptions& options);
 

@@ -147,31 +147,6 @@ void findSecondDepth(double v1, const computedData& upper, computedData& result,
   }
 }
 
-std::string cell(const computedData* refractor, const std::vector<double>& values, double x) {
-  if (refractor == nullptr) return "-";
-  const auto at = std::lower_bound(refractor->x.begin(), refractor->x.end(), x);
-  if (at == refractor->x.end() || *at != x) return "-";
-  return formatDouble(values[static_cast<std::size_t>(at - refractor->x.begin())]);
-}
-
-void printTable(const processingData& results) {
-  std::ostream& out = console::out();
-  out << " x    z    z2    tV  TV2   tg    tg2      V       V2\n";
-  const computedData* first = results.cData.data();
-  const computedData* second = results.cData.size() > 1 ? &results.cData[1] : nullptr;
-  static const computedData kNone;
-  const computedData& below = second != nullptr ? *second : kNone;
-  for (const Point2D& at : profileSurface(results)) {
-    const double x = at.x;
-    out << formatDouble(x) << ' ' << cell(first, first->depth, x) << ' '
-        << cell(second, below.depth, x) << ' ' << cell(first, first->tV, x) << ' '
-        << cell(second, below.tV, x) << ' ' << cell(first, first->tG, x) << ' '
-        << cell(second, below.tG, x) << ' ' << cell(first, first->velocity, x) << ' '
-        << cell(second, below.velocity, x) << '\n';
-  }
-  out.flush();
-}
-
 /// What is kept of a refractor when it is built anew.
 computedData rebuilt(const processingData& results, std::size_t index) {
   computedData fresh;
@@ -212,7 +187,7 @@ ProfileOutcome buildProfiles(const std::vector<ShotArrivals>& shots,
     findSecondDepth(results.v1, results.cData[0], results.cData[1], outcome.warnings);
     results.v3 = results.cData[1].velocity;
   }
-  printTable(results);
+  console::out() << profileTable(results) << std::flush;
   outcome.built = true;
   interpretation = std::move(work);
   return outcome;

@@ -1,6 +1,7 @@
 #include "refraction/LayerProposal.h"
 
 #include "model/TravelTime.h"
+#include "refraction/Branches.h"
 
 #include <algorithm>
 #include <cmath>
@@ -248,6 +249,15 @@ void mark(const Arrivals& branch, const std::vector<double>& typical,
   }
 }
 
+void markAll(const std::vector<Arrivals>& branches, std::size_t refractors,
+             std::vector<layerStruct>& marks) {
+  std::vector<double> typical;
+  for (std::size_t layer = 1; layer <= refractors + 1; ++layer) {
+    typical.push_back(typicalVelocity(branches, layer, refractors));
+  }
+  for (const Arrivals& branch : branches) mark(branch, typical, marks[branch.shot].layer);
+}
+
 }  // namespace
 
 BranchSegments segmentBranch(const std::vector<double>& offsets, const std::vector<double>& times,
@@ -274,13 +284,14 @@ std::vector<layerStruct> proposeLayers(const std::vector<ShotArrivals>& shots,
     }
   }
   segment(branches, 2);
-  const std::size_t refractors = showThirdLayer(branches) ? 2 : 1;
-  if (refractors == 1) segment(branches, 1);
-  std::vector<double> typical;
-  for (std::size_t layer = 1; layer <= refractors + 1; ++layer) {
-    typical.push_back(typicalVelocity(branches, layer, refractors));
+  if (showThirdLayer(branches)) {
+    markAll(branches, 2, marks);
+    // Without shots at both ends that show the layer in between nothing could be built: it is
+    // better seen as part of the layer below.
+    if (findShotPair(shots, marks, 2).complete()) return marks;
   }
-  for (const Arrivals& branch : branches) mark(branch, typical, marks[branch.shot].layer);
+  segment(branches, 1);
+  markAll(branches, 1, marks);
   return marks;
 }
 

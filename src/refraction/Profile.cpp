@@ -1,11 +1,25 @@
 #include "refraction/Profile.h"
 
+#include "base/TextNumber.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace talvesk {
 
 using namespace refractionDataStructure;
+
+namespace {
+
+/// A value at a receiver of the refractor, else a dash.
+std::string cell(const computedData& refractor, const std::vector<double>& values, double x) {
+  const auto at = std::lower_bound(refractor.x.begin(), refractor.x.end(), x);
+  if (at == refractor.x.end() || *at != x) return "-";
+  const auto i = static_cast<std::size_t>(at - refractor.x.begin());
+  return i < values.size() ? formatDouble(values[i]) : "-";
+}
+
+}  // namespace
 
 std::vector<ProfileBoundary> profileBoundaries(const processingData& results) {
   std::vector<ProfileBoundary> boundaries;
@@ -57,6 +71,23 @@ std::optional<double> valueAt(const computedData& refractor, const std::vector<d
   if (i == 0) return std::nullopt;
   const double w = (x - refractor.x[i - 1]) / (refractor.x[i] - refractor.x[i - 1]);
   return (1.0 - w) * values[i - 1] + w * values[i];
+}
+
+std::string profileTable(const processingData& results) {
+  static const computedData kNone;
+  const computedData& upper = results.cData.empty() ? kNone : results.cData[0];
+  const computedData& lower = results.cData.size() < 2 ? kNone : results.cData[1];
+  std::string table = " x    z    z2    tV  TV2   tg    tg2      V       V2\n";
+  for (const Point2D& receiver : profileSurface(results)) {
+    const double x = receiver.x;
+    table += formatDouble(x);
+    for (const auto values :
+         {&computedData::depth, &computedData::tV, &computedData::tG, &computedData::velocity}) {
+      table += ' ' + cell(upper, upper.*values, x) + ' ' + cell(lower, lower.*values, x);
+    }
+    table += '\n';
+  }
+  return table;
 }
 
 }  // namespace talvesk

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace talvesk {
@@ -28,5 +29,9 @@ std::vector<Point2D> profileSurface(const refractionDataStructure::processingDat
 /// \param values one per receiver of the refractor
 std::optional<double> valueAt(const refractionDataStructure::computedData& refractor,
                               const std::vector<double>& values, double x);
+
+/// The results of all refractors as text: a line of heads and a line per receiver with x, depths,
+/// tV, tG and velocities of the first and the second refractor, "-" where a refractor has no value.
+std::string profileTable(const refractionDataStructure::processingData& results);
 
 }  // namespace talvesk

@@ -1,0 +1,141 @@
+#include "base/Console.h"
+#include "base/TextNumber.h"
+#include "batch/Commands.h"
+#include "batch/Diagnostics.h"
+#include "batch/Failure.h"
+#include "batch/Images.h"
+#include "batch/OutputFiles.h"
+#include "batch/RefractionJson.h"
+#include "batch/ShotPicking.h"
+#include "figures/RefractionFigure.h"
+#include "io/LayerFile.h"
+#include "refraction/BuildProfiles.h"
+#include "refraction/LayerProposal.h"
+#include "refraction/Profile.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ostream>
+
+namespace talvesk {
+namespace {
+
+using refractionDataStructure::computedData;
+using refractionDataStructure::Interpretation;
+
+Status markLayers(const RefractOptions& options, const TomoDocument& document,
+                  const std::vector<ShotArrivals>& shots, Interpretation& interpretation) {
+  fitToSurvey(document, interpretation);
+  if (options.layers.empty()) {
+    interpretation.ttLayer = proposeLayers(shots, interpretation.ttLayer);
+    return {};
+  }
+  LayerMarks marks;
+  const Status status = readLayerMarks(options.layers, document, marks);
+  if (!status.ok()) return status;
+  for (std::size_t shot = 0; shot < marks.size(); ++shot) {
+    interpretation.ttLayer[shot].layer = std::move(marks[shot]);
+  }
+  return {};
+}
+
+ProfileOutcome interpret(const RefractOptions& options, const std::vector<ShotArrivals>& shots,
+                         Interpretation& interpretation) {
+  chooseXY(interpretation, 2, options.xy);
+  chooseXY(interpretation, 3, options.xy);
+  // A line per receiver, curve and XY: for those who look for something.
+  std::ostream& before = console::out();
+  if (!options.verbose) console::setOut(console::nowhere());
+  ProfileOutcome outcome = buildProfiles(shots, interpretation);
+  console::setOut(before);
+  return outcome;
+}
+
+std::string rangeOf(const std::vector<double>& values, const std::string& unit) {
+  std::vector<double> known;
+  std::copy_if(values.begin(), values.end(), std::back_inserter(known),
+               [](double value) { return std::isfinite(value); });
+  if (known.empty()) return "unknown";
+  const auto ends = std::minmax_element(known.begin(), known.end());
+  return formatDouble(*ends.first, 4) + " to " + formatDouble(*ends.second, 4) + ' ' + unit;
+}
+
+void summarize(const Interpretation& interpretation, std::ostream& out) {
+  const auto& results = interpretation.refractData;
+  out << "Layer 1: "
+      << (std::isfinite(results.v1) ? formatDouble(results.v1, 4) + " m/s" : "no velocity") << '\n';
+  for (std::size_t i = 0; i < results.cData.size(); ++i) {
+    const computedData& refractor = results.cData[i];
+    out << "Layer " << i + 2 << ": shots " << interpretation.phnt_A[i].shotID + 1 << " and "
+        << interpretation.phnt_R[i].shotID + 1 << ", " << refractor.x.size()
+        << " receivers, velocity " << rangeOf(refractor.velocity, "m/s") << ", depth "
+        << rangeOf(refractor.depth, "m") << '\n';
+  }
+  out.flush();
+}
+
+/// Tries every output: a picture that cannot be drawn must not cost the numbers.
+int writeResults(const RefractOptions& options, const TomoDocument& document,
+                 const Interpretation& interpretation,
+                 const std::vector<RefractionWarning>& warnings) {
+  int exitCode = kDone;
+  const auto attempt = [&](const Status& status) {
+    if (!status.ok()) exitCode = failed(status.message());
+  };
+  attempt(writeOutput(options.json, refractionJson(interpretation, warnings)));
+  if (!options.table.empty()) {
+    attempt(writeOutput(options.table, profileTable(interpretation.refractData)));
+  }
+  for (const std::string& image : options.images) {
+    attempt(writeRefractionFigure(document, interpretation.refractData, {}, image));
+  }
+  return exitCode;
+}
+
+Status checkPlaces(const RefractOptions& options) {
+  std::vector<OutputFile> outputs = {{"--json", options.json}, {"--table", options.table}};
+  for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  std::vector<std::string> inputs = surveyFiles(options.input, options.shots);
+  if (!options.layers.empty()) inputs.push_back(options.layers);
+  return checkOutputFiles(outputs, inputs);
+}
+
+}  // namespace
+
+int run(const RefractOptions& options) {
+  const Channels channels =
+      openChannels(options.json == kStandardOutput, options.quiet, options.verbose);
+  const Status places = checkPlaces(options);
+  if (places.code() == kWrongUsage) return wrongUsage("refract", places.message());
+  if (!places.ok()) return failed(places.message());
+  if (!options.images.empty()) prepareDrawing();
+
+  TomoDocument document;
+  PickingManner manner;
+  manner.quiet = options.quiet;
+  manner.verbose = options.verbose;
+  manner.summary = channels.summary;
+  Status status = readSurvey(options.input, options.shots, manner, document);
+  if (!status.ok()) return failed(status.message());
+  if (!options.quiet && !document.picksComplete()) {
+    warn("uncomplete set of picks; the interpretation is run anyway");
+  }
+
+  Interpretation interpretation;
+  const std::vector<ShotArrivals> shots = shotArrivals(document);
+  status = markLayers(options, document, shots, interpretation);
+  if (!status.ok()) return failed(status.message());
+  const ProfileOutcome outcome = interpret(options, shots, interpretation);
+  if (!outcome.built) {
+    return failed(outcome.warnings.empty() ? "there is nothing to build a profile of"
+                                           : outcome.warnings.back().text());
+  }
+  if (!options.quiet) {
+    for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
+  }
+  const int exitCode = writeResults(options, document, interpretation, outcome.warnings);
+  summarize(interpretation, *channels.summary);
+  return exitCode;
+}
+
+}  // namespace talvesk

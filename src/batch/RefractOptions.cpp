@@ -1,0 +1,50 @@
+#include "batch/OptionGroups.h"
+#include "batch/OptionParsing.h"
+
+#include <memory>
+
+namespace talvesk {
+
+void addRefract(CLI::App& app, RefractOptions& options) {
+  CLI::App& command = *app.add_subcommand("refract",
+                                          "Interpret first breaks as layers by the generalised "
+                                          "reciprocal method: velocities and depths "
+                                          "of one or two refractors under the line");
+  const auto inputs = std::make_shared<std::vector<std::string>>();
+  command
+      .add_option("INPUT", *inputs,
+                  "One travel-time file (.otte, .txt, .xyz, .csv), or shot files (.seg2, .sg2, "
+                  ".dat, .sgy, .segy, .su)")
+      ->required();
+  const ShotOptionGroup shots = addShotOptions(command, options.shots);
+  CLI::Option* layers = addPath(
+      command, "--layers", options.layers,
+      "Which layer every trace belongs to: a line per shot, a number per trace separated by "
+      "';', 1 the direct wave, 2 and 3 the refractors, 0 none (default: as proposed from "
+      "the break points of the branches)");
+  CLI::Option* xy = addNumber(command, "--xy", "M", Range<int>{-4, 4},
+                              "Half the distance between the points at which forward and reverse "
+                              "arrivals are taken, whole metres (default: 0)",
+                              [&](int value) { options.xy = value; });
+  for (CLI::Option* option : {layers, xy}) option->group("Interpretation");
+  CLI::Option* json = addPath(command, "--json", options.json,
+                              "Write the results as JSON; '-' is standard output, and then all "
+                              "diagnostics go to standard error");
+  json->required();
+  CLI::Option* table = addPath(command, "--table", options.table,
+                               "Write a text line per receiver: x, depths (metres), tV, tG "
+                               "(seconds) and velocities (m/s) of both refractors");
+  CLI::Option* image = addImages(command, options.images,
+                                 "Draw the section of layers: .png, .svg or .pdf; once per "
+                                 "picture");
+  for (CLI::Option* option : {json, table, image}) option->group("Output");
+  command.add_flag("--quiet", options.quiet, "Print nothing but errors");
+  command.add_flag("--verbose", options.verbose,
+                   "Print the messages of the readers, the picker and the interpretation");
+  command.final_callback([inputs, shots, &options] {
+    sortInputs(*inputs, shots.anyGiven(), options.input, options.shots.files);
+    shots.check(options.shots);
+  });
+}
+
+}  // namespace talvesk

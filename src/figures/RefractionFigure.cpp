@@ -1,0 +1,165 @@
+#include "figures/RefractionFigure.h"
+
+#include "base/AtomicFile.h"
+#include "base/TextNumber.h"
+#include "figures/RefractionItems.h"
+#include "figures/SectionItems.h"
+#include "model/TomoDocument.h"
+
+#include <QApplication>
+#include <QByteArray>
+#include <QPainter>
+#include <QString>
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+#include <qwt_plot.h>
+
+namespace talvesk {
+namespace {
+
+constexpr double kPadding = 14.0;  ///< inside the axes, points of 1/96 inch
+constexpr double kMinCanvasWidth = 120.0;
+constexpr double kMinCanvasHeight = 60.0;
+constexpr double kGroundBelow = 0.25;  ///< of the height: what is shown of the lowest layer
+
+class RefractionSheet {
+ public:
+  RefractionSheet(const TomoDocument& document,
+                  const refractionDataStructure::processingData& results,
+                  const RefractionFigureOptions& options);
+
+  Status layOut();
+  void paint(QPainter& painter, const QRectF& sheet) {
+    mPlace = mPlot.paint(painter, sheet, mOptions.widthMm);
+  }
+  const std::string& title() const { return mTitle; }
+  const PlotPlace& place() const { return mPlace; }
+
+ private:
+  void addLayers();
+  void setScales(double width, double height);
+  std::string caption() const;
+
+  const RefractionFigureOptions& mOptions;
+  RefractionScene mScene;
+  std::string mTitle;
+  PlotPlace mPlace;
+  FigurePlot mPlot;  // goes first at the end: its items look at the scene
+};
+
+RefractionSheet::RefractionSheet(const TomoDocument& document,
+                                 const refractionDataStructure::processingData& results,
+                                 const RefractionFigureOptions& options)
+    : mOptions(options),
+      mScene(refractionScene(document, results)),
+      mTitle(options.title.empty() ? document.title : options.title) {
+  if (mTitle.empty()) mTitle = "Refraction Profile";
+  mPlot.addAxis(QwtPlot::xBottom, QStringLiteral("X (m)"));
+  mPlot.addAxis(QwtPlot::yLeft, QStringLiteral("Z (m)"));
+  addLayers();
+}
+
+void RefractionSheet::addLayers() {
+  const auto name = [](const char* what, double velocity) {
+    QString text = QString::fromLatin1(what);
+    if (std::isfinite(velocity) && velocity > 0.0) {
+      text += QStringLiteral(", %1 m/s").arg(figureNumber(std::round(velocity)));
+    }
+    return text;
+  };
+  mPlot.add(refraction_items::layer(mScene, 1, name("Layer 1", mScene.v1)));
+  for (const ProfileBoundary& boundary : mScene.boundaries) {
+    const bool first = boundary.refractor == 2;
+    const double velocity = mScene.velocities[boundary.refractor - 2];
+    mPlot.add(refraction_items::layer(mScene, boundary.refractor,
+                                      name(first ? "Layer 2" : "Layer 3", velocity)));
+  }
+  mPlot.add(refraction_items::surface(mScene));
+  using namespace section_items;
+  mPlot.add(markers(mScene.geophones, QStringLiteral("Geophones"), Marker::kGeophone));
+  mPlot.add(markers(mScene.shots, QStringLiteral("Shots"), Marker::kShot));
+}
+
+void RefractionSheet::setScales(double width, double height) {
+  const Point2D low = mScene.lowerLeft();
+  const Point2D high = mScene.upperRight();
+  const auto set = [this](int axis, double from, double to, double length, double spacing) {
+    const double padding = (to - from) * kPadding / std::max(length - 2.0 * kPadding, 1.0);
+    FigurePlot::Scale scale;
+    scale.from = scale.firstTick = from - padding;
+    scale.to = scale.lastTick = to + padding;
+    scale.length = length;
+    scale.spacing = spacing;
+    mPlot.setScale(axis, scale);
+  };
+  const double depth = std::max(high.z - low.z, 1e-3);
+  set(QwtPlot::xBottom, low.x, std::max(high.x, low.x + 1e-3), width, 60.0);
+  set(QwtPlot::yLeft, low.z - kGroundBelow * depth, high.z, height, 35.0);
+  mPlot.plot().updateAxes();
+}
+
+std::string RefractionSheet::caption() const {
+  const double widthMm = mPlace.rightMm - mPlace.leftMm;
+  const double heightMm = mPlace.bottomMm - mPlace.topMm;
+  const double perMetreX = widthMm / (mPlace.right - mPlace.left);
+  const double perMetreZ = heightMm / (mPlace.top - mPlace.bottom);
+  return "Velocities of refractors: median   \xC2\xB7   Vertical exaggeration " +
+         formatDouble(perMetreZ / perMetreX, 2) + "x";
+}
+
+Status RefractionSheet::layOut() {
+  if (mScene.isEmpty()) {
+    return Status::failure("There is no refractor with a depth to draw.");
+  }
+  const auto scale = [this](double width, double height) { setScales(width, height); };
+  Status status;
+  // The caption states what comes of the layout, which leaves the same room for any caption.
+  for (const std::string& text : {std::string("x"), std::string()}) {
+    mPlot.setTexts(mTitle, text.empty() ? caption() : text, mOptions.widthMm);
+    status = mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight,
+                       scale, mPlace);
+    if (!status.ok()) break;
+  }
+  return status;
+}
+
+}  // namespace
+
+Status renderRefractionFigure(const TomoDocument& document,
+                              const refractionDataStructure::processingData& results,
+                              const RefractionFigureOptions& options, FigureFormat format,
+                              QByteArray& bytes, PlotPlace* place) {
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
+    return Status::failure("A profile cannot be drawn before the application object exists.");
+  }
+  FigureSheet sheet;
+  sheet.widthMm = options.widthMm;
+  sheet.heightMm = options.heightMm;
+  sheet.dpi = options.dpi;
+  if (Status status = sheet.check(format); !status.ok()) return status;
+  RefractionSheet plot(document, results, options);
+  if (Status status = plot.layOut(); !status.ok()) return status;
+  sheet.title = plot.title();
+  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot.paint(painter, rect); };
+  if (Status status = paintFigure(format, sheet, paint, bytes); !status.ok()) return status;
+  if (place != nullptr) *place = plot.place();
+  return {};
+}
+
+Status writeRefractionFigure(const TomoDocument& document,
+                             const refractionDataStructure::processingData& results,
+                             const RefractionFigureOptions& options, const std::string& path) {
+  FigureFormat format{};
+  if (Status status = figureFormatOf(path, format); !status.ok()) return status;
+  QByteArray bytes;
+  if (Status status = renderRefractionFigure(document, results, options, format, bytes);
+      !status.ok()) {
+    return status;
+  }
+  return writeFileAtomically(
+      path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
+
+}  // namespace talvesk

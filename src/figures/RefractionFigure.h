@@ -1,0 +1,40 @@
+#pragma once
+
+#include "base/Status.h"
+#include "figures/FigureFile.h"
+#include "figures/FigurePlot.h"
+#include "model/RefractionDataStructure.h"
+
+#include <string>
+
+class QByteArray;
+
+namespace talvesk {
+
+class TomoDocument;
+
+struct RefractionFigureOptions {
+  double widthMm = 280.0;
+  double heightMm = 140.0;
+  double dpi = 150.0;  ///< pixels per inch of a PNG
+  std::string title;   ///< UTF-8; empty: the document's title, and without one "Refraction Profile"
+};
+
+/// Draws the section of layers with the surface and replaces the file at `path` by it, whole or not
+/// at all; the suffix decides between PNG, SVG and PDF. The caption states the vertical
+/// exaggeration.
+///
+/// Needs the QApplication and must run on its thread. Fails without a depth to draw, for a size
+/// that makes no picture, and when the file cannot be written; then a file that was there before is
+/// untouched.
+Status writeRefractionFigure(const TomoDocument& document,
+                             const refractionDataStructure::processingData& results,
+                             const RefractionFigureOptions& options, const std::string& path);
+
+/// The same into memory. \param place where the section lies; null when nobody asks
+Status renderRefractionFigure(const TomoDocument& document,
+                              const refractionDataStructure::processingData& results,
+                              const RefractionFigureOptions& options, FigureFormat format,
+                              QByteArray& bytes, PlotPlace* place = nullptr);
+
+}  // namespace talvesk

@@ -1,0 +1,110 @@
+#include "batch/BatchRunner.h"
+#include "io/TravelTimeFile.h"
+#include "support/RefractionLines.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace talvesk::batchtest {
+namespace {
+
+using nlohmann::ordered_json;
+using ::testing::HasSubstr;
+
+/// A line over three layers as a file, and the true marks as another.
+struct Survey {
+  Survey() {
+    std::vector<refractionDataStructure::layerStruct> truth;
+    const TomoDocument line = testing::standardDippingLine(testing::threeDippingLayers(), truth);
+    EXPECT_TRUE(writeTravelTimes(picks, line).ok());
+    std::string text;
+    for (const auto& marks : truth) {
+      for (const std::uint32_t layer : marks.layer) text += std::to_string(layer) + ';';
+      text += "\r\n";
+    }
+    folder.write("layers.csv", text);
+  }
+  Folder folder;
+  std::string picks = folder / "line.otte";
+  std::string layers = folder / "layers.csv";
+};
+
+TEST(Refract, findsTheLayersOfALine) {
+  const Survey survey;
+  for (const std::vector<std::string>& more :
+       {std::vector<std::string>{}, {"--layers", survey.layers}, {"--xy", "-3"}}) {
+    std::vector<std::string> arguments = {"refract", survey.picks, "--json", "-"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    const Outcome outcome = runBatch(arguments);
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    const ordered_json json = ordered_json::parse(outcome.out);
+    EXPECT_NEAR(json["v1"].get<double>(), 400.0, 12.0);
+    ASSERT_EQ(json["refractors"].size(), 2U);
+    const double velocities[] = {1200.0, 3500.0};
+    for (std::size_t i = 0; i < 2; ++i) {
+      const ordered_json& refractor = json["refractors"][i];
+      const std::size_t middle = refractor["x"].size() / 2;
+      const double x = refractor["x"][middle];
+      EXPECT_NEAR(refractor["velocity"][middle].get<double>(), velocities[i], 0.03 * velocities[i]);
+      EXPECT_NEAR(refractor["depth"][middle].get<double>(),
+                  testing::threeDippingLayers().depth(i, x), 1.0);
+      EXPECT_EQ(refractor["xy"], more.size() == 2 && more[0] == "--xy" ? -3.0 : 0.0);
+      EXPECT_EQ(refractor["tv_family"].size(), 9U);
+    }
+    EXPECT_THAT(outcome.err, HasSubstr("Layer 3: shots "));
+  }
+}
+
+TEST(Refract, writesTableAndPictures) {
+  const Survey survey;
+  const std::string table = survey.folder / "profile.txt";
+  const std::string picture = survey.folder / "profile.svg";
+  const Outcome outcome = runBatch({"refract", survey.picks, "--json", survey.folder / "r.json",
+                                    "--table", table, "--image", picture});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(contentsOf(table),
+              HasSubstr(" x    z    z2    tV  TV2   tg    tg2      V       V2\n0 "));
+  EXPECT_THAT(contentsOf(picture), HasSubstr("Vertical exaggeration"));
+  EXPECT_EQ(contentsOf(survey.folder / "r.json").substr(0, 7), "{\n\"v1\":");
+}
+
+TEST(Refract, saysWhatKeepsItFromAProfile) {
+  const Survey survey;
+  const std::string out = survey.folder / "r.json";
+  struct Case {
+    const char* what;
+    std::vector<std::string> arguments;
+    int code;
+    const char* message;
+  };
+  const std::string bad = survey.folder.write("bad.csv", "1;2;x\n");
+  const std::string none = survey.folder.write("none.csv", [] {
+    std::string text;
+    for (int shot = 0; shot < 20; ++shot) {
+      for (int i = 0; i < 60; ++i) text += "1;";
+      text += '\n';
+    }
+    return text;
+  }());
+  const Case cases[] = {
+      {"no json", {survey.picks}, 2, "--json is required"},
+      {"no XY of the family", {survey.picks, "--json", out, "--xy", "0.5"}, 2, "from -4 to 4"},
+      {"output on input", {survey.picks, "--json", survey.picks}, 2, "line.otte"},
+      {"broken marks", {survey.picks, "--json", out, "--layers", bad}, 1, "bad.csv, line 1"},
+      {"no refractor",
+       {survey.picks, "--json", out, "--layers", none},
+       1,
+       "Unable to find nearest shot for first refractor"}};
+  for (const Case& c : cases) {
+    std::vector<std::string> arguments = {"refract"};
+    arguments.insert(arguments.end(), c.arguments.begin(), c.arguments.end());
+    const Outcome outcome = runBatch(arguments);
+    EXPECT_EQ(outcome.code, c.code) << c.what;
+    EXPECT_THAT(outcome.err, HasSubstr(c.message)) << c.what;
+    EXPECT_FALSE(survey.folder.holds("r.json")) << c.what;
+  }
+}
+
+}  // namespace
+}  // namespace talvesk::batchtest
