@@ -1,5 +1,7 @@
 #include "app/contourlines_dialog.h"
 #include "gui/WindowTest.h"
+#include "support/SectionDocument.h"
+#include "widgets/SectionView.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -224,6 +226,26 @@ TEST_F(Contours, areLoggedWhenTheyAreAccepted) {
   });
   QMetaObject::invokeMethod(window.get(), "on_actionShow_Contour_Lines_triggered");
   EXPECT_EQ(log().find("Filled Contours: false\n"), std::string::npos) << "cancelled";
+}
+
+TEST_F(Contours, appearOnTheSection) {
+  dialog->close();
+  open();
+  window->document() = testing::sectionDocument(
+      6, 20, 0.0, [](std::uint32_t row, std::uint32_t) { return 600.0 + 200.0 * row; });
+  dialogs.expect([](QWidget& widget) {
+    widget.findChild<QCheckBox*>("customizedCB")->click();
+    widget.findChild<QPushButton*>("add_button")->click();
+    widget.findChild<QWidget*>("rows")->findChild<QLineEdit*>()->setText("900");
+    widget.findChild<QCheckBox*>("profileContours")->click();
+    widget.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+  });
+  QMetaObject::invokeMethod(window.get(), "on_actionShow_Contour_Lines_triggered");
+  const SectionScene* scene = child<SectionView>("vtk_widget").scene();
+  ASSERT_NE(scene, nullptr);
+  EXPECT_THAT(scene->contourLevels, ElementsAre(900.0));
+  EXPECT_FALSE(scene->contours.empty());
+  EXPECT_TRUE(window->document().modified);
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include "app/PaletteDialog.h"
 #include "gui/WindowTest.h"
 #include "io/PaletteFile.h"
+#include "support/SectionDocument.h"
 #include "widgets/ColorPaletteWidget.h"
+#include "widgets/SectionView.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -183,6 +185,29 @@ TEST_F(Palettes, areKeptByTheWindowAfterOk) {
     EXPECT_EQ(widget.findChild<QSpinBox*>("minimum")->value(), 900);
     EXPECT_TRUE(widget.findChild<QCheckBox*>("lockRangeCB")->isChecked());
   });
+}
+
+TEST_F(Palettes, areFollowedByTheSectionWhileTheDialogIsOpen) {
+  dialog.close();
+  open();
+  window->document() = testing::sectionDocument(
+      6, 20, 0.0, [](std::uint32_t row, std::uint32_t) { return 600.0 + 200.0 * row; });
+  const auto shown = [this] { return child<SectionView>("vtk_widget").scene()->range; };
+  dialogs.expect([&](QWidget& widget) {
+    const auto button = [&widget](QDialogButtonBox::StandardButton which) {
+      return widget.findChild<QDialogButtonBox*>()->button(which);
+    };
+    widget.findChild<QSpinBox*>("maximum")->setValue(4000);
+    EXPECT_EQ(shown().max, 4000.0);
+    widget.findChild<QPushButton*>("dataRangeButton")->click();
+    EXPECT_EQ(shown().min, 600.0);
+    EXPECT_EQ(shown().max, 1600.0);
+    button(QDialogButtonBox::Cancel)->click();
+  });
+  action("actionPalette").trigger();
+  EXPECT_EQ(shown().min, 250.0);
+  EXPECT_EQ(shown().max, 3500.0);
+  EXPECT_FALSE(window->document().modified);
 }
 
 }  // namespace
