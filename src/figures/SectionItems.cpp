@@ -200,7 +200,7 @@ QwtPlotItem* lines(const std::vector<std::vector<Point2D>>& polylines, const QSt
 QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker,
                      double chosenSize) {
   const auto paint = [points, marker, chosenSize](QPainter& painter, const QwtScaleMap& xMap,
-                                            const QwtScaleMap& yMap, const QRectF&) {
+                                                  const QwtScaleMap& yMap, const QRectF&) {
     setMarkerColors(painter, marker);
     const QPainterPath shape = symbol(marker, symbolSize(chosenSize, points, xMap));
     for (const Point2D& p : points) {

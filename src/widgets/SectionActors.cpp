@@ -212,7 +212,9 @@ SectionActors::Parts::Parts() {
   fill.mapper->SetLookupTable(colors);
   fill.mapper->UseLookupTableScalarRangeOn();
   rays.actor->GetProperty()->SetColor(0.0, 0.0, 0.0);
-  rays.actor->ForceTranslucentOn();
+  // VTK would draw what is translucent in a pass of its own, without smooth edges. Lines of one
+  // colour blend as well in the opaque one, whatever their order.
+  rays.actor->ForceOpaqueOn();
 }
 
 bool SectionActors::Parts::moveOrigin(const SectionScene& scene) {
