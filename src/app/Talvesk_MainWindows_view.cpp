@@ -122,7 +122,8 @@ bool Talvesk_MainWindows::hasInformationDensity() const {
 }
 
 void Talvesk_MainWindows::refreshSectionCommands() {
-  const bool section = !mUi->vtk_widget->isEmpty();
+  // Even of a grid whose cells have no value of this quantity another may be chosen.
+  const bool section = mDocument.grid && mDocument.grid->cellCount() > 0;
   const SectionQuantity quantity = mSection.quantity;
   const struct {
     QAction* action;

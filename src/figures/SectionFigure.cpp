@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QByteArray>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -31,6 +32,24 @@ Status checkOptions(const SectionFigureOptions& options) {
 }
 
 }  // namespace
+
+SectionFigureOptions sectionFigureOptions(const SectionViewSettings& settings,
+                                          const ColorPalette& palette,
+                                          const std::vector<SectionLine>& refractors) {
+  SectionFigureOptions options;
+  options.scene = sceneOptions(settings, palette);
+  if (settings.refraction) options.scene.refractors = refractors;
+  options.palette = palette;
+  options.contourStyle.color = settings.contours.color;
+  options.contourStyle.labelEvery = settings.contours.labelEvery;
+  options.contourStyle.labelPoints = std::max(settings.contours.labelSize, 1);
+  options.geophones = settings.geophones;
+  options.colorBar = settings.scalarBar;
+  options.gridLines = settings.gridLines;
+  options.showTitle = settings.title;
+  options.verticalExaggeration = settings.verticalExaggeration;
+  return options;
+}
 
 double SectionFigureLayout::xToMm(double x) const {
   return leftMm + (x - minX) / (maxX - minX) * (rightMm - leftMm);

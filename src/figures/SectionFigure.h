@@ -4,8 +4,10 @@
 #include "figures/FigureFile.h"
 #include "view/ColorPalette.h"
 #include "view/SectionScene.h"
+#include "view/SectionViewSettings.h"
 
 #include <string>
+#include <vector>
 
 class QByteArray;
 
@@ -29,12 +31,22 @@ struct SectionFigureOptions {
   SectionSceneOptions scene;  ///< quantity, value range, contour values, rays
   ColorPalette palette = ColorPaletteList().current();
   ContourStyle contourStyle;
+  GeophoneMarkers geophones = GeophoneMarkers::kNormal;
+  bool colorBar = true;
+  bool gridLines = false;  ///< at the numbers of the axes
+  bool showTitle = true;
   std::string title;  ///< UTF-8; empty: the document's title, and without one the quantity
 
   /// Height of a metre over width of a metre. 0 lets the picture choose: 1 where the section stays
   /// legible, more for one that is long and shallow. The caption states any other than 1.
   double verticalExaggeration = 0.0;
 };
+
+/// What makes the figure show what the section view shows with these settings.
+/// \param refractors the layered profile, shown when the settings ask for it
+SectionFigureOptions sectionFigureOptions(const SectionViewSettings& settings,
+                                          const ColorPalette& palette,
+                                          const std::vector<SectionLine>& refractors = {});
 
 /// Where the section lies in its picture: the rectangle between the axes, and what its sides stand
 /// for. Who lays something over the picture, or checks it, finds positions with it.

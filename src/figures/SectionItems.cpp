@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include <qwt_curve_fitter.h>
+#include <qwt_plot_grid.h>
 #include <qwt_scale_map.h>
 
 namespace talvesk::section_items {
@@ -40,6 +41,16 @@ class CellsPainter {
         path.closeSubpath();
       }
     }
+    for (const ContourBands::Piece& piece : mScene.bands.pieces) {
+      QPolygonF outline;
+      for (std::size_t i = 0; i < piece.pointCount; ++i) {
+        const Point2D& p = mScene.bands.points[piece.firstPoint + i];
+        outline.append({xMap.transform(p.x), yMap.transform(p.z)});
+      }
+      QPainterPath& path = ofColor[static_cast<std::size_t>(piece.band)];
+      path.addPolygon(outline);
+      path.closeSubpath();
+    }
     // Neighbours share their sides: filled without antialiasing they meet without a seam. A viewer
     // of vector files antialiases as it likes, so there every band overlaps its neighbours by a
     // hair.
@@ -58,6 +69,9 @@ class CellsPainter {
  private:
   int colorOf(std::uint32_t row, std::uint32_t column) const {
     if (!mScene.mesh.isDrawn(row, column)) return -1;
+    if (mScene.fill == SectionFill::kBands) {
+      return std::max(mScene.bands.cellBand[mScene.mesh.cell(row, column)], -1);
+    }
     return mColors.indexOf(mScene.cellValues[mScene.mesh.cell(row, column)]);
   }
 
@@ -173,6 +187,13 @@ QPolygonF thinned(const std::vector<Point2D>& points, const QwtScaleMap& xMap,
 
 QwtPlotItem* cells(const SectionScene& scene, const ColorTable& colors) {
   return figureItem({}, kCellsLayer, CellsPainter(scene, colors));
+}
+
+QwtPlotItem* gridLines() {
+  auto* grid = new QwtPlotGrid;
+  grid->setMajorPen(QPen(QColor(0, 0, 0, 70), 0.5));
+  grid->setZ(kCellsLayer + 5);
+  return grid;
 }
 
 QwtPlotItem* lines(const std::vector<std::vector<Point2D>>& polylines, const QString& name,

@@ -23,8 +23,16 @@ enum class GeophoneMarkers;
 /// they are attached to owns them; scene and colours must outlive it.
 namespace section_items {
 
-/// The drawn cells, each in the colour of its class and without an outline.
+/// The drawn cells, each in the colour of its class and without an outline; or, where the scene is
+/// filled so, the bands between its contour levels.
 QwtPlotItem* cells(const SectionScene& scene, const ColorTable& colors);
+
+/// The values blended between the corners of the cells, each in the colour of its class. A picture
+/// of pixels, even in a vector file.
+QwtPlotItem* smoothCells(const SectionScene& scene, const ColorTable& colors);
+
+/// Lines over the canvas at the numbers of both axes.
+QwtPlotItem* gridLines();
 
 /// The iso-lines with their values written into them.
 QwtPlotItem* contours(const SectionScene& scene, const ContourStyle& style);

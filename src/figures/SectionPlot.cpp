@@ -38,8 +38,9 @@ void paintColorBar(QPainter& painter, const ColorTable& colors, const QRectF& ba
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.setPen(Qt::NoPen);
-  const auto y = [&colors, &bar](int edge) {
-    return bar.bottom() - bar.height() * edge / colors.size();
+  const auto y = [&colors, &bar](int index) {
+    const double above = colors.classRange(index).min - colors.range().min;
+    return bar.bottom() - bar.height() * above / colors.range().span();
   };
   for (int i = 0; i < colors.size(); ++i) {
     // From the top down to the lower end of the class: the classes above paint over it, and no
@@ -57,10 +58,11 @@ struct SectionPlot::Parts {
   Parts(SectionScene aScene, const SectionFigureOptions& someOptions)
       : options(someOptions),
         scene(std::move(aScene)),
-        colors(options.palette, scene.range),
+        colors(sectionColors(scene, options.palette)),
         low(scene.lowerLeft()),
         high(scene.upperRight()) {}
 
+  bool hasColorBar() const { return options.colorBar && scene.fill != SectionFill::kNone; }
   void style();
   void addLayers();
   void measure(double widthMm, double heightMm, SectionFigureLayout& layout);
@@ -77,10 +79,11 @@ struct SectionPlot::Parts {
 };
 
 void SectionPlot::Parts::style() {
-  QString unit = qt(quantityUnit(scene.quantity));
-  if (!unit.isEmpty()) unit = QStringLiteral(" [%1]").arg(unit);
   figure.addAxis(QwtPlot::xBottom, QStringLiteral("Distance [m]"));
   figure.addAxis(QwtPlot::yLeft, QStringLiteral("Elevation [m]"));
+  if (!hasColorBar()) return;
+  QString unit = qt(quantityUnit(scene.quantity));
+  if (!unit.isEmpty()) unit = QStringLiteral(" [%1]").arg(unit);
   figure.addAxis(QwtPlot::yRight, qt(quantityName(scene.quantity)) + unit);
   const int margin = static_cast<int>(kColorBarGap + kColorBarWidth);
   figure.plot().axisWidget(QwtPlot::yRight)->setMargin(margin);
@@ -93,10 +96,17 @@ void SectionPlot::Parts::style() {
 
 void SectionPlot::Parts::addLayers() {
   using namespace section_items;
-  figure.add(cells(scene, colors));
+  if (scene.fill == SectionFill::kSmooth) {
+    figure.add(smoothCells(scene, colors));
+  } else if (scene.fill != SectionFill::kNone) {
+    figure.add(cells(scene, colors));
+  }
+  if (options.gridLines) figure.add(gridLines());
   figure.add(lines({scene.surface}, {}, Qt::black, {1.2, false}));
-  figure.add(markers(scene.geophones, QStringLiteral("Geophones"), Marker::kGeophone));
-  figure.add(markers(scene.shots, QStringLiteral("Shots"), Marker::kShot));
+  if (const double size = markerSize(options.geophones); size > 0.0) {
+    figure.add(markers(scene.geophones, QStringLiteral("Geophones"), Marker::kGeophone, size));
+    figure.add(markers(scene.shots, QStringLiteral("Shots"), Marker::kShot, size));
+  }
   if (!scene.contours.empty()) figure.add(contours(scene, options.contourStyle));
   if (!scene.rays.empty()) {
     const QColor rayColor = QColor::fromRgbF(0.0, 0.0, 0.0, rayOpacity(scene.rays.size()));
@@ -105,6 +115,10 @@ void SectionPlot::Parts::addLayers() {
   if (!scene.coverageLimit.empty()) {
     figure.add(lines({scene.coverageLimit}, QStringLiteral("Coverage limit"), coverageColor(),
                      {1.4, true}));
+  }
+  for (std::size_t i = 0; i < scene.refractors.size(); ++i) {
+    figure.add(lines({scene.refractors[i].points}, qt(scene.refractors[i].name), refractorColor(i),
+                     {2.0, false}));
   }
 }
 
@@ -169,7 +183,8 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
                            ? parts.options.verticalExaggeration
                            : legibleExaggeration(spanZ / spanX);
 
-  parts.figure.setTexts(mTitle, sectionCaption(parts.scene, parts.exaggeration), widthMm);
+  parts.figure.setTexts(parts.options.showTitle ? mTitle : std::string(),
+                        sectionCaption(parts.scene, parts.exaggeration), widthMm);
 
   // How wide the numbers at the axes are depends on the scales, which depend on the room that the
   // numbers leave: twice round settles it.

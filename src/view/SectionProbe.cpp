@@ -12,7 +12,7 @@ SectionReading readSection(const SectionScene& scene, const Point2D& position) {
   SectionReading reading;
   reading.position = position;
   const SectionMesh& mesh = scene.mesh;
-  if (mesh.rows == 0 || mesh.columns == 0) return reading;
+  if (mesh.rows == 0 || mesh.columns == 0 || !std::isfinite(position.z)) return reading;
   const double left = mesh.corners[mesh.corner(0, 0)].x;
   const double right = mesh.corners[mesh.corner(0, mesh.columns)].x;
   const double along = (position.x - left) / (right - left) * mesh.columns;

@@ -29,9 +29,15 @@ std::string sectionCaption(const SectionScene& scene, double verticalExaggeratio
   std::string unit = quantityUnit(scene.quantity);
   if (!unit.empty()) unit.insert(0, 1, ' ');
   const double step = scene.range.span() / 100.0;
-  std::string text = quantityName(scene.quantity) + ' ' + valueText(scene.dataRange.min, step) +
-                     " to " + valueText(scene.dataRange.max, step) + unit;
-  const auto add = [&text](const std::string& part) { text += "   \xC2\xB7   " + part; };
+  std::string text;
+  const auto add = [&text](const std::string& part) {
+    if (!text.empty()) text += "   \xC2\xB7   ";
+    text += part;
+  };
+  if (scene.fill != SectionFill::kNone) {
+    add(quantityName(scene.quantity) + ' ' + valueText(scene.dataRange.min, step) + " to " +
+        valueText(scene.dataRange.max, step) + unit);
+  }
   if (const double spacing = levelSpacing(scene.contourLevels); spacing > 0.0) {
     add("Contours every " + valueText(spacing, spacing / 10.0) + unit);
   }

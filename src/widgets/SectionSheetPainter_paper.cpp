@@ -19,7 +19,6 @@ constexpr double kBarGap = 16.0;
 constexpr double kNumberSpacing = 90.0;     ///< between numbers along the line
 constexpr double kElevationSpacing = 45.0;  ///< between numbers up the section
 
-/// The exaggeration in words that need no plural.
 QString factorText(double factor, const QLocale& locale) {
   return locale.toString(factor, 'g', 4);
 }
@@ -232,14 +231,18 @@ void SheetPainter::paintColorBar() {
 void SheetPainter::paintTexts() {
   mPainter.save();
   mPainter.setPen(Qt::black);
+  const QString exaggeration =
+      tr("Vertical exaggeration %1\u00D7").arg(factorText(mCamera.exaggeration, mLocale));
+  const QFontMetricsF metrics(mPainter.font());
   if (mMargins.legend) {
     const double y = mSize.height() - kGap - mLine;
-    const QString exaggeration =
-        tr("Vertical exaggeration %1\u00D7").arg(factorText(mCamera.exaggeration, mLocale));
-    const QFontMetricsF metrics(mPainter.font());
     const double right = mSize.width() - kGap - metrics.horizontalAdvance(exaggeration);
     mPainter.drawText(QPointF(right, y + metrics.ascent()), exaggeration);
     paintLegend(mPlot.left(), right - kGap, y);
+  } else if (mCamera.exaggeration != 1.0) {
+    // A picture too small for a legend must say at least that it is not true to scale.
+    mPainter.drawText(QRectF(QPointF(0, 0), mSize).adjusted(0, 2, -kGap, 0),
+                      Qt::AlignRight | Qt::AlignTop, exaggeration);
   }
   if (mSheet.settings().title && mMargins.top > 2.0 * mLine) {
     QFont font = mPainter.font();

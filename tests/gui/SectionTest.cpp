@@ -1,0 +1,351 @@
+#include "figures/SectionFigure.h"
+#include "gui/WindowTest.h"
+#include "support/SectionDocument.h"
+#include "view/SectionScene.h"
+#include "widgets/SectionCamera.h"
+#include "widgets/SectionView.h"
+
+#include <QApplication>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+#include <QWheelEvent>
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace talvesk {
+namespace {
+
+using testing::sectionDocument;
+using testing::WindowTest;
+
+double hilly(std::uint32_t row, std::uint32_t column) {
+  return 500.0 + 120.0 * row + 25.0 * column;
+}
+
+double patchwork(std::uint32_t row, std::uint32_t column) {
+  return 400.0 + 150.0 * row + 37.0 * ((column * 7 + row * 3) % 11);
+}
+
+class Section : public WindowTest {
+ protected:
+  /// A window that shows the section of this document.
+  void openWith(TomoDocument document) {
+    open();
+    child<QTabWidget>("tabWidget").setCurrentIndex(2);
+    window->document() = std::move(document);
+    refresh();
+  }
+  void refresh() {
+    ASSERT_TRUE(QMetaObject::invokeMethod(window.get(), "on_actionGrid_view_triggered"));
+    QApplication::processEvents();
+  }
+  SectionView& view() { return child<SectionView>("vtk_widget"); }
+  QString cursorText() {
+    QString text;
+    for (const QLabel* label : window->statusBar()->findChildren<QLabel*>()) text += label->text();
+    return text;
+  }
+  void moveTo(const QPointF& point, Qt::MouseButtons buttons = Qt::NoButton) {
+    QMouseEvent event(QEvent::MouseMove, point, Qt::NoButton, buttons, Qt::NoModifier);
+    QApplication::sendEvent(view().sheet(), &event);
+  }
+  void wheelAt(const QPointF& point, int notches) {
+    QWheelEvent event(point, view().sheet()->mapToGlobal(point.toPoint()), {}, {0, 120 * notches},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view().sheet(), &event);
+  }
+  QImage seen() { return view().sheet()->grab().toImage().convertToFormat(QImage::Format_RGB32); }
+};
+
+int difference(QRgb a, QRgb b) {
+  return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                   std::abs(qBlue(a) - qBlue(b))});
+}
+
+/// Whether two colours are the same to an eye, `tolerance` per component.
+::testing::AssertionResult alike(QRgb a, QRgb b, int tolerance) {
+  if (difference(a, b) <= tolerance) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure()
+         << QColor(a).name().toStdString() << " is not " << QColor(b).name().toStdString();
+}
+
+TEST_F(Section, withoutOneThePageSaysWhatToDoNext) {
+  open();
+  auto& text = child<QLabel>("sectionEmptyLabel");
+  EXPECT_TRUE(view().isEmpty());
+  EXPECT_THAT(text.text().toStdString(), ::testing::HasSubstr("Load shot files"));
+  EXPECT_FALSE(action("actionSmooth_view").isEnabled());
+  EXPECT_FALSE(action("actionReset_View").isEnabled());
+  window->document().ttArray.emplace_back();
+  refresh();
+  EXPECT_THAT(text.text().toStdString(), ::testing::HasSubstr("Run tomography inversion"));
+}
+
+TEST_F(Section, commandsChangeWhatIsShown) {
+  TomoDocument document = sectionDocument(12, 40, 1.5, patchwork);
+  document.info_density.assign(12 * 40, 3.0);
+  document.rays = {{0, 5, 10}};
+  openWith(std::move(document));
+  const auto scene = [this]() -> const SectionScene& { return *view().scene(); };
+  EXPECT_TRUE(action("actionGrid_view").isChecked());
+  EXPECT_TRUE(action("actionNormalGeo").isChecked());
+  action("actionSmooth_view").trigger();
+  EXPECT_EQ(scene().fill, SectionFill::kSmooth);
+  EXPECT_FALSE(action("actionGrid_view").isChecked());
+  action("actionShow_rays").trigger();
+  EXPECT_EQ(scene().rays.size(), 1U);
+  action("actionVertical_Gradient").trigger();
+  EXPECT_EQ(scene().quantity, SectionQuantity::kVerticalGradient);
+  action("actionLaplacian_Gradient").trigger();
+  EXPECT_EQ(scene().quantity, SectionQuantity::kLaplacian);
+  EXPECT_FALSE(action("actionVertical_Gradient").isChecked());
+  action("actionShow_Information_Density_Layer").trigger();
+  EXPECT_EQ(scene().quantity, SectionQuantity::kInformationDensity);
+  action("actionShow_Information_Density_Layer").trigger();
+  EXPECT_EQ(scene().quantity, SectionQuantity::kVelocity);
+  action("actionShow_Tomographic_Profile").trigger();
+  EXPECT_EQ(scene().fill, SectionFill::kNone);
+  action("actionShow_Tomographic_Profile").trigger();
+  EXPECT_EQ(scene().fill, SectionFill::kSmooth);
+  const QRect withBar = view().plotRect();
+  action("actionShow_scalarbar").trigger();
+  EXPECT_GT(view().plotRect().width(), withBar.width());
+  action("actionShow_title").trigger();
+  EXPECT_LT(view().plotRect().top(), withBar.top());
+}
+
+TEST_F(Section, aNewGridHasNoInformationDensityToShow) {
+  TomoDocument document = sectionDocument(6, 20, 0.0, patchwork);
+  document.info_density.assign(120, 3.0);
+  openWith(std::move(document));
+  action("actionShow_Information_Density_Layer").trigger();
+  window->document().info_density.assign(120, -1.0);
+  refresh();
+  EXPECT_EQ(view().scene()->quantity, SectionQuantity::kVelocity);
+  EXPECT_FALSE(action("actionShow_Information_Density_Layer").isEnabled());
+}
+
+TEST_F(Section, markersHaveThreeSizes) {
+  openWith(sectionDocument(12, 40, 0.0, patchwork));
+  const auto dark = [this] {
+    const QImage image = seen();
+    const QPointF geophone = view().pointOf({120.0, 100.0});
+    int height = 0;
+    for (int y = static_cast<int>(geophone.y()) - 3; y > 0; --y) {
+      if (qGray(image.pixel(static_cast<int>(geophone.x()), y)) > 120) break;
+      ++height;
+    }
+    return height;
+  };
+  action("actionSmallGeo").trigger();
+  const int small = dark();
+  action("actionNormalGeo").trigger();
+  const int normal = dark();
+  action("actionLargeGeo").trigger();
+  EXPECT_LT(small, normal);
+  EXPECT_LT(normal, dark());
+}
+
+TEST_F(Section, theStatusBarReadsWhatIsUnderTheCursor) {
+  openWith(sectionDocument(12, 40, 0.0, patchwork));
+  moveTo(view().pointOf({110.25, 96.5}));
+  EXPECT_EQ(cursorText().toStdString(),
+            "Distance 110.25 m   Elevation 96.50 m   Depth 3.50 m   Velocity 1,183 m/s");
+  action("actionVertical_Gradient").trigger();
+  moveTo(view().pointOf({110.25, 96.5}));
+  EXPECT_THAT(cursorText().toStdString(), ::testing::HasSubstr("Gradient "));
+  moveTo({2.0, 2.0});
+  EXPECT_TRUE(cursorText().isEmpty());
+}
+
+TEST_F(Section, theWheelZoomsAtTheCursorAndDraggingPans) {
+  openWith(sectionDocument(12, 40, 1.5, patchwork));
+  const QPointF point(view().plotRect().center() + QPoint(120, 40));
+  const Point2D before = view().positionOf(point);
+  const double scale = view().camera().metresPerPixel;
+  wheelAt(point, 3);
+  EXPECT_LT(view().camera().metresPerPixel, 0.6 * scale);
+  EXPECT_NEAR(view().positionOf(point).x, before.x, 1e-9);
+  EXPECT_NEAR(view().positionOf(point).z, before.z, 1e-9);
+  QTest::mousePress(view().sheet(), Qt::LeftButton, {}, point.toPoint());
+  moveTo(point.toPoint() + QPointF(-50.0, 30.0), Qt::LeftButton);
+  QTest::mouseRelease(view().sheet(), Qt::LeftButton);
+  EXPECT_NEAR(view().positionOf(point.toPoint() + QPointF(-50.0, 30.0)).x,
+              before.x - (point.x() - point.toPoint().x()) * view().camera().metresPerPixel, 1e-6);
+  QTest::keyClick(view().sheet(), Qt::Key_Home);
+  EXPECT_DOUBLE_EQ(view().camera().metresPerPixel, scale);
+  QTest::keyClick(view().sheet(), Qt::Key_Plus);
+  QTest::keyClick(view().sheet(), Qt::Key_Right);
+  EXPECT_LT(view().camera().metresPerPixel, scale);
+  EXPECT_GT(view().camera().centre.x, 119.0);
+  action("actionReset_View").trigger();
+  EXPECT_DOUBLE_EQ(view().camera().metresPerPixel, scale);
+}
+
+TEST_F(Section, whatIsSeenStaysUntilAnotherGridComes) {
+  openWith(sectionDocument(12, 40, 1.5, patchwork));
+  view().zoomIn();
+  const double zoomed = view().camera().metresPerPixel;
+  action("actionSmooth_view").trigger();
+  EXPECT_EQ(view().camera().metresPerPixel, zoomed);
+  window->document() = sectionDocument(20, 90, 1.5, patchwork);
+  refresh();
+  EXPECT_GT(view().camera().metresPerPixel, zoomed);
+  EXPECT_TRUE(QRectF(view().plotRect()).contains(view().pointOf({189.0, 80.0})));
+}
+
+TEST_F(Section, isExaggeratedAsAskedAndTurnedOnlyWhenAsked) {
+  openWith(sectionDocument(12, 40, 0.0, patchwork));
+  const auto ratio = [this] {
+    const QPointF a = view().pointOf({110.0, 95.0});
+    const QPointF b = view().pointOf({111.0, 94.0});
+    return (b.y() - a.y()) / (b.x() - a.x());
+  };
+  EXPECT_NEAR(ratio(), 1.0, 1e-9);
+  child<QToolButton>("exaggerate2").click();
+  EXPECT_NEAR(ratio(), 2.0, 1e-9);
+  child<QDoubleSpinBox>("exaggerationSpin").setValue(3.5);
+  EXPECT_NEAR(ratio(), 3.5, 1e-9);
+  view().setVerticalExaggeration(1e9);
+  EXPECT_EQ(view().verticalExaggeration(), SectionCamera::kMaxExaggeration);
+  action("actionSmooth_view").trigger();  // the settings have followed
+  EXPECT_EQ(view().verticalExaggeration(), SectionCamera::kMaxExaggeration);
+  view().setTurning(true);
+  QTest::mousePress(view().sheet(), Qt::LeftButton, {}, {300, 200});
+  moveTo({260.0, 230.0}, Qt::LeftButton);
+  QTest::mouseRelease(view().sheet(), Qt::LeftButton);
+  EXPECT_NE(view().camera().turn, 0.0);
+  child<QToolButton>("turnButton").click();
+  EXPECT_EQ(view().camera().turn, 0.0);
+}
+
+/// The picture of `figures`, and where a position lies in it.
+struct Figure {
+  QImage image;
+  SectionFigureLayout layout;
+
+  Figure(const TomoDocument& document, const SectionViewSettings& settings,
+         const ColorPalette& palette) {
+    QByteArray bytes;
+    const Status drawn = renderSectionFigure(document, sectionFigureOptions(settings, palette),
+                                             FigureFormat::kPng, bytes, &layout);
+    EXPECT_TRUE(drawn.ok()) << drawn.message();
+    image = QImage::fromData(bytes);
+  }
+  QRgb at(const Point2D& p) const {
+    return image.pixel(
+        static_cast<int>(layout.xToMm(p.x) / layout.widthMm * image.width()),
+        static_cast<int>(layout.elevationToMm(p.z) / layout.heightMm * image.height()));
+  }
+};
+
+TEST_F(Section, onTheScreenAndInAFigureHasTheSameColorsAndHoles) {
+  TomoDocument document = sectionDocument(12, 40, 1.5, hilly);
+  for (std::uint32_t cell = 200; cell < 480; cell += 9) document.grid->setDraw(cell, false);
+  openWith(std::move(document));
+  const struct {
+    const char* name;
+    bool smooth, filled;
+    SectionQuantity quantity;
+    int tolerance;
+  } facts[] = {{"cells", false, false, SectionQuantity::kVelocity, 1},
+               {"smooth", true, false, SectionQuantity::kVelocity, 20},
+               {"bands", false, true, SectionQuantity::kVelocity, 1},
+               {"gradient", false, false, SectionQuantity::kVerticalGradient, 1}};
+  for (const auto& fact : facts) {
+    SectionViewSettings settings;
+    settings.smooth = fact.smooth;
+    settings.contours.filled = fact.filled;
+    settings.contours.numberOfValues = 6;
+    settings.quantity = fact.quantity;
+    const ColorPalette palette = *ColorPaletteList().find("Dark rainbow");
+    auto scene = std::make_shared<SectionScene>();
+    ASSERT_TRUE(buildSectionScene(window->document(), settings, palette, {}, *scene).ok());
+    const std::vector<double> levels = scene->bandLevels();
+    view().showScene(scene, palette, settings);
+    const QImage screen = seen();
+    const Figure figure(window->document(), settings, palette);
+    int compared = 0;
+    for (std::uint32_t cell = 40; cell < 480; ++cell) {  // markers stand in the first row
+      const Point2D centre = window->document().grid->cellCentre(cell);
+      const Point2D at{centre.x - window->document().xOffset, -centre.z};
+      const auto nearEdge = [&](double level) {
+        return std::abs(level - scene->cellValues[cell]) < 80.0;
+      };
+      if (fact.filled && std::any_of(levels.begin(), levels.end(), nearEdge)) continue;
+      ++compared;
+      const QPoint point(static_cast<int>(view().pointOf(at).x()),
+                         static_cast<int>(view().pointOf(at).y()));
+      EXPECT_TRUE(alike(screen.pixel(point), figure.at(at), fact.tolerance))
+          << fact.name << " cell " << cell;
+      const bool blank = (screen.pixel(point) & 0xffffffU) == 0xffffffU;
+      EXPECT_EQ(blank, !scene->mesh.isDrawn(cell / 40, cell % 40)) << fact.name << " " << cell;
+    }
+    EXPECT_GT(compared, 150);
+  }
+}
+
+TEST_F(Section, aPictureOfAnySizeShowsTheWholeSection) {
+  openWith(sectionDocument(12, 40, 0.0, patchwork));
+  view().zoomIn();
+  const QRgb cell = [this] {
+    const ColorTable colors(ColorPaletteList().current());
+    const RgbColor& c = colors[colors.indexOf(patchwork(6, 21))];
+    return QColor::fromRgbF(c.r, c.g, c.b).rgb();
+  }();
+  const struct {
+    QSize size;
+    double ratio;
+  } facts[] = {{{700, 400}, 1.0}, {{700, 400}, 2.0}, {{2600, 1400}, 1.0}, {{240, 160}, 1.0}};
+  for (const auto& fact : facts) {
+    const QImage image = view().picture(fact.size, SectionView::Part::kWhole, fact.ratio);
+    ASSERT_EQ(image.size(), fact.size * fact.ratio);
+    int found = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (difference(image.pixel(x, y), cell) <= 1) ++found;
+      }
+    }
+    EXPECT_GT(found, 2) << fact.size.width();
+  }
+  EXPECT_TRUE(view().picture({0, 10}).isNull());
+  EXPECT_TRUE(view().picture({100000, 100000}).isNull());
+}
+
+TEST_F(Section, oddSectionsAreDrawnOrExplained) {
+  openWith(sectionDocument(12, 40, 0.0, patchwork));
+  const auto constant = [](std::uint32_t, std::uint32_t) { return 800.0; };
+  window->document() = sectionDocument(5, 10, 0.0, constant);
+  refresh();
+  EXPECT_FALSE(view().isEmpty());
+  EXPECT_FALSE(seen().isNull());
+  for (const char* name : {"actionVertical_Gradient", "actionLaplacian_Gradient"}) {
+    action(name).trigger();
+    EXPECT_FALSE(seen().isNull());
+  }
+  action("actionLaplacian_Gradient").trigger();
+
+  window->document() = sectionDocument(1, 1, 0.0, constant);  // one cell has no gradient
+  refresh();
+  EXPECT_FALSE(seen().isNull());
+  action("actionVertical_Gradient").trigger();
+  EXPECT_TRUE(view().isEmpty());
+  EXPECT_TRUE(action("actionVertical_Gradient").isEnabled());  // the way back
+  action("actionVertical_Gradient").trigger();
+  EXPECT_FALSE(view().isEmpty());
+
+  window->document() = sectionDocument(0, 10, 0.0, constant);
+  refresh();
+  EXPECT_TRUE(view().isEmpty());
+  EXPECT_THAT(child<QLabel>("sectionEmptyLabel").text().toStdString(),
+              ::testing::HasSubstr("greater than the cell size"));
+}
+
+}  // namespace
+}  // namespace talvesk
