@@ -39,4 +39,7 @@ void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, s
 void addInvert(CLI::App& app, InvertOptions& options);
 void addRefract(CLI::App& app, RefractOptions& options);
 
+/// The command `export`.
+void addExport(CLI::App& app, ExportOptions& options);
+
 }  // namespace talvesk

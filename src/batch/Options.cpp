@@ -78,6 +78,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
   PickOptions pick;
   InvertOptions invert;
   RefractOptions refract;
+  ExportOptions exports;
   ConvertOptions convert;
   DemoOptions demo;
 
@@ -91,6 +92,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
   addRefract(app, refract);
   addPick(app, pick);
   addInfo(app, info);
+  addExport(app, exports);
   addConvert(app, convert);
   addDemo(app, demo);
   app.footer(std::string("'talvesk-batch COMMAND --help' explains a command.\n") + kExitCodes);
@@ -110,8 +112,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
   }
 
   if (chosenCommand(app) == nullptr) {
-    result.exitCode =
-        wrongUsage("", "a command is required: info, pick, invert, refract, convert or demo");
+    result.exitCode = wrongUsage(
+        "", "a command is required: info, pick, invert, refract, export, convert or demo");
     return result;
   }
   const std::string name = chosenCommand(app)->get_name();
@@ -123,6 +125,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     result.command = std::move(invert);
   } else if (name == "refract") {
     result.command = std::move(refract);
+  } else if (name == "export") {
+    result.command = std::move(exports);
   } else if (name == "convert") {
     result.command = std::move(convert);
   } else {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "export/GriddedText.h"
 #include "grid/VelocityLayers.h"
+#include "model/GeographicsCoord.h"
 #include "processing/ShotFilters.h"
 #include "tomo/TomographyRun.h"
+#include "view/ColorPalette.h"
 
 #include <optional>
 #include <string>
@@ -80,6 +83,24 @@ struct RefractOptions {
   bool verbose = false;
 };
 
+/// What is written of the section of a project.
+struct ExportOptions {
+  std::string project;
+  std::string gridded;
+  GriddedTextOptions griddedText;
+  std::string otte;
+  std::string vtk;
+  std::string surfer;
+  std::string kmlLine;
+  std::string kmlSection;
+  std::optional<geographicsCoord> geography;  ///< none: the project's
+  std::string palette;                        ///< by name; none: the project's current one
+  std::optional<ValueRange> range;            ///< m/s; none: that of the project's current palette
+  bool quiet = false;
+
+  bool anyOutput() const { return !(gridded + otte + vtk + surfer + kmlLine + kmlSection).empty(); }
+};
+
 struct ConvertOptions {
   std::string input;
   std::string output;
@@ -92,7 +113,7 @@ struct DemoOptions {
 };
 
 using CommandOptions = std::variant<InfoOptions, PickOptions, InvertOptions, RefractOptions,
-                                    ConvertOptions, DemoOptions>;
+                                    ExportOptions, ConvertOptions, DemoOptions>;
 
 /// A command to run, or none and the exit code to leave with: help was printed on standard output,
 /// or what is wrong on standard error.

@@ -1,0 +1,101 @@
+#include "batch/Commands.h"
+#include "batch/Diagnostics.h"
+#include "batch/Failure.h"
+#include "batch/OutputFiles.h"
+#include "export/SectionKml.h"
+#include "export/SeismicLineKml.h"
+#include "export/SurferGrid.h"
+#include "export/VtkGrid.h"
+#include "io/projectReader.h"
+
+#include <QTemporaryDir>
+#include <ostream>
+
+namespace talvesk {
+namespace {
+
+std::vector<OutputFile> outputsOf(const ExportOptions& options) {
+  return {{"--gridded", options.gridded},  {"--otte", options.otte},
+          {"--vtk", options.vtk},          {"--grd", options.surfer},
+          {"--kml-line", options.kmlLine}, {"--kml-section", options.kmlSection}};
+}
+
+int choosePalette(const std::string& name, ColorPaletteList& palettes) {
+  if (name.empty()) return kDone;
+  std::string names;
+  for (std::size_t i = 0; i < palettes.size(); ++i) {
+    if (palettes[i].name == name) {
+      palettes.select(i);
+      return kDone;
+    }
+    names += (i > 0 ? ", '" : "'") + palettes[i].name + "'";
+  }
+  return wrongUsage("export", "--palette: '" + name + "' is none of " + names);
+}
+
+/// \param folder outlives the project: what the archive held is unpacked there
+Status readProject(const ExportOptions& options, const QTemporaryDir& folder,
+                   LoadedProject& project) {
+  if (!folder.isValid()) {
+    return Status::failure("Cannot unpack " + options.project +
+                           ": there is no temporary folder: " + folder.errorString().toStdString());
+  }
+  projectReader reader;
+  if (reader.load(options.project, folder.path().toStdString() + "/", project) != 0) {
+    return Status::failure("Cannot read " + options.project + ": " + reader.message());
+  }
+  if (options.quiet) return {};
+  for (const std::string& warning : reader.warnings()) warn(options.project + ": " + warning);
+  return {};
+}
+
+int writeFiles(const ExportOptions& options, const LoadedProject& project, ValueRange range,
+               std::ostream& summary) {
+  const TomoDocument& document = project.document;
+  int exitCode = kDone;
+  const auto attempt = [&](const std::string& path, const auto& write) {
+    if (path.empty()) return;
+    if (const Status status = write(path); !status.ok()) {
+      exitCode = failed(status.message());
+    } else {
+      summary << "Wrote " << path << std::endl;
+    }
+  };
+  using Path = const std::string&;
+  attempt(options.gridded,
+          [&](Path path) { return writeGriddedText(path, document, options.griddedText); });
+  attempt(options.otte, [&](Path path) { return writeTravelTimes(path, document); });
+  attempt(options.vtk, [&](Path path) { return writeVtkGrid(path, document); });
+  attempt(options.surfer, [&](Path path) { return writeSurferGrid(path, document); });
+  attempt(options.kmlLine, [&](Path path) { return writeSeismicLineKml(path, document); });
+  attempt(options.kmlSection, [&](Path path) {
+    return writeSectionKml(path, document, project.palettes.current(), range);
+  });
+  return exitCode;
+}
+
+}  // namespace
+
+int run(const ExportOptions& options) {
+  const Channels channels = openChannels(options.quiet);
+  const Status places = checkOutputFiles(outputsOf(options), {options.project});
+  if (places.code() == kWrongUsage) return wrongUsage("export", places.message());
+  if (!places.ok()) return failed(places.message());
+
+  const QTemporaryDir folder;
+  LoadedProject project;
+  const Status status = readProject(options, folder, project);
+  if (!status.ok()) return failed(status.message());
+  const ColorPalette& inView = project.palettes.current();
+  const ValueRange range = options.range.value_or(ValueRange{inView.min_db, inView.max_db});
+  if (const int chosen = choosePalette(options.palette, project.palettes); chosen != kDone) {
+    return chosen;
+  }
+  if (options.geography) {
+    project.document.geoCoord = *options.geography;
+    project.document.geoCoordIsSet = true;
+  }
+  return writeFiles(options, project, range, *channels.summary);
+}
+
+}  // namespace talvesk

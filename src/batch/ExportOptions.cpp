@@ -1,0 +1,131 @@
+#include "batch/OptionGroups.h"
+#include "batch/OptionParsing.h"
+
+#include <functional>
+
+namespace talvesk {
+namespace {
+
+constexpr const char* kOutputGroup = "Output";
+constexpr const char* kMapGroup = "Place on the globe";
+constexpr const char* kColorGroup = "Colours of --kml-section";
+
+/// Two numbers with a separator between them.
+void readPair(const std::string& option, const std::string& form, const std::string& text,
+              char separator, double& first, double& second) {
+  constexpr Range<double> kAnything{-1e12, 1e12};
+  const auto fields = splitFields(text, separator);
+  if (fields.size() != 2 || text.back() == separator) {
+    throw CLI::ValidationError(option, "'" + text + "' is not " + form);
+  }
+  first = numberWithin(option, std::string(fields[0]), kAnything);
+  second = numberWithin(option, std::string(fields[1]), kAnything);
+}
+
+CLI::Option* addPair(CLI::App& app, const std::string& name, const std::string& form,
+                     char separator, const std::string& help,
+                     const std::function<void(double, double)>& assign) {
+  return app
+      .add_option_function<std::string>(
+          name,
+          [name, form, separator, assign](const std::string& text) {
+            double first = 0.0;
+            double second = 0.0;
+            readPair(name, form, text, separator, first, second);
+            assign(first, second);
+          },
+          help)
+      ->type_name(form);
+}
+
+CLI::Option* addGridded(CLI::App& app, ExportOptions& options) {
+  GriddedTextOptions& text = options.griddedText;
+  CLI::Option* gridded = addPath(app, "--gridded", options.gridded,
+                                 "A text line 'X Y Z V' per drawn cell: metres and m/s");
+  CLI::Option* y = addNumber(app, "--y", "M", Range<double>{-1e9, 1e9},
+                             "Y of every line of --gridded, metres (default: 0)",
+                             [&text](double value) { text.lineY = value; });
+  CLI::Option* z = addNumber(app, "--z-offset", "M", Range<double>{-1e9, 1e9},
+                             "Added to Z in --gridded, metres (default: 0)",
+                             [&text](double value) { text.zOffset = value; });
+  CLI::Option* survey = app.add_flag("--survey-x", text.surveyX,
+                                     "X in --gridded is the distance along the line, without the "
+                                     "offset of the grid");
+  for (CLI::Option* option : {y, z, survey}) option->needs(gridded)->group(kOutputGroup);
+  return gridded->group(kOutputGroup);
+}
+
+void addOutputs(CLI::App& app, ExportOptions& options) {
+  addGridded(app, options);
+  const auto output = [&app](const char* name, std::string& path, const char* suffix,
+                             const char* help) {
+    return mustEndIn(addPath(app, name, path, help)->group(kOutputGroup), {suffix}, true);
+  };
+  output("--vtk", options.vtk, ".vtu", "The drawn cells as a VTK unstructured grid, named *.vtu");
+  output("--grd", options.surfer, ".grd",
+         "Velocities on a regular raster as a Surfer ASCII grid, named *.grd");
+  output("--otte", options.otte, ".otte", "The picks as a travel-time exchange file");
+  CLI::Option* line = output("--kml-line", options.kmlLine, ".kml",
+                             "Geophones and shots as marks on the globe, named *.kml");
+  CLI::Option* section = output("--kml-section", options.kmlSection, ".kml",
+                                "The section standing on the globe, named *.kml");
+
+  const auto geography = [&options]() -> geographicsCoord& {
+    if (!options.geography) options.geography.emplace();
+    return *options.geography;
+  };
+  CLI::Option* epsg =
+      addNumber(app, "--epsg", "N", Range<int>{1, 2147483647},
+                "EPSG code of the projected system of --first and --last (default: the project's)",
+                [geography](int value) { geography().CRS = value; });
+  CLI::Option* first =
+      addPair(app, "--first", "E,N", ',', "Easting and northing of the first geophone, metres",
+              [geography](double east, double north) {
+                geography().mEastFstGeoph = east;
+                geography().mNorthFstGeoph = north;
+              });
+  CLI::Option* last =
+      addPair(app, "--last", "E,N", ',', "Easting and northing of the last geophone, metres",
+              [geography](double east, double north) {
+                geography().mEastLstGeoph = east;
+                geography().mNorthLstGeoph = north;
+              });
+  epsg->needs(first)->needs(last)->group(kMapGroup);
+  first->needs(epsg)->group(kMapGroup);
+  last->needs(epsg)->group(kMapGroup);
+
+  app.add_option("--palette", options.palette, "Name of the palette (default: the project's)")
+      ->type_name("NAME")
+      ->needs(section)
+      ->group(kColorGroup);
+  addPair(app, "--range", "MIN:MAX", ':', "Velocities at its ends, m/s (default: the project's)",
+          [&options](double least, double most) {
+            if (!(most > least)) {
+              throw CLI::ValidationError("--range", "the maximum must be above the minimum");
+            }
+            options.range = ValueRange{least, most};
+          })
+      ->needs(section)
+      ->group(kColorGroup);
+  epsg->check([line, section](const std::string&) -> std::string {
+    if (line->count() > 0 || section->count() > 0) return {};
+    return "only --kml-line and --kml-section place the line";
+  });
+}
+
+}  // namespace
+
+void addExport(CLI::App& app, ExportOptions& options) {
+  CLI::App& command = *app.add_subcommand(
+      "export",
+      "Write the section of a project for other programs, each output as it is asked for");
+  mustEndIn(command.add_option("PROJECT", options.project, "The project, named *.tvsk")->required(),
+            {".tvsk"}, true);
+  addOutputs(command, options);
+  command.add_flag("--quiet", options.quiet, "Print nothing but errors");
+  command.final_callback([&options] {
+    if (!options.anyOutput()) throw CLI::ValidationError("export", "no file to write is given");
+  });
+}
+
+}  // namespace talvesk

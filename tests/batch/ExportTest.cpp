@@ -1,0 +1,132 @@
+#include "batch/BatchRunner.h"
+#include "io/ProjectWriter.h"
+#include "support/ConsoleCapture.h"
+#include "support/SectionDocument.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace talvesk::batchtest {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+/// A project of 3 rows of 10 cells of 1 m under a line that lies in Italy, its view from 500 m/s to
+/// 700 m/s.
+std::string writeProject(const Folder& folder, bool onGlobe = true) {
+  const talvesk::testing::ConsoleCapture console;
+  TomoDocument document = talvesk::testing::sectionDocument(
+      3, 10, 0.0, [](std::uint32_t row, std::uint32_t) { return 500.0 + 100.0 * row; });
+  document.title = "Valley";
+  if (onGlobe) {
+    document.geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
+    document.geoCoordIsSet = true;
+  }
+  ColorPaletteList palettes;
+  palettes.current().min_db = 500.0;
+  palettes.current().max_db = 700.0;
+  ProjectWriter writer;
+  EXPECT_EQ(writer.save(folder / "line.tvsk", folder / "", document, {}, palettes), 0)
+      << writer.message();
+  return folder / "line.tvsk";
+}
+
+TEST(Export, writesEverythingOfAProject) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  const Outcome outcome = runBatch(
+      {"export", project, "--gridded", folder / "s.txt", "--survey-x", "--y", "7", "--z-offset",
+       "-100", "--vtk", folder / "s.vtu", "--grd", folder / "s.grd", "--otte", folder / "s.otte",
+       "--kml-line", folder / "line.kml", "--kml-section", folder / "section.kml"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(contentsOf(folder / "s.txt"), StartsWith("99.5 7 -0.5 500\n"));
+  EXPECT_THAT(contentsOf(folder / "s.vtu"), HasSubstr("NumberOfCells=\"30\""));
+  EXPECT_THAT(contentsOf(folder / "s.grd"), StartsWith("DSAA\n10 3\n"));
+  EXPECT_THAT(contentsOf(folder / "s.otte"), Not(::testing::IsEmpty()));
+  EXPECT_THAT(contentsOf(folder / "line.kml"), HasSubstr("10.95607815,45.80281645,0.0+"));
+  EXPECT_THAT(contentsOf(folder / "section.kml"),
+              AllOf(HasSubstr("<name>Valley Profile</name>"), HasSubstr("ff430034"),
+                    HasSubstr("ff00e7fd")));
+  EXPECT_EQ(folder.fileCount(), 7U) << "nothing is left of what was unpacked";
+}
+
+TEST(Export, takesPlacePaletteAndRangeFromTheCommandLine) {
+  const Folder folder;
+  const std::string project = writeProject(folder, false);
+  const Outcome without = runBatch({"export", project, "--kml-line", folder / "line.kml"});
+  EXPECT_EQ(without.code, 1);
+  EXPECT_THAT(without.err, HasSubstr("Geographical coordinates are missing, data cannot be "
+                                     "exported in KML format"));
+  EXPECT_FALSE(folder.holds("line.kml"));
+
+  const Outcome outcome = runBatch({"export", project, "--kml-section", folder / "s.kml", "--epsg",
+                                    "2180", "--first", "637000,487000", "--last", "637008,487000",
+                                    "--palette", "Black to White", "--range", "500:600"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  // The left edge lies a metre west of the first geophone in Warsaw.
+  EXPECT_THAT(contentsOf(folder / "s.kml"),
+              AllOf(HasSubstr("\n21.00668947,52.23197"), HasSubstr("<color>ff000000</color>"),
+                    HasSubstr("<color>ffffffff</color>")));
+}
+
+TEST(Export, writesTheOthersWhenOneFails) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  const Outcome outcome =
+      runBatch({"export", project, "--kml-line", folder / "line.kml", "--epsg", "999999", "--first",
+                "1,2", "--last", "3,4", "--vtk", folder / "s.vtu"});
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("EPSG:999999 is no reference system"));
+  EXPECT_TRUE(folder.holds("s.vtu"));
+  EXPECT_FALSE(folder.holds("line.kml"));
+}
+
+TEST(Export, failsForWhatIsNoProjectInside) {
+  const Folder folder;
+  const Outcome outcome =
+      runBatch({"export", folder.write("bad.tvsk", "PK\3\4"), "--vtk", folder / "s.vtu"});
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("bad.tvsk"));
+  EXPECT_EQ(folder.fileCount(), 1U);
+}
+
+TEST(Export, refusesCommandLinesThatMakeNoSense) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  const std::string kml = folder / "s.kml";
+  const struct {
+    std::vector<std::string> more;
+    const char* message;
+  } cases[] = {
+      {{}, "no file to write"},
+      {{"--vtk", folder / "s.txt"}, "must end in .vtu"},
+      {{"--vtk", folder / "s.vtu", "--y", "3"}, "--gridded"},
+      {{"--vtk", folder / "s.vtu", "--palette", "Blue to red"}, "--kml-section"},
+      {{"--vtk", folder / "s.vtu", "--epsg", "32632", "--first", "1,2", "--last", "3,4"}, "place"},
+      {{"--kml-line", kml, "--epsg", "32632", "--first", "1,2"}, "--last"},
+      {{"--kml-line", kml, "--first", "1,2", "--last", "1,2"}, "--epsg"},
+      {{"--kml-line", kml, "--epsg", "32632", "--first", "1", "--last", "3,4"}, "'1' is not E,N"},
+      {{"--kml-line", kml, "--epsg", "32632", "--first", "1,2,3", "--last", "3,4"}, "is not E,N"},
+      {{"--kml-line", kml, "--epsg", "32632", "--first", "1,nan", "--last", "3,4"}, "'nan'"},
+      {{"--kml-section", kml, "--range", "600:500"}, "above the minimum"},
+      {{"--kml-section", kml, "--range", "600"}, "is not MIN:MAX"},
+      {{"--kml-section", kml, "--palette", "Mauve"}, "'Mauve' is none of 'Silva viridis'"},
+      {{"other.tvsk", "--vtk", folder / "s.vtu"}, "other.tvsk"},
+      {{"--gridded", project}, "overwrite"},
+      {{"--kml-line", kml, "--kml-section", kml}, "same file"},
+  };
+  for (const auto& c : cases) {
+    std::vector<std::string> arguments = {"export", project};
+    arguments.insert(arguments.end(), c.more.begin(), c.more.end());
+    const Outcome outcome = runBatch(arguments);
+    EXPECT_EQ(outcome.code, 2) << c.message;
+    EXPECT_THAT(outcome.err, HasSubstr(c.message));
+    EXPECT_EQ(folder.fileCount(), 1U);
+  }
+}
+
+}  // namespace
+}  // namespace talvesk::batchtest
