@@ -85,6 +85,8 @@ class Talvesk_MainWindows : public QMainWindow {
   void on_actionSettings_triggered();
   void on_actionExport_tomographic_data_triggered();
   void on_actionGridded_Data_triggered();
+  void on_actionExport_VTK_triggered();
+  void on_actionExport_Surfer_triggered();
   void on_actionExportTomographic_profile_2_KML_triggered();
   void on_actionExportSeismic_line_triggered();
   void on_actionImages_triggered();
@@ -207,6 +209,9 @@ class Talvesk_MainWindows : public QMainWindow {
   QString historyFolder() const;
   void saveHistoryOf(const QString& file);
   void exportCurves();
+  QString askForExport(const QString& title, const QString& filter, const char* suffix);
+  void tellExport(const Status& written, const QString& file);
+  bool mayExportKml();
 
   // State
   void changeLanguage(int index);

@@ -1,36 +1,136 @@
+#include "app/ExportTomoVelData.h"
+#include "app/Messages.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/setGeographyDialog.h"
+#include "export/GriddedText.h"
+#include "export/SectionKml.h"
+#include "export/SeismicLineKml.h"
+#include "export/SurferGrid.h"
+#include "export/VtkGrid.h"
 #include "ui_Talvesk_MainWindows.h"
+
+#include <QFileDialog>
+#include <QStatusBar>
 
 // The commands that write data for other programs.
 
 namespace talvesk {
+namespace {
+
+constexpr int kMessageTime = 10000;  ///< milliseconds that the status bar shows an outcome
+
+}  // namespace
+
+/// The file to write, with the suffix where the user gave none; empty when the user gave up.
+QString Talvesk_MainWindows::askForExport(const QString& title, const QString& filter,
+                                          const char* suffix) {
+  QFileDialog dialog(this, title, historyFolder(), filter);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setDefaultSuffix(QLatin1String(suffix));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return dialog.selectedFiles().front();
+}
+
+void Talvesk_MainWindows::tellExport(const Status& written, const QString& file) {
+  if (written.ok()) {
+    statusBar()->showMessage(tr("Saved in %1").arg(file), kMessageTime);
+    return;
+  }
+  mLog.write(written.message(), 1);
+  showError(this, tr("Error occured"), tr("The data have not been exported."),
+            QString::fromStdString(written.message()));
+}
 
 void Talvesk_MainWindows::on_actionExport_tomographic_data_triggered() {
   logSlot(__func__);
+  if (!mDocument.grid) return;
+  const QString file = askForExport(
+      tr("Export Gridded Data"),
+      tr("Save gridded tomographic velocity in a text file (*.txt);;All Files (*)"), "txt");
+  if (file.isEmpty()) return;
+  GriddedTextOptions options;
+  options.zOffset = -referenceElevation(*mDocument.grid);
+  tellExport(writeGriddedText(file.toStdString(), mDocument, options), file);
 }
 
 void Talvesk_MainWindows::on_actionGridded_Data_triggered() {
   logSlot(__func__);
+  if (!mDocument.grid) return;
+  const QString file = askForExport(
+      tr("Export Gridded Data"),
+      tr("Save gridded tomographic velocity in a text file (*.txt);;All Files (*)"), "txt");
+  if (file.isEmpty()) return;
+  ExportTomoVelData dialog(this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  tellExport(writeGriddedText(file.toStdString(), mDocument, dialog.options()), file);
+}
+
+void Talvesk_MainWindows::on_actionExport_VTK_triggered() {
+  logSlot(__func__);
+  if (!mDocument.grid) return;
+  const QString file = askForExport(tr("Export VTK Grid"),
+                                    tr("VTK unstructured grid (*.vtu);;All Files (*)"), "vtu");
+  if (!file.isEmpty()) tellExport(writeVtkGrid(file.toStdString(), mDocument), file);
+}
+
+void Talvesk_MainWindows::on_actionExport_Surfer_triggered() {
+  logSlot(__func__);
+  if (!mDocument.grid) return;
+  const QString file =
+      askForExport(tr("Export Surfer Grid"), tr("Surfer ASCII grid (*.grd);;All Files (*)"), "grd");
+  if (!file.isEmpty()) tellExport(writeSurferGrid(file.toStdString(), mDocument), file);
+}
+
+/// Whether the line has a place on the globe; the user is told when it has none.
+bool Talvesk_MainWindows::mayExportKml() {
+  if (mDocument.geoCoordIsSet) return true;
+  showWarning(this, tr("Warning"),
+              tr("Geographical coordinates are missing, data cannot be exported in KML format"));
+  return false;
 }
 
 void Talvesk_MainWindows::on_actionExportTomographic_profile_2_KML_triggered() {
   logSlot(__func__);
+  if (!mDocument.grid || !lineEnds(mDocument) || !mayExportKml()) return;
+  const QString file =
+      askForExport(tr("Export Tomography to KML"), tr("KML (*.kml);;All Files (*)"), "kml");
+  if (file.isEmpty()) return;
+  const ColorPalette& palette = mPalettes.current();
+  tellExport(
+      writeSectionKml(file.toStdString(), mDocument, palette, {palette.min_db, palette.max_db}),
+      file);
 }
 
 void Talvesk_MainWindows::on_actionExportSeismic_line_triggered() {
   logSlot(__func__);
+  if (!lineEnds(mDocument) || !mayExportKml()) return;
+  const QString file =
+      askForExport(tr("Export Seismic Line to KML"), tr("KML (*.kml);;All Files (*)"), "kml");
+  if (!file.isEmpty()) tellExport(writeSeismicLineKml(file.toStdString(), mDocument), file);
 }
 
 void Talvesk_MainWindows::on_actionSet_geography_coordinates_triggered() {
   logSlot(__func__);
+  std::optional<geographicsCoord> before;
+  if (mDocument.geoCoordIsSet) before = mDocument.geoCoord;
+  setGeographyDialog dialog(before, lineEnds(mDocument), this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  mDocument.geoCoord = dialog.coordinates();
+  mDocument.geoCoordIsSet = true;
+  documentModified();
 }
 
 void Talvesk_MainWindows::refreshExportCommands() {
+  const bool line = lineEnds(mDocument).has_value();
+  const bool section = mDocument.grid != nullptr;
   for (QAction* action : {mUi->actionExport_tomographic_data, mUi->actionGridded_Data,
-                          mUi->actionExportTomographic_profile_2_KML, mUi->actionExportSeismic_line,
-                          mUi->actionSet_geography_coordinates}) {
-    action->setEnabled(false);
+                          mUi->actionExport_VTK, mUi->actionExport_Surfer}) {
+    action->setEnabled(section);
   }
+  mUi->actionExportTomographic_profile_2_KML->setEnabled(line && section);
+  mUi->actionExportSeismic_line->setEnabled(line);
+  mUi->actionSet_geography_coordinates->setEnabled(line);
 }
 
 }  // namespace talvesk

@@ -74,24 +74,29 @@ GeoTransformer::GeoTransformer(GeoTransformer&&) noexcept = default;
 GeoTransformer& GeoTransformer::operator=(GeoTransformer&&) noexcept = default;
 
 Status GeoTransformer::examine(const Object& system, const std::string& code) {
-  if (!system) return Status::failure(code + " is no reference system that is known here");
+  if (!system)
+    return Status::failure(code + " is no reference system that is known here", kUnknownSystem);
   if (const char* name = proj_get_name(system.get())) mName = name;
   const std::string what = code + " (" + mName + ")";
   if (proj_get_type(system.get()) != PJ_TYPE_PROJECTED_CRS) {
-    return Status::failure(what + " is not a projected system; easting and northing need one");
+    return Status::failure(what + " is not a projected system; easting and northing need one",
+                           kNotProjected);
   }
   const Object coordinateSystem(proj_crs_get_coordinate_system(nullptr, system.get()));
   const std::vector<Axis> axes =
       coordinateSystem ? axesOf(coordinateSystem.get()) : std::vector<Axis>{};
-  if (axes.size() < 2) return Status::failure(what + " has no axes that are known here");
+  if (axes.size() < 2)
+    return Status::failure(what + " has no axes that are known here", kNotProjected);
   for (const Axis& axis : axes) {
     if (axis.metres == 1.0) continue;
     return Status::failure(what + " counts in another unit than the metre: " + axis.unit +
-                           "; choose a system in metres");
+                               "; choose a system in metres",
+                           kNotInMetres);
   }
   if (countsBackward(axes)) {
     return Status::failure(what + " counts " + axes[0].direction + "ward and " + axes[1].direction +
-                           "ward; choose a system with easting and northing");
+                               "ward; choose a system with easting and northing",
+                           kCountsBackward);
   }
   return {};
 }
@@ -100,7 +105,8 @@ Status GeoTransformer::build(const std::string& code) {
   const Object asDefined(proj_create_crs_to_crs(nullptr, code.c_str(), kGlobe, nullptr));
   if (asDefined) mTransformation.reset(proj_normalize_for_visualization(nullptr, asDefined.get()));
   if (mTransformation) return {};
-  return Status::failure(code + " (" + mName + ") cannot be turned into longitude and latitude");
+  return Status::failure(code + " (" + mName + ") cannot be turned into longitude and latitude",
+                         kNoTransformation);
 }
 
 bool GeoTransformer::transform(double easting, double northing, LonLat& out) const {

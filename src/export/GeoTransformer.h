@@ -16,6 +16,19 @@ struct LonLat {
   double latitude = 0.0;
 };
 
+/// What can keep a line off the globe; the code of a status, so that a window can say it in the
+/// language of its user.
+enum GeoProblem : int {
+  kUnknownSystem = 1,  ///< PROJ knows no reference system of that code
+  kNotProjected,       ///< it has no easting and northing
+  kNotInMetres,        ///< its coordinates are in another unit
+  kCountsBackward,     ///< westward or southward
+  kNoTransformation,   ///< to longitude and latitude
+  kNotNumbers,         ///< coordinates of the geophones
+  kSameEnds,           ///< first and last geophone in one place
+  kOutside,            ///< the system has no place for the coordinates
+};
+
 /// Turns easting and northing of a projected reference system into longitude and latitude. Uses
 /// PROJ's default context: for one thread of the program at a time.
 class GeoTransformer {
@@ -30,7 +43,7 @@ class GeoTransformer {
   GeoTransformer(GeoTransformer&&) noexcept;
   GeoTransformer& operator=(GeoTransformer&&) noexcept;
 
-  const Status& status() const { return mStatus; }
+  const Status& status() const { return mStatus; }  ///< codes are of GeoProblem
   /// Of the reference system, as its register has it ("WGS 84 / UTM zone 32N"); empty for a code
   /// that PROJ does not know.
   const std::string& systemName() const { return mName; }

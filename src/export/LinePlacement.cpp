@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace talvesk {
 
@@ -35,21 +36,27 @@ MapPoint LinePlacement::at(double distance) const {
 }
 
 LineOnGlobe::LineOnGlobe(const geographicsCoord& ends)
-    : mTransformer(ends.CRS), mPlacement(ends), mStatus(mTransformer.status()) {
+    : LineOnGlobe(std::make_shared<const GeoTransformer>(ends.CRS), ends) {}
+
+LineOnGlobe::LineOnGlobe(std::shared_ptr<const GeoTransformer> transformer,
+                         const geographicsCoord& ends)
+    : mTransformer(std::move(transformer)), mPlacement(ends), mStatus(mTransformer->status()) {
   if (!mStatus.ok()) return;
   if (!std::isfinite(mPlacement.length())) {
-    mStatus = Status::failure("the coordinates of the geophones are not numbers");
+    mStatus = Status::failure("the coordinates of the geophones are not numbers", kNotNumbers);
   } else if (!(mPlacement.length() > 0.0)) {
-    mStatus = Status::failure("the first and the last geophone have the same coordinates");
+    mStatus =
+        Status::failure("the first and the last geophone have the same coordinates", kSameEnds);
   } else if (!locate(0.0, mFirst) || !locate(mPlacement.length(), mLast)) {
     mStatus = Status::failure("the coordinates of the geophones lie outside of EPSG:" +
-                              std::to_string(ends.CRS) + " (" + systemName() + ")");
+                                  std::to_string(ends.CRS) + " (" + systemName() + ")",
+                              kOutside);
   }
 }
 
 bool LineOnGlobe::locate(double distance, LonLat& out) const {
   const MapPoint place = mPlacement.at(distance);
-  return mTransformer.transform(place.easting, place.northing, out);
+  return mTransformer->transform(place.easting, place.northing, out);
 }
 
 }  // namespace talvesk

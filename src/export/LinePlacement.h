@@ -4,6 +4,7 @@
 #include "export/GeoTransformer.h"
 #include "model/TomoDocument.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -51,11 +52,13 @@ class LineOnGlobe {
  public:
   /// Builds the transformation. Check status() before use.
   explicit LineOnGlobe(const geographicsCoord& ends);
+  /// With the transformation of `ends.CRS` that there is already.
+  LineOnGlobe(std::shared_ptr<const GeoTransformer> transformer, const geographicsCoord& ends);
 
   /// Why there is none: an unusable reference system, ends that are no numbers or the same, or ends
   /// that the system cannot place.
-  const Status& status() const { return mStatus; }
-  const std::string& systemName() const { return mTransformer.systemName(); }
+  const Status& status() const { return mStatus; }  ///< codes are of GeoProblem
+  const std::string& systemName() const { return mTransformer->systemName(); }
   double length() const { return mPlacement.length(); }  ///< metres
   LonLat first() const { return mFirst; }                ///< geophone
   LonLat last() const { return mLast; }                  ///< geophone
@@ -65,7 +68,7 @@ class LineOnGlobe {
   bool locate(double distance, LonLat& out) const;
 
  private:
-  GeoTransformer mTransformer;
+  std::shared_ptr<const GeoTransformer> mTransformer;
   LinePlacement mPlacement;
   Status mStatus;
   LonLat mFirst;
