@@ -146,6 +146,57 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::ExportTomoVelData</name>
+    <message>
+        <source>Set optional shift parameter before export</source>
+        <translation>Traslazione facoltativa prima dell&apos;esportazione</translation>
+    </message>
+    <message>
+        <source>Y coord of the line</source>
+        <translation>Coordinata Y della linea</translation>
+    </message>
+    <message>
+        <source>Y coordinate of the line in metres</source>
+        <translation>Coordinata Y della linea in metri</translation>
+    </message>
+    <message>
+        <source>Written as Y of every cell</source>
+        <translation>Scritta come Y di ogni cella</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Z offset of the line</source>
+        <translation>Spostamento Z della linea</translation>
+    </message>
+    <message>
+        <source>Z offset of the line in metres</source>
+        <translation>Spostamento Z della linea in metri</translation>
+    </message>
+    <message>
+        <source>Added to the elevation of every cell</source>
+        <translation>Aggiunto alla quota di ogni cella</translation>
+    </message>
+    <message>
+        <source>X is the distance along the line</source>
+        <translation>X è la distanza lungo la linea</translation>
+    </message>
+    <message>
+        <source>Takes the grid&apos;s offset off; X is the grid&apos;s own abscissa else</source>
+        <translation>Toglie lo scostamento della griglia; altrimenti X è l&apos;ascissa della griglia</translation>
+    </message>
+    <message>
+        <source>The Y coordinate is not a number.</source>
+        <translation>La coordinata Y non è un numero.</translation>
+    </message>
+    <message>
+        <source>The Z offset is not a number.</source>
+        <translation>Lo spostamento Z non è un numero.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::Messages</name>
     <message>
         <source>The document has been modified</source>
@@ -756,10 +807,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Export tomographic data ...</source>
         <translation>Esporta i dati tomografici ...</translation>
-    </message>
-    <message>
-        <source>Write the velocities, rays and times of the last inversion</source>
-        <translation>Scrive velocità, raggi e tempi dell&apos;ultima inversione</translation>
     </message>
     <message>
         <source>Next</source>
@@ -1650,6 +1697,74 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Information density %1</source>
         <translation>Densità di informazione %1</translation>
     </message>
+    <message>
+        <source>Export the section as a gridded text file, heights counted from the highest ground</source>
+        <translation>Esporta la sezione come file di testo a griglia, con le quote contate dal punto più alto del terreno</translation>
+    </message>
+    <message>
+        <source>Section as VTK grid ...</source>
+        <translation>Sezione come griglia VTK ...</translation>
+    </message>
+    <message>
+        <source>Export velocity, gradient and information density of the cells as a VTK unstructured grid</source>
+        <translation>Esporta velocità, gradiente e densità di informazione delle celle come griglia non strutturata VTK</translation>
+    </message>
+    <message>
+        <source>Section as Surfer grid ...</source>
+        <translation>Sezione come griglia Surfer ...</translation>
+    </message>
+    <message>
+        <source>Export the velocities on a regular raster as a Surfer ASCII grid</source>
+        <translation>Esporta le velocità su una maglia regolare come griglia ASCII di Surfer</translation>
+    </message>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Salvato in %1</translation>
+    </message>
+    <message>
+        <source>The data have not been exported.</source>
+        <translation>I dati non sono stati esportati.</translation>
+    </message>
+    <message>
+        <source>Export Gridded Data</source>
+        <translation>Esporta dati a griglia</translation>
+    </message>
+    <message>
+        <source>Save gridded tomographic velocity in a text file (*.txt);;All Files (*)</source>
+        <translation>Velocità tomografiche a griglia in un file di testo (*.txt);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Export VTK Grid</source>
+        <translation>Esporta griglia VTK</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;All Files (*)</source>
+        <translation>Griglia non strutturata VTK (*.vtu);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Export Surfer Grid</source>
+        <translation>Esporta griglia Surfer</translation>
+    </message>
+    <message>
+        <source>Surfer ASCII grid (*.grd);;All Files (*)</source>
+        <translation>Griglia ASCII di Surfer (*.grd);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
+        <translation>Mancano le coordinate geografiche: i dati non possono essere esportati in formato KML</translation>
+    </message>
+    <message>
+        <source>Export Tomography to KML</source>
+        <translation>Esporta tomografia in KML</translation>
+    </message>
+    <message>
+        <source>KML (*.kml);;All Files (*)</source>
+        <translation>KML (*.kml);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Export Seismic Line to KML</source>
+        <translation>Esporta linea sismica in KML</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -2165,6 +2280,134 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>This shot has no traces</source>
         <translation>Questo tiro non ha tracce</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::setGeographyDialog</name>
+    <message>
+        <source>Set geographic coordinates</source>
+        <translation>Coordinate geografiche</translation>
+    </message>
+    <message>
+        <source>Easting (m)</source>
+        <translation>Est (m)</translation>
+    </message>
+    <message>
+        <source>Northing (m)</source>
+        <translation>Nord (m)</translation>
+    </message>
+    <message>
+        <source>Latitude, longitude (WGS84)</source>
+        <translation>Latitudine, longitudine (WGS84)</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Primo geofono</translation>
+    </message>
+    <message>
+        <source>Easting of the first geophone in metres</source>
+        <translation>Coordinata est del primo geofono in metri</translation>
+    </message>
+    <message>
+        <source>Northing of the first geophone in metres</source>
+        <translation>Coordinata nord del primo geofono in metri</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Ultimo geofono</translation>
+    </message>
+    <message>
+        <source>Easting of the last geophone in metres</source>
+        <translation>Coordinata est dell&apos;ultimo geofono in metri</translation>
+    </message>
+    <message>
+        <source>Northing of the last geophone in metres</source>
+        <translation>Coordinata nord dell&apos;ultimo geofono in metri</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>Codice EPSG</translation>
+    </message>
+    <message>
+        <source>EPSG code of the reference system</source>
+        <translation>Codice EPSG del sistema di riferimento</translation>
+    </message>
+    <message>
+        <source>First geophone (at %1 m)</source>
+        <translation>Primo geofono (a %1 m)</translation>
+    </message>
+    <message>
+        <source>Last geophone (at %1 m)</source>
+        <translation>Ultimo geofono (a %1 m)</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>south</comment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <comment>east</comment>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <comment>west</comment>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>There is no reference system with this EPSG code.</source>
+        <translation>Non esiste un sistema di riferimento con questo codice EPSG.</translation>
+    </message>
+    <message>
+        <source>This system is not projected: it has no easting and northing.</source>
+        <translation>Questo sistema non è proiettato: non ha coordinate est e nord.</translation>
+    </message>
+    <message>
+        <source>This system does not count in metres. Choose one that does.</source>
+        <translation>Questo sistema non è in metri. Sceglierne uno in metri.</translation>
+    </message>
+    <message>
+        <source>This system counts westward or southward. Choose one with easting and northing.</source>
+        <translation>Questo sistema conta verso ovest o verso sud. Sceglierne uno con coordinate est e nord.</translation>
+    </message>
+    <message>
+        <source>This system cannot be turned into longitude and latitude.</source>
+        <translation>Questo sistema non può essere convertito in longitudine e latitudine.</translation>
+    </message>
+    <message>
+        <source>Enter easting and northing of both geophones, in metres.</source>
+        <translation>Inserire le coordinate est e nord dei due geofoni, in metri.</translation>
+    </message>
+    <message>
+        <source>Enter the EPSG code of the reference system, for example 32632 for UTM zone 32 N.</source>
+        <translation>Inserire il codice EPSG del sistema di riferimento, per esempio 32632 per UTM zona 32 N.</translation>
+    </message>
+    <message>
+        <source>The first and the last geophone have the same coordinates.</source>
+        <translation>Il primo e l&apos;ultimo geofono hanno le stesse coordinate.</translation>
+    </message>
+    <message>
+        <source>These coordinates lie outside of the reference system.</source>
+        <translation>Queste coordinate sono fuori dal sistema di riferimento.</translation>
+    </message>
+    <message>
+        <source>On the map the two geophones are %1 m apart</source>
+        <translation>Sulla carta i due geofoni distano %1 m</translation>
+    </message>
+    <message>
+        <source>%1, along the line %2 m.</source>
+        <comment>distance on the map, distance along the line</comment>
+        <translation>%1, lungo la linea %2 m.</translation>
+    </message>
+    <message>
+        <source>Check the coordinates.</source>
+        <translation>Controllare le coordinate.</translation>
     </message>
 </context>
 </TS>
