@@ -3,12 +3,14 @@
 
 usage: make_seeds.py FOLDER
 The first byte of a travel-time seed chooses the reader, that of an SU seed the state that an earlier
-file left, that of an isovalue seed the separator; the rest is the file.
+file left, that of an isovalue seed the separator, that of a project seed the member
+that the rest stands for, 0 for the whole archive; the rest is the file.
 """
 import pathlib
 import sys
 
 from palette_seeds import isovalue_seeds, palette_seeds
+from project_seeds import project_seeds
 from shot_seeds import shot_seeds
 
 
@@ -84,6 +86,7 @@ def main():
     write(root / "travel_times", travel_time_seeds())
     write(root / "palette", palette_seeds())
     write(root / "isovalues", isovalue_seeds())
+    write(root / "project", project_seeds())
     for target, seeds in shot_seeds().items():
         write(root / target, seeds)
 

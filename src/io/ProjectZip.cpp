@@ -37,6 +37,9 @@ struct Discard {
 };
 using Archive = std::unique_ptr<zip_t, Discard>;
 
+/// Of compression, 1 to 9.
+constexpr zip_uint32_t kLevel = 1;
+
 struct CloseEntry {
   void operator()(zip_file_t* file) const { zip_fclose(file); }
 };
@@ -154,10 +157,16 @@ int writeZip(const std::string& path, const std::vector<std::string>& files) {
     if (source == nullptr) {
       return failSaving(__LINE__, " : write_ZIP() : impossible to tmp " + file);
     }
-    if (zip_file_add(archive.get(), bareName(file).c_str(), source, ZIP_FL_ENC_UTF_8) < 0) {
+    const zip_int64_t index =
+        zip_file_add(archive.get(), bareName(file).c_str(), source, ZIP_FL_ENC_UTF_8);
+    if (index < 0) {
       zip_source_free(source);
       return failSaving(__LINE__, " : write_ZIP() : impossible to add " + file);
     }
+    // The library would take its best level, which takes ten times as long on samples for one
+    // part in a hundred.
+    zip_set_file_compression(archive.get(), static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE,
+                             kLevel);
   }
   // Only a close that succeeds takes the archive over.
   if (zip_close(archive.get()) != 0) {

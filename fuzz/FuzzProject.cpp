@@ -1,0 +1,122 @@
+// Throws any bytes at the reader of projects, as a whole archive or in place of one member of a
+// sound one. What it accepts must hang together, and must be there again after saving and loading.
+#include "Demand.h"
+#include "base/Console.h"
+#include "io/ProjectAssembly.h"
+#include "io/ProjectWriter.h"
+#include "io/ProjectZip.h"
+#include "io/projectReader.h"
+
+#include <QTemporaryDir>
+#include <cstdint>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace talvesk;
+
+const char* const kMembers[] = {kSurveyMember, kGridMember, kTracesMember, kPalettesMember,
+                                kRefractionMember};
+
+void put(const std::string& path, const std::uint8_t* bytes, std::size_t size) {
+  std::ofstream stream(path, std::ios::binary | std::ios::trunc);
+  stream.write(reinterpret_cast<const char*>(bytes), static_cast<std::streamsize>(size));
+}
+
+int save(const std::string& path, const std::string& work, const LoadedProject& project) {
+  ProjectWriter writer;
+  return writer.save(path, work, project.document, project.interpretation, project.palettes,
+                     project.section);
+}
+
+/// Two shots into three geophones, with traces and layers, without a file.
+LoadedProject soundProject() {
+  LoadedProject project;
+  project.document.goephonesStringSet = {{{0, 100}, {5, 101}, {10, 102}}};
+  for (std::int32_t shot = 0; shot < 2; ++shot) {
+    TravelTime record;
+    record.shotPos2d = {12.0 * shot - 1.0, 100.0};
+    record.traceSetID = shot;
+    record.ttMisurati = {0.01, 0.0, -99.0};
+    record.ttCalcolati = {0.01, 0.02, 0.03};
+    project.document.ttArray.push_back(record);
+    Trace trace;
+    trace.waveKind = Trace::kFromFile;
+    trace.sampleInterval = 0.001;
+    trace.samples = {0, 1, 2};
+    project.document.traceSets.push_back({trace, trace, trace});
+    project.document.shotPositions.push_back(record.shotPos2d.x);
+    project.interpretation.ttLayer.push_back(
+        {static_cast<std::uint32_t>(shot), {1, 2, 3}, {0, 0, 0}, true});
+  }
+  return project;
+}
+
+/// The folder of all runs, with the members of the sound project loose in it.
+struct Workshop {
+  Workshop() {
+    const std::string archive = root() + "sound.tvsk";
+    demand(save(archive, root(), soundProject()) == 0, "the sound project can be saved");
+    QDir(folder.path()).mkdir(QStringLiteral("loose"));
+    demand(readZip(archive, loose()) == 0, "and extracted");
+  }
+  std::string root() const { return folder.path().toStdString() + "/"; }
+  std::string loose() const { return root() + "loose/"; }
+
+  QTemporaryDir folder;
+};
+
+/// The archive with the bytes in it.
+void build(const Workshop& shop, std::uint8_t place, const std::uint8_t* bytes, std::size_t size,
+           const std::string& archive) {
+  if (place == 0) return put(archive, bytes, size);
+  std::vector<std::string> files;
+  for (const char* member : kMembers) files.push_back(shop.loose() + member);
+  const std::string changed = shop.root() + kMembers[place - 1];
+  put(changed, bytes, size);
+  files[place - 1] = changed;
+  demand(writeZip(archive, files) == 0, "an archive of any members");
+}
+
+void demandWhole(const LoadedProject& project) {
+  const TomoDocument& document = project.document;
+  const auto strings = static_cast<std::int64_t>(document.goephonesStringSet.size());
+  demand(document.traceSets.empty() || document.traceSets.size() == document.ttArray.size(),
+         "a record for every trace set");
+  for (const TravelTime& record : document.ttArray) {
+    demand(record.indexStesa >= -1 && record.indexStesa < strings, "a string that exists");
+    demand(record.ttCalcolati.size() == record.ttMisurati.size(), "computed times");
+  }
+  for (std::size_t i = 0; i < document.traceSets.size(); ++i) {
+    demand(document.ttArray[i].ttMisurati.size() >= document.traceSets[i].size(), "enough times");
+  }
+  if (document.grid != nullptr) {
+    demand(document.grid->invalidSlowness().empty(), "velocities to trace rays through");
+    demand(document.info_density.size() == document.grid->cellCount(), "a density per cell");
+  }
+  demand(project.palettes.currentIndex() < project.palettes.size(), "a current palette");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+  console::setOut(console::nowhere());
+  console::setError(console::nowhere());
+  if (size == 0 || size > 100000) return 0;
+  static const Workshop shop;
+  const std::string archive = shop.root() + "fuzz.tvsk";
+  build(shop, bytes[0] % 6, bytes + 1, size - 1, archive);
+  LoadedProject project;
+  projectReader reader;
+  const bool loaded = reader.load(archive, shop.root(), project) == 0;
+  demand(loaded == reader.message().empty(), "a message with every failure");
+  if (!loaded) return 0;
+  demandWhole(project);
+  demand(save(archive, shop.root(), project) == 0, "what was loaded can be saved");
+  LoadedProject again;
+  demand(reader.load(archive, shop.root(), again) == 0, "and loaded");
+  demandWhole(again);
+  return 0;
+}
