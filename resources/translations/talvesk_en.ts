@@ -2,6 +2,117 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>talvesk::DialogSetGeometry</name>
+    <message numerus="yes">
+        <source>%1: %n geophone(s)</source>
+        <translation>
+            <numerusform>%1: %n geophone</numerusform>
+            <numerusform>%1: %n geophones</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 is used by shot(s) %2. Remove it?</source>
+        <translation>
+            <numerusform>String %1 is used by shot %2. Remove it?</numerusform>
+            <numerusform>String %1 is used by shots %2. Remove it?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) interpolated.</source>
+        <translation>
+            <numerusform>%n elevation interpolated.</numerusform>
+            <numerusform>%n elevations interpolated.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the picks of shot(s) %1</source>
+        <translation>
+            <numerusform>the picks of shot %1</numerusform>
+            <numerusform>the picks of shots %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n S-wave shot(s) added.</source>
+        <translation>
+            <numerusform>%n S-wave shot added.</numerusform>
+            <numerusform>%n S-wave shots added.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeometryTexts</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 without a position.</source>
+        <translation>
+            <numerusform>String %1: geophone %2 has no position.</numerusform>
+            <numerusform>String %1: geophones %2 have no position.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 against the direction of the string.</source>
+        <translation>
+            <numerusform>String %1: geophone %2 steps back against the direction of the string.</numerusform>
+            <numerusform>String %1: geophones %2 step back against the direction of the string.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 not at the elevation that string %3 has there.</source>
+        <translation>
+            <numerusform>String %1: geophone %2 is not at the elevation that string %3 has there.</numerusform>
+            <numerusform>String %1: geophones %2 are not at the elevations that string %3 has there.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a position.</source>
+        <translation>
+            <numerusform>Shot %1 has no position.</numerusform>
+            <numerusform>Shots %1 have no position.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string.</source>
+        <translation>
+            <numerusform>Shot %1 has no geophone string.</numerusform>
+            <numerusform>Shots %1 have no geophone string.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not an S-wave pair, as others are: a survey holds one kind of wave.</source>
+        <translation>
+            <numerusform>Shot %1 is not an S-wave pair, as others are: a survey holds one kind of wave.</numerusform>
+            <numerusform>Shots %1 are not S-wave pairs, as others are: a survey holds one kind of wave.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 farther off the line than the line is long.</source>
+        <translation>
+            <numerusform>Shot %1 is farther off the line than the line is long.</numerusform>
+            <numerusform>Shots %1 are farther off the line than the line is long.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 far above or below the line.</source>
+        <translation>
+            <numerusform>Shot %1 is far above or below the line.</numerusform>
+            <numerusform>Shots %1 are far above or below the line.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 has %2 geophones, shot(s) %3 %4 traces: the first %5 of both are used.</source>
+        <translation>
+            <numerusform>String %1 has %2 geophones, shot %3 has %4 traces: the first %5 of both are used.</numerusform>
+            <numerusform>String %1 has %2 geophones, shots %3 have %4 traces: the first %5 of both are used.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::Messages</name>
     <message numerus="yes">
         <source>and %n more</source>

@@ -146,6 +146,376 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::DialogSetGeometry</name>
+    <message>
+        <source>Set survey geometry - Dialog</source>
+        <translation>Geometria del rilievo</translation>
+    </message>
+    <message>
+        <source>This survey has no shots yet. Open shot files (Ctrl+O) or import travel times first, or add S-wave pairs on the page Shots.</source>
+        <translation>Questo rilievo non ha ancora scoppi. Apri prima i file degli scoppi (Ctrl+O) o importa i tempi di arrivo, oppure aggiungi coppie di onde S nella pagina Scoppi.</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>&amp;String:</source>
+        <translation>&amp;Stesa:</translation>
+    </message>
+    <message>
+        <source>The geophone string in the table; its geophones are in the order of the channels</source>
+        <translation>La stesa di geofoni nella tabella; i geofoni sono nell&apos;ordine dei canali</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Aggiungi</translation>
+    </message>
+    <message>
+        <source>Add a string without geophones</source>
+        <translation>Aggiunge una stesa senza geofoni</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>Remove the string in the table</source>
+        <translation>Rimuove la stesa nella tabella</translation>
+    </message>
+    <message>
+        <source>&amp;Copy from</source>
+        <translation>&amp;Copia da</translation>
+    </message>
+    <message>
+        <source>Replace the geophones of this string by those of another one</source>
+        <translation>Sostituisce i geofoni di questa stesa con quelli di un&apos;altra</translation>
+    </message>
+    <message>
+        <source>&amp;First (m):</source>
+        <translation>&amp;Primo (m):</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone along the line</source>
+        <translation>Distanza del primo geofono lungo la linea</translation>
+    </message>
+    <message>
+        <source>S&amp;pacing (m):</source>
+        <translation>Pass&amp;o (m):</translation>
+    </message>
+    <message>
+        <source>Distance from one geophone to the next; negative where the channels run backwards</source>
+        <translation>Distanza da un geofono al successivo; negativa se i canali vanno all&apos;indietro</translation>
+    </message>
+    <message>
+        <source>C&amp;ount:</source>
+        <translation>&amp;Numero:</translation>
+    </message>
+    <message>
+        <source>How many geophones the string gets, as a rule the channels of a shot</source>
+        <translation>Quanti geofoni riceve la stesa, di regola i canali di uno scoppio</translation>
+    </message>
+    <message>
+        <source>A&amp;utofill</source>
+        <translation>A&amp;utoriempi</translation>
+    </message>
+    <message>
+        <source>Give the string so many geophones, evenly spaced; elevations that are there stay</source>
+        <translation>Dà alla stesa questo numero di geofoni, a passo costante; le quote già presenti restano</translation>
+    </message>
+    <message>
+        <source>Geophones of the string</source>
+        <translation>Geofoni della stesa</translation>
+    </message>
+    <message>
+        <source>Type, or paste from a spreadsheet. Enter goes down, Delete empties cells, Ctrl+D fills down, Insert adds a row. Elevations in italics were not typed and can be interpolated.</source>
+        <translation>Scrivi, o incolla da un foglio di calcolo. Invio scende, Canc svuota le celle, Ctrl+D ripete verso il basso, Ins aggiunge una riga. Le quote in corsivo non sono state scritte e si possono interpolare.</translation>
+    </message>
+    <message>
+        <source>&amp;Interpolate elevations</source>
+        <translation>&amp;Interpola le quote</translation>
+    </message>
+    <message>
+        <source>Elevations that were not typed follow a line from typed one to typed one; empty those that shall be interpolated</source>
+        <translation>Le quote non scritte seguono una linea da una quota scritta all&apos;altra; svuota quelle da interpolare</translation>
+    </message>
+    <message>
+        <source>&amp;Load Geometry</source>
+        <translation>&amp;Carica geometria</translation>
+    </message>
+    <message>
+        <source>Read x and elevation of the geophones of this string from a text file</source>
+        <translation>Legge x e quota dei geofoni di questa stesa da un file di testo</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Geometry</source>
+        <translation>Sal&amp;va geometria</translation>
+    </message>
+    <message>
+        <source>Write x and elevation of the geophones of this string to a text file</source>
+        <translation>Scrive x e quota dei geofoni di questa stesa in un file di testo</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Scoppi</translation>
+    </message>
+    <message>
+        <source>Type, or paste from a spreadsheet. Enter goes down, Delete empties cells, Ctrl+D fills down.</source>
+        <translation>Scrivi, o incolla da un foglio di calcolo. Invio scende, Canc svuota le celle, Ctrl+D ripete verso il basso.</translation>
+    </message>
+    <message>
+        <source>Shot in the table</source>
+        <translation>Scoppio nella tabella</translation>
+    </message>
+    <message>
+        <source>Elevations of shots that were not typed are those of the line between the geophones</source>
+        <translation>Le quote degli scoppi non scritte sono quelle della linea tra i geofoni</translation>
+    </message>
+    <message>
+        <source>S-&amp;wave files ...</source>
+        <translation>&amp;File onde S ...</translation>
+    </message>
+    <message>
+        <source>Choose the DX and the SX file that the selected shot is made of</source>
+        <translation>Sceglie il file DX e il file SX di cui è fatto lo scoppio selezionato</translation>
+    </message>
+    <message>
+        <source>Add S-wave &amp;pairs ...</source>
+        <translation>Aggiungi co&amp;ppie onde S ...</translation>
+    </message>
+    <message>
+        <source>Choose DX files and as many SX files; each pair becomes a shot whose traces are DX minus SX</source>
+        <translation>Sceglie i file DX e altrettanti file SX; ogni coppia diventa uno scoppio le cui tracce sono DX meno SX</translation>
+    </message>
+    <message>
+        <source>&amp;Load Shots Geometry</source>
+        <translation>&amp;Carica geometria scoppi</translation>
+    </message>
+    <message>
+        <source>Read x and elevation of all shots from a text file</source>
+        <translation>Legge x e quota di tutti gli scoppi da un file di testo</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Shots Geometry</source>
+        <translation>Sal&amp;va geometria scoppi</translation>
+    </message>
+    <message>
+        <source>Write x and elevation of all shots to a text file</source>
+        <translation>Scrive x e quota di tutti gli scoppi in un file di testo</translation>
+    </message>
+    <message>
+        <source>&amp;To be looked at:</source>
+        <translation>&amp;Da controllare:</translation>
+    </message>
+    <message>
+        <source>A click shows the geophones or shots that are meant</source>
+        <translation>Un clic mostra i geofoni o gli scoppi interessati</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla modifica</translation>
+    </message>
+    <message>
+        <source>Take the last step back (Ctrl+Z)</source>
+        <translation>Annulla l&apos;ultima modifica (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>Do the step again (Ctrl+Shift+Z)</source>
+        <translation>Ripete la modifica (Ctrl+Shift+Z)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n geophone(s)</source>
+        <translation>
+            <numerusform>%1: %n geofono</numerusform>
+            <numerusform>%1: %n geofoni</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a length in metres.</source>
+        <translation>&quot;%1&quot; non è una lunghezza in metri.</translation>
+    </message>
+    <message>
+        <source>They have no geophones then, until another string is added.</source>
+        <translation>Restano senza geofoni finché non si aggiunge un&apos;altra stesa.</translation>
+    </message>
+    <message>
+        <source>They will use string %1, as it is numbered then.</source>
+        <translation>Useranno la stesa %1, secondo la nuova numerazione.</translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 is used by shot(s) %2. Remove it?</source>
+        <translation>
+            <numerusform>La stesa %1 è usata dallo scoppio %2. Rimuoverla?</numerusform>
+            <numerusform>La stesa %1 è usata dagli scoppi %2. Rimuoverla?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All elevations were typed. Empty those that shall be interpolated.</source>
+        <translation>Tutte le quote sono state scritte. Svuota quelle da interpolare.</translation>
+    </message>
+    <message>
+        <source>Type the elevation of one geophone at least.</source>
+        <translation>Scrivi la quota di almeno un geofono.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) interpolated.</source>
+        <translation>
+            <numerusform>%n quota interpolata.</numerusform>
+            <numerusform>%n quote interpolate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the grid and the results of the inversion</source>
+        <translation>la griglia e i risultati dell&apos;inversione</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>la griglia</translation>
+    </message>
+    <message>
+        <source>the refraction interpretation</source>
+        <translation>l&apos;interpretazione a rifrazione</translation>
+    </message>
+    <message numerus="yes">
+        <source>the picks of shot(s) %1</source>
+        <translation>
+            <numerusform>i picking dello scoppio %1</numerusform>
+            <numerusform>i picking degli scoppi %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Attenzione</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be lost:</source>
+        <translation>Il rilievo cambia. Andranno persi:</translation>
+    </message>
+    <message>
+        <source>Do you want to continue?</source>
+        <translation>Vuoi continuare?</translation>
+    </message>
+    <message>
+        <source>The geometry is not complete.</source>
+        <translation>La geometria non è completa.</translation>
+    </message>
+    <message>
+        <source>The geometry has been edited.</source>
+        <translation>La geometria è stata modificata.</translation>
+    </message>
+    <message>
+        <source>Do you want to leave it as it was before?</source>
+        <translation>Vuoi lasciarla com&apos;era prima?</translation>
+    </message>
+    <message>
+        <source>Open Geometry</source>
+        <translation>Apri geometria</translation>
+    </message>
+    <message>
+        <source>Save Geometry</source>
+        <translation>Salva geometria</translation>
+    </message>
+    <message>
+        <source>%1 exists.</source>
+        <translation>%1 esiste già.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Vuoi sostituirlo?</translation>
+    </message>
+    <message>
+        <source>Geophones Geometry (*csv)</source>
+        <translation>Geometria dei geofoni (*csv)</translation>
+    </message>
+    <message>
+        <source>Error Message</source>
+        <translation>Messaggio di errore</translation>
+    </message>
+    <message>
+        <source>Invalid geometry file.</source>
+        <translation>File di geometria non valido.</translation>
+    </message>
+    <message>
+        <source>Geophones saved in %1</source>
+        <translation>Geofoni salvati in %1</translation>
+    </message>
+    <message>
+        <source>CSV format (*.csv)</source>
+        <translation>Formato CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Invalid geometry file. </source>
+        <translation>File di geometria non valido. </translation>
+    </message>
+    <message>
+        <source>Geophones loaded from %1</source>
+        <translation>Geofoni caricati da %1</translation>
+    </message>
+    <message>
+        <source>Invalid shot file. </source>
+        <translation>File degli scoppi non valido. </translation>
+    </message>
+    <message>
+        <source>Shots saved in %1</source>
+        <translation>Scoppi salvati in %1</translation>
+    </message>
+    <message>
+        <source>Shots loaded from %1</source>
+        <translation>Scoppi caricati da %1</translation>
+    </message>
+    <message>
+        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)</source>
+        <translation>File sismici (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Open DX File of Shot %1</source>
+        <translation>Apri il file DX dello scoppio %1</translation>
+    </message>
+    <message>
+        <source>Open SX File of Shot %1</source>
+        <translation>Apri il file SX dello scoppio %1</translation>
+    </message>
+    <message>
+        <source>Error occured</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>The files are not taken as an S-wave pair.</source>
+        <translation>I file non sono accettati come coppia di onde S.</translation>
+    </message>
+    <message>
+        <source>Open DX Files</source>
+        <translation>Apri i file DX</translation>
+    </message>
+    <message>
+        <source>Open SX Files</source>
+        <translation>Apri i file SX</translation>
+    </message>
+    <message>
+        <source>There must be as many SX files as DX files.</source>
+        <translation>I file SX devono essere tanti quanti i file DX.</translation>
+    </message>
+    <message>
+        <source>%1 DX files and %2 SX files were chosen.</source>
+        <translation>Sono stati scelti %1 file DX e %2 file SX.</translation>
+    </message>
+    <message>
+        <source>No shot was added: the files are not taken as S-wave pairs.</source>
+        <translation>Nessuno scoppio aggiunto: i file non sono accettati come coppie di onde S.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n S-wave shot(s) added.</source>
+        <translation>
+            <numerusform>%n scoppio di onde S aggiunto.</numerusform>
+            <numerusform>%n scoppi di onde S aggiunti.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ExportTomoVelData</name>
     <message>
         <source>Set optional shift parameter before export</source>
@@ -194,6 +564,192 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>The Z offset is not a number.</source>
         <translation>Lo spostamento Z non è un numero.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeometryTable</name>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>&quot;%1&quot; non è un numero.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1.</source>
+        <translation>Non è stato incollato nulla: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows do not fit from row %2 on, of %3.</source>
+        <translation>Non è stato incollato nulla: %1 righe non entrano dalla riga %2, su %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 columns do not fit from column &quot;%2&quot; on.</source>
+        <translation>Non è stato incollato nulla: %1 colonne non entrano dalla colonna &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1</source>
+        <translation>Non è stato incollato nulla: %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeometryTexts</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 e un altro</numerusform>
+            <numerusform>%1 e altri %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 without a position.</source>
+        <translation>
+            <numerusform>Stesa %1: il geofono %2 non ha posizione.</numerusform>
+            <numerusform>Stesa %1: i geofoni %2 non hanno posizione.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>String %1: geophones %2 stand at one place.</source>
+        <translation>Stesa %1: i geofoni %2 sono nello stesso punto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 against the direction of the string.</source>
+        <translation>
+            <numerusform>Stesa %1: il geofono %2 va contro il verso della stesa.</numerusform>
+            <numerusform>Stesa %1: i geofoni %2 vanno contro il verso della stesa.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 not at the elevation that string %3 has there.</source>
+        <translation>
+            <numerusform>Stesa %1: il geofono %2 non è alla quota che la stesa %3 ha in quel punto.</numerusform>
+            <numerusform>Stesa %1: i geofoni %2 non sono alla quota che la stesa %3 ha in quei punti.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a position.</source>
+        <translation>
+            <numerusform>Lo scoppio %1 non ha posizione.</numerusform>
+            <numerusform>Gli scoppi %1 non hanno posizione.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string.</source>
+        <translation>
+            <numerusform>Lo scoppio %1 non ha una stesa di geofoni.</numerusform>
+            <numerusform>Gli scoppi %1 non hanno una stesa di geofoni.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not an S-wave pair, as others are: a survey holds one kind of wave.</source>
+        <translation>
+            <numerusform>Lo scoppio %1 non è una coppia di onde S come gli altri: un rilievo contiene un solo tipo di onda.</numerusform>
+            <numerusform>Gli scoppi %1 non sono coppie di onde S come gli altri: un rilievo contiene un solo tipo di onda.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 farther off the line than the line is long.</source>
+        <translation>
+            <numerusform>Lo scoppio %1 è lontano dalla linea più della sua lunghezza.</numerusform>
+            <numerusform>Gli scoppi %1 sono lontani dalla linea più della sua lunghezza.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 far above or below the line.</source>
+        <translation>
+            <numerusform>Lo scoppio %1 è molto sopra o sotto la linea.</numerusform>
+            <numerusform>Gli scoppi %1 sono molto sopra o sotto la linea.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 has %2 geophones, shot(s) %3 %4 traces: the first %5 of both are used.</source>
+        <translation>
+            <numerusform>La stesa %1 ha %2 geofoni, lo scoppio %3 ha %4 tracce: si usano i primi %5.</numerusform>
+            <numerusform>La stesa %1 ha %2 geofoni, gli scoppi %3 hanno %4 tracce: si usano i primi %5.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>String %1 has no geophones.</source>
+        <translation>La stesa %1 non ha geofoni.</translation>
+    </message>
+    <message>
+        <source>No shot uses string %1; its positions shape the surface all the same.</source>
+        <translation>Nessuno scoppio usa la stesa %1; le sue posizioni modellano comunque la superficie.</translation>
+    </message>
+    <message>
+        <source>Shot ID &lt;b&gt;</source>
+        <translation>ID scoppio &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;/b&gt;&lt;br&gt;Geophone geometry ID: &lt;b&gt;</source>
+        <translation>&lt;/b&gt;&lt;br&gt;ID geometria geofoni: &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;/b&gt; Shot position: &lt;b&gt;</source>
+        <translation>&lt;/b&gt; Posizione dello scoppio: &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source> m&lt;/b&gt;</source>
+        <translation> m&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>File name &lt;b&gt;</source>
+        <translation>Nome del file &lt;b&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeophoneTable</name>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Quota (m)</translation>
+    </message>
+    <message>
+        <source>%1 m is too far away.</source>
+        <translation>%1 m è troppo lontano.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LinePlan</name>
+    <message>
+        <source>Geophones of string %1</source>
+        <translation>Geofoni della stesa %1</translation>
+    </message>
+    <message>
+        <source>Other strings</source>
+        <translation>Altre stese</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Scoppi</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>Da controllare</translation>
+    </message>
+    <message>
+        <source>x %1 m, z %2 m</source>
+        <translation>x %1 m, z %2 m</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Scoppio %1</translation>
+    </message>
+    <message>
+        <source>String %1, geophone %2</source>
+        <translation>Stesa %1, geofono %2</translation>
+    </message>
+    <message>
+        <source>Plan of the line</source>
+        <translation>Pianta della linea</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>Distanza (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Quota (m)</translation>
     </message>
 </context>
 <context>
@@ -616,6 +1172,41 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::ShotTable</name>
+    <message>
+        <source>String</source>
+        <translation>Stesa</translation>
+    </message>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Quota (m)</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>DX file</source>
+        <translation>File DX</translation>
+    </message>
+    <message>
+        <source>SX file</source>
+        <translation>File SX</translation>
+    </message>
+    <message>
+        <source>%1 m is too far away.</source>
+        <translation>%1 m è troppo lontano.</translation>
+    </message>
+    <message>
+        <source>There is no string %1.</source>
+        <translation>Non c&apos;è una stesa %1.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::SpectrumPlot</name>
     <message>
         <source>Amplitude spectrum</source>
@@ -628,6 +1219,33 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Intensity</source>
         <translation>Intensità</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SpreadsheetView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>&amp;Empty cells</source>
+        <translation>&amp;Svuota celle</translation>
+    </message>
+    <message>
+        <source>Fill &amp;down</source>
+        <translation>Ripeti verso il &amp;basso</translation>
+    </message>
+    <message>
+        <source>&amp;Insert a row above</source>
+        <translation>I&amp;nserisci una riga sopra</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>&amp;Rimuovi righe</translation>
     </message>
 </context>
 <context>
@@ -1764,6 +2382,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Export Seismic Line to KML</source>
         <translation>Esporta linea sismica in KML</translation>
+    </message>
+    <message>
+        <source>The geometry of the survey has changed.</source>
+        <translation>La geometria del rilievo è cambiata.</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,7 @@ enum class PickSnap;
 enum class TraceTool;
 struct FilterOutcome;
 struct SectionReading;
+struct SurveyGeometry;
 struct TraceCursor;
 
 /// The one window of the program. It owns the survey, the log and the settings, asks what a command
@@ -204,7 +205,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void loadShotFiles(const QStringList& files);
   void reportShotFiles(const std::vector<ShotFileOutcome>& outcomes);
   void showFresh(int index);
-  void askForShotTime(std::size_t firstSet);
+  void askForShotTime(const std::vector<std::size_t>& sets);
   void importTravelTimeFile(const QString& file);
   QString historyFolder() const;
   void saveHistoryOf(const QString& file);
@@ -212,6 +213,9 @@ class Talvesk_MainWindows : public QMainWindow {
   QString askForExport(const QString& title, const QString& filter, const char* suffix);
   void tellExport(const Status& written, const QString& file);
   bool mayExportKml();
+
+  // Geometry
+  void takeGeometry(const SurveyGeometry& geometry);
 
   // State
   void changeLanguage(int index);

@@ -15,7 +15,7 @@
 #include <QStatusBar>
 #include <QUrl>
 #include <algorithm>
-#include <iterator>
+#include <numeric>
 
 namespace talvesk {
 namespace {
@@ -89,7 +89,9 @@ void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
   documentChanged();
   if (mDocument.traceSets.size() > before) showFresh(static_cast<int>(before));
   reportShotFiles(outcomes);
-  askForShotTime(before);
+  std::vector<std::size_t> fresh(mDocument.traceSets.size() - before);
+  std::iota(fresh.begin(), fresh.end(), before);
+  askForShotTime(fresh);
 }
 
 /// Makes a record that was just loaded the current one, and the keys go to its traces: they would
@@ -127,9 +129,10 @@ void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& ou
   statusBar()->showMessage(text, kMessageTime);
 }
 
-void Talvesk_MainWindows::askForShotTime(std::size_t firstSet) {
+/// \param sets trace sets that are new, from 0
+void Talvesk_MainWindows::askForShotTime(const std::vector<std::size_t>& sets) {
   double longest = 0.0;
-  for (std::size_t set = firstSet; set < mDocument.traceSets.size(); ++set) {
+  for (const std::size_t set : sets) {
     for (const Trace& trace : mDocument.traceSets[set]) longest = std::min(longest, trace.delay);
   }
   if (longest >= 0.0) return;
@@ -141,10 +144,13 @@ void Talvesk_MainWindows::askForShotTime(std::size_t firstSet) {
   if (!yes) return;
   // Only the new records: picks on the older ones count from where those start now.
   TomoDocument fresh;
-  const auto first = mDocument.traceSets.begin() + static_cast<std::ptrdiff_t>(firstSet);
-  std::move(first, mDocument.traceSets.end(), std::back_inserter(fresh.traceSets));
+  for (const std::size_t set : sets) {
+    fresh.traceSets.push_back(std::move(mDocument.traceSets[set]));
+  }
   const ShotTimeOutcome outcome = countTimeFromShot(fresh);
-  std::move(fresh.traceSets.begin(), fresh.traceSets.end(), first);
+  for (std::size_t i = 0; i < sets.size(); ++i) {
+    mDocument.traceSets[sets[i]] = std::move(fresh.traceSets[i]);
+  }
   documentChanged();
   if (outcome.leftAsRecorded > 0) {
     showNote(this, tr("Recording delay"),

@@ -1,9 +1,21 @@
+#include "app/DialogSetGeometry.h"
 #include "app/Talvesk_MainWindows.h"
 #include "ui_Talvesk_MainWindows.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QStatusBar>
 
 // The command that edits where geophones and shots stand.
 
 namespace talvesk {
+namespace {
+
+bool isInterpreted(const refractionDataStructure::Interpretation& interpretation) {
+  return !interpretation.phnt_A.empty() || !interpretation.phnt_R.empty() ||
+         !interpretation.refractData.cData.empty();
+}
+
+}  // namespace
 
 void Talvesk_MainWindows::on_actionGeometry_triggered() {
   logSlot(__func__);
@@ -11,13 +23,48 @@ void Talvesk_MainWindows::on_actionGeometry_triggered() {
 }
 
 bool Talvesk_MainWindows::askGeometry() {
-  return false;
+  DialogSetGeometry::Context context;
+  context.interpreted = isInterpreted(mInterpretation);
+  context.folder = historyFolder();
+  DialogSetGeometry dialog(mDocument, mLoader.state(), context, this);
+  if (dialog.exec() != QDialog::Accepted) return false;
+  takeGeometry(dialog.geometry());
+  return true;
+}
+
+void Talvesk_MainWindows::takeGeometry(const SurveyGeometry& geometry) {
+  if (!applyGeometry(geometry, mDocument)) return;
+  // Which pick belongs to which layer does not depend on positions; what was computed does.
+  mInterpretation.phnt_A.clear();
+  mInterpretation.phnt_R.clear();
+  mInterpretation.refractData = {};
+  for (auto& shot : mInterpretation.ttLayer) shot.trasla.assign(shot.trasla.size(), 0.0);
+
+  std::vector<std::size_t> fresh;
+  mShots.resize(mDocument.traceSets.size());
+  for (std::size_t i = 0; i < geometry.shots.size(); ++i) {
+    const auto& pair = geometry.shots[i].pair;
+    if (!pair) continue;
+    fresh.push_back(i);
+    mShots[i] = ShotMemory();
+    mShots[i].format = QString::fromStdString(pair->format);
+    for (const std::string& warning : pair->warnings) {
+      mShots[i].warnings << QString::fromStdString(warning);
+    }
+    if (i < mInterpretation.ttLayer.size()) mInterpretation.ttLayer[i].layer.clear();
+  }
+  if (!fresh.empty()) {
+    for (editTravelTimesWidget* editor : editors()) editor->picksReplaced();
+  }
+  documentChanged();
+  if (!fresh.empty()) showFresh(static_cast<int>(fresh.front()));
+  statusBar()->showMessage(tr("The geometry of the survey has changed."), 10000);
+  askForShotTime(fresh);
 }
 
 void Talvesk_MainWindows::refreshGeometryCommands() {
-  for (QAction* action : {mUi->actionGeometry}) {
-    action->setEnabled(false);
-  }
+  // An empty survey, too, can get geophones and S-wave pairs.
+  mUi->actionGeometry->setEnabled(true);
 }
 
 }  // namespace talvesk

@@ -62,9 +62,9 @@ void checkPositions(const GeophoneString& string, int number, Mistakes& mistakes
 }
 
 void checkPlaces(const GeophoneString& string, int number, Mistakes& mistakes) {
-  std::map<std::pair<double, double>, std::vector<std::size_t>> places;
+  std::map<double, std::vector<std::size_t>> places;
   for (std::size_t i = 0; i < string.size(); ++i) {
-    if (isUsable(string[i])) places[{string[i].x, string[i].z}].push_back(i);
+    if (isUsable(string[i])) places[string[i].x].push_back(i);
   }
   for (const auto& [place, geophones] : places) {
     if (geophones.size() < 2) continue;
@@ -102,7 +102,8 @@ void checkElevations(const SurveyGeometry& geometry, Mistakes& mistakes) {
       if (!isUsable(place)) continue;
       const auto [there, fresh] = known.emplace(place.x, std::pair(static_cast<int>(s), place.z));
       const auto [other, z] = there->second;
-      if (fresh || std::fabs(z - place.z) < kSameElevation) continue;
+      if (fresh || other == static_cast<int>(s) || std::fabs(z - place.z) < kSameElevation)
+        continue;
       byOther[other].geophones.push_back(i);
     }
     for (auto& [other, mistake] : byOther) {
@@ -140,7 +141,7 @@ void checkUse(const SurveyGeometry& geometry, Mistakes& mistakes) {
     add(mistakes, mistake);
   }
   for (int s = 0; s < count && !geometry.shots.empty(); ++s) {
-    if (used.count(s) != 0) continue;
+    if (used.count(s) != 0 || geometry.strings[static_cast<std::size_t>(s)].empty()) continue;
     GeometryMistake mistake;
     mistake.fault = GeometryFault::StringUnused;
     mistake.string = s;

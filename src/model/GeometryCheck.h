@@ -13,7 +13,7 @@ enum class GeometryFault {
   EmptyString,     ///< a string without geophones; blocks
   NoString,        ///< shots whose string does not exist; blocks
   MixedWaves,      ///< new S-wave pairs beside shots of one recording; blocks
-  SamePlace,       ///< geophones of one string at one place
+  SamePlace,       ///< geophones of one string at one distance
   StepsBack,       ///< geophones that go against the direction of their string
   TwoElevations,   ///< geophones of different strings at one distance, at different elevations
   CountDiffers,    ///< shots with another number of traces than their string has geophones

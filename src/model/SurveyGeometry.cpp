@@ -78,7 +78,8 @@ class Profile {
 /// \return whether the place took an elevation
 bool fillElevation(GeometryPlace& place, const Profile& profile) {
   if (place.typed || !std::isfinite(place.x)) return false;
-  place.z = profile.at(place.x);
+  constexpr double kMillimetres = 1000.0;  // nobody surveys finer
+  place.z = std::round(profile.at(place.x) * kMillimetres) / kMillimetres;
   return true;
 }
 

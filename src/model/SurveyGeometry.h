@@ -67,8 +67,8 @@ bool applyGeometry(const SurveyGeometry& geometry, TomoDocument& document);
 void autofill(GeophoneString& string, double first, double spacing, std::size_t count);
 
 /// Gives every geophone whose elevation nobody typed the one that lies between its typed neighbours
-/// along the line, and that of the outermost typed one beyond. \return how many got one; 0 also
-/// when no elevation was typed
+/// along the line, and that of the outermost typed one beyond, to the millimetre. \return how many
+/// got one; 0 also when no elevation was typed
 std::size_t interpolateElevations(GeophoneString& string);
 
 /// The same for the shots, from the geophones of all strings and the typed shots. Elevations of

@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QProgressDialog>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -25,8 +26,9 @@ void ModalScript::expect(std::function<void(QWidget&)> answer) {
 
 void ModalScript::look() {
   QWidget* dialog = QApplication::activeModalWidget();
-  if (dialog == nullptr || dialog == mAnswered || qobject_cast<QProgressDialog*>(dialog)) return;
-  mAnswered = dialog;
+  if (dialog == nullptr || qobject_cast<QProgressDialog*>(dialog)) return;
+  if (std::find(mAnswered.begin(), mAnswered.end(), dialog) != mAnswered.end()) return;
+  mAnswered.emplace_back(dialog);
   if (mAnswers.empty()) {
     const auto* box = qobject_cast<QMessageBox*>(dialog);
     ADD_FAILURE() << "nobody expects the dialog " << dialog->windowTitle().toStdString() << ": "

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <deque>
 #include <functional>
+#include <vector>
 
 namespace talvesk::testing {
 
@@ -32,7 +33,7 @@ class ModalScript : public QObject {
 
   QTimer mTimer;
   std::deque<std::function<void(QWidget&)>> mAnswers;
-  QPointer<QWidget> mAnswered;
+  std::vector<QPointer<QWidget>> mAnswered;  ///< some may be open, below others
 };
 
 }  // namespace talvesk::testing

@@ -55,6 +55,11 @@ TEST(GeometryCheck, findsWhatIsWrong) {
        [](SurveyGeometry& g) { g.shots[1].place.x = kNone; },
        {"position -1:/1,!"}},
       {"two at one place", [](SurveyGeometry& g) { g.strings[0][4].x = 6.0; }, {"place 0:3,4,/"}},
+      {"two at one distance",
+       [](SurveyGeometry& g) {
+         g.strings[0][4] = {6.0, 101.0};
+       },
+       {"place 0:3,4,/"}},
       {"one steps back", [](SurveyGeometry& g) { g.strings[0][4].x = 5.0; }, {"back 0:4,/"}},
       {"a string laid backwards is fine",
        [](SurveyGeometry& g) { std::reverse(g.strings[0].begin(), g.strings[0].end()); },

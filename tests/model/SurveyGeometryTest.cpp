@@ -143,6 +143,7 @@ TEST(Elevations, areInterpolatedBetweenTypedOnesAlongTheLine) {
       {"by distance, not by number", {{4, 8, true}, {0, 0, true}, {1, kNone}}, {8, 0, 2}, 1},
       {"one typed", {{0, kNone}, {5, 7, true}}, {7, 7}, 1},
       {"none typed", {{0, 3}, {5, 4}}, {3, 4}, 0},
+      {"to the millimetre", {{0, 0, true}, {1, 9}, {3, 1, true}}, {0, 0.333, 1}, 1},
       {"unknown distances stay", {{0, 1, true}, {kNone, 6}, {4, kNone}}, {1, 6, 1}, 1},
   };
   for (auto [name, string, z, filled] : kCases) {

@@ -1,0 +1,220 @@
+#include "app/DialogSetGeometry.h"
+#include "app/GeometrySession.h"
+#include "app/GeometryTables.h"
+#include "app/Messages.h"
+#include "app/SelectCSVDelimiterDialog.h"
+#include "base/Console.h"
+#include "io/GeometryFile.h"
+#include "io/SWavePairFile.h"
+#include "ui_DialogSetGeometry.h"
+
+#include <QApplication>
+#include <QCollator>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <algorithm>
+#include <ostream>
+
+// The files of the geometry dialog: positions as delimited text, and the recordings of S-wave
+// pairs.
+
+namespace talvesk {
+namespace {
+
+/// The wait cursor while it lives.
+class Waiting {
+ public:
+  Waiting() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~Waiting() { QApplication::restoreOverrideCursor(); }
+  Waiting(const Waiting&) = delete;
+  Waiting& operator=(const Waiting&) = delete;
+};
+
+/// The positions of a file that has exactly one for each of `count` places.
+bool positionsFor(std::size_t count, const Status& status, const GeometryRecords& records,
+                  std::vector<Point2D>& positions) {
+  return status.ok() && records.size() == count && positionsOf(records, positions).ok();
+}
+
+}  // namespace
+
+QString DialogSetGeometry::askForFile(bool save, const QString& filter) {
+  if (!save) {
+    return QFileDialog::getOpenFileName(this, tr("Open Geometry"), QDir::homePath(), filter);
+  }
+  const QString chosen =
+      QFileDialog::getSaveFileName(this, tr("Save Geometry"), QDir::homePath(), filter);
+  if (chosen.isEmpty()) return {};
+  const QString file = QString::fromStdString(withCsvSuffix(chosen.toStdString()));
+  // The dialog has asked about the name as it was chosen only.
+  if (file != chosen && QFileInfo::exists(file) &&
+      !askYesNo(this, tr("Save Geometry"), tr("%1 exists.").arg(QFileInfo(file).fileName()),
+                tr("Do you want to replace it?"), false)) {
+    return {};
+  }
+  return file;
+}
+
+void DialogSetGeometry::saveGeophones() {
+  const QString file = askForFile(true, tr("Geophones Geometry (*csv)"));
+  if (file.isEmpty()) return;
+  GeometryRecords records;
+  for (const GeometryPlace& place : mSession->string()) records.push_back({place.x, place.z});
+  const auto separator = SelectCSVDelimiterDialog::ask(this);
+  if (!separator) return;
+  if (!writeRecords(file.toStdString(), *separator, records).ok()) {
+    showError(this, windowTitle(), tr("Error Message"), tr("Invalid geometry file."));
+    return;
+  }
+  notice(tr("Geophones saved in %1").arg(QFileInfo(file).fileName()));
+}
+
+void DialogSetGeometry::loadGeophones() {
+  const QString file = askForFile(false, tr("CSV format (*.csv)"));
+  if (file.isEmpty()) return;
+  const auto separator = SelectCSVDelimiterDialog::ask(this);
+  if (!separator) return;
+  GeometryRecords records;
+  std::vector<Point2D> positions;
+  const Status status = readRecords(file.toStdString(), *separator, records);
+  if (!positionsFor(mSession->string().size(), status, records, positions)) {
+    showError(this, windowTitle(), tr("Error Message"),
+              tr("Invalid geometry file. ") + QString::number(records.size()));
+    notice(QString::fromStdString(status.message()), true);
+    return;
+  }
+  mSession->edit([&](SurveyGeometry& next) {
+    GeophoneString& string = next.strings[static_cast<std::size_t>(mSession->currentString())];
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+      string[i] = {positions[i].x, positions[i].z, true};
+    }
+  });
+  notice(tr("Geophones loaded from %1").arg(QFileInfo(file).fileName()));
+}
+
+void DialogSetGeometry::saveShots() {
+  const QString file = askForFile(true, tr("Geophones Geometry (*csv)"));
+  if (file.isEmpty()) return;
+  GeometryRecords records;
+  std::vector<std::string> labels;
+  for (const GeometryShot& shot : geometry().shots) {
+    labels.push_back(kShotLabel + std::to_string(labels.size() + 1));
+    records.push_back({shot.place.x, shot.place.z});
+  }
+  const auto separator = SelectCSVDelimiterDialog::ask(this);
+  if (!separator) return;
+  if (!writeLabelledRecords(file.toStdString(), *separator, labels, records).ok()) {
+    showError(this, windowTitle(), tr("Error Message"),
+              tr("Invalid shot file. ") + QString::number(0));
+    return;
+  }
+  notice(tr("Shots saved in %1").arg(QFileInfo(file).fileName()));
+}
+
+void DialogSetGeometry::loadShots() {
+  const QString file = askForFile(false, tr("CSV format (*.csv)"));
+  if (file.isEmpty()) return;
+  const auto separator = SelectCSVDelimiterDialog::ask(this);
+  if (!separator) return;
+  GeometryRecords records;
+  std::vector<Point2D> positions;
+  const Status status = readLabelledRecords(file.toStdString(), *separator, records);
+  if (!positionsFor(geometry().shots.size(), status, records, positions)) {
+    showError(this, windowTitle(), tr("Error Message"),
+              tr("Invalid shot file. ") + QString::number(records.size()));
+    notice(QString::fromStdString(status.message()), true);
+    return;
+  }
+  console::out() << "LOADED\nTo be updated: " << positions.size() << '\n';
+  mSession->edit([&](SurveyGeometry& next) {
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+      console::out() << "Setting " << i + 1 << '\n';
+      next.shots[i].place = {positions[i].x, positions[i].z, true};
+    }
+  });
+  console::out().flush();
+  notice(tr("Shots loaded from %1").arg(QFileInfo(file).fileName()));
+}
+
+/// Picks without traces stay what they are: every record of a survey has traces, or none has.
+bool DialogSetGeometry::takesPairs() const {
+  return mDocument.ttArray.size() == mDocument.traceSets.size();
+}
+
+QStringList DialogSetGeometry::askForRecordings(const QString& title, bool several) {
+  const QString filter = tr("Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)");
+  QStringList files;
+  if (several) {
+    files = QFileDialog::getOpenFileNames(this, title, mContext.folder, filter);
+  } else if (const QString file =
+                 QFileDialog::getOpenFileName(this, title, mContext.folder, filter);
+             !file.isEmpty()) {
+    files << file;
+  }
+  // Shot 10 comes after shot 9.
+  QCollator order;
+  order.setNumericMode(true);
+  std::sort(files.begin(), files.end(), order);
+  if (!files.isEmpty()) mContext.folder = QFileInfo(files.front()).absolutePath();
+  return files;
+}
+
+void DialogSetGeometry::choosePairOfShot() {
+  const int shot = currentShot();
+  if (shot < 0 || !takesPairs()) return;
+  const QStringList dx = askForRecordings(tr("Open DX File of Shot %1").arg(shot + 1), false);
+  if (dx.isEmpty()) return;
+  const QStringList sx = askForRecordings(tr("Open SX File of Shot %1").arg(shot + 1), false);
+  if (sx.isEmpty()) return;
+  auto pair = std::make_shared<SWavePair>();
+  const Status status =
+      readSWavePair(dx.front().toStdString(), sx.front().toStdString(), mState, *pair);
+  if (!status.ok()) {
+    showError(this, tr("Error occured"), tr("The files are not taken as an S-wave pair."),
+              QString::fromStdString(status.message()));
+    return;
+  }
+  mSession->edit([&](SurveyGeometry& next) {
+    GeometryShot& changed = next.shots[static_cast<std::size_t>(shot)];
+    changed.file.clear();
+    changed.fileDX = pair->fileDX;
+    changed.fileSX = pair->fileSX;
+    changed.traces = pair->traces.size();
+    changed.pair = std::move(pair);
+  });
+}
+
+void DialogSetGeometry::addPairs() {
+  if (!takesPairs()) return;
+  const QStringList dx = askForRecordings(tr("Open DX Files"), true);
+  if (dx.isEmpty()) return;
+  const QStringList sx = askForRecordings(tr("Open SX Files"), true);
+  if (sx.isEmpty()) return;
+  if (dx.size() != sx.size()) {
+    showError(this, tr("Error occured"), tr("There must be as many SX files as DX files."),
+              tr("%1 DX files and %2 SX files were chosen.").arg(dx.size()).arg(sx.size()));
+    return;
+  }
+  SurveyGeometry next = geometry();
+  Status status;
+  {
+    const Waiting waiting;
+    for (int i = 0; i < dx.size() && status.ok(); ++i) {
+      auto pair = std::make_shared<SWavePair>();
+      status = readSWavePair(dx[i].toStdString(), sx[i].toStdString(), mState, *pair);
+      if (status.ok()) addPair(next, std::move(pair));
+    }
+  }
+  if (!status.ok()) {
+    showError(this, tr("Error occured"),
+              tr("No shot was added: the files are not taken as S-wave pairs."),
+              QString::fromStdString(status.message()));
+    return;
+  }
+  mSession->edit([&](SurveyGeometry& now) { now = std::move(next); });
+  mUi->shotsTable->setCurrentIndex(mShots->index(static_cast<int>(geometry().shots.size()) - 1, 0));
+  notice(tr("%n S-wave shot(s) added.", nullptr, dx.size()));
+}
+
+}  // namespace talvesk

@@ -1,0 +1,303 @@
+#include "widgets/LinePlan.h"
+
+#include "widgets/TraceColors.h"
+
+#include <QEvent>
+#include <QHelpEvent>
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainterPath>
+#include <QPolygonF>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include <qwt_legend.h>
+#include <qwt_plot.h>
+#include <qwt_plot_canvas.h>
+#include <qwt_plot_curve.h>
+#include <qwt_plot_grid.h>
+#include <qwt_plot_layout.h>
+#include <qwt_scale_map.h>
+#include <qwt_symbol.h>
+
+namespace talvesk {
+namespace {
+
+constexpr double kReach = 14.0;       ///< pixels around a click
+constexpr double kMargin = 0.06;      ///< of the width of the line, beside it
+constexpr double kLeastHeight = 2.0;  ///< metres of elevation shown for a level line
+constexpr double kFarthest = 1e8;     ///< what lies beyond would squeeze all the rest, metres
+
+bool canDraw(const Point2D& point) {
+  return std::fabs(point.x) <= kFarthest && std::fabs(point.z) <= kFarthest;
+}
+
+QPolygonF drawable(const std::vector<Point2D>& points) {
+  QPolygonF polygon;
+  for (const Point2D& point : points) {
+    if (canDraw(point)) polygon << QPointF(point.x, point.z);
+  }
+  return polygon;
+}
+
+QPainterPath starPath() {
+  constexpr double kPi = 3.14159265358979323846;
+  QPainterPath path;
+  for (int i = 0; i < 10; ++i) {
+    const double radius = i % 2 == 0 ? 7.0 : 3.0;
+    const double angle = kPi * i / 5.0 - kPi / 2.0;
+    const QPointF corner(radius * std::cos(angle), radius * std::sin(angle));
+    i == 0 ? path.moveTo(corner) : path.lineTo(corner);
+  }
+  path.closeSubpath();
+  return path;
+}
+
+QwtPlotCurve* addCurve(QwtPlot& plot, const QString& title, const QPolygonF& points,
+                       QwtSymbol* symbol, const QPen& line) {
+  auto* curve = new QwtPlotCurve(title);
+  curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+  curve->setSamples(points);
+  curve->setSymbol(symbol);
+  if (line.style() == Qt::NoPen) curve->setStyle(QwtPlotCurve::NoCurve);
+  curve->setPen(line);
+  curve->setLegendAttribute(QwtPlotCurve::LegendShowSymbol);
+  curve->setItemAttribute(QwtPlotItem::Legend, !title.isEmpty());
+  curve->attach(&plot);
+  return curve;
+}
+
+QColor faded(const QColor& color, const QColor& background) {
+  return {(color.red() + 2 * background.red()) / 3, (color.green() + 2 * background.green()) / 3,
+          (color.blue() + 2 * background.blue()) / 3};
+}
+
+}  // namespace
+
+LinePlan::LinePlan(QWidget* parent) : QWidget(parent), mPlot(new QwtPlot(this)) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(mPlot);
+  mPlot->plotLayout()->setCanvasMargin(0);
+  mPlot->plotLayout()->setAlignCanvasToScales(true);
+  if (auto* canvas = qobject_cast<QwtPlotCanvas*>(mPlot->canvas())) {
+    canvas->setFrameStyle(QFrame::Box | QFrame::Plain);
+    canvas->setLineWidth(1);
+    canvas->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
+  }
+  auto* legend = new QwtLegend;
+  legend->setFrameStyle(QFrame::NoFrame);
+  mPlot->insertLegend(legend, QwtPlot::BottomLegend);
+  mPlot->canvas()->installEventFilter(this);
+  mPlot->canvas()->setCursor(Qt::ArrowCursor);
+  retranslate();
+  draw();
+}
+
+LinePlan::~LinePlan() = default;
+
+void LinePlan::setScene(LinePlanScene scene) {
+  mScene = std::move(scene);
+  draw();
+}
+
+QWidget* LinePlan::canvas() const {
+  return mPlot->canvas();
+}
+
+QPointF LinePlan::pointOf(const Point2D& place) const {
+  return {mPlot->canvasMap(QwtPlot::xBottom).transform(place.x),
+          mPlot->canvasMap(QwtPlot::yLeft).transform(place.z)};
+}
+
+QSize LinePlan::sizeHint() const {
+  return {520, 320};
+}
+
+QSize LinePlan::minimumSizeHint() const {
+  return {220, 150};
+}
+
+void LinePlan::draw() {
+  mPlot->detachItems(QwtPlotItem::Rtti_PlotItem);
+  const TraceColors colors = traceColors(palette(), true);
+  mPlot->setCanvasBackground(colors.background);
+  QPalette frame = palette();
+  frame.setColor(QPalette::WindowText, colors.faint);
+  frame.setBrush(QPalette::Window, colors.background);
+  mPlot->canvas()->setPalette(frame);
+  auto* grid = new QwtPlotGrid;
+  grid->setPen(QPen(colors.faint, 0.0));
+  grid->attach(mPlot);
+
+  bool named = false;
+  const auto addString = [&](std::size_t s) {
+    const bool current = static_cast<int>(s) == mScene.currentString;
+    const QPolygonF points = drawable(mScene.strings[s]);
+    if (points.isEmpty()) return;
+    const QColor color = current ? colors.positive : faded(colors.positive, colors.background);
+    auto* triangle = new QwtSymbol(QwtSymbol::DTriangle, QBrush(color),
+                                   QPen(current ? colors.text : color, 0.8), QSize(9, 9));
+    const QString title = current ? tr("Geophones of string %1").arg(s + 1)
+                          : named ? QString()
+                                  : tr("Other strings");
+    named = named || !current;
+    addCurve(*mPlot, title, points, triangle, QPen(color, current ? 1.4 : 1.0));
+  };
+  for (std::size_t s = 0; s < mScene.strings.size(); ++s) {
+    if (static_cast<int>(s) != mScene.currentString) addString(s);
+  }
+  if (mScene.currentString >= 0 &&
+      static_cast<std::size_t>(mScene.currentString) < mScene.strings.size()) {
+    addString(static_cast<std::size_t>(mScene.currentString));
+  }
+  if (const QPolygonF shots = drawable(mScene.shots); !shots.isEmpty()) {
+    auto* star = new QwtSymbol(starPath(), QBrush(colors.negative), QPen(colors.text, 0.8));
+    addCurve(*mPlot, tr("Shots"), shots, star, Qt::NoPen);
+  }
+  if (const QPolygonF mistakes = drawable(mScene.mistakes); !mistakes.isEmpty()) {
+    auto* ring =
+        new QwtSymbol(QwtSymbol::Ellipse, Qt::NoBrush, QPen(colors.pick, 2.0), QSize(17, 17));
+    addCurve(*mPlot, tr("To be looked at"), mistakes, ring, Qt::NoPen);
+  }
+  if (mScene.current && canDraw(*mScene.current)) {
+    auto* frameSymbol =
+        new QwtSymbol(QwtSymbol::Rect, Qt::NoBrush, QPen(colors.focus, 2.0), QSize(15, 15));
+    addCurve(*mPlot, QString(), drawable({*mScene.current}), frameSymbol, Qt::NoPen);
+  }
+  for (const int axis : {QwtPlot::xBottom, QwtPlot::yLeft}) {
+    mPlot->setAxisFont(axis, font());
+    QwtText title = mPlot->axisTitle(axis);
+    title.setFont(font());
+    mPlot->setAxisTitle(axis, title);
+  }
+  fitAxes();
+}
+
+void LinePlan::fitAxes() {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  Point2D low = {kInfinity, kInfinity};
+  Point2D high = {-kInfinity, -kInfinity};
+  const auto take = [&](const Point2D& point) {
+    if (!canDraw(point)) return;
+    low = {std::min(low.x, point.x), std::min(low.z, point.z)};
+    high = {std::max(high.x, point.x), std::max(high.z, point.z)};
+  };
+  for (const auto& string : mScene.strings) {
+    for (const Point2D& point : string) take(point);
+  }
+  for (const Point2D& point : mScene.shots) take(point);
+  if (low.x > high.x) {  // empty: the axes of any line
+    low = {0.0, -5.0};
+    high = {100.0, 5.0};
+  }
+  const double width = std::max(high.x - low.x, 1.0);
+  mPlot->setAxisScale(QwtPlot::xBottom, low.x - kMargin * width, high.x + kMargin * width);
+  const double height = std::max(high.z - low.z, kLeastHeight);
+  const double middle = 0.5 * (low.z + high.z);
+  mPlot->setAxisScale(QwtPlot::yLeft, middle - 0.65 * height, middle + 0.65 * height);
+  mPlot->replot();
+}
+
+std::optional<LinePlan::Target> LinePlan::targetAt(const QPointF& at) const {
+  std::optional<Target> best;
+  double nearest = kReach;
+  const auto take = [&](const Point2D& point, const Target& target, double handicap) {
+    if (!canDraw(point)) return;
+    const QPointF away = pointOf(point) - at;
+    const double distance = std::hypot(away.x(), away.y()) + handicap;
+    if (distance > nearest) return;
+    nearest = distance;
+    best = target;
+  };
+  for (std::size_t s = 0; s < mScene.strings.size(); ++s) {
+    const bool current = static_cast<int>(s) == mScene.currentString;
+    for (std::size_t i = 0; i < mScene.strings[s].size(); ++i) {
+      take(mScene.strings[s][i], {static_cast<int>(s), static_cast<int>(i)}, current ? 0.0 : 2.0);
+    }
+  }
+  for (std::size_t i = 0; i < mScene.shots.size(); ++i) {
+    take(mScene.shots[i], {-1, static_cast<int>(i)}, 0.0);
+  }
+  return best;
+}
+
+void LinePlan::click(const QPointF& at) {
+  const auto target = targetAt(at);
+  if (!target) return;
+  if (target->string < 0) {
+    emit shotClicked(target->index);
+  } else {
+    emit geophoneClicked(target->string, target->index);
+  }
+}
+
+bool LinePlan::showTip(const QPoint& at, const QPoint& global) {
+  const auto target = targetAt(at);
+  if (!target) {
+    QToolTip::hideText();
+    return true;
+  }
+  const auto index = static_cast<std::size_t>(target->index);
+  const Point2D place = target->string < 0
+                            ? mScene.shots[index]
+                            : mScene.strings[static_cast<std::size_t>(target->string)][index];
+  const QLocale locale;
+  const QString where = tr("x %1 m, z %2 m")
+                            .arg(locale.toString(place.x, 'f', 2))
+                            .arg(locale.toString(place.z, 'f', 2));
+  const QString who = target->string < 0
+                          ? tr("Shot %1").arg(index + 1)
+                          : tr("String %1, geophone %2").arg(target->string + 1).arg(index + 1);
+  QToolTip::showText(global, who + QLatin1Char('\n') + where, this);
+  return true;
+}
+
+bool LinePlan::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == mPlot->canvas()) {
+    if (event->type() == QEvent::MouseButtonPress) {
+      const auto* mouse = static_cast<QMouseEvent*>(event);
+      if (mouse->button() == Qt::LeftButton) click(mouse->localPos());
+    } else if (event->type() == QEvent::ToolTip) {
+      const auto* help = static_cast<QHelpEvent*>(event);
+      return showTip(help->pos(), help->globalPos());
+    }
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void LinePlan::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  // Few centimetres of height leave no room for a name of the axis and numbers.
+  mPlot->setAxisMaxMajor(QwtPlot::yLeft, std::clamp(height() / 45, 2, 8));
+  mPlot->setAxisMaxMajor(QwtPlot::xBottom, std::clamp(width() / 70, 2, 12));
+  fitAxes();
+}
+
+void LinePlan::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  switch (event->type()) {
+    case QEvent::LanguageChange:
+      retranslate();
+      draw();
+      break;
+    case QEvent::PaletteChange:
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+      draw();
+      break;
+    default:
+      break;
+  }
+}
+
+void LinePlan::retranslate() {
+  setAccessibleName(tr("Plan of the line"));
+  mPlot->setAxisTitle(QwtPlot::xBottom, tr("Distance (m)"));
+  mPlot->setAxisTitle(QwtPlot::yLeft, tr("Elevation (m)"));
+}
+
+}  // namespace talvesk
