@@ -1,5 +1,6 @@
 #include "figures/ContourLabels.h"
 #include "figures/FigureItem.h"
+#include "figures/FigureWords.h"
 #include "figures/SectionFigure.h"
 #include "figures/SectionItems.h"
 #include "view/SectionScene.h"
@@ -52,7 +53,7 @@ QwtPlotItem* contours(const SectionScene& scene, const ContourStyle& style) {
     painter.setPen(QPen(toColor(style.color), style.width));
     painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
   };
-  return figureItem(QStringLiteral("Contours"), kContoursLayer, ContoursPainter(scene, style),
+  return figureItem(FigureWords::tr("Contours"), kContoursLayer, ContoursPainter(scene, style),
                     icon);
 }
 

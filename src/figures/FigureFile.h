@@ -51,6 +51,13 @@ Status paintFigurePages(
     const std::function<Status(std::size_t page, QPainter&, const QRectF&)>& paint,
     QByteArray& bytes);
 
+/// A figure that is laid out and waits for a device: who puts several on a page, or one into a
+/// document, paints it. `paint` may be called any number of times.
+struct FigureDrawing {
+  FigureSheet sheet;
+  std::function<void(QPainter&, const QRectF&)> paint;
+};
+
 /// The font of all figures. An SVG names it, so it goes by the generic family that every viewer
 /// has.
 QFont figureFont(double points, bool bold = false);

@@ -51,7 +51,8 @@ class NumberScaleDraw : public QwtScaleDraw {
 /// to the sheet.
 class FigurePlot::Renderer : public QwtPlotRenderer {
  public:
-  explicit Renderer(const PaintBeside& paintBeside) : mPaintBeside(paintBeside) {}
+  Renderer(int besideAxis, const PaintBeside& paintBeside)
+      : mBesideAxis(besideAxis), mPaintBeside(paintBeside) {}
 
   void measureOnly() { mMeasureOnly = true; }
 
@@ -69,7 +70,7 @@ class FigurePlot::Renderer : public QwtPlotRenderer {
       place.setTop(canvas.top() - startDist);
       place.setBottom(canvas.bottom() + endDist);
     }
-    if (axis == QwtPlot::yRight && mPaintBeside) mPaintBeside(*painter, rect, canvas);
+    if (axis == mBesideAxis && mPaintBeside) mPaintBeside(*painter, rect, canvas);
     QwtPlotRenderer::renderScale(plot, painter, axis, startDist, endDist, baseDist, place);
   }
 
@@ -105,6 +106,7 @@ class FigurePlot::Renderer : public QwtPlotRenderer {
   }
 
  private:
+  const int mBesideAxis;
   const PaintBeside& mPaintBeside;
   bool mMeasureOnly = false;
   mutable QwtScaleMap mXMap;
@@ -196,7 +198,8 @@ void FigurePlot::add(QwtPlotItem* item) {
   item->attach(mPlot.get());
 }
 
-void FigurePlot::setPaintBeside(PaintBeside paint) {
+void FigurePlot::setPaintBeside(int axis, PaintBeside paint) {
+  mBesideAxis = axis;
   mPaintBeside = std::move(paint);
 }
 
@@ -206,7 +209,7 @@ PlotPlace FigurePlot::measure(double widthMm, double heightMm) {
   sheet.setDotsPerMeterX(static_cast<int>(std::lround(perMm * 1000.0)));
   sheet.setDotsPerMeterY(static_cast<int>(std::lround(perMm * 1000.0)));
   QPainter painter(&sheet);
-  Renderer renderer(mPaintBeside);
+  Renderer renderer(mBesideAxis, mPaintBeside);
   renderer.measureOnly();
   mPlot->resize(static_cast<int>(widthMm * perMm), static_cast<int>(heightMm * perMm));
   renderer.render(mPlot.get(), &painter, QRectF(0, 0, widthMm * perMm, heightMm * perMm));
@@ -238,7 +241,7 @@ Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, doubl
 }
 
 PlotPlace FigurePlot::paint(QPainter& painter, const QRectF& sheet, double widthMm) {
-  Renderer renderer(mPaintBeside);
+  Renderer renderer(mBesideAxis, mPaintBeside);
   renderer.render(mPlot.get(), &painter, sheet);
   const double points = sheet.width() * mPlot->logicalDpiX() / painter.device()->logicalDpiX();
   PlotPlace place = renderer.place(widthMm / points);

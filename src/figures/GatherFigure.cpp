@@ -2,6 +2,7 @@
 
 #include "base/AtomicFile.h"
 #include "figures/FigureItem.h"
+#include "figures/FigureWords.h"
 #include "figures/GatherItems.h"
 #include "figures/GatherScene.h"
 #include "figures/SectionItems.h"
@@ -55,18 +56,18 @@ class GatherPlot {
 GatherPlot::GatherPlot(GatherScene scene, const GatherFigureOptions& options)
     : mOptions(options), mScene(std::move(scene)) {
   mPlot.addAxis(QwtPlot::xBottom,
-                mScene.byChannel ? QStringLiteral("Channel") : QStringLiteral("Distance [m]"));
-  mPlot.addAxis(QwtPlot::yLeft, QStringLiteral("Time [ms]"));
+                mScene.byChannel ? FigureWords::channelAxis() : FigureWords::distanceAxis());
+  mPlot.addAxis(QwtPlot::yLeft, FigureWords::timeAxis());
   mPlot.add(gather_items::wiggles(mScene, {mOptions.gain, mOptions.clip, mOptions.fillPositive}));
   const double top = mScene.window.beginMs;
   if (!mScene.byChannel) {
     std::vector<Point2D> receivers;
     for (const double x : mScene.receivers) receivers.push_back({x, top});
-    mPlot.add(section_items::markers(receivers, QStringLiteral("Geophones"),
+    mPlot.add(section_items::markers(receivers, FigureWords::tr("Geophones"),
                                      section_items::Marker::kGeophone));
   }
   if (mScene.shotX) {
-    mPlot.add(section_items::markers({{*mScene.shotX, top}}, QStringLiteral("Shot"),
+    mPlot.add(section_items::markers({{*mScene.shotX, top}}, FigureWords::tr("Shot"),
                                      section_items::Marker::kShot));
   }
   if (mScene.hasPicks) mPlot.add(gather_items::picks(mScene, toColor(mOptions.pickColor)));
@@ -167,7 +168,8 @@ Status writePages(const TomoDocument& document, const GatherFigureOptions& optio
     return status;
   };
   const std::string& line = options.title.empty() ? document.title : options.title;
-  const FigureSheet sheet = sheetOf(options, line.empty() ? "Shots" : line);
+  const FigureSheet sheet =
+      sheetOf(options, line.empty() ? FigureWords::tr("Shots").toStdString() : line);
   QByteArray bytes;
   Status status = paintFigurePages(sheet, shots.size(), paint, bytes);
   return status.ok() ? writeBytes(path, bytes, written) : status;

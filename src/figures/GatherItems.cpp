@@ -1,6 +1,7 @@
 #include "figures/GatherItems.h"
 
 #include "figures/FigureItem.h"
+#include "figures/FigureWords.h"
 #include "figures/GatherScene.h"
 #include "figures/SectionItems.h"
 
@@ -204,7 +205,7 @@ QwtPlotItem* picks(const GatherScene& scene, const QColor& color) {
   const auto icon = [color](QPainter& painter, const QSizeF& size) {
     drawBar(painter, color, {size.width() / 2, size.height() / 2}, 8.0);
   };
-  return figureItem(QStringLiteral("First breaks"), section_items::kContoursLayer, paint, icon);
+  return figureItem(FigureWords::tr("First breaks"), section_items::kContoursLayer, paint, icon);
 }
 
 }  // namespace talvesk::gather_items

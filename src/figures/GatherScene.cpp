@@ -1,10 +1,12 @@
 #include "figures/GatherScene.h"
 
 #include "base/TextNumber.h"
+#include "figures/FigureWords.h"
 #include "model/SurveyGeometry.h"
 #include "model/TomoDocument.h"
 #include "view/SectionTexts.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
 
@@ -155,10 +157,6 @@ TimeWindow windowOf(const TraceSet& set, const TravelTime* record,
   return {0.0, endMs > 0.0 ? endMs : 1.0};
 }
 
-std::string countOf(std::size_t count, const std::string& noun) {
-  return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
-}
-
 std::string titleOf(const TomoDocument& document, std::size_t shot, const TravelTime* record,
                     bool receiversKnown, const GatherFigureOptions& options) {
   std::string title = options.title;
@@ -166,16 +164,18 @@ std::string titleOf(const TomoDocument& document, std::size_t shot, const Travel
     title = shotFile(document, shot);
     title.erase(0, title.find_last_of("/\\") + 1);
   }
-  if (!title.empty()) title += "   \xC2\xB7   ";
-  title += "Shot " + std::to_string(shot + 1);
+  QStringList parts;
+  if (!title.empty()) parts += QString::fromStdString(title);
   const std::size_t count = document.traceSets.size();
-  if (count > 1) title += " of " + std::to_string(count);
+  QString number = count > 1 ? FigureWords::tr("Shot %1 of %2").arg(shot + 1).arg(count)
+                             : FigureWords::tr("Shot %1").arg(shot + 1);
   // Where nothing else has a position, 0 is what stands for none.
   if (record != nullptr && isPosition(record->shotPos2d.x) &&
       (receiversKnown || record->shotPos2d.x != 0.0)) {
-    title += " at " + valueText(record->shotPos2d.x, 0.1) + " m";
+    number = FigureWords::tr("%1 at %2 m", "shot, place")
+                 .arg(number, QString::fromStdString(valueText(record->shotPos2d.x, 0.1)));
   }
-  return title;
+  return FigureWords::joined(parts << number).toStdString();
 }
 
 /// What became of the traces of a shot.
@@ -188,23 +188,30 @@ struct Counts {
 };
 
 std::string captionOf(const Counts& counts, std::size_t step, const GatherFigureOptions& options) {
-  std::string text = countOf(counts.drawn, "trace");
+  QString traces = FigureWords::traces(counts.drawn);
   if (counts.filtered > 0) {
-    text += counts.filtered == counts.drawn ? ", filtered" : ", some filtered";
+    traces = (counts.filtered == counts.drawn ? FigureWords::tr("%1, filtered", "traces")
+                                              : FigureWords::tr("%1, some filtered", "traces"))
+                 .arg(traces);
   }
-  const auto add = [&text](const std::string& part) { text += "   \xC2\xB7   " + part; };
-  if (step > 1) add("One of every " + std::to_string(step) + " is drawn");
+  QStringList parts{traces};
+  if (step > 1) parts += FigureWords::tr("One of every %1 is drawn").arg(step);
   if (counts.drawn < counts.looked) {
-    add(std::to_string(counts.looked - counts.drawn) + " without samples or sample interval");
+    parts +=
+        FigureWords::tr("%1 without samples or sample interval").arg(counts.looked - counts.drawn);
   }
   const bool own = options.scaling == GatherScaling::kEachTrace;
-  add((own ? "Each trace to its own maximum, gain " : "All traces to one maximum, gain ") +
-      formatDouble(options.gain, 3));
-  if (options.picks) add(counts.picks == 0 ? "no picks" : countOf(counts.picks, "pick"));
-  if (counts.hiddenPicks > 0) {
-    add(countOf(counts.hiddenPicks, "pick") + " outside the times shown");
+  parts += (own ? FigureWords::tr("Each trace to its own maximum, gain %1")
+                : FigureWords::tr("All traces to one maximum, gain %1"))
+               .arg(QString::fromStdString(formatDouble(options.gain, 3)));
+  if (options.picks) {
+    parts += counts.picks == 0 ? FigureWords::tr("no picks") : FigureWords::picks(counts.picks);
   }
-  return text;
+  if (counts.hiddenPicks > 0) {
+    parts += FigureWords::tr("%1 outside the times shown", "picks")
+                 .arg(FigureWords::picks(counts.hiddenPicks));
+  }
+  return FigureWords::joined(parts).toStdString();
 }
 
 void setAxis(const std::vector<double>& positions, const TravelTime* record, GatherScene& scene) {
@@ -294,9 +301,9 @@ double roundUp(double value) {
 Status buildGatherScene(const TomoDocument& document, std::size_t shot,
                         const GatherFigureOptions& options, GatherScene& scene) {
   if (shot >= document.traceSets.size()) {
-    return Status::failure("There is no shot " + std::to_string(shot + 1) +
-                           " to draw: the document has " +
-                           countOf(document.traceSets.size(), "shot") + " with traces.");
+    return Status::failure(
+        "There is no shot " + std::to_string(shot + 1) + " to draw: the document has " +
+        FigureWords::shots(document.traceSets.size()).toStdString() + " with traces.");
   }
   if (Status status = checkOptions(options); !status.ok()) return status;
   const TraceSet& set = document.traceSets[shot];

@@ -2,6 +2,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/TextNumber.h"
+#include "figures/FigureWords.h"
 #include "figures/RefractionItems.h"
 #include "figures/SectionItems.h"
 #include "model/TomoDocument.h"
@@ -78,8 +79,8 @@ void RefractionSheet::addLayers() {
   }
   mPlot.add(refraction_items::surface(mScene));
   using namespace section_items;
-  mPlot.add(markers(mScene.geophones, QStringLiteral("Geophones"), Marker::kGeophone));
-  mPlot.add(markers(mScene.shots, QStringLiteral("Shots"), Marker::kShot));
+  mPlot.add(markers(mScene.geophones, FigureWords::tr("Geophones"), Marker::kGeophone));
+  mPlot.add(markers(mScene.shots, FigureWords::tr("Shots"), Marker::kShot));
 }
 
 void RefractionSheet::setScales(double width, double height) {

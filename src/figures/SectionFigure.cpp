@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -44,7 +45,7 @@ SectionFigureOptions sectionFigureOptions(const SectionViewSettings& settings,
   options.contourStyle.labelEvery = settings.contours.labelEvery;
   options.contourStyle.labelPoints = std::max(settings.contours.labelSize, 1);
   options.geophones = settings.geophones;
-  options.colorBar = settings.scalarBar;
+  options.colorBar = settings.scalarBar ? ColorBar::kVertical : ColorBar::kNone;
   options.gridLines = settings.gridLines;
   options.showTitle = settings.title;
   options.verticalExaggeration = settings.verticalExaggeration;
@@ -59,8 +60,11 @@ double SectionFigureLayout::elevationToMm(double elevation) const {
   return topMm + (maxElevation - elevation) / (maxElevation - minElevation) * (bottomMm - topMm);
 }
 
-Status renderSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
-                           FigureFormat format, QByteArray& bytes, SectionFigureLayout* layout) {
+namespace {
+
+/// Lays the section out for a file of that format.
+Status layOut(const TomoDocument& document, const SectionFigureOptions& options,
+              FigureFormat format, FigureSheet& sheet, std::unique_ptr<SectionPlot>& plot) {
   SectionScene scene;
   if (Status status = buildSectionScene(document, options.scene, scene); !status.ok()) {
     return status;
@@ -68,19 +72,41 @@ Status renderSectionFigure(const TomoDocument& document, const SectionFigureOpti
   if (Status status = checkOptions(options); !status.ok()) return status;
 
   // Sizes are checked before anything is laid out in them; a height yet to be chosen passes.
-  FigureSheet sheet;
+  sheet = FigureSheet();
   sheet.widthMm = options.widthMm;
   sheet.heightMm = options.heightMm == 0.0 ? FigureSheet::kMinMm : options.heightMm;
   sheet.dpi = options.dpi;
   if (Status status = sheet.check(format); !status.ok()) return status;
 
-  SectionPlot plot(std::move(scene), options);
-  if (Status status = plot.layOut(options.widthMm, options.heightMm); !status.ok()) return status;
-  sheet.heightMm = plot.layout().heightMm;
-  sheet.title = plot.title();
-  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot.paint(painter, rect); };
+  plot = std::make_unique<SectionPlot>(std::move(scene), options);
+  if (Status status = plot->layOut(options.widthMm, options.heightMm); !status.ok()) return status;
+  sheet.heightMm = plot->layout().heightMm;
+  sheet.title = plot->title();
+  return {};
+}
+
+}  // namespace
+
+Status prepareSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
+                            FigureDrawing& drawing) {
+  std::unique_ptr<SectionPlot> plot;
+  if (Status status = layOut(document, options, FigureFormat::kPdf, drawing.sheet, plot);
+      !status.ok()) {
+    return status;
+  }
+  drawing.paint = [shared = std::shared_ptr<SectionPlot>(std::move(plot))](
+                      QPainter& painter, const QRectF& rect) { shared->paint(painter, rect); };
+  return {};
+}
+
+Status renderSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
+                           FigureFormat format, QByteArray& bytes, SectionFigureLayout* layout) {
+  FigureSheet sheet;
+  std::unique_ptr<SectionPlot> plot;
+  if (Status status = layOut(document, options, format, sheet, plot); !status.ok()) return status;
+  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot->paint(painter, rect); };
   if (Status status = paintFigure(format, sheet, paint, bytes); !status.ok()) return status;
-  if (layout != nullptr) *layout = plot.layout();
+  if (layout != nullptr) *layout = plot->layout();
   return {};
 }
 

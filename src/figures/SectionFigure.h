@@ -23,6 +23,9 @@ struct ContourStyle {
   double labelPoints = 7.5;  ///< label size, points
 };
 
+/// Where the colours of a section are explained.
+enum class ColorBar { kNone, kVertical, kHorizontal };
+
 struct SectionFigureOptions {
   double widthMm = 280.0;
   double heightMm = 0.0;  ///< 0: as high as the section asks for
@@ -32,10 +35,10 @@ struct SectionFigureOptions {
   ColorPalette palette = ColorPaletteList().current();
   ContourStyle contourStyle;
   GeophoneMarkers geophones = GeophoneMarkers::kNormal;
-  bool colorBar = true;
-  bool gridLines = false;  ///< at the numbers of the axes
-  bool showTitle = true;
-  std::string title;  ///< UTF-8; empty: the document's title, and without one the quantity
+  ColorBar colorBar = ColorBar::kVertical;  ///< beside the section, or above it
+  bool gridLines = false;                   ///< at the numbers of the axes
+  bool showTitle = true;  ///< false: the title is for the properties of the file only
+  std::string title;      ///< UTF-8; empty: the document's title, and without one the quantity
 
   /// Height of a metre over width of a metre. 0 lets the picture choose: 1 where the section stays
   /// legible, more for one that is long and shallow. The caption states any other than 1.
@@ -73,6 +76,10 @@ struct SectionFigureLayout {
 /// file cannot be written; then a file that was there before is untouched.
 Status writeSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
                           const std::string& path);
+
+/// The same for who paints it himself.
+Status prepareSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
+                            FigureDrawing& drawing);
 
 /// The same into memory. \param layout where the section lies; null when nobody asks
 Status renderSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,

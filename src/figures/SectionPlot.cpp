@@ -2,8 +2,8 @@
 
 #include "figures/FigureItem.h"
 #include "figures/FigurePlot.h"
+#include "figures/FigureWords.h"
 #include "figures/SectionItems.h"
-#include "view/SectionTexts.h"
 
 #include <QColor>
 #include <QPainter>
@@ -33,20 +33,22 @@ QString qt(const std::string& utf8) {
   return QString::fromStdString(utf8);
 }
 
-/// The colour bar as its classes, which stay sharp where Qwt's own bar is an image.
-void paintColorBar(QPainter& painter, const ColorTable& colors, const QRectF& bar) {
+/// The colour bar as its classes, which stay sharp where Qwt's own bar is an image. From the far
+/// end to the lower end of each class: the classes that follow paint over it, and no seam can show
+/// between them.
+void paintColorBar(QPainter& painter, const ColorTable& colors, const QRectF& bar, bool upright) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.setPen(Qt::NoPen);
-  const auto y = [&colors, &bar](int index) {
-    const double above = colors.classRange(index).min - colors.range().min;
-    return bar.bottom() - bar.height() * above / colors.range().span();
-  };
   for (int i = 0; i < colors.size(); ++i) {
-    // From the top down to the lower end of the class: the classes above paint over it, and no
-    // seam can show between them.
-    painter.fillRect(QRectF(QPointF(bar.left(), bar.top()), QPointF(bar.right(), y(i))),
-                     toColor(colors[i]));
+    const double above = (colors.classRange(i).min - colors.range().min) / colors.range().span();
+    QRectF part = bar;
+    if (upright) {
+      part.setBottom(bar.bottom() - bar.height() * above);
+    } else {
+      part.setLeft(bar.left() + bar.width() * above);
+    }
+    painter.fillRect(part, toColor(colors[i]));
   }
   paintFigureFrame(painter, bar);
   painter.restore();
@@ -62,12 +64,18 @@ struct SectionPlot::Parts {
         low(scene.lowerLeft()),
         high(scene.upperRight()) {}
 
-  bool hasColorBar() const { return options.colorBar && scene.fill != SectionFill::kNone; }
+  bool hasColorBar() const {
+    return options.colorBar != ColorBar::kNone && scene.fill != SectionFill::kNone;
+  }
   void style();
   void addLayers();
   void measure(double widthMm, double heightMm, SectionFigureLayout& layout);
   void setScales(double width, double height);
   void takePlace(const PlotPlace& place, SectionFigureLayout& layout) const;
+  /// Carries the numbers of the colour bar.
+  int barAxis() const {
+    return options.colorBar == ColorBar::kVertical ? QwtPlot::yRight : QwtPlot::xTop;
+  }
 
   SectionFigureOptions options;
   SectionScene scene;
@@ -79,18 +87,19 @@ struct SectionPlot::Parts {
 };
 
 void SectionPlot::Parts::style() {
-  figure.addAxis(QwtPlot::xBottom, QStringLiteral("Distance [m]"));
-  figure.addAxis(QwtPlot::yLeft, QStringLiteral("Elevation [m]"));
+  figure.addAxis(QwtPlot::xBottom, FigureWords::distanceAxis());
+  figure.addAxis(QwtPlot::yLeft, FigureWords::elevationAxis());
   if (!hasColorBar()) return;
-  QString unit = qt(quantityUnit(scene.quantity));
-  if (!unit.isEmpty()) unit = QStringLiteral(" [%1]").arg(unit);
-  figure.addAxis(QwtPlot::yRight, qt(quantityName(scene.quantity)) + unit);
-  const int margin = static_cast<int>(kColorBarGap + kColorBarWidth);
-  figure.plot().axisWidget(QwtPlot::yRight)->setMargin(margin);
-  figure.setPaintBeside([this](QPainter& painter, const QRectF& axis, const QRectF& canvas) {
-    paintColorBar(
-        painter, colors,
-        QRectF(axis.left() + kColorBarGap, canvas.top(), kColorBarWidth, canvas.height()));
+  const bool upright = options.colorBar == ColorBar::kVertical;
+  figure.addAxis(barAxis(), FigureWords::quantityAxis(scene.quantity));
+  figure.plot().axisWidget(barAxis())->setMargin(static_cast<int>(kColorBarGap + kColorBarWidth));
+  figure.setPaintBeside(barAxis(), [this, upright](QPainter& painter, const QRectF& axis,
+                                                   const QRectF& canvas) {
+    const QRectF bar =
+        upright ? QRectF(axis.left() + kColorBarGap, canvas.top(), kColorBarWidth, canvas.height())
+                : QRectF(canvas.left(), axis.bottom() - kColorBarGap - kColorBarWidth,
+                         canvas.width(), kColorBarWidth);
+    paintColorBar(painter, colors, bar, upright);
   });
 }
 
@@ -104,16 +113,16 @@ void SectionPlot::Parts::addLayers() {
   if (options.gridLines) figure.add(gridLines());
   figure.add(lines({scene.surface}, {}, Qt::black, {1.2, false}));
   if (const double size = markerSize(options.geophones); size > 0.0) {
-    figure.add(markers(scene.geophones, QStringLiteral("Geophones"), Marker::kGeophone, size));
-    figure.add(markers(scene.shots, QStringLiteral("Shots"), Marker::kShot, size));
+    figure.add(markers(scene.geophones, FigureWords::tr("Geophones"), Marker::kGeophone, size));
+    figure.add(markers(scene.shots, FigureWords::tr("Shots"), Marker::kShot, size));
   }
   if (!scene.contours.empty()) figure.add(contours(scene, options.contourStyle));
   if (!scene.rays.empty()) {
     const QColor rayColor = QColor::fromRgbF(0.0, 0.0, 0.0, rayOpacity(scene.rays.size()));
-    figure.add(lines(scene.rays, QStringLiteral("Rays"), rayColor, {0.5, false}));
+    figure.add(lines(scene.rays, FigureWords::tr("Rays"), rayColor, {0.5, false}));
   }
   if (!scene.coverageLimit.empty()) {
-    figure.add(lines({scene.coverageLimit}, QStringLiteral("Coverage limit"), coverageColor(),
+    figure.add(lines({scene.coverageLimit}, FigureWords::tr("Coverage limit"), coverageColor(),
                      {1.4, true}));
   }
   for (std::size_t i = 0; i < scene.refractors.size(); ++i) {
@@ -155,7 +164,11 @@ void SectionPlot::Parts::setScales(double width, double height) {
   };
   set(QwtPlot::xBottom, middleX - halfWidth, middleX + halfWidth, width, 80.0);
   set(QwtPlot::yLeft, middleZ - halfHeight, middleZ + halfHeight, height, 40.0);
-  set(QwtPlot::yRight, scene.range.min, scene.range.max, height, 30.0);
+  if (hasColorBar()) {
+    const bool upright = options.colorBar == ColorBar::kVertical;
+    set(barAxis(), scene.range.min, scene.range.max, upright ? height : width,
+        upright ? 30.0 : 60.0);
+  }
   figure.plot().updateAxes();
 }
 
@@ -163,7 +176,7 @@ SectionPlot::SectionPlot(SectionScene scene, const SectionFigureOptions& options
     : mParts(std::make_unique<Parts>(std::move(scene), options)) {
   Parts& parts = *mParts;
   QString title = qt(options.title.empty() ? parts.scene.title : options.title).simplified();
-  if (title.isEmpty()) title = qt(quantityName(parts.scene.quantity));
+  if (title.isEmpty()) title = FigureWords::quantity(parts.scene.quantity);
   mTitle = title.toStdString();
   parts.style();
   parts.addLayers();
@@ -184,7 +197,8 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
                            : legibleExaggeration(spanZ / spanX);
 
   parts.figure.setTexts(parts.options.showTitle ? mTitle : std::string(),
-                        sectionCaption(parts.scene, parts.exaggeration), widthMm);
+                        FigureWords::sectionCaption(parts.scene, parts.exaggeration).toStdString(),
+                        widthMm);
 
   // How wide the numbers at the axes are depends on the scales, which depend on the room that the
   // numbers leave: twice round settles it.

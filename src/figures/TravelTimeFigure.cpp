@@ -1,7 +1,7 @@
 #include "figures/TravelTimeFigure.h"
 
 #include "base/AtomicFile.h"
-#include "base/TextNumber.h"
+#include "figures/FigureWords.h"
 #include "figures/TravelTimeCurves.h"
 #include "figures/TravelTimeItems.h"
 #include "model/TomoDocument.h"
@@ -9,7 +9,8 @@
 #include <QApplication>
 #include <QByteArray>
 #include <QPainter>
-#include <QString>
+#include <QStringList>
+#include <memory>
 #include <string_view>
 
 #include <qwt_plot.h>
@@ -38,7 +39,7 @@ class TravelTimeSheet {
   void setScales(double width, double height);
   std::string caption(double rmsPercent) const;
 
-  const TravelTimeFigureOptions& mOptions;
+  TravelTimeFigureOptions mOptions;
   TravelTimeCurves mCurves;
   TravelTimeLook mLook;
   std::string mTitle;
@@ -52,7 +53,7 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
     : mOptions(options),
       mCurves(travelTimeCurves(document, options.computed)),
       mTitle(options.title.empty() ? document.title : options.title) {
-  if (mTitle.empty()) mTitle = "Travel times";
+  if (mTitle.empty()) mTitle = FigureWords::tr("Travel times").toStdString();
   for (const TravelTimeCurve& curve : mCurves.curves) {
     for (const auto& pick : curve.picks) {
       mLayout.picks.push_back({curve.record, pick.geophone, pick.point.x, pick.point.z});
@@ -61,8 +62,8 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
   mLayout.computedTimes = mCurves.computedTimes;
   mLook.joined = mCurves.computedTimes == 0;
   mCaption = caption(document.RMSE_tomography);
-  mPlot.addAxis(QwtPlot::xBottom, QStringLiteral("Distance [m]"));
-  mPlot.addAxis(QwtPlot::yLeft, QStringLiteral("Time [ms]"));
+  mPlot.addAxis(QwtPlot::xBottom, FigureWords::distanceAxis());
+  mPlot.addAxis(QwtPlot::yLeft, FigureWords::timeAxis());
   using namespace travel_time_items;
   mPlot.add(measured(mCurves.curves, mLook));
   if (mLayout.computedTimes > 0) mPlot.add(computed(mCurves.curves, mLook));
@@ -70,16 +71,13 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
 }
 
 std::string TravelTimeSheet::caption(double rmsPercent) const {
-  const auto count = [](std::size_t n, const char* noun) {
-    return std::to_string(n) + ' ' + noun + (n == 1 ? "" : "s");
-  };
-  std::string text =
-      count(mCurves.curves.size(), "shot") + "   \xC2\xB7   " + count(mLayout.picks.size(), "pick");
+  QStringList parts{FigureWords::shots(mCurves.curves.size()),
+                    FigureWords::picks(mLayout.picks.size())};
   if (mLayout.computedTimes > 0) {
-    text += "   \xC2\xB7   " + count(mLayout.computedTimes, "computed time");
-    if (rmsPercent >= 0.0) text += "   \xC2\xB7   RMS misfit " + formatDouble(rmsPercent, 3) + " %";
+    parts += FigureWords::computedTimes(mLayout.computedTimes);
+    if (rmsPercent >= 0.0) parts += FigureWords::misfit(rmsPercent);
   }
-  return text;
+  return FigureWords::joined(parts).toStdString();
 }
 
 void TravelTimeSheet::setScales(double width, double height) {
@@ -109,31 +107,50 @@ Status TravelTimeSheet::layOut() {
     return Status::failure(
         "There are no travel times to draw: pick first breaks, or load travel times, first.");
   }
-  mPlot.setTexts(mTitle, mCaption, mOptions.widthMm);
+  mPlot.setTexts(mOptions.showTitle ? mTitle : std::string(), mCaption, mOptions.widthMm);
   const auto scale = [this](double width, double height) { setScales(width, height); };
   return mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight, scale,
                    mLayout.place);
 }
 
-}  // namespace
-
-Status renderTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,
-                              FigureFormat format, QByteArray& bytes,
-                              TravelTimeFigureLayout* layout) {
+/// Lays the curves out for a file of that format.
+Status layOut(const TomoDocument& document, const TravelTimeFigureOptions& options,
+              FigureFormat format, FigureSheet& sheet, std::unique_ptr<TravelTimeSheet>& plot) {
   if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
     return Status::failure("Curves cannot be drawn before the application object exists.");
   }
-  FigureSheet sheet;
+  sheet = FigureSheet();
   sheet.widthMm = options.widthMm;
   sheet.heightMm = options.heightMm;
   sheet.dpi = options.dpi;
   if (Status status = sheet.check(format); !status.ok()) return status;
-  TravelTimeSheet plot(document, options);
-  if (Status status = plot.layOut(); !status.ok()) return status;
-  sheet.title = plot.title();
-  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot.paint(painter, rect); };
+  plot = std::make_unique<TravelTimeSheet>(document, options);
+  if (Status status = plot->layOut(); !status.ok()) return status;
+  sheet.title = plot->title();
+  return {};
+}
+
+}  // namespace
+
+Status prepareTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,
+                               FigureDrawing& drawing) {
+  std::unique_ptr<TravelTimeSheet> plot;
+  Status status = layOut(document, options, FigureFormat::kPdf, drawing.sheet, plot);
+  if (!status.ok()) return status;
+  drawing.paint = [shared = std::shared_ptr<TravelTimeSheet>(std::move(plot))](
+                      QPainter& painter, const QRectF& rect) { shared->paint(painter, rect); };
+  return {};
+}
+
+Status renderTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,
+                              FigureFormat format, QByteArray& bytes,
+                              TravelTimeFigureLayout* layout) {
+  FigureSheet sheet;
+  std::unique_ptr<TravelTimeSheet> plot;
+  if (Status status = layOut(document, options, format, sheet, plot); !status.ok()) return status;
+  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot->paint(painter, rect); };
   if (Status status = paintFigure(format, sheet, paint, bytes); !status.ok()) return status;
-  if (layout != nullptr) *layout = plot.layout();
+  if (layout != nullptr) *layout = plot->layout();
   return {};
 }
 

@@ -17,9 +17,10 @@ class TomoDocument;
 struct TravelTimeFigureOptions {
   double widthMm = 280.0;
   double heightMm = 160.0;
-  double dpi = 150.0;    ///< pixels per inch of a PNG
-  bool computed = true;  ///< computed times, where there are any
-  std::string title;     ///< UTF-8; empty: the document's title, and without one "Travel times"
+  double dpi = 150.0;     ///< pixels per inch of a PNG
+  bool computed = true;   ///< computed times, where there are any
+  std::string title;      ///< UTF-8; empty: the document's title, and without one "Travel times"
+  bool showTitle = true;  ///< false: the title is for the properties of the file only
 };
 
 /// Where things lie in the picture: distance (m) below, time (ms) upward at the left.
@@ -47,6 +48,10 @@ struct TravelTimeFigureLayout {
 /// untouched.
 Status writeTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,
                              const std::string& path);
+
+/// The same for who paints it himself.
+Status prepareTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,
+                               FigureDrawing& drawing);
 
 /// The same into memory. \param layout null when nobody asks
 Status renderTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,

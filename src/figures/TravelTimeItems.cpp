@@ -1,6 +1,7 @@
 #include "figures/TravelTimeItems.h"
 
 #include "figures/FigureItem.h"
+#include "figures/FigureWords.h"
 #include "figures/SectionItems.h"
 
 #include <QPainter>
@@ -109,7 +110,7 @@ QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, const TravelTi
     if (look.joined) drawIconLine(painter, look.icons, size, 0.9);
     drawSymbol(painter, look.icons, look.ground, {size.width() / 2, size.height() / 2}, kSymbol);
   };
-  return figureItem(QStringLiteral("Measured"), section_items::kContoursLayer, paint, icon);
+  return figureItem(FigureWords::tr("Measured"), section_items::kContoursLayer, paint, icon);
 }
 
 QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look) {
@@ -124,7 +125,7 @@ QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves, const TravelTi
   const auto icon = [&look](QPainter& painter, const QSizeF& size) {
     drawIconLine(painter, look.icons, size, 0.6);
   };
-  return figureItem(QStringLiteral("Computed"), section_items::kRaysLayer, paint, icon);
+  return figureItem(FigureWords::tr("Computed"), section_items::kRaysLayer, paint, icon);
 }
 
 QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look) {
@@ -146,7 +147,7 @@ QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves, const TravelTimeL
     const QPainterPath star = section_items::symbol(section_items::Marker::kShot, kStar);
     painter.drawPath(star.translated(size.width() / 2, size.height() / 2));
   };
-  return figureItem(QStringLiteral("Shots"), section_items::kMarkersLayer, paint, icon);
+  return figureItem(FigureWords::tr("Shots"), section_items::kMarkersLayer, paint, icon);
 }
 
 }  // namespace talvesk::travel_time_items

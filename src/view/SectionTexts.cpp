@@ -25,30 +25,4 @@ double levelSpacing(const std::vector<double>& levels) {
   return step;
 }
 
-std::string sectionCaption(const SectionScene& scene, double verticalExaggeration) {
-  std::string unit = quantityUnit(scene.quantity);
-  if (!unit.empty()) unit.insert(0, 1, ' ');
-  const double step = scene.range.span() / 100.0;
-  std::string text;
-  const auto add = [&text](const std::string& part) {
-    if (!text.empty()) text += "   \xC2\xB7   ";
-    text += part;
-  };
-  if (scene.fill != SectionFill::kNone) {
-    add(quantityName(scene.quantity) + ' ' + valueText(scene.dataRange.min, step) + " to " +
-        valueText(scene.dataRange.max, step) + unit);
-  }
-  if (const double spacing = levelSpacing(scene.contourLevels); spacing > 0.0) {
-    add("Contours every " + valueText(spacing, spacing / 10.0) + unit);
-  }
-  if (!scene.rays.empty()) add(std::to_string(scene.rays.size()) + " rays");
-  if (scene.rmsPercent >= 0.0) add("RMS misfit " + formatDouble(scene.rmsPercent, 3) + " %");
-  if (std::abs(verticalExaggeration - 1.0) > 1e-9) {
-    std::string factor = formatDouble(verticalExaggeration, 4);
-    if (factor.find_first_of(".e") == std::string::npos) factor += ".0";
-    add("Vertical exaggeration " + factor);
-  }
-  return text;
-}
-
 }  // namespace talvesk

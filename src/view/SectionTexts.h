@@ -1,7 +1,5 @@
 #pragma once
 
-#include "view/SectionScene.h"
-
 #include <string>
 #include <vector>
 
@@ -14,10 +12,5 @@ std::string valueText(double value, double step);
 
 /// The distance of evenly spaced levels; 0 for fewer than two and for any others. Ascending levels.
 double levelSpacing(const std::vector<double>& levels);
-
-/// What a reader must know of a section beside its axes: values shown, contour distance, number of
-/// rays, misfit, and a vertical exaggeration (height of a metre over its width) other than 1.
-/// One line, UTF-8.
-std::string sectionCaption(const SectionScene& scene, double verticalExaggeration);
 
 }  // namespace talvesk

@@ -221,10 +221,28 @@ TEST(SectionFigure, saysWhatItShowsAndTakesTitlesAsTheyAre) {
   const std::string svg = pictureOf(document, options, FigureFormat::kSvg).bytes;
   for (const char* text :
        {"Distance [m]", "Elevation [m]", "Velocity [m/s]", "Geophones", "Shots", "Contours",
-        "Coverage limit", ">Rays<", "1 rays", "Line &lt;b&gt;3&lt;/b&gt; &amp; more"}) {
+        "Coverage limit", ">Rays<", "1 ray<", "Line &lt;b&gt;3&lt;/b&gt; &amp; more"}) {
     EXPECT_THAT(svg, HasSubstr(text));
   }
   EXPECT_THAT(svg, Not(HasSubstr("<b>")));
+}
+
+TEST(SectionFigure, explainsTheColoursBesideAboveOrNotAtAll) {
+  const TomoDocument document = sectionDocument(8, 30, 1.5, patchwork);
+  SectionFigureOptions options;
+  options.heightMm = 120.0;
+  const Picture beside = pictureOf(document, options, FigureFormat::kSvg);
+  options.colorBar = ColorBar::kHorizontal;
+  const Picture above = pictureOf(document, options, FigureFormat::kSvg);
+  options.colorBar = ColorBar::kNone;
+  const Picture bare = pictureOf(document, options, FigureFormat::kSvg);
+  EXPECT_THAT(beside.bytes, HasSubstr("Velocity [m/s]"));
+  EXPECT_THAT(above.bytes, HasSubstr("Velocity [m/s]"));
+  EXPECT_THAT(bare.bytes, Not(HasSubstr("Velocity [m/s]")));
+  EXPECT_GT(above.layout.rightMm, beside.layout.rightMm + 15.0);
+  EXPECT_GT(above.layout.topMm, beside.layout.topMm + 10.0);
+  EXPECT_GT(bare.layout.rightMm, beside.layout.rightMm + 15.0);
+  EXPECT_LT(bare.layout.topMm, above.layout.topMm - 10.0);
 }
 
 TEST(SectionFigure, isTheSamePictureInEveryLocale) {

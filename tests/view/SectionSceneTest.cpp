@@ -192,22 +192,5 @@ TEST(SectionTexts, valuesHaveNoMorePlacesThanTheirStepNeeds) {
   for (const auto& fact : facts) EXPECT_EQ(valueText(fact.value, fact.step), fact.text);
 }
 
-TEST(SectionTexts, theCaptionStatesWhatTheReaderCannotSee) {
-  TomoDocument document = sectionDocument(8, 20, 0.0, layered);
-  document.hasTomographicInfo = true;
-  document.RMSE_tomography = 2.3456;
-  SectionSceneOptions options;
-  options.range = ValueRange{300.0, 1000.0};
-  options.equallySpacedContours = 6;
-  const SectionScene scene = sceneOf(document, options);
-  EXPECT_EQ(sectionCaption(scene, 1.0),
-            "Velocity 300 to 1000 m/s   \u00B7   Contours every 100 m/s   \u00B7   "
-            "RMS misfit 2.35 %");
-  EXPECT_THAT(sectionCaption(scene, 2.0), HasSubstr("Vertical exaggeration 2.0"));
-  EXPECT_THAT(sectionCaption(scene, 1.25), HasSubstr("Vertical exaggeration 1.25"));
-  document.hasTomographicInfo = false;
-  EXPECT_THAT(sectionCaption(sceneOf(document), 1.0), Not(HasSubstr("RMS")));
-}
-
 }  // namespace
 }  // namespace talvesk

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "view/SectionScene.h"
+
+#include <QCoreApplication>
+#include <QString>
+#include <cstddef>
+
+namespace talvesk {
+
+/// The words on figures, in the language of the program. Numbers look the same in every language.
+struct FigureWords {
+  Q_DECLARE_TR_FUNCTIONS(talvesk::FigureWords)
+
+ public:
+  static QString quantity(SectionQuantity quantity);
+  /// With its unit: "Velocity [m/s]".
+  static QString quantityAxis(SectionQuantity quantity);
+  static QString distanceAxis() { return tr("Distance [m]"); }
+  static QString elevationAxis() { return tr("Elevation [m]"); }
+  static QString timeAxis() { return tr("Time [ms]"); }
+  static QString channelAxis() { return tr("Channel"); }
+
+  static QString traces(std::size_t count);
+  static QString picks(std::size_t count);
+  static QString shots(std::size_t count);
+  static QString computedTimes(std::size_t count);
+  static QString misfit(double percent);  ///< "RMS misfit 2.34 %"
+
+  /// What a reader must know of a section beside its axes: values shown, contour distance, number
+  /// of rays, misfit, and a vertical exaggeration (height of a metre over its width) other than 1.
+  static QString sectionCaption(const SectionScene& scene, double verticalExaggeration);
+  /// Puts parts of a caption into one line.
+  static QString joined(const QStringList& parts);
+};
+
+}  // namespace talvesk

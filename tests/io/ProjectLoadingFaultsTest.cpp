@@ -1,0 +1,250 @@
+#include "support/TestProjects.h"
+
+#include <QLockFile>
+#include <QSignalSpy>
+
+#include <gmock/gmock.h>
+#include <zip.h>
+
+namespace talvesk {
+namespace {
+
+using namespace talvesk::testing;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+class LoadingFaults : public ProjectTest {
+ protected:
+  LoadingFaults() {
+    putGrid(project.document, 6, 2);
+    project.interpretation.ttLayer.push_back({0, {1, 1, 1, 1, 1, 1}, {0, 0, 0, 0, 0, 0}, true});
+    EXPECT_EQ(save(), 0);
+    entries = entriesOf(archive());
+    open.document.title = "open";
+  }
+
+  /// Loads over the project that is open, which must stay.
+  void expectRefused(const std::string& path) {
+    EXPECT_EQ(load(path, open), 1) << path;
+    EXPECT_TRUE(reader.hasError());
+    EXPECT_THAT(reader.message(), Not(IsEmpty()));
+    EXPECT_EQ(open.document.title, "open");
+    EXPECT_EQ(open.folder, nullptr);
+    EXPECT_THAT(leftovers(), IsEmpty());
+  }
+
+  std::map<std::string, std::string> entries;
+  LoadedProject open;
+};
+
+TEST_F(LoadingFaults, ofFilesThatAreNoArchive) {
+  expectRefused(folder.file("nowhere.tvsk"));
+  EXPECT_THAT(console.error(),
+              HasSubstr(": read_ZIP() : couldn't open input file " + folder.file("nowhere.tvsk")));
+  EXPECT_THAT(console.error(), HasSubstr("[ERROR] While extracting "));
+  expectRefused(folder.put("text.tvsk", "no archive"));
+  expectRefused(folder.put("empty.tvsk", ""));
+  expectRefused(folder.path());
+}
+
+TEST_F(LoadingFaults, ofAnArchiveWithoutSurveyAreFoundBeforeAnythingIsExtracted) {
+  entries.erase("tomodoc.xml");
+  const std::string path = pack("other.tvsk", entries);
+  QSignalSpy refused(&reader, &projectReader::error_read_compressed);
+  expectRefused(path);
+  EXPECT_EQ(refused.count(), 1);
+  EXPECT_THAT(console.error(), HasSubstr(" : read_ZIP() : no tomodoc.xml into " + path + "\n"));
+  EXPECT_THAT(console.out(), Not(HasSubstr("extract [ grid.xml ] in [ " + work())));
+}
+
+TEST_F(LoadingFaults, ofTruncatedArchives) {
+  const std::string whole = TestFolder::get(archive());
+  for (std::size_t length = 0; length < whole.size(); length += 1 + whole.size() / 40) {
+    expectRefused(folder.put("short.tvsk", whole.substr(0, length)));
+  }
+}
+
+TEST_F(LoadingFaults, ofDamagedArchivesGiveAnErrorOrAProject) {
+  const std::string whole = TestFolder::get(archive());
+  for (std::size_t at = 0; at < whole.size(); at += 1 + whole.size() / 150) {
+    std::string damaged = whole;
+    damaged[at] = static_cast<char>(damaged[at] ^ 0x55);
+    LoadedProject into;
+    if (load(folder.put("damaged.tvsk", damaged), into) != 0) {
+      EXPECT_THAT(reader.message(), Not(IsEmpty()));
+    }
+  }
+}
+
+/// An archive with one more entry of any name.
+std::string withEntry(const TestFolder& folder, const std::string& archive, const std::string& name,
+                      std::uint32_t unixMode = 0100644) {
+  const std::string path = folder.put("odd.tvsk", TestFolder::get(archive));
+  zip_t* zip = zip_open(path.c_str(), 0, nullptr);
+  EXPECT_NE(zip, nullptr);
+  const std::string bytes = "/etc/passwd";
+  zip_source_t* source = zip_source_buffer(zip, bytes.data(), bytes.size(), 0);
+  const zip_int64_t index = zip_file_add(zip, name.c_str(), source, ZIP_FL_ENC_UTF_8);
+  EXPECT_GE(index, 0) << name;
+  zip_file_set_external_attributes(zip, static_cast<zip_uint64_t>(index), 0, ZIP_OPSYS_UNIX,
+                                   unixMode << 16);
+  EXPECT_EQ(zip_close(zip), 0) << name;
+  return path;
+}
+
+TEST_F(LoadingFaults, ofEntriesThatWouldLeaveTheFolder) {
+  for (const char* name : {"../evil", "/evil", "a/b", "a\\b", "..", ".", "evil/", "..\\evil"}) {
+    expectRefused(withEntry(folder, archive(), name));
+    EXPECT_FALSE(QFile::exists(QString::fromStdString(folder.file("evil")))) << name;
+    EXPECT_FALSE(QFile::exists(QString::fromStdString(work() + "evil"))) << name;
+  }
+}
+
+TEST_F(LoadingFaults, areNoneOfAnEntryThatSaysItIsALink) {
+  LoadedProject back;
+  ASSERT_EQ(load(withEntry(folder, archive(), "link.dat", 0120777), back), 0);
+  const QFileInfo entry(QString::fromStdString(back.folder->path() + "link.dat"));
+  EXPECT_TRUE(entry.isFile());
+  EXPECT_FALSE(entry.isSymLink());
+}
+
+TEST(ArchiveSizes, thatCannotBeAreRefused) {
+  constexpr std::uint64_t kGiB = std::uint64_t{1} << 30;
+  constexpr std::uint64_t kDisk = 100 * kGiB;
+  EXPECT_EQ(refusalOf({{"a", 4 * kGiB}}, 1000, kDisk), "");
+  EXPECT_EQ(refusalOf({{"a", 40 * kGiB}}, kGiB, kDisk), "");
+  EXPECT_NE(refusalOf({{"a", 5 * kGiB}}, 1000, kDisk), "");
+  EXPECT_NE(refusalOf({{"a", 3 * kGiB}, {"b", 3 * kGiB}}, 1000, kDisk), "");
+  EXPECT_NE(refusalOf({{"a", kDisk + 1}}, kDisk, kDisk), "");
+  EXPECT_NE(refusalOf({{"a", kDisk}, {"b", 1}}, kDisk, kDisk), "");
+  EXPECT_NE(refusalOf({{"a", 1}, {"a", 1}}, 1000, kDisk), "");
+  EXPECT_NE(refusalOf({{"a", ~std::uint64_t{0}}, {"b", 2}}, 1000, ~std::uint64_t{0}), "");
+}
+
+struct Change {
+  const char* member;
+  const char* before;
+  const char* after;
+};
+
+class WrongMember : public LoadingFaults, public ::testing::WithParamInterface<Change> {};
+
+TEST_P(WrongMember, isRefused) {
+  const Change& change = GetParam();
+  entries[change.member] = with(entries[change.member], change.before, change.after);
+  expectRefused(pack("wrong.tvsk", entries));
+  EXPECT_THAT(reader.message(), HasSubstr(change.member));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, WrongMember,
+    ::testing::Values(
+        Change{"tomodoc.xml", "<indexStesa>0", "<indexStesa>7"},
+        Change{"tomodoc.xml", "<indexStesa>0", "<indexStesa>-2"},
+        Change{"tomodoc.xml", "<x>5</x>", "<x>nan</x>"},
+        Change{"tomodoc.xml", "<x>5</x>", "<x>1e300</x>"},
+        Change{"tomodoc.xml", "<ttArray", "<other"}, Change{"tomodoc.xml", "cereal>", "other>"},
+        Change{"grid.xml", "<righe>3", "<righe>4"}, Change{"grid.xml", "<righe>3", "<righe>-3"},
+        Change{"grid.xml", "<righe>3", "<righe>4294967295"}, Change{"grid.xml", "<nV>6", "<nV>1"},
+        Change{"grid.xml", "<nV>6", "<nV>400000"}, Change{"grid.xml", "<aLato>2", "<aLato>0"},
+        Change{"grid.xml", "<aLato>2", "<aLato>inf"}, Change{"grid.xml", "<value0>", "<value0>-"},
+        Change{"grid.xml", "<value0>", "<value0>0e"},
+        Change{"traces.xml", "<wave_type>0", "<wave_type>2"},
+        Change{"traces.xml", "<pos>0", "<pos>nan"}, Change{"traces.xml", "<pos>0", "<pas>0"},
+        Change{"traces.xml", "<delay>-", "<delay>"},
+        Change{"palettes.xml", "<n_colors>", "<n_colors>x"},
+        Change{"palettes.xml", "<palettes", "<palette"},
+        Change{"refraction.xml", "<shotID>0", "<shotID>3"},
+        Change{"refraction.xml", "<value2>1", "<value2>4"}));
+
+TEST_F(LoadingFaults, ofTracesHaveASignAndALineOfTheirOwn) {
+  entries["tomodoc.xml"] =
+      with(entries["tomodoc.xml"], "<traceSetID>2</traceSetID>", "<traceSetID>1</traceSetID>");
+  QSignalSpy failed(&reader, &projectReader::error_read_traces);
+  expectRefused(pack("wrong.tvsk", entries));
+  EXPECT_EQ(failed.count(), 1);
+  EXPECT_TRUE(reader.tracesFailed());
+}
+
+TEST_F(LoadingFaults, ofEachMemberAreToldByItsSignal) {
+  using Signal = void (projectReader::*)();
+  const std::map<std::string, std::pair<Signal, const char*>> members = {
+      {"tomodoc.xml", {&projectReader::error_read_tomo_xml, "TomoDocument"}},
+      {"grid.xml", {&projectReader::error_read_grid, "Grid"}},
+      {"traces.xml", {&projectReader::error_read_traces, "Traces"}},
+      {"palettes.xml", {&projectReader::error_read_palettes, "Palettes"}}};
+  for (const auto& [member, sign] : members) {
+    QSignalSpy failed(&reader, sign.first);
+    auto broken = entries;
+    broken[member] = std::string(100000, '<') + "a>";
+    expectRefused(pack("broken.tvsk", broken));
+    EXPECT_EQ(failed.count(), 1) << member;
+    EXPECT_THAT(console.error(),
+                HasSubstr(std::string("[ERROR] ") + sign.second + " cannot be read from disk.\n"));
+    if (member == "tomodoc.xml") continue;  // without it nothing is extracted
+    broken.erase(member);
+    expectRefused(pack("missing.tvsk", broken));
+    EXPECT_THAT(console.error(), HasSubstr(member + ".\n[ERROR] " + sign.second));
+  }
+}
+
+TEST_F(LoadingFaults, areNoneOfAPaletteIndexOrSettingsThatDoNotExist) {
+  entries["palettes.xml"] =
+      with(entries["palettes.xml"], "<curr_palette>0", "<curr_palette>4000000");
+  entries["tomodoc.xml"] = with(entries["tomodoc.xml"], "<quantity>0", "<quantity>77");
+  entries["tomodoc.xml"] =
+      with(entries["tomodoc.xml"], "<verticalExaggeration>1", "<verticalExaggeration>nan");
+  entries["tomodoc.xml"] = with(entries["tomodoc.xml"], "<numberOfValues>10", "<numberOfValues>-1");
+  LoadedProject back;
+  ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
+  EXPECT_EQ(back.palettes.currentIndex(), 0U);
+  EXPECT_EQ(back.section.quantity, SectionQuantity::kVelocity);
+  EXPECT_EQ(back.section.verticalExaggeration, 1.0);
+  EXPECT_EQ(back.section.contours.numberOfValues, 1);
+}
+
+TEST_F(LoadingFaults, areNoneOfNamesThatLeaveTheFolder) {
+  entries["traces.xml"] = with(entries["traces.xml"], ">1.dat<", ">../../secret.dat<");
+  LoadedProject back;
+  ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
+  EXPECT_THAT(back.document.traceSets[0][0].samples, IsEmpty());
+  ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
+  EXPECT_EQ(entriesOf(folder.file("again.tvsk")).count("secret.dat"), 0U);
+}
+
+TEST_F(LoadingFaults, ofAWorkingFolderThatIsNotThere) {
+  EXPECT_EQ(reader.load(archive(), folder.file("nowhere/"), open), 1);
+  EXPECT_THAT(console.error(), HasSubstr("ERROR: Impossible to save!\n"));
+  EXPECT_EQ(open.document.title, "open");
+}
+
+TEST(TemporaryFolders, areClearedUnlessSomebodyWorksInThem) {
+  const TestFolder area;
+  QDir folder(QString::fromStdString(area.path()));
+  for (const char* name : {"1600000000000", "-5", "keep", "12a", "77"}) {
+    ASSERT_TRUE(folder.mkpath(QString::fromLatin1(name) + QStringLiteral("/inner")));
+  }
+  const TestFolder outside;
+  outside.put("precious", "x");
+  ASSERT_TRUE(
+      QFile::link(QString::fromStdString(outside.path()), folder.filePath(QStringLiteral("88"))));
+  ASSERT_TRUE(QFile::link(QString::fromStdString(outside.path()),
+                          folder.filePath(QStringLiteral("-5/inner/link"))));
+  area.put("99", "a file");
+  QLockFile living(folder.filePath(QStringLiteral("77.lock")));
+  ASSERT_TRUE(living.tryLock(0));
+  const auto own = TemporaryFolder::create(area.path() + "/");
+  ASSERT_NE(own, nullptr);
+  TemporaryFolder::clear(area.path() + "/");
+  QStringList left = folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+  for (const char* name : {"keep", "12a", "77", "88", "99", "77.lock"}) {
+    EXPECT_EQ(left.removeAll(QString::fromLatin1(name)), 1) << name;
+  }
+  EXPECT_EQ(left.size(), 2) << left.join(QLatin1Char(' ')).toStdString();  // our own and its lock
+  EXPECT_EQ(TestFolder::get(outside.file("precious")), "x");
+}
+
+}  // namespace
+}  // namespace talvesk
