@@ -567,6 +567,186 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::FigureWords</name>
+    <message>
+        <source>Contours</source>
+        <translation>Isolinee</translation>
+    </message>
+    <message>
+        <source>Vertical gradient of velocity</source>
+        <translation>Gradiente verticale di velocità</translation>
+    </message>
+    <message>
+        <source>Laplacian of velocity</source>
+        <translation>Laplaciano della velocità</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densità di informazione</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>1 trace</source>
+        <translation>1 traccia</translation>
+    </message>
+    <message>
+        <source>%1 traces</source>
+        <translation>%1 tracce</translation>
+    </message>
+    <message>
+        <source>1 pick</source>
+        <translation>1 primo arrivo</translation>
+    </message>
+    <message>
+        <source>%1 picks</source>
+        <translation>%1 primi arrivi</translation>
+    </message>
+    <message>
+        <source>1 shot</source>
+        <translation>1 tiro</translation>
+    </message>
+    <message>
+        <source>%1 shots</source>
+        <translation>%1 tiri</translation>
+    </message>
+    <message>
+        <source>1 computed time</source>
+        <translation>1 tempo calcolato</translation>
+    </message>
+    <message>
+        <source>%1 computed times</source>
+        <translation>%1 tempi calcolati</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 %</source>
+        <translation>Scarto quadratico medio %1 %</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>quantity, least and greatest value with its unit</comment>
+        <translation>%1 da %2 a %3</translation>
+    </message>
+    <message>
+        <source>Contours every %1</source>
+        <translation>Isolinee ogni %1</translation>
+    </message>
+    <message>
+        <source>1 ray</source>
+        <translation>1 raggio</translation>
+    </message>
+    <message>
+        <source>%1 rays</source>
+        <translation>%1 raggi</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration %1</source>
+        <translation>Esagerazione verticale %1</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distanza [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Quota [m]</translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation>Tempo [ms]</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canale</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tiri</translation>
+    </message>
+    <message>
+        <source>First breaks</source>
+        <translation>Primi arrivi</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>Tiro %1 di %2</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tiro %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m</source>
+        <comment>shot, place</comment>
+        <translation>%1 a %2 m</translation>
+    </message>
+    <message>
+        <source>%1, filtered</source>
+        <comment>traces</comment>
+        <translation>%1, filtrate</translation>
+    </message>
+    <message>
+        <source>%1, some filtered</source>
+        <comment>traces</comment>
+        <translation>%1, alcune filtrate</translation>
+    </message>
+    <message>
+        <source>One of every %1 is drawn</source>
+        <translation>Disegnata una ogni %1</translation>
+    </message>
+    <message>
+        <source>%1 without samples or sample interval</source>
+        <translation>%1 senza campioni o intervallo di campionamento</translation>
+    </message>
+    <message>
+        <source>Each trace to its own maximum, gain %1</source>
+        <translation>Ogni traccia al proprio massimo, guadagno %1</translation>
+    </message>
+    <message>
+        <source>All traces to one maximum, gain %1</source>
+        <translation>Tutte le tracce a un solo massimo, guadagno %1</translation>
+    </message>
+    <message>
+        <source>no picks</source>
+        <translation>nessun primo arrivo</translation>
+    </message>
+    <message>
+        <source>%1 outside the times shown</source>
+        <comment>picks</comment>
+        <translation>%1 fuori dai tempi mostrati</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Raggi</translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Limite di copertura</translation>
+    </message>
+    <message>
+        <source>Travel times</source>
+        <translation>Tempi di arrivo</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Misurati</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calcolati</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::GeometryTable</name>
     <message>
         <source>&quot;%1&quot; is not a number.</source>
