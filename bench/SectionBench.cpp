@@ -32,7 +32,9 @@ TomoDocument bigSection() {
     std::vector<std::uint32_t> ray;
     for (std::uint32_t k = 0; k <= 250; ++k) {
       const double depth = (20.0 + i % 100) * std::sin(3.14159265 * k / 250.0);
-      ray.push_back(geometry.sideNode(static_cast<std::uint32_t>(depth), first + k, k % 4));
+      const auto row = static_cast<std::uint32_t>(depth);
+      ray.push_back(
+          geometry.sideNode(row, first + k, static_cast<std::uint32_t>(4.0 * (depth - row))));
     }
     document.rays.push_back(ray);
   }
@@ -67,7 +69,7 @@ void buildScene(benchmark::State& state) {
   document();
   for (auto _ : state) benchmark::DoNotOptimize(sceneOf(settings, palette));
 }
-BENCHMARK(buildScene)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(buildScene)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
 
 QApplication& application() {
   static int argc = 1;
@@ -78,9 +80,13 @@ QApplication& application() {
   return app;
 }
 
-struct View {
+/// Widgets need the application object first.
+struct WithApplication {
+  WithApplication() { application(); }
+};
+
+struct View : WithApplication {
   View(bool smooth, bool bands, bool rays) : settings(everything(smooth, bands)) {
-    application();
     settings.rays = rays;
     widget.resize(1280, 800);
     widget.show();
@@ -123,7 +129,7 @@ void paletteFrame(benchmark::State& state) {
     view.frame();
   }
 }
-BENCHMARK(paletteFrame)->Unit(benchmark::kMillisecond);
+BENCHMARK(paletteFrame)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
 
 void pictureForAFile(benchmark::State& state) {
   const View view(true, false, true);
@@ -131,7 +137,7 @@ void pictureForAFile(benchmark::State& state) {
     benchmark::DoNotOptimize(view.widget.picture({1600, 900}, SectionView::Part::kWhole, 2.0));
   }
 }
-BENCHMARK(pictureForAFile)->Unit(benchmark::kMillisecond);
+BENCHMARK(pictureForAFile)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
 
 }  // namespace
 }  // namespace talvesk

@@ -13,6 +13,7 @@
 #include <QTransform>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace talvesk::section_items {
 namespace {
@@ -93,12 +94,18 @@ void paintContourLabels(QPainter& painter, const SectionScene& scene,
   // Not the painter's font, which counts in the resolution of the device.
   const QFont font = figureFont(style.labelPoints);
   LabelPlacer placer(canvas);
+  // Lines come level by level, and a rough section has thousands of short ones.
+  QPainterPath label;
+  std::optional<double> labelled;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const double value = scene.contours[i].value;
     if (!hasLabel(scene, style, value)) continue;
-    QPainterPath label;
-    label.addText(0, 0, font, text(value));
-    label.translate(-label.boundingRect().center());
+    if (labelled != value) {
+      label = QPainterPath();
+      label.addText(0, 0, font, text(value));
+      label.translate(-label.boundingRect().center());
+      labelled = value;
+    }
     QPainterPath placed;
     if (!placer.place(lines[i], label, placed)) continue;
     painter.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

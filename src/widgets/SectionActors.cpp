@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 #include <vtkActor.h>
@@ -83,6 +84,43 @@ class Builder {
   vtkNew<vtkPoints> mPoints;
   vtkNew<vtkCellArray> mCells;
 };
+
+constexpr double kRayAccuracy = 0.05;            ///< cells; far below what can be seen
+constexpr std::size_t kMovingRayPoints = 40000;  ///< that a processor draws without a stutter
+
+/// A line without the points that lie within `tolerance` of it, by Douglas and Peucker (1973).
+std::vector<Point2D> simplified(const std::vector<Point2D>& line, double tolerance) {
+  if (line.size() < 3) return line;
+  std::vector<bool> kept(line.size(), false);
+  kept.front() = kept.back() = true;
+  std::vector<std::pair<std::size_t, std::size_t>> open{{0, line.size() - 1}};
+  while (!open.empty()) {
+    const auto [from, to] = open.back();
+    open.pop_back();
+    const Point2D along{line[to].x - line[from].x, line[to].z - line[from].z};
+    const double length = std::hypot(along.x, along.z);
+    double furthest = tolerance;
+    std::size_t at = from;
+    for (std::size_t i = from + 1; i < to; ++i) {
+      const Point2D off{line[i].x - line[from].x, line[i].z - line[from].z};
+      const double away = length > 0.0 ? std::abs(off.x * along.z - off.z * along.x) / length
+                                       : std::hypot(off.x, off.z);
+      if (away > furthest) {
+        furthest = away;
+        at = i;
+      }
+    }
+    if (at == from) continue;
+    kept[at] = true;
+    open.emplace_back(from, at);
+    open.emplace_back(at, to);
+  }
+  std::vector<Point2D> out;
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    if (kept[i]) out.push_back(line[i]);
+  }
+  return out;
+}
 
 /// What the geometry of the fill was made from.
 struct FillSource {
@@ -187,18 +225,21 @@ struct SectionActors::Parts {
   vtkNew<vtkRenderer> renderer;
   Layer fill{0};
   Layer rays{1};
+  Layer someRays{1};  ///< for a moving picture
   Layer contours{2};
   vtkNew<vtkLookupTable> colors;
   FillSource fillSource;
   Lines rayLines;
   std::vector<ContourLine> contourLines;
   Point2D origin;
+  bool moving = false;
   double extent = 1.0;  ///< metres, a little more than the section's larger side
 
   Parts();
-  void setFill(const SectionScene& scene);
-  void setRays(const SectionScene& scene);
-  void setContours(const SectionScene& scene);
+  bool setFill(const SectionScene& scene);
+  bool setRays(const SectionScene& scene);
+  void showRays();
+  bool setContours(const SectionScene& scene);
   bool moveOrigin(const SectionScene& scene);
   void forget();
 };
@@ -207,14 +248,16 @@ SectionActors::Parts::Parts() {
   renderer->SetBackground(1.0, 1.0, 1.0);
   renderer->SetUseFXAA(false);
   renderer->GetActiveCamera()->ParallelProjectionOn();
-  for (Layer* layer : {&fill, &rays, &contours}) renderer->AddActor(layer->actor);
+  for (Layer* layer : {&fill, &rays, &someRays, &contours}) renderer->AddActor(layer->actor);
   forget();
   fill.mapper->SetLookupTable(colors);
   fill.mapper->UseLookupTableScalarRangeOn();
-  rays.actor->GetProperty()->SetColor(0.0, 0.0, 0.0);
-  // VTK would draw what is translucent in a pass of its own, without smooth edges. Lines of one
-  // colour blend as well in the opaque one, whatever their order.
-  rays.actor->ForceOpaqueOn();
+  for (Layer* layer : {&rays, &someRays}) {
+    layer->actor->GetProperty()->SetColor(0.0, 0.0, 0.0);
+    // VTK would draw what is translucent in a pass of its own, without smooth edges. Lines of one
+    // colour blend as well in the opaque one, whatever their order.
+    layer->actor->ForceOpaqueOn();
+  }
 }
 
 bool SectionActors::Parts::moveOrigin(const SectionScene& scene) {
@@ -235,12 +278,12 @@ void SectionActors::Parts::forget() {
   fillSource = {};
   rayLines.clear();
   contourLines.clear();
-  for (Layer* layer : {&fill, &rays, &contours}) layer->actor->VisibilityOff();
+  for (Layer* layer : {&fill, &rays, &someRays, &contours}) layer->actor->VisibilityOff();
 }
 
-void SectionActors::Parts::setFill(const SectionScene& scene) {
+bool SectionActors::Parts::setFill(const SectionScene& scene) {
   FillSource source(scene);
-  if (source == fillSource) return;
+  if (source == fillSource) return false;
   fill.actor->SetVisibility(scene.fill != SectionFill::kNone);
   if (scene.fill != SectionFill::kNone) {
     if (!source.hasGeometryOf(fillSource)) buildFill(fill, scene, origin);
@@ -255,31 +298,54 @@ void SectionActors::Parts::setFill(const SectionScene& scene) {
     }
   }
   fillSource = std::move(source);
+  return true;
 }
 
-void SectionActors::Parts::setRays(const SectionScene& scene) {
-  if (scene.rays == rayLines) return;
+bool SectionActors::Parts::setRays(const SectionScene& scene) {
+  if (scene.rays == rayLines) return false;
   rayLines = scene.rays;
-  Builder builder(origin);
-  for (const auto& ray : rayLines) builder.addLine(ray, false);
-  builder.store(rays, true);
-  rays.actor->SetVisibility(!rayLines.empty());
-  rays.actor->GetProperty()->SetOpacity(rayOpacity(rayLines.size()));
+  const SectionMesh& mesh = scene.mesh;
+  const double cell = mesh.columns > 0 ? mesh.corners[1].x - mesh.corners[0].x : 0.0;
+  Lines lines;
+  std::size_t points = 0;
+  for (const auto& ray : rayLines) {
+    lines.push_back(simplified(ray, kRayAccuracy * cell));
+    points += lines.back().size();
+  }
+  const std::size_t step = 1 + points / kMovingRayPoints;
+  Builder all(origin);
+  Builder some(origin);
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    all.addLine(lines[i], false);
+    if (i % step == 0) some.addLine(lines[i], false);
+  }
+  all.store(rays, true);
+  some.store(someRays, true);
+  rays.actor->GetProperty()->SetOpacity(rayOpacity(lines.size()));
+  someRays.actor->GetProperty()->SetOpacity(rayOpacity(lines.size() / step));
+  showRays();
+  return true;
 }
 
-void SectionActors::Parts::setContours(const SectionScene& scene) {
+void SectionActors::Parts::showRays() {
+  rays.actor->SetVisibility(!moving && !rayLines.empty());
+  someRays.actor->SetVisibility(moving && !rayLines.empty());
+}
+
+bool SectionActors::Parts::setContours(const SectionScene& scene) {
   const auto same = [](const ContourLine& a, const ContourLine& b) {
     return a.value == b.value && a.closed == b.closed && a.points == b.points;
   };
   if (std::equal(scene.contours.begin(), scene.contours.end(), contourLines.begin(),
                  contourLines.end(), same)) {
-    return;
+    return false;
   }
   contourLines = scene.contours;
   Builder builder(origin);
   for (const ContourLine& line : contourLines) builder.addLine(line.points, line.closed);
   builder.store(contours, true);
   contours.actor->SetVisibility(!contourLines.empty());
+  return true;
 }
 
 SectionActors::SectionActors() : mParts(std::make_unique<Parts>()) {}
@@ -290,13 +356,19 @@ vtkRenderer* SectionActors::renderer() const {
   return mParts->renderer;
 }
 
-void SectionActors::setScene(const SectionScene& scene) {
+bool SectionActors::setScene(const SectionScene& scene) {
   if (mParts->moveOrigin(scene)) {
     mParts->forget();
   }
-  mParts->setFill(scene);
-  mParts->setRays(scene);
-  mParts->setContours(scene);
+  const bool fill = mParts->setFill(scene);
+  const bool rays = mParts->setRays(scene);
+  const bool contours = mParts->setContours(scene);
+  return fill || rays || contours;
+}
+
+void SectionActors::setMoving(bool moving) {
+  mParts->moving = moving;
+  mParts->showRays();
 }
 
 void SectionActors::setColors(const ColorTable& table) {

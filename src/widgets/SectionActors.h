@@ -24,11 +24,14 @@ class SectionActors {
 
   vtkRenderer* renderer() const;
 
-  void setScene(const SectionScene& scene);
+  /// \return whether anything differs from the scene before
+  bool setScene(const SectionScene& scene);
   /// \param colors sectionColors() of that scene
   void setColors(const ColorTable& colors);
   /// \param width device pixels
   void setContourStyle(const RgbColor& color, double width);
+  /// Leaves out all but some of the rays while the picture moves, when they are many.
+  void setMoving(bool moving);
   /// \param size of the picture in the camera's pixels
   void setCamera(const SectionCamera& camera, const QSizeF& size);
 

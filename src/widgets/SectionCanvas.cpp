@@ -7,6 +7,7 @@
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QPainter>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 
@@ -21,6 +22,7 @@ namespace talvesk {
 namespace {
 
 constexpr int kSamples = 4;      ///< per pixel, against jagged lines
+constexpr int kRest = 250;       ///< milliseconds after which a picture no longer moves
 constexpr int kTileSize = 2048;  ///< device pixels; every OpenGL draws that much at once
 
 /// The OpenGL of a picture that no screen shows. Goes in the order that VTK needs: the window lets
@@ -103,10 +105,25 @@ struct SectionCanvas::Parts {
     window->GetInteractor()->SetInteractorStyle(nullptr);
     widget->setAttribute(Qt::WA_TransparentForMouseEvents);
     widget->setFocusPolicy(Qt::NoFocus);
+    rest.setSingleShot(true);
+    rest.setInterval(kRest);
+    QObject::connect(&rest, &QTimer::timeout, widget, [this] { setMoving(false); });
+  }
+
+  void startMoving() {
+    if (!rest.isActive()) setMoving(true);
+    rest.start();
+  }
+
+  void setMoving(bool moving) {
+    actors.setMoving(moving);
+    window->SetMultiSamples(moving ? 0 : kSamples);
+    widget->sceneChanged();
   }
 
   vtkNew<vtkGenericOpenGLRenderWindow> window;
   SectionActors actors;
+  QTimer rest;           ///< runs while the picture moves
   CanvasWidget* widget;  ///< a child of its parent, deleted here before the actors go
 };
 
@@ -122,14 +139,16 @@ QWidget* SectionCanvas::widget() const {
 
 void SectionCanvas::setScene(const SectionScene& scene, const ColorTable& colors,
                              const RgbColor& contourColor) {
-  mParts->actors.setScene(scene);
+  // Other colours alone are one of many while a user drags a handle of a palette.
+  if (!mParts->actors.setScene(scene)) mParts->startMoving();
   mParts->actors.setColors(colors);
   mParts->actors.setContourStyle(contourColor, kContourWidth * mParts->widget->devicePixelRatioF());
   mParts->widget->sceneChanged();
 }
 
-void SectionCanvas::setCamera(const SectionCamera& camera) {
+void SectionCanvas::setCamera(const SectionCamera& camera, bool moving) {
   mParts->actors.setCamera(camera, mParts->widget->size());
+  if (moving) mParts->startMoving();
   mParts->widget->sceneChanged();
 }
 

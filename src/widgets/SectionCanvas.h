@@ -26,7 +26,9 @@ class SectionCanvas {
 
   QWidget* widget() const;
   void setScene(const SectionScene& scene, const ColorTable& colors, const RgbColor& contourColor);
-  void setCamera(const SectionCamera& camera);  ///< for the size of the widget as it is now
+  /// For the size of the widget as it is now.
+  /// \param moving the camera will move on at once: draw roughly now, and properly a little later
+  void setCamera(const SectionCamera& camera, bool moving);
 
  private:
   struct Parts;

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPainter>
 #include <QStackedLayout>
 #include <QToolButton>
@@ -117,6 +118,7 @@ void SectionView::layOutControls() {
 
 void SectionView::retranslate() {
   State& s = *mState;
+  s.exaggeration->setLocale(QLocale());
   s.exaggerationLabel->setText(tr("Vertical exaggeration:"));
   s.exaggeration->setToolTip(tr("How much higher than wide a metre is drawn"));
   s.exaggeration->setAccessibleName(tr("Vertical exaggeration"));
@@ -215,10 +217,10 @@ void SectionView::layOut() {
   applyCamera();
 }
 
-void SectionView::applyCamera() {
+void SectionView::applyCamera(bool moving) {
   State& s = *mState;
   if (isEmpty() || !s.canvas) return;
-  s.canvas->setCamera(s.camera);
+  s.canvas->setCamera(s.camera, moving);
   s.overlay->update();
   emit viewChanged();
 }

@@ -72,7 +72,7 @@ class SectionView : public QWidget {
   void layOutControls();
   void retranslate();
   void layOut();
-  void applyCamera();
+  void applyCamera(bool moving = false);
   bool sheetEvent(QEvent* event);
   void drag(const QPointF& to);
   bool key(int key);

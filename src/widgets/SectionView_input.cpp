@@ -39,7 +39,7 @@ bool SectionView::sheetEvent(QEvent* event) {
       s.camera.zoomAt(wheel->position() - plot.topLeft(), std::pow(kZoomStep, notches),
                       plot.size());
       s.fits = false;
-      applyCamera();
+      applyCamera(true);
       readCursor(wheel->position());
       return true;
     }
@@ -85,7 +85,7 @@ void SectionView::drag(const QPointF& to) {
     s.camera.pan(by);
     s.fits = false;
   }
-  applyCamera();
+  applyCamera(true);
 }
 
 void SectionView::zoomIn() {
@@ -93,7 +93,7 @@ void SectionView::zoomIn() {
   const QSizeF size = plotRect().size();
   s.camera.zoomAt({0.5 * size.width(), 0.5 * size.height()}, kZoomStep, size);
   s.fits = false;
-  applyCamera();
+  applyCamera(true);
 }
 
 void SectionView::zoomOut() {
@@ -101,7 +101,7 @@ void SectionView::zoomOut() {
   const QSizeF size = plotRect().size();
   s.camera.zoomAt({0.5 * size.width(), 0.5 * size.height()}, 1.0 / kZoomStep, size);
   s.fits = false;
-  applyCamera();
+  applyCamera(true);
 }
 
 bool SectionView::key(int key) {
@@ -141,7 +141,7 @@ bool SectionView::key(int key) {
     s.camera.pan({-kPanShare * size.width() * way.x(), -kPanShare * size.height() * way.y()});
     s.fits = false;
   }
-  applyCamera();
+  applyCamera(true);
   return true;
 }
 
