@@ -2,13 +2,12 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/OutputFiles.h"
+#include "batch/ProjectFiles.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
-#include "io/projectReader.h"
 
-#include <QTemporaryDir>
 #include <ostream>
 
 namespace talvesk {
@@ -31,22 +30,6 @@ int choosePalette(const std::string& name, ColorPaletteList& palettes) {
     names += (i > 0 ? ", '" : "'") + palettes[i].name + "'";
   }
   return wrongUsage("export", "--palette: '" + name + "' is none of " + names);
-}
-
-/// \param folder outlives the project: what the archive held is unpacked there
-Status readProject(const ExportOptions& options, const QTemporaryDir& folder,
-                   LoadedProject& project) {
-  if (!folder.isValid()) {
-    return Status::failure("Cannot unpack " + options.project +
-                           ": there is no temporary folder: " + folder.errorString().toStdString());
-  }
-  projectReader reader;
-  if (reader.load(options.project, folder.path().toStdString() + "/", project) != 0) {
-    return Status::failure("Cannot read " + options.project + ": " + reader.message());
-  }
-  if (options.quiet) return {};
-  for (const std::string& warning : reader.warnings()) warn(options.project + ": " + warning);
-  return {};
 }
 
 int writeFiles(const ExportOptions& options, const LoadedProject& project, ValueRange range,
@@ -82,9 +65,8 @@ int run(const ExportOptions& options) {
   if (places.code() == kWrongUsage) return wrongUsage("export", places.message());
   if (!places.ok()) return failed(places.message());
 
-  const QTemporaryDir folder;
   LoadedProject project;
-  const Status status = readProject(options, folder, project);
+  const Status status = readProject(options.project, options.quiet, project);
   if (!status.ok()) return failed(status.message());
   const ColorPalette& inView = project.palettes.current();
   const ValueRange range = options.range.value_or(ValueRange{inView.min_db, inView.max_db});

@@ -3,6 +3,7 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/OutputFiles.h"
+#include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
 #include "grid/SurveyProfile.h"
@@ -78,6 +79,7 @@ class Inventory {
   Inventory(const InfoOptions& options, std::ostream& out) : mOptions(options), mOut(out) {}
 
   void add(const std::string& file) {
+    if (isProjectFile(file)) return addProject(file);
     isTravelTimeFile(file) ? addTravelTimes(file) : addShot(file);
   }
 
@@ -103,8 +105,9 @@ class Inventory {
   static Status neitherKind(const std::string& file) {
     constexpr int kUnknownFormat = 3;  // as the readers of shot files call it
     return Status::failure(file +
-                               ": its suffix is neither of a travel-time file (.otte, .txt, .xyz, "
-                               ".csv) nor of a shot file (.seg2, .sg2, .dat, .sgy, .segy, .su)",
+                               ": its suffix is not of a travel-time file (.otte, .txt, .xyz, "
+                               ".csv) or a shot file (.seg2, .sg2, .dat, .sgy, .segy, .su) or "
+                               "a project (.tvsk)",
                            kUnknownFormat);
   }
 
@@ -112,6 +115,12 @@ class Inventory {
     TravelTimeData data;
     const Status status = readPicks(file, data, false);
     take(file, status, data, [&] { return travelTimesJson(data); });
+  }
+
+  void addProject(const std::string& file) {
+    LoadedProject project;
+    const Status status = readProject(file, false, project);
+    take(file, status, project, [&] { return projectJson(project); });
   }
 
   void addShot(const std::string& file) {

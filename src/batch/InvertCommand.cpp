@@ -5,6 +5,7 @@
 #include "batch/Images.h"
 #include "batch/Interrupt.h"
 #include "batch/OutputFiles.h"
+#include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
@@ -37,7 +38,13 @@ std::vector<std::string> inputsOf(const InvertOptions& options) {
   return surveyFiles(options.input, options.shots);
 }
 
+/// A project continues from the grid that it has, as it would in the window.
+bool continues(const InvertOptions& options, const TomoDocument& document) {
+  return !options.ownGrid && document.grid != nullptr && document.grid->cellCount() > 0;
+}
+
 Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log) {
+  if (continues(options, document)) return {};
   SurveyProfile profile;
   GridSettings settings = proposeGrid(document, profile, log);
   if (!profile.hasGeometry()) {
@@ -61,25 +68,31 @@ bool anyPick(const TomoDocument& document) {
 }
 
 /// What the window would ask about; nobody is there to answer.
-void warnAboutChoices(const InvertOptions& options, const TomoDocument& document) {
+void warnAboutChoices(const TomographyParameters& parameters, const TomoDocument& document) {
   if (!anyPick(document)) {
     warn("there are no picks; the starting model will not be fitted to anything");
   } else if (!document.picksComplete()) {
     warn("uncomplete set of picks; the inversion is run anyway");
   }
-  const TomographyParameters& run = options.parameters;
-  if (run.minVelocity > run.maxVelocity) {
+  if (parameters.minVelocity > parameters.maxVelocity) {
     warn("the minimum velocity is above the maximum; every cell that changes ends at the maximum");
   }
 }
 
-TomographyResult invert(const InvertOptions& options, const Channels& channels,
-                        TomoDocument& document, Log& log) {
+TomographyParameters parametersOf(const InvertOptions& options, const TomoDocument& document) {
+  TomographyParameters parameters = options.parameters;
+  parameters.minVelocity = options.minVelocity.value_or(document.minVelocity);
+  parameters.maxVelocity = options.maxVelocity.value_or(document.maxVelocity);
+  return parameters;
+}
+
+TomographyResult invert(const InvertOptions& options, const TomographyParameters& parameters,
+                        const Channels& channels, TomoDocument& document, Log& log) {
   listenForInterrupt(!options.quiet);
   Progress progress(channels.progress, std::cerr, options.parameters.externalIterations);
   TomographyResult result = runInversion(
-      document, options.parameters, log,
-      [&](const TomographyProgress& state) { progress.show(state); }, interruptRequested);
+      document, parameters, log, [&](const TomographyProgress& state) { progress.show(state); },
+      interruptRequested);
   progress.finish();
   return result;
 }
@@ -111,8 +124,9 @@ void summarize(const InvertOptions& options, const TomoDocument& document,
 }
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
-int writeResults(const InvertOptions& options, const TomoDocument& document,
+int writeResults(const InvertOptions& options, const LoadedProject& project,
                  const TomographyResult& result) {
+  const TomoDocument& document = project.document;
   int exitCode = kDone;
   const auto attempt = [&](const std::string& path, const auto& write) {
     if (path.empty()) return;
@@ -124,6 +138,7 @@ int writeResults(const InvertOptions& options, const TomoDocument& document,
     return writeGriddedText(options.gridded, document, {options.lineY, options.zOffset});
   });
   attempt(options.otte, [&] { return writeTravelTimes(options.otte, document); });
+  attempt(options.project, [&] { return writeProject(options.project, options.quiet, project); });
   for (const std::string& image : options.images) {
     attempt(image, [&] { return drawSection(document, options, image); });
   }
@@ -135,8 +150,10 @@ int writeResults(const InvertOptions& options, const TomoDocument& document,
 int run(const InvertOptions& options) {
   const Channels channels =
       openChannels(options.json == kStandardOutput, options.quiet, options.verbose);
-  std::vector<OutputFile> outputs = {
-      {"--gridded", options.gridded}, {"--otte", options.otte}, {"--json", options.json}};
+  std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
+                                     {"--otte", options.otte},
+                                     {"--json", options.json},
+                                     {"--project", options.project}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   const Status places = checkOutputFiles(outputs, inputsOf(options));
   if (places.code() == kWrongUsage) return wrongUsage("invert", places.message());
@@ -144,20 +161,22 @@ int run(const InvertOptions& options) {
   if (!options.images.empty()) prepareDrawing();
 
   Log log;
-  TomoDocument document;
+  LoadedProject project;
+  TomoDocument& document = project.document;
   PickingManner manner;
   manner.threads = options.parameters.singleThread ? 1 : 0;
   manner.quiet = options.quiet;
   manner.verbose = options.verbose;
   manner.summary = channels.summary;
-  Status status = readSurvey(options.input, options.shots, manner, document);
+  Status status = readSurvey(options.input, options.shots, manner, project);
   if (status.ok()) status = setUpModel(options, document, log);
   if (!status.ok()) return failed(status.message());
-  if (!options.quiet) warnAboutChoices(options, document);
+  const TomographyParameters parameters = parametersOf(options, document);
+  if (!options.quiet) warnAboutChoices(parameters, document);
 
-  const TomographyResult result = invert(options, channels, document, log);
+  const TomographyResult result = invert(options, parameters, channels, document, log);
   if (!result.status.ok()) return failed(result.status.message());
-  const int exitCode = writeResults(options, document, result);
+  const int exitCode = writeResults(options, project, result);
   summarize(options, document, result, *channels.summary);
   return exitCode;
 }

@@ -34,21 +34,31 @@ void addGridOptions(CLI::App& app, InvertOptions& options) {
   addNumber(
       app, "--cell-size", "M", Range<double>{0.1, 1e6},
       "Side of the square cells, metres (default: a quarter of the smallest geophone spacing)",
-      [&](double value) { options.cellSize = value; })
+      [&](double value) {
+        options.cellSize = value;
+        options.ownGrid = true;
+      })
       ->group("Grid");
   addNumber(app, "--depth", "M", Range<double>{0.0, 1e6},
             "Depth of the grid below the surface, metres, at most the array length "
             "(default: half the array length)",
-            [&](double value) { options.depth = value; })
+            [&](double value) {
+              options.depth = value;
+              options.ownGrid = true;
+            })
       ->group("Grid");
   addNumber(app, "--nodes", "N", Range<int>{6, 1000},
             "Nodes per cell side, at least 6 (default: 6)",
-            [&](int value) { options.nodes = value; })
+            [&](int value) {
+              options.nodes = value;
+              options.ownGrid = true;
+            })
       ->group("Grid");
   app.add_option_function<std::vector<std::string>>(
          "--layer",
          [&](const std::vector<std::string>& texts) {
            for (const std::string& text : texts) options.layers.push_back(readLayer(text));
+           options.ownGrid = true;
          },
          "One layer of the starting model: depths of top and bottom in metres below the surface "
          "(0 to 999.99), velocities at top and bottom in m/s (1 to 999999). Once per "
@@ -59,7 +69,8 @@ void addGridOptions(CLI::App& app, InvertOptions& options) {
       ->group("Grid");
 }
 
-void addRunOptions(CLI::App& app, TomographyParameters& run) {
+void addRunOptions(CLI::App& app, InvertOptions& options) {
+  TomographyParameters& run = options.parameters;
   const auto count = [&](const char* name, int& target, const std::string& help) {
     addNumber(app, name, "N", Range<int>{1, kLargestInt}, help, [&target](int value) {
       target = value;
@@ -93,13 +104,16 @@ void addRunOptions(CLI::App& app, TomographyParameters& run) {
   app.add_flag("--symmetric", run.symmetric,
                "Smooth as far up and down as sideways, instead of 0.7 times as far")
       ->group("Inversion");
-  const auto velocity = [&](const char* name, double& target, const std::string& help) {
+  const auto velocity = [&](const char* name, std::optional<double>& target,
+                            const std::string& help) {
     addNumber(app, name, "M/S", Range<double>{1.0, 999999999.0}, help, [&target](double value) {
       target = value;
     })->group("Inversion");
   };
-  velocity("--min-velocity", run.minVelocity, "Least velocity of a cell, m/s (default: 250)");
-  velocity("--max-velocity", run.maxVelocity, "Greatest velocity of a cell, m/s (default: 3500)");
+  velocity("--min-velocity", options.minVelocity,
+           "Least velocity of a cell, m/s (default: that of the project, else 250)");
+  velocity("--max-velocity", options.maxVelocity,
+           "Greatest velocity of a cell, m/s (default: that of the project, else 3500)");
   app.add_flag("--single-thread", run.singleThread,
                "Trace rays on one processor; the results are the same")
       ->group("Inversion");
@@ -127,7 +141,12 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
   CLI::Option* json = addPath(app, "--json", options.json,
                               "Write the results as JSON; '-' is standard output, and then all "
                               "diagnostics go to standard error");
-  for (CLI::Option* option : {gridded, lineY, zOffset, image, rays, contours, otte, json}) {
+  CLI::Option* project = mustEndIn(
+      addPath(app, "-o,--project", options.project,
+              "Save the survey with its picks, traces and section as a project named *.tvsk"),
+      {".tvsk"}, false);
+  for (CLI::Option* option :
+       {gridded, lineY, zOffset, image, rays, contours, otte, json, project}) {
     option->group("Output");
   }
 }
@@ -137,17 +156,18 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
 void addInvert(CLI::App& app, InvertOptions& options) {
   CLI::App& command = *app.add_subcommand(
       "invert",
-      "Invert first breaks into a velocity section of the ground: the picks of a travel-time file, "
-      "or those that 'pick' finds on shot files");
+      "Invert first breaks into a velocity section of the ground: the picks of a travel-time file "
+      "or a project, or those that 'pick' finds on shot files");
   const auto inputs = std::make_shared<std::vector<std::string>>();
   command
       .add_option("INPUT", *inputs,
-                  "One travel-time file (.otte, .txt, .xyz, .csv), or shot files (.seg2, .sg2, "
-                  ".dat, .sgy, .segy, .su)")
+                  "One travel-time file (.otte, .txt, .xyz, .csv), one project (.tvsk), or shot "
+                  "files (.seg2, .sg2, .dat, .sgy, .segy, .su). A project brings its grid and "
+                  "velocities to start from, unless an option of the grid is given")
       ->required();
   const ShotOptionGroup shots = addShotOptions(command, options.shots);
   addGridOptions(command, options);
-  addRunOptions(command, options.parameters);
+  addRunOptions(command, options);
   addOutputOptions(command, options);
   command.add_flag("--quiet", options.quiet, "Print nothing but errors");
   command.add_flag("--verbose", options.verbose,

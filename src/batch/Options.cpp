@@ -11,11 +11,11 @@ constexpr const char* kShotSuffixes = ".seg2, .sg2, .dat, .sgy, .segy, .su";
 
 void addInfo(CLI::App& app, InfoOptions& info) {
   CLI::App& command =
-      *app.add_subcommand("info", "Tell what travel-time files and shot files hold");
+      *app.add_subcommand("info", "Tell what travel-time files, shot files and projects hold");
   command
       .add_option("FILE", info.files,
-                  std::string("Travel-time files (.otte, .txt, .xyz, .csv) and shot files (") +
-                      kShotSuffixes + "), read in this order")
+                  std::string("Travel-time files (.otte, .txt, .xyz, .csv), shot files (") +
+                      kShotSuffixes + ") and projects (.tvsk), read in this order")
       ->required();
   CLI::Option* json =
       addPath(command, "--json", info.json,

@@ -52,13 +52,17 @@ struct PickOptions {
 };
 
 struct InvertOptions {
-  std::string input;  ///< travel-time file; none: shot files
+  std::string input;  ///< travel-time file or project; none: shot files
   ShotOptions shots;
   std::optional<double> cellSize;     ///< metres; none: as proposed
   std::optional<double> depth;        ///< metres; none: half the array length
   int nodes = 6;                      ///< per cell side
   std::vector<VelocityLayer> layers;  ///< none: the grid's default model
-  TomographyParameters parameters;
+  bool ownGrid = false;               ///< one of the above was given
+  TomographyParameters parameters;    ///< but the velocities: those are the next two
+  std::optional<double> minVelocity;  ///< m/s; none: that of the survey
+  std::optional<double> maxVelocity;  ///< m/s; none: that of the survey
+  std::string project;                ///< to save the survey in
   std::string gridded;
   double lineY = 0.0;               ///< metres
   double zOffset = 0.0;             ///< metres

@@ -5,6 +5,7 @@
 #include "batch/Failure.h"
 #include "batch/Images.h"
 #include "batch/OutputFiles.h"
+#include "batch/ProjectFiles.h"
 #include "batch/RefractionJson.h"
 #include "batch/ShotPicking.h"
 #include "figures/RefractionFigure.h"
@@ -27,6 +28,7 @@ Status markLayers(const RefractOptions& options, const TomoDocument& document,
                   const std::vector<ShotArrivals>& shots, Interpretation& interpretation) {
   fitToSurvey(document, interpretation);
   if (options.layers.empty()) {
+    if (hasMarks(interpretation.ttLayer)) return {};  // those of the project
     interpretation.ttLayer = proposeLayers(shots, interpretation.ttLayer);
     return {};
   }
@@ -110,18 +112,19 @@ int run(const RefractOptions& options) {
   if (!places.ok()) return failed(places.message());
   if (!options.images.empty()) prepareDrawing();
 
-  TomoDocument document;
+  LoadedProject project;
+  TomoDocument& document = project.document;
   PickingManner manner;
   manner.quiet = options.quiet;
   manner.verbose = options.verbose;
   manner.summary = channels.summary;
-  Status status = readSurvey(options.input, options.shots, manner, document);
+  Status status = readSurvey(options.input, options.shots, manner, project);
   if (!status.ok()) return failed(status.message());
   if (!options.quiet && !document.picksComplete()) {
     warn("uncomplete set of picks; the interpretation is run anyway");
   }
 
-  Interpretation interpretation;
+  Interpretation& interpretation = project.interpretation;
   const std::vector<ShotArrivals> shots = shotArrivals(document);
   status = markLayers(options, document, shots, interpretation);
   if (!status.ok()) return failed(status.message());

@@ -20,7 +20,8 @@ void addRefract(CLI::App& app, RefractOptions& options) {
   CLI::Option* layers = addPath(
       command, "--layers", options.layers,
       "Which layer every trace belongs to: a line per shot, a number per trace separated by "
-      "';', 1 the direct wave, 2 and 3 the refractors, 0 none (default: as proposed from "
+      "';', 1 the direct wave, 2 and 3 the refractors, 0 none (default: those of the project, else "
+      "as proposed from "
       "the break points of the branches)");
   CLI::Option* xy = addNumber(command, "--xy", "M", Range<int>{-4, 4},
                               "Half the distance between the points at which forward and reverse "

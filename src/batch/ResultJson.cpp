@@ -2,6 +2,7 @@
 
 #include "batch/JsonText.h"
 #include "batch/ShotPicking.h"
+#include "model/SurveyGeometry.h"
 
 namespace talvesk {
 namespace {
@@ -153,6 +154,40 @@ std::string picksJson(const TomoDocument& document, const std::string& filter) {
   json["filter"] = filter;
   json["strings"] = stringsJson(document.goephonesStringSet);
   json["shots"] = std::move(shots);
+  return linePerKey(json) + "\n";
+}
+
+std::string projectJson(const LoadedProject& project) {
+  const TomoDocument& document = project.document;
+  Json shots = Json::array();
+  for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
+    const TravelTime& record = document.ttArray[i];
+    Json shot = recordJson(record);
+    const std::string path = shotFile(document, i);
+    const std::string file = path.substr(path.find_last_of('/') + 1);
+    shot["file"] = file.empty() ? Json(nullptr) : Json(file);
+    shot["traces"] = i < document.traceSets.size() ? document.traceSets[i].size() : 0;
+    shot["computed_times"] = record.ttCalcolati;
+    shots.push_back(std::move(shot));
+  }
+  Json json = Json::object();
+  json["format"] = "tvsk";
+  json["title"] = document.title;
+  json["wave_type"] = document.waveType == WaveType::S ? "S" : "P";
+  json["strings"] = stringsJson(document.goephonesStringSet);
+  json["shots"] = std::move(shots);
+  json["has_tomographic_info"] = document.hasTomographicInfo;
+  json["rms_percent"] =
+      document.RMSE_tomography < 0.0 ? Json(nullptr) : Json(document.RMSE_tomography);
+  json["crs"] = document.geoCoordIsSet ? Json(document.geoCoord.CRS) : Json(nullptr);
+  json["palette"] = project.palettes.current().name;
+  json["layered_shots"] = project.interpretation.ttLayer.size();
+  json["grid"] = nullptr;
+  if (document.grid != nullptr) {
+    json["grid"] = gridJson(document);
+    json["velocities"] = document.grid->velocities();
+    json["info_density"] = document.info_density;
+  }
   return linePerKey(json) + "\n";
 }
 

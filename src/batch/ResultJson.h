@@ -2,6 +2,7 @@
 
 #include "io/ShotRecord.h"
 #include "io/TravelTimeFile.h"
+#include "io/projectReader.h"
 #include "model/TomoDocument.h"
 #include "tomo/TomographyRun.h"
 
@@ -32,6 +33,10 @@ std::string unreadableJson(const std::string& file, const Status& status);
 /// Positions and picks of a survey of shot files: the keys of travelTimesJson, and what became of
 /// the traces of each shot. \param filter what was picked on
 std::string picksJson(const TomoDocument& document, const std::string& filter);
+
+/// What a project holds: positions in metres, times in seconds, velocities in m/s; keys that it has
+/// nothing for are null.
+std::string projectJson(const LoadedProject& project);
 
 /// Texts of JSON values as one array.
 std::string jsonArray(const std::vector<std::string>& values);

@@ -119,10 +119,12 @@ void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, s
     return;
   }
   if (shots > 0) {
-    throw CLI::ValidationError("INPUT", "shot files and travel-time files do not go together");
+    throw CLI::ValidationError("INPUT",
+                               "shot files do not go together with travel-time files or projects");
   }
   if (inputs.size() > 1) {
-    throw CLI::ValidationError("INPUT", "only one travel-time file can be read at a time");
+    throw CLI::ValidationError("INPUT",
+                               "only one travel-time file or project can be read at a time");
   }
   if (shotOptionsGiven) {
     throw CLI::ValidationError("INPUT", "'" + inputs.front() +

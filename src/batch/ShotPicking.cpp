@@ -3,6 +3,7 @@
 #include "base/Console.h"
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
+#include "batch/ProjectFiles.h"
 #include "io/GeometryFile.h"
 #include "io/ShotLoader.h"
 #include "processing/FirstBreak.h"
@@ -188,17 +189,18 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
   return status;
 }
 
-Status readSurvey(const std::string& travelTimes, const ShotOptions& shots,
-                  const PickingManner& manner, TomoDocument& document) {
-  if (travelTimes.empty()) return pickShotFiles(shots, manner, document);
+Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
+                  LoadedProject& project) {
+  if (file.empty()) return pickShotFiles(shots, manner, project.document);
+  if (isProjectFile(file)) return readProject(file, manner.quiet, project);
   TravelTimeData data;
-  const Status status = readPicks(travelTimes, data, manner.quiet);
+  const Status status = readPicks(file, data, manner.quiet);
   if (!status.ok()) return status;
-  return importTravelTimes(std::move(data), document);
+  return importTravelTimes(std::move(data), project.document);
 }
 
-std::vector<std::string> surveyFiles(const std::string& travelTimes, const ShotOptions& shots) {
-  if (!travelTimes.empty()) return {travelTimes};
+std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions& shots) {
+  if (!file.empty()) return {file};
   return filesOf(shots);
 }
 

@@ -11,6 +11,8 @@
 
 namespace talvesk {
 
+struct LoadedProject;
+
 /// How talvesk-batch goes about it, apart from the options of the shot files.
 struct PickingManner {
   unsigned threads = 0;             ///< 0: as many as the machine has processors
@@ -26,12 +28,13 @@ struct PickingManner {
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
                      TomoDocument& document);
 
-/// A survey with picks: those of the travel-time file, or without one those of pickShotFiles().
-Status readSurvey(const std::string& travelTimes, const ShotOptions& shots,
-                  const PickingManner& manner, TomoDocument& document);
+/// A survey with picks: that of the project or travel-time file, or without one that of
+/// pickShotFiles(). What only a project holds is left as it was by the others.
+Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
+                  LoadedProject& project);
 
 /// The files that readSurvey() takes.
-std::vector<std::string> surveyFiles(const std::string& travelTimes, const ShotOptions& shots);
+std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions& shots);
 
 /// The shot files, then the geometry files.
 std::vector<std::string> filesOf(const ShotOptions& options);

@@ -1,0 +1,93 @@
+#include "batch/ProjectFiles.h"
+
+#include "base/TextNumber.h"
+#include "base/WorkingFolder.h"
+#include "batch/Failure.h"
+#include "batch/ShotPicking.h"
+#include "io/ProjectWriter.h"
+
+#include <ostream>
+
+namespace talvesk {
+namespace {
+
+Status workingFolder(std::string& path) {
+  const WorkingFolder folder = WorkingFolder::ofUser();
+  path = folder.path;
+  if (folder.create()) return {};
+  return Status::failure("Cannot create the folder " + path + ", where projects are put together");
+}
+
+std::string countOf(std::size_t count, const std::string& what) {
+  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+}  // namespace
+
+bool isProjectFile(const std::string& path) {
+  constexpr std::string_view kSuffix = ".tvsk";
+  return path.size() > kSuffix.size() &&
+         path.compare(path.size() - kSuffix.size(), kSuffix.size(), kSuffix) == 0;
+}
+
+Status readProject(const std::string& path, bool quiet, LoadedProject& project) {
+  std::string folder;
+  if (Status status = workingFolder(folder); !status.ok()) return status;
+  projectReader reader;
+  if (reader.load(path, folder, project) != 0) {
+    return Status::failure(path + " is not a valid project: " + reader.message());
+  }
+  if (quiet) return {};
+  for (const std::string& warning : reader.warnings()) {
+    warn(path + ": error while loading traces: " + warning);
+  }
+  return {};
+}
+
+Status writeProject(const std::string& path, bool quiet, const LoadedProject& project) {
+  std::string folder;
+  if (Status status = workingFolder(folder); !status.ok()) return status;
+  ProjectWriter writer;
+  if (writer.save(path, folder, project.document, project.interpretation, project.palettes,
+                  project.section) != 0) {
+    return Status::failure("The project " + path + " has not been saved: " + writer.message());
+  }
+  if (quiet) return {};
+  for (const std::string& warning : writer.warnings()) warn(warning);
+  return {};
+}
+
+void describe(const std::string& path, const LoadedProject& project, std::ostream& out) {
+  const TomoDocument& document = project.document;
+  std::size_t geophones = 0;
+  std::size_t traces = 0;
+  std::size_t times = 0;
+  std::size_t picks = 0;
+  for (const auto& string : document.goephonesStringSet) geophones += string.size();
+  for (const TraceSet& set : document.traceSets) traces += set.size();
+  for (const TravelTime& record : document.ttArray) {
+    times += record.ttMisurati.size();
+    picks += pickCount(record);
+  }
+  out << path << "\n  format      project\n  title       " << document.title << "\n  strings     "
+      << document.goephonesStringSet.size() << "\n  geophones   " << geophones << "\n  shots       "
+      << document.ttArray.size() << "\n  traces      " << traces << " of "
+      << countOf(document.traceSets.size(), "file") << "\n  picks       " << picks << " of "
+      << times << " times\n  grid        ";
+  if (const Grid* grid = document.grid.get()) {
+    out << countOf(grid->righe(), "row") << ", " << countOf(grid->col(), "column") << " of "
+        << formatDouble(grid->aLato()) << " m\n";
+  } else {
+    out << "none\n";
+  }
+  out << "  inversion   ";
+  if (!document.hasTomographicInfo) {
+    out << "none\n";
+  } else if (document.RMSE_tomography < 0.0) {
+    out << "done\n";
+  } else {
+    out << "RMS misfit " << formatDouble(document.RMSE_tomography) << " %\n";
+  }
+}
+
+}  // namespace talvesk

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "base/Status.h"
+#include "io/projectReader.h"
+
+#include <iosfwd>
+#include <string>
+
+namespace talvesk {
+
+/// Whether a name ends in ".tvsk".
+bool isProjectFile(const std::string& path);
+
+/// Loads a project. Shot files that are missing in it are warned of unless `quiet`.
+Status readProject(const std::string& path, bool quiet, LoadedProject& project);
+
+/// Saves a project. What the user should know about its shot files is warned of unless `quiet`.
+Status writeProject(const std::string& path, bool quiet, const LoadedProject& project);
+
+/// A few lines on what a project holds.
+void describe(const std::string& path, const LoadedProject& project, std::ostream& out);
+
+}  // namespace talvesk
