@@ -12,7 +12,7 @@
 
 #include <benchmark/benchmark.h>
 
-// Frames need a display: xvfb-run -a bench_section.
+// Frames need a display, which scripts/bench provides.
 
 namespace talvesk {
 namespace {
