@@ -1,6 +1,7 @@
 #include "widgets/SectionActors.h"
 
 #include "view/SectionScene.h"
+#include "view/SimplifiedLine.h"
 #include "widgets/SectionCamera.h"
 
 #include <algorithm>
@@ -87,40 +88,6 @@ class Builder {
 
 constexpr double kRayAccuracy = 0.05;            ///< cells; far below what can be seen
 constexpr std::size_t kMovingRayPoints = 40000;  ///< that a processor draws without a stutter
-
-/// A line without the points that lie within `tolerance` of it, by Douglas and Peucker (1973).
-std::vector<Point2D> simplified(const std::vector<Point2D>& line, double tolerance) {
-  if (line.size() < 3) return line;
-  std::vector<bool> kept(line.size(), false);
-  kept.front() = kept.back() = true;
-  std::vector<std::pair<std::size_t, std::size_t>> open{{0, line.size() - 1}};
-  while (!open.empty()) {
-    const auto [from, to] = open.back();
-    open.pop_back();
-    const Point2D along{line[to].x - line[from].x, line[to].z - line[from].z};
-    const double length = std::hypot(along.x, along.z);
-    double furthest = tolerance;
-    std::size_t at = from;
-    for (std::size_t i = from + 1; i < to; ++i) {
-      const Point2D off{line[i].x - line[from].x, line[i].z - line[from].z};
-      const double away = length > 0.0 ? std::abs(off.x * along.z - off.z * along.x) / length
-                                       : std::hypot(off.x, off.z);
-      if (away > furthest) {
-        furthest = away;
-        at = i;
-      }
-    }
-    if (at == from) continue;
-    kept[at] = true;
-    open.emplace_back(from, at);
-    open.emplace_back(at, to);
-  }
-  std::vector<Point2D> out;
-  for (std::size_t i = 0; i < line.size(); ++i) {
-    if (kept[i]) out.push_back(line[i]);
-  }
-  return out;
-}
 
 /// What the geometry of the fill was made from.
 struct FillSource {
@@ -309,7 +276,7 @@ bool SectionActors::Parts::setRays(const SectionScene& scene) {
   Lines lines;
   std::size_t points = 0;
   for (const auto& ray : rayLines) {
-    lines.push_back(simplified(ray, kRayAccuracy * cell));
+    lines.push_back(simplifiedLine(ray, kRayAccuracy * cell));
     points += lines.back().size();
   }
   const std::size_t step = 1 + points / kMovingRayPoints;

@@ -4,6 +4,7 @@
 #include "view/SectionProbe.h"
 #include "view/SectionScene.h"
 #include "view/SectionViewSettings.h"
+#include "view/SimplifiedLine.h"
 
 #include <cmath>
 #include <limits>
@@ -277,6 +278,20 @@ TEST(RefractorLines, lieBelowTheSurfaceWhereADepthIsKnown) {
   const auto lines = refractorLines(records);
   ASSERT_EQ(lines.size(), 1U);
   EXPECT_THAT(lines[0].points, ElementsAre(Point2D{0.0, 97.0}, Point2D{4.0, 97.0}));
+}
+
+TEST(SimplifiedLine, leavesOutOnlyWhatLiesWithinTheTolerance) {
+  const struct {
+    std::vector<Point2D> line;
+    std::vector<Point2D> kept;
+  } facts[] = {
+      {{}, {}},
+      {{{0, 0}, {1, 0}}, {{0, 0}, {1, 0}}},
+      {{{0, 0}, {1, 0.04}, {2, 0}, {3, -0.04}, {4, 0}}, {{0, 0}, {4, 0}}},
+      {{{0, 0}, {1, 0}, {2, 1}, {3, 2}}, {{0, 0}, {1, 0}, {3, 2}}},
+      {{{0, 0}, {5, 0}, {0, 0}}, {{0, 0}, {5, 0}, {0, 0}}},  // there and back
+  };
+  for (const auto& fact : facts) EXPECT_EQ(simplifiedLine(fact.line, 0.05), fact.kept);
 }
 
 }  // namespace
