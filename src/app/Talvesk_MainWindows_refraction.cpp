@@ -1,5 +1,10 @@
+#include "app/Messages.h"
+#include "app/RefractionProcessingDialog.h"
 #include "app/Talvesk_MainWindows.h"
+#include "refraction/Profile.h"
 #include "ui_Talvesk_MainWindows.h"
+
+#include <algorithm>
 
 // The commands of the layered interpretation.
 
@@ -7,16 +12,35 @@ namespace talvesk {
 
 void Talvesk_MainWindows::on_actionRefraction_triggered() {
   logSlot(__func__);
+  if (mDocument.ttArray.empty()) return;
+  if (!mDocument.picksComplete() &&
+      !askYesNo(this, tr("Warning"),
+                tr("Uncomplete set of picks. \n \n"
+                   "Do you want to run refraction processing anyway? "),
+                {}, false)) {
+    return;
+  }
+  RefractionProcessingDialog dialog(mDocument, mInterpretation, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  mInterpretation = dialog.interpretation();
+  // A profile that was just built is worth seeing.
+  if (!profileBoundaries(mInterpretation.refractData).empty()) mSection.refraction = true;
+  documentModified();
+  refreshSection();
 }
 
 void Talvesk_MainWindows::on_actionShow_refraction_triggered() {
   logSlot(__func__);
+  mSection.refraction = mUi->actionShow_refraction->isChecked();
+  refreshSection();
 }
 
 void Talvesk_MainWindows::refreshRefractionCommands() {
-  for (QAction* action : {mUi->actionRefraction, mUi->actionShow_refraction}) {
-    action->setEnabled(false);
-  }
+  mUi->actionRefraction->setEnabled(!mDocument.ttArray.empty());
+  const bool profile = !profileBoundaries(mInterpretation.refractData).empty();
+  mUi->actionShow_refraction->setEnabled(profile && mDocument.grid != nullptr);
+  mUi->actionShow_refraction->setCheckable(true);
+  mUi->actionShow_refraction->setChecked(mSection.refraction);
 }
 
 }  // namespace talvesk

@@ -9,6 +9,7 @@
 #include <QPolygonF>
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include <qwt_plot_item.h>
 #include <qwt_scale_map.h>
@@ -71,12 +72,21 @@ QColor groundColor(std::uint32_t layer) {
   return {lighter(color.red()), lighter(color.green()), lighter(color.blue())};
 }
 
-/// The lines that a layer begins at.
+/// The lines that a layer begins at. What is above a refractor whose depth is not known is not
+/// known to be the first layer.
 std::vector<std::vector<Point2D>> topOf(const RefractionScene& scene, std::uint32_t layer) {
+  std::vector<std::vector<Point2D>> tops;
   for (const ProfileBoundary& boundary : scene.boundaries) {
-    if (boundary.refractor == layer) return boundary.lines;
+    if (boundary.refractor != std::max(layer, 2U)) continue;
+    if (layer > 1) return boundary.lines;
+    for (const auto& line : boundary.lines) {
+      tops.emplace_back();
+      std::copy_if(
+          scene.surface.begin(), scene.surface.end(), std::back_inserter(tops.back()),
+          [&line](const Point2D& p) { return p.x >= line.front().x && p.x <= line.back().x; });
+    }
   }
-  return {};
+  return tops;
 }
 
 }  // namespace
@@ -140,8 +150,7 @@ QwtPlotItem* layer(const RefractionScene& scene, std::uint32_t layer, const QStr
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(groundColor(layer));
-    const auto tops =
-        layer == 1 ? std::vector<std::vector<Point2D>>{scene.surface} : topOf(scene, layer);
+    const auto tops = topOf(scene, layer);
     for (const auto& line : tops) fillBelow(painter, line, xMap, yMap, canvas);
     if (layer == 1) return;
     painter.setBrush(Qt::NoBrush);

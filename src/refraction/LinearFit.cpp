@@ -9,7 +9,7 @@
 
 namespace talvesk {
 
-LinearFit linearFit(const std::vector<double>& x, const std::vector<double>& y) {
+LinearFit leastSquares(const std::vector<double>& x, const std::vector<double>& y) {
   const std::size_t n = std::min(x.size(), y.size());
   double sx = 0.0;
   double sy = 0.0;
@@ -31,7 +31,11 @@ LinearFit linearFit(const std::vector<double>& x, const std::vector<double>& y) 
   }
   const double count = static_cast<double>(n);
   const double d = count * sxx - sx * sx;
-  const LinearFit fit{(count * sxy - sx * sy) / d, (sy * sxx - sx * sxy) / d};
+  return {(count * sxy - sx * sy) / d, (sy * sxx - sx * sxy) / d};
+}
+
+LinearFit linearFit(const std::vector<double>& x, const std::vector<double>& y) {
+  const LinearFit fit = leastSquares(x, y);
   console::out() << "\nThe linear fit line is of the form:\n"
                  << formatDouble(fit.slope) << "x + " << formatDouble(fit.intercept) << std::endl;
   return fit;

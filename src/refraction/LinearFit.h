@@ -12,8 +12,11 @@ struct LinearFit {
   double at(double x) const { return slope * x + intercept; }
 };
 
-/// Least squares over the shorter of both sequences, told on the console. Points that do not
+/// Least squares over the shorter of both sequences. Points that do not
 /// determine a line (none, one, or all at one x) give what the division by zero gives.
+LinearFit leastSquares(const std::vector<double>& x, const std::vector<double>& y);
+
+/// The same, told on the console.
 LinearFit linearFit(const std::vector<double>& x, const std::vector<double>& y);
 
 }  // namespace talvesk

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "model/RefractionDataStructure.h"
+#include "refraction/BuildProfiles.h"
+#include "refraction/MarkEdits.h"
+#include "refraction/ShotArrivals.h"
+
+#include <QDialog>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+class QUndoStack;
+
+namespace talvesk {
+
+namespace Ui {
+class RefractionProcessingDialog;
+}
+class TomoDocument;
+
+/// Turns picks into layers: marks on the travel-time curves, phantom arrivals, tV and tG,
+/// velocities and the section of layers. It works on a copy of the interpretation, which the caller
+/// takes when the dialog was accepted.
+class RefractionProcessingDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// \param document outlives the dialog
+  RefractionProcessingDialog(const TomoDocument& document,
+                             const refractionDataStructure::Interpretation& interpretation,
+                             QWidget* parent = nullptr);
+  ~RefractionProcessingDialog() override;
+
+  const refractionDataStructure::Interpretation& interpretation() const { return mWork; }
+  QUndoStack* undoStack() const { return mUndo; }
+
+ private slots:
+  void on_proposeButton_clicked();
+  void on_clearButton_clicked();
+  void on_enabledCheck_clicked(bool checked);
+  void on_pushAutoPhantButton_clicked();
+  void on_buildButton_clicked();
+  void on_refractorCombo_activated(int index);
+  void on_xyCombo_activated(int index);
+
+ private:
+  using Marks = std::vector<refractionDataStructure::layerStruct>;
+
+  // Set-up
+  void nameThings();
+  void fillChoosers();
+  void connectCurves();
+
+  // Marks
+  void chooseShot(int shot);
+  void mark(const std::vector<TraceRef>& picks, int layer);
+  void changeMarks(const QString& text, const Marks& after);
+  void marksChanged();
+  void showReading(const BranchReading* reading);
+  void refreshShot();
+
+  // Results
+  bool build(std::vector<RefractionWarning> known);
+  void tell(const std::vector<RefractionWarning>& warnings,
+            const std::vector<RefractionWarning>& known);
+  void showPhantoms();
+  void showShifts();
+  void showFunctions();
+  void showProfile();
+  void showResults();
+
+  std::unique_ptr<Ui::RefractionProcessingDialog> mUi;
+  const TomoDocument& mDocument;
+  refractionDataStructure::Interpretation mWork;
+  std::vector<ShotArrivals> mShots;
+  std::vector<RefractionWarning> mWarnings;  ///< of the last build
+  QUndoStack* mUndo;
+  bool mStale = false;  ///< marks are not those that the results were built from
+};
+
+}  // namespace talvesk

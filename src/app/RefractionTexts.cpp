@@ -1,0 +1,71 @@
+#include "app/RefractionTexts.h"
+
+#include <QCoreApplication>
+
+namespace talvesk {
+namespace {
+
+/// Its context in the translations.
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(talvesk::RefractionTexts)
+};
+
+}  // namespace
+
+QString refractionText(const RefractionWarning& warning) {
+  using Kind = RefractionWarning::Kind;
+  switch (warning.kind) {
+    case Kind::kNoShotPair:
+      return Texts::tr("Unable to find nearest shot for first refractor");
+    case Kind::kVelocityNegative:
+      return Texts::tr(
+          "Velocity is less then zero at least one receiver. The profile may not be accurate. "
+          "Please check input data ");
+    case Kind::kStrongVariation:
+      return Texts::tr("Strong lateral velocity variations. The profile may not be accurate.");
+    case Kind::kTgNegative:
+      return Texts::tr(
+          "The Tg function is less then zero at least one receiver. The profile may not be "
+          "accurate. Please check input data ");
+    case Kind::kNoShotPairBelow:
+      return Texts::tr(
+                 "Layer %1: no shot at each end of the line has picks of it, so it has no profile.")
+          .arg(warning.layer);
+    case Kind::kFewForward:
+      return Texts::tr(
+                 "Layer %1: the shot at the start of the line has fewer than two usable picks of "
+                 "it, so there is no forward curve.")
+          .arg(warning.layer);
+    case Kind::kFewReverse:
+      return Texts::tr(
+                 "Layer %1: the shot at the end of the line has fewer than two usable picks of it, "
+                 "so there is no reverse curve.")
+          .arg(warning.layer);
+    case Kind::kFewCommon:
+      return Texts::tr(
+                 "Layer %1: forward and reverse curve have fewer than two receivers in common.")
+          .arg(warning.layer);
+    case Kind::kNoFirstLayer:
+      return Texts::tr(
+                 "Layer %1: no shot has two picks of it on one side, so it has no velocity and the "
+                 "layers below have no depth.")
+          .arg(warning.layer);
+    case Kind::kSlowRefractor:
+      return Texts::tr(
+                 "Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer "
+                 "above.")
+          .arg(warning.layer)
+          .arg(warning.count)
+          .arg(warning.total);
+    case Kind::kOutsideUpper:
+      return Texts::tr(
+                 "Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the "
+                 "layer above.")
+          .arg(warning.layer)
+          .arg(warning.count)
+          .arg(warning.total);
+  }
+  return {};
+}
+
+}  // namespace talvesk

@@ -1,0 +1,293 @@
+#include "app/RefractionProcessingDialog.h"
+#include "gui/WindowTest.h"
+#include "support/RefractionLines.h"
+#include "widgets/LayerCurvesPlot.h"
+#include "widgets/RefractionProfilePlot.h"
+#include "widgets/SeriesPlot.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTest>
+#include <QUndoStack>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+using refractionDataStructure::Interpretation;
+using refractionDataStructure::layerStruct;
+using testing::DippingLayers;
+using ::testing::HasSubstr;
+using testing::ModalScript;
+using testing::WindowTest;
+
+/// The dialog on a line whose true layers are known, and the hands of a user.
+class Refraction : public WindowTest {
+ protected:
+  void show(const DippingLayers& ground, bool marked) {
+    std::vector<layerStruct> truth;
+    line = testing::standardDippingLine(ground, truth);
+    Interpretation interpretation;
+    if (marked) interpretation.ttLayer = truth;
+    show(interpretation);
+  }
+  void show(const Interpretation& interpretation) {
+    dialog = std::make_unique<RefractionProcessingDialog>(line, interpretation);
+    dialog->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
+    QTest::qWait(50);
+    curves().setFocus();
+  }
+  template <typename Widget>
+  Widget& part(const char* name) {
+    return *dialog->findChild<Widget*>(QLatin1String(name));
+  }
+  LayerCurvesPlot& curves() { return part<LayerCurvesPlot>("curvesPlot"); }
+  void press(const char* button) { part<QPushButton>(button).click(); }
+  std::uint32_t layer(std::size_t shot, std::size_t trace) {
+    return dialog->interpretation().ttLayer[shot].layer[trace];
+  }
+  QPointF at(std::uint32_t shot, std::uint32_t trace) {
+    return curves().pointOf({shot, trace}).value();
+  }
+  void mouse(QEvent::Type type, const QPointF& point, Qt::MouseButtons held) {
+    QWidget* canvas = curves().canvas();
+    const bool moving = type == QEvent::MouseMove;
+    QMouseEvent event(type, point, canvas->mapToGlobal(point.toPoint()),
+                      moving ? Qt::NoButton : Qt::LeftButton, held, Qt::NoModifier);
+    QApplication::sendEvent(canvas, &event);
+  }
+  void click(const QPointF& point) {
+    mouse(QEvent::MouseButtonPress, point, Qt::LeftButton);
+    mouse(QEvent::MouseButtonRelease, point, Qt::NoButton);
+  }
+  void key(Qt::Key code, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+    QTest::keyClick(&curves(), code, keys);
+  }
+  QString reading() { return part<QLabel>("velocityLabel").text(); }
+
+  TomoDocument line;
+  std::unique_ptr<RefractionProcessingDialog> dialog;
+};
+
+TEST_F(Refraction, marksByClickAndRubberBandWithALiveVelocity) {
+  show(testing::twoDippingLayers(), false);
+  part<QComboBox>("shotCombo").setCurrentIndex(1 + 5);
+  click(at(5, 20));
+  EXPECT_EQ(layer(5, 20), 1U);
+
+  part<QComboBox>("selectLayerCombo").setCurrentIndex(2);
+  const QPointF corner = at(5, 30) - QPointF(5, -5);
+  const QPointF other = at(5, 34) + QPointF(5, -5);
+  mouse(QEvent::MouseButtonPress, corner, Qt::LeftButton);
+  mouse(QEvent::MouseMove, 0.5 * (corner + other), Qt::LeftButton);
+  EXPECT_THAT(reading().toStdString(), HasSubstr("Layer 2, right of shot 6: "));
+  EXPECT_EQ(layer(5, 30), 0U) << "not before the button is let go";
+  mouse(QEvent::MouseButtonRelease, other, Qt::NoButton);
+  for (std::size_t trace = 30; trace <= 34; ++trace) EXPECT_EQ(layer(5, trace), 2U) << trace;
+  EXPECT_THAT(reading().toStdString(), HasSubstr("(5 picks)"));
+  EXPECT_EQ(layer(4, 31), 0U) << "of another shot";
+
+  dialog->undoStack()->undo();
+  EXPECT_EQ(layer(5, 30), 0U);
+  EXPECT_EQ(layer(5, 20), 1U);
+  dialog->undoStack()->redo();
+  EXPECT_EQ(layer(5, 34), 2U);
+
+  part<QCheckBox>("editableCheck").setChecked(false);
+  click(at(5, 40));
+  EXPECT_EQ(layer(5, 40), 0U);
+}
+
+TEST_F(Refraction, marksByKeys) {
+  show(testing::twoDippingLayers(), false);
+  key(Qt::Key_PageDown);
+  key(Qt::Key_PageDown);
+  EXPECT_EQ(part<QComboBox>("shotCombo").currentIndex(), 1 + 1);
+  key(Qt::Key_Right);
+  key(Qt::Key_Right, Qt::ShiftModifier);
+  key(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(curves().selection().size(), 3U);
+  key(Qt::Key_3);
+  EXPECT_EQ(part<QComboBox>("selectLayerCombo").currentIndex(), 3);
+  for (std::size_t trace = 0; trace < 3; ++trace) EXPECT_EQ(layer(1, trace), 3U);
+  EXPECT_EQ(layer(1, 3), 0U);
+  key(Qt::Key_0);
+  EXPECT_EQ(layer(1, 0), 0U);
+  key(Qt::Key_Escape);
+  EXPECT_TRUE(curves().selection().empty());
+  EXPECT_TRUE(dialog->isVisible()) << "the first Escape gives up the selection";
+  key(Qt::Key_2);
+  EXPECT_EQ(layer(1, 0), 0U) << "nothing is selected";
+}
+
+TEST_F(Refraction, buildsAProfileFromAProposalAndShowsItAll) {
+  show(testing::threeDippingLayers(), false);
+  press("proposeButton");
+  press("pushAutoPhantButton");
+  EXPECT_GT(part<QTableWidget>("shiftTable").rowCount(), 20);
+  EXPECT_EQ(part<SeriesPlot>("phantomPlot").series().size(), 10U);
+  press("buildButton");
+  EXPECT_EQ(part<QTabWidget>("tabs").tabText(part<QTabWidget>("tabs").currentIndex()),
+            QStringLiteral("Velocity/Profile"));
+  EXPECT_EQ(part<SeriesPlot>("velocityPlot").series().size(), 3U);
+  EXPECT_EQ(part<RefractionProfilePlot>("profilePlot").scene().boundaries.size(), 2U);
+
+  auto& family = part<SeriesPlot>("tgPlot");
+  ASSERT_EQ(family.series().size(), 9U);
+  EXPECT_EQ(family.series().back().name, QStringLiteral("XY = 0 m"));
+  auto& chooser = part<QComboBox>("xyCombo");
+  chooser.setCurrentIndex(6);
+  emit chooser.activated(6);
+  EXPECT_EQ(family.series().back().name, QStringLiteral("XY = 2 m"));
+  EXPECT_EQ(dialog->interpretation().refractData.cData[0].chosenXY, 2.0);
+}
+
+TEST_F(Refraction, asksBeforeAProposalReplacesMarks) {
+  show(testing::twoDippingLayers(), true);
+  const auto before = layer(5, 30);
+  part<QComboBox>("shotCombo").setCurrentIndex(1 + 5);
+  key(Qt::Key_Right);
+  key(Qt::Key_3);
+  dialogs.expectBox("Propose layers", "Replace the marks by a proposal?", "", QMessageBox::No);
+  press("proposeButton");
+  EXPECT_EQ(layer(5, 0), 3U);
+  dialogs.expectBox("Propose layers", "Replace the marks by a proposal?", "", QMessageBox::Yes);
+  press("proposeButton");
+  EXPECT_NE(layer(5, 0), 3U);
+  EXPECT_EQ(layer(5, 30), before);
+  EXPECT_TRUE(dialogs.finished());
+}
+
+TEST_F(Refraction, warnsOfAMissingShotPair) {
+  show(testing::twoDippingLayers(), false);
+  dialogs.expectBox("Warning", "Unable to find nearest shot for first refractor", "",
+                    QMessageBox::Ok);
+  press("buildButton");
+  EXPECT_TRUE(dialogs.finished());
+  EXPECT_TRUE(dialog->interpretation().refractData.cData.empty());
+  EXPECT_EQ(part<QTabWidget>("tabs").currentIndex(), 0);
+}
+
+/// Arrivals at both ends of a line that make tV and tG what a test wants, by x in metres.
+struct Functions {
+  double (*tV)(double);
+  double (*tG)(double);
+};
+
+/// Marks all but the direct wave of the two end shots as the first refractor, with those arrivals.
+void arrive(TomoDocument& line, std::vector<layerStruct>& marks, const Functions& wanted) {
+  for (std::size_t shot = 0; shot < marks.size(); ++shot) {
+    marks[shot].enabled = shot == testing::kStartShot || shot == testing::kEndShot;
+  }
+  for (std::size_t i = 0; i < 60; ++i) {
+    const double x = 2.5 * static_cast<double>(i);
+    const double total = 0.1;
+    const double tV = wanted.tV(x);
+    const double tG = wanted.tG(x);
+    line.ttArray[testing::kStartShot].ttMisurati[i] = tG + tV;
+    line.ttArray[testing::kEndShot].ttMisurati[i] = total + tG - tV;
+    marks[testing::kStartShot].layer[i] = 2;
+    marks[testing::kEndShot].layer[i] = 2;
+  }
+}
+
+TEST_F(Refraction, warnsOfWhatMakesAProfileInaccurate) {
+  struct Case {
+    const char* what;
+    Functions functions;
+    const char* message;
+  };
+  const auto steady = [](double x) { return 5e-4 * x; };
+  const auto deep = [](double) { return 0.02; };
+  const Case cases[] = {
+      {"a refractor that runs backward",
+       {[](double x) { return x < 100 ? 1e-3 * x : 0.1 - 2e-3 * (x - 100); }, deep},
+       "Velocity is less then zero at least one receiver. The profile may not be accurate. "
+       "Please check input data "},
+      {"a refractor that is six times as fast behind 75 m",
+       {[](double x) { return x < 75 ? 9e-4 * x : 0.0675 + 1e-4 * (x - 75); }, deep},
+       "Strong lateral velocity variations. The profile may not be accurate."},
+      {"a refractor above the ground",
+       {steady, [](double x) { return x == 50.0 ? -0.02 : 0.02; }},
+       "The Tg function is less then zero at least one receiver. The profile may not be "
+       "accurate. Please check input data "}};
+  for (const Case& c : cases) {
+    std::vector<layerStruct> truth;
+    line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+    arrive(line, truth, c.functions);
+    Interpretation interpretation;
+    interpretation.ttLayer = truth;
+    show(interpretation);
+    dialogs.expectBox("Warning", c.message, "", QMessageBox::Ok);
+    press("buildButton");
+    EXPECT_TRUE(dialogs.finished()) << c.what;
+    EXPECT_FALSE(dialog->interpretation().refractData.cData.empty()) << c.what;
+    EXPECT_THAT(part<QLabel>("notesLabel").text().toStdString(),
+                HasSubstr(QString::fromLatin1(c.message).trimmed().toStdString()));
+    dialog.reset();
+  }
+}
+
+/// The window on the line, with the keys of the command.
+class RefractionCommand : public WindowTest {
+ protected:
+  RefractionCommand() {
+    open();
+    window->document() = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+    testing::putGrid(window->document(), 30.0, 2.0);
+    window->document().modified = false;
+    window->showFile(0);
+  }
+  ~RefractionCommand() override { window->document().modified = false; }
+  void answer(QDialogButtonBox::StandardButton button) {
+    dialogs.expect([button](QWidget& dialog) {
+      dialog.findChild<QPushButton*>(QStringLiteral("proposeButton"))->click();
+      dialog.findChild<QPushButton*>(QStringLiteral("buildButton"))->click();
+      dialog.findChild<QDialogButtonBox*>()->button(button)->click();
+    });
+    action("actionRefraction").trigger();
+  }
+  std::vector<layerStruct> truth;
+};
+
+TEST_F(RefractionCommand, changesNothingOnCancelAndLaysTheProfileOverTheSectionOnOk) {
+  EXPECT_FALSE(action("actionShow_refraction").isEnabled());
+  answer(QDialogButtonBox::Cancel);
+  EXPECT_FALSE(window->document().modified);
+  EXPECT_FALSE(action("actionShow_refraction").isEnabled());
+  answer(QDialogButtonBox::Ok);
+  EXPECT_TRUE(window->document().modified);
+  ASSERT_TRUE(action("actionShow_refraction").isEnabled());
+  EXPECT_TRUE(action("actionShow_refraction").isChecked());
+  action("actionShow_refraction").trigger();
+  EXPECT_FALSE(action("actionShow_refraction").isChecked());
+}
+
+TEST_F(RefractionCommand, asksAboutIncompletePicks) {
+  for (TravelTime& record : window->document().ttArray) {
+    for (std::size_t i = 0; i < 40; ++i) record.ttMisurati[i] = kUnpicked;
+  }
+  dialogs.expectBox("Warning",
+                    "Uncomplete set of picks. \n \n"
+                    "Do you want to run refraction processing anyway? ",
+                    "", QMessageBox::No);
+  action("actionRefraction").trigger();
+  EXPECT_TRUE(dialogs.finished());
+  dialogs.expectBox("Warning",
+                    "Uncomplete set of picks. \n \n"
+                    "Do you want to run refraction processing anyway? ",
+                    "", QMessageBox::Yes);
+  dialogs.expectAndCancel();
+  action("actionRefraction").trigger();
+  EXPECT_TRUE(dialogs.finished());
+}
+
+}  // namespace
+}  // namespace talvesk
