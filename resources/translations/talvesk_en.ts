@@ -123,6 +123,23 @@
     </message>
 </context>
 <context>
+    <name>talvesk::RefractionProcessingDialog</name>
+    <message numerus="yes">
+        <source>take %n pick(s) out</source>
+        <translation>
+            <numerusform>take %n pick out</numerusform>
+            <numerusform>take %n picks out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>mark %n pick(s)</source>
+        <translation>
+            <numerusform>mark %n pick</numerusform>
+            <numerusform>mark %n picks</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::SectionSheet</name>
     <message numerus="yes">
         <source>%n ray(s)</source>

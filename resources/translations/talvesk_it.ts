@@ -745,6 +745,26 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Computed</source>
         <translation>Calcolati</translation>
     </message>
+    <message>
+        <source>Refraction Profile</source>
+        <translation>Profilo a rifrazione</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Z (m)</source>
+        <translation>Z (m)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Strato %1</translation>
+    </message>
+    <message>
+        <source>Velocities of refractors: median</source>
+        <translation>Velocità dei rifrattori: mediana</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -887,6 +907,21 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>%1 m is too far away.</source>
         <translation>%1 m è troppo lontano.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LayerCurvesPlot</name>
+    <message>
+        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
+        <translation>Tiro %1, traccia %2: %3 m, %4 ms, %5</translation>
+    </message>
+    <message>
+        <source>no layer</source>
+        <translation>nessuno strato</translation>
+    </message>
+    <message>
+        <source>layer %1</source>
+        <translation>strato %1</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1201,402 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>None</source>
         <translation>Nessuno</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionProcessingDialog</name>
+    <message>
+        <source>Refraction processing</source>
+        <translation>Elaborazione a rifrazione</translation>
+    </message>
+    <message>
+        <source>T-x curves</source>
+        <translation>Curve T-x</translation>
+    </message>
+    <message>
+        <source>Select layer:</source>
+        <translation>Seleziona strato:</translation>
+    </message>
+    <message>
+        <source>0 none</source>
+        <translation>0 nessuno</translation>
+    </message>
+    <message>
+        <source>1 direct wave</source>
+        <translation>1 onda diretta</translation>
+    </message>
+    <message>
+        <source>2 first refractor</source>
+        <translation>2 primo rifrattore</translation>
+    </message>
+    <message>
+        <source>3 second refractor</source>
+        <translation>3 secondo rifrattore</translation>
+    </message>
+    <message>
+        <source>Show layer:</source>
+        <translation>Mostra strato:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Modificabile</translation>
+    </message>
+    <message>
+        <source>Let clicks and drags mark picks</source>
+        <translation>Clic e trascinamenti assegnano gli arrivi</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>Propose layers</source>
+        <translation>Proponi strati</translation>
+    </message>
+    <message>
+        <source>Find the break points of all branches</source>
+        <translation>Trova i punti di ginocchio di tutti i rami</translation>
+    </message>
+    <message>
+        <source>Clear marks</source>
+        <translation>Cancella assegnazioni</translation>
+    </message>
+    <message>
+        <source>Shot:</source>
+        <translation>Tiro:</translation>
+    </message>
+    <message>
+        <source>Takes part</source>
+        <translation>Partecipa</translation>
+    </message>
+    <message>
+        <source>Whether the chosen shot takes part in the interpretation</source>
+        <translation>Se il tiro scelto partecipa all&apos;interpretazione</translation>
+    </message>
+    <message>
+        <source>Phantoming</source>
+        <translation>Phantoming</translation>
+    </message>
+    <message>
+        <source>Auto phantoming</source>
+        <translation>Phantoming automatico</translation>
+    </message>
+    <message>
+        <source>Complete the curves of the end shots by the arrivals of the other shots</source>
+        <translation>Completa le dromocrone dei tiri estremi con gli arrivi degli altri tiri</translation>
+    </message>
+    <message>
+        <source>Time shifts</source>
+        <translation>Traslazioni temporali</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Strato</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>Ricevitori</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Arrivi</translation>
+    </message>
+    <message>
+        <source>Shift (ms)</source>
+        <translation>Traslazione (ms)</translation>
+    </message>
+    <message>
+        <source>tV/tG</source>
+        <translation>tV/tG</translation>
+    </message>
+    <message>
+        <source>Refractor:</source>
+        <translation>Rifrattore:</translation>
+    </message>
+    <message>
+        <source>XY (m):</source>
+        <translation>XY (m):</translation>
+    </message>
+    <message>
+        <source>Velocity/Profile</source>
+        <translation>Velocità/Profilo</translation>
+    </message>
+    <message>
+        <source>Build profiles</source>
+        <translation>Costruisci profili</translation>
+    </message>
+    <message>
+        <source>Curves, tV and tG, velocities and depths from the marks</source>
+        <translation>Dromocrone, tV e tG, velocità e profondità dalle assegnazioni</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>time (ms)</source>
+        <translation>tempo (ms)</translation>
+    </message>
+    <message>
+        <source>There are no picks to assign to layers: pick first breaks, or import travel times.</source>
+        <translation>Non ci sono arrivi da assegnare agli strati: individuare i primi arrivi o importare tempi di percorso.</translation>
+    </message>
+    <message>
+        <source>Phantom travel times</source>
+        <translation>Tempi di percorso fantasma</translation>
+    </message>
+    <message>
+        <source>No curves yet.
+
+Assign picks to layer 2 for a shot at either end of the line, then press &quot;Auto phantoming&quot; or &quot;Build profiles&quot;.</source>
+        <translation>Ancora nessuna dromocrona.
+
+Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea, poi premere &quot;Phantoming automatico&quot; o &quot;Costruisci profili&quot;.</translation>
+    </message>
+    <message>
+        <source>tV, velocity analysis</source>
+        <translation>tV, analisi di velocità</translation>
+    </message>
+    <message>
+        <source>tG, time depth</source>
+        <translation>tG, profondità in tempo</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Velocity (m/s)</source>
+        <translation>Velocità (m/s)</translation>
+    </message>
+    <message>
+        <source>Refraction Profile</source>
+        <translation>Profilo a rifrazione</translation>
+    </message>
+    <message>
+        <source>Z (m)</source>
+        <translation>Z (m)</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet: assign picks to layers and press &quot;Build profiles&quot;.</source>
+        <translation>Ancora nulla di costruito: assegnare gli arrivi agli strati e premere &quot;Costruisci profili&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no depth to show. Layer 1 needs a branch with two picks, and each refractor has to be faster than the layer above.</source>
+        <translation>Nessuna profondità da mostrare. Lo strato 1 richiede un ramo con due arrivi e ogni rifrattore deve essere più veloce dello strato sovrastante.</translation>
+    </message>
+    <message>
+        <source>All shots</source>
+        <translation>Tutti i tiri</translation>
+    </message>
+    <message>
+        <source>%1: at %2 m</source>
+        <comment>shot number, place</comment>
+        <translation>%1: a %2 m</translation>
+    </message>
+    <message numerus="yes">
+        <source>take %n pick(s) out</source>
+        <translation>
+            <numerusform>togli %n arrivo</numerusform>
+            <numerusform>togli %n arrivi</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>mark %n pick(s)</source>
+        <translation>
+            <numerusform>assegna %n arrivo</numerusform>
+            <numerusform>assegna %n arrivi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The marks have changed since the profiles were built.</source>
+        <translation>Le assegnazioni sono cambiate dopo la costruzione dei profili.</translation>
+    </message>
+    <message>
+        <source>Click a pick, or drag around several, to assign them. Keys 1, 2, 3 and 0: layer</source>
+        <translation>Cliccare un arrivo, o trascinare attorno a più d&apos;uno, per assegnarli. Tasti 1, 2, 3 e 0: strato</translation>
+    </message>
+    <message>
+        <source>right of shot %1</source>
+        <translation>a destra del tiro %1</translation>
+    </message>
+    <message>
+        <source>left of shot %1</source>
+        <translation>a sinistra del tiro %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>no velocity</source>
+        <translation>nessuna velocità</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 (%4 picks)</source>
+        <translation>Strato %1, %2: %3 (%4 arrivi)</translation>
+    </message>
+    <message>
+        <source>Replace the marks by a proposal?</source>
+        <translation>Sostituire le assegnazioni con una proposta?</translation>
+    </message>
+    <message>
+        <source>All picks are assigned anew from the break points of the branches. Undo brings the marks back.</source>
+        <translation>Tutti gli arrivi vengono riassegnati dai punti di ginocchio dei rami. Annulla ripristina le assegnazioni.</translation>
+    </message>
+    <message>
+        <source>No branch of the curves has picks enough to tell layers apart.</source>
+        <translation>Nessun ramo delle dromocrone ha abbastanza arrivi per distinguere gli strati.</translation>
+    </message>
+    <message>
+        <source>propose layers</source>
+        <translation>proponi strati</translation>
+    </message>
+    <message>
+        <source>clear marks</source>
+        <translation>cancella assegnazioni</translation>
+    </message>
+    <message>
+        <source>let shot %1 take part</source>
+        <translation>fai partecipare il tiro %1</translation>
+    </message>
+    <message>
+        <source>leave shot %1 out</source>
+        <translation>escludi il tiro %1</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Attenzione</translation>
+    </message>
+    <message>
+        <source>No profile could be built.</source>
+        <translation>Impossibile costruire un profilo.</translation>
+    </message>
+    <message>
+        <source>first (layer 2)</source>
+        <translation>primo (strato 2)</translation>
+    </message>
+    <message>
+        <source>second (layer 3)</source>
+        <translation>secondo (strato 3)</translation>
+    </message>
+    <message>
+        <source>Layer %1 from shot %2</source>
+        <translation>Strato %1 dal tiro %2</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>a destra</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>a sinistra</translation>
+    </message>
+    <message>
+        <source>other XY</source>
+        <translation>altri XY</translation>
+    </message>
+    <message>
+        <source>XY = %1 m</source>
+        <translation>XY = %1 m</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Strato %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionProfilePlot</name>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Strato %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Strato %1</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tiri</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionTexts</name>
+    <message>
+        <source>Unable to find nearest shot for first refractor</source>
+        <translation>Impossibile trovare il tiro più vicino per il primo rifrattore</translation>
+    </message>
+    <message>
+        <source>Velocity is less then zero at least one receiver. The profile may not be accurate. Please check input data </source>
+        <translation>La velocità è minore di zero in almeno un ricevitore. Il profilo potrebbe non essere accurato. Controllare i dati di ingresso </translation>
+    </message>
+    <message>
+        <source>Strong lateral velocity variations. The profile may not be accurate.</source>
+        <translation>Forti variazioni laterali di velocità. Il profilo potrebbe non essere accurato.</translation>
+    </message>
+    <message>
+        <source>The Tg function is less then zero at least one receiver. The profile may not be accurate. Please check input data </source>
+        <translation>La funzione Tg è minore di zero in almeno un ricevitore. Il profilo potrebbe non essere accurato. Controllare i dati di ingresso </translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot at each end of the line has picks of it, so it has no profile.</source>
+        <translation>Strato %1: non c&apos;è un tiro con suoi arrivi a ciascuna estremità della linea, quindi non ha profilo.</translation>
+    </message>
+    <message>
+        <source>Layer %1: the shot at the start of the line has fewer than two usable picks of it, so there is no forward curve.</source>
+        <translation>Strato %1: il tiro all&apos;inizio della linea ha meno di due arrivi utilizzabili, quindi manca la dromocrona diretta.</translation>
+    </message>
+    <message>
+        <source>Layer %1: the shot at the end of the line has fewer than two usable picks of it, so there is no reverse curve.</source>
+        <translation>Strato %1: il tiro alla fine della linea ha meno di due arrivi utilizzabili, quindi manca la dromocrona inversa.</translation>
+    </message>
+    <message>
+        <source>Layer %1: forward and reverse curve have fewer than two receivers in common.</source>
+        <translation>Strato %1: le dromocrone diretta e inversa hanno meno di due ricevitori in comune.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
+        <translation>Strato %1: nessun tiro ne ha due arrivi su un lato, quindi non ha velocità e gli strati sottostanti non hanno profondità.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer above.</source>
+        <translation>Strato %1: nessuna profondità in %2 ricevitori su %3, dove non è più veloce dello strato sovrastante.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the layer above.</source>
+        <translation>Strato %1: nessuna profondità in %2 ricevitori su %3, che stanno oltre il profilo dello strato sovrastante.</translation>
     </message>
 </context>
 <context>
@@ -2566,6 +2997,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>The geometry of the survey has changed.</source>
         <translation>La geometria del rilievo è cambiata.</translation>
+    </message>
+    <message>
+        <source>Uncomplete set of picks. 
+ 
+Do you want to run refraction processing anyway? </source>
+        <translation>Insieme dei primi arrivi incompleto. 
+ 
+Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,6 @@
 #include "figures/RefractionFigure.h"
 
 #include "base/AtomicFile.h"
-#include "base/TextNumber.h"
 #include "figures/FigureWords.h"
 #include "figures/RefractionItems.h"
 #include "figures/SectionItems.h"
@@ -13,7 +12,10 @@
 #include <QString>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <memory>
 #include <string_view>
+#include <utility>
 
 #include <qwt_plot.h>
 
@@ -43,7 +45,7 @@ class RefractionSheet {
   void setScales(double width, double height);
   std::string caption() const;
 
-  const RefractionFigureOptions& mOptions;
+  RefractionFigureOptions mOptions;
   RefractionScene mScene;
   std::string mTitle;
   PlotPlace mPlace;
@@ -56,26 +58,22 @@ RefractionSheet::RefractionSheet(const TomoDocument& document,
     : mOptions(options),
       mScene(refractionScene(document, results)),
       mTitle(options.title.empty() ? document.title : options.title) {
-  if (mTitle.empty()) mTitle = "Refraction Profile";
-  mPlot.addAxis(QwtPlot::xBottom, QStringLiteral("X (m)"));
-  mPlot.addAxis(QwtPlot::yLeft, QStringLiteral("Z (m)"));
+  if (mTitle.empty()) mTitle = FigureWords::tr("Refraction Profile").toStdString();
+  mPlot.addAxis(QwtPlot::xBottom, FigureWords::tr("X (m)"));
+  mPlot.addAxis(QwtPlot::yLeft, FigureWords::tr("Z (m)"));
   addLayers();
 }
 
 void RefractionSheet::addLayers() {
-  const auto name = [](const char* what, double velocity) {
-    QString text = QString::fromLatin1(what);
-    if (std::isfinite(velocity) && velocity > 0.0) {
-      text += QStringLiteral(", %1 m/s").arg(figureNumber(std::round(velocity)));
-    }
-    return text;
+  const auto name = [](std::uint32_t layer, double velocity) {
+    const QString text = FigureWords::tr("Layer %1").arg(layer);
+    if (!std::isfinite(velocity) || !(velocity > 0.0)) return text;
+    return QStringLiteral("%1, %2 m/s").arg(text, figureNumber(std::round(velocity)));
   };
-  mPlot.add(refraction_items::layer(mScene, 1, name("Layer 1", mScene.v1)));
+  mPlot.add(refraction_items::layer(mScene, 1, name(1, mScene.v1)));
   for (const ProfileBoundary& boundary : mScene.boundaries) {
-    const bool first = boundary.refractor == 2;
-    const double velocity = mScene.velocities[boundary.refractor - 2];
-    mPlot.add(refraction_items::layer(mScene, boundary.refractor,
-                                      name(first ? "Layer 2" : "Layer 3", velocity)));
+    const std::uint32_t below = boundary.refractor;
+    mPlot.add(refraction_items::layer(mScene, below, name(below, mScene.velocities[below - 2])));
   }
   mPlot.add(refraction_items::surface(mScene));
   using namespace section_items;
@@ -106,8 +104,10 @@ std::string RefractionSheet::caption() const {
   const double heightMm = mPlace.bottomMm - mPlace.topMm;
   const double perMetreX = widthMm / (mPlace.right - mPlace.left);
   const double perMetreZ = heightMm / (mPlace.top - mPlace.bottom);
-  return "Velocities of refractors: median   \xC2\xB7   Vertical exaggeration " +
-         formatDouble(perMetreZ / perMetreX, 2) + "x";
+  const QString factor = figureNumber(perMetreZ / perMetreX, 2);
+  return FigureWords::joined({FigureWords::tr("Velocities of refractors: median"),
+                              FigureWords::tr("Vertical exaggeration %1").arg(factor)})
+      .toStdString();
 }
 
 Status RefractionSheet::layOut() {
@@ -126,27 +126,47 @@ Status RefractionSheet::layOut() {
   return status;
 }
 
+Status layOut(const TomoDocument& document, const refractionDataStructure::processingData& results,
+              const RefractionFigureOptions& options, FigureFormat format, FigureSheet& sheet,
+              std::unique_ptr<RefractionSheet>& plot) {
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
+    return Status::failure("A profile cannot be drawn before the application object exists.");
+  }
+  sheet.widthMm = options.widthMm;
+  sheet.heightMm = options.heightMm;
+  sheet.dpi = options.dpi;
+  if (Status status = sheet.check(format); !status.ok()) return status;
+  plot = std::make_unique<RefractionSheet>(document, results, options);
+  if (Status status = plot->layOut(); !status.ok()) return status;
+  sheet.title = plot->title();
+  return {};
+}
+
 }  // namespace
+
+Status prepareRefractionFigure(const TomoDocument& document,
+                               const refractionDataStructure::processingData& results,
+                               const RefractionFigureOptions& options, FigureDrawing& drawing) {
+  std::unique_ptr<RefractionSheet> plot;
+  Status status = layOut(document, results, options, FigureFormat::kPdf, drawing.sheet, plot);
+  if (!status.ok()) return status;
+  drawing.paint = [shared = std::shared_ptr<RefractionSheet>(std::move(plot))](
+                      QPainter& painter, const QRectF& rect) { shared->paint(painter, rect); };
+  return {};
+}
 
 Status renderRefractionFigure(const TomoDocument& document,
                               const refractionDataStructure::processingData& results,
                               const RefractionFigureOptions& options, FigureFormat format,
                               QByteArray& bytes, PlotPlace* place) {
-  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
-    return Status::failure("A profile cannot be drawn before the application object exists.");
-  }
   FigureSheet sheet;
-  sheet.widthMm = options.widthMm;
-  sheet.heightMm = options.heightMm;
-  sheet.dpi = options.dpi;
-  if (Status status = sheet.check(format); !status.ok()) return status;
-  RefractionSheet plot(document, results, options);
-  if (Status status = plot.layOut(); !status.ok()) return status;
-  sheet.title = plot.title();
-  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot.paint(painter, rect); };
-  if (Status status = paintFigure(format, sheet, paint, bytes); !status.ok()) return status;
-  if (place != nullptr) *place = plot.place();
-  return {};
+  std::unique_ptr<RefractionSheet> plot;
+  Status status = layOut(document, results, options, format, sheet, plot);
+  if (!status.ok()) return status;
+  const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot->paint(painter, rect); };
+  status = paintFigure(format, sheet, paint, bytes);
+  if (status.ok() && place != nullptr) *place = plot->place();
+  return status;
 }
 
 Status writeRefractionFigure(const TomoDocument& document,

@@ -31,6 +31,11 @@ Status writeRefractionFigure(const TomoDocument& document,
                              const refractionDataStructure::processingData& results,
                              const RefractionFigureOptions& options, const std::string& path);
 
+/// The same for who paints it himself.
+Status prepareRefractionFigure(const TomoDocument& document,
+                               const refractionDataStructure::processingData& results,
+                               const RefractionFigureOptions& options, FigureDrawing& drawing);
+
 /// The same into memory. \param place where the section lies; null when nobody asks
 Status renderRefractionFigure(const TomoDocument& document,
                               const refractionDataStructure::processingData& results,
