@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace talvesk {
 namespace {
@@ -64,6 +65,30 @@ SaveAnswer askToSave(QWidget* parent) {
       return SaveAnswer::kDiscard;
     default:
       return SaveAnswer::kCancel;
+  }
+}
+
+RecoveryAnswer askToRecover(QWidget* parent, const QString& details) {
+  QMessageBox box(parent);
+  box.setIcon(QMessageBox::Question);
+  box.setWindowTitle(QCoreApplication::translate("talvesk::Messages", "Recover survey"));
+  box.setText(QCoreApplication::translate("talvesk::Messages", "Talvesk was not closed properly."));
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(details);
+  box.setStandardButtons(QMessageBox::Open | QMessageBox::Discard | QMessageBox::Cancel);
+  box.setDefaultButton(QMessageBox::Open);
+  box.button(QMessageBox::Cancel)
+      ->setText(QCoreApplication::translate("talvesk::Messages", "Ask again later"));
+  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+    label->setMinimumWidth(kTextWidth);
+  }
+  switch (box.exec()) {
+    case QMessageBox::Open:
+      return RecoveryAnswer::kOpen;
+    case QMessageBox::Discard:
+      return RecoveryAnswer::kDiscard;
+    default:
+      return RecoveryAnswer::kLater;
   }
 }
 

@@ -27,6 +27,12 @@ enum class SaveAnswer { kSave, kDiscard, kCancel };
 /// What to do with a survey that was changed and not saved.
 SaveAnswer askToSave(QWidget* parent);
 
+enum class RecoveryAnswer { kOpen, kDiscard, kLater };
+
+/// What to do with a survey that a program left behind that ended without saving it.
+/// \param details what survey, and of when
+RecoveryAnswer askToRecover(QWidget* parent, const QString& details);
+
 /// At most `limit` lines of a list; the rest as one line that counts it.
 QString shortList(const QStringList& lines, int limit = 8);
 

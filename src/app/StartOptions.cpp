@@ -7,8 +7,8 @@ const QString kVersion = QStringLiteral("Talvesk 2022.0\n");
 const QString kHelp = QStringLiteral(
     "Usage: talvesk [FILES...]\n"
     "\n"
-    "Opens the window of Talvesk and loads the files: shot files (SEG-2, SEG-Y, SU) and a\n"
-    "travel-time file (.otte, .txt, .xyz, .csv).\n"
+    "Opens the window of Talvesk and loads the files: a project (.tvsk), shot files (SEG-2,\n"
+    "SEG-Y, SU) and a travel-time file (.otte, .txt, .xyz, .csv).\n"
     "\n"
     "  -h, --help     print this text\n"
     "  -V, --version  print the version\n"

@@ -38,10 +38,13 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
       mUi(std::make_unique<Ui::Talvesk_MainWindows>()),
       mFolder(WorkingFolder::ofUser()),
       mSettings(mFolder.settings),
-      mHistory(mFolder.history) {
+      mHistory(mFolder.history),
+      mRecent(windowStateFile(mFolder)),
+      mRecovery(QString::fromStdString(mFolder.path)) {
   mUi->setupUi(this);
   setCommandIcons(*this);
   addShotChooser();
+  addRecentMenu();
   groupActions();
   addKeys();
   startLog();
@@ -50,6 +53,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   connectPlots();
   connectSection();
   connectCommands();
+  prepareAutosave();
   mUi->showTracesWidget_2->hide();
   mUi->tabWidget->setCurrentIndex(0);
   retranslate();
@@ -213,6 +217,7 @@ void Talvesk_MainWindows::retranslate() {
   mShotChooser->setToolTip(tr("The shot in view"));
   refreshTitle();
   refreshShotChooser();
+  refreshRecentProjects();
   refreshSection();
 }
 
@@ -221,6 +226,7 @@ void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
+  mRecovery.discard();
   saveWindow();
   event->accept();
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/Languages.h"
+#include "app/RecentProjects.h"
+#include "app/RecoveryCopy.h"
 #include "base/History.h"
 #include "base/Log.h"
 #include "base/Settings.h"
@@ -13,6 +15,7 @@
 
 #include <QMainWindow>
 #include <QStringList>
+#include <QTimer>
 #include <array>
 #include <cstdint>
 #include <functional>
@@ -22,6 +25,7 @@
 
 class QComboBox;
 class QLabel;
+class QMenu;
 
 namespace talvesk {
 
@@ -49,7 +53,12 @@ class Talvesk_MainWindows : public QMainWindow {
   explicit Talvesk_MainWindows(QWidget* parent = nullptr);
   ~Talvesk_MainWindows() override;
 
-  /// Loads what the command line names or what was dropped: shot files, then travel-time files.
+  /// What the program does once the window is there: offers the copy that a crash left, then loads
+  /// what the command line names.
+  void start(const QStringList& files);
+
+  /// Loads what the command line names or what was dropped: a project, then shot files, then
+  /// travel-time files.
   void openFiles(const QStringList& files);
 
   /// Lets the user edit where geophones and shots stand. True when the survey has the geometry that
@@ -75,6 +84,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private slots:
+  void autosave();  ///< a recovery copy, if there is anything new to keep
   // File, Export, KML
   void on_actionNew_triggered();
   void on_actionLoad_Project_triggered();
@@ -199,7 +209,20 @@ class Talvesk_MainWindows : public QMainWindow {
   void saveWindow();
   void retranslate();
   bool mayLoseChanges();
+
+  // Projects
   bool saveProject();
+  bool saveProjectAs();
+  bool saveProjectTo(const QString& file);
+  void openProject(const QString& file);
+  bool loadProject(const QString& file, LoadedProject& project);
+  void takeProject(LoadedProject project, const QString& file);
+  void reportBadProject(const QString& file, const projectReader& reader);
+  void addRecentMenu();
+  void refreshRecentProjects();
+  void offerRecovery();
+  void prepareAutosave();
+  void recoveryFailed(const QString& reason, bool lasting);
 
   // Loading
   void loadShotFiles(const QStringList& files);
@@ -284,6 +307,15 @@ class Talvesk_MainWindows : public QMainWindow {
   SectionViewSettings mSection;
   std::vector<ShotMemory> mShots;  ///< one per trace set
   int mCurrentFile = -1;
+  QString mProjectFile;         ///< where the survey is saved; empty before it was
+  SharedFolder mProjectFolder;  ///< of the shot files of a loaded project
+  RecentProjects mRecent;
+  QMenu* mRecentMenu = nullptr;
+  RecoveryCopy mRecovery;
+  QTimer mAutosaveTimer;
+  int mRevision = 0;           ///< grows with every change
+  int mRecoveredRevision = 0;  ///< that the recovery copy holds
+  int mFailedRecoveries = 0;   ///< in a row
   bool mLaidOut = false;
   QComboBox* mShotChooser = nullptr;
   QLabel* mCursorLabel = nullptr;

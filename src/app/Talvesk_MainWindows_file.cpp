@@ -30,6 +30,10 @@ bool isTravelTimeFile(const QString& file) {
   return suffixes.contains(QFileInfo(file).suffix().toLower());
 }
 
+bool isProjectFile(const QString& file) {
+  return QFileInfo(file).suffix().toLower() == QLatin1String("tvsk");
+}
+
 bool hasAnyPick(const TomoDocument& document) {
   return std::any_of(
       document.ttArray.begin(), document.ttArray.end(), [](const TravelTime& record) {
@@ -220,9 +224,16 @@ void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
 void Talvesk_MainWindows::openFiles(const QStringList& files) {
   QStringList shots;
   QStringList travelTimes;
+  QStringList projects;
   for (const QString& file : files) {
+    if (isProjectFile(file)) {
+      projects << QFileInfo(file).absoluteFilePath();
+      continue;
+    }
     (isTravelTimeFile(file) ? travelTimes : shots) << QFileInfo(file).absoluteFilePath();
   }
+  // Each would take the place of the one before.
+  if (!projects.isEmpty()) openProject(projects.front());
   if (!shots.isEmpty()) loadShotFiles(shots);
   for (const QString& file : travelTimes) importTravelTimeFile(file);
 }

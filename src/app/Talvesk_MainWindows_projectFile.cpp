@@ -1,15 +1,183 @@
 #include "app/Messages.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/progressDialog.h"
+#include "io/ProjectWriter.h"
+#include "tomo/RayRecomputation.h"
 #include "ui_Talvesk_MainWindows.h"
+#include "widgets/TravelTimePlot.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QStatusBar>
+#include <utility>
 
 // The commands that save and load whole surveys.
 
 namespace talvesk {
+namespace {
+
+constexpr int kMessageTime = 10000;  // milliseconds that the status bar shows an outcome
+
+const QString kSuffix = QStringLiteral(".tvsk");
+
+QStringList listOf(const std::vector<std::string>& texts) {
+  QStringList list;
+  for (const std::string& text : texts) list << QString::fromStdString(text);
+  return list;
+}
+
+/// The format of a shot file as its reader would name it.
+QString formatOf(const std::string& file) {
+  const QString suffix = QFileInfo(QString::fromStdString(file)).suffix().toLower();
+  if (suffix == QLatin1String("su")) return suffix;
+  if (suffix == QLatin1String("sgy") || suffix == QLatin1String("segy")) {
+    return QStringLiteral("segy");
+  }
+  return suffix.isEmpty() ? suffix : QStringLiteral("seg2");
+}
+
+}  // namespace
 
 bool Talvesk_MainWindows::saveProject() {
-  showNote(this, QApplication::applicationName(), tr("Projects cannot be saved yet."),
-           tr("To keep the picks, use File > Export > Export TravelTimes..."));
-  return false;
+  return mProjectFile.isEmpty() ? saveProjectAs() : saveProjectTo(mProjectFile);
+}
+
+bool Talvesk_MainWindows::saveProjectAs() {
+  QFileDialog dialog(this, tr("Save Project"),
+                     mProjectFile.isEmpty() ? historyFolder() : mProjectFile,
+                     tr("Talvesk projects (*.tvsk);;All Files (*)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  // The question comes below, when the name is complete.
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  if (!mProjectFile.isEmpty()) dialog.selectFile(QFileInfo(mProjectFile).fileName());
+  if (dialog.exec() != QDialog::Accepted) return false;
+  QString file = dialog.selectedFiles().value(0);
+  if (QFileInfo(file).completeBaseName().isEmpty() || QFileInfo(file).isDir()) {
+    showError(this, tr("Error occured"), tr("Empty filename to be saved"));
+    return false;
+  }
+  if (!file.endsWith(kSuffix)) file += kSuffix;
+  const bool replaces = QFileInfo::exists(file) && file != mProjectFile;
+  if (replaces &&
+      !askYesNo(this, tr("Save Project"), tr("%1 already exists.").arg(QFileInfo(file).fileName()),
+                tr("Do you want to replace it?"), false)) {
+    return false;
+  }
+  saveHistoryOf(file);
+  return saveProjectTo(file);
+}
+
+bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
+  ProjectWriter writer;
+  int result = 1;
+  progressDialog progress(writer, file, this);
+  progress.run([&] {
+    result = writer.save(file.toStdString(), mFolder.path, mDocument, mInterpretation, mPalettes,
+                         mSection);
+  });
+  if (result != 0) {
+    mLog.write(writer.message(), 1);
+    showError(this, tr("Error occured"),
+              tr("Something went wrong while saving project ") + file + QLatin1Char('\n') +
+                  tr("WARNING: the project has NOT been saved."),
+              QString::fromStdString(writer.message()));
+    return false;
+  }
+  mProjectFile = file;
+  mDocument.modified = false;
+  mRecovery.discard();
+  mRecent.add(file);
+  refreshRecentProjects();
+  refreshTitle();
+  refreshCommands();
+  statusBar()->showMessage(tr("Project saved in %1").arg(file), kMessageTime);
+  if (!writer.warnings().empty()) {
+    showWarning(this, tr("Warning"), tr("The project has been saved."),
+                shortList(listOf(writer.warnings())));
+  }
+  return true;
+}
+
+void Talvesk_MainWindows::openProject(const QString& file) {
+  if (!mayLoseChanges()) return;
+  LoadedProject project;
+  if (!loadProject(file, project)) return;
+  takeProject(std::move(project), file);
+  mRecent.add(file);
+  refreshRecentProjects();
+}
+
+/// Loads aside: what is open stays as it is until all of the project is there.
+bool Talvesk_MainWindows::loadProject(const QString& file, LoadedProject& project) {
+  projectReader reader;
+  int result = 1;
+  Status rays;
+  progressDialog progress(reader, file, this);
+  progress.run([&] {
+    result = reader.load(file.toStdString(), mFolder.path, project);
+    if (result != 0 || !project.document.hasTomographicInfo) return;
+    QMetaObject::invokeMethod(&progress, &progressDialog::write_tracing_rays, Qt::QueuedConnection);
+    Log worker;  // that of the window belongs to this thread
+    rays = recomputeRays(project.document, worker);
+  });
+  if (result != 0) {
+    reportBadProject(file, reader);
+    return false;
+  }
+  if (!rays.ok()) mLog.write(rays.message(), 1);
+  if (!reader.warnings().empty()) {
+    showWarning(this, tr("Warning"), tr("Error while loading traces: Invalid file format."),
+                shortList(listOf(reader.warnings())));
+  }
+  return true;
+}
+
+void Talvesk_MainWindows::reportBadProject(const QString& file, const projectReader& reader) {
+  mLog.write(file.toStdString() + ": " + reader.message(), 1);
+  QString text = tr("%1 is not a valid project.").arg(QFileInfo(file).fileName());
+  if (reader.tracesFailed()) {
+    text += QLatin1Char('\n') + tr("Error while loading traces: Invalid file format.");
+  }
+  QString details = QString::fromStdString(reader.message());
+  const QString former = file + QLatin1Char('~');
+  if (!QFileInfo::exists(file)) {
+    mRecent.remove(file);
+    refreshRecentProjects();
+    details = tr("There is no file %1").arg(file);
+  }
+  if (QFileInfo::exists(former)) {
+    details += QLatin1Char('\n') + tr("The project as it was saved before is in %1").arg(former);
+  }
+  showError(this, tr("Error occured"), text, details);
+}
+
+void Talvesk_MainWindows::takeProject(LoadedProject project, const QString& file) {
+  mRecovery.discard();
+  mDocument = std::move(project.document);
+  mInterpretation = std::move(project.interpretation);
+  const bool rangeLocked = mSection.lockRange;
+  takeOverPalettes(std::move(project.palettes));
+  mSection = project.section;
+  mSection.lockRange = mSection.lockRange || rangeLocked;
+  mProjectFolder = std::move(project.folder);  // the one before goes, nobody needs its files now
+  mProjectFile = file;
+  mLoader = ShotLoader();
+  mShots.assign(mDocument.traceSets.size(), ShotMemory());
+  for (std::size_t i = 0; i < mShots.size(); ++i) {
+    mShots[i].filtered = mShots[i].showFiltered = hasFilteredCopy(static_cast<int>(i));
+    if (i < mDocument.filenames.size()) mShots[i].format = formatOf(mDocument.filenames[i]);
+  }
+  mCurrentFile = -1;
+  for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
+  for (TravelTimePlot* plot : plots()) plot->setDocument(&mDocument);
+  documentChanged();
+  if (!mDocument.ttArray.empty()) showFresh(0);
+  mDocument.modified = false;
+  refreshTitle();
+  statusBar()->showMessage(tr("Project %1 loaded.").arg(QFileInfo(file).fileName()), kMessageTime);
 }
 
 void Talvesk_MainWindows::on_actionSave_Project_triggered() {
@@ -19,17 +187,51 @@ void Talvesk_MainWindows::on_actionSave_Project_triggered() {
 
 void Talvesk_MainWindows::on_actionSave_Project_As_triggered() {
   logSlot(__func__);
+  saveProjectAs();
 }
 
 void Talvesk_MainWindows::on_actionLoad_Project_triggered() {
   logSlot(__func__);
+  const QString file = QFileDialog::getOpenFileName(this, tr("Load Project"), historyFolder(),
+                                                    tr("Talvesk projects (*.tvsk);;All Files (*)"));
+  if (file.isEmpty()) return;
+  saveHistoryOf(file);
+  openProject(file);
+}
+
+void Talvesk_MainWindows::addRecentMenu() {
+  mRecentMenu = new QMenu(this);
+  mRecentMenu->setObjectName(QStringLiteral("menuRecent_projects"));
+  const QList<QAction*> actions = mUi->menuFile->actions();
+  const int after = actions.indexOf(mUi->actionLoad_Project) + 1;
+  mUi->menuFile->insertMenu(actions.value(after), mRecentMenu);
+}
+
+void Talvesk_MainWindows::refreshRecentProjects() {
+  mRecentMenu->clear();
+  mRecentMenu->setTitle(tr("Recent Projects"));
+  const QStringList projects = mRecent.list();
+  mRecentMenu->setEnabled(!projects.isEmpty());
+  if (projects.isEmpty()) return;
+  for (int i = 0; i < projects.size(); ++i) {
+    QString name = projects[i];
+    name.replace(QLatin1Char('&'), QLatin1String("&&"));
+    mRecentMenu->addAction(QStringLiteral("&%1 %2").arg(QString::number(i + 1), name), this,
+                           [this, file = projects[i]] { openProject(file); });
+  }
+  mRecentMenu->addSeparator();
+  mRecentMenu->addAction(tr("Clear List"), this, [this] {
+    mRecent.clear();
+    refreshRecentProjects();
+  });
 }
 
 void Talvesk_MainWindows::refreshProjectCommands() {
-  for (QAction* action :
-       {mUi->actionLoad_Project, mUi->actionSave_Project, mUi->actionSave_Project_As}) {
-    action->setEnabled(false);
-  }
+  const bool survey =
+      !mDocument.ttArray.empty() || !mDocument.goephonesStringSet.empty() || mDocument.modified;
+  mUi->actionLoad_Project->setEnabled(true);
+  mUi->actionSave_Project->setEnabled(survey);
+  mUi->actionSave_Project_As->setEnabled(survey);
 }
 
 }  // namespace talvesk

@@ -24,6 +24,9 @@ bool Talvesk_MainWindows::hasFilteredCopy(int shot) const {
 void Talvesk_MainWindows::clearDocument() {
   mDocument = TomoDocument();
   mInterpretation = {};
+  mProjectFile.clear();
+  mProjectFolder.reset();
+  mRecovery.discard();
   mShots.clear();
   mCurrentFile = -1;
   for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
@@ -62,11 +65,13 @@ void Talvesk_MainWindows::showFile(int index) {
 
 void Talvesk_MainWindows::refreshTitle() {
   QString title = tr("Talvesk 2022.0") + QStringLiteral("[*]");
-  if (!mDocument.title.empty()) {
+  for (QString part :
+       {QFileInfo(mProjectFile).fileName(), QString::fromStdString(mDocument.title)}) {
     // Two markers are how Qt writes one that is not its own.
-    title += QStringLiteral(" - ") + QString::fromStdString(mDocument.title)
-                                         .replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    part.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    if (!part.isEmpty()) title += QStringLiteral(" - ") + part;
   }
+  if (mDocument.modified) ++mRevision;
   setWindowTitle(title);
   setWindowModified(mDocument.modified);
 }

@@ -50,8 +50,6 @@ int main(int argc, char** argv) {
   talvesk::Talvesk_MainWindows window;
   window.show();
   splash.finish(&window);
-  if (!options.files.isEmpty()) {
-    QTimer::singleShot(0, &window, [&] { window.openFiles(options.files); });
-  }
+  QTimer::singleShot(0, &window, [&] { window.start(options.files); });
   return QApplication::exec();
 }
