@@ -1,5 +1,7 @@
 #include "gui/ModalScript.h"
 
+#include "app/progressDialog.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
@@ -26,7 +28,11 @@ void ModalScript::expect(std::function<void(QWidget&)> answer) {
 
 void ModalScript::look() {
   QWidget* dialog = QApplication::activeModalWidget();
-  if (dialog == nullptr || qobject_cast<QProgressDialog*>(dialog)) return;
+  // What shows progress goes by itself.
+  if (dialog == nullptr || qobject_cast<QProgressDialog*>(dialog) ||
+      qobject_cast<progressDialog*>(dialog)) {
+    return;
+  }
   if (std::find(mAnswered.begin(), mAnswered.end(), dialog) != mAnswered.end()) return;
   mAnswered.emplace_back(dialog);
   if (mAnswers.empty()) {

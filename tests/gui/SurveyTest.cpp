@@ -60,15 +60,6 @@ TEST_F(Survey, staysOpenOnCancelAndGoesOnDiscard) {
   EXPECT_TRUE(window->close());
 }
 
-TEST_F(Survey, isNotLostOnSaveBeforeProjectsCanBeSaved) {
-  loadShots(1);
-  expectToSave(QMessageBox::Save);
-  dialogs.expectBox("Talvesk", "Projects cannot be saved yet.", "Export TravelTimes",
-                    QMessageBox::Ok);
-  EXPECT_FALSE(window->close());
-  EXPECT_THAT(window->document().traceSets, SizeIs(1));
-}
-
 TEST_F(Survey, isEmptiedByNewWhichAsksFirst) {
   loadShots(2);
   expectToSave(QMessageBox::Cancel);

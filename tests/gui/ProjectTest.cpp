@@ -1,0 +1,272 @@
+#include "gui/WindowTest.h"
+#include "io/ProjectSnapshot.h"
+#include "io/ProjectWriter.h"
+#include "io/projectReader.h"
+#include "support/TestSurveys.h"
+#include "tomo/TomographyRun.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLockFile>
+#include <QMenu>
+#include <QStatusBar>
+#include <QTest>
+
+namespace talvesk::testing {
+namespace {
+
+using ::testing::HasSubstr;
+
+/// A window with a survey that was changed, and its project files.
+class Projects : public WindowTest {
+ protected:
+  Projects() {
+    open();
+    loadShots(3);
+    document().ttArray[1].ttMisurati[2] = 0.017;
+  }
+
+  TomoDocument& document() { return window->document(); }
+  QString path(const std::string& name) const { return QString::fromStdString(home.file(name)); }
+  void trigger(const char* name) { action(name).trigger(); }
+  void saveAs(const QString& typed) {
+    dialogs.expectFiles(QStringLiteral("Save Project"), {typed});
+    trigger("actionSave_Project_As");
+  }
+  void load(const QString& file) {
+    dialogs.expectFiles(QStringLiteral("Load Project"), {file});
+    trigger("actionLoad_Project");
+  }
+  QStringList recoveryFiles() const {
+    return QDir(path("Talvesk_TMP")).entryList({QStringLiteral("Talvesk_recovery_*")}, QDir::Files);
+  }
+  /// What the timer does every few minutes.
+  void autosave(bool expected = true) {
+    QMetaObject::invokeMethod(window.get(), "autosave");
+    if (!expected) return;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return !recoveryFiles().filter(QStringLiteral(".tvsk.txt")).isEmpty(); }));
+  }
+};
+
+TEST_F(Projects, areSavedUnderANameWithTheirSuffixAndThenWithoutAsking) {
+  EXPECT_TRUE(window->isWindowModified());
+  saveAs(path("line"));
+  EXPECT_TRUE(QFile::exists(path("line.tvsk")));
+  EXPECT_FALSE(document().modified);
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*] - line.tvsk"));
+  EXPECT_FALSE(window->isWindowModified());
+  document().modified = true;
+  const std::string before = TestFolder::get(home.file("line.tvsk"));
+  document().title = "another";
+  trigger("actionSave_Project");
+  EXPECT_FALSE(document().modified);
+  EXPECT_NE(TestFolder::get(home.file("line.tvsk")), before);
+  EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionSave_Project_triggered"));
+}
+
+TEST_F(Projects, comeBackWithWhatTheScreenShows) {
+  document().traceSets[1][0].filtered = document().traceSets[1][0].samples;
+  putGrid(document(), 6, 2);
+  Log quiet;
+  ASSERT_TRUE(runInversion(document(), {}, quiet).status.ok());
+  const std::size_t rays = document().rays.size();
+  saveAs(path("line.tvsk"));
+  open();
+  EXPECT_TRUE(document().ttArray.empty());
+  load(path("line.tvsk"));
+  ASSERT_EQ(document().traceSets.size(), 3U);
+  EXPECT_EQ(document().ttArray[1].ttMisurati[2], 0.017);
+  EXPECT_EQ(document().rays.size(), rays);
+  EXPECT_EQ(window->currentFile(), 0);
+  EXPECT_FALSE(window->isWindowModified());
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*] - line.tvsk"));
+  EXPECT_FALSE(child<QWidget>("show_filtered_cb").isEnabled());
+  window->showFile(1);
+  EXPECT_TRUE(child<QWidget>("show_filtered_cb").isEnabled());
+  EXPECT_TRUE(child<QWidget>("showSimTT_CB").isEnabled());
+}
+
+TEST_F(Projects, areSavedAgainFromTheFilesThatTheyWereLoadedWith) {
+  saveAs(path("line.tvsk"));
+  open();
+  load(path("line.tvsk"));
+  for (int i = 1; i <= 3; ++i) QFile::remove(path("shot" + std::to_string(i) + ".dat"));
+  saveAs(path("copy.tvsk"));
+  open();
+  load(path("copy.tvsk"));
+  ASSERT_EQ(document().traceSets.size(), 3U);
+  EXPECT_FALSE(document().traceSets[2][0].samples.empty());
+}
+
+TEST_F(Projects, askBeforeTheyReplaceAnotherFile) {
+  home.put("other.tvsk", "precious");
+  dialogs.expectFiles(QStringLiteral("Save Project"), {path("other")});
+  dialogs.expectBox(QStringLiteral("Save Project"), QStringLiteral("other.tvsk already exists."),
+                    QStringLiteral("Do you want to replace it?"), QMessageBox::No);
+  trigger("actionSave_Project_As");
+  EXPECT_EQ(TestFolder::get(home.file("other.tvsk")), "precious");
+  EXPECT_TRUE(document().modified);
+}
+
+TEST_F(Projects, needAName) {
+  dialogs.expectFiles(QStringLiteral("Save Project"), {path(".tvsk")});
+  dialogs.expectBox(QStringLiteral("Error occured"), QStringLiteral("Empty filename to be saved"),
+                    QString(), QMessageBox::Ok);
+  trigger("actionSave_Project_As");
+  EXPECT_TRUE(document().modified);
+}
+
+TEST_F(Projects, thatCannotBeSavedAreToldAndStayModified) {
+  saveAs(path("line.tvsk"));
+  document().modified = true;
+  // Nothing can be put together any more.
+  QDir(path("Talvesk_TMP")).removeRecursively();
+  dialogs.expectBox(QStringLiteral("Error occured"),
+                    QStringLiteral("Something went wrong while saving project ") +
+                        path("line.tvsk") +
+                        QStringLiteral("\nWARNING: the project has NOT been saved."),
+                    path("line.tvsk~"), QMessageBox::Ok);
+  trigger("actionSave_Project");
+  EXPECT_TRUE(document().modified);
+  EXPECT_TRUE(QFile::exists(path("line.tvsk~")));
+}
+
+TEST_F(Projects, thatAreNoneLeaveTheSurveyAsItIs) {
+  document().modified = false;
+  home.put("text.tvsk", "no project");
+  dialogs.expectFiles(QStringLiteral("Load Project"), {path("text.tvsk")});
+  dialogs.expectBox(QStringLiteral("Error occured"),
+                    QStringLiteral("text.tvsk is not a valid project."), QString(),
+                    QMessageBox::Ok);
+  trigger("actionLoad_Project");
+  EXPECT_EQ(document().traceSets.size(), 3U);
+  EXPECT_EQ(document().ttArray[1].ttMisurati[2], 0.017);
+}
+
+TEST_F(Projects, tellOfShotFilesThatCouldNotBeSaved) {
+  QFile::remove(path("shot2.dat"));
+  dialogs.expectFiles(QStringLiteral("Save Project"), {path("line.tvsk")});
+  dialogs.expectBox(QStringLiteral("Warning"), QStringLiteral("The project has been saved."),
+                    path("shot2.dat"), QMessageBox::Ok);
+  trigger("actionSave_Project_As");
+  EXPECT_FALSE(document().modified);
+}
+
+TEST_F(Projects, areSavedOrNotWhenTheWindowCloses) {
+  const auto closeWith = [this](QMessageBox::StandardButton button) {
+    dialogs.expectBox(QStringLiteral("Talvesk"), QStringLiteral("The document has been modified"),
+                      QStringLiteral("Do you want to save your changes?"), button);
+  };
+  closeWith(QMessageBox::Cancel);
+  EXPECT_FALSE(window->close());
+  closeWith(QMessageBox::Save);
+  dialogs.expectAndCancel();  // where to?
+  EXPECT_FALSE(window->close());
+  closeWith(QMessageBox::Save);
+  dialogs.expectFiles(QStringLiteral("Save Project"), {path("line.tvsk")});
+  EXPECT_TRUE(window->close());
+  EXPECT_TRUE(QFile::exists(path("line.tvsk")));
+}
+
+TEST_F(Projects, areListedAndOpenedAgain) {
+  saveAs(path("a.tvsk"));
+  saveAs(path("b.tvsk"));
+  open();
+  const QList<QAction*> actions = child<QMenu>("menuRecent_projects").actions();
+  ASSERT_EQ(actions.size(), 4);  // two projects, a line, and one to clear the list
+  EXPECT_EQ(actions[0]->text(), QStringLiteral("&1 ") + path("b.tvsk"));
+  actions[1]->trigger();
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*] - a.tvsk"));
+  QFile::remove(path("b.tvsk"));
+  dialogs.expectBox(QStringLiteral("Error occured"),
+                    QStringLiteral("b.tvsk is not a valid project."),
+                    QStringLiteral("There is no file "), QMessageBox::Ok);
+  child<QMenu>("menuRecent_projects").actions()[1]->trigger();
+  EXPECT_EQ(child<QMenu>("menuRecent_projects").actions().size(), 3);
+  child<QMenu>("menuRecent_projects").actions()[2]->trigger();
+  EXPECT_FALSE(child<QMenu>("menuRecent_projects").isEnabled());
+}
+
+TEST_F(Projects, openFromTheCommandLine) {
+  saveAs(path("line.tvsk"));
+  open();
+  window->start({path("line.tvsk")});
+  EXPECT_EQ(document().traceSets.size(), 3U);
+}
+
+TEST_F(Projects, giveWayToANewSurvey) {
+  saveAs(path("line.tvsk"));
+  dialogs.expectAndCancel();  // which shot files?
+  trigger("actionNew");
+  EXPECT_TRUE(document().ttArray.empty());
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*]"));
+}
+
+TEST_F(Projects, haveARecoveryCopyOnlyWhileThereIsSomethingToLose) {
+  autosave();
+  EXPECT_EQ(recoveryFiles().size(), 3);  // copy, note and lock
+  saveAs(path("line.tvsk"));
+  EXPECT_TRUE(recoveryFiles().isEmpty());
+  autosave(false);
+  QTest::qWait(200);
+  EXPECT_TRUE(recoveryFiles().isEmpty());
+}
+
+TEST_F(Projects, leaveNoRecoveryCopyAfterTheWindowWasClosed) {
+  autosave();
+  dialogs.expectBox(QStringLiteral("Talvesk"), QStringLiteral("The document has been modified"),
+                    QString(), QMessageBox::Discard);
+  EXPECT_TRUE(window->close());
+  EXPECT_TRUE(recoveryFiles().isEmpty());
+}
+
+/// The recovery copy of a program that is gone.
+class Crash : public Projects {
+ protected:
+  Crash() {
+    saveAs(path("line.tvsk"));
+    document().title = "Crashed";
+    ProjectWriter writer;
+    EXPECT_EQ(writer.save(copy.toStdString(), home.file("Talvesk_TMP/"), document(), {}, {}), 0);
+    home.put("Talvesk_TMP/Talvesk_recovery_1.tvsk.txt", home.file("line.tvsk"));
+    open();
+  }
+  void answer(QMessageBox::StandardButton button) {
+    dialogs.expectBox(QStringLiteral("Recover survey"),
+                      QStringLiteral("Talvesk was not closed properly."), path("line.tvsk"),
+                      button);
+    window->start({});
+  }
+  QString copy = path("Talvesk_TMP/Talvesk_recovery_1.tvsk");
+};
+
+TEST_F(Crash, isMadeGoodByTheCopy) {
+  answer(QMessageBox::Open);
+  EXPECT_EQ(document().title, "Crashed");
+  EXPECT_TRUE(window->isWindowModified());
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*] - line.tvsk - Crashed"));
+  EXPECT_TRUE(QFile::exists(copy));  // until the survey is saved
+  trigger("actionSave_Project");
+  EXPECT_TRUE(recoveryFiles().isEmpty());
+}
+
+TEST_F(Crash, isForgottenOrAskedAboutAgain) {
+  answer(QMessageBox::Cancel);
+  EXPECT_TRUE(QFile::exists(copy));
+  answer(QMessageBox::Discard);
+  EXPECT_TRUE(recoveryFiles().isEmpty());
+  EXPECT_TRUE(document().ttArray.empty());
+  window->start({});  // nothing to ask
+}
+
+TEST_F(Crash, isNotWhatHappenedToAnotherWindow) {
+  QLockFile other(copy + QStringLiteral(".lock"));
+  ASSERT_TRUE(other.tryLock(0));
+  window->start({});
+  EXPECT_TRUE(document().ttArray.empty());
+}
+
+}  // namespace
+}  // namespace talvesk::testing
