@@ -984,6 +984,18 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
             <numerusform>e altri %n</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Recover survey</source>
+        <translation>Recupera il rilievo</translation>
+    </message>
+    <message>
+        <source>Talvesk was not closed properly.</source>
+        <translation>Talvesk non è stato chiuso correttamente.</translation>
+    </message>
+    <message>
+        <source>Ask again later</source>
+        <translation>Chiedi più tardi</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::PaletteDialog</name>
@@ -1201,6 +1213,13 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>None</source>
         <translation>Nessuno</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RecoveryCopy</name>
+    <message>
+        <source>Nothing can be written in %1</source>
+        <translation>Non è possibile scrivere in %1</translation>
     </message>
 </context>
 <context>
@@ -2742,14 +2761,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Tempi di arrivo salvati in %1</translation>
     </message>
     <message>
-        <source>Projects cannot be saved yet.</source>
-        <translation>I progetti non si possono ancora salvare.</translation>
-    </message>
-    <message>
-        <source>To keep the picks, use File &gt; Export &gt; Export TravelTimes...</source>
-        <translation>Per conservare i primi arrivi usa File &gt; Esporta &gt; Esporta tempi di arrivo...</translation>
-    </message>
-    <message>
         <source>The user guide is not where it was installed.</source>
         <translation>La guida non è dove era stata installata.</translation>
     </message>
@@ -3005,6 +3016,82 @@ Do you want to run refraction processing anyway? </source>
         <translation>Insieme dei primi arrivi incompleto. 
  
 Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Progetti Talvesk (*.tvsk);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Empty filename to be saved</source>
+        <translation>Nome del file da salvare vuoto</translation>
+    </message>
+    <message>
+        <source>%1 already exists.</source>
+        <translation>%1 esiste già.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Vuoi sostituirlo?</translation>
+    </message>
+    <message>
+        <source>Something went wrong while saving project </source>
+        <translation>Qualcosa è andato storto durante il salvataggio del progetto </translation>
+    </message>
+    <message>
+        <source>WARNING: the project has NOT been saved.</source>
+        <translation>ATTENZIONE: il progetto NON è stato salvato.</translation>
+    </message>
+    <message>
+        <source>Project saved in %1</source>
+        <translation>Progetto salvato in %1</translation>
+    </message>
+    <message>
+        <source>The project has been saved.</source>
+        <translation>Il progetto è stato salvato.</translation>
+    </message>
+    <message>
+        <source>Error while loading traces: Invalid file format.</source>
+        <translation>Errore nel caricamento delle tracce: formato di file non valido.</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid project.</source>
+        <translation>%1 non è un progetto valido.</translation>
+    </message>
+    <message>
+        <source>There is no file %1</source>
+        <translation>Il file %1 non esiste</translation>
+    </message>
+    <message>
+        <source>The project as it was saved before is in %1</source>
+        <translation>Il progetto com&apos;era salvato prima si trova in %1</translation>
+    </message>
+    <message>
+        <source>Project %1 loaded.</source>
+        <translation>Progetto %1 caricato.</translation>
+    </message>
+    <message>
+        <source>Load Project</source>
+        <translation>Carica progetto</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Progetti recenti</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Svuota l&apos;elenco</translation>
+    </message>
+    <message>
+        <source>No recovery copy can be saved; save the project yourself. %1</source>
+        <translation>Non è possibile salvare una copia di recupero; salva tu il progetto. %1</translation>
+    </message>
+    <message>
+        <source>A survey that was not saved yet is there as it was at %1. Do you want to open it?</source>
+        <translation>È disponibile un rilievo non ancora salvato, com&apos;era il %1. Vuoi aprirlo?</translation>
+    </message>
+    <message>
+        <source>The project %1 is there as it was at %2. Do you want to open it?</source>
+        <translation>È disponibile il progetto %1 com&apos;era il %2. Vuoi aprirlo?</translation>
     </message>
 </context>
 <context>
@@ -3521,6 +3608,105 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>This shot has no traces</source>
         <translation>Questo tiro non ha tracce</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::progressDialog</name>
+    <message>
+        <source>Steps</source>
+        <translation>Passi</translation>
+    </message>
+    <message>
+        <source>Saving project</source>
+        <translation>Salvataggio del progetto</translation>
+    </message>
+    <message>
+        <source>Loading project</source>
+        <translation>Caricamento del progetto</translation>
+    </message>
+    <message>
+        <source>SAVED XML</source>
+        <translation>XML SALVATO</translation>
+    </message>
+    <message>
+        <source>Saving grid...</source>
+        <translation>Salvataggio della griglia...</translation>
+    </message>
+    <message>
+        <source>SAVED GRID</source>
+        <translation>GRIGLIA SALVATA</translation>
+    </message>
+    <message>
+        <source>Saving traces...</source>
+        <translation>Salvataggio delle tracce...</translation>
+    </message>
+    <message>
+        <source>SAVED TRACES</source>
+        <translation>TRACCE SALVATE</translation>
+    </message>
+    <message>
+        <source>Saving palettes...</source>
+        <translation>Salvataggio delle tavolozze...</translation>
+    </message>
+    <message>
+        <source>SAVED PALETTES</source>
+        <translation>TAVOLOZZE SALVATE</translation>
+    </message>
+    <message>
+        <source>Compressing...</source>
+        <translation>Compressione...</translation>
+    </message>
+    <message>
+        <source>COMPRESSED</source>
+        <translation>COMPRESSO</translation>
+    </message>
+    <message>
+        <source>Removing temporary files...</source>
+        <translation>Eliminazione dei file temporanei...</translation>
+    </message>
+    <message>
+        <source>COMPLETED</source>
+        <translation>COMPLETATO</translation>
+    </message>
+    <message>
+        <source>Extracted</source>
+        <translation>Estratto</translation>
+    </message>
+    <message>
+        <source>Loading XML</source>
+        <translation>Caricamento dell&apos;XML</translation>
+    </message>
+    <message>
+        <source>Loaded XML</source>
+        <translation>XML caricato</translation>
+    </message>
+    <message>
+        <source>Loading grid...</source>
+        <translation>Caricamento della griglia...</translation>
+    </message>
+    <message>
+        <source>Loaded GRID</source>
+        <translation>GRIGLIA caricata</translation>
+    </message>
+    <message>
+        <source>Loading traces...</source>
+        <translation>Caricamento delle tracce...</translation>
+    </message>
+    <message>
+        <source>Loaded TRACES</source>
+        <translation>TRACCE caricate</translation>
+    </message>
+    <message>
+        <source>Loading palettes...</source>
+        <translation>Caricamento delle tavolozze...</translation>
+    </message>
+    <message>
+        <source>Loaded PALETTES</source>
+        <translation>TAVOLOZZE caricate</translation>
+    </message>
+    <message>
+        <source>Tracing rays...</source>
+        <translation>Tracciamento dei raggi...</translation>
     </message>
 </context>
 <context>
