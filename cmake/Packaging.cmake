@@ -28,6 +28,21 @@ talvesk_install_compressed(${PROJECT_SOURCE_DIR}/resources/man/talvesk.1 talvesk
                            ${CMAKE_INSTALL_MANDIR}/man1)
 talvesk_install_compressed(${PROJECT_SOURCE_DIR}/resources/desktop/changelog changelog ${docs})
 
+set(generated ${CMAKE_CURRENT_BINARY_DIR}/generated)
+foreach(kind man bash)
+  set(file_man talvesk-batch.1)
+  set(file_bash talvesk-batch)
+  add_custom_command(OUTPUT ${generated}/${kind}/${file_${kind}}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${generated}/${kind}
+    COMMAND batch_manual ${kind} > ${generated}/${kind}/${file_${kind}}
+    DEPENDS batch_manual VERBATIM)
+endforeach()
+add_custom_target(batch_completion ALL DEPENDS ${generated}/bash/talvesk-batch)
+talvesk_install_compressed(${generated}/man/talvesk-batch.1 talvesk-batch.1
+                           ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${generated}/bash/talvesk-batch
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME talvesk)
 set(CPACK_PACKAGE_VENDOR "The Talvesk developers")

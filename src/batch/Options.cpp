@@ -1,6 +1,7 @@
 #include "batch/Options.h"
 
 #include "batch/Failure.h"
+#include "batch/Manual.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
 
@@ -66,6 +67,33 @@ void addDemo(CLI::App& app, DemoOptions& demo) {
   command.add_flag("--quiet", demo.quiet, "Print nothing but errors");
 }
 
+struct AllOptions {
+  InfoOptions info;
+  PickOptions pick;
+  InvertOptions invert;
+  RefractOptions refract;
+  ExportOptions exports;
+  ConvertOptions convert;
+  DemoOptions demo;
+};
+
+constexpr const char* kDescription =
+    "Talvesk without windows: shot records to travel times to velocity sections.";
+
+void addCommands(CLI::App& app, AllOptions& all) {
+  app.set_version_flag("--version", std::string("talvesk-batch ") + TALVESK_VERSION);
+  // One at most: an unknown word is told by its name, a missing one below.
+  app.require_subcommand(0, 1);
+  app.footer(kExitCodes);  // the commands inherit it
+  addInvert(app, all.invert);
+  addRefract(app, all.refract);
+  addPick(app, all.pick);
+  addInfo(app, all.info);
+  addExport(app, all.exports);
+  addConvert(app, all.convert);
+  addDemo(app, all.demo);
+}
+
 CLI::App* chosenCommand(const CLI::App& app) {
   const auto chosen = app.get_subcommands();
   return chosen.empty() ? nullptr : chosen.front();
@@ -74,27 +102,9 @@ CLI::App* chosenCommand(const CLI::App& app) {
 }  // namespace
 
 CommandLine parseCommandLine(int argc, const char* const* argv) {
-  InfoOptions info;
-  PickOptions pick;
-  InvertOptions invert;
-  RefractOptions refract;
-  ExportOptions exports;
-  ConvertOptions convert;
-  DemoOptions demo;
-
-  CLI::App app{"Talvesk without windows: shot records to travel times to velocity sections.",
-               "talvesk-batch"};
-  app.set_version_flag("--version", std::string("talvesk-batch ") + TALVESK_VERSION);
-  // One at most: an unknown word is told by its name, a missing one below.
-  app.require_subcommand(0, 1);
-  app.footer(kExitCodes);  // the commands inherit it
-  addInvert(app, invert);
-  addRefract(app, refract);
-  addPick(app, pick);
-  addInfo(app, info);
-  addExport(app, exports);
-  addConvert(app, convert);
-  addDemo(app, demo);
+  AllOptions all;
+  CLI::App app{kDescription, "talvesk-batch"};
+  addCommands(app, all);
   app.footer(std::string("'talvesk-batch COMMAND --help' explains a command.\n") + kExitCodes);
   wrapHelp(app);
 
@@ -118,21 +128,28 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
   }
   const std::string name = chosenCommand(app)->get_name();
   if (name == "info") {
-    result.command = std::move(info);
+    result.command = std::move(all.info);
   } else if (name == "pick") {
-    result.command = std::move(pick);
+    result.command = std::move(all.pick);
   } else if (name == "invert") {
-    result.command = std::move(invert);
+    result.command = std::move(all.invert);
   } else if (name == "refract") {
-    result.command = std::move(refract);
+    result.command = std::move(all.refract);
   } else if (name == "export") {
-    result.command = std::move(exports);
+    result.command = std::move(all.exports);
   } else if (name == "convert") {
-    result.command = std::move(convert);
+    result.command = std::move(all.convert);
   } else {
-    result.command = std::move(demo);
+    result.command = std::move(all.demo);
   }
   return result;
+}
+
+std::string manualOfCommands(ManualKind kind) {
+  AllOptions all;
+  CLI::App app{kDescription, "talvesk-batch"};
+  addCommands(app, all);
+  return kind == ManualKind::kManualPage ? manualPage(app) : bashCompletion(app);
 }
 
 }  // namespace talvesk

@@ -130,4 +130,10 @@ struct CommandLine {
 /// nothing but a number in the range that the help text names.
 CommandLine parseCommandLine(int argc, const char* const* argv);
 
+enum class ManualKind { kManualPage, kBashCompletion };
+
+/// The manual page (troff) or the completion of the shell for all commands and options, made from
+/// the same table that parses them.
+std::string manualOfCommands(ManualKind kind);
+
 }  // namespace talvesk
