@@ -1551,6 +1551,10 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>Layer %1</source>
         <translation>Strato %1</translation>
     </message>
+    <message>
+        <source>Close without keeping the changes?</source>
+        <translation>Chiudere senza conservare le modifiche?</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>

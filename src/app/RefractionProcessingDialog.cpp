@@ -131,6 +131,7 @@ void RefractionProcessingDialog::fillChoosers() {
 }
 
 void RefractionProcessingDialog::connectCurves() {
+  connect(mUi->buttonBox, &QDialogButtonBox::rejected, this, [this] { QDialog::reject(); });
   LayerCurvesPlot* curves = mUi->curvesPlot;
   const auto chosen = qOverload<int>(&QComboBox::currentIndexChanged);
   connect(mUi->selectLayerCombo, chosen, curves, &LayerCurvesPlot::setLayer);
@@ -143,6 +144,13 @@ void RefractionProcessingDialog::connectCurves() {
   connect(curves, &LayerCurvesPlot::shotChosen, this, [this](int shot) { chooseShot(shot); });
   connect(curves, &LayerCurvesPlot::marked, this, &RefractionProcessingDialog::mark);
   connect(curves, &LayerCurvesPlot::branchRead, this, &RefractionProcessingDialog::showReading);
+}
+
+void RefractionProcessingDialog::reject() {
+  if (mUndo->isClean() || askYesNo(this, tr("Refraction processing"),
+                                   tr("Close without keeping the changes?"), {}, false)) {
+    QDialog::reject();
+  }
 }
 
 void RefractionProcessingDialog::chooseShot(int shot) {

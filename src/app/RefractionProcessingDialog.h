@@ -35,6 +35,10 @@ class RefractionProcessingDialog : public QDialog {
   const refractionDataStructure::Interpretation& interpretation() const { return mWork; }
   QUndoStack* undoStack() const { return mUndo; }
 
+ public slots:
+  /// Escape and closing the window: asks when marks would be lost. The button Cancel does not ask.
+  void reject() override;
+
  private slots:
   void on_proposeButton_clicked();
   void on_clearButton_clicked();

@@ -3,6 +3,7 @@
 #include "app/Talvesk_MainWindows.h"
 #include "io/TravelTimeFile.h"
 #include "processing/ShotTime.h"
+#include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -189,6 +190,9 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
               QString::fromStdString(status.message()));
     return;
   }
+  // A profile is one of the picks that it was built from; without traces even the shots are others.
+  forgetResults(mInterpretation);
+  if (mDocument.traceSets.empty()) mInterpretation = {};
   for (editTravelTimesWidget* editor : editors()) editor->picksReplaced();
   documentChanged();
   showFresh(mCurrentFile < 0 ? 0 : mCurrentFile);

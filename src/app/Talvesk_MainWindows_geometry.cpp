@@ -1,5 +1,6 @@
 #include "app/DialogSetGeometry.h"
 #include "app/Talvesk_MainWindows.h"
+#include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -35,10 +36,7 @@ bool Talvesk_MainWindows::askGeometry() {
 void Talvesk_MainWindows::takeGeometry(const SurveyGeometry& geometry) {
   if (!applyGeometry(geometry, mDocument)) return;
   // Which pick belongs to which layer does not depend on positions; what was computed does.
-  mInterpretation.phnt_A.clear();
-  mInterpretation.phnt_R.clear();
-  mInterpretation.refractData = {};
-  for (auto& shot : mInterpretation.ttLayer) shot.trasla.assign(shot.trasla.size(), 0.0);
+  forgetResults(mInterpretation);
 
   std::vector<std::size_t> fresh;
   mShots.resize(mDocument.traceSets.size());

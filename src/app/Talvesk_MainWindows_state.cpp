@@ -1,5 +1,6 @@
 #include "app/Talvesk_MainWindows.h"
 #include "model/SurveyGeometry.h"
+#include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -35,6 +36,7 @@ void Talvesk_MainWindows::clearDocument() {
 }
 
 void Talvesk_MainWindows::documentChanged() {
+  fitToSurvey(mDocument, mInterpretation);
   mShots.resize(mDocument.traceSets.size());
   const int count = static_cast<int>(mDocument.ttArray.size());
   if (mCurrentFile >= count) mCurrentFile = count - 1;

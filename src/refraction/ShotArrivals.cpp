@@ -92,10 +92,15 @@ bool fitToSurvey(const TomoDocument& document, Interpretation& interpretation) {
     interpretation.ttLayer.push_back(std::move(fresh));
   }
   if (!hasMarks(lost)) return false;
+  forgetResults(interpretation);
+  return true;
+}
+
+void forgetResults(Interpretation& interpretation) {
   interpretation.phnt_A.clear();
   interpretation.phnt_R.clear();
   interpretation.refractData = {};
-  return true;
+  for (layerStruct& own : interpretation.ttLayer) own.trasla.assign(own.layer.size(), 0.0);
 }
 
 }  // namespace talvesk

@@ -44,6 +44,9 @@ std::uint32_t layerOf(const refractionDataStructure::layerStruct& marks, std::si
 bool fitToSurvey(const TomoDocument& document,
                  refractionDataStructure::Interpretation& interpretation);
 
+/// Forgets curves, time shifts and results; the marks stay.
+void forgetResults(refractionDataStructure::Interpretation& interpretation);
+
 /// Whether any trace is assigned to a layer.
 bool hasMarks(const std::vector<refractionDataStructure::layerStruct>& marks);
 

@@ -160,7 +160,7 @@ void LayerCurvesPlot::keyPressEvent(QKeyEvent* event) {
       walkShots(1);
       break;
     case Qt::Key_Escape:
-      // With nothing to give up, the key closes the dialog.
+      // With nothing to give up, the key is for whoever the plot is part of.
       if (!mDragging && mSelection.empty()) {
         event->ignore();
         return;

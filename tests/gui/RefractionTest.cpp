@@ -1,5 +1,6 @@
 #include "app/RefractionProcessingDialog.h"
 #include "gui/WindowTest.h"
+#include "io/TravelTimeFile.h"
 #include "support/RefractionLines.h"
 #include "widgets/LayerCurvesPlot.h"
 #include "widgets/RefractionProfilePlot.h"
@@ -125,6 +126,18 @@ TEST_F(Refraction, marksByKeys) {
   EXPECT_TRUE(dialog->isVisible()) << "the first Escape gives up the selection";
   key(Qt::Key_2);
   EXPECT_EQ(layer(1, 0), 0U) << "nothing is selected";
+}
+
+TEST_F(Refraction, asksBeforeEscapeLosesMarks) {
+  show(testing::twoDippingLayers(), false);
+  click(at(5, 20));
+  key(Qt::Key_Escape);
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    dialogs.expectBox("Refraction processing", "Close without keeping the changes?", "", answer);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(dialog->isVisible(), answer == QMessageBox::No);
+  }
+  EXPECT_TRUE(dialogs.finished());
 }
 
 TEST_F(Refraction, buildsAProfileFromAProposalAndShowsItAll) {
@@ -268,6 +281,23 @@ TEST_F(RefractionCommand, changesNothingOnCancelAndLaysTheProfileOverTheSectionO
   EXPECT_TRUE(action("actionShow_refraction").isChecked());
   action("actionShow_refraction").trigger();
   EXPECT_FALSE(action("actionShow_refraction").isChecked());
+}
+
+TEST_F(RefractionCommand, forgetsTheProfileOfPicksThatAreReplaced) {
+  answer(QDialogButtonBox::Ok);
+  const QString file = QString::fromStdString(home.file("other.otte"));
+  ASSERT_TRUE(writeTravelTimes(file.toStdString(), window->document()).ok());
+  window->document().modified = false;
+  window->openFiles({file});
+  testing::putGrid(window->document(), 30.0, 2.0);
+  window->showFile(0);
+  EXPECT_FALSE(action("actionShow_refraction").isEnabled());
+  dialogs.expect([](QWidget& dialog) {
+    EXPECT_FALSE(dialog.findChild<QPushButton*>(QStringLiteral("clearButton"))->isEnabled())
+        << "marks of another survey";
+    dialog.close();
+  });
+  action("actionRefraction").trigger();
 }
 
 TEST_F(RefractionCommand, asksAboutIncompletePicks) {
