@@ -996,6 +996,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Ask again later</source>
         <translation>Chiedi più tardi</translation>
     </message>
+    <message>
+        <source>Delete it</source>
+        <translation>Elimina la copia</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::PaletteDialog</name>

@@ -77,6 +77,8 @@ RecoveryAnswer askToRecover(QWidget* parent, const QString& details) {
   box.setInformativeText(details);
   box.setStandardButtons(QMessageBox::Open | QMessageBox::Discard | QMessageBox::Cancel);
   box.setDefaultButton(QMessageBox::Open);
+  box.button(QMessageBox::Discard)
+      ->setText(QCoreApplication::translate("talvesk::Messages", "Delete it"));
   box.button(QMessageBox::Cancel)
       ->setText(QCoreApplication::translate("talvesk::Messages", "Ask again later"));
   if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {

@@ -80,10 +80,14 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
   });
   if (result != 0) {
     mLog.write(writer.message(), 1);
+    QString details = QString::fromStdString(writer.message());
+    if (const QString kept = QString::fromStdString(writer.keptArchive()); !kept.isEmpty()) {
+      details += QLatin1Char('\n') + tr("The project as it was saved before is in %1").arg(kept);
+    }
     showError(this, tr("Error occured"),
               tr("Something went wrong while saving project ") + file + QLatin1Char('\n') +
                   tr("WARNING: the project has NOT been saved."),
-              QString::fromStdString(writer.message()));
+              details);
     return false;
   }
   mProjectFile = file;

@@ -29,6 +29,18 @@ inline void put(cereal::XMLOutputArchive& archive, const char* key, int value) {
   archive(cereal::make_nvp(key, std::to_string(value)));
 }
 
+/// Strings are marked so that their blanks stay; the archive itself marks only blanks at the ends.
+inline void put(cereal::XMLOutputArchive& archive, const char* key, const std::string& text) {
+  const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; };
+  archive.setNextName(key);
+  archive.startNode();
+  if (text.empty() || (!isBlank(text.front()) && !isBlank(text.back()))) {
+    archive.appendAttribute("xml:space", "preserve");
+  }
+  archive.saveValue(text);
+  archive.finishNode();
+}
+
 template <typename Number, typename Parse>
 void getNumber(cereal::XMLInputArchive& archive, const char* key, Number& value, Parse parse) {
   std::string text;
@@ -75,7 +87,7 @@ inline void load(cereal::XMLInputArchive& archive, ColorGradient& gradient) {
 }
 
 inline void save(cereal::XMLOutputArchive& archive, const ColorPalette& palette) {
-  archive(cereal::make_nvp("name", palette.name));
+  palettes::put(archive, "name", palette.name);
   palettes::put(archive, "n_colors", palette.n_colors);
   archive(cereal::make_nvp("is_editable", palette.is_editable));
   palettes::put(archive, "min_db", palette.min_db);

@@ -180,6 +180,7 @@ int ProjectWriter::save(const std::string& archive, const std::string& workingFo
                         const ColorPaletteList& palettes, const SectionViewSettings& section) {
   mError = false;
   mMessage.clear();
+  mKeptArchive.clear();
   mWarnings.clear();
   OldArchive old(archive);
   if (!old.moveAside()) {
@@ -195,7 +196,7 @@ int ProjectWriter::save(const std::string& archive, const std::string& workingFo
   if (result == 0) {
     old.remove();
   } else if (old.moved()) {
-    mMessage += "\nThe project as it was saved before is now in " + old.keptPath();
+    mKeptArchive = old.keptPath();
   }
   return result;
 }

@@ -26,7 +26,7 @@ class ProjectWriter : public QObject {
     std::vector<std::string> sx;
   };
 
-  /// 0, or 1 when the project is not saved; message() says why.
+  /// 0, or 1 when the project is not saved; message() says why, keptArchive() what is left.
   /// \param archive path, UTF-8; \param workingFolder ending in "/", where the temporary folder
   /// goes
   int save(const std::string& archive, const std::string& workingFolder,
@@ -34,9 +34,11 @@ class ProjectWriter : public QObject {
            const refractionDataStructure::Interpretation& interpretation,
            const ColorPaletteList& palettes, const SectionViewSettings& section = {});
 
-  bool hasError() const { return mError; }  ///< of the last save
-  /// Why the last save failed, and where the project that was there before is now.
-  const std::string& message() const { return mMessage; }
+  bool hasError() const { return mError; }                 ///< of the last save
+  const std::string& message() const { return mMessage; }  ///< why the last save failed
+  /// Where the project is now that was there before the last save, when that failed; empty when
+  /// there was none or it is where it was.
+  const std::string& keptArchive() const { return mKeptArchive; }
   /// What the user should know about a save that succeeded: shot files that are not in it.
   const std::vector<std::string>& warnings() const { return mWarnings; }
 
@@ -87,6 +89,7 @@ class ProjectWriter : public QObject {
 
   bool mError = false;
   std::string mMessage;
+  std::string mKeptArchive;
   std::vector<std::string> mWarnings;
 };
 

@@ -36,7 +36,7 @@ TEST(PaletteFile, holdsItsElementsAtTopLevelInTheirOrder) {
   palette.color_gradient.assign({{1, 0.33, 0, 1}, {0, 0, 0, 0.2F}});
   EXPECT_EQ(formatPalette(palette), R"(<?xml version="1.0" encoding="utf-8"?>
 <cereal>
-	<name>Two</name>
+	<name xml:space="preserve">Two</name>
 	<n_colors>64</n_colors>
 	<is_editable>true</is_editable>
 	<min_db>250</min_db>
