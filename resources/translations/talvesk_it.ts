@@ -1610,6 +1610,10 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Strato %1: il tiro alla fine della linea ha meno di due arrivi utilizzabili, quindi manca la dromocrona inversa.</translation>
     </message>
     <message>
+        <source>Layer %1: forward and reverse curve have fewer than two receivers in common.</source>
+        <translation>Strato %1: le dromocrone diretta e inversa hanno meno di due ricevitori in comune.</translation>
+    </message>
+    <message>
         <source>Layer %1: no shot has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
         <translation>Strato %1: nessun tiro ne ha due arrivi su un lato, quindi non ha velocità e gli strati sottostanti non hanno profondità.</translation>
     </message>

@@ -41,6 +41,10 @@ QString refractionText(const RefractionWarning& warning) {
                  "Layer %1: the shot at the end of the line has fewer than two usable picks of it, "
                  "so there is no reverse curve.")
           .arg(warning.layer);
+    case Kind::kFewCommon:
+      return Texts::tr(
+                 "Layer %1: forward and reverse curve have fewer than two receivers in common.")
+          .arg(warning.layer);
     case Kind::kNoFirstLayer:
       return Texts::tr(
                  "Layer %1: no shot has two picks of it on one side, so it has no velocity and the "

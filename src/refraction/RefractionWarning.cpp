@@ -26,6 +26,8 @@ std::string RefractionWarning::text() const {
       return which +
              "the shot at the end of the line has fewer than two usable picks of it, so "
              "there is no reverse curve.";
+    case Kind::kFewCommon:
+      return which + "forward and reverse curve have fewer than two receivers in common.";
     case Kind::kNoFirstLayer:
       return which +
              "no shot has two picks of it on one side, so it has no velocity and the layers "

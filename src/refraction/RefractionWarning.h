@@ -18,6 +18,7 @@ struct RefractionWarning {
     kNoShotPairBelow,  ///< of the second refractor
     kFewForward,       ///< fewer than two usable picks of the shot at the start
     kFewReverse,       ///< of the shot at the end
+    kFewCommon,        ///< curves with fewer than two receivers in common
     kNoFirstLayer,     ///< no branch of layer 1, so no depths
     kSlowRefractor,    ///< depths are not numbers at `count` of `total` receivers
     kOutsideUpper      ///< `count` of `total` receivers lie beyond the refractor above

@@ -57,9 +57,6 @@ TEST(Profile, recoversADippingRefractor) {
   ASSERT_EQ(results.cData.size(), 1U);
   expectRefractor(results.cData[0], testing::twoDippingLayers(), 0, 55);
   EXPECT_EQ(results.v2, results.cData[0].velocity);
-  // Near the far end there are no reverse arrivals, but the curves go on.
-  EXPECT_EQ(results.cData[0].tV.size(), interpretation.phnt_A[0].points.size());
-  EXPECT_GT(results.cData[0].x.back(), interpretation.phnt_R[0].points.back().x);
   EXPECT_THAT(console.out(), HasSubstr(" x    z    z2    tV  TV2   tg    tg2      V       V2\n0 "));
 }
 
