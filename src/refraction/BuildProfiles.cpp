@@ -33,6 +33,24 @@ struct Curves {
   phantom reverse;
 };
 
+/// Takes the receivers off the forward curve that the reverse one does not reach: the method reads
+/// both at every receiver, and beyond its last picks a spline is a cubic that soon leaves the
+/// ground.
+void matchByX(phantom& forward, const phantom& reverse) {
+  const double first = reverse.points.front().x;
+  const double last = reverse.points.back().x;
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < forward.points.size(); ++i) {
+    if (forward.points[i].x < first || forward.points[i].x > last) continue;
+    forward.points[kept] = forward.points[i];
+    forward.times[kept] = forward.times[i];
+    ++kept;
+  }
+  forward.points.resize(kept);
+  forward.times.resize(kept);
+  forward.enabled.assign(kept, true);
+}
+
 /// Forward and reverse curve of a refractor; false when there are none, with the reason.
 bool makeCurves(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
                 std::vector<layerStruct>& marks, Curves& curves, Warnings& warnings) {
@@ -51,51 +69,32 @@ bool makeCurves(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
   if (!reverse.usable()) warnings.push_back({Kind::kFewReverse, refractor, reverse.ownPicks});
   curves.forward = std::move(forward.curve);
   curves.reverse = std::move(reverse.curve);
-  return usable;
+  if (!usable) return false;
+  matchByX(curves.forward, curves.reverse);
+  if (curves.forward.points.size() >= 2) return true;
+  warnings.push_back({Kind::kFewCommon, refractor, curves.forward.points.size()});
+  return false;
 }
 
-/// The receivers of the forward curve where there are reverse arrivals, too. Farther out the
-/// reverse curve would be a cubic that left its last picks long ago.
-phantom withinReverse(const phantom& forward, const phantom& reverse) {
-  phantom common = forward;
-  common.points.clear();
-  common.times.clear();
-  const double first = reverse.points.front().x;
-  const double last = reverse.points.back().x;
-  for (std::size_t i = 0; i < forward.points.size(); ++i) {
-    if (forward.points[i].x < first || forward.points[i].x > last) continue;
-    common.points.push_back(forward.points[i]);
-    common.times.push_back(forward.times[i]);
-  }
-  common.enabled.assign(common.points.size(), true);
-  return common;
-}
-
-/// tV, tG and velocities of a refractor from its curves, whose reciprocal times are set.
-bool interpretRefractor(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
-                        Curves& curves, computedData& result, Warnings& warnings) {
+/// tV and tG of a refractor from its curves.
+void interpretRefractor(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
+                        Curves& curves, computedData& result) {
   const double xA = shots[static_cast<std::size_t>(curves.pair.a)].shot.x;
   const double xB = shots[static_cast<std::size_t>(curves.pair.b)].shot.x;
   const double tAB = reciprocalTime(curves.forward, curves.reverse, xA, xB);
   if (refractor == kSecondRefractor) {
     console::out() << " TAB 3 \nTAB3 : " << formatDouble(tAB) << '\n';
   }
-  const phantom forward = withinReverse(curves.forward, curves.reverse);
-  if (forward.points.size() < 2) {
-    warnings.push_back({Kind::kFewCommon, refractor, forward.points.size()});
-    return false;
-  }
-  for (const Point2D& point : forward.points) {
+  for (const Point2D& point : curves.forward.points) {
     result.x.push_back(point.x);
     result.elevation.push_back(point.z);
   }
   const std::size_t chosen = indexOfXY(result.chosenXY);
   result.chosenXY = kXYFamily[chosen];
-  result.tVs = buildTV(forward, curves.reverse, tAB);
+  result.tVs = buildTV(curves.forward, curves.reverse, tAB);
   result.tV = memberOf(result.tVs, chosen);
-  result.tGs = buildTG(forward, curves.reverse, tAB, result.tV);
+  result.tGs = buildTG(curves.forward, curves.reverse, tAB, result.tV);
   result.tG = memberOf(result.tGs, chosen);
-  return true;
 }
 
 void findVelocity(std::uint32_t refractor, computedData& result, Warnings& warnings) {
@@ -168,8 +167,7 @@ ProfileOutcome buildProfiles(const std::vector<ShotArrivals>& shots,
     Curves curves;
     computedData result = rebuilt(interpretation.refractData, refractor - kFirstRefractor);
     if (!makeCurves(shots, refractor, work.ttLayer, curves, outcome.warnings)) return false;
-    const bool interpreted = interpretRefractor(shots, refractor, curves, result, outcome.warnings);
-    if (!interpreted) return false;
+    interpretRefractor(shots, refractor, curves, result);
     work.phnt_A.push_back(std::move(curves.forward));
     work.phnt_R.push_back(std::move(curves.reverse));
     results.cData.push_back(std::move(result));

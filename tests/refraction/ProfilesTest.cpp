@@ -14,6 +14,7 @@ namespace {
 
 using refractionDataStructure::computedData;
 using refractionDataStructure::Interpretation;
+using refractionDataStructure::phantom;
 using testing::ConsoleCapture;
 using testing::DippingLayers;
 using ::testing::HasSubstr;
@@ -75,6 +76,27 @@ TEST(Profile, recoversTwoDippingRefractors) {
   for (const char* mark : {"Phantom 3\n", " TAB 3 ", "TAB3 : "}) {
     EXPECT_THAT(console.out(), HasSubstr(mark));
   }
+}
+
+TEST(Profile, ofReceiversThatBothCurvesReach) {
+  const ConsoleCapture console;
+  Interpretation interpretation;
+  const TomoDocument line =
+      testing::standardDippingLine(testing::twoDippingLayers(), interpretation.ttLayer);
+  // As on most lines: no refracted arrivals near the shot at the far end.
+  const double end = 40.0;
+  for (std::size_t shot = 0; shot < line.ttArray.size(); ++shot) {
+    const auto& receivers = line.goephonesStringSet[0];
+    for (std::size_t i = 0; i < receivers.size(); ++i) {
+      const bool facesEnd = receivers[i].x < line.ttArray[shot].shotPos2d.x;
+      if (facesEnd && receivers[i].x > end) interpretation.ttLayer[shot].layer[i] = 0;
+    }
+  }
+  ASSERT_TRUE(buildProfiles(shotArrivals(line), interpretation).built);
+  const phantom& forward = interpretation.phnt_A[0];
+  EXPECT_EQ(forward.points.back().x, end);
+  EXPECT_EQ(interpretation.refractData.cData[0].tV.size(), forward.points.size());
+  EXPECT_EQ(interpretation.refractData.cData[0].x.back(), end);
 }
 
 TEST(Profile, keepsTheChosenXY) {
