@@ -23,6 +23,7 @@ std::string timeStamp() {
 }  // namespace
 
 void Log::write(const std::string& message, int level) {
+  const std::lock_guard<std::mutex> line(mMutex);
   const std::string stamp = "[" + timeStamp() + "] ";
   const bool isError = level == 1;
   if (!mPath.empty() && !mFile.is_open()) {

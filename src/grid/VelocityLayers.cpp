@@ -71,28 +71,48 @@ Splines::CubicSpline layerSpline(const std::vector<VelocityLayer>& layers) {
   return spline;
 }
 
-Status buildLayeredGrid(const Grid& current, const std::vector<VelocityLayer>& layers,
-                        const Splines::Spline& surface, std::unique_ptr<Grid>& out) {
+Status checkLayers(const GridSize& size, const std::vector<VelocityLayer>& layers) {
   const std::vector<VelocityLayer> accepted = acceptedLayers(layers);
   if (accepted.empty()) {
     return Status::failure(
         "No layer is left: a layer's final depth must be greater than its "
         "initial depth, and that not negative.");
   }
-  const GridSize& size = current.geometry().size();
   try {
-    const Splines::CubicSpline velocityOfDepth = layerSpline(accepted);
-    const std::string problem = invalidVelocity(size, velocityOfDepth);
-    if (!problem.empty()) return Status::failure(problem);
-    std::unique_ptr<Grid> grid = buildGridFromVelocity(
-        size, [&](double depth) { return velocityOfDepth(depth); }, surface);
-    if (!grid) return Status::failure("The grid of the layered model could not be built.");
-    out = std::move(grid);
+    const std::string problem = invalidVelocity(size, layerSpline(accepted));
+    return problem.empty() ? Status() : Status::failure(problem);
   } catch (const std::exception& error) {
     return Status::failure(std::string("The layers make no velocity model. Order them by depth, "
                                        "without overlap, each more than 0.02 m thick. ") +
                            error.what());
   }
+}
+
+VelocityCurve sampleLayers(const std::vector<VelocityLayer>& layers, double depth, int points) {
+  VelocityCurve curve;
+  if (points < 2 || !(depth > 0.0) || !std::isfinite(depth)) return curve;
+  try {
+    const Splines::CubicSpline velocityOfDepth = layerSpline(acceptedLayers(layers));
+    for (int i = 0; i < points; ++i) {
+      curve.depths.push_back(depth * i / (points - 1));
+      curve.velocities.push_back(velocityOfDepth(curve.depths.back()));
+    }
+  } catch (const std::exception&) {
+    return {};
+  }
+  return curve;
+}
+
+Status buildLayeredGrid(const Grid& current, const std::vector<VelocityLayer>& layers,
+                        const Splines::Spline& surface, std::unique_ptr<Grid>& out) {
+  const GridSize& size = current.geometry().size();
+  Status status = checkLayers(size, layers);
+  if (!status.ok()) return status;
+  const Splines::CubicSpline velocityOfDepth = layerSpline(acceptedLayers(layers));
+  std::unique_ptr<Grid> grid = buildGridFromVelocity(
+      size, [&](double depth) { return velocityOfDepth(depth); }, surface);
+  if (!grid) return Status::failure("The grid of the layered model could not be built.");
+  out = std::move(grid);
   return {};
 }
 

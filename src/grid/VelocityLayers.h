@@ -30,6 +30,19 @@ std::vector<VelocityLayer> acceptedLayers(const std::vector<VelocityLayer>& laye
 /// lowest 0.01 m above the layer's bottom. Throws std::runtime_error when it cannot be built.
 Splines::CubicSpline layerSpline(const std::vector<VelocityLayer>& layers);
 
+/// Refuses layers that make no model for the rows of such a grid: no layer left, no spline through
+/// them, or a spline that swings to a velocity that is not positive, with depth and velocity.
+Status checkLayers(const GridSize& size, const std::vector<VelocityLayer>& layers);
+
+/// The spline of the layers' model as a curve.
+struct VelocityCurve {
+  std::vector<double> depths;      ///< metres, ascending from 0
+  std::vector<double> velocities;  ///< m/s, as many; any number, also where there is no such ground
+};
+
+/// The spline at `points` even depths from 0 to `depth` metres; empty when there is none.
+VelocityCurve sampleLayers(const std::vector<VelocityLayer>& layers, double depth, int points);
+
 /// A grid of the same sizes and surface whose rows take the spline's velocity at the depth of their
 /// top. Fails, naming depth and velocity, where the spline swings to a velocity that is not
 /// positive, and when no layer is left.

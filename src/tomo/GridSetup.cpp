@@ -137,8 +137,36 @@ Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& lay
   std::unique_ptr<Grid> grid;
   Status status = buildLayeredGrid(*document.grid, accepted, document.surface, grid);
   if (!status.ok()) return status;
+  std::vector<double> noInformation(grid->cellCount(), -1.0);
+  forgetInversion(document);
+  document.info_density = std::move(noInformation);
   document.grid = std::move(grid);
   document.layers = accepted;
+  document.modified = true;
+  return {};
+}
+
+Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric) {
+  if (document.grid == nullptr || document.grid->cellCount() == 0) {
+    return Status::failure("There is no grid with cells; build the grid first.");
+  }
+  if (radius < 1) return Status::failure("The smoothing parameter must be 1 at least.");
+  const Grid& current = *document.grid;
+  try {
+    std::vector<std::uint32_t> hits = document.hitCounts;
+    hits.resize(current.cellCount(), 0);  // without an inversion no ray passed anywhere
+    auto smoothed = std::make_unique<Grid>(
+        current.sharedGeometry(),
+        smoothSlowness(type, current, hits, radius, verticalRatio(symmetric)));
+    const std::string invalid = smoothed->invalidSlowness();
+    if (!invalid.empty()) {
+      return Status::failure("The smoothed velocity model cannot be used: " + invalid);
+    }
+    for (std::uint32_t c = 0; c < current.cellCount(); ++c) smoothed->setDraw(c, current.draw(c));
+    document.grid = std::move(smoothed);
+  } catch (const std::exception& error) {
+    return Status::failure(std::string("The grid could not be smoothed: ") + error.what());
+  }
   document.modified = true;
   return {};
 }

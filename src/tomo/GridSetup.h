@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "base/Status.h"
 #include "model/TomoDocument.h"
+#include "tomo/Smoothing.h"
 
 #include <vector>
 
@@ -25,7 +26,14 @@ GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& lo
 /// (no geometry, too large, exception) the document keeps its grid.
 Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log);
 
-/// Replaces the document's grid by one with a layered model and keeps the layers.
+/// Replaces the document's grid by one with a layered model and keeps the layers. What an inversion
+/// through the grid before left is forgotten.
 Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers);
+
+/// Smooths the slownesses of the document's grid and replaces the grid by one that has them. The
+/// geometry stays, and so do rays, coverage, draw flags and misfit: as after an inversion, they are
+/// those of the last rays, which were traced before the smoothing.
+/// \param radius smoothing parameter, cells, at least 1 \param symmetric see verticalRatio()
+Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric);
 
 }  // namespace talvesk

@@ -3,6 +3,9 @@
 #include "support/TestFolder.h"
 
 #include <regex>
+#include <sstream>
+#include <thread>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -65,6 +68,25 @@ TEST(Log, withoutAFileReachesTheConsoleOnly) {
   log.write("hello");
   EXPECT_EQ(console.error(), "");
   EXPECT_PRED2(isStamped, console.out(), "hello");
+}
+
+TEST(Log, keepsLinesOfSeveralThreadsWhole) {
+  const TestFolder folder;
+  const ConsoleCapture console;
+  Log log(folder.file("run.log"));
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([&log] {
+      for (int k = 0; k < 200; ++k) log.write("one line of many");
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  std::istringstream lines(TestFolder::get(log.path()));
+  int whole = 0;
+  for (std::string line; std::getline(lines, line); ++whole) {
+    ASSERT_PRED2(isStamped, line + "\n", "one line of many");
+  }
+  EXPECT_EQ(whole, 800);
 }
 
 }  // namespace

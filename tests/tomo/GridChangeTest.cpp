@@ -1,0 +1,121 @@
+#include "TestInversion.h"
+#include "support/ConsoleCapture.h"
+#include "tomo/GridPreview.h"
+#include "tomo/GridSetup.h"
+#include "tomo/InversionCopy.h"
+
+#include <gtest/gtest.h>
+
+namespace talvesk {
+namespace {
+
+std::vector<bool> drawn(const Grid& grid) {
+  std::vector<bool> flags;
+  for (std::uint32_t c = 0; c < grid.cellCount(); ++c) flags.push_back(grid.draw(c));
+  return flags;
+}
+
+TomoDocument inverted() {
+  const testing::ConsoleCapture console;
+  TomoDocument line = testing::twoLayers();
+  Log log;
+  EXPECT_TRUE(runInversion(line, testing::fewIterations(), log).status.ok());
+  return line;
+}
+
+TEST(GridPreview, countsWhatTheGridWillHave) {
+  const testing::ConsoleCapture console;
+  for (const GridSettings& settings : {GridSettings{4.6, 1.0, 7}, GridSettings{9.0, 3.0, 6}}) {
+    TomoDocument line = testing::testLine(10, 2.0, {-1.5, 9.0}, 1.0);
+    const GridPreview preview = previewGrid(line.surveyProfile(), settings, 1);
+    Log log;
+    ASSERT_TRUE(setUpGrid(line, settings, log).ok());
+    EXPECT_EQ(preview.size.righe, line.grid->righe());
+    EXPECT_EQ(preview.size.col, line.grid->col());
+    EXPECT_EQ(preview.cells, line.grid->cellCount());
+    EXPECT_EQ(preview.nodes, line.grid->nodeCount());
+    EXPECT_GT(preview.bytes, 0.0);
+    EXPECT_TRUE(preview.status.ok());
+  }
+}
+
+TEST(GridPreview, findsOutsideWhatTheGridHasNoNodeFor) {
+  const testing::ConsoleCapture console;
+  for (double cell = 0.5; cell < 12.0; cell += 0.25) {
+    TomoDocument line = testing::testLine(24, 2.0, {-1.0, 47.0});
+    const SurveyProfile profile = line.surveyProfile();
+    Log log;
+    ASSERT_TRUE(setUpGrid(line, {10.0, cell, 6}, log).ok());
+    int outside = 0;
+    for (const double x : profile.x) {
+      if (line.grid->geometry().topNodeIndex(x + profile.xOffset) == kNoNode) ++outside;
+    }
+    EXPECT_EQ(previewGrid(profile, {10.0, cell, 6}, 1).outside, outside) << cell;
+  }
+}
+
+TEST(GridPreview, saysWhatCannotBeBuilt) {
+  const SurveyProfile profile = testing::testLine(24, 2.0, {0.0}).surveyProfile();
+  EXPECT_FALSE(previewGrid(profile, {10.0, 0.0, 6}, 1).status.ok());
+  EXPECT_FALSE(previewGrid(profile, {10.0, 60.0, 6}, 1).status.ok());
+  EXPECT_NE(previewGrid(profile, {20.0, 1e-6, 6}, 1).status.message().find("nodes"),
+            std::string::npos);
+}
+
+TEST(SmoothGrid, changesSlownessesAndNothingElse) {
+  TomoDocument line = inverted();
+  const Grid before = *line.grid;
+  const double misfit = line.RMSE_tomography;
+  const auto rays = line.rays;
+  line.modified = false;
+  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 3, true).ok());
+  EXPECT_EQ(line.grid->slownesses(),
+            smoothSlowness(SmoothingType::kRayBased, before, line.hitCounts, 3, 1.0));
+  EXPECT_NE(line.grid->slownesses(), before.slownesses());
+  EXPECT_EQ(drawn(*line.grid), drawn(before));
+  EXPECT_EQ(&line.grid->geometry(), &before.geometry());
+  EXPECT_EQ(line.rays, rays);
+  EXPECT_EQ(line.RMSE_tomography, misfit);
+  EXPECT_TRUE(line.hasTomographicInfo && line.modified);
+}
+
+TEST(SmoothGrid, worksWithoutAnInversionAndRefusesWhatMakesNoSense) {
+  TomoDocument line = testing::twoLayers();
+  const std::vector<double> before = line.grid->slownesses();
+  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 0, false).ok());
+  EXPECT_EQ(line.grid->slownesses(), before);
+  EXPECT_FALSE(line.modified);
+  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 2, false).ok());
+  EXPECT_NE(line.grid->slownesses(), before);
+  line.grid.reset();
+  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 2, false).ok());
+}
+
+TEST(InversionCopy, bringsHomeWhatTheInversionOfTheDocumentWouldLeave) {
+  const TomoDocument direct = inverted();
+  const testing::ConsoleCapture console;
+  TomoDocument line = testing::twoLayers();
+  const Grid atFirst = *line.grid;
+  TomoDocument copy = inversionCopy(line);
+  Log log;
+  ASSERT_TRUE(runInversion(copy, testing::fewIterations(), log).status.ok());
+  EXPECT_EQ(line.grid->slownesses(), atFirst.slownesses()) << "the document waits untouched";
+  EXPECT_TRUE(line.ttArray[0].ttCalcolati.empty());
+  takeInversion(line, copy);
+  EXPECT_EQ(line.grid->slownesses(), direct.grid->slownesses());
+  EXPECT_EQ(drawn(*line.grid), drawn(*direct.grid));
+  EXPECT_EQ(line.rays, direct.rays);
+  EXPECT_EQ(line.hitCounts, direct.hitCounts);
+  EXPECT_EQ(line.coorcount, direct.coorcount);
+  EXPECT_EQ(line.info_density, direct.info_density);
+  EXPECT_EQ(line.RMSE_tomography, direct.RMSE_tomography);
+  EXPECT_EQ(line.coverageLimit.size(), direct.coverageLimit.size());
+  EXPECT_EQ(line.coverageSpline.has_value(), direct.coverageSpline.has_value());
+  for (std::size_t s = 0; s < line.ttArray.size(); ++s) {
+    EXPECT_EQ(line.ttArray[s].ttCalcolati, direct.ttArray[s].ttCalcolati) << s;
+  }
+  EXPECT_TRUE(line.hasTomographicInfo);
+}
+
+}  // namespace
+}  // namespace talvesk
