@@ -186,6 +186,13 @@
             <numerusform>%n traces stay as they were.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n external iteration(s) completed.</source>
+        <translation>
+            <numerusform>%n external iteration completed.</numerusform>
+            <numerusform>%n external iterations completed.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::contourlines_dialog</name>
@@ -204,6 +211,16 @@
         <translation>
             <numerusform>%n trace stays as it was.</numerusform>
             <numerusform>%n traces stay as they were.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::gridDialog</name>
+    <message numerus="yes">
+        <source>%n position(s) at the end of the line lie beyond the last column and take no part in an inversion. Another cell size may reach them.</source>
+        <translation>
+            <numerusform>%n position at the end of the line lies beyond the last column and takes no part in an inversion. Another cell size may reach it.</numerusform>
+            <numerusform>%n positions at the end of the line lie beyond the last column and take no part in an inversion. Another cell size may reach them.</numerusform>
         </translation>
     </message>
 </context>

@@ -1002,6 +1002,21 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::MisfitPlot</name>
+    <message>
+        <source>Misfit after every external iteration</source>
+        <translation>Scarto dopo ogni iterazione esterna</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Iterazione esterna</translation>
+    </message>
+    <message>
+        <source>RMSE (ms)</source>
+        <translation>RMSE (ms)</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::PaletteDialog</name>
     <message>
         <source>Palette Settings</source>
@@ -3101,6 +3116,103 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>The project %1 is there as it was at %2. Do you want to open it?</source>
         <translation>È disponibile il progetto %1 com&apos;era il %2. Vuoi aprirlo?</translation>
     </message>
+    <message>
+        <source>Geophones do not have geometry! 
+</source>
+        <translation>I geofoni non hanno geometria! 
+</translation>
+    </message>
+    <message>
+        <source>Please set the position of geophones
+</source>
+        <translation>Impostare la posizione dei geofoni
+</translation>
+    </message>
+    <message>
+        <source>Grid of %1 rows and %2 columns built.</source>
+        <translation>Creata una griglia di %1 righe e %2 colonne.</translation>
+    </message>
+    <message>
+        <source>The grid could not be built.</source>
+        <translation>Non è stato possibile creare la griglia.</translation>
+    </message>
+    <message>
+        <source>The grid has the velocities of the layers.</source>
+        <translation>La griglia ha le velocità degli strati.</translation>
+    </message>
+    <message>
+        <source>The grid could not be smoothed.</source>
+        <translation>Non è stato possibile smussare la griglia.</translation>
+    </message>
+    <message>
+        <source>The velocities of the grid are smoothed.</source>
+        <translation>Le velocità della griglia sono state smussate.</translation>
+    </message>
+    <message>
+        <source>Warning:</source>
+        <translation>Attenzione:</translation>
+    </message>
+    <message>
+        <source>Uncomplete set of picks. 
+ 
+</source>
+        <translation>Insieme di picking incompleto. 
+ 
+</translation>
+    </message>
+    <message>
+        <source>Do you want to run tomography inversion anyway? </source>
+        <translation>Eseguire comunque l&apos;inversione tomografica? </translation>
+    </message>
+    <message>
+        <source>An inversion is under way; the survey cannot be edited.</source>
+        <translation>Un&apos;inversione è in corso; il rilievo non può essere modificato.</translation>
+    </message>
+    <message>
+        <source>Tomography inversion</source>
+        <translation>Inversione tomografica</translation>
+    </message>
+    <message>
+        <source>The inversion is still running.</source>
+        <translation>L&apos;inversione è ancora in corso.</translation>
+    </message>
+    <message>
+        <source>Do you want to stop it when the iteration under way is completed, and close then?</source>
+        <translation>Fermarla al termine dell&apos;iterazione in corso e poi chiudere?</translation>
+    </message>
+    <message>
+        <source>The inversion could not be completed.</source>
+        <translation>Non è stato possibile completare l&apos;inversione.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n external iteration(s) completed.</source>
+        <translation>
+            <numerusform>%n iterazione esterna completata.</numerusform>
+            <numerusform>%n iterazioni esterne completate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Inversion results</source>
+        <translation>Risultati dell&apos;inversione</translation>
+    </message>
+    <message>
+        <source>Elapsed time: [s] %1
+</source>
+        <translation>Tempo trascorso: [s] %1
+</translation>
+    </message>
+    <message>
+        <source>RMSE: [ms] %1; [%] %2
+</source>
+        <translation>RMSE: [ms] %1; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>MaxError: [ms] %1; [%] %2
+</source>
+        <translation>Errore massimo: [ms] %1; [%] %2
+</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -3556,6 +3668,29 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     </message>
 </context>
 <context>
+    <name>talvesk::draw1DVelocityProfile</name>
+    <message>
+        <source>Velocity against depth</source>
+        <translation>Velocità in funzione della profondità</translation>
+    </message>
+    <message>
+        <source>Velocity (m/s)</source>
+        <translation>Velocità (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth below the ground (m)</source>
+        <translation>Profondità dal suolo (m)</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Strati</translation>
+    </message>
+    <message>
+        <source>Velocity that the grid gets</source>
+        <translation>Velocità che avrà la griglia</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::editTravelTimesWidget</name>
     <message>
         <source>Seismic traces</source>
@@ -3616,6 +3751,96 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>This shot has no traces</source>
         <translation>Questo tiro non ha tracce</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::gridDialog</name>
+    <message>
+        <source>Grid Settings</source>
+        <translation>Impostazioni della griglia</translation>
+    </message>
+    <message>
+        <source>Array length (m)</source>
+        <translation>Lunghezza dello stendimento (m)</translation>
+    </message>
+    <message>
+        <source>Max. depth (m)</source>
+        <translation>Profondità massima (m)</translation>
+    </message>
+    <message>
+        <source>A deeper grid costs time and memory. Rays rarely reach deeper than a quarter to a third of the distance between the outermost shots.</source>
+        <translation>Una griglia più profonda costa tempo e memoria. I raggi raramente scendono oltre un quarto o un terzo della distanza fra gli scoppi più esterni.</translation>
+    </message>
+    <message>
+        <source>Cell size (m)</source>
+        <translation>Lato delle celle (m)</translation>
+    </message>
+    <message>
+        <source>Smaller cells draw finer detail and fit the times closer, but rays cover each cell less, and time and memory grow with the inverse square. A quarter of the geophone spacing is a good start.</source>
+        <translation>Celle più piccole mostrano dettagli più fini e si adattano meglio ai tempi, ma ogni cella è coperta da meno raggi, e tempo e memoria crescono con l&apos;inverso del quadrato. Un quarto della distanza fra i geofoni è un buon inizio.</translation>
+    </message>
+    <message>
+        <source>N° of nodes per cell side</source>
+        <translation>N° di nodi per lato di cella</translation>
+    </message>
+    <message>
+        <source>More nodes let rays leave a cell at more angles, so computed times get more accurate; time and memory grow with the number. Beyond 15 little is gained.</source>
+        <translation>Con più nodi i raggi possono lasciare una cella con più angoli, e i tempi calcolati diventano più accurati; tempo e memoria crescono con il numero. Oltre 15 si guadagna poco.</translation>
+    </message>
+    <message>
+        <source>The grid will have</source>
+        <translation>La griglia avrà</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonne</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Righe</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Celle</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nodi</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Memoria</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>The grid has no rows: choose a greater depth or smaller cells.</source>
+        <translation>La griglia non ha righe: scegliere una profondità maggiore o celle più piccole.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) at the end of the line lie beyond the last column and take no part in an inversion. Another cell size may reach them.</source>
+        <translation>
+            <numerusform>%n posizione alla fine della linea è oltre l&apos;ultima colonna e non partecipa a un&apos;inversione. Un altro lato delle celle può raggiungerla.</numerusform>
+            <numerusform>%n posizioni alla fine della linea sono oltre l&apos;ultima colonna e non partecipano a un&apos;inversione. Un altro lato delle celle può raggiungerle.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Invalid parameter</source>
+        <translation>Parametro non valido</translation>
+    </message>
+    <message>
+        <source>The max depth parameter set to 0.0 is not valid for tomography</source>
+        <translation>La profondità massima impostata a 0.0 non è valida per la tomografia</translation>
+    </message>
+    <message>
+        <source>Memory warning</source>
+        <translation>Avviso sulla memoria</translation>
+    </message>
+    <message>
+        <source>A large number of nodes may require a lot of memory</source>
+        <translation>Un numero elevato di nodi può richiedere molta memoria</translation>
     </message>
 </context>
 <context>
@@ -3715,6 +3940,167 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Tracing rays...</source>
         <translation>Tracciamento dei raggi...</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::progressTomographyDialog</name>
+    <message>
+        <source>Tomography inversion</source>
+        <translation>Inversione tomografica</translation>
+    </message>
+    <message>
+        <source>Ends the inversion after the external iteration under way and keeps what it has reached</source>
+        <translation>Termina l&apos;inversione dopo l&apos;iterazione esterna in corso e conserva quanto ha raggiunto</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Ferma</translation>
+    </message>
+    <message>
+        <source>Completed iteration %1</source>
+        <translation>Iterazione %1 completata</translation>
+    </message>
+    <message>
+        <source>Elapsed: %1</source>
+        <translation>Trascorso: %1</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>non ancora noto</translation>
+    </message>
+    <message>
+        <source>Remaining: %1</source>
+        <translation>Rimanente: %1</translation>
+    </message>
+    <message>
+        <source>Stops when the iteration under way is completed.</source>
+        <translation>Si ferma al termine dell&apos;iterazione in corso.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::runTomography_Dialog</name>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Esegui l&apos;inversione tomografica</translation>
+    </message>
+    <message>
+        <source>Number of external iterations (default =5)</source>
+        <translation>Numero di iterazioni esterne (predefinito =5)</translation>
+    </message>
+    <message>
+        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little.</source>
+        <translation>Ogni iterazione esterna traccia di nuovo i raggi attraverso il modello ottenuto finora. Con più iterazioni i raggi si avvicinano alla realtà e lo scarto diminuisce; il tempo cresce con il numero. Quando la curva dello scarto si è appiattita, altre cambiano poco.</translation>
+    </message>
+    <message>
+        <source>Number of solver iterations (default =20)</source>
+        <translation>Numero di iterazioni del risolutore (predefinito =20)</translation>
+    </message>
+    <message>
+        <source>How far the velocities are corrected along the same rays before these are traced anew. More fit the times closer but may overfit noise; fewer keep the model smoother.</source>
+        <translation>Quanto le velocità vengono corrette lungo gli stessi raggi prima che questi siano tracciati di nuovo. Con più iterazioni i tempi si adattano meglio, ma si può inseguire il rumore; con meno il modello resta più morbido.</translation>
+    </message>
+    <message>
+        <source>Smoothing parameter (default =5) </source>
+        <translation>Parametro di smussamento (predefinito =5) </translation>
+    </message>
+    <message>
+        <source>How many cells to each side are averaged after every external iteration. Larger gives a smoother section that hides small bodies; smaller shows detail and artefacts along rays.</source>
+        <translation>Quante celle per parte vengono mediate dopo ogni iterazione esterna. Un valore maggiore dà una sezione più morbida che nasconde i corpi piccoli; uno minore mostra dettagli e artefatti lungo i raggi.</translation>
+    </message>
+    <message>
+        <source>Minimum velocity [m/s]</source>
+        <translation>Velocità minima [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get slower than this. Set it to the slowest ground that you expect.</source>
+        <translation>Nessuna cella diventa più lenta di così. Impostare il terreno più lento che ci si aspetta.</translation>
+    </message>
+    <message>
+        <source>Maximum velocity [m/s]</source>
+        <translation>Velocità massima [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get faster than this. Set it to the fastest rock that you expect.</source>
+        <translation>Nessuna cella diventa più veloce di così. Impostare la roccia più veloce che ci si aspetta.</translation>
+    </message>
+    <message>
+        <source>Type of smoothing:</source>
+        <translation>Tipo di smussamento:</translation>
+    </message>
+    <message>
+        <source>Uniform averages all cells alike; linear and Gaussian give near cells more weight and keep contrasts sharper; ray based first fills the cells that no ray crossed from those that rays did.</source>
+        <translation>Quello uniforme media tutte le celle allo stesso modo; quello lineare e quello gaussiano danno più peso alle celle vicine e mantengono più netti i contrasti; quello basato sui raggi riempie prima le celle che nessun raggio ha attraversato partendo da quelle attraversate.</translation>
+    </message>
+    <message>
+        <source>Uniform weighted smoothing</source>
+        <translation>Smussamento a pesi uniformi</translation>
+    </message>
+    <message>
+        <source>Linear weighted smoothing</source>
+        <translation>Smussamento a pesi lineari</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted smoothing</source>
+        <translation>Smussamento a pesi gaussiani</translation>
+    </message>
+    <message>
+        <source>Ray based smoothing</source>
+        <translation>Smussamento basato sui raggi</translation>
+    </message>
+    <message>
+        <source>Unchecked, the smoothing reaches 0.7 times as far up and down as sideways, which suits layered ground. Checked, it reaches equally far, which suits bodies and steep contacts.</source>
+        <translation>Se non è spuntato, lo smussamento arriva in verticale a 0,7 volte la distanza che raggiunge in orizzontale, come conviene a un terreno stratificato. Se è spuntato, arriva altrettanto lontano, come conviene a corpi isolati e contatti ripidi.</translation>
+    </message>
+    <message>
+        <source>Symmetric smoothing</source>
+        <translation>Smussamento simmetrico</translation>
+    </message>
+    <message>
+        <source>Uses one processor only. The result is the same to the last digit; it just takes longer.</source>
+        <translation>Usa un solo processore. Il risultato è lo stesso fino all&apos;ultima cifra; ci vuole solo più tempo.</translation>
+    </message>
+    <message>
+        <source>Run in single thread mode</source>
+        <translation>Esegui con un solo thread</translation>
+    </message>
+    <message>
+        <source>The minimum is above the maximum: every cell that changes will end at the maximum.</source>
+        <translation>Il minimo è sopra il massimo: ogni cella che cambia finirà al massimo.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::select_speed_Dialog</name>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Definisci le velocità del modello</translation>
+    </message>
+    <message>
+        <source>Depths in metres below the ground, velocities in m/s</source>
+        <translation>Profondità dal suolo in metri, velocità in m/s</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Strati</translation>
+    </message>
+    <message>
+        <source>Splits the last layer at its middle</source>
+        <translation>Divide a metà l&apos;ultimo strato</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Removes the layers that are checked or selected</source>
+        <translation>Rimuove gli strati spuntati o selezionati</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model.</source>
+        <translation>Gli strati non formano un modello di velocità.</translation>
     </message>
 </context>
 <context>
@@ -3843,6 +4229,96 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Check the coordinates.</source>
         <translation>Controllare le coordinate.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::setVelocityWidget</name>
+    <message>
+        <source>Marks the layer for Remove</source>
+        <translation>Segna lo strato per Rimuovi</translation>
+    </message>
+    <message>
+        <source>Initial depth   </source>
+        <translation>Profondità iniziale   </translation>
+    </message>
+    <message>
+        <source>Depth of the layer&apos;s top below the ground, metres</source>
+        <translation>Profondità del tetto dello strato dal suolo, metri</translation>
+    </message>
+    <message>
+        <source>    Velocity</source>
+        <translation>    Velocità</translation>
+    </message>
+    <message>
+        <source>Velocity at the layer&apos;s top, m/s</source>
+        <translation>Velocità al tetto dello strato, m/s</translation>
+    </message>
+    <message>
+        <source>Final depth</source>
+        <translation>Profondità finale</translation>
+    </message>
+    <message>
+        <source>Depth of the layer&apos;s bottom below the ground, metres</source>
+        <translation>Profondità della base dello strato dal suolo, metri</translation>
+    </message>
+    <message>
+        <source>    Velocity  </source>
+        <translation>    Velocità  </translation>
+    </message>
+    <message>
+        <source>Velocity at the layer&apos;s bottom, m/s</source>
+        <translation>Velocità alla base dello strato, m/s</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::smoothingDialog</name>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Applica lo smussamento</translation>
+    </message>
+    <message>
+        <source>Smooths the velocities of the present grid. Rays and misfit stay those of the last inversion.</source>
+        <translation>Smussa le velocità della griglia attuale. Raggi e scarto restano quelli dell&apos;ultima inversione.</translation>
+    </message>
+    <message>
+        <source>&amp;Type of smoothing:</source>
+        <translation>&amp;Tipo di smussamento:</translation>
+    </message>
+    <message>
+        <source>Uniform averages all cells alike; linear and Gaussian give near cells more weight and keep contrasts sharper; ray based first fills the cells that no ray crossed from those that rays did.</source>
+        <translation>Quello uniforme media tutte le celle allo stesso modo; quello lineare e quello gaussiano danno più peso alle celle vicine e mantengono più netti i contrasti; quello basato sui raggi riempie prima le celle che nessun raggio ha attraversato partendo da quelle attraversate.</translation>
+    </message>
+    <message>
+        <source>Uniform weighted smoothing</source>
+        <translation>Smussamento a pesi uniformi</translation>
+    </message>
+    <message>
+        <source>Linear weighted smoothing</source>
+        <translation>Smussamento a pesi lineari</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted smoothing</source>
+        <translation>Smussamento a pesi gaussiani</translation>
+    </message>
+    <message>
+        <source>Ray based smoothing</source>
+        <translation>Smussamento basato sui raggi</translation>
+    </message>
+    <message>
+        <source>Smoothing &amp;parameter:</source>
+        <translation>&amp;Parametro di smussamento:</translation>
+    </message>
+    <message>
+        <source>How many cells to each side are averaged. Larger gives a smoother section that hides small bodies.</source>
+        <translation>Quante celle per parte vengono mediate. Un valore maggiore dà una sezione più morbida che nasconde i corpi piccoli.</translation>
+    </message>
+    <message>
+        <source>Unchecked, the smoothing reaches 0.7 times as far up and down as sideways, which suits layered ground. Checked, it reaches equally far, which suits bodies and steep contacts.</source>
+        <translation>Se non è spuntato, lo smussamento arriva in verticale a 0,7 volte la distanza che raggiunge in orizzontale, come conviene a un terreno stratificato. Se è spuntato, arriva altrettanto lontano, come conviene a corpi isolati e contatti ripidi.</translation>
+    </message>
+    <message>
+        <source>&amp;Symmetric smoothing</source>
+        <translation>Smussamento &amp;simmetrico</translation>
     </message>
 </context>
 </TS>

@@ -222,6 +222,11 @@ void Talvesk_MainWindows::retranslate() {
 }
 
 void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
+  if (mInversion != nullptr) {
+    event->ignore();
+    askToStopAndClose();
+    return;
+  }
   if (!mayLoseChanges()) {
     event->ignore();
     return;

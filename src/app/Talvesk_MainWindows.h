@@ -32,14 +32,18 @@ namespace talvesk {
 namespace Ui {
 class Talvesk_MainWindows;
 }
+class BackgroundInversion;
 class SettingsDialog;
 class editTravelTimesWidget;
+class progressTomographyDialog;
 class TravelTimePlot;
 enum class PickSnap;
 enum class TraceTool;
 struct FilterOutcome;
 struct SectionReading;
 struct SurveyGeometry;
+struct TomographyParameters;
+struct TomographyResult;
 struct TraceCursor;
 
 /// The one window of the program. It owns the survey, the log and the settings, asks what a command
@@ -186,6 +190,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void update_palette_min(int value);
   void on_vtk_palette_changed();
   void update_show_traces(bool onlyTraces);
+  void on_tomo_stopped();
 
   /// What the window remembers of a shot beside the document.
   struct ShotMemory {
@@ -291,6 +296,14 @@ class Talvesk_MainWindows : public QMainWindow {
                           const std::function<FilterOutcome(std::int32_t)>& filter);
   void showFilteredCopies();
 
+  // Tomography
+  bool makeGrid(bool propose);
+  TomographyResult runInversionBeside(const TomographyParameters& parameters);
+  void showInversion(const TomographyResult& result);
+  std::vector<QWidget*> documentEditors() const;
+  void askToStopAndClose();
+  void modelChanged();
+
   void logSlot(const char* name);
   void openUserGuide();
 
@@ -317,6 +330,9 @@ class Talvesk_MainWindows : public QMainWindow {
   int mRecoveredRevision = 0;  ///< that the recovery copy holds
   int mFailedRecoveries = 0;   ///< in a row
   bool mLaidOut = false;
+  BackgroundInversion* mInversion = nullptr;  ///< under way; the document is not to be edited then
+  progressTomographyDialog* mInversionProgress = nullptr;
+  bool mCloseAfterInversion = false;
   QComboBox* mShotChooser = nullptr;
   QLabel* mCursorLabel = nullptr;
 };

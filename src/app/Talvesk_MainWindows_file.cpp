@@ -226,6 +226,7 @@ void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
 }
 
 void Talvesk_MainWindows::openFiles(const QStringList& files) {
+  if (mInversion != nullptr) return;  // a drop may have been let go just before it began
   QStringList shots;
   QStringList travelTimes;
   QStringList projects;
@@ -243,6 +244,7 @@ void Talvesk_MainWindows::openFiles(const QStringList& files) {
 }
 
 void Talvesk_MainWindows::dragEnterEvent(QDragEnterEvent* event) {
+  if (mInversion != nullptr) return;
   const QList<QUrl> urls = event->mimeData()->urls();
   if (std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); })) {
     event->acceptProposedAction();

@@ -135,6 +135,7 @@ void Talvesk_MainWindows::refreshViewActions() {
 }
 
 void Talvesk_MainWindows::refreshCommands() {
+  if (mInversion != nullptr) return;  // all are locked; they are refreshed when it has ended
   const bool records = !mDocument.ttArray.empty();
   const bool traces = !mDocument.traceSets.empty();
   const bool recordInView = records && mCurrentFile >= 0;

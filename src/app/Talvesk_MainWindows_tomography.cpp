@@ -1,31 +1,149 @@
+#include "app/BackgroundInversion.h"
+#include "app/CommandLock.h"
+#include "app/Messages.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/progressTomographyDialog.h"
+#include "app/runTomography_Dialog.h"
+#include "tomo/InversionCopy.h"
 #include "ui_Talvesk_MainWindows.h"
+#include "widgets/TravelTimePlot.h"
+#include "widgets/editTravelTimesWidget.h"
 
-// The commands from the grid to the inverted section.
+#include <QComboBox>
+#include <QStatusBar>
+
+// The inversion, from the question whether to run it to its results.
 
 namespace talvesk {
+namespace {
 
-void Talvesk_MainWindows::on_actionGrid_triggered() {
-  logSlot(__func__);
+constexpr int kMessageTime = 10000;  // milliseconds that the status bar shows an outcome
+
+QString general(double value) {
+  return QString::number(value, 'g', 6);
 }
 
-void Talvesk_MainWindows::on_actionDefine_model_velocity_triggered() {
-  logSlot(__func__);
-}
+}  // namespace
 
 void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
   logSlot(__func__);
-}
-
-void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
-  logSlot(__func__);
-}
-
-void Talvesk_MainWindows::refreshTomographyCommands() {
-  for (QAction* action : {mUi->actionGrid, mUi->actionDefine_model_velocity,
-                          mUi->actionRun_tomography_inversion, mUi->actionApply_smoothing}) {
-    action->setEnabled(false);
+  if (!mDocument.picksComplete() &&
+      !askYesNo(this, tr("Warning:"), tr("Uncomplete set of picks. \n \n"),
+                tr("Do you want to run tomography inversion anyway? "), false)) {
+    return;
   }
+  runTomography_Dialog dialog(mDocument.minVelocity, mDocument.maxVelocity, this);
+  if (mDocument.grid == nullptr) {
+    mLog.write("grid does not exist; ask for parameter");
+    if (!makeGrid(false)) return;
+  }
+  if (dialog.exec() != QDialog::Accepted) return;
+  const TomographyParameters parameters = dialog.parameters();
+  mDocument.minVelocity = parameters.minVelocity;
+  mDocument.maxVelocity = parameters.maxVelocity;
+  documentModified();
+  const TomographyResult result = runInversionBeside(parameters);
+  if (mCloseAfterInversion) {
+    mCloseAfterInversion = false;
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    return;
+  }
+  showInversion(result);
+}
+
+/// The inversion works on a copy, and whatever could change the document is out of reach until it
+/// is through; the views stay, to be looked at.
+TomographyResult Talvesk_MainWindows::runInversionBeside(const TomographyParameters& parameters) {
+  BackgroundInversion inversion(mDocument, parameters, mLog);
+  progressTomographyDialog progress(this);
+  connect(&progress, &progressTomographyDialog::stopped, this,
+          &Talvesk_MainWindows::on_tomo_stopped);
+  progress.setTotal(parameters.externalIterations);
+  mDocument.stopRequested = false;
+  mInversion = &inversion;
+  mInversionProgress = &progress;
+  TomographyResult result;
+  {
+    const CommandLock lock(*this, {mUi->actionExit}, documentEditors());
+    progress.show();
+    statusBar()->showMessage(tr("An inversion is under way; the survey cannot be edited."));
+    result = inversion.run([&](const TomographyProgress& state, const TomoDocument& copy) {
+      takeInversion(mDocument, copy);
+      progress.addCompleted();
+      progress.addMisfit(state.misfit);
+      refreshSection();
+    });
+  }
+  mInversion = nullptr;
+  mInversionProgress = nullptr;
+  progress.hide();
+  statusBar()->clearMessage();
+  if (result.iterationsDone > 0) takeInversion(mDocument, inversion.copy());
+  modelChanged();
+  return result;
+}
+
+/// The widgets through which the document can be edited.
+std::vector<QWidget*> Talvesk_MainWindows::documentEditors() const {
+  std::vector<QWidget*> widgets = {mShotChooser,      mUi->showAllPicksCB,   mUi->show_filtered_cb,
+                                   mUi->showSimTT_CB, mUi->showTravelTimeCB, mUi->mainToolBar,
+                                   mUi->toolBar};
+  for (editTravelTimesWidget* editor : editors()) widgets.push_back(editor);
+  for (TravelTimePlot* plot : plots()) widgets.push_back(plot);
+  return widgets;
+}
+
+void Talvesk_MainWindows::on_tomo_stopped() {
+  mDocument.stopRequested = true;
+  if (mInversion != nullptr) mInversion->requestStop();
+  if (mInversionProgress != nullptr) mInversionProgress->showStopping();
+}
+
+/// While an inversion runs the window can only ask it to stop, and close when it has.
+void Talvesk_MainWindows::askToStopAndClose() {
+  if (mCloseAfterInversion) return;  // it was asked and will be done
+  const bool stop =
+      askYesNo(this, tr("Tomography inversion"), tr("The inversion is still running."),
+               tr("Do you want to stop it when the iteration under way is completed, "
+                  "and close then?"),
+               false);
+  if (!stop) return;
+  if (mInversion == nullptr) {  // it ended while the question was open
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    return;
+  }
+  mCloseAfterInversion = true;
+  on_tomo_stopped();
+}
+
+/// Grid or results are others than before.
+void Talvesk_MainWindows::modelChanged() {
+  if (!mDocument.hasTomographicInfo) mUi->showSimTT_CB->setChecked(false);
+  for (editTravelTimesWidget* editor : editors()) editor->update();
+  refreshPlots();
+  refreshSection();
+  documentModified();
+}
+
+void Talvesk_MainWindows::showInversion(const TomographyResult& result) {
+  if (!result.status.ok()) {
+    mLog.write(result.status.message(), 1);
+    showError(this, tr("Error occured"), tr("The inversion could not be completed."),
+              QString::fromStdString(result.status.message()));
+  }
+  if (result.iterationsDone == 0) return;
+  mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
+  statusBar()->showMessage(
+      tr("%n external iteration(s) completed.", nullptr, result.iterationsDone), kMessageTime);
+  const Misfit& misfit = result.misfit;
+  if (misfit.count == 0) return;
+  showNote(
+      this, tr("Inversion results"),
+      tr("Elapsed time: [s] %1\n").arg(general(result.elapsedSeconds)) +
+          tr("RMSE: [ms] %1; [%] %2\n")
+              .arg(general(misfit.rmse * 1000.0), general(misfit.relativeRms * 100.0)) +
+          tr("MaxError: [ms] %1; [%] %2\n")
+              .arg(general(misfit.maxError * 1000.0), general(misfit.maxRelativeError * 100.0)));
 }
 
 }  // namespace talvesk

@@ -122,6 +122,7 @@ bool Talvesk_MainWindows::hasInformationDensity() const {
 }
 
 void Talvesk_MainWindows::refreshSectionCommands() {
+  if (mInversion != nullptr) return;  // all commands are locked
   // Even of a grid whose cells have no value of this quantity another may be chosen.
   const bool section = mDocument.grid && mDocument.grid->cellCount() > 0;
   const SectionQuantity quantity = mSection.quantity;

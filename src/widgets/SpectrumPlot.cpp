@@ -1,5 +1,6 @@
 #include "widgets/SpectrumPlot.h"
 
+#include "widgets/PlotDress.h"
 #include "widgets/TraceColors.h"
 
 #include <QEvent>
@@ -10,11 +11,8 @@
 #include <cmath>
 
 #include <qwt_plot.h>
-#include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
-#include <qwt_plot_layout.h>
 #include <qwt_plot_marker.h>
-#include <qwt_text.h>
 
 namespace talvesk {
 
@@ -27,12 +25,6 @@ SpectrumPlot::SpectrumPlot(QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(mPlot);
-  mPlot->plotLayout()->setCanvasMargin(0);
-  mPlot->plotLayout()->setAlignCanvasToScales(true);
-  if (auto* canvas = qobject_cast<QwtPlotCanvas*>(mPlot->canvas())) {
-    canvas->setFrameStyle(QFrame::Box | QFrame::Plain);
-    canvas->setLineWidth(1);
-  }
   mCurve->setRenderHint(QwtPlotItem::RenderAntialiased);
   mCurve->attach(mPlot);
   for (QwtPlotMarker* marker : {mLow, mHigh}) {
@@ -87,21 +79,11 @@ QSize SpectrumPlot::minimumSizeHint() const {
 }
 
 void SpectrumPlot::dress() {
+  dressPlot(*mPlot);
   const TraceColors colors = traceColors(palette(), true);
-  mPlot->setCanvasBackground(colors.background);
-  QPalette frame = palette();
-  frame.setColor(QPalette::WindowText, colors.faint);
-  frame.setBrush(QPalette::Window, colors.background);
-  mPlot->canvas()->setPalette(frame);
   mCurve->setPen(QPen(colors.positive, 1.4));
   mLow->setLinePen(QPen(colors.pick, 1.2, Qt::DashLine));
   mHigh->setLinePen(QPen(colors.computed, 1.2, Qt::DashDotLine));
-  for (const int axis : {QwtPlot::xBottom, QwtPlot::yLeft}) {
-    mPlot->setAxisFont(axis, font());
-    QwtText title = mPlot->axisTitle(axis);
-    title.setFont(font());
-    mPlot->setAxisTitle(axis, title);
-  }
   mPlot->replot();
 }
 

@@ -1,6 +1,5 @@
 #include "app/HelpTargets.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <gmock/gmock.h>
@@ -10,10 +9,6 @@ namespace {
 
 /// The tests stand beside the program, in the build tree.
 TEST(UserGuide, opensInTheLanguageOfTheWindow) {
-  int count = 1;
-  char name[] = "test";
-  char* arguments[] = {name, nullptr};
-  const QCoreApplication application(count, arguments);
   const std::pair<const char*, const char*> cases[] = {{"en", "en/index.html"},
                                                        {"it", "it/index.html"},
                                                        {"it_CH", "it/index.html"},

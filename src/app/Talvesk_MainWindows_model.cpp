@@ -1,0 +1,97 @@
+#include "app/Messages.h"
+#include "app/Talvesk_MainWindows.h"
+#include "app/gridDialog.h"
+#include "app/select_speed_Dialog.h"
+#include "app/smoothingDialog.h"
+#include "tomo/GridSetup.h"
+#include "ui_Talvesk_MainWindows.h"
+
+#include <QApplication>
+#include <QStatusBar>
+#include <QThread>
+#include <algorithm>
+
+// The commands that make and change the model of the ground: grid, starting model, smoothing.
+
+namespace talvesk {
+namespace {
+
+constexpr int kMessageTime = 10000;  // milliseconds that the status bar shows an outcome
+
+}  // namespace
+
+void Talvesk_MainWindows::on_actionGrid_triggered() {
+  logSlot(__func__);
+  makeGrid(true);
+}
+
+/// Asks for a grid and builds it; without geometry asks for that first, as long as the user gives
+/// one. False when no grid was built.
+/// \param propose fill in the cell size that suits the geophones, not that of the present grid
+bool Talvesk_MainWindows::makeGrid(bool propose) {
+  SurveyProfile profile;
+  GridSettings settings = proposeGrid(mDocument, profile, mLog);
+  while (!profile.hasGeometry()) {
+    showError(
+        this, tr("Warning"),
+        tr("Geophones do not have geometry! \n") + tr("Please set the position of geophones\n"));
+    if (!askGeometry()) return false;
+    settings = proposeGrid(mDocument, profile, mLog);
+  }
+  if (!propose) settings.cellSize = mDocument.grid ? mDocument.grid->aLato() : 0.0;
+  const auto threads = static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
+  gridDialog dialog(profile, settings, threads, this);
+  while (dialog.exec() == QDialog::Accepted) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const Status status = setUpGrid(mDocument, dialog.settings(), mLog);
+    if (status.ok()) modelChanged();
+    QApplication::restoreOverrideCursor();
+    if (status.ok()) {
+      statusBar()->showMessage(tr("Grid of %1 rows and %2 columns built.")
+                                   .arg(mDocument.grid->righe())
+                                   .arg(mDocument.grid->col()),
+                               kMessageTime);
+      return true;
+    }
+    mLog.write(status.message(), 1);
+    showError(this, tr("Error occured"), tr("The grid could not be built."),
+              QString::fromStdString(status.message()));
+  }
+  return false;
+}
+
+void Talvesk_MainWindows::on_actionDefine_model_velocity_triggered() {
+  logSlot(__func__);
+  if (select_speed_Dialog(mDocument, this).exec() != QDialog::Accepted) return;
+  modelChanged();
+  statusBar()->showMessage(tr("The grid has the velocities of the layers."), kMessageTime);
+}
+
+void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
+  logSlot(__func__);
+  smoothingDialog dialog(
+      mDocument.hasTomographicInfo ? SmoothingType::kRayBased : SmoothingType::kUniform, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  const Status status = smoothGrid(mDocument, dialog.type(), dialog.radius(), dialog.symmetric());
+  if (status.ok()) modelChanged();
+  QApplication::restoreOverrideCursor();
+  if (!status.ok()) {
+    mLog.write(status.message(), 1);
+    showError(this, tr("Error occured"), tr("The grid could not be smoothed."),
+              QString::fromStdString(status.message()));
+    return;
+  }
+  statusBar()->showMessage(tr("The velocities of the grid are smoothed."), kMessageTime);
+}
+
+void Talvesk_MainWindows::refreshTomographyCommands() {
+  const bool survey = !mDocument.ttArray.empty();
+  const bool cells = mDocument.grid && mDocument.grid->cellCount() > 0;
+  mUi->actionGrid->setEnabled(survey || !mDocument.goephonesStringSet.empty());
+  mUi->actionDefine_model_velocity->setEnabled(cells);
+  mUi->actionRun_tomography_inversion->setEnabled(survey);
+  mUi->actionApply_smoothing->setEnabled(cells);
+}
+
+}  // namespace talvesk

@@ -1,0 +1,71 @@
+#include "app/runTomography_Dialog.h"
+
+#include "app/ToolTips.h"
+#include "ui_runTomography_Dialog.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+constexpr int kHintLines = 2;  // that the place for the hint holds without moving the buttons
+
+int wholeNumber(double velocity) {
+  constexpr double kLargest = 999999999.0;
+  return std::isfinite(velocity) ? static_cast<int>(std::clamp(velocity, 0.0, kLargest)) : 0;
+}
+
+}  // namespace
+
+runTomography_Dialog::runTomography_Dialog(double minVelocity, double maxVelocity, QWidget* parent)
+    : QDialog(parent), mUi(std::make_unique<Ui::runTomography_Dialog>()) {
+  mUi->setupUi(this);
+  wrapToolTips(*this);
+  mUi->minVelEdit->setValue(wholeNumber(minVelocity));
+  mUi->maxVelEdit->setValue(wholeNumber(maxVelocity));
+  connect(mUi->minVelEdit, QOverload<int>::of(&QSpinBox::valueChanged), this,
+          &runTomography_Dialog::checkMinWRTMax);
+  connect(mUi->maxVelEdit, QOverload<int>::of(&QSpinBox::valueChanged), this,
+          &runTomography_Dialog::checkMaxWRTMin);
+  mUi->hintLabel->setStyleSheet(QStringLiteral("color: #c00020;"));
+  mUi->hintLabel->setMinimumHeight(kHintLines * fontMetrics().lineSpacing());
+  for (QSpinBox* box : {mUi->minVelEdit, mUi->maxVelEdit}) {
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] { showHint(); });
+  }
+  showHint();
+  mUi->extIter_edit->setFocus();
+  mUi->extIter_edit->selectAll();
+}
+
+runTomography_Dialog::~runTomography_Dialog() = default;
+
+TomographyParameters runTomography_Dialog::parameters() const {
+  TomographyParameters parameters;
+  parameters.externalIterations = mUi->extIter_edit->value();
+  parameters.solverIterations = mUi->solvIter_Edit->value();
+  parameters.smoothing = mUi->smooth_Edit->value();
+  parameters.smoothingType = smoothingTypeOf(mUi->typeOfSmoothingCBox->currentIndex());
+  parameters.symmetric = mUi->symmetricSmoothCBox->isChecked();
+  parameters.singleThread = mUi->checkBox->isChecked();
+  parameters.minVelocity = mUi->minVelEdit->value();
+  parameters.maxVelocity = mUi->maxVelEdit->value();
+  return parameters;
+}
+
+void runTomography_Dialog::checkMinWRTMax(int value) {
+  if (value < mUi->minVelEdit->value()) mUi->maxVelEdit->setValue(value);
+}
+
+void runTomography_Dialog::checkMaxWRTMin(int value) {
+  if (value > mUi->maxVelEdit->value()) mUi->minVelEdit->setValue(value);
+}
+
+void runTomography_Dialog::showHint() {
+  const bool crossed = mUi->minVelEdit->value() > mUi->maxVelEdit->value();
+  mUi->hintLabel->setText(crossed ? tr("The minimum is above the maximum: every cell that changes "
+                                       "will end at the maximum.")
+                                  : QString());
+}
+
+}  // namespace talvesk

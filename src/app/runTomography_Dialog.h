@@ -1,0 +1,37 @@
+#pragma once
+
+#include "tomo/TomographyRun.h"
+
+#include <QDialog>
+#include <memory>
+
+namespace talvesk {
+
+namespace Ui {
+class runTomography_Dialog;
+}
+
+/// Asks for the parameters of an inversion.
+class runTomography_Dialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// \param minVelocity, maxVelocity m/s, shown as whole numbers, truncated
+  runTomography_Dialog(double minVelocity, double maxVelocity, QWidget* parent = nullptr);
+  ~runTomography_Dialog() override;
+
+  TomographyParameters parameters() const;
+
+ public slots:
+  /// Each compares the new value with the box that has just got it, so neither ever moves the other
+  /// box: a minimum above the maximum is let through on purpose, and the dialog only tells.
+  void checkMinWRTMax(int value);
+  void checkMaxWRTMin(int value);
+
+ private:
+  void showHint();
+
+  std::unique_ptr<Ui::runTomography_Dialog> mUi;
+};
+
+}  // namespace talvesk

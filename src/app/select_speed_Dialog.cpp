@@ -1,0 +1,132 @@
+#include "app/select_speed_Dialog.h"
+
+#include "app/Messages.h"
+#include "app/ToolTips.h"
+#include "app/setVelocityWidget.h"
+#include "base/Console.h"
+#include "tomo/GridSetup.h"
+#include "ui_select_speed_Dialog.h"
+
+#include <QApplication>
+#include <ostream>
+
+namespace talvesk {
+namespace {
+
+constexpr int kProblemLines = 2;  // that the place for the problem holds without moving the buttons
+
+}  // namespace
+
+select_speed_Dialog::select_speed_Dialog(TomoDocument& document, QWidget* parent)
+    : QDialog(parent), mUi(std::make_unique<Ui::select_speed_Dialog>()), mDocument(document) {
+  mUi->setupUi(this);
+  wrapToolTips(*this);
+  mUi->problemLabel->setStyleSheet(QStringLiteral("color: #c00020;"));
+  mUi->problemLabel->setMinimumHeight(kProblemLines * fontMetrics().lineSpacing());
+  connect(mUi->addButton, &QPushButton::clicked, this, [this] { addLayer(); });
+  connect(mUi->removeButton, &QPushButton::clicked, this, [this] { removeLayers(); });
+  connect(mUi->listWidget, &QListWidget::itemSelectionChanged, this, [this] { showRemovable(); });
+  setDocument();
+}
+
+select_speed_Dialog::~select_speed_Dialog() = default;
+
+double select_speed_Dialog::gridDepth() const {
+  return mDocument.grid ? mDocument.grid->righe() * mDocument.grid->aLato() : 0.0;
+}
+
+void select_speed_Dialog::setDocument() {
+  mUi->widget->setGridDepth(gridDepth());
+  for (const VelocityLayer& layer : mDocument.layers) addRow(layer);
+  if (mDocument.layers.empty()) addRow(defaultLayer(gridDepth()));
+  onLineeditmod();
+  row(0)->focusFirstField();
+}
+
+setVelocityWidget* select_speed_Dialog::row(int index) const {
+  return qobject_cast<setVelocityWidget*>(
+      mUi->listWidget->itemWidget(mUi->listWidget->item(index)));
+}
+
+void select_speed_Dialog::addRow(const VelocityLayer& layer) {
+  auto* fields = new setVelocityWidget(layer, mUi->listWidget);
+  connect(fields, &setVelocityWidget::lineEditModified, this, &select_speed_Dialog::onLineeditmod);
+  connect(fields, &setVelocityWidget::markChanged, this, [this] { showRemovable(); });
+  auto* item = new QListWidgetItem(mUi->listWidget);
+  item->setSizeHint(fields->sizeHint().expandedTo(fields->minimumSize()));
+  mUi->listWidget->setItemWidget(item, fields);
+  orderTabs();
+  showRemovable();
+}
+
+/// Rows are made after the buttons, but the Tab key takes them first.
+void select_speed_Dialog::orderTabs() {
+  QWidget* previous = mUi->listWidget;
+  for (int i = 0; i < mUi->listWidget->count(); ++i) previous = row(i)->followInTabOrder(previous);
+  setTabOrder(previous, mUi->addButton);
+}
+
+std::vector<VelocityLayer> select_speed_Dialog::layers() const {
+  std::vector<VelocityLayer> rows;
+  for (int i = 0; i < mUi->listWidget->count(); ++i) rows.push_back(row(i)->layer());
+  const std::vector<VelocityLayer> taken = acceptedLayers(rows);
+  for (std::size_t i = 0; i < taken.size(); ++i) {
+    console::out() << "[LOG] accepted - speedlayer for loop " << std::endl;
+  }
+  return taken;
+}
+
+void select_speed_Dialog::onLineeditmod() {
+  const std::vector<VelocityLayer> now = layers();
+  mUi->widget->setLayers(now);
+  const Status status =
+      mDocument.grid ? checkLayers(mDocument.grid->geometry().size(), now) : Status();
+  mUi->problemLabel->setText(QString::fromStdString(status.ok() ? "" : status.message()));
+}
+
+void select_speed_Dialog::addLayer() {
+  const int count = mUi->listWidget->count();
+  if (count == 0) {
+    addRow(defaultLayer(gridDepth()));
+  } else {
+    std::vector<VelocityLayer> halves = {row(count - 1)->layer()};
+    splitLastLayer(halves);
+    const QSignalBlocker quiet(row(count - 1));  // one new model, not one per field
+    row(count - 1)->setLayer(halves.front());
+    addRow(halves.back());
+  }
+  mUi->listWidget->scrollToBottom();
+  onLineeditmod();
+}
+
+bool select_speed_Dialog::isMarked(int index) const {
+  return row(index)->isMarked() || mUi->listWidget->item(index)->isSelected();
+}
+
+void select_speed_Dialog::removeLayers() {
+  for (int i = mUi->listWidget->count() - 1; i >= 0; --i) {
+    if (isMarked(i)) delete mUi->listWidget->takeItem(i);
+  }
+  showRemovable();
+  onLineeditmod();
+}
+
+void select_speed_Dialog::showRemovable() {
+  bool any = false;
+  for (int i = 0; i < mUi->listWidget->count() && !any; ++i) any = row(i) != nullptr && isMarked(i);
+  mUi->removeButton->setEnabled(any);
+}
+
+void select_speed_Dialog::accept() {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  const Status status = applyLayers(mDocument, layers());
+  QApplication::restoreOverrideCursor();
+  if (status.ok()) {
+    QDialog::accept();
+    return;
+  }
+  showError(this, tr("Define model velocity"), tr("The layers make no velocity model."),
+            QString::fromStdString(status.message()));
+}
+
+}  // namespace talvesk

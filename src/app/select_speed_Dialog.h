@@ -1,0 +1,54 @@
+#pragma once
+
+#include "grid/VelocityLayers.h"
+#include "model/TomoDocument.h"
+
+#include <QDialog>
+#include <memory>
+#include <vector>
+
+class QListWidgetItem;
+
+namespace talvesk {
+
+namespace Ui {
+class select_speed_Dialog;
+}
+class setVelocityWidget;
+
+/// Edits the layers of the starting model and, on OK, puts the model into the grid. Until then the
+/// document is as it was.
+class select_speed_Dialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// \param document outlives the dialog; its layers are shown, one over the whole grid when there
+  /// is none
+  explicit select_speed_Dialog(TomoDocument& document, QWidget* parent = nullptr);
+  ~select_speed_Dialog() override;
+
+  /// What the rows say, those that make no layer left out. Each one taken is told on the console.
+  std::vector<VelocityLayer> layers() const;
+
+  /// Builds the grid. Where the layers make no model it says why and stays open.
+  void accept() override;
+
+ public slots:
+  void onLineeditmod();
+
+ private:
+  void setDocument();
+  setVelocityWidget* row(int index) const;
+  bool isMarked(int index) const;
+  void addRow(const VelocityLayer& layer);
+  void orderTabs();
+  void addLayer();
+  void removeLayers();
+  void showRemovable();
+  double gridDepth() const;
+
+  std::unique_ptr<Ui::select_speed_Dialog> mUi;
+  TomoDocument& mDocument;
+};
+
+}  // namespace talvesk

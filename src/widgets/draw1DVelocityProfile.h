@@ -1,0 +1,55 @@
+#pragma once
+
+#include "grid/VelocityLayers.h"
+
+#include <QWidget>
+#include <vector>
+
+class QwtPlot;
+class QwtPlotCurve;
+class QwtPlotZoneItem;
+
+namespace talvesk {
+
+/// A layered starting model, velocity to the right and depth downward, and over the layers the
+/// spline through them that the grid will get.
+class draw1DVelocityProfile : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit draw1DVelocityProfile(QWidget* parent = nullptr);
+  ~draw1DVelocityProfile() override;
+
+  /// \param depth metres
+  void setGridDepth(double depth);
+  void setLayers(const std::vector<VelocityLayer>& layers);
+
+  double gridDepth() const { return mGridDepth; }
+  /// Of all tops and bottoms of the layers, m/s; 0 without layers. The scale reaches to it at
+  /// least.
+  double largestVelocity() const { return mLargestVelocity; }
+  std::size_t splinePoints() const;   ///< of the curve; 0 when the layers make no spline
+  bool showsNonPositiveZone() const;  ///< the spline swings to where there is no velocity
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void draw();
+  void scale(const VelocityCurve& curve);
+  void dress();
+  void retranslate();
+
+  QwtPlot* mPlot;
+  QwtPlotZoneItem* mNonPositive;
+  QwtPlotCurve* mLayerCurve;
+  QwtPlotCurve* mSplineCurve;
+  double mGridDepth = 0.0;
+  double mLargestVelocity = 0.0;
+  std::vector<VelocityLayer> mLayers;
+};
+
+}  // namespace talvesk

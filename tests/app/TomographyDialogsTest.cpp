@@ -1,0 +1,289 @@
+#include "app/gridDialog.h"
+#include "app/progressTomographyDialog.h"
+#include "app/runTomography_Dialog.h"
+#include "app/select_speed_Dialog.h"
+#include "app/setVelocityWidget.h"
+#include "gui/ModalScript.h"
+#include "support/ConsoleCapture.h"
+#include "support/TestSurveys.h"
+#include "widgets/MisfitPlot.h"
+#include "widgets/draw1DVelocityProfile.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTextBrowser>
+#include <stdexcept>
+
+#include <gmock/gmock.h>
+
+namespace talvesk {
+namespace {
+
+using testing::ConsoleCapture;
+using testing::ModalScript;
+
+template <typename Widget>
+Widget& child(const QWidget& parent, const char* name) {
+  auto* found = parent.findChild<Widget*>(QLatin1String(name));
+  if (found == nullptr) throw std::runtime_error(std::string("no widget ") + name);
+  return *found;
+}
+
+std::string text(const QWidget& parent, const char* label) {
+  return child<QLabel>(parent, label).text().toStdString();
+}
+
+/// 24 geophones 2 m apart, shots at both ends: 50 m of array from -1 m of the first shot on.
+SurveyProfile profile() {
+  return testing::testLine(24, 2.0, {-1.0, 47.0}).surveyProfile();
+}
+
+// --- Grid
+
+TEST(GridDialog, showsWhatIsProposedAndTheGridThatItMakes) {
+  const gridDialog dialog(profile(), {25.0, 0.5, 6}, 2);
+  EXPECT_EQ(dialog.windowTitle().toStdString(), "Grid Settings");
+  EXPECT_EQ(text(dialog, "arrayLength"), QLocale().toString(50.0, 'f', 2).toStdString());
+  EXPECT_EQ(dialog.settings().maxDepth, 25.0);
+  EXPECT_EQ(dialog.settings().cellSize, 0.5);
+  EXPECT_EQ(dialog.settings().nodes, 6U);
+  EXPECT_EQ(text(dialog, "columnsFigure"), "100");
+  EXPECT_EQ(text(dialog, "rowsFigure"), "50");
+  EXPECT_EQ(text(dialog, "cellsFigure"), QLocale().toString(5000).toStdString());
+  // 51 lines of 501 nodes, 50 rows of 4 levels of 101.
+  EXPECT_EQ(text(dialog, "nodesFigure"), QLocale().toString(45751).toStdString());
+  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(1.0);
+  EXPECT_EQ(text(dialog, "columnsFigure"), "50");
+  EXPECT_EQ(text(dialog, "warningLabel"), "");
+}
+
+TEST(GridDialog, keepsValuesInTheRangesOfItsFields) {
+  const gridDialog dialog(profile(), {80.0, 0.0, 0}, 2);
+  EXPECT_EQ(dialog.settings().maxDepth, 50.0) << "no deeper than the array is long";
+  EXPECT_EQ(dialog.settings().cellSize, 0.1);
+  EXPECT_EQ(dialog.settings().nodes, 6U);
+}
+
+TEST(GridDialog, tellsOfPositionsThatTheLastColumnDoesNotReach) {
+  const gridDialog dialog(profile(), {25.0, 1.0, 6}, 2);
+  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(3.5);  // 14 columns, 49 m: just reached
+  EXPECT_EQ(text(dialog, "warningLabel"), "");
+  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(3.0);  // 16 columns, 48 m
+  EXPECT_THAT(text(dialog, "warningLabel"), ::testing::HasSubstr("beyond the last column"));
+  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(1.0);
+  child<QDoubleSpinBox>(dialog, "maxDepthEdit").setValue(0.4);
+  EXPECT_THAT(text(dialog, "warningLabel"), ::testing::HasSubstr("no rows"));
+}
+
+TEST(GridDialog, warnsAndClosesAllTheSame) {
+  ModalScript dialogs;
+  gridDialog dialog(profile(), {25.0, 1.0, 15}, 2);
+  dialog.accept();
+  EXPECT_TRUE(dialogs.finished()) << "15 nodes are none too many";
+  child<QDoubleSpinBox>(dialog, "maxDepthEdit").setValue(0.0);
+  child<QSpinBox>(dialog, "nodesEdit").setValue(16);
+  dialogs.expectBox("Invalid parameter",
+                    "The max depth parameter set to 0.0 is not valid for tomography", "",
+                    QMessageBox::Ok);
+  dialogs.expectBox("Memory warning", "A large number of nodes may require a lot of memory", "",
+                    QMessageBox::Ok);
+  dialog.setResult(QDialog::Rejected);
+  dialog.accept();
+  EXPECT_EQ(dialog.result(), QDialog::Accepted);
+  EXPECT_EQ(dialog.settings().maxDepth, 0.0);
+  EXPECT_EQ(dialog.settings().nodes, 16U);
+}
+
+// --- Inversion
+
+TEST(RunTomographyDialog, startsWithItsDefaultsAndTheLimitsOfTheDocument) {
+  const runTomography_Dialog dialog(312.9, 2800.2);
+  const TomographyParameters p = dialog.parameters();
+  EXPECT_EQ(p.externalIterations, 10);
+  EXPECT_EQ(p.solverIterations, 20);
+  EXPECT_EQ(p.smoothing, 5);
+  EXPECT_EQ(p.minVelocity, 312.0);
+  EXPECT_EQ(p.maxVelocity, 2800.0);
+  EXPECT_EQ(p.smoothingType, SmoothingType::kRayBased);
+  EXPECT_FALSE(p.symmetric || p.singleThread);
+  EXPECT_EQ(text(dialog, "extIterLabel"), "Number of external iterations (default =5)");
+  EXPECT_EQ(text(dialog, "smoothLabel"), "Smoothing parameter (default =5) ");
+  EXPECT_EQ(child<QSpinBox>(dialog, "maxVelEdit").singleStep(), 10);
+}
+
+TEST(RunTomographyDialog, returnsWhatIsChosen) {
+  const runTomography_Dialog dialog(250.0, 3500.0);
+  child<QSpinBox>(dialog, "extIter_edit").setValue(3);
+  child<QSpinBox>(dialog, "solvIter_Edit").setValue(7);
+  child<QSpinBox>(dialog, "smooth_Edit").setValue(0);
+  child<QComboBox>(dialog, "typeOfSmoothingCBox").setCurrentIndex(2);
+  child<QCheckBox>(dialog, "symmetricSmoothCBox").setChecked(true);
+  child<QCheckBox>(dialog, "checkBox").setChecked(true);
+  const TomographyParameters p = dialog.parameters();
+  EXPECT_EQ(p.externalIterations, 3);
+  EXPECT_EQ(p.solverIterations, 7);
+  EXPECT_EQ(p.smoothing, 1) << "the least there is";
+  EXPECT_EQ(p.smoothingType, SmoothingType::kGaussian);
+  EXPECT_TRUE(p.symmetric && p.singleThread);
+}
+
+TEST(RunTomographyDialog, leavesAMinimumAboveTheMaximumAndTells) {
+  const runTomography_Dialog dialog(250.0, 3500.0);
+  EXPECT_EQ(text(dialog, "hintLabel"), "");
+  child<QSpinBox>(dialog, "minVelEdit").setValue(4000);
+  EXPECT_EQ(dialog.parameters().minVelocity, 4000.0);
+  EXPECT_EQ(dialog.parameters().maxVelocity, 3500.0);
+  EXPECT_THAT(text(dialog, "hintLabel"), ::testing::HasSubstr("above the maximum"));
+  child<QSpinBox>(dialog, "minVelEdit").setValue(300);
+  child<QSpinBox>(dialog, "maxVelEdit").setValue(200);
+  EXPECT_EQ(dialog.parameters().minVelocity, 300.0);
+}
+
+// --- Progress
+
+TEST(ProgressDialog, countsIterations) {
+  progressTomographyDialog dialog;
+  dialog.setTotal(3.0);
+  dialog.addCompleted();
+  EXPECT_EQ(child<QProgressBar>(dialog, "progressBar").value(), 33) << "truncated";
+  dialog.addCompleted();
+  Misfit misfit;
+  dialog.addMisfit(misfit);
+  EXPECT_EQ(child<MisfitPlot>(dialog, "misfitPlot").points(), 0U) << "no picks, no misfit";
+  misfit.count = 5;
+  dialog.addMisfit(misfit);
+  EXPECT_EQ(child<MisfitPlot>(dialog, "misfitPlot").points(), 1U);
+  EXPECT_EQ(child<QTextBrowser>(dialog, "textBrowser").toPlainText().toStdString(),
+            "Completed iteration 1\nCompleted iteration 2\n");
+  EXPECT_EQ(child<QProgressBar>(dialog, "progressBar").value(), 66);
+}
+
+TEST(ProgressDialog, asksToStopOnceWhetherByButtonOrByClosing) {
+  progressTomographyDialog dialog;
+  QSignalSpy stopped(&dialog, &progressTomographyDialog::stopped);
+  dialog.show();
+  dialog.close();
+  EXPECT_TRUE(dialog.isVisible()) << "the inversion still goes on";
+  child<QPushButton>(dialog, "stopButton").click();
+  EXPECT_EQ(stopped.count(), 1);
+}
+
+// --- Starting model
+
+class Layers : public ::testing::Test {
+ protected:
+  Layers() : line(testing::testLine(24, 2.0, {-1.0, 47.0})) {
+    testing::putGrid(line, 24.0, 1.0);
+    line.hasTomographicInfo = true;
+    line.RMSE_tomography = 4.0;
+  }
+  std::vector<VelocityLayer> open(const std::vector<VelocityLayer>& layers = {}) {
+    line.layers = layers;
+    dialog = std::make_unique<select_speed_Dialog>(line);
+    dialog->show();
+    return dialog->layers();
+  }
+  void click(const char* button) { child<QPushButton>(*dialog, button).click(); }
+  setVelocityWidget& row(int i) {
+    auto& list = child<QListWidget>(*dialog, "listWidget");
+    return *qobject_cast<setVelocityWidget*>(list.itemWidget(list.item(i)));
+  }
+  static std::string described(const std::vector<VelocityLayer>& layers) {
+    std::string text;
+    for (const VelocityLayer& l : layers) {
+      text += QStringLiteral("%1-%2: %3-%4; ")
+                  .arg(l.initialDepth)
+                  .arg(l.finalDepth)
+                  .arg(l.initialVelocity)
+                  .arg(l.finalVelocity)
+                  .toStdString();
+    }
+    return text;
+  }
+
+  ConsoleCapture console;
+  ModalScript dialogs;
+  TomoDocument line;
+  std::unique_ptr<select_speed_Dialog> dialog;
+};
+
+TEST_F(Layers, beginWithOneOverTheWholeGridThatAddSplits) {
+  EXPECT_EQ(described(open()), "0-24: 300-2500; ");
+  click("addButton");
+  EXPECT_EQ(described(dialog->layers()), "0-12: 300-1400; 12-24: 1400-2500; ");
+  click("addButton");
+  EXPECT_EQ(described(dialog->layers()), "0-12: 300-1400; 12-18: 1400-1950; 18-24: 1950-2500; ");
+  EXPECT_EQ(child<QPushButton>(*dialog, "addButton").text().toStdString(), "Add");
+  EXPECT_EQ(child<draw1DVelocityProfile>(*dialog, "widget").largestVelocity(), 2500.0);
+  EXPECT_THAT(console.out(), ::testing::HasSubstr("[LOG] accepted - speedlayer for loop \n"));
+  dialog->reject();
+  EXPECT_TRUE(line.layers.empty() && line.hasTomographicInfo && !line.modified);
+}
+
+TEST_F(Layers, goWhenCheckedOrSelected) {
+  open({{0, 300, 6, 600}, {6, 600, 12, 900}, {12, 900, 24, 2000}});
+  EXPECT_FALSE(child<QPushButton>(*dialog, "removeButton").isEnabled());
+  child<QCheckBox>(row(0), "checkBox").setChecked(true);
+  child<QListWidget>(*dialog, "listWidget").item(2)->setSelected(true);
+  click("removeButton");
+  EXPECT_EQ(described(dialog->layers()), "6-12: 600-900; ");
+  EXPECT_FALSE(child<QPushButton>(*dialog, "removeButton").isEnabled());
+  child<QCheckBox>(row(0), "checkBox").setChecked(true);
+  click("removeButton");
+  EXPECT_EQ(described(dialog->layers()), "");
+  dialogs.expectBox("Define model velocity", "The layers make no velocity model.", "No layer",
+                    QMessageBox::Ok);
+  dialog->accept();
+  EXPECT_TRUE(dialog->isVisible());
+  click("addButton");
+  EXPECT_EQ(described(dialog->layers()), "0-24: 300-2500; ");
+}
+
+TEST_F(Layers, giveTheirSplineToTheGridAndStayInTheDocument) {
+  open({{0, 300.7, 12, 900.2}, {12, 900, 24, 2000}});
+  child<QSpinBox>(row(1), "v2Edit").setValue(1500);
+  child<draw1DVelocityProfile>(*dialog, "widget");
+  dialog->accept();
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(described(line.layers), "0-12: 300-900; 12-24: 900-1500; ");
+  const Splines::CubicSpline spline = layerSpline(line.layers);
+  for (std::uint32_t r = 0; r < line.grid->righe(); ++r) {
+    EXPECT_EQ(line.grid->slowness(line.grid->cellIndex(r, 3)), 1.0 / spline(r * 1.0)) << r;
+  }
+  EXPECT_FALSE(line.hasTomographicInfo) << "results of another model";
+  EXPECT_LT(line.RMSE_tomography, 0.0);
+  EXPECT_TRUE(line.modified);
+}
+
+TEST_F(Layers, rowsThatAreNoneAreDroppedSilently) {
+  open({{0, 300, 12, 900}, {12, 900, 24, 2000}});
+  child<QDoubleSpinBox>(row(1), "d2Edit").setValue(12.0);
+  dialog->accept();
+  EXPECT_EQ(described(line.layers), "0-12: 300-900; ");
+}
+
+TEST_F(Layers, thatSwingBelowZeroAreShownAndExplained) {
+  open({{0, 5000, 11.9, 5000}, {11.9, 200, 24, 200}});
+  EXPECT_TRUE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
+  EXPECT_THAT(text(*dialog, "problemLabel"), ::testing::HasSubstr("no velocity of the ground"));
+  const std::vector<double> before = line.grid->slownesses();
+  dialogs.expectBox("Define model velocity", "The layers make no velocity model.",
+                    "no velocity of the ground", QMessageBox::Ok);
+  dialog->accept();
+  EXPECT_TRUE(dialog->isVisible());
+  EXPECT_EQ(line.grid->slownesses(), before);
+  child<QSpinBox>(row(0), "v1Edit").setValue(200);
+  child<QSpinBox>(row(0), "v2Edit").setValue(200);
+  EXPECT_FALSE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
+  EXPECT_EQ(text(*dialog, "problemLabel"), "");
+}
+
+}  // namespace
+}  // namespace talvesk

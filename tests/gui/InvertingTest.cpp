@@ -1,0 +1,273 @@
+#include "app/gridDialog.h"
+#include "app/progressTomographyDialog.h"
+#include "app/runTomography_Dialog.h"
+#include "gui/WindowTest.h"
+#include "io/TravelTimeFile.h"
+#include "support/TestSurveys.h"
+#include "tomo/Misfit.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QApplication>
+#include <QDoubleSpinBox>
+#include <QDragEnterEvent>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMimeData>
+#include <QProcess>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTest>
+#include <QUrl>
+
+namespace talvesk::testing {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+class Inverting : public WindowTest {
+ protected:
+  /// A line of 24 geophones and five shots over two layers; `missing` picks of each shot are not
+  /// there.
+  void openLine(std::size_t missing = 0) {
+    TomoDocument line = testLine(24, 2.0, {-2.0, 9.0, 23.0, 37.0, 48.0}, 1.0);
+    pickTwoLayers(line, 450.0, 1800.0, 3.0);
+    for (TravelTime& record : line.ttArray) {
+      for (std::size_t i = 0; i < missing; ++i) record.ttMisurati[i] = kUnpicked;
+    }
+    ASSERT_TRUE(writeTravelTimes(home.file("line.otte"), line).ok());
+    open();
+    window->openFiles({QString::fromStdString(home.file("line.otte"))});
+    ASSERT_EQ(window->document().ttArray.size(), 5U);
+    window->document().modified = false;
+  }
+  void answerGrid(double depth, double cell) {
+    dialogs.expect([=](QWidget& widget) {
+      ASSERT_NE(qobject_cast<gridDialog*>(&widget), nullptr) << widget.windowTitle().toStdString();
+      widget.findChild<QDoubleSpinBox*>(QStringLiteral("maxDepthEdit"))->setValue(depth);
+      widget.findChild<QDoubleSpinBox*>(QStringLiteral("cellSizeEdit"))->setValue(cell);
+      QTest::keyClick(&widget, Qt::Key_Return);
+    });
+  }
+  void answerParameters(int external, int solver) {
+    dialogs.expect([=](QWidget& widget) {
+      ASSERT_NE(qobject_cast<runTomography_Dialog*>(&widget), nullptr)
+          << widget.windowTitle().toStdString();
+      widget.findChild<QSpinBox*>(QStringLiteral("extIter_edit"))->setValue(external);
+      widget.findChild<QSpinBox*>(QStringLiteral("solvIter_Edit"))->setValue(solver);
+      QTest::keyClick(&widget, Qt::Key_Return);
+    });
+  }
+  void expectResults() {
+    dialogs.expect([this](QWidget& widget) {
+      auto* box = qobject_cast<QMessageBox*>(&widget);
+      ASSERT_NE(box, nullptr);
+      EXPECT_EQ(box->windowTitle().toStdString(), "Inversion results");
+      results = box->text();
+      box->button(QMessageBox::Ok)->click();
+    });
+  }
+  void run() { action("actionRun_tomography_inversion").trigger(); }
+  /// Looks every few milliseconds whether an inversion is under way, and once does something then.
+  void whileRunning(const std::function<void(progressTomographyDialog&)>& act) {
+    mTimer.disconnect();
+    QObject::connect(&mTimer, &QTimer::timeout, window.get(), [this, act] {
+      auto* progress = window->findChild<progressTomographyDialog*>();
+      if (progress == nullptr || !progress->isVisible()) return;
+      mTimer.stop();
+      act(*progress);
+    });
+    mTimer.start(1);
+  }
+
+  QString results;
+
+ private:
+  QTimer mTimer;
+};
+
+TEST_F(Inverting, asksBeforeItGoesOnWithoutMostPicks) {
+  openLine(12);
+  dialogs.expectBox("Warning:", "Uncomplete set of picks. \n \n",
+                    "Do you want to run tomography inversion anyway? ", QMessageBox::No);
+  run();
+  EXPECT_EQ(window->document().grid, nullptr);
+  EXPECT_FALSE(window->document().modified);
+  EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered"));
+  EXPECT_THAT(log(), Not(HasSubstr("grid does not exist")));
+}
+
+TEST_F(Inverting, endsWhereADialogIsCancelled) {
+  openLine(11);
+  dialogs.expectAndCancel();  // the grid
+  run();
+  EXPECT_EQ(window->document().grid, nullptr);
+  EXPECT_FALSE(window->document().modified);
+  EXPECT_THAT(log(), HasSubstr("grid does not exist; ask for parameter\n"));
+  answerGrid(12.0, 1.0);
+  dialogs.expectAndCancel();  // the parameters
+  run();
+  ASSERT_NE(window->document().grid, nullptr);
+  EXPECT_FALSE(window->document().hasTomographicInfo);
+  EXPECT_THAT(log(), Not(HasSubstr("Running Tomography")));
+}
+
+TEST_F(Inverting, showsItsResults) {
+  openLine();
+  answerGrid(12.0, 1.0);
+  answerParameters(2, 3);
+  expectResults();
+  run();
+  const TomoDocument& line = window->document();
+  EXPECT_TRUE(line.hasTomographicInfo && line.modified);
+  const Misfit misfit = computeMisfit(line);
+  EXPECT_EQ(line.RMSE_tomography, 100.0 * misfit.relativeRms);
+  const auto number = [](double value) { return QString::number(value, 'g', 6); };
+  const QRegularExpression expected(
+      QStringLiteral("^Elapsed time: \\[s\\] [0-9.e-]+\nRMSE: \\[ms\\] %1; \\[%\\] %2\n"
+                     "MaxError: \\[ms\\] %3; \\[%\\] %4\n$")
+          .arg(number(1000.0 * misfit.rmse), number(100.0 * misfit.relativeRms),
+               number(1000.0 * misfit.maxError), number(100.0 * misfit.maxRelativeError)));
+  EXPECT_TRUE(expected.match(results).hasMatch()) << results.toStdString();
+  EXPECT_EQ(child<QTabWidget>("tabWidget").currentIndex(), 2);
+  EXPECT_TRUE(child<QWidget>("showSimTT_CB").isEnabled());
+  EXPECT_THAT(log(), HasSubstr("Running Tomography :Multi thread mode. \n"));
+  EXPECT_THAT(log(), HasSubstr("Running Tomography - external iteration 1 ... COMPLETED. \n"));
+  EXPECT_THAT(log(), Not(HasSubstr("Stop Request")));
+  EXPECT_TRUE(action("actionGrid").isEnabled() && action("actionOpen_shot_files").isEnabled());
+}
+
+TEST_F(Inverting, completesTheIterationInWhichItIsStopped) {
+  openLine();
+  answerGrid(12.0, 0.5);
+  answerParameters(50, 5);
+  whileRunning([](progressTomographyDialog& progress) {
+    progress.findChild<QPushButton*>(QStringLiteral("stopButton"))->click();
+  });
+  expectResults();
+  run();
+  EXPECT_TRUE(window->document().hasTomographicInfo);
+  EXPECT_THAT(log(), HasSubstr("Running Tomography - external iteration 0 ... COMPLETED. \n"));
+  EXPECT_THAT(log(), HasSubstr("Stop Request by the user.\n"));
+  EXPECT_THAT(log(), Not(HasSubstr("external iteration 1")));
+  EXPECT_FALSE(results.isEmpty());
+  results.clear();
+  answerParameters(1, 2);  // the wish to stop is not for the next one
+  expectResults();
+  run();
+  EXPECT_THAT(log(), HasSubstr("external iteration 0 ... COMPLETED. "));
+}
+
+TEST_F(Inverting, showsNoResultsWhereNothingIsPicked) {
+  openLine(24);
+  dialogs.expectBox("Warning:", "Uncomplete set of picks. \n \n", "anyway", QMessageBox::Yes);
+  answerGrid(12.0, 1.0);
+  answerParameters(1, 1);
+  run();
+  EXPECT_TRUE(window->document().hasTomographicInfo);
+  EXPECT_LT(window->document().RMSE_tomography, 0.0);
+}
+
+TEST_F(Inverting, tellsWhyAGridWithoutRowsCannotBeInverted) {
+  openLine();
+  answerGrid(0.0, 1.0);
+  dialogs.expectBox("Invalid parameter",
+                    "The max depth parameter set to 0.0 is not valid for tomography", "",
+                    QMessageBox::Ok);
+  answerParameters(1, 1);
+  dialogs.expectBox("Error occured", "The inversion could not be completed.", "no grid with cells",
+                    QMessageBox::Ok);
+  run();
+  EXPECT_FALSE(window->document().hasTomographicInfo);
+}
+
+TEST_F(Inverting, leavesTheWindowAliveButTheDocumentOutOfReach) {
+  openLine();
+  answerGrid(12.0, 0.5);
+  answerParameters(3, 10);
+  int events = 0;
+  QTimer heart;
+  QObject::connect(&heart, &QTimer::timeout, [&events] { ++events; });
+  whileRunning([&](progressTomographyDialog& progress) {
+    heart.start(1);
+    EXPECT_FALSE(progress.isModal());
+    for (const char* name : {"actionNew", "actionOpen_shot_files", "actionGrid", "actionUndo",
+                             "actionRun_tomography_inversion", "actionSave_Project"}) {
+      EXPECT_FALSE(action(name).isEnabled()) << name;
+    }
+    EXPECT_FALSE(child<QWidget>("showTracesWidget").isEnabled());
+    EXPECT_FALSE(child<QWidget>("travelTimePreview").isEnabled());
+    EXPECT_TRUE(child<QTabWidget>("tabWidget").isEnabled());
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(QString::fromStdString(home.file("line.otte")))});
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(window.get(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+    window->openFiles({QStringLiteral("/no/such/file.otte")});  // else a box would complain
+  });
+  expectResults();
+  run();
+  EXPECT_GT(events, 20) << "the window slept";
+  EXPECT_TRUE(child<QWidget>("showTracesWidget").isEnabled());
+}
+
+TEST_F(Inverting, asksForAStopBeforeTheWindowCloses) {
+  openLine();
+  answerGrid(12.0, 0.5);
+  answerParameters(3, 5);
+  const char* const question = "The inversion is still running.";
+  whileRunning([&](progressTomographyDialog&) { window->close(); });
+  dialogs.expectBox("Tomography inversion", question, "and close", QMessageBox::No);
+  expectResults();
+  run();
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_THAT(log(), Not(HasSubstr("Stop Request")));
+
+  answerParameters(50, 20);
+  whileRunning([&](progressTomographyDialog&) { window->close(); });
+  dialogs.expectBox("Tomography inversion", question, "and close", QMessageBox::Yes);
+  dialogs.expectBox(QApplication::applicationName(), "The document has been modified", "",
+                    QMessageBox::Discard);
+  run();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+  EXPECT_THAT(log(), HasSubstr("Stop Request by the user.\n"));
+}
+
+TEST_F(Inverting, givesTheNumbersOfTheBatchProgramToTheLastBit) {
+  const QString folder = QString::fromStdString(home.path());
+  const QString line = folder + QStringLiteral("/demo.otte");
+  const QString json = folder + QStringLiteral("/out.json");
+  const QString batch = QStringLiteral(TALVESK_BATCH);
+  ASSERT_EQ(QProcess::execute(batch, {QStringLiteral("demo"), folder}), 0);
+  ASSERT_EQ(QProcess::execute(batch, {QStringLiteral("invert"), line, QStringLiteral("--quiet"),
+                                      QStringLiteral("--iterations"), QStringLiteral("3"),
+                                      QStringLiteral("--solver-iterations"), QStringLiteral("5"),
+                                      QStringLiteral("--json"), json}),
+            0);
+  open();
+  window->openFiles({line});
+  dialogs.expect([](QWidget& widget) { QTest::keyClick(&widget, Qt::Key_Return); });
+  action("actionGrid").trigger();
+  answerParameters(3, 5);
+  expectResults();
+  run();
+
+  const QJsonObject expected =
+      QJsonDocument::fromJson(QByteArray::fromStdString(TestFolder::get(json.toStdString())))
+          .object();
+  const Grid& grid = *window->document().grid;
+  const QJsonArray velocities = expected[QLatin1String("velocities")].toArray();
+  ASSERT_EQ(velocities.size(), static_cast<int>(grid.cellCount()));
+  int different = 0;
+  for (std::uint32_t c = 0; c < grid.cellCount(); ++c) {
+    if (velocities[static_cast<int>(c)].toDouble() != grid.velocity(c)) ++different;
+  }
+  EXPECT_EQ(different, 0);
+  EXPECT_EQ(expected[QLatin1String("rms_percent")].toDouble(), window->document().RMSE_tomography);
+}
+
+}  // namespace
+}  // namespace talvesk::testing

@@ -1,0 +1,129 @@
+#include "app/gridDialog.h"
+#include "gui/WindowTest.h"
+#include "io/TravelTimeFile.h"
+#include "support/TestSurveys.h"
+#include "tomo/Smoothing.h"
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QSpinBox>
+#include <QTest>
+
+namespace talvesk::testing {
+namespace {
+
+using ::testing::HasSubstr;
+
+/// The commands that make and change the model of the ground.
+class Model : public WindowTest {
+ protected:
+  void openLine() {
+    TomoDocument line = testLine(24, 2.0, {-1.0, 47.0});
+    pickTwoLayers(line, 450.0, 1800.0, 3.0);
+    ASSERT_TRUE(writeTravelTimes(home.file("line.otte"), line).ok());
+    open();
+    window->openFiles({QString::fromStdString(home.file("line.otte"))});
+    ASSERT_EQ(window->document().ttArray.size(), 2U);
+  }
+  void answer(const std::function<void(QWidget&)>& fill) {
+    dialogs.expect([fill](QWidget& widget) {
+      fill(widget);
+      QTest::keyClick(&widget, Qt::Key_Return);
+    });
+  }
+  template <typename Widget>
+  static Widget& field(QWidget& dialog, const char* name) {
+    return *dialog.findChild<Widget*>(QLatin1String(name));
+  }
+  const TomoDocument& document() { return window->document(); }
+};
+
+TEST_F(Model, gridIsProposedFromTheGeophonesAndItsNodesFromTheOneBefore) {
+  openLine();
+  answer([](QWidget& dialog) {
+    EXPECT_EQ(field<QDoubleSpinBox>(dialog, "maxDepthEdit").value(), 25.0);
+    EXPECT_EQ(field<QDoubleSpinBox>(dialog, "cellSizeEdit").value(), 0.5);
+    EXPECT_EQ(field<QSpinBox>(dialog, "nodesEdit").value(), 6);
+    field<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(1.0);
+    field<QDoubleSpinBox>(dialog, "maxDepthEdit").setValue(10.0);
+    field<QSpinBox>(dialog, "nodesEdit").setValue(8);
+  });
+  action("actionGrid").trigger();
+  ASSERT_NE(document().grid, nullptr);
+  EXPECT_EQ(document().grid->righe(), 10U);
+  EXPECT_EQ(document().grid->col(), 50U);
+  EXPECT_EQ(document().grid->nV(), 8U);
+  for (const char* line : {"Talvesk_MainWindows::on_actionGrid_triggered\n", "Setting Grid ... \n",
+                           "Generating the grid ... COMPLETED\n", "Setting Grid ... COMPLETED. \n",
+                           "Setting info layer ... COMPLETED. \n"}) {
+    EXPECT_THAT(log(), HasSubstr(line));
+  }
+  dialogs.expect([](QWidget& dialog) {
+    EXPECT_EQ(field<QDoubleSpinBox>(dialog, "maxDepthEdit").value(), 25.0);
+    EXPECT_EQ(field<QDoubleSpinBox>(dialog, "cellSizeEdit").value(), 0.5) << "proposed again";
+    EXPECT_EQ(field<QSpinBox>(dialog, "nodesEdit").value(), 8);
+    dialog.close();
+  });
+  action("actionGrid").trigger();
+  EXPECT_EQ(document().grid->righe(), 10U);
+}
+
+TEST_F(Model, gridWithoutGeometryAsksForIt) {
+  openLine();
+  TomoDocument& line = window->document();
+  for (auto& string : line.goephonesStringSet) string.clear();
+  line.modified = false;
+  dialogs.expectBox("Warning",
+                    "Geophones do not have geometry! \nPlease set the position of geophones\n", "",
+                    QMessageBox::Ok);
+  dialogs.expect([](QWidget& dialog) {
+    EXPECT_EQ(dialog.windowTitle().toStdString(), "Set survey geometry - Dialog");
+    dialog.close();
+  });
+  action("actionGrid").trigger();
+  EXPECT_EQ(line.grid, nullptr);
+  EXPECT_FALSE(line.modified);
+}
+
+TEST_F(Model, commandsWaitForWhatTheyNeed) {
+  open();
+  const char* const names[] = {"actionGrid", "actionRun_tomography_inversion",
+                               "actionDefine_model_velocity", "actionApply_smoothing"};
+  for (const char* name : names) EXPECT_FALSE(action(name).isEnabled()) << name;
+  openLine();
+  EXPECT_TRUE(action("actionGrid").isEnabled());
+  EXPECT_TRUE(action("actionRun_tomography_inversion").isEnabled());
+  EXPECT_FALSE(action("actionDefine_model_velocity").isEnabled());
+  answer([](QWidget& dialog) { field<QDoubleSpinBox>(dialog, "maxDepthEdit").setValue(6.0); });
+  action("actionGrid").trigger();
+  for (const char* name : names) EXPECT_TRUE(action(name).isEnabled()) << name;
+}
+
+TEST_F(Model, layersAndSmoothingChangeTheGridUnlessCancelled) {
+  openLine();
+  answer([](QWidget& dialog) { field<QDoubleSpinBox>(dialog, "maxDepthEdit").setValue(6.0); });
+  action("actionGrid").trigger();
+  const std::vector<double> atFirst = document().grid->slownesses();
+  for (const char* name : {"actionDefine_model_velocity", "actionApply_smoothing"}) {
+    dialogs.expectAndCancel();
+    action(name).trigger();
+    EXPECT_EQ(document().grid->slownesses(), atFirst) << name;
+  }
+  EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionDefine_model_velocity_triggered\n"));
+  answer([](QWidget&) {});
+  action("actionDefine_model_velocity").trigger();
+  const std::vector<double> layered = document().grid->slownesses();
+  EXPECT_NE(layered, atFirst);
+  EXPECT_EQ(document().layers.size(), 1U);
+  answer([](QWidget& dialog) {
+    field<QComboBox>(dialog, "typeOfSmoothingCBox").setCurrentIndex(1);
+    field<QSpinBox>(dialog, "smooth_Edit").setValue(3);
+  });
+  action("actionApply_smoothing").trigger();
+  EXPECT_EQ(document().grid->slownesses(),
+            smoothSlowness(SmoothingType::kLinear, Grid(document().grid->sharedGeometry(), layered),
+                           std::vector<std::uint32_t>(layered.size(), 0), 3, 0.7));
+}
+
+}  // namespace
+}  // namespace talvesk::testing
