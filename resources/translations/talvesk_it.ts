@@ -3156,7 +3156,7 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Uncomplete set of picks. 
  
 </source>
-        <translation>Insieme di picking incompleto. 
+        <translation>Insieme dei primi arrivi incompleto. 
  
 </translation>
     </message>

@@ -8,6 +8,8 @@
 #include "ui_select_speed_Dialog.h"
 
 #include <QApplication>
+#include <QStyle>
+#include <algorithm>
 #include <ostream>
 
 namespace talvesk {
@@ -55,6 +57,11 @@ void select_speed_Dialog::addRow(const VelocityLayer& layer) {
   auto* item = new QListWidgetItem(mUi->listWidget);
   item->setSizeHint(fields->sizeHint().expandedTo(fields->minimumSize()));
   mUi->listWidget->setItemWidget(item, fields);
+  // Words of other languages are longer; a row is seen whole, beside a scroll bar.
+  const int beside = 2 * mUi->listWidget->frameWidth() +
+                     style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, mUi->listWidget);
+  mUi->listWidget->setMinimumWidth(
+      std::max(mUi->listWidget->minimumWidth(), item->sizeHint().width() + beside));
   orderTabs();
   showRemovable();
 }
