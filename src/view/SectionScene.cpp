@@ -1,6 +1,7 @@
 #include "view/SectionScene.h"
 
 #include "model/TomoDocument.h"
+#include "view/RayLines.h"
 #include "view/SectionValues.h"
 
 #include <algorithm>
@@ -82,23 +83,6 @@ std::vector<Point2D> surfaceLine(const Grid& grid, double xOffset) {
     line.push_back({geometry.lineX(i) - xOffset, -geometry.lineZ(0, i)});
   }
   return line;
-}
-
-std::vector<std::vector<Point2D>> rayLines(const TomoDocument& document) {
-  const GridGeometry& geometry = document.grid->geometry();
-  std::vector<std::vector<Point2D>> lines;
-  lines.reserve(document.rays.size());
-  for (const auto& ray : document.rays) {
-    std::vector<Point2D> line;
-    line.reserve(ray.size());
-    for (const std::uint32_t node : ray) {
-      // A project may bring rays of another grid.
-      if (node >= geometry.nodeCount()) continue;
-      line.push_back({geometry.nodeX(node) - document.xOffset, -geometry.nodeZ(node)});
-    }
-    if (line.size() >= 2) lines.push_back(std::move(line));
-  }
-  return lines;
 }
 
 std::vector<Point2D> coverageCurve(const TomoDocument& document) {

@@ -66,7 +66,7 @@ struct SectionScene {
   std::vector<double> contourLevels;  ///< ascending, each once
   std::vector<ContourLine> contours;
   ContourBands bands;  ///< between bandLevels(); filled for SectionFill::kBands only
-  std::vector<std::vector<Point2D>> rays;  ///< empty when not asked for
+  std::vector<std::vector<Point2D>> rays;  ///< of picks; empty when not asked for
   std::vector<Point2D> coverageLimit;      ///< a curve; empty when there is none
   std::vector<SectionLine> refractors;
   std::vector<Point2D> surface;    ///< top line of the grid, left to right

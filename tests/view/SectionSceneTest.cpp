@@ -129,6 +129,22 @@ TEST(SectionScene, raysRunThroughTheNodesOfThisGrid) {
   EXPECT_DOUBLE_EQ(scene.rays[0][1].z, -geometry.nodeZ(geometry.sideNode(1, 2, 0)));
 }
 
+TEST(SectionScene, raysOfReceiversWithoutAPickAreLeftOut) {
+  TomoDocument document = sectionDocument(4, 10, 0.0, layered);
+  document.ttArray.push_back(document.ttArray[0]);
+  document.excluded = {{0, -1, 0.0}};
+  std::vector<double>& times = document.ttArray[1].ttMisurati;
+  ASSERT_EQ(times.size(), 5U);
+  times[1] = kUnpicked;
+  times[4] = kNoTime;
+  for (std::uint32_t i = 0; i < 5; ++i) document.rays.push_back({0, i + 1});
+  SectionSceneOptions options;
+  options.rays = true;
+  EXPECT_EQ(sceneOf(document, options).rays.size(), 3U);
+  document.rays.pop_back();
+  EXPECT_EQ(sceneOf(document, options).rays.size(), 4U) << "not the rays of these records";
+}
+
 TEST(SectionScene, theCoverageCurveRunsThroughTheDeepestCentres) {
   TomoDocument document = sectionDocument(4, 10, 0.0, layered);
   EXPECT_TRUE(sceneOf(document).coverageLimit.empty());

@@ -1,0 +1,55 @@
+#include "view/RayLines.h"
+
+#include "model/TomoDocument.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+/// Per ray, whether its receiver has a pick: rays follow each other shot by shot, receivers in
+/// order, without the shots that were left out as a whole.
+std::vector<bool> picked(const TomoDocument& document) {
+  std::vector<bool> traced(document.ttArray.size(), true);
+  for (const ExcludedPosition& position : document.excluded) {
+    const auto shot = static_cast<std::size_t>(position.shot);
+    if (position.receiver < 0 && shot < traced.size()) traced[shot] = false;
+  }
+  std::vector<bool> found;
+  for (std::size_t shot = 0; shot < document.ttArray.size(); ++shot) {
+    const TravelTime& record = document.ttArray[shot];
+    const auto string = static_cast<std::size_t>(record.indexStesa);
+    if (!traced[shot] || string >= document.goephonesStringSet.size()) continue;
+    const std::size_t receivers =
+        std::min(document.goephonesStringSet[string].size(), record.ttMisurati.size());
+    for (std::size_t i = 0; i < receivers; ++i) found.push_back(hasPick(record.ttMisurati[i]));
+  }
+  return found;
+}
+
+}  // namespace
+
+std::vector<std::vector<Point2D>> rayLines(const TomoDocument& document) {
+  const GridGeometry& geometry = document.grid->geometry();
+  const std::vector<bool> withPick = picked(document);
+  const bool known = withPick.size() == document.rays.size();
+  std::vector<std::vector<Point2D>> lines;
+  lines.reserve(document.rays.size());
+  for (std::size_t i = 0; i < document.rays.size(); ++i) {
+    if (known && !withPick[i]) continue;
+    std::vector<Point2D> line;
+    line.reserve(document.rays[i].size());
+    for (const std::uint32_t node : document.rays[i]) {
+      // A project may bring rays of another grid.
+      if (node >= geometry.nodeCount()) continue;
+      line.push_back({geometry.nodeX(node) - document.xOffset, -geometry.nodeZ(node)});
+    }
+    if (line.size() >= 2) lines.push_back(std::move(line));
+  }
+  return lines;
+}
+
+}  // namespace talvesk
