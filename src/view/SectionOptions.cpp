@@ -29,7 +29,9 @@ SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const Colo
   const ContourSettings& contours = settings.contours;
   if (showsContours(contours, settings.quantity)) {
     constexpr std::size_t kMost = SectionSceneOptions::kMaxContours;
-    if (contours.customized) {
+    if (contours.customized && options.range) {
+      options.contourValues = contourValues(contours, *options.range);
+    } else if (contours.customized) {
       options.contourValues = contours.customValues;
       options.contourValues.resize(std::min(options.contourValues.size(), kMost));
     } else {

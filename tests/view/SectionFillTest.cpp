@@ -197,6 +197,18 @@ TEST(SectionOptions, followTheSettings) {
   }
 }
 
+TEST(SectionOptions, customContoursKeepWithinTheScaleOfThePalette) {
+  SectionViewSettings settings;
+  settings.contours.customized = true;
+  settings.contours.onProfile = true;
+  settings.contours.customValues = {400.0, 500.0, 900.0, 950.0};
+  ColorPalette palette;
+  palette.min_db = 450.0;
+  palette.max_db = 900.0;
+  const SectionScene scene = sceneOf(sectionDocument(8, 20, 0.0, layered), settings, palette);
+  EXPECT_THAT(scene.contourLevels, ::testing::ElementsAre(500.0, 900.0));
+}
+
 TEST(SectionOptions, takeTheScaleOfThePaletteForVelocitiesUnlessItIsNone) {
   const TomoDocument document = sectionDocument(8, 20, 0.0, layered);
   const double none = std::numeric_limits<double>::quiet_NaN();
