@@ -25,7 +25,7 @@ QColor colorOf(const GradientColorPoint& point) {
 
 QString previewStyle(const ColorGradient& gradient) {
   QString style = QStringLiteral(
-      "border: 1px solid grey; font-size: 11px;"
+      "border: 1px solid grey; font-size: 11px; "
       "background-color: qlineargradient( x1: 0, y1: 0, x2: 1, y2: 0,");
   QString between;
   for (const GradientColorPoint& point : gradient.points()) {
@@ -161,6 +161,7 @@ void ColorPaletteWidget::setColorPalette(const ColorPalette& palette) {
   mHandles = GradientHandles(fit);
   mEditable = palette.is_editable;
   mSelected = 0;
+  for (std::size_t i = 0; i < mHandles.count(); ++i) tellCreated(i);
   tell(mEditable
            ? QString()
            : tr("The colours of a built-in palette stay as they are; Edit Palette makes a copy."));
@@ -209,6 +210,7 @@ void ColorPaletteWidget::addHandle() {
   const auto added = mHandles.insertBeside(mSelected);
   if (!added) return tell(tr("There is no room for another handle here."));
   mSelected = *added;
+  tellCreated(mSelected);
   tell(QString());
   refresh();
   emit modified();
@@ -283,6 +285,10 @@ void ColorPaletteWidget::refreshScale() {
   mMaximumBox->setMinimum(minimum() + 1);
   mMinimumBox->setValue(minimum());
   mMaximumBox->setValue(maximum());
+}
+
+void ColorPaletteWidget::tellCreated(std::size_t index) const {
+  console::out() << "creating handle value : " << mHandles.value(index) << std::endl;
 }
 
 void ColorPaletteWidget::tell(const QString& message) {

@@ -58,6 +58,7 @@ class ColorPaletteWidget : public QWidget {
   void refresh();
   void refreshScale();
   void tell(const QString& message);
+  void tellCreated(std::size_t index) const;
 
   GradientHandles mHandles;
   std::size_t mSelected = 0;

@@ -1,7 +1,5 @@
 #include "widgets/HandleTrack.h"
 
-#include "base/Console.h"
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -12,7 +10,6 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <algorithm>
-#include <ostream>
 
 namespace talvesk {
 
@@ -88,7 +85,6 @@ void HandleTrack::setHandles(const std::vector<Handle>& handles, int minimum, in
     mLabels.pop_back();
   }
   while (mSliders.size() < handles.size()) {
-    console::out() << "creating handle value : " << handles[mSliders.size()].value << std::endl;
     mSliders.push_back(new HandleSlider(this));
     mSliders.back()->setObjectName(QStringLiteral("handle%1").arg(mSliders.size()));
     mLabels.push_back(new QLabel(this));

@@ -17,6 +17,7 @@ namespace talvesk {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 
 /// An editor on handles at 1000, 2000, 3000 and 5000, and the hands of a user.
@@ -76,9 +77,18 @@ TEST_F(PaletteEditor, showsASliderPerStopOverTheWholeScale) {
     EXPECT_EQ(slider->maximum(), 5000);
   }
   EXPECT_THAT(child<QFrame>("preview").styleSheet().toStdString(),
-              HasSubstr("border: 1px solid grey; font-size: 11px;background-color: "
+              HasSubstr("border: 1px solid grey; font-size: 11px; background-color: "
                         "qlineargradient( x1: 0, y1: 0, x2: 1, y2: 0,stop: 0 #ff0000, "
                         "stop: 0.25 #00ff00, stop: 0.5 #0000ff, stop: 1 #ffffff)"));
+}
+
+TEST_F(PaletteEditor, tellsOfEveryHandleThatItCreates) {
+  EXPECT_THAT(console.out(), HasSubstr("creating handle value : 1000\n"
+                                       "creating handle value : 2000\n"
+                                       "creating handle value : 3000\n"
+                                       "creating handle value : 5000\n"));
+  widget.addHandle();
+  EXPECT_THAT(console.out(), EndsWith("creating handle value : 1500\n"));
 }
 
 TEST_F(PaletteEditor, movesAnInnerHandleWithTheMouseAndKeepsTheGap) {
