@@ -124,13 +124,20 @@ SheetPainter::Axis SheetPainter::distanceAxis() const {
   if (isTurned()) {
     axis.at = [this, low](double x) { return mMap.map(QPointF(x, low)); };
     axis.middle = axis.at(0.5 * (mExtent.first.x + mExtent.second.x));
+    // Along a rising axis the numbers beside the title lie lower than those above it.
+    const QFontMetricsF metrics(mPainter.font());
+    const double reach = 0.5 * (metrics.horizontalAdvance(axis.title) +
+                                widest(numbers(axis.ticks, mLocale), metrics));
+    const QPointF along = axis.at(mExtent.second.x) - axis.at(mExtent.first.x);
+    const double slope = along.x() > 0.0 ? std::abs(along.y() / along.x()) : 0.0;
+    axis.titleDistance = reach * slope;
   } else {
     axis.at = [this](double x) {
       return QPointF(mMap.map(QPointF(x, mCamera.centre.z)).x(), mPlot.bottom());
     };
     axis.middle = {mPlot.center().x(), mPlot.bottom()};
   }
-  axis.titleDistance = kTick + 4.0 + 1.5 * mLine;
+  axis.titleDistance += kTick + 4.0 + 1.5 * mLine;
   return axis;
 }
 
@@ -250,7 +257,9 @@ void SheetPainter::paintTexts() {
     font.setPointSizeF(1.25 * font.pointSizeF());
     mPainter.setFont(font);
     QString title = QString::fromStdString(mScene.title).simplified();
-    if (title.isEmpty()) title = quantityTitle(mScene.quantity);
+    if (title.isEmpty() && mScene.fill != SectionFill::kNone) {
+      title = quantityTitle(mScene.quantity);
+    }
     title = QFontMetricsF(font).elidedText(title, Qt::ElideRight, mSize.width() - 2.0 * kGap);
     mPainter.drawText(QRectF(0.0, 0.0, mSize.width(), mPlot.top()), Qt::AlignCenter, title);
   }

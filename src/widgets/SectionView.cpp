@@ -141,6 +141,7 @@ void SectionView::showText(const QString& text) {
   s.text->setText(text);
   s.pages->setCurrentWidget(s.text);
   s.controls->hide();
+  s.cursor.reset();
   emit cursorLeft();
 }
 
@@ -162,6 +163,7 @@ void SectionView::showScene(std::shared_ptr<const SectionScene> scene, const Col
   s.pages->setCurrentWidget(s.paper);
   layOut();
   if (elsewhere) resetView();
+  if (s.cursor) readCursor(*s.cursor);  // other values under it
 }
 
 bool SectionView::isEmpty() const {

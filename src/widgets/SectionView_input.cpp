@@ -63,6 +63,7 @@ bool SectionView::sheetEvent(QEvent* event) {
       s.paper->unsetCursor();
       return true;
     case QEvent::Leave:
+      s.cursor.reset();
       emit cursorLeft();
       return false;
     case QEvent::ShortcutOverride:
@@ -146,6 +147,7 @@ bool SectionView::key(int key) {
 }
 
 void SectionView::readCursor(const QPointF& point) {
+  mState->cursor = point;
   if (!QRectF(plotRect()).contains(point)) {
     emit cursorLeft();
     return;

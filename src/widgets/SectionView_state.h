@@ -6,6 +6,7 @@
 #include "widgets/SectionView.h"
 
 #include <QWidget>
+#include <optional>
 
 class QDoubleSpinBox;
 class QLabel;
@@ -46,6 +47,7 @@ struct SectionView::State {
 
   Qt::MouseButton dragButton = Qt::NoButton;
   QPointF dragPoint;
+  std::optional<QPointF> cursor;  ///< where the mouse was last, while it is over the paper
 };
 
 }  // namespace talvesk
