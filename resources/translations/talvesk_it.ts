@@ -1083,10 +1083,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Intervallo dai dati</translation>
     </message>
     <message>
-        <source>Take minimum and maximum from what the section shows</source>
-        <translation>Prende minimo e massimo dai valori mostrati nella sezione</translation>
-    </message>
-    <message>
         <source>Lock the range</source>
         <translation>Blocca l&apos;intervallo</translation>
     </message>
@@ -1141,6 +1137,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Error while loading palette.</source>
         <translation>Errore durante il caricamento della tavolozza.</translation>
+    </message>
+    <message>
+        <source>Take minimum and maximum from the velocities of the section</source>
+        <translation>Prende minimo e massimo dalle velocità della sezione</translation>
     </message>
 </context>
 <context>
