@@ -33,8 +33,8 @@ void Talvesk_MainWindows::prepareAutosave() {
 }
 
 void Talvesk_MainWindows::autosave() {
-  const bool busy =
-      QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
+  const bool busy = mInversion != nullptr || QApplication::activeModalWidget() != nullptr ||
+                    QApplication::activePopupWidget() != nullptr;
   if (busy || mRecovery.isSaving()) return;
   if (!mDocument.modified || mRevision == mRecoveredRevision) return;
   mRecoveredRevision = mRevision;
