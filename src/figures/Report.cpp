@@ -1,0 +1,134 @@
+#include "figures/Report.h"
+
+#include "base/AtomicFile.h"
+#include "figures/ReportBuilder.h"
+#include "figures/ReportOdt.h"
+#include "figures/ReportPages.h"
+#include "model/TomoDocument.h"
+
+#include <QApplication>
+#include <QByteArray>
+#include <QLocale>
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+namespace talvesk {
+
+void ReportBuilder::add(ReportItem::Kind kind, const QString& text) {
+  ReportItem item;
+  item.kind = kind;
+  item.text = text;
+  mContent.items.push_back(std::move(item));
+}
+
+void ReportBuilder::heading(const QString& text) {
+  add(ReportItem::Kind::kHeading, QStringLiteral("%1  %2").arg(++mHeadings).arg(text));
+}
+
+void ReportBuilder::table(const QString& caption, ReportTable table) {
+  if (table.rows.empty()) return;
+  add(ReportItem::Kind::kTable,
+      caption.isEmpty() ? QString() : ReportWords::tr("Table %1. %2").arg(++mTables).arg(caption));
+  mContent.items.back().table = std::move(table);
+}
+
+void ReportBuilder::figure(const QString& caption, FigureDrawing drawing) {
+  add(ReportItem::Kind::kFigure, ReportWords::tr("Figure %1. %2").arg(++mFigures).arg(caption));
+  mContent.items.back().figure = std::move(drawing);
+}
+
+namespace report {
+
+QString number(double value, int places) {
+  if (!std::isfinite(value)) return QStringLiteral("\u2013");
+  const QString text = QString::number(value, 'f', places);
+  // Nothing is minus nothing.
+  return text.toDouble() == 0.0 ? QString::number(0.0, 'f', places) : text;
+}
+
+QString span(double from, double to, int places) {
+  return QStringLiteral("%1 \u2013 %2").arg(number(from, places), number(to, places));
+}
+
+}  // namespace report
+
+Status buildReport(const ReportSource& source, const ReportOptions& options,
+                   ReportContent& content) {
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
+    return Status::failure("A report cannot be made before the application object exists.");
+  }
+  if (source.document.ttArray.empty() && source.document.goephonesStringSet.empty()) {
+    return Status::failure(
+        "There is no survey to report on: load shot files or travel times first.");
+  }
+  ReportContent made;
+  made.paper = options.paper;
+  made.title = QString::fromStdString(options.title.empty() ? source.document.title : options.title)
+                   .simplified();
+  if (made.title.isEmpty()) made.title = ReportWords::tr("Seismic refraction survey");
+  made.author = QString::fromStdString(options.author).simplified();
+  made.language = QLocale().name().left(2);
+  if (made.language == QLatin1String("C")) made.language = QStringLiteral("en");
+
+  ReportBuilder builder(source, options, made);
+  const ReportSections& sections = options.sections;
+  report::addTitlePage(builder);
+  // What follows begins on a page of its own, unless it is nothing.
+  builder.add(ReportItem::Kind::kBreak, {});
+  const std::size_t front = made.items.size();
+  if (sections.survey) report::addSurvey(builder);
+  if (sections.position) report::addPosition(builder);
+  Status status;
+  if (sections.travelTimes) status = report::addTravelTimes(builder);
+  if (status.ok() && sections.inversion) report::addInversion(builder);
+  if (status.ok() && sections.section) status = report::addSections(builder);
+  if (status.ok() && sections.misfit) status = report::addMisfit(builder);
+  if (status.ok() && sections.refraction) status = report::addRefraction(builder);
+  if (!status.ok()) return status;
+  if (sections.method) report::addMethod(builder);
+  if (made.items.size() == front) made.items.pop_back();
+  content = std::move(made);
+  return {};
+}
+
+Status reportFormatOf(const std::string& path, ReportFormat& format) {
+  const QString name = QString::fromStdString(path);
+  if (name.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) {
+    format = ReportFormat::kPdf;
+  } else if (name.endsWith(QLatin1String(".odt"), Qt::CaseInsensitive)) {
+    format = ReportFormat::kOdt;
+  } else {
+    return Status::failure("No report format is known for " + path +
+                           ": let the file name end with .pdf or .odt.");
+  }
+  return {};
+}
+
+Status writeReport(const ReportContent& content, const std::string& path,
+                   const ReportProgress& progress) {
+  ReportFormat format{};
+  if (Status status = reportFormatOf(path, format); !status.ok()) return status;
+  QByteArray bytes;
+  Status status;
+  const auto goOnOf = [&progress](int total) {
+    return [&progress, total](int done) {
+      return !progress || progress(static_cast<double>(done) / std::max(total, 1));
+    };
+  };
+  if (format == ReportFormat::kPdf) {
+    const ReportPages pages(content);
+    status = pages.pdf(goOnOf(pages.count()), bytes);
+  } else {
+    const auto figures = std::count_if(
+        content.items.begin(), content.items.end(),
+        [](const ReportItem& item) { return item.kind == ReportItem::Kind::kFigure; });
+    status = reportAsOdt(content, goOnOf(static_cast<int>(figures)), bytes);
+  }
+  if (!status.ok()) return status;
+  return writeFileAtomically(
+      path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
+
+}  // namespace talvesk

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "figures/FigureFile.h"
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace talvesk {
+
+enum class ReportPaper { kA4, kLetter };
+
+/// A sheet of a report, and what its margins leave, millimetres.
+struct ReportSheet {
+  explicit ReportSheet(ReportPaper paper)
+      : widthMm(paper == ReportPaper::kA4 ? 210.0 : 215.9),
+        heightMm(paper == ReportPaper::kA4 ? 297.0 : 279.4) {}
+
+  static constexpr double kMarginMm = 20.0;
+
+  double textWidthMm() const { return widthMm - 2.0 * kMarginMm; }
+  double textHeightMm() const { return heightMm - 2.0 * kMarginMm; }
+
+  double widthMm;
+  double heightMm;
+};
+
+/// Rows of cells under a row of headings, or, without one, names at the left of their values.
+struct ReportTable {
+  struct Column {
+    QString title;
+    bool number = false;  ///< flush right, so that decimal points stand below each other
+  };
+
+  /// Names at the left of their values.
+  static ReportTable ofFacts() { return {{{QString()}, {QString()}}, {}}; }
+
+  std::vector<Column> columns;
+  std::vector<QStringList> rows;  ///< a text per column each
+
+  bool hasHeadings() const;
+  /// Parts of the width that the columns ask for by what stands in them; together 1.
+  std::vector<double> shares() const;
+};
+
+/// A part of a report. What is read of it stands in `text`; of tables and figures that is the
+/// caption, with its number.
+struct ReportItem {
+  enum class Kind { kTitle, kSubtitle, kHeading, kSubheading, kParagraph, kTable, kFigure, kBreak };
+
+  Kind kind = Kind::kParagraph;
+  QString text;
+  ReportTable table;
+  FigureDrawing figure;
+};
+
+/// A report as its readers get it, from the first page to the last, without a word on pages. One
+/// content becomes a PDF, an ODT and the pages on the screen.
+struct ReportContent {
+  ReportPaper paper = ReportPaper::kA4;
+  QString title;
+  QString author;
+  QString language;  ///< ISO code, for spelling
+  std::vector<ReportItem> items;
+};
+
+}  // namespace talvesk

@@ -1,0 +1,100 @@
+#include "figures/ReportBuilder.h"
+#include "model/TomoDocument.h"
+
+#include <algorithm>
+#include <cmath>
+
+// The layered interpretation, and how all of it was done.
+
+namespace talvesk::report {
+namespace {
+
+using W = ReportWords;
+using refractionDataStructure::computedData;
+
+bool isBuilt(const ReportBuilder& builder) {
+  const auto* interpretation = builder.source.interpretation;
+  return interpretation != nullptr && !interpretation->refractData.cData.empty() &&
+         !interpretation->refractData.cData.front().depth.empty();
+}
+
+double at(const std::vector<double>& values, std::size_t i) {
+  return i < values.size() ? values[i] : std::nan("");
+}
+
+/// One value per receiver of the first refractor; the second's receivers are found by their place.
+ReportTable profileTable(const std::vector<computedData>& refractors) {
+  ReportTable table{{{W::tr("Position [m]"), true}, {W::tr("Elevation [m]"), true}}, {}};
+  for (std::size_t r = 0; r < refractors.size(); ++r) {
+    const QString number = QString::number(r + 1);
+    table.columns.push_back({W::tr("Depth %1 [m]").arg(number), true});
+    table.columns.push_back({W::tr("Velocity %1 [m/s]").arg(number), true});
+  }
+  const computedData& first = refractors.front();
+  for (std::size_t i = 0; i < first.x.size(); ++i) {
+    QStringList row{number(first.x[i], 2), number(at(first.elevation, i), 2)};
+    for (const computedData& refractor : refractors) {
+      const auto same = std::find_if(refractor.x.begin(), refractor.x.end(),
+                                     [&](double x) { return std::abs(x - first.x[i]) < 1e-6; });
+      const auto j = static_cast<std::size_t>(same - refractor.x.begin());
+      row << number(at(refractor.depth, j), 2) << number(at(refractor.velocity, j), 0);
+    }
+    table.rows.push_back(row);
+  }
+  return table;
+}
+
+}  // namespace
+
+Status addRefraction(ReportBuilder& builder) {
+  if (!isBuilt(builder)) return {};
+  const auto& data = builder.source.interpretation->refractData;
+  builder.heading(W::tr("Refraction interpretation"));
+  ReportTable facts = ReportTable::ofFacts();
+  facts.rows.push_back(
+      {W::tr("Velocity of the first layer"), W::tr("%1 m/s").arg(number(data.v1, 0))});
+  for (std::size_t r = 0; r < data.cData.size(); ++r) {
+    const std::vector<double>& velocity = data.cData[r].velocity;
+    if (velocity.empty()) continue;
+    const auto [low, high] = std::minmax_element(velocity.begin(), velocity.end());
+    facts.rows.push_back(
+        {W::tr("Velocity of refractor %1").arg(r + 1), W::tr("%1 m/s").arg(span(*low, *high, 0))});
+    facts.rows.push_back({W::tr("Distance XY of refractor %1").arg(r + 1),
+                          W::tr("%1 m").arg(number(data.cData[r].chosenXY, 1))});
+  }
+  builder.table(W::tr("Layers and refractors"), facts);
+  builder.table(W::tr("Depths below the surface and velocities of the refractors"),
+                profileTable(data.cData));
+  return {};
+}
+
+void addMethod(ReportBuilder& builder) {
+  builder.heading(W::tr("Method"));
+  builder.paragraph(W::tr(
+      "First breaks are the times at which the first seismic energy of a shot reaches each "
+      "geophone. They were picked on the recorded traces and inverted by travel-time "
+      "tomography. The ground beneath the line is divided into square cells of constant "
+      "velocity, which follow the surface. From each shot the fastest paths to all geophones "
+      "are searched for in the network of nodes on the sides of the cells; they are the rays. "
+      "The differences between measured and computed times are distributed along the rays "
+      "and correct the slowness of the cells that they cross, several times over on the same "
+      "rays, within the limits of velocity. The corrected section is smoothed, and new rays "
+      "are traced through it: that is one external iteration."));
+  builder.paragraph(
+      W::tr("The misfit is the difference between computed and measured times. RMS is its root "
+            "mean square, in milliseconds or relative to the measured times in percent. The "
+            "information density tells how many rays cross the surroundings of a cell; where it is "
+            "low, velocities are poorly supported by the data, and below the lowest rays the "
+            "section is not drawn. Velocities that decrease with depth and thin layers may remain "
+            "hidden from first arrivals."));
+  if (isBuilt(builder)) {
+    builder.paragraph(
+        W::tr("The refractors were interpreted by the generalised reciprocal method. First breaks "
+              "were assigned to layers, and the arrivals of each refractor from both ends of the "
+              "line were completed by shifted arrivals of the other shots. The velocity-analysis "
+              "function gives the velocity of the refractor, the time-depth function its depth "
+              "beneath each geophone."));
+  }
+}
+
+}  // namespace talvesk::report
