@@ -1,12 +1,16 @@
 #include "batch/Commands.h"
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
+#include "batch/Images.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
+#include "batch/Reports.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
+#include "tomo/RayRecomputation.h"
+#include "view/RefractorLines.h"
 
 #include <ostream>
 
@@ -14,9 +18,13 @@ namespace talvesk {
 namespace {
 
 std::vector<OutputFile> outputsOf(const ExportOptions& options) {
-  return {{"--gridded", options.gridded},  {"--otte", options.otte},
-          {"--vtk", options.vtk},          {"--grd", options.surfer},
-          {"--kml-line", options.kmlLine}, {"--kml-section", options.kmlSection}};
+  std::vector<OutputFile> outputs = {
+      {"--gridded", options.gridded},  {"--otte", options.otte},
+      {"--vtk", options.vtk},          {"--grd", options.surfer},
+      {"--kml-line", options.kmlLine}, {"--kml-section", options.kmlSection},
+      {"--report", options.report}};
+  for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  return outputs;
 }
 
 int choosePalette(const std::string& name, ColorPaletteList& palettes) {
@@ -54,7 +62,24 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
   attempt(options.kmlSection, [&](Path path) {
     return writeSectionKml(path, document, project.palettes.current(), range);
   });
+  const SectionFigureOptions section = sectionFigureOptions(
+      project.section, project.palettes.current(), refractorLines(project.interpretation));
+  for (const std::string& image : options.images) {
+    attempt(image, [&](Path path) { return writeSectionFigure(document, section, path); });
+  }
+  attempt(options.report, [&](Path path) {
+    return writeReportFile({document, &project.interpretation}, options.reportFields, section,
+                           path);
+  });
   return exitCode;
+}
+
+/// Makes ready what figures need: rays are not in a project.
+Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
+  if (options.images.empty() && options.report.empty()) return {};
+  prepareDrawing();
+  Log log;
+  return document.hasTomographicInfo ? recomputeRays(document, log) : Status();
 }
 
 }  // namespace
@@ -66,7 +91,8 @@ int run(const ExportOptions& options) {
   if (!places.ok()) return failed(places.message());
 
   LoadedProject project;
-  const Status status = readProject(options.project, options.quiet, project);
+  Status status = readProject(options.project, options.quiet, project);
+  if (status.ok()) status = prepareFigures(options, project.document);
   if (!status.ok()) return failed(status.message());
   const ColorPalette& inView = project.palettes.current();
   const ValueRange range = options.range.value_or(ValueRange{inView.min_db, inView.max_db});

@@ -69,6 +69,10 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
                              "Geophones and shots as marks on the globe, named *.kml");
   CLI::Option* section = output("--kml-section", options.kmlSection, ".kml",
                                 "The section standing on the globe, named *.kml");
+  addImages(app, options.images,
+            "The section as the project shows it: .png, .svg or .pdf; once per picture")
+      ->group(kOutputGroup);
+  addReport(app, options.report, options.reportFields);
 
   const auto geography = [&options]() -> geographicsCoord& {
     if (!options.geography) options.geography.emplace();

@@ -32,12 +32,11 @@ void prepareDrawing() {
   std::setlocale(LC_NUMERIC, "C");
 }
 
-Status drawSection(const TomoDocument& document, const InvertOptions& options,
-                   const std::string& path) {
+SectionFigureOptions sectionFigure(const InvertOptions& options) {
   SectionFigureOptions figure;
   figure.scene.rays = options.rays;
   figure.scene.equallySpacedContours = options.contours;
-  return writeSectionFigure(document, figure, path);
+  return figure;
 }
 
 Status drawGathers(const TomoDocument& document, bool filtered, const std::string& path) {

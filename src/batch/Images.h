@@ -2,6 +2,7 @@
 
 #include "base/Status.h"
 #include "batch/Options.h"
+#include "figures/SectionFigure.h"
 
 namespace talvesk {
 
@@ -9,9 +10,8 @@ namespace talvesk {
 /// early; numbers are read and printed by the "C" locale afterwards as before.
 void prepareDrawing();
 
-/// Draws the section as the options say, in the format that the path's suffix names.
-Status drawSection(const TomoDocument& document, const InvertOptions& options,
-                   const std::string& path);
+/// How the section is drawn by the options.
+SectionFigureOptions sectionFigure(const InvertOptions& options);
 
 /// Draws the traces of all shots, as they were picked, and their picks: one file for a PDF or a
 /// single shot, else one per shot. \param filtered the filtered copies

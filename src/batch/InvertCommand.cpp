@@ -6,6 +6,7 @@
 #include "batch/Interrupt.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
+#include "batch/Reports.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
@@ -140,8 +141,12 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
   attempt(options.otte, [&] { return writeTravelTimes(options.otte, document); });
   attempt(options.project, [&] { return writeProject(options.project, options.quiet, project); });
   for (const std::string& image : options.images) {
-    attempt(image, [&] { return drawSection(document, options, image); });
+    attempt(image, [&] { return writeSectionFigure(document, sectionFigure(options), image); });
   }
+  attempt(options.report, [&] {
+    return writeReportFile({document}, options.reportFields, sectionFigure(options),
+                           options.report);
+  });
   return exitCode;
 }
 
@@ -153,12 +158,13 @@ int run(const InvertOptions& options) {
   std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
                                      {"--otte", options.otte},
                                      {"--json", options.json},
-                                     {"--project", options.project}};
+                                     {"--project", options.project},
+                                     {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   const Status places = checkOutputFiles(outputs, inputsOf(options));
   if (places.code() == kWrongUsage) return wrongUsage("invert", places.message());
   if (!places.ok()) return failed(places.message());
-  if (!options.images.empty()) prepareDrawing();
+  if (!options.images.empty() || !options.report.empty()) prepareDrawing();
 
   Log log;
   LoadedProject project;

@@ -131,11 +131,12 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
   CLI::Option* image =
       addImages(app, options.images, "Draw the section: .png, .svg or .pdf; once per picture");
   CLI::Option* rays = app.add_flag("--rays", options.rays, "Draw the rays in --image");
-  CLI::Option* contours = addNumber(app, "--contours", "N", Range<int>{0, 100},
-                                    "Number of contour lines of velocity in --image (default: 0)",
-                                    [&](int value) { options.contours = value; });
+  CLI::Option* contours =
+      addNumber(app, "--contours", "N", Range<int>{0, 100},
+                "Number of contour lines of velocity in --image and --report (default: 0)",
+                [&](int value) { options.contours = value; });
   for (CLI::Option* option : {lineY, zOffset}) option->needs(gridded);
-  for (CLI::Option* option : {rays, contours}) option->needs(image);
+  rays->needs(image);
   CLI::Option* otte =
       addPath(app, "--otte", options.otte, "Write the picks as a travel-time exchange file");
   CLI::Option* json = addPath(app, "--json", options.json,
@@ -169,6 +170,7 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   addGridOptions(command, options);
   addRunOptions(command, options);
   addOutputOptions(command, options);
+  addReport(command, options.report, options.reportFields);
   command.add_flag("--quiet", options.quiet, "Print nothing but errors");
   command.add_flag("--verbose", options.verbose,
                    "Print the messages of the readers and the picker, and those of the engine even "
@@ -176,6 +178,9 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   command.final_callback([inputs, shots, &options] {
     sortInputs(*inputs, shots.anyGiven(), options.input, options.shots.files);
     shots.check(options.shots);
+    if (options.contours > 0 && options.images.empty() && options.report.empty()) {
+      throw CLI::RequiresError("--contours", "--image or --report");
+    }
   });
   command.footer(
       std::string("In JSON velocities are in m/s, cell by cell with row 0 at the surface, and\n"

@@ -51,6 +51,15 @@ struct PickOptions {
   bool verbose = false;
 };
 
+/// What a report says of those it concerns; empty ones are left out.
+struct ReportFields {
+  std::string title;
+  std::string client;
+  std::string site;
+  std::string author;
+  std::string date;  ///< empty: today
+};
+
 struct InvertOptions {
   std::string input;  ///< travel-time file or project; none: shot files
   ShotOptions shots;
@@ -69,6 +78,8 @@ struct InvertOptions {
   std::vector<std::string> images;  ///< one picture per path
   bool rays = false;
   int contours = 0;  ///< number of contour lines
+  std::string report;
+  ReportFields reportFields;
   std::string otte;
   std::string json;
   bool quiet = false;
@@ -97,12 +108,18 @@ struct ExportOptions {
   std::string surfer;
   std::string kmlLine;
   std::string kmlSection;
+  std::vector<std::string> images;  ///< one picture of the section per path
+  std::string report;
+  ReportFields reportFields;
   std::optional<geographicsCoord> geography;  ///< none: the project's
   std::string palette;                        ///< by name; none: the project's current one
   std::optional<ValueRange> range;            ///< m/s; none: that of the project's current palette
   bool quiet = false;
 
-  bool anyOutput() const { return !(gridded + otte + vtk + surfer + kmlLine + kmlSection).empty(); }
+  bool anyOutput() const {
+    return !images.empty() ||
+           !(gridded + otte + vtk + surfer + kmlLine + kmlSection + report).empty();
+  }
 };
 
 struct ConvertOptions {

@@ -185,12 +185,7 @@ void writeText(QXmlStreamWriter& xml, const QString& text) {
   flush();
 }
 
-void writeTableStyles(QXmlStreamWriter& xml, double widthMm) {
-  startStyle(xml, "ReportTable", "table");
-  Attributes table = of({{"table:align", "left"}, {"table:border-model", "collapsing"}});
-  table.append(QStringLiteral("style:width"), mm(widthMm));
-  element(xml, "style:table-properties", table);
-  xml.writeEndElement();
+void writeCellStyles(QXmlStreamWriter& xml) {
   startStyle(xml, "ReportRow", "table-row");
   element(xml, "style:table-row-properties", of({{"fo:keep-together", "always"}}));
   xml.writeEndElement();

@@ -19,8 +19,8 @@ QString mm(double value);
 /// left out.
 void writeText(QXmlStreamWriter& xml, const QString& text);
 
-/// The styles of tables, rows and cells, which belong beside those of the columns.
-void writeTableStyles(QXmlStreamWriter& xml, double widthMm);
+/// The styles of rows and cells, which belong beside those of tables and columns.
+void writeCellStyles(QXmlStreamWriter& xml);
 
 QByteArray stylesOf(const ReportContent& content);
 QByteArray metaOf(const ReportContent& content);

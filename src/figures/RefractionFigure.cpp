@@ -118,7 +118,8 @@ Status RefractionSheet::layOut() {
   Status status;
   // The caption states what comes of the layout, which leaves the same room for any caption.
   for (const std::string& text : {std::string("x"), std::string()}) {
-    mPlot.setTexts(mTitle, text.empty() ? caption() : text, mOptions.widthMm);
+    mPlot.setTexts(mOptions.showTitle ? mTitle : std::string(), text.empty() ? caption() : text,
+                   mOptions.widthMm);
     status = mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight,
                        scale, mPlace);
     if (!status.ok()) break;

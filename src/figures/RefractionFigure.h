@@ -18,6 +18,7 @@ struct RefractionFigureOptions {
   double heightMm = 140.0;
   double dpi = 150.0;  ///< pixels per inch of a PNG
   std::string title;   ///< UTF-8; empty: the document's title, and without one "Refraction Profile"
+  bool showTitle = true;  ///< false: the title is for the properties of the file only
 };
 
 /// Draws the section of layers with the surface and replaces the file at `path` by it, whole or not

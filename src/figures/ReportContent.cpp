@@ -1,6 +1,7 @@
 #include "figures/ReportContent.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace talvesk {
 namespace {
@@ -8,6 +9,8 @@ namespace {
 // Letters; a narrower column would break its heading, a wider one leave the others nothing.
 constexpr int kNarrowest = 4;
 constexpr int kWidest = 28;
+constexpr int kUnbrokenTitle = 14;
+constexpr double kLetterMm = 2.1;  ///< width of one in tables, with room to spare
 
 int longestWord(const QString& text) {
   int longest = 0;
@@ -24,17 +27,29 @@ bool ReportTable::hasHeadings() const {
 
 std::vector<double> ReportTable::shares() const {
   if (!hasHeadings()) return {0.4, 0.6};
-  std::vector<double> shares;
-  double sum = 0.0;
-  for (std::size_t i = 0; i < columns.size(); ++i) {
-    int letters = longestWord(columns[i].title);
-    for (const QStringList& row : rows)
-      letters = std::max(letters, row[static_cast<int>(i)].size());
-    shares.push_back(std::clamp(letters, kNarrowest, kWidest) + 2.0);
-    sum += shares.back();
-  }
+  std::vector<double> shares = letters();
+  const double sum = std::accumulate(shares.begin(), shares.end(), 0.0);
   for (double& share : shares) share /= sum;
   return shares;
+}
+
+double ReportTable::widthMm(double textWidthMm) const {
+  if (!hasHeadings()) return textWidthMm;
+  const std::vector<double> columnLetters = letters();
+  return std::min(kLetterMm * std::accumulate(columnLetters.begin(), columnLetters.end(), 0.0),
+                  textWidthMm);
+}
+
+std::vector<double> ReportTable::letters() const {
+  std::vector<double> widths;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    const int title = std::min(columns[i].title.size(), kUnbrokenTitle);
+    int longest = std::max(longestWord(columns[i].title), title);
+    for (const QStringList& row : rows)
+      longest = std::max(longest, row[static_cast<int>(i)].size());
+    widths.push_back(std::clamp(longest, kNarrowest, kWidest) + 2.5);
+  }
+  return widths;
 }
 
 }  // namespace talvesk

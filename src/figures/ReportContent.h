@@ -41,6 +41,15 @@ struct ReportTable {
   bool hasHeadings() const;
   /// Parts of the width that the columns ask for by what stands in them; together 1.
   std::vector<double> shares() const;
+  /// As wide as its columns need, within the width of the text.
+  double widthMm(double textWidthMm) const;
+
+  /// A table of no more rows stays on one page.
+  static constexpr int kRowsThatStay = 13;
+  bool staysWhole() const { return rows.size() < kRowsThatStay; }
+
+ private:
+  std::vector<double> letters() const;  ///< that each column needs
 };
 
 /// A part of a report. What is read of it stands in `text`; of tables and figures that is the

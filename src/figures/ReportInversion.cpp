@@ -13,8 +13,6 @@
 namespace talvesk::report {
 namespace {
 
-using W = ReportWords;
-
 constexpr double kCurvesHeightMm = 110.0;
 constexpr double kMisfitHeightMm = 65.0;
 constexpr double kHighestSectionMm = 200.0;  ///< leaves a caption its place
@@ -49,14 +47,14 @@ struct Fit {
 };
 
 ReportTable shotTable(const TomoDocument& document, const std::vector<Residual>& residuals) {
-  ReportTable table{{{W::tr("Shot"), true},
-                     {W::tr("Position [m]"), true},
-                     {W::tr("Traces"), true},
-                     {W::tr("Picks"), true}},
+  ReportTable table{{{ReportWords::tr("Shot"), true},
+                     {ReportWords::tr("Position [m]"), true},
+                     {ReportWords::tr("Traces"), true},
+                     {ReportWords::tr("Picks"), true}},
                     {}};
   if (!residuals.empty()) {
-    for (const QString& title :
-         {W::tr("RMS [ms]"), W::tr("RMS [%]"), W::tr("Mean [ms]"), W::tr("Largest [ms]")}) {
+    for (const QString& title : {ReportWords::tr("RMS [ms]"), ReportWords::tr("RMS [%]"),
+                                 ReportWords::tr("Mean [ms]"), ReportWords::tr("Largest [ms]")}) {
       table.columns.push_back({title, true});
     }
   }
@@ -78,7 +76,8 @@ ReportTable shotTable(const TomoDocument& document, const std::vector<Residual>&
     table.rows.push_back(row);
   }
   if (fits.size() > 1) {
-    QStringList row{W::tr("All"), QString(), QString::number(traces), QString::number(picks)};
+    QStringList row{ReportWords::tr("All"), QString(), QString::number(traces),
+                    QString::number(picks)};
     if (!residuals.empty()) row += whole.texts();
     table.rows.push_back(row);
   }
@@ -88,61 +87,67 @@ ReportTable shotTable(const TomoDocument& document, const std::vector<Residual>&
 QString smoothingName(int type) {
   switch (smoothingTypeOf(type)) {
     case SmoothingType::kLinear:
-      return W::tr("Linear weighted");
+      return ReportWords::tr("Linear weighted");
     case SmoothingType::kGaussian:
-      return W::tr("Gaussian weighted");
+      return ReportWords::tr("Gaussian weighted");
     case SmoothingType::kRayBased:
-      return W::tr("Ray based");
+      return ReportWords::tr("Ray based");
     case SmoothingType::kUniform:
       break;
   }
-  return W::tr("Uniform weighted");
+  return ReportWords::tr("Uniform weighted");
 }
 
 void addGrid(ReportBuilder& builder) {
   const Grid& grid = *builder.source.document.grid;
   ReportTable facts = ReportTable::ofFacts();
   facts.rows = {
-      {W::tr("Cells"), W::tr("%1 rows by %2 columns").arg(grid.righe()).arg(grid.col())},
-      {W::tr("Side of a cell"), W::tr("%1 m").arg(number(grid.aLato(), 3))},
-      {W::tr("Depth below the surface"), W::tr("%1 m").arg(number(grid.righe() * grid.aLato(), 2))},
-      {W::tr("Nodes per cell side"), QString::number(grid.nV())},
-      {W::tr("Nodes altogether"), QString::number(grid.nodeCount())}};
-  builder.table(W::tr("The grid under the line"), facts);
+      {ReportWords::tr("Cells"),
+       ReportWords::tr("%1 rows by %2 columns").arg(grid.righe()).arg(grid.col())},
+      {ReportWords::tr("Side of a cell"), ReportWords::tr("%1 m").arg(number(grid.aLato(), 3))},
+      {ReportWords::tr("Depth below the surface"),
+       ReportWords::tr("%1 m").arg(number(grid.righe() * grid.aLato(), 2))},
+      {ReportWords::tr("Nodes per cell side"), QString::number(grid.nV())},
+      {ReportWords::tr("Nodes altogether"), QString::number(grid.nodeCount())}};
+  builder.table(ReportWords::tr("The grid under the line"), facts);
 }
 
 void addLayers(ReportBuilder& builder) {
   const auto layers = acceptedLayers(builder.source.document.layers);
-  ReportTable table{{{W::tr("Layer"), true},
-                     {W::tr("Top [m]"), true},
-                     {W::tr("Bottom [m]"), true},
-                     {W::tr("Velocity at top [m/s]"), true},
-                     {W::tr("Velocity at bottom [m/s]"), true}},
+  ReportTable table{{{ReportWords::tr("Layer"), true},
+                     {ReportWords::tr("Top [m]"), true},
+                     {ReportWords::tr("Bottom [m]"), true},
+                     {ReportWords::tr("Velocity at top [m/s]"), true},
+                     {ReportWords::tr("Velocity at bottom [m/s]"), true}},
                     {}};
   for (std::size_t i = 0; i < layers.size(); ++i) {
     table.rows.push_back({QString::number(i + 1), number(layers[i].initialDepth, 2),
                           number(layers[i].finalDepth, 2), number(layers[i].initialVelocity, 0),
                           number(layers[i].finalVelocity, 0)});
   }
-  builder.table(W::tr("The layers of the starting model, depths below the surface"), table);
+  builder.table(ReportWords::tr("The layers of the starting model, depths below the surface"),
+                table);
 }
 
 void addParameters(ReportBuilder& builder, const InversionRecord& run) {
   ReportTable facts = ReportTable::ofFacts();
   const int done = static_cast<int>(run.history.size());
-  QString iterations = W::tr("%1 of %2").arg(done).arg(run.externalIterations);
-  if (run.stopped) iterations = W::tr("%1, stopped by the user").arg(iterations);
+  QString iterations = ReportWords::tr("%1 of %2").arg(done).arg(run.externalIterations);
+  if (run.stopped) iterations = ReportWords::tr("%1, stopped by the user").arg(iterations);
   const double ratio = verticalRatio(run.symmetric);
-  facts.rows = {
-      {W::tr("External iterations"), iterations},
-      {W::tr("Solver iterations on the rays of each"), QString::number(run.solverIterations)},
-      {W::tr("Velocity limits"), W::tr("%1 m/s").arg(span(run.minVelocity, run.maxVelocity, 0))},
-      {W::tr("Smoothing"), smoothingName(run.smoothingType)},
-      {W::tr("Smoothing radius"),
-       run.smoothing == 1 ? W::tr("1 cell") : W::tr("%1 cells").arg(run.smoothing)},
-      {W::tr("Height over width of the smoothing window"), number(ratio, 1)},
-      {W::tr("Elapsed time"), W::tr("%1 s").arg(number(run.elapsedSeconds, 1))}};
-  builder.table(W::tr("Parameters of the inversion"), facts);
+  facts.rows = {{ReportWords::tr("External iterations"), iterations},
+                {ReportWords::tr("Solver iterations on the rays of each"),
+                 QString::number(run.solverIterations)},
+                {ReportWords::tr("Velocity limits"),
+                 ReportWords::tr("%1 m/s").arg(span(run.minVelocity, run.maxVelocity, 0))},
+                {ReportWords::tr("Smoothing"), smoothingName(run.smoothingType)},
+                {ReportWords::tr("Smoothing radius"),
+                 run.smoothing == 1 ? ReportWords::tr("1 cell")
+                                    : ReportWords::tr("%1 cells").arg(run.smoothing)},
+                {ReportWords::tr("Height over width of the smoothing window"), number(ratio, 1)},
+                {ReportWords::tr("Elapsed time"),
+                 ReportWords::tr("%1 s").arg(number(run.elapsedSeconds, 1))}};
+  builder.table(ReportWords::tr("Parameters of the inversion"), facts);
 }
 
 SectionFigureOptions sectionOptions(const ReportBuilder& builder, SectionQuantity quantity) {
@@ -174,12 +179,12 @@ Status addSection(ReportBuilder& builder, const SectionFigureOptions& options,
 }
 
 void addHistory(ReportBuilder& builder, const InversionRecord& run) {
-  ReportTable table{{{W::tr("External iteration"), true},
-                     {W::tr("Picks"), true},
-                     {W::tr("RMS [ms]"), true},
-                     {W::tr("RMS [%]"), true},
-                     {W::tr("Largest late error [ms]"), true},
-                     {W::tr("Largest late error [%]"), true}},
+  ReportTable table{{{ReportWords::tr("External iteration"), true},
+                     {ReportWords::tr("Picks"), true},
+                     {ReportWords::tr("RMS [ms]"), true},
+                     {ReportWords::tr("RMS [%]"), true},
+                     {ReportWords::tr("Largest late error [ms]"), true},
+                     {ReportWords::tr("Largest late error [%]"), true}},
                     {}};
   for (std::size_t i = 0; i < run.history.size(); ++i) {
     const Misfit& misfit = run.history[i];
@@ -189,19 +194,19 @@ void addHistory(ReportBuilder& builder, const InversionRecord& run) {
                           number(1e3 * misfit.maxError, 3),
                           number(1e2 * misfit.maxRelativeError, 2)});
   }
-  builder.table(W::tr("Misfit after every external iteration"), table);
+  builder.table(ReportWords::tr("Misfit after every external iteration"), table);
 }
 
 }  // namespace
 
 Status addTravelTimes(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
-  builder.heading(W::tr("Travel times"));
+  builder.heading(ReportWords::tr("Travel times"));
   const std::vector<Residual> residuals = residualsOf(document);
   const bool picked = std::any_of(document.ttArray.begin(), document.ttArray.end(),
                                   [](const TravelTime& record) { return picksOf(record) > 0; });
   if (!picked) {
-    builder.paragraph(W::tr("No first breaks have been picked."));
+    builder.paragraph(ReportWords::tr("No first breaks have been picked."));
     return {};
   }
   TravelTimeFigureOptions options;
@@ -212,46 +217,50 @@ Status addTravelTimes(ReportBuilder& builder) {
   if (Status status = prepareTravelTimeFigure(document, options, drawing); !status.ok()) {
     return status;
   }
-  builder.figure(residuals.empty()
-                     ? W::tr("Travel-time curves: picked first breaks against distance")
-                     : W::tr("Travel-time curves: picked first breaks (symbols) and times computed "
-                             "through the section (lines) against distance"),
-                 std::move(drawing));
-  builder.table(residuals.empty()
-                    ? W::tr("Picks of every shot")
-                    : W::tr("Picks of every shot and their misfit, computed minus measured"),
-                shotTable(document, residuals));
+  builder.figure(
+      residuals.empty()
+          ? ReportWords::tr("Travel-time curves: picked first breaks against distance")
+          : ReportWords::tr("Travel-time curves: picked first breaks (symbols) and times computed "
+                            "through the section (lines) against distance"),
+      std::move(drawing));
+  builder.table(
+      residuals.empty()
+          ? ReportWords::tr("Picks of every shot")
+          : ReportWords::tr("Picks of every shot and their misfit, computed minus measured"),
+      shotTable(document, residuals));
   return {};
 }
 
 void addInversion(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
-  builder.heading(W::tr("Grid and inversion"));
+  builder.heading(ReportWords::tr("Grid and inversion"));
   if (document.grid == nullptr) {
-    builder.paragraph(W::tr("No grid has been built and nothing has been inverted."));
+    builder.paragraph(ReportWords::tr("No grid has been built and nothing has been inverted."));
     return;
   }
   addGrid(builder);
   addLayers(builder);
   if (!document.hasTomographicInfo) {
-    builder.paragraph(W::tr("Nothing has been inverted: the grid holds its starting model."));
+    builder.paragraph(
+        ReportWords::tr("Nothing has been inverted: the grid holds its starting model."));
   } else if (document.lastInversion) {
     addParameters(builder, *document.lastInversion);
   } else {
-    builder.paragraph(W::tr("The parameters of the inversion are not known."));
+    builder.paragraph(ReportWords::tr("The parameters of the inversion are not known."));
   }
 }
 
 Status addSections(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   if (document.grid == nullptr) return {};
-  builder.heading(W::tr("Velocity section"));
+  builder.heading(ReportWords::tr("Velocity section"));
   SectionFigureOptions options = sectionOptions(builder, SectionQuantity::kVelocity);
   options.scene.rays = builder.options.sections.rays && !document.rays.empty();
-  QString caption = W::tr("Velocity of the starting model");
+  QString caption = ReportWords::tr("Velocity of the starting model");
   if (document.hasTomographicInfo) {
-    caption = options.scene.rays ? W::tr("Velocity section with the rays of the last iteration")
-                                 : W::tr("Velocity section");
+    caption = options.scene.rays
+                  ? ReportWords::tr("Velocity section with the rays of the last iteration")
+                  : ReportWords::tr("Velocity section");
   }
   Status status = addSection(builder, options, caption);
   const bool density = std::any_of(document.info_density.begin(), document.info_density.end(),
@@ -259,9 +268,9 @@ Status addSections(ReportBuilder& builder) {
   if (status.ok() && builder.options.sections.density && document.hasTomographicInfo && density) {
     options = sectionOptions(builder, SectionQuantity::kInformationDensity);
     options.scene.rays = false;
-    status =
-        addSection(builder, options,
-                   W::tr("Information density: how many rays support each part of the section"));
+    status = addSection(
+        builder, options,
+        ReportWords::tr("Information density: how many rays support each part of the section"));
   }
   return status;
 }
@@ -270,23 +279,25 @@ Status addMisfit(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   const Misfit misfit = computeMisfit(document);
   if (!document.hasTomographicInfo || misfit.count == 0) return {};
-  builder.heading(W::tr("Misfit"));
+  builder.heading(ReportWords::tr("Misfit"));
   ReportTable facts = ReportTable::ofFacts();
   facts.rows = {
-      {W::tr("Picks used"), QString::number(misfit.count)},
-      {W::tr("RMS misfit"),
-       W::tr("%1 ms, %2 %").arg(number(1e3 * misfit.rmse, 3), number(1e2 * misfit.relativeRms, 2))},
-      {W::tr("Largest late error"),
-       W::tr("%1 ms, %2 %")
+      {ReportWords::tr("Picks used"), QString::number(misfit.count)},
+      {ReportWords::tr("RMS misfit"),
+       ReportWords::tr("%1 ms, %2 %")
+           .arg(number(1e3 * misfit.rmse, 3), number(1e2 * misfit.relativeRms, 2))},
+      {ReportWords::tr("Largest late error"),
+       ReportWords::tr("%1 ms, %2 %")
            .arg(number(1e3 * misfit.maxError, 3), number(1e2 * misfit.maxRelativeError, 2))}};
   if (!document.excluded.empty()) {
-    facts.rows.push_back({W::tr("Shots and receivers left out, beyond the grid"),
+    facts.rows.push_back({ReportWords::tr("Shots and receivers left out, beyond the grid"),
                           QString::number(document.excluded.size())});
   }
-  builder.table(W::tr("Misfit of the section"), facts);
+  builder.table(ReportWords::tr("Misfit of the section"), facts);
   FigureDrawing drawing;
   if (prepareResidualFigure(document, builder.widthMm(), kMisfitHeightMm, drawing).ok()) {
-    builder.figure(W::tr("Residuals of the picks against the distance from their shot"), drawing);
+    builder.figure(ReportWords::tr("Residuals of the picks against the distance from their shot"),
+                   drawing);
   }
   if (!document.lastInversion) return {};
   drawing = FigureDrawing();
@@ -294,7 +305,7 @@ Status addMisfit(ReportBuilder& builder) {
       prepareMisfitHistoryFigure(*document.lastInversion, builder.widthMm(), kMisfitHeightMm,
                                  drawing)
           .ok()) {
-    builder.figure(W::tr("Misfit after every external iteration"), drawing);
+    builder.figure(ReportWords::tr("Misfit after every external iteration"), drawing);
   }
   addHistory(builder, *document.lastInversion);
   return {};

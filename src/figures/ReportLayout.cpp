@@ -9,6 +9,7 @@
 #include <QTextDocument>
 #include <QTextObjectInterface>
 #include <QTextTable>
+#include <algorithm>
 #include <cmath>
 
 namespace talvesk {
@@ -17,6 +18,7 @@ namespace {
 constexpr double kMmPerInch = 25.4;
 constexpr double kTextPoints = 10.0;
 constexpr double kTablePoints = 8.5;
+constexpr double kTitleMm = 60.0;  ///< of blank paper above the title
 constexpr int kFigureObject = QTextFormat::UserObject + 1;
 constexpr int kFigureIndex = QTextFormat::UserProperty + 1;
 constexpr int kStaysWithNext = QTextFormat::UserProperty + 2;
@@ -70,23 +72,22 @@ struct BlockLook {
   double aboveMm = 0.0;
   double belowMm = 2.5;
   bool staysWithNext = false;
-  bool staysWhole = false;
 };
 
 BlockLook lookOf(ReportItem::Kind kind) {
   switch (kind) {
     case ReportItem::Kind::kTitle:
-      return {24.0, true, 70.0, 4.0, false, false};
+      return {24.0, true, 0.0, 4.0, false};
     case ReportItem::Kind::kSubtitle:
-      return {14.0, false, 0.0, 18.0, false, false};
+      return {14.0, false, 0.0, 18.0, false};
     case ReportItem::Kind::kHeading:
-      return {15.0, true, 9.0, 3.0, true, true};
+      return {15.0, true, 9.0, 3.0, true};
     case ReportItem::Kind::kSubheading:
-      return {11.5, true, 5.0, 2.0, true, true};
+      return {11.5, true, 5.0, 2.0, true};
     case ReportItem::Kind::kTable:
-      return {9.0, false, 4.0, 1.5, true, true};
+      return {9.0, true, 4.0, 1.5, true};
     case ReportItem::Kind::kFigure:
-      return {9.0, false, 2.0, 5.0, false, true};
+      return {9.0, false, 0.0, 5.0, false};
     default:
       return {};
   }
@@ -98,24 +99,42 @@ class Filler {
       : mContent(content), mCursor(&document) {}
 
   void fill() {
+    mCursor.beginEditBlock();  // laid out once, not after every cell
     for (std::size_t i = 0; i < mContent.items.size(); ++i) {
       const ReportItem& item = mContent.items[i];
       if (item.kind == ReportItem::Kind::kBreak) {
         mBreak = true;
         continue;
       }
-      if (!item.text.isEmpty() || item.kind == ReportItem::Kind::kFigure) addBlock(item, i);
-      if (item.kind == ReportItem::Kind::kTable) addTable(item.table);
+      if (item.kind == ReportItem::Kind::kFigure) addFigure(i);
+      if (!item.text.isEmpty()) addText(item);
+      if (item.kind != ReportItem::Kind::kTable) continue;
+      // The layout takes no margin above a block behind a table, so the table has it.
+      const bool last = i + 1 == mContent.items.size();
+      addTable(item.table, last ? 0.0 : lookOf(mContent.items[i + 1].kind).aboveMm);
     }
+    mCursor.endEditBlock();
   }
 
  private:
-  void addBlock(const ReportItem& item, std::size_t index) {
-    const BlockLook look = lookOf(item.kind);
+  void addText(const ReportItem& item) {
+    // The layout takes no margin above the first block, so a blank one stands over the title.
+    if (item.kind == ReportItem::Kind::kTitle) begin({kTextPoints, false, 0.0, kTitleMm, false});
+    mCursor.insertText(item.text, begin(lookOf(item.kind)));
+  }
+
+  void addFigure(std::size_t index) {
+    begin({kTextPoints, false, 2.0, 1.0, true});
+    QTextCharFormat figure;
+    figure.setObjectType(kFigureObject);
+    figure.setProperty(kFigureIndex, static_cast<int>(index));
+    mCursor.insertText(QString(QChar::ObjectReplacementCharacter), figure);
+  }
+
+  QTextCharFormat begin(const BlockLook& look) {
     QTextBlockFormat block;
     block.setTopMargin(length(look.aboveMm));
     block.setBottomMargin(length(look.belowMm));
-    block.setNonBreakableLines(look.staysWhole);
     block.setProperty(kStaysWithNext, look.staysWithNext);
     if (mBreak) block.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     mBreak = false;
@@ -123,15 +142,7 @@ class Filler {
     letters.setFont(figureFont(look.points, look.bold));
     letters.setForeground(Qt::black);
     begin(block, letters);
-    if (item.kind == ReportItem::Kind::kFigure) {
-      QTextCharFormat figure;
-      figure.setObjectType(kFigureObject);
-      figure.setProperty(kFigureIndex, static_cast<int>(index));
-      mCursor.insertText(QString(QChar::ObjectReplacementCharacter), figure);
-      // Caption and figure are lines of one block that stays whole.
-      mCursor.insertText(QString(QChar::LineSeparator), letters);
-    }
-    mCursor.insertText(item.text, letters);
+    return letters;
   }
 
   /// The first block of a document is there already, and so is one behind a table.
@@ -145,7 +156,7 @@ class Filler {
     mFresh = mAfterTable = false;
   }
 
-  void addTable(const ReportTable& table) {
+  void addTable(const ReportTable& table, double belowMm) {
     const bool headings = table.hasHeadings();
     const int columns = static_cast<int>(table.columns.size());
     const int rows = static_cast<int>(table.rows.size()) + (headings ? 1 : 0);
@@ -155,8 +166,11 @@ class Filler {
     format.setBorder(0.0);
     format.setCellSpacing(0.0);
     format.setCellPadding(length(0.8));
-    format.setBottomMargin(length(4.0));
-    format.setWidth(QTextLength(QTextLength::PercentageLength, 100.0));
+    format.setTopMargin(length(0.5));
+    format.setBottomMargin(length(std::max(belowMm, 4.0)));
+    const double whole = ReportSheet(mContent.paper).textWidthMm();
+    format.setWidth(
+        QTextLength(QTextLength::PercentageLength, 100.0 * table.widthMm(whole) / whole));
     QVector<QTextLength> widths;
     for (const double share : table.shares()) {
       widths.append(QTextLength(QTextLength::PercentageLength, 100.0 * share));
@@ -186,16 +200,17 @@ class Filler {
     } else if (shaded) {
       look.setBackground(QColor(243, 245, 247));
     }
+    // Of the first block of a cell, the format of its letters is that of the cell.
+    look.setFont(figureFont(kTablePoints, heading));
+    look.setForeground(Qt::black);
     cell.setFormat(look);
     QTextCursor cursor = cell.firstCursorPosition();
     QTextBlockFormat block;
     block.setAlignment(number ? Qt::AlignRight : Qt::AlignLeft);
-    block.setNonBreakableLines(true);
     cursor.setBlockFormat(block);
     QTextCharFormat letters;
-    letters.setFont(figureFont(kTablePoints, heading));
+    letters.setFont(look.font());
     letters.setForeground(Qt::black);
-    cursor.setBlockCharFormat(letters);
     cursor.insertText(text, letters);
   }
 
@@ -206,15 +221,16 @@ class Filler {
   bool mBreak = false;
 };
 
-/// The first block after one that stays with what follows; of a table with headings that is the
-/// first cell below them.
+/// The block that must be on the page of one that stays with what follows. Of a small table that is
+/// the last one, of a large table the first below its headings.
 QTextBlock companionOf(const QTextBlock& block) {
   const QTextBlock next = block.next();
   if (!next.isValid()) return next;
   const QTextTable* table = QTextCursor(next).currentTable();
   if (table == nullptr) return next;
-  const int row = table->format().headerRowCount();
-  return row < table->rows() ? table->cellAt(row, 0).firstCursorPosition().block() : next;
+  const bool small = table->rows() <= ReportTable::kRowsThatStay;
+  const int row = small ? table->rows() - 1 : table->format().headerRowCount();
+  return table->cellAt(std::min(row, table->rows() - 1), 0).firstCursorPosition().block();
 }
 
 bool staysWithNext(const QTextBlock& block) {
@@ -237,7 +253,9 @@ void fillReport(const ReportContent& content, QTextDocument& document) {
 }
 
 int pageOf(const QTextDocument& document, const QTextBlock& block) {
-  const double top = document.documentLayout()->blockBoundingRect(block).top();
+  // A line that has no room left moves to the next page, but its block begins where it began.
+  double top = document.documentLayout()->blockBoundingRect(block).top();
+  if (block.layout()->lineCount() > 0) top += block.layout()->lineAt(0).y();
   // A hair down: a block at the very top of a page is on it.
   return static_cast<int>((top + 1.0) / document.pageSize().height());
 }

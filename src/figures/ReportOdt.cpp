@@ -47,19 +47,35 @@ class ContentWriter {
       if (item.kind != ReportItem::Kind::kTable) continue;
       ++table;
       int column = 0;
+      const double columns = item.table.widthMm(width);
+      writeTableStyle(tableStyle(table), columns, item.table.staysWhole());
       for (const double share : item.table.shares()) {
         mXml->writeStartElement(QStringLiteral("style:style"));
         mXml->writeAttribute(QStringLiteral("style:name"), columnStyle(table, ++column));
         mXml->writeAttribute(QStringLiteral("style:family"), QStringLiteral("table-column"));
         mXml->writeEmptyElement(QStringLiteral("style:table-column-properties"));
-        mXml->writeAttribute(QStringLiteral("style:column-width"), odt::mm(share * width));
+        mXml->writeAttribute(QStringLiteral("style:column-width"), odt::mm(share * columns));
         mXml->writeEndElement();
       }
     }
-    odt::writeTableStyles(*mXml, width);
+    odt::writeCellStyles(*mXml);
     mXml->writeEndElement();
   }
 
+  void writeTableStyle(const QString& name, double widthMm, bool whole) {
+    mXml->writeStartElement(QStringLiteral("style:style"));
+    mXml->writeAttribute(QStringLiteral("style:name"), name);
+    mXml->writeAttribute(QStringLiteral("style:family"), QStringLiteral("table"));
+    mXml->writeEmptyElement(QStringLiteral("style:table-properties"));
+    mXml->writeAttribute(QStringLiteral("style:width"), odt::mm(widthMm));
+    mXml->writeAttribute(QStringLiteral("table:align"), QStringLiteral("left"));
+    mXml->writeAttribute(QStringLiteral("table:border-model"), QStringLiteral("collapsing"));
+    mXml->writeAttribute(QStringLiteral("style:may-break-between-rows"),
+                         whole ? QStringLiteral("false") : QStringLiteral("true"));
+    mXml->writeEndElement();
+  }
+
+  static QString tableStyle(int table) { return QStringLiteral("Table%1").arg(table); }
   static QString columnStyle(int table, int column) {
     return QStringLiteral("Table%1.%2").arg(table).arg(column);
   }
@@ -108,8 +124,8 @@ class ContentWriter {
   void writeTable(const ReportTable& table) {
     if (table.rows.empty()) return;
     mXml->writeStartElement(QStringLiteral("table:table"));
-    mXml->writeAttribute(QStringLiteral("table:name"), QStringLiteral("Table%1").arg(++mTables));
-    mXml->writeAttribute(QStringLiteral("table:style-name"), QStringLiteral("ReportTable"));
+    mXml->writeAttribute(QStringLiteral("table:name"), tableStyle(++mTables));
+    mXml->writeAttribute(QStringLiteral("table:style-name"), tableStyle(mTables));
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
       mXml->writeEmptyElement(QStringLiteral("table:table-column"));
       mXml->writeAttribute(QStringLiteral("table:style-name"),

@@ -1,3 +1,4 @@
+#include "figures/RefractionFigure.h"
 #include "figures/ReportBuilder.h"
 #include "model/TomoDocument.h"
 
@@ -9,7 +10,7 @@
 namespace talvesk::report {
 namespace {
 
-using W = ReportWords;
+constexpr double kProfileHeightMm = 85.0;
 using refractionDataStructure::computedData;
 
 bool isBuilt(const ReportBuilder& builder) {
@@ -24,11 +25,12 @@ double at(const std::vector<double>& values, std::size_t i) {
 
 /// One value per receiver of the first refractor; the second's receivers are found by their place.
 ReportTable profileTable(const std::vector<computedData>& refractors) {
-  ReportTable table{{{W::tr("Position [m]"), true}, {W::tr("Elevation [m]"), true}}, {}};
+  ReportTable table{
+      {{ReportWords::tr("Position [m]"), true}, {ReportWords::tr("Elevation [m]"), true}}, {}};
   for (std::size_t r = 0; r < refractors.size(); ++r) {
     const QString number = QString::number(r + 1);
-    table.columns.push_back({W::tr("Depth %1 [m]").arg(number), true});
-    table.columns.push_back({W::tr("Velocity %1 [m/s]").arg(number), true});
+    table.columns.push_back({ReportWords::tr("Depth %1 [m]").arg(number), true});
+    table.columns.push_back({ReportWords::tr("Velocity %1 [m/s]").arg(number), true});
   }
   const computedData& first = refractors.front();
   for (std::size_t i = 0; i < first.x.size(); ++i) {
@@ -49,28 +51,37 @@ ReportTable profileTable(const std::vector<computedData>& refractors) {
 Status addRefraction(ReportBuilder& builder) {
   if (!isBuilt(builder)) return {};
   const auto& data = builder.source.interpretation->refractData;
-  builder.heading(W::tr("Refraction interpretation"));
+  builder.heading(ReportWords::tr("Refraction interpretation"));
   ReportTable facts = ReportTable::ofFacts();
-  facts.rows.push_back(
-      {W::tr("Velocity of the first layer"), W::tr("%1 m/s").arg(number(data.v1, 0))});
+  facts.rows.push_back({ReportWords::tr("Velocity of the first layer"),
+                        ReportWords::tr("%1 m/s").arg(number(data.v1, 0))});
   for (std::size_t r = 0; r < data.cData.size(); ++r) {
     const std::vector<double>& velocity = data.cData[r].velocity;
     if (velocity.empty()) continue;
     const auto [low, high] = std::minmax_element(velocity.begin(), velocity.end());
-    facts.rows.push_back(
-        {W::tr("Velocity of refractor %1").arg(r + 1), W::tr("%1 m/s").arg(span(*low, *high, 0))});
-    facts.rows.push_back({W::tr("Distance XY of refractor %1").arg(r + 1),
-                          W::tr("%1 m").arg(number(data.cData[r].chosenXY, 1))});
+    facts.rows.push_back({ReportWords::tr("Velocity of refractor %1").arg(r + 1),
+                          ReportWords::tr("%1 m/s").arg(span(*low, *high, 0))});
+    facts.rows.push_back({ReportWords::tr("Distance XY of refractor %1").arg(r + 1),
+                          ReportWords::tr("%1 m").arg(number(data.cData[r].chosenXY, 1))});
   }
-  builder.table(W::tr("Layers and refractors"), facts);
-  builder.table(W::tr("Depths below the surface and velocities of the refractors"),
+  builder.table(ReportWords::tr("Layers and refractors"), facts);
+  RefractionFigureOptions options;
+  options.widthMm = builder.widthMm();
+  options.heightMm = kProfileHeightMm;
+  options.showTitle = false;
+  FigureDrawing drawing;
+  // Refractors without any depth have a table all the same.
+  if (prepareRefractionFigure(builder.source.document, data, options, drawing).ok()) {
+    builder.figure(ReportWords::tr("Section of the layers"), std::move(drawing));
+  }
+  builder.table(ReportWords::tr("Depths below the surface and velocities of the refractors"),
                 profileTable(data.cData));
   return {};
 }
 
 void addMethod(ReportBuilder& builder) {
-  builder.heading(W::tr("Method"));
-  builder.paragraph(W::tr(
+  builder.heading(ReportWords::tr("Method"));
+  builder.paragraph(ReportWords::tr(
       "First breaks are the times at which the first seismic energy of a shot reaches each "
       "geophone. They were picked on the recorded traces and inverted by travel-time "
       "tomography. The ground beneath the line is divided into square cells of constant "
@@ -80,20 +91,20 @@ void addMethod(ReportBuilder& builder) {
       "and correct the slowness of the cells that they cross, several times over on the same "
       "rays, within the limits of velocity. The corrected section is smoothed, and new rays "
       "are traced through it: that is one external iteration."));
-  builder.paragraph(
-      W::tr("The misfit is the difference between computed and measured times. RMS is its root "
-            "mean square, in milliseconds or relative to the measured times in percent. The "
-            "information density tells how many rays cross the surroundings of a cell; where it is "
-            "low, velocities are poorly supported by the data, and below the lowest rays the "
-            "section is not drawn. Velocities that decrease with depth and thin layers may remain "
-            "hidden from first arrivals."));
+  builder.paragraph(ReportWords::tr(
+      "The misfit is the difference between computed and measured times. RMS is its root "
+      "mean square, in milliseconds or relative to the measured times in percent. The "
+      "information density tells how many rays cross the surroundings of a cell; where it is "
+      "low, velocities are poorly supported by the data, and below the lowest rays the "
+      "section is not drawn. Velocities that decrease with depth and thin layers may remain "
+      "hidden from first arrivals."));
   if (isBuilt(builder)) {
-    builder.paragraph(
-        W::tr("The refractors were interpreted by the generalised reciprocal method. First breaks "
-              "were assigned to layers, and the arrivals of each refractor from both ends of the "
-              "line were completed by shifted arrivals of the other shots. The velocity-analysis "
-              "function gives the velocity of the refractor, the time-depth function its depth "
-              "beneath each geophone."));
+    builder.paragraph(ReportWords::tr(
+        "The refractors were interpreted by the generalised reciprocal method. First breaks "
+        "were assigned to layers, and the arrivals of each refractor from both ends of the "
+        "line were completed by shifted arrivals of the other shots. The velocity-analysis "
+        "function gives the velocity of the refractor, the time-depth function its depth "
+        "beneath each geophone."));
   }
 }
 

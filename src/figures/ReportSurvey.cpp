@@ -15,8 +15,6 @@
 namespace talvesk::report {
 namespace {
 
-using W = ReportWords;
-
 struct Range {
   double low = std::numeric_limits<double>::infinity();
   double high = -std::numeric_limits<double>::infinity();
@@ -75,33 +73,36 @@ void addLine(ReportBuilder& builder) {
   for (const TravelTime& record : document.ttArray) shots.take(record.shotPos2d);
 
   ReportTable facts = ReportTable::ofFacts();
-  addFact(facts, W::tr("Waves"),
-          document.waveType == WaveType::S ? W::tr("S waves") : W::tr("P waves"));
+  addFact(
+      facts, ReportWords::tr("Waves"),
+      document.waveType == WaveType::S ? ReportWords::tr("S waves") : ReportWords::tr("P waves"));
   if (geophones.x.known()) {
-    addFact(facts, W::tr("Geophones from, to"),
-            W::tr("%1 m").arg(span(geophones.x.low, geophones.x.high, 2)));
-    addFact(facts, W::tr("Length of the line"),
-            W::tr("%1 m").arg(number(geophones.x.high - geophones.x.low, 2)));
-    addFact(facts, W::tr("Elevation of the geophones"),
-            W::tr("%1 m").arg(span(geophones.z.low, geophones.z.high, 2)));
+    addFact(facts, ReportWords::tr("Geophones from, to"),
+            ReportWords::tr("%1 m").arg(span(geophones.x.low, geophones.x.high, 2)));
+    addFact(facts, ReportWords::tr("Length of the line"),
+            ReportWords::tr("%1 m").arg(number(geophones.x.high - geophones.x.low, 2)));
+    addFact(facts, ReportWords::tr("Elevation of the geophones"),
+            ReportWords::tr("%1 m").arg(span(geophones.z.low, geophones.z.high, 2)));
   }
   if (shots.x.known()) {
-    addFact(facts, W::tr("Shots from, to"), W::tr("%1 m").arg(span(shots.x.low, shots.x.high, 2)));
+    addFact(facts, ReportWords::tr("Shots from, to"),
+            ReportWords::tr("%1 m").arg(span(shots.x.low, shots.x.high, 2)));
   }
-  addFact(facts, W::tr("Geophone strings"), QString::number(document.goephonesStringSet.size()));
-  addFact(facts, W::tr("Geophone positions"), QString::number(count));
-  addFact(facts, W::tr("Number of shots"), QString::number(document.ttArray.size()));
-  builder.table(W::tr("The line"), facts);
+  addFact(facts, ReportWords::tr("Geophone strings"),
+          QString::number(document.goephonesStringSet.size()));
+  addFact(facts, ReportWords::tr("Geophone positions"), QString::number(count));
+  addFact(facts, ReportWords::tr("Number of shots"), QString::number(document.ttArray.size()));
+  builder.table(ReportWords::tr("The line"), facts);
 }
 
 void addStrings(ReportBuilder& builder) {
   const auto& strings = builder.source.document.goephonesStringSet;
-  ReportTable table{{{W::tr("String"), true},
-                     {W::tr("Geophones"), true},
-                     {W::tr("From [m]"), true},
-                     {W::tr("To [m]"), true},
-                     {W::tr("Spacing [m]"), true},
-                     {W::tr("Elevation [m]"), true}},
+  ReportTable table{{{ReportWords::tr("String"), true},
+                     {ReportWords::tr("Geophones"), true},
+                     {ReportWords::tr("From [m]"), true},
+                     {ReportWords::tr("To [m]"), true},
+                     {ReportWords::tr("Spacing [m]"), true},
+                     {ReportWords::tr("Elevation [m]"), true}},
                     {}};
   for (std::size_t i = 0; i < strings.size(); ++i) {
     Extent extent;
@@ -111,7 +112,7 @@ void addStrings(ReportBuilder& builder) {
          number(extent.x.high, 2), spacingOf(strings[i]),
          extent.z.known() ? span(extent.z.low, extent.z.high, 2) : number(std::nan(""), 0)});
   }
-  builder.table(W::tr("Strings of geophones"), table);
+  builder.table(ReportWords::tr("Strings of geophones"), table);
 }
 
 /// The first trace of a shot that tells how it was sampled.
@@ -129,17 +130,17 @@ void addShots(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   const bool files = std::any_of(document.traceSets.begin(), document.traceSets.end(),
                                  [](const TraceSet& set) { return !set.empty(); });
-  ReportTable table{{{W::tr("Shot"), true},
-                     {W::tr("Position [m]"), true},
-                     {W::tr("Elevation [m]"), true},
-                     {W::tr("String"), true},
-                     {W::tr("Traces"), true}},
+  ReportTable table{{{ReportWords::tr("Shot"), true},
+                     {ReportWords::tr("Position [m]"), true},
+                     {ReportWords::tr("Elevation [m]"), true},
+                     {ReportWords::tr("String"), true},
+                     {ReportWords::tr("Traces"), true}},
                     {}};
   if (files) {
-    table.columns.insert(table.columns.begin() + 1, {W::tr("File"), false});
-    table.columns.push_back({W::tr("Interval [ms]"), true});
-    table.columns.push_back({W::tr("Samples"), true});
-    table.columns.push_back({W::tr("Length [ms]"), true});
+    table.columns.insert(table.columns.begin() + 1, {ReportWords::tr("File"), false});
+    table.columns.push_back({ReportWords::tr("Interval [ms]"), true});
+    table.columns.push_back({ReportWords::tr("Samples"), true});
+    table.columns.push_back({ReportWords::tr("Length [ms]"), true});
   }
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const TravelTime& record = document.ttArray[i];
@@ -158,27 +159,28 @@ void addShots(ReportBuilder& builder) {
     }
     table.rows.push_back(row);
   }
-  builder.table(files ? W::tr("Shots and their recordings") : W::tr("Shots"), table);
+  builder.table(files ? ReportWords::tr("Shots and their recordings") : ReportWords::tr("Shots"),
+                table);
 }
 
 }  // namespace
 
 void addTitlePage(ReportBuilder& builder) {
   const ReportOptions& options = builder.options;
-  const QString kind = W::tr("Seismic refraction survey");
+  const QString kind = ReportWords::tr("Seismic refraction survey");
   const QString title =
       qt(options.title.empty() ? builder.source.document.title : options.title).simplified();
   builder.add(ReportItem::Kind::kTitle, title.isEmpty() ? kind : title);
   if (!title.isEmpty()) builder.add(ReportItem::Kind::kSubtitle, kind);
   ReportTable facts = ReportTable::ofFacts();
-  addFact(facts, W::tr("Client"), qt(options.client));
-  addFact(facts, W::tr("Site"), qt(options.site));
-  addFact(facts, W::tr("Author"), qt(options.author));
-  addFact(facts, W::tr("Date"), qt(options.date));
+  addFact(facts, ReportWords::tr("Client"), qt(options.client));
+  addFact(facts, ReportWords::tr("Site"), qt(options.site));
+  addFact(facts, ReportWords::tr("Author"), qt(options.author));
+  addFact(facts, ReportWords::tr("Date"), qt(options.date));
   builder.table({}, facts);
   const QString notes = qt(options.notes);
   if (!notes.isEmpty()) {
-    builder.subheading(W::tr("Notes"));
+    builder.subheading(ReportWords::tr("Notes"));
     for (const QString& part : notes.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
       builder.paragraph(part);
     }
@@ -186,7 +188,7 @@ void addTitlePage(ReportBuilder& builder) {
 }
 
 void addSurvey(ReportBuilder& builder) {
-  builder.heading(W::tr("Survey"));
+  builder.heading(ReportWords::tr("Survey"));
   addLine(builder);
   addStrings(builder);
   addShots(builder);
@@ -196,15 +198,16 @@ void addPosition(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   if (!document.geoCoordIsSet) return;
   const geographicsCoord& place = document.geoCoord;
-  builder.heading(W::tr("Position"));
-  ReportTable table{
-      {{W::tr("End of the line")}, {W::tr("Easting [m]"), true}, {W::tr("Northing [m]"), true}},
-      {}};
+  builder.heading(ReportWords::tr("Position"));
+  ReportTable table{{{ReportWords::tr("End of the line")},
+                     {ReportWords::tr("Easting [m]"), true},
+                     {ReportWords::tr("Northing [m]"), true}},
+                    {}};
   const GeoTransformer globe(place.CRS);
   const bool known = globe.status().ok();
   if (known) {
-    table.columns.push_back({W::tr("Longitude [°]"), true});
-    table.columns.push_back({W::tr("Latitude [°]"), true});
+    table.columns.push_back({ReportWords::tr("Longitude [°]"), true});
+    table.columns.push_back({ReportWords::tr("Latitude [°]"), true});
   }
   const auto add = [&](const QString& name, double east, double north) {
     QStringList row{name, number(east, 2), number(north, 2)};
@@ -215,18 +218,19 @@ void addPosition(ReportBuilder& builder) {
     }
     table.rows.push_back(row);
   };
-  add(W::tr("First geophone"), place.mEastFstGeoph, place.mNorthFstGeoph);
-  add(W::tr("Last geophone"), place.mEastLstGeoph, place.mNorthLstGeoph);
+  add(ReportWords::tr("First geophone"), place.mEastFstGeoph, place.mNorthFstGeoph);
+  add(ReportWords::tr("Last geophone"), place.mEastLstGeoph, place.mNorthLstGeoph);
   const QString name = QString::fromStdString(globe.systemName());
   if (place.CRS == 0) {
-    builder.paragraph(W::tr("The coordinate reference system of the line is not set."));
+    builder.paragraph(ReportWords::tr("The coordinate reference system of the line is not set."));
   } else if (name.isEmpty()) {
-    builder.paragraph(W::tr("Coordinate reference system: EPSG:%1.").arg(place.CRS));
+    builder.paragraph(ReportWords::tr("Coordinate reference system: EPSG:%1.").arg(place.CRS));
   } else {
-    builder.paragraph(W::tr("Coordinate reference system: EPSG:%1, %2.").arg(place.CRS).arg(name));
+    builder.paragraph(
+        ReportWords::tr("Coordinate reference system: EPSG:%1, %2.").arg(place.CRS).arg(name));
   }
-  builder.table(known ? W::tr("Ends of the line; longitude and latitude on WGS 84")
-                      : W::tr("Ends of the line"),
+  builder.table(known ? ReportWords::tr("Ends of the line; longitude and latitude on WGS 84")
+                      : ReportWords::tr("Ends of the line"),
                 table);
 }
 

@@ -53,6 +53,20 @@ TEST(Export, writesEverythingOfAProject) {
   EXPECT_EQ(folder.fileCount(), 7U) << "nothing is left of what was unpacked";
 }
 
+TEST(Export, drawsAndReportsWithoutADisplay) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  const Outcome outcome =
+      runBatch({"export", project, "--quiet", "--image", folder / "a.svg", "--image",
+                folder / "b.png", "--report", folder / "c.pdf", "--report-title", "Hill"},
+               {{"DISPLAY", ""}});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(contentsOf(folder / "a.svg"), AllOf(HasSubstr(">Valley<"), HasSubstr(">700<")));
+  EXPECT_THAT(contentsOf(folder / "b.png"), HasSubstr("PNG"));
+  EXPECT_THAT(contentsOf(folder / "c.pdf"), StartsWith("%PDF-"));
+  EXPECT_EQ(folder.fileCount(), 4U);
+}
+
 TEST(Export, takesPlacePaletteAndRangeFromTheCommandLine) {
   const Folder folder;
   const std::string project = writeProject(folder, false);

@@ -121,6 +121,27 @@ TEST(Inversion, picturesAreOfTheKindThatTheirNameSays) {
   }
 }
 
+TEST(Inversion, reportsNameThoseTheyConcern) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  for (const char* name : {"report.pdf", "report.odt"}) {
+    const Outcome outcome = runBatch(quickRun(input, {"--report", folder / name, "--client",
+                                                      "Somebody", "--quiet", "--contours", "4"}),
+                                     {{"DISPLAY", ""}});
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_EQ(outcome.err, "");
+  }
+  EXPECT_EQ(contentsOf(folder / "report.pdf").substr(0, 5), "%PDF-");
+  EXPECT_THAT(contentsOf(folder / "report.odt").substr(0, 100), HasSubstr("opendocument.text"));
+
+  EXPECT_EQ(runBatch({"invert", input, "--report", folder / "report.doc"}).code, 2);
+  EXPECT_EQ(runBatch({"invert", input, "--client", "Somebody"}).code, 2);
+  EXPECT_EQ(runBatch({"invert", input, "--contours", "4"}).code, 2);
+  const Outcome nowhere = runBatch({"invert", input, "--report", folder / "no/report.pdf"});
+  EXPECT_EQ(nowhere.code, 1);
+  EXPECT_THAT(nowhere.err, HasSubstr("there is no folder"));
+}
+
 TEST(Inversion, interruptKeepsTheIterationUnderWay) {
   const Folder folder;
   const std::string input = folder.write("line.otte", smallLine());

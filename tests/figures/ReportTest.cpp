@@ -1,0 +1,307 @@
+#include "figures/MisfitFigures.h"
+#include "figures/Report.h"
+#include "figures/ReportPages.h"
+#include "support/ConsoleCapture.h"
+#include "support/TestFolder.h"
+#include "support/TestSurveys.h"
+#include "tomo/TomographyRun.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QXmlStreamReader>
+#include <cmath>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <zip.h>
+
+namespace talvesk {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using testing::TestFolder;
+using Kind = ReportItem::Kind;
+
+TomoDocument pickedLine(int shots = 3) {
+  std::vector<double> places;
+  for (int i = 0; i < shots; ++i) places.push_back(24.0 * i / std::max(shots - 1, 1));
+  TomoDocument line = testing::testLine(13, 2.0, places, 1.0);
+  testing::pickTwoLayers(line, 450.0, 1800.0, 3.0);
+  line.ttArray[0].ttMisurati[3] = kUnpicked;
+  return line;
+}
+
+TomoDocument invertedLine(int shots = 3) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = pickedLine(shots);
+  testing::putGrid(line, 10.0, 1.0);
+  TomographyParameters few;
+  few.externalIterations = 2;
+  few.solverIterations = 2;
+  Log log;
+  EXPECT_TRUE(runInversion(line, few, log).status.ok());
+  return line;
+}
+
+refractionDataStructure::Interpretation oneRefractor() {
+  refractionDataStructure::Interpretation interpretation;
+  refractionDataStructure::computedData refractor;
+  for (int i = 0; i < 13; ++i) {
+    refractor.x.push_back(2.0 * i);
+    refractor.elevation.push_back(100.0);
+    refractor.depth.push_back(3.0);
+    refractor.velocity.push_back(1800.0 + i);
+  }
+  interpretation.refractData.v1 = 450.0;
+  interpretation.refractData.cData = {refractor};
+  interpretation.refractData.v2 = refractor.velocity;
+  return interpretation;
+}
+
+ReportContent reportOn(const ReportSource& source, const ReportOptions& options = {}) {
+  ReportContent content;
+  const Status status = buildReport(source, options, content);
+  EXPECT_TRUE(status.ok()) << status.message();
+  return content;
+}
+
+std::vector<std::string> textsOf(const ReportContent& content, Kind kind) {
+  std::vector<std::string> texts;
+  for (const ReportItem& item : content.items) {
+    if (item.kind == kind) texts.push_back(item.text.toStdString());
+  }
+  return texts;
+}
+
+ReportTable tableOf(const ReportContent& content, const QString& caption) {
+  for (const ReportItem& item : content.items) {
+    if (item.kind == Kind::kTable && item.text.contains(caption)) return item.table;
+  }
+  throw std::runtime_error("no table " + caption.toStdString());
+}
+
+std::string memberOf(const std::string& path, const char* name) {
+  int error = 0;
+  const std::unique_ptr<zip_t, decltype(&zip_discard)> archive(
+      zip_open(path.c_str(), ZIP_RDONLY | ZIP_CHECKCONS, &error), &zip_discard);
+  if (archive == nullptr) return "no archive";
+  zip_stat_t facts;
+  if (zip_stat(archive.get(), name, 0, &facts) != 0) return "no member";
+  std::string bytes(facts.size, '\0');
+  zip_file_t* file = zip_fopen(archive.get(), name, 0);
+  zip_fread(file, bytes.data(), facts.size);
+  zip_fclose(file);
+  return bytes;
+}
+
+/// All its text, or why it is no XML.
+std::string textOfXml(const std::string& xml) {
+  QXmlStreamReader reader(QByteArray::fromStdString(xml));
+  QString text;
+  while (!reader.atEnd()) {
+    if (reader.readNext() == QXmlStreamReader::Characters) text += reader.text() + '\n';
+  }
+  return reader.hasError() ? "broken: " + reader.errorString().toStdString() : text.toStdString();
+}
+
+/// Headings and captions that stand at the foot of a page while what they belong to is on the next.
+std::vector<std::string> orphans(const ReportPages& pages) {
+  std::vector<std::string> found;
+  for (int page = 0; page + 1 < pages.count(); ++page) {
+    QStringList texts = pages.textsOf(page);
+    texts.removeAll(QString());
+    if (texts.isEmpty()) continue;
+    const QString last = texts.back();
+    const bool heading = last.size() > 3 && last[0].isDigit() && last.mid(1, 2) == "  ";
+    if (heading || last.startsWith("Table ")) found.push_back(last.toStdString());
+  }
+  return found;
+}
+
+TEST(Report, tellsOfWhatTheSurveyHas) {
+  const auto interpretation = oneRefractor();
+  const TomoDocument picked = pickedLine();
+  TomoDocument unpicked = pickedLine();
+  for (TravelTime& record : unpicked.ttArray) {
+    record.ttMisurati.assign(record.ttMisurati.size(), kUnpicked);
+  }
+  TomoDocument started = pickedLine();
+  testing::putGrid(started, 10.0, 1.0);
+  TomoDocument placed = invertedLine();
+  placed.geoCoordIsSet = true;
+  placed.geoCoord = {32632, 600000.0, 600100.0, 5000000.0, 5000050.0};
+
+  const struct {
+    ReportSource source;
+    std::vector<std::string> headings;
+    int figures;
+    const char* says;
+  } facts[] = {
+      {{unpicked},
+       {"1  Survey", "2  Travel times", "3  Grid and inversion", "4  Method"},
+       0,
+       "No first breaks have been picked."},
+      {{picked},
+       {"1  Survey", "2  Travel times", "3  Grid and inversion", "4  Method"},
+       1,
+       "No grid has been built and nothing has been inverted."},
+      {{started},
+       {"1  Survey", "2  Travel times", "3  Grid and inversion", "4  Velocity section",
+        "5  Method"},
+       2,
+       "Nothing has been inverted: the grid holds its starting model."},
+      {{placed, &interpretation},
+       {"1  Survey", "2  Position", "3  Travel times", "4  Grid and inversion",
+        "5  Velocity section", "6  Misfit", "7  Refraction interpretation", "8  Method"},
+       6,
+       "Coordinate reference system: EPSG:32632, WGS 84 / UTM zone 32N."},
+  };
+  for (const auto& fact : facts) {
+    const ReportContent content = reportOn(fact.source);
+    EXPECT_EQ(textsOf(content, Kind::kHeading), fact.headings);
+    EXPECT_EQ(textsOf(content, Kind::kFigure).size(), static_cast<std::size_t>(fact.figures));
+    EXPECT_THAT(textsOf(content, Kind::kParagraph), Contains(fact.says));
+    EXPECT_THAT(orphans(ReportPages(content)), IsEmpty());
+  }
+}
+
+TEST(Report, leavesOutWhatIsNotWanted) {
+  const TomoDocument line = invertedLine();
+  ReportOptions options;
+  options.sections = {};
+  options.sections.survey = options.sections.travelTimes = options.sections.method = false;
+  options.sections.density = options.sections.rays = false;
+  const ReportContent content = reportOn({line}, options);
+  EXPECT_THAT(textsOf(content, Kind::kHeading),
+              ElementsAre("1  Grid and inversion", "2  Velocity section", "3  Misfit"));
+  EXPECT_THAT(textsOf(content, Kind::kFigure),
+              ElementsAre("Figure 1. Velocity section",
+                          "Figure 2. Residuals of the picks against the distance from their shot",
+                          "Figure 3. Misfit after every external iteration"));
+}
+
+TEST(Report, refusesASurveyOfNothing) {
+  ReportContent content;
+  const TomoDocument nothing;
+  EXPECT_THAT(buildReport({nothing}, {}, content).message(), HasSubstr("load shot files"));
+}
+
+TEST(Report, givesEveryShotItsMisfitByHand) {
+  TomoDocument line = testing::testLine(3, 2.0, {0.0, 4.0});
+  line.ttArray[0].ttMisurati = {0.010, 0.020, kUnpicked};
+  line.ttArray[0].ttCalcolati = {0.011, 0.017, 0.5};
+  line.ttArray[1].ttMisurati = {0.010, 0.010, kNoTime};
+  line.ttArray[1].ttCalcolati = {kNoTime, kNoTime, 0.1};
+  const ReportTable table = tableOf(reportOn({line}), "Picks of every shot");
+  ASSERT_EQ(table.rows.size(), 3u);
+  EXPECT_EQ(table.rows[0], QStringList({"1", "0.00", "3", "2", "2.24", "12.7", "-1.00", "-3.00"}));
+  const QString none = QStringLiteral("\u2013");
+  EXPECT_EQ(table.rows[1], QStringList({"2", "4.00", "3", "2", none, none, none, none}));
+  EXPECT_EQ(table.rows[2], QStringList({"All", "", "6", "4", "2.24", "12.7", "-1.00", "-3.00"}));
+  const std::vector<Residual> residuals = residualsOf(line);
+  ASSERT_EQ(residuals.size(), 2u);
+  EXPECT_DOUBLE_EQ(residuals[1].offset, 2.0);
+}
+
+TEST(Report, keepsItsOwnNumbersAndThoseOfTheRun) {
+  const TomoDocument line = invertedLine();
+  const ReportContent content = reportOn({line});
+  const ReportTable parameters = tableOf(content, "Parameters of the inversion");
+  EXPECT_THAT(parameters.rows, Contains(QStringList({"External iterations", "2 of 2"})));
+  EXPECT_THAT(parameters.rows, Contains(QStringList({"Velocity limits", "250 \u2013 3500 m/s"})));
+  EXPECT_EQ(tableOf(content, "Misfit after every external iteration").rows.size(), 2u);
+  EXPECT_THAT(tableOf(content, "The line").rows,
+              Contains(QStringList({"Length of the line", "24.00 m"})));
+}
+
+TEST(Report, breaksPagesOnlyWhereAReaderWould) {
+  for (const int shots : {1, 2, 23, 24, 25, 26, 27, 28, 60}) {
+    const TomoDocument line = invertedLine(shots);
+    const ReportContent content = reportOn({line});
+    const ReportPages pages(content);
+    EXPECT_GE(pages.count(), 4) << shots;
+    EXPECT_THAT(orphans(pages), IsEmpty()) << shots;
+    EXPECT_THAT(pages.textsOf(0), Contains(QStringLiteral("Seismic refraction survey")));
+  }
+}
+
+TEST(Report, paintsPagesOfTheSizeOfTheirPaper) {
+  const TomoDocument line = pickedLine();
+  ReportOptions options;
+  EXPECT_EQ(ReportPages(reportOn({line}, options)).image(0, 25.4).size(), QSize(210, 297));
+  options.paper = ReportPaper::kLetter;
+  const ReportPages letter(reportOn({line}, options));
+  EXPECT_EQ(letter.image(1, 25.4).size(), QSize(216, 279));
+  // Ink inside the margins, and none on them but for the foot of the page.
+  const QImage page = letter.image(1, 50.8);
+  bool ink = false;
+  for (int y = 0; y < page.height() - 60; ++y) {
+    for (int x = 0; x < page.width(); ++x) {
+      if (qGray(page.pixel(x, y)) > 200) continue;
+      ink = true;
+      EXPECT_TRUE(x >= 38 && x <= page.width() - 38 && y >= 38) << x << ' ' << y;
+    }
+  }
+  EXPECT_TRUE(ink);
+}
+
+TEST(Report, writesPdfWithShapesAndNoPictures) {
+  const TestFolder folder;
+  const TomoDocument line = invertedLine();
+  const std::string path = folder.file("report.PDF");
+  ASSERT_TRUE(writeReport(reportOn({line}), path).ok());
+  const std::string bytes = TestFolder::get(path);
+  EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
+  EXPECT_EQ(bytes.find("/Subtype /Image"), std::string::npos);
+  EXPECT_LT(bytes.size(), 2000000u);
+}
+
+TEST(Report, writesOdtThatHoldsItsTextsTablesAndPictures) {
+  const TestFolder folder;
+  const TomoDocument line = invertedLine();
+  ReportOptions options;
+  options.title = "Line  <3> & \xE2\x82\xAC \x01 more";
+  options.client = "Ünal";
+  options.notes = "First.\nSecond.";
+  const std::string path = folder.file("report.odt");
+  ASSERT_TRUE(writeReport(reportOn({line}, options), path).ok());
+  const std::string file = TestFolder::get(path);
+  EXPECT_EQ(file.substr(30, 47), "mimetypeapplication/vnd.oasis.opendocument.text");
+  const std::string content = memberOf(path, "content.xml");
+  const std::string text = textOfXml(content);
+  for (const char* part : {"Line <3> & \xE2\x82\xAC", "Ünal", "First.", "Second.", "Survey",
+                           "Table 1. The line", "Figure 5. Misfit after every"}) {
+    EXPECT_THAT(text, HasSubstr(part));
+  }
+  EXPECT_THAT(content, HasSubstr("table:table-header-rows"));
+  EXPECT_THAT(content, HasSubstr("text:outline-level=\"1\""));
+  EXPECT_THAT(memberOf(path, "styles.xml"), HasSubstr("text:page-number"));
+  EXPECT_THAT(textOfXml(memberOf(path, "meta.xml")), HasSubstr("Line <3>"));
+  const QImage picture =
+      QImage::fromData(QByteArray::fromStdString(memberOf(path, "Pictures/figure5.png")), "PNG");
+  EXPECT_EQ(picture.width(), 2008);  // 170 mm at 300 dots per inch
+  EXPECT_EQ(memberOf(path, "Pictures/figure6.png"), "no member");
+}
+
+TEST(Report, leavesTheFileAloneWhenItCannotBeWrittenOrIsStopped) {
+  const TestFolder folder;
+  const TomoDocument line = pickedLine();
+  const ReportContent content = reportOn({line});
+  EXPECT_THAT(writeReport(content, folder.file("no/report.pdf")).message(), HasSubstr("no/report"));
+  EXPECT_THAT(writeReport(content, folder.file("report.doc")).message(), HasSubstr(".odt"));
+  for (const char* name : {"report.pdf", "report.odt"}) {
+    folder.put(name, "before");
+    const Status stopped = writeReport(content, folder.file(name), [](double) { return false; });
+    EXPECT_EQ(stopped.code(), kReportCancelled);
+    EXPECT_EQ(TestFolder::get(folder.file(name)), "before");
+  }
+}
+
+}  // namespace
+}  // namespace talvesk
