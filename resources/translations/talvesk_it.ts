@@ -765,6 +765,22 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Velocities of refractors: median</source>
         <translation>Velocità dei rifrattori: mediana</translation>
     </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Iterazione esterna</translation>
+    </message>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>Scarto quadratico medio [ms]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Distanza dal tiro [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [ms]</source>
+        <translation>Calcolati meno misurati [ms]</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -1639,6 +1655,517 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the layer above.</source>
         <translation>Strato %1: nessuna profondità in %2 ricevitori su %3, che stanno oltre il profilo dello strato sovrastante.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Report</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Pagina %1 di %2</translation>
+    </message>
+    <message>
+        <source>Table %1. %2</source>
+        <translation>Tabella %1. %2</translation>
+    </message>
+    <message>
+        <source>Figure %1. %2</source>
+        <translation>Figura %1. %2</translation>
+    </message>
+    <message>
+        <source>Seismic refraction survey</source>
+        <translation>Rilievo sismico a rifrazione</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>Position [m]</source>
+        <translation>Posizione [m]</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Tracce</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Primi arrivi</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [%]</source>
+        <translation>RMS [%]</translation>
+    </message>
+    <message>
+        <source>Mean [ms]</source>
+        <translation>Media [ms]</translation>
+    </message>
+    <message>
+        <source>Largest [ms]</source>
+        <translation>Massimo [ms]</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Linear weighted</source>
+        <translation>Pesato linearmente</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted</source>
+        <translation>Pesato con una gaussiana</translation>
+    </message>
+    <message>
+        <source>Ray based</source>
+        <translation>Basato sui raggi</translation>
+    </message>
+    <message>
+        <source>Uniform weighted</source>
+        <translation>A pesi uniformi</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Celle</translation>
+    </message>
+    <message>
+        <source>%1 rows by %2 columns</source>
+        <translation>%1 righe per %2 colonne</translation>
+    </message>
+    <message>
+        <source>Side of a cell</source>
+        <translation>Lato di una cella</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>Depth below the surface</source>
+        <translation>Profondità dalla superficie</translation>
+    </message>
+    <message>
+        <source>Nodes per cell side</source>
+        <translation>Nodi per lato di cella</translation>
+    </message>
+    <message>
+        <source>Nodes altogether</source>
+        <translation>Nodi in tutto</translation>
+    </message>
+    <message>
+        <source>The grid under the line</source>
+        <translation>La griglia sotto la linea</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Strato</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Tetto [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Letto [m]</translation>
+    </message>
+    <message>
+        <source>Velocity at top [m/s]</source>
+        <translation>Velocità al tetto [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity at bottom [m/s]</source>
+        <translation>Velocità al letto [m/s]</translation>
+    </message>
+    <message>
+        <source>The layers of the starting model, depths below the surface</source>
+        <translation>Gli strati del modello iniziale, profondità dalla superficie</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+    <message>
+        <source>%1, stopped by the user</source>
+        <translation>%1, interrotta dall&apos;utente</translation>
+    </message>
+    <message>
+        <source>External iterations</source>
+        <translation>Iterazioni esterne</translation>
+    </message>
+    <message>
+        <source>Solver iterations on the rays of each</source>
+        <translation>Iterazioni del solutore sui raggi di ognuna</translation>
+    </message>
+    <message>
+        <source>Velocity limits</source>
+        <translation>Limiti di velocità</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>Smussamento</translation>
+    </message>
+    <message>
+        <source>Smoothing radius</source>
+        <translation>Raggio di smussamento</translation>
+    </message>
+    <message>
+        <source>1 cell</source>
+        <translation>1 cella</translation>
+    </message>
+    <message>
+        <source>%1 cells</source>
+        <translation>%1 celle</translation>
+    </message>
+    <message>
+        <source>Height over width of the smoothing window</source>
+        <translation>Altezza su larghezza della finestra di smussamento</translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation>Tempo impiegato</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Parameters of the inversion</source>
+        <translation>Parametri dell&apos;inversione</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Iterazione esterna</translation>
+    </message>
+    <message>
+        <source>Largest late error [ms]</source>
+        <translation>Massimo ritardo [ms]</translation>
+    </message>
+    <message>
+        <source>Largest late error [%]</source>
+        <translation>Massimo ritardo [%]</translation>
+    </message>
+    <message>
+        <source>Misfit after every external iteration</source>
+        <translation>Scarto dopo ogni iterazione esterna</translation>
+    </message>
+    <message>
+        <source>Travel times</source>
+        <translation>Tempi di arrivo</translation>
+    </message>
+    <message>
+        <source>No first breaks have been picked.</source>
+        <translation>Non sono stati letti primi arrivi.</translation>
+    </message>
+    <message>
+        <source>Travel-time curves: picked first breaks against distance</source>
+        <translation>Dromocrone: primi arrivi letti in funzione della distanza</translation>
+    </message>
+    <message>
+        <source>Travel-time curves: picked first breaks (symbols) and times computed through the section (lines) against distance</source>
+        <translation>Dromocrone: primi arrivi letti (simboli) e tempi calcolati attraverso la sezione (linee) in funzione della distanza</translation>
+    </message>
+    <message>
+        <source>Picks of every shot</source>
+        <translation>Primi arrivi di ogni tiro</translation>
+    </message>
+    <message>
+        <source>Picks of every shot and their misfit, computed minus measured</source>
+        <translation>Primi arrivi di ogni tiro e il loro scarto, calcolati meno misurati</translation>
+    </message>
+    <message>
+        <source>Grid and inversion</source>
+        <translation>Griglia e inversione</translation>
+    </message>
+    <message>
+        <source>No grid has been built and nothing has been inverted.</source>
+        <translation>Nessuna griglia è stata costruita e nulla è stato invertito.</translation>
+    </message>
+    <message>
+        <source>Nothing has been inverted: the grid holds its starting model.</source>
+        <translation>Nulla è stato invertito: la griglia contiene il modello iniziale.</translation>
+    </message>
+    <message>
+        <source>The parameters of the inversion are not known.</source>
+        <translation>I parametri dell&apos;inversione non sono noti.</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Sezione di velocità</translation>
+    </message>
+    <message>
+        <source>Velocity of the starting model</source>
+        <translation>Velocità del modello iniziale</translation>
+    </message>
+    <message>
+        <source>Velocity section with the rays of the last iteration</source>
+        <translation>Sezione di velocità con i raggi dell&apos;ultima iterazione</translation>
+    </message>
+    <message>
+        <source>Information density: how many rays support each part of the section</source>
+        <translation>Densità di informazione: quanti raggi sostengono ogni parte della sezione</translation>
+    </message>
+    <message>
+        <source>Misfit</source>
+        <translation>Scarto</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Primi arrivi usati</translation>
+    </message>
+    <message>
+        <source>RMS misfit</source>
+        <translation>Scarto quadratico medio</translation>
+    </message>
+    <message>
+        <source>%1 ms, %2 %</source>
+        <translation>%1 ms, %2 %</translation>
+    </message>
+    <message>
+        <source>Largest late error</source>
+        <translation>Massimo ritardo</translation>
+    </message>
+    <message>
+        <source>Shots and receivers left out, beyond the grid</source>
+        <translation>Tiri e ricevitori esclusi, oltre la griglia</translation>
+    </message>
+    <message>
+        <source>Misfit of the section</source>
+        <translation>Scarto della sezione</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks against the distance from their shot</source>
+        <translation>Residui dei primi arrivi in funzione della distanza dal tiro</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Quota [m]</translation>
+    </message>
+    <message>
+        <source>Depth %1 [m]</source>
+        <translation>Profondità %1 [m]</translation>
+    </message>
+    <message>
+        <source>Velocity %1 [m/s]</source>
+        <translation>Velocità %1 [m/s]</translation>
+    </message>
+    <message>
+        <source>Refraction interpretation</source>
+        <translation>Interpretazione a rifrazione</translation>
+    </message>
+    <message>
+        <source>Velocity of the first layer</source>
+        <translation>Velocità del primo strato</translation>
+    </message>
+    <message>
+        <source>Velocity of refractor %1</source>
+        <translation>Velocità del rifrattore %1</translation>
+    </message>
+    <message>
+        <source>Distance XY of refractor %1</source>
+        <translation>Distanza XY del rifrattore %1</translation>
+    </message>
+    <message>
+        <source>Layers and refractors</source>
+        <translation>Strati e rifrattori</translation>
+    </message>
+    <message>
+        <source>Section of the layers</source>
+        <translation>Sezione degli strati</translation>
+    </message>
+    <message>
+        <source>Depths below the surface and velocities of the refractors</source>
+        <translation>Profondità dalla superficie e velocità dei rifrattori</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Metodo</translation>
+    </message>
+    <message>
+        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces and inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
+        <translation>I primi arrivi sono i tempi in cui la prima energia sismica di un tiro raggiunge ogni geofono. Sono stati letti sulle tracce registrate e invertiti per tomografia dei tempi di arrivo. Il terreno sotto la linea è diviso in celle quadrate a velocità costante, che seguono la superficie. Da ogni tiro si cercano i percorsi più rapidi verso tutti i geofoni nella rete dei nodi sui lati delle celle: sono i raggi. Le differenze fra tempi misurati e calcolati si distribuiscono lungo i raggi e correggono la lentezza delle celle attraversate, più volte sugli stessi raggi ed entro i limiti di velocità. La sezione corretta viene smussata e vi si tracciano nuovi raggi: questa è un&apos;iterazione esterna.</translation>
+    </message>
+    <message>
+        <source>The misfit is the difference between computed and measured times. RMS is its root mean square, in milliseconds or relative to the measured times in percent. The information density tells how many rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
+        <translation>Lo scarto è la differenza fra tempi calcolati e misurati. RMS è la sua media quadratica, in millisecondi o in percentuale dei tempi misurati. La densità di informazione dice quanti raggi attraversano i dintorni di una cella; dove è bassa le velocità sono poco sostenute dai dati, e sotto i raggi più profondi la sezione non è disegnata. Velocità che diminuiscono con la profondità e strati sottili possono restare nascosti ai primi arrivi.</translation>
+    </message>
+    <message>
+        <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
+        <translation>I rifrattori sono stati interpretati con il metodo reciproco generalizzato. I primi arrivi sono stati assegnati agli strati, e gli arrivi di ogni rifrattore dai due estremi della linea completati con arrivi traslati degli altri tiri. La funzione di analisi della velocità dà la velocità del rifrattore, la funzione tempo-profondità la sua profondità sotto ogni geofono.</translation>
+    </message>
+    <message>
+        <source>Waves</source>
+        <translation>Onde</translation>
+    </message>
+    <message>
+        <source>S waves</source>
+        <translation>Onde S</translation>
+    </message>
+    <message>
+        <source>P waves</source>
+        <translation>Onde P</translation>
+    </message>
+    <message>
+        <source>Geophones from, to</source>
+        <translation>Geofoni da, a</translation>
+    </message>
+    <message>
+        <source>Length of the line</source>
+        <translation>Lunghezza della linea</translation>
+    </message>
+    <message>
+        <source>Elevation of the geophones</source>
+        <translation>Quota dei geofoni</translation>
+    </message>
+    <message>
+        <source>Shots from, to</source>
+        <translation>Tiri da, a</translation>
+    </message>
+    <message>
+        <source>Geophone strings</source>
+        <translation>Stendimenti</translation>
+    </message>
+    <message>
+        <source>Geophone positions</source>
+        <translation>Posizioni dei geofoni</translation>
+    </message>
+    <message>
+        <source>Number of shots</source>
+        <translation>Numero dei tiri</translation>
+    </message>
+    <message>
+        <source>The line</source>
+        <translation>La linea</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>Stend.</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>From [m]</source>
+        <translation>Da [m]</translation>
+    </message>
+    <message>
+        <source>To [m]</source>
+        <translation>A [m]</translation>
+    </message>
+    <message>
+        <source>Spacing [m]</source>
+        <translation>Passo [m]</translation>
+    </message>
+    <message>
+        <source>Strings of geophones</source>
+        <translation>Stendimenti di geofoni</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Interval [ms]</source>
+        <translation>Intervallo [ms]</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Campioni</translation>
+    </message>
+    <message>
+        <source>Length [ms]</source>
+        <translation>Durata [ms]</translation>
+    </message>
+    <message>
+        <source>Shots and their recordings</source>
+        <translation>I tiri e le loro registrazioni</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tiri</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Committente</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Sito</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autore</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>Rilievo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>End of the line</source>
+        <translation>Estremo della linea</translation>
+    </message>
+    <message>
+        <source>Easting [m]</source>
+        <translation>Est [m]</translation>
+    </message>
+    <message>
+        <source>Northing [m]</source>
+        <translation>Nord [m]</translation>
+    </message>
+    <message>
+        <source>Longitude [°]</source>
+        <translation>Longitudine [°]</translation>
+    </message>
+    <message>
+        <source>Latitude [°]</source>
+        <translation>Latitudine [°]</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Primo geofono</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Ultimo geofono</translation>
+    </message>
+    <message>
+        <source>The coordinate reference system of the line is not set.</source>
+        <translation>Il sistema di riferimento delle coordinate della linea non è indicato.</translation>
+    </message>
+    <message>
+        <source>Coordinate reference system: EPSG:%1.</source>
+        <translation>Sistema di riferimento delle coordinate: EPSG:%1.</translation>
+    </message>
+    <message>
+        <source>Coordinate reference system: EPSG:%1, %2.</source>
+        <translation>Sistema di riferimento delle coordinate: EPSG:%1, %2.</translation>
+    </message>
+    <message>
+        <source>Ends of the line; longitude and latitude on WGS 84</source>
+        <translation>Estremi della linea; longitudine e latitudine in WGS 84</translation>
+    </message>
+    <message>
+        <source>Ends of the line</source>
+        <translation>Estremi della linea</translation>
     </message>
 </context>
 <context>
