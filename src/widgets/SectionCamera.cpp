@@ -7,7 +7,7 @@ namespace talvesk {
 namespace {
 
 constexpr double kRadians = 3.14159265358979323846 / 180.0;
-constexpr double kMinMetresPerPixel = 1e-5;
+constexpr double kMinMetresPerPixel = 1e-4;  // closer, numbers at the axes have no room
 constexpr double kMaxMetresPerPixel = 1e5;
 
 }  // namespace

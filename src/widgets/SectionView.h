@@ -74,6 +74,7 @@ class SectionView : public QWidget {
   void layOut();
   void applyCamera(bool moving = false);
   bool sheetEvent(QEvent* event);
+  void zoomBy(double factor, const QPointF& point);
   void drag(const QPointF& to);
   bool key(int key);
   void readCursor(const QPointF& point);

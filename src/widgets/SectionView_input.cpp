@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cmath>
 
 // What mouse and keys do to the view.
@@ -12,6 +13,7 @@ namespace talvesk {
 namespace {
 
 constexpr double kZoomStep = 1.25;
+constexpr double kFarthest = 20.0;     ///< how much smaller than in full view
 constexpr double kPanShare = 0.1;      ///< of the plot, per arrow key
 constexpr double kTurnPerPixel = 0.4;  ///< degrees
 constexpr double kTurnPerKey = 5.0;    ///< degrees
@@ -35,11 +37,7 @@ bool SectionView::sheetEvent(QEvent* event) {
       auto* wheel = static_cast<QWheelEvent*>(event);
       const double notches = wheel->angleDelta().y() / 120.0;
       if (notches == 0.0) return false;
-      const QRect plot = plotRect();
-      s.camera.zoomAt(wheel->position() - plot.topLeft(), std::pow(kZoomStep, notches),
-                      plot.size());
-      s.fits = false;
-      applyCamera(true);
+      zoomBy(std::pow(kZoomStep, notches), wheel->position() - plotRect().topLeft());
       readCursor(wheel->position());
       return true;
     }
@@ -89,20 +87,27 @@ void SectionView::drag(const QPointF& to) {
   applyCamera(true);
 }
 
-void SectionView::zoomIn() {
+/// \param point of the plot that stays in place
+void SectionView::zoomBy(double factor, const QPointF& point) {
   State& s = *mState;
   const QSizeF size = plotRect().size();
-  s.camera.zoomAt({0.5 * size.width(), 0.5 * size.height()}, kZoomStep, size);
+  // Farther away, the section is a speck that nobody finds again.
+  const double farthest =
+      kFarthest * s.sheet.fittingCamera(s.camera.exaggeration, size).metresPerPixel;
+  const double least = std::min(s.camera.metresPerPixel / farthest, 1.0);
+  s.camera.zoomAt(point, std::max(factor, least), size);
   s.fits = false;
   applyCamera(true);
 }
 
+void SectionView::zoomIn() {
+  const QRect plot = plotRect();
+  zoomBy(kZoomStep, {0.5 * plot.width(), 0.5 * plot.height()});
+}
+
 void SectionView::zoomOut() {
-  State& s = *mState;
-  const QSizeF size = plotRect().size();
-  s.camera.zoomAt({0.5 * size.width(), 0.5 * size.height()}, 1.0 / kZoomStep, size);
-  s.fits = false;
-  applyCamera(true);
+  const QRect plot = plotRect();
+  zoomBy(1.0 / kZoomStep, {0.5 * plot.width(), 0.5 * plot.height()});
 }
 
 bool SectionView::key(int key) {

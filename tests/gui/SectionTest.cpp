@@ -189,6 +189,15 @@ TEST_F(Section, theWheelZoomsAtTheCursorAndDraggingPans) {
   EXPECT_DOUBLE_EQ(view().camera().metresPerPixel, scale);
 }
 
+TEST_F(Section, doesNotShrinkToASpeck) {
+  openWith(sectionDocument(12, 40, 1.5, patchwork));
+  wheelAt(view().plotRect().center(), -200);
+  EXPECT_GT(view().pointOf({139.0, 100.0}).x() - view().pointOf({99.0, 100.0}).x(), 20.0);
+  wheelAt(view().plotRect().center(), 200);
+  wheelAt(view().plotRect().center(), 200);
+  EXPECT_GT(view().camera().metresPerPixel, 1e-5);
+}
+
 TEST_F(Section, whatIsSeenStaysUntilAnotherGridComes) {
   openWith(sectionDocument(12, 40, 1.5, patchwork));
   view().zoomIn();
