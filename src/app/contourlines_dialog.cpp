@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <algorithm>
+#include <cmath>
 
 namespace talvesk {
 namespace {
@@ -96,7 +97,8 @@ ContourSettings contourlines_dialog::settings() const {
   ContourSettings chosen;
   chosen.customized = mUi->customizedCB->isChecked();
   chosen.numberOfValues = mUi->spinBox->value();
-  chosen.customValues = values();
+  // A list that is not in use stays whole: it may be one for another quantity.
+  chosen.customValues = chosen.customized ? values() : sortedNumbers();
   chosen.labelEvery = mUi->every_N_contour_lines_spinBox->value();
   chosen.labelSize = mUi->fontSize->value();
   chosen.color = {mColor.redF(), mColor.greenF(), mColor.blueF()};
@@ -191,14 +193,22 @@ bool contourlines_dialog::isInRange(const QString& text) const {
   return numberOf(text, value) && mRange.contains(value);
 }
 
-std::vector<double> contourlines_dialog::values() const {
+std::vector<double> contourlines_dialog::sortedNumbers() const {
   std::vector<double> found;
   for (const QLineEdit* edit : editors()) {
     double value = 0.0;
-    if (numberOf(edit->text(), value) && mRange.contains(value)) found.push_back(value);
+    if (numberOf(edit->text(), value) && std::isfinite(value)) found.push_back(value);
   }
   std::sort(found.begin(), found.end());
   found.erase(std::unique(found.begin(), found.end()), found.end());
+  return found;
+}
+
+std::vector<double> contourlines_dialog::values() const {
+  std::vector<double> found = sortedNumbers();
+  found.erase(std::remove_if(found.begin(), found.end(),
+                             [this](double value) { return !mRange.contains(value); }),
+              found.end());
   return found;
 }
 

@@ -45,7 +45,8 @@ class contourlines_dialog : public QDialog {
   void removeRow(QWidget* row);
   void removeAll();
   std::vector<QLineEdit*> editors() const;
-  std::vector<double> values() const;
+  std::vector<double> sortedNumbers() const;  ///< of all rows, each once
+  std::vector<double> values() const;         ///< those of them within the range
   bool isInRange(const QString& text) const;
   void check();
   void saveIsovalues();

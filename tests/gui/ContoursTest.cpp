@@ -142,6 +142,7 @@ TEST_F(Contours, takeOnlyNumbersWithinTheRange) {
   type("9999");
   click("customizedCB");
   EXPECT_TRUE(mayAccept()) << "the list does not matter now";
+  EXPECT_THAT(values(), ElementsAre(500.0, 700.0, 1500.0, 9999.0)) << "and is kept";
 }
 
 TEST_F(Contours, areTypedAsTheUserWritesNumbers) {
