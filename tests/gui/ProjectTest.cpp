@@ -4,13 +4,16 @@
 #include "io/projectReader.h"
 #include "support/TestSurveys.h"
 #include "tomo/TomographyRun.h"
+#include "widgets/SectionView.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QImage>
 #include <QLockFile>
 #include <QMenu>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTest>
 
 namespace talvesk::testing {
@@ -86,6 +89,38 @@ TEST_F(Projects, comeBackWithWhatTheScreenShows) {
   window->showFile(1);
   EXPECT_TRUE(child<QWidget>("show_filtered_cb").isEnabled());
   EXPECT_TRUE(child<QWidget>("showSimTT_CB").isEnabled());
+}
+
+TEST_F(Projects, lookTheSameWhenTheyComeBack) {
+  putGrid(document(), 8, 1);
+  Log quiet;
+  ASSERT_TRUE(runInversion(document(), {}, quiet).status.ok());
+  saveAs(path("line.tvsk"));
+  // What is loaded has the times of the final model, so the first picture is taken of that, too.
+  load(path("line.tvsk"));
+  const auto pictures = [this] {
+    QList<QImage> all;
+    const std::pair<const char*, QWidget*> views[] = {
+        {"tab_3", &child<QWidget>("showTracesWidget")},
+        {"tab_3", &child<QWidget>("travelTimePreview")},
+        {"vtk_tab", child<SectionView>("vtk_widget").sheet()}};
+    for (const auto& [tab, view] : views) {
+      child<QTabWidget>("tabWidget").setCurrentWidget(&child<QWidget>(tab));
+      QTest::qWait(100);
+      all << view->grab().toImage();
+    }
+    return all;
+  };
+  trigger("actionShow_rays");
+  trigger("actionShow_Information_Density_Layer");
+  const QList<QImage> before = pictures();
+  saveAs(path("again.tvsk"));
+  open();
+  load(path("again.tvsk"));
+  const QList<QImage> after = pictures();
+  EXPECT_TRUE(child<SectionView>("vtk_widget").sheet()->isVisible());
+  EXPECT_NE(before[2], before[0]);
+  for (int i = 0; i < before.size(); ++i) EXPECT_EQ(before[i], after[i]) << i;
 }
 
 TEST_F(Projects, areSavedAgainFromTheFilesThatTheyWereLoadedWith) {

@@ -218,6 +218,32 @@ TEST_F(ProjectTest, bringsPairsOfPolaritiesBackAsTheirDifference) {
   }
 }
 
+TEST_F(ProjectTest, readsSuFilesInTheByteOrderThatTheyWereReadInBefore) {
+  SegyFixture file;
+  file.channels = {{{4, 5, 6}, 7, 10, 0}, {{7, 8, 9}, 7, 20, 0}};
+  const std::string su = folder.put("big.su", suBytes(file));
+  file.constant = {1, 2, 3, 4};
+  const std::string segy = folder.put("big.sgy", segyBytes(file));
+  TomoDocument all;
+  ShotLoader().load({segy, su}, all);
+  for (const bool withSegy : {true, false}) {
+    LoadedProject saved;
+    ShotLoader loader;
+    // The SEG-Y file sets the order in which the SU file is read, be it part of the survey or not.
+    TomoDocument other;
+    loader.load({segy}, withSegy ? saved.document : other);
+    loader.load({su}, saved.document);
+    const TraceSet before = saved.document.traceSets.back();
+    ASSERT_EQ(before[1].samples, all.traceSets[1][1].samples);
+    ASSERT_EQ(save(archive(), saved), 0);
+    const std::string traces = entriesOf(archive())["traces.xml"];
+    EXPECT_EQ(traces.find("<TAB size=\"dynamic\">") == std::string::npos, withSegy);
+    LoadedProject back;
+    ASSERT_EQ(load(archive(), back), 0) << reader.message();
+    EXPECT_EQ(back.document.traceSets.back()[1].samples, before[1].samples);
+  }
+}
+
 TEST_F(ProjectTest, leavesTracesEmptyWhoseFileIsNotInTheArchive) {
   ASSERT_EQ(save(), 0);
   auto entries = entriesOf(archive());
