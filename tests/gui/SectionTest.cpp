@@ -248,10 +248,12 @@ struct Figure {
     EXPECT_TRUE(drawn.ok()) << drawn.message();
     image = QImage::fromData(bytes);
   }
+  QPointF pointOf(const Point2D& p) const {
+    return {layout.xToMm(p.x) / layout.widthMm * image.width(),
+            layout.elevationToMm(p.z) / layout.heightMm * image.height()};
+  }
   QRgb at(const Point2D& p) const {
-    return image.pixel(
-        static_cast<int>(layout.xToMm(p.x) / layout.widthMm * image.width()),
-        static_cast<int>(layout.elevationToMm(p.z) / layout.heightMm * image.height()));
+    return image.pixel(static_cast<int>(pointOf(p).x()), static_cast<int>(pointOf(p).y()));
   }
 };
 
@@ -301,6 +303,46 @@ TEST_F(Section, onTheScreenAndInAFigureHasTheSameColorsAndHoles) {
   }
 }
 
+/// Whether a picture has that colour, or nearly, within two pixels of a point.
+bool hasNear(const QImage& image, const QPointF& point, QRgb color) {
+  for (int dy = -2; dy <= 2; ++dy) {
+    for (int dx = -2; dx <= 2; ++dx) {
+      const QPoint at = point.toPoint() + QPoint(dx, dy);
+      if (image.valid(at) && difference(image.pixel(at), color) < 90) return true;
+    }
+  }
+  return false;
+}
+
+TEST_F(Section, onTheScreenAndInAFigureHasTheSameContours) {
+  openWith(sectionDocument(12, 40, 1.5, hilly));
+  SectionViewSettings settings;
+  settings.geophones = GeophoneMarkers::kNone;
+  settings.contours.onProfile = true;
+  settings.contours.labelEvery = 0;
+  settings.contours.color = {1.0, 0.0, 1.0};  // no other part of the picture has it
+  const QRgb color = qRgb(255, 0, 255);
+  const ColorPalette palette = *ColorPaletteList().find("White to Black");
+  auto scene = std::make_shared<SectionScene>();
+  ASSERT_TRUE(buildSectionScene(window->document(), settings, palette, {}, *scene).ok());
+  view().showScene(scene, palette, settings);
+  const QImage screen = seen();
+  const Figure figure(window->document(), settings, palette);
+  std::size_t compared = 0;
+  for (const ContourLine& contour : scene->contours) {
+    for (std::size_t i = 0; i < contour.points.size(); i += 5) {
+      const Point2D& p = contour.points[i];
+      if (readSection(*scene, p).depth.value_or(0.0) < 0.5) continue;  // under the surface line
+      ++compared;
+      EXPECT_TRUE(hasNear(screen, view().pointOf(p), color)) << p.x << ", " << p.z;
+      EXPECT_TRUE(hasNear(figure.image, figure.pointOf(p), color)) << p.x << ", " << p.z;
+    }
+  }
+  EXPECT_GT(compared, 30U);
+  EXPECT_FALSE(hasNear(screen, view().pointOf({120.0, 104.0}), color));
+  EXPECT_FALSE(hasNear(figure.image, figure.pointOf({120.0, 104.0}), color));
+}
+
 TEST_F(Section, aPictureOfAnySizeShowsTheWholeSection) {
   openWith(sectionDocument(12, 40, 0.0, patchwork));
   view().zoomIn();
@@ -340,6 +382,14 @@ TEST_F(Section, oddSectionsAreDrawnOrExplained) {
     EXPECT_FALSE(seen().isNull());
   }
   action("actionLaplacian_Gradient").trigger();
+
+  window->document() = sectionDocument(5, 10, 0.0, patchwork);
+  for (std::uint32_t cell = 0; cell < 50; ++cell) window->document().grid->setDraw(cell, cell == 7);
+  for (const char* name : {"actionGrid_view", "actionSmooth_view", "actionGrid_view"}) {
+    action(name).trigger();
+    EXPECT_FALSE(view().isEmpty());
+    EXPECT_FALSE(seen().isNull());
+  }
 
   window->document() = sectionDocument(1, 1, 0.0, constant);  // one cell has no gradient
   refresh();
