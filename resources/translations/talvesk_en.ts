@@ -140,6 +140,16 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ReportDialog</name>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::SectionSheet</name>
     <message numerus="yes">
         <source>%n ray(s)</source>
@@ -191,6 +201,20 @@
         <translation>
             <numerusform>%n external iteration completed.</numerusform>
             <numerusform>%n external iterations completed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) exist already.</source>
+        <translation>
+            <numerusform>%n file exists already.</numerusform>
+            <numerusform>%n files exist already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) saved.</source>
+        <translation>
+            <numerusform>%n picture saved.</numerusform>
+            <numerusform>%n pictures saved.</numerusform>
         </translation>
     </message>
 </context>

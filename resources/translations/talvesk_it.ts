@@ -582,7 +582,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Information density</source>
-        <translation>Densità di informazione</translation>
+        <translation>Densità d&apos;informazione</translation>
     </message>
     <message>
         <source>Velocity</source>
@@ -923,6 +923,181 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>%1 m is too far away.</source>
         <translation>%1 m è troppo lontano.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ImagesDialog</name>
+    <message>
+        <source>Images</source>
+        <translation>Immagini</translation>
+    </message>
+    <message>
+        <source>Pictures of</source>
+        <translation>Immagini di</translation>
+    </message>
+    <message>
+        <source>Traces of the current shot</source>
+        <translation>Tracce del tiro in vista</translation>
+    </message>
+    <message>
+        <source>Traces of all shots</source>
+        <translation>Tracce di tutti i tiri</translation>
+    </message>
+    <message>
+        <source>A picture for every shot</source>
+        <translation>Un&apos;immagine per ogni tiro</translation>
+    </message>
+    <message>
+        <source>Filtered traces</source>
+        <translation>Tracce filtrate</translation>
+    </message>
+    <message>
+        <source>The filtered copy of the traces, where there is one</source>
+        <translation>La copia filtrata delle tracce, dove c&apos;è</translation>
+    </message>
+    <message>
+        <source>Travel time curves</source>
+        <translation>Dromocrone</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Sezione di velocità</translation>
+    </message>
+    <message>
+        <source>Palette, contours, rays and geophones as the section view shows them</source>
+        <translation>Tavolozza, isolinee, raggi e geofoni come li mostra la vista della sezione</translation>
+    </message>
+    <message>
+        <source>Vertical gradient</source>
+        <translation>Gradiente verticale</translation>
+    </message>
+    <message>
+        <source>Laplacian</source>
+        <translation>Laplaciano</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densità d&apos;informazione</translation>
+    </message>
+    <message>
+        <source>Sections as cells</source>
+        <translation>Sezioni a celle</translation>
+    </message>
+    <message>
+        <source>In bands where contours are filled</source>
+        <translation>A bande dove le isolinee sono riempite</translation>
+    </message>
+    <message>
+        <source>Sections smooth</source>
+        <translation>Sezioni sfumate</translation>
+    </message>
+    <message>
+        <source>Blended from cell to cell, in pictures of their own</source>
+        <translation>Sfumate da cella a cella, in immagini a parte</translation>
+    </message>
+    <message>
+        <source>Refraction profile</source>
+        <translation>Profilo a rifrazione</translation>
+    </message>
+    <message>
+        <source>Format and size</source>
+        <translation>Formato e dimensioni</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat:</source>
+        <translation>F&amp;ormato:</translation>
+    </message>
+    <message>
+        <source>PNG (pixels)</source>
+        <translation>PNG (pixel)</translation>
+    </message>
+    <message>
+        <source>SVG (shapes)</source>
+        <translation>SVG (vettoriale)</translation>
+    </message>
+    <message>
+        <source>PDF (shapes)</source>
+        <translation>PDF (vettoriale)</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of the size:</source>
+        <translation>&amp;Unità di misura:</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <translation>millimetri</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixel</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Larghezza:</translation>
+    </message>
+    <message>
+        <source>Height as each picture asks for</source>
+        <translation>Altezza come richiede ogni immagine</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>Al&amp;tezza:</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Risoluzione:</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Pixels per inch; also how large letters and lines are in a picture of so many pixels</source>
+        <translation>Pixel per pollice; decide anche quanto sono grandi lettere e linee in un&apos;immagine di tanti pixel</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Cartella:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Sfoglia...</translation>
+    </message>
+    <message>
+        <source>&amp;Names begin with:</source>
+        <translation>I &amp;nomi cominciano con:</translation>
+    </message>
+    <message>
+        <source>Files to be &amp;written:</source>
+        <translation>File da &amp;scrivere:</translation>
+    </message>
+    <message>
+        <source>Folder of the pictures</source>
+        <translation>Cartella delle immagini</translation>
+    </message>
+    <message>
+        <source>Nothing to write is chosen.</source>
+        <translation>Non è stato scelto nulla da scrivere.</translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>La cartella non esiste.</translation>
+    </message>
+    <message>
+        <source>The folder is not writable.</source>
+        <translation>Nella cartella non si può scrivere.</translation>
+    </message>
+    <message>
+        <source>A name cannot hold a slash.</source>
+        <translation>Un nome non può contenere una barra.</translation>
+    </message>
+    <message>
+        <source>%1 (exists)</source>
+        <translation>%1 (esiste)</translation>
     </message>
 </context>
 <context>
@@ -1909,7 +2084,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Information density: how many rays support each part of the section</source>
-        <translation>Densità di informazione: quanti raggi sostengono ogni parte della sezione</translation>
+        <translation>Densità d&apos;informazione: quanti raggi sostengono ogni parte della sezione</translation>
     </message>
     <message>
         <source>Misfit</source>
@@ -1993,7 +2168,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>The misfit is the difference between computed and measured times. RMS is its root mean square, in milliseconds or relative to the measured times in percent. The information density tells how many rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation>Lo scarto è la differenza fra tempi calcolati e misurati. RMS è la sua media quadratica, in millisecondi o in percentuale dei tempi misurati. La densità di informazione dice quanti raggi attraversano i dintorni di una cella; dove è bassa le velocità sono poco sostenute dai dati, e sotto i raggi più profondi la sezione non è disegnata. Velocità che diminuiscono con la profondità e strati sottili possono restare nascosti ai primi arrivi.</translation>
+        <translation>Lo scarto è la differenza fra tempi calcolati e misurati. RMS è la sua media quadratica, in millisecondi o in percentuale dei tempi misurati. La densità d&apos;informazione dice quanti raggi attraversano i dintorni di una cella; dove è bassa le velocità sono poco sostenute dai dati, e sotto i raggi più profondi la sezione non è disegnata. Velocità che diminuiscono con la profondità e strati sottili possono restare nascosti ai primi arrivi.</translation>
     </message>
     <message>
         <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
@@ -2169,6 +2344,143 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
 </context>
 <context>
+    <name>talvesk::ReportDialog</name>
+    <message>
+        <source>Report</source>
+        <translation>Relazione</translation>
+    </message>
+    <message>
+        <source>Title page</source>
+        <translation>Frontespizio</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titolo:</translation>
+    </message>
+    <message>
+        <source>&amp;Client:</source>
+        <translation>&amp;Committente:</translation>
+    </message>
+    <message>
+        <source>&amp;Site:</source>
+        <translation>&amp;Sito:</translation>
+    </message>
+    <message>
+        <source>&amp;Author:</source>
+        <translation>&amp;Autore:</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Data:</translation>
+    </message>
+    <message>
+        <source>As it is to be read</source>
+        <translation>Come va letta</translation>
+    </message>
+    <message>
+        <source>&amp;Notes:</source>
+        <translation>&amp;Note:</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Parti</translation>
+    </message>
+    <message>
+        <source>Survey: line, geophones, shots, files</source>
+        <translation>Rilievo: linea, geofoni, tiri, file</translation>
+    </message>
+    <message>
+        <source>Position on the globe</source>
+        <translation>Posizione geografica</translation>
+    </message>
+    <message>
+        <source>Travel times and the misfit of every shot</source>
+        <translation>Tempi di arrivo e scarto di ogni tiro</translation>
+    </message>
+    <message>
+        <source>Grid and parameters of the inversion</source>
+        <translation>Griglia e parametri dell&apos;inversione</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Sezione di velocità</translation>
+    </message>
+    <message>
+        <source>Rays over the section</source>
+        <translation>Raggi sulla sezione</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densità d&apos;informazione</translation>
+    </message>
+    <message>
+        <source>Misfit and its history</source>
+        <translation>Scarto e suo andamento</translation>
+    </message>
+    <message>
+        <source>Refraction interpretation</source>
+        <translation>Interpretazione a rifrazione</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Metodo</translation>
+    </message>
+    <message>
+        <source>Pa&amp;per:</source>
+        <translation>Ca&amp;rta:</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Letter</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>Ante&amp;prima</translation>
+    </message>
+    <message>
+        <source>Puts the report together and shows its pages</source>
+        <translation>Compone la relazione e ne mostra le pagine</translation>
+    </message>
+    <message>
+        <source>Pages of the report</source>
+        <translation>Pagine della relazione</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n pagina</numerusform>
+            <numerusform>%n pagine</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ScreenshotDialog</name>
+    <message>
+        <source>Screenshot</source>
+        <translation>Istantanea</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Dimensioni:</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality:</source>
+        <translation>&amp;Qualità JPEG:</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>%1 times the view: %2 x %3 pixels</source>
+        <translation>%1 volte la vista: %2 x %3 pixel</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::SectionSheet</name>
     <message>
         <source>Vertical gradient of velocity [1/s]</source>
@@ -2180,7 +2492,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Information density</source>
-        <translation>Densità di informazione</translation>
+        <translation>Densità d&apos;informazione</translation>
     </message>
     <message>
         <source>Velocity [m/s]</source>
@@ -3485,7 +3797,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Information density %1</source>
-        <translation>Densità di informazione %1</translation>
+        <translation>Densità d&apos;informazione %1</translation>
     </message>
     <message>
         <source>Export the section as a gridded text file, heights counted from the highest ground</source>
@@ -3497,7 +3809,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Export velocity, gradient and information density of the cells as a VTK unstructured grid</source>
-        <translation>Esporta velocità, gradiente e densità di informazione delle celle come griglia non strutturata VTK</translation>
+        <translation>Esporta velocità, gradiente e densità d&apos;informazione delle celle come griglia non strutturata VTK</translation>
     </message>
     <message>
         <source>Section as Surfer grid ...</source>
@@ -3739,6 +4051,68 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
 </source>
         <translation>Errore massimo: [ms] %1; [%] %2
 </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) exist already.</source>
+        <translation>
+            <numerusform>%n file esiste già.</numerusform>
+            <numerusform>%n file esistono già.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to replace them?</source>
+        <translation>Sostituirli?</translation>
+    </message>
+    <message>
+        <source>Writing pictures ...</source>
+        <translation>Scrittura delle immagini ...</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pictures have been saved.</source>
+        <translation>Sono state salvate %1 immagini su %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) saved.</source>
+        <translation>
+            <numerusform>%n immagine salvata.</numerusform>
+            <numerusform>%n immagini salvate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save screenshot</source>
+        <translation>Salva istantanea</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png);;JPEG picture (*.jpg *.jpeg)</source>
+        <translation>Immagine PNG (*.png);;Immagine JPEG (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>Save PDF report</source>
+        <translation>Salva relazione PDF</translation>
+    </message>
+    <message>
+        <source>PDF report (*.pdf)</source>
+        <translation>Relazione PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save ODT report</source>
+        <translation>Salva relazione ODT</translation>
+    </message>
+    <message>
+        <source>OpenDocument text (*.odt)</source>
+        <translation>Testo OpenDocument (*.odt)</translation>
+    </message>
+    <message>
+        <source>Writing the report ...</source>
+        <translation>Scrittura della relazione ...</translation>
+    </message>
+    <message>
+        <source>Stopped; nothing has been saved.</source>
+        <translation>Interrotto; nulla è stato salvato.</translation>
+    </message>
+    <message>
+        <source>The file has not been saved.</source>
+        <translation>Il file non è stato salvato.</translation>
     </message>
 </context>
 <context>

@@ -26,11 +26,6 @@ constexpr double kTracesShare = 0.618;
 /// Share of the screen, either way, that a window without a remembered place fills at most.
 constexpr double kMostOfScreen = 0.95;
 
-/// Where the window's place and tool bars are remembered, beside the settings.
-QString windowStateFile(const WorkingFolder& folder) {
-  return QString::fromStdString(folder.path) + QStringLiteral("Talvesk_window.ini");
-}
-
 }  // namespace
 
 Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
@@ -39,7 +34,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
       mFolder(WorkingFolder::ofUser()),
       mSettings(mFolder.settings),
       mHistory(mFolder.history),
-      mRecent(windowStateFile(mFolder)),
+      mRecent(windowStateFile()),
       mRecovery(QString::fromStdString(mFolder.path)) {
   mUi->setupUi(this);
   setCommandIcons(*this);
@@ -59,6 +54,10 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   retranslate();
   restoreWindow();
   documentChanged();
+}
+
+QString Talvesk_MainWindows::windowStateFile() const {
+  return QString::fromStdString(mFolder.path) + QStringLiteral("Talvesk_window.ini");
 }
 
 Talvesk_MainWindows::~Talvesk_MainWindows() {
@@ -192,7 +191,7 @@ void Talvesk_MainWindows::layOutSplitter() {
 }
 
 void Talvesk_MainWindows::restoreWindow() {
-  const QSettings state(windowStateFile(mFolder), QSettings::IniFormat);
+  const QSettings state(windowStateFile(), QSettings::IniFormat);
   if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
     // A laptop at twice the scale has fewer points than the form; the frame needs some too.
     resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
@@ -201,7 +200,7 @@ void Talvesk_MainWindows::restoreWindow() {
 }
 
 void Talvesk_MainWindows::saveWindow() {
-  QSettings state(windowStateFile(mFolder), QSettings::IniFormat);
+  QSettings state(windowStateFile(), QSettings::IniFormat);
   state.setValue(QStringLiteral("geometry"), saveGeometry());
   state.setValue(QStringLiteral("toolBars"), saveState());
 }

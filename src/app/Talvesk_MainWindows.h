@@ -40,6 +40,7 @@ class TravelTimePlot;
 enum class PickSnap;
 enum class TraceTool;
 struct FilterOutcome;
+struct PlannedImage;
 struct SectionReading;
 struct SurveyGeometry;
 struct TomographyParameters;
@@ -210,6 +211,8 @@ class Talvesk_MainWindows : public QMainWindow {
   void groupActions();
   void addKeys();
   void layOutSplitter();
+  /// Where the window's place and tool bars, and what dialogs were left with, are remembered.
+  QString windowStateFile() const;
   void restoreWindow();
   void saveWindow();
   void retranslate();
@@ -240,6 +243,10 @@ class Talvesk_MainWindows : public QMainWindow {
   void exportCurves();
   QString askForExport(const QString& title, const QString& filter, const char* suffix);
   void tellExport(const Status& written, const QString& file);
+  bool mayOverwrite(const std::vector<PlannedImage>& images);
+  void writeImages(const std::vector<PlannedImage>& images);
+  void writeReportAs(const QString& title, const QString& filter, const char* suffix);
+  void tellReport(const Status& written, const QString& file);
   bool mayExportKml();
 
   // Geometry

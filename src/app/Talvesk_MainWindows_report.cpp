@@ -1,31 +1,201 @@
+#include "app/ImagesDialog.h"
+#include "app/Messages.h"
+#include "app/ReportDialog.h"
+#include "app/ScreenshotDialog.h"
 #include "app/Talvesk_MainWindows.h"
+#include "base/AtomicFile.h"
+#include "figures/Report.h"
+#include "figures/ReportPages.h"
 #include "ui_Talvesk_MainWindows.h"
+#include "view/RefractorLines.h"
+#include "widgets/SectionView.h"
+
+#include <QBuffer>
+#include <QDate>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QProgressDialog>
+#include <QSettings>
+#include <QStatusBar>
+#include <algorithm>
+#include <string_view>
 
 // The commands that write pictures and reports.
 
 namespace talvesk {
+namespace {
+
+constexpr int kMessageTime = 10000;  ///< milliseconds that the status bar shows an outcome
+constexpr int kProgressSteps = 100;
+
+/// A bar that stays until it is closed, even where the work ends before it would show.
+void prepareProgress(QProgressDialog& progress) {
+  progress.setWindowModality(Qt::WindowModal);
+  progress.setMinimumDuration(300);
+  progress.setAutoClose(false);
+  progress.setAutoReset(false);
+}
+
+/// A name for files by the title of the survey, without what no file system takes.
+QString fileNameOf(const std::string& title) {
+  QString name;
+  for (const QChar letter : QString::fromStdString(title).simplified()) {
+    const bool plain = letter.isLetterOrNumber() || QStringLiteral("-_. ").contains(letter);
+    name += plain ? letter : QLatin1Char('_');
+  }
+  return name.replace(QLatin1Char(' '), QLatin1Char('_')).left(60);
+}
+
+Status writePicture(const QImage& picture, const QString& file, int quality) {
+  const bool jpeg = file.endsWith(QLatin1String(".jpg"), Qt::CaseInsensitive) ||
+                    file.endsWith(QLatin1String(".jpeg"), Qt::CaseInsensitive);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (!picture.save(&buffer, jpeg ? "JPEG" : "PNG", jpeg ? quality : -1)) {
+    return Status::failure("The picture cannot be made: " + file.toStdString());
+  }
+  return writeFileAtomically(
+      file.toStdString(),
+      std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
+
+}  // namespace
 
 void Talvesk_MainWindows::on_actionImages_triggered() {
   logSlot(__func__);
+  ImageSetOptions look;
+  look.view = mSection;
+  look.palette = mPalettes.current();
+  look.refractors = refractorLines(mInterpretation);
+  look.horizontalColorBar = mSettings.savePngHColorbar;
+  ImagesDialog dialog(mDocument, mInterpretation, look, mCurrentFile, this);
+  QSettings remembered(windowStateFile(), QSettings::IniFormat);
+  dialog.recall(remembered);
+  dialog.setFolder(historyFolder());
+  dialog.setBaseName(fileNameOf(mDocument.title));
+  if (dialog.exec() != QDialog::Accepted) return;
+  dialog.remember(remembered);
+  const std::vector<PlannedImage> images = dialog.images();
+  if (images.empty() || !mayOverwrite(images)) return;
+  saveHistoryOf(QString::fromStdString(images.front().path));
+  writeImages(images);
+}
+
+bool Talvesk_MainWindows::mayOverwrite(const std::vector<PlannedImage>& images) {
+  QStringList existing;
+  for (const PlannedImage& image : images) {
+    const QFileInfo file(QString::fromStdString(image.path));
+    if (file.exists()) existing += file.fileName();
+  }
+  return existing.isEmpty() ||
+         askYesNo(this, tr("Warning"), tr("%n file(s) exist already.", nullptr, existing.size()),
+                  tr("Do you want to replace them?") + QStringLiteral("\n\n") + shortList(existing),
+                  false);
+}
+
+void Talvesk_MainWindows::writeImages(const std::vector<PlannedImage>& images) {
+  const int count = static_cast<int>(images.size());
+  QProgressDialog progress(tr("Writing pictures ..."), tr("Stop"), 0, count, this);
+  prepareProgress(progress);
+  int done = 0;
+  Status status;
+  for (const PlannedImage& image : images) {
+    progress.setValue(done);  // lets the window live
+    if (progress.wasCanceled()) break;
+    status = image.write();
+    if (!status.ok()) break;
+    ++done;
+  }
+  progress.close();
+  const QString told = done < count ? tr("%1 of %2 pictures have been saved.").arg(done).arg(count)
+                                    : tr("%n picture(s) saved.", nullptr, count);
+  statusBar()->showMessage(told, kMessageTime);
+  if (status.ok()) return;
+  mLog.write(status.message(), 1);
+  showError(this, tr("Error occured"), told, QString::fromStdString(status.message()));
 }
 
 void Talvesk_MainWindows::on_actionScreenshot_triggered() {
   logSlot(__func__);
+  const SectionView* view = mUi->vtk_widget;
+  if (view->isEmpty()) return;
+  const QSize size = view->sheet()->size();
+  ScreenshotDialog dialog(size, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QString file = askForExport(tr("Save screenshot"),
+                                    tr("PNG picture (*.png);;JPEG picture (*.jpg *.jpeg)"), "png");
+  if (file.isEmpty()) return;
+  const QImage picture = view->picture(size, SectionView::Part::kSeen, dialog.scale());
+  const Status status = picture.isNull()
+                            ? Status::failure("The view cannot be drawn for a picture.")
+                            : writePicture(picture, file, dialog.quality());
+  tellReport(status, file);
 }
 
 void Talvesk_MainWindows::on_actionPDF_triggered() {
   logSlot(__func__);
+  writeReportAs(tr("Save PDF report"), tr("PDF report (*.pdf)"), "pdf");
 }
 
 void Talvesk_MainWindows::on_actionODT_triggered() {
   logSlot(__func__);
+  writeReportAs(tr("Save ODT report"), tr("OpenDocument text (*.odt)"), "odt");
+}
+
+void Talvesk_MainWindows::writeReportAs(const QString& title, const QString& filter,
+                                        const char* suffix) {
+  ReportOptions options;
+  options.title = mDocument.title;
+  options.date = QLocale().toString(QDate::currentDate(), QLocale::LongFormat).toStdString();
+  options.section =
+      sectionFigureOptions(mSection, mPalettes.current(), refractorLines(mInterpretation));
+  const auto build = [this](const ReportOptions& chosen, ReportContent& content) {
+    return buildReport({mDocument, &mInterpretation}, chosen, content);
+  };
+  ReportDialog dialog(options, build, this);
+  QSettings remembered(windowStateFile(), QSettings::IniFormat);
+  dialog.recall(remembered);
+  if (dialog.exec() != QDialog::Accepted) return;
+  dialog.remember(remembered);
+  const QString file = askForExport(title, filter, suffix);
+  if (file.isEmpty()) return;
+
+  QProgressDialog progress(tr("Writing the report ..."), tr("Stop"), 0, kProgressSteps, this);
+  prepareProgress(progress);
+  progress.setValue(0);
+  ReportContent content;
+  Status status = build(dialog.options(), content);
+  if (status.ok()) {
+    status = writeReport(content, file.toStdString(), [&progress](double done) {
+      progress.setValue(static_cast<int>(done * (kProgressSteps - 1)));
+      return !progress.wasCanceled();
+    });
+  }
+  progress.close();
+  tellReport(status, file);
+}
+
+void Talvesk_MainWindows::tellReport(const Status& written, const QString& file) {
+  if (written.ok()) {
+    saveHistoryOf(file);
+    statusBar()->showMessage(tr("Saved in %1").arg(file), kMessageTime);
+  } else if (written.code() == kReportCancelled) {
+    statusBar()->showMessage(tr("Stopped; nothing has been saved."), kMessageTime);
+  } else {
+    mLog.write(written.message(), 1);
+    showError(this, tr("Error occured"), tr("The file has not been saved."),
+              QString::fromStdString(written.message()));
+  }
 }
 
 void Talvesk_MainWindows::refreshReportCommands() {
-  for (QAction* action :
-       {mUi->actionImages, mUi->actionScreenshot, mUi->actionPDF, mUi->actionODT}) {
-    action->setEnabled(false);
-  }
+  const bool survey = !mDocument.ttArray.empty();
+  mUi->actionImages->setEnabled(survey || mDocument.grid != nullptr);
+  mUi->actionScreenshot->setEnabled(mDocument.grid != nullptr);
+  mUi->actionPDF->setEnabled(survey);
+  mUi->actionODT->setEnabled(survey);
 }
 
 }  // namespace talvesk

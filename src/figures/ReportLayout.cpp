@@ -109,9 +109,11 @@ class Filler {
       if (item.kind == ReportItem::Kind::kFigure) addFigure(i);
       if (!item.text.isEmpty()) addText(item);
       if (item.kind != ReportItem::Kind::kTable) continue;
-      // The layout takes no margin above a block behind a table, so the table has it.
+      // Of margins that meet at a table the layout takes the table's.
       const bool last = i + 1 == mContent.items.size();
-      addTable(item.table, last ? 0.0 : lookOf(mContent.items[i + 1].kind).aboveMm);
+      const auto above = item.text.isEmpty() && i > 0 ? mContent.items[i - 1].kind : item.kind;
+      addTable(item.table, lookOf(above).belowMm,
+               last ? 0.0 : lookOf(mContent.items[i + 1].kind).aboveMm);
     }
     mCursor.endEditBlock();
   }
@@ -156,7 +158,7 @@ class Filler {
     mFresh = mAfterTable = false;
   }
 
-  void addTable(const ReportTable& table, double belowMm) {
+  void addTable(const ReportTable& table, double aboveMm, double belowMm) {
     const bool headings = table.hasHeadings();
     const int columns = static_cast<int>(table.columns.size());
     const int rows = static_cast<int>(table.rows.size()) + (headings ? 1 : 0);
@@ -166,7 +168,7 @@ class Filler {
     format.setBorder(0.0);
     format.setCellSpacing(0.0);
     format.setCellPadding(length(0.8));
-    format.setTopMargin(length(0.5));
+    format.setTopMargin(length(aboveMm));
     format.setBottomMargin(length(std::max(belowMm, 4.0)));
     const double whole = ReportSheet(mContent.paper).textWidthMm();
     format.setWidth(

@@ -1,0 +1,29 @@
+#include "app/ScreenshotDialog.h"
+
+#include "ui_ScreenshotDialog.h"
+
+namespace talvesk {
+
+ScreenshotDialog::ScreenshotDialog(const QSize& size, QWidget* parent)
+    : QDialog(parent), mUi(std::make_unique<Ui::ScreenshotDialog>()) {
+  mUi->setupUi(this);
+  for (int scale = 1; scale <= 4; ++scale) {
+    mUi->scaleCBox->addItem(tr("%1 times the view: %2 x %3 pixels")
+                                .arg(scale)
+                                .arg(scale * size.width())
+                                .arg(scale * size.height()));
+  }
+  connect(mUi->buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
+}
+
+ScreenshotDialog::~ScreenshotDialog() = default;
+
+int ScreenshotDialog::scale() const {
+  return mUi->scaleCBox->currentIndex() + 1;
+}
+
+int ScreenshotDialog::quality() const {
+  return mUi->qualityEdit->value();
+}
+
+}  // namespace talvesk

@@ -1,0 +1,160 @@
+#include "figures/ImageSet.h"
+
+#include "figures/GatherFigure.h"
+#include "figures/RefractionFigure.h"
+#include "figures/TravelTimeFigure.h"
+#include "model/TomoDocument.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr double kHeightOverWidth = 0.62;  ///< of pictures that ask for no height of their own
+
+/// Names of files are the same in every language.
+const char* nameOf(SectionQuantity quantity) {
+  switch (quantity) {
+    case SectionQuantity::kVerticalGradient:
+      return "gradient";
+    case SectionQuantity::kLaplacian:
+      return "laplacian";
+    case SectionQuantity::kInformationDensity:
+      return "density";
+    case SectionQuantity::kVelocity:
+      break;
+  }
+  return "velocity";
+}
+
+std::string withZeros(std::size_t number, std::size_t count) {
+  const std::size_t width = std::max<std::size_t>(std::to_string(count).size(), 2);
+  std::string text = std::to_string(number);
+  return std::string(width - std::min(width, text.size()), '0') + text;
+}
+
+class Planner {
+ public:
+  Planner(const TomoDocument& document, const ImageSetOptions& options)
+      : mDocument(document), mOptions(options) {}
+
+  void addGathers() {
+    const std::size_t count = mDocument.traceSets.size();
+    const std::size_t first = mOptions.shot.value_or(0);
+    const std::size_t end = mOptions.shot ? std::min(first + 1, count) : count;
+    for (std::size_t shot = first; shot < end; ++shot) {
+      if (mDocument.traceSets[shot].empty()) continue;
+      GatherFigureOptions figure;
+      setSize(figure);
+      figure.shot = shot;
+      figure.filtered = mOptions.filtered;
+      add("shot_" + withZeros(shot + 1, count),
+          [&document = mDocument, figure](const std::string& path) {
+            std::vector<std::string> written;
+            return writeGatherFigures(document, figure, path, written);
+          });
+    }
+  }
+
+  void addTravelTimes() {
+    const bool any = std::any_of(
+        mDocument.ttArray.begin(), mDocument.ttArray.end(), [](const TravelTime& record) {
+          return std::any_of(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick);
+        });
+    if (!any) return;
+    TravelTimeFigureOptions figure;
+    setSize(figure);
+    add("traveltimes", [&document = mDocument, figure](const std::string& path) {
+      return writeTravelTimeFigure(document, figure, path);
+    });
+  }
+
+  void addSection(SectionQuantity quantity, bool smooth) {
+    const bool density = quantity == SectionQuantity::kInformationDensity;
+    if (mDocument.grid == nullptr || (density && !mDocument.hasTomographicInfo)) return;
+    SectionViewSettings view = mOptions.view;
+    view.quantity = quantity;
+    view.profile = true;
+    view.smooth = smooth;
+    if (smooth) view.contours.filled = false;
+    SectionFigureOptions figure = sectionFigureOptions(view, mOptions.palette, mOptions.refractors);
+    if (mOptions.horizontalColorBar && figure.colorBar == ColorBar::kVertical) {
+      figure.colorBar = ColorBar::kHorizontal;
+    }
+    figure.widthMm = mOptions.widthMm;
+    figure.heightMm = mOptions.heightMm;
+    figure.dpi = mOptions.dpi;
+    add(std::string(nameOf(quantity)) + (smooth ? "_smooth" : ""),
+        [&document = mDocument, figure](const std::string& path) {
+          return writeSectionFigure(document, figure, path);
+        });
+  }
+
+  void addRefraction(const refractionDataStructure::processingData& results) {
+    RefractionFigureOptions figure;
+    setSize(figure);
+    FigureDrawing drawing;
+    if (!prepareRefractionFigure(mDocument, results, figure, drawing).ok()) return;
+    add("refraction", [&document = mDocument, &results, figure](const std::string& path) {
+      return writeRefractionFigure(document, results, figure, path);
+    });
+  }
+
+  std::vector<PlannedImage> take() { return std::move(mImages); }
+
+ private:
+  template <typename Figure>
+  void setSize(Figure& figure) const {
+    figure.widthMm = mOptions.widthMm;
+    figure.heightMm =
+        mOptions.heightMm > 0.0 ? mOptions.heightMm : kHeightOverWidth * mOptions.widthMm;
+    figure.dpi = mOptions.dpi;
+  }
+
+  void add(const std::string& name, std::function<Status(const std::string&)> write) {
+    std::string path = mOptions.folder;
+    if (!path.empty() && path.back() != '/') path += '/';
+    if (!mOptions.baseName.empty()) path += mOptions.baseName + '_';
+    path += name + suffixOf(mOptions.format);
+    mImages.push_back({path, [path, write = std::move(write)] { return write(path); }});
+  }
+
+  const TomoDocument& mDocument;
+  const ImageSetOptions mOptions;
+  std::vector<PlannedImage> mImages;
+};
+
+}  // namespace
+
+std::vector<PlannedImage> planImages(const TomoDocument& document,
+                                     const refractionDataStructure::Interpretation* interpretation,
+                                     const ImageSetOptions& options) {
+  Planner planner(document, options);
+  if (options.gathers) planner.addGathers();
+  if (options.travelTimes) planner.addTravelTimes();
+  if (options.section) {
+    for (const SectionQuantity quantity : options.quantities) {
+      if (options.cells) planner.addSection(quantity, false);
+      if (options.smooth) planner.addSection(quantity, true);
+    }
+  }
+  if (options.refraction && interpretation != nullptr) {
+    planner.addRefraction(interpretation->refractData);
+  }
+  return planner.take();
+}
+
+const char* suffixOf(FigureFormat format) {
+  switch (format) {
+    case FigureFormat::kSvg:
+      return ".svg";
+    case FigureFormat::kPdf:
+      return ".pdf";
+    case FigureFormat::kPng:
+      break;
+  }
+  return ".png";
+}
+
+}  // namespace talvesk
