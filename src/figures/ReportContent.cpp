@@ -7,9 +7,11 @@ namespace talvesk {
 namespace {
 
 // Letters; a narrower column would break its heading, a wider one leave the others nothing.
-constexpr int kNarrowest = 4;
-constexpr int kWidest = 28;
-constexpr int kUnbrokenTitle = 14;
+constexpr double kNarrowest = 4;
+constexpr double kWidest = 28;
+constexpr int kWholeTitle = 14;
+constexpr double kBold = 1.15;  ///< how much wider bold letters are
+constexpr double kPadding = 1.8;
 constexpr double kLetterMm = 2.1;  ///< width of one in tables, with room to spare
 
 int longestWord(const QString& text) {
@@ -25,29 +27,28 @@ bool ReportTable::hasHeadings() const {
                      [](const Column& column) { return !column.title.isEmpty(); });
 }
 
-std::vector<double> ReportTable::shares() const {
-  if (!hasHeadings()) return {0.4, 0.6};
-  std::vector<double> shares = letters();
-  const double sum = std::accumulate(shares.begin(), shares.end(), 0.0);
-  for (double& share : shares) share /= sum;
-  return shares;
+std::vector<double> ReportTable::columnWidthsMm(double textWidthMm) const {
+  if (!hasHeadings()) return {0.4 * textWidthMm, 0.6 * textWidthMm};
+  const auto sum = [](const std::vector<double>& values) {
+    return std::accumulate(values.begin(), values.end(), 0.0);
+  };
+  std::vector<double> widths = letters(true);
+  if (kLetterMm * sum(widths) > textWidthMm) widths = letters(false);
+  const double perLetter = std::min(kLetterMm, textWidthMm / sum(widths));
+  for (double& width : widths) width *= perLetter;
+  return widths;
 }
 
-double ReportTable::widthMm(double textWidthMm) const {
-  if (!hasHeadings()) return textWidthMm;
-  const std::vector<double> columnLetters = letters();
-  return std::min(kLetterMm * std::accumulate(columnLetters.begin(), columnLetters.end(), 0.0),
-                  textWidthMm);
-}
-
-std::vector<double> ReportTable::letters() const {
+std::vector<double> ReportTable::letters(bool wholeTitles) const {
   std::vector<double> widths;
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    const int title = std::min(columns[i].title.size(), kUnbrokenTitle);
-    int longest = std::max(longestWord(columns[i].title), title);
-    for (const QStringList& row : rows)
-      longest = std::max(longest, row[static_cast<int>(i)].size());
-    widths.push_back(std::clamp(longest, kNarrowest, kWidest) + 2.5);
+    int longest = longestWord(columns[i].title);
+    if (wholeTitles) longest = std::max(longest, std::min(columns[i].title.size(), kWholeTitle));
+    double needed = kBold * longest;
+    for (const QStringList& row : rows) {
+      needed = std::max(needed, static_cast<double>(row[static_cast<int>(i)].size()));
+    }
+    widths.push_back(std::clamp<double>(needed, kNarrowest, kWidest) + kPadding);
   }
   return widths;
 }

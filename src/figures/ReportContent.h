@@ -39,17 +39,15 @@ struct ReportTable {
   std::vector<QStringList> rows;  ///< a text per column each
 
   bool hasHeadings() const;
-  /// Parts of the width that the columns ask for by what stands in them; together 1.
-  std::vector<double> shares() const;
-  /// As wide as its columns need, within the width of the text.
-  double widthMm(double textWidthMm) const;
+  /// Of every column, by what stands in it; together at most the width of the text.
+  std::vector<double> columnWidthsMm(double textWidthMm) const;
 
   /// A table of no more rows stays on one page.
   static constexpr int kRowsThatStay = 13;
   bool staysWhole() const { return rows.size() < kRowsThatStay; }
 
  private:
-  std::vector<double> letters() const;  ///< that each column needs
+  std::vector<double> letters(bool wholeTitles) const;  ///< that each column needs
 };
 
 /// A part of a report. What is read of it stands in `text`; of tables and figures that is the

@@ -170,13 +170,13 @@ class Filler {
     format.setCellPadding(length(0.8));
     format.setTopMargin(length(aboveMm));
     format.setBottomMargin(length(std::max(belowMm, 4.0)));
-    const double whole = ReportSheet(mContent.paper).textWidthMm();
-    format.setWidth(
-        QTextLength(QTextLength::PercentageLength, 100.0 * table.widthMm(whole) / whole));
     QVector<QTextLength> widths;
-    for (const double share : table.shares()) {
-      widths.append(QTextLength(QTextLength::PercentageLength, 100.0 * share));
+    double whole = 0.0;
+    for (const double mm : table.columnWidthsMm(ReportSheet(mContent.paper).textWidthMm())) {
+      widths.append(QTextLength(QTextLength::FixedLength, length(mm)));
+      whole += mm;
     }
+    format.setWidth(length(whole));
     format.setColumnWidthConstraints(widths);
     QTextTable* grid = mCursor.insertTable(rows, columns, format);
     for (int row = 0; row < rows; ++row) {

@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QXmlStreamWriter>
+#include <numeric>
 
 namespace talvesk {
 namespace {
@@ -47,14 +48,15 @@ class ContentWriter {
       if (item.kind != ReportItem::Kind::kTable) continue;
       ++table;
       int column = 0;
-      const double columns = item.table.widthMm(width);
-      writeTableStyle(tableStyle(table), columns, item.table.staysWhole());
-      for (const double share : item.table.shares()) {
+      const std::vector<double> widths = item.table.columnWidthsMm(width);
+      writeTableStyle(tableStyle(table), std::accumulate(widths.begin(), widths.end(), 0.0),
+                      item.table.staysWhole());
+      for (const double columnMm : widths) {
         mXml->writeStartElement(QStringLiteral("style:style"));
         mXml->writeAttribute(QStringLiteral("style:name"), columnStyle(table, ++column));
         mXml->writeAttribute(QStringLiteral("style:family"), QStringLiteral("table-column"));
         mXml->writeEmptyElement(QStringLiteral("style:table-column-properties"));
-        mXml->writeAttribute(QStringLiteral("style:column-width"), odt::mm(share * columns));
+        mXml->writeAttribute(QStringLiteral("style:column-width"), odt::mm(columnMm));
         mXml->writeEndElement();
       }
     }

@@ -115,6 +115,15 @@ void addStrings(ReportBuilder& builder) {
   builder.table(ReportWords::tr("Strings of geophones"), table);
 }
 
+/// The name of a file in the width of a column: names of a survey differ at their ends.
+QString shortened(const std::string& path) {
+  constexpr int kMost = 16;
+  constexpr int kBegin = 5;
+  const QString name = QFileInfo(QString::fromStdString(path)).fileName();
+  if (name.size() <= kMost) return name;
+  return name.left(kBegin) + QChar(0x2026) + name.right(kMost - kBegin - 1);
+}
+
 /// The first trace of a shot that tells how it was sampled.
 const Trace* sampledTrace(const TomoDocument& document, std::size_t shot) {
   if (shot >= document.traceSets.size()) return nullptr;
@@ -145,7 +154,7 @@ void addShots(ReportBuilder& builder) {
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const TravelTime& record = document.ttArray[i];
     QStringList row{QString::number(i + 1)};
-    if (files) row += QFileInfo(QString::fromStdString(shotFile(document, i))).fileName();
+    if (files) row += shortened(shotFile(document, i));
     row << number(record.shotPos2d.x, 2) << number(record.shotPos2d.z, 2)
         << (record.indexStesa >= 0 ? QString::number(record.indexStesa + 1) : QString())
         << QString::number(record.ttMisurati.size());
