@@ -61,7 +61,6 @@ bool makeCurves(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
     return false;
   }
   if (refractor == kSecondRefractor) console::out() << "Phantom 3\n";
-  clearShifts(refractor, marks);
   CurveOutcome forward = buildCurve(shots, curves.pair.a, refractor, Side::kRight, marks);
   CurveOutcome reverse = buildCurve(shots, curves.pair.b, refractor, Side::kLeft, marks);
   const bool usable = forward.usable() && reverse.usable();
@@ -162,6 +161,7 @@ ProfileOutcome buildProfiles(const std::vector<ShotArrivals>& shots,
   work.phnt_A.clear();
   work.phnt_R.clear();
   work.refractData = {};
+  clearShifts(work.ttLayer);
   processingData& results = work.refractData;
   const auto interpret = [&](std::uint32_t refractor) {
     Curves curves;
@@ -196,6 +196,7 @@ std::vector<RefractionWarning> buildPhantoms(const std::vector<ShotArrivals>& sh
   Warnings warnings;
   std::vector<phantom> forward;
   std::vector<phantom> reverse;
+  clearShifts(interpretation.ttLayer);
   for (const std::uint32_t refractor : {kFirstRefractor, kSecondRefractor}) {
     if (refractor == kSecondRefractor && !isAssigned(interpretation.ttLayer, refractor)) break;
     Curves curves;

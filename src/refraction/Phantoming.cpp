@@ -138,13 +138,8 @@ CurveOutcome buildCurve(const std::vector<ShotArrivals>& shots, std::int32_t end
   return outcome;
 }
 
-void clearShifts(std::uint32_t refractor, std::vector<layerStruct>& marks) {
-  for (layerStruct& own : marks) {
-    own.trasla.resize(own.layer.size(), 0.0);
-    for (std::size_t i = 0; i < own.layer.size(); ++i) {
-      if (own.layer[i] == refractor) own.trasla[i] = 0.0;
-    }
-  }
+void clearShifts(std::vector<layerStruct>& marks) {
+  for (layerStruct& own : marks) own.trasla.assign(own.layer.size(), 0.0);
 }
 
 }  // namespace talvesk

@@ -45,7 +45,7 @@ CurveOutcome buildCurve(const std::vector<ShotArrivals>& shots, std::int32_t end
                         std::uint32_t refractor, Side side,
                         std::vector<refractionDataStructure::layerStruct>& marks);
 
-/// Sets all time shifts of a refractor's traces to 0.
-void clearShifts(std::uint32_t refractor, std::vector<refractionDataStructure::layerStruct>& marks);
+/// Sets all time shifts to 0, those of traces that have been assigned elsewhere since included.
+void clearShifts(std::vector<refractionDataStructure::layerStruct>& marks);
 
 }  // namespace talvesk

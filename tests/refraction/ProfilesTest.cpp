@@ -205,6 +205,24 @@ TEST(Profile, tellsWhereARefractorIsSlowerThanTheLayerAbove) {
   EXPECT_EQ(outcome.warnings[0].count, outcome.warnings[0].total);
 }
 
+TEST(Phantoms, leaveNoShiftAtPicksThatWereAssignedElsewhereSince) {
+  const ConsoleCapture console;
+  Interpretation interpretation;
+  const TomoDocument line =
+      testing::standardDippingLine(testing::twoDippingLayers(), interpretation.ttLayer);
+  const std::vector<ShotArrivals> shots = shotArrivals(line);
+  EXPECT_TRUE(buildPhantoms(shots, interpretation).empty());
+  auto& own = interpretation.ttLayer[testing::kStartShot + 2];
+  const auto shifted =
+      std::find_if(own.trasla.begin(), own.trasla.end(), [](double t) { return t != 0.0; });
+  ASSERT_NE(shifted, own.trasla.end());
+  const std::ptrdiff_t trace = shifted - own.trasla.begin();
+  own.layer[static_cast<std::size_t>(trace)] = 1;
+  EXPECT_TRUE(buildPhantoms(shots, interpretation).empty());
+  EXPECT_EQ(interpretation.ttLayer[testing::kStartShot + 2].trasla[static_cast<std::size_t>(trace)],
+            0.0);
+}
+
 TEST(Boundaries, areBrokenWhereADepthIsMissing) {
   refractionDataStructure::processingData results;
   computedData refractor;
