@@ -89,8 +89,8 @@ struct InvertOptions {
 struct RefractOptions {
   std::string input;  ///< travel-time file; none: shot files
   ShotOptions shots;
-  std::string layers;  ///< file of marks; none: as proposed
-  double xy = 0.0;     ///< metres, of the family
+  std::string layers;        ///< file of marks; none: as proposed
+  std::optional<double> xy;  ///< metres, of the family; none: that of the project, else 0
   std::string json;
   std::string table;
   std::vector<std::string> images;  ///< one picture per path

@@ -43,8 +43,10 @@ Status markLayers(const RefractOptions& options, const TomoDocument& document,
 
 ProfileOutcome interpret(const RefractOptions& options, const std::vector<ShotArrivals>& shots,
                          Interpretation& interpretation) {
-  chooseXY(interpretation, 2, options.xy);
-  chooseXY(interpretation, 3, options.xy);
+  if (options.xy) {
+    chooseXY(interpretation, 2, *options.xy);
+    chooseXY(interpretation, 3, *options.xy);
+  }
   // A line per receiver, curve and XY: for those who look for something.
   std::ostream& before = console::out();
   if (!options.verbose) console::setOut(console::nowhere());
