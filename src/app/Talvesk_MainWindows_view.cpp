@@ -125,6 +125,8 @@ void Talvesk_MainWindows::refreshSectionCommands() {
   if (mInversion != nullptr) return;  // all commands are locked
   // Even of a grid whose cells have no value of this quantity another may be chosen.
   const bool section = mDocument.grid && mDocument.grid->cellCount() > 0;
+  // Before there is a grid the layered profile may be shown alone.
+  const bool picture = section || (mSection.refraction && !refractorLines(mInterpretation).empty());
   const SectionQuantity quantity = mSection.quantity;
   const struct {
     QAction* action;
@@ -141,15 +143,15 @@ void Talvesk_MainWindows::refreshSectionCommands() {
       {mUi->actionLaplacian_Gradient, section, quantity == SectionQuantity::kLaplacian},
       {mUi->actionShow_scalarbar, section, mSection.scalarBar},
       {mUi->actionShow_Grid_Lines, section, mSection.gridLines},
-      {mUi->actionSmallGeo, section, mSection.geophones == GeophoneMarkers::kSmall},
-      {mUi->actionNormalGeo, section, mSection.geophones == GeophoneMarkers::kNormal},
-      {mUi->actionLargeGeo, section, mSection.geophones == GeophoneMarkers::kLarge},
-      {mUi->actionShow_title, section, mSection.title}};
+      {mUi->actionSmallGeo, picture, mSection.geophones == GeophoneMarkers::kSmall},
+      {mUi->actionNormalGeo, picture, mSection.geophones == GeophoneMarkers::kNormal},
+      {mUi->actionLargeGeo, picture, mSection.geophones == GeophoneMarkers::kLarge},
+      {mUi->actionShow_title, picture, mSection.title}};
   for (const auto& state : states) {
     state.action->setEnabled(state.enabled);
     state.action->setChecked(state.checked);
   }
-  mUi->actionReset_View->setEnabled(section);
+  mUi->actionReset_View->setEnabled(picture);
 }
 
 QString Talvesk_MainWindows::whyNoSection() const {

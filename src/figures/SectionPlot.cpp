@@ -126,7 +126,7 @@ void SectionPlot::Parts::addLayers() {
                      {1.4, true}));
   }
   for (std::size_t i = 0; i < scene.refractors.size(); ++i) {
-    figure.add(lines({scene.refractors[i].points}, qt(scene.refractors[i].name), refractorColor(i),
+    figure.add(lines(scene.refractors[i].pieces, qt(scene.refractors[i].name), refractorColor(i),
                      {2.0, false}));
   }
 }

@@ -1,21 +1,19 @@
 #include "view/RefractorLines.h"
 
-#include <algorithm>
-#include <cmath>
+#include "refraction/Profile.h"
+
 #include <utility>
 
 namespace talvesk {
 
 std::vector<SectionLine> refractorLines(const refractionDataStructure::Interpretation& records) {
   std::vector<SectionLine> lines;
-  for (const refractionDataStructure::computedData& data : records.refractData.cData) {
+  for (ProfileBoundary& boundary : profileBoundaries(records.refractData)) {
     SectionLine line;
-    const std::size_t count = std::min({data.x.size(), data.elevation.size(), data.depth.size()});
-    for (std::size_t i = 0; i < count; ++i) {
-      const Point2D point{data.x[i], data.elevation[i] - data.depth[i]};
-      if (std::isfinite(point.x) && std::isfinite(point.z)) line.points.push_back(point);
+    for (auto& piece : boundary.lines) {
+      if (piece.size() >= 2) line.pieces.push_back(std::move(piece));
     }
-    if (line.points.size() >= 2) lines.push_back(std::move(line));
+    if (!line.pieces.empty()) lines.push_back(std::move(line));
   }
   return lines;
 }

@@ -8,7 +8,7 @@
 namespace talvesk {
 
 /// The refractors of a layered interpretation as lines below the surface, the shallowest first and
-/// without names. Receivers without a depth are left out; a line has two points at least.
+/// without names. A line is broken at receivers without a depth.
 std::vector<SectionLine> refractorLines(const refractionDataStructure::Interpretation& records);
 
 }  // namespace talvesk

@@ -1,3 +1,4 @@
+#include "model/TomoDocument.h"
 #include "view/SectionViewSettings.h"
 
 #include <algorithm>
@@ -47,6 +48,11 @@ SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const Colo
 Status buildSectionScene(const TomoDocument& document, const SectionViewSettings& settings,
                          const ColorPalette& palette, const std::vector<SectionLine>& refractors,
                          SectionScene& out) {
+  const bool cells = document.grid && document.grid->cellCount() > 0;
+  if (!cells && settings.refraction && !refractors.empty()) {
+    out = sceneWithoutGrid(document, refractors);
+    return {};
+  }
   SectionSceneOptions options = sceneOptions(settings, palette);
   if (settings.refraction) options.refractors = refractors;
   return buildSectionScene(document, options, out);

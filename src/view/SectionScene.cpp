@@ -175,6 +175,12 @@ Point2D extreme(const SectionScene& scene, double start, Less better) {
   }
   for (const Point2D& p : scene.geophones) take(p);
   for (const Point2D& p : scene.shots) take(p);
+  if (mesh.rows > 0) return corner;
+  for (const SectionLine& line : scene.refractors) {
+    for (const auto& piece : line.pieces) {
+      for (const Point2D& p : piece) take(p);
+    }
+  }
   return corner;
 }
 
@@ -224,6 +230,18 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   if (document.hasTomographicInfo) scene.rmsPercent = document.RMSE_tomography;
   out = std::move(scene);
   return {};
+}
+
+SectionScene sceneWithoutGrid(const TomoDocument& document, std::vector<SectionLine> refractors) {
+  SectionScene scene;
+  scene.title = document.title;
+  scene.fill = SectionFill::kNone;
+  scene.range = niceRange({});
+  scene.refractors = std::move(refractors);
+  scene.geophones = allGeophones(document);
+  scene.surface = scene.geophones;
+  scene.shots = eachPlaceOnce(document.shotPoints());
+  return scene;
 }
 
 std::string quantityName(SectionQuantity quantity) {

@@ -30,10 +30,10 @@ enum class SectionFill {
   kBands,   ///< in steps between the contour levels
 };
 
-/// A line of the layered interpretation.
+/// A line of the layered interpretation, in pieces: it is broken where nothing is known of it.
 struct SectionLine {
-  std::string name;             ///< for the legend, UTF-8
-  std::vector<Point2D> points;  ///< survey positions
+  std::string name;                          ///< for the legend, UTF-8
+  std::vector<std::vector<Point2D>> pieces;  ///< survey positions, two at least in each
 };
 
 struct SectionSceneOptions {
@@ -74,7 +74,8 @@ struct SectionScene {
   std::vector<Point2D> shots;      ///< of all records, ascending x, each place once
   double rmsPercent = -1.0;        ///< misfit of the last inversion; negative: none
 
-  /// Lower left and upper right of the drawn cells, geophones and shots.
+  /// Lower left and upper right of the drawn cells, geophones and shots; without a grid, of the
+  /// refractors instead of the cells.
   Point2D lowerLeft() const;
   Point2D upperRight() const;
 
@@ -87,6 +88,9 @@ struct SectionScene {
 /// and for a range that is empty or not finite.
 Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions& options,
                          SectionScene& out);
+
+/// What there is to show before a survey has a grid: the layered profile under the geophones.
+SectionScene sceneWithoutGrid(const TomoDocument& document, std::vector<SectionLine> refractors);
 
 /// The colours that fill a section, and the bar beside it.
 ColorTable sectionColors(const SectionScene& scene, const ColorPalette& palette);

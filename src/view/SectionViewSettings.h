@@ -53,7 +53,7 @@ struct SectionViewSettings {
 SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const ColorPalette& palette);
 
 /// Puts together what the section of a document shows with these settings. Fails as
-/// buildSectionScene() does, with `out` unchanged.
+/// buildSectionScene() does, with `out` unchanged, but needs no grid to show the layered profile.
 /// \param refractors the layered profile, shown when the settings ask for it
 Status buildSectionScene(const TomoDocument& document, const SectionViewSettings& settings,
                          const ColorPalette& palette, const std::vector<SectionLine>& refractors,

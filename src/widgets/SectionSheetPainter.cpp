@@ -94,11 +94,13 @@ void SheetPainter::paintLines() {
   mPainter.setPen(coveragePen());
   mPainter.drawPolyline(mapped(mScene.coverageLimit));
   for (std::size_t i = 0; i < mScene.refractors.size(); ++i) {
-    const QPolygonF line = mapped(mScene.refractors[i].points);
-    mPainter.setPen(QPen(Qt::white, kRefractorWidth + 2.0));
-    mPainter.drawPolyline(line);
-    mPainter.setPen(QPen(section_items::refractorColor(i), kRefractorWidth));
-    mPainter.drawPolyline(line);
+    for (const auto& piece : mScene.refractors[i].pieces) {
+      const QPolygonF line = mapped(piece);
+      mPainter.setPen(QPen(Qt::white, kRefractorWidth + 2.0));
+      mPainter.drawPolyline(line);
+      mPainter.setPen(QPen(section_items::refractorColor(i), kRefractorWidth));
+      mPainter.drawPolyline(line);
+    }
   }
 }
 

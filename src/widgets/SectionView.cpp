@@ -24,7 +24,7 @@ constexpr double kMaxSide = 30000.0;  ///< device pixels of a picture
 /// other.
 bool sameGround(const SectionScene* a, const SectionScene& b) {
   return a != nullptr && a->mesh.rows == b.mesh.rows && a->mesh.columns == b.mesh.columns &&
-         a->mesh.corners == b.mesh.corners;
+         a->mesh.corners == b.mesh.corners && a->surface == b.surface;
 }
 
 }  // namespace

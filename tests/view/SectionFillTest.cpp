@@ -281,15 +281,35 @@ TEST(SectionReading, knowsNothingBeyondTheSection) {
 TEST(RefractorLines, lieBelowTheSurfaceWhereADepthIsKnown) {
   refractionDataStructure::Interpretation records;
   records.refractData.cData.resize(3);
-  records.refractData.cData[0].x = {0.0, 2.0, 4.0};
-  records.refractData.cData[0].elevation = {100.0, 101.0, 102.0};
-  records.refractData.cData[0].depth = {3.0, NAN, 5.0};
+  records.refractData.cData[0].x = {0.0, 2.0, 4.0, 6.0, 8.0, 10.0, 12.0};
+  records.refractData.cData[0].elevation.assign(7, 100.0);
+  records.refractData.cData[0].depth = {3.0, 4.0, NAN, 5.0, NAN, 6.0, 7.0};
   records.refractData.cData[1].x = {0.0, 2.0};
   records.refractData.cData[1].elevation = {100.0, 101.0};
   records.refractData.cData[1].depth = {9.0};  // a single point is no line
   const auto lines = refractorLines(records);
   ASSERT_EQ(lines.size(), 1U);
-  EXPECT_THAT(lines[0].points, ElementsAre(Point2D{0.0, 97.0}, Point2D{4.0, 97.0}));
+  EXPECT_THAT(lines[0].pieces, ElementsAre(ElementsAre(Point2D{0.0, 97.0}, Point2D{2.0, 96.0}),
+                                           ElementsAre(Point2D{10.0, 94.0}, Point2D{12.0, 93.0})))
+      << "nothing spans a gap, and a single point is no line";
+}
+
+TEST(SectionScene, showsTheLayeredProfileBeforeThereIsAGrid) {
+  TomoDocument document = sectionDocument(4, 10, 0.0, layered);
+  document.grid.reset();
+  const SectionLine refractor{"Refractor 1", {{{101.0, 80.0}, {140.0, 82.0}}}};
+  SectionViewSettings settings;
+  SectionScene scene;
+  const auto build = [&] {
+    return buildSectionScene(document, settings, ColorPaletteList().current(), {refractor}, scene);
+  };
+  EXPECT_FALSE(build().ok()) << "not asked for";
+  settings.refraction = true;
+  ASSERT_TRUE(build().ok());
+  EXPECT_EQ(scene.fill, SectionFill::kNone);
+  EXPECT_EQ(scene.lowerLeft().z, 80.0);
+  EXPECT_EQ(scene.upperRight().x, 140.0);
+  EXPECT_FALSE(readSection(scene, {110.0, 90.0}).velocity);
 }
 
 TEST(SimplifiedLine, leavesOutOnlyWhatLiesWithinTheTolerance) {
