@@ -146,9 +146,13 @@ void RefractionProcessingDialog::connectCurves() {
   connect(curves, &LayerCurvesPlot::branchRead, this, &RefractionProcessingDialog::showReading);
 }
 
+bool RefractionProcessingDialog::hasChanges() const {
+  return mBuilt || !mUndo->isClean();
+}
+
 void RefractionProcessingDialog::reject() {
-  if (mUndo->isClean() || askYesNo(this, tr("Refraction processing"),
-                                   tr("Close without keeping the changes?"), {}, false)) {
+  if (!hasChanges() || askYesNo(this, tr("Refraction processing"),
+                                tr("Close without keeping the changes?"), {}, false)) {
     QDialog::reject();
   }
 }

@@ -34,9 +34,13 @@ class RefractionProcessingDialog : public QDialog {
 
   const refractionDataStructure::Interpretation& interpretation() const { return mWork; }
   QUndoStack* undoStack() const { return mUndo; }
+  bool profileBuilt() const { return mBuilt; }  ///< since the dialog was opened
+  /// Whether marks differ from those that it was opened with, or a profile was built.
+  bool hasChanges() const;
 
  public slots:
-  /// Escape and closing the window: asks when marks would be lost. The button Cancel does not ask.
+  /// Escape and closing the window: asks when marks or a profile would be lost. The button Cancel
+  /// does not ask.
   void reject() override;
 
  private slots:
@@ -80,6 +84,7 @@ class RefractionProcessingDialog : public QDialog {
   std::vector<ShotArrivals> mShots;
   std::vector<RefractionWarning> mWarnings;  ///< of the last build
   QUndoStack* mUndo;
+  bool mBuilt = false;
   bool mStale = false;  ///< marks are not those that the results were built from
 };
 

@@ -118,6 +118,7 @@ bool RefractionProcessingDialog::build(std::vector<RefractionWarning> known) {
   if (outcome.built) {
     mWarnings = outcome.warnings;
     mStale = false;
+    mBuilt = true;
   }
   marksChanged();
   showResults();
@@ -229,8 +230,9 @@ void RefractionProcessingDialog::showFunctions() {
     const auto addFamily = [&](const std::vector<double>& family, std::vector<PlotSeries>& plot) {
       for (std::size_t i = 0; i < kXYFamily.size(); ++i) {
         if (i == chosen) continue;
-        plot.push_back(
-            seriesOf(i == 0 ? tr("other XY") : QString(), found.x, memberOf(family, i), kMs));
+        // One name stands for all of them in the legend.
+        const QString name = plot.empty() ? tr("other XY") : QString();
+        plot.push_back(seriesOf(name, found.x, memberOf(family, i), kMs));
         plot.back().color = faint(layerColor(kNoLayer), 0.6);
         plot.back().width = 1.0;
       }

@@ -1,10 +1,8 @@
 #include "app/Messages.h"
 #include "app/RefractionProcessingDialog.h"
 #include "app/Talvesk_MainWindows.h"
-#include "refraction/Profile.h"
 #include "ui_Talvesk_MainWindows.h"
-
-#include <algorithm>
+#include "view/RefractorLines.h"
 
 // The commands of the layered interpretation.
 
@@ -21,10 +19,10 @@ void Talvesk_MainWindows::on_actionRefraction_triggered() {
     return;
   }
   RefractionProcessingDialog dialog(mDocument, mInterpretation, this);
-  if (dialog.exec() != QDialog::Accepted) return;
+  if (dialog.exec() != QDialog::Accepted || !dialog.hasChanges()) return;
   mInterpretation = dialog.interpretation();
   // A profile that was just built is worth seeing.
-  if (!profileBoundaries(mInterpretation.refractData).empty()) mSection.refraction = true;
+  if (dialog.profileBuilt()) mSection.refraction = true;
   documentModified();
   refreshSection();
 }
@@ -37,8 +35,7 @@ void Talvesk_MainWindows::on_actionShow_refraction_triggered() {
 
 void Talvesk_MainWindows::refreshRefractionCommands() {
   mUi->actionRefraction->setEnabled(!mDocument.ttArray.empty());
-  const bool profile = !profileBoundaries(mInterpretation.refractData).empty();
-  mUi->actionShow_refraction->setEnabled(profile && mDocument.grid != nullptr);
+  mUi->actionShow_refraction->setEnabled(!refractorLines(mInterpretation).empty());
   mUi->actionShow_refraction->setCheckable(true);
   mUi->actionShow_refraction->setChecked(mSection.refraction);
 }

@@ -2,8 +2,10 @@
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
 #include "support/RefractionLines.h"
+#include "view/SectionScene.h"
 #include "widgets/LayerCurvesPlot.h"
 #include "widgets/RefractionProfilePlot.h"
+#include "widgets/SectionView.h"
 #include "widgets/SeriesPlot.h"
 
 #include <QCheckBox>
@@ -140,6 +142,15 @@ TEST_F(Refraction, asksBeforeEscapeLosesMarks) {
   EXPECT_TRUE(dialogs.finished());
 }
 
+TEST_F(Refraction, asksBeforeEscapeLosesAProfile) {
+  show(testing::twoDippingLayers(), true);
+  press("buildButton");
+  dialogs.expectBox("Refraction processing", "Close without keeping the changes?", "",
+                    QMessageBox::Yes);
+  key(Qt::Key_Escape);
+  EXPECT_TRUE(dialogs.finished());
+}
+
 TEST_F(Refraction, buildsAProfileFromAProposalAndShowsItAll) {
   show(testing::threeDippingLayers(), false);
   press("proposeButton");
@@ -160,6 +171,8 @@ TEST_F(Refraction, buildsAProfileFromAProposalAndShowsItAll) {
   emit chooser.activated(6);
   EXPECT_EQ(family.series().back().name, QStringLiteral("XY = 2 m"));
   EXPECT_EQ(dialog->interpretation().refractData.cData[0].chosenXY, 2.0);
+  emit chooser.activated(0);
+  EXPECT_EQ(family.series().front().name, QStringLiteral("other XY")) << "the first is chosen";
 }
 
 TEST_F(Refraction, asksBeforeAProposalReplacesMarks) {
@@ -281,6 +294,27 @@ TEST_F(RefractionCommand, changesNothingOnCancelAndLaysTheProfileOverTheSectionO
   EXPECT_TRUE(action("actionShow_refraction").isChecked());
   action("actionShow_refraction").trigger();
   EXPECT_FALSE(action("actionShow_refraction").isChecked());
+}
+
+TEST_F(RefractionCommand, showsTheProfileBeforeThereIsAGrid) {
+  window->document().grid.reset();
+  window->showFile(0);
+  answer(QDialogButtonBox::Ok);
+  ASSERT_TRUE(action("actionShow_refraction").isEnabled());
+  const SectionScene* scene = child<SectionView>("vtk_widget").scene();
+  ASSERT_NE(scene, nullptr);
+  ASSERT_EQ(scene->refractors.size(), 1U);
+  EXPECT_LT(scene->lowerLeft().z, scene->surface.front().z - 5.0) << "the refractor is in view";
+  action("actionShow_refraction").trigger();
+  EXPECT_EQ(child<SectionView>("vtk_widget").scene(), nullptr);
+}
+
+TEST_F(RefractionCommand, leavesTheDocumentAloneOnOkWithoutAChange) {
+  dialogs.expect([](QWidget& dialog) {
+    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+  });
+  action("actionRefraction").trigger();
+  EXPECT_FALSE(window->document().modified);
 }
 
 TEST_F(RefractionCommand, forgetsTheProfileOfPicksThatAreReplaced) {
