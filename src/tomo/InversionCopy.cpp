@@ -16,6 +16,7 @@ void copyResults(TomoDocument& to, const TomoDocument& from) {
   to.excluded = from.excluded;
   to.coverageLimit = from.coverageLimit;
   to.coverageSpline = from.coverageSpline;
+  to.lastInversion = from.lastInversion;
 }
 
 }  // namespace

@@ -10,7 +10,8 @@ namespace talvesk {
 TomoDocument inversionCopy(const TomoDocument& document);
 
 /// Puts what an inversion of such a copy has reached into the document, whose records are still
-/// those that were copied: grid, computed times, rays, coverage, information density and misfit.
+/// those that were copied: grid, computed times, rays, coverage, information density, misfit
+/// and the record of how the inversion was run.
 void takeInversion(TomoDocument& document, const TomoDocument& copy);
 
 }  // namespace talvesk

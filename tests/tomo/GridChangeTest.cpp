@@ -115,6 +115,9 @@ TEST(InversionCopy, bringsHomeWhatTheInversionOfTheDocumentWouldLeave) {
     EXPECT_EQ(line.ttArray[s].ttCalcolati, direct.ttArray[s].ttCalcolati) << s;
   }
   EXPECT_TRUE(line.hasTomographicInfo);
+  ASSERT_TRUE(line.lastInversion.has_value()) << "reports tell how the inversion was run";
+  EXPECT_EQ(line.lastInversion->history.size(), direct.lastInversion->history.size());
+  EXPECT_EQ(line.lastInversion->smoothing, direct.lastInversion->smoothing);
 }
 
 }  // namespace
