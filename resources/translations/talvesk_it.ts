@@ -153,7 +153,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>This survey has no shots yet. Open shot files (Ctrl+O) or import travel times first, or add S-wave pairs on the page Shots.</source>
-        <translation>Questo rilievo non ha ancora scoppi. Apri prima i file degli scoppi (Ctrl+O) o importa i tempi di arrivo, oppure aggiungi coppie di onde S nella pagina Scoppi.</translation>
+        <translation>Questo rilievo non ha ancora tiri. Apri prima i file dei tiri (Ctrl+O) o importa i tempi di arrivo, oppure aggiungi coppie di onde S nella pagina Tiri.</translation>
     </message>
     <message>
         <source>Geophones</source>
@@ -213,7 +213,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>How many geophones the string gets, as a rule the channels of a shot</source>
-        <translation>Quanti geofoni riceve la stesa, di regola i canali di uno scoppio</translation>
+        <translation>Quanti geofoni riceve la stesa, di regola i canali di un tiro</translation>
     </message>
     <message>
         <source>A&amp;utofill</source>
@@ -257,7 +257,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Shots</source>
-        <translation>Scoppi</translation>
+        <translation>Tiri</translation>
     </message>
     <message>
         <source>Type, or paste from a spreadsheet. Enter goes down, Delete empties cells, Ctrl+D fills down.</source>
@@ -265,11 +265,11 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Shot in the table</source>
-        <translation>Scoppio nella tabella</translation>
+        <translation>Tiro nella tabella</translation>
     </message>
     <message>
         <source>Elevations of shots that were not typed are those of the line between the geophones</source>
-        <translation>Le quote degli scoppi non scritte sono quelle della linea tra i geofoni</translation>
+        <translation>Le quote dei tiri non scritte sono quelle della linea tra i geofoni</translation>
     </message>
     <message>
         <source>S-&amp;wave files ...</source>
@@ -277,7 +277,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Choose the DX and the SX file that the selected shot is made of</source>
-        <translation>Sceglie il file DX e il file SX di cui è fatto lo scoppio selezionato</translation>
+        <translation>Sceglie il file DX e il file SX di cui è fatto il tiro selezionato</translation>
     </message>
     <message>
         <source>Add S-wave &amp;pairs ...</source>
@@ -285,23 +285,23 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Choose DX files and as many SX files; each pair becomes a shot whose traces are DX minus SX</source>
-        <translation>Sceglie i file DX e altrettanti file SX; ogni coppia diventa uno scoppio le cui tracce sono DX meno SX</translation>
+        <translation>Sceglie i file DX e altrettanti file SX; ogni coppia diventa un tiro le cui tracce sono DX meno SX</translation>
     </message>
     <message>
         <source>&amp;Load Shots Geometry</source>
-        <translation>&amp;Carica geometria scoppi</translation>
+        <translation>&amp;Carica geometria tiri</translation>
     </message>
     <message>
         <source>Read x and elevation of all shots from a text file</source>
-        <translation>Legge x e quota di tutti gli scoppi da un file di testo</translation>
+        <translation>Legge x e quota di tutti i tiri da un file di testo</translation>
     </message>
     <message>
         <source>Sa&amp;ve Shots Geometry</source>
-        <translation>Sal&amp;va geometria scoppi</translation>
+        <translation>Sal&amp;va geometria tiri</translation>
     </message>
     <message>
         <source>Write x and elevation of all shots to a text file</source>
-        <translation>Scrive x e quota di tutti gli scoppi in un file di testo</translation>
+        <translation>Scrive x e quota di tutti i tiri in un file di testo</translation>
     </message>
     <message>
         <source>&amp;To be looked at:</source>
@@ -309,7 +309,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>A click shows the geophones or shots that are meant</source>
-        <translation>Un clic mostra i geofoni o gli scoppi interessati</translation>
+        <translation>Un clic mostra i geofoni o i tiri interessati</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -349,8 +349,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message numerus="yes">
         <source>String %1 is used by shot(s) %2. Remove it?</source>
         <translation>
-            <numerusform>La stesa %1 è usata dallo scoppio %2. Rimuoverla?</numerusform>
-            <numerusform>La stesa %1 è usata dagli scoppi %2. Rimuoverla?</numerusform>
+            <numerusform>La stesa %1 è usata dal tiro %2. Rimuoverla?</numerusform>
+            <numerusform>La stesa %1 è usata dai tiri %2. Rimuoverla?</numerusform>
         </translation>
     </message>
     <message>
@@ -383,8 +383,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message numerus="yes">
         <source>the picks of shot(s) %1</source>
         <translation>
-            <numerusform>i picking dello scoppio %1</numerusform>
-            <numerusform>i picking degli scoppi %1</numerusform>
+            <numerusform>i picking del tiro %1</numerusform>
+            <numerusform>i picking dei tiri %1</numerusform>
         </translation>
     </message>
     <message>
@@ -457,15 +457,15 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Invalid shot file. </source>
-        <translation>File degli scoppi non valido. </translation>
+        <translation>File dei tiri non valido. </translation>
     </message>
     <message>
         <source>Shots saved in %1</source>
-        <translation>Scoppi salvati in %1</translation>
+        <translation>Tiri salvati in %1</translation>
     </message>
     <message>
         <source>Shots loaded from %1</source>
-        <translation>Scoppi caricati da %1</translation>
+        <translation>Tiri caricati da %1</translation>
     </message>
     <message>
         <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)</source>
@@ -473,11 +473,11 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Open DX File of Shot %1</source>
-        <translation>Apri il file DX dello scoppio %1</translation>
+        <translation>Apri il file DX del tiro %1</translation>
     </message>
     <message>
         <source>Open SX File of Shot %1</source>
-        <translation>Apri il file SX dello scoppio %1</translation>
+        <translation>Apri il file SX del tiro %1</translation>
     </message>
     <message>
         <source>Error occured</source>
@@ -505,14 +505,18 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>No shot was added: the files are not taken as S-wave pairs.</source>
-        <translation>Nessuno scoppio aggiunto: i file non sono accettati come coppie di onde S.</translation>
+        <translation>Nessun tiro aggiunto: i file non sono accettati come coppie di onde S.</translation>
     </message>
     <message numerus="yes">
         <source>%n S-wave shot(s) added.</source>
         <translation>
-            <numerusform>%n scoppio di onde S aggiunto.</numerusform>
-            <numerusform>%n scoppi di onde S aggiunti.</numerusform>
+            <numerusform>%n tiro di onde S aggiunto.</numerusform>
+            <numerusform>%n tiri di onde S aggiunti.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Read with this separator the file has %1 lines of numbers; %2 are needed.</source>
+        <translation>Letto con questo separatore il file ha %1 righe di numeri; ne servono %2.</translation>
     </message>
 </context>
 <context>
@@ -842,43 +846,43 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message numerus="yes">
         <source>Shot(s) %1 without a position.</source>
         <translation>
-            <numerusform>Lo scoppio %1 non ha posizione.</numerusform>
-            <numerusform>Gli scoppi %1 non hanno posizione.</numerusform>
+            <numerusform>Il tiro %1 non ha posizione.</numerusform>
+            <numerusform>I tiri %1 non hanno posizione.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 without a geophone string.</source>
         <translation>
-            <numerusform>Lo scoppio %1 non ha una stesa di geofoni.</numerusform>
-            <numerusform>Gli scoppi %1 non hanno una stesa di geofoni.</numerusform>
+            <numerusform>Il tiro %1 non ha una stesa di geofoni.</numerusform>
+            <numerusform>I tiri %1 non hanno una stesa di geofoni.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 not an S-wave pair, as others are: a survey holds one kind of wave.</source>
         <translation>
-            <numerusform>Lo scoppio %1 non è una coppia di onde S come gli altri: un rilievo contiene un solo tipo di onda.</numerusform>
-            <numerusform>Gli scoppi %1 non sono coppie di onde S come gli altri: un rilievo contiene un solo tipo di onda.</numerusform>
+            <numerusform>Il tiro %1 non è una coppia di onde S come gli altri: un rilievo contiene un solo tipo di onda.</numerusform>
+            <numerusform>I tiri %1 non sono coppie di onde S come gli altri: un rilievo contiene un solo tipo di onda.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 farther off the line than the line is long.</source>
         <translation>
-            <numerusform>Lo scoppio %1 è lontano dalla linea più della sua lunghezza.</numerusform>
-            <numerusform>Gli scoppi %1 sono lontani dalla linea più della sua lunghezza.</numerusform>
+            <numerusform>Il tiro %1 è lontano dalla linea più della sua lunghezza.</numerusform>
+            <numerusform>I tiri %1 sono lontani dalla linea più della sua lunghezza.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 far above or below the line.</source>
         <translation>
-            <numerusform>Lo scoppio %1 è molto sopra o sotto la linea.</numerusform>
-            <numerusform>Gli scoppi %1 sono molto sopra o sotto la linea.</numerusform>
+            <numerusform>Il tiro %1 è molto sopra o sotto la linea.</numerusform>
+            <numerusform>I tiri %1 sono molto sopra o sotto la linea.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>String %1 has %2 geophones, shot(s) %3 %4 traces: the first %5 of both are used.</source>
         <translation>
-            <numerusform>La stesa %1 ha %2 geofoni, lo scoppio %3 ha %4 tracce: si usano i primi %5.</numerusform>
-            <numerusform>La stesa %1 ha %2 geofoni, gli scoppi %3 hanno %4 tracce: si usano i primi %5.</numerusform>
+            <numerusform>La stesa %1 ha %2 geofoni, il tiro %3 ha %4 tracce: si usano i primi %5.</numerusform>
+            <numerusform>La stesa %1 ha %2 geofoni, i tiri %3 hanno %4 tracce: si usano i primi %5.</numerusform>
         </translation>
     </message>
     <message>
@@ -887,11 +891,11 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>No shot uses string %1; its positions shape the surface all the same.</source>
-        <translation>Nessuno scoppio usa la stesa %1; le sue posizioni modellano comunque la superficie.</translation>
+        <translation>Nessun tiro usa la stesa %1; le sue posizioni modellano comunque la superficie.</translation>
     </message>
     <message>
         <source>Shot ID &lt;b&gt;</source>
-        <translation>ID scoppio &lt;b&gt;</translation>
+        <translation>ID tiro &lt;b&gt;</translation>
     </message>
     <message>
         <source>&lt;/b&gt;&lt;br&gt;Geophone geometry ID: &lt;b&gt;</source>
@@ -899,7 +903,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>&lt;/b&gt; Shot position: &lt;b&gt;</source>
-        <translation>&lt;/b&gt; Posizione dello scoppio: &lt;b&gt;</translation>
+        <translation>&lt;/b&gt; Posizione del tiro: &lt;b&gt;</translation>
     </message>
     <message>
         <source> m&lt;/b&gt;</source>
@@ -1127,7 +1131,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Shots</source>
-        <translation>Scoppi</translation>
+        <translation>Tiri</translation>
     </message>
     <message>
         <source>To be looked at</source>
@@ -1139,7 +1143,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Shot %1</source>
-        <translation>Scoppio %1</translation>
+        <translation>Tiro %1</translation>
     </message>
     <message>
         <source>String %1, geophone %2</source>
@@ -4670,7 +4674,7 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     </message>
     <message>
         <source>A deeper grid costs time and memory. Rays rarely reach deeper than a quarter to a third of the distance between the outermost shots.</source>
-        <translation>Una griglia più profonda costa tempo e memoria. I raggi raramente scendono oltre un quarto o un terzo della distanza fra gli scoppi più esterni.</translation>
+        <translation>Una griglia più profonda costa tempo e memoria. I raggi raramente scendono oltre un quarto o un terzo della distanza fra i tiri più esterni.</translation>
     </message>
     <message>
         <source>Cell size (m)</source>
@@ -4742,6 +4746,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>A large number of nodes may require a lot of memory</source>
         <translation>Un numero elevato di nodi può richiedere molta memoria</translation>
+    </message>
+    <message>
+        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
+        <translation>Celle così piccole rendono l&apos;inversione molto lenta, e si ferma solo tra un&apos;iterazione e l&apos;altra. Un quarto della distanza fra i geofoni è %1 m.</translation>
     </message>
 </context>
 <context>

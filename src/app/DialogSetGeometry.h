@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Point2D.h"
+#include "base/Status.h"
 #include "model/SurveyGeometry.h"
 
 #include <QDialog>
@@ -71,6 +72,9 @@ class DialogSetGeometry : public QDialog {
 
   // Files
   QString askForFile(bool save, const QString& filter);
+  static QString takePositions(std::size_t count, const Status& read,
+                               const std::vector<std::vector<double>>& records,
+                               std::vector<Point2D>& positions);
   void saveGeophones();
   void loadGeophones();
   void saveShots();

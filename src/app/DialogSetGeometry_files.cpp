@@ -31,13 +31,20 @@ class Waiting {
   Waiting& operator=(const Waiting&) = delete;
 };
 
-/// The positions of a file that has exactly one for each of `count` places.
-bool positionsFor(std::size_t count, const Status& status, const GeometryRecords& records,
-                  std::vector<Point2D>& positions) {
-  return status.ok() && records.size() == count && positionsOf(records, positions).ok();
-}
-
 }  // namespace
+
+/// The positions of a file that has exactly one for each of `count` places; else why it has not.
+QString DialogSetGeometry::takePositions(std::size_t count, const Status& read,
+                                         const GeometryRecords& records,
+                                         std::vector<Point2D>& positions) {
+  if (!read.ok()) return QString::fromStdString(read.message());
+  if (records.size() != count) {
+    return tr("Read with this separator the file has %1 lines of numbers; %2 are needed.")
+        .arg(records.size())
+        .arg(count);
+  }
+  return QString::fromStdString(positionsOf(records, positions).message());
+}
 
 QString DialogSetGeometry::askForFile(bool save, const QString& filter) {
   if (!save) {
@@ -78,10 +85,11 @@ void DialogSetGeometry::loadGeophones() {
   GeometryRecords records;
   std::vector<Point2D> positions;
   const Status status = readRecords(file.toStdString(), *separator, records);
-  if (!positionsFor(mSession->string().size(), status, records, positions)) {
+  const QString why = takePositions(mSession->string().size(), status, records, positions);
+  if (!why.isEmpty()) {
+    notice(why, true);
     showError(this, windowTitle(), tr("Error Message"),
               tr("Invalid geometry file. ") + QString::number(records.size()));
-    notice(QString::fromStdString(status.message()), true);
     return;
   }
   mSession->edit([&](SurveyGeometry& next) {
@@ -120,10 +128,11 @@ void DialogSetGeometry::loadShots() {
   GeometryRecords records;
   std::vector<Point2D> positions;
   const Status status = readLabelledRecords(file.toStdString(), *separator, records);
-  if (!positionsFor(geometry().shots.size(), status, records, positions)) {
+  const QString why = takePositions(geometry().shots.size(), status, records, positions);
+  if (!why.isEmpty()) {
+    notice(why, true);
     showError(this, windowTitle(), tr("Error Message"),
               tr("Invalid shot file. ") + QString::number(records.size()));
-    notice(QString::fromStdString(status.message()), true);
     return;
   }
   console::out() << "LOADED\nTo be updated: " << positions.size() << '\n';

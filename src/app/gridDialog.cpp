@@ -13,6 +13,7 @@ namespace talvesk {
 namespace {
 
 constexpr std::uint32_t kManyNodes = 15;
+constexpr double kFine = 0.5;     // of the size that suits the geophones: smaller is worth a word
 constexpr int kWarningLines = 4;  // that the place for warnings holds without moving the buttons
 
 /// A count that may be beyond all integers.
@@ -78,6 +79,10 @@ void gridDialog::showPreview() {
         tr("%n position(s) at the end of the line lie beyond the last column and take no "
            "part in an inversion. Another cell size may reach them.",
            nullptr, preview.outside);
+  } else if (settings().cellSize < kFine * mProfile.proposedCellSize) {
+    warning = tr("Such small cells make an inversion very slow, and it stops only between "
+                 "iterations. A quarter of the geophone spacing is %1 m.")
+                  .arg(locale.toString(mProfile.proposedCellSize, 'f', 2));
   }
   mUi->warningLabel->setText(warning);
 }

@@ -82,6 +82,14 @@ TEST(GridDialog, tellsOfPositionsThatTheLastColumnDoesNotReach) {
   EXPECT_THAT(text(dialog, "warningLabel"), ::testing::HasSubstr("no rows"));
 }
 
+TEST(GridDialog, tellsThatTheSmallestCellsAreSlow) {
+  const gridDialog dialog(profile(), {25.0, 0.0, 6}, 2);  // as before the first grid of a run
+  EXPECT_THAT(text(dialog, "warningLabel"),
+              ::testing::HasSubstr("is " + QLocale().toString(0.5, 'f', 2).toStdString() + " m."));
+  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(0.25);
+  EXPECT_EQ(text(dialog, "warningLabel"), "");
+}
+
 TEST(GridDialog, warnsAndClosesAllTheSame) {
   ModalScript dialogs;
   gridDialog dialog(profile(), {25.0, 1.0, 15}, 2);
