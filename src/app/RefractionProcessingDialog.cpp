@@ -13,6 +13,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QUndoCommand>
 #include <QUndoStack>
 #include <algorithm>
@@ -24,6 +25,8 @@ namespace {
 
 using refractionDataStructure::Interpretation;
 using refractionDataStructure::kLastLayer;
+
+constexpr double kMostOfScreen = 0.92;
 
 class MarksCommand : public QUndoCommand {
  public:
@@ -63,6 +66,7 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
       mUndo(new QUndoStack(this)) {
   fitToSurvey(document, mWork);
   mUi->setupUi(this);
+  resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   mUi->phantomSplitter->setSizes({620, 440});
   mUi->shiftTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);

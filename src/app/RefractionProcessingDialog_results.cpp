@@ -23,6 +23,17 @@ using namespace refractionDataStructure;
 
 constexpr double kMs = 1e3;
 
+/// The colour of a layer on the paper of the plots.
+QColor shown(std::uint32_t layer) {
+  return layerColor(layer, QGuiApplication::palette().color(QPalette::Base));
+}
+
+/// Tells the reverse curve from the forward one.
+QColor strongerOf(const QColor& color) {
+  const bool dark = QGuiApplication::palette().color(QPalette::Base).lightness() < 128;
+  return dark ? color.lighter(140) : color.darker(150);
+}
+
 QColor faint(QColor color, double alpha) {
   color.setAlphaF(alpha);
   return color;
@@ -42,7 +53,7 @@ PlotSeries seriesOf(const QString& name, const std::vector<double>& x,
 PlotSeries arrivalsOf(const std::vector<ShotArrivals>& shots, const std::vector<layerStruct>& marks,
                       std::uint32_t layer) {
   PlotSeries series;
-  series.color = faint(layerColor(layer), 0.35);
+  series.color = faint(shown(layer), 0.35);
   series.width = 0.0;
   series.symbols = true;
   for (std::size_t shot = 0; shot < std::min(shots.size(), marks.size()); ++shot) {
@@ -60,8 +71,8 @@ PlotSeries arrivalsOf(const std::vector<ShotArrivals>& shots, const std::vector<
 PlotSeries curveOf(const phantom& curve, const QString& name, bool forward) {
   PlotSeries series;
   series.name = name;
-  const QColor color = layerColor(static_cast<std::uint32_t>(curve.layer));
-  series.color = forward ? color : color.darker(150);
+  const QColor color = shown(static_cast<std::uint32_t>(curve.layer));
+  series.color = forward ? color : strongerOf(color);
   series.symbols = true;
   for (std::size_t i = 0; i < std::min(curve.points.size(), curve.times.size()); ++i) {
     series.points.push_back({curve.points[i].x, kMs * curve.times[i]});
@@ -71,7 +82,7 @@ PlotSeries curveOf(const phantom& curve, const QString& name, bool forward) {
 
 PlotSeries lineOf(const phantom& curve, double end) {
   PlotSeries series;
-  series.color = faint(layerColor(static_cast<std::uint32_t>(curve.layer)), 0.7);
+  series.color = faint(shown(static_cast<std::uint32_t>(curve.layer)), 0.7);
   series.width = 1.0;
   series.dashed = true;
   if (curve.points.empty()) return series;
@@ -226,14 +237,14 @@ void RefractionProcessingDialog::showFunctions() {
     const computedData& found = mWork.refractData.cData[static_cast<std::size_t>(refractor)];
     const std::size_t chosen = indexOfXY(found.chosenXY);
     mUi->xyCombo->setCurrentIndex(static_cast<int>(chosen));
-    const QColor strong = layerColor(static_cast<std::uint32_t>(refractor) + 2);
+    const QColor strong = shown(static_cast<std::uint32_t>(refractor) + 2);
     const auto addFamily = [&](const std::vector<double>& family, std::vector<PlotSeries>& plot) {
       for (std::size_t i = 0; i < kXYFamily.size(); ++i) {
         if (i == chosen) continue;
         // One name stands for all of them in the legend.
         const QString name = plot.empty() ? tr("other XY") : QString();
         plot.push_back(seriesOf(name, found.x, memberOf(family, i), kMs));
-        plot.back().color = faint(layerColor(kNoLayer), 0.6);
+        plot.back().color = faint(shown(kNoLayer), 0.6);
         plot.back().width = 1.0;
       }
       plot.push_back(
@@ -267,7 +278,7 @@ void RefractionProcessingDialog::on_xyCombo_activated(int index) {
 void RefractionProcessingDialog::showProfile() {
   const processingData& results = mWork.refractData;
   std::vector<PlotSeries> velocities;
-  const QColor first = layerColor(1);
+  const QColor first = shown(1);
   const std::vector<Point2D> surface = profileSurface(results);
   if (!surface.empty() && std::isfinite(results.v1) && results.v1 > 0.0) {
     PlotSeries series;
@@ -280,7 +291,7 @@ void RefractionProcessingDialog::showProfile() {
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
     velocities.push_back(
         seriesOf(tr("Layer %1").arg(i + 2), results.cData[i].x, results.cData[i].velocity, 1.0));
-    velocities.back().color = layerColor(static_cast<std::uint32_t>(i) + 2);
+    velocities.back().color = shown(static_cast<std::uint32_t>(i) + 2);
     velocities.back().symbols = true;
   }
   RefractionScene scene = refractionScene(mDocument, results);

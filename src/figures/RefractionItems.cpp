@@ -142,6 +142,11 @@ QColor layerColor(std::uint32_t layer) {
   }
 }
 
+QColor layerColor(std::uint32_t layer, const QColor& paper) {
+  const QColor color = layerColor(layer);
+  return paper.lightness() < 128 ? color.lighter(150) : color;
+}
+
 namespace refraction_items {
 
 QwtPlotItem* layer(const RefractionScene& scene, std::uint32_t layer, const QString& name) {
@@ -169,12 +174,12 @@ QwtPlotItem* layer(const RefractionScene& scene, std::uint32_t layer, const QStr
   return figureItem(name, section_items::kCellsLayer + layer, paint, icon);
 }
 
-QwtPlotItem* surface(const RefractionScene& scene) {
-  const auto paint = [&scene](QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
-                              const QRectF&) {
+QwtPlotItem* surface(const RefractionScene& scene, const QColor& color) {
+  const auto paint = [&scene, color](QPainter& painter, const QwtScaleMap& xMap,
+                                     const QwtScaleMap& yMap, const QRectF&) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Qt::black, 1.2));
+    painter.setPen(QPen(color, 1.2));
     painter.drawPolyline(section_items::thinned(scene.geophones, xMap, yMap));
   };
   return figureItem({}, section_items::kContoursLayer, paint);

@@ -36,6 +36,8 @@ RefractionScene refractionScene(const TomoDocument& document,
 /// The colour that stands for a layer (1 to 3) everywhere; grey for none. Told apart by those, too,
 /// who see red and green alike.
 QColor layerColor(std::uint32_t layer);
+/// The same for lines and points on any paper: brighter where that is dark.
+QColor layerColor(std::uint32_t layer, const QColor& paper);
 
 /// The layers of a section on a plot with distance below and elevation at the left. The scene must
 /// outlive the plot; changes show when the plot is painted next.
@@ -43,7 +45,7 @@ namespace refraction_items {
 
 /// The ground from the surface, or the top of a refractor, down. \param name in the legend
 QwtPlotItem* layer(const RefractionScene& scene, std::uint32_t layer, const QString& name);
-QwtPlotItem* surface(const RefractionScene& scene);
+QwtPlotItem* surface(const RefractionScene& scene, const QColor& color = Qt::black);
 
 }  // namespace refraction_items
 }  // namespace talvesk

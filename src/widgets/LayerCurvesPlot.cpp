@@ -138,10 +138,14 @@ void LayerCurvesPlot::read(const std::vector<TraceRef>& picks) {
   emit branchRead(reading ? &*reading : nullptr);
 }
 
+QColor LayerCurvesPlot::shown(std::uint32_t layer) const {
+  return layerColor(layer, palette().color(QPalette::Base));
+}
+
 QColor LayerCurvesPlot::colorOf(std::uint32_t shot, std::uint32_t trace, bool strong) const {
   const std::uint32_t layer = shot < mMarks.size() ? layerOf(mMarks[shot], trace) : 0;
   const bool grey = mShownLayer != kAllLayers && static_cast<int>(layer) != mShownLayer;
-  QColor color = layerColor(grey ? refractionDataStructure::kNoLayer : layer);
+  QColor color = shown(grey ? refractionDataStructure::kNoLayer : layer);
   const bool enabled = shot >= mMarks.size() || mMarks[shot].enabled;
   color.setAlphaF(!strong ? 0.3 : grey || !enabled ? 0.4 : 1.0);
   return color;
@@ -165,7 +169,7 @@ void LayerCurvesPlot::paintShot(QPainter& painter, std::uint32_t shot, bool stro
   for (const std::uint32_t i : mOrder[shot]) {
     line.append(toCanvas({arrivals.receivers[i].x, 1e3 * arrivals.times[i]}));
   }
-  QColor grey = layerColor(refractionDataStructure::kNoLayer);
+  QColor grey = shown(refractionDataStructure::kNoLayer);
   grey.setAlphaF(strong ? 0.8 : 0.25);
   painter.setPen(QPen(grey, 1.0));
   painter.setBrush(Qt::NoBrush);
@@ -193,7 +197,7 @@ void LayerCurvesPlot::paintBranches(QPainter& painter, std::uint32_t shot) const
       const LinearFit fit = leastSquares(branch.x, branch.times);
       if (!std::isfinite(fit.slope)) continue;
       const auto ends = std::minmax_element(branch.x.begin(), branch.x.end());
-      painter.setPen(QPen(layerColor(layer), 1.6, Qt::DashLine));
+      painter.setPen(QPen(shown(layer), 1.6, Qt::DashLine));
       painter.drawLine(toCanvas({*ends.first, 1e3 * fit.at(*ends.first)}),
                        toCanvas({*ends.second, 1e3 * fit.at(*ends.second)}));
     }
@@ -207,11 +211,11 @@ void LayerCurvesPlot::paintOverlay(QPainter& painter) {
     if (const auto point = pointOf(pick)) painter.drawEllipse(*point, kRing, kRing);
   }
   if (mHovered && mEditable && !mDragging) {
-    painter.setPen(QPen(layerColor(mLayer), 1.6));
+    painter.setPen(QPen(shown(mLayer), 1.6));
     if (const auto point = pointOf(*mHovered)) painter.drawEllipse(*point, kRing, kRing);
   }
   if (!mDragging || !mPressed) return;
-  QColor veil = layerColor(mLayer);
+  QColor veil = shown(mLayer);
   painter.setPen(QPen(veil, 1.0));
   veil.setAlphaF(0.15);
   painter.setBrush(veil);

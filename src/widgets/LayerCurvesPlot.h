@@ -69,6 +69,7 @@ class LayerCurvesPlot : public PlotPage {
   void paintCurves(QPainter& painter) const;
   void paintShot(QPainter& painter, std::uint32_t shot, bool strong) const;
   void paintBranches(QPainter& painter, std::uint32_t shot) const;
+  QColor shown(std::uint32_t layer) const;  ///< the colour of a layer on this paper
   QColor colorOf(std::uint32_t shot, std::uint32_t trace, bool strong) const;
   void select(std::vector<TraceRef> picks);
   void mark(std::vector<TraceRef> picks);

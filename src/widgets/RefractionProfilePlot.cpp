@@ -44,7 +44,7 @@ void RefractionProfilePlot::setScene(RefractionScene scene) {
       add(refraction_items::layer(mScene, layer,
                                   name(static_cast<int>(layer), mScene.velocities[layer - 2])));
     }
-    add(refraction_items::surface(mScene));
+    add(refraction_items::surface(mScene, palette().color(QPalette::Text)));
     using namespace section_items;
     add(markers(mScene.geophones, tr("Geophones"), Marker::kGeophone));
     add(markers(mScene.shots, tr("Shots"), Marker::kShot));
