@@ -2,67 +2,46 @@
 // scripts/guide-pictures.
 #include "app/Talvesk_MainWindows.h"
 #include "app/doFilteringDialog.h"
+#include "app/progressTomographyDialog.h"
+#include "app/setVelocityWidget.h"
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
+#include "gui/GuideCamera.h"
 #include "widgets/SectionSurface.h"
 #include "widgets/editTravelTimesWidget.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QDialog>
 #include <QDir>
 #include <QDoubleSpinBox>
-#include <QMessageBox>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
+#include <QSurfaceFormat>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <QTextCodec>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <exception>
-#include <map>
+#include <iterator>
 #include <stdexcept>
 #include <utility>
-#include <vector>
 
 namespace {
 
 using namespace talvesk;
+using namespace talvesk::testing;
 
 constexpr int kShot = 4;  ///< on the line, left of the valley
-
-/// The colours that a picture is mostly made of.
-QVector<QRgb> paletteOf(const QImage& image) {
-  std::map<QRgb, int> counts;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y) | 0xff000000U];
-  }
-  std::vector<std::pair<int, QRgb>> order;
-  for (const auto& [colour, count] : counts) order.emplace_back(count, colour);
-  std::sort(order.rbegin(), order.rend());
-  QVector<QRgb> palette;
-  for (std::size_t i = 0; i < std::min<std::size_t>(order.size(), 256); ++i) {
-    palette << order[i].second;
-  }
-  return palette;
-}
-
-/// 256 colours are enough for a window, and make a file a third as large.
-void store(QWidget& widget, const QString& file) {
-  QApplication::processEvents();
-  const QImage window = widget.grab().toImage();
-  const QImage image = window.convertToFormat(QImage::Format_Indexed8, paletteOf(window),
-                                              Qt::AvoidDither | Qt::ThresholdDither);
-  if (!image.save(file)) throw std::runtime_error("cannot write " + file.toStdString());
-}
-
-template <typename Widget>
-Widget& child(const QObject& parent, const char* name) {
-  auto* found = parent.findChild<Widget*>(QLatin1String(name));
-  if (found == nullptr) throw std::runtime_error(std::string("no widget ") + name);
-  return *found;
-}
 
 void storeFilterDialog(Talvesk_MainWindows& window, const QString& file) {
   doFilteringDialog dialog(window.document(), kShot, {}, &window);
@@ -76,6 +55,144 @@ void storeFilterDialog(Talvesk_MainWindows& window, const QString& file) {
   store(dialog, file);
 }
 
+void loadDemo(Talvesk_MainWindows& window, const QString& demo) {
+  QStringList files;
+  for (const QString& name : QDir(demo).entryList({QStringLiteral("shot*.sg2")}, QDir::Files)) {
+    files << QDir(demo).filePath(name);
+  }
+  // The records of the demo line start before their shots, and the window asks about that.
+  window.openFiles(files << QDir(demo).filePath(QStringLiteral("demo.otte")));
+  if (window.document().ttArray.size() <= static_cast<std::size_t>(kShot)) {
+    throw std::runtime_error("the demo line was not loaded");
+  }
+}
+
+void storeTraces(Talvesk_MainWindows& window, const QString& folder) {
+  window.showFile(kShot);
+  child<editTravelTimesWidget>(window, "showTracesWidget").setCurrentTrace(30);
+  store(window, folder + QStringLiteral("/traces.png"));
+  storeFilterDialog(window, folder + QStringLiteral("/filter.png"));
+  child<QTabWidget>(window, "tabWidget").setCurrentIndex(1);
+  window.resize(1000, 600);
+  store(window, folder + QStringLiteral("/curves.png"));
+}
+
+/// A geophone whose position lacks a digit, as the dialog sees it.
+void storeGeometry(Talvesk_MainWindows& window, const QString& folder) {
+  withDialog(child<QAction>(window, "actionGeometry"), [&](QWidget& dialog) {
+    dialog.resize(980, 560);
+    auto& table = child<QTableView>(dialog, "geophonesTable");
+    const QModelIndex place = table.model()->index(12, 0);
+    table.model()->setData(place, QStringLiteral("2"));
+    table.setCurrentIndex(place);
+    store(dialog, folder + QStringLiteral("/geometry.png"));
+  });
+}
+
+void storeModel(Talvesk_MainWindows& window, const QString& folder) {
+  withDialog(child<QAction>(window, "actionGrid"), [&](QWidget& dialog) {
+    child<QDoubleSpinBox>(dialog, "maxDepthEdit").setValue(35.0);
+    store(dialog, folder + QStringLiteral("/grid.png"));
+    static_cast<QDialog&>(dialog).accept();
+  });
+  withDialog(child<QAction>(window, "actionDefine_model_velocity"), [&](QWidget& dialog) {
+    child<QPushButton>(dialog, "addButton").click();
+    child<QPushButton>(dialog, "addButton").click();
+    const VelocityLayer layers[] = {
+        {0.0, 400.0, 3.0, 900.0}, {3.0, 900.0, 12.0, 2000.0}, {12.0, 2000.0, 35.0, 3000.0}};
+    const auto rows = dialog.findChildren<setVelocityWidget*>();
+    for (int i = 0; i < std::min<int>(rows.size(), std::size(layers)); ++i) {
+      rows[i]->setLayer(layers[i]);
+    }
+    store(dialog, folder + QStringLiteral("/model.png"));
+    static_cast<QDialog&>(dialog).accept();
+  });
+}
+
+void storeInversion(Talvesk_MainWindows& window, const QString& folder) {
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    auto* progress = window.findChild<progressTomographyDialog*>();
+    if (progress == nullptr || child<QProgressBar>(*progress, "progressBar").value() < 60) return;
+    look.stop();
+    store(*progress, folder + QStringLiteral("/progress.png"));
+  });
+  look.start(20);
+  withDialog(child<QAction>(window, "actionRun_tomography_inversion"), [&](QWidget& dialog) {
+    store(dialog, folder + QStringLiteral("/run.png"));
+    static_cast<QDialog&>(dialog).accept();
+  });
+  if (look.isActive()) throw std::runtime_error("the inversion was not seen at work");
+}
+
+void storeSection(Talvesk_MainWindows& window, const QString& folder) {
+  window.resize(1120, 700);
+  withDialog(child<QAction>(window, "actionPalette"), [&](QWidget& dialog) {
+    child<QSpinBox>(dialog, "minimum").setValue(500);
+    child<QSpinBox>(dialog, "maximum").setValue(3500);
+    store(dialog, folder + QStringLiteral("/palette.png"));
+    static_cast<QDialog&>(dialog).accept();
+  });
+  child<QAction>(window, "actionShow_rays").trigger();
+  store(window, folder + QStringLiteral("/rays.png"));
+  child<QAction>(window, "actionShow_rays").trigger();
+  child<QAction>(window, "actionShow_Information_Density_Layer").trigger();
+  store(window, folder + QStringLiteral("/density.png"));
+  child<QAction>(window, "actionShow_Information_Density_Layer").trigger();
+  withDialog(child<QAction>(window, "actionShow_Contour_Lines"), [&](QWidget& dialog) {
+    child<QSpinBox>(dialog, "spinBox").setValue(5);
+    child<QCheckBox>(dialog, "profileContours").setChecked(true);
+    store(dialog, folder + QStringLiteral("/contours.png"));
+    static_cast<QDialog&>(dialog).accept();
+  });
+  child<QAction>(window, "actionSmooth_view").trigger();
+  store(window, folder + QStringLiteral("/section.png"));
+}
+
+void storeRefraction(Talvesk_MainWindows& window, const QString& folder) {
+  withDialog(child<QAction>(window, "actionRefraction"), [&](QWidget& dialog) {
+    dialog.resize(980, 640);
+    child<QPushButton>(dialog, "proposeButton").click();
+    store(dialog, folder + QStringLiteral("/layers.png"));
+    child<QPushButton>(dialog, "buildButton").click();
+    store(dialog, folder + QStringLiteral("/profile.png"));
+    static_cast<QDialog&>(dialog).accept();
+  });
+}
+
+void storeCoordinates(Talvesk_MainWindows& window, const QString& folder) {
+  withDialog(child<QAction>(window, "actionSet_geography_coordinates"), [&](QWidget& dialog) {
+    const std::pair<const char*, const char*> fields[] = {{"estFstGeoph", "687400"},
+                                                          {"northFstGeoph", "4928210"},
+                                                          {"estLstGeoph", "687481.4"},
+                                                          {"northLstGeoph", "4928257"},
+                                                          {"epsgEdit", "32632"}};
+    for (const auto& [name, text] : fields) {
+      child<QLineEdit>(dialog, name).setText(QLatin1String(text));
+    }
+    store(dialog, folder + QStringLiteral("/coordinates.png"));
+  });
+}
+
+void storeImagesAndReport(Talvesk_MainWindows& window, const QString& line, const QString& folder) {
+  withDialog(child<QAction>(window, "actionImages"), [&](QWidget& dialog) {
+    for (const char* box : {"travelTimesBox", "velocityBox", "densityBox", "refractionBox"}) {
+      child<QCheckBox>(dialog, box).setChecked(true);
+    }
+    child<QLineEdit>(dialog, "folderEdit").setText(line);
+    store(dialog, folder + QStringLiteral("/images.png"));
+  });
+  withDialog(child<QAction>(window, "actionPDF"), [&](QWidget& dialog) {
+    dialog.resize(1000, 700);
+    child<QLineEdit>(dialog, "dateEdit").setText(QStringLiteral("2024-05-12"));
+    child<QPushButton>(dialog, "previewButton").click();
+    QApplication::processEvents();
+    QScrollBar& pages = *child<QScrollArea>(dialog, "previewArea").verticalScrollBar();
+    pages.setValue(pages.maximum() / 2);
+    store(dialog, folder + QStringLiteral("/report.png"));
+  });
+}
+
 void storePictures(const QString& demo, const QString& language, const QString& folder) {
   const WorkingFolder working = WorkingFolder::ofUser();
   working.create();
@@ -87,30 +204,19 @@ void storePictures(const QString& demo, const QString& language, const QString& 
   window.resize(1120, 700);
   window.show();
   if (!QTest::qWaitForWindowExposed(&window)) throw std::runtime_error("no window");
-  // The records of the demo line start before their shots, and the window asks about that.
-  QTimer yes;
-  QObject::connect(&yes, &QTimer::timeout, [] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box != nullptr && box->button(QMessageBox::Yes)) box->button(QMessageBox::Yes)->click();
-  });
-  yes.start(50);
-  QStringList files;
-  for (const QString& name : QDir(demo).entryList({QStringLiteral("shot*.sg2")}, QDir::Files)) {
-    files << QDir(demo).filePath(name);
-  }
-  window.openFiles(files << QDir(demo).filePath(QStringLiteral("demo.otte")));
-  yes.stop();
-  if (window.document().ttArray.size() <= static_cast<std::size_t>(kShot)) {
-    throw std::runtime_error("the demo line was not loaded");
-  }
-  window.showFile(kShot);
-  auto& traces = child<editTravelTimesWidget>(window, "showTracesWidget");
-  traces.setCurrentTrace(30);
-  store(window, folder + QStringLiteral("/traces.png"));
-  child<QTabWidget>(window, "tabWidget").setCurrentIndex(1);
-  window.resize(1000, 600);
-  store(window, folder + QStringLiteral("/curves.png"));
-  storeFilterDialog(window, folder + QStringLiteral("/filter.png"));
+  const BoxAnswers boxes;
+  window.document().title = language == QLatin1String("it") ? "Linea 1" : "Line 1";
+  loadDemo(window, demo);
+  storeTraces(window, folder);
+  storeGeometry(window, folder);
+  storeModel(window, folder);
+  storeInversion(window, folder);
+  storeSection(window, folder);
+  storeRefraction(window, folder);
+  storeCoordinates(window, folder);
+  // Pictures tell of no folder of whoever takes them.
+  QDir::setCurrent(QFileInfo(demo).absolutePath());
+  storeImagesAndReport(window, QFileInfo(demo).fileName(), folder);
   window.document().modified = false;
 }
 
@@ -130,7 +236,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    storePictures(arguments[1], arguments[2], arguments[3]);
+    storePictures(arguments[1], arguments[2], QDir(arguments[3]).absolutePath());
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "guide_pictures: %s\n", failure.what());
     return 1;
