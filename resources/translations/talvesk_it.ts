@@ -4118,6 +4118,10 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>The file has not been saved.</source>
         <translation>Il file non è stato salvato.</translation>
     </message>
+    <message>
+        <source>The survey is recovered; it is not saved yet.</source>
+        <translation>Il rilievo è recuperato; non è ancora salvato.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>

@@ -75,6 +75,8 @@ void Talvesk_MainWindows::offerRecovery() {
   takeProject(std::move(project), copy->project);
   mRecovery.adopt(*copy);
   documentModified();
+  // It may have no file yet that could be named as loaded.
+  statusBar()->showMessage(tr("The survey is recovered; it is not saved yet."), 10000);
 }
 
 }  // namespace talvesk

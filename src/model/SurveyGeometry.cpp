@@ -189,7 +189,10 @@ bool applyGeometry(const SurveyGeometry& geometry, TomoDocument& document) {
     document.filenames_SX.swap(next.filenames_SX);
     document.waveType = WaveType::S;
   }
+  // The first cell size that was proposed for a survey stays its proposal.
+  std::vector<double> proposed = std::move(document.proposedCellSizes);
   document.clearModelAndResults();
+  document.proposedCellSizes = std::move(proposed);
   document.modified = true;
   return true;
 }

@@ -68,9 +68,11 @@ TEST(SurveyGeometry, appliedForgetsResultsAndKeepsPicks) {
   for (const auto& [name, edit] : kEdits) {
     SCOPED_TRACE(name);
     TomoDocument document = survey();
+    document.proposedCellSizes = {0.5};
     SurveyGeometry geometry = geometryOf(document);
     edit(geometry);
     EXPECT_TRUE(applyGeometry(geometry, document));
+    EXPECT_THAT(document.proposedCellSizes, ElementsAre(0.5)) << "the first proposal stays";
     EXPECT_FALSE(geometryDiffers(geometry, document));
     EXPECT_FALSE(document.hasTomographicInfo);
     EXPECT_TRUE(document.modified);
