@@ -2,8 +2,8 @@
 """Fails on a user guide that leads nowhere or calls things by names that the program does not use.
 
 Every language has the same pages and pictures; every link, anchor, style sheet and picture is there;
-every page is reached from the first one; and what stands in bold is a text of the program in the
-language of the page.
+every page is reached from the first one; what stands in bold is a text of the program in the
+language of the page; and every command of the window stands in bold on some page.
 """
 import html.parser
 import pathlib
@@ -59,6 +59,21 @@ def texts_of_program(root, language):
     return names
 
 
+def commands_of_window(root, language):
+    """The menus' and tool bars' commands, without keys, in a language."""
+    form = root / "src" / "app" / "forms" / "Talvesk_MainWindows.ui"
+    commands = {action.findtext("property[@name='text']/string")
+                for action in ElementTree.parse(form).getroot().iter("action")}
+    translated = {}
+    if language != "en":
+        texts = root / "resources" / "translations" / f"talvesk_{language}.ts"
+        for context in ElementTree.parse(texts).getroot().iter("context"):
+            if context.findtext("name") == "talvesk::Talvesk_MainWindows":
+                translated = {message.findtext("source"): message.findtext("translation")
+                              for message in context.iter("message")}
+    return {" ".join(translated.get(text, text).replace("&", "").split()) for text in commands}
+
+
 def faults_of_links(page, pages, root):
     for link in page.links:
         parts = urllib.parse.urlsplit(link)
@@ -102,6 +117,10 @@ def faults_of_guide(repository):
             for text in (" ".join(text.split()) for text in page.bold):
                 if text not in names:
                     yield f"{path}: the program says nowhere '{text}'"
+        told = {" ".join(text.split()) for path, page in pages.items() if path.parent == folder
+                for text in page.bold}
+        for command in sorted(commands_of_window(repository, folder.name) - told):
+            yield f"{folder}: no page tells of '{command}'"
         reached = reached_from(folder / "index.html", pages)
         for path in pages:
             if path.parent == folder and path not in reached:
