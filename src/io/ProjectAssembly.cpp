@@ -29,6 +29,17 @@ bool fits(const VelocityLayer& layer) {
          positive(layer.initialVelocity) && positive(layer.finalVelocity);
 }
 
+bool canHaveBeen(const InversionRecord& run) {
+  const auto known = [](const Misfit& m) {
+    return m.count >= 0 && finite({m.rmse, m.relativeRms, m.maxError, m.maxRelativeError});
+  };
+  return run.externalIterations > 0 && run.solverIterations > 0 && run.smoothing > 0 &&
+         run.smoothingType >= 0 && positive(run.minVelocity) && positive(run.maxVelocity) &&
+         finite({run.elapsedSeconds}) &&
+         run.history.size() <= static_cast<std::size_t>(run.externalIterations) &&
+         std::all_of(run.history.begin(), run.history.end(), known);
+}
+
 void repairRun(TomoDocument& document) {
   const TomoDocument fresh;
   if (!positive(document.minVelocity)) document.minVelocity = fresh.minVelocity;
@@ -198,6 +209,10 @@ Status installGrid(const GridMember& grid, SurveyMember& survey) {
     if (!status.ok()) return status;
     restoreDensity(survey);
     restoreCoverage(survey);
+    const std::vector<InversionRecord>& runs = survey.runs;
+    if (document.hasTomographicInfo && runs.size() == 1 && canHaveBeen(runs.front())) {
+      document.lastInversion = runs.front();
+    }
     return status;
   } catch (const std::exception& error) {
     return Status::failure(std::string("the grid cannot be built: ") + error.what());

@@ -26,6 +26,7 @@ inline constexpr const char* kRefractionMember = "refraction.xml";
 struct SurveyMember {
   TomoDocument document;
   SectionViewSettings section;
+  std::vector<InversionRecord> runs;  ///< how the results were made: one, or none when unknown
   bool hasInformationDensity = true;  ///< older files have none
   bool hasCoverageLimit = true;
 };

@@ -69,11 +69,12 @@ bool contains(const std::vector<std::string>& names, const char* name) {
 struct SurveyRecord {
   TomoDocument& document;
   SectionViewSettings& section;
+  std::vector<InversionRecord>& runs;
 };
 
 template <class V>
 void describe(V& fields, SurveyRecord& record) {
-  describeSurvey(fields, record.document, record.section);
+  describeSurvey(fields, record.document, record.section, record.runs);
 }
 
 }  // namespace
@@ -81,7 +82,7 @@ void describe(V& fields, SurveyRecord& record) {
 int readSurvey(const std::string& path, SurveyMember& member, std::string& why) {
   return readMember(path, "TomoDocument", kLargestMember, why, [&](XmlReader& reader) {
     SurveyMember read;
-    SurveyRecord record{read.document, read.section};
+    SurveyRecord record{read.document, read.section, read.runs};
     const std::vector<std::string> missing = xml::readRecord(reader, record);
     tellMissing(missing);
     if (contains(missing, "geoCoord")) read.document.geoCoordIsSet = false;

@@ -86,7 +86,9 @@ int writeSurvey(const std::string& path, const TomoDocument& document,
   return writeMember(path, "TomoDocument", [&](XmlWriter& writer) {
     xml::Output output(writer);
     SectionViewSettings view = section;
-    describeSurvey(output, const_cast<TomoDocument&>(document), view);
+    std::vector<InversionRecord> runs;
+    if (document.lastInversion) runs.push_back(*document.lastInversion);
+    describeSurvey(output, const_cast<TomoDocument&>(document), view, runs);
   });
 }
 

@@ -94,9 +94,34 @@ void describe(V& fields, GridMember& grid) {
   fields("to_be_draw", grid.toBeDraw);
 }
 
-/// The elements of a survey, at the top of its member.
 template <class V>
-void describeSurvey(V& fields, TomoDocument& document, SectionViewSettings& section) {
+void describe(V& fields, Misfit& misfit) {
+  fields("count", misfit.count);
+  fields("rmse", misfit.rmse);
+  fields("relativeRms", misfit.relativeRms);
+  fields("maxError", misfit.maxError);
+  fields("maxRelativeError", misfit.maxRelativeError);
+}
+
+template <class V>
+void describe(V& fields, InversionRecord& run) {
+  fields("externalIterations", run.externalIterations);
+  fields("solverIterations", run.solverIterations);
+  fields("smoothing", run.smoothing);
+  fields("smoothingType", run.smoothingType);
+  fields("symmetric", run.symmetric);
+  fields("minVelocity", run.minVelocity);
+  fields("maxVelocity", run.maxVelocity);
+  fields("elapsedSeconds", run.elapsedSeconds);
+  fields("stopped", run.stopped);
+  fields("history", run.history);
+}
+
+/// The elements of a survey, at the top of its member.
+/// \param runs one, or none when nothing is known of the last inversion
+template <class V>
+void describeSurvey(V& fields, TomoDocument& document, SectionViewSettings& section,
+                    std::vector<InversionRecord>& runs) {
   fields("goephonesStringSet", document.goephonesStringSet);
   fields("ttArray", document.ttArray);
   fields.optional("has_tomographic_info", document.hasTomographicInfo);
@@ -111,6 +136,7 @@ void describeSurvey(V& fields, TomoDocument& document, SectionViewSettings& sect
   fields.optional("proposed_cell_sizes", document.proposedCellSizes);
   fields.optional("coverage_limit", document.coverageLimit);
   fields.optional("section_view", section);
+  fields.optional("last_inversion", runs);
 }
 
 template <class V>

@@ -21,6 +21,7 @@ TomoDocument copyOf(const TomoDocument& document) {
   copy.surface = document.surface;
   copy.proposedCellSizes = document.proposedCellSizes;
   copy.layers = document.layers;
+  copy.lastInversion = document.lastInversion;
   copy.minVelocity = document.minVelocity;
   copy.maxVelocity = document.maxVelocity;
   copy.hasTomographicInfo = document.hasTomographicInfo;

@@ -3,6 +3,8 @@
 #include "tomo/RayRecomputation.h"
 #include "tomo/TomographyRun.h"
 
+#include <cmath>
+
 #include <gmock/gmock.h>
 
 namespace talvesk {
@@ -93,6 +95,10 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
   EXPECT_EQ(back.document.coverageLimit.size(), document.coverageLimit.size());
   EXPECT_EQ(back.document.coverageSpline.has_value(), document.coverageSpline.has_value());
   EXPECT_TRUE(back.document.hasTomographicInfo);
+  ASSERT_TRUE(back.document.lastInversion);
+  EXPECT_EQ(back.document.lastInversion->externalIterations, 2);
+  ASSERT_THAT(back.document.lastInversion->history, SizeIs(2));
+  EXPECT_EQ(back.document.lastInversion->history[1].rmse, document.lastInversion->history[1].rmse);
   EXPECT_EQ(back.interpretation.ttLayer[1].layer, project.interpretation.ttLayer[1].layer);
   EXPECT_FALSE(back.interpretation.ttLayer[1].enabled);
   EXPECT_EQ(back.interpretation.refractData.cData[0].chosenXY, 2.0);
@@ -312,7 +318,7 @@ TEST_F(ProjectTest, ofAnEarlierVersionHasNeitherNewElementsNorRefraction) {
   ASSERT_EQ(save(), 0);
   auto entries = entriesOf(archive());
   for (const char* later : {"min_velocity", "max_velocity", "layers", "proposed_cell_sizes",
-                            "coverage_limit", "section_view"}) {
+                            "coverage_limit", "section_view", "last_inversion"}) {
     entries["tomodoc.xml"] = without(entries["tomodoc.xml"], later);
   }
   entries.erase("refraction.xml");
@@ -322,6 +328,17 @@ TEST_F(ProjectTest, ofAnEarlierVersionHasNeitherNewElementsNorRefraction) {
   ASSERT_EQ(back.document.coverageLimit.size(), project.document.coverageLimit.size());
   EXPECT_EQ(back.document.coverageLimit.front(), project.document.coverageLimit.front());
   EXPECT_EQ(back.document.maxVelocity, 3500.0);
+  EXPECT_FALSE(back.document.lastInversion);
+}
+
+TEST_F(ProjectTest, forgetsARunThatCannotHaveBeen) {
+  invert(project.document);
+  project.document.lastInversion->history[0].rmse = std::nan("");
+  ASSERT_EQ(save(), 0);
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_TRUE(back.document.hasTomographicInfo);
+  EXPECT_FALSE(back.document.lastInversion);
 }
 
 TEST_F(ProjectTest, keepsItsShotFilesAsLongAsItIsOpen) {
