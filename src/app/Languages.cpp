@@ -20,9 +20,11 @@ QString localeCodeOf(const QString& fileName) {
 }
 
 QString Language::name() const {
-  // Taken from the language alone: "American English" is too much for "en".
+  // Taken from the language alone: "American English" is too much for "en", and so is the country
+  // behind other languages' names.
   QString native =
       code == QLatin1String("en") ? QStringLiteral("English") : QLocale(code).nativeLanguageName();
+  native = native.section(QStringLiteral(" de "), 0, 0);
   if (native.isEmpty()) return code;
   native[0] = native[0].toUpper();
   return native;

@@ -19,7 +19,9 @@ void show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const Q
   // The box offers no other way to style its text without its buttons.
   if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
     label->setStyleSheet(textStyle);
-    label->setMinimumWidth(kTextWidth);
+    label->ensurePolished();
+    // A wider text must be free to wrap: a label with a least width of its own is cut off instead.
+    if (label->sizeHint().width() < kTextWidth) label->setMinimumWidth(kTextWidth);
   }
   box.exec();
 }
@@ -82,7 +84,9 @@ RecoveryAnswer askToRecover(QWidget* parent, const QString& details) {
   box.button(QMessageBox::Cancel)
       ->setText(QCoreApplication::translate("talvesk::Messages", "Ask again later"));
   if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
-    label->setMinimumWidth(kTextWidth);
+    label->ensurePolished();
+    // A wider text must be free to wrap: a label with a least width of its own is cut off instead.
+    if (label->sizeHint().width() < kTextWidth) label->setMinimumWidth(kTextWidth);
   }
   switch (box.exec()) {
     case QMessageBox::Open:
