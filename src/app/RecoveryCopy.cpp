@@ -75,15 +75,17 @@ void RecoveryCopy::save(LoadedProject copy, const QString& project) {
     emit failed(tr("Nothing can be written in %1").arg(mFolder), !canWrite(mFolder));
     return;
   }
-  const auto shared = std::make_shared<LoadedProject>(std::move(copy));
+  auto shared = std::make_shared<LoadedProject>(std::move(copy));
   const std::string file = mFile.toStdString();
   const std::string note = noteOf(mFile).toStdString();
   const std::string work = mFolder.toStdString();
   const int run = ++mRun;
-  mThread.reset(QThread::create([=, path = project.toStdString()] {
+  mThread.reset(QThread::create([=, shared = std::move(shared),
+                                 path = project.toStdString()]() mutable {
     ProjectWriter writer;
     int result = writer.save(file, work, shared->document, shared->interpretation, shared->palettes,
                              shared->section);
+    shared.reset();  // here, not where the user waits for it
     std::string reason = writer.message();
     if (const Status noted = writeFileAtomically(note, path); result == 0 && !noted.ok()) {
       result = 1;

@@ -3,6 +3,7 @@
 #include "app/CommandIcons.h"
 #include "app/Messages.h"
 #include "app/SettingsDialog.h"
+#include "io/ProjectSnapshot.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/SectionView.h"
 #include "widgets/TravelTimePlot.h"
@@ -230,6 +231,7 @@ void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
+  mSnapshot.reset();
   mRecovery.discard();
   saveWindow();
   event->accept();

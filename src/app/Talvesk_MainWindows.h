@@ -33,6 +33,7 @@ namespace Ui {
 class Talvesk_MainWindows;
 }
 class BackgroundInversion;
+class ProjectSnapshot;
 class SettingsDialog;
 class editTravelTimesWidget;
 class progressTomographyDialog;
@@ -230,6 +231,8 @@ class Talvesk_MainWindows : public QMainWindow {
   void refreshRecentProjects();
   void offerRecovery();
   void prepareAutosave();
+  bool mayAutosave() const;
+  void continueSnapshot();
   void recoveryFailed(const QString& reason, bool lasting);
 
   // Loading
@@ -333,9 +336,11 @@ class Talvesk_MainWindows : public QMainWindow {
   QMenu* mRecentMenu = nullptr;
   RecoveryCopy mRecovery;
   QTimer mAutosaveTimer;
-  int mRevision = 0;           ///< grows with every change
-  int mRecoveredRevision = 0;  ///< that the recovery copy holds
-  int mFailedRecoveries = 0;   ///< in a row
+  int mRevision = 0;                           ///< grows with every change
+  int mRecoveredRevision = 0;                  ///< that the recovery copy holds
+  std::unique_ptr<ProjectSnapshot> mSnapshot;  ///< that is being made for the recovery copy
+  int mSnapshotRevision = 0;                   ///< that it is made of
+  int mFailedRecoveries = 0;                   ///< in a row
   bool mLaidOut = false;
   BackgroundInversion* mInversion = nullptr;  ///< under way; the document is not to be edited then
   progressTomographyDialog* mInversionProgress = nullptr;

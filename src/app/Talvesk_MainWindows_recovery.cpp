@@ -13,7 +13,9 @@ namespace {
 
 constexpr int kInterval = 3 * 60 * 1000;  // milliseconds between copies
 constexpr int kRetry = 30 * 1000;         // the same after a failure
+constexpr int kPause = 2 * 1000;          // the same after a copy that a change overtook
 constexpr int kPatience = 3;              // failures in a row that are more than an accident
+constexpr std::size_t kPiece = std::size_t{1} << 22;  // bytes; copied in a few milliseconds
 
 }  // namespace
 
@@ -32,14 +34,37 @@ void Talvesk_MainWindows::prepareAutosave() {
   mAutosaveTimer.start(kInterval);
 }
 
+bool Talvesk_MainWindows::mayAutosave() const {
+  return mInversion == nullptr && QApplication::activeModalWidget() == nullptr &&
+         QApplication::activePopupWidget() == nullptr && mDocument.modified;
+}
+
 void Talvesk_MainWindows::autosave() {
-  const bool busy = mInversion != nullptr || QApplication::activeModalWidget() != nullptr ||
-                    QApplication::activePopupWidget() != nullptr;
-  if (busy || mRecovery.isSaving()) return;
-  if (!mDocument.modified || mRevision == mRecoveredRevision) return;
+  if (mSnapshot != nullptr || mRecovery.isSaving()) return;
+  if (!mayAutosave() || mRevision == mRecoveredRevision) return;
+  mSnapshot = std::make_unique<ProjectSnapshot>();
+  mSnapshotRevision = mRevision;
+  continueSnapshot();
+}
+
+/// One piece between two events of the user's. What was changed meanwhile makes the pieces useless;
+/// others are made as soon as the user pauses.
+void Talvesk_MainWindows::continueSnapshot() {
+  if (mSnapshot == nullptr) return;
+  if (!mayAutosave() || mRevision != mSnapshotRevision) {
+    mSnapshot.reset();
+    mAutosaveTimer.start(kPause);
+    return;
+  }
+  if (!mSnapshot->copyTraces(mDocument, kPiece)) {
+    QTimer::singleShot(0, this, &Talvesk_MainWindows::continueSnapshot);
+    return;
+  }
   mRecoveredRevision = mRevision;
-  mRecovery.save(snapshotOf(mDocument, mInterpretation, mPalettes, mSection, mProjectFolder),
-                 mProjectFile);
+  mRecovery.save(
+      mSnapshot->complete(mDocument, mInterpretation, mPalettes, mSection, mProjectFolder),
+      mProjectFile);
+  mSnapshot.reset();
 }
 
 /// A full disk may have room again in a minute; a folder that cannot be written to is told once,

@@ -1,9 +1,17 @@
 #include "io/ProjectSnapshot.h"
 
+#include <utility>
+
 namespace talvesk {
 namespace {
 
-TomoDocument copyOf(const TomoDocument& document) {
+std::size_t bytesOf(const Trace& trace) {
+  const std::size_t samples = trace.samples.size() + trace.samplesDX.size() +
+                              trace.samplesSX.size() + trace.filtered.size();
+  return sizeof(Trace) + samples * sizeof(double);
+}
+
+TomoDocument copyWithoutTraces(const TomoDocument& document) {
   TomoDocument copy;
   copy.title = document.title;
   copy.filenames = document.filenames;
@@ -11,7 +19,6 @@ TomoDocument copyOf(const TomoDocument& document) {
   copy.filenames_SX = document.filenames_SX;
   copy.waveType = document.waveType;
   copy.shotPositions = document.shotPositions;
-  copy.traceSets = document.traceSets;
   copy.ttArray = document.ttArray;
   copy.goephonesStringSet = document.goephonesStringSet;
   copy.geoCoord = document.geoCoord;
@@ -33,11 +40,33 @@ TomoDocument copyOf(const TomoDocument& document) {
 
 }  // namespace
 
-LoadedProject snapshotOf(const TomoDocument& document,
-                         const refractionDataStructure::Interpretation& interpretation,
-                         const ColorPaletteList& palettes, const SectionViewSettings& section,
-                         const SharedFolder& folder) {
-  return {copyOf(document), interpretation, palettes, section, folder};
+bool ProjectSnapshot::copyTraces(const TomoDocument& document, std::size_t bytes) {
+  const std::vector<TraceSet>& sets = document.traceSets;
+  std::size_t copied = 0;
+  while (copied < bytes) {
+    const bool setDone =
+        mTraceSets.empty() || mTraceSets.back().size() == sets[mTraceSets.size() - 1].size();
+    if (setDone) {
+      if (mTraceSets.size() == sets.size()) return true;
+      const std::size_t traces = sets[mTraceSets.size()].size();
+      mTraceSets.emplace_back().reserve(traces);
+      copied += sizeof(TraceSet);
+      continue;
+    }
+    TraceSet& copy = mTraceSets.back();
+    copy.push_back(sets[mTraceSets.size() - 1][copy.size()]);
+    copied += bytesOf(copy.back());
+  }
+  return false;
+}
+
+LoadedProject ProjectSnapshot::complete(
+    const TomoDocument& document, const refractionDataStructure::Interpretation& interpretation,
+    const ColorPaletteList& palettes, const SectionViewSettings& section,
+    const SharedFolder& folder) {
+  TomoDocument copy = copyWithoutTraces(document);
+  copy.traceSets = std::move(mTraceSets);
+  return {std::move(copy), interpretation, palettes, section, folder};
 }
 
 }  // namespace talvesk

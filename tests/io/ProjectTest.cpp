@@ -1,3 +1,4 @@
+#include "io/ProjectSnapshot.h"
 #include "processing/ShotTime.h"
 #include "support/TestProjects.h"
 #include "tomo/RayRecomputation.h"
@@ -122,6 +123,23 @@ TEST_F(ProjectTest, isTheSameByteForByteAfterLoadingAndSavingAgain) {
   EXPECT_THAT(first, SizeIs(8));
   EXPECT_THAT(first.at("traces.xml"), HasSubstr("<TAB size=\"dynamic\"/>"));
   EXPECT_EQ(first.at("2.dat"), TestFolder::get(shots[1]));
+}
+
+TEST_F(ProjectTest, isTheSameByteForByteWhenItIsSavedFromASnapshot) {
+  for (Trace& trace : project.document.traceSets[1]) trace.filtered = trace.samples;
+  project.document.traceSets.emplace_back();
+  project.document.ttArray.emplace_back().traceSetID = 3;
+  invert(project.document);
+  interpret(project);
+  ASSERT_EQ(save(), 0);
+  for (const std::size_t piece : {1, 1000, 1 << 20}) {
+    ProjectSnapshot snapshot;
+    while (!snapshot.copyTraces(project.document, piece)) continue;
+    const LoadedProject copy = snapshot.complete(project.document, project.interpretation,
+                                                 project.palettes, project.section, nullptr);
+    ASSERT_EQ(save(folder.file("copy.tvsk"), copy), 0);
+    EXPECT_EQ(entriesOf(folder.file("copy.tvsk")), entriesOf(archive())) << piece;
+  }
 }
 
 TEST_F(ProjectTest, hasItsRaysAgainAfterOneForwardPass) {
