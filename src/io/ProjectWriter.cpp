@@ -32,7 +32,11 @@ class OldArchive {
 
   const std::string& path() const { return mPath; }
   std::string keptPath() const { return mPath + "~"; }
-  bool moved() const { return mMoved; }
+  /// A save before this one may have failed, too, and have left it there.
+  bool isKept() const {
+    std::error_code ignored;
+    return fs::exists(keptPath(), ignored) && !fs::exists(mPath, ignored);
+  }
 
   /// False, and the archive where it was, when it cannot be moved.
   bool moveAside() {
@@ -112,38 +116,45 @@ int ProjectWriter::writeTracesAndFiles(const std::string& folder, const TomoDocu
                                        std::vector<std::string>& files) {
   SourceFiles sources;
   const std::string member = folder + kTracesMember;
+  files.push_back(member);
   const std::vector<bool> hoped(document.traceSets.size(), false);
   if (saveTomoDocumentTraces_XML(member, document, hoped, sources) != 0) return 1;
   SourceCopies copies = copySources({&sources.main, &sources.dx, &sources.sx}, folder);
   const std::vector<bool> without = setsWithoutFile(document, folder);
-  files.push_back(member);
   files.insert(files.end(), copies.files.begin(), copies.files.end());
   mWarnings = std::move(copies.warnings);
   return without == hoped ? 0 : writeTraces(member, document, without);
 }
 
 /// Emits one signal or the other.
-bool ProjectWriter::step(int result, void (ProjectWriter::*done)(),
-                         void (ProjectWriter::*failed)()) {
+bool ProjectWriter::step(int result, Signal done, Signal failed) {
   emit(this->*(result == 0 ? done : failed))();
   return result == 0;
 }
 
 /// All members, whichever of them fail; the last decides whether there is any point in going on.
+/// Nothing stays of a member that failed, so that no archive can be built with half of it.
 bool ProjectWriter::writeMembers(const std::string& folder, const Project& project,
                                  std::vector<std::string>& files, bool& complete) {
+  complete = true;
   const auto add = [&](const char* member) {
     files.push_back(folder + member);
     return files.back();
   };
-  complete = step(saveTomoDocument_XML(add(kSurveyMember), project.document, project.section),
-                  &ProjectWriter::saved_tomo_xml, &ProjectWriter::error_saved_tomo_xml);
-  complete &= step(saveTomoDocumentGrid_XML(add(kGridMember), project.document),
-                   &ProjectWriter::saved_grid, &ProjectWriter::error_saved_grid);
-  complete &= step(writeTracesAndFiles(folder, project.document, files),
-                   &ProjectWriter::saved_traces, &ProjectWriter::error_saved_traces);
-  complete &= step(savePalettes_XML(add(kPalettesMember), project.palettes),
-                   &ProjectWriter::saved_palettes, &ProjectWriter::error_saved_palettes);
+  const auto check = [&](const char* member, int result, Signal done, Signal failed) {
+    if (step(result, done, failed)) return;
+    complete = false;
+    std::error_code ignored;
+    fs::remove(folder + member, ignored);
+  };
+  check(kSurveyMember, saveTomoDocument_XML(add(kSurveyMember), project.document, project.section),
+        &ProjectWriter::saved_tomo_xml, &ProjectWriter::error_saved_tomo_xml);
+  check(kGridMember, saveTomoDocumentGrid_XML(add(kGridMember), project.document),
+        &ProjectWriter::saved_grid, &ProjectWriter::error_saved_grid);
+  check(kTracesMember, writeTracesAndFiles(folder, project.document, files),
+        &ProjectWriter::saved_traces, &ProjectWriter::error_saved_traces);
+  check(kPalettesMember, savePalettes_XML(add(kPalettesMember), project.palettes),
+        &ProjectWriter::saved_palettes, &ProjectWriter::error_saved_palettes);
   return step(saveRefraction_XML(add(kRefractionMember), project.interpretation),
               &ProjectWriter::saved_refraction, &ProjectWriter::error_saved_refraction);
 }
@@ -163,9 +174,8 @@ int ProjectWriter::build(const std::string& archive, const std::string& workingF
     if (!writeMembers(temporary->path(), project, files, complete)) {
       return fail("Its parts cannot be written " + inFolder);
     }
-    // An archive with a part missing could not be loaded, so none is built of it.
-    if (complete) built = compress_project(archive, files);
-    if (built == 0 && !isOnDisk(archive)) built = 1;
+    built = compress_project(archive, files);
+    if (built == 0 && (!complete || !isOnDisk(archive))) built = 1;
     step(built, &ProjectWriter::saved_compressed, &ProjectWriter::error_saved_compressed);
     if (!complete) fail("Its parts cannot be written " + inFolder);
     if (complete && built != 0) fail("The archive " + archive + " cannot be written.");
@@ -195,7 +205,7 @@ int ProjectWriter::save(const std::string& archive, const std::string& workingFo
   }
   if (result == 0) {
     old.remove();
-  } else if (old.moved()) {
+  } else if (old.isKept()) {
     mKeptArchive = old.keptPath();
   }
   return result;

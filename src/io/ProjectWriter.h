@@ -36,8 +36,8 @@ class ProjectWriter : public QObject {
 
   bool hasError() const { return mError; }                 ///< of the last save
   const std::string& message() const { return mMessage; }  ///< why the last save failed
-  /// Where the project is now that was there before the last save, when that failed; empty when
-  /// there was none or it is where it was.
+  /// Where the project is now that was there before the last save, when that failed, or before the
+  /// first of several that failed; empty when there was none or it is where it was.
   const std::string& keptArchive() const { return mKeptArchive; }
   /// What the user should know about a save that succeeded: shot files that are not in it.
   const std::vector<std::string>& warnings() const { return mWarnings; }
@@ -79,10 +79,12 @@ class ProjectWriter : public QObject {
     const SectionViewSettings& section;
   };
 
+  using Signal = void (ProjectWriter::*)();
+
   int fail(const std::string& message);
   int writeTracesAndFiles(const std::string& folder, const TomoDocument& document,
                           std::vector<std::string>& files);
-  bool step(int result, void (ProjectWriter::*done)(), void (ProjectWriter::*failed)());
+  bool step(int result, Signal done, Signal failed);
   bool writeMembers(const std::string& folder, const Project& project,
                     std::vector<std::string>& files, bool& complete);
   int build(const std::string& archive, const std::string& workingFolder, const Project& project);

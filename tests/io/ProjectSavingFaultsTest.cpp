@@ -29,7 +29,8 @@ class FailingWriter : public ProjectWriter {
     return at(Step::kSurvey) ? 1 : ProjectWriter::saveTomoDocument_XML(path, document, section);
   }
   int saveTomoDocumentGrid_XML(const std::string& path, const TomoDocument& document) override {
-    return at(Step::kGrid) ? 1 : ProjectWriter::saveTomoDocumentGrid_XML(path, document);
+    const bool fails = at(Step::kGrid);  // after it has written something
+    return ProjectWriter::saveTomoDocumentGrid_XML(path, document) != 0 || fails ? 1 : 0;
   }
   int saveTomoDocumentTraces_XML(const std::string& path, const TomoDocument& document,
                                  const std::vector<bool>& withSamples,
@@ -145,6 +146,25 @@ TEST_F(SavingFaults, goOnAfterAMemberButNotAfterTheRefraction) {
   EXPECT_EQ(signalsOf(Step::kTraces), "tgRpfZ.");
   EXPECT_EQ(signalsOf(Step::kRefraction), "tgrpF");
   EXPECT_EQ(signalsOf(Step::kArchive), "tgrpfZ.");
+}
+
+TEST_F(SavingFaults, ofAMemberLeaveNoHalfOfItForTheArchive) {
+  FailingWriter faulty(Step::kGrid);
+  EXPECT_EQ(saveWith(faulty), 1);
+  EXPECT_THAT(console.out(), HasSubstr("ProjectWriter::saveRefraction_XML\n"
+                                       "ProjectWriter::compress_project\n"));
+  EXPECT_THAT(console.error(),
+              ::testing::MatchesRegex("(.|\n)* : write_ZIP\\(\\) : impossible to tmp "
+                                      "[^\n]*/grid.xml\n"));
+}
+
+TEST_F(SavingFaults, inARowNameTheOldProjectEachTime) {
+  FailingWriter faulty(Step::kRefraction);
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(saveWith(faulty), 1);
+    EXPECT_EQ(faulty.keptArchive(), archive() + "~");
+  }
+  expectOldProjectKept();
 }
 
 /// No file grows beyond a limit, as if the disk were full.
