@@ -73,16 +73,19 @@ void TemporaryFolder::clear(const std::string& workingFolder) {
   std::vector<fs::path> folders;
   for (fs::directory_iterator entry(workingFolder, error), end; !error && entry != end;
        entry.increment(error)) {
-    // A lock without its folder is left by a process that died in between.
+    // A lock without its folder is left by a process that died in between. Other files have locks,
+    // too.
     const bool isLock = entry->path().extension() == ".lock";
     const fs::path folder = isLock ? fs::path(entry->path()).replace_extension() : entry->path();
-    const bool isFolder = isLock || fs::is_directory(entry->symlink_status());
-    if (isFolder && isDecimal(folder.filename().string())) folders.push_back(folder);
+    const bool isOurs =
+        isLock ? isDecimal(folder.filename().string()) : fs::is_directory(entry->symlink_status());
+    if (isOurs) folders.push_back(folder);
   }
   for (const fs::path& folder : folders) {
     Lock lock(folder.string());
     std::error_code ignored;
-    if (lock.take() && !fs::is_symlink(folder, ignored)) fs::remove_all(folder, ignored);
+    if (!lock.take()) continue;
+    if (fs::is_directory(fs::symlink_status(folder, ignored))) fs::remove_all(folder, ignored);
   }
 }
 

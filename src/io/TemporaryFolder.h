@@ -17,8 +17,8 @@ class TemporaryFolder {
   /// \param workingFolder ending in "/"
   static std::unique_ptr<TemporaryFolder> create(const std::string& workingFolder);
 
-  /// Deletes the folders of earlier saves and loads that nobody works in any more, of whatever
-  /// process. Other folders, whose names are not decimal numbers, are not touched.
+  /// Deletes the folders in the working folder that nobody works in any more, whatever their name
+  /// and whosever they were. Files are not touched, nor what symbolic links point at.
   static void clear(const std::string& workingFolder);
 
   ~TemporaryFolder();
