@@ -42,6 +42,7 @@ bool canHaveBeen(const InversionRecord& run) {
 
 void repairRun(TomoDocument& document) {
   const TomoDocument fresh;
+  if (!std::isfinite(document.RMSE_tomography)) document.RMSE_tomography = fresh.RMSE_tomography;
   if (!positive(document.minVelocity)) document.minVelocity = fresh.minVelocity;
   if (!positive(document.maxVelocity)) document.maxVelocity = fresh.maxVelocity;
   if (!std::all_of(document.layers.begin(), document.layers.end(), fits)) document.layers.clear();

@@ -197,8 +197,11 @@ template <class V>
 void describe(V& fields, processingData& data) {
   fields("cData", data.cData);
   fields("v1", data.v1);
-  fields("v2", data.v2);
-  fields("v3", data.v3);
+  // Other programs may give a refractor one velocity.
+  xml::OneOrMany v2{data.v2};
+  xml::OneOrMany v3{data.v3};
+  fields("v2", v2);
+  fields("v3", v3);
 }
 
 template <class V>

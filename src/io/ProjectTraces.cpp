@@ -48,6 +48,13 @@ void place(const StoredTrace& stored, Trace& trace) {
   trace.receiverPosition = stored.receiver;
 }
 
+/// A pair without its two recordings would be picked on nothing.
+void checkKind(Trace& trace) {
+  if (trace.waveKind == Trace::kSWavePair && trace.samplesDX.empty()) {
+    trace.waveKind = Trace::kFromFile;
+  }
+}
+
 /// The traces of the member alone.
 TraceSet storedSet(std::vector<StoredTrace>& stored) {
   TraceSet traces(stored.size());
@@ -59,10 +66,7 @@ TraceSet storedSet(std::vector<StoredTrace>& stored) {
     trace.samples = std::move(stored[i].TAB);
     trace.samplesDX = std::move(stored[i].TAB_DX);
     trace.samplesSX = std::move(stored[i].TAB_SX);
-    // A pair without its two recordings would be picked on nothing.
-    if (trace.waveKind == Trace::kSWavePair && trace.samplesDX.empty()) {
-      trace.waveKind = Trace::kFromFile;
-    }
+    checkKind(trace);
   }
   return traces;
 }
@@ -123,6 +127,7 @@ TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<Sto
   }
   for (std::size_t i = 0; i < traces.size(); ++i) {
     place(stored[i], traces[i]);
+    checkKind(traces[i]);
     dropSamples(traces[i], traces[i].droppedSamples);
   }
   return traces;

@@ -236,6 +236,16 @@ std::string_view XmlReader::text() {
   }
 }
 
+bool XmlReader::holdsText() {
+  if (mSelfClosed) return false;
+  skipBlanks();
+  return peek() != '<' && peek() != kEnd;
+}
+
+void XmlReader::countSequence() {
+  if (++mSequences > kMostSequences) throw XmlError("it holds too many sequences");
+}
+
 void XmlReader::skip() {
   const std::size_t outside = mOpen - 1;
   if (mSelfClosed) {

@@ -25,6 +25,8 @@ class XmlReader {
   static constexpr std::size_t kMostLevels = 24;
   static constexpr std::size_t kLongestName = 256;
   static constexpr std::size_t kLongestText = std::size_t{1} << 20;
+  /// Of one document. An empty sequence is a few bytes of text and many in memory.
+  static constexpr std::size_t kMostSequences = std::size_t{1} << 22;
 
   /// Enters the root element, which must have that name. The stream must outlive the reader.
   XmlReader(std::istream& stream, std::string_view root);
@@ -36,6 +38,10 @@ class XmlReader {
   /// The text of the current element, which holds no element, and leaves it. Valid until the next
   /// call. Blanks at its ends belong to it.
   std::string_view text();
+  /// Whether the current element begins with text other than blanks.
+  bool holdsText();
+  /// Counts the current element as a sequence.
+  void countSequence();
   /// Leaves the current element with all that it holds.
   void skip();
 
@@ -67,6 +73,7 @@ class XmlReader {
   std::size_t mFilled = 0;
   std::vector<std::string> mNames;  ///< of open elements; as many as there ever were at once
   std::size_t mOpen = 0;
+  std::size_t mSequences = 0;
   bool mSelfClosed = false;  ///< the current element ended in its start tag
   std::string mText;
   std::string mEndName;

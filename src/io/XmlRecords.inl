@@ -22,6 +22,8 @@ struct IsVector : std::false_type {};
 template <typename T>
 struct IsVector<std::vector<T>> : std::true_type {};
 
+struct OneOrMany;
+
 class Output {
  public:
   explicit Output(XmlWriter& writer) : mWriter(writer) {}
@@ -37,7 +39,9 @@ class Output {
 
   template <typename T>
   void put(const char* name, const T& value) {
-    if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, std::string>) {
+    if constexpr (std::is_same_v<T, OneOrMany>) {
+      put(name, value.values);
+    } else if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, std::string>) {
       mWriter.put(name, value);
     } else if constexpr (std::is_enum_v<T>) {
       mWriter.put(name, static_cast<std::int32_t>(value));
@@ -94,6 +98,7 @@ void read(XmlReader& reader, T& value) {
   } else if constexpr (std::is_enum_v<T>) {
     value = static_cast<T>(numberOf<std::int32_t>(reader.text(), element));
   } else if constexpr (IsVector<T>::value) {
+    reader.countSequence();
     value.clear();
     while (reader.nextChild()) {
       typename T::value_type item{};
@@ -103,6 +108,18 @@ void read(XmlReader& reader, T& value) {
   } else {
     readRecord(reader, value);
   }
+}
+
+/// One value, or one per point.
+struct OneOrMany {
+  std::vector<double>& values;
+};
+
+inline void read(XmlReader& reader, OneOrMany& element) {
+  if (!reader.holdsText()) return read(reader, element.values);
+  double only = 0.0;
+  read(reader, only);
+  element.values.assign(1, only);
 }
 
 /// Hands the current element to the field of its name.

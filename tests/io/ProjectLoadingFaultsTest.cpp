@@ -197,12 +197,34 @@ TEST_F(LoadingFaults, areNoneOfAPaletteIndexOrSettingsThatDoNotExist) {
   entries["tomodoc.xml"] =
       with(entries["tomodoc.xml"], "<verticalExaggeration>1", "<verticalExaggeration>nan");
   entries["tomodoc.xml"] = with(entries["tomodoc.xml"], "<numberOfValues>10", "<numberOfValues>-1");
+  entries["tomodoc.xml"] =
+      with(entries["tomodoc.xml"], "<RMSE_tomography>-1", "<RMSE_tomography>nan");
   LoadedProject back;
   ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
   EXPECT_EQ(back.palettes.currentIndex(), 0U);
   EXPECT_EQ(back.section.quantity, SectionQuantity::kVelocity);
   EXPECT_EQ(back.section.verticalExaggeration, 1.0);
   EXPECT_EQ(back.section.contours.numberOfValues, 1);
+  EXPECT_EQ(back.document.RMSE_tomography, -1.0);
+}
+
+TEST_F(LoadingFaults, areNoneOfOneVelocityPerRefractor) {
+  entries["refraction.xml"] =
+      with(entries["refraction.xml"], "<v2 size=\"dynamic\"/>", "<v2>\n 1500.5 </v2>");
+  {
+    LoadedProject back;
+    ASSERT_EQ(load(pack("plain.tvsk", entries), back), 0) << reader.message();
+    EXPECT_THAT(back.interpretation.refractData.v2, ElementsAre(1500.5));
+  }
+  entries["refraction.xml"] = with(entries["refraction.xml"], "1500.5", "fast");
+  expectRefused(pack("odd.tvsk", entries));
+}
+
+TEST_F(LoadingFaults, areNoneOfAPairThatIsNone) {
+  entries["traces.xml"] = with(entries["traces.xml"], "<kind>3", "<kind>2");
+  LoadedProject back;
+  ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
+  EXPECT_EQ(back.document.traceSets[0][0].waveKind, Trace::kFromFile);
 }
 
 TEST_F(LoadingFaults, areNoneOfNamesThatLeaveTheFolder) {
@@ -223,7 +245,7 @@ TEST_F(LoadingFaults, ofAWorkingFolderThatIsNotThere) {
 TEST(TemporaryFolders, areClearedUnlessSomebodyWorksInThem) {
   const TestFolder area;
   QDir folder(QString::fromStdString(area.path()));
-  for (const char* name : {"1600000000000", "-5", "keep", "12a", "77"}) {
+  for (const char* name : {"1600000000000", "-5", "other", "12a", "77"}) {
     ASSERT_TRUE(folder.mkpath(QString::fromLatin1(name) + QStringLiteral("/inner")));
   }
   const TestFolder outside;
@@ -239,7 +261,7 @@ TEST(TemporaryFolders, areClearedUnlessSomebodyWorksInThem) {
   ASSERT_NE(own, nullptr);
   TemporaryFolder::clear(area.path() + "/");
   QStringList left = folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
-  for (const char* name : {"keep", "12a", "77", "88", "99", "77.lock"}) {
+  for (const char* name : {"77", "88", "99", "77.lock"}) {
     EXPECT_EQ(left.removeAll(QString::fromLatin1(name)), 1) << name;
   }
   EXPECT_EQ(left.size(), 2) << left.join(QLatin1Char(' ')).toStdString();  // our own and its lock

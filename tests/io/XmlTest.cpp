@@ -137,5 +137,15 @@ TEST(Xml, acceptsTheRecordThatTheBrokenOnesAreMadeOf) {
   EXPECT_NO_THROW(read(record("5"), outer));
 }
 
+TEST(Xml, isRefusedWhenItWouldTakeManyTimesItsSizeInMemory) {
+  std::string text = "<cereal><a>1</a><lists>";
+  text.reserve(5 * XmlReader::kMostSequences);
+  for (std::size_t i = 0; i < XmlReader::kMostSequences; ++i) text += "<b/>";
+  std::istringstream stream(text + "</lists></cereal>");
+  XmlReader reader(stream, "cereal");
+  Inner inner;
+  EXPECT_THROW(xml::readRecord(reader, inner), XmlError);
+}
+
 }  // namespace
 }  // namespace talvesk
