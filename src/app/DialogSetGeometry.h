@@ -75,6 +75,7 @@ class DialogSetGeometry : public QDialog {
   static QString takePositions(std::size_t count, const Status& read,
                                const std::vector<std::vector<double>>& records,
                                std::vector<Point2D>& positions);
+  bool tellsOfGaps(bool shots);
   void saveGeophones();
   void loadGeophones();
   void saveShots();

@@ -1,11 +1,13 @@
 #include "app/DialogSetGeometry.h"
 #include "app/GeometrySession.h"
 #include "app/GeometryTables.h"
+#include "app/GeometryTexts.h"
 #include "app/Messages.h"
 #include "app/SelectCSVDelimiterDialog.h"
 #include "base/Console.h"
 #include "io/GeometryFile.h"
 #include "io/SWavePairFile.h"
+#include "model/GeometryCheck.h"
 #include "ui_DialogSetGeometry.h"
 
 #include <QApplication>
@@ -63,7 +65,20 @@ QString DialogSetGeometry::askForFile(bool save, const QString& filter) {
   return file;
 }
 
+/// A file with gaps could not be loaded again.
+bool DialogSetGeometry::tellsOfGaps(bool shots) {
+  for (const GeometryMistake& mistake : mSession->mistakes()) {
+    const bool about = shots ? !mistake.shots.empty() : mistake.string == mSession->currentString();
+    if (mistake.fault != GeometryFault::NoPosition || !about) continue;
+    show(mistake);
+    notice(mistakeText(mistake, geometry()), true);
+    return true;
+  }
+  return false;
+}
+
 void DialogSetGeometry::saveGeophones() {
+  if (tellsOfGaps(false)) return;
   const QString file = askForFile(true, tr("Geophones Geometry (*csv)"));
   if (file.isEmpty()) return;
   GeometryRecords records;
@@ -102,6 +117,7 @@ void DialogSetGeometry::loadGeophones() {
 }
 
 void DialogSetGeometry::saveShots() {
+  if (tellsOfGaps(true)) return;
   const QString file = askForFile(true, tr("Geophones Geometry (*csv)"));
   if (file.isEmpty()) return;
   GeometryRecords records;

@@ -359,8 +359,7 @@ TEST_F(Geometry, rejectsFilesThatDoNotFit) {
       user.click(ofShots ? "loadShotsButton" : "loadGeophonesButton");
       EXPECT_EQ(user.cell(user.geophones(), 0, GeophoneTable::kX), "10");
       EXPECT_EQ(user.cell(user.shots(), 0, ShotTable::kX), "9");
-      const auto* why = widget.findChild<QLabel*>(QStringLiteral("noticeLabel"));
-      EXPECT_FALSE(why->text().isEmpty()) << "the count alone tells nobody what to do";
+      EXPECT_FALSE(user.notice().isEmpty()) << "the count alone tells nobody what to do";
       user.cancel();
     });
     dialogs.expectFiles("Open Geometry", {QString::fromStdString(path)});
