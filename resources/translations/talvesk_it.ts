@@ -2087,10 +2087,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Sezione di velocità con i raggi dell&apos;ultima iterazione</translation>
     </message>
     <message>
-        <source>Information density: how many rays support each part of the section</source>
-        <translation>Densità d&apos;informazione: quanti raggi sostengono ogni parte della sezione</translation>
-    </message>
-    <message>
         <source>Misfit</source>
         <translation>Scarto</translation>
     </message>
@@ -2169,10 +2165,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces and inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
         <translation>I primi arrivi sono i tempi in cui la prima energia sismica di un tiro raggiunge ogni geofono. Sono stati letti sulle tracce registrate e invertiti per tomografia dei tempi di arrivo. Il terreno sotto la linea è diviso in celle quadrate a velocità costante, che seguono la superficie. Da ogni tiro si cercano i percorsi più rapidi verso tutti i geofoni nella rete dei nodi sui lati delle celle: sono i raggi. Le differenze fra tempi misurati e calcolati si distribuiscono lungo i raggi e correggono la lentezza delle celle attraversate, più volte sugli stessi raggi ed entro i limiti di velocità. La sezione corretta viene smussata e vi si tracciano nuovi raggi: questa è un&apos;iterazione esterna.</translation>
-    </message>
-    <message>
-        <source>The misfit is the difference between computed and measured times. RMS is its root mean square, in milliseconds or relative to the measured times in percent. The information density tells how many rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation>Lo scarto è la differenza fra tempi calcolati e misurati. RMS è la sua media quadratica, in millisecondi o in percentuale dei tempi misurati. La densità d&apos;informazione dice quanti raggi attraversano i dintorni di una cella; dove è bassa le velocità sono poco sostenute dai dati, e sotto i raggi più profondi la sezione non è disegnata. Velocità che diminuiscono con la profondità e strati sottili possono restare nascosti ai primi arrivi.</translation>
     </message>
     <message>
         <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
@@ -2345,6 +2337,14 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Ends of the line</source>
         <translation>Estremi della linea</translation>
+    </message>
+    <message>
+        <source>Information density: how completely rays cross the surroundings of each cell</source>
+        <translation>Densità d&apos;informazione: quanto i raggi attraversano i dintorni di ogni cella</translation>
+    </message>
+    <message>
+        <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
+        <translation>Lo scarto è la differenza fra tempi calcolati e misurati. I tempi calcolati sono quelli lungo i raggi dell&apos;ultima iterazione, prima della sua ultima correzione e del suo smussamento, oppure attraverso la sezione così come è disegnata se il progetto è stato riaperto. RMS è la media quadratica dello scarto, in millisecondi o in percentuale dei tempi misurati. La densità d&apos;informazione dice quanto completamente i raggi attraversano i dintorni di una cella; dove è bassa le velocità sono poco sostenute dai dati, e sotto i raggi più profondi la sezione non è disegnata. Velocità che diminuiscono con la profondità e strati sottili possono restare nascosti ai primi arrivi.</translation>
     </message>
 </context>
 <context>
@@ -2647,10 +2647,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Barra dei colori orizzontale</translation>
     </message>
     <message>
-        <source>Puts the colour bar of saved PNG pictures below the section, not beside it.</source>
-        <translation>Mette la barra dei colori delle immagini PNG sotto la sezione invece che a lato.</translation>
-    </message>
-    <message>
         <source>Opens shots at the part of the record that holds the first breaks.</source>
         <translation>Apre i tiri sulla parte della registrazione che contiene i primi arrivi.</translation>
     </message>
@@ -2665,6 +2661,10 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Zoom in on first breaks</source>
         <translation>Ingrandisci i primi arrivi</translation>
+    </message>
+    <message>
+        <source>Puts the colour bar of saved pictures above the section, not beside it.</source>
+        <translation>Mette la barra dei colori delle immagini salvate sopra la sezione, non accanto.</translation>
     </message>
 </context>
 <context>
@@ -3604,7 +3604,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Warning</source>
-        <translation>Avvertimento</translation>
+        <translation>Attenzione</translation>
     </message>
     <message>
         <source>%1 was loaded with warnings.</source>
@@ -4328,7 +4328,7 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     </message>
     <message>
         <source>Show Contours (on top of  Tomographic Profile)</source>
-        <translation>Mostra le isolinee (sul profilo tomografico)</translation>
+        <translation>Mostra le isolinee (sulla sezione tomografica)</translation>
     </message>
     <message>
         <source>Lines over the velocities</source>

@@ -270,7 +270,7 @@ Status addSections(ReportBuilder& builder) {
     options.scene.rays = false;
     status = addSection(
         builder, options,
-        ReportWords::tr("Information density: how many rays support each part of the section"));
+        ReportWords::tr("Information density: how completely rays cross the surroundings of each cell"));
   }
   return status;
 }

@@ -92,10 +92,12 @@ void addMethod(ReportBuilder& builder) {
       "rays, within the limits of velocity. The corrected section is smoothed, and new rays "
       "are traced through it: that is one external iteration."));
   builder.paragraph(ReportWords::tr(
-      "The misfit is the difference between computed and measured times. RMS is its root "
-      "mean square, in milliseconds or relative to the measured times in percent. The "
-      "information density tells how many rays cross the surroundings of a cell; where it is "
-      "low, velocities are poorly supported by the data, and below the lowest rays the "
+      "The misfit is the difference between computed and measured times. The computed times "
+      "are those along the rays of the last iteration, before its last correction and "
+      "smoothing, or through the section as it is drawn when the project was opened again. RMS "
+      "is the root mean square of the misfit, in milliseconds or relative to the measured times "
+      "in percent. The information density tells how completely rays cross the surroundings of "
+      "a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the "
       "section is not drawn. Velocities that decrease with depth and thin layers may remain "
       "hidden from first arrivals."));
   if (isBuilt(builder)) {
