@@ -270,7 +270,8 @@ Status addSections(ReportBuilder& builder) {
     options.scene.rays = false;
     status = addSection(
         builder, options,
-        ReportWords::tr("Information density: how completely rays cross the surroundings of each cell"));
+        ReportWords::tr(
+            "Information density: how completely rays cross the surroundings of each cell"));
   }
   return status;
 }

@@ -97,7 +97,8 @@ void addMethod(ReportBuilder& builder) {
       "smoothing, or through the section as it is drawn when the project was opened again. RMS "
       "is the root mean square of the misfit, in milliseconds or relative to the measured times "
       "in percent. The information density tells how completely rays cross the surroundings of "
-      "a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the "
+      "a cell; where it is low, velocities are poorly supported by the data, and below the lowest "
+      "rays the "
       "section is not drawn. Velocities that decrease with depth and thin layers may remain "
       "hidden from first arrivals."));
   if (isBuilt(builder)) {
