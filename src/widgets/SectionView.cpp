@@ -53,6 +53,9 @@ SectionView::~SectionView() {
 
 void SectionView::layOutControls() {
   State& s = *mState;
+  // First, so that it and no field gets the focus when the section comes into view: a field would
+  // take digits and Ctrl+A, which are somebody else's.
+  s.paper = new QWidget(this);
   s.controls = new QWidget(this);
   auto* row = new QHBoxLayout(s.controls);
   row->setContentsMargins(6, 2, 6, 2);
@@ -89,7 +92,6 @@ void SectionView::layOutControls() {
   row->addWidget(s.reset);
   row->addStretch(1);
 
-  s.paper = new QWidget(this);
   s.paper->setObjectName(QStringLiteral("sectionPaper"));
   s.paper->setFocusPolicy(Qt::StrongFocus);
   s.paper->setMouseTracking(true);

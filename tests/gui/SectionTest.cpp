@@ -75,6 +75,14 @@ int difference(QRgb a, QRgb b) {
          << QColor(a).name().toStdString() << " is not " << QColor(b).name().toStdString();
 }
 
+TEST_F(Section, takesTheFocusItselfWhenItComesIntoView) {
+  openWith(sectionDocument(4, 6, 1.0, hilly));
+  child<QTabWidget>("tabWidget").setCurrentIndex(0);
+  child<QWidget>("showTracesWidget").setFocus();
+  child<QTabWidget>("tabWidget").setCurrentIndex(2);
+  EXPECT_EQ(window->focusWidget(), view().sheet());
+}
+
 TEST_F(Section, withoutOneThePageSaysWhatToDoNext) {
   open();
   auto& text = child<QLabel>("sectionEmptyLabel");
