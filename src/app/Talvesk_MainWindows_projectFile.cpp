@@ -181,6 +181,7 @@ void Talvesk_MainWindows::takeProject(LoadedProject project, const QString& file
   if (!mDocument.ttArray.empty()) showFresh(0);
   mDocument.modified = false;
   refreshTitle();
+  if (file.isEmpty()) return;  // recovered before it was ever saved
   statusBar()->showMessage(tr("Project %1 loaded.").arg(QFileInfo(file).fileName()), kMessageTime);
 }
 

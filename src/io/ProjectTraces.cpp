@@ -108,6 +108,15 @@ Status installFiltered(TracesMember& member, std::size_t set, TraceSet& traces) 
   return {};
 }
 
+/// A reason with the bare names of its files: nobody put anything into the temporary folder by
+/// hand.
+std::string without(const std::string& folder, std::string why) {
+  for (auto at = why.find(folder); at != std::string::npos; at = why.find(folder)) {
+    why.erase(at, folder.size());
+  }
+  return why;
+}
+
 /// One set, from its record or its files.
 TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<StoredTrace>& stored,
                SegyState& state, std::vector<std::string>& warnings) {
@@ -122,7 +131,7 @@ TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<Sto
   }
   if (!read) {
     console::error() << "Error while loading traces: Invalid file format." << std::endl;
-    warnings.push_back(why);
+    warnings.push_back(without(folder, why));
     return storedSet(stored);
   }
   for (std::size_t i = 0; i < traces.size(); ++i) {

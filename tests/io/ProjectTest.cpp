@@ -275,7 +275,9 @@ TEST_F(ProjectTest, leavesTracesEmptyWhoseFileIsNotInTheArchive) {
   entries["3.dat"] = "no shot file";
   LoadedProject back;
   ASSERT_EQ(load(pack("poor.tvsk", entries), back), 0);
-  EXPECT_THAT(reader.warnings(), SizeIs(2));
+  ASSERT_THAT(reader.warnings(), SizeIs(2));
+  EXPECT_THAT(reader.warnings()[0], HasSubstr("2.dat"));
+  EXPECT_THAT(reader.warnings()[0], Not(HasSubstr(work())));
   EXPECT_THAT(console.error(), HasSubstr("Error while loading traces: Invalid file format.\n"));
   ASSERT_THAT(back.document.traceSets[1], SizeIs(6));
   EXPECT_THAT(back.document.traceSets[1][0].samples, IsEmpty());
