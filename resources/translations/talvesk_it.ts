@@ -785,6 +785,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Computed minus measured [ms]</source>
         <translation>Calcolati meno misurati [ms]</translation>
     </message>
+    <message>
+        <source>RMS misfit of the inversion %1 %</source>
+        <translation>Scarto quadratico medio dell&apos;inversione %1 %</translation>
+    </message>
+    <message>
+        <source>Refractor %1</source>
+        <translation>Rifrattore %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -2083,10 +2091,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Velocità del modello iniziale</translation>
     </message>
     <message>
-        <source>Velocity section with the rays of the last iteration</source>
-        <translation>Sezione di velocità con i raggi dell&apos;ultima iterazione</translation>
-    </message>
-    <message>
         <source>Misfit</source>
         <translation>Scarto</translation>
     </message>
@@ -2345,6 +2349,18 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
         <translation>Lo scarto è la differenza fra tempi calcolati e misurati. I tempi calcolati sono quelli lungo i raggi dell&apos;ultima iterazione, prima della sua ultima correzione e del suo smussamento, oppure attraverso la sezione così come è disegnata se il progetto è stato riaperto. RMS è la media quadratica dello scarto, in millisecondi o in percentuale dei tempi misurati. La densità d&apos;informazione dice quanto completamente i raggi attraversano i dintorni di una cella; dove è bassa le velocità sono poco sostenute dai dati, e sotto i raggi più profondi la sezione non è disegnata. Velocità che diminuiscono con la profondità e strati sottili possono restare nascosti ai primi arrivi.</translation>
+    </message>
+    <message>
+        <source>The misfit of an iteration is that of its own rays, before the last correction of the velocities and before they are smoothed. New rays through the finished section are faster in places, and their misfit is usually larger.</source>
+        <translation>Lo scarto di un&apos;iterazione è quello dei suoi raggi, prima dell&apos;ultima correzione delle velocità e prima che siano smussate. Nuovi raggi attraverso la sezione finita sono in alcuni punti più veloci, e il loro scarto è di solito maggiore.</translation>
+    </message>
+    <message>
+        <source>Velocity section with rays</source>
+        <translation>Sezione di velocità con i raggi</translation>
+    </message>
+    <message>
+        <source>Misfit after the last external iteration</source>
+        <translation>Scarto dopo l&apos;ultima iterazione esterna</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,14 @@ QString FigureWords::misfit(double percent) {
   return tr("RMS misfit %1 %").arg(qt(formatDouble(percent, 3)));
 }
 
+QString FigureWords::inversionMisfit(double percent) {
+  return tr("RMS misfit of the inversion %1 %").arg(qt(formatDouble(percent, 3)));
+}
+
+QString FigureWords::refractor(std::size_t index) {
+  return tr("Refractor %1").arg(index + 1);
+}
+
 QString FigureWords::sectionCaption(const SectionScene& scene, double verticalExaggeration) {
   const double step = scene.range.span() / 100.0;
   QString unit = qt(quantityUnit(scene.quantity));
@@ -73,7 +81,7 @@ QString FigureWords::sectionCaption(const SectionScene& scene, double verticalEx
   if (!scene.rays.empty()) {
     parts += scene.rays.size() == 1 ? tr("1 ray") : tr("%1 rays").arg(scene.rays.size());
   }
-  if (scene.rmsPercent >= 0.0) parts += misfit(scene.rmsPercent);
+  if (scene.rmsPercent >= 0.0) parts += inversionMisfit(scene.rmsPercent);
   if (std::abs(verticalExaggeration - 1.0) > 1e-9) {
     QString factor = qt(formatDouble(verticalExaggeration, 4));
     if (!factor.contains(QLatin1Char('.')) && !factor.contains(QLatin1Char('e'))) {

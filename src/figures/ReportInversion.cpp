@@ -178,6 +178,15 @@ Status addSection(ReportBuilder& builder, const SectionFigureOptions& options,
   return status;
 }
 
+/// Whether the computed times still are those that the inversion ended with. Those of a project
+/// that was opened again are not: they are traced anew through the finished section.
+bool isEndOf(const InversionRecord& run, const Misfit& misfit) {
+  if (run.history.empty()) return false;
+  const Misfit& last = run.history.back();
+  return last.count == misfit.count && last.rmse == misfit.rmse &&
+         last.relativeRms == misfit.relativeRms;
+}
+
 void addHistory(ReportBuilder& builder, const InversionRecord& run) {
   ReportTable table{{{ReportWords::tr("External iteration"), true},
                      {ReportWords::tr("Picks"), true},
@@ -195,6 +204,10 @@ void addHistory(ReportBuilder& builder, const InversionRecord& run) {
                           number(1e2 * misfit.maxRelativeError, 2)});
   }
   builder.table(ReportWords::tr("Misfit after every external iteration"), table);
+  builder.paragraph(ReportWords::tr(
+      "The misfit of an iteration is that of its own rays, before the last correction of the "
+      "velocities and before they are smoothed. New rays through the finished section are faster "
+      "in places, and their misfit is usually larger."));
 }
 
 }  // namespace
@@ -258,9 +271,8 @@ Status addSections(ReportBuilder& builder) {
   options.scene.rays = builder.options.sections.rays && !document.rays.empty();
   QString caption = ReportWords::tr("Velocity of the starting model");
   if (document.hasTomographicInfo) {
-    caption = options.scene.rays
-                  ? ReportWords::tr("Velocity section with the rays of the last iteration")
-                  : ReportWords::tr("Velocity section");
+    caption = options.scene.rays ? ReportWords::tr("Velocity section with rays")
+                                 : ReportWords::tr("Velocity section");
   }
   Status status = addSection(builder, options, caption);
   const bool density = std::any_of(document.info_density.begin(), document.info_density.end(),
@@ -294,7 +306,10 @@ Status addMisfit(ReportBuilder& builder) {
     facts.rows.push_back({ReportWords::tr("Shots and receivers left out, beyond the grid"),
                           QString::number(document.excluded.size())});
   }
-  builder.table(ReportWords::tr("Misfit of the section"), facts);
+  const bool ofTheRun = document.lastInversion && isEndOf(*document.lastInversion, misfit);
+  builder.table(ofTheRun ? ReportWords::tr("Misfit after the last external iteration")
+                         : ReportWords::tr("Misfit of the section"),
+                facts);
   FigureDrawing drawing;
   if (prepareResidualFigure(document, builder.widthMm(), kMisfitHeightMm, drawing).ok()) {
     builder.figure(ReportWords::tr("Residuals of the picks against the distance from their shot"),

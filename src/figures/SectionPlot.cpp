@@ -126,7 +126,9 @@ void SectionPlot::Parts::addLayers() {
                      {1.4, true}));
   }
   for (std::size_t i = 0; i < scene.refractors.size(); ++i) {
-    figure.add(lines(scene.refractors[i].pieces, qt(scene.refractors[i].name), refractorColor(i),
+    const std::string& name = scene.refractors[i].name;
+    figure.add(lines(scene.refractors[i].pieces,
+                     name.empty() ? FigureWords::refractor(i) : qt(name), refractorColor(i),
                      {2.0, false}));
   }
 }

@@ -5,6 +5,7 @@
 #include "figures/TravelTimeCurves.h"
 #include "figures/TravelTimeItems.h"
 #include "model/TomoDocument.h"
+#include "tomo/Misfit.h"
 
 #include <QApplication>
 #include <QByteArray>
@@ -37,7 +38,7 @@ class TravelTimeSheet {
 
  private:
   void setScales(double width, double height);
-  std::string caption(double rmsPercent) const;
+  std::string caption(const Misfit& misfit) const;
 
   TravelTimeFigureOptions mOptions;
   TravelTimeCurves mCurves;
@@ -61,7 +62,7 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
   }
   mLayout.computedTimes = mCurves.computedTimes;
   mLook.joined = mCurves.computedTimes == 0;
-  mCaption = caption(document.RMSE_tomography);
+  mCaption = caption(computeMisfit(document));
   mPlot.addAxis(QwtPlot::xBottom, FigureWords::distanceAxis());
   mPlot.addAxis(QwtPlot::yLeft, FigureWords::timeAxis());
   using namespace travel_time_items;
@@ -70,12 +71,12 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
   mPlot.add(shots(mCurves.curves, mLook));
 }
 
-std::string TravelTimeSheet::caption(double rmsPercent) const {
+std::string TravelTimeSheet::caption(const Misfit& misfit) const {
   QStringList parts{FigureWords::shots(mCurves.curves.size()),
                     FigureWords::picks(mLayout.picks.size())};
   if (mLayout.computedTimes > 0) {
     parts += FigureWords::computedTimes(mLayout.computedTimes);
-    if (rmsPercent >= 0.0) parts += FigureWords::misfit(rmsPercent);
+    if (misfit.count > 0) parts += FigureWords::misfit(100.0 * misfit.relativeRms);
   }
   return FigureWords::joined(parts).toStdString();
 }

@@ -32,7 +32,7 @@ enum class SectionFill {
 
 /// A line of the layered interpretation, in pieces: it is broken where nothing is known of it.
 struct SectionLine {
-  std::string name;                          ///< for the legend, UTF-8
+  std::string name;                          ///< for the legend, UTF-8; empty: by its number
   std::vector<std::vector<Point2D>> pieces;  ///< survey positions, two at least in each
 };
 

@@ -35,7 +35,7 @@ TEST(FigureWords, theCaptionStatesWhatTheReaderCannotSee) {
   const SectionScene scene = sceneOf(document, options);
   EXPECT_EQ(captionOf(scene, 1.0),
             "Velocity 300 to 1000 m/s   \u00B7   Contours every 100 m/s   \u00B7   "
-            "RMS misfit 2.35 %");
+            "RMS misfit of the inversion 2.35 %");
   EXPECT_THAT(captionOf(scene, 2.0), HasSubstr("Vertical exaggeration 2.0"));
   EXPECT_THAT(captionOf(scene, 1.25), HasSubstr("Vertical exaggeration 1.25"));
   document.hasTomographicInfo = false;

@@ -220,6 +220,16 @@ TEST(Report, keepsItsOwnNumbersAndThoseOfTheRun) {
               Contains(QStringList({"Length of the line", "24.00 m"})));
 }
 
+TEST(Report, tellsTimesOfTheInversionFromTimesTracedAnew) {
+  TomoDocument line = invertedLine();
+  const auto captions = [&line] { return textsOf(reportOn({line}), Kind::kTable); };
+  EXPECT_THAT(captions(), Contains(HasSubstr("Misfit after the last external iteration")));
+  for (TravelTime& record : line.ttArray) {
+    for (double& time : record.ttCalcolati) time += 0.001;
+  }
+  EXPECT_THAT(captions(), Contains(HasSubstr("Misfit of the section")));
+}
+
 TEST(Report, breaksPagesOnlyWhereAReaderWould) {
   for (const int shots : {1, 2, 23, 24, 25, 26, 27, 28, 60}) {
     const TomoDocument line = invertedLine(shots);

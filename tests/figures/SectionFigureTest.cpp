@@ -55,6 +55,16 @@ QRgb pixelAt(const QImage& image, const SectionFigureLayout& layout, double x, d
   return image.pixel(static_cast<int>(column), static_cast<int>(row));
 }
 
+TEST(SectionFigure, refractorsWithoutANameStandInTheLegendByNumber) {
+  SectionFigureOptions options;
+  options.scene.refractors = {{"", {{{5.0, -1.0}, {20.0, -1.0}}}},
+                              {"Bedrock", {{{5.0, -3.0}, {20.0, -3.0}}}}};
+  const Picture picture =
+      pictureOf(sectionDocument(6, 30, 1.0, patchwork), options, FigureFormat::kSvg);
+  EXPECT_THAT(picture.bytes, HasSubstr(">Refractor 1<"));
+  EXPECT_THAT(picture.bytes, HasSubstr(">Bedrock<"));
+}
+
 TEST(SectionFigure, theSuffixChoosesTheFormat) {
   const TestFolder folder;
   const TomoDocument document = sectionDocument(6, 30, 1.0, patchwork);

@@ -82,11 +82,11 @@ TEST(TravelTimeFigure, computedTimesAreTheLinesWhenThereAreAny) {
   TomoDocument document = shotDocument(2, 6, 0);
   EXPECT_EQ(curvesOf(document, FigureFormat::kSvg).bytes.find("Computed"), std::string::npos);
   document.ttArray[0].ttCalcolati = {0.04, 0.04, 0.04, kNoTime, 0.04, 0.04, 0.04};
-  document.RMSE_tomography = 3.456;
+  document.RMSE_tomography = 3.456;  // of other times: those of the inversion
   const Curves curves = curvesOf(document, FigureFormat::kSvg);
   EXPECT_EQ(curves.layout.computedTimes, 5U);
   EXPECT_THAT(curves.bytes, HasSubstr(">Computed<"));
-  EXPECT_THAT(curves.bytes, HasSubstr("RMS misfit 3.46 %"));
+  EXPECT_THAT(curves.bytes, HasSubstr("RMS misfit 202 %"));
   const Curves picture = curvesOf(document, FigureFormat::kPng);
   EXPECT_LT(picture.colorAt(11.0, 40.0).lightness(), 240);
   EXPECT_EQ(picture.colorAt(11.0, 500.0 * (firstBreak(0) + firstBreak(1))).lightness(), 255);
