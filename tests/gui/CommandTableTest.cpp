@@ -133,7 +133,7 @@ TEST_F(Commands, shareNoKeyAndNoMnemonicOfTheMenuBar) {
       keys.insert(key.toString());
     }
   }
-  for (const char* language : {"en", "it"}) {
+  for (const char* language : {"de", "en", "es", "fr", "it"}) {
     writeSettings(language);
     open();
     QSet<QString> mnemonics;

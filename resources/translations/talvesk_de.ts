@@ -1,0 +1,5237 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ColorPaletteWidget</name>
+    <message>
+        <source>Handles of the gradient</source>
+        <translation>Regler des Farbverlaufs</translation>
+    </message>
+    <message>
+        <source>Drag a handle; double-click it for its colour.
+Keys: Left and Right move the selected handle (with Ctrl by one), Up and Down select another, Space asks for its colour, Insert adds and Delete removes one.</source>
+        <translation>Einen Regler ziehen; Doppelklick wählt seine Farbe.
+Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins), Auf und Ab wählen einen anderen aus, die Leertaste fragt nach seiner Farbe, Einfg fügt einen hinzu und Entf entfernt einen.</translation>
+    </message>
+    <message>
+        <source>Number of the handle that the value, the colour and Delete are for</source>
+        <translation>Nummer des Reglers, für den Wert, Farbe und Löschen gelten</translation>
+    </message>
+    <message>
+        <source>Where on the scale the selected handle stands</source>
+        <translation>Stelle des ausgewählten Reglers auf der Skala</translation>
+    </message>
+    <message>
+        <source>Value shown in the first colour, and below it</source>
+        <translation>Wert, der wie alle kleineren in der ersten Farbe erscheint</translation>
+    </message>
+    <message>
+        <source>Value shown in the last colour, and above it</source>
+        <translation>Wert, der wie alle größeren in der letzten Farbe erscheint</translation>
+    </message>
+    <message>
+        <source>Add Slider</source>
+        <translation>Regler hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a handle between the selected one and the next, in the colour of that place</source>
+        <translation>Fügt zwischen dem ausgewählten und dem nächsten Regler einen weiteren in der Farbe dieser Stelle ein</translation>
+    </message>
+    <message>
+        <source>Set Selected Slider Color</source>
+        <translation>Farbe des ausgewählten Reglers</translation>
+    </message>
+    <message>
+        <source>Choose the handle&apos;s colour</source>
+        <translation>Wählt die Farbe des Reglers</translation>
+    </message>
+    <message>
+        <source>Delete Selected Slider</source>
+        <translation>Ausgewählten Regler löschen</translation>
+    </message>
+    <message>
+        <source>Remove the selected handle; the first and the last stay</source>
+        <translation>Entfernt den ausgewählten Regler; der erste und der letzte bleiben</translation>
+    </message>
+    <message>
+        <source>Selected Handle</source>
+        <translation>Ausgewählter Regler</translation>
+    </message>
+    <message>
+        <source>Value: </source>
+        <translation>Wert: </translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>The colours of a built-in palette stay as they are; Edit Palette makes a copy.</source>
+        <translation>Die Farben einer mitgelieferten Palette sind fest; „Palette bearbeiten“ legt eine Kopie an.</translation>
+    </message>
+    <message>
+        <source>Cannot move handle at mimimum value.</source>
+        <translation>Der Regler am kleinsten Wert lässt sich nicht verschieben.</translation>
+    </message>
+    <message>
+        <source>Cannot move handle at maximum value.</source>
+        <translation>Der Regler am größten Wert lässt sich nicht verschieben.</translation>
+    </message>
+    <message>
+        <source>There is no room for another handle here.</source>
+        <translation>Hier ist kein Platz für einen weiteren Regler.</translation>
+    </message>
+    <message>
+        <source>The first and the last handle stay.</source>
+        <translation>Der erste und der letzte Regler bleiben.</translation>
+    </message>
+    <message>
+        <source>Colour of the selected handle</source>
+        <translation>Farbe des ausgewählten Reglers</translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <translation> von %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DialogSetGeometry</name>
+    <message>
+        <source>Set survey geometry - Dialog</source>
+        <translation>Geometrie der Messung</translation>
+    </message>
+    <message>
+        <source>This survey has no shots yet. Open shot files (Ctrl+O) or import travel times first, or add S-wave pairs on the page Shots.</source>
+        <translation>Diese Messung hat noch keine Schüsse. Öffnen Sie zuerst Schussdateien (Strg+O), importieren Sie Laufzeiten oder fügen Sie auf der Seite „Schüsse“ S-Wellen-Paare hinzu.</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>&amp;String:</source>
+        <translation>&amp;Auslage:</translation>
+    </message>
+    <message>
+        <source>The geophone string in the table; its geophones are in the order of the channels</source>
+        <translation>Die Geophonauslage in der Tabelle; ihre Geophone stehen in der Reihenfolge der Kanäle</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a string without geophones</source>
+        <translation>Fügt eine Auslage ohne Geophone hinzu</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the string in the table</source>
+        <translation>Entfernt die Auslage in der Tabelle</translation>
+    </message>
+    <message>
+        <source>&amp;Copy from</source>
+        <translation>&amp;Kopieren von</translation>
+    </message>
+    <message>
+        <source>Replace the geophones of this string by those of another one</source>
+        <translation>Ersetzt die Geophone dieser Auslage durch die einer anderen</translation>
+    </message>
+    <message>
+        <source>&amp;First (m):</source>
+        <translation>E&amp;rstes (m):</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone along the line</source>
+        <translation>Entfernung des ersten Geophons entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>S&amp;pacing (m):</source>
+        <translation>A&amp;bstand (m):</translation>
+    </message>
+    <message>
+        <source>Distance from one geophone to the next; negative where the channels run backwards</source>
+        <translation>Abstand von einem Geophon zum nächsten; negativ, wenn die Kanäle rückwärts laufen</translation>
+    </message>
+    <message>
+        <source>C&amp;ount:</source>
+        <translation>An&amp;zahl:</translation>
+    </message>
+    <message>
+        <source>How many geophones the string gets, as a rule the channels of a shot</source>
+        <translation>Wie viele Geophone die Auslage erhält, in der Regel so viele, wie ein Schuss Kanäle hat</translation>
+    </message>
+    <message>
+        <source>A&amp;utofill</source>
+        <translation>Aus&amp;füllen</translation>
+    </message>
+    <message>
+        <source>Give the string so many geophones, evenly spaced; elevations that are there stay</source>
+        <translation>Gibt der Auslage so viele Geophone in gleichem Abstand; vorhandene Höhen bleiben</translation>
+    </message>
+    <message>
+        <source>Geophones of the string</source>
+        <translation>Geophone der Auslage</translation>
+    </message>
+    <message>
+        <source>Type, or paste from a spreadsheet. Enter goes down, Delete empties cells, Ctrl+D fills down, Insert adds a row. Elevations in italics were not typed and can be interpolated.</source>
+        <translation>Tippen Sie oder fügen Sie aus einer Tabellenkalkulation ein. Eingabe geht nach unten, Entf leert Zellen, Strg+D füllt nach unten aus, Einfg fügt eine Zeile ein. Kursive Höhen wurden nicht eingegeben und lassen sich interpolieren.</translation>
+    </message>
+    <message>
+        <source>&amp;Interpolate elevations</source>
+        <translation>Höhen &amp;interpolieren</translation>
+    </message>
+    <message>
+        <source>Elevations that were not typed follow a line from typed one to typed one; empty those that shall be interpolated</source>
+        <translation>Nicht eingegebene Höhen folgen einer Geraden von einer eingegebenen zur nächsten; leeren Sie die Höhen, die interpoliert werden sollen</translation>
+    </message>
+    <message>
+        <source>&amp;Load Geometry</source>
+        <translation>Geometrie &amp;laden</translation>
+    </message>
+    <message>
+        <source>Read x and elevation of the geophones of this string from a text file</source>
+        <translation>Liest x und Höhe der Geophone dieser Auslage aus einer Textdatei</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Geometry</source>
+        <translation>Geometrie &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Write x and elevation of the geophones of this string to a text file</source>
+        <translation>Schreibt x und Höhe der Geophone dieser Auslage in eine Textdatei</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>Type, or paste from a spreadsheet. Enter goes down, Delete empties cells, Ctrl+D fills down.</source>
+        <translation>Tippen Sie oder fügen Sie aus einer Tabellenkalkulation ein. Eingabe geht nach unten, Entf leert Zellen, Strg+D füllt nach unten aus.</translation>
+    </message>
+    <message>
+        <source>Shot in the table</source>
+        <translation>Schuss in der Tabelle</translation>
+    </message>
+    <message>
+        <source>Elevations of shots that were not typed are those of the line between the geophones</source>
+        <translation>Nicht eingegebene Schusshöhen sind die der Linie zwischen den Geophonen</translation>
+    </message>
+    <message>
+        <source>S-&amp;wave files ...</source>
+        <translation>S-&amp;Wellen-Dateien ...</translation>
+    </message>
+    <message>
+        <source>Choose the DX and the SX file that the selected shot is made of</source>
+        <translation>Wählt die DX- und die SX-Datei, aus denen der ausgewählte Schuss gebildet wird</translation>
+    </message>
+    <message>
+        <source>Add S-wave &amp;pairs ...</source>
+        <translation>S-Wellen-Paare hinzu&amp;fügen ...</translation>
+    </message>
+    <message>
+        <source>Choose DX files and as many SX files; each pair becomes a shot whose traces are DX minus SX</source>
+        <translation>Wählt DX-Dateien und ebenso viele SX-Dateien; jedes Paar wird ein Schuss mit den Spuren DX minus SX</translation>
+    </message>
+    <message>
+        <source>&amp;Load Shots Geometry</source>
+        <translation>Schussgeometrie &amp;laden</translation>
+    </message>
+    <message>
+        <source>Read x and elevation of all shots from a text file</source>
+        <translation>Liest x und Höhe aller Schüsse aus einer Textdatei</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Shots Geometry</source>
+        <translation>Schussgeometrie &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Write x and elevation of all shots to a text file</source>
+        <translation>Schreibt x und Höhe aller Schüsse in eine Textdatei</translation>
+    </message>
+    <message>
+        <source>&amp;To be looked at:</source>
+        <translation>Zu &amp;prüfen:</translation>
+    </message>
+    <message>
+        <source>A click shows the geophones or shots that are meant</source>
+        <translation>Ein Klick zeigt die betroffenen Geophone oder Schüsse</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Take the last step back (Ctrl+Z)</source>
+        <translation>Macht den letzten Schritt rückgängig (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Do the step again (Ctrl+Shift+Z)</source>
+        <translation>Führt den Schritt erneut aus (Strg+Umschalt+Z)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n geophone(s)</source>
+        <translation>
+            <numerusform>%1: %n Geophon</numerusform>
+            <numerusform>%1: %n Geophone</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a length in metres.</source>
+        <translation>„%1“ ist keine Länge in Metern.</translation>
+    </message>
+    <message>
+        <source>They have no geophones then, until another string is added.</source>
+        <translation>Sie haben dann keine Geophone, bis eine andere Auslage hinzugefügt wird.</translation>
+    </message>
+    <message>
+        <source>They will use string %1, as it is numbered then.</source>
+        <translation>Sie verwenden dann Auslage %1 nach der neuen Nummerierung.</translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 is used by shot(s) %2. Remove it?</source>
+        <translation>
+            <numerusform>Auslage %1 wird von Schuss %2 verwendet. Entfernen?</numerusform>
+            <numerusform>Auslage %1 wird von den Schüssen %2 verwendet. Entfernen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All elevations were typed. Empty those that shall be interpolated.</source>
+        <translation>Alle Höhen wurden eingegeben. Leeren Sie die Höhen, die interpoliert werden sollen.</translation>
+    </message>
+    <message>
+        <source>Type the elevation of one geophone at least.</source>
+        <translation>Geben Sie die Höhe mindestens eines Geophons ein.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) interpolated.</source>
+        <translation>
+            <numerusform>%n Höhe interpoliert.</numerusform>
+            <numerusform>%n Höhen interpoliert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the grid and the results of the inversion</source>
+        <translation>das Gitter und die Ergebnisse der Inversion</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>das Gitter</translation>
+    </message>
+    <message>
+        <source>the refraction interpretation</source>
+        <translation>die Refraktionsauswertung</translation>
+    </message>
+    <message numerus="yes">
+        <source>the picks of shot(s) %1</source>
+        <translation>
+            <numerusform>die Picks von Schuss %1</numerusform>
+            <numerusform>die Picks der Schüsse %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be lost:</source>
+        <translation>Die Messung ändert sich. Verloren gehen:</translation>
+    </message>
+    <message>
+        <source>Do you want to continue?</source>
+        <translation>Möchten Sie fortfahren?</translation>
+    </message>
+    <message>
+        <source>The geometry is not complete.</source>
+        <translation>Die Geometrie ist nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>The geometry has been edited.</source>
+        <translation>Die Geometrie wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Do you want to leave it as it was before?</source>
+        <translation>Möchten Sie sie lassen, wie sie vorher war?</translation>
+    </message>
+    <message>
+        <source>Open Geometry</source>
+        <translation>Geometrie öffnen</translation>
+    </message>
+    <message>
+        <source>Save Geometry</source>
+        <translation>Geometrie speichern</translation>
+    </message>
+    <message>
+        <source>%1 exists.</source>
+        <translation>%1 ist bereits vorhanden.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Möchten Sie die Datei ersetzen?</translation>
+    </message>
+    <message>
+        <source>Geophones Geometry (*csv)</source>
+        <translation>Geophongeometrie (*csv)</translation>
+    </message>
+    <message>
+        <source>Error Message</source>
+        <translation>Fehlermeldung</translation>
+    </message>
+    <message>
+        <source>Invalid geometry file.</source>
+        <translation>Ungültige Geometriedatei.</translation>
+    </message>
+    <message>
+        <source>Geophones saved in %1</source>
+        <translation>Geophone in %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>CSV format (*.csv)</source>
+        <translation>CSV-Format (*.csv)</translation>
+    </message>
+    <message>
+        <source>Invalid geometry file. </source>
+        <translation>Ungültige Geometriedatei. </translation>
+    </message>
+    <message>
+        <source>Geophones loaded from %1</source>
+        <translation>Geophone aus %1 geladen</translation>
+    </message>
+    <message>
+        <source>Invalid shot file. </source>
+        <translation>Ungültige Schussdatei. </translation>
+    </message>
+    <message>
+        <source>Shots saved in %1</source>
+        <translation>Schüsse in %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Shots loaded from %1</source>
+        <translation>Schüsse aus %1 geladen</translation>
+    </message>
+    <message>
+        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)</source>
+        <translation>Seismische Dateien (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open DX File of Shot %1</source>
+        <translation>DX-Datei von Schuss %1 öffnen</translation>
+    </message>
+    <message>
+        <source>Open SX File of Shot %1</source>
+        <translation>SX-Datei von Schuss %1 öffnen</translation>
+    </message>
+    <message>
+        <source>Error occured</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>The files are not taken as an S-wave pair.</source>
+        <translation>Die Dateien werden nicht als S-Wellen-Paar angenommen.</translation>
+    </message>
+    <message>
+        <source>Open DX Files</source>
+        <translation>DX-Dateien öffnen</translation>
+    </message>
+    <message>
+        <source>Open SX Files</source>
+        <translation>SX-Dateien öffnen</translation>
+    </message>
+    <message>
+        <source>There must be as many SX files as DX files.</source>
+        <translation>Es müssen ebenso viele SX-Dateien wie DX-Dateien sein.</translation>
+    </message>
+    <message>
+        <source>%1 DX files and %2 SX files were chosen.</source>
+        <translation>%1 DX-Dateien und %2 SX-Dateien wurden gewählt.</translation>
+    </message>
+    <message>
+        <source>No shot was added: the files are not taken as S-wave pairs.</source>
+        <translation>Es wurde kein Schuss hinzugefügt: Die Dateien werden nicht als S-Wellen-Paare angenommen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n S-wave shot(s) added.</source>
+        <translation>
+            <numerusform>%n S-Wellen-Schuss hinzugefügt.</numerusform>
+            <numerusform>%n S-Wellen-Schüsse hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Read with this separator the file has %1 lines of numbers; %2 are needed.</source>
+        <translation>Mit diesem Trennzeichen gelesen hat die Datei %1 Zeilen mit Zahlen; %2 werden gebraucht.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ExportTomoVelData</name>
+    <message>
+        <source>Set optional shift parameter before export</source>
+        <translation>Optionale Verschiebung vor dem Export</translation>
+    </message>
+    <message>
+        <source>Y coord of the line</source>
+        <translation>Y-Koordinate der Messlinie</translation>
+    </message>
+    <message>
+        <source>Y coordinate of the line in metres</source>
+        <translation>Y-Koordinate der Messlinie in Metern</translation>
+    </message>
+    <message>
+        <source>Written as Y of every cell</source>
+        <translation>Wird als Y jeder Zelle geschrieben</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Z offset of the line</source>
+        <translation>Z-Verschiebung der Messlinie</translation>
+    </message>
+    <message>
+        <source>Z offset of the line in metres</source>
+        <translation>Z-Verschiebung der Messlinie in Metern</translation>
+    </message>
+    <message>
+        <source>Added to the elevation of every cell</source>
+        <translation>Wird zur Höhe jeder Zelle addiert</translation>
+    </message>
+    <message>
+        <source>X is the distance along the line</source>
+        <translation>X ist die Entfernung entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Takes the grid&apos;s offset off; X is the grid&apos;s own abscissa else</source>
+        <translation>Zieht den Versatz des Gitters ab; sonst ist X die Abszisse des Gitters selbst</translation>
+    </message>
+    <message>
+        <source>The Y coordinate is not a number.</source>
+        <translation>Die Y-Koordinate ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The Z offset is not a number.</source>
+        <translation>Die Z-Verschiebung ist keine Zahl.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureWords</name>
+    <message>
+        <source>Contours</source>
+        <translation>Isolinien</translation>
+    </message>
+    <message>
+        <source>Vertical gradient of velocity</source>
+        <translation>Vertikaler Geschwindigkeitsgradient</translation>
+    </message>
+    <message>
+        <source>Laplacian of velocity</source>
+        <translation>Laplace der Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Informationsdichte</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>1 trace</source>
+        <translation>1 Spur</translation>
+    </message>
+    <message>
+        <source>%1 traces</source>
+        <translation>%1 Spuren</translation>
+    </message>
+    <message>
+        <source>1 pick</source>
+        <translation>1 Pick</translation>
+    </message>
+    <message>
+        <source>%1 picks</source>
+        <translation>%1 Picks</translation>
+    </message>
+    <message>
+        <source>1 shot</source>
+        <translation>1 Schuss</translation>
+    </message>
+    <message>
+        <source>%1 shots</source>
+        <translation>%1 Schüsse</translation>
+    </message>
+    <message>
+        <source>1 computed time</source>
+        <translation>1 berechnete Zeit</translation>
+    </message>
+    <message>
+        <source>%1 computed times</source>
+        <translation>%1 berechnete Zeiten</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 %</source>
+        <translation>RMS-Abweichung %1 %</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>quantity, least and greatest value with its unit</comment>
+        <translation>%1 %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Contours every %1</source>
+        <translation>Isolinien alle %1</translation>
+    </message>
+    <message>
+        <source>1 ray</source>
+        <translation>1 Strahl</translation>
+    </message>
+    <message>
+        <source>%1 rays</source>
+        <translation>%1 Strahlen</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration %1</source>
+        <translation>Überhöhung %1</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Entfernung [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Höhe [m]</translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation>Zeit [ms]</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>First breaks</source>
+        <translation>Ersteinsätze</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>Schuss %1 von %2</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Schuss %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m</source>
+        <comment>shot, place</comment>
+        <translation>%1 bei %2 m</translation>
+    </message>
+    <message>
+        <source>%1, filtered</source>
+        <comment>traces</comment>
+        <translation>%1, gefiltert</translation>
+    </message>
+    <message>
+        <source>%1, some filtered</source>
+        <comment>traces</comment>
+        <translation>%1, teilweise gefiltert</translation>
+    </message>
+    <message>
+        <source>One of every %1 is drawn</source>
+        <translation>Nur jede %1. ist gezeichnet</translation>
+    </message>
+    <message>
+        <source>%1 without samples or sample interval</source>
+        <translation>%1 ohne Abtastwerte oder Abtastintervall</translation>
+    </message>
+    <message>
+        <source>Each trace to its own maximum, gain %1</source>
+        <translation>Jede Spur auf ihr eigenes Maximum, Verstärkung %1</translation>
+    </message>
+    <message>
+        <source>All traces to one maximum, gain %1</source>
+        <translation>Alle Spuren auf ein Maximum, Verstärkung %1</translation>
+    </message>
+    <message>
+        <source>no picks</source>
+        <translation>keine Picks</translation>
+    </message>
+    <message>
+        <source>%1 outside the times shown</source>
+        <comment>picks</comment>
+        <translation>%1 außerhalb der gezeigten Zeiten</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Strahlen</translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Grenze der Abdeckung</translation>
+    </message>
+    <message>
+        <source>Travel times</source>
+        <translation>Laufzeiten</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Berechnet</translation>
+    </message>
+    <message>
+        <source>Refraction Profile</source>
+        <translation>Refraktionsprofil</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Z (m)</source>
+        <translation>Z (m)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Schicht %1</translation>
+    </message>
+    <message>
+        <source>Velocities of refractors: median</source>
+        <translation>Geschwindigkeiten der Refraktoren: Median</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Äußere Iteration</translation>
+    </message>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>RMS-Abweichung [ms]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Offset [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [ms]</source>
+        <translation>Berechnet minus gemessen [ms]</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeometryTable</name>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1.</source>
+        <translation>Nichts eingefügt: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows do not fit from row %2 on, of %3.</source>
+        <translation>Nichts eingefügt: %1 Zeilen passen ab Zeile %2 von %3 nicht hinein.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 columns do not fit from column &quot;%2&quot; on.</source>
+        <translation>Nichts eingefügt: %1 Spalten passen ab Spalte „%2“ nicht hinein.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1</source>
+        <translation>Nichts eingefügt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeometryTexts</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und noch %n</numerusform>
+            <numerusform>%1 und noch %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 without a position.</source>
+        <translation>
+            <numerusform>Auslage %1: Geophon %2 ohne Position.</numerusform>
+            <numerusform>Auslage %1: Geophone %2 ohne Position.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>String %1: geophones %2 stand at one place.</source>
+        <translation>Auslage %1: Geophone %2 stehen an derselben Stelle.</translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 against the direction of the string.</source>
+        <translation>
+            <numerusform>Auslage %1: Geophon %2 gegen die Richtung der Auslage.</numerusform>
+            <numerusform>Auslage %1: Geophone %2 gegen die Richtung der Auslage.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 not at the elevation that string %3 has there.</source>
+        <translation>
+            <numerusform>Auslage %1: Geophon %2 nicht auf der Höhe, die Auslage %3 dort hat.</numerusform>
+            <numerusform>Auslage %1: Geophone %2 nicht auf der Höhe, die Auslage %3 dort hat.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a position.</source>
+        <translation>
+            <numerusform>Schuss %1 ohne Position.</numerusform>
+            <numerusform>Schüsse %1 ohne Position.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string.</source>
+        <translation>
+            <numerusform>Schuss %1 ohne Geophonauslage.</numerusform>
+            <numerusform>Schüsse %1 ohne Geophonauslage.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not an S-wave pair, as others are: a survey holds one kind of wave.</source>
+        <translation>
+            <numerusform>Schuss %1 ist anders als andere kein S-Wellen-Paar: Eine Messung enthält nur eine Wellenart.</numerusform>
+            <numerusform>Schüsse %1 sind anders als andere keine S-Wellen-Paare: Eine Messung enthält nur eine Wellenart.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 farther off the line than the line is long.</source>
+        <translation>
+            <numerusform>Schuss %1 weiter von der Messlinie entfernt, als diese lang ist.</numerusform>
+            <numerusform>Schüsse %1 weiter von der Messlinie entfernt, als diese lang ist.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 far above or below the line.</source>
+        <translation>
+            <numerusform>Schuss %1 weit über oder unter der Messlinie.</numerusform>
+            <numerusform>Schüsse %1 weit über oder unter der Messlinie.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 has %2 geophones, shot(s) %3 %4 traces: the first %5 of both are used.</source>
+        <translation>
+            <numerusform>Auslage %1 hat %2 Geophone, Schuss %3 hat %4 Spuren: Jeweils die ersten %5 werden verwendet.</numerusform>
+            <numerusform>Auslage %1 hat %2 Geophone, die Schüsse %3 haben %4 Spuren: Jeweils die ersten %5 werden verwendet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>String %1 has no geophones.</source>
+        <translation>Auslage %1 hat keine Geophone.</translation>
+    </message>
+    <message>
+        <source>No shot uses string %1; its positions shape the surface all the same.</source>
+        <translation>Kein Schuss verwendet Auslage %1; ihre Positionen formen trotzdem die Oberfläche.</translation>
+    </message>
+    <message>
+        <source>Shot ID &lt;b&gt;</source>
+        <translation>Schuss-ID &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;/b&gt;&lt;br&gt;Geophone geometry ID: &lt;b&gt;</source>
+        <translation>&lt;/b&gt;&lt;br&gt;ID der Geophongeometrie: &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;/b&gt; Shot position: &lt;b&gt;</source>
+        <translation>&lt;/b&gt; Schussposition: &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source> m&lt;/b&gt;</source>
+        <translation> m&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>File name &lt;b&gt;</source>
+        <translation>Dateiname &lt;b&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeophoneTable</name>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Höhe (m)</translation>
+    </message>
+    <message>
+        <source>%1 m is too far away.</source>
+        <translation>%1 m ist zu weit entfernt.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ImagesDialog</name>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Pictures of</source>
+        <translation>Bilder von</translation>
+    </message>
+    <message>
+        <source>Traces of the current shot</source>
+        <translation>Spuren des aktuellen Schusses</translation>
+    </message>
+    <message>
+        <source>Traces of all shots</source>
+        <translation>Spuren aller Schüsse</translation>
+    </message>
+    <message>
+        <source>A picture for every shot</source>
+        <translation>Ein Bild für jeden Schuss</translation>
+    </message>
+    <message>
+        <source>Filtered traces</source>
+        <translation>Gefilterte Spuren</translation>
+    </message>
+    <message>
+        <source>The filtered copy of the traces, where there is one</source>
+        <translation>Die gefilterte Kopie der Spuren, wo es eine gibt</translation>
+    </message>
+    <message>
+        <source>Travel time curves</source>
+        <translation>Laufzeitkurven</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Geschwindigkeitsschnitt</translation>
+    </message>
+    <message>
+        <source>Palette, contours, rays and geophones as the section view shows them</source>
+        <translation>Palette, Isolinien, Strahlen und Geophone, wie die Schnittansicht sie zeigt</translation>
+    </message>
+    <message>
+        <source>Vertical gradient</source>
+        <translation>Vertikaler Gradient</translation>
+    </message>
+    <message>
+        <source>Laplacian</source>
+        <translation>Laplace-Gradient</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Informationsdichte</translation>
+    </message>
+    <message>
+        <source>Sections as cells</source>
+        <translation>Schnitte als Zellen</translation>
+    </message>
+    <message>
+        <source>In bands where contours are filled</source>
+        <translation>Als Bänder, wenn die Isoflächen gefüllt sind</translation>
+    </message>
+    <message>
+        <source>Sections smooth</source>
+        <translation>Schnitte fließend</translation>
+    </message>
+    <message>
+        <source>Blended from cell to cell, in pictures of their own</source>
+        <translation>Mit fließenden Übergängen zwischen den Zellen, in eigenen Bildern</translation>
+    </message>
+    <message>
+        <source>Refraction profile</source>
+        <translation>Refraktionsprofil</translation>
+    </message>
+    <message>
+        <source>Format and size</source>
+        <translation>Format und Größe</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat:</source>
+        <translation>F&amp;ormat:</translation>
+    </message>
+    <message>
+        <source>PNG (pixels)</source>
+        <translation>PNG (Pixel)</translation>
+    </message>
+    <message>
+        <source>SVG (shapes)</source>
+        <translation>SVG (Vektoren)</translation>
+    </message>
+    <message>
+        <source>PDF (shapes)</source>
+        <translation>PDF (Vektoren)</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of the size:</source>
+        <translation>&amp;Einheit der Größe:</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Breite:</translation>
+    </message>
+    <message>
+        <source>Height as each picture asks for</source>
+        <translation>Höhe, wie jedes Bild sie verlangt</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Höhe:</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Auflösung:</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Pixels per inch; also how large letters and lines are in a picture of so many pixels</source>
+        <translation>Pixel pro Zoll; bestimmt auch, wie groß Schrift und Linien in einem Bild mit so vielen Pixeln sind</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>O&amp;rdner:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>&amp;Names begin with:</source>
+        <translation>&amp;Namen beginnen mit:</translation>
+    </message>
+    <message>
+        <source>Files to be &amp;written:</source>
+        <translation>&amp;Zu schreibende Dateien:</translation>
+    </message>
+    <message>
+        <source>Folder of the pictures</source>
+        <translation>Ordner der Bilder</translation>
+    </message>
+    <message>
+        <source>Nothing to write is chosen.</source>
+        <translation>Es ist nichts zum Schreiben gewählt.</translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>Diesen Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The folder is not writable.</source>
+        <translation>In den Ordner kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>A name cannot hold a slash.</source>
+        <translation>Ein Name darf keinen Schrägstrich enthalten.</translation>
+    </message>
+    <message>
+        <source>%1 (exists)</source>
+        <translation>%1 (vorhanden)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LayerCurvesPlot</name>
+    <message>
+        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
+        <translation>Schuss %1, Spur %2: %3 m, %4 ms, %5</translation>
+    </message>
+    <message>
+        <source>no layer</source>
+        <translation>keine Schicht</translation>
+    </message>
+    <message>
+        <source>layer %1</source>
+        <translation>Schicht %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LinePlan</name>
+    <message>
+        <source>Geophones of string %1</source>
+        <translation>Geophone der Auslage %1</translation>
+    </message>
+    <message>
+        <source>Other strings</source>
+        <translation>Andere Auslagen</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>Zu prüfen</translation>
+    </message>
+    <message>
+        <source>x %1 m, z %2 m</source>
+        <translation>x %1 m, z %2 m</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Schuss %1</translation>
+    </message>
+    <message>
+        <source>String %1, geophone %2</source>
+        <translation>Auslage %1, Geophon %2</translation>
+    </message>
+    <message>
+        <source>Plan of the line</source>
+        <translation>Plan der Messlinie</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>Entfernung (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Höhe (m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Messages</name>
+    <message>
+        <source>The document has been modified</source>
+        <translation>Das Dokument wurde geändert</translation>
+    </message>
+    <message>
+        <source>Do you want to save your changes?</source>
+        <translation>Möchten Sie Ihre Änderungen speichern?</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recover survey</source>
+        <translation>Messung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Talvesk was not closed properly.</source>
+        <translation>Talvesk wurde nicht ordnungsgemäß beendet.</translation>
+    </message>
+    <message>
+        <source>Ask again later</source>
+        <translation>Später erneut fragen</translation>
+    </message>
+    <message>
+        <source>Delete it</source>
+        <translation>Kopie löschen</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MisfitPlot</name>
+    <message>
+        <source>Misfit after every external iteration</source>
+        <translation>Abweichung nach jeder äußeren Iteration</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Äußere Iteration</translation>
+    </message>
+    <message>
+        <source>RMSE (ms)</source>
+        <translation>RMSE (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PaletteDialog</name>
+    <message>
+        <source>Palette Settings</source>
+        <translation>Paletteneinstellungen</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Palette that colours the section</source>
+        <translation>Palette, die den Schnitt färbt</translation>
+    </message>
+    <message>
+        <source>Load palettes from files</source>
+        <translation>Paletten aus Dateien laden</translation>
+    </message>
+    <message>
+        <source>Save this palette to a file</source>
+        <translation>Diese Palette in einer Datei speichern</translation>
+    </message>
+    <message>
+        <source>Create New Palette</source>
+        <translation>Neue Palette anlegen</translation>
+    </message>
+    <message>
+        <source>Add a palette from black to white and select it</source>
+        <translation>Fügt eine Palette von Schwarz nach Weiß hinzu und wählt sie aus</translation>
+    </message>
+    <message>
+        <source>Edit Palette</source>
+        <translation>Palette bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit the colours; of a built-in palette, those of a copy</source>
+        <translation>Bearbeitet die Farben; bei einer mitgelieferten Palette die einer Kopie</translation>
+    </message>
+    <message>
+        <source>Rename Palette</source>
+        <translation>Palette umbenennen</translation>
+    </message>
+    <message>
+        <source>Give the palette another name; built-in ones keep theirs</source>
+        <translation>Gibt der Palette einen anderen Namen; mitgelieferte behalten ihren</translation>
+    </message>
+    <message>
+        <source>Delete Palette</source>
+        <translation>Palette löschen</translation>
+    </message>
+    <message>
+        <source>Remove the palette; built-in ones stay</source>
+        <translation>Entfernt die Palette; mitgelieferte bleiben</translation>
+    </message>
+    <message>
+        <source>Number of colours</source>
+        <translation>Anzahl der Farben</translation>
+    </message>
+    <message>
+        <source>Into how many colours the gradient is cut</source>
+        <translation>In wie viele Farben der Verlauf geteilt wird</translation>
+    </message>
+    <message>
+        <source>Range from Data</source>
+        <translation>Bereich aus Daten</translation>
+    </message>
+    <message>
+        <source>Lock the range</source>
+        <translation>Bereich festhalten</translation>
+    </message>
+    <message>
+        <source>Keep minimum and maximum when another palette is chosen or another line is shown</source>
+        <translation>Behält Minimum und Maximum, wenn eine andere Palette gewählt oder eine andere Messlinie gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Talvesk Palette (*.xml)</source>
+        <translation>Talvesk-Palette (*.xml)</translation>
+    </message>
+    <message>
+        <source>MIN: %1, MAX: %2</source>
+        <translation>MIN: %1, MAX: %2</translation>
+    </message>
+    <message>
+        <source>New palette</source>
+        <translation>Neue Palette</translation>
+    </message>
+    <message>
+        <source>%1 - copy</source>
+        <translation>%1 - Kopie</translation>
+    </message>
+    <message>
+        <source>Save new palette as : </source>
+        <translation>Neue Palette speichern als : </translation>
+    </message>
+    <message>
+        <source>There is a palette of this name already.</source>
+        <translation>Es gibt bereits eine Palette dieses Namens.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Dieser Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>Save Palette</source>
+        <translation>Palette speichern</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Datei ersetzen?</translation>
+    </message>
+    <message>
+        <source>Error while saving palette.</source>
+        <translation>Fehler beim Speichern der Palette.</translation>
+    </message>
+    <message>
+        <source>Open Palette</source>
+        <translation>Palette öffnen</translation>
+    </message>
+    <message>
+        <source>Error while loading palette.</source>
+        <translation>Fehler beim Laden der Palette.</translation>
+    </message>
+    <message>
+        <source>Take minimum and maximum from the velocities of the section</source>
+        <translation>Übernimmt Minimum und Maximum von den Geschwindigkeiten des Schnitts</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RecordingDetailsDialog</name>
+    <message>
+        <source>Recording details</source>
+        <translation>Aufzeichnungsdetails</translation>
+    </message>
+    <message>
+        <source>&amp;Shot:</source>
+        <translation>&amp;Schuss:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Datei:</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Spuren:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Abtastwerte pro Spur:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Abtastintervall:</translation>
+    </message>
+    <message>
+        <source>Record length:</source>
+        <translation>Aufzeichnungslänge:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Aufzeichnungsverzögerung:</translation>
+    </message>
+    <message>
+        <source>Samples dropped before the shot:</source>
+        <translation>Vor dem Schuss verworfene Abtastwerte:</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Spuren des Schusses</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Geophone x (m)</source>
+        <translation>Geophon x (m)</translation>
+    </message>
+    <message>
+        <source>Geophone z (m)</source>
+        <translation>Geophon z (m)</translation>
+    </message>
+    <message>
+        <source>Shot x (m)</source>
+        <translation>Schuss x (m)</translation>
+    </message>
+    <message>
+        <source>Shot z (m)</source>
+        <translation>Schuss z (m)</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Abtastwerte</translation>
+    </message>
+    <message>
+        <source>Interval (ms)</source>
+        <translation>Intervall (ms)</translation>
+    </message>
+    <message>
+        <source>Delay (ms)</source>
+        <translation>Verzögerung (ms)</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings of the reader:</source>
+        <translation>&amp;Warnungen beim Lesen:</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RecoveryCopy</name>
+    <message>
+        <source>Nothing can be written in %1</source>
+        <translation>In %1 kann nichts geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionProcessingDialog</name>
+    <message>
+        <source>Refraction processing</source>
+        <translation>Refraktionsauswertung</translation>
+    </message>
+    <message>
+        <source>T-x curves</source>
+        <translation>T-x-Kurven</translation>
+    </message>
+    <message>
+        <source>Select layer:</source>
+        <translation>Schicht wählen:</translation>
+    </message>
+    <message>
+        <source>0 none</source>
+        <translation>0 keine</translation>
+    </message>
+    <message>
+        <source>1 direct wave</source>
+        <translation>1 direkte Welle</translation>
+    </message>
+    <message>
+        <source>2 first refractor</source>
+        <translation>2 erster Refraktor</translation>
+    </message>
+    <message>
+        <source>3 second refractor</source>
+        <translation>3 zweiter Refraktor</translation>
+    </message>
+    <message>
+        <source>Show layer:</source>
+        <translation>Schicht zeigen:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Bearbeitbar</translation>
+    </message>
+    <message>
+        <source>Let clicks and drags mark picks</source>
+        <translation>Klicken und Ziehen ordnen Picks zu</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Propose layers</source>
+        <translation>Schichten vorschlagen</translation>
+    </message>
+    <message>
+        <source>Find the break points of all branches</source>
+        <translation>Sucht die Knickpunkte aller Äste</translation>
+    </message>
+    <message>
+        <source>Clear marks</source>
+        <translation>Zuordnungen löschen</translation>
+    </message>
+    <message>
+        <source>Shot:</source>
+        <translation>Schuss:</translation>
+    </message>
+    <message>
+        <source>Takes part</source>
+        <translation>Nimmt teil</translation>
+    </message>
+    <message>
+        <source>Whether the chosen shot takes part in the interpretation</source>
+        <translation>Ob der gewählte Schuss an der Auswertung teilnimmt</translation>
+    </message>
+    <message>
+        <source>Phantoming</source>
+        <translation>Phantoming</translation>
+    </message>
+    <message>
+        <source>Auto phantoming</source>
+        <translation>Auto-Phantoming</translation>
+    </message>
+    <message>
+        <source>Complete the curves of the end shots by the arrivals of the other shots</source>
+        <translation>Ergänzt die Kurven der Endschüsse durch die Einsätze der anderen Schüsse</translation>
+    </message>
+    <message>
+        <source>Time shifts</source>
+        <translation>Zeitverschiebungen</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Schicht</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>Shift (ms)</source>
+        <translation>Verschiebung (ms)</translation>
+    </message>
+    <message>
+        <source>tV/tG</source>
+        <translation>tV/tG</translation>
+    </message>
+    <message>
+        <source>Refractor:</source>
+        <translation>Refraktor:</translation>
+    </message>
+    <message>
+        <source>XY (m):</source>
+        <translation>XY (m):</translation>
+    </message>
+    <message>
+        <source>Velocity/Profile</source>
+        <translation>Geschwindigkeit/Profil</translation>
+    </message>
+    <message>
+        <source>Build profiles</source>
+        <translation>Profile erstellen</translation>
+    </message>
+    <message>
+        <source>Curves, tV and tG, velocities and depths from the marks</source>
+        <translation>Kurven, tV und tG, Geschwindigkeiten und Tiefen aus den Zuordnungen</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>time (ms)</source>
+        <translation>Zeit (ms)</translation>
+    </message>
+    <message>
+        <source>There are no picks to assign to layers: pick first breaks, or import travel times.</source>
+        <translation>Es gibt keine Picks, die Schichten zugeordnet werden könnten: Picken Sie Ersteinsätze oder importieren Sie Laufzeiten.</translation>
+    </message>
+    <message>
+        <source>Phantom travel times</source>
+        <translation>Phantom-Laufzeiten</translation>
+    </message>
+    <message>
+        <source>No curves yet.
+
+Assign picks to layer 2 for a shot at either end of the line, then press &quot;Auto phantoming&quot; or &quot;Build profiles&quot;.</source>
+        <translation>Noch keine Kurven.
+
+Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 2 zu und drücken Sie dann „Auto-Phantoming“ oder „Profile erstellen“.</translation>
+    </message>
+    <message>
+        <source>tV, velocity analysis</source>
+        <translation>tV, Geschwindigkeitsanalyse</translation>
+    </message>
+    <message>
+        <source>tG, time depth</source>
+        <translation>tG, Zeit-Tiefe</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Velocity (m/s)</source>
+        <translation>Geschwindigkeit (m/s)</translation>
+    </message>
+    <message>
+        <source>Refraction Profile</source>
+        <translation>Refraktionsprofil</translation>
+    </message>
+    <message>
+        <source>Z (m)</source>
+        <translation>Z (m)</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet: assign picks to layers and press &quot;Build profiles&quot;.</source>
+        <translation>Noch nichts erstellt: Ordnen Sie Picks den Schichten zu und drücken Sie „Profile erstellen“.</translation>
+    </message>
+    <message>
+        <source>There is no depth to show. Layer 1 needs a branch with two picks, and each refractor has to be faster than the layer above.</source>
+        <translation>Es gibt keine Tiefe zu zeigen. Schicht 1 braucht einen Ast mit zwei Picks, und jeder Refraktor muss schneller sein als die Schicht darüber.</translation>
+    </message>
+    <message>
+        <source>All shots</source>
+        <translation>Alle Schüsse</translation>
+    </message>
+    <message>
+        <source>%1: at %2 m</source>
+        <comment>shot number, place</comment>
+        <translation>%1: bei %2 m</translation>
+    </message>
+    <message numerus="yes">
+        <source>take %n pick(s) out</source>
+        <translation>
+            <numerusform>%n Pick herausnehmen</numerusform>
+            <numerusform>%n Picks herausnehmen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>mark %n pick(s)</source>
+        <translation>
+            <numerusform>%n Pick zuordnen</numerusform>
+            <numerusform>%n Picks zuordnen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The marks have changed since the profiles were built.</source>
+        <translation>Die Zuordnungen haben sich geändert, seit die Profile erstellt wurden.</translation>
+    </message>
+    <message>
+        <source>Click a pick, or drag around several, to assign them. Keys 1, 2, 3 and 0: layer</source>
+        <translation>Einen Pick anklicken oder mehrere umfahren, um sie zuzuordnen. Tasten 1, 2, 3 und 0: Schicht</translation>
+    </message>
+    <message>
+        <source>right of shot %1</source>
+        <translation>rechts von Schuss %1</translation>
+    </message>
+    <message>
+        <source>left of shot %1</source>
+        <translation>links von Schuss %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>no velocity</source>
+        <translation>keine Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 (%4 picks)</source>
+        <translation>Schicht %1, %2: %3 (%4 Picks)</translation>
+    </message>
+    <message>
+        <source>Replace the marks by a proposal?</source>
+        <translation>Zuordnungen durch einen Vorschlag ersetzen?</translation>
+    </message>
+    <message>
+        <source>All picks are assigned anew from the break points of the branches. Undo brings the marks back.</source>
+        <translation>Alle Picks werden nach den Knickpunkten der Äste neu zugeordnet. „Rückgängig“ bringt die Zuordnungen zurück.</translation>
+    </message>
+    <message>
+        <source>No branch of the curves has picks enough to tell layers apart.</source>
+        <translation>Kein Ast der Kurven hat genug Picks, um Schichten zu unterscheiden.</translation>
+    </message>
+    <message>
+        <source>propose layers</source>
+        <translation>Schichten vorschlagen</translation>
+    </message>
+    <message>
+        <source>clear marks</source>
+        <translation>Zuordnungen löschen</translation>
+    </message>
+    <message>
+        <source>let shot %1 take part</source>
+        <translation>Schuss %1 teilnehmen lassen</translation>
+    </message>
+    <message>
+        <source>leave shot %1 out</source>
+        <translation>Schuss %1 weglassen</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>No profile could be built.</source>
+        <translation>Es konnte kein Profil erstellt werden.</translation>
+    </message>
+    <message>
+        <source>first (layer 2)</source>
+        <translation>erster (Schicht 2)</translation>
+    </message>
+    <message>
+        <source>second (layer 3)</source>
+        <translation>zweiter (Schicht 3)</translation>
+    </message>
+    <message>
+        <source>Layer %1 from shot %2</source>
+        <translation>Schicht %1 von Schuss %2</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>nach rechts</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>nach links</translation>
+    </message>
+    <message>
+        <source>other XY</source>
+        <translation>andere XY</translation>
+    </message>
+    <message>
+        <source>XY = %1 m</source>
+        <translation>XY = %1 m</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Schicht %1</translation>
+    </message>
+    <message>
+        <source>Close without keeping the changes?</source>
+        <translation>Schließen, ohne die Änderungen zu behalten?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionProfilePlot</name>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Schicht %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Schicht %1</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionTexts</name>
+    <message>
+        <source>Unable to find nearest shot for first refractor</source>
+        <translation>Der nächste Schuss für den ersten Refraktor wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Velocity is less then zero at least one receiver. The profile may not be accurate. Please check input data </source>
+        <translation>Die Geschwindigkeit ist an mindestens einem Empfänger kleiner als null. Das Profil ist möglicherweise ungenau. Bitte prüfen Sie die Eingangsdaten </translation>
+    </message>
+    <message>
+        <source>Strong lateral velocity variations. The profile may not be accurate.</source>
+        <translation>Starke laterale Geschwindigkeitsänderungen. Das Profil ist möglicherweise ungenau.</translation>
+    </message>
+    <message>
+        <source>The Tg function is less then zero at least one receiver. The profile may not be accurate. Please check input data </source>
+        <translation>Die Tg-Funktion ist an mindestens einem Empfänger kleiner als null. Das Profil ist möglicherweise ungenau. Bitte prüfen Sie die Eingangsdaten </translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot at each end of the line has picks of it, so it has no profile.</source>
+        <translation>Schicht %1: Nicht an jedem Ende der Messlinie hat ein Schuss Picks dieser Schicht, daher hat sie kein Profil.</translation>
+    </message>
+    <message>
+        <source>Layer %1: the shot at the start of the line has fewer than two usable picks of it, so there is no forward curve.</source>
+        <translation>Schicht %1: Der Schuss am Anfang der Messlinie hat weniger als zwei brauchbare Picks dieser Schicht, daher gibt es keine Hinschusskurve.</translation>
+    </message>
+    <message>
+        <source>Layer %1: the shot at the end of the line has fewer than two usable picks of it, so there is no reverse curve.</source>
+        <translation>Schicht %1: Der Schuss am Ende der Messlinie hat weniger als zwei brauchbare Picks dieser Schicht, daher gibt es keine Gegenschusskurve.</translation>
+    </message>
+    <message>
+        <source>Layer %1: forward and reverse curve have fewer than two receivers in common.</source>
+        <translation>Schicht %1: Hinschuss- und Gegenschusskurve haben weniger als zwei gemeinsame Empfänger.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
+        <translation>Schicht %1: Kein Schuss hat auf einer Seite zwei Picks dieser Schicht, daher hat sie keine Geschwindigkeit, und die Schichten darunter haben keine Tiefe.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer above.</source>
+        <translation>Schicht %1: keine Tiefe an %2 von %3 Empfängern, wo sie nicht schneller ist als die Schicht darüber.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the layer above.</source>
+        <translation>Schicht %1: keine Tiefe an %2 von %3 Empfängern, die außerhalb des Profils der Schicht darüber liegen.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Report</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Table %1. %2</source>
+        <translation>Tabelle %1. %2</translation>
+    </message>
+    <message>
+        <source>Figure %1. %2</source>
+        <translation>Abbildung %1. %2</translation>
+    </message>
+    <message>
+        <source>Seismic refraction survey</source>
+        <translation>Refraktionsseismische Messung</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>Position [m]</source>
+        <translation>Position [m]</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Spuren</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [%]</source>
+        <translation>RMS [%]</translation>
+    </message>
+    <message>
+        <source>Mean [ms]</source>
+        <translation>Mittel [ms]</translation>
+    </message>
+    <message>
+        <source>Largest [ms]</source>
+        <translation>Größte [ms]</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Linear weighted</source>
+        <translation>Linear gewichtet</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted</source>
+        <translation>Gauß-gewichtet</translation>
+    </message>
+    <message>
+        <source>Ray based</source>
+        <translation>Strahlbasiert</translation>
+    </message>
+    <message>
+        <source>Uniform weighted</source>
+        <translation>Gleich gewichtet</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Zellen</translation>
+    </message>
+    <message>
+        <source>%1 rows by %2 columns</source>
+        <translation>%1 Zeilen mal %2 Spalten</translation>
+    </message>
+    <message>
+        <source>Side of a cell</source>
+        <translation>Seitenlänge einer Zelle</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>Depth below the surface</source>
+        <translation>Tiefe unter der Oberfläche</translation>
+    </message>
+    <message>
+        <source>Nodes per cell side</source>
+        <translation>Knoten pro Zellenseite</translation>
+    </message>
+    <message>
+        <source>Nodes altogether</source>
+        <translation>Knoten insgesamt</translation>
+    </message>
+    <message>
+        <source>The grid under the line</source>
+        <translation>Das Gitter unter der Messlinie</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Schicht</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Oberkante [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Unterkante [m]</translation>
+    </message>
+    <message>
+        <source>Velocity at top [m/s]</source>
+        <translation>Geschwindigkeit oben [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity at bottom [m/s]</source>
+        <translation>Geschwindigkeit unten [m/s]</translation>
+    </message>
+    <message>
+        <source>The layers of the starting model, depths below the surface</source>
+        <translation>Die Schichten des Startmodells, Tiefen unter der Oberfläche</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1, stopped by the user</source>
+        <translation>%1, vom Benutzer angehalten</translation>
+    </message>
+    <message>
+        <source>External iterations</source>
+        <translation>Äußere Iterationen</translation>
+    </message>
+    <message>
+        <source>Solver iterations on the rays of each</source>
+        <translation>Iterationen des Lösers je Strahlensatz</translation>
+    </message>
+    <message>
+        <source>Velocity limits</source>
+        <translation>Geschwindigkeitsgrenzen</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>Glättung</translation>
+    </message>
+    <message>
+        <source>Smoothing radius</source>
+        <translation>Glättungsradius</translation>
+    </message>
+    <message>
+        <source>1 cell</source>
+        <translation>1 Zelle</translation>
+    </message>
+    <message>
+        <source>%1 cells</source>
+        <translation>%1 Zellen</translation>
+    </message>
+    <message>
+        <source>Height over width of the smoothing window</source>
+        <translation>Höhe zu Breite des Glättungsfensters</translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation>Verstrichene Zeit</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Parameters of the inversion</source>
+        <translation>Parameter der Inversion</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Äußere Iteration</translation>
+    </message>
+    <message>
+        <source>Largest late error [ms]</source>
+        <translation>Größte Verspätung [ms]</translation>
+    </message>
+    <message>
+        <source>Largest late error [%]</source>
+        <translation>Größte Verspätung [%]</translation>
+    </message>
+    <message>
+        <source>Misfit after every external iteration</source>
+        <translation>Abweichung nach jeder äußeren Iteration</translation>
+    </message>
+    <message>
+        <source>Travel times</source>
+        <translation>Laufzeiten</translation>
+    </message>
+    <message>
+        <source>No first breaks have been picked.</source>
+        <translation>Es wurden keine Ersteinsätze gepickt.</translation>
+    </message>
+    <message>
+        <source>Travel-time curves: picked first breaks against distance</source>
+        <translation>Laufzeitkurven: gepickte Ersteinsätze über der Entfernung</translation>
+    </message>
+    <message>
+        <source>Travel-time curves: picked first breaks (symbols) and times computed through the section (lines) against distance</source>
+        <translation>Laufzeitkurven: gepickte Ersteinsätze (Symbole) und durch den Schnitt berechnete Zeiten (Linien) über der Entfernung</translation>
+    </message>
+    <message>
+        <source>Picks of every shot</source>
+        <translation>Picks jedes Schusses</translation>
+    </message>
+    <message>
+        <source>Picks of every shot and their misfit, computed minus measured</source>
+        <translation>Picks jedes Schusses und ihre Abweichung, berechnet minus gemessen</translation>
+    </message>
+    <message>
+        <source>Grid and inversion</source>
+        <translation>Gitter und Inversion</translation>
+    </message>
+    <message>
+        <source>No grid has been built and nothing has been inverted.</source>
+        <translation>Es wurde kein Gitter erstellt und nichts invertiert.</translation>
+    </message>
+    <message>
+        <source>Nothing has been inverted: the grid holds its starting model.</source>
+        <translation>Es wurde nichts invertiert: Das Gitter enthält sein Startmodell.</translation>
+    </message>
+    <message>
+        <source>The parameters of the inversion are not known.</source>
+        <translation>Die Parameter der Inversion sind nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Geschwindigkeitsschnitt</translation>
+    </message>
+    <message>
+        <source>Velocity of the starting model</source>
+        <translation>Geschwindigkeit des Startmodells</translation>
+    </message>
+    <message>
+        <source>Velocity section with the rays of the last iteration</source>
+        <translation>Geschwindigkeitsschnitt mit den Strahlen der letzten Iteration</translation>
+    </message>
+    <message>
+        <source>Misfit</source>
+        <translation>Abweichung</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Verwendete Picks</translation>
+    </message>
+    <message>
+        <source>RMS misfit</source>
+        <translation>RMS-Abweichung</translation>
+    </message>
+    <message>
+        <source>%1 ms, %2 %</source>
+        <translation>%1 ms, %2 %</translation>
+    </message>
+    <message>
+        <source>Largest late error</source>
+        <translation>Größte Verspätung</translation>
+    </message>
+    <message>
+        <source>Shots and receivers left out, beyond the grid</source>
+        <translation>Weggelassene Schüsse und Empfänger außerhalb des Gitters</translation>
+    </message>
+    <message>
+        <source>Misfit of the section</source>
+        <translation>Abweichung des Schnitts</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks against the distance from their shot</source>
+        <translation>Residuen der Picks über der Entfernung von ihrem Schuss</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Höhe [m]</translation>
+    </message>
+    <message>
+        <source>Depth %1 [m]</source>
+        <translation>Tiefe %1 [m]</translation>
+    </message>
+    <message>
+        <source>Velocity %1 [m/s]</source>
+        <translation>Geschwindigkeit %1 [m/s]</translation>
+    </message>
+    <message>
+        <source>Refraction interpretation</source>
+        <translation>Refraktionsauswertung</translation>
+    </message>
+    <message>
+        <source>Velocity of the first layer</source>
+        <translation>Geschwindigkeit der ersten Schicht</translation>
+    </message>
+    <message>
+        <source>Velocity of refractor %1</source>
+        <translation>Geschwindigkeit von Refraktor %1</translation>
+    </message>
+    <message>
+        <source>Distance XY of refractor %1</source>
+        <translation>Abstand XY von Refraktor %1</translation>
+    </message>
+    <message>
+        <source>Layers and refractors</source>
+        <translation>Schichten und Refraktoren</translation>
+    </message>
+    <message>
+        <source>Section of the layers</source>
+        <translation>Schnitt der Schichten</translation>
+    </message>
+    <message>
+        <source>Depths below the surface and velocities of the refractors</source>
+        <translation>Tiefen unter der Oberfläche und Geschwindigkeiten der Refraktoren</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces and inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
+        <translation>Ersteinsätze sind die Zeiten, zu denen die erste seismische Energie eines Schusses die einzelnen Geophone erreicht. Sie wurden auf den aufgezeichneten Spuren gepickt und mit Laufzeittomographie invertiert. Der Untergrund unter der Messlinie ist in quadratische Zellen konstanter Geschwindigkeit geteilt, die der Oberfläche folgen. Von jedem Schuss aus werden im Netz der Knoten auf den Zellenseiten die schnellsten Wege zu allen Geophonen gesucht; das sind die Strahlen. Die Differenzen zwischen gemessenen und berechneten Zeiten werden entlang der Strahlen verteilt und korrigieren die Langsamkeit der durchquerten Zellen, mehrmals auf denselben Strahlen und innerhalb der Geschwindigkeitsgrenzen. Der korrigierte Schnitt wird geglättet, und neue Strahlen werden durch ihn verfolgt: Das ist eine äußere Iteration.</translation>
+    </message>
+    <message>
+        <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
+        <translation>Die Refraktoren wurden mit der generalisierten Reziprokmethode (GRM) ausgewertet. Die Ersteinsätze wurden Schichten zugeordnet, und die Einsätze jedes Refraktors von beiden Enden der Messlinie wurden durch verschobene Einsätze der anderen Schüsse ergänzt. Die Funktion der Geschwindigkeitsanalyse ergibt die Geschwindigkeit des Refraktors, die Zeit-Tiefen-Funktion seine Tiefe unter jedem Geophon.</translation>
+    </message>
+    <message>
+        <source>Waves</source>
+        <translation>Wellen</translation>
+    </message>
+    <message>
+        <source>S waves</source>
+        <translation>S-Wellen</translation>
+    </message>
+    <message>
+        <source>P waves</source>
+        <translation>P-Wellen</translation>
+    </message>
+    <message>
+        <source>Geophones from, to</source>
+        <translation>Geophone von, bis</translation>
+    </message>
+    <message>
+        <source>Length of the line</source>
+        <translation>Länge der Messlinie</translation>
+    </message>
+    <message>
+        <source>Elevation of the geophones</source>
+        <translation>Höhe der Geophone</translation>
+    </message>
+    <message>
+        <source>Shots from, to</source>
+        <translation>Schüsse von, bis</translation>
+    </message>
+    <message>
+        <source>Geophone strings</source>
+        <translation>Geophonauslagen</translation>
+    </message>
+    <message>
+        <source>Geophone positions</source>
+        <translation>Geophonpositionen</translation>
+    </message>
+    <message>
+        <source>Number of shots</source>
+        <translation>Anzahl der Schüsse</translation>
+    </message>
+    <message>
+        <source>The line</source>
+        <translation>Die Messlinie</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>Auslage</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>From [m]</source>
+        <translation>Von [m]</translation>
+    </message>
+    <message>
+        <source>To [m]</source>
+        <translation>Bis [m]</translation>
+    </message>
+    <message>
+        <source>Spacing [m]</source>
+        <translation>Abstand [m]</translation>
+    </message>
+    <message>
+        <source>Strings of geophones</source>
+        <translation>Geophonauslagen</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Interval [ms]</source>
+        <translation>Intervall [ms]</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Abtastwerte</translation>
+    </message>
+    <message>
+        <source>Length [ms]</source>
+        <translation>Länge [ms]</translation>
+    </message>
+    <message>
+        <source>Shots and their recordings</source>
+        <translation>Schüsse und ihre Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Auftraggeber</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Bearbeiter</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>Messung</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Lage</translation>
+    </message>
+    <message>
+        <source>End of the line</source>
+        <translation>Ende der Messlinie</translation>
+    </message>
+    <message>
+        <source>Easting [m]</source>
+        <translation>Ostwert [m]</translation>
+    </message>
+    <message>
+        <source>Northing [m]</source>
+        <translation>Nordwert [m]</translation>
+    </message>
+    <message>
+        <source>Longitude [°]</source>
+        <translation>Länge [°]</translation>
+    </message>
+    <message>
+        <source>Latitude [°]</source>
+        <translation>Breite [°]</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Erstes Geophon</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Letztes Geophon</translation>
+    </message>
+    <message>
+        <source>The coordinate reference system of the line is not set.</source>
+        <translation>Das Koordinatenreferenzsystem der Messlinie ist nicht festgelegt.</translation>
+    </message>
+    <message>
+        <source>Coordinate reference system: EPSG:%1.</source>
+        <translation>Koordinatenreferenzsystem: EPSG:%1.</translation>
+    </message>
+    <message>
+        <source>Coordinate reference system: EPSG:%1, %2.</source>
+        <translation>Koordinatenreferenzsystem: EPSG:%1, %2.</translation>
+    </message>
+    <message>
+        <source>Ends of the line; longitude and latitude on WGS 84</source>
+        <translation>Enden der Messlinie; geographische Länge und Breite in WGS 84</translation>
+    </message>
+    <message>
+        <source>Ends of the line</source>
+        <translation>Enden der Messlinie</translation>
+    </message>
+    <message>
+        <source>Information density: how completely rays cross the surroundings of each cell</source>
+        <translation>Informationsdichte: wie vollständig Strahlen die Umgebung jeder Zelle durchqueren</translation>
+    </message>
+    <message>
+        <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
+        <translation>Die Abweichung ist der Unterschied zwischen berechneten und gemessenen Zeiten. Die berechneten Zeiten sind die entlang der Strahlen der letzten Iteration, vor ihrer letzten Korrektur und Glättung, oder die durch den Schnitt, wie er gezeichnet ist, wenn das Projekt wieder geöffnet wurde. RMS ist das quadratische Mittel der Abweichung, in Millisekunden oder in Prozent der gemessenen Zeiten. Die Informationsdichte sagt, wie vollständig Strahlen die Umgebung einer Zelle durchqueren; wo sie gering ist, sind die Geschwindigkeiten durch die Daten schwach gestützt, und unterhalb der tiefsten Strahlen wird der Schnitt nicht gezeichnet. Geschwindigkeiten, die mit der Tiefe abnehmen, und dünne Schichten können den Ersteinsätzen verborgen bleiben.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReportDialog</name>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Title page</source>
+        <translation>Titelseite</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>&amp;Client:</source>
+        <translation>&amp;Auftraggeber:</translation>
+    </message>
+    <message>
+        <source>&amp;Site:</source>
+        <translation>&amp;Ort:</translation>
+    </message>
+    <message>
+        <source>&amp;Author:</source>
+        <translation>&amp;Bearbeiter:</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Datum:</translation>
+    </message>
+    <message>
+        <source>As it is to be read</source>
+        <translation>So, wie es zu lesen sein soll</translation>
+    </message>
+    <message>
+        <source>&amp;Notes:</source>
+        <translation>An&amp;merkungen:</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Teile</translation>
+    </message>
+    <message>
+        <source>Survey: line, geophones, shots, files</source>
+        <translation>Messung: Messlinie, Geophone, Schüsse, Dateien</translation>
+    </message>
+    <message>
+        <source>Position on the globe</source>
+        <translation>Geographische Lage</translation>
+    </message>
+    <message>
+        <source>Travel times and the misfit of every shot</source>
+        <translation>Laufzeiten und Abweichung jedes Schusses</translation>
+    </message>
+    <message>
+        <source>Grid and parameters of the inversion</source>
+        <translation>Gitter und Parameter der Inversion</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Geschwindigkeitsschnitt</translation>
+    </message>
+    <message>
+        <source>Rays over the section</source>
+        <translation>Strahlen über dem Schnitt</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Informationsdichte</translation>
+    </message>
+    <message>
+        <source>Misfit and its history</source>
+        <translation>Abweichung und ihr Verlauf</translation>
+    </message>
+    <message>
+        <source>Refraction interpretation</source>
+        <translation>Refraktionsauswertung</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Pa&amp;per:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Letter</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>&amp;Vorschau</translation>
+    </message>
+    <message>
+        <source>Puts the report together and shows its pages</source>
+        <translation>Stellt den Bericht zusammen und zeigt seine Seiten</translation>
+    </message>
+    <message>
+        <source>Pages of the report</source>
+        <translation>Seiten des Berichts</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n Seite</numerusform>
+            <numerusform>%n Seiten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ScreenshotDialog</name>
+    <message>
+        <source>Screenshot</source>
+        <translation>Bildschirmfoto</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality:</source>
+        <translation>JPEG-&amp;Qualität:</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>%1 times the view: %2 x %3 pixels</source>
+        <translation>%1-mal die Ansicht: %2 x %3 Pixel</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SectionSheet</name>
+    <message>
+        <source>Vertical gradient of velocity [1/s]</source>
+        <translation>Vertikaler Geschwindigkeitsgradient [1/s]</translation>
+    </message>
+    <message>
+        <source>Laplacian of velocity [1/(m·s)]</source>
+        <translation>Laplace der Geschwindigkeit [1/(m·s)]</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Informationsdichte</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>Contours</source>
+        <translation>Isolinien</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ray(s)</source>
+        <translation>
+            <numerusform>%n Strahl</numerusform>
+            <numerusform>%n Strahlen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Grenze der Abdeckung</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Entfernung [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Höhe [m]</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration %1×</source>
+        <translation>Überhöhung %1×</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SectionView</name>
+    <message>
+        <source>Vertical exaggeration:</source>
+        <translation>Überhöhung:</translation>
+    </message>
+    <message>
+        <source>How much higher than wide a metre is drawn</source>
+        <translation>Wie viel höher als breit ein Meter gezeichnet wird</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration</source>
+        <translation>Überhöhung</translation>
+    </message>
+    <message>
+        <source>Turn in 3-D</source>
+        <translation>In 3-D drehen</translation>
+    </message>
+    <message>
+        <source>Dragging turns the section instead of moving it</source>
+        <translation>Ziehen dreht den Schnitt, statt ihn zu verschieben</translation>
+    </message>
+    <message>
+        <source>Reset View</source>
+        <translation>Ansicht zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Bring the whole section back into view (Home)</source>
+        <translation>Bringt den ganzen Schnitt wieder ins Bild (Pos1)</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Geschwindigkeitsschnitt</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SelectCSVDelimiterDialog</name>
+    <message>
+        <source>Select CSV Separator</source>
+        <translation>CSV-Trennzeichen wählen</translation>
+    </message>
+    <message>
+        <source>CSV Separator</source>
+        <translation>CSV-Trennzeichen</translation>
+    </message>
+    <message>
+        <source>What stands between two numbers of a line</source>
+        <translation>Was zwischen zwei Zahlen einer Zeile steht</translation>
+    </message>
+    <message>
+        <source>(blank space)</source>
+        <translation>(Leerzeichen)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Spuren</translation>
+    </message>
+    <message>
+        <source>Fill wiggle</source>
+        <translation>Wiggles füllen</translation>
+    </message>
+    <message>
+        <source>Fills the positive half of every wiggle.</source>
+        <translation>Füllt die positive Hälfte jeder Schwingung.</translation>
+    </message>
+    <message>
+        <source>Two colours</source>
+        <translation>Zwei Farben</translation>
+    </message>
+    <message>
+        <source>Fills the two halves of every wiggle in two colours.</source>
+        <translation>Füllt die beiden Hälften jeder Schwingung mit zwei Farben.</translation>
+    </message>
+    <message>
+        <source>Cut at the neighbour</source>
+        <translation>An der Nachbarspur abschneiden</translation>
+    </message>
+    <message>
+        <source>Ends every wiggle where the next trace begins. Otherwise strong wiggles run over their neighbours.</source>
+        <translation>Lässt jede Schwingung enden, wo die nächste Spur beginnt. Sonst laufen starke Schwingungen über die Nachbarspuren.</translation>
+    </message>
+    <message>
+        <source>Show filtered traces</source>
+        <translation>Gefilterte Spuren anzeigen</translation>
+    </message>
+    <message>
+        <source>Shows the filtered copy of the traces where there is one. AutoPick then picks on it.</source>
+        <translation>Zeigt die gefilterte Kopie der Spuren, wo es eine gibt. AutoPick pickt dann auf ihr.</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Horizontal colour bar</source>
+        <translation>Waagrechte Farbskala</translation>
+    </message>
+    <message>
+        <source>Opens shots at the part of the record that holds the first breaks.</source>
+        <translation>Öffnet Schüsse an dem Teil der Aufzeichnung, der die Ersteinsätze enthält.</translation>
+    </message>
+    <message>
+        <source>Show all traces</source>
+        <translation>Alle Spuren anzeigen</translation>
+    </message>
+    <message>
+        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Hushel then work on all shots.</source>
+        <translation>Öffnet Schüsse mit allen Spuren im Bild, wie schmal sie auch sind. AutoPick, Filter, AGC und Hushel wirken dann auf alle Schüsse.</translation>
+    </message>
+    <message>
+        <source>Zoom in on first breaks</source>
+        <translation>Auf Ersteinsätze zoomen</translation>
+    </message>
+    <message>
+        <source>Puts the colour bar of saved pictures above the section, not beside it.</source>
+        <translation>Setzt den Farbbalken gespeicherter Bilder über den Schnitt statt daneben.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotTable</name>
+    <message>
+        <source>String</source>
+        <translation>Auslage</translation>
+    </message>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Höhe (m)</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>DX file</source>
+        <translation>DX-Datei</translation>
+    </message>
+    <message>
+        <source>SX file</source>
+        <translation>SX-Datei</translation>
+    </message>
+    <message>
+        <source>%1 m is too far away.</source>
+        <translation>%1 m ist zu weit entfernt.</translation>
+    </message>
+    <message>
+        <source>There is no string %1.</source>
+        <translation>Es gibt keine Auslage %1.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SpectrumPlot</name>
+    <message>
+        <source>Amplitude spectrum</source>
+        <translation>Amplitudenspektrum</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Intensity</source>
+        <translation>Intensität</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SpreadsheetView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Empty cells</source>
+        <translation>Zellen &amp;leeren</translation>
+    </message>
+    <message>
+        <source>Fill &amp;down</source>
+        <translation>Nach &amp;unten ausfüllen</translation>
+    </message>
+    <message>
+        <source>&amp;Insert a row above</source>
+        <translation>&amp;Zeile darüber einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>Zeilen ent&amp;fernen</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Talvesk_MainWindows</name>
+    <message>
+        <source>Traces</source>
+        <translation>Spuren</translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;No survey yet&lt;/h2&gt;&lt;p&gt;Open shot files with Ctrl+O, or drop them here.&lt;/p&gt;&lt;p&gt;Picks without traces come in with File &amp;gt; Import TravelTimes.&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Noch keine Messung&lt;/h2&gt;&lt;p&gt;Öffnen Sie Schussdateien mit Strg+O oder ziehen Sie sie hierher.&lt;/p&gt;&lt;p&gt;Picks ohne Spuren laden Sie mit Datei &amp;gt; Laufzeiten importieren.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Traces and picks of the current shot</source>
+        <translation>Spuren und Picks des aktuellen Schusses</translation>
+    </message>
+    <message>
+        <source>Traces and picks, second view</source>
+        <translation>Spuren und Picks, zweite Ansicht</translation>
+    </message>
+    <message>
+        <source>Travel times of the current shot</source>
+        <translation>Laufzeiten des aktuellen Schusses</translation>
+    </message>
+    <message>
+        <source>Draw the picks of the other shots faintly over the traces</source>
+        <translation>Zeichnet die Picks der anderen Schüsse blass über die Spuren</translation>
+    </message>
+    <message>
+        <source>Show All Picks</source>
+        <translation>Alle Picks anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the filtered copy of the traces where there is one</source>
+        <translation>Zeigt die gefilterte Kopie der Spuren, wo es eine gibt</translation>
+    </message>
+    <message>
+        <source>Show Filtered Traces</source>
+        <translation>Gefilterte Spuren anzeigen</translation>
+    </message>
+    <message>
+        <source>Hide the picks and the travel-time preview</source>
+        <translation>Blendet die Picks und die Laufzeitvorschau aus</translation>
+    </message>
+    <message>
+        <source>Show Only Traces</source>
+        <translation>Nur Spuren anzeigen</translation>
+    </message>
+    <message>
+        <source>Draw the times that the last inversion computed</source>
+        <translation>Zeichnet die von der letzten Inversion berechneten Zeiten</translation>
+    </message>
+    <message>
+        <source>Show computed Travel Times</source>
+        <translation>Berechnete Laufzeiten anzeigen</translation>
+    </message>
+    <message>
+        <source>Travel time curves</source>
+        <translation>Laufzeitkurven</translation>
+    </message>
+    <message>
+        <source>Travel time curves of all shots</source>
+        <translation>Laufzeitkurven aller Schüsse</translation>
+    </message>
+    <message>
+        <source>Tomographic profile</source>
+        <translation>Tomographischer Schnitt</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;KML</source>
+        <translation>&amp;KML</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Show Velocity Gradient</source>
+        <translation>Geschwindigkeitsgradient anzeigen</translation>
+    </message>
+    <message>
+        <source>Show Geophones</source>
+        <translation>Geophone anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Traces</source>
+        <translation>&amp;Spuren</translation>
+    </message>
+    <message>
+        <source>Picks of the selected traces</source>
+        <translation>Picks der ausgewählten Spuren</translation>
+    </message>
+    <message>
+        <source>Mouse tool</source>
+        <translation>Mauswerkzeug</translation>
+    </message>
+    <message>
+        <source>Snap picks to</source>
+        <translation>Picks einrasten auf</translation>
+    </message>
+    <message>
+        <source>Wiggles</source>
+        <translation>Wiggles</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Project</source>
+        <translation>&amp;Projekt</translation>
+    </message>
+    <message>
+        <source>P&amp;rocessing</source>
+        <translation>&amp;Verarbeitung</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>Messung</translation>
+    </message>
+    <message>
+        <source>New...</source>
+        <translation>Neu...</translation>
+    </message>
+    <message>
+        <source>Start a new survey: empties this one, then asks for shot files</source>
+        <translation>Beginnt eine neue Messung: leert die jetzige und fragt dann nach Schussdateien</translation>
+    </message>
+    <message>
+        <source>Import TravelTimes...</source>
+        <translation>Laufzeiten importieren...</translation>
+    </message>
+    <message>
+        <source>Load traveltimes</source>
+        <translation>Lädt Laufzeiten</translation>
+    </message>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Glättung anwenden</translation>
+    </message>
+    <message>
+        <source>Smooth the velocities of the section once more</source>
+        <translation>Glättet die Geschwindigkeiten des Schnitts noch einmal</translation>
+    </message>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Tomographische Inversion starten</translation>
+    </message>
+    <message>
+        <source>Invert the picks into a velocity section</source>
+        <translation>Invertiert die Picks zu einem Geschwindigkeitsschnitt</translation>
+    </message>
+    <message>
+        <source>Grid view</source>
+        <translation>Zellenansicht</translation>
+    </message>
+    <message>
+        <source>Draw the section cell by cell</source>
+        <translation>Zeichnet den Schnitt Zelle für Zelle</translation>
+    </message>
+    <message>
+        <source>Smooth view</source>
+        <translation>Fließende Ansicht</translation>
+    </message>
+    <message>
+        <source>Draw the section with velocities blended between cells</source>
+        <translation>Zeichnet den Schnitt mit fließenden Übergängen zwischen den Zellen</translation>
+    </message>
+    <message>
+        <source>Export tomographic data ...</source>
+        <translation>Tomographische Daten exportieren ...</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächster</translation>
+    </message>
+    <message>
+        <source>Show the next seismic file</source>
+        <translation>Zeigt die nächste seismische Datei</translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>Voriger</translation>
+    </message>
+    <message>
+        <source>Show the previous file</source>
+        <translation>Zeigt die vorige Datei</translation>
+    </message>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Modellgeschwindigkeit festlegen</translation>
+    </message>
+    <message>
+        <source>Set the layers and velocities that the inversion starts from</source>
+        <translation>Legt die Schichten und Geschwindigkeiten fest, mit denen die Inversion beginnt</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>Projekt öffnen...</translation>
+    </message>
+    <message>
+        <source>Open a project with its shots, picks and section</source>
+        <translation>Öffnet ein Projekt mit Schüssen, Picks und Schnitt</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>Projekt speichern unter...</translation>
+    </message>
+    <message>
+        <source>Save the project in a file of another name</source>
+        <translation>Speichert das Projekt in einer Datei mit anderem Namen</translation>
+    </message>
+    <message>
+        <source>Images ...</source>
+        <translation>Bilder ...</translation>
+    </message>
+    <message>
+        <source>Save pictures of the section, the curves and the traces</source>
+        <translation>Speichert Bilder des Schnitts, der Kurven und der Spuren</translation>
+    </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
+    <message>
+        <source>Pick the first breaks of the current shot, or of all shots when all traces are shown</source>
+        <translation>Pickt die Ersteinsätze des aktuellen Schusses oder aller Schüsse, wenn alle Spuren angezeigt werden</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über Talvesk</translation>
+    </message>
+    <message>
+        <source>Version, libraries and licence of Talvesk</source>
+        <translation>Version, Bibliotheken und Lizenz von Talvesk</translation>
+    </message>
+    <message>
+        <source>Geometry ...</source>
+        <translation>Geometrie ...</translation>
+    </message>
+    <message>
+        <source>Set the positions of geophones and shots</source>
+        <translation>Legt die Positionen von Geophonen und Schüssen fest</translation>
+    </message>
+    <message>
+        <source>Grid ...</source>
+        <translation>Gitter ...</translation>
+    </message>
+    <message>
+        <source>Lay the grid of the tomography under the line</source>
+        <translation>Legt das Gitter der Tomographie unter die Messlinie</translation>
+    </message>
+    <message>
+        <source>PDF ...</source>
+        <translation>PDF ...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as PDF</source>
+        <translation>Schreibt einen Bericht der Messung als PDF</translation>
+    </message>
+    <message>
+        <source>Palette Options...</source>
+        <translation>Palettenoptionen...</translation>
+    </message>
+    <message>
+        <source>Choose the colours of the section</source>
+        <translation>Wählt die Farben des Schnitts</translation>
+    </message>
+    <message>
+        <source>ODT...</source>
+        <translation>ODT...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as a text document</source>
+        <translation>Schreibt einen Bericht der Messung als Textdokument</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Close Talvesk</source>
+        <translation>Beendet Talvesk</translation>
+    </message>
+    <message>
+        <source>On line help</source>
+        <translation>Online-Hilfe</translation>
+    </message>
+    <message>
+        <source>Open the help pages on the web, or the user guide without a network</source>
+        <translation>Öffnet die Hilfeseiten im Web, ohne Netz das Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Show Rays</source>
+        <translation>Strahlen anzeigen</translation>
+    </message>
+    <message>
+        <source>Overlay the seismic rays to profile</source>
+        <translation>Zeichnet die seismischen Strahlen über den Schnitt</translation>
+    </message>
+    <message>
+        <source>Fill wiggle</source>
+        <translation>Wiggles füllen</translation>
+    </message>
+    <message>
+        <source>Fill the positive half of every wiggle</source>
+        <translation>Füllt die positive Hälfte jeder Schwingung</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Language, trace view and image options</source>
+        <translation>Sprache, Spuransicht und Bildoptionen</translation>
+    </message>
+    <message>
+        <source>Show Contour Lines</source>
+        <translation>Isolinien anzeigen</translation>
+    </message>
+    <message>
+        <source>Draw lines of equal velocity over the section</source>
+        <translation>Zeichnet Linien gleicher Geschwindigkeit über den Schnitt</translation>
+    </message>
+    <message>
+        <source>Set geographic coordinates ...</source>
+        <translation>Geographische Koordinaten ...</translation>
+    </message>
+    <message>
+        <source>Say where the first and the last geophone lie on the map</source>
+        <translation>Gibt an, wo das erste und das letzte Geophon auf der Karte liegen</translation>
+    </message>
+    <message>
+        <source>Reset View</source>
+        <translation>Ansicht zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Bring the whole section back into view</source>
+        <translation>Bringt den ganzen Schnitt wieder ins Bild</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>Speichert das Projekt</translation>
+    </message>
+    <message>
+        <source>Vertical Gradient</source>
+        <translation>Vertikaler Gradient</translation>
+    </message>
+    <message>
+        <source>Show how fast the velocity grows with depth</source>
+        <translation>Zeigt, wie schnell die Geschwindigkeit mit der Tiefe zunimmt</translation>
+    </message>
+    <message>
+        <source>Laplacian Gradient</source>
+        <translation>Laplace-Gradient</translation>
+    </message>
+    <message>
+        <source>Show where the velocity changes most abruptly</source>
+        <translation>Zeigt, wo sich die Geschwindigkeit am schroffsten ändert</translation>
+    </message>
+    <message>
+        <source>Show Tomographic Profile</source>
+        <translation>Tomographischen Schnitt anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the velocity section</source>
+        <translation>Zeigt den Geschwindigkeitsschnitt</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Open the guide that comes with Talvesk</source>
+        <translation>Öffnet das mit Talvesk gelieferte Handbuch</translation>
+    </message>
+    <message>
+        <source>Filter...</source>
+        <translation>Filter...</translation>
+    </message>
+    <message>
+        <source>Filter the traces of the current shot by frequency, with spectrum and preview</source>
+        <translation>Filtert die Spuren des aktuellen Schusses nach Frequenz, mit Spektrum und Vorschau</translation>
+    </message>
+    <message>
+        <source>Apply Hushel</source>
+        <translation>Hushel anwenden</translation>
+    </message>
+    <message>
+        <source>Apply Hushel - The Noise Reduction tool for seismic refraction data</source>
+        <translation>Hushel anwenden - die Rauschminderung für refraktionsseismische Daten</translation>
+    </message>
+    <message>
+        <source>AGC</source>
+        <translation>AGC</translation>
+    </message>
+    <message>
+        <source>Even out the amplitudes of the traces (automatic gain control)</source>
+        <translation>Gleicht die Amplituden der Spuren aus (automatische Verstärkungsregelung)</translation>
+    </message>
+    <message>
+        <source>Refraction</source>
+        <translation>Refraktion</translation>
+    </message>
+    <message>
+        <source>Interpret the picks layer by layer with the reciprocal method</source>
+        <translation>Wertet die Picks Schicht für Schicht mit der Reziprokmethode aus</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Draw small geophones on the section</source>
+        <translation>Zeichnet kleine Geophone auf den Schnitt</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Draw geophones of normal size on the section</source>
+        <translation>Zeichnet Geophone normaler Größe auf den Schnitt</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>Draw large geophones on the section</source>
+        <translation>Zeichnet große Geophone auf den Schnitt</translation>
+    </message>
+    <message>
+        <source>Show refraction</source>
+        <translation>Refraktion anzeigen</translation>
+    </message>
+    <message>
+        <source>Overlay the refractors of the layered interpretation</source>
+        <translation>Zeichnet die Refraktoren der Schichtauswertung über den Schnitt</translation>
+    </message>
+    <message>
+        <source>Show scalarbar</source>
+        <translation>Farbskala anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the colour scale beside the section</source>
+        <translation>Zeigt die Farbskala neben dem Schnitt</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Bildschirmfoto</translation>
+    </message>
+    <message>
+        <source>Take a Screenshot of the tomographic profile</source>
+        <translation>Nimmt ein Bildschirmfoto des tomographischen Schnitts auf</translation>
+    </message>
+    <message>
+        <source>Export TravelTimes...</source>
+        <translation>Laufzeiten exportieren...</translation>
+    </message>
+    <message>
+        <source>Write picks and positions to a travel-time file</source>
+        <translation>Schreibt Picks und Positionen in eine Laufzeitdatei</translation>
+    </message>
+    <message>
+        <source>Show Information Density Layer</source>
+        <translation>Informationsdichte anzeigen</translation>
+    </message>
+    <message>
+        <source>Show Grid Lines</source>
+        <translation>Gitterlinien anzeigen</translation>
+    </message>
+    <message>
+        <source>Draw distance and depth lines over the section</source>
+        <translation>Zeichnet Entfernungs- und Tiefenlinien über den Schnitt</translation>
+    </message>
+    <message>
+        <source>Set title ...</source>
+        <translation>Titel festlegen ...</translation>
+    </message>
+    <message>
+        <source>Set prject title</source>
+        <translation>Legt den Titel des Projekts fest</translation>
+    </message>
+    <message>
+        <source>Show title ...</source>
+        <translation>Titel anzeigen ...</translation>
+    </message>
+    <message>
+        <source>Write the project title over the section</source>
+        <translation>Schreibt den Projekttitel über den Schnitt</translation>
+    </message>
+    <message>
+        <source>Tomography to text file ...</source>
+        <translation>Tomographie in Textdatei ...</translation>
+    </message>
+    <message>
+        <source>Export tomography as a XYZVelocity gridded text file</source>
+        <translation>Exportiert die Tomographie als gerasterte Textdatei XYZGeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Tomographic profile ...</source>
+        <translation>Tomographischer Schnitt ...</translation>
+    </message>
+    <message>
+        <source>Export the section to KML, standing on the globe</source>
+        <translation>Exportiert den Schnitt als KML, stehend auf dem Globus</translation>
+    </message>
+    <message>
+        <source>Seismic line ...</source>
+        <translation>Seismische Messlinie ...</translation>
+    </message>
+    <message>
+        <source>Export seismic line to KML</source>
+        <translation>Exportiert die seismische Messlinie als KML</translation>
+    </message>
+    <message>
+        <source>Open shot files...</source>
+        <translation>Schussdateien öffnen...</translation>
+    </message>
+    <message>
+        <source>Add shot files (SEG-2, SEG-Y, SU) to the survey</source>
+        <translation>Fügt der Messung Schussdateien (SEG-2, SEG-Y, SU) hinzu</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Take back the last edit of the picks</source>
+        <translation>Macht die letzte Änderung der Picks rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Do again the edit that was taken back</source>
+        <translation>Führt die rückgängig gemachte Änderung erneut aus</translation>
+    </message>
+    <message>
+        <source>Open shots at the part of the record that holds the first breaks</source>
+        <translation>Öffnet Schüsse an dem Teil der Aufzeichnung, der die Ersteinsätze enthält</translation>
+    </message>
+    <message>
+        <source>Cut at the neighbour</source>
+        <translation>An der Nachbarspur abschneiden</translation>
+    </message>
+    <message>
+        <source>End every wiggle where the next trace begins</source>
+        <translation>Lässt jede Schwingung enden, wo die nächste Spur beginnt</translation>
+    </message>
+    <message>
+        <source>Two colours</source>
+        <translation>Zwei Farben</translation>
+    </message>
+    <message>
+        <source>Fill the two halves of every wiggle in two colours</source>
+        <translation>Füllt die beiden Hälften jeder Schwingung mit zwei Farben</translation>
+    </message>
+    <message>
+        <source>Show filtered traces</source>
+        <translation>Gefilterte Spuren anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the filtered copy of the traces where there is one; AutoPick then picks on it</source>
+        <translation>Zeigt die gefilterte Kopie der Spuren, wo es eine gibt; AutoPick pickt dann auf ihr</translation>
+    </message>
+    <message>
+        <source>Show all traces</source>
+        <translation>Alle Spuren anzeigen</translation>
+    </message>
+    <message>
+        <source>Open shots with all traces in view; AutoPick, Filter, AGC and Hushel then work on all shots</source>
+        <translation>Öffnet Schüsse mit allen Spuren im Bild; AutoPick, Filter, AGC und Hushel wirken dann auf alle Schüsse</translation>
+    </message>
+    <message>
+        <source>At true distance</source>
+        <translation>In wahrer Entfernung</translation>
+    </message>
+    <message>
+        <source>Place the traces at their distance along the line, not one beside the other</source>
+        <translation>Setzt die Spuren an ihre Entfernung entlang der Messlinie statt dicht nebeneinander</translation>
+    </message>
+    <message>
+        <source>True amplitudes</source>
+        <translation>Wahre Amplituden</translation>
+    </message>
+    <message>
+        <source>Keep the amplitudes of a shot in proportion; otherwise every trace is as wide as the others</source>
+        <translation>Erhält die Amplitudenverhältnisse eines Schusses; sonst ist jede Spur so breit wie die anderen</translation>
+    </message>
+    <message>
+        <source>Air wave</source>
+        <translation>Luftschall</translation>
+    </message>
+    <message>
+        <source>Draw the line of the sound that travels through the air</source>
+        <translation>Zeichnet die Linie des Schalls, der durch die Luft läuft</translation>
+    </message>
+    <message>
+        <source>Magnifier</source>
+        <translation>Lupe</translation>
+    </message>
+    <message>
+        <source>Enlarge what is around the cursor (key M)</source>
+        <translation>Vergrößert die Umgebung des Mauszeigers (Taste M)</translation>
+    </message>
+    <message>
+        <source>Larger wiggles</source>
+        <translation>Größere Wiggles</translation>
+    </message>
+    <message>
+        <source>Raise the gain (key ])</source>
+        <translation>Erhöht die Verstärkung (Taste ])</translation>
+    </message>
+    <message>
+        <source>Smaller wiggles</source>
+        <translation>Kleinere Wiggles</translation>
+    </message>
+    <message>
+        <source>Lower the gain (key [)</source>
+        <translation>Verringert die Verstärkung (Taste [)</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Picken</translation>
+    </message>
+    <message>
+        <source>Click sets a pick, dragging moves it or draws a run of picks, right click removes it</source>
+        <translation>Klicken setzt einen Pick, Ziehen verschiebt ihn oder zeichnet eine Reihe von Picks, Rechtsklick entfernt ihn</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoomen</translation>
+    </message>
+    <message>
+        <source>Drag a rectangle to zoom to it</source>
+        <translation>Ein Rechteck aufziehen, um darauf zu zoomen</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Drag the picture</source>
+        <translation>Das Bild mit der Maus verschieben</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Lineal</translation>
+    </message>
+    <message>
+        <source>Drag a line to read its apparent velocity (key R)</source>
+        <translation>Eine Linie ziehen, um ihre Scheingeschwindigkeit abzulesen (Taste R)</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Drag over traces to confirm or remove their picks together</source>
+        <translation>Über Spuren ziehen, um ihre Picks gemeinsam zu bestätigen oder zu entfernen</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>Picks stay where they are set</source>
+        <translation>Picks bleiben, wo sie gesetzt werden</translation>
+    </message>
+    <message>
+        <source>Onset</source>
+        <translation>Signaleinsatz</translation>
+    </message>
+    <message>
+        <source>Draw picks to where the noise ends</source>
+        <translation>Zieht Picks dorthin, wo das Rauschen endet</translation>
+    </message>
+    <message>
+        <source>Zero crossing</source>
+        <translation>Nulldurchgang</translation>
+    </message>
+    <message>
+        <source>Draw picks to the nearest change of sign</source>
+        <translation>Zieht Picks zum nächsten Vorzeichenwechsel</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Extremwert</translation>
+    </message>
+    <message>
+        <source>Draw picks to the strongest peak or trough nearby</source>
+        <translation>Zieht Picks zum stärksten Maximum oder Minimum in der Nähe</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Picks bestätigen</translation>
+    </message>
+    <message>
+        <source>Make the automatic picks of the selected traces your own (key C)</source>
+        <translation>Übernimmt die automatischen Picks der ausgewählten Spuren als eigene (Taste C)</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Picks entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the picks of the selected traces (key Delete)</source>
+        <translation>Entfernt die Picks der ausgewählten Spuren (Taste Entf)</translation>
+    </message>
+    <message>
+        <source>Remove unconfirmed picks</source>
+        <translation>Unbestätigte Picks entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the automatic picks of the selected traces that were not confirmed</source>
+        <translation>Entfernt die nicht bestätigten automatischen Picks der ausgewählten Spuren</translation>
+    </message>
+    <message>
+        <source>Show everything</source>
+        <translation>Alles anzeigen</translation>
+    </message>
+    <message>
+        <source>Show all traces and all times (key F)</source>
+        <translation>Zeigt alle Spuren und alle Zeiten (Taste F)</translation>
+    </message>
+    <message>
+        <source>Previous view</source>
+        <translation>Vorige Ansicht</translation>
+    </message>
+    <message>
+        <source>Go back to the view before the last zoom (key Backspace)</source>
+        <translation>Kehrt zur Ansicht vor dem letzten Zoomen zurück (Rücktaste)</translation>
+    </message>
+    <message>
+        <source>Next view</source>
+        <translation>Nächste Ansicht</translation>
+    </message>
+    <message>
+        <source>Go forward again after going back (keys Shift+Backspace)</source>
+        <translation>Geht nach dem Zurückgehen wieder vorwärts (Umschalt+Rücktaste)</translation>
+    </message>
+    <message>
+        <source>Recording details...</source>
+        <translation>Aufzeichnungsdetails...</translation>
+    </message>
+    <message>
+        <source>What the shot files hold: samples, interval, delay, positions, warnings</source>
+        <translation>Was die Schussdateien enthalten: Abtastwerte, Intervall, Verzögerung, Positionen, Warnungen</translation>
+    </message>
+    <message>
+        <source>Shot in view</source>
+        <translation>Angezeigter Schuss</translation>
+    </message>
+    <message>
+        <source>The shot in view</source>
+        <translation>Der angezeigte Schuss</translation>
+    </message>
+    <message>
+        <source>Open Seismic Trace</source>
+        <translation>Seismische Spuren öffnen</translation>
+    </message>
+    <message>
+        <source>SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)</source>
+        <translation>SEG2-Format (*.sg2 *.dat *.seg2);;SEGY-Format (*.sgy *.segy);;SU-Format (*.su);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Loading shot files ...</source>
+        <translation>Schussdateien werden geladen ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Error occured</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Unsupported file format.</source>
+        <translation>Dateiformat nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>Error while loading one or more traces.</source>
+        <translation>Fehler beim Laden einer oder mehrerer Spuren.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot file(s) loaded.</source>
+        <translation>
+            <numerusform>%n Schussdatei geladen.</numerusform>
+            <numerusform>%n Schussdateien geladen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Travel times of %n shot(s) imported.</source>
+        <translation>
+            <numerusform>Laufzeiten von %n Schuss importiert.</numerusform>
+            <numerusform>Laufzeiten von %n Schüssen importiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>First breaks found on %1 of %2 traces.</source>
+        <translation>Ersteinsätze auf %1 von %2 Spuren gefunden.</translation>
+    </message>
+    <message>
+        <source>Filtered copies made of %1 of %2 traces.</source>
+        <translation>Gefilterte Kopien von %1 von %2 Spuren erstellt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n with warnings, see Traces &gt; Recording details.</source>
+        <translation>
+            <numerusform>%n mit Warnungen, siehe Spuren &gt; Aufzeichnungsdetails.</numerusform>
+            <numerusform>%n mit Warnungen, siehe Spuren &gt; Aufzeichnungsdetails.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording delay</source>
+        <translation>Aufzeichnungsverzögerung</translation>
+    </message>
+    <message>
+        <source>The records start before the shot, by up to %1 ms.</source>
+        <translation>Die Aufzeichnungen beginnen bis zu %1 ms vor dem Schuss.</translation>
+    </message>
+    <message>
+        <source>Do you want to count times from the shot? What was recorded before it is then dropped.</source>
+        <translation>Möchten Sie die Zeiten ab dem Schuss zählen? Was davor aufgezeichnet wurde, wird dann verworfen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) end before the shot and stay as recorded.</source>
+        <translation>
+            <numerusform>%n Spur endet vor dem Schuss und bleibt wie aufgezeichnet.</numerusform>
+            <numerusform>%n Spuren enden vor dem Schuss und bleiben wie aufgezeichnet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Import TravelTimes</source>
+        <translation>Laufzeiten importieren</translation>
+    </message>
+    <message>
+        <source>Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)</source>
+        <translation>Laufzeiten (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Error while loading %1.</source>
+        <translation>Fehler beim Laden von %1.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>%1 was loaded with warnings.</source>
+        <translation>%1 wurde mit Warnungen geladen.</translation>
+    </message>
+    <message>
+        <source>Save TravelTimeExchange</source>
+        <translation>Laufzeiten speichern</translation>
+    </message>
+    <message>
+        <source>Open Travel Time Exchange format (*.otte);;All Files (*)</source>
+        <translation>Open-Travel-Time-Exchange-Format (*.otte);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The travel times have not been saved.</source>
+        <translation>Die Laufzeiten wurden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Travel times saved in %1</source>
+        <translation>Laufzeiten in %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>The user guide is not where it was installed.</source>
+        <translation>Das Benutzerhandbuch ist nicht dort, wo es installiert wurde.</translation>
+    </message>
+    <message>
+        <source>Install Talvesk again to get it back.</source>
+        <translation>Installieren Sie Talvesk erneut, um es zurückzubekommen.</translation>
+    </message>
+    <message>
+        <source>No program to show the user guide was found.</source>
+        <translation>Es wurde kein Programm gefunden, das das Benutzerhandbuch anzeigt.</translation>
+    </message>
+    <message>
+        <source>You find it in %1</source>
+        <translation>Sie finden es in %1</translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), Eigen (MPL 2) and cereal (BSD).&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Refraktionsseismische Messungen: von den Feldaufzeichnungen zu Geschwindigkeitsschnitten.&lt;/p&gt;&lt;p&gt;Talvesk ist freie Software unter der MIT-Lizenz, ohne jede Gewährleistung.&lt;/p&gt;&lt;p&gt;Es verwendet Qt %1 (LGPL), Qwt (LGPL mit Ausnahmen), liquid-dsp (MIT), Eigen (MPL 2) und cereal (BSD).&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Picking first breaks ...</source>
+        <translation>Ersteinsätze werden gepickt ...</translation>
+    </message>
+    <message>
+        <source>Not every shot could be picked.</source>
+        <translation>Nicht jeder Schuss konnte gepickt werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) stay as they were.</source>
+        <translation>
+            <numerusform>%n Spur bleibt, wie sie war.</numerusform>
+            <numerusform>%n Spuren bleiben, wie sie waren.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Applying AGC ...</source>
+        <translation>AGC wird angewendet ...</translation>
+    </message>
+    <message>
+        <source>Applying Hushel ...</source>
+        <translation>Hushel wird angewendet ...</translation>
+    </message>
+    <message>
+        <source>Project title</source>
+        <translation>Projekttitel</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1: %2 at %3</source>
+        <comment>shot number, file, place</comment>
+        <translation>%1: %2 bei %3</translation>
+    </message>
+    <message>
+        <source>%1: at %2</source>
+        <comment>shot number, place</comment>
+        <translation>%1: bei %2</translation>
+    </message>
+    <message>
+        <source>Trace %1</source>
+        <translation>Spur %1</translation>
+    </message>
+    <message>
+        <source>Offset %1 m</source>
+        <translation>Offset %1 m</translation>
+    </message>
+    <message>
+        <source>Time %1 ms</source>
+        <translation>Zeit %1 ms</translation>
+    </message>
+    <message>
+        <source>Pick %1 ms (automatic)</source>
+        <translation>Pick %1 ms (automatisch)</translation>
+    </message>
+    <message>
+        <source>Pick %1 ms</source>
+        <translation>Pick %1 ms</translation>
+    </message>
+    <message>
+        <source>Amplitude %1</source>
+        <translation>Amplitude %1</translation>
+    </message>
+    <message>
+        <source>Talvesk 2022.0</source>
+        <translation>Talvesk 2022.0</translation>
+    </message>
+    <message>
+        <source>Zoom in on first breaks</source>
+        <translation>Auf Ersteinsätze zoomen</translation>
+    </message>
+    <message>
+        <source>Save travel-time curves</source>
+        <translation>Laufzeitkurven speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf);;All Files (*)</source>
+        <translation>Bilder (*.png *.svg *.pdf);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The picture has not been saved.</source>
+        <translation>Das Bild wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Picture saved in %1</source>
+        <translation>Bild in %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Colour the section by how well rays cover it</source>
+        <translation>Färbt den Schnitt danach, wie gut ihn Strahlen abdecken</translation>
+    </message>
+    <message>
+        <source>No section yet</source>
+        <translation>Noch kein Schnitt</translation>
+    </message>
+    <message>
+        <source>Load shot files or travel times with the File menu first.</source>
+        <translation>Laden Sie zuerst Schussdateien oder Laufzeiten über das Menü „Datei“.</translation>
+    </message>
+    <message>
+        <source>Build a grid with &lt;b&gt;Project &amp;gt; Grid ...&lt;/b&gt;, then invert the picks with &lt;b&gt;Processing &amp;gt; Run tomography inversion&lt;/b&gt;.</source>
+        <translation>Erstellen Sie ein Gitter mit &lt;b&gt;Projekt &amp;gt; Gitter ...&lt;/b&gt; und invertieren Sie dann die Picks mit &lt;b&gt;Verarbeitung &amp;gt; Tomographische Inversion starten&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>The grid has no cells</source>
+        <translation>Das Gitter hat keine Zellen</translation>
+    </message>
+    <message>
+        <source>Build another one with &lt;b&gt;Project &amp;gt; Grid ...&lt;/b&gt; and give it a depth greater than the cell size.</source>
+        <translation>Erstellen Sie mit &lt;b&gt;Projekt &amp;gt; Gitter ...&lt;/b&gt; ein anderes, dessen Tiefe größer ist als die Zellengröße.</translation>
+    </message>
+    <message>
+        <source>Nothing to draw</source>
+        <translation>Nichts zu zeichnen</translation>
+    </message>
+    <message>
+        <source>No cell of the grid has a value to show.</source>
+        <translation>Keine Zelle des Gitters hat einen anzeigbaren Wert.</translation>
+    </message>
+    <message>
+        <source>Refractor %1</source>
+        <translation>Refraktor %1</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Entfernung %1 m</translation>
+    </message>
+    <message>
+        <source>Elevation %1 m</source>
+        <translation>Höhe %1 m</translation>
+    </message>
+    <message>
+        <source>Depth %1 m</source>
+        <translation>Tiefe %1 m</translation>
+    </message>
+    <message>
+        <source>Velocity %1 m/s</source>
+        <translation>Geschwindigkeit %1 m/s</translation>
+    </message>
+    <message>
+        <source>Gradient %1 1/s</source>
+        <translation>Gradient %1 1/s</translation>
+    </message>
+    <message>
+        <source>Laplacian %1 1/(m·s)</source>
+        <translation>Laplace %1 1/(m·s)</translation>
+    </message>
+    <message>
+        <source>Information density %1</source>
+        <translation>Informationsdichte %1</translation>
+    </message>
+    <message>
+        <source>Export the section as a gridded text file, heights counted from the highest ground</source>
+        <translation>Exportiert den Schnitt als gerasterte Textdatei mit Höhen ab dem höchsten Geländepunkt</translation>
+    </message>
+    <message>
+        <source>Section as VTK grid ...</source>
+        <translation>Schnitt als VTK-Gitter ...</translation>
+    </message>
+    <message>
+        <source>Export velocity, gradient and information density of the cells as a VTK unstructured grid</source>
+        <translation>Exportiert Geschwindigkeit, Gradient und Informationsdichte der Zellen als unstrukturiertes VTK-Gitter</translation>
+    </message>
+    <message>
+        <source>Section as Surfer grid ...</source>
+        <translation>Schnitt als Surfer-Gitter ...</translation>
+    </message>
+    <message>
+        <source>Export the velocities on a regular raster as a Surfer ASCII grid</source>
+        <translation>Exportiert die Geschwindigkeiten auf einem regelmäßigen Raster als ASCII-Gitter für Surfer</translation>
+    </message>
+    <message>
+        <source>Saved in %1</source>
+        <translation>In %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>The data have not been exported.</source>
+        <translation>Die Daten wurden nicht exportiert.</translation>
+    </message>
+    <message>
+        <source>Export Gridded Data</source>
+        <translation>Gerasterte Daten exportieren</translation>
+    </message>
+    <message>
+        <source>Save gridded tomographic velocity in a text file (*.txt);;All Files (*)</source>
+        <translation>Gerasterte tomographische Geschwindigkeit als Textdatei (*.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export VTK Grid</source>
+        <translation>VTK-Gitter exportieren</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;All Files (*)</source>
+        <translation>Unstrukturiertes VTK-Gitter (*.vtu);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export Surfer Grid</source>
+        <translation>Surfer-Gitter exportieren</translation>
+    </message>
+    <message>
+        <source>Surfer ASCII grid (*.grd);;All Files (*)</source>
+        <translation>ASCII-Gitter für Surfer (*.grd);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
+        <translation>Die geographischen Koordinaten fehlen; die Daten können nicht als KML exportiert werden</translation>
+    </message>
+    <message>
+        <source>Export Tomography to KML</source>
+        <translation>Tomographie als KML exportieren</translation>
+    </message>
+    <message>
+        <source>KML (*.kml);;All Files (*)</source>
+        <translation>KML (*.kml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export Seismic Line to KML</source>
+        <translation>Seismische Messlinie als KML exportieren</translation>
+    </message>
+    <message>
+        <source>The geometry of the survey has changed.</source>
+        <translation>Die Geometrie der Messung hat sich geändert.</translation>
+    </message>
+    <message>
+        <source>Uncomplete set of picks. 
+ 
+Do you want to run refraction processing anyway? </source>
+        <translation>Die Picks sind unvollständig. 
+ 
+Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Talvesk-Projekte (*.tvsk);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Empty filename to be saved</source>
+        <translation>Kein Dateiname zum Speichern angegeben</translation>
+    </message>
+    <message>
+        <source>%1 already exists.</source>
+        <translation>%1 ist bereits vorhanden.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Möchten Sie die Datei ersetzen?</translation>
+    </message>
+    <message>
+        <source>Something went wrong while saving project </source>
+        <translation>Beim Speichern des Projekts ist etwas schiefgegangen: </translation>
+    </message>
+    <message>
+        <source>WARNING: the project has NOT been saved.</source>
+        <translation>WARNUNG: Das Projekt wurde NICHT gespeichert.</translation>
+    </message>
+    <message>
+        <source>Project saved in %1</source>
+        <translation>Projekt in %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>The project has been saved.</source>
+        <translation>Das Projekt wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>Error while loading traces: Invalid file format.</source>
+        <translation>Fehler beim Laden der Spuren: ungültiges Dateiformat.</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid project.</source>
+        <translation>%1 ist kein gültiges Projekt.</translation>
+    </message>
+    <message>
+        <source>There is no file %1</source>
+        <translation>Es gibt keine Datei %1</translation>
+    </message>
+    <message>
+        <source>The project as it was saved before is in %1</source>
+        <translation>Das Projekt, wie es zuvor gespeichert war, liegt in %1</translation>
+    </message>
+    <message>
+        <source>Project %1 loaded.</source>
+        <translation>Projekt %1 geladen.</translation>
+    </message>
+    <message>
+        <source>Load Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Zuletzt geöffnete Projekte</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Liste leeren</translation>
+    </message>
+    <message>
+        <source>No recovery copy can be saved; save the project yourself. %1</source>
+        <translation>Es kann keine Wiederherstellungskopie gespeichert werden; speichern Sie das Projekt selbst. %1</translation>
+    </message>
+    <message>
+        <source>A survey that was not saved yet is there as it was at %1. Do you want to open it?</source>
+        <translation>Eine noch nicht gespeicherte Messung liegt im Stand vom %1 vor. Möchten Sie sie öffnen?</translation>
+    </message>
+    <message>
+        <source>The project %1 is there as it was at %2. Do you want to open it?</source>
+        <translation>Das Projekt %1 liegt im Stand vom %2 vor. Möchten Sie es öffnen?</translation>
+    </message>
+    <message>
+        <source>Geophones do not have geometry! 
+</source>
+        <translation>Die Geophone haben keine Geometrie! 
+</translation>
+    </message>
+    <message>
+        <source>Please set the position of geophones
+</source>
+        <translation>Bitte legen Sie die Positionen der Geophone fest
+</translation>
+    </message>
+    <message>
+        <source>Grid of %1 rows and %2 columns built.</source>
+        <translation>Gitter mit %1 Zeilen und %2 Spalten erstellt.</translation>
+    </message>
+    <message>
+        <source>The grid could not be built.</source>
+        <translation>Das Gitter konnte nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>The grid has the velocities of the layers.</source>
+        <translation>Das Gitter hat die Geschwindigkeiten der Schichten.</translation>
+    </message>
+    <message>
+        <source>The grid could not be smoothed.</source>
+        <translation>Das Gitter konnte nicht geglättet werden.</translation>
+    </message>
+    <message>
+        <source>The velocities of the grid are smoothed.</source>
+        <translation>Die Geschwindigkeiten des Gitters sind geglättet.</translation>
+    </message>
+    <message>
+        <source>Warning:</source>
+        <translation>Warnung:</translation>
+    </message>
+    <message>
+        <source>Uncomplete set of picks. 
+ 
+</source>
+        <translation>Die Picks sind unvollständig. 
+ 
+</translation>
+    </message>
+    <message>
+        <source>Do you want to run tomography inversion anyway? </source>
+        <translation>Möchten Sie die tomographische Inversion trotzdem starten? </translation>
+    </message>
+    <message>
+        <source>An inversion is under way; the survey cannot be edited.</source>
+        <translation>Eine Inversion läuft; die Messung kann nicht bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>Tomography inversion</source>
+        <translation>Tomographische Inversion</translation>
+    </message>
+    <message>
+        <source>The inversion is still running.</source>
+        <translation>Die Inversion läuft noch.</translation>
+    </message>
+    <message>
+        <source>Do you want to stop it when the iteration under way is completed, and close then?</source>
+        <translation>Möchten Sie sie nach der laufenden Iteration anhalten und dann beenden?</translation>
+    </message>
+    <message>
+        <source>The inversion could not be completed.</source>
+        <translation>Die Inversion konnte nicht abgeschlossen werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n external iteration(s) completed.</source>
+        <translation>
+            <numerusform>%n äußere Iteration abgeschlossen.</numerusform>
+            <numerusform>%n äußere Iterationen abgeschlossen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Inversion results</source>
+        <translation>Ergebnisse der Inversion</translation>
+    </message>
+    <message>
+        <source>Elapsed time: [s] %1
+</source>
+        <translation>Verstrichene Zeit: [s] %1
+</translation>
+    </message>
+    <message>
+        <source>RMSE: [ms] %1; [%] %2
+</source>
+        <translation>RMSE: [ms] %1; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>MaxError: [ms] %1; [%] %2
+</source>
+        <translation>Größter Fehler: [ms] %1; [%] %2
+</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) exist already.</source>
+        <translation>
+            <numerusform>%n Datei ist bereits vorhanden.</numerusform>
+            <numerusform>%n Dateien sind bereits vorhanden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to replace them?</source>
+        <translation>Möchten Sie sie ersetzen?</translation>
+    </message>
+    <message>
+        <source>Writing pictures ...</source>
+        <translation>Bilder werden geschrieben ...</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pictures have been saved.</source>
+        <translation>%1 von %2 Bildern wurden gespeichert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) saved.</source>
+        <translation>
+            <numerusform>%n Bild gespeichert.</numerusform>
+            <numerusform>%n Bilder gespeichert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save screenshot</source>
+        <translation>Bildschirmfoto speichern</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png);;JPEG picture (*.jpg *.jpeg)</source>
+        <translation>PNG-Bild (*.png);;JPEG-Bild (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>Save PDF report</source>
+        <translation>PDF-Bericht speichern</translation>
+    </message>
+    <message>
+        <source>PDF report (*.pdf)</source>
+        <translation>PDF-Bericht (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save ODT report</source>
+        <translation>ODT-Bericht speichern</translation>
+    </message>
+    <message>
+        <source>OpenDocument text (*.odt)</source>
+        <translation>OpenDocument-Text (*.odt)</translation>
+    </message>
+    <message>
+        <source>Writing the report ...</source>
+        <translation>Bericht wird geschrieben ...</translation>
+    </message>
+    <message>
+        <source>Stopped; nothing has been saved.</source>
+        <translation>Angehalten; es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The file has not been saved.</source>
+        <translation>Die Datei wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The survey is recovered; it is not saved yet.</source>
+        <translation>Die Messung ist wiederhergestellt; sie ist noch nicht gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceAxes</name>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Zeit (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceTexts</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 ms</source>
+        <translation>%1 m, %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 m/s (%2 m, %3 ms)</source>
+        <translation>%1 m/s (%2 m, %3 ms)</translation>
+    </message>
+    <message>
+        <source>Other shots</source>
+        <translation>Andere Schüsse</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Berechnet</translation>
+    </message>
+    <message>
+        <source>Air %1 m/s</source>
+        <translation>Luft %1 m/s</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TravelTimePlot</name>
+    <message>
+        <source>Travel-time curves</source>
+        <translation>Laufzeitkurven</translation>
+    </message>
+    <message>
+        <source>No travel times yet.
+
+Pick first breaks in the traces, by hand or with AutoPick, or import travel times.</source>
+        <translation>Noch keine Laufzeiten.
+
+Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importieren Sie Laufzeiten.</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Entfernung [m]</translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation>Zeit [ms]</translation>
+    </message>
+    <message>
+        <source>&amp;Measured</source>
+        <translation>&amp;Gemessen</translation>
+    </message>
+    <message>
+        <source>&amp;Computed</source>
+        <translation>&amp;Berechnet</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>&amp;Alles anzeigen</translation>
+    </message>
+    <message>
+        <source>Show all curves</source>
+        <translation>Zeigt alle Kurven</translation>
+    </message>
+    <message>
+        <source>Export &amp;picture...</source>
+        <translation>B&amp;ild exportieren...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Speichert die Kurven als PNG, SVG oder PDF</translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <translation>Schuss %1 bei %2 m</translation>
+    </message>
+    <message>
+        <source>Shot %1 has no travel times yet</source>
+        <translation>Schuss %1 hat noch keine Laufzeiten</translation>
+    </message>
+    <message>
+        <source>Click a curve to choose its shot</source>
+        <translation>Ein Klick auf eine Kurve wählt ihren Schuss</translation>
+    </message>
+    <message>
+        <source>Shot %1, trace %2: %3 ms</source>
+        <translation>Schuss %1, Spur %2: %3 ms</translation>
+    </message>
+    <message>
+        <source>Computed: %1 ms</source>
+        <translation>Berechnet: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Remove pick</source>
+        <translation>Pick &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;back</source>
+        <translation>&amp;Vorige Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom for&amp;ward</source>
+        <translation>&amp;Nächste Ansicht</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::contourlines_dialog</name>
+    <message>
+        <source>Contour Lines - Settings</source>
+        <translation>Isolinien - Einstellungen</translation>
+    </message>
+    <message>
+        <source>Contour values</source>
+        <translation>Werte der Isolinien</translation>
+    </message>
+    <message>
+        <source>Equally spaced contour values</source>
+        <translation>Gleichabständige Werte</translation>
+    </message>
+    <message>
+        <source>Values that divide the range into equal parts</source>
+        <translation>Werte, die den Bereich in gleiche Teile teilen</translation>
+    </message>
+    <message>
+        <source># Values</source>
+        <translation>Anzahl Werte</translation>
+    </message>
+    <message>
+        <source>How many values divide the range</source>
+        <translation>Wie viele Werte den Bereich teilen</translation>
+    </message>
+    <message>
+        <source>Customized Contour Values</source>
+        <translation>Eigene Werte</translation>
+    </message>
+    <message>
+        <source>The values of the list</source>
+        <translation>Die Werte der Liste</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Add One More Value</source>
+        <translation>Wert hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add an empty line to the list</source>
+        <translation>Fügt der Liste eine leere Zeile hinzu</translation>
+    </message>
+    <message>
+        <source>Load Isovalues</source>
+        <translation>Isowerte laden</translation>
+    </message>
+    <message>
+        <source>Replace the list by the values of a file</source>
+        <translation>Ersetzt die Liste durch die Werte einer Datei</translation>
+    </message>
+    <message>
+        <source>Save Isovalues</source>
+        <translation>Isowerte speichern</translation>
+    </message>
+    <message>
+        <source>Write the list to a file</source>
+        <translation>Schreibt die Liste in eine Datei</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Empty the list</source>
+        <translation>Leert die Liste</translation>
+    </message>
+    <message>
+        <source>Where contours are shown</source>
+        <translation>Wo Isolinien gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Show Contours (on top of  Tomographic Profile)</source>
+        <translation>Isolinien zeigen (auf dem tomographischen Schnitt)</translation>
+    </message>
+    <message>
+        <source>Lines over the velocities</source>
+        <translation>Linien über den Geschwindigkeiten</translation>
+    </message>
+    <message>
+        <source>Show Filled Contours</source>
+        <translation>Gefüllte Isoflächen zeigen</translation>
+    </message>
+    <message>
+        <source>Velocities in bands from one value to the next</source>
+        <translation>Geschwindigkeiten als Bänder von einem Wert zum nächsten</translation>
+    </message>
+    <message>
+        <source>Show Contours (on Vertical Gradient of Velocity)</source>
+        <translation>Isolinien zeigen (auf dem vertikalen Geschwindigkeitsgradienten)</translation>
+    </message>
+    <message>
+        <source>Lines over the vertical gradient; not together with filled contours</source>
+        <translation>Linien über dem vertikalen Gradienten; nicht zusammen mit gefüllten Isoflächen</translation>
+    </message>
+    <message>
+        <source>Show Contours (on Laplacian Gradient of Velocity)</source>
+        <translation>Isolinien zeigen (auf dem Laplace-Gradienten der Geschwindigkeit)</translation>
+    </message>
+    <message>
+        <source>Lines over the Laplacian; not together with filled contours</source>
+        <translation>Linien über dem Laplace-Gradienten; nicht zusammen mit gefüllten Isoflächen</translation>
+    </message>
+    <message>
+        <source>Lines and labels</source>
+        <translation>Linien und Beschriftung</translation>
+    </message>
+    <message>
+        <source>Show label every N contour lines</source>
+        <translation>Jede N-te Isolinie beschriften</translation>
+    </message>
+    <message>
+        <source>1 labels every line, 2 every second one</source>
+        <translation>1 beschriftet jede Linie, 2 jede zweite</translation>
+    </message>
+    <message>
+        <source>No labels</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Label size</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source>Size of the labels in points</source>
+        <translation>Größe der Beschriftung in Punkt</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Contours colour:</source>
+        <translation>Farbe der Isolinien:</translation>
+    </message>
+    <message>
+        <source>Choose the colour of the lines</source>
+        <translation>Wählt die Farbe der Linien</translation>
+    </message>
+    <message>
+        <source>Contours colour</source>
+        <translation>Farbe der Isolinien</translation>
+    </message>
+    <message>
+        <source>Isolines (*.csv)</source>
+        <translation>Isolinien (*.csv)</translation>
+    </message>
+    <message>
+        <source>The section shows values from %1 to %2 %3</source>
+        <translation>Der Schnitt zeigt Werte von %1 bis %2 %3</translation>
+    </message>
+    <message>
+        <source>Value : </source>
+        <translation>Wert : </translation>
+    </message>
+    <message>
+        <source>Remove this value</source>
+        <translation>Diesen Wert entfernen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n value(s) of the list are no numbers from %1 to %2.</source>
+        <translation>
+            <numerusform>%n Wert der Liste ist keine Zahl von %1 bis %2.</numerusform>
+            <numerusform>%n Werte der Liste sind keine Zahlen von %1 bis %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Datei ersetzen?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Cannot save file </source>
+        <translation>Datei kann nicht gespeichert werden: </translation>
+    </message>
+    <message>
+        <source>Cannot open file </source>
+        <translation>Datei kann nicht geöffnet werden: </translation>
+    </message>
+    <message>
+        <source>Invalid value at line </source>
+        <translation>Ungültiger Wert in Zeile </translation>
+    </message>
+    <message>
+        <source>Or wrong CVS separator.</source>
+        <translation>Oder falsches CSV-Trennzeichen.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Some loaded isovalues were out of range. Ignored.</source>
+        <translation>Einige geladene Isowerte lagen außerhalb des Bereichs und wurden ignoriert.</translation>
+    </message>
+    <message>
+        <source>Select background color</source>
+        <translation>Farbe der Isolinien wählen</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::doFilteringDialog</name>
+    <message>
+        <source>Trace Filtering</source>
+        <translation>Spurfilterung</translation>
+    </message>
+    <message>
+        <source>High Pass Filter</source>
+        <translation>Hochpassfilter</translation>
+    </message>
+    <message>
+        <source>Use &amp;high pass</source>
+        <translation>&amp;Hochpass verwenden</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Frequenz (Hz)</translation>
+    </message>
+    <message>
+        <source>High pass frequency in hertz</source>
+        <translation>Hochpassfrequenz in Hertz</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordnung</translation>
+    </message>
+    <message>
+        <source>High pass order</source>
+        <translation>Ordnung des Hochpasses</translation>
+    </message>
+    <message>
+        <source>Low Pass Filter</source>
+        <translation>Tiefpassfilter</translation>
+    </message>
+    <message>
+        <source>Use &amp;low pass</source>
+        <translation>&amp;Tiefpass verwenden</translation>
+    </message>
+    <message>
+        <source>Low pass frequency in hertz</source>
+        <translation>Tiefpassfrequenz in Hertz</translation>
+    </message>
+    <message>
+        <source>Low pass order</source>
+        <translation>Ordnung des Tiefpasses</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Filter anwenden auf:</translation>
+    </message>
+    <message>
+        <source>Filter the samples as they were recorded</source>
+        <translation>Filtert die Abtastwerte, wie sie aufgezeichnet wurden</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Filter what the filters and AGC before made of them</source>
+        <translation>Filtert, was frühere Filter und AGC daraus gemacht haben</translation>
+    </message>
+    <message>
+        <source>Filtered</source>
+        <translation>Gefiltert</translation>
+    </message>
+    <message>
+        <source>&amp;Apply filter</source>
+        <translation>&amp;Filter anwenden</translation>
+    </message>
+    <message>
+        <source>Display:</source>
+        <translation>Anzeigen:</translation>
+    </message>
+    <message>
+        <source>What the filter is applied to</source>
+        <translation>Worauf der Filter angewendet wird</translation>
+    </message>
+    <message>
+        <source>Original data</source>
+        <translation>Originaldaten</translation>
+    </message>
+    <message>
+        <source>What comes out of the filter</source>
+        <translation>Was aus dem Filter kommt</translation>
+    </message>
+    <message>
+        <source>Filtered data</source>
+        <translation>Gefilterte Daten</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>Schuss %1 von %2</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Der Filter gilt für alle Schüsse.</translation>
+    </message>
+    <message>
+        <source>Caution</source>
+        <translation>Achtung</translation>
+    </message>
+    <message>
+        <source>No filter applied. Filter order must be greater then 0.</source>
+        <translation>Kein Filter angewendet. Die Filterordnung muss größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>Kein Filter angewendet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) stay as they were.</source>
+        <translation>
+            <numerusform>%n Spur bleibt, wie sie war.</numerusform>
+            <numerusform>%n Spuren bleiben, wie sie waren.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::draw1DVelocityProfile</name>
+    <message>
+        <source>Velocity against depth</source>
+        <translation>Geschwindigkeit über der Tiefe</translation>
+    </message>
+    <message>
+        <source>Velocity (m/s)</source>
+        <translation>Geschwindigkeit (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth below the ground (m)</source>
+        <translation>Tiefe unter Gelände (m)</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Schichten</translation>
+    </message>
+    <message>
+        <source>Velocity that the grid gets</source>
+        <translation>Geschwindigkeit im Gitter</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::editTravelTimesWidget</name>
+    <message>
+        <source>Seismic traces</source>
+        <translation>Seismische Spuren</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Picks entfernen</translation>
+    </message>
+    <message>
+        <source>Remove pick</source>
+        <translation>Pick entfernen</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Picks bestätigen</translation>
+    </message>
+    <message>
+        <source>Nudge pick</source>
+        <translation>Pick verrücken</translation>
+    </message>
+    <message>
+        <source>Set pick</source>
+        <translation>Pick setzen</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms</source>
+        <translation>Spur %1, gepickt bei %2 ms</translation>
+    </message>
+    <message>
+        <source>Trace %1, not picked</source>
+        <translation>Spur %1, nicht gepickt</translation>
+    </message>
+    <message>
+        <source>Draw picks</source>
+        <translation>Picks zeichnen</translation>
+    </message>
+    <message>
+        <source>Move pick</source>
+        <translation>Pick verschieben</translation>
+    </message>
+    <message>
+        <source>No samples, only picks</source>
+        <translation>Keine Abtastwerte, nur Picks</translation>
+    </message>
+    <message>
+        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
+        <translation>Spuren %1 bis %2: C bestätigt, Entf entfernt, Esc bricht ab</translation>
+    </message>
+    <message>
+        <source>Open shot files with Ctrl+O or drop them here</source>
+        <translation>Schussdateien mit Strg+O öffnen oder hierher ziehen</translation>
+    </message>
+    <message>
+        <source>No shot is shown</source>
+        <translation>Kein Schuss angezeigt</translation>
+    </message>
+    <message>
+        <source>This shot has no traces</source>
+        <translation>Dieser Schuss hat keine Spuren</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::gridDialog</name>
+    <message>
+        <source>Grid Settings</source>
+        <translation>Gittereinstellungen</translation>
+    </message>
+    <message>
+        <source>Array length (m)</source>
+        <translation>Länge der Auslage (m)</translation>
+    </message>
+    <message>
+        <source>Max. depth (m)</source>
+        <translation>Maximale Tiefe (m)</translation>
+    </message>
+    <message>
+        <source>A deeper grid costs time and memory. Rays rarely reach deeper than a quarter to a third of the distance between the outermost shots.</source>
+        <translation>Ein tieferes Gitter kostet Zeit und Speicher. Strahlen reichen selten tiefer als ein Viertel bis ein Drittel des Abstands der äußersten Schüsse.</translation>
+    </message>
+    <message>
+        <source>Cell size (m)</source>
+        <translation>Zellengröße (m)</translation>
+    </message>
+    <message>
+        <source>Smaller cells draw finer detail and fit the times closer, but rays cover each cell less, and time and memory grow with the inverse square. A quarter of the geophone spacing is a good start.</source>
+        <translation>Kleinere Zellen zeigen feinere Einzelheiten und passen sich den Zeiten besser an, aber jede Zelle wird von weniger Strahlen abgedeckt, und Zeit und Speicher wachsen mit dem inversen Quadrat. Ein Viertel des Geophonabstands ist ein guter Anfang.</translation>
+    </message>
+    <message>
+        <source>N° of nodes per cell side</source>
+        <translation>Knoten pro Zellenseite</translation>
+    </message>
+    <message>
+        <source>More nodes let rays leave a cell at more angles, so computed times get more accurate; time and memory grow with the number. Beyond 15 little is gained.</source>
+        <translation>Mit mehr Knoten können Strahlen eine Zelle unter mehr Winkeln verlassen, und die berechneten Zeiten werden genauer; Zeit und Speicher wachsen mit der Anzahl. Über 15 hinaus ist wenig gewonnen.</translation>
+    </message>
+    <message>
+        <source>The grid will have</source>
+        <translation>Das Gitter erhält</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Zellen</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>The grid has no rows: choose a greater depth or smaller cells.</source>
+        <translation>Das Gitter hat keine Zeilen: Wählen Sie eine größere Tiefe oder kleinere Zellen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) at the end of the line lie beyond the last column and take no part in an inversion. Another cell size may reach them.</source>
+        <translation>
+            <numerusform>%n Position am Ende der Messlinie liegt jenseits der letzten Spalte und nimmt an keiner Inversion teil. Eine andere Zellengröße erreicht sie vielleicht.</numerusform>
+            <numerusform>%n Positionen am Ende der Messlinie liegen jenseits der letzten Spalte und nehmen an keiner Inversion teil. Eine andere Zellengröße erreicht sie vielleicht.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Invalid parameter</source>
+        <translation>Ungültiger Parameter</translation>
+    </message>
+    <message>
+        <source>The max depth parameter set to 0.0 is not valid for tomography</source>
+        <translation>Eine maximale Tiefe von 0,0 ist für die Tomographie nicht gültig</translation>
+    </message>
+    <message>
+        <source>Memory warning</source>
+        <translation>Speicherwarnung</translation>
+    </message>
+    <message>
+        <source>A large number of nodes may require a lot of memory</source>
+        <translation>Eine große Anzahl von Knoten kann viel Speicher erfordern</translation>
+    </message>
+    <message>
+        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
+        <translation>So kleine Zellen machen eine Inversion sehr langsam, und sie hält nur zwischen Iterationen an. Ein Viertel des Geophonabstands ist %1 m.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::progressDialog</name>
+    <message>
+        <source>Steps</source>
+        <translation>Schritte</translation>
+    </message>
+    <message>
+        <source>Saving project</source>
+        <translation>Projekt wird gespeichert</translation>
+    </message>
+    <message>
+        <source>Loading project</source>
+        <translation>Projekt wird geladen</translation>
+    </message>
+    <message>
+        <source>SAVED XML</source>
+        <translation>XML GESPEICHERT</translation>
+    </message>
+    <message>
+        <source>Saving grid...</source>
+        <translation>Gitter wird gespeichert...</translation>
+    </message>
+    <message>
+        <source>SAVED GRID</source>
+        <translation>GITTER GESPEICHERT</translation>
+    </message>
+    <message>
+        <source>Saving traces...</source>
+        <translation>Spuren werden gespeichert...</translation>
+    </message>
+    <message>
+        <source>SAVED TRACES</source>
+        <translation>SPUREN GESPEICHERT</translation>
+    </message>
+    <message>
+        <source>Saving palettes...</source>
+        <translation>Paletten werden gespeichert...</translation>
+    </message>
+    <message>
+        <source>SAVED PALETTES</source>
+        <translation>PALETTEN GESPEICHERT</translation>
+    </message>
+    <message>
+        <source>Compressing...</source>
+        <translation>Komprimieren...</translation>
+    </message>
+    <message>
+        <source>COMPRESSED</source>
+        <translation>KOMPRIMIERT</translation>
+    </message>
+    <message>
+        <source>Removing temporary files...</source>
+        <translation>Temporäre Dateien werden entfernt...</translation>
+    </message>
+    <message>
+        <source>COMPLETED</source>
+        <translation>ABGESCHLOSSEN</translation>
+    </message>
+    <message>
+        <source>Extracted</source>
+        <translation>Entpackt</translation>
+    </message>
+    <message>
+        <source>Loading XML</source>
+        <translation>XML wird geladen</translation>
+    </message>
+    <message>
+        <source>Loaded XML</source>
+        <translation>XML geladen</translation>
+    </message>
+    <message>
+        <source>Loading grid...</source>
+        <translation>Gitter wird geladen...</translation>
+    </message>
+    <message>
+        <source>Loaded GRID</source>
+        <translation>GITTER geladen</translation>
+    </message>
+    <message>
+        <source>Loading traces...</source>
+        <translation>Spuren werden geladen...</translation>
+    </message>
+    <message>
+        <source>Loaded TRACES</source>
+        <translation>SPUREN geladen</translation>
+    </message>
+    <message>
+        <source>Loading palettes...</source>
+        <translation>Paletten werden geladen...</translation>
+    </message>
+    <message>
+        <source>Loaded PALETTES</source>
+        <translation>PALETTEN geladen</translation>
+    </message>
+    <message>
+        <source>Tracing rays...</source>
+        <translation>Strahlen werden verfolgt...</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::progressTomographyDialog</name>
+    <message>
+        <source>Tomography inversion</source>
+        <translation>Tomographische Inversion</translation>
+    </message>
+    <message>
+        <source>Ends the inversion after the external iteration under way and keeps what it has reached</source>
+        <translation>Beendet die Inversion nach der laufenden äußeren Iteration und behält das Erreichte</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>Completed iteration %1</source>
+        <translation>Iteration %1 abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Elapsed: %1</source>
+        <translation>Verstrichen: %1</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>noch unbekannt</translation>
+    </message>
+    <message>
+        <source>Remaining: %1</source>
+        <translation>Verbleibend: %1</translation>
+    </message>
+    <message>
+        <source>Stops when the iteration under way is completed.</source>
+        <translation>Hält an, sobald die laufende Iteration abgeschlossen ist.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::runTomography_Dialog</name>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Tomographische Inversion starten</translation>
+    </message>
+    <message>
+        <source>Number of external iterations (default =5)</source>
+        <translation>Anzahl äußerer Iterationen (Vorgabe =5)</translation>
+    </message>
+    <message>
+        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little.</source>
+        <translation>Jede äußere Iteration verfolgt die Strahlen neu durch das bisherige Modell. Mehr Iterationen bringen die Strahlen der Wirklichkeit näher und senken die Abweichung; die Zeit wächst mit der Anzahl. Ist die Abweichungskurve flach geworden, ändern weitere wenig.</translation>
+    </message>
+    <message>
+        <source>Number of solver iterations (default =20)</source>
+        <translation>Anzahl Löser-Iterationen (Vorgabe =20)</translation>
+    </message>
+    <message>
+        <source>How far the velocities are corrected along the same rays before these are traced anew. More fit the times closer but may overfit noise; fewer keep the model smoother.</source>
+        <translation>Wie weit die Geschwindigkeiten entlang derselben Strahlen korrigiert werden, bevor diese neu verfolgt werden. Mehr Iterationen passen die Zeiten genauer an, womöglich auch das Rauschen; weniger halten das Modell glatter.</translation>
+    </message>
+    <message>
+        <source>Smoothing parameter (default =5) </source>
+        <translation>Glättungsparameter (Vorgabe =5) </translation>
+    </message>
+    <message>
+        <source>How many cells to each side are averaged after every external iteration. Larger gives a smoother section that hides small bodies; smaller shows detail and artefacts along rays.</source>
+        <translation>Über wie viele Zellen nach jeder Seite nach jeder äußeren Iteration gemittelt wird. Ein größerer Wert ergibt einen glatteren Schnitt, der kleine Körper verbirgt; ein kleinerer zeigt Einzelheiten und Artefakte entlang der Strahlen.</translation>
+    </message>
+    <message>
+        <source>Minimum velocity [m/s]</source>
+        <translation>Minimale Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get slower than this. Set it to the slowest ground that you expect.</source>
+        <translation>Langsamer wird keine Zelle. Geben Sie den langsamsten Boden an, den Sie erwarten.</translation>
+    </message>
+    <message>
+        <source>Maximum velocity [m/s]</source>
+        <translation>Maximale Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get faster than this. Set it to the fastest rock that you expect.</source>
+        <translation>Schneller wird keine Zelle. Geben Sie das schnellste Gestein an, das Sie erwarten.</translation>
+    </message>
+    <message>
+        <source>Type of smoothing:</source>
+        <translation>Art der Glättung:</translation>
+    </message>
+    <message>
+        <source>Uniform averages all cells alike; linear and Gaussian give near cells more weight and keep contrasts sharper; ray based first fills the cells that no ray crossed from those that rays did.</source>
+        <translation>Die gleich gewichtete mittelt alle Zellen gleich; die linear und die Gauß-gewichtete geben nahen Zellen mehr Gewicht und erhalten Kontraste schärfer; die strahlbasierte füllt zuerst die Zellen ohne Strahlen aus denen, die Strahlen durchquert haben.</translation>
+    </message>
+    <message>
+        <source>Uniform weighted smoothing</source>
+        <translation>Gleich gewichtete Glättung</translation>
+    </message>
+    <message>
+        <source>Linear weighted smoothing</source>
+        <translation>Linear gewichtete Glättung</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted smoothing</source>
+        <translation>Gauß-gewichtete Glättung</translation>
+    </message>
+    <message>
+        <source>Ray based smoothing</source>
+        <translation>Strahlbasierte Glättung</translation>
+    </message>
+    <message>
+        <source>Unchecked, the smoothing reaches 0.7 times as far up and down as sideways, which suits layered ground. Checked, it reaches equally far, which suits bodies and steep contacts.</source>
+        <translation>Nicht angekreuzt reicht die Glättung nach oben und unten 0,7-mal so weit wie zur Seite, was zu geschichtetem Untergrund passt. Angekreuzt reicht sie gleich weit, was zu Einzelkörpern und steilen Kontakten passt.</translation>
+    </message>
+    <message>
+        <source>Symmetric smoothing</source>
+        <translation>Symmetrische Glättung</translation>
+    </message>
+    <message>
+        <source>Uses one processor only. The result is the same to the last digit; it just takes longer.</source>
+        <translation>Verwendet nur einen Prozessor. Das Ergebnis ist bis zur letzten Stelle dasselbe; es dauert nur länger.</translation>
+    </message>
+    <message>
+        <source>Run in single thread mode</source>
+        <translation>Mit nur einem Thread rechnen</translation>
+    </message>
+    <message>
+        <source>The minimum is above the maximum: every cell that changes will end at the maximum.</source>
+        <translation>Das Minimum liegt über dem Maximum: Jede Zelle, die sich ändert, endet am Maximum.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::select_speed_Dialog</name>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Modellgeschwindigkeit festlegen</translation>
+    </message>
+    <message>
+        <source>Depths in metres below the ground, velocities in m/s</source>
+        <translation>Tiefen in Metern unter Gelände, Geschwindigkeiten in m/s</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Schichten</translation>
+    </message>
+    <message>
+        <source>Splits the last layer at its middle</source>
+        <translation>Teilt die letzte Schicht in der Mitte</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Removes the layers that are checked or selected</source>
+        <translation>Entfernt die angekreuzten oder ausgewählten Schichten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model.</source>
+        <translation>Die Schichten ergeben kein Geschwindigkeitsmodell.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::setGeographyDialog</name>
+    <message>
+        <source>Set geographic coordinates</source>
+        <translation>Geographische Koordinaten</translation>
+    </message>
+    <message>
+        <source>Easting (m)</source>
+        <translation>Ostwert (m)</translation>
+    </message>
+    <message>
+        <source>Northing (m)</source>
+        <translation>Nordwert (m)</translation>
+    </message>
+    <message>
+        <source>Latitude, longitude (WGS84)</source>
+        <translation>Breite, Länge (WGS84)</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Erstes Geophon</translation>
+    </message>
+    <message>
+        <source>Easting of the first geophone in metres</source>
+        <translation>Ostwert des ersten Geophons in Metern</translation>
+    </message>
+    <message>
+        <source>Northing of the first geophone in metres</source>
+        <translation>Nordwert des ersten Geophons in Metern</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Letztes Geophon</translation>
+    </message>
+    <message>
+        <source>Easting of the last geophone in metres</source>
+        <translation>Ostwert des letzten Geophons in Metern</translation>
+    </message>
+    <message>
+        <source>Northing of the last geophone in metres</source>
+        <translation>Nordwert des letzten Geophons in Metern</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>EPSG-Code</translation>
+    </message>
+    <message>
+        <source>EPSG code of the reference system</source>
+        <translation>EPSG-Code des Referenzsystems</translation>
+    </message>
+    <message>
+        <source>First geophone (at %1 m)</source>
+        <translation>Erstes Geophon (bei %1 m)</translation>
+    </message>
+    <message>
+        <source>Last geophone (at %1 m)</source>
+        <translation>Letztes Geophon (bei %1 m)</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>south</comment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <comment>east</comment>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <comment>west</comment>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>There is no reference system with this EPSG code.</source>
+        <translation>Es gibt kein Referenzsystem mit diesem EPSG-Code.</translation>
+    </message>
+    <message>
+        <source>This system is not projected: it has no easting and northing.</source>
+        <translation>Dieses System ist nicht projiziert: Es hat keinen Ost- und Nordwert.</translation>
+    </message>
+    <message>
+        <source>This system does not count in metres. Choose one that does.</source>
+        <translation>Dieses System zählt nicht in Metern. Wählen Sie eines in Metern.</translation>
+    </message>
+    <message>
+        <source>This system counts westward or southward. Choose one with easting and northing.</source>
+        <translation>Dieses System zählt nach Westen oder Süden. Wählen Sie eines mit Ost- und Nordwert.</translation>
+    </message>
+    <message>
+        <source>This system cannot be turned into longitude and latitude.</source>
+        <translation>Dieses System lässt sich nicht in geographische Länge und Breite umrechnen.</translation>
+    </message>
+    <message>
+        <source>Enter easting and northing of both geophones, in metres.</source>
+        <translation>Geben Sie Ost- und Nordwert beider Geophone in Metern ein.</translation>
+    </message>
+    <message>
+        <source>Enter the EPSG code of the reference system, for example 32632 for UTM zone 32 N.</source>
+        <translation>Geben Sie den EPSG-Code des Referenzsystems ein, zum Beispiel 32632 für UTM-Zone 32 N.</translation>
+    </message>
+    <message>
+        <source>The first and the last geophone have the same coordinates.</source>
+        <translation>Das erste und das letzte Geophon haben dieselben Koordinaten.</translation>
+    </message>
+    <message>
+        <source>These coordinates lie outside of the reference system.</source>
+        <translation>Diese Koordinaten liegen außerhalb des Referenzsystems.</translation>
+    </message>
+    <message>
+        <source>On the map the two geophones are %1 m apart</source>
+        <translation>Auf der Karte liegen die beiden Geophone %1 m auseinander</translation>
+    </message>
+    <message>
+        <source>%1, along the line %2 m.</source>
+        <comment>distance on the map, distance along the line</comment>
+        <translation>%1, entlang der Messlinie %2 m.</translation>
+    </message>
+    <message>
+        <source>Check the coordinates.</source>
+        <translation>Prüfen Sie die Koordinaten.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::setVelocityWidget</name>
+    <message>
+        <source>Marks the layer for Remove</source>
+        <translation>Kreuzt die Schicht für „Entfernen“ an</translation>
+    </message>
+    <message>
+        <source>Initial depth   </source>
+        <translation>Anfangstiefe   </translation>
+    </message>
+    <message>
+        <source>Depth of the layer&apos;s top below the ground, metres</source>
+        <translation>Tiefe der Schichtoberkante unter Gelände, Meter</translation>
+    </message>
+    <message>
+        <source>    Velocity</source>
+        <translation>    Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Velocity at the layer&apos;s top, m/s</source>
+        <translation>Geschwindigkeit an der Schichtoberkante, m/s</translation>
+    </message>
+    <message>
+        <source>Final depth</source>
+        <translation>Endtiefe</translation>
+    </message>
+    <message>
+        <source>Depth of the layer&apos;s bottom below the ground, metres</source>
+        <translation>Tiefe der Schichtunterkante unter Gelände, Meter</translation>
+    </message>
+    <message>
+        <source>    Velocity  </source>
+        <translation>    Geschwindigkeit  </translation>
+    </message>
+    <message>
+        <source>Velocity at the layer&apos;s bottom, m/s</source>
+        <translation>Geschwindigkeit an der Schichtunterkante, m/s</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::smoothingDialog</name>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Glättung anwenden</translation>
+    </message>
+    <message>
+        <source>Smooths the velocities of the present grid. Rays and misfit stay those of the last inversion.</source>
+        <translation>Glättet die Geschwindigkeiten des jetzigen Gitters. Strahlen und Abweichung bleiben die der letzten Inversion.</translation>
+    </message>
+    <message>
+        <source>&amp;Type of smoothing:</source>
+        <translation>&amp;Art der Glättung:</translation>
+    </message>
+    <message>
+        <source>Uniform averages all cells alike; linear and Gaussian give near cells more weight and keep contrasts sharper; ray based first fills the cells that no ray crossed from those that rays did.</source>
+        <translation>Die gleich gewichtete mittelt alle Zellen gleich; die linear und die Gauß-gewichtete geben nahen Zellen mehr Gewicht und erhalten Kontraste schärfer; die strahlbasierte füllt zuerst die Zellen ohne Strahlen aus denen, die Strahlen durchquert haben.</translation>
+    </message>
+    <message>
+        <source>Uniform weighted smoothing</source>
+        <translation>Gleich gewichtete Glättung</translation>
+    </message>
+    <message>
+        <source>Linear weighted smoothing</source>
+        <translation>Linear gewichtete Glättung</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted smoothing</source>
+        <translation>Gauß-gewichtete Glättung</translation>
+    </message>
+    <message>
+        <source>Ray based smoothing</source>
+        <translation>Strahlbasierte Glättung</translation>
+    </message>
+    <message>
+        <source>Smoothing &amp;parameter:</source>
+        <translation>&amp;Glättungsparameter:</translation>
+    </message>
+    <message>
+        <source>How many cells to each side are averaged. Larger gives a smoother section that hides small bodies.</source>
+        <translation>Über wie viele Zellen nach jeder Seite gemittelt wird. Ein größerer Wert ergibt einen glatteren Schnitt, der kleine Körper verbirgt.</translation>
+    </message>
+    <message>
+        <source>Unchecked, the smoothing reaches 0.7 times as far up and down as sideways, which suits layered ground. Checked, it reaches equally far, which suits bodies and steep contacts.</source>
+        <translation>Nicht angekreuzt reicht die Glättung nach oben und unten 0,7-mal so weit wie zur Seite, was zu geschichtetem Untergrund passt. Angekreuzt reicht sie gleich weit, was zu Einzelkörpern und steilen Kontakten passt.</translation>
+    </message>
+    <message>
+        <source>&amp;Symmetric smoothing</source>
+        <translation>&amp;Symmetrische Glättung</translation>
+    </message>
+</context>
+</TS>

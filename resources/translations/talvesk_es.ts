@@ -1,0 +1,5237 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>No guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ColorPaletteWidget</name>
+    <message>
+        <source>Handles of the gradient</source>
+        <translation>Cursores del degradado</translation>
+    </message>
+    <message>
+        <source>Drag a handle; double-click it for its colour.
+Keys: Left and Right move the selected handle (with Ctrl by one), Up and Down select another, Space asks for its colour, Insert adds and Delete removes one.</source>
+        <translation>Arrastre un cursor; haga doble clic en él para elegir su color.
+Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en uno), Arriba y Abajo seleccionan otro, Espacio pide el color, Insert añade uno y Supr lo quita.</translation>
+    </message>
+    <message>
+        <source>Number of the handle that the value, the colour and Delete are for</source>
+        <translation>Número del cursor al que se refieren el valor, el color y Supr</translation>
+    </message>
+    <message>
+        <source>Where on the scale the selected handle stands</source>
+        <translation>Posición del cursor seleccionado en la escala</translation>
+    </message>
+    <message>
+        <source>Value shown in the first colour, and below it</source>
+        <translation>Valor que se muestra con el primer color, como los inferiores</translation>
+    </message>
+    <message>
+        <source>Value shown in the last colour, and above it</source>
+        <translation>Valor que se muestra con el último color, como los superiores</translation>
+    </message>
+    <message>
+        <source>Add Slider</source>
+        <translation>Añadir cursor</translation>
+    </message>
+    <message>
+        <source>Add a handle between the selected one and the next, in the colour of that place</source>
+        <translation>Añade un cursor entre el seleccionado y el siguiente, con el color de ese punto</translation>
+    </message>
+    <message>
+        <source>Set Selected Slider Color</source>
+        <translation>Color del cursor seleccionado</translation>
+    </message>
+    <message>
+        <source>Choose the handle&apos;s colour</source>
+        <translation>Elige el color del cursor</translation>
+    </message>
+    <message>
+        <source>Delete Selected Slider</source>
+        <translation>Eliminar cursor seleccionado</translation>
+    </message>
+    <message>
+        <source>Remove the selected handle; the first and the last stay</source>
+        <translation>Quita el cursor seleccionado; el primero y el último permanecen</translation>
+    </message>
+    <message>
+        <source>Selected Handle</source>
+        <translation>Cursor seleccionado</translation>
+    </message>
+    <message>
+        <source>Value: </source>
+        <translation>Valor: </translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Máximo</translation>
+    </message>
+    <message>
+        <source>The colours of a built-in palette stay as they are; Edit Palette makes a copy.</source>
+        <translation>Los colores de una paleta predefinida no cambian; Editar paleta crea una copia.</translation>
+    </message>
+    <message>
+        <source>Cannot move handle at mimimum value.</source>
+        <translation>No se puede mover el cursor del valor mínimo.</translation>
+    </message>
+    <message>
+        <source>Cannot move handle at maximum value.</source>
+        <translation>No se puede mover el cursor del valor máximo.</translation>
+    </message>
+    <message>
+        <source>There is no room for another handle here.</source>
+        <translation>Aquí no hay sitio para otro cursor.</translation>
+    </message>
+    <message>
+        <source>The first and the last handle stay.</source>
+        <translation>El primer y el último cursor permanecen.</translation>
+    </message>
+    <message>
+        <source>Colour of the selected handle</source>
+        <translation>Color del cursor seleccionado</translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <translation> de %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DialogSetGeometry</name>
+    <message>
+        <source>Set survey geometry - Dialog</source>
+        <translation>Geometría del levantamiento</translation>
+    </message>
+    <message>
+        <source>This survey has no shots yet. Open shot files (Ctrl+O) or import travel times first, or add S-wave pairs on the page Shots.</source>
+        <translation>Este levantamiento aún no tiene disparos. Abra primero los archivos de disparos (Ctrl+O) o importe tiempos de recorrido, o añada pares de onda S en la página Disparos.</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>&amp;String:</source>
+        <translation>&amp;Tendido:</translation>
+    </message>
+    <message>
+        <source>The geophone string in the table; its geophones are in the order of the channels</source>
+        <translation>Tendido de geófonos que muestra la tabla; sus geófonos siguen el orden de los canales</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Añadir</translation>
+    </message>
+    <message>
+        <source>Add a string without geophones</source>
+        <translation>Añade un tendido sin geófonos</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Remove the string in the table</source>
+        <translation>Quita el tendido que muestra la tabla</translation>
+    </message>
+    <message>
+        <source>&amp;Copy from</source>
+        <translation>&amp;Copiar de</translation>
+    </message>
+    <message>
+        <source>Replace the geophones of this string by those of another one</source>
+        <translation>Sustituye los geófonos de este tendido por los de otro</translation>
+    </message>
+    <message>
+        <source>&amp;First (m):</source>
+        <translation>&amp;Primero (m):</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone along the line</source>
+        <translation>Distancia del primer geófono a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>S&amp;pacing (m):</source>
+        <translation>&amp;Separación (m):</translation>
+    </message>
+    <message>
+        <source>Distance from one geophone to the next; negative where the channels run backwards</source>
+        <translation>Distancia de un geófono al siguiente; negativa si los canales van hacia atrás</translation>
+    </message>
+    <message>
+        <source>C&amp;ount:</source>
+        <translation>&amp;Número:</translation>
+    </message>
+    <message>
+        <source>How many geophones the string gets, as a rule the channels of a shot</source>
+        <translation>Cuántos geófonos recibe el tendido, por lo general los canales de un disparo</translation>
+    </message>
+    <message>
+        <source>A&amp;utofill</source>
+        <translation>A&amp;utorrellenar</translation>
+    </message>
+    <message>
+        <source>Give the string so many geophones, evenly spaced; elevations that are there stay</source>
+        <translation>Da al tendido ese número de geófonos, equidistantes; las cotas ya presentes se mantienen</translation>
+    </message>
+    <message>
+        <source>Geophones of the string</source>
+        <translation>Geófonos del tendido</translation>
+    </message>
+    <message>
+        <source>Type, or paste from a spreadsheet. Enter goes down, Delete empties cells, Ctrl+D fills down, Insert adds a row. Elevations in italics were not typed and can be interpolated.</source>
+        <translation>Escriba o pegue desde una hoja de cálculo. Intro baja, Supr vacía celdas, Ctrl+D rellena hacia abajo, Insert añade una fila. Las cotas en cursiva no se han escrito y pueden interpolarse.</translation>
+    </message>
+    <message>
+        <source>&amp;Interpolate elevations</source>
+        <translation>&amp;Interpolar cotas</translation>
+    </message>
+    <message>
+        <source>Elevations that were not typed follow a line from typed one to typed one; empty those that shall be interpolated</source>
+        <translation>Las cotas no escritas siguen una línea de una cota escrita a la siguiente; vacíe las que se deban interpolar</translation>
+    </message>
+    <message>
+        <source>&amp;Load Geometry</source>
+        <translation>Car&amp;gar geometría</translation>
+    </message>
+    <message>
+        <source>Read x and elevation of the geophones of this string from a text file</source>
+        <translation>Lee x y cota de los geófonos de este tendido de un archivo de texto</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Geometry</source>
+        <translation>Guar&amp;dar geometría</translation>
+    </message>
+    <message>
+        <source>Write x and elevation of the geophones of this string to a text file</source>
+        <translation>Escribe x y cota de los geófonos de este tendido en un archivo de texto</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>Type, or paste from a spreadsheet. Enter goes down, Delete empties cells, Ctrl+D fills down.</source>
+        <translation>Escriba o pegue desde una hoja de cálculo. Intro baja, Supr vacía celdas, Ctrl+D rellena hacia abajo.</translation>
+    </message>
+    <message>
+        <source>Shot in the table</source>
+        <translation>Disparo en la tabla</translation>
+    </message>
+    <message>
+        <source>Elevations of shots that were not typed are those of the line between the geophones</source>
+        <translation>Las cotas de disparos no escritas son las de la línea entre los geófonos</translation>
+    </message>
+    <message>
+        <source>S-&amp;wave files ...</source>
+        <translation>Archivos de &amp;onda S ...</translation>
+    </message>
+    <message>
+        <source>Choose the DX and the SX file that the selected shot is made of</source>
+        <translation>Elige el archivo DX y el archivo SX que componen el disparo seleccionado</translation>
+    </message>
+    <message>
+        <source>Add S-wave &amp;pairs ...</source>
+        <translation>Añadir &amp;pares de onda S ...</translation>
+    </message>
+    <message>
+        <source>Choose DX files and as many SX files; each pair becomes a shot whose traces are DX minus SX</source>
+        <translation>Elige archivos DX y otros tantos SX; cada par se convierte en un disparo cuyas trazas son DX menos SX</translation>
+    </message>
+    <message>
+        <source>&amp;Load Shots Geometry</source>
+        <translation>Car&amp;gar geometría de disparos</translation>
+    </message>
+    <message>
+        <source>Read x and elevation of all shots from a text file</source>
+        <translation>Lee x y cota de todos los disparos de un archivo de texto</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Shots Geometry</source>
+        <translation>Guar&amp;dar geometría de disparos</translation>
+    </message>
+    <message>
+        <source>Write x and elevation of all shots to a text file</source>
+        <translation>Escribe x y cota de todos los disparos en un archivo de texto</translation>
+    </message>
+    <message>
+        <source>&amp;To be looked at:</source>
+        <translation>Por re&amp;visar:</translation>
+    </message>
+    <message>
+        <source>A click shows the geophones or shots that are meant</source>
+        <translation>Un clic muestra los geófonos o disparos afectados</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Take the last step back (Ctrl+Z)</source>
+        <translation>Deshace el último cambio (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Do the step again (Ctrl+Shift+Z)</source>
+        <translation>Rehace el cambio (Ctrl+Mayús+Z)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n geophone(s)</source>
+        <translation>
+            <numerusform>%1: %n geófono</numerusform>
+            <numerusform>%1: %n geófonos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a length in metres.</source>
+        <translation>«%1» no es una longitud en metros.</translation>
+    </message>
+    <message>
+        <source>They have no geophones then, until another string is added.</source>
+        <translation>Quedarán sin geófonos hasta que se añada otro tendido.</translation>
+    </message>
+    <message>
+        <source>They will use string %1, as it is numbered then.</source>
+        <translation>Usarán el tendido %1, según la nueva numeración.</translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 is used by shot(s) %2. Remove it?</source>
+        <translation>
+            <numerusform>El tendido %1 lo usa el disparo %2. ¿Quitarlo?</numerusform>
+            <numerusform>El tendido %1 lo usan los disparos %2. ¿Quitarlo?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All elevations were typed. Empty those that shall be interpolated.</source>
+        <translation>Todas las cotas se han escrito. Vacíe las que se deban interpolar.</translation>
+    </message>
+    <message>
+        <source>Type the elevation of one geophone at least.</source>
+        <translation>Escriba la cota de al menos un geófono.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) interpolated.</source>
+        <translation>
+            <numerusform>%n cota interpolada.</numerusform>
+            <numerusform>%n cotas interpoladas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the grid and the results of the inversion</source>
+        <translation>la malla y los resultados de la inversión</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>la malla</translation>
+    </message>
+    <message>
+        <source>the refraction interpretation</source>
+        <translation>la interpretación por refracción</translation>
+    </message>
+    <message numerus="yes">
+        <source>the picks of shot(s) %1</source>
+        <translation>
+            <numerusform>los picados del disparo %1</numerusform>
+            <numerusform>los picados de los disparos %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be lost:</source>
+        <translation>El levantamiento cambia. Se perderán:</translation>
+    </message>
+    <message>
+        <source>Do you want to continue?</source>
+        <translation>¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>The geometry is not complete.</source>
+        <translation>La geometría no está completa.</translation>
+    </message>
+    <message>
+        <source>The geometry has been edited.</source>
+        <translation>La geometría se ha modificado.</translation>
+    </message>
+    <message>
+        <source>Do you want to leave it as it was before?</source>
+        <translation>¿Desea dejarla como estaba?</translation>
+    </message>
+    <message>
+        <source>Open Geometry</source>
+        <translation>Abrir geometría</translation>
+    </message>
+    <message>
+        <source>Save Geometry</source>
+        <translation>Guardar geometría</translation>
+    </message>
+    <message>
+        <source>%1 exists.</source>
+        <translation>%1 ya existe.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>¿Desea reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>Geophones Geometry (*csv)</source>
+        <translation>Geometría de geófonos (*csv)</translation>
+    </message>
+    <message>
+        <source>Error Message</source>
+        <translation>Mensaje de error</translation>
+    </message>
+    <message>
+        <source>Invalid geometry file.</source>
+        <translation>Archivo de geometría no válido.</translation>
+    </message>
+    <message>
+        <source>Geophones saved in %1</source>
+        <translation>Geófonos guardados en %1</translation>
+    </message>
+    <message>
+        <source>CSV format (*.csv)</source>
+        <translation>Formato CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Invalid geometry file. </source>
+        <translation>Archivo de geometría no válido. </translation>
+    </message>
+    <message>
+        <source>Geophones loaded from %1</source>
+        <translation>Geófonos cargados de %1</translation>
+    </message>
+    <message>
+        <source>Invalid shot file. </source>
+        <translation>Archivo de disparos no válido. </translation>
+    </message>
+    <message>
+        <source>Shots saved in %1</source>
+        <translation>Disparos guardados en %1</translation>
+    </message>
+    <message>
+        <source>Shots loaded from %1</source>
+        <translation>Disparos cargados de %1</translation>
+    </message>
+    <message>
+        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)</source>
+        <translation>Archivos sísmicos (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Open DX File of Shot %1</source>
+        <translation>Abrir archivo DX del disparo %1</translation>
+    </message>
+    <message>
+        <source>Open SX File of Shot %1</source>
+        <translation>Abrir archivo SX del disparo %1</translation>
+    </message>
+    <message>
+        <source>Error occured</source>
+        <translation>Se ha producido un error</translation>
+    </message>
+    <message>
+        <source>The files are not taken as an S-wave pair.</source>
+        <translation>Los archivos no se aceptan como par de onda S.</translation>
+    </message>
+    <message>
+        <source>Open DX Files</source>
+        <translation>Abrir archivos DX</translation>
+    </message>
+    <message>
+        <source>Open SX Files</source>
+        <translation>Abrir archivos SX</translation>
+    </message>
+    <message>
+        <source>There must be as many SX files as DX files.</source>
+        <translation>Debe haber tantos archivos SX como archivos DX.</translation>
+    </message>
+    <message>
+        <source>%1 DX files and %2 SX files were chosen.</source>
+        <translation>Se han elegido %1 archivos DX y %2 archivos SX.</translation>
+    </message>
+    <message>
+        <source>No shot was added: the files are not taken as S-wave pairs.</source>
+        <translation>No se ha añadido ningún disparo: los archivos no se aceptan como pares de onda S.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n S-wave shot(s) added.</source>
+        <translation>
+            <numerusform>%n disparo de onda S añadido.</numerusform>
+            <numerusform>%n disparos de onda S añadidos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Read with this separator the file has %1 lines of numbers; %2 are needed.</source>
+        <translation>Leído con este separador, el archivo tiene %1 líneas de números; se necesitan %2.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ExportTomoVelData</name>
+    <message>
+        <source>Set optional shift parameter before export</source>
+        <translation>Desplazamiento opcional antes de exportar</translation>
+    </message>
+    <message>
+        <source>Y coord of the line</source>
+        <translation>Coordenada Y de la línea</translation>
+    </message>
+    <message>
+        <source>Y coordinate of the line in metres</source>
+        <translation>Coordenada Y de la línea en metros</translation>
+    </message>
+    <message>
+        <source>Written as Y of every cell</source>
+        <translation>Se escribe como Y de cada celda</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Z offset of the line</source>
+        <translation>Desplazamiento Z de la línea</translation>
+    </message>
+    <message>
+        <source>Z offset of the line in metres</source>
+        <translation>Desplazamiento Z de la línea en metros</translation>
+    </message>
+    <message>
+        <source>Added to the elevation of every cell</source>
+        <translation>Se suma a la cota de cada celda</translation>
+    </message>
+    <message>
+        <source>X is the distance along the line</source>
+        <translation>X es la distancia a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Takes the grid&apos;s offset off; X is the grid&apos;s own abscissa else</source>
+        <translation>Descuenta el desplazamiento de la malla; si no, X es la abscisa propia de la malla</translation>
+    </message>
+    <message>
+        <source>The Y coordinate is not a number.</source>
+        <translation>La coordenada Y no es un número.</translation>
+    </message>
+    <message>
+        <source>The Z offset is not a number.</source>
+        <translation>El desplazamiento Z no es un número.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureWords</name>
+    <message>
+        <source>Contours</source>
+        <translation>Isolíneas</translation>
+    </message>
+    <message>
+        <source>Vertical gradient of velocity</source>
+        <translation>Gradiente vertical de velocidad</translation>
+    </message>
+    <message>
+        <source>Laplacian of velocity</source>
+        <translation>Laplaciano de la velocidad</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densidad de información</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>1 trace</source>
+        <translation>1 traza</translation>
+    </message>
+    <message>
+        <source>%1 traces</source>
+        <translation>%1 trazas</translation>
+    </message>
+    <message>
+        <source>1 pick</source>
+        <translation>1 picado</translation>
+    </message>
+    <message>
+        <source>%1 picks</source>
+        <translation>%1 picados</translation>
+    </message>
+    <message>
+        <source>1 shot</source>
+        <translation>1 disparo</translation>
+    </message>
+    <message>
+        <source>%1 shots</source>
+        <translation>%1 disparos</translation>
+    </message>
+    <message>
+        <source>1 computed time</source>
+        <translation>1 tiempo calculado</translation>
+    </message>
+    <message>
+        <source>%1 computed times</source>
+        <translation>%1 tiempos calculados</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 %</source>
+        <translation>Desajuste RMS %1 %</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>quantity, least and greatest value with its unit</comment>
+        <translation>%1 de %2 a %3</translation>
+    </message>
+    <message>
+        <source>Contours every %1</source>
+        <translation>Isolíneas cada %1</translation>
+    </message>
+    <message>
+        <source>1 ray</source>
+        <translation>1 rayo</translation>
+    </message>
+    <message>
+        <source>%1 rays</source>
+        <translation>%1 rayos</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration %1</source>
+        <translation>Exageración vertical %1</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distancia [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Cota [m]</translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation>Tiempo [ms]</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>First breaks</source>
+        <translation>Primeras llegadas</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>Disparo %1 de %2</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m</source>
+        <comment>shot, place</comment>
+        <translation>%1 en %2 m</translation>
+    </message>
+    <message>
+        <source>%1, filtered</source>
+        <comment>traces</comment>
+        <translation>%1, filtradas</translation>
+    </message>
+    <message>
+        <source>%1, some filtered</source>
+        <comment>traces</comment>
+        <translation>%1, algunas filtradas</translation>
+    </message>
+    <message>
+        <source>One of every %1 is drawn</source>
+        <translation>Se dibuja una de cada %1</translation>
+    </message>
+    <message>
+        <source>%1 without samples or sample interval</source>
+        <translation>%1 sin muestras o sin intervalo de muestreo</translation>
+    </message>
+    <message>
+        <source>Each trace to its own maximum, gain %1</source>
+        <translation>Cada traza a su propio máximo, ganancia %1</translation>
+    </message>
+    <message>
+        <source>All traces to one maximum, gain %1</source>
+        <translation>Todas las trazas a un mismo máximo, ganancia %1</translation>
+    </message>
+    <message>
+        <source>no picks</source>
+        <translation>sin picados</translation>
+    </message>
+    <message>
+        <source>%1 outside the times shown</source>
+        <comment>picks</comment>
+        <translation>%1 fuera de los tiempos mostrados</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Rayos</translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Límite de cobertura</translation>
+    </message>
+    <message>
+        <source>Travel times</source>
+        <translation>Tiempos de recorrido</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Medidos</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calculados</translation>
+    </message>
+    <message>
+        <source>Refraction Profile</source>
+        <translation>Perfil de refracción</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Z (m)</source>
+        <translation>Z (m)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Capa %1</translation>
+    </message>
+    <message>
+        <source>Velocities of refractors: median</source>
+        <translation>Velocidades de los refractores: mediana</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Iteración externa</translation>
+    </message>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>Desajuste RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Distancia al disparo [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [ms]</source>
+        <translation>Calculado menos medido [ms]</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeometryTable</name>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>«%1» no es un número.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1.</source>
+        <translation>No se ha pegado nada: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows do not fit from row %2 on, of %3.</source>
+        <translation>No se ha pegado nada: %1 filas no caben a partir de la fila %2, de %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 columns do not fit from column &quot;%2&quot; on.</source>
+        <translation>No se ha pegado nada: %1 columnas no caben a partir de la columna «%2».</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1</source>
+        <translation>No se ha pegado nada: %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeometryTexts</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 without a position.</source>
+        <translation>
+            <numerusform>Tendido %1: el geófono %2 no tiene posición.</numerusform>
+            <numerusform>Tendido %1: los geófonos %2 no tienen posición.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>String %1: geophones %2 stand at one place.</source>
+        <translation>Tendido %1: los geófonos %2 están en el mismo punto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 against the direction of the string.</source>
+        <translation>
+            <numerusform>Tendido %1: el geófono %2 va contra el sentido del tendido.</numerusform>
+            <numerusform>Tendido %1: los geófonos %2 van contra el sentido del tendido.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 not at the elevation that string %3 has there.</source>
+        <translation>
+            <numerusform>Tendido %1: el geófono %2 no está a la cota que el tendido %3 tiene allí.</numerusform>
+            <numerusform>Tendido %1: los geófonos %2 no están a la cota que el tendido %3 tiene allí.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a position.</source>
+        <translation>
+            <numerusform>El disparo %1 no tiene posición.</numerusform>
+            <numerusform>Los disparos %1 no tienen posición.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string.</source>
+        <translation>
+            <numerusform>El disparo %1 no tiene tendido de geófonos.</numerusform>
+            <numerusform>Los disparos %1 no tienen tendido de geófonos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not an S-wave pair, as others are: a survey holds one kind of wave.</source>
+        <translation>
+            <numerusform>El disparo %1 no es un par de onda S como los demás: un levantamiento contiene un solo tipo de onda.</numerusform>
+            <numerusform>Los disparos %1 no son pares de onda S como los demás: un levantamiento contiene un solo tipo de onda.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 farther off the line than the line is long.</source>
+        <translation>
+            <numerusform>El disparo %1 está más lejos de la línea que la longitud de esta.</numerusform>
+            <numerusform>Los disparos %1 están más lejos de la línea que la longitud de esta.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 far above or below the line.</source>
+        <translation>
+            <numerusform>El disparo %1 está muy por encima o por debajo de la línea.</numerusform>
+            <numerusform>Los disparos %1 están muy por encima o por debajo de la línea.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 has %2 geophones, shot(s) %3 %4 traces: the first %5 of both are used.</source>
+        <translation>
+            <numerusform>El tendido %1 tiene %2 geófonos y el disparo %3, %4 trazas: se usan los primeros %5 de ambos.</numerusform>
+            <numerusform>El tendido %1 tiene %2 geófonos y los disparos %3, %4 trazas: se usan los primeros %5 de ambos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>String %1 has no geophones.</source>
+        <translation>El tendido %1 no tiene geófonos.</translation>
+    </message>
+    <message>
+        <source>No shot uses string %1; its positions shape the surface all the same.</source>
+        <translation>Ningún disparo usa el tendido %1; aun así, sus posiciones dan forma a la superficie.</translation>
+    </message>
+    <message>
+        <source>Shot ID &lt;b&gt;</source>
+        <translation>ID del disparo &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;/b&gt;&lt;br&gt;Geophone geometry ID: &lt;b&gt;</source>
+        <translation>&lt;/b&gt;&lt;br&gt;ID de geometría de geófonos: &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;/b&gt; Shot position: &lt;b&gt;</source>
+        <translation>&lt;/b&gt; Posición del disparo: &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source> m&lt;/b&gt;</source>
+        <translation> m&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>File name &lt;b&gt;</source>
+        <translation>Nombre del archivo &lt;b&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeophoneTable</name>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Cota (m)</translation>
+    </message>
+    <message>
+        <source>%1 m is too far away.</source>
+        <translation>%1 m está demasiado lejos.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ImagesDialog</name>
+    <message>
+        <source>Images</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Pictures of</source>
+        <translation>Imágenes de</translation>
+    </message>
+    <message>
+        <source>Traces of the current shot</source>
+        <translation>Trazas del disparo actual</translation>
+    </message>
+    <message>
+        <source>Traces of all shots</source>
+        <translation>Trazas de todos los disparos</translation>
+    </message>
+    <message>
+        <source>A picture for every shot</source>
+        <translation>Una imagen por disparo</translation>
+    </message>
+    <message>
+        <source>Filtered traces</source>
+        <translation>Trazas filtradas</translation>
+    </message>
+    <message>
+        <source>The filtered copy of the traces, where there is one</source>
+        <translation>La copia filtrada de las trazas donde la haya</translation>
+    </message>
+    <message>
+        <source>Travel time curves</source>
+        <translation>Dromocronas</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Sección de velocidad</translation>
+    </message>
+    <message>
+        <source>Palette, contours, rays and geophones as the section view shows them</source>
+        <translation>Paleta, isolíneas, rayos y geófonos tal como los muestra la vista de la sección</translation>
+    </message>
+    <message>
+        <source>Vertical gradient</source>
+        <translation>Gradiente vertical</translation>
+    </message>
+    <message>
+        <source>Laplacian</source>
+        <translation>Laplaciano</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densidad de información</translation>
+    </message>
+    <message>
+        <source>Sections as cells</source>
+        <translation>Secciones por celdas</translation>
+    </message>
+    <message>
+        <source>In bands where contours are filled</source>
+        <translation>En bandas si las isolíneas están rellenas</translation>
+    </message>
+    <message>
+        <source>Sections smooth</source>
+        <translation>Secciones difuminadas</translation>
+    </message>
+    <message>
+        <source>Blended from cell to cell, in pictures of their own</source>
+        <translation>Difuminadas de celda a celda, en imágenes aparte</translation>
+    </message>
+    <message>
+        <source>Refraction profile</source>
+        <translation>Perfil de refracción</translation>
+    </message>
+    <message>
+        <source>Format and size</source>
+        <translation>Formato y tamaño</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat:</source>
+        <translation>F&amp;ormato:</translation>
+    </message>
+    <message>
+        <source>PNG (pixels)</source>
+        <translation>PNG (píxeles)</translation>
+    </message>
+    <message>
+        <source>SVG (shapes)</source>
+        <translation>SVG (vectorial)</translation>
+    </message>
+    <message>
+        <source>PDF (shapes)</source>
+        <translation>PDF (vectorial)</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of the size:</source>
+        <translation>&amp;Unidad de medida:</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <translation>milímetros</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>píxeles</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Ancho:</translation>
+    </message>
+    <message>
+        <source>Height as each picture asks for</source>
+        <translation>Alto según cada imagen</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>A&amp;lto:</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Resolución:</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> ppp</translation>
+    </message>
+    <message>
+        <source>Pixels per inch; also how large letters and lines are in a picture of so many pixels</source>
+        <translation>Píxeles por pulgada; también determina el tamaño de letras y líneas en una imagen con un número dado de píxeles</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Carpeta:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Examinar...</translation>
+    </message>
+    <message>
+        <source>&amp;Names begin with:</source>
+        <translation>Los &amp;nombres empiezan por:</translation>
+    </message>
+    <message>
+        <source>Files to be &amp;written:</source>
+        <translation>Archivos por e&amp;scribir:</translation>
+    </message>
+    <message>
+        <source>Folder of the pictures</source>
+        <translation>Carpeta de las imágenes</translation>
+    </message>
+    <message>
+        <source>Nothing to write is chosen.</source>
+        <translation>No se ha elegido nada que escribir.</translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>La carpeta no existe.</translation>
+    </message>
+    <message>
+        <source>The folder is not writable.</source>
+        <translation>No se puede escribir en la carpeta.</translation>
+    </message>
+    <message>
+        <source>A name cannot hold a slash.</source>
+        <translation>Un nombre no puede contener una barra.</translation>
+    </message>
+    <message>
+        <source>%1 (exists)</source>
+        <translation>%1 (ya existe)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LayerCurvesPlot</name>
+    <message>
+        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
+        <translation>Disparo %1, traza %2: %3 m, %4 ms, %5</translation>
+    </message>
+    <message>
+        <source>no layer</source>
+        <translation>ninguna capa</translation>
+    </message>
+    <message>
+        <source>layer %1</source>
+        <translation>capa %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LinePlan</name>
+    <message>
+        <source>Geophones of string %1</source>
+        <translation>Geófonos del tendido %1</translation>
+    </message>
+    <message>
+        <source>Other strings</source>
+        <translation>Otros tendidos</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>Por revisar</translation>
+    </message>
+    <message>
+        <source>x %1 m, z %2 m</source>
+        <translation>x %1 m, z %2 m</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>String %1, geophone %2</source>
+        <translation>Tendido %1, geófono %2</translation>
+    </message>
+    <message>
+        <source>Plan of the line</source>
+        <translation>Plano de la línea</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>Distancia (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Cota (m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Messages</name>
+    <message>
+        <source>The document has been modified</source>
+        <translation>El documento se ha modificado</translation>
+    </message>
+    <message>
+        <source>Do you want to save your changes?</source>
+        <translation>¿Desea guardar los cambios?</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recover survey</source>
+        <translation>Recuperar levantamiento</translation>
+    </message>
+    <message>
+        <source>Talvesk was not closed properly.</source>
+        <translation>Talvesk no se cerró correctamente.</translation>
+    </message>
+    <message>
+        <source>Ask again later</source>
+        <translation>Preguntar más tarde</translation>
+    </message>
+    <message>
+        <source>Delete it</source>
+        <translation>Eliminar la copia</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MisfitPlot</name>
+    <message>
+        <source>Misfit after every external iteration</source>
+        <translation>Desajuste después de cada iteración externa</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Iteración externa</translation>
+    </message>
+    <message>
+        <source>RMSE (ms)</source>
+        <translation>RMSE (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PaletteDialog</name>
+    <message>
+        <source>Palette Settings</source>
+        <translation>Configuración de la paleta</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Paleta</translation>
+    </message>
+    <message>
+        <source>Palette that colours the section</source>
+        <translation>Paleta que colorea la sección</translation>
+    </message>
+    <message>
+        <source>Load palettes from files</source>
+        <translation>Carga paletas de archivos</translation>
+    </message>
+    <message>
+        <source>Save this palette to a file</source>
+        <translation>Guarda esta paleta en un archivo</translation>
+    </message>
+    <message>
+        <source>Create New Palette</source>
+        <translation>Crear paleta nueva</translation>
+    </message>
+    <message>
+        <source>Add a palette from black to white and select it</source>
+        <translation>Añade una paleta de negro a blanco y la selecciona</translation>
+    </message>
+    <message>
+        <source>Edit Palette</source>
+        <translation>Editar paleta</translation>
+    </message>
+    <message>
+        <source>Edit the colours; of a built-in palette, those of a copy</source>
+        <translation>Modifica los colores; si la paleta es predefinida, los de una copia</translation>
+    </message>
+    <message>
+        <source>Rename Palette</source>
+        <translation>Cambiar nombre de la paleta</translation>
+    </message>
+    <message>
+        <source>Give the palette another name; built-in ones keep theirs</source>
+        <translation>Da otro nombre a la paleta; las predefinidas conservan el suyo</translation>
+    </message>
+    <message>
+        <source>Delete Palette</source>
+        <translation>Eliminar paleta</translation>
+    </message>
+    <message>
+        <source>Remove the palette; built-in ones stay</source>
+        <translation>Quita la paleta; las predefinidas permanecen</translation>
+    </message>
+    <message>
+        <source>Number of colours</source>
+        <translation>Número de colores</translation>
+    </message>
+    <message>
+        <source>Into how many colours the gradient is cut</source>
+        <translation>En cuántos colores se divide el degradado</translation>
+    </message>
+    <message>
+        <source>Range from Data</source>
+        <translation>Rango de los datos</translation>
+    </message>
+    <message>
+        <source>Lock the range</source>
+        <translation>Bloquear el rango</translation>
+    </message>
+    <message>
+        <source>Keep minimum and maximum when another palette is chosen or another line is shown</source>
+        <translation>Conserva mínimo y máximo al elegir otra paleta o mostrar otra línea</translation>
+    </message>
+    <message>
+        <source>Talvesk Palette (*.xml)</source>
+        <translation>Paleta de Talvesk (*.xml)</translation>
+    </message>
+    <message>
+        <source>MIN: %1, MAX: %2</source>
+        <translation>MÍN: %1, MÁX: %2</translation>
+    </message>
+    <message>
+        <source>New palette</source>
+        <translation>Paleta nueva</translation>
+    </message>
+    <message>
+        <source>%1 - copy</source>
+        <translation>%1 - copia</translation>
+    </message>
+    <message>
+        <source>Save new palette as : </source>
+        <translation>Guardar la nueva paleta como: </translation>
+    </message>
+    <message>
+        <source>There is a palette of this name already.</source>
+        <translation>Ya existe una paleta con este nombre.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Este nombre es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>Save Palette</source>
+        <translation>Guardar paleta</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>¿Reemplazar el archivo?</translation>
+    </message>
+    <message>
+        <source>Error while saving palette.</source>
+        <translation>Error al guardar la paleta.</translation>
+    </message>
+    <message>
+        <source>Open Palette</source>
+        <translation>Abrir paleta</translation>
+    </message>
+    <message>
+        <source>Error while loading palette.</source>
+        <translation>Error al cargar la paleta.</translation>
+    </message>
+    <message>
+        <source>Take minimum and maximum from the velocities of the section</source>
+        <translation>Toma mínimo y máximo de las velocidades de la sección</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RecordingDetailsDialog</name>
+    <message>
+        <source>Recording details</source>
+        <translation>Detalles del registro</translation>
+    </message>
+    <message>
+        <source>&amp;Shot:</source>
+        <translation>&amp;Disparo:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Archivo:</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Trazas:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Muestras por traza:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Intervalo de muestreo:</translation>
+    </message>
+    <message>
+        <source>Record length:</source>
+        <translation>Duración del registro:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Retardo del registro:</translation>
+    </message>
+    <message>
+        <source>Samples dropped before the shot:</source>
+        <translation>Muestras descartadas antes del disparo:</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Trazas del disparo</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Geophone x (m)</source>
+        <translation>Geófono x (m)</translation>
+    </message>
+    <message>
+        <source>Geophone z (m)</source>
+        <translation>Geófono z (m)</translation>
+    </message>
+    <message>
+        <source>Shot x (m)</source>
+        <translation>Disparo x (m)</translation>
+    </message>
+    <message>
+        <source>Shot z (m)</source>
+        <translation>Disparo z (m)</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Muestras</translation>
+    </message>
+    <message>
+        <source>Interval (ms)</source>
+        <translation>Intervalo (ms)</translation>
+    </message>
+    <message>
+        <source>Delay (ms)</source>
+        <translation>Retardo (ms)</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings of the reader:</source>
+        <translation>Ad&amp;vertencias del lector:</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RecoveryCopy</name>
+    <message>
+        <source>Nothing can be written in %1</source>
+        <translation>No se puede escribir en %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionProcessingDialog</name>
+    <message>
+        <source>Refraction processing</source>
+        <translation>Procesamiento de refracción</translation>
+    </message>
+    <message>
+        <source>T-x curves</source>
+        <translation>Curvas T-x</translation>
+    </message>
+    <message>
+        <source>Select layer:</source>
+        <translation>Seleccionar capa:</translation>
+    </message>
+    <message>
+        <source>0 none</source>
+        <translation>0 ninguna</translation>
+    </message>
+    <message>
+        <source>1 direct wave</source>
+        <translation>1 onda directa</translation>
+    </message>
+    <message>
+        <source>2 first refractor</source>
+        <translation>2 primer refractor</translation>
+    </message>
+    <message>
+        <source>3 second refractor</source>
+        <translation>3 segundo refractor</translation>
+    </message>
+    <message>
+        <source>Show layer:</source>
+        <translation>Mostrar capa:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Editable</translation>
+    </message>
+    <message>
+        <source>Let clicks and drags mark picks</source>
+        <translation>Los clics y arrastres asignan picados</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Propose layers</source>
+        <translation>Proponer capas</translation>
+    </message>
+    <message>
+        <source>Find the break points of all branches</source>
+        <translation>Busca los puntos de quiebre de todas las ramas</translation>
+    </message>
+    <message>
+        <source>Clear marks</source>
+        <translation>Borrar asignaciones</translation>
+    </message>
+    <message>
+        <source>Shot:</source>
+        <translation>Disparo:</translation>
+    </message>
+    <message>
+        <source>Takes part</source>
+        <translation>Participa</translation>
+    </message>
+    <message>
+        <source>Whether the chosen shot takes part in the interpretation</source>
+        <translation>Si el disparo elegido participa en la interpretación</translation>
+    </message>
+    <message>
+        <source>Phantoming</source>
+        <translation>Phantoming</translation>
+    </message>
+    <message>
+        <source>Auto phantoming</source>
+        <translation>Phantoming automático</translation>
+    </message>
+    <message>
+        <source>Complete the curves of the end shots by the arrivals of the other shots</source>
+        <translation>Completa las dromocronas de los disparos extremos con las llegadas de los demás disparos</translation>
+    </message>
+    <message>
+        <source>Time shifts</source>
+        <translation>Traslaciones de tiempo</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Capa</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>Receptores</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picados</translation>
+    </message>
+    <message>
+        <source>Shift (ms)</source>
+        <translation>Traslación (ms)</translation>
+    </message>
+    <message>
+        <source>tV/tG</source>
+        <translation>tV/tG</translation>
+    </message>
+    <message>
+        <source>Refractor:</source>
+        <translation>Refractor:</translation>
+    </message>
+    <message>
+        <source>XY (m):</source>
+        <translation>XY (m):</translation>
+    </message>
+    <message>
+        <source>Velocity/Profile</source>
+        <translation>Velocidad/Perfil</translation>
+    </message>
+    <message>
+        <source>Build profiles</source>
+        <translation>Construir perfiles</translation>
+    </message>
+    <message>
+        <source>Curves, tV and tG, velocities and depths from the marks</source>
+        <translation>Dromocronas, tV y tG, velocidades y profundidades a partir de las asignaciones</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>time (ms)</source>
+        <translation>tiempo (ms)</translation>
+    </message>
+    <message>
+        <source>There are no picks to assign to layers: pick first breaks, or import travel times.</source>
+        <translation>No hay picados que asignar a capas: pique primeras llegadas o importe tiempos de recorrido.</translation>
+    </message>
+    <message>
+        <source>Phantom travel times</source>
+        <translation>Tiempos de recorrido fantasma</translation>
+    </message>
+    <message>
+        <source>No curves yet.
+
+Assign picks to layer 2 for a shot at either end of the line, then press &quot;Auto phantoming&quot; or &quot;Build profiles&quot;.</source>
+        <translation>Aún no hay dromocronas.
+
+Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «Phantoming automático» o «Construir perfiles».</translation>
+    </message>
+    <message>
+        <source>tV, velocity analysis</source>
+        <translation>tV, análisis de velocidad</translation>
+    </message>
+    <message>
+        <source>tG, time depth</source>
+        <translation>tG, profundidad en tiempo</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Velocity (m/s)</source>
+        <translation>Velocidad (m/s)</translation>
+    </message>
+    <message>
+        <source>Refraction Profile</source>
+        <translation>Perfil de refracción</translation>
+    </message>
+    <message>
+        <source>Z (m)</source>
+        <translation>Z (m)</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet: assign picks to layers and press &quot;Build profiles&quot;.</source>
+        <translation>Aún no se ha construido nada: asigne picados a las capas y pulse «Construir perfiles».</translation>
+    </message>
+    <message>
+        <source>There is no depth to show. Layer 1 needs a branch with two picks, and each refractor has to be faster than the layer above.</source>
+        <translation>No hay ninguna profundidad que mostrar. La capa 1 necesita una rama con dos picados, y cada refractor debe ser más rápido que la capa superior.</translation>
+    </message>
+    <message>
+        <source>All shots</source>
+        <translation>Todos los disparos</translation>
+    </message>
+    <message>
+        <source>%1: at %2 m</source>
+        <comment>shot number, place</comment>
+        <translation>%1: en %2 m</translation>
+    </message>
+    <message numerus="yes">
+        <source>take %n pick(s) out</source>
+        <translation>
+            <numerusform>quitar %n picado</numerusform>
+            <numerusform>quitar %n picados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>mark %n pick(s)</source>
+        <translation>
+            <numerusform>asignar %n picado</numerusform>
+            <numerusform>asignar %n picados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The marks have changed since the profiles were built.</source>
+        <translation>Las asignaciones han cambiado desde que se construyeron los perfiles.</translation>
+    </message>
+    <message>
+        <source>Click a pick, or drag around several, to assign them. Keys 1, 2, 3 and 0: layer</source>
+        <translation>Haga clic en un picado, o arrastre alrededor de varios, para asignarlos. Teclas 1, 2, 3 y 0: capa</translation>
+    </message>
+    <message>
+        <source>right of shot %1</source>
+        <translation>a la derecha del disparo %1</translation>
+    </message>
+    <message>
+        <source>left of shot %1</source>
+        <translation>a la izquierda del disparo %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>no velocity</source>
+        <translation>sin velocidad</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 (%4 picks)</source>
+        <translation>Capa %1, %2: %3 (%4 picados)</translation>
+    </message>
+    <message>
+        <source>Replace the marks by a proposal?</source>
+        <translation>¿Sustituir las asignaciones por una propuesta?</translation>
+    </message>
+    <message>
+        <source>All picks are assigned anew from the break points of the branches. Undo brings the marks back.</source>
+        <translation>Todos los picados se reasignan a partir de los puntos de quiebre de las ramas. Deshacer recupera las asignaciones.</translation>
+    </message>
+    <message>
+        <source>No branch of the curves has picks enough to tell layers apart.</source>
+        <translation>Ninguna rama de las dromocronas tiene suficientes picados para distinguir capas.</translation>
+    </message>
+    <message>
+        <source>propose layers</source>
+        <translation>proponer capas</translation>
+    </message>
+    <message>
+        <source>clear marks</source>
+        <translation>borrar asignaciones</translation>
+    </message>
+    <message>
+        <source>let shot %1 take part</source>
+        <translation>hacer participar el disparo %1</translation>
+    </message>
+    <message>
+        <source>leave shot %1 out</source>
+        <translation>excluir el disparo %1</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>No profile could be built.</source>
+        <translation>No se ha podido construir ningún perfil.</translation>
+    </message>
+    <message>
+        <source>first (layer 2)</source>
+        <translation>primero (capa 2)</translation>
+    </message>
+    <message>
+        <source>second (layer 3)</source>
+        <translation>segundo (capa 3)</translation>
+    </message>
+    <message>
+        <source>Layer %1 from shot %2</source>
+        <translation>Capa %1 desde el disparo %2</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>hacia la derecha</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>hacia la izquierda</translation>
+    </message>
+    <message>
+        <source>other XY</source>
+        <translation>otros XY</translation>
+    </message>
+    <message>
+        <source>XY = %1 m</source>
+        <translation>XY = %1 m</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Capa %1</translation>
+    </message>
+    <message>
+        <source>Close without keeping the changes?</source>
+        <translation>¿Cerrar sin conservar los cambios?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionProfilePlot</name>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Capa %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Capa %1</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionTexts</name>
+    <message>
+        <source>Unable to find nearest shot for first refractor</source>
+        <translation>No se encuentra el disparo más cercano para el primer refractor</translation>
+    </message>
+    <message>
+        <source>Velocity is less then zero at least one receiver. The profile may not be accurate. Please check input data </source>
+        <translation>La velocidad es menor que cero en al menos un receptor. El perfil puede no ser preciso. Compruebe los datos de entrada </translation>
+    </message>
+    <message>
+        <source>Strong lateral velocity variations. The profile may not be accurate.</source>
+        <translation>Fuertes variaciones laterales de velocidad. El perfil puede no ser preciso.</translation>
+    </message>
+    <message>
+        <source>The Tg function is less then zero at least one receiver. The profile may not be accurate. Please check input data </source>
+        <translation>La función Tg es menor que cero en al menos un receptor. El perfil puede no ser preciso. Compruebe los datos de entrada </translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot at each end of the line has picks of it, so it has no profile.</source>
+        <translation>Capa %1: no hay en cada extremo de la línea un disparo con picados de ella, así que no tiene perfil.</translation>
+    </message>
+    <message>
+        <source>Layer %1: the shot at the start of the line has fewer than two usable picks of it, so there is no forward curve.</source>
+        <translation>Capa %1: el disparo del inicio de la línea tiene menos de dos picados utilizables de ella, así que no hay dromocrona directa.</translation>
+    </message>
+    <message>
+        <source>Layer %1: the shot at the end of the line has fewer than two usable picks of it, so there is no reverse curve.</source>
+        <translation>Capa %1: el disparo del final de la línea tiene menos de dos picados utilizables de ella, así que no hay dromocrona inversa.</translation>
+    </message>
+    <message>
+        <source>Layer %1: forward and reverse curve have fewer than two receivers in common.</source>
+        <translation>Capa %1: las dromocronas directa e inversa tienen menos de dos receptores en común.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
+        <translation>Capa %1: ningún disparo tiene dos picados de ella a un mismo lado, así que no tiene velocidad y las capas inferiores no tienen profundidad.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer above.</source>
+        <translation>Capa %1: sin profundidad en %2 de %3 receptores, donde no es más rápida que la capa superior.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the layer above.</source>
+        <translation>Capa %1: sin profundidad en %2 de %3 receptores, que quedan más allá del perfil de la capa superior.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Report</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>Table %1. %2</source>
+        <translation>Tabla %1. %2</translation>
+    </message>
+    <message>
+        <source>Figure %1. %2</source>
+        <translation>Figura %1. %2</translation>
+    </message>
+    <message>
+        <source>Seismic refraction survey</source>
+        <translation>Levantamiento de sísmica de refracción</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>Position [m]</source>
+        <translation>Posición [m]</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Trazas</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picados</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [%]</source>
+        <translation>RMS [%]</translation>
+    </message>
+    <message>
+        <source>Mean [ms]</source>
+        <translation>Media [ms]</translation>
+    </message>
+    <message>
+        <source>Largest [ms]</source>
+        <translation>Máximo [ms]</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Linear weighted</source>
+        <translation>Ponderado lineal</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted</source>
+        <translation>Ponderado gaussiano</translation>
+    </message>
+    <message>
+        <source>Ray based</source>
+        <translation>Basado en rayos</translation>
+    </message>
+    <message>
+        <source>Uniform weighted</source>
+        <translation>Ponderado uniforme</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Celdas</translation>
+    </message>
+    <message>
+        <source>%1 rows by %2 columns</source>
+        <translation>%1 filas por %2 columnas</translation>
+    </message>
+    <message>
+        <source>Side of a cell</source>
+        <translation>Lado de una celda</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>Depth below the surface</source>
+        <translation>Profundidad bajo la superficie</translation>
+    </message>
+    <message>
+        <source>Nodes per cell side</source>
+        <translation>Nodos por lado de celda</translation>
+    </message>
+    <message>
+        <source>Nodes altogether</source>
+        <translation>Nodos en total</translation>
+    </message>
+    <message>
+        <source>The grid under the line</source>
+        <translation>La malla bajo la línea</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Capa</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Techo [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Base [m]</translation>
+    </message>
+    <message>
+        <source>Velocity at top [m/s]</source>
+        <translation>Velocidad en el techo [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity at bottom [m/s]</source>
+        <translation>Velocidad en la base [m/s]</translation>
+    </message>
+    <message>
+        <source>The layers of the starting model, depths below the surface</source>
+        <translation>Las capas del modelo inicial, profundidades bajo la superficie</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1, stopped by the user</source>
+        <translation>%1, detenida por el usuario</translation>
+    </message>
+    <message>
+        <source>External iterations</source>
+        <translation>Iteraciones externas</translation>
+    </message>
+    <message>
+        <source>Solver iterations on the rays of each</source>
+        <translation>Iteraciones del solucionador con los rayos de cada una</translation>
+    </message>
+    <message>
+        <source>Velocity limits</source>
+        <translation>Límites de velocidad</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>Suavizado</translation>
+    </message>
+    <message>
+        <source>Smoothing radius</source>
+        <translation>Radio de suavizado</translation>
+    </message>
+    <message>
+        <source>1 cell</source>
+        <translation>1 celda</translation>
+    </message>
+    <message>
+        <source>%1 cells</source>
+        <translation>%1 celdas</translation>
+    </message>
+    <message>
+        <source>Height over width of the smoothing window</source>
+        <translation>Relación alto/ancho de la ventana de suavizado</translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation>Tiempo transcurrido</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Parameters of the inversion</source>
+        <translation>Parámetros de la inversión</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Iteración externa</translation>
+    </message>
+    <message>
+        <source>Largest late error [ms]</source>
+        <translation>Mayor retraso [ms]</translation>
+    </message>
+    <message>
+        <source>Largest late error [%]</source>
+        <translation>Mayor retraso [%]</translation>
+    </message>
+    <message>
+        <source>Misfit after every external iteration</source>
+        <translation>Desajuste después de cada iteración externa</translation>
+    </message>
+    <message>
+        <source>Travel times</source>
+        <translation>Tiempos de recorrido</translation>
+    </message>
+    <message>
+        <source>No first breaks have been picked.</source>
+        <translation>No se han picado primeras llegadas.</translation>
+    </message>
+    <message>
+        <source>Travel-time curves: picked first breaks against distance</source>
+        <translation>Dromocronas: primeras llegadas picadas en función de la distancia</translation>
+    </message>
+    <message>
+        <source>Travel-time curves: picked first breaks (symbols) and times computed through the section (lines) against distance</source>
+        <translation>Dromocronas: primeras llegadas picadas (símbolos) y tiempos calculados a través de la sección (líneas) en función de la distancia</translation>
+    </message>
+    <message>
+        <source>Picks of every shot</source>
+        <translation>Picados de cada disparo</translation>
+    </message>
+    <message>
+        <source>Picks of every shot and their misfit, computed minus measured</source>
+        <translation>Picados de cada disparo y su desajuste, calculado menos medido</translation>
+    </message>
+    <message>
+        <source>Grid and inversion</source>
+        <translation>Malla e inversión</translation>
+    </message>
+    <message>
+        <source>No grid has been built and nothing has been inverted.</source>
+        <translation>No se ha construido ninguna malla ni se ha invertido nada.</translation>
+    </message>
+    <message>
+        <source>Nothing has been inverted: the grid holds its starting model.</source>
+        <translation>No se ha invertido nada: la malla contiene su modelo inicial.</translation>
+    </message>
+    <message>
+        <source>The parameters of the inversion are not known.</source>
+        <translation>No se conocen los parámetros de la inversión.</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Sección de velocidad</translation>
+    </message>
+    <message>
+        <source>Velocity of the starting model</source>
+        <translation>Velocidad del modelo inicial</translation>
+    </message>
+    <message>
+        <source>Velocity section with the rays of the last iteration</source>
+        <translation>Sección de velocidad con los rayos de la última iteración</translation>
+    </message>
+    <message>
+        <source>Misfit</source>
+        <translation>Desajuste</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Picados utilizados</translation>
+    </message>
+    <message>
+        <source>RMS misfit</source>
+        <translation>Desajuste RMS</translation>
+    </message>
+    <message>
+        <source>%1 ms, %2 %</source>
+        <translation>%1 ms, %2 %</translation>
+    </message>
+    <message>
+        <source>Largest late error</source>
+        <translation>Mayor retraso</translation>
+    </message>
+    <message>
+        <source>Shots and receivers left out, beyond the grid</source>
+        <translation>Disparos y receptores excluidos, fuera de la malla</translation>
+    </message>
+    <message>
+        <source>Misfit of the section</source>
+        <translation>Desajuste de la sección</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks against the distance from their shot</source>
+        <translation>Residuos de los picados en función de la distancia a su disparo</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Cota [m]</translation>
+    </message>
+    <message>
+        <source>Depth %1 [m]</source>
+        <translation>Profundidad %1 [m]</translation>
+    </message>
+    <message>
+        <source>Velocity %1 [m/s]</source>
+        <translation>Velocidad %1 [m/s]</translation>
+    </message>
+    <message>
+        <source>Refraction interpretation</source>
+        <translation>Interpretación por refracción</translation>
+    </message>
+    <message>
+        <source>Velocity of the first layer</source>
+        <translation>Velocidad de la primera capa</translation>
+    </message>
+    <message>
+        <source>Velocity of refractor %1</source>
+        <translation>Velocidad del refractor %1</translation>
+    </message>
+    <message>
+        <source>Distance XY of refractor %1</source>
+        <translation>Distancia XY del refractor %1</translation>
+    </message>
+    <message>
+        <source>Layers and refractors</source>
+        <translation>Capas y refractores</translation>
+    </message>
+    <message>
+        <source>Section of the layers</source>
+        <translation>Sección de las capas</translation>
+    </message>
+    <message>
+        <source>Depths below the surface and velocities of the refractors</source>
+        <translation>Profundidades bajo la superficie y velocidades de los refractores</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Método</translation>
+    </message>
+    <message>
+        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces and inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
+        <translation>Las primeras llegadas son los tiempos en que la primera energía sísmica de un disparo alcanza cada geófono. Se picaron en las trazas registradas y se invirtieron mediante tomografía de tiempos de recorrido. El terreno bajo la línea se divide en celdas cuadradas de velocidad constante que siguen la superficie. Desde cada disparo se buscan los caminos más rápidos hasta todos los geófonos en la red de nodos situados en los lados de las celdas: son los rayos. Las diferencias entre tiempos medidos y calculados se reparten a lo largo de los rayos y corrigen la lentitud de las celdas que atraviesan, varias veces sobre los mismos rayos y dentro de los límites de velocidad. La sección corregida se suaviza y se trazan en ella nuevos rayos: eso es una iteración externa.</translation>
+    </message>
+    <message>
+        <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
+        <translation>Los refractores se interpretaron con el método recíproco generalizado. Las primeras llegadas se asignaron a capas, y las llegadas de cada refractor desde ambos extremos de la línea se completaron con llegadas trasladadas de los demás disparos. La función de análisis de velocidad da la velocidad del refractor, y la función tiempo-profundidad, su profundidad bajo cada geófono.</translation>
+    </message>
+    <message>
+        <source>Waves</source>
+        <translation>Ondas</translation>
+    </message>
+    <message>
+        <source>S waves</source>
+        <translation>Ondas S</translation>
+    </message>
+    <message>
+        <source>P waves</source>
+        <translation>Ondas P</translation>
+    </message>
+    <message>
+        <source>Geophones from, to</source>
+        <translation>Geófonos de, a</translation>
+    </message>
+    <message>
+        <source>Length of the line</source>
+        <translation>Longitud de la línea</translation>
+    </message>
+    <message>
+        <source>Elevation of the geophones</source>
+        <translation>Cota de los geófonos</translation>
+    </message>
+    <message>
+        <source>Shots from, to</source>
+        <translation>Disparos de, a</translation>
+    </message>
+    <message>
+        <source>Geophone strings</source>
+        <translation>Tendidos de geófonos</translation>
+    </message>
+    <message>
+        <source>Geophone positions</source>
+        <translation>Posiciones de geófonos</translation>
+    </message>
+    <message>
+        <source>Number of shots</source>
+        <translation>Número de disparos</translation>
+    </message>
+    <message>
+        <source>The line</source>
+        <translation>La línea</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>Tend.</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>From [m]</source>
+        <translation>De [m]</translation>
+    </message>
+    <message>
+        <source>To [m]</source>
+        <translation>A [m]</translation>
+    </message>
+    <message>
+        <source>Spacing [m]</source>
+        <translation>Separación [m]</translation>
+    </message>
+    <message>
+        <source>Strings of geophones</source>
+        <translation>Tendidos de geófonos</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Interval [ms]</source>
+        <translation>Intervalo [ms]</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Muestras</translation>
+    </message>
+    <message>
+        <source>Length [ms]</source>
+        <translation>Duración [ms]</translation>
+    </message>
+    <message>
+        <source>Shots and their recordings</source>
+        <translation>Los disparos y sus registros</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Emplazamiento</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>Levantamiento</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>End of the line</source>
+        <translation>Extremo de la línea</translation>
+    </message>
+    <message>
+        <source>Easting [m]</source>
+        <translation>Este [m]</translation>
+    </message>
+    <message>
+        <source>Northing [m]</source>
+        <translation>Norte [m]</translation>
+    </message>
+    <message>
+        <source>Longitude [°]</source>
+        <translation>Longitud [°]</translation>
+    </message>
+    <message>
+        <source>Latitude [°]</source>
+        <translation>Latitud [°]</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Primer geófono</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Último geófono</translation>
+    </message>
+    <message>
+        <source>The coordinate reference system of the line is not set.</source>
+        <translation>No se ha indicado el sistema de referencia de coordenadas de la línea.</translation>
+    </message>
+    <message>
+        <source>Coordinate reference system: EPSG:%1.</source>
+        <translation>Sistema de referencia de coordenadas: EPSG:%1.</translation>
+    </message>
+    <message>
+        <source>Coordinate reference system: EPSG:%1, %2.</source>
+        <translation>Sistema de referencia de coordenadas: EPSG:%1, %2.</translation>
+    </message>
+    <message>
+        <source>Ends of the line; longitude and latitude on WGS 84</source>
+        <translation>Extremos de la línea; longitud y latitud en WGS 84</translation>
+    </message>
+    <message>
+        <source>Ends of the line</source>
+        <translation>Extremos de la línea</translation>
+    </message>
+    <message>
+        <source>Information density: how completely rays cross the surroundings of each cell</source>
+        <translation>Densidad de información: hasta qué punto los rayos cruzan los alrededores de cada celda</translation>
+    </message>
+    <message>
+        <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
+        <translation>El desajuste es la diferencia entre los tiempos calculados y los medidos. Los tiempos calculados son los que resultan a lo largo de los rayos de la última iteración, antes de su última corrección y suavizado, o a través de la sección tal como está dibujada si el proyecto se abrió de nuevo. RMS es la media cuadrática del desajuste, en milisegundos o en porcentaje de los tiempos medidos. La densidad de información dice hasta qué punto los rayos cruzan los alrededores de una celda; donde es baja, los datos apoyan poco las velocidades, y por debajo de los rayos más profundos la sección no se dibuja. Las velocidades que disminuyen con la profundidad y las capas delgadas pueden quedar ocultas a las primeras llegadas.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReportDialog</name>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Title page</source>
+        <translation>Portada</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Título:</translation>
+    </message>
+    <message>
+        <source>&amp;Client:</source>
+        <translation>&amp;Cliente:</translation>
+    </message>
+    <message>
+        <source>&amp;Site:</source>
+        <translation>&amp;Emplazamiento:</translation>
+    </message>
+    <message>
+        <source>&amp;Author:</source>
+        <translation>&amp;Autor:</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Fecha:</translation>
+    </message>
+    <message>
+        <source>As it is to be read</source>
+        <translation>Tal como debe leerse</translation>
+    </message>
+    <message>
+        <source>&amp;Notes:</source>
+        <translation>&amp;Notas:</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Partes</translation>
+    </message>
+    <message>
+        <source>Survey: line, geophones, shots, files</source>
+        <translation>Levantamiento: línea, geófonos, disparos, archivos</translation>
+    </message>
+    <message>
+        <source>Position on the globe</source>
+        <translation>Posición geográfica</translation>
+    </message>
+    <message>
+        <source>Travel times and the misfit of every shot</source>
+        <translation>Tiempos de recorrido y desajuste de cada disparo</translation>
+    </message>
+    <message>
+        <source>Grid and parameters of the inversion</source>
+        <translation>Malla y parámetros de la inversión</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Sección de velocidad</translation>
+    </message>
+    <message>
+        <source>Rays over the section</source>
+        <translation>Rayos sobre la sección</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densidad de información</translation>
+    </message>
+    <message>
+        <source>Misfit and its history</source>
+        <translation>Desajuste y su evolución</translation>
+    </message>
+    <message>
+        <source>Refraction interpretation</source>
+        <translation>Interpretación por refracción</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Método</translation>
+    </message>
+    <message>
+        <source>Pa&amp;per:</source>
+        <translation>Pa&amp;pel:</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>&amp;Vista previa</translation>
+    </message>
+    <message>
+        <source>Puts the report together and shows its pages</source>
+        <translation>Compone el informe y muestra sus páginas</translation>
+    </message>
+    <message>
+        <source>Pages of the report</source>
+        <translation>Páginas del informe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n página</numerusform>
+            <numerusform>%n páginas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ScreenshotDialog</name>
+    <message>
+        <source>Screenshot</source>
+        <translation>Captura</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Tamaño:</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality:</source>
+        <translation>&amp;Calidad JPEG:</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>%1 times the view: %2 x %3 pixels</source>
+        <translation>%1 veces la vista: %2 x %3 píxeles</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SectionSheet</name>
+    <message>
+        <source>Vertical gradient of velocity [1/s]</source>
+        <translation>Gradiente vertical de velocidad [1/s]</translation>
+    </message>
+    <message>
+        <source>Laplacian of velocity [1/(m·s)]</source>
+        <translation>Laplaciano de la velocidad [1/(m·s)]</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densidad de información</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>Contours</source>
+        <translation>Isolíneas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ray(s)</source>
+        <translation>
+            <numerusform>%n rayo</numerusform>
+            <numerusform>%n rayos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Límite de cobertura</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distancia [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Cota [m]</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration %1×</source>
+        <translation>Exageración vertical %1×</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SectionView</name>
+    <message>
+        <source>Vertical exaggeration:</source>
+        <translation>Exageración vertical:</translation>
+    </message>
+    <message>
+        <source>How much higher than wide a metre is drawn</source>
+        <translation>Cuánto más alto que ancho se dibuja un metro</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration</source>
+        <translation>Exageración vertical</translation>
+    </message>
+    <message>
+        <source>Turn in 3-D</source>
+        <translation>Girar en 3D</translation>
+    </message>
+    <message>
+        <source>Dragging turns the section instead of moving it</source>
+        <translation>Al arrastrar, la sección gira en vez de desplazarse</translation>
+    </message>
+    <message>
+        <source>Reset View</source>
+        <translation>Restablecer vista</translation>
+    </message>
+    <message>
+        <source>Bring the whole section back into view (Home)</source>
+        <translation>Vuelve a mostrar toda la sección (Inicio)</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Sección de velocidad</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SelectCSVDelimiterDialog</name>
+    <message>
+        <source>Select CSV Separator</source>
+        <translation>Seleccionar separador CSV</translation>
+    </message>
+    <message>
+        <source>CSV Separator</source>
+        <translation>Separador CSV</translation>
+    </message>
+    <message>
+        <source>What stands between two numbers of a line</source>
+        <translation>Lo que separa dos números de una línea</translation>
+    </message>
+    <message>
+        <source>(blank space)</source>
+        <translation>(espacio en blanco)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Idioma:</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Trazas</translation>
+    </message>
+    <message>
+        <source>Fill wiggle</source>
+        <translation>Rellenar oscilaciones</translation>
+    </message>
+    <message>
+        <source>Fills the positive half of every wiggle.</source>
+        <translation>Rellena la mitad positiva de cada oscilación.</translation>
+    </message>
+    <message>
+        <source>Two colours</source>
+        <translation>Dos colores</translation>
+    </message>
+    <message>
+        <source>Fills the two halves of every wiggle in two colours.</source>
+        <translation>Rellena las dos mitades de cada oscilación con dos colores.</translation>
+    </message>
+    <message>
+        <source>Cut at the neighbour</source>
+        <translation>Cortar en la traza vecina</translation>
+    </message>
+    <message>
+        <source>Ends every wiggle where the next trace begins. Otherwise strong wiggles run over their neighbours.</source>
+        <translation>Termina cada oscilación donde empieza la traza siguiente. Si no, las oscilaciones fuertes tapan las vecinas.</translation>
+    </message>
+    <message>
+        <source>Show filtered traces</source>
+        <translation>Mostrar trazas filtradas</translation>
+    </message>
+    <message>
+        <source>Shows the filtered copy of the traces where there is one. AutoPick then picks on it.</source>
+        <translation>Muestra la copia filtrada de las trazas donde la haya. AutoPick pica entonces sobre ella.</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Horizontal colour bar</source>
+        <translation>Barra de color horizontal</translation>
+    </message>
+    <message>
+        <source>Opens shots at the part of the record that holds the first breaks.</source>
+        <translation>Abre los disparos en la parte del registro que contiene las primeras llegadas.</translation>
+    </message>
+    <message>
+        <source>Show all traces</source>
+        <translation>Mostrar todas las trazas</translation>
+    </message>
+    <message>
+        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Hushel then work on all shots.</source>
+        <translation>Abre los disparos con todas las trazas a la vista, por estrechas que sean. AutoPick, Filtro, AGC y Hushel actúan entonces sobre todos los disparos.</translation>
+    </message>
+    <message>
+        <source>Zoom in on first breaks</source>
+        <translation>Ampliar primeras llegadas</translation>
+    </message>
+    <message>
+        <source>Puts the colour bar of saved pictures above the section, not beside it.</source>
+        <translation>Pone la barra de colores de las imágenes guardadas encima de la sección, no al lado.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotTable</name>
+    <message>
+        <source>String</source>
+        <translation>Tendido</translation>
+    </message>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Cota (m)</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>DX file</source>
+        <translation>Archivo DX</translation>
+    </message>
+    <message>
+        <source>SX file</source>
+        <translation>Archivo SX</translation>
+    </message>
+    <message>
+        <source>%1 m is too far away.</source>
+        <translation>%1 m está demasiado lejos.</translation>
+    </message>
+    <message>
+        <source>There is no string %1.</source>
+        <translation>No hay ningún tendido %1.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SpectrumPlot</name>
+    <message>
+        <source>Amplitude spectrum</source>
+        <translation>Espectro de amplitud</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frecuencia</translation>
+    </message>
+    <message>
+        <source>Intensity</source>
+        <translation>Intensidad</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SpreadsheetView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>&amp;Empty cells</source>
+        <translation>&amp;Vaciar celdas</translation>
+    </message>
+    <message>
+        <source>Fill &amp;down</source>
+        <translation>Rellenar hacia a&amp;bajo</translation>
+    </message>
+    <message>
+        <source>&amp;Insert a row above</source>
+        <translation>&amp;Insertar una fila encima</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>&amp;Quitar filas</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Talvesk_MainWindows</name>
+    <message>
+        <source>Traces</source>
+        <translation>Trazas</translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;No survey yet&lt;/h2&gt;&lt;p&gt;Open shot files with Ctrl+O, or drop them here.&lt;/p&gt;&lt;p&gt;Picks without traces come in with File &amp;gt; Import TravelTimes.&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Aún no hay levantamiento&lt;/h2&gt;&lt;p&gt;Abra archivos de disparos con Ctrl+O o suéltelos aquí.&lt;/p&gt;&lt;p&gt;Los picados sin trazas se cargan con Archivo &amp;gt; Importar tiempos de recorrido.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Traces and picks of the current shot</source>
+        <translation>Trazas y picados del disparo actual</translation>
+    </message>
+    <message>
+        <source>Traces and picks, second view</source>
+        <translation>Trazas y picados, segunda vista</translation>
+    </message>
+    <message>
+        <source>Travel times of the current shot</source>
+        <translation>Tiempos de recorrido del disparo actual</translation>
+    </message>
+    <message>
+        <source>Draw the picks of the other shots faintly over the traces</source>
+        <translation>Dibuja tenues sobre las trazas los picados de los demás disparos</translation>
+    </message>
+    <message>
+        <source>Show All Picks</source>
+        <translation>Mostrar todos los picados</translation>
+    </message>
+    <message>
+        <source>Show the filtered copy of the traces where there is one</source>
+        <translation>Muestra la copia filtrada de las trazas donde la haya</translation>
+    </message>
+    <message>
+        <source>Show Filtered Traces</source>
+        <translation>Mostrar trazas filtradas</translation>
+    </message>
+    <message>
+        <source>Hide the picks and the travel-time preview</source>
+        <translation>Oculta los picados y la vista previa de los tiempos de recorrido</translation>
+    </message>
+    <message>
+        <source>Show Only Traces</source>
+        <translation>Mostrar solo trazas</translation>
+    </message>
+    <message>
+        <source>Draw the times that the last inversion computed</source>
+        <translation>Dibuja los tiempos calculados por la última inversión</translation>
+    </message>
+    <message>
+        <source>Show computed Travel Times</source>
+        <translation>Mostrar tiempos calculados</translation>
+    </message>
+    <message>
+        <source>Travel time curves</source>
+        <translation>Dromocronas</translation>
+    </message>
+    <message>
+        <source>Travel time curves of all shots</source>
+        <translation>Dromocronas de todos los disparos</translation>
+    </message>
+    <message>
+        <source>Tomographic profile</source>
+        <translation>Perfil tomográfico</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+    <message>
+        <source>&amp;KML</source>
+        <translation>&amp;KML</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>Show Velocity Gradient</source>
+        <translation>Mostrar gradiente de velocidad</translation>
+    </message>
+    <message>
+        <source>Show Geophones</source>
+        <translation>Mostrar geófonos</translation>
+    </message>
+    <message>
+        <source>&amp;Traces</source>
+        <translation>&amp;Trazas</translation>
+    </message>
+    <message>
+        <source>Picks of the selected traces</source>
+        <translation>Picados de las trazas seleccionadas</translation>
+    </message>
+    <message>
+        <source>Mouse tool</source>
+        <translation>Herramienta del ratón</translation>
+    </message>
+    <message>
+        <source>Snap picks to</source>
+        <translation>Ajustar picados a</translation>
+    </message>
+    <message>
+        <source>Wiggles</source>
+        <translation>Oscilaciones</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Project</source>
+        <translation>&amp;Proyecto</translation>
+    </message>
+    <message>
+        <source>P&amp;rocessing</source>
+        <translation>P&amp;rocesamiento</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>Levantamiento</translation>
+    </message>
+    <message>
+        <source>New...</source>
+        <translation>Nuevo...</translation>
+    </message>
+    <message>
+        <source>Start a new survey: empties this one, then asks for shot files</source>
+        <translation>Inicia un levantamiento nuevo: vacía el actual y pide los archivos de disparos</translation>
+    </message>
+    <message>
+        <source>Import TravelTimes...</source>
+        <translation>Importar tiempos de recorrido...</translation>
+    </message>
+    <message>
+        <source>Load traveltimes</source>
+        <translation>Carga tiempos de recorrido</translation>
+    </message>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Aplicar suavizado</translation>
+    </message>
+    <message>
+        <source>Smooth the velocities of the section once more</source>
+        <translation>Suaviza una vez más las velocidades de la sección</translation>
+    </message>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Ejecutar inversión tomográfica</translation>
+    </message>
+    <message>
+        <source>Invert the picks into a velocity section</source>
+        <translation>Invierte los picados en una sección de velocidad</translation>
+    </message>
+    <message>
+        <source>Grid view</source>
+        <translation>Vista de celdas</translation>
+    </message>
+    <message>
+        <source>Draw the section cell by cell</source>
+        <translation>Dibuja la sección celda por celda</translation>
+    </message>
+    <message>
+        <source>Smooth view</source>
+        <translation>Vista difuminada</translation>
+    </message>
+    <message>
+        <source>Draw the section with velocities blended between cells</source>
+        <translation>Dibuja la sección con velocidades difuminadas entre celdas</translation>
+    </message>
+    <message>
+        <source>Export tomographic data ...</source>
+        <translation>Exportar datos tomográficos ...</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Show the next seismic file</source>
+        <translation>Muestra el archivo sísmico siguiente</translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Show the previous file</source>
+        <translation>Muestra el archivo anterior</translation>
+    </message>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Definir modelo de velocidad</translation>
+    </message>
+    <message>
+        <source>Set the layers and velocities that the inversion starts from</source>
+        <translation>Define las capas y velocidades de las que parte la inversión</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>Abrir proyecto...</translation>
+    </message>
+    <message>
+        <source>Open a project with its shots, picks and section</source>
+        <translation>Abre un proyecto con sus disparos, picados y sección</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>Guardar proyecto como...</translation>
+    </message>
+    <message>
+        <source>Save the project in a file of another name</source>
+        <translation>Guarda el proyecto en un archivo con otro nombre</translation>
+    </message>
+    <message>
+        <source>Images ...</source>
+        <translation>Imágenes ...</translation>
+    </message>
+    <message>
+        <source>Save pictures of the section, the curves and the traces</source>
+        <translation>Guarda imágenes de la sección, las dromocronas y las trazas</translation>
+    </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
+    <message>
+        <source>Pick the first breaks of the current shot, or of all shots when all traces are shown</source>
+        <translation>Pica las primeras llegadas del disparo actual, o de todos los disparos si se muestran todas las trazas</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Version, libraries and licence of Talvesk</source>
+        <translation>Versión, bibliotecas y licencia de Talvesk</translation>
+    </message>
+    <message>
+        <source>Geometry ...</source>
+        <translation>Geometría ...</translation>
+    </message>
+    <message>
+        <source>Set the positions of geophones and shots</source>
+        <translation>Define las posiciones de geófonos y disparos</translation>
+    </message>
+    <message>
+        <source>Grid ...</source>
+        <translation>Malla ...</translation>
+    </message>
+    <message>
+        <source>Lay the grid of the tomography under the line</source>
+        <translation>Coloca bajo la línea la malla de la tomografía</translation>
+    </message>
+    <message>
+        <source>PDF ...</source>
+        <translation>PDF ...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as PDF</source>
+        <translation>Escribe un informe del levantamiento en PDF</translation>
+    </message>
+    <message>
+        <source>Palette Options...</source>
+        <translation>Opciones de paleta...</translation>
+    </message>
+    <message>
+        <source>Choose the colours of the section</source>
+        <translation>Elige los colores de la sección</translation>
+    </message>
+    <message>
+        <source>ODT...</source>
+        <translation>ODT...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as a text document</source>
+        <translation>Escribe un informe del levantamiento como documento de texto</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Close Talvesk</source>
+        <translation>Cierra Talvesk</translation>
+    </message>
+    <message>
+        <source>On line help</source>
+        <translation>Ayuda en línea</translation>
+    </message>
+    <message>
+        <source>Open the help pages on the web, or the user guide without a network</source>
+        <translation>Abre las páginas de ayuda en la web, o la guía del usuario si no hay red</translation>
+    </message>
+    <message>
+        <source>Show Rays</source>
+        <translation>Mostrar rayos</translation>
+    </message>
+    <message>
+        <source>Overlay the seismic rays to profile</source>
+        <translation>Superpone los rayos sísmicos al perfil</translation>
+    </message>
+    <message>
+        <source>Fill wiggle</source>
+        <translation>Rellenar oscilaciones</translation>
+    </message>
+    <message>
+        <source>Fill the positive half of every wiggle</source>
+        <translation>Rellena la mitad positiva de cada oscilación</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Language, trace view and image options</source>
+        <translation>Idioma, vista de trazas y opciones de imagen</translation>
+    </message>
+    <message>
+        <source>Show Contour Lines</source>
+        <translation>Mostrar isolíneas</translation>
+    </message>
+    <message>
+        <source>Draw lines of equal velocity over the section</source>
+        <translation>Dibuja líneas de igual velocidad sobre la sección</translation>
+    </message>
+    <message>
+        <source>Set geographic coordinates ...</source>
+        <translation>Definir coordenadas geográficas ...</translation>
+    </message>
+    <message>
+        <source>Say where the first and the last geophone lie on the map</source>
+        <translation>Indica dónde están en el mapa el primer y el último geófono</translation>
+    </message>
+    <message>
+        <source>Reset View</source>
+        <translation>Restablecer vista</translation>
+    </message>
+    <message>
+        <source>Bring the whole section back into view</source>
+        <translation>Vuelve a mostrar toda la sección</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Guardar proyecto</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>Guarda el proyecto</translation>
+    </message>
+    <message>
+        <source>Vertical Gradient</source>
+        <translation>Gradiente vertical</translation>
+    </message>
+    <message>
+        <source>Show how fast the velocity grows with depth</source>
+        <translation>Muestra con qué rapidez crece la velocidad con la profundidad</translation>
+    </message>
+    <message>
+        <source>Laplacian Gradient</source>
+        <translation>Gradiente laplaciano</translation>
+    </message>
+    <message>
+        <source>Show where the velocity changes most abruptly</source>
+        <translation>Muestra dónde cambia la velocidad más bruscamente</translation>
+    </message>
+    <message>
+        <source>Show Tomographic Profile</source>
+        <translation>Mostrar perfil tomográfico</translation>
+    </message>
+    <message>
+        <source>Show the velocity section</source>
+        <translation>Muestra la sección de velocidad</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Guía del usuario</translation>
+    </message>
+    <message>
+        <source>Open the guide that comes with Talvesk</source>
+        <translation>Abre la guía que acompaña a Talvesk</translation>
+    </message>
+    <message>
+        <source>Filter...</source>
+        <translation>Filtro...</translation>
+    </message>
+    <message>
+        <source>Filter the traces of the current shot by frequency, with spectrum and preview</source>
+        <translation>Filtra en frecuencia las trazas del disparo actual, con espectro y vista previa</translation>
+    </message>
+    <message>
+        <source>Apply Hushel</source>
+        <translation>Aplicar Hushel</translation>
+    </message>
+    <message>
+        <source>Apply Hushel - The Noise Reduction tool for seismic refraction data</source>
+        <translation>Aplica Hushel: la herramienta de reducción de ruido para datos de sísmica de refracción</translation>
+    </message>
+    <message>
+        <source>AGC</source>
+        <translation>AGC</translation>
+    </message>
+    <message>
+        <source>Even out the amplitudes of the traces (automatic gain control)</source>
+        <translation>Iguala las amplitudes de las trazas (control automático de ganancia)</translation>
+    </message>
+    <message>
+        <source>Refraction</source>
+        <translation>Refracción</translation>
+    </message>
+    <message>
+        <source>Interpret the picks layer by layer with the reciprocal method</source>
+        <translation>Interpreta los picados capa por capa con el método recíproco</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Pequeños</translation>
+    </message>
+    <message>
+        <source>Draw small geophones on the section</source>
+        <translation>Dibuja geófonos pequeños en la sección</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normales</translation>
+    </message>
+    <message>
+        <source>Draw geophones of normal size on the section</source>
+        <translation>Dibuja geófonos de tamaño normal en la sección</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grandes</translation>
+    </message>
+    <message>
+        <source>Draw large geophones on the section</source>
+        <translation>Dibuja geófonos grandes en la sección</translation>
+    </message>
+    <message>
+        <source>Show refraction</source>
+        <translation>Mostrar refracción</translation>
+    </message>
+    <message>
+        <source>Overlay the refractors of the layered interpretation</source>
+        <translation>Superpone los refractores de la interpretación por capas</translation>
+    </message>
+    <message>
+        <source>Show scalarbar</source>
+        <translation>Mostrar barra de color</translation>
+    </message>
+    <message>
+        <source>Show the colour scale beside the section</source>
+        <translation>Muestra la escala de color junto a la sección</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Captura</translation>
+    </message>
+    <message>
+        <source>Take a Screenshot of the tomographic profile</source>
+        <translation>Toma una captura del perfil tomográfico</translation>
+    </message>
+    <message>
+        <source>Export TravelTimes...</source>
+        <translation>Exportar tiempos de recorrido...</translation>
+    </message>
+    <message>
+        <source>Write picks and positions to a travel-time file</source>
+        <translation>Escribe picados y posiciones en un archivo de tiempos de recorrido</translation>
+    </message>
+    <message>
+        <source>Show Information Density Layer</source>
+        <translation>Mostrar densidad de información</translation>
+    </message>
+    <message>
+        <source>Show Grid Lines</source>
+        <translation>Mostrar líneas de cuadrícula</translation>
+    </message>
+    <message>
+        <source>Draw distance and depth lines over the section</source>
+        <translation>Dibuja líneas de distancia y profundidad sobre la sección</translation>
+    </message>
+    <message>
+        <source>Set title ...</source>
+        <translation>Definir título ...</translation>
+    </message>
+    <message>
+        <source>Set prject title</source>
+        <translation>Define el título del proyecto</translation>
+    </message>
+    <message>
+        <source>Show title ...</source>
+        <translation>Mostrar título ...</translation>
+    </message>
+    <message>
+        <source>Write the project title over the section</source>
+        <translation>Escribe el título del proyecto sobre la sección</translation>
+    </message>
+    <message>
+        <source>Tomography to text file ...</source>
+        <translation>Tomografía a archivo de texto ...</translation>
+    </message>
+    <message>
+        <source>Export tomography as a XYZVelocity gridded text file</source>
+        <translation>Exporta la tomografía como archivo de texto en malla XYZVelocidad</translation>
+    </message>
+    <message>
+        <source>Tomographic profile ...</source>
+        <translation>Perfil tomográfico ...</translation>
+    </message>
+    <message>
+        <source>Export the section to KML, standing on the globe</source>
+        <translation>Exporta la sección a KML, de pie sobre el globo</translation>
+    </message>
+    <message>
+        <source>Seismic line ...</source>
+        <translation>Línea sísmica ...</translation>
+    </message>
+    <message>
+        <source>Export seismic line to KML</source>
+        <translation>Exporta la línea sísmica a KML</translation>
+    </message>
+    <message>
+        <source>Open shot files...</source>
+        <translation>Abrir archivos de disparos...</translation>
+    </message>
+    <message>
+        <source>Add shot files (SEG-2, SEG-Y, SU) to the survey</source>
+        <translation>Añade archivos de disparos (SEG-2, SEG-Y, SU) al levantamiento</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Take back the last edit of the picks</source>
+        <translation>Deshace el último cambio de los picados</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Do again the edit that was taken back</source>
+        <translation>Rehace el cambio que se deshizo</translation>
+    </message>
+    <message>
+        <source>Open shots at the part of the record that holds the first breaks</source>
+        <translation>Abre los disparos en la parte del registro que contiene las primeras llegadas</translation>
+    </message>
+    <message>
+        <source>Cut at the neighbour</source>
+        <translation>Cortar en la traza vecina</translation>
+    </message>
+    <message>
+        <source>End every wiggle where the next trace begins</source>
+        <translation>Termina cada oscilación donde empieza la traza siguiente</translation>
+    </message>
+    <message>
+        <source>Two colours</source>
+        <translation>Dos colores</translation>
+    </message>
+    <message>
+        <source>Fill the two halves of every wiggle in two colours</source>
+        <translation>Rellena las dos mitades de cada oscilación con dos colores</translation>
+    </message>
+    <message>
+        <source>Show filtered traces</source>
+        <translation>Mostrar trazas filtradas</translation>
+    </message>
+    <message>
+        <source>Show the filtered copy of the traces where there is one; AutoPick then picks on it</source>
+        <translation>Muestra la copia filtrada de las trazas donde la haya; AutoPick pica entonces sobre ella</translation>
+    </message>
+    <message>
+        <source>Show all traces</source>
+        <translation>Mostrar todas las trazas</translation>
+    </message>
+    <message>
+        <source>Open shots with all traces in view; AutoPick, Filter, AGC and Hushel then work on all shots</source>
+        <translation>Abre los disparos con todas las trazas a la vista; AutoPick, Filtro, AGC y Hushel actúan entonces sobre todos los disparos</translation>
+    </message>
+    <message>
+        <source>At true distance</source>
+        <translation>A distancia real</translation>
+    </message>
+    <message>
+        <source>Place the traces at their distance along the line, not one beside the other</source>
+        <translation>Coloca las trazas a su distancia a lo largo de la línea, no una junto a otra</translation>
+    </message>
+    <message>
+        <source>True amplitudes</source>
+        <translation>Amplitudes reales</translation>
+    </message>
+    <message>
+        <source>Keep the amplitudes of a shot in proportion; otherwise every trace is as wide as the others</source>
+        <translation>Mantiene la proporción entre las amplitudes de un disparo; si no, cada traza es tan ancha como las demás</translation>
+    </message>
+    <message>
+        <source>Air wave</source>
+        <translation>Onda aérea</translation>
+    </message>
+    <message>
+        <source>Draw the line of the sound that travels through the air</source>
+        <translation>Dibuja la línea del sonido que viaja por el aire</translation>
+    </message>
+    <message>
+        <source>Magnifier</source>
+        <translation>Lupa</translation>
+    </message>
+    <message>
+        <source>Enlarge what is around the cursor (key M)</source>
+        <translation>Amplía lo que rodea el cursor (tecla M)</translation>
+    </message>
+    <message>
+        <source>Larger wiggles</source>
+        <translation>Oscilaciones más grandes</translation>
+    </message>
+    <message>
+        <source>Raise the gain (key ])</source>
+        <translation>Aumenta la ganancia (tecla ])</translation>
+    </message>
+    <message>
+        <source>Smaller wiggles</source>
+        <translation>Oscilaciones más pequeñas</translation>
+    </message>
+    <message>
+        <source>Lower the gain (key [)</source>
+        <translation>Reduce la ganancia (tecla [)</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Picado</translation>
+    </message>
+    <message>
+        <source>Click sets a pick, dragging moves it or draws a run of picks, right click removes it</source>
+        <translation>Un clic pone un picado, arrastrar lo mueve o traza una serie de picados, el clic derecho lo quita</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Drag a rectangle to zoom to it</source>
+        <translation>Arrastre un rectángulo para ampliarlo</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>Desplazamiento</translation>
+    </message>
+    <message>
+        <source>Drag the picture</source>
+        <translation>Arrastre la imagen</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Regla</translation>
+    </message>
+    <message>
+        <source>Drag a line to read its apparent velocity (key R)</source>
+        <translation>Arrastre una línea para leer su velocidad aparente (tecla R)</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Selección</translation>
+    </message>
+    <message>
+        <source>Drag over traces to confirm or remove their picks together</source>
+        <translation>Arrastre sobre las trazas para confirmar o quitar juntos sus picados</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nada</translation>
+    </message>
+    <message>
+        <source>Picks stay where they are set</source>
+        <translation>Los picados quedan donde se ponen</translation>
+    </message>
+    <message>
+        <source>Onset</source>
+        <translation>Inicio de la señal</translation>
+    </message>
+    <message>
+        <source>Draw picks to where the noise ends</source>
+        <translation>Lleva los picados adonde termina el ruido</translation>
+    </message>
+    <message>
+        <source>Zero crossing</source>
+        <translation>Cruce por cero</translation>
+    </message>
+    <message>
+        <source>Draw picks to the nearest change of sign</source>
+        <translation>Lleva los picados al cambio de signo más cercano</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Pico</translation>
+    </message>
+    <message>
+        <source>Draw picks to the strongest peak or trough nearby</source>
+        <translation>Lleva los picados al pico o valle más fuerte de los alrededores</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Confirmar picados</translation>
+    </message>
+    <message>
+        <source>Make the automatic picks of the selected traces your own (key C)</source>
+        <translation>Hace suyos los picados automáticos de las trazas seleccionadas (tecla C)</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Quitar picados</translation>
+    </message>
+    <message>
+        <source>Remove the picks of the selected traces (key Delete)</source>
+        <translation>Quita los picados de las trazas seleccionadas (tecla Supr)</translation>
+    </message>
+    <message>
+        <source>Remove unconfirmed picks</source>
+        <translation>Quitar picados sin confirmar</translation>
+    </message>
+    <message>
+        <source>Remove the automatic picks of the selected traces that were not confirmed</source>
+        <translation>Quita los picados automáticos sin confirmar de las trazas seleccionadas</translation>
+    </message>
+    <message>
+        <source>Show everything</source>
+        <translation>Mostrar todo</translation>
+    </message>
+    <message>
+        <source>Show all traces and all times (key F)</source>
+        <translation>Muestra todas las trazas y todos los tiempos (tecla F)</translation>
+    </message>
+    <message>
+        <source>Previous view</source>
+        <translation>Vista anterior</translation>
+    </message>
+    <message>
+        <source>Go back to the view before the last zoom (key Backspace)</source>
+        <translation>Vuelve a la vista anterior al último zoom (tecla Retroceso)</translation>
+    </message>
+    <message>
+        <source>Next view</source>
+        <translation>Vista siguiente</translation>
+    </message>
+    <message>
+        <source>Go forward again after going back (keys Shift+Backspace)</source>
+        <translation>Avanza de nuevo después de retroceder (teclas Mayús+Retroceso)</translation>
+    </message>
+    <message>
+        <source>Recording details...</source>
+        <translation>Detalles del registro...</translation>
+    </message>
+    <message>
+        <source>What the shot files hold: samples, interval, delay, positions, warnings</source>
+        <translation>Qué contienen los archivos de disparos: muestras, intervalo, retardo, posiciones, advertencias</translation>
+    </message>
+    <message>
+        <source>Shot in view</source>
+        <translation>Disparo a la vista</translation>
+    </message>
+    <message>
+        <source>The shot in view</source>
+        <translation>El disparo a la vista</translation>
+    </message>
+    <message>
+        <source>Open Seismic Trace</source>
+        <translation>Abrir trazas sísmicas</translation>
+    </message>
+    <message>
+        <source>SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)</source>
+        <translation>Formato SEG2 (*.sg2 *.dat *.seg2);;Formato SEGY (*.sgy *.segy);;Formato SU (*.su);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Loading shot files ...</source>
+        <translation>Cargando archivos de disparos ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Error occured</source>
+        <translation>Se ha producido un error</translation>
+    </message>
+    <message>
+        <source>Unsupported file format.</source>
+        <translation>Formato de archivo no compatible.</translation>
+    </message>
+    <message>
+        <source>Error while loading one or more traces.</source>
+        <translation>Error al cargar una o más trazas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot file(s) loaded.</source>
+        <translation>
+            <numerusform>%n archivo de disparo cargado.</numerusform>
+            <numerusform>%n archivos de disparos cargados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Travel times of %n shot(s) imported.</source>
+        <translation>
+            <numerusform>Tiempos de recorrido de %n disparo importados.</numerusform>
+            <numerusform>Tiempos de recorrido de %n disparos importados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>First breaks found on %1 of %2 traces.</source>
+        <translation>Primeras llegadas encontradas en %1 de %2 trazas.</translation>
+    </message>
+    <message>
+        <source>Filtered copies made of %1 of %2 traces.</source>
+        <translation>Copias filtradas hechas de %1 de %2 trazas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n with warnings, see Traces &gt; Recording details.</source>
+        <translation>
+            <numerusform>%n con advertencias, véase Trazas &gt; Detalles del registro.</numerusform>
+            <numerusform>%n con advertencias, véase Trazas &gt; Detalles del registro.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording delay</source>
+        <translation>Retardo del registro</translation>
+    </message>
+    <message>
+        <source>The records start before the shot, by up to %1 ms.</source>
+        <translation>Los registros empiezan antes del disparo, hasta %1 ms.</translation>
+    </message>
+    <message>
+        <source>Do you want to count times from the shot? What was recorded before it is then dropped.</source>
+        <translation>¿Desea contar los tiempos desde el disparo? En ese caso se descarta lo registrado antes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) end before the shot and stay as recorded.</source>
+        <translation>
+            <numerusform>%n traza termina antes del disparo y queda como se registró.</numerusform>
+            <numerusform>%n trazas terminan antes del disparo y quedan como se registraron.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Import TravelTimes</source>
+        <translation>Importar tiempos de recorrido</translation>
+    </message>
+    <message>
+        <source>Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)</source>
+        <translation>Tiempos de recorrido (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Error while loading %1.</source>
+        <translation>Error al cargar %1.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>%1 was loaded with warnings.</source>
+        <translation>%1 se ha cargado con advertencias.</translation>
+    </message>
+    <message>
+        <source>Save TravelTimeExchange</source>
+        <translation>Guardar tiempos de recorrido</translation>
+    </message>
+    <message>
+        <source>Open Travel Time Exchange format (*.otte);;All Files (*)</source>
+        <translation>Formato Open Travel Time Exchange (*.otte);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The travel times have not been saved.</source>
+        <translation>No se han guardado los tiempos de recorrido.</translation>
+    </message>
+    <message>
+        <source>Travel times saved in %1</source>
+        <translation>Tiempos de recorrido guardados en %1</translation>
+    </message>
+    <message>
+        <source>The user guide is not where it was installed.</source>
+        <translation>La guía del usuario no está donde se instaló.</translation>
+    </message>
+    <message>
+        <source>Install Talvesk again to get it back.</source>
+        <translation>Vuelva a instalar Talvesk para recuperarla.</translation>
+    </message>
+    <message>
+        <source>No program to show the user guide was found.</source>
+        <translation>No se ha encontrado ningún programa para mostrar la guía del usuario.</translation>
+    </message>
+    <message>
+        <source>You find it in %1</source>
+        <translation>Se encuentra en %1</translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), Eigen (MPL 2) and cereal (BSD).&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Levantamientos de sísmica de refracción: de los registros de campo a las secciones de velocidad.&lt;/p&gt;&lt;p&gt;Talvesk es software libre con licencia MIT, sin garantía alguna.&lt;/p&gt;&lt;p&gt;Está construido con Qt %1 (LGPL), Qwt (LGPL con excepciones), liquid-dsp (MIT), Eigen (MPL 2) y cereal (BSD).&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Picking first breaks ...</source>
+        <translation>Picando primeras llegadas ...</translation>
+    </message>
+    <message>
+        <source>Not every shot could be picked.</source>
+        <translation>No se han podido picar todos los disparos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) stay as they were.</source>
+        <translation>
+            <numerusform>%n traza queda como estaba.</numerusform>
+            <numerusform>%n trazas quedan como estaban.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Applying AGC ...</source>
+        <translation>Aplicando AGC ...</translation>
+    </message>
+    <message>
+        <source>Applying Hushel ...</source>
+        <translation>Aplicando Hushel ...</translation>
+    </message>
+    <message>
+        <source>Project title</source>
+        <translation>Título del proyecto</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Título:</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1: %2 at %3</source>
+        <comment>shot number, file, place</comment>
+        <translation>%1: %2 en %3</translation>
+    </message>
+    <message>
+        <source>%1: at %2</source>
+        <comment>shot number, place</comment>
+        <translation>%1: en %2</translation>
+    </message>
+    <message>
+        <source>Trace %1</source>
+        <translation>Traza %1</translation>
+    </message>
+    <message>
+        <source>Offset %1 m</source>
+        <translation>Distancia al disparo %1 m</translation>
+    </message>
+    <message>
+        <source>Time %1 ms</source>
+        <translation>Tiempo %1 ms</translation>
+    </message>
+    <message>
+        <source>Pick %1 ms (automatic)</source>
+        <translation>Picado %1 ms (automático)</translation>
+    </message>
+    <message>
+        <source>Pick %1 ms</source>
+        <translation>Picado %1 ms</translation>
+    </message>
+    <message>
+        <source>Amplitude %1</source>
+        <translation>Amplitud %1</translation>
+    </message>
+    <message>
+        <source>Talvesk 2022.0</source>
+        <translation>Talvesk 2022.0</translation>
+    </message>
+    <message>
+        <source>Zoom in on first breaks</source>
+        <translation>Ampliar primeras llegadas</translation>
+    </message>
+    <message>
+        <source>Save travel-time curves</source>
+        <translation>Guardar dromocronas</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf);;All Files (*)</source>
+        <translation>Imágenes (*.png *.svg *.pdf);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The picture has not been saved.</source>
+        <translation>No se ha guardado la imagen.</translation>
+    </message>
+    <message>
+        <source>Picture saved in %1</source>
+        <translation>Imagen guardada en %1</translation>
+    </message>
+    <message>
+        <source>Colour the section by how well rays cover it</source>
+        <translation>Colorea la sección según lo bien que la cubren los rayos</translation>
+    </message>
+    <message>
+        <source>No section yet</source>
+        <translation>Aún no hay sección</translation>
+    </message>
+    <message>
+        <source>Load shot files or travel times with the File menu first.</source>
+        <translation>Cargue primero archivos de disparos o tiempos de recorrido con el menú Archivo.</translation>
+    </message>
+    <message>
+        <source>Build a grid with &lt;b&gt;Project &amp;gt; Grid ...&lt;/b&gt;, then invert the picks with &lt;b&gt;Processing &amp;gt; Run tomography inversion&lt;/b&gt;.</source>
+        <translation>Construya una malla con &lt;b&gt;Proyecto &amp;gt; Malla ...&lt;/b&gt; y luego invierta los picados con &lt;b&gt;Procesamiento &amp;gt; Ejecutar inversión tomográfica&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>The grid has no cells</source>
+        <translation>La malla no tiene celdas</translation>
+    </message>
+    <message>
+        <source>Build another one with &lt;b&gt;Project &amp;gt; Grid ...&lt;/b&gt; and give it a depth greater than the cell size.</source>
+        <translation>Construya otra con &lt;b&gt;Proyecto &amp;gt; Malla ...&lt;/b&gt; y dele una profundidad mayor que el tamaño de celda.</translation>
+    </message>
+    <message>
+        <source>Nothing to draw</source>
+        <translation>Nada que dibujar</translation>
+    </message>
+    <message>
+        <source>No cell of the grid has a value to show.</source>
+        <translation>Ninguna celda de la malla tiene un valor que mostrar.</translation>
+    </message>
+    <message>
+        <source>Refractor %1</source>
+        <translation>Refractor %1</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distancia %1 m</translation>
+    </message>
+    <message>
+        <source>Elevation %1 m</source>
+        <translation>Cota %1 m</translation>
+    </message>
+    <message>
+        <source>Depth %1 m</source>
+        <translation>Profundidad %1 m</translation>
+    </message>
+    <message>
+        <source>Velocity %1 m/s</source>
+        <translation>Velocidad %1 m/s</translation>
+    </message>
+    <message>
+        <source>Gradient %1 1/s</source>
+        <translation>Gradiente %1 1/s</translation>
+    </message>
+    <message>
+        <source>Laplacian %1 1/(m·s)</source>
+        <translation>Laplaciano %1 1/(m·s)</translation>
+    </message>
+    <message>
+        <source>Information density %1</source>
+        <translation>Densidad de información %1</translation>
+    </message>
+    <message>
+        <source>Export the section as a gridded text file, heights counted from the highest ground</source>
+        <translation>Exporta la sección como archivo de texto en malla, con alturas contadas desde el punto más alto del terreno</translation>
+    </message>
+    <message>
+        <source>Section as VTK grid ...</source>
+        <translation>Sección como malla VTK ...</translation>
+    </message>
+    <message>
+        <source>Export velocity, gradient and information density of the cells as a VTK unstructured grid</source>
+        <translation>Exporta velocidad, gradiente y densidad de información de las celdas como malla no estructurada VTK</translation>
+    </message>
+    <message>
+        <source>Section as Surfer grid ...</source>
+        <translation>Sección como malla Surfer ...</translation>
+    </message>
+    <message>
+        <source>Export the velocities on a regular raster as a Surfer ASCII grid</source>
+        <translation>Exporta las velocidades en una retícula regular como malla ASCII de Surfer</translation>
+    </message>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Guardado en %1</translation>
+    </message>
+    <message>
+        <source>The data have not been exported.</source>
+        <translation>No se han exportado los datos.</translation>
+    </message>
+    <message>
+        <source>Export Gridded Data</source>
+        <translation>Exportar datos en malla</translation>
+    </message>
+    <message>
+        <source>Save gridded tomographic velocity in a text file (*.txt);;All Files (*)</source>
+        <translation>Velocidad tomográfica en malla en un archivo de texto (*.txt);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Export VTK Grid</source>
+        <translation>Exportar malla VTK</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;All Files (*)</source>
+        <translation>Malla no estructurada VTK (*.vtu);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Export Surfer Grid</source>
+        <translation>Exportar malla Surfer</translation>
+    </message>
+    <message>
+        <source>Surfer ASCII grid (*.grd);;All Files (*)</source>
+        <translation>Malla ASCII de Surfer (*.grd);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
+        <translation>Faltan las coordenadas geográficas; los datos no se pueden exportar en formato KML</translation>
+    </message>
+    <message>
+        <source>Export Tomography to KML</source>
+        <translation>Exportar tomografía a KML</translation>
+    </message>
+    <message>
+        <source>KML (*.kml);;All Files (*)</source>
+        <translation>KML (*.kml);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Export Seismic Line to KML</source>
+        <translation>Exportar línea sísmica a KML</translation>
+    </message>
+    <message>
+        <source>The geometry of the survey has changed.</source>
+        <translation>La geometría del levantamiento ha cambiado.</translation>
+    </message>
+    <message>
+        <source>Uncomplete set of picks. 
+ 
+Do you want to run refraction processing anyway? </source>
+        <translation>Conjunto de picados incompleto. 
+ 
+¿Desea ejecutar de todos modos el procesamiento de refracción? </translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Proyectos de Talvesk (*.tvsk);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Empty filename to be saved</source>
+        <translation>El nombre del archivo que se va a guardar está vacío</translation>
+    </message>
+    <message>
+        <source>%1 already exists.</source>
+        <translation>%1 ya existe.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>¿Desea reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>Something went wrong while saving project </source>
+        <translation>Algo ha fallado al guardar el proyecto </translation>
+    </message>
+    <message>
+        <source>WARNING: the project has NOT been saved.</source>
+        <translation>ADVERTENCIA: el proyecto NO se ha guardado.</translation>
+    </message>
+    <message>
+        <source>Project saved in %1</source>
+        <translation>Proyecto guardado en %1</translation>
+    </message>
+    <message>
+        <source>The project has been saved.</source>
+        <translation>El proyecto se ha guardado.</translation>
+    </message>
+    <message>
+        <source>Error while loading traces: Invalid file format.</source>
+        <translation>Error al cargar las trazas: formato de archivo no válido.</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid project.</source>
+        <translation>%1 no es un proyecto válido.</translation>
+    </message>
+    <message>
+        <source>There is no file %1</source>
+        <translation>No existe el archivo %1</translation>
+    </message>
+    <message>
+        <source>The project as it was saved before is in %1</source>
+        <translation>El proyecto tal como se guardó antes está en %1</translation>
+    </message>
+    <message>
+        <source>Project %1 loaded.</source>
+        <translation>Proyecto %1 cargado.</translation>
+    </message>
+    <message>
+        <source>Load Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Proyectos recientes</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Vaciar lista</translation>
+    </message>
+    <message>
+        <source>No recovery copy can be saved; save the project yourself. %1</source>
+        <translation>No se puede guardar una copia de recuperación; guarde usted el proyecto. %1</translation>
+    </message>
+    <message>
+        <source>A survey that was not saved yet is there as it was at %1. Do you want to open it?</source>
+        <translation>Hay un levantamiento aún sin guardar, tal como estaba el %1. ¿Desea abrirlo?</translation>
+    </message>
+    <message>
+        <source>The project %1 is there as it was at %2. Do you want to open it?</source>
+        <translation>El proyecto %1 está disponible tal como estaba el %2. ¿Desea abrirlo?</translation>
+    </message>
+    <message>
+        <source>Geophones do not have geometry! 
+</source>
+        <translation>¡Los geófonos no tienen geometría! 
+</translation>
+    </message>
+    <message>
+        <source>Please set the position of geophones
+</source>
+        <translation>Defina la posición de los geófonos
+</translation>
+    </message>
+    <message>
+        <source>Grid of %1 rows and %2 columns built.</source>
+        <translation>Malla de %1 filas y %2 columnas construida.</translation>
+    </message>
+    <message>
+        <source>The grid could not be built.</source>
+        <translation>No se ha podido construir la malla.</translation>
+    </message>
+    <message>
+        <source>The grid has the velocities of the layers.</source>
+        <translation>La malla tiene las velocidades de las capas.</translation>
+    </message>
+    <message>
+        <source>The grid could not be smoothed.</source>
+        <translation>No se ha podido suavizar la malla.</translation>
+    </message>
+    <message>
+        <source>The velocities of the grid are smoothed.</source>
+        <translation>Las velocidades de la malla se han suavizado.</translation>
+    </message>
+    <message>
+        <source>Warning:</source>
+        <translation>Advertencia:</translation>
+    </message>
+    <message>
+        <source>Uncomplete set of picks. 
+ 
+</source>
+        <translation>Conjunto de picados incompleto. 
+ 
+</translation>
+    </message>
+    <message>
+        <source>Do you want to run tomography inversion anyway? </source>
+        <translation>¿Desea ejecutar de todos modos la inversión tomográfica? </translation>
+    </message>
+    <message>
+        <source>An inversion is under way; the survey cannot be edited.</source>
+        <translation>Hay una inversión en curso; el levantamiento no se puede modificar.</translation>
+    </message>
+    <message>
+        <source>Tomography inversion</source>
+        <translation>Inversión tomográfica</translation>
+    </message>
+    <message>
+        <source>The inversion is still running.</source>
+        <translation>La inversión sigue en curso.</translation>
+    </message>
+    <message>
+        <source>Do you want to stop it when the iteration under way is completed, and close then?</source>
+        <translation>¿Desea detenerla cuando termine la iteración en curso y cerrar después?</translation>
+    </message>
+    <message>
+        <source>The inversion could not be completed.</source>
+        <translation>No se ha podido completar la inversión.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n external iteration(s) completed.</source>
+        <translation>
+            <numerusform>%n iteración externa completada.</numerusform>
+            <numerusform>%n iteraciones externas completadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Inversion results</source>
+        <translation>Resultados de la inversión</translation>
+    </message>
+    <message>
+        <source>Elapsed time: [s] %1
+</source>
+        <translation>Tiempo transcurrido: [s] %1
+</translation>
+    </message>
+    <message>
+        <source>RMSE: [ms] %1; [%] %2
+</source>
+        <translation>RMSE: [ms] %1; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>MaxError: [ms] %1; [%] %2
+</source>
+        <translation>Error máximo: [ms] %1; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>The survey is recovered; it is not saved yet.</source>
+        <translation>El levantamiento se ha recuperado; todavía no está guardado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) exist already.</source>
+        <translation>
+            <numerusform>%n archivo ya existe.</numerusform>
+            <numerusform>%n archivos ya existen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to replace them?</source>
+        <translation>¿Desea reemplazarlos?</translation>
+    </message>
+    <message>
+        <source>Writing pictures ...</source>
+        <translation>Escribiendo imágenes ...</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pictures have been saved.</source>
+        <translation>Se han guardado %1 de %2 imágenes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) saved.</source>
+        <translation>
+            <numerusform>%n imagen guardada.</numerusform>
+            <numerusform>%n imágenes guardadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save screenshot</source>
+        <translation>Guardar captura</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png);;JPEG picture (*.jpg *.jpeg)</source>
+        <translation>Imagen PNG (*.png);;Imagen JPEG (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>Save PDF report</source>
+        <translation>Guardar informe PDF</translation>
+    </message>
+    <message>
+        <source>PDF report (*.pdf)</source>
+        <translation>Informe PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save ODT report</source>
+        <translation>Guardar informe ODT</translation>
+    </message>
+    <message>
+        <source>OpenDocument text (*.odt)</source>
+        <translation>Texto OpenDocument (*.odt)</translation>
+    </message>
+    <message>
+        <source>Writing the report ...</source>
+        <translation>Escribiendo el informe ...</translation>
+    </message>
+    <message>
+        <source>Stopped; nothing has been saved.</source>
+        <translation>Detenido; no se ha guardado nada.</translation>
+    </message>
+    <message>
+        <source>The file has not been saved.</source>
+        <translation>No se ha guardado el archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceAxes</name>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Tiempo (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceTexts</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 ms</source>
+        <translation>%1 m, %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 m/s (%2 m, %3 ms)</source>
+        <translation>%1 m/s (%2 m, %3 ms)</translation>
+    </message>
+    <message>
+        <source>Other shots</source>
+        <translation>Otros disparos</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calculados</translation>
+    </message>
+    <message>
+        <source>Air %1 m/s</source>
+        <translation>Aire %1 m/s</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TravelTimePlot</name>
+    <message>
+        <source>Travel-time curves</source>
+        <translation>Dromocronas</translation>
+    </message>
+    <message>
+        <source>No travel times yet.
+
+Pick first breaks in the traces, by hand or with AutoPick, or import travel times.</source>
+        <translation>Aún no hay tiempos de recorrido.
+
+Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos de recorrido.</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distancia [m]</translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation>Tiempo [ms]</translation>
+    </message>
+    <message>
+        <source>&amp;Measured</source>
+        <translation>&amp;Medidos</translation>
+    </message>
+    <message>
+        <source>&amp;Computed</source>
+        <translation>&amp;Calculados</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>Ver &amp;todo</translation>
+    </message>
+    <message>
+        <source>Show all curves</source>
+        <translation>Muestra todas las dromocronas</translation>
+    </message>
+    <message>
+        <source>Export &amp;picture...</source>
+        <translation>&amp;Exportar imagen...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Guarda las dromocronas como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <translation>Disparo %1 en %2 m</translation>
+    </message>
+    <message>
+        <source>Shot %1 has no travel times yet</source>
+        <translation>El disparo %1 aún no tiene tiempos de recorrido</translation>
+    </message>
+    <message>
+        <source>Click a curve to choose its shot</source>
+        <translation>Haga clic en una dromocrona para elegir su disparo</translation>
+    </message>
+    <message>
+        <source>Shot %1, trace %2: %3 ms</source>
+        <translation>Disparo %1, traza %2: %3 ms</translation>
+    </message>
+    <message>
+        <source>Computed: %1 ms</source>
+        <translation>Calculado: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Remove pick</source>
+        <translation>&amp;Quitar picado</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;back</source>
+        <translation>Vista &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Zoom for&amp;ward</source>
+        <translation>Vista &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::contourlines_dialog</name>
+    <message>
+        <source>Contour Lines - Settings</source>
+        <translation>Isolíneas - Configuración</translation>
+    </message>
+    <message>
+        <source>Contour values</source>
+        <translation>Valores de las isolíneas</translation>
+    </message>
+    <message>
+        <source>Equally spaced contour values</source>
+        <translation>Valores equidistantes</translation>
+    </message>
+    <message>
+        <source>Values that divide the range into equal parts</source>
+        <translation>Valores que dividen el rango en partes iguales</translation>
+    </message>
+    <message>
+        <source># Values</source>
+        <translation>N.º de valores</translation>
+    </message>
+    <message>
+        <source>How many values divide the range</source>
+        <translation>Cuántos valores dividen el rango</translation>
+    </message>
+    <message>
+        <source>Customized Contour Values</source>
+        <translation>Valores personalizados</translation>
+    </message>
+    <message>
+        <source>The values of the list</source>
+        <translation>Los valores de la lista</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
+    </message>
+    <message>
+        <source>Add One More Value</source>
+        <translation>Añadir un valor</translation>
+    </message>
+    <message>
+        <source>Add an empty line to the list</source>
+        <translation>Añade una línea vacía a la lista</translation>
+    </message>
+    <message>
+        <source>Load Isovalues</source>
+        <translation>Cargar isovalores</translation>
+    </message>
+    <message>
+        <source>Replace the list by the values of a file</source>
+        <translation>Sustituye la lista por los valores de un archivo</translation>
+    </message>
+    <message>
+        <source>Save Isovalues</source>
+        <translation>Guardar isovalores</translation>
+    </message>
+    <message>
+        <source>Write the list to a file</source>
+        <translation>Escribe la lista en un archivo</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>Quitar todos</translation>
+    </message>
+    <message>
+        <source>Empty the list</source>
+        <translation>Vacía la lista</translation>
+    </message>
+    <message>
+        <source>Where contours are shown</source>
+        <translation>Dónde se muestran las isolíneas</translation>
+    </message>
+    <message>
+        <source>Show Contours (on top of  Tomographic Profile)</source>
+        <translation>Mostrar isolíneas (sobre el perfil tomográfico)</translation>
+    </message>
+    <message>
+        <source>Lines over the velocities</source>
+        <translation>Líneas sobre las velocidades</translation>
+    </message>
+    <message>
+        <source>Show Filled Contours</source>
+        <translation>Mostrar isolíneas rellenas</translation>
+    </message>
+    <message>
+        <source>Velocities in bands from one value to the next</source>
+        <translation>Velocidades en bandas, de un valor al siguiente</translation>
+    </message>
+    <message>
+        <source>Show Contours (on Vertical Gradient of Velocity)</source>
+        <translation>Mostrar isolíneas (sobre el gradiente vertical de velocidad)</translation>
+    </message>
+    <message>
+        <source>Lines over the vertical gradient; not together with filled contours</source>
+        <translation>Líneas sobre el gradiente vertical; no junto con isolíneas rellenas</translation>
+    </message>
+    <message>
+        <source>Show Contours (on Laplacian Gradient of Velocity)</source>
+        <translation>Mostrar isolíneas (sobre el laplaciano de la velocidad)</translation>
+    </message>
+    <message>
+        <source>Lines over the Laplacian; not together with filled contours</source>
+        <translation>Líneas sobre el laplaciano; no junto con isolíneas rellenas</translation>
+    </message>
+    <message>
+        <source>Lines and labels</source>
+        <translation>Líneas y etiquetas</translation>
+    </message>
+    <message>
+        <source>Show label every N contour lines</source>
+        <translation>Etiqueta cada N isolíneas</translation>
+    </message>
+    <message>
+        <source>1 labels every line, 2 every second one</source>
+        <translation>1 etiqueta todas las líneas, 2 una de cada dos</translation>
+    </message>
+    <message>
+        <source>No labels</source>
+        <translation>Sin etiquetas</translation>
+    </message>
+    <message>
+        <source>Label size</source>
+        <translation>Tamaño de etiqueta</translation>
+    </message>
+    <message>
+        <source>Size of the labels in points</source>
+        <translation>Tamaño de las etiquetas en puntos</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Contours colour:</source>
+        <translation>Color de las isolíneas:</translation>
+    </message>
+    <message>
+        <source>Choose the colour of the lines</source>
+        <translation>Elige el color de las líneas</translation>
+    </message>
+    <message>
+        <source>Contours colour</source>
+        <translation>Color de las isolíneas</translation>
+    </message>
+    <message>
+        <source>Isolines (*.csv)</source>
+        <translation>Isolíneas (*.csv)</translation>
+    </message>
+    <message>
+        <source>The section shows values from %1 to %2 %3</source>
+        <translation>La sección muestra valores de %1 a %2 %3</translation>
+    </message>
+    <message>
+        <source>Value : </source>
+        <translation>Valor: </translation>
+    </message>
+    <message>
+        <source>Remove this value</source>
+        <translation>Quita este valor</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n value(s) of the list are no numbers from %1 to %2.</source>
+        <translation>
+            <numerusform>%n valor de la lista no es un número de %1 a %2.</numerusform>
+            <numerusform>%n valores de la lista no son números de %1 a %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>¿Reemplazar el archivo?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Cannot save file </source>
+        <translation>No se puede guardar el archivo </translation>
+    </message>
+    <message>
+        <source>Cannot open file </source>
+        <translation>No se puede abrir el archivo </translation>
+    </message>
+    <message>
+        <source>Invalid value at line </source>
+        <translation>Valor no válido en la línea </translation>
+    </message>
+    <message>
+        <source>Or wrong CVS separator.</source>
+        <translation>O separador CSV incorrecto.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Some loaded isovalues were out of range. Ignored.</source>
+        <translation>Algunos isovalores cargados estaban fuera del rango. Se han ignorado.</translation>
+    </message>
+    <message>
+        <source>Select background color</source>
+        <translation>Seleccionar color de las isolíneas</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::doFilteringDialog</name>
+    <message>
+        <source>Trace Filtering</source>
+        <translation>Filtrado de trazas</translation>
+    </message>
+    <message>
+        <source>High Pass Filter</source>
+        <translation>Filtro paso alto</translation>
+    </message>
+    <message>
+        <source>Use &amp;high pass</source>
+        <translation>Usar paso &amp;alto</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Frecuencia (Hz)</translation>
+    </message>
+    <message>
+        <source>High pass frequency in hertz</source>
+        <translation>Frecuencia del paso alto en hercios</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>High pass order</source>
+        <translation>Orden del paso alto</translation>
+    </message>
+    <message>
+        <source>Low Pass Filter</source>
+        <translation>Filtro paso bajo</translation>
+    </message>
+    <message>
+        <source>Use &amp;low pass</source>
+        <translation>Usar paso &amp;bajo</translation>
+    </message>
+    <message>
+        <source>Low pass frequency in hertz</source>
+        <translation>Frecuencia del paso bajo en hercios</translation>
+    </message>
+    <message>
+        <source>Low pass order</source>
+        <translation>Orden del paso bajo</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Aplicar filtro a:</translation>
+    </message>
+    <message>
+        <source>Filter the samples as they were recorded</source>
+        <translation>Filtra las muestras tal como se registraron</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Originales</translation>
+    </message>
+    <message>
+        <source>Filter what the filters and AGC before made of them</source>
+        <translation>Filtra el resultado de los filtros y el AGC anteriores</translation>
+    </message>
+    <message>
+        <source>Filtered</source>
+        <translation>Filtrados</translation>
+    </message>
+    <message>
+        <source>&amp;Apply filter</source>
+        <translation>A&amp;plicar filtro</translation>
+    </message>
+    <message>
+        <source>Display:</source>
+        <translation>Mostrar:</translation>
+    </message>
+    <message>
+        <source>What the filter is applied to</source>
+        <translation>Aquello a lo que se aplica el filtro</translation>
+    </message>
+    <message>
+        <source>Original data</source>
+        <translation>Datos originales</translation>
+    </message>
+    <message>
+        <source>What comes out of the filter</source>
+        <translation>El resultado del filtro</translation>
+    </message>
+    <message>
+        <source>Filtered data</source>
+        <translation>Datos filtrados</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>Disparo %1 de %2</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>El filtro se aplica a todos los disparos.</translation>
+    </message>
+    <message>
+        <source>Caution</source>
+        <translation>Precaución</translation>
+    </message>
+    <message>
+        <source>No filter applied. Filter order must be greater then 0.</source>
+        <translation>No se ha aplicado ningún filtro. El orden del filtro debe ser mayor que 0.</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>No se ha aplicado ningún filtro.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) stay as they were.</source>
+        <translation>
+            <numerusform>%n traza queda como estaba.</numerusform>
+            <numerusform>%n trazas quedan como estaban.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::draw1DVelocityProfile</name>
+    <message>
+        <source>Velocity against depth</source>
+        <translation>Velocidad en función de la profundidad</translation>
+    </message>
+    <message>
+        <source>Velocity (m/s)</source>
+        <translation>Velocidad (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth below the ground (m)</source>
+        <translation>Profundidad bajo el terreno (m)</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Capas</translation>
+    </message>
+    <message>
+        <source>Velocity that the grid gets</source>
+        <translation>Velocidad que recibe la malla</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::editTravelTimesWidget</name>
+    <message>
+        <source>Seismic traces</source>
+        <translation>Trazas sísmicas</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Quitar picados</translation>
+    </message>
+    <message>
+        <source>Remove pick</source>
+        <translation>Quitar picado</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Confirmar picados</translation>
+    </message>
+    <message>
+        <source>Nudge pick</source>
+        <translation>Desplazar un poco el picado</translation>
+    </message>
+    <message>
+        <source>Set pick</source>
+        <translation>Poner picado</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms</source>
+        <translation>Traza %1, picada en %2 ms</translation>
+    </message>
+    <message>
+        <source>Trace %1, not picked</source>
+        <translation>Traza %1, sin picar</translation>
+    </message>
+    <message>
+        <source>Draw picks</source>
+        <translation>Trazar picados</translation>
+    </message>
+    <message>
+        <source>Move pick</source>
+        <translation>Mover picado</translation>
+    </message>
+    <message>
+        <source>No samples, only picks</source>
+        <translation>Sin muestras, solo picados</translation>
+    </message>
+    <message>
+        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
+        <translation>Trazas %1 a %2: C confirma, Supr quita, Esc deselecciona</translation>
+    </message>
+    <message>
+        <source>Open shot files with Ctrl+O or drop them here</source>
+        <translation>Abra archivos de disparos con Ctrl+O o suéltelos aquí</translation>
+    </message>
+    <message>
+        <source>No shot is shown</source>
+        <translation>No se muestra ningún disparo</translation>
+    </message>
+    <message>
+        <source>This shot has no traces</source>
+        <translation>Este disparo no tiene trazas</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::gridDialog</name>
+    <message>
+        <source>Grid Settings</source>
+        <translation>Configuración de la malla</translation>
+    </message>
+    <message>
+        <source>Array length (m)</source>
+        <translation>Longitud del tendido (m)</translation>
+    </message>
+    <message>
+        <source>Max. depth (m)</source>
+        <translation>Profundidad máx. (m)</translation>
+    </message>
+    <message>
+        <source>A deeper grid costs time and memory. Rays rarely reach deeper than a quarter to a third of the distance between the outermost shots.</source>
+        <translation>Una malla más profunda cuesta tiempo y memoria. Los rayos rara vez llegan más abajo de entre un cuarto y un tercio de la distancia entre los disparos extremos.</translation>
+    </message>
+    <message>
+        <source>Cell size (m)</source>
+        <translation>Tamaño de celda (m)</translation>
+    </message>
+    <message>
+        <source>Smaller cells draw finer detail and fit the times closer, but rays cover each cell less, and time and memory grow with the inverse square. A quarter of the geophone spacing is a good start.</source>
+        <translation>Las celdas más pequeñas dibujan detalles más finos y se ajustan mejor a los tiempos, pero los rayos cubren menos cada celda, y el tiempo y la memoria crecen con el inverso del cuadrado. Un cuarto de la separación entre geófonos es un buen comienzo.</translation>
+    </message>
+    <message>
+        <source>N° of nodes per cell side</source>
+        <translation>N.º de nodos por lado de celda</translation>
+    </message>
+    <message>
+        <source>More nodes let rays leave a cell at more angles, so computed times get more accurate; time and memory grow with the number. Beyond 15 little is gained.</source>
+        <translation>Con más nodos los rayos pueden salir de una celda con más ángulos, y los tiempos calculados son más precisos; el tiempo y la memoria crecen con el número. Más allá de 15 se gana poco.</translation>
+    </message>
+    <message>
+        <source>The grid will have</source>
+        <translation>La malla tendrá</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Filas</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Celdas</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nodos</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Memoria</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>The grid has no rows: choose a greater depth or smaller cells.</source>
+        <translation>La malla no tiene filas: elija una profundidad mayor o celdas más pequeñas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) at the end of the line lie beyond the last column and take no part in an inversion. Another cell size may reach them.</source>
+        <translation>
+            <numerusform>%n posición al final de la línea queda más allá de la última columna y no participa en la inversión. Otro tamaño de celda puede alcanzarla.</numerusform>
+            <numerusform>%n posiciones al final de la línea quedan más allá de la última columna y no participan en la inversión. Otro tamaño de celda puede alcanzarlas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Invalid parameter</source>
+        <translation>Parámetro no válido</translation>
+    </message>
+    <message>
+        <source>The max depth parameter set to 0.0 is not valid for tomography</source>
+        <translation>La profundidad máxima de 0,0 no es válida para la tomografía</translation>
+    </message>
+    <message>
+        <source>Memory warning</source>
+        <translation>Aviso de memoria</translation>
+    </message>
+    <message>
+        <source>A large number of nodes may require a lot of memory</source>
+        <translation>Un número elevado de nodos puede requerir mucha memoria</translation>
+    </message>
+    <message>
+        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
+        <translation>Celdas tan pequeñas hacen muy lenta la inversión, que solo se detiene entre iteraciones. Un cuarto de la separación entre geófonos es %1 m.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::progressDialog</name>
+    <message>
+        <source>Steps</source>
+        <translation>Pasos</translation>
+    </message>
+    <message>
+        <source>Saving project</source>
+        <translation>Guardando proyecto</translation>
+    </message>
+    <message>
+        <source>Loading project</source>
+        <translation>Cargando proyecto</translation>
+    </message>
+    <message>
+        <source>SAVED XML</source>
+        <translation>XML GUARDADO</translation>
+    </message>
+    <message>
+        <source>Saving grid...</source>
+        <translation>Guardando malla...</translation>
+    </message>
+    <message>
+        <source>SAVED GRID</source>
+        <translation>MALLA GUARDADA</translation>
+    </message>
+    <message>
+        <source>Saving traces...</source>
+        <translation>Guardando trazas...</translation>
+    </message>
+    <message>
+        <source>SAVED TRACES</source>
+        <translation>TRAZAS GUARDADAS</translation>
+    </message>
+    <message>
+        <source>Saving palettes...</source>
+        <translation>Guardando paletas...</translation>
+    </message>
+    <message>
+        <source>SAVED PALETTES</source>
+        <translation>PALETAS GUARDADAS</translation>
+    </message>
+    <message>
+        <source>Compressing...</source>
+        <translation>Comprimiendo...</translation>
+    </message>
+    <message>
+        <source>COMPRESSED</source>
+        <translation>COMPRIMIDO</translation>
+    </message>
+    <message>
+        <source>Removing temporary files...</source>
+        <translation>Eliminando archivos temporales...</translation>
+    </message>
+    <message>
+        <source>COMPLETED</source>
+        <translation>COMPLETADO</translation>
+    </message>
+    <message>
+        <source>Extracted</source>
+        <translation>Extraído</translation>
+    </message>
+    <message>
+        <source>Loading XML</source>
+        <translation>Cargando XML</translation>
+    </message>
+    <message>
+        <source>Loaded XML</source>
+        <translation>XML cargado</translation>
+    </message>
+    <message>
+        <source>Loading grid...</source>
+        <translation>Cargando malla...</translation>
+    </message>
+    <message>
+        <source>Loaded GRID</source>
+        <translation>MALLA cargada</translation>
+    </message>
+    <message>
+        <source>Loading traces...</source>
+        <translation>Cargando trazas...</translation>
+    </message>
+    <message>
+        <source>Loaded TRACES</source>
+        <translation>TRAZAS cargadas</translation>
+    </message>
+    <message>
+        <source>Loading palettes...</source>
+        <translation>Cargando paletas...</translation>
+    </message>
+    <message>
+        <source>Loaded PALETTES</source>
+        <translation>PALETAS cargadas</translation>
+    </message>
+    <message>
+        <source>Tracing rays...</source>
+        <translation>Trazando rayos...</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::progressTomographyDialog</name>
+    <message>
+        <source>Tomography inversion</source>
+        <translation>Inversión tomográfica</translation>
+    </message>
+    <message>
+        <source>Ends the inversion after the external iteration under way and keeps what it has reached</source>
+        <translation>Termina la inversión tras la iteración externa en curso y conserva lo que haya alcanzado</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>Completed iteration %1</source>
+        <translation>Iteración %1 completada</translation>
+    </message>
+    <message>
+        <source>Elapsed: %1</source>
+        <translation>Transcurrido: %1</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>aún no se conoce</translation>
+    </message>
+    <message>
+        <source>Remaining: %1</source>
+        <translation>Restante: %1</translation>
+    </message>
+    <message>
+        <source>Stops when the iteration under way is completed.</source>
+        <translation>Se detiene cuando termine la iteración en curso.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::runTomography_Dialog</name>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Ejecutar inversión tomográfica</translation>
+    </message>
+    <message>
+        <source>Number of external iterations (default =5)</source>
+        <translation>Número de iteraciones externas (predeterminado =5)</translation>
+    </message>
+    <message>
+        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little.</source>
+        <translation>Cada iteración externa vuelve a trazar los rayos a través del modelo obtenido hasta entonces. Con más iteraciones los rayos se curvan de forma más fiel a la realidad y el desajuste disminuye; el tiempo crece con el número. Cuando la curva del desajuste se ha aplanado, más iteraciones cambian poco.</translation>
+    </message>
+    <message>
+        <source>Number of solver iterations (default =20)</source>
+        <translation>Número de iteraciones del solucionador (predeterminado =20)</translation>
+    </message>
+    <message>
+        <source>How far the velocities are corrected along the same rays before these are traced anew. More fit the times closer but may overfit noise; fewer keep the model smoother.</source>
+        <translation>Hasta dónde se corrigen las velocidades a lo largo de los mismos rayos antes de volver a trazarlos. Con más iteraciones se ajustan mejor los tiempos, pero también puede ajustarse el ruido; con menos, el modelo queda más suave.</translation>
+    </message>
+    <message>
+        <source>Smoothing parameter (default =5) </source>
+        <translation>Parámetro de suavizado (predeterminado =5) </translation>
+    </message>
+    <message>
+        <source>How many cells to each side are averaged after every external iteration. Larger gives a smoother section that hides small bodies; smaller shows detail and artefacts along rays.</source>
+        <translation>Cuántas celdas a cada lado se promedian después de cada iteración externa. Un valor mayor da una sección más suave que oculta los cuerpos pequeños; uno menor muestra detalles y artefactos a lo largo de los rayos.</translation>
+    </message>
+    <message>
+        <source>Minimum velocity [m/s]</source>
+        <translation>Velocidad mínima [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get slower than this. Set it to the slowest ground that you expect.</source>
+        <translation>Ninguna celda llega a ser más lenta que esto. Indique el terreno más lento que espere.</translation>
+    </message>
+    <message>
+        <source>Maximum velocity [m/s]</source>
+        <translation>Velocidad máxima [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get faster than this. Set it to the fastest rock that you expect.</source>
+        <translation>Ninguna celda llega a ser más rápida que esto. Indique la roca más rápida que espere.</translation>
+    </message>
+    <message>
+        <source>Type of smoothing:</source>
+        <translation>Tipo de suavizado:</translation>
+    </message>
+    <message>
+        <source>Uniform averages all cells alike; linear and Gaussian give near cells more weight and keep contrasts sharper; ray based first fills the cells that no ray crossed from those that rays did.</source>
+        <translation>El uniforme promedia todas las celdas por igual; el lineal y el gaussiano dan más peso a las celdas cercanas y mantienen más nítidos los contrastes; el basado en rayos rellena primero las celdas que ningún rayo atravesó a partir de las que sí fueron atravesadas.</translation>
+    </message>
+    <message>
+        <source>Uniform weighted smoothing</source>
+        <translation>Suavizado con ponderación uniforme</translation>
+    </message>
+    <message>
+        <source>Linear weighted smoothing</source>
+        <translation>Suavizado con ponderación lineal</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted smoothing</source>
+        <translation>Suavizado con ponderación gaussiana</translation>
+    </message>
+    <message>
+        <source>Ray based smoothing</source>
+        <translation>Suavizado basado en rayos</translation>
+    </message>
+    <message>
+        <source>Unchecked, the smoothing reaches 0.7 times as far up and down as sideways, which suits layered ground. Checked, it reaches equally far, which suits bodies and steep contacts.</source>
+        <translation>Sin marcar, el suavizado alcanza en vertical 0,7 veces lo que en horizontal, lo que conviene a un terreno estratificado. Marcado, alcanza lo mismo, lo que conviene a cuerpos aislados y contactos empinados.</translation>
+    </message>
+    <message>
+        <source>Symmetric smoothing</source>
+        <translation>Suavizado simétrico</translation>
+    </message>
+    <message>
+        <source>Uses one processor only. The result is the same to the last digit; it just takes longer.</source>
+        <translation>Usa un solo procesador. El resultado es el mismo hasta la última cifra; solo tarda más.</translation>
+    </message>
+    <message>
+        <source>Run in single thread mode</source>
+        <translation>Ejecutar en un solo hilo</translation>
+    </message>
+    <message>
+        <source>The minimum is above the maximum: every cell that changes will end at the maximum.</source>
+        <translation>El mínimo supera el máximo: toda celda que cambie acabará en el máximo.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::select_speed_Dialog</name>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Definir modelo de velocidad</translation>
+    </message>
+    <message>
+        <source>Depths in metres below the ground, velocities in m/s</source>
+        <translation>Profundidades en metros bajo el terreno, velocidades en m/s</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Capas</translation>
+    </message>
+    <message>
+        <source>Splits the last layer at its middle</source>
+        <translation>Divide la última capa por la mitad</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Removes the layers that are checked or selected</source>
+        <translation>Quita las capas marcadas o seleccionadas</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model.</source>
+        <translation>Las capas no forman un modelo de velocidad.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::setGeographyDialog</name>
+    <message>
+        <source>Set geographic coordinates</source>
+        <translation>Definir coordenadas geográficas</translation>
+    </message>
+    <message>
+        <source>Easting (m)</source>
+        <translation>Este (m)</translation>
+    </message>
+    <message>
+        <source>Northing (m)</source>
+        <translation>Norte (m)</translation>
+    </message>
+    <message>
+        <source>Latitude, longitude (WGS84)</source>
+        <translation>Latitud, longitud (WGS84)</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Primer geófono</translation>
+    </message>
+    <message>
+        <source>Easting of the first geophone in metres</source>
+        <translation>Coordenada este del primer geófono en metros</translation>
+    </message>
+    <message>
+        <source>Northing of the first geophone in metres</source>
+        <translation>Coordenada norte del primer geófono en metros</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Último geófono</translation>
+    </message>
+    <message>
+        <source>Easting of the last geophone in metres</source>
+        <translation>Coordenada este del último geófono en metros</translation>
+    </message>
+    <message>
+        <source>Northing of the last geophone in metres</source>
+        <translation>Coordenada norte del último geófono en metros</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>Código EPSG</translation>
+    </message>
+    <message>
+        <source>EPSG code of the reference system</source>
+        <translation>Código EPSG del sistema de referencia</translation>
+    </message>
+    <message>
+        <source>First geophone (at %1 m)</source>
+        <translation>Primer geófono (en %1 m)</translation>
+    </message>
+    <message>
+        <source>Last geophone (at %1 m)</source>
+        <translation>Último geófono (en %1 m)</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>south</comment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <comment>east</comment>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <comment>west</comment>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>There is no reference system with this EPSG code.</source>
+        <translation>No existe ningún sistema de referencia con este código EPSG.</translation>
+    </message>
+    <message>
+        <source>This system is not projected: it has no easting and northing.</source>
+        <translation>Este sistema no es proyectado: no tiene coordenadas este y norte.</translation>
+    </message>
+    <message>
+        <source>This system does not count in metres. Choose one that does.</source>
+        <translation>Este sistema no está en metros. Elija uno que lo esté.</translation>
+    </message>
+    <message>
+        <source>This system counts westward or southward. Choose one with easting and northing.</source>
+        <translation>Este sistema cuenta hacia el oeste o el sur. Elija uno con coordenadas este y norte.</translation>
+    </message>
+    <message>
+        <source>This system cannot be turned into longitude and latitude.</source>
+        <translation>Este sistema no se puede convertir en longitud y latitud.</translation>
+    </message>
+    <message>
+        <source>Enter easting and northing of both geophones, in metres.</source>
+        <translation>Introduzca las coordenadas este y norte de ambos geófonos, en metros.</translation>
+    </message>
+    <message>
+        <source>Enter the EPSG code of the reference system, for example 32632 for UTM zone 32 N.</source>
+        <translation>Introduzca el código EPSG del sistema de referencia, por ejemplo 32632 para UTM zona 32 N.</translation>
+    </message>
+    <message>
+        <source>The first and the last geophone have the same coordinates.</source>
+        <translation>El primer y el último geófono tienen las mismas coordenadas.</translation>
+    </message>
+    <message>
+        <source>These coordinates lie outside of the reference system.</source>
+        <translation>Estas coordenadas quedan fuera del sistema de referencia.</translation>
+    </message>
+    <message>
+        <source>On the map the two geophones are %1 m apart</source>
+        <translation>En el mapa los dos geófonos distan %1 m</translation>
+    </message>
+    <message>
+        <source>%1, along the line %2 m.</source>
+        <comment>distance on the map, distance along the line</comment>
+        <translation>%1; a lo largo de la línea, %2 m.</translation>
+    </message>
+    <message>
+        <source>Check the coordinates.</source>
+        <translation>Compruebe las coordenadas.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::setVelocityWidget</name>
+    <message>
+        <source>Marks the layer for Remove</source>
+        <translation>Marca la capa para Quitar</translation>
+    </message>
+    <message>
+        <source>Initial depth   </source>
+        <translation>Profundidad inicial   </translation>
+    </message>
+    <message>
+        <source>Depth of the layer&apos;s top below the ground, metres</source>
+        <translation>Profundidad del techo de la capa bajo el terreno, en metros</translation>
+    </message>
+    <message>
+        <source>    Velocity</source>
+        <translation>    Velocidad</translation>
+    </message>
+    <message>
+        <source>Velocity at the layer&apos;s top, m/s</source>
+        <translation>Velocidad en el techo de la capa, m/s</translation>
+    </message>
+    <message>
+        <source>Final depth</source>
+        <translation>Profundidad final</translation>
+    </message>
+    <message>
+        <source>Depth of the layer&apos;s bottom below the ground, metres</source>
+        <translation>Profundidad de la base de la capa bajo el terreno, en metros</translation>
+    </message>
+    <message>
+        <source>    Velocity  </source>
+        <translation>    Velocidad  </translation>
+    </message>
+    <message>
+        <source>Velocity at the layer&apos;s bottom, m/s</source>
+        <translation>Velocidad en la base de la capa, m/s</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::smoothingDialog</name>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Aplicar suavizado</translation>
+    </message>
+    <message>
+        <source>Smooths the velocities of the present grid. Rays and misfit stay those of the last inversion.</source>
+        <translation>Suaviza las velocidades de la malla actual. Los rayos y el desajuste siguen siendo los de la última inversión.</translation>
+    </message>
+    <message>
+        <source>&amp;Type of smoothing:</source>
+        <translation>&amp;Tipo de suavizado:</translation>
+    </message>
+    <message>
+        <source>Uniform averages all cells alike; linear and Gaussian give near cells more weight and keep contrasts sharper; ray based first fills the cells that no ray crossed from those that rays did.</source>
+        <translation>El uniforme promedia todas las celdas por igual; el lineal y el gaussiano dan más peso a las celdas cercanas y mantienen más nítidos los contrastes; el basado en rayos rellena primero las celdas que ningún rayo atravesó a partir de las que sí fueron atravesadas.</translation>
+    </message>
+    <message>
+        <source>Uniform weighted smoothing</source>
+        <translation>Suavizado con ponderación uniforme</translation>
+    </message>
+    <message>
+        <source>Linear weighted smoothing</source>
+        <translation>Suavizado con ponderación lineal</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted smoothing</source>
+        <translation>Suavizado con ponderación gaussiana</translation>
+    </message>
+    <message>
+        <source>Ray based smoothing</source>
+        <translation>Suavizado basado en rayos</translation>
+    </message>
+    <message>
+        <source>Smoothing &amp;parameter:</source>
+        <translation>&amp;Parámetro de suavizado:</translation>
+    </message>
+    <message>
+        <source>How many cells to each side are averaged. Larger gives a smoother section that hides small bodies.</source>
+        <translation>Cuántas celdas a cada lado se promedian. Un valor mayor da una sección más suave que oculta los cuerpos pequeños.</translation>
+    </message>
+    <message>
+        <source>Unchecked, the smoothing reaches 0.7 times as far up and down as sideways, which suits layered ground. Checked, it reaches equally far, which suits bodies and steep contacts.</source>
+        <translation>Sin marcar, el suavizado alcanza en vertical 0,7 veces lo que en horizontal, lo que conviene a un terreno estratificado. Marcado, alcanza lo mismo, lo que conviene a cuerpos aislados y contactos empinados.</translation>
+    </message>
+    <message>
+        <source>&amp;Symmetric smoothing</source>
+        <translation>&amp;Suavizado simétrico</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,5237 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Non</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ColorPaletteWidget</name>
+    <message>
+        <source>Handles of the gradient</source>
+        <translation>Curseurs du dégradé</translation>
+    </message>
+    <message>
+        <source>Drag a handle; double-click it for its colour.
+Keys: Left and Right move the selected handle (with Ctrl by one), Up and Down select another, Space asks for its colour, Insert adds and Delete removes one.</source>
+        <translation>Faites glisser un curseur&#xa0;; double-cliquez dessus pour choisir sa couleur.
+Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une unité avec Ctrl), Haut et Bas en sélectionnent un autre, Espace demande sa couleur, Inser en ajoute un et Suppr le retire.</translation>
+    </message>
+    <message>
+        <source>Number of the handle that the value, the colour and Delete are for</source>
+        <translation>Numéro du curseur auquel se rapportent la valeur, la couleur et la suppression</translation>
+    </message>
+    <message>
+        <source>Where on the scale the selected handle stands</source>
+        <translation>Position du curseur sélectionné sur l&apos;échelle</translation>
+    </message>
+    <message>
+        <source>Value shown in the first colour, and below it</source>
+        <translation>Valeur affichée dans la première couleur, comme celles qui sont inférieures</translation>
+    </message>
+    <message>
+        <source>Value shown in the last colour, and above it</source>
+        <translation>Valeur affichée dans la dernière couleur, comme celles qui sont supérieures</translation>
+    </message>
+    <message>
+        <source>Add Slider</source>
+        <translation>Ajouter un curseur</translation>
+    </message>
+    <message>
+        <source>Add a handle between the selected one and the next, in the colour of that place</source>
+        <translation>Ajouter un curseur entre le curseur sélectionné et le suivant, de la couleur de cet endroit</translation>
+    </message>
+    <message>
+        <source>Set Selected Slider Color</source>
+        <translation>Couleur du curseur sélectionné</translation>
+    </message>
+    <message>
+        <source>Choose the handle&apos;s colour</source>
+        <translation>Choisir la couleur du curseur</translation>
+    </message>
+    <message>
+        <source>Delete Selected Slider</source>
+        <translation>Supprimer le curseur sélectionné</translation>
+    </message>
+    <message>
+        <source>Remove the selected handle; the first and the last stay</source>
+        <translation>Retirer le curseur sélectionné&#xa0;; le premier et le dernier restent</translation>
+    </message>
+    <message>
+        <source>Selected Handle</source>
+        <translation>Curseur sélectionné</translation>
+    </message>
+    <message>
+        <source>Value: </source>
+        <translation>Valeur&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>The colours of a built-in palette stay as they are; Edit Palette makes a copy.</source>
+        <translation>Les couleurs d&apos;une palette prédéfinie ne changent pas&#xa0;; «&#xa0;Modifier la palette&#xa0;» en crée une copie.</translation>
+    </message>
+    <message>
+        <source>Cannot move handle at mimimum value.</source>
+        <translation>Le curseur de la valeur minimale ne peut pas être déplacé.</translation>
+    </message>
+    <message>
+        <source>Cannot move handle at maximum value.</source>
+        <translation>Le curseur de la valeur maximale ne peut pas être déplacé.</translation>
+    </message>
+    <message>
+        <source>There is no room for another handle here.</source>
+        <translation>Il n&apos;y a pas de place ici pour un autre curseur.</translation>
+    </message>
+    <message>
+        <source>The first and the last handle stay.</source>
+        <translation>Le premier et le dernier curseur restent.</translation>
+    </message>
+    <message>
+        <source>Colour of the selected handle</source>
+        <translation>Couleur du curseur sélectionné</translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <translation> sur %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DialogSetGeometry</name>
+    <message>
+        <source>Set survey geometry - Dialog</source>
+        <translation>Géométrie du levé</translation>
+    </message>
+    <message>
+        <source>This survey has no shots yet. Open shot files (Ctrl+O) or import travel times first, or add S-wave pairs on the page Shots.</source>
+        <translation>Ce levé ne contient encore aucun tir. Ouvrez d&apos;abord des fichiers de tirs (Ctrl+O) ou importez des temps de parcours, ou bien ajoutez des paires d&apos;ondes S dans la page Tirs.</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>&amp;String:</source>
+        <translation>&amp;Dispositif&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The geophone string in the table; its geophones are in the order of the channels</source>
+        <translation>Le dispositif de géophones du tableau&#xa0;; ses géophones sont dans l&apos;ordre des canaux</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>Add a string without geophones</source>
+        <translation>Ajouter un dispositif sans géophones</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Remove the string in the table</source>
+        <translation>Supprimer le dispositif du tableau</translation>
+    </message>
+    <message>
+        <source>&amp;Copy from</source>
+        <translation>&amp;Copier depuis</translation>
+    </message>
+    <message>
+        <source>Replace the geophones of this string by those of another one</source>
+        <translation>Remplacer les géophones de ce dispositif par ceux d&apos;un autre</translation>
+    </message>
+    <message>
+        <source>&amp;First (m):</source>
+        <translation>&amp;Premier (m)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone along the line</source>
+        <translation>Distance du premier géophone le long de la ligne</translation>
+    </message>
+    <message>
+        <source>S&amp;pacing (m):</source>
+        <translation>&amp;Espacement (m)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Distance from one geophone to the next; negative where the channels run backwards</source>
+        <translation>Distance d&apos;un géophone au suivant&#xa0;; négative si les canaux vont à rebours</translation>
+    </message>
+    <message>
+        <source>C&amp;ount:</source>
+        <translation>&amp;Nombre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How many geophones the string gets, as a rule the channels of a shot</source>
+        <translation>Nombre de géophones du dispositif, en général le nombre de canaux d&apos;un tir</translation>
+    </message>
+    <message>
+        <source>A&amp;utofill</source>
+        <translation>Remplissage a&amp;uto</translation>
+    </message>
+    <message>
+        <source>Give the string so many geophones, evenly spaced; elevations that are there stay</source>
+        <translation>Donner au dispositif ce nombre de géophones, régulièrement espacés&#xa0;; les altitudes déjà présentes restent</translation>
+    </message>
+    <message>
+        <source>Geophones of the string</source>
+        <translation>Géophones du dispositif</translation>
+    </message>
+    <message>
+        <source>Type, or paste from a spreadsheet. Enter goes down, Delete empties cells, Ctrl+D fills down, Insert adds a row. Elevations in italics were not typed and can be interpolated.</source>
+        <translation>Saisissez les valeurs ou collez-les depuis un tableur. Entrée descend, Suppr vide les cellules, Ctrl+D recopie vers le bas, Inser ajoute une ligne. Les altitudes en italique n&apos;ont pas été saisies et peuvent être interpolées.</translation>
+    </message>
+    <message>
+        <source>&amp;Interpolate elevations</source>
+        <translation>&amp;Interpoler les altitudes</translation>
+    </message>
+    <message>
+        <source>Elevations that were not typed follow a line from typed one to typed one; empty those that shall be interpolated</source>
+        <translation>Les altitudes non saisies suivent une droite d&apos;une altitude saisie à l&apos;autre&#xa0;; videz celles à interpoler</translation>
+    </message>
+    <message>
+        <source>&amp;Load Geometry</source>
+        <translation>Char&amp;ger la géométrie</translation>
+    </message>
+    <message>
+        <source>Read x and elevation of the geophones of this string from a text file</source>
+        <translation>Lire x et l&apos;altitude des géophones de ce dispositif dans un fichier texte</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Geometry</source>
+        <translation>Enregist&amp;rer la géométrie</translation>
+    </message>
+    <message>
+        <source>Write x and elevation of the geophones of this string to a text file</source>
+        <translation>Écrire x et l&apos;altitude des géophones de ce dispositif dans un fichier texte</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>Type, or paste from a spreadsheet. Enter goes down, Delete empties cells, Ctrl+D fills down.</source>
+        <translation>Saisissez les valeurs ou collez-les depuis un tableur. Entrée descend, Suppr vide les cellules, Ctrl+D recopie vers le bas.</translation>
+    </message>
+    <message>
+        <source>Shot in the table</source>
+        <translation>Tir du tableau</translation>
+    </message>
+    <message>
+        <source>Elevations of shots that were not typed are those of the line between the geophones</source>
+        <translation>Les altitudes de tirs non saisies sont celles de la ligne entre les géophones</translation>
+    </message>
+    <message>
+        <source>S-&amp;wave files ...</source>
+        <translation>&amp;Fichiers d&apos;ondes S ...</translation>
+    </message>
+    <message>
+        <source>Choose the DX and the SX file that the selected shot is made of</source>
+        <translation>Choisir le fichier DX et le fichier SX dont est formé le tir sélectionné</translation>
+    </message>
+    <message>
+        <source>Add S-wave &amp;pairs ...</source>
+        <translation>Ajouter des paires d&apos;&amp;ondes S ...</translation>
+    </message>
+    <message>
+        <source>Choose DX files and as many SX files; each pair becomes a shot whose traces are DX minus SX</source>
+        <translation>Choisir des fichiers DX et autant de fichiers SX&#xa0;; chaque paire devient un tir dont les traces sont DX moins SX</translation>
+    </message>
+    <message>
+        <source>&amp;Load Shots Geometry</source>
+        <translation>Char&amp;ger la géométrie des tirs</translation>
+    </message>
+    <message>
+        <source>Read x and elevation of all shots from a text file</source>
+        <translation>Lire x et l&apos;altitude de tous les tirs dans un fichier texte</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Shots Geometry</source>
+        <translation>Enregist&amp;rer la géométrie des tirs</translation>
+    </message>
+    <message>
+        <source>Write x and elevation of all shots to a text file</source>
+        <translation>Écrire x et l&apos;altitude de tous les tirs dans un fichier texte</translation>
+    </message>
+    <message>
+        <source>&amp;To be looked at:</source>
+        <translation>À &amp;vérifier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A click shows the geophones or shots that are meant</source>
+        <translation>Un clic montre les géophones ou les tirs concernés</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Défaire</translation>
+    </message>
+    <message>
+        <source>Take the last step back (Ctrl+Z)</source>
+        <translation>Défaire la dernière modification (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refaire</translation>
+    </message>
+    <message>
+        <source>Do the step again (Ctrl+Shift+Z)</source>
+        <translation>Refaire la modification (Ctrl+Maj+Z)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n geophone(s)</source>
+        <translation>
+            <numerusform>%1&#xa0;: %n géophone</numerusform>
+            <numerusform>%1&#xa0;: %n géophones</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a length in metres.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une longueur en mètres.</translation>
+    </message>
+    <message>
+        <source>They have no geophones then, until another string is added.</source>
+        <translation>Ils n&apos;auront alors plus de géophones, jusqu&apos;à l&apos;ajout d&apos;un autre dispositif.</translation>
+    </message>
+    <message>
+        <source>They will use string %1, as it is numbered then.</source>
+        <translation>Ils utiliseront le dispositif %1, selon la nouvelle numérotation.</translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 is used by shot(s) %2. Remove it?</source>
+        <translation>
+            <numerusform>Le dispositif %1 est utilisé par le tir %2. Le supprimer&#xa0;?</numerusform>
+            <numerusform>Le dispositif %1 est utilisé par les tirs %2. Le supprimer&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All elevations were typed. Empty those that shall be interpolated.</source>
+        <translation>Toutes les altitudes ont été saisies. Videz celles à interpoler.</translation>
+    </message>
+    <message>
+        <source>Type the elevation of one geophone at least.</source>
+        <translation>Saisissez l&apos;altitude d&apos;au moins un géophone.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) interpolated.</source>
+        <translation>
+            <numerusform>%n altitude interpolée.</numerusform>
+            <numerusform>%n altitudes interpolées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the grid and the results of the inversion</source>
+        <translation>la grille et les résultats de l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation>la grille</translation>
+    </message>
+    <message>
+        <source>the refraction interpretation</source>
+        <translation>l&apos;interprétation en réfraction</translation>
+    </message>
+    <message numerus="yes">
+        <source>the picks of shot(s) %1</source>
+        <translation>
+            <numerusform>les pointés du tir %1</numerusform>
+            <numerusform>les pointés des tirs %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be lost:</source>
+        <translation>Le levé change. Ceci sera perdu&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Do you want to continue?</source>
+        <translation>Voulez-vous continuer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The geometry is not complete.</source>
+        <translation>La géométrie n&apos;est pas complète.</translation>
+    </message>
+    <message>
+        <source>The geometry has been edited.</source>
+        <translation>La géométrie a été modifiée.</translation>
+    </message>
+    <message>
+        <source>Do you want to leave it as it was before?</source>
+        <translation>Voulez-vous la laisser telle qu&apos;elle était&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Open Geometry</source>
+        <translation>Ouvrir une géométrie</translation>
+    </message>
+    <message>
+        <source>Save Geometry</source>
+        <translation>Enregistrer la géométrie</translation>
+    </message>
+    <message>
+        <source>%1 exists.</source>
+        <translation>%1 existe déjà.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Geophones Geometry (*csv)</source>
+        <translation>Géométrie des géophones (*csv)</translation>
+    </message>
+    <message>
+        <source>Error Message</source>
+        <translation>Message d&apos;erreur</translation>
+    </message>
+    <message>
+        <source>Invalid geometry file.</source>
+        <translation>Fichier de géométrie non valide.</translation>
+    </message>
+    <message>
+        <source>Geophones saved in %1</source>
+        <translation>Géophones enregistrés dans %1</translation>
+    </message>
+    <message>
+        <source>CSV format (*.csv)</source>
+        <translation>Format CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Invalid geometry file. </source>
+        <translation>Fichier de géométrie non valide. </translation>
+    </message>
+    <message>
+        <source>Geophones loaded from %1</source>
+        <translation>Géophones chargés depuis %1</translation>
+    </message>
+    <message>
+        <source>Invalid shot file. </source>
+        <translation>Fichier de tirs non valide. </translation>
+    </message>
+    <message>
+        <source>Shots saved in %1</source>
+        <translation>Tirs enregistrés dans %1</translation>
+    </message>
+    <message>
+        <source>Shots loaded from %1</source>
+        <translation>Tirs chargés depuis %1</translation>
+    </message>
+    <message>
+        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)</source>
+        <translation>Fichiers sismiques (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Open DX File of Shot %1</source>
+        <translation>Ouvrir le fichier DX du tir %1</translation>
+    </message>
+    <message>
+        <source>Open SX File of Shot %1</source>
+        <translation>Ouvrir le fichier SX du tir %1</translation>
+    </message>
+    <message>
+        <source>Error occured</source>
+        <translation>Une erreur s&apos;est produite</translation>
+    </message>
+    <message>
+        <source>The files are not taken as an S-wave pair.</source>
+        <translation>Les fichiers ne sont pas acceptés comme paire d&apos;ondes S.</translation>
+    </message>
+    <message>
+        <source>Open DX Files</source>
+        <translation>Ouvrir les fichiers DX</translation>
+    </message>
+    <message>
+        <source>Open SX Files</source>
+        <translation>Ouvrir les fichiers SX</translation>
+    </message>
+    <message>
+        <source>There must be as many SX files as DX files.</source>
+        <translation>Il faut autant de fichiers SX que de fichiers DX.</translation>
+    </message>
+    <message>
+        <source>%1 DX files and %2 SX files were chosen.</source>
+        <translation>%1 fichiers DX et %2 fichiers SX ont été choisis.</translation>
+    </message>
+    <message>
+        <source>No shot was added: the files are not taken as S-wave pairs.</source>
+        <translation>Aucun tir n&apos;a été ajouté&#xa0;: les fichiers ne sont pas acceptés comme paires d&apos;ondes S.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n S-wave shot(s) added.</source>
+        <translation>
+            <numerusform>%n tir d&apos;ondes S ajouté.</numerusform>
+            <numerusform>%n tirs d&apos;ondes S ajoutés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Read with this separator the file has %1 lines of numbers; %2 are needed.</source>
+        <translation>Lu avec ce séparateur, le fichier a %1 lignes de nombres&#xa0;; il en faut %2.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ExportTomoVelData</name>
+    <message>
+        <source>Set optional shift parameter before export</source>
+        <translation>Décalage facultatif avant l&apos;exportation</translation>
+    </message>
+    <message>
+        <source>Y coord of the line</source>
+        <translation>Coordonnée Y de la ligne</translation>
+    </message>
+    <message>
+        <source>Y coordinate of the line in metres</source>
+        <translation>Coordonnée Y de la ligne en mètres</translation>
+    </message>
+    <message>
+        <source>Written as Y of every cell</source>
+        <translation>Écrite comme Y de chaque cellule</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Z offset of the line</source>
+        <translation>Décalage Z de la ligne</translation>
+    </message>
+    <message>
+        <source>Z offset of the line in metres</source>
+        <translation>Décalage Z de la ligne en mètres</translation>
+    </message>
+    <message>
+        <source>Added to the elevation of every cell</source>
+        <translation>Ajouté à l&apos;altitude de chaque cellule</translation>
+    </message>
+    <message>
+        <source>X is the distance along the line</source>
+        <translation>X est la distance le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Takes the grid&apos;s offset off; X is the grid&apos;s own abscissa else</source>
+        <translation>Retire le décalage de la grille&#xa0;; sinon X est l&apos;abscisse propre à la grille</translation>
+    </message>
+    <message>
+        <source>The Y coordinate is not a number.</source>
+        <translation>La coordonnée Y n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>The Z offset is not a number.</source>
+        <translation>Le décalage Z n&apos;est pas un nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureWords</name>
+    <message>
+        <source>Contours</source>
+        <translation>Isolignes</translation>
+    </message>
+    <message>
+        <source>Vertical gradient of velocity</source>
+        <translation>Gradient vertical de vitesse</translation>
+    </message>
+    <message>
+        <source>Laplacian of velocity</source>
+        <translation>Laplacien de la vitesse</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densité d&apos;information</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>1 trace</source>
+        <translation>1 trace</translation>
+    </message>
+    <message>
+        <source>%1 traces</source>
+        <translation>%1 traces</translation>
+    </message>
+    <message>
+        <source>1 pick</source>
+        <translation>1 pointé</translation>
+    </message>
+    <message>
+        <source>%1 picks</source>
+        <translation>%1 pointés</translation>
+    </message>
+    <message>
+        <source>1 shot</source>
+        <translation>1 tir</translation>
+    </message>
+    <message>
+        <source>%1 shots</source>
+        <translation>%1 tirs</translation>
+    </message>
+    <message>
+        <source>1 computed time</source>
+        <translation>1 temps calculé</translation>
+    </message>
+    <message>
+        <source>%1 computed times</source>
+        <translation>%1 temps calculés</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 %</source>
+        <translation>Écart quadratique moyen %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>quantity, least and greatest value with its unit</comment>
+        <translation>%1 de %2 à %3</translation>
+    </message>
+    <message>
+        <source>Contours every %1</source>
+        <translation>Isolignes tous les %1</translation>
+    </message>
+    <message>
+        <source>1 ray</source>
+        <translation>1 rai</translation>
+    </message>
+    <message>
+        <source>%1 rays</source>
+        <translation>%1 rais</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration %1</source>
+        <translation>Exagération verticale %1</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distance [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Altitude [m]</translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation>Temps [ms]</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>First breaks</source>
+        <translation>Premières arrivées</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>Tir %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tir %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m</source>
+        <comment>shot, place</comment>
+        <translation>%1 à %2 m</translation>
+    </message>
+    <message>
+        <source>%1, filtered</source>
+        <comment>traces</comment>
+        <translation>%1, filtrées</translation>
+    </message>
+    <message>
+        <source>%1, some filtered</source>
+        <comment>traces</comment>
+        <translation>%1, certaines filtrées</translation>
+    </message>
+    <message>
+        <source>One of every %1 is drawn</source>
+        <translation>Une sur %1 est dessinée</translation>
+    </message>
+    <message>
+        <source>%1 without samples or sample interval</source>
+        <translation>%1 sans échantillons ou sans pas d&apos;échantillonnage</translation>
+    </message>
+    <message>
+        <source>Each trace to its own maximum, gain %1</source>
+        <translation>Chaque trace à son propre maximum, gain %1</translation>
+    </message>
+    <message>
+        <source>All traces to one maximum, gain %1</source>
+        <translation>Toutes les traces au même maximum, gain %1</translation>
+    </message>
+    <message>
+        <source>no picks</source>
+        <translation>aucun pointé</translation>
+    </message>
+    <message>
+        <source>%1 outside the times shown</source>
+        <comment>picks</comment>
+        <translation>%1 hors des temps affichés</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Rais</translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Limite de couverture</translation>
+    </message>
+    <message>
+        <source>Travel times</source>
+        <translation>Temps de parcours</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Mesurés</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calculés</translation>
+    </message>
+    <message>
+        <source>Refraction Profile</source>
+        <translation>Profil de réfraction</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Z (m)</source>
+        <translation>Z (m)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Couche %1</translation>
+    </message>
+    <message>
+        <source>Velocities of refractors: median</source>
+        <translation>Vitesses des réfracteurs&#xa0;: médiane</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Itération externe</translation>
+    </message>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>Écart quadratique moyen [ms]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Déport [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [ms]</source>
+        <translation>Calculés moins mesurés [ms]</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeometryTable</name>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1.</source>
+        <translation>Rien n&apos;a été collé&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows do not fit from row %2 on, of %3.</source>
+        <translation>Rien n&apos;a été collé&#xa0;: %1 lignes ne tiennent pas à partir de la ligne %2, sur %3.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 columns do not fit from column &quot;%2&quot; on.</source>
+        <translation>Rien n&apos;a été collé&#xa0;: %1 colonnes ne tiennent pas à partir de la colonne «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1</source>
+        <translation>Rien n&apos;a été collé&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeometryTexts</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 without a position.</source>
+        <translation>
+            <numerusform>Dispositif %1&#xa0;: le géophone %2 est sans position.</numerusform>
+            <numerusform>Dispositif %1&#xa0;: les géophones %2 sont sans position.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>String %1: geophones %2 stand at one place.</source>
+        <translation>Dispositif %1&#xa0;: les géophones %2 sont au même endroit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 against the direction of the string.</source>
+        <translation>
+            <numerusform>Dispositif %1&#xa0;: le géophone %2 va à l&apos;encontre du sens du dispositif.</numerusform>
+            <numerusform>Dispositif %1&#xa0;: les géophones %2 vont à l&apos;encontre du sens du dispositif.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1: geophone(s) %2 not at the elevation that string %3 has there.</source>
+        <translation>
+            <numerusform>Dispositif %1&#xa0;: le géophone %2 n&apos;est pas à l&apos;altitude que le dispositif %3 a à cet endroit.</numerusform>
+            <numerusform>Dispositif %1&#xa0;: les géophones %2 ne sont pas à l&apos;altitude que le dispositif %3 a à ces endroits.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a position.</source>
+        <translation>
+            <numerusform>Le tir %1 est sans position.</numerusform>
+            <numerusform>Les tirs %1 sont sans position.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string.</source>
+        <translation>
+            <numerusform>Le tir %1 est sans dispositif de géophones.</numerusform>
+            <numerusform>Les tirs %1 sont sans dispositif de géophones.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not an S-wave pair, as others are: a survey holds one kind of wave.</source>
+        <translation>
+            <numerusform>Le tir %1 n&apos;est pas une paire d&apos;ondes S comme d&apos;autres&#xa0;: un levé contient un seul type d&apos;onde.</numerusform>
+            <numerusform>Les tirs %1 ne sont pas des paires d&apos;ondes S comme d&apos;autres&#xa0;: un levé contient un seul type d&apos;onde.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 farther off the line than the line is long.</source>
+        <translation>
+            <numerusform>Le tir %1 est éloigné de la ligne de plus que sa longueur.</numerusform>
+            <numerusform>Les tirs %1 sont éloignés de la ligne de plus que sa longueur.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 far above or below the line.</source>
+        <translation>
+            <numerusform>Le tir %1 est loin au-dessus ou au-dessous de la ligne.</numerusform>
+            <numerusform>Les tirs %1 sont loin au-dessus ou au-dessous de la ligne.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>String %1 has %2 geophones, shot(s) %3 %4 traces: the first %5 of both are used.</source>
+        <translation>
+            <numerusform>Le dispositif %1 a %2 géophones, le tir %3 a %4 traces&#xa0;: les %5 premiers sont utilisés.</numerusform>
+            <numerusform>Le dispositif %1 a %2 géophones, les tirs %3 ont %4 traces&#xa0;: les %5 premiers sont utilisés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>String %1 has no geophones.</source>
+        <translation>Le dispositif %1 n&apos;a pas de géophones.</translation>
+    </message>
+    <message>
+        <source>No shot uses string %1; its positions shape the surface all the same.</source>
+        <translation>Aucun tir n&apos;utilise le dispositif %1&#xa0;; ses positions façonnent néanmoins la surface.</translation>
+    </message>
+    <message>
+        <source>Shot ID &lt;b&gt;</source>
+        <translation>N° de tir &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;/b&gt;&lt;br&gt;Geophone geometry ID: &lt;b&gt;</source>
+        <translation>&lt;/b&gt;&lt;br&gt;N° de géométrie des géophones&#xa0;: &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;/b&gt; Shot position: &lt;b&gt;</source>
+        <translation>&lt;/b&gt; Position du tir&#xa0;: &lt;b&gt;</translation>
+    </message>
+    <message>
+        <source> m&lt;/b&gt;</source>
+        <translation> m&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>File name &lt;b&gt;</source>
+        <translation>Nom du fichier &lt;b&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GeophoneTable</name>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Altitude (m)</translation>
+    </message>
+    <message>
+        <source>%1 m is too far away.</source>
+        <translation>%1 m est trop loin.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ImagesDialog</name>
+    <message>
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Pictures of</source>
+        <translation>Images de</translation>
+    </message>
+    <message>
+        <source>Traces of the current shot</source>
+        <translation>Traces du tir courant</translation>
+    </message>
+    <message>
+        <source>Traces of all shots</source>
+        <translation>Traces de tous les tirs</translation>
+    </message>
+    <message>
+        <source>A picture for every shot</source>
+        <translation>Une image par tir</translation>
+    </message>
+    <message>
+        <source>Filtered traces</source>
+        <translation>Traces filtrées</translation>
+    </message>
+    <message>
+        <source>The filtered copy of the traces, where there is one</source>
+        <translation>La copie filtrée des traces, là où il y en a une</translation>
+    </message>
+    <message>
+        <source>Travel time curves</source>
+        <translation>Dromochroniques</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Coupe de vitesse</translation>
+    </message>
+    <message>
+        <source>Palette, contours, rays and geophones as the section view shows them</source>
+        <translation>Palette, isolignes, rais et géophones comme la vue de la coupe les montre</translation>
+    </message>
+    <message>
+        <source>Vertical gradient</source>
+        <translation>Gradient vertical</translation>
+    </message>
+    <message>
+        <source>Laplacian</source>
+        <translation>Laplacien</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densité d&apos;information</translation>
+    </message>
+    <message>
+        <source>Sections as cells</source>
+        <translation>Coupes en cellules</translation>
+    </message>
+    <message>
+        <source>In bands where contours are filled</source>
+        <translation>En bandes là où les isolignes sont remplies</translation>
+    </message>
+    <message>
+        <source>Sections smooth</source>
+        <translation>Coupes lissées</translation>
+    </message>
+    <message>
+        <source>Blended from cell to cell, in pictures of their own</source>
+        <translation>Fondues de cellule en cellule, dans des images à part</translation>
+    </message>
+    <message>
+        <source>Refraction profile</source>
+        <translation>Profil de réfraction</translation>
+    </message>
+    <message>
+        <source>Format and size</source>
+        <translation>Format et taille</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat:</source>
+        <translation>F&amp;ormat&#xa0;:</translation>
+    </message>
+    <message>
+        <source>PNG (pixels)</source>
+        <translation>PNG (pixels)</translation>
+    </message>
+    <message>
+        <source>SVG (shapes)</source>
+        <translation>SVG (formes)</translation>
+    </message>
+    <message>
+        <source>PDF (shapes)</source>
+        <translation>PDF (formes)</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of the size:</source>
+        <translation>&amp;Unité de la taille&#xa0;:</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <translation>millimètres</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Largeur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Height as each picture asks for</source>
+        <translation>Hauteur selon chaque image</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Hauteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Résolution&#xa0;:</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> ppp</translation>
+    </message>
+    <message>
+        <source>Pixels per inch; also how large letters and lines are in a picture of so many pixels</source>
+        <translation>Pixels par pouce&#xa0;; aussi la taille des lettres et des traits dans une image de tant de pixels</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Dossier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Parcourir...</translation>
+    </message>
+    <message>
+        <source>&amp;Names begin with:</source>
+        <translation>Les &amp;noms commencent par&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Files to be &amp;written:</source>
+        <translation>Fichiers à é&amp;crire&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Folder of the pictures</source>
+        <translation>Dossier des images</translation>
+    </message>
+    <message>
+        <source>Nothing to write is chosen.</source>
+        <translation>Rien n&apos;est choisi.</translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>Ce dossier n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>The folder is not writable.</source>
+        <translation>Le dossier n&apos;est pas accessible en écriture.</translation>
+    </message>
+    <message>
+        <source>A name cannot hold a slash.</source>
+        <translation>Un nom ne peut pas contenir de barre oblique.</translation>
+    </message>
+    <message>
+        <source>%1 (exists)</source>
+        <translation>%1 (existe)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LayerCurvesPlot</name>
+    <message>
+        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
+        <translation>Tir %1, trace %2&#xa0;: %3 m, %4 ms, %5</translation>
+    </message>
+    <message>
+        <source>no layer</source>
+        <translation>aucune couche</translation>
+    </message>
+    <message>
+        <source>layer %1</source>
+        <translation>couche %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LinePlan</name>
+    <message>
+        <source>Geophones of string %1</source>
+        <translation>Géophones du dispositif %1</translation>
+    </message>
+    <message>
+        <source>Other strings</source>
+        <translation>Autres dispositifs</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>À vérifier</translation>
+    </message>
+    <message>
+        <source>x %1 m, z %2 m</source>
+        <translation>x %1 m, z %2 m</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tir %1</translation>
+    </message>
+    <message>
+        <source>String %1, geophone %2</source>
+        <translation>Dispositif %1, géophone %2</translation>
+    </message>
+    <message>
+        <source>Plan of the line</source>
+        <translation>Plan de la ligne</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>Distance (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Altitude (m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Messages</name>
+    <message>
+        <source>The document has been modified</source>
+        <translation>Le document a été modifié</translation>
+    </message>
+    <message>
+        <source>Do you want to save your changes?</source>
+        <translation>Voulez-vous enregistrer vos modifications&#xa0;?</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recover survey</source>
+        <translation>Récupérer le levé</translation>
+    </message>
+    <message>
+        <source>Talvesk was not closed properly.</source>
+        <translation>Talvesk n&apos;a pas été fermé correctement.</translation>
+    </message>
+    <message>
+        <source>Ask again later</source>
+        <translation>Redemander plus tard</translation>
+    </message>
+    <message>
+        <source>Delete it</source>
+        <translation>Supprimer la copie</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MisfitPlot</name>
+    <message>
+        <source>Misfit after every external iteration</source>
+        <translation>Écart après chaque itération externe</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Itération externe</translation>
+    </message>
+    <message>
+        <source>RMSE (ms)</source>
+        <translation>RMSE (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PaletteDialog</name>
+    <message>
+        <source>Palette Settings</source>
+        <translation>Réglages de la palette</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Palette that colours the section</source>
+        <translation>Palette qui colore la coupe</translation>
+    </message>
+    <message>
+        <source>Load palettes from files</source>
+        <translation>Charger des palettes depuis des fichiers</translation>
+    </message>
+    <message>
+        <source>Save this palette to a file</source>
+        <translation>Enregistrer cette palette dans un fichier</translation>
+    </message>
+    <message>
+        <source>Create New Palette</source>
+        <translation>Créer une palette</translation>
+    </message>
+    <message>
+        <source>Add a palette from black to white and select it</source>
+        <translation>Ajouter une palette du noir au blanc et la sélectionner</translation>
+    </message>
+    <message>
+        <source>Edit Palette</source>
+        <translation>Modifier la palette</translation>
+    </message>
+    <message>
+        <source>Edit the colours; of a built-in palette, those of a copy</source>
+        <translation>Modifier les couleurs&#xa0;; pour une palette prédéfinie, celles d&apos;une copie</translation>
+    </message>
+    <message>
+        <source>Rename Palette</source>
+        <translation>Renommer la palette</translation>
+    </message>
+    <message>
+        <source>Give the palette another name; built-in ones keep theirs</source>
+        <translation>Donner un autre nom à la palette&#xa0;; les palettes prédéfinies gardent le leur</translation>
+    </message>
+    <message>
+        <source>Delete Palette</source>
+        <translation>Supprimer la palette</translation>
+    </message>
+    <message>
+        <source>Remove the palette; built-in ones stay</source>
+        <translation>Retirer la palette&#xa0;; les palettes prédéfinies restent</translation>
+    </message>
+    <message>
+        <source>Number of colours</source>
+        <translation>Nombre de couleurs</translation>
+    </message>
+    <message>
+        <source>Into how many colours the gradient is cut</source>
+        <translation>En combien de couleurs le dégradé est découpé</translation>
+    </message>
+    <message>
+        <source>Range from Data</source>
+        <translation>Plage des données</translation>
+    </message>
+    <message>
+        <source>Lock the range</source>
+        <translation>Verrouiller la plage</translation>
+    </message>
+    <message>
+        <source>Keep minimum and maximum when another palette is chosen or another line is shown</source>
+        <translation>Conserver le minimum et le maximum lorsqu&apos;une autre palette est choisie ou qu&apos;une autre ligne est affichée</translation>
+    </message>
+    <message>
+        <source>Talvesk Palette (*.xml)</source>
+        <translation>Palette Talvesk (*.xml)</translation>
+    </message>
+    <message>
+        <source>MIN: %1, MAX: %2</source>
+        <translation>MIN&#xa0;: %1, MAX&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>New palette</source>
+        <translation>Nouvelle palette</translation>
+    </message>
+    <message>
+        <source>%1 - copy</source>
+        <translation>%1 - copie</translation>
+    </message>
+    <message>
+        <source>Save new palette as : </source>
+        <translation>Enregistrer la nouvelle palette sous&#xa0;: </translation>
+    </message>
+    <message>
+        <source>There is a palette of this name already.</source>
+        <translation>Une palette de ce nom existe déjà.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Ce nom est trop long.</translation>
+    </message>
+    <message>
+        <source>Save Palette</source>
+        <translation>Enregistrer la palette</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Remplacer le fichier&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Error while saving palette.</source>
+        <translation>Erreur lors de l&apos;enregistrement de la palette.</translation>
+    </message>
+    <message>
+        <source>Open Palette</source>
+        <translation>Ouvrir une palette</translation>
+    </message>
+    <message>
+        <source>Error while loading palette.</source>
+        <translation>Erreur lors du chargement de la palette.</translation>
+    </message>
+    <message>
+        <source>Take minimum and maximum from the velocities of the section</source>
+        <translation>Prendre le minimum et le maximum des vitesses de la coupe</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RecordingDetailsDialog</name>
+    <message>
+        <source>Recording details</source>
+        <translation>Détails de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>&amp;Shot:</source>
+        <translation>&amp;Tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Fichier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Format&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Traces&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Échantillons par trace&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Pas d&apos;échantillonnage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Record length:</source>
+        <translation>Durée d&apos;enregistrement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Délai d&apos;enregistrement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Samples dropped before the shot:</source>
+        <translation>Échantillons retirés avant le tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Traces du tir</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Geophone x (m)</source>
+        <translation>x géophone (m)</translation>
+    </message>
+    <message>
+        <source>Geophone z (m)</source>
+        <translation>z géophone (m)</translation>
+    </message>
+    <message>
+        <source>Shot x (m)</source>
+        <translation>x tir (m)</translation>
+    </message>
+    <message>
+        <source>Shot z (m)</source>
+        <translation>z tir (m)</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Échantillons</translation>
+    </message>
+    <message>
+        <source>Interval (ms)</source>
+        <translation>Pas (ms)</translation>
+    </message>
+    <message>
+        <source>Delay (ms)</source>
+        <translation>Délai (ms)</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings of the reader:</source>
+        <translation>&amp;Avertissements du lecteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RecoveryCopy</name>
+    <message>
+        <source>Nothing can be written in %1</source>
+        <translation>Impossible d&apos;écrire dans %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionProcessingDialog</name>
+    <message>
+        <source>Refraction processing</source>
+        <translation>Traitement en réfraction</translation>
+    </message>
+    <message>
+        <source>T-x curves</source>
+        <translation>Courbes T-x</translation>
+    </message>
+    <message>
+        <source>Select layer:</source>
+        <translation>Choix de la couche&#xa0;:</translation>
+    </message>
+    <message>
+        <source>0 none</source>
+        <translation>0 aucune</translation>
+    </message>
+    <message>
+        <source>1 direct wave</source>
+        <translation>1 onde directe</translation>
+    </message>
+    <message>
+        <source>2 first refractor</source>
+        <translation>2 premier réfracteur</translation>
+    </message>
+    <message>
+        <source>3 second refractor</source>
+        <translation>3 second réfracteur</translation>
+    </message>
+    <message>
+        <source>Show layer:</source>
+        <translation>Afficher la couche&#xa0;:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Modifiable</translation>
+    </message>
+    <message>
+        <source>Let clicks and drags mark picks</source>
+        <translation>Les clics et les glissements attribuent les pointés</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Défaire</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refaire</translation>
+    </message>
+    <message>
+        <source>Propose layers</source>
+        <translation>Proposer les couches</translation>
+    </message>
+    <message>
+        <source>Find the break points of all branches</source>
+        <translation>Trouver les points de brisure de toutes les branches</translation>
+    </message>
+    <message>
+        <source>Clear marks</source>
+        <translation>Effacer les attributions</translation>
+    </message>
+    <message>
+        <source>Shot:</source>
+        <translation>Tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Takes part</source>
+        <translation>Participe</translation>
+    </message>
+    <message>
+        <source>Whether the chosen shot takes part in the interpretation</source>
+        <translation>Si le tir choisi participe à l&apos;interprétation</translation>
+    </message>
+    <message>
+        <source>Phantoming</source>
+        <translation>Phantoming</translation>
+    </message>
+    <message>
+        <source>Auto phantoming</source>
+        <translation>Phantoming automatique</translation>
+    </message>
+    <message>
+        <source>Complete the curves of the end shots by the arrivals of the other shots</source>
+        <translation>Compléter les courbes des tirs d&apos;extrémité par les arrivées des autres tirs</translation>
+    </message>
+    <message>
+        <source>Time shifts</source>
+        <translation>Décalages temporels</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>Récepteurs</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Pointés</translation>
+    </message>
+    <message>
+        <source>Shift (ms)</source>
+        <translation>Décalage (ms)</translation>
+    </message>
+    <message>
+        <source>tV/tG</source>
+        <translation>tV/tG</translation>
+    </message>
+    <message>
+        <source>Refractor:</source>
+        <translation>Réfracteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>XY (m):</source>
+        <translation>XY (m)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Velocity/Profile</source>
+        <translation>Vitesse/Profil</translation>
+    </message>
+    <message>
+        <source>Build profiles</source>
+        <translation>Construire les profils</translation>
+    </message>
+    <message>
+        <source>Curves, tV and tG, velocities and depths from the marks</source>
+        <translation>Courbes, tV et tG, vitesses et profondeurs d&apos;après les attributions</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>time (ms)</source>
+        <translation>temps (ms)</translation>
+    </message>
+    <message>
+        <source>There are no picks to assign to layers: pick first breaks, or import travel times.</source>
+        <translation>Il n&apos;y a aucun pointé à attribuer aux couches&#xa0;: pointez les premières arrivées ou importez des temps de parcours.</translation>
+    </message>
+    <message>
+        <source>Phantom travel times</source>
+        <translation>Temps de parcours fantômes</translation>
+    </message>
+    <message>
+        <source>No curves yet.
+
+Assign picks to layer 2 for a shot at either end of the line, then press &quot;Auto phantoming&quot; or &quot;Build profiles&quot;.</source>
+        <translation>Aucune courbe pour l&apos;instant.
+
+Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la ligne, puis cliquez sur «&#xa0;Phantoming automatique&#xa0;» ou «&#xa0;Construire les profils&#xa0;».</translation>
+    </message>
+    <message>
+        <source>tV, velocity analysis</source>
+        <translation>tV, analyse de vitesse</translation>
+    </message>
+    <message>
+        <source>tG, time depth</source>
+        <translation>tG, profondeur-temps</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Velocity (m/s)</source>
+        <translation>Vitesse (m/s)</translation>
+    </message>
+    <message>
+        <source>Refraction Profile</source>
+        <translation>Profil de réfraction</translation>
+    </message>
+    <message>
+        <source>Z (m)</source>
+        <translation>Z (m)</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet: assign picks to layers and press &quot;Build profiles&quot;.</source>
+        <translation>Rien n&apos;est encore construit&#xa0;: attribuez des pointés aux couches et cliquez sur «&#xa0;Construire les profils&#xa0;».</translation>
+    </message>
+    <message>
+        <source>There is no depth to show. Layer 1 needs a branch with two picks, and each refractor has to be faster than the layer above.</source>
+        <translation>Il n&apos;y a aucune profondeur à afficher. La couche 1 a besoin d&apos;une branche avec deux pointés, et chaque réfracteur doit être plus rapide que la couche au-dessus.</translation>
+    </message>
+    <message>
+        <source>All shots</source>
+        <translation>Tous les tirs</translation>
+    </message>
+    <message>
+        <source>%1: at %2 m</source>
+        <comment>shot number, place</comment>
+        <translation>%1&#xa0;: à %2 m</translation>
+    </message>
+    <message numerus="yes">
+        <source>take %n pick(s) out</source>
+        <translation>
+            <numerusform>retirer %n pointé</numerusform>
+            <numerusform>retirer %n pointés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>mark %n pick(s)</source>
+        <translation>
+            <numerusform>attribuer %n pointé</numerusform>
+            <numerusform>attribuer %n pointés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The marks have changed since the profiles were built.</source>
+        <translation>Les attributions ont changé depuis la construction des profils.</translation>
+    </message>
+    <message>
+        <source>Click a pick, or drag around several, to assign them. Keys 1, 2, 3 and 0: layer</source>
+        <translation>Cliquez sur un pointé, ou encadrez-en plusieurs, pour les attribuer. Touches 1, 2, 3 et 0&#xa0;: couche</translation>
+    </message>
+    <message>
+        <source>right of shot %1</source>
+        <translation>à droite du tir %1</translation>
+    </message>
+    <message>
+        <source>left of shot %1</source>
+        <translation>à gauche du tir %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>no velocity</source>
+        <translation>aucune vitesse</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 (%4 picks)</source>
+        <translation>Couche %1, %2&#xa0;: %3 (%4 pointés)</translation>
+    </message>
+    <message>
+        <source>Replace the marks by a proposal?</source>
+        <translation>Remplacer les attributions par une proposition&#xa0;?</translation>
+    </message>
+    <message>
+        <source>All picks are assigned anew from the break points of the branches. Undo brings the marks back.</source>
+        <translation>Tous les pointés sont réattribués d&apos;après les points de brisure des branches. «&#xa0;Défaire&#xa0;» rétablit les attributions.</translation>
+    </message>
+    <message>
+        <source>No branch of the curves has picks enough to tell layers apart.</source>
+        <translation>Aucune branche des courbes n&apos;a assez de pointés pour distinguer les couches.</translation>
+    </message>
+    <message>
+        <source>propose layers</source>
+        <translation>proposer les couches</translation>
+    </message>
+    <message>
+        <source>clear marks</source>
+        <translation>effacer les attributions</translation>
+    </message>
+    <message>
+        <source>let shot %1 take part</source>
+        <translation>faire participer le tir %1</translation>
+    </message>
+    <message>
+        <source>leave shot %1 out</source>
+        <translation>écarter le tir %1</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>No profile could be built.</source>
+        <translation>Aucun profil n&apos;a pu être construit.</translation>
+    </message>
+    <message>
+        <source>first (layer 2)</source>
+        <translation>premier (couche 2)</translation>
+    </message>
+    <message>
+        <source>second (layer 3)</source>
+        <translation>second (couche 3)</translation>
+    </message>
+    <message>
+        <source>Layer %1 from shot %2</source>
+        <translation>Couche %1 depuis le tir %2</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>vers la droite</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>vers la gauche</translation>
+    </message>
+    <message>
+        <source>other XY</source>
+        <translation>autres XY</translation>
+    </message>
+    <message>
+        <source>XY = %1 m</source>
+        <translation>XY = %1 m</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Couche %1</translation>
+    </message>
+    <message>
+        <source>Close without keeping the changes?</source>
+        <translation>Fermer sans conserver les modifications&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionProfilePlot</name>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Couche %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Couche %1</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionTexts</name>
+    <message>
+        <source>Unable to find nearest shot for first refractor</source>
+        <translation>Impossible de trouver le tir le plus proche pour le premier réfracteur</translation>
+    </message>
+    <message>
+        <source>Velocity is less then zero at least one receiver. The profile may not be accurate. Please check input data </source>
+        <translation>La vitesse est négative à au moins un récepteur. Le profil peut être imprécis. Vérifiez les données d&apos;entrée </translation>
+    </message>
+    <message>
+        <source>Strong lateral velocity variations. The profile may not be accurate.</source>
+        <translation>Fortes variations latérales de vitesse. Le profil peut être imprécis.</translation>
+    </message>
+    <message>
+        <source>The Tg function is less then zero at least one receiver. The profile may not be accurate. Please check input data </source>
+        <translation>La fonction Tg est négative à au moins un récepteur. Le profil peut être imprécis. Vérifiez les données d&apos;entrée </translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot at each end of the line has picks of it, so it has no profile.</source>
+        <translation>Couche %1&#xa0;: il n&apos;y a pas à chaque extrémité de la ligne un tir ayant des pointés dans cette couche&#xa0;; elle n&apos;a donc pas de profil.</translation>
+    </message>
+    <message>
+        <source>Layer %1: the shot at the start of the line has fewer than two usable picks of it, so there is no forward curve.</source>
+        <translation>Couche %1&#xa0;: le tir au début de la ligne a moins de deux pointés utilisables dans cette couche&#xa0;; il n&apos;y a donc pas de courbe directe.</translation>
+    </message>
+    <message>
+        <source>Layer %1: the shot at the end of the line has fewer than two usable picks of it, so there is no reverse curve.</source>
+        <translation>Couche %1&#xa0;: le tir à la fin de la ligne a moins de deux pointés utilisables dans cette couche&#xa0;; il n&apos;y a donc pas de courbe inverse.</translation>
+    </message>
+    <message>
+        <source>Layer %1: forward and reverse curve have fewer than two receivers in common.</source>
+        <translation>Couche %1&#xa0;: les courbes directe et inverse ont moins de deux récepteurs en commun.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
+        <translation>Couche %1&#xa0;: aucun tir n&apos;a deux pointés dans cette couche d&apos;un même côté&#xa0;; elle n&apos;a donc pas de vitesse et les couches inférieures n&apos;ont pas de profondeur.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer above.</source>
+        <translation>Couche %1&#xa0;: aucune profondeur à %2 des %3 récepteurs, où elle n&apos;est pas plus rapide que la couche au-dessus.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the layer above.</source>
+        <translation>Couche %1&#xa0;: aucune profondeur à %2 des %3 récepteurs, situés au-delà du profil de la couche au-dessus.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Report</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Table %1. %2</source>
+        <translation>Tableau %1. %2</translation>
+    </message>
+    <message>
+        <source>Figure %1. %2</source>
+        <translation>Figure %1. %2</translation>
+    </message>
+    <message>
+        <source>Seismic refraction survey</source>
+        <translation>Levé de sismique réfraction</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>Position [m]</source>
+        <translation>Position [m]</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Traces</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Pointés</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [%]</source>
+        <translation>RMS [%]</translation>
+    </message>
+    <message>
+        <source>Mean [ms]</source>
+        <translation>Moyenne [ms]</translation>
+    </message>
+    <message>
+        <source>Largest [ms]</source>
+        <translation>Maximum [ms]</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Linear weighted</source>
+        <translation>Pondéré linéairement</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted</source>
+        <translation>Pondéré par une gaussienne</translation>
+    </message>
+    <message>
+        <source>Ray based</source>
+        <translation>Basé sur les rais</translation>
+    </message>
+    <message>
+        <source>Uniform weighted</source>
+        <translation>À poids uniformes</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Cellules</translation>
+    </message>
+    <message>
+        <source>%1 rows by %2 columns</source>
+        <translation>%1 lignes sur %2 colonnes</translation>
+    </message>
+    <message>
+        <source>Side of a cell</source>
+        <translation>Côté d&apos;une cellule</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>Depth below the surface</source>
+        <translation>Profondeur sous la surface</translation>
+    </message>
+    <message>
+        <source>Nodes per cell side</source>
+        <translation>Nœuds par côté de cellule</translation>
+    </message>
+    <message>
+        <source>Nodes altogether</source>
+        <translation>Nœuds au total</translation>
+    </message>
+    <message>
+        <source>The grid under the line</source>
+        <translation>La grille sous la ligne</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Toit [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Base [m]</translation>
+    </message>
+    <message>
+        <source>Velocity at top [m/s]</source>
+        <translation>Vitesse au toit [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity at bottom [m/s]</source>
+        <translation>Vitesse à la base [m/s]</translation>
+    </message>
+    <message>
+        <source>The layers of the starting model, depths below the surface</source>
+        <translation>Les couches du modèle initial, profondeurs sous la surface</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1, stopped by the user</source>
+        <translation>%1, arrêt par l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>External iterations</source>
+        <translation>Itérations externes</translation>
+    </message>
+    <message>
+        <source>Solver iterations on the rays of each</source>
+        <translation>Itérations du solveur sur les rais de chacune</translation>
+    </message>
+    <message>
+        <source>Velocity limits</source>
+        <translation>Limites de vitesse</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>Lissage</translation>
+    </message>
+    <message>
+        <source>Smoothing radius</source>
+        <translation>Rayon de lissage</translation>
+    </message>
+    <message>
+        <source>1 cell</source>
+        <translation>1 cellule</translation>
+    </message>
+    <message>
+        <source>%1 cells</source>
+        <translation>%1 cellules</translation>
+    </message>
+    <message>
+        <source>Height over width of the smoothing window</source>
+        <translation>Hauteur sur largeur de la fenêtre de lissage</translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation>Temps écoulé</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Parameters of the inversion</source>
+        <translation>Paramètres de l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>External iteration</source>
+        <translation>Itération externe</translation>
+    </message>
+    <message>
+        <source>Largest late error [ms]</source>
+        <translation>Plus grand retard [ms]</translation>
+    </message>
+    <message>
+        <source>Largest late error [%]</source>
+        <translation>Plus grand retard [%]</translation>
+    </message>
+    <message>
+        <source>Misfit after every external iteration</source>
+        <translation>Écart après chaque itération externe</translation>
+    </message>
+    <message>
+        <source>Travel times</source>
+        <translation>Temps de parcours</translation>
+    </message>
+    <message>
+        <source>No first breaks have been picked.</source>
+        <translation>Aucune première arrivée n&apos;a été pointée.</translation>
+    </message>
+    <message>
+        <source>Travel-time curves: picked first breaks against distance</source>
+        <translation>Dromochroniques&#xa0;: premières arrivées pointées en fonction de la distance</translation>
+    </message>
+    <message>
+        <source>Travel-time curves: picked first breaks (symbols) and times computed through the section (lines) against distance</source>
+        <translation>Dromochroniques&#xa0;: premières arrivées pointées (symboles) et temps calculés à travers la coupe (lignes) en fonction de la distance</translation>
+    </message>
+    <message>
+        <source>Picks of every shot</source>
+        <translation>Pointés de chaque tir</translation>
+    </message>
+    <message>
+        <source>Picks of every shot and their misfit, computed minus measured</source>
+        <translation>Pointés de chaque tir et leur écart, calculés moins mesurés</translation>
+    </message>
+    <message>
+        <source>Grid and inversion</source>
+        <translation>Grille et inversion</translation>
+    </message>
+    <message>
+        <source>No grid has been built and nothing has been inverted.</source>
+        <translation>Aucune grille n&apos;a été construite et rien n&apos;a été inversé.</translation>
+    </message>
+    <message>
+        <source>Nothing has been inverted: the grid holds its starting model.</source>
+        <translation>Rien n&apos;a été inversé&#xa0;: la grille contient son modèle initial.</translation>
+    </message>
+    <message>
+        <source>The parameters of the inversion are not known.</source>
+        <translation>Les paramètres de l&apos;inversion ne sont pas connus.</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Coupe de vitesse</translation>
+    </message>
+    <message>
+        <source>Velocity of the starting model</source>
+        <translation>Vitesse du modèle initial</translation>
+    </message>
+    <message>
+        <source>Velocity section with the rays of the last iteration</source>
+        <translation>Coupe de vitesse avec les rais de la dernière itération</translation>
+    </message>
+    <message>
+        <source>Misfit</source>
+        <translation>Écart</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Pointés utilisés</translation>
+    </message>
+    <message>
+        <source>RMS misfit</source>
+        <translation>Écart quadratique moyen</translation>
+    </message>
+    <message>
+        <source>%1 ms, %2 %</source>
+        <translation>%1 ms, %2&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Largest late error</source>
+        <translation>Plus grand retard</translation>
+    </message>
+    <message>
+        <source>Shots and receivers left out, beyond the grid</source>
+        <translation>Tirs et récepteurs écartés, au-delà de la grille</translation>
+    </message>
+    <message>
+        <source>Misfit of the section</source>
+        <translation>Écart de la coupe</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks against the distance from their shot</source>
+        <translation>Résidus des pointés en fonction de la distance à leur tir</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Altitude [m]</translation>
+    </message>
+    <message>
+        <source>Depth %1 [m]</source>
+        <translation>Profondeur %1 [m]</translation>
+    </message>
+    <message>
+        <source>Velocity %1 [m/s]</source>
+        <translation>Vitesse %1 [m/s]</translation>
+    </message>
+    <message>
+        <source>Refraction interpretation</source>
+        <translation>Interprétation en réfraction</translation>
+    </message>
+    <message>
+        <source>Velocity of the first layer</source>
+        <translation>Vitesse de la première couche</translation>
+    </message>
+    <message>
+        <source>Velocity of refractor %1</source>
+        <translation>Vitesse du réfracteur %1</translation>
+    </message>
+    <message>
+        <source>Distance XY of refractor %1</source>
+        <translation>Distance XY du réfracteur %1</translation>
+    </message>
+    <message>
+        <source>Layers and refractors</source>
+        <translation>Couches et réfracteurs</translation>
+    </message>
+    <message>
+        <source>Section of the layers</source>
+        <translation>Coupe des couches</translation>
+    </message>
+    <message>
+        <source>Depths below the surface and velocities of the refractors</source>
+        <translation>Profondeurs sous la surface et vitesses des réfracteurs</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Méthode</translation>
+    </message>
+    <message>
+        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces and inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
+        <translation>Les premières arrivées sont les instants auxquels la première énergie sismique d&apos;un tir atteint chaque géophone. Elles ont été pointées sur les traces enregistrées et inversées par tomographie des temps de parcours. Le terrain sous la ligne est divisé en cellules carrées de vitesse constante, qui suivent la surface. Depuis chaque tir, les chemins les plus rapides vers tous les géophones sont recherchés dans le réseau des nœuds placés sur les côtés des cellules&#xa0;: ce sont les rais. Les différences entre temps mesurés et calculés sont réparties le long des rais et corrigent la lenteur des cellules qu&apos;ils traversent, plusieurs fois sur les mêmes rais et dans les limites de vitesse. La coupe corrigée est lissée et de nouveaux rais y sont tracés&#xa0;: c&apos;est une itération externe.</translation>
+    </message>
+    <message>
+        <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
+        <translation>Les réfracteurs ont été interprétés par la méthode réciproque généralisée. Les premières arrivées ont été attribuées aux couches, et les arrivées de chaque réfracteur depuis les deux extrémités de la ligne ont été complétées par les arrivées décalées des autres tirs. La fonction d&apos;analyse de vitesse donne la vitesse du réfracteur, la fonction profondeur-temps sa profondeur sous chaque géophone.</translation>
+    </message>
+    <message>
+        <source>Waves</source>
+        <translation>Ondes</translation>
+    </message>
+    <message>
+        <source>S waves</source>
+        <translation>Ondes S</translation>
+    </message>
+    <message>
+        <source>P waves</source>
+        <translation>Ondes P</translation>
+    </message>
+    <message>
+        <source>Geophones from, to</source>
+        <translation>Géophones de, à</translation>
+    </message>
+    <message>
+        <source>Length of the line</source>
+        <translation>Longueur de la ligne</translation>
+    </message>
+    <message>
+        <source>Elevation of the geophones</source>
+        <translation>Altitude des géophones</translation>
+    </message>
+    <message>
+        <source>Shots from, to</source>
+        <translation>Tirs de, à</translation>
+    </message>
+    <message>
+        <source>Geophone strings</source>
+        <translation>Dispositifs de géophones</translation>
+    </message>
+    <message>
+        <source>Geophone positions</source>
+        <translation>Positions de géophones</translation>
+    </message>
+    <message>
+        <source>Number of shots</source>
+        <translation>Nombre de tirs</translation>
+    </message>
+    <message>
+        <source>The line</source>
+        <translation>La ligne</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>Disp.</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>From [m]</source>
+        <translation>De [m]</translation>
+    </message>
+    <message>
+        <source>To [m]</source>
+        <translation>À [m]</translation>
+    </message>
+    <message>
+        <source>Spacing [m]</source>
+        <translation>Espacement [m]</translation>
+    </message>
+    <message>
+        <source>Strings of geophones</source>
+        <translation>Dispositifs de géophones</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Interval [ms]</source>
+        <translation>Pas [ms]</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Échantillons</translation>
+    </message>
+    <message>
+        <source>Length [ms]</source>
+        <translation>Durée [ms]</translation>
+    </message>
+    <message>
+        <source>Shots and their recordings</source>
+        <translation>Les tirs et leurs enregistrements</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>Levé</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>End of the line</source>
+        <translation>Extrémité de la ligne</translation>
+    </message>
+    <message>
+        <source>Easting [m]</source>
+        <translation>Est [m]</translation>
+    </message>
+    <message>
+        <source>Northing [m]</source>
+        <translation>Nord [m]</translation>
+    </message>
+    <message>
+        <source>Longitude [°]</source>
+        <translation>Longitude [°]</translation>
+    </message>
+    <message>
+        <source>Latitude [°]</source>
+        <translation>Latitude [°]</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Premier géophone</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Dernier géophone</translation>
+    </message>
+    <message>
+        <source>The coordinate reference system of the line is not set.</source>
+        <translation>Le système de coordonnées de référence de la ligne n&apos;est pas défini.</translation>
+    </message>
+    <message>
+        <source>Coordinate reference system: EPSG:%1.</source>
+        <translation>Système de coordonnées de référence&#xa0;: EPSG:%1.</translation>
+    </message>
+    <message>
+        <source>Coordinate reference system: EPSG:%1, %2.</source>
+        <translation>Système de coordonnées de référence&#xa0;: EPSG:%1, %2.</translation>
+    </message>
+    <message>
+        <source>Ends of the line; longitude and latitude on WGS 84</source>
+        <translation>Extrémités de la ligne&#xa0;; longitude et latitude en WGS 84</translation>
+    </message>
+    <message>
+        <source>Ends of the line</source>
+        <translation>Extrémités de la ligne</translation>
+    </message>
+    <message>
+        <source>Information density: how completely rays cross the surroundings of each cell</source>
+        <translation>Densité d&apos;information : à quel point les rais traversent les environs de chaque cellule</translation>
+    </message>
+    <message>
+        <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
+        <translation>L&apos;écart est la différence entre temps calculés et mesurés. Les temps calculés sont ceux le long des rais de la dernière itération, avant sa dernière correction et son lissage, ou à travers la coupe telle qu&apos;elle est dessinée si le projet a été rouvert. Le RMS est la moyenne quadratique de l&apos;écart, en millisecondes ou en pourcentage des temps mesurés. La densité d&apos;information dit à quel point les rais traversent les environs d&apos;une cellule ; là où elle est faible, les vitesses sont peu étayées par les données, et sous les rais les plus profonds la coupe n&apos;est pas dessinée. Des vitesses qui diminuent avec la profondeur et des couches minces peuvent rester cachées aux premières arrivées.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReportDialog</name>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Title page</source>
+        <translation>Page de titre</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Client:</source>
+        <translation>&amp;Client&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Site:</source>
+        <translation>&amp;Site&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Author:</source>
+        <translation>&amp;Auteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>As it is to be read</source>
+        <translation>Telle qu&apos;elle doit se lire</translation>
+    </message>
+    <message>
+        <source>&amp;Notes:</source>
+        <translation>&amp;Notes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Parties</translation>
+    </message>
+    <message>
+        <source>Survey: line, geophones, shots, files</source>
+        <translation>Levé&#xa0;: ligne, géophones, tirs, fichiers</translation>
+    </message>
+    <message>
+        <source>Position on the globe</source>
+        <translation>Position sur le globe</translation>
+    </message>
+    <message>
+        <source>Travel times and the misfit of every shot</source>
+        <translation>Temps de parcours et écart de chaque tir</translation>
+    </message>
+    <message>
+        <source>Grid and parameters of the inversion</source>
+        <translation>Grille et paramètres de l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Coupe de vitesse</translation>
+    </message>
+    <message>
+        <source>Rays over the section</source>
+        <translation>Rais sur la coupe</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densité d&apos;information</translation>
+    </message>
+    <message>
+        <source>Misfit and its history</source>
+        <translation>Écart et son évolution</translation>
+    </message>
+    <message>
+        <source>Refraction interpretation</source>
+        <translation>Interprétation de la réfraction</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Méthode</translation>
+    </message>
+    <message>
+        <source>Pa&amp;per:</source>
+        <translation>Pa&amp;pier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Lettre US</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>Ap&amp;erçu</translation>
+    </message>
+    <message>
+        <source>Puts the report together and shows its pages</source>
+        <translation>Compose le rapport et montre ses pages</translation>
+    </message>
+    <message>
+        <source>Pages of the report</source>
+        <translation>Pages du rapport</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ScreenshotDialog</name>
+    <message>
+        <source>Screenshot</source>
+        <translation>Capture d&apos;écran</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Taille&#xa0;:</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality:</source>
+        <translation>&amp;Qualité JPEG&#xa0;:</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>&#xa0;%</translation>
+    </message>
+    <message>
+        <source>%1 times the view: %2 x %3 pixels</source>
+        <translation>%1 fois la vue&#xa0;: %2 x %3 pixels</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SectionSheet</name>
+    <message>
+        <source>Vertical gradient of velocity [1/s]</source>
+        <translation>Gradient vertical de vitesse [1/s]</translation>
+    </message>
+    <message>
+        <source>Laplacian of velocity [1/(m·s)]</source>
+        <translation>Laplacien de la vitesse [1/(m·s)]</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation>Densité d&apos;information</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>Contours</source>
+        <translation>Isolignes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ray(s)</source>
+        <translation>
+            <numerusform>%n rai</numerusform>
+            <numerusform>%n rais</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Limite de couverture</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distance [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Altitude [m]</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration %1×</source>
+        <translation>Exagération verticale %1×</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SectionView</name>
+    <message>
+        <source>Vertical exaggeration:</source>
+        <translation>Exagération verticale&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How much higher than wide a metre is drawn</source>
+        <translation>De combien un mètre est dessiné plus haut que large</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration</source>
+        <translation>Exagération verticale</translation>
+    </message>
+    <message>
+        <source>Turn in 3-D</source>
+        <translation>Rotation 3D</translation>
+    </message>
+    <message>
+        <source>Dragging turns the section instead of moving it</source>
+        <translation>Le glissement fait tourner la coupe au lieu de la déplacer</translation>
+    </message>
+    <message>
+        <source>Reset View</source>
+        <translation>Rétablir la vue</translation>
+    </message>
+    <message>
+        <source>Bring the whole section back into view (Home)</source>
+        <translation>Ramener toute la coupe dans la vue (Début)</translation>
+    </message>
+    <message>
+        <source>Velocity section</source>
+        <translation>Coupe de vitesse</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SelectCSVDelimiterDialog</name>
+    <message>
+        <source>Select CSV Separator</source>
+        <translation>Séparateur CSV</translation>
+    </message>
+    <message>
+        <source>CSV Separator</source>
+        <translation>Séparateur CSV</translation>
+    </message>
+    <message>
+        <source>What stands between two numbers of a line</source>
+        <translation>Ce qui sépare deux nombres d&apos;une ligne</translation>
+    </message>
+    <message>
+        <source>(blank space)</source>
+        <translation>(espace)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Langue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Traces</translation>
+    </message>
+    <message>
+        <source>Fill wiggle</source>
+        <translation>Remplir les oscillations</translation>
+    </message>
+    <message>
+        <source>Fills the positive half of every wiggle.</source>
+        <translation>Remplit la moitié positive de chaque oscillation.</translation>
+    </message>
+    <message>
+        <source>Two colours</source>
+        <translation>Deux couleurs</translation>
+    </message>
+    <message>
+        <source>Fills the two halves of every wiggle in two colours.</source>
+        <translation>Remplit les deux moitiés de chaque oscillation de deux couleurs.</translation>
+    </message>
+    <message>
+        <source>Cut at the neighbour</source>
+        <translation>Couper à la trace voisine</translation>
+    </message>
+    <message>
+        <source>Ends every wiggle where the next trace begins. Otherwise strong wiggles run over their neighbours.</source>
+        <translation>Arrête chaque oscillation là où commence la trace voisine. Sinon, les fortes oscillations débordent sur leurs voisines.</translation>
+    </message>
+    <message>
+        <source>Show filtered traces</source>
+        <translation>Afficher les traces filtrées</translation>
+    </message>
+    <message>
+        <source>Shows the filtered copy of the traces where there is one. AutoPick then picks on it.</source>
+        <translation>Affiche la copie filtrée des traces quand elle existe. AutoPick pointe alors sur elle.</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Horizontal colour bar</source>
+        <translation>Barre de couleurs horizontale</translation>
+    </message>
+    <message>
+        <source>Opens shots at the part of the record that holds the first breaks.</source>
+        <translation>Ouvre les tirs sur la partie de l&apos;enregistrement qui contient les premières arrivées.</translation>
+    </message>
+    <message>
+        <source>Show all traces</source>
+        <translation>Afficher toutes les traces</translation>
+    </message>
+    <message>
+        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Hushel then work on all shots.</source>
+        <translation>Ouvre les tirs avec toutes les traces visibles, si étroites soient-elles. AutoPick, Filtre, AGC et Hushel agissent alors sur tous les tirs.</translation>
+    </message>
+    <message>
+        <source>Zoom in on first breaks</source>
+        <translation>Zoomer sur les premières arrivées</translation>
+    </message>
+    <message>
+        <source>Puts the colour bar of saved pictures above the section, not beside it.</source>
+        <translation>Place la barre de couleurs des images enregistrées au-dessus de la coupe, et non à côté.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotTable</name>
+    <message>
+        <source>String</source>
+        <translation>Dispositif</translation>
+    </message>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>Altitude (m)</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>DX file</source>
+        <translation>Fichier DX</translation>
+    </message>
+    <message>
+        <source>SX file</source>
+        <translation>Fichier SX</translation>
+    </message>
+    <message>
+        <source>%1 m is too far away.</source>
+        <translation>%1 m est trop loin.</translation>
+    </message>
+    <message>
+        <source>There is no string %1.</source>
+        <translation>Il n&apos;y a pas de dispositif %1.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SpectrumPlot</name>
+    <message>
+        <source>Amplitude spectrum</source>
+        <translation>Spectre d&apos;amplitude</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message>
+        <source>Intensity</source>
+        <translation>Intensité</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SpreadsheetView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>&amp;Empty cells</source>
+        <translation>&amp;Vider les cellules</translation>
+    </message>
+    <message>
+        <source>Fill &amp;down</source>
+        <translation>Recopier vers le &amp;bas</translation>
+    </message>
+    <message>
+        <source>&amp;Insert a row above</source>
+        <translation>&amp;Insérer une ligne au-dessus</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>&amp;Supprimer les lignes</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Talvesk_MainWindows</name>
+    <message>
+        <source>Traces</source>
+        <translation>Traces</translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;No survey yet&lt;/h2&gt;&lt;p&gt;Open shot files with Ctrl+O, or drop them here.&lt;/p&gt;&lt;p&gt;Picks without traces come in with File &amp;gt; Import TravelTimes.&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Aucun levé&lt;/h2&gt;&lt;p&gt;Ouvrez des fichiers de tirs avec Ctrl+O, ou déposez-les ici.&lt;/p&gt;&lt;p&gt;Les pointés sans traces se chargent avec Fichier &amp;gt; Importer des temps de parcours.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Traces and picks of the current shot</source>
+        <translation>Traces et pointés du tir affiché</translation>
+    </message>
+    <message>
+        <source>Traces and picks, second view</source>
+        <translation>Traces et pointés, seconde vue</translation>
+    </message>
+    <message>
+        <source>Travel times of the current shot</source>
+        <translation>Temps de parcours du tir affiché</translation>
+    </message>
+    <message>
+        <source>Draw the picks of the other shots faintly over the traces</source>
+        <translation>Dessiner en clair sur les traces les pointés des autres tirs</translation>
+    </message>
+    <message>
+        <source>Show All Picks</source>
+        <translation>Afficher tous les pointés</translation>
+    </message>
+    <message>
+        <source>Show the filtered copy of the traces where there is one</source>
+        <translation>Afficher la copie filtrée des traces quand elle existe</translation>
+    </message>
+    <message>
+        <source>Show Filtered Traces</source>
+        <translation>Afficher les traces filtrées</translation>
+    </message>
+    <message>
+        <source>Hide the picks and the travel-time preview</source>
+        <translation>Masquer les pointés et l&apos;aperçu des temps de parcours</translation>
+    </message>
+    <message>
+        <source>Show Only Traces</source>
+        <translation>Traces seules</translation>
+    </message>
+    <message>
+        <source>Draw the times that the last inversion computed</source>
+        <translation>Dessiner les temps calculés par la dernière inversion</translation>
+    </message>
+    <message>
+        <source>Show computed Travel Times</source>
+        <translation>Afficher les temps calculés</translation>
+    </message>
+    <message>
+        <source>Travel time curves</source>
+        <translation>Dromochroniques</translation>
+    </message>
+    <message>
+        <source>Travel time curves of all shots</source>
+        <translation>Dromochroniques de tous les tirs</translation>
+    </message>
+    <message>
+        <source>Tomographic profile</source>
+        <translation>Profil tomographique</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exporter</translation>
+    </message>
+    <message>
+        <source>&amp;KML</source>
+        <translation>&amp;KML</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Show Velocity Gradient</source>
+        <translation>Afficher le gradient de vitesse</translation>
+    </message>
+    <message>
+        <source>Show Geophones</source>
+        <translation>Afficher les géophones</translation>
+    </message>
+    <message>
+        <source>&amp;Traces</source>
+        <translation>&amp;Traces</translation>
+    </message>
+    <message>
+        <source>Picks of the selected traces</source>
+        <translation>Pointés des traces sélectionnées</translation>
+    </message>
+    <message>
+        <source>Mouse tool</source>
+        <translation>Outil de la souris</translation>
+    </message>
+    <message>
+        <source>Snap picks to</source>
+        <translation>Caler les pointés sur</translation>
+    </message>
+    <message>
+        <source>Wiggles</source>
+        <translation>Oscillations</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;Project</source>
+        <translation>&amp;Projet</translation>
+    </message>
+    <message>
+        <source>P&amp;rocessing</source>
+        <translation>T&amp;raitement</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>Levé</translation>
+    </message>
+    <message>
+        <source>New...</source>
+        <translation>Nouveau...</translation>
+    </message>
+    <message>
+        <source>Start a new survey: empties this one, then asks for shot files</source>
+        <translation>Commencer un nouveau levé&#xa0;: vide celui-ci, puis demande les fichiers de tirs</translation>
+    </message>
+    <message>
+        <source>Import TravelTimes...</source>
+        <translation>Importer des temps de parcours...</translation>
+    </message>
+    <message>
+        <source>Load traveltimes</source>
+        <translation>Charger des temps de parcours</translation>
+    </message>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Appliquer un lissage</translation>
+    </message>
+    <message>
+        <source>Smooth the velocities of the section once more</source>
+        <translation>Lisser une fois de plus les vitesses de la coupe</translation>
+    </message>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Lancer l&apos;inversion tomographique</translation>
+    </message>
+    <message>
+        <source>Invert the picks into a velocity section</source>
+        <translation>Inverser les pointés en une coupe de vitesse</translation>
+    </message>
+    <message>
+        <source>Grid view</source>
+        <translation>Vue en cellules</translation>
+    </message>
+    <message>
+        <source>Draw the section cell by cell</source>
+        <translation>Dessiner la coupe cellule par cellule</translation>
+    </message>
+    <message>
+        <source>Smooth view</source>
+        <translation>Vue lissée</translation>
+    </message>
+    <message>
+        <source>Draw the section with velocities blended between cells</source>
+        <translation>Dessiner la coupe avec des vitesses fondues entre les cellules</translation>
+    </message>
+    <message>
+        <source>Export tomographic data ...</source>
+        <translation>Exporter les données tomographiques ...</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Show the next seismic file</source>
+        <translation>Afficher le fichier sismique suivant</translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Show the previous file</source>
+        <translation>Afficher le fichier sismique précédent</translation>
+    </message>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Définir le modèle de vitesse</translation>
+    </message>
+    <message>
+        <source>Set the layers and velocities that the inversion starts from</source>
+        <translation>Définir les couches et les vitesses d&apos;où part l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Load Project...</source>
+        <translation>Ouvrir un projet...</translation>
+    </message>
+    <message>
+        <source>Open a project with its shots, picks and section</source>
+        <translation>Ouvrir un projet avec ses tirs, ses pointés et sa coupe</translation>
+    </message>
+    <message>
+        <source>Save Project As...</source>
+        <translation>Enregistrer le projet sous...</translation>
+    </message>
+    <message>
+        <source>Save the project in a file of another name</source>
+        <translation>Enregistrer le projet dans un fichier d&apos;un autre nom</translation>
+    </message>
+    <message>
+        <source>Images ...</source>
+        <translation>Images ...</translation>
+    </message>
+    <message>
+        <source>Save pictures of the section, the curves and the traces</source>
+        <translation>Enregistrer des images de la coupe, des courbes et des traces</translation>
+    </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
+    <message>
+        <source>Pick the first breaks of the current shot, or of all shots when all traces are shown</source>
+        <translation>Pointer les premières arrivées du tir affiché, ou de tous les tirs si toutes les traces sont affichées</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Version, libraries and licence of Talvesk</source>
+        <translation>Version, bibliothèques et licence de Talvesk</translation>
+    </message>
+    <message>
+        <source>Geometry ...</source>
+        <translation>Géométrie ...</translation>
+    </message>
+    <message>
+        <source>Set the positions of geophones and shots</source>
+        <translation>Définir les positions des géophones et des tirs</translation>
+    </message>
+    <message>
+        <source>Grid ...</source>
+        <translation>Grille ...</translation>
+    </message>
+    <message>
+        <source>Lay the grid of the tomography under the line</source>
+        <translation>Poser la grille de la tomographie sous la ligne</translation>
+    </message>
+    <message>
+        <source>PDF ...</source>
+        <translation>PDF ...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as PDF</source>
+        <translation>Écrire un rapport du levé en PDF</translation>
+    </message>
+    <message>
+        <source>Palette Options...</source>
+        <translation>Options de palette...</translation>
+    </message>
+    <message>
+        <source>Choose the colours of the section</source>
+        <translation>Choisir les couleurs de la coupe</translation>
+    </message>
+    <message>
+        <source>ODT...</source>
+        <translation>ODT...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as a text document</source>
+        <translation>Écrire un rapport du levé sous forme de document texte</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Close Talvesk</source>
+        <translation>Fermer Talvesk</translation>
+    </message>
+    <message>
+        <source>On line help</source>
+        <translation>Aide en ligne</translation>
+    </message>
+    <message>
+        <source>Open the help pages on the web, or the user guide without a network</source>
+        <translation>Ouvrir les pages d&apos;aide sur le web, ou le guide de l&apos;utilisateur en l&apos;absence de réseau</translation>
+    </message>
+    <message>
+        <source>Show Rays</source>
+        <translation>Afficher les rais</translation>
+    </message>
+    <message>
+        <source>Overlay the seismic rays to profile</source>
+        <translation>Superposer les rais sismiques au profil</translation>
+    </message>
+    <message>
+        <source>Fill wiggle</source>
+        <translation>Remplir les oscillations</translation>
+    </message>
+    <message>
+        <source>Fill the positive half of every wiggle</source>
+        <translation>Remplir la moitié positive de chaque oscillation</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Language, trace view and image options</source>
+        <translation>Langue, affichage des traces et options des images</translation>
+    </message>
+    <message>
+        <source>Show Contour Lines</source>
+        <translation>Afficher les isolignes</translation>
+    </message>
+    <message>
+        <source>Draw lines of equal velocity over the section</source>
+        <translation>Dessiner les lignes d&apos;égale vitesse sur la coupe</translation>
+    </message>
+    <message>
+        <source>Set geographic coordinates ...</source>
+        <translation>Définir les coordonnées géographiques ...</translation>
+    </message>
+    <message>
+        <source>Say where the first and the last geophone lie on the map</source>
+        <translation>Indiquer où se trouvent le premier et le dernier géophone sur la carte</translation>
+    </message>
+    <message>
+        <source>Reset View</source>
+        <translation>Rétablir la vue</translation>
+    </message>
+    <message>
+        <source>Bring the whole section back into view</source>
+        <translation>Ramener toute la coupe dans la vue</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Enregistrer le projet</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>Enregistrer le projet dans son fichier</translation>
+    </message>
+    <message>
+        <source>Vertical Gradient</source>
+        <translation>Gradient vertical</translation>
+    </message>
+    <message>
+        <source>Show how fast the velocity grows with depth</source>
+        <translation>Montrer à quel point la vitesse croît avec la profondeur</translation>
+    </message>
+    <message>
+        <source>Laplacian Gradient</source>
+        <translation>Gradient laplacien</translation>
+    </message>
+    <message>
+        <source>Show where the velocity changes most abruptly</source>
+        <translation>Montrer où la vitesse change le plus brusquement</translation>
+    </message>
+    <message>
+        <source>Show Tomographic Profile</source>
+        <translation>Afficher le profil tomographique</translation>
+    </message>
+    <message>
+        <source>Show the velocity section</source>
+        <translation>Afficher la coupe de vitesse</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Guide de l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>Open the guide that comes with Talvesk</source>
+        <translation>Ouvrir le guide fourni avec Talvesk</translation>
+    </message>
+    <message>
+        <source>Filter...</source>
+        <translation>Filtre...</translation>
+    </message>
+    <message>
+        <source>Filter the traces of the current shot by frequency, with spectrum and preview</source>
+        <translation>Filtrer en fréquence les traces du tir affiché, avec spectre et aperçu</translation>
+    </message>
+    <message>
+        <source>Apply Hushel</source>
+        <translation>Appliquer Hushel</translation>
+    </message>
+    <message>
+        <source>Apply Hushel - The Noise Reduction tool for seismic refraction data</source>
+        <translation>Appliquer Hushel - L&apos;outil de réduction du bruit pour les données de sismique réfraction</translation>
+    </message>
+    <message>
+        <source>AGC</source>
+        <translation>AGC</translation>
+    </message>
+    <message>
+        <source>Even out the amplitudes of the traces (automatic gain control)</source>
+        <translation>Égaliser les amplitudes des traces (contrôle automatique du gain)</translation>
+    </message>
+    <message>
+        <source>Refraction</source>
+        <translation>Réfraction</translation>
+    </message>
+    <message>
+        <source>Interpret the picks layer by layer with the reciprocal method</source>
+        <translation>Interpréter les pointés couche par couche avec la méthode réciproque</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Petits</translation>
+    </message>
+    <message>
+        <source>Draw small geophones on the section</source>
+        <translation>Dessiner de petits géophones sur la coupe</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normaux</translation>
+    </message>
+    <message>
+        <source>Draw geophones of normal size on the section</source>
+        <translation>Dessiner des géophones de taille normale sur la coupe</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grands</translation>
+    </message>
+    <message>
+        <source>Draw large geophones on the section</source>
+        <translation>Dessiner de grands géophones sur la coupe</translation>
+    </message>
+    <message>
+        <source>Show refraction</source>
+        <translation>Afficher la réfraction</translation>
+    </message>
+    <message>
+        <source>Overlay the refractors of the layered interpretation</source>
+        <translation>Superposer les réfracteurs de l&apos;interprétation en couches</translation>
+    </message>
+    <message>
+        <source>Show scalarbar</source>
+        <translation>Afficher l&apos;échelle de couleurs</translation>
+    </message>
+    <message>
+        <source>Show the colour scale beside the section</source>
+        <translation>Afficher l&apos;échelle de couleurs à côté de la coupe</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Capture d&apos;écran</translation>
+    </message>
+    <message>
+        <source>Take a Screenshot of the tomographic profile</source>
+        <translation>Prendre une capture d&apos;écran du profil tomographique</translation>
+    </message>
+    <message>
+        <source>Export TravelTimes...</source>
+        <translation>Exporter les temps de parcours...</translation>
+    </message>
+    <message>
+        <source>Write picks and positions to a travel-time file</source>
+        <translation>Écrire les pointés et les positions dans un fichier de temps de parcours</translation>
+    </message>
+    <message>
+        <source>Show Information Density Layer</source>
+        <translation>Afficher la densité d&apos;information</translation>
+    </message>
+    <message>
+        <source>Show Grid Lines</source>
+        <translation>Afficher les lignes de grille</translation>
+    </message>
+    <message>
+        <source>Draw distance and depth lines over the section</source>
+        <translation>Dessiner des lignes de distance et de profondeur sur la coupe</translation>
+    </message>
+    <message>
+        <source>Set title ...</source>
+        <translation>Définir le titre ...</translation>
+    </message>
+    <message>
+        <source>Set prject title</source>
+        <translation>Définir le titre du projet</translation>
+    </message>
+    <message>
+        <source>Show title ...</source>
+        <translation>Afficher le titre ...</translation>
+    </message>
+    <message>
+        <source>Write the project title over the section</source>
+        <translation>Écrire le titre du projet au-dessus de la coupe</translation>
+    </message>
+    <message>
+        <source>Tomography to text file ...</source>
+        <translation>Tomographie vers un fichier texte ...</translation>
+    </message>
+    <message>
+        <source>Export tomography as a XYZVelocity gridded text file</source>
+        <translation>Exporter la tomographie dans un fichier texte XYZVitesse sur grille</translation>
+    </message>
+    <message>
+        <source>Tomographic profile ...</source>
+        <translation>Profil tomographique ...</translation>
+    </message>
+    <message>
+        <source>Export the section to KML, standing on the globe</source>
+        <translation>Exporter la coupe en KML, dressée sur le globe</translation>
+    </message>
+    <message>
+        <source>Seismic line ...</source>
+        <translation>Ligne sismique ...</translation>
+    </message>
+    <message>
+        <source>Export seismic line to KML</source>
+        <translation>Exporter la ligne sismique en KML</translation>
+    </message>
+    <message>
+        <source>Open shot files...</source>
+        <translation>Ouvrir des fichiers de tirs...</translation>
+    </message>
+    <message>
+        <source>Add shot files (SEG-2, SEG-Y, SU) to the survey</source>
+        <translation>Ajouter au levé des fichiers de tirs (SEG-2, SEG-Y, SU)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Take back the last edit of the picks</source>
+        <translation>Annuler la dernière modification des pointés</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Do again the edit that was taken back</source>
+        <translation>Rétablir la modification annulée</translation>
+    </message>
+    <message>
+        <source>Open shots at the part of the record that holds the first breaks</source>
+        <translation>Ouvrir les tirs sur la partie de l&apos;enregistrement qui contient les premières arrivées</translation>
+    </message>
+    <message>
+        <source>Cut at the neighbour</source>
+        <translation>Couper à la trace voisine</translation>
+    </message>
+    <message>
+        <source>End every wiggle where the next trace begins</source>
+        <translation>Arrêter chaque oscillation là où commence la trace voisine</translation>
+    </message>
+    <message>
+        <source>Two colours</source>
+        <translation>Deux couleurs</translation>
+    </message>
+    <message>
+        <source>Fill the two halves of every wiggle in two colours</source>
+        <translation>Remplir les deux moitiés de chaque oscillation de deux couleurs</translation>
+    </message>
+    <message>
+        <source>Show filtered traces</source>
+        <translation>Afficher les traces filtrées</translation>
+    </message>
+    <message>
+        <source>Show the filtered copy of the traces where there is one; AutoPick then picks on it</source>
+        <translation>Afficher la copie filtrée des traces quand elle existe&#xa0;; AutoPick pointe alors sur elle</translation>
+    </message>
+    <message>
+        <source>Show all traces</source>
+        <translation>Afficher toutes les traces</translation>
+    </message>
+    <message>
+        <source>Open shots with all traces in view; AutoPick, Filter, AGC and Hushel then work on all shots</source>
+        <translation>Ouvrir les tirs avec toutes les traces visibles&#xa0;; AutoPick, Filtre, AGC et Hushel agissent alors sur tous les tirs</translation>
+    </message>
+    <message>
+        <source>At true distance</source>
+        <translation>À leur distance réelle</translation>
+    </message>
+    <message>
+        <source>Place the traces at their distance along the line, not one beside the other</source>
+        <translation>Placer les traces à leur distance le long de la ligne, et non côte à côte</translation>
+    </message>
+    <message>
+        <source>True amplitudes</source>
+        <translation>Amplitudes réelles</translation>
+    </message>
+    <message>
+        <source>Keep the amplitudes of a shot in proportion; otherwise every trace is as wide as the others</source>
+        <translation>Conserver les proportions entre les amplitudes d&apos;un tir&#xa0;; sinon chaque trace est aussi large que les autres</translation>
+    </message>
+    <message>
+        <source>Air wave</source>
+        <translation>Onde aérienne</translation>
+    </message>
+    <message>
+        <source>Draw the line of the sound that travels through the air</source>
+        <translation>Dessiner la droite du son qui se propage dans l&apos;air</translation>
+    </message>
+    <message>
+        <source>Magnifier</source>
+        <translation>Loupe</translation>
+    </message>
+    <message>
+        <source>Enlarge what is around the cursor (key M)</source>
+        <translation>Agrandir ce qui entoure le curseur (touche M)</translation>
+    </message>
+    <message>
+        <source>Larger wiggles</source>
+        <translation>Oscillations plus grandes</translation>
+    </message>
+    <message>
+        <source>Raise the gain (key ])</source>
+        <translation>Augmenter le gain (touche ])</translation>
+    </message>
+    <message>
+        <source>Smaller wiggles</source>
+        <translation>Oscillations plus petites</translation>
+    </message>
+    <message>
+        <source>Lower the gain (key [)</source>
+        <translation>Réduire le gain (touche [)</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Pointé</translation>
+    </message>
+    <message>
+        <source>Click sets a pick, dragging moves it or draws a run of picks, right click removes it</source>
+        <translation>Un clic place un pointé, le glissement le déplace ou trace une suite de pointés, un clic droit le supprime</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Drag a rectangle to zoom to it</source>
+        <translation>Tracer un rectangle pour l&apos;agrandir</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>Déplacement</translation>
+    </message>
+    <message>
+        <source>Drag the picture</source>
+        <translation>Faire glisser l&apos;image</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Règle</translation>
+    </message>
+    <message>
+        <source>Drag a line to read its apparent velocity (key R)</source>
+        <translation>Tracer une droite pour en lire la vitesse apparente (touche R)</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>Drag over traces to confirm or remove their picks together</source>
+        <translation>Glisser sur des traces pour confirmer ou supprimer ensemble leurs pointés</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Rien</translation>
+    </message>
+    <message>
+        <source>Picks stay where they are set</source>
+        <translation>Les pointés restent là où ils sont placés</translation>
+    </message>
+    <message>
+        <source>Onset</source>
+        <translation>Début du signal</translation>
+    </message>
+    <message>
+        <source>Draw picks to where the noise ends</source>
+        <translation>Amener les pointés là où finit le bruit</translation>
+    </message>
+    <message>
+        <source>Zero crossing</source>
+        <translation>Passage par zéro</translation>
+    </message>
+    <message>
+        <source>Draw picks to the nearest change of sign</source>
+        <translation>Amener les pointés au changement de signe le plus proche</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Pic</translation>
+    </message>
+    <message>
+        <source>Draw picks to the strongest peak or trough nearby</source>
+        <translation>Amener les pointés au pic ou au creux le plus fort du voisinage</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Confirmer les pointés</translation>
+    </message>
+    <message>
+        <source>Make the automatic picks of the selected traces your own (key C)</source>
+        <translation>Faire vôtres les pointés automatiques des traces sélectionnées (touche C)</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Supprimer les pointés</translation>
+    </message>
+    <message>
+        <source>Remove the picks of the selected traces (key Delete)</source>
+        <translation>Supprimer les pointés des traces sélectionnées (touche Suppr)</translation>
+    </message>
+    <message>
+        <source>Remove unconfirmed picks</source>
+        <translation>Supprimer les pointés non confirmés</translation>
+    </message>
+    <message>
+        <source>Remove the automatic picks of the selected traces that were not confirmed</source>
+        <translation>Supprimer les pointés automatiques des traces sélectionnées qui n&apos;ont pas été confirmés</translation>
+    </message>
+    <message>
+        <source>Show everything</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Show all traces and all times (key F)</source>
+        <translation>Afficher toutes les traces et tous les temps (touche F)</translation>
+    </message>
+    <message>
+        <source>Previous view</source>
+        <translation>Vue précédente</translation>
+    </message>
+    <message>
+        <source>Go back to the view before the last zoom (key Backspace)</source>
+        <translation>Revenir à la vue d&apos;avant le dernier zoom (touche Retour arrière)</translation>
+    </message>
+    <message>
+        <source>Next view</source>
+        <translation>Vue suivante</translation>
+    </message>
+    <message>
+        <source>Go forward again after going back (keys Shift+Backspace)</source>
+        <translation>Avancer de nouveau après un retour (touches Maj+Retour arrière)</translation>
+    </message>
+    <message>
+        <source>Recording details...</source>
+        <translation>Détails de l&apos;enregistrement...</translation>
+    </message>
+    <message>
+        <source>What the shot files hold: samples, interval, delay, positions, warnings</source>
+        <translation>Ce que contiennent les fichiers de tirs&#xa0;: échantillons, pas, délai, positions, avertissements</translation>
+    </message>
+    <message>
+        <source>Shot in view</source>
+        <translation>Tir affiché</translation>
+    </message>
+    <message>
+        <source>The shot in view</source>
+        <translation>Le tir affiché</translation>
+    </message>
+    <message>
+        <source>Open Seismic Trace</source>
+        <translation>Ouvrir des traces sismiques</translation>
+    </message>
+    <message>
+        <source>SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)</source>
+        <translation>Format SEG2 (*.sg2 *.dat *.seg2);;Format SEGY (*.sgy *.segy);;Format SU (*.su);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Loading shot files ...</source>
+        <translation>Chargement des fichiers de tirs ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Error occured</source>
+        <translation>Une erreur s&apos;est produite</translation>
+    </message>
+    <message>
+        <source>Unsupported file format.</source>
+        <translation>Format de fichier non pris en charge.</translation>
+    </message>
+    <message>
+        <source>Error while loading one or more traces.</source>
+        <translation>Erreur lors du chargement d&apos;une ou plusieurs traces.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot file(s) loaded.</source>
+        <translation>
+            <numerusform>%n fichier de tir chargé.</numerusform>
+            <numerusform>%n fichiers de tirs chargés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Travel times of %n shot(s) imported.</source>
+        <translation>
+            <numerusform>Temps de parcours de %n tir importés.</numerusform>
+            <numerusform>Temps de parcours de %n tirs importés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>First breaks found on %1 of %2 traces.</source>
+        <translation>Premières arrivées trouvées sur %1 traces sur %2.</translation>
+    </message>
+    <message>
+        <source>Filtered copies made of %1 of %2 traces.</source>
+        <translation>Copies filtrées créées pour %1 traces sur %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n with warnings, see Traces &gt; Recording details.</source>
+        <translation>
+            <numerusform>%n avec avertissements, voir Traces &gt; Détails de l&apos;enregistrement.</numerusform>
+            <numerusform>%n avec avertissements, voir Traces &gt; Détails de l&apos;enregistrement.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording delay</source>
+        <translation>Délai d&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>The records start before the shot, by up to %1 ms.</source>
+        <translation>Les enregistrements commencent avant le tir, jusqu&apos;à %1 ms.</translation>
+    </message>
+    <message>
+        <source>Do you want to count times from the shot? What was recorded before it is then dropped.</source>
+        <translation>Voulez-vous compter les temps à partir du tir&#xa0;? Ce qui a été enregistré avant est alors retiré.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) end before the shot and stay as recorded.</source>
+        <translation>
+            <numerusform>%n trace se termine avant le tir et reste telle qu&apos;enregistrée.</numerusform>
+            <numerusform>%n traces se terminent avant le tir et restent telles qu&apos;enregistrées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Import TravelTimes</source>
+        <translation>Importer des temps de parcours</translation>
+    </message>
+    <message>
+        <source>Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)</source>
+        <translation>Temps de parcours (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Error while loading %1.</source>
+        <translation>Erreur lors du chargement de %1.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>%1 was loaded with warnings.</source>
+        <translation>%1 a été chargé avec des avertissements.</translation>
+    </message>
+    <message>
+        <source>Save TravelTimeExchange</source>
+        <translation>Enregistrer les temps de parcours</translation>
+    </message>
+    <message>
+        <source>Open Travel Time Exchange format (*.otte);;All Files (*)</source>
+        <translation>Format Open Travel Time Exchange (*.otte);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The travel times have not been saved.</source>
+        <translation>Les temps de parcours n&apos;ont pas été enregistrés.</translation>
+    </message>
+    <message>
+        <source>Travel times saved in %1</source>
+        <translation>Temps de parcours enregistrés dans %1</translation>
+    </message>
+    <message>
+        <source>The user guide is not where it was installed.</source>
+        <translation>Le guide de l&apos;utilisateur n&apos;est pas là où il a été installé.</translation>
+    </message>
+    <message>
+        <source>Install Talvesk again to get it back.</source>
+        <translation>Réinstallez Talvesk pour le récupérer.</translation>
+    </message>
+    <message>
+        <source>No program to show the user guide was found.</source>
+        <translation>Aucun programme n&apos;a été trouvé pour afficher le guide de l&apos;utilisateur.</translation>
+    </message>
+    <message>
+        <source>You find it in %1</source>
+        <translation>Il se trouve dans %1</translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), Eigen (MPL 2) and cereal (BSD).&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Levés de sismique réfraction&#xa0;: des enregistrements de terrain aux coupes de vitesse.&lt;/p&gt;&lt;p&gt;Talvesk est un logiciel libre sous licence MIT, sans aucune garantie.&lt;/p&gt;&lt;p&gt;Il est construit avec Qt %1 (LGPL), Qwt (LGPL avec exceptions), liquid-dsp (MIT), Eigen (MPL 2) et cereal (BSD).&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Picking first breaks ...</source>
+        <translation>Pointage des premières arrivées ...</translation>
+    </message>
+    <message>
+        <source>Not every shot could be picked.</source>
+        <translation>Tous les tirs n&apos;ont pas pu être pointés.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) stay as they were.</source>
+        <translation>
+            <numerusform>%n trace reste telle quelle.</numerusform>
+            <numerusform>%n traces restent telles quelles.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Applying AGC ...</source>
+        <translation>Application de l&apos;AGC ...</translation>
+    </message>
+    <message>
+        <source>Applying Hushel ...</source>
+        <translation>Application de Hushel ...</translation>
+    </message>
+    <message>
+        <source>Project title</source>
+        <translation>Titre du projet</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1: %2 at %3</source>
+        <comment>shot number, file, place</comment>
+        <translation>%1&#xa0;: %2 à %3</translation>
+    </message>
+    <message>
+        <source>%1: at %2</source>
+        <comment>shot number, place</comment>
+        <translation>%1&#xa0;: à %2</translation>
+    </message>
+    <message>
+        <source>Trace %1</source>
+        <translation>Trace %1</translation>
+    </message>
+    <message>
+        <source>Offset %1 m</source>
+        <translation>Déport %1 m</translation>
+    </message>
+    <message>
+        <source>Time %1 ms</source>
+        <translation>Temps %1 ms</translation>
+    </message>
+    <message>
+        <source>Pick %1 ms (automatic)</source>
+        <translation>Pointé %1 ms (automatique)</translation>
+    </message>
+    <message>
+        <source>Pick %1 ms</source>
+        <translation>Pointé %1 ms</translation>
+    </message>
+    <message>
+        <source>Amplitude %1</source>
+        <translation>Amplitude %1</translation>
+    </message>
+    <message>
+        <source>Talvesk 2022.0</source>
+        <translation>Talvesk 2022.0</translation>
+    </message>
+    <message>
+        <source>Zoom in on first breaks</source>
+        <translation>Zoomer sur les premières arrivées</translation>
+    </message>
+    <message>
+        <source>Save travel-time curves</source>
+        <translation>Enregistrer les dromochroniques</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf);;All Files (*)</source>
+        <translation>Images (*.png *.svg *.pdf);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The picture has not been saved.</source>
+        <translation>L&apos;image n&apos;a pas été enregistrée.</translation>
+    </message>
+    <message>
+        <source>Picture saved in %1</source>
+        <translation>Image enregistrée dans %1</translation>
+    </message>
+    <message>
+        <source>Colour the section by how well rays cover it</source>
+        <translation>Colorer la coupe selon sa couverture par les rais</translation>
+    </message>
+    <message>
+        <source>No section yet</source>
+        <translation>Aucune coupe pour l&apos;instant</translation>
+    </message>
+    <message>
+        <source>Load shot files or travel times with the File menu first.</source>
+        <translation>Chargez d&apos;abord des fichiers de tirs ou des temps de parcours avec le menu Fichier.</translation>
+    </message>
+    <message>
+        <source>Build a grid with &lt;b&gt;Project &amp;gt; Grid ...&lt;/b&gt;, then invert the picks with &lt;b&gt;Processing &amp;gt; Run tomography inversion&lt;/b&gt;.</source>
+        <translation>Construisez une grille avec &lt;b&gt;Projet &amp;gt; Grille ...&lt;/b&gt;, puis inversez les pointés avec &lt;b&gt;Traitement &amp;gt; Lancer l&apos;inversion tomographique&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>The grid has no cells</source>
+        <translation>La grille n&apos;a pas de cellules</translation>
+    </message>
+    <message>
+        <source>Build another one with &lt;b&gt;Project &amp;gt; Grid ...&lt;/b&gt; and give it a depth greater than the cell size.</source>
+        <translation>Construisez-en une autre avec &lt;b&gt;Projet &amp;gt; Grille ...&lt;/b&gt; et donnez-lui une profondeur supérieure à la taille des cellules.</translation>
+    </message>
+    <message>
+        <source>Nothing to draw</source>
+        <translation>Rien à dessiner</translation>
+    </message>
+    <message>
+        <source>No cell of the grid has a value to show.</source>
+        <translation>Aucune cellule de la grille n&apos;a de valeur à afficher.</translation>
+    </message>
+    <message>
+        <source>Refractor %1</source>
+        <translation>Réfracteur %1</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distance %1 m</translation>
+    </message>
+    <message>
+        <source>Elevation %1 m</source>
+        <translation>Altitude %1 m</translation>
+    </message>
+    <message>
+        <source>Depth %1 m</source>
+        <translation>Profondeur %1 m</translation>
+    </message>
+    <message>
+        <source>Velocity %1 m/s</source>
+        <translation>Vitesse %1 m/s</translation>
+    </message>
+    <message>
+        <source>Gradient %1 1/s</source>
+        <translation>Gradient %1 1/s</translation>
+    </message>
+    <message>
+        <source>Laplacian %1 1/(m·s)</source>
+        <translation>Laplacien %1 1/(m·s)</translation>
+    </message>
+    <message>
+        <source>Information density %1</source>
+        <translation>Densité d&apos;information %1</translation>
+    </message>
+    <message>
+        <source>Export the section as a gridded text file, heights counted from the highest ground</source>
+        <translation>Exporter la coupe dans un fichier texte sur grille, les hauteurs étant comptées depuis le point le plus haut du terrain</translation>
+    </message>
+    <message>
+        <source>Section as VTK grid ...</source>
+        <translation>Coupe en grille VTK ...</translation>
+    </message>
+    <message>
+        <source>Export velocity, gradient and information density of the cells as a VTK unstructured grid</source>
+        <translation>Exporter la vitesse, le gradient et la densité d&apos;information des cellules en grille non structurée VTK</translation>
+    </message>
+    <message>
+        <source>Section as Surfer grid ...</source>
+        <translation>Coupe en grille Surfer ...</translation>
+    </message>
+    <message>
+        <source>Export the velocities on a regular raster as a Surfer ASCII grid</source>
+        <translation>Exporter les vitesses sur un maillage régulier en grille ASCII Surfer</translation>
+    </message>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Enregistré dans %1</translation>
+    </message>
+    <message>
+        <source>The data have not been exported.</source>
+        <translation>Les données n&apos;ont pas été exportées.</translation>
+    </message>
+    <message>
+        <source>Export Gridded Data</source>
+        <translation>Exporter des données sur grille</translation>
+    </message>
+    <message>
+        <source>Save gridded tomographic velocity in a text file (*.txt);;All Files (*)</source>
+        <translation>Vitesses tomographiques sur grille dans un fichier texte (*.txt);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export VTK Grid</source>
+        <translation>Exporter une grille VTK</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;All Files (*)</source>
+        <translation>Grille non structurée VTK (*.vtu);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export Surfer Grid</source>
+        <translation>Exporter une grille Surfer</translation>
+    </message>
+    <message>
+        <source>Surfer ASCII grid (*.grd);;All Files (*)</source>
+        <translation>Grille ASCII Surfer (*.grd);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
+        <translation>Les coordonnées géographiques manquent, les données ne peuvent pas être exportées au format KML</translation>
+    </message>
+    <message>
+        <source>Export Tomography to KML</source>
+        <translation>Exporter la tomographie en KML</translation>
+    </message>
+    <message>
+        <source>KML (*.kml);;All Files (*)</source>
+        <translation>KML (*.kml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export Seismic Line to KML</source>
+        <translation>Exporter la ligne sismique en KML</translation>
+    </message>
+    <message>
+        <source>The geometry of the survey has changed.</source>
+        <translation>La géométrie du levé a changé.</translation>
+    </message>
+    <message>
+        <source>Uncomplete set of picks. 
+ 
+Do you want to run refraction processing anyway? </source>
+        <translation>Ensemble de pointés incomplet. 
+ 
+Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Projets Talvesk (*.tvsk);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Empty filename to be saved</source>
+        <translation>Le nom du fichier à enregistrer est vide</translation>
+    </message>
+    <message>
+        <source>%1 already exists.</source>
+        <translation>%1 existe déjà.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Something went wrong while saving project </source>
+        <translation>Un problème est survenu lors de l&apos;enregistrement du projet </translation>
+    </message>
+    <message>
+        <source>WARNING: the project has NOT been saved.</source>
+        <translation>AVERTISSEMENT&#xa0;: le projet n&apos;a PAS été enregistré.</translation>
+    </message>
+    <message>
+        <source>Project saved in %1</source>
+        <translation>Projet enregistré dans %1</translation>
+    </message>
+    <message>
+        <source>The project has been saved.</source>
+        <translation>Le projet a été enregistré.</translation>
+    </message>
+    <message>
+        <source>Error while loading traces: Invalid file format.</source>
+        <translation>Erreur lors du chargement des traces&#xa0;: format de fichier non valide.</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid project.</source>
+        <translation>%1 n&apos;est pas un projet valide.</translation>
+    </message>
+    <message>
+        <source>There is no file %1</source>
+        <translation>Le fichier %1 n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>The project as it was saved before is in %1</source>
+        <translation>Le projet tel qu&apos;enregistré auparavant se trouve dans %1</translation>
+    </message>
+    <message>
+        <source>Project %1 loaded.</source>
+        <translation>Projet %1 chargé.</translation>
+    </message>
+    <message>
+        <source>Load Project</source>
+        <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Projets récents</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Effacer la liste</translation>
+    </message>
+    <message>
+        <source>No recovery copy can be saved; save the project yourself. %1</source>
+        <translation>Aucune copie de récupération ne peut être enregistrée&#xa0;; enregistrez vous-même le projet. %1</translation>
+    </message>
+    <message>
+        <source>A survey that was not saved yet is there as it was at %1. Do you want to open it?</source>
+        <translation>Un levé qui n&apos;avait pas encore été enregistré est disponible dans son état du %1. Voulez-vous l&apos;ouvrir&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The project %1 is there as it was at %2. Do you want to open it?</source>
+        <translation>Le projet %1 est disponible dans son état du %2. Voulez-vous l&apos;ouvrir&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Geophones do not have geometry! 
+</source>
+        <translation>Les géophones n&apos;ont pas de géométrie&#xa0;! 
+</translation>
+    </message>
+    <message>
+        <source>Please set the position of geophones
+</source>
+        <translation>Veuillez définir la position des géophones
+</translation>
+    </message>
+    <message>
+        <source>Grid of %1 rows and %2 columns built.</source>
+        <translation>Grille de %1 lignes et %2 colonnes construite.</translation>
+    </message>
+    <message>
+        <source>The grid could not be built.</source>
+        <translation>La grille n&apos;a pas pu être construite.</translation>
+    </message>
+    <message>
+        <source>The grid has the velocities of the layers.</source>
+        <translation>La grille a les vitesses des couches.</translation>
+    </message>
+    <message>
+        <source>The grid could not be smoothed.</source>
+        <translation>La grille n&apos;a pas pu être lissée.</translation>
+    </message>
+    <message>
+        <source>The velocities of the grid are smoothed.</source>
+        <translation>Les vitesses de la grille sont lissées.</translation>
+    </message>
+    <message>
+        <source>Warning:</source>
+        <translation>Avertissement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Uncomplete set of picks. 
+ 
+</source>
+        <translation>Ensemble de pointés incomplet. 
+ 
+</translation>
+    </message>
+    <message>
+        <source>Do you want to run tomography inversion anyway? </source>
+        <translation>Voulez-vous tout de même lancer l&apos;inversion tomographique&#xa0;? </translation>
+    </message>
+    <message>
+        <source>An inversion is under way; the survey cannot be edited.</source>
+        <translation>Une inversion est en cours&#xa0;; le levé ne peut pas être modifié.</translation>
+    </message>
+    <message>
+        <source>Tomography inversion</source>
+        <translation>Inversion tomographique</translation>
+    </message>
+    <message>
+        <source>The inversion is still running.</source>
+        <translation>L&apos;inversion est encore en cours.</translation>
+    </message>
+    <message>
+        <source>Do you want to stop it when the iteration under way is completed, and close then?</source>
+        <translation>Voulez-vous l&apos;arrêter à la fin de l&apos;itération en cours, puis fermer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The inversion could not be completed.</source>
+        <translation>L&apos;inversion n&apos;a pas pu être menée à bien.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n external iteration(s) completed.</source>
+        <translation>
+            <numerusform>%n itération externe terminée.</numerusform>
+            <numerusform>%n itérations externes terminées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Inversion results</source>
+        <translation>Résultats de l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Elapsed time: [s] %1
+</source>
+        <translation>Temps écoulé&#xa0;: [s] %1
+</translation>
+    </message>
+    <message>
+        <source>RMSE: [ms] %1; [%] %2
+</source>
+        <translation>RMSE&#xa0;: [ms] %1&#xa0;; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>MaxError: [ms] %1; [%] %2
+</source>
+        <translation>Erreur maximale&#xa0;: [ms] %1&#xa0;; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>The survey is recovered; it is not saved yet.</source>
+        <translation>Le levé est récupéré&#xa0;; il n&apos;est pas encore enregistré.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) exist already.</source>
+        <translation>
+            <numerusform>%n fichier existe déjà.</numerusform>
+            <numerusform>%n fichiers existent déjà.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want to replace them?</source>
+        <translation>Voulez-vous les remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Writing pictures ...</source>
+        <translation>Écriture des images ...</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pictures have been saved.</source>
+        <translation>%1 images sur %2 ont été enregistrées.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) saved.</source>
+        <translation>
+            <numerusform>%n image enregistrée.</numerusform>
+            <numerusform>%n images enregistrées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save screenshot</source>
+        <translation>Enregistrer la capture d&apos;écran</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png);;JPEG picture (*.jpg *.jpeg)</source>
+        <translation>Image PNG (*.png);;Image JPEG (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>Save PDF report</source>
+        <translation>Enregistrer le rapport PDF</translation>
+    </message>
+    <message>
+        <source>PDF report (*.pdf)</source>
+        <translation>Rapport PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save ODT report</source>
+        <translation>Enregistrer le rapport ODT</translation>
+    </message>
+    <message>
+        <source>OpenDocument text (*.odt)</source>
+        <translation>Texte OpenDocument (*.odt)</translation>
+    </message>
+    <message>
+        <source>Writing the report ...</source>
+        <translation>Écriture du rapport ...</translation>
+    </message>
+    <message>
+        <source>Stopped; nothing has been saved.</source>
+        <translation>Arrêté&#xa0;; rien n&apos;a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The file has not been saved.</source>
+        <translation>Le fichier n&apos;a pas été enregistré.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceAxes</name>
+    <message>
+        <source>x (m)</source>
+        <translation>x (m)</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Temps (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceTexts</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 ms</source>
+        <translation>%1 m, %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 m/s (%2 m, %3 ms)</source>
+        <translation>%1 m/s (%2 m, %3 ms)</translation>
+    </message>
+    <message>
+        <source>Other shots</source>
+        <translation>Autres tirs</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calculés</translation>
+    </message>
+    <message>
+        <source>Air %1 m/s</source>
+        <translation>Air %1 m/s</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TravelTimePlot</name>
+    <message>
+        <source>Travel-time curves</source>
+        <translation>Dromochroniques</translation>
+    </message>
+    <message>
+        <source>No travel times yet.
+
+Pick first breaks in the traces, by hand or with AutoPick, or import travel times.</source>
+        <translation>Aucun temps de parcours pour l&apos;instant.
+
+Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou importez des temps de parcours.</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distance [m]</translation>
+    </message>
+    <message>
+        <source>Time [ms]</source>
+        <translation>Temps [ms]</translation>
+    </message>
+    <message>
+        <source>&amp;Measured</source>
+        <translation>&amp;Mesurés</translation>
+    </message>
+    <message>
+        <source>&amp;Computed</source>
+        <translation>&amp;Calculés</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>T&amp;out afficher</translation>
+    </message>
+    <message>
+        <source>Show all curves</source>
+        <translation>Afficher toutes les courbes</translation>
+    </message>
+    <message>
+        <source>Export &amp;picture...</source>
+        <translation>Exporter l&apos;&amp;image...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Enregistrer les courbes en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <translation>Tir %1 à %2 m</translation>
+    </message>
+    <message>
+        <source>Shot %1 has no travel times yet</source>
+        <translation>Le tir %1 n&apos;a pas encore de temps de parcours</translation>
+    </message>
+    <message>
+        <source>Click a curve to choose its shot</source>
+        <translation>Cliquez sur une courbe pour choisir son tir</translation>
+    </message>
+    <message>
+        <source>Shot %1, trace %2: %3 ms</source>
+        <translation>Tir %1, trace %2&#xa0;: %3 ms</translation>
+    </message>
+    <message>
+        <source>Computed: %1 ms</source>
+        <translation>Calculé&#xa0;: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Remove pick</source>
+        <translation>&amp;Supprimer le pointé</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;back</source>
+        <translation>Vue &amp;précédente</translation>
+    </message>
+    <message>
+        <source>Zoom for&amp;ward</source>
+        <translation>Vue sui&amp;vante</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::contourlines_dialog</name>
+    <message>
+        <source>Contour Lines - Settings</source>
+        <translation>Isolignes - Paramètres</translation>
+    </message>
+    <message>
+        <source>Contour values</source>
+        <translation>Valeurs des isolignes</translation>
+    </message>
+    <message>
+        <source>Equally spaced contour values</source>
+        <translation>Valeurs équidistantes</translation>
+    </message>
+    <message>
+        <source>Values that divide the range into equal parts</source>
+        <translation>Valeurs qui divisent la plage en parties égales</translation>
+    </message>
+    <message>
+        <source># Values</source>
+        <translation>Nombre de valeurs</translation>
+    </message>
+    <message>
+        <source>How many values divide the range</source>
+        <translation>Combien de valeurs divisent la plage</translation>
+    </message>
+    <message>
+        <source>Customized Contour Values</source>
+        <translation>Valeurs personnalisées</translation>
+    </message>
+    <message>
+        <source>The values of the list</source>
+        <translation>Les valeurs de la liste</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
+    </message>
+    <message>
+        <source>Add One More Value</source>
+        <translation>Ajouter une valeur</translation>
+    </message>
+    <message>
+        <source>Add an empty line to the list</source>
+        <translation>Ajouter une ligne vide à la liste</translation>
+    </message>
+    <message>
+        <source>Load Isovalues</source>
+        <translation>Charger des isovaleurs</translation>
+    </message>
+    <message>
+        <source>Replace the list by the values of a file</source>
+        <translation>Remplacer la liste par les valeurs d&apos;un fichier</translation>
+    </message>
+    <message>
+        <source>Save Isovalues</source>
+        <translation>Enregistrer les isovaleurs</translation>
+    </message>
+    <message>
+        <source>Write the list to a file</source>
+        <translation>Écrire la liste dans un fichier</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>Tout supprimer</translation>
+    </message>
+    <message>
+        <source>Empty the list</source>
+        <translation>Vider la liste</translation>
+    </message>
+    <message>
+        <source>Where contours are shown</source>
+        <translation>Où afficher les isolignes</translation>
+    </message>
+    <message>
+        <source>Show Contours (on top of  Tomographic Profile)</source>
+        <translation>Afficher les isolignes (sur le profil tomographique)</translation>
+    </message>
+    <message>
+        <source>Lines over the velocities</source>
+        <translation>Lignes par-dessus les vitesses</translation>
+    </message>
+    <message>
+        <source>Show Filled Contours</source>
+        <translation>Afficher les isolignes remplies</translation>
+    </message>
+    <message>
+        <source>Velocities in bands from one value to the next</source>
+        <translation>Vitesses en bandes, d&apos;une valeur à la suivante</translation>
+    </message>
+    <message>
+        <source>Show Contours (on Vertical Gradient of Velocity)</source>
+        <translation>Afficher les isolignes (sur le gradient vertical de vitesse)</translation>
+    </message>
+    <message>
+        <source>Lines over the vertical gradient; not together with filled contours</source>
+        <translation>Lignes par-dessus le gradient vertical&#xa0;; incompatible avec les isolignes remplies</translation>
+    </message>
+    <message>
+        <source>Show Contours (on Laplacian Gradient of Velocity)</source>
+        <translation>Afficher les isolignes (sur le gradient laplacien de vitesse)</translation>
+    </message>
+    <message>
+        <source>Lines over the Laplacian; not together with filled contours</source>
+        <translation>Lignes par-dessus le laplacien&#xa0;; incompatible avec les isolignes remplies</translation>
+    </message>
+    <message>
+        <source>Lines and labels</source>
+        <translation>Lignes et étiquettes</translation>
+    </message>
+    <message>
+        <source>Show label every N contour lines</source>
+        <translation>Une étiquette toutes les N isolignes</translation>
+    </message>
+    <message>
+        <source>1 labels every line, 2 every second one</source>
+        <translation>1&#xa0;: une étiquette à chaque ligne, 2&#xa0;: une ligne sur deux</translation>
+    </message>
+    <message>
+        <source>No labels</source>
+        <translation>Aucune étiquette</translation>
+    </message>
+    <message>
+        <source>Label size</source>
+        <translation>Taille des étiquettes</translation>
+    </message>
+    <message>
+        <source>Size of the labels in points</source>
+        <translation>Taille des étiquettes en points</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Contours colour:</source>
+        <translation>Couleur des isolignes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Choose the colour of the lines</source>
+        <translation>Choisir la couleur des lignes</translation>
+    </message>
+    <message>
+        <source>Contours colour</source>
+        <translation>Couleur des isolignes</translation>
+    </message>
+    <message>
+        <source>Isolines (*.csv)</source>
+        <translation>Isolignes (*.csv)</translation>
+    </message>
+    <message>
+        <source>The section shows values from %1 to %2 %3</source>
+        <translation>La coupe affiche des valeurs de %1 à %2 %3</translation>
+    </message>
+    <message>
+        <source>Value : </source>
+        <translation>Valeur&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Remove this value</source>
+        <translation>Retirer cette valeur</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n value(s) of the list are no numbers from %1 to %2.</source>
+        <translation>
+            <numerusform>%n valeur de la liste n&apos;est pas un nombre de %1 à %2.</numerusform>
+            <numerusform>%n valeurs de la liste ne sont pas des nombres de %1 à %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Remplacer le fichier&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Cannot save file </source>
+        <translation>Impossible d&apos;enregistrer le fichier </translation>
+    </message>
+    <message>
+        <source>Cannot open file </source>
+        <translation>Impossible d&apos;ouvrir le fichier </translation>
+    </message>
+    <message>
+        <source>Invalid value at line </source>
+        <translation>Valeur non valide à la ligne </translation>
+    </message>
+    <message>
+        <source>Or wrong CVS separator.</source>
+        <translation>Ou séparateur CSV incorrect.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Some loaded isovalues were out of range. Ignored.</source>
+        <translation>Certaines isovaleurs chargées étaient hors plage. Elles ont été ignorées.</translation>
+    </message>
+    <message>
+        <source>Select background color</source>
+        <translation>Choisir la couleur des isolignes</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::doFilteringDialog</name>
+    <message>
+        <source>Trace Filtering</source>
+        <translation>Filtrage des traces</translation>
+    </message>
+    <message>
+        <source>High Pass Filter</source>
+        <translation>Filtre passe-haut</translation>
+    </message>
+    <message>
+        <source>Use &amp;high pass</source>
+        <translation>Utiliser le passe-&amp;haut</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Fréquence (Hz)</translation>
+    </message>
+    <message>
+        <source>High pass frequency in hertz</source>
+        <translation>Fréquence du passe-haut en hertz</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordre</translation>
+    </message>
+    <message>
+        <source>High pass order</source>
+        <translation>Ordre du passe-haut</translation>
+    </message>
+    <message>
+        <source>Low Pass Filter</source>
+        <translation>Filtre passe-bas</translation>
+    </message>
+    <message>
+        <source>Use &amp;low pass</source>
+        <translation>Utiliser le passe-&amp;bas</translation>
+    </message>
+    <message>
+        <source>Low pass frequency in hertz</source>
+        <translation>Fréquence du passe-bas en hertz</translation>
+    </message>
+    <message>
+        <source>Low pass order</source>
+        <translation>Ordre du passe-bas</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Appliquer le filtre à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Filter the samples as they were recorded</source>
+        <translation>Filtrer les échantillons tels qu&apos;enregistrés</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Originales</translation>
+    </message>
+    <message>
+        <source>Filter what the filters and AGC before made of them</source>
+        <translation>Filtrer ce que les filtres et l&apos;AGC précédents en ont fait</translation>
+    </message>
+    <message>
+        <source>Filtered</source>
+        <translation>Filtrées</translation>
+    </message>
+    <message>
+        <source>&amp;Apply filter</source>
+        <translation>&amp;Appliquer le filtre</translation>
+    </message>
+    <message>
+        <source>Display:</source>
+        <translation>Afficher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What the filter is applied to</source>
+        <translation>Ce à quoi le filtre est appliqué</translation>
+    </message>
+    <message>
+        <source>Original data</source>
+        <translation>Données originales</translation>
+    </message>
+    <message>
+        <source>What comes out of the filter</source>
+        <translation>Ce qui sort du filtre</translation>
+    </message>
+    <message>
+        <source>Filtered data</source>
+        <translation>Données filtrées</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>Tir %1 sur %2</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Le filtre s&apos;applique à tous les tirs.</translation>
+    </message>
+    <message>
+        <source>Caution</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>No filter applied. Filter order must be greater then 0.</source>
+        <translation>Aucun filtre appliqué. L&apos;ordre du filtre doit être supérieur à 0.</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>Aucun filtre appliqué.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n trace(s) stay as they were.</source>
+        <translation>
+            <numerusform>%n trace reste telle quelle.</numerusform>
+            <numerusform>%n traces restent telles quelles.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::draw1DVelocityProfile</name>
+    <message>
+        <source>Velocity against depth</source>
+        <translation>Vitesse en fonction de la profondeur</translation>
+    </message>
+    <message>
+        <source>Velocity (m/s)</source>
+        <translation>Vitesse (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth below the ground (m)</source>
+        <translation>Profondeur sous le sol (m)</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Couches</translation>
+    </message>
+    <message>
+        <source>Velocity that the grid gets</source>
+        <translation>Vitesse que recevra la grille</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::editTravelTimesWidget</name>
+    <message>
+        <source>Seismic traces</source>
+        <translation>Traces sismiques</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Supprimer les pointés</translation>
+    </message>
+    <message>
+        <source>Remove pick</source>
+        <translation>Supprimer le pointé</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Confirmer les pointés</translation>
+    </message>
+    <message>
+        <source>Nudge pick</source>
+        <translation>Ajuster le pointé</translation>
+    </message>
+    <message>
+        <source>Set pick</source>
+        <translation>Placer le pointé</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms</source>
+        <translation>Trace %1, pointée à %2 ms</translation>
+    </message>
+    <message>
+        <source>Trace %1, not picked</source>
+        <translation>Trace %1, non pointée</translation>
+    </message>
+    <message>
+        <source>Draw picks</source>
+        <translation>Tracer les pointés</translation>
+    </message>
+    <message>
+        <source>Move pick</source>
+        <translation>Déplacer le pointé</translation>
+    </message>
+    <message>
+        <source>No samples, only picks</source>
+        <translation>Aucun échantillon, seulement des pointés</translation>
+    </message>
+    <message>
+        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
+        <translation>Traces %1 à %2&#xa0;: C confirme, Suppr supprime, Échap quitte</translation>
+    </message>
+    <message>
+        <source>Open shot files with Ctrl+O or drop them here</source>
+        <translation>Ouvrez des fichiers de tirs avec Ctrl+O ou déposez-les ici</translation>
+    </message>
+    <message>
+        <source>No shot is shown</source>
+        <translation>Aucun tir affiché</translation>
+    </message>
+    <message>
+        <source>This shot has no traces</source>
+        <translation>Ce tir n&apos;a pas de traces</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::gridDialog</name>
+    <message>
+        <source>Grid Settings</source>
+        <translation>Paramètres de la grille</translation>
+    </message>
+    <message>
+        <source>Array length (m)</source>
+        <translation>Longueur du dispositif (m)</translation>
+    </message>
+    <message>
+        <source>Max. depth (m)</source>
+        <translation>Profondeur max. (m)</translation>
+    </message>
+    <message>
+        <source>A deeper grid costs time and memory. Rays rarely reach deeper than a quarter to a third of the distance between the outermost shots.</source>
+        <translation>Une grille plus profonde coûte du temps et de la mémoire. Les rais descendent rarement au-delà du quart au tiers de la distance entre les tirs extrêmes.</translation>
+    </message>
+    <message>
+        <source>Cell size (m)</source>
+        <translation>Taille des cellules (m)</translation>
+    </message>
+    <message>
+        <source>Smaller cells draw finer detail and fit the times closer, but rays cover each cell less, and time and memory grow with the inverse square. A quarter of the geophone spacing is a good start.</source>
+        <translation>Des cellules plus petites montrent des détails plus fins et ajustent mieux les temps, mais chacune est moins couverte par les rais, et le temps et la mémoire croissent comme l&apos;inverse du carré. Un quart de l&apos;espacement des géophones est un bon point de départ.</translation>
+    </message>
+    <message>
+        <source>N° of nodes per cell side</source>
+        <translation>Nombre de nœuds par côté de cellule</translation>
+    </message>
+    <message>
+        <source>More nodes let rays leave a cell at more angles, so computed times get more accurate; time and memory grow with the number. Beyond 15 little is gained.</source>
+        <translation>Avec plus de nœuds, les rais peuvent quitter une cellule sous plus d&apos;angles et les temps calculés sont plus précis&#xa0;; le temps et la mémoire croissent avec leur nombre. Au-delà de 15, le gain est faible.</translation>
+    </message>
+    <message>
+        <source>The grid will have</source>
+        <translation>La grille aura</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Cellules</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nœuds</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <source>The grid has no rows: choose a greater depth or smaller cells.</source>
+        <translation>La grille n&apos;a pas de lignes&#xa0;: choisissez une profondeur plus grande ou des cellules plus petites.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) at the end of the line lie beyond the last column and take no part in an inversion. Another cell size may reach them.</source>
+        <translation>
+            <numerusform>%n position à la fin de la ligne se trouve au-delà de la dernière colonne et ne participe pas à une inversion. Une autre taille de cellule peut l&apos;atteindre.</numerusform>
+            <numerusform>%n positions à la fin de la ligne se trouvent au-delà de la dernière colonne et ne participent pas à une inversion. Une autre taille de cellule peut les atteindre.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Invalid parameter</source>
+        <translation>Paramètre non valide</translation>
+    </message>
+    <message>
+        <source>The max depth parameter set to 0.0 is not valid for tomography</source>
+        <translation>Une profondeur maximale de 0,0 n&apos;est pas valide pour la tomographie</translation>
+    </message>
+    <message>
+        <source>Memory warning</source>
+        <translation>Avertissement sur la mémoire</translation>
+    </message>
+    <message>
+        <source>A large number of nodes may require a lot of memory</source>
+        <translation>Un grand nombre de nœuds peut demander beaucoup de mémoire</translation>
+    </message>
+    <message>
+        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
+        <translation>Des cellules si petites rendent l&apos;inversion très lente, et elle ne s&apos;arrête qu&apos;entre deux itérations. Le quart de l&apos;espacement des géophones est de %1&#xa0;m.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::progressDialog</name>
+    <message>
+        <source>Steps</source>
+        <translation>Étapes</translation>
+    </message>
+    <message>
+        <source>Saving project</source>
+        <translation>Enregistrement du projet</translation>
+    </message>
+    <message>
+        <source>Loading project</source>
+        <translation>Chargement du projet</translation>
+    </message>
+    <message>
+        <source>SAVED XML</source>
+        <translation>XML ENREGISTRÉ</translation>
+    </message>
+    <message>
+        <source>Saving grid...</source>
+        <translation>Enregistrement de la grille...</translation>
+    </message>
+    <message>
+        <source>SAVED GRID</source>
+        <translation>GRILLE ENREGISTRÉE</translation>
+    </message>
+    <message>
+        <source>Saving traces...</source>
+        <translation>Enregistrement des traces...</translation>
+    </message>
+    <message>
+        <source>SAVED TRACES</source>
+        <translation>TRACES ENREGISTRÉES</translation>
+    </message>
+    <message>
+        <source>Saving palettes...</source>
+        <translation>Enregistrement des palettes...</translation>
+    </message>
+    <message>
+        <source>SAVED PALETTES</source>
+        <translation>PALETTES ENREGISTRÉES</translation>
+    </message>
+    <message>
+        <source>Compressing...</source>
+        <translation>Compression...</translation>
+    </message>
+    <message>
+        <source>COMPRESSED</source>
+        <translation>COMPRESSÉ</translation>
+    </message>
+    <message>
+        <source>Removing temporary files...</source>
+        <translation>Suppression des fichiers temporaires...</translation>
+    </message>
+    <message>
+        <source>COMPLETED</source>
+        <translation>TERMINÉ</translation>
+    </message>
+    <message>
+        <source>Extracted</source>
+        <translation>Extrait</translation>
+    </message>
+    <message>
+        <source>Loading XML</source>
+        <translation>Chargement du XML</translation>
+    </message>
+    <message>
+        <source>Loaded XML</source>
+        <translation>XML chargé</translation>
+    </message>
+    <message>
+        <source>Loading grid...</source>
+        <translation>Chargement de la grille...</translation>
+    </message>
+    <message>
+        <source>Loaded GRID</source>
+        <translation>GRILLE chargée</translation>
+    </message>
+    <message>
+        <source>Loading traces...</source>
+        <translation>Chargement des traces...</translation>
+    </message>
+    <message>
+        <source>Loaded TRACES</source>
+        <translation>TRACES chargées</translation>
+    </message>
+    <message>
+        <source>Loading palettes...</source>
+        <translation>Chargement des palettes...</translation>
+    </message>
+    <message>
+        <source>Loaded PALETTES</source>
+        <translation>PALETTES chargées</translation>
+    </message>
+    <message>
+        <source>Tracing rays...</source>
+        <translation>Tracé des rais...</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::progressTomographyDialog</name>
+    <message>
+        <source>Tomography inversion</source>
+        <translation>Inversion tomographique</translation>
+    </message>
+    <message>
+        <source>Ends the inversion after the external iteration under way and keeps what it has reached</source>
+        <translation>Termine l&apos;inversion après l&apos;itération externe en cours et conserve ce qu&apos;elle a atteint</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>Completed iteration %1</source>
+        <translation>Itération %1 terminée</translation>
+    </message>
+    <message>
+        <source>Elapsed: %1</source>
+        <translation>Écoulé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>pas encore connu</translation>
+    </message>
+    <message>
+        <source>Remaining: %1</source>
+        <translation>Restant&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Stops when the iteration under way is completed.</source>
+        <translation>S&apos;arrêtera à la fin de l&apos;itération en cours.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::runTomography_Dialog</name>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Lancer l&apos;inversion tomographique</translation>
+    </message>
+    <message>
+        <source>Number of external iterations (default =5)</source>
+        <translation>Nombre d&apos;itérations externes (par défaut =5)</translation>
+    </message>
+    <message>
+        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little.</source>
+        <translation>Chaque itération externe retrace les rais à travers le modèle obtenu jusque-là. Davantage d&apos;itérations courbent les rais plus près de la réalité et réduisent l&apos;écart&#xa0;; le temps croît avec leur nombre. Quand la courbe de l&apos;écart s&apos;est aplatie, de nouvelles itérations changent peu.</translation>
+    </message>
+    <message>
+        <source>Number of solver iterations (default =20)</source>
+        <translation>Nombre d&apos;itérations du solveur (par défaut =20)</translation>
+    </message>
+    <message>
+        <source>How far the velocities are corrected along the same rays before these are traced anew. More fit the times closer but may overfit noise; fewer keep the model smoother.</source>
+        <translation>Jusqu&apos;où les vitesses sont corrigées le long des mêmes rais avant que ceux-ci soient retracés. Plus d&apos;itérations ajustent mieux les temps mais peuvent suivre le bruit&#xa0;; moins d&apos;itérations gardent un modèle plus lisse.</translation>
+    </message>
+    <message>
+        <source>Smoothing parameter (default =5) </source>
+        <translation>Paramètre de lissage (par défaut =5) </translation>
+    </message>
+    <message>
+        <source>How many cells to each side are averaged after every external iteration. Larger gives a smoother section that hides small bodies; smaller shows detail and artefacts along rays.</source>
+        <translation>Nombre de cellules de chaque côté moyennées après chaque itération externe. Plus grand, il donne une coupe plus lisse qui cache les petits corps&#xa0;; plus petit, il montre les détails et les artefacts le long des rais.</translation>
+    </message>
+    <message>
+        <source>Minimum velocity [m/s]</source>
+        <translation>Vitesse minimale [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get slower than this. Set it to the slowest ground that you expect.</source>
+        <translation>Les cellules ne deviennent jamais plus lentes. Indiquez le terrain le plus lent attendu.</translation>
+    </message>
+    <message>
+        <source>Maximum velocity [m/s]</source>
+        <translation>Vitesse maximale [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get faster than this. Set it to the fastest rock that you expect.</source>
+        <translation>Les cellules ne deviennent jamais plus rapides. Indiquez la roche la plus rapide attendue.</translation>
+    </message>
+    <message>
+        <source>Type of smoothing:</source>
+        <translation>Type de lissage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Uniform averages all cells alike; linear and Gaussian give near cells more weight and keep contrasts sharper; ray based first fills the cells that no ray crossed from those that rays did.</source>
+        <translation>Le lissage uniforme moyenne toutes les cellules de la même façon&#xa0;; le linéaire et le gaussien donnent plus de poids aux cellules proches et gardent des contrastes plus nets&#xa0;; celui basé sur les rais remplit d&apos;abord les cellules qu&apos;aucun rai n&apos;a traversées à partir de celles qui l&apos;ont été.</translation>
+    </message>
+    <message>
+        <source>Uniform weighted smoothing</source>
+        <translation>Lissage à poids uniformes</translation>
+    </message>
+    <message>
+        <source>Linear weighted smoothing</source>
+        <translation>Lissage à poids linéaires</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted smoothing</source>
+        <translation>Lissage à poids gaussiens</translation>
+    </message>
+    <message>
+        <source>Ray based smoothing</source>
+        <translation>Lissage basé sur les rais</translation>
+    </message>
+    <message>
+        <source>Unchecked, the smoothing reaches 0.7 times as far up and down as sideways, which suits layered ground. Checked, it reaches equally far, which suits bodies and steep contacts.</source>
+        <translation>Si la case n&apos;est pas cochée, le lissage s&apos;étend verticalement à 0,7 fois sa portée horizontale, ce qui convient à un terrain stratifié. Si elle est cochée, il s&apos;étend autant dans les deux sens, ce qui convient aux corps isolés et aux contacts raides.</translation>
+    </message>
+    <message>
+        <source>Symmetric smoothing</source>
+        <translation>Lissage symétrique</translation>
+    </message>
+    <message>
+        <source>Uses one processor only. The result is the same to the last digit; it just takes longer.</source>
+        <translation>N&apos;utilise qu&apos;un seul processeur. Le résultat est le même jusqu&apos;au dernier chiffre&#xa0;; cela prend seulement plus de temps.</translation>
+    </message>
+    <message>
+        <source>Run in single thread mode</source>
+        <translation>Exécuter en un seul thread</translation>
+    </message>
+    <message>
+        <source>The minimum is above the maximum: every cell that changes will end at the maximum.</source>
+        <translation>Le minimum est supérieur au maximum&#xa0;: chaque cellule modifiée finira au maximum.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::select_speed_Dialog</name>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Définir le modèle de vitesse</translation>
+    </message>
+    <message>
+        <source>Depths in metres below the ground, velocities in m/s</source>
+        <translation>Profondeurs sous le sol en mètres, vitesses en m/s</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Couches</translation>
+    </message>
+    <message>
+        <source>Splits the last layer at its middle</source>
+        <translation>Divise la dernière couche en son milieu</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Removes the layers that are checked or selected</source>
+        <translation>Supprime les couches cochées ou sélectionnées</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model.</source>
+        <translation>Les couches ne forment pas un modèle de vitesse.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::setGeographyDialog</name>
+    <message>
+        <source>Set geographic coordinates</source>
+        <translation>Coordonnées géographiques</translation>
+    </message>
+    <message>
+        <source>Easting (m)</source>
+        <translation>Est (m)</translation>
+    </message>
+    <message>
+        <source>Northing (m)</source>
+        <translation>Nord (m)</translation>
+    </message>
+    <message>
+        <source>Latitude, longitude (WGS84)</source>
+        <translation>Latitude, longitude (WGS84)</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Premier géophone</translation>
+    </message>
+    <message>
+        <source>Easting of the first geophone in metres</source>
+        <translation>Coordonnée est du premier géophone en mètres</translation>
+    </message>
+    <message>
+        <source>Northing of the first geophone in metres</source>
+        <translation>Coordonnée nord du premier géophone en mètres</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Dernier géophone</translation>
+    </message>
+    <message>
+        <source>Easting of the last geophone in metres</source>
+        <translation>Coordonnée est du dernier géophone en mètres</translation>
+    </message>
+    <message>
+        <source>Northing of the last geophone in metres</source>
+        <translation>Coordonnée nord du dernier géophone en mètres</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>Code EPSG</translation>
+    </message>
+    <message>
+        <source>EPSG code of the reference system</source>
+        <translation>Code EPSG du système de référence</translation>
+    </message>
+    <message>
+        <source>First geophone (at %1 m)</source>
+        <translation>Premier géophone (à %1 m)</translation>
+    </message>
+    <message>
+        <source>Last geophone (at %1 m)</source>
+        <translation>Dernier géophone (à %1 m)</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>south</comment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <comment>east</comment>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <comment>west</comment>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>There is no reference system with this EPSG code.</source>
+        <translation>Il n&apos;existe pas de système de référence avec ce code EPSG.</translation>
+    </message>
+    <message>
+        <source>This system is not projected: it has no easting and northing.</source>
+        <translation>Ce système n&apos;est pas projeté&#xa0;: il n&apos;a pas de coordonnées est et nord.</translation>
+    </message>
+    <message>
+        <source>This system does not count in metres. Choose one that does.</source>
+        <translation>Ce système n&apos;est pas en mètres. Choisissez-en un en mètres.</translation>
+    </message>
+    <message>
+        <source>This system counts westward or southward. Choose one with easting and northing.</source>
+        <translation>Ce système compte vers l&apos;ouest ou vers le sud. Choisissez-en un avec des coordonnées est et nord.</translation>
+    </message>
+    <message>
+        <source>This system cannot be turned into longitude and latitude.</source>
+        <translation>Ce système ne peut pas être converti en longitude et latitude.</translation>
+    </message>
+    <message>
+        <source>Enter easting and northing of both geophones, in metres.</source>
+        <translation>Saisissez les coordonnées est et nord des deux géophones, en mètres.</translation>
+    </message>
+    <message>
+        <source>Enter the EPSG code of the reference system, for example 32632 for UTM zone 32 N.</source>
+        <translation>Saisissez le code EPSG du système de référence, par exemple 32632 pour UTM zone 32 N.</translation>
+    </message>
+    <message>
+        <source>The first and the last geophone have the same coordinates.</source>
+        <translation>Le premier et le dernier géophone ont les mêmes coordonnées.</translation>
+    </message>
+    <message>
+        <source>These coordinates lie outside of the reference system.</source>
+        <translation>Ces coordonnées sont en dehors du système de référence.</translation>
+    </message>
+    <message>
+        <source>On the map the two geophones are %1 m apart</source>
+        <translation>Sur la carte, les deux géophones sont distants de %1 m</translation>
+    </message>
+    <message>
+        <source>%1, along the line %2 m.</source>
+        <comment>distance on the map, distance along the line</comment>
+        <translation>%1, le long de la ligne de %2 m.</translation>
+    </message>
+    <message>
+        <source>Check the coordinates.</source>
+        <translation>Vérifiez les coordonnées.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::setVelocityWidget</name>
+    <message>
+        <source>Marks the layer for Remove</source>
+        <translation>Marque la couche pour «&#xa0;Supprimer&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Initial depth   </source>
+        <translation>Profondeur initiale   </translation>
+    </message>
+    <message>
+        <source>Depth of the layer&apos;s top below the ground, metres</source>
+        <translation>Profondeur du toit de la couche sous le sol, en mètres</translation>
+    </message>
+    <message>
+        <source>    Velocity</source>
+        <translation>    Vitesse</translation>
+    </message>
+    <message>
+        <source>Velocity at the layer&apos;s top, m/s</source>
+        <translation>Vitesse au toit de la couche, m/s</translation>
+    </message>
+    <message>
+        <source>Final depth</source>
+        <translation>Profondeur finale</translation>
+    </message>
+    <message>
+        <source>Depth of the layer&apos;s bottom below the ground, metres</source>
+        <translation>Profondeur de la base de la couche sous le sol, en mètres</translation>
+    </message>
+    <message>
+        <source>    Velocity  </source>
+        <translation>    Vitesse  </translation>
+    </message>
+    <message>
+        <source>Velocity at the layer&apos;s bottom, m/s</source>
+        <translation>Vitesse à la base de la couche, m/s</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::smoothingDialog</name>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Appliquer un lissage</translation>
+    </message>
+    <message>
+        <source>Smooths the velocities of the present grid. Rays and misfit stay those of the last inversion.</source>
+        <translation>Lisse les vitesses de la grille actuelle. Les rais et l&apos;écart restent ceux de la dernière inversion.</translation>
+    </message>
+    <message>
+        <source>&amp;Type of smoothing:</source>
+        <translation>&amp;Type de lissage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Uniform averages all cells alike; linear and Gaussian give near cells more weight and keep contrasts sharper; ray based first fills the cells that no ray crossed from those that rays did.</source>
+        <translation>Le lissage uniforme moyenne toutes les cellules de la même façon&#xa0;; le linéaire et le gaussien donnent plus de poids aux cellules proches et gardent des contrastes plus nets&#xa0;; celui basé sur les rais remplit d&apos;abord les cellules qu&apos;aucun rai n&apos;a traversées à partir de celles qui l&apos;ont été.</translation>
+    </message>
+    <message>
+        <source>Uniform weighted smoothing</source>
+        <translation>Lissage à poids uniformes</translation>
+    </message>
+    <message>
+        <source>Linear weighted smoothing</source>
+        <translation>Lissage à poids linéaires</translation>
+    </message>
+    <message>
+        <source>Gaussian weighted smoothing</source>
+        <translation>Lissage à poids gaussiens</translation>
+    </message>
+    <message>
+        <source>Ray based smoothing</source>
+        <translation>Lissage basé sur les rais</translation>
+    </message>
+    <message>
+        <source>Smoothing &amp;parameter:</source>
+        <translation>&amp;Paramètre de lissage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How many cells to each side are averaged. Larger gives a smoother section that hides small bodies.</source>
+        <translation>Nombre de cellules de chaque côté moyennées. Plus grand, il donne une coupe plus lisse qui cache les petits corps.</translation>
+    </message>
+    <message>
+        <source>Unchecked, the smoothing reaches 0.7 times as far up and down as sideways, which suits layered ground. Checked, it reaches equally far, which suits bodies and steep contacts.</source>
+        <translation>Si la case n&apos;est pas cochée, le lissage s&apos;étend verticalement à 0,7 fois sa portée horizontale, ce qui convient à un terrain stratifié. Si elle est cochée, il s&apos;étend autant dans les deux sens, ce qui convient aux corps isolés et aux contacts raides.</translation>
+    </message>
+    <message>
+        <source>&amp;Symmetric smoothing</source>
+        <translation>Lissage &amp;symétrique</translation>
+    </message>
+</context>
+</TS>
