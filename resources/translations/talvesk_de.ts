@@ -785,6 +785,14 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Computed minus measured [ms]</source>
         <translation>Berechnet minus gemessen [ms]</translation>
     </message>
+    <message>
+        <source>RMS misfit of the inversion %1 %</source>
+        <translation>RMS-Abweichung der Inversion %1 %</translation>
+    </message>
+    <message>
+        <source>Refractor %1</source>
+        <translation>Refraktor %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -2083,10 +2091,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Geschwindigkeit des Startmodells</translation>
     </message>
     <message>
-        <source>Velocity section with the rays of the last iteration</source>
-        <translation>Geschwindigkeitsschnitt mit den Strahlen der letzten Iteration</translation>
-    </message>
-    <message>
         <source>Misfit</source>
         <translation>Abweichung</translation>
     </message>
@@ -2345,6 +2349,18 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
         <translation>Die Abweichung ist der Unterschied zwischen berechneten und gemessenen Zeiten. Die berechneten Zeiten sind die entlang der Strahlen der letzten Iteration, vor ihrer letzten Korrektur und Glättung, oder die durch den Schnitt, wie er gezeichnet ist, wenn das Projekt wieder geöffnet wurde. RMS ist das quadratische Mittel der Abweichung, in Millisekunden oder in Prozent der gemessenen Zeiten. Die Informationsdichte sagt, wie vollständig Strahlen die Umgebung einer Zelle durchqueren; wo sie gering ist, sind die Geschwindigkeiten durch die Daten schwach gestützt, und unterhalb der tiefsten Strahlen wird der Schnitt nicht gezeichnet. Geschwindigkeiten, die mit der Tiefe abnehmen, und dünne Schichten können den Ersteinsätzen verborgen bleiben.</translation>
+    </message>
+    <message>
+        <source>The misfit of an iteration is that of its own rays, before the last correction of the velocities and before they are smoothed. New rays through the finished section are faster in places, and their misfit is usually larger.</source>
+        <translation>Die Abweichung einer Iteration ist die ihrer eigenen Strahlen, vor der letzten Korrektur der Geschwindigkeiten und vor ihrer Glättung. Neue Strahlen durch den fertigen Schnitt sind stellenweise schneller, und ihre Abweichung ist meist größer.</translation>
+    </message>
+    <message>
+        <source>Velocity section with rays</source>
+        <translation>Geschwindigkeitsschnitt mit Strahlen</translation>
+    </message>
+    <message>
+        <source>Misfit after the last external iteration</source>
+        <translation>Abweichung nach der letzten äußeren Iteration</translation>
     </message>
 </context>
 <context>

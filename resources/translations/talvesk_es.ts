@@ -785,6 +785,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Computed minus measured [ms]</source>
         <translation>Calculado menos medido [ms]</translation>
     </message>
+    <message>
+        <source>RMS misfit of the inversion %1 %</source>
+        <translation>Desajuste RMS de la inversión: %1 %</translation>
+    </message>
+    <message>
+        <source>Refractor %1</source>
+        <translation>Refractor %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -2083,10 +2091,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Velocidad del modelo inicial</translation>
     </message>
     <message>
-        <source>Velocity section with the rays of the last iteration</source>
-        <translation>Sección de velocidad con los rayos de la última iteración</translation>
-    </message>
-    <message>
         <source>Misfit</source>
         <translation>Desajuste</translation>
     </message>
@@ -2345,6 +2349,18 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
         <translation>El desajuste es la diferencia entre los tiempos calculados y los medidos. Los tiempos calculados son los que resultan a lo largo de los rayos de la última iteración, antes de su última corrección y suavizado, o a través de la sección tal como está dibujada si el proyecto se abrió de nuevo. RMS es la media cuadrática del desajuste, en milisegundos o en porcentaje de los tiempos medidos. La densidad de información dice hasta qué punto los rayos cruzan los alrededores de una celda; donde es baja, los datos apoyan poco las velocidades, y por debajo de los rayos más profundos la sección no se dibuja. Las velocidades que disminuyen con la profundidad y las capas delgadas pueden quedar ocultas a las primeras llegadas.</translation>
+    </message>
+    <message>
+        <source>The misfit of an iteration is that of its own rays, before the last correction of the velocities and before they are smoothed. New rays through the finished section are faster in places, and their misfit is usually larger.</source>
+        <translation>El desajuste de una iteración es el de sus propios rayos, antes de la última corrección de las velocidades y antes de suavizarlas. Los rayos nuevos a través de la sección terminada son más rápidos en algunos lugares, y su desajuste suele ser mayor.</translation>
+    </message>
+    <message>
+        <source>Velocity section with rays</source>
+        <translation>Sección de velocidad con rayos</translation>
+    </message>
+    <message>
+        <source>Misfit after the last external iteration</source>
+        <translation>Desajuste tras la última iteración externa</translation>
     </message>
 </context>
 <context>

@@ -785,6 +785,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Computed minus measured [ms]</source>
         <translation>Calculés moins mesurés [ms]</translation>
     </message>
+    <message>
+        <source>RMS misfit of the inversion %1 %</source>
+        <translation>Écart RMS de l&apos;inversion&#xa0;: %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Refractor %1</source>
+        <translation>Réfracteur %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -2083,10 +2091,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Vitesse du modèle initial</translation>
     </message>
     <message>
-        <source>Velocity section with the rays of the last iteration</source>
-        <translation>Coupe de vitesse avec les rais de la dernière itération</translation>
-    </message>
-    <message>
         <source>Misfit</source>
         <translation>Écart</translation>
     </message>
@@ -2345,6 +2349,18 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
         <translation>L&apos;écart est la différence entre temps calculés et mesurés. Les temps calculés sont ceux le long des rais de la dernière itération, avant sa dernière correction et son lissage, ou à travers la coupe telle qu&apos;elle est dessinée si le projet a été rouvert. Le RMS est la moyenne quadratique de l&apos;écart, en millisecondes ou en pourcentage des temps mesurés. La densité d&apos;information dit à quel point les rais traversent les environs d&apos;une cellule ; là où elle est faible, les vitesses sont peu étayées par les données, et sous les rais les plus profonds la coupe n&apos;est pas dessinée. Des vitesses qui diminuent avec la profondeur et des couches minces peuvent rester cachées aux premières arrivées.</translation>
+    </message>
+    <message>
+        <source>The misfit of an iteration is that of its own rays, before the last correction of the velocities and before they are smoothed. New rays through the finished section are faster in places, and their misfit is usually larger.</source>
+        <translation>L&apos;écart d&apos;une itération est celui de ses propres rais, avant la dernière correction des vitesses et avant leur lissage. De nouveaux rais à travers la coupe terminée sont plus rapides par endroits, et leur écart est en général plus grand.</translation>
+    </message>
+    <message>
+        <source>Velocity section with rays</source>
+        <translation>Coupe de vitesse avec rais</translation>
+    </message>
+    <message>
+        <source>Misfit after the last external iteration</source>
+        <translation>Écart après la dernière itération externe</translation>
     </message>
 </context>
 <context>
