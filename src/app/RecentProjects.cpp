@@ -19,7 +19,8 @@ QStringList RecentProjects::list() const {
 }
 
 void RecentProjects::write(const QStringList& projects) {
-  QSettings(mFile, QSettings::IniFormat).setValue(kKey, QVariant(QStringList(projects.mid(0, kMost))));
+  QSettings(mFile, QSettings::IniFormat)
+      .setValue(kKey, QVariant(QStringList(projects.mid(0, kMost))));
 }
 
 void RecentProjects::add(const QString& project) {
