@@ -2496,8 +2496,16 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation> %</translation>
     </message>
     <message>
-        <source>%1 times the view: %2 x %3 pixels</source>
-        <translation>%1 volte la vista: %2 x %3 pixel</translation>
+        <source>As the view</source>
+        <translation>Come la vista</translation>
+    </message>
+    <message>
+        <source>%1 times the view</source>
+        <translation>%1 volte la vista</translation>
+    </message>
+    <message>
+        <source>%1: %2 x %3 pixels</source>
+        <translation>%1: %2 x %3 pixel</translation>
     </message>
 </context>
 <context>

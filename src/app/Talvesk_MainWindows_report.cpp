@@ -11,6 +11,7 @@
 #include "widgets/SectionView.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDate>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -121,6 +122,9 @@ void Talvesk_MainWindows::on_actionScreenshot_triggered() {
   logSlot(__func__);
   const SectionView* view = mUi->vtk_widget;
   if (view->isEmpty()) return;
+  // What is not in view has no size yet, and the user should see what he gets.
+  mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   const QSize size = view->sheet()->size();
   ScreenshotDialog dialog(size, this);
   if (dialog.exec() != QDialog::Accepted) return;
