@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <algorithm>
 
@@ -39,6 +40,7 @@ ImagesDialog::ImagesDialog(const TomoDocument& document,
       mLook(look),
       mShot(shot) {
   mUi->setupUi(this);
+  resize(width(), std::min(height(), screen()->availableGeometry().height() * 9 / 10));
   offerWhatThereIs();
   for (QCheckBox* box : findChildren<QCheckBox*>()) {
     connect(box, &QCheckBox::toggled, this, &ImagesDialog::refresh);

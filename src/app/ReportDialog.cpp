@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QVBoxLayout>
@@ -68,9 +69,20 @@ ReportDialog::ReportDialog(const ReportOptions& options, Build build, QWidget* p
   connect(mUi->sectionBox, &QCheckBox::toggled, mUi->densityBox, &QCheckBox::setEnabled);
   connect(mUi->previewButton, &QPushButton::clicked, this, &ReportDialog::preview);
   connect(mUi->buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  fitIntoScreen();
 }
 
 ReportDialog::~ReportDialog() = default;
+
+/// On a screen that is shorter than all of the fields they scroll, and the buttons stay in sight.
+void ReportDialog::fitIntoScreen() {
+  mUi->leftArea->setMinimumWidth(mUi->leftPane->minimumSizeHint().width() +
+                                 mUi->leftArea->verticalScrollBar()->sizeHint().width());
+  const QMargins margins = mUi->dialogLayout->contentsMargins();
+  const int all = mUi->leftPane->sizeHint().height() + mUi->buttonBox->sizeHint().height() +
+                  margins.top() + margins.bottom() + mUi->dialogLayout->spacing();
+  resize(width(), std::min(all, screen()->availableGeometry().height() * 9 / 10));
+}
 
 ReportOptions ReportDialog::options() const {
   ReportOptions options = mOptions;

@@ -33,6 +33,7 @@ class ReportDialog : public QDialog {
   void recall(const QSettings& settings);
 
  private:
+  void fitIntoScreen();
   void preview();
   void forgetPreview();
 
