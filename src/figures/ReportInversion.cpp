@@ -155,9 +155,18 @@ SectionFigureOptions sectionOptions(const ReportBuilder& builder, SectionQuantit
   if (options.scene.quantity != quantity) {
     // Range and contours are those of another quantity.
     options.scene.range.reset();
+    const ValueRange velocities{options.palette.min_db, options.palette.max_db};
+    if (quantity == SectionQuantity::kVelocity && velocities.span() > 0.0 &&
+        std::isfinite(velocities.span())) {
+      options.scene.range = velocities;
+    }
     options.scene.contourValues.clear();
     options.scene.equallySpacedContours = 0;
+    if (options.scene.fill == SectionFill::kBands) options.scene.fill = SectionFill::kCells;
   }
+  // What the user has hidden on the screen is what the figure is about.
+  if (options.scene.fill == SectionFill::kNone) options.scene.fill = SectionFill::kCells;
+  if (options.colorBar == ColorBar::kNone) options.colorBar = ColorBar::kVertical;
   options.scene.quantity = quantity;
   options.widthMm = builder.widthMm();
   options.heightMm = 0.0;

@@ -5,9 +5,11 @@
 #include "support/TestFolder.h"
 #include "support/TestSurveys.h"
 #include "tomo/TomographyRun.h"
+#include "view/SectionViewSettings.h"
 
 #include <QByteArray>
 #include <QImage>
+#include <QPainter>
 #include <QXmlStreamReader>
 #include <cmath>
 #include <memory>
@@ -218,6 +220,41 @@ TEST(Report, keepsItsOwnNumbersAndThoseOfTheRun) {
   EXPECT_EQ(tableOf(content, "Misfit after every external iteration").rows.size(), 2u);
   EXPECT_THAT(tableOf(content, "The line").rows,
               Contains(QStringList({"Length of the line", "24.00 m"})));
+}
+
+/// The figures of the sections, painted.
+std::vector<QImage> sectionsOf(const TomoDocument& line, const SectionViewSettings& view) {
+  ReportOptions options;
+  options.sections.travelTimes = options.sections.rays = options.sections.misfit = false;
+  options.section = sectionFigureOptions(view, options.section.palette, {});
+  std::vector<QImage> pictures;
+  for (const ReportItem& item : reportOn({line}, options).items) {
+    if (item.kind != Kind::kFigure) continue;
+    QImage picture(1000, 500, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    item.figure.paint(painter, picture.rect());
+    painter.end();
+    pictures.push_back(picture);
+  }
+  return pictures;
+}
+
+TEST(Report, showsItsSectionsWhateverTheViewHides) {
+  const TomoDocument line = invertedLine();
+  const SectionViewSettings plain;
+  const std::vector<QImage> wanted = sectionsOf(line, plain);
+  ASSERT_EQ(wanted.size(), 2u);
+  EXPECT_NE(wanted[0], wanted[1]);
+  SectionViewSettings bare;
+  bare.profile = bare.scalarBar = false;
+  EXPECT_EQ(sectionsOf(line, bare), wanted) << "cells and colour bar";
+  SectionViewSettings other;
+  other.quantity = SectionQuantity::kVerticalGradient;
+  EXPECT_EQ(sectionsOf(line, other), wanted) << "range of the palette";
+  SectionViewSettings bands;
+  bands.contours.filled = true;
+  EXPECT_EQ(sectionsOf(line, bands)[1], wanted[1]) << "bands are of velocity only";
 }
 
 TEST(Report, tellsTimesOfTheInversionFromTimesTracedAnew) {
