@@ -47,11 +47,17 @@ Status writeFileAtomically(const std::string& path, std::string_view bytes) {
   }
   QSaveFile file(name);
   file.setDirectWriteFallback(false);
-  if (!file.open(QIODevice::WriteOnly)) return failedTo("write", path, file.errorString());
-  const auto size = static_cast<qint64>(bytes.size());
-  if (file.write(bytes.data(), size) != size || !file.commit()) {
+  // What stays in a buffer until the end may be lost on a full disk without a word.
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
     return failedTo("write", path, file.errorString());
   }
+  // A full disk takes what still fits and calls it no error; what comes next is told why it failed.
+  while (!bytes.empty()) {
+    const qint64 written = file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    if (written <= 0) return failedTo("write", path, file.errorString());
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  if (!file.commit()) return failedTo("write", path, file.errorString());
   return {};
 }
 
