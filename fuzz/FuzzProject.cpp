@@ -58,12 +58,15 @@ LoadedProject soundProject() {
 struct Workshop {
   Workshop() {
     const std::string archive = root() + "sound.tvsk";
-    demand(save(archive, root(), soundProject()) == 0, "the sound project can be saved");
+    QDir(folder.path()).mkdir(QStringLiteral("work"));
+    demand(save(archive, work(), soundProject()) == 0, "the sound project can be saved");
     QDir(folder.path()).mkdir(QStringLiteral("loose"));
     demand(readZip(archive, loose()) == 0, "and extracted");
   }
   std::string root() const { return folder.path().toStdString() + "/"; }
   std::string loose() const { return root() + "loose/"; }
+  /// Its folders are the reader's, to delete with every load.
+  std::string work() const { return root() + "work/"; }
 
   QTemporaryDir folder;
 };
@@ -110,13 +113,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   build(shop, bytes[0] % 6, bytes + 1, size - 1, archive);
   LoadedProject project;
   projectReader reader;
-  const bool loaded = reader.load(archive, shop.root(), project) == 0;
+  const bool loaded = reader.load(archive, shop.work(), project) == 0;
   demand(loaded == reader.message().empty(), "a message with every failure");
   if (!loaded) return 0;
   demandWhole(project);
-  demand(save(archive, shop.root(), project) == 0, "what was loaded can be saved");
+  demand(save(archive, shop.work(), project) == 0, "what was loaded can be saved");
   LoadedProject again;
-  demand(reader.load(archive, shop.root(), again) == 0, "and loaded");
+  demand(reader.load(archive, shop.work(), again) == 0, "and loaded");
   demandWhole(again);
   return 0;
 }
