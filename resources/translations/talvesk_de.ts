@@ -2496,8 +2496,16 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation> %</translation>
     </message>
     <message>
-        <source>%1 times the view: %2 x %3 pixels</source>
-        <translation>%1-mal die Ansicht: %2 x %3 Pixel</translation>
+        <source>As the view</source>
+        <translation>Wie die Ansicht</translation>
+    </message>
+    <message>
+        <source>%1 times the view</source>
+        <translation>%1-mal die Ansicht</translation>
+    </message>
+    <message>
+        <source>%1: %2 x %3 pixels</source>
+        <translation>%1: %2 x %3 Pixel</translation>
     </message>
 </context>
 <context>

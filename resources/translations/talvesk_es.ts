@@ -2496,8 +2496,16 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation> %</translation>
     </message>
     <message>
-        <source>%1 times the view: %2 x %3 pixels</source>
-        <translation>%1 veces la vista: %2 x %3 píxeles</translation>
+        <source>As the view</source>
+        <translation>Como la vista</translation>
+    </message>
+    <message>
+        <source>%1 times the view</source>
+        <translation>%1 veces la vista</translation>
+    </message>
+    <message>
+        <source>%1: %2 x %3 pixels</source>
+        <translation>%1: %2 x %3 píxeles</translation>
     </message>
 </context>
 <context>

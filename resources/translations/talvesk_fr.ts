@@ -2496,8 +2496,16 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>&#xa0;%</translation>
     </message>
     <message>
-        <source>%1 times the view: %2 x %3 pixels</source>
-        <translation>%1 fois la vue&#xa0;: %2 x %3 pixels</translation>
+        <source>As the view</source>
+        <translation>Comme la vue</translation>
+    </message>
+    <message>
+        <source>%1 times the view</source>
+        <translation>%1 fois la vue</translation>
+    </message>
+    <message>
+        <source>%1: %2 x %3 pixels</source>
+        <translation>%1&#xa0;: %2 x %3 pixels</translation>
     </message>
 </context>
 <context>
