@@ -23,10 +23,12 @@ void forEachOption(Form& form, SettingsType& settings, Visit visit) {
   visit(*form.savePngHColorbar, settings.savePngHColorbar);
 }
 
+/// The language of the system, or English where the program does not speak it.
 int languageOfSystem(const std::vector<Language>& languages) {
-  const QString wanted = QLocale::system().name();
-  for (std::size_t i = 0; i < languages.size(); ++i) {
-    if (wanted.startsWith(languages[i].code)) return static_cast<int>(i);
+  for (const QString& wanted : {QLocale::system().name(), QStringLiteral("en")}) {
+    for (std::size_t i = 0; i < languages.size(); ++i) {
+      if (wanted.startsWith(languages[i].code)) return static_cast<int>(i);
+    }
   }
   return 0;
 }
