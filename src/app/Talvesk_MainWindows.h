@@ -245,6 +245,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void saveHistoryOf(const QString& file);
   void exportCurves();
   QString askForExport(const QString& title, const QString& filter, const char* suffix);
+  QString askForGriddedText();
   void tellExport(const Status& written, const QString& file);
   bool mayOverwrite(const std::vector<PlannedImage>& images);
   void writeImages(const std::vector<PlannedImage>& images);

@@ -42,12 +42,18 @@ void Talvesk_MainWindows::tellExport(const Status& written, const QString& file)
             QString::fromStdString(written.message()));
 }
 
-void Talvesk_MainWindows::on_actionExport_tomographic_data_triggered() {
-  logSlot(__func__);
-  if (!mDocument.grid) return;
+QString Talvesk_MainWindows::askForGriddedText() {
   const QString file = askForExport(
       tr("Export Gridded Data"),
       tr("Save gridded tomographic velocity in a text file (*.txt);;All Files (*)"), "txt");
+  if (!file.isEmpty()) announceGriddedText(file.toStdString());
+  return file;
+}
+
+void Talvesk_MainWindows::on_actionExport_tomographic_data_triggered() {
+  logSlot(__func__);
+  if (!mDocument.grid) return;
+  const QString file = askForGriddedText();
   if (file.isEmpty()) return;
   GriddedTextOptions options;
   options.zOffset = -referenceElevation(*mDocument.grid);
@@ -57,9 +63,7 @@ void Talvesk_MainWindows::on_actionExport_tomographic_data_triggered() {
 void Talvesk_MainWindows::on_actionGridded_Data_triggered() {
   logSlot(__func__);
   if (!mDocument.grid) return;
-  const QString file = askForExport(
-      tr("Export Gridded Data"),
-      tr("Save gridded tomographic velocity in a text file (*.txt);;All Files (*)"), "txt");
+  const QString file = askForGriddedText();
   if (file.isEmpty()) return;
   ExportTomoVelData dialog(this);
   if (dialog.exec() != QDialog::Accepted) return;

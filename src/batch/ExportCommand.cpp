@@ -53,8 +53,10 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
     }
   };
   using Path = const std::string&;
-  attempt(options.gridded,
-          [&](Path path) { return writeGriddedText(path, document, options.griddedText); });
+  attempt(options.gridded, [&](Path path) {
+    announceGriddedText(path);
+    return writeGriddedText(path, document, options.griddedText);
+  });
   attempt(options.otte, [&](Path path) { return writeTravelTimes(path, document); });
   attempt(options.vtk, [&](Path path) { return writeVtkGrid(path, document); });
   attempt(options.surfer, [&](Path path) { return writeSurferGrid(path, document); });

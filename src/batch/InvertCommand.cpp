@@ -136,6 +136,7 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
   };
   attempt(options.json, [&] { return writeOutput(options.json, inversionJson(document, result)); });
   attempt(options.gridded, [&] {
+    announceGriddedText(options.gridded);
     return writeGriddedText(options.gridded, document, {options.lineY, options.zOffset});
   });
   attempt(options.otte, [&] { return writeTravelTimes(options.otte, document); });

@@ -30,9 +30,12 @@ void printCells(std::ostream& out, const TomoDocument& document,
 
 }  // namespace
 
+void announceGriddedText(const std::string& path) {
+  console::out() << "Exporting tomographic data on file: " << path << std::endl;
+}
+
 Status writeGriddedText(const std::string& path, const TomoDocument& document,
                         const GriddedTextOptions& options) {
-  console::out() << "Exporting tomographic data on file: " << path << std::endl;
   if (!document.grid) {
     return cannotWrite(path, "the survey has no grid; create the grid or run the inversion first");
   }

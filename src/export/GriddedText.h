@@ -14,6 +14,10 @@ struct GriddedTextOptions {
   bool surveyX = false;  ///< X is the distance along the line instead of the grid's abscissa
 };
 
+/// Tells the console that the data go to a file. Apart from the writing, because the file is told
+/// as soon as it is chosen, before anything else is asked.
+void announceGriddedText(const std::string& path);
+
 /// One line "X Y Z V" per drawn cell: X the abscissa of the cell's centre (metres), Y as given, Z
 /// the offset minus the centre's depth coordinate (metres), V velocity (m/s).
 Status writeGriddedText(const std::string& path, const TomoDocument& document,

@@ -53,6 +53,8 @@ TEST(GriddedText, writesCentreLineElevationAndVelocity) {
   x1 << same.grid->cellCentre(1).x;
   EXPECT_THAT(linesOf(path), ElementsAre(x0.str() + " 0 95 500", x1.str() + " 0 95 500",
                                          x0.str() + " 0 85 2000", x1.str() + " 0 85 2000"));
+  EXPECT_EQ(console.out(), "");
+  announceGriddedText(path);
   EXPECT_EQ(console.out(), "Exporting tomographic data on file: " + path + "\n");
 }
 
