@@ -1,5 +1,6 @@
 #include "widgets/LinePlan.h"
 
+#include "widgets/PlotDress.h"
 #include "widgets/TraceColors.h"
 
 #include <QEvent>
@@ -279,19 +280,13 @@ void LinePlan::resizeEvent(QResizeEvent* event) {
 
 void LinePlan::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  switch (event->type()) {
-    case QEvent::LanguageChange:
-      retranslate();
-      draw();
-      break;
-    case QEvent::PaletteChange:
-    case QEvent::FontChange:
-    case QEvent::StyleChange:
-      draw();
-      break;
-    default:
-      break;
-  }
+  followChange(
+      *event,
+      [this] {
+        retranslate();
+        draw();
+      },
+      [this] { draw(); });
 }
 
 void LinePlan::retranslate() {

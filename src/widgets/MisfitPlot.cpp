@@ -84,18 +84,8 @@ void MisfitPlot::retranslate() {
 
 void MisfitPlot::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  switch (event->type()) {
-    case QEvent::LanguageChange:
-      retranslate();
-      break;
-    case QEvent::PaletteChange:
-    case QEvent::FontChange:
-    case QEvent::StyleChange:
-      dress();
-      break;
-    default:
-      break;
-  }
+  followChange(
+      *event, [this] { retranslate(); }, [this] { dress(); });
 }
 
 }  // namespace talvesk

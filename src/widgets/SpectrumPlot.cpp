@@ -95,18 +95,8 @@ void SpectrumPlot::retranslate() {
 
 void SpectrumPlot::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  switch (event->type()) {
-    case QEvent::LanguageChange:
-      retranslate();
-      break;
-    case QEvent::PaletteChange:
-    case QEvent::FontChange:
-    case QEvent::StyleChange:
-      dress();
-      break;
-    default:
-      break;
-  }
+  followChange(
+      *event, [this] { retranslate(); }, [this] { dress(); });
 }
 
 }  // namespace talvesk

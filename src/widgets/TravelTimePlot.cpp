@@ -1,6 +1,7 @@
 #include "widgets/TravelTimePlot.h"
 
 #include "model/TomoDocument.h"
+#include "widgets/PlotDress.h"
 #include "widgets/TraceColors.h"
 #include "widgets/TravelTimePlot_state.h"
 
@@ -316,18 +317,8 @@ void TravelTimePlot::setShowComputed(bool show) {
 
 void TravelTimePlot::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  switch (event->type()) {
-    case QEvent::LanguageChange:
-      mState->retranslate();
-      break;
-    case QEvent::PaletteChange:
-    case QEvent::FontChange:
-    case QEvent::StyleChange:
-      mState->dress();
-      break;
-    default:
-      break;
-  }
+  followChange(
+      *event, [this] { mState->retranslate(); }, [this] { mState->dress(); });
 }
 
 }  // namespace talvesk

@@ -143,18 +143,8 @@ void draw1DVelocityProfile::retranslate() {
 
 void draw1DVelocityProfile::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  switch (event->type()) {
-    case QEvent::LanguageChange:
-      retranslate();
-      break;
-    case QEvent::PaletteChange:
-    case QEvent::FontChange:
-    case QEvent::StyleChange:
-      dress();
-      break;
-    default:
-      break;
-  }
+  followChange(
+      *event, [this] { retranslate(); }, [this] { dress(); });
 }
 
 }  // namespace talvesk
