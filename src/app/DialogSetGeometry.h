@@ -71,10 +71,19 @@ class DialogSetGeometry : public QDialog {
   void interpolateShots();
 
   // Files
+  /// A file of positions that was read.
+  struct PositionsFile {
+    QString name;
+    std::vector<Point2D> positions;
+  };
+  using RecordReader = Status (*)(const std::string& path, const std::string& separator,
+                                  std::vector<std::vector<double>>& records);
   QString askForFile(bool save, const QString& filter);
   static QString takePositions(std::size_t count, const Status& read,
                                const std::vector<std::vector<double>>& records,
                                std::vector<Point2D>& positions);
+  bool askForPositions(std::size_t count, RecordReader read, const QString& invalid,
+                       PositionsFile& chosen);
   bool tellsOfGaps(bool shots);
   void saveGeophones();
   void loadGeophones();

@@ -4,13 +4,13 @@
 #include "app/GeometryTexts.h"
 #include "app/Messages.h"
 #include "app/SelectCSVDelimiterDialog.h"
+#include "app/WaitCursor.h"
 #include "base/Console.h"
 #include "io/GeometryFile.h"
 #include "io/SWavePairFile.h"
 #include "model/GeometryCheck.h"
 #include "ui_DialogSetGeometry.h"
 
-#include <QApplication>
 #include <QCollator>
 #include <QDir>
 #include <QFileDialog>
@@ -22,19 +22,6 @@
 // pairs.
 
 namespace talvesk {
-namespace {
-
-/// The wait cursor while it lives.
-class Waiting {
- public:
-  Waiting() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~Waiting() { QApplication::restoreOverrideCursor(); }
-  Waiting(const Waiting&) = delete;
-  Waiting& operator=(const Waiting&) = delete;
-};
-
-}  // namespace
-
 /// The positions of a file that has exactly one for each of `count` places; else why it has not.
 QString DialogSetGeometry::takePositions(std::size_t count, const Status& read,
                                          const GeometryRecords& records,
@@ -92,28 +79,37 @@ void DialogSetGeometry::saveGeophones() {
   notice(tr("Geophones saved in %1").arg(QFileInfo(file).fileName()));
 }
 
-void DialogSetGeometry::loadGeophones() {
+/// Asks for a file with one position for each of `count` places. False when the user gave up or the
+/// file has others, which he is told.
+bool DialogSetGeometry::askForPositions(std::size_t count, RecordReader read,
+                                        const QString& invalid, PositionsFile& chosen) {
   const QString file = askForFile(false, tr("CSV format (*.csv)"));
-  if (file.isEmpty()) return;
+  if (file.isEmpty()) return false;
   const auto separator = SelectCSVDelimiterDialog::ask(this);
-  if (!separator) return;
+  if (!separator) return false;
+  chosen.name = QFileInfo(file).fileName();
   GeometryRecords records;
-  std::vector<Point2D> positions;
-  const Status status = readRecords(file.toStdString(), *separator, records);
-  const QString why = takePositions(mSession->string().size(), status, records, positions);
-  if (!why.isEmpty()) {
-    notice(why, true);
-    showError(this, windowTitle(), tr("Error Message"),
-              tr("Invalid geometry file. ") + QString::number(records.size()));
+  const Status status = read(file.toStdString(), *separator, records);
+  const QString why = takePositions(count, status, records, chosen.positions);
+  if (why.isEmpty()) return true;
+  notice(why, true);
+  showError(this, windowTitle(), tr("Error Message"), invalid + QString::number(records.size()));
+  return false;
+}
+
+void DialogSetGeometry::loadGeophones() {
+  PositionsFile file;
+  if (!askForPositions(mSession->string().size(), readRecords, tr("Invalid geometry file. "),
+                       file)) {
     return;
   }
   mSession->edit([&](SurveyGeometry& next) {
     GeophoneString& string = next.strings[static_cast<std::size_t>(mSession->currentString())];
-    for (std::size_t i = 0; i < positions.size(); ++i) {
-      string[i] = {positions[i].x, positions[i].z, true};
+    for (std::size_t i = 0; i < file.positions.size(); ++i) {
+      string[i] = {file.positions[i].x, file.positions[i].z, true};
     }
   });
-  notice(tr("Geophones loaded from %1").arg(QFileInfo(file).fileName()));
+  notice(tr("Geophones loaded from %1").arg(file.name));
 }
 
 void DialogSetGeometry::saveShots() {
@@ -137,29 +133,20 @@ void DialogSetGeometry::saveShots() {
 }
 
 void DialogSetGeometry::loadShots() {
-  const QString file = askForFile(false, tr("CSV format (*.csv)"));
-  if (file.isEmpty()) return;
-  const auto separator = SelectCSVDelimiterDialog::ask(this);
-  if (!separator) return;
-  GeometryRecords records;
-  std::vector<Point2D> positions;
-  const Status status = readLabelledRecords(file.toStdString(), *separator, records);
-  const QString why = takePositions(geometry().shots.size(), status, records, positions);
-  if (!why.isEmpty()) {
-    notice(why, true);
-    showError(this, windowTitle(), tr("Error Message"),
-              tr("Invalid shot file. ") + QString::number(records.size()));
+  PositionsFile file;
+  if (!askForPositions(geometry().shots.size(), readLabelledRecords, tr("Invalid shot file. "),
+                       file)) {
     return;
   }
-  console::out() << "LOADED\nTo be updated: " << positions.size() << '\n';
+  console::out() << "LOADED\nTo be updated: " << file.positions.size() << '\n';
   mSession->edit([&](SurveyGeometry& next) {
-    for (std::size_t i = 0; i < positions.size(); ++i) {
+    for (std::size_t i = 0; i < file.positions.size(); ++i) {
       console::out() << "Setting " << i + 1 << '\n';
-      next.shots[i].place = {positions[i].x, positions[i].z, true};
+      next.shots[i].place = {file.positions[i].x, file.positions[i].z, true};
     }
   });
   console::out().flush();
-  notice(tr("Shots loaded from %1").arg(QFileInfo(file).fileName()));
+  notice(tr("Shots loaded from %1").arg(file.name));
 }
 
 /// Picks without traces stay what they are: every record of a survey has traces, or none has.
@@ -222,15 +209,15 @@ void DialogSetGeometry::addPairs() {
     return;
   }
   SurveyGeometry next = geometry();
-  Status status;
-  {
-    const Waiting waiting;
-    for (int i = 0; i < dx.size() && status.ok(); ++i) {
+  const Status status = whileWaiting([&] {
+    for (int i = 0; i < dx.size(); ++i) {
       auto pair = std::make_shared<SWavePair>();
-      status = readSWavePair(dx[i].toStdString(), sx[i].toStdString(), mState, *pair);
-      if (status.ok()) addPair(next, std::move(pair));
+      Status read = readSWavePair(dx[i].toStdString(), sx[i].toStdString(), mState, *pair);
+      if (!read.ok()) return read;
+      addPair(next, std::move(pair));
     }
-  }
+    return Status();
+  });
   if (!status.ok()) {
     showError(this, tr("Error occured"),
               tr("No shot was added: the files are not taken as S-wave pairs."),

@@ -1,6 +1,7 @@
 #include "app/Messages.h"
 #include "app/RefractionProcessingDialog.h"
 #include "app/RefractionTexts.h"
+#include "app/WaitCursor.h"
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
 #include "refraction/ReciprocalMethod.h"
@@ -123,9 +124,7 @@ void RefractionProcessingDialog::on_buildButton_clicked() {
 
 /// \param known warnings that the user has been told already
 bool RefractionProcessingDialog::build(std::vector<RefractionWarning> known) {
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  const ProfileOutcome outcome = buildProfiles(mShots, mWork);
-  QApplication::restoreOverrideCursor();
+  const ProfileOutcome outcome = whileWaiting([this] { return buildProfiles(mShots, mWork); });
   if (outcome.built) {
     mWarnings = outcome.warnings;
     mStale = false;

@@ -1,5 +1,6 @@
 #include "app/ReportDialog.h"
 
+#include "app/WaitCursor.h"
 #include "figures/ReportPages.h"
 #include "ui_ReportDialog.h"
 
@@ -105,7 +106,7 @@ void ReportDialog::forgetPreview() {
 
 void ReportDialog::preview() {
   forgetPreview();
-  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  const WaitCursor waiting;
   ReportContent content;
   const Status status = mBuild(options(), content);
   if (status.ok()) {
@@ -126,7 +127,6 @@ void ReportDialog::preview() {
   } else {
     mUi->pagesLabel->setText(qt(status.message()));
   }
-  QGuiApplication::restoreOverrideCursor();
 }
 
 void ReportDialog::remember(QSettings& settings) const {

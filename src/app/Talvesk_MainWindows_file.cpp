@@ -1,6 +1,7 @@
 #include "app/Messages.h"
 #include "app/SettingsDialog.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/WaitCursor.h"
 #include "io/TravelTimeFile.h"
 #include "processing/ShotTime.h"
 #include "refraction/ShotArrivals.h"
@@ -177,12 +178,13 @@ void Talvesk_MainWindows::on_actionLoad_TT_triggered() {
 void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   // An import replaces the picks at least.
   if (hasAnyPick(mDocument) && !mayLoseChanges()) return;
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  TravelTimeData read;
-  Status status = readTravelTimes(file.toStdString(), read);
-  const std::vector<std::string> warnings = read.warnings;
-  if (status.ok()) status = importTravelTimes(std::move(read), mDocument);
-  QApplication::restoreOverrideCursor();
+  std::vector<std::string> warnings;
+  const Status status = whileWaiting([&] {
+    TravelTimeData times;
+    Status read = readTravelTimes(file.toStdString(), times);
+    warnings = times.warnings;
+    return read.ok() ? importTravelTimes(std::move(times), mDocument) : read;
+  });
   if (!status.ok()) {
     mLog.write(status.message(), 1);
     showError(this, tr("Error occured"),

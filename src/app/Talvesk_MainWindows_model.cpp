@@ -1,5 +1,6 @@
 #include "app/Messages.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/WaitCursor.h"
 #include "app/gridDialog.h"
 #include "app/select_speed_Dialog.h"
 #include "app/smoothingDialog.h"
@@ -42,10 +43,11 @@ bool Talvesk_MainWindows::makeGrid(bool propose) {
   const auto threads = static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
   gridDialog dialog(profile, settings, threads, this);
   while (dialog.exec() == QDialog::Accepted) {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const Status status = setUpGrid(mDocument, dialog.settings(), mLog);
-    if (status.ok()) modelChanged();
-    QApplication::restoreOverrideCursor();
+    const Status status = whileWaiting([&] {
+      Status built = setUpGrid(mDocument, dialog.settings(), mLog);
+      if (built.ok()) modelChanged();
+      return built;
+    });
     if (status.ok()) {
       statusBar()->showMessage(tr("Grid of %1 rows and %2 columns built.")
                                    .arg(mDocument.grid->righe())
@@ -72,10 +74,11 @@ void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
   smoothingDialog dialog(
       mDocument.hasTomographicInfo ? SmoothingType::kRayBased : SmoothingType::kUniform, this);
   if (dialog.exec() != QDialog::Accepted) return;
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  const Status status = smoothGrid(mDocument, dialog.type(), dialog.radius(), dialog.symmetric());
-  if (status.ok()) modelChanged();
-  QApplication::restoreOverrideCursor();
+  const Status status = whileWaiting([&] {
+    Status smoothed = smoothGrid(mDocument, dialog.type(), dialog.radius(), dialog.symmetric());
+    if (smoothed.ok()) modelChanged();
+    return smoothed;
+  });
   if (!status.ok()) {
     mLog.write(status.message(), 1);
     showError(this, tr("Error occured"), tr("The grid could not be smoothed."),

@@ -1,5 +1,6 @@
 #include "app/Messages.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/WaitCursor.h"
 #include "app/doFilteringDialog.h"
 #include "processing/FirstBreak.h"
 #include "processing/NoiseReduction.h"
@@ -27,7 +28,7 @@ bool Talvesk_MainWindows::forEachShot(const std::vector<std::int32_t>& shots, co
   progress.setWindowModality(Qt::WindowModal);
   progress.setMinimumDuration(500);
   progress.setWindowTitle(QApplication::applicationName());
-  QApplication::setOverrideCursor(Qt::WaitCursor);
+  const WaitCursor waiting;
   progress.setValue(0);
   bool whole = true;
   for (std::size_t i = 0; i < shots.size() && whole; ++i) {
@@ -35,7 +36,6 @@ bool Talvesk_MainWindows::forEachShot(const std::vector<std::int32_t>& shots, co
     progress.setValue(static_cast<int>(i + 1));
     whole = !progress.wasCanceled() || i + 1 == shots.size();
   }
-  QApplication::restoreOverrideCursor();
   return whole;
 }
 

@@ -1,6 +1,7 @@
 #include "app/doFilteringDialog.h"
 
 #include "app/Messages.h"
+#include "app/WaitCursor.h"
 #include "ui_doFilteringDialog.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -168,16 +169,17 @@ FilterOutcome doFilteringDialog::filterOthers(const BandFilter& wanted) {
 void doFilteringDialog::on_button_apply_filter_clicked() {
   const BandFilter wanted = filter();
   if (!mayFilter(wanted)) return;
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  FilterOutcome outcome = bandFilterTraces(workingTraces(), wanted, mHighest.value());
-  copyBack(workingTraces(), mShot);
-  if (wanted.low || wanted.high) add(outcome, filterOthers(wanted));
+  const FilterOutcome outcome = whileWaiting([&] {
+    FilterOutcome sum = bandFilterTraces(workingTraces(), wanted, mHighest.value());
+    copyBack(workingTraces(), mShot);
+    if (wanted.low || wanted.high) add(sum, filterOthers(wanted));
+    return sum;
+  });
   if (outcome.filtered > 0) {
     mDocument.modified = true;
     mChangedDocument = true;
   }
   showFiltered();
-  QApplication::restoreOverrideCursor();
   if (outcome.failed > 0) {
     showError(this, tr("Caution"),
               tr("%n trace(s) stay as they were.", nullptr, static_cast<int>(outcome.failed)),

@@ -2,6 +2,7 @@
 
 #include "app/Messages.h"
 #include "app/ToolTips.h"
+#include "app/WaitCursor.h"
 #include "app/setVelocityWidget.h"
 #include "base/Console.h"
 #include "tomo/GridSetup.h"
@@ -125,9 +126,7 @@ void select_speed_Dialog::showRemovable() {
 }
 
 void select_speed_Dialog::accept() {
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  const Status status = applyLayers(mDocument, layers());
-  QApplication::restoreOverrideCursor();
+  const Status status = whileWaiting([this] { return applyLayers(mDocument, layers()); });
   if (status.ok()) {
     QDialog::accept();
     return;
