@@ -39,16 +39,9 @@ struct Curves {
 void matchByX(phantom& forward, const phantom& reverse) {
   const double first = reverse.points.front().x;
   const double last = reverse.points.back().x;
-  std::size_t kept = 0;
-  for (std::size_t i = 0; i < forward.points.size(); ++i) {
-    if (forward.points[i].x < first || forward.points[i].x > last) continue;
-    forward.points[kept] = forward.points[i];
-    forward.times[kept] = forward.times[i];
-    ++kept;
-  }
-  forward.points.resize(kept);
-  forward.times.resize(kept);
-  forward.enabled.assign(kept, true);
+  std::vector<bool> reached;
+  for (const Point2D& at : forward.points) reached.push_back(at.x >= first && at.x <= last);
+  keepReceivers(forward, reached);
 }
 
 /// Forward and reverse curve of a refractor; false when there are none, with the reason.

@@ -45,6 +45,9 @@ CurveOutcome buildCurve(const std::vector<ShotArrivals>& shots, std::int32_t end
                         std::uint32_t refractor, Side side,
                         std::vector<refractionDataStructure::layerStruct>& marks);
 
+/// Leaves only the receivers of a curve for which `wanted` (one entry each) is true, all enabled.
+void keepReceivers(refractionDataStructure::phantom& curve, const std::vector<bool>& wanted);
+
 /// Sets all time shifts to 0, those of traces that have been assigned elsewhere since included.
 void clearShifts(std::vector<refractionDataStructure::layerStruct>& marks);
 

@@ -1,5 +1,6 @@
 #include "refraction/Branches.h"
 #include "refraction/LinearFit.h"
+#include "support/Arrivals.h"
 #include "support/ConsoleCapture.h"
 
 #include <cmath>
@@ -10,23 +11,8 @@ namespace talvesk {
 namespace {
 
 using refractionDataStructure::layerStruct;
-
-/// A shot with a receiver per entry.
-ShotArrivals shotAt(double x, const std::vector<double>& receivers,
-                    const std::vector<double>& times) {
-  ShotArrivals shot;
-  shot.shot.x = x;
-  for (const double at : receivers) shot.receivers.push_back({at, 0.0});
-  shot.times = times;
-  return shot;
-}
-
-layerStruct marks(std::uint32_t shot, const std::vector<std::uint32_t>& layers) {
-  layerStruct own;
-  own.shotID = shot;
-  own.layer = layers;
-  return own;
-}
+using testing::marks;
+using testing::shotAt;
 
 TEST(LinearFit, findsTheLineAndTellsIt) {
   const testing::ConsoleCapture console;

@@ -1,4 +1,5 @@
 #include "refraction/Phantoming.h"
+#include "support/Arrivals.h"
 #include "support/ConsoleCapture.h"
 
 #include <gmock/gmock.h>
@@ -12,23 +13,8 @@ using refractionDataStructure::phantom;
 using testing::ConsoleCapture;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-
-ShotArrivals shotAt(double x, const std::vector<double>& receivers,
-                    const std::vector<double>& times) {
-  ShotArrivals shot;
-  shot.shot.x = x;
-  for (const double at : receivers) shot.receivers.push_back({at, 7.0});
-  shot.times = times;
-  return shot;
-}
-
-layerStruct marks(std::uint32_t shot, const std::vector<std::uint32_t>& layers) {
-  layerStruct own;
-  own.shotID = shot;
-  own.layer = layers;
-  own.trasla.assign(layers.size(), 0.0);
-  return own;
-}
+using testing::marks;
+using testing::shotAt;
 
 TEST(TimeShift, isTheMeanDifferenceOfTheFacingPicks) {
   const ShotArrivals shot = shotAt(10, {5, 10, 15, 20, 25, 30}, {.9, .9, .020, .024, 0.0, .050});
