@@ -1,5 +1,6 @@
 #include "widgets/PlotPage.h"
 
+#include "widgets/PlotOverlay.h"
 #include "widgets/TraceColors.h"
 
 #include <QEvent>
@@ -30,25 +31,6 @@ constexpr double kPadding = 0.04;     ///< around everything, part of the size
 constexpr double kAxisExtent = 52.0;  ///< of the numbers at the left, pixels
 constexpr double kZoomStep = 1.4;
 constexpr double kMostMagnified = 1e4;
-
-class Overlay : public QWidget {
- public:
-  Overlay(QWidget* canvas, std::function<void(QPainter&)> paint)
-      : QWidget(canvas), mPaint(std::move(paint)) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setFocusPolicy(Qt::NoFocus);
-  }
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    mPaint(painter);
-  }
-
- private:
-  std::function<void(QPainter&)> mPaint;
-};
 
 void setTitle(QwtPlot& plot, int axis, const QString& text, const QFont& font) {
   QwtText title(text, QwtText::PlainText);
@@ -86,7 +68,10 @@ PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
   mPlot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kAxisExtent);
   mGrid = new QwtPlotGrid;
   mGrid->attach(mPlot);
-  mOverlay = new Overlay(area, [this](QPainter& painter) { paintOverlay(painter); });
+  mOverlay = new PlotOverlay(area, [this](QPainter& painter) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintOverlay(painter);
+  });
   PlotPage::dress();
 }
 

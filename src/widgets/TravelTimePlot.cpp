@@ -2,6 +2,7 @@
 
 #include "model/TomoDocument.h"
 #include "widgets/PlotDress.h"
+#include "widgets/PlotOverlay.h"
 #include "widgets/TraceColors.h"
 #include "widgets/TravelTimePlot_state.h"
 
@@ -30,25 +31,6 @@ namespace talvesk {
 namespace {
 
 constexpr QSize kIcon(22, 12);
-
-/// What changes with every move of the mouse, above the picture of the curves.
-class Overlay : public QWidget {
- public:
-  Overlay(QWidget* canvas, std::function<void(QPainter&)> paint)
-      : QWidget(canvas), mPaint(std::move(paint)) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setFocusPolicy(Qt::NoFocus);
-  }
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    mPaint(painter);
-  }
-
- private:
-  std::function<void(QPainter&)> mPaint;
-};
 
 QIcon iconOf(const QwtPlotItem& item) {
   return QIcon(item.legendIcon(0, kIcon).toPixmap());
@@ -89,7 +71,7 @@ void TravelTimePlot::State::build() {
   computed = travel_time_items::computed(curves.curves, look);
   shots = travel_time_items::shots(curves.curves, look);
   for (QwtPlotItem* item : {measured, computed, shots}) item->attach(plot);
-  overlay = new Overlay(canvas, [this](QPainter& painter) { paintOverlay(painter); });
+  overlay = new PlotOverlay(canvas, [this](QPainter& painter) { paintOverlay(painter); });
 
   auto* column = new QVBoxLayout(plotPage);
   column->setContentsMargins(0, 0, 0, 0);
