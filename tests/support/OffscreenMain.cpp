@@ -8,7 +8,7 @@ extern "C" const char* __lsan_default_suppressions() {
   return "leak:libqoffscreen\nleak:QScreen::QScreen\n";
 }
 
-/// Figures are drawn by widgets that never come to a screen.
+/// Widgets and figures draw themselves and are driven by events; neither needs a screen.
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
