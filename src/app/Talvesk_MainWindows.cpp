@@ -79,8 +79,14 @@ void Talvesk_MainWindows::startLog() {
 void Talvesk_MainWindows::loadSettings() {
   if (mSettings.load()) {
     changeLanguage(mLanguages.indexOf(QString::fromStdString(mSettings.language)));
-    return;
+  } else {
+    askForSettings();
   }
+  // English without its file has no plurals: "1 shot file(s)".
+  if (mLanguages.current() < 0) changeLanguage(mLanguages.indexOf(QStringLiteral("en")));
+}
+
+void Talvesk_MainWindows::askForSettings() {
   SettingsDialog dialog(mLanguages.list(), mLanguages.current(), mSettings, this);
   if (dialog.exec() == QDialog::Accepted) {
     dialog.apply(mSettings);

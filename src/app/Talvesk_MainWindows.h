@@ -205,6 +205,7 @@ class Talvesk_MainWindows : public QMainWindow {
   // Start and end
   void startLog();
   void loadSettings();
+  void askForSettings();
   void connectViews();
   void connectPlots();
   void connectCommands();

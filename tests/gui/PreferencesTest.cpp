@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QMenu>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 
 namespace talvesk {
@@ -53,6 +54,16 @@ TEST_F(Preferences, keepTheProgramsOwnLanguageWhenTheFirstQuestionIsCancelled) {
   open();
   EXPECT_EQ(window->settings().language, "en");
   EXPECT_TRUE(QFile::exists(QString::fromStdString(home.file("Talvesk_TMP/Talvesk_settings.xml"))));
+  loadShots(1);
+  EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(), "1 shot file loaded.");
+}
+
+TEST_F(Preferences, speakEnglishWhenTheLanguageIsNotThereAnyMore) {
+  writeSettings("xx");
+  open();
+  loadShots(1);
+  EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(), "1 shot file loaded.");
+  EXPECT_EQ(window->settings().language, "en");
 }
 
 TEST_F(Preferences, switchTheLanguageOfEverythingInTheWindow) {
