@@ -40,6 +40,8 @@ class DialogSetGeometry : public QDialog {
   ~DialogSetGeometry() override;
 
   const SurveyGeometry& geometry() const;
+  /// Where shot files were opened last.
+  const QString& folder() const { return mContext.folder; }
 
   /// Refuses what blocks, and asks before results are lost.
   void accept() override;

@@ -230,6 +230,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void reportBadProject(const QString& file, const projectReader& reader);
   void addRecentMenu();
   void refreshRecentProjects();
+  void clearRecentProjects();
   void offerRecovery();
   void prepareAutosave();
   bool mayAutosave() const;
@@ -243,7 +244,9 @@ class Talvesk_MainWindows : public QMainWindow {
   void askForShotTime(const std::vector<std::size_t>& sets);
   void importTravelTimeFile(const QString& file);
   QString historyFolder() const;
-  void saveHistoryOf(const QString& file);
+  void saveHistoryOf(const QString& file);  ///< of what was opened, not of what was saved
+  QString saveFolder() const;
+  void rememberSaved(const QString& file);
   void exportCurves();
   QString askForExport(const QString& title, const QString& filter, const char* suffix);
   QString askForGriddedText();
@@ -333,6 +336,7 @@ class Talvesk_MainWindows : public QMainWindow {
   std::vector<ShotMemory> mShots;  ///< one per trace set
   int mCurrentFile = -1;
   QString mProjectFile;         ///< where the survey is saved; empty before it was
+  QString mSaveFolder;          ///< of the last file saved, empty when one was opened since
   SharedFolder mProjectFolder;  ///< of the shot files of a loaded project
   RecentProjects mRecent;
   QMenu* mRecentMenu = nullptr;

@@ -36,13 +36,15 @@ void Talvesk_MainWindows::refreshPlots() {
 }
 
 void Talvesk_MainWindows::exportCurves() {
-  QFileDialog dialog(this, tr("Save travel-time curves"), historyFolder(),
+  logSlot(__func__);
+  QFileDialog dialog(this, tr("Save travel-time curves"), saveFolder(),
                      tr("Pictures (*.png *.svg *.pdf);;All Files (*)"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(QStringLiteral("png"));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   const QString file = dialog.selectedFiles().front();
+  rememberSaved(file);
   TravelTimeFigureOptions options;
   options.computed = mUi->travelTimeCurves->showsComputed();
   if (const Status status = writeTravelTimeFigure(mDocument, options, file.toStdString());

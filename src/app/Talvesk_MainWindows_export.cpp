@@ -24,11 +24,12 @@ constexpr int kMessageTime = 10000;  ///< milliseconds that the status bar shows
 /// The file to write, with the suffix where the user gave none; empty when the user gave up.
 QString Talvesk_MainWindows::askForExport(const QString& title, const QString& filter,
                                           const char* suffix) {
-  QFileDialog dialog(this, title, historyFolder(), filter);
+  QFileDialog dialog(this, title, saveFolder(), filter);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(QLatin1String(suffix));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  rememberSaved(dialog.selectedFiles().front());
   return dialog.selectedFiles().front();
 }
 

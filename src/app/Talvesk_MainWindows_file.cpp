@@ -58,6 +58,16 @@ QString Talvesk_MainWindows::historyFolder() const {
 
 void Talvesk_MainWindows::saveHistoryOf(const QString& file) {
   mHistory.saveHistory(QFileInfo(file).absolutePath().toStdString());
+  mSaveFolder.clear();
+}
+
+/// Where save dialogs start: where the last file was saved, beside the opened ones before that.
+QString Talvesk_MainWindows::saveFolder() const {
+  return mSaveFolder.isEmpty() ? historyFolder() : mSaveFolder;
+}
+
+void Talvesk_MainWindows::rememberSaved(const QString& file) {
+  mSaveFolder = QFileInfo(file).absolutePath();
 }
 
 void Talvesk_MainWindows::loadTraces_PWave() {
@@ -211,13 +221,14 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
 
 void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
   logSlot(__func__);
-  QFileDialog dialog(this, tr("Save TravelTimeExchange"), historyFolder(),
+  QFileDialog dialog(this, tr("Save TravelTimeExchange"), saveFolder(),
                      tr("Open Travel Time Exchange format (*.otte);;All Files (*)"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(QStringLiteral("otte"));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   const QString file = dialog.selectedFiles().front();
+  rememberSaved(file);
   if (const Status status = writeTravelTimes(file.toStdString(), mDocument); !status.ok()) {
     mLog.write(status.message(), 1);
     showError(this, tr("Error occured"), tr("The travel times have not been saved."),
@@ -228,6 +239,7 @@ void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
 }
 
 void Talvesk_MainWindows::openFiles(const QStringList& files) {
+  if (!files.isEmpty()) logSlot(__func__);
   if (mInversion != nullptr) return;  // a drop may have been let go just before it began
   QStringList shots;
   QStringList travelTimes;

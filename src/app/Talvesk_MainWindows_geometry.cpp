@@ -28,7 +28,9 @@ bool Talvesk_MainWindows::askGeometry() {
   context.interpreted = isInterpreted(mInterpretation);
   context.folder = historyFolder();
   DialogSetGeometry dialog(mDocument, mLoader.state(), context, this);
-  if (dialog.exec() != QDialog::Accepted) return false;
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  if (dialog.folder() != context.folder) mHistory.saveHistory(dialog.folder().toStdString());
+  if (!accepted) return false;
   takeGeometry(dialog.geometry());
   return true;
 }

@@ -45,8 +45,7 @@ bool Talvesk_MainWindows::saveProject() {
 }
 
 bool Talvesk_MainWindows::saveProjectAs() {
-  QFileDialog dialog(this, tr("Save Project"),
-                     mProjectFile.isEmpty() ? historyFolder() : mProjectFile,
+  QFileDialog dialog(this, tr("Save Project"), mProjectFile.isEmpty() ? saveFolder() : mProjectFile,
                      tr("Talvesk projects (*.tvsk);;All Files (*)"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
@@ -66,7 +65,7 @@ bool Talvesk_MainWindows::saveProjectAs() {
                 tr("Do you want to replace it?"), false)) {
     return false;
   }
-  saveHistoryOf(file);
+  rememberSaved(file);
   return saveProjectTo(file);
 }
 
@@ -222,13 +221,19 @@ void Talvesk_MainWindows::refreshRecentProjects() {
     QString name = projects[i];
     name.replace(QLatin1Char('&'), QLatin1String("&&"));
     mRecentMenu->addAction(QStringLiteral("&%1 %2").arg(QString::number(i + 1), name), this,
-                           [this, file = projects[i]] { openProject(file); });
+                           [this, file = projects[i]] {
+                             logSlot("openProject");
+                             openProject(file);
+                           });
   }
   mRecentMenu->addSeparator();
-  mRecentMenu->addAction(tr("Clear List"), this, [this] {
-    mRecent.clear();
-    refreshRecentProjects();
-  });
+  mRecentMenu->addAction(tr("Clear List"), this, &Talvesk_MainWindows::clearRecentProjects);
+}
+
+void Talvesk_MainWindows::clearRecentProjects() {
+  logSlot(__func__);
+  mRecent.clear();
+  refreshRecentProjects();
 }
 
 void Talvesk_MainWindows::refreshProjectCommands() {

@@ -74,13 +74,13 @@ void Talvesk_MainWindows::on_actionImages_triggered() {
   ImagesDialog dialog(mDocument, mInterpretation, look, mCurrentFile, this);
   QSettings remembered(windowStateFile(), QSettings::IniFormat);
   dialog.recall(remembered);
-  dialog.setFolder(historyFolder());
+  dialog.setFolder(saveFolder());
   dialog.setBaseName(fileNameOf(mDocument.title));
   if (dialog.exec() != QDialog::Accepted) return;
   dialog.remember(remembered);
   const std::vector<PlannedImage> images = dialog.images();
   if (images.empty() || !mayOverwrite(images)) return;
-  saveHistoryOf(QString::fromStdString(images.front().path));
+  rememberSaved(QString::fromStdString(images.front().path));
   writeImages(images);
 }
 
@@ -183,7 +183,6 @@ void Talvesk_MainWindows::writeReportAs(const QString& title, const QString& fil
 
 void Talvesk_MainWindows::tellReport(const Status& written, const QString& file) {
   if (written.ok()) {
-    saveHistoryOf(file);
     statusBar()->showMessage(tr("Saved in %1").arg(file), kMessageTime);
   } else if (written.code() == kReportCancelled) {
     statusBar()->showMessage(tr("Stopped; nothing has been saved."), kMessageTime);

@@ -391,6 +391,7 @@ TEST_F(Geometry, makesShotsOfSWavePairsWhichArePickedOnTheirDifference) {
   const QString dx = shotFile("dx 2.dat", 9.0);
   const QString sx = shotFile("sx 2.dat", 9.0, 0.0, 12);
   const QString wrong = shotFile("wrong.dat", 9.0, 0.0, 11);
+  const std::string history = home.put("Talvesk_TMP/Talvesk_history.txt", home.file("Talvesk_TMP"));
   dialogs.expect([](QWidget& widget) {
     GeometryDriver user(widget);
     EXPECT_TRUE(user.child<QLabel>("emptyLabel").isVisible());
@@ -416,6 +417,7 @@ TEST_F(Geometry, makesShotsOfSWavePairsWhichArePickedOnTheirDifference) {
   TomoDocument& document = window->document();
   ASSERT_THAT(document.traceSets, SizeIs(1));
   EXPECT_EQ(document.waveType, WaveType::S);
+  EXPECT_EQ(TestFolder::get(history), home.path()) << "recordings are opened as shot files are";
   EXPECT_THAT(document.filenames_DX, ElementsAre(dx.toStdString()));
   EXPECT_THAT(document.filenames_SX, ElementsAre(sx.toStdString()));
   EXPECT_EQ(window->currentFile(), 0);

@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMimeData>
 #include <QStackedWidget>
@@ -68,6 +70,35 @@ TEST_F(Loading, byDialogAddsToTheSurveyAndRemembersTheFolder) {
   EXPECT_THAT(window->document().traceSets, SizeIs(3));
   EXPECT_EQ(window->currentFile(), 2) << "the first of the new shots is in view";
   EXPECT_EQ(child<QComboBox>("shotCBox").currentText().toStdString(), "3: c.dat at 17.0 m");
+}
+
+TEST_F(Loading, startsWhereFilesWereOpenedAndSavingWhereTheyWereSaved) {
+  ASSERT_TRUE(QDir(QString::fromStdString(home.path())).mkdir("out"));
+  const auto expectFolder = [&](const std::string& folder) {
+    dialogs.expect([folder](QWidget& dialog) {
+      EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path().toStdString(), folder);
+      dialog.close();
+    });
+  };
+  dialogs.expectFiles("Open Seismic Trace", {shotFile("a.dat")});
+  action("actionOpen_shot_files").trigger();
+  expectFolder(home.path());
+  action("actionExport_TravelTimes").trigger();
+
+  dialogs.expectFiles("Save Project", {QString::fromStdString(home.file("out/line"))});
+  action("actionSave_Project_As").trigger();
+  dialogs.expectFiles("Save TravelTimeExchange", {QString::fromStdString(home.file("out/picks"))});
+  action("actionExport_TravelTimes").trigger();
+  EXPECT_EQ(testing::TestFolder::get(home.file("Talvesk_TMP/Talvesk_history.txt")), home.path());
+  expectFolder(home.path());
+  action("actionOpen_shot_files").trigger();
+  expectFolder(home.file("out"));
+  action("actionExport_TravelTimes").trigger();
+
+  dialogs.expectFiles("Open Seismic Trace", {shotFile("b.dat", 13.0)});
+  action("actionOpen_shot_files").trigger();
+  expectFolder(home.path());
+  action("actionExport_TravelTimes").trigger();
 }
 
 TEST_F(Loading, givenUpChangesNothing) {

@@ -214,6 +214,7 @@ TEST_F(Projects, areListedAndOpenedAgain) {
   EXPECT_EQ(actions[0]->text(), QStringLiteral("&1 ") + path("b.tvsk"));
   actions[1]->trigger();
   EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*] - a.tvsk"));
+  EXPECT_THAT(log(), HasSubstr("] Talvesk_MainWindows::openProject\n"));
   QFile::remove(path("b.tvsk"));
   dialogs.expectBox(QStringLiteral("Error occured"),
                     QStringLiteral("b.tvsk is not a valid project."),
@@ -222,6 +223,7 @@ TEST_F(Projects, areListedAndOpenedAgain) {
   EXPECT_EQ(child<QMenu>("menuRecent_projects").actions().size(), 3);
   child<QMenu>("menuRecent_projects").actions()[2]->trigger();
   EXPECT_FALSE(child<QMenu>("menuRecent_projects").isEnabled());
+  EXPECT_THAT(log(), HasSubstr("] Talvesk_MainWindows::clearRecentProjects\n"));
 }
 
 TEST_F(Projects, openFromTheCommandLine) {
