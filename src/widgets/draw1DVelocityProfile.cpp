@@ -63,10 +63,6 @@ void draw1DVelocityProfile::setLayers(const std::vector<VelocityLayer>& layers) 
   draw();
 }
 
-std::size_t draw1DVelocityProfile::splinePoints() const {
-  return mSplineCurve->dataSize();
-}
-
 bool draw1DVelocityProfile::showsNonPositiveZone() const {
   return mNonPositive->isVisible();
 }

@@ -28,7 +28,6 @@ class draw1DVelocityProfile : public QWidget {
   /// Of all tops and bottoms of the layers, m/s; 0 without layers. The scale reaches to it at
   /// least.
   double largestVelocity() const { return mLargestVelocity; }
-  std::size_t splinePoints() const;   ///< of the curve; 0 when the layers make no spline
   bool showsNonPositiveZone() const;  ///< the spline swings to where there is no velocity
 
   QSize sizeHint() const override;

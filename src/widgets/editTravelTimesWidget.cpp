@@ -205,30 +205,6 @@ QSize editTravelTimesWidget::minimumSizeHint() const {
   return {200, 160};
 }
 
-void editTravelTimesWidget::setShowAllPicks(bool show) {
-  TraceViewOptions changed = options();
-  changed.showAllPicks = show;
-  setOptions(changed);
-}
-
-void editTravelTimesWidget::setShowComputedTimes(bool show) {
-  TraceViewOptions changed = options();
-  changed.showComputedTimes = show;
-  setOptions(changed);
-}
-
-void editTravelTimesWidget::setShowOnlyTraces(bool show) {
-  TraceViewOptions changed = options();
-  changed.showOnlyTraces = show;
-  setOptions(changed);
-}
-
-void editTravelTimesWidget::setAirWave(bool show) {
-  TraceViewOptions changed = options();
-  changed.airWave = show;
-  setOptions(changed);
-}
-
 void editTravelTimesWidget::setMagnifier(bool show) {
   TraceViewOptions changed = options();
   changed.magnifier = show;

@@ -103,10 +103,6 @@ class editTravelTimesWidget : public QWidget {
   QSize minimumSizeHint() const override;
 
  public slots:
-  void setShowAllPicks(bool show);
-  void setShowComputedTimes(bool show);
-  void setShowOnlyTraces(bool show);
-  void setAirWave(bool show);
   void setMagnifier(bool show);
   void setGain(double gain);
 

@@ -219,7 +219,9 @@ TEST_F(Picking, aNewDocumentForgetsTheHistory) {
 
 TEST_F(Picking, restsWhileOnlyTracesAreShown) {
   mUser.setPick(4, 0.05);
-  mWidget.setShowOnlyTraces(true);
+  TraceViewOptions bareTraces = mWidget.options();
+  bareTraces.showOnlyTraces = true;
+  mWidget.setOptions(bareTraces);
   mUser.click(mUser.at(3, 0.05));
   mUser.click(mUser.at(4, 0.05), Qt::RightButton);
   mWidget.setCurrentTrace(4);

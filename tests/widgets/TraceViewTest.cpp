@@ -149,7 +149,9 @@ TEST_F(TraceView, picksAreDrawnOverTheWigglesAndHideOnDemand) {
   QApplication::sendEvent(&mWidget, &leave);
   const QPoint pick = mUser.at(5, mUser.pick(5));
   EXPECT_NE(picture().pixel(pick), bare.pixel(pick));
-  mWidget.setShowOnlyTraces(true);
+  TraceViewOptions bareTraces = mWidget.options();
+  bareTraces.showOnlyTraces = true;
+  mWidget.setOptions(bareTraces);
   EXPECT_EQ(picture().pixel(pick), bare.pixel(pick));
 }
 
