@@ -182,7 +182,10 @@ bool applyGeometry(const SurveyGeometry& geometry, TomoDocument& document) {
   }
   document.goephonesStringSet.swap(next.goephonesStringSet);
   document.ttArray.swap(next.ttArray);
-  if (!document.traceSets.empty()) document.shotPositions.swap(next.shotPositions);
+  // Picks without traces may have shot positions of their own, too.
+  if (!document.traceSets.empty() || !document.shotPositions.empty()) {
+    document.shotPositions.swap(next.shotPositions);
+  }
   if (pairs) {
     document.filenames.swap(next.filenames);
     document.filenames_DX.swap(next.filenames_DX);

@@ -94,6 +94,11 @@ TEST(SurveyGeometry, worksOnPicksWithoutTraces) {
   EXPECT_TRUE(applyGeometry(geometry, document));
   EXPECT_EQ(document.ttArray[0].shotPos2d.x, 8.0);
   EXPECT_THAT(document.shotPositions, SizeIs(0));
+
+  document.shotPositions = {8.0, 13.0};  // as an import leaves them
+  geometry.shots[1].place.x = 14.0;
+  EXPECT_TRUE(applyGeometry(geometry, document));
+  EXPECT_THAT(document.shotPositions, ElementsAre(8.0, 14.0));
 }
 
 TEST(SurveyGeometry, takesAPairForAnEmptySurveyAndForAShot) {
