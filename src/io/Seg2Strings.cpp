@@ -15,6 +15,10 @@ namespace {
 
 constexpr std::size_t kLengthBytes = 2;
 
+bool separates(char c) {
+  return c == ' ' || c == '\n' || c == '\0';
+}
+
 /// Whether the bytes at the front of `rest` are the length of a string. Two letters of plain text
 /// would make a length above 8191; so long a string must at least end where its text does.
 bool beginsWithLength(std::string_view rest) {
@@ -25,8 +29,32 @@ bool beginsWithLength(std::string_view rest) {
   return !maybeLetters || rest.find('\0', kLengthBytes) + 1 == length;
 }
 
+/// The string at the front, with its length; shorter where the area ends before it.
+std::string_view frontString(std::string_view area) {
+  return area.substr(0, assembled<ByteOrder::kLittle, std::uint16_t>(area.data()));
+}
+
+/// Zero bytes stand at the end of a string only.
+bool isOneString(std::string_view string) {
+  const std::size_t end = string.find('\0', kLengthBytes);
+  return end == std::string_view::npos ||
+         string.find_first_not_of('\0', end) == std::string_view::npos;
+}
+
+/// Whether lengths lead from string to string. A length that does not count its own two bytes, or
+/// is none, would cut numbers in two.
+bool isChain(std::string_view area) {
+  bool cutsWord = false;
+  while (beginsWithLength(area)) {
+    const std::string_view string = frontString(area);
+    if (!isOneString(string)) return false;
+    cutsWord = !separates(string.back());
+    area.remove_prefix(string.size());
+  }
+  return !cutsWord || area.find_first_not_of('\0') != 0;
+}
+
 void splitWords(std::string_view text, std::vector<std::string_view>& words) {
-  const auto separates = [](char c) { return c == ' ' || c == '\n' || c == '\0'; };
   const char* const end = text.data() + text.size();
   for (const char* at = text.data(); at != end;) {
     const char* const first = std::find_if_not(at, end, separates);
@@ -83,7 +111,7 @@ class StringsParser {
   }
 
  private:
-  /// The word that stands `ahead` words behind the keyword; empty past the end.
+  /// The word that stands `ahead` words behind the keyword; empty past the end of the string.
   std::string_view after(std::size_t keyword, std::size_t ahead) const {
     return ahead < mWords.size() - keyword ? mWords[keyword + ahead] : std::string_view{};
   }
@@ -127,12 +155,14 @@ class StringsParser {
 }  // namespace
 
 void seg2Words(std::string_view area, std::vector<std::string_view>& words) {
-  while (beginsWithLength(area)) {
-    const auto length = assembled<ByteOrder::kLittle, std::uint16_t>(area.data());
-    const std::string_view string = area.substr(0, length);
+  const bool chained = isChain(area);
+  while (chained && beginsWithLength(area)) {
+    const std::string_view string = frontString(area);
+    words.emplace_back();
     splitWords(string.substr(kLengthBytes), words);
     area.remove_prefix(string.size());
   }
+  words.emplace_back();
   splitWords(area, words);
 }
 

@@ -16,9 +16,9 @@ struct Seg2Strings {
   bool hasInterval = false;     ///< told, and a number each time that it was
 };
 
-/// The words of a string area: what stands between blanks, line ends and zero bytes. The two bytes
-/// of length in front of each string are not part of any word; a string area that is no chain of
-/// such strings is taken as plain text.
+/// Appends the words of a string area: what stands between blanks, line ends and zero bytes. In
+/// place of the two bytes of length in front of each string stands an empty word, so that no value
+/// is taken from the next string. An area that is no chain of such strings is taken as plain text.
 void seg2Words(std::string_view area, std::vector<std::string_view>& words);
 
 /// Reads the keywords "SAMPLE_INTERVAL", "SOURCE_LOCATION", "RECEIVER_LOCATION" and "DELAY"; what

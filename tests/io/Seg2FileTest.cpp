@@ -222,6 +222,34 @@ TEST(Seg2Strings, lengthIsNoPartOfAWord) {
   EXPECT_EQ(read.delay, -0.5);
 }
 
+TEST(Seg2Strings, takeNoValueFromTheNextString) {
+  const Seg2Strings read = parsed(seg2Area({"SAMPLE_INTERVAL", "5 CHANNELS", "SOURCE_LOCATION 12.5",
+                                            "7 8", "DELAY", "3", "RECEIVER_LOCATION", "9 10"}));
+  EXPECT_FALSE(read.hasInterval);
+  EXPECT_EQ(read.source, (Point2D{12.5, 0.0}));
+  EXPECT_EQ(read.delay, 0.0);
+  EXPECT_EQ(read.receiver, Point2D());
+}
+
+TEST(Seg2Strings, wrongLengthsCutNoNumber) {
+  // Lengths without their own two bytes, and with two bytes too many.
+  for (const int wrong : {-2, 2}) {
+    const std::vector<std::string> strings = {"DELAY -0.0125", "RECEIVER_LOCATION 1.25 0 33.75",
+                                              "SAMPLE_INTERVAL 0.00025", "SOURCE_LOCATION 7 81.5"};
+    std::string area = seg2Area(strings);
+    std::size_t at = 0;
+    for (const std::string& string : strings) {
+      area[at] = static_cast<char>(area[at] + wrong);
+      at += string.size() + 3;
+    }
+    const Seg2Strings read = parsed(area);
+    EXPECT_EQ(read.delay, -0.0125) << wrong;
+    EXPECT_EQ(read.receiver, (Point2D{1.25, 33.75})) << wrong;
+    EXPECT_EQ(read.sampleInterval, 0.00025) << wrong;
+    EXPECT_EQ(read.source, (Point2D{7, 81.5})) << wrong;
+  }
+}
+
 TEST(Seg2Strings, acceptPlainText) {
   std::string area = "SAMPLE_INTERVAL 0.5";
   EXPECT_EQ(parsed(area).sampleInterval, 0.5);
