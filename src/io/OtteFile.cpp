@@ -108,9 +108,7 @@ class OtteReader : private PickReader {
                     std::to_string(mStringCount));
     }
     if (!readCount("trace set of the record", record.traceSetID)) return false;
-    if (record.traceSetID < 0) {
-      return refuse("the trace set " + std::to_string(record.traceSetID) + " is negative");
-    }
+    if (record.traceSetID < 0) takeOwnSet(record);
     std::string_view line;
     mText.nextLine(line);
     if (!readRow("time", record.ttMisurati)) return false;
@@ -123,6 +121,13 @@ class OtteReader : private PickReader {
     record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
     mData.records.push_back(std::move(record));
     return true;
+  }
+
+  /// Picks that came without traces may have no trace set to name.
+  void takeOwnSet(TravelTime& record) {
+    warn("record " + std::to_string(mData.records.size()) + " names trace set " +
+         std::to_string(record.traceSetID) + "; it was taken for that of its own place");
+    record.traceSetID = static_cast<std::int32_t>(mData.records.size());
   }
 
   /// The bytes that a broken copy lost may be the last digits of the last time.

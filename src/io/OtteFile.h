@@ -15,7 +15,8 @@ namespace talvesk {
 /// string is as long as the times of the records that name it (the longest of them, should they
 /// differ); strings that no record names share the remaining geophones equally, the first ones
 /// taking one more where that does not come out even. A single string takes all geophones.
-/// Geophones that no string can claim, or too few of them, refuse the file.
+/// Geophones that no string can claim, or too few of them, refuse the file. A record that names no
+/// trace set (a negative one) belongs to that of its own place in the file, and a warning says so.
 ///
 /// \param version out, the version word, once it was read
 /// \param data out; untouched when the file is refused

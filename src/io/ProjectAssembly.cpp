@@ -180,6 +180,7 @@ Status checkSurvey(SurveyMember& member) {
       return Status::failure("a geophone has no place");
     }
   }
+  std::int32_t own = 0;
   for (TravelTime& record : document.ttArray) {
     // -1 is a shot that no string recorded.
     const auto strings = static_cast<std::int64_t>(document.goephonesStringSet.size());
@@ -188,7 +189,9 @@ Status checkSurvey(SurveyMember& member) {
                              std::to_string(record.indexStesa) + " of " + std::to_string(strings));
     }
     if (!plausible(record.shotPos2d)) return Status::failure("a shot has no place");
-    if (record.traceSetID < 0) return Status::failure("a shot has trace set -1");
+    // Picks that came without traces may have none; their place says as much.
+    if (record.traceSetID < 0) record.traceSetID = own;
+    ++own;
     record.ttCalcolati.resize(record.ttMisurati.size(), kNoTime);
   }
   repairRun(document);

@@ -168,6 +168,18 @@ std::string fileOf(int strings, int geophones, const std::vector<std::pair<int, 
   return text;
 }
 
+TEST(OtteReader, takesRecordsWithoutATraceSetInTheirOrder) {
+  const ConsoleCapture console;
+  TravelTimeData data;
+  const std::string picksOnly =
+      replaced(replaced(kOtte, "0\n0\n5", "0\n-1\n5"), "0\n1\n30", "0\n-1\n30");
+  ASSERT_TRUE(parseTravelTimes(picksOnly, "a.otte", data).ok());
+  EXPECT_EQ(data.records.at(0).traceSetID, 0);
+  EXPECT_EQ(data.records.at(1).traceSetID, 1);
+  EXPECT_THAT(data.warnings, ElementsAre(HasSubstr("record 0 names trace set -1"),
+                                         HasSubstr("record 1 names trace set -1")));
+}
+
 TEST(OtteReader, sizesTheStringsByTheRecordsThatNameThem) {
   const struct {
     int strings;

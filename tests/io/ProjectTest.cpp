@@ -157,10 +157,12 @@ TEST_F(ProjectTest, hasItsRaysAgainAfterOneForwardPass) {
 TEST_F(ProjectTest, ofPicksAloneNeedsNoTraces) {
   LoadedProject picks;
   picks.document = testLine(8, 5, {0, 20});
+  for (TravelTime& record : picks.document.ttArray) record.traceSetID = -1;
   ASSERT_EQ(save(archive(), picks), 0);
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
-  EXPECT_THAT(back.document.ttArray, SizeIs(2));
+  ASSERT_THAT(back.document.ttArray, SizeIs(2));
+  EXPECT_EQ(back.document.ttArray[1].traceSetID, 1) << "that of its own place";
   EXPECT_EQ(back.document.grid, nullptr);
 }
 

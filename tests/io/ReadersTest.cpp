@@ -128,7 +128,6 @@ const std::vector<Refused> kRefused = {
     {"a.otte", kOtte.substr(0, kOtte.find("0\n1\n30")), "line 12: the file ends after 1 record of"},
     {"a.otte", replaced(kOtte, "0\n1\n30", "1\n1\n30"), "line 12: the record names string 1 of 1"},
     {"a.otte", replaced(kOtte, "0\n1\n30", "-1\n1\n30"), "line 12: the record names string -1"},
-    {"a.otte", replaced(kOtte, "0\n1\n30", "0\n-1\n30"), "line 13: the trace set -1 is negative"},
     {"a.otte", replaced(kOtte, "20;0;", "20;0;7;"), "line 14: there are 4 times for 3 geophones"},
     {"a.otte", replaced(kOtte, "\n2\n1\n", "\n2\n2000000000\n"),
      "the file names 2000000000 strings for 3 geophones"},
