@@ -167,7 +167,7 @@ void Talvesk_MainWindows::takeProject(LoadedProject project, const QString& file
   mSection.lockRange = mSection.lockRange || rangeLocked;
   mProjectFolder = std::move(project.folder);  // the one before goes, nobody needs its files now
   mProjectFile = file;
-  mLoader = ShotLoader();
+  mLoader.remember(project.shotFiles);
   mShots.assign(mDocument.traceSets.size(), ShotMemory());
   for (std::size_t i = 0; i < mShots.size(); ++i) {
     mShots[i].filtered = mShots[i].showFiltered = hasFilteredCopy(static_cast<int>(i));

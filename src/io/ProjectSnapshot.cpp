@@ -66,7 +66,7 @@ LoadedProject ProjectSnapshot::complete(
     const SharedFolder& folder) {
   TomoDocument copy = copyWithoutTraces(document);
   copy.traceSets = std::move(mTraceSets);
-  return {std::move(copy), interpretation, palettes, section, folder};
+  return {std::move(copy), interpretation, palettes, section, {}, folder};
 }
 
 }  // namespace talvesk

@@ -207,7 +207,7 @@ bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& s
 }
 
 Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,
-                     std::vector<std::string>& warnings) {
+                     SegyState& state, std::vector<std::string>& warnings) {
   const std::size_t sets = member.traceSets.size();
   if (member.waveType != WaveType::P && member.waveType != WaveType::S) {
     return Status::failure("wave type " + std::to_string(static_cast<int>(member.waveType)) +
@@ -217,7 +217,7 @@ Status installTraces(TracesMember member, const std::string& folder, TomoDocumen
                 member.filtered.size()}) > sets) {
     return Status::failure("there are more files or filtered copies than trace sets");
   }
-  SegyState state;
+  state = {};
   std::vector<TraceSet> traceSets;
   for (std::size_t set = 0; set < sets; ++set) {
     if (!finitePlaces(member.traceSets[set])) {

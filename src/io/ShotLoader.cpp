@@ -65,6 +65,13 @@ void appendShot(const std::string& path, ShotFileData data, TomoDocument& docume
   document.modified = true;
 }
 
+void ShotLoader::remember(const SegyState& others) {
+  if (others.formatCode == 0 && others.nativeOrder) return;  // none was SEG-Y or SU
+  const bool native = mState.nativeOrder && others.nativeOrder;
+  mState = others;
+  mState.nativeOrder = native;
+}
+
 std::vector<ShotFileOutcome> ShotLoader::load(const std::vector<std::string>& paths,
                                               TomoDocument& document) {
   const Status takesShots = checkTakesShots(document);

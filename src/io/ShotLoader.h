@@ -28,6 +28,9 @@ class ShotLoader {
   /// holds records without trace sets, or S-wave pairs, takes no file: the status of all is 1.
   std::vector<ShotFileOutcome> load(const std::vector<std::string>& paths, TomoDocument& document);
 
+  /// Remembers files that were read elsewhere, those of a project, as if they had been read here.
+  void remember(const SegyState& others);
+
   SegyState& state() { return mState; }
 
  private:

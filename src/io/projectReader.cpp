@@ -49,7 +49,7 @@ int projectReader::readTomoDocumentTraces_XML(const std::string& path, TomoDocum
   TracesMember traces;
   if (readTraces(path, traces, why) != 0) return fail(why);
   const std::string folder = path.substr(0, path.size() - bareName(path).size());
-  const Status status = installTraces(std::move(traces), folder, document, mWarnings);
+  const Status status = installTraces(std::move(traces), folder, document, mShotFiles, mWarnings);
   return status.ok() ? 0 : fail(std::string(kTracesMember) + ": " + status.message());
 }
 
@@ -87,6 +87,7 @@ bool projectReader::readMembers(const std::string& folder, LoadedProject& projec
   }
   project.document = std::move(survey.document);
   project.section = survey.section;
+  project.shotFiles = mShotFiles;
   project.document.modified = false;
   return !mError;
 }
@@ -117,6 +118,7 @@ int projectReader::load(const std::string& archive, const std::string& workingFo
   mTracesFailed = false;
   mMessage.clear();
   mWarnings.clear();
+  mShotFiles = {};
   try {
     LoadedProject fresh;
     if (loadInto(archive, workingFolder, fresh) != 0) return 1;

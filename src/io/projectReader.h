@@ -1,6 +1,7 @@
 #pragma once
 
 #include "io/ProjectMembers.h"
+#include "io/SegyFile.h"
 #include "io/TemporaryFolder.h"
 
 #include <QObject>
@@ -18,6 +19,7 @@ struct LoadedProject {
   refractionDataStructure::Interpretation interpretation;
   ColorPaletteList palettes;
   SectionViewSettings section;
+  SegyState shotFiles;  ///< what the readers of its SEG-Y and SU files remember, see ShotLoader
   /// Where the shot files lie that the document names. They are gone with the last owner, so it
   /// stays as long as the document does.
   SharedFolder folder;
@@ -73,6 +75,7 @@ class projectReader : public QObject {
   bool mTracesFailed = false;
   std::string mMessage;
   std::vector<std::string> mWarnings;
+  SegyState mShotFiles;
 };
 
 }  // namespace talvesk

@@ -2,6 +2,7 @@
 #include "io/ProjectSnapshot.h"
 #include "io/ProjectWriter.h"
 #include "io/projectReader.h"
+#include "support/ShotFiles.h"
 #include "support/TestSurveys.h"
 #include "tomo/TomographyRun.h"
 #include "widgets/SectionView.h"
@@ -231,6 +232,24 @@ TEST_F(Projects, openFromTheCommandLine) {
   open();
   window->start({path("line.tvsk")});
   EXPECT_EQ(document().traceSets.size(), 3U);
+}
+
+TEST_F(Projects, doNotChangeInWhichByteOrderShotsAreRead) {
+  SegyFixture file;
+  file.constant = {1, 2, 3, 4};
+  file.channels = {{{4, 5, 6}, 7, 10, 0}, {{7, 8, 9}, 7, 20, 0}};
+  const QString segy = QString::fromStdString(home.put("big.sgy", segyBytes(file)));
+  const QString su = QString::fromStdString(home.put("big.su", suBytes(file)));
+  saveAs(path("line.tvsk"));
+  dialogs.expectFiles(QStringLiteral("Open Seismic Trace"), {segy});
+  trigger("actionOpen_shot_files");
+  document().modified = false;
+  load(path("line.tvsk"));
+  ASSERT_EQ(document().traceSets.size(), 3U);
+  dialogs.expectFiles(QStringLiteral("Open Seismic Trace"), {su});
+  trigger("actionOpen_shot_files");
+  ASSERT_EQ(document().traceSets.size(), 4U);
+  EXPECT_EQ(document().traceSets[3].at(1).samples, (std::vector<double>{7, 8, 0}));
 }
 
 TEST_F(Projects, giveWayToANewSurvey) {

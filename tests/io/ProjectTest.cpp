@@ -267,6 +267,10 @@ TEST_F(ProjectTest, readsSuFilesInTheByteOrderThatTheyWereReadInBefore) {
     LoadedProject back;
     ASSERT_EQ(load(archive(), back), 0) << reader.message();
     EXPECT_EQ(back.document.traceSets.back()[1].samples, before[1].samples);
+    // Files that come after the project's own follow these.
+    ShotLoader after;
+    after.remember(back.shotFiles);
+    EXPECT_EQ(after.state().nativeOrder, !withSegy);
   }
 }
 
