@@ -185,6 +185,7 @@ void PaletteDialog::create_palette() {
   constexpr int kBlackToWhite = 0;
   ColorPalette palette = mPalettes.current();
   palette.name = tr("New palette").toStdString();
+  palette.color_gradient.clear();
   buildGradient(palette.color_gradient, kBlackToWhite);
   add(std::move(palette));
 }

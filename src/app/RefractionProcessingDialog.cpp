@@ -151,7 +151,7 @@ void RefractionProcessingDialog::connectCurves() {
 }
 
 bool RefractionProcessingDialog::hasChanges() const {
-  return mBuilt || !mUndo->isClean();
+  return mBuilt || mPhantomed || !mUndo->isClean();
 }
 
 void RefractionProcessingDialog::reject() {

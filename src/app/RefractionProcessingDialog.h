@@ -35,12 +35,12 @@ class RefractionProcessingDialog : public QDialog {
   const refractionDataStructure::Interpretation& interpretation() const { return mWork; }
   QUndoStack* undoStack() const { return mUndo; }
   bool profileBuilt() const { return mBuilt; }  ///< since the dialog was opened
-  /// Whether marks differ from those that it was opened with, or a profile was built.
+  /// Whether marks differ from those that it was opened with, or curves or a profile were built.
   bool hasChanges() const;
 
  public slots:
-  /// Escape and closing the window: asks when marks or a profile would be lost. The button Cancel
-  /// does not ask.
+  /// Escape and closing the window: asks when marks, curves or a profile would be lost. The button
+  /// Cancel does not ask.
   void reject() override;
 
  private slots:
@@ -85,7 +85,8 @@ class RefractionProcessingDialog : public QDialog {
   std::vector<RefractionWarning> mWarnings;  ///< of the last build
   QUndoStack* mUndo;
   bool mBuilt = false;
-  bool mStale = false;  ///< marks are not those that the results were built from
+  bool mPhantomed = false;  ///< the curves are not those that it was opened with
+  bool mStale = false;      ///< marks are not those that the results were built from
 };
 
 }  // namespace talvesk

@@ -95,6 +95,13 @@ PlotSeries lineOf(const phantom& curve, double end) {
   return series;
 }
 
+bool sameCurves(const std::vector<phantom>& some, const std::vector<phantom>& others) {
+  return std::equal(some.begin(), some.end(), others.begin(), others.end(),
+                    [](const phantom& a, const phantom& b) {
+                      return a.shotID == b.shotID && a.times == b.times;
+                    });
+}
+
 bool contains(const std::vector<RefractionWarning>& list, const RefractionWarning& one) {
   return std::any_of(list.begin(), list.end(), [&](const RefractionWarning& other) {
     return other.kind == one.kind && other.layer == one.layer;
@@ -104,7 +111,11 @@ bool contains(const std::vector<RefractionWarning>& list, const RefractionWarnin
 }  // namespace
 
 void RefractionProcessingDialog::on_pushAutoPhantButton_clicked() {
+  const Interpretation before = mWork;
   const auto warnings = buildPhantoms(mShots, mWork);
+  if (!sameCurves(before.phnt_A, mWork.phnt_A) || !sameCurves(before.phnt_R, mWork.phnt_R)) {
+    mPhantomed = true;
+  }
   showPhantoms();
   tell(warnings, {});
   QStringList rest;

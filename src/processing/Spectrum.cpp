@@ -61,7 +61,7 @@ Spectrum computeSpectrum(const TraceSet& traces, bool useRaw) {
   const std::vector<std::complex<double>> bins = dft(stack);
 
   Spectrum spectrum;
-  for (std::size_t k = 0; k < n - n / 2; ++k) {
+  for (std::size_t k = 0; k < n / 2; ++k) {
     spectrum.frequencies.push_back(binFrequency(k, rate, n));
     spectrum.amplitudes.push_back(std::abs(bins[k] / static_cast<double>(n)));
   }
@@ -80,8 +80,8 @@ Spectrum plottedCurve(const Spectrum& spectrum, double below) {
 
 double highestBinFrequency(std::size_t samples, double sampleInterval) {
   const double rate = 1.0 / sampleInterval;
-  if (samples == 0 || !isRate(rate)) return 0.0;
-  return binFrequency((samples - 1) / 2, rate, samples);
+  if (samples < 2 || !isRate(rate)) return 0.0;
+  return binFrequency(samples / 2 - 1, rate, samples);
 }
 
 void HighestFrequency::see(const Spectrum& spectrum) {

@@ -18,7 +18,7 @@ inline constexpr double kPlottedBelow = 350.0;  ///< Hz; where the plotted curve
 
 /// The traces' stacked amplitude spectrum: their transforms are added as complex numbers, so that
 /// what the traces have in common stands out, then divided by the length N of the first trace that
-/// has samples. Bins k < N / 2, as real numbers: an odd length has one bin more than half of it.
+/// has samples. Bins k < N / 2, halved to a whole number: a single sample has no bin.
 /// Traces of another length are cut or filled with zeros to N; a trace with a sample that single
 /// precision cannot hold (NaN and infinity are such) is left out, as the filters refuse it.
 /// The sample rate is that of the last trace. Tells the console "fft".

@@ -89,12 +89,9 @@ RgbColor ColorGradient::colorAt(double t) const {
 }
 
 void buildGradient(ColorGradient& gradient, int type) {
-  std::vector<GradientColorPoint> stops = stopsOfType(type);
-  if (stops.empty()) {
-    console::error() << "Unknown gradient type. " << std::endl;
-    return;
-  }
-  gradient.assign(std::move(stops));
+  const std::vector<GradientColorPoint> stops = stopsOfType(type);
+  if (stops.empty()) console::error() << "Unknown gradient type. " << std::endl;
+  for (const GradientColorPoint& point : stops) gradient.add(point);
 }
 
 ColorPaletteList::ColorPaletteList() {

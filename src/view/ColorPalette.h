@@ -47,8 +47,9 @@ class ColorGradient {
 inline constexpr int kFirstGradientType = 0;
 inline constexpr int kLastGradientType = 8;
 
-/// Makes the gradient hold the stops of a gradient type and nothing else. Any number but 0 to 8 is
-/// told on the console's error stream and leaves the gradient as it was.
+/// Adds the stops of a gradient type behind those that the gradient has; clear() it first to start
+/// anew. Any number but 0 to 8 is told on the console's error stream and leaves the gradient as it
+/// was.
 void buildGradient(ColorGradient& gradient, int type);
 
 /// A named gradient with the value scale that it is stretched over and the number of discrete

@@ -317,6 +317,23 @@ TEST_F(RefractionCommand, leavesTheDocumentAloneOnOkWithoutAChange) {
   EXPECT_FALSE(window->document().modified);
 }
 
+TEST_F(RefractionCommand, keepsPhantomArrivalsThatWereMadeWithoutAProfile) {
+  const auto run = [this](const char* button, bool shiftsBefore) {
+    window->document().modified = false;
+    dialogs.expect([button, shiftsBefore](QWidget& dialog) {
+      EXPECT_EQ(dialog.findChild<QTableWidget*>(QStringLiteral("shiftTable"))->rowCount() > 0,
+                shiftsBefore);
+      dialog.findChild<QPushButton*>(QLatin1String(button))->click();
+      dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    });
+    action("actionRefraction").trigger();
+    return window->document().modified;
+  };
+  EXPECT_TRUE(run("proposeButton", false));
+  EXPECT_TRUE(run("pushAutoPhantButton", false));
+  EXPECT_FALSE(run("pushAutoPhantButton", true)) << "the same curves again";
+}
+
 TEST_F(RefractionCommand, forgetsTheProfileOfPicksThatAreReplaced) {
   answer(QDialogButtonBox::Ok);
   const QString file = QString::fromStdString(home.file("other.otte"));

@@ -295,15 +295,11 @@ TEST(NoiseReduction, leavesTracesAloneThatHaveNo85Hertz) {
     std::size_t samples;
     double interval;
     bool filtered;
-  } cases[] = {{0, kInterval, true},
-               {1, kInterval, false},
-               {2, kInterval, false},
-               {3, kInterval, true},
-               {1000, 1.0 / 169.0, false},
-               {1000, 1.0 / 171.0, true},
-               {1000, 0.0, false},
-               {1000, kNaN, false},
-               {1000, std::numeric_limits<double>::max(), false}};
+  } cases[] = {{0, kInterval, true},      {1, kInterval, false},
+               {2, kInterval, false},     {3, kInterval, false},
+               {4, kInterval, true},      {1000, 1.0 / 169.0, false},
+               {1000, 1.0 / 171.0, true}, {1000, 0.0, false},
+               {1000, kNaN, false},       {1000, std::numeric_limits<double>::max(), false}};
   for (const auto& c : cases) {
     TomoDocument document = documentOf({traceOf(Samples(c.samples, 1.0))});
     Trace& trace = document.traceSets[0][0];

@@ -67,7 +67,7 @@ TEST(Spectrum, goesByTheFirstTracesLengthAndTheLastOnesRate) {
                      traceOf({0, 0, 0, 0, 0, 9, 9})};
   traces.back().sampleInterval = 0.2;
   const Spectrum spectrum = computeSpectrum(traces, true);
-  EXPECT_EQ(spectrum.frequencies, (std::vector<double>{0.0, 1.0, 2.0}));  // 2 < 5 / 2
+  EXPECT_EQ(spectrum.frequencies, (std::vector<double>{0.0, 1.0}));  // 5 / 2 bins
   EXPECT_NEAR(spectrum.amplitudes[0], 4.0 / 5.0, 1e-15);
 }
 
@@ -95,13 +95,17 @@ TEST(Spectrum, hasNoBinsWithoutSamplesOrRate) {
 
 TEST(Spectrum, endsWhereHighestBinFrequencySays) {
   ConsoleCapture console;
-  for (std::size_t n = 1; n < 60; ++n) {
+  for (std::size_t n = 2; n < 60; ++n) {
     HighestFrequency highest;
     highest.see(computeSpectrum({traceOf(sine(n, 60.0))}, true));
     EXPECT_EQ(highest.value(), highestBinFrequency(n, kInterval)) << n;
     EXPECT_LT(highest.value(), 1000.0);
   }
-  EXPECT_EQ(highestBinFrequency(0, kInterval), 0.0);
+  for (const std::size_t n : {0U, 1U}) {
+    EXPECT_TRUE(computeSpectrum({traceOf(sine(n, 60.0))}, true).frequencies.empty()) << n;
+    EXPECT_EQ(highestBinFrequency(n, kInterval), 0.0) << n;
+  }
+  EXPECT_EQ(highestBinFrequency(7, 1.0), 2.0 / 7.0);  // the odd bin in the middle is left out
 }
 
 TEST(Spectrum, drawsBelow350Hz) {

@@ -63,11 +63,13 @@ TEST(ColorPalette, anUnknownGradientTypeIsToldAndChangesNothing) {
   EXPECT_EQ(console.error(), "Unknown gradient type. \nUnknown gradient type. \n");
 }
 
-TEST(ColorPalette, aGradientIsBuiltFromAnEmptyOne) {
+TEST(ColorPalette, aGradientTypeIsAddedToTheStopsThatThereAre) {
   ColorGradient gradient;
   buildGradient(gradient, 5);
   buildGradient(gradient, 1);
-  EXPECT_EQ(gradient.points().size(), 2U);
+  ASSERT_EQ(gradient.points().size(), 8U);
+  EXPECT_EQ(gradient.points()[0].mr, 59.0 / 255.0);
+  EXPECT_EQ(gradient.points()[7].mr, 1.0);
 }
 
 TEST(ColorPalette, blendsBetweenStopsAndHoldsTheEnds) {
