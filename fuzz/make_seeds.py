@@ -3,8 +3,9 @@
 
 usage: make_seeds.py FOLDER
 The first byte of a travel-time seed chooses the reader, that of an SU seed the state that an earlier
-file left, that of an isovalue seed the separator, that of a project seed the member
-that the rest stands for, 0 for the whole archive; the rest is the file.
+file left, that of an isovalue seed the separator, that of a table seed the reader and the separator,
+that of a project seed the member that the rest stands for, 0 for the whole archive; the rest is the
+file.
 """
 import pathlib
 import sys
@@ -12,6 +13,7 @@ import sys
 from palette_seeds import isovalue_seeds, palette_seeds
 from project_seeds import project_seeds
 from shot_seeds import shot_seeds
+from table_seeds import setting_seeds, table_seeds
 
 
 def row(values, separator, last=""):
@@ -87,6 +89,8 @@ def main():
     write(root / "palette", palette_seeds())
     write(root / "isovalues", isovalue_seeds())
     write(root / "project", project_seeds())
+    write(root / "tables", table_seeds())
+    write(root / "settings", setting_seeds())
     for target, seeds in shot_seeds().items():
         write(root / target, seeds)
 

@@ -1,0 +1,85 @@
+// Throws any bytes at the readers of small tables: positions, layers of traces, and what is pasted.
+// The first byte chooses the reader and its separator.
+#include "Demand.h"
+#include "base/TypedTable.h"
+#include "io/GeometryFile.h"
+#include "io/LayerFile.h"
+#include "model/TomoDocument.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <string_view>
+
+namespace {
+
+using namespace talvesk;
+
+void tryPositions(std::string_view text, const char* separator, bool labelled) {
+  const GeometryRecords before = {{1.0, 2.0}};
+  GeometryRecords records = before;
+  const Status status = parseRecords(text, "a.csv", separator, labelled, records);
+  demand(status.ok() == status.message().empty(), "a message with every failure");
+  if (!status.ok()) return demand(records == before, "what was there stays after a failure");
+  std::size_t fields = 0;
+  for (const auto& record : records) {
+    fields += record.size();
+    for (const double value : record) demand(std::isfinite(value), "finite positions");
+  }
+  demand(fields <= text.size(), "no more fields than bytes");
+  demand(records.empty() || !records.back().empty(), "a last record that is one");
+  std::vector<Point2D> points;
+  if (positionsOf(records, points).ok()) {
+    demand(points.size() == records.size(), "a point per record");
+  }
+}
+
+/// Shots of four, no and three traces.
+TomoDocument threeShots() {
+  TomoDocument document;
+  for (const std::size_t traces : {4, 0, 3}) {
+    TravelTime record;
+    record.ttMisurati.assign(traces, 0.01);
+    document.ttArray.push_back(record);
+  }
+  return document;
+}
+
+void tryLayers(std::string_view text) {
+  static const TomoDocument document = threeShots();
+  LayerMarks marks;
+  const Status status = parseLayerMarks(text, "a.csv", document, marks);
+  demand(status.ok() == status.message().empty(), "a message with every failure");
+  if (!status.ok()) return demand(marks.empty(), "what was there stays after a failure");
+  demand(marks.size() == document.ttArray.size(), "marks of every shot");
+  for (std::size_t i = 0; i < marks.size(); ++i) {
+    demand(marks[i].size() == document.ttArray[i].ttMisurati.size(), "a mark per trace");
+    demand(std::all_of(marks[i].begin(), marks[i].end(), [](auto layer) { return layer <= 3; }),
+           "layers that there are");
+  }
+}
+
+void tryPasted(std::string_view text, bool decimalComma) {
+  constexpr std::size_t kMostRows = 50;
+  TypedTable table;
+  const Status status = parseTypedTable(text, decimalComma, kMostRows, table);
+  demand(status.ok() == status.message().empty(), "a message with every failure");
+  if (!status.ok()) return demand(table.empty(), "what was there stays after a failure");
+  demand(table.size() <= kMostRows, "bounded rows");
+  for (const auto& row : table) {
+    for (const double value : row) demand(!std::isinf(value), "finite or empty fields");
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+  if (size == 0) return 0;
+  static const char* const separators[] = {";", ",", kBlankSeparator};
+  const std::string_view text(reinterpret_cast<const char*>(bytes) + 1, size - 1);
+  const int choice = bytes[0] % 9;
+  if (choice < 6) tryPositions(text, separators[choice % 3], choice >= 3);
+  if (choice == 6) tryLayers(text);
+  if (choice > 6) tryPasted(text, choice == 8);
+  return 0;
+}

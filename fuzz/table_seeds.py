@@ -1,0 +1,42 @@
+"""Tables of positions and layers, tables to paste, and settings; good and broken."""
+
+
+def position_seeds():
+    for number, separator in enumerate(";, "):
+        for label in ("", "shot_id_1" + separator):
+            reader = number + (3 if label else 0)
+            for text in ("{1}0{0}100.5\n{1}5{0}-1e2\n", "{1}0{0}1\r\n\r\n{1}2\n\n", "{1}x{0}\n",
+                         "{1}1e999{0}0\n", "{1}nan{0}inf\n", "{1}", "9" * 257):
+                yield reader, text.format(separator, label)
+
+
+def layer_seeds():
+    good = "1;1;2;3\n;\n0;2;3;\n"
+    for text in (good, good + "1\n", good[:-4], "1;1;2;4\n", "1;1;2;3;3\n", "\n \n1;1;2;1.0\n"):
+        yield 6, text
+
+
+def pasted_seeds():
+    for reader in (7, 8):
+        for text in ("x\tz\n0\t100,5\n5\t1.234,5\n", "0;1\n2;3\n\n", "1,5\n2,5\n", "1,2,3\n4,,6\n",
+                     "1 2\n3 4 5\n", "1\tinf\n", "\t\n1\t\n", "1\n" * 60):
+            yield reader, text
+
+
+def table_seeds():
+    for seeds in (position_seeds(), layer_seeds(), pasted_seeds()):
+        yield from (bytes([reader]) + text.encode("ascii") for reader, text in seeds)
+
+
+def setting_seeds():
+    keys = ("zoomIn", "cutHorizontal", "fillWiggle", "showFiltered", "showAllTraces",
+            "savePngHColorbar", "twoColors")
+    head, end = '<?xml version="1.0" encoding="utf-8"?>\n<cereal>', "</cereal>\n"
+    flags = "".join(f"<{key}>{value}</{key}>" for key, value in zip(keys, ["true", "false"] * 4))
+    language = "<language>it</language>"
+    for content in (language + flags, language, flags, language.replace("it", "&lt; &#232;&amp;"),
+                    language.replace("it", ""), flags.replace("true", "1").replace("false", "0"),
+                    flags.replace("true", "yes"), "<a>" * 400, "<!-- -->" + language):
+        yield (head + content + end).encode("ascii")
+    yield b""
+    yield head.encode("ascii")
