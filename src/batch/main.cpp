@@ -1,19 +1,34 @@
+#include "base/StandardStreams.h"
 #include "batch/Commands.h"
 #include "batch/Failure.h"
 #include "batch/Options.h"
 
 #include <QTextCodec>
 #include <exception>
+#include <iostream>
 #include <new>
 
+namespace {
+
+/// What could not be printed makes a failure of a command that went well.
+int afterPrinting(int exitCode) {
+  std::cout.flush();
+  if (std::cout || exitCode != talvesk::kDone) return exitCode;
+  return talvesk::failed("Cannot write to the standard output");
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  talvesk::occupyClosedStreams();
   // File names are bytes that the user gave; they must not pass through the codec of a locale that
   // cannot spell them.
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   try {
     const talvesk::CommandLine line = talvesk::parseCommandLine(argc, argv);
-    if (!line.command) return line.exitCode;
-    return std::visit([](const auto& options) { return talvesk::run(options); }, *line.command);
+    if (!line.command) return afterPrinting(line.exitCode);
+    return afterPrinting(
+        std::visit([](const auto& options) { return talvesk::run(options); }, *line.command));
   } catch (const std::bad_alloc&) {
     return talvesk::failed("there is not enough memory");
   } catch (const std::exception& error) {
