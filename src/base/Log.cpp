@@ -29,6 +29,9 @@ void Log::write(const std::string& message, int level) {
   if (!mPath.empty() && !mFile.is_open()) {
     mFile.clear();
     mFile.open(mPath, std::ios::out | std::ios::trunc);
+    mFile.close();
+    // Two windows share the file: each adds to its end, where the other may have emptied it.
+    mFile.open(mPath, std::ios::out | std::ios::app);
     if (!mFile.is_open()) {
       console::error() << "Impossible to open log file" << message << std::endl;
     }

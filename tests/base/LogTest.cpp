@@ -53,6 +53,17 @@ TEST(Log, startsAFreshFileWithTheFirstMessageAndKeepsTheLater) {
   EXPECT_PRED2(isStamped, TestFolder::get(log.path()), "Application Start\n" + kStamp + "second");
 }
 
+TEST(Log, ofTwoWindowsHasNoHolesAndLosesNoLine) {
+  const TestFolder folder;
+  const ConsoleCapture console;
+  Log first(folder.file("run.log"));
+  Log second(first.path());
+  first.write("emptied by the second window");
+  second.write("second");
+  first.write("first");
+  EXPECT_PRED2(isStamped, TestFolder::get(first.path()), "second\n" + kStamp + "first");
+}
+
 TEST(Log, complainsAndGoesOnWhenTheFileCannotBeOpened) {
   const TestFolder folder;
   const ConsoleCapture console;
