@@ -10,7 +10,21 @@
 #include <system_error>
 #include <utility>
 
+#include <unistd.h>
+
 namespace talvesk {
+namespace {
+
+/// Why the file cannot even be opened; empty when it can.
+std::string whyClosed(const std::string& path) {
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) return "There is no such file.";
+  if (!std::filesystem::is_regular_file(path, error)) return "It is not a regular file.";
+  if (::access(path.c_str(), R_OK) != 0) return "You may not read it.";
+  return {};
+}
+
+}  // namespace
 
 int projectReader::fail(const std::string& message) {
   mError = true;
@@ -104,9 +118,10 @@ int projectReader::loadInto(const std::string& archive, const std::string& worki
     console::error() << "[ERROR] While extracting " << archive << std::endl;
     mError = true;
     emit error_read_compressed();
-    return fail(
-        "It cannot be extracted: it is no archive of a project, it is damaged, or there is "
-        "no room on the disk for it.");
+    const std::string closed = whyClosed(archive);
+    return fail(!closed.empty() ? closed
+                                : "It cannot be extracted: it is no archive of a project, it is "
+                                  "damaged, or there is no room on the disk for it.");
   }
   emit read_compressed();
   return readMembers(project.folder->path(), project) ? 0 : 1;

@@ -44,9 +44,12 @@ TEST_F(LoadingFaults, ofFilesThatAreNoArchive) {
   EXPECT_THAT(console.error(),
               HasSubstr(": read_ZIP() : couldn't open input file " + folder.file("nowhere.tvsk")));
   EXPECT_THAT(console.error(), HasSubstr("[ERROR] While extracting "));
+  EXPECT_EQ(reader.message(), "There is no such file.");
   expectRefused(folder.put("text.tvsk", "no archive"));
   expectRefused(folder.put("empty.tvsk", ""));
+  EXPECT_THAT(reader.message(), HasSubstr("no archive"));
   expectRefused(folder.path());
+  EXPECT_EQ(reader.message(), "It is not a regular file.");
 }
 
 TEST_F(LoadingFaults, ofAnArchiveWithoutSurveyAreFoundBeforeAnythingIsExtracted) {
