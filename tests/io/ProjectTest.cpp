@@ -211,6 +211,18 @@ TEST_F(ProjectTest, keepsTheSamplesOfTwoFilesOfOneName) {
   EXPECT_EQ(back.document.traceSets[3][1].samples, project.document.traceSets[3][1].samples);
 }
 
+TEST_F(ProjectTest, keepsTheSamplesOfAFileThatNoArchiveCanName) {
+  const std::string odd = folder.put("bell\a.dat", projectShot(40, 4));
+  ShotLoader().load({odd}, project.document);
+  ASSERT_EQ(save(), 0) << writer.message();
+  ASSERT_EQ(writer.warnings().size(), 1U);
+  EXPECT_THAT(writer.warnings().front(), HasSubstr(odd));
+  LoadedProject loaded;
+  ASSERT_EQ(load(archive(), loaded), 0) << reader.message();
+  ASSERT_EQ(loaded.document.traceSets.size(), 4U);
+  EXPECT_EQ(loaded.document.traceSets[3][5].samples, project.document.traceSets[3][5].samples);
+}
+
 TEST_F(ProjectTest, bringsPairsOfPolaritiesBackAsTheirDifference) {
   LoadedProject pairs;
   TomoDocument dx, sx;
