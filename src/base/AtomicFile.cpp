@@ -17,6 +17,8 @@ Status failedTo(const char* what, const std::string& path, const QString& reason
   return Status::failure(std::string("Cannot ") + what + " " + path + ": " + reason.toStdString());
 }
 
+const QString kNoName = QStringLiteral("its name is not valid UTF-8 text");
+
 Status readAll(QFile& file, const std::string& path, std::size_t limit, std::string& bytes) {
   limit = std::min(limit, std::numeric_limits<std::size_t>::max() / 4);
   // The size is a hint only: system files lie about it, and a file may grow while it is read.
@@ -38,7 +40,12 @@ Status readAll(QFile& file, const std::string& path, std::size_t limit, std::str
 
 }  // namespace
 
+bool isFileName(const std::string& path) {
+  return QString::fromStdString(path).toStdString() == path;
+}
+
 Status writeFileAtomically(const std::string& path, std::string_view bytes) {
+  if (!isFileName(path)) return failedTo("write", path, kNoName);
   const QString name = QString::fromStdString(path);
   const QFileInfo existing(name);
   // Renaming over a device or a pipe would replace it in the file system.
@@ -71,6 +78,7 @@ Status writeTextAtomically(const std::string& path,
 }
 
 Status readWholeFile(const std::string& path, std::string& bytes, std::size_t limitBytes) {
+  if (!isFileName(path)) return failedTo("read", path, kNoName);
   const QString name = QString::fromStdString(path);
   const QFileInfo info(name);
   if (!info.exists()) return failedTo("read", path, QStringLiteral("there is no such file"));

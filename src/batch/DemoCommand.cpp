@@ -72,6 +72,10 @@ int run(const DemoOptions& options) {
   const Channels channels = openChannels(options.quiet);
   const std::filesystem::path folder(options.folder);
   std::error_code error;
+  if (!isFileName(options.folder)) {
+    return failed("Cannot make the folder " + options.folder +
+                  ": its name is not valid UTF-8 text");
+  }
   std::filesystem::create_directories(folder, error);
   if (!std::filesystem::is_directory(folder)) {
     return failed("Cannot make the folder " + options.folder + ": " +

@@ -28,9 +28,9 @@ void describe(const std::string& file, const TravelTimeData& data, std::ostream&
     picks += pickCount(record);
   }
   const SurveyProfile profile = measureSurvey(data.strings, shots);
-  out << file << "\n  format      " << data.format << "\n  strings     " << data.strings.size()
-      << "\n  geophones   " << geophones << "\n  shots       " << data.records.size()
-      << "\n  picks       " << picks << " of " << times << " times\n";
+  out << asOneLine(file) << "\n  format      " << data.format << "\n  strings     "
+      << data.strings.size() << "\n  geophones   " << geophones << "\n  shots       "
+      << data.records.size() << "\n  picks       " << picks << " of " << times << " times\n";
   if (profile.hasGeometry()) {
     out << "  spacing     " << formatDouble(profile.minSpacing) << " m (smallest)\n";
   }
@@ -58,8 +58,8 @@ std::string place(const Point2D& point) {
 }
 
 void describe(const std::string& file, const ShotFileData& data, std::ostream& out) {
-  out << file << "\n  format      " << data.format << "\n  traces      " << data.traces.size()
-      << '\n';
+  out << asOneLine(file) << "\n  format      " << data.format << "\n  traces      "
+      << data.traces.size() << '\n';
   if (data.traces.empty()) return;
   out << "  samples     "
       << span(data.traces,

@@ -21,6 +21,7 @@ Status checkPlace(const OutputFile& output) {
   const auto refuse = [&](const std::string& why) {
     return Status::failure("Cannot write " + output.path + ": " + why);
   };
+  if (!isFileName(output.path)) return refuse("its name is not valid UTF-8 text");
   const QFileInfo file(QString::fromStdString(output.path));
   const QFileInfo folder(file.absolutePath());
   const std::string folderName = folder.filePath().toStdString();

@@ -71,9 +71,9 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
     times += record.ttMisurati.size();
     picks += pickCount(record);
   }
-  out << path << "\n  format      project\n  title       " << document.title << "\n  strings     "
-      << document.goephonesStringSet.size() << "\n  geophones   " << geophones << "\n  shots       "
-      << document.ttArray.size() << "\n  traces      " << traces << " of "
+  out << asOneLine(path) << "\n  format      project\n  title       " << asOneLine(document.title)
+      << "\n  strings     " << document.goephonesStringSet.size() << "\n  geophones   " << geophones
+      << "\n  shots       " << document.ttArray.size() << "\n  traces      " << traces << " of "
       << countOf(document.traceSets.size(), "file") << "\n  picks       " << picks << " of "
       << times << " times\n  grid        ";
   if (const Grid* grid = document.grid.get()) {

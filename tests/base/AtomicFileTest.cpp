@@ -3,6 +3,7 @@
 #include "support/TestFolder.h"
 
 #include <csignal>
+#include <filesystem>
 #include <ostream>
 
 #include <gmock/gmock.h>
@@ -58,6 +59,17 @@ TEST(AtomicFile, keepsTheOldFileWhenOnlyAPartOfTheNewOneFits) {
     EXPECT_EQ(TestFolder::get(path), "what was there before") << size;
     EXPECT_EQ(folder.entries(), 1) << size;
   }
+}
+
+TEST(AtomicFile, writesNothingUnderAnotherNameThanTheOneGiven) {
+  const TestFolder folder;
+  const std::string path = folder.put("latin \xe9.txt", "there");
+  std::string bytes;
+  EXPECT_THAT(readWholeFile(path, bytes).message(), HasSubstr("UTF-8"));
+  EXPECT_THAT(writeFileAtomically(path, "x").message(), HasSubstr("UTF-8"));
+  EXPECT_EQ(TestFolder::get(path), "there");
+  const std::filesystem::directory_iterator files(folder.path());
+  EXPECT_EQ(std::distance(begin(files), end(files)), 1);
 }
 
 TEST(AtomicFile, namesTheFileThatCannotBeWritten) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <fstream>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,6 +13,7 @@ namespace talvesk::batchtest {
 namespace {
 
 using nlohmann::ordered_json;
+using namespace std::string_literals;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -119,13 +122,16 @@ TEST(Files, outputPlacesAreCheckedBeforeTheWork) {
   }
 }
 
-TEST(Files, jsonThatDoesNotFitOnStandardOutputIsAFailure) {
+TEST(Files, whatDoesNotFitOnStandardOutputIsAFailure) {
   const Folder folder;
   const std::string input = folder.write("line.otte", smallLine());
-  const std::string command =
-      std::string(TALVESK_BATCH) + " info " + input + " --json - >/dev/full 2>" + (folder / "err");
-  EXPECT_NE(std::system(command.c_str()), 0);
-  EXPECT_THAT(contentsOf(folder / "err"), HasSubstr("standard output"));
+  for (const std::string& arguments : {"info " + input + " --json -", "info " + input, "--help"s}) {
+    const std::string command =
+        std::string(TALVESK_BATCH) + " " + arguments + " >/dev/full 2>" + (folder / "err");
+    EXPECT_NE(std::system(command.c_str()), 0) << arguments;
+    EXPECT_EQ(contentsOf(folder / "err"), "talvesk-batch: Cannot write to the standard output\n")
+        << arguments;
+  }
 }
 
 TEST(Files, convertKeepsPositionsAndTimes) {
@@ -184,6 +190,32 @@ TEST(Files, infoForReadersCountsWhatIsThere) {
   for (const char* text : {"format      otte", "strings     1", "geophones   13", "shots       3",
                            "picks       39 of 39", "spacing     2 m", "0 to 24 m"}) {
     EXPECT_THAT(outcome.out, HasSubstr(text));
+  }
+}
+
+TEST(Files, infoSendsNoControlCharactersOfNamesToATerminal) {
+  const Folder folder;
+  const std::string input = folder.write("a\x1b[2Jb\nc\xc2\x9b.otte", smallLine());
+  const Outcome outcome = runBatch({"info", input});
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_THAT(outcome.out, StartsWith((folder / "a [2Jb c  .otte") + "\n  format "));
+}
+
+TEST(Files, namesThatAreNoTextAreRefusedAndNothingGetsAnotherName) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const std::string place = (folder / "") + "/";
+  const std::string odd = place + "latin \xe9.otte";
+  std::ofstream(odd) << smallLine();
+  for (const std::string& arguments :
+       {"info '" + odd + "'", "convert '" + odd + "' '" + place + "x.otte'",
+        "convert '" + input + "' '" + place + "\xe8.otte'", "demo '" + place + "\xe8'"}) {
+    const std::string command =
+        std::string(TALVESK_BATCH) + " " + arguments + " 2>" + (folder / "err");
+    EXPECT_NE(std::system(command.c_str()), 0) << arguments;
+    EXPECT_THAT(contentsOf(folder / "err"), HasSubstr("UTF-8")) << arguments;
+    const std::filesystem::directory_iterator files(place);
+    EXPECT_EQ(std::distance(begin(files), end(files)), 3) << arguments;
   }
 }
 
