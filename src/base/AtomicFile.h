@@ -9,8 +9,8 @@
 
 namespace talvesk {
 
-/// False for a name whose bytes are no UTF-8 text: the file could not be found by it, and one that is
-/// written would get another name.
+/// False for a name whose bytes are no UTF-8 text: the file could not be found by it, and one that
+/// is written would get another name.
 bool isFileName(const std::string& path);
 
 /// Replaces the file at `path` (UTF-8) by `bytes`, whole or not at all: a failure leaves what was
