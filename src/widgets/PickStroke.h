@@ -11,7 +11,7 @@ namespace talvesk {
 class PickStroke {
  public:
   enum class Kind {
-    Run,    ///< every trace passed gets the time at which the pointer passed it
+    Run,    ///< every trace gets the time at which the pointer came nearest to it, or crossed it
     Move,   ///< the trace of the start gets the time of the pointer, wherever that goes
     Remove  ///< every trace passed loses its pick
   };
@@ -19,11 +19,19 @@ class PickStroke {
   /// kept within the record.
   using Adjust = std::function<double(int trace, double time)>;
 
-  /// \param trace where the button went down \param time seconds
-  void begin(Kind kind, int trace, double time, const Adjust& adjust);
-  /// The pointer went on to a trace and time. Traces between the last one and this get times on the
-  /// straight way there. \param trace -1, or any for Kind::Move: stays on its trace
-  void moveTo(int trace, double time, const TraceLayout& layout, const Adjust& adjust);
+  /// Where the pointer is.
+  struct Place {
+    double position = 0.0;  ///< in the layout
+    double time = 0.0;      ///< seconds
+  };
+
+  /// \param trace where the button went down
+  void begin(Kind kind, int trace, const Place& place, const TraceLayout& layout,
+             const Adjust& adjust);
+  /// The pointer went straight on to a place, over the traces between the last one and this. While
+  /// a run has one trace, that follows the pointer up and down.
+  /// \param trace -1, or any for Kind::Move: stays on its trace
+  void moveTo(int trace, const Place& place, const TraceLayout& layout, const Adjust& adjust);
   void clear() { mTimes.clear(); }
 
   bool active() const { return !mTimes.empty(); }
@@ -33,11 +41,15 @@ class PickStroke {
 
  private:
   void set(int trace, double time, const Adjust& adjust);
+  void enter(int trace);
+  void approach(const Place& to, const TraceLayout& layout);
 
   Kind mKind = Kind::Run;
   std::map<int, double> mTimes;
-  int mLastTrace = -1;
-  double mLastTime = 0.0;
+  int mTrace = -1;            ///< the one that the pointer is at
+  Place mPlace;               ///< of the pointer
+  double mNearestTime = 0.0;  ///< of the pointer, where it was nearest to the trace, seconds
+  double mNearestAway = 0.0;  ///< how far away that was
 };
 
 }  // namespace talvesk

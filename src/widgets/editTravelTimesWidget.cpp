@@ -130,6 +130,7 @@ void editTravelTimesWidget::picksReplaced() {
   s.stack.clear();
   s.review.clear();
   s.redrawMarks();
+  s.tellAgain();
 }
 
 void editTravelTimesWidget::autoPicked(const std::vector<std::int32_t>& shots) {
@@ -139,6 +140,7 @@ void editTravelTimesWidget::autoPicked(const std::vector<std::int32_t>& shots) {
   if (s.document == nullptr) return;
   for (const std::int32_t shot : shots) s.review.markShot(*s.document, shot);
   s.redrawMarks();
+  s.tellAgain();
 }
 
 int editTravelTimesWidget::currentTrace() const {

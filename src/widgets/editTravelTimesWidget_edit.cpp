@@ -51,6 +51,7 @@ void editTravelTimesWidget::State::push(const QString& text, std::vector<PickCha
 void editTravelTimesWidget::State::edited(const PickEditEffect& effect) {
   redrawMarks();
   describe();
+  tellAgain();
   if (effect.added) emit widget.pick_added();
   if (effect.timesChanged) emit widget.pick_edited();
   if (effect.shot != shot) emit widget.shotEdited(effect.shot);

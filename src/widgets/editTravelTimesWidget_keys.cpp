@@ -26,8 +26,7 @@ void editTravelTimesWidget::State::walk(int steps, bool selecting) {
   }
   setCurrent(to);
   reveal(to);
-  const double pick = traces.measured(to);
-  emit widget.cursorMoved(cursorFor(to, hasPick(pick) ? pick : 0.0));
+  tellCurrent();
 }
 
 bool editTravelTimesWidget::State::walkKey(const QKeyEvent& event) {

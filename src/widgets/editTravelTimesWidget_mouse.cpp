@@ -20,6 +20,11 @@ int editTravelTimesWidget::State::traceAt(const QPointF& point) const {
   return layout.traceAt(mapping().positionAt(point.x()));
 }
 
+PickStroke::Place editTravelTimesWidget::State::placeAt(const QPointF& point) const {
+  const TraceMapping map = mapping();
+  return {map.positionAt(point.x()), map.timeAt(point.y())};
+}
+
 bool editTravelTimesWidget::State::nearPick(const QPointF& point, int trace) const {
   const double pick = traces.measured(trace);
   return hasPick(pick) && std::fabs(mapping().y(pick) - point.y()) <= kGrab;
@@ -36,7 +41,7 @@ void editTravelTimesWidget::State::beginDrag(Drag kind, const QPointF& point, bo
     const auto stroked = kind == Drag::Remove            ? PickStroke::Kind::Remove
                          : nearPick(point, pressedTrace) ? PickStroke::Kind::Move
                                                          : PickStroke::Kind::Run;
-    stroke.begin(stroked, pressedTrace, map.timeAt(point.y()), adjuster(snapping));
+    stroke.begin(stroked, pressedTrace, placeAt(point), layout, adjuster(snapping));
     setCurrent(pressedTrace);
     redrawMarks();
   }
@@ -59,7 +64,7 @@ void editTravelTimesWidget::State::continueDrag(const QPointF& point, bool snapp
       // A hand that shakes while it clicks between two traces must not pick both.
       strayed = strayed || std::fabs(point.x() - pressed.x()) >= QApplication::startDragDistance();
       const int trace = strayed ? layout.traceAt(map.positionAt(x)) : pressedTrace;
-      stroke.moveTo(trace, map.timeAt(y), layout, adjuster(snapping));
+      stroke.moveTo(trace, placeAt({x, y}), layout, adjuster(snapping));
       if (stroke.kind() != PickStroke::Kind::Move && trace >= 0) setCurrent(trace);
       redrawMarks();
       break;
@@ -172,9 +177,22 @@ void editTravelTimesWidget::State::hoverAt(const QPointF& point) {
     emit widget.mouse_moved(trace);
   }
   if (over || was) {
+    tellsCurrent = false;
     emit widget.cursorMoved(cursorFor(trace, over ? mapping().timeAt(point.y()) : 0.0));
     widget.update();
   }
+}
+
+/// What was told of a trace is no longer so once its pick, the shot or its samples have changed.
+void editTravelTimesWidget::State::tellAgain() {
+  if (tellsCurrent) return tellCurrent();
+  if (hover) emit widget.cursorMoved(cursorFor(traceAt(*hover), mapping().timeAt(hover->y())));
+}
+
+void editTravelTimesWidget::State::tellCurrent() {
+  tellsCurrent = true;
+  const double pick = current >= 0 ? traces.measured(current) : kNoTime;
+  emit widget.cursorMoved(cursorFor(current, hasPick(pick) ? pick : 0.0));
 }
 
 void editTravelTimesWidget::State::changeGain(double factor) {

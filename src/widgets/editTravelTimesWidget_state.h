@@ -69,6 +69,7 @@ struct editTravelTimesWidget::State {
 
   // --- Mouse.
   int traceAt(const QPointF& point) const;
+  PickStroke::Place placeAt(const QPointF& point) const;
   bool nearPick(const QPointF& point, int trace) const;
   void beginDrag(Drag kind, const QPointF& point, bool snapping);
   void continueDrag(const QPointF& point, bool snapping);
@@ -77,6 +78,8 @@ struct editTravelTimesWidget::State {
   void finishBand(const QPointF& point);
   TraceCursor cursorFor(int trace, double time) const;
   void hoverAt(const QPointF& point);
+  void tellAgain();    ///< cursorMoved() once more, of what it told last
+  void tellCurrent();  ///< cursorMoved() of the current trace
   void changeGain(double factor);
 
   // --- Keys; true: the key was one of these.
@@ -125,6 +128,7 @@ struct editTravelTimesWidget::State {
   std::optional<std::pair<QPointF, QPointF>> ruler;  ///< positions, seconds
   std::optional<QPointF> hover;                      ///< cursor, when over the plot
   int hoverTrace = -1;
+  bool tellsCurrent = false;  ///< cursorMoved() spoke of the current trace last, not of the mouse
 
   TraceColors colors;
   QImage wiggles;

@@ -69,6 +69,7 @@ void editTravelTimesWidget::State::rebuildShot(bool newShot) {
     window.right = whole.right;
   }
   placePlot();
+  tellAgain();
   emit widget.selectionChanged();
 }
 

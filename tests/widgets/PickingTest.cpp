@@ -59,7 +59,7 @@ TEST_F(Picking, aDragMovesThePickOfItsTraceOnly) {
 TEST_F(Picking, aDragAcrossTracesDrawsARunAndIsOneEdit) {
   mUser.dragTo(mUser.at(2, 0.04), mUser.at(8, 0.10));
   for (int trace = 2; trace <= 8; ++trace) {
-    EXPECT_NEAR(mUser.pick(trace), 0.04 + 0.01 * (trace - 2), 0.006) << trace;
+    EXPECT_NEAR(mUser.pick(trace), 0.04 + 0.01 * (trace - 2), mUser.pixel()) << trace;
   }
   EXPECT_EQ(mUser.pick(1), kUnpicked);
   EXPECT_EQ(mUser.pick(9), kUnpicked);
@@ -263,6 +263,24 @@ TEST_F(Picking, tellsWhatIsUnderTheCursor) {
   QApplication::sendEvent(&mWidget, &leave);
   EXPECT_EQ(moved.back()[0].toInt(), -1);
   EXPECT_EQ(told.back().trace, -1);
+}
+
+TEST_F(Picking, tellsAgainWhatHasChangedUnderACursorThatRests) {
+  std::vector<TraceCursor> told;
+  QObject::connect(&mWidget, &editTravelTimesWidget::cursorMoved,
+                   [&told](const TraceCursor& cursor) { told.push_back(cursor); });
+  mUser.click(mUser.at(3, 0.04));
+  ASSERT_TRUE(told.back().pick.has_value());
+  mWidget.undoStack()->undo();
+  EXPECT_FALSE(told.back().pick.has_value());
+  mWidget.setShot(1);
+  EXPECT_DOUBLE_EQ(*told.back().offset, -19.0) << "of the shot that is shown now";
+  mWidget.setShot(0);
+  mUser.setPick(4, 0.05);
+  mUser.key(Qt::Key_Right);
+  mUser.key(Qt::Key_Down);
+  EXPECT_EQ(told.back().trace, 4);
+  EXPECT_DOUBLE_EQ(*told.back().pick, 0.05 + kInterval) << "a key that moves it";
 }
 
 }  // namespace
