@@ -518,6 +518,10 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Read with this separator the file has %1 lines of numbers; %2 are needed.</source>
         <translation>Mit diesem Trennzeichen gelesen hat die Datei %1 Zeilen mit Zahlen; %2 werden gebraucht.</translation>
     </message>
+    <message>
+        <source>Its numbers were cut at their decimal commas: they need points.</source>
+        <translation>Die Zahlen wurden am Dezimalkomma abgeschnitten: sie brauchen Punkte.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -920,6 +924,13 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>File name &lt;b&gt;</source>
         <translation>Dateiname &lt;b&gt;</translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not at the elevation of the line: type it, or interpolate elevations.</source>
+        <translation>
+            <numerusform>Schuss %1 nicht auf der Höhe der Messlinie: eintippen oder Höhen interpolieren.</numerusform>
+            <numerusform>Schüsse %1 nicht auf der Höhe der Messlinie: eintippen oder Höhen interpolieren.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1843,6 +1854,14 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the layer above.</source>
         <translation>Schicht %1: keine Tiefe an %2 von %3 Empfängern, die außerhalb des Profils der Schicht darüber liegen.</translation>
     </message>
+    <message>
+        <source>No shot that takes part has picks of layer 2.</source>
+        <translation>Kein teilnehmender Schuss hat Picks der Schicht 2.</translation>
+    </message>
+    <message>
+        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
+        <translation>An jedem Ende der Messlinie oder jenseits davon muss ein Schuss mit Picks der Schicht 2 liegen. Solche Schüsse reichen von %1 bis %2 m, die Geophone aber von %3 bis %4 m.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Report</name>
@@ -2031,14 +2050,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Äußere Iteration</translation>
     </message>
     <message>
-        <source>Largest late error [ms]</source>
-        <translation>Größte Verspätung [ms]</translation>
-    </message>
-    <message>
-        <source>Largest late error [%]</source>
-        <translation>Größte Verspätung [%]</translation>
-    </message>
-    <message>
         <source>Misfit after every external iteration</source>
         <translation>Abweichung nach jeder äußeren Iteration</translation>
     </message>
@@ -2105,10 +2116,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>%1 ms, %2 %</source>
         <translation>%1 ms, %2 %</translation>
-    </message>
-    <message>
-        <source>Largest late error</source>
-        <translation>Größte Verspätung</translation>
     </message>
     <message>
         <source>Shots and receivers left out, beyond the grid</source>
@@ -2361,6 +2368,22 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Misfit after the last external iteration</source>
         <translation>Abweichung nach der letzten äußeren Iteration</translation>
+    </message>
+    <message>
+        <source>Largest relative late error [%]</source>
+        <translation>Größte relative Verspätung [%]</translation>
+    </message>
+    <message>
+        <source>The same [ms]</source>
+        <translation>Dieselbe [ms]</translation>
+    </message>
+    <message>
+        <source>Largest relative late error</source>
+        <translation>Größte relative Verspätung</translation>
+    </message>
+    <message>
+        <source>%1 % (%2 ms)</source>
+        <translation>%1 % (%2 ms)</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,13 @@
             <numerusform>String %1 has %2 geophones, shots %3 have %4 traces: the first %5 of both are used.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not at the elevation of the line: type it, or interpolate elevations.</source>
+        <translation>
+            <numerusform>Shot %1 is not at the elevation of the line: type it, or interpolate elevations.</numerusform>
+            <numerusform>Shots %1 are not at the elevation of the line: type it, or interpolate elevations.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>

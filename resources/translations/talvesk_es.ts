@@ -518,6 +518,10 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Read with this separator the file has %1 lines of numbers; %2 are needed.</source>
         <translation>Leído con este separador, el archivo tiene %1 líneas de números; se necesitan %2.</translation>
     </message>
+    <message>
+        <source>Its numbers were cut at their decimal commas: they need points.</source>
+        <translation>Sus números se cortaron en la coma decimal: necesitan puntos.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -920,6 +924,13 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>File name &lt;b&gt;</source>
         <translation>Nombre del archivo &lt;b&gt;</translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not at the elevation of the line: type it, or interpolate elevations.</source>
+        <translation>
+            <numerusform>El disparo %1 no está a la cota de la línea: escríbala o interpole las cotas.</numerusform>
+            <numerusform>Los disparos %1 no están a la cota de la línea: escríbalas o interpole las cotas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1843,6 +1854,14 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the layer above.</source>
         <translation>Capa %1: sin profundidad en %2 de %3 receptores, que quedan más allá del perfil de la capa superior.</translation>
     </message>
+    <message>
+        <source>No shot that takes part has picks of layer 2.</source>
+        <translation>Ningún disparo participante tiene picados de la capa 2.</translation>
+    </message>
+    <message>
+        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
+        <translation>En cada extremo de la línea, o más allá, debe haber un disparo con picados de la capa 2. Tales disparos van de %1 a %2 m, pero los geófonos de %3 a %4 m.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Report</name>
@@ -2031,14 +2050,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Iteración externa</translation>
     </message>
     <message>
-        <source>Largest late error [ms]</source>
-        <translation>Mayor retraso [ms]</translation>
-    </message>
-    <message>
-        <source>Largest late error [%]</source>
-        <translation>Mayor retraso [%]</translation>
-    </message>
-    <message>
         <source>Misfit after every external iteration</source>
         <translation>Desajuste después de cada iteración externa</translation>
     </message>
@@ -2105,10 +2116,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>%1 ms, %2 %</source>
         <translation>%1 ms, %2 %</translation>
-    </message>
-    <message>
-        <source>Largest late error</source>
-        <translation>Mayor retraso</translation>
     </message>
     <message>
         <source>Shots and receivers left out, beyond the grid</source>
@@ -2361,6 +2368,22 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Misfit after the last external iteration</source>
         <translation>Desajuste tras la última iteración externa</translation>
+    </message>
+    <message>
+        <source>Largest relative late error [%]</source>
+        <translation>Mayor retraso relativo [%]</translation>
+    </message>
+    <message>
+        <source>The same [ms]</source>
+        <translation>El mismo [ms]</translation>
+    </message>
+    <message>
+        <source>Largest relative late error</source>
+        <translation>Mayor retraso relativo</translation>
+    </message>
+    <message>
+        <source>%1 % (%2 ms)</source>
+        <translation>%1 % (%2 ms)</translation>
     </message>
 </context>
 <context>

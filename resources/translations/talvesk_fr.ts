@@ -518,6 +518,10 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Read with this separator the file has %1 lines of numbers; %2 are needed.</source>
         <translation>Lu avec ce séparateur, le fichier a %1 lignes de nombres&#xa0;; il en faut %2.</translation>
     </message>
+    <message>
+        <source>Its numbers were cut at their decimal commas: they need points.</source>
+        <translation>Ses nombres ont été coupés à la virgule : il leur faut le point décimal.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -920,6 +924,13 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>File name &lt;b&gt;</source>
         <translation>Nom du fichier &lt;b&gt;</translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not at the elevation of the line: type it, or interpolate elevations.</source>
+        <translation>
+            <numerusform>Le tir %1 n&apos;est pas à l&apos;altitude de la ligne : saisissez-la ou interpolez les altitudes.</numerusform>
+            <numerusform>Les tirs %1 ne sont pas à l&apos;altitude de la ligne : saisissez-la ou interpolez les altitudes.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1843,6 +1854,14 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the layer above.</source>
         <translation>Couche %1&#xa0;: aucune profondeur à %2 des %3 récepteurs, situés au-delà du profil de la couche au-dessus.</translation>
     </message>
+    <message>
+        <source>No shot that takes part has picks of layer 2.</source>
+        <translation>Aucun tir participant n&apos;a de pointés de la couche 2.</translation>
+    </message>
+    <message>
+        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
+        <translation>À chaque extrémité de la ligne, ou au-delà, il faut un tir avec des pointés de la couche 2. De tels tirs vont de %1 à %2 m, mais les géophones de %3 à %4 m.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Report</name>
@@ -2031,14 +2050,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Itération externe</translation>
     </message>
     <message>
-        <source>Largest late error [ms]</source>
-        <translation>Plus grand retard [ms]</translation>
-    </message>
-    <message>
-        <source>Largest late error [%]</source>
-        <translation>Plus grand retard [%]</translation>
-    </message>
-    <message>
         <source>Misfit after every external iteration</source>
         <translation>Écart après chaque itération externe</translation>
     </message>
@@ -2105,10 +2116,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>%1 ms, %2 %</source>
         <translation>%1 ms, %2&#xa0;%</translation>
-    </message>
-    <message>
-        <source>Largest late error</source>
-        <translation>Plus grand retard</translation>
     </message>
     <message>
         <source>Shots and receivers left out, beyond the grid</source>
@@ -2361,6 +2368,22 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Misfit after the last external iteration</source>
         <translation>Écart après la dernière itération externe</translation>
+    </message>
+    <message>
+        <source>Largest relative late error [%]</source>
+        <translation>Plus grand retard relatif [%]</translation>
+    </message>
+    <message>
+        <source>The same [ms]</source>
+        <translation>Le même [ms]</translation>
+    </message>
+    <message>
+        <source>Largest relative late error</source>
+        <translation>Plus grand retard relatif</translation>
+    </message>
+    <message>
+        <source>%1 % (%2 ms)</source>
+        <translation>%1 % (%2 ms)</translation>
     </message>
 </context>
 <context>

@@ -518,6 +518,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Read with this separator the file has %1 lines of numbers; %2 are needed.</source>
         <translation>Letto con questo separatore il file ha %1 righe di numeri; ne servono %2.</translation>
     </message>
+    <message>
+        <source>Its numbers were cut at their decimal commas: they need points.</source>
+        <translation>I numeri sono stati troncati alla virgola: serve il punto decimale.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -920,6 +924,13 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>File name &lt;b&gt;</source>
         <translation>Nome del file &lt;b&gt;</translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 not at the elevation of the line: type it, or interpolate elevations.</source>
+        <translation>
+            <numerusform>Il tiro %1 non è alla quota della linea: scrivila, o interpola le quote.</numerusform>
+            <numerusform>I tiri %1 non sono alla quota della linea: scrivile, o interpola le quote.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1843,6 +1854,14 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the layer above.</source>
         <translation>Strato %1: nessuna profondità in %2 ricevitori su %3, che stanno oltre il profilo dello strato sovrastante.</translation>
     </message>
+    <message>
+        <source>No shot that takes part has picks of layer 2.</source>
+        <translation>Nessun tiro che partecipa ha arrivi dello strato 2.</translation>
+    </message>
+    <message>
+        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
+        <translation>A ogni estremo della linea, o oltre, serve un tiro con arrivi dello strato 2. Questi tiri vanno da %1 a %2 m, i geofoni invece da %3 a %4 m.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Report</name>
@@ -2031,14 +2050,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Iterazione esterna</translation>
     </message>
     <message>
-        <source>Largest late error [ms]</source>
-        <translation>Massimo ritardo [ms]</translation>
-    </message>
-    <message>
-        <source>Largest late error [%]</source>
-        <translation>Massimo ritardo [%]</translation>
-    </message>
-    <message>
         <source>Misfit after every external iteration</source>
         <translation>Scarto dopo ogni iterazione esterna</translation>
     </message>
@@ -2105,10 +2116,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>%1 ms, %2 %</source>
         <translation>%1 ms, %2 %</translation>
-    </message>
-    <message>
-        <source>Largest late error</source>
-        <translation>Massimo ritardo</translation>
     </message>
     <message>
         <source>Shots and receivers left out, beyond the grid</source>
@@ -2361,6 +2368,22 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Misfit after the last external iteration</source>
         <translation>Scarto dopo l&apos;ultima iterazione esterna</translation>
+    </message>
+    <message>
+        <source>Largest relative late error [%]</source>
+        <translation>Massimo ritardo relativo [%]</translation>
+    </message>
+    <message>
+        <source>The same [ms]</source>
+        <translation>Lo stesso [ms]</translation>
+    </message>
+    <message>
+        <source>Largest relative late error</source>
+        <translation>Massimo ritardo relativo</translation>
+    </message>
+    <message>
+        <source>%1 % (%2 ms)</source>
+        <translation>%1 % (%2 ms)</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,7 @@ class DialogSetGeometry : public QDialog {
   void refreshPlan();
   void refreshMistakes();
   void notice(const QString& text, bool refused = false);
+  void noticeLoaded(const QString& text, bool cut);
   void show(const GeometryMistake& mistake);
   void showGeophone(int string, int geophone);
   void showShot(int shot);
@@ -77,6 +78,7 @@ class DialogSetGeometry : public QDialog {
   struct PositionsFile {
     QString name;
     std::vector<Point2D> positions;
+    bool cut = false;  ///< numbers ended at their decimal commas
   };
   using RecordReader = Status (*)(const std::string& path, const std::string& separator,
                                   std::vector<std::vector<double>>& records);

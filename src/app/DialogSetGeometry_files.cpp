@@ -64,6 +64,14 @@ bool DialogSetGeometry::tellsOfGaps(bool shots) {
   return false;
 }
 
+/// \param cut numbers ended at their decimal commas
+void DialogSetGeometry::noticeLoaded(const QString& text, bool cut) {
+  if (!cut) return notice(text);
+  notice(text + QStringLiteral(". ") +
+             tr("Its numbers were cut at their decimal commas: they need points."),
+         true);
+}
+
 void DialogSetGeometry::saveGeophones() {
   if (tellsOfGaps(false)) return;
   const QString file = askForFile(true, tr("Geophones Geometry (*csv)"));
@@ -85,9 +93,11 @@ bool DialogSetGeometry::askForPositions(std::size_t count, RecordReader read,
                                         const QString& invalid, PositionsFile& chosen) {
   const QString file = askForFile(false, tr("CSV format (*.csv)"));
   if (file.isEmpty()) return false;
-  const auto separator = SelectCSVDelimiterDialog::ask(this);
+  const GeometryFileLook look = lookAtGeometryFile(file.toStdString());
+  const auto separator = SelectCSVDelimiterDialog::ask(this, look.separator);
   if (!separator) return false;
   chosen.name = QFileInfo(file).fileName();
+  chosen.cut = cutsNumbers(look, *separator);
   GeometryRecords records;
   const Status status = read(file.toStdString(), *separator, records);
   const QString why = takePositions(count, status, records, chosen.positions);
@@ -109,7 +119,7 @@ void DialogSetGeometry::loadGeophones() {
       string[i] = {file.positions[i].x, file.positions[i].z, true};
     }
   });
-  notice(tr("Geophones loaded from %1").arg(file.name));
+  noticeLoaded(tr("Geophones loaded from %1").arg(file.name), file.cut);
 }
 
 void DialogSetGeometry::saveShots() {
@@ -146,7 +156,7 @@ void DialogSetGeometry::loadShots() {
     }
   });
   console::out().flush();
-  notice(tr("Shots loaded from %1").arg(file.name));
+  noticeLoaded(tr("Shots loaded from %1").arg(file.name), file.cut);
 }
 
 /// Picks without traces stay what they are: every record of a survey has traces, or none has.

@@ -65,6 +65,10 @@ QString GeometryTexts::ofShots(const GeometryMistake& mistake, const SurveyGeome
       return tr("Shot(s) %1 farther off the line than the line is long.", nullptr, count).arg(who);
     case GeometryFault::ShotOffSurface:
       return tr("Shot(s) %1 far above or below the line.", nullptr, count).arg(who);
+    case GeometryFault::ShotNotLevelled:
+      return tr("Shot(s) %1 not at the elevation of the line: type it, or interpolate elevations.",
+                nullptr, count)
+          .arg(who);
     default:
       break;
   }

@@ -160,7 +160,9 @@ void RefractionProcessingDialog::tell(const std::vector<RefractionWarning>& warn
                                       const std::vector<RefractionWarning>& known) {
   for (const RefractionWarning& warning : warnings) {
     if (!warning.ofTheMethod() || contains(known, warning)) continue;
-    showWarning(this, tr("Warning"), refractionText(warning), {});
+    const bool noPair = warning.kind == RefractionWarning::Kind::kNoShotPair;
+    showWarning(this, tr("Warning"), refractionText(warning),
+                noPair ? noShotPairText(shotPairReach(mShots, mWork.ttLayer, 2)) : QString());
   }
 }
 

@@ -1,6 +1,7 @@
 #include "app/RefractionTexts.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace talvesk {
 namespace {
@@ -66,6 +67,19 @@ QString refractionText(const RefractionWarning& warning) {
           .arg(warning.total);
   }
   return {};
+}
+
+QString noShotPairText(const ShotPairReach& reach) {
+  if (!reach.hasShots()) return Texts::tr("No shot that takes part has picks of layer 2.");
+  const QLocale locale;
+  const auto metres = [&locale](double x) {
+    return locale.toString(x, 'g', QLocale::FloatingPointShortest);
+  };
+  return Texts::tr(
+             "At each end of the line, or beyond, there must be a shot with picks of layer 2. Such "
+             "shots reach from %1 to %2 m, but the geophones from %3 to %4 m.")
+      .arg(metres(reach.firstShot), metres(reach.lastShot), metres(reach.firstReceiver),
+           metres(reach.lastReceiver));
 }
 
 }  // namespace talvesk

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refraction/Branches.h"
 #include "refraction/RefractionWarning.h"
 
 #include <QString>
@@ -8,5 +9,8 @@ namespace talvesk {
 
 /// What a warning of the interpretation says, in the language of the program.
 QString refractionText(const RefractionWarning& warning);
+
+/// Why the first refractor has no pair of shots.
+QString noShotPairText(const ShotPairReach& reach);
 
 }  // namespace talvesk

@@ -2,6 +2,8 @@
 
 #include "ui_SelectCSVDelimiterDialog.h"
 
+#include <algorithm>
+
 namespace talvesk {
 
 SelectCSVDelimiterDialog::SelectCSVDelimiterDialog(QWidget* parent)
@@ -17,8 +19,11 @@ std::string SelectCSVDelimiterDialog::separator() const {
   return choice.currentIndex() <= 0 ? " " : choice.currentText().toStdString();
 }
 
-std::optional<std::string> SelectCSVDelimiterDialog::ask(QWidget* parent) {
+std::optional<std::string> SelectCSVDelimiterDialog::ask(QWidget* parent,
+                                                         const std::string& proposed) {
   SelectCSVDelimiterDialog dialog(parent);
+  QComboBox& choice = *dialog.mUi->separatorCBox;
+  choice.setCurrentIndex(std::max(choice.findText(QString::fromStdString(proposed)), 0));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.separator();
 }

@@ -22,8 +22,9 @@ class SelectCSVDelimiterDialog : public QDialog {
   /// " ", ";" or ",".
   std::string separator() const;
 
-  /// Shows the dialog. \return the separator, none when the user cancelled
-  static std::optional<std::string> ask(QWidget* parent);
+  /// Shows the dialog. \param proposed " ", ";" or ",", which is chosen at first
+  /// \return the separator, none when the user cancelled
+  static std::optional<std::string> ask(QWidget* parent, const std::string& proposed = " ");
 
  private:
   std::unique_ptr<Ui::SelectCSVDelimiterDialog> mUi;

@@ -3,6 +3,7 @@
 #include "app/Messages.h"
 #include "app/SelectCSVDelimiterDialog.h"
 #include "base/TextNumber.h"
+#include "io/GeometryFile.h"
 #include "io/IsovalueFile.h"
 #include "ui_contourlines_dialog.h"
 
@@ -264,7 +265,7 @@ void contourlines_dialog::loadIsovalues() {
     return showError(this, tr("Error"), tr("Cannot open file ") + QString::fromStdString(file),
                      QString::fromStdString(opened.message()));
   }
-  const auto separator = SelectCSVDelimiterDialog::ask(this);
+  const auto separator = SelectCSVDelimiterDialog::ask(this, lookAtGeometryFile(file).separator);
   if (!separator) return;
   const IsovalueRead read = parseIsovalues(text, file, *separator);
   if (read.invalidLine > 0) {

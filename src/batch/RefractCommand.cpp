@@ -10,6 +10,7 @@
 #include "batch/ShotPicking.h"
 #include "figures/RefractionFigure.h"
 #include "io/LayerFile.h"
+#include "refraction/Branches.h"
 #include "refraction/BuildProfiles.h"
 #include "refraction/LayerProposal.h"
 #include "refraction/Profile.h"
@@ -53,6 +54,16 @@ ProfileOutcome interpret(const RefractOptions& options, const std::vector<ShotAr
   ProfileOutcome outcome = buildProfiles(shots, interpretation);
   console::setOut(before);
   return outcome;
+}
+
+std::string reasonOf(const ProfileOutcome& outcome, const ShotPairReach& reach) {
+  if (outcome.warnings.empty()) return "there is nothing to build a profile of";
+  const RefractionWarning& last = outcome.warnings.back();
+  if (last.kind != RefractionWarning::Kind::kNoShotPair) return last.text();
+  if (!reach.hasShots()) return last.text() + ": no shot has picks of layer 2";
+  return last.text() + ": shots with picks of layer 2 reach from " + formatDouble(reach.firstShot) +
+         " to " + formatDouble(reach.lastShot) + " m, but geophones from " +
+         formatDouble(reach.firstReceiver) + " to " + formatDouble(reach.lastReceiver) + " m";
 }
 
 std::string rangeOf(const std::vector<double>& values, const std::string& unit) {
@@ -131,10 +142,8 @@ int run(const RefractOptions& options) {
   status = markLayers(options, document, shots, interpretation);
   if (!status.ok()) return failed(status.message());
   const ProfileOutcome outcome = interpret(options, shots, interpretation);
-  if (!outcome.built) {
-    return failed(outcome.warnings.empty() ? "there is nothing to build a profile of"
-                                           : outcome.warnings.back().text());
-  }
+  if (!outcome.built)
+    return failed(reasonOf(outcome, shotPairReach(shots, interpretation.ttLayer, 2)));
   if (!options.quiet) {
     for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
   }

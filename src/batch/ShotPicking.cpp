@@ -6,6 +6,7 @@
 #include "batch/ProjectFiles.h"
 #include "io/GeometryFile.h"
 #include "io/ShotLoader.h"
+#include "model/SurveyGeometry.h"
 #include "processing/FirstBreak.h"
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
@@ -55,6 +56,9 @@ Status readPositions(const std::string& path, const std::string& separator, bool
   Status status = labelled ? readLabelledRecords(path, separator, records)
                            : readRecords(path, separator, records);
   if (!status.ok()) return status;
+  if (cutsNumbers(lookAtGeometryFile(path), separator)) {
+    warn(path + ": numbers were cut at their decimal commas; they need points");
+  }
   status = positionsOf(records, positions);
   return status.ok() ? status : Status::failure(path + ": " + status.message());
 }
@@ -92,6 +96,17 @@ Status placeShots(const ShotOptions& options, TomoDocument& document) {
     document.shotPositions[i] = shots[i].x;
   }
   return {};
+}
+
+/// Shots at 0 under geophones with elevations would pull the ground down to them.
+void levelShots(const PickingManner& manner, TomoDocument& document) {
+  SurveyGeometry geometry = geometryOf(document);
+  const std::size_t off = shotsNotLevelled(geometry).size();
+  if (off == 0) return;
+  interpolateShotElevations(geometry);
+  applyGeometry(geometry, document);
+  *manner.summary << "All shots are at elevation 0, the geophones are not: " << off
+                  << " shots were put on the line of the geophones.\n";
 }
 
 /// The screening goes by distances, and without them removes every pick.
@@ -173,6 +188,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
   if (!status.ok()) return status;
+  levelShots(manner, document);
 
   std::vector<std::int32_t> shots;
   for (std::size_t i = 0; i < document.traceSets.size(); ++i) {

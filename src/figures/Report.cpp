@@ -49,7 +49,9 @@ QString number(double value, int places) {
 }
 
 QString span(double from, double to, int places) {
-  return QStringLiteral("%1 \u2013 %2").arg(number(from, places), number(to, places));
+  const QString low = number(from, places);
+  const QString high = number(to, places);
+  return low == high ? low : QStringLiteral("%1 \u2013 %2").arg(low, high);
 }
 
 }  // namespace report

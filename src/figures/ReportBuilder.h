@@ -52,7 +52,7 @@ void addMethod(ReportBuilder& builder);
 
 /// A number with as many places, "." before them in every language; "–" for what is no number.
 QString number(double value, int places);
-/// Two values with "–" between them.
+/// Two values with "–" between them, or one where both read the same.
 QString span(double from, double to, int places);
 
 }  // namespace report

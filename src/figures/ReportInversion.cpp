@@ -201,16 +201,16 @@ void addHistory(ReportBuilder& builder, const InversionRecord& run) {
                      {ReportWords::tr("Picks"), true},
                      {ReportWords::tr("RMS [ms]"), true},
                      {ReportWords::tr("RMS [%]"), true},
-                     {ReportWords::tr("Largest late error [ms]"), true},
-                     {ReportWords::tr("Largest late error [%]"), true}},
+                     {ReportWords::tr("Largest relative late error [%]"), true},
+                     {ReportWords::tr("The same [ms]"), true}},
                     {}};
   for (std::size_t i = 0; i < run.history.size(); ++i) {
     const Misfit& misfit = run.history[i];
     if (misfit.count == 0) continue;
     table.rows.push_back({QString::number(i + 1), QString::number(misfit.count),
                           number(1e3 * misfit.rmse, 3), number(1e2 * misfit.relativeRms, 2),
-                          number(1e3 * misfit.maxError, 3),
-                          number(1e2 * misfit.maxRelativeError, 2)});
+                          number(1e2 * misfit.maxRelativeError, 2),
+                          number(1e3 * misfit.maxError, 3)});
   }
   builder.table(ReportWords::tr("Misfit after every external iteration"), table);
   builder.paragraph(ReportWords::tr(
@@ -308,9 +308,9 @@ Status addMisfit(ReportBuilder& builder) {
       {ReportWords::tr("RMS misfit"),
        ReportWords::tr("%1 ms, %2 %")
            .arg(number(1e3 * misfit.rmse, 3), number(1e2 * misfit.relativeRms, 2))},
-      {ReportWords::tr("Largest late error"),
-       ReportWords::tr("%1 ms, %2 %")
-           .arg(number(1e3 * misfit.maxError, 3), number(1e2 * misfit.maxRelativeError, 2))}};
+      {ReportWords::tr("Largest relative late error"),
+       ReportWords::tr("%1 % (%2 ms)")
+           .arg(number(1e2 * misfit.maxRelativeError, 2), number(1e3 * misfit.maxError, 3))}};
   if (!document.excluded.empty()) {
     facts.rows.push_back({ReportWords::tr("Shots and receivers left out, beyond the grid"),
                           QString::number(document.excluded.size())});

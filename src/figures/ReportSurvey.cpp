@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <set>
 #include <vector>
 
 // The title page, what was measured where, and where that lies on the globe.
@@ -65,10 +66,12 @@ void addLine(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   Extent geophones;
   Extent shots;
-  std::size_t count = 0;
+  std::set<double> places;  // strings of a line that was moved along overlap
   for (const auto& string : document.goephonesStringSet) {
-    count += string.size();
-    for (const Point2D& geophone : string) geophones.take(geophone);
+    for (const Point2D& geophone : string) {
+      geophones.take(geophone);
+      places.insert(geophone.x);
+    }
   }
   for (const TravelTime& record : document.ttArray) shots.take(record.shotPos2d);
 
@@ -90,7 +93,7 @@ void addLine(ReportBuilder& builder) {
   }
   addFact(facts, ReportWords::tr("Geophone strings"),
           QString::number(document.goephonesStringSet.size()));
-  addFact(facts, ReportWords::tr("Geophone positions"), QString::number(count));
+  addFact(facts, ReportWords::tr("Geophone positions"), QString::number(places.size()));
   addFact(facts, ReportWords::tr("Number of shots"), QString::number(document.ttArray.size()));
   builder.table(ReportWords::tr("The line"), facts);
 }

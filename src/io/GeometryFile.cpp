@@ -120,6 +120,29 @@ Status readLabelledRecords(const std::string& path, const std::string& separator
   return readFile(path, separator, true, records);
 }
 
+GeometryFileLook lookAtGeometryFile(const std::string& path) {
+  GeometryFileLook look;
+  std::string text;
+  if (!readWholeFile(path, text, kLargestFile).ok()) return look;
+  const std::string_view firstLine = std::string_view(text).substr(0, text.find('\n'));
+  for (const char* separator : {";", ","}) {
+    if (firstLine.find(separator) == std::string_view::npos) continue;
+    look.separator = separator;
+    break;
+  }
+  const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+  for (std::size_t i = text.find(','); i != std::string::npos; i = text.find(',', i + 1)) {
+    look.decimalCommas =
+        i > 0 && i + 1 < text.size() && isDigit(text[i - 1]) && isDigit(text[i + 1]);
+    if (look.decimalCommas) break;
+  }
+  return look;
+}
+
+bool cutsNumbers(const GeometryFileLook& look, const std::string& separator) {
+  return look.decimalCommas && separator != ",";
+}
+
 Status positionsOf(const GeometryRecords& records, std::vector<Point2D>& positions) {
   std::vector<Point2D> read;
   read.reserve(records.size());

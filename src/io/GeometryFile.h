@@ -40,6 +40,18 @@ Status readLabelledRecords(const std::string& path, const std::string& separator
 Status parseRecords(std::string_view text, const std::string& name, const std::string& separator,
                     bool labelled, GeometryRecords& records);
 
+/// What a file looks like before it is read.
+struct GeometryFileLook {
+  std::string separator = " ";  ///< of ";", "," and " " the first that its first line holds
+  bool decimalCommas = false;   ///< a comma stands between two digits
+};
+
+/// An empty look for a file that cannot be read: its reader says what is wrong.
+GeometryFileLook lookAtGeometryFile(const std::string& path);
+
+/// Whether numbers of a file would be cut at their decimal commas, since only points are read.
+bool cutsNumbers(const GeometryFileLook& look, const std::string& separator);
+
 /// The first two fields of each record, x and z. Status 1 when a record has fewer, as all have when
 /// the file was read with another separator than it was written with.
 Status positionsOf(const GeometryRecords& records, std::vector<Point2D>& positions);

@@ -166,9 +166,12 @@ void checkShots(const SurveyGeometry& geometry, Mistakes& mistakes) {
     const double beyond = std::max(line.first - place.x, place.x - line.last);
     if (beyond > line.length()) far.shots.push_back(i);
     const double above = std::max(line.lowest - place.z, place.z - line.highest);
-    if (above > kSteepestShot * line.length()) off.shots.push_back(i);
+    if (place.typed && above > kSteepestShot * line.length()) off.shots.push_back(i);
   }
-  for (const GeometryMistake& mistake : {missing, far, off}) add(mistakes, mistake);
+  GeometryMistake buried;
+  buried.fault = GeometryFault::ShotNotLevelled;
+  buried.shots = shotsNotLevelled(geometry);
+  for (const GeometryMistake& mistake : {missing, far, off, buried}) add(mistakes, mistake);
 }
 
 void checkWaves(const SurveyGeometry& geometry, Mistakes& mistakes) {

@@ -9,17 +9,18 @@ namespace talvesk {
 
 /// What is, or looks, wrong with a geometry.
 enum class GeometryFault {
-  NoPosition,      ///< empty, not a number or absurdly far away; blocks
-  EmptyString,     ///< a string without geophones; blocks
-  NoString,        ///< shots whose string does not exist; blocks
-  MixedWaves,      ///< new S-wave pairs beside shots of one recording; blocks
-  SamePlace,       ///< geophones of one string at one distance
-  StepsBack,       ///< geophones that go against the direction of their string
-  TwoElevations,   ///< geophones of different strings at one distance, at different elevations
-  CountDiffers,    ///< shots with another number of traces than their string has geophones
-  ShotFarOff,      ///< shots beyond an end of the line by more than its length
-  ShotOffSurface,  ///< shots above or below the line by more than a quarter of its length
-  StringUnused     ///< no shot uses the string, and yet it shapes the surface
+  NoPosition,       ///< empty, not a number or absurdly far away; blocks
+  EmptyString,      ///< a string without geophones; blocks
+  NoString,         ///< shots whose string does not exist; blocks
+  MixedWaves,       ///< new S-wave pairs beside shots of one recording; blocks
+  SamePlace,        ///< geophones of one string at one distance
+  StepsBack,        ///< geophones that go against the direction of their string
+  TwoElevations,    ///< geophones of different strings at one distance, at different elevations
+  CountDiffers,     ///< shots with another number of traces than their string has geophones
+  ShotFarOff,       ///< shots beyond an end of the line by more than its length
+  ShotOffSurface,   ///< shots above or below the line by more than a quarter of its length
+  ShotNotLevelled,  ///< shots without elevations of their own, where the line is not as high
+  StringUnused      ///< no shot uses the string, and yet it shapes the surface
 };
 
 /// One thing to tell the user of. All indices count from 0.

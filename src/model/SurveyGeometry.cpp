@@ -232,6 +232,18 @@ std::size_t interpolateShotElevations(SurveyGeometry& geometry) {
   return filled;
 }
 
+std::vector<std::size_t> shotsNotLevelled(const SurveyGeometry& geometry) {
+  constexpr double kSameElevation = 0.01;
+  SurveyGeometry levelled = geometry;
+  interpolateShotElevations(levelled);
+  std::vector<std::size_t> shots;
+  for (std::size_t i = 0; i < geometry.shots.size(); ++i) {
+    const double moved = levelled.shots[i].place.z - geometry.shots[i].place.z;
+    if (std::fabs(moved) > kSameElevation) shots.push_back(i);
+  }
+  return shots;
+}
+
 void removeString(SurveyGeometry& geometry, std::size_t string, int heir) {
   if (string >= geometry.strings.size()) return;
   geometry.strings.erase(geometry.strings.begin() + static_cast<std::ptrdiff_t>(string));

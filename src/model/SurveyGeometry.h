@@ -75,6 +75,10 @@ std::size_t interpolateElevations(GeophoneString& string);
 /// geophones count whether typed or interpolated.
 std::size_t interpolateShotElevations(SurveyGeometry& geometry);
 
+/// Shots that interpolateShotElevations() would move by more than a centimetre: files gave
+/// elevations to geophones only, or those were typed afterwards.
+std::vector<std::size_t> shotsNotLevelled(const SurveyGeometry& geometry);
+
 /// Removes a string; shots that used it use `heir` of the remaining ones, counted without it; -1
 /// leaves them without a string.
 void removeString(SurveyGeometry& geometry, std::size_t string, int heir);

@@ -54,16 +54,28 @@ bool isAssigned(const std::vector<layerStruct>& marks, std::uint32_t layer) {
                      [layer](const layerStruct& m) { return isAssigned(m, layer); });
 }
 
-ShotPair findShotPair(const std::vector<ShotArrivals>& shots, const std::vector<layerStruct>& marks,
-                      std::uint32_t refractor) {
-  double first = std::numeric_limits<double>::max();
-  double last = std::numeric_limits<double>::lowest();
+ShotPairReach shotPairReach(const std::vector<ShotArrivals>& shots,
+                            const std::vector<layerStruct>& marks, std::uint32_t refractor) {
+  ShotPairReach reach;
   for (const ShotArrivals& shot : shots) {
     for (const Point2D& receiver : shot.receivers) {
-      first = std::min(first, receiver.x);
-      last = std::max(last, receiver.x);
+      reach.firstReceiver = std::min(reach.firstReceiver, receiver.x);
+      reach.lastReceiver = std::max(reach.lastReceiver, receiver.x);
     }
   }
+  for (const layerStruct& own : marks) {
+    if (own.shotID >= shots.size() || !isAssigned(own, refractor)) continue;
+    reach.firstShot = std::min(reach.firstShot, shots[own.shotID].shot.x);
+    reach.lastShot = std::max(reach.lastShot, shots[own.shotID].shot.x);
+  }
+  return reach;
+}
+
+ShotPair findShotPair(const std::vector<ShotArrivals>& shots, const std::vector<layerStruct>& marks,
+                      std::uint32_t refractor) {
+  const ShotPairReach reach = shotPairReach(shots, marks, refractor);
+  const double first = reach.firstReceiver;
+  const double last = reach.lastReceiver;
   ShotPair pair;
   double nearestA = std::numeric_limits<double>::infinity();
   double nearestB = std::numeric_limits<double>::infinity();

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -43,6 +44,20 @@ struct ShotPair {
 ShotPair findShotPair(const std::vector<ShotArrivals>& shots,
                       const std::vector<refractionDataStructure::layerStruct>& marks,
                       std::uint32_t refractor);
+
+/// What findShotPair() compares, metres along the line: what to tell when there is no pair.
+struct ShotPairReach {
+  double firstReceiver = std::numeric_limits<double>::infinity();  ///< above the last: none
+  double lastReceiver = -std::numeric_limits<double>::infinity();
+  double firstShot = std::numeric_limits<double>::infinity();  ///< of those that may be chosen
+  double lastShot = -std::numeric_limits<double>::infinity();
+
+  bool hasShots() const { return firstShot <= lastShot; }
+};
+
+ShotPairReach shotPairReach(const std::vector<ShotArrivals>& shots,
+                            const std::vector<refractionDataStructure::layerStruct>& marks,
+                            std::uint32_t refractor);
 
 /// Whether a record is enabled and has a trace assigned to the layer.
 bool isAssigned(const refractionDataStructure::layerStruct& marks, std::uint32_t layer);

@@ -137,6 +137,23 @@ TEST_F(Picking, geometryFilesReplaceThePositionsOfTheHeaders) {
   }
 }
 
+TEST_F(Picking, shotsWithoutElevationsComeOntoTheLineOfTheGeophones) {
+  const std::string places = geophones(13, 3.0, ";");
+  const std::string low = mFolder.write("low.csv", "shot_1;1;0\nshot_2;19;0\nshot_3;35;0\n");
+  const Outcome outcome = pick({"-o", mFolder / "a.otte", "--geophones", places, "--shots", low});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("3 shots were put on the line of the geophones"));
+  const ordered_json json = pickJson({"--geophones", places, "--shots", low});
+  for (const auto& shot : json["shots"]) EXPECT_EQ(shot["position"][1], 5.0);
+}
+
+TEST_F(Picking, warnsOfNumbersThatAreCutAtDecimalCommas) {
+  const std::string shots = mFolder.write("c.csv", "shot_1;1;4,5\nshot_2;19;4\nshot_3;35;0\n");
+  const Outcome outcome = pick({"-o", mFolder / "a.otte", "--shots", shots});
+  EXPECT_THAT(outcome.err, HasSubstr("c.csv: numbers were cut at their decimal commas"));
+  EXPECT_THAT(outcome.out, Not(HasSubstr("put on the line"))) << "some have elevations";
+}
+
 TEST_F(Picking, whatDoesNotFitFailsInOneLineAndLeavesTheOldFile) {
   const std::string out = mFolder.write("out.otte", "old");
   const std::string few = geophones(12, 3.0, ";");

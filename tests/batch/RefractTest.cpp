@@ -95,7 +95,7 @@ TEST(Refract, saysWhatKeepsItFromAProfile) {
       {"no refractor",
        {survey.picks, "--json", out, "--layers", none},
        1,
-       "Unable to find nearest shot for first refractor"}};
+       "Unable to find nearest shot for first refractor: no shot has picks of layer 2"}};
   for (const Case& c : cases) {
     std::vector<std::string> arguments = {"refract"};
     arguments.insert(arguments.end(), c.arguments.begin(), c.arguments.end());

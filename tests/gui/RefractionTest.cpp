@@ -193,8 +193,8 @@ TEST_F(Refraction, asksBeforeAProposalReplacesMarks) {
 
 TEST_F(Refraction, warnsOfAMissingShotPair) {
   show(testing::twoDippingLayers(), false);
-  dialogs.expectBox("Warning", "Unable to find nearest shot for first refractor", "",
-                    QMessageBox::Ok);
+  dialogs.expectBox("Warning", "Unable to find nearest shot for first refractor",
+                    "No shot that takes part has picks of layer 2.", QMessageBox::Ok);
   press("buildButton");
   EXPECT_TRUE(dialogs.finished());
   EXPECT_TRUE(dialog->interpretation().refractData.cData.empty());

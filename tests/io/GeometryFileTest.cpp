@@ -114,6 +114,34 @@ TEST(GeometryFile, saysWhichFileCannotBeReadOrWritten) {
   }
 }
 
+TEST(GeometryFile, looksAsItWasWritten) {
+  struct Case {
+    const char* text;
+    const char* separator;
+    bool decimalCommas;
+    const char* cutWith;  ///< separators with which numbers are cut
+  };
+  const Case cases[] = {{"0;606.4\n5;605.1\n", ";", false, ""},
+                        {"0;606\n5;605,1\n", ";", true, " ;"},
+                        {"shot_id_1, 0, 606.4\n", ",", false, ""},
+                        {"0,606.4\n", ",", true, " ;"},
+                        {"0 606,4\n", ",", true, " ;"},
+                        {"0 606.4\n1;2\n", " ", false, ""},
+                        {"", " ", false, ""}};
+  for (const Case& c : cases) {
+    const TestFolder folder;
+    const GeometryFileLook look = lookAtGeometryFile(folder.put("look.csv", c.text));
+    EXPECT_EQ(look.separator, c.separator) << c.text;
+    EXPECT_EQ(look.decimalCommas, c.decimalCommas) << c.text;
+    for (const char* separator : {" ", ";", ","}) {
+      EXPECT_EQ(cutsNumbers(look, separator),
+                std::string(c.cutWith).find(separator) != std::string::npos)
+          << c.text << " with " << separator;
+    }
+  }
+  EXPECT_EQ(lookAtGeometryFile("no such file").separator, " ");
+}
+
 TEST(GeometryFile, namesEndInCsvByTheLetter) {
   EXPECT_EQ(withCsvSuffix("line1"), "line1.csv");
   EXPECT_EQ(withCsvSuffix("line1.csv"), "line1.csv");

@@ -27,8 +27,9 @@ SurveyGeometry faultless() {
 
 /// "fault string:geophones/shots" of what is found.
 std::vector<std::string> found(const SurveyGeometry& geometry) {
-  static const char* kNames[] = {"position",  "empty", "no string", "mixed",       "place", "back",
-                                 "elevation", "count", "far",       "off surface", "unused"};
+  static const char* kNames[] = {"position", "empty",       "no string",    "mixed",
+                                 "place",    "back",        "elevation",    "count",
+                                 "far",      "off surface", "not levelled", "unused"};
   std::vector<std::string> all;
   for (const GeometryMistake& mistake : geometryMistakes(geometry)) {
     std::string text = kNames[static_cast<int>(mistake.fault)];
@@ -76,6 +77,25 @@ TEST(GeometryCheck, findsWhatIsWrong) {
       {"a shot without elevation",
        [](SurveyGeometry& g) { g.shots[0].place.z = 0.0; },
        {"off surface -1:/0,"}},
+      {"shots left at 0 under a low hill",
+       [](SurveyGeometry& g) {
+         for (GeometryPlace& place : g.strings[0]) place.z = 3.0;
+         for (GeometryShot& shot : g.shots) shot.place = {shot.place.x, 0.0, false};
+       },
+       {"not levelled -1:/0,1,"}},
+      {"shots left at 0 on flat ground are fine",
+       [](SurveyGeometry& g) {
+         for (GeometryPlace& place : g.strings[0]) place = {place.x, 0.0, false};
+         for (GeometryShot& shot : g.shots) shot.place = {shot.place.x, 0.0, false};
+       },
+       {}},
+      {"interpolated shots are fine until the line moves",
+       [](SurveyGeometry& g) {
+         for (GeometryShot& shot : g.shots) shot.place.typed = false;
+         interpolateShotElevations(g);
+         g.strings[0].back().z = 101.0;
+       },
+       {"not levelled -1:/1,"}},
       {"a string nobody uses",
        [](SurveyGeometry& g) { g.strings.push_back(g.strings[0]); },
        {"unused 1:/"}},

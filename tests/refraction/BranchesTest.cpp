@@ -76,5 +76,20 @@ TEST(ShotPair, isTheNearestShotsAtBothEnds) {
   EXPECT_EQ(findShotPair(shots, all, 3).b, 4);
 }
 
+TEST(ShotPair, canBeToldWhyThereIsNone) {
+  const std::vector<double> times = {0.01, 0.01, 0.01};
+  const std::vector<ShotArrivals> shots = {shotAt(-2, {0, 5, 10}, times),
+                                           shotAt(12, {5, 10, 15}, times),
+                                           shotAt(30, {5, 10, 15}, times)};
+  std::vector<layerStruct> all = {marks(0, {1, 2, 2}), marks(1, {2, 1, 1}), marks(2, {1, 1, 1})};
+  ASSERT_FALSE(findShotPair(shots, all, 2).complete());
+  const ShotPairReach reach = shotPairReach(shots, all, 2);
+  EXPECT_EQ(reach.firstReceiver, 0.0);
+  EXPECT_EQ(reach.lastReceiver, 15.0) << "geophones behind the last shot that has marks";
+  EXPECT_EQ(reach.firstShot, -2.0);
+  EXPECT_EQ(reach.lastShot, 12.0);
+  EXPECT_FALSE(shotPairReach(shots, all, 3).hasShots());
+}
+
 }  // namespace
 }  // namespace talvesk
