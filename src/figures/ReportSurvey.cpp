@@ -118,13 +118,45 @@ void addStrings(ReportBuilder& builder) {
   builder.table(ReportWords::tr("Strings of geophones"), table);
 }
 
-/// The name of a file in the width of a column: names of a survey differ at their ends.
-QString shortened(const std::string& path) {
-  constexpr int kMost = 16;
+constexpr int kMostOfName = 16;  ///< characters that a column has for the name of a file
+
+/// Begin and end of a name: names of a survey mostly differ at their ends.
+QString withoutMiddle(const QString& name) {
   constexpr int kBegin = 5;
-  const QString name = QFileInfo(QString::fromStdString(path)).fileName();
-  if (name.size() <= kMost) return name;
-  return name.left(kBegin) + QChar(0x2026) + name.right(kMost - kBegin - 1);
+  if (name.size() <= kMostOfName) return name;
+  return name.left(kBegin) + QChar(0x2026) + name.right(kMostOfName - kBegin - 1);
+}
+
+/// A name from a little before a place on.
+QString around(const QString& name, int place) {
+  constexpr int kBefore = 5;
+  if (name.size() <= kMostOfName) return name;
+  const int begin = std::clamp(place - kBefore, 0, name.size() - kMostOfName + 1);
+  const QString rest = name.mid(begin);
+  QString part = (begin > 0 ? QString(QChar(0x2026)) : QString()) + rest;
+  if (part.size() > kMostOfName) part = part.left(kMostOfName - 1) + QChar(0x2026);
+  return part;
+}
+
+/// The names of the shot files in the width of a column, so that they can be told apart.
+QStringList shortFileNames(const TomoDocument& document) {
+  QStringList names;
+  QStringList shortNames;
+  for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
+    names << QFileInfo(qt(shotFile(document, i))).fileName();
+    shortNames << withoutMiddle(names.back());
+  }
+  const std::set<QString> all(names.begin(), names.end());
+  if (std::set<QString>(shortNames.begin(), shortNames.end()).size() == all.size()) {
+    return shortNames;
+  }
+  const QString& first = *all.begin();
+  const QString& last = *all.rbegin();
+  const auto differ = std::mismatch(first.begin(), first.end(), last.begin(), last.end());
+  const int place = static_cast<int>(differ.first - first.begin());
+  std::transform(names.begin(), names.end(), shortNames.begin(),
+                 [place](const QString& name) { return around(name, place); });
+  return shortNames;
 }
 
 /// The first trace of a shot that tells how it was sampled.
@@ -154,10 +186,11 @@ void addShots(ReportBuilder& builder) {
     table.columns.push_back({ReportWords::tr("Samples"), true});
     table.columns.push_back({ReportWords::tr("Length [ms]"), true});
   }
+  const QStringList names = files ? shortFileNames(document) : QStringList();
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const TravelTime& record = document.ttArray[i];
     QStringList row{QString::number(i + 1)};
-    if (files) row += shortened(shotFile(document, i));
+    if (files) row += names[static_cast<int>(i)];
     row << number(record.shotPos2d.x, 2) << number(record.shotPos2d.z, 2)
         << (record.indexStesa >= 0 ? QString::number(record.indexStesa + 1) : QString())
         << QString::number(record.ttMisurati.size());

@@ -194,6 +194,30 @@ TEST(Report, refusesASurveyOfNothing) {
   EXPECT_THAT(buildReport({nothing}, {}, content).message(), HasSubstr("load shot files"));
 }
 
+TEST(Report, namesShotFilesSoThatTheyCanBeToldApart) {
+  const struct {
+    std::vector<std::string> files;
+    std::vector<std::string> shown;
+  } cases[] = {
+      {{"/d/1.dat", "/d/12.dat", "/d/12.dat"}, {"1.dat", "12.dat", "12.dat"}},
+      {{"/d/2026-11-21_line_1_shot_01.sg2", "/d/2026-11-21_line_1_shot_02.sg2", "/d/3.sg2"},
+       {"2026-\u2026hot_01.sg2", "2026-\u2026hot_02.sg2", "3.sg2"}},
+      {{"/d/strada 467 tiro 6 battuta 3 (rifatto).dat",
+        "/d/strada 467 tiro 16 battuta 3 (rifatto).dat",
+        "/d/strada 467 tiro 6 battuta 3 (rifatto).dat"},
+       {"\u2026tiro 6 battuta\u2026", "\u2026tiro 16 battut\u2026", "\u2026tiro 6 battuta\u2026"}},
+  };
+  for (const auto& c : cases) {
+    TomoDocument line = pickedLine();
+    line.filenames = c.files;
+    line.traceSets.resize(3, TraceSet(1));
+    const ReportTable table = tableOf(reportOn({line}), "Shots and their recordings");
+    std::vector<std::string> shown;
+    for (const QStringList& row : table.rows) shown.push_back(row[1].toStdString());
+    EXPECT_EQ(shown, c.shown);
+  }
+}
+
 TEST(Report, givesEveryShotItsMisfitByHand) {
   TomoDocument line = testing::testLine(3, 2.0, {0.0, 4.0});
   line.ttArray[0].ttMisurati = {0.010, 0.020, kUnpicked};
