@@ -24,16 +24,22 @@ std::vector<double> distances(const ShotTraces& traces) {
   return x;
 }
 
-/// Time until which first breaks are to be expected, seconds.
+/// Time until which first breaks are to be expected, seconds. A shot that is picked in part must
+/// not hide where the others are: these are expected at the velocity to the farthest pick.
 double firstBreakEnd(const ShotTraces& traces) {
+  constexpr double kRoom = 1.25;
+  double farthest = 0.0;
+  double velocity = kSlowest;
+  for (int i = 0; i < traces.count(); ++i) {
+    const double away = std::fabs(traces.offset(i));
+    if (!hasPick(traces.measured(i)) || !(away > farthest)) continue;
+    farthest = away;
+    velocity = std::max(away / (kRoom * traces.measured(i)), kSlowest);
+  }
   double end = 0.0;
   for (int i = 0; i < traces.count(); ++i) {
     const double pick = traces.measured(i);
-    if (hasPick(pick)) end = std::max(end, std::min(1.25 * pick, traces.timeEnd()));
-  }
-  if (end > 0.0) return end;
-  for (int i = 0; i < traces.count(); ++i) {
-    const double arrival = std::fabs(traces.offset(i)) / kSlowest;
+    const double arrival = hasPick(pick) ? kRoom * pick : std::fabs(traces.offset(i)) / velocity;
     if (std::isfinite(arrival)) end = std::max(end, std::min(arrival, traces.timeEnd()));
   }
   return end > 0.0 ? end : 0.25 * traces.timeEnd();

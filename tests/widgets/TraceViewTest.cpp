@@ -38,6 +38,20 @@ TEST_F(TraceView, opensOnTheWholeShotOrOnItsFirstBreaks) {
   EXPECT_LT(mWidget.window().bottom, 0.2);
 }
 
+TEST_F(TraceView, opensAShotThatIsPickedInPartOnAllOfItsFirstBreaks) {
+  mUser.change([](TraceViewOptions& options) { options.zoomIn = true; });
+  const double unpicked = mWidget.window().bottom;
+  for (const int picked : {1, 12, 24}) {
+    for (int trace = 0; trace < picked; ++trace) {
+      mUser.setPick(trace, testing::arrival(trace, -1.0));
+    }
+    mWidget.setShot(0);
+    EXPECT_GE(mWidget.window().bottom, testing::arrival(23, -1.0)) << picked;
+    EXPECT_LE(mWidget.window().bottom, unpicked) << picked;
+  }
+  EXPECT_NEAR(mWidget.window().bottom, 1.25 * testing::arrival(23, -1.0), 1e-9);
+}
+
 TEST_F(TraceView, keepsTracesLegibleUnlessAllAreWanted) {
   TomoDocument wide = testing::testShots(400, 20);
   mWidget.setDocument(&wide);
