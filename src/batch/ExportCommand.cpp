@@ -5,6 +5,8 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/Reports.h"
+#include "export/ExportFailure.h"
+#include "export/GeoTransformer.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
@@ -40,6 +42,12 @@ int choosePalette(const std::string& name, ColorPaletteList& palettes) {
   return wrongUsage("export", "--palette: '" + name + "' is none of " + names);
 }
 
+/// A code that is given here is checked, so that a slip is noticed; one that comes with the project
+/// is that of its author.
+Status checkSystem(const ExportOptions& options) {
+  return options.geography ? GeoTransformer(options.geography->CRS).status() : Status();
+}
+
 int writeFiles(const ExportOptions& options, const LoadedProject& project, ValueRange range,
                std::ostream& summary) {
   const TomoDocument& document = project.document;
@@ -60,9 +68,14 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
   attempt(options.otte, [&](Path path) { return writeTravelTimes(path, document); });
   attempt(options.vtk, [&](Path path) { return writeVtkGrid(path, document); });
   attempt(options.surfer, [&](Path path) { return writeSurferGrid(path, document); });
-  attempt(options.kmlLine, [&](Path path) { return writeSeismicLineKml(path, document); });
+  attempt(options.kmlLine, [&](Path path) {
+    const Status system = checkSystem(options);
+    return system.ok() ? writeSeismicLineKml(path, document) : cannotWrite(path, system.message());
+  });
   attempt(options.kmlSection, [&](Path path) {
-    return writeSectionKml(path, document, project.palettes.current(), range);
+    const Status system = checkSystem(options);
+    return system.ok() ? writeSectionKml(path, document, project.palettes.current(), range)
+                       : cannotWrite(path, system.message());
   });
   const SectionFigureOptions section = sectionFigureOptions(
       project.section, project.palettes.current(), refractorLines(project.interpretation));

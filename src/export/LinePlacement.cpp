@@ -1,8 +1,11 @@
 #include "export/LinePlacement.h"
 
+#include "base/Console.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <ostream>
 #include <utility>
 
 namespace talvesk {
@@ -41,6 +44,9 @@ LineOnGlobe::LineOnGlobe(const geographicsCoord& ends)
 LineOnGlobe::LineOnGlobe(std::shared_ptr<const GeoTransformer> transformer,
                          const geographicsCoord& ends)
     : mTransformer(std::move(transformer)), mPlacement(ends), mStatus(mTransformer->status()) {
+  if (mStatus.code() == kUnknownSystem || mStatus.code() == kNoTransformation) {
+    std::swap(mStatus, mUntransformed);
+  }
   if (!mStatus.ok()) return;
   if (!std::isfinite(mPlacement.length())) {
     mStatus = Status::failure("the coordinates of the geophones are not numbers", kNotNumbers);
@@ -56,7 +62,17 @@ LineOnGlobe::LineOnGlobe(std::shared_ptr<const GeoTransformer> transformer,
 
 bool LineOnGlobe::locate(double distance, LonLat& out) const {
   const MapPoint place = mPlacement.at(distance);
+  if (!mUntransformed.ok()) {
+    out = {place.easting, place.northing};
+    return true;
+  }
   return mTransformer->transform(place.easting, place.northing, out);
+}
+
+void tellUntransformed(const std::string& path, const LineOnGlobe& line) {
+  if (line.untransformed().ok()) return;
+  console::error() << path << " has easting and northing in place of longitude and latitude: "
+                   << line.untransformed().message() << std::endl;
 }
 
 }  // namespace talvesk

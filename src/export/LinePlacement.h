@@ -56,8 +56,12 @@ class LineOnGlobe {
   LineOnGlobe(std::shared_ptr<const GeoTransformer> transformer, const geographicsCoord& ends);
 
   /// Why there is none: an unusable reference system, ends that are no numbers or the same, or ends
-  /// that the system cannot place.
+  /// that the system cannot place. A system that PROJ cannot build is no reason, see below.
   const Status& status() const { return mStatus; }  ///< codes are of GeoProblem
+  /// Why easting and northing are given out in place of longitude and latitude; ok when they are
+  /// not. A line whose system is not known to this machine's PROJ, which may be older than the
+  /// project, is still drawn where it says it is.
+  const Status& untransformed() const { return mUntransformed; }
   const std::string& systemName() const { return mTransformer->systemName(); }
   double length() const { return mPlacement.length(); }  ///< metres
   LonLat first() const { return mFirst; }                ///< geophone
@@ -71,8 +75,12 @@ class LineOnGlobe {
   std::shared_ptr<const GeoTransformer> mTransformer;
   LinePlacement mPlacement;
   Status mStatus;
+  Status mUntransformed;
   LonLat mFirst;
   LonLat mLast;
 };
+
+/// Tells the console's error stream when a file gets easting and northing as they are.
+void tellUntransformed(const std::string& path, const LineOnGlobe& line);
 
 }  // namespace talvesk

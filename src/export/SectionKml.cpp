@@ -113,6 +113,7 @@ Status writeSectionKml(const std::string& path, const TomoDocument& document,
   }
   const LineOnGlobe line(document.geoCoord);
   if (!line.status().ok()) return cannotWrite(path, line.status().message());
+  tellUntransformed(path, line);
 
   console::out() << "Exporting tomographic data on KML file: " << path << std::endl;
   KmlDocument kml(document.title + " Profile", document.title);

@@ -42,6 +42,7 @@ Status writeSeismicLineKml(const std::string& path, const TomoDocument& document
   if (!ends) return cannotWrite(path, "the survey has no geophones");
   const LineOnGlobe line(document.geoCoord);
   if (!line.status().ok()) return cannotWrite(path, line.status().message());
+  tellUntransformed(path, line);
 
   KmlDocument kml("Shots and Receivers", "Content");
   Marker marker(kml, line, ends->first);

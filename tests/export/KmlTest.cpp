@@ -271,7 +271,7 @@ TEST(Kml, isNotWrittenWithoutAPlaceOnTheGlobe) {
   } cases[] = {
       {broken([](D& d) { d.geoCoordIsSet = false; }), kNoGeographicCoordinates},
       {broken([](D& d) { d.goephonesStringSet.clear(); }), "no geophones"},
-      {broken([](D& d) { d.geoCoord.CRS = 99999; }), "EPSG:99999 is no reference system"},
+      {broken([](D& d) { d.geoCoord.CRS = 4326; }), "not a projected system"},
       {broken([](D& d) { d.geoCoord.mEastFstGeoph = kNan; }), "not numbers"},
       {broken([](D& d) { d.geoCoord.mNorthLstGeoph = HUGE_VAL; }), "not numbers"},
       {broken([](D& d) {
@@ -293,6 +293,22 @@ TEST(Kml, isNotWrittenWithoutAPlaceOnTheGlobe) {
     }
   }
   EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST(Kml, keepsEastingAndNorthingWhereTheSystemCannotBeBuilt) {
+  const TestFolder folder;
+  const std::string path = folder.file("plain.kml");
+  TomoDocument document = placed();
+  document.geoCoord = {99999, 5e5, 5e5 + 100.0, 5e6, 5e6};
+  const ColorPaletteList palettes;
+  for (const bool section : {false, true}) {
+    const ConsoleCapture console;
+    ASSERT_TRUE((section ? writeSectionKml(path, document, palettes.current(), kRange)
+                         : writeSeismicLineKml(path, document))
+                    .ok());
+    EXPECT_THAT(TestFolder::get(path), HasSubstr("500000,5000000,"));
+    EXPECT_THAT(console.error(), HasSubstr(path + " has easting and northing in place of"));
+  }
 }
 
 TEST(SectionKml, isNotWrittenWithoutColorsOrCells) {

@@ -187,10 +187,10 @@ TEST_F(Exports, ofTheSectionUseThePaletteInView) {
 
 TEST_F(Exports, needNoPlaceThatProjCannotFind) {
   takeSection(true);
-  window->document().geoCoord.CRS = 999999;
+  window->document().geoCoord.CRS = 4326;
   expectFile("Export Seismic Line to KML", home.file("out.kml"));
   dialogs.expectBox("Error occured", "The data have not been exported.",
-                    "EPSG:999999 is no reference system", QMessageBox::Ok);
+                    "is not a projected system", QMessageBox::Ok);
   action("actionExportSeismic_line").trigger();
   EXPECT_EQ(TestFolder::get(home.file("out.kml")), "");
 }
