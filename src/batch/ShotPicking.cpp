@@ -98,11 +98,16 @@ Status placeShots(const ShotOptions& options, TomoDocument& document) {
   return {};
 }
 
-/// Shots at 0 under geophones with elevations would pull the ground down to them.
-void levelShots(const PickingManner& manner, TomoDocument& document) {
+/// Shots at 0 under geophones with elevations would pull the ground down to them. Those that a file
+/// of positions puts there stay.
+void levelShots(const ShotOptions& options, const PickingManner& manner, TomoDocument& document) {
   SurveyGeometry geometry = geometryOf(document);
   const std::size_t off = shotsNotLevelled(geometry).size();
   if (off == 0) return;
+  if (!options.shots.empty()) {
+    warn(options.shots + ": all shots are at elevation 0, the geophones are not; they stay there");
+    return;
+  }
   interpolateShotElevations(geometry);
   applyGeometry(geometry, document);
   *manner.summary << "All shots are at elevation 0, the geophones are not: " << off
@@ -188,7 +193,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
   if (!status.ok()) return status;
-  levelShots(manner, document);
+  levelShots(options, manner, document);
 
   std::vector<std::int32_t> shots;
   for (std::size_t i = 0; i < document.traceSets.size(); ++i) {

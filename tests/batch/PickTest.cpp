@@ -138,13 +138,25 @@ TEST_F(Picking, geometryFilesReplaceThePositionsOfTheHeaders) {
 }
 
 TEST_F(Picking, shotsWithoutElevationsComeOntoTheLineOfTheGeophones) {
+  Seg2Record record = smallShot(0.5);
+  record.source.z = 0.0;
+  mFiles = {mFolder.write("flat.sg2", formatSeg2(record))};
+  const std::string places = geophones(13, 3.0, ";");
+  const Outcome outcome = pick({"-o", mFolder / "a.otte", "--geophones", places});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("1 shots were put on the line of the geophones"));
+  const ordered_json json = pickJson({"--geophones", places});
+  EXPECT_EQ(json["shots"][0]["position"][1], 5.0);
+}
+
+TEST_F(Picking, shotsThatAFilePutsBelowTheGeophonesStayThere) {
   const std::string places = geophones(13, 3.0, ";");
   const std::string low = mFolder.write("low.csv", "shot_1;1;0\nshot_2;19;0\nshot_3;35;0\n");
   const Outcome outcome = pick({"-o", mFolder / "a.otte", "--geophones", places, "--shots", low});
   ASSERT_EQ(outcome.code, 0) << outcome.err;
-  EXPECT_THAT(outcome.out, HasSubstr("3 shots were put on the line of the geophones"));
+  EXPECT_THAT(outcome.err, HasSubstr("low.csv: all shots are at elevation 0"));
   const ordered_json json = pickJson({"--geophones", places, "--shots", low});
-  for (const auto& shot : json["shots"]) EXPECT_EQ(shot["position"][1], 5.0);
+  for (const auto& shot : json["shots"]) EXPECT_EQ(shot["position"][1], 0.0);
 }
 
 TEST_F(Picking, warnsOfNumbersThatAreCutAtDecimalCommas) {
