@@ -1,5 +1,7 @@
 #include "grid/Grid.h"
 
+#include "base/TextNumber.h"
+
 #include <cmath>
 #include <stdexcept>
 
@@ -7,6 +9,11 @@ namespace talvesk {
 namespace {
 
 using Side = CellSide;
+
+// Far beyond all ground on either side, and still so that squares of slownesses and times along
+// whole rays neither vanish nor overflow.
+constexpr double kLeastSlowness = 1e-100;    // s/m
+constexpr double kGreatestSlowness = 1e100;  // s/m
 
 // The sides that a node of each side is joined to, in the order that its edges stand: all pairs
 // (top, left), (top, right), (top, bottom), (bottom, left), (right, left), (right, bottom),
@@ -99,10 +106,9 @@ GridNode Grid::node(std::uint32_t index) const {
 
 std::string Grid::invalidSlowness() const {
   for (std::size_t c = 0; c < mSlowness.size(); ++c) {
-    if (!(mSlowness[c] > 0.0) || !std::isfinite(mSlowness[c])) {
-      return "cell " + std::to_string(c) + " has no valid velocity (slowness " +
-             std::to_string(mSlowness[c]) + " s/m)";
-    }
+    if (mSlowness[c] >= kLeastSlowness && mSlowness[c] <= kGreatestSlowness) continue;
+    return "cell " + std::to_string(c) + " has no valid velocity (slowness " +
+           formatDouble(mSlowness[c]) + " s/m)";
   }
   return {};
 }

@@ -48,7 +48,8 @@ class Grid {
   GridCell cell(std::uint32_t index) const;
   GridNode node(std::uint32_t index) const;
 
-  /// Empty when every slowness is a positive finite number, else what is wrong with which cell.
+  /// Empty when every slowness is one that rays can be traced through, 1e-100 .. 1e100 s/m, else
+  /// what is wrong with which cell.
   std::string invalidSlowness() const;
 
  private:

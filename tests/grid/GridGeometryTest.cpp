@@ -1,5 +1,6 @@
 #include "grid/Grid.h"
 #include "grid/GridGeometry.h"
+#include "support/CommaLocale.h"
 #include "support/TestGrids.h"
 
 #include <cmath>
@@ -299,10 +300,14 @@ TEST(Grid, namesTheFirstCellWithoutAVelocity) {
   const double infinity = std::numeric_limits<double>::infinity();
   auto grid = testing::roughGrid({3, 4, 6, 1.0}, 1.0);
   EXPECT_EQ(grid->invalidSlowness(), "");
-  for (const double bad : {0.0, -0.001, nan, infinity}) {
+  // The last two are finite, but no ground: their squares are none.
+  for (const double bad : {0.0, -0.001, nan, infinity, 1e200, 1e-200}) {
     grid->setSlowness(7, bad);
     EXPECT_NE(grid->invalidSlowness().find("cell 7 "), std::string::npos) << bad;
   }
+  const testing::CommaNumbers comma;
+  grid->setSlowness(7, -0.125);
+  EXPECT_NE(grid->invalidSlowness().find("(slowness -0.125 s/m)"), std::string::npos);
 }
 
 }  // namespace
