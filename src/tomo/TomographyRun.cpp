@@ -55,6 +55,11 @@ InversionRecord recordOf(const TomographyParameters& p, const TomographyResult& 
   return record;
 }
 
+/// Relative RMS misfit, none without any pick: what an earlier inversion left is no longer true.
+double percentOf(const Misfit& misfit) {
+  return misfit.count > 0 ? misfit.relativeRms * 100.0 : -1.0;
+}
+
 void finish(TomoDocument& document, const TomographyParameters& p, TomographyResult& result,
             const Stopwatch& watch, Log& log) {
   document.info_density = smoothRayDensity(p.smoothingType, *document.grid, document.hitCounts,
@@ -68,7 +73,6 @@ void finish(TomoDocument& document, const TomographyParameters& p, TomographyRes
   console::out() << "[LOG] RMSE: s" << general(result.misfit.rmse) << '\n'
                  << "[LOG] MaxError: %" << general(result.misfit.maxRelativeError * 100.0)
                  << std::endl;
-  document.RMSE_tomography = result.misfit.relativeRms * 100.0;
 }
 
 }  // namespace
@@ -99,6 +103,7 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
     log.write(line + " ... COMPLETED. ");
     result.iterationsDone = i + 1;
     result.history.push_back(computeMisfit(document));
+    document.RMSE_tomography = percentOf(result.history.back());
     log.write("Updating tomographic profile ... ");
     if (progress) {
       progress({i + 1, p.externalIterations, watch.seconds(), result.history.back()});

@@ -145,6 +145,7 @@ TEST(Inversion, finishesTheIterationUnderWayWhenItIsStopped) {
         line, fewIterations(5, 2), log,
         [&](const TomographyProgress& state) {
           EXPECT_EQ(state.total, 5);
+          EXPECT_EQ(line.RMSE_tomography, state.misfit.relativeRms * 100.0);
           if (byFlag && state.completed == 2) line.stopRequested = true;
         },
         [&] { return !byFlag && line.hasTomographicInfo; });
@@ -223,6 +224,7 @@ TEST(Inversion, hasNoCoverageCurveForFewerThanTwoColumns) {
     record.ttMisurati.assign(record.ttMisurati.size(), kUnpicked);
   }
   line.coverageLimit = {{1.0, 1.0}};
+  line.RMSE_tomography = 12.5;  // of an inversion before, when there were picks
   Log log;
   const TomographyResult result = runInversion(line, fewIterations(1, 2), log);
   ASSERT_TRUE(result.status.ok());
