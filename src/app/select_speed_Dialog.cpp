@@ -42,7 +42,7 @@ void select_speed_Dialog::setDocument() {
   mUi->widget->setGridDepth(gridDepth());
   for (const VelocityLayer& layer : mDocument.layers) addRow(layer);
   if (mDocument.layers.empty()) addRow(defaultLayer(gridDepth()));
-  onLineeditmod();
+  showModel(layers());
   row(0)->focusFirstField();
 }
 
@@ -77,7 +77,11 @@ void select_speed_Dialog::orderTabs() {
 std::vector<VelocityLayer> select_speed_Dialog::layers() const {
   std::vector<VelocityLayer> rows;
   for (int i = 0; i < mUi->listWidget->count(); ++i) rows.push_back(row(i)->layer());
-  const std::vector<VelocityLayer> taken = acceptedLayers(rows);
+  return acceptedLayers(rows);
+}
+
+std::vector<VelocityLayer> select_speed_Dialog::takeLayers() const {
+  std::vector<VelocityLayer> taken = layers();
   for (std::size_t i = 0; i < taken.size(); ++i) {
     console::out() << "[LOG] accepted - speedlayer for loop " << std::endl;
   }
@@ -85,10 +89,13 @@ std::vector<VelocityLayer> select_speed_Dialog::layers() const {
 }
 
 void select_speed_Dialog::onLineeditmod() {
-  const std::vector<VelocityLayer> now = layers();
-  mUi->widget->setLayers(now);
+  showModel(takeLayers());
+}
+
+void select_speed_Dialog::showModel(const std::vector<VelocityLayer>& layers) {
+  mUi->widget->setLayers(layers);
   const Status status =
-      mDocument.grid ? checkLayers(mDocument.grid->geometry().size(), now) : Status();
+      mDocument.grid ? checkLayers(mDocument.grid->geometry().size(), layers) : Status();
   mUi->problemLabel->setText(QString::fromStdString(status.ok() ? "" : status.message()));
 }
 
@@ -126,7 +133,7 @@ void select_speed_Dialog::showRemovable() {
 }
 
 void select_speed_Dialog::accept() {
-  const Status status = whileWaiting([this] { return applyLayers(mDocument, layers()); });
+  const Status status = whileWaiting([this] { return applyLayers(mDocument, takeLayers()); });
   if (status.ok()) {
     QDialog::accept();
     return;

@@ -27,7 +27,7 @@ class select_speed_Dialog : public QDialog {
   explicit select_speed_Dialog(TomoDocument& document, QWidget* parent = nullptr);
   ~select_speed_Dialog() override;
 
-  /// What the rows say, those that make no layer left out. Each one taken is told on the console.
+  /// What the rows say, those that make no layer left out.
   std::vector<VelocityLayer> layers() const;
 
   /// Builds the grid. Where the layers make no model it says why and stays open.
@@ -38,6 +38,8 @@ class select_speed_Dialog : public QDialog {
 
  private:
   void setDocument();
+  std::vector<VelocityLayer> takeLayers() const;  ///< the same, each one told on the console
+  void showModel(const std::vector<VelocityLayer>& layers);
   setVelocityWidget* row(int index) const;
   bool isMarked(int index) const;
   void addRow(const VelocityLayer& layer);
