@@ -123,8 +123,7 @@ bool Talvesk_MainWindows::loadProject(const QString& file, LoadedProject& projec
     result = reader.load(file.toStdString(), mFolder.path, project);
     if (result != 0 || !project.document.hasTomographicInfo) return;
     QMetaObject::invokeMethod(&progress, &progressDialog::write_tracing_rays, Qt::QueuedConnection);
-    Log worker;  // that of the window belongs to this thread
-    rays = recomputeRays(project.document, worker);
+    rays = recomputeRays(project.document, mLog);
   });
   if (result != 0) {
     reportBadProject(file, reader);

@@ -4,6 +4,7 @@
 #include "io/projectReader.h"
 #include "support/ShotFiles.h"
 #include "support/TestSurveys.h"
+#include "tomo/ForwardPass.h"
 #include "tomo/TomographyRun.h"
 #include "widgets/SectionView.h"
 
@@ -122,6 +123,19 @@ TEST_F(Projects, lookTheSameWhenTheyComeBack) {
   EXPECT_TRUE(child<SectionView>("vtk_widget").sheet()->isVisible());
   EXPECT_NE(before[2], before[0]);
   for (int i = 0; i < before.size(); ++i) EXPECT_EQ(before[i], after[i]) << i;
+}
+
+TEST_F(Projects, nameInTheLogWhatTheirRaysLeaveOut) {
+  const double cell = 0.4 * document().surveyProfile().arrayLength;
+  putGrid(document(), 2 * cell, cell);  // two columns: the last fifth of the line has none
+  Log quiet;
+  ASSERT_TRUE(runInversion(document(), {}, quiet).status.ok());
+  ASSERT_FALSE(document().excluded.empty());
+  const std::string first = describe(document().excluded.front());
+  saveAs(path("line.tvsk"));
+  load(path("line.tvsk"));
+  EXPECT_FALSE(document().excluded.empty());
+  EXPECT_THAT(log(), HasSubstr("ERROR : " + first + "\n"));
 }
 
 TEST_F(Projects, areSavedAgainFromTheFilesThatTheyWereLoadedWith) {
