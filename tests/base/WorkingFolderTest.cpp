@@ -4,7 +4,9 @@
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace talvesk {
 namespace {
@@ -26,6 +28,14 @@ TEST(WorkingFolder, isCreatedOneLevelDeep) {
   EXPECT_FALSE(WorkingFolder::below(home.file("missing")).create());
   home.put("Talvesk_file", "");
   EXPECT_FALSE(WorkingFolder::below(home.file("Talvesk_file")).create());
+}
+
+TEST(WorkingFolder, liesInTheHomeOfTheUserWhereNoVariableTellsIt) {
+  const QByteArray before = qgetenv("HOME");
+  qunsetenv("HOME");
+  const std::string path = WorkingFolder::ofUser().path;
+  qputenv("HOME", before);
+  EXPECT_EQ(path, std::string(::getpwuid(::geteuid())->pw_dir) + "/Talvesk_TMP/");
 }
 
 TEST(History, remembersTheLastFolder) {
