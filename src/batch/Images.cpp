@@ -5,6 +5,7 @@
 #include "figures/SectionFigure.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <clocale>
 #include <cstdlib>
 
@@ -30,6 +31,8 @@ void prepareDrawing() {
   static const QApplication application(argc, argv);
   // Qt has taken over the user's locale.
   std::setlocale(LC_NUMERIC, "C");
+  // All texts are English here, and documents must not call them anything else.
+  QLocale::setDefault(QLocale::c());
 }
 
 SectionFigureOptions sectionFigure(const InvertOptions& options) {

@@ -127,10 +127,14 @@ TEST(Inversion, reportsNameThoseTheyConcern) {
   for (const char* name : {"report.pdf", "report.odt"}) {
     const Outcome outcome = runBatch(quickRun(input, {"--report", folder / name, "--client",
                                                       "Somebody", "--quiet", "--contours", "4"}),
-                                     {{"DISPLAY", ""}});
+                                     {{"DISPLAY", ""}, {"LC_ALL", "de_DE.UTF-8"}});
     ASSERT_EQ(outcome.code, 0) << outcome.err;
     EXPECT_EQ(outcome.err, "");
   }
+  const std::string unpack =
+      "python3 -m zipfile -e '" + (folder / "report.odt") + "' '" + (folder / "unpacked'");
+  ASSERT_EQ(std::system(unpack.c_str()), 0);
+  EXPECT_THAT(contentsOf(folder / "unpacked/meta.xml"), HasSubstr("<dc:language>en<"));
   EXPECT_EQ(contentsOf(folder / "report.pdf").substr(0, 5), "%PDF-");
   EXPECT_THAT(contentsOf(folder / "report.odt").substr(0, 100), HasSubstr("opendocument.text"));
 
