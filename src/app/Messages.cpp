@@ -11,11 +11,19 @@ namespace {
 /// Paths and reasons are long, and a box is as wide as its short text else; pixels.
 constexpr int kTextWidth = 420;
 
+/// Names and reasons stand as they are, though they may look like tags.
+void setPlainTexts(QMessageBox& box, const QString& details) {
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(details);
+  // The format of the box is that of its first text only.
+  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+  if (label != nullptr) label->setTextFormat(Qt::PlainText);
+}
+
 void show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& text,
           const QString& details, const QString& textStyle = QString()) {
   QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
-  box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(details);
+  setPlainTexts(box, details);
   // The box offers no other way to style its text without its buttons.
   if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
     label->setStyleSheet(textStyle);
@@ -45,8 +53,7 @@ void showNote(QWidget* parent, const QString& title, const QString& text, const 
 bool askYesNo(QWidget* parent, const QString& title, const QString& text, const QString& details,
               bool yesIsDefault) {
   QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent);
-  box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(details);
+  setPlainTexts(box, details);
   box.setDefaultButton(yesIsDefault ? QMessageBox::Yes : QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
 }
@@ -56,8 +63,8 @@ SaveAnswer askToSave(QWidget* parent) {
   box.setIcon(QMessageBox::Question);
   box.setWindowTitle(QCoreApplication::applicationName());
   box.setText(QCoreApplication::translate("talvesk::Messages", "The document has been modified"));
-  box.setInformativeText(
-      QCoreApplication::translate("talvesk::Messages", "Do you want to save your changes?"));
+  setPlainTexts(
+      box, QCoreApplication::translate("talvesk::Messages", "Do you want to save your changes?"));
   box.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
   box.setDefaultButton(QMessageBox::Save);
   switch (box.exec()) {
@@ -75,8 +82,7 @@ RecoveryAnswer askToRecover(QWidget* parent, const QString& details) {
   box.setIcon(QMessageBox::Question);
   box.setWindowTitle(QCoreApplication::translate("talvesk::Messages", "Recover survey"));
   box.setText(QCoreApplication::translate("talvesk::Messages", "Talvesk was not closed properly."));
-  box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(details);
+  setPlainTexts(box, details);
   box.setStandardButtons(QMessageBox::Open | QMessageBox::Discard | QMessageBox::Cancel);
   box.setDefaultButton(QMessageBox::Open);
   box.button(QMessageBox::Discard)

@@ -60,7 +60,9 @@ RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
   for (std::size_t i = 0; i < mDocument.traceSets.size(); ++i) {
     const QString path = QString::fromStdString(shotFile(mDocument, i));
     mUi->fileCBox->addItem(QStringLiteral("%1: %2").arg(i + 1).arg(QFileInfo(path).fileName()));
-    mUi->fileCBox->setItemData(static_cast<int>(i), path, Qt::ToolTipRole);
+    mUi->fileCBox->setItemData(static_cast<int>(i),
+                               QStringLiteral("<qt>%1</qt>").arg(path.toHtmlEscaped()),
+                               Qt::ToolTipRole);
   }
   QHeaderView& columns = *mUi->tracesTable->horizontalHeader();
   columns.setSectionResizeMode(QHeaderView::ResizeToContents);

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <algorithm>
@@ -61,6 +62,9 @@ void ModalScript::expectBox(const QString& title, const QString& text, const QSt
     EXPECT_EQ(box->text().toStdString(), text.toStdString());
     EXPECT_TRUE(box->informativeText().contains(details))
         << box->informativeText().toStdString() << " lacks " << details.toStdString();
+    const auto* shown = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+    EXPECT_TRUE(shown == nullptr || shown->textFormat() == Qt::PlainText)
+        << "a name such as <b> would not be shown as it stands";
     box->button(button)->click();
   });
 }
