@@ -2914,10 +2914,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>&amp;Verarbeitung</translation>
     </message>
     <message>
-        <source>Survey</source>
-        <translation>Messung</translation>
-    </message>
-    <message>
         <source>New...</source>
         <translation>Neu...</translation>
     </message>
@@ -4169,6 +4165,18 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>The survey is recovered; it is not saved yet.</source>
         <translation>Die Messung ist wiederhergestellt; sie ist noch nicht gespeichert.</translation>
     </message>
+    <message>
+        <source>Survey tool bar</source>
+        <translation>Werkzeugleiste Messung</translation>
+    </message>
+    <message>
+        <source>Traces tool bar</source>
+        <translation>Werkzeugleiste Spuren</translation>
+    </message>
+    <message>
+        <source>Set them with Project &gt; Set geographic coordinates ...</source>
+        <translation>Geben Sie sie hier an: Projekt &gt; Geographische Koordinaten ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -4708,6 +4716,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <source>This shot has no traces</source>
         <translation>Dieser Schuss hat keine Spuren</translation>
     </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::gridDialog</name>
@@ -4801,6 +4813,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
         <translation>So kleine Zellen machen eine Inversion sehr langsam, und sie hält nur zwischen Iterationen an. Ein Viertel des Geophonabstands ist %1 m.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be lost.</source>
+        <translation>Die Ergebnisse der letzten Inversion gehen verloren.</translation>
     </message>
 </context>
 <context>
@@ -5061,6 +5077,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>The layers make no velocity model.</source>
         <translation>Die Schichten ergeben kein Geschwindigkeitsmodell.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be lost.</source>
+        <translation>Die Ergebnisse der letzten Inversion gehen verloren.</translation>
     </message>
 </context>
 <context>

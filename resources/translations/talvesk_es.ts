@@ -2914,10 +2914,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>P&amp;rocesamiento</translation>
     </message>
     <message>
-        <source>Survey</source>
-        <translation>Levantamiento</translation>
-    </message>
-    <message>
         <source>New...</source>
         <translation>Nuevo...</translation>
     </message>
@@ -4169,6 +4165,18 @@ Do you want to run refraction processing anyway? </source>
         <source>The file has not been saved.</source>
         <translation>No se ha guardado el archivo.</translation>
     </message>
+    <message>
+        <source>Survey tool bar</source>
+        <translation>Barra de herramientas Levantamiento</translation>
+    </message>
+    <message>
+        <source>Traces tool bar</source>
+        <translation>Barra de herramientas Trazas</translation>
+    </message>
+    <message>
+        <source>Set them with Project &gt; Set geographic coordinates ...</source>
+        <translation>Indíquelas con Proyecto &gt; Definir coordenadas geográficas ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -4708,6 +4716,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <source>This shot has no traces</source>
         <translation>Este disparo no tiene trazas</translation>
     </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::gridDialog</name>
@@ -4801,6 +4813,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
         <translation>Celdas tan pequeñas hacen muy lenta la inversión, que solo se detiene entre iteraciones. Un cuarto de la separación entre geófonos es %1 m.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be lost.</source>
+        <translation>Los resultados de la última inversión se perderán.</translation>
     </message>
 </context>
 <context>
@@ -5061,6 +5077,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>The layers make no velocity model.</source>
         <translation>Las capas no forman un modelo de velocidad.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be lost.</source>
+        <translation>Los resultados de la última inversión se perderán.</translation>
     </message>
 </context>
 <context>

@@ -2914,10 +2914,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>T&amp;raitement</translation>
     </message>
     <message>
-        <source>Survey</source>
-        <translation>Levé</translation>
-    </message>
-    <message>
         <source>New...</source>
         <translation>Nouveau...</translation>
     </message>
@@ -4169,6 +4165,18 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>The file has not been saved.</source>
         <translation>Le fichier n&apos;a pas été enregistré.</translation>
     </message>
+    <message>
+        <source>Survey tool bar</source>
+        <translation>Barre d&apos;outils Levé</translation>
+    </message>
+    <message>
+        <source>Traces tool bar</source>
+        <translation>Barre d&apos;outils Traces</translation>
+    </message>
+    <message>
+        <source>Set them with Project &gt; Set geographic coordinates ...</source>
+        <translation>Indiquez-les avec Projet &gt; Définir les coordonnées géographiques ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -4708,6 +4716,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <source>This shot has no traces</source>
         <translation>Ce tir n&apos;a pas de traces</translation>
     </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::gridDialog</name>
@@ -4801,6 +4813,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
         <translation>Des cellules si petites rendent l&apos;inversion très lente, et elle ne s&apos;arrête qu&apos;entre deux itérations. Le quart de l&apos;espacement des géophones est de %1&#xa0;m.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be lost.</source>
+        <translation>Les résultats de la dernière inversion seront perdus.</translation>
     </message>
 </context>
 <context>
@@ -5061,6 +5077,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>The layers make no velocity model.</source>
         <translation>Les couches ne forment pas un modèle de vitesse.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be lost.</source>
+        <translation>Les résultats de la dernière inversion seront perdus.</translation>
     </message>
 </context>
 <context>

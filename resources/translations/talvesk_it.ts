@@ -2914,10 +2914,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>&amp;Elaborazione</translation>
     </message>
     <message>
-        <source>Survey</source>
-        <translation>Rilievo</translation>
-    </message>
-    <message>
         <source>New...</source>
         <translation>Nuovo...</translation>
     </message>
@@ -4169,6 +4165,18 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>The survey is recovered; it is not saved yet.</source>
         <translation>Il rilievo è recuperato; non è ancora salvato.</translation>
     </message>
+    <message>
+        <source>Survey tool bar</source>
+        <translation>Barra degli strumenti Rilievo</translation>
+    </message>
+    <message>
+        <source>Traces tool bar</source>
+        <translation>Barra degli strumenti Tracce</translation>
+    </message>
+    <message>
+        <source>Set them with Project &gt; Set geographic coordinates ...</source>
+        <translation>Impostale con Progetto &gt; Coordinate geografiche ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -4708,6 +4716,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <source>This shot has no traces</source>
         <translation>Questo tiro non ha tracce</translation>
     </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::gridDialog</name>
@@ -4801,6 +4813,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
         <translation>Celle così piccole rendono l&apos;inversione molto lenta, e si ferma solo tra un&apos;iterazione e l&apos;altra. Un quarto della distanza fra i geofoni è %1 m.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be lost.</source>
+        <translation>I risultati dell&apos;ultima inversione andranno persi.</translation>
     </message>
 </context>
 <context>
@@ -5061,6 +5077,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>The layers make no velocity model.</source>
         <translation>Gli strati non formano un modello di velocità.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be lost.</source>
+        <translation>I risultati dell&apos;ultima inversione andranno persi.</translation>
     </message>
 </context>
 <context>

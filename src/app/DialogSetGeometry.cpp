@@ -403,7 +403,7 @@ void DialogSetGeometry::accept() {
 void DialogSetGeometry::reject() {
   if (geometryDiffers(geometry(), mDocument) &&
       !askYesNo(this, windowTitle(), tr("The geometry has been edited."),
-                tr("Do you want to leave it as it was before?"), true)) {
+                tr("Do you want to leave it as it was before?"), false)) {
     return;
   }
   QDialog::reject();

@@ -7,7 +7,7 @@
 
 namespace talvesk {
 
-QString userGuidePath(const QString& language) {
+QString userGuidePath(const QString& language, const QString& page) {
   const QDir program(QCoreApplication::applicationDirPath());
   const QStringList languages = {language, language.section(QLatin1Char('_'), 0, 0),
                                  QStringLiteral("en")};
@@ -15,8 +15,11 @@ QString userGuidePath(const QString& language) {
   for (const char* folder : {"../share/talvesk/guide/", "../../../resources/guide/"}) {
     for (const QString& name : languages) {
       if (name.isEmpty()) continue;
-      const QFileInfo file(program, QLatin1String(folder) + name + QStringLiteral("/index.html"));
-      if (file.isFile()) return file.canonicalFilePath();
+      const QString guide = QLatin1String(folder) + name + QLatin1Char('/');
+      for (const QString& wanted : {page, QStringLiteral("index.html")}) {
+        const QFileInfo file(program, guide + wanted);
+        if (file.isFile()) return file.canonicalFilePath();
+      }
     }
   }
   return {};

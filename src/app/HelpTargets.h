@@ -14,7 +14,8 @@ inline constexpr char kOnlineHelpAddress[] = "https://talvesk.example/help/";
 /// The first page of the guide that came with the program, in the language (a locale code) where
 /// there is one, else in English: beside the installed program, or in the source tree that it was
 /// built in. Empty when it is missing.
-QString userGuidePath(const QString& language);
+/// \param page of the guide; where there is none of that name it is the first one
+QString userGuidePath(const QString& language, const QString& page = QStringLiteral("index.html"));
 
 /// Tells `found` whether the host of an address can be reached by name, at once or within the
 /// time that the system gives the look-up, unless `receiver` is gone by then.

@@ -104,6 +104,11 @@ RecoveryAnswer askToRecover(QWidget* parent, const QString& details) {
   }
 }
 
+QString warningStyle(const QWidget& widget) {
+  const bool dark = widget.palette().color(QPalette::Window).lightness() < 128;
+  return dark ? QStringLiteral("color: #ff7a7a;") : QStringLiteral("color: #c00020;");
+}
+
 QString shortList(const QStringList& lines, int limit) {
   if (lines.size() <= limit) return lines.join(QLatin1Char('\n'));
   const int rest = static_cast<int>(lines.size()) - limit;

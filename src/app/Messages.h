@@ -33,6 +33,9 @@ enum class RecoveryAnswer { kOpen, kDiscard, kLater };
 /// \param details what survey, and of when
 RecoveryAnswer askToRecover(QWidget* parent, const QString& details);
 
+/// The style sheet of a label that warns: a red that can be read on the ground of the widget.
+QString warningStyle(const QWidget& widget);
+
 /// At most `limit` lines of a list; the rest as one line that counts it.
 QString shortList(const QStringList& lines, int limit = 8);
 

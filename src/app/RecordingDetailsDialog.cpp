@@ -7,10 +7,14 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLocale>
+#include <QScreen>
 #include <algorithm>
 
 namespace talvesk {
 namespace {
+
+/// Share of the screen, either way, that the dialog fills at most.
+constexpr double kMostOfScreen = 0.92;
 
 /// Seven digits are what the formats hold; more would show how numbers are stored.
 QString number(double value) {
@@ -57,6 +61,7 @@ RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
       mDocument(document),
       mFiles(std::move(files)) {
   mUi->setupUi(this);
+  resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   for (std::size_t i = 0; i < mDocument.traceSets.size(); ++i) {
     const QString path = QString::fromStdString(shotFile(mDocument, i));
     mUi->fileCBox->addItem(QStringLiteral("%1: %2").arg(i + 1).arg(QFileInfo(path).fileName()));

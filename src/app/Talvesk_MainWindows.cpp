@@ -1,6 +1,7 @@
 #include "app/Talvesk_MainWindows.h"
 
 #include "app/CommandIcons.h"
+#include "app/HelpKey.h"
 #include "app/Messages.h"
 #include "app/SettingsDialog.h"
 #include "io/ProjectSnapshot.h"
@@ -27,6 +28,15 @@ constexpr double kTracesShare = 0.618;
 /// Share of the screen, either way, that a window without a remembered place fills at most.
 constexpr double kMostOfScreen = 0.95;
 
+/// A window that was left on a larger screen must not reach beyond this one.
+void bringIntoSight(QWidget& window) {
+  const QRect room = window.screen()->availableVirtualGeometry();
+  if (window.isMaximized() || window.isFullScreen()) return;
+  if (window.width() <= room.width() && window.height() <= room.height()) return;
+  window.resize(window.size().boundedTo(room.size() * kMostOfScreen));
+  window.move(room.center() - window.rect().center());
+}
+
 }  // namespace
 
 Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
@@ -50,6 +60,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   connectSection();
   connectCommands();
   prepareAutosave();
+  new HelpKey([this](const QString& page) { openUserGuide(page); }, this);
   mUi->showTracesWidget_2->hide();
   mUi->tabWidget->setCurrentIndex(0);
   retranslate();
@@ -87,7 +98,8 @@ void Talvesk_MainWindows::loadSettings() {
 }
 
 void Talvesk_MainWindows::askForSettings() {
-  SettingsDialog dialog(mLanguages.list(), mLanguages.current(), mSettings, this);
+  // Without the window, which is not there to be seen yet, it opens in the middle of the screen.
+  SettingsDialog dialog(mLanguages.list(), mLanguages.current(), mSettings);
   if (dialog.exec() == QDialog::Accepted) {
     dialog.apply(mSettings);
     if (dialog.languageIndex() != mLanguages.current()) changeLanguage(dialog.languageIndex());
@@ -115,7 +127,10 @@ void Talvesk_MainWindows::connectViews() {
             &Talvesk_MainWindows::enable_draw_travel_times);
     connect(editor, &editTravelTimesWidget::pick_edited, this, &Talvesk_MainWindows::on_pickEdited);
     connect(editor, &editTravelTimesWidget::mouse_moved, this, &Talvesk_MainWindows::on_mousemoved);
-    connect(editor, &editTravelTimesWidget::cursorMoved, this, &Talvesk_MainWindows::showCursor);
+    connect(editor, &editTravelTimesWidget::cursorMoved, this,
+            [this, editor](const TraceCursor& cursor) {
+              if (!editor->isHidden()) showCursor(cursor);
+            });
   }
   connect(mUi->showTracesWidget, &editTravelTimesWidget::viewChanged, this,
           &Talvesk_MainWindows::refreshCommands);
@@ -132,7 +147,10 @@ void Talvesk_MainWindows::connectViews() {
   connect(edits, &QUndoStack::canRedoChanged, mUi->actionRedo, &QAction::setEnabled);
   connect(edits, &QUndoStack::indexChanged, this, &Talvesk_MainWindows::refreshCommands);
   mCursorLabel = new QLabel(this);
+  mCursorLabel->setObjectName(QStringLiteral("cursorLabel"));
   mCursorLabel->setMinimumWidth(1);  // a long text must not widen the window
+  // What was read in one view says nothing about another.
+  connect(mUi->tabWidget, &QTabWidget::currentChanged, mCursorLabel, &QLabel::clear);
   mUi->statusBar->addPermanentWidget(mCursorLabel);
 }
 
@@ -202,6 +220,8 @@ void Talvesk_MainWindows::restoreWindow() {
   if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
     // A laptop at twice the scale has fewer points than the form; the frame needs some too.
     resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
+  } else {
+    bringIntoSight(*this);
   }
   restoreState(state.value(QStringLiteral("toolBars")).toByteArray());
 }

@@ -24,6 +24,7 @@
 #include <vector>
 
 class QComboBox;
+class QFileDialog;
 class QLabel;
 class QMenu;
 
@@ -248,6 +249,8 @@ class Talvesk_MainWindows : public QMainWindow {
   QString saveFolder() const;
   void rememberSaved(const QString& file);
   void exportCurves();
+  QString proposedName() const;
+  void proposeName(QFileDialog& dialog, const char* suffix) const;
   QString askForExport(const QString& title, const QString& filter, const char* suffix);
   QString askForGriddedText();
   void tellExport(const Status& written, const QString& file);
@@ -320,7 +323,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void modelChanged();
 
   void logSlot(const char* name);
-  void openUserGuide();
+  void openUserGuide(const QString& page);
 
   std::unique_ptr<Ui::Talvesk_MainWindows> mUi;
   WorkingFolder mFolder;

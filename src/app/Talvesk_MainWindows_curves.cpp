@@ -42,6 +42,7 @@ void Talvesk_MainWindows::exportCurves() {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(QStringLiteral("png"));
+  proposeName(dialog, "png");
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   const QString file = dialog.selectedFiles().front();
   rememberSaved(file);

@@ -28,6 +28,7 @@ QString Talvesk_MainWindows::askForExport(const QString& title, const QString& f
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(QLatin1String(suffix));
+  proposeName(dialog, suffix);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   rememberSaved(dialog.selectedFiles().front());
   return dialog.selectedFiles().front();
@@ -91,7 +92,8 @@ void Talvesk_MainWindows::on_actionExport_Surfer_triggered() {
 bool Talvesk_MainWindows::mayExportKml() {
   if (mDocument.geoCoordIsSet) return true;
   showWarning(this, tr("Warning"),
-              tr("Geographical coordinates are missing, data cannot be exported in KML format"));
+              tr("Geographical coordinates are missing, data cannot be exported in KML format"),
+              tr("Set them with Project > Set geographic coordinates ..."));
   return false;
 }
 

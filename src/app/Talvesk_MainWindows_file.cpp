@@ -226,6 +226,7 @@ void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(QStringLiteral("otte"));
+  proposeName(dialog, "otte");
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   const QString file = dialog.selectedFiles().front();
   rememberSaved(file);

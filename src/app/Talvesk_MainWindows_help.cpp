@@ -6,9 +6,14 @@
 #include <QMessageBox>
 
 namespace talvesk {
+namespace {
 
-void Talvesk_MainWindows::openUserGuide() {
-  const QString guide = userGuidePath(QString::fromStdString(mSettings.language));
+const QString kFirstPage = QStringLiteral("index.html");
+
+}  // namespace
+
+void Talvesk_MainWindows::openUserGuide(const QString& page) {
+  const QString guide = userGuidePath(QString::fromStdString(mSettings.language), page);
   if (guide.isEmpty()) {
     showError(this, tr("User guide"), tr("The user guide is not where it was installed."),
               tr("Install Talvesk again to get it back."));
@@ -20,14 +25,14 @@ void Talvesk_MainWindows::openUserGuide() {
 
 void Talvesk_MainWindows::on_actionUser_guide_triggered() {
   logSlot(__func__);
-  openUserGuide();
+  openUserGuide(kFirstPage);
 }
 
 void Talvesk_MainWindows::on_actionHelp_triggered() {
   logSlot(__func__);
   const QUrl address(QString::fromLatin1(kOnlineHelpAddress));
   whenHostIsKnown(address, this, [this, address](bool known) {
-    if (!known || !QDesktopServices::openUrl(address)) openUserGuide();
+    if (!known || !QDesktopServices::openUrl(address)) openUserGuide(kFirstPage);
   });
 }
 

@@ -42,6 +42,7 @@ bool Talvesk_MainWindows::makeGrid(bool propose) {
   if (!propose) settings.cellSize = mDocument.grid ? mDocument.grid->aLato() : 0.0;
   const auto threads = static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
   gridDialog dialog(profile, settings, threads, this);
+  dialog.setForgetsResults(mDocument.hasTomographicInfo);
   while (dialog.exec() == QDialog::Accepted) {
     const Status status = whileWaiting([&] {
       Status built = setUpGrid(mDocument, dialog.settings(), mLog);
@@ -49,6 +50,7 @@ bool Talvesk_MainWindows::makeGrid(bool propose) {
       return built;
     });
     if (status.ok()) {
+      mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
       statusBar()->showMessage(tr("Grid of %1 rows and %2 columns built.")
                                    .arg(mDocument.grid->righe())
                                    .arg(mDocument.grid->col()),
@@ -66,6 +68,7 @@ void Talvesk_MainWindows::on_actionDefine_model_velocity_triggered() {
   logSlot(__func__);
   if (select_speed_Dialog(mDocument, this).exec() != QDialog::Accepted) return;
   modelChanged();
+  mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
   statusBar()->showMessage(tr("The grid has the velocities of the layers."), kMessageTime);
 }
 
@@ -85,6 +88,7 @@ void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
               QString::fromStdString(status.message()));
     return;
   }
+  mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
   statusBar()->showMessage(tr("The velocities of the grid are smoothed."), kMessageTime);
 }
 

@@ -8,6 +8,15 @@
 // What colours the section: the palettes and the contours.
 
 namespace talvesk {
+namespace {
+
+void showOver(SectionQuantity quantity, ContourSettings& contours) {
+  if (quantity == SectionQuantity::kVelocity) contours.onProfile = true;
+  if (quantity == SectionQuantity::kVerticalGradient) contours.onVerticalGradient = true;
+  if (quantity == SectionQuantity::kLaplacian) contours.onLaplacian = true;
+}
+
+}  // namespace
 
 /// The section without its lines: what values it shows. None where there is nothing to show.
 std::optional<SectionScene> Talvesk_MainWindows::plainSection(SectionQuantity quantity) const {
@@ -63,13 +72,17 @@ void Talvesk_MainWindows::on_actionShow_Contour_Lines_triggered() {
   if (mSection.quantity != SectionQuantity::kVelocity) {
     if (const auto scene = plainSection(mSection.quantity)) range = scene->range;
   }
-  contourlines_dialog dialog(mSection.contours, range,
+  ContourSettings proposed = mSection.contours;
+  // Who wants contours where there are none yet wants to see them.
+  if (!showsContours(proposed, mSection.quantity)) showOver(mSection.quantity, proposed);
+  contourlines_dialog dialog(proposed, range,
                              QString::fromStdString(quantityUnit(mSection.quantity)), this);
-  if (dialog.exec() != QDialog::Accepted) return;
-  mSection.contours = dialog.settings();
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  refreshSectionCommands();  // the click has turned the action over, whatever was answered
+  if (!accepted) return;
+  changeSection([&dialog](SectionViewSettings& section) { section.contours = dialog.settings(); });
   logContours();
   if (!mDocument.ttArray.empty()) documentModified();
-  refreshSection();
 }
 
 void Talvesk_MainWindows::logContours() {
@@ -87,7 +100,6 @@ void Talvesk_MainWindows::logContours() {
 
 void Talvesk_MainWindows::refreshPaletteCommands() {
   mUi->actionPalette->setEnabled(true);
-  mUi->actionShow_Contour_Lines->setEnabled(mDocument.grid && mDocument.grid->cellCount() > 0);
 }
 
 }  // namespace talvesk

@@ -43,23 +43,24 @@ void Talvesk_MainWindows::on_actionAutoPick_triggered() {
   logSlot(__func__);
   if (mCurrentFile < 0) return;
   const bool useFiltered = mUi->show_filtered_cb->isChecked();
-  std::vector<std::int32_t> picked;
+  std::vector<ReplacedPicks> picked;
   Status failed;
   forEachShot(shotsToProcess(), tr("Picking first breaks ..."), [&](std::int32_t shot) {
     // A shot without a filtered copy has nothing to pick there.
     const bool fromCopy = useFiltered && hasFilteredCopy(shot);
+    picked.push_back({shot, mDocument.ttArray[static_cast<std::size_t>(shot)].ttMisurati});
     Status status = pickShots(mDocument, {shot}, fromCopy);
     if (!status.ok() && failed.ok()) failed = std::move(status);
-    picked.push_back(shot);
   });
-  for (editTravelTimesWidget* editor : editors()) editor->autoPicked(picked);
+  mUi->showTracesWidget->autoPicked(picked);
+  mUi->showTracesWidget_2->picksReplaced();
   documentModified();
   refreshPlots();
   // The traces may be behind another tab.
   std::size_t traces = 0;
   std::ptrdiff_t found = 0;
-  for (const std::int32_t shot : picked) {
-    const auto& times = mDocument.ttArray[static_cast<std::size_t>(shot)].ttMisurati;
+  for (const ReplacedPicks& one : picked) {
+    const auto& times = mDocument.ttArray[static_cast<std::size_t>(one.shot)].ttMisurati;
     traces += times.size();
     found += std::count_if(times.begin(), times.end(), hasPick);
   }

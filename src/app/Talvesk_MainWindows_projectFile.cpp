@@ -2,11 +2,13 @@
 #include "app/Talvesk_MainWindows.h"
 #include "app/progressDialog.h"
 #include "io/ProjectWriter.h"
+#include "model/SurveyGeometry.h"
 #include "tomo/RayRecomputation.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
@@ -38,7 +40,34 @@ QString formatOf(const std::string& file) {
   return suffix.isEmpty() ? suffix : QStringLiteral("seg2");
 }
 
+/// A name for files by the title of the survey, without what no file system takes.
+QString fileNameOf(const QString& title) {
+  QString name;
+  for (const QChar letter : title.simplified()) {
+    const bool plain = letter.isLetterOrNumber() || QStringLiteral("-_. ").contains(letter);
+    name += plain ? letter : QLatin1Char('_');
+  }
+  return name.replace(QLatin1Char(' '), QLatin1Char('_')).left(60);
+}
+
 }  // namespace
+
+/// What files of this survey are called: as its project, its title, or the folder of its shots.
+QString Talvesk_MainWindows::proposedName() const {
+  if (!mProjectFile.isEmpty()) return QFileInfo(mProjectFile).completeBaseName();
+  if (!mDocument.title.empty()) return fileNameOf(QString::fromStdString(mDocument.title));
+  // That of a recovered survey is a temporary one, which says nothing.
+  if (mDocument.traceSets.empty() || mProjectFolder) return {};
+  const std::string shot = shotFile(mDocument, 0);
+  if (shot.empty()) return {};
+  return fileNameOf(QFileInfo(QString::fromStdString(shot)).dir().dirName());
+}
+
+/// \param suffix without its dot
+void Talvesk_MainWindows::proposeName(QFileDialog& dialog, const char* suffix) const {
+  const QString name = proposedName();
+  if (!name.isEmpty()) dialog.selectFile(name + QLatin1Char('.') + QLatin1String(suffix));
+}
 
 bool Talvesk_MainWindows::saveProject() {
   return mProjectFile.isEmpty() ? saveProjectAs() : saveProjectTo(mProjectFile);
@@ -51,7 +80,7 @@ bool Talvesk_MainWindows::saveProjectAs() {
   dialog.setFileMode(QFileDialog::AnyFile);
   // The question comes below, when the name is complete.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  if (!mProjectFile.isEmpty()) dialog.selectFile(QFileInfo(mProjectFile).fileName());
+  proposeName(dialog, "tvsk");
   if (dialog.exec() != QDialog::Accepted) return false;
   QString file = dialog.selectedFiles().value(0);
   if (QFileInfo(file).completeBaseName().isEmpty() || QFileInfo(file).isDir()) {

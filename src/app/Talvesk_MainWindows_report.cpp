@@ -38,16 +38,6 @@ void prepareProgress(QProgressDialog& progress) {
   progress.setAutoReset(false);
 }
 
-/// A name for files by the title of the survey, without what no file system takes.
-QString fileNameOf(const std::string& title) {
-  QString name;
-  for (const QChar letter : QString::fromStdString(title).simplified()) {
-    const bool plain = letter.isLetterOrNumber() || QStringLiteral("-_. ").contains(letter);
-    name += plain ? letter : QLatin1Char('_');
-  }
-  return name.replace(QLatin1Char(' '), QLatin1Char('_')).left(60);
-}
-
 Status writePicture(const QImage& picture, const QString& file, int quality) {
   const bool jpeg = file.endsWith(QLatin1String(".jpg"), Qt::CaseInsensitive) ||
                     file.endsWith(QLatin1String(".jpeg"), Qt::CaseInsensitive);
@@ -75,7 +65,7 @@ void Talvesk_MainWindows::on_actionImages_triggered() {
   QSettings remembered(windowStateFile(), QSettings::IniFormat);
   dialog.recall(remembered);
   dialog.setFolder(saveFolder());
-  dialog.setBaseName(fileNameOf(mDocument.title));
+  dialog.setBaseName(proposedName());
   if (dialog.exec() != QDialog::Accepted) return;
   dialog.remember(remembered);
   const std::vector<PlannedImage> images = dialog.images();

@@ -53,14 +53,14 @@ void Talvesk_MainWindows::on_mousemoved(int trace) {
 }
 
 void Talvesk_MainWindows::showCursor(const TraceCursor& cursor) {
-  if (cursor.trace < 0) {
+  if (cursor.trace < 0 || mUi->tabWidget->currentWidget() != mUi->tab_3) {
     mCursorLabel->clear();
     return;
   }
   const QLocale locale;
   QStringList parts = {tr("Trace %1").arg(cursor.trace + 1)};
   if (cursor.offset) parts << tr("Offset %1 m").arg(locale.toString(*cursor.offset, 'f', 1));
-  parts << tr("Time %1 ms").arg(locale.toString(1000.0 * cursor.time, 'f', 2));
+  if (cursor.time) parts << tr("Time %1 ms").arg(locale.toString(1000.0 * *cursor.time, 'f', 2));
   if (cursor.pick) {
     const QString pick = locale.toString(1000.0 * *cursor.pick, 'f', 2);
     parts << (cursor.pickIsAutomatic ? tr("Pick %1 ms (automatic)").arg(pick)

@@ -141,6 +141,7 @@ void Talvesk_MainWindows::refreshSectionCommands() {
        quantity == SectionQuantity::kInformationDensity},
       {mUi->actionVertical_Gradient, section, quantity == SectionQuantity::kVerticalGradient},
       {mUi->actionLaplacian_Gradient, section, quantity == SectionQuantity::kLaplacian},
+      {mUi->actionShow_Contour_Lines, section, showsContours(mSection.contours, quantity)},
       {mUi->actionShow_scalarbar, section, mSection.scalarBar},
       {mUi->actionShow_Grid_Lines, section, mSection.gridLines},
       {mUi->actionSmallGeo, picture, mSection.geophones == GeophoneMarkers::kSmall},

@@ -57,7 +57,7 @@ contourlines_dialog::contourlines_dialog(const ContourSettings& settings, ValueR
           .arg(locale.toString(range.min, 'g', 6), locale.toString(range.max, 'g', 6), unit)
           .trimmed());
   // The look of a fault must be legible on light and on dark windows.
-  mUi->faultLabel->setStyleSheet(QStringLiteral("color: #d03020;"));
+  mUi->faultLabel->setStyleSheet(warningStyle(*this));
   mUi->rowsLayout->setAlignment(Qt::AlignTop);
   connectControls();
   fillIn(settings);
@@ -218,7 +218,7 @@ void contourlines_dialog::check() {
   int wrong = 0;
   for (QLineEdit* edit : editors()) {
     const bool fine = edit->text().trimmed().isEmpty() || isInRange(edit->text());
-    const QString style = fine ? QString() : QStringLiteral("color: #d03020;");
+    const QString style = fine ? QString() : warningStyle(*this);
     if (edit->styleSheet() != style) edit->setStyleSheet(style);
     wrong += fine ? 0 : 1;
   }

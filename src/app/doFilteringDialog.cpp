@@ -7,10 +7,14 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QScreen>
 #include <algorithm>
 
 namespace talvesk {
 namespace {
+
+/// Share of the screen, either way, that the dialog fills at most.
+constexpr double kMostOfScreen = 0.92;
 
 /// The traces that a filter works on. To filter what was filtered before, that stands in for the
 /// samples.
@@ -42,6 +46,7 @@ doFilteringDialog::doFilteringDialog(TomoDocument& document, std::int32_t shot,
       mDocument(document),
       mShot(shot) {
   mUi->setupUi(this);
+  resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mUi->pictures->setSizes({240, 420});
   for (const std::int32_t other : alsoShots) {
     if (other != shot) mOthers.push_back(other);

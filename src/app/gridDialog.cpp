@@ -1,5 +1,6 @@
 #include "app/gridDialog.h"
 
+#include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "tomo/GridPreview.h"
 #include "ui_gridDialog.h"
@@ -37,7 +38,7 @@ gridDialog::gridDialog(const SurveyProfile& profile, const GridSettings& propose
   mUi->maxDepthEdit->setValue(proposed.maxDepth);
   mUi->cellSizeEdit->setValue(proposed.cellSize);
   mUi->nodesEdit->setValue(static_cast<int>(proposed.nodes));
-  mUi->warningLabel->setStyleSheet(QStringLiteral("color: #c00020;"));
+  mUi->warningLabel->setStyleSheet(warningStyle(*this));
   mUi->warningLabel->setMinimumHeight(kWarningLines * fontMetrics().lineSpacing());
   for (QDoubleSpinBox* box : {mUi->maxDepthEdit, mUi->cellSizeEdit}) {
     connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
@@ -58,6 +59,11 @@ GridSettings gridDialog::settings() const {
   settings.cellSize = mUi->cellSizeEdit->value();
   settings.nodes = static_cast<std::uint32_t>(mUi->nodesEdit->value());
   return settings;
+}
+
+void gridDialog::setForgetsResults(bool forgets) {
+  mForgetsResults = forgets;
+  showPreview();
 }
 
 void gridDialog::showPreview() {
@@ -83,6 +89,8 @@ void gridDialog::showPreview() {
     warning = tr("Such small cells make an inversion very slow, and it stops only between "
                  "iterations. A quarter of the geophone spacing is %1 m.")
                   .arg(locale.toString(mProfile.proposedCellSize, 'f', 2));
+  } else if (mForgetsResults) {
+    warning = tr("The results of the last inversion will be lost.");
   }
   mUi->warningLabel->setText(warning);
 }

@@ -25,6 +25,9 @@ class gridDialog : public QDialog {
 
   GridSettings settings() const;
 
+  /// Says that a new grid forgets the results of an inversion.
+  void setForgetsResults(bool forgets);
+
   /// Warns of a depth of 0 and of many nodes, and closes all the same.
   void accept() override;
 
@@ -34,6 +37,7 @@ class gridDialog : public QDialog {
   std::unique_ptr<Ui::gridDialog> mUi;
   SurveyProfile mProfile;
   unsigned mSearches;
+  bool mForgetsResults = false;
 };
 
 }  // namespace talvesk

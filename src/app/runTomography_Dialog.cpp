@@ -1,5 +1,6 @@
 #include "app/runTomography_Dialog.h"
 
+#include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "ui_runTomography_Dialog.h"
 
@@ -28,7 +29,7 @@ runTomography_Dialog::runTomography_Dialog(double minVelocity, double maxVelocit
           &runTomography_Dialog::checkMinWRTMax);
   connect(mUi->maxVelEdit, QOverload<int>::of(&QSpinBox::valueChanged), this,
           &runTomography_Dialog::checkMaxWRTMin);
-  mUi->hintLabel->setStyleSheet(QStringLiteral("color: #c00020;"));
+  mUi->hintLabel->setStyleSheet(warningStyle(*this));
   mUi->hintLabel->setMinimumHeight(kHintLines * fontMetrics().lineSpacing());
   for (QSpinBox* box : {mUi->minVelEdit, mUi->maxVelEdit}) {
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] { showHint(); });

@@ -24,7 +24,7 @@ select_speed_Dialog::select_speed_Dialog(TomoDocument& document, QWidget* parent
     : QDialog(parent), mUi(std::make_unique<Ui::select_speed_Dialog>()), mDocument(document) {
   mUi->setupUi(this);
   wrapToolTips(*this);
-  mUi->problemLabel->setStyleSheet(QStringLiteral("color: #c00020;"));
+  mUi->problemLabel->setStyleSheet(warningStyle(*this));
   mUi->problemLabel->setMinimumHeight(kProblemLines * fontMetrics().lineSpacing());
   connect(mUi->addButton, &QPushButton::clicked, this, [this] { addLayer(); });
   connect(mUi->removeButton, &QPushButton::clicked, this, [this] { removeLayers(); });
@@ -96,7 +96,11 @@ void select_speed_Dialog::showModel(const std::vector<VelocityLayer>& layers) {
   mUi->widget->setLayers(layers);
   const Status status =
       mDocument.grid ? checkLayers(mDocument.grid->geometry().size(), layers) : Status();
-  mUi->problemLabel->setText(QString::fromStdString(status.ok() ? "" : status.message()));
+  QString text = QString::fromStdString(status.ok() ? "" : status.message());
+  if (status.ok() && mDocument.hasTomographicInfo) {
+    text = tr("The results of the last inversion will be lost.");
+  }
+  mUi->problemLabel->setText(text);
 }
 
 void select_speed_Dialog::addLayer() {

@@ -59,6 +59,10 @@ TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool wi
   const std::vector<double> positions = receiversOf(document, record);
   const std::vector<std::size_t> order = alongTheLine(positions);
   TravelTimeCurve curve;
+  if (!order.empty()) {
+    curve.firstReceiver = positions[order.front()];
+    curve.lastReceiver = positions[order.back()];
+  }
   curve.record = index;
   for (const std::size_t i : order) {
     if (i >= record.ttMisurati.size() || !isDrawableTime(record.ttMisurati[i])) continue;
@@ -88,6 +92,9 @@ void takeInTimes(TravelTimeCurves& result, const TravelTimeCurve& curve) {
       ++result.computedTimes;
     }
   }
+  // While the first picks are set the figure keeps the width of the line.
+  takeIn(result, {curve.firstReceiver, 0.0}, false);
+  takeIn(result, {curve.lastReceiver, 0.0}, false);
 }
 
 /// A shot further off than the receivers' whole line is long would take the room of the curves.

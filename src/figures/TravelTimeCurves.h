@@ -21,6 +21,8 @@ struct TravelTimeCurve {
   /// Lines through picks, or computed times, of neighbouring geophones.
   std::vector<std::vector<Point2D>> measuredLines;
   std::vector<std::vector<Point2D>> computedLines;
+  double firstReceiver = 0.0;  ///< metres; ends of the spread, picked or not
+  double lastReceiver = 0.0;
   bool hasShot = false;
   Point2D shot;  ///< at time 0
 };
@@ -30,7 +32,7 @@ struct TravelTimeCurves {
   std::vector<TravelTimeCurve> curves;  ///< of the records with a time to draw, in order
   std::size_t picks = 0;
   std::size_t computedTimes = 0;
-  double low = 0.0;  ///< metres, shots included; 0 without a time
+  double low = 0.0;  ///< metres, all receivers of the curves and shots; 0 without a time
   double high = 0.0;
   double latestMs = 0.0;  ///< milliseconds
 };

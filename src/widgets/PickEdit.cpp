@@ -2,7 +2,9 @@
 
 #include "model/TomoDocument.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace talvesk {
 
@@ -14,18 +16,25 @@ void PickReview::set(std::int32_t shot, std::int32_t trace, bool waits) {
   }
 }
 
-void PickReview::markShot(const TomoDocument& document, std::int32_t shot) {
-  if (shot < 0 || static_cast<std::size_t>(shot) >= document.ttArray.size()) return;
-  std::int32_t trace = 0;
-  for (const double time : document.ttArray[static_cast<std::size_t>(shot)].ttMisurati) {
-    set(shot, trace++, hasPick(time));
+std::vector<PickChange> PickReview::replaced(const TomoDocument& document, std::int32_t shot,
+                                             const std::vector<double>& before) const {
+  std::vector<PickChange> changes;
+  if (shot < 0 || static_cast<std::size_t>(shot) >= document.ttArray.size()) return changes;
+  const std::vector<double>& after = document.ttArray[static_cast<std::size_t>(shot)].ttMisurati;
+  for (std::size_t i = 0; i < std::min(before.size(), after.size()); ++i) {
+    const auto trace = static_cast<std::int32_t>(i);
+    const PickChange change = {trace, before[i], after[i], waits(shot, trace), hasPick(after[i])};
+    if (before[i] != after[i] || change.waitedBefore != change.waitsAfter)
+      changes.push_back(change);
   }
+  return changes;
 }
 
 PickEditCommand::PickEditCommand(const QString& text, TomoDocument& document, PickReview& review,
                                  std::int32_t shot, std::vector<PickChange> changes, Merge merge,
-                                 std::function<void(const PickEditEffect&)> done)
-    : QUndoCommand(text),
+                                 std::function<void(const PickEditEffect&)> done,
+                                 QUndoCommand* parent)
+    : QUndoCommand(text, parent),
       mDocument(document),
       mReview(review),
       mShot(shot),
@@ -67,6 +76,40 @@ bool PickEditCommand::mergeWith(const QUndoCommand* later) {
   mChanges[0].after = other->mChanges[0].after;
   mChanges[0].waitsAfter = other->mChanges[0].waitsAfter;
   return true;
+}
+
+PickBatchCommand::PickBatchCommand(const QString& text, std::function<std::int32_t()> preferredShot,
+                                   std::function<void(const PickEditEffect&)> done)
+    : QUndoCommand(text), mPreferredShot(std::move(preferredShot)), mDone(std::move(done)) {}
+
+void PickBatchCommand::add(TomoDocument& document, PickReview& review, std::int32_t shot,
+                           std::vector<PickChange> changes) {
+  mShots.insert(shot);
+  const auto gather = [this](const PickEditEffect& effect) {
+    mEffect.added = mEffect.added || effect.added;
+    mEffect.timesChanged = mEffect.timesChanged || effect.timesChanged;
+  };
+  // The base class owns its children.
+  new PickEditCommand(text(), document, review, shot, std::move(changes),
+                      PickEditCommand::Merge::No, gather, this);
+}
+
+void PickBatchCommand::undo() {
+  QUndoCommand::undo();
+  tell();
+}
+
+void PickBatchCommand::redo() {
+  QUndoCommand::redo();
+  tell();
+}
+
+void PickBatchCommand::tell() {
+  if (mShots.empty()) return;
+  const std::int32_t preferred = mPreferredShot();
+  PickEditEffect effect = std::exchange(mEffect, {});
+  effect.shot = mShots.count(preferred) != 0 ? preferred : *mShots.begin();
+  mDone(effect);
 }
 
 }  // namespace talvesk

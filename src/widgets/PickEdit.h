@@ -11,21 +11,6 @@ namespace talvesk {
 
 class TomoDocument;
 
-/// Which picks the autopicker set and nobody has confirmed or changed since.
-class PickReview {
- public:
-  void clear() { mWaiting.clear(); }
-  bool waits(std::int32_t shot, std::int32_t trace) const {
-    return mWaiting.count({shot, trace}) != 0;
-  }
-  void set(std::int32_t shot, std::int32_t trace, bool waits);
-  /// Every pick that the shot has waits from now on.
-  void markShot(const TomoDocument& document, std::int32_t shot);
-
- private:
-  std::set<std::pair<std::int32_t, std::int32_t>> mWaiting;
-};
-
 /// What an edit does to one trace: its measured time, seconds (kNoTime removes), and whether it
 /// waits for confirmation.
 struct PickChange {
@@ -34,6 +19,23 @@ struct PickChange {
   double after = 0.0;
   bool waitedBefore = false;
   bool waitsAfter = false;
+};
+
+/// Which picks the autopicker set and nobody has confirmed or changed since.
+class PickReview {
+ public:
+  void clear() { mWaiting.clear(); }
+  bool waits(std::int32_t shot, std::int32_t trace) const {
+    return mWaiting.count({shot, trace}) != 0;
+  }
+  void set(std::int32_t shot, std::int32_t trace, bool waits);
+  /// What an autopicker changed that found the times before and left those that the document has:
+  /// all its picks wait. Empty when it changed nothing.
+  std::vector<PickChange> replaced(const TomoDocument& document, std::int32_t shot,
+                                   const std::vector<double>& before) const;
+
+ private:
+  std::set<std::pair<std::int32_t, std::int32_t>> mWaiting;
 };
 
 /// What undo or redo did.
@@ -53,7 +55,7 @@ class PickEditCommand : public QUndoCommand {
   /// \param document, review outlive the command \param done told after every undo and redo
   PickEditCommand(const QString& text, TomoDocument& document, PickReview& review,
                   std::int32_t shot, std::vector<PickChange> changes, Merge merge,
-                  std::function<void(const PickEditEffect&)> done);
+                  std::function<void(const PickEditEffect&)> done, QUndoCommand* parent = nullptr);
 
   void undo() override;
   void redo() override;
@@ -69,6 +71,31 @@ class PickEditCommand : public QUndoCommand {
   std::vector<PickChange> mChanges;
   Merge mMerge;
   std::function<void(const PickEditEffect&)> mDone;
+};
+
+/// Edits of several shots that are undone and done again together.
+class PickBatchCommand : public QUndoCommand {
+ public:
+  /// \param done told once after every undo and redo of them all; its shot is one of them, the
+  /// preferred one if that is among them
+  /// \param preferredShot asked at every undo and redo
+  PickBatchCommand(const QString& text, std::function<std::int32_t()> preferredShot,
+                   std::function<void(const PickEditEffect&)> done);
+
+  /// \param document, review as for PickEditCommand
+  void add(TomoDocument& document, PickReview& review, std::int32_t shot,
+           std::vector<PickChange> changes);
+
+  void undo() override;
+  void redo() override;
+
+ private:
+  void tell();
+
+  std::function<std::int32_t()> mPreferredShot;
+  std::function<void(const PickEditEffect&)> mDone;
+  std::set<std::int32_t> mShots;
+  PickEditEffect mEffect;
 };
 
 }  // namespace talvesk

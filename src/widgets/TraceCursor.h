@@ -8,7 +8,7 @@ namespace talvesk {
 /// What lies under the cursor of the trace view. What is not known is not there.
 struct TraceCursor {
   int trace = -1;                   ///< from 0; -1: the cursor is on no trace
-  double time = 0.0;                ///< seconds
+  std::optional<double> time;       ///< seconds
   std::optional<double> offset;     ///< geophone minus shot, metres
   std::optional<double> distance;   ///< geophone along the line, metres
   std::optional<double> amplitude;  ///< nearest sample, as stored

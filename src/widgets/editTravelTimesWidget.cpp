@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
+#include <memory>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -133,12 +135,19 @@ void editTravelTimesWidget::picksReplaced() {
   s.tellAgain();
 }
 
-void editTravelTimesWidget::autoPicked(const std::vector<std::int32_t>& shots) {
+void editTravelTimesWidget::autoPicked(const std::vector<ReplacedPicks>& shots) {
   State& s = *mState;
   s.cancelDrag();
-  s.stack.clear();
   if (s.document == nullptr) return;
-  for (const std::int32_t shot : shots) s.review.markShot(*s.document, shot);
+  auto batch = std::make_unique<PickBatchCommand>(
+      tr("AutoPick"), [&s] { return s.shot; },
+      [&s](const PickEditEffect& effect) { s.edited(effect); });
+  for (const ReplacedPicks& replaced : shots) {
+    std::vector<PickChange> changes =
+        s.review.replaced(*s.document, replaced.shot, replaced.before);
+    if (!changes.empty()) batch->add(*s.document, s.review, replaced.shot, std::move(changes));
+  }
+  if (batch->childCount() > 0) s.stack.push(batch.release());
   s.redrawMarks();
   s.tellAgain();
 }

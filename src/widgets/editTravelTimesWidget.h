@@ -26,6 +26,12 @@ enum class TraceTool {
   Select  ///< drag over the traces to confirm or clear together
 };
 
+/// Measured times of a shot as they were before something replaced them, seconds, by trace.
+struct ReplacedPicks {
+  std::int32_t shot = -1;
+  std::vector<double> before;
+};
+
 /// The traces of one shot, time downward, with its first breaks to be picked by mouse and keys.
 ///
 /// The widget edits the measured times of the document in place; every edit by hand is a command of
@@ -68,8 +74,9 @@ class editTravelTimesWidget : public QWidget {
   void documentChanged();
   /// Measured times were replaced by something else than this widget: clears the undo history.
   void picksReplaced();
-  /// The same by the autopicker: the picks of these shots wait to be confirmed.
-  void autoPicked(const std::vector<std::int32_t>& shots);
+  /// The autopicker replaced the measured times of these shots: an edit like those by hand, which
+  /// can be undone. The picks wait to be confirmed.
+  void autoPicked(const std::vector<ReplacedPicks>& shots);
 
   /// Sets the pick of a trace of any shot (both from 0), seconds, kNoTime to remove it, as an edit
   /// by hand that can be undone. Nothing happens where there is no such trace or nothing to change.

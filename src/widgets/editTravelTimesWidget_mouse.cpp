@@ -150,17 +150,19 @@ void editTravelTimesWidget::State::cancelDrag() {
   redrawMarks();
 }
 
-TraceCursor editTravelTimesWidget::State::cursorFor(int trace, double time) const {
+TraceCursor editTravelTimesWidget::State::cursorFor(int trace, std::optional<double> time) const {
   TraceCursor cursor;
   cursor.trace = trace;
   cursor.time = time;
   if (trace < 0 || trace >= layout.count()) return cursor;
   if (std::isfinite(traces.offset(trace))) cursor.offset = traces.offset(trace);
   if (std::isfinite(traces.receiverX(trace))) cursor.distance = traces.receiverX(trace);
-  const std::vector<double>& samples = traces.samples(trace);
-  const double nearest = std::round(time / traces.interval(trace));
-  if (nearest >= 0.0 && nearest < static_cast<double>(samples.size())) {
-    cursor.amplitude = samples[static_cast<std::size_t>(nearest)];
+  if (time) {
+    const std::vector<double>& samples = traces.samples(trace);
+    const double nearest = std::round(*time / traces.interval(trace));
+    if (nearest >= 0.0 && nearest < static_cast<double>(samples.size())) {
+      cursor.amplitude = samples[static_cast<std::size_t>(nearest)];
+    }
   }
   if (hasPick(traces.measured(trace))) cursor.pick = traces.measured(trace);
   cursor.pickIsAutomatic = review.waits(shot, trace);
@@ -178,7 +180,8 @@ void editTravelTimesWidget::State::hoverAt(const QPointF& point) {
   }
   if (over || was) {
     tellsCurrent = false;
-    emit widget.cursorMoved(cursorFor(trace, over ? mapping().timeAt(point.y()) : 0.0));
+    emit widget.cursorMoved(
+        cursorFor(trace, over ? std::optional(mapping().timeAt(point.y())) : std::nullopt));
     widget.update();
   }
 }
@@ -192,7 +195,7 @@ void editTravelTimesWidget::State::tellAgain() {
 void editTravelTimesWidget::State::tellCurrent() {
   tellsCurrent = true;
   const double pick = current >= 0 ? traces.measured(current) : kNoTime;
-  emit widget.cursorMoved(cursorFor(current, hasPick(pick) ? pick : 0.0));
+  emit widget.cursorMoved(cursorFor(current, hasPick(pick) ? std::optional(pick) : std::nullopt));
 }
 
 void editTravelTimesWidget::State::changeGain(double factor) {

@@ -76,7 +76,7 @@ struct editTravelTimesWidget::State {
   void finishDrag(const QPointF& point);
   void cancelDrag();
   void finishBand(const QPointF& point);
-  TraceCursor cursorFor(int trace, double time) const;
+  TraceCursor cursorFor(int trace, std::optional<double> time) const;
   void hoverAt(const QPointF& point);
   void tellAgain();    ///< cursorMoved() once more, of what it told last
   void tellCurrent();  ///< cursorMoved() of the current trace

@@ -1,6 +1,12 @@
+#include "app/HelpKey.h"
 #include "app/HelpTargets.h"
+#include "app/SettingsDialog.h"
+#include "app/smoothingDialog.h"
+#include "base/Settings.h"
 
+#include <QComboBox>
 #include <QFileInfo>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -21,6 +27,29 @@ TEST(UserGuide, opensInTheLanguageOfTheWindow) {
         << path.toStdString();
     EXPECT_TRUE(QFileInfo(path).isFile());
   }
+}
+
+TEST(UserGuide, hasAPageForEveryDialogThatF1IsPressedIn) {
+  QString opened;
+  const HelpKey key([&opened](const QString& page) { opened = page; });
+  SettingsDialog settings({}, 0, Settings(std::string()));
+  smoothingDialog smoothing(SmoothingType::kUniform, &settings);
+  QDialog other;
+  const std::pair<QWidget*, const char*> cases[] = {
+      {settings.findChild<QComboBox*>(), "settings.html"},
+      {&smoothing, "inversion.html"},
+      {&other, ""}};
+  for (const auto& [widget, page] : cases) {
+    SCOPED_TRACE(page);
+    opened.clear();
+    QTest::keyClick(widget, Qt::Key_F1);
+    EXPECT_EQ(opened.toStdString(), page);
+    if (opened.isEmpty()) continue;
+    EXPECT_TRUE(
+        userGuidePath(QStringLiteral("it"), opened).endsWith(QLatin1String("it/") + opened));
+  }
+  EXPECT_TRUE(userGuidePath(QStringLiteral("en"), QStringLiteral("no.html"))
+                  .endsWith(QStringLiteral("en/index.html")));
 }
 
 }  // namespace

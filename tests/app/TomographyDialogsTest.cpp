@@ -292,6 +292,9 @@ TEST_F(Layers, thatSwingBelowZeroAreShownAndExplained) {
   child<QSpinBox>(row(0), "v1Edit").setValue(200);
   child<QSpinBox>(row(0), "v2Edit").setValue(200);
   EXPECT_FALSE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
+  EXPECT_EQ(text(*dialog, "problemLabel"), "The results of the last inversion will be lost.");
+  line.hasTomographicInfo = false;
+  child<QSpinBox>(row(0), "v1Edit").setValue(201);
   EXPECT_EQ(text(*dialog, "problemLabel"), "");
 }
 

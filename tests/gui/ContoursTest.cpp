@@ -238,7 +238,7 @@ TEST_F(Contours, appearOnTheSection) {
     widget.findChild<QCheckBox*>("customizedCB")->click();
     widget.findChild<QPushButton*>("add_button")->click();
     widget.findChild<QWidget*>("rows")->findChild<QLineEdit*>()->setText("900");
-    widget.findChild<QCheckBox*>("profileContours")->click();
+    EXPECT_TRUE(widget.findChild<QCheckBox*>("profileContours")->isChecked());
     widget.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
   });
   QMetaObject::invokeMethod(window.get(), "on_actionShow_Contour_Lines_triggered");
@@ -247,6 +247,30 @@ TEST_F(Contours, appearOnTheSection) {
   EXPECT_THAT(scene->contourLevels, ElementsAre(900.0));
   EXPECT_FALSE(scene->contours.empty());
   EXPECT_TRUE(window->document().modified);
+  EXPECT_EQ(child<QTabWidget>("tabWidget").currentWidget(), &child<QWidget>("vtk_tab"));
+}
+
+TEST_F(Contours, theCommandIsCheckedWhileTheyAreShownWhateverIsAnswered) {
+  dialog->close();
+  open();
+  window->document() = testing::sectionDocument(
+      6, 20, 0.0, [](std::uint32_t row, std::uint32_t) { return 600.0 + 200.0 * row; });
+  window->showFile(0);
+  const auto answer = [this](const char* toClick, QDialogButtonBox::StandardButton button) {
+    dialogs.expect([=](QWidget& widget) {
+      if (toClick != nullptr) widget.findChild<QCheckBox*>(toClick)->click();
+      widget.findChild<QDialogButtonBox*>()->button(button)->click();
+    });
+    action("actionShow_Contour_Lines").trigger();
+    return action("actionShow_Contour_Lines").isChecked();
+  };
+  EXPECT_FALSE(answer(nullptr, QDialogButtonBox::Cancel));
+  EXPECT_TRUE(answer(nullptr, QDialogButtonBox::Ok)) << "OK alone shows them";
+  action("actionVertical_Gradient").trigger();
+  EXPECT_FALSE(action("actionShow_Contour_Lines").isChecked()) << "there are none over it";
+  action("actionVertical_Gradient").trigger();
+  EXPECT_TRUE(answer(nullptr, QDialogButtonBox::Ok));
+  EXPECT_FALSE(answer("profileContours", QDialogButtonBox::Ok));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTest>
 
@@ -109,6 +110,16 @@ TEST_F(Preferences, bringTheWindowBackInItsSize) {
   const QSize size = window->size();
   open();
   EXPECT_EQ(window->size(), size);
+}
+
+TEST_F(Preferences, bringAWindowFromALargerScreenIntoSight) {
+  open();
+  const QSize room = window->screen()->availableVirtualSize();
+  window->resize(2 * room);
+  ASSERT_GT(window->width(), room.width());
+  open();
+  EXPECT_LE(window->width(), room.width());
+  EXPECT_LE(window->height(), room.height());
 }
 
 TEST_F(Preferences, startWithTheTracesWiderThanTheirTimes) {

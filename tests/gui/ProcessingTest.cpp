@@ -5,8 +5,11 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabWidget>
+#include <QTest>
 
 namespace talvesk {
 namespace {
@@ -47,6 +50,34 @@ TEST_F(Processing, picksTheShotInViewOrAllWhenAllAreShown) {
   action("actionAutoPick").trigger();
   EXPECT_GT(picksOf(0), 6);
   EXPECT_GT(picksOf(2), 6);
+}
+
+TEST_F(Processing, givesPicksByHandBackWhenTheAutopickerIsUndone) {
+  const std::vector<TravelTime>& records = window->document().ttArray;
+  child<editTravelTimesWidget>("showTracesWidget").editPick(1, 3, 0.05);
+  action("actionShow_all_traces").trigger();
+  action("actionAutoPick").trigger();
+  ASSERT_GT(picksOf(0), 6);
+  ASSERT_NE(records[1].ttMisurati[3], 0.05);
+  action("actionUndo").trigger();
+  EXPECT_EQ(records[1].ttMisurati[3], 0.05);
+  EXPECT_EQ(picksOf(0) + picksOf(2), 0);
+}
+
+TEST_F(Processing, tellsOfTheShotInViewAndOnlyBesideItsTraces) {
+  auto& view = child<editTravelTimesWidget>("showTracesWidget");
+  auto& read = child<QLabel>("cursorLabel");
+  view.editPick(0, 3, 0.05);
+  view.setCurrentTrace(2);
+  QTest::keyClick(&view, Qt::Key_Right);
+  EXPECT_TRUE(read.text().contains("Pick 50.00 ms")) << read.text().toStdString();
+  action("actionNext_file").trigger();
+  EXPECT_TRUE(read.text().startsWith("Trace 4")) << read.text().toStdString();
+  EXPECT_FALSE(read.text().contains("ms")) << read.text().toStdString();
+  child<QTabWidget>("tabWidget").setCurrentIndex(1);
+  EXPECT_TRUE(read.text().isEmpty());
+  action("actionPrev_file").trigger();
+  EXPECT_TRUE(read.text().isEmpty()) << "its traces are out of sight";
 }
 
 TEST_F(Processing, offersToReviewPicksOnlyWhereThereAreSome) {

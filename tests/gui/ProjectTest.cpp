@@ -12,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
+#include <QLineEdit>
 #include <QLockFile>
 #include <QMenu>
 #include <QStatusBar>
@@ -69,6 +70,25 @@ TEST_F(Projects, areSavedUnderANameWithTheirSuffixAndThenWithoutAsking) {
   EXPECT_FALSE(document().modified);
   EXPECT_NE(TestFolder::get(home.file("line.tvsk")), before);
   EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionSave_Project_triggered"));
+}
+
+TEST_F(Projects, proposeNamesForTheirFiles) {
+  const auto proposed = [this](const char* command) {
+    QString name;
+    dialogs.expect([&name](QWidget& dialog) {
+      name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+      dialog.close();
+    });
+    trigger(command);
+    return name.toStdString();
+  };
+  const std::string folder = QDir(path("")).dirName().toStdString();
+  EXPECT_EQ(proposed("actionSave_Project"), folder + ".tvsk") << "as where the shots are";
+  document().title = "Line 1.5: north/south";
+  EXPECT_EQ(proposed("actionSave_Project"), "Line_1.5__north_south.tvsk");
+  EXPECT_EQ(proposed("actionExport_TravelTimes"), "Line_1.5__north_south.otte");
+  saveAs(path("line"));
+  EXPECT_EQ(proposed("actionExport_TravelTimes"), "line.otte");
 }
 
 TEST_F(Projects, comeBackWithWhatTheScreenShows) {

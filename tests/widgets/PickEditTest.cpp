@@ -27,6 +27,14 @@ class PickEdits : public ::testing::Test {
                             {{trace, before, after, mReview.waits(shot, trace), false}}, merge,
                             [this](const PickEditEffect& effect) { mEffects.push_back(effect); }));
   }
+  /// As if the autopicker had set what the document has.
+  void autoPickedFrom(const std::vector<double>& before) {
+    auto* batch = new PickBatchCommand(
+        "auto", [] { return 0; },
+        [this](const PickEditEffect& effect) { mEffects.push_back(effect); });
+    batch->add(mDocument, mReview, 0, mReview.replaced(mDocument, 0, before));
+    mStack.push(batch);
+  }
   double time(int trace) const { return mDocument.ttArray[0].ttMisurati[trace]; }
 
   TomoDocument mDocument = testing::testShots(4, 100);
@@ -84,7 +92,7 @@ TEST_F(PickEdits, ofTracesThatAreGoneChangeNothing) {
 
 TEST_F(PickEdits, ofAutomaticPicksConfirmThemUntilUndone) {
   mDocument.ttArray[0].ttMisurati = {0.01, kNoTime, kUnpicked, 0.02};
-  mReview.markShot(mDocument, 0);
+  autoPickedFrom({0.01, kUnpicked, kUnpicked, kUnpicked});
   EXPECT_TRUE(mReview.waits(0, 0));
   EXPECT_FALSE(mReview.waits(0, 1)) << "what was rejected is no pick";
   change(0, 0.015);

@@ -156,8 +156,7 @@ TEST_F(Picking, automaticPicksOfARangeAreConfirmedOrRemovedAtOnce) {
   mWidget.undoStack()->clear();
   for (int trace = 2; trace <= 8; ++trace) mUser.setPick(trace, 0.05);
   mUser.click(mUser.at(0, 0.1));
-  mWidget.autoPicked({0});
-  EXPECT_FALSE(mWidget.undoStack()->canUndo()) << "autopicking clears the history";
+  mWidget.autoPicked({{0, mDocument.ttArray[0].ttMisurati}});
   mUser.dragTo(mUser.at(4, 0.1), mUser.at(6, 0.1), Qt::LeftButton, Qt::ShiftModifier);
   EXPECT_EQ(mWidget.selectedFirst(), 4);
   EXPECT_EQ(mWidget.selectedLast(), 6);
@@ -173,6 +172,49 @@ TEST_F(Picking, automaticPicksOfARangeAreConfirmedOrRemovedAtOnce) {
   EXPECT_FALSE(hasPick(mUser.pick(5)));
   mWidget.undoStack()->undo();
   EXPECT_TRUE(hasPick(mUser.pick(5)));
+}
+
+TEST_F(Picking, autopickingSeveralShotsIsOneEditThatGivesHandPicksBack) {
+  mUser.click(mUser.at(3, 0.05));
+  const double byHand = mUser.pick(3);
+  std::vector<ReplacedPicks> replaced;
+  for (const int shot : {0, 1}) {
+    std::vector<double>& times = mDocument.ttArray[static_cast<std::size_t>(shot)].ttMisurati;
+    replaced.push_back({shot, times});
+    times.assign(12, 0.07);
+  }
+  mWidget.autoPicked(replaced);
+  EXPECT_EQ(mWidget.undoStack()->count(), 2);
+  EXPECT_TRUE(mWidget.hasPicksInRange(true));
+  QSignalSpy shots(&mWidget, &editTravelTimesWidget::shotEdited);
+  mWidget.undoStack()->undo();
+  EXPECT_DOUBLE_EQ(mUser.pick(3), byHand);
+  EXPECT_EQ(mUser.pick(5, 1), kUnpicked);
+  EXPECT_FALSE(mWidget.hasPicksInRange(true)) << "it is the user's own again";
+  EXPECT_EQ(shots.count(), 0) << "the shot in view is one of them";
+  mWidget.undoStack()->redo();
+  EXPECT_EQ(mUser.pick(5, 1), 0.07);
+  EXPECT_TRUE(mWidget.hasPicksInRange(true));
+}
+
+TEST_F(Picking, whatIsReadFollowsTheKeys) {
+  TraceCursor read;
+  QObject::connect(&mWidget, &editTravelTimesWidget::cursorMoved,
+                   [&read](const TraceCursor& cursor) { read = cursor; });
+  mUser.setPick(4, 0.05);
+  mWidget.setCurrentTrace(3);
+  mUser.key(Qt::Key_Right);
+  mUser.key(Qt::Key_Down);
+  EXPECT_EQ(read.trace, 4);
+  EXPECT_DOUBLE_EQ(read.pick.value_or(-1.0), mUser.pick(4));
+  EXPECT_DOUBLE_EQ(read.time.value_or(-1.0), mUser.pick(4));
+  mUser.key(Qt::Key_Delete);
+  EXPECT_FALSE(read.pick);
+  EXPECT_FALSE(read.time) << "there is no cursor that could have one";
+  mWidget.undoStack()->undo();
+  EXPECT_TRUE(read.pick);
+  mWidget.setShot(1);
+  EXPECT_FALSE(read.pick) << "the other shot has none";
 }
 
 TEST_F(Picking, shiftAndArrowsSelectFromWhereTheyStarted) {
@@ -250,13 +292,14 @@ TEST_F(Picking, tellsWhatIsUnderTheCursor) {
   ASSERT_FALSE(told.empty());
   const TraceCursor& cursor = told.back();
   EXPECT_EQ(cursor.trace, 3);
-  EXPECT_NEAR(cursor.time, 0.1, mUser.pixel());
+  ASSERT_TRUE(cursor.time);
+  EXPECT_NEAR(*cursor.time, 0.1, mUser.pixel());
   EXPECT_DOUBLE_EQ(*cursor.offset, 7.0);
   EXPECT_DOUBLE_EQ(*cursor.distance, 6.0);
   EXPECT_DOUBLE_EQ(*cursor.pick, 0.04);
   const auto& samples = mDocument.traceSets[0][3].samples;
   EXPECT_EQ(*cursor.amplitude,
-            samples[static_cast<std::size_t>(std::lround(cursor.time / kInterval))]);
+            samples[static_cast<std::size_t>(std::lround(*cursor.time / kInterval))]);
   ASSERT_EQ(moved.count(), 1);
   EXPECT_EQ(moved[0][0].toInt(), 3);
   QEvent leave(QEvent::Leave);
