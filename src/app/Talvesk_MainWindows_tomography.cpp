@@ -11,6 +11,7 @@
 
 #include <QComboBox>
 #include <QStatusBar>
+#include <chrono>
 
 // The inversion, from the question whether to run it to its results.
 
@@ -27,6 +28,7 @@ QString general(double value) {
 
 void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
   logSlot(__func__);
+  const auto asked = std::chrono::steady_clock::now();
   if (!mDocument.picksComplete() &&
       !askYesNo(this, tr("Warning:"), tr("Uncomplete set of picks. \n \n"),
                 tr("Do you want to run tomography inversion anyway? "), false)) {
@@ -38,7 +40,8 @@ void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
     if (!makeGrid(false)) return;
   }
   if (dialog.exec() != QDialog::Accepted) return;
-  const TomographyParameters parameters = dialog.parameters();
+  TomographyParameters parameters = dialog.parameters();
+  parameters.asked = asked;
   mDocument.minVelocity = parameters.minVelocity;
   mDocument.maxVelocity = parameters.maxVelocity;
   documentModified();

@@ -20,6 +20,9 @@ std::string general(double value) {
 
 class Stopwatch {
  public:
+  Stopwatch() = default;
+  explicit Stopwatch(std::chrono::steady_clock::time_point start) : mStart(start) {}
+
   double seconds() const {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - mStart).count();
   }
@@ -116,11 +119,12 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
       break;
     }
   }
-  result.elapsedSeconds = watch.seconds();
+  const Stopwatch sinceAsked = p.asked ? Stopwatch(*p.asked) : watch;
+  result.elapsedSeconds = sinceAsked.seconds();
   if (result.iterationsDone == 0) return result;
   document.lastInversion = recordOf(p, result);
   try {
-    finish(document, p, result, watch, log);
+    finish(document, p, result, sinceAsked, log);
   } catch (const std::exception& error) {
     result.status = Status::failure(std::string("The information density could not be computed: ") +
                                     error.what());

@@ -6,7 +6,9 @@
 #include "tomo/Misfit.h"
 #include "tomo/Smoothing.h"
 
+#include <chrono>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +24,9 @@ struct TomographyParameters {
   bool singleThread = false;
   double minVelocity = 250.0;   ///< m/s
   double maxVelocity = 3500.0;  ///< m/s
+  /// From when the elapsed time of the result counts, such as the choice of a window's command with
+  /// its questions; none: from the start of the run.
+  std::optional<std::chrono::steady_clock::time_point> asked;
 };
 
 /// Told after every completed external iteration.

@@ -168,6 +168,19 @@ TEST(Inversion, finishesTheIterationUnderWayWhenItIsStopped) {
   }
 }
 
+TEST(Inversion, countsItsTimeFromWhenItWasAskedFor) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers();
+  Log log;
+  TomographyParameters parameters = fewIterations(1, 1);
+  parameters.asked = std::chrono::steady_clock::now() - std::chrono::hours(1);
+  const TomographyResult result = runInversion(line, parameters, log);
+  EXPECT_GE(result.elapsedSeconds, 3600.0);
+  ASSERT_TRUE(line.lastInversion);
+  EXPECT_EQ(line.lastInversion->elapsedSeconds, result.elapsedSeconds);
+  EXPECT_NE(console.out().find("Elapsed time: 36"), std::string::npos);
+}
+
 TEST(Inversion, makesOneUpdateFromTheForwardPassForASingleSolverIteration) {
   const testing::ConsoleCapture console;
   TomoDocument line = twoLayers();
