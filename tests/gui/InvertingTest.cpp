@@ -203,7 +203,7 @@ TEST_F(Inverting, tellsWhyAGridWithoutRowsCannotBeInverted) {
 TEST_F(Inverting, leavesTheWindowAliveButTheDocumentOutOfReach) {
   openLine();
   answerGrid(12.0, 0.5);
-  answerParameters(3, 10);
+  answerParameters(12, 10);  // the section in view is drawn anew after each
   int events = 0;
   QTimer heart;
   QObject::connect(&heart, &QTimer::timeout, [&events] { ++events; });
