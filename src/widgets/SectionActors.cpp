@@ -361,7 +361,7 @@ void SectionActors::setContourStyle(const RgbColor& color, double width) {
 void SectionActors::setCamera(const SectionCamera& view, const QSizeF& size) {
   constexpr double kRadians = 3.14159265358979323846 / 180.0;
   const double extent = mParts->extent * std::max(view.exaggeration, 1.0);
-  for (Layer* layer : {&mParts->fill, &mParts->rays, &mParts->contours}) {
+  for (Layer* layer : {&mParts->fill, &mParts->rays, &mParts->someRays, &mParts->contours}) {
     layer->actor->SetScale(1.0, view.exaggeration, 1.0);
     layer->actor->SetPosition(0.0, 0.0, 1e-4 * extent * layer->height);
   }
