@@ -54,6 +54,12 @@ QString span(double from, double to, int places) {
   return low == high ? low : QStringLiteral("%1 \u2013 %2").arg(low, high);
 }
 
+void Range::take(double value) {
+  if (!std::isfinite(value)) return;
+  low = std::min(low, value);
+  high = std::max(high, value);
+}
+
 }  // namespace report
 
 Status buildReport(const ReportSource& source, const ReportOptions& options,

@@ -3,6 +3,7 @@
 #include "figures/Report.h"
 
 #include <QCoreApplication>
+#include <limits>
 
 namespace talvesk {
 
@@ -54,6 +55,15 @@ void addMethod(ReportBuilder& builder);
 QString number(double value, int places);
 /// Two values with "–" between them, or one where both read the same.
 QString span(double from, double to, int places);
+
+/// The least and the greatest of values; those that are no finite number count for nothing.
+struct Range {
+  double low = std::numeric_limits<double>::infinity();
+  double high = -std::numeric_limits<double>::infinity();
+
+  void take(double value);
+  bool known() const { return low <= high; }  ///< there was a value
+};
 
 }  // namespace report
 }  // namespace talvesk

@@ -56,11 +56,11 @@ Status addRefraction(ReportBuilder& builder) {
   facts.rows.push_back({ReportWords::tr("Velocity of the first layer"),
                         ReportWords::tr("%1 m/s").arg(number(data.v1, 0))});
   for (std::size_t r = 0; r < data.cData.size(); ++r) {
-    const std::vector<double>& velocity = data.cData[r].velocity;
-    if (velocity.empty()) continue;
-    const auto [low, high] = std::minmax_element(velocity.begin(), velocity.end());
+    Range velocity;
+    for (const double value : data.cData[r].velocity) velocity.take(value);
+    if (!velocity.known()) continue;
     facts.rows.push_back({ReportWords::tr("Velocity of refractor %1").arg(r + 1),
-                          ReportWords::tr("%1 m/s").arg(span(*low, *high, 0))});
+                          ReportWords::tr("%1 m/s").arg(span(velocity.low, velocity.high, 0))});
     facts.rows.push_back({ReportWords::tr("Distance XY of refractor %1").arg(r + 1),
                           ReportWords::tr("%1 m").arg(number(data.cData[r].chosenXY, 1))});
   }

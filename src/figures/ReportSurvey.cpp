@@ -7,7 +7,6 @@
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <set>
 #include <vector>
 
@@ -15,18 +14,6 @@
 
 namespace talvesk::report {
 namespace {
-
-struct Range {
-  double low = std::numeric_limits<double>::infinity();
-  double high = -std::numeric_limits<double>::infinity();
-
-  void take(double value) {
-    if (!std::isfinite(value)) return;
-    low = std::min(low, value);
-    high = std::max(high, value);
-  }
-  bool known() const { return low <= high; }
-};
 
 struct Extent {
   Range x;

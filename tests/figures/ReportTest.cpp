@@ -374,5 +374,17 @@ TEST(Report, leavesTheFileAloneWhenItCannotBeWrittenOrIsStopped) {
   }
 }
 
+TEST(Report, velocitiesOfARefractorRangeOverThoseThatAreKnown) {
+  const TomoDocument document = pickedLine();
+  refractionDataStructure::Interpretation interpretation = oneRefractor();
+  std::vector<double>& velocities = interpretation.refractData.cData[0].velocity;
+  velocities.front() = NAN;
+  velocities.back() = HUGE_VAL;
+  const ReportTable facts =
+      tableOf(reportOn({document, &interpretation}), QStringLiteral("Layers and refractors"));
+  ASSERT_GE(facts.rows.size(), 2u);
+  EXPECT_EQ(facts.rows[1][1].toStdString(), "1801 \u2013 1811 m/s");
+}
+
 }  // namespace
 }  // namespace talvesk
