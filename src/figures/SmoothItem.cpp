@@ -22,7 +22,12 @@ class PixelPainter {
   /// \param toSheet from pixels to the sheet
   PixelPainter(const SectionScene& scene, const ColorTable& colors, const QwtScaleMap& xMap,
                const QwtScaleMap& yMap, const QTransform& toSheet, QImage& image)
-      : mScene(scene), mXMap(xMap), mYMap(yMap), mToSheet(toSheet), mImage(image) {
+      : mScene(scene),
+        mXMap(xMap),
+        mYMap(yMap),
+        mToSheet(toSheet),
+        mFromSheet(toSheet.inverted()),
+        mImage(image) {
     for (int i = 0; i < colors.size(); ++i) mColors.push_back(toColor(colors[i]).rgb());
     mTable = &colors;
   }
@@ -54,8 +59,7 @@ class PixelPainter {
     const auto mix = [f](double from, double to) { return from + f * (to - from); };
     const double z = mix(mScene.mesh.corners[a].z, mScene.mesh.corners[b].z);
     const QPointF sheet(0.0, mYMap.transform(z));
-    return {mToSheet.inverted().map(sheet).y(),
-            mix(mScene.cornerValues[a], mScene.cornerValues[b])};
+    return {mFromSheet.map(sheet).y(), mix(mScene.cornerValues[a], mScene.cornerValues[b])};
   }
 
   void paintCell(int px, std::uint32_t row, std::uint32_t column, double f) {
@@ -74,6 +78,7 @@ class PixelPainter {
   const QwtScaleMap& mXMap;
   const QwtScaleMap& mYMap;
   QTransform mToSheet;
+  QTransform mFromSheet;
   QImage& mImage;
   const ColorTable* mTable = nullptr;
   std::vector<QRgb> mColors;
