@@ -4,6 +4,7 @@
 #include "app/GeometryTables.h"
 #include "app/GeometryTexts.h"
 #include "app/Messages.h"
+#include "model/SurveyFacts.h"
 #include "ui_DialogSetGeometry.h"
 
 #include <QHeaderView>
@@ -17,10 +18,6 @@ namespace {
 
 /// Share of the screen that the dialog fills at most; its frame needs some too.
 constexpr double kMostOfScreen = 0.92;
-
-bool hasPicks(const TravelTime& record) {
-  return std::any_of(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick);
-}
 
 }  // namespace
 

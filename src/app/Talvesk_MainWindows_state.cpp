@@ -1,4 +1,5 @@
 #include "app/Talvesk_MainWindows.h"
+#include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
 #include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
@@ -9,7 +10,6 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QUndoStack>
-#include <algorithm>
 
 // What the window shows follows the document and the settings through the functions of this file.
 
@@ -17,9 +17,7 @@ namespace talvesk {
 
 bool Talvesk_MainWindows::hasFilteredCopy(int shot) const {
   if (shot < 0 || static_cast<std::size_t>(shot) >= mDocument.traceSets.size()) return false;
-  const TraceSet& traces = mDocument.traceSets[static_cast<std::size_t>(shot)];
-  return std::any_of(traces.begin(), traces.end(),
-                     [](const Trace& trace) { return !trace.filtered.empty(); });
+  return talvesk::hasFilteredCopy(mDocument.traceSets[static_cast<std::size_t>(shot)]);
 }
 
 void Talvesk_MainWindows::clearDocument() {

@@ -2,6 +2,7 @@
 
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
+#include "model/SurveyFacts.h"
 #include "ui_doFilteringDialog.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -24,11 +25,6 @@ TraceSet workingCopyOf(const TraceSet& traces, bool ofFiltered) {
     for (Trace& trace : copy) trace.samples = trace.filtered;
   }
   return copy;
-}
-
-bool hasFilteredCopy(const TraceSet& traces) {
-  return std::any_of(traces.begin(), traces.end(),
-                     [](const Trace& trace) { return !trace.filtered.empty(); });
 }
 
 void add(FilterOutcome& sum, const FilterOutcome& part) {

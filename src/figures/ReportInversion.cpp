@@ -1,11 +1,10 @@
 #include "figures/MisfitFigures.h"
 #include "figures/ReportBuilder.h"
 #include "figures/TravelTimeFigure.h"
-#include "model/TomoDocument.h"
+#include "model/SurveyFacts.h"
 #include "tomo/Misfit.h"
 #include "tomo/Smoothing.h"
 
-#include <algorithm>
 #include <cmath>
 
 // Travel times, grid and parameters, sections and misfit.
@@ -16,11 +15,6 @@ namespace {
 constexpr double kCurvesHeightMm = 110.0;
 constexpr double kMisfitHeightMm = 65.0;
 constexpr double kHighestSectionMm = 200.0;  ///< leaves a caption its place
-
-std::size_t picksOf(const TravelTime& record) {
-  return static_cast<std::size_t>(
-      std::count_if(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick));
-}
 
 /// What the residuals of some picks come to; milliseconds and percent.
 struct Fit {
@@ -69,9 +63,9 @@ ReportTable shotTable(const TomoDocument& document, const std::vector<Residual>&
   for (std::size_t i = 0; i < fits.size(); ++i) {
     const TravelTime& record = document.ttArray[i];
     traces += record.ttMisurati.size();
-    picks += picksOf(record);
+    picks += pickCount(record);
     QStringList row{QString::number(i + 1), number(record.shotPos2d.x, 2),
-                    QString::number(record.ttMisurati.size()), QString::number(picksOf(record))};
+                    QString::number(record.ttMisurati.size()), QString::number(pickCount(record))};
     if (!residuals.empty()) row += fits[i].texts();
     table.rows.push_back(row);
   }
@@ -225,9 +219,7 @@ Status addTravelTimes(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   builder.heading(ReportWords::tr("Travel times"));
   const std::vector<Residual> residuals = residualsOf(document);
-  const bool picked = std::any_of(document.ttArray.begin(), document.ttArray.end(),
-                                  [](const TravelTime& record) { return picksOf(record) > 0; });
-  if (!picked) {
+  if (!hasPicks(document)) {
     builder.paragraph(ReportWords::tr("No first breaks have been picked."));
     return {};
   }
@@ -284,9 +276,8 @@ Status addSections(ReportBuilder& builder) {
                                  : ReportWords::tr("Velocity section");
   }
   Status status = addSection(builder, options, caption);
-  const bool density = std::any_of(document.info_density.begin(), document.info_density.end(),
-                                   [](double value) { return value >= 0.0; });
-  if (status.ok() && builder.options.sections.density && document.hasTomographicInfo && density) {
+  if (status.ok() && builder.options.sections.density && document.hasTomographicInfo &&
+      hasInformationDensity(document)) {
     options = sectionOptions(builder, SectionQuantity::kInformationDensity);
     options.scene.rays = false;
     status = addSection(
