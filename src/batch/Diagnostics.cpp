@@ -33,6 +33,14 @@ Channels openChannels(bool jsonOnOutput, bool quiet, bool verbose) {
   return channels;
 }
 
+SilentConsole::SilentConsole(bool silent) : mBefore(console::out()) {
+  if (silent) console::setOut(console::nowhere());
+}
+
+SilentConsole::~SilentConsole() {
+  console::setOut(mBefore);
+}
+
 Status readPicks(const std::string& path, TravelTimeData& data, bool quiet) {
   Status status = readTravelTimes(path, data);
   if (!quiet) {

@@ -23,6 +23,19 @@ Channels openChannels(bool quiet);
 /// \param verbose the engine keeps talking where it would tear a progress bar apart
 Channels openChannels(bool jsonOnOutput, bool quiet, bool verbose);
 
+/// Keeps the console's information away while it lives: a line or three per trace is for those who
+/// look for something.
+class SilentConsole {
+ public:
+  explicit SilentConsole(bool silent);
+  ~SilentConsole();
+  SilentConsole(const SilentConsole&) = delete;
+  SilentConsole& operator=(const SilentConsole&) = delete;
+
+ private:
+  std::ostream& mBefore;
+};
+
 /// Reads picks, and warns on standard error of what the reader repaired unless `quiet`.
 Status readPicks(const std::string& path, TravelTimeData& data, bool quiet);
 

@@ -5,9 +5,9 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
-#include "batch/ShotPicking.h"
 #include "grid/SurveyProfile.h"
 #include "io/ShotFile.h"
+#include "model/SurveyFacts.h"
 
 #include <algorithm>
 #include <ostream>
@@ -103,12 +103,11 @@ class Inventory {
   }
 
   static Status neitherKind(const std::string& file) {
-    constexpr int kUnknownFormat = 3;  // as the readers of shot files call it
     return Status::failure(file +
                                ": its suffix is not of a travel-time file (.otte, .txt, .xyz, "
                                ".csv) or a shot file (.seg2, .sg2, .dat, .sgy, .segy, .su) or "
                                "a project (.tvsk)",
-                           kUnknownFormat);
+                           kUnknownSuffix);
   }
 
   void addTravelTimes(const std::string& file) {

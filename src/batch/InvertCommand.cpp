@@ -11,10 +11,10 @@
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
 #include "grid/GridBuilder.h"
+#include "model/SurveyFacts.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/GridSetup.h"
 
-#include <algorithm>
 #include <iostream>
 #include <utility>
 
@@ -61,16 +61,9 @@ Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log
   return status;
 }
 
-bool anyPick(const TomoDocument& document) {
-  return std::any_of(
-      document.ttArray.begin(), document.ttArray.end(), [](const TravelTime& record) {
-        return std::any_of(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick);
-      });
-}
-
 /// What the window would ask about; nobody is there to answer.
 void warnAboutChoices(const TomographyParameters& parameters, const TomoDocument& document) {
-  if (!anyPick(document)) {
+  if (!hasPicks(document)) {
     warn("there are no picks; the starting model will not be fitted to anything");
   } else if (!document.picksComplete()) {
     warn("uncomplete set of picks; the inversion is run anyway");

@@ -3,9 +3,10 @@
 #include "base/TextNumber.h"
 #include "base/WorkingFolder.h"
 #include "batch/Failure.h"
-#include "batch/ShotPicking.h"
 #include "io/ProjectWriter.h"
+#include "model/SurveyFacts.h"
 
+#include <QString>
 #include <ostream>
 
 namespace talvesk {
@@ -25,9 +26,9 @@ std::string countOf(std::size_t count, const std::string& what) {
 }  // namespace
 
 bool isProjectFile(const std::string& path) {
-  constexpr std::string_view kSuffix = ".tvsk";
-  return path.size() > kSuffix.size() &&
-         path.compare(path.size() - kSuffix.size(), kSuffix.size(), kSuffix) == 0;
+  const QLatin1String suffix(".tvsk");
+  const QString name = QString::fromStdString(path);
+  return name.size() > suffix.size() && name.endsWith(suffix, Qt::CaseInsensitive);
 }
 
 Status readProject(const std::string& path, bool quiet, LoadedProject& project) {

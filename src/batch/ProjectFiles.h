@@ -8,7 +8,7 @@
 
 namespace talvesk {
 
-/// Whether a name ends in ".tvsk".
+/// Whether a name ends in ".tvsk", whatever its case.
 bool isProjectFile(const std::string& path);
 
 /// Loads a project. Shot files that are missing in it are warned of unless `quiet`.

@@ -1,4 +1,3 @@
-#include "base/Console.h"
 #include "base/TextNumber.h"
 #include "batch/Commands.h"
 #include "batch/Diagnostics.h"
@@ -48,12 +47,8 @@ ProfileOutcome interpret(const RefractOptions& options, const std::vector<ShotAr
     chooseXY(interpretation, 2, *options.xy);
     chooseXY(interpretation, 3, *options.xy);
   }
-  // A line per receiver, curve and XY: for those who look for something.
-  std::ostream& before = console::out();
-  if (!options.verbose) console::setOut(console::nowhere());
-  ProfileOutcome outcome = buildProfiles(shots, interpretation);
-  console::setOut(before);
-  return outcome;
+  const SilentConsole console(!options.verbose);
+  return buildProfiles(shots, interpretation);
 }
 
 std::string reasonOf(const ProfileOutcome& outcome, const ShotPairReach& reach) {

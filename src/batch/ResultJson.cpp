@@ -1,7 +1,7 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
-#include "batch/ShotPicking.h"
+#include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
 
 namespace talvesk {

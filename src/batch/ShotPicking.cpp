@@ -1,11 +1,11 @@
 #include "batch/ShotPicking.h"
 
-#include "base/Console.h"
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/ProjectFiles.h"
 #include "io/GeometryFile.h"
 #include "io/ShotLoader.h"
+#include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
 #include "processing/FirstBreak.h"
 #include "processing/NoiseReduction.h"
@@ -19,21 +19,6 @@
 
 namespace talvesk {
 namespace {
-
-/// Keeps the console's information away while it lives: a line or three per trace is for those who
-/// look for something.
-class SilentConsole {
- public:
-  explicit SilentConsole(bool silent) : mBefore(console::out()) {
-    if (silent) console::setOut(console::nowhere());
-  }
-  ~SilentConsole() { console::setOut(mBefore); }
-  SilentConsole(const SilentConsole&) = delete;
-  SilentConsole& operator=(const SilentConsole&) = delete;
-
- private:
-  std::ostream& mBefore;
-};
 
 /// Every file that fails has its line; the last one is the status.
 Status load(const std::vector<std::string>& files, bool quiet, TomoDocument& document) {
@@ -231,11 +216,6 @@ std::vector<std::string> filesOf(const ShotOptions& options) {
     if (!geometry.empty()) files.push_back(geometry);
   }
   return files;
-}
-
-std::size_t pickCount(const TravelTime& record) {
-  return static_cast<std::size_t>(
-      std::count_if(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick));
 }
 
 std::string nameOf(PickFilter filter) {

@@ -4,7 +4,6 @@
 #include "batch/Options.h"
 #include "model/TomoDocument.h"
 
-#include <cstddef>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -38,8 +37,6 @@ std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions&
 
 /// The shot files, then the geometry files.
 std::vector<std::string> filesOf(const ShotOptions& options);
-
-std::size_t pickCount(const TravelTime& record);
 
 /// "none", "agc", "hushel" or "band".
 std::string nameOf(PickFilter filter);

@@ -37,7 +37,7 @@ Status failed(const std::string& path, const std::string& reason, int code) {
 }
 
 Status unknownFormat(const std::string& path) {
-  return failed(path, "its suffix is none of seg2, dat, sg2, sgy, segy, su", 3);
+  return failed(path, "its suffix is none of seg2, dat, sg2, sgy, segy, su", kUnknownSuffix);
 }
 
 Status readAs(Format format, std::string_view bytes, SegyState& state, ShotFileData& data) {

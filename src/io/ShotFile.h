@@ -9,6 +9,9 @@
 
 namespace talvesk {
 
+/// Status code of a file whose suffix no reader of shot files takes.
+inline constexpr int kUnknownSuffix = 3;
+
 /// Whether the suffix of a path, whatever its case, is one of a shot file.
 bool hasShotFileSuffix(const std::string& path);
 
