@@ -1,14 +1,17 @@
 #include "figures/GatherScene.h"
 
 #include "base/TextNumber.h"
+#include "figures/DrawableValues.h"
 #include "figures/FigureWords.h"
 #include "model/SurveyGeometry.h"
 #include "model/TomoDocument.h"
+#include "numerics/Medians.h"
 #include "view/SectionTexts.h"
 
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -73,16 +76,13 @@ std::vector<double> positionsOf(const TomoDocument& document, const TravelTime* 
 
 /// The level that the trace swings about. Not the mean, which a strong late phase pulls away from
 /// the quiet before the first break.
-double medianOf(const std::vector<double>& samples) {
+double levelOf(const std::vector<double>& samples) {
   std::vector<double> known;
   known.reserve(samples.size());
   for (const double v : samples) {
     if (std::isfinite(v)) known.push_back(v);
   }
-  if (known.empty()) return 0.0;
-  const auto middle = known.begin() + static_cast<std::ptrdiff_t>(known.size() / 2);
-  std::nth_element(known.begin(), middle, known.end());
-  return *middle;
+  return medianOf(std::move(known), 0.0);
 }
 
 /// What of the samples lies in the window, and how far they swing there.
@@ -98,7 +98,7 @@ void measure(GatherTrace& trace, const TimeWindow& window) {
   trace.end = std::min(index(window.endMs + slack) + 1, samples.size());
   trace.first = std::min(trace.first, trace.end);
 
-  trace.level = medianOf(samples);
+  trace.level = levelOf(samples);
   trace.scale = GatherTrace::kFlat;
   for (std::size_t i = trace.first; i < trace.end; ++i) {
     if (!std::isfinite(samples[i])) continue;
@@ -128,6 +128,15 @@ Status checkOptions(const GatherFigureOptions& options) {
     return Status::failure("Wiggles can be cut at more than 0 and up to 100 trace distances.");
   }
   return {};
+}
+
+/// The least of 1, 1.2, 1.5, 2, 2.5, 3, 4, 5, 6, 8 times a power of ten that is not below `value`.
+double roundUp(double value) {
+  const double power = std::pow(10.0, std::floor(std::log10(value)));
+  for (const double factor : {1.0, 1.2, 1.5, 2.0, 2.5, 3.0, 4.0, 5.0, 6.0, 8.0}) {
+    if (factor * power >= value * (1.0 - 1e-12)) return factor * power;
+  }
+  return 10.0 * power;
 }
 
 TimeWindow windowOf(const TraceSet& set, const TravelTime* record,
@@ -219,7 +228,7 @@ void setAxis(const std::vector<double>& positions, const TravelTime* record, Gat
   if (positions.empty()) return;
   scene.receivers = positions;
   std::sort(scene.receivers.begin(), scene.receivers.end());
-  scene.spacing = usualSpacing(scene.receivers);
+  scene.spacing = medianGap(scene.receivers);
   scene.low = scene.receivers.front();
   scene.high = scene.receivers.back();
   if (scene.byChannel || record == nullptr || !isPosition(record->shotPos2d.x)) return;
@@ -277,25 +286,6 @@ double GatherTrace::swing(std::size_t sample) const {
   return std::clamp(value - level, -std::numeric_limits<double>::max(),
                     std::numeric_limits<double>::max()) /
          scale;
-}
-
-double usualSpacing(const std::vector<double>& ascending) {
-  std::vector<double> gaps;
-  for (std::size_t i = 1; i < ascending.size(); ++i) {
-    if (ascending[i] > ascending[i - 1]) gaps.push_back(ascending[i] - ascending[i - 1]);
-  }
-  if (gaps.empty()) return 1.0;
-  const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>(gaps.size() / 2);
-  std::nth_element(gaps.begin(), middle, gaps.end());
-  return *middle;
-}
-
-double roundUp(double value) {
-  const double power = std::pow(10.0, std::floor(std::log10(value)));
-  for (const double factor : {1.0, 1.2, 1.5, 2.0, 2.5, 3.0, 4.0, 5.0, 6.0, 8.0}) {
-    if (factor * power >= value * (1.0 - 1e-12)) return factor * power;
-  }
-  return 10.0 * power;
 }
 
 Status buildGatherScene(const TomoDocument& document, std::size_t shot,

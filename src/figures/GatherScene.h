@@ -53,20 +53,4 @@ struct GatherScene {
 Status buildGatherScene(const TomoDocument& document, std::size_t shot,
                         const GatherFigureOptions& options, GatherScene& scene);
 
-/// Positions of measured things that no line of this world has: beyond, they count as unknown.
-inline bool isPosition(double metres) {
-  return metres >= -1e8 && metres <= 1e8;  // false for what is not a number
-}
-
-/// Whether a time can be drawn: a pick of a length that a record may have.
-inline bool isDrawableTime(double seconds) {
-  return seconds > 0.0 && seconds <= 1e6;
-}
-
-/// Median distance between neighbours that differ; 1 when there are none. \param ascending sorted
-double usualSpacing(const std::vector<double>& ascending);
-
-/// The least of 1, 1.2, 1.5, 2, 2.5, 3, 4, 5, 6, 8 times a power of ten that is not below `value`.
-double roundUp(double value);
-
 }  // namespace talvesk

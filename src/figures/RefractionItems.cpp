@@ -1,15 +1,17 @@
 #include "figures/RefractionItems.h"
 
+#include "figures/DrawableValues.h"
 #include "figures/FigureItem.h"
-#include "figures/GatherScene.h"
 #include "figures/SectionItems.h"
 #include "model/TomoDocument.h"
+#include "numerics/Medians.h"
 
 #include <QPainter>
 #include <QPolygonF>
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 #include <qwt_plot_item.h>
 #include <qwt_scale_map.h>
@@ -32,14 +34,11 @@ void putInOrder(std::vector<Point2D>& points) {
                points.end());
 }
 
-double median(std::vector<double> values) {
+double knownMedian(std::vector<double> values) {
   values.erase(
       std::remove_if(values.begin(), values.end(), [](double v) { return !std::isfinite(v); }),
       values.end());
-  if (values.empty()) return 0.0;
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
+  return medianOf(std::move(values), 0.0);
 }
 
 template <typename Take>
@@ -124,7 +123,7 @@ RefractionScene refractionScene(const TomoDocument& document, const processingDa
   scene.boundaries = profileBoundaries(results);
   scene.v1 = results.v1;
   for (const computedData& refractor : results.cData) {
-    scene.velocities.push_back(median(refractor.velocity));
+    scene.velocities.push_back(knownMedian(refractor.velocity));
   }
   return scene;
 }

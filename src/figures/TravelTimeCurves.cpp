@@ -1,6 +1,6 @@
 #include "figures/TravelTimeCurves.h"
 
-#include "figures/GatherScene.h"
+#include "figures/DrawableValues.h"
 #include "model/TomoDocument.h"
 
 #include <algorithm>

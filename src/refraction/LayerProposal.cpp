@@ -1,6 +1,7 @@
 #include "refraction/LayerProposal.h"
 
 #include "model/TravelTime.h"
+#include "numerics/Medians.h"
 #include "refraction/Branches.h"
 
 #include <algorithm>
@@ -202,10 +203,7 @@ double typicalVelocity(const std::vector<Arrivals>& branches, std::size_t layer,
     if (!branch.segments.direct || branch.refractors() != refractors) continue;
     velocities.push_back(branch.segments.pieces[layer - 1].velocity);
   }
-  if (velocities.empty()) return 0.0;
-  const auto middle = velocities.begin() + static_cast<std::ptrdiff_t>(velocities.size() / 2);
-  std::nth_element(velocities.begin(), middle, velocities.end());
-  return *middle;
+  return medianOf(std::move(velocities), 0.0);
 }
 
 /// A third layer is more than a bend of one curve.

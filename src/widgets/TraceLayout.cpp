@@ -1,5 +1,7 @@
 #include "widgets/TraceLayout.h"
 
+#include "numerics/Medians.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -16,18 +18,6 @@ bool canBePositions(const std::vector<double>& x) {
   if (!std::all_of(x.begin(), x.end(), [](double v) { return std::isfinite(v); })) return false;
   const auto [low, high] = std::minmax_element(x.begin(), x.end());
   return !x.empty() && *high > *low && std::isfinite(*high - *low);
-}
-
-double medianGap(const std::vector<double>& ascending) {
-  std::vector<double> gaps;
-  for (std::size_t i = 1; i < ascending.size(); ++i) {
-    const double gap = ascending[i] - ascending[i - 1];
-    if (gap > 0.0) gaps.push_back(gap);
-  }
-  if (gaps.empty()) return 1.0;
-  const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>(gaps.size() / 2);
-  std::nth_element(gaps.begin(), middle, gaps.end());
-  return *middle;
 }
 
 }  // namespace
