@@ -1,6 +1,7 @@
 #include "app/ImagesDialog.h"
 
-#include "model/TomoDocument.h"
+#include "figures/FigureOutput.h"
+#include "model/SurveyFacts.h"
 #include "ui_ImagesDialog.h"
 
 #include <QFileDialog>
@@ -13,14 +14,8 @@
 namespace talvesk {
 namespace {
 
-constexpr double kMmPerInch = 25.4;
 constexpr double kMostPixels = 60000.0;
 const QString kGroup = QStringLiteral("images");
-
-bool isFiltered(const TraceSet& set) {
-  return std::any_of(set.begin(), set.end(),
-                     [](const Trace& trace) { return !trace.filtered.empty(); });
-}
 
 /// A box for something that is not there is off and cannot be put on.
 void offer(QCheckBox* box, bool possible) {
@@ -68,7 +63,7 @@ void ImagesDialog::offerWhatThereIs() {
   const bool section = mDocument.grid != nullptr;
   offer(mUi->currentGatherBox, mShot >= 0 && static_cast<std::size_t>(mShot) < sets.size());
   offer(mUi->allGathersBox, !sets.empty());
-  offer(mUi->filteredBox, std::any_of(sets.begin(), sets.end(), isFiltered));
+  offer(mUi->filteredBox, std::any_of(sets.begin(), sets.end(), hasFilteredCopy));
   offer(mUi->velocityBox, section);
   for (QCheckBox* box : {mUi->gradientBox, mUi->laplacianBox, mUi->cellsBox, mUi->smoothBox}) {
     offer(box, section);

@@ -1,6 +1,7 @@
 #include "figures/FigureFile.h"
 
 #include "base/TextNumber.h"
+#include "figures/FigureOutput.h"
 
 #include <QBuffer>
 #include <QByteArray>
@@ -22,7 +23,6 @@ namespace {
 using Paint = std::function<void(QPainter&, const QRectF&)>;
 using PaintPage = std::function<Status(std::size_t page, QPainter&, const QRectF&)>;
 
-constexpr double kMmPerInch = 25.4;
 /// SVG has no resolution of its own; this is what browsers take a pixel for.
 constexpr int kSvgDpi = 96;
 /// Fine enough for hairlines in print.
@@ -40,9 +40,7 @@ Status paintPng(const FigureSheet& sheet, const Paint& paint, QBuffer& buffer) {
         "Not enough memory for a picture of this size: choose a smaller size or "
         "resolution.");
   }
-  const int dotsPerMeter = static_cast<int>(std::lround(sheet.dpi * 1000.0 / kMmPerInch));
-  image.setDotsPerMeterX(dotsPerMeter);
-  image.setDotsPerMeterY(dotsPerMeter);
+  setResolution(image, sheet.dpi);
   image.fill(Qt::white);
   image.setText(QStringLiteral("Title"), QString::fromStdString(sheet.title));
   QPainter painter(&image);

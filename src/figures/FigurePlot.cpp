@@ -1,6 +1,6 @@
 #include "figures/FigurePlot.h"
 
-#include "figures/FigureFile.h"
+#include "figures/FigureOutput.h"
 
 #include <QFontMetricsF>
 #include <QImage>
@@ -26,7 +26,6 @@
 namespace talvesk {
 namespace {
 
-constexpr double kMmPerInch = 25.4;
 constexpr int kSheetMargin = 8;  ///< points of 1/96 inch
 
 QwtText plainText(const QString& words, double points, bool bold = false) {
@@ -206,8 +205,7 @@ void FigurePlot::setPaintBeside(int axis, PaintBeside paint) {
 PlotPlace FigurePlot::measure(double widthMm, double heightMm) {
   const double perMm = pointsPerMm();
   QImage sheet(1, 1, QImage::Format_RGB32);
-  sheet.setDotsPerMeterX(static_cast<int>(std::lround(perMm * 1000.0)));
-  sheet.setDotsPerMeterY(static_cast<int>(std::lround(perMm * 1000.0)));
+  setResolution(sheet, mPlot->logicalDpiX());
   QPainter painter(&sheet);
   Renderer renderer(mBesideAxis, mPaintBeside);
   renderer.measureOnly();

@@ -1,21 +1,18 @@
 #include "figures/GatherFigure.h"
 
-#include "base/AtomicFile.h"
 #include "figures/FigureItem.h"
+#include "figures/FigureOutput.h"
 #include "figures/FigureWords.h"
 #include "figures/GatherItems.h"
 #include "figures/GatherScene.h"
 #include "figures/SectionItems.h"
 #include "model/TomoDocument.h"
 
-#include <QApplication>
 #include <QByteArray>
 #include <QColor>
 #include <QPainter>
 #include <QString>
-#include <algorithm>
 #include <cmath>
-#include <string_view>
 #include <utility>
 
 #include <qwt_plot.h>
@@ -122,25 +119,17 @@ GatherFigureLayout GatherPlot::layout() const {
 }
 
 FigureSheet sheetOf(const GatherFigureOptions& options, std::string title) {
-  FigureSheet sheet;
-  sheet.widthMm = options.widthMm;
-  sheet.heightMm = options.heightMm;
-  sheet.dpi = options.dpi;
-  sheet.title = std::move(title);
-  return sheet;
+  return {options.widthMm, options.heightMm, options.dpi, std::move(title)};
 }
 
 Status checkDrawing(const GatherFigureOptions& options, FigureFormat format) {
-  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
-    return Status::failure("A gather cannot be drawn before the application object exists.");
-  }
+  if (Status status = checkApplication("A gather"); !status.ok()) return status;
   return sheetOf(options, {}).check(format);
 }
 
-Status writeBytes(const std::string& path, const QByteArray& bytes,
-                  std::vector<std::string>& written) {
-  const std::string_view view(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-  if (Status status = writeFileAtomically(path, view); !status.ok()) return status;
+Status writeGather(const std::string& path, const QByteArray& bytes,
+                   std::vector<std::string>& written) {
+  if (Status status = writeBytes(path, bytes); !status.ok()) return status;
   written.push_back(path);
   return {};
 }
@@ -148,10 +137,8 @@ Status writeBytes(const std::string& path, const QByteArray& bytes,
 /// "line.png" is "line_07.png" for the seventh of up to 99 shots.
 std::string numbered(const std::string& path, std::size_t shot, std::size_t count) {
   constexpr std::size_t kSuffix = 4;  // of all three formats
-  const std::size_t width = std::max<std::size_t>(std::to_string(count).size(), 2);
-  std::string number = std::to_string(shot + 1);
-  number.insert(0, width - std::min(width, number.size()), '0');
-  return path.substr(0, path.size() - kSuffix) + '_' + number + path.substr(path.size() - kSuffix);
+  return path.substr(0, path.size() - kSuffix) + '_' + withZeros(shot + 1, count) +
+         path.substr(path.size() - kSuffix);
 }
 
 Status writePages(const TomoDocument& document, const GatherFigureOptions& options,
@@ -172,7 +159,7 @@ Status writePages(const TomoDocument& document, const GatherFigureOptions& optio
       sheetOf(options, line.empty() ? FigureWords::tr("Shots").toStdString() : line);
   QByteArray bytes;
   Status status = paintFigurePages(sheet, shots.size(), paint, bytes);
-  return status.ok() ? writeBytes(path, bytes, written) : status;
+  return status.ok() ? writeGather(path, bytes, written) : status;
 }
 
 }  // namespace
@@ -212,7 +199,7 @@ Status writeGatherFigures(const TomoDocument& document, const GatherFigureOption
     QByteArray bytes;
     Status status = renderGatherFigure(document, shot, options, format, bytes);
     const std::string name = shots.size() == 1 ? path : numbered(path, shot, count);
-    if (status.ok()) status = writeBytes(name, bytes, written);
+    if (status.ok()) status = writeGather(name, bytes, written);
     if (!status.ok()) return status;
   }
   return {};

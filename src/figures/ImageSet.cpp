@@ -1,9 +1,10 @@
 #include "figures/ImageSet.h"
 
+#include "figures/FigureOutput.h"
 #include "figures/GatherFigure.h"
 #include "figures/RefractionFigure.h"
 #include "figures/TravelTimeFigure.h"
-#include "model/TomoDocument.h"
+#include "model/SurveyFacts.h"
 
 #include <algorithm>
 #include <utility>
@@ -26,12 +27,6 @@ const char* nameOf(SectionQuantity quantity) {
       break;
   }
   return "velocity";
-}
-
-std::string withZeros(std::size_t number, std::size_t count) {
-  const std::size_t width = std::max<std::size_t>(std::to_string(count).size(), 2);
-  std::string text = std::to_string(number);
-  return std::string(width - std::min(width, text.size()), '0') + text;
 }
 
 class Planner {
@@ -58,11 +53,7 @@ class Planner {
   }
 
   void addTravelTimes() {
-    const bool any = std::any_of(
-        mDocument.ttArray.begin(), mDocument.ttArray.end(), [](const TravelTime& record) {
-          return std::any_of(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick);
-        });
-    if (!any) return;
+    if (!hasPicks(mDocument)) return;
     TravelTimeFigureOptions figure;
     setSize(figure);
     add("traveltimes", [&document = mDocument, figure](const std::string& path) {

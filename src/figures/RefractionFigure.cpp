@@ -1,12 +1,11 @@
 #include "figures/RefractionFigure.h"
 
-#include "base/AtomicFile.h"
+#include "figures/FigureOutput.h"
 #include "figures/FigureWords.h"
 #include "figures/RefractionItems.h"
 #include "figures/SectionItems.h"
 #include "model/TomoDocument.h"
 
-#include <QApplication>
 #include <QByteArray>
 #include <QPainter>
 #include <QString>
@@ -14,7 +13,6 @@
 #include <cmath>
 #include <cstdint>
 #include <memory>
-#include <string_view>
 #include <utility>
 
 #include <qwt_plot.h>
@@ -115,27 +113,22 @@ Status RefractionSheet::layOut() {
     return Status::failure("There is no refractor with a depth to draw.");
   }
   const auto scale = [this](double width, double height) { setScales(width, height); };
-  Status status;
-  // The caption states what comes of the layout, which leaves the same room for any caption.
-  for (const std::string& text : {std::string("x"), std::string()}) {
-    mPlot.setTexts(mOptions.showTitle ? mTitle : std::string(), text.empty() ? caption() : text,
-                   mOptions.widthMm);
-    status = mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight,
-                       scale, mPlace);
-    if (!status.ok()) break;
-  }
-  return status;
+  const auto fitWith = [&](const std::string& caption) {
+    mPlot.setTexts(mOptions.showTitle ? mTitle : std::string(), caption, mOptions.widthMm);
+    return mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight, scale,
+                     mPlace);
+  };
+  // The caption tells the exaggeration, which comes of the layout; any other caption takes the same
+  // room.
+  if (Status status = fitWith("x"); !status.ok()) return status;
+  return fitWith(caption());
 }
 
 Status layOut(const TomoDocument& document, const refractionDataStructure::processingData& results,
               const RefractionFigureOptions& options, FigureFormat format, FigureSheet& sheet,
               std::unique_ptr<RefractionSheet>& plot) {
-  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
-    return Status::failure("A profile cannot be drawn before the application object exists.");
-  }
-  sheet.widthMm = options.widthMm;
-  sheet.heightMm = options.heightMm;
-  sheet.dpi = options.dpi;
+  if (Status status = checkApplication("A profile"); !status.ok()) return status;
+  sheet = {options.widthMm, options.heightMm, options.dpi, {}};
   if (Status status = sheet.check(format); !status.ok()) return status;
   plot = std::make_unique<RefractionSheet>(document, results, options);
   if (Status status = plot->layOut(); !status.ok()) return status;
@@ -173,15 +166,9 @@ Status renderRefractionFigure(const TomoDocument& document,
 Status writeRefractionFigure(const TomoDocument& document,
                              const refractionDataStructure::processingData& results,
                              const RefractionFigureOptions& options, const std::string& path) {
-  FigureFormat format{};
-  if (Status status = figureFormatOf(path, format); !status.ok()) return status;
-  QByteArray bytes;
-  if (Status status = renderRefractionFigure(document, results, options, format, bytes);
-      !status.ok()) {
-    return status;
-  }
-  return writeFileAtomically(
-      path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  return writeFigure(path, [&](FigureFormat format, QByteArray& bytes) {
+    return renderRefractionFigure(document, results, options, format, bytes);
+  });
 }
 
 }  // namespace talvesk

@@ -1,17 +1,15 @@
 #include "figures/Report.h"
 
-#include "base/AtomicFile.h"
+#include "figures/FigureOutput.h"
 #include "figures/ReportBuilder.h"
 #include "figures/ReportOdt.h"
 #include "figures/ReportPages.h"
 #include "model/TomoDocument.h"
 
-#include <QApplication>
 #include <QByteArray>
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
-#include <string_view>
 #include <utility>
 
 namespace talvesk {
@@ -64,9 +62,7 @@ void Range::take(double value) {
 
 Status buildReport(const ReportSource& source, const ReportOptions& options,
                    ReportContent& content) {
-  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
-    return Status::failure("A report cannot be made before the application object exists.");
-  }
+  if (Status status = checkApplication("A report"); !status.ok()) return status;
   if (source.document.ttArray.empty() && source.document.goephonesStringSet.empty()) {
     return Status::failure(
         "There is no survey to report on: load shot files or travel times first.");
@@ -135,8 +131,7 @@ Status writeReport(const ReportContent& content, const std::string& path,
     status = reportAsOdt(content, goOnOf(static_cast<int>(figures)), bytes);
   }
   if (!status.ok()) return status;
-  return writeFileAtomically(
-      path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  return writeBytes(path, bytes);
 }
 
 }  // namespace talvesk

@@ -1,5 +1,7 @@
 #include "figures/ReportLayout.h"
 
+#include "figures/FigureOutput.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QPainter>
@@ -15,7 +17,6 @@
 namespace talvesk {
 namespace {
 
-constexpr double kMmPerInch = 25.4;
 constexpr double kTextPoints = 10.0;
 constexpr double kTablePoints = 8.5;
 constexpr double kTitleMm = 60.0;  ///< of blank paper above the title

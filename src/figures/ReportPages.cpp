@@ -1,5 +1,6 @@
 #include "figures/ReportPages.h"
 
+#include "figures/FigureOutput.h"
 #include "figures/ReportLayout.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -16,14 +17,11 @@
 namespace talvesk {
 namespace {
 
-constexpr double kMmPerInch = 25.4;
 constexpr double kFooterMm = 11.0;  ///< its base line, from the lower edge of the sheet
 
 QImage metricDevice() {
   QImage device(1, 1, QImage::Format_RGB32);
-  const int dotsPerMeter = static_cast<int>(std::lround(kReportDpi * 1000.0 / kMmPerInch));
-  device.setDotsPerMeterX(dotsPerMeter);
-  device.setDotsPerMeterY(dotsPerMeter);
+  setResolution(device, kReportDpi);
   return device;
 }
 
@@ -91,9 +89,7 @@ QImage ReportPages::image(int page, double dpi) const {
   const double perMm = dpi / kMmPerInch;
   QImage image(static_cast<int>(std::lround(mState->sheet.widthMm * perMm)),
                static_cast<int>(std::lround(mState->sheet.heightMm * perMm)), QImage::Format_RGB32);
-  const int dotsPerMeter = static_cast<int>(std::lround(perMm * 1000.0));
-  image.setDotsPerMeterX(dotsPerMeter);
-  image.setDotsPerMeterY(dotsPerMeter);
+  setResolution(image, dpi);
   image.fill(Qt::white);
   QPainter painter(&image);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);

@@ -1,16 +1,14 @@
 #include "figures/SectionFigure.h"
 
-#include "base/AtomicFile.h"
+#include "figures/FigureOutput.h"
 #include "figures/SectionPlot.h"
 #include "model/TomoDocument.h"
 
-#include <QApplication>
 #include <QByteArray>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <memory>
-#include <string_view>
 #include <utility>
 
 namespace talvesk {
@@ -26,10 +24,7 @@ Status checkOptions(const SectionFigureOptions& options) {
   if (options.palette.color_gradient.empty()) {
     return Status::failure("The palette \"" + options.palette.name + "\" has no colours.");
   }
-  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
-    return Status::failure("A section cannot be drawn before the application object exists.");
-  }
-  return {};
+  return checkApplication("A section");
 }
 
 }  // namespace
@@ -72,10 +67,8 @@ Status layOut(const TomoDocument& document, const SectionFigureOptions& options,
   if (Status status = checkOptions(options); !status.ok()) return status;
 
   // Sizes are checked before anything is laid out in them; a height yet to be chosen passes.
-  sheet = FigureSheet();
-  sheet.widthMm = options.widthMm;
-  sheet.heightMm = options.heightMm == 0.0 ? FigureSheet::kMinMm : options.heightMm;
-  sheet.dpi = options.dpi;
+  const double heightMm = options.heightMm == 0.0 ? FigureSheet::kMinMm : options.heightMm;
+  sheet = {options.widthMm, heightMm, options.dpi, {}};
   if (Status status = sheet.check(format); !status.ok()) return status;
 
   plot = std::make_unique<SectionPlot>(std::move(scene), options);
@@ -112,14 +105,9 @@ Status renderSectionFigure(const TomoDocument& document, const SectionFigureOpti
 
 Status writeSectionFigure(const TomoDocument& document, const SectionFigureOptions& options,
                           const std::string& path) {
-  FigureFormat format{};
-  if (Status status = figureFormatOf(path, format); !status.ok()) return status;
-  QByteArray bytes;
-  if (Status status = renderSectionFigure(document, options, format, bytes); !status.ok()) {
-    return status;
-  }
-  return writeFileAtomically(
-      path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  return writeFigure(path, [&](FigureFormat format, QByteArray& bytes) {
+    return renderSectionFigure(document, options, format, bytes);
+  });
 }
 
 }  // namespace talvesk

@@ -1,18 +1,16 @@
 #include "figures/TravelTimeFigure.h"
 
-#include "base/AtomicFile.h"
+#include "figures/FigureOutput.h"
 #include "figures/FigureWords.h"
 #include "figures/TravelTimeCurves.h"
 #include "figures/TravelTimeItems.h"
 #include "model/TomoDocument.h"
 #include "tomo/Misfit.h"
 
-#include <QApplication>
 #include <QByteArray>
 #include <QPainter>
 #include <QStringList>
 #include <memory>
-#include <string_view>
 
 #include <qwt_plot.h>
 
@@ -117,13 +115,8 @@ Status TravelTimeSheet::layOut() {
 /// Lays the curves out for a file of that format.
 Status layOut(const TomoDocument& document, const TravelTimeFigureOptions& options,
               FigureFormat format, FigureSheet& sheet, std::unique_ptr<TravelTimeSheet>& plot) {
-  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
-    return Status::failure("Curves cannot be drawn before the application object exists.");
-  }
-  sheet = FigureSheet();
-  sheet.widthMm = options.widthMm;
-  sheet.heightMm = options.heightMm;
-  sheet.dpi = options.dpi;
+  if (Status status = checkApplication("A plot of curves"); !status.ok()) return status;
+  sheet = {options.widthMm, options.heightMm, options.dpi, {}};
   if (Status status = sheet.check(format); !status.ok()) return status;
   plot = std::make_unique<TravelTimeSheet>(document, options);
   if (Status status = plot->layOut(); !status.ok()) return status;
@@ -157,14 +150,9 @@ Status renderTravelTimeFigure(const TomoDocument& document, const TravelTimeFigu
 
 Status writeTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,
                              const std::string& path) {
-  FigureFormat format{};
-  if (Status status = figureFormatOf(path, format); !status.ok()) return status;
-  QByteArray bytes;
-  if (Status status = renderTravelTimeFigure(document, options, format, bytes); !status.ok()) {
-    return status;
-  }
-  return writeFileAtomically(
-      path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  return writeFigure(path, [&](FigureFormat format, QByteArray& bytes) {
+    return renderTravelTimeFigure(document, options, format, bytes);
+  });
 }
 
 }  // namespace talvesk
