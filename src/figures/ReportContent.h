@@ -19,7 +19,6 @@ struct ReportSheet {
   static constexpr double kMarginMm = 20.0;
 
   double textWidthMm() const { return widthMm - 2.0 * kMarginMm; }
-  double textHeightMm() const { return heightMm - 2.0 * kMarginMm; }
 
   double widthMm;
   double heightMm;
@@ -42,9 +41,9 @@ struct ReportTable {
   /// Of every column, by what stands in it; together at most the width of the text.
   std::vector<double> columnWidthsMm(double textWidthMm) const;
 
-  /// A table of no more rows stays on one page.
+  /// A table of no more rows, that of the headings included, stays on one page.
   static constexpr int kRowsThatStay = 13;
-  bool staysWhole() const { return rows.size() < kRowsThatStay; }
+  bool staysWhole() const { return rows.size() + (hasHeadings() ? 1 : 0) <= kRowsThatStay; }
 
  private:
   std::vector<double> letters(bool wholeTitles) const;  ///< that each column needs

@@ -33,6 +33,7 @@ Status add(zip_t* archive, const ZipMember& member) {
 Status zipBytes(const std::vector<ZipMember>& members, QByteArray& bytes) {
   zip_error_t error;
   zip_error_init(&error);
+  const std::unique_ptr<zip_error_t, decltype(&zip_error_fini)> ending(&error, &zip_error_fini);
   // The archive is put together in this source, which outlives it by one more keep.
   const std::unique_ptr<zip_source_t, decltype(&zip_source_free)> source(
       zip_source_buffer_create(nullptr, 0, 0, &error), &zip_source_free);

@@ -33,7 +33,6 @@ class LayerCurvesPlot : public PlotPage {
 
   int currentShot() const { return mCurrent; }
   std::uint32_t layer() const { return mLayer; }  ///< to mark with
-  bool isEditable() const { return mEditable; }
   const std::vector<TraceRef>& selection() const { return mSelection; }
 
   /// Where a pick is on the canvas; none without one.

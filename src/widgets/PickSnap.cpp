@@ -122,8 +122,8 @@ double snapPick(const std::vector<double>& samples, double interval, double mean
   if (snap == PickSnap::None || !(interval > 0.0) || samples.empty()) return time;
   const double place = time / interval;
   const auto most = static_cast<double>(samples.size());
-  const double reach =
-      std::clamp(radius / interval, static_cast<double>(kLeastSnapSamples), std::max(most, 8.0));
+  constexpr double kLeast = kLeastSnapSamples;
+  const double reach = std::clamp(radius / interval, kLeast, std::max(most, kLeast));
   const Range range = around(samples, place, reach);
   if (range.size() < 2 || !allFinite(samples, range)) return time;
   double snapped = place;

@@ -64,9 +64,8 @@ bool SectionView::sheetEvent(QEvent* event) {
       s.cursor.reset();
       emit cursorLeft();
       return false;
-    case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
-      return event->type() == QEvent::KeyPress && key(static_cast<QKeyEvent*>(event)->key());
+      return key(static_cast<QKeyEvent*>(event)->key());
     default:
       return false;
   }
