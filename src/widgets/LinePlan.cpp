@@ -20,7 +20,6 @@
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
-#include <qwt_plot_layout.h>
 #include <qwt_scale_map.h>
 #include <qwt_symbol.h>
 
@@ -82,11 +81,7 @@ LinePlan::LinePlan(QWidget* parent) : QWidget(parent), mPlot(new QwtPlot(this)) 
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(mPlot);
-  mPlot->plotLayout()->setCanvasMargin(0);
-  mPlot->plotLayout()->setAlignCanvasToScales(true);
   if (auto* canvas = qobject_cast<QwtPlotCanvas*>(mPlot->canvas())) {
-    canvas->setFrameStyle(QFrame::Box | QFrame::Plain);
-    canvas->setLineWidth(1);
     canvas->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
   }
   auto* legend = new QwtLegend;
@@ -124,12 +119,8 @@ QSize LinePlan::minimumSizeHint() const {
 
 void LinePlan::draw() {
   mPlot->detachItems(QwtPlotItem::Rtti_PlotItem);
+  dressPlot(*mPlot);
   const TraceColors colors = traceColors(palette(), true);
-  mPlot->setCanvasBackground(colors.background);
-  QPalette frame = palette();
-  frame.setColor(QPalette::WindowText, colors.faint);
-  frame.setBrush(QPalette::Window, colors.background);
-  mPlot->canvas()->setPalette(frame);
   auto* grid = new QwtPlotGrid;
   grid->setPen(QPen(colors.faint, 0.0));
   grid->attach(mPlot);
@@ -168,12 +159,6 @@ void LinePlan::draw() {
     auto* frameSymbol =
         new QwtSymbol(QwtSymbol::Rect, Qt::NoBrush, QPen(colors.focus, 2.0), QSize(15, 15));
     addCurve(*mPlot, QString(), drawable({*mScene.current}), frameSymbol, Qt::NoPen);
-  }
-  for (const int axis : {QwtPlot::xBottom, QwtPlot::yLeft}) {
-    mPlot->setAxisFont(axis, font());
-    QwtText title = mPlot->axisTitle(axis);
-    title.setFont(font());
-    mPlot->setAxisTitle(axis, title);
   }
   fitAxes();
 }

@@ -1,5 +1,6 @@
 #include "widgets/PlotPage.h"
 
+#include "widgets/PlotDress.h"
 #include "widgets/PlotOverlay.h"
 #include "widgets/TraceColors.h"
 
@@ -17,7 +18,6 @@
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_item.h>
-#include <qwt_plot_layout.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_map.h>
 #include <qwt_scale_widget.h>
@@ -46,8 +46,6 @@ PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
   mPlot = new QwtPlot(this);
   mPlot->setAutoDelete(true);
   mPlot->setFocusPolicy(Qt::NoFocus);
-  mPlot->plotLayout()->setCanvasMargin(0);
-  mPlot->plotLayout()->setAlignCanvasToScales(true);
   mEmpty = new QLabel(this);
   mEmpty->setAlignment(Qt::AlignCenter);
   mEmpty->setWordWrap(true);
@@ -61,8 +59,6 @@ PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
   area->installEventFilter(this);
   if (auto* framed = qobject_cast<QwtPlotCanvas*>(area)) {
     framed->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
-    framed->setFrameStyle(QFrame::Box | QFrame::Plain);
-    framed->setLineWidth(1);
   }
   // As wide in all plots, so that those above each other have their distances above each other.
   mPlot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kAxisExtent);
@@ -176,20 +172,11 @@ void PlotPage::zoomAbout(const QPointF& point, double byX, double byY) {
 }
 
 void PlotPage::dress() {
-  const TraceColors colors = traceColors(palette(), false);
-  mPlot->setCanvasBackground(colors.background);
-  QPalette frame = palette();
-  frame.setColor(QPalette::WindowText, colors.faint);
-  frame.setBrush(QPalette::Window, colors.background);
-  mPlot->canvas()->setPalette(frame);
-  mGrid->setPen(QPen(colors.faint, 0.0));
+  dressPlot(*mPlot);
+  mGrid->setPen(QPen(traceColors(palette(), false).faint, 0.0));
   QFont bold = font();
   bold.setBold(true);
   mPlot->titleLabel()->setFont(bold);
-  for (const int axis : {QwtPlot::xBottom, QwtPlot::yLeft}) {
-    mPlot->setAxisFont(axis, font());
-    setTitle(*mPlot, axis, mPlot->axisTitle(axis).text(), font());
-  }
 }
 
 bool PlotPage::eventFilter(QObject* watched, QEvent* event) {

@@ -23,9 +23,6 @@
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_item.h>
-#include <qwt_plot_layout.h>
-#include <qwt_scale_widget.h>
-#include <qwt_text.h>
 
 namespace talvesk {
 namespace {
@@ -52,8 +49,6 @@ void TravelTimePlot::State::build() {
   plot = new QwtPlot(plotPage);
   plot->setAutoDelete(true);
   plot->setFocusPolicy(Qt::NoFocus);
-  plot->plotLayout()->setCanvasMargin(0);
-  plot->plotLayout()->setAlignCanvasToScales(true);
   QWidget* canvas = plot->canvas();
   canvas->setObjectName(QStringLiteral("travelTimeCanvas"));
   canvas->setMouseTracking(true);
@@ -61,8 +56,6 @@ void TravelTimePlot::State::build() {
   canvas->installEventFilter(&widget);
   if (auto* framed = qobject_cast<QwtPlotCanvas*>(canvas)) {
     framed->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
-    framed->setFrameStyle(QFrame::Box | QFrame::Plain);
-    framed->setLineWidth(1);
   }
   using namespace travel_time_items;
   grid = new QwtPlotGrid;
@@ -115,21 +108,11 @@ void TravelTimePlot::State::buildLegend() {
 }
 
 void TravelTimePlot::State::dress() {
+  dressPlot(*plot);
   const TraceColors colors = traceColors(widget.palette(), false);
   look.ground = colors.background;
   look.icons = colors.text;
-  plot->setCanvasBackground(colors.background);
-  QPalette frame = widget.palette();
-  frame.setColor(QPalette::WindowText, colors.faint);
-  frame.setBrush(QPalette::Window, colors.background);
-  plot->canvas()->setPalette(frame);
   grid->setPen(QPen(colors.faint, 0.0));
-  for (const int axis : {QwtPlot::xBottom, QwtPlot::yLeft}) {
-    plot->setAxisFont(axis, widget.font());
-    QwtText title = plot->axisTitle(axis);
-    title.setFont(widget.font());
-    plot->setAxisTitle(axis, title);
-  }
   measuredBox->setIcon(iconOf(*measured));
   computedBox->setIcon(iconOf(*computed));
   shotIcon->setPixmap(iconOf(*shots).pixmap(kIcon));
