@@ -35,7 +35,7 @@ double distanceToLine(const QPointF& p, const QPointF& a, const QPointF& b) {
   return distance(p, a + part * along);
 }
 
-/// A pick at 0 would be none, and after the end of its record there is nothing to pick.
+/// A pick at 0 would be none, and after the last sample of its record there is nothing to pick.
 double withinRecord(const TomoDocument& document, int shot, int trace, double seconds) {
   constexpr double kEarliest = 1e-6;
   const auto set =
@@ -43,7 +43,8 @@ double withinRecord(const TomoDocument& document, int shot, int trace, double se
   if (set < document.traceSets.size() &&
       static_cast<std::size_t>(trace) < document.traceSets[set].size()) {
     const Trace& recorded = document.traceSets[set][static_cast<std::size_t>(trace)];
-    const double end = static_cast<double>(recorded.samples.size()) * recorded.sampleInterval;
+    const double end =
+        (static_cast<double>(recorded.samples.size()) - 1.0) * recorded.sampleInterval;
     if (end > 0.0) seconds = std::min(seconds, end);
   }
   return std::max(seconds, kEarliest);
