@@ -2534,22 +2534,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
 <context>
     <name>talvesk::SectionSheet</name>
     <message>
-        <source>Vertical gradient of velocity [1/s]</source>
-        <translation>Vertikaler Geschwindigkeitsgradient [1/s]</translation>
-    </message>
-    <message>
-        <source>Laplacian of velocity [1/(m·s)]</source>
-        <translation>Laplace der Geschwindigkeit [1/(m·s)]</translation>
-    </message>
-    <message>
-        <source>Information density</source>
-        <translation>Informationsdichte</translation>
-    </message>
-    <message>
-        <source>Velocity [m/s]</source>
-        <translation>Geschwindigkeit [m/s]</translation>
-    </message>
-    <message>
         <source>Geophones</source>
         <translation>Geophone</translation>
     </message>
@@ -3813,10 +3797,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>No cell of the grid has a value to show.</source>
         <translation>Keine Zelle des Gitters hat einen anzeigbaren Wert.</translation>
-    </message>
-    <message>
-        <source>Refractor %1</source>
-        <translation>Refraktor %1</translation>
     </message>
     <message>
         <source>Distance %1 m</source>

@@ -2534,22 +2534,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
 <context>
     <name>talvesk::SectionSheet</name>
     <message>
-        <source>Vertical gradient of velocity [1/s]</source>
-        <translation>Gradiente vertical de velocidad [1/s]</translation>
-    </message>
-    <message>
-        <source>Laplacian of velocity [1/(m·s)]</source>
-        <translation>Laplaciano de la velocidad [1/(m·s)]</translation>
-    </message>
-    <message>
-        <source>Information density</source>
-        <translation>Densidad de información</translation>
-    </message>
-    <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocidad [m/s]</translation>
-    </message>
-    <message>
         <source>Geophones</source>
         <translation>Geófonos</translation>
     </message>
@@ -3813,10 +3797,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>No cell of the grid has a value to show.</source>
         <translation>Ninguna celda de la malla tiene un valor que mostrar.</translation>
-    </message>
-    <message>
-        <source>Refractor %1</source>
-        <translation>Refractor %1</translation>
     </message>
     <message>
         <source>Distance %1 m</source>

@@ -2534,22 +2534,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
 <context>
     <name>talvesk::SectionSheet</name>
     <message>
-        <source>Vertical gradient of velocity [1/s]</source>
-        <translation>Gradient vertical de vitesse [1/s]</translation>
-    </message>
-    <message>
-        <source>Laplacian of velocity [1/(m·s)]</source>
-        <translation>Laplacien de la vitesse [1/(m·s)]</translation>
-    </message>
-    <message>
-        <source>Information density</source>
-        <translation>Densité d&apos;information</translation>
-    </message>
-    <message>
-        <source>Velocity [m/s]</source>
-        <translation>Vitesse [m/s]</translation>
-    </message>
-    <message>
         <source>Geophones</source>
         <translation>Géophones</translation>
     </message>
@@ -3813,10 +3797,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>No cell of the grid has a value to show.</source>
         <translation>Aucune cellule de la grille n&apos;a de valeur à afficher.</translation>
-    </message>
-    <message>
-        <source>Refractor %1</source>
-        <translation>Réfracteur %1</translation>
     </message>
     <message>
         <source>Distance %1 m</source>

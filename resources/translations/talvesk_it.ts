@@ -2534,22 +2534,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
 <context>
     <name>talvesk::SectionSheet</name>
     <message>
-        <source>Vertical gradient of velocity [1/s]</source>
-        <translation>Gradiente verticale di velocità [1/s]</translation>
-    </message>
-    <message>
-        <source>Laplacian of velocity [1/(m·s)]</source>
-        <translation>Laplaciano della velocità [1/(m·s)]</translation>
-    </message>
-    <message>
-        <source>Information density</source>
-        <translation>Densità d&apos;informazione</translation>
-    </message>
-    <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocità [m/s]</translation>
-    </message>
-    <message>
         <source>Geophones</source>
         <translation>Geofoni</translation>
     </message>
@@ -3813,10 +3797,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>No cell of the grid has a value to show.</source>
         <translation>Nessuna cella della griglia ha un valore da mostrare.</translation>
-    </message>
-    <message>
-        <source>Refractor %1</source>
-        <translation>Rifrattore %1</translation>
     </message>
     <message>
         <source>Distance %1 m</source>

@@ -1,11 +1,12 @@
 #include "app/Talvesk_MainWindows.h"
+#include "figures/FigureWords.h"
+#include "model/SurveyFacts.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "view/RefractorLines.h"
 #include "widgets/SectionView.h"
 
 #include <QLabel>
 #include <QLocale>
-#include <algorithm>
 #include <utility>
 
 // The commands of the section view. Each changes what the section shows; refreshSection() makes the
@@ -117,8 +118,7 @@ void Talvesk_MainWindows::on_actionReset_View_triggered() {
 }
 
 bool Talvesk_MainWindows::hasInformationDensity() const {
-  return std::any_of(mDocument.info_density.begin(), mDocument.info_density.end(),
-                     [](double density) { return density >= 0.0; });
+  return talvesk::hasInformationDensity(mDocument);
 }
 
 void Talvesk_MainWindows::refreshSectionCommands() {
@@ -177,7 +177,7 @@ QString Talvesk_MainWindows::whyNoSection() const {
 std::vector<SectionLine> Talvesk_MainWindows::refractors() const {
   std::vector<SectionLine> lines = refractorLines(mInterpretation);
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    lines[i].name = tr("Refractor %1").arg(static_cast<int>(i + 1)).toStdString();
+    lines[i].name = FigureWords::refractor(i).toStdString();
   }
   return lines;
 }

@@ -11,20 +11,6 @@
 
 namespace talvesk {
 
-QString quantityTitle(SectionQuantity quantity) {
-  switch (quantity) {
-    case SectionQuantity::kVerticalGradient:
-      return SectionSheet::tr("Vertical gradient of velocity [1/s]");
-    case SectionQuantity::kLaplacian:
-      return SectionSheet::tr("Laplacian of velocity [1/(m\u00B7s)]");
-    case SectionQuantity::kInformationDensity:
-      return SectionSheet::tr("Information density");
-    case SectionQuantity::kVelocity:
-      break;
-  }
-  return SectionSheet::tr("Velocity [m/s]");
-}
-
 void SectionSheet::setScene(std::shared_ptr<const SectionScene> scene, const ColorPalette& palette,
                             const SectionViewSettings& settings) {
   mSettings = settings;

@@ -8,15 +8,11 @@
 #include <QCoreApplication>
 #include <QFont>
 #include <QRectF>
-#include <QString>
 #include <memory>
 
 class QPainter;
 
 namespace talvesk {
-
-/// "Velocity [m/s]" and its like, in the user's language.
-QString quantityTitle(SectionQuantity quantity);
 
 /// The paper around and over the section: axes, title, colour bar and legend beside it; grid lines,
 /// markers, refractors, coverage limit and contour values on it. Painted over the picture of

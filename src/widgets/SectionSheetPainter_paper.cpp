@@ -1,4 +1,5 @@
 #include "figures/FigureItem.h"
+#include "figures/FigureWords.h"
 #include "widgets/SectionSheetPainter.h"
 
 #include <QFontMetricsF>
@@ -231,7 +232,7 @@ void SheetPainter::paintColorBar() {
   mPainter.translate(mSize.width() - kGap - 0.5 * mLine, bar.center().y());
   mPainter.rotate(-90.0);
   mPainter.drawText(QRectF(-300.0, -mLine, 600.0, 2.0 * mLine), Qt::AlignCenter,
-                    quantityTitle(mScene.quantity));
+                    FigureWords::quantityAxis(mScene.quantity));
   mPainter.restore();
 }
 
@@ -258,7 +259,7 @@ void SheetPainter::paintTexts() {
     mPainter.setFont(font);
     QString title = QString::fromStdString(mScene.title).simplified();
     if (title.isEmpty() && mScene.fill != SectionFill::kNone) {
-      title = quantityTitle(mScene.quantity);
+      title = FigureWords::quantityAxis(mScene.quantity);
     }
     title = QFontMetricsF(font).elidedText(title, Qt::ElideRight, mSize.width() - 2.0 * kGap);
     mPainter.drawText(QRectF(0.0, 0.0, mSize.width(), mPlot.top()), Qt::AlignCenter, title);
