@@ -1,5 +1,6 @@
 #include "app/RefractionProcessingDialog.h"
 
+#include "app/LineIcon.h"
 #include "app/Messages.h"
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
@@ -111,8 +112,8 @@ void RefractionProcessingDialog::nameThings() {
   QAction* redo = mUndo->createRedoAction(this);
   undo->setShortcut(QKeySequence::Undo);
   redo->setShortcut(QKeySequence::Redo);
-  undo->setIcon(QIcon(QStringLiteral(":/icons/undo.png")));
-  redo->setIcon(QIcon(QStringLiteral(":/icons/redo.png")));
+  undo->setIcon(lineIcon(QStringLiteral(":/icons/undo.png")));
+  redo->setIcon(lineIcon(QStringLiteral(":/icons/redo.png")));
   addActions({undo, redo});
   mUi->undoButton->setDefaultAction(undo);
   mUi->redoButton->setDefaultAction(redo);
