@@ -2,6 +2,7 @@
 
 #include "tomo/InversionCopy.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QThread>
 #include <exception>
@@ -25,6 +26,8 @@ TomographyResult BackgroundInversion::run(const IterationDone& iterationDone) {
   requestStop();
   mSeen.release(mParameters.externalIterations);
   thread->wait();
+  // An iteration that waits to be looked at refers to `iterationDone`, which ends here.
+  QCoreApplication::removePostedEvents(this);
   return result;
 }
 
