@@ -20,17 +20,22 @@ void setPlainTexts(QMessageBox& box, const QString& details) {
   if (label != nullptr) label->setTextFormat(Qt::PlainText);
 }
 
+/// Gives the text of a box its least width. The box offers no other way to style its text without
+/// its buttons, either.
+void widen(QMessageBox& box, const QString& textStyle) {
+  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (label == nullptr) return;
+  label->setStyleSheet(textStyle);
+  label->ensurePolished();
+  // A wider text must be free to wrap: a label with a least width of its own is cut off instead.
+  if (label->sizeHint().width() < kTextWidth) label->setMinimumWidth(kTextWidth);
+}
+
 void show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& text,
           const QString& details, const QString& textStyle = QString()) {
   QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
   setPlainTexts(box, details);
-  // The box offers no other way to style its text without its buttons.
-  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
-    label->setStyleSheet(textStyle);
-    label->ensurePolished();
-    // A wider text must be free to wrap: a label with a least width of its own is cut off instead.
-    if (label->sizeHint().width() < kTextWidth) label->setMinimumWidth(kTextWidth);
-  }
+  widen(box, textStyle);
   box.exec();
 }
 
@@ -89,11 +94,7 @@ RecoveryAnswer askToRecover(QWidget* parent, const QString& details) {
       ->setText(QCoreApplication::translate("talvesk::Messages", "Delete it"));
   box.button(QMessageBox::Cancel)
       ->setText(QCoreApplication::translate("talvesk::Messages", "Ask again later"));
-  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
-    label->ensurePolished();
-    // A wider text must be free to wrap: a label with a least width of its own is cut off instead.
-    if (label->sizeHint().width() < kTextWidth) label->setMinimumWidth(kTextWidth);
-  }
+  widen(box, {});
   switch (box.exec()) {
     case QMessageBox::Open:
       return RecoveryAnswer::kOpen;

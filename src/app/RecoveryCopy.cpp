@@ -32,6 +32,12 @@ QString formerOf(const QString& file) {
   return file + QLatin1Char('~');
 }
 
+/// The name of the copy, also where only the former one is left.
+QString copyOf(QString file) {
+  if (file.endsWith(QLatin1Char('~'))) file.chop(1);
+  return file;
+}
+
 void removeFiles(const QString& file) {
   QFile::remove(file);
   QFile::remove(formerOf(file));
@@ -124,9 +130,7 @@ void RecoveryCopy::discard() {
 
 void RecoveryCopy::adopt(const AbandonedCopy& copy) {
   discard();
-  mFile = copy.file;
-  // Only the former one may be left; the next save goes to the name of the copy itself.
-  if (mFile.endsWith(QLatin1Char('~'))) mFile.chop(1);
+  mFile = copyOf(copy.file);  // to which the next save goes
   mLock = copy.lock;
 }
 
@@ -135,11 +139,8 @@ std::optional<AbandonedCopy> RecoveryCopy::findAbandoned(const QString& folder) 
       {kPrefix + QLatin1Char('*') + kSuffix, formerOf(kPrefix + QLatin1Char('*') + kSuffix)},
       QDir::Files | QDir::NoSymLinks, QDir::Time);
   for (const QFileInfo& info : found) {
-    QString file = info.absoluteFilePath();
-    if (file.endsWith(QLatin1Char('~'))) {
-      file.chop(1);
-      if (QFile::exists(file)) continue;
-    }
+    const QString file = copyOf(info.absoluteFilePath());
+    if (file != info.absoluteFilePath() && QFile::exists(file)) continue;
     auto lock = lockOf(file);
     if (!lock->tryLock(0)) continue;
     AbandonedCopy copy;
@@ -157,9 +158,7 @@ std::optional<AbandonedCopy> RecoveryCopy::findAbandoned(const QString& folder) 
 }
 
 void RecoveryCopy::remove(const AbandonedCopy& copy) {
-  QString file = copy.file;
-  if (file.endsWith(QLatin1Char('~'))) file.chop(1);
-  removeFiles(file);
+  removeFiles(copyOf(copy.file));
 }
 
 }  // namespace talvesk
