@@ -1,6 +1,6 @@
 #include "app/ExportTomoVelData.h"
 
-#include "app/CoordinateText.h"
+#include "app/NumberText.h"
 #include "ui_ExportTomoVelData.h"
 
 #include <QPushButton>
@@ -21,15 +21,15 @@ ExportTomoVelData::~ExportTomoVelData() = default;
 
 GriddedTextOptions ExportTomoVelData::options() const {
   GriddedTextOptions options;
-  options.lineY = coordinateFrom(mUi->y_coord_edit->text()).value_or(0.0);
-  options.zOffset = coordinateFrom(mUi->z_offset_edit->text()).value_or(0.0);
+  options.lineY = numberFrom(mUi->y_coord_edit->text()).value_or(0.0);
+  options.zOffset = numberFrom(mUi->z_offset_edit->text()).value_or(0.0);
   options.surveyX = mUi->surveyXBox->isChecked();
   return options;
 }
 
 void ExportTomoVelData::check() {
-  const bool y = coordinateFrom(mUi->y_coord_edit->text()).has_value();
-  const bool z = coordinateFrom(mUi->z_offset_edit->text()).has_value();
+  const bool y = numberFrom(mUi->y_coord_edit->text()).has_value();
+  const bool z = numberFrom(mUi->z_offset_edit->text()).has_value();
   QString problem;
   if (!y) problem = tr("The Y coordinate is not a number.");
   if (!z) problem = tr("The Z offset is not a number.");

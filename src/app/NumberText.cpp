@@ -1,11 +1,11 @@
-#include "app/CoordinateText.h"
+#include "app/NumberText.h"
 
 #include <QLocale>
 #include <cmath>
 
 namespace talvesk {
 
-std::optional<double> coordinateFrom(const QString& text) {
+std::optional<double> numberFrom(const QString& text) {
   for (QLocale locale : {QLocale(), QLocale::c()}) {
     locale.setNumberOptions(QLocale::RejectGroupSeparator);
     bool isNumber = false;
@@ -15,7 +15,7 @@ std::optional<double> coordinateFrom(const QString& text) {
   return std::nullopt;
 }
 
-QString coordinateText(double value) {
+QString numberText(double value) {
   QLocale locale;
   locale.setNumberOptions(QLocale::OmitGroupSeparator);
   return locale.toString(value, 'f', QLocale::FloatingPointShortest);

@@ -5,11 +5,11 @@
 
 namespace talvesk {
 
-/// A coordinate as users type and paste it: by their locale or with a decimal point, never with
-/// separated thousands, for those are the decimals of another locale.
-std::optional<double> coordinateFrom(const QString& text);
+/// A number as users type and paste it: by their locale or with a decimal point, never with
+/// separated thousands, for those are the decimals of another locale. None for what is not finite.
+std::optional<double> numberFrom(const QString& text);
 
 /// As many digits as it has, without separated thousands, by the user's locale.
-QString coordinateText(double value);
+QString numberText(double value);
 
 }  // namespace talvesk

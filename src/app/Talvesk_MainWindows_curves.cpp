@@ -1,11 +1,9 @@
-#include "app/Messages.h"
+#include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "figures/TravelTimeFigure.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
-
-#include <QFileDialog>
 
 namespace talvesk {
 
@@ -37,25 +35,17 @@ void Talvesk_MainWindows::refreshPlots() {
 
 void Talvesk_MainWindows::exportCurves() {
   logSlot(__func__);
-  QFileDialog dialog(this, tr("Save travel-time curves"), saveFolder(),
-                     tr("Pictures (*.png *.svg *.pdf);;All Files (*)"));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setFileMode(QFileDialog::AnyFile);
-  dialog.setDefaultSuffix(QStringLiteral("png"));
-  proposeName(dialog, "png");
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
-  const QString file = dialog.selectedFiles().front();
-  rememberSaved(file);
+  const QString file = askForExport(tr("Save travel-time curves"),
+                                    tr("Pictures (*.png *.svg *.pdf);;All Files (*)"), "png");
+  if (file.isEmpty()) return;
   TravelTimeFigureOptions options;
   options.computed = mUi->travelTimeCurves->showsComputed();
   if (const Status status = writeTravelTimeFigure(mDocument, options, file.toStdString());
       !status.ok()) {
-    mLog.write(status.message(), 1);
-    showError(this, tr("Error occured"), tr("The picture has not been saved."),
-              QString::fromStdString(status.message()));
+    tellFailure(this, mLog, tr("The picture has not been saved."), status);
     return;
   }
-  mUi->statusBar->showMessage(tr("Picture saved in %1").arg(file), 10000);
+  mUi->statusBar->showMessage(tr("Picture saved in %1").arg(file), kMessageTime);
 }
 
 }  // namespace talvesk

@@ -1,5 +1,6 @@
 #include "app/ExportTomoVelData.h"
 #include "app/Messages.h"
+#include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/setGeographyDialog.h"
 #include "export/GriddedText.h"
@@ -15,11 +16,6 @@
 // The commands that write data for other programs.
 
 namespace talvesk {
-namespace {
-
-constexpr int kMessageTime = 10000;  ///< milliseconds that the status bar shows an outcome
-
-}  // namespace
 
 /// The file to write, with the suffix where the user gave none; empty when the user gave up.
 QString Talvesk_MainWindows::askForExport(const QString& title, const QString& filter,
@@ -39,9 +35,7 @@ void Talvesk_MainWindows::tellExport(const Status& written, const QString& file)
     statusBar()->showMessage(tr("Saved in %1").arg(file), kMessageTime);
     return;
   }
-  mLog.write(written.message(), 1);
-  showError(this, tr("Error occured"), tr("The data have not been exported."),
-            QString::fromStdString(written.message()));
+  tellFailure(this, mLog, tr("The data have not been exported."), written);
 }
 
 QString Talvesk_MainWindows::askForGriddedText() {

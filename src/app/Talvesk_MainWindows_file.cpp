@@ -1,8 +1,11 @@
 #include "app/Messages.h"
+#include "app/Outcomes.h"
 #include "app/SettingsDialog.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/WaitCursor.h"
+#include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
+#include "model/SurveyFacts.h"
 #include "processing/ShotTime.h"
 #include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
@@ -22,9 +25,7 @@
 namespace talvesk {
 namespace {
 
-constexpr int kPatience = 500;         ///< milliseconds of loading before progress is shown
-constexpr int kMessageTime = 10000;    ///< milliseconds that the status bar shows an outcome
-constexpr int kUnsupportedFormat = 3;  ///< status of a shot file whose suffix no reader takes
+constexpr int kPatience = 500;  ///< milliseconds of loading before progress is shown
 
 bool isTravelTimeFile(const QString& file) {
   static const QStringList suffixes = {QStringLiteral("otte"), QStringLiteral("txt"),
@@ -34,13 +35,6 @@ bool isTravelTimeFile(const QString& file) {
 
 bool isProjectFile(const QString& file) {
   return QFileInfo(file).suffix().toLower() == QLatin1String("tvsk");
-}
-
-bool hasAnyPick(const TomoDocument& document) {
-  return std::any_of(
-      document.ttArray.begin(), document.ttArray.end(), [](const TravelTime& record) {
-        return std::any_of(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick);
-      });
 }
 
 }  // namespace
@@ -97,9 +91,7 @@ void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
     if (!one.front().status.ok()) continue;
     ShotMemory& memory = mShots.emplace_back();
     memory.format = QString::fromStdString(one.front().format);
-    for (const std::string& warning : one.front().warnings) {
-      memory.warnings << QString::fromStdString(warning);
-    }
+    memory.warnings = linesOf(one.front().warnings);
   }
   progress.reset();
   documentChanged();
@@ -126,7 +118,7 @@ void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& ou
     if (outcome.status.ok()) continue;
     mLog.write(outcome.status.message(), 1);
     const QString message = QString::fromStdString(outcome.status.message());
-    (outcome.status.code() == kUnsupportedFormat ? unsupported : broken) << message;
+    (outcome.status.code() == kUnknownSuffix ? unsupported : broken) << message;
   }
   const QString title = tr("Error occured");
   if (!unsupported.isEmpty()) {
@@ -147,14 +139,14 @@ void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& ou
 
 /// \param sets trace sets that are new, from 0
 void Talvesk_MainWindows::askForShotTime(const std::vector<std::size_t>& sets) {
-  double longest = 0.0;
+  double earliest = 0.0;
   for (const std::size_t set : sets) {
-    for (const Trace& trace : mDocument.traceSets[set]) longest = std::min(longest, trace.delay);
+    for (const Trace& trace : mDocument.traceSets[set]) earliest = std::min(earliest, trace.delay);
   }
-  if (longest >= 0.0) return;
+  if (earliest >= 0.0) return;
   const bool yes = askYesNo(
       this, tr("Recording delay"),
-      tr("The records start before the shot, by up to %1 ms.").arg(-1000.0 * longest),
+      tr("The records start before the shot, by up to %1 ms.").arg(-1000.0 * earliest),
       tr("Do you want to count times from the shot? What was recorded before it is then dropped."),
       true);
   if (!yes) return;
@@ -187,7 +179,7 @@ void Talvesk_MainWindows::on_actionLoad_TT_triggered() {
 
 void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   // An import replaces the picks at least.
-  if (hasAnyPick(mDocument) && !mayLoseChanges()) return;
+  if (hasPicks(mDocument) && !mayLoseChanges()) return;
   std::vector<std::string> warnings;
   const Status status = whileWaiting([&] {
     TravelTimeData times;
@@ -196,10 +188,7 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
     return read.ok() ? importTravelTimes(std::move(times), mDocument) : read;
   });
   if (!status.ok()) {
-    mLog.write(status.message(), 1);
-    showError(this, tr("Error occured"),
-              tr("Error while loading %1.").arg(QFileInfo(file).fileName()),
-              QString::fromStdString(status.message()));
+    tellFailure(this, mLog, tr("Error while loading %1.").arg(QFileInfo(file).fileName()), status);
     return;
   }
   // A profile is one of the picks that it was built from; without traces even the shots are others.
@@ -211,29 +200,21 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   statusBar()->showMessage(tr("Travel times of %n shot(s) imported.", nullptr,
                               static_cast<int>(mDocument.ttArray.size())),
                            kMessageTime);
-  QStringList lines;
-  for (const std::string& warning : warnings) lines << QString::fromStdString(warning);
-  if (!lines.isEmpty()) {
+  if (!warnings.empty()) {
     showNote(this, tr("Warning"),
-             tr("%1 was loaded with warnings.").arg(QFileInfo(file).fileName()), shortList(lines));
+             tr("%1 was loaded with warnings.").arg(QFileInfo(file).fileName()),
+             shortList(linesOf(warnings)));
   }
 }
 
 void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
   logSlot(__func__);
-  QFileDialog dialog(this, tr("Save TravelTimeExchange"), saveFolder(),
-                     tr("Open Travel Time Exchange format (*.otte);;All Files (*)"));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setFileMode(QFileDialog::AnyFile);
-  dialog.setDefaultSuffix(QStringLiteral("otte"));
-  proposeName(dialog, "otte");
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
-  const QString file = dialog.selectedFiles().front();
-  rememberSaved(file);
+  const QString file =
+      askForExport(tr("Save TravelTimeExchange"),
+                   tr("Open Travel Time Exchange format (*.otte);;All Files (*)"), "otte");
+  if (file.isEmpty()) return;
   if (const Status status = writeTravelTimes(file.toStdString(), mDocument); !status.ok()) {
-    mLog.write(status.message(), 1);
-    showError(this, tr("Error occured"), tr("The travel times have not been saved."),
-              QString::fromStdString(status.message()));
+    tellFailure(this, mLog, tr("The travel times have not been saved."), status);
     return;
   }
   statusBar()->showMessage(tr("Travel times saved in %1").arg(file), kMessageTime);

@@ -1,4 +1,5 @@
 #include "app/DialogSetGeometry.h"
+#include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
@@ -48,9 +49,7 @@ void Talvesk_MainWindows::takeGeometry(const SurveyGeometry& geometry) {
     fresh.push_back(i);
     mShots[i] = ShotMemory();
     mShots[i].format = QString::fromStdString(pair->format);
-    for (const std::string& warning : pair->warnings) {
-      mShots[i].warnings << QString::fromStdString(warning);
-    }
+    mShots[i].warnings = linesOf(pair->warnings);
     if (i < mInterpretation.ttLayer.size()) mInterpretation.ttLayer[i].layer.clear();
   }
   if (!fresh.empty()) {
@@ -58,7 +57,7 @@ void Talvesk_MainWindows::takeGeometry(const SurveyGeometry& geometry) {
   }
   documentChanged();
   if (!fresh.empty()) showFresh(static_cast<int>(fresh.front()));
-  statusBar()->showMessage(tr("The geometry of the survey has changed."), 10000);
+  statusBar()->showMessage(tr("The geometry of the survey has changed."), kMessageTime);
   askForShotTime(fresh);
 }
 

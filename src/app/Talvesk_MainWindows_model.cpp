@@ -1,4 +1,5 @@
 #include "app/Messages.h"
+#include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/WaitCursor.h"
 #include "app/gridDialog.h"
@@ -15,11 +16,6 @@
 // The commands that make and change the model of the ground: grid, starting model, smoothing.
 
 namespace talvesk {
-namespace {
-
-constexpr int kMessageTime = 10000;  // milliseconds that the status bar shows an outcome
-
-}  // namespace
 
 void Talvesk_MainWindows::on_actionGrid_triggered() {
   logSlot(__func__);
@@ -57,9 +53,7 @@ bool Talvesk_MainWindows::makeGrid(bool propose) {
                                kMessageTime);
       return true;
     }
-    mLog.write(status.message(), 1);
-    showError(this, tr("Error occured"), tr("The grid could not be built."),
-              QString::fromStdString(status.message()));
+    tellFailure(this, mLog, tr("The grid could not be built."), status);
   }
   return false;
 }
@@ -83,9 +77,7 @@ void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
     return smoothed;
   });
   if (!status.ok()) {
-    mLog.write(status.message(), 1);
-    showError(this, tr("Error occured"), tr("The grid could not be smoothed."),
-              QString::fromStdString(status.message()));
+    tellFailure(this, mLog, tr("The grid could not be smoothed."), status);
     return;
   }
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);

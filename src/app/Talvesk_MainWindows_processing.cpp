@@ -1,7 +1,9 @@
 #include "app/Messages.h"
+#include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/WaitCursor.h"
 #include "app/doFilteringDialog.h"
+#include "model/SurveyFacts.h"
 #include "processing/FirstBreak.h"
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
@@ -12,7 +14,6 @@
 #include <QApplication>
 #include <QProgressDialog>
 #include <QStatusBar>
-#include <algorithm>
 
 namespace talvesk {
 
@@ -58,14 +59,14 @@ void Talvesk_MainWindows::on_actionAutoPick_triggered() {
   refreshPlots();
   // The traces may be behind another tab.
   std::size_t traces = 0;
-  std::ptrdiff_t found = 0;
+  std::size_t found = 0;
   for (const ReplacedPicks& one : picked) {
-    const auto& times = mDocument.ttArray[static_cast<std::size_t>(one.shot)].ttMisurati;
-    traces += times.size();
-    found += std::count_if(times.begin(), times.end(), hasPick);
+    const TravelTime& record = mDocument.ttArray[static_cast<std::size_t>(one.shot)];
+    traces += record.ttMisurati.size();
+    found += pickCount(record);
   }
   statusBar()->showMessage(tr("First breaks found on %1 of %2 traces.").arg(found).arg(traces),
-                           10000);
+                           kMessageTime);
   if (!failed.ok()) {
     mLog.write(failed.message(), 1);
     showError(this, tr("Warning"), tr("Not every shot could be picked."),
@@ -91,7 +92,7 @@ void Talvesk_MainWindows::makeFilteredCopies(
   statusBar()->showMessage(tr("Filtered copies made of %1 of %2 traces.")
                                .arg(sum.filtered)
                                .arg(sum.filtered + sum.failed),
-                           10000);
+                           kMessageTime);
   if (sum.failed > 0) {
     mLog.write(sum.status.message(), 1);
     showError(this, tr("Warning"),

@@ -1,4 +1,5 @@
 #include "app/Messages.h"
+#include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/progressDialog.h"
 #include "io/ProjectWriter.h"
@@ -20,15 +21,7 @@
 namespace talvesk {
 namespace {
 
-constexpr int kMessageTime = 10000;  // milliseconds that the status bar shows an outcome
-
 const QString kSuffix = QStringLiteral(".tvsk");
-
-QStringList listOf(const std::vector<std::string>& texts) {
-  QStringList list;
-  for (const std::string& text : texts) list << QString::fromStdString(text);
-  return list;
-}
 
 /// The format of a shot file as its reader would name it.
 QString formatOf(const std::string& file) {
@@ -128,7 +121,7 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
   statusBar()->showMessage(tr("Project saved in %1").arg(file), kMessageTime);
   if (!writer.warnings().empty()) {
     showWarning(this, tr("Warning"), tr("The project has been saved."),
-                shortList(listOf(writer.warnings())));
+                shortList(linesOf(writer.warnings())));
   }
   return true;
 }
@@ -161,7 +154,7 @@ bool Talvesk_MainWindows::loadProject(const QString& file, LoadedProject& projec
   if (!rays.ok()) mLog.write(rays.message(), 1);
   if (!reader.warnings().empty()) {
     showWarning(this, tr("Warning"), tr("Error while loading traces: Invalid file format."),
-                shortList(listOf(reader.warnings())));
+                shortList(linesOf(reader.warnings())));
   }
   return true;
 }

@@ -1,4 +1,5 @@
 #include "app/Messages.h"
+#include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "io/ProjectSnapshot.h"
 
@@ -101,7 +102,7 @@ void Talvesk_MainWindows::offerRecovery() {
   mRecovery.adopt(*copy);
   documentModified();
   // It may have no file yet that could be named as loaded.
-  statusBar()->showMessage(tr("The survey is recovered; it is not saved yet."), 10000);
+  statusBar()->showMessage(tr("The survey is recovered; it is not saved yet."), kMessageTime);
 }
 
 }  // namespace talvesk

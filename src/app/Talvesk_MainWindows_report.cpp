@@ -1,9 +1,10 @@
 #include "app/ImagesDialog.h"
 #include "app/Messages.h"
+#include "app/Outcomes.h"
 #include "app/ReportDialog.h"
 #include "app/ScreenshotDialog.h"
 #include "app/Talvesk_MainWindows.h"
-#include "base/AtomicFile.h"
+#include "figures/FigureOutput.h"
 #include "figures/Report.h"
 #include "figures/ReportPages.h"
 #include "ui_Talvesk_MainWindows.h"
@@ -13,21 +14,17 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDate>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
 #include <QProgressDialog>
 #include <QSettings>
 #include <QStatusBar>
-#include <algorithm>
-#include <string_view>
 
 // The commands that write pictures and reports.
 
 namespace talvesk {
 namespace {
 
-constexpr int kMessageTime = 10000;  ///< milliseconds that the status bar shows an outcome
 constexpr int kProgressSteps = 100;
 
 /// A bar that stays until it is closed, even where the work ends before it would show.
@@ -47,9 +44,7 @@ Status writePicture(const QImage& picture, const QString& file, int quality) {
   if (!picture.save(&buffer, jpeg ? "JPEG" : "PNG", jpeg ? quality : -1)) {
     return Status::failure("The picture cannot be made: " + file.toStdString());
   }
-  return writeFileAtomically(
-      file.toStdString(),
-      std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  return writeBytes(file.toStdString(), bytes);
 }
 
 }  // namespace
@@ -104,8 +99,7 @@ void Talvesk_MainWindows::writeImages(const std::vector<PlannedImage>& images) {
                                     : tr("%n picture(s) saved.", nullptr, count);
   statusBar()->showMessage(told, kMessageTime);
   if (status.ok()) return;
-  mLog.write(status.message(), 1);
-  showError(this, tr("Error occured"), told, QString::fromStdString(status.message()));
+  tellFailure(this, mLog, told, status);
 }
 
 void Talvesk_MainWindows::on_actionScreenshot_triggered() {
@@ -177,9 +171,7 @@ void Talvesk_MainWindows::tellReport(const Status& written, const QString& file)
   } else if (written.code() == kReportCancelled) {
     statusBar()->showMessage(tr("Stopped; nothing has been saved."), kMessageTime);
   } else {
-    mLog.write(written.message(), 1);
-    showError(this, tr("Error occured"), tr("The file has not been saved."),
-              QString::fromStdString(written.message()));
+    tellFailure(this, mLog, tr("The file has not been saved."), written);
   }
 }
 

@@ -1,6 +1,7 @@
 #include "app/BackgroundInversion.h"
 #include "app/CommandLock.h"
 #include "app/Messages.h"
+#include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/progressTomographyDialog.h"
 #include "app/runTomography_Dialog.h"
@@ -17,8 +18,6 @@
 
 namespace talvesk {
 namespace {
-
-constexpr int kMessageTime = 10000;  // milliseconds that the status bar shows an outcome
 
 QString general(double value) {
   return QString::number(value, 'g', 6);
@@ -130,9 +129,7 @@ void Talvesk_MainWindows::modelChanged() {
 
 void Talvesk_MainWindows::showInversion(const TomographyResult& result) {
   if (!result.status.ok()) {
-    mLog.write(result.status.message(), 1);
-    showError(this, tr("Error occured"), tr("The inversion could not be completed."),
-              QString::fromStdString(result.status.message()));
+    tellFailure(this, mLog, tr("The inversion could not be completed."), result.status);
   }
   if (result.iterationsDone == 0) return;
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);

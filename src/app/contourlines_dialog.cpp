@@ -1,8 +1,8 @@
 #include "app/contourlines_dialog.h"
 
 #include "app/Messages.h"
+#include "app/NumberText.h"
 #include "app/SelectCSVDelimiterDialog.h"
-#include "base/TextNumber.h"
 #include "io/GeometryFile.h"
 #include "io/IsovalueFile.h"
 #include "ui_contourlines_dialog.h"
@@ -17,27 +17,16 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <algorithm>
-#include <cmath>
+#include <optional>
 
 namespace talvesk {
 namespace {
 
-QLocale numberLocale() {
-  QLocale locale;
-  locale.setNumberOptions(QLocale::RejectGroupSeparator | QLocale::OmitGroupSeparator);
-  return locale;
-}
-
-/// As the user writes numbers, or with a decimal point.
-bool numberOf(const QString& text, double& value) {
-  bool ok = false;
-  value = numberLocale().toDouble(text.trimmed(), &ok);
-  if (ok) return true;
-  return parseWholeDouble(text.trimmed().toStdString(), value) == NumberError::kNone;
-}
-
+/// With an exponent where the value is very large or small.
 QString textOf(double value) {
-  return numberLocale().toString(value, 'g', QLocale::FloatingPointShortest);
+  QLocale locale;
+  locale.setNumberOptions(QLocale::OmitGroupSeparator);
+  return locale.toString(value, 'g', QLocale::FloatingPointShortest);
 }
 
 QString isovalueFilter() {
@@ -190,15 +179,14 @@ std::vector<QLineEdit*> contourlines_dialog::editors() const {
 }
 
 bool contourlines_dialog::isInRange(const QString& text) const {
-  double value = 0.0;
-  return numberOf(text, value) && mRange.contains(value);
+  const std::optional<double> value = numberFrom(text);
+  return value && mRange.contains(*value);
 }
 
 std::vector<double> contourlines_dialog::sortedNumbers() const {
   std::vector<double> found;
   for (const QLineEdit* edit : editors()) {
-    double value = 0.0;
-    if (numberOf(edit->text(), value) && std::isfinite(value)) found.push_back(value);
+    if (const auto value = numberFrom(edit->text())) found.push_back(*value);
   }
   std::sort(found.begin(), found.end());
   found.erase(std::unique(found.begin(), found.end()), found.end());

@@ -1,6 +1,6 @@
 #include "app/setGeographyDialog.h"
 
-#include "app/CoordinateText.h"
+#include "app/NumberText.h"
 #include "ui_setGeographyDialog.h"
 
 #include <QLocale>
@@ -36,10 +36,10 @@ setGeographyDialog::setGeographyDialog(const std::optional<geographicsCoord>& co
     mUi->lastLabel->setText(tr("Last geophone (at %1 m)").arg(metres(ends->last)));
   }
   if (coordinates) {
-    mUi->estFstGeoph->setText(coordinateText(coordinates->mEastFstGeoph));
-    mUi->northFstGeoph->setText(coordinateText(coordinates->mNorthFstGeoph));
-    mUi->estLstGeoph->setText(coordinateText(coordinates->mEastLstGeoph));
-    mUi->northLstGeoph->setText(coordinateText(coordinates->mNorthLstGeoph));
+    mUi->estFstGeoph->setText(numberText(coordinates->mEastFstGeoph));
+    mUi->northFstGeoph->setText(numberText(coordinates->mNorthFstGeoph));
+    mUi->estLstGeoph->setText(numberText(coordinates->mEastLstGeoph));
+    mUi->northLstGeoph->setText(numberText(coordinates->mNorthLstGeoph));
     if (coordinates->CRS > 0) mUi->epsgEdit->setText(QString::number(coordinates->CRS));
   }
   for (QLineEdit* edit :
@@ -66,10 +66,10 @@ std::optional<std::int32_t> setGeographyDialog::code() const {
 }
 
 std::optional<geographicsCoord> setGeographyDialog::entered() const {
-  const auto eastFirst = coordinateFrom(mUi->estFstGeoph->text());
-  const auto northFirst = coordinateFrom(mUi->northFstGeoph->text());
-  const auto eastLast = coordinateFrom(mUi->estLstGeoph->text());
-  const auto northLast = coordinateFrom(mUi->northLstGeoph->text());
+  const auto eastFirst = numberFrom(mUi->estFstGeoph->text());
+  const auto northFirst = numberFrom(mUi->northFstGeoph->text());
+  const auto eastLast = numberFrom(mUi->estLstGeoph->text());
+  const auto northLast = numberFrom(mUi->northLstGeoph->text());
   if (!eastFirst || !northFirst || !eastLast || !northLast) return std::nullopt;
   return geographicsCoord{code().value_or(0), *eastFirst, *eastLast, *northFirst, *northLast};
 }
@@ -86,8 +86,8 @@ void setGeographyDialog::checkSystem() {
 }
 
 void setGeographyDialog::showPlace(QLabel& label, const QString& easting, const QString& northing) {
-  const auto east = coordinateFrom(easting);
-  const auto north = coordinateFrom(northing);
+  const auto east = numberFrom(easting);
+  const auto north = numberFrom(northing);
   LonLat place;
   if (!mTransformer || !east || !north || !mTransformer->transform(*east, *north, place)) {
     label.setText(QStringLiteral("\u2013"));

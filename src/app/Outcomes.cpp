@@ -1,0 +1,23 @@
+#include "app/Outcomes.h"
+
+#include "app/Messages.h"
+#include "base/Log.h"
+#include "base/Status.h"
+
+#include <QCoreApplication>
+
+namespace talvesk {
+
+void tellFailure(QWidget* window, Log& log, const QString& text, const Status& status) {
+  log.write(status.message(), 1);
+  showError(window, QCoreApplication::translate("talvesk::Talvesk_MainWindows", "Error occured"),
+            text, QString::fromStdString(status.message()));
+}
+
+QStringList linesOf(const std::vector<std::string>& texts) {
+  QStringList lines;
+  for (const std::string& text : texts) lines << QString::fromStdString(text);
+  return lines;
+}
+
+}  // namespace talvesk
