@@ -72,7 +72,7 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
   addImages(app, options.images,
             "The section as the project shows it: .png, .svg or .pdf; once per picture")
       ->group(kOutputGroup);
-  addReport(app, options.report, options.reportFields);
+  CLI::Option* report = addReport(app, options.report, options.reportFields);
 
   const auto geography = [&options]() -> geographicsCoord& {
     if (!options.geography) options.geography.emplace();
@@ -111,9 +111,9 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
           })
       ->needs(section)
       ->group(kColorGroup);
-  epsg->check([line, section](const std::string&) -> std::string {
-    if (line->count() > 0 || section->count() > 0) return {};
-    return "only --kml-line and --kml-section place the line";
+  epsg->check([line, section, report](const std::string&) -> std::string {
+    if (line->count() > 0 || section->count() > 0 || report->count() > 0) return {};
+    return "only --kml-line, --kml-section and --report tell the place of the line";
   });
 }
 

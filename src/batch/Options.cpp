@@ -4,6 +4,9 @@
 #include "batch/Manual.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
+#include "io/ShotFile.h"
+
+#include <algorithm>
 
 namespace talvesk {
 namespace {
@@ -23,6 +26,11 @@ void addInfo(CLI::App& app, InfoOptions& info) {
               "Write positions (metres) and times (seconds) as JSON; '-' is standard output. "
               "Several files make one array");
   command.add_flag("--samples", info.samples, "Write the samples of shot files, too")->needs(json);
+  command.final_callback([&info] {
+    if (info.samples && std::none_of(info.files.begin(), info.files.end(), hasShotFileSuffix)) {
+      throw CLI::ValidationError("--samples", "only shot files have samples to write");
+    }
+  });
 }
 
 void addPick(CLI::App& app, PickOptions& pick) {
@@ -41,8 +49,9 @@ void addPick(CLI::App& app, PickOptions& pick) {
   addImages(command, pick.images,
             "Draw the traces with their picks: a .pdf with a page per shot, or a .png or .svg per "
             "shot, numbered");
-  command.add_flag("--quiet", pick.quiet, "Print nothing but errors");
-  command.add_flag("--verbose", pick.verbose, "Print the messages of the readers and the picker");
+  CLI::Option* quiet = command.add_flag("--quiet", pick.quiet, "Print nothing but errors");
+  command.add_flag("--verbose", pick.verbose, "Print the messages of the readers and the picker")
+      ->excludes(quiet);
   command.final_callback([shots, &pick] { shots.check(pick.shots); });
 }
 

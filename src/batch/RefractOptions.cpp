@@ -39,9 +39,11 @@ void addRefract(CLI::App& app, RefractOptions& options) {
                                  "Draw the section of layers: .png, .svg or .pdf; once per "
                                  "picture");
   for (CLI::Option* option : {json, table, image}) option->group("Output");
-  command.add_flag("--quiet", options.quiet, "Print nothing but errors");
-  command.add_flag("--verbose", options.verbose,
-                   "Print the messages of the readers, the picker and the interpretation");
+  CLI::Option* quiet = command.add_flag("--quiet", options.quiet, "Print nothing but errors");
+  command
+      .add_flag("--verbose", options.verbose,
+                "Print the messages of the readers, the picker and the interpretation")
+      ->excludes(quiet);
   command.final_callback([inputs, shots, &options] {
     sortInputs(*inputs, shots.anyGiven(), options.input, options.shots.files);
     shots.check(options.shots);

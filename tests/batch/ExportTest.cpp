@@ -84,6 +84,9 @@ TEST(Export, takesPlacePaletteAndRangeFromTheCommandLine) {
   EXPECT_THAT(contentsOf(folder / "s.kml"),
               AllOf(HasSubstr("\n21.00668947,52.23197"), HasSubstr("<color>ff000000</color>"),
                     HasSubstr("<color>ffffffff</color>")));
+  const Outcome report = runBatch({"export", project, "--report", folder / "r.pdf", "--epsg",
+                                   "2180", "--first", "637000,487000", "--last", "637008,487000"});
+  EXPECT_EQ(report.code, 0) << "a report tells the place, too: " << report.err;
 }
 
 TEST(Export, writesTheOthersWhenOneFails) {
