@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <algorithm>
 #include <ostream>
 
 namespace talvesk {
@@ -235,23 +236,27 @@ void ColorPaletteWidget::updateHandleColor() {
   emit modified();
 }
 
+// An end that meets the other pushes it along, so that both can be typed in any order.
 void ColorPaletteWidget::updateMinValue(int value) {
-  if (value == minimum() || !mHandles.setScale(value, maximum())) return;
-  refresh();
-  emit changed_min_value(value);
+  const int low = std::clamp(value, -kMostValue, kMostValue - 1);
+  setScale(low, std::max(low + 1, maximum()));
 }
 
 void ColorPaletteWidget::updateMaxValue(int value) {
-  if (value == maximum() || !mHandles.setScale(minimum(), value)) return;
-  refresh();
-  emit changed_max_value(value);
+  const int high = std::clamp(value, -kMostValue + 1, kMostValue);
+  setScale(std::min(minimum(), high - 1), high);
 }
 
-void ColorPaletteWidget::setScale(int minimum, int maximum) {
-  if (!mHandles.setScale(minimum, maximum)) return;
+void ColorPaletteWidget::setScale(int low, int high) {
+  const int lowBefore = minimum();
+  const int highBefore = maximum();
+  if (!mHandles.setScale(low, high)) return;
   refresh();
-  emit changed_min_value(minimum);
-  emit changed_max_value(maximum);
+  // Who follows both never has them the wrong way round.
+  const bool upward = low > lowBefore;
+  if (upward && high != highBefore) emit changed_max_value(high);
+  if (low != lowBefore) emit changed_min_value(low);
+  if (!upward && high != highBefore) emit changed_max_value(high);
 }
 
 void ColorPaletteWidget::refresh() {
@@ -281,8 +286,6 @@ void ColorPaletteWidget::refresh() {
 void ColorPaletteWidget::refreshScale() {
   const QSignalBlocker low(mMinimumBox);
   const QSignalBlocker high(mMaximumBox);
-  mMinimumBox->setMaximum(maximum() - 1);
-  mMaximumBox->setMinimum(minimum() + 1);
   mMinimumBox->setValue(minimum());
   mMaximumBox->setValue(maximum());
 }

@@ -9,6 +9,8 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QTest>
+#include <limits>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -146,9 +148,22 @@ TEST_F(PaletteEditor, carriesTheHandlesAlongWithTheScale) {
   EXPECT_THAT(values(), ElementsAre(0, 2000, 4000, 8000));
   EXPECT_THAT(minima, ElementsAre(0));
   EXPECT_THAT(maxima, ElementsAre(8000));
-  widget.updateMinValue(8000);
-  EXPECT_EQ(widget.minimum(), 0) << "never an empty scale";
   EXPECT_EQ(modified, 0);
+}
+
+TEST_F(PaletteEditor, letsTheEndsOfTheScalePushEachOther) {
+  const auto type = [this](const char* box, int value) { child<QSpinBox>(box).setValue(value); };
+  type("minimum", 6000);  // above the maximum of 5000
+  EXPECT_THAT(std::make_pair(widget.minimum(), widget.maximum()), ::testing::Pair(6000, 6001));
+  EXPECT_THAT(maxima, ElementsAre(6001));
+  type("maximum", 9000);
+  type("maximum", 100);
+  EXPECT_THAT(std::make_pair(widget.minimum(), widget.maximum()), ::testing::Pair(99, 100));
+  EXPECT_THAT(minima, ElementsAre(6000, 99));
+  EXPECT_THAT(maxima, ElementsAre(6001, 9000, 100));
+  widget.updateMinValue(std::numeric_limits<int>::max());
+  widget.updateMaxValue(std::numeric_limits<int>::min());
+  EXPECT_LT(widget.minimum(), widget.maximum());
 }
 
 TEST_F(PaletteEditor, changesTheScaleButNotTheColoursOfABuiltInPalette) {
