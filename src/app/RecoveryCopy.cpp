@@ -105,8 +105,9 @@ void RecoveryCopy::save(LoadedProject copy, const QString& project) {
 
 void RecoveryCopy::finish(int run, int result, const QString& reason) {
   if (mThread == nullptr || run != mRun) return;  // wait() was faster
-  mThread->wait();
-  mThread.reset();
+  const bool wanted = mUnwanted.isEmpty();
+  wait();
+  if (!wanted) return;
   if (result == 0) {
     emit saved();
   } else {
@@ -118,12 +119,24 @@ void RecoveryCopy::wait() {
   if (mThread == nullptr) return;
   mThread->wait();
   mThread.reset();
+  removeUnwanted();
+}
+
+void RecoveryCopy::removeUnwanted() {
+  if (mUnwanted.isEmpty()) return;
+  removeFiles(mUnwanted);
+  mUnwantedsLock.reset();
+  mUnwanted.clear();
 }
 
 void RecoveryCopy::discard() {
-  wait();
   if (mLock == nullptr) return;
-  removeFiles(mFile);
+  if (isSaving()) {
+    mUnwanted = mFile;
+    mUnwantedsLock = std::move(mLock);
+  } else {
+    removeFiles(mFile);
+  }
   mLock.reset();
   mFile.clear();
 }

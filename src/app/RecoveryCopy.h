@@ -37,9 +37,10 @@ class RecoveryCopy : public QObject {
   /// \param project where the survey itself is saved; may be empty
   void save(LoadedProject copy, const QString& project);
   bool isSaving() const { return mThread != nullptr; }
-  void wait();  ///< until the copy that is being saved is there
 
-  void discard();                         ///< deletes the copy, if there is one
+  /// Deletes the copy, if there is one. Nobody waits for one that is being saved: it goes when its
+  /// thread has done with it, and the next copy gets another file.
+  void discard();
   void adopt(const AbandonedCopy& copy);  ///< it is the copy of this window from now on
 
   /// The latest copy that a program left behind that is gone.
@@ -53,11 +54,15 @@ class RecoveryCopy : public QObject {
 
  private:
   bool take();  ///< a file of our own
+  void wait();  ///< for the thread
+  void removeUnwanted();
   void finish(int run, int result, const QString& reason);
 
   QString mFolder;
   QString mFile;
   std::shared_ptr<QLockFile> mLock;
+  QString mUnwanted;                          ///< is being saved, and not wanted any more
+  std::shared_ptr<QLockFile> mUnwantedsLock;  ///< until its file is gone
   std::unique_ptr<QThread> mThread;
   int mRun = 0;  ///< number of the save under way: a late message of an earlier one is none of it
 };

@@ -1,3 +1,4 @@
+#include "app/RecoveryCopy.h"
 #include "gui/WindowTest.h"
 #include "io/ProjectSnapshot.h"
 #include "io/ProjectWriter.h"
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QLockFile>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
@@ -298,7 +300,7 @@ TEST_F(Projects, haveARecoveryCopyOnlyWhileThereIsSomethingToLose) {
   autosave();
   EXPECT_EQ(recoveryFiles().size(), 3);  // copy, note and lock
   saveAs(path("line.tvsk"));
-  EXPECT_TRUE(recoveryFiles().isEmpty());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return recoveryFiles().isEmpty(); }));
   autosave(false);
   QTest::qWait(200);
   EXPECT_TRUE(recoveryFiles().isEmpty());
@@ -309,7 +311,29 @@ TEST_F(Projects, leaveNoRecoveryCopyAfterTheWindowWasClosed) {
   dialogs.expectBox(QStringLiteral("Talvesk"), QStringLiteral("The document has been modified"),
                     QString(), QMessageBox::Discard);
   EXPECT_TRUE(window->close());
+  window.reset();
   EXPECT_TRUE(recoveryFiles().isEmpty());
+}
+
+TEST_F(Projects, doNotWaitForARecoveryCopyThatNobodyWantsAnyMore) {
+  RecoveryCopy recovery(path("Talvesk_TMP/"));
+  QSignalSpy saved(&recovery, &RecoveryCopy::saved);
+  const auto save = [&recovery] {
+    LoadedProject survey;
+    survey.document.title = "Line";
+    recovery.save(std::move(survey), QString());
+  };
+  save();
+  recovery.discard();
+  EXPECT_TRUE(recovery.isSaving()) << "it has been waited for";
+  save();  // too early: nothing happens
+  while (recovery.isSaving()) QTest::qWait(10);
+  EXPECT_TRUE(recoveryFiles().isEmpty());
+  EXPECT_EQ(saved.count(), 0);
+  save();
+  while (recovery.isSaving()) QTest::qWait(10);
+  EXPECT_EQ(recoveryFiles().size(), 3);
+  EXPECT_EQ(saved.count(), 1);
 }
 
 /// The recovery copy of a program that is gone.
