@@ -203,10 +203,11 @@ void Talvesk_MainWindows::showSectionCursor(const SectionReading& reading) {
   QStringList parts = {tr("Distance %1 m").arg(locale.toString(reading.position.x, 'f', 2)),
                        tr("Elevation %1 m").arg(locale.toString(reading.position.z, 'f', 2))};
   if (reading.depth) parts << tr("Depth %1 m").arg(locale.toString(*reading.depth, 'f', 2));
-  if (reading.velocity) {
+  // What is not shown is not read either.
+  if (reading.velocity && mSection.profile) {
     parts << tr("Velocity %1 m/s").arg(locale.toString(*reading.velocity, 'f', 0));
   }
-  if (reading.value && mSection.quantity != SectionQuantity::kVelocity) {
+  if (reading.value && mSection.profile && mSection.quantity != SectionQuantity::kVelocity) {
     const QString value = locale.toString(*reading.value, 'g', 4);
     parts << (mSection.quantity == SectionQuantity::kVerticalGradient
                   ? tr("Gradient %1 1/s").arg(value)

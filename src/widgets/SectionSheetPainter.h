@@ -53,6 +53,7 @@ class SheetPainter {
 
   bool isTurned() const { return mCamera.turn != 0.0 || mCamera.tilt != 0.0; }
   QRectF visible() const;  ///< survey x and elevation in the plot; top() is the lower elevation
+  QRectF axisRoom() const;
   AxisTicks distanceTicks() const;
   AxisTicks elevationTicks() const;
   Axis distanceAxis() const;

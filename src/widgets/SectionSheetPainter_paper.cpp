@@ -163,6 +163,12 @@ SheetPainter::Axis SheetPainter::elevationAxis() const {
   return axis;
 }
 
+/// The plot with the margins where its axes are when it is not turned.
+QRectF SheetPainter::axisRoom() const {
+  return {QPointF(0.0, mPlot.top()),
+          QPointF(mPlot.right(), mPlot.bottom() + kTick + 4.0 + 2.0 * mLine)};
+}
+
 void SheetPainter::paintAxis(const Axis& axis) {
   const bool below = axis.outward.y() > 0.0;
   for (const double value : axis.ticks.minor) {
@@ -182,8 +188,16 @@ void SheetPainter::paintAxis(const Axis& axis) {
     }
     mPainter.drawText(box, below ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignRight, texts[i]);
   }
+  QPointF middle = axis.middle + axis.titleDistance * axis.outward;
+  if (isTurned()) {
+    const double half = 0.5 * QFontMetricsF(mPainter.font()).horizontalAdvance(axis.title);
+    const QPointF reach = below ? QPointF(half, 0.5 * mLine) : QPointF(0.5 * mLine, half);
+    const QRectF room = axisRoom();
+    middle = {std::max(room.left() + reach.x(), std::min(middle.x(), room.right() - reach.x())),
+              std::max(room.top() + reach.y(), std::min(middle.y(), room.bottom() - reach.y()))};
+  }
   mPainter.save();
-  mPainter.translate(axis.middle + axis.titleDistance * axis.outward);
+  mPainter.translate(middle);
   if (!below) mPainter.rotate(-90.0);
   mPainter.drawText(QRectF(-300.0, -mLine, 600.0, 2.0 * mLine), Qt::AlignCenter, axis.title);
   mPainter.restore();
@@ -193,7 +207,8 @@ void SheetPainter::paintAxes() {
   mPainter.save();
   mPainter.setPen(QPen(Qt::black, 1.0));
   if (isTurned()) {
-    mPainter.setClipRect(mPlot);
+    // The axes go with the section; where it reaches an edge, the margin takes their numbers.
+    mPainter.setClipRect(axisRoom());
     mPainter.setRenderHint(QPainter::Antialiasing);
     mPainter.setBrush(Qt::NoBrush);
     mPainter.drawPolygon(mMap.map(QPolygonF(visible())));
