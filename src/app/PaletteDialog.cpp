@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLocale>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -131,8 +132,11 @@ void PaletteDialog::refreshCurrent() {
 
 void PaletteDialog::refreshInformation() {
   const ColorPalette& palette = mPalettes.current();
+  QLocale locale;
+  locale.setNumberOptions(QLocale::OmitGroupSeparator);
   mUi->infoLabel->setText(
-      tr("MIN: %1, MAX: %2").arg(palette.min_db, 0, 'g', 10).arg(palette.max_db, 0, 'g', 10));
+      tr("MIN: %1, MAX: %2")
+          .arg(locale.toString(palette.min_db, 'g', 10), locale.toString(palette.max_db, 'g', 10)));
 }
 
 void PaletteDialog::refreshIcon() {

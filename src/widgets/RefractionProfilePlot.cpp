@@ -2,6 +2,7 @@
 
 #include "figures/SectionItems.h"
 
+#include <QLocale>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -34,7 +35,7 @@ void RefractionProfilePlot::setScene(RefractionScene scene) {
   }
   const auto name = [](int layer, double velocity) {
     return std::isfinite(velocity) && velocity > 0.0
-               ? tr("Layer %1, %2 m/s").arg(layer).arg(std::round(velocity), 0, 'f', 0)
+               ? tr("Layer %1, %2 m/s").arg(layer).arg(QLocale().toString(velocity, 'f', 0))
                : tr("Layer %1").arg(layer);
   };
   if (!mScene.isEmpty()) {
