@@ -169,6 +169,9 @@ TEST_F(Section, theStatusBarReadsWhatIsUnderTheCursor) {
   EXPECT_THAT(cursorText().toStdString(), ::testing::HasSubstr("Gradient "));
   action("actionVertical_Gradient").trigger();
   EXPECT_THAT(cursorText().toStdString(), ::testing::Not(::testing::HasSubstr("Gradient ")));
+  action("actionShow_Tomographic_Profile").trigger();
+  EXPECT_EQ(cursorText().toStdString(), "Distance 110.25 m   Elevation 96.50 m   Depth 3.50 m");
+  action("actionShow_Tomographic_Profile").trigger();
   moveTo({2.0, 2.0});
   EXPECT_TRUE(cursorText().isEmpty());
 }
