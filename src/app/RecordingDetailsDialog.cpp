@@ -64,7 +64,8 @@ RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   for (std::size_t i = 0; i < mDocument.traceSets.size(); ++i) {
     const QString path = QString::fromStdString(shotFile(mDocument, i));
-    mUi->fileCBox->addItem(QStringLiteral("%1: %2").arg(i + 1).arg(QFileInfo(path).fileName()));
+    mUi->fileCBox->addItem(
+        tr("%1: %2", "shot number, file name").arg(i + 1).arg(QFileInfo(path).fileName()));
     mUi->fileCBox->setItemData(static_cast<int>(i),
                                QStringLiteral("<qt>%1</qt>").arg(path.toHtmlEscaped()),
                                Qt::ToolTipRole);

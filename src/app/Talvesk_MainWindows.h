@@ -253,6 +253,8 @@ class Talvesk_MainWindows : public QMainWindow {
   void proposeName(QFileDialog& dialog, const char* suffix) const;
   QString askForExport(const QString& title, const QString& filter, const char* suffix);
   QString askForGriddedText();
+  void exportTo(const QString& file, const std::function<Status(const std::string&)>& write);
+  void beginWriting(const QString& file);
   void tellExport(const Status& written, const QString& file);
   bool mayOverwrite(const std::vector<PlannedImage>& images);
   void writeImages(const std::vector<PlannedImage>& images);

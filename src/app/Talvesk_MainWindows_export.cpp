@@ -10,6 +10,7 @@
 #include "export/VtkGrid.h"
 #include "ui_Talvesk_MainWindows.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QStatusBar>
 
@@ -30,7 +31,24 @@ QString Talvesk_MainWindows::askForExport(const QString& title, const QString& f
   return dialog.selectedFiles().front();
 }
 
+/// Writes a file that may take as long as a breath, and tells the outcome.
+void Talvesk_MainWindows::exportTo(const QString& file,
+                                   const std::function<Status(const std::string&)>& write) {
+  beginWriting(file);
+  const Status written = write(file.toStdString());
+  QApplication::restoreOverrideCursor();
+  tellExport(written, file);
+}
+
+/// Says what the window is busy with until restoreOverrideCursor().
+void Talvesk_MainWindows::beginWriting(const QString& file) {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  statusBar()->showMessage(tr("Writing %1 ...").arg(file));
+  statusBar()->repaint();
+}
+
 void Talvesk_MainWindows::tellExport(const Status& written, const QString& file) {
+  statusBar()->clearMessage();
   if (written.ok()) {
     statusBar()->showMessage(tr("Saved in %1").arg(file), kMessageTime);
     return;
@@ -53,7 +71,8 @@ void Talvesk_MainWindows::on_actionExport_tomographic_data_triggered() {
   if (file.isEmpty()) return;
   GriddedTextOptions options;
   options.zOffset = -referenceElevation(*mDocument.grid);
-  tellExport(writeGriddedText(file.toStdString(), mDocument, options), file);
+  exportTo(file,
+           [&](const std::string& path) { return writeGriddedText(path, mDocument, options); });
 }
 
 void Talvesk_MainWindows::on_actionGridded_Data_triggered() {
@@ -63,7 +82,9 @@ void Talvesk_MainWindows::on_actionGridded_Data_triggered() {
   if (file.isEmpty()) return;
   ExportTomoVelData dialog(this);
   if (dialog.exec() != QDialog::Accepted) return;
-  tellExport(writeGriddedText(file.toStdString(), mDocument, dialog.options()), file);
+  exportTo(file, [&](const std::string& path) {
+    return writeGriddedText(path, mDocument, dialog.options());
+  });
 }
 
 void Talvesk_MainWindows::on_actionExport_VTK_triggered() {
@@ -71,7 +92,8 @@ void Talvesk_MainWindows::on_actionExport_VTK_triggered() {
   if (!mDocument.grid) return;
   const QString file = askForExport(tr("Export VTK Grid"),
                                     tr("VTK unstructured grid (*.vtu);;All Files (*)"), "vtu");
-  if (!file.isEmpty()) tellExport(writeVtkGrid(file.toStdString(), mDocument), file);
+  if (file.isEmpty()) return;
+  exportTo(file, [this](const std::string& path) { return writeVtkGrid(path, mDocument); });
 }
 
 void Talvesk_MainWindows::on_actionExport_Surfer_triggered() {
@@ -79,7 +101,8 @@ void Talvesk_MainWindows::on_actionExport_Surfer_triggered() {
   if (!mDocument.grid) return;
   const QString file =
       askForExport(tr("Export Surfer Grid"), tr("Surfer ASCII grid (*.grd);;All Files (*)"), "grd");
-  if (!file.isEmpty()) tellExport(writeSurferGrid(file.toStdString(), mDocument), file);
+  if (file.isEmpty()) return;
+  exportTo(file, [this](const std::string& path) { return writeSurferGrid(path, mDocument); });
 }
 
 /// Whether the line has a place on the globe; the user is told when it has none.
@@ -98,9 +121,9 @@ void Talvesk_MainWindows::on_actionExportTomographic_profile_2_KML_triggered() {
       askForExport(tr("Export Tomography to KML"), tr("KML (*.kml);;All Files (*)"), "kml");
   if (file.isEmpty()) return;
   const ColorPalette& palette = mPalettes.current();
-  tellExport(
-      writeSectionKml(file.toStdString(), mDocument, palette, {palette.min_db, palette.max_db}),
-      file);
+  exportTo(file, [&](const std::string& path) {
+    return writeSectionKml(path, mDocument, palette, {palette.min_db, palette.max_db});
+  });
 }
 
 void Talvesk_MainWindows::on_actionExportSeismic_line_triggered() {
@@ -108,7 +131,8 @@ void Talvesk_MainWindows::on_actionExportSeismic_line_triggered() {
   if (!lineEnds(mDocument) || !mayExportKml()) return;
   const QString file =
       askForExport(tr("Export Seismic Line to KML"), tr("KML (*.kml);;All Files (*)"), "kml");
-  if (!file.isEmpty()) tellExport(writeSeismicLineKml(file.toStdString(), mDocument), file);
+  if (file.isEmpty()) return;
+  exportTo(file, [this](const std::string& path) { return writeSeismicLineKml(path, mDocument); });
 }
 
 void Talvesk_MainWindows::on_actionSet_geography_coordinates_triggered() {

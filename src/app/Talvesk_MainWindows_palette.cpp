@@ -8,15 +8,6 @@
 // What colours the section: the palettes and the contours.
 
 namespace talvesk {
-namespace {
-
-void showOver(SectionQuantity quantity, ContourSettings& contours) {
-  if (quantity == SectionQuantity::kVelocity) contours.onProfile = true;
-  if (quantity == SectionQuantity::kVerticalGradient) contours.onVerticalGradient = true;
-  if (quantity == SectionQuantity::kLaplacian) contours.onLaplacian = true;
-}
-
-}  // namespace
 
 /// The section without its lines: what values it shows. None where there is nothing to show.
 std::optional<SectionScene> Talvesk_MainWindows::plainSection(SectionQuantity quantity) const {
@@ -72,10 +63,8 @@ void Talvesk_MainWindows::on_actionShow_Contour_Lines_triggered() {
   if (mSection.quantity != SectionQuantity::kVelocity) {
     if (const auto scene = plainSection(mSection.quantity)) range = scene->range;
   }
-  ContourSettings proposed = mSection.contours;
   // Who wants contours where there are none yet wants to see them.
-  if (!showsContours(proposed, mSection.quantity)) showOver(mSection.quantity, proposed);
-  contourlines_dialog dialog(proposed, range,
+  contourlines_dialog dialog(proposedContours(mSection.contours, mSection.quantity, range), range,
                              QString::fromStdString(quantityUnit(mSection.quantity)), this);
   const bool accepted = dialog.exec() == QDialog::Accepted;
   refreshSectionCommands();  // the click has turned the action over, whatever was answered

@@ -11,8 +11,8 @@
 #include "view/RefractorLines.h"
 #include "widgets/SectionView.h"
 
+#include <QApplication>
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QDate>
 #include <QFileInfo>
 #include <QLocale>
@@ -115,10 +115,12 @@ void Talvesk_MainWindows::on_actionScreenshot_triggered() {
   const QString file = askForExport(tr("Save screenshot"),
                                     tr("PNG picture (*.png);;JPEG picture (*.jpg *.jpeg)"), "png");
   if (file.isEmpty()) return;
+  beginWriting(file);
   const QImage picture = view->picture(size, SectionView::Part::kSeen, dialog.scale());
   const Status status = picture.isNull()
                             ? Status::failure("The view cannot be drawn for a picture.")
                             : writePicture(picture, file, dialog.quality());
+  QApplication::restoreOverrideCursor();
   tellReport(status, file);
 }
 
@@ -166,6 +168,7 @@ void Talvesk_MainWindows::writeReportAs(const QString& title, const QString& fil
 }
 
 void Talvesk_MainWindows::tellReport(const Status& written, const QString& file) {
+  statusBar()->clearMessage();
   if (written.ok()) {
     statusBar()->showMessage(tr("Saved in %1").arg(file), kMessageTime);
   } else if (written.code() == kReportCancelled) {

@@ -11,6 +11,7 @@
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QComboBox>
+#include <QLocale>
 #include <QStatusBar>
 #include <chrono>
 
@@ -20,7 +21,9 @@ namespace talvesk {
 namespace {
 
 QString general(double value) {
-  return QString::number(value, 'g', 6);
+  QLocale locale;
+  locale.setNumberOptions(QLocale::OmitGroupSeparator);
+  return locale.toString(value, 'g', 6);
 }
 
 }  // namespace
@@ -38,6 +41,7 @@ void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
     mLog.write("grid does not exist; ask for parameter");
     if (!makeGrid(false)) return;
   }
+  dialog.setStartingModel(startingModelOf(mDocument));
   if (dialog.exec() != QDialog::Accepted) return;
   TomographyParameters parameters = dialog.parameters();
   parameters.asked = asked;

@@ -6,6 +6,7 @@
 #include "io/GeometryFile.h"
 #include "io/IsovalueFile.h"
 #include "ui_contourlines_dialog.h"
+#include "view/ContourLines.h"
 
 #include <QColorDialog>
 #include <QDir>
@@ -65,6 +66,15 @@ void contourlines_dialog::connectControls() {
   connect(mUi->save_button, &QPushButton::clicked, this, &contourlines_dialog::saveIsovalues);
   connect(mUi->load_button, &QPushButton::clicked, this, &contourlines_dialog::loadIsovalues);
   connect(mUi->remove_all_button, &QPushButton::clicked, this, &contourlines_dialog::removeAll);
+  connect(mUi->round_button, &QPushButton::clicked, this, [this] {
+    removeAll();
+    for (const double value : roundValues(mRange, kMostRoundContours)) addRow(textOf(value));
+    check();
+  });
+  for (QCheckBox* each : {mUi->profileContours, mUi->filledContours, mUi->gradientContours,
+                          mUi->laplacianGradientContours}) {
+    connect(each, &QCheckBox::toggled, this, &contourlines_dialog::showWhetherAny);
+  }
   connect(mUi->toolColorButton, &QToolButton::clicked, this, &contourlines_dialog::chooseColor);
 }
 
@@ -80,6 +90,7 @@ void contourlines_dialog::fillIn(const ContourSettings& settings) {
   showColor();
   for (const double value : settings.customValues) addRow(textOf(value));
   enable_filled_contours();
+  showWhetherAny();
   chooseCustomized(settings.customized);
 }
 
@@ -115,7 +126,7 @@ void contourlines_dialog::chooseCustomized(bool customized) {
   mUi->spinBoxLabel->setEnabled(!customized);
   for (QWidget* each :
        {static_cast<QWidget*>(mUi->scrollArea), static_cast<QWidget*>(mUi->add_button),
-        static_cast<QWidget*>(mUi->load_button)}) {
+        static_cast<QWidget*>(mUi->round_button), static_cast<QWidget*>(mUi->load_button)}) {
     each->setEnabled(customized);
   }
   check();
@@ -128,6 +139,12 @@ void contourlines_dialog::enable_filled_contours() {
     if (filled) other->setChecked(false);
     other->setEnabled(!filled);
   }
+}
+
+void contourlines_dialog::showWhetherAny() {
+  mUi->noneLabel->setText(showsAnyContours(settings())
+                              ? QString()
+                              : tr("None of these is checked: no contours will be drawn."));
 }
 
 void contourlines_dialog::add_value() {

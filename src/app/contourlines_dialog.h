@@ -49,6 +49,7 @@ class contourlines_dialog : public QDialog {
   std::vector<double> values() const;         ///< those of them within the range
   bool isInRange(const QString& text) const;
   void check();
+  void showWhetherAny();
   void saveIsovalues();
   void loadIsovalues();
   void takeLoaded(const std::vector<double>& loaded);

@@ -54,6 +54,30 @@ TomographyParameters runTomography_Dialog::parameters() const {
   return parameters;
 }
 
+void runTomography_Dialog::setStartingModel(StartingModel model) {
+  QString text;
+  switch (model) {
+    case StartingModel::kNone:
+      break;
+    case StartingModel::kDefault:
+      text = tr("Starts from the default model.");
+      break;
+    case StartingModel::kLayered:
+      text = tr("Starts from the layered model.");
+      break;
+    case StartingModel::kResult:
+      text = tr("Starts from the result of the last inversion.");
+      break;
+    case StartingModel::kSmoothed:
+      text = tr("Starts from the smoothed result of the last inversion.");
+      break;
+    case StartingModel::kOther:
+      text = tr("Starts from the present velocities of the grid.");
+      break;
+  }
+  mUi->startLabel->setText(text);
+}
+
 void runTomography_Dialog::checkMinWRTMax(int value) {
   if (value < mUi->minVelEdit->value()) mUi->maxVelEdit->setValue(value);
 }

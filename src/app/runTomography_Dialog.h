@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tomo/StartingModel.h"
 #include "tomo/TomographyRun.h"
 
 #include <QDialog>
@@ -21,6 +22,9 @@ class runTomography_Dialog : public QDialog {
   ~runTomography_Dialog() override;
 
   TomographyParameters parameters() const;
+
+  /// Shows what the inversion begins with.
+  void setStartingModel(StartingModel model);
 
  public slots:
   /// Each compares the new value with the box that has just got it, so neither ever moves the other

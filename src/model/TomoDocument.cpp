@@ -70,6 +70,7 @@ void TomoDocument::clearModelAndResults() {
   surface = Splines::LinearSpline();
   proposedCellSizes.clear();
   hasTomographicInfo = false;
+  smoothedResult = false;
   RMSE_tomography = -1.0;
   info_density.clear();
   coorcount.clear();

@@ -65,9 +65,10 @@ class TomoDocument {
 
   // --- Results of the last inversion.
   bool hasTomographicInfo = false;
-  double RMSE_tomography = -1.0;                 ///< relative RMS misfit, percent; negative: none
-  std::vector<double> info_density;              ///< per cell; -1.0 before any inversion
-  std::vector<double> coorcount;                 ///< metres of ray per cell, last update
+  bool smoothedResult = false;       ///< the grid was smoothed since; a project does not keep it
+  double RMSE_tomography = -1.0;     ///< relative RMS misfit, percent; negative: none
+  std::vector<double> info_density;  ///< per cell; -1.0 before any inversion
+  std::vector<double> coorcount;     ///< metres of ray per cell, last update
   std::vector<std::uint32_t> hitCounts;          ///< per cell, of the last external iteration
   std::vector<std::vector<std::uint32_t>> rays;  ///< node lists, shot by shot, receivers in order
   std::vector<ExcludedPosition> excluded;

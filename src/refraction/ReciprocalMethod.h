@@ -14,9 +14,9 @@ namespace talvesk {
 // Curves have two receivers at least and the abscissae of splines: strictly ascending. A sequence
 // of one value per receiver follows the receivers of the forward curve.
 
-/// The distances between the two points at which forward and reverse arrivals are taken, metres.
-/// The points lie XY to either side of the receiver: this half-separation is the convention of the
-/// whole interpretation.
+/// Half the distances between the two points at which forward and reverse arrivals are taken,
+/// metres. The points lie XY to either side of the receiver: this half-separation is the convention
+/// of the whole interpretation.
 inline constexpr std::array<double, 9> kXYFamily = {-4.0, -3.0, -2.0, -1.0, 0.0,
                                                     1.0,  2.0,  3.0,  4.0};
 

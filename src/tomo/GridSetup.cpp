@@ -57,6 +57,7 @@ Status checkSurvey(const SurveyProfile& profile) {
 /// Rays, coverage and misfit belong to the grid that they were traced through.
 void forgetInversion(TomoDocument& document) {
   document.hasTomographicInfo = false;
+  document.smoothedResult = false;
   document.RMSE_tomography = -1.0;
   document.rays.clear();
   document.coorcount.clear();
@@ -164,6 +165,7 @@ Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool s
     }
     for (std::uint32_t c = 0; c < current.cellCount(); ++c) smoothed->setDraw(c, current.draw(c));
     document.grid = std::move(smoothed);
+    document.smoothedResult = document.hasTomographicInfo;
   } catch (const std::exception& error) {
     return Status::failure(std::string("The grid could not be smoothed: ") + error.what());
   }

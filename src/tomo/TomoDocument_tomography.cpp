@@ -157,6 +157,7 @@ Status TomoDocument::runTomography(std::vector<double>& slownesses, int solverIt
       setCoverage(*this, *corrected);
       grid = std::move(corrected);
       hasTomographicInfo = true;
+      smoothedResult = false;
       return status;
     }
   } catch (const std::exception& error) {

@@ -1,5 +1,8 @@
 #include "view/ContourLines.h"
 
+#include "base/RoundStep.h"
+
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -188,6 +191,23 @@ std::vector<ContourLine> contourLines(const SectionMesh& mesh,
     if (std::isfinite(level)) LevelTracer(mesh, cornerValues, level).trace(lines);
   }
   return lines;
+}
+
+std::vector<double> roundValues(const ValueRange& range, int most) {
+  std::vector<double> values;
+  const double span = range.span();
+  const double size = std::max(std::fabs(range.min), std::fabs(range.max));
+  // Far from zero a narrow range has no numbers to tell its values apart.
+  if (!(span > 1e-9 * size) || !std::isfinite(size) || most < 1) return values;
+  const double step = roundStep(span / most);
+  // Of a step below 1 only the reciprocal is a number without rounding.
+  const double perUnit = std::round(1.0 / step);
+  for (double i = std::ceil(range.min / step - 1e-9); i <= range.max / step + 1e-9; i += 1.0) {
+    const double value = step < 1.0 ? i / perUnit : i * step;
+    if (range.contains(value)) values.push_back(value);
+  }
+  if (static_cast<int>(values.size()) > most) values.pop_back();  // both ends are multiples
+  return values;
 }
 
 std::vector<double> equallySpacedValues(const ValueRange& range, int n) {

@@ -49,6 +49,10 @@ std::vector<ContourLine> contourLines(const SectionMesh& mesh,
                                       const std::vector<double>& cornerValues,
                                       const std::vector<double>& levels);
 
+/// The multiples of a round step (1, 2 or 5 times a power of ten) that lie within a range, its ends
+/// included: at most `most`, ascending; none for a range that is empty or not finite.
+std::vector<double> roundValues(const ValueRange& range, int most);
+
 /// The n values that divide a range into n + 1 equal parts; none for an n below 1 or an empty
 /// range.
 std::vector<double> equallySpacedValues(const ValueRange& range, int n);

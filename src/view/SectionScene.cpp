@@ -1,5 +1,6 @@
 #include "view/SectionScene.h"
 
+#include "base/RoundStep.h"
 #include "model/TomoDocument.h"
 #include "view/RayLines.h"
 #include "view/SectionValues.h"
@@ -285,15 +286,7 @@ ValueRange niceRange(const ValueRange& range) {
     const double margin = size > 0.0 ? 0.05 * size : 1.0;
     wide = {range.min - margin, range.max + margin};
   }
-  const double rough = wide.span() / 30.0;
-  const double power = std::pow(10.0, std::floor(std::log10(rough)));
-  double step = 10.0 * power;
-  for (const double factor : {1.0, 2.0, 5.0}) {
-    if (rough <= factor * power * (1.0 + 1e-9)) {
-      step = factor * power;
-      break;
-    }
-  }
+  const double step = roundStep(wide.span() / 30.0);
   // An end that is a multiple but for rounding stays where it is.
   return {std::floor(wide.min / step + 1e-6) * step, std::ceil(wide.max / step - 1e-6) * step};
 }

@@ -42,4 +42,23 @@ bool showsContours(const ContourSettings& settings, SectionQuantity quantity) {
   return false;
 }
 
+bool showsAnyContours(const ContourSettings& settings) {
+  return settings.onProfile || settings.filled || settings.onLaplacian ||
+         settings.onVerticalGradient;
+}
+
+ContourSettings proposedContours(ContourSettings settings, SectionQuantity quantity,
+                                 const ValueRange& range) {
+  if (showsContours(settings, quantity)) return settings;
+  const bool first = !showsAnyContours(settings);
+  if (quantity == SectionQuantity::kVelocity) settings.onProfile = true;
+  if (quantity == SectionQuantity::kVerticalGradient) settings.onVerticalGradient = true;
+  if (quantity == SectionQuantity::kLaplacian) settings.onLaplacian = true;
+  if (first && settings.customValues.empty()) {
+    settings.customValues = roundValues(range, kMostRoundContours);
+    settings.customized = !settings.customValues.empty();
+  }
+  return settings;
+}
+
 }  // namespace talvesk

@@ -7,6 +7,9 @@
 
 namespace talvesk {
 
+/// How many round values a list of contours gets at most.
+inline constexpr int kMostRoundContours = 15;
+
 /// What the user chose about contours.
 struct ContourSettings {
   bool customized = false;           ///< the list of values instead of equally spaced ones
@@ -28,6 +31,14 @@ std::vector<double> contourValues(const ContourSettings& settings, const ValueRa
 
 /// Whether any of the switches draws contours of that quantity, lines or bands.
 bool showsContours(const ContourSettings& settings, SectionQuantity quantity);
+
+/// Whether any of the switches is on, for whatever quantity.
+bool showsAnyContours(const ContourSettings& settings);
+
+/// What to propose to who asks for contours of a quantity that has none: those switched on, and
+/// the first time round values as the list, unless the user has a list already.
+ContourSettings proposedContours(ContourSettings settings, SectionQuantity quantity,
+                                 const ValueRange& range);
 
 /// Size of the geophone markers on the section.
 enum class GeophoneMarkers { kNone, kSmall, kNormal, kLarge };

@@ -1,19 +1,12 @@
 #include "widgets/AxisTicks.h"
 
+#include "base/RoundStep.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace talvesk {
 namespace {
-
-/// The least of 1, 2, 5, 10 ... times a power of ten that is not below `least`.
-double roundStep(double least) {
-  const double power = std::pow(10.0, std::floor(std::log10(least)));
-  for (const double factor : {1.0, 2.0, 5.0}) {
-    if (factor * power >= least * (1.0 - 1e-9)) return factor * power;
-  }
-  return 10.0 * power;
-}
 
 /// Parts of a step that minor marks divide it into.
 int partsOf(double step) {

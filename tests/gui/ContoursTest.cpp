@@ -208,7 +208,6 @@ TEST_F(Contours, areLoggedWhenTheyAreAccepted) {
   open();
   dialogs.expect([](QWidget& widget) {
     EXPECT_EQ(widget.windowTitle().toStdString(), "Contour Lines - Settings");
-    widget.findChild<QCheckBox*>("customizedCB")->click();
     widget.findChild<QCheckBox*>("filledContours")->click();
     widget.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
   });
@@ -229,13 +228,46 @@ TEST_F(Contours, areLoggedWhenTheyAreAccepted) {
   EXPECT_EQ(log().find("Filled Contours: false\n"), std::string::npos) << "cancelled";
 }
 
+TEST_F(Contours, areProposedRoundAndTheCommandSaysWhetherThereAreAny) {
+  dialog->close();
+  open();
+  window->document() = testing::sectionDocument(
+      6, 20, 0.0, [](std::uint32_t row, std::uint32_t) { return 600.0 + 200.0 * row; });
+  QAction& command = child<QAction>("actionShow_Contour_Lines");
+  command.setEnabled(true);
+  const struct {
+    const char* click;
+    QDialogButtonBox::StandardButton button;
+    bool shown;
+  } steps[] = {{nullptr, QDialogButtonBox::Cancel, false},
+               {nullptr, QDialogButtonBox::Ok, true},
+               {nullptr, QDialogButtonBox::Cancel, true},
+               {"profileContours", QDialogButtonBox::Ok, false}};
+  for (const auto& step : steps) {
+    dialogs.expect([&](QWidget& widget) {
+      EXPECT_TRUE(widget.findChild<QCheckBox*>("profileContours")->isChecked());
+      EXPECT_EQ(widget.findChild<QLineEdit*>()->text(), QStringLiteral("500"));
+      if (step.click != nullptr) widget.findChild<QCheckBox*>(step.click)->click();
+      EXPECT_EQ(widget.findChild<QLabel*>("noneLabel")->text().isEmpty(), step.click == nullptr);
+      widget.findChild<QDialogButtonBox*>()->button(step.button)->click();
+    });
+    command.trigger();
+    EXPECT_EQ(command.isChecked(), step.shown);
+  }
+}
+
+TEST_F(Contours, areRoundOnRequest) {
+  click("round_button");
+  EXPECT_THAT(values(), ElementsAre(500.0, 1000.0, 1500.0, 2000.0, 2500.0, 3000.0, 3500.0));
+}
+
 TEST_F(Contours, appearOnTheSection) {
   dialog->close();
   open();
   window->document() = testing::sectionDocument(
       6, 20, 0.0, [](std::uint32_t row, std::uint32_t) { return 600.0 + 200.0 * row; });
   dialogs.expect([](QWidget& widget) {
-    widget.findChild<QCheckBox*>("customizedCB")->click();
+    widget.findChild<QPushButton*>("remove_all_button")->click();
     widget.findChild<QPushButton*>("add_button")->click();
     widget.findChild<QWidget*>("rows")->findChild<QLineEdit*>()->setText("900");
     EXPECT_TRUE(widget.findChild<QCheckBox*>("profileContours")->isChecked());

@@ -1,6 +1,7 @@
 #include "gui/WindowTest.h"
 #include "support/SectionDocument.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -9,6 +10,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
+#include <QStatusBar>
 
 namespace talvesk {
 namespace {
@@ -79,6 +81,25 @@ TEST_F(Exports, ofKmlWarnWithoutCoordinatesAndAskForNoFile) {
     action(name).trigger();
     EXPECT_TRUE(dialogs.finished()) << name;
   }
+}
+
+TEST_F(Exports, sayWhatTheyAreBusyWithAndGiveTheCursorBack) {
+  takeSection(true);
+  QStringList told;
+  bool busy = false;
+  QObject::connect(&child<QStatusBar>("statusBar"), &QStatusBar::messageChanged,
+                   [&](const QString& message) {
+                     told << message;
+                     busy |= QApplication::overrideCursor() != nullptr;
+                   });
+  const QString file = QString::fromStdString(home.file("nowhere/line.kml"));
+  dialogs.expectFiles("Export Seismic Line to KML", {file});
+  dialogs.expectBox("Error occured", "The data have not been exported.", "", QMessageBox::Ok);
+  action("actionExportSeismic_line").trigger();
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  EXPECT_TRUE(busy);
+  EXPECT_TRUE(told.contains(QStringLiteral("Writing %1 ...").arg(file)));
+  EXPECT_EQ(told.back(), QString()) << "it is over";
 }
 
 struct FileCommand {

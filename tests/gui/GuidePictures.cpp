@@ -140,8 +140,6 @@ void storeSection(Talvesk_MainWindows& window, const QString& folder) {
   store(window, folder + QStringLiteral("/density.png"));
   child<QAction>(window, "actionShow_Information_Density_Layer").trigger();
   withDialog(child<QAction>(window, "actionShow_Contour_Lines"), [&](QWidget& dialog) {
-    child<QSpinBox>(dialog, "spinBox").setValue(5);
-    child<QCheckBox>(dialog, "profileContours").setChecked(true);
     store(dialog, folder + QStringLiteral("/contours.png"));
     static_cast<QDialog&>(dialog).accept();
   });

@@ -3,6 +3,7 @@
 #include "tomo/GridPreview.h"
 #include "tomo/GridSetup.h"
 #include "tomo/InversionCopy.h"
+#include "tomo/StartingModel.h"
 
 #include <gtest/gtest.h>
 
@@ -60,6 +61,29 @@ TEST(GridPreview, saysWhatCannotBeBuilt) {
   EXPECT_FALSE(previewGrid(profile, {10.0, 60.0, 6}, 1).status.ok());
   EXPECT_NE(previewGrid(profile, {20.0, 1e-6, 6}, 1).status.message().find("nodes"),
             std::string::npos);
+}
+
+TEST(StartingModel, isToldThroughTheLifeOfAGrid) {
+  const testing::ConsoleCapture console;
+  Log log;
+  TomoDocument line = testing::twoLayers();
+  EXPECT_EQ(startingModelOf(line), StartingModel::kDefault);
+  ASSERT_TRUE(applyLayers(line, {{0, 300, 4, 600}, {4, 600, 12, 2000}}).ok());
+  EXPECT_EQ(startingModelOf(line), StartingModel::kLayered);
+  ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false).ok());
+  EXPECT_EQ(startingModelOf(line), StartingModel::kOther);
+  for (int run = 0; run < 2; ++run) {  // the second begins with the smoothed result of the first
+    ASSERT_TRUE(runInversion(line, testing::fewIterations(1), log).status.ok());
+    EXPECT_EQ(startingModelOf(line), StartingModel::kResult);
+    ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false).ok());
+    EXPECT_EQ(startingModelOf(line), StartingModel::kSmoothed);
+    TomoDocument copy = inversionCopy(line);
+    EXPECT_EQ(startingModelOf(copy), StartingModel::kSmoothed);
+  }
+  ASSERT_TRUE(setUpGrid(line, {12.0, 1.0, 6}, log).ok());
+  EXPECT_EQ(startingModelOf(line), StartingModel::kDefault);
+  line.grid.reset();
+  EXPECT_EQ(startingModelOf(line), StartingModel::kNone);
 }
 
 TEST(SmoothGrid, changesSlownessesAndNothingElse) {

@@ -1,3 +1,4 @@
+#include "view/ContourLines.h"
 #include "view/SectionViewSettings.h"
 
 #include <cmath>
@@ -40,6 +41,32 @@ TEST(ContourValues, areBoundedAndNoneInARangeThatIsNoRange) {
     EXPECT_THAT(contourValues(settings, {0.0, infinite}), IsEmpty());
     EXPECT_THAT(contourValues(settings, {std::nan(""), 5.0}), IsEmpty());
   }
+}
+
+TEST(ContourValues, areRoundWhereRoundOnesAreAskedFor) {
+  EXPECT_THAT(roundValues({250.0, 2000.0}, 5), ElementsAre(500.0, 1000.0, 1500.0, 2000.0));
+  EXPECT_THAT(roundValues({-0.25, 0.31}, 6), ElementsAre(-0.2, -0.1, 0.0, 0.1, 0.2, 0.3));
+  EXPECT_THAT(roundValues({0.0, 10.0}, 5), ElementsAre(0.0, 2.0, 4.0, 6.0, 8.0));
+  const double infinite = std::numeric_limits<double>::infinity();
+  for (const ValueRange& none : {ValueRange{5.0, 5.0}, ValueRange{6.0, 5.0},
+                                 ValueRange{0.0, infinite}, ValueRange{1e17, 1e17 + 100.0}}) {
+    EXPECT_THAT(roundValues(none, 15), IsEmpty());
+  }
+}
+
+TEST(ContourValues, areProposedForTheQuantityShownAndSpareAListOfOnesOwn) {
+  const ContourSettings first = proposedContours({}, SectionQuantity::kLaplacian, {0.0, 100.0});
+  EXPECT_TRUE(first.onLaplacian && first.customized && !first.onProfile);
+  EXPECT_EQ(first.customValues.size(), 11U);
+  ContourSettings own;
+  own.customValues = {7.0};
+  own = proposedContours(own, SectionQuantity::kVelocity, {0.0, 100.0});
+  EXPECT_TRUE(own.onProfile && !own.customized);
+  EXPECT_THAT(own.customValues, ElementsAre(7.0));
+  ContourSettings equal;
+  equal.onProfile = true;
+  equal = proposedContours(equal, SectionQuantity::kVerticalGradient, {0.0, 100.0});
+  EXPECT_TRUE(equal.onVerticalGradient && !equal.customized) << "the values are chosen already";
 }
 
 }  // namespace
