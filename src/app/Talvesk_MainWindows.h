@@ -254,7 +254,7 @@ class Talvesk_MainWindows : public QMainWindow {
   QString askForExport(const QString& title, const QString& filter, const char* suffix);
   QString askForGriddedText();
   void exportTo(const QString& file, const std::function<Status(const std::string&)>& write);
-  void beginWriting(const QString& file);
+  void showWriting(const QString& file);  ///< in the status bar
   void tellExport(const Status& written, const QString& file);
   bool mayOverwrite(const std::vector<PlannedImage>& images);
   void writeImages(const std::vector<PlannedImage>& images);

@@ -2,6 +2,7 @@
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/WaitCursor.h"
 #include "app/setGeographyDialog.h"
 #include "export/GriddedText.h"
 #include "export/SectionKml.h"
@@ -10,7 +11,6 @@
 #include "export/VtkGrid.h"
 #include "ui_Talvesk_MainWindows.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QStatusBar>
 
@@ -34,15 +34,14 @@ QString Talvesk_MainWindows::askForExport(const QString& title, const QString& f
 /// Writes a file that may take as long as a breath, and tells the outcome.
 void Talvesk_MainWindows::exportTo(const QString& file,
                                    const std::function<Status(const std::string&)>& write) {
-  beginWriting(file);
-  const Status written = write(file.toStdString());
-  QApplication::restoreOverrideCursor();
+  const Status written = whileWaiting([&] {
+    showWriting(file);
+    return write(file.toStdString());
+  });
   tellExport(written, file);
 }
 
-/// Says what the window is busy with until restoreOverrideCursor().
-void Talvesk_MainWindows::beginWriting(const QString& file) {
-  QApplication::setOverrideCursor(Qt::WaitCursor);
+void Talvesk_MainWindows::showWriting(const QString& file) {
   statusBar()->showMessage(tr("Writing %1 ...").arg(file));
   statusBar()->repaint();
 }

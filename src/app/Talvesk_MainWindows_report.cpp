@@ -4,6 +4,7 @@
 #include "app/ReportDialog.h"
 #include "app/ScreenshotDialog.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/WaitCursor.h"
 #include "figures/FigureOutput.h"
 #include "figures/Report.h"
 #include "figures/ReportPages.h"
@@ -11,8 +12,8 @@
 #include "view/RefractorLines.h"
 #include "widgets/SectionView.h"
 
-#include <QApplication>
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDate>
 #include <QFileInfo>
 #include <QLocale>
@@ -115,12 +116,12 @@ void Talvesk_MainWindows::on_actionScreenshot_triggered() {
   const QString file = askForExport(tr("Save screenshot"),
                                     tr("PNG picture (*.png);;JPEG picture (*.jpg *.jpeg)"), "png");
   if (file.isEmpty()) return;
-  beginWriting(file);
-  const QImage picture = view->picture(size, SectionView::Part::kSeen, dialog.scale());
-  const Status status = picture.isNull()
-                            ? Status::failure("The view cannot be drawn for a picture.")
+  const Status status = whileWaiting([&] {
+    showWriting(file);
+    const QImage picture = view->picture(size, SectionView::Part::kSeen, dialog.scale());
+    return picture.isNull() ? Status::failure("The view cannot be drawn for a picture.")
                             : writePicture(picture, file, dialog.quality());
-  QApplication::restoreOverrideCursor();
+  });
   tellReport(status, file);
 }
 

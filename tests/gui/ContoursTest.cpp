@@ -246,7 +246,8 @@ TEST_F(Contours, areProposedRoundAndTheCommandSaysWhetherThereAreAny) {
   for (const auto& step : steps) {
     dialogs.expect([&](QWidget& widget) {
       EXPECT_TRUE(widget.findChild<QCheckBox*>("profileContours")->isChecked());
-      EXPECT_EQ(widget.findChild<QLineEdit*>()->text(), QStringLiteral("500"));
+      const auto* rows = widget.findChild<QWidget*>("rows");
+      EXPECT_EQ(rows->findChild<QLineEdit*>()->text().toStdString(), "500");
       if (step.click != nullptr) widget.findChild<QCheckBox*>(step.click)->click();
       EXPECT_EQ(widget.findChild<QLabel*>("noneLabel")->text().isEmpty(), step.click == nullptr);
       widget.findChild<QDialogButtonBox*>()->button(step.button)->click();
