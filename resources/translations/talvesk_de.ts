@@ -1095,7 +1095,7 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>&amp;Namen beginnen mit:</translation>
     </message>
     <message>
-        <source>Files to be &amp;written:</source>
+        <source>Files to be wri&amp;tten:</source>
         <translation>&amp;Zu schreibende Dateien:</translation>
     </message>
     <message>
@@ -1447,6 +1447,11 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>None</source>
         <translation>Keine</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RecoveryCopy</name>
@@ -1592,10 +1597,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Refractor:</source>
         <translation>Refraktor:</translation>
-    </message>
-    <message>
-        <source>XY (m):</source>
-        <translation>XY (m):</translation>
     </message>
     <message>
         <source>Velocity/Profile</source>
@@ -1787,6 +1788,14 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Close without keeping the changes?</source>
         <translation>Schließen, ohne die Änderungen zu behalten?</translation>
+    </message>
+    <message>
+        <source>XY, half distance (m):</source>
+        <translation>XY, halber Abstand (m):</translation>
+    </message>
+    <message>
+        <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
+        <translation>Die Hinschusskurve wird XY Meter nach dem Empfänger abgelesen, die Gegenschusskurve XY Meter davor: Die beiden Punkte liegen 2 XY auseinander.</translation>
     </message>
 </context>
 <context>
@@ -4157,6 +4166,10 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Set them with Project &gt; Set geographic coordinates ...</source>
         <translation>Geben Sie sie hier an: Projekt &gt; Geographische Koordinaten ...</translation>
     </message>
+    <message>
+        <source>Writing %1 ...</source>
+        <translation>%1 wird geschrieben ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -4491,6 +4504,18 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Select background color</source>
         <translation>Farbe der Isolinien wählen</translation>
+    </message>
+    <message>
+        <source>Round Values</source>
+        <translation>Runde Werte</translation>
+    </message>
+    <message>
+        <source>Replace the list by round values over the range</source>
+        <translation>Die Liste durch runde Werte über den Bereich ersetzen</translation>
+    </message>
+    <message>
+        <source>None of these is checked: no contours will be drawn.</source>
+        <translation>Nichts davon ist angekreuzt: Es werden keine Isolinien gezeichnet.</translation>
     </message>
 </context>
 <context>
@@ -5022,6 +5047,26 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>The minimum is above the maximum: every cell that changes will end at the maximum.</source>
         <translation>Das Minimum liegt über dem Maximum: Jede Zelle, die sich ändert, endet am Maximum.</translation>
+    </message>
+    <message>
+        <source>Starts from the default model.</source>
+        <translation>Beginnt mit dem Standardmodell.</translation>
+    </message>
+    <message>
+        <source>Starts from the layered model.</source>
+        <translation>Beginnt mit dem Schichtmodell.</translation>
+    </message>
+    <message>
+        <source>Starts from the result of the last inversion.</source>
+        <translation>Beginnt mit dem Ergebnis der letzten Inversion.</translation>
+    </message>
+    <message>
+        <source>Starts from the smoothed result of the last inversion.</source>
+        <translation>Beginnt mit dem geglätteten Ergebnis der letzten Inversion.</translation>
+    </message>
+    <message>
+        <source>Starts from the present velocities of the grid.</source>
+        <translation>Beginnt mit den jetzigen Geschwindigkeiten des Gitters.</translation>
     </message>
 </context>
 <context>

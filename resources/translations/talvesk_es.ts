@@ -1095,7 +1095,7 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Los &amp;nombres empiezan por:</translation>
     </message>
     <message>
-        <source>Files to be &amp;written:</source>
+        <source>Files to be wri&amp;tten:</source>
         <translation>Archivos por e&amp;scribir:</translation>
     </message>
     <message>
@@ -1447,6 +1447,11 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>None</source>
         <translation>Ninguna</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RecoveryCopy</name>
@@ -1592,10 +1597,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Refractor:</source>
         <translation>Refractor:</translation>
-    </message>
-    <message>
-        <source>XY (m):</source>
-        <translation>XY (m):</translation>
     </message>
     <message>
         <source>Velocity/Profile</source>
@@ -1787,6 +1788,14 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Close without keeping the changes?</source>
         <translation>¿Cerrar sin conservar los cambios?</translation>
+    </message>
+    <message>
+        <source>XY, half distance (m):</source>
+        <translation>XY, mitad de la distancia (m):</translation>
+    </message>
+    <message>
+        <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
+        <translation>La dromocrona directa se lee XY metros después del receptor y la inversa XY metros antes: los dos puntos distan 2 XY.</translation>
     </message>
 </context>
 <context>
@@ -4157,6 +4166,10 @@ Do you want to run refraction processing anyway? </source>
         <source>Set them with Project &gt; Set geographic coordinates ...</source>
         <translation>Indíquelas con Proyecto &gt; Definir coordenadas geográficas ...</translation>
     </message>
+    <message>
+        <source>Writing %1 ...</source>
+        <translation>Escribiendo %1 ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -4491,6 +4504,18 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Select background color</source>
         <translation>Seleccionar color de las isolíneas</translation>
+    </message>
+    <message>
+        <source>Round Values</source>
+        <translation>Valores redondos</translation>
+    </message>
+    <message>
+        <source>Replace the list by round values over the range</source>
+        <translation>Sustituir la lista por valores redondos a lo largo del rango</translation>
+    </message>
+    <message>
+        <source>None of these is checked: no contours will be drawn.</source>
+        <translation>Ninguna casilla está marcada: no se dibujará ninguna isolínea.</translation>
     </message>
 </context>
 <context>
@@ -5022,6 +5047,26 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>The minimum is above the maximum: every cell that changes will end at the maximum.</source>
         <translation>El mínimo supera el máximo: toda celda que cambie acabará en el máximo.</translation>
+    </message>
+    <message>
+        <source>Starts from the default model.</source>
+        <translation>Parte del modelo predeterminado.</translation>
+    </message>
+    <message>
+        <source>Starts from the layered model.</source>
+        <translation>Parte del modelo de capas.</translation>
+    </message>
+    <message>
+        <source>Starts from the result of the last inversion.</source>
+        <translation>Parte del resultado de la última inversión.</translation>
+    </message>
+    <message>
+        <source>Starts from the smoothed result of the last inversion.</source>
+        <translation>Parte del resultado suavizado de la última inversión.</translation>
+    </message>
+    <message>
+        <source>Starts from the present velocities of the grid.</source>
+        <translation>Parte de las velocidades actuales de la malla.</translation>
     </message>
 </context>
 <context>

@@ -1095,7 +1095,7 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Les &amp;noms commencent par&#xa0;:</translation>
     </message>
     <message>
-        <source>Files to be &amp;written:</source>
+        <source>Files to be wri&amp;tten:</source>
         <translation>Fichiers à é&amp;crire&#xa0;:</translation>
     </message>
     <message>
@@ -1447,6 +1447,11 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>None</source>
         <translation>Aucun</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RecoveryCopy</name>
@@ -1592,10 +1597,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Refractor:</source>
         <translation>Réfracteur&#xa0;:</translation>
-    </message>
-    <message>
-        <source>XY (m):</source>
-        <translation>XY (m)&#xa0;:</translation>
     </message>
     <message>
         <source>Velocity/Profile</source>
@@ -1787,6 +1788,14 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Close without keeping the changes?</source>
         <translation>Fermer sans conserver les modifications&#xa0;?</translation>
+    </message>
+    <message>
+        <source>XY, half distance (m):</source>
+        <translation>XY, demi-distance (m)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
+        <translation>La courbe directe est lue XY mètres après le récepteur, la courbe inverse XY mètres avant&#xa0;: les deux points sont distants de 2 XY.</translation>
     </message>
 </context>
 <context>
@@ -2462,7 +2471,7 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
     <message>
         <source>Refraction interpretation</source>
-        <translation>Interprétation de la réfraction</translation>
+        <translation>Interprétation en réfraction</translation>
     </message>
     <message>
         <source>Method</source>
@@ -3307,19 +3316,19 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
     <message>
         <source>Undo</source>
-        <translation>Annuler</translation>
+        <translation>Défaire</translation>
     </message>
     <message>
         <source>Take back the last edit of the picks</source>
-        <translation>Annuler la dernière modification des pointés</translation>
+        <translation>Défaire la dernière modification des pointés</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>Rétablir</translation>
+        <translation>Refaire</translation>
     </message>
     <message>
         <source>Do again the edit that was taken back</source>
-        <translation>Rétablir la modification annulée</translation>
+        <translation>Refaire la modification défaite</translation>
     </message>
     <message>
         <source>Open shots at the part of the record that holds the first breaks</source>
@@ -4157,6 +4166,10 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Set them with Project &gt; Set geographic coordinates ...</source>
         <translation>Indiquez-les avec Projet &gt; Définir les coordonnées géographiques ...</translation>
     </message>
+    <message>
+        <source>Writing %1 ...</source>
+        <translation>Écriture de %1 ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -4491,6 +4504,18 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Select background color</source>
         <translation>Choisir la couleur des isolignes</translation>
+    </message>
+    <message>
+        <source>Round Values</source>
+        <translation>Valeurs rondes</translation>
+    </message>
+    <message>
+        <source>Replace the list by round values over the range</source>
+        <translation>Remplacer la liste par des valeurs rondes sur la plage</translation>
+    </message>
+    <message>
+        <source>None of these is checked: no contours will be drawn.</source>
+        <translation>Aucune case n&apos;est cochée&#xa0;: aucune isoligne ne sera dessinée.</translation>
     </message>
 </context>
 <context>
@@ -5022,6 +5047,26 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>The minimum is above the maximum: every cell that changes will end at the maximum.</source>
         <translation>Le minimum est supérieur au maximum&#xa0;: chaque cellule modifiée finira au maximum.</translation>
+    </message>
+    <message>
+        <source>Starts from the default model.</source>
+        <translation>Part du modèle par défaut.</translation>
+    </message>
+    <message>
+        <source>Starts from the layered model.</source>
+        <translation>Part du modèle en couches.</translation>
+    </message>
+    <message>
+        <source>Starts from the result of the last inversion.</source>
+        <translation>Part du résultat de la dernière inversion.</translation>
+    </message>
+    <message>
+        <source>Starts from the smoothed result of the last inversion.</source>
+        <translation>Part du résultat lissé de la dernière inversion.</translation>
+    </message>
+    <message>
+        <source>Starts from the present velocities of the grid.</source>
+        <translation>Part des vitesses actuelles de la grille.</translation>
     </message>
 </context>
 <context>

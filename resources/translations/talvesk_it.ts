@@ -241,7 +241,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>&amp;Load Geometry</source>
-        <translation>&amp;Carica geometria</translation>
+        <translation>Carica &amp;geometria</translation>
     </message>
     <message>
         <source>Read x and elevation of the geophones of this string from a text file</source>
@@ -289,7 +289,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>&amp;Load Shots Geometry</source>
-        <translation>&amp;Carica geometria tiri</translation>
+        <translation>Carica &amp;geometria tiri</translation>
     </message>
     <message>
         <source>Read x and elevation of all shots from a text file</source>
@@ -321,7 +321,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Redo</source>
-        <translation>Ripeti</translation>
+        <translation>Ripeti modifica</translation>
     </message>
     <message>
         <source>Do the step again (Ctrl+Shift+Z)</source>
@@ -1095,8 +1095,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>I &amp;nomi cominciano con:</translation>
     </message>
     <message>
-        <source>Files to be &amp;written:</source>
-        <translation>File da &amp;scrivere:</translation>
+        <source>Files to be wri&amp;tten:</source>
+        <translation>Fil&amp;e da scrivere:</translation>
     </message>
     <message>
         <source>Folder of the pictures</source>
@@ -1447,6 +1447,11 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>None</source>
         <translation>Nessuno</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RecoveryCopy</name>
@@ -1519,11 +1524,11 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Undo</source>
-        <translation>Annulla</translation>
+        <translation>Annulla modifica</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>Ripeti</translation>
+        <translation>Ripeti modifica</translation>
     </message>
     <message>
         <source>Propose layers</source>
@@ -1592,10 +1597,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Refractor:</source>
         <translation>Rifrattore:</translation>
-    </message>
-    <message>
-        <source>XY (m):</source>
-        <translation>XY (m):</translation>
     </message>
     <message>
         <source>Velocity/Profile</source>
@@ -1722,7 +1723,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>All picks are assigned anew from the break points of the branches. Undo brings the marks back.</source>
-        <translation>Tutti gli arrivi vengono riassegnati dai punti di ginocchio dei rami. Annulla ripristina le assegnazioni.</translation>
+        <translation>Tutti gli arrivi vengono riassegnati dai punti di ginocchio dei rami. &quot;Annulla modifica&quot; ripristina le assegnazioni.</translation>
     </message>
     <message>
         <source>No branch of the curves has picks enough to tell layers apart.</source>
@@ -1787,6 +1788,14 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Close without keeping the changes?</source>
         <translation>Chiudere senza conservare le modifiche?</translation>
+    </message>
+    <message>
+        <source>XY, half distance (m):</source>
+        <translation>XY, metà distanza (m):</translation>
+    </message>
+    <message>
+        <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
+        <translation>La dromocrona diretta è letta XY metri dopo il ricevitore, quella inversa XY metri prima: i due punti distano 2 XY.</translation>
     </message>
 </context>
 <context>
@@ -2211,7 +2220,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Geophone strings</source>
-        <translation>Stendimenti</translation>
+        <translation>Stese</translation>
     </message>
     <message>
         <source>Geophone positions</source>
@@ -2227,7 +2236,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>String</source>
-        <translation>Stend.</translation>
+        <translation>Stesa</translation>
     </message>
     <message>
         <source>Geophones</source>
@@ -2247,7 +2256,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Strings of geophones</source>
-        <translation>Stendimenti di geofoni</translation>
+        <translation>Stese di geofoni</translation>
     </message>
     <message>
         <source>File</source>
@@ -3892,7 +3901,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Export Seismic Line to KML</source>
-        <translation>Esporta linea sismica in KML</translation>
+        <translation>Esporta la linea sismica in KML</translation>
     </message>
     <message>
         <source>The geometry of the survey has changed.</source>
@@ -3960,7 +3969,7 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     </message>
     <message>
         <source>Load Project</source>
-        <translation>Carica progetto</translation>
+        <translation>Apri progetto</translation>
     </message>
     <message>
         <source>Recent Projects</source>
@@ -4156,6 +4165,10 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>Set them with Project &gt; Set geographic coordinates ...</source>
         <translation>Impostale con Progetto &gt; Coordinate geografiche ...</translation>
+    </message>
+    <message>
+        <source>Writing %1 ...</source>
+        <translation>Scrittura di %1 ...</translation>
     </message>
 </context>
 <context>
@@ -4491,6 +4504,18 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Select background color</source>
         <translation>Scelta del colore delle isolinee</translation>
+    </message>
+    <message>
+        <source>Round Values</source>
+        <translation>Valori tondi</translation>
+    </message>
+    <message>
+        <source>Replace the list by round values over the range</source>
+        <translation>Sostituisce l&apos;elenco con valori tondi lungo l&apos;intervallo</translation>
+    </message>
+    <message>
+        <source>None of these is checked: no contours will be drawn.</source>
+        <translation>Nessuna casella è spuntata: non verrà disegnata alcuna isolinea.</translation>
     </message>
 </context>
 <context>
@@ -5023,12 +5048,32 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <source>The minimum is above the maximum: every cell that changes will end at the maximum.</source>
         <translation>Il minimo è sopra il massimo: ogni cella che cambia finirà al massimo.</translation>
     </message>
+    <message>
+        <source>Starts from the default model.</source>
+        <translation>Parte dal modello predefinito.</translation>
+    </message>
+    <message>
+        <source>Starts from the layered model.</source>
+        <translation>Parte dal modello a strati.</translation>
+    </message>
+    <message>
+        <source>Starts from the result of the last inversion.</source>
+        <translation>Parte dal risultato dell&apos;ultima inversione.</translation>
+    </message>
+    <message>
+        <source>Starts from the smoothed result of the last inversion.</source>
+        <translation>Parte dal risultato smussato dell&apos;ultima inversione.</translation>
+    </message>
+    <message>
+        <source>Starts from the present velocities of the grid.</source>
+        <translation>Parte dalle velocità attuali della griglia.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::select_speed_Dialog</name>
     <message>
         <source>Define model velocity</source>
-        <translation>Definisci le velocità del modello</translation>
+        <translation>Definisci il modello di velocità</translation>
     </message>
     <message>
         <source>Depths in metres below the ground, velocities in m/s</source>
