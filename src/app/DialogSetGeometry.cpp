@@ -362,7 +362,7 @@ void DialogSetGeometry::interpolateShots() {
 
 bool DialogSetGeometry::mayLoseResults() {
   QStringList lost;
-  if (mDocument.hasTomographicInfo) {
+  if (mDocument.has_tomographic_info) {
     lost << tr("the grid and the results of the inversion");
   } else if (mDocument.grid) {
     lost << tr("the grid");

@@ -68,7 +68,7 @@ void ImagesDialog::offerWhatThereIs() {
   for (QCheckBox* box : {mUi->gradientBox, mUi->laplacianBox, mUi->cellsBox, mUi->smoothBox}) {
     offer(box, section);
   }
-  offer(mUi->densityBox, section && mDocument.hasTomographicInfo);
+  offer(mUi->densityBox, section && mDocument.has_tomographic_info);
   offer(mUi->refractionBox, !mInterpretation.refractData.cData.empty());
   mUi->smoothBox->setChecked(section && mLook.view.smooth);
   mUi->cellsBox->setChecked(section && !mLook.view.smooth);

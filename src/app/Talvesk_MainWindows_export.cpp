@@ -106,7 +106,7 @@ void Talvesk_MainWindows::on_actionExport_Surfer_triggered() {
 
 /// Whether the line has a place on the globe; the user is told when it has none.
 bool Talvesk_MainWindows::mayExportKml() {
-  if (mDocument.geoCoordIsSet) return true;
+  if (mDocument.geoCoord_isSet) return true;
   showWarning(this, tr("Warning"),
               tr("Geographical coordinates are missing, data cannot be exported in KML format"),
               tr("Set them with Project > Set geographic coordinates ..."));
@@ -137,11 +137,11 @@ void Talvesk_MainWindows::on_actionExportSeismic_line_triggered() {
 void Talvesk_MainWindows::on_actionSet_geography_coordinates_triggered() {
   logSlot(__func__);
   std::optional<geographicsCoord> before;
-  if (mDocument.geoCoordIsSet) before = mDocument.geoCoord;
+  if (mDocument.geoCoord_isSet) before = mDocument.geoCoord;
   setGeographyDialog dialog(before, lineEnds(mDocument), this);
   if (dialog.exec() != QDialog::Accepted) return;
   mDocument.geoCoord = dialog.coordinates();
-  mDocument.geoCoordIsSet = true;
+  mDocument.geoCoord_isSet = true;
   documentModified();
 }
 

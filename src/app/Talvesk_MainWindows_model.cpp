@@ -38,7 +38,7 @@ bool Talvesk_MainWindows::makeGrid(bool propose) {
   if (!propose) settings.cellSize = mDocument.grid ? mDocument.grid->aLato() : 0.0;
   const auto threads = static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
   gridDialog dialog(profile, settings, threads, this);
-  dialog.setForgetsResults(mDocument.hasTomographicInfo);
+  dialog.setForgetsResults(mDocument.has_tomographic_info);
   while (dialog.exec() == QDialog::Accepted) {
     const Status status = whileWaiting([&] {
       Status built = setUpGrid(mDocument, dialog.settings(), mLog);
@@ -69,7 +69,7 @@ void Talvesk_MainWindows::on_actionDefine_model_velocity_triggered() {
 void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
   logSlot(__func__);
   smoothingDialog dialog(
-      mDocument.hasTomographicInfo ? SmoothingType::kRayBased : SmoothingType::kUniform, this);
+      mDocument.has_tomographic_info ? SmoothingType::kRayBased : SmoothingType::kUniform, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const Status status = whileWaiting([&] {
     Status smoothed = smoothGrid(mDocument, dialog.type(), dialog.radius(), dialog.symmetric());

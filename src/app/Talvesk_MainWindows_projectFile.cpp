@@ -143,7 +143,7 @@ bool Talvesk_MainWindows::loadProject(const QString& file, LoadedProject& projec
   progressDialog progress(reader, file, this);
   progress.run([&] {
     result = reader.load(file.toStdString(), mFolder.path, project);
-    if (result != 0 || !project.document.hasTomographicInfo) return;
+    if (result != 0 || !project.document.has_tomographic_info) return;
     QMetaObject::invokeMethod(&progress, &progressDialog::write_tracing_rays, Qt::QueuedConnection);
     rays = recomputeRays(project.document, mLog);
   });

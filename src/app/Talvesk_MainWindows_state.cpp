@@ -138,7 +138,7 @@ void Talvesk_MainWindows::refreshCommands() {
   const bool traces = !mDocument.traceSets.empty();
   const bool recordInView = records && mCurrentFile >= 0;
   const bool shotInView = traces && recordInView;
-  const bool computed = mDocument.hasTomographicInfo;
+  const bool computed = mDocument.has_tomographic_info;
   const QUndoStack& edits = *mUi->showTracesWidget->undoStack();
 
   const std::pair<QAction*, bool> states[] = {

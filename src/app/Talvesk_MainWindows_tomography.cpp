@@ -124,7 +124,7 @@ void Talvesk_MainWindows::askToStopAndClose() {
 
 /// Grid or results are others than before.
 void Talvesk_MainWindows::modelChanged() {
-  if (!mDocument.hasTomographicInfo) mUi->showSimTT_CB->setChecked(false);
+  if (!mDocument.has_tomographic_info) mUi->showSimTT_CB->setChecked(false);
   for (editTravelTimesWidget* editor : editors()) editor->update();
   refreshPlots();
   refreshSection();

@@ -97,7 +97,7 @@ void select_speed_Dialog::showModel(const std::vector<VelocityLayer>& layers) {
   const Status status =
       mDocument.grid ? checkLayers(mDocument.grid->geometry().size(), layers) : Status();
   QString text = QString::fromStdString(status.ok() ? "" : status.message());
-  if (status.ok() && mDocument.hasTomographicInfo) {
+  if (status.ok() && mDocument.has_tomographic_info) {
     text = tr("The results of the last inversion will be lost.");
   }
   mUi->problemLabel->setText(text);

@@ -94,7 +94,7 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
   if (options.images.empty() && options.report.empty()) return {};
   prepareDrawing();
   Log log;
-  return document.hasTomographicInfo ? recomputeRays(document, log) : Status();
+  return document.has_tomographic_info ? recomputeRays(document, log) : Status();
 }
 
 }  // namespace
@@ -116,7 +116,7 @@ int run(const ExportOptions& options) {
   }
   if (options.geography) {
     project.document.geoCoord = *options.geography;
-    project.document.geoCoordIsSet = true;
+    project.document.geoCoord_isSet = true;
   }
   return writeFiles(options, project, range, *channels.summary);
 }

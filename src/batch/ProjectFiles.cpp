@@ -84,7 +84,7 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
     out << "none\n";
   }
   out << "  inversion   ";
-  if (!document.hasTomographicInfo) {
+  if (!document.has_tomographic_info) {
     out << "none\n";
   } else if (document.RMSE_tomography < 0.0) {
     out << "done\n";

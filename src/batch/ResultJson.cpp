@@ -176,10 +176,10 @@ std::string projectJson(const LoadedProject& project) {
   json["wave_type"] = document.waveType == WaveType::S ? "S" : "P";
   json["strings"] = stringsJson(document.goephonesStringSet);
   json["shots"] = std::move(shots);
-  json["has_tomographic_info"] = document.hasTomographicInfo;
+  json["has_tomographic_info"] = document.has_tomographic_info;
   json["rms_percent"] =
       document.RMSE_tomography < 0.0 ? Json(nullptr) : Json(document.RMSE_tomography);
-  json["crs"] = document.geoCoordIsSet ? Json(document.geoCoord.CRS) : Json(nullptr);
+  json["crs"] = document.geoCoord_isSet ? Json(document.geoCoord.CRS) : Json(nullptr);
   json["palette"] = project.palettes.current().name;
   json["layered_shots"] = project.interpretation.ttLayer.size();
   json["grid"] = nullptr;

@@ -105,7 +105,7 @@ std::string kmlColor(const ColorGradient& gradient, double fraction) {
 
 Status writeSectionKml(const std::string& path, const TomoDocument& document,
                        const ColorPalette& palette, ValueRange range) {
-  if (!document.geoCoordIsSet) return cannotWrite(path, kNoGeographicCoordinates);
+  if (!document.geoCoord_isSet) return cannotWrite(path, kNoGeographicCoordinates);
   const std::optional<LineEnds> ends = lineEnds(document);
   if (!ends) return cannotWrite(path, "the survey has no geophones");
   if (const std::string why = whyNot(document, palette, range); !why.empty()) {

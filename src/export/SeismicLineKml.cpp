@@ -37,7 +37,7 @@ class Marker {
 }  // namespace
 
 Status writeSeismicLineKml(const std::string& path, const TomoDocument& document) {
-  if (!document.geoCoordIsSet) return cannotWrite(path, kNoGeographicCoordinates);
+  if (!document.geoCoord_isSet) return cannotWrite(path, kNoGeographicCoordinates);
   const std::optional<LineEnds> ends = lineEnds(document);
   if (!ends) return cannotWrite(path, "the survey has no geophones");
   const LineOnGlobe line(document.geoCoord);

@@ -117,7 +117,7 @@ void writeCellData(VtuWriter& vtu, const Cells& cells, const TomoDocument& docum
   vtu.array("Float64", "Slowness (s/m)", ofCells(cells, document.grid->slownesses()));
   vtu.array("Float64", "Vertical gradient (1/s)",
             ofCells(cells, verticalGradientValues(*document.grid)));
-  if (document.hasTomographicInfo) {
+  if (document.has_tomographic_info) {
     std::vector<double> density = document.info_density;
     for (double& value : density) {
       if (value < 0.0) value = kNone;  // no inversion came by this cell

@@ -63,7 +63,7 @@ class Planner {
 
   void addSection(SectionQuantity quantity, bool smooth) {
     const bool density = quantity == SectionQuantity::kInformationDensity;
-    if (mDocument.grid == nullptr || (density && !mDocument.hasTomographicInfo)) return;
+    if (mDocument.grid == nullptr || (density && !mDocument.has_tomographic_info)) return;
     SectionViewSettings view = mOptions.view;
     view.quantity = quantity;
     view.profile = true;

@@ -254,7 +254,7 @@ void addInversion(ReportBuilder& builder) {
   }
   addGrid(builder);
   addLayers(builder);
-  if (!document.hasTomographicInfo) {
+  if (!document.has_tomographic_info) {
     builder.paragraph(
         ReportWords::tr("Nothing has been inverted: the grid holds its starting model."));
   } else if (document.lastInversion) {
@@ -271,12 +271,12 @@ Status addSections(ReportBuilder& builder) {
   SectionFigureOptions options = sectionOptions(builder, SectionQuantity::kVelocity);
   options.scene.rays = builder.options.sections.rays && !document.rays.empty();
   QString caption = ReportWords::tr("Velocity of the starting model");
-  if (document.hasTomographicInfo) {
+  if (document.has_tomographic_info) {
     caption = options.scene.rays ? ReportWords::tr("Velocity section with rays")
                                  : ReportWords::tr("Velocity section");
   }
   Status status = addSection(builder, options, caption);
-  if (status.ok() && builder.options.sections.density && document.hasTomographicInfo &&
+  if (status.ok() && builder.options.sections.density && document.has_tomographic_info &&
       hasInformationDensity(document)) {
     options = sectionOptions(builder, SectionQuantity::kInformationDensity);
     options.scene.rays = false;
@@ -291,7 +291,7 @@ Status addSections(ReportBuilder& builder) {
 Status addMisfit(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   const Misfit misfit = computeMisfit(document);
-  if (!document.hasTomographicInfo || misfit.count == 0) return {};
+  if (!document.has_tomographic_info || misfit.count == 0) return {};
   builder.heading(ReportWords::tr("Misfit"));
   ReportTable facts = ReportTable::ofFacts();
   facts.rows = {

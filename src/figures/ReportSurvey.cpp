@@ -228,7 +228,7 @@ void addSurvey(ReportBuilder& builder) {
 
 void addPosition(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
-  if (!document.geoCoordIsSet) return;
+  if (!document.geoCoord_isSet) return;
   const geographicsCoord& place = document.geoCoord;
   builder.heading(ReportWords::tr("Position"));
   ReportTable table{{{ReportWords::tr("End of the line")},

@@ -52,7 +52,7 @@ void repairRun(TomoDocument& document) {
   if (!finite(std::vector<double>{place.mEastFstGeoph, place.mEastLstGeoph, place.mNorthFstGeoph,
                                   place.mNorthLstGeoph})) {
     document.geoCoord = {};
-    document.geoCoordIsSet = false;
+    document.geoCoord_isSet = false;
   }
 }
 
@@ -147,7 +147,7 @@ void restoreCoverage(SurveyMember& survey) {
   std::vector<Point2D>& limit = document.coverageLimit;
   const bool usable = survey.hasCoverageLimit && std::all_of(limit.begin(), limit.end(), plausible);
   if (!usable) limit.clear();
-  if (!usable && document.hasTomographicInfo) limit = drawnLimit(*document.grid);
+  if (!usable && document.has_tomographic_info) limit = drawnLimit(*document.grid);
   if (limit.size() < 2) return;
   std::vector<double> x, z;
   for (const Point2D& centre : limit) {
@@ -202,7 +202,7 @@ Status checkSurvey(SurveyMember& member) {
 Status installGrid(const GridMember& grid, SurveyMember& survey) {
   TomoDocument& document = survey.document;
   if (grid.col == 0 && grid.righe == 0 && grid.velocities.empty()) {
-    document.hasTomographicInfo = false;
+    document.has_tomographic_info = false;
     document.info_density.clear();
     document.coverageLimit.clear();
     return {};
@@ -214,7 +214,7 @@ Status installGrid(const GridMember& grid, SurveyMember& survey) {
     restoreDensity(survey);
     restoreCoverage(survey);
     const std::vector<InversionRecord>& runs = survey.runs;
-    if (document.hasTomographicInfo && runs.size() == 1 && canHaveBeen(runs.front())) {
+    if (document.has_tomographic_info && runs.size() == 1 && canHaveBeen(runs.front())) {
       document.lastInversion = runs.front();
     }
     return status;

@@ -85,7 +85,7 @@ int readSurvey(const std::string& path, SurveyMember& member, std::string& why) 
     SurveyRecord record{read.document, read.section, read.runs};
     const std::vector<std::string> missing = xml::readRecord(reader, record);
     tellMissing(missing);
-    if (contains(missing, "geoCoord")) read.document.geoCoordIsSet = false;
+    if (contains(missing, "geoCoord")) read.document.geoCoord_isSet = false;
     read.hasInformationDensity = !contains(missing, "info_density");
     read.hasCoverageLimit = !contains(missing, "coverage_limit");
     member = std::move(read);

@@ -124,9 +124,9 @@ void describeSurvey(V& fields, TomoDocument& document, SectionViewSettings& sect
                     std::vector<InversionRecord>& runs) {
   fields("goephonesStringSet", document.goephonesStringSet);
   fields("ttArray", document.ttArray);
-  fields.optional("has_tomographic_info", document.hasTomographicInfo);
+  fields.optional("has_tomographic_info", document.has_tomographic_info);
   fields.optional("geoCoord", document.geoCoord);
-  fields.optional("geoCoord_isSet", document.geoCoordIsSet);
+  fields.optional("geoCoord_isSet", document.geoCoord_isSet);
   fields.optional("RMSE_tomography", document.RMSE_tomography);
   fields.optional("info_density", document.info_density);
   fields.optional("title", document.title);

@@ -22,7 +22,7 @@ TomoDocument copyWithoutTraces(const TomoDocument& document) {
   copy.ttArray = document.ttArray;
   copy.goephonesStringSet = document.goephonesStringSet;
   copy.geoCoord = document.geoCoord;
-  copy.geoCoordIsSet = document.geoCoordIsSet;
+  copy.geoCoord_isSet = document.geoCoord_isSet;
   if (document.grid != nullptr) copy.grid = std::make_unique<Grid>(*document.grid);
   copy.xOffset = document.xOffset;
   copy.surface = document.surface;
@@ -31,7 +31,7 @@ TomoDocument copyWithoutTraces(const TomoDocument& document) {
   copy.lastInversion = document.lastInversion;
   copy.minVelocity = document.minVelocity;
   copy.maxVelocity = document.maxVelocity;
-  copy.hasTomographicInfo = document.hasTomographicInfo;
+  copy.has_tomographic_info = document.has_tomographic_info;
   copy.RMSE_tomography = document.RMSE_tomography;
   copy.info_density = document.info_density;
   copy.coverageLimit = document.coverageLimit;

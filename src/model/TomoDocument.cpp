@@ -69,7 +69,7 @@ void TomoDocument::clearModelAndResults() {
   xOffset = 0.0;
   surface = Splines::LinearSpline();
   proposedCellSizes.clear();
-  hasTomographicInfo = false;
+  has_tomographic_info = false;
   smoothedResult = false;
   RMSE_tomography = -1.0;
   info_density.clear();

@@ -52,7 +52,7 @@ class TomoDocument {
   std::vector<TravelTime> ttArray;
   std::vector<std::vector<Point2D>> goephonesStringSet;  ///< geophones in channel order, per string
   geographicsCoord geoCoord;
-  bool geoCoordIsSet = false;
+  bool geoCoord_isSet = false;
 
   // --- The model of the ground.
   std::unique_ptr<Grid> grid;
@@ -64,7 +64,7 @@ class TomoDocument {
   double maxVelocity = 3500.0;            ///< m/s
 
   // --- Results of the last inversion.
-  bool hasTomographicInfo = false;
+  bool has_tomographic_info = false;
   bool smoothedResult = false;       ///< the grid was smoothed since; a project does not keep it
   double RMSE_tomography = -1.0;     ///< relative RMS misfit, percent; negative: none
   std::vector<double> info_density;  ///< per cell; -1.0 before any inversion

@@ -56,7 +56,7 @@ Status checkSurvey(const SurveyProfile& profile) {
 
 /// Rays, coverage and misfit belong to the grid that they were traced through.
 void forgetInversion(TomoDocument& document) {
-  document.hasTomographicInfo = false;
+  document.has_tomographic_info = false;
   document.smoothedResult = false;
   document.RMSE_tomography = -1.0;
   document.rays.clear();
@@ -165,7 +165,7 @@ Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool s
     }
     for (std::uint32_t c = 0; c < current.cellCount(); ++c) smoothed->setDraw(c, current.draw(c));
     document.grid = std::move(smoothed);
-    document.smoothedResult = document.hasTomographicInfo;
+    document.smoothedResult = document.has_tomographic_info;
   } catch (const std::exception& error) {
     return Status::failure(std::string("The grid could not be smoothed: ") + error.what());
   }

@@ -7,7 +7,7 @@ namespace {
 
 void copyResults(TomoDocument& to, const TomoDocument& from) {
   to.grid = std::make_unique<Grid>(*from.grid);
-  to.hasTomographicInfo = from.hasTomographicInfo;
+  to.has_tomographic_info = from.has_tomographic_info;
   to.smoothedResult = from.smoothedResult;
   to.RMSE_tomography = from.RMSE_tomography;
   to.info_density = from.info_density;

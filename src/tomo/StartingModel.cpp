@@ -32,7 +32,7 @@ bool followsLayers(const Grid& grid, const std::vector<VelocityLayer>& layers) {
 
 StartingModel startingModelOf(const TomoDocument& document) {
   if (document.grid == nullptr) return StartingModel::kNone;
-  if (document.hasTomographicInfo) {
+  if (document.has_tomographic_info) {
     return document.smoothedResult ? StartingModel::kSmoothed : StartingModel::kResult;
   }
   if (follows(*document.grid, defaultVelocity)) return StartingModel::kDefault;

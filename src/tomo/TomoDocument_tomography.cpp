@@ -156,7 +156,7 @@ Status TomoDocument::runTomography(std::vector<double>& slownesses, int solverIt
       auto corrected = std::make_unique<Grid>(grid->sharedGeometry(), slownesses);
       setCoverage(*this, *corrected);
       grid = std::move(corrected);
-      hasTomographicInfo = true;
+      has_tomographic_info = true;
       smoothedResult = false;
       return status;
     }

@@ -228,7 +228,7 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.surface = surfaceLine(*document.grid, document.xOffset);
   scene.geophones = allGeophones(document);
   scene.shots = eachPlaceOnce(document.shotPoints());
-  if (document.hasTomographicInfo) scene.rmsPercent = document.RMSE_tomography;
+  if (document.has_tomographic_info) scene.rmsPercent = document.RMSE_tomography;
   out = std::move(scene);
   return {};
 }

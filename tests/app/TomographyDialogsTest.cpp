@@ -189,7 +189,7 @@ class Layers : public ::testing::Test {
  protected:
   Layers() : line(testing::testLine(24, 2.0, {-1.0, 47.0})) {
     testing::putGrid(line, 24.0, 1.0);
-    line.hasTomographicInfo = true;
+    line.has_tomographic_info = true;
     line.RMSE_tomography = 4.0;
   }
   std::vector<VelocityLayer> open(const std::vector<VelocityLayer>& layers = {}) {
@@ -234,7 +234,7 @@ TEST_F(Layers, beginWithOneOverTheWholeGridThatAddSplits) {
   EXPECT_EQ(child<QPushButton>(*dialog, "addButton").text().toStdString(), "Add");
   EXPECT_EQ(child<draw1DVelocityProfile>(*dialog, "widget").largestVelocity(), 2500.0);
   dialog->reject();
-  EXPECT_TRUE(line.layers.empty() && line.hasTomographicInfo && !line.modified);
+  EXPECT_TRUE(line.layers.empty() && line.has_tomographic_info && !line.modified);
 }
 
 TEST_F(Layers, goWhenCheckedOrSelected) {
@@ -267,7 +267,7 @@ TEST_F(Layers, giveTheirSplineToTheGridAndStayInTheDocument) {
   for (std::uint32_t r = 0; r < line.grid->righe(); ++r) {
     EXPECT_EQ(line.grid->slowness(line.grid->cellIndex(r, 3)), 1.0 / spline(r * 1.0)) << r;
   }
-  EXPECT_FALSE(line.hasTomographicInfo) << "results of another model";
+  EXPECT_FALSE(line.has_tomographic_info) << "results of another model";
   EXPECT_LT(line.RMSE_tomography, 0.0);
   EXPECT_TRUE(line.modified);
 }
@@ -293,7 +293,7 @@ TEST_F(Layers, thatSwingBelowZeroAreShownAndExplained) {
   child<QSpinBox>(row(0), "v2Edit").setValue(200);
   EXPECT_FALSE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
   EXPECT_EQ(text(*dialog, "problemLabel"), "The results of the last inversion will be lost.");
-  line.hasTomographicInfo = false;
+  line.has_tomographic_info = false;
   child<QSpinBox>(row(0), "v1Edit").setValue(201);
   EXPECT_EQ(text(*dialog, "problemLabel"), "");
 }

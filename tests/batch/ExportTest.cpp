@@ -23,7 +23,7 @@ std::string writeProject(const Folder& folder, bool onGlobe = true) {
   document.title = "Valley";
   if (onGlobe) {
     document.geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
-    document.geoCoordIsSet = true;
+    document.geoCoord_isSet = true;
   }
   ColorPaletteList palettes;
   palettes.current().min_db = 500.0;

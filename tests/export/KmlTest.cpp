@@ -30,7 +30,7 @@ TomoDocument placed(double relief = 0.0) {
       3, 10, relief, [](std::uint32_t row, std::uint32_t) { return 500.0 + 100.0 * row; });
   document.title = "Valley";
   document.geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
-  document.geoCoordIsSet = true;
+  document.geoCoord_isSet = true;
   return document;
 }
 
@@ -269,7 +269,7 @@ TEST(Kml, isNotWrittenWithoutAPlaceOnTheGlobe) {
     D document;
     const char* message;
   } cases[] = {
-      {broken([](D& d) { d.geoCoordIsSet = false; }), kNoGeographicCoordinates},
+      {broken([](D& d) { d.geoCoord_isSet = false; }), kNoGeographicCoordinates},
       {broken([](D& d) { d.goephonesStringSet.clear(); }), "no geophones"},
       {broken([](D& d) { d.geoCoord.CRS = 4326; }), "not a projected system"},
       {broken([](D& d) { d.geoCoord.mEastFstGeoph = kNan; }), "not numbers"},

@@ -36,7 +36,7 @@ TEST(VtkGrid, isReadByVtkWithItsCellsAndValues) {
   const ConsoleCapture console;
   const TestFolder folder;
   TomoDocument document = section(2.0);
-  document.hasTomographicInfo = true;
+  document.has_tomographic_info = true;
   document.info_density.assign(12, 0.5);
   document.info_density[7] = -1.0;
   document.grid->setDraw(0, false);

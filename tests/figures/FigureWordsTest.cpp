@@ -27,7 +27,7 @@ std::string captionOf(const SectionScene& scene, double exaggeration) {
 
 TEST(FigureWords, theCaptionStatesWhatTheReaderCannotSee) {
   TomoDocument document = sectionDocument(8, 20, 0.0, layered);
-  document.hasTomographicInfo = true;
+  document.has_tomographic_info = true;
   document.RMSE_tomography = 2.3456;
   SectionSceneOptions options;
   options.range = ValueRange{300.0, 1000.0};
@@ -38,7 +38,7 @@ TEST(FigureWords, theCaptionStatesWhatTheReaderCannotSee) {
             "RMS misfit of the inversion 2.35 %");
   EXPECT_THAT(captionOf(scene, 2.0), HasSubstr("Vertical exaggeration 2.0"));
   EXPECT_THAT(captionOf(scene, 1.25), HasSubstr("Vertical exaggeration 1.25"));
-  document.hasTomographicInfo = false;
+  document.has_tomographic_info = false;
   EXPECT_THAT(captionOf(sceneOf(document), 1.0), Not(HasSubstr("RMS")));
 }
 

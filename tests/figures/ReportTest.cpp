@@ -136,7 +136,7 @@ TEST(Report, tellsOfWhatTheSurveyHas) {
   TomoDocument started = pickedLine();
   testing::putGrid(started, 10.0, 1.0);
   TomoDocument placed = invertedLine();
-  placed.geoCoordIsSet = true;
+  placed.geoCoord_isSet = true;
   placed.geoCoord = {32632, 600000.0, 600100.0, 5000000.0, 5000050.0};
 
   const struct {

@@ -36,7 +36,7 @@ class Exports : public WindowTest {
         3, 10, 0.0, [](std::uint32_t row, std::uint32_t) { return row == 0 ? 250.0 : 3500.0; });
     if (onGlobe) {
       document.geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
-      document.geoCoordIsSet = true;
+      document.geoCoord_isSet = true;
     }
     window->showFile(0);
   }
@@ -260,7 +260,7 @@ TEST_F(Exports, placeTheLineWithChecksWhileTyping) {
   });
   action("actionSet_geography_coordinates").trigger();
   const TomoDocument& document = window->document();
-  EXPECT_TRUE(document.geoCoordIsSet);
+  EXPECT_TRUE(document.geoCoord_isSet);
   EXPECT_TRUE(window->isWindowModified());
   EXPECT_EQ(document.geoCoord.CRS, 32632);
   EXPECT_EQ(document.geoCoord.mEastFstGeoph, 652000.0);

@@ -180,9 +180,9 @@ TEST_F(Geometry, leftWithCancelChangesNothing) {
 TEST_F(Geometry, asksBeforeResultsAreLost) {
   loadShots(1);
   TomoDocument& document = window->document();
-  document.hasTomographicInfo = true;
+  document.has_tomographic_info = true;
   edit([](GeometryDriver& user) { user.ok(); });
-  EXPECT_TRUE(document.hasTomographicInfo) << "nothing moved, nothing lost";
+  EXPECT_TRUE(document.has_tomographic_info) << "nothing moved, nothing lost";
 
   const auto moveFirst = [](GeometryDriver& user) {
     user.type(user.geophones(), 0, GeophoneTable::kX, "9.5");
@@ -199,7 +199,7 @@ TEST_F(Geometry, asksBeforeResultsAreLost) {
                       "the grid and the results of the inversion", answer);
   }
   action("actionGeometry").trigger();
-  EXPECT_FALSE(document.hasTomographicInfo);
+  EXPECT_FALSE(document.has_tomographic_info);
   EXPECT_EQ(string()[0].x, 9.5);
 }
 

@@ -127,7 +127,7 @@ TEST_F(Inverting, endsWhereADialogIsCancelled) {
   dialogs.expectAndCancel();  // the parameters
   run();
   ASSERT_NE(window->document().grid, nullptr);
-  EXPECT_FALSE(window->document().hasTomographicInfo);
+  EXPECT_FALSE(window->document().has_tomographic_info);
   EXPECT_THAT(log(), Not(HasSubstr("Running Tomography")));
 }
 
@@ -138,7 +138,7 @@ TEST_F(Inverting, showsItsResults) {
   expectResults();
   run();
   const TomoDocument& line = window->document();
-  EXPECT_TRUE(line.hasTomographicInfo && line.modified);
+  EXPECT_TRUE(line.has_tomographic_info && line.modified);
   const Misfit misfit = computeMisfit(line);
   EXPECT_EQ(line.RMSE_tomography, 100.0 * misfit.relativeRms);
   const auto number = [](double value) { return QString::number(value, 'g', 6); };
@@ -165,7 +165,7 @@ TEST_F(Inverting, completesTheIterationInWhichItIsStopped) {
   });
   expectResults();
   run();
-  EXPECT_TRUE(window->document().hasTomographicInfo);
+  EXPECT_TRUE(window->document().has_tomographic_info);
   EXPECT_THAT(log(), HasSubstr("Running Tomography - external iteration 0 ... COMPLETED. \n"));
   EXPECT_THAT(log(), HasSubstr("Stop Request by the user.\n"));
   EXPECT_THAT(log(), Not(HasSubstr("external iteration 1")));
@@ -183,7 +183,7 @@ TEST_F(Inverting, showsNoResultsWhereNothingIsPicked) {
   answerGrid(12.0, 1.0);
   answerParameters(1, 1);
   run();
-  EXPECT_TRUE(window->document().hasTomographicInfo);
+  EXPECT_TRUE(window->document().has_tomographic_info);
   EXPECT_LT(window->document().RMSE_tomography, 0.0);
 }
 
@@ -197,7 +197,7 @@ TEST_F(Inverting, tellsWhyAGridWithoutRowsCannotBeInverted) {
   dialogs.expectBox("Error occured", "The inversion could not be completed.", "no grid with cells",
                     QMessageBox::Ok);
   run();
-  EXPECT_FALSE(window->document().hasTomographicInfo);
+  EXPECT_FALSE(window->document().has_tomographic_info);
 }
 
 TEST_F(Inverting, leavesTheWindowAliveButTheDocumentOutOfReach) {

@@ -38,7 +38,7 @@ TomoDocument inverted(std::size_t shots, std::size_t traces) {
   }
   document.grid = roughGrid({2, 2, 3, 5.0}, 0.0);
   document.proposedCellSizes = {5.0};
-  document.hasTomographicInfo = true;
+  document.has_tomographic_info = true;
   document.RMSE_tomography = 3.0;
   document.info_density = {1.0};
   document.rays = {{1, 2}};
@@ -51,7 +51,7 @@ TomoDocument inverted(std::size_t shots, std::size_t traces) {
 
 void expectNoModel(const TomoDocument& document) {
   EXPECT_EQ(document.grid, nullptr);
-  EXPECT_FALSE(document.hasTomographicInfo);
+  EXPECT_FALSE(document.has_tomographic_info);
   EXPECT_EQ(document.RMSE_tomography, -1.0);
   EXPECT_TRUE(document.info_density.empty() && document.rays.empty());
   EXPECT_TRUE(document.hitCounts.empty() && document.coorcount.empty());
@@ -100,7 +100,7 @@ TEST(Import, keepsTheGridWhenOnlyTimesChange) {
   EXPECT_THAT(document.ttArray[0].ttMisurati, ElementsAre(0.0055, 0.01025, kNoTime));
   EXPECT_THAT(document.ttArray[0].ttCalcolati, ElementsAre(0.5, 0.5, 0.5));
   EXPECT_NE(document.grid, nullptr);
-  EXPECT_TRUE(document.hasTomographicInfo);
+  EXPECT_TRUE(document.has_tomographic_info);
 }
 
 void expectUntouched(const TomoDocument& document, std::size_t shots, std::size_t traces) {

@@ -61,7 +61,7 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
   document.traceSets[1][2].filtered[3] = 0.1;
   document.title = "Strada <Nord> & Süd ";
   document.geoCoord = {32632, 500000.25, 500100, 5000000, 5000001};
-  document.geoCoordIsSet = true;
+  document.geoCoord_isSet = true;
   document.minVelocity = 300;
   document.layers = {{0, 300, 5, 900}};
   invert(document);
@@ -95,7 +95,7 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
   EXPECT_EQ(back.document.info_density, document.info_density);
   EXPECT_EQ(back.document.coverageLimit.size(), document.coverageLimit.size());
   EXPECT_EQ(back.document.coverageSpline.has_value(), document.coverageSpline.has_value());
-  EXPECT_TRUE(back.document.hasTomographicInfo);
+  EXPECT_TRUE(back.document.has_tomographic_info);
   ASSERT_TRUE(back.document.lastInversion);
   EXPECT_EQ(back.document.lastInversion->externalIterations, 2);
   ASSERT_THAT(back.document.lastInversion->history, SizeIs(2));
@@ -324,14 +324,14 @@ TEST_P(OldProject, loadsWithItsDefaultAndSaysSo) {
   EXPECT_THAT(console.out() + console.error(), HasSubstr(std::string(GetParam().message) + "\n"));
   const TomoDocument& document = back.document;
   const std::string element = GetParam().element;
-  EXPECT_EQ(document.hasTomographicInfo, element != "has_tomographic_info");
+  EXPECT_EQ(document.has_tomographic_info, element != "has_tomographic_info");
   EXPECT_EQ(document.RMSE_tomography < 0, element == "RMSE_tomography");
   EXPECT_EQ(document.title, element == "title" ? "" : "Title");
   EXPECT_THAT(document.info_density, SizeIs(document.grid->cellCount()));
   if (element == "info_density") {
     EXPECT_EQ(document.info_density, std::vector<double>(document.grid->cellCount(), 1.0));
   }
-  EXPECT_FALSE(document.geoCoordIsSet);
+  EXPECT_FALSE(document.geoCoord_isSet);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -375,7 +375,7 @@ TEST_F(ProjectTest, forgetsARunThatCannotHaveBeen) {
   ASSERT_EQ(save(), 0);
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
-  EXPECT_TRUE(back.document.hasTomographicInfo);
+  EXPECT_TRUE(back.document.has_tomographic_info);
   EXPECT_FALSE(back.document.lastInversion);
 }
 

@@ -26,7 +26,7 @@ std::vector<double> elevations(const GeophoneString& string) {
 TomoDocument survey() {
   TomoDocument document = shotDocument(2, 3, 8);
   document.shotPositions = {9.0, 13.0};
-  document.hasTomographicInfo = true;
+  document.has_tomographic_info = true;
   for (TravelTime& record : document.ttArray) record.ttCalcolati.assign(3, 0.01);
   return document;
 }
@@ -50,7 +50,7 @@ TEST(SurveyGeometry, leftAsItIsChangesNothing) {
   const SurveyGeometry geometry = geometryOf(document);
   EXPECT_FALSE(geometryDiffers(geometry, document));
   EXPECT_FALSE(applyGeometry(geometry, document));
-  EXPECT_TRUE(document.hasTomographicInfo);
+  EXPECT_TRUE(document.has_tomographic_info);
   EXPECT_FALSE(document.modified);
 }
 
@@ -74,7 +74,7 @@ TEST(SurveyGeometry, appliedForgetsResultsAndKeepsPicks) {
     EXPECT_TRUE(applyGeometry(geometry, document));
     EXPECT_THAT(document.proposedCellSizes, ElementsAre(0.5)) << "the first proposal stays";
     EXPECT_FALSE(geometryDiffers(geometry, document));
-    EXPECT_FALSE(document.hasTomographicInfo);
+    EXPECT_FALSE(document.has_tomographic_info);
     EXPECT_TRUE(document.modified);
     EXPECT_DOUBLE_EQ(document.ttArray[1].ttMisurati[2], firstBreak(2));
     EXPECT_THAT(document.ttArray[1].ttCalcolati, ElementsAre(kNoTime, kNoTime, kNoTime));

@@ -100,7 +100,7 @@ TEST(SmoothGrid, changesSlownessesAndNothingElse) {
   EXPECT_EQ(&line.grid->geometry(), &before.geometry());
   EXPECT_EQ(line.rays, rays);
   EXPECT_EQ(line.RMSE_tomography, misfit);
-  EXPECT_TRUE(line.hasTomographicInfo && line.modified);
+  EXPECT_TRUE(line.has_tomographic_info && line.modified);
 }
 
 TEST(SmoothGrid, worksWithoutAnInversionAndRefusesWhatMakesNoSense) {
@@ -138,7 +138,7 @@ TEST(InversionCopy, bringsHomeWhatTheInversionOfTheDocumentWouldLeave) {
   for (std::size_t s = 0; s < line.ttArray.size(); ++s) {
     EXPECT_EQ(line.ttArray[s].ttCalcolati, direct.ttArray[s].ttCalcolati) << s;
   }
-  EXPECT_TRUE(line.hasTomographicInfo);
+  EXPECT_TRUE(line.has_tomographic_info);
   ASSERT_TRUE(line.lastInversion.has_value()) << "reports tell how the inversion was run";
   EXPECT_EQ(line.lastInversion->history.size(), direct.lastInversion->history.size());
   EXPECT_EQ(line.lastInversion->smoothing, direct.lastInversion->smoothing);

@@ -82,7 +82,7 @@ TEST(GridSetup, leavesTheDocumentAloneWhenItFails) {
     testing::putGrid(line, 6.0, 1.0);
     c.change(line);
     line.rays = {{1, 2, 3}};
-    line.hasTomographicInfo = true;
+    line.has_tomographic_info = true;
     const Grid* grid = line.grid.get();
     const double xOffset = line.xOffset;
     const auto surface = line.surface.X();
@@ -94,7 +94,7 @@ TEST(GridSetup, leavesTheDocumentAloneWhenItFails) {
     EXPECT_EQ(line.xOffset, xOffset);
     EXPECT_EQ(line.surface.X(), surface);
     EXPECT_EQ(line.rays.size(), 1u);
-    EXPECT_TRUE(line.hasTomographicInfo);
+    EXPECT_TRUE(line.has_tomographic_info);
     EXPECT_FALSE(line.modified);
     EXPECT_EQ(linesOf(console.error()).back(), "log: Setting Grid ... FAILED. ");
   }
@@ -118,7 +118,7 @@ TEST(GridSetup, forgetsWhatAnInversionLeftInTheGridBefore) {
   line.rays = {{1, 2, 3}};
   line.hitCounts = {1};
   line.coorcount = {1.0};
-  line.hasTomographicInfo = true;
+  line.has_tomographic_info = true;
   line.RMSE_tomography = 4.0;
   line.coverageLimit = {{1.0, 2.0}, {2.0, 2.0}};
   line.coverageSpline.emplace();
@@ -128,7 +128,7 @@ TEST(GridSetup, forgetsWhatAnInversionLeftInTheGridBefore) {
   EXPECT_TRUE(line.rays.empty());
   EXPECT_TRUE(line.hitCounts.empty());
   EXPECT_TRUE(line.coorcount.empty());
-  EXPECT_FALSE(line.hasTomographicInfo);
+  EXPECT_FALSE(line.has_tomographic_info);
   EXPECT_LT(line.RMSE_tomography, 0.0);
   EXPECT_TRUE(line.coverageLimit.empty());
   EXPECT_FALSE(line.coverageSpline.has_value());

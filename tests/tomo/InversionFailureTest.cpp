@@ -59,7 +59,7 @@ TEST(Inversion, refusesWhatItCannotRunWith) {
     EXPECT_FALSE(result.status.ok());
     EXPECT_NE(result.status.message().find(c.text), std::string::npos) << result.status.message();
     EXPECT_EQ(result.iterationsDone, 0);
-    EXPECT_FALSE(line.hasTomographicInfo);
+    EXPECT_FALSE(line.has_tomographic_info);
     EXPECT_EQ(line.grid ? line.grid->slownesses() : std::vector<double>(), before);
   }
 }
@@ -133,7 +133,7 @@ TEST(Inversion, letsNothingEscapeItsLastSteps) {
   const TomographyResult result = runInversion(line, p, log);
   EXPECT_FALSE(result.status.ok());
   EXPECT_EQ(result.iterationsDone, 1);
-  EXPECT_TRUE(line.hasTomographicInfo);
+  EXPECT_TRUE(line.has_tomographic_info);
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ TEST(RayRecomputation, bringsBackRaysAndTimesAndChangesNoModel) {
   }
   TomoDocument loaded = twoLayers(1.0);
   loaded.grid = std::make_unique<Grid>(line.grid->sharedGeometry(), line.grid->slownesses());
-  loaded.hasTomographicInfo = true;
+  loaded.has_tomographic_info = true;
   loaded.rays = {{7}};
   const testing::ConsoleCapture console;
   ASSERT_TRUE(recomputeRays(loaded, log).ok());

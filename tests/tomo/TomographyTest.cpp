@@ -148,7 +148,7 @@ TEST(Inversion, finishesTheIterationUnderWayWhenItIsStopped) {
           EXPECT_EQ(line.RMSE_tomography, state.misfit.relativeRms * 100.0);
           if (byFlag && state.completed == 2) line.stopRequested = true;
         },
-        [&] { return !byFlag && line.hasTomographicInfo; });
+        [&] { return !byFlag && line.has_tomographic_info; });
     ASSERT_TRUE(result.status.ok());
     EXPECT_TRUE(result.stopped);
     EXPECT_EQ(result.iterationsDone, byFlag ? 2 : 1);
@@ -243,7 +243,7 @@ TEST(Inversion, hasNoCoverageCurveForFewerThanTwoColumns) {
   ASSERT_TRUE(result.status.ok());
   EXPECT_TRUE(line.coverageLimit.empty());
   EXPECT_FALSE(line.coverageSpline.has_value());
-  EXPECT_TRUE(line.hasTomographicInfo);
+  EXPECT_TRUE(line.has_tomographic_info);
   // No pick, no misfit.
   EXPECT_EQ(result.misfit.count, 0);
   EXPECT_LT(line.RMSE_tomography, 0.0);
