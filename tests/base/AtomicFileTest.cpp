@@ -1,13 +1,12 @@
 #include "base/AtomicFile.h"
 #include "support/CommaLocale.h"
+#include "support/FileLimit.h"
 #include "support/TestFolder.h"
 
-#include <csignal>
 #include <filesystem>
 #include <ostream>
 
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace talvesk {
@@ -26,33 +25,13 @@ TEST(AtomicFile, replacesAFileAndLeavesNothingBesideIt) {
   EXPECT_EQ(folder.entries(), 1);
 }
 
-/// Lets no file of the process grow beyond a size, as a disk does that is nearly full.
-class LittleRoom {
- public:
-  explicit LittleRoom(rlim_t bytes) : mHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &mBefore);
-    const rlimit little{bytes, mBefore.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &little);
-  }
-  ~LittleRoom() {
-    setrlimit(RLIMIT_FSIZE, &mBefore);
-    std::signal(SIGXFSZ, mHandler);
-  }
-  LittleRoom(const LittleRoom&) = delete;
-  LittleRoom& operator=(const LittleRoom&) = delete;
-
- private:
-  rlimit mBefore{};
-  void (*mHandler)(int);
-};
-
 TEST(AtomicFile, keepsTheOldFileWhenOnlyAPartOfTheNewOneFits) {
   const TestFolder folder;
   const std::string path = folder.put("picks.txt", "what was there before");
   for (const std::size_t size : {5000U, 100000U}) {  // one fits into the buffers of most systems
     Status status;
     {
-      const LittleRoom room(4096);
+      const testing::FileLimit full(4096);
       status = writeFileAtomically(path, std::string(size, 'x'));
     }
     EXPECT_THAT(status.message(), HasSubstr("picks.txt: File too large")) << size;

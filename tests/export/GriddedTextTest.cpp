@@ -1,10 +1,9 @@
-#include "base/AtomicFile.h"
 #include "export/GriddedText.h"
+#include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"
+#include "support/TestFolder.h"
 #include "support/TestGrids.h"
 
-#include <clocale>
-#include <filesystem>
 #include <limits>
 #include <sstream>
 
@@ -17,10 +16,6 @@ using namespace talvesk::testing;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-std::string temporary(const std::string& name) {
-  return (std::filesystem::path(::testing::TempDir()) / name).string();
-}
-
 /// Two rows of two cells of 10 m under level ground at 100 m, 500 m/s above 2000 m/s.
 TomoDocument document() {
   TomoDocument document;
@@ -32,9 +27,7 @@ TomoDocument document() {
 }
 
 std::vector<std::string> linesOf(const std::string& path) {
-  std::string bytes;
-  EXPECT_TRUE(readWholeFile(path, bytes).ok());
-  std::istringstream stream(bytes);
+  std::istringstream stream(TestFolder::get(path));
   std::vector<std::string> lines;
   for (std::string line; std::getline(stream, line);) lines.push_back(line);
   return lines;
@@ -42,7 +35,8 @@ std::vector<std::string> linesOf(const std::string& path) {
 
 TEST(GriddedText, writesCentreLineElevationAndVelocity) {
   const ConsoleCapture console;
-  const std::string path = temporary("grid.txt");
+  const TestFolder folder;
+  const std::string path = folder.file("grid.txt");
   ASSERT_TRUE(writeGriddedText(path, document()).ok());
   const TomoDocument same = document();
   const Point2D first = same.grid->cellCentre(0);
@@ -60,16 +54,18 @@ TEST(GriddedText, writesCentreLineElevationAndVelocity) {
 
 TEST(GriddedText, shiftsTheLineInSixDigitsWhateverTheLocale) {
   const ConsoleCapture console;
-  const std::string path = temporary("shifted.txt");
-  const char* locale = std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
+  const TestFolder folder;
+  const std::string path = folder.file("shifted.txt");
+  const CommaNumbers numbers;
+  const CommaStreams streams;
   ASSERT_TRUE(writeGriddedText(path, document(), {1234567.8, -0.12345678}).ok());
-  if (locale != nullptr) std::setlocale(LC_NUMERIC, "C");
   EXPECT_THAT(linesOf(path)[0], HasSubstr(" 1.23457e+06 94.8765 500"));
 }
 
 TEST(GriddedText, takesTheOffsetOfTheGridOffAndCountsFromTheHighestGround) {
   const ConsoleCapture console;
-  const std::string path = temporary("survey.txt");
+  const TestFolder folder;
+  const std::string path = folder.file("survey.txt");
   TomoDocument offset = document();
   offset.xOffset = -95.0;
   EXPECT_EQ(referenceElevation(*offset.grid), 100.0);
@@ -81,7 +77,8 @@ TEST(GriddedText, takesTheOffsetOfTheGridOffAndCountsFromTheHighestGround) {
 
 TEST(GriddedText, leavesOutCellsThatAreNotDrawn) {
   const ConsoleCapture console;
-  const std::string path = temporary("hidden.txt");
+  const TestFolder folder;
+  const std::string path = folder.file("hidden.txt");
   const TomoDocument hidden = document();
   hidden.grid->setDraw(1, false);
   hidden.grid->setDraw(2, false);
@@ -91,7 +88,8 @@ TEST(GriddedText, leavesOutCellsThatAreNotDrawn) {
 
 TEST(GriddedText, writesAPlaceholderForAnInfiniteVelocity) {
   const ConsoleCapture console;
-  const std::string path = temporary("placeholder.txt");
+  const TestFolder folder;
+  const std::string path = folder.file("placeholder.txt");
   const TomoDocument unknown = document();
   unknown.grid->setSlowness(0, 0.0);
   unknown.grid->setSlowness(1, -0.0);
@@ -102,8 +100,8 @@ TEST(GriddedText, writesAPlaceholderForAnInfiniteVelocity) {
 }
 
 TEST(GriddedText, writesNothingWithoutAGridOrWithAnEndlessShift) {
-  const std::string path = temporary("old.txt");
-  ASSERT_TRUE(writeFileAtomically(path, "old\n").ok());
+  const TestFolder folder;
+  const std::string path = folder.put("old.txt", "old\n");
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const struct {
     TomoDocument document;

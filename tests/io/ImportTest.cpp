@@ -1,10 +1,8 @@
 #include "Samples.h"
-#include "base/AtomicFile.h"
 #include "io/TravelTimeFile.h"
 #include "support/ConsoleCapture.h"
+#include "support/TestFolder.h"
 #include "support/TestGrids.h"
-
-#include <filesystem>
 
 #include <gmock/gmock.h>
 
@@ -147,9 +145,9 @@ TEST(Import, leavesTheDocumentWhenThePicksDoNotFitItsTraces) {
 }
 
 TEST(Load, tellsFileAndReasonAndLeavesTheDocument) {
-  const std::string path = (std::filesystem::path(::testing::TempDir()) / "load.otte").string();
+  const TestFolder folder;
   for (const std::string& text : {kOtte, replaced(kOtte, "10.25", "x")}) {
-    ASSERT_TRUE(writeFileAtomically(path, text).ok());
+    const std::string path = folder.put("load.otte", text);
     TomoDocument document = inverted(3, 3);
     const ConsoleCapture console;
     const Status status = loadTravelTimes(path, document);
@@ -161,8 +159,8 @@ TEST(Load, tellsFileAndReasonAndLeavesTheDocument) {
 }
 
 TEST(Load, fillsAnEmptyDocument) {
-  const std::string path = (std::filesystem::path(::testing::TempDir()) / "load.XYZ").string();
-  ASSERT_TRUE(writeFileAtomically(path, kPickTable).ok());
+  const TestFolder folder;
+  const std::string path = folder.put("load.XYZ", kPickTable);
   TomoDocument document;
   const ConsoleCapture console;
   EXPECT_EQ(loadTravelTimes(path, document).code(), 0);

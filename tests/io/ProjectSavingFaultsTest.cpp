@@ -1,10 +1,10 @@
+#include "support/FileLimit.h"
 #include "support/TestProjects.h"
 
 #include <QSignalSpy>
 #include <csignal>
 
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -166,21 +166,6 @@ TEST_F(SavingFaults, inARowNameTheOldProjectEachTime) {
   }
   expectOldProjectKept();
 }
-
-/// No file grows beyond a limit, as if the disk were full.
-class FileLimit {
- public:
-  explicit FileLimit(rlim_t bytes) {
-    ::signal(SIGXFSZ, SIG_IGN);
-    ::getrlimit(RLIMIT_FSIZE, &mBefore);
-    const rlimit limit{bytes, mBefore.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileLimit() { ::setrlimit(RLIMIT_FSIZE, &mBefore); }
-
- private:
-  rlimit mBefore{};
-};
 
 TEST_F(SavingFaults, ofAFullDiskLoseNothing) {
   bool saved = false;

@@ -1,9 +1,8 @@
 #include "Samples.h"
 #include "io/TravelTimeFile.h"
+#include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"
-
-#include <clocale>
-#include <filesystem>
+#include "support/TestFolder.h"
 
 #include <gmock/gmock.h>
 
@@ -72,9 +71,9 @@ TEST_P(EveryFormat, tellsThatItIgnoredAByteOrderMark) {
 }
 
 TEST_P(EveryFormat, readsPointsWhateverTheLocale) {
-  const char* locale = std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
+  const CommaNumbers locale;
+  if (!locale.found()) GTEST_SKIP() << "no locale with decimal commas is installed";
   ASSERT_TRUE(parseTravelTimes(text(), path(), data).ok());
-  if (locale != nullptr) std::setlocale(LC_NUMERIC, "C");
   expectTheSurvey(data);
 }
 
@@ -304,12 +303,13 @@ TEST(ReadTravelTimes, saysWhichFileItCannotOpen) {
 }
 
 TEST(ReadTravelTimes, refusesAFolderWithASuitableName) {
-  const std::filesystem::path folder = std::filesystem::path(::testing::TempDir()) / "dir.otte";
-  std::filesystem::create_directories(folder);
+  const TestFolder area;
+  const std::string folder = area.file("dir.otte");
+  ASSERT_TRUE(QDir().mkdir(QString::fromStdString(folder)));
   const ConsoleCapture console;
   TravelTimeData data;
-  EXPECT_FALSE(readTravelTimes(folder.string(), data).ok());
-  EXPECT_EQ(console.error(), "File " + folder.string() + " cannot be open.\n");
+  EXPECT_FALSE(readTravelTimes(folder, data).ok());
+  EXPECT_EQ(console.error(), "File " + folder + " cannot be open.\n");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "tomo/TomographyRun.h"
 
 #include <cctype>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -27,7 +28,7 @@ inline TomographyParameters fewIterations(int external = 2, int solver = 3) {
 }
 
 /// The lines that the console was told. Those that went through the log are marked, their stamp
-/// removed; a date in the C library's form becomes DATE.
+/// removed; a date in the C library's form becomes DATE, and the seconds that something took N.
 inline std::vector<std::string> linesOf(const std::string& text) {
   const std::string end = "finished iteration at ";
   std::vector<std::string> lines;
@@ -36,7 +37,9 @@ inline std::vector<std::string> linesOf(const std::string& text) {
     const bool stamped = line.size() > 5 && line[0] == '[' && std::isdigit(line[1]) != 0;
     if (stamped) line = "log: " + line.substr(line.find("] ") + 2);
     const bool dated = line.compare(0, end.size(), end) == 0 && line.size() == end.size() + 24;
-    lines.push_back(dated ? end + "DATE" : line);
+    if (dated) line = end + "DATE";
+    static const std::regex kElapsed("(.*[Ee]lapsed time: )[0-9]+(s| seconds\\.)");
+    lines.push_back(std::regex_replace(line, kElapsed, "$1N$2"));
   }
   return lines;
 }

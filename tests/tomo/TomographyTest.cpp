@@ -50,7 +50,7 @@ TEST(Inversion, tellsEveryStepInOrder) {
       "log:  --- Creating and running thread 1",
       " --- Updating coorslow and coorcount ",
       "finished iteration at DATE",
-      "elapsed time: 0s",
+      "elapsed time: Ns",
       "[INTERNAL RUN 2][RUNNIG SOLVEART] Traces from 0 to 0",
       "log: [INTERNAL RUN 2][RUNNIG SOLVEART] Traces from 0 to 0",
       "[INTERNAL RUN 2][RUNNIG SOLVEART] Traces from 1 to 1",
@@ -61,7 +61,7 @@ TEST(Inversion, tellsEveryStepInOrder) {
       "log: Updating tomographic profile ... COMPLETED. ",
       "log: Linear RayDensity Smoothing",
       "log: 2",
-      "log: Elapsed time: 0 seconds.",
+      "log: Elapsed time: N seconds.",
       rmse.str(),
       error.str(),
   };
