@@ -17,13 +17,9 @@ namespace {
 
 using namespace talvesk;
 
-bool finite(const Point2D& point) {
-  return std::isfinite(point.x) && std::isfinite(point.z);
-}
-
 void demandSane(const TravelTimeData& data) {
   for (const auto& string : data.strings) {
-    for (const Point2D& geophone : string) demand(finite(geophone), "finite geophones");
+    for (const Point2D& geophone : string) demand(isFinite(geophone), "finite geophones");
   }
   for (const TravelTime& record : data.records) {
     const auto string = static_cast<std::size_t>(record.indexStesa);
@@ -31,7 +27,7 @@ void demandSane(const TravelTimeData& data) {
     demand(record.ttMisurati.size() <= data.strings[string].size(), "a geophone for every time");
     demand(record.ttCalcolati.size() == record.ttMisurati.size(), "computed times");
     demand(record.traceSetID >= 0, "a trace set");
-    demand(finite(record.shotPos2d), "finite shots");
+    demand(isFinite(record.shotPos2d), "finite shots");
     for (const double time : record.ttMisurati) demand(std::isfinite(time), "finite times");
   }
 }

@@ -15,15 +15,11 @@
 
 namespace talvesk::fuzzing {
 
-inline bool finite(const Point2D& point) {
-  return std::isfinite(point.x) && std::isfinite(point.z);
-}
-
 inline void demandSane(const ShotFileData& data, std::size_t fileBytes) {
   std::size_t memory = fileBytes;
   for (const ShotRecord& trace : data.traces) {
     memory += sizeof trace + trace.samples.capacity() * sizeof(double);
-    demand(finite(trace.source) && finite(trace.receiver), "finite positions");
+    demand(isFinite(trace.source) && isFinite(trace.receiver), "finite positions");
     demand(std::isfinite(trace.sampleInterval), "a finite interval");
     demand(std::isfinite(trace.delay) && trace.delay <= 0.0, "a delay that is never positive");
     demand(trace.samples.empty() || trace.samples.back() == 0.0, "a last sample of 0");

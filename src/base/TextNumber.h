@@ -16,7 +16,7 @@ NumberError parseDouble(std::string_view text, double& value);
 /// The same, but text in which anything follows the number is not a number.
 NumberError parseWholeDouble(std::string_view text, double& value);
 
-/// The same for integers, decimal.
+/// As parseDouble() for decimal integers: what follows the number is ignored ("7.9" is 7).
 NumberError parseInt(std::string_view text, int& value);
 
 /// Six significant digits, as a C++ stream prints by default.

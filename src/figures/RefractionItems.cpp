@@ -27,11 +27,7 @@ void putInOrder(std::vector<Point2D>& points) {
       std::remove_if(points.begin(), points.end(),
                      [](const Point2D& p) { return !isPosition(p.x) || !isPosition(p.z); }),
       points.end());
-  std::stable_sort(points.begin(), points.end(),
-                   [](const Point2D& a, const Point2D& b) { return a.x < b.x; });
-  points.erase(std::unique(points.begin(), points.end(),
-                           [](const Point2D& a, const Point2D& b) { return a.x == b.x; }),
-               points.end());
+  keepFirstOfEachX(points);
 }
 
 double knownMedian(std::vector<double> values) {

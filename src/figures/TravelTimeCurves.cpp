@@ -8,32 +8,14 @@
 namespace talvesk {
 namespace {
 
-/// Positions of a record's receivers, as many as are known.
-std::vector<double> receiversOf(const TomoDocument& document, const TravelTime& record) {
-  std::vector<double> positions;
-  const auto& strings = document.goephonesStringSet;
-  const auto string = static_cast<std::size_t>(record.indexStesa);
-  if (record.indexStesa >= 0 && string < strings.size() && !strings[string].empty()) {
-    for (const Point2D& p : strings[string]) positions.push_back(p.x);
-    return positions;
-  }
-  const auto set = static_cast<std::size_t>(record.traceSetID);
-  if (record.traceSetID >= 0 && set < document.traceSets.size()) {
-    for (const Trace& trace : document.traceSets[set]) {
-      positions.push_back(trace.receiverPosition.x);
-    }
-  }
-  return positions;
-}
-
 /// Geophones with a known position, by ascending x.
-std::vector<std::size_t> alongTheLine(const std::vector<double>& positions) {
+std::vector<std::size_t> alongTheLine(const std::vector<Point2D>& positions) {
   std::vector<std::size_t> order;
   for (std::size_t i = 0; i < positions.size(); ++i) {
-    if (isPosition(positions[i])) order.push_back(i);
+    if (isPosition(positions[i].x)) order.push_back(i);
   }
   std::stable_sort(order.begin(), order.end(), [&positions](std::size_t a, std::size_t b) {
-    return positions[a] < positions[b];
+    return positions[a].x < positions[b].x;
   });
   return order;
 }
@@ -41,11 +23,11 @@ std::vector<std::size_t> alongTheLine(const std::vector<double>& positions) {
 /// Lines through the times of geophones that follow each other; one without a time ends a line.
 std::vector<std::vector<Point2D>> linesThrough(const std::vector<double>& times,
                                                const std::vector<std::size_t>& order,
-                                               const std::vector<double>& positions) {
+                                               const std::vector<Point2D>& positions) {
   std::vector<std::vector<Point2D>> lines(1);
   for (const std::size_t i : order) {
     if (i < times.size() && isDrawableTime(times[i])) {
-      lines.back().push_back({positions[i], 1e3 * times[i]});
+      lines.back().push_back({positions[i].x, 1e3 * times[i]});
     } else if (!lines.back().empty()) {
       lines.emplace_back();
     }
@@ -56,7 +38,7 @@ std::vector<std::vector<Point2D>> linesThrough(const std::vector<double>& times,
 
 TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool withComputed) {
   const TravelTime& record = document.ttArray[index];
-  const std::vector<double> positions = receiversOf(document, record);
+  const std::vector<Point2D> positions = document.receiversOf(record);
   const std::vector<std::size_t> order = alongTheLine(positions);
   TravelTimeCurve curve;
   if (!order.empty()) {
@@ -66,7 +48,7 @@ TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool wi
   curve.record = index;
   for (const std::size_t i : order) {
     if (i >= record.ttMisurati.size() || !isDrawableTime(record.ttMisurati[i])) continue;
-    curve.picks.push_back({i, {positions[i], 1e3 * record.ttMisurati[i]}});
+    curve.picks.push_back({i, {positions[i].x, 1e3 * record.ttMisurati[i]}});
   }
   curve.measuredLines = linesThrough(record.ttMisurati, order, positions);
   if (withComputed) curve.computedLines = linesThrough(record.ttCalcolati, order, positions);

@@ -81,9 +81,8 @@ class GridGeometry {
   // --- Flat arrays for the search.
   const double* lineXData() const { return mLineX.data(); }
   const double* lineZData() const { return mLineZ.data(); }
-  const double* sideStepData() const {
-    return mStep.data();
-  }  ///< depth of level j below its corner
+  /// Depths of the levels of side nodes below their upper corner.
+  const double* sideStepData() const { return mStep.data(); }
 
   /// Centre of a cell: x grid coordinate, z downward (so `z` here is a depth coordinate).
   Point2D cellCentre(std::uint32_t cell) const;

@@ -5,18 +5,6 @@
 #include <limits>
 
 namespace talvesk {
-namespace {
-
-// Of points at one distance the first one known stays.
-void keepFirstOfEachX(std::vector<Point2D>& points) {
-  std::stable_sort(points.begin(), points.end(),
-                   [](const Point2D& a, const Point2D& b) { return a.x < b.x; });
-  points.erase(std::unique(points.begin(), points.end(),
-                           [](const Point2D& a, const Point2D& b) { return a.x == b.x; }),
-               points.end());
-}
-
-}  // namespace
 
 SurveyProfile measureSurvey(const std::vector<std::vector<Point2D>>& strings,
                             const std::vector<Point2D>& shots) {

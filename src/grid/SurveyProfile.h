@@ -7,6 +7,9 @@
 
 namespace talvesk {
 
+/// Metres either way; a position beyond is no place of a survey line on this globe.
+inline constexpr double kLargestCoordinate = 1e8;
+
 /// The survey as the grid sees it: the known points of the surface, and the numbers that size and
 /// place a grid under them.
 struct SurveyProfile {

@@ -1,5 +1,6 @@
 #include "io/ProjectAssembly.h"
 
+#include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
 
 #include <algorithm>
@@ -9,8 +10,6 @@
 
 namespace talvesk {
 namespace {
-
-constexpr double kLargestCoordinate = 1e8;  // metres; more is no survey line on this globe
 
 bool plausible(const Point2D& point) {
   return std::fabs(point.x) <= kLargestCoordinate && std::fabs(point.z) <= kLargestCoordinate;
@@ -98,7 +97,7 @@ Status checkCells(const GridMember& grid) {
   if (grid.nV < 2 || grid.nV > kMostNodes || !positive(grid.aLato) ||
       grid.aLato > kLargestCoordinate) {
     return Status::failure("cells with " + std::to_string(grid.nV) + " nodes per side, " +
-                           std::to_string(grid.aLato) + " m long, cannot be");
+                           formatDouble(grid.aLato) + " m long, cannot be");
   }
   if (!std::all_of(grid.velocities.begin(), grid.velocities.end(), positive)) {
     return Status::failure("a velocity is not a positive number");
@@ -144,19 +143,11 @@ std::vector<Point2D> drawnLimit(const Grid& grid) {
 
 void restoreCoverage(SurveyMember& survey) {
   TomoDocument& document = survey.document;
-  std::vector<Point2D>& limit = document.coverageLimit;
+  std::vector<Point2D> limit = std::move(document.coverageLimit);
   const bool usable = survey.hasCoverageLimit && std::all_of(limit.begin(), limit.end(), plausible);
   if (!usable) limit.clear();
   if (!usable && document.has_tomographic_info) limit = drawnLimit(*document.grid);
-  if (limit.size() < 2) return;
-  std::vector<double> x, z;
-  for (const Point2D& centre : limit) {
-    x.push_back(centre.x);
-    z.push_back(centre.z);
-  }
-  Splines::BesselSpline spline;
-  spline.Spline::build(x, z);
-  document.coverageSpline = spline;
+  document.setCoverageLimit(std::move(limit));
 }
 
 void restoreDensity(SurveyMember& survey) {

@@ -50,7 +50,4 @@ SetFiles filesOfSet(const std::vector<std::string>& main, const std::vector<std:
 bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& state,
                   TraceSet& traces, std::string& why);
 
-/// Takes samples off the front of a trace that was just read.
-void dropSamples(Trace& trace, std::size_t count);
-
 }  // namespace talvesk

@@ -29,14 +29,6 @@ Status readOne(const std::string& folder, const std::string& name, SegyState& st
   return status;
 }
 
-/// One trace of the recordings with the source struck either way.
-void join(Trace& dx, Trace& sx) {
-  dx.waveKind = Trace::kSWavePair;
-  dx.samplesDX = std::move(dx.samples);
-  dx.samplesSX = std::move(sx.samples);
-  subtractRecordings(dx);
-}
-
 /// What the record of a trace knows better than its shot file, or alone.
 void place(const StoredTrace& stored, Trace& trace) {
   if (std::isfinite(stored.time) && stored.time >= 0.0) trace.sampleInterval = stored.time;
@@ -78,9 +70,8 @@ bool hasSamples(const std::vector<StoredTrace>& stored) {
 
 bool finitePlaces(const std::vector<StoredTrace>& stored) {
   return std::all_of(stored.begin(), stored.end(), [](const StoredTrace& trace) {
-    return std::isfinite(trace.pos) && std::isfinite(trace.source.x) &&
-           std::isfinite(trace.source.z) && std::isfinite(trace.receiver.x) &&
-           std::isfinite(trace.receiver.z) && std::isfinite(trace.delay) && trace.delay <= 0.0;
+    return std::isfinite(trace.pos) && isFinite(trace.source) && isFinite(trace.receiver) &&
+           std::isfinite(trace.delay) && trace.delay <= 0.0;
   });
 }
 
@@ -137,7 +128,7 @@ TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<Sto
   for (std::size_t i = 0; i < traces.size(); ++i) {
     place(stored[i], traces[i]);
     checkKind(traces[i]);
-    dropSamples(traces[i], traces[i].droppedSamples);
+    dropFirstSamples(traces[i], traces[i].droppedSamples);
   }
   return traces;
 }
@@ -179,13 +170,6 @@ SetFiles filesOfSet(const std::vector<std::string>& main, const std::vector<std:
   return {entryOf(main, set), entryOf(dx, set), entryOf(sx, set)};
 }
 
-void dropSamples(Trace& trace, std::size_t count) {
-  for (auto* samples : {&trace.samples, &trace.samplesDX, &trace.samplesSX}) {
-    const auto dropped = static_cast<std::ptrdiff_t>(std::min(count, samples->size()));
-    samples->erase(samples->begin(), samples->begin() + dropped);
-  }
-}
-
 bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& state,
                   TraceSet& traces, std::string& why) {
   SegyState after = state;
@@ -200,7 +184,7 @@ bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& s
   }
   why = status.message();
   if (!status.ok()) return false;
-  for (std::size_t i = 0; i < second.size(); ++i) join(first[i], second[i]);
+  if (names.isPair()) joinRecordings(first, second);
   state = after;
   traces = std::move(first);
   return true;

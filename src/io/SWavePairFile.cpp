@@ -59,17 +59,6 @@ void compare(const TraceSet& dx, const TraceSet& sx, std::vector<std::string>& w
   if (lengths) warnings.emplace_back("DX and SX differ in length; that of DX counts");
 }
 
-TraceSet subtract(TraceSet dx, TraceSet sx) {
-  for (std::size_t i = 0; i < dx.size(); ++i) {
-    Trace& trace = dx[i];
-    trace.waveKind = Trace::kSWavePair;
-    trace.samplesDX = std::move(trace.samples);
-    trace.samplesSX = std::move(sx[i].samples);
-    subtractRecordings(trace);
-  }
-  return dx;
-}
-
 void append(const std::vector<std::string>& warnings, const char* side,
             std::vector<std::string>& all) {
   for (const std::string& warning : warnings) all.push_back(side + warning);
@@ -104,7 +93,8 @@ Status readSWavePair(const std::string& fileDX, const std::string& fileSX, SegyS
     return Status::failure(fileDX + " and " + fileSX + " are no pair: " + why);
   }
   compare(dx, sx, made.warnings);
-  made.traces = subtract(std::move(dx), std::move(sx));
+  joinRecordings(dx, sx);
+  made.traces = std::move(dx);
   pair = std::move(made);
   return {};
 }

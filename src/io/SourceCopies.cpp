@@ -39,7 +39,7 @@ bool copyOver(const std::string& source, const std::string& target) {
 bool sameSamples(const TraceSet& kept, TraceSet& read) {
   if (kept.size() != read.size()) return false;
   for (std::size_t i = 0; i < kept.size(); ++i) {
-    dropSamples(read[i], kept[i].droppedSamples);
+    dropFirstSamples(read[i], kept[i].droppedSamples);
     if (kept[i].samples != read[i].samples || kept[i].samplesDX != read[i].samplesDX ||
         kept[i].samplesSX != read[i].samplesSX) {
       return false;

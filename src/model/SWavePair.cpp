@@ -1,6 +1,7 @@
 #include "model/SWavePair.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace talvesk {
 
@@ -9,6 +10,15 @@ void subtractRecordings(Trace& trace) {
   trace.samples = trace.samplesDX;
   const std::size_t both = std::min(trace.samplesDX.size(), trace.samplesSX.size());
   for (std::size_t k = 0; k < both; ++k) trace.samples[k] -= trace.samplesSX[k];
+}
+
+void joinRecordings(TraceSet& dx, TraceSet& sx) {
+  for (std::size_t i = 0; i < std::min(dx.size(), sx.size()); ++i) {
+    dx[i].waveKind = Trace::kSWavePair;
+    dx[i].samplesDX = std::move(dx[i].samples);
+    dx[i].samplesSX = std::move(sx[i].samples);
+    subtractRecordings(dx[i]);
+  }
 }
 
 }  // namespace talvesk

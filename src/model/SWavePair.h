@@ -20,4 +20,8 @@ struct SWavePair {
 /// shorter, the rest of DX stands as it is. Traces of other kinds stay.
 void subtractRecordings(Trace& trace);
 
+/// Makes the traces of the DX recording those of a pair, with the samples of the SX recording
+/// moved beside theirs. Both have the same number of traces.
+void joinRecordings(TraceSet& dx, TraceSet& sx);
+
 }  // namespace talvesk

@@ -16,10 +16,6 @@ bool same(const Point2D& a, const Point2D& b) {
   return same(a.x, b.x) && same(a.z, b.z);
 }
 
-bool knownFor(const GeometryPlace& place) {
-  return std::isfinite(place.x) && std::isfinite(place.z);
-}
-
 /// Elevations that are all 0 are elevations that nobody measured.
 template <typename Places, typename PlaceOf>
 void markTyped(Places& places, PlaceOf placeOf) {
@@ -45,12 +41,6 @@ GeophoneString stringOf(const std::vector<Point2D>& points) {
   return string;
 }
 
-const TraceSet* tracesOf(const TomoDocument& document, const TravelTime& record) {
-  const auto set = static_cast<std::size_t>(record.traceSetID);
-  const bool known = record.traceSetID >= 0 && set < document.traceSets.size();
-  return known ? &document.traceSets[set] : nullptr;
-}
-
 std::string entry(const std::vector<std::string>& list, std::size_t index) {
   return index < list.size() ? list[index] : std::string();
 }
@@ -59,7 +49,7 @@ std::string entry(const std::vector<std::string>& list, std::size_t index) {
 class Profile {
  public:
   void take(const GeometryPlace& place) {
-    if (knownFor(place)) mElevations.emplace(place.x, place.z);
+    if (isFinite(place.point())) mElevations.emplace(place.x, place.z);
   }
   bool empty() const { return mElevations.empty(); }
   double at(double x) const {
@@ -124,7 +114,7 @@ SurveyGeometry geometryOf(const TomoDocument& document) {
     GeometryShot& shot = geometry.shots.emplace_back();
     shot.place = {record.shotPos2d.x, record.shotPos2d.z, false};
     shot.string = record.indexStesa;
-    const TraceSet* traces = tracesOf(document, record);
+    const TraceSet* traces = document.tracesOf(record);
     shot.traces = traces != nullptr ? traces->size() : record.ttMisurati.size();
     shot.file = entry(document.filenames, i);
     shot.fileDX = entry(document.filenames_DX, i);

@@ -3,10 +3,10 @@
 #include "base/Console.h"
 #include "base/TextNumber.h"
 
-#include <cmath>
 #include <limits>
 #include <map>
 #include <ostream>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -22,39 +22,40 @@ struct Extent {
   bool holds(double x) const { return x >= first && x <= last; }
 };
 
-bool isKnown(const Point2D& point) {
-  return std::isfinite(point.x) && std::isfinite(point.z);
-}
-
 /// Where the line begins and ends: its geophones, or its shots when no geophone is known.
 Extent lineExtent(const std::vector<std::vector<Point2D>>& strings,
                   const std::vector<Point2D>& shots) {
   Extent extent;
   for (const auto& string : strings) {
     for (const Point2D& geophone : string) {
-      if (isKnown(geophone)) extent.take(geophone);
+      if (isFinite(geophone)) extent.take(geophone);
     }
   }
   if (extent.first <= extent.last) return extent;
   for (const Point2D& shot : shots) {
-    if (isKnown(shot)) extent.take(shot);
+    if (isFinite(shot)) extent.take(shot);
   }
   return extent;
+}
+
+template <typename SplineKind>
+SplineKind splineThrough(const std::vector<Point2D>& points) {
+  std::vector<double> x;
+  std::vector<double> z;
+  for (const Point2D& point : points) {
+    x.push_back(point.x);
+    z.push_back(point.z);
+  }
+  SplineKind spline;
+  spline.build(x, z);
+  return spline;
 }
 
 template <typename SplineKind>
 double elevationBy(const std::vector<Point2D>& profile, double x) {
   if (profile.empty()) return 0.0;
   if (profile.size() == 1) return profile.front().z;
-  std::vector<double> distances;
-  std::vector<double> elevations;
-  for (const Point2D& point : profile) {
-    distances.push_back(point.x);
-    elevations.push_back(point.z);
-  }
-  SplineKind spline;
-  spline.build(distances, elevations);
-  return spline(x);
+  return splineThrough<SplineKind>(profile)(x);
 }
 
 }  // namespace
@@ -64,15 +65,10 @@ TomoDocument::~TomoDocument() = default;
 TomoDocument::TomoDocument(TomoDocument&&) noexcept = default;
 TomoDocument& TomoDocument::operator=(TomoDocument&&) noexcept = default;
 
-void TomoDocument::clearModelAndResults() {
-  grid.reset();
-  xOffset = 0.0;
-  surface = Splines::LinearSpline();
-  proposedCellSizes.clear();
+void TomoDocument::clearInversion() {
   has_tomographic_info = false;
   smoothedResult = false;
   RMSE_tomography = -1.0;
-  info_density.clear();
   coorcount.clear();
   hitCounts.clear();
   rays.clear();
@@ -80,6 +76,22 @@ void TomoDocument::clearModelAndResults() {
   coverageLimit.clear();
   coverageSpline.reset();
   lastInversion.reset();
+}
+
+void TomoDocument::clearModelAndResults() {
+  grid.reset();
+  xOffset = 0.0;
+  surface = Splines::LinearSpline();
+  proposedCellSizes.clear();
+  info_density.clear();
+  clearInversion();
+}
+
+void TomoDocument::setCoverageLimit(std::vector<Point2D> centres) {
+  coverageLimit = std::move(centres);
+  coverageSpline.reset();
+  if (coverageLimit.size() < 2) return;
+  coverageSpline = splineThrough<Splines::BesselSpline>(coverageLimit);
 }
 
 bool TomoDocument::picksComplete() const {
@@ -111,6 +123,28 @@ int TomoDocument::findTrace(std::int32_t set, std::int32_t trace, const Trace*& 
   return 0;
 }
 
+const TraceSet* TomoDocument::tracesOf(const TravelTime& record) const {
+  const auto set = static_cast<std::size_t>(record.traceSetID);
+  return record.traceSetID >= 0 && set < traceSets.size() ? &traceSets[set] : nullptr;
+}
+
+TraceSet* TomoDocument::tracesOf(const TravelTime& record) {
+  return const_cast<TraceSet*>(std::as_const(*this).tracesOf(record));
+}
+
+std::vector<Point2D> TomoDocument::receiversOf(const TravelTime& record) const {
+  const auto string = static_cast<std::size_t>(record.indexStesa);
+  if (record.indexStesa >= 0 && string < goephonesStringSet.size() &&
+      !goephonesStringSet[string].empty()) {
+    return goephonesStringSet[string];
+  }
+  std::vector<Point2D> receivers;
+  if (const TraceSet* traces = tracesOf(record)) {
+    for (const Trace& trace : *traces) receivers.push_back(trace.receiverPosition);
+  }
+  return receivers;
+}
+
 std::vector<Point2D> TomoDocument::shotPoints() const {
   std::vector<Point2D> points;
   points.reserve(ttArray.size());
@@ -127,7 +161,7 @@ std::vector<Point2D> TomoDocument::elevationProfile() const {
   const Extent extent = lineExtent(goephonesStringSet, shots);
   std::map<double, double> elevations;
   const auto take = [&](const Point2D& point) {
-    if (!isKnown(point) || !extent.holds(point.x)) return;
+    if (!isFinite(point) || !extent.holds(point.x)) return;
     if (elevations.emplace(point.x, point.z).second) {
       console::out() << formatDouble(point.x) << " insert\n";
     }

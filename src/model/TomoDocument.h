@@ -79,6 +79,11 @@ class TomoDocument {
 
   bool modified = false;  ///< something changed since the last save
 
+  /// Takes the centres of the deepest covered cells, column by column, and lays the curve through
+  /// them.
+  void setCoverageLimit(std::vector<Point2D> centres);
+  /// Forgets what the last inversion left, but the information density, which every grid has.
+  void clearInversion();
   /// Forgets grid, results and what else was computed for a geometry that is no longer there. The
   /// starting model stays.
   void clearModelAndResults();
@@ -90,6 +95,13 @@ class TomoDocument {
 
   /// 0 and the trace, or -1 with a line on the console's error stream.
   int findTrace(std::int32_t set, std::int32_t trace, const Trace*& out) const;
+
+  /// The traces that the times of a record belong to; null when there are none.
+  const TraceSet* tracesOf(const TravelTime& record) const;
+  TraceSet* tracesOf(const TravelTime& record);
+  /// Where the receivers of a record stand: the geophones of its string or, without any, what the
+  /// headers of its traces say.
+  std::vector<Point2D> receiversOf(const TravelTime& record) const;
 
   std::vector<Point2D> shotPoints() const;  ///< of the records, in order
   SurveyProfile surveyProfile() const;      ///< of strings and records
@@ -106,7 +118,8 @@ class TomoDocument {
   /// 3 ray based. On failure the grid is as before.
   Status runTomography(std::vector<double>& slownesses, int solverIterations, int smoothing,
                        bool multiThread, bool symmetric, int smoothingType, Log& log);
-  /// The rays, inner iterations and smoothing of one external iteration.
+  /// The rays, inner iterations and smoothing of one external iteration. Needs a grid with cells
+  /// whose slownesses are all valid, and may throw; runTomography() sees to both.
   Status runTomography_fast(std::vector<double>& slownesses, unsigned threads, int solverIterations,
                             int smoothing, bool symmetric, int smoothingType, Log& log);
 };

@@ -35,4 +35,7 @@ struct Trace {
 /// The traces of one shot file, in channel order.
 using TraceSet = std::vector<Trace>;
 
+/// Takes samples off the front of a trace, raw and components alike, as far as there are any.
+void dropFirstSamples(Trace& trace, std::size_t count);
+
 }  // namespace talvesk

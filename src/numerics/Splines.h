@@ -20,6 +20,8 @@ class Spline {
   virtual ~Spline() = default;
   Spline(const Spline&) = default;
   Spline& operator=(const Spline&) = default;
+  Spline(Spline&&) noexcept = default;
+  Spline& operator=(Spline&&) noexcept = default;
 
   /// Copies n nodes and computes what evaluation needs. What the spline held before is lost when it
   /// throws.

@@ -6,11 +6,6 @@
 namespace talvesk {
 namespace {
 
-void dropFront(std::vector<double>& samples, std::size_t count) {
-  const std::size_t dropped = std::min(count, samples.size());
-  samples.erase(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(dropped));
-}
-
 /// Samples recorded before the shot, or -1 where delay and interval make no number of them. Kept as
 /// a double: absurd headers give numbers beyond every integer.
 double leadOf(const Trace& trace) {
@@ -34,11 +29,12 @@ void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
   const auto total = static_cast<std::size_t>(lead);
   if (total <= trace.droppedSamples) return;
   const std::size_t now = total - trace.droppedSamples;
-  for (auto* samples : {&trace.samples, &trace.samplesDX, &trace.samplesSX}) {
-    dropFront(*samples, now);
-  }
+  dropFirstSamples(trace, now);
   // A filtered copy as long as the samples now are was kept from an earlier shortening.
-  if (trace.filtered.size() != trace.samples.size()) dropFront(trace.filtered, now);
+  if (trace.filtered.size() != trace.samples.size()) {
+    const auto dropped = static_cast<std::ptrdiff_t>(std::min(now, trace.filtered.size()));
+    trace.filtered.erase(trace.filtered.begin(), trace.filtered.begin() + dropped);
+  }
   trace.droppedSamples = total;
   ++outcome.shortened;
   outcome.mostDropped = std::max(outcome.mostDropped, now);

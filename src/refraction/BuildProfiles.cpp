@@ -151,10 +151,7 @@ ProfileOutcome buildProfiles(const std::vector<ShotArrivals>& shots,
                              Interpretation& interpretation) {
   ProfileOutcome outcome;
   Interpretation work = interpretation;
-  work.phnt_A.clear();
-  work.phnt_R.clear();
-  work.refractData = {};
-  clearShifts(work.ttLayer);
+  forgetResults(work);
   processingData& results = work.refractData;
   const auto interpret = [&](std::uint32_t refractor) {
     Curves curves;

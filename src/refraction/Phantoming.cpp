@@ -25,14 +25,10 @@ phantom emptyCurve(const std::vector<ShotArrivals>& shots) {
   phantom curve;
   for (const ShotArrivals& shot : shots) {
     for (const Point2D& receiver : shot.receivers) {
-      if (std::isfinite(receiver.x) && std::isfinite(receiver.z)) curve.points.push_back(receiver);
+      if (isFinite(receiver)) curve.points.push_back(receiver);
     }
   }
-  const auto byX = [](const Point2D& a, const Point2D& b) { return a.x < b.x; };
-  const auto sameX = [](const Point2D& a, const Point2D& b) { return a.x == b.x; };
-  std::stable_sort(curve.points.begin(), curve.points.end(), byX);
-  curve.points.erase(std::unique(curve.points.begin(), curve.points.end(), sameX),
-                     curve.points.end());
+  keepFirstOfEachX(curve.points);
   curve.times.assign(curve.points.size(), kNoArrival);
   return curve;
 }
@@ -142,10 +138,6 @@ CurveOutcome buildCurve(const std::vector<ShotArrivals>& shots, std::int32_t end
   }
   dropEmpty(curve);
   return outcome;
-}
-
-void clearShifts(std::vector<layerStruct>& marks) {
-  for (layerStruct& own : marks) own.trasla.assign(own.layer.size(), 0.0);
 }
 
 }  // namespace talvesk

@@ -38,17 +38,14 @@ struct CurveOutcome {
 
 /// Makes a refractor's arrival curve over the union of all receivers: the end shot's own picks,
 /// then the enabled other shots in document order. The line is that of the end shot's own picks,
-/// told on the console with them. Receivers without an arrival are not part of the result. \param
-/// side where the curve's receivers are as seen from its shots: kRight for the forward curve \param
-/// marks their `trasla` is set where a shift was found
+/// told on the console with them. Receivers without an arrival are not part of the result.
+/// \param side of the curve's receivers, seen from its shots: kRight for the forward curve
+/// \param marks their `trasla` is set where a shift was found
 CurveOutcome buildCurve(const std::vector<ShotArrivals>& shots, std::int32_t endShot,
                         std::uint32_t refractor, Side side,
                         std::vector<refractionDataStructure::layerStruct>& marks);
 
 /// Leaves only the receivers of a curve for which `wanted` (one entry each) is true, all enabled.
 void keepReceivers(refractionDataStructure::phantom& curve, const std::vector<bool>& wanted);
-
-/// Sets all time shifts to 0, those of traces that have been assigned elsewhere since included.
-void clearShifts(std::vector<refractionDataStructure::layerStruct>& marks);
 
 }  // namespace talvesk

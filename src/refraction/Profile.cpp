@@ -51,11 +51,7 @@ std::vector<Point2D> profileSurface(const processingData& results) {
       surface.push_back({refractor.x[j], refractor.elevation[j]});
     }
   }
-  std::stable_sort(surface.begin(), surface.end(),
-                   [](const Point2D& a, const Point2D& b) { return a.x < b.x; });
-  surface.erase(std::unique(surface.begin(), surface.end(),
-                            [](const Point2D& a, const Point2D& b) { return a.x == b.x; }),
-                surface.end());
+  keepFirstOfEachX(surface);
   return surface;
 }
 

@@ -9,35 +9,13 @@ namespace talvesk {
 
 using namespace refractionDataStructure;
 
-namespace {
-
-std::vector<Point2D> receiversOf(const TomoDocument& document, const TravelTime& record) {
-  const auto& strings = document.goephonesStringSet;
-  const auto string = static_cast<std::size_t>(record.indexStesa);
-  if (record.indexStesa >= 0 && string < strings.size() && !strings[string].empty()) {
-    return strings[string];
-  }
-  std::vector<Point2D> receivers;
-  const auto set = static_cast<std::size_t>(record.traceSetID);
-  if (record.traceSetID >= 0 && set < document.traceSets.size()) {
-    for (const Trace& trace : document.traceSets[set]) receivers.push_back(trace.receiverPosition);
-  }
-  return receivers;
-}
-
-bool isFinite(const Point2D& point) {
-  return std::isfinite(point.x) && std::isfinite(point.z);
-}
-
-}  // namespace
-
 std::vector<ShotArrivals> shotArrivals(const TomoDocument& document) {
   std::vector<ShotArrivals> shots;
   shots.reserve(document.ttArray.size());
   for (const TravelTime& record : document.ttArray) {
     ShotArrivals shot;
     shot.shot = record.shotPos2d;
-    shot.receivers = receiversOf(document, record);
+    shot.receivers = document.receiversOf(record);
     shot.times = record.ttMisurati;
     const std::size_t used = std::min(shot.receivers.size(), shot.times.size());
     shot.receivers.resize(used);
@@ -100,7 +78,11 @@ void forgetResults(Interpretation& interpretation) {
   interpretation.phnt_A.clear();
   interpretation.phnt_R.clear();
   interpretation.refractData = {};
-  for (layerStruct& own : interpretation.ttLayer) own.trasla.assign(own.layer.size(), 0.0);
+  clearShifts(interpretation.ttLayer);
+}
+
+void clearShifts(std::vector<layerStruct>& marks) {
+  for (layerStruct& own : marks) own.trasla.assign(own.layer.size(), 0.0);
 }
 
 }  // namespace talvesk

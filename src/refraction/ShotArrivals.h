@@ -47,6 +47,9 @@ bool fitToSurvey(const TomoDocument& document,
 /// Forgets curves, time shifts and results; the marks stay.
 void forgetResults(refractionDataStructure::Interpretation& interpretation);
 
+/// Sets all time shifts to 0, those of traces that have been assigned elsewhere since included.
+void clearShifts(std::vector<refractionDataStructure::layerStruct>& marks);
+
 /// Whether any trace is assigned to a layer.
 bool hasMarks(const std::vector<refractionDataStructure::layerStruct>& marks);
 

@@ -21,7 +21,7 @@ std::vector<double> valuesOf(const TomoDocument& document, SectionQuantity quant
   const Grid& grid = *document.grid;
   switch (quantity) {
     case SectionQuantity::kVelocity:
-      return velocityValues(grid);
+      return grid.velocities();
     case SectionQuantity::kVerticalGradient:
       return verticalGradientValues(grid);
     case SectionQuantity::kLaplacian:
@@ -57,9 +57,7 @@ ValueRange drawnRange(const SectionMesh& mesh, const std::vector<double>& values
 }
 
 std::vector<Point2D> eachPlaceOnce(std::vector<Point2D> points) {
-  const auto notAPlace = [](const Point2D& p) {
-    return !std::isfinite(p.x) || !std::isfinite(p.z);
-  };
+  const auto notAPlace = [](const Point2D& p) { return !isFinite(p); };
   points.erase(std::remove_if(points.begin(), points.end(), notAPlace), points.end());
   std::sort(points.begin(), points.end(), [](const Point2D& a, const Point2D& b) {
     return std::pair(a.x, a.z) < std::pair(b.x, b.z);
@@ -138,7 +136,7 @@ void addContours(const SectionSceneOptions& options, SectionScene& scene) {
 /// The values of the cells and all that follows from them.
 Status fillIn(const TomoDocument& document, const SectionSceneOptions& options,
               SectionScene& scene) {
-  scene.velocities = velocityValues(*document.grid);
+  scene.velocities = document.grid->velocities();
   scene.cellValues = valuesOf(document, options.quantity);
   const bool filled = scene.fill != SectionFill::kNone;
   if (filled) drawOnlyValues(scene.mesh, scene.cellValues);

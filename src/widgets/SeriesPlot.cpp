@@ -23,10 +23,6 @@ QPen penOf(const PlotSeries& series) {
   return {series.color, series.width, series.dashed ? Qt::DashLine : Qt::SolidLine};
 }
 
-bool isDrawable(const Point2D& p) {
-  return std::isfinite(p.x) && std::isfinite(p.z);
-}
-
 void paintSeries(QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
                  const PlotSeries& series) {
   painter.setRenderHint(QPainter::Antialiasing);
@@ -45,7 +41,7 @@ void paintSeries(QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& 
     line.clear();
   };
   for (const Point2D& p : series.points) {
-    if (isDrawable(p)) {
+    if (isFinite(p)) {
       line.append({xMap.transform(p.x), yMap.transform(p.z)});
     } else {
       end();
@@ -96,7 +92,7 @@ void SeriesPlot::setSeries(std::vector<PlotSeries> series) {
     add(itemOf(curve, z));
     z += 1e-3;
     for (const Point2D& p : curve.points) {
-      if (!isDrawable(p)) continue;
+      if (!isFinite(p)) continue;
       if (empty && mFrame.isNull()) whole = QRectF(p.x, p.z, 0.0, 0.0);
       whole.setLeft(std::min(whole.left(), p.x));
       whole.setRight(std::max(whole.right(), p.x));

@@ -61,9 +61,7 @@ const TravelTime* ShotTraces::times() const {
 
 const TraceSet* ShotTraces::traceSet() const {
   const TravelTime* record = times();
-  if (record == nullptr || record->traceSetID < 0) return nullptr;
-  const auto i = static_cast<std::size_t>(record->traceSetID);
-  return i < mDocument->traceSets.size() ? &mDocument->traceSets[i] : nullptr;
+  return record != nullptr ? mDocument->tracesOf(*record) : nullptr;
 }
 
 const Trace* ShotTraces::find(int trace) const {

@@ -34,11 +34,11 @@ void expectSaneOrRefused(const std::string& path, const std::string& text) {
               data.strings[static_cast<std::size_t>(record.indexStesa)].size());
     EXPECT_EQ(record.ttCalcolati.size(), record.ttMisurati.size());
     EXPECT_GE(record.traceSetID, 0);
-    EXPECT_TRUE(std::isfinite(record.shotPos2d.x) && std::isfinite(record.shotPos2d.z));
+    EXPECT_TRUE(isFinite(record.shotPos2d));
     for (const double time : record.ttMisurati) EXPECT_TRUE(std::isfinite(time));
   }
   for (const auto& string : data.strings) {
-    for (const Point2D& p : string) EXPECT_TRUE(std::isfinite(p.x) && std::isfinite(p.z));
+    for (const Point2D& p : string) EXPECT_TRUE(isFinite(p));
   }
 }
 

@@ -73,6 +73,28 @@ TEST(FindTrace, tellsWhatDoesNotExist) {
   EXPECT_EQ(found, &document.traceSets[0][1]);
 }
 
+TEST(Receivers, areTheGeophonesElseWhereTheTracesSay) {
+  TomoDocument document;
+  document.goephonesStringSet = {{{1.0, 2.0}, {3.0, 4.0}}, {}};
+  document.traceSets.resize(2);
+  document.traceSets[1].resize(1);
+  document.traceSets[1][0].receiverPosition = {7.0, 8.0};
+  const std::vector<Point2D> geophones = {{1.0, 2.0}, {3.0, 4.0}};
+  const std::vector<Point2D> headers = {{7.0, 8.0}};
+  const struct {
+    std::int32_t string, set;
+    std::vector<Point2D> receivers;
+  } cases[] = {{0, 1, geophones}, {0, -1, geophones}, {1, 1, headers}, {-1, 1, headers},
+               {2, 1, headers},   {1, 0, {}},         {1, 2, {}},      {1, -1, {}}};
+  for (const auto& [string, set, receivers] : cases) {
+    TravelTime times;
+    times.indexStesa = string;
+    times.traceSetID = set;
+    EXPECT_EQ(document.receiversOf(times), receivers) << string << ", " << set;
+    EXPECT_EQ(document.tracesOf(times) != nullptr, set == 0 || set == 1) << set;
+  }
+}
+
 TomoDocument hillLine() {
   TomoDocument document;
   document.goephonesStringSet = {{{10.0, 1.0}, {0.0, 5.0}}, {{10.0, 99.0}, {20.0, 3.0}}};

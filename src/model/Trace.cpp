@@ -1,0 +1,14 @@
+#include "model/Trace.h"
+
+#include <algorithm>
+
+namespace talvesk {
+
+void dropFirstSamples(Trace& trace, std::size_t count) {
+  for (auto* samples : {&trace.samples, &trace.samplesDX, &trace.samplesSX}) {
+    const auto dropped = static_cast<std::ptrdiff_t>(std::min(count, samples->size()));
+    samples->erase(samples->begin(), samples->begin() + dropped);
+  }
+}
+
+}  // namespace talvesk
