@@ -5,13 +5,12 @@
 #include "app/gridDialog.h"
 #include "app/select_speed_Dialog.h"
 #include "app/smoothingDialog.h"
+#include "tomo/ForwardPass.h"
 #include "tomo/GridSetup.h"
 #include "ui_Talvesk_MainWindows.h"
 
 #include <QApplication>
 #include <QStatusBar>
-#include <QThread>
-#include <algorithm>
 
 // The commands that make and change the model of the ground: grid, starting model, smoothing.
 
@@ -36,8 +35,7 @@ bool Talvesk_MainWindows::makeGrid(bool propose) {
     settings = proposeGrid(mDocument, profile, mLog);
   }
   if (!propose) settings.cellSize = mDocument.grid ? mDocument.grid->aLato() : 0.0;
-  const auto threads = static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
-  gridDialog dialog(profile, settings, threads, this);
+  gridDialog dialog(profile, settings, searchThreads(), this);
   dialog.setForgetsResults(mDocument.has_tomographic_info);
   while (dialog.exec() == QDialog::Accepted) {
     const Status status = whileWaiting([&] {

@@ -8,8 +8,7 @@ namespace talvesk {
 DijkstraComputePathsThread::DijkstraComputePathsThread(TomoDocument& document,
                                                        std::uint32_t shotIndex,
                                                        std::uint32_t sourceNode)
-    : mThreadNumber(shotIndex),
-      mShotIndex(shotIndex),
+    : mShotIndex(shotIndex),
       mDocument(document),
       mSpreadIndex(static_cast<std::uint32_t>(document.ttArray.at(shotIndex).indexStesa)),
       mSourceNode(sourceNode) {}

@@ -33,7 +33,7 @@ class DijkstraComputePathsThread : public QThread {
   void evaluateRay(std::uint32_t receiver);      ///< time, computed time and corrections
   void refreshRayTimes(std::uint32_t receiver);  ///< edge times from the current slownesses
 
-  std::uint32_t threadNumber() const { return mThreadNumber; }
+  std::uint32_t threadNumber() const { return mShotIndex; }
   const std::vector<Ray>& rays() const { return mRays; }  ///< without nodes: beyond the top line
   double lastTime() const { return mLastTime; }           ///< seconds, of the ray evaluated last
   /// Every cell that a ray crosses, once. Only these entries of the accumulators are ever written.
@@ -47,7 +47,6 @@ class DijkstraComputePathsThread : public QThread {
   void traceRays();
   void collectCells();
 
-  std::uint32_t mThreadNumber;
   std::uint32_t mShotIndex;
   TomoDocument& mDocument;
   std::uint32_t mSpreadIndex;

@@ -1,10 +1,11 @@
 #include "tomo/ForwardPass.h"
 
 #include "base/Console.h"
+#include "base/TextNumber.h"
 
+#include <QThread>
 #include <algorithm>
 #include <ostream>
-#include <sstream>
 
 namespace talvesk {
 namespace {
@@ -24,13 +25,24 @@ void both(Log& log, const std::string& line) {
 
 }  // namespace
 
+unsigned searchThreads() {
+  return static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
+}
+
+Status checkTraceable(const TomoDocument& document) {
+  if (document.grid == nullptr || document.grid->cellCount() == 0) {
+    return Status::failure("There is no grid with cells; build the grid first.");
+  }
+  const std::string invalid = document.grid->invalidSlowness();
+  if (!invalid.empty()) return Status::failure("The velocity model cannot be used: " + invalid);
+  return {};
+}
+
 std::string describe(const ExcludedPosition& position) {
-  std::ostringstream text;
-  text.imbue(std::locale::classic());
-  text << "Left out: shot " << position.shot + 1;
-  if (position.receiver >= 0) text << ", receiver " << position.receiver + 1;
-  text << " at x = " << position.x << " m lies beyond the grid or has no geophone string";
-  return text.str();
+  std::string text = "Left out: shot " + std::to_string(position.shot + 1);
+  if (position.receiver >= 0) text += ", receiver " + std::to_string(position.receiver + 1);
+  return text + " at x = " + formatDouble(position.x) +
+         " m lies beyond the grid or has no geophone string";
 }
 
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document) {

@@ -11,6 +11,13 @@
 
 namespace talvesk {
 
+/// How many ray searches run at once unless the user asks for a single one.
+unsigned searchThreads();
+
+/// Fails when rays cannot be traced: without a grid, without cells, or with a cell that has no
+/// valid velocity.
+Status checkTraceable(const TomoDocument& document);
+
 /// Shots and receivers that the current grid has no top-line node for, and shots whose geophone
 /// string does not exist (receiver -1).
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document);

@@ -1,35 +1,35 @@
 #include "tomo/GridSetup.h"
 
 #include "base/Console.h"
+#include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
+#include "tomo/ForwardPass.h"
 
-#include <QThread>
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <locale>
 #include <memory>
 #include <sstream>
+#include <utility>
 
 namespace talvesk {
 namespace {
 
 constexpr std::uint32_t kFewestNodes = 6;  // per cell side, of those that users choose
-constexpr double kLargestCoordinate =
-    1e8;  // metres; more than that is no survey line on this globe
 
-std::string inClassic(double value, bool fixed) {
+std::string withSixDecimals(double value) {
   std::ostringstream text;
   text.imbue(std::locale::classic());
-  if (fixed) text << std::fixed;
-  text << value;
+  text << std::fixed << value;
   return text.str();
 }
 
 /// Measures the survey and keeps the cell size that it proposes.
 SurveyProfile measure(TomoDocument& document, Log& log) {
   SurveyProfile profile = document.surveyProfile();
-  log.write("Minima spaziatura : " + inClassic(profile.minSpacing, true));
-  console::out() << "[LOG] Minima spaziatura " << inClassic(profile.minSpacing, false) << std::endl;
+  log.write("Minima spaziatura : " + withSixDecimals(profile.minSpacing));
+  console::out() << "[LOG] Minima spaziatura " << formatDouble(profile.minSpacing) << std::endl;
   if (profile.hasGeometry()) document.proposedCellSizes.push_back(profile.proposedCellSize);
   return profile;
 }
@@ -54,32 +54,16 @@ Status checkSurvey(const SurveyProfile& profile) {
   return {};
 }
 
-/// Rays, coverage and misfit belong to the grid that they were traced through.
-void forgetInversion(TomoDocument& document) {
-  document.has_tomographic_info = false;
-  document.smoothedResult = false;
-  document.RMSE_tomography = -1.0;
-  document.rays.clear();
-  document.coorcount.clear();
-  document.hitCounts.clear();
-  document.excluded.clear();
-  document.coverageLimit.clear();
-  document.coverageSpline.reset();
-  document.lastInversion.reset();
-}
-
 Status fail(Log& log, const std::string& message) {
   log.write("Setting Grid ... FAILED. ", 1);
   return Status::failure(message);
 }
 
-void install(TomoDocument& document, std::unique_ptr<Grid> grid, Splines::LinearSpline surface,
-             double xOffset) {
+/// Rays, coverage and misfit belong to the grid that they were traced through.
+void install(TomoDocument& document, std::unique_ptr<Grid> grid) {
   std::vector<double> noInformation(grid->cellCount(), -1.0);
-  forgetInversion(document);
+  document.clearInversion();
   document.info_density = std::move(noInformation);
-  document.surface = std::move(surface);
-  document.xOffset = xOffset;
   document.grid = std::move(grid);
   document.modified = true;
 }
@@ -104,25 +88,26 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
   if (!(settings.cellSize > 0.0) || !(settings.maxDepth >= 0.0) || settings.nodes < 2 ||
       !std::isfinite(settings.cellSize) || !std::isfinite(settings.maxDepth)) {
     return fail(log,
-                "A grid of cells of " + inClassic(settings.cellSize, false) + " m with " +
+                "A grid of cells of " + formatDouble(settings.cellSize) + " m with " +
                     std::to_string(settings.nodes) + " nodes per side, " +
-                    inClassic(settings.maxDepth, false) +
+                    formatDouble(settings.maxDepth) +
                     " m deep, cannot be built; choose a positive cell size, two nodes at least "
                     "and no negative depth.");
   }
   const GridSize size =
       gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);
-  const auto threads = static_cast<unsigned>(QThread::idealThreadCount());
-  if (const Status status = checkGridSize(size, threads); !status.ok()) {
+  if (const Status status = checkGridSize(size, searchThreads()); !status.ok()) {
     return fail(log, status.message());
   }
   log.write("Generating the grid ... ");
   try {
-    const Splines::LinearSpline surface = profile.surface();
+    Splines::LinearSpline surface = profile.surface();
     std::unique_ptr<Grid> grid = buildDefaultGrid(size, surface);
     if (grid == nullptr) return fail(log, "The grid could not be built; see the error stream.");
     log.write("Generating the grid ... COMPLETED");
-    install(document, std::move(grid), surface, profile.xOffset);
+    install(document, std::move(grid));
+    document.surface = std::move(surface);
+    document.xOffset = profile.xOffset;
   } catch (const std::exception& error) {
     return fail(log, std::string("The grid could not be built: ") + error.what());
   }
@@ -134,16 +119,12 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
 Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers) {
   if (document.grid == nullptr)
     return Status::failure("There is no grid yet; build the grid first.");
-  const std::vector<VelocityLayer> accepted = acceptedLayers(layers);
+  std::vector<VelocityLayer> accepted = acceptedLayers(layers);
   std::unique_ptr<Grid> grid;
   Status status = buildLayeredGrid(*document.grid, accepted, document.surface, grid);
   if (!status.ok()) return status;
-  std::vector<double> noInformation(grid->cellCount(), -1.0);
-  forgetInversion(document);
-  document.info_density = std::move(noInformation);
-  document.grid = std::move(grid);
-  document.layers = accepted;
-  document.modified = true;
+  install(document, std::move(grid));
+  document.layers = std::move(accepted);
   return {};
 }
 

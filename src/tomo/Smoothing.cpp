@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -108,7 +107,7 @@ double inverseDistance(double squared) {
 }
 
 /// The parameter counts cells while distances are metres; kept, users know its effect.
-std::function<double(double)> gaussian(int radius) {
+auto gaussian(int radius) {
   const double sigma = radius / 1.4;
   return [sigma](double squared) {
     return std::exp(-squared / (2.0 * (sigma * sigma))) * 1.0 / (6.283 * (sigma * sigma));

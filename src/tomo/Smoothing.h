@@ -20,10 +20,11 @@ inline constexpr double verticalRatio(bool symmetric) {
 }
 
 /// Smoothed slownesses (s/m, cell order) of a grid. The window of a cell reaches `radius` columns
-/// to each side and floor(radius * ratio) rows up and down, cut at the edges of the grid. \param
-/// hits per cell: greater than 0 where a ray passed; read by the ray-based kind. Any other number
-/// of entries throws std::out_of_range. \param radius smoothing parameter, cells, at least 1 \param
-/// ratio see verticalRatio()
+/// to each side and floor(radius * ratio) rows up and down, cut at the edges of the grid.
+/// \param hits per cell: greater than 0 where a ray passed; read by the ray-based kind. Any other
+/// number of entries throws std::out_of_range
+/// \param radius smoothing parameter, cells, at least 1
+/// \param ratio see verticalRatio()
 std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
                                    const std::vector<std::uint32_t>& hits, int radius,
                                    double ratio);

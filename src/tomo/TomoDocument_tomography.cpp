@@ -1,29 +1,18 @@
 #include "base/Console.h"
 #include "model/TomoDocument.h"
 #include "tomo/ForwardPass.h"
-#include "tomo/RayRecomputation.h"
 #include "tomo/Smoothing.h"
 #include "tomo/Solver.h"
 
-#include <QThread>
 #include <algorithm>
 #include <chrono>
 #include <ctime>
 #include <exception>
 #include <ostream>
-#include <stdexcept>
+#include <utility>
 
 namespace talvesk {
 namespace {
-
-Status checkGrid(const TomoDocument& document) {
-  if (document.grid == nullptr || document.grid->cellCount() == 0) {
-    return Status::failure("There is no grid with cells; build the grid first.");
-  }
-  const std::string invalid = document.grid->invalidSlowness();
-  if (!invalid.empty()) return Status::failure("The velocity model cannot be used: " + invalid);
-  return {};
-}
 
 void tellEnd(std::chrono::steady_clock::time_point start) {
   const std::time_t now = std::time(nullptr);
@@ -73,28 +62,19 @@ class ResultsBefore {
 
 /// Draw flags of the new grid, and in the document the lower limit of what rays covered.
 void setCoverage(TomoDocument& document, Grid& grid) {
-  document.coverageLimit.clear();
-  document.coverageSpline.reset();
+  std::vector<Point2D> limit;
   for (std::uint32_t column = 0; column < grid.col(); ++column) {
     bool covered = false;
     for (std::uint32_t row = grid.righe() - 1; row >= 1; --row) {
       const std::uint32_t cell = grid.cellIndex(row, column);
       if (!covered && document.hitCounts[cell] > 0) {
         covered = true;
-        document.coverageLimit.push_back(grid.cellCentre(cell));
+        limit.push_back(grid.cellCentre(cell));
       }
       grid.setDraw(cell, covered);
     }
   }
-  std::vector<double> x, z;
-  for (const Point2D& centre : document.coverageLimit) {
-    x.push_back(centre.x);
-    z.push_back(centre.z);
-  }
-  if (x.size() < 2) return;
-  Splines::BesselSpline spline;
-  spline.Spline::build(x, z);
-  document.coverageSpline = spline;
+  document.setCoverageLimit(std::move(limit));
 }
 
 }  // namespace
@@ -144,9 +124,8 @@ Status TomoDocument::runTomography(std::vector<double>& slownesses, int solverIt
                                    int smoothing, bool multiThread, bool symmetric,
                                    int smoothingType, Log& log) {
   log.write("TomoDocument::runTomography");
-  if (const Status status = checkGrid(*this); !status.ok()) return status;
-  const unsigned threads =
-      multiThread ? static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1)) : 1U;
+  if (const Status status = checkTraceable(*this); !status.ok()) return status;
+  const unsigned threads = multiThread ? searchThreads() : 1U;
   ResultsBefore before(*this);
   Status status;
   try {
@@ -165,22 +144,6 @@ Status TomoDocument::runTomography(std::vector<double>& slownesses, int solverIt
   }
   before.restore();
   return status;
-}
-
-Status recomputeRays(TomoDocument& document, Log& log) {
-  if (const Status status = checkGrid(document); !status.ok()) return status;
-  try {
-    document.rays.clear();
-    document.coorcount.assign(document.grid->cellCount(), 0.0);
-    document.hitCounts.assign(document.grid->cellCount(), 0);
-    const auto threads = static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
-    ForwardPass pass(document, threads, log);
-    const Status status = pass.run("", nullptr, nullptr);
-    if (status.ok()) pass.appendRaysTo(document.rays);
-    return status;
-  } catch (const std::exception& error) {
-    return Status::failure(std::string("The rays could not be traced: ") + error.what());
-  }
 }
 
 }  // namespace talvesk

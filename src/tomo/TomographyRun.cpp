@@ -1,22 +1,16 @@
 #include "tomo/TomographyRun.h"
 
 #include "base/Console.h"
+#include "base/TextNumber.h"
 
 #include <chrono>
 #include <cmath>
 #include <exception>
 #include <ostream>
-#include <sstream>
+#include <utility>
 
 namespace talvesk {
 namespace {
-
-std::string general(double value) {
-  std::ostringstream text;
-  text.imbue(std::locale::classic());
-  text << value;
-  return text.str();
-}
 
 class Stopwatch {
  public:
@@ -37,7 +31,7 @@ Status checkParameters(const TomographyParameters& p) {
   }
   for (const double limit : {p.minVelocity, p.maxVelocity}) {
     if (limit > 0.0 && std::isfinite(limit) && std::isfinite(1.0 / limit)) continue;
-    return Status::failure("The velocity limits must be positive numbers; " + general(limit) +
+    return Status::failure("The velocity limits must be positive numbers; " + formatDouble(limit) +
                            " m/s is none.");
   }
   return {};
@@ -73,8 +67,8 @@ void finish(TomoDocument& document, const TomographyParameters& p, TomographyRes
             " seconds.");
   result.misfit = computeMisfit(document);
   if (result.misfit.count == 0) return;
-  console::out() << "[LOG] RMSE: s" << general(result.misfit.rmse) << '\n'
-                 << "[LOG] MaxError: %" << general(result.misfit.maxRelativeError * 100.0)
+  console::out() << "[LOG] RMSE: s" << formatDouble(result.misfit.rmse) << '\n'
+                 << "[LOG] MaxError: %" << formatDouble(result.misfit.maxRelativeError * 100.0)
                  << std::endl;
 }
 
@@ -88,7 +82,8 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   if (!result.status.ok()) return result;
   const Stopwatch watch;
   document.stopRequested = false;
-  document.excluded.clear();  // every run names anew what it leaves out
+  // Every run names anew what it leaves out.
+  std::vector<ExcludedPosition> before = std::exchange(document.excluded, {});
   document.minVelocity = p.minVelocity;
   document.maxVelocity = p.maxVelocity;
   document.modified = true;
@@ -121,7 +116,10 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   }
   const Stopwatch sinceAsked = p.asked ? Stopwatch(*p.asked) : watch;
   result.elapsedSeconds = sinceAsked.seconds();
-  if (result.iterationsDone == 0) return result;
+  if (result.iterationsDone == 0) {
+    document.excluded = std::move(before);  // they tell which rays are those of which receiver
+    return result;
+  }
   document.lastInversion = recordOf(p, result);
   try {
     finish(document, p, result, sinceAsked, log);

@@ -124,6 +124,24 @@ TEST(Inversion, goesBackToTheLastCompletedIterationWhenOneFails) {
   }
 }
 
+TEST(Inversion, knowsStillWhatTheRaysLeaveOutWhenTheNextOneFails) {
+  TomoDocument line = twoLayers();
+  line.ttArray[1].shotPos2d.x = 500.0;
+  Log log;
+  {
+    const testing::ConsoleCapture console;
+    ASSERT_TRUE(runInversion(line, fewIterations(1, 1), log).status.ok());
+  }
+  ASSERT_EQ(line.excluded.size(), 1u);
+  {
+    const BrokenConsole console("Forwarding");
+    EXPECT_FALSE(runInversion(line, fewIterations(1, 1), log).status.ok());
+  }
+  EXPECT_EQ(line.rays.size(), 4u * 24u);
+  ASSERT_EQ(line.excluded.size(), 1u);
+  EXPECT_EQ(line.excluded[0].shot, 1);
+}
+
 TEST(Inversion, letsNothingEscapeItsLastSteps) {
   TomoDocument line = twoLayers();
   Log log;
