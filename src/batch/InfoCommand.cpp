@@ -7,11 +7,11 @@
 #include "batch/ResultJson.h"
 #include "grid/SurveyProfile.h"
 #include "io/ShotFile.h"
+#include "io/TravelTimeFile.h"
 #include "model/SurveyFacts.h"
 
 #include <algorithm>
 #include <ostream>
-#include <set>
 
 namespace talvesk {
 namespace {
@@ -80,7 +80,7 @@ class Inventory {
 
   void add(const std::string& file) {
     if (isProjectFile(file)) return addProject(file);
-    isTravelTimeFile(file) ? addTravelTimes(file) : addShot(file);
+    hasTravelTimeFileSuffix(file) ? addTravelTimes(file) : addShot(file);
   }
 
   int exitCode() const { return mExitCode; }
@@ -95,13 +95,6 @@ class Inventory {
   }
 
  private:
-  static bool isTravelTimeFile(const std::string& file) {
-    static const std::set<std::string> kSuffixes = {".otte", ".txt", ".xyz",
-                                                    ".XYZ",  ".csv", ".CSV"};
-    const std::size_t dot = file.find_last_of("./");
-    return dot != std::string::npos && kSuffixes.count(file.substr(dot)) > 0;
-  }
-
   static Status neitherKind(const std::string& file) {
     return Status::failure(file +
                                ": its suffix is not of a travel-time file (.otte, .txt, .xyz, "

@@ -8,7 +8,6 @@
 #include "io/PickTableFile.h"
 #include "io/TxCurveFile.h"
 
-#include <cmath>
 #include <ostream>
 #include <string_view>
 #include <utility>
@@ -61,18 +60,17 @@ std::optional<Refusal> readAs(Format format, std::string_view bytes, TravelTimeD
 }
 
 Status checkPositions(const TomoDocument& document) {
-  const auto finite = [](const Point2D& p) { return std::isfinite(p.x) && std::isfinite(p.z); };
   for (std::size_t s = 0; s < document.goephonesStringSet.size(); ++s) {
     for (const Point2D& geophone : document.goephonesStringSet[s]) {
-      if (!finite(geophone)) {
-        return Status::failure("a geophone of string " + std::to_string(s) +
+      if (!isFinite(geophone)) {
+        return Status::failure("a geophone of string " + std::to_string(s + 1) +
                                " has no finite position; edit the geometry first");
       }
     }
   }
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
-    if (!finite(document.ttArray[i].shotPos2d)) {
-      return Status::failure("shot " + std::to_string(i) +
+    if (!isFinite(document.ttArray[i].shotPos2d)) {
+      return Status::failure("shot " + std::to_string(i + 1) +
                              " has no finite position; edit the geometry first");
     }
   }
@@ -89,13 +87,18 @@ void warnOfWhatIsLost(const std::string& path, const std::string& text,
   if (refusal) loss = "it cannot be read back: " + refusal->reason;
   for (std::size_t i = 0; loss.empty() && i < restored.strings.size(); ++i) {
     if (restored.strings[i].size() != document.goephonesStringSet[i].size()) {
-      loss = "read back, string " + std::to_string(i) + " will have another number of geophones";
+      loss =
+          "read back, string " + std::to_string(i + 1) + " will have another number of geophones";
     }
   }
   if (!loss.empty()) console::error() << "Warning: " << path << ": " << loss << std::endl;
 }
 
 }  // namespace
+
+bool hasTravelTimeFileSuffix(const std::string& path) {
+  return formatOf(path) != Format::kNone;
+}
 
 Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelTimeData& data) {
   const Format format = formatOf(path);

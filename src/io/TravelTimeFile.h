@@ -19,6 +19,9 @@ struct TravelTimeData {
   std::vector<std::string> warnings;  ///< what was repaired or ignored while reading
 };
 
+/// Whether the suffix of a path is one of a travel-time file.
+bool hasTravelTimeFileSuffix(const std::string& path);
+
 /// Reads ".otte", ".txt", ".xyz"/".XYZ" and ".csv"/".CSV" by the suffix, compared exactly. Failures
 /// also go to the console's error stream.
 Status readTravelTimes(const std::string& path, TravelTimeData& data);

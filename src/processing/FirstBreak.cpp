@@ -22,6 +22,11 @@ namespace {
 constexpr double kSlowest = 200.0;   // m/s
 constexpr double kFastest = 4500.0;  // m/s
 
+/// As users count, from 1.
+std::string shotName(std::int32_t shot) {
+  return "shot " + std::to_string(shot + std::int64_t{1});
+}
+
 double meanOf(const std::vector<double>& samples) {
   if (samples.empty()) return 0.0;
   double sum = 0.0;
@@ -42,9 +47,7 @@ TravelTime* recordOf(TomoDocument& document, std::int32_t shot) {
 /// The traces that belong to a shot's times; null when there are none.
 TraceSet* tracesOf(TomoDocument& document, std::int32_t shot) {
   const TravelTime* record = recordOf(document, shot);
-  if (record == nullptr || record->traceSetID < 0) return nullptr;
-  const auto set = static_cast<std::size_t>(record->traceSetID);
-  return set < document.traceSets.size() ? &document.traceSets[set] : nullptr;
+  return record != nullptr ? document.tracesOf(*record) : nullptr;
 }
 
 void store(TravelTime& record, const TraceSet& traces, std::size_t trace, std::int32_t index) {
@@ -52,7 +55,7 @@ void store(TravelTime& record, const TraceSet& traces, std::size_t trace, std::i
   record.ttMisurati[trace] = static_cast<std::uint32_t>(index) * traces[trace].sampleInterval;
 }
 
-/// The geophones that have a pick, nearest to the shot first. A position that is not known is last.
+/// Indices of the offsets, nearest to the shot first. An offset that is not known is last.
 std::vector<std::size_t> outward(const std::vector<double>& offsets) {
   std::vector<std::size_t> order(offsets.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
@@ -76,7 +79,7 @@ Status takePicks(TomoDocument& document, std::int32_t shot,
                  const std::vector<std::int32_t>& indices) {
   const TraceSet* traces = tracesOf(document, shot);
   if (traces == nullptr) {
-    return Status::failure("shot " + std::to_string(shot) + " has no traces to pick on");
+    return Status::failure(shotName(shot) + " has no traces to pick on");
   }
   TravelTime& record = *recordOf(document, shot);
   for (std::size_t t = 0; t < indices.size(); ++t) {
@@ -145,13 +148,12 @@ std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t t
 Status screenShotPicks(TomoDocument& document, std::int32_t shot) {
   TravelTime* record = recordOf(document, shot);
   if (record == nullptr) {
-    return Status::failure("shot " + std::to_string(shot) + " has no record of times to screen");
+    return Status::failure(shotName(shot) + " has no record of times to screen");
   }
   const auto string = static_cast<std::size_t>(record->indexStesa);
   if (record->indexStesa < 0 || string >= document.goephonesStringSet.size()) {
-    return Status::failure("the picks of shot " + std::to_string(shot) +
-                           " are not screened: its geophone string " +
-                           std::to_string(record->indexStesa) + " does not exist");
+    return Status::failure("the picks of " + shotName(shot) +
+                           " are not screened: it has no geophone string");
   }
   const std::vector<Point2D>& geophones = document.goephonesStringSet[string];
   std::vector<double>& times = record->ttMisurati;

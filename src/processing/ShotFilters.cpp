@@ -50,11 +50,12 @@ TraceSet* tracesOf(TomoDocument& document, std::int32_t shot) {
   return &document.traceSets[static_cast<std::size_t>(shot)];
 }
 
+// Users count from 1.
 std::string nameOf(std::int32_t shot) {
-  return "shot " + std::to_string(shot);
+  return "shot " + std::to_string(shot + std::int64_t{1});
 }
 std::string nameOf(std::size_t trace) {
-  return "trace " + std::to_string(trace);
+  return "trace " + std::to_string(trace + 1);
 }
 
 /// Runs an operation over shots and puts their outcomes together.

@@ -16,7 +16,7 @@ namespace talvesk {
 struct FilterOutcome {
   std::size_t filtered = 0;  ///< traces with a new filtered copy
   std::size_t failed = 0;    ///< traces left as they were
-  Status status;             ///< the first failure: shot and trace (from 0) and the reason
+  Status status;             ///< the first failure: shot and trace, counted from 1, and the reason
 };
 
 /// One corner of a filter, as the user gives it.

@@ -1,10 +1,9 @@
 #include "Samples.h"
-#include "base/AtomicFile.h"
 #include "io/OtteFile.h"
 #include "support/ConsoleCapture.h"
+#include "support/TestFolder.h"
 
 #include <cmath>
-#include <filesystem>
 #include <limits>
 
 #include <gmock/gmock.h>
@@ -16,10 +15,6 @@ using namespace talvesk::testing;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-std::string temporary(const std::string& name) {
-  return (std::filesystem::path(::testing::TempDir()) / name).string();
-}
 
 /// A survey of strings of the given sizes, and one shot into each of the named ones.
 TomoDocument survey(const std::vector<std::size_t>& sizes, const std::vector<int>& shots) {
@@ -64,7 +59,8 @@ TEST(OtteWriter, writesEveryLineOfTheFormat) {
 
 TEST(OtteWriter, writesWhatTheReaderRestores) {
   const TomoDocument document = survey({24, 24}, {0, 1, 0, 1, 1});
-  const std::string path = temporary("restored.otte");
+  const TestFolder folder;
+  const std::string path = folder.file("restored.otte");
   const ConsoleCapture console;
   ASSERT_TRUE(writeTravelTimes(path, document).ok());
   TravelTimeData data;
@@ -111,19 +107,17 @@ TEST(OtteWriter, writesATimeThatIsNotFiniteAsNoPick) {
 }
 
 TEST(OtteWriter, leavesTheOldFileWhenAPositionIsNotFinite) {
-  const std::string path = temporary("kept.otte");
-  ASSERT_TRUE(writeFileAtomically(path, "old").ok());
+  const TestFolder folder;
+  const std::string path = folder.put("kept.otte", "old");
   const double nan = std::numeric_limits<double>::quiet_NaN();
   for (const bool ofShot : {false, true}) {
     TomoDocument document = survey({2, 2}, {0, 1});
     (ofShot ? document.ttArray[1].shotPos2d.z : document.goephonesStringSet[1][0].x) = nan;
     const ConsoleCapture console;
     const Status status = writeTravelTimes(path, document);
-    EXPECT_THAT(status.message(), HasSubstr(ofShot ? "shot 1 has" : "a geophone of string 1 has"));
+    EXPECT_THAT(status.message(), HasSubstr(ofShot ? "shot 2 has" : "a geophone of string 2 has"));
     EXPECT_EQ(console.error(), status.message() + "\n");
-    std::string bytes;
-    ASSERT_TRUE(readWholeFile(path, bytes).ok());
-    EXPECT_EQ(bytes, "old");
+    EXPECT_EQ(TestFolder::get(path), "old");
   }
 }
 
@@ -144,9 +138,10 @@ TEST(OtteWriter, warnsOfStringsThatTheFormatCannotTellApart) {
                {{3, 4}, {}, true},
                {{3, 4, 5}, {0}, true},
                {{3, 4, 4}, {0}, false}};
+  const TestFolder folder;
   for (const auto& c : cases) {
     const ConsoleCapture console;
-    EXPECT_TRUE(writeTravelTimes(temporary("lossy.otte"), survey(c.sizes, c.shots)).ok());
+    EXPECT_TRUE(writeTravelTimes(folder.file("lossy.otte"), survey(c.sizes, c.shots)).ok());
     EXPECT_EQ(!console.error().empty(), c.told) << console.error();
   }
 }

@@ -266,7 +266,7 @@ TEST(ShotFilters, leaveABadTraceAndFilterTheOthers) {
     const FilterOutcome outcome = operation(document, {0, 1, 7});
     EXPECT_EQ(outcome.filtered, 3U);
     EXPECT_EQ(outcome.failed, 1U);
-    EXPECT_THAT(outcome.status.message(), HasSubstr("shot 1: trace 1: sample 500 is nan"));
+    EXPECT_THAT(outcome.status.message(), HasSubstr("shot 2: trace 2: sample 500 is nan"));
     EXPECT_EQ(document.traceSets[1][0].filtered.size(), 1000U);
     EXPECT_EQ(document.traceSets[1][1].filtered, Samples{1.0});
     EXPECT_TRUE(document.traceSets[2][0].filtered.empty());

@@ -82,7 +82,7 @@ TEST(Screening, refusesAShotWithoutAString) {
   document.ttArray[0].ttMisurati = {0.9};
   for (const std::int32_t string : {-1, 1}) {
     document.ttArray[0].indexStesa = string;
-    EXPECT_THAT(screenShotPicks(document, 0).message(), HasSubstr("does not exist"));
+    EXPECT_THAT(screenShotPicks(document, 0).message(), HasSubstr("shot 1 are not screened: it has no"));
   }
   EXPECT_THAT(document.ttArray[0].ttMisurati, ElementsAre(0.9));
 }
@@ -222,8 +222,8 @@ TEST(PickShots, goesOnAfterAShotThatCannotBePicked) {
   TomoDocument document = survey();
   document.ttArray[0].traceSetID = 77;
   document.ttArray[1].indexStesa = -1;
-  const Status status = pickShots(document, {-1, 0, 1, 2, 99}, false, 2);
-  EXPECT_THAT(status.message(), HasSubstr("shot -1 has no traces"));
+  const Status status = pickShots(document, {99, 0, 1, 2, -1}, false, 2);
+  EXPECT_THAT(status.message(), HasSubstr("shot 100 has no traces"));
   EXPECT_EQ(document.ttArray[0].ttMisurati, std::vector<double>(16, kUnpicked));
   EXPECT_EQ(document.ttArray[1].ttMisurati[3], kNoTime);  // unscreened, but never a failed pick
   EXPECT_GT(document.ttArray[1].ttMisurati[4], 0.0);
