@@ -6,6 +6,11 @@
 
 namespace talvesk {
 
+// Reasons that several formats have.
+inline constexpr const char* kNoGrid =
+    "the survey has no grid; create the grid or run the inversion first";
+inline constexpr const char* kNoCellDrawn = "no cell of the section is drawn";
+
 /// "Cannot write PATH: REASON", also told on the console's error stream.
 Status cannotWrite(const std::string& path, const std::string& reason);
 

@@ -37,7 +37,7 @@ void announceGriddedText(const std::string& path) {
 Status writeGriddedText(const std::string& path, const TomoDocument& document,
                         const GriddedTextOptions& options) {
   if (!document.grid) {
-    return cannotWrite(path, "the survey has no grid; create the grid or run the inversion first");
+    return cannotWrite(path, kNoGrid);
   }
   if (!std::isfinite(options.lineY) || !std::isfinite(options.zOffset)) {
     return cannotWrite(path,

@@ -81,7 +81,7 @@ std::vector<KmlDocument::Vertex> ringOf(const Rectangle& cell, const LineOnGlobe
 /// What stands in the way of an export, or an empty text.
 std::string whyNot(const TomoDocument& document, const ColorPalette& palette,
                    const ValueRange& range) {
-  if (!document.grid) return "the survey has no grid; create the grid or run the inversion first";
+  if (!document.grid) return kNoGrid;
   if (document.grid->cellCount() > kMaxCells) {
     return "the section has too many cells for this format, " +
            std::to_string(document.grid->cellCount());
@@ -128,7 +128,7 @@ Status writeSectionKml(const std::string& path, const TomoDocument& document,
     kml.addShape(ring, QString::fromStdString(color));
     ++shapes;
   });
-  if (shapes == 0) return cannotWrite(path, "no cell of the section is drawn");
+  if (shapes == 0) return cannotWrite(path, kNoCellDrawn);
   return told(kml.write(path));
 }
 

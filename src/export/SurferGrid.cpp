@@ -130,10 +130,10 @@ void Raster::print(std::ostream& out) const {
 
 Status writeSurferGrid(const std::string& path, const TomoDocument& document) {
   if (!document.grid) {
-    return cannotWrite(path, "the survey has no grid; create the grid or run the inversion first");
+    return cannotWrite(path, kNoGrid);
   }
   const Raster raster(document);
-  if (raster.empty()) return cannotWrite(path, "no cell of the section is drawn");
+  if (raster.empty()) return cannotWrite(path, kNoCellDrawn);
   if (!(raster.nodes() <= kMaxSurferNodes)) {
     return cannotWrite(path, "the raster would have " + formatDouble(raster.nodes()) +
                                  " nodes; choose larger cells");

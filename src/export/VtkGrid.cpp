@@ -113,7 +113,7 @@ std::vector<double> ofCells(const Cells& cells, const std::vector<double>& all) 
 void writeCellData(VtuWriter& vtu, const Cells& cells, const TomoDocument& document) {
   vtu.begin("CellData");
   vtu.attribute("Scalars", "Velocity (m/s)");
-  vtu.array("Float64", "Velocity (m/s)", ofCells(cells, velocityValues(*document.grid)));
+  vtu.array("Float64", "Velocity (m/s)", ofCells(cells, document.grid->velocities()));
   vtu.array("Float64", "Slowness (s/m)", ofCells(cells, document.grid->slownesses()));
   vtu.array("Float64", "Vertical gradient (1/s)",
             ofCells(cells, verticalGradientValues(*document.grid)));
@@ -131,10 +131,10 @@ void writeCellData(VtuWriter& vtu, const Cells& cells, const TomoDocument& docum
 
 Status writeVtkGrid(const std::string& path, const TomoDocument& document) {
   if (!document.grid) {
-    return cannotWrite(path, "the survey has no grid; create the grid or run the inversion first");
+    return cannotWrite(path, kNoGrid);
   }
   const Cells cells = drawnCells(sectionMesh(*document.grid, document.xOffset));
-  if (cells.cells.empty()) return cannotWrite(path, "no cell of the section is drawn");
+  if (cells.cells.empty()) return cannotWrite(path, kNoCellDrawn);
   if (cells.cells.size() > kMaxCells) {
     return cannotWrite(path, "the section has too many cells for this format, " +
                                  std::to_string(cells.cells.size()));

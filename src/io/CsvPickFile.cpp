@@ -8,7 +8,6 @@ namespace {
 
 constexpr std::size_t kLineLimit = 256;
 constexpr std::size_t kLeadingFields = 2;  ///< unused above the distance and elevation of the shots
-constexpr double kMillisecondsPerSecond = 1000.0;
 
 class CsvPickReader : private PickReader {
  public:

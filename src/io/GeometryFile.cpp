@@ -16,10 +16,6 @@ constexpr std::size_t kLineLimit = 256;
 /// megabytes. A short line takes thirty times its length as a record, so more is not asked for.
 constexpr std::size_t kLargestFile = std::size_t{2} << 20;
 
-std::string separatorText(const std::string& choice) {
-  return choice == kBlankSeparator ? " " : choice;
-}
-
 void writeFields(std::ostream& stream, const std::string& separator,
                  const std::vector<double>& record) {
   const char* between = "";
@@ -66,6 +62,10 @@ Status readFile(const std::string& path, const std::string& separator, bool labe
 }
 
 }  // namespace
+
+std::string separatorText(const std::string& choice) {
+  return choice == kBlankSeparator ? " " : choice;
+}
 
 Status writeRecords(const std::string& path, const std::string& separator,
                     const GeometryRecords& records) {

@@ -17,6 +17,8 @@ using GeometryRecords = std::vector<std::vector<double>>;
 /// How the choice of separators names a single blank; means one blank wherever a separator is
 /// given.
 inline constexpr const char* kBlankSeparator = "(blank space)";
+/// The text between two fields for a separator as it was chosen.
+std::string separatorText(const std::string& choice);
 /// With what the label of a shot begins.
 inline constexpr const char* kShotLabel = "shot_id_";
 

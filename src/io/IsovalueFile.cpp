@@ -15,10 +15,6 @@ namespace {
 
 constexpr std::size_t kLargestFile = std::size_t{1} << 20;
 
-std::string separatorText(const std::string& choice) {
-  return choice == kBlankSeparator ? " " : choice;
-}
-
 /// Six significant digits, as streams print by default, and more where they do not bring the number
 /// back: one at the end of a range must not come back from beyond it.
 std::string shortestText(double value) {

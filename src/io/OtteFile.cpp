@@ -10,7 +10,6 @@ namespace talvesk {
 namespace {
 
 constexpr int kFormatConstant = 2;
-constexpr double kMillisecondsPerSecond = 1000.0;
 constexpr double kSmallest = 1e-300;  ///< of a distance or time that is written as more than 0
 
 class OtteReader : private PickReader {

@@ -10,6 +10,9 @@
 
 namespace talvesk {
 
+/// All travel-time files hold times in milliseconds.
+inline constexpr double kMillisecondsPerSecond = 1000.0;
+
 /// Why a reader gave a file up.
 struct Refusal {
   std::size_t line = 0;  ///< from 1

@@ -9,8 +9,6 @@
 namespace talvesk {
 namespace {
 
-constexpr double kMillisecondsPerSecond = 1000.0;
-
 /// Position of a shot or receiver, put together from two sections.
 struct Entry {
   double distance = 0.0;

@@ -1,4 +1,5 @@
 #include "io/ProjectAssembly.h"
+#include "refraction/ReciprocalMethod.h"
 
 #include <algorithm>
 
@@ -30,13 +31,12 @@ bool hangsTogether(const phantom& curve) {
 }
 
 bool hangsTogether(const computedData& data) {
-  constexpr std::size_t kCurves = 9;  // XY from -4 to 4 m
   const std::size_t n = data.x.size();
   const auto perReceiver = [n](const std::vector<double>& values) {
     return values.empty() || values.size() == n;
   };
   const auto family = [n](const std::vector<double>& values) {
-    return values.empty() || values.size() == kCurves * n;
+    return values.empty() || values.size() == kXYFamily.size() * n;
   };
   return perReceiver(data.tG) && perReceiver(data.tV) && family(data.tGs) && family(data.tVs) &&
          perReceiver(data.elevation) && perReceiver(data.velocity) && perReceiver(data.depth);

@@ -89,8 +89,7 @@ class SegyReader {
         if (!mState.nativeOrder) {
           warn(
               "it says that its numbers are little-endian, but is read big-endian as a file before "
-              "it; "
-              "load the little-endian files first");
+              "it; load the little-endian files first");
         }
         break;
       case 0x04030201:

@@ -77,8 +77,9 @@ void TemporaryFolder::clear(const std::string& workingFolder) {
     // too.
     const bool isLock = entry->path().extension() == ".lock";
     const fs::path folder = isLock ? fs::path(entry->path()).replace_extension() : entry->path();
-    const bool isOurs =
-        isLock ? isDecimal(folder.filename().string()) : fs::is_directory(entry->symlink_status());
+    std::error_code gone;  // another process may be clearing up as well
+    const bool isOurs = isLock ? isDecimal(folder.filename().string())
+                               : fs::is_directory(entry->symlink_status(gone));
     if (isOurs) folders.push_back(folder);
   }
   for (const fs::path& folder : folders) {

@@ -7,8 +7,6 @@
 namespace talvesk {
 namespace {
 
-constexpr double kMillisecondsPerSecond = 1000.0;
-
 /// Elevation at a distance, linear between the points and level beyond them.
 double elevationAlong(std::vector<Point2D> points, double x) {
   if (points.empty()) return 0.0;

@@ -74,8 +74,8 @@ void XmlReader::skipBlanks() {
 }
 
 void XmlReader::skipUntil(std::string_view end) {
-  // The marks searched for ("?>", "-->") do not begin again within themselves in a way that matters
-  // here, but "--->" does, so the last bytes are kept and compared.
+  // The last bytes read are compared as a whole: the end may begin within a false start, as in
+  // "--->".
   std::string last;
   while (last != end) {
     const int c = take();

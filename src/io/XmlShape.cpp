@@ -88,7 +88,10 @@ class Walk {
       // Where a parser enters an element that is empty it is as deep as in any other.
       if (mLevel == mMostLevels) return "its elements are nested too deeply";
       if (take("/>")) return nullptr;
-      if (take(">")) return ++mLevel, nullptr;
+      if (take(">")) {
+        ++mLevel;
+        return nullptr;
+      }
       if (!takeAttribute()) return kMalformed;
     }
   }

@@ -11,8 +11,6 @@
 
 namespace talvesk {
 
-struct SurveyMember;
-
 /// What a project file holds, ready for work.
 struct LoadedProject {
   TomoDocument document;

@@ -68,10 +68,10 @@ Spectrum computeSpectrum(const TraceSet& traces, bool useRaw) {
   return spectrum;
 }
 
-Spectrum plottedCurve(const Spectrum& spectrum, double below) {
+Spectrum plottedCurve(const Spectrum& spectrum) {
   Spectrum curve;
   for (std::size_t k = 0; k < spectrum.frequencies.size(); ++k) {
-    if (!(spectrum.frequencies[k] < below)) continue;
+    if (!(spectrum.frequencies[k] < kPlottedBelow)) continue;
     curve.frequencies.push_back(spectrum.frequencies[k]);
     curve.amplitudes.push_back(spectrum.amplitudes[k]);
   }

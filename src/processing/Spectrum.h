@@ -26,8 +26,8 @@ inline constexpr double kPlottedBelow = 350.0;  ///< Hz; where the plotted curve
 /// \return no bin at all without samples or without a positive, finite sample rate
 Spectrum computeSpectrum(const TraceSet& traces, bool useRaw);
 
-/// The part of a spectrum that is drawn.
-Spectrum plottedCurve(const Spectrum& spectrum, double below = kPlottedBelow);
+/// The part of a spectrum that is drawn: below kPlottedBelow.
+Spectrum plottedCurve(const Spectrum& spectrum);
 
 /// Frequency of the last bin of a trace's spectrum, Hz: just below half the sample rate, and 0.0
 /// where there is no bin but the mean, or none.

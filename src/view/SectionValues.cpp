@@ -31,10 +31,6 @@ SectionMesh sectionMesh(const Grid& grid, double xOffset) {
   return mesh;
 }
 
-std::vector<double> velocityValues(const Grid& grid) {
-  return grid.velocities();
-}
-
 std::vector<double> verticalGradientValues(const Grid& grid) {
   std::vector<double> values(grid.cellCount(), kUndefined);
   for (std::uint32_t row = 0; row < grid.righe(); ++row) {

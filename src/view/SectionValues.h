@@ -9,11 +9,9 @@ namespace talvesk {
 
 class Grid;
 
-/// The cells of a grid in survey coordinates. \param xOffset added to survey x to get grid x,
-/// metres
+/// The cells of a grid in survey coordinates.
+/// \param xOffset added to survey x to get grid x, metres
 SectionMesh sectionMesh(const Grid& grid, double xOffset);
-
-std::vector<double> velocityValues(const Grid& grid);  ///< m/s
 
 /// dv/dz by differences of cell centres, 1/s: over both vertical neighbours, over one at an end of
 /// a column. Cells that are not drawn take no part, for they hold no result; a cell without a drawn
