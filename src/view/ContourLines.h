@@ -44,7 +44,9 @@ struct ContourLine {
 /// Iso-lines through the drawn cells, by marching squares with linear interpolation along the
 /// sides; where a side pair is ambiguous, the mean of the corners decides. Lines end at cells that
 /// are not drawn and at corners whose value is not a number. Sorted by level as given, then by
-/// place. \param cornerValues one per corner; \param levels not-a-number levels are left out
+/// place.
+/// \param cornerValues one per corner
+/// \param levels those that are not a number are left out
 std::vector<ContourLine> contourLines(const SectionMesh& mesh,
                                       const std::vector<double>& cornerValues,
                                       const std::vector<double>& levels);

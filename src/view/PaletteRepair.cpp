@@ -33,8 +33,14 @@ ColorGradient repaired(const ColorGradient& gradient) {
   GradientColorPoint first = inside.points().front();
   GradientColorPoint last = inside.points().back();
   // What a gradient shows before its first stop and behind its last one becomes stops of its own.
-  if (first.mval > 0.0) first.mval = 0.0, inside.add(first);
-  if (last.mval < 1.0) last.mval = 1.0, inside.add(last);
+  if (first.mval > 0.0) {
+    first.mval = 0.0;
+    inside.add(first);
+  }
+  if (last.mval < 1.0) {
+    last.mval = 1.0;
+    inside.add(last);
+  }
   inside.sort();
   return inside;
 }

@@ -39,8 +39,8 @@ struct SectionLine {
 struct SectionSceneOptions {
   SectionQuantity quantity = SectionQuantity::kVelocity;
   SectionFill fill = SectionFill::kCells;
-  std::optional<ValueRange>
-      range;  ///< to colour and contour; default: niceRange() of what is drawn
+  /// To colour and contour; default: niceRange() of what is drawn.
+  std::optional<ValueRange> range;
   std::vector<double> contourValues;  ///< drawn in addition to the equally spaced ones
   int equallySpacedContours = 0;      ///< how many values divide the range into equal parts
   static constexpr std::size_t kMaxContours = 1000;  ///< values altogether

@@ -1,5 +1,6 @@
 #include "view/SectionViewSettings.h"
 
+#include "model/TomoDocument.h"
 #include "view/ContourLines.h"
 
 #include <algorithm>
@@ -18,6 +19,15 @@ std::vector<double> customValues(std::vector<double> values, const ValueRange& r
   values.erase(std::unique(values.begin(), values.end()), values.end());
   values.resize(std::min(values.size(), SectionSceneOptions::kMaxContours));
   return values;
+}
+
+SectionFill fillOf(const SectionViewSettings& settings) {
+  if (!settings.profile) return SectionFill::kNone;
+  // Only the velocity section has filled contours.
+  if (settings.contours.filled && settings.quantity == SectionQuantity::kVelocity) {
+    return SectionFill::kBands;
+  }
+  return settings.smooth ? SectionFill::kSmooth : SectionFill::kCells;
 }
 
 }  // namespace
@@ -59,6 +69,45 @@ ContourSettings proposedContours(ContourSettings settings, SectionQuantity quant
     settings.customized = !settings.customValues.empty();
   }
   return settings;
+}
+
+SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const ColorPalette& palette) {
+  SectionSceneOptions options;
+  options.quantity = settings.quantity;
+  options.fill = fillOf(settings);
+  const ValueRange scale{palette.min_db, palette.max_db};
+  if (settings.quantity == SectionQuantity::kVelocity && scale.span() > 0.0 &&
+      std::isfinite(scale.span())) {
+    options.range = scale;
+  }
+  const ContourSettings& contours = settings.contours;
+  if (showsContours(contours, settings.quantity)) {
+    if (contours.customized && options.range) {
+      options.contourValues = contourValues(contours, *options.range);
+    } else if (contours.customized) {
+      options.contourValues = contours.customValues;
+      options.contourValues.resize(
+          std::min(options.contourValues.size(), SectionSceneOptions::kMaxContours));
+    } else {
+      options.equallySpacedContours = std::clamp(contours.numberOfValues, 0, kMost);
+    }
+  }
+  options.contourLines = settings.quantity != SectionQuantity::kVelocity || contours.onProfile;
+  options.rays = settings.rays;
+  return options;
+}
+
+Status buildSectionScene(const TomoDocument& document, const SectionViewSettings& settings,
+                         const ColorPalette& palette, const std::vector<SectionLine>& refractors,
+                         SectionScene& out) {
+  const bool cells = document.grid && document.grid->cellCount() > 0;
+  if (!cells && settings.refraction && !refractors.empty()) {
+    out = sceneWithoutGrid(document, refractors);
+    return {};
+  }
+  SectionSceneOptions options = sceneOptions(settings, palette);
+  if (settings.refraction) options.refractors = refractors;
+  return buildSectionScene(document, options, out);
 }
 
 }  // namespace talvesk
