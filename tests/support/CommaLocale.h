@@ -36,11 +36,12 @@ class CommaNumbers {
     char folder[] = "/tmp/talvesk-locale-XXXXXX";
     if (mkdtemp(folder) == nullptr) return;
     mFolder = folder;
+    // A character set of one byte is built several times faster than UTF-8.
     const std::string make =
-        "localedef -i de_DE -f UTF-8 " + mFolder + "/de_DE.UTF-8 >/dev/null 2>&1";
+        "localedef -i de_DE -f ISO-8859-1 " + mFolder + "/de_DE.ISO-8859-1 >/dev/null 2>&1";
     if (std::system(make.c_str()) != 0) return;
     setenv("LOCPATH", folder, 1);
-    use("de_DE.UTF-8");
+    use("de_DE.ISO-8859-1");
   }
   ~CommaNumbers() {
     std::setlocale(LC_ALL, mBefore.c_str());
