@@ -42,8 +42,8 @@ TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool wi
   const std::vector<std::size_t> order = alongTheLine(positions);
   TravelTimeCurve curve;
   if (!order.empty()) {
-    curve.firstReceiver = positions[order.front()];
-    curve.lastReceiver = positions[order.back()];
+    curve.firstReceiver = positions[order.front()].x;
+    curve.lastReceiver = positions[order.back()].x;
   }
   curve.record = index;
   for (const std::size_t i : order) {
