@@ -82,7 +82,8 @@ TEST(Screening, refusesAShotWithoutAString) {
   document.ttArray[0].ttMisurati = {0.9};
   for (const std::int32_t string : {-1, 1}) {
     document.ttArray[0].indexStesa = string;
-    EXPECT_THAT(screenShotPicks(document, 0).message(), HasSubstr("shot 1 are not screened: it has no"));
+    EXPECT_THAT(screenShotPicks(document, 0).message(),
+                HasSubstr("shot 1 are not screened: it has no"));
   }
   EXPECT_THAT(document.ttArray[0].ttMisurati, ElementsAre(0.9));
 }
