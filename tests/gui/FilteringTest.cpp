@@ -169,7 +169,7 @@ TEST_F(Filtering, tellsOfTracesThatCannotBeFiltered) {
   document.traceSets[1][2].samples[7] = std::nan("");
   open();
   low(120.0, 2);
-  expectBox("1 trace(s) stay as they were.", "trace 2");
+  expectBox("1 trace(s) stay as they were.", "trace 3: sample 7 is nan");
   apply();
   EXPECT_TRUE(filtered(1, 2).empty());
   EXPECT_EQ(filtered(1, 1), lowOf(raw[1][1].samples, 120.0, 2));
