@@ -70,7 +70,8 @@ void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
       mDocument.has_tomographic_info ? SmoothingType::kRayBased : SmoothingType::kUniform, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const Status status = whileWaiting([&] {
-    Status smoothed = smoothGrid(mDocument, dialog.type(), dialog.radius(), dialog.symmetric());
+    Status smoothed =
+        smoothGrid(mDocument, dialog.type(), dialog.radius(), dialog.symmetric(), mLog);
     if (smoothed.ok()) modelChanged();
     return smoothed;
   });

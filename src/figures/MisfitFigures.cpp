@@ -3,6 +3,7 @@
 #include "figures/FigureItem.h"
 #include "figures/FigurePlot.h"
 #include "figures/FigureWords.h"
+#include "model/Residuals.h"
 #include "model/TomoDocument.h"
 
 #include <QPainter>
@@ -103,26 +104,6 @@ Status prepare(const std::shared_ptr<DotPlot>& plot, double widthMm, double heig
 }
 
 }  // namespace
-
-std::vector<Residual> residualsOf(const TomoDocument& document) {
-  std::vector<Residual> residuals;
-  for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
-    const TravelTime& record = document.ttArray[i];
-    const auto string = static_cast<std::size_t>(std::max(record.indexStesa, 0));
-    const std::size_t count = std::min(record.ttMisurati.size(), record.ttCalcolati.size());
-    for (std::size_t j = 0; j < count; ++j) {
-      const double computed = record.ttCalcolati[j];
-      if (!hasPick(record.ttMisurati[j]) || computed == kNoTime) continue;
-      double offset = std::nan("");
-      if (record.indexStesa >= 0 && string < document.goephonesStringSet.size() &&
-          j < document.goephonesStringSet[string].size()) {
-        offset = std::abs(document.goephonesStringSet[string][j].x - record.shotPos2d.x);
-      }
-      residuals.push_back({i, offset, record.ttMisurati[j], computed - record.ttMisurati[j]});
-    }
-  }
-  return residuals;
-}
 
 Status prepareMisfitHistoryFigure(const InversionRecord& record, double widthMm, double heightMm,
                                   FigureDrawing& drawing) {

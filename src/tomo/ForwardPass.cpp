@@ -68,13 +68,14 @@ std::vector<ExcludedPosition> findExcluded(const TomoDocument& document) {
   return excluded;
 }
 
-ForwardPass::ForwardPass(TomoDocument& document, unsigned threads, Log& log)
-    : mDocument(document), mLog(log) {
+ForwardPass::ForwardPass(TomoDocument& document, unsigned threads, Log& log, ThreadLines lines)
+    : mDocument(document), mLog(log), mLines(lines) {
   std::vector<ExcludedPosition> excluded = findExcluded(document);
   if (!sameExclusions(excluded, document.excluded)) {
     for (const ExcludedPosition& position : excluded) log.write(describe(position), 1);
   }
   document.excluded = std::move(excluded);
+  document.timesOfSection = false;
 
   const std::size_t shots = document.ttArray.size();
   mWorkers.resize(shots);
@@ -148,6 +149,7 @@ Status ForwardPass::runBatch(std::size_t first, std::size_t last, std::vector<do
 }
 
 void ForwardPass::tellThread(std::size_t shot, bool log) {
+  if (mLines == ThreadLines::kSilent) return;
   const std::string line = " --- Creating and running thread " + std::to_string(shot);
   console::out() << line << std::endl;
   if (log) mLog.write(line);

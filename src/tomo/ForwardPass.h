@@ -25,13 +25,17 @@ std::vector<ExcludedPosition> findExcluded(const TomoDocument& document);
 /// One line for users, who count shots and receivers from 1.
 std::string describe(const ExcludedPosition& position);
 
+/// Whether the console hears of every worker that is started.
+enum class ThreadLines { kTold, kSilent };
+
 /// The workers of all shots of a document, run in batches of consecutive shots.
 class ForwardPass {
  public:
   /// Makes the workers, leaves out what the grid cannot hold (document.excluded, named in the log
   /// when it is news) and marks all computed times as missing.
   /// \param threads width of a batch, at least 1
-  ForwardPass(TomoDocument& document, unsigned threads, Log& log);
+  ForwardPass(TomoDocument& document, unsigned threads, Log& log,
+              ThreadLines lines = ThreadLines::kTold);
 
   /// Traces rays (first time) and evaluates them, adding the workers' sums shot by shot. The result
   /// does not depend on the width of the batches.
@@ -58,6 +62,7 @@ class ForwardPass {
 
   TomoDocument& mDocument;
   Log& mLog;
+  ThreadLines mLines;
   bool mTraced = false;
   std::vector<Slot> mSlots;  ///< outlive the workers, which write into them
   std::vector<std::unique_ptr<DijkstraComputePathsThread>> mWorkers;  ///< null: shot excluded

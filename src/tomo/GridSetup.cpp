@@ -4,6 +4,8 @@
 #include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
 #include "tomo/ForwardPass.h"
+#include "tomo/InversionCopy.h"
+#include "tomo/RayRecomputation.h"
 
 #include <algorithm>
 #include <cmath>
@@ -128,7 +130,8 @@ Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& lay
   return {};
 }
 
-Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric) {
+Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric,
+                  Log& log) {
   if (document.grid == nullptr || document.grid->cellCount() == 0) {
     return Status::failure("There is no grid with cells; build the grid first.");
   }
@@ -145,8 +148,13 @@ Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool s
       return Status::failure("The smoothed velocity model cannot be used: " + invalid);
     }
     for (std::uint32_t c = 0; c < current.cellCount(); ++c) smoothed->setDraw(c, current.draw(c));
-    document.grid = std::move(smoothed);
-    document.smoothedResult = document.has_tomographic_info;
+    TomoDocument copy = inversionCopy(document);
+    copy.grid = std::move(smoothed);
+    if (copy.has_tomographic_info) {
+      copy.smoothedResult = true;
+      if (Status status = traceSection(copy, searchThreads(), log); !status.ok()) return status;
+    }
+    takeInversion(document, copy);
   } catch (const std::exception& error) {
     return Status::failure(std::string("The grid could not be smoothed: ") + error.what());
   }

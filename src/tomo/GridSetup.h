@@ -31,9 +31,10 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
 Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers);
 
 /// Smooths the slownesses of the document's grid and replaces the grid by one that has them. The
-/// geometry stays, and so do rays, coverage, draw flags and misfit: as after an inversion, they are
-/// those of the last rays, which were traced before the smoothing.
-/// \param radius smoothing parameter, cells, at least 1 \param symmetric see verticalRatio()
-Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric);
+/// geometry stays, and so do coverage, draw flags and the figures of the last solver pass. The rays
+/// and times of a result are traced anew: they are those of the section that is shown. On failure
+/// the document is as before. \param radius smoothing parameter, cells, at least 1 \param symmetric
+/// see verticalRatio()
+Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric, Log& log);
 
 }  // namespace talvesk

@@ -1,4 +1,5 @@
 #include "figures/MisfitFigures.h"
+#include "model/Residuals.h"
 #include "figures/Report.h"
 #include "figures/ReportPages.h"
 #include "support/ConsoleCapture.h"

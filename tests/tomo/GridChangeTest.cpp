@@ -1,8 +1,10 @@
 #include "TestInversion.h"
+#include "model/Residuals.h"
 #include "support/ConsoleCapture.h"
 #include "tomo/GridPreview.h"
 #include "tomo/GridSetup.h"
 #include "tomo/InversionCopy.h"
+#include "tomo/RayRecomputation.h"
 #include "tomo/StartingModel.h"
 
 #include <gtest/gtest.h>
@@ -70,12 +72,12 @@ TEST(StartingModel, isToldThroughTheLifeOfAGrid) {
   EXPECT_EQ(startingModelOf(line), StartingModel::kDefault);
   ASSERT_TRUE(applyLayers(line, {{0, 300, 4, 600}, {4, 600, 12, 2000}}).ok());
   EXPECT_EQ(startingModelOf(line), StartingModel::kLayered);
-  ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false).ok());
+  ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false, log).ok());
   EXPECT_EQ(startingModelOf(line), StartingModel::kOther);
   for (int run = 0; run < 2; ++run) {  // the second begins with the smoothed result of the first
     ASSERT_TRUE(runInversion(line, testing::fewIterations(1), log).status.ok());
     EXPECT_EQ(startingModelOf(line), StartingModel::kResult);
-    ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false).ok());
+    ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false, log).ok());
     EXPECT_EQ(startingModelOf(line), StartingModel::kSmoothed);
     TomoDocument copy = inversionCopy(line);
     EXPECT_EQ(startingModelOf(copy), StartingModel::kSmoothed);
@@ -86,33 +88,40 @@ TEST(StartingModel, isToldThroughTheLifeOfAGrid) {
   EXPECT_EQ(startingModelOf(line), StartingModel::kNone);
 }
 
-TEST(SmoothGrid, changesSlownessesAndNothingElse) {
+TEST(SmoothGrid, changesSlownessesAndTracesWhatIsShown) {
   TomoDocument line = inverted();
   const Grid before = *line.grid;
-  const double misfit = line.RMSE_tomography;
-  const auto rays = line.rays;
+  const double ofLastPass = line.RMSE_tomography;
+  const std::vector<double> coverage = line.coorcount;
   line.modified = false;
-  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 3, true).ok());
+  Log log;
+  const testing::ConsoleCapture console;
+  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 3, true, log).ok());
   EXPECT_EQ(line.grid->slownesses(),
             smoothSlowness(SmoothingType::kRayBased, before, line.hitCounts, 3, 1.0));
   EXPECT_NE(line.grid->slownesses(), before.slownesses());
   EXPECT_EQ(drawn(*line.grid), drawn(before));
   EXPECT_EQ(&line.grid->geometry(), &before.geometry());
-  EXPECT_EQ(line.rays, rays);
-  EXPECT_EQ(line.RMSE_tomography, misfit);
-  EXPECT_TRUE(line.has_tomographic_info && line.modified);
+  EXPECT_EQ(line.coorcount, coverage);
+  EXPECT_EQ(line.RMSE_tomography, ofLastPass);
+  EXPECT_TRUE(line.has_tomographic_info && line.modified && line.timesOfSection);
+  TomoDocument traced = inversionCopy(line);
+  ASSERT_TRUE(recomputeRays(traced, log).ok());
+  EXPECT_EQ(line.rays, traced.rays);
+  EXPECT_EQ(sectionMisfitOf(line).rmse, misfitOfTimes(traced).rmse);
 }
 
 TEST(SmoothGrid, worksWithoutAnInversionAndRefusesWhatMakesNoSense) {
   TomoDocument line = testing::twoLayers();
+  Log log;
   const std::vector<double> before = line.grid->slownesses();
-  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 0, false).ok());
+  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 0, false, log).ok());
   EXPECT_EQ(line.grid->slownesses(), before);
   EXPECT_FALSE(line.modified);
-  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 2, false).ok());
+  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 2, false, log).ok());
   EXPECT_NE(line.grid->slownesses(), before);
   line.grid.reset();
-  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 2, false).ok());
+  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 2, false, log).ok());
 }
 
 TEST(InversionCopy, bringsHomeWhatTheInversionOfTheDocumentWouldLeave) {
