@@ -162,6 +162,13 @@ void restoreDensity(SurveyMember& survey) {
   }
 }
 
+/// Times of a section that is no more: an earlier version kept them when a new grid came.
+void forgetTimes(TomoDocument& document) {
+  for (TravelTime& record : document.ttArray) {
+    std::fill(record.ttCalcolati.begin(), record.ttCalcolati.end(), kNoTime);
+  }
+}
+
 }  // namespace
 
 Status checkSurvey(SurveyMember& member) {
@@ -194,6 +201,7 @@ Status installGrid(const GridMember& grid, SurveyMember& survey) {
   TomoDocument& document = survey.document;
   if (grid.col == 0 && grid.righe == 0 && grid.velocities.empty()) {
     document.has_tomographic_info = false;
+    forgetTimes(document);
     document.info_density.clear();
     document.coverageLimit.clear();
     return {};
@@ -202,6 +210,7 @@ Status installGrid(const GridMember& grid, SurveyMember& survey) {
     Status status = checkCells(grid);
     if (status.ok()) status = buildGrid(grid, document);
     if (!status.ok()) return status;
+    if (!document.has_tomographic_info) forgetTimes(document);
     restoreDensity(survey);
     restoreCoverage(survey);
     const std::vector<InversionRecord>& runs = survey.runs;

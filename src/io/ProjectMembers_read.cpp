@@ -127,4 +127,12 @@ int readRefraction(const std::string& path, refractionDataStructure::Interpretat
   });
 }
 
+int readResult(const std::string& path, ResultMember& result, std::string& why) {
+  return readMember(path, "Result", kLargestMember, why, [&](XmlReader& reader) {
+    ResultMember read;
+    xml::readRecord(reader, read);
+    result = std::move(read);
+  });
+}
+
 }  // namespace talvesk

@@ -131,4 +131,11 @@ int writeRefraction(const std::string& path,
   });
 }
 
+int writeResult(const std::string& path, const ResultMember& result) {
+  return writeMember(path, "Result", [&](XmlWriter& writer) {
+    xml::Output output(writer);
+    describe(output, const_cast<ResultMember&>(result));
+  });
+}
+
 }  // namespace talvesk

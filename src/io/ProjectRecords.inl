@@ -104,6 +104,29 @@ void describe(V& fields, Misfit& misfit) {
 }
 
 template <class V>
+void describe(V& fields, SectionMisfit& misfit) {
+  fields("count", misfit.count);
+  fields("rmse", misfit.rmse);
+  fields("relativeRms", misfit.relativeRms);
+  fields("bias", misfit.bias);
+  fields("maxAbs", misfit.maxAbs);
+  fields("maxShot", misfit.maxShot);
+  fields("maxReceiver", misfit.maxReceiver);
+}
+
+template <class V>
+void describe(V& fields, ResultMember& result) {
+  fields("version", result.version);
+  fields("hit_counts", result.hitCounts);
+  fields("coorcount", result.coorcount);
+  fields("smoothed", result.smoothed);
+  fields("times_of_section", result.timesOfSection);
+  fields("computing_seconds", result.computingSeconds);
+  fields("picks", result.picks);
+  fields("section_history", result.sectionHistory);
+}
+
+template <class V>
 void describe(V& fields, InversionRecord& run) {
   fields("externalIterations", run.externalIterations);
   fields("solverIterations", run.solverIterations);

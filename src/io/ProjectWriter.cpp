@@ -1,6 +1,7 @@
 #include "io/ProjectWriter.h"
 
 #include "base/Console.h"
+#include "io/ProjectResult.h"
 #include "io/ProjectZip.h"
 #include "io/SourceCopies.h"
 #include "io/TemporaryFolder.h"
@@ -141,11 +142,13 @@ bool ProjectWriter::writeMembers(const std::string& folder, const Project& proje
     files.push_back(folder + member);
     return files.back();
   };
-  const auto check = [&](const char* member, int result, Signal done, Signal failed) {
-    if (step(result, done, failed)) return;
+  const auto giveUp = [&](const char* member) {
     complete = false;
     std::error_code ignored;
     fs::remove(folder + member, ignored);
+  };
+  const auto check = [&](const char* member, int result, Signal done, Signal failed) {
+    if (!step(result, done, failed)) giveUp(member);
   };
   check(kSurveyMember, saveTomoDocument_XML(add(kSurveyMember), project.document, project.section),
         &ProjectWriter::saved_tomo_xml, &ProjectWriter::error_saved_tomo_xml);
@@ -155,6 +158,10 @@ bool ProjectWriter::writeMembers(const std::string& folder, const Project& proje
         &ProjectWriter::saved_traces, &ProjectWriter::error_saved_traces);
   check(kPalettesMember, savePalettes_XML(add(kPalettesMember), project.palettes),
         &ProjectWriter::saved_palettes, &ProjectWriter::error_saved_palettes);
+  if (project.document.has_tomographic_info &&
+      writeResult(add(kResultMember), resultOf(project.document)) != 0) {
+    giveUp(kResultMember);
+  }
   return step(saveRefraction_XML(add(kRefractionMember), project.interpretation),
               &ProjectWriter::saved_refraction, &ProjectWriter::error_saved_refraction);
 }

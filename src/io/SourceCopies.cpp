@@ -17,8 +17,8 @@ namespace {
 namespace fs = std::filesystem;
 
 bool isMember(const std::string& name) {
-  static const std::set<std::string> kMembers = {kSurveyMember, kGridMember, kTracesMember,
-                                                 kPalettesMember, kRefractionMember};
+  static const std::set<std::string> kMembers = {kSurveyMember,   kGridMember,       kTracesMember,
+                                                 kPalettesMember, kRefractionMember, kResultMember};
   return kMembers.count(name) > 0 || name == "." || name == "..";
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "io/ProjectAssembly.h"
+#include "io/ProjectResult.h"
 #include "io/ProjectZip.h"
 
 #include <exception>
@@ -82,14 +83,28 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   return status.ok() ? 0 : fail(std::string(kRefractionMember) + ": " + status.message());
 }
 
+int projectReader::readResult_XML(const std::string& path, TomoDocument& document) {
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) return 0;  // nothing inverted, or an earlier version
+  std::string why;
+  ResultMember result;
+  if (readResult(path, result, why) == 0) {
+    const Status status = installResult(std::move(result), document);
+    if (status.ok()) return 0;
+    why = std::string(kResultMember) + ": " + status.message();
+  }
+  mWarnings.push_back(why + "; the coverage of the last inversion and its figures are not known");
+  return 1;
+}
+
 bool projectReader::readMembers(const std::string& folder, LoadedProject& project) {
   SurveyMember survey;
   // Whatever fails, the others are read, so that all that is wrong with a project is told at once;
   // but grid and traces mean nothing without the survey.
   const bool hasSurvey = step(readTomoDocument_XML(folder + kSurveyMember, survey),
                               &projectReader::read_tomo_xml, &projectReader::error_read_tomo_xml);
-  step(hasSurvey ? readTomoDocumentGrid_XML(folder + kGridMember, survey) : 1,
-       &projectReader::read_grid, &projectReader::error_read_grid);
+  const bool hasGrid = step(hasSurvey ? readTomoDocumentGrid_XML(folder + kGridMember, survey) : 1,
+                            &projectReader::read_grid, &projectReader::error_read_grid);
   const bool hasTraces =
       step(hasSurvey ? readTomoDocumentTraces_XML(folder + kTracesMember, survey.document) : 1,
            &projectReader::read_traces, &projectReader::error_read_traces);
@@ -99,6 +114,7 @@ bool projectReader::readMembers(const std::string& folder, LoadedProject& projec
   if (hasSurvey && hasTraces) {
     readRefraction_XML(folder + kRefractionMember, survey.document, project.interpretation);
   }
+  if (hasSurvey && hasGrid) readResult_XML(folder + kResultMember, survey.document);
   project.document = std::move(survey.document);
   project.section = survey.section;
   project.shotFiles = mShotFiles;

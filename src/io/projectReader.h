@@ -25,8 +25,8 @@ struct LoadedProject {
 
 /// Loads a project, all of it or nothing. Runs on any thread.
 ///
-/// Rays and computed times are not in a project; see recomputeRays(). The computed times are those
-/// that were saved until then.
+/// Rays are not in a project; see recomputeRays(). Computed times of a project of an earlier
+/// version are those of the last solver pass until then.
 class projectReader : public QObject {
   Q_OBJECT
 
@@ -38,7 +38,7 @@ class projectReader : public QObject {
   bool hasError() const { return mError; }                 ///< of the last load
   const std::string& message() const { return mMessage; }  ///< why it failed
   bool tracesFailed() const { return mTracesFailed; }
-  /// Shot files whose traces are empty now, of a load that succeeded.
+  /// What a load that succeeded had to leave out: shot files whose traces are empty now, ...
   const std::vector<std::string>& warnings() const { return mWarnings; }
 
   // The steps. Each returns 0 or 1. They are virtual so that tests can make each of them fail.
@@ -49,6 +49,9 @@ class projectReader : public QObject {
   virtual int readPalettes_XML(const std::string& path, ColorPaletteList& palettes);
   virtual int readRefraction_XML(const std::string& path, const TomoDocument& document,
                                  refractionDataStructure::Interpretation& interpretation);
+  /// A result that cannot be read costs coverage and figures, which a warning says, not the
+  /// project.
+  virtual int readResult_XML(const std::string& path, TomoDocument& document);
 
  signals:
   void read_compressed();

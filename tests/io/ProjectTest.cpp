@@ -1,4 +1,5 @@
 #include "io/ProjectSnapshot.h"
+#include "model/Residuals.h"
 #include "processing/ShotTime.h"
 #include "support/TestProjects.h"
 #include "tomo/RayRecomputation.h"
@@ -12,6 +13,7 @@ namespace talvesk {
 namespace {
 
 using namespace talvesk::testing;
+using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -120,7 +122,7 @@ TEST_F(ProjectTest, isTheSameByteForByteAfterLoadingAndSavingAgain) {
   ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
   const auto first = entriesOf(archive());
   EXPECT_EQ(entriesOf(folder.file("again.tvsk")), first);
-  EXPECT_THAT(first, SizeIs(8));
+  EXPECT_THAT(first, SizeIs(9));
   EXPECT_THAT(first.at("traces.xml"), HasSubstr("<TAB size=\"dynamic\"/>"));
   EXPECT_EQ(first.at("2.dat"), TestFolder::get(shots[1]));
 }
@@ -140,6 +142,55 @@ TEST_F(ProjectTest, isTheSameByteForByteWhenItIsSavedFromASnapshot) {
     ASSERT_EQ(save(folder.file("copy.tvsk"), copy), 0);
     EXPECT_EQ(entriesOf(folder.file("copy.tvsk")), entriesOf(archive())) << piece;
   }
+}
+
+TEST_F(ProjectTest, tellsTheSameFiguresOfItsSectionBeforeAndAfter) {
+  TomoDocument& document = project.document;
+  invert(document);
+  document.smoothedResult = true;
+  ASSERT_EQ(save(), 0) << console.error();
+  LoadedProject loaded;
+  ASSERT_EQ(load(archive(), loaded), 0) << reader.message();
+  const TomoDocument& back = loaded.document;
+  const SectionMisfit before = sectionMisfitOf(document);
+  const SectionMisfit after = sectionMisfitOf(back);
+  ASSERT_GT(before.count, 0);
+  EXPECT_EQ(after.rmse, before.rmse);
+  EXPECT_EQ(after.bias, before.bias);
+  EXPECT_EQ(after.maxReceiver, before.maxReceiver);
+  ASSERT_THAT(back.lastInversion->sectionHistory, SizeIs(3));
+  EXPECT_EQ(back.lastInversion->sectionHistory[0].rmse,
+            document.lastInversion->sectionHistory[0].rmse);
+  EXPECT_EQ(back.lastInversion->computingSeconds, document.lastInversion->computingSeconds);
+  EXPECT_EQ(back.hitCounts, document.hitCounts);
+  EXPECT_EQ(back.coorcount, document.coorcount);
+  EXPECT_TRUE(back.smoothedResult);
+  EXPECT_FALSE(picksChangedSince(back));
+  loaded.document.ttArray[0].ttMisurati[1] *= 1.1;
+  EXPECT_TRUE(picksChangedSince(back));
+}
+
+TEST_F(ProjectTest, losesCoverageAndFiguresWithAWordWhenTheyDoNotGoWithItsGrid) {
+  invert(project.document);
+  project.document.hitCounts.pop_back();
+  ASSERT_EQ(save(), 0) << console.error();
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.warnings(), ElementsAre(HasSubstr("result.xml")));
+  EXPECT_THAT(back.document.hitCounts, IsEmpty());
+  EXPECT_FALSE(back.document.timesOfSection);
+  Log log;
+  ASSERT_TRUE(recomputeRays(back.document, log).ok());
+  EXPECT_EQ(back.document.hitCounts.size(), back.document.grid->cellCount());
+}
+
+TEST_F(ProjectTest, ofAnEarlierVersionHasNoTimesOfAGridThatIsGone) {
+  invert(project.document);
+  project.document.has_tomographic_info = false;
+  ASSERT_EQ(save(), 0) << console.error();
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(back.document.ttArray[0].ttCalcolati, Each(kNoTime));
 }
 
 TEST_F(ProjectTest, hasItsRaysAgainAfterOneForwardPass) {
