@@ -8,7 +8,9 @@ namespace talvesk {
 class TomoDocument;
 struct InversionRecord;
 
-/// RMS misfit in milliseconds after every external iteration. Fails without a misfit to draw.
+/// RMS misfit in milliseconds through the starting model and through the section after every
+/// external iteration, and paler that of the solver's last pass in each. Fails without a misfit to
+/// draw.
 Status prepareMisfitHistoryFigure(const InversionRecord& record, double widthMm, double heightMm,
                                   FigureDrawing& drawing);
 

@@ -83,24 +83,25 @@ void addMethod(ReportBuilder& builder) {
   builder.heading(ReportWords::tr("Method"));
   builder.paragraph(ReportWords::tr(
       "First breaks are the times at which the first seismic energy of a shot reaches each "
-      "geophone. They were picked on the recorded traces and inverted by travel-time "
-      "tomography. The ground beneath the line is divided into square cells of constant "
-      "velocity, which follow the surface. From each shot the fastest paths to all geophones "
-      "are searched for in the network of nodes on the sides of the cells; they are the rays. "
-      "The differences between measured and computed times are distributed along the rays "
-      "and correct the slowness of the cells that they cross, several times over on the same "
-      "rays, within the limits of velocity. The corrected section is smoothed, and new rays "
-      "are traced through it: that is one external iteration."));
-  builder.paragraph(ReportWords::tr(
-      "The misfit is the difference between computed and measured times. The computed times "
-      "are those along the rays of the last iteration, before its last correction and "
-      "smoothing, or through the section as it is drawn when the project was opened again. RMS "
-      "is the root mean square of the misfit, in milliseconds or relative to the measured times "
-      "in percent. The information density tells how completely rays cross the surroundings of "
-      "a cell; where it is low, velocities are poorly supported by the data, and below the lowest "
-      "rays the "
-      "section is not drawn. Velocities that decrease with depth and thin layers may remain "
-      "hidden from first arrivals."));
+      "geophone. They were picked on the recorded traces."));
+  if (builder.source.document.has_tomographic_info) {
+    builder.paragraph(ReportWords::tr(
+        "They were inverted by travel-time tomography. The ground beneath the line is divided into "
+        "square cells of constant velocity, which follow the surface. From each shot the fastest "
+        "paths to all geophones are searched for in the network of nodes on the sides of the "
+        "cells; they are the rays. The differences between measured and computed times are "
+        "distributed along the rays and correct the slowness of the cells that they cross, several "
+        "times over on the same rays, within the limits of velocity. The corrected section is "
+        "smoothed, and new rays are traced through it: that is one external iteration."));
+    builder.paragraph(ReportWords::tr(
+        "The misfit is the difference between computed and measured times. The computed times are "
+        "those along fresh rays through the section as it is drawn. RMS is the root mean square of "
+        "the misfit, in milliseconds or relative to the measured times in percent. The information "
+        "density tells how completely rays cross the surroundings of a cell; where it is low, "
+        "velocities are poorly supported by the data, and below the lowest rays the section is not "
+        "drawn. Velocities that decrease with depth and thin layers may remain hidden from first "
+        "arrivals."));
+  }
   if (isBuilt(builder)) {
     builder.paragraph(ReportWords::tr(
         "The refractors were interpreted by the generalised reciprocal method. First breaks "
