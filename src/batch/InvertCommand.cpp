@@ -95,6 +95,16 @@ void summarizeExcluded(const TomoDocument& document, std::ostream& out) {
   for (const ExcludedPosition& position : document.excluded) out << describe(position) << '\n';
 }
 
+/// The misfit of the section that was found, along fresh rays.
+void summarizeSection(const SectionMisfit& misfit, std::ostream& out) {
+  if (misfit.count == 0) return;
+  out << "Section: RMS [ms] " << formatDouble(misfit.rmse * 1000.0) << "; [%] "
+      << formatDouble(misfit.relativeRms * 100.0) << "; mean [ms] "
+      << formatDouble(misfit.bias * 1000.0) << "\n"
+      << "Largest difference: [ms] " << formatDouble(misfit.maxAbs * 1000.0) << "; shot "
+      << misfit.maxShot + 1 << ", receiver " << misfit.maxReceiver + 1 << "\n";
+}
+
 void summarize(const InvertOptions& options, const TomoDocument& document,
                const TomographyResult& result, std::ostream& out) {
   const Grid& grid = *document.grid;
@@ -105,7 +115,10 @@ void summarize(const InvertOptions& options, const TomoDocument& document,
       << options.parameters.externalIterations << (result.stopped ? ", stopped by the user" : "")
       << "\n";
   summarizeExcluded(document, out);
-  out << "Elapsed time: [s] " << formatDouble(result.elapsedSeconds) << "\n";
+  summarizeSection(result.sectionMisfit, out);
+  out << "Computing time: [s] " << formatDouble(result.computingSeconds) << "\n"
+      << "Last solver pass:\n"
+      << "Elapsed time: [s] " << formatDouble(result.elapsedSeconds) << "\n";
   if (misfit.count == 0) {
     out << "No picks: there is no misfit." << std::endl;
     return;

@@ -4,6 +4,7 @@
 #include "base/WorkingFolder.h"
 #include "batch/Failure.h"
 #include "io/ProjectWriter.h"
+#include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 
 #include <QString>
@@ -21,6 +22,20 @@ Status workingFolder(std::string& path) {
 
 std::string countOf(std::size_t count, const std::string& what) {
   return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+void describeInversion(const TomoDocument& document, std::ostream& out) {
+  const SectionMisfit misfit = sectionMisfitOf(document);
+  out << "done";
+  if (misfit.count > 0) {
+    out << ", RMS misfit of the section " << formatDouble(misfit.rmse * 1000.0) << " ms, "
+        << formatDouble(misfit.relativeRms * 100.0) << " %";
+  }
+  if (document.RMSE_tomography >= 0.0) {
+    out << ", last solver pass " << formatDouble(document.RMSE_tomography) << " %";
+  }
+  if (picksChangedSince(document)) out << "; picks have changed since";
+  out << "\n";
 }
 
 }  // namespace
@@ -86,10 +101,8 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
   out << "  inversion   ";
   if (!document.has_tomographic_info) {
     out << "none\n";
-  } else if (document.RMSE_tomography < 0.0) {
-    out << "done\n";
   } else {
-    out << "RMS misfit " << formatDouble(document.RMSE_tomography) << " %\n";
+    describeInversion(document, out);
   }
 }
 
