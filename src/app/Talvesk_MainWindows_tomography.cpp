@@ -1,5 +1,6 @@
 #include "app/BackgroundInversion.h"
 #include "app/CommandLock.h"
+#include "app/InversionTexts.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
@@ -11,23 +12,12 @@
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QComboBox>
-#include <QLocale>
 #include <QStatusBar>
 #include <chrono>
 
 // The inversion, from the question whether to run it to its results.
 
 namespace talvesk {
-namespace {
-
-QString general(double value) {
-  QLocale locale;
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  return locale.toString(value, 'g', 6);
-}
-
-}  // namespace
-
 void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
   logSlot(__func__);
   const auto asked = std::chrono::steady_clock::now();
@@ -76,7 +66,7 @@ TomographyResult Talvesk_MainWindows::runInversionBeside(const TomographyParamet
     result = inversion.run([&](const TomographyProgress& state, const TomoDocument& copy) {
       takeInversion(mDocument, copy);
       progress.addCompleted();
-      progress.addMisfit(state.misfit);
+      progress.addMisfit(state);
       refreshSection();
     });
   }
@@ -138,16 +128,11 @@ void Talvesk_MainWindows::showInversion(const TomographyResult& result) {
   if (result.iterationsDone == 0) return;
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
   statusBar()->showMessage(
-      tr("%n external iteration(s) completed.", nullptr, result.iterationsDone), kMessageTime);
-  const Misfit& misfit = result.misfit;
-  if (misfit.count == 0) return;
-  showNote(
-      this, tr("Inversion results"),
-      tr("Elapsed time: [s] %1\n").arg(general(result.elapsedSeconds)) +
-          tr("RMSE: [ms] %1; [%] %2\n")
-              .arg(general(misfit.rmse * 1000.0), general(misfit.relativeRms * 100.0)) +
-          tr("MaxError: [ms] %1; [%] %2\n")
-              .arg(general(misfit.maxError * 1000.0), general(misfit.maxRelativeError * 100.0)));
+      tr("%n external iteration(s) completed.", nullptr, result.iterationsDone) + QLatin1Char(' ') +
+          sectionMisfitText(result.sectionMisfit),
+      kMessageTime);
+  if (result.misfit.count == 0) return;
+  showNote(this, tr("Inversion results"), inversionResultsText(result));
 }
 
 }  // namespace talvesk

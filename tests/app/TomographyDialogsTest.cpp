@@ -162,11 +162,11 @@ TEST(ProgressDialog, countsIterations) {
   dialog.addCompleted();
   EXPECT_EQ(child<QProgressBar>(dialog, "progressBar").value(), 33) << "truncated";
   dialog.addCompleted();
-  Misfit misfit;
-  dialog.addMisfit(misfit);
+  TomographyProgress progress;
+  dialog.addMisfit(progress);
   EXPECT_EQ(child<MisfitPlot>(dialog, "misfitPlot").points(), 0U) << "no picks, no misfit";
-  misfit.count = 5;
-  dialog.addMisfit(misfit);
+  progress.misfit.count = 5;
+  dialog.addMisfit(progress);
   EXPECT_EQ(child<MisfitPlot>(dialog, "misfitPlot").points(), 1U);
   EXPECT_EQ(child<QTextBrowser>(dialog, "textBrowser").toPlainText().toStdString(),
             "Completed iteration 1\nCompleted iteration 2\n");

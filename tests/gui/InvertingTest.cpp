@@ -3,6 +3,7 @@
 #include "app/runTomography_Dialog.h"
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
+#include "model/Residuals.h"
 #include "support/TestSurveys.h"
 #include "tomo/Misfit.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -139,14 +140,21 @@ TEST_F(Inverting, showsItsResults) {
   run();
   const TomoDocument& line = window->document();
   EXPECT_TRUE(line.has_tomographic_info && line.modified);
-  const Misfit misfit = computeMisfit(line);
+  ASSERT_TRUE(line.lastInversion);
+  const Misfit misfit = line.lastInversion->history.back();
   EXPECT_EQ(line.RMSE_tomography, 100.0 * misfit.relativeRms);
+  const SectionMisfit section = sectionMisfitOf(line);
+  ASSERT_GT(section.count, 0);
+  EXPECT_THAT(child<QStatusBar>("statusBar").currentMessage().toStdString(),
+              HasSubstr("Misfit of the section: RMS "));
   const auto number = [](double value) { return QString::number(value, 'g', 6); };
   const QRegularExpression expected(
-      QStringLiteral("^Elapsed time: \\[s\\] [0-9.e-]+\nRMSE: \\[ms\\] %1; \\[%\\] %2\n"
-                     "MaxError: \\[ms\\] %3; \\[%\\] %4\n$")
+      QStringLiteral("^Section, along fresh rays\nRMS: \\[ms\\] %5; \\[%\\] %6\n[^E]+"
+                     "Last solver pass\nElapsed time: \\[s\\] [0-9.e-]+\nRMSE: \\[ms\\] %1; "
+                     "\\[%\\] %2\nMaxError: \\[ms\\] %3; \\[%\\] %4\n$")
           .arg(number(1000.0 * misfit.rmse), number(100.0 * misfit.relativeRms),
-               number(1000.0 * misfit.maxError), number(100.0 * misfit.maxRelativeError)));
+               number(1000.0 * misfit.maxError), number(100.0 * misfit.maxRelativeError),
+               number(1000.0 * section.rmse), number(100.0 * section.relativeRms)));
   EXPECT_TRUE(expected.match(results).hasMatch()) << results.toStdString();
   EXPECT_EQ(child<QTabWidget>("tabWidget").currentIndex(), 2);
   EXPECT_TRUE(child<QWidget>("showSimTT_CB").isEnabled());
