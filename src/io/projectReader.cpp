@@ -40,7 +40,10 @@ bool projectReader::step(int result, void (projectReader::*done)(),
 }
 
 int projectReader::read_ZIP(const std::string& archive, const std::string& folder) {
-  return readZip(archive, folder);
+  std::string why;
+  if (readZip(archive, folder, why) == 0) return 0;
+  const std::string closed = whyClosed(archive);
+  return fail(closed.empty() ? "It cannot be extracted: " + why + "." : closed);
 }
 
 int projectReader::readTomoDocument_XML(const std::string& path, SurveyMember& survey) {
@@ -117,12 +120,8 @@ int projectReader::loadInto(const std::string& archive, const std::string& worki
   }
   if (read_ZIP(archive, project.folder->path()) != 0) {
     console::error() << "[ERROR] While extracting " << archive << std::endl;
-    mError = true;
     emit error_read_compressed();
-    const std::string closed = whyClosed(archive);
-    return fail(!closed.empty() ? closed
-                                : "It cannot be extracted: it is no archive of a project, it is "
-                                  "damaged, or there is no room on the disk for it.");
+    return fail("It cannot be extracted.");
   }
   emit read_compressed();
   return readMembers(project.folder->path(), project) ? 0 : 1;
