@@ -79,7 +79,10 @@ int writeRefraction(const std::string& path,
 int readSurvey(const std::string& path, SurveyMember& member, std::string& why);
 int readGrid(const std::string& path, GridMember& member, std::string& why);
 int readTraces(const std::string& path, TracesMember& member, std::string& why);
-int readPalettes(const std::string& path, ColorPaletteList& palettes, std::string& why);
+/// Palettes that cannot be used are left out, with a line in `repairs`; when none can be used they
+/// are as before.
+int readPalettes(const std::string& path, ColorPaletteList& palettes,
+                 std::vector<std::string>& repairs, std::string& why);
 int readRefraction(const std::string& path, refractionDataStructure::Interpretation& interpretation,
                    std::string& why);
 

@@ -49,7 +49,7 @@ int projectReader::read_ZIP(const std::string& archive, const std::string& folde
 int projectReader::readTomoDocument_XML(const std::string& path, SurveyMember& survey) {
   std::string why;
   if (readSurvey(path, survey, why) != 0) return fail(why);
-  const Status status = checkSurvey(survey);
+  const Status status = checkSurvey(survey, mRepairs);
   return status.ok() ? 0 : fail(std::string(kSurveyMember) + ": " + status.message());
 }
 
@@ -57,7 +57,7 @@ int projectReader::readTomoDocumentGrid_XML(const std::string& path, SurveyMembe
   std::string why;
   GridMember grid;
   if (readGrid(path, grid, why) != 0) return fail(why);
-  const Status status = installGrid(grid, survey);
+  const Status status = installGrid(std::move(grid), survey, mRepairs);
   return status.ok() ? 0 : fail(std::string(kGridMember) + ": " + status.message());
 }
 
@@ -73,7 +73,7 @@ int projectReader::readTomoDocumentTraces_XML(const std::string& path, TomoDocum
 
 int projectReader::readPalettes_XML(const std::string& path, ColorPaletteList& palettes) {
   std::string why;
-  return readPalettes(path, palettes, why) == 0 ? 0 : fail(why);
+  return readPalettes(path, palettes, mRepairs, why) == 0 ? 0 : fail(why);
 }
 
 int projectReader::readRefraction_XML(const std::string& path, const TomoDocument& document,
@@ -82,7 +82,7 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   if (!std::filesystem::exists(path, error)) return 0;  // projects of earlier versions
   std::string why;
   if (readRefraction(path, interpretation, why) != 0) return fail(why);
-  const Status status = checkInterpretation(document, interpretation);
+  const Status status = checkInterpretation(document, interpretation, mRepairs);
   return status.ok() ? 0 : fail(std::string(kRefractionMember) + ": " + status.message());
 }
 
