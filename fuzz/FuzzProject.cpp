@@ -61,7 +61,8 @@ struct Workshop {
     QDir(folder.path()).mkdir(QStringLiteral("work"));
     demand(save(archive, work(), soundProject()) == 0, "the sound project can be saved");
     QDir(folder.path()).mkdir(QStringLiteral("loose"));
-    demand(readZip(archive, loose()) == 0, "and extracted");
+    std::string why;
+    demand(readZip(archive, loose(), why) == 0, "and extracted");
   }
   std::string root() const { return folder.path().toStdString() + "/"; }
   std::string loose() const { return root() + "loose/"; }

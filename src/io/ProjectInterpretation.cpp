@@ -1,5 +1,5 @@
 #include "io/ProjectAssembly.h"
-#include "refraction/ReciprocalMethod.h"
+#include "io/ProjectRepair.h"
 
 #include <algorithm>
 
@@ -25,43 +25,13 @@ Status checkLayers(const TomoDocument& document, std::vector<layerStruct>& layer
   return {};
 }
 
-bool hangsTogether(const phantom& curve) {
-  const std::size_t n = curve.points.size();
-  return curve.times.size() == n && curve.enabled.size() == n;
-}
-
-bool hangsTogether(const computedData& data) {
-  const std::size_t n = data.x.size();
-  const auto perReceiver = [n](const std::vector<double>& values) {
-    return values.empty() || values.size() == n;
-  };
-  const auto family = [n](const std::vector<double>& values) {
-    return values.empty() || values.size() == kXYFamily.size() * n;
-  };
-  return perReceiver(data.tG) && perReceiver(data.tV) && family(data.tGs) && family(data.tVs) &&
-         perReceiver(data.elevation) && perReceiver(data.velocity) && perReceiver(data.depth);
-}
-
-template <typename Record>
-bool allHangTogether(const std::vector<Record>& records) {
-  constexpr std::size_t kRefractors = kLastLayer - 1;
-  return records.size() <= kRefractors &&
-         std::all_of(records.begin(), records.end(),
-                     [](const Record& record) { return hangsTogether(record); });
-}
-
 }  // namespace
 
-Status checkInterpretation(const TomoDocument& document, Interpretation& interpretation) {
+Status checkInterpretation(const TomoDocument& document, Interpretation& interpretation,
+                           std::vector<std::string>& repairs) {
   const Status status = checkLayers(document, interpretation.ttLayer);
-  if (!status.ok()) return status;
-  if (!allHangTogether(interpretation.phnt_A) || !allHangTogether(interpretation.phnt_R) ||
-      !allHangTogether(interpretation.refractData.cData)) {
-    interpretation.phnt_A.clear();
-    interpretation.phnt_R.clear();
-    interpretation.refractData = {};
-  }
-  return {};
+  if (status.ok()) repairResults(interpretation, repairs);
+  return status;
 }
 
 }  // namespace talvesk

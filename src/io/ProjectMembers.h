@@ -95,12 +95,19 @@ int writeResult(const std::string& path, const ResultMember& result);
 int readSurvey(const std::string& path, SurveyMember& member, std::string& why);
 int readGrid(const std::string& path, GridMember& member, std::string& why);
 int readTraces(const std::string& path, TracesMember& member, std::string& why);
-int readPalettes(const std::string& path, ColorPaletteList& palettes, std::string& why);
+/// Palettes that cannot be used are left out, with a line in `repairs`; when none can be used they
+/// are as before.
+int readPalettes(const std::string& path, ColorPaletteList& palettes,
+                 std::vector<std::string>& repairs, std::string& why);
 int readRefraction(const std::string& path, refractionDataStructure::Interpretation& interpretation,
                    std::string& why);
 int readResult(const std::string& path, ResultMember& result, std::string& why);
 
 /// The part of a path behind its last slash or backslash.
 std::string bareName(const std::string& path);
+
+/// Whether a name can be that of a file in a project: UTF-8 text without any folder in it, and of
+/// control characters none but tabs and line breaks, for archives cannot spell the others.
+bool isEntryName(const std::string& name);
 
 }  // namespace talvesk

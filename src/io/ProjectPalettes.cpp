@@ -44,7 +44,8 @@ int writePalettes(const std::string& path, const ColorPaletteList& palettes) {
   return stream.good() ? 0 : failWriting(path);
 }
 
-int readPalettes(const std::string& path, ColorPaletteList& palettes, std::string& why) {
+int readPalettes(const std::string& path, ColorPaletteList& palettes,
+                 std::vector<std::string>& repairs, std::string& why) {
   std::string text;
   if (const Status status = readWholeFile(path, text, kLargestMember); !status.ok()) {
     console::error() << "[ERROR] Error in opening " << path << "." << std::endl;
@@ -56,7 +57,7 @@ int readPalettes(const std::string& path, ColorPaletteList& palettes, std::strin
   try {
     std::istringstream stream(std::move(text));
     cereal::XMLInputArchive archive(stream);
-    load(archive, palettes);
+    load(archive, palettes, repairs);
     return 0;
   } catch (const std::exception& error) {
     return failReading(error.what(), why);

@@ -1,9 +1,12 @@
 #include "io/ProjectZip.h"
 
 #include "base/Console.h"
+#include "base/PlainText.h"
 #include "io/ProjectMembers.h"
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <limits>
@@ -11,6 +14,7 @@
 #include <ostream>
 #include <set>
 #include <system_error>
+#include <utility>
 
 #include <zip.h>
 
@@ -40,6 +44,9 @@ using Archive = std::unique_ptr<zip_t, Discard>;
 /// Of compression, 1 to 9.
 constexpr zip_uint32_t kLevel = 1;
 
+/// Bytes of all files of a project together.
+constexpr std::uint64_t kMostUnpacked = std::uint64_t{4} << 30;
+
 struct CloseEntry {
   void operator()(zip_file_t* file) const { zip_fclose(file); }
 };
@@ -47,51 +54,116 @@ struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-std::uint64_t freeBytesOf(const std::string& folder) {
+std::string textOf(int libraryError) {
+  zip_error_t error;
+  zip_error_init_with_code(&error, libraryError);
+  std::string text = zip_error_strerror(&error);
+  zip_error_fini(&error);
+  return text;
+}
+
+/// Bytes that the disk of a folder can take and still have some for everybody else.
+std::uint64_t roomIn(const std::string& folder) {
   std::error_code error;
   const auto space = std::filesystem::space(folder, error);
-  return error ? std::numeric_limits<std::uint64_t>::max() : space.available;
+  return error ? std::numeric_limits<std::uint64_t>::max() : space.available - space.available / 20;
 }
 
-bool isPlainName(const std::string& name) {
-  return !name.empty() && name != "." && name != ".." &&
-         name.find_first_of(std::string("/\\\0", 3)) == std::string::npos;
+/// A number of bytes as people say it.
+std::string sizeText(std::uint64_t bytes) {
+  constexpr std::uint64_t kMega = 1000 * 1000;
+  return bytes < kMega ? std::to_string(bytes) + " bytes" : std::to_string(bytes / kMega) + " MB";
 }
 
-/// Copies one entry, not a byte more than it promised.
-int extractEntry(zip_t* archive, std::uint64_t index, const ZipEntry& entry,
-                 const std::string& folder) {
-  console::out() << "extract [ " << entry.name << " ] in [ " << folder << " ]" << std::endl;
-  const std::unique_ptr<zip_file_t, CloseEntry> source(zip_fopen_index(archive, index, 0));
-  if (source == nullptr) return failLoading(__LINE__, " : read_ZIP() : error reading");
-  const std::string destination = folder + entry.name;
+std::string tooMuch(std::uint64_t archiveBytes) {
+  return "it unpacks to more than " + sizeText(unpackedLimit(archiveBytes)) +
+         ", which no project of " + sizeText(archiveBytes) + " does";
+}
+
+std::string noRoom(std::uint64_t bytes, std::uint64_t room) {
+  return "it unpacks to " + sizeText(bytes) + " or more, and the disk has room for " +
+         sizeText(room);
+}
+
+/// Why a file could not be written; to be called before anything else goes wrong.
+std::string notWritten(const std::string& name) {
+  return quoted(name) + " cannot be extracted: " + std::generic_category().message(errno);
+}
+
+/// Entries on their way from an archive to the folder.
+class Extraction {
+ public:
+  /// \param why out: the reason of the failure
+  Extraction(zip_t* archive, std::uint64_t archiveBytes, std::string folder, std::string& why)
+      : mArchive(archive), mArchiveBytes(archiveBytes), mFolder(std::move(folder)), mWhy(why) {}
+
+  /// 0, or 1 after telling the console.
+  int extract(std::uint64_t index, const ZipEntry& entry);
+
+ private:
+  int fail(int line, const std::string& text, const std::string& why) {
+    mWhy = why;
+    return failLoading(line, text);
+  }
+  int copy(zip_file_t* source, std::FILE* target, const ZipEntry& entry);
+
+  zip_t* mArchive;
+  std::uint64_t mArchiveBytes;
+  std::uint64_t mWritten = 0;  ///< of all entries
+  std::string mFolder;
+  std::string& mWhy;
+};
+
+int Extraction::extract(std::uint64_t index, const ZipEntry& entry) {
+  console::out() << "extract [ " << entry.name << " ] in [ " << mFolder << " ]" << std::endl;
+  const std::unique_ptr<zip_file_t, CloseEntry> source(zip_fopen_index(mArchive, index, 0));
+  if (source == nullptr) {
+    return fail(__LINE__, " : read_ZIP() : error reading",
+                quoted(entry.name) + " in it cannot be read: " + zip_strerror(mArchive));
+  }
+  const std::string destination = mFolder + entry.name;
   const std::size_t dot = entry.name.rfind('.');
   const bool isText = dot != std::string::npos && entry.name.substr(dot) == ".xml";
   // Exclusively: nothing that lies there already, a symbolic link least of all, is written to.
   std::unique_ptr<std::FILE, CloseFile> file(
       std::fopen(destination.c_str(), isText ? "wx" : "wbx"));
   if (file == nullptr) {
-    return failLoading(__LINE__, " : read_ZIP() : error extracting " + destination);
+    return fail(__LINE__, " : read_ZIP() : error extracting " + destination,
+                notWritten(entry.name));
   }
-  std::array<char, 100> chunk;
-  std::uint64_t copied = 0;
-  for (;;) {
-    const zip_int64_t got = zip_fread(source.get(), chunk.data(), chunk.size());
-    if (got == 0) break;
-    const auto bytes = static_cast<std::size_t>(got);
-    if (got < 0 || bytes > entry.bytes - copied ||
-        std::fwrite(chunk.data(), 1, bytes, file.get()) != bytes) {
-      return failLoading(__LINE__, " : read_ZIP() : writing " + destination);
-    }
-    copied += bytes;
-  }
-  if (copied != entry.bytes) {
-    return failLoading(__LINE__, " : read_ZIP() : writing " + destination);
-  }
+  if (copy(source.get(), file.get(), entry) != 0) return 1;
   if (std::fclose(file.release()) != 0) {
-    return failLoading(__LINE__, " : read_ZIP() : impossible to close " + destination);
+    return fail(__LINE__, " : read_ZIP() : impossible to close " + destination,
+                notWritten(entry.name));
   }
   return 0;
+}
+
+int Extraction::copy(zip_file_t* source, std::FILE* target, const ZipEntry& entry) {
+  const std::string writing = " : read_ZIP() : writing " + mFolder + entry.name;
+  const std::uint64_t limit = unpackedLimit(mArchiveBytes);
+  const std::uint64_t before = mWritten;
+  const std::uint64_t room = roomIn(mFolder);  // others may have written meanwhile
+  std::array<char, 100> chunk;
+  for (;;) {
+    const zip_int64_t got = zip_fread(source, chunk.data(), chunk.size());
+    if (got < 0) {
+      const char* reason = zip_error_strerror(zip_file_get_error(source));
+      return fail(__LINE__, writing, quoted(entry.name) + " in it is damaged: " + reason);
+    }
+    if (got == 0) break;
+    const auto bytes = static_cast<std::size_t>(got);
+    if (bytes > limit - mWritten) return fail(__LINE__, writing, tooMuch(mArchiveBytes));
+    if (bytes > room - (mWritten - before)) {
+      return fail(__LINE__, writing, noRoom(mWritten + bytes, before + room));
+    }
+    if (std::fwrite(chunk.data(), 1, bytes, target) != bytes) {
+      return fail(__LINE__, writing, notWritten(entry.name));
+    }
+    mWritten += bytes;
+  }
+  if (mWritten - before == entry.bytes) return 0;
+  return fail(__LINE__, writing, quoted(entry.name) + " in it is not as long as it says");
 }
 
 /// Names and sizes of all entries.
@@ -120,29 +192,18 @@ bool holdsSurvey(zip_t* archive) {
   return false;
 }
 
-}  // namespace
-
-std::string refusalOf(const std::vector<ZipEntry>& entries, std::uint64_t archiveBytes,
-                      std::uint64_t freeBytes) {
-  constexpr std::uint64_t kAlwaysAllowed = std::uint64_t{4} << 30;
-  constexpr std::uint64_t kLargestRatio = 200;
-  std::set<std::string> names;
-  std::uint64_t total = 0;
-  for (const ZipEntry& entry : entries) {
-    if (!isPlainName(entry.name)) return "the name of entry \"" + entry.name + "\" is not allowed";
-    if (!names.insert(entry.name).second) return "two entries are named \"" + entry.name + "\"";
-    if (entry.bytes > freeBytes || total > freeBytes - entry.bytes) {
-      return "the disk has no room for \"" + entry.name + "\"";
-    }
-    total += entry.bytes;
+std::uint64_t bytesOf(const std::vector<std::string>& files) {
+  std::uint64_t bytes = 0;
+  for (const std::string& file : files) {
+    std::error_code error;
+    const std::uint64_t size = std::filesystem::file_size(file, error);
+    if (!error) bytes += size;
   }
-  if (total > kAlwaysAllowed && total / kLargestRatio > archiveBytes) {
-    return "it unpacks to " + std::to_string(total) + " bytes, far more than a project can";
-  }
-  return {};
+  return bytes;
 }
 
-int writeZip(const std::string& path, const std::vector<std::string>& files) {
+/// \param method of compression
+int pack(const std::string& path, const std::vector<std::string>& files, zip_int32_t method) {
   int error = 0;
   Archive archive(zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &error));
   if (archive == nullptr || error != 0) {
@@ -165,8 +226,7 @@ int writeZip(const std::string& path, const std::vector<std::string>& files) {
     }
     // The library would take its best level, which takes ten times as long on samples for one
     // part in a hundred.
-    zip_set_file_compression(archive.get(), static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE,
-                             kLevel);
+    zip_set_file_compression(archive.get(), static_cast<zip_uint64_t>(index), method, kLevel);
   }
   // Only a close that succeeds takes the archive over.
   if (zip_close(archive.get()) != 0) {
@@ -177,31 +237,84 @@ int writeZip(const std::string& path, const std::vector<std::string>& files) {
   return 0;
 }
 
-int readZip(const std::string& path, const std::string& folder) {
+}  // namespace
+
+std::string refusalOf(const std::vector<ZipEntry>& entries, std::uint64_t archiveBytes,
+                      std::uint64_t room) {
+  constexpr std::size_t kMostEntries = 65535;
+  if (entries.size() > kMostEntries) {
+    return "it holds " + std::to_string(entries.size()) + " files, more than " +
+           std::to_string(kMostEntries);
+  }
+  std::set<std::string> names;
+  const std::uint64_t limit = unpackedLimit(archiveBytes);
+  std::uint64_t total = 0;
+  for (const ZipEntry& entry : entries) {
+    if (!isEntryName(entry.name)) {
+      return quoted(entry.name) + " in it is no name of a file without a folder";
+    }
+    if (!names.insert(entry.name).second) return "two files in it are called " + quoted(entry.name);
+    if (entry.bytes > limit - total) return tooMuch(archiveBytes);
+    total += entry.bytes;
+  }
+  if (total <= room) return {};
+  return noRoom(total, room);
+}
+
+std::uint64_t unpackedLimit(std::uint64_t archiveBytes) {
+  constexpr std::uint64_t kAlwaysAllowed = 10 * 1000 * 1000;
+  constexpr std::uint64_t kLargestRatio = 200;
+  if (archiveBytes >= kMostUnpacked / kLargestRatio) return kMostUnpacked;
+  return std::max(kAlwaysAllowed, kLargestRatio * archiveBytes);
+}
+
+int writeZip(const std::string& path, const std::vector<std::string>& files) {
+  const std::uint64_t total = bytesOf(files);
+  if (total > kMostUnpacked) {
+    return failSaving(__LINE__, " : write_ZIP() : impossible to create " + path + ": its " +
+                                    sizeText(total) + " are more than the " +
+                                    sizeText(kMostUnpacked) + " that can be opened again");
+  }
+  if (pack(path, files, ZIP_CM_DEFLATE) != 0) return 1;
+  // Records that are nothing but zeros may shrink to less than loading takes for a project's.
+  std::error_code unknown;
+  const bool tooSmall = total > unpackedLimit(std::filesystem::file_size(path, unknown));
+  return tooSmall ? pack(path, files, ZIP_CM_STORE) : 0;
+}
+
+int readZip(const std::string& path, const std::string& folder, std::string& why) {
   int error = 0;
   Archive archive(zip_open(path.c_str(), ZIP_RDONLY, &error));
   if (archive == nullptr) {
+    why = "it is no archive of a project, or damaged: " + textOf(error);
     return failLoading(__LINE__, ": read_ZIP() : couldn't open input file " + path);
   }
   if (zip_get_num_entries(archive.get(), 0) == 0) {
+    why = "there is nothing in it";
     return failLoading(__LINE__, " : read_ZIP() : empty " + path);
   }
   if (!holdsSurvey(archive.get())) {
+    why = std::string("it is no archive of a project: there is no ") + kSurveyMember + " in it";
     return failLoading(__LINE__,
                        std::string(" : read_ZIP() : no ") + kSurveyMember + " into " + path);
   }
   std::vector<ZipEntry> entries;
-  if (listEntries(archive.get(), entries) != 0) return 1;
-  std::error_code unknown;
-  const std::string refusal =
-      refusalOf(entries, std::filesystem::file_size(path, unknown), freeBytesOf(folder));
-  if (!refusal.empty()) {
-    return failLoading(__LINE__, " : read_ZIP() : error extracting " + path + ": " + refusal);
+  if (listEntries(archive.get(), entries) != 0) {
+    why = "its list of files is damaged";
+    return 1;
   }
+  std::error_code unknown;
+  const std::uint64_t archiveBytes = std::filesystem::file_size(path, unknown);
+  why = refusalOf(entries, archiveBytes, roomIn(folder));
+  if (!why.empty()) {
+    return failLoading(__LINE__, " : read_ZIP() : error extracting " + path + ": " + why);
+  }
+  Extraction extraction(archive.get(), archiveBytes, folder, why);
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    if (extractEntry(archive.get(), i, entries[i], folder) != 0) return 1;
+    if (extraction.extract(i, entries[i]) != 0) return 1;
   }
   if (zip_close(archive.get()) != 0) {
+    why = std::string("it cannot be closed: ") + zip_strerror(archive.get());
     return failLoading(__LINE__, " : read_ZIP() : impossible to close " + path);
   }
   archive.release();

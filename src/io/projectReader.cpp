@@ -41,13 +41,16 @@ bool projectReader::step(int result, void (projectReader::*done)(),
 }
 
 int projectReader::read_ZIP(const std::string& archive, const std::string& folder) {
-  return readZip(archive, folder);
+  std::string why;
+  if (readZip(archive, folder, why) == 0) return 0;
+  const std::string closed = whyClosed(archive);
+  return fail(closed.empty() ? "It cannot be extracted: " + why + "." : closed);
 }
 
 int projectReader::readTomoDocument_XML(const std::string& path, SurveyMember& survey) {
   std::string why;
   if (readSurvey(path, survey, why) != 0) return fail(why);
-  const Status status = checkSurvey(survey);
+  const Status status = checkSurvey(survey, mRepairs);
   return status.ok() ? 0 : fail(std::string(kSurveyMember) + ": " + status.message());
 }
 
@@ -55,7 +58,7 @@ int projectReader::readTomoDocumentGrid_XML(const std::string& path, SurveyMembe
   std::string why;
   GridMember grid;
   if (readGrid(path, grid, why) != 0) return fail(why);
-  const Status status = installGrid(grid, survey);
+  const Status status = installGrid(std::move(grid), survey, mRepairs);
   return status.ok() ? 0 : fail(std::string(kGridMember) + ": " + status.message());
 }
 
@@ -64,13 +67,14 @@ int projectReader::readTomoDocumentTraces_XML(const std::string& path, TomoDocum
   TracesMember traces;
   if (readTraces(path, traces, why) != 0) return fail(why);
   const std::string folder = path.substr(0, path.size() - bareName(path).size());
-  const Status status = installTraces(std::move(traces), folder, document, mShotFiles, mWarnings);
+  const Status status =
+      installTraces(std::move(traces), folder, document, mShotFiles, mWarnings, mRepairs);
   return status.ok() ? 0 : fail(std::string(kTracesMember) + ": " + status.message());
 }
 
 int projectReader::readPalettes_XML(const std::string& path, ColorPaletteList& palettes) {
   std::string why;
-  return readPalettes(path, palettes, why) == 0 ? 0 : fail(why);
+  return readPalettes(path, palettes, mRepairs, why) == 0 ? 0 : fail(why);
 }
 
 int projectReader::readRefraction_XML(const std::string& path, const TomoDocument& document,
@@ -79,7 +83,7 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   if (!std::filesystem::exists(path, error)) return 0;  // projects of earlier versions
   std::string why;
   if (readRefraction(path, interpretation, why) != 0) return fail(why);
-  const Status status = checkInterpretation(document, interpretation);
+  const Status status = checkInterpretation(document, interpretation, mRepairs);
   return status.ok() ? 0 : fail(std::string(kRefractionMember) + ": " + status.message());
 }
 
@@ -132,12 +136,8 @@ int projectReader::loadInto(const std::string& archive, const std::string& worki
   }
   if (read_ZIP(archive, project.folder->path()) != 0) {
     console::error() << "[ERROR] While extracting " << archive << std::endl;
-    mError = true;
     emit error_read_compressed();
-    const std::string closed = whyClosed(archive);
-    return fail(!closed.empty() ? closed
-                                : "It cannot be extracted: it is no archive of a project, it is "
-                                  "damaged, or there is no room on the disk for it.");
+    return fail("It cannot be extracted.");
   }
   emit read_compressed();
   return readMembers(project.folder->path(), project) ? 0 : 1;
@@ -149,6 +149,7 @@ int projectReader::load(const std::string& archive, const std::string& workingFo
   mTracesFailed = false;
   mMessage.clear();
   mWarnings.clear();
+  mRepairs.clear();
   mShotFiles = {};
   try {
     LoadedProject fresh;

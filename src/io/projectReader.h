@@ -40,6 +40,8 @@ class projectReader : public QObject {
   bool tracesFailed() const { return mTracesFailed; }
   /// What a load that succeeded had to leave out: shot files whose traces are empty now, ...
   const std::vector<std::string>& warnings() const { return mWarnings; }
+  /// What else was put right or left out of a load that succeeded, because it cannot be.
+  const std::vector<std::string>& repairs() const { return mRepairs; }
 
   // The steps. Each returns 0 or 1. They are virtual so that tests can make each of them fail.
   virtual int read_ZIP(const std::string& archive, const std::string& folder);
@@ -76,6 +78,7 @@ class projectReader : public QObject {
   bool mTracesFailed = false;
   std::string mMessage;
   std::vector<std::string> mWarnings;
+  std::vector<std::string> mRepairs;
   SegyState mShotFiles;
 };
 

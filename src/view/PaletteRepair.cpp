@@ -1,5 +1,7 @@
 #include "view/PaletteRepair.h"
 
+#include "base/PlainText.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -68,6 +70,7 @@ Status repairPalette(ColorPalette& palette) {
     return Status::failure("its gradient has " + std::to_string(stops) +
                            " colour stops, more than " + std::to_string(kMostGradientStops));
   }
+  palette.name = withoutControls(std::move(palette.name));
   palette.color_gradient = std::move(gradient);
   palette.n_colors = std::clamp(palette.n_colors, 1, ColorTable::kMaxColors);
   repairScale(palette);

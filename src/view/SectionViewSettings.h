@@ -40,6 +40,10 @@ bool showsAnyContours(const ContourSettings& settings);
 ContourSettings proposedContours(ContourSettings settings, SectionQuantity quantity,
                                  const ValueRange& range);
 
+/// The vertical exaggerations that a section can be drawn with.
+inline constexpr double kLeastExaggeration = 0.01;
+inline constexpr double kMostExaggeration = 100.0;
+
 /// Size of the geophone markers on the section.
 enum class GeophoneMarkers { kNone, kSmall, kNormal, kLarge };
 
@@ -54,7 +58,7 @@ struct SectionViewSettings {
   bool title = true;
   bool gridLines = false;
   GeophoneMarkers geophones = GeophoneMarkers::kNormal;
-  double verticalExaggeration = 1.0;  ///< height of a metre over its width, positive
+  double verticalExaggeration = 1.0;  ///< height of a metre over its width
   bool lockRange = false;             ///< the palette's range stays when another line is shown
   ContourSettings contours;
 };

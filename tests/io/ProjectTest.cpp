@@ -6,6 +6,7 @@
 #include "tomo/TomographyRun.h"
 
 #include <cmath>
+#include <filesystem>
 
 #include <gmock/gmock.h>
 
@@ -270,8 +271,25 @@ TEST_F(ProjectTest, keepsTheSamplesOfAFileThatNoArchiveCanName) {
   EXPECT_THAT(writer.warnings().front(), HasSubstr(odd));
   LoadedProject loaded;
   ASSERT_EQ(load(archive(), loaded), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
   ASSERT_EQ(loaded.document.traceSets.size(), 4U);
   EXPECT_EQ(loaded.document.traceSets[3][5].samples, project.document.traceSets[3][5].samples);
+}
+
+/// Records of dead channels shrink to a thousandth, which loading takes for a trap.
+TEST_F(ProjectTest, ofNothingButZerosCanBeOpenedAgain) {
+  const std::vector<std::string> files = {
+      folder.put("tomodoc.xml", ""), folder.put("dead.dat", std::string(12 * 1000 * 1000, '\0'))};
+  ASSERT_EQ(writeZip(archive(), files), 0);
+  EXPECT_EQ(entriesOf(archive())["dead.dat"].size(), 12U * 1000 * 1000);
+}
+
+TEST_F(ProjectTest, thatCouldNotBeOpenedAgainForItsSizeIsNotWritten) {
+  const std::string huge = folder.put("huge.dat", "");
+  std::filesystem::resize_file(huge, (std::uintmax_t{4} << 30) + 1);  // takes no room
+  EXPECT_EQ(writeZip(archive(), {folder.put("tomodoc.xml", ""), huge}), 1);
+  EXPECT_THAT(console.error(), HasSubstr("more than the 4294 MB that can be opened again"));
+  EXPECT_FALSE(QFile::exists(QString::fromStdString(archive())));
 }
 
 TEST_F(ProjectTest, bringsPairsOfPolaritiesBackAsTheirDifference) {
