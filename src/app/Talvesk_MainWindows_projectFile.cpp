@@ -102,8 +102,8 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
   if (result != 0) {
     mLog.write(writer.message(), 1);
     QString details = QString::fromStdString(writer.message());
-    if (const QString kept = QString::fromStdString(writer.keptArchive()); !kept.isEmpty()) {
-      details += QLatin1Char('\n') + tr("The project as it was saved before is in %1").arg(kept);
+    if (QFileInfo::exists(file)) {
+      details += QLatin1Char('\n') + tr("The file is as it was before.");
     }
     showError(this, tr("Error occured"),
               tr("Something went wrong while saving project ") + file + QLatin1Char('\n') +
@@ -166,14 +166,10 @@ void Talvesk_MainWindows::reportBadProject(const QString& file, const projectRea
     text += QLatin1Char('\n') + tr("Error while loading traces: Invalid file format.");
   }
   QString details = QString::fromStdString(reader.message());
-  const QString former = file + QLatin1Char('~');
   if (!QFileInfo::exists(file)) {
     mRecent.remove(file);
     refreshRecentProjects();
     details = tr("There is no file %1").arg(file);
-  }
-  if (QFileInfo::exists(former)) {
-    details += QLatin1Char('\n') + tr("The project as it was saved before is in %1").arg(former);
   }
   showError(this, tr("Error occured"), text, details);
 }

@@ -1,6 +1,7 @@
 #include "app/LineIcon.h"
 #include "app/StartOptions.h"
 #include "app/Talvesk_MainWindows.h"
+#include "base/FileReplacement.h"
 #include "base/StandardStreams.h"
 #include "widgets/SectionSurface.h"
 
@@ -28,6 +29,7 @@ int main(int argc, char** argv) {
   talvesk::occupyClosedStreams();
   // Whoever started the window may be gone before its last message.
   talvesk::outliveReaders();
+  talvesk::outliveSizeLimits();
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   if (asksForText(argc, argv)) return 0;
   // Before the application object exists, or the window could not share its OpenGL with the view.

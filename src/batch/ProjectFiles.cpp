@@ -51,9 +51,7 @@ Status writeProject(const std::string& path, bool quiet, const LoadedProject& pr
   ProjectWriter writer;
   if (writer.save(path, folder, project.document, project.interpretation, project.palettes,
                   project.section) != 0) {
-    const std::string& kept = writer.keptArchive();
-    return Status::failure("The project " + path + " has not been saved: " + writer.message() +
-                           (kept.empty() ? "" : " As it was before it is in " + kept));
+    return Status::failure("The project " + path + " has not been saved: " + writer.message());
   }
   if (quiet) return {};
   for (const std::string& warning : writer.warnings()) warn(warning);

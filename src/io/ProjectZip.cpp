@@ -1,7 +1,9 @@
 #include "io/ProjectZip.h"
 
 #include "base/Console.h"
+#include "base/FileReplacement.h"
 #include "io/ProjectMembers.h"
+#include "io/ZipSink.h"
 
 #include <array>
 #include <cstdio>
@@ -120,6 +122,42 @@ bool holdsSurvey(zip_t* archive) {
   return false;
 }
 
+Status openForWriting(const std::string& path, FileReplacement& file, Archive& archive) {
+  if (Status status = file.begin(path); !status.ok()) return status;
+  zip_error_t error;
+  zip_error_init(&error);
+  zip_source_t* sink = zipSinkInto(file, &error);
+  if (sink != nullptr) {
+    archive.reset(zip_open_from_source(sink, ZIP_CREATE | ZIP_TRUNCATE, &error));
+    if (archive == nullptr) zip_source_free(sink);
+  }
+  Status status;
+  if (archive == nullptr) status = Status::failure(zip_error_strerror(&error));
+  zip_error_fini(&error);
+  return status;
+}
+
+/// 0, or 1 after telling what was impossible.
+int addFile(zip_t* archive, const std::string& file) {
+  constexpr zip_int64_t kToTheEnd = -1;
+  std::error_code unknown;
+  zip_source_t* source = std::filesystem::is_regular_file(file, unknown)
+                             ? zip_source_file(archive, file.c_str(), 0, kToTheEnd)
+                             : nullptr;
+  if (source == nullptr) {
+    return failSaving(__LINE__, " : write_ZIP() : impossible to tmp " + file);
+  }
+  const zip_int64_t index = zip_file_add(archive, bareName(file).c_str(), source, ZIP_FL_ENC_UTF_8);
+  if (index < 0) {
+    zip_source_free(source);
+    return failSaving(__LINE__, " : write_ZIP() : impossible to add " + file);
+  }
+  // The library would take its best level, which takes ten times as long on samples for one
+  // part in a hundred.
+  zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE, kLevel);
+  return 0;
+}
+
 }  // namespace
 
 std::string refusalOf(const std::vector<ZipEntry>& entries, std::uint64_t archiveBytes,
@@ -142,39 +180,29 @@ std::string refusalOf(const std::vector<ZipEntry>& entries, std::uint64_t archiv
   return {};
 }
 
-int writeZip(const std::string& path, const std::vector<std::string>& files) {
-  int error = 0;
-  Archive archive(zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &error));
-  if (archive == nullptr || error != 0) {
+int writeZip(const std::string& path, const std::vector<std::string>& files, std::string& why) {
+  FileReplacement replacement;
+  Archive archive;
+  if (Status status = openForWriting(path, replacement, archive); !status.ok()) {
+    why = status.message();
     return failSaving(__LINE__, " : write_ZIP() : impossible to create " + path);
   }
   for (const std::string& file : files) {
-    constexpr zip_int64_t kToTheEnd = -1;
-    std::error_code unknown;
-    zip_source_t* source = std::filesystem::is_regular_file(file, unknown)
-                               ? zip_source_file(archive.get(), file.c_str(), 0, kToTheEnd)
-                               : nullptr;
-    if (source == nullptr) {
-      return failSaving(__LINE__, " : write_ZIP() : impossible to tmp " + file);
-    }
-    const zip_int64_t index =
-        zip_file_add(archive.get(), bareName(file).c_str(), source, ZIP_FL_ENC_UTF_8);
-    if (index < 0) {
-      zip_source_free(source);
-      return failSaving(__LINE__, " : write_ZIP() : impossible to add " + file);
-    }
-    // The library would take its best level, which takes ten times as long on samples for one
-    // part in a hundred.
-    zip_set_file_compression(archive.get(), static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE,
-                             kLevel);
+    if (addFile(archive.get(), file) == 0) continue;
+    why = "The file " + file + " cannot be added to the archive.";
+    return 1;
   }
   // Only a close that succeeds takes the archive over.
   if (zip_close(archive.get()) != 0) {
-    return failSaving(__LINE__, " : write_ZIP() : impossible to close " + path + ": " +
-                                    zip_strerror(archive.get()));
+    const std::string reason = zip_strerror(archive.get());
+    why = "The archive " + path + " cannot be written: " + reason + ".";
+    return failSaving(__LINE__, " : write_ZIP() : impossible to close " + path + ": " + reason);
   }
   archive.release();
-  return 0;
+  const Status replaced = replacement.commit();
+  if (replaced.ok()) return 0;
+  why = replaced.message();
+  return failSaving(__LINE__, " : write_ZIP() : impossible to close " + path);
 }
 
 int readZip(const std::string& path, const std::string& folder) {

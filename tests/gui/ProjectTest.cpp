@@ -199,10 +199,10 @@ TEST_F(Projects, thatCannotBeSavedAreToldAndStayModified) {
                     QStringLiteral("Something went wrong while saving project ") +
                         path("line.tvsk") +
                         QStringLiteral("\nWARNING: the project has NOT been saved."),
-                    path("line.tvsk~"), QMessageBox::Ok);
+                    QStringLiteral("The file is as it was before."), QMessageBox::Ok);
   trigger("actionSave_Project");
   EXPECT_TRUE(document().modified);
-  EXPECT_TRUE(QFile::exists(path("line.tvsk~")));
+  EXPECT_TRUE(QFile::exists(path("line.tvsk")));
 }
 
 TEST_F(Projects, thatAreNoneLeaveTheSurveyAsItIs) {
