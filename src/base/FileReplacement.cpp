@@ -118,7 +118,7 @@ Status FileReplacement::begin(const std::string& path) {
   if (Status status = checkReplaceable(path); !status.ok()) return status;
   mPath = placeOf(path);
   const std::string folder = folderOf(mPath);
-  clearReplacements(folder);
+  clearReplacements(mPath);
   std::error_code ignored;
   // Nobody may read more of the new file than of the old one, not even while it is written.
   const mode_t mode = fs::exists(mPath, ignored) ? S_IRUSR | S_IWUSR : 0666;
@@ -157,9 +157,9 @@ Status FileReplacement::commit() {
   return {};
 }
 
-void clearReplacements(const std::string& folder) {
+void clearReplacements(const std::string& path) {
   std::error_code error;
-  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+  for (fs::directory_iterator entry(folderOf(placeOf(path)), error), end; !error && entry != end;
        entry.increment(error)) {
     if (entry->path().filename().string().rfind(kPrefix, 0) != 0) continue;
     if (const auto left = LockedFile::takeOver(entry->path().string())) left->remove();

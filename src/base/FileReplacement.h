@@ -49,8 +49,9 @@ class FileReplacement {
   std::optional<LockedFile> mWriting;  ///< none before begin() and after commit()
 };
 
-/// Deletes what dead processes left that were replacing files in a folder.
-void clearReplacements(const std::string& folder);
+/// Deletes what dead processes left that were replacing a file, or others in its folder.
+/// \param path of the file, UTF-8
+void clearReplacements(const std::string& path);
 
 /// Writing beyond the largest size that the user allows for files fails from here on, as on a full
 /// disk, and no longer ends the program.

@@ -129,7 +129,7 @@ TEST(FileReplacement, deletesWhatTheDeadLeftAndNothingElse) {
   ASSERT_EQ(::waitpid(child, &status, 0), child);
   ASSERT_TRUE(WIFSIGNALED(status));
   EXPECT_EQ(folder.entries(), 4);
-  clearReplacements(folder.path());
+  clearReplacements(path);
   EXPECT_EQ(folder.entries(), 3) << "the file, the user's, and that which is being written";
   EXPECT_TRUE(alive.commit().ok());
 }
