@@ -3,6 +3,7 @@
 #include "base/TextNumber.h"
 #include "base/WorkingFolder.h"
 #include "batch/Failure.h"
+#include "io/ProjectLock.h"
 #include "io/ProjectWriter.h"
 #include "model/SurveyFacts.h"
 
@@ -21,6 +22,14 @@ Status workingFolder(std::string& path) {
 
 std::string countOf(std::size_t count, const std::string& what) {
   return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+/// A window that has the project open asks before it saves over what is written now.
+void warnOfHolder(const std::string& path, const ProjectHolder& holder) {
+  const std::string who = holder.process.empty() ? "another program"
+                                                 : holder.user + " on " + holder.host +
+                                                       " (process " + holder.process + ")";
+  warn(path + " is in use by " + who + "; it is replaced all the same");
 }
 
 }  // namespace
@@ -48,6 +57,8 @@ Status readProject(const std::string& path, bool quiet, LoadedProject& project) 
 Status writeProject(const std::string& path, bool quiet, const LoadedProject& project) {
   std::string folder;
   if (Status status = workingFolder(folder); !status.ok()) return status;
+  const ProjectLock::Outcome lock = ProjectLock::take(path);
+  if (lock.holder) warnOfHolder(path, *lock.holder);
   ProjectWriter writer;
   if (writer.save(path, folder, project.document, project.interpretation, project.palettes,
                   project.section) != 0) {
