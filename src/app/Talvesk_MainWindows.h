@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Languages.h"
+#include "app/ProjectFile.h"
 #include "app/RecentProjects.h"
 #include "app/RecoveryCopy.h"
 #include "base/History.h"
@@ -227,7 +228,9 @@ class Talvesk_MainWindows : public QMainWindow {
   bool saveProjectTo(const QString& file);
   void openProject(const QString& file);
   bool loadProject(const QString& file, LoadedProject& project);
-  void takeProject(LoadedProject project, const QString& file);
+  bool mayUse(const ProjectFile& file, const QString& question);
+  bool mayReplace(const ProjectFile& file);
+  void takeProject(LoadedProject project, ProjectFile file);
   void reportBadProject(const QString& file, const projectReader& reader);
   void addRecentMenu();
   void refreshRecentProjects();
@@ -340,7 +343,7 @@ class Talvesk_MainWindows : public QMainWindow {
   SectionViewSettings mSection;
   std::vector<ShotMemory> mShots;  ///< one per trace set
   int mCurrentFile = -1;
-  QString mProjectFile;         ///< where the survey is saved; empty before it was
+  ProjectFile mProject;         ///< where the survey is saved
   QString mSaveFolder;          ///< of the last file saved, empty when one was opened since
   SharedFolder mProjectFolder;  ///< of the shot files of a loaded project
   RecentProjects mRecent;

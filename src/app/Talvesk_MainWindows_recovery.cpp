@@ -64,7 +64,7 @@ void Talvesk_MainWindows::continueSnapshot() {
   mRecoveredRevision = mRevision;
   mRecovery.save(
       mSnapshot->complete(mDocument, mInterpretation, mPalettes, mSection, mProjectFolder),
-      mProjectFile);
+      mProject);
   mSnapshot.reset();
 }
 
@@ -96,9 +96,12 @@ void Talvesk_MainWindows::offerRecovery() {
   const RecoveryAnswer answer = askToRecover(this, details);
   if (answer == RecoveryAnswer::kDiscard) RecoveryCopy::remove(*copy);
   if (answer != RecoveryAnswer::kOpen) return;
+  ProjectFile file(copy->project, mProject);
+  if (copy->stamp) file.setStamp(*copy->stamp);
+  if (!mayUse(file, tr("Do you want to open it all the same?"))) return;
   LoadedProject project;
   if (!loadProject(copy->file, project)) return;  // the copy stays, for whoever can do more with it
-  takeProject(std::move(project), copy->project);
+  takeProject(std::move(project), std::move(file));
   mRecovery.adopt(*copy);
   documentModified();
   // It may have no file yet that could be named as loaded.
