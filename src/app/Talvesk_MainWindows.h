@@ -14,6 +14,7 @@
 #include "view/ColorPalette.h"
 #include "view/SectionViewSettings.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QStringList>
 #include <QTimer>
@@ -64,6 +65,10 @@ class Talvesk_MainWindows : public QMainWindow {
   /// What the program does once the window is there: offers the copy that a crash left, then loads
   /// what the command line names.
   void start(const QStringList& files);
+
+  /// For an end that leaves no time for questions: changes that are not saved go into a recovery
+  /// copy, which is there on return.
+  void leaveRecoveryCopy();
 
   /// Loads what the command line names or what was dropped: a project, then shot files, then
   /// travel-time files.
@@ -237,7 +242,8 @@ class Talvesk_MainWindows : public QMainWindow {
   void clearRecentProjects();
   void offerRecovery();
   void prepareAutosave();
-  bool mayAutosave() const;
+  void noteEdit();
+  void forgetRecovery();
   void continueSnapshot();
   void recoveryFailed(const QString& reason, bool lasting);
 
@@ -349,7 +355,8 @@ class Talvesk_MainWindows : public QMainWindow {
   RecentProjects mRecent;
   QMenu* mRecentMenu = nullptr;
   RecoveryCopy mRecovery;
-  QTimer mAutosaveTimer;
+  QTimer mAutosaveTimer{this};
+  QElapsedTimer mUncopiedSince;                ///< the first edit that no recovery copy has
   int mRevision = 0;                           ///< grows with every change
   int mRecoveredRevision = 0;                  ///< that the recovery copy holds
   std::unique_ptr<ProjectSnapshot> mSnapshot;  ///< that is being made for the recovery copy

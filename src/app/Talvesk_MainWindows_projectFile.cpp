@@ -146,7 +146,7 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
   }
   mProject = ProjectFile(file, target);
   mDocument.modified = false;
-  mRecovery.discard();
+  forgetRecovery();
   mRecent.add(file);
   refreshRecentProjects();
   refreshTitle();
@@ -211,7 +211,7 @@ void Talvesk_MainWindows::reportBadProject(const QString& file, const projectRea
 }
 
 void Talvesk_MainWindows::takeProject(LoadedProject project, ProjectFile file) {
-  mRecovery.discard();
+  forgetRecovery();
   mDocument = std::move(project.document);
   mInterpretation = std::move(project.interpretation);
   const bool rangeLocked = mSection.lockRange;

@@ -25,7 +25,7 @@ void Talvesk_MainWindows::clearDocument() {
   mInterpretation = {};
   mProject = {};
   mProjectFolder.reset();
-  mRecovery.discard();
+  forgetRecovery();
   mShots.clear();
   mCurrentFile = -1;
   for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
@@ -71,7 +71,7 @@ void Talvesk_MainWindows::refreshTitle() {
     part.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     if (!part.isEmpty()) title += QStringLiteral(" - ") + part;
   }
-  if (mDocument.modified) ++mRevision;
+  if (mDocument.modified) noteEdit();
   setWindowTitle(title);
   setWindowModified(mDocument.modified);
 }
