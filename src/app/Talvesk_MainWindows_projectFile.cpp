@@ -105,7 +105,7 @@ bool Talvesk_MainWindows::mayUse(const ProjectFile& file, const QString& questio
   mLog.write(text.toStdString(), 0);
   return askYesNo(this, tr("Project in use"), text,
                   question + QLatin1Char('\n') +
-                      tr("When nobody uses it any more, delete the file %1")
+                      tr("If nobody uses it any more, delete the lock %1")
                           .arg(QString::fromStdString(holder.lockFile)),
                   false);
 }
