@@ -81,7 +81,8 @@ void build(const Workshop& shop, std::uint8_t place, const std::uint8_t* bytes, 
   const std::string changed = shop.root() + kMembers[place - 1];
   put(changed, bytes, size);
   files[place - 1] = changed;
-  demand(writeZip(archive, files) == 0, "an archive of any members");
+  std::string why;
+  demand(writeZip(archive, files, why) == 0, "an archive of any members");
 }
 
 void demandWhole(const LoadedProject& project) {

@@ -257,8 +257,7 @@ void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  mSnapshot.reset();
-  mRecovery.discard();
+  forgetRecovery();
   saveWindow();
   event->accept();
 }

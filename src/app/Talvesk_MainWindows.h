@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Languages.h"
+#include "app/ProjectFile.h"
 #include "app/RecentProjects.h"
 #include "app/RecoveryCopy.h"
 #include "base/History.h"
@@ -13,6 +14,7 @@
 #include "view/ColorPalette.h"
 #include "view/SectionViewSettings.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QStringList>
 #include <QTimer>
@@ -63,6 +65,10 @@ class Talvesk_MainWindows : public QMainWindow {
   /// What the program does once the window is there: offers the copy that a crash left, then loads
   /// what the command line names.
   void start(const QStringList& files);
+
+  /// For an end that leaves no time for questions: changes that are not saved go into a recovery
+  /// copy, which is there on return.
+  void leaveRecoveryCopy();
 
   /// Loads what the command line names or what was dropped: a project, then shot files, then
   /// travel-time files.
@@ -227,14 +233,17 @@ class Talvesk_MainWindows : public QMainWindow {
   bool saveProjectTo(const QString& file);
   void openProject(const QString& file);
   bool loadProject(const QString& file, LoadedProject& project);
-  void takeProject(LoadedProject project, const QString& file);
+  bool mayUse(const ProjectFile& file, const QString& question);
+  bool mayReplace(const ProjectFile& file);
+  void takeProject(LoadedProject project, ProjectFile file);
   void reportBadProject(const QString& file, const projectReader& reader);
   void addRecentMenu();
   void refreshRecentProjects();
   void clearRecentProjects();
   void offerRecovery();
   void prepareAutosave();
-  bool mayAutosave() const;
+  void noteEdit();
+  void forgetRecovery();
   void continueSnapshot();
   void recoveryFailed(const QString& reason, bool lasting);
 
@@ -340,13 +349,14 @@ class Talvesk_MainWindows : public QMainWindow {
   SectionViewSettings mSection;
   std::vector<ShotMemory> mShots;  ///< one per trace set
   int mCurrentFile = -1;
-  QString mProjectFile;         ///< where the survey is saved; empty before it was
+  ProjectFile mProject;         ///< where the survey is saved
   QString mSaveFolder;          ///< of the last file saved, empty when one was opened since
   SharedFolder mProjectFolder;  ///< of the shot files of a loaded project
   RecentProjects mRecent;
   QMenu* mRecentMenu = nullptr;
   RecoveryCopy mRecovery;
-  QTimer mAutosaveTimer;
+  QTimer mAutosaveTimer{this};
+  QElapsedTimer mUncopiedSince;                ///< the first edit that no recovery copy has
   int mRevision = 0;                           ///< grows with every change
   int mRecoveredRevision = 0;                  ///< that the recovery copy holds
   std::unique_ptr<ProjectSnapshot> mSnapshot;  ///< that is being made for the recovery copy

@@ -3,6 +3,7 @@
 #include "base/TextNumber.h"
 #include "base/WorkingFolder.h"
 #include "batch/Failure.h"
+#include "io/ProjectLock.h"
 #include "io/ProjectWriter.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -38,6 +39,14 @@ void describeInversion(const TomoDocument& document, std::ostream& out) {
   out << "\n";
 }
 
+/// A window that has the project open asks before it saves over what is written now.
+void warnOfHolder(const std::string& path, const ProjectHolder& holder) {
+  const std::string who = holder.process.empty() ? "another program"
+                                                 : holder.user + " on " + holder.host +
+                                                       " (process " + holder.process + ")";
+  warn(path + " is in use by " + who + "; it is replaced all the same");
+}
+
 }  // namespace
 
 bool isProjectFile(const std::string& path) {
@@ -64,12 +73,12 @@ Status readProject(const std::string& path, bool quiet, LoadedProject& project) 
 Status writeProject(const std::string& path, bool quiet, const LoadedProject& project) {
   std::string folder;
   if (Status status = workingFolder(folder); !status.ok()) return status;
+  const ProjectLock::Outcome lock = ProjectLock::take(path);
+  if (lock.holder) warnOfHolder(path, *lock.holder);
   ProjectWriter writer;
   if (writer.save(path, folder, project.document, project.interpretation, project.palettes,
                   project.section) != 0) {
-    const std::string& kept = writer.keptArchive();
-    return Status::failure("The project " + path + " has not been saved: " + writer.message() +
-                           (kept.empty() ? "" : " As it was before it is in " + kept));
+    return Status::failure("The project " + path + " has not been saved: " + writer.message());
   }
   if (quiet) return {};
   for (const std::string& warning : writer.warnings()) warn(warning);

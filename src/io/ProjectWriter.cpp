@@ -1,6 +1,7 @@
 #include "io/ProjectWriter.h"
 
 #include "base/Console.h"
+#include "base/FileReplacement.h"
 #include "io/ProjectResult.h"
 #include "io/ProjectZip.h"
 #include "io/SourceCopies.h"
@@ -13,59 +14,10 @@
 #include <system_error>
 #include <utility>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace talvesk {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The archive that lay at the target, out of the way while the new one is built.
-class OldArchive {
- public:
-  explicit OldArchive(const std::string& path) {
-    // What a link points at is the archive; the link itself stays.
-    std::error_code error;
-    const fs::path real = fs::canonical(path, error);
-    mPath = error ? path : real.string();
-  }
-
-  const std::string& path() const { return mPath; }
-  std::string keptPath() const { return mPath + "~"; }
-  /// A save before this one may have failed, too, and have left it there.
-  bool isKept() const {
-    std::error_code ignored;
-    return fs::exists(keptPath(), ignored) && !fs::exists(mPath, ignored);
-  }
-
-  /// False, and the archive where it was, when it cannot be moved.
-  bool moveAside() {
-    std::error_code error;
-    if (!fs::exists(mPath, error)) return !error;
-    if (!fs::is_regular_file(mPath, error)) return false;
-    fs::rename(mPath, keptPath(), error);
-    mMoved = !error;
-    return mMoved;
-  }
-  void remove() const {
-    std::error_code ignored;
-    if (mMoved) fs::remove(keptPath(), ignored);
-  }
-
- private:
-  std::string mPath;
-  bool mMoved = false;
-};
-
-/// Until it is on the disk, the new archive is not worth deleting the old one for.
-bool isOnDisk(const std::string& path) {
-  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (file < 0) return false;
-  const bool synced = ::fsync(file) == 0;
-  ::close(file);
-  return synced;
-}
 
 }  // namespace
 
@@ -108,7 +60,8 @@ int ProjectWriter::saveRefraction_XML(
 int ProjectWriter::compress_project(const std::string& archive,
                                     const std::vector<std::string>& files) {
   console::out() << "ProjectWriter::compress_project" << std::endl;
-  return writeZip(archive, files);
+  std::string why;
+  return writeZip(archive, files, why) == 0 ? 0 : fail(why);
 }
 
 /// The member names the files, the files decide what must be in the member. It is written as if all
@@ -182,10 +135,9 @@ int ProjectWriter::build(const std::string& archive, const std::string& workingF
       return fail("Its parts cannot be written " + inFolder);
     }
     built = compress_project(archive, files);
-    if (built == 0 && (!complete || !isOnDisk(archive))) built = 1;
     step(built, &ProjectWriter::saved_compressed, &ProjectWriter::error_saved_compressed);
     if (!complete) fail("Its parts cannot be written " + inFolder);
-    if (complete && built != 0) fail("The archive " + archive + " cannot be written.");
+    if (built != 0 && mMessage.empty()) fail("The archive " + archive + " cannot be written.");
   }
   emit saved_completed();
   return built;
@@ -197,25 +149,17 @@ int ProjectWriter::save(const std::string& archive, const std::string& workingFo
                         const ColorPaletteList& palettes, const SectionViewSettings& section) {
   mError = false;
   mMessage.clear();
-  mKeptArchive.clear();
   mWarnings.clear();
-  OldArchive old(archive);
-  if (!old.moveAside()) {
+  if (const Status place = checkReplaceable(archive); !place.ok()) {
     console::error() << "ERROR: Impossible to save!" << std::endl;
-    return fail("The file " + old.path() + " cannot be replaced; choose another place.");
+    return fail(place.message());
   }
-  int result = 1;
+  TemporaryFolder::clear(workingFolder);
   try {
-    result = build(old.path(), workingFolder, {document, interpretation, palettes, section});
+    return build(archive, workingFolder, {document, interpretation, palettes, section});
   } catch (const std::exception& error) {
-    fail(std::string("It cannot be put together: ") + error.what());
+    return fail(std::string("It cannot be put together: ") + error.what());
   }
-  if (result == 0) {
-    old.remove();
-  } else if (old.isKept()) {
-    mKeptArchive = old.keptPath();
-  }
-  return result;
 }
 
 }  // namespace talvesk

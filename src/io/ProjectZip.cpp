@@ -1,8 +1,10 @@
 #include "io/ProjectZip.h"
 
 #include "base/Console.h"
+#include "base/FileReplacement.h"
 #include "base/PlainText.h"
 #include "io/ProjectMembers.h"
+#include "io/ZipSink.h"
 
 #include <algorithm>
 #include <array>
@@ -202,39 +204,71 @@ std::uint64_t bytesOf(const std::vector<std::string>& files) {
   return bytes;
 }
 
+Status openForWriting(const std::string& path, FileReplacement& file, Archive& archive) {
+  if (Status status = file.begin(path); !status.ok()) return status;
+  zip_error_t error;
+  zip_error_init(&error);
+  zip_source_t* sink = zipSinkInto(file, &error);
+  if (sink != nullptr) {
+    archive.reset(zip_open_from_source(sink, ZIP_CREATE | ZIP_TRUNCATE, &error));
+    if (archive == nullptr) zip_source_free(sink);
+  }
+  Status status;
+  if (archive == nullptr) status = Status::failure(zip_error_strerror(&error));
+  zip_error_fini(&error);
+  return status;
+}
+
+/// 0, or 1 after telling what was impossible.
 /// \param method of compression
-int pack(const std::string& path, const std::vector<std::string>& files, zip_int32_t method) {
-  int error = 0;
-  Archive archive(zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &error));
-  if (archive == nullptr || error != 0) {
+int addFile(zip_t* archive, const std::string& file, zip_int32_t method) {
+  constexpr zip_int64_t kToTheEnd = -1;
+  std::error_code unknown;
+  zip_source_t* source = std::filesystem::is_regular_file(file, unknown)
+                             ? zip_source_file(archive, file.c_str(), 0, kToTheEnd)
+                             : nullptr;
+  if (source == nullptr) {
+    return failSaving(__LINE__, " : write_ZIP() : impossible to tmp " + file);
+  }
+  const zip_int64_t index = zip_file_add(archive, bareName(file).c_str(), source, ZIP_FL_ENC_UTF_8);
+  if (index < 0) {
+    zip_source_free(source);
+    return failSaving(__LINE__, " : write_ZIP() : impossible to add " + file);
+  }
+  // The library would take its best level, which takes ten times as long on samples for one
+  // part in a hundred.
+  zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), method, kLevel);
+  return 0;
+}
+
+/// Packs the files into what is to replace the archive.
+int pack(const std::string& path, const std::vector<std::string>& files, zip_int32_t method,
+         FileReplacement& replacement, std::string& why) {
+  Archive archive;
+  if (Status status = openForWriting(path, replacement, archive); !status.ok()) {
+    why = status.message();
     return failSaving(__LINE__, " : write_ZIP() : impossible to create " + path);
   }
   for (const std::string& file : files) {
-    constexpr zip_int64_t kToTheEnd = -1;
-    std::error_code unknown;
-    zip_source_t* source = std::filesystem::is_regular_file(file, unknown)
-                               ? zip_source_file(archive.get(), file.c_str(), 0, kToTheEnd)
-                               : nullptr;
-    if (source == nullptr) {
-      return failSaving(__LINE__, " : write_ZIP() : impossible to tmp " + file);
-    }
-    const zip_int64_t index =
-        zip_file_add(archive.get(), bareName(file).c_str(), source, ZIP_FL_ENC_UTF_8);
-    if (index < 0) {
-      zip_source_free(source);
-      return failSaving(__LINE__, " : write_ZIP() : impossible to add " + file);
-    }
-    // The library would take its best level, which takes ten times as long on samples for one
-    // part in a hundred.
-    zip_set_file_compression(archive.get(), static_cast<zip_uint64_t>(index), method, kLevel);
+    if (addFile(archive.get(), file, method) == 0) continue;
+    why = "The file " + file + " cannot be added to the archive.";
+    return 1;
   }
   // Only a close that succeeds takes the archive over.
   if (zip_close(archive.get()) != 0) {
-    return failSaving(__LINE__, " : write_ZIP() : impossible to close " + path + ": " +
-                                    zip_strerror(archive.get()));
+    const std::string reason = zip_strerror(archive.get());
+    why = "The archive " + path + " cannot be written: " + reason + ".";
+    return failSaving(__LINE__, " : write_ZIP() : impossible to close " + path + ": " + reason);
   }
   archive.release();
   return 0;
+}
+
+int commit(const std::string& path, FileReplacement& replacement, std::string& why) {
+  const Status replaced = replacement.commit();
+  if (replaced.ok()) return 0;
+  why = replaced.message();
+  return failSaving(__LINE__, " : write_ZIP() : impossible to close " + path);
 }
 
 }  // namespace
@@ -268,18 +302,20 @@ std::uint64_t unpackedLimit(std::uint64_t archiveBytes) {
   return std::max(kAlwaysAllowed, kLargestRatio * archiveBytes);
 }
 
-int writeZip(const std::string& path, const std::vector<std::string>& files) {
+int writeZip(const std::string& path, const std::vector<std::string>& files, std::string& why) {
   const std::uint64_t total = bytesOf(files);
   if (total > kMostUnpacked) {
-    return failSaving(__LINE__, " : write_ZIP() : impossible to create " + path + ": its " +
-                                    sizeText(total) + " are more than the " +
-                                    sizeText(kMostUnpacked) + " that can be opened again");
+    why = "The files of the project are " + sizeText(total) + ", more than the " +
+          sizeText(kMostUnpacked) + " that can be opened again.";
+    return failSaving(__LINE__, " : write_ZIP() : impossible to create " + path + ": " + why);
   }
-  if (pack(path, files, ZIP_CM_DEFLATE) != 0) return 1;
+  FileReplacement packed;
+  if (pack(path, files, ZIP_CM_DEFLATE, packed, why) != 0) return 1;
   // Records that are nothing but zeros may shrink to less than loading takes for a project's.
-  std::error_code unknown;
-  const bool tooSmall = total > unpackedLimit(std::filesystem::file_size(path, unknown));
-  return tooSmall ? pack(path, files, ZIP_CM_STORE) : 0;
+  if (total <= unpackedLimit(packed.size())) return commit(path, packed, why);
+  FileReplacement stored;
+  if (pack(path, files, ZIP_CM_STORE, stored, why) != 0) return 1;
+  return commit(path, stored, why);
 }
 
 int readZip(const std::string& path, const std::string& folder, std::string& why) {

@@ -7,10 +7,11 @@
 namespace talvesk {
 
 /// Puts files into a new archive, flat, under their bare names. The archive appears whole or not at
-/// all; what lay at its path before is replaced only by a whole one. Files that readZip() would
-/// refuse for their size are no archive either.
+/// all; what lay at its path before is replaced, in one step, only by one that is on the disk. Files
+/// that readZip() would refuse for their size are no archive either.
+/// \param why out: what happened, for the user, when it failed
 /// \return 0, or 1 after telling the console's error stream what was impossible
-int writeZip(const std::string& archive, const std::vector<std::string>& files);
+int writeZip(const std::string& archive, const std::vector<std::string>& files, std::string& why);
 
 /// Extracts an archive that holds a "tomodoc.xml" into a folder that holds nothing else.
 ///

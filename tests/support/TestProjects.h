@@ -71,7 +71,8 @@ class ProjectTest : public ::testing::Test {
     const TestFolder loose;
     std::vector<std::string> files;
     for (const auto& [entry, bytes] : entries) files.push_back(loose.put(entry, bytes));
-    EXPECT_EQ(writeZip(folder.file(name), files), 0);
+    std::string why;
+    EXPECT_EQ(writeZip(folder.file(name), files, why), 0) << why;
     return folder.file(name);
   }
   /// What is in the working folder.
