@@ -239,6 +239,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void recoveryFailed(const QString& reason, bool lasting);
 
   // Loading
+  std::vector<ReadShot> readShotFiles(const QStringList& files);
   void loadShotFiles(const QStringList& files);
   void reportShotFiles(const std::vector<ShotFileOutcome>& outcomes);
   void showFresh(int index);
