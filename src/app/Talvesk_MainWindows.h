@@ -318,9 +318,10 @@ class Talvesk_MainWindows : public QMainWindow {
   void showFilteredCopies();
 
   // Tomography
-  bool makeGrid(bool propose);
+  bool makeGrid();
   TomographyResult runInversionBeside(const TomographyParameters& parameters);
   void showInversion(const TomographyResult& result);
+  static QString leftOutBox(const QStringList& names);
   std::vector<QWidget*> documentEditors() const;
   void askToStopAndClose();
   void modelChanged();
