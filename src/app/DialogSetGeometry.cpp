@@ -3,6 +3,7 @@
 #include "app/GeometrySession.h"
 #include "app/GeometryTables.h"
 #include "app/GeometryTexts.h"
+#include "app/LossQuestion.h"
 #include "app/Messages.h"
 #include "model/SurveyFacts.h"
 #include "ui_DialogSetGeometry.h"
@@ -361,26 +362,18 @@ void DialogSetGeometry::interpolateShots() {
 }
 
 bool DialogSetGeometry::mayLoseResults() {
-  QStringList lost;
-  if (mDocument.has_tomographic_info) {
-    lost << tr("the grid and the results of the inversion");
-  } else if (mDocument.grid) {
-    lost << tr("the grid");
-  }
-  if (mContext.interpreted) lost << tr("the refraction interpretation");
+  Losses losses;
+  losses.model = ModelLoss::kGrid;
+  losses.interpretation = mContext.interpreted;
   std::vector<std::size_t> picked;
   for (std::size_t i = 0; i < mDocument.ttArray.size(); ++i) {
     if (geometry().shots[i].pair && hasPicks(mDocument.ttArray[i])) picked.push_back(i);
   }
   if (!picked.empty()) {
-    lost << tr("the picks of shot(s) %1", nullptr, static_cast<int>(picked.size()))
-                .arg(numberRanges(picked));
+    losses.others << tr("the picks of shot(s) %1", nullptr, static_cast<int>(picked.size()))
+                         .arg(numberRanges(picked));
   }
-  if (lost.isEmpty()) return true;
-  return askYesNo(
-      this, tr("Warning"), tr("The survey changes. This will be lost:"),
-      lost.join(QLatin1Char('\n')) + QStringLiteral("\n\n") + tr("Do you want to continue?"),
-      false);
+  return mayLose(this, mDocument, losses);
 }
 
 void DialogSetGeometry::accept() {

@@ -248,6 +248,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void recoveryFailed(const QString& reason, bool lasting);
 
   // Loading
+  std::vector<ReadShot> readShotFiles(const QStringList& files);
   void loadShotFiles(const QStringList& files);
   void reportShotFiles(const std::vector<ShotFileOutcome>& outcomes);
   void showFresh(int index);
@@ -326,9 +327,10 @@ class Talvesk_MainWindows : public QMainWindow {
   void showFilteredCopies();
 
   // Tomography
-  bool makeGrid(bool propose);
+  bool makeGrid();
   TomographyResult runInversionBeside(const TomographyParameters& parameters);
   void showInversion(const TomographyResult& result);
+  static QString leftOutBox(const QStringList& names);
   std::vector<QWidget*> documentEditors() const;
   void askToStopAndClose();
   void modelChanged();

@@ -1,3 +1,4 @@
+#include "app/LossQuestion.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/SettingsDialog.h"
@@ -76,24 +77,38 @@ void Talvesk_MainWindows::loadTraces_PWave() {
   loadShotFiles(files);
 }
 
-void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
-  const std::size_t before = mDocument.traceSets.size();
-  std::vector<ShotFileOutcome> outcomes;
+/// Reads files until they end or the user has enough of it.
+std::vector<ReadShot> Talvesk_MainWindows::readShotFiles(const QStringList& files) {
+  std::vector<ReadShot> shots;
   QProgressDialog progress(tr("Loading shot files ..."), tr("Stop"), 0,
                            static_cast<int>(files.size()), this);
   progress.setWindowModality(Qt::WindowModal);
   progress.setMinimumDuration(kPatience);
   for (const QString& file : files) {
-    progress.setValue(static_cast<int>(outcomes.size()));
+    progress.setValue(static_cast<int>(shots.size()));
     if (progress.wasCanceled()) break;
-    const std::vector<ShotFileOutcome> one = mLoader.load({file.toStdString()}, mDocument);
-    outcomes.insert(outcomes.end(), one.begin(), one.end());
-    if (!one.front().status.ok()) continue;
-    ShotMemory& memory = mShots.emplace_back();
-    memory.format = QString::fromStdString(one.front().format);
-    memory.warnings = linesOf(one.front().warnings);
+    shots.push_back(mLoader.read(file.toStdString(), mDocument));
   }
   progress.reset();
+  return shots;
+}
+
+void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
+  const std::size_t before = mDocument.traceSets.size();
+  std::vector<ReadShot> shots = readShotFiles(files);
+  Losses losses;
+  losses.model = lossByShots(shots, mDocument);
+  if (!mayLose(this, mDocument, losses)) {
+    statusBar()->showMessage(tr("No shot file was loaded."), kMessageTime);
+    return;
+  }
+  const std::vector<ShotFileOutcome> outcomes = appendShots(std::move(shots), mDocument);
+  for (const ShotFileOutcome& outcome : outcomes) {
+    if (!outcome.status.ok()) continue;
+    ShotMemory& memory = mShots.emplace_back();
+    memory.format = QString::fromStdString(outcome.format);
+    memory.warnings = linesOf(outcome.warnings);
+  }
   documentChanged();
   if (mDocument.traceSets.size() > before) showFresh(static_cast<int>(before));
   reportShotFiles(outcomes);
@@ -178,22 +193,31 @@ void Talvesk_MainWindows::on_actionLoad_TT_triggered() {
 }
 
 void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
-  // An import replaces the picks at least.
-  if (hasPicks(mDocument) && !mayLoseChanges()) return;
-  std::vector<std::string> warnings;
-  const Status status = whileWaiting([&] {
-    TravelTimeData times;
+  TravelTimeData times;
+  ImportCost cost;
+  Status status = whileWaiting([&] {
     Status read = readTravelTimes(file.toStdString(), times);
-    warnings = times.warnings;
-    return read.ok() ? importTravelTimes(std::move(times), mDocument) : read;
+    return read.ok() ? checkImport(times, mDocument, cost) : read;
   });
+  const std::vector<std::string> warnings = times.warnings;
+  if (status.ok()) {
+    // An import replaces the picks at least.
+    if (hasPicks(mDocument) && !mayLoseChanges()) return;
+    Losses losses;
+    losses.model = cost.model;
+    losses.startingModel = cost.survey && cost.model == ModelLoss::kGrid;
+    losses.interpretation =
+        isInterpreted(mInterpretation) || (cost.survey && hasMarks(mInterpretation.ttLayer));
+    if (!mayLose(this, mDocument, losses)) return;
+    status = importTravelTimes(std::move(times), mDocument);
+  }
   if (!status.ok()) {
     tellFailure(this, mLog, tr("Error while loading %1.").arg(QFileInfo(file).fileName()), status);
     return;
   }
-  // A profile is one of the picks that it was built from; without traces even the shots are others.
+  // A profile is one of the picks that it was built from, marks are those of the shots.
   forgetResults(mInterpretation);
-  if (mDocument.traceSets.empty()) mInterpretation = {};
+  if (cost.survey) mInterpretation = {};
   for (editTravelTimesWidget* editor : editors()) editor->picksReplaced();
   documentChanged();
   showFresh(mCurrentFile < 0 ? 0 : mCurrentFile);

@@ -1,4 +1,5 @@
 #include "app/DialogSetGeometry.h"
+#include "app/LossQuestion.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "refraction/ShotArrivals.h"
@@ -10,14 +11,6 @@
 // The command that edits where geophones and shots stand.
 
 namespace talvesk {
-namespace {
-
-bool isInterpreted(const refractionDataStructure::Interpretation& interpretation) {
-  return !interpretation.phnt_A.empty() || !interpretation.phnt_R.empty() ||
-         !interpretation.refractData.cData.empty();
-}
-
-}  // namespace
 
 void Talvesk_MainWindows::on_actionGeometry_triggered() {
   logSlot(__func__);

@@ -18,13 +18,12 @@ namespace talvesk {
 
 void Talvesk_MainWindows::on_actionGrid_triggered() {
   logSlot(__func__);
-  makeGrid(true);
+  makeGrid();
 }
 
 /// Asks for a grid and builds it; without geometry asks for that first, as long as the user gives
 /// one. False when no grid was built.
-/// \param propose fill in the cell size that suits the geophones, not that of the present grid
-bool Talvesk_MainWindows::makeGrid(bool propose) {
+bool Talvesk_MainWindows::makeGrid() {
   SurveyProfile profile;
   GridSettings settings = proposeGrid(mDocument, profile, mLog);
   while (!profile.hasGeometry()) {
@@ -34,9 +33,7 @@ bool Talvesk_MainWindows::makeGrid(bool propose) {
     if (!askGeometry()) return false;
     settings = proposeGrid(mDocument, profile, mLog);
   }
-  if (!propose) settings.cellSize = mDocument.grid ? mDocument.grid->aLato() : 0.0;
-  gridDialog dialog(profile, settings, searchThreads(), this);
-  dialog.setForgetsResults(mDocument.has_tomographic_info);
+  gridDialog dialog(mDocument, profile, settings, searchThreads(), this);
   while (dialog.exec() == QDialog::Accepted) {
     const Status status = whileWaiting([&] {
       Status built = setUpGrid(mDocument, dialog.settings(), mLog);

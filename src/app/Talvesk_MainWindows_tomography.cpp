@@ -1,12 +1,14 @@
 #include "app/BackgroundInversion.h"
 #include "app/CommandLock.h"
 #include "app/InversionTexts.h"
+#include "app/LeftOutText.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/progressTomographyDialog.h"
 #include "app/runTomography_Dialog.h"
 #include "tomo/InversionCopy.h"
+#include "tomo/LeftOut.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -29,7 +31,7 @@ void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
   runTomography_Dialog dialog(mDocument.minVelocity, mDocument.maxVelocity, this);
   if (mDocument.grid == nullptr) {
     mLog.write("grid does not exist; ask for parameter");
-    if (!makeGrid(false)) return;
+    if (!makeGrid()) return;
   }
   dialog.setStartingModel(startingModelOf(mDocument));
   if (dialog.exec() != QDialog::Accepted) return;
@@ -121,18 +123,30 @@ void Talvesk_MainWindows::modelChanged() {
   documentModified();
 }
 
+/// What a box says of it below the figures, which are those of the rest.
+QString Talvesk_MainWindows::leftOutBox(const QStringList& names) {
+  if (names.isEmpty()) return {};
+  return tr("Left out of the inversion:") + QLatin1Char('\n') + shortList(names);
+}
+
 void Talvesk_MainWindows::showInversion(const TomographyResult& result) {
   if (!result.status.ok()) {
     tellFailure(this, mLog, tr("The inversion could not be completed."), result.status);
   }
   if (result.iterationsDone == 0) return;
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
-  statusBar()->showMessage(
-      tr("%n external iteration(s) completed.", nullptr, result.iterationsDone) + QLatin1Char(' ') +
-          sectionMisfitText(result.sectionMisfit),
-      kMessageTime);
-  if (result.misfit.count == 0) return;
-  showNote(this, tr("Inversion results"), inversionResultsText(result));
+  const QStringList left = leftOutNames(leftOut(mDocument, mDocument.excluded));
+  QString outcome = tr("%n external iteration(s) completed.", nullptr, result.iterationsDone) +
+                    QLatin1Char(' ') + sectionMisfitText(result.sectionMisfit);
+  if (!left.isEmpty()) {
+    outcome += QLatin1Char(' ') + tr("Left out: %1.").arg(left.join(QStringLiteral("; ")));
+  }
+  statusBar()->showMessage(outcome, kMessageTime);
+  if (result.misfit.count == 0) {
+    if (!left.isEmpty()) showWarning(this, tr("Inversion results"), leftOutBox(left));
+    return;
+  }
+  showNote(this, tr("Inversion results"), inversionResultsText(result), leftOutBox(left));
 }
 
 }  // namespace talvesk

@@ -41,6 +41,7 @@ int run(const PickOptions& options) {
   manner.verbose = options.verbose;
   manner.summary = channels.summary;
   Status status = pickShotFiles(options.shots, manner, document);
+  if (status.ok()) status = checkPicks(document, options.shots.files);
   if (status.ok()) status = writePicks(options, document);
   if (!status.ok()) return failed(status.message());
 

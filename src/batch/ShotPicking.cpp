@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <ostream>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -104,13 +105,16 @@ void warnOfHeap(const TomoDocument& document) {
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const auto string = static_cast<std::size_t>(document.ttArray[i].indexStesa);
     const std::vector<Point2D>& geophones = document.goephonesStringSet[string];
-    const bool apart = std::any_of(geophones.begin(), geophones.end(), [&](const Point2D& point) {
-      return point.x != geophones.front().x;
-    });
-    if (apart || geophones.size() < 2) continue;
-    warn(document.filenames[i] +
-         ": all receivers are at one place, so that no pick can be plausible; give their positions "
-         "with --geophones and --shots");
+    std::set<double> places;
+    for (const Point2D& geophone : geophones) places.insert(geophone.x);
+    if (places.size() == geophones.size()) continue;
+    const std::string heap =
+        places.size() == 1 ? "all receivers are at one place, so that no pick can be plausible"
+                           : std::to_string(geophones.size()) + " receivers are at only " +
+                                 std::to_string(places.size()) +
+                                 " places, and picks are judged by those distances";
+    warn(document.filenames[i] + ": " + heap +
+         "; give their positions with --geophones and --shots");
   }
 }
 
@@ -203,6 +207,13 @@ Status readSurvey(const std::string& file, const ShotOptions& shots, const Picki
   const Status status = readPicks(file, data, manner.quiet);
   if (!status.ok()) return status;
   return importTravelTimes(std::move(data), project.document);
+}
+
+Status checkPicks(const TomoDocument& document, const std::vector<std::string>& files) {
+  if (hasPicks(document)) return {};
+  const std::string others = files.size() > 1 ? " and the other files" : "";
+  return Status::failure(files.front() + others +
+                         ": not a single usable pick; nothing was written");
 }
 
 std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions& shots) {

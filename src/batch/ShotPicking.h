@@ -32,6 +32,10 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
 Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
                   LoadedProject& project);
 
+/// Fails when not a single trace has a pick: there is nothing to write or to invert.
+/// \param files that the survey came from
+Status checkPicks(const TomoDocument& document, const std::vector<std::string>& files);
+
 /// The files that readSurvey() takes.
 std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions& shots);
 

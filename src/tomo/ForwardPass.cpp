@@ -46,9 +46,14 @@ std::string describe(const ExcludedPosition& position) {
 }
 
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document) {
-  std::vector<ExcludedPosition> excluded;
   const GridGeometry& g = document.grid->geometry();
-  const auto outside = [&](double x) { return g.topNodeIndex(x + document.xOffset) == kNoNode; };
+  return findExcluded(document,
+                      [&](double x) { return g.topNodeIndex(x + document.xOffset) == kNoNode; });
+}
+
+std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
+                                           const std::function<bool(double x)>& outside) {
+  std::vector<ExcludedPosition> excluded;
   for (std::size_t s = 0; s < document.ttArray.size(); ++s) {
     const TravelTime& record = document.ttArray[s];
     const auto shot = static_cast<std::int32_t>(s);

@@ -5,6 +5,7 @@
 #include "model/TomoDocument.h"
 #include "tomo/DijkstraComputePathsThread.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,6 +22,10 @@ Status checkTraceable(const TomoDocument& document);
 /// Shots and receivers that the current grid has no top-line node for, and shots whose geophone
 /// string does not exist (receiver -1).
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document);
+
+/// The same for a grid that is to be. \param outside whether it has no node at a survey abscissa
+std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
+                                           const std::function<bool(double x)>& outside);
 
 /// One line for users, who count shots and receivers from 1.
 std::string describe(const ExcludedPosition& position);

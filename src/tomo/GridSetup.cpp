@@ -77,6 +77,7 @@ GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& lo
   GridSettings settings;
   settings.maxDepth = profile.arrayLength / 2.0;
   settings.cellSize = document.proposedCellSizes.empty() ? 0.5 : document.proposedCellSizes.front();
+  settings.cellSize = std::max(settings.cellSize, kSmallestCell);
   settings.nodes = std::max(document.grid ? document.grid->nV() : 0U, kFewestNodes);
   return settings;
 }

@@ -9,6 +9,8 @@
 
 namespace talvesk {
 
+inline constexpr double kSmallestCell = 0.1;  ///< metres, of the sizes that users choose
+
 /// What the user chooses for a grid.
 struct GridSettings {
   double maxDepth = 0.0;    ///< metres
@@ -17,8 +19,8 @@ struct GridSettings {
 };
 
 /// Measures the survey, proposes a cell size (kept in the document's list) and returns what a
-/// dialog shows as defaults: half the array length deep, the size proposed first, as many nodes per
-/// side as the present grid has, 6 without one.
+/// dialog shows as defaults: half the array length deep, the size proposed first but kSmallestCell
+/// at least, as many nodes per side as the present grid has, 6 without one.
 GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& log);
 
 /// Builds the grid with the default model under the survey and installs it; the information density

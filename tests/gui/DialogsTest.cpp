@@ -81,7 +81,7 @@ class Dialogs : public WindowTest {
              [&] { return make<doFilteringDialog>(document, 0, std::vector<std::int32_t>{1}); }},
             {"grid",
              [&, profile] {
-               return make<gridDialog>(profile, GridSettings{9.0, 0.5, 6}, 2U);
+               return make<gridDialog>(document, profile, GridSettings{9.0, 0.5, 6}, 2U);
              }},
             {"progress", [&] { return make<progressTomographyDialog>(); }},
             {"run", [&] { return make<runTomography_Dialog>(250.0, 3500.0); }},

@@ -9,6 +9,7 @@
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QDragEnterEvent>
 #include <QJsonArray>
@@ -18,6 +19,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -91,6 +93,7 @@ class Inverting : public WindowTest {
       ASSERT_NE(box, nullptr);
       EXPECT_EQ(box->windowTitle().toStdString(), "Inversion results");
       results = box->text();
+      details = box->informativeText();
       box->button(QMessageBox::Ok)->click();
     });
   }
@@ -101,6 +104,7 @@ class Inverting : public WindowTest {
   }
 
   QString results;
+  QString details;
 
  private:
   std::unique_ptr<ShowWatch> mWatch;
@@ -183,6 +187,36 @@ TEST_F(Inverting, completesTheIterationInWhichItIsStopped) {
   expectResults();
   run();
   EXPECT_THAT(log(), HasSubstr("external iteration 0 ... COMPLETED. "));
+}
+
+TEST_F(Inverting, proposesTheCellSizeOfTheSurveyWhereThereIsNoGrid) {
+  openLine();
+  dialogs.expect([](QWidget& dialog) {
+    EXPECT_TRUE(dialog.findChild<QCheckBox*>(QStringLiteral("proposeCBox"))->isChecked());
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  dialogs.expectAndCancel();  // the parameters
+  run();
+  ASSERT_NE(window->document().grid, nullptr);
+  EXPECT_EQ(window->document().grid->aLato(), 0.5);
+}
+
+TEST_F(Inverting, namesWhatItLeftOut) {
+  openLine();
+  answerGrid(12.0, 3.0);  // 17 columns of 52 m: they end at 51.6 m, the last shot is at 51 m
+  answerParameters(1, 1);
+  expectResults();
+  run();
+  EXPECT_EQ(details.toStdString(), "");
+  answerGrid(12.0, 7.0);  // 7 columns and a node: 50.4 m
+  action("actionGrid").trigger();
+  answerParameters(1, 1);
+  expectResults();
+  run();
+  const std::string names = "Shot(s) 5 beyond the last column";
+  EXPECT_EQ(details.toStdString(), "Left out of the inversion:\n" + names + "\n24 of 120 picks");
+  EXPECT_THAT(child<QStatusBar>("statusBar").currentMessage().toStdString(),
+              HasSubstr("Left out: " + names + "; 24 of 120 picks."));
 }
 
 TEST_F(Inverting, showsNoResultsWhereNothingIsPicked) {

@@ -1,5 +1,6 @@
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
+#include "support/TestSurveys.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -144,6 +145,68 @@ TEST_F(Loading, ofPicksAsksBeforeItReplacesUnsavedOnes) {
                     "Do you want to save your changes?", QMessageBox::Cancel);
   window->openFiles({picksFile("picks.otte", 1, 12)});
   EXPECT_DOUBLE_EQ(window->document().ttArray[0].ttMisurati[0], 0.011);
+}
+
+TEST_F(Loading, asksBeforeGridAndResultsGo) {
+  loadShots(2);
+  TomoDocument& document = window->document();
+  const std::size_t known = document.traceSets.size();
+  testing::putGrid(document, 5.0, 1.0);
+  document.has_tomographic_info = true;
+  document.modified = false;
+  const QString longer = shotFile("longer.dat", 60.0);
+  const char* const question = "The survey changes. This will be lost:";
+  dialogs.expectBox("Warning", question, "the grid and the results of the inversion",
+                    QMessageBox::No);
+  window->openFiles({longer});
+  EXPECT_THAT(document.traceSets, SizeIs(known));
+  EXPECT_TRUE(document.grid != nullptr && document.has_tomographic_info && !document.modified);
+
+  // At a place that is known: the line stays as it is.
+  dialogs.expectBox("Warning", question, "the results of the inversion; the grid stays",
+                    QMessageBox::Yes);
+  window->openFiles({shotFile("again.dat", document.ttArray[0].shotPos2d.x)});
+  EXPECT_THAT(document.traceSets, SizeIs(known + 1));
+  EXPECT_TRUE(document.grid != nullptr && !document.has_tomographic_info);
+  window->openFiles({shotFile("more.dat", document.ttArray[0].shotPos2d.x)});  // nothing to lose
+  EXPECT_NE(document.grid, nullptr);
+
+  dialogs.expectBox("Warning", question, "the grid", QMessageBox::Yes);
+  window->openFiles({longer});
+  EXPECT_THAT(document.traceSets, SizeIs(known + 3));
+  EXPECT_EQ(document.grid, nullptr);
+}
+
+TEST_F(Loading, ofPicksAsksBeforeGridAndResultsGo) {
+  loadShots(2);
+  TomoDocument& document = window->document();
+  testing::putGrid(document, 5.0, 1.0);
+  document.has_tomographic_info = true;
+  document.ttArray[0].ttMisurati[3] = 0.011;
+  document.ttArray[0].ttCalcolati[3] = 0.012;
+  document.modified = false;
+  dialogs.expectFiles("Save TravelTimeExchange", {QString::fromStdString(home.file("same"))});
+  action("actionExport_TravelTimes").trigger();
+  document.modified = false;
+  window->openFiles({QString::fromStdString(home.file("same.otte"))});
+  EXPECT_TRUE(document.grid != nullptr && document.has_tomographic_info) << "nothing has moved";
+  EXPECT_EQ(document.ttArray[0].ttCalcolati[3], 0.012);
+
+  TomoDocument moved;
+  moved.goephonesStringSet = document.goephonesStringSet;
+  moved.ttArray = document.ttArray;
+  moved.ttArray[1].shotPos2d.x += 50.0;
+  ASSERT_TRUE(writeTravelTimes(home.file("moved.otte"), moved).ok());
+  const QString file = QString::fromStdString(home.file("moved.otte"));
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    document.modified = false;
+    dialogs.expectBox("Warning", "The survey changes. This will be lost:",
+                      "the grid and the results of the inversion", answer);
+    window->openFiles({file});
+    EXPECT_EQ(document.grid == nullptr, answer == QMessageBox::Yes);
+    EXPECT_EQ(document.modified, answer == QMessageBox::Yes);
+  }
+  EXPECT_DOUBLE_EQ(document.ttArray[1].shotPos2d.x, moved.ttArray[1].shotPos2d.x);
 }
 
 TEST_F(Loading, asksWhetherTimesCountFromTheShot) {
