@@ -330,6 +330,7 @@ class Talvesk_MainWindows : public QMainWindow {
   std::unique_ptr<Ui::Talvesk_MainWindows> mUi;
   WorkingFolder mFolder;
   Log mLog;
+  RecordedConsole mRecorded{mLog};  ///< goes after all that tells the console something
   Settings mSettings;
   History mHistory;
   Languages mLanguages;

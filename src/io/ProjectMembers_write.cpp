@@ -12,8 +12,8 @@ namespace {
 int writeMember(const std::string& path, const char* what,
                 const std::function<void(XmlWriter&)>& write) {
   const auto fail = [&] {
-    console::error() << "[ERROR] Error in opening " << path << "." << std::endl
-                     << "[ERROR] " << what << " cannot be stored on disk." << std::endl;
+    console::logError("[ERROR] Error in opening " + path + ".");
+    console::logError(std::string("[ERROR] ") + what + " cannot be stored on disk.");
     return 1;
   };
   std::ofstream stream(path, std::ios::binary);

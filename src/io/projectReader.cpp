@@ -6,7 +6,6 @@
 
 #include <exception>
 #include <filesystem>
-#include <ostream>
 #include <system_error>
 #include <utility>
 
@@ -111,11 +110,11 @@ int projectReader::loadInto(const std::string& archive, const std::string& worki
   TemporaryFolder::clear(workingFolder);
   project.folder = TemporaryFolder::create(workingFolder);
   if (project.folder == nullptr) {
-    console::error() << "ERROR: Impossible to save!" << std::endl;
+    console::logError("ERROR: Impossible to save!");
     return fail("No temporary folder can be created in " + workingFolder + ".");
   }
   if (read_ZIP(archive, project.folder->path()) != 0) {
-    console::error() << "[ERROR] While extracting " << archive << std::endl;
+    console::logError("[ERROR] While extracting " + archive);
     mError = true;
     emit error_read_compressed();
     const std::string closed = whyClosed(archive);

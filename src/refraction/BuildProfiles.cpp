@@ -53,7 +53,7 @@ bool makeCurves(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
     warnings.push_back({first ? Kind::kNoShotPair : Kind::kNoShotPairBelow, refractor});
     return false;
   }
-  if (refractor == kSecondRefractor) console::out() << "Phantom 3\n";
+  if (refractor == kSecondRefractor) console::log("Phantom 3");
   CurveOutcome forward = buildCurve(shots, curves.pair.a, refractor, Side::kRight, marks);
   CurveOutcome reverse = buildCurve(shots, curves.pair.b, refractor, Side::kLeft, marks);
   const bool usable = forward.usable() && reverse.usable();
@@ -75,7 +75,8 @@ void interpretRefractor(const std::vector<ShotArrivals>& shots, std::uint32_t re
   const double xB = shots[static_cast<std::size_t>(curves.pair.b)].shot.x;
   const double tAB = reciprocalTime(curves.forward, curves.reverse, xA, xB);
   if (refractor == kSecondRefractor) {
-    console::out() << " TAB 3 \nTAB3 : " << formatDouble(tAB) << '\n';
+    console::log(" TAB 3 ");
+    console::log("TAB3 : " + formatDouble(tAB));
   }
   for (const Point2D& point : curves.forward.points) {
     result.x.push_back(point.x);

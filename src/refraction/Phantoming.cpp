@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ostream>
+#include <string>
 
 namespace talvesk {
 
@@ -37,13 +37,12 @@ phantom emptyCurve(const std::vector<ShotArrivals>& shots) {
 LinearFit fitOwn(const phantom& curve, std::size_t& picks) {
   std::vector<double> x;
   std::vector<double> times;
-  std::ostream& out = console::out();
-  out << "ID Time\n";
+  console::log("ID Time");
   for (std::size_t i = 0; i < curve.points.size(); ++i) {
     if (curve.times[i] < 0.0) continue;
     x.push_back(curve.points[i].x);
     times.push_back(curve.times[i]);
-    out << i << ' ' << formatDouble(curve.times[i]) << '\n';
+    console::log(std::to_string(i) + ' ' + formatDouble(curve.times[i]));
   }
   picks = x.size();
   return picks < 2 ? LinearFit{} : linearFit(x, times);

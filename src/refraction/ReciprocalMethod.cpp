@@ -9,7 +9,6 @@
 #include <cmath>
 #include <initializer_list>
 #include <limits>
-#include <ostream>
 #include <string>
 
 namespace talvesk {
@@ -33,7 +32,7 @@ Splines::BesselSpline arrivals(const phantom& curve) {
 void logRow(std::size_t j, std::initializer_list<double> values) {
   std::string row = std::to_string(j);
   for (const double value : values) row += ' ' + formatDouble(value);
-  console::out() << row << '\n';
+  console::log(row);
 }
 
 /// The mean of the four values before, the value itself and the three behind it, as many as exist.
@@ -91,7 +90,7 @@ double reciprocalTime(phantom& forward, phantom& reverse, double xA, double xB) 
   forward.reciprocalTime = forward.slope * xB + forward.intercept;
   reverse.reciprocalTime = reverse.slope * xA + reverse.intercept;
   const double tAB = std::max(forward.reciprocalTime, reverse.reciprocalTime);
-  console::out() << " TAB: " << formatDouble(tAB) << '\n';
+  console::log(" TAB: " + formatDouble(tAB));
   return tAB;
 }
 
@@ -100,7 +99,7 @@ std::vector<double> buildTV(const phantom& forward, const phantom& reverse, doub
   const Splines::BesselSpline fromB = arrivals(reverse);
   std::vector<double> family;
   for (const double xy : kXYFamily) {
-    console::out() << "j xy tY tX tAB tVsJ\n";
+    console::log("j xy tY tX tAB tVsJ");
     for (std::size_t j = 0; j < forward.points.size(); ++j) {
       const double tY = fromA(forward.points[j].x + xy);
       const double tX = fromB(forward.points[j].x - xy);
@@ -117,10 +116,10 @@ std::vector<double> buildTG(const phantom& forward, const phantom& reverse, doub
   const Splines::BesselSpline fromB = arrivals(reverse);
   Splines::BesselSpline along;
   along.build(abscissae(forward), tV);
-  console::out() << "j xy tY tX tAB delta -build\n";
+  console::log("j xy tY tX tAB delta -build");
   std::vector<double> family;
   for (const double xy : kXYFamily) {
-    console::out() << "j xy tY tX tAB delta\n";
+    console::log("j xy tY tX tAB delta");
     for (std::size_t j = 0; j < forward.points.size(); ++j) {
       const double x = forward.points[j].x;
       const double tY = fromA(x + xy);

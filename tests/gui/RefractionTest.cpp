@@ -309,6 +309,13 @@ TEST_F(RefractionCommand, showsTheProfileBeforeThereIsAGrid) {
   EXPECT_EQ(child<SectionView>("vtk_widget").scene(), nullptr);
 }
 
+TEST_F(RefractionCommand, writesHowTheProfileIsMadeToTheLog) {
+  answer(QDialogButtonBox::Cancel);
+  for (const char* line : {"] ID Time\n", "]  TAB: 0.", "] j xy tY tX tAB tVsJ\n"}) {
+    EXPECT_THAT(log(), HasSubstr(line));
+  }
+}
+
 TEST_F(RefractionCommand, leavesTheDocumentAloneOnOkWithoutAChange) {
   dialogs.expect([](QWidget& dialog) {
     dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();

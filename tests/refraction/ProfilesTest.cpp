@@ -1,7 +1,9 @@
+#include "base/Log.h"
 #include "refraction/BuildProfiles.h"
 #include "refraction/Profile.h"
 #include "support/ConsoleCapture.h"
 #include "support/RefractionLines.h"
+#include "support/TestFolder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,6 +20,7 @@ using refractionDataStructure::phantom;
 using testing::ConsoleCapture;
 using testing::DippingLayers;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using Kind = RefractionWarning::Kind;
 
 std::vector<Kind> kinds(const ProfileOutcome& outcome) {
@@ -203,6 +206,28 @@ TEST(Profile, tellsWhereARefractorIsSlowerThanTheLayerAbove) {
   EXPECT_TRUE(outcome.built);
   ASSERT_EQ(kinds(outcome), std::vector<Kind>{Kind::kSlowRefractor});
   EXPECT_EQ(outcome.warnings[0].count, outcome.warnings[0].total);
+}
+
+TEST(Profile, tellsTheLogHowItIsMade) {
+  const ConsoleCapture console;
+  const testing::TestFolder folder;
+  Interpretation interpretation;
+  const TomoDocument line =
+      testing::standardDippingLine(testing::threeDippingLayers(), interpretation.ttLayer);
+  Log log(folder.file("run.log"));
+  const RecordedConsole recorded(log);
+  ASSERT_TRUE(buildProfiles(shotArrivals(line), interpretation).built);
+  const std::string lines = testing::TestFolder::get(log.path());
+  for (const char* told :
+       {"] ID Time\n", "]  TAB: 0.", "] j xy tY tX tAB tVsJ\n", "] j xy tY tX tAB delta -build\n",
+        "] j xy tY tX tAB delta\n", "] Phantom 3\n", "]  TAB 3 \n", "] TAB3 : 0."}) {
+    EXPECT_THAT(lines, HasSubstr(told));
+  }
+  // What is for standard output only.
+  for (const char* other : {"The linear fit line", " x    z    z2"}) {
+    EXPECT_THAT(lines, Not(HasSubstr(other)));
+    EXPECT_THAT(console.out(), HasSubstr(other));
+  }
 }
 
 TEST(Phantoms, leaveNoShiftAtPicksThatWereAssignedElsewhereSince) {
