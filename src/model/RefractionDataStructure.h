@@ -40,7 +40,8 @@ struct phantom {
   double reciprocalTime = 0.0;  ///< the line at the other end shot, seconds
 };
 
-/// What the reciprocal method gives for one refractor, per receiver of the forward curve.
+/// What the reciprocal method gives for one refractor, per receiver of the forward curve that the
+/// reverse one reaches, too.
 struct computedData {
   std::vector<double> tG;   ///< time-depth function at the chosen XY, seconds
   std::vector<double> tV;   ///< velocity-analysis function at the chosen XY, seconds

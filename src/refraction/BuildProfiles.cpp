@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <ostream>
 #include <utility>
@@ -31,17 +32,19 @@ struct Curves {
   ShotPair pair;
   phantom forward;
   phantom reverse;
+  std::vector<Point2D> receivers;  ///< that tV and tG are evaluated at
 };
 
-/// Takes the receivers off the forward curve that the reverse one does not reach: the method reads
-/// both at every receiver, and beyond its last picks a spline is a cubic that soon leaves the
-/// ground.
-void matchByX(phantom& forward, const phantom& reverse) {
-  const double first = reverse.points.front().x;
-  const double last = reverse.points.back().x;
-  std::vector<bool> reached;
-  for (const Point2D& at : forward.points) reached.push_back(at.x >= first && at.x <= last);
-  keepReceivers(forward, reached);
+/// The receivers of the forward curve that the reverse one reaches, too: the method reads both at
+/// every receiver, and beyond its last picks a spline is a cubic that soon leaves the ground.
+std::vector<Point2D> receiversOfBoth(const Curves& curves) {
+  const double first = curves.reverse.points.front().x;
+  const double last = curves.reverse.points.back().x;
+  std::vector<Point2D> receivers;
+  std::copy_if(curves.forward.points.begin(), curves.forward.points.end(),
+               std::back_inserter(receivers),
+               [first, last](const Point2D& at) { return at.x >= first && at.x <= last; });
+  return receivers;
 }
 
 /// Forward and reverse curve of a refractor; false when there are none, with the reason.
@@ -62,9 +65,9 @@ bool makeCurves(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
   curves.forward = std::move(forward.curve);
   curves.reverse = std::move(reverse.curve);
   if (!usable) return false;
-  matchByX(curves.forward, curves.reverse);
-  if (curves.forward.points.size() >= 2) return true;
-  warnings.push_back({Kind::kFewCommon, refractor, curves.forward.points.size()});
+  curves.receivers = receiversOfBoth(curves);
+  if (curves.receivers.size() >= 2) return true;
+  warnings.push_back({Kind::kFewCommon, refractor, curves.receivers.size()});
   return false;
 }
 
@@ -78,15 +81,15 @@ void interpretRefractor(const std::vector<ShotArrivals>& shots, std::uint32_t re
     console::log(" TAB 3 ");
     console::log("TAB3 : " + formatDouble(tAB));
   }
-  for (const Point2D& point : curves.forward.points) {
+  for (const Point2D& point : curves.receivers) {
     result.x.push_back(point.x);
     result.elevation.push_back(point.z);
   }
   const std::size_t chosen = indexOfXY(result.chosenXY);
   result.chosenXY = kXYFamily[chosen];
-  result.tVs = buildTV(curves.forward, curves.reverse, tAB);
+  result.tVs = buildTV(curves.forward, curves.reverse, result.x, tAB);
   result.tV = memberOf(result.tVs, chosen);
-  result.tGs = buildTG(curves.forward, curves.reverse, tAB, result.tV);
+  result.tGs = buildTG(curves.forward, curves.reverse, result.x, tAB, result.tV);
   result.tG = memberOf(result.tGs, chosen);
 }
 

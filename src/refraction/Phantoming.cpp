@@ -48,10 +48,18 @@ LinearFit fitOwn(const phantom& curve, std::size_t& picks) {
   return picks < 2 ? LinearFit{} : linearFit(x, times);
 }
 
+/// Leaves only the receivers that have an arrival.
 void dropEmpty(phantom& curve) {
-  std::vector<bool> filled;
-  for (const double time : curve.times) filled.push_back(!(time < 0.0));
-  keepReceivers(curve, filled);
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < curve.times.size(); ++i) {
+    if (curve.times[i] < 0.0) continue;
+    curve.points[kept] = curve.points[i];
+    curve.times[kept] = curve.times[i];
+    ++kept;
+  }
+  curve.points.resize(kept);
+  curve.times.resize(kept);
+  curve.enabled.assign(kept, true);
 }
 
 }  // namespace
@@ -93,19 +101,6 @@ void mergeInto(phantom& curve, const ShotArrivals& shot, const layerStruct& mark
     const double arrival = shot.times[i] + shiftOf(marks, i);
     time = time < 0.0 ? arrival : (time + arrival) * 0.5;
   }
-}
-
-void keepReceivers(phantom& curve, const std::vector<bool>& wanted) {
-  std::size_t kept = 0;
-  for (std::size_t i = 0; i < wanted.size(); ++i) {
-    if (!wanted[i]) continue;
-    curve.points[kept] = curve.points[i];
-    curve.times[kept] = curve.times[i];
-    ++kept;
-  }
-  curve.points.resize(kept);
-  curve.times.resize(kept);
-  curve.enabled.assign(kept, true);
 }
 
 CurveOutcome buildCurve(const std::vector<ShotArrivals>& shots, std::int32_t endShot,

@@ -201,33 +201,10 @@ TEST_F(Refraction, warnsOfAMissingShotPair) {
   EXPECT_EQ(part<QTabWidget>("tabs").currentIndex(), 0);
 }
 
-/// Arrivals at both ends of a line that make tV and tG what a test wants, by x in metres.
-struct Functions {
-  double (*tV)(double);
-  double (*tG)(double);
-};
-
-/// Marks all but the direct wave of the two end shots as the first refractor, with those arrivals.
-void arrive(TomoDocument& line, std::vector<layerStruct>& marks, const Functions& wanted) {
-  for (std::size_t shot = 0; shot < marks.size(); ++shot) {
-    marks[shot].enabled = shot == testing::kStartShot || shot == testing::kEndShot;
-  }
-  for (std::size_t i = 0; i < 60; ++i) {
-    const double x = 2.5 * static_cast<double>(i);
-    const double total = 0.1;
-    const double tV = wanted.tV(x);
-    const double tG = wanted.tG(x);
-    line.ttArray[testing::kStartShot].ttMisurati[i] = tG + tV;
-    line.ttArray[testing::kEndShot].ttMisurati[i] = total + tG - tV;
-    marks[testing::kStartShot].layer[i] = 2;
-    marks[testing::kEndShot].layer[i] = 2;
-  }
-}
-
 TEST_F(Refraction, warnsOfWhatMakesAProfileInaccurate) {
   struct Case {
     const char* what;
-    Functions functions;
+    testing::Functions functions;
     const char* message;
   };
   const auto steady = [](double x) { return 5e-4 * x; };
@@ -247,7 +224,7 @@ TEST_F(Refraction, warnsOfWhatMakesAProfileInaccurate) {
   for (const Case& c : cases) {
     std::vector<layerStruct> truth;
     line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
-    arrive(line, truth, c.functions);
+    testing::arrive(line, truth, c.functions);
     Interpretation interpretation;
     interpretation.ttLayer = truth;
     show(interpretation);
