@@ -5,6 +5,7 @@
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
 #include "refraction/LayerProposal.h"
+#include "refraction/PlausibleResults.h"
 #include "refraction/ReciprocalMethod.h"
 #include "ui_RefractionProcessingDialog.h"
 
@@ -212,7 +213,7 @@ void RefractionProcessingDialog::showReading(const BranchReading* reading) {
   const QString place = reading->side == Side::kRight
                             ? tr("right of shot %1").arg(reading->shot + 1)
                             : tr("left of shot %1").arg(reading->shot + 1);
-  const QString velocity = reading->velocity
+  const QString velocity = reading->velocity && isPlausibleVelocity(*reading->velocity)
                                ? tr("%1 m/s").arg(QLocale().toString(*reading->velocity, 'f', 0))
                                : tr("no velocity");
   mUi->velocityLabel->setText(tr("Layer %1, %2: %3 (%4 picks)")

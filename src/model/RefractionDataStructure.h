@@ -41,7 +41,7 @@ struct phantom {
 };
 
 /// What the reciprocal method gives for one refractor, per receiver of the forward curve that the
-/// reverse one reaches, too.
+/// reverse one reaches, too. What is not known is not a number.
 struct computedData {
   std::vector<double> tG;   ///< time-depth function at the chosen XY, seconds
   std::vector<double> tV;   ///< velocity-analysis function at the chosen XY, seconds

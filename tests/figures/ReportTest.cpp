@@ -27,6 +27,7 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using testing::TestFolder;
 using Kind = ReportItem::Kind;
 
@@ -384,6 +385,27 @@ TEST(Report, velocitiesOfARefractorRangeOverThoseThatAreKnown) {
       tableOf(reportOn({document, &interpretation}), QStringLiteral("Layers and refractors"));
   ASSERT_GE(facts.rows.size(), 2u);
   EXPECT_EQ(facts.rows[1][1].toStdString(), "1801 \u2013 1811 m/s");
+}
+
+TEST(Report, saysWhatIsNotKnownOfTheLayers) {
+  const TomoDocument document = pickedLine();
+  refractionDataStructure::Interpretation interpretation = oneRefractor();
+  const auto paragraphs = [&] {
+    return textsOf(reportOn({document, &interpretation}), Kind::kParagraph);
+  };
+  EXPECT_THAT(paragraphs(), Not(Contains(HasSubstr("No velocity is given"))));
+  auto& results = interpretation.refractData;
+  results.v1 = NAN;
+  results.cData[0].velocity.assign(13, NAN);
+  results.cData[0].depth.assign(13, NAN);
+  EXPECT_THAT(paragraphs(), Contains(HasSubstr("No velocity is given")));
+  const ReportContent content = reportOn({document, &interpretation});
+  const ReportTable facts = tableOf(content, QStringLiteral("Layers and refractors"));
+  EXPECT_EQ(facts.rows[0][1].toStdString(), "\u2013");
+  EXPECT_EQ(facts.rows[1][1].toStdString(), "\u2013");
+  const ReportTable depths = tableOf(content, QStringLiteral("Depths below the surface"));
+  EXPECT_EQ(depths.rows[4][2].toStdString(), "\u2013");
+  EXPECT_EQ(depths.rows[4][3].toStdString(), "\u2013");
 }
 
 }  // namespace

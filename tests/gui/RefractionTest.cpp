@@ -238,6 +238,24 @@ TEST_F(Refraction, warnsOfWhatMakesAProfileInaccurate) {
   }
 }
 
+TEST_F(Refraction, showsNothingThatNoGroundHasAndSaysWhy) {
+  std::vector<layerStruct> truth;
+  line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+  testing::arrive(line, truth, {[](double x) { return x / 11000; }, [](double) { return 0.02; }});
+  Interpretation interpretation;
+  interpretation.ttLayer = truth;
+  show(interpretation);
+  press("buildButton");
+  EXPECT_THAT(part<QLabel>("notesLabel").text().toStdString(),
+              HasSubstr("Layer 2: no velocity and no depth at 5 of 60 receivers"));
+  for (const Point2D& point : part<SeriesPlot>("velocityPlot").series().back().points) {
+    EXPECT_TRUE(std::isnan(point.z) || point.z <= 12000.0) << point.x;
+  }
+  show(dialog->interpretation());
+  EXPECT_THAT(part<QLabel>("notesLabel").text().toStdString(),
+              HasSubstr("Some velocities or depths are not known."));
+}
+
 /// The window on the line, with the keys of the command.
 class RefractionCommand : public WindowTest {
  protected:

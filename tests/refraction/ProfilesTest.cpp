@@ -174,6 +174,7 @@ TEST(Profile, showsTheRefractorWhoseLayerAboveIsUnknown) {
   EXPECT_TRUE(outcome.built);
   EXPECT_EQ(kinds(outcome), std::vector<Kind>{Kind::kNoFirstLayer});
   EXPECT_THAT(outcome.warnings[0].text(), HasSubstr("Layer 1"));
+  EXPECT_THAT(profileTable(interpretation.refractData), Not(HasSubstr("nan")));
   EXPECT_NEAR(interpretation.refractData.cData[0].velocity[10], 1200.0, 36.0);
   EXPECT_TRUE(profileBoundaries(interpretation.refractData).empty());
 }
