@@ -121,6 +121,7 @@ int readRefraction(const std::string& path, refractionDataStructure::Interpretat
   return readMember(path, "Refraction data", kLargestMember, why, [&](XmlReader& reader) {
     refractionDataStructure::Interpretation read;
     xml::readRecord(reader, read);
+    takeSigns(read);
     interpretation = std::move(read);
   });
 }

@@ -126,8 +126,10 @@ int writeTraces(const std::string& path, const TomoDocument& document,
 int writeRefraction(const std::string& path,
                     const refractionDataStructure::Interpretation& interpretation) {
   return writeMember(path, "Refraction data", [&](XmlWriter& writer) {
+    refractionDataStructure::Interpretation stored = interpretation;
+    putSigns(stored);
     xml::Output output(writer);
-    describe(output, const_cast<refractionDataStructure::Interpretation&>(interpretation));
+    describe(output, stored);
   });
 }
 

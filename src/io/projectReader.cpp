@@ -3,6 +3,7 @@
 #include "base/Console.h"
 #include "io/ProjectAssembly.h"
 #include "io/ProjectZip.h"
+#include "refraction/PlausibleResults.h"
 
 #include <exception>
 #include <filesystem>
@@ -78,7 +79,15 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   std::string why;
   if (readRefraction(path, interpretation, why) != 0) return fail(why);
   const Status status = checkInterpretation(document, interpretation);
-  return status.ok() ? 0 : fail(std::string(kRefractionMember) + ": " + status.message());
+  if (!status.ok()) return fail(std::string(kRefractionMember) + ": " + status.message());
+  const std::size_t left =
+      leaveOutImplausible(interpretation.refractData, lineLength(shotArrivals(document)));
+  if (left > 0) {
+    mWarnings.push_back(std::string(kRefractionMember) + ": " + std::to_string(left) +
+                        " velocities and depths of the layers are left out: outside 50 to 12 000 "
+                        "m/s, or deeper than the line is long");
+  }
+  return 0;
 }
 
 bool projectReader::readMembers(const std::string& folder, LoadedProject& project) {
