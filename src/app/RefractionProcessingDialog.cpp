@@ -5,6 +5,7 @@
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
 #include "refraction/LayerProposal.h"
+#include "refraction/PicksFingerprint.h"
 #include "refraction/PlausibleResults.h"
 #include "refraction/ReciprocalMethod.h"
 #include "ui_RefractionProcessingDialog.h"
@@ -16,6 +17,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QStringList>
 #include <QUndoCommand>
 #include <QUndoStack>
 #include <algorithm>
@@ -196,9 +198,14 @@ void RefractionProcessingDialog::changeMarks(const QString& text, const Marks& a
 void RefractionProcessingDialog::marksChanged() {
   mUi->curvesPlot->setMarks(mWork.ttLayer);
   mUi->clearButton->setEnabled(hasMarks(mWork.ttLayer));
-  const bool results = !mWork.refractData.cData.empty();
-  mUi->staleLabel->setText(
-      mStale && results ? tr("The marks have changed since the profiles were built.") : QString());
+  QStringList changed;
+  if (picksChangedSince(mShots, mWork.refractData)) {
+    changed << tr("The picks have changed since the profiles were built.");
+  }
+  if (mStale && !mWork.refractData.cData.empty()) {
+    changed << tr("The marks have changed since the profiles were built.");
+  }
+  mUi->staleLabel->setText(changed.join(QLatin1Char(' ')));
   refreshShot();
 }
 

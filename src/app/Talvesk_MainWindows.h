@@ -291,6 +291,7 @@ class Talvesk_MainWindows : public QMainWindow {
   bool hasInformationDensity() const;
   QString whyNoSection() const;
   std::vector<SectionLine> refractors() const;
+  void refreshRefractors();
   void showSectionCursor(const SectionReading& reading);
   void refreshShotChooser();
   void refreshTraceOptions();

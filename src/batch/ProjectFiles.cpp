@@ -5,6 +5,7 @@
 #include "batch/Failure.h"
 #include "io/ProjectWriter.h"
 #include "model/SurveyFacts.h"
+#include "refraction/PicksFingerprint.h"
 
 #include <QString>
 #include <ostream>
@@ -90,6 +91,14 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
     out << "done\n";
   } else {
     out << "RMS misfit " << formatDouble(document.RMSE_tomography) << " %\n";
+  }
+  const auto& profile = project.interpretation.refractData;
+  out << "  layers      ";
+  if (profile.cData.empty()) {
+    out << "none\n";
+  } else {
+    out << countOf(profile.cData.size(), "refractor")
+        << (picksChangedSince(document, profile) ? ", picks have changed since\n" : "\n");
   }
 }
 

@@ -28,6 +28,7 @@ struct FigureWords {
   static QString misfit(double percent);           ///< "RMS misfit 2.34 %"
   static QString inversionMisfit(double percent);  ///< as told by the inversion, of its last rays
   static QString refractor(std::size_t index);     ///< "Refractor 1" for 0, the shallowest
+  static QString oldRefractor(std::size_t index);  ///< the same of a profile of other picks
 
   /// What a reader must know of a section beside its axes: values shown, contour distance, number
   /// of rays, misfit, and a vertical exaggeration (height of a metre over its width) other than 1.

@@ -1,6 +1,7 @@
 #include "figures/RefractionFigure.h"
 #include "figures/ReportBuilder.h"
 #include "model/TomoDocument.h"
+#include "refraction/PicksFingerprint.h"
 #include "refraction/Profile.h"
 
 #include <algorithm>
@@ -60,6 +61,11 @@ Status addRefraction(ReportBuilder& builder) {
   if (!isBuilt(builder)) return {};
   const auto& data = builder.source.interpretation->refractData;
   builder.heading(ReportWords::tr("Refraction interpretation"));
+  if (picksChangedSince(builder.source.document, data)) {
+    builder.paragraph(
+        ReportWords::tr("The picks have changed since this profile was built: it is that of the "
+                        "earlier picks."));
+  }
   ReportTable facts = ReportTable::ofFacts();
   facts.rows.push_back(
       {ReportWords::tr("Velocity of the first layer"), velocities(data.v1, data.v1)});

@@ -201,6 +201,7 @@ void describe(V& fields, processingData& data) {
   xml::OneOrMany v3{data.v3};
   fields("v2", v2);
   fields("v3", v3);
+  fields.optional("picks", data.picks);
 }
 
 template <class V>

@@ -59,6 +59,7 @@ struct processingData {
   double v1 = 0.0;                  ///< of the first layer, m/s; 0 before anything was built
   std::vector<double> v2;           ///< of the first refractor, per receiver
   std::vector<double> v3;           ///< of the second refractor, per receiver
+  std::uint64_t picks = 0;          ///< fingerprint of those it was built from; 0 is not known
 };
 
 /// All that the interpretation of a survey holds.

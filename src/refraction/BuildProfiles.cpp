@@ -4,6 +4,7 @@
 #include "base/TextNumber.h"
 #include "refraction/Branches.h"
 #include "refraction/Phantoming.h"
+#include "refraction/PicksFingerprint.h"
 #include "refraction/PlausibleResults.h"
 #include "refraction/Profile.h"
 #include "refraction/ReciprocalMethod.h"
@@ -199,6 +200,7 @@ ProfileOutcome buildProfiles(const std::vector<ShotArrivals>& shots,
     results.v3 = results.cData[1].velocity;
   }
   console::out() << profileTable(results) << std::flush;
+  results.picks = fingerprintOf(shots);
   outcome.built = true;
   interpretation = std::move(work);
   return outcome;

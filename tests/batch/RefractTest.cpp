@@ -1,5 +1,8 @@
 #include "batch/BatchRunner.h"
+#include "io/ProjectWriter.h"
 #include "io/TravelTimeFile.h"
+#include "io/projectReader.h"
+#include "refraction/BuildProfiles.h"
 #include "support/ConsoleCapture.h"
 #include "support/RefractionLines.h"
 
@@ -126,6 +129,36 @@ TEST(Refract, leavesOutWhatNoGroundHasAndSaysSoEvenWhenQuiet) {
   EXPECT_TRUE(json["refractors"][0]["depth"][7].is_null());
   EXPECT_TRUE(json["refractors"][0]["velocity"][7].is_number());
   EXPECT_THAT(contentsOf(table), Not(AnyOf(HasSubstr("nan"), HasSubstr("inf"))));
+}
+
+TEST(Refract, ofAProjectTellsWhetherPicksHaveChangedSince) {
+  const testing::ConsoleCapture console;
+  const Survey survey;
+  const Folder home;
+  LoadedProject project;
+  project.document =
+      testing::standardDippingLine(testing::threeDippingLayers(), project.interpretation.ttLayer);
+  ASSERT_TRUE(buildProfiles(shotArrivals(project.document), project.interpretation).built);
+  const std::string path = survey.folder / "line.tvsk";
+  const auto saved = [&] {
+    ProjectWriter writer;
+    EXPECT_EQ(writer.save(path, home / "", project.document, project.interpretation,
+                          project.palettes, project.section),
+              0);
+  };
+  const auto run = [&](std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"info", path});
+    const Outcome outcome = runBatch(arguments, {{"HOME", home / ""}});
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    return outcome.out;
+  };
+  saved();
+  EXPECT_THAT(run({}), HasSubstr("\n  layers      2 refractors\n"));
+  EXPECT_EQ(ordered_json::parse(run({"--json", "-"}))["picks_changed_since_profile"], false);
+  project.document.ttArray[4].ttMisurati[9] *= 1.01;
+  saved();
+  EXPECT_THAT(run({}), HasSubstr("\n  layers      2 refractors, picks have changed since\n"));
+  EXPECT_EQ(ordered_json::parse(run({"--json", "-"}))["picks_changed_since_profile"], true);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "figures/MisfitFigures.h"
+#include "figures/ProfileLines.h"
 #include "figures/Report.h"
 #include "figures/ReportPages.h"
+#include "refraction/PicksFingerprint.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 #include "support/TestSurveys.h"
@@ -406,6 +408,21 @@ TEST(Report, saysWhatIsNotKnownOfTheLayers) {
   const ReportTable depths = tableOf(content, QStringLiteral("Depths below the surface"));
   EXPECT_EQ(depths.rows[4][2].toStdString(), "\u2013");
   EXPECT_EQ(depths.rows[4][3].toStdString(), "\u2013");
+}
+
+TEST(Report, marksAProfileWhosePicksHaveChangedSince) {
+  TomoDocument document = pickedLine();
+  refractionDataStructure::Interpretation interpretation = oneRefractor();
+  interpretation.refractData.picks = fingerprintOf(shotArrivals(document));
+  const auto said = [&] {
+    return textsOf(reportOn({document, &interpretation}), Kind::kParagraph);
+  };
+  const char* mark = "picks have changed since";
+  EXPECT_THAT(said(), Not(Contains(HasSubstr(mark))));
+  EXPECT_EQ(profileLines(document, interpretation)[0].name, "Refractor 1");
+  document.ttArray[1].ttMisurati[4] += 1e-4;
+  EXPECT_THAT(said(), Contains(HasSubstr(mark)));
+  EXPECT_THAT(profileLines(document, interpretation)[0].name, HasSubstr(mark));
 }
 
 }  // namespace

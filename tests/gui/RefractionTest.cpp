@@ -7,6 +7,7 @@
 #include "widgets/RefractionProfilePlot.h"
 #include "widgets/SectionView.h"
 #include "widgets/SeriesPlot.h"
+#include "widgets/editTravelTimesWidget.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -302,6 +303,34 @@ TEST_F(RefractionCommand, showsTheProfileBeforeThereIsAGrid) {
   EXPECT_LT(scene->lowerLeft().z, scene->surface.front().z - 5.0) << "the refractor is in view";
   action("actionShow_refraction").trigger();
   EXPECT_EQ(child<SectionView>("vtk_widget").scene(), nullptr);
+}
+
+/// In the legend of the section, and in the dialog until the profiles are built again.
+TEST_F(RefractionCommand, marksAProfileWhosePicksHaveChangedSince) {
+  answer(QDialogButtonBox::Ok);
+  const auto name = [this] { return child<SectionView>("vtk_widget").scene()->refractors[0].name; };
+  double& pick = window->document().ttArray[5].ttMisurati[20];
+  const double before = pick;
+  const auto edit = [&](double time) {
+    pick = time;
+    emit child<editTravelTimesWidget>("showTracesWidget").pick_edited();
+  };
+  EXPECT_EQ(name(), "Refractor 1");
+  edit(before + 0.001);
+  EXPECT_EQ(name(), "Refractor 1 (picks have changed since)");
+  edit(before);
+  EXPECT_EQ(name(), "Refractor 1") << "as after undo";
+  edit(before + 0.001);
+  dialogs.expect([](QWidget& dialog) {
+    const auto& label = *dialog.findChild<QLabel*>(QStringLiteral("staleLabel"));
+    EXPECT_EQ(label.text(),
+              QStringLiteral("The picks have changed since the profiles were built."));
+    dialog.findChild<QPushButton*>(QStringLiteral("buildButton"))->click();
+    EXPECT_TRUE(label.text().isEmpty());
+    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+  });
+  action("actionRefraction").trigger();
+  EXPECT_EQ(name(), "Refractor 1");
 }
 
 TEST_F(RefractionCommand, writesHowTheProfileIsMadeToTheLog) {

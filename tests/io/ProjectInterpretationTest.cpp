@@ -1,3 +1,4 @@
+#include "refraction/PicksFingerprint.h"
 #include "support/TestProjects.h"
 
 #include <cmath>
@@ -31,6 +32,7 @@ processingData profile() {
   results.cData = {refractor};
   results.v1 = kNan;
   results.v2 = refractor.velocity;
+  results.picks = std::numeric_limits<std::uint64_t>::max();
   return results;
 }
 
@@ -52,6 +54,7 @@ TEST_F(ProjectTest, keepsWhatIsNotKnownOfAProfileWithoutWordsForIt) {
   EXPECT_THAT(results.cData[0].velocity, ElementsAre(IsNan(), 1510, 1520));
   EXPECT_THAT(results.cData[0].depth, ElementsAre(IsNan(), 3.1, IsNan()));
   EXPECT_THAT(results.cData[0].tG, ElementsAre(0.002, 0.003, IsNan()));
+  EXPECT_EQ(results.picks, std::numeric_limits<std::uint64_t>::max());
 }
 
 TEST_F(ProjectTest, losesVelocitiesAndDepthsThatNoGroundHasWithAWord) {
@@ -70,6 +73,26 @@ TEST_F(ProjectTest, losesVelocitiesAndDepthsThatNoGroundHasWithAWord) {
   EXPECT_THAT(results.cData[0].velocity, ElementsAre(IsNan(), 1510, IsNan()));
   EXPECT_THAT(results.cData[0].depth, ElementsAre(IsNan(), IsNan(), IsNan()));
   EXPECT_THAT(results.v1, IsNan());
+}
+
+TEST_F(ProjectTest, knowsAfterLoadingWhetherPicksChangedSinceTheProfile) {
+  project.interpretation.refractData = profile();
+  project.interpretation.refractData.picks = fingerprintOf(shotArrivals(project.document));
+  ASSERT_EQ(save(), 0);
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_FALSE(picksChangedSince(back.document, back.interpretation.refractData));
+
+  project.document.ttArray[0].ttMisurati[2] += 1e-6;
+  ASSERT_EQ(save(), 0);
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_TRUE(picksChangedSince(back.document, back.interpretation.refractData));
+
+  auto entries = entriesOf(archive());
+  entries["refraction.xml"] = without(entries["refraction.xml"], "picks");
+  ASSERT_EQ(load(pack("old.tvsk", entries), back), 0) << reader.message();
+  EXPECT_FALSE(picksChangedSince(back.document, back.interpretation.refractData))
+      << "an earlier version did not keep them";
 }
 
 }  // namespace
