@@ -301,6 +301,7 @@ class Talvesk_MainWindows : public QMainWindow {
   bool hasInformationDensity() const;
   QString whyNoSection() const;
   std::vector<SectionLine> refractors() const;
+  void refreshRefractors();
   void showSectionCursor(const SectionReading& reading);
   void refreshShotChooser();
   void refreshTraceOptions();
@@ -341,6 +342,7 @@ class Talvesk_MainWindows : public QMainWindow {
   std::unique_ptr<Ui::Talvesk_MainWindows> mUi;
   WorkingFolder mFolder;
   Log mLog;
+  RecordedConsole mRecorded{mLog};  ///< goes after all that tells the console something
   Settings mSettings;
   History mHistory;
   Languages mLanguages;

@@ -52,6 +52,7 @@ void Talvesk_MainWindows::documentModified() {
   mDocument.modified = true;
   refreshTitle();
   refreshCommands();
+  refreshRefractors();
 }
 
 void Talvesk_MainWindows::showFile(int index) {

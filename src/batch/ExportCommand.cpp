@@ -11,8 +11,9 @@
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
+#include "figures/ProfileLines.h"
+#include "refraction/PicksFingerprint.h"
 #include "tomo/RayRecomputation.h"
-#include "view/RefractorLines.h"
 
 #include <ostream>
 
@@ -78,7 +79,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
                        : cannotWrite(path, system.message());
   });
   const SectionFigureOptions section = sectionFigureOptions(
-      project.section, project.palettes.current(), refractorLines(project.interpretation));
+      project.section, project.palettes.current(), profileLines(document, project.interpretation));
   for (const std::string& image : options.images) {
     attempt(image, [&](Path path) { return writeSectionFigure(document, section, path); });
   }
@@ -95,6 +96,15 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
   prepareDrawing();
   Log log;
   return document.has_tomographic_info ? recomputeRays(document, log) : Status();
+}
+
+/// Where the layered profile is drawn or told.
+void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project) {
+  const bool shown =
+      !options.report.empty() || (!options.images.empty() && project.section.refraction);
+  if (shown && picksChangedSince(project.document, project.interpretation.refractData)) {
+    warn("picks have changed since the layered profile was built");
+  }
 }
 
 }  // namespace
@@ -118,6 +128,7 @@ int run(const ExportOptions& options) {
     project.document.geoCoord = *options.geography;
     project.document.geoCoord_isSet = true;
   }
+  warnOfOldProfile(options, project);
   return writeFiles(options, project, range, *channels.summary);
 }
 

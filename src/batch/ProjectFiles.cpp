@@ -7,6 +7,7 @@
 #include "io/ProjectWriter.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
+#include "refraction/PicksFingerprint.h"
 
 #include <QString>
 #include <ostream>
@@ -113,6 +114,14 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
     out << "none\n";
   } else {
     describeInversion(document, out);
+  }
+  const auto& profile = project.interpretation.refractData;
+  out << "  layers      ";
+  if (profile.cData.empty()) {
+    out << "none\n";
+  } else {
+    out << countOf(profile.cData.size(), "refractor")
+        << (picksChangedSince(document, profile) ? ", picks have changed since\n" : "\n");
   }
 }
 

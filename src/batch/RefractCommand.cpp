@@ -139,9 +139,8 @@ int run(const RefractOptions& options) {
   const ProfileOutcome outcome = interpret(options, shots, interpretation);
   if (!outcome.built)
     return failed(reasonOf(outcome, shotPairReach(shots, interpretation.ttLayer, 2)));
-  if (!options.quiet) {
-    for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
-  }
+  // What is left out or replaced is told even who wants to hear nothing else.
+  for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
   const int exitCode = writeResults(options, document, interpretation, outcome.warnings);
   summarize(interpretation, *channels.summary);
   return exitCode;

@@ -39,7 +39,8 @@ void addRefract(CLI::App& app, RefractOptions& options) {
                                  "Draw the section of layers: .png, .svg or .pdf; once per "
                                  "picture");
   for (CLI::Option* option : {json, table, image}) option->group("Output");
-  CLI::Option* quiet = command.add_flag("--quiet", options.quiet, "Print nothing but errors");
+  CLI::Option* quiet = command.add_flag("--quiet", options.quiet,
+                                        "Print nothing but errors and warnings of the profile");
   command
       .add_flag("--verbose", options.verbose,
                 "Print the messages of the readers, the picker and the interpretation")

@@ -4,6 +4,7 @@
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
+#include "refraction/PicksFingerprint.h"
 
 namespace talvesk {
 namespace {
@@ -215,6 +216,12 @@ std::string projectJson(const LoadedProject& project) {
   json["crs"] = document.geoCoord_isSet ? Json(document.geoCoord.CRS) : Json(nullptr);
   json["palette"] = project.palettes.current().name;
   json["layered_shots"] = project.interpretation.ttLayer.size();
+  const auto& profile = project.interpretation.refractData;
+  json["refractors"] = profile.cData.size();
+  // A profile of an earlier version does not know its picks.
+  json["picks_changed_since_profile"] = profile.cData.empty() || profile.picks == 0
+                                            ? Json(nullptr)
+                                            : Json(picksChangedSince(document, profile));
   json["grid"] = nullptr;
   if (document.grid != nullptr) {
     json["grid"] = gridJson(document);

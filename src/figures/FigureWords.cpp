@@ -70,6 +70,10 @@ QString FigureWords::refractor(std::size_t index) {
   return tr("Refractor %1").arg(index + 1);
 }
 
+QString FigureWords::oldRefractor(std::size_t index) {
+  return tr("Refractor %1 (picks have changed since)").arg(index + 1);
+}
+
 QString FigureWords::sectionCaption(const SectionScene& scene, double verticalExaggeration) {
   const double step = scene.range.span() / 100.0;
   QString unit = qt(quantityUnit(scene.quantity));

@@ -29,6 +29,7 @@ struct FigureWords {
   static QString lastPassMisfit(double percent);       ///< of the solver, before its last smoothing
   static QString picksChanged();                       ///< since the section was inverted from them
   static QString refractor(std::size_t index);         ///< "Refractor 1" for 0, the shallowest
+  static QString oldRefractor(std::size_t index);      ///< the same of a profile of other picks
 
   /// What a reader must know of a section beside its axes: values shown, contour distance, number
   /// of rays, misfit, and a vertical exaggeration (height of a metre over its width) other than 1.

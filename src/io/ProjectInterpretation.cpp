@@ -2,6 +2,8 @@
 #include "io/ProjectRepair.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace talvesk {
 namespace {
@@ -25,7 +27,36 @@ Status checkLayers(const TomoDocument& document, std::vector<layerStruct>& layer
   return {};
 }
 
+/// All that may be unknown of a profile.
+template <typename Change>
+void forEachResult(processingData& results, Change change) {
+  change(results.v1);
+  const auto changeAll = [&change](std::vector<double>& values) {
+    std::for_each(values.begin(), values.end(), change);
+  };
+  changeAll(results.v2);
+  changeAll(results.v3);
+  for (computedData& refractor : results.cData) {
+    for (auto* values : {&refractor.tG, &refractor.tV, &refractor.tGs, &refractor.tVs,
+                         &refractor.velocity, &refractor.depth}) {
+      changeAll(*values);
+    }
+  }
+}
+
 }  // namespace
+
+void putSigns(Interpretation& interpretation) {
+  forEachResult(interpretation.refractData, [](double& value) {
+    if (!std::isfinite(value)) value = kNotKnown;
+  });
+}
+
+void takeSigns(Interpretation& interpretation) {
+  forEachResult(interpretation.refractData, [](double& value) {
+    if (value == kNotKnown) value = std::numeric_limits<double>::quiet_NaN();
+  });
+}
 
 Status checkInterpretation(const TomoDocument& document, Interpretation& interpretation,
                            std::vector<std::string>& repairs) {

@@ -103,6 +103,12 @@ int readRefraction(const std::string& path, refractionDataStructure::Interpretat
                    std::string& why);
 int readResult(const std::string& path, ResultMember& result, std::string& why);
 
+/// Stands in the file for what is not known of a layered profile, and is no number in memory: as
+/// for picks, for other programs read the file, too.
+inline constexpr double kNotKnown = -99.0;
+void putSigns(refractionDataStructure::Interpretation& interpretation);   ///< for the file
+void takeSigns(refractionDataStructure::Interpretation& interpretation);  ///< and back
+
 /// The part of a path behind its last slash or backslash.
 std::string bareName(const std::string& path);
 

@@ -16,8 +16,8 @@ namespace {
 int writeMember(const std::string& path, const char* what,
                 const std::function<void(XmlWriter&)>& write) {
   const auto fail = [&] {
-    console::error() << "[ERROR] Error in opening " << path << "." << std::endl
-                     << "[ERROR] " << what << " cannot be stored on disk." << std::endl;
+    console::logError("[ERROR] Error in opening " + path + ".");
+    console::logError(std::string("[ERROR] ") + what + " cannot be stored on disk.");
     return 1;
   };
   std::ofstream stream(path, std::ios::binary);
@@ -143,8 +143,10 @@ int writeTraces(const std::string& path, const TomoDocument& document,
 int writeRefraction(const std::string& path,
                     const refractionDataStructure::Interpretation& interpretation) {
   return writeMember(path, "Refraction data", [&](XmlWriter& writer) {
+    refractionDataStructure::Interpretation stored = interpretation;
+    putSigns(stored);
     xml::Output output(writer);
-    describe(output, const_cast<refractionDataStructure::Interpretation&>(interpretation));
+    describe(output, stored);
   });
 }
 

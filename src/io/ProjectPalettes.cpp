@@ -17,14 +17,14 @@ constexpr std::size_t kLargestMember = std::size_t{1} << 22;
 constexpr std::size_t kMostLevels = 16;
 
 int failWriting(const std::string& path) {
-  console::error() << "[ERROR] Error in opening " << path << "." << std::endl
-                   << "[ERROR] Palettes cannot be stored on disk." << std::endl;
+  console::logError("[ERROR] Error in opening " + path + ".");
+  console::logError("[ERROR] Palettes cannot be stored on disk.");
   return 1;
 }
 
 int failReading(const std::string& reason, std::string& why) {
   why = std::string(kPalettesMember) + ": " + reason;
-  console::error() << "[ERROR] Palettes cannot be read from disk." << std::endl;
+  console::logError("[ERROR] Palettes cannot be read from disk.");
   return 1;
 }
 
@@ -48,7 +48,7 @@ int readPalettes(const std::string& path, ColorPaletteList& palettes,
                  std::vector<std::string>& repairs, std::string& why) {
   std::string text;
   if (const Status status = readWholeFile(path, text, kLargestMember); !status.ok()) {
-    console::error() << "[ERROR] Error in opening " << path << "." << std::endl;
+    console::logError("[ERROR] Error in opening " + path + ".");
     return failReading(status.message(), why);
   }
   if (const Status shape = checkXmlShape(text, kPalettesMember, kMostLevels); !shape.ok()) {

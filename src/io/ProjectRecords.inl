@@ -7,7 +7,6 @@
 #include "io/ProjectMembers.h"
 #include "io/XmlRecords.inl"
 
-#include <ostream>
 #include <type_traits>
 
 namespace talvesk {
@@ -35,7 +34,7 @@ void describe(V& fields, geographicsCoord& coordinates) {
   fields("mNorthFstGeoph", coordinates.mNorthFstGeoph);
   fields("mNorthLstGeoph", coordinates.mNorthLstGeoph);
   if constexpr (std::is_same_v<V, xml::Gaps>) {
-    if (!fields.missing.empty()) console::error() << " CRS not set" << std::endl;
+    if (!fields.missing.empty()) console::logError(" CRS not set");
   }
 }
 
@@ -225,6 +224,7 @@ void describe(V& fields, processingData& data) {
   xml::OneOrMany v3{data.v3};
   fields("v2", v2);
   fields("v3", v3);
+  fields.optional("picks", data.picks);
 }
 
 template <class V>

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ostream>
 #include <utility>
 
 namespace talvesk {
@@ -135,7 +134,7 @@ TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<Sto
     read = false;
   }
   if (!read) {
-    console::error() << "Error while loading traces: Invalid file format." << std::endl;
+    console::logError("Error while loading traces: Invalid file format.");
     warnings.push_back(without(folder, why));
     return storedSet(stored);
   }

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <exception>
 #include <filesystem>
-#include <ostream>
 #include <system_error>
 #include <utility>
 
@@ -29,37 +28,37 @@ int ProjectWriter::fail(const std::string& message) {
 
 int ProjectWriter::saveTomoDocument_XML(const std::string& path, const TomoDocument& document,
                                         const SectionViewSettings& section) {
-  console::out() << "ProjectWriter::saveTomoDocument_XML" << std::endl;
+  console::log("ProjectWriter::saveTomoDocument_XML");
   return writeSurvey(path, document, section);
 }
 
 int ProjectWriter::saveTomoDocumentGrid_XML(const std::string& path, const TomoDocument& document) {
-  console::out() << "ProjectWriter::saveTomoDocumentGrid_XML" << std::endl;
+  console::log("ProjectWriter::saveTomoDocumentGrid_XML");
   return writeGrid(path, document);
 }
 
 int ProjectWriter::saveTomoDocumentTraces_XML(const std::string& path, const TomoDocument& document,
                                               const std::vector<bool>& withSamples,
                                               SourceFiles& sources) {
-  console::out() << "ProjectWriter::saveTomoDocumentTraces_XML" << std::endl;
+  console::log("ProjectWriter::saveTomoDocumentTraces_XML");
   sources = {document.filenames, document.filenames_DX, document.filenames_SX};
   return writeTraces(path, document, withSamples);
 }
 
 int ProjectWriter::savePalettes_XML(const std::string& path, const ColorPaletteList& palettes) {
-  console::out() << "ProjectWriter::savePalettes_XML" << std::endl;
+  console::log("ProjectWriter::savePalettes_XML");
   return writePalettes(path, palettes);
 }
 
 int ProjectWriter::saveRefraction_XML(
     const std::string& path, const refractionDataStructure::Interpretation& interpretation) {
-  console::out() << "ProjectWriter::saveRefraction_XML" << std::endl;
+  console::log("ProjectWriter::saveRefraction_XML");
   return writeRefraction(path, interpretation);
 }
 
 int ProjectWriter::compress_project(const std::string& archive,
                                     const std::vector<std::string>& files) {
-  console::out() << "ProjectWriter::compress_project" << std::endl;
+  console::log("ProjectWriter::compress_project");
   std::string why;
   return writeZip(archive, files, why) == 0 ? 0 : fail(why);
 }
@@ -127,7 +126,7 @@ int ProjectWriter::build(const std::string& archive, const std::string& workingF
   {
     const auto temporary = TemporaryFolder::create(workingFolder);
     if (temporary == nullptr) {
-      console::error() << "ERROR: Impossible to save!" << std::endl;
+      console::logError("ERROR: Impossible to save!");
       return fail("No temporary folder can be created in " + workingFolder + ".");
     }
     const std::string inFolder = "in " + temporary->path() + "; is the disk full?";
@@ -151,7 +150,7 @@ int ProjectWriter::save(const std::string& archive, const std::string& workingFo
   mMessage.clear();
   mWarnings.clear();
   if (const Status place = checkReplaceable(archive); !place.ok()) {
-    console::error() << "ERROR: Impossible to save!" << std::endl;
+    console::logError("ERROR: Impossible to save!");
     return fail(place.message());
   }
   TemporaryFolder::clear(workingFolder);

@@ -13,7 +13,6 @@
 #include <filesystem>
 #include <limits>
 #include <memory>
-#include <ostream>
 #include <set>
 #include <system_error>
 #include <utility>
@@ -28,12 +27,14 @@ constexpr const char* kSaveSource = "..\\talvesk\\save_project";
 constexpr const char* kLoadSource = "..\\talvesk\\load_project";
 
 int failSaving(int line, const std::string& text) {
-  console::error() << "ERROR : " << kSaveSource << ", line " << line << text << std::endl;
+  console::logError(std::string("ERROR : ") + kSaveSource + ", line " + std::to_string(line) +
+                    text);
   return 1;
 }
 
 int failLoading(int line, const std::string& text) {
-  console::error() << "ERROR : " << kLoadSource << ", line " << line << text << std::endl;
+  console::logError(std::string("ERROR : ") + kLoadSource + ", line " + std::to_string(line) +
+                    text);
   return 1;
 }
 
@@ -117,7 +118,7 @@ class Extraction {
 };
 
 int Extraction::extract(std::uint64_t index, const ZipEntry& entry) {
-  console::out() << "extract [ " << entry.name << " ] in [ " << mFolder << " ]" << std::endl;
+  console::log("extract [ " + entry.name + " ] in [ " + mFolder + " ]");
   const std::unique_ptr<zip_file_t, CloseEntry> source(zip_fopen_index(mArchive, index, 0));
   if (source == nullptr) {
     return fail(__LINE__, " : read_ZIP() : error reading",
@@ -177,7 +178,7 @@ int listEntries(zip_t* archive, std::vector<ZipEntry>& entries) {
     constexpr zip_uint64_t kNeeded = ZIP_STAT_NAME | ZIP_STAT_SIZE;
     if (zip_stat_index(archive, static_cast<zip_uint64_t>(i), 0, &stat) != 0 ||
         (stat.valid & kNeeded) != kNeeded) {
-      console::error() << "File " << kLoadSource << ", Line " << __LINE__ << std::endl;
+      console::logError(std::string("File ") + kLoadSource + ", Line " + std::to_string(__LINE__));
       return 1;
     }
     entries.push_back({stat.name, stat.size});

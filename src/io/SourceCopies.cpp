@@ -5,7 +5,6 @@
 
 #include <filesystem>
 #include <map>
-#include <ostream>
 #include <set>
 #include <system_error>
 
@@ -53,7 +52,7 @@ SourceCopies copySources(const std::vector<const std::vector<std::string>*>& lis
       if (known != sourceOf.end() && known->second == source) continue;
       const std::string target = folder + name;
       if (isMember(name) || !isEntryName(name) || !copyOver(source, target)) {
-        console::error() << "Error while saving " << source << std::endl;
+        console::logError("Error while saving " + source);
         copies.warnings.push_back("The shot file " + source +
                                   " could not be copied; its traces are saved without it.");
         continue;

@@ -4,10 +4,10 @@
 #include "io/ProjectAssembly.h"
 #include "io/ProjectResult.h"
 #include "io/ProjectZip.h"
+#include "refraction/PlausibleResults.h"
 
 #include <exception>
 #include <filesystem>
-#include <ostream>
 #include <system_error>
 #include <utility>
 
@@ -84,7 +84,15 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   std::string why;
   if (readRefraction(path, interpretation, why) != 0) return fail(why);
   const Status status = checkInterpretation(document, interpretation, mRepairs);
-  return status.ok() ? 0 : fail(std::string(kRefractionMember) + ": " + status.message());
+  if (!status.ok()) return fail(std::string(kRefractionMember) + ": " + status.message());
+  const std::size_t left =
+      leaveOutImplausible(interpretation.refractData, lineLength(shotArrivals(document)));
+  if (left > 0) {
+    mWarnings.push_back(std::string(kRefractionMember) + ": " + std::to_string(left) +
+                        " velocities and depths of the layers are left out: outside 50 to 12 000 "
+                        "m/s, or deeper than the line is long");
+  }
+  return 0;
 }
 
 int projectReader::readResult_XML(const std::string& path, TomoDocument& document) {
@@ -131,11 +139,11 @@ int projectReader::loadInto(const std::string& archive, const std::string& worki
   TemporaryFolder::clear(workingFolder);
   project.folder = TemporaryFolder::create(workingFolder);
   if (project.folder == nullptr) {
-    console::error() << "ERROR: Impossible to save!" << std::endl;
+    console::logError("ERROR: Impossible to save!");
     return fail("No temporary folder can be created in " + workingFolder + ".");
   }
   if (read_ZIP(archive, project.folder->path()) != 0) {
-    console::error() << "[ERROR] While extracting " << archive << std::endl;
+    console::logError("[ERROR] While extracting " + archive);
     emit error_read_compressed();
     return fail("It cannot be extracted.");
   }

@@ -1,6 +1,12 @@
 #include "batch/BatchRunner.h"
+#include "io/ProjectWriter.h"
 #include "io/TravelTimeFile.h"
+#include "io/projectReader.h"
+#include "refraction/BuildProfiles.h"
+#include "support/ConsoleCapture.h"
 #include "support/RefractionLines.h"
+
+#include <algorithm>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,7 +16,9 @@ namespace talvesk::batchtest {
 namespace {
 
 using nlohmann::ordered_json;
+using ::testing::AnyOf;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 /// A line over three layers as a file, and the true marks as another.
 struct Survey {
@@ -104,6 +112,53 @@ TEST(Refract, saysWhatKeepsItFromAProfile) {
     EXPECT_THAT(outcome.err, HasSubstr(c.message)) << c.what;
     EXPECT_FALSE(survey.folder.holds("r.json")) << c.what;
   }
+}
+
+TEST(Refract, leavesOutWhatNoGroundHasAndSaysSoEvenWhenQuiet) {
+  const Survey survey;
+  std::string text = contentsOf(survey.layers);
+  std::replace(text.begin(), text.end(), '1', '0');
+  const std::string layers = survey.folder.write("no_first.csv", text);
+  const std::string table = survey.folder / "profile.txt";
+  const Outcome outcome = runBatch(
+      {"refract", survey.picks, "--layers", layers, "--json", "-", "--table", table, "--quiet"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("Layer 1: no shot that takes part has two picks"));
+  const ordered_json json = ordered_json::parse(outcome.out);
+  EXPECT_TRUE(json["v1"].is_null());
+  EXPECT_TRUE(json["refractors"][0]["depth"][7].is_null());
+  EXPECT_TRUE(json["refractors"][0]["velocity"][7].is_number());
+  EXPECT_THAT(contentsOf(table), Not(AnyOf(HasSubstr("nan"), HasSubstr("inf"))));
+}
+
+TEST(Refract, ofAProjectTellsWhetherPicksHaveChangedSince) {
+  const testing::ConsoleCapture console;
+  const Survey survey;
+  const Folder home;
+  LoadedProject project;
+  project.document =
+      testing::standardDippingLine(testing::threeDippingLayers(), project.interpretation.ttLayer);
+  ASSERT_TRUE(buildProfiles(shotArrivals(project.document), project.interpretation).built);
+  const std::string path = survey.folder / "line.tvsk";
+  const auto saved = [&] {
+    ProjectWriter writer;
+    EXPECT_EQ(writer.save(path, home / "", project.document, project.interpretation,
+                          project.palettes, project.section),
+              0);
+  };
+  const auto run = [&](std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"info", path});
+    const Outcome outcome = runBatch(arguments, {{"HOME", home / ""}});
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    return outcome.out;
+  };
+  saved();
+  EXPECT_THAT(run({}), HasSubstr("\n  layers      2 refractors\n"));
+  EXPECT_EQ(ordered_json::parse(run({"--json", "-"}))["picks_changed_since_profile"], false);
+  project.document.ttArray[4].ttMisurati[9] *= 1.01;
+  saved();
+  EXPECT_THAT(run({}), HasSubstr("\n  layers      2 refractors, picks have changed since\n"));
+  EXPECT_EQ(ordered_json::parse(run({"--json", "-"}))["picks_changed_since_profile"], true);
 }
 
 }  // namespace

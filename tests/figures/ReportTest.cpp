@@ -1,8 +1,10 @@
 #include "figures/MisfitFigures.h"
+#include "figures/ProfileLines.h"
 #include "figures/Report.h"
 #include "figures/ReportBuilder.h"
 #include "figures/ReportPages.h"
 #include "model/Residuals.h"
+#include "refraction/PicksFingerprint.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 #include "support/TestSurveys.h"
@@ -30,6 +32,7 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using testing::TestFolder;
 using Kind = ReportItem::Kind;
 
@@ -415,6 +418,42 @@ TEST(Report, velocitiesOfARefractorRangeOverThoseThatAreKnown) {
       tableOf(reportOn({document, &interpretation}), QStringLiteral("Layers and refractors"));
   ASSERT_GE(facts.rows.size(), 2u);
   EXPECT_EQ(facts.rows[1][1].toStdString(), "1801 \u2013 1811 m/s");
+}
+
+TEST(Report, saysWhatIsNotKnownOfTheLayers) {
+  const TomoDocument document = pickedLine();
+  refractionDataStructure::Interpretation interpretation = oneRefractor();
+  const auto paragraphs = [&] {
+    return textsOf(reportOn({document, &interpretation}), Kind::kParagraph);
+  };
+  EXPECT_THAT(paragraphs(), Not(Contains(HasSubstr("No velocity is given"))));
+  auto& results = interpretation.refractData;
+  results.v1 = NAN;
+  results.cData[0].velocity.assign(13, NAN);
+  results.cData[0].depth.assign(13, NAN);
+  EXPECT_THAT(paragraphs(), Contains(HasSubstr("No velocity is given")));
+  const ReportContent content = reportOn({document, &interpretation});
+  const ReportTable facts = tableOf(content, QStringLiteral("Layers and refractors"));
+  EXPECT_EQ(facts.rows[0][1].toStdString(), "\u2013");
+  EXPECT_EQ(facts.rows[1][1].toStdString(), "\u2013");
+  const ReportTable depths = tableOf(content, QStringLiteral("Depths below the surface"));
+  EXPECT_EQ(depths.rows[4][2].toStdString(), "\u2013");
+  EXPECT_EQ(depths.rows[4][3].toStdString(), "\u2013");
+}
+
+TEST(Report, marksAProfileWhosePicksHaveChangedSince) {
+  TomoDocument document = pickedLine();
+  refractionDataStructure::Interpretation interpretation = oneRefractor();
+  interpretation.refractData.picks = fingerprintOf(shotArrivals(document));
+  const auto said = [&] {
+    return textsOf(reportOn({document, &interpretation}), Kind::kParagraph);
+  };
+  const char* mark = "picks have changed since";
+  EXPECT_THAT(said(), Not(Contains(HasSubstr(mark))));
+  EXPECT_EQ(profileLines(document, interpretation)[0].name, "Refractor 1");
+  document.ttArray[1].ttMisurati[4] += 1e-4;
+  EXPECT_THAT(said(), Contains(HasSubstr(mark)));
+  EXPECT_THAT(profileLines(document, interpretation)[0].name, HasSubstr(mark));
 }
 
 }  // namespace
