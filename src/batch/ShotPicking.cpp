@@ -37,14 +37,15 @@ Status load(const std::vector<std::string>& files, bool quiet, TomoDocument& doc
 
 Status readPositions(const std::string& path, const std::string& separator, bool labelled,
                      std::vector<Point2D>& positions) {
-  GeometryRecords records;
-  Status status = labelled ? readLabelledRecords(path, separator, records)
-                           : readRecords(path, separator, records);
+  PositionTable table;
+  Status status =
+      labelled ? readLabelledRecords(path, separator, table) : readRecords(path, separator, table);
   if (!status.ok()) return status;
+  for (const std::string& remark : describe(table.remarks)) warn(path + ": " + remark);
   if (cutsNumbers(lookAtGeometryFile(path), separator)) {
     warn(path + ": numbers were cut at their decimal commas; they need points");
   }
-  status = positionsOf(records, positions);
+  status = positionsOf(table, positions);
   return status.ok() ? status : Status::failure(path + ": " + status.message());
 }
 
