@@ -152,6 +152,11 @@ bool Talvesk_MainWindows::loadProject(const QString& file, LoadedProject& projec
     return false;
   }
   if (!rays.ok()) mLog.write(rays.message(), 1);
+  if (!reader.repairs().empty()) {
+    showWarning(this, tr("Warning"),
+                tr("Some values of the project cannot be. They were put right or left out."),
+                shortList(linesOf(reader.repairs())));
+  }
   if (!reader.warnings().empty()) {
     showWarning(this, tr("Warning"), tr("Error while loading traces: Invalid file format."),
                 shortList(linesOf(reader.warnings())));

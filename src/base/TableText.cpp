@@ -1,5 +1,6 @@
 #include "base/TableText.h"
 
+#include "base/PlainText.h"
 #include "base/TextNumber.h"
 
 #include <QString>
@@ -31,12 +32,10 @@ std::string fromUtf16(std::string_view bytes, bool bigEndian) {
 
 /// As it may stand in a message: short, one line, and UTF-8 whatever the bytes.
 std::string quotable(std::string_view text) {
-  const std::string_view front = text.substr(0, kQuotedBytes);
-  QString shown = QString::fromUtf8(front.data(), static_cast<int>(front.size()));
-  for (QChar& c : shown) {
-    if (!c.isPrint() && !c.isSurrogate()) c = QLatin1Char(' ');
-  }
-  return shown.trimmed().toStdString() + (text.size() > kQuotedBytes ? "..." : "");
+  const std::string valid =
+      QString::fromUtf8(text.data(), static_cast<int>(text.size())).trimmed().toStdString();
+  const std::string shown = withoutControls(beginningOf(valid, kQuotedBytes));
+  return shown.size() < valid.size() ? shown + "..." : shown;
 }
 
 }  // namespace

@@ -38,6 +38,7 @@ Status readProject(const std::string& path, bool quiet, LoadedProject& project) 
   if (reader.load(path, folder, project) != 0) {
     return Status::failure(path + " is not a valid project: " + reader.message());
   }
+  for (const std::string& repair : reader.repairs()) warn(path + ": " + repair);
   if (quiet) return {};
   for (const std::string& warning : reader.warnings()) {
     warn(path + ": error while loading traces: " + warning);

@@ -11,7 +11,8 @@ namespace talvesk {
 /// Whether a name ends in ".tvsk", whatever its case.
 bool isProjectFile(const std::string& path);
 
-/// Loads a project. Shot files that are missing in it are warned of unless `quiet`.
+/// Loads a project. What had to be put right in it is told, and, unless `quiet`, which of its shot
+/// files are missing.
 Status readProject(const std::string& path, bool quiet, LoadedProject& project);
 
 /// Saves a project. What the user should know about its shot files is warned of unless `quiet`.

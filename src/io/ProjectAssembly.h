@@ -22,10 +22,12 @@ Status installGrid(const GridMember& grid, SurveyMember& survey);
 /// Puts the traces into the document, from the member or from the shot files in `folder` (ending in
 /// "/"), where the document's file names then point. A shot file that is missing, fails or is not
 /// the one that was saved leaves its traces empty and a warning; that is no failure. The files are
-/// read as the first ones of a program are, whatever it read before.
+/// read as the first ones of a program are, whatever it read before. Names of shot files that lead
+/// out of the folder are forgotten.
 /// \param state out: what their readers remember of them
 Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,
-                     SegyState& state, std::vector<std::string>& warnings);
+                     SegyState& state, std::vector<std::string>& warnings,
+                     std::vector<std::string>& repairs);
 
 /// Layers that name shots or layers which do not exist are refused; results that do not hang
 /// together are dropped, they can be built again.

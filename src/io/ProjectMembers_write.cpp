@@ -1,9 +1,13 @@
+#include "base/AtomicFile.h"
 #include "base/Console.h"
+#include "base/PlainText.h"
 #include "io/ProjectMembers.h"
 #include "io/ProjectRecords.inl"
 
+#include <algorithm>
 #include <fstream>
 #include <functional>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -28,7 +32,11 @@ int writeMember(const std::string& path, const char* what,
 std::vector<std::string> bareNames(const std::vector<std::string>& paths) {
   std::vector<std::string> names;
   names.reserve(paths.size());
-  for (const std::string& path : paths) names.push_back(bareName(path));
+  for (const std::string& path : paths) {
+    std::string name = bareName(path);
+    // A file that no archive can name is not in it, but what it was called may be told.
+    names.push_back(isEntryName(name) ? std::move(name) : withoutControls(std::move(name)));
+  }
   return names;
 }
 
@@ -79,6 +87,15 @@ void putFiltered(XmlWriter& writer, const TomoDocument& document) {
 
 std::string bareName(const std::string& path) {
   return path.substr(path.find_last_of("/\\") + 1);
+}
+
+bool isEntryName(const std::string& name) {
+  const auto isOdd = [](char c) {
+    const bool isControl = static_cast<unsigned char>(c) < 0x20;
+    return c == '/' || c == '\\' || (isControl && c != '\t' && c != '\n' && c != '\r');
+  };
+  return !name.empty() && name != "." && name != ".." && isFileName(name) &&
+         std::none_of(name.begin(), name.end(), isOdd);
 }
 
 int writeSurvey(const std::string& path, const TomoDocument& document,

@@ -1,4 +1,5 @@
 #include "base/Console.h"
+#include "base/PlainText.h"
 #include "io/ProjectAssembly.h"
 #include "io/ShotFile.h"
 #include "io/ShotLoader.h"
@@ -16,13 +17,9 @@ std::string entryOf(const std::vector<std::string>& list, std::size_t i) {
   return i < list.size() ? list[i] : std::string();
 }
 
-bool namesFile(const std::string& name) {
-  return !name.empty() && name != "." && name != ".." && name == bareName(name);
-}
-
 Status readOne(const std::string& folder, const std::string& name, SegyState& state,
                TraceSet& traces) {
-  if (!namesFile(name)) return Status::failure("\"" + name + "\" is no name of a file");
+  if (!isEntryName(name)) return Status::failure(quoted(name) + " is no name of a file");
   ShotFileData data;
   const Status status = readShotFile(folder + name, state, data);
   if (status.ok()) traces = traceSetOf(std::move(data));
@@ -99,6 +96,23 @@ Status installFiltered(TracesMember& member, std::size_t set, TraceSet& traces) 
   return {};
 }
 
+/// A name with a folder in it would have the next save collect a file of the user's that has
+/// nothing to do with the survey, and hand it on with the project.
+void forgetPaths(TracesMember& member, std::size_t set, std::vector<std::string>& repairs) {
+  std::string path;
+  for (auto* names : {&member.filenames, &member.filenames_DX, &member.filenames_SX}) {
+    if (set >= names->size()) continue;
+    std::string& name = (*names)[set];
+    if (!name.empty() && !isEntryName(name)) path = std::exchange(name, {});
+  }
+  if (path.empty()) return;
+  const SetFiles left = filesOfSet(member.filenames, member.filenames_DX, member.filenames_SX, set);
+  const bool lost = left.none() && !hasSamples(member.traceSets[set]);
+  repairs.push_back("shot " + std::to_string(set + 1) + ": its shot file is called " +
+                    quoted(path) + ", which is no plain file name; the name is forgotten" +
+                    (lost ? " and its traces are empty" : ""));
+}
+
 /// A reason with the bare names of its files: nobody put anything into the temporary folder by
 /// hand.
 std::string without(const std::string& folder, std::string why) {
@@ -158,7 +172,7 @@ Status matchRecords(TomoDocument& document) {
 
 std::vector<std::string> inFolder(const std::string& folder, std::vector<std::string> names) {
   for (std::string& name : names) {
-    if (namesFile(name)) name.insert(0, folder);
+    if (!name.empty()) name.insert(0, folder);
   }
   return names;
 }
@@ -191,7 +205,8 @@ bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& s
 }
 
 Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,
-                     SegyState& state, std::vector<std::string>& warnings) {
+                     SegyState& state, std::vector<std::string>& warnings,
+                     std::vector<std::string>& repairs) {
   const std::size_t sets = member.traceSets.size();
   if (member.waveType != WaveType::P && member.waveType != WaveType::S) {
     return Status::failure("wave type " + std::to_string(static_cast<int>(member.waveType)) +
@@ -208,6 +223,7 @@ Status installTraces(TracesMember member, const std::string& folder, TomoDocumen
       return Status::failure("trace set " + std::to_string(set) +
                              " has a position or delay that cannot be");
     }
+    forgetPaths(member, set, repairs);
     const SetFiles names =
         filesOfSet(member.filenames, member.filenames_DX, member.filenames_SX, set);
     TraceSet traces = setOf(folder, names, member.traceSets[set], state, warnings);

@@ -63,7 +63,8 @@ int projectReader::readTomoDocumentTraces_XML(const std::string& path, TomoDocum
   TracesMember traces;
   if (readTraces(path, traces, why) != 0) return fail(why);
   const std::string folder = path.substr(0, path.size() - bareName(path).size());
-  const Status status = installTraces(std::move(traces), folder, document, mShotFiles, mWarnings);
+  const Status status =
+      installTraces(std::move(traces), folder, document, mShotFiles, mWarnings, mRepairs);
   return status.ok() ? 0 : fail(std::string(kTracesMember) + ": " + status.message());
 }
 
@@ -133,6 +134,7 @@ int projectReader::load(const std::string& archive, const std::string& workingFo
   mTracesFailed = false;
   mMessage.clear();
   mWarnings.clear();
+  mRepairs.clear();
   mShotFiles = {};
   try {
     LoadedProject fresh;

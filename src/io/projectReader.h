@@ -40,6 +40,8 @@ class projectReader : public QObject {
   bool tracesFailed() const { return mTracesFailed; }
   /// Shot files whose traces are empty now, of a load that succeeded.
   const std::vector<std::string>& warnings() const { return mWarnings; }
+  /// What else was put right or left out of a load that succeeded, because it cannot be.
+  const std::vector<std::string>& repairs() const { return mRepairs; }
 
   // The steps. Each returns 0 or 1. They are virtual so that tests can make each of them fail.
   virtual int read_ZIP(const std::string& archive, const std::string& folder);
@@ -73,6 +75,7 @@ class projectReader : public QObject {
   bool mTracesFailed = false;
   std::string mMessage;
   std::vector<std::string> mWarnings;
+  std::vector<std::string> mRepairs;
   SegyState mShotFiles;
 };
 

@@ -14,6 +14,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
+using ::testing::SizeIs;
 
 class LoadingFaults : public ProjectTest {
  protected:
@@ -230,13 +231,44 @@ TEST_F(LoadingFaults, areNoneOfAPairThatIsNone) {
   EXPECT_EQ(back.document.traceSets[0][0].waveKind, Trace::kFromFile);
 }
 
-TEST_F(LoadingFaults, areNoneOfNamesThatLeaveTheFolder) {
-  entries["traces.xml"] = with(entries["traces.xml"], ">1.dat<", ">../../secret.dat<");
+/// Whatever a project calls its shot files, with or without samples of its own, saving it again
+/// must not collect a file that lies somewhere else.
+TEST_F(LoadingFaults, areNoneOfShotFilesElsewhereAndNoneOfTheseIsEverCopied) {
+  const std::string secret = folder.put("secret.dat", projectShot(-2.5));
+  const std::string sound = entries["traces.xml"];
+  const std::string inMember =
+      with(sound, "<TAB size=\"dynamic\"/>",
+           "<TAB size=\"dynamic\"><value0>1</value0><value1>2</value1></TAB>");
+  for (const std::string& name :
+       {secret, std::string("../../secret.dat"), std::string("/etc/passwd"),
+        std::string("..\\..\\secret.dat"), std::string(".."), std::string("a/1.dat")}) {
+    for (const std::string& member : {sound, inMember}) {
+      entries["traces.xml"] = with(member, ">1.dat<", ">" + name + "<");
+      LoadedProject back;
+      ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
+      EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("shot 1: ")));
+      EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr('"' + name + '"')));
+      EXPECT_EQ(back.document.filenames[0], "") << name;
+      EXPECT_EQ(back.document.traceSets[0][0].samples.empty(), member == sound) << name;
+      ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
+      EXPECT_THAT(writer.warnings(), IsEmpty());
+      const auto saved = entriesOf(folder.file("again.tvsk"));
+      EXPECT_EQ(saved.count("secret.dat") + saved.count("passwd"), 0U) << name;
+    }
+  }
+}
+
+TEST_F(LoadingFaults, areNoneOfPairsWithAFileElsewhere) {
+  std::string& traces = entries["traces.xml"];
+  traces = with(traces, "<filenames_DX size=\"dynamic\"/>",
+                "<filenames_DX size=\"dynamic\"><value0>1.dat</value0></filenames_DX>");
+  traces = with(traces, "<filenames_SX size=\"dynamic\"/>",
+                "<filenames_SX size=\"dynamic\"><value0>/etc/passwd</value0></filenames_SX>");
   LoadedProject back;
   ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
-  EXPECT_THAT(back.document.traceSets[0][0].samples, IsEmpty());
-  ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
-  EXPECT_EQ(entriesOf(folder.file("again.tvsk")).count("secret.dat"), 0U);
+  EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("\"/etc/passwd\"")));
+  EXPECT_EQ(back.document.filenames_SX[0], "");
+  EXPECT_THAT(back.document.traceSets[0][0].samples, SizeIs(40));  // of the other name
 }
 
 TEST_F(LoadingFaults, ofAWorkingFolderThatIsNotThere) {

@@ -219,6 +219,7 @@ TEST_F(ProjectTest, keepsTheSamplesOfAFileThatNoArchiveCanName) {
   EXPECT_THAT(writer.warnings().front(), HasSubstr(odd));
   LoadedProject loaded;
   ASSERT_EQ(load(archive(), loaded), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
   ASSERT_EQ(loaded.document.traceSets.size(), 4U);
   EXPECT_EQ(loaded.document.traceSets[3][5].samples, project.document.traceSets[3][5].samples);
 }
