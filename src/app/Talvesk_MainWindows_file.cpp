@@ -184,6 +184,7 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   const Status status = whileWaiting([&] {
     TravelTimeData times;
     Status read = readTravelTimes(file.toStdString(), times);
+    fitToRecords(times, mDocument);
     warnings = times.warnings;
     return read.ok() ? importTravelTimes(std::move(times), mDocument) : read;
   });

@@ -30,13 +30,18 @@ Status readTravelTimes(const std::string& path, TravelTimeData& data);
 /// `data` is as before when that fails.
 Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelTimeData& data);
 
+/// Drops the picks that lie beyond the records of the document's traces, with a warning in the
+/// data.
+void fitToRecords(TravelTimeData& data, const TomoDocument& document);
+
 /// Puts what was read into the document, or leaves the document as it was. A document with trace
 /// sets keeps them and takes times and positions by trace set, provided that shots and traces agree
 /// in number; its grid and results stay unless a position changed. Any other document gets new
 /// strings, shots and records, and loses its file names, starting model, grid and results.
 Status importTravelTimes(TravelTimeData data, TomoDocument& document);
 
-/// readTravelTimes, then importTravelTimes. Returns 0 or 1; the message is the status's.
+/// readTravelTimes, fitToRecords, then importTravelTimes. Returns 0 or 1; the message is the
+/// status's.
 Status loadTravelTimes(const std::string& path, TomoDocument& document);
 
 /// Writes the exchange format (".otte"), six significant digits, whole or not at all. Positions

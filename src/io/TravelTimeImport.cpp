@@ -1,4 +1,5 @@
 #include "io/TravelTimeFile.h"
+#include "model/PickLimits.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -91,6 +92,11 @@ void replaceSurvey(TravelTimeData data, TomoDocument& document) {
 }
 
 }  // namespace
+
+void fitToRecords(TravelTimeData& data, const TomoDocument& document) {
+  const std::string dropped = dropImpossiblePicks(data.records, document.traceSets);
+  if (!dropped.empty()) data.warnings.push_back(dropped);
+}
 
 Status importTravelTimes(TravelTimeData data, TomoDocument& document) {
   if (Status status = checkStrings(data); !status.ok()) return status;
