@@ -68,6 +68,7 @@ void DialogSetGeometry::setUpTables() {
     connect(&view, &SpreadsheetView::clearRequested, &table, &GeometryTable::clear);
     connect(&table, &GeometryTable::refused, this,
             [this](const QString& why) { notice(why, true); });
+    connect(&table, &GeometryTable::told, this, [this](const QString& what) { notice(what); });
     // The plan frames the row that is edited.
     connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
       refreshPlan();

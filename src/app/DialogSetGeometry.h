@@ -19,6 +19,7 @@ class GeometrySession;
 class GeophoneTable;
 class ShotTable;
 struct GeometryMistake;
+struct PositionTable;
 struct SegyState;
 
 /// Edits where the geophones and shots of a survey stand, and which recordings S-wave shots are
@@ -59,7 +60,6 @@ class DialogSetGeometry : public QDialog {
   void refreshPlan();
   void refreshMistakes();
   void notice(const QString& text, bool refused = false);
-  void noticeLoaded(const QString& text, bool cut);
   void show(const GeometryMistake& mistake);
   void showGeophone(int string, int geophone);
   void showShot(int shot);
@@ -74,20 +74,14 @@ class DialogSetGeometry : public QDialog {
   void interpolateShots();
 
   // Files
-  /// A file of positions that was read.
-  struct PositionsFile {
-    QString name;
-    std::vector<Point2D> positions;
-    bool cut = false;  ///< numbers ended at their decimal commas
-  };
+  struct PositionsFile;
   using RecordReader = Status (*)(const std::string& path, const std::string& separator,
-                                  std::vector<std::vector<double>>& records);
+                                  PositionTable& table);
   QString askForFile(bool save, const QString& filter);
-  static QString takePositions(std::size_t count, const Status& read,
-                               const std::vector<std::vector<double>>& records,
-                               std::vector<Point2D>& positions);
+  static QString takePositions(std::size_t count, const Status& read, PositionsFile& file);
   bool askForPositions(std::size_t count, RecordReader read, const QString& invalid,
                        PositionsFile& chosen);
+  void tellLoaded(const QString& text, const PositionsFile& file);
   bool tellsOfGaps(bool shots);
   void saveGeophones();
   void loadGeophones();

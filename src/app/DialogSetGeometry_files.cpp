@@ -4,6 +4,7 @@
 #include "app/GeometryTexts.h"
 #include "app/Messages.h"
 #include "app/SelectCSVDelimiterDialog.h"
+#include "app/TableTexts.h"
 #include "app/WaitCursor.h"
 #include "base/Console.h"
 #include "io/GeometryFile.h"
@@ -22,17 +23,27 @@
 // pairs.
 
 namespace talvesk {
+
+/// A file of positions that was read.
+struct DialogSetGeometry::PositionsFile {
+  QString name;
+  PositionTable table;
+  std::vector<Point2D> positions;
+  bool cut = false;  ///< numbers ended at their decimal commas
+};
+
 /// The positions of a file that has exactly one for each of `count` places; else why it has not.
 QString DialogSetGeometry::takePositions(std::size_t count, const Status& read,
-                                         const GeometryRecords& records,
-                                         std::vector<Point2D>& positions) {
+                                         PositionsFile& file) {
   if (!read.ok()) return QString::fromStdString(read.message());
-  if (records.size() != count) {
-    return tr("Read with this separator the file has %1 lines of numbers; %2 are needed.")
-        .arg(records.size())
-        .arg(count);
+  if (file.table.records.size() != count) {
+    const QString why =
+        tr("Read with this separator the file has %1 lines of numbers; %2 are needed.")
+            .arg(file.table.records.size())
+            .arg(count);
+    return (why + QLatin1Char(' ') + headingText(file.table.remarks)).trimmed();
   }
-  return QString::fromStdString(positionsOf(records, positions).message());
+  return QString::fromStdString(positionsOf(file.table, file.positions).message());
 }
 
 QString DialogSetGeometry::askForFile(bool save, const QString& filter) {
@@ -64,12 +75,16 @@ bool DialogSetGeometry::tellsOfGaps(bool shots) {
   return false;
 }
 
-/// \param cut numbers ended at their decimal commas
-void DialogSetGeometry::noticeLoaded(const QString& text, bool cut) {
-  if (!cut) return notice(text);
-  notice(text + QStringLiteral(". ") +
-             tr("Its numbers were cut at their decimal commas: they need points."),
-         true);
+/// What was loaded, and what of it is not as the file has it.
+void DialogSetGeometry::tellLoaded(const QString& text, const PositionsFile& file) {
+  QStringList sentences;
+  if (file.cut) {
+    sentences << tr("Its numbers were cut at their decimal commas: they need points.");
+  }
+  if (file.table.remarks.skippedHeading) sentences << headingText(file.table.remarks);
+  const QString rest = sentences.join(QLatin1Char(' '));
+  notice(rest.isEmpty() ? text : text + QStringLiteral(". ") + rest, file.cut);
+  warnOfZeros(this, file.name, file.table.remarks);
 }
 
 void DialogSetGeometry::saveGeophones() {
@@ -98,12 +113,12 @@ bool DialogSetGeometry::askForPositions(std::size_t count, RecordReader read,
   if (!separator) return false;
   chosen.name = QFileInfo(file).fileName();
   chosen.cut = cutsNumbers(look, *separator);
-  GeometryRecords records;
-  const Status status = read(file.toStdString(), *separator, records);
-  const QString why = takePositions(count, status, records, chosen.positions);
+  const Status status = read(file.toStdString(), *separator, chosen.table);
+  const QString why = takePositions(count, status, chosen);
   if (why.isEmpty()) return true;
   notice(why, true);
-  showError(this, windowTitle(), tr("Error Message"), invalid + QString::number(records.size()));
+  showError(this, windowTitle(), tr("Error Message"),
+            invalid + QString::number(chosen.table.records.size()));
   return false;
 }
 
@@ -119,7 +134,7 @@ void DialogSetGeometry::loadGeophones() {
       string[i] = {file.positions[i].x, file.positions[i].z, true};
     }
   });
-  noticeLoaded(tr("Geophones loaded from %1").arg(file.name), file.cut);
+  tellLoaded(tr("Geophones loaded from %1").arg(file.name), file);
 }
 
 void DialogSetGeometry::saveShots() {
@@ -156,7 +171,7 @@ void DialogSetGeometry::loadShots() {
     }
   });
   console::out().flush();
-  noticeLoaded(tr("Shots loaded from %1").arg(file.name), file.cut);
+  tellLoaded(tr("Shots loaded from %1").arg(file.name), file);
 }
 
 /// Picks without traces stay what they are: every record of a survey has traces, or none has.

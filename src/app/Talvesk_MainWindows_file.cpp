@@ -197,6 +197,7 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   ImportCost cost;
   Status status = whileWaiting([&] {
     Status read = readTravelTimes(file.toStdString(), times);
+    fitToRecords(times, mDocument);
     return read.ok() ? checkImport(times, mDocument, cost) : read;
   });
   const std::vector<std::string> warnings = times.warnings;

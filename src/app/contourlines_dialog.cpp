@@ -3,6 +3,7 @@
 #include "app/Messages.h"
 #include "app/NumberText.h"
 #include "app/SelectCSVDelimiterDialog.h"
+#include "app/TableTexts.h"
 #include "io/GeometryFile.h"
 #include "io/IsovalueFile.h"
 #include "ui_contourlines_dialog.h"
@@ -281,7 +282,11 @@ void contourlines_dialog::loadIsovalues() {
     showError(this, tr("Error"), QString::fromStdString(read.status.message()));
   }
   // A file that gave nothing, as with the wrong separator, does not cost the list.
-  if (read.status.ok() || !read.values.empty()) takeLoaded(read.values);
+  if (!read.status.ok() && read.values.empty()) return;
+  if (read.remarks.skippedHeading) {
+    showNote(this, tr("Load Isovalues"), headingText(read.remarks));
+  }
+  takeLoaded(read.values);
 }
 
 void contourlines_dialog::takeLoaded(const std::vector<double>& loaded) {

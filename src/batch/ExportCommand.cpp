@@ -110,13 +110,14 @@ void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project
 }  // namespace
 
 int run(const ExportOptions& options) {
-  const Channels channels = openChannels(options.quiet);
-  const Status places = checkOutputFiles(outputsOf(options), {options.project});
+  const std::vector<OutputFile> outputs = outputsOf(options);
+  const Channels channels = openChannels(outputs, options.quiet);
+  const Status places = checkOutputFiles(outputs, {options.project});
   if (places.code() == kWrongUsage) return wrongUsage("export", places.message());
   if (!places.ok()) return failed(places.message());
 
   LoadedProject project;
-  Status status = readProject(options.project, options.quiet, project);
+  Status status = readProject(options.project, project);
   if (status.ok()) status = prepareFigures(options, project.document);
   if (!status.ok()) return failed(status.message());
   const ColorPalette& inView = project.palettes.current();

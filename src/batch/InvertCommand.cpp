@@ -175,14 +175,13 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
 }  // namespace
 
 int run(const InvertOptions& options) {
-  const Channels channels =
-      openChannels(options.json == kStandardOutput, options.quiet, options.verbose);
   std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
                                      {"--otte", options.otte},
                                      {"--json", options.json},
                                      {"--project", options.project},
                                      {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  const Channels channels = openChannels(outputs, options.quiet, options.verbose);
   const Status places = checkOutputFiles(outputs, inputsOf(options));
   if (places.code() == kWrongUsage) return wrongUsage("invert", places.message());
   if (!places.ok()) return failed(places.message());
@@ -194,7 +193,6 @@ int run(const InvertOptions& options) {
   PickingManner manner;
   manner.threads = options.parameters.singleThread ? 1 : 0;
   manner.quiet = options.quiet;
-  manner.verbose = options.verbose;
   manner.summary = channels.summary;
   Status status = readSurvey(options.input, options.shots, manner, project);
   if (status.ok()) status = checkPicks(document, inputsOf(options));

@@ -173,12 +173,12 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   addRunOptions(command, options);
   addOutputOptions(command, options);
   addReport(command, options.report, options.reportFields);
-  CLI::Option* quiet = command.add_flag("--quiet", options.quiet,
-                                        "Print nothing but errors and what the grid leaves out");
+  CLI::Option* quiet = command.add_flag("--quiet", options.quiet, kQuietHelp);
   command
-      .add_flag("--verbose", options.verbose,
-                "Print the messages of the readers and the picker, and those of the engine even "
-                "where a progress bar would take their place")
+      .add_flag(
+          "--verbose", options.verbose,
+          "Print the messages of the readers, the picker and the engine, and lines instead of "
+          "a progress bar")
       ->excludes(quiet);
   command.final_callback([inputs, shots, &options] {
     sortInputs(*inputs, shots.anyGiven(), options.input, options.shots.files);

@@ -1,5 +1,7 @@
 #include "batch/ProjectFiles.h"
 
+#include "base/AtomicFile.h"
+#include "base/StreamPlace.h"
 #include "base/TextNumber.h"
 #include "base/WorkingFolder.h"
 #include "batch/Failure.h"
@@ -10,6 +12,7 @@
 #include "refraction/PicksFingerprint.h"
 
 #include <QString>
+#include <QTemporaryDir>
 #include <ostream>
 
 namespace talvesk {
@@ -20,6 +23,16 @@ Status workingFolder(std::string& path) {
   path = folder.path;
   if (folder.create()) return {};
   return Status::failure("Cannot create the folder " + path + ", where projects are put together");
+}
+
+/// An archive is put together in a file, whose bytes then go on.
+Status streamProject(const std::string& path, bool quiet, const LoadedProject& project) {
+  const QTemporaryDir folder;
+  const std::string file = folder.filePath(QStringLiteral("project.tvsk")).toStdString();
+  std::string bytes;
+  Status status = writeProject(file, quiet, project);
+  if (status.ok()) status = readWholeFile(file, bytes);
+  return status.ok() ? writeStream(path, bytes) : status;
 }
 
 std::string countOf(std::size_t count, const std::string& what) {
@@ -56,7 +69,7 @@ bool isProjectFile(const std::string& path) {
   return name.size() > suffix.size() && name.endsWith(suffix, Qt::CaseInsensitive);
 }
 
-Status readProject(const std::string& path, bool quiet, LoadedProject& project) {
+Status readProject(const std::string& path, LoadedProject& project) {
   std::string folder;
   if (Status status = workingFolder(folder); !status.ok()) return status;
   projectReader reader;
@@ -64,7 +77,6 @@ Status readProject(const std::string& path, bool quiet, LoadedProject& project) 
     return Status::failure(path + " is not a valid project: " + reader.message());
   }
   for (const std::string& repair : reader.repairs()) warn(path + ": " + repair);
-  if (quiet) return {};
   for (const std::string& warning : reader.warnings()) {
     warn(path + ": error while loading traces: " + warning);
   }
@@ -72,6 +84,7 @@ Status readProject(const std::string& path, bool quiet, LoadedProject& project) 
 }
 
 Status writeProject(const std::string& path, bool quiet, const LoadedProject& project) {
+  if (isStreamPlace(path)) return streamProject(path, quiet, project);
   std::string folder;
   if (Status status = workingFolder(folder); !status.ok()) return status;
   const ProjectLock::Outcome lock = ProjectLock::take(path);

@@ -22,13 +22,11 @@ namespace talvesk {
 namespace {
 
 /// Every file that fails has its line; the last one is the status.
-Status load(const std::vector<std::string>& files, bool quiet, TomoDocument& document) {
+Status load(const std::vector<std::string>& files, TomoDocument& document) {
   ShotLoader loader;
   Status status;
   for (const ShotFileOutcome& outcome : loader.load(files, document)) {
-    if (!quiet) {
-      for (const std::string& warning : outcome.warnings) warn(outcome.path + ": " + warning);
-    }
+    for (const std::string& warning : outcome.warnings) warn(outcome.path + ": " + warning);
     if (outcome.status.ok()) continue;
     if (!status.ok()) failed(status.message());
     status = outcome.status;
@@ -38,14 +36,15 @@ Status load(const std::vector<std::string>& files, bool quiet, TomoDocument& doc
 
 Status readPositions(const std::string& path, const std::string& separator, bool labelled,
                      std::vector<Point2D>& positions) {
-  GeometryRecords records;
-  Status status = labelled ? readLabelledRecords(path, separator, records)
-                           : readRecords(path, separator, records);
+  PositionTable table;
+  Status status =
+      labelled ? readLabelledRecords(path, separator, table) : readRecords(path, separator, table);
   if (!status.ok()) return status;
+  for (const std::string& remark : describe(table.remarks)) warn(path + ": " + remark);
   if (cutsNumbers(lookAtGeometryFile(path), separator)) {
     warn(path + ": numbers were cut at their decimal commas; they need points");
   }
-  status = positionsOf(records, positions);
+  status = positionsOf(table, positions);
   return status.ok() ? status : Status::failure(path + ": " + status.message());
 }
 
@@ -142,7 +141,7 @@ void startAtShot(const ShotOptions& options, const PickingManner& manner, TomoDo
   }
 }
 
-Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots, bool quiet,
+Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots,
               TomoDocument& document) {
   FilterOutcome outcome;
   if (options.filter == PickFilter::kAgc) outcome = agcShots(document, shots);
@@ -152,11 +151,8 @@ Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots
   }
   if (outcome.failed == 0) return {};
   if (outcome.filtered == 0) return outcome.status;
-  if (!quiet) {
-    warn(std::to_string(outcome.failed) + " of " +
-         std::to_string(outcome.failed + outcome.filtered) +
-         " traces cannot be filtered and are not picked; " + outcome.status.message());
-  }
+  warn(std::to_string(outcome.failed) + " of " + std::to_string(outcome.failed + outcome.filtered) +
+       " traces cannot be filtered and are not picked; " + outcome.status.message());
   return {};
 }
 
@@ -177,8 +173,7 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
 
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
                      TomoDocument& document) {
-  const SilentConsole console(!manner.verbose);
-  Status status = load(options.files, manner.quiet, document);
+  Status status = load(options.files, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
   if (!status.ok()) return status;
@@ -191,7 +186,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
   if (shots.empty()) return Status::failure("the shot files hold no traces");
   if (!manner.quiet) warnOfHeap(document);
   startAtShot(options, manner, document);
-  status = filter(options, shots, manner.quiet, document);
+  status = filter(options, shots, document);
   if (status.ok()) {
     status = pickShots(document, shots, options.filter != PickFilter::kNone, manner.threads);
   }
@@ -202,9 +197,9 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
 Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
                   LoadedProject& project) {
   if (file.empty()) return pickShotFiles(shots, manner, project.document);
-  if (isProjectFile(file)) return readProject(file, manner.quiet, project);
+  if (isProjectFile(file)) return readProject(file, project);
   TravelTimeData data;
-  const Status status = readPicks(file, data, manner.quiet);
+  const Status status = readPicks(file, data);
   if (!status.ok()) return status;
   return importTravelTimes(std::move(data), project.document);
 }

@@ -15,8 +15,7 @@ struct LoadedProject;
 /// How talvesk-batch goes about it, apart from the options of the shot files.
 struct PickingManner {
   unsigned threads = 0;             ///< 0: as many as the machine has processors
-  bool quiet = false;               ///< no warnings
-  bool verbose = false;             ///< the readers and the picker tell the console what they do
+  bool quiet = false;               ///< no warnings but of what is lost
   std::ostream* summary = nullptr;  ///< what the user came to know
 };
 

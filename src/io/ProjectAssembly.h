@@ -25,7 +25,7 @@ Status installGrid(GridMember grid, SurveyMember& survey, std::vector<std::strin
 /// "/"), where the document's file names then point. A shot file that is missing, fails or is not
 /// the one that was saved leaves its traces empty and a warning; that is no failure. The files are
 /// read as the first ones of a program are, whatever it read before. Names of shot files that lead
-/// out of the folder are forgotten.
+/// out of the folder are forgotten, and picks that can be none are dropped.
 /// \param state out: what their readers remember of them
 /// \param repairs as in checkSurvey()
 Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,

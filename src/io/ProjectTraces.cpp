@@ -3,6 +3,7 @@
 #include "io/ProjectAssembly.h"
 #include "io/ShotFile.h"
 #include "io/ShotLoader.h"
+#include "model/PickLimits.h"
 #include "model/SWavePair.h"
 
 #include <algorithm>
@@ -240,7 +241,11 @@ Status installTraces(TracesMember member, const std::string& folder, TomoDocumen
   document.filenames_SX = inFolder(folder, std::move(member.filenames_SX));
   document.shotPositions = std::move(member.shotPositions);
   document.traceSets = std::move(traceSets);
-  return matchRecords(document);
+  Status matched = matchRecords(document);
+  if (!matched.ok()) return matched;
+  const std::string dropped = dropImpossiblePicks(document.ttArray, document.traceSets);
+  if (!dropped.empty()) repairs.push_back(dropped);
+  return {};
 }
 
 }  // namespace talvesk

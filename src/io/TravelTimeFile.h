@@ -31,6 +31,10 @@ Status readTravelTimes(const std::string& path, TravelTimeData& data);
 /// `data` is as before when that fails.
 Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelTimeData& data);
 
+/// Drops the picks that lie beyond the records of the document's traces, with a warning in the
+/// data.
+void fitToRecords(TravelTimeData& data, const TomoDocument& document);
+
 /// What an import takes from a document besides its picks.
 struct ImportCost {
   ModelLoss model = ModelLoss::kNothing;
@@ -48,7 +52,8 @@ Status checkImport(TravelTimeData& data, const TomoDocument& document, ImportCos
 /// that they hang on, see modelLoss(); with the grid of other shots their starting model goes, too.
 Status importTravelTimes(TravelTimeData data, TomoDocument& document);
 
-/// readTravelTimes, then importTravelTimes. Returns 0 or 1; the message is the status's.
+/// readTravelTimes, fitToRecords, then importTravelTimes. Returns 0 or 1; the message is the
+/// status's.
 Status loadTravelTimes(const std::string& path, TomoDocument& document);
 
 /// Writes the exchange format (".otte"), six significant digits, whole or not at all. Positions

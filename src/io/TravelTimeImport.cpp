@@ -1,5 +1,6 @@
 #include "io/TravelTimeFile.h"
 #include "io/WrittenPosition.h"
+#include "model/PickLimits.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -150,6 +151,11 @@ void replaceRecords(std::vector<TravelTime> records, TomoDocument& document) {
 }
 
 }  // namespace
+
+void fitToRecords(TravelTimeData& data, const TomoDocument& document) {
+  const std::string dropped = dropImpossiblePicks(data.records, document.traceSets);
+  if (!dropped.empty()) data.warnings.push_back(dropped);
+}
 
 Status checkImport(TravelTimeData& data, const TomoDocument& document, ImportCost& cost) {
   Plan plan;

@@ -214,6 +214,22 @@ TEST_F(Picking, thePickerIsHeardOnlyOnRequestAndQuietSaysNothing) {
   EXPECT_EQ(quiet.out + quiet.err, "");
 }
 
+TEST_F(Picking, savesAProjectThatPicksNeedNoFileBeside) {
+  const Environment home = {{"HOME", mFolder / ""}};
+  const std::string project = mFolder / "line.tvsk";
+  const Outcome outcome =
+      runBatch(arguments("pick", mFiles, {"--project", project, "--filter", "agc"}), home);
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const Outcome told = runBatch({"info", project, "--json", "-"}, home);
+  const ordered_json info = ordered_json::parse(told.out);
+  const ordered_json picked = pickJson({"--filter", "agc"});
+  EXPECT_EQ(info["strings"], picked["strings"]);
+  for (std::size_t shot = 0; shot < 3; ++shot) {
+    EXPECT_EQ(info["shots"][shot]["times"], picked["shots"][shot]["times"]);
+    EXPECT_EQ(info["shots"][shot]["traces"], 13);
+  }
+}
+
 TEST_F(Picking, receiversAtTooFewPlacesAreWarnedOf) {
   Seg2Record heap = smallShot(0.5);
   Seg2Record two = heap;

@@ -77,6 +77,28 @@ TEST(Refract, writesTableAndPictures) {
   EXPECT_EQ(contentsOf(survey.folder / "r.json").substr(0, 7), "{\n\"v1\":");
 }
 
+TEST(Refract, savesItsLayersInAProjectAndDescribesThemInAReport) {
+  const Survey survey;
+  const Environment home = {{"HOME", survey.folder / ""}};
+  const std::string project = survey.folder / "line.tvsk";
+  const std::string first = survey.folder / "first.json";
+  const std::string again = survey.folder / "again.json";
+  const std::string report = survey.folder / "line.odt";
+  const Outcome outcome =
+      runBatch({"refract", survey.picks, "--layers", survey.layers, "--xy", "2", "--json", first,
+                "--project", project, "--report", report, "--report-title", "Dipping"},
+               home);
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_EQ(contentsOf(report).substr(0, 2), "PK");
+  // The project brings its marks and its XY.
+  ASSERT_EQ(runBatch({"refract", project, "--json", again}, home).code, 0);
+  const ordered_json before = ordered_json::parse(contentsOf(first));
+  const ordered_json after = ordered_json::parse(contentsOf(again));
+  EXPECT_EQ(after["refractors"][0]["xy"], 2.0);
+  EXPECT_EQ(after["shots"], before["shots"]);
+  EXPECT_EQ(after["refractors"][0]["depth"], before["refractors"][0]["depth"]);
+}
+
 TEST(Refract, saysWhatKeepsItFromAProfile) {
   const Survey survey;
   const std::string out = survey.folder / "r.json";

@@ -93,6 +93,21 @@ TEST(Import, fillsTheRecordsByTheirTraceSet) {
   EXPECT_TRUE(document.modified);
 }
 
+TEST(Import, dropsPicksBeyondTheRecordsOfTheTracesTheyBelongTo) {
+  TomoDocument document = inverted(2, 3);
+  for (TraceSet& set : document.traceSets) {
+    for (Trace& trace : set) {
+      trace.samples.assign(25, 0.0);
+      trace.sampleInterval = 0.001;
+    }
+  }
+  TravelTimeData data = sample();
+  fitToRecords(data, document);
+  EXPECT_THAT(data.warnings, ElementsAre(HasSubstr("shot 2, trace 1 (30 ms, beyond its record")));
+  ASSERT_TRUE(importTravelTimes(std::move(data), document).ok());
+  EXPECT_THAT(document.ttArray[1].ttMisurati, ElementsAre(kNoTime, 0.02, kUnpicked));
+}
+
 TEST(Import, keepsTheGridWhenOnlyTimesChange) {
   TomoDocument document = inverted(2, 3);
   document.goephonesStringSet = sample().strings;
