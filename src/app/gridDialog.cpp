@@ -45,6 +45,9 @@ gridDialog::gridDialog(const TomoDocument& survey, const SurveyProfile& profile,
   mUi->nodesEdit->setValue(static_cast<int>(proposed.nodes));
   mUi->warningLabel->setStyleSheet(warningStyle(*this));
   mUi->warningLabel->setMinimumHeight(kWarningLines * fontMetrics().lineSpacing());
+  QSizePolicy keepsRow = mUi->smallerButton->sizePolicy();
+  keepsRow.setRetainSizeWhenHidden(true);  // OK stays where it is when sizes are offered
+  mUi->smallerButton->setSizePolicy(keepsRow);
   connectFields();
   showPreview();
   mUi->maxDepthEdit->setFocus();

@@ -58,26 +58,12 @@ Status matchRecords(TravelTimeData& data, const TomoDocument& document,
 
 /// What an import would do to a document.
 struct Plan {
-  /// For each record of the document the one that takes its place, in the data; none where the
-  /// survey is replaced by another.
-  std::vector<TravelTime*> matches;
+  /// Of the data, in the order of the document's: those of its trace sets; without traces, which
+  /// nothing but their place and number tells apart, all.
+  std::vector<TravelTime*> records;
   bool moved = true;  ///< a position, or what belongs to which string or trace, is another
   ModelLoss loss = ModelLoss::kNothing;
 };
-
-/// A survey without traces is recognised by its shots: as many, in order, with as many times.
-std::vector<TravelTime*> sameRecords(TravelTimeData& data, const TomoDocument& document) {
-  std::vector<TravelTime*> matches;
-  const bool same = std::equal(data.records.begin(), data.records.end(), document.ttArray.begin(),
-                               document.ttArray.end(), [](const auto& read, const auto& kept) {
-                                 return isWritten(kept.shotPos2d, read.shotPos2d) &&
-                                        read.indexStesa == kept.indexStesa &&
-                                        read.ttMisurati.size() == kept.ttMisurati.size();
-                               });
-  if (!same) return matches;
-  for (TravelTime& record : data.records) matches.push_back(&record);
-  return matches;
-}
 
 /// Gives back to positions the digits that writing took away. \return whether others moved
 bool settle(std::vector<Point2D>& read, const std::vector<Point2D>& kept) {
@@ -92,50 +78,51 @@ bool settle(std::vector<Point2D>& read, const std::vector<Point2D>& kept) {
   return moved;
 }
 
+/// \param records of the data, each beside one of the document or beyond them
 bool settle(TravelTimeData& data, const TomoDocument& document,
-            const std::vector<TravelTime*>& matches) {
+            const std::vector<TravelTime*>& records) {
   const auto& strings = document.goephonesStringSet;
-  bool moved = data.strings.size() != strings.size();
+  bool moved = data.strings.size() != strings.size() || records.size() != document.ttArray.size();
   for (std::size_t s = 0; s < std::min(data.strings.size(), strings.size()); ++s) {
     if (settle(data.strings[s], strings[s])) moved = true;
   }
-  for (std::size_t i = 0; i < matches.size(); ++i) {
+  for (std::size_t i = 0; i < std::min(records.size(), document.ttArray.size()); ++i) {
     const TravelTime& kept = document.ttArray[i];
-    if (isWritten(kept.shotPos2d, matches[i]->shotPos2d)) {
-      matches[i]->shotPos2d = kept.shotPos2d;
+    TravelTime& read = *records[i];
+    if (isWritten(kept.shotPos2d, read.shotPos2d)) {
+      read.shotPos2d = kept.shotPos2d;
     } else {
       moved = true;
     }
-    if (matches[i]->indexStesa != kept.indexStesa) moved = true;
+    if (read.indexStesa != kept.indexStesa || read.ttMisurati.size() != kept.ttMisurati.size()) {
+      moved = true;
+    }
   }
-  const std::size_t records = document.ttArray.size();
-  return moved || matches.size() != records || data.records.size() != records;
+  return moved;
 }
 
 Status makePlan(TravelTimeData& data, const TomoDocument& document, Plan& plan) {
   Status status = checkStrings(data);
-  if (status.ok() && document.traceSets.empty()) {
-    plan.matches = sameRecords(data, document);
-  } else if (status.ok()) {
-    status = matchRecords(data, document, plan.matches);
-  }
   if (!status.ok()) return status;
-  plan.moved = settle(data, document, plan.matches);
+  if (document.traceSets.empty()) {
+    for (TravelTime& record : data.records) plan.records.push_back(&record);
+  } else {
+    status = matchRecords(data, document, plan.records);
+    if (!status.ok()) return status;
+  }
+  plan.moved = settle(data, document, plan.records);
   if (!plan.moved) return {};
   std::vector<Point2D> shots;  // in the order of the survey, which says whose elevation counts
-  for (const TravelTime* record : plan.matches) shots.push_back(record->shotPos2d);
-  if (shots.empty()) {
-    for (const TravelTime& record : data.records) shots.push_back(record.shotPos2d);
-  }
+  for (const TravelTime* record : plan.records) shots.push_back(record->shotPos2d);
   plan.loss = modelLoss(document, measureSurvey(data.strings, shots));
   return {};
 }
 
 /// The records stay, with other times and, if they moved, positions.
 void fillRecords(const Plan& plan, TomoDocument& document) {
-  for (std::size_t i = 0; i < plan.matches.size(); ++i) {
+  for (std::size_t i = 0; i < plan.records.size(); ++i) {
     TravelTime& record = document.ttArray[i];
-    TravelTime& read = *plan.matches[i];
+    TravelTime& read = *plan.records[i];
     record.shotPos2d = read.shotPos2d;
     record.indexStesa = read.indexStesa;
     record.ttMisurati = std::move(read.ttMisurati);

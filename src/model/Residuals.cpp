@@ -1,33 +1,12 @@
 #include "model/Residuals.h"
 
+#include "model/PickFingerprint.h"
 #include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace talvesk {
-namespace {
-
-/// FNV-1a, the hash of Fowler, Noll and Vo, 64 bits wide.
-class Fingerprint {
- public:
-  template <typename T>
-  void take(T value) {
-    unsigned char bytes[sizeof(T)];
-    std::memcpy(bytes, &value, sizeof(T));
-    for (const unsigned char byte : bytes) {
-      mHash ^= byte;
-      mHash *= 1099511628211ULL;
-    }
-  }
-  std::uint64_t value() const { return mHash == 0 ? 1 : mHash; }
-
- private:
-  std::uint64_t mHash = 14695981039346656037ULL;
-};
-
-}  // namespace
 
 std::vector<Residual> residualsOf(const TomoDocument& document) {
   std::vector<Residual> residuals;
@@ -75,15 +54,6 @@ SectionMisfit misfitOfTimes(const TomoDocument& document) {
 SectionMisfit sectionMisfitOf(const TomoDocument& document) {
   if (!document.has_tomographic_info || !document.timesOfSection) return {};
   return misfitOfTimes(document);
-}
-
-std::uint64_t fingerprintOfPicks(const std::vector<TravelTime>& records) {
-  Fingerprint fingerprint;
-  for (const TravelTime& record : records) {
-    fingerprint.take(static_cast<std::uint64_t>(record.ttMisurati.size()));
-    for (const double time : record.ttMisurati) fingerprint.take(hasPick(time) ? time : kNoTime);
-  }
-  return fingerprint.value();
 }
 
 bool picksChangedSince(const TomoDocument& document) {

@@ -4,7 +4,6 @@
 #include "model/TravelTime.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <vector>
 
 namespace talvesk {
@@ -29,10 +28,6 @@ SectionMisfit misfitOfTimes(const TomoDocument& document);
 /// The misfit of the section that the document holds; count 0 when the computed times are not those
 /// through it, or when there are none.
 SectionMisfit sectionMisfitOf(const TomoDocument& document);
-
-/// A number that is another, but for one case in 2^64, as soon as a pick is set, moved or removed.
-/// Never 0. What is no pick counts the same, whatever marks it.
-std::uint64_t fingerprintOfPicks(const std::vector<TravelTime>& records);
 
 /// Whether the picks are known to be others than those that the section was inverted from.
 bool picksChangedSince(const TomoDocument& document);

@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "model/PickFingerprint.h"
 #include "model/Residuals.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"

