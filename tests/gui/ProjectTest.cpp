@@ -185,6 +185,18 @@ TEST_F(Projects, thatAreNoneLeaveTheSurveyAsItIs) {
   EXPECT_EQ(document().ttArray[1].ttMisurati[2], 0.017);
 }
 
+TEST_F(Projects, tellWhatHadToBePutRightInThem) {
+  document().title = "Line\a7";
+  saveAs(path("line.tvsk"));
+  dialogs.expectFiles(QStringLiteral("Load Project"), {path("line.tvsk")});
+  dialogs.expectBox(
+      QStringLiteral("Warning"),
+      QStringLiteral("Some values of the project cannot be. They were put right or left out."),
+      QStringLiteral("it reads \"Line 7\" now"), QMessageBox::Ok);
+  trigger("actionLoad_Project");
+  EXPECT_EQ(document().title, "Line 7");
+}
+
 TEST_F(Projects, tellOfShotFilesThatCouldNotBeSaved) {
   QFile::remove(path("shot2.dat"));
   dialogs.expectFiles(QStringLiteral("Save Project"), {path("line.tvsk")});
