@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <iterator>
 #include <utility>
 
 namespace talvesk {
@@ -55,6 +56,26 @@ void repairRun(TomoDocument& document) {
   }
 }
 
+void repairContourLists(ContourSettings& contours) {
+  std::vector<double>* const lists[] = {&contours.customValues, &contours.gradientValues,
+                                        &contours.laplacianValues};
+  for (std::vector<double>* list : lists) {
+    if (!finite(*list) || list->size() > SectionSceneOptions::kMaxContours) list->clear();
+    std::sort(list->begin(), list->end());
+  }
+  // Projects once had one list, for whatever quantity was contoured.
+  if (contours.customized && contours.onVerticalGradient && contours.gradientValues.empty()) {
+    contours.gradientValues = contours.customValues;
+  }
+  if (contours.customized && contours.onLaplacian && contours.laplacianValues.empty()) {
+    contours.laplacianValues = contours.customValues;
+  }
+  if (std::all_of(std::begin(lists), std::end(lists),
+                  [](const std::vector<double>* list) { return list->empty(); })) {
+    contours.customized = false;
+  }
+}
+
 void repairSection(SectionViewSettings& section) {
   const SectionViewSettings fresh;
   if (section.quantity < SectionQuantity::kVelocity ||
@@ -74,12 +95,7 @@ void repairSection(SectionViewSettings& section) {
   contours.numberOfValues = std::clamp(contours.numberOfValues, 1, kMost);
   contours.labelEvery = std::clamp(contours.labelEvery, 0, kMost);
   contours.labelSize = std::clamp(contours.labelSize, 1, kLargestLabel);
-  if (!finite(contours.customValues) ||
-      contours.customValues.size() > SectionSceneOptions::kMaxContours) {
-    contours.customValues.clear();
-  }
-  std::sort(contours.customValues.begin(), contours.customValues.end());
-  if (contours.customValues.empty()) contours.customized = false;
+  repairContourLists(contours);
   for (double* part : {&contours.color.r, &contours.color.g, &contours.color.b}) {
     *part = std::isfinite(*part) ? std::clamp(*part, 0.0, 1.0) : 0.0;
   }
