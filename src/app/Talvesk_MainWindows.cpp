@@ -2,6 +2,7 @@
 
 #include "app/CommandIcons.h"
 #include "app/HelpKey.h"
+#include "app/KeypadArrows.h"
 #include "app/Messages.h"
 #include "app/SettingsDialog.h"
 #include "io/ProjectSnapshot.h"
@@ -195,6 +196,7 @@ void Talvesk_MainWindows::addKeys() {
       {mUi->actionNext_file->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Right)});
   mUi->actionPrev_file->setShortcuts(
       {mUi->actionPrev_file->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Left)});
+  new KeypadArrows(*this, *mUi->actionPrev_file, *mUi->actionNext_file);
   mUi->actionExit->setShortcuts({mUi->actionExit->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q)});
 }
 
