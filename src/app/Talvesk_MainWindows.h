@@ -56,12 +56,12 @@ class Talvesk_MainWindows : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// Creates the working folder, opens the log, reads the settings; asks for them at the first run.
+  /// Creates the working folder, opens the log, reads the settings.
   explicit Talvesk_MainWindows(QWidget* parent = nullptr);
   ~Talvesk_MainWindows() override;
 
-  /// What the program does once the window is there: offers the copy that a crash left, then loads
-  /// what the command line names.
+  /// What the program does once the window is there: asks for the settings at the first run, offers
+  /// the copy that a crash left, then loads what the command line names.
   void start(const QStringList& files);
 
   /// Loads what the command line names or what was dropped: a project, then shot files, then
@@ -206,7 +206,7 @@ class Talvesk_MainWindows : public QMainWindow {
   // Start and end
   void startLog();
   void loadSettings();
-  void askForSettings();
+  bool askForSettings(int language);
   void connectViews();
   void connectPlots();
   void connectCommands();
@@ -353,6 +353,7 @@ class Talvesk_MainWindows : public QMainWindow {
   int mSnapshotRevision = 0;                   ///< that it is made of
   int mFailedRecoveries = 0;                   ///< in a row
   bool mLaidOut = false;
+  bool mFirstRun = false;                     ///< the user has not been asked for settings yet
   BackgroundInversion* mInversion = nullptr;  ///< under way; the document is not to be edited then
   progressTomographyDialog* mInversionProgress = nullptr;
   bool mCloseAfterInversion = false;

@@ -1,6 +1,5 @@
 #include "app/Messages.h"
 #include "app/Outcomes.h"
-#include "app/SettingsDialog.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/WaitCursor.h"
 #include "io/ShotFile.h"
@@ -260,15 +259,7 @@ void Talvesk_MainWindows::dropEvent(QDropEvent* event) {
 
 void Talvesk_MainWindows::on_actionSettings_triggered() {
   logSlot(__func__);
-  SettingsDialog dialog(mLanguages.list(), mLanguages.current(), mSettings, this);
-  if (dialog.exec() != QDialog::Accepted) return;
-  dialog.apply(mSettings);
-  refreshTraceOptions();
-  if (dialog.languageIndex() != mLanguages.current()) {
-    changeLanguage(dialog.languageIndex());
-  } else {
-    saveSettings();
-  }
+  if (askForSettings(mLanguages.current())) saveSettings();
 }
 
 void Talvesk_MainWindows::on_actionExit_triggered() {
