@@ -45,7 +45,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
       mUi(std::make_unique<Ui::Talvesk_MainWindows>()),
       mFolder(WorkingFolder::ofUser()),
       mSettings(mFolder.settings),
-      mHistory(mFolder.history),
+      mFolders(History(mFolder.history)),
       mRecent(windowStateFile()),
       mRecovery(QString::fromStdString(mFolder.path)) {
   mUi->setupUi(this);

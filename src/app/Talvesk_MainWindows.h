@@ -1,9 +1,9 @@
 #pragma once
 
+#include "app/FileFolders.h"
 #include "app/Languages.h"
 #include "app/RecentProjects.h"
 #include "app/RecoveryCopy.h"
-#include "base/History.h"
 #include "base/Log.h"
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
@@ -239,15 +239,14 @@ class Talvesk_MainWindows : public QMainWindow {
   void recoveryFailed(const QString& reason, bool lasting);
 
   // Loading
-  void loadShotFiles(const QStringList& files);
+  QStringList askForShotFiles();
+  /// How shot files go with those that are there.
+  enum class ShotFiles { kAdded, kInstead };
+  void loadShotFiles(const QStringList& files, ShotFiles how = ShotFiles::kAdded);
   void reportShotFiles(const std::vector<ShotFileOutcome>& outcomes);
   void showFresh(int index);
   void askForShotTime(const std::vector<std::size_t>& sets);
   void importTravelTimeFile(const QString& file);
-  QString historyFolder() const;
-  void saveHistoryOf(const QString& file);  ///< of what was opened, not of what was saved
-  QString saveFolder() const;
-  void rememberSaved(const QString& file);
   void exportCurves();
   QString proposedName() const;
   void proposeName(QFileDialog& dialog, const char* suffix) const;
@@ -277,6 +276,8 @@ class Talvesk_MainWindows : public QMainWindow {
   void refreshSectionCommands();
   void refreshPaletteCommands();
   std::optional<SectionScene> plainSection(SectionQuantity quantity) const;
+  ValueRange contourRange(SectionQuantity quantity) const;
+  void completeContourLists();
   void logContours();
   void takeOverPalettes(ColorPaletteList palettes);  ///< of another project; a locked range stays
   void refreshRefractionCommands();
@@ -331,7 +332,7 @@ class Talvesk_MainWindows : public QMainWindow {
   WorkingFolder mFolder;
   Log mLog;
   Settings mSettings;
-  History mHistory;
+  FileFolders mFolders;
   Languages mLanguages;
   ShotLoader mLoader;
   TomoDocument mDocument;
@@ -341,7 +342,6 @@ class Talvesk_MainWindows : public QMainWindow {
   std::vector<ShotMemory> mShots;  ///< one per trace set
   int mCurrentFile = -1;
   QString mProjectFile;         ///< where the survey is saved; empty before it was
-  QString mSaveFolder;          ///< of the last file saved, empty when one was opened since
   SharedFolder mProjectFolder;  ///< of the shot files of a loaded project
   RecentProjects mRecent;
   QMenu* mRecentMenu = nullptr;
