@@ -23,12 +23,13 @@ constexpr double kMostOfScreen = 0.92;
 }  // namespace
 
 DialogSetGeometry::DialogSetGeometry(const TomoDocument& document, SegyState& state,
-                                     Context context, QWidget* parent)
+                                     FileFolders& folders, Context context, QWidget* parent)
     : QDialog(parent),
       mUi(std::make_unique<Ui::DialogSetGeometry>()),
       mDocument(document),
       mState(state),
-      mContext(std::move(context)),
+      mFolders(folders),
+      mContext(context),
       mSession(new GeometrySession(geometryOf(document), this)),
       mGeophones(new GeophoneTable(*mSession, this)),
       mShots(new ShotTable(*mSession, this)) {

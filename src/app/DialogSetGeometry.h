@@ -15,6 +15,7 @@ namespace talvesk {
 namespace Ui {
 class DialogSetGeometry;
 }
+class FileFolders;
 class GeometrySession;
 class GeophoneTable;
 class ShotTable;
@@ -31,18 +32,15 @@ class DialogSetGeometry : public QDialog {
  public:
   struct Context {
     bool interpreted = false;  ///< a layered interpretation hangs on the positions as they are
-    QString folder;            ///< where shot files are looked for first
   };
 
   /// \param document outlives the dialog, which only reads it; \param state what the readers of
-  /// shot files remember between files
-  DialogSetGeometry(const TomoDocument& document, SegyState& state, Context context,
-                    QWidget* parent = nullptr);
+  /// shot files remember between files; \param folders where its file dialogs start, outlives it
+  DialogSetGeometry(const TomoDocument& document, SegyState& state, FileFolders& folders,
+                    Context context, QWidget* parent = nullptr);
   ~DialogSetGeometry() override;
 
   const SurveyGeometry& geometry() const;
-  /// Where shot files were opened last.
-  const QString& folder() const { return mContext.folder; }
 
   /// Refuses what blocks, and asks before results are lost.
   void accept() override;
@@ -97,6 +95,7 @@ class DialogSetGeometry : public QDialog {
   std::unique_ptr<Ui::DialogSetGeometry> mUi;
   const TomoDocument& mDocument;
   SegyState& mState;
+  FileFolders& mFolders;
   Context mContext;
   GeometrySession* mSession;
   GeophoneTable* mGeophones;

@@ -1,4 +1,5 @@
 #include "app/DialogSetGeometry.h"
+#include "app/FileFolders.h"
 #include "app/GeometrySession.h"
 #include "app/GeometryTables.h"
 #include "app/GeometryTexts.h"
@@ -13,7 +14,6 @@
 #include "ui_DialogSetGeometry.h"
 
 #include <QCollator>
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <algorithm>
@@ -48,11 +48,15 @@ QString DialogSetGeometry::takePositions(std::size_t count, const Status& read,
 
 QString DialogSetGeometry::askForFile(bool save, const QString& filter) {
   if (!save) {
-    return QFileDialog::getOpenFileName(this, tr("Open Geometry"), QDir::homePath(), filter);
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Open Geometry"), mFolders.toOpen(), filter);
+    if (!file.isEmpty()) mFolders.opened(file);
+    return file;
   }
   const QString chosen =
-      QFileDialog::getSaveFileName(this, tr("Save Geometry"), QDir::homePath(), filter);
+      QFileDialog::getSaveFileName(this, tr("Save Geometry"), mFolders.toSave(), filter);
   if (chosen.isEmpty()) return {};
+  mFolders.saved(chosen);
   const QString file = QString::fromStdString(withCsvSuffix(chosen.toStdString()));
   // The dialog has asked about the name as it was chosen only.
   if (file != chosen && QFileInfo::exists(file) &&
@@ -183,9 +187,9 @@ QStringList DialogSetGeometry::askForRecordings(const QString& title, bool sever
   const QString filter = tr("Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)");
   QStringList files;
   if (several) {
-    files = QFileDialog::getOpenFileNames(this, title, mContext.folder, filter);
+    files = QFileDialog::getOpenFileNames(this, title, mFolders.toOpen(), filter);
   } else if (const QString file =
-                 QFileDialog::getOpenFileName(this, title, mContext.folder, filter);
+                 QFileDialog::getOpenFileName(this, title, mFolders.toOpen(), filter);
              !file.isEmpty()) {
     files << file;
   }
@@ -193,7 +197,7 @@ QStringList DialogSetGeometry::askForRecordings(const QString& title, bool sever
   QCollator order;
   order.setNumericMode(true);
   std::sort(files.begin(), files.end(), order);
-  if (!files.isEmpty()) mContext.folder = QFileInfo(files.front()).absolutePath();
+  if (!files.isEmpty()) mFolders.opened(files.front());
   return files;
 }
 

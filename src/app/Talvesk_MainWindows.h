@@ -1,10 +1,10 @@
 #pragma once
 
+#include "app/FileFolders.h"
 #include "app/Languages.h"
 #include "app/ProjectFile.h"
 #include "app/RecentProjects.h"
 #include "app/RecoveryCopy.h"
-#include "base/History.h"
 #include "base/Log.h"
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
@@ -58,12 +58,12 @@ class Talvesk_MainWindows : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// Creates the working folder, opens the log, reads the settings; asks for them at the first run.
+  /// Creates the working folder, opens the log, reads the settings.
   explicit Talvesk_MainWindows(QWidget* parent = nullptr);
   ~Talvesk_MainWindows() override;
 
-  /// What the program does once the window is there: offers the copy that a crash left, then loads
-  /// what the command line names.
+  /// What the program does once the window is there: asks for the settings at the first run, offers
+  /// the copy that a crash left, then loads what the command line names.
   void start(const QStringList& files);
 
   /// For an end that leaves no time for questions: changes that are not saved go into a recovery
@@ -212,7 +212,7 @@ class Talvesk_MainWindows : public QMainWindow {
   // Start and end
   void startLog();
   void loadSettings();
-  void askForSettings();
+  bool askForSettings(int language);
   void connectViews();
   void connectPlots();
   void connectCommands();
@@ -248,16 +248,15 @@ class Talvesk_MainWindows : public QMainWindow {
   void recoveryFailed(const QString& reason, bool lasting);
 
   // Loading
-  std::vector<ReadShot> readShotFiles(const QStringList& files);
-  void loadShotFiles(const QStringList& files);
+  QStringList askForShotFiles();
+  std::vector<ReadShot> readShotFiles(const QStringList& files, const TomoDocument& target);
+  /// How shot files go with those that are there.
+  enum class ShotFiles { kAdded, kInstead };
+  void loadShotFiles(const QStringList& files, ShotFiles how = ShotFiles::kAdded);
   void reportShotFiles(const std::vector<ShotFileOutcome>& outcomes);
   void showFresh(int index);
   void askForShotTime(const std::vector<std::size_t>& sets);
   void importTravelTimeFile(const QString& file);
-  QString historyFolder() const;
-  void saveHistoryOf(const QString& file);  ///< of what was opened, not of what was saved
-  QString saveFolder() const;
-  void rememberSaved(const QString& file);
   void exportCurves();
   QString proposedName() const;
   void proposeName(QFileDialog& dialog, const char* suffix) const;
@@ -287,6 +286,8 @@ class Talvesk_MainWindows : public QMainWindow {
   void refreshSectionCommands();
   void refreshPaletteCommands();
   std::optional<SectionScene> plainSection(SectionQuantity quantity) const;
+  ValueRange contourRange(SectionQuantity quantity) const;
+  void completeContourLists();
   void logContours();
   void takeOverPalettes(ColorPaletteList palettes);  ///< of another project; a locked range stays
   void refreshRefractionCommands();
@@ -344,7 +345,7 @@ class Talvesk_MainWindows : public QMainWindow {
   Log mLog;
   RecordedConsole mRecorded{mLog};  ///< goes after all that tells the console something
   Settings mSettings;
-  History mHistory;
+  FileFolders mFolders;
   Languages mLanguages;
   ShotLoader mLoader;
   TomoDocument mDocument;
@@ -354,7 +355,6 @@ class Talvesk_MainWindows : public QMainWindow {
   std::vector<ShotMemory> mShots;  ///< one per trace set
   int mCurrentFile = -1;
   ProjectFile mProject;         ///< where the survey is saved
-  QString mSaveFolder;          ///< of the last file saved, empty when one was opened since
   SharedFolder mProjectFolder;  ///< of the shot files of a loaded project
   RecentProjects mRecent;
   QMenu* mRecentMenu = nullptr;
@@ -367,6 +367,7 @@ class Talvesk_MainWindows : public QMainWindow {
   int mSnapshotRevision = 0;                   ///< that it is made of
   int mFailedRecoveries = 0;                   ///< in a row
   bool mLaidOut = false;
+  bool mFirstRun = false;                     ///< the user has not been asked for settings yet
   BackgroundInversion* mInversion = nullptr;  ///< under way; the document is not to be edited then
   progressTomographyDialog* mInversionProgress = nullptr;
   bool mCloseAfterInversion = false;

@@ -1,7 +1,6 @@
 #include "app/LossQuestion.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
-#include "app/SettingsDialog.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/WaitCursor.h"
 #include "io/ShotFile.h"
@@ -34,6 +33,13 @@ bool isTravelTimeFile(const QString& file) {
   return suffixes.contains(QFileInfo(file).suffix().toLower());
 }
 
+/// Why a file was not loaded. A survey that takes no files refuses them without a name.
+QString reasonOf(const ShotFileOutcome& outcome) {
+  const std::string& why = outcome.status.message();
+  const bool named = why.find(outcome.path) != std::string::npos;
+  return QString::fromStdString(named ? why : outcome.path + ": " + why);
+}
+
 bool isProjectFile(const QString& file) {
   return QFileInfo(file).suffix().toLower() == QLatin1String("tvsk");
 }
@@ -43,42 +49,31 @@ bool isProjectFile(const QString& file) {
 void Talvesk_MainWindows::on_actionNew_triggered() {
   logSlot(__func__);
   if (!mayLoseChanges()) return;
-  clearDocument();
-  loadTraces_PWave();
-}
-
-QString Talvesk_MainWindows::historyFolder() const {
-  return QString::fromStdString(mHistory.readHistory());
-}
-
-void Talvesk_MainWindows::saveHistoryOf(const QString& file) {
-  mHistory.saveHistory(QFileInfo(file).absolutePath().toStdString());
-  mSaveFolder.clear();
-}
-
-/// Where save dialogs start: where the last file was saved, beside the opened ones before that.
-QString Talvesk_MainWindows::saveFolder() const {
-  return mSaveFolder.isEmpty() ? historyFolder() : mSaveFolder;
-}
-
-void Talvesk_MainWindows::rememberSaved(const QString& file) {
-  mSaveFolder = QFileInfo(file).absolutePath();
+  const QStringList files = askForShotFiles();
+  if (!files.isEmpty()) loadShotFiles(files, ShotFiles::kInstead);
 }
 
 void Talvesk_MainWindows::loadTraces_PWave() {
   logSlot(__func__);
-  const QStringList files = QFileDialog::getOpenFileNames(
-      this, tr("Open Seismic Trace"), historyFolder(),
-      tr("SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;"
-         "All Files (*)"));
-  if (files.isEmpty()) return;
-  saveHistoryOf(files.front());
+  const QStringList files = askForShotFiles();
+  if (!files.isEmpty()) loadShotFiles(files);
+}
+
+QStringList Talvesk_MainWindows::askForShotFiles() {
+  QStringList files = QFileDialog::getOpenFileNames(
+      this, tr("Open Seismic Trace"), mFolders.toOpen(),
+      tr("Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)") + QLatin1String(";;") +
+          tr("SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;"
+             "All Files (*)"));
+  if (files.isEmpty()) return files;
+  mFolders.opened(files.front());
   mLog.write("Loading " + std::to_string(files.size()) + " seismic files", 0);
-  loadShotFiles(files);
+  return files;
 }
 
 /// Reads files until they end or the user has enough of it.
-std::vector<ReadShot> Talvesk_MainWindows::readShotFiles(const QStringList& files) {
+std::vector<ReadShot> Talvesk_MainWindows::readShotFiles(const QStringList& files,
+                                                         const TomoDocument& target) {
   std::vector<ReadShot> shots;
   QProgressDialog progress(tr("Loading shot files ..."), tr("Stop"), 0,
                            static_cast<int>(files.size()), this);
@@ -87,34 +82,44 @@ std::vector<ReadShot> Talvesk_MainWindows::readShotFiles(const QStringList& file
   for (const QString& file : files) {
     progress.setValue(static_cast<int>(shots.size()));
     if (progress.wasCanceled()) break;
-    shots.push_back(mLoader.read(file.toStdString(), mDocument));
+    shots.push_back(mLoader.read(file.toStdString(), target));
   }
   progress.reset();
   return shots;
 }
 
-void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
-  const std::size_t before = mDocument.traceSets.size();
-  std::vector<ReadShot> shots = readShotFiles(files);
+/// A survey that others are to take the place of stays until one of these is there.
+void Talvesk_MainWindows::loadShotFiles(const QStringList& files, ShotFiles how) {
+  TomoDocument fresh;
+  TomoDocument& target = how == ShotFiles::kInstead ? fresh : mDocument;
+  const std::size_t before = target.traceSets.size();
+  std::vector<ReadShot> shots = readShotFiles(files, target);
   Losses losses;
-  losses.model = lossByShots(shots, mDocument);
-  if (!mayLose(this, mDocument, losses)) {
+  losses.model = lossByShots(shots, target);
+  if (!mayLose(this, target, losses)) {
     statusBar()->showMessage(tr("No shot file was loaded."), kMessageTime);
     return;
   }
-  const std::vector<ShotFileOutcome> outcomes = appendShots(std::move(shots), mDocument);
+  const std::vector<ShotFileOutcome> outcomes = appendShots(std::move(shots), target);
+  std::vector<ShotMemory> memories;
   for (const ShotFileOutcome& outcome : outcomes) {
     if (!outcome.status.ok()) continue;
-    ShotMemory& memory = mShots.emplace_back();
+    ShotMemory& memory = memories.emplace_back();
     memory.format = QString::fromStdString(outcome.format);
     memory.warnings = linesOf(outcome.warnings);
   }
+  if (memories.empty()) return reportShotFiles(outcomes);
+  if (how == ShotFiles::kInstead) {
+    clearDocument();
+    mDocument = std::move(fresh);
+  }
+  mShots.insert(mShots.end(), memories.begin(), memories.end());
   documentChanged();
-  if (mDocument.traceSets.size() > before) showFresh(static_cast<int>(before));
+  showFresh(static_cast<int>(before));
   reportShotFiles(outcomes);
-  std::vector<std::size_t> fresh(mDocument.traceSets.size() - before);
-  std::iota(fresh.begin(), fresh.end(), before);
-  askForShotTime(fresh);
+  std::vector<std::size_t> loaded(memories.size());
+  std::iota(loaded.begin(), loaded.end(), before);
+  askForShotTime(loaded);
 }
 
 /// Makes a record that was just loaded the current one, and the keys go to its traces: they would
@@ -132,15 +137,14 @@ void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& ou
     if (!outcome.warnings.empty()) ++warned;
     if (outcome.status.ok()) continue;
     mLog.write(outcome.status.message(), 1);
-    const QString message = QString::fromStdString(outcome.status.message());
-    (outcome.status.code() == kUnknownSuffix ? unsupported : broken) << message;
+    (outcome.status.code() == kUnknownSuffix ? unsupported : broken) << reasonOf(outcome);
   }
   const QString title = tr("Error occured");
   if (!unsupported.isEmpty()) {
-    showError(this, title, tr("Unsupported file format."), shortList(unsupported));
+    showErrors(this, title, tr("Unsupported file format."), unsupported);
   }
   if (!broken.isEmpty()) {
-    showError(this, title, tr("Error while loading one or more traces."), shortList(broken));
+    showErrors(this, title, tr("Error while loading one or more traces."), broken);
   }
   const int loaded = static_cast<int>(outcomes.size()) - static_cast<int>(unsupported.size()) -
                      static_cast<int>(broken.size());
@@ -185,10 +189,10 @@ void Talvesk_MainWindows::askForShotTime(const std::vector<std::size_t>& sets) {
 void Talvesk_MainWindows::on_actionLoad_TT_triggered() {
   logSlot(__func__);
   const QString file = QFileDialog::getOpenFileName(
-      this, tr("Import TravelTimes"), historyFolder(),
+      this, tr("Import TravelTimes"), mFolders.toOpen(),
       tr("Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)"));
   if (file.isEmpty()) return;
-  saveHistoryOf(file);
+  mFolders.opened(file);
   importTravelTimeFile(file);
 }
 
@@ -246,8 +250,9 @@ void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
 }
 
 void Talvesk_MainWindows::openFiles(const QStringList& files) {
-  if (!files.isEmpty()) logSlot(__func__);
-  if (mInversion != nullptr) return;  // a drop may have been let go just before it began
+  if (files.isEmpty() || mInversion != nullptr) return;  // it may have begun since the drop
+  logSlot(__func__);
+  mFolders.opened(files.front());
   QStringList shots;
   QStringList travelTimes;
   QStringList projects;
@@ -285,15 +290,7 @@ void Talvesk_MainWindows::dropEvent(QDropEvent* event) {
 
 void Talvesk_MainWindows::on_actionSettings_triggered() {
   logSlot(__func__);
-  SettingsDialog dialog(mLanguages.list(), mLanguages.current(), mSettings, this);
-  if (dialog.exec() != QDialog::Accepted) return;
-  dialog.apply(mSettings);
-  refreshTraceOptions();
-  if (dialog.languageIndex() != mLanguages.current()) {
-    changeLanguage(dialog.languageIndex());
-  } else {
-    saveSettings();
-  }
+  if (askForSettings(mLanguages.current())) saveSettings();
 }
 
 void Talvesk_MainWindows::on_actionExit_triggered() {

@@ -20,11 +20,8 @@ void Talvesk_MainWindows::on_actionGeometry_triggered() {
 bool Talvesk_MainWindows::askGeometry() {
   DialogSetGeometry::Context context;
   context.interpreted = isInterpreted(mInterpretation);
-  context.folder = historyFolder();
-  DialogSetGeometry dialog(mDocument, mLoader.state(), context, this);
-  const bool accepted = dialog.exec() == QDialog::Accepted;
-  if (dialog.folder() != context.folder) mHistory.saveHistory(dialog.folder().toStdString());
-  if (!accepted) return false;
+  DialogSetGeometry dialog(mDocument, mLoader.state(), mFolders, context, this);
+  if (dialog.exec() != QDialog::Accepted) return false;
   takeGeometry(dialog.geometry());
   return true;
 }

@@ -27,7 +27,7 @@ bool Talvesk_MainWindows::makeGrid() {
   SurveyProfile profile;
   GridSettings settings = proposeGrid(mDocument, profile, mLog);
   while (!profile.hasGeometry()) {
-    showError(
+    showUrgentWarning(
         this, tr("Warning"),
         tr("Geophones do not have geometry! \n") + tr("Please set the position of geophones\n"));
     if (!askGeometry()) return false;

@@ -68,7 +68,8 @@ bool Talvesk_MainWindows::saveProject() {
 }
 
 bool Talvesk_MainWindows::saveProjectAs() {
-  QFileDialog dialog(this, tr("Save Project"), mProject.isEmpty() ? saveFolder() : mProject.path(),
+  QFileDialog dialog(this, tr("Save Project"),
+                     mProject.isEmpty() ? mFolders.toSave() : mProject.path(),
                      tr("Talvesk projects (*.tvsk);;All Files (*)"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
@@ -78,7 +79,9 @@ bool Talvesk_MainWindows::saveProjectAs() {
   if (dialog.exec() != QDialog::Accepted) return false;
   QString file = dialog.selectedFiles().value(0);
   if (QFileInfo(file).completeBaseName().isEmpty() || QFileInfo(file).isDir()) {
-    showError(this, tr("Error occured"), tr("Empty filename to be saved"));
+    showError(this, tr("Error occured"), tr("Empty filename to be saved"),
+              tr("%1 is a folder or names no file. Give the project a name.")
+                  .arg(QDir::toNativeSeparators(file)));
     return false;
   }
   if (!file.endsWith(kSuffix)) file += kSuffix;
@@ -88,7 +91,7 @@ bool Talvesk_MainWindows::saveProjectAs() {
                 tr("Do you want to replace it?"), false)) {
     return false;
   }
-  rememberSaved(file);
+  mFolders.saved(file);
   return saveProjectTo(file);
 }
 
@@ -255,10 +258,10 @@ void Talvesk_MainWindows::on_actionSave_Project_As_triggered() {
 
 void Talvesk_MainWindows::on_actionLoad_Project_triggered() {
   logSlot(__func__);
-  const QString file = QFileDialog::getOpenFileName(this, tr("Load Project"), historyFolder(),
+  const QString file = QFileDialog::getOpenFileName(this, tr("Load Project"), mFolders.toOpen(),
                                                     tr("Talvesk projects (*.tvsk);;All Files (*)"));
   if (file.isEmpty()) return;
-  saveHistoryOf(file);
+  mFolders.opened(file);
   openProject(file);
 }
 
@@ -282,6 +285,7 @@ void Talvesk_MainWindows::refreshRecentProjects() {
     mRecentMenu->addAction(QStringLiteral("&%1 %2").arg(QString::number(i + 1), name), this,
                            [this, file = projects[i]] {
                              logSlot("openProject");
+                             mFolders.opened(file);
                              openProject(file);
                            });
   }

@@ -26,6 +26,11 @@ constexpr std::size_t kPiece = std::size_t{1} << 22;  // bytes; copied in a few 
 }  // namespace
 
 void Talvesk_MainWindows::start(const QStringList& files) {
+  if (mFirstRun) {
+    mFirstRun = false;
+    askForSettings(-1);
+    saveSettings();  // after Cancel, too: nobody is asked twice
+  }
   offerRecovery();
   openFiles(files);
 }

@@ -59,13 +59,13 @@ void Talvesk_MainWindows::on_actionImages_triggered() {
   ImagesDialog dialog(mDocument, mInterpretation, look, mCurrentFile, this);
   QSettings remembered(windowStateFile(), QSettings::IniFormat);
   dialog.recall(remembered);
-  dialog.setFolder(saveFolder());
+  dialog.setFolder(mFolders.toSave());
   dialog.setBaseName(proposedName());
   if (dialog.exec() != QDialog::Accepted) return;
   dialog.remember(remembered);
   const std::vector<PlannedImage> images = dialog.images();
   if (images.empty() || !mayOverwrite(images)) return;
-  rememberSaved(QString::fromStdString(images.front().path));
+  mFolders.saved(QString::fromStdString(images.front().path));
   writeImages(images);
 }
 

@@ -58,6 +58,8 @@ void describe(V& fields, ContourSettings& contours) {
   fields.optional("customized", contours.customized);
   fields.optional("numberOfValues", contours.numberOfValues);
   fields.optional("customValues", contours.customValues);
+  fields.optional("gradientValues", contours.gradientValues);
+  fields.optional("laplacianValues", contours.laplacianValues);
   fields.optional("labelEvery", contours.labelEvery);
   fields.optional("labelSize", contours.labelSize);
   fields.optional("color", contours.color);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace talvesk {
@@ -99,6 +100,33 @@ bool hold(Number& value, Number least, Number most) {
   return value != before;
 }
 
+/// Whether a list had to be given up.
+bool repairContourLists(ContourSettings& contours) {
+  std::vector<double>* const lists[] = {&contours.customValues, &contours.gradientValues,
+                                        &contours.laplacianValues};
+  bool repaired = false;
+  for (std::vector<double>* values : lists) {
+    if (values->size() > SectionSceneOptions::kMaxContours ||
+        !all(*values, [](double v) { return std::isfinite(v); })) {
+      values->clear();
+      repaired = true;
+    }
+    std::sort(values->begin(), values->end());
+  }
+  // Projects once had one list, for whatever quantity was contoured.
+  if (contours.customized && contours.onVerticalGradient && contours.gradientValues.empty()) {
+    contours.gradientValues = contours.customValues;
+  }
+  if (contours.customized && contours.onLaplacian && contours.laplacianValues.empty()) {
+    contours.laplacianValues = contours.customValues;
+  }
+  if (std::all_of(std::begin(lists), std::end(lists),
+                  [](const std::vector<double>* list) { return list->empty(); })) {
+    contours.customized = false;
+  }
+  return repaired;
+}
+
 void repairContours(ContourSettings& contours, Repairs& repairs) {
   constexpr int kMost = static_cast<int>(SectionSceneOptions::kMaxContours);
   constexpr int kLargestLabel = 200;  // points
@@ -108,14 +136,7 @@ void repairContours(ContourSettings& contours, Repairs& repairs) {
   for (double* part : {&contours.color.r, &contours.color.g, &contours.color.b}) {
     repaired = hold(*part, 0.0, 1.0) || repaired;
   }
-  std::vector<double>& values = contours.customValues;
-  if (values.size() > SectionSceneOptions::kMaxContours ||
-      !all(values, [](double v) { return std::isfinite(v); })) {
-    values.clear();
-    repaired = true;
-  }
-  std::sort(values.begin(), values.end());
-  if (values.empty()) contours.customized = false;
+  repaired = repairContourLists(contours) || repaired;
   if (repaired) repairs.emplace_back("its contours cannot be drawn so; they are put right");
 }
 

@@ -83,10 +83,10 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   if (!std::filesystem::exists(path, error)) return 0;  // projects of earlier versions
   std::string why;
   if (readRefraction(path, interpretation, why) != 0) return fail(why);
-  const Status status = checkInterpretation(document, interpretation, mRepairs);
-  if (!status.ok()) return fail(std::string(kRefractionMember) + ": " + status.message());
   const std::size_t left =
       leaveOutImplausible(interpretation.refractData, lineLength(shotArrivals(document)));
+  const Status status = checkInterpretation(document, interpretation, mRepairs);
+  if (!status.ok()) return fail(std::string(kRefractionMember) + ": " + status.message());
   if (left > 0) {
     mWarnings.push_back(std::string(kRefractionMember) + ": " + std::to_string(left) +
                         " velocities and depths of the layers are left out: outside 50 to 12 000 "

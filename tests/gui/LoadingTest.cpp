@@ -1,7 +1,9 @@
 #include "gui/WindowTest.h"
+#include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
 #include "support/TestSurveys.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -9,6 +11,7 @@
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -100,6 +103,77 @@ TEST_F(Loading, startsWhereFilesWereOpenedAndSavingWhereTheyWereSaved) {
   action("actionOpen_shot_files").trigger();
   expectFolder(home.path());
   action("actionExport_TravelTimes").trigger();
+}
+
+TEST_F(Loading, startsWhereTheLastFileWasHoweverItCame) {
+  for (const char* folder : {"dropped", "geometry"}) {
+    ASSERT_TRUE(QDir(QString::fromStdString(home.path())).mkdir(folder));
+  }
+  const auto expectFolder = [&](const char* command, const std::string& folder) {
+    dialogs.expect([folder](QWidget& dialog) {
+      EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path().toStdString(), folder);
+      dialog.close();
+    });
+    action(command).trigger();
+  };
+  window->openFiles({shotFile("dropped/a.dat")});
+  expectFolder("actionOpen_shot_files", home.file("dropped"));
+  expectFolder("actionLoad_TT", home.file("dropped"));
+
+  // Dialogs within dialogs, too.
+  dialogs.expect([this](QWidget& palettes) {
+    dialogs.expectFiles("Save Palette", {QString::fromStdString(home.file("geometry/mine.xml"))});
+    palettes.findChild<QAbstractButton*>("saveButton")->click();
+    palettes.close();
+  });
+  action("actionPalette").trigger();
+  expectFolder("actionSave_Project_As", home.file("geometry"));
+  expectFolder("actionOpen_shot_files", home.file("dropped"));
+}
+
+TEST_F(Loading, showsTheShotFilesOfAllFormatsFirst) {
+  dialogs.expect([](QWidget& widget) {
+    const auto& dialog = dynamic_cast<QFileDialog&>(widget);
+    const QStringList filters = dialog.nameFilters();
+    EXPECT_EQ(filters.mid(1).join(";;").toStdString(),
+              "SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;"
+              "All Files (*)");
+    EXPECT_EQ(dialog.selectedNameFilter(), filters.front());
+    for (const char* suffix : {"seg2", "dat", "sg2", "sgy", "segy", "su"}) {
+      EXPECT_TRUE(hasShotFileSuffix(std::string("shot.") + suffix));
+      EXPECT_THAT(filters.front().toStdString(), HasSubstr(std::string("*.") + suffix));
+    }
+    widget.close();
+  });
+  action("actionOpen_shot_files").trigger();
+}
+
+TEST_F(Loading, thatFailsTellsWhyOfEveryFile) {
+  QStringList broken;
+  for (int i = 0; i < 12; ++i) {
+    broken << QString::fromStdString(home.put("broken" + std::to_string(i) + ".dat", "no SEG-2"));
+  }
+  dialogs.expect([&](QWidget& widget) {
+    auto& box = dynamic_cast<QMessageBox&>(widget);
+    EXPECT_EQ(box.windowTitle().toStdString(), "Error occured");
+    EXPECT_THAT(box.informativeText().toStdString(), HasSubstr("and 4 more"));
+    const QStringList reasons = box.detailedText().split('\n');
+    EXPECT_EQ(reasons.size(), broken.size());
+    for (int i = 0; i < std::min(reasons.size(), broken.size()); ++i) {
+      EXPECT_TRUE(reasons[i].startsWith(broken[i] + ": ")) << reasons[i].toStdString();
+      EXPECT_GT(reasons[i].size(), broken[i].size() + 10) << "a reason";
+    }
+    box.button(QMessageBox::Ok)->click();
+  });
+  window->openFiles(broken);
+}
+
+TEST_F(Loading, intoPicksWithoutTracesNamesTheFilesThatItRefuses) {
+  drop({picksFile("picks.otte", 2, 12)});
+  const QString shot = shotFile("a.dat");
+  dialogs.expectBox("Error occured", "Error while loading one or more traces.",
+                    shot + ": the survey holds picks without traces", QMessageBox::Ok);
+  window->openFiles({shot});
 }
 
 TEST_F(Loading, givenUpChangesNothing) {
