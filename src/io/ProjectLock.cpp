@@ -57,7 +57,7 @@ ProjectLock::ProjectLock(LockedFile file) : mFile(std::move(file)) {
   const std::string text =
       thisUser() + "\n" + thisHost() + "\n" + std::to_string(::getpid()) + "\n";
   // Without its text, on a full disk, it is a lock still.
-  static_cast<void>(::write(mFile.descriptor(), text.data(), text.size()));
+  [[maybe_unused]] const auto written = ::write(mFile.descriptor(), text.data(), text.size());
 }
 
 ProjectLock::~ProjectLock() {
