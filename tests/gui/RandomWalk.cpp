@@ -38,7 +38,7 @@ class Walk : public QObject {
   /// Before a step and not after it: the step may be inside a dialog for long.
   void next() {
     QTimer::singleShot(kPause, this, [this] {
-      if (mClock.elapsed() > 1000 * mSeconds) return leave();
+      if (static_cast<double>(mClock.elapsed()) > 1000.0 * mSeconds) return leave();
       next();
       step();
     });
