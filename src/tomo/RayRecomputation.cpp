@@ -18,7 +18,7 @@ Status recomputeRays(TomoDocument& document, Log& log) {
     if (status.ok()) pass.appendRaysTo(document.rays);
     return status;
   } catch (const std::exception& error) {
-    return Status::failure(std::string("The rays could not be traced: ") + error.what());
+    return Status::failure(Message::tr("The rays could not be traced: %1").arg(error.what()));
   }
 }
 

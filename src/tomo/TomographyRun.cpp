@@ -27,12 +27,12 @@ class Stopwatch {
 
 Status checkParameters(const TomographyParameters& p) {
   if (p.externalIterations < 1 || p.solverIterations < 1 || p.smoothing < 1) {
-    return Status::failure("Iterations and smoothing parameter must be 1 at least.");
+    return Status::failure(Message::tr("Iterations and smoothing parameter must be 1 at least."));
   }
   for (const double limit : {p.minVelocity, p.maxVelocity}) {
     if (limit > 0.0 && std::isfinite(limit) && std::isfinite(1.0 / limit)) continue;
-    return Status::failure("The velocity limits must be positive numbers; " + formatDouble(limit) +
-                           " m/s is none.");
+    return Status::failure(
+        Message::tr("The velocity limits must be positive numbers; %1 m/s is none.").arg(limit));
   }
   return {};
 }
@@ -124,8 +124,8 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   try {
     finish(document, p, result, sinceAsked, log);
   } catch (const std::exception& error) {
-    result.status = Status::failure(std::string("The information density could not be computed: ") +
-                                    error.what());
+    result.status = Status::failure(
+        Message::tr("The information density could not be computed: %1").arg(error.what()));
   }
   return result;
 }
