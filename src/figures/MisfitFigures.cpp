@@ -131,7 +131,9 @@ Status prepareMisfitHistoryFigure(const InversionRecord& record, double widthMm,
     if (record.history[i].count == 0 || !std::isfinite(record.history[i].rmse)) continue;
     plot->points.push_back({static_cast<double>(i + 1), 1e3 * record.history[i].rmse});
   }
-  if (plot->points.empty()) return Status::failure("The inversion has no misfit to draw.");
+  if (plot->points.empty()) {
+    return Status::failure(Message::tr("The inversion has no misfit to draw."));
+  }
   plot->joined = plot->wholeNumbers = plot->zeroBased = true;
   plot->figure.addAxis(QwtPlot::xBottom, FigureWords::tr("External iteration"));
   plot->figure.addAxis(QwtPlot::yLeft, FigureWords::tr("RMS misfit [ms]"));
@@ -145,7 +147,7 @@ Status prepareResidualFigure(const TomoDocument& document, double widthMm, doubl
     if (!std::isfinite(residual.offset) || !std::isfinite(residual.residual)) continue;
     plot->points.push_back({residual.offset, 1e3 * residual.residual});
   }
-  if (plot->points.empty()) return Status::failure("There are no residuals to draw.");
+  if (plot->points.empty()) return Status::failure(Message::tr("There are no residuals to draw."));
   plot->figure.addAxis(QwtPlot::xBottom, FigureWords::tr("Offset [m]"));
   plot->figure.addAxis(QwtPlot::yLeft, FigureWords::tr("Computed minus measured [ms]"));
   return prepare(plot, widthMm, heightMm, drawing);
