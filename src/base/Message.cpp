@@ -42,9 +42,27 @@ Message Message::number(double value, int significantDigits) {
 
 Message Message::arg(Message argument) && {
   mArguments.push_back(std::move(argument));
+  fill();
+  return std::move(*this);
+}
+
+void Message::fill() {
   mEnglish =
       filled(mSource, mArguments.size(), [this](std::size_t i) { return mArguments[i].mEnglish; });
-  return std::move(*this);
+}
+
+Message Message::without(const std::string& text) const {
+  Message shorter = *this;
+  if (mKind == Kind::kTranslated) {
+    for (Message& argument : shorter.mArguments) argument = argument.without(text);
+    shorter.fill();
+    return shorter;
+  }
+  std::string& own = shorter.mEnglish;
+  for (auto at = own.find(text); at != std::string::npos && !text.empty(); at = own.find(text)) {
+    own.erase(at, text.size());
+  }
+  return shorter;
 }
 
 std::string Message::in(const Language& language) const {

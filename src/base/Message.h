@@ -35,6 +35,9 @@ class Message {
     return std::move(*this).arg(Message(std::to_string(value)));
   }
 
+  /// The same, with a text cut out of what stands for its placeholders: the folder of a path.
+  Message without(const std::string& text) const;
+
   bool empty() const { return mEnglish.empty(); }
   const std::string& english() const { return mEnglish; }
   operator const std::string&() const { return mEnglish; }  ///< English where a string is wanted
@@ -56,6 +59,8 @@ class Message {
   const char* mSource = nullptr;    ///< of a text to be translated
   std::vector<Message> mArguments;  ///< in the order of the placeholders
   std::string mEnglish;
+
+  void fill();  ///< the English text with its arguments
 };
 
 inline bool operator==(const Message& a, const Message& b) {
