@@ -50,8 +50,8 @@ bool readRecord(std::string_view line, const std::string& separator, bool labell
   return true;
 }
 
-Status refused(const std::string& name, std::size_t line, const std::string& reason) {
-  return Status::failure(name + ", line " + std::to_string(line) + ": " + reason);
+Status refused(const std::string& name, std::size_t line, const Message& reason) {
+  return Status::failure(Message::tr("%1, line %2: %3").arg(name).arg(line).arg(reason));
 }
 
 Status readFile(const std::string& path, const std::string& separator, bool labelled,
@@ -79,8 +79,10 @@ Status writeLabelledRecords(const std::string& path, const std::string& separato
                             const std::vector<std::string>& labels,
                             const GeometryRecords& records) {
   if (labels.size() != records.size()) {
-    return Status::failure("Cannot write " + path + ": there are " + std::to_string(labels.size()) +
-                           " labels for " + std::to_string(records.size()) + " records");
+    return Status::failure(Message::tr("Cannot write %1: there are %2 labels for %3 records")
+                               .arg(path)
+                               .arg(labels.size())
+                               .arg(records.size()));
   }
   const std::string between = separatorText(separator);
   return writeTextAtomically(path, [&](std::ostream& stream) {
@@ -99,10 +101,10 @@ Status parseRecords(std::string_view text, const std::string& name, const std::s
   for (std::string_view line; !cursor.atEnd() && cursor.nextLine(line);) {
     if (line.size() > kLineLimit) {
       return refused(name, cursor.line(),
-                     "the line holds more than " + std::to_string(kLineLimit) + " characters");
+                     Message::tr("the line holds more than %1 characters").arg(kLineLimit));
     }
     if (!readRecord(line, between, labelled, read.emplace_back())) {
-      return refused(name, cursor.line(), "a number is out of range or not finite");
+      return refused(name, cursor.line(), Message::tr("a number is out of range or not finite"));
     }
   }
   while (!read.empty() && read.back().empty()) read.pop_back();
@@ -148,8 +150,8 @@ Status positionsOf(const GeometryRecords& records, std::vector<Point2D>& positio
   read.reserve(records.size());
   for (const auto& record : records) {
     if (record.size() < 2) {
-      return Status::failure("line " + std::to_string(read.size() + 1) +
-                             " has no x and z; check the separator");
+      return Status::failure(
+          Message::tr("line %1 has no x and z; check the separator").arg(read.size() + 1));
     }
     read.push_back({record[0], record[1]});
   }

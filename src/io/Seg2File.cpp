@@ -35,7 +35,7 @@ class Seg2Reader {
 
   Status read(ShotFileData& data) {
     if (mReader.u16(0, kOrder) != kFileBlock) {
-      return Status::failure("it is no SEG-2 file of little-endian numbers");
+      return Status::failure(Message::tr("it is no SEG-2 file of little-endian numbers"));
     }
     const std::uint16_t traces = mReader.u16(kTraceCountAt, kOrder);
     console::out() << "Numero tracce:" << traces << '\n';
@@ -45,7 +45,7 @@ class Seg2Reader {
     mData.traces.resize(traces);
     for (std::uint64_t i = 0; i < traces; ++i) readTrace(pointer(mReader, i), mData.traces[i]);
     if (!mHasInterval) {
-      return Status::failure("its last trace has no usable sample interval", 2);
+      return Status::failure(Message::tr("its last trace has no usable sample interval"), 2);
     }
     warnOfFormats();
     warnOfTraces(mData, mReader.missing(), mNonFinite);
@@ -116,10 +116,11 @@ class Seg2Reader {
 
   void warnOfFormats() {
     for (const std::uint8_t format : mFormats) {
-      const std::string code = "data format code " + std::to_string(format);
       const bool int16 = format == kInt16 || format == kOtherInt16;
-      mData.warnings.push_back(int16 ? code + ": one 16-bit sample is taken of every four bytes"
-                                     : code + " is not read; its samples are 0");
+      Message text =
+          int16 ? Message::tr("data format code %1: one 16-bit sample is taken of every four bytes")
+                : Message::tr("data format code %1 is not read; its samples are 0");
+      mData.warnings.push_back(std::move(text).arg(format));
     }
   }
 

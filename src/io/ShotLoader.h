@@ -12,9 +12,9 @@ namespace talvesk {
 /// What became of one shot file.
 struct ShotFileOutcome {
   std::string path;
-  Status status;                      ///< as of readShotFile
-  std::string format;                 ///< "seg2", "segy", "su"; empty after a failure
-  std::vector<std::string> warnings;  ///< without the path
+  Status status;                  ///< as of readShotFile
+  std::string format;             ///< "seg2", "segy", "su"; empty after a failure
+  std::vector<Message> warnings;  ///< without the path
 };
 
 /// Loads shot files into a document and remembers between them, and between calls, what the readers
