@@ -88,26 +88,31 @@ void repairSection(SectionViewSettings& section) {
 Status checkCells(const GridMember& grid) {
   const auto cells = static_cast<std::uint64_t>(grid.righe) * grid.col;
   if (cells != grid.velocities.size() || cells != grid.toBeDraw.size()) {
-    return Status::failure(std::to_string(grid.righe) + " rows of " + std::to_string(grid.col) +
-                           " columns do not go with " + std::to_string(grid.velocities.size()) +
-                           " velocities and " + std::to_string(grid.toBeDraw.size()) +
-                           " draw flags");
+    return Status::failure(
+        Message::tr("%1 rows of %2 columns do not go with %3 velocities and %4 draw flags")
+            .arg(grid.righe)
+            .arg(grid.col)
+            .arg(grid.velocities.size())
+            .arg(grid.toBeDraw.size()));
   }
   constexpr std::uint32_t kMostNodes = 1000;  // per side; more has no use and no memory
   if (grid.nV < 2 || grid.nV > kMostNodes || !positive(grid.aLato) ||
       grid.aLato > kLargestCoordinate) {
-    return Status::failure("cells with " + std::to_string(grid.nV) + " nodes per side, " +
-                           formatDouble(grid.aLato) + " m long, cannot be");
+    return Status::failure(Message::tr("cells with %1 nodes per side, %2 m long, cannot be")
+                               .arg(grid.nV)
+                               .arg(grid.aLato));
   }
   if (!std::all_of(grid.velocities.begin(), grid.velocities.end(), positive)) {
-    return Status::failure("a velocity is not a positive number");
+    return Status::failure(Message::tr("a velocity is not a positive number"));
   }
   return {};
 }
 
 Status buildGrid(const GridMember& grid, TomoDocument& document) {
   const SurveyProfile profile = document.surveyProfile();
-  if (!profile.hasGeometry()) return Status::failure("there is a grid, but no two geophones");
+  if (!profile.hasGeometry()) {
+    return Status::failure(Message::tr("there is a grid, but no two geophones"));
+  }
   GridSize size;
   size.righe = grid.righe;
   size.col = grid.col;
@@ -119,7 +124,7 @@ Status buildGrid(const GridMember& grid, TomoDocument& document) {
   for (const double velocity : grid.velocities) slownesses.push_back(1.0 / velocity);
   Splines::LinearSpline surface = profile.surface();
   std::unique_ptr<Grid> built = buildGridFromValues(size, std::move(slownesses), surface);
-  if (built == nullptr) return Status::failure("the grid cannot be built");
+  if (built == nullptr) return Status::failure(Message::tr("the grid cannot be built"));
   for (std::uint32_t c = 0; c < built->cellCount(); ++c) built->setDraw(c, grid.toBeDraw[c]);
   document.grid = std::move(built);
   document.surface = std::move(surface);
@@ -168,7 +173,7 @@ Status checkSurvey(SurveyMember& member) {
   TomoDocument& document = member.document;
   for (const auto& string : document.goephonesStringSet) {
     if (!std::all_of(string.begin(), string.end(), plausible)) {
-      return Status::failure("a geophone has no place");
+      return Status::failure(Message::tr("a geophone has no place"));
     }
   }
   std::int32_t own = 0;
@@ -176,10 +181,11 @@ Status checkSurvey(SurveyMember& member) {
     // -1 is a shot that no string recorded.
     const auto strings = static_cast<std::int64_t>(document.goephonesStringSet.size());
     if (record.indexStesa < -1 || record.indexStesa >= strings) {
-      return Status::failure("a shot was recorded by geophone string " +
-                             std::to_string(record.indexStesa) + " of " + std::to_string(strings));
+      return Status::failure(Message::tr("a shot was recorded by geophone string %1 of %2")
+                                 .arg(record.indexStesa)
+                                 .arg(strings));
     }
-    if (!plausible(record.shotPos2d)) return Status::failure("a shot has no place");
+    if (!plausible(record.shotPos2d)) return Status::failure(Message::tr("a shot has no place"));
     // Picks that came without traces may have none; their place says as much.
     if (record.traceSetID < 0) record.traceSetID = own;
     ++own;
@@ -210,7 +216,7 @@ Status installGrid(const GridMember& grid, SurveyMember& survey) {
     }
     return status;
   } catch (const std::exception& error) {
-    return Status::failure(std::string("the grid cannot be built: ") + error.what());
+    return Status::failure(Message::tr("the grid cannot be built: %1").arg(error.what()));
   }
 }
 

@@ -25,7 +25,7 @@ Status installGrid(const GridMember& grid, SurveyMember& survey);
 /// read as the first ones of a program are, whatever it read before.
 /// \param state out: what their readers remember of them
 Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,
-                     SegyState& state, std::vector<std::string>& warnings);
+                     SegyState& state, std::vector<Message>& warnings);
 
 /// Layers that name shots or layers which do not exist are refused; results that do not hang
 /// together are dropped, they can be built again.
@@ -48,6 +48,6 @@ SetFiles filesOfSet(const std::vector<std::string>& main, const std::vector<std:
 /// loader and the writer, who wants to know what the loader will see, use it. False, with a reason,
 /// and `state` as before, when a file is missing or fails, or the files of a pair do not match.
 bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& state,
-                  TraceSet& traces, std::string& why);
+                  TraceSet& traces, Message& why);
 
 }  // namespace talvesk

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "model/RefractionDataStructure.h"
 #include "model/TomoDocument.h"
 #include "view/ColorPalette.h"
@@ -76,12 +77,12 @@ int writePalettes(const std::string& path, const ColorPaletteList& palettes);
 int writeRefraction(const std::string& path,
                     const refractionDataStructure::Interpretation& interpretation);
 
-int readSurvey(const std::string& path, SurveyMember& member, std::string& why);
-int readGrid(const std::string& path, GridMember& member, std::string& why);
-int readTraces(const std::string& path, TracesMember& member, std::string& why);
-int readPalettes(const std::string& path, ColorPaletteList& palettes, std::string& why);
+int readSurvey(const std::string& path, SurveyMember& member, Message& why);
+int readGrid(const std::string& path, GridMember& member, Message& why);
+int readTraces(const std::string& path, TracesMember& member, Message& why);
+int readPalettes(const std::string& path, ColorPaletteList& palettes, Message& why);
 int readRefraction(const std::string& path, refractionDataStructure::Interpretation& interpretation,
-                   std::string& why);
+                   Message& why);
 
 /// The part of a path behind its last slash or backslash.
 std::string bareName(const std::string& path);

@@ -68,9 +68,9 @@ bool isOnDisk(const std::string& path) {
 
 }  // namespace
 
-int ProjectWriter::fail(const std::string& message) {
+int ProjectWriter::fail(const Message& reason) {
   mError = true;
-  mMessage = message;
+  mReason = reason;
   return 1;
 }
 
@@ -168,17 +168,18 @@ int ProjectWriter::build(const std::string& archive, const std::string& workingF
     const auto temporary = TemporaryFolder::create(workingFolder);
     if (temporary == nullptr) {
       console::error() << "ERROR: Impossible to save!" << std::endl;
-      return fail("No temporary folder can be created in " + workingFolder + ".");
+      return fail(Message::tr("No temporary folder can be created in %1.").arg(workingFolder));
     }
-    const std::string inFolder = "in " + temporary->path() + "; is the disk full?";
+    const Message unwritten =
+        Message::tr("Its parts cannot be written in %1; is the disk full?").arg(temporary->path());
     if (!writeMembers(temporary->path(), project, files, complete)) {
-      return fail("Its parts cannot be written " + inFolder);
+      return fail(unwritten);
     }
     built = compress_project(archive, files);
     if (built == 0 && (!complete || !isOnDisk(archive))) built = 1;
     step(built, &ProjectWriter::saved_compressed, &ProjectWriter::error_saved_compressed);
-    if (!complete) fail("Its parts cannot be written " + inFolder);
-    if (complete && built != 0) fail("The archive " + archive + " cannot be written.");
+    if (!complete) fail(unwritten);
+    if (complete && built != 0) fail(Message::tr("The archive %1 cannot be written.").arg(archive));
   }
   emit saved_completed();
   return built;
@@ -189,19 +190,20 @@ int ProjectWriter::save(const std::string& archive, const std::string& workingFo
                         const refractionDataStructure::Interpretation& interpretation,
                         const ColorPaletteList& palettes, const SectionViewSettings& section) {
   mError = false;
-  mMessage.clear();
+  mReason = {};
   mKeptArchive.clear();
   mWarnings.clear();
   OldArchive old(archive);
   if (!old.moveAside()) {
     console::error() << "ERROR: Impossible to save!" << std::endl;
-    return fail("The file " + old.path() + " cannot be replaced; choose another place.");
+    return fail(
+        Message::tr("The file %1 cannot be replaced; choose another place.").arg(old.path()));
   }
   int result = 1;
   try {
     result = build(old.path(), workingFolder, {document, interpretation, palettes, section});
   } catch (const std::exception& error) {
-    fail(std::string("It cannot be put together: ") + error.what());
+    fail(Message::tr("It cannot be put together: %1").arg(error.what()));
   }
   if (result == 0) {
     old.remove();

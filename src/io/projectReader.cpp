@@ -16,19 +16,21 @@ namespace talvesk {
 namespace {
 
 /// Why the file cannot even be opened; empty when it can.
-std::string whyClosed(const std::string& path) {
+Message whyClosed(const std::string& path) {
   std::error_code error;
-  if (!std::filesystem::exists(path, error)) return "There is no such file.";
-  if (!std::filesystem::is_regular_file(path, error)) return "It is not a regular file.";
-  if (::access(path.c_str(), R_OK) != 0) return "You may not read it.";
+  if (!std::filesystem::exists(path, error)) return Message::tr("There is no such file.");
+  if (!std::filesystem::is_regular_file(path, error)) {
+    return Message::tr("It is not a regular file.");
+  }
+  if (::access(path.c_str(), R_OK) != 0) return Message::tr("You may not read it.");
   return {};
 }
 
 }  // namespace
 
-int projectReader::fail(const std::string& message) {
+int projectReader::fail(const Message& reason) {
   mError = true;
-  if (mMessage.empty()) mMessage = message;  // the first reason is the one that matters
+  if (mReason.empty()) mReason = reason;  // the first reason is the one that matters
   return 1;
 }
 
@@ -44,31 +46,31 @@ int projectReader::read_ZIP(const std::string& archive, const std::string& folde
 }
 
 int projectReader::readTomoDocument_XML(const std::string& path, SurveyMember& survey) {
-  std::string why;
+  Message why;
   if (readSurvey(path, survey, why) != 0) return fail(why);
   const Status status = checkSurvey(survey);
-  return status.ok() ? 0 : fail(std::string(kSurveyMember) + ": " + status.message());
+  return status.ok() ? 0 : fail(joined(kSurveyMember, status.text()));
 }
 
 int projectReader::readTomoDocumentGrid_XML(const std::string& path, SurveyMember& survey) {
-  std::string why;
+  Message why;
   GridMember grid;
   if (readGrid(path, grid, why) != 0) return fail(why);
   const Status status = installGrid(grid, survey);
-  return status.ok() ? 0 : fail(std::string(kGridMember) + ": " + status.message());
+  return status.ok() ? 0 : fail(joined(kGridMember, status.text()));
 }
 
 int projectReader::readTomoDocumentTraces_XML(const std::string& path, TomoDocument& document) {
-  std::string why;
+  Message why;
   TracesMember traces;
   if (readTraces(path, traces, why) != 0) return fail(why);
   const std::string folder = path.substr(0, path.size() - bareName(path).size());
   const Status status = installTraces(std::move(traces), folder, document, mShotFiles, mWarnings);
-  return status.ok() ? 0 : fail(std::string(kTracesMember) + ": " + status.message());
+  return status.ok() ? 0 : fail(joined(kTracesMember, status.text()));
 }
 
 int projectReader::readPalettes_XML(const std::string& path, ColorPaletteList& palettes) {
-  std::string why;
+  Message why;
   return readPalettes(path, palettes, why) == 0 ? 0 : fail(why);
 }
 
@@ -76,10 +78,10 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
                                       refractionDataStructure::Interpretation& interpretation) {
   std::error_code error;
   if (!std::filesystem::exists(path, error)) return 0;  // projects of earlier versions
-  std::string why;
+  Message why;
   if (readRefraction(path, interpretation, why) != 0) return fail(why);
   const Status status = checkInterpretation(document, interpretation);
-  return status.ok() ? 0 : fail(std::string(kRefractionMember) + ": " + status.message());
+  return status.ok() ? 0 : fail(joined(kRefractionMember, status.text()));
 }
 
 bool projectReader::readMembers(const std::string& folder, LoadedProject& project) {
@@ -112,16 +114,17 @@ int projectReader::loadInto(const std::string& archive, const std::string& worki
   project.folder = TemporaryFolder::create(workingFolder);
   if (project.folder == nullptr) {
     console::error() << "ERROR: Impossible to save!" << std::endl;
-    return fail("No temporary folder can be created in " + workingFolder + ".");
+    return fail(Message::tr("No temporary folder can be created in %1.").arg(workingFolder));
   }
   if (read_ZIP(archive, project.folder->path()) != 0) {
     console::error() << "[ERROR] While extracting " << archive << std::endl;
     mError = true;
     emit error_read_compressed();
-    const std::string closed = whyClosed(archive);
-    return fail(!closed.empty() ? closed
-                                : "It cannot be extracted: it is no archive of a project, it is "
-                                  "damaged, or there is no room on the disk for it.");
+    const Message closed = whyClosed(archive);
+    return fail(!closed.empty()
+                    ? closed
+                    : Message::tr("It cannot be extracted: it is no archive of a project, it is "
+                                  "damaged, or there is no room on the disk for it."));
   }
   emit read_compressed();
   return readMembers(project.folder->path(), project) ? 0 : 1;
@@ -131,7 +134,7 @@ int projectReader::load(const std::string& archive, const std::string& workingFo
                         LoadedProject& project) {
   mError = false;
   mTracesFailed = false;
-  mMessage.clear();
+  mReason = {};
   mWarnings.clear();
   mShotFiles = {};
   try {
@@ -140,7 +143,7 @@ int projectReader::load(const std::string& archive, const std::string& workingFo
     project = std::move(fresh);
     return 0;
   } catch (const std::exception& error) {
-    return fail(std::string("It cannot be loaded: ") + error.what());
+    return fail(Message::tr("It cannot be loaded: %1").arg(error.what()));
   }
 }
 
