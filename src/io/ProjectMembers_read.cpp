@@ -42,6 +42,8 @@ int readMember(const std::string& path, const char* what, std::uintmax_t largest
     return 0;
   } catch (const std::bad_alloc&) {
     return fail(Message::tr("there is not enough memory"));
+  } catch (const XmlError& failure) {
+    return fail(failure.reason);
   } catch (const std::exception& failure) {
     return fail(failure.what());
   }
