@@ -2,6 +2,7 @@
 #include "app/GeometrySession.h"
 #include "app/GeometryTables.h"
 #include "app/GeometryTexts.h"
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/SelectCSVDelimiterDialog.h"
 #include "app/WaitCursor.h"
@@ -26,13 +27,13 @@ namespace talvesk {
 QString DialogSetGeometry::takePositions(std::size_t count, const Status& read,
                                          const GeometryRecords& records,
                                          std::vector<Point2D>& positions) {
-  if (!read.ok()) return QString::fromStdString(read.message());
+  if (!read.ok()) return textOf(read.text());
   if (records.size() != count) {
     return tr("Read with this separator the file has %1 lines of numbers; %2 are needed.")
         .arg(records.size())
         .arg(count);
   }
-  return QString::fromStdString(positionsOf(records, positions).message());
+  return textOf(positionsOf(records, positions).text());
 }
 
 QString DialogSetGeometry::askForFile(bool save, const QString& filter) {
@@ -194,7 +195,7 @@ void DialogSetGeometry::choosePairOfShot() {
       readSWavePair(dx.front().toStdString(), sx.front().toStdString(), mState, *pair);
   if (!status.ok()) {
     showError(this, tr("Error occured"), tr("The files are not taken as an S-wave pair."),
-              QString::fromStdString(status.message()));
+              textOf(status.text()));
     return;
   }
   mSession->edit([&](SurveyGeometry& next) {
@@ -231,7 +232,7 @@ void DialogSetGeometry::addPairs() {
   if (!status.ok()) {
     showError(this, tr("Error occured"),
               tr("No shot was added: the files are not taken as S-wave pairs."),
-              QString::fromStdString(status.message()));
+              textOf(status.text()));
     return;
   }
   mSession->edit([&](SurveyGeometry& now) { now = std::move(next); });

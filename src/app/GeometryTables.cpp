@@ -2,6 +2,7 @@
 
 #include "app/GeometrySession.h"
 #include "app/GeometryTexts.h"
+#include "app/MessageText.h"
 #include "base/TypedTable.h"
 
 #include <QBrush>
@@ -120,7 +121,7 @@ void GeometryTable::paste(int row, int column, const QString& text) {
   const auto room = static_cast<std::size_t>(std::max(0, mostRows() - row));
   const Status read = parseTypedTable(text.toStdString(), usesDecimalComma(), kMostGeophones, rows);
   if (!read.ok()) {
-    emit refused(tr("Nothing was pasted: %1.").arg(QString::fromStdString(read.message())));
+    emit refused(tr("Nothing was pasted: %1.").arg(textOf(read.text())));
     return;
   }
   if (rows.empty()) return;

@@ -1,5 +1,6 @@
 #include "app/RecoveryCopy.h"
 
+#include "app/MessageText.h"
 #include "base/AtomicFile.h"
 #include "io/ProjectWriter.h"
 
@@ -86,20 +87,20 @@ void RecoveryCopy::save(LoadedProject copy, const QString& project) {
   const std::string note = noteOf(mFile).toStdString();
   const std::string work = mFolder.toStdString();
   const int run = ++mRun;
-  mThread.reset(QThread::create([=, shared = std::move(shared),
-                                 path = project.toStdString()]() mutable {
-    ProjectWriter writer;
-    int result = writer.save(file, work, shared->document, shared->interpretation, shared->palettes,
-                             shared->section);
-    shared.reset();  // here, not where the user waits for it
-    std::string reason = writer.message();
-    if (const Status noted = writeFileAtomically(note, path); result == 0 && !noted.ok()) {
-      result = 1;
-      reason = noted.message();
-    }
-    QMetaObject::invokeMethod(
-        this, [=] { finish(run, result, QString::fromStdString(reason)); }, Qt::QueuedConnection);
-  }));
+  mThread.reset(
+      QThread::create([=, shared = std::move(shared), path = project.toStdString()]() mutable {
+        ProjectWriter writer;
+        int result = writer.save(file, work, shared->document, shared->interpretation,
+                                 shared->palettes, shared->section);
+        shared.reset();  // here, not where the user waits for it
+        Message reason = writer.reason();
+        if (const Status noted = writeFileAtomically(note, path); result == 0 && !noted.ok()) {
+          result = 1;
+          reason = noted.text();
+        }
+        QMetaObject::invokeMethod(
+            this, [=] { finish(run, result, textOf(reason)); }, Qt::QueuedConnection);
+      }));
   mThread->start(QThread::LowPriority);
 }
 

@@ -197,10 +197,10 @@ class Talvesk_MainWindows : public QMainWindow {
 
   /// What the window remembers of a shot beside the document.
   struct ShotMemory {
-    bool filtered = false;      ///< a command made its filtered copy while it was current
-    bool showFiltered = false;  ///< its views show that copy
-    QString format;             ///< of its file
-    QStringList warnings;       ///< that the reader had about its file
+    bool filtered = false;          ///< a command made its filtered copy while it was current
+    bool showFiltered = false;      ///< its views show that copy
+    QString format;                 ///< of its file
+    std::vector<Message> warnings;  ///< that the reader had about its file
   };
 
   // Start and end

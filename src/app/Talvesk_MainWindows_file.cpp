@@ -1,3 +1,4 @@
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/SettingsDialog.h"
@@ -91,7 +92,7 @@ void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
     if (!one.front().status.ok()) continue;
     ShotMemory& memory = mShots.emplace_back();
     memory.format = QString::fromStdString(one.front().format);
-    memory.warnings = linesOf(one.front().warnings);
+    memory.warnings = one.front().warnings;
   }
   progress.reset();
   documentChanged();
@@ -117,7 +118,7 @@ void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& ou
     if (!outcome.warnings.empty()) ++warned;
     if (outcome.status.ok()) continue;
     mLog.write(outcome.status.message(), 1);
-    const QString message = QString::fromStdString(outcome.status.message());
+    const QString message = textOf(outcome.status.text());
     (outcome.status.code() == kUnknownSuffix ? unsupported : broken) << message;
   }
   const QString title = tr("Error occured");
@@ -180,7 +181,7 @@ void Talvesk_MainWindows::on_actionLoad_TT_triggered() {
 void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   // An import replaces the picks at least.
   if (hasPicks(mDocument) && !mayLoseChanges()) return;
-  std::vector<std::string> warnings;
+  std::vector<Message> warnings;
   const Status status = whileWaiting([&] {
     TravelTimeData times;
     Status read = readTravelTimes(file.toStdString(), times);

@@ -1,3 +1,4 @@
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
@@ -101,7 +102,7 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
   });
   if (result != 0) {
     mLog.write(writer.message(), 1);
-    QString details = QString::fromStdString(writer.message());
+    QString details = textOf(writer.reason());
     if (const QString kept = QString::fromStdString(writer.keptArchive()); !kept.isEmpty()) {
       details += QLatin1Char('\n') + tr("The project as it was saved before is in %1").arg(kept);
     }
@@ -165,7 +166,7 @@ void Talvesk_MainWindows::reportBadProject(const QString& file, const projectRea
   if (reader.tracesFailed()) {
     text += QLatin1Char('\n') + tr("Error while loading traces: Invalid file format.");
   }
-  QString details = QString::fromStdString(reader.message());
+  QString details = textOf(reader.reason());
   const QString former = file + QLatin1Char('~');
   if (!QFileInfo::exists(file)) {
     mRecent.remove(file);

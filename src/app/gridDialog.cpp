@@ -1,5 +1,6 @@
 #include "app/gridDialog.h"
 
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "tomo/GridPreview.h"
@@ -77,7 +78,7 @@ void gridDialog::showPreview() {
       locale.toString(preview.bytes / 1048576.0, 'f', preview.bytes < 10.0 * 1048576.0 ? 1 : 0)));
   QString warning;
   if (!preview.status.ok()) {
-    warning = QString::fromStdString(preview.status.message());
+    warning = textOf(preview.status.text());
   } else if (preview.size.righe == 0) {
     warning = tr("The grid has no rows: choose a greater depth or smaller cells.");
   } else if (preview.outside > 0) {

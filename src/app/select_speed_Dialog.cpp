@@ -1,5 +1,6 @@
 #include "app/select_speed_Dialog.h"
 
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "app/WaitCursor.h"
@@ -96,7 +97,7 @@ void select_speed_Dialog::showModel(const std::vector<VelocityLayer>& layers) {
   mUi->widget->setLayers(layers);
   const Status status =
       mDocument.grid ? checkLayers(mDocument.grid->geometry().size(), layers) : Status();
-  QString text = QString::fromStdString(status.ok() ? "" : status.message());
+  QString text = textOf(status.text());
   if (status.ok() && mDocument.has_tomographic_info) {
     text = tr("The results of the last inversion will be lost.");
   }
@@ -143,7 +144,7 @@ void select_speed_Dialog::accept() {
     return;
   }
   showError(this, tr("Define model velocity"), tr("The layers make no velocity model."),
-            QString::fromStdString(status.message()));
+            textOf(status.text()));
 }
 
 }  // namespace talvesk
