@@ -1,6 +1,7 @@
 #include "app/Talvesk_MainWindows.h"
 
 #include "app/CommandIcons.h"
+#include "app/GuideWindow.h"
 #include "app/HelpKey.h"
 #include "app/Messages.h"
 #include "app/SettingsDialog.h"
@@ -260,6 +261,7 @@ void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
   mSnapshot.reset();
   mRecovery.discard();
   saveWindow();
+  if (mGuide != nullptr) mGuide->close();
   event->accept();
 }
 

@@ -34,6 +34,7 @@ namespace Ui {
 class Talvesk_MainWindows;
 }
 class BackgroundInversion;
+class GuideWindow;
 class ProjectSnapshot;
 class SettingsDialog;
 class editTravelTimesWidget;
@@ -358,6 +359,7 @@ class Talvesk_MainWindows : public QMainWindow {
   bool mCloseAfterInversion = false;
   QComboBox* mShotChooser = nullptr;
   QLabel* mCursorLabel = nullptr;
+  std::unique_ptr<GuideWindow> mGuide;  ///< once it was asked for
 };
 
 }  // namespace talvesk
