@@ -61,7 +61,8 @@ struct Workshop {
     QDir(folder.path()).mkdir(QStringLiteral("work"));
     demand(save(archive, work(), soundProject()) == 0, "the sound project can be saved");
     QDir(folder.path()).mkdir(QStringLiteral("loose"));
-    demand(readZip(archive, loose()) == 0, "and extracted");
+    std::string why;
+    demand(readZip(archive, loose(), why) == 0, "and extracted");
   }
   std::string root() const { return folder.path().toStdString() + "/"; }
   std::string loose() const { return root() + "loose/"; }
@@ -80,7 +81,8 @@ void build(const Workshop& shop, std::uint8_t place, const std::uint8_t* bytes, 
   const std::string changed = shop.root() + kMembers[place - 1];
   put(changed, bytes, size);
   files[place - 1] = changed;
-  demand(writeZip(archive, files) == 0, "an archive of any members");
+  std::string why;
+  demand(writeZip(archive, files, why) == 0, "an archive of any members");
 }
 
 void demandWhole(const LoadedProject& project) {

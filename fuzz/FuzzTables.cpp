@@ -17,8 +17,9 @@ using namespace talvesk;
 
 void tryPositions(std::string_view text, const char* separator, bool labelled) {
   const GeometryRecords before = {{1.0, 2.0}};
-  GeometryRecords records = before;
-  const Status status = parseRecords(text, "a.csv", separator, labelled, records);
+  PositionTable table = {before, {}};
+  const GeometryRecords& records = table.records;
+  const Status status = parseRecords(text, "a.csv", separator, labelled, table);
   demand(status.ok() == status.message().empty(), "a message with every failure");
   if (!status.ok()) return demand(records == before, "what was there stays after a failure");
   std::size_t fields = 0;
@@ -28,8 +29,10 @@ void tryPositions(std::string_view text, const char* separator, bool labelled) {
   }
   demand(fields <= text.size(), "no more fields than bytes");
   demand(records.empty() || !records.back().empty(), "a last record that is one");
+  demand(table.remarks.zeroCount <= fields, "no more zeros than fields");
+  demand(table.remarks.zeros.size() <= TableRemarks::kNamedZeros, "bounded remarks");
   std::vector<Point2D> points;
-  if (positionsOf(records, points).ok()) {
+  if (positionsOf(table, points).ok()) {
     demand(points.size() == records.size(), "a point per record");
   }
 }
@@ -62,7 +65,8 @@ void tryLayers(std::string_view text) {
 void tryPasted(std::string_view text, bool decimalComma) {
   constexpr std::size_t kMostRows = 50;
   TypedTable table;
-  const Status status = parseTypedTable(text, decimalComma, kMostRows, table);
+  TableRemarks remarks;
+  const Status status = parseTypedTable(text, decimalComma, kMostRows, table, remarks);
   demand(status.ok() == status.message().empty(), "a message with every failure");
   if (!status.ok()) return demand(table.empty(), "what was there stays after a failure");
   demand(table.size() <= kMostRows, "bounded rows");

@@ -368,18 +368,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
             <numerusform>%n Höhen interpoliert.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>the grid and the results of the inversion</source>
-        <translation>das Gitter und die Ergebnisse der Inversion</translation>
-    </message>
-    <message>
-        <source>the grid</source>
-        <translation>das Gitter</translation>
-    </message>
-    <message>
-        <source>the refraction interpretation</source>
-        <translation>die Refraktionsauswertung</translation>
-    </message>
     <message numerus="yes">
         <source>the picks of shot(s) %1</source>
         <translation>
@@ -390,14 +378,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Warning</source>
         <translation>Warnung</translation>
-    </message>
-    <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>Die Messung ändert sich. Verloren gehen:</translation>
-    </message>
-    <message>
-        <source>Do you want to continue?</source>
-        <translation>Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>The geometry is not complete.</source>
@@ -629,10 +609,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>%1 berechnete Zeiten</translation>
     </message>
     <message>
-        <source>RMS misfit %1 %</source>
-        <translation>RMS-Abweichung %1 %</translation>
-    </message>
-    <message>
         <source>%1 %2 to %3</source>
         <comment>quantity, least and greatest value with its unit</comment>
         <translation>%1 %2 bis %3</translation>
@@ -790,12 +766,28 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Berechnet minus gemessen [ms]</translation>
     </message>
     <message>
-        <source>RMS misfit of the inversion %1 %</source>
-        <translation>RMS-Abweichung der Inversion %1 %</translation>
-    </message>
-    <message>
         <source>Refractor %1</source>
         <translation>Refraktor %1</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 ms, %2 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last solver pass %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>picks have changed since the inversion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refractor %1 (picks have changed since)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picks have changed since this was built</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1116,61 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::InversionTexts</name>
+    <message>
+        <source>Section, along fresh rays
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean: [ms] %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest difference: [ms] %1; shot %2, receiver %3
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computing time: [s] %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elapsed time: [s] %1
+</source>
+        <translation type="unfinished">Verstrichene Zeit: [s] %1
+</translation>
+    </message>
+    <message>
+        <source>RMSE: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished">RMSE: [ms] %1; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>MaxError: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished">Größter Fehler: [ms] %1; [%] %2
+</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
         <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
@@ -1136,6 +1183,55 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>layer %1</source>
         <translation>Schicht %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LeftOutText</name>
+    <message>
+        <source>%1 of %2 picks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n geophone(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot(s) without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Geophone(s) %1 of string %2 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1275,41 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Elevation (m)</source>
         <translation>Höhe (m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LossQuestion</name>
+    <message>
+        <source>the grid and the results of the inversion</source>
+        <translation type="unfinished">das Gitter und die Ergebnisse der Inversion</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation type="unfinished">das Gitter</translation>
+    </message>
+    <message>
+        <source>the results of the inversion; the grid stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the layers of the starting model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the refraction interpretation</source>
+        <translation type="unfinished">die Refraktionsauswertung</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">Warnung</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be lost:</source>
+        <translation type="unfinished">Die Messung ändert sich. Verloren gehen:</translation>
+    </message>
+    <message>
+        <source>Do you want to continue?</source>
+        <translation type="unfinished">Möchten Sie fortfahren?</translation>
     </message>
 </context>
 <context>
@@ -1228,6 +1359,14 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>RMSE (ms)</source>
         <translation>RMSE (ms)</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1797,6 +1936,14 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
         <translation>Die Hinschusskurve wird XY Meter nach dem Empfänger abgelesen, die Gegenschusskurve XY Meter davor: Die beiden Punkte liegen 2 XY auseinander.</translation>
     </message>
+    <message>
+        <source>The picks have changed since the profiles were built.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
@@ -1852,10 +1999,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Schicht %1: Hinschuss- und Gegenschusskurve haben weniger als zwei gemeinsame Empfänger.</translation>
     </message>
     <message>
-        <source>Layer %1: no shot has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
-        <translation>Schicht %1: Kein Schuss hat auf einer Seite zwei Picks dieser Schicht, daher hat sie keine Geschwindigkeit, und die Schichten darunter haben keine Tiefe.</translation>
-    </message>
-    <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer above.</source>
         <translation>Schicht %1: keine Tiefe an %2 von %3 Empfängern, wo sie nicht schneller ist als die Schicht darüber.</translation>
     </message>
@@ -1870,6 +2013,22 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
         <translation>An jedem Ende der Messlinie oder jenseits davon muss ein Schuss mit Picks der Schicht 2 liegen. Solche Schüsse reichen von %1 bis %2 m, die Geophone aber von %3 bis %4 m.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2131,10 +2290,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Weggelassene Schüsse und Empfänger außerhalb des Gitters</translation>
     </message>
     <message>
-        <source>Misfit of the section</source>
-        <translation>Abweichung des Schnitts</translation>
-    </message>
-    <message>
         <source>Residuals of the picks against the distance from their shot</source>
         <translation>Residuen der Picks über der Entfernung von ihrem Schuss</translation>
     </message>
@@ -2181,10 +2336,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Method</source>
         <translation>Methode</translation>
-    </message>
-    <message>
-        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces and inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
-        <translation>Ersteinsätze sind die Zeiten, zu denen die erste seismische Energie eines Schusses die einzelnen Geophone erreicht. Sie wurden auf den aufgezeichneten Spuren gepickt und mit Laufzeittomographie invertiert. Der Untergrund unter der Messlinie ist in quadratische Zellen konstanter Geschwindigkeit geteilt, die der Oberfläche folgen. Von jedem Schuss aus werden im Netz der Knoten auf den Zellenseiten die schnellsten Wege zu allen Geophonen gesucht; das sind die Strahlen. Die Differenzen zwischen gemessenen und berechneten Zeiten werden entlang der Strahlen verteilt und korrigieren die Langsamkeit der durchquerten Zellen, mehrmals auf denselben Strahlen und innerhalb der Geschwindigkeitsgrenzen. Der korrigierte Schnitt wird geglättet, und neue Strahlen werden durch ihn verfolgt: Das ist eine äußere Iteration.</translation>
     </message>
     <message>
         <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
@@ -2363,28 +2514,8 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Informationsdichte: wie vollständig Strahlen die Umgebung jeder Zelle durchqueren</translation>
     </message>
     <message>
-        <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation>Die Abweichung ist der Unterschied zwischen berechneten und gemessenen Zeiten. Die berechneten Zeiten sind die entlang der Strahlen der letzten Iteration, vor ihrer letzten Korrektur und Glättung, oder die durch den Schnitt, wie er gezeichnet ist, wenn das Projekt wieder geöffnet wurde. RMS ist das quadratische Mittel der Abweichung, in Millisekunden oder in Prozent der gemessenen Zeiten. Die Informationsdichte sagt, wie vollständig Strahlen die Umgebung einer Zelle durchqueren; wo sie gering ist, sind die Geschwindigkeiten durch die Daten schwach gestützt, und unterhalb der tiefsten Strahlen wird der Schnitt nicht gezeichnet. Geschwindigkeiten, die mit der Tiefe abnehmen, und dünne Schichten können den Ersteinsätzen verborgen bleiben.</translation>
-    </message>
-    <message>
-        <source>The misfit of an iteration is that of its own rays, before the last correction of the velocities and before they are smoothed. New rays through the finished section are faster in places, and their misfit is usually larger.</source>
-        <translation>Die Abweichung einer Iteration ist die ihrer eigenen Strahlen, vor der letzten Korrektur der Geschwindigkeiten und vor ihrer Glättung. Neue Strahlen durch den fertigen Schnitt sind stellenweise schneller, und ihre Abweichung ist meist größer.</translation>
-    </message>
-    <message>
         <source>Velocity section with rays</source>
         <translation>Geschwindigkeitsschnitt mit Strahlen</translation>
-    </message>
-    <message>
-        <source>Misfit after the last external iteration</source>
-        <translation>Abweichung nach der letzten äußeren Iteration</translation>
-    </message>
-    <message>
-        <source>Largest relative late error [%]</source>
-        <translation>Größte relative Verspätung [%]</translation>
-    </message>
-    <message>
-        <source>The same [ms]</source>
-        <translation>Dieselbe [ms]</translation>
     </message>
     <message>
         <source>Largest relative late error</source>
@@ -2393,6 +2524,82 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>%1 % (%2 ms)</source>
         <translation>%1 % (%2 ms)</translation>
+    </message>
+    <message>
+        <source>Computing time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of computed minus measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished">%1 ms</translation>
+    </message>
+    <message>
+        <source>Largest difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms, shot %2, receiver %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit of the section, along fresh rays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The section was smoothed after the inversion; its misfit is that of the smoothed one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion: the section was fitted to others than those that its misfit is told of here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass of the inversion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section, RMS [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass, RMS [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The misfit of the section is that of fresh rays through the section that an iteration has left; 0 is the starting model. The last solver pass of an iteration goes along its old rays, before the last correction of the velocities and before they are smoothed, and its misfit is usually smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS misfit of the section after every external iteration (blue), 0 being the starting model, and of the last solver pass of each (grey)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picks have changed since this profile was built: it is that of the earlier picks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They were inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2683,10 +2890,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Bilder</translation>
     </message>
     <message>
-        <source>Horizontal colour bar</source>
-        <translation>Waagrechte Farbskala</translation>
-    </message>
-    <message>
         <source>Opens shots at the part of the record that holds the first breaks.</source>
         <translation>Öffnet Schüsse an dem Teil der Aufzeichnung, der die Ersteinsätze enthält.</translation>
     </message>
@@ -2695,16 +2898,20 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Alle Spuren anzeigen</translation>
     </message>
     <message>
-        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Hushel then work on all shots.</source>
-        <translation>Öffnet Schüsse mit allen Spuren im Bild, wie schmal sie auch sind. AutoPick, Filter, AGC und Hushel wirken dann auf alle Schüsse.</translation>
-    </message>
-    <message>
         <source>Zoom in on first breaks</source>
         <translation>Auf Ersteinsätze zoomen</translation>
     </message>
     <message>
-        <source>Puts the colour bar of saved pictures above the section, not beside it.</source>
-        <translation>Setzt den Farbbalken gespeicherter Bilder über den Schnitt statt daneben.</translation>
+        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Apply Hushel then work on all shots.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizontal scalarbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2782,6 +2989,35 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>&amp;Remove rows</source>
         <translation>Zeilen ent&amp;fernen</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TableTexts</name>
+    <message>
+        <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">Warnung</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) of %1 that are no number were taken as 0.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2909,10 +3145,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>New...</source>
         <translation>Neu...</translation>
-    </message>
-    <message>
-        <source>Start a new survey: empties this one, then asks for shot files</source>
-        <translation>Beginnt eine neue Messung: leert die jetzige und fragt dann nach Schussdateien</translation>
     </message>
     <message>
         <source>Import TravelTimes...</source>
@@ -3679,10 +3911,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Sie finden es in %1</translation>
     </message>
     <message>
-        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), Eigen (MPL 2) and cereal (BSD).&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Refraktionsseismische Messungen: von den Feldaufzeichnungen zu Geschwindigkeitsschnitten.&lt;/p&gt;&lt;p&gt;Talvesk ist freie Software unter der MIT-Lizenz, ohne jede Gewährleistung.&lt;/p&gt;&lt;p&gt;Es verwendet Qt %1 (LGPL), Qwt (LGPL mit Ausnahmen), liquid-dsp (MIT), Eigen (MPL 2) und cereal (BSD).&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Picking first breaks ...</source>
         <translation>Ersteinsätze werden gepickt ...</translation>
     </message>
@@ -3960,10 +4188,6 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>Es gibt keine Datei %1</translation>
     </message>
     <message>
-        <source>The project as it was saved before is in %1</source>
-        <translation>Das Projekt, wie es zuvor gespeichert war, liegt in %1</translation>
-    </message>
-    <message>
         <source>Project %1 loaded.</source>
         <translation>Projekt %1 geladen.</translation>
     </message>
@@ -4070,24 +4294,6 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Inversion results</source>
         <translation>Ergebnisse der Inversion</translation>
     </message>
-    <message>
-        <source>Elapsed time: [s] %1
-</source>
-        <translation>Verstrichene Zeit: [s] %1
-</translation>
-    </message>
-    <message>
-        <source>RMSE: [ms] %1; [%] %2
-</source>
-        <translation>RMSE: [ms] %1; [%] %2
-</translation>
-    </message>
-    <message>
-        <source>MaxError: [ms] %1; [%] %2
-</source>
-        <translation>Größter Fehler: [ms] %1; [%] %2
-</translation>
-    </message>
     <message numerus="yes">
         <source>%n file(s) exist already.</source>
         <translation>
@@ -4169,6 +4375,74 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     <message>
         <source>Writing %1 ...</source>
         <translation>%1 wird geschrieben ...</translation>
+    </message>
+    <message>
+        <source>Start a new survey: asks for shot files, which then take the place of this one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No shot file was loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with these libraries, Qt being version %1:&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a folder or names no file. Give the project a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in use elsewhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in use by %2 on %3 (process %4).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Project in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If nobody uses it any more, delete the lock %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to replace it all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has been changed by somebody else since it was opened or saved here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to replace it? What was changed there is lost then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is as it was before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to open it all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some values of the project cannot be. They were put right or left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out of the inversion:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4517,6 +4791,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <source>None of these is checked: no contours will be drawn.</source>
         <translation>Nichts davon ist angekreuzt: Es werden keine Isolinien gezeichnet.</translation>
     </message>
+    <message>
+        <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::doFilteringDialog</name>
@@ -4823,6 +5101,26 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <source>The results of the last inversion will be lost.</source>
         <translation>Die Ergebnisse der letzten Inversion gehen verloren.</translation>
     </message>
+    <message>
+        <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cell sizes that lose none:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost to an inversion: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation type="unfinished">%1 m</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::progressDialog</name>
@@ -4969,10 +5267,6 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Anzahl äußerer Iterationen (Vorgabe =5)</translation>
     </message>
     <message>
-        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little.</source>
-        <translation>Jede äußere Iteration verfolgt die Strahlen neu durch das bisherige Modell. Mehr Iterationen bringen die Strahlen der Wirklichkeit näher und senken die Abweichung; die Zeit wächst mit der Anzahl. Ist die Abweichungskurve flach geworden, ändern weitere wenig.</translation>
-    </message>
-    <message>
         <source>Number of solver iterations (default =20)</source>
         <translation>Anzahl Löser-Iterationen (Vorgabe =20)</translation>
     </message>
@@ -5068,6 +5362,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <source>Starts from the present velocities of the grid.</source>
         <translation>Beginnt mit den jetzigen Geschwindigkeiten des Gitters.</translation>
     </message>
+    <message>
+        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::select_speed_Dialog</name>
@@ -5106,6 +5404,14 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>The results of the last inversion will be lost.</source>
         <translation>Die Ergebnisse der letzten Inversion gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Do you want to put them into the grid all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You have not changed the layers.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -120,6 +120,51 @@
     </message>
 </context>
 <context>
+    <name>talvesk::LeftOutText</name>
+    <message numerus="yes">
+        <source>%n shot(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n geophone(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot(s) without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Geophone(s) %1 of string %2 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::Messages</name>
     <message numerus="yes">
         <source>and %n more</source>
@@ -163,6 +208,23 @@
         <translation>
             <numerusform>%n ray</numerusform>
             <numerusform>%n rays</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TableTexts</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform>and one more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) of %1 that are no number were taken as 0.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
         </translation>
     </message>
 </context>

@@ -368,18 +368,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
             <numerusform>%n cotas interpoladas.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>the grid and the results of the inversion</source>
-        <translation>la malla y los resultados de la inversión</translation>
-    </message>
-    <message>
-        <source>the grid</source>
-        <translation>la malla</translation>
-    </message>
-    <message>
-        <source>the refraction interpretation</source>
-        <translation>la interpretación por refracción</translation>
-    </message>
     <message numerus="yes">
         <source>the picks of shot(s) %1</source>
         <translation>
@@ -390,14 +378,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Warning</source>
         <translation>Advertencia</translation>
-    </message>
-    <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>El levantamiento cambia. Se perderán:</translation>
-    </message>
-    <message>
-        <source>Do you want to continue?</source>
-        <translation>¿Desea continuar?</translation>
     </message>
     <message>
         <source>The geometry is not complete.</source>
@@ -629,10 +609,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>%1 tiempos calculados</translation>
     </message>
     <message>
-        <source>RMS misfit %1 %</source>
-        <translation>Desajuste RMS %1 %</translation>
-    </message>
-    <message>
         <source>%1 %2 to %3</source>
         <comment>quantity, least and greatest value with its unit</comment>
         <translation>%1 de %2 a %3</translation>
@@ -790,12 +766,28 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Calculado menos medido [ms]</translation>
     </message>
     <message>
-        <source>RMS misfit of the inversion %1 %</source>
-        <translation>Desajuste RMS de la inversión: %1 %</translation>
-    </message>
-    <message>
         <source>Refractor %1</source>
         <translation>Refractor %1</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 ms, %2 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last solver pass %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>picks have changed since the inversion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refractor %1 (picks have changed since)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picks have changed since this was built</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1116,61 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
 </context>
 <context>
+    <name>talvesk::InversionTexts</name>
+    <message>
+        <source>Section, along fresh rays
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean: [ms] %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest difference: [ms] %1; shot %2, receiver %3
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computing time: [s] %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elapsed time: [s] %1
+</source>
+        <translation type="unfinished">Tiempo transcurrido: [s] %1
+</translation>
+    </message>
+    <message>
+        <source>RMSE: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished">RMSE: [ms] %1; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>MaxError: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished">Error máximo: [ms] %1; [%] %2
+</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
         <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
@@ -1136,6 +1183,55 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>layer %1</source>
         <translation>capa %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LeftOutText</name>
+    <message>
+        <source>%1 of %2 picks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n geophone(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot(s) without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Geophone(s) %1 of string %2 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1275,41 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Elevation (m)</source>
         <translation>Cota (m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LossQuestion</name>
+    <message>
+        <source>the grid and the results of the inversion</source>
+        <translation type="unfinished">la malla y los resultados de la inversión</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation type="unfinished">la malla</translation>
+    </message>
+    <message>
+        <source>the results of the inversion; the grid stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the layers of the starting model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the refraction interpretation</source>
+        <translation type="unfinished">la interpretación por refracción</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">Advertencia</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be lost:</source>
+        <translation type="unfinished">El levantamiento cambia. Se perderán:</translation>
+    </message>
+    <message>
+        <source>Do you want to continue?</source>
+        <translation type="unfinished">¿Desea continuar?</translation>
     </message>
 </context>
 <context>
@@ -1228,6 +1359,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>RMSE (ms)</source>
         <translation>RMSE (ms)</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1797,6 +1936,14 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
         <translation>La dromocrona directa se lee XY metros después del receptor y la inversa XY metros antes: los dos puntos distan 2 XY.</translation>
     </message>
+    <message>
+        <source>The picks have changed since the profiles were built.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
@@ -1852,10 +1999,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Capa %1: las dromocronas directa e inversa tienen menos de dos receptores en común.</translation>
     </message>
     <message>
-        <source>Layer %1: no shot has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
-        <translation>Capa %1: ningún disparo tiene dos picados de ella a un mismo lado, así que no tiene velocidad y las capas inferiores no tienen profundidad.</translation>
-    </message>
-    <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer above.</source>
         <translation>Capa %1: sin profundidad en %2 de %3 receptores, donde no es más rápida que la capa superior.</translation>
     </message>
@@ -1870,6 +2013,22 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
         <translation>En cada extremo de la línea, o más allá, debe haber un disparo con picados de la capa 2. Tales disparos van de %1 a %2 m, pero los geófonos de %3 a %4 m.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2131,10 +2290,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Disparos y receptores excluidos, fuera de la malla</translation>
     </message>
     <message>
-        <source>Misfit of the section</source>
-        <translation>Desajuste de la sección</translation>
-    </message>
-    <message>
         <source>Residuals of the picks against the distance from their shot</source>
         <translation>Residuos de los picados en función de la distancia a su disparo</translation>
     </message>
@@ -2181,10 +2336,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Method</source>
         <translation>Método</translation>
-    </message>
-    <message>
-        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces and inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
-        <translation>Las primeras llegadas son los tiempos en que la primera energía sísmica de un disparo alcanza cada geófono. Se picaron en las trazas registradas y se invirtieron mediante tomografía de tiempos de recorrido. El terreno bajo la línea se divide en celdas cuadradas de velocidad constante que siguen la superficie. Desde cada disparo se buscan los caminos más rápidos hasta todos los geófonos en la red de nodos situados en los lados de las celdas: son los rayos. Las diferencias entre tiempos medidos y calculados se reparten a lo largo de los rayos y corrigen la lentitud de las celdas que atraviesan, varias veces sobre los mismos rayos y dentro de los límites de velocidad. La sección corregida se suaviza y se trazan en ella nuevos rayos: eso es una iteración externa.</translation>
     </message>
     <message>
         <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
@@ -2363,28 +2514,8 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Densidad de información: hasta qué punto los rayos cruzan los alrededores de cada celda</translation>
     </message>
     <message>
-        <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation>El desajuste es la diferencia entre los tiempos calculados y los medidos. Los tiempos calculados son los que resultan a lo largo de los rayos de la última iteración, antes de su última corrección y suavizado, o a través de la sección tal como está dibujada si el proyecto se abrió de nuevo. RMS es la media cuadrática del desajuste, en milisegundos o en porcentaje de los tiempos medidos. La densidad de información dice hasta qué punto los rayos cruzan los alrededores de una celda; donde es baja, los datos apoyan poco las velocidades, y por debajo de los rayos más profundos la sección no se dibuja. Las velocidades que disminuyen con la profundidad y las capas delgadas pueden quedar ocultas a las primeras llegadas.</translation>
-    </message>
-    <message>
-        <source>The misfit of an iteration is that of its own rays, before the last correction of the velocities and before they are smoothed. New rays through the finished section are faster in places, and their misfit is usually larger.</source>
-        <translation>El desajuste de una iteración es el de sus propios rayos, antes de la última corrección de las velocidades y antes de suavizarlas. Los rayos nuevos a través de la sección terminada son más rápidos en algunos lugares, y su desajuste suele ser mayor.</translation>
-    </message>
-    <message>
         <source>Velocity section with rays</source>
         <translation>Sección de velocidad con rayos</translation>
-    </message>
-    <message>
-        <source>Misfit after the last external iteration</source>
-        <translation>Desajuste tras la última iteración externa</translation>
-    </message>
-    <message>
-        <source>Largest relative late error [%]</source>
-        <translation>Mayor retraso relativo [%]</translation>
-    </message>
-    <message>
-        <source>The same [ms]</source>
-        <translation>El mismo [ms]</translation>
     </message>
     <message>
         <source>Largest relative late error</source>
@@ -2393,6 +2524,82 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>%1 % (%2 ms)</source>
         <translation>%1 % (%2 ms)</translation>
+    </message>
+    <message>
+        <source>Computing time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of computed minus measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished">%1 ms</translation>
+    </message>
+    <message>
+        <source>Largest difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms, shot %2, receiver %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit of the section, along fresh rays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The section was smoothed after the inversion; its misfit is that of the smoothed one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion: the section was fitted to others than those that its misfit is told of here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass of the inversion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section, RMS [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass, RMS [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The misfit of the section is that of fresh rays through the section that an iteration has left; 0 is the starting model. The last solver pass of an iteration goes along its old rays, before the last correction of the velocities and before they are smoothed, and its misfit is usually smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS misfit of the section after every external iteration (blue), 0 being the starting model, and of the last solver pass of each (grey)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picks have changed since this profile was built: it is that of the earlier picks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They were inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2683,10 +2890,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Imágenes</translation>
     </message>
     <message>
-        <source>Horizontal colour bar</source>
-        <translation>Barra de color horizontal</translation>
-    </message>
-    <message>
         <source>Opens shots at the part of the record that holds the first breaks.</source>
         <translation>Abre los disparos en la parte del registro que contiene las primeras llegadas.</translation>
     </message>
@@ -2695,16 +2898,20 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Mostrar todas las trazas</translation>
     </message>
     <message>
-        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Hushel then work on all shots.</source>
-        <translation>Abre los disparos con todas las trazas a la vista, por estrechas que sean. AutoPick, Filtro, AGC y Hushel actúan entonces sobre todos los disparos.</translation>
-    </message>
-    <message>
         <source>Zoom in on first breaks</source>
         <translation>Ampliar primeras llegadas</translation>
     </message>
     <message>
-        <source>Puts the colour bar of saved pictures above the section, not beside it.</source>
-        <translation>Pone la barra de colores de las imágenes guardadas encima de la sección, no al lado.</translation>
+        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Apply Hushel then work on all shots.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizontal scalarbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2782,6 +2989,35 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>&amp;Remove rows</source>
         <translation>&amp;Quitar filas</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TableTexts</name>
+    <message>
+        <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">Advertencia</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) of %1 that are no number were taken as 0.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2909,10 +3145,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>New...</source>
         <translation>Nuevo...</translation>
-    </message>
-    <message>
-        <source>Start a new survey: empties this one, then asks for shot files</source>
-        <translation>Inicia un levantamiento nuevo: vacía el actual y pide los archivos de disparos</translation>
     </message>
     <message>
         <source>Import TravelTimes...</source>
@@ -3679,10 +3911,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Se encuentra en %1</translation>
     </message>
     <message>
-        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), Eigen (MPL 2) and cereal (BSD).&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Levantamientos de sísmica de refracción: de los registros de campo a las secciones de velocidad.&lt;/p&gt;&lt;p&gt;Talvesk es software libre con licencia MIT, sin garantía alguna.&lt;/p&gt;&lt;p&gt;Está construido con Qt %1 (LGPL), Qwt (LGPL con excepciones), liquid-dsp (MIT), Eigen (MPL 2) y cereal (BSD).&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Picking first breaks ...</source>
         <translation>Picando primeras llegadas ...</translation>
     </message>
@@ -3960,10 +4188,6 @@ Do you want to run refraction processing anyway? </source>
         <translation>No existe el archivo %1</translation>
     </message>
     <message>
-        <source>The project as it was saved before is in %1</source>
-        <translation>El proyecto tal como se guardó antes está en %1</translation>
-    </message>
-    <message>
         <source>Project %1 loaded.</source>
         <translation>Proyecto %1 cargado.</translation>
     </message>
@@ -4071,24 +4295,6 @@ Do you want to run refraction processing anyway? </source>
         <translation>Resultados de la inversión</translation>
     </message>
     <message>
-        <source>Elapsed time: [s] %1
-</source>
-        <translation>Tiempo transcurrido: [s] %1
-</translation>
-    </message>
-    <message>
-        <source>RMSE: [ms] %1; [%] %2
-</source>
-        <translation>RMSE: [ms] %1; [%] %2
-</translation>
-    </message>
-    <message>
-        <source>MaxError: [ms] %1; [%] %2
-</source>
-        <translation>Error máximo: [ms] %1; [%] %2
-</translation>
-    </message>
-    <message>
         <source>The survey is recovered; it is not saved yet.</source>
         <translation>El levantamiento se ha recuperado; todavía no está guardado.</translation>
     </message>
@@ -4169,6 +4375,74 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Writing %1 ...</source>
         <translation>Escribiendo %1 ...</translation>
+    </message>
+    <message>
+        <source>Start a new survey: asks for shot files, which then take the place of this one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No shot file was loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with these libraries, Qt being version %1:&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a folder or names no file. Give the project a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in use elsewhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in use by %2 on %3 (process %4).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Project in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If nobody uses it any more, delete the lock %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to replace it all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has been changed by somebody else since it was opened or saved here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to replace it? What was changed there is lost then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is as it was before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to open it all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some values of the project cannot be. They were put right or left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out of the inversion:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4517,6 +4791,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <source>None of these is checked: no contours will be drawn.</source>
         <translation>Ninguna casilla está marcada: no se dibujará ninguna isolínea.</translation>
     </message>
+    <message>
+        <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::doFilteringDialog</name>
@@ -4823,6 +5101,26 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <source>The results of the last inversion will be lost.</source>
         <translation>Los resultados de la última inversión se perderán.</translation>
     </message>
+    <message>
+        <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cell sizes that lose none:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost to an inversion: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation type="unfinished">%1 m</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::progressDialog</name>
@@ -4969,10 +5267,6 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Número de iteraciones externas (predeterminado =5)</translation>
     </message>
     <message>
-        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little.</source>
-        <translation>Cada iteración externa vuelve a trazar los rayos a través del modelo obtenido hasta entonces. Con más iteraciones los rayos se curvan de forma más fiel a la realidad y el desajuste disminuye; el tiempo crece con el número. Cuando la curva del desajuste se ha aplanado, más iteraciones cambian poco.</translation>
-    </message>
-    <message>
         <source>Number of solver iterations (default =20)</source>
         <translation>Número de iteraciones del solucionador (predeterminado =20)</translation>
     </message>
@@ -5068,6 +5362,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <source>Starts from the present velocities of the grid.</source>
         <translation>Parte de las velocidades actuales de la malla.</translation>
     </message>
+    <message>
+        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::select_speed_Dialog</name>
@@ -5106,6 +5404,14 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>The results of the last inversion will be lost.</source>
         <translation>Los resultados de la última inversión se perderán.</translation>
+    </message>
+    <message>
+        <source>Do you want to put them into the grid all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You have not changed the layers.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

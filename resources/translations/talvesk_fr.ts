@@ -368,18 +368,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
             <numerusform>%n altitudes interpolées.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>the grid and the results of the inversion</source>
-        <translation>la grille et les résultats de l&apos;inversion</translation>
-    </message>
-    <message>
-        <source>the grid</source>
-        <translation>la grille</translation>
-    </message>
-    <message>
-        <source>the refraction interpretation</source>
-        <translation>l&apos;interprétation en réfraction</translation>
-    </message>
     <message numerus="yes">
         <source>the picks of shot(s) %1</source>
         <translation>
@@ -390,14 +378,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Warning</source>
         <translation>Avertissement</translation>
-    </message>
-    <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>Le levé change. Ceci sera perdu&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Do you want to continue?</source>
-        <translation>Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>The geometry is not complete.</source>
@@ -629,10 +609,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>%1 temps calculés</translation>
     </message>
     <message>
-        <source>RMS misfit %1 %</source>
-        <translation>Écart quadratique moyen %1&#xa0;%</translation>
-    </message>
-    <message>
         <source>%1 %2 to %3</source>
         <comment>quantity, least and greatest value with its unit</comment>
         <translation>%1 de %2 à %3</translation>
@@ -790,12 +766,28 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Calculés moins mesurés [ms]</translation>
     </message>
     <message>
-        <source>RMS misfit of the inversion %1 %</source>
-        <translation>Écart RMS de l&apos;inversion&#xa0;: %1&#xa0;%</translation>
-    </message>
-    <message>
         <source>Refractor %1</source>
         <translation>Réfracteur %1</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 ms, %2 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last solver pass %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>picks have changed since the inversion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refractor %1 (picks have changed since)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picks have changed since this was built</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1116,61 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::InversionTexts</name>
+    <message>
+        <source>Section, along fresh rays
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean: [ms] %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest difference: [ms] %1; shot %2, receiver %3
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computing time: [s] %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elapsed time: [s] %1
+</source>
+        <translation type="unfinished">Temps écoulé&#xa0;: [s] %1
+</translation>
+    </message>
+    <message>
+        <source>RMSE: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished">RMSE&#xa0;: [ms] %1&#xa0;; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>MaxError: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished">Erreur maximale&#xa0;: [ms] %1&#xa0;; [%] %2
+</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
         <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
@@ -1136,6 +1183,55 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>layer %1</source>
         <translation>couche %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LeftOutText</name>
+    <message>
+        <source>%1 of %2 picks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n geophone(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot(s) without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Geophone(s) %1 of string %2 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1275,41 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Elevation (m)</source>
         <translation>Altitude (m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LossQuestion</name>
+    <message>
+        <source>the grid and the results of the inversion</source>
+        <translation type="unfinished">la grille et les résultats de l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation type="unfinished">la grille</translation>
+    </message>
+    <message>
+        <source>the results of the inversion; the grid stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the layers of the starting model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the refraction interpretation</source>
+        <translation type="unfinished">l&apos;interprétation en réfraction</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">Avertissement</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be lost:</source>
+        <translation type="unfinished">Le levé change. Ceci sera perdu&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Do you want to continue?</source>
+        <translation type="unfinished">Voulez-vous continuer&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1228,6 +1359,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>RMSE (ms)</source>
         <translation>RMSE (ms)</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1797,6 +1936,14 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
         <translation>La courbe directe est lue XY mètres après le récepteur, la courbe inverse XY mètres avant&#xa0;: les deux points sont distants de 2 XY.</translation>
     </message>
+    <message>
+        <source>The picks have changed since the profiles were built.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
@@ -1852,10 +1999,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Couche %1&#xa0;: les courbes directe et inverse ont moins de deux récepteurs en commun.</translation>
     </message>
     <message>
-        <source>Layer %1: no shot has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
-        <translation>Couche %1&#xa0;: aucun tir n&apos;a deux pointés dans cette couche d&apos;un même côté&#xa0;; elle n&apos;a donc pas de vitesse et les couches inférieures n&apos;ont pas de profondeur.</translation>
-    </message>
-    <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer above.</source>
         <translation>Couche %1&#xa0;: aucune profondeur à %2 des %3 récepteurs, où elle n&apos;est pas plus rapide que la couche au-dessus.</translation>
     </message>
@@ -1870,6 +2013,22 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
         <translation>À chaque extrémité de la ligne, ou au-delà, il faut un tir avec des pointés de la couche 2. De tels tirs vont de %1 à %2 m, mais les géophones de %3 à %4 m.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2131,10 +2290,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Tirs et récepteurs écartés, au-delà de la grille</translation>
     </message>
     <message>
-        <source>Misfit of the section</source>
-        <translation>Écart de la coupe</translation>
-    </message>
-    <message>
         <source>Residuals of the picks against the distance from their shot</source>
         <translation>Résidus des pointés en fonction de la distance à leur tir</translation>
     </message>
@@ -2181,10 +2336,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Method</source>
         <translation>Méthode</translation>
-    </message>
-    <message>
-        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces and inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
-        <translation>Les premières arrivées sont les instants auxquels la première énergie sismique d&apos;un tir atteint chaque géophone. Elles ont été pointées sur les traces enregistrées et inversées par tomographie des temps de parcours. Le terrain sous la ligne est divisé en cellules carrées de vitesse constante, qui suivent la surface. Depuis chaque tir, les chemins les plus rapides vers tous les géophones sont recherchés dans le réseau des nœuds placés sur les côtés des cellules&#xa0;: ce sont les rais. Les différences entre temps mesurés et calculés sont réparties le long des rais et corrigent la lenteur des cellules qu&apos;ils traversent, plusieurs fois sur les mêmes rais et dans les limites de vitesse. La coupe corrigée est lissée et de nouveaux rais y sont tracés&#xa0;: c&apos;est une itération externe.</translation>
     </message>
     <message>
         <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
@@ -2363,28 +2514,8 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Densité d&apos;information : à quel point les rais traversent les environs de chaque cellule</translation>
     </message>
     <message>
-        <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation>L&apos;écart est la différence entre temps calculés et mesurés. Les temps calculés sont ceux le long des rais de la dernière itération, avant sa dernière correction et son lissage, ou à travers la coupe telle qu&apos;elle est dessinée si le projet a été rouvert. Le RMS est la moyenne quadratique de l&apos;écart, en millisecondes ou en pourcentage des temps mesurés. La densité d&apos;information dit à quel point les rais traversent les environs d&apos;une cellule ; là où elle est faible, les vitesses sont peu étayées par les données, et sous les rais les plus profonds la coupe n&apos;est pas dessinée. Des vitesses qui diminuent avec la profondeur et des couches minces peuvent rester cachées aux premières arrivées.</translation>
-    </message>
-    <message>
-        <source>The misfit of an iteration is that of its own rays, before the last correction of the velocities and before they are smoothed. New rays through the finished section are faster in places, and their misfit is usually larger.</source>
-        <translation>L&apos;écart d&apos;une itération est celui de ses propres rais, avant la dernière correction des vitesses et avant leur lissage. De nouveaux rais à travers la coupe terminée sont plus rapides par endroits, et leur écart est en général plus grand.</translation>
-    </message>
-    <message>
         <source>Velocity section with rays</source>
         <translation>Coupe de vitesse avec rais</translation>
-    </message>
-    <message>
-        <source>Misfit after the last external iteration</source>
-        <translation>Écart après la dernière itération externe</translation>
-    </message>
-    <message>
-        <source>Largest relative late error [%]</source>
-        <translation>Plus grand retard relatif [%]</translation>
-    </message>
-    <message>
-        <source>The same [ms]</source>
-        <translation>Le même [ms]</translation>
     </message>
     <message>
         <source>Largest relative late error</source>
@@ -2393,6 +2524,82 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>%1 % (%2 ms)</source>
         <translation>%1 % (%2 ms)</translation>
+    </message>
+    <message>
+        <source>Computing time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of computed minus measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished">%1 ms</translation>
+    </message>
+    <message>
+        <source>Largest difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms, shot %2, receiver %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit of the section, along fresh rays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The section was smoothed after the inversion; its misfit is that of the smoothed one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion: the section was fitted to others than those that its misfit is told of here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass of the inversion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section, RMS [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass, RMS [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The misfit of the section is that of fresh rays through the section that an iteration has left; 0 is the starting model. The last solver pass of an iteration goes along its old rays, before the last correction of the velocities and before they are smoothed, and its misfit is usually smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS misfit of the section after every external iteration (blue), 0 being the starting model, and of the last solver pass of each (grey)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picks have changed since this profile was built: it is that of the earlier picks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They were inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2683,10 +2890,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Images</translation>
     </message>
     <message>
-        <source>Horizontal colour bar</source>
-        <translation>Barre de couleurs horizontale</translation>
-    </message>
-    <message>
         <source>Opens shots at the part of the record that holds the first breaks.</source>
         <translation>Ouvre les tirs sur la partie de l&apos;enregistrement qui contient les premières arrivées.</translation>
     </message>
@@ -2695,16 +2898,20 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Afficher toutes les traces</translation>
     </message>
     <message>
-        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Hushel then work on all shots.</source>
-        <translation>Ouvre les tirs avec toutes les traces visibles, si étroites soient-elles. AutoPick, Filtre, AGC et Hushel agissent alors sur tous les tirs.</translation>
-    </message>
-    <message>
         <source>Zoom in on first breaks</source>
         <translation>Zoomer sur les premières arrivées</translation>
     </message>
     <message>
-        <source>Puts the colour bar of saved pictures above the section, not beside it.</source>
-        <translation>Place la barre de couleurs des images enregistrées au-dessus de la coupe, et non à côté.</translation>
+        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Apply Hushel then work on all shots.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizontal scalarbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2782,6 +2989,35 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>&amp;Remove rows</source>
         <translation>&amp;Supprimer les lignes</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TableTexts</name>
+    <message>
+        <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">Avertissement</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) of %1 that are no number were taken as 0.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2909,10 +3145,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>New...</source>
         <translation>Nouveau...</translation>
-    </message>
-    <message>
-        <source>Start a new survey: empties this one, then asks for shot files</source>
-        <translation>Commencer un nouveau levé&#xa0;: vide celui-ci, puis demande les fichiers de tirs</translation>
     </message>
     <message>
         <source>Import TravelTimes...</source>
@@ -3679,10 +3911,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Il se trouve dans %1</translation>
     </message>
     <message>
-        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), Eigen (MPL 2) and cereal (BSD).&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Levés de sismique réfraction&#xa0;: des enregistrements de terrain aux coupes de vitesse.&lt;/p&gt;&lt;p&gt;Talvesk est un logiciel libre sous licence MIT, sans aucune garantie.&lt;/p&gt;&lt;p&gt;Il est construit avec Qt %1 (LGPL), Qwt (LGPL avec exceptions), liquid-dsp (MIT), Eigen (MPL 2) et cereal (BSD).&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Picking first breaks ...</source>
         <translation>Pointage des premières arrivées ...</translation>
     </message>
@@ -3960,10 +4188,6 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>Le fichier %1 n&apos;existe pas</translation>
     </message>
     <message>
-        <source>The project as it was saved before is in %1</source>
-        <translation>Le projet tel qu&apos;enregistré auparavant se trouve dans %1</translation>
-    </message>
-    <message>
         <source>Project %1 loaded.</source>
         <translation>Projet %1 chargé.</translation>
     </message>
@@ -4071,24 +4295,6 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>Résultats de l&apos;inversion</translation>
     </message>
     <message>
-        <source>Elapsed time: [s] %1
-</source>
-        <translation>Temps écoulé&#xa0;: [s] %1
-</translation>
-    </message>
-    <message>
-        <source>RMSE: [ms] %1; [%] %2
-</source>
-        <translation>RMSE&#xa0;: [ms] %1&#xa0;; [%] %2
-</translation>
-    </message>
-    <message>
-        <source>MaxError: [ms] %1; [%] %2
-</source>
-        <translation>Erreur maximale&#xa0;: [ms] %1&#xa0;; [%] %2
-</translation>
-    </message>
-    <message>
         <source>The survey is recovered; it is not saved yet.</source>
         <translation>Le levé est récupéré&#xa0;; il n&apos;est pas encore enregistré.</translation>
     </message>
@@ -4169,6 +4375,74 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Writing %1 ...</source>
         <translation>Écriture de %1 ...</translation>
+    </message>
+    <message>
+        <source>Start a new survey: asks for shot files, which then take the place of this one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No shot file was loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with these libraries, Qt being version %1:&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a folder or names no file. Give the project a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in use elsewhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in use by %2 on %3 (process %4).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Project in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If nobody uses it any more, delete the lock %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to replace it all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has been changed by somebody else since it was opened or saved here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to replace it? What was changed there is lost then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is as it was before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to open it all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some values of the project cannot be. They were put right or left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out of the inversion:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4517,6 +4791,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <source>None of these is checked: no contours will be drawn.</source>
         <translation>Aucune case n&apos;est cochée&#xa0;: aucune isoligne ne sera dessinée.</translation>
     </message>
+    <message>
+        <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::doFilteringDialog</name>
@@ -4823,6 +5101,26 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <source>The results of the last inversion will be lost.</source>
         <translation>Les résultats de la dernière inversion seront perdus.</translation>
     </message>
+    <message>
+        <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cell sizes that lose none:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost to an inversion: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation type="unfinished">%1 m</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::progressDialog</name>
@@ -4969,10 +5267,6 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Nombre d&apos;itérations externes (par défaut =5)</translation>
     </message>
     <message>
-        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little.</source>
-        <translation>Chaque itération externe retrace les rais à travers le modèle obtenu jusque-là. Davantage d&apos;itérations courbent les rais plus près de la réalité et réduisent l&apos;écart&#xa0;; le temps croît avec leur nombre. Quand la courbe de l&apos;écart s&apos;est aplatie, de nouvelles itérations changent peu.</translation>
-    </message>
-    <message>
         <source>Number of solver iterations (default =20)</source>
         <translation>Nombre d&apos;itérations du solveur (par défaut =20)</translation>
     </message>
@@ -5068,6 +5362,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <source>Starts from the present velocities of the grid.</source>
         <translation>Part des vitesses actuelles de la grille.</translation>
     </message>
+    <message>
+        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::select_speed_Dialog</name>
@@ -5106,6 +5404,14 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>The results of the last inversion will be lost.</source>
         <translation>Les résultats de la dernière inversion seront perdus.</translation>
+    </message>
+    <message>
+        <source>Do you want to put them into the grid all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You have not changed the layers.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

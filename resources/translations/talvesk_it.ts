@@ -368,18 +368,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
             <numerusform>%n quote interpolate.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>the grid and the results of the inversion</source>
-        <translation>la griglia e i risultati dell&apos;inversione</translation>
-    </message>
-    <message>
-        <source>the grid</source>
-        <translation>la griglia</translation>
-    </message>
-    <message>
-        <source>the refraction interpretation</source>
-        <translation>l&apos;interpretazione a rifrazione</translation>
-    </message>
     <message numerus="yes">
         <source>the picks of shot(s) %1</source>
         <translation>
@@ -390,14 +378,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Warning</source>
         <translation>Attenzione</translation>
-    </message>
-    <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>Il rilievo cambia. Andranno persi:</translation>
-    </message>
-    <message>
-        <source>Do you want to continue?</source>
-        <translation>Vuoi continuare?</translation>
     </message>
     <message>
         <source>The geometry is not complete.</source>
@@ -629,10 +609,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>%1 tempi calcolati</translation>
     </message>
     <message>
-        <source>RMS misfit %1 %</source>
-        <translation>Scarto quadratico medio %1 %</translation>
-    </message>
-    <message>
         <source>%1 %2 to %3</source>
         <comment>quantity, least and greatest value with its unit</comment>
         <translation>%1 da %2 a %3</translation>
@@ -790,12 +766,28 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Calcolati meno misurati [ms]</translation>
     </message>
     <message>
-        <source>RMS misfit of the inversion %1 %</source>
-        <translation>Scarto quadratico medio dell&apos;inversione %1 %</translation>
-    </message>
-    <message>
         <source>Refractor %1</source>
         <translation>Rifrattore %1</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 ms, %2 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last solver pass %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>picks have changed since the inversion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refractor %1 (picks have changed since)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picks have changed since this was built</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1116,61 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::InversionTexts</name>
+    <message>
+        <source>Section, along fresh rays
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean: [ms] %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest difference: [ms] %1; shot %2, receiver %3
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computing time: [s] %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elapsed time: [s] %1
+</source>
+        <translation type="unfinished">Tempo trascorso: [s] %1
+</translation>
+    </message>
+    <message>
+        <source>RMSE: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished">RMSE: [ms] %1; [%] %2
+</translation>
+    </message>
+    <message>
+        <source>MaxError: [ms] %1; [%] %2
+</source>
+        <translation type="unfinished">Errore massimo: [ms] %1; [%] %2
+</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
         <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
@@ -1136,6 +1183,55 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>layer %1</source>
         <translation>strato %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LeftOutText</name>
+    <message>
+        <source>%1 of %2 picks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n geophone(s) beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shot(s) without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Geophone(s) %1 of string %2 beyond the last column</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Shot(s) %1 without a geophone string</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1275,41 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Elevation (m)</source>
         <translation>Quota (m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LossQuestion</name>
+    <message>
+        <source>the grid and the results of the inversion</source>
+        <translation type="unfinished">la griglia e i risultati dell&apos;inversione</translation>
+    </message>
+    <message>
+        <source>the grid</source>
+        <translation type="unfinished">la griglia</translation>
+    </message>
+    <message>
+        <source>the results of the inversion; the grid stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the layers of the starting model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the refraction interpretation</source>
+        <translation type="unfinished">l&apos;interpretazione a rifrazione</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">Attenzione</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be lost:</source>
+        <translation type="unfinished">Il rilievo cambia. Andranno persi:</translation>
+    </message>
+    <message>
+        <source>Do you want to continue?</source>
+        <translation type="unfinished">Vuoi continuare?</translation>
     </message>
 </context>
 <context>
@@ -1228,6 +1359,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>RMSE (ms)</source>
         <translation>RMSE (ms)</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1797,6 +1936,14 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
         <translation>La dromocrona diretta è letta XY metri dopo il ricevitore, quella inversa XY metri prima: i due punti distano 2 XY.</translation>
     </message>
+    <message>
+        <source>The picks have changed since the profiles were built.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
@@ -1852,10 +1999,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Strato %1: le dromocrone diretta e inversa hanno meno di due ricevitori in comune.</translation>
     </message>
     <message>
-        <source>Layer %1: no shot has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
-        <translation>Strato %1: nessun tiro ne ha due arrivi su un lato, quindi non ha velocità e gli strati sottostanti non hanno profondità.</translation>
-    </message>
-    <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer above.</source>
         <translation>Strato %1: nessuna profondità in %2 ricevitori su %3, dove non è più veloce dello strato sovrastante.</translation>
     </message>
@@ -1870,6 +2013,22 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
         <translation>A ogni estremo della linea, o oltre, serve un tiro con arrivi dello strato 2. Questi tiri vanno da %1 a %2 m, i geofoni invece da %3 a %4 m.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2131,10 +2290,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Tiri e ricevitori esclusi, oltre la griglia</translation>
     </message>
     <message>
-        <source>Misfit of the section</source>
-        <translation>Scarto della sezione</translation>
-    </message>
-    <message>
         <source>Residuals of the picks against the distance from their shot</source>
         <translation>Residui dei primi arrivi in funzione della distanza dal tiro</translation>
     </message>
@@ -2181,10 +2336,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Method</source>
         <translation>Metodo</translation>
-    </message>
-    <message>
-        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces and inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
-        <translation>I primi arrivi sono i tempi in cui la prima energia sismica di un tiro raggiunge ogni geofono. Sono stati letti sulle tracce registrate e invertiti per tomografia dei tempi di arrivo. Il terreno sotto la linea è diviso in celle quadrate a velocità costante, che seguono la superficie. Da ogni tiro si cercano i percorsi più rapidi verso tutti i geofoni nella rete dei nodi sui lati delle celle: sono i raggi. Le differenze fra tempi misurati e calcolati si distribuiscono lungo i raggi e correggono la lentezza delle celle attraversate, più volte sugli stessi raggi ed entro i limiti di velocità. La sezione corretta viene smussata e vi si tracciano nuovi raggi: questa è un&apos;iterazione esterna.</translation>
     </message>
     <message>
         <source>The refractors were interpreted by the generalised reciprocal method. First breaks were assigned to layers, and the arrivals of each refractor from both ends of the line were completed by shifted arrivals of the other shots. The velocity-analysis function gives the velocity of the refractor, the time-depth function its depth beneath each geophone.</source>
@@ -2363,28 +2514,8 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Densità d&apos;informazione: quanto i raggi attraversano i dintorni di ogni cella</translation>
     </message>
     <message>
-        <source>The misfit is the difference between computed and measured times. The computed times are those along the rays of the last iteration, before its last correction and smoothing, or through the section as it is drawn when the project was opened again. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation>Lo scarto è la differenza fra tempi calcolati e misurati. I tempi calcolati sono quelli lungo i raggi dell&apos;ultima iterazione, prima della sua ultima correzione e del suo smussamento, oppure attraverso la sezione così come è disegnata se il progetto è stato riaperto. RMS è la media quadratica dello scarto, in millisecondi o in percentuale dei tempi misurati. La densità d&apos;informazione dice quanto completamente i raggi attraversano i dintorni di una cella; dove è bassa le velocità sono poco sostenute dai dati, e sotto i raggi più profondi la sezione non è disegnata. Velocità che diminuiscono con la profondità e strati sottili possono restare nascosti ai primi arrivi.</translation>
-    </message>
-    <message>
-        <source>The misfit of an iteration is that of its own rays, before the last correction of the velocities and before they are smoothed. New rays through the finished section are faster in places, and their misfit is usually larger.</source>
-        <translation>Lo scarto di un&apos;iterazione è quello dei suoi raggi, prima dell&apos;ultima correzione delle velocità e prima che siano smussate. Nuovi raggi attraverso la sezione finita sono in alcuni punti più veloci, e il loro scarto è di solito maggiore.</translation>
-    </message>
-    <message>
         <source>Velocity section with rays</source>
         <translation>Sezione di velocità con i raggi</translation>
-    </message>
-    <message>
-        <source>Misfit after the last external iteration</source>
-        <translation>Scarto dopo l&apos;ultima iterazione esterna</translation>
-    </message>
-    <message>
-        <source>Largest relative late error [%]</source>
-        <translation>Massimo ritardo relativo [%]</translation>
-    </message>
-    <message>
-        <source>The same [ms]</source>
-        <translation>Lo stesso [ms]</translation>
     </message>
     <message>
         <source>Largest relative late error</source>
@@ -2393,6 +2524,82 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>%1 % (%2 ms)</source>
         <translation>%1 % (%2 ms)</translation>
+    </message>
+    <message>
+        <source>Computing time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of computed minus measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished">%1 ms</translation>
+    </message>
+    <message>
+        <source>Largest difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms, shot %2, receiver %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit of the section, along fresh rays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The section was smoothed after the inversion; its misfit is that of the smoothed one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion: the section was fitted to others than those that its misfit is told of here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass of the inversion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section, RMS [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last solver pass, RMS [ms]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The misfit of the section is that of fresh rays through the section that an iteration has left; 0 is the starting model. The last solver pass of an iteration goes along its old rays, before the last correction of the velocities and before they are smoothed, and its misfit is usually smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS misfit of the section after every external iteration (blue), 0 being the starting model, and of the last solver pass of each (grey)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picks have changed since this profile was built: it is that of the earlier picks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They were inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2683,10 +2890,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Immagini</translation>
     </message>
     <message>
-        <source>Horizontal colour bar</source>
-        <translation>Barra dei colori orizzontale</translation>
-    </message>
-    <message>
         <source>Opens shots at the part of the record that holds the first breaks.</source>
         <translation>Apre i tiri sulla parte della registrazione che contiene i primi arrivi.</translation>
     </message>
@@ -2695,16 +2898,20 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Mostra tutte le tracce</translation>
     </message>
     <message>
-        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Hushel then work on all shots.</source>
-        <translation>Apre i tiri con tutte le tracce in vista, per quanto strette. AutoPick, Filtro, AGC e Hushel lavorano allora su tutti i tiri.</translation>
-    </message>
-    <message>
         <source>Zoom in on first breaks</source>
         <translation>Ingrandisci i primi arrivi</translation>
     </message>
     <message>
-        <source>Puts the colour bar of saved pictures above the section, not beside it.</source>
-        <translation>Mette la barra dei colori delle immagini salvate sopra la sezione, non accanto.</translation>
+        <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Apply Hushel then work on all shots.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizontal scalarbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2782,6 +2989,35 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>&amp;Remove rows</source>
         <translation>&amp;Rimuovi righe</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TableTexts</name>
+    <message>
+        <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform>e un altro</numerusform>
+            <numerusform>e altri %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">Attenzione</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) of %1 that are no number were taken as 0.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2909,10 +3145,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>New...</source>
         <translation>Nuovo...</translation>
-    </message>
-    <message>
-        <source>Start a new survey: empties this one, then asks for shot files</source>
-        <translation>Comincia un nuovo rilievo: svuota questo, poi chiede i file dei tiri</translation>
     </message>
     <message>
         <source>Import TravelTimes...</source>
@@ -3679,10 +3911,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Si trova in %1</translation>
     </message>
     <message>
-        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), Eigen (MPL 2) and cereal (BSD).&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Rilievi di sismica a rifrazione: dalle registrazioni di campagna alle sezioni di velocità.&lt;/p&gt;&lt;p&gt;Talvesk è software libero con licenza MIT, senza alcuna garanzia.&lt;/p&gt;&lt;p&gt;È costruito con Qt %1 (LGPL), Qwt (LGPL con eccezioni), liquid-dsp (MIT), Eigen (MPL 2) e cereal (BSD).&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Picking first breaks ...</source>
         <translation>Ricerca dei primi arrivi ...</translation>
     </message>
@@ -3960,10 +4188,6 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>Il file %1 non esiste</translation>
     </message>
     <message>
-        <source>The project as it was saved before is in %1</source>
-        <translation>Il progetto com&apos;era salvato prima si trova in %1</translation>
-    </message>
-    <message>
         <source>Project %1 loaded.</source>
         <translation>Progetto %1 caricato.</translation>
     </message>
@@ -4070,24 +4294,6 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Inversion results</source>
         <translation>Risultati dell&apos;inversione</translation>
     </message>
-    <message>
-        <source>Elapsed time: [s] %1
-</source>
-        <translation>Tempo trascorso: [s] %1
-</translation>
-    </message>
-    <message>
-        <source>RMSE: [ms] %1; [%] %2
-</source>
-        <translation>RMSE: [ms] %1; [%] %2
-</translation>
-    </message>
-    <message>
-        <source>MaxError: [ms] %1; [%] %2
-</source>
-        <translation>Errore massimo: [ms] %1; [%] %2
-</translation>
-    </message>
     <message numerus="yes">
         <source>%n file(s) exist already.</source>
         <translation>
@@ -4169,6 +4375,74 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>Writing %1 ...</source>
         <translation>Scrittura di %1 ...</translation>
+    </message>
+    <message>
+        <source>Start a new survey: asks for shot files, which then take the place of this one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No shot file was loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with these libraries, Qt being version %1:&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a folder or names no file. Give the project a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in use elsewhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in use by %2 on %3 (process %4).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Project in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If nobody uses it any more, delete the lock %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to replace it all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has been changed by somebody else since it was opened or saved here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to replace it? What was changed there is lost then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is as it was before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to open it all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some values of the project cannot be. They were put right or left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out of the inversion:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4517,6 +4791,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <source>None of these is checked: no contours will be drawn.</source>
         <translation>Nessuna casella è spuntata: non verrà disegnata alcuna isolinea.</translation>
     </message>
+    <message>
+        <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::doFilteringDialog</name>
@@ -4823,6 +5101,26 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <source>The results of the last inversion will be lost.</source>
         <translation>I risultati dell&apos;ultima inversione andranno persi.</translation>
     </message>
+    <message>
+        <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cell sizes that lose none:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost to an inversion: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation type="unfinished">%1 m</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::progressDialog</name>
@@ -4969,10 +5267,6 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Numero di iterazioni esterne (predefinito =5)</translation>
     </message>
     <message>
-        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little.</source>
-        <translation>Ogni iterazione esterna traccia di nuovo i raggi attraverso il modello ottenuto finora. Con più iterazioni i raggi si avvicinano alla realtà e lo scarto diminuisce; il tempo cresce con il numero. Quando la curva dello scarto si è appiattita, altre cambiano poco.</translation>
-    </message>
-    <message>
         <source>Number of solver iterations (default =20)</source>
         <translation>Numero di iterazioni del risolutore (predefinito =20)</translation>
     </message>
@@ -5068,6 +5362,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <source>Starts from the present velocities of the grid.</source>
         <translation>Parte dalle velocità attuali della griglia.</translation>
     </message>
+    <message>
+        <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>talvesk::select_speed_Dialog</name>
@@ -5106,6 +5404,14 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>The results of the last inversion will be lost.</source>
         <translation>I risultati dell&apos;ultima inversione andranno persi.</translation>
+    </message>
+    <message>
+        <source>Do you want to put them into the grid all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You have not changed the layers.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "app/GeometrySession.h"
 #include "app/GeometryTables.h"
 #include "app/GeometryTexts.h"
+#include "app/LossQuestion.h"
 #include "app/Messages.h"
 #include "model/SurveyFacts.h"
 #include "ui_DialogSetGeometry.h"
@@ -22,12 +23,13 @@ constexpr double kMostOfScreen = 0.92;
 }  // namespace
 
 DialogSetGeometry::DialogSetGeometry(const TomoDocument& document, SegyState& state,
-                                     Context context, QWidget* parent)
+                                     FileFolders& folders, Context context, QWidget* parent)
     : QDialog(parent),
       mUi(std::make_unique<Ui::DialogSetGeometry>()),
       mDocument(document),
       mState(state),
-      mContext(std::move(context)),
+      mFolders(folders),
+      mContext(context),
       mSession(new GeometrySession(geometryOf(document), this)),
       mGeophones(new GeophoneTable(*mSession, this)),
       mShots(new ShotTable(*mSession, this)) {
@@ -67,6 +69,7 @@ void DialogSetGeometry::setUpTables() {
     connect(&view, &SpreadsheetView::clearRequested, &table, &GeometryTable::clear);
     connect(&table, &GeometryTable::refused, this,
             [this](const QString& why) { notice(why, true); });
+    connect(&table, &GeometryTable::told, this, [this](const QString& what) { notice(what); });
     // The plan frames the row that is edited.
     connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
       refreshPlan();
@@ -361,26 +364,18 @@ void DialogSetGeometry::interpolateShots() {
 }
 
 bool DialogSetGeometry::mayLoseResults() {
-  QStringList lost;
-  if (mDocument.has_tomographic_info) {
-    lost << tr("the grid and the results of the inversion");
-  } else if (mDocument.grid) {
-    lost << tr("the grid");
-  }
-  if (mContext.interpreted) lost << tr("the refraction interpretation");
+  Losses losses;
+  losses.model = ModelLoss::kGrid;
+  losses.interpretation = mContext.interpreted;
   std::vector<std::size_t> picked;
   for (std::size_t i = 0; i < mDocument.ttArray.size(); ++i) {
     if (geometry().shots[i].pair && hasPicks(mDocument.ttArray[i])) picked.push_back(i);
   }
   if (!picked.empty()) {
-    lost << tr("the picks of shot(s) %1", nullptr, static_cast<int>(picked.size()))
-                .arg(numberRanges(picked));
+    losses.others << tr("the picks of shot(s) %1", nullptr, static_cast<int>(picked.size()))
+                         .arg(numberRanges(picked));
   }
-  if (lost.isEmpty()) return true;
-  return askYesNo(
-      this, tr("Warning"), tr("The survey changes. This will be lost:"),
-      lost.join(QLatin1Char('\n')) + QStringLiteral("\n\n") + tr("Do you want to continue?"),
-      false);
+  return mayLose(this, mDocument, losses);
 }
 
 void DialogSetGeometry::accept() {

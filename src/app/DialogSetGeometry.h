@@ -15,10 +15,12 @@ namespace talvesk {
 namespace Ui {
 class DialogSetGeometry;
 }
+class FileFolders;
 class GeometrySession;
 class GeophoneTable;
 class ShotTable;
 struct GeometryMistake;
+struct PositionTable;
 struct SegyState;
 
 /// Edits where the geophones and shots of a survey stand, and which recordings S-wave shots are
@@ -30,18 +32,15 @@ class DialogSetGeometry : public QDialog {
  public:
   struct Context {
     bool interpreted = false;  ///< a layered interpretation hangs on the positions as they are
-    QString folder;            ///< where shot files are looked for first
   };
 
   /// \param document outlives the dialog, which only reads it; \param state what the readers of
-  /// shot files remember between files
-  DialogSetGeometry(const TomoDocument& document, SegyState& state, Context context,
-                    QWidget* parent = nullptr);
+  /// shot files remember between files; \param folders where its file dialogs start, outlives it
+  DialogSetGeometry(const TomoDocument& document, SegyState& state, FileFolders& folders,
+                    Context context, QWidget* parent = nullptr);
   ~DialogSetGeometry() override;
 
   const SurveyGeometry& geometry() const;
-  /// Where shot files were opened last.
-  const QString& folder() const { return mContext.folder; }
 
   /// Refuses what blocks, and asks before results are lost.
   void accept() override;
@@ -59,7 +58,6 @@ class DialogSetGeometry : public QDialog {
   void refreshPlan();
   void refreshMistakes();
   void notice(const QString& text, bool refused = false);
-  void noticeLoaded(const QString& text, bool cut);
   void show(const GeometryMistake& mistake);
   void showGeophone(int string, int geophone);
   void showShot(int shot);
@@ -74,20 +72,14 @@ class DialogSetGeometry : public QDialog {
   void interpolateShots();
 
   // Files
-  /// A file of positions that was read.
-  struct PositionsFile {
-    QString name;
-    std::vector<Point2D> positions;
-    bool cut = false;  ///< numbers ended at their decimal commas
-  };
+  struct PositionsFile;
   using RecordReader = Status (*)(const std::string& path, const std::string& separator,
-                                  std::vector<std::vector<double>>& records);
+                                  PositionTable& table);
   QString askForFile(bool save, const QString& filter);
-  static QString takePositions(std::size_t count, const Status& read,
-                               const std::vector<std::vector<double>>& records,
-                               std::vector<Point2D>& positions);
+  static QString takePositions(std::size_t count, const Status& read, PositionsFile& file);
   bool askForPositions(std::size_t count, RecordReader read, const QString& invalid,
                        PositionsFile& chosen);
+  void tellLoaded(const QString& text, const PositionsFile& file);
   bool tellsOfGaps(bool shots);
   void saveGeophones();
   void loadGeophones();
@@ -103,6 +95,7 @@ class DialogSetGeometry : public QDialog {
   std::unique_ptr<Ui::DialogSetGeometry> mUi;
   const TomoDocument& mDocument;
   SegyState& mState;
+  FileFolders& mFolders;
   Context mContext;
   GeometrySession* mSession;
   GeophoneTable* mGeophones;

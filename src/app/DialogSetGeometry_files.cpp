@@ -1,10 +1,12 @@
 #include "app/DialogSetGeometry.h"
+#include "app/FileFolders.h"
 #include "app/GeometrySession.h"
 #include "app/GeometryTables.h"
 #include "app/GeometryTexts.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/SelectCSVDelimiterDialog.h"
+#include "app/TableTexts.h"
 #include "app/WaitCursor.h"
 #include "base/Console.h"
 #include "io/GeometryFile.h"
@@ -13,7 +15,6 @@
 #include "ui_DialogSetGeometry.h"
 
 #include <QCollator>
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <algorithm>
@@ -23,26 +24,40 @@
 // pairs.
 
 namespace talvesk {
+
+/// A file of positions that was read.
+struct DialogSetGeometry::PositionsFile {
+  QString name;
+  PositionTable table;
+  std::vector<Point2D> positions;
+  bool cut = false;  ///< numbers ended at their decimal commas
+};
+
 /// The positions of a file that has exactly one for each of `count` places; else why it has not.
 QString DialogSetGeometry::takePositions(std::size_t count, const Status& read,
-                                         const GeometryRecords& records,
-                                         std::vector<Point2D>& positions) {
+                                         PositionsFile& file) {
   if (!read.ok()) return textOf(read.text());
-  if (records.size() != count) {
-    return tr("Read with this separator the file has %1 lines of numbers; %2 are needed.")
-        .arg(records.size())
-        .arg(count);
+  if (file.table.records.size() != count) {
+    const QString why =
+        tr("Read with this separator the file has %1 lines of numbers; %2 are needed.")
+            .arg(file.table.records.size())
+            .arg(count);
+    return (why + QLatin1Char(' ') + headingText(file.table.remarks)).trimmed();
   }
-  return textOf(positionsOf(records, positions).text());
+  return textOf(positionsOf(file.table, file.positions).text());
 }
 
 QString DialogSetGeometry::askForFile(bool save, const QString& filter) {
   if (!save) {
-    return QFileDialog::getOpenFileName(this, tr("Open Geometry"), QDir::homePath(), filter);
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Open Geometry"), mFolders.toOpen(), filter);
+    if (!file.isEmpty()) mFolders.opened(file);
+    return file;
   }
   const QString chosen =
-      QFileDialog::getSaveFileName(this, tr("Save Geometry"), QDir::homePath(), filter);
+      QFileDialog::getSaveFileName(this, tr("Save Geometry"), mFolders.toSave(), filter);
   if (chosen.isEmpty()) return {};
+  mFolders.saved(chosen);
   const QString file = QString::fromStdString(withCsvSuffix(chosen.toStdString()));
   // The dialog has asked about the name as it was chosen only.
   if (file != chosen && QFileInfo::exists(file) &&
@@ -65,12 +80,16 @@ bool DialogSetGeometry::tellsOfGaps(bool shots) {
   return false;
 }
 
-/// \param cut numbers ended at their decimal commas
-void DialogSetGeometry::noticeLoaded(const QString& text, bool cut) {
-  if (!cut) return notice(text);
-  notice(text + QStringLiteral(". ") +
-             tr("Its numbers were cut at their decimal commas: they need points."),
-         true);
+/// What was loaded, and what of it is not as the file has it.
+void DialogSetGeometry::tellLoaded(const QString& text, const PositionsFile& file) {
+  QStringList sentences;
+  if (file.cut) {
+    sentences << tr("Its numbers were cut at their decimal commas: they need points.");
+  }
+  if (file.table.remarks.skippedHeading) sentences << headingText(file.table.remarks);
+  const QString rest = sentences.join(QLatin1Char(' '));
+  notice(rest.isEmpty() ? text : text + QStringLiteral(". ") + rest, file.cut);
+  warnOfZeros(this, file.name, file.table.remarks);
 }
 
 void DialogSetGeometry::saveGeophones() {
@@ -99,12 +118,12 @@ bool DialogSetGeometry::askForPositions(std::size_t count, RecordReader read,
   if (!separator) return false;
   chosen.name = QFileInfo(file).fileName();
   chosen.cut = cutsNumbers(look, *separator);
-  GeometryRecords records;
-  const Status status = read(file.toStdString(), *separator, records);
-  const QString why = takePositions(count, status, records, chosen.positions);
+  const Status status = read(file.toStdString(), *separator, chosen.table);
+  const QString why = takePositions(count, status, chosen);
   if (why.isEmpty()) return true;
   notice(why, true);
-  showError(this, windowTitle(), tr("Error Message"), invalid + QString::number(records.size()));
+  showError(this, windowTitle(), tr("Error Message"),
+            invalid + QString::number(chosen.table.records.size()));
   return false;
 }
 
@@ -120,7 +139,7 @@ void DialogSetGeometry::loadGeophones() {
       string[i] = {file.positions[i].x, file.positions[i].z, true};
     }
   });
-  noticeLoaded(tr("Geophones loaded from %1").arg(file.name), file.cut);
+  tellLoaded(tr("Geophones loaded from %1").arg(file.name), file);
 }
 
 void DialogSetGeometry::saveShots() {
@@ -157,7 +176,7 @@ void DialogSetGeometry::loadShots() {
     }
   });
   console::out().flush();
-  noticeLoaded(tr("Shots loaded from %1").arg(file.name), file.cut);
+  tellLoaded(tr("Shots loaded from %1").arg(file.name), file);
 }
 
 /// Picks without traces stay what they are: every record of a survey has traces, or none has.
@@ -169,9 +188,9 @@ QStringList DialogSetGeometry::askForRecordings(const QString& title, bool sever
   const QString filter = tr("Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)");
   QStringList files;
   if (several) {
-    files = QFileDialog::getOpenFileNames(this, title, mContext.folder, filter);
+    files = QFileDialog::getOpenFileNames(this, title, mFolders.toOpen(), filter);
   } else if (const QString file =
-                 QFileDialog::getOpenFileName(this, title, mContext.folder, filter);
+                 QFileDialog::getOpenFileName(this, title, mFolders.toOpen(), filter);
              !file.isEmpty()) {
     files << file;
   }
@@ -179,7 +198,7 @@ QStringList DialogSetGeometry::askForRecordings(const QString& title, bool sever
   QCollator order;
   order.setNumericMode(true);
   std::sort(files.begin(), files.end(), order);
-  if (!files.isEmpty()) mContext.folder = QFileInfo(files.front()).absolutePath();
+  if (!files.isEmpty()) mFolders.opened(files.front());
   return files;
 }
 

@@ -3,6 +3,7 @@
 #include "app/GeometrySession.h"
 #include "app/GeometryTexts.h"
 #include "app/MessageText.h"
+#include "app/TableTexts.h"
 #include "base/TypedTable.h"
 
 #include <QBrush>
@@ -119,7 +120,9 @@ bool GeometryTable::setData(const QModelIndex& index, const QVariant& value, int
 void GeometryTable::paste(int row, int column, const QString& text) {
   TypedTable rows;
   const auto room = static_cast<std::size_t>(std::max(0, mostRows() - row));
-  const Status read = parseTypedTable(text.toStdString(), usesDecimalComma(), kMostGeophones, rows);
+  TableRemarks remarks;
+  const Status read =
+      parseTypedTable(text.toStdString(), usesDecimalComma(), kMostGeophones, rows, remarks);
   if (!read.ok()) {
     emit refused(tr("Nothing was pasted: %1.").arg(textOf(read.text())));
     return;
@@ -147,6 +150,7 @@ void GeometryTable::paste(int row, int column, const QString& text) {
     }
   }
   put(row, column, rows);
+  if (remarks.skippedHeading) emit told(headingText(remarks));
 }
 
 int GeophoneTable::columnCount(const QModelIndex& parent) const {

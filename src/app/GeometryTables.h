@@ -31,6 +31,7 @@ class GeometryTable : public QAbstractTableModel {
 
  signals:
   void refused(const QString& why);
+  void told(const QString& what);  ///< of a paste that was taken
 
  protected:
   virtual int rowsNow() const = 0;

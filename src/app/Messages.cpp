@@ -8,6 +8,8 @@
 namespace talvesk {
 namespace {
 
+const QString kErrorStyle = QStringLiteral("color: red; font-size: 11px;");
+
 /// Paths and reasons are long, and a box is as wide as its short text else; pixels.
 constexpr int kTextWidth = 420;
 
@@ -32,23 +34,35 @@ void widen(QMessageBox& box, const QString& textStyle) {
 }
 
 void show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& text,
-          const QString& details, const QString& textStyle = QString()) {
+          const QString& details, const QString& textStyle = QString(),
+          const QString& unfolded = QString()) {
   QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
   setPlainTexts(box, details);
   widen(box, textStyle);
+  box.setDetailedText(unfolded);
   box.exec();
 }
 
 }  // namespace
 
 void showError(QWidget* parent, const QString& title, const QString& text, const QString& details) {
-  show(parent, QMessageBox::Critical, title, text, details,
-       QStringLiteral("color: red; font-size: 11px;"));
+  show(parent, QMessageBox::Critical, title, text, details, kErrorStyle);
+}
+
+void showErrors(QWidget* parent, const QString& title, const QString& text,
+                const QStringList& reasons) {
+  const bool all = reasons.size() <= kShortList;
+  show(parent, QMessageBox::Critical, title, text, shortList(reasons), kErrorStyle,
+       all ? QString() : reasons.join(QLatin1Char('\n')));
 }
 
 void showWarning(QWidget* parent, const QString& title, const QString& text,
                  const QString& details) {
   show(parent, QMessageBox::Warning, title, text, details);
+}
+
+void showUrgentWarning(QWidget* parent, const QString& title, const QString& text) {
+  show(parent, QMessageBox::Warning, title, text, {}, kErrorStyle);
 }
 
 void showNote(QWidget* parent, const QString& title, const QString& text, const QString& details) {

@@ -1,5 +1,6 @@
 #include "app/PaletteDialog.h"
 
+#include "app/FileFolders.h"
 #include "app/LineIcon.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
@@ -8,7 +9,6 @@
 #include "view/PaletteRepair.h"
 #include "view/SectionScene.h"
 
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
@@ -56,11 +56,14 @@ std::string freeName(const ColorPaletteList& palettes, const std::string& wanted
 }  // namespace
 
 PaletteDialog::PaletteDialog(ColorPaletteList& palettes, bool lockRange,
-                             std::optional<ValueRange> dataRange, QWidget* parent)
+                             std::optional<ValueRange> dataRange, FileFolders& folders,
+                             QWidget* parent)
     : QDialog(parent),
       mUi(std::make_unique<Ui::PaletteDialog>()),
       mPalettes(palettes),
       mBefore(palettes),
+      mLockedBefore(lockRange),
+      mFolders(folders),
       mDataRange(dataRange) {
   mUi->setupUi(this);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -108,6 +111,10 @@ void PaletteDialog::connectControls() {
 
 bool PaletteDialog::lockRange() const {
   return mUi->lockRangeCB->isChecked();
+}
+
+bool PaletteDialog::hasChanges() const {
+  return lockRange() != mLockedBefore || !(mPalettes == mBefore);
 }
 
 void PaletteDialog::refreshChooser() {
@@ -231,8 +238,9 @@ void PaletteDialog::delete_palette() {
 
 void PaletteDialog::save_palette() {
   QString file =
-      QFileDialog::getSaveFileName(this, tr("Save Palette"), QDir::homePath(), paletteFilter());
+      QFileDialog::getSaveFileName(this, tr("Save Palette"), mFolders.toSave(), paletteFilter());
   if (file.isEmpty()) return;
+  mFolders.saved(file);
   if (!file.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
     file += QLatin1String(".xml");
     // The file dialog has asked about the name as it was typed.
@@ -249,7 +257,8 @@ void PaletteDialog::save_palette() {
 
 void PaletteDialog::load_palette() {
   const QStringList files =
-      QFileDialog::getOpenFileNames(this, tr("Open Palette"), QDir::homePath(), paletteFilter());
+      QFileDialog::getOpenFileNames(this, tr("Open Palette"), mFolders.toOpen(), paletteFilter());
+  if (!files.isEmpty()) mFolders.opened(files.front());
   QStringList failures;
   for (const QString& file : files) {
     ColorPalette palette;

@@ -8,6 +8,8 @@
 
 namespace talvesk {
 
+class FileFolders;
+
 namespace Ui {
 class PaletteDialog;
 }
@@ -19,14 +21,17 @@ class PaletteDialog : public QDialog {
   Q_OBJECT
 
  public:
-  /// \param palettes must outlive the dialog
+  /// \param palettes must outlive the dialog, as must \param folders, where its file dialogs start
   /// \param dataRange of what the section shows; none disables taking it over
   PaletteDialog(ColorPaletteList& palettes, bool lockRange, std::optional<ValueRange> dataRange,
-                QWidget* parent = nullptr);
+                FileFolders& folders, QWidget* parent = nullptr);
   ~PaletteDialog() override;
 
   /// Whether the range stays when another palette is chosen or another line is shown.
   bool lockRange() const;
+
+  /// Whether palettes, choice or lock are others than when it was opened.
+  bool hasChanges() const;
 
  public slots:
   void load_palette();
@@ -57,6 +62,8 @@ class PaletteDialog : public QDialog {
   std::unique_ptr<Ui::PaletteDialog> mUi;
   ColorPaletteList& mPalettes;
   const ColorPaletteList mBefore;
+  const bool mLockedBefore;
+  FileFolders& mFolders;
   const std::optional<ValueRange> mDataRange;
 };
 

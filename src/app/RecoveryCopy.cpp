@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QThread>
+#include <locale>
+#include <sstream>
 #include <utility>
 
 namespace talvesk {
@@ -23,26 +25,44 @@ std::shared_ptr<QLockFile> lockOf(const QString& file) {
   return lock;
 }
 
-/// Beside a copy lies a text with the path of the project that it is a copy of.
+/// Beside a copy lies a text with the path of the project that it is a copy of, and in a last line
+/// how that was.
 QString noteOf(const QString& file) {
   return file + QStringLiteral(".txt");
 }
 
-/// A program that died while it replaced a copy left the one before under this name.
-QString formerOf(const QString& file) {
-  return file + QLatin1Char('~');
+std::string noteText(const ProjectFile& project) {
+  std::string text = project.path().toStdString();
+  if (const auto& stamp = project.stamp()) {
+    text += "\n" + std::to_string(stamp->bytes) + " " + std::to_string(stamp->changed);
+  }
+  return text;
 }
 
-/// The name of the copy, also where only the former one is left.
-QString copyOf(QString file) {
-  if (file.endsWith(QLatin1Char('~'))) file.chop(1);
-  return file;
+void readNote(const std::string& text, AbandonedCopy& copy) {
+  const std::size_t end = text.rfind('\n');
+  if (end != std::string::npos) {
+    std::istringstream line(text.substr(end));
+    line.imbue(std::locale::classic());
+    FileStamp stamp;
+    if (line >> stamp.bytes >> stamp.changed) copy.stamp = stamp;
+  }
+  copy.project = QString::fromStdString(copy.stamp ? text.substr(0, end) : text);
 }
 
 void removeFiles(const QString& file) {
   QFile::remove(file);
-  QFile::remove(formerOf(file));
   QFile::remove(noteOf(file));
+}
+
+Status write(const QString& file, const QString& folder, const LoadedProject& copy,
+             const std::string& note) {
+  ProjectWriter writer;
+  if (writer.save(file.toStdString(), folder.toStdString(), copy.document, copy.interpretation,
+                  copy.palettes, copy.section) != 0) {
+    return Status::failure(writer.reason());
+  }
+  return writeFileAtomically(noteOf(file).toStdString(), note);
 }
 
 bool canWrite(const QString& folder) {
@@ -76,43 +96,43 @@ bool RecoveryCopy::take() {
   return false;
 }
 
-void RecoveryCopy::save(LoadedProject copy, const QString& project) {
+void RecoveryCopy::save(LoadedProject copy, const ProjectFile& project) {
   if (isSaving()) return;
   if (!take()) {
-    emit failed(tr("Nothing can be written in %1").arg(mFolder), !canWrite(mFolder));
+    emit failed(nothingCanBeWritten(), !canWrite(mFolder));
     return;
   }
   auto shared = std::make_shared<LoadedProject>(std::move(copy));
-  const std::string file = mFile.toStdString();
-  const std::string note = noteOf(mFile).toStdString();
-  const std::string work = mFolder.toStdString();
   const int run = ++mRun;
-  mThread.reset(
-      QThread::create([=, shared = std::move(shared), path = project.toStdString()]() mutable {
-        ProjectWriter writer;
-        int result = writer.save(file, work, shared->document, shared->interpretation,
-                                 shared->palettes, shared->section);
-        shared.reset();  // here, not where the user waits for it
-        Message reason = writer.reason();
-        if (const Status noted = writeFileAtomically(note, path); result == 0 && !noted.ok()) {
-          result = 1;
-          reason = noted.text();
-        }
-        QMetaObject::invokeMethod(
-            this, [=] { finish(run, result, textOf(reason)); }, Qt::QueuedConnection);
-      }));
+  mThread.reset(QThread::create([this, run, shared = std::move(shared), file = mFile,
+                                 folder = mFolder, note = noteText(project)]() mutable {
+    const Status written = write(file, folder, *shared, note);
+    shared.reset();  // here, not where the user waits for it
+    QMetaObject::invokeMethod(
+        this, [=] { finish(run, written); }, Qt::QueuedConnection);
+  }));
   mThread->start(QThread::LowPriority);
 }
 
-void RecoveryCopy::finish(int run, int result, const QString& reason) {
+Status RecoveryCopy::saveNow(LoadedProject copy, const ProjectFile& project) {
+  wait();
+  if (!take()) return Status::failure(nothingCanBeWritten().toStdString());
+  return write(mFile, mFolder, copy, noteText(project));
+}
+
+QString RecoveryCopy::nothingCanBeWritten() const {
+  return tr("Nothing can be written in %1").arg(mFolder);
+}
+
+void RecoveryCopy::finish(int run, const Status& written) {
   if (mThread == nullptr || run != mRun) return;  // wait() was faster
   const bool wanted = mUnwanted.isEmpty();
   wait();
   if (!wanted) return;
-  if (result == 0) {
+  if (written.ok()) {
     emit saved();
   } else {
-    emit failed(reason, !canWrite(mFolder));
+    emit failed(textOf(written.text()), !canWrite(mFolder));
   }
 }
 
@@ -144,35 +164,31 @@ void RecoveryCopy::discard() {
 
 void RecoveryCopy::adopt(const AbandonedCopy& copy) {
   discard();
-  mFile = copyOf(copy.file);  // to which the next save goes
+  mFile = copy.file;  // to which the next save goes
   mLock = copy.lock;
 }
 
 std::optional<AbandonedCopy> RecoveryCopy::findAbandoned(const QString& folder) {
   const QFileInfoList found = QDir(folder).entryInfoList(
-      {kPrefix + QLatin1Char('*') + kSuffix, formerOf(kPrefix + QLatin1Char('*') + kSuffix)},
-      QDir::Files | QDir::NoSymLinks, QDir::Time);
+      {kPrefix + QLatin1Char('*') + kSuffix}, QDir::Files | QDir::NoSymLinks, QDir::Time);
   for (const QFileInfo& info : found) {
-    const QString file = copyOf(info.absoluteFilePath());
-    if (file != info.absoluteFilePath() && QFile::exists(file)) continue;
+    const QString file = info.absoluteFilePath();
     auto lock = lockOf(file);
     if (!lock->tryLock(0)) continue;
     AbandonedCopy copy;
-    copy.file = info.absoluteFilePath();
+    copy.file = file;
     copy.time = info.lastModified();
     copy.lock = std::move(lock);
-    std::string project;
-    constexpr std::size_t kLongestPath = 4096;
-    if (readWholeFile(noteOf(file).toStdString(), project, kLongestPath).ok()) {
-      copy.project = QString::fromStdString(project);
-    }
+    std::string note;
+    constexpr std::size_t kLongestNote = 5000;  // a path, and a line
+    if (readWholeFile(noteOf(file).toStdString(), note, kLongestNote).ok()) readNote(note, copy);
     return copy;
   }
   return std::nullopt;
 }
 
 void RecoveryCopy::remove(const AbandonedCopy& copy) {
-  removeFiles(copyOf(copy.file));
+  removeFiles(copy.file);
 }
 
 }  // namespace talvesk

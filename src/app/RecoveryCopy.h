@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/ProjectFile.h"
+#include "base/Status.h"
 #include "io/projectReader.h"
 
 #include <QDateTime>
@@ -17,14 +19,15 @@ namespace talvesk {
 struct AbandonedCopy {
   QString file;     ///< a project
   QString project;  ///< what it is a copy of; empty for a survey that was never saved
-  QDateTime time;   ///< when it was made
+  std::optional<FileStamp> stamp;   ///< of the project, when its window had read or written it
+  QDateTime time;                   ///< when it was made
   std::shared_ptr<QLockFile> lock;  ///< held: no other window offers it meanwhile
 };
 
 /// A copy of the survey at work, saved now and then by a thread of its own, so that a crash costs
-/// minutes and not a day. It lies in the working folder, with a lock file that tells a program that
-/// is gone from another window. Only discard() deletes it: whoever ends in another way than the
-/// user closing the window leaves it behind.
+/// a minute and not a day. It lies in the working folder, with a lock file that tells a program
+/// that is gone from another window. Only discard() deletes it: whoever ends in another way than
+/// the user closing the window leaves it behind.
 class RecoveryCopy : public QObject {
   Q_OBJECT
 
@@ -34,8 +37,10 @@ class RecoveryCopy : public QObject {
   ~RecoveryCopy() override;
 
   /// Begins to save a copy; saved() or failed() follows. Nothing happens while one is being saved.
-  /// \param project where the survey itself is saved; may be empty
-  void save(LoadedProject copy, const QString& project);
+  /// \param project where the survey itself is saved, if it is
+  void save(LoadedProject copy, const ProjectFile& project);
+  /// Saves a copy, after one that is being saved, and returns when it is there.
+  Status saveNow(LoadedProject copy, const ProjectFile& project);
   bool isSaving() const { return mThread != nullptr; }
 
   /// Deletes the copy, if there is one. Nobody waits for one that is being saved: it goes when its
@@ -56,7 +61,8 @@ class RecoveryCopy : public QObject {
   bool take();  ///< a file of our own
   void wait();  ///< for the thread
   void removeUnwanted();
-  void finish(int run, int result, const QString& reason);
+  void finish(int run, const Status& written);
+  QString nothingCanBeWritten() const;
 
   QString mFolder;
   QString mFile;

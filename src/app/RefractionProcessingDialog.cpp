@@ -5,6 +5,8 @@
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
 #include "refraction/LayerProposal.h"
+#include "refraction/PicksFingerprint.h"
+#include "refraction/PlausibleResults.h"
 #include "refraction/ReciprocalMethod.h"
 #include "ui_RefractionProcessingDialog.h"
 
@@ -15,6 +17,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QStringList>
 #include <QUndoCommand>
 #include <QUndoStack>
 #include <algorithm>
@@ -195,9 +198,14 @@ void RefractionProcessingDialog::changeMarks(const QString& text, const Marks& a
 void RefractionProcessingDialog::marksChanged() {
   mUi->curvesPlot->setMarks(mWork.ttLayer);
   mUi->clearButton->setEnabled(hasMarks(mWork.ttLayer));
-  const bool results = !mWork.refractData.cData.empty();
-  mUi->staleLabel->setText(
-      mStale && results ? tr("The marks have changed since the profiles were built.") : QString());
+  QStringList changed;
+  if (picksChangedSince(mShots, mWork.refractData)) {
+    changed << tr("The picks have changed since the profiles were built.");
+  }
+  if (mStale && !mWork.refractData.cData.empty()) {
+    changed << tr("The marks have changed since the profiles were built.");
+  }
+  mUi->staleLabel->setText(changed.join(QLatin1Char(' ')));
   refreshShot();
 }
 
@@ -212,7 +220,7 @@ void RefractionProcessingDialog::showReading(const BranchReading* reading) {
   const QString place = reading->side == Side::kRight
                             ? tr("right of shot %1").arg(reading->shot + 1)
                             : tr("left of shot %1").arg(reading->shot + 1);
-  const QString velocity = reading->velocity
+  const QString velocity = reading->velocity && isPlausibleVelocity(*reading->velocity)
                                ? tr("%1 m/s").arg(QLocale().toString(*reading->velocity, 'f', 0))
                                : tr("no velocity");
   mUi->velocityLabel->setText(tr("Layer %1, %2: %3 (%4 picks)")

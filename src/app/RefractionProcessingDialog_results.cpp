@@ -4,6 +4,7 @@
 #include "app/WaitCursor.h"
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
+#include "refraction/Profile.h"
 #include "refraction/ReciprocalMethod.h"
 #include "ui_RefractionProcessingDialog.h"
 
@@ -314,6 +315,10 @@ void RefractionProcessingDialog::showProfile() {
   mUi->profilePlot->setScene(std::move(scene));
   QStringList notes;
   for (const RefractionWarning& warning : mWarnings) notes << refractionText(warning).trimmed();
+  if (mWarnings.empty() && hasGaps(results)) {
+    notes << tr(
+        "Some velocities or depths are not known. Build the profiles again to be told why.");
+  }
   mUi->notesLabel->setText(notes.join(QLatin1Char('\n')));
   mUi->notesLabel->setVisible(!notes.isEmpty());
 }

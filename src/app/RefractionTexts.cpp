@@ -48,9 +48,21 @@ QString refractionText(const RefractionWarning& warning) {
           .arg(warning.layer);
     case Kind::kNoFirstLayer:
       return Texts::tr(
-                 "Layer %1: no shot has two picks of it on one side, so it has no velocity and the "
-                 "layers below have no depth.")
+                 "Layer %1: no shot that takes part has two picks of it on one side, so it has no "
+                 "velocity and the layers below have no depth.")
           .arg(warning.layer);
+    case Kind::kBadFirstLayer:
+      return Texts::
+          tr("Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the "
+             "layers below have no depth.")
+              .arg(warning.layer);
+    case Kind::kBadVelocity:
+      return Texts::tr(
+                 "Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity "
+                 "comes out outside 50 to 12 000 m/s.")
+          .arg(warning.layer)
+          .arg(warning.count)
+          .arg(warning.total);
     case Kind::kSlowRefractor:
       return Texts::tr(
                  "Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer "
@@ -62,6 +74,13 @@ QString refractionText(const RefractionWarning& warning) {
       return Texts::tr(
                  "Layer %1: no depth at %2 of %3 receivers, which lie beyond the profile of the "
                  "layer above.")
+          .arg(warning.layer)
+          .arg(warning.count)
+          .arg(warning.total);
+    case Kind::kTooDeep:
+      return Texts::tr(
+                 "Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the "
+                 "line is long.")
           .arg(warning.layer)
           .arg(warning.count)
           .arg(warning.total);

@@ -3,6 +3,7 @@
 #include "app/CommandIcons.h"
 #include "app/GuideWindow.h"
 #include "app/HelpKey.h"
+#include "app/KeypadArrows.h"
 #include "app/Messages.h"
 #include "app/SettingsDialog.h"
 #include "io/ProjectSnapshot.h"
@@ -45,7 +46,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
       mUi(std::make_unique<Ui::Talvesk_MainWindows>()),
       mFolder(WorkingFolder::ofUser()),
       mSettings(mFolder.settings),
-      mHistory(mFolder.history),
+      mFolders(History(mFolder.history)),
       mRecent(windowStateFile()),
       mRecovery(QString::fromStdString(mFolder.path)) {
   mUi->setupUi(this);
@@ -92,20 +93,23 @@ void Talvesk_MainWindows::loadSettings() {
   if (mSettings.load()) {
     changeLanguage(mLanguages.indexOf(QString::fromStdString(mSettings.language)));
   } else {
-    askForSettings();
+    mFirstRun = true;
   }
   // English without its file has no plurals: "1 shot file(s)".
-  if (mLanguages.current() < 0) changeLanguage(mLanguages.indexOf(QStringLiteral("en")));
+  if (mLanguages.current() < 0) {
+    mSettings.language = "en";
+    mLanguages.use(mLanguages.indexOf(QStringLiteral("en")), mLog);
+  }
 }
 
-void Talvesk_MainWindows::askForSettings() {
-  // Without the window, which is not there to be seen yet, it opens in the middle of the screen.
-  SettingsDialog dialog(mLanguages.list(), mLanguages.current(), mSettings);
-  if (dialog.exec() == QDialog::Accepted) {
-    dialog.apply(mSettings);
-    if (dialog.languageIndex() != mLanguages.current()) changeLanguage(dialog.languageIndex());
-  }
-  saveSettings();
+/// \param language to propose, an index in the list; -1 proposes that of the system
+bool Talvesk_MainWindows::askForSettings(int language) {
+  SettingsDialog dialog(mLanguages.list(), language, mSettings, this);
+  if (dialog.exec() != QDialog::Accepted) return false;
+  dialog.apply(mSettings);
+  refreshTraceOptions();
+  if (dialog.languageIndex() != mLanguages.current()) changeLanguage(dialog.languageIndex());
+  return true;
 }
 
 void Talvesk_MainWindows::changeLanguage(int index) {
@@ -196,6 +200,7 @@ void Talvesk_MainWindows::addKeys() {
       {mUi->actionNext_file->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Right)});
   mUi->actionPrev_file->setShortcuts(
       {mUi->actionPrev_file->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Left)});
+  new KeypadArrows(*this, *mUi->actionPrev_file, *mUi->actionNext_file);
   mUi->actionExit->setShortcuts({mUi->actionExit->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q)});
 }
 
@@ -258,8 +263,7 @@ void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  mSnapshot.reset();
-  mRecovery.discard();
+  forgetRecovery();
   saveWindow();
   if (mGuide != nullptr) mGuide->close();
   event->accept();

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "app/FileFolders.h"
 #include "app/Languages.h"
+#include "app/ProjectFile.h"
 #include "app/RecentProjects.h"
 #include "app/RecoveryCopy.h"
-#include "base/History.h"
 #include "base/Log.h"
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
@@ -13,6 +14,7 @@
 #include "view/ColorPalette.h"
 #include "view/SectionViewSettings.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QStringList>
 #include <QTimer>
@@ -57,13 +59,17 @@ class Talvesk_MainWindows : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// Creates the working folder, opens the log, reads the settings; asks for them at the first run.
+  /// Creates the working folder, opens the log, reads the settings.
   explicit Talvesk_MainWindows(QWidget* parent = nullptr);
   ~Talvesk_MainWindows() override;
 
-  /// What the program does once the window is there: offers the copy that a crash left, then loads
-  /// what the command line names.
+  /// What the program does once the window is there: asks for the settings at the first run, offers
+  /// the copy that a crash left, then loads what the command line names.
   void start(const QStringList& files);
+
+  /// For an end that leaves no time for questions: changes that are not saved go into a recovery
+  /// copy, which is there on return.
+  void leaveRecoveryCopy();
 
   /// Loads what the command line names or what was dropped: a project, then shot files, then
   /// travel-time files.
@@ -207,7 +213,7 @@ class Talvesk_MainWindows : public QMainWindow {
   // Start and end
   void startLog();
   void loadSettings();
-  void askForSettings();
+  bool askForSettings(int language);
   void connectViews();
   void connectPlots();
   void connectCommands();
@@ -228,27 +234,30 @@ class Talvesk_MainWindows : public QMainWindow {
   bool saveProjectTo(const QString& file);
   void openProject(const QString& file);
   bool loadProject(const QString& file, LoadedProject& project);
-  void takeProject(LoadedProject project, const QString& file);
+  bool mayUse(const ProjectFile& file, const QString& question);
+  bool mayReplace(const ProjectFile& file);
+  void takeProject(LoadedProject project, ProjectFile file);
   void reportBadProject(const QString& file, const projectReader& reader);
   void addRecentMenu();
   void refreshRecentProjects();
   void clearRecentProjects();
   void offerRecovery();
   void prepareAutosave();
-  bool mayAutosave() const;
+  void noteEdit();
+  void forgetRecovery();
   void continueSnapshot();
   void recoveryFailed(const QString& reason, bool lasting);
 
   // Loading
-  void loadShotFiles(const QStringList& files);
+  QStringList askForShotFiles();
+  std::vector<ReadShot> readShotFiles(const QStringList& files, const TomoDocument& target);
+  /// How shot files go with those that are there.
+  enum class ShotFiles { kAdded, kInstead };
+  void loadShotFiles(const QStringList& files, ShotFiles how = ShotFiles::kAdded);
   void reportShotFiles(const std::vector<ShotFileOutcome>& outcomes);
   void showFresh(int index);
   void askForShotTime(const std::vector<std::size_t>& sets);
   void importTravelTimeFile(const QString& file);
-  QString historyFolder() const;
-  void saveHistoryOf(const QString& file);  ///< of what was opened, not of what was saved
-  QString saveFolder() const;
-  void rememberSaved(const QString& file);
   void exportCurves();
   QString proposedName() const;
   void proposeName(QFileDialog& dialog, const char* suffix) const;
@@ -278,6 +287,8 @@ class Talvesk_MainWindows : public QMainWindow {
   void refreshSectionCommands();
   void refreshPaletteCommands();
   std::optional<SectionScene> plainSection(SectionQuantity quantity) const;
+  ValueRange contourRange(SectionQuantity quantity) const;
+  void completeContourLists();
   void logContours();
   void takeOverPalettes(ColorPaletteList palettes);  ///< of another project; a locked range stays
   void refreshRefractionCommands();
@@ -292,6 +303,7 @@ class Talvesk_MainWindows : public QMainWindow {
   bool hasInformationDensity() const;
   QString whyNoSection() const;
   std::vector<SectionLine> refractors() const;
+  void refreshRefractors();
   void showSectionCursor(const SectionReading& reading);
   void refreshShotChooser();
   void refreshTraceOptions();
@@ -318,9 +330,10 @@ class Talvesk_MainWindows : public QMainWindow {
   void showFilteredCopies();
 
   // Tomography
-  bool makeGrid(bool propose);
+  bool makeGrid();
   TomographyResult runInversionBeside(const TomographyParameters& parameters);
   void showInversion(const TomographyResult& result);
+  static QString leftOutBox(const QStringList& names);
   std::vector<QWidget*> documentEditors() const;
   void askToStopAndClose();
   void modelChanged();
@@ -331,8 +344,9 @@ class Talvesk_MainWindows : public QMainWindow {
   std::unique_ptr<Ui::Talvesk_MainWindows> mUi;
   WorkingFolder mFolder;
   Log mLog;
+  RecordedConsole mRecorded{mLog};  ///< goes after all that tells the console something
   Settings mSettings;
-  History mHistory;
+  FileFolders mFolders;
   Languages mLanguages;
   ShotLoader mLoader;
   TomoDocument mDocument;
@@ -341,19 +355,20 @@ class Talvesk_MainWindows : public QMainWindow {
   SectionViewSettings mSection;
   std::vector<ShotMemory> mShots;  ///< one per trace set
   int mCurrentFile = -1;
-  QString mProjectFile;         ///< where the survey is saved; empty before it was
-  QString mSaveFolder;          ///< of the last file saved, empty when one was opened since
+  ProjectFile mProject;         ///< where the survey is saved
   SharedFolder mProjectFolder;  ///< of the shot files of a loaded project
   RecentProjects mRecent;
   QMenu* mRecentMenu = nullptr;
   RecoveryCopy mRecovery;
-  QTimer mAutosaveTimer;
+  QTimer mAutosaveTimer{this};
+  QElapsedTimer mUncopiedSince;                ///< the first edit that no recovery copy has
   int mRevision = 0;                           ///< grows with every change
   int mRecoveredRevision = 0;                  ///< that the recovery copy holds
   std::unique_ptr<ProjectSnapshot> mSnapshot;  ///< that is being made for the recovery copy
   int mSnapshotRevision = 0;                   ///< that it is made of
   int mFailedRecoveries = 0;                   ///< in a row
   bool mLaidOut = false;
+  bool mFirstRun = false;                     ///< the user has not been asked for settings yet
   BackgroundInversion* mInversion = nullptr;  ///< under way; the document is not to be edited then
   progressTomographyDialog* mInversionProgress = nullptr;
   bool mCloseAfterInversion = false;

@@ -17,17 +17,26 @@
 // The commands that write data for other programs.
 
 namespace talvesk {
+namespace {
+
+bool areSame(const geographicsCoord& a, const geographicsCoord& b) {
+  return a.CRS == b.CRS && a.mEastFstGeoph == b.mEastFstGeoph &&
+         a.mEastLstGeoph == b.mEastLstGeoph && a.mNorthFstGeoph == b.mNorthFstGeoph &&
+         a.mNorthLstGeoph == b.mNorthLstGeoph;
+}
+
+}  // namespace
 
 /// The file to write, with the suffix where the user gave none; empty when the user gave up.
 QString Talvesk_MainWindows::askForExport(const QString& title, const QString& filter,
                                           const char* suffix) {
-  QFileDialog dialog(this, title, saveFolder(), filter);
+  QFileDialog dialog(this, title, mFolders.toSave(), filter);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(QLatin1String(suffix));
   proposeName(dialog, suffix);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-  rememberSaved(dialog.selectedFiles().front());
+  mFolders.saved(dialog.selectedFiles().front());
   return dialog.selectedFiles().front();
 }
 
@@ -140,6 +149,7 @@ void Talvesk_MainWindows::on_actionSet_geography_coordinates_triggered() {
   if (mDocument.geoCoord_isSet) before = mDocument.geoCoord;
   setGeographyDialog dialog(before, lineEnds(mDocument), this);
   if (dialog.exec() != QDialog::Accepted) return;
+  if (before && areSame(*before, dialog.coordinates())) return;
   mDocument.geoCoord = dialog.coordinates();
   mDocument.geoCoord_isSet = true;
   documentModified();

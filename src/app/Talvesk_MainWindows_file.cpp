@@ -1,7 +1,7 @@
+#include "app/LossQuestion.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
-#include "app/SettingsDialog.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/WaitCursor.h"
 #include "io/ShotFile.h"
@@ -34,6 +34,13 @@ bool isTravelTimeFile(const QString& file) {
   return suffixes.contains(QFileInfo(file).suffix().toLower());
 }
 
+/// Why a file was not loaded. A survey that takes no files refuses them without a name.
+QString reasonOf(const ShotFileOutcome& outcome) {
+  const Message& why = outcome.status.text();
+  const bool named = why.english().find(outcome.path) != std::string::npos;
+  return textOf(named ? why : joined(outcome.path, why));
+}
+
 bool isProjectFile(const QString& file) {
   return QFileInfo(file).suffix().toLower() == QLatin1String("tvsk");
 }
@@ -43,64 +50,77 @@ bool isProjectFile(const QString& file) {
 void Talvesk_MainWindows::on_actionNew_triggered() {
   logSlot(__func__);
   if (!mayLoseChanges()) return;
-  clearDocument();
-  loadTraces_PWave();
-}
-
-QString Talvesk_MainWindows::historyFolder() const {
-  return QString::fromStdString(mHistory.readHistory());
-}
-
-void Talvesk_MainWindows::saveHistoryOf(const QString& file) {
-  mHistory.saveHistory(QFileInfo(file).absolutePath().toStdString());
-  mSaveFolder.clear();
-}
-
-/// Where save dialogs start: where the last file was saved, beside the opened ones before that.
-QString Talvesk_MainWindows::saveFolder() const {
-  return mSaveFolder.isEmpty() ? historyFolder() : mSaveFolder;
-}
-
-void Talvesk_MainWindows::rememberSaved(const QString& file) {
-  mSaveFolder = QFileInfo(file).absolutePath();
+  const QStringList files = askForShotFiles();
+  if (!files.isEmpty()) loadShotFiles(files, ShotFiles::kInstead);
 }
 
 void Talvesk_MainWindows::loadTraces_PWave() {
   logSlot(__func__);
-  const QStringList files = QFileDialog::getOpenFileNames(
-      this, tr("Open Seismic Trace"), historyFolder(),
-      tr("SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;"
-         "All Files (*)"));
-  if (files.isEmpty()) return;
-  saveHistoryOf(files.front());
-  mLog.write("Loading " + std::to_string(files.size()) + " seismic files", 0);
-  loadShotFiles(files);
+  const QStringList files = askForShotFiles();
+  if (!files.isEmpty()) loadShotFiles(files);
 }
 
-void Talvesk_MainWindows::loadShotFiles(const QStringList& files) {
-  const std::size_t before = mDocument.traceSets.size();
-  std::vector<ShotFileOutcome> outcomes;
+QStringList Talvesk_MainWindows::askForShotFiles() {
+  QStringList files = QFileDialog::getOpenFileNames(
+      this, tr("Open Seismic Trace"), mFolders.toOpen(),
+      tr("Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)") + QLatin1String(";;") +
+          tr("SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;"
+             "All Files (*)"));
+  if (files.isEmpty()) return files;
+  mFolders.opened(files.front());
+  mLog.write("Loading " + std::to_string(files.size()) + " seismic files", 0);
+  return files;
+}
+
+/// Reads files until they end or the user has enough of it.
+std::vector<ReadShot> Talvesk_MainWindows::readShotFiles(const QStringList& files,
+                                                         const TomoDocument& target) {
+  std::vector<ReadShot> shots;
   QProgressDialog progress(tr("Loading shot files ..."), tr("Stop"), 0,
                            static_cast<int>(files.size()), this);
   progress.setWindowModality(Qt::WindowModal);
   progress.setMinimumDuration(kPatience);
   for (const QString& file : files) {
-    progress.setValue(static_cast<int>(outcomes.size()));
+    progress.setValue(static_cast<int>(shots.size()));
     if (progress.wasCanceled()) break;
-    const std::vector<ShotFileOutcome> one = mLoader.load({file.toStdString()}, mDocument);
-    outcomes.insert(outcomes.end(), one.begin(), one.end());
-    if (!one.front().status.ok()) continue;
-    ShotMemory& memory = mShots.emplace_back();
-    memory.format = QString::fromStdString(one.front().format);
-    memory.warnings = one.front().warnings;
+    shots.push_back(mLoader.read(file.toStdString(), target));
   }
   progress.reset();
+  return shots;
+}
+
+/// A survey that others are to take the place of stays until one of these is there.
+void Talvesk_MainWindows::loadShotFiles(const QStringList& files, ShotFiles how) {
+  TomoDocument fresh;
+  TomoDocument& target = how == ShotFiles::kInstead ? fresh : mDocument;
+  const std::size_t before = target.traceSets.size();
+  std::vector<ReadShot> shots = readShotFiles(files, target);
+  Losses losses;
+  losses.model = lossByShots(shots, target);
+  if (!mayLose(this, target, losses)) {
+    statusBar()->showMessage(tr("No shot file was loaded."), kMessageTime);
+    return;
+  }
+  const std::vector<ShotFileOutcome> outcomes = appendShots(std::move(shots), target);
+  std::vector<ShotMemory> memories;
+  for (const ShotFileOutcome& outcome : outcomes) {
+    if (!outcome.status.ok()) continue;
+    ShotMemory& memory = memories.emplace_back();
+    memory.format = QString::fromStdString(outcome.format);
+    memory.warnings = outcome.warnings;
+  }
+  if (memories.empty()) return reportShotFiles(outcomes);
+  if (how == ShotFiles::kInstead) {
+    clearDocument();
+    mDocument = std::move(fresh);
+  }
+  mShots.insert(mShots.end(), memories.begin(), memories.end());
   documentChanged();
-  if (mDocument.traceSets.size() > before) showFresh(static_cast<int>(before));
+  showFresh(static_cast<int>(before));
   reportShotFiles(outcomes);
-  std::vector<std::size_t> fresh(mDocument.traceSets.size() - before);
-  std::iota(fresh.begin(), fresh.end(), before);
-  askForShotTime(fresh);
+  std::vector<std::size_t> loaded(memories.size());
+  std::iota(loaded.begin(), loaded.end(), before);
+  askForShotTime(loaded);
 }
 
 /// Makes a record that was just loaded the current one, and the keys go to its traces: they would
@@ -118,15 +138,14 @@ void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& ou
     if (!outcome.warnings.empty()) ++warned;
     if (outcome.status.ok()) continue;
     mLog.write(outcome.status.message(), 1);
-    const QString message = textOf(outcome.status.text());
-    (outcome.status.code() == kUnknownSuffix ? unsupported : broken) << message;
+    (outcome.status.code() == kUnknownSuffix ? unsupported : broken) << reasonOf(outcome);
   }
   const QString title = tr("Error occured");
   if (!unsupported.isEmpty()) {
-    showError(this, title, tr("Unsupported file format."), shortList(unsupported));
+    showErrors(this, title, tr("Unsupported file format."), unsupported);
   }
   if (!broken.isEmpty()) {
-    showError(this, title, tr("Error while loading one or more traces."), shortList(broken));
+    showErrors(this, title, tr("Error while loading one or more traces."), broken);
   }
   const int loaded = static_cast<int>(outcomes.size()) - static_cast<int>(unsupported.size()) -
                      static_cast<int>(broken.size());
@@ -171,30 +190,40 @@ void Talvesk_MainWindows::askForShotTime(const std::vector<std::size_t>& sets) {
 void Talvesk_MainWindows::on_actionLoad_TT_triggered() {
   logSlot(__func__);
   const QString file = QFileDialog::getOpenFileName(
-      this, tr("Import TravelTimes"), historyFolder(),
+      this, tr("Import TravelTimes"), mFolders.toOpen(),
       tr("Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)"));
   if (file.isEmpty()) return;
-  saveHistoryOf(file);
+  mFolders.opened(file);
   importTravelTimeFile(file);
 }
 
 void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
-  // An import replaces the picks at least.
-  if (hasPicks(mDocument) && !mayLoseChanges()) return;
-  std::vector<Message> warnings;
-  const Status status = whileWaiting([&] {
-    TravelTimeData times;
+  TravelTimeData times;
+  ImportCost cost;
+  Status status = whileWaiting([&] {
     Status read = readTravelTimes(file.toStdString(), times);
-    warnings = times.warnings;
-    return read.ok() ? importTravelTimes(std::move(times), mDocument) : read;
+    fitToRecords(times, mDocument);
+    return read.ok() ? checkImport(times, mDocument, cost) : read;
   });
+  const std::vector<Message> warnings = times.warnings;
+  if (status.ok()) {
+    // An import replaces the picks at least.
+    if (hasPicks(mDocument) && !mayLoseChanges()) return;
+    Losses losses;
+    losses.model = cost.model;
+    losses.startingModel = cost.survey && cost.model == ModelLoss::kGrid;
+    losses.interpretation =
+        isInterpreted(mInterpretation) || (cost.survey && hasMarks(mInterpretation.ttLayer));
+    if (!mayLose(this, mDocument, losses)) return;
+    status = importTravelTimes(std::move(times), mDocument);
+  }
   if (!status.ok()) {
     tellFailure(this, mLog, tr("Error while loading %1.").arg(QFileInfo(file).fileName()), status);
     return;
   }
-  // A profile is one of the picks that it was built from; without traces even the shots are others.
+  // A profile is one of the picks that it was built from, marks are those of the shots.
   forgetResults(mInterpretation);
-  if (mDocument.traceSets.empty()) mInterpretation = {};
+  if (cost.survey) mInterpretation = {};
   for (editTravelTimesWidget* editor : editors()) editor->picksReplaced();
   documentChanged();
   showFresh(mCurrentFile < 0 ? 0 : mCurrentFile);
@@ -222,8 +251,9 @@ void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
 }
 
 void Talvesk_MainWindows::openFiles(const QStringList& files) {
-  if (!files.isEmpty()) logSlot(__func__);
-  if (mInversion != nullptr) return;  // a drop may have been let go just before it began
+  if (files.isEmpty() || mInversion != nullptr) return;  // it may have begun since the drop
+  logSlot(__func__);
+  mFolders.opened(files.front());
   QStringList shots;
   QStringList travelTimes;
   QStringList projects;
@@ -261,15 +291,7 @@ void Talvesk_MainWindows::dropEvent(QDropEvent* event) {
 
 void Talvesk_MainWindows::on_actionSettings_triggered() {
   logSlot(__func__);
-  SettingsDialog dialog(mLanguages.list(), mLanguages.current(), mSettings, this);
-  if (dialog.exec() != QDialog::Accepted) return;
-  dialog.apply(mSettings);
-  refreshTraceOptions();
-  if (dialog.languageIndex() != mLanguages.current()) {
-    changeLanguage(dialog.languageIndex());
-  } else {
-    saveSettings();
-  }
+  if (askForSettings(mLanguages.current())) saveSettings();
 }
 
 void Talvesk_MainWindows::on_actionExit_triggered() {

@@ -1,4 +1,5 @@
 #include "app/DialogSetGeometry.h"
+#include "app/LossQuestion.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "refraction/ShotArrivals.h"
@@ -10,14 +11,6 @@
 // The command that edits where geophones and shots stand.
 
 namespace talvesk {
-namespace {
-
-bool isInterpreted(const refractionDataStructure::Interpretation& interpretation) {
-  return !interpretation.phnt_A.empty() || !interpretation.phnt_R.empty() ||
-         !interpretation.refractData.cData.empty();
-}
-
-}  // namespace
 
 void Talvesk_MainWindows::on_actionGeometry_triggered() {
   logSlot(__func__);
@@ -27,11 +20,8 @@ void Talvesk_MainWindows::on_actionGeometry_triggered() {
 bool Talvesk_MainWindows::askGeometry() {
   DialogSetGeometry::Context context;
   context.interpreted = isInterpreted(mInterpretation);
-  context.folder = historyFolder();
-  DialogSetGeometry dialog(mDocument, mLoader.state(), context, this);
-  const bool accepted = dialog.exec() == QDialog::Accepted;
-  if (dialog.folder() != context.folder) mHistory.saveHistory(dialog.folder().toStdString());
-  if (!accepted) return false;
+  DialogSetGeometry dialog(mDocument, mLoader.state(), mFolders, context, this);
+  if (dialog.exec() != QDialog::Accepted) return false;
   takeGeometry(dialog.geometry());
   return true;
 }

@@ -11,6 +11,31 @@ namespace {
 
 const QString kFirstPage = QStringLiteral("index.html");
 
+struct Library {
+  const char* name;
+  const char* licence;
+};
+
+constexpr Library kLibraries[] = {
+    {"Qt", "LGPL 3"},
+    {"VTK", "BSD 3-Clause"},
+    {"Qwt", "Qwt License (LGPL 2.1 with exceptions)"},
+    {"PROJ", "MIT"},
+    {"libzip", "BSD 3-Clause"},
+    {"liquid-dsp", "MIT"},
+    {"Eigen", "MPL 2.0"},
+    {"cereal", "BSD 3-Clause"},
+};
+
+QString libraryTable() {
+  QString rows;
+  for (const Library& library : kLibraries) {
+    rows += QStringLiteral("<tr><td>%1</td><td>&nbsp;&nbsp;%2</td></tr>")
+                .arg(QLatin1String(library.name), QLatin1String(library.licence));
+  }
+  return QStringLiteral("<table>%1</table>").arg(rows);
+}
+
 }  // namespace
 
 void Talvesk_MainWindows::openUserGuide(const QString& page) {
@@ -45,9 +70,9 @@ void Talvesk_MainWindows::on_actionAbout_triggered() {
       tr("<h2>Talvesk 2022.0</h2>"
          "<p>Seismic refraction surveys: from field records to velocity sections.</p>"
          "<p>Talvesk is free software under the MIT licence, without any warranty.</p>"
-         "<p>It is built with Qt %1 (LGPL), Qwt (LGPL with exceptions), liquid-dsp (MIT), "
-         "Eigen (MPL 2) and cereal (BSD).</p>")
-          .arg(QString::fromLatin1(qVersion()));
+         "<p>It is built with these libraries, Qt being version %1:</p>")
+          .arg(QString::fromLatin1(qVersion())) +
+      libraryTable();
   QMessageBox::about(this, tr("About"), text);
 }
 

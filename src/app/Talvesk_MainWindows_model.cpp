@@ -18,25 +18,22 @@ namespace talvesk {
 
 void Talvesk_MainWindows::on_actionGrid_triggered() {
   logSlot(__func__);
-  makeGrid(true);
+  makeGrid();
 }
 
 /// Asks for a grid and builds it; without geometry asks for that first, as long as the user gives
 /// one. False when no grid was built.
-/// \param propose fill in the cell size that suits the geophones, not that of the present grid
-bool Talvesk_MainWindows::makeGrid(bool propose) {
+bool Talvesk_MainWindows::makeGrid() {
   SurveyProfile profile;
   GridSettings settings = proposeGrid(mDocument, profile, mLog);
   while (!profile.hasGeometry()) {
-    showError(
+    showUrgentWarning(
         this, tr("Warning"),
         tr("Geophones do not have geometry! \n") + tr("Please set the position of geophones\n"));
     if (!askGeometry()) return false;
     settings = proposeGrid(mDocument, profile, mLog);
   }
-  if (!propose) settings.cellSize = mDocument.grid ? mDocument.grid->aLato() : 0.0;
-  gridDialog dialog(profile, settings, searchThreads(), this);
-  dialog.setForgetsResults(mDocument.has_tomographic_info);
+  gridDialog dialog(mDocument, profile, settings, searchThreads(), this);
   while (dialog.exec() == QDialog::Accepted) {
     const Status status = whileWaiting([&] {
       Status built = setUpGrid(mDocument, dialog.settings(), mLog);
@@ -70,7 +67,8 @@ void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
       mDocument.has_tomographic_info ? SmoothingType::kRayBased : SmoothingType::kUniform, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const Status status = whileWaiting([&] {
-    Status smoothed = smoothGrid(mDocument, dialog.type(), dialog.radius(), dialog.symmetric());
+    Status smoothed =
+        smoothGrid(mDocument, dialog.type(), dialog.radius(), dialog.symmetric(), mLog);
     if (smoothed.ok()) modelChanged();
     return smoothed;
   });

@@ -23,13 +23,13 @@ void Talvesk_MainWindows::on_actionPalette_triggered() {
   logSlot(__func__);
   std::optional<ValueRange> shown;
   if (const auto scene = plainSection(SectionQuantity::kVelocity)) shown = scene->dataRange;
-  PaletteDialog dialog(mPalettes, mSection.lockRange, shown, this);
+  PaletteDialog dialog(mPalettes, mSection.lockRange, shown, mFolders, this);
   connect(&dialog, &PaletteDialog::changed_max_value, this,
           &Talvesk_MainWindows::update_palette_max);
   connect(&dialog, &PaletteDialog::changed_min_value, this,
           &Talvesk_MainWindows::update_palette_min);
   connect(&dialog, &PaletteDialog::modified, this, &Talvesk_MainWindows::on_vtk_palette_changed);
-  if (dialog.exec() != QDialog::Accepted) return;
+  if (dialog.exec() != QDialog::Accepted || !dialog.hasChanges()) return;
   mSection.lockRange = dialog.lockRange();
   if (!mDocument.ttArray.empty()) documentModified();
 }
@@ -58,20 +58,43 @@ void Talvesk_MainWindows::takeOverPalettes(ColorPaletteList palettes) {
 
 void Talvesk_MainWindows::on_actionShow_Contour_Lines_triggered() {
   logSlot(__func__);
-  // The palette says what range of velocities is shown; other quantities have their own.
-  ValueRange range{mPalettes.current().min_db, mPalettes.current().max_db};
-  if (mSection.quantity != SectionQuantity::kVelocity) {
-    if (const auto scene = plainSection(mSection.quantity)) range = scene->range;
-  }
+  const ValueRange range = contourRange(contouredQuantity(mSection.quantity));
   // Who wants contours where there are none yet wants to see them.
-  contourlines_dialog dialog(proposedContours(mSection.contours, mSection.quantity, range), range,
-                             QString::fromStdString(quantityUnit(mSection.quantity)), this);
+  const ContourSettings proposed = proposedContours(mSection.contours, mSection.quantity, range);
+  contourlines_dialog dialog(proposed, mSection.quantity, range, mFolders, this);
   const bool accepted = dialog.exec() == QDialog::Accepted;
   refreshSectionCommands();  // the click has turned the action over, whatever was answered
   if (!accepted) return;
-  changeSection([&dialog](SectionViewSettings& section) { section.contours = dialog.settings(); });
+  const bool changed = dialog.hasChanges() || proposed != mSection.contours;
+  changeSection([&](SectionViewSettings& section) {
+    if (!changed) return;
+    section.contours = dialog.settings();
+    completeContourLists();
+  });
   logContours();
+  if (!changed) return;
   if (!mDocument.ttArray.empty()) documentModified();
+}
+
+/// The palette says what range of velocities is shown; other quantities have their own.
+ValueRange Talvesk_MainWindows::contourRange(SectionQuantity quantity) const {
+  if (quantity != SectionQuantity::kVelocity) {
+    if (const auto scene = plainSection(quantity)) return scene->range;
+  }
+  return {mPalettes.current().min_db, mPalettes.current().max_db};
+}
+
+/// Contours of a quantity that is not in view may have been switched on before it had a list.
+void Talvesk_MainWindows::completeContourLists() {
+  ContourSettings& contours = mSection.contours;
+  for (const SectionQuantity quantity :
+       {SectionQuantity::kVelocity, SectionQuantity::kVerticalGradient,
+        SectionQuantity::kLaplacian}) {
+    const bool edited = quantity == contouredQuantity(mSection.quantity);
+    if (edited || !showsContours(contours, quantity)) continue;
+    if (!(contours.*contourList(quantity)).empty()) continue;
+    contours = proposedContours(contours, quantity, contourRange(quantity));
+  }
 }
 
 void Talvesk_MainWindows::logContours() {

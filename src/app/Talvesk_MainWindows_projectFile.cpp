@@ -3,6 +3,7 @@
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/progressDialog.h"
+#include "base/FileReplacement.h"
 #include "io/ProjectWriter.h"
 #include "model/SurveyGeometry.h"
 #include "tomo/RayRecomputation.h"
@@ -48,7 +49,7 @@ QString fileNameOf(const QString& title) {
 
 /// What files of this survey are called: as its project, its title, or the folder of its shots.
 QString Talvesk_MainWindows::proposedName() const {
-  if (!mProjectFile.isEmpty()) return QFileInfo(mProjectFile).completeBaseName();
+  if (!mProject.isEmpty()) return QFileInfo(mProject.path()).completeBaseName();
   if (!mDocument.title.empty()) return fileNameOf(QString::fromStdString(mDocument.title));
   // That of a recovered survey is a temporary one, which says nothing.
   if (mDocument.traceSets.empty() || mProjectFolder) return {};
@@ -64,11 +65,12 @@ void Talvesk_MainWindows::proposeName(QFileDialog& dialog, const char* suffix) c
 }
 
 bool Talvesk_MainWindows::saveProject() {
-  return mProjectFile.isEmpty() ? saveProjectAs() : saveProjectTo(mProjectFile);
+  return mProject.isEmpty() ? saveProjectAs() : saveProjectTo(mProject.path());
 }
 
 bool Talvesk_MainWindows::saveProjectAs() {
-  QFileDialog dialog(this, tr("Save Project"), mProjectFile.isEmpty() ? saveFolder() : mProjectFile,
+  QFileDialog dialog(this, tr("Save Project"),
+                     mProject.isEmpty() ? mFolders.toSave() : mProject.path(),
                      tr("Talvesk projects (*.tvsk);;All Files (*)"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
@@ -78,21 +80,55 @@ bool Talvesk_MainWindows::saveProjectAs() {
   if (dialog.exec() != QDialog::Accepted) return false;
   QString file = dialog.selectedFiles().value(0);
   if (QFileInfo(file).completeBaseName().isEmpty() || QFileInfo(file).isDir()) {
-    showError(this, tr("Error occured"), tr("Empty filename to be saved"));
+    showError(this, tr("Error occured"), tr("Empty filename to be saved"),
+              tr("%1 is a folder or names no file. Give the project a name.")
+                  .arg(QDir::toNativeSeparators(file)));
     return false;
   }
   if (!file.endsWith(kSuffix)) file += kSuffix;
-  const bool replaces = QFileInfo::exists(file) && file != mProjectFile;
+  const bool replaces = QFileInfo::exists(file) && file != mProject.path();
   if (replaces &&
       !askYesNo(this, tr("Save Project"), tr("%1 already exists.").arg(QFileInfo(file).fileName()),
                 tr("Do you want to replace it?"), false)) {
     return false;
   }
-  rememberSaved(file);
+  mFolders.saved(file);
   return saveProjectTo(file);
 }
 
+/// Whether the user wants to use a file that somebody else works on.
+bool Talvesk_MainWindows::mayUse(const ProjectFile& file, const QString& question) {
+  if (!file.holder()) return true;
+  const ProjectHolder& holder = *file.holder();
+  const QString name = QFileInfo(file.path()).fileName();
+  const QString text = holder.process.empty() ? tr("%1 is in use elsewhere.").arg(name)
+                                              : tr("%1 is in use by %2 on %3 (process %4).")
+                                                    .arg(name, QString::fromStdString(holder.user),
+                                                         QString::fromStdString(holder.host),
+                                                         QString::fromStdString(holder.process));
+  mLog.write(text.toStdString(), 0);
+  return askYesNo(this, tr("Project in use"), text,
+                  question + QLatin1Char('\n') +
+                      tr("If nobody uses it any more, delete the lock %1")
+                          .arg(QString::fromStdString(holder.lockFile)),
+                  false);
+}
+
+/// Whether the user wants to save over what lies there.
+bool Talvesk_MainWindows::mayReplace(const ProjectFile& file) {
+  if (file.path() != mProject.path()) {
+    return mayUse(file, tr("Do you want to replace it all the same?"));
+  }
+  return !file.hasChanged() ||
+         askYesNo(this, tr("Save Project"),
+                  tr("%1 has been changed by somebody else since it was opened or saved here.")
+                      .arg(QFileInfo(file.path()).fileName()),
+                  tr("Do you want to replace it? What was changed there is lost then."), false);
+}
+
 bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
+  const ProjectFile target = file == mProject.path() ? mProject : ProjectFile(file, mProject);
+  if (!mayReplace(target)) return false;
   ProjectWriter writer;
   int result = 1;
   progressDialog progress(writer, file, this);
@@ -103,8 +139,8 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
   if (result != 0) {
     mLog.write(writer.message(), 1);
     QString details = textOf(writer.reason());
-    if (const QString kept = QString::fromStdString(writer.keptArchive()); !kept.isEmpty()) {
-      details += QLatin1Char('\n') + tr("The project as it was saved before is in %1").arg(kept);
+    if (QFileInfo::exists(file)) {
+      details += QLatin1Char('\n') + tr("The file is as it was before.");
     }
     showError(this, tr("Error occured"),
               tr("Something went wrong while saving project ") + file + QLatin1Char('\n') +
@@ -112,9 +148,9 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
               details);
     return false;
   }
-  mProjectFile = file;
+  mProject = ProjectFile(file, target);
   mDocument.modified = false;
-  mRecovery.discard();
+  forgetRecovery();
   mRecent.add(file);
   refreshRecentProjects();
   refreshTitle();
@@ -129,9 +165,12 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
 
 void Talvesk_MainWindows::openProject(const QString& file) {
   if (!mayLoseChanges()) return;
+  ProjectFile opened(file, mProject);
+  if (!mayUse(opened, tr("Do you want to open it all the same?"))) return;
   LoadedProject project;
   if (!loadProject(file, project)) return;
-  takeProject(std::move(project), file);
+  clearReplacements(file.toStdString());
+  takeProject(std::move(project), std::move(opened));
   mRecent.add(file);
   refreshRecentProjects();
 }
@@ -153,6 +192,11 @@ bool Talvesk_MainWindows::loadProject(const QString& file, LoadedProject& projec
     return false;
   }
   if (!rays.ok()) mLog.write(rays.message(), 1);
+  if (!reader.repairs().empty()) {
+    showWarning(this, tr("Warning"),
+                tr("Some values of the project cannot be. They were put right or left out."),
+                shortList(linesOf(reader.repairs())));
+  }
   if (!reader.warnings().empty()) {
     showWarning(this, tr("Warning"), tr("Error while loading traces: Invalid file format."),
                 shortList(linesOf(reader.warnings())));
@@ -167,20 +211,16 @@ void Talvesk_MainWindows::reportBadProject(const QString& file, const projectRea
     text += QLatin1Char('\n') + tr("Error while loading traces: Invalid file format.");
   }
   QString details = textOf(reader.reason());
-  const QString former = file + QLatin1Char('~');
   if (!QFileInfo::exists(file)) {
     mRecent.remove(file);
     refreshRecentProjects();
     details = tr("There is no file %1").arg(file);
   }
-  if (QFileInfo::exists(former)) {
-    details += QLatin1Char('\n') + tr("The project as it was saved before is in %1").arg(former);
-  }
   showError(this, tr("Error occured"), text, details);
 }
 
-void Talvesk_MainWindows::takeProject(LoadedProject project, const QString& file) {
-  mRecovery.discard();
+void Talvesk_MainWindows::takeProject(LoadedProject project, ProjectFile file) {
+  forgetRecovery();
   mDocument = std::move(project.document);
   mInterpretation = std::move(project.interpretation);
   const bool rangeLocked = mSection.lockRange;
@@ -188,7 +228,7 @@ void Talvesk_MainWindows::takeProject(LoadedProject project, const QString& file
   mSection = project.section;
   mSection.lockRange = mSection.lockRange || rangeLocked;
   mProjectFolder = std::move(project.folder);  // the one before goes, nobody needs its files now
-  mProjectFile = file;
+  mProject = std::move(file);
   mLoader.remember(project.shotFiles);
   mShots.assign(mDocument.traceSets.size(), ShotMemory());
   for (std::size_t i = 0; i < mShots.size(); ++i) {
@@ -202,8 +242,9 @@ void Talvesk_MainWindows::takeProject(LoadedProject project, const QString& file
   if (!mDocument.ttArray.empty()) showFresh(0);
   mDocument.modified = false;
   refreshTitle();
-  if (file.isEmpty()) return;  // recovered before it was ever saved
-  statusBar()->showMessage(tr("Project %1 loaded.").arg(QFileInfo(file).fileName()), kMessageTime);
+  if (mProject.isEmpty()) return;  // recovered before it was ever saved
+  statusBar()->showMessage(tr("Project %1 loaded.").arg(QFileInfo(mProject.path()).fileName()),
+                           kMessageTime);
 }
 
 void Talvesk_MainWindows::on_actionSave_Project_triggered() {
@@ -218,10 +259,10 @@ void Talvesk_MainWindows::on_actionSave_Project_As_triggered() {
 
 void Talvesk_MainWindows::on_actionLoad_Project_triggered() {
   logSlot(__func__);
-  const QString file = QFileDialog::getOpenFileName(this, tr("Load Project"), historyFolder(),
+  const QString file = QFileDialog::getOpenFileName(this, tr("Load Project"), mFolders.toOpen(),
                                                     tr("Talvesk projects (*.tvsk);;All Files (*)"));
   if (file.isEmpty()) return;
-  saveHistoryOf(file);
+  mFolders.opened(file);
   openProject(file);
 }
 
@@ -245,6 +286,7 @@ void Talvesk_MainWindows::refreshRecentProjects() {
     mRecentMenu->addAction(QStringLiteral("&%1 %2").arg(QString::number(i + 1), name), this,
                            [this, file = projects[i]] {
                              logSlot("openProject");
+                             mFolders.opened(file);
                              openProject(file);
                            });
   }

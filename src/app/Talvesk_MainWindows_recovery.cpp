@@ -6,66 +6,101 @@
 #include <QApplication>
 #include <QLocale>
 #include <QStatusBar>
+#include <limits>
 
-// What keeps a crash from costing more than a few minutes of work.
+// What keeps a crash from costing more than a minute of work.
 
 namespace talvesk {
 namespace {
 
-constexpr int kInterval = 3 * 60 * 1000;  // milliseconds between copies
-constexpr int kRetry = 30 * 1000;         // the same after a failure
-constexpr int kPause = 2 * 1000;          // the same after a copy that a change overtook
-constexpr int kPatience = 3;              // failures in a row that are more than an accident
+// Milliseconds. A copy is begun early enough to be on the disk a minute after the edit.
+constexpr int kDelay = 30 * 1000;             // from an edit to its copy
+constexpr int kLatest = 45 * 1000;            // the same, when edits keep overtaking it
+constexpr int kPause = 2 * 1000;              // for edits that overtook a copy
+constexpr int kRetry = 30 * 1000;             // after a failure
+constexpr int kLastingRetry = 3 * 60 * 1000;  // after one that will hardly go away
+constexpr int kPatience = 3;                  // failures in a row that are more than an accident
+constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
 constexpr std::size_t kPiece = std::size_t{1} << 22;  // bytes; copied in a few milliseconds
 
 }  // namespace
 
 void Talvesk_MainWindows::start(const QStringList& files) {
+  if (mFirstRun) {
+    mFirstRun = false;
+    askForSettings(-1);
+    saveSettings();  // after Cancel, too: nobody is asked twice
+  }
   offerRecovery();
   openFiles(files);
 }
 
 void Talvesk_MainWindows::prepareAutosave() {
+  mAutosaveTimer.setObjectName(QStringLiteral("autosaveTimer"));
+  mAutosaveTimer.setSingleShot(true);
   connect(&mAutosaveTimer, &QTimer::timeout, this, &Talvesk_MainWindows::autosave);
-  connect(&mRecovery, &RecoveryCopy::saved, this, [this] {
-    mFailedRecoveries = 0;
-    mAutosaveTimer.start(kInterval);
-  });
+  connect(&mRecovery, &RecoveryCopy::saved, this, [this] { mFailedRecoveries = 0; });
   connect(&mRecovery, &RecoveryCopy::failed, this, &Talvesk_MainWindows::recoveryFailed);
-  mAutosaveTimer.start(kInterval);
 }
 
-bool Talvesk_MainWindows::mayAutosave() const {
-  return mInversion == nullptr && QApplication::activeModalWidget() == nullptr &&
-         QApplication::activePopupWidget() == nullptr && mDocument.modified;
+void Talvesk_MainWindows::noteEdit() {
+  ++mRevision;
+  if (!mUncopiedSince.isValid()) mUncopiedSince.start();
+  if (!mAutosaveTimer.isActive()) mAutosaveTimer.start(kDelay);
 }
 
+/// There is nothing to lose any more.
+void Talvesk_MainWindows::forgetRecovery() {
+  mAutosaveTimer.stop();
+  mUncopiedSince.invalidate();
+  mSnapshot.reset();
+  mRecovery.discard();
+}
+
+/// Dialogs and inversions that are open, for hours perhaps, do not put it off: they work on copies
+/// of their own, and what they change meanwhile is whole between two events.
 void Talvesk_MainWindows::autosave() {
-  if (mSnapshot != nullptr || mRecovery.isSaving()) return;
-  if (!mayAutosave() || mRevision == mRecoveredRevision) return;
+  if (mSnapshot != nullptr) return;
+  if (!mDocument.modified || mRevision == mRecoveredRevision) return;
+  if (mRecovery.isSaving()) {
+    mAutosaveTimer.start(kPause);
+    return;
+  }
   mSnapshot = std::make_unique<ProjectSnapshot>();
   mSnapshotRevision = mRevision;
   continueSnapshot();
 }
 
 /// One piece between two events of the user's. What was changed meanwhile makes the pieces useless;
-/// others are made as soon as the user pauses.
+/// others are made as soon as the user pauses, or all at once when the pause does not come.
 void Talvesk_MainWindows::continueSnapshot() {
   if (mSnapshot == nullptr) return;
-  if (!mayAutosave() || mRevision != mSnapshotRevision) {
+  if (!mDocument.modified || mRevision != mSnapshotRevision) {
     mSnapshot.reset();
     mAutosaveTimer.start(kPause);
     return;
   }
-  if (!mSnapshot->copyTraces(mDocument, kPiece)) {
+  const bool late = mUncopiedSince.isValid() && mUncopiedSince.elapsed() >= kLatest;
+  if (!mSnapshot->copyTraces(mDocument, late ? kAll : kPiece)) {
     QTimer::singleShot(0, this, &Talvesk_MainWindows::continueSnapshot);
     return;
   }
   mRecoveredRevision = mRevision;
+  mUncopiedSince.invalidate();
   mRecovery.save(
       mSnapshot->complete(mDocument, mInterpretation, mPalettes, mSection, mProjectFolder),
-      mProjectFile);
+      mProject);
   mSnapshot.reset();
+}
+
+void Talvesk_MainWindows::leaveRecoveryCopy() {
+  mSnapshot.reset();
+  if (!mDocument.modified) return;
+  ProjectSnapshot snapshot;
+  snapshot.copyTraces(mDocument, kAll);
+  const Status left = mRecovery.saveNow(
+      snapshot.complete(mDocument, mInterpretation, mPalettes, mSection, mProjectFolder), mProject);
+  if (!left.ok()) mLog.write("Recovery copy: " + left.message(), 1);
 }
 
 /// A full disk may have room again in a minute; a folder that cannot be written to is told once,
@@ -74,12 +109,13 @@ void Talvesk_MainWindows::recoveryFailed(const QString& reason, bool lasting) {
   mLog.write("Recovery copy: " + reason.toStdString(), 1);
   ++mFailedRecoveries;
   mRecoveredRevision = 0;
+  if (!mUncopiedSince.isValid()) mUncopiedSince.start();
   const int toTell = lasting ? 1 : kPatience;
   if (mFailedRecoveries == toTell) {
     statusBar()->showMessage(
         tr("No recovery copy can be saved; save the project yourself. %1").arg(reason));
   }
-  mAutosaveTimer.start(mFailedRecoveries < toTell ? kRetry : kInterval);
+  mAutosaveTimer.start(mFailedRecoveries < toTell ? kRetry : kLastingRetry);
 }
 
 void Talvesk_MainWindows::offerRecovery() {
@@ -96,9 +132,12 @@ void Talvesk_MainWindows::offerRecovery() {
   const RecoveryAnswer answer = askToRecover(this, details);
   if (answer == RecoveryAnswer::kDiscard) RecoveryCopy::remove(*copy);
   if (answer != RecoveryAnswer::kOpen) return;
+  ProjectFile file(copy->project, mProject);
+  if (copy->stamp) file.setStamp(*copy->stamp);
+  if (!mayUse(file, tr("Do you want to open it all the same?"))) return;
   LoadedProject project;
   if (!loadProject(copy->file, project)) return;  // the copy stays, for whoever can do more with it
-  takeProject(std::move(project), copy->project);
+  takeProject(std::move(project), std::move(file));
   mRecovery.adopt(*copy);
   documentModified();
   // It may have no file yet that could be named as loaded.

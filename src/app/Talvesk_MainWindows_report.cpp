@@ -9,7 +9,6 @@
 #include "figures/Report.h"
 #include "figures/ReportPages.h"
 #include "ui_Talvesk_MainWindows.h"
-#include "view/RefractorLines.h"
 #include "widgets/SectionView.h"
 
 #include <QBuffer>
@@ -55,18 +54,18 @@ void Talvesk_MainWindows::on_actionImages_triggered() {
   ImageSetOptions look;
   look.view = mSection;
   look.palette = mPalettes.current();
-  look.refractors = refractorLines(mInterpretation);
+  look.refractors = refractors();
   look.horizontalColorBar = mSettings.savePngHColorbar;
   ImagesDialog dialog(mDocument, mInterpretation, look, mCurrentFile, this);
   QSettings remembered(windowStateFile(), QSettings::IniFormat);
   dialog.recall(remembered);
-  dialog.setFolder(saveFolder());
+  dialog.setFolder(mFolders.toSave());
   dialog.setBaseName(proposedName());
   if (dialog.exec() != QDialog::Accepted) return;
   dialog.remember(remembered);
   const std::vector<PlannedImage> images = dialog.images();
   if (images.empty() || !mayOverwrite(images)) return;
-  rememberSaved(QString::fromStdString(images.front().path));
+  mFolders.saved(QString::fromStdString(images.front().path));
   writeImages(images);
 }
 
@@ -141,8 +140,7 @@ void Talvesk_MainWindows::writeReportAs(const QString& title, const QString& fil
   ReportOptions options;
   options.title = mDocument.title;
   options.date = QLocale().toString(QDate::currentDate(), QLocale::LongFormat).toStdString();
-  options.section =
-      sectionFigureOptions(mSection, mPalettes.current(), refractorLines(mInterpretation));
+  options.section = sectionFigureOptions(mSection, mPalettes.current(), refractors());
   const auto build = [this](const ReportOptions& chosen, ReportContent& content) {
     return buildReport({mDocument, &mInterpretation}, chosen, content);
   };

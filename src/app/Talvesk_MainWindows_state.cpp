@@ -23,9 +23,9 @@ bool Talvesk_MainWindows::hasFilteredCopy(int shot) const {
 void Talvesk_MainWindows::clearDocument() {
   mDocument = TomoDocument();
   mInterpretation = {};
-  mProjectFile.clear();
+  mProject = {};
   mProjectFolder.reset();
-  mRecovery.discard();
+  forgetRecovery();
   mShots.clear();
   mCurrentFile = -1;
   for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
@@ -52,6 +52,7 @@ void Talvesk_MainWindows::documentModified() {
   mDocument.modified = true;
   refreshTitle();
   refreshCommands();
+  refreshRefractors();
 }
 
 void Talvesk_MainWindows::showFile(int index) {
@@ -66,12 +67,12 @@ void Talvesk_MainWindows::showFile(int index) {
 void Talvesk_MainWindows::refreshTitle() {
   QString title = tr("Talvesk 2022.0") + QStringLiteral("[*]");
   for (QString part :
-       {QFileInfo(mProjectFile).fileName(), QString::fromStdString(mDocument.title)}) {
+       {QFileInfo(mProject.path()).fileName(), QString::fromStdString(mDocument.title)}) {
     // Two markers are how Qt writes one that is not its own.
     part.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     if (!part.isEmpty()) title += QStringLiteral(" - ") + part;
   }
-  if (mDocument.modified) ++mRevision;
+  if (mDocument.modified) noteEdit();
   setWindowTitle(title);
   setWindowModified(mDocument.modified);
 }

@@ -1,33 +1,25 @@
 #include "app/BackgroundInversion.h"
 #include "app/CommandLock.h"
+#include "app/InversionTexts.h"
+#include "app/LeftOutText.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/progressTomographyDialog.h"
 #include "app/runTomography_Dialog.h"
 #include "tomo/InversionCopy.h"
+#include "tomo/LeftOut.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QComboBox>
-#include <QLocale>
 #include <QStatusBar>
 #include <chrono>
 
 // The inversion, from the question whether to run it to its results.
 
 namespace talvesk {
-namespace {
-
-QString general(double value) {
-  QLocale locale;
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  return locale.toString(value, 'g', 6);
-}
-
-}  // namespace
-
 void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
   logSlot(__func__);
   const auto asked = std::chrono::steady_clock::now();
@@ -39,7 +31,7 @@ void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
   runTomography_Dialog dialog(mDocument.minVelocity, mDocument.maxVelocity, this);
   if (mDocument.grid == nullptr) {
     mLog.write("grid does not exist; ask for parameter");
-    if (!makeGrid(false)) return;
+    if (!makeGrid()) return;
   }
   dialog.setStartingModel(startingModelOf(mDocument));
   if (dialog.exec() != QDialog::Accepted) return;
@@ -76,7 +68,7 @@ TomographyResult Talvesk_MainWindows::runInversionBeside(const TomographyParamet
     result = inversion.run([&](const TomographyProgress& state, const TomoDocument& copy) {
       takeInversion(mDocument, copy);
       progress.addCompleted();
-      progress.addMisfit(state.misfit);
+      progress.addMisfit(state);
       refreshSection();
     });
   }
@@ -131,23 +123,30 @@ void Talvesk_MainWindows::modelChanged() {
   documentModified();
 }
 
+/// What a box says of it below the figures, which are those of the rest.
+QString Talvesk_MainWindows::leftOutBox(const QStringList& names) {
+  if (names.isEmpty()) return {};
+  return tr("Left out of the inversion:") + QLatin1Char('\n') + shortList(names);
+}
+
 void Talvesk_MainWindows::showInversion(const TomographyResult& result) {
   if (!result.status.ok()) {
     tellFailure(this, mLog, tr("The inversion could not be completed."), result.status);
   }
   if (result.iterationsDone == 0) return;
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
-  statusBar()->showMessage(
-      tr("%n external iteration(s) completed.", nullptr, result.iterationsDone), kMessageTime);
-  const Misfit& misfit = result.misfit;
-  if (misfit.count == 0) return;
-  showNote(
-      this, tr("Inversion results"),
-      tr("Elapsed time: [s] %1\n").arg(general(result.elapsedSeconds)) +
-          tr("RMSE: [ms] %1; [%] %2\n")
-              .arg(general(misfit.rmse * 1000.0), general(misfit.relativeRms * 100.0)) +
-          tr("MaxError: [ms] %1; [%] %2\n")
-              .arg(general(misfit.maxError * 1000.0), general(misfit.maxRelativeError * 100.0)));
+  const QStringList left = leftOutNames(leftOut(mDocument, mDocument.excluded));
+  QString outcome = tr("%n external iteration(s) completed.", nullptr, result.iterationsDone) +
+                    QLatin1Char(' ') + sectionMisfitText(result.sectionMisfit);
+  if (!left.isEmpty()) {
+    outcome += QLatin1Char(' ') + tr("Left out: %1.").arg(left.join(QStringLiteral("; ")));
+  }
+  statusBar()->showMessage(outcome, kMessageTime);
+  if (result.misfit.count == 0) {
+    if (!left.isEmpty()) showWarning(this, tr("Inversion results"), leftOutBox(left));
+    return;
+  }
+  showNote(this, tr("Inversion results"), inversionResultsText(result), leftOutBox(left));
 }
 
 }  // namespace talvesk

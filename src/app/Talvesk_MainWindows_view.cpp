@@ -1,5 +1,5 @@
 #include "app/Talvesk_MainWindows.h"
-#include "figures/FigureWords.h"
+#include "figures/ProfileLines.h"
 #include "model/SurveyFacts.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "view/RefractorLines.h"
@@ -175,11 +175,15 @@ QString Talvesk_MainWindows::whyNoSection() const {
 }
 
 std::vector<SectionLine> Talvesk_MainWindows::refractors() const {
-  std::vector<SectionLine> lines = refractorLines(mInterpretation);
-  for (std::size_t i = 0; i < lines.size(); ++i) {
-    lines[i].name = FigureWords::refractor(i).toStdString();
-  }
-  return lines;
+  return profileLines(mDocument, mInterpretation);
+}
+
+/// The legend follows the picks: they may be others than those that the profile was built from.
+void Talvesk_MainWindows::refreshRefractors() {
+  const SectionScene* scene = mUi->vtk_widget->scene();
+  if (scene == nullptr || scene->refractors.empty()) return;
+  const std::vector<SectionLine> now = refractors();
+  if (now.empty() || now.front().name != scene->refractors.front().name) refreshSection();
 }
 
 void Talvesk_MainWindows::refreshSection() {

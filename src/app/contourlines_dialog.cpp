@@ -1,16 +1,17 @@
 #include "app/contourlines_dialog.h"
 
+#include "app/FileFolders.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/NumberText.h"
 #include "app/SelectCSVDelimiterDialog.h"
+#include "app/TableTexts.h"
 #include "io/GeometryFile.h"
 #include "io/IsovalueFile.h"
 #include "ui_contourlines_dialog.h"
 #include "view/ContourLines.h"
 
 #include <QColorDialog>
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -37,21 +38,23 @@ QString isovalueFilter() {
 
 }  // namespace
 
-contourlines_dialog::contourlines_dialog(const ContourSettings& settings, ValueRange range,
-                                         const QString& unit, QWidget* parent)
-    : QDialog(parent), mUi(std::make_unique<Ui::contourlines_dialog>()), mRange(range) {
+contourlines_dialog::contourlines_dialog(const ContourSettings& settings, SectionQuantity shown,
+                                         ValueRange range, FileFolders& folders, QWidget* parent)
+    : QDialog(parent),
+      mUi(std::make_unique<Ui::contourlines_dialog>()),
+      mList(contourList(shown)),
+      mRange(range),
+      mFolders(folders),
+      mAtFirst(settings) {
   mUi->setupUi(this);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-  const QLocale locale;
-  mUi->rangeLabel->setText(
-      tr("The section shows values from %1 to %2 %3")
-          .arg(locale.toString(range.min, 'g', 6), locale.toString(range.max, 'g', 6), unit)
-          .trimmed());
+  showRange(shown);
   // The look of a fault must be legible on light and on dark windows.
   mUi->faultLabel->setStyleSheet(warningStyle(*this));
   mUi->rowsLayout->setAlignment(Qt::AlignTop);
   connectControls();
   fillIn(settings);
+  mAtFirst = this->settings();
 }
 
 contourlines_dialog::~contourlines_dialog() = default;
@@ -79,6 +82,18 @@ void contourlines_dialog::connectControls() {
   connect(mUi->toolColorButton, &QToolButton::clicked, this, &contourlines_dialog::chooseColor);
 }
 
+void contourlines_dialog::showRange(SectionQuantity shown) {
+  const QLocale locale;
+  const SectionQuantity contoured = contouredQuantity(shown);
+  const QString text = shown == contoured
+                           ? tr("The section shows values from %1 to %2 %3")
+                           : tr("What the section shows has no contours. Those of the velocity "
+                                "lie between %1 and %2 %3");
+  mUi->rangeLabel->setText(text.arg(locale.toString(mRange.min, 'g', 6),
+                                    locale.toString(mRange.max, 'g', 6),
+                                    QString::fromStdString(quantityUnit(contoured))));
+}
+
 void contourlines_dialog::fillIn(const ContourSettings& settings) {
   mUi->spinBox->setValue(settings.numberOfValues);
   mUi->every_N_contour_lines_spinBox->setValue(settings.labelEvery);
@@ -89,18 +104,18 @@ void contourlines_dialog::fillIn(const ContourSettings& settings) {
   mUi->gradientContours->setChecked(settings.onVerticalGradient);
   mColor = QColor::fromRgbF(settings.color.r, settings.color.g, settings.color.b);
   showColor();
-  for (const double value : settings.customValues) addRow(textOf(value));
+  for (const double value : settings.*mList) addRow(textOf(value));
   enable_filled_contours();
   showWhetherAny();
   chooseCustomized(settings.customized);
 }
 
 ContourSettings contourlines_dialog::settings() const {
-  ContourSettings chosen;
+  ContourSettings chosen = mAtFirst;
   chosen.customized = mUi->customizedCB->isChecked();
   chosen.numberOfValues = mUi->spinBox->value();
-  // A list that is not in use stays whole: it may be one for another quantity.
-  chosen.customValues = chosen.customized ? values() : sortedNumbers();
+  // A list that is not in use stays whole: the range may be another one when it is.
+  chosen.*mList = chosen.customized ? values() : sortedNumbers();
   chosen.labelEvery = mUi->every_N_contour_lines_spinBox->value();
   chosen.labelSize = mUi->fontSize->value();
   chosen.color = {mColor.redF(), mColor.greenF(), mColor.blueF()};
@@ -244,8 +259,9 @@ void contourlines_dialog::check() {
 
 void contourlines_dialog::saveIsovalues() {
   const QString typed =
-      QFileDialog::getSaveFileName(this, tr("Save Isovalues"), QDir::homePath(), isovalueFilter());
+      QFileDialog::getSaveFileName(this, tr("Save Isovalues"), mFolders.toSave(), isovalueFilter());
   if (typed.isEmpty()) return;
+  mFolders.saved(typed);
   const QString file = QString::fromStdString(withIsovalueSuffix(typed.toStdString()));
   // The file dialog has asked about the name as it was typed.
   if (file != typed && QFileInfo::exists(file) &&
@@ -262,8 +278,9 @@ void contourlines_dialog::saveIsovalues() {
 
 void contourlines_dialog::loadIsovalues() {
   const QString typed =
-      QFileDialog::getOpenFileName(this, tr("Save Isovalues"), QDir::homePath(), isovalueFilter());
+      QFileDialog::getOpenFileName(this, tr("Save Isovalues"), mFolders.toOpen(), isovalueFilter());
   if (typed.isEmpty()) return;
+  mFolders.opened(typed);
   const std::string file = withIsovalueSuffix(typed.toStdString());
   std::string text;
   if (const Status opened = readIsovalueText(file, text); !opened.ok()) {
@@ -281,7 +298,11 @@ void contourlines_dialog::loadIsovalues() {
     showError(this, tr("Error"), textOf(read.status.text()));
   }
   // A file that gave nothing, as with the wrong separator, does not cost the list.
-  if (read.status.ok() || !read.values.empty()) takeLoaded(read.values);
+  if (!read.status.ok() && read.values.empty()) return;
+  if (read.remarks.skippedHeading) {
+    showNote(this, tr("Load Isovalues"), headingText(read.remarks));
+  }
+  takeLoaded(read.values);
 }
 
 void contourlines_dialog::takeLoaded(const std::vector<double>& loaded) {

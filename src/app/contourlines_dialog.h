@@ -11,25 +11,32 @@ class QLineEdit;
 
 namespace talvesk {
 
+class FileFolders;
+
 namespace Ui {
 class contourlines_dialog;
 }
 
 /// Asks what contours show and how: equally spaced values or a list of one's own, which can be
 /// saved and loaded; over which quantities; labels and colour. A value of the list that is no
-/// number within the range is marked as it is typed, and keeps the dialog from being accepted.
+/// number within the range is marked as it is typed, and keeps the dialog from being accepted. The
+/// list is that of one quantity; those of the others stay as they are.
 class contourlines_dialog : public QDialog {
   Q_OBJECT
 
  public:
-  /// \param range of the quantity that the section shows
-  /// \param unit of it, may be empty
-  contourlines_dialog(const ContourSettings& settings, ValueRange range, const QString& unit,
-                      QWidget* parent = nullptr);
+  /// \param shown what the section shows; the list is of contouredQuantity() of it
+  /// \param range of the quantity of the list
+  /// \param folders where the file dialogs start; outlives the dialog
+  contourlines_dialog(const ContourSettings& settings, SectionQuantity shown, ValueRange range,
+                      FileFolders& folders, QWidget* parent = nullptr);
   ~contourlines_dialog() override;
 
   /// What is chosen; custom values ascending, each once.
   ContourSettings settings() const;
+
+  /// Whether that is anything else than was chosen when the dialog was opened.
+  bool hasChanges() const { return settings() != mAtFirst; }
 
  public slots:
   void enable_add_number_of_values(bool enabled);
@@ -40,6 +47,7 @@ class contourlines_dialog : public QDialog {
  private:
   void connectControls();
   void fillIn(const ContourSettings& settings);
+  void showRange(SectionQuantity shown);
   void chooseCustomized(bool customized);
   void addRow(const QString& text);
   void removeRow(QWidget* row);
@@ -57,8 +65,11 @@ class contourlines_dialog : public QDialog {
   void showColor();
 
   std::unique_ptr<Ui::contourlines_dialog> mUi;
-  ValueRange mRange;
+  std::vector<double> ContourSettings::*const mList;  ///< that is edited
+  const ValueRange mRange;
+  FileFolders& mFolders;
   QColor mColor;
+  ContourSettings mAtFirst;
 };
 
 }  // namespace talvesk

@@ -1,10 +1,13 @@
 #include "app/LineIcon.h"
 #include "app/StartOptions.h"
 #include "app/Talvesk_MainWindows.h"
+#include "app/Termination.h"
+#include "base/FileReplacement.h"
 #include "base/StandardStreams.h"
 #include "widgets/SectionSurface.h"
 
 #include <QApplication>
+#include <QSessionManager>
 #include <QSplashScreen>
 #include <QTextCodec>
 #include <QTimer>
@@ -22,12 +25,27 @@ bool asksForText(int argc, char** argv) {
   return true;
 }
 
+/// Whoever ends the program from outside, or the whole session, does not wait for answers.
+void keepSurveyAtTheEnd(QApplication& application, const talvesk::Termination& termination,
+                        talvesk::Talvesk_MainWindows& window) {
+  QObject::connect(&termination, &talvesk::Termination::requested, &window, [&](int signal) {
+    constexpr int kEndedBySignal = 128;  // as shells count
+    window.leaveRecoveryCopy();
+    QApplication::exit(kEndedBySignal + signal);
+  });
+  QGuiApplication::setFallbackSessionManagementEnabled(false);  // it would close the window
+  QObject::connect(
+      &application, &QGuiApplication::commitDataRequest, &window,
+      [&](const QSessionManager&) { window.leaveRecoveryCopy(); }, Qt::DirectConnection);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   talvesk::occupyClosedStreams();
   // Whoever started the window may be gone before its last message.
   talvesk::outliveReaders();
+  talvesk::outliveSizeLimits();
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   if (asksForText(argc, argv)) return 0;
   // Before the application object exists, or the window could not share its OpenGL with the view.
@@ -54,6 +72,8 @@ int main(int argc, char** argv) {
   talvesk::Talvesk_MainWindows window;
   window.show();
   splash.finish(&window);
+  const talvesk::Termination termination;
+  keepSurveyAtTheEnd(application, termination, window);
   QTimer::singleShot(0, &window, [&] { window.start(options.files); });
   return QApplication::exec();
 }

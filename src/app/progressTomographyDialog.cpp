@@ -54,8 +54,9 @@ void progressTomographyDialog::addCompleted() {
   showTimes();
 }
 
-void progressTomographyDialog::addMisfit(const Misfit& misfit) {
-  if (misfit.count > 0) mUi->misfitPlot->addMisfit(misfit.rmse);
+void progressTomographyDialog::addMisfit(const TomographyProgress& progress) {
+  if (progress.misfit.count == 0) return;
+  mUi->misfitPlot->addMisfit(progress.sectionBefore.rmse, progress.misfit.rmse);
 }
 
 void progressTomographyDialog::showTimes() {

@@ -26,8 +26,9 @@ class progressTomographyDialog : public QDialog {
   void setTotal(double iterations);
   /// One iteration is through: text and bar.
   void addCompleted();
-  /// The misfit that it ended with, if there is any pick.
-  void addMisfit(const Misfit& misfit);
+  /// The misfit of the section that it started from and of its last solver pass, if there is any
+  /// pick.
+  void addMisfit(const TomographyProgress& progress);
   /// That the wish to stop was heard.
   void showStopping();
 

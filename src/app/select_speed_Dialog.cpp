@@ -7,6 +7,7 @@
 #include "app/setVelocityWidget.h"
 #include "base/Console.h"
 #include "tomo/GridSetup.h"
+#include "tomo/StartingModel.h"
 #include "ui_select_speed_Dialog.h"
 
 #include <QApplication>
@@ -43,7 +44,8 @@ void select_speed_Dialog::setDocument() {
   mUi->widget->setGridDepth(gridDepth());
   for (const VelocityLayer& layer : mDocument.layers) addRow(layer);
   if (mDocument.layers.empty()) addRow(defaultLayer(gridDepth()));
-  showModel(layers());
+  mAtFirst = layers();
+  showModel(mAtFirst);
   row(0)->focusFirstField();
 }
 
@@ -93,10 +95,14 @@ void select_speed_Dialog::onLineeditmod() {
   showModel(takeLayers());
 }
 
+/// Whether the layers make a model for the grid.
+Status select_speed_Dialog::check(const std::vector<VelocityLayer>& layers) const {
+  return mDocument.grid ? checkLayers(mDocument.grid->geometry().size(), layers) : Status();
+}
+
 void select_speed_Dialog::showModel(const std::vector<VelocityLayer>& layers) {
   mUi->widget->setLayers(layers);
-  const Status status =
-      mDocument.grid ? checkLayers(mDocument.grid->geometry().size(), layers) : Status();
+  const Status status = check(layers);
   QString text = textOf(status.text());
   if (status.ok() && mDocument.has_tomographic_info) {
     text = tr("The results of the last inversion will be lost.");
@@ -137,7 +143,27 @@ void select_speed_Dialog::showRemovable() {
   mUi->removeButton->setEnabled(any);
 }
 
+bool select_speed_Dialog::isAsItWas() const {
+  const std::vector<VelocityLayer> now = layers();
+  return std::equal(now.begin(), now.end(), mAtFirst.begin(), mAtFirst.end(),
+                    [](const VelocityLayer& a, const VelocityLayer& b) {
+                      return a.initialDepth == b.initialDepth && a.finalDepth == b.finalDepth &&
+                             a.initialVelocity == b.initialVelocity &&
+                             a.finalVelocity == b.finalVelocity;
+                    });
+}
+
+bool select_speed_Dialog::wantsLayersAgain() {
+  if (startingModelOf(mDocument) == StartingModel::kLayered) return false;
+  const QString question = tr("Do you want to put them into the grid all the same?");
+  const QString lost = tr("The results of the last inversion will be lost.");
+  return askYesNo(this, tr("Define model velocity"), tr("You have not changed the layers."),
+                  mDocument.has_tomographic_info ? question + QLatin1Char('\n') + lost : question,
+                  false);
+}
+
 void select_speed_Dialog::accept() {
+  if (isAsItWas() && check(mAtFirst).ok() && !wantsLayersAgain()) return reject();
   const Status status = whileWaiting([this] { return applyLayers(mDocument, takeLayers()); });
   if (status.ok()) {
     QDialog::accept();

@@ -17,7 +17,8 @@ class select_speed_Dialog;
 class setVelocityWidget;
 
 /// Edits the layers of the starting model and, on OK, puts the model into the grid. Until then the
-/// document is as it was.
+/// document is as it was. OK on layers that nobody changed is a rejection, unless the grid has
+/// other velocities and the user, when asked, wants it to get those of the layers.
 class select_speed_Dialog : public QDialog {
   Q_OBJECT
 
@@ -38,6 +39,9 @@ class select_speed_Dialog : public QDialog {
 
  private:
   void setDocument();
+  Status check(const std::vector<VelocityLayer>& layers) const;
+  bool isAsItWas() const;
+  bool wantsLayersAgain();
   std::vector<VelocityLayer> takeLayers() const;  ///< the same, each one told on the console
   void showModel(const std::vector<VelocityLayer>& layers);
   setVelocityWidget* row(int index) const;
@@ -51,6 +55,7 @@ class select_speed_Dialog : public QDialog {
 
   std::unique_ptr<Ui::select_speed_Dialog> mUi;
   TomoDocument& mDocument;
+  std::vector<VelocityLayer> mAtFirst;
 };
 
 }  // namespace talvesk

@@ -1,5 +1,7 @@
 #include "base/AtomicFile.h"
 
+#include "base/StreamPlace.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -59,6 +61,7 @@ Status writeFileAtomically(const std::string& path, std::string_view bytes) {
   const QString name = QString::fromStdString(path);
   const QFileInfo existing(name);
   // Renaming over a device or a pipe would replace it in the file system.
+  if (isStreamPlace(path)) return writeStream(path, bytes);
   if (existing.exists() && !existing.isFile()) {
     return failedToWrite(path, Message::tr("it is not a regular file"));
   }

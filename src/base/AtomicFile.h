@@ -14,7 +14,8 @@ namespace talvesk {
 bool isFileName(const std::string& path);
 
 /// Replaces the file at `path` (UTF-8) by `bytes`, whole or not at all: a failure leaves what was
-/// there before, and no half-written file.
+/// there before, and no half-written file. A pipe or a device is written to instead, see
+/// StreamPlace.h.
 Status writeFileAtomically(const std::string& path, std::string_view bytes);
 
 /// The same for text that `write` prints; the stream prints numbers by the "C" locale.

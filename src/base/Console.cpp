@@ -1,6 +1,7 @@
 #include "base/Console.h"
 
 #include <iostream>
+#include <utility>
 
 namespace talvesk::console {
 namespace {
@@ -8,11 +9,17 @@ namespace {
 struct Streams {
   std::ostream* out = &std::cout;
   std::ostream* error = &std::cerr;
+  Logger logger;
 };
 
 Streams& streams() {
   static Streams instance;
   return instance;
+}
+
+void writeLine(std::ostream& stream, const std::string& line, bool isError) {
+  stream << line << std::endl;
+  if (streams().logger) streams().logger(line, isError);
 }
 
 }  // namespace
@@ -33,6 +40,16 @@ void setError(std::ostream& stream) {
 std::ostream& nowhere() {
   static std::ostream stream(nullptr);
   return stream;
+}
+
+void setLogger(Logger logger) {
+  streams().logger = std::move(logger);
+}
+void log(const std::string& line) {
+  writeLine(out(), line, false);
+}
+void logError(const std::string& line) {
+  writeLine(error(), line, true);
 }
 
 }  // namespace talvesk::console

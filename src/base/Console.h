@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <iosfwd>
+#include <string>
 
 namespace talvesk {
 
@@ -15,6 +17,16 @@ std::ostream& error();  ///< failures; standard error by default
 void setOut(std::ostream& stream);    ///< the stream must outlive its use
 void setError(std::ostream& stream);  ///< the stream must outlive its use
 std::ostream& nowhere();              ///< a stream that swallows what is written to it
+
+/// Takes a line, without its line end, that belongs in the log file. Threads call it at once.
+using Logger = std::function<void(const std::string& line, bool isError)>;
+/// Where log() and logError() put their lines beside the console; none by default. Like the
+/// streams, it is set while no other thread writes.
+void setLogger(Logger logger);
+/// Writes a line to out(), as it is, and hands it to the logger.
+void log(const std::string& line);
+/// The same to error().
+void logError(const std::string& line);
 
 }  // namespace console
 }  // namespace talvesk

@@ -25,13 +25,28 @@ class Log {
   /// \param level 0 information (standard output), 1 error (standard error). Only the file's line
   /// carries the word "ERROR : "; the console line does not.
   void write(const std::string& message, int level = 0);
+  /// The line of write() in the file only: the console has the message already.
+  void record(const std::string& message, int level = 0);
 
   const std::string& path() const { return mPath; }
 
  private:
+  void open(const std::string& message);
+  void put(const std::string& stamp, const std::string& message, int level);
+
   std::string mPath;
   std::ofstream mFile;
   std::mutex mMutex;
+};
+
+/// While it lives, the lines of console::log() and console::logError() are recorded in a log, which
+/// must outlive it. Made and ended while no other thread writes such lines.
+class RecordedConsole {
+ public:
+  explicit RecordedConsole(Log& log);
+  ~RecordedConsole();
+  RecordedConsole(const RecordedConsole&) = delete;
+  RecordedConsole& operator=(const RecordedConsole&) = delete;
 };
 
 }  // namespace talvesk

@@ -124,18 +124,6 @@ std::vector<std::string_view> fieldsOf(std::string_view line, char separator) {
   }
 }
 
-/// Words, and not a number among them.
-bool isHeading(const std::vector<std::string_view>& fields, bool decimalComma) {
-  bool words = false;
-  for (const std::string_view field : fields) {
-    const std::string_view text = unquoted(field);
-    double ignored = 0.0;
-    if (parseTyped(text, decimalComma, ignored)) return false;
-    words = words || !text.empty();
-  }
-  return words;
-}
-
 }  // namespace
 
 bool parseTyped(std::string_view text, bool decimalComma, double& value) {
@@ -158,14 +146,19 @@ bool parseTyped(std::string_view text, bool decimalComma, double& value) {
   return true;
 }
 
-Status parseTypedTable(std::string_view text, bool decimalComma, std::size_t mostRows,
-                       TypedTable& table) {
+Status parseTypedTable(std::string_view copied, bool decimalComma, std::size_t mostRows,
+                       TypedTable& table, TableRemarks& remarks) {
+  const std::string text = tableText(copied);
   const std::vector<std::string_view> lines = linesOf(text);
   const char separator = separatorOf(lines, decimalComma);
   TypedTable read;
+  TableRemarks told;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const std::vector<std::string_view> fields = fieldsOf(lines[i], separator);
-    if (i == 0 && lines.size() > 1 && isHeading(fields, decimalComma)) continue;
+    if (i == 0 && lines.size() > 1 && isHeading(fields)) {
+      told.skipHeading(lines[i]);
+      continue;
+    }
     if (read.size() == mostRows) {
       return Status::failure(Message::tr("there are more than %1 rows").arg(mostRows));
     }
@@ -180,6 +173,7 @@ Status parseTypedTable(std::string_view text, bool decimalComma, std::size_t mos
     }
   }
   table = std::move(read);
+  remarks = std::move(told);
   return {};
 }
 

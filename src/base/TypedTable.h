@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "base/TableText.h"
 
 #include <string_view>
 #include <vector>
@@ -23,11 +24,11 @@ using TypedTable = std::vector<std::vector<double>>;
 
 /// Reads a block copied from a spreadsheet or a text file. Fields are separated by tabs, else by
 /// semicolons, else by blanks, else by commas; where the comma is the user's decimal mark, lines
-/// with one comma each and nothing else between their digits are single numbers. A first line of
-/// words, a heading, is skipped, and so are empty lines at the end.
-/// \param mostRows that are taken; more are refused
-/// \return failure that names the line, `table` as it was, when a field is no number
-Status parseTypedTable(std::string_view text, bool decimalComma, std::size_t mostRows,
-                       TypedTable& table);
+/// with one comma each and nothing else between their digits are single numbers. A heading with
+/// rows below it is skipped, and so are empty lines at the end. \param mostRows that are taken;
+/// more are refused \param remarks out: whether there was a heading \return failure that names the
+/// line, `table` and `remarks` as they were, when a field is no number
+Status parseTypedTable(std::string_view copied, bool decimalComma, std::size_t mostRows,
+                       TypedTable& table, TableRemarks& remarks);
 
 }  // namespace talvesk

@@ -9,13 +9,14 @@
 namespace talvesk {
 
 int run(const ConvertOptions& options) {
-  const Channels channels = openChannels(options.quiet);
-  const Status places = checkOutputFiles({{"OUT", options.output}}, {options.input});
+  const std::vector<OutputFile> outputs = {{"OUT", options.output}};
+  const Channels channels = openChannels(outputs, options.quiet);
+  const Status places = checkOutputFiles(outputs, {options.input});
   if (places.code() == kWrongUsage) return wrongUsage("convert", places.message());
   if (!places.ok()) return failed(places.message());
 
   TravelTimeData data;
-  Status status = readPicks(options.input, data, options.quiet);
+  Status status = readPicks(options.input, data);
   TomoDocument document;
   if (status.ok()) status = importTravelTimes(std::move(data), document);
   if (status.ok()) status = writeTravelTimes(options.output, document);

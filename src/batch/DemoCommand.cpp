@@ -69,7 +69,7 @@ Status writeRecords(const TomoDocument& line, const DemoPlaces& places) {
 }  // namespace
 
 int run(const DemoOptions& options) {
-  const Channels channels = openChannels(options.quiet);
+  const Channels channels = openChannels({}, options.quiet);
   const std::filesystem::path folder(options.folder);
   std::error_code error;
   if (!isFileName(options.folder)) {

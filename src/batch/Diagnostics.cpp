@@ -9,43 +9,27 @@
 
 namespace talvesk {
 
-Channels openChannels(bool quiet) {
+Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool verbose) {
   console::setOut(console::nowhere());
   console::setError(console::nowhere());
   Channels channels;
-  channels.summary = quiet ? &console::nowhere() : &std::cout;
+  channels.summary = &console::nowhere();
   channels.progress = ProgressStyle::kSilent;
-  return channels;
-}
-
-Channels openChannels(bool jsonOnOutput, bool quiet, bool verbose) {
-  Channels channels = openChannels(quiet);
   if (quiet) return channels;
-  channels.progress = ProgressStyle::kLines;
-  if (jsonOnOutput) channels.summary = &std::cerr;
-  if (verbose) console::setError(std::cerr);
-  const bool talkOnTerminal = isatty(jsonOnOutput ? STDERR_FILENO : STDOUT_FILENO) != 0;
-  const bool barPossible = isatty(STDERR_FILENO) != 0;
-  if (barPossible && !(verbose && talkOnTerminal)) channels.progress = ProgressStyle::kBar;
-  if (channels.progress == ProgressStyle::kLines || !talkOnTerminal) {
-    console::setOut(*channels.summary);
-  }
+  const bool taken = writesToOutput(outputs);
+  channels.summary = taken ? &std::cerr : &std::cout;
+  channels.progress = isatty(STDERR_FILENO) != 0 ? ProgressStyle::kBar : ProgressStyle::kLines;
+  if (!verbose) return channels;
+  console::setOut(*channels.summary);
+  console::setError(std::cerr);
+  const bool talkOnTerminal = isatty(taken ? STDERR_FILENO : STDOUT_FILENO) != 0;
+  if (talkOnTerminal) channels.progress = ProgressStyle::kLines;
   return channels;
 }
 
-SilentConsole::SilentConsole(bool silent) : mBefore(console::out()) {
-  if (silent) console::setOut(console::nowhere());
-}
-
-SilentConsole::~SilentConsole() {
-  console::setOut(mBefore);
-}
-
-Status readPicks(const std::string& path, TravelTimeData& data, bool quiet) {
+Status readPicks(const std::string& path, TravelTimeData& data) {
   Status status = readTravelTimes(path, data);
-  if (!quiet) {
-    for (const std::string& warning : data.warnings) warn(path + ": " + warning);
-  }
+  for (const std::string& warning : data.warnings) warn(path + ": " + warning);
   return status;
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "batch/OutputFiles.h"
 #include "batch/Progress.h"
 #include "io/TravelTimeFile.h"
 
 #include <iosfwd>
 #include <string>
+#include <vector>
 
 namespace talvesk {
 
@@ -14,29 +16,15 @@ struct Channels {
   ProgressStyle progress = ProgressStyle::kLines;
 };
 
-/// For commands without an engine worth hearing: the console says nothing.
-Channels openChannels(bool quiet);
+/// Directs the texts of a command, so it comes before everything else. What the engine says of
+/// itself, thousands of lines, is heard only with `verbose`, as are its error lines: the status of
+/// what failed says the same in one line.
+/// \param outputs where one of them is the standard output, that belongs to it alone: texts go to
+/// standard error
+/// \param verbose the engine talks where it would tear a progress bar apart, which then are lines
+Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool verbose = false);
 
-/// For long work. Directs the engine's console, so it comes before everything else. The engine's
-/// error lines are heard only with `verbose`: the status of what failed says the same in one line.
-/// \param jsonOnOutput standard output belongs to JSON: diagnostics go to standard error
-/// \param verbose the engine keeps talking where it would tear a progress bar apart
-Channels openChannels(bool jsonOnOutput, bool quiet, bool verbose);
-
-/// Keeps the console's information away while it lives: a line or three per trace is for those who
-/// look for something.
-class SilentConsole {
- public:
-  explicit SilentConsole(bool silent);
-  ~SilentConsole();
-  SilentConsole(const SilentConsole&) = delete;
-  SilentConsole& operator=(const SilentConsole&) = delete;
-
- private:
-  std::ostream& mBefore;
-};
-
-/// Reads picks, and warns on standard error of what the reader repaired unless `quiet`.
-Status readPicks(const std::string& path, TravelTimeData& data, bool quiet);
+/// Reads picks, and warns on standard error of what the reader repaired or left out.
+Status readPicks(const std::string& path, TravelTimeData& data);
 
 }  // namespace talvesk

@@ -11,8 +11,9 @@
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
+#include "figures/ProfileLines.h"
+#include "refraction/PicksFingerprint.h"
 #include "tomo/RayRecomputation.h"
-#include "view/RefractorLines.h"
 
 #include <ostream>
 
@@ -78,7 +79,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
                        : cannotWrite(path, system.message());
   });
   const SectionFigureOptions section = sectionFigureOptions(
-      project.section, project.palettes.current(), refractorLines(project.interpretation));
+      project.section, project.palettes.current(), profileLines(document, project.interpretation));
   for (const std::string& image : options.images) {
     attempt(image, [&](Path path) { return writeSectionFigure(document, section, path); });
   }
@@ -97,16 +98,26 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
   return document.has_tomographic_info ? recomputeRays(document, log) : Status();
 }
 
+/// Where the layered profile is drawn or told.
+void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project) {
+  const bool shown =
+      !options.report.empty() || (!options.images.empty() && project.section.refraction);
+  if (shown && picksChangedSince(project.document, project.interpretation.refractData)) {
+    warn("picks have changed since the layered profile was built");
+  }
+}
+
 }  // namespace
 
 int run(const ExportOptions& options) {
-  const Channels channels = openChannels(options.quiet);
-  const Status places = checkOutputFiles(outputsOf(options), {options.project});
+  const std::vector<OutputFile> outputs = outputsOf(options);
+  const Channels channels = openChannels(outputs, options.quiet);
+  const Status places = checkOutputFiles(outputs, {options.project});
   if (places.code() == kWrongUsage) return wrongUsage("export", places.message());
   if (!places.ok()) return failed(places.message());
 
   LoadedProject project;
-  Status status = readProject(options.project, options.quiet, project);
+  Status status = readProject(options.project, project);
   if (status.ok()) status = prepareFigures(options, project.document);
   if (!status.ok()) return failed(status.message());
   const ColorPalette& inView = project.palettes.current();
@@ -118,6 +129,7 @@ int run(const ExportOptions& options) {
     project.document.geoCoord = *options.geography;
     project.document.geoCoord_isSet = true;
   }
+  warnOfOldProfile(options, project);
   return writeFiles(options, project, range, *channels.summary);
 }
 

@@ -126,7 +126,7 @@ void addExport(CLI::App& app, ExportOptions& options) {
   mustEndIn(command.add_option("PROJECT", options.project, "The project, named *.tvsk")->required(),
             {".tvsk"}, true);
   addOutputs(command, options);
-  command.add_flag("--quiet", options.quiet, "Print nothing but errors");
+  command.add_flag("--quiet", options.quiet, kQuietHelp);
   command.final_callback([&options] {
     if (!options.anyOutput()) throw CLI::ValidationError("export", "no file to write is given");
   });

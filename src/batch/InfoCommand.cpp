@@ -105,13 +105,13 @@ class Inventory {
 
   void addTravelTimes(const std::string& file) {
     TravelTimeData data;
-    const Status status = readPicks(file, data, false);
+    const Status status = readPicks(file, data);
     take(file, status, data, [&] { return travelTimesJson(data); });
   }
 
   void addProject(const std::string& file) {
     LoadedProject project;
-    const Status status = readProject(file, false, project);
+    const Status status = readProject(file, project);
     take(file, status, project, [&] { return projectJson(project); });
   }
 
@@ -145,8 +145,9 @@ class Inventory {
 }  // namespace
 
 int run(const InfoOptions& options) {
-  const Channels channels = openChannels(false);
-  const Status places = checkOutputFiles({{"--json", options.json}}, options.files);
+  const std::vector<OutputFile> outputs = {{"--json", options.json}};
+  const Channels channels = openChannels(outputs, false);
+  const Status places = checkOutputFiles(outputs, options.files);
   if (places.code() == kWrongUsage) return wrongUsage("info", places.message());
   if (!places.ok()) return failed(places.message());
 

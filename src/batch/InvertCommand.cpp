@@ -13,7 +13,8 @@
 #include "grid/GridBuilder.h"
 #include "model/SurveyFacts.h"
 #include "tomo/ForwardPass.h"
-#include "tomo/GridSetup.h"
+#include "tomo/GridPreview.h"
+#include "tomo/LeftOut.h"
 
 #include <iostream>
 #include <utility>
@@ -63,14 +64,36 @@ Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log
 
 /// What the window would ask about; nobody is there to answer.
 void warnAboutChoices(const TomographyParameters& parameters, const TomoDocument& document) {
-  if (!hasPicks(document)) {
-    warn("there are no picks; the starting model will not be fitted to anything");
-  } else if (!document.picksComplete()) {
+  if (!document.picksComplete()) {
     warn("uncomplete set of picks; the inversion is run anyway");
   }
   if (parameters.minVelocity > parameters.maxVelocity) {
     warn("the minimum velocity is above the maximum; every cell that changes ends at the maximum");
   }
+}
+
+std::string otherCellSizes(const TomoDocument& document) {
+  const Grid& grid = *document.grid;
+  const NearestSizes nearest = reachingCellSizes(
+      document.surveyProfile(), {grid.righe() * grid.aLato(), grid.aLato(), grid.nV()});
+  std::string sizes;
+  for (const std::optional<double>& size : {nearest.smaller, nearest.larger}) {
+    if (size) sizes += (sizes.empty() ? "" : " or ") + formatDouble(*size);
+  }
+  return sizes;
+}
+
+/// Names what the grid does not reach before hours are spent without it. Fails when nothing is left
+/// to fit the model to.
+Status tellWhatIsLeftOut(const TomoDocument& document) {
+  const LeftOut left = leftOut(document, findExcluded(document));
+  for (const std::string& line : describe(left, document)) warn(line);
+  const bool beyond = !left.shotsBeyond.empty() || !left.geophones.empty();
+  const std::string sizes = beyond ? otherCellSizes(document) : "";
+  if (!sizes.empty()) warn("The nearest cell sizes that reach all: --cell-size " + sizes);
+  if (left.picksUsed() > 0) return {};
+  return Status::failure("Not a single pick can be used: all " + std::to_string(left.of) +
+                         " are of shots or receivers that are left out; nothing was inverted");
 }
 
 TomographyParameters parametersOf(const InvertOptions& options, const TomoDocument& document) {
@@ -91,8 +114,14 @@ TomographyResult invert(const InvertOptions& options, const TomographyParameters
   return result;
 }
 
-void summarizeExcluded(const TomoDocument& document, std::ostream& out) {
-  for (const ExcludedPosition& position : document.excluded) out << describe(position) << '\n';
+/// The misfit of the section that was found, along fresh rays.
+void summarizeSection(const SectionMisfit& misfit, std::ostream& out) {
+  if (misfit.count == 0) return;
+  out << "Section: RMS [ms] " << formatDouble(misfit.rmse * 1000.0) << "; [%] "
+      << formatDouble(misfit.relativeRms * 100.0) << "; mean [ms] "
+      << formatDouble(misfit.bias * 1000.0) << "\n"
+      << "Largest difference: [ms] " << formatDouble(misfit.maxAbs * 1000.0) << "; shot "
+      << misfit.maxShot + 1 << ", receiver " << misfit.maxReceiver + 1 << "\n";
 }
 
 void summarize(const InvertOptions& options, const TomoDocument& document,
@@ -104,17 +133,16 @@ void summarize(const InvertOptions& options, const TomoDocument& document,
       << "External iterations: " << result.iterationsDone << " of "
       << options.parameters.externalIterations << (result.stopped ? ", stopped by the user" : "")
       << "\n";
-  summarizeExcluded(document, out);
-  out << "Elapsed time: [s] " << formatDouble(result.elapsedSeconds) << "\n";
-  if (misfit.count == 0) {
-    out << "No picks: there is no misfit." << std::endl;
-    return;
-  }
-  out << "RMSE: [ms] " << formatDouble(misfit.rmse * 1000.0) << "; [%] "
+  summarizeSection(result.sectionMisfit, out);
+  out << "Computing time: [s] " << formatDouble(result.computingSeconds) << "\n"
+      << "Last solver pass:\n"
+      << "Elapsed time: [s] " << formatDouble(result.elapsedSeconds) << "\n"
+      << "RMSE: [ms] " << formatDouble(misfit.rmse * 1000.0) << "; [%] "
       << formatDouble(misfit.relativeRms * 100.0) << "\n"
       << "MaxError: [ms] " << formatDouble(misfit.maxError * 1000.0) << "; [%] "
       << formatDouble(misfit.maxRelativeError * 100.0) << "\n"
-      << "Picks used: " << misfit.count << std::endl;
+      << "Picks used: " << misfit.count << " of " << leftOut(document, document.excluded).of
+      << std::endl;
 }
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
@@ -147,14 +175,13 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
 }  // namespace
 
 int run(const InvertOptions& options) {
-  const Channels channels =
-      openChannels(options.json == kStandardOutput, options.quiet, options.verbose);
   std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
                                      {"--otte", options.otte},
                                      {"--json", options.json},
                                      {"--project", options.project},
                                      {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  const Channels channels = openChannels(outputs, options.quiet, options.verbose);
   const Status places = checkOutputFiles(outputs, inputsOf(options));
   if (places.code() == kWrongUsage) return wrongUsage("invert", places.message());
   if (!places.ok()) return failed(places.message());
@@ -166,10 +193,11 @@ int run(const InvertOptions& options) {
   PickingManner manner;
   manner.threads = options.parameters.singleThread ? 1 : 0;
   manner.quiet = options.quiet;
-  manner.verbose = options.verbose;
   manner.summary = channels.summary;
   Status status = readSurvey(options.input, options.shots, manner, project);
+  if (status.ok()) status = checkPicks(document, inputsOf(options));
   if (status.ok()) status = setUpModel(options, document, log);
+  if (status.ok()) status = tellWhatIsLeftOut(document);
   if (!status.ok()) return failed(status.message());
   const TomographyParameters parameters = parametersOf(options, document);
   if (!options.quiet) warnAboutChoices(parameters, document);

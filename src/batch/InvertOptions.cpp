@@ -1,5 +1,6 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
+#include "tomo/GridSetup.h"
 
 #include <algorithm>
 #include <memory>
@@ -32,8 +33,9 @@ VelocityLayer readLayer(const std::string& text) {
 
 void addGridOptions(CLI::App& app, InvertOptions& options) {
   addNumber(
-      app, "--cell-size", "M", Range<double>{0.1, 1e6},
-      "Side of the square cells, metres (default: a quarter of the smallest geophone spacing)",
+      app, "--cell-size", "M", Range<double>{kSmallestCell, 1e6},
+      "Side of the square cells, metres (default: a quarter of the smallest geophone spacing, at "
+      "least 0.1)",
       [&](double value) {
         options.cellSize = value;
         options.ownGrid = true;
@@ -171,11 +173,12 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   addRunOptions(command, options);
   addOutputOptions(command, options);
   addReport(command, options.report, options.reportFields);
-  CLI::Option* quiet = command.add_flag("--quiet", options.quiet, "Print nothing but errors");
+  CLI::Option* quiet = command.add_flag("--quiet", options.quiet, kQuietHelp);
   command
-      .add_flag("--verbose", options.verbose,
-                "Print the messages of the readers and the picker, and those of the engine even "
-                "where a progress bar would take their place")
+      .add_flag(
+          "--verbose", options.verbose,
+          "Print the messages of the readers, the picker and the engine, and lines instead of "
+          "a progress bar")
       ->excludes(quiet);
   command.final_callback([inputs, shots, &options] {
     sortInputs(*inputs, shots.anyGiven(), options.input, options.shots.files);

@@ -14,6 +14,9 @@ namespace talvesk {
 
 inline constexpr const char* kExitCodes = "Exit code: 0 done, 1 failed, 2 wrong usage.";
 
+inline constexpr const char* kQuietHelp =
+    "Print nothing but errors and what was left out, repaired or taken as 0 while reading";
+
 /// The options that belong to shot files, to ask what was given once the line is parsed.
 struct ShotOptionGroup {
   std::vector<CLI::Option*> options;

@@ -60,8 +60,8 @@ CLI::Option* addNumber(CLI::App& app, const std::string& name, const std::string
 CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,
                      const std::string& help);
 
-/// A path to write that must end in one of the suffixes (in lower case).
-/// \param anyCase whether ".PNG" ends in ".png"
+/// A path to write that must end in one of the suffixes (in lower case). Where there is no choice
+/// of formats, a pipe or a device may have any name. \param anyCase whether ".PNG" ends in ".png"
 CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase);
 
 /// Breaks the help texts of a command and its subcommands into lines that fit a terminal.

@@ -40,19 +40,25 @@ void addPick(CLI::App& app, PickOptions& pick) {
       ->required();
   const ShotOptionGroup shots = addShotOptions(command, pick.shots);
   mustEndIn(addPath(command, "-o,--otte", pick.otte,
-                    "The travel-time exchange file to write, named *.otte")
-                ->required(),
+                    "The travel-time exchange file to write, named *.otte; not needed with "
+                    "--project"),
             {".otte"}, false);
+  mustEndIn(addPath(command, "--project", pick.project,
+                    "Save the survey with its picks and traces as a project named *.tvsk"),
+            {".tvsk"}, false);
   addPath(command, "--json", pick.json,
           "Write positions (metres) and picks (seconds, -99 is none) as JSON; '-' is standard "
           "output, and then all diagnostics go to standard error");
   addImages(command, pick.images,
             "Draw the traces with their picks: a .pdf with a page per shot, or a .png or .svg per "
             "shot, numbered");
-  CLI::Option* quiet = command.add_flag("--quiet", pick.quiet, "Print nothing but errors");
+  CLI::Option* quiet = command.add_flag("--quiet", pick.quiet, kQuietHelp);
   command.add_flag("--verbose", pick.verbose, "Print the messages of the readers and the picker")
       ->excludes(quiet);
-  command.final_callback([shots, &pick] { shots.check(pick.shots); });
+  command.final_callback([shots, &pick] {
+    if (pick.otte.empty() && pick.project.empty()) throw CLI::RequiredError("--otte or --project");
+    shots.check(pick.shots);
+  });
 }
 
 void addConvert(CLI::App& app, ConvertOptions& convert) {
@@ -63,7 +69,7 @@ void addConvert(CLI::App& app, ConvertOptions& convert) {
   mustEndIn(
       command.add_option("OUT", convert.output, "The file to write, named *.otte")->required(),
       {".otte"}, false);
-  command.add_flag("--quiet", convert.quiet, "Print nothing but errors");
+  command.add_flag("--quiet", convert.quiet, kQuietHelp);
 }
 
 void addDemo(CLI::App& app, DemoOptions& demo) {

@@ -45,6 +45,7 @@ struct ShotOptions {
 struct PickOptions {
   ShotOptions shots;
   std::string otte;
+  std::string project;  ///< to save the survey in; it or `otte` is given
   std::string json;
   std::vector<std::string> images;
   bool quiet = false;
@@ -93,7 +94,10 @@ struct RefractOptions {
   std::optional<double> xy;  ///< metres, of the family; none: that of the project, else 0
   std::string json;
   std::string table;
+  std::string project;              ///< to save the survey and its layers in
   std::vector<std::string> images;  ///< one picture per path
+  std::string report;
+  ReportFields reportFields;
   bool quiet = false;
   bool verbose = false;
 };

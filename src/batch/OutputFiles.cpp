@@ -1,18 +1,31 @@
 #include "batch/OutputFiles.h"
 
 #include "base/AtomicFile.h"
+#include "base/StandardStreams.h"
+#include "base/StreamPlace.h"
 #include "batch/Options.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
+
+#include <fcntl.h>
 
 namespace talvesk {
 namespace {
 
+bool isOutput(const std::string& path) {
+  return path == kStandardOutput || isStandardOutput(path);
+}
+
 /// One spelling per place, whether or not the file exists yet.
 QString placeOf(const std::string& path) {
+  if (isOutput(path)) return QString::fromLatin1(kStandardOutput);
   const QFileInfo file(QString::fromStdString(path));
+  if (isStreamPlace(path)) return file.absoluteFilePath();
   if (file.exists()) return file.canonicalFilePath();
   return QDir(file.absolutePath()).canonicalPath() + '/' + file.fileName();
 }
@@ -22,6 +35,7 @@ Status checkPlace(const OutputFile& output) {
     return Status::failure("Cannot write " + output.path + ": " + why);
   };
   if (!isFileName(output.path)) return refuse("its name is not valid UTF-8 text");
+  if (isStreamPlace(output.path)) return {};
   const QFileInfo file(QString::fromStdString(output.path));
   const QFileInfo folder(file.absolutePath());
   const std::string folderName = folder.filePath().toStdString();
@@ -33,13 +47,29 @@ Status checkPlace(const OutputFile& output) {
   return {};
 }
 
+/// The descriptor stays open as long as the program, so that the reader does not see an end before
+/// the bytes come.
+Status openPipe(const std::string& path) {
+  // Other outputs are still to come when one reader leaves.
+  if (isStreamPlace(path) && !isStandardOutput(path)) outliveReaders();
+  if (!isNamedPipe(path)) return {};
+  if (::open(path.c_str(), O_WRONLY | O_CLOEXEC) >= 0) return {};
+  return Status::failure("Cannot write " + path + ": " + std::strerror(errno));
+}
+
 }  // namespace
+
+bool writesToOutput(const std::vector<OutputFile>& outputs) {
+  return std::any_of(outputs.begin(), outputs.end(),
+                     [](const OutputFile& output) { return isOutput(output.path); });
+}
 
 Status checkOutputFiles(const std::vector<OutputFile>& outputs,
                         const std::vector<std::string>& inputs) {
   std::vector<OutputFile> files;
   for (const OutputFile& output : outputs) {
-    if (!output.path.empty() && output.path != kStandardOutput) files.push_back(output);
+    // Any number of outputs may vanish in /dev/null.
+    if (!output.path.empty() && !isDevice(output.path)) files.push_back(output);
   }
   for (std::size_t i = 0; i < files.size(); ++i) {
     const QString place = placeOf(files[i].path);
@@ -55,7 +85,12 @@ Status checkOutputFiles(const std::vector<OutputFile>& outputs,
     }
   }
   for (const OutputFile& output : files) {
+    if (output.path == kStandardOutput) continue;
     Status status = checkPlace(output);
+    if (!status.ok()) return status;
+  }
+  for (const OutputFile& output : files) {
+    Status status = openPipe(output.path);
     if (!status.ok()) return status;
   }
   return {};

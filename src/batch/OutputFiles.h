@@ -13,9 +13,13 @@ struct OutputFile {
   std::string path;
 };
 
+/// Whether one of the outputs goes to the standard output, which is "-" or its name in the system.
+bool writesToOutput(const std::vector<OutputFile>& outputs);
+
 /// Looks at the places of the files before hours of work are spent: two outputs in one place or an
 /// output on top of an input are wrong usage, a missing or read-only folder is a failure (codes as
-/// in ExitCode).
+/// in ExitCode). Pipes and devices will do; a named pipe is opened here and held, which waits for
+/// its reader as a redirection of the shell does.
 Status checkOutputFiles(const std::vector<OutputFile>& outputs,
                         const std::vector<std::string>& inputs);
 

@@ -4,6 +4,7 @@
 #include "batch/Failure.h"
 #include "batch/Images.h"
 #include "batch/OutputFiles.h"
+#include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
 
@@ -19,42 +20,52 @@ Status writePicks(const PickOptions& options, const TomoDocument& document) {
   console::setError(remarks);
   const Status status = writeTravelTimes(options.otte, document);
   console::setError(before);
-  if (status.ok() && !options.quiet && !remarks.str().empty()) warn(remarks.str());
+  if (status.ok() && !remarks.str().empty()) warn(remarks.str());
   return status;
+}
+
+/// Tries every output: a picture that cannot be drawn must not cost the picks.
+int writeResults(const PickOptions& options, const LoadedProject& project) {
+  const TomoDocument& document = project.document;
+  int exitCode = kDone;
+  const auto attempt = [&](const std::string& path, const auto& write) {
+    if (path.empty()) return;
+    const Status status = write();
+    if (!status.ok()) exitCode = failed(status.message());
+  };
+  attempt(options.otte, [&] { return writePicks(options, document); });
+  attempt(options.project, [&] { return writeProject(options.project, options.quiet, project); });
+  attempt(options.json, [&] {
+    return writeOutput(options.json, picksJson(document, nameOf(options.shots.filter)));
+  });
+  for (const std::string& image : options.images) {
+    attempt(image, [&] {
+      return drawGathers(document, options.shots.filter != PickFilter::kNone, image);
+    });
+  }
+  return exitCode;
 }
 
 }  // namespace
 
 int run(const PickOptions& options) {
-  const Channels channels =
-      openChannels(options.json == kStandardOutput, options.quiet, options.verbose);
-  std::vector<OutputFile> outputs = {{"--otte", options.otte}, {"--json", options.json}};
+  std::vector<OutputFile> outputs = {
+      {"--otte", options.otte}, {"--json", options.json}, {"--project", options.project}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  const Channels channels = openChannels(outputs, options.quiet, options.verbose);
   const Status places = checkOutputFiles(outputs, filesOf(options.shots));
   if (places.code() == kWrongUsage) return wrongUsage("pick", places.message());
   if (!places.ok()) return failed(places.message());
   if (!options.images.empty()) prepareDrawing();
 
-  TomoDocument document;
+  LoadedProject project;
   PickingManner manner;
   manner.quiet = options.quiet;
-  manner.verbose = options.verbose;
   manner.summary = channels.summary;
-  Status status = pickShotFiles(options.shots, manner, document);
-  if (status.ok()) status = writePicks(options, document);
+  Status status = pickShotFiles(options.shots, manner, project.document);
+  if (status.ok()) status = checkPicks(project.document, options.shots.files);
   if (!status.ok()) return failed(status.message());
-
-  int exitCode = kDone;
-  if (!options.json.empty()) {
-    const std::string filter = nameOf(options.shots.filter);
-    status = writeOutput(options.json, picksJson(document, filter));
-    if (!status.ok()) exitCode = failed(status.message());
-  }
-  for (const std::string& image : options.images) {
-    status = drawGathers(document, options.shots.filter != PickFilter::kNone, image);
-    if (!status.ok()) exitCode = failed(status.message());
-  }
-  return exitCode;
+  return writeResults(options, project);
 }
 
 }  // namespace talvesk

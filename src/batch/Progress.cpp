@@ -29,18 +29,29 @@ std::string remaining(const TomographyProgress& progress) {
   return "about " + clock(perIteration * std::max(0, progress.total - progress.completed));
 }
 
-std::string rmse(const Misfit& misfit) {
+/// Of a section or of a solver pass.
+template <typename AnyMisfit>
+std::string rms(const AnyMisfit& misfit) {
   if (misfit.count == 0) return "no picks";
-  return "RMSE " + formatDouble(misfit.rmse * 1000.0, 4) + " ms (" +
+  return formatDouble(misfit.rmse * 1000.0, 4) + " ms (" +
          formatDouble(misfit.relativeRms * 100.0, 3) + " %)";
+}
+
+/// The section that the iteration started from: rays through its own come with the next one.
+std::string sectionBefore(const TomographyProgress& progress) {
+  const std::string before = progress.completed == 1
+                                 ? "starting model "
+                                 : "section of " + std::to_string(progress.completed - 1) + " ";
+  return before + rms(progress.sectionBefore);
 }
 
 }  // namespace
 
 std::string progressLine(const TomographyProgress& progress) {
   return "External iteration " + std::to_string(progress.completed) + " of " +
-         std::to_string(progress.total) + ": " + rmse(progress.misfit) + ", elapsed " +
-         clock(progress.elapsedSeconds) + ", remaining " + remaining(progress);
+         std::to_string(progress.total) + ": " + sectionBefore(progress) + ", last solver pass " +
+         rms(progress.misfit) + ", elapsed " + clock(progress.elapsedSeconds) + ", remaining " +
+         remaining(progress);
 }
 
 std::string progressBar(const TomographyProgress& progress, int width) {
@@ -51,7 +62,7 @@ std::string progressBar(const TomographyProgress& progress, int width) {
                      std::string(static_cast<std::size_t>(width) - filled, '.') + "] " +
                      std::to_string(progress.completed) + "/" + std::to_string(progress.total);
   if (progress.completed == 0) return text + " tracing rays";
-  text += " " + rmse(progress.misfit);
+  text += " section " + rms(progress.sectionBefore);
   return progress.completed < progress.total ? text + " " + remaining(progress).substr(6) + " left"
                                              : text;
 }

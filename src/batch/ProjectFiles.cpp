@@ -1,12 +1,18 @@
 #include "batch/ProjectFiles.h"
 
+#include "base/AtomicFile.h"
+#include "base/StreamPlace.h"
 #include "base/TextNumber.h"
 #include "base/WorkingFolder.h"
 #include "batch/Failure.h"
+#include "io/ProjectLock.h"
 #include "io/ProjectWriter.h"
+#include "model/Residuals.h"
 #include "model/SurveyFacts.h"
+#include "refraction/PicksFingerprint.h"
 
 #include <QString>
+#include <QTemporaryDir>
 #include <ostream>
 
 namespace talvesk {
@@ -19,8 +25,40 @@ Status workingFolder(std::string& path) {
   return Status::failure("Cannot create the folder " + path + ", where projects are put together");
 }
 
+/// An archive is put together in a file, whose bytes then go on.
+Status streamProject(const std::string& path, bool quiet, const LoadedProject& project) {
+  const QTemporaryDir folder;
+  const std::string file = folder.filePath(QStringLiteral("project.tvsk")).toStdString();
+  std::string bytes;
+  Status status = writeProject(file, quiet, project);
+  if (status.ok()) status = readWholeFile(file, bytes);
+  return status.ok() ? writeStream(path, bytes) : status;
+}
+
 std::string countOf(std::size_t count, const std::string& what) {
   return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+void describeInversion(const TomoDocument& document, std::ostream& out) {
+  const SectionMisfit misfit = sectionMisfitOf(document);
+  out << "done";
+  if (misfit.count > 0) {
+    out << ", RMS misfit of the section " << formatDouble(misfit.rmse * 1000.0) << " ms, "
+        << formatDouble(misfit.relativeRms * 100.0) << " %";
+  }
+  if (document.RMSE_tomography >= 0.0) {
+    out << ", last solver pass " << formatDouble(document.RMSE_tomography) << " %";
+  }
+  if (picksChangedSince(document)) out << "; picks have changed since";
+  out << "\n";
+}
+
+/// A window that has the project open asks before it saves over what is written now.
+void warnOfHolder(const std::string& path, const ProjectHolder& holder) {
+  const std::string who = holder.process.empty() ? "another program"
+                                                 : holder.user + " on " + holder.host +
+                                                       " (process " + holder.process + ")";
+  warn(path + " is in use by " + who + "; it is replaced all the same");
 }
 
 }  // namespace
@@ -31,14 +69,14 @@ bool isProjectFile(const std::string& path) {
   return name.size() > suffix.size() && name.endsWith(suffix, Qt::CaseInsensitive);
 }
 
-Status readProject(const std::string& path, bool quiet, LoadedProject& project) {
+Status readProject(const std::string& path, LoadedProject& project) {
   std::string folder;
   if (Status status = workingFolder(folder); !status.ok()) return status;
   projectReader reader;
   if (reader.load(path, folder, project) != 0) {
     return Status::failure(path + " is not a valid project: " + reader.message());
   }
-  if (quiet) return {};
+  for (const std::string& repair : reader.repairs()) warn(path + ": " + repair);
   for (const std::string& warning : reader.warnings()) {
     warn(path + ": error while loading traces: " + warning);
   }
@@ -46,14 +84,15 @@ Status readProject(const std::string& path, bool quiet, LoadedProject& project) 
 }
 
 Status writeProject(const std::string& path, bool quiet, const LoadedProject& project) {
+  if (isStreamPlace(path)) return streamProject(path, quiet, project);
   std::string folder;
   if (Status status = workingFolder(folder); !status.ok()) return status;
+  const ProjectLock::Outcome lock = ProjectLock::take(path);
+  if (lock.holder) warnOfHolder(path, *lock.holder);
   ProjectWriter writer;
   if (writer.save(path, folder, project.document, project.interpretation, project.palettes,
                   project.section) != 0) {
-    const std::string& kept = writer.keptArchive();
-    return Status::failure("The project " + path + " has not been saved: " + writer.message() +
-                           (kept.empty() ? "" : " As it was before it is in " + kept));
+    return Status::failure("The project " + path + " has not been saved: " + writer.message());
   }
   if (quiet) return {};
   for (const std::string& warning : writer.warnings()) warn(warning);
@@ -86,10 +125,16 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
   out << "  inversion   ";
   if (!document.has_tomographic_info) {
     out << "none\n";
-  } else if (document.RMSE_tomography < 0.0) {
-    out << "done\n";
   } else {
-    out << "RMS misfit " << formatDouble(document.RMSE_tomography) << " %\n";
+    describeInversion(document, out);
+  }
+  const auto& profile = project.interpretation.refractData;
+  out << "  layers      ";
+  if (profile.cData.empty()) {
+    out << "none\n";
+  } else {
+    out << countOf(profile.cData.size(), "refractor")
+        << (picksChangedSince(document, profile) ? ", picks have changed since\n" : "\n");
   }
 }
 

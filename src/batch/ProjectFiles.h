@@ -11,8 +11,9 @@ namespace talvesk {
 /// Whether a name ends in ".tvsk", whatever its case.
 bool isProjectFile(const std::string& path);
 
-/// Loads a project. Shot files that are missing in it are warned of unless `quiet`.
-Status readProject(const std::string& path, bool quiet, LoadedProject& project);
+/// Loads a project. What had to be put right in it, and which of its shot files are missing, is
+/// told.
+Status readProject(const std::string& path, LoadedProject& project);
 
 /// Saves a project. What the user should know about its shot files is warned of unless `quiet`.
 Status writeProject(const std::string& path, bool quiet, const LoadedProject& project);

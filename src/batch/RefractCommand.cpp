@@ -6,6 +6,7 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/RefractionJson.h"
+#include "batch/Reports.h"
 #include "batch/ShotPicking.h"
 #include "figures/RefractionFigure.h"
 #include "io/LayerFile.h"
@@ -13,6 +14,8 @@
 #include "refraction/BuildProfiles.h"
 #include "refraction/LayerProposal.h"
 #include "refraction/Profile.h"
+#include "tomo/RayRecomputation.h"
+#include "view/RefractorLines.h"
 
 #include <algorithm>
 #include <cmath>
@@ -47,7 +50,6 @@ ProfileOutcome interpret(const RefractOptions& options, const std::vector<ShotAr
     chooseXY(interpretation, 2, *options.xy);
     chooseXY(interpretation, 3, *options.xy);
   }
-  const SilentConsole console(!options.verbose);
   return buildProfiles(shots, interpretation);
 }
 
@@ -85,46 +87,70 @@ void summarize(const Interpretation& interpretation, std::ostream& out) {
 }
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
-int writeResults(const RefractOptions& options, const TomoDocument& document,
-                 const Interpretation& interpretation,
+int writeResults(const RefractOptions& options, const LoadedProject& project,
                  const std::vector<RefractionWarning>& warnings) {
+  const TomoDocument& document = project.document;
+  const Interpretation& interpretation = project.interpretation;
   int exitCode = kDone;
-  const auto attempt = [&](const Status& status) {
+  const auto attempt = [&](const std::string& path, const auto& write) {
+    if (path.empty()) return;
+    const Status status = write();
     if (!status.ok()) exitCode = failed(status.message());
   };
-  attempt(writeOutput(options.json, refractionJson(interpretation, warnings)));
-  if (!options.table.empty()) {
-    attempt(writeOutput(options.table, profileTable(interpretation.refractData)));
-  }
+  attempt(options.json,
+          [&] { return writeOutput(options.json, refractionJson(interpretation, warnings)); });
+  attempt(options.table,
+          [&] { return writeOutput(options.table, profileTable(interpretation.refractData)); });
+  attempt(options.project, [&] { return writeProject(options.project, options.quiet, project); });
   for (const std::string& image : options.images) {
-    attempt(writeRefractionFigure(document, interpretation.refractData, {}, image));
+    attempt(image,
+            [&] { return writeRefractionFigure(document, interpretation.refractData, {}, image); });
   }
+  attempt(options.report, [&] {
+    return writeReportFile({document, &interpretation}, options.reportFields,
+                           sectionFigureOptions(project.section, project.palettes.current(),
+                                                refractorLines(interpretation)),
+                           options.report);
+  });
   return exitCode;
 }
 
-Status checkPlaces(const RefractOptions& options) {
-  std::vector<OutputFile> outputs = {{"--json", options.json}, {"--table", options.table}};
+std::vector<OutputFile> outputsOf(const RefractOptions& options) {
+  std::vector<OutputFile> outputs = {{"--json", options.json},
+                                     {"--table", options.table},
+                                     {"--project", options.project},
+                                     {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  return outputs;
+}
+
+std::vector<std::string> inputsOf(const RefractOptions& options) {
   std::vector<std::string> inputs = surveyFiles(options.input, options.shots);
   if (!options.layers.empty()) inputs.push_back(options.layers);
-  return checkOutputFiles(outputs, inputs);
+  return inputs;
+}
+
+/// The section of a project is drawn in a report, and its rays are not in the project.
+Status prepareReport(const RefractOptions& options, TomoDocument& document) {
+  if (options.report.empty() || !document.has_tomographic_info) return {};
+  Log log;
+  return recomputeRays(document, log);
 }
 
 }  // namespace
 
 int run(const RefractOptions& options) {
-  const Channels channels =
-      openChannels(options.json == kStandardOutput, options.quiet, options.verbose);
-  const Status places = checkPlaces(options);
+  const std::vector<OutputFile> outputs = outputsOf(options);
+  const Channels channels = openChannels(outputs, options.quiet, options.verbose);
+  const Status places = checkOutputFiles(outputs, inputsOf(options));
   if (places.code() == kWrongUsage) return wrongUsage("refract", places.message());
   if (!places.ok()) return failed(places.message());
-  if (!options.images.empty()) prepareDrawing();
+  if (!options.images.empty() || !options.report.empty()) prepareDrawing();
 
   LoadedProject project;
   TomoDocument& document = project.document;
   PickingManner manner;
   manner.quiet = options.quiet;
-  manner.verbose = options.verbose;
   manner.summary = channels.summary;
   Status status = readSurvey(options.input, options.shots, manner, project);
   if (!status.ok()) return failed(status.message());
@@ -139,10 +165,11 @@ int run(const RefractOptions& options) {
   const ProfileOutcome outcome = interpret(options, shots, interpretation);
   if (!outcome.built)
     return failed(reasonOf(outcome, shotPairReach(shots, interpretation.ttLayer, 2)));
-  if (!options.quiet) {
-    for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
-  }
-  const int exitCode = writeResults(options, document, interpretation, outcome.warnings);
+  // What is left out or replaced is told even who wants to hear nothing else.
+  for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
+  status = prepareReport(options, document);
+  if (!status.ok()) return failed(status.message());
+  const int exitCode = writeResults(options, project, outcome.warnings);
   summarize(interpretation, *channels.summary);
   return exitCode;
 }

@@ -38,8 +38,13 @@ void addRefract(CLI::App& app, RefractOptions& options) {
   CLI::Option* image = addImages(command, options.images,
                                  "Draw the section of layers: .png, .svg or .pdf; once per "
                                  "picture");
-  for (CLI::Option* option : {json, table, image}) option->group("Output");
-  CLI::Option* quiet = command.add_flag("--quiet", options.quiet, "Print nothing but errors");
+  CLI::Option* project = mustEndIn(
+      addPath(command, "--project", options.project,
+              "Save the survey with its picks, traces and layers as a project named *.tvsk"),
+      {".tvsk"}, false);
+  for (CLI::Option* option : {json, table, image, project}) option->group("Output");
+  addReport(command, options.report, options.reportFields);
+  CLI::Option* quiet = command.add_flag("--quiet", options.quiet, kQuietHelp);
   command
       .add_flag("--verbose", options.verbose,
                 "Print the messages of the readers, the picker and the interpretation")

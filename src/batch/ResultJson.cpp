@@ -1,15 +1,28 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
+#include "refraction/PicksFingerprint.h"
 
 namespace talvesk {
 namespace {
 
 /// A quantity of a misfit, or null when there was nothing to compare.
-Json ofPicks(const Misfit& misfit, double value) {
+template <typename AnyMisfit, typename T>
+Json ofPicks(const AnyMisfit& misfit, T value) {
   return misfit.count > 0 ? Json(value) : Json(nullptr);
+}
+
+/// The misfit of a section along fresh rays. Shots and receivers count from 0.
+void putSectionMisfit(Json& json, const SectionMisfit& misfit) {
+  json["section_rmse_ms"] = ofPicks(misfit, misfit.rmse * 1000.0);
+  json["section_rms_percent"] = ofPicks(misfit, misfit.relativeRms * 100.0);
+  json["section_bias_ms"] = ofPicks(misfit, misfit.bias * 1000.0);
+  json["section_max_abs_ms"] = ofPicks(misfit, misfit.maxAbs * 1000.0);
+  json["section_max_abs_shot"] = ofPicks(misfit, misfit.maxShot);
+  json["section_max_abs_receiver"] = ofPicks(misfit, misfit.maxReceiver);
 }
 
 Json pointJson(const Point2D& point) {
@@ -71,6 +84,24 @@ Json historyJson(const std::vector<Misfit>& history) {
   return list;
 }
 
+/// Entry 0 is the starting model.
+Json sectionHistoryJson(const std::vector<SectionMisfit>& history) {
+  Json list = Json::array();
+  for (std::size_t i = 0; i < history.size(); ++i) {
+    Json json = Json::object();
+    json["iteration"] = i;
+    putSectionMisfit(json, history[i]);
+    list.push_back(std::move(json));
+  }
+  return list;
+}
+
+Json sectionTimesJson(const TomoDocument& document) {
+  Json times = Json::array();
+  for (const TravelTime& record : document.ttArray) times.push_back(record.ttCalcolati);
+  return times;
+}
+
 }  // namespace
 
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result) {
@@ -95,9 +126,11 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
     drawn.push_back(document.grid->draw(cell));
   }
   json["to_be_draw"] = std::move(drawn);
-  Json times = Json::array();
-  for (const TravelTime& record : document.ttArray) times.push_back(record.ttCalcolati);
-  json["computed_times"] = std::move(times);
+  json["computed_times"] = result.lastPassTimes;
+  putSectionMisfit(json, result.sectionMisfit);
+  json["section_history"] = sectionHistoryJson(document.sectionHistory);
+  json["section_times"] = sectionTimesJson(document);
+  json["computing_s"] = result.computingSeconds;
   return linePerKey(json) + "\n";
 }
 
@@ -179,9 +212,16 @@ std::string projectJson(const LoadedProject& project) {
   json["has_tomographic_info"] = document.has_tomographic_info;
   json["rms_percent"] =
       document.RMSE_tomography < 0.0 ? Json(nullptr) : Json(document.RMSE_tomography);
+  putSectionMisfit(json, sectionMisfitOf(document));
   json["crs"] = document.geoCoord_isSet ? Json(document.geoCoord.CRS) : Json(nullptr);
   json["palette"] = project.palettes.current().name;
   json["layered_shots"] = project.interpretation.ttLayer.size();
+  const auto& profile = project.interpretation.refractData;
+  json["refractors"] = profile.cData.size();
+  // A profile of an earlier version does not know its picks.
+  json["picks_changed_since_profile"] = profile.cData.empty() || profile.picks == 0
+                                            ? Json(nullptr)
+                                            : Json(picksChangedSince(document, profile));
   json["grid"] = nullptr;
   if (document.grid != nullptr) {
     json["grid"] = gridJson(document);

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <ostream>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -21,13 +22,11 @@ namespace talvesk {
 namespace {
 
 /// Every file that fails has its line; the last one is the status.
-Status load(const std::vector<std::string>& files, bool quiet, TomoDocument& document) {
+Status load(const std::vector<std::string>& files, TomoDocument& document) {
   ShotLoader loader;
   Status status;
   for (const ShotFileOutcome& outcome : loader.load(files, document)) {
-    if (!quiet) {
-      for (const std::string& warning : outcome.warnings) warn(outcome.path + ": " + warning);
-    }
+    for (const std::string& warning : outcome.warnings) warn(outcome.path + ": " + warning);
     if (outcome.status.ok()) continue;
     if (!status.ok()) failed(status.message());
     status = outcome.status;
@@ -37,14 +36,15 @@ Status load(const std::vector<std::string>& files, bool quiet, TomoDocument& doc
 
 Status readPositions(const std::string& path, const std::string& separator, bool labelled,
                      std::vector<Point2D>& positions) {
-  GeometryRecords records;
-  Status status = labelled ? readLabelledRecords(path, separator, records)
-                           : readRecords(path, separator, records);
+  PositionTable table;
+  Status status =
+      labelled ? readLabelledRecords(path, separator, table) : readRecords(path, separator, table);
   if (!status.ok()) return status;
+  for (const std::string& remark : describe(table.remarks)) warn(path + ": " + remark);
   if (cutsNumbers(lookAtGeometryFile(path), separator)) {
     warn(path + ": numbers were cut at their decimal commas; they need points");
   }
-  status = positionsOf(records, positions);
+  status = positionsOf(table, positions);
   return status.ok() ? status : Status::failure(path + ": " + status.message());
 }
 
@@ -104,13 +104,16 @@ void warnOfHeap(const TomoDocument& document) {
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const auto string = static_cast<std::size_t>(document.ttArray[i].indexStesa);
     const std::vector<Point2D>& geophones = document.goephonesStringSet[string];
-    const bool apart = std::any_of(geophones.begin(), geophones.end(), [&](const Point2D& point) {
-      return point.x != geophones.front().x;
-    });
-    if (apart || geophones.size() < 2) continue;
-    warn(document.filenames[i] +
-         ": all receivers are at one place, so that no pick can be plausible; give their positions "
-         "with --geophones and --shots");
+    std::set<double> places;
+    for (const Point2D& geophone : geophones) places.insert(geophone.x);
+    if (places.size() == geophones.size()) continue;
+    const std::string heap =
+        places.size() == 1 ? "all receivers are at one place, so that no pick can be plausible"
+                           : std::to_string(geophones.size()) + " receivers are at only " +
+                                 std::to_string(places.size()) +
+                                 " places, and picks are judged by those distances";
+    warn(document.filenames[i] + ": " + heap +
+         "; give their positions with --geophones and --shots");
   }
 }
 
@@ -138,7 +141,7 @@ void startAtShot(const ShotOptions& options, const PickingManner& manner, TomoDo
   }
 }
 
-Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots, bool quiet,
+Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots,
               TomoDocument& document) {
   FilterOutcome outcome;
   if (options.filter == PickFilter::kAgc) outcome = agcShots(document, shots);
@@ -148,11 +151,8 @@ Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots
   }
   if (outcome.failed == 0) return {};
   if (outcome.filtered == 0) return outcome.status;
-  if (!quiet) {
-    warn(std::to_string(outcome.failed) + " of " +
-         std::to_string(outcome.failed + outcome.filtered) +
-         " traces cannot be filtered and are not picked; " + outcome.status.message());
-  }
+  warn(std::to_string(outcome.failed) + " of " + std::to_string(outcome.failed + outcome.filtered) +
+       " traces cannot be filtered and are not picked; " + outcome.status.message());
   return {};
 }
 
@@ -173,8 +173,7 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
 
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
                      TomoDocument& document) {
-  const SilentConsole console(!manner.verbose);
-  Status status = load(options.files, manner.quiet, document);
+  Status status = load(options.files, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
   if (!status.ok()) return status;
@@ -187,7 +186,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
   if (shots.empty()) return Status::failure("the shot files hold no traces");
   if (!manner.quiet) warnOfHeap(document);
   startAtShot(options, manner, document);
-  status = filter(options, shots, manner.quiet, document);
+  status = filter(options, shots, document);
   if (status.ok()) {
     status = pickShots(document, shots, options.filter != PickFilter::kNone, manner.threads);
   }
@@ -198,11 +197,18 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
 Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
                   LoadedProject& project) {
   if (file.empty()) return pickShotFiles(shots, manner, project.document);
-  if (isProjectFile(file)) return readProject(file, manner.quiet, project);
+  if (isProjectFile(file)) return readProject(file, project);
   TravelTimeData data;
-  const Status status = readPicks(file, data, manner.quiet);
+  const Status status = readPicks(file, data);
   if (!status.ok()) return status;
   return importTravelTimes(std::move(data), project.document);
+}
+
+Status checkPicks(const TomoDocument& document, const std::vector<std::string>& files) {
+  if (hasPicks(document)) return {};
+  const std::string others = files.size() > 1 ? " and the other files" : "";
+  return Status::failure(files.front() + others +
+                         ": not a single usable pick; nothing was written");
 }
 
 std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions& shots) {

@@ -15,8 +15,7 @@ struct LoadedProject;
 /// How talvesk-batch goes about it, apart from the options of the shot files.
 struct PickingManner {
   unsigned threads = 0;             ///< 0: as many as the machine has processors
-  bool quiet = false;               ///< no warnings
-  bool verbose = false;             ///< the readers and the picker tell the console what they do
+  bool quiet = false;               ///< no warnings but of what is lost
   std::ostream* summary = nullptr;  ///< what the user came to know
 };
 
@@ -31,6 +30,10 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
 /// pickShotFiles(). What only a project holds is left as it was by the others.
 Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
                   LoadedProject& project);
+
+/// Fails when not a single trace has a pick: there is nothing to write or to invert.
+/// \param files that the survey came from
+Status checkPicks(const TomoDocument& document, const std::vector<std::string>& files);
 
 /// The files that readSurvey() takes.
 std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions& shots);

@@ -1,3 +1,4 @@
+#include "base/FileReplacement.h"
 #include "base/StandardStreams.h"
 #include "batch/Commands.h"
 #include "batch/Failure.h"
@@ -21,6 +22,7 @@ int afterPrinting(int exitCode) {
 
 int main(int argc, char** argv) {
   talvesk::occupyClosedStreams();
+  talvesk::outliveSizeLimits();
   // File names are bytes that the user gave; they must not pass through the codec of a locale that
   // cannot spell them.
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));

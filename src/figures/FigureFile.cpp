@@ -94,7 +94,8 @@ Status paintPdf(const FigureSheet& sheet, std::size_t pages, const PaintPage& pa
 
 Status checkEnvironment() {
   if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr) {
-    return Status::failure("A figure cannot be drawn before the application object exists.");
+    return Status::failure(
+        Message::tr("A figure cannot be drawn before the application object exists."));
   }
   if (QFontDatabase().families().isEmpty()) {
     return Status::failure(

@@ -53,16 +53,25 @@ QString FigureWords::computedTimes(std::size_t count) {
   return count == 1 ? tr("1 computed time") : tr("%1 computed times").arg(count);
 }
 
-QString FigureWords::misfit(double percent) {
-  return tr("RMS misfit %1 %").arg(qt(formatDouble(percent, 3)));
+QString FigureWords::misfit(const SectionMisfit& misfit) {
+  return tr("RMS misfit %1 ms, %2 %")
+      .arg(qt(formatDouble(1e3 * misfit.rmse, 3)), qt(formatDouble(1e2 * misfit.relativeRms, 3)));
 }
 
-QString FigureWords::inversionMisfit(double percent) {
-  return tr("RMS misfit of the inversion %1 %").arg(qt(formatDouble(percent, 3)));
+QString FigureWords::lastPassMisfit(double percent) {
+  return tr("last solver pass %1 %").arg(qt(formatDouble(percent, 3)));
+}
+
+QString FigureWords::picksChanged() {
+  return tr("picks have changed since the inversion");
 }
 
 QString FigureWords::refractor(std::size_t index) {
   return tr("Refractor %1").arg(index + 1);
+}
+
+QString FigureWords::oldRefractor(std::size_t index) {
+  return tr("Refractor %1 (picks have changed since)").arg(index + 1);
 }
 
 QString FigureWords::sectionCaption(const SectionScene& scene, double verticalExaggeration) {
@@ -81,7 +90,9 @@ QString FigureWords::sectionCaption(const SectionScene& scene, double verticalEx
   if (!scene.rays.empty()) {
     parts += scene.rays.size() == 1 ? tr("1 ray") : tr("%1 rays").arg(scene.rays.size());
   }
-  if (scene.rmsPercent >= 0.0) parts += inversionMisfit(scene.rmsPercent);
+  if (scene.misfit.count > 0) parts += misfit(scene.misfit);
+  if (scene.picksChanged) parts += picksChanged();
+  if (scene.lastPassPercent >= 0.0) parts += lastPassMisfit(scene.lastPassPercent);
   if (std::abs(verticalExaggeration - 1.0) > 1e-9) {
     QString factor = qt(formatDouble(verticalExaggeration, 4));
     if (!factor.contains(QLatin1Char('.')) && !factor.contains(QLatin1Char('e'))) {

@@ -25,9 +25,11 @@ struct FigureWords {
   static QString picks(std::size_t count);
   static QString shots(std::size_t count);
   static QString computedTimes(std::size_t count);
-  static QString misfit(double percent);           ///< "RMS misfit 2.34 %"
-  static QString inversionMisfit(double percent);  ///< as told by the inversion, of its last rays
-  static QString refractor(std::size_t index);     ///< "Refractor 1" for 0, the shallowest
+  static QString misfit(const SectionMisfit& misfit);  ///< "RMS misfit 1.21 ms, 2.34 %"
+  static QString lastPassMisfit(double percent);       ///< of the solver, before its last smoothing
+  static QString picksChanged();                       ///< since the section was inverted from them
+  static QString refractor(std::size_t index);         ///< "Refractor 1" for 0, the shallowest
+  static QString oldRefractor(std::size_t index);      ///< the same of a profile of other picks
 
   /// What a reader must know of a section beside its axes: values shown, contour distance, number
   /// of rays, misfit, and a vertical exaggeration (height of a metre over its width) other than 1.

@@ -3,6 +3,7 @@
 #include "figures/FigureItem.h"
 #include "figures/FigurePlot.h"
 #include "figures/FigureWords.h"
+#include "model/Residuals.h"
 #include "model/TomoDocument.h"
 
 #include <QPainter>
@@ -20,18 +21,33 @@ namespace {
 constexpr double kPadding = 12.0;  ///< inside the axes, points of 1/96 inch
 constexpr double kDot = 2.2;       ///< radius, the same
 const QColor kInk(31, 90, 150);
+const QColor kPale(140, 140, 140);
 
 /// Dots of a plane, perhaps joined, with a line at zero where that is in view.
 struct DotPlot {
   std::vector<Point2D> points;
+  std::vector<Point2D> beside;  ///< of less weight, paler
   bool joined = false;
   bool wholeNumbers = false;  ///< along the lower axis
   bool zeroBased = false;     ///< the left axis begins at 0
   FigurePlot figure;          // goes first at the end: its item looks at the points
 
   void addItem();
+  void paint(QPainter& painter, const std::vector<Point2D>& dots, const QColor& ink,
+             const QwtScaleMap& xMap, const QwtScaleMap& yMap) const;
   Status layOut(FigureSheet& sheet);
 };
+
+void DotPlot::paint(QPainter& painter, const std::vector<Point2D>& dots, const QColor& ink,
+                    const QwtScaleMap& xMap, const QwtScaleMap& yMap) const {
+  QPolygonF places;
+  for (const Point2D& dot : dots) places.append({xMap.transform(dot.x), yMap.transform(dot.z)});
+  painter.setPen(QPen(ink, 1.2));
+  if (joined) painter.drawPolyline(places);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ink);
+  for (const QPointF& place : places) painter.drawEllipse(place, kDot, kDot);
+}
 
 void DotPlot::addItem() {
   figure.add(figureItem({}, 10.0,
@@ -44,24 +60,18 @@ void DotPlot::addItem() {
                             painter.drawLine(QPointF(canvas.left(), zero),
                                              QPointF(canvas.right(), zero));
                           }
-                          QPolygonF places;
-                          for (const Point2D& point : points) {
-                            places.append({xMap.transform(point.x), yMap.transform(point.z)});
-                          }
-                          painter.setPen(QPen(kInk, 1.2));
-                          if (joined) painter.drawPolyline(places);
-                          painter.setPen(Qt::NoPen);
-                          painter.setBrush(kInk);
-                          for (const QPointF& place : places)
-                            painter.drawEllipse(place, kDot, kDot);
+                          paint(painter, beside, kPale, xMap, yMap);
+                          paint(painter, points, kInk, xMap, yMap);
                         }));
 }
 
 Status DotPlot::layOut(FigureSheet& sheet) {
   const auto byX = [](const Point2D& a, const Point2D& b) { return a.x < b.x; };
   const auto byZ = [](const Point2D& a, const Point2D& b) { return a.z < b.z; };
-  const auto [left, right] = std::minmax_element(points.begin(), points.end(), byX);
-  const auto [low, high] = std::minmax_element(points.begin(), points.end(), byZ);
+  std::vector<Point2D> all = points;
+  all.insert(all.end(), beside.begin(), beside.end());
+  const auto [left, right] = std::minmax_element(all.begin(), all.end(), byX);
+  const auto [low, high] = std::minmax_element(all.begin(), all.end(), byZ);
   const double fromX = left->x;
   const double toX = std::max(right->x, fromX + 1e-3);
   const double least = std::min(low->z, 0.0);
@@ -104,34 +114,21 @@ Status prepare(const std::shared_ptr<DotPlot>& plot, double widthMm, double heig
 
 }  // namespace
 
-std::vector<Residual> residualsOf(const TomoDocument& document) {
-  std::vector<Residual> residuals;
-  for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
-    const TravelTime& record = document.ttArray[i];
-    const auto string = static_cast<std::size_t>(std::max(record.indexStesa, 0));
-    const std::size_t count = std::min(record.ttMisurati.size(), record.ttCalcolati.size());
-    for (std::size_t j = 0; j < count; ++j) {
-      const double computed = record.ttCalcolati[j];
-      if (!hasPick(record.ttMisurati[j]) || computed == kNoTime) continue;
-      double offset = std::nan("");
-      if (record.indexStesa >= 0 && string < document.goephonesStringSet.size() &&
-          j < document.goephonesStringSet[string].size()) {
-        offset = std::abs(document.goephonesStringSet[string][j].x - record.shotPos2d.x);
-      }
-      residuals.push_back({i, offset, record.ttMisurati[j], computed - record.ttMisurati[j]});
-    }
-  }
-  return residuals;
-}
-
 Status prepareMisfitHistoryFigure(const InversionRecord& record, double widthMm, double heightMm,
                                   FigureDrawing& drawing) {
   auto plot = std::make_shared<DotPlot>();
-  for (std::size_t i = 0; i < record.history.size(); ++i) {
-    if (record.history[i].count == 0 || !std::isfinite(record.history[i].rmse)) continue;
-    plot->points.push_back({static_cast<double>(i + 1), 1e3 * record.history[i].rmse});
+  const auto take = [](std::vector<Point2D>& points, std::size_t iteration, int count,
+                       double rmse) {
+    if (count == 0 || !std::isfinite(rmse)) return;
+    points.push_back({static_cast<double>(iteration), 1e3 * rmse});
+  };
+  for (std::size_t i = 0; i < record.sectionHistory.size(); ++i) {
+    take(plot->points, i, record.sectionHistory[i].count, record.sectionHistory[i].rmse);
   }
-  if (plot->points.empty()) {
+  for (std::size_t i = 0; i < record.history.size(); ++i) {
+    take(plot->beside, i + 1, record.history[i].count, record.history[i].rmse);
+  }
+  if (plot->points.empty() && plot->beside.empty()) {
     return Status::failure(Message::tr("The inversion has no misfit to draw."));
   }
   plot->joined = plot->wholeNumbers = plot->zeroBased = true;

@@ -5,10 +5,12 @@
 #include "figures/RefractionItems.h"
 #include "figures/SectionItems.h"
 #include "model/TomoDocument.h"
+#include "refraction/PicksFingerprint.h"
 
 #include <QByteArray>
 #include <QPainter>
 #include <QString>
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -46,6 +48,7 @@ class RefractionSheet {
   RefractionFigureOptions mOptions;
   RefractionScene mScene;
   std::string mTitle;
+  bool mPicksChanged;  ///< since the profile was built
   PlotPlace mPlace;
   FigurePlot mPlot;  // goes first at the end: its items look at the scene
 };
@@ -55,7 +58,8 @@ RefractionSheet::RefractionSheet(const TomoDocument& document,
                                  const RefractionFigureOptions& options)
     : mOptions(options),
       mScene(refractionScene(document, results)),
-      mTitle(options.title.empty() ? document.title : options.title) {
+      mTitle(options.title.empty() ? document.title : options.title),
+      mPicksChanged(picksChangedSince(document, results)) {
   if (mTitle.empty()) mTitle = FigureWords::tr("Refraction Profile").toStdString();
   mPlot.addAxis(QwtPlot::xBottom, FigureWords::tr("X (m)"));
   mPlot.addAxis(QwtPlot::yLeft, FigureWords::tr("Z (m)"));
@@ -103,9 +107,10 @@ std::string RefractionSheet::caption() const {
   const double perMetreX = widthMm / (mPlace.right - mPlace.left);
   const double perMetreZ = heightMm / (mPlace.top - mPlace.bottom);
   const QString factor = figureNumber(perMetreZ / perMetreX, 2);
-  return FigureWords::joined({FigureWords::tr("Velocities of refractors: median"),
-                              FigureWords::tr("Vertical exaggeration %1").arg(factor)})
-      .toStdString();
+  QStringList parts = {FigureWords::tr("Velocities of refractors: median"),
+                       FigureWords::tr("Vertical exaggeration %1").arg(factor)};
+  if (mPicksChanged) parts.prepend(FigureWords::tr("Picks have changed since this was built"));
+  return FigureWords::joined(parts).toStdString();
 }
 
 Status RefractionSheet::layOut() {

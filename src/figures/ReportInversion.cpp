@@ -1,19 +1,18 @@
-#include "figures/MisfitFigures.h"
 #include "figures/ReportBuilder.h"
 #include "figures/TravelTimeFigure.h"
+#include "model/Residuals.h"
 #include "model/SurveyFacts.h"
-#include "tomo/Misfit.h"
 #include "tomo/Smoothing.h"
 
+#include <algorithm>
 #include <cmath>
 
-// Travel times, grid and parameters, sections and misfit.
+// Travel times, grid and parameters, and sections.
 
 namespace talvesk::report {
 namespace {
 
 constexpr double kCurvesHeightMm = 110.0;
-constexpr double kMisfitHeightMm = 65.0;
 constexpr double kHighestSectionMm = 200.0;  ///< leaves a caption its place
 
 /// What the residuals of some picks come to; milliseconds and percent.
@@ -139,8 +138,11 @@ void addParameters(ReportBuilder& builder, const InversionRecord& run) {
                  run.smoothing == 1 ? ReportWords::tr("1 cell")
                                     : ReportWords::tr("%1 cells").arg(run.smoothing)},
                 {ReportWords::tr("Height over width of the smoothing window"), number(ratio, 1)},
-                {ReportWords::tr("Elapsed time"),
-                 ReportWords::tr("%1 s").arg(number(run.elapsedSeconds, 1))}};
+                run.computingSeconds > 0.0
+                    ? QStringList{ReportWords::tr("Computing time"),
+                                  ReportWords::tr("%1 s").arg(number(run.computingSeconds, 1))}
+                    : QStringList{ReportWords::tr("Elapsed time"),
+                                  ReportWords::tr("%1 s").arg(number(run.elapsedSeconds, 1))}};
   builder.table(ReportWords::tr("Parameters of the inversion"), facts);
 }
 
@@ -179,38 +181,6 @@ Status addSection(ReportBuilder& builder, const SectionFigureOptions& options,
   }
   if (status.ok()) builder.figure(caption, std::move(drawing));
   return status;
-}
-
-/// Whether the computed times still are those that the inversion ended with. Those of a project
-/// that was opened again are not: they are traced anew through the finished section.
-bool isEndOf(const InversionRecord& run, const Misfit& misfit) {
-  if (run.history.empty()) return false;
-  const Misfit& last = run.history.back();
-  return last.count == misfit.count && last.rmse == misfit.rmse &&
-         last.relativeRms == misfit.relativeRms;
-}
-
-void addHistory(ReportBuilder& builder, const InversionRecord& run) {
-  ReportTable table{{{ReportWords::tr("External iteration"), true},
-                     {ReportWords::tr("Picks"), true},
-                     {ReportWords::tr("RMS [ms]"), true},
-                     {ReportWords::tr("RMS [%]"), true},
-                     {ReportWords::tr("Largest relative late error [%]"), true},
-                     {ReportWords::tr("The same [ms]"), true}},
-                    {}};
-  for (std::size_t i = 0; i < run.history.size(); ++i) {
-    const Misfit& misfit = run.history[i];
-    if (misfit.count == 0) continue;
-    table.rows.push_back({QString::number(i + 1), QString::number(misfit.count),
-                          number(1e3 * misfit.rmse, 3), number(1e2 * misfit.relativeRms, 2),
-                          number(1e2 * misfit.maxRelativeError, 2),
-                          number(1e3 * misfit.maxError, 3)});
-  }
-  builder.table(ReportWords::tr("Misfit after every external iteration"), table);
-  builder.paragraph(ReportWords::tr(
-      "The misfit of an iteration is that of its own rays, before the last correction of the "
-      "velocities and before they are smoothed. New rays through the finished section are faster "
-      "in places, and their misfit is usually larger."));
 }
 
 }  // namespace
@@ -286,45 +256,6 @@ Status addSections(ReportBuilder& builder) {
             "Information density: how completely rays cross the surroundings of each cell"));
   }
   return status;
-}
-
-Status addMisfit(ReportBuilder& builder) {
-  const TomoDocument& document = builder.source.document;
-  const Misfit misfit = computeMisfit(document);
-  if (!document.has_tomographic_info || misfit.count == 0) return {};
-  builder.heading(ReportWords::tr("Misfit"));
-  ReportTable facts = ReportTable::ofFacts();
-  facts.rows = {
-      {ReportWords::tr("Picks used"), QString::number(misfit.count)},
-      {ReportWords::tr("RMS misfit"),
-       ReportWords::tr("%1 ms, %2 %")
-           .arg(number(1e3 * misfit.rmse, 3), number(1e2 * misfit.relativeRms, 2))},
-      {ReportWords::tr("Largest relative late error"),
-       ReportWords::tr("%1 % (%2 ms)")
-           .arg(number(1e2 * misfit.maxRelativeError, 2), number(1e3 * misfit.maxError, 3))}};
-  if (!document.excluded.empty()) {
-    facts.rows.push_back({ReportWords::tr("Shots and receivers left out, beyond the grid"),
-                          QString::number(document.excluded.size())});
-  }
-  const bool ofTheRun = document.lastInversion && isEndOf(*document.lastInversion, misfit);
-  builder.table(ofTheRun ? ReportWords::tr("Misfit after the last external iteration")
-                         : ReportWords::tr("Misfit of the section"),
-                facts);
-  FigureDrawing drawing;
-  if (prepareResidualFigure(document, builder.widthMm(), kMisfitHeightMm, drawing).ok()) {
-    builder.figure(ReportWords::tr("Residuals of the picks against the distance from their shot"),
-                   drawing);
-  }
-  if (!document.lastInversion) return {};
-  drawing = FigureDrawing();
-  if (document.lastInversion->history.size() > 1 &&
-      prepareMisfitHistoryFigure(*document.lastInversion, builder.widthMm(), kMisfitHeightMm,
-                                 drawing)
-          .ok()) {
-    builder.figure(ReportWords::tr("Misfit after every external iteration"), drawing);
-  }
-  addHistory(builder, *document.lastInversion);
-  return {};
 }
 
 }  // namespace talvesk::report

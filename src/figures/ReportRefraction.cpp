@@ -1,6 +1,8 @@
 #include "figures/RefractionFigure.h"
 #include "figures/ReportBuilder.h"
 #include "model/TomoDocument.h"
+#include "refraction/PicksFingerprint.h"
+#include "refraction/Profile.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,6 +23,13 @@ bool isBuilt(const ReportBuilder& builder) {
 
 double at(const std::vector<double>& values, std::size_t i) {
   return i < values.size() ? values[i] : std::nan("");
+}
+
+/// "–" when they are not known.
+QString velocities(double low, double high) {
+  return std::isfinite(low) && std::isfinite(high)
+             ? ReportWords::tr("%1 m/s").arg(span(low, high, 0))
+             : number(low, 0);
 }
 
 /// One value per receiver of the first refractor; the second's receivers are found by their place.
@@ -52,15 +61,19 @@ Status addRefraction(ReportBuilder& builder) {
   if (!isBuilt(builder)) return {};
   const auto& data = builder.source.interpretation->refractData;
   builder.heading(ReportWords::tr("Refraction interpretation"));
+  if (picksChangedSince(builder.source.document, data)) {
+    builder.paragraph(
+        ReportWords::tr("The picks have changed since this profile was built: it is that of the "
+                        "earlier picks."));
+  }
   ReportTable facts = ReportTable::ofFacts();
-  facts.rows.push_back({ReportWords::tr("Velocity of the first layer"),
-                        ReportWords::tr("%1 m/s").arg(number(data.v1, 0))});
+  facts.rows.push_back(
+      {ReportWords::tr("Velocity of the first layer"), velocities(data.v1, data.v1)});
   for (std::size_t r = 0; r < data.cData.size(); ++r) {
     Range velocity;
     for (const double value : data.cData[r].velocity) velocity.take(value);
-    if (!velocity.known()) continue;
     facts.rows.push_back({ReportWords::tr("Velocity of refractor %1").arg(r + 1),
-                          ReportWords::tr("%1 m/s").arg(span(velocity.low, velocity.high, 0))});
+                          velocities(velocity.low, velocity.high)});
     facts.rows.push_back({ReportWords::tr("Distance XY of refractor %1").arg(r + 1),
                           ReportWords::tr("%1 m").arg(number(data.cData[r].chosenXY, 1))});
   }
@@ -76,6 +89,13 @@ Status addRefraction(ReportBuilder& builder) {
   }
   builder.table(ReportWords::tr("Depths below the surface and velocities of the refractors"),
                 profileTable(data.cData));
+  if (hasGaps(data)) {
+    builder.paragraph(ReportWords::tr(
+        "No velocity is given where the times lead to one outside 50 to 12 000 m/s. "
+        "No depth is given there, below a layer whose velocity or depth is not "
+        "known or which is faster, and where it came out deeper than the line is "
+        "long."));
+  }
   return {};
 }
 
@@ -83,24 +103,25 @@ void addMethod(ReportBuilder& builder) {
   builder.heading(ReportWords::tr("Method"));
   builder.paragraph(ReportWords::tr(
       "First breaks are the times at which the first seismic energy of a shot reaches each "
-      "geophone. They were picked on the recorded traces and inverted by travel-time "
-      "tomography. The ground beneath the line is divided into square cells of constant "
-      "velocity, which follow the surface. From each shot the fastest paths to all geophones "
-      "are searched for in the network of nodes on the sides of the cells; they are the rays. "
-      "The differences between measured and computed times are distributed along the rays "
-      "and correct the slowness of the cells that they cross, several times over on the same "
-      "rays, within the limits of velocity. The corrected section is smoothed, and new rays "
-      "are traced through it: that is one external iteration."));
-  builder.paragraph(ReportWords::tr(
-      "The misfit is the difference between computed and measured times. The computed times "
-      "are those along the rays of the last iteration, before its last correction and "
-      "smoothing, or through the section as it is drawn when the project was opened again. RMS "
-      "is the root mean square of the misfit, in milliseconds or relative to the measured times "
-      "in percent. The information density tells how completely rays cross the surroundings of "
-      "a cell; where it is low, velocities are poorly supported by the data, and below the lowest "
-      "rays the "
-      "section is not drawn. Velocities that decrease with depth and thin layers may remain "
-      "hidden from first arrivals."));
+      "geophone. They were picked on the recorded traces."));
+  if (builder.source.document.has_tomographic_info) {
+    builder.paragraph(ReportWords::tr(
+        "They were inverted by travel-time tomography. The ground beneath the line is divided into "
+        "square cells of constant velocity, which follow the surface. From each shot the fastest "
+        "paths to all geophones are searched for in the network of nodes on the sides of the "
+        "cells; they are the rays. The differences between measured and computed times are "
+        "distributed along the rays and correct the slowness of the cells that they cross, several "
+        "times over on the same rays, within the limits of velocity. The corrected section is "
+        "smoothed, and new rays are traced through it: that is one external iteration."));
+    builder.paragraph(ReportWords::tr(
+        "The misfit is the difference between computed and measured times. The computed times are "
+        "those along fresh rays through the section as it is drawn. RMS is the root mean square of "
+        "the misfit, in milliseconds or relative to the measured times in percent. The information "
+        "density tells how completely rays cross the surroundings of a cell; where it is low, "
+        "velocities are poorly supported by the data, and below the lowest rays the section is not "
+        "drawn. Velocities that decrease with depth and thin layers may remain hidden from first "
+        "arrivals."));
+  }
   if (isBuilt(builder)) {
     builder.paragraph(ReportWords::tr(
         "The refractors were interpreted by the generalised reciprocal method. First breaks "

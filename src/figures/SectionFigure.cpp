@@ -16,7 +16,8 @@ namespace {
 
 Status checkOptions(const SectionFigureOptions& options) {
   const double exaggeration = options.verticalExaggeration;
-  if (exaggeration != 0.0 && !(exaggeration >= 0.01 && exaggeration <= 100.0)) {
+  if (exaggeration != 0.0 &&
+      !(exaggeration >= kLeastExaggeration && exaggeration <= kMostExaggeration)) {
     return Status::failure(
         Message::tr("The vertical exaggeration must lie between 0.01 and 100, or be 0 to "
                     "let the picture choose."));

@@ -12,6 +12,7 @@ namespace talvesk {
 namespace {
 
 constexpr std::size_t kLineLimit = 256;
+constexpr std::size_t kPositionFields = 2;  ///< x and z
 /// Positions of a line take kilobytes, those of as many traces as a shot file can count two
 /// megabytes. A short line takes thirty times its length as a record, so more is not asked for.
 constexpr std::size_t kLargestFile = std::size_t{2} << 20;
@@ -35,17 +36,26 @@ bool nextField(std::string_view& rest, const std::string& separator, std::string
   return true;
 }
 
-bool readNumber(std::string_view field, double& value) {
-  value = 0.0;
-  return parseDouble(field, value) != NumberError::kOutOfRange && std::isfinite(value);
-}
-
-bool readRecord(std::string_view line, const std::string& separator, bool labelled,
-                std::vector<double>& record) {
+std::vector<std::string_view> fieldsOf(std::string_view line, const std::string& separator,
+                                       bool labelled) {
+  std::vector<std::string_view> fields;
   std::string_view field;
   if (labelled) nextField(line, separator, field);
-  while (nextField(line, separator, field)) {
-    if (!readNumber(field, record.emplace_back())) return false;
+  while (nextField(line, separator, field)) fields.push_back(field);
+  return fields;
+}
+
+/// False when a number does not fit a double.
+bool readFields(const std::vector<std::string_view>& fields, std::size_t line,
+                PositionTable& table) {
+  std::vector<double>& record = table.records.emplace_back();
+  record.reserve(fields.size());
+  for (const std::string_view field : fields) {
+    double& value = record.emplace_back();
+    const NumberError error = parseDouble(field, value);
+    if (error == NumberError::kOutOfRange || !std::isfinite(value)) return false;
+    const bool used = record.size() <= kPositionFields;
+    if (error == NumberError::kNotANumber && used) table.remarks.addZero(line, field);
   }
   return true;
 }
@@ -55,10 +65,10 @@ Status refused(const std::string& name, std::size_t line, const Message& reason)
 }
 
 Status readFile(const std::string& path, const std::string& separator, bool labelled,
-                GeometryRecords& records) {
-  std::string text;
-  if (Status opened = readWholeFile(path, text, kLargestFile); !opened.ok()) return opened;
-  return parseRecords(text, path, separator, labelled, records);
+                PositionTable& table) {
+  std::string bytes;
+  if (Status opened = readWholeFile(path, bytes, kLargestFile); !opened.ok()) return opened;
+  return parseRecords(bytes, path, separator, labelled, table);
 }
 
 }  // namespace
@@ -93,39 +103,43 @@ Status writeLabelledRecords(const std::string& path, const std::string& separato
   });
 }
 
-Status parseRecords(std::string_view text, const std::string& name, const std::string& separator,
-                    bool labelled, GeometryRecords& records) {
+Status parseRecords(std::string_view bytes, const std::string& name, const std::string& separator,
+                    bool labelled, PositionTable& table) {
   const std::string between = separatorText(separator);
-  GeometryRecords read;
+  const std::string text = tableText(bytes);
+  PositionTable read;
   TextCursor cursor(text);
   for (std::string_view line; !cursor.atEnd() && cursor.nextLine(line);) {
     if (line.size() > kLineLimit) {
       return refused(name, cursor.line(),
                      Message::tr("the line holds more than %1 characters").arg(kLineLimit));
     }
-    if (!readRecord(line, between, labelled, read.emplace_back())) {
-      return refused(name, cursor.line(), Message::tr("a number is out of range or not finite"));
+    const std::vector<std::string_view> fields = fieldsOf(line, between, labelled);
+    if (cursor.line() == 1 && isHeading(fields)) {
+      read.remarks.skipHeading(line);
+    } else if (!readFields(fields, cursor.line(), read)) {
+      return refused(name, cursor.line(), "a number is out of range or not finite");
     }
   }
-  while (!read.empty() && read.back().empty()) read.pop_back();
-  records = std::move(read);
+  while (!read.records.empty() && read.records.back().empty()) read.records.pop_back();
+  table = std::move(read);
   return {};
 }
 
-Status readRecords(const std::string& path, const std::string& separator,
-                   GeometryRecords& records) {
-  return readFile(path, separator, false, records);
+Status readRecords(const std::string& path, const std::string& separator, PositionTable& table) {
+  return readFile(path, separator, false, table);
 }
 
 Status readLabelledRecords(const std::string& path, const std::string& separator,
-                           GeometryRecords& records) {
-  return readFile(path, separator, true, records);
+                           PositionTable& table) {
+  return readFile(path, separator, true, table);
 }
 
 GeometryFileLook lookAtGeometryFile(const std::string& path) {
   GeometryFileLook look;
-  std::string text;
-  if (!readWholeFile(path, text, kLargestFile).ok()) return look;
+  std::string bytes;
+  if (!readWholeFile(path, bytes, kLargestFile).ok()) return look;
+  const std::string text = tableText(bytes);
   const std::string_view firstLine = std::string_view(text).substr(0, text.find('\n'));
   for (const char* separator : {";", ","}) {
     if (firstLine.find(separator) == std::string_view::npos) continue;
@@ -145,13 +159,14 @@ bool cutsNumbers(const GeometryFileLook& look, const std::string& separator) {
   return look.decimalCommas && separator != ",";
 }
 
-Status positionsOf(const GeometryRecords& records, std::vector<Point2D>& positions) {
+Status positionsOf(const PositionTable& table, std::vector<Point2D>& positions) {
   std::vector<Point2D> read;
-  read.reserve(records.size());
-  for (const auto& record : records) {
-    if (record.size() < 2) {
+  read.reserve(table.records.size());
+  const std::size_t firstLine = table.remarks.skippedHeading ? 2 : 1;
+  for (const auto& record : table.records) {
+    if (record.size() < kPositionFields) {
       return Status::failure(
-          Message::tr("line %1 has no x and z; check the separator").arg(read.size() + 1));
+          Message::tr("line %1 has no x and z; check the separator").arg(firstLine + read.size()));
     }
     read.push_back({record[0], record[1]});
   }

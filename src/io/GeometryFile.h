@@ -2,6 +2,7 @@
 
 #include "base/Point2D.h"
 #include "base/Status.h"
+#include "base/TableText.h"
 
 #include <string>
 #include <string_view>
@@ -10,9 +11,16 @@
 namespace talvesk {
 
 /// Small delimited text files of positions: geophones as "x z" lines, shots as "shot_id_... x z"
-/// lines, metres. No header line. A separator is one of ";", "," and kBlankSeparator, or its text.
+/// lines, metres. Written without a header line. A separator is one of ";", "," and
+/// kBlankSeparator, or its text.
 
 using GeometryRecords = std::vector<std::vector<double>>;
+
+/// What a file of positions holds, and what became of its text on the way.
+struct PositionTable {
+  GeometryRecords records;
+  TableRemarks remarks;  ///< on x and z; what stands behind them is not used
+};
 
 /// How the choice of separators names a single blank; means one blank wherever a separator is
 /// given.
@@ -30,17 +38,18 @@ Status writeLabelledRecords(const std::string& path, const std::string& separato
                             const std::vector<std::string>& labels, const GeometryRecords& records);
 
 /// Reads one record per line; a field that is no number gives 0, the empty rest after a last
-/// separator is no field. Empty lines at the end are no records. Status 1, with a message that
-/// names file and line, when the file cannot be read, a line exceeds 256 characters or a number
-/// does not fit a double. `records` is as before then.
-Status readRecords(const std::string& path, const std::string& separator, GeometryRecords& records);
+/// separator is no field. Empty lines at the end are no records, and neither is a heading. Status
+/// 1, with a message that names file and line, when the file cannot be read, a line exceeds 256
+/// characters or a number does not fit a double. `table` is as before then.
+Status readRecords(const std::string& path, const std::string& separator, PositionTable& table);
 /// The same without the first field of each line.
 Status readLabelledRecords(const std::string& path, const std::string& separator,
-                           GeometryRecords& records);
+                           PositionTable& table);
 
-/// The readers on the bytes of a file; `name` stands in the messages.
-Status parseRecords(std::string_view text, const std::string& name, const std::string& separator,
-                    bool labelled, GeometryRecords& records);
+/// The readers on the bytes of a file, in any encoding of tableText(); `name` stands in the
+/// messages.
+Status parseRecords(std::string_view bytes, const std::string& name, const std::string& separator,
+                    bool labelled, PositionTable& table);
 
 /// What a file looks like before it is read.
 struct GeometryFileLook {
@@ -56,7 +65,7 @@ bool cutsNumbers(const GeometryFileLook& look, const std::string& separator);
 
 /// The first two fields of each record, x and z. Status 1 when a record has fewer, as all have when
 /// the file was read with another separator than it was written with.
-Status positionsOf(const GeometryRecords& records, std::vector<Point2D>& positions);
+Status positionsOf(const PositionTable& table, std::vector<Point2D>& positions);
 
 /// The name itself if it ends in ".csv", in lower case; otherwise with ".csv" behind it.
 std::string withCsvSuffix(std::string name);

@@ -28,10 +28,15 @@ std::string shortestText(double value) {
   return formatDouble(value, kMost);
 }
 
-bool firstNumber(std::string_view line, const std::string& separator, double& value) {
+/// The first field of a line, which must be a number, and the rest, which is not read.
+std::vector<std::string_view> firstAndRest(std::string_view line, const std::string& separator) {
   const std::size_t end = separator.empty() ? std::string_view::npos : line.find(separator);
-  return line.size() <= kIsovalueLineLimit &&
-         parseWholeDouble(line.substr(0, end), value) == NumberError::kNone && std::isfinite(value);
+  if (end == std::string_view::npos) return {line};
+  return {line.substr(0, end), line.substr(end + separator.size())};
+}
+
+bool isValue(std::string_view field, double& value) {
+  return parseWholeDouble(field, value) == NumberError::kNone && std::isfinite(value);
 }
 
 /// The text without the line ends behind its last line.
@@ -51,14 +56,20 @@ Status writeIsovalues(const std::string& path, const std::string& separator,
   });
 }
 
-IsovalueRead parseIsovalues(std::string_view text, const std::string& name,
+IsovalueRead parseIsovalues(std::string_view bytes, const std::string& name,
                             const std::string& separator) {
   IsovalueRead read;
   const std::string between = separatorText(separator);
+  const std::string text = tableText(bytes);
   TextCursor cursor(withoutEmptyEnd(text));
   for (std::string_view line; !cursor.atEnd() && cursor.nextLine(line);) {
+    const std::vector<std::string_view> fields = firstAndRest(line, between);
+    if (cursor.line() == 1 && !cursor.atEnd() && isHeading(fields)) {
+      read.remarks.skipHeading(line);
+      continue;
+    }
     double value = 0.0;
-    if (!firstNumber(line, between, value)) {
+    if (line.size() > kIsovalueLineLimit || !isValue(fields.front(), value)) {
       read.invalidLine = cursor.line();
       read.status = Status::failure(
           Message::tr("%1, line %2 does not begin with a number; check the separator")

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "base/TableText.h"
 
 #include <cstddef>
 #include <string>
@@ -17,6 +18,7 @@ struct IsovalueRead {
   Status status;
   std::vector<double> values;   ///< in the order of the file
   std::size_t invalidLine = 0;  ///< from 1; 0 when no line was wrong
+  TableRemarks remarks;         ///< whether a heading was skipped
 };
 
 /// Longest line, and most values, that a file may have.
@@ -27,10 +29,11 @@ inline constexpr std::size_t kMostIsovalues = 1000;
 Status writeIsovalues(const std::string& path, const std::string& separator,
                       std::vector<double> values);
 
-/// Reads the text of a file up to the first line that is too long or whose first field is not a
-/// finite number as a whole, and at most kMostIsovalues values; tells every value on the console.
-/// Empty lines at the end are no lines. \param name of the file, for the message
-IsovalueRead parseIsovalues(std::string_view text, const std::string& name,
+/// Reads the bytes of a file, in any encoding of tableText(), up to the first line that is too long
+/// or whose first field is not a finite number as a whole, and at most kMostIsovalues values; tells
+/// every value on the console. A heading above the values is passed over, empty lines at the end
+/// are no lines. \param name of the file, for the message
+IsovalueRead parseIsovalues(std::string_view bytes, const std::string& name,
                             const std::string& separator);
 
 /// Reads the whole file for parseIsovalues(); fails when it cannot be read or is far too large.

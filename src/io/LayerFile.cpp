@@ -1,6 +1,7 @@
 #include "io/LayerFile.h"
 
 #include "base/AtomicFile.h"
+#include "base/TableText.h"
 #include "base/TextNumber.h"
 #include "io/TextCursor.h"
 #include "model/RefractionDataStructure.h"
@@ -32,8 +33,9 @@ bool readLayer(std::string_view field, std::uint32_t& layer) {
 
 }  // namespace
 
-Status parseLayerMarks(std::string_view text, const std::string& name, const TomoDocument& document,
-                       LayerMarks& marks) {
+Status parseLayerMarks(std::string_view bytes, const std::string& name,
+                       const TomoDocument& document, LayerMarks& marks) {
+  const std::string text = tableText(bytes);
   TextCursor cursor(text);
   const auto refuse = [&](const Message& reason) {
     return Status::failure(Message::tr("%1, line %2: %3").arg(name).arg(cursor.line()).arg(reason));

@@ -19,8 +19,8 @@ using LayerMarks = std::vector<std::vector<std::uint32_t>>;
 /// not have a line for every shot and a number for every trace.
 Status readLayerMarks(const std::string& path, const TomoDocument& document, LayerMarks& marks);
 
-/// The same from text. \param name of the text, for messages
-Status parseLayerMarks(std::string_view text, const std::string& name, const TomoDocument& document,
-                       LayerMarks& marks);
+/// The same from the bytes of a file, in any encoding of tableText(). \param name for messages
+Status parseLayerMarks(std::string_view bytes, const std::string& name,
+                       const TomoDocument& document, LayerMarks& marks);
 
 }  // namespace talvesk

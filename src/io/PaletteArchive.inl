@@ -3,6 +3,7 @@
 // How palettes are laid out in an XML archive, alone in a file or as a list in a project. Included
 // by the sources that read or write such archives; it throws what the archive throws.
 
+#include "base/PlainText.h"
 #include "base/TextNumber.h"
 #include "view/ColorPalette.h"
 #include "view/PaletteRepair.h"
@@ -95,19 +96,33 @@ inline void save(cereal::XMLOutputArchive& archive, const ColorPalette& palette)
   archive(cereal::make_nvp("color_gradient", palette.color_gradient));
 }
 
-/// What comes out is fit for use, see repairPalette(); a palette that cannot be made so throws.
-inline void load(cereal::XMLInputArchive& archive, ColorPalette& palette) {
-  ColorPalette read;
+namespace palettes {
+
+/// A palette as it comes, not looked at yet.
+struct Unchecked {
+  ColorPalette palette;
+};
+
+inline void load(cereal::XMLInputArchive& archive, Unchecked& unchecked) {
+  ColorPalette& read = unchecked.palette;
   archive(cereal::make_nvp("name", read.name));
   palettes::get(archive, "n_colors", read.n_colors);
   archive(cereal::make_nvp("is_editable", read.is_editable));
   palettes::get(archive, "min_db", read.min_db);
   palettes::get(archive, "max_db", read.max_db);
   archive(cereal::make_nvp("color_gradient", read.color_gradient));
-  if (const Status repaired = repairPalette(read); !repaired.ok()) {
-    throw cereal::Exception("palette \"" + read.name + "\": " + repaired.message());
+}
+
+}  // namespace palettes
+
+/// What comes out is fit for use, see repairPalette(); a palette that cannot be made so throws.
+inline void load(cereal::XMLInputArchive& archive, ColorPalette& palette) {
+  palettes::Unchecked read;
+  load(archive, read);
+  if (const Status repaired = repairPalette(read.palette); !repaired.ok()) {
+    throw cereal::Exception("palette " + quoted(read.palette.name) + ": " + repaired.message());
   }
-  palette = std::move(read);
+  palette = std::move(read.palette);
 }
 
 inline void save(cereal::XMLOutputArchive& archive, const ColorPaletteList& list) {
@@ -117,16 +132,37 @@ inline void save(cereal::XMLOutputArchive& archive, const ColorPaletteList& list
 }
 
 /// The palettes themselves say how many they are. A current one that is not there gives the first.
-inline void load(cereal::XMLInputArchive& archive, ColorPaletteList& list) {
+/// A palette that cannot be made fit for use is left out, with a line in `repairs`; when none is
+/// fit the list stays as it is.
+inline void load(cereal::XMLInputArchive& archive, ColorPaletteList& list,
+                 std::vector<Message>& repairs) {
   int count = 0;
   int current = 0;
-  std::vector<ColorPalette> read;
+  std::vector<palettes::Unchecked> read;
   palettes::get(archive, "n_palettes", count);
   palettes::get(archive, "curr_palette", current);
   archive(cereal::make_nvp("palettes", read));
-  if (!list.assign(std::move(read), static_cast<std::size_t>(current))) {
-    throw cereal::Exception("there are no palettes in it");
+  if (read.empty()) throw cereal::Exception("there are no palettes in it");
+  std::vector<ColorPalette> fit;
+  std::size_t currentFit = read.size();
+  for (std::size_t i = 0; i < read.size(); ++i) {
+    ColorPalette& palette = read[i].palette;
+    const std::string name = palette.name;
+    if (const Status repaired = repairPalette(palette); !repaired.ok()) {
+      repairs.push_back(Message::tr("palette %1: %2; it is left out")
+                            .arg(quoted(name))
+                            .arg(repaired.text()));
+      continue;
+    }
+    if (palette.name != name) {
+      repairs.push_back(
+          Message::tr("the name of palette %1 has control characters; they are blanks now")
+              .arg(quoted(name)));
+    }
+    if (i == static_cast<std::size_t>(current)) currentFit = fit.size();
+    fit.push_back(std::move(palette));
   }
+  list.assign(std::move(fit), currentFit);
 }
 
 }  // namespace talvesk

@@ -1,6 +1,7 @@
 #include "io/PickReader.h"
 
 #include "base/TextNumber.h"
+#include "model/PickLimits.h"
 
 #include <QString>
 #include <algorithm>
@@ -108,6 +109,9 @@ std::optional<Refusal> PickReader::finish(bool read, std::string_view format,
                                           TravelTimeData& data) {
   if (!read) return mRefusal;
   if (mData.records.empty()) warn(Message::tr("the file holds no shot"));
+  // Not one of the notes that can become too many.
+  const Message dropped = dropImpossiblePicks(mData.records, {});
+  if (!dropped.empty()) mData.warnings.push_back(dropped);
   mData.format = format;
   data = std::move(mData);
   return std::nullopt;

@@ -2,10 +2,12 @@
 
 #include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
+#include "io/ProjectRepair.h"
 
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <iterator>
 #include <utility>
 
 namespace talvesk {
@@ -23,11 +25,6 @@ bool positive(double value) {
   return std::isfinite(value) && value > 0.0;
 }
 
-bool fits(const VelocityLayer& layer) {
-  return std::isfinite(layer.initialDepth) && std::isfinite(layer.finalDepth) &&
-         positive(layer.initialVelocity) && positive(layer.finalVelocity);
-}
-
 bool canHaveBeen(const InversionRecord& run) {
   const auto known = [](const Misfit& m) {
     return m.count >= 0 && finite({m.rmse, m.relativeRms, m.maxError, m.maxRelativeError});
@@ -37,52 +34,6 @@ bool canHaveBeen(const InversionRecord& run) {
          finite({run.elapsedSeconds}) &&
          run.history.size() <= static_cast<std::size_t>(run.externalIterations) &&
          std::all_of(run.history.begin(), run.history.end(), known);
-}
-
-void repairRun(TomoDocument& document) {
-  const TomoDocument fresh;
-  if (!std::isfinite(document.RMSE_tomography)) document.RMSE_tomography = fresh.RMSE_tomography;
-  if (!positive(document.minVelocity)) document.minVelocity = fresh.minVelocity;
-  if (!positive(document.maxVelocity)) document.maxVelocity = fresh.maxVelocity;
-  if (!std::all_of(document.layers.begin(), document.layers.end(), fits)) document.layers.clear();
-  auto& sizes = document.proposedCellSizes;
-  if (!std::all_of(sizes.begin(), sizes.end(), positive)) sizes.clear();
-  const geographicsCoord& place = document.geoCoord;
-  if (!finite(std::vector<double>{place.mEastFstGeoph, place.mEastLstGeoph, place.mNorthFstGeoph,
-                                  place.mNorthLstGeoph})) {
-    document.geoCoord = {};
-    document.geoCoord_isSet = false;
-  }
-}
-
-void repairSection(SectionViewSettings& section) {
-  const SectionViewSettings fresh;
-  if (section.quantity < SectionQuantity::kVelocity ||
-      section.quantity > SectionQuantity::kInformationDensity) {
-    section.quantity = fresh.quantity;
-  }
-  if (section.geophones < GeophoneMarkers::kNone || section.geophones > GeophoneMarkers::kLarge) {
-    section.geophones = fresh.geophones;
-  }
-  constexpr double kMostExaggerated = 1000.0;
-  if (!positive(section.verticalExaggeration) || section.verticalExaggeration > kMostExaggerated) {
-    section.verticalExaggeration = fresh.verticalExaggeration;
-  }
-  ContourSettings& contours = section.contours;
-  constexpr int kMost = static_cast<int>(SectionSceneOptions::kMaxContours);
-  constexpr int kLargestLabel = 200;  // points
-  contours.numberOfValues = std::clamp(contours.numberOfValues, 1, kMost);
-  contours.labelEvery = std::clamp(contours.labelEvery, 0, kMost);
-  contours.labelSize = std::clamp(contours.labelSize, 1, kLargestLabel);
-  if (!finite(contours.customValues) ||
-      contours.customValues.size() > SectionSceneOptions::kMaxContours) {
-    contours.customValues.clear();
-  }
-  std::sort(contours.customValues.begin(), contours.customValues.end());
-  if (contours.customValues.empty()) contours.customized = false;
-  for (double* part : {&contours.color.r, &contours.color.g, &contours.color.b}) {
-    *part = std::isfinite(*part) ? std::clamp(*part, 0.0, 1.0) : 0.0;
-  }
 }
 
 Status checkCells(const GridMember& grid) {
@@ -146,30 +97,51 @@ std::vector<Point2D> drawnLimit(const Grid& grid) {
   return limit;
 }
 
-void restoreCoverage(SurveyMember& survey) {
+void restoreCoverage(SurveyMember& survey, std::vector<Message>& repairs) {
   TomoDocument& document = survey.document;
   std::vector<Point2D> limit = std::move(document.coverageLimit);
-  const bool usable = survey.hasCoverageLimit && std::all_of(limit.begin(), limit.end(), plausible);
+  const bool possible = std::all_of(limit.begin(), limit.end(), plausible);
+  const bool usable = survey.hasCoverageLimit && possible;
+  if (!possible) {
+    repairs.push_back(Message::tr("the limit of its rays lies off the line; it is left out"));
+  }
   if (!usable) limit.clear();
   if (!usable && document.has_tomographic_info) limit = drawnLimit(*document.grid);
   document.setCoverageLimit(std::move(limit));
 }
 
-void restoreDensity(SurveyMember& survey) {
+void restoreDensity(SurveyMember& survey, std::vector<Message>& repairs) {
   std::vector<double>& density = survey.document.info_density;
   const std::size_t cells = survey.document.grid->cellCount();
   if (!survey.hasInformationDensity) {
     density.assign(cells, 1.0);
   } else if (density.size() == 1 && cells != 1) {
     density.assign(cells, density.front());
-  } else if (density.size() != cells) {
+  } else if (density.size() != cells || !finite(density)) {
+    repairs.push_back(Message::tr("its information density does not fit the grid; it is left out"));
     density.assign(cells, -1.0);
+  }
+}
+
+/// Times of a section that is no more: an earlier version kept them when a new grid came.
+void forgetTimes(TomoDocument& document) {
+  for (TravelTime& record : document.ttArray) {
+    std::fill(record.ttCalcolati.begin(), record.ttCalcolati.end(), kNoTime);
+  }
+}
+
+void restoreRun(SurveyMember& survey, std::vector<Message>& repairs) {
+  if (!survey.document.has_tomographic_info || survey.runs.empty()) return;
+  if (survey.runs.size() == 1 && canHaveBeen(survey.runs.front())) {
+    survey.document.lastInversion = survey.runs.front();
+  } else {
+    repairs.push_back(Message::tr("what it tells of its last inversion cannot be; it is left out"));
   }
 }
 
 }  // namespace
 
-Status checkSurvey(SurveyMember& member) {
+Status checkSurvey(SurveyMember& member, std::vector<Message>& repairs) {
   TomoDocument& document = member.document;
   for (const auto& string : document.goephonesStringSet) {
     if (!std::all_of(string.begin(), string.end(), plausible)) {
@@ -191,29 +163,29 @@ Status checkSurvey(SurveyMember& member) {
     ++own;
     record.ttCalcolati.resize(record.ttMisurati.size(), kNoTime);
   }
-  repairRun(document);
-  repairSection(member.section);
+  repairSurvey(member, repairs);
   return {};
 }
 
-Status installGrid(const GridMember& grid, SurveyMember& survey) {
+Status installGrid(GridMember grid, SurveyMember& survey, std::vector<Message>& repairs) {
   TomoDocument& document = survey.document;
   if (grid.col == 0 && grid.righe == 0 && grid.velocities.empty()) {
     document.has_tomographic_info = false;
+    forgetTimes(document);
     document.info_density.clear();
     document.coverageLimit.clear();
     return {};
   }
   try {
     Status status = checkCells(grid);
-    if (status.ok()) status = buildGrid(grid, document);
     if (!status.ok()) return status;
-    restoreDensity(survey);
-    restoreCoverage(survey);
-    const std::vector<InversionRecord>& runs = survey.runs;
-    if (document.has_tomographic_info && runs.size() == 1 && canHaveBeen(runs.front())) {
-      document.lastInversion = runs.front();
-    }
+    repairVelocities(grid.velocities, repairs);
+    status = buildGrid(grid, document);
+    if (!status.ok()) return status;
+    if (!document.has_tomographic_info) forgetTimes(document);
+    restoreDensity(survey, repairs);
+    restoreCoverage(survey, repairs);
+    restoreRun(survey, repairs);
     return status;
   } catch (const std::exception& error) {
     return Status::failure(Message::tr("the grid cannot be built: %1").arg(error.what()));

@@ -1,7 +1,9 @@
 #include "io/ProjectAssembly.h"
-#include "refraction/ReciprocalMethod.h"
+#include "io/ProjectRepair.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace talvesk {
 namespace {
@@ -26,43 +28,42 @@ Status checkLayers(const TomoDocument& document, std::vector<layerStruct>& layer
   return {};
 }
 
-bool hangsTogether(const phantom& curve) {
-  const std::size_t n = curve.points.size();
-  return curve.times.size() == n && curve.enabled.size() == n;
-}
-
-bool hangsTogether(const computedData& data) {
-  const std::size_t n = data.x.size();
-  const auto perReceiver = [n](const std::vector<double>& values) {
-    return values.empty() || values.size() == n;
+/// All that may be unknown of a profile.
+template <typename Change>
+void forEachResult(processingData& results, Change change) {
+  change(results.v1);
+  const auto changeAll = [&change](std::vector<double>& values) {
+    std::for_each(values.begin(), values.end(), change);
   };
-  const auto family = [n](const std::vector<double>& values) {
-    return values.empty() || values.size() == kXYFamily.size() * n;
-  };
-  return perReceiver(data.tG) && perReceiver(data.tV) && family(data.tGs) && family(data.tVs) &&
-         perReceiver(data.elevation) && perReceiver(data.velocity) && perReceiver(data.depth);
-}
-
-template <typename Record>
-bool allHangTogether(const std::vector<Record>& records) {
-  constexpr std::size_t kRefractors = kLastLayer - 1;
-  return records.size() <= kRefractors &&
-         std::all_of(records.begin(), records.end(),
-                     [](const Record& record) { return hangsTogether(record); });
+  changeAll(results.v2);
+  changeAll(results.v3);
+  for (computedData& refractor : results.cData) {
+    for (auto* values : {&refractor.tG, &refractor.tV, &refractor.tGs, &refractor.tVs,
+                         &refractor.velocity, &refractor.depth}) {
+      changeAll(*values);
+    }
+  }
 }
 
 }  // namespace
 
-Status checkInterpretation(const TomoDocument& document, Interpretation& interpretation) {
+void putSigns(Interpretation& interpretation) {
+  forEachResult(interpretation.refractData, [](double& value) {
+    if (!std::isfinite(value)) value = kNotKnown;
+  });
+}
+
+void takeSigns(Interpretation& interpretation) {
+  forEachResult(interpretation.refractData, [](double& value) {
+    if (value == kNotKnown) value = std::numeric_limits<double>::quiet_NaN();
+  });
+}
+
+Status checkInterpretation(const TomoDocument& document, Interpretation& interpretation,
+                           std::vector<Message>& repairs) {
   const Status status = checkLayers(document, interpretation.ttLayer);
-  if (!status.ok()) return status;
-  if (!allHangTogether(interpretation.phnt_A) || !allHangTogether(interpretation.phnt_R) ||
-      !allHangTogether(interpretation.refractData.cData)) {
-    interpretation.phnt_A.clear();
-    interpretation.phnt_R.clear();
-    interpretation.refractData = {};
-  }
-  return {};
+  if (status.ok()) repairResults(interpretation, repairs);
+  return status;
 }
 
 }  // namespace talvesk

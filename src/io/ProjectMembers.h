@@ -12,7 +12,7 @@
 
 namespace talvesk {
 
-// The five XML members of a project file, each written and read on its own. The functions return 0,
+// The XML members of a project file, each written and read on its own. The functions return 0,
 // or 1 after telling the console's error stream which member of which path failed; readers then
 // put the reason in `why`. A value that is read is only known to be of its type: see
 // ProjectAssembly.h for whether it makes sense.
@@ -22,6 +22,8 @@ inline constexpr const char* kGridMember = "grid.xml";
 inline constexpr const char* kTracesMember = "traces.xml";
 inline constexpr const char* kPalettesMember = "palettes.xml";
 inline constexpr const char* kRefractionMember = "refraction.xml";
+/// Ours alone: other programs pass it over, and projects without an inversion have none.
+inline constexpr const char* kResultMember = "result.xml";
 
 /// The survey without its traces, and how its section is looked at.
 struct SurveyMember {
@@ -40,6 +42,19 @@ struct GridMember {
   double aLato = 0.0;              ///< metres
   std::vector<double> velocities;  ///< m/s, per cell
   std::vector<bool> toBeDraw;      ///< per cell
+};
+
+/// What an inversion left beside the section: without it neither the coverage nor the misfit of a
+/// project would be the same when it is opened again.
+struct ResultMember {
+  std::uint32_t version = 1;             ///< of the member
+  std::vector<std::uint32_t> hitCounts;  ///< per cell
+  std::vector<double> coorcount;         ///< metres of ray per cell
+  bool smoothed = false;                 ///< the section was smoothed since
+  bool timesOfSection = false;           ///< the computed times are those through the section
+  double computingSeconds = 0.0;
+  std::uint64_t picks = 0;  ///< fingerprint of those that were inverted
+  std::vector<SectionMisfit> sectionHistory;
 };
 
 /// A trace as it is stored: without samples where they can be read from its shot file again.
@@ -76,15 +91,30 @@ int writeTraces(const std::string& path, const TomoDocument& document,
 int writePalettes(const std::string& path, const ColorPaletteList& palettes);
 int writeRefraction(const std::string& path,
                     const refractionDataStructure::Interpretation& interpretation);
+int writeResult(const std::string& path, const ResultMember& result);
 
 int readSurvey(const std::string& path, SurveyMember& member, Message& why);
 int readGrid(const std::string& path, GridMember& member, Message& why);
 int readTraces(const std::string& path, TracesMember& member, Message& why);
-int readPalettes(const std::string& path, ColorPaletteList& palettes, Message& why);
+/// Palettes that cannot be used are left out, with a line in `repairs`; when none can be used they
+/// are as before.
+int readPalettes(const std::string& path, ColorPaletteList& palettes, std::vector<Message>& repairs,
+                 Message& why);
 int readRefraction(const std::string& path, refractionDataStructure::Interpretation& interpretation,
                    Message& why);
+int readResult(const std::string& path, ResultMember& result, Message& why);
+
+/// Stands in the file for what is not known of a layered profile, and is no number in memory: as
+/// for picks, for other programs read the file, too.
+inline constexpr double kNotKnown = -99.0;
+void putSigns(refractionDataStructure::Interpretation& interpretation);   ///< for the file
+void takeSigns(refractionDataStructure::Interpretation& interpretation);  ///< and back
 
 /// The part of a path behind its last slash or backslash.
 std::string bareName(const std::string& path);
+
+/// Whether a name can be that of a file in a project: UTF-8 text without any folder in it, and of
+/// control characters none but tabs and line breaks, for archives cannot spell the others.
+bool isEntryName(const std::string& name);
 
 }  // namespace talvesk

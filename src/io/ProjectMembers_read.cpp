@@ -24,12 +24,12 @@ int readMember(const std::string& path, const char* what, std::uintmax_t largest
                const std::function<void(XmlReader&)>& read) {
   const auto fail = [&](const Message& reason) {
     why = joined(bareName(path), reason);
-    console::error() << "[ERROR] " << what << " cannot be read from disk." << std::endl;
+    console::logError(std::string("[ERROR] ") + what + " cannot be read from disk.");
     return 1;
   };
   std::ifstream stream(path, std::ios::binary);
   if (!stream.is_open()) {
-    console::error() << "[ERROR] Error in opening " << path << "." << std::endl;
+    console::logError("[ERROR] Error in opening " + path + ".");
     return fail(Message::tr("it is missing"));
   }
   std::error_code error;
@@ -61,7 +61,7 @@ void tellMissing(const std::vector<std::string>& missing) {
       {"title", "Variable [info_density] unknown. Set to  default."}};
   for (const std::string& name : missing) {
     const auto message = kMessages.find(name);
-    if (message != kMessages.end()) console::out() << message->second << std::endl;
+    if (message != kMessages.end()) console::log(message->second);
   }
 }
 
@@ -111,12 +111,10 @@ int readTraces(const std::string& path, TracesMember& member, Message& why) {
     if (contains(missing, "filenames_DX") || contains(missing, "filenames_SX")) {
       read.filenames_DX.clear();
       read.filenames_SX.clear();
-      console::out() << "[No DX and SX filenames.] This is a project saved before version 2019.1"
-                     << std::endl;
+      console::log("[No DX and SX filenames.] This is a project saved before version 2019.1");
     }
     if (contains(missing, "filtered")) {
-      console::out() << "[No filtered traces] This is a project saved before version 2019.1"
-                     << std::endl;
+      console::log("[No filtered traces] This is a project saved before version 2019.1");
     }
     member = std::move(read);
   });
@@ -127,7 +125,16 @@ int readRefraction(const std::string& path, refractionDataStructure::Interpretat
   return readMember(path, "Refraction data", kLargestMember, why, [&](XmlReader& reader) {
     refractionDataStructure::Interpretation read;
     xml::readRecord(reader, read);
+    takeSigns(read);
     interpretation = std::move(read);
+  });
+}
+
+int readResult(const std::string& path, ResultMember& result, Message& why) {
+  return readMember(path, "Result", kLargestMember, why, [&](XmlReader& reader) {
+    ResultMember read;
+    xml::readRecord(reader, read);
+    result = std::move(read);
   });
 }
 

@@ -1,9 +1,13 @@
+#include "base/AtomicFile.h"
 #include "base/Console.h"
+#include "base/PlainText.h"
 #include "io/ProjectMembers.h"
 #include "io/ProjectRecords.inl"
 
+#include <algorithm>
 #include <fstream>
 #include <functional>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -12,8 +16,8 @@ namespace {
 int writeMember(const std::string& path, const char* what,
                 const std::function<void(XmlWriter&)>& write) {
   const auto fail = [&] {
-    console::error() << "[ERROR] Error in opening " << path << "." << std::endl
-                     << "[ERROR] " << what << " cannot be stored on disk." << std::endl;
+    console::logError("[ERROR] Error in opening " + path + ".");
+    console::logError(std::string("[ERROR] ") + what + " cannot be stored on disk.");
     return 1;
   };
   std::ofstream stream(path, std::ios::binary);
@@ -28,7 +32,11 @@ int writeMember(const std::string& path, const char* what,
 std::vector<std::string> bareNames(const std::vector<std::string>& paths) {
   std::vector<std::string> names;
   names.reserve(paths.size());
-  for (const std::string& path : paths) names.push_back(bareName(path));
+  for (const std::string& path : paths) {
+    std::string name = bareName(path);
+    // A file that no archive can name is not in it, but what it was called may be told.
+    names.push_back(isEntryName(name) ? std::move(name) : withoutControls(std::move(name)));
+  }
   return names;
 }
 
@@ -81,6 +89,15 @@ std::string bareName(const std::string& path) {
   return path.substr(path.find_last_of("/\\") + 1);
 }
 
+bool isEntryName(const std::string& name) {
+  const auto isOdd = [](char c) {
+    const bool isControl = static_cast<unsigned char>(c) < 0x20;
+    return c == '/' || c == '\\' || (isControl && c != '\t' && c != '\n' && c != '\r');
+  };
+  return !name.empty() && name != "." && name != ".." && isFileName(name) &&
+         std::none_of(name.begin(), name.end(), isOdd);
+}
+
 int writeSurvey(const std::string& path, const TomoDocument& document,
                 const SectionViewSettings& section) {
   return writeMember(path, "TomoDocument", [&](XmlWriter& writer) {
@@ -126,8 +143,17 @@ int writeTraces(const std::string& path, const TomoDocument& document,
 int writeRefraction(const std::string& path,
                     const refractionDataStructure::Interpretation& interpretation) {
   return writeMember(path, "Refraction data", [&](XmlWriter& writer) {
+    refractionDataStructure::Interpretation stored = interpretation;
+    putSigns(stored);
     xml::Output output(writer);
-    describe(output, const_cast<refractionDataStructure::Interpretation&>(interpretation));
+    describe(output, stored);
+  });
+}
+
+int writeResult(const std::string& path, const ResultMember& result) {
+  return writeMember(path, "Result", [&](XmlWriter& writer) {
+    xml::Output output(writer);
+    describe(output, const_cast<ResultMember&>(result));
   });
 }
 

@@ -17,14 +17,14 @@ constexpr std::size_t kLargestMember = std::size_t{1} << 22;
 constexpr std::size_t kMostLevels = 16;
 
 int failWriting(const std::string& path) {
-  console::error() << "[ERROR] Error in opening " << path << "." << std::endl
-                   << "[ERROR] Palettes cannot be stored on disk." << std::endl;
+  console::logError("[ERROR] Error in opening " + path + ".");
+  console::logError("[ERROR] Palettes cannot be stored on disk.");
   return 1;
 }
 
 int failReading(const Message& reason, Message& why) {
   why = joined(kPalettesMember, reason);
-  console::error() << "[ERROR] Palettes cannot be read from disk." << std::endl;
+  console::logError("[ERROR] Palettes cannot be read from disk.");
   return 1;
 }
 
@@ -44,10 +44,11 @@ int writePalettes(const std::string& path, const ColorPaletteList& palettes) {
   return stream.good() ? 0 : failWriting(path);
 }
 
-int readPalettes(const std::string& path, ColorPaletteList& palettes, Message& why) {
+int readPalettes(const std::string& path, ColorPaletteList& palettes, std::vector<Message>& repairs,
+                 Message& why) {
   std::string text;
   if (const Status status = readWholeFile(path, text, kLargestMember); !status.ok()) {
-    console::error() << "[ERROR] Error in opening " << path << "." << std::endl;
+    console::logError("[ERROR] Error in opening " + path + ".");
     return failReading(status.text(), why);
   }
   if (const Status shape = checkXmlShape(text, kPalettesMember, kMostLevels); !shape.ok()) {
@@ -56,7 +57,7 @@ int readPalettes(const std::string& path, ColorPaletteList& palettes, Message& w
   try {
     std::istringstream stream(std::move(text));
     cereal::XMLInputArchive archive(stream);
-    load(archive, palettes);
+    load(archive, palettes, repairs);
     return 0;
   } catch (const std::exception& error) {
     return failReading(error.what(), why);

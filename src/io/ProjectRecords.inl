@@ -7,7 +7,6 @@
 #include "io/ProjectMembers.h"
 #include "io/XmlRecords.inl"
 
-#include <ostream>
 #include <type_traits>
 
 namespace talvesk {
@@ -35,7 +34,7 @@ void describe(V& fields, geographicsCoord& coordinates) {
   fields("mNorthFstGeoph", coordinates.mNorthFstGeoph);
   fields("mNorthLstGeoph", coordinates.mNorthLstGeoph);
   if constexpr (std::is_same_v<V, xml::Gaps>) {
-    if (!fields.missing.empty()) console::error() << " CRS not set" << std::endl;
+    if (!fields.missing.empty()) console::logError(" CRS not set");
   }
 }
 
@@ -59,6 +58,8 @@ void describe(V& fields, ContourSettings& contours) {
   fields.optional("customized", contours.customized);
   fields.optional("numberOfValues", contours.numberOfValues);
   fields.optional("customValues", contours.customValues);
+  fields.optional("gradientValues", contours.gradientValues);
+  fields.optional("laplacianValues", contours.laplacianValues);
   fields.optional("labelEvery", contours.labelEvery);
   fields.optional("labelSize", contours.labelSize);
   fields.optional("color", contours.color);
@@ -101,6 +102,29 @@ void describe(V& fields, Misfit& misfit) {
   fields("relativeRms", misfit.relativeRms);
   fields("maxError", misfit.maxError);
   fields("maxRelativeError", misfit.maxRelativeError);
+}
+
+template <class V>
+void describe(V& fields, SectionMisfit& misfit) {
+  fields("count", misfit.count);
+  fields("rmse", misfit.rmse);
+  fields("relativeRms", misfit.relativeRms);
+  fields("bias", misfit.bias);
+  fields("maxAbs", misfit.maxAbs);
+  fields("maxShot", misfit.maxShot);
+  fields("maxReceiver", misfit.maxReceiver);
+}
+
+template <class V>
+void describe(V& fields, ResultMember& result) {
+  fields("version", result.version);
+  fields("hit_counts", result.hitCounts);
+  fields("coorcount", result.coorcount);
+  fields("smoothed", result.smoothed);
+  fields("times_of_section", result.timesOfSection);
+  fields("computing_seconds", result.computingSeconds);
+  fields("picks", result.picks);
+  fields("section_history", result.sectionHistory);
 }
 
 template <class V>
@@ -202,6 +226,7 @@ void describe(V& fields, processingData& data) {
   xml::OneOrMany v3{data.v3};
   fields("v2", v2);
   fields("v3", v3);
+  fields.optional("picks", data.picks);
 }
 
 template <class V>

@@ -32,8 +32,12 @@ TomoDocument copyWithoutTraces(const TomoDocument& document) {
   copy.minVelocity = document.minVelocity;
   copy.maxVelocity = document.maxVelocity;
   copy.has_tomographic_info = document.has_tomographic_info;
+  copy.smoothedResult = document.smoothedResult;
+  copy.timesOfSection = document.timesOfSection;
   copy.RMSE_tomography = document.RMSE_tomography;
   copy.info_density = document.info_density;
+  copy.coorcount = document.coorcount;
+  copy.hitCounts = document.hitCounts;
   copy.coverageLimit = document.coverageLimit;
   return copy;
 }

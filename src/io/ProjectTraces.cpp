@@ -1,12 +1,13 @@
 #include "base/Console.h"
+#include "base/PlainText.h"
 #include "io/ProjectAssembly.h"
 #include "io/ShotFile.h"
 #include "io/ShotLoader.h"
+#include "model/PickLimits.h"
 #include "model/SWavePair.h"
 
 #include <algorithm>
 #include <cmath>
-#include <ostream>
 #include <utility>
 
 namespace talvesk {
@@ -16,14 +17,10 @@ std::string entryOf(const std::vector<std::string>& list, std::size_t i) {
   return i < list.size() ? list[i] : std::string();
 }
 
-bool namesFile(const std::string& name) {
-  return !name.empty() && name != "." && name != ".." && name == bareName(name);
-}
-
 Status readOne(const std::string& folder, const std::string& name, SegyState& state,
                TraceSet& traces) {
-  if (!namesFile(name)) {
-    return Status::failure(Message::tr("\"%1\" is no name of a file").arg(name));
+  if (!isEntryName(name)) {
+    return Status::failure(Message::tr("%1 is no name of a file").arg(quoted(name)));
   }
   ShotFileData data;
   const Status status = readShotFile(folder + name, state, data);
@@ -102,6 +99,27 @@ Status installFiltered(TracesMember& member, std::size_t set, TraceSet& traces) 
   return {};
 }
 
+/// A name with a folder in it would have the next save collect a file of the user's that has
+/// nothing to do with the survey, and hand it on with the project.
+void forgetPaths(TracesMember& member, std::size_t set, std::vector<Message>& repairs) {
+  std::string path;
+  for (auto* names : {&member.filenames, &member.filenames_DX, &member.filenames_SX}) {
+    if (set >= names->size()) continue;
+    std::string& name = (*names)[set];
+    if (!name.empty() && !isEntryName(name)) path = std::exchange(name, {});
+  }
+  if (path.empty()) return;
+  const SetFiles left = filesOfSet(member.filenames, member.filenames_DX, member.filenames_SX, set);
+  const bool lost = left.none() && !hasSamples(member.traceSets[set]);
+  Message text = lost ? Message::tr(
+                            "shot %1: its shot file is called %2, which is no plain file name; the "
+                            "name is forgotten and its traces are empty")
+                      : Message::tr(
+                            "shot %1: its shot file is called %2, which is no plain file name; the "
+                            "name is forgotten");
+  repairs.push_back(std::move(text).arg(set + 1).arg(quoted(path)));
+}
+
 /// One set, from its record or its files.
 TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<StoredTrace>& stored,
                SegyState& state, std::vector<Message>& warnings) {
@@ -117,7 +135,7 @@ TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<Sto
     read = false;
   }
   if (!read) {
-    console::error() << "Error while loading traces: Invalid file format." << std::endl;
+    console::logError("Error while loading traces: Invalid file format.");
     // By their bare names: nobody put anything into the temporary folder by hand.
     warnings.push_back(why.without(folder));
     return storedSet(stored);
@@ -155,7 +173,7 @@ Status matchRecords(TomoDocument& document) {
 
 std::vector<std::string> inFolder(const std::string& folder, std::vector<std::string> names) {
   for (std::string& name : names) {
-    if (namesFile(name)) name.insert(0, folder);
+    if (!name.empty()) name.insert(0, folder);
   }
   return names;
 }
@@ -189,7 +207,8 @@ bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& s
 }
 
 Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,
-                     SegyState& state, std::vector<Message>& warnings) {
+                     SegyState& state, std::vector<Message>& warnings,
+                     std::vector<Message>& repairs) {
   const std::size_t sets = member.traceSets.size();
   if (member.waveType != WaveType::P && member.waveType != WaveType::S) {
     return Status::failure(
@@ -206,6 +225,7 @@ Status installTraces(TracesMember member, const std::string& folder, TomoDocumen
       return Status::failure(
           Message::tr("trace set %1 has a position or delay that cannot be").arg(set));
     }
+    forgetPaths(member, set, repairs);
     const SetFiles names =
         filesOfSet(member.filenames, member.filenames_DX, member.filenames_SX, set);
     TraceSet traces = setOf(folder, names, member.traceSets[set], state, warnings);
@@ -223,7 +243,11 @@ Status installTraces(TracesMember member, const std::string& folder, TomoDocumen
   document.filenames_SX = inFolder(folder, std::move(member.filenames_SX));
   document.shotPositions = std::move(member.shotPositions);
   document.traceSets = std::move(traceSets);
-  return matchRecords(document);
+  Status matched = matchRecords(document);
+  if (!matched.ok()) return matched;
+  const Message dropped = dropImpossiblePicks(document.ttArray, document.traceSets);
+  if (!dropped.empty()) repairs.push_back(dropped);
+  return {};
 }
 
 }  // namespace talvesk

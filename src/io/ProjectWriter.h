@@ -11,9 +11,9 @@ namespace talvesk {
 
 /// Saves a project: five XML members and the shot files that its traces come from, in one archive.
 ///
-/// An archive that lies at the path is moved to the same name with "~" behind it before the new one
-/// is built, and goes away once that is complete; a save that fails leaves nothing at the path and
-/// the old archive there. Runs on any thread; nothing it is given may change meanwhile.
+/// An archive that lies at the path is replaced by the new one in a single step, when all of that
+/// is on the disk. Until then, and after a save that fails, it is as it was. Its permissions stay,
+/// and a symbolic link to it does. Runs on any thread; nothing it is given may change meanwhile.
 ///
 /// The steps are virtual so that tests can make each of them fail.
 class ProjectWriter : public QObject {
@@ -27,7 +27,7 @@ class ProjectWriter : public QObject {
     std::vector<std::string> sx;
   };
 
-  /// 0, or 1 when the project is not saved; message() says why, keptArchive() what is left.
+  /// 0, or 1 when the project is not saved; message() says why.
   /// \param archive path, UTF-8; \param workingFolder ending in "/", where the temporary folder
   /// goes
   int save(const std::string& archive, const std::string& workingFolder,
@@ -38,9 +38,6 @@ class ProjectWriter : public QObject {
   bool hasError() const { return mError; }                          ///< of the last save
   const std::string& message() const { return mReason.english(); }  ///< why the last save failed
   const Message& reason() const { return mReason; }                 ///< the same, to be translated
-  /// Where the project is now that was there before the last save, when that failed, or before the
-  /// first of several that failed; empty when there was none or it is where it was.
-  const std::string& keptArchive() const { return mKeptArchive; }
   /// What the user should know about a save that succeeded: shot files that are not in it.
   const std::vector<Message>& warnings() const { return mWarnings; }
 
@@ -93,7 +90,6 @@ class ProjectWriter : public QObject {
 
   bool mError = false;
   Message mReason;
-  std::string mKeptArchive;
   std::vector<Message> mWarnings;
 };
 

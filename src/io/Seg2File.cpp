@@ -29,6 +29,29 @@ constexpr std::size_t kSampleBytes = 4;
 
 enum Format : std::uint8_t { kInt16 = 1, kInt32 = 2, kFloat32 = 4, kOtherInt16 = 10 };
 
+/// The traces whose headers give something that cannot be used.
+class BadHeaders {
+ public:
+  void count(bool bad, std::uint64_t trace) {
+    if (bad && mCount++ == 0) mFirst = trace;
+  }
+  void warn(const Message& what, ShotFileData& data) const {
+    if (mCount == 0) return;
+    const Message which =
+        mCount == 1
+            ? Message::tr("trace %1").arg(mFirst + 1)
+            : Message::tr("%1 traces, the first of them trace %2,").arg(mCount).arg(mFirst + 1);
+    data.warnings.push_back(Message::tr("the %1 in the header of %2 is no finite number; what "
+                                        "cannot be used of it was taken as 0")
+                                .arg(what)
+                                .arg(which));
+  }
+
+ private:
+  std::uint64_t mCount = 0;
+  std::uint64_t mFirst = 0;
+};
+
 class Seg2Reader {
  public:
   explicit Seg2Reader(std::string_view bytes) : mBytes(bytes), mReader(bytes) {}
@@ -43,11 +66,14 @@ class Seg2Reader {
 
     mData.format = "seg2";
     mData.traces.resize(traces);
-    for (std::uint64_t i = 0; i < traces; ++i) readTrace(pointer(mReader, i), mData.traces[i]);
+    for (std::uint64_t i = 0; i < traces; ++i) readTrace(pointer(mReader, i), i);
     if (!mHasInterval) {
       return Status::failure(Message::tr("its last trace has no usable sample interval"), 2);
     }
     warnOfFormats();
+    mSources.warn(Message::tr("source position"), mData);
+    mReceivers.warn(Message::tr("receiver position"), mData);
+    mDelays.warn(Message::tr("delay"), mData);
     warnOfTraces(mData, mReader.missing(), mNonFinite);
     data = std::move(mData);
     return {};
@@ -69,7 +95,8 @@ class Seg2Reader {
     return true;
   }
 
-  void readTrace(std::uint64_t block, ShotRecord& trace) {
+  void readTrace(std::uint64_t block, std::uint64_t index) {
+    ShotRecord& trace = mData.traces[index];
     const std::uint16_t blockSize = mReader.u16(block + kBlockSizeAt, kOrder);
     const std::uint16_t samples = mReader.u16(block + kSampleCountAt, kOrder);
     console::out() << "Sizedata " << samples << '\n';
@@ -78,6 +105,9 @@ class Seg2Reader {
     const std::uint64_t stringBytes = blockSize > kStringsAt ? blockSize - kStringsAt : 0;
     const Seg2Strings strings = parseSeg2Strings(mReader.slice(block + kStringsAt, stringBytes));
     mHasInterval = strings.hasInterval;
+    mSources.count(strings.badSource, index);
+    mReceivers.count(strings.badReceiver, index);
+    mDelays.count(strings.badDelay, index);
     trace.source = strings.source;
     trace.receiver = strings.receiver;
     trace.delay = strings.delay;
@@ -131,6 +161,9 @@ class Seg2Reader {
   bool mHasInterval = true;
   std::uint64_t mNonFinite = 0;
   std::set<std::uint8_t> mFormats;  ///< worth a warning
+  BadHeaders mSources;
+  BadHeaders mReceivers;
+  BadHeaders mDelays;
 };
 
 }  // namespace

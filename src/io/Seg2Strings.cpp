@@ -69,22 +69,27 @@ std::string withPoints(std::string_view word) {
   return text;
 }
 
-bool usable(NumberError error, double number, double& value) {
-  if (error != NumberError::kNone || !std::isfinite(number)) return false;
+/// What a word is that a number is looked for in.
+enum class Found { kNoNumber, kOutOfRange, kNotFinite, kNumber };
+
+Found found(NumberError error, double number, double& value) {
+  if (error == NumberError::kNotANumber) return Found::kNoNumber;
+  if (error == NumberError::kOutOfRange) return Found::kOutOfRange;
+  if (!std::isfinite(number)) return Found::kNotFinite;
   value = number + 0.0;  // minus zero becomes zero
-  return true;
+  return Found::kNumber;
 }
 
-bool numberInFront(std::string_view word, double& value) {
+Found numberInFront(std::string_view word, double& value) {
   double number = 0.0;
   const NumberError error = parseDouble(withPoints(word), number);
-  return usable(error, number, value);
+  return found(error, number, value);
 }
 
-bool wholeNumber(std::string_view word, double& value) {
+Found wholeNumber(std::string_view word, double& value) {
   double number = 0.0;
   const NumberError error = parseWholeDouble(withPoints(word), number);
-  return usable(error, number, value);
+  return found(error, number, value);
 }
 
 class StringsParser {
@@ -98,9 +103,9 @@ class StringsParser {
       if (word == "SAMPLE_INTERVAL") {
         if (!readInterval(i)) badInterval = true;
       } else if (word == "SOURCE_LOCATION") {
-        readLocation(i, "Exception Source location", mRead.source);
+        readLocation(i, "Exception Source location", mRead.source, mRead.badSource);
       } else if (word == "RECEIVER_LOCATION") {
-        readLocation(i, "Exception Receiver Location", mRead.receiver);
+        readLocation(i, "Exception Receiver Location", mRead.receiver, mRead.badReceiver);
       } else if (word == "DELAY") {
         readDelay(i);
       }
@@ -119,33 +124,44 @@ class StringsParser {
   static void tellNoInterval() { console::out() << "FATAL ERROR no sample interval provided\n"; }
 
   bool readInterval(std::size_t keyword) {
-    if (numberInFront(after(keyword, 1), mRead.sampleInterval)) return mRead.hasInterval = true;
+    if (numberInFront(after(keyword, 1), mRead.sampleInterval) == Found::kNumber) {
+      return mRead.hasInterval = true;
+    }
     tellNoInterval();
     return false;
   }
 
   /// Files write x, x and elevation, or x, y and elevation.
-  void readLocation(std::size_t keyword, const char* complaint, Point2D& location) {
-    if (!numberInFront(after(keyword, 1), location.x)) {
+  void readLocation(std::size_t keyword, const char* complaint, Point2D& location, bool& bad) {
+    if (numberInFront(after(keyword, 1), location.x) != Found::kNumber) {
       console::out() << complaint << '\n';
+      bad = true;
       return;
     }
     double second = 0.0;
     double third = 0.0;
-    if (!wholeNumber(after(keyword, 2), second)) return;
-    if (!wholeNumber(after(keyword, 3), third)) {
-      location.z = second;
-      console::out() << "Z: " << after(keyword, 2) << '\n';
+    const Found secondIs = wholeNumber(after(keyword, 2), second);
+    const Found thirdIs = wholeNumber(after(keyword, 3), third);
+    // What no double can hold is a word like any other, and neither y nor elevation.
+    bad = bad || secondIs == Found::kOutOfRange;
+    if (secondIs != Found::kNumber && secondIs != Found::kNotFinite) return;
+    bad = bad || thirdIs == Found::kOutOfRange;
+    const bool hasY = thirdIs == Found::kNumber || thirdIs == Found::kNotFinite;
+    if (hasY) console::out() << "Y: " << after(keyword, 2) << '\n';
+    if ((hasY ? thirdIs : secondIs) == Found::kNotFinite) {
+      bad = true;
       return;
     }
-    location.z = third;
-    console::out() << "Y: " << after(keyword, 2) << "\nZ: " << after(keyword, 3) << '\n';
+    location.z = hasY ? third : second;
+    console::out() << "Z: " << after(keyword, hasY ? 3 : 2) << '\n';
   }
 
   /// Some instruments write the time from the start of the record to the shot, some the opposite.
   void readDelay(std::size_t keyword) {
     double delay = 0.0;
-    if (numberInFront(after(keyword, 1), delay)) mRead.delay = delay > 0.0 ? -delay : delay;
+    const Found is = numberInFront(after(keyword, 1), delay);
+    if (is == Found::kNumber) mRead.delay = delay > 0.0 ? -delay : delay;
+    mRead.badDelay = mRead.badDelay || is == Found::kOutOfRange || is == Found::kNotFinite;
   }
 
   std::vector<std::string_view> mWords;

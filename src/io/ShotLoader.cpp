@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "io/ShotFile.h"
+#include "io/WrittenPosition.h"
 
 #include <algorithm>
 #include <ostream>
@@ -10,15 +11,24 @@
 namespace talvesk {
 namespace {
 
-/// Where the geophones of these traces are in the list of strings, at its end if they are new.
-std::int32_t stringOf(const TraceSet& traces, std::vector<std::vector<Point2D>>& strings) {
-  std::vector<Point2D> receivers;
-  receivers.reserve(traces.size());
-  for (const Trace& trace : traces) receivers.push_back(trace.receiverPosition);
-  const auto known = std::find(strings.begin(), strings.end(), receivers);
+/// Where these receivers are in the list of strings, at its end if they are new.
+std::int32_t stringOf(std::vector<Point2D> receivers, std::vector<std::vector<Point2D>>& strings) {
+  const auto known =
+      std::find_if(strings.begin(), strings.end(), [&](const std::vector<Point2D>& string) {
+        return std::equal(string.begin(), string.end(), receivers.begin(), receivers.end(),
+                          isWritten);
+      });
   const auto index = static_cast<std::int32_t>(known - strings.begin());
   if (known == strings.end()) strings.push_back(std::move(receivers));
   return index;
+}
+
+template <typename Traces, typename PositionOf>
+std::vector<Point2D> positionsOf(const Traces& traces, PositionOf positionOf) {
+  std::vector<Point2D> positions;
+  positions.reserve(traces.size());
+  for (const auto& trace : traces) positions.push_back(positionOf(trace));
+  return positions;
 }
 
 Status checkTakesShots(const TomoDocument& document) {
@@ -30,6 +40,22 @@ Status checkTakesShots(const TomoDocument& document) {
   if (document.ttArray.size() == document.traceSets.size()) return {};
   return Status::failure(
       Message::tr("the survey holds picks without traces; start a new survey to load shot files"));
+}
+
+void add(const std::string& path, ShotFileData data, TomoDocument& document) {
+  TraceSet traces = traceSetOf(std::move(data));
+  TravelTime record;
+  if (!traces.empty()) record.shotPos2d = traces.front().sourcePosition;
+  record.indexStesa =
+      stringOf(positionsOf(traces, [](const Trace& trace) { return trace.receiverPosition; }),
+               document.goephonesStringSet);
+  record.ttMisurati.assign(traces.size(), kUnpicked);
+  record.ttCalcolati.assign(traces.size(), kNoTime);
+  record.traceSetID = static_cast<std::int32_t>(document.traceSets.size());
+  document.filenames.push_back(path);
+  document.shotPositions.push_back(record.shotPos2d.x);
+  document.traceSets.push_back(std::move(traces));
+  document.ttArray.push_back(std::move(record));
 }
 
 }  // namespace
@@ -49,20 +75,45 @@ TraceSet traceSetOf(ShotFileData data) {
   return set;
 }
 
+ModelLoss lossByShots(const std::vector<ReadShot>& shots, const TomoDocument& document) {
+  std::vector<std::vector<Point2D>> strings = document.goephonesStringSet;
+  std::vector<Point2D> sources = document.shotPoints();
+  bool any = false;
+  for (const ReadShot& shot : shots) {
+    if (!shot.outcome.status.ok()) continue;
+    any = true;
+    const std::vector<ShotRecord>& traces = shot.data.traces;
+    stringOf(positionsOf(traces, [](const ShotRecord& trace) { return trace.receiver; }), strings);
+    sources.push_back(traces.empty() ? Point2D() : traces.front().source);
+  }
+  return any ? modelLoss(document, measureSurvey(strings, sources)) : ModelLoss::kNothing;
+}
+
+std::vector<ShotFileOutcome> appendShots(std::vector<ReadShot> shots, TomoDocument& document) {
+  // Without a grid there are still the cell sizes that were proposed for the line as it was.
+  const ModelLoss loss = document.grid == nullptr ? ModelLoss::kGrid : lossByShots(shots, document);
+  std::vector<ShotFileOutcome> outcomes;
+  outcomes.reserve(shots.size());
+  bool any = false;
+  for (ReadShot& shot : shots) {
+    if (shot.outcome.status.ok()) {
+      add(shot.outcome.path, std::move(shot.data), document);
+      any = true;
+    }
+    outcomes.push_back(std::move(shot.outcome));
+  }
+  if (any) {
+    forgetModel(loss, document);
+    document.modified = true;
+  }
+  return outcomes;
+}
+
 void appendShot(const std::string& path, ShotFileData data, TomoDocument& document) {
-  TraceSet traces = traceSetOf(std::move(data));
-  TravelTime record;
-  if (!traces.empty()) record.shotPos2d = traces.front().sourcePosition;
-  record.indexStesa = stringOf(traces, document.goephonesStringSet);
-  record.ttMisurati.assign(traces.size(), kUnpicked);
-  record.ttCalcolati.assign(traces.size(), kNoTime);
-  record.traceSetID = static_cast<std::int32_t>(document.traceSets.size());
-  document.filenames.push_back(path);
-  document.shotPositions.push_back(record.shotPos2d.x);
-  document.traceSets.push_back(std::move(traces));
-  document.ttArray.push_back(std::move(record));
-  document.clearModelAndResults();
-  document.modified = true;
+  std::vector<ReadShot> one(1);
+  one.front().outcome.path = path;
+  one.front().data = std::move(data);
+  appendShots(std::move(one), document);
 }
 
 void ShotLoader::remember(const SegyState& others) {
@@ -72,25 +123,25 @@ void ShotLoader::remember(const SegyState& others) {
   mState.nativeOrder = native;
 }
 
+ReadShot ShotLoader::read(const std::string& path, const TomoDocument& document) {
+  ReadShot shot;
+  shot.outcome.path = path;
+  shot.outcome.status = checkTakesShots(document);
+  if (!shot.outcome.status.ok()) return shot;
+  shot.outcome.status = readShotFile(path, mState, shot.data);
+  shot.outcome.format = shot.data.format;
+  shot.outcome.warnings = shot.data.warnings;
+  return shot;
+}
+
 std::vector<ShotFileOutcome> ShotLoader::load(const std::vector<std::string>& paths,
                                               TomoDocument& document) {
   const Status takesShots = checkTakesShots(document);
   if (!takesShots.ok()) console::error() << takesShots.message() << std::endl;
-  std::vector<ShotFileOutcome> outcomes;
-  outcomes.reserve(paths.size());
-  for (const std::string& path : paths) {
-    ShotFileOutcome& outcome = outcomes.emplace_back();
-    outcome.path = path;
-    outcome.status = takesShots;
-    if (!takesShots.ok()) continue;
-    ShotFileData data;
-    outcome.status = readShotFile(path, mState, data);
-    if (!outcome.status.ok()) continue;
-    outcome.format = data.format;
-    outcome.warnings = data.warnings;
-    appendShot(path, std::move(data), document);
-  }
-  return outcomes;
+  std::vector<ReadShot> shots;
+  shots.reserve(paths.size());
+  for (const std::string& path : paths) shots.push_back(read(path, document));
+  return appendShots(std::move(shots), document);
 }
 
 }  // namespace talvesk

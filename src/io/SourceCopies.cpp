@@ -1,13 +1,10 @@
 #include "io/SourceCopies.h"
 
-#include "base/AtomicFile.h"
 #include "base/Console.h"
 #include "io/ProjectAssembly.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <map>
-#include <ostream>
 #include <set>
 #include <system_error>
 
@@ -17,16 +14,9 @@ namespace {
 namespace fs = std::filesystem;
 
 bool isMember(const std::string& name) {
-  static const std::set<std::string> kMembers = {kSurveyMember, kGridMember, kTracesMember,
-                                                 kPalettesMember, kRefractionMember};
-  return kMembers.count(name) > 0 || name == "." || name == "..";
-}
-
-/// Zip files know names of UTF-8 text only, and take control characters for another encoding.
-bool isZipName(const std::string& name) {
-  return isFileName(name) && std::none_of(name.begin(), name.end(), [](char c) {
-           return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
-         });
+  static const std::set<std::string> kMembers = {kSurveyMember,   kGridMember,       kTracesMember,
+                                                 kPalettesMember, kRefractionMember, kResultMember};
+  return kMembers.count(name) > 0;
 }
 
 bool copyOver(const std::string& source, const std::string& target) {
@@ -61,8 +51,8 @@ SourceCopies copySources(const std::vector<const std::vector<std::string>*>& lis
       const auto known = sourceOf.find(name);
       if (known != sourceOf.end() && known->second == source) continue;
       const std::string target = folder + name;
-      if (isMember(name) || !isZipName(name) || !copyOver(source, target)) {
-        console::error() << "Error while saving " << source << std::endl;
+      if (isMember(name) || !isEntryName(name) || !copyOver(source, target)) {
+        console::logError("Error while saving " + source);
         copies.warnings.push_back(
             Message::tr("The shot file %1 could not be copied; its traces are saved without it.")
                 .arg(source));

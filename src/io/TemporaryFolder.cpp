@@ -1,6 +1,7 @@
 #include "io/TemporaryFolder.h"
 
-#include <QLockFile>
+#include "base/LockedFile.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -15,6 +16,9 @@ namespace talvesk {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr const char* kLockSuffix = ".lock";
+constexpr unsigned kOfUserAlone = 0600;
 
 bool isDecimal(const std::string& name) {
   const std::size_t first = !name.empty() && name.front() == '-' ? 1 : 0;
@@ -31,15 +35,13 @@ long long millisecondsNow() {
 
 }  // namespace
 
+/// The file beside a folder that tells that somebody works in it. The system drops its lock with
+/// the process, also when that ends before it could write who it is.
 struct TemporaryFolder::Lock {
-  /// \param folder without a slash at its end
-  explicit Lock(const std::string& folder) : file(QString::fromStdString(folder + ".lock")) {
-    // Only the end of its process makes a lock void, not its age: a project may be open for days.
-    file.setStaleLockTime(0);
-  }
-  bool take() { return file.tryLock(0); }
+  explicit Lock(LockedFile aFile) : file(std::move(aFile)) {}
+  ~Lock() { file.remove(); }
 
-  QLockFile file;
+  LockedFile file;
 };
 
 TemporaryFolder::TemporaryFolder(std::string path, std::unique_ptr<Lock> lock)
@@ -55,11 +57,12 @@ std::unique_ptr<TemporaryFolder> TemporaryFolder::create(const std::string& work
   const long long now = millisecondsNow();
   for (int i = 0; i < kMostTries; ++i) {
     const std::string path = workingFolder + std::to_string(now + i);
-    auto lock = std::make_unique<Lock>(path);
-    if (!lock->take()) {
-      if (lock->file.error() == QLockFile::LockFailedError) continue;  // somebody else's
+    auto file = LockedFile::create(path + kLockSuffix, kOfUserAlone);
+    if (!file) {
+      if (errno == EEXIST) continue;  // somebody else's
       return nullptr;
     }
+    auto lock = std::make_unique<Lock>(std::move(*file));
     if (::mkdir(path.c_str(), S_IRWXU) == 0) {
       return std::unique_ptr<TemporaryFolder>(new TemporaryFolder(path + "/", std::move(lock)));
     }
@@ -75,7 +78,7 @@ void TemporaryFolder::clear(const std::string& workingFolder) {
        entry.increment(error)) {
     // A lock without its folder is left by a process that died in between. Other files have locks,
     // too.
-    const bool isLock = entry->path().extension() == ".lock";
+    const bool isLock = entry->path().extension() == kLockSuffix;
     const fs::path folder = isLock ? fs::path(entry->path()).replace_extension() : entry->path();
     std::error_code gone;  // another process may be clearing up as well
     const bool isOurs = isLock ? isDecimal(folder.filename().string())
@@ -83,9 +86,12 @@ void TemporaryFolder::clear(const std::string& workingFolder) {
     if (isOurs) folders.push_back(folder);
   }
   for (const fs::path& folder : folders) {
-    Lock lock(folder.string());
+    const std::string path = folder.string() + kLockSuffix;
+    auto file = LockedFile::takeOver(path);
+    if (!file) file = LockedFile::create(path, kOfUserAlone);  // there may be none
+    if (!file) continue;
+    const Lock lock(std::move(*file));
     std::error_code ignored;
-    if (!lock.take()) continue;
     if (fs::is_directory(fs::symlink_status(folder, ignored))) fs::remove_all(folder, ignored);
   }
 }

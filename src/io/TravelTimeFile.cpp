@@ -134,6 +134,7 @@ Status readTravelTimes(const std::string& path, TravelTimeData& data) {
 Status loadTravelTimes(const std::string& path, TomoDocument& document) {
   TravelTimeData data;
   if (Status read = readTravelTimes(path, data); !read.ok()) return read;
+  fitToRecords(data, document);
   Status imported = importTravelTimes(std::move(data), document);
   if (imported.ok()) return imported;
   Message message = joined(path, imported.text());

@@ -2,6 +2,7 @@
 
 #include "base/Point2D.h"
 #include "base/Status.h"
+#include "model/ModelLoss.h"
 #include "model/TomoDocument.h"
 #include "model/TravelTime.h"
 
@@ -30,13 +31,29 @@ Status readTravelTimes(const std::string& path, TravelTimeData& data);
 /// `data` is as before when that fails.
 Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelTimeData& data);
 
+/// Drops the picks that lie beyond the records of the document's traces, with a warning in the
+/// data.
+void fitToRecords(TravelTimeData& data, const TomoDocument& document);
+
+/// What an import takes from a document besides its picks.
+struct ImportCost {
+  ModelLoss model = ModelLoss::kNothing;
+  bool survey = false;  ///< its shots, which have no traces, become those of another survey
+};
+
+/// Whether importTravelTimes() would go well, and at what cost. Positions of the data that are
+/// those of the document but for the digits that a file has get the document's.
+Status checkImport(TravelTimeData& data, const TomoDocument& document, ImportCost& cost);
+
 /// Puts what was read into the document, or leaves the document as it was. A document with trace
 /// sets keeps them and takes times and positions by trace set, provided that shots and traces agree
-/// in number; its grid and results stay unless a position changed. Any other document gets new
-/// strings, shots and records, and loses its file names, starting model, grid and results.
+/// in number. So does one without, when its shots are those of the data; else it gets new strings,
+/// shots and records, and loses its file names. Grid and results stay unless a position changed
+/// that they hang on, see modelLoss(); with the grid of other shots their starting model goes, too.
 Status importTravelTimes(TravelTimeData data, TomoDocument& document);
 
-/// readTravelTimes, then importTravelTimes. Returns 0 or 1; the message is the status's.
+/// readTravelTimes, fitToRecords, then importTravelTimes. Returns 0 or 1; the message is the
+/// status's.
 Status loadTravelTimes(const std::string& path, TomoDocument& document);
 
 /// Writes the exchange format (".otte"), six significant digits, whole or not at all. Positions

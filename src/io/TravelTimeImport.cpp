@@ -1,4 +1,6 @@
 #include "io/TravelTimeFile.h"
+#include "io/WrittenPosition.h"
+#include "model/PickLimits.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -22,8 +24,8 @@ Status checkStrings(const TravelTimeData& data) {
 }
 
 /// For each record of the document, the record of the file that has its trace set.
-Status matchRecords(const TravelTimeData& data, const TomoDocument& document,
-                    std::vector<const TravelTime*>& matches) {
+Status matchRecords(TravelTimeData& data, const TomoDocument& document,
+                    std::vector<TravelTime*>& matches) {
   const std::size_t shots = document.traceSets.size();
   if (data.records.size() != shots || document.ttArray.size() != shots) {
     return Status::failure(
@@ -31,8 +33,8 @@ Status matchRecords(const TravelTimeData& data, const TomoDocument& document,
             .arg(data.records.size())
             .arg(shots));
   }
-  std::vector<const TravelTime*> bySet(shots, nullptr);
-  for (const TravelTime& record : data.records) {
+  std::vector<TravelTime*> bySet(shots, nullptr);
+  for (TravelTime& record : data.records) {
     const auto set = static_cast<std::size_t>(record.traceSetID);
     if (record.traceSetID < 0 || set >= shots || bySet[set] != nullptr) {
       return Status::failure(
@@ -59,51 +61,115 @@ Status matchRecords(const TravelTimeData& data, const TomoDocument& document,
   return {};
 }
 
-bool sameGeometry(const TravelTimeData& data, const TomoDocument& document,
-                  const std::vector<const TravelTime*>& matches) {
-  if (data.strings != document.goephonesStringSet) return false;
-  return std::equal(matches.begin(), matches.end(), document.ttArray.begin(),
-                    [](const TravelTime* read, const TravelTime& kept) {
-                      return read->shotPos2d == kept.shotPos2d &&
-                             read->indexStesa == kept.indexStesa;
-                    });
+/// What an import would do to a document.
+struct Plan {
+  /// Of the data, in the order of the document's: those of its trace sets; without traces, which
+  /// nothing but their place and number tells apart, all.
+  std::vector<TravelTime*> records;
+  bool moved = true;  ///< a position, or what belongs to which string or trace, is another
+  ModelLoss loss = ModelLoss::kNothing;
+};
+
+/// Gives back to positions the digits that writing took away. \return whether others moved
+bool settle(std::vector<Point2D>& read, const std::vector<Point2D>& kept) {
+  bool moved = read.size() != kept.size();
+  for (std::size_t i = 0; i < std::min(read.size(), kept.size()); ++i) {
+    if (isWritten(kept[i], read[i])) {
+      read[i] = kept[i];
+    } else {
+      moved = true;
+    }
+  }
+  return moved;
 }
 
-Status fillTraceSets(TravelTimeData data, TomoDocument& document) {
-  std::vector<const TravelTime*> matches;
-  if (Status status = matchRecords(data, document, matches); !status.ok()) return status;
-  const bool moved = !sameGeometry(data, document, matches);
-  for (std::size_t i = 0; i < matches.size(); ++i) {
-    TravelTime& record = document.ttArray[i];
-    record.shotPos2d = matches[i]->shotPos2d;
-    record.indexStesa = matches[i]->indexStesa;
-    record.ttMisurati = matches[i]->ttMisurati;
-    if (moved) record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+/// \param records of the data, each beside one of the document or beyond them
+bool settle(TravelTimeData& data, const TomoDocument& document,
+            const std::vector<TravelTime*>& records) {
+  const auto& strings = document.goephonesStringSet;
+  bool moved = data.strings.size() != strings.size() || records.size() != document.ttArray.size();
+  for (std::size_t s = 0; s < std::min(data.strings.size(), strings.size()); ++s) {
+    if (settle(data.strings[s], strings[s])) moved = true;
   }
-  document.goephonesStringSet = std::move(data.strings);
-  if (moved) document.clearModelAndResults();
+  for (std::size_t i = 0; i < std::min(records.size(), document.ttArray.size()); ++i) {
+    const TravelTime& kept = document.ttArray[i];
+    TravelTime& read = *records[i];
+    if (isWritten(kept.shotPos2d, read.shotPos2d)) {
+      read.shotPos2d = kept.shotPos2d;
+    } else {
+      moved = true;
+    }
+    if (read.indexStesa != kept.indexStesa || read.ttMisurati.size() != kept.ttMisurati.size()) {
+      moved = true;
+    }
+  }
+  return moved;
+}
+
+Status makePlan(TravelTimeData& data, const TomoDocument& document, Plan& plan) {
+  Status status = checkStrings(data);
+  if (!status.ok()) return status;
+  if (document.traceSets.empty()) {
+    for (TravelTime& record : data.records) plan.records.push_back(&record);
+  } else {
+    status = matchRecords(data, document, plan.records);
+    if (!status.ok()) return status;
+  }
+  plan.moved = settle(data, document, plan.records);
+  if (!plan.moved) return {};
+  std::vector<Point2D> shots;  // in the order of the survey, which says whose elevation counts
+  for (const TravelTime* record : plan.records) shots.push_back(record->shotPos2d);
+  plan.loss = modelLoss(document, measureSurvey(data.strings, shots));
   return {};
 }
 
-void replaceSurvey(TravelTimeData data, TomoDocument& document) {
-  document.goephonesStringSet = std::move(data.strings);
-  document.ttArray = std::move(data.records);
+/// The records stay, with other times and, if they moved, positions.
+void fillRecords(const Plan& plan, TomoDocument& document) {
+  for (std::size_t i = 0; i < plan.records.size(); ++i) {
+    TravelTime& record = document.ttArray[i];
+    TravelTime& read = *plan.records[i];
+    record.shotPos2d = read.shotPos2d;
+    record.indexStesa = read.indexStesa;
+    record.ttMisurati = std::move(read.ttMisurati);
+    if (plan.moved) record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+  }
+}
+
+void replaceRecords(std::vector<TravelTime> records, TomoDocument& document) {
+  document.ttArray = std::move(records);
   document.filenames.clear();
   document.filenames_DX.clear();
   document.filenames_SX.clear();
-  document.layers.clear();
-  document.clearModelAndResults();
 }
 
 }  // namespace
 
+void fitToRecords(TravelTimeData& data, const TomoDocument& document) {
+  const Message dropped = dropImpossiblePicks(data.records, document.traceSets);
+  if (!dropped.empty()) data.warnings.push_back(dropped);
+}
+
+Status checkImport(TravelTimeData& data, const TomoDocument& document, ImportCost& cost) {
+  Plan plan;
+  Status status = makePlan(data, document, plan);
+  cost.model = plan.loss;
+  cost.survey = plan.moved && document.traceSets.empty();
+  return status;
+}
+
 Status importTravelTimes(TravelTimeData data, TomoDocument& document) {
-  if (Status status = checkStrings(data); !status.ok()) return status;
-  if (document.traceSets.empty()) {
-    replaceSurvey(std::move(data), document);
-  } else if (Status status = fillTraceSets(std::move(data), document); !status.ok()) {
-    return status;
+  Plan plan;
+  if (Status status = makePlan(data, document, plan); !status.ok()) return status;
+  // Cell sizes that were proposed for other positions are none for these.
+  const bool all = plan.moved && document.grid == nullptr;
+  if (plan.moved && document.traceSets.empty()) {
+    replaceRecords(std::move(data.records), document);
+    if (all || plan.loss == ModelLoss::kGrid) document.layers.clear();
+  } else {
+    fillRecords(plan, document);
   }
+  document.goephonesStringSet = std::move(data.strings);
+  forgetModel(all ? ModelLoss::kGrid : plan.loss, document);
   document.shotPositions.clear();
   for (const TravelTime& record : document.ttArray) {
     document.shotPositions.push_back(record.shotPos2d.x);

@@ -2,11 +2,12 @@
 
 #include "base/Console.h"
 #include "io/ProjectAssembly.h"
+#include "io/ProjectResult.h"
 #include "io/ProjectZip.h"
+#include "refraction/PlausibleResults.h"
 
 #include <exception>
 #include <filesystem>
-#include <ostream>
 #include <system_error>
 #include <utility>
 
@@ -42,13 +43,17 @@ bool projectReader::step(int result, void (projectReader::*done)(),
 }
 
 int projectReader::read_ZIP(const std::string& archive, const std::string& folder) {
-  return readZip(archive, folder);
+  Message why;
+  if (readZip(archive, folder, why) == 0) return 0;
+  const Message closed = whyClosed(archive);
+  return fail(closed.empty() ? Message::tr("It cannot be extracted: %1.").arg(std::move(why))
+                             : closed);
 }
 
 int projectReader::readTomoDocument_XML(const std::string& path, SurveyMember& survey) {
   Message why;
   if (readSurvey(path, survey, why) != 0) return fail(why);
-  const Status status = checkSurvey(survey);
+  const Status status = checkSurvey(survey, mRepairs);
   return status.ok() ? 0 : fail(joined(kSurveyMember, status.text()));
 }
 
@@ -56,7 +61,7 @@ int projectReader::readTomoDocumentGrid_XML(const std::string& path, SurveyMembe
   Message why;
   GridMember grid;
   if (readGrid(path, grid, why) != 0) return fail(why);
-  const Status status = installGrid(grid, survey);
+  const Status status = installGrid(std::move(grid), survey, mRepairs);
   return status.ok() ? 0 : fail(joined(kGridMember, status.text()));
 }
 
@@ -65,13 +70,14 @@ int projectReader::readTomoDocumentTraces_XML(const std::string& path, TomoDocum
   TracesMember traces;
   if (readTraces(path, traces, why) != 0) return fail(why);
   const std::string folder = path.substr(0, path.size() - bareName(path).size());
-  const Status status = installTraces(std::move(traces), folder, document, mShotFiles, mWarnings);
+  const Status status =
+      installTraces(std::move(traces), folder, document, mShotFiles, mWarnings, mRepairs);
   return status.ok() ? 0 : fail(joined(kTracesMember, status.text()));
 }
 
 int projectReader::readPalettes_XML(const std::string& path, ColorPaletteList& palettes) {
   Message why;
-  return readPalettes(path, palettes, why) == 0 ? 0 : fail(why);
+  return readPalettes(path, palettes, mRepairs, why) == 0 ? 0 : fail(why);
 }
 
 int projectReader::readRefraction_XML(const std::string& path, const TomoDocument& document,
@@ -80,8 +86,32 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   if (!std::filesystem::exists(path, error)) return 0;  // projects of earlier versions
   Message why;
   if (readRefraction(path, interpretation, why) != 0) return fail(why);
-  const Status status = checkInterpretation(document, interpretation);
-  return status.ok() ? 0 : fail(joined(kRefractionMember, status.text()));
+  const std::size_t left =
+      leaveOutImplausible(interpretation.refractData, lineLength(shotArrivals(document)));
+  const Status status = checkInterpretation(document, interpretation, mRepairs);
+  if (!status.ok()) return fail(joined(kRefractionMember, status.text()));
+  if (left > 0) {
+    mWarnings.push_back(std::string(kRefractionMember) + ": " + std::to_string(left) +
+                        " velocities and depths of the layers are left out: outside 50 to 12 000 "
+                        "m/s, or deeper than the line is long");
+  }
+  return 0;
+}
+
+int projectReader::readResult_XML(const std::string& path, TomoDocument& document) {
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) return 0;  // nothing inverted, or an earlier version
+  Message why;
+  ResultMember result;
+  if (readResult(path, result, why) == 0) {
+    const Status status = installResult(std::move(result), document);
+    if (status.ok()) return 0;
+    why = joined(kResultMember, status.text());
+  }
+  mWarnings.push_back(
+      Message::tr("%1; the coverage of the last inversion and its figures are not known")
+          .arg(std::move(why)));
+  return 1;
 }
 
 bool projectReader::readMembers(const std::string& folder, LoadedProject& project) {
@@ -90,8 +120,8 @@ bool projectReader::readMembers(const std::string& folder, LoadedProject& projec
   // but grid and traces mean nothing without the survey.
   const bool hasSurvey = step(readTomoDocument_XML(folder + kSurveyMember, survey),
                               &projectReader::read_tomo_xml, &projectReader::error_read_tomo_xml);
-  step(hasSurvey ? readTomoDocumentGrid_XML(folder + kGridMember, survey) : 1,
-       &projectReader::read_grid, &projectReader::error_read_grid);
+  const bool hasGrid = step(hasSurvey ? readTomoDocumentGrid_XML(folder + kGridMember, survey) : 1,
+                            &projectReader::read_grid, &projectReader::error_read_grid);
   const bool hasTraces =
       step(hasSurvey ? readTomoDocumentTraces_XML(folder + kTracesMember, survey.document) : 1,
            &projectReader::read_traces, &projectReader::error_read_traces);
@@ -101,6 +131,7 @@ bool projectReader::readMembers(const std::string& folder, LoadedProject& projec
   if (hasSurvey && hasTraces) {
     readRefraction_XML(folder + kRefractionMember, survey.document, project.interpretation);
   }
+  if (hasSurvey && hasGrid) readResult_XML(folder + kResultMember, survey.document);
   project.document = std::move(survey.document);
   project.section = survey.section;
   project.shotFiles = mShotFiles;
@@ -113,18 +144,13 @@ int projectReader::loadInto(const std::string& archive, const std::string& worki
   TemporaryFolder::clear(workingFolder);
   project.folder = TemporaryFolder::create(workingFolder);
   if (project.folder == nullptr) {
-    console::error() << "ERROR: Impossible to save!" << std::endl;
+    console::logError("ERROR: Impossible to save!");
     return fail(Message::tr("No temporary folder can be created in %1.").arg(workingFolder));
   }
   if (read_ZIP(archive, project.folder->path()) != 0) {
-    console::error() << "[ERROR] While extracting " << archive << std::endl;
-    mError = true;
+    console::logError("[ERROR] While extracting " + archive);
     emit error_read_compressed();
-    const Message closed = whyClosed(archive);
-    return fail(!closed.empty()
-                    ? closed
-                    : Message::tr("It cannot be extracted: it is no archive of a project, it is "
-                                  "damaged, or there is no room on the disk for it."));
+    return fail(Message::tr("It cannot be extracted."));
   }
   emit read_compressed();
   return readMembers(project.folder->path(), project) ? 0 : 1;
@@ -136,6 +162,7 @@ int projectReader::load(const std::string& archive, const std::string& workingFo
   mTracesFailed = false;
   mReason = {};
   mWarnings.clear();
+  mRepairs.clear();
   mShotFiles = {};
   try {
     LoadedProject fresh;

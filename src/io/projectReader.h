@@ -26,8 +26,8 @@ struct LoadedProject {
 
 /// Loads a project, all of it or nothing. Runs on any thread.
 ///
-/// Rays and computed times are not in a project; see recomputeRays(). The computed times are those
-/// that were saved until then.
+/// Rays are not in a project; see recomputeRays(). Computed times of a project of an earlier
+/// version are those of the last solver pass until then.
 class projectReader : public QObject {
   Q_OBJECT
 
@@ -40,8 +40,10 @@ class projectReader : public QObject {
   const std::string& message() const { return mReason.english(); }  ///< why it failed
   const Message& reason() const { return mReason; }                 ///< the same, to be translated
   bool tracesFailed() const { return mTracesFailed; }
-  /// Shot files whose traces are empty now, of a load that succeeded.
+  /// What a load that succeeded had to leave out: shot files whose traces are empty now, ...
   const std::vector<Message>& warnings() const { return mWarnings; }
+  /// What else was put right or left out of a load that succeeded, because it cannot be.
+  const std::vector<Message>& repairs() const { return mRepairs; }
 
   // The steps. Each returns 0 or 1. They are virtual so that tests can make each of them fail.
   virtual int read_ZIP(const std::string& archive, const std::string& folder);
@@ -51,6 +53,9 @@ class projectReader : public QObject {
   virtual int readPalettes_XML(const std::string& path, ColorPaletteList& palettes);
   virtual int readRefraction_XML(const std::string& path, const TomoDocument& document,
                                  refractionDataStructure::Interpretation& interpretation);
+  /// A result that cannot be read costs coverage and figures, which a warning says, not the
+  /// project.
+  virtual int readResult_XML(const std::string& path, TomoDocument& document);
 
  signals:
   void read_compressed();
@@ -73,8 +78,9 @@ class projectReader : public QObject {
 
   bool mError = false;
   bool mTracesFailed = false;
-  Message mReason;
+  std::string mMessage;
   std::vector<Message> mWarnings;
+  std::vector<Message> mRepairs;
   SegyState mShotFiles;
 };
 

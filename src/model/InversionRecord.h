@@ -1,16 +1,30 @@
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 namespace talvesk {
 
-/// How well the computed times fit the picks.
+/// How well the times of the last solver pass fit the picks: those along the rays of an external
+/// iteration, before the last correction of the velocities and before they are smoothed.
 struct Misfit {
   int count = 0;                  ///< picks used; 0 means that nothing below is valid
   double rmse = 0.0;              ///< seconds
   double relativeRms = 0.0;       ///< a fraction, not percent
   double maxError = 0.0;          ///< seconds, of the receiver with the largest late relative error
   double maxRelativeError = 0.0;  ///< a fraction; only computed times later than the pick count
+};
+
+/// How well the times through a section, along rays traced anew in it, fit the picks. This is the
+/// figure of the section that is shown; a Misfit is the solver's own.
+struct SectionMisfit {
+  int count = 0;                  ///< picks used; 0 means that nothing below is valid
+  double rmse = 0.0;              ///< seconds
+  double relativeRms = 0.0;       ///< of the residuals over their picks, a fraction
+  double bias = 0.0;              ///< mean of computed minus measured, seconds: late is positive
+  double maxAbs = 0.0;            ///< largest difference of either sign, seconds
+  std::int32_t maxShot = -1;      ///< record with it, from 0
+  std::int32_t maxReceiver = -1;  ///< and geophone of its string, from 0
 };
 
 /// How the inversion was run that the results of the document come from, for who must tell of it
@@ -21,11 +35,18 @@ struct InversionRecord {
   int smoothing = 0;      ///< smoothing parameter, cells
   int smoothingType = 0;  ///< 0 uniform, 1 linear, 2 Gaussian, 3 ray based
   bool symmetric = false;
-  double minVelocity = 0.0;  ///< m/s
-  double maxVelocity = 0.0;  ///< m/s
-  double elapsedSeconds = 0.0;
+  double minVelocity = 0.0;     ///< m/s
+  double maxVelocity = 0.0;     ///< m/s
+  double elapsedSeconds = 0.0;  ///< since it was asked for, questions included
   bool stopped = false;         ///< by the user, before the last iteration
   std::vector<Misfit> history;  ///< after every completed external iteration
+
+  // What follows is not known of inversions of earlier versions.
+  double computingSeconds = 0.0;  ///< of the run alone; 0: not known
+  /// Through the starting model, and through the section after every completed external iteration;
+  /// empty: not known.
+  std::vector<SectionMisfit> sectionHistory;
+  std::uint64_t picks = 0;  ///< fingerprintOfPicks() of those that it was run with; 0: not known
 };
 
 }  // namespace talvesk

@@ -40,7 +40,8 @@ struct phantom {
   double reciprocalTime = 0.0;  ///< the line at the other end shot, seconds
 };
 
-/// What the reciprocal method gives for one refractor, per receiver of the forward curve.
+/// What the reciprocal method gives for one refractor, per receiver of the forward curve that the
+/// reverse one reaches, too. What is not known is not a number.
 struct computedData {
   std::vector<double> tG;   ///< time-depth function at the chosen XY, seconds
   std::vector<double> tV;   ///< velocity-analysis function at the chosen XY, seconds
@@ -58,6 +59,7 @@ struct processingData {
   double v1 = 0.0;                  ///< of the first layer, m/s; 0 before anything was built
   std::vector<double> v2;           ///< of the first refractor, per receiver
   std::vector<double> v3;           ///< of the second refractor, per receiver
+  std::uint64_t picks = 0;          ///< fingerprint of those it was built from; 0 is not known
 };
 
 /// All that the interpretation of a survey holds.

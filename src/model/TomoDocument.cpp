@@ -3,6 +3,7 @@
 #include "base/Console.h"
 #include "base/TextNumber.h"
 
+#include <algorithm>
 #include <limits>
 #include <map>
 #include <ostream>
@@ -69,6 +70,11 @@ void TomoDocument::clearInversion() {
   has_tomographic_info = false;
   smoothedResult = false;
   RMSE_tomography = -1.0;
+  timesOfSection = false;
+  sectionHistory.clear();
+  for (TravelTime& record : ttArray) {
+    std::fill(record.ttCalcolati.begin(), record.ttCalcolati.end(), kNoTime);
+  }
   coorcount.clear();
   hitCounts.clear();
   rays.clear();

@@ -65,10 +65,15 @@ class TomoDocument {
 
   // --- Results of the last inversion.
   bool has_tomographic_info = false;
-  bool smoothedResult = false;       ///< the grid was smoothed since; a project does not keep it
-  double RMSE_tomography = -1.0;     ///< relative RMS misfit, percent; negative: none
-  std::vector<double> info_density;  ///< per cell; -1.0 before any inversion
-  std::vector<double> coorcount;     ///< metres of ray per cell, last update
+  bool smoothedResult = false;    ///< the grid was smoothed since; a project does not keep it
+  double RMSE_tomography = -1.0;  ///< relative RMS misfit of the last pass, percent; <0: none
+  /// The computed times were traced through the grid as it is, along rays of their own. Not so
+  /// while an inversion runs, and in projects of earlier versions until their rays are traced anew.
+  bool timesOfSection = false;
+  /// Misfit through every section that the run has traced its rays in, the starting model first.
+  std::vector<SectionMisfit> sectionHistory;
+  std::vector<double> info_density;              ///< per cell; -1.0 before any inversion
+  std::vector<double> coorcount;                 ///< metres of ray per cell, last update
   std::vector<std::uint32_t> hitCounts;          ///< per cell, of the last external iteration
   std::vector<std::vector<std::uint32_t>> rays;  ///< node lists, shot by shot, receivers in order
   std::vector<ExcludedPosition> excluded;
@@ -82,7 +87,8 @@ class TomoDocument {
   /// Takes the centres of the deepest covered cells, column by column, and lays the curve through
   /// them.
   void setCoverageLimit(std::vector<Point2D> centres);
-  /// Forgets what the last inversion left, but the information density, which every grid has.
+  /// Forgets what the last inversion left, computed times included, but the information density,
+  /// which every grid has.
   void clearInversion();
   /// Forgets grid, results and what else was computed for a geometry that is no longer there. The
   /// starting model stays.

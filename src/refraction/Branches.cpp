@@ -33,7 +33,7 @@ double layerVelocity(const std::vector<ShotArrivals>& shots, const std::vector<l
   int branches = 0;
   for (std::size_t shot = 0; shot < shots.size(); ++shot) {
     const layerStruct* own = marksOf(marks, shot);
-    if (own == nullptr) continue;
+    if (own == nullptr || !own->enabled) continue;
     for (const Side side : {Side::kRight, Side::kLeft}) {
       const auto velocity = branchOf(shots[shot], *own, layer, side).apparentVelocity();
       if (!velocity) continue;

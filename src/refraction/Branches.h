@@ -25,8 +25,8 @@ struct Branch {
 Branch branchOf(const ShotArrivals& shot, const refractionDataStructure::layerStruct& marks,
                 std::uint32_t layer, Side side);
 
-/// Mean apparent velocity of a layer over both sides of all shots in document order, m/s. Not a
-/// number when no branch has two picks.
+/// Mean apparent velocity of a layer over both sides of all shots that take part, in document
+/// order, m/s. Not a number when no branch has two picks.
 double layerVelocity(const std::vector<ShotArrivals>& shots,
                      const std::vector<refractionDataStructure::layerStruct>& marks,
                      std::uint32_t layer);

@@ -4,11 +4,14 @@
 #include "base/TextNumber.h"
 #include "refraction/Branches.h"
 #include "refraction/Phantoming.h"
+#include "refraction/PicksFingerprint.h"
+#include "refraction/PlausibleResults.h"
 #include "refraction/Profile.h"
 #include "refraction/ReciprocalMethod.h"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <ostream>
 #include <utility>
@@ -31,17 +34,19 @@ struct Curves {
   ShotPair pair;
   phantom forward;
   phantom reverse;
+  std::vector<Point2D> receivers;  ///< that tV and tG are evaluated at
 };
 
-/// Takes the receivers off the forward curve that the reverse one does not reach: the method reads
-/// both at every receiver, and beyond its last picks a spline is a cubic that soon leaves the
-/// ground.
-void matchByX(phantom& forward, const phantom& reverse) {
-  const double first = reverse.points.front().x;
-  const double last = reverse.points.back().x;
-  std::vector<bool> reached;
-  for (const Point2D& at : forward.points) reached.push_back(at.x >= first && at.x <= last);
-  keepReceivers(forward, reached);
+/// The receivers of the forward curve that the reverse one reaches, too: the method reads both at
+/// every receiver, and beyond its last picks a spline is a cubic that soon leaves the ground.
+std::vector<Point2D> receiversOfBoth(const Curves& curves) {
+  const double first = curves.reverse.points.front().x;
+  const double last = curves.reverse.points.back().x;
+  std::vector<Point2D> receivers;
+  std::copy_if(curves.forward.points.begin(), curves.forward.points.end(),
+               std::back_inserter(receivers),
+               [first, last](const Point2D& at) { return at.x >= first && at.x <= last; });
+  return receivers;
 }
 
 /// Forward and reverse curve of a refractor; false when there are none, with the reason.
@@ -53,7 +58,7 @@ bool makeCurves(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
     warnings.push_back({first ? Kind::kNoShotPair : Kind::kNoShotPairBelow, refractor});
     return false;
   }
-  if (refractor == kSecondRefractor) console::out() << "Phantom 3\n";
+  if (refractor == kSecondRefractor) console::log("Phantom 3");
   CurveOutcome forward = buildCurve(shots, curves.pair.a, refractor, Side::kRight, marks);
   CurveOutcome reverse = buildCurve(shots, curves.pair.b, refractor, Side::kLeft, marks);
   const bool usable = forward.usable() && reverse.usable();
@@ -62,9 +67,9 @@ bool makeCurves(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
   curves.forward = std::move(forward.curve);
   curves.reverse = std::move(reverse.curve);
   if (!usable) return false;
-  matchByX(curves.forward, curves.reverse);
-  if (curves.forward.points.size() >= 2) return true;
-  warnings.push_back({Kind::kFewCommon, refractor, curves.forward.points.size()});
+  curves.receivers = receiversOfBoth(curves);
+  if (curves.receivers.size() >= 2) return true;
+  warnings.push_back({Kind::kFewCommon, refractor, curves.receivers.size()});
   return false;
 }
 
@@ -75,17 +80,18 @@ void interpretRefractor(const std::vector<ShotArrivals>& shots, std::uint32_t re
   const double xB = shots[static_cast<std::size_t>(curves.pair.b)].shot.x;
   const double tAB = reciprocalTime(curves.forward, curves.reverse, xA, xB);
   if (refractor == kSecondRefractor) {
-    console::out() << " TAB 3 \nTAB3 : " << formatDouble(tAB) << '\n';
+    console::log(" TAB 3 ");
+    console::log("TAB3 : " + formatDouble(tAB));
   }
-  for (const Point2D& point : curves.forward.points) {
+  for (const Point2D& point : curves.receivers) {
     result.x.push_back(point.x);
     result.elevation.push_back(point.z);
   }
   const std::size_t chosen = indexOfXY(result.chosenXY);
   result.chosenXY = kXYFamily[chosen];
-  result.tVs = buildTV(curves.forward, curves.reverse, tAB);
+  result.tVs = buildTV(curves.forward, curves.reverse, result.x, tAB);
   result.tV = memberOf(result.tVs, chosen);
-  result.tGs = buildTG(curves.forward, curves.reverse, tAB, result.tV);
+  result.tGs = buildTG(curves.forward, curves.reverse, result.x, tAB, result.tV);
   result.tG = memberOf(result.tGs, chosen);
 }
 
@@ -97,45 +103,63 @@ void findVelocity(std::uint32_t refractor, computedData& result, Warnings& warni
   } else if (found.fallback == VelocityFallback::kStrongVariation) {
     warnings.push_back({Kind::kStrongVariation, refractor});
   }
-}
-
-void warnOfUnknownDepths(std::uint32_t refractor, const computedData& result, std::size_t explained,
-                         Warnings& warnings) {
-  const auto unknown =
-      static_cast<std::size_t>(std::count_if(result.depth.begin(), result.depth.end(),
-                                             [](double depth) { return !std::isfinite(depth); }));
-  if (unknown > explained) {
-    warnings.push_back({Kind::kSlowRefractor, refractor, unknown - explained, result.depth.size()});
+  if (const std::size_t bad = leaveOutVelocities(result.velocity); bad > 0) {
+    warnings.push_back({Kind::kBadVelocity, refractor, bad, result.velocity.size()});
   }
 }
 
-void findFirstDepth(double v1, computedData& result, Warnings& warnings) {
+/// Tells where depths are unknown although velocity and layer above are known, and where they are
+/// out of the question.
+/// \param above of the layer above, per receiver; not a number where it is unknown
+void checkDepths(const std::vector<double>& above, double length, std::uint32_t refractor,
+                 computedData& result, Warnings& warnings) {
+  const std::size_t n = result.depth.size();
+  std::size_t slow = 0;
+  for (std::size_t j = 0; j < n; ++j) {
+    const bool given = std::isfinite(result.velocity[j]) && std::isfinite(above[j]);
+    if (given && !std::isfinite(result.depth[j])) ++slow;
+  }
+  if (slow > 0) warnings.push_back({Kind::kSlowRefractor, refractor, slow, n});
+  if (const std::size_t deep = leaveOutDepths(result.depth, length); deep > 0) {
+    warnings.push_back({Kind::kTooDeep, refractor, deep, n});
+  }
+}
+
+/// \param v1 m/s; without it there are no depths
+void findFirstDepth(double v1, double length, computedData& result, Warnings& warnings) {
   RefractorDepth found = depthFirstRefractor(result.tG, result.velocity, v1, kSkippedEnds);
   result.depth = std::move(found.depth);
   if (found.tGNotPositive) warnings.push_back({Kind::kTgNegative, kFirstRefractor});
-  if (std::isfinite(v1)) warnOfUnknownDepths(kFirstRefractor, result, 0, warnings);
+  checkDepths(std::vector<double>(result.depth.size(), v1), length, kFirstRefractor, result,
+              warnings);
 }
 
-void findSecondDepth(double v1, const computedData& upper, computedData& result,
+void findSecondDepth(double v1, double length, const computedData& upper, computedData& result,
                      Warnings& warnings) {
   std::vector<double> z1;
   std::vector<double> v2;
   std::size_t outside = 0;
-  std::size_t unknownAbove = 0;
   for (const double x : result.x) {
     const auto depth = valueAt(upper, upper.depth, x);
     z1.push_back(depth.value_or(kUnknown));
     v2.push_back(valueAt(upper, upper.velocity, x).value_or(kUnknown));
     if (!depth) ++outside;
-    if (depth && !std::isfinite(*depth)) ++unknownAbove;
   }
   result.depth = depthSecondRefractor(result.tG, z1, v2, result.velocity, v1, kSkippedEnds);
   if (outside > 0) {
     warnings.push_back({Kind::kOutsideUpper, kSecondRefractor, outside, result.x.size()});
   }
-  if (std::isfinite(v1)) {
-    warnOfUnknownDepths(kSecondRefractor, result, outside + unknownAbove, warnings);
-  }
+  checkDepths(z1, length, kSecondRefractor, result, warnings);
+}
+
+/// The velocity of the first layer; not a number, with the reason, when there is none.
+double firstVelocity(const std::vector<ShotArrivals>& shots, const std::vector<layerStruct>& marks,
+                     Warnings& warnings) {
+  const double v1 = layerVelocity(shots, marks, 1);
+  if (isPlausibleVelocity(v1)) return v1;
+  const Kind why = std::isnan(v1) ? Kind::kNoFirstLayer : Kind::kBadFirstLayer;
+  warnings.push_back({why, 1});
+  return kUnknown;
 }
 
 /// What is kept of a refractor when it is built anew.
@@ -165,17 +189,18 @@ ProfileOutcome buildProfiles(const std::vector<ShotArrivals>& shots,
   };
 
   if (!interpret(kFirstRefractor)) return outcome;
-  results.v1 = layerVelocity(shots, work.ttLayer, 1);
-  if (!std::isfinite(results.v1)) outcome.warnings.push_back({Kind::kNoFirstLayer, 1});
+  const double length = lineLength(shots);
+  results.v1 = firstVelocity(shots, work.ttLayer, outcome.warnings);
   findVelocity(kFirstRefractor, results.cData[0], outcome.warnings);
-  findFirstDepth(results.v1, results.cData[0], outcome.warnings);
+  findFirstDepth(results.v1, length, results.cData[0], outcome.warnings);
   results.v2 = results.cData[0].velocity;
   if (isAssigned(work.ttLayer, kSecondRefractor) && interpret(kSecondRefractor)) {
     findVelocity(kSecondRefractor, results.cData[1], outcome.warnings);
-    findSecondDepth(results.v1, results.cData[0], results.cData[1], outcome.warnings);
+    findSecondDepth(results.v1, length, results.cData[0], results.cData[1], outcome.warnings);
     results.v3 = results.cData[1].velocity;
   }
   console::out() << profileTable(results) << std::flush;
+  results.picks = fingerprintOf(shots);
   outcome.built = true;
   interpretation = std::move(work);
   return outcome;

@@ -19,7 +19,9 @@ struct ProfileOutcome {
 /// of a refractor that was built before is kept. Without the first refractor the interpretation
 /// stays as it was; what is missing of the second leaves only that out.
 ///
-/// Receivers of a refractor are those of its forward curve that lie within the reverse curve.
+/// Velocities that no ground has, and depths beyond the length of the line, are left unknown with
+/// the reason. Receivers of a refractor are those of its forward curve that lie within the reverse
+/// curve; the curves themselves keep all their arrivals.
 ProfileOutcome buildProfiles(const std::vector<ShotArrivals>& shots,
                              refractionDataStructure::Interpretation& interpretation);
 

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ostream>
+#include <string>
 
 namespace talvesk {
 
@@ -37,22 +37,29 @@ phantom emptyCurve(const std::vector<ShotArrivals>& shots) {
 LinearFit fitOwn(const phantom& curve, std::size_t& picks) {
   std::vector<double> x;
   std::vector<double> times;
-  std::ostream& out = console::out();
-  out << "ID Time\n";
+  console::log("ID Time");
   for (std::size_t i = 0; i < curve.points.size(); ++i) {
     if (curve.times[i] < 0.0) continue;
     x.push_back(curve.points[i].x);
     times.push_back(curve.times[i]);
-    out << i << ' ' << formatDouble(curve.times[i]) << '\n';
+    console::log(std::to_string(i) + ' ' + formatDouble(curve.times[i]));
   }
   picks = x.size();
   return picks < 2 ? LinearFit{} : linearFit(x, times);
 }
 
+/// Leaves only the receivers that have an arrival.
 void dropEmpty(phantom& curve) {
-  std::vector<bool> filled;
-  for (const double time : curve.times) filled.push_back(!(time < 0.0));
-  keepReceivers(curve, filled);
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < curve.times.size(); ++i) {
+    if (curve.times[i] < 0.0) continue;
+    curve.points[kept] = curve.points[i];
+    curve.times[kept] = curve.times[i];
+    ++kept;
+  }
+  curve.points.resize(kept);
+  curve.times.resize(kept);
+  curve.enabled.assign(kept, true);
 }
 
 }  // namespace
@@ -94,19 +101,6 @@ void mergeInto(phantom& curve, const ShotArrivals& shot, const layerStruct& mark
     const double arrival = shot.times[i] + shiftOf(marks, i);
     time = time < 0.0 ? arrival : (time + arrival) * 0.5;
   }
-}
-
-void keepReceivers(phantom& curve, const std::vector<bool>& wanted) {
-  std::size_t kept = 0;
-  for (std::size_t i = 0; i < wanted.size(); ++i) {
-    if (!wanted[i]) continue;
-    curve.points[kept] = curve.points[i];
-    curve.times[kept] = curve.times[i];
-    ++kept;
-  }
-  curve.points.resize(kept);
-  curve.times.resize(kept);
-  curve.enabled.assign(kept, true);
 }
 
 CurveOutcome buildCurve(const std::vector<ShotArrivals>& shots, std::int32_t endShot,

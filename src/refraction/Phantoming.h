@@ -45,7 +45,4 @@ CurveOutcome buildCurve(const std::vector<ShotArrivals>& shots, std::int32_t end
                         std::uint32_t refractor, Side side,
                         std::vector<refractionDataStructure::layerStruct>& marks);
 
-/// Leaves only the receivers of a curve for which `wanted` (one entry each) is true, all enabled.
-void keepReceivers(refractionDataStructure::phantom& curve, const std::vector<bool>& wanted);
-
 }  // namespace talvesk

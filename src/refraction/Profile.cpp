@@ -11,12 +11,12 @@ using namespace refractionDataStructure;
 
 namespace {
 
-/// A value at a receiver of the refractor, else a dash.
+/// A known value at a receiver of the refractor, else a dash.
 std::string cell(const computedData& refractor, const std::vector<double>& values, double x) {
   const auto at = std::lower_bound(refractor.x.begin(), refractor.x.end(), x);
   if (at == refractor.x.end() || *at != x) return "-";
   const auto i = static_cast<std::size_t>(at - refractor.x.begin());
-  return i < values.size() ? formatDouble(values[i]) : "-";
+  return i < values.size() && std::isfinite(values[i]) ? formatDouble(values[i]) : "-";
 }
 
 }  // namespace
@@ -67,6 +67,17 @@ std::optional<double> valueAt(const computedData& refractor, const std::vector<d
   if (i == 0) return std::nullopt;
   const double w = (x - refractor.x[i - 1]) / (refractor.x[i] - refractor.x[i - 1]);
   return (1.0 - w) * values[i - 1] + w * values[i];
+}
+
+bool hasGaps(const processingData& results) {
+  const auto unknown = [](double value) { return !std::isfinite(value); };
+  const auto gapIn = [&unknown](const std::vector<double>& values) {
+    return std::any_of(values.begin(), values.end(), unknown);
+  };
+  return unknown(results.v1) ||
+         std::any_of(results.cData.begin(), results.cData.end(), [&](const computedData& one) {
+           return gapIn(one.velocity) || gapIn(one.depth);
+         });
 }
 
 std::string profileTable(const processingData& results) {

@@ -30,6 +30,10 @@ std::vector<Point2D> profileSurface(const refractionDataStructure::processingDat
 std::optional<double> valueAt(const refractionDataStructure::computedData& refractor,
                               const std::vector<double>& values, double x);
 
+/// Whether the velocity of a layer, or velocity or depth of a refractor at one of its receivers, is
+/// not known.
+bool hasGaps(const refractionDataStructure::processingData& results);
+
 /// The results of all refractors as text: a line of heads and a line per receiver with x, depths,
 /// tV, tG and velocities of the first and the second refractor, "-" where a refractor has no value.
 std::string profileTable(const refractionDataStructure::processingData& results);

@@ -9,7 +9,6 @@
 #include <cmath>
 #include <initializer_list>
 #include <limits>
-#include <ostream>
 #include <string>
 
 namespace talvesk {
@@ -33,7 +32,7 @@ Splines::BesselSpline arrivals(const phantom& curve) {
 void logRow(std::size_t j, std::initializer_list<double> values) {
   std::string row = std::to_string(j);
   for (const double value : values) row += ' ' + formatDouble(value);
-  console::out() << row << '\n';
+  console::log(row);
 }
 
 /// The mean of the four values before, the value itself and the three behind it, as many as exist.
@@ -91,19 +90,20 @@ double reciprocalTime(phantom& forward, phantom& reverse, double xA, double xB) 
   forward.reciprocalTime = forward.slope * xB + forward.intercept;
   reverse.reciprocalTime = reverse.slope * xA + reverse.intercept;
   const double tAB = std::max(forward.reciprocalTime, reverse.reciprocalTime);
-  console::out() << " TAB: " << formatDouble(tAB) << '\n';
+  console::log(" TAB: " + formatDouble(tAB));
   return tAB;
 }
 
-std::vector<double> buildTV(const phantom& forward, const phantom& reverse, double tAB) {
+std::vector<double> buildTV(const phantom& forward, const phantom& reverse,
+                            const std::vector<double>& x, double tAB) {
   const Splines::BesselSpline fromA = arrivals(forward);
   const Splines::BesselSpline fromB = arrivals(reverse);
   std::vector<double> family;
   for (const double xy : kXYFamily) {
-    console::out() << "j xy tY tX tAB tVsJ\n";
-    for (std::size_t j = 0; j < forward.points.size(); ++j) {
-      const double tY = fromA(forward.points[j].x + xy);
-      const double tX = fromB(forward.points[j].x - xy);
+    console::log("j xy tY tX tAB tVsJ");
+    for (std::size_t j = 0; j < x.size(); ++j) {
+      const double tY = fromA(x[j] + xy);
+      const double tX = fromB(x[j] - xy);
       family.push_back((tY - tX + tAB) * 0.5);
       logRow(j, {xy, tY, tX, tAB, family.back()});
     }
@@ -111,21 +111,21 @@ std::vector<double> buildTV(const phantom& forward, const phantom& reverse, doub
   return family;
 }
 
-std::vector<double> buildTG(const phantom& forward, const phantom& reverse, double tAB,
+std::vector<double> buildTG(const phantom& forward, const phantom& reverse,
+                            const std::vector<double>& x, double tAB,
                             const std::vector<double>& tV) {
   const Splines::BesselSpline fromA = arrivals(forward);
   const Splines::BesselSpline fromB = arrivals(reverse);
   Splines::BesselSpline along;
-  along.build(abscissae(forward), tV);
-  console::out() << "j xy tY tX tAB delta -build\n";
+  along.build(x, tV);
+  console::log("j xy tY tX tAB delta -build");
   std::vector<double> family;
   for (const double xy : kXYFamily) {
-    console::out() << "j xy tY tX tAB delta\n";
-    for (std::size_t j = 0; j < forward.points.size(); ++j) {
-      const double x = forward.points[j].x;
-      const double tY = fromA(x + xy);
-      const double tX = fromB(x - xy);
-      const double delta = along(x + xy) - along(x - xy);
+    console::log("j xy tY tX tAB delta");
+    for (std::size_t j = 0; j < x.size(); ++j) {
+      const double tY = fromA(x[j] + xy);
+      const double tX = fromB(x[j] - xy);
+      const double delta = along(x[j] + xy) - along(x[j] - xy);
       family.push_back((tY + tX - tAB - delta) * 0.5);
       logRow(j, {xy, tY, tX, tAB, delta});
     }

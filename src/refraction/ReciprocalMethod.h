@@ -11,8 +11,9 @@ namespace talvesk {
 // The generalised reciprocal method.
 //   Palmer, D. (1980): The Generalized Reciprocal Method of Seismic Refraction Interpretation.
 //   Society of Exploration Geophysicists.
-// Curves have two receivers at least and the abscissae of splines: strictly ascending. A sequence
-// of one value per receiver follows the receivers of the forward curve.
+// Curves have two receivers at least and the abscissae of splines: strictly ascending. They are
+// read up to XY beyond the receivers that are evaluated, so they keep all the arrivals that they
+// have; a sequence of one value per receiver follows the receivers evaluated.
 
 /// Half the distances between the two points at which forward and reverse arrivals are taken,
 /// metres. The points lie XY to either side of the receiver: this half-separation is the convention
@@ -33,13 +34,16 @@ double reciprocalTime(refractionDataStructure::phantom& forward,
                       refractionDataStructure::phantom& reverse, double xA, double xB);
 
 /// Half of forward - reverse + reciprocal time, over the family, one curve behind the other.
+/// \param x the receivers evaluated, metres, ascending, two at least
 std::vector<double> buildTV(const refractionDataStructure::phantom& forward,
-                            const refractionDataStructure::phantom& reverse, double tAB);
+                            const refractionDataStructure::phantom& reverse,
+                            const std::vector<double>& x, double tAB);
 
 /// Half of forward + reverse - reciprocal time - travel time between the two points, over the
-/// family. \param tV the velocity-analysis function that gives that travel time
+/// family. \param tV the velocity-analysis function at `x` that gives that travel time
 std::vector<double> buildTG(const refractionDataStructure::phantom& forward,
-                            const refractionDataStructure::phantom& reverse, double tAB,
+                            const refractionDataStructure::phantom& reverse,
+                            const std::vector<double>& x, double tAB,
                             const std::vector<double>& tV);
 
 /// Why the velocities of a refractor are one constant.

@@ -1,6 +1,12 @@
 #include "refraction/RefractionWarning.h"
 
 namespace talvesk {
+namespace {
+
+/// As kLeastVelocity and kGreatestVelocity.
+constexpr const char* kOutside = "outside 50 to 12 000 m/s";
+
+}  // namespace
 
 std::string RefractionWarning::text() const {
   const std::string which = "Layer " + std::to_string(layer) + ": ";
@@ -30,12 +36,20 @@ std::string RefractionWarning::text() const {
       return which + "forward and reverse curve have fewer than two receivers in common.";
     case Kind::kNoFirstLayer:
       return which +
-             "no shot has two picks of it on one side, so it has no velocity and the layers "
-             "below have no depth.";
+             "no shot that takes part has two picks of it on one side, so it has no velocity and "
+             "the layers below have no depth.";
+    case Kind::kBadFirstLayer:
+      return which + "its velocity comes out " + kOutside +
+             ", so it has none and the layers below have no depth.";
+    case Kind::kBadVelocity:
+      return which + "no velocity and no depth at " + some + ", where the velocity comes out " +
+             kOutside + '.';
     case Kind::kSlowRefractor:
       return which + "no depth at " + some + ", where it is not faster than the layer above.";
     case Kind::kOutsideUpper:
       return which + "no depth at " + some + ", which lie beyond the profile of the layer above.";
+    case Kind::kTooDeep:
+      return which + "no depth at " + some + ", where it comes out deeper than the line is long.";
   }
   return which;
 }

@@ -20,8 +20,11 @@ struct RefractionWarning {
     kFewReverse,       ///< of the shot at the end
     kFewCommon,        ///< curves with fewer than two receivers in common
     kNoFirstLayer,     ///< no branch of layer 1, so no depths
+    kBadFirstLayer,    ///< its velocity is none of any ground, so no depths
+    kBadVelocity,      ///< that at `count` of `total` receivers is none of any ground
     kSlowRefractor,    ///< depths are not numbers at `count` of `total` receivers
-    kOutsideUpper      ///< `count` of `total` receivers lie beyond the refractor above
+    kOutsideUpper,     ///< `count` of `total` receivers lie beyond the refractor above
+    kTooDeep           ///< at `count` of `total` receivers it is deeper than the line is long
   };
 
   Kind kind = Kind::kNoShotPair;

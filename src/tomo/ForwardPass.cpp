@@ -48,9 +48,14 @@ std::string describe(const ExcludedPosition& position) {
 }
 
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document) {
-  std::vector<ExcludedPosition> excluded;
   const GridGeometry& g = document.grid->geometry();
-  const auto outside = [&](double x) { return g.topNodeIndex(x + document.xOffset) == kNoNode; };
+  return findExcluded(document,
+                      [&](double x) { return g.topNodeIndex(x + document.xOffset) == kNoNode; });
+}
+
+std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
+                                           const std::function<bool(double x)>& outside) {
+  std::vector<ExcludedPosition> excluded;
   for (std::size_t s = 0; s < document.ttArray.size(); ++s) {
     const TravelTime& record = document.ttArray[s];
     const auto shot = static_cast<std::int32_t>(s);
@@ -70,13 +75,14 @@ std::vector<ExcludedPosition> findExcluded(const TomoDocument& document) {
   return excluded;
 }
 
-ForwardPass::ForwardPass(TomoDocument& document, unsigned threads, Log& log)
-    : mDocument(document), mLog(log) {
+ForwardPass::ForwardPass(TomoDocument& document, unsigned threads, Log& log, ThreadLines lines)
+    : mDocument(document), mLog(log), mLines(lines) {
   std::vector<ExcludedPosition> excluded = findExcluded(document);
   if (!sameExclusions(excluded, document.excluded)) {
     for (const ExcludedPosition& position : excluded) log.write(describe(position), 1);
   }
   document.excluded = std::move(excluded);
+  document.timesOfSection = false;
 
   const std::size_t shots = document.ttArray.size();
   mWorkers.resize(shots);
@@ -150,6 +156,7 @@ Status ForwardPass::runBatch(std::size_t first, std::size_t last, std::vector<do
 }
 
 void ForwardPass::tellThread(std::size_t shot, bool log) {
+  if (mLines == ThreadLines::kSilent) return;
   const std::string line = " --- Creating and running thread " + std::to_string(shot);
   console::out() << line << std::endl;
   if (log) mLog.write(line);

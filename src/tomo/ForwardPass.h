@@ -5,6 +5,7 @@
 #include "model/TomoDocument.h"
 #include "tomo/DijkstraComputePathsThread.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,8 +23,15 @@ Status checkTraceable(const TomoDocument& document);
 /// string does not exist (receiver -1).
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document);
 
+/// The same for a grid that is to be. \param outside whether it has no node at a survey abscissa
+std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
+                                           const std::function<bool(double x)>& outside);
+
 /// One line for users, who count shots and receivers from 1.
 std::string describe(const ExcludedPosition& position);
+
+/// Whether the console hears of every worker that is started.
+enum class ThreadLines { kTold, kSilent };
 
 /// The workers of all shots of a document, run in batches of consecutive shots.
 class ForwardPass {
@@ -31,7 +39,8 @@ class ForwardPass {
   /// Makes the workers, leaves out what the grid cannot hold (document.excluded, named in the log
   /// when it is news) and marks all computed times as missing.
   /// \param threads width of a batch, at least 1
-  ForwardPass(TomoDocument& document, unsigned threads, Log& log);
+  ForwardPass(TomoDocument& document, unsigned threads, Log& log,
+              ThreadLines lines = ThreadLines::kTold);
 
   /// Traces rays (first time) and evaluates them, adding the workers' sums shot by shot. The result
   /// does not depend on the width of the batches.
@@ -58,6 +67,7 @@ class ForwardPass {
 
   TomoDocument& mDocument;
   Log& mLog;
+  ThreadLines mLines;
   bool mTraced = false;
   std::vector<Slot> mSlots;  ///< outlive the workers, which write into them
   std::vector<std::unique_ptr<DijkstraComputePathsThread>> mWorkers;  ///< null: shot excluded

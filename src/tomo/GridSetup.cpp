@@ -4,6 +4,8 @@
 #include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
 #include "tomo/ForwardPass.h"
+#include "tomo/InversionCopy.h"
+#include "tomo/RayRecomputation.h"
 
 #include <algorithm>
 #include <cmath>
@@ -75,6 +77,7 @@ GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& lo
   GridSettings settings;
   settings.maxDepth = profile.arrayLength / 2.0;
   settings.cellSize = document.proposedCellSizes.empty() ? 0.5 : document.proposedCellSizes.front();
+  settings.cellSize = std::max(settings.cellSize, kSmallestCell);
   settings.nodes = std::max(document.grid ? document.grid->nV() : 0U, kFewestNodes);
   return settings;
 }
@@ -132,7 +135,8 @@ Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& lay
   return {};
 }
 
-Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric) {
+Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric,
+                  Log& log) {
   if (document.grid == nullptr || document.grid->cellCount() == 0) {
     return Status::failure(Message::tr("There is no grid with cells; build the grid first."));
   }
@@ -152,8 +156,13 @@ Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool s
           Message::tr("The smoothed velocity model cannot be used: %1").arg(invalid));
     }
     for (std::uint32_t c = 0; c < current.cellCount(); ++c) smoothed->setDraw(c, current.draw(c));
-    document.grid = std::move(smoothed);
-    document.smoothedResult = document.has_tomographic_info;
+    TomoDocument copy = inversionCopy(document);
+    copy.grid = std::move(smoothed);
+    if (copy.has_tomographic_info) {
+      copy.smoothedResult = true;
+      if (Status status = traceSection(copy, searchThreads(), log); !status.ok()) return status;
+    }
+    takeInversion(document, copy);
   } catch (const std::exception& error) {
     return Status::failure(Message::tr("The grid could not be smoothed: %1").arg(error.what()));
   }

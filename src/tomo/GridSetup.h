@@ -9,6 +9,8 @@
 
 namespace talvesk {
 
+inline constexpr double kSmallestCell = 0.1;  ///< metres, of the sizes that users choose
+
 /// What the user chooses for a grid.
 struct GridSettings {
   double maxDepth = 0.0;    ///< metres
@@ -17,8 +19,8 @@ struct GridSettings {
 };
 
 /// Measures the survey, proposes a cell size (kept in the document's list) and returns what a
-/// dialog shows as defaults: half the array length deep, the size proposed first, as many nodes per
-/// side as the present grid has, 6 without one.
+/// dialog shows as defaults: half the array length deep, the size proposed first but kSmallestCell
+/// at least, as many nodes per side as the present grid has, 6 without one.
 GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& log);
 
 /// Builds the grid with the default model under the survey and installs it; the information density
@@ -31,9 +33,10 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
 Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers);
 
 /// Smooths the slownesses of the document's grid and replaces the grid by one that has them. The
-/// geometry stays, and so do rays, coverage, draw flags and misfit: as after an inversion, they are
-/// those of the last rays, which were traced before the smoothing.
-/// \param radius smoothing parameter, cells, at least 1 \param symmetric see verticalRatio()
-Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric);
+/// geometry stays, and so do coverage, draw flags and the figures of the last solver pass. The rays
+/// and times of a result are traced anew: they are those of the section that is shown. On failure
+/// the document is as before. \param radius smoothing parameter, cells, at least 1 \param symmetric
+/// see verticalRatio()
+Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric, Log& log);
 
 }  // namespace talvesk

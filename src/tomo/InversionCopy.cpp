@@ -9,6 +9,8 @@ void copyResults(TomoDocument& to, const TomoDocument& from) {
   to.grid = std::make_unique<Grid>(*from.grid);
   to.has_tomographic_info = from.has_tomographic_info;
   to.smoothedResult = from.smoothedResult;
+  to.timesOfSection = from.timesOfSection;
+  to.sectionHistory = from.sectionHistory;
   to.RMSE_tomography = from.RMSE_tomography;
   to.info_density = from.info_density;
   to.coorcount = from.coorcount;

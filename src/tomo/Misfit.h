@@ -5,7 +5,8 @@
 
 namespace talvesk {
 
-/// Over every receiver with a pick and a computed time.
+/// Of the computed times as the last solver pass has left them, over every receiver with a pick and
+/// one.
 Misfit computeMisfit(const TomoDocument& document);
 
 }  // namespace talvesk

@@ -6,9 +6,16 @@
 
 namespace talvesk {
 
+/// Traces rays and times through the section that the document holds, so that what is told of it is
+/// true of it: document.timesOfSection is set. The model is not corrected, coverage and hit counts
+/// stay. Says nothing on the console. Fails without a grid that rays can be traced through.
+/// \param threads searches at once, at least 1
+Status traceSection(TomoDocument& document, unsigned threads, Log& log);
+
 /// Brings back the rays and computed times of a document that was loaded with its inversion result:
-/// one forward pass without any correction of the model. Coverage and hit counts restart at 0.
-/// Fails without a grid that rays can be traced through; rays are missing where tracing fails.
+/// the same pass, told on the console. Coverage and hit counts that the project had stay, else they
+/// are 0. Fails without a grid that rays can be traced through; rays are missing where tracing
+/// fails.
 Status recomputeRays(TomoDocument& document, Log& log);
 
 }  // namespace talvesk

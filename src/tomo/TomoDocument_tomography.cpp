@@ -1,4 +1,5 @@
 #include "base/Console.h"
+#include "model/Residuals.h"
 #include "model/TomoDocument.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/Smoothing.h"
@@ -33,7 +34,8 @@ class ResultsBefore {
         mCoorcount(document.coorcount),
         mHitCounts(document.hitCounts),
         mRays(document.rays),
-        mExcluded(document.excluded) {
+        mExcluded(document.excluded),
+        mTimesOfSection(document.timesOfSection) {
     for (const TravelTime& record : document.ttArray) mComputed.push_back(record.ttCalcolati);
   }
 
@@ -45,6 +47,7 @@ class ResultsBefore {
     mDocument.hitCounts = std::move(mHitCounts);
     mDocument.rays = std::move(mRays);
     mDocument.excluded = std::move(mExcluded);
+    mDocument.timesOfSection = mTimesOfSection;
     for (std::size_t s = 0; s < mComputed.size(); ++s) {
       mDocument.ttArray[s].ttCalcolati = std::move(mComputed[s]);
     }
@@ -57,6 +60,7 @@ class ResultsBefore {
   std::vector<std::uint32_t> mHitCounts;
   std::vector<std::vector<std::uint32_t>> mRays;
   std::vector<ExcludedPosition> mExcluded;
+  bool mTimesOfSection;
   std::vector<std::vector<double>> mComputed;
 };
 
@@ -101,6 +105,8 @@ Status TomoDocument::runTomography_fast(std::vector<double>& slownesses, unsigne
   Status status = pass.run("[RUNNIG DIJKSTRA]", &coorslow, &coorcount);
   if (!status.ok()) return status;
   pass.appendRaysTo(rays);
+  // These rays are the first through the section that the iteration before has left.
+  sectionHistory.push_back(misfitOfTimes(*this));
   tellEnd(start);
 
   const std::string caption =

@@ -2,6 +2,10 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "model/PickFingerprint.h"
+#include "model/Residuals.h"
+#include "tomo/ForwardPass.h"
+#include "tomo/RayRecomputation.h"
 
 #include <chrono>
 #include <cmath>
@@ -37,7 +41,8 @@ Status checkParameters(const TomographyParameters& p) {
   return {};
 }
 
-InversionRecord recordOf(const TomographyParameters& p, const TomographyResult& result) {
+InversionRecord recordOf(const TomographyParameters& p, const TomographyResult& result,
+                         const TomoDocument& document) {
   InversionRecord record;
   record.externalIterations = p.externalIterations;
   record.solverIterations = p.solverIterations;
@@ -47,8 +52,11 @@ InversionRecord recordOf(const TomographyParameters& p, const TomographyResult& 
   record.minVelocity = p.minVelocity;
   record.maxVelocity = p.maxVelocity;
   record.elapsedSeconds = result.elapsedSeconds;
+  record.computingSeconds = result.computingSeconds;
   record.stopped = result.stopped;
   record.history = result.history;
+  record.sectionHistory = document.sectionHistory;
+  record.picks = fingerprintOfPicks(document.ttArray);
   return record;
 }
 
@@ -57,19 +65,51 @@ double percentOf(const Misfit& misfit) {
   return misfit.count > 0 ? misfit.relativeRms * 100.0 : -1.0;
 }
 
-void finish(TomoDocument& document, const TomographyParameters& p, TomographyResult& result,
-            const Stopwatch& watch, Log& log) {
-  document.info_density = smoothRayDensity(p.smoothingType, *document.grid, document.hitCounts,
-                                           p.smoothing, verticalRatio(p.symmetric), log);
-  result.elapsedSeconds = watch.seconds();
-  if (document.lastInversion) document.lastInversion->elapsedSeconds = result.elapsedSeconds;
+/// The times of the last solver pass make way for those through the section that is shown.
+Status traceFinished(TomoDocument& document, const TomographyParameters& p,
+                     TomographyResult& result, Log& log) {
+  for (const TravelTime& record : document.ttArray) {
+    result.lastPassTimes.push_back(record.ttCalcolati);
+  }
+  // An iteration that failed may have been through this section before.
+  document.sectionHistory.resize(static_cast<std::size_t>(result.iterationsDone));
+  const Status status = traceSection(document, p.singleThread ? 1U : searchThreads(), log);
+  if (!status.ok()) return status;
+  result.sectionMisfit = sectionMisfitOf(document);
+  document.sectionHistory.push_back(result.sectionMisfit);
+  return status;
+}
+
+void tellEnd(const TomographyResult& result, Log& log) {
   log.write("Elapsed time: " + std::to_string(static_cast<long long>(result.elapsedSeconds)) +
             " seconds.");
-  result.misfit = computeMisfit(document);
   if (result.misfit.count == 0) return;
   console::out() << "[LOG] RMSE: s" << formatDouble(result.misfit.rmse) << '\n'
                  << "[LOG] MaxError: %" << formatDouble(result.misfit.maxRelativeError * 100.0)
                  << std::endl;
+}
+
+/// What comes after the iterations.
+Status finish(TomoDocument& document, const TomographyParameters& p, const Stopwatch& watch,
+              TomographyResult& result, Log& log) {
+  const auto seconds = [&] {
+    result.computingSeconds = watch.seconds();
+    result.elapsedSeconds = p.asked ? Stopwatch(*p.asked).seconds() : result.computingSeconds;
+  };
+  Status status;
+  try {
+    document.info_density = smoothRayDensity(p.smoothingType, *document.grid, document.hitCounts,
+                                             p.smoothing, verticalRatio(p.symmetric), log);
+    status = traceFinished(document, p, result, log);
+    seconds();
+    tellEnd(result, log);
+  } catch (const std::exception& error) {
+    seconds();
+    status = Status::failure(
+        Message::tr("The information density could not be computed: %1").arg(error.what()));
+  }
+  document.lastInversion = recordOf(p, result, document);
+  return status;
 }
 
 }  // namespace
@@ -83,7 +123,8 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   const Stopwatch watch;
   document.stopRequested = false;
   // Every run names anew what it leaves out.
-  std::vector<ExcludedPosition> before = std::exchange(document.excluded, {});
+  std::vector<ExcludedPosition> excludedBefore = std::exchange(document.excluded, {});
+  std::vector<SectionMisfit> historyBefore = std::exchange(document.sectionHistory, {});
   document.minVelocity = p.minVelocity;
   document.maxVelocity = p.maxVelocity;
   document.modified = true;
@@ -104,7 +145,8 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
     document.RMSE_tomography = percentOf(result.history.back());
     log.write("Updating tomographic profile ... ");
     if (progress) {
-      progress({i + 1, p.externalIterations, watch.seconds(), result.history.back()});
+      progress({i + 1, p.externalIterations, watch.seconds(), result.history.back(),
+                document.sectionHistory.back()});
     }
     log.write("Updating tomographic profile ... COMPLETED. ");
     if (cancelled && cancelled()) document.stopRequested = true;
@@ -114,19 +156,16 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
       break;
     }
   }
-  const Stopwatch sinceAsked = p.asked ? Stopwatch(*p.asked) : watch;
-  result.elapsedSeconds = sinceAsked.seconds();
   if (result.iterationsDone == 0) {
-    document.excluded = std::move(before);  // they tell which rays are those of which receiver
+    // The exclusions tell which rays are those of which receiver.
+    document.excluded = std::move(excludedBefore);
+    document.sectionHistory = std::move(historyBefore);
+    result.elapsedSeconds = result.computingSeconds = watch.seconds();
     return result;
   }
-  document.lastInversion = recordOf(p, result);
-  try {
-    finish(document, p, result, sinceAsked, log);
-  } catch (const std::exception& error) {
-    result.status = Status::failure(
-        Message::tr("The information density could not be computed: %1").arg(error.what()));
-  }
+  result.misfit = result.history.back();
+  const Status finished = finish(document, p, watch, result, log);
+  if (result.status.ok()) result.status = finished;
   return result;
 }
 

@@ -34,20 +34,27 @@ struct TomographyProgress {
   int completed = 0;
   int total = 0;
   double elapsedSeconds = 0.0;
-  Misfit misfit;
+  Misfit misfit;  ///< of its last solver pass
+  /// Through the section that it started from: that of the iteration before, or the starting model.
+  SectionMisfit sectionBefore;
 };
 
 struct TomographyResult {
   Status status;
   int iterationsDone = 0;
-  bool stopped = false;  ///< left before the last iteration because of a stop request
-  double elapsedSeconds = 0.0;
-  Misfit misfit;                ///< of the last evaluation; count 0 without any pick
-  std::vector<Misfit> history;  ///< one per completed external iteration
+  bool stopped = false;           ///< left before the last iteration because of a stop request
+  double elapsedSeconds = 0.0;    ///< since the inversion was asked for, questions included
+  double computingSeconds = 0.0;  ///< of the run alone
+  Misfit misfit;                  ///< of the last solver pass; count 0 without any pick
+  std::vector<Misfit> history;    ///< one per completed external iteration
+  std::vector<std::vector<double>> lastPassTimes;  ///< computed, seconds, per record
+  /// Through the section that the document holds now, along fresh rays; count 0 without any pick.
+  SectionMisfit sectionMisfit;
 };
 
-/// A whole inversion: external iterations until done or stopped, then the information density and
-/// the misfit. The document must hold a grid. On failure the document keeps the results of the last
+/// A whole inversion: external iterations until done or stopped, then the information density, the
+/// misfit, and rays and times through the finished section, which are those that the document
+/// holds afterwards. The document must hold a grid. On failure it keeps the results of the last
 /// completed iteration.
 /// \param progress called after every external iteration, from the calling thread; may be empty
 /// \param cancelled asked after every external iteration; the one under way always completes

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <iterator>
 #include <ostream>
+#include <tuple>
 #include <utility>
 
 namespace talvesk {
@@ -71,6 +72,10 @@ constexpr BuiltIn kBuiltIn[] = {
 
 }  // namespace
 
+bool GradientColorPoint::operator==(const GradientColorPoint& other) const {
+  return std::tie(mr, mg, mb, mval) == std::tie(other.mr, other.mg, other.mb, other.mval);
+}
+
 void ColorGradient::sort() {
   std::stable_sort(mPoints.begin(), mPoints.end(),
                    [](const auto& a, const auto& b) { return a.mval < b.mval; });
@@ -92,6 +97,12 @@ void buildGradient(ColorGradient& gradient, int type) {
   const std::vector<GradientColorPoint> stops = stopsOfType(type);
   if (stops.empty()) console::error() << "Unknown gradient type. " << std::endl;
   for (const GradientColorPoint& point : stops) gradient.add(point);
+}
+
+bool ColorPalette::operator==(const ColorPalette& other) const {
+  return std::tie(name, n_colors, is_editable, min_db, max_db, color_gradient) ==
+         std::tie(other.name, other.n_colors, other.is_editable, other.min_db, other.max_db,
+                  other.color_gradient);
 }
 
 ColorPaletteList::ColorPaletteList() {

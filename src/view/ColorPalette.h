@@ -12,6 +12,10 @@ struct RgbColor {
   double r = 0.0;
   double g = 0.0;
   double b = 0.0;
+
+  bool operator==(const RgbColor& other) const {
+    return r == other.r && g == other.g && b == other.b;
+  }
 };
 
 /// One colour stop of a gradient.
@@ -20,6 +24,8 @@ struct GradientColorPoint {
   double mg = 0.0;    ///< green, 0 to 1
   double mb = 0.0;    ///< blue, 0 to 1
   double mval = 0.0;  ///< position along the gradient, 0 to 1
+
+  bool operator==(const GradientColorPoint& other) const;
 };
 
 /// Colour stops in ascending order of position, the first at 0 and the last at 1.
@@ -38,6 +44,8 @@ class ColorGradient {
   /// The colour at t, linear between the two stops around it. Below the first stop and above the
   /// last, the colour of that stop; black for an empty gradient and for a t that is not a number.
   RgbColor colorAt(double t) const;
+
+  bool operator==(const ColorGradient& other) const { return mPoints == other.mPoints; }
 
  private:
   std::vector<GradientColorPoint> mPoints;
@@ -61,6 +69,8 @@ struct ColorPalette {
   double min_db = 250.0;    ///< lower end of the value scale, m/s for a velocity
   double max_db = 3500.0;   ///< upper end of the value scale
   ColorGradient color_gradient;
+
+  bool operator==(const ColorPalette& other) const;
 };
 
 /// The palettes of a project and which of them is in use. There is always at least one.
@@ -87,6 +97,10 @@ class ColorPaletteList {
   /// Takes over the palettes of a project; a current one past their end makes the first one
   /// current. False, and no change, when there are none.
   bool assign(std::vector<ColorPalette> palettes, std::size_t current);
+
+  bool operator==(const ColorPaletteList& other) const {
+    return curr_palette == other.curr_palette && mPalettes == other.mPalettes;
+  }
 
  private:
   std::vector<ColorPalette> mPalettes;

@@ -1,5 +1,7 @@
 #include "view/PaletteRepair.h"
 
+#include "base/PlainText.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -71,6 +73,7 @@ Status repairPalette(ColorPalette& palette) {
                                .arg(stops)
                                .arg(kMostGradientStops));
   }
+  palette.name = withoutControls(std::move(palette.name));
   palette.color_gradient = std::move(gradient);
   palette.n_colors = std::clamp(palette.n_colors, 1, ColorTable::kMaxColors);
   repairScale(palette);

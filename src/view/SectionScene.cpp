@@ -1,6 +1,7 @@
 #include "view/SectionScene.h"
 
 #include "base/RoundStep.h"
+#include "model/Residuals.h"
 #include "model/TomoDocument.h"
 #include "view/RayLines.h"
 #include "view/SectionValues.h"
@@ -227,7 +228,9 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.surface = surfaceLine(*document.grid, document.xOffset);
   scene.geophones = allGeophones(document);
   scene.shots = eachPlaceOnce(document.shotPoints());
-  if (document.has_tomographic_info) scene.rmsPercent = document.RMSE_tomography;
+  scene.misfit = sectionMisfitOf(document);
+  scene.picksChanged = picksChangedSince(document);
+  if (document.has_tomographic_info) scene.lastPassPercent = document.RMSE_tomography;
   out = std::move(scene);
   return {};
 }

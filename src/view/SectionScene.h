@@ -2,6 +2,7 @@
 
 #include "base/Point2D.h"
 #include "base/Status.h"
+#include "model/InversionRecord.h"
 #include "view/ColorPalette.h"
 #include "view/ContourBands.h"
 #include "view/ContourLines.h"
@@ -72,7 +73,9 @@ struct SectionScene {
   std::vector<Point2D> surface;    ///< top line of the grid, left to right
   std::vector<Point2D> geophones;  ///< of all strings, ascending x, each place once
   std::vector<Point2D> shots;      ///< of all records, ascending x, each place once
-  double rmsPercent = -1.0;        ///< misfit of the last inversion; negative: none
+  SectionMisfit misfit;            ///< of an inverted section; count 0: none
+  bool picksChanged = false;       ///< since the inversion, which knew others
+  double lastPassPercent = -1.0;   ///< relative RMS of the solver's last pass; negative: none
 
   /// Lower left and upper right of the drawn cells, geophones and shots; without a grid, of the
   /// refractors instead of the cells.

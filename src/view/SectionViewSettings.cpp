@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -32,9 +34,34 @@ SectionFill fillOf(const SectionViewSettings& settings) {
 
 }  // namespace
 
-std::vector<double> contourValues(const ContourSettings& settings, const ValueRange& range) {
+bool ContourSettings::operator==(const ContourSettings& other) const {
+  const auto parts = [](const ContourSettings& s) {
+    return std::tie(s.customized, s.numberOfValues, s.customValues, s.gradientValues,
+                    s.laplacianValues, s.labelEvery, s.labelSize, s.color, s.onProfile, s.filled,
+                    s.onLaplacian, s.onVerticalGradient);
+  };
+  return parts(*this) == parts(other);
+}
+
+SectionQuantity contouredQuantity(SectionQuantity shown) {
+  return shown == SectionQuantity::kInformationDensity ? SectionQuantity::kVelocity : shown;
+}
+
+std::vector<double> ContourSettings::*contourList(SectionQuantity quantity) {
+  switch (contouredQuantity(quantity)) {
+    case SectionQuantity::kVerticalGradient:
+      return &ContourSettings::gradientValues;
+    case SectionQuantity::kLaplacian:
+      return &ContourSettings::laplacianValues;
+    default:
+      return &ContourSettings::customValues;
+  }
+}
+
+std::vector<double> contourValues(const ContourSettings& settings, SectionQuantity quantity,
+                                  const ValueRange& range) {
   if (!std::isfinite(range.span()) || !(range.span() > 0.0)) return {};
-  if (settings.customized) return customValues(settings.customValues, range);
+  if (settings.customized) return customValues(settings.*contourList(quantity), range);
   return equallySpacedValues(range, std::min(settings.numberOfValues, kMost));
 }
 
@@ -59,14 +86,20 @@ bool showsAnyContours(const ContourSettings& settings) {
 
 ContourSettings proposedContours(ContourSettings settings, SectionQuantity quantity,
                                  const ValueRange& range) {
-  if (showsContours(settings, quantity)) return settings;
-  const bool first = !showsAnyContours(settings);
-  if (quantity == SectionQuantity::kVelocity) settings.onProfile = true;
-  if (quantity == SectionQuantity::kVerticalGradient) settings.onVerticalGradient = true;
-  if (quantity == SectionQuantity::kLaplacian) settings.onLaplacian = true;
-  if (first && settings.customValues.empty()) {
-    settings.customValues = roundValues(range, kMostRoundContours);
-    settings.customized = !settings.customValues.empty();
+  quantity = contouredQuantity(quantity);
+  std::vector<double>& list = settings.*contourList(quantity);
+  const bool first = !showsAnyContours(settings) && list.empty();
+  if (!showsContours(settings, quantity)) {
+    settings.onProfile |= quantity == SectionQuantity::kVelocity;
+    settings.onVerticalGradient |= quantity == SectionQuantity::kVerticalGradient;
+    settings.onLaplacian |= quantity == SectionQuantity::kLaplacian;
+  }
+  const bool useless = std::none_of(list.begin(), list.end(),
+                                    [&range](double value) { return range.contains(value); });
+  std::vector<double> round = roundValues(range, kMostRoundContours);
+  if ((first || (settings.customized && useless)) && !round.empty()) {
+    list = std::move(round);
+    settings.customized = true;
   }
   return settings;
 }
@@ -83,9 +116,9 @@ SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const Colo
   const ContourSettings& contours = settings.contours;
   if (showsContours(contours, settings.quantity)) {
     if (contours.customized && options.range) {
-      options.contourValues = contourValues(contours, *options.range);
+      options.contourValues = contourValues(contours, settings.quantity, *options.range);
     } else if (contours.customized) {
-      options.contourValues = contours.customValues;
+      options.contourValues = contours.*contourList(settings.quantity);
       options.contourValues.resize(
           std::min(options.contourValues.size(), SectionSceneOptions::kMaxContours));
     } else {

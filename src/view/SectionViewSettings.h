@@ -10,24 +10,38 @@ namespace talvesk {
 /// How many round values a list of contours gets at most.
 inline constexpr int kMostRoundContours = 15;
 
-/// What the user chose about contours.
+/// What the user chose about contours. Each quantity has a list of values of its own, for one of
+/// velocities says nothing about a gradient; all else is common to them.
 struct ContourSettings {
-  bool customized = false;           ///< the list of values instead of equally spaced ones
-  int numberOfValues = 10;           ///< of the equally spaced ones, 1 or more
-  std::vector<double> customValues;  ///< ascending, each within the range of the quantity shown
-  int labelEvery = 1;                ///< every how many lines carry a label; 0 none
-  int labelSize = 12;                ///< points
+  bool customized = false;              ///< the lists of values instead of equally spaced ones
+  int numberOfValues = 10;              ///< of the equally spaced ones, 1 or more
+  std::vector<double> customValues;     ///< velocities, m/s; ascending, as the other two
+  std::vector<double> gradientValues;   ///< vertical gradients of velocity, 1/s
+  std::vector<double> laplacianValues;  ///< Laplacians of velocity, 1/(m s)
+  int labelEvery = 1;                   ///< every how many lines carry a label; 0 none
+  int labelSize = 12;                   ///< points
   RgbColor color;
   bool onProfile = false;           ///< lines over the velocity section
   bool filled = false;              ///< bands between the values instead of cells
   bool onLaplacian = false;         ///< lines over the Laplacian
   bool onVerticalGradient = false;  ///< lines over the vertical gradient
+
+  bool operator==(const ContourSettings& other) const;
+  bool operator!=(const ContourSettings& other) const { return !(*this == other); }
 };
 
-/// The values to contour: the n that divide the range into n + 1 equal parts, or the custom ones
-/// that lie within the range, its ends included; ascending, each once. At most
+/// The quantity whose contours are meant where one is shown: the information density has none, and
+/// who asks for contours there means those of velocity.
+SectionQuantity contouredQuantity(SectionQuantity shown);
+
+/// Which list holds the custom values of a quantity: `settings.*contourList(quantity)`.
+std::vector<double> ContourSettings::*contourList(SectionQuantity quantity);
+
+/// The values of a quantity to contour: the n that divide the range into n + 1 equal parts, or the
+/// custom ones that lie within the range, its ends included; ascending, each once. At most
 /// SectionSceneOptions::kMaxContours; none for a range that is empty or not finite.
-std::vector<double> contourValues(const ContourSettings& settings, const ValueRange& range);
+std::vector<double> contourValues(const ContourSettings& settings, SectionQuantity quantity,
+                                  const ValueRange& range);
 
 /// Whether any of the switches draws contours of that quantity, lines or bands.
 bool showsContours(const ContourSettings& settings, SectionQuantity quantity);
@@ -35,10 +49,15 @@ bool showsContours(const ContourSettings& settings, SectionQuantity quantity);
 /// Whether any of the switches is on, for whatever quantity.
 bool showsAnyContours(const ContourSettings& settings);
 
-/// What to propose to who asks for contours of a quantity that has none: those switched on, and
-/// the first time round values as the list, unless the user has a list already.
+/// What to propose to who asks for contours of a quantity: where it has none, those switched on,
+/// the first time by a list; and round values as that list where none of its values lies in the
+/// range.
 ContourSettings proposedContours(ContourSettings settings, SectionQuantity quantity,
                                  const ValueRange& range);
+
+/// The vertical exaggerations that a section can be drawn with.
+inline constexpr double kLeastExaggeration = 0.01;
+inline constexpr double kMostExaggeration = 100.0;
 
 /// Size of the geophone markers on the section.
 enum class GeophoneMarkers { kNone, kSmall, kNormal, kLarge };
@@ -54,7 +73,7 @@ struct SectionViewSettings {
   bool title = true;
   bool gridLines = false;
   GeophoneMarkers geophones = GeophoneMarkers::kNormal;
-  double verticalExaggeration = 1.0;  ///< height of a metre over its width, positive
+  double verticalExaggeration = 1.0;  ///< height of a metre over its width
   bool lockRange = false;             ///< the palette's range stays when another line is shown
   ContourSettings contours;
 };

@@ -5,10 +5,12 @@
 
 class QwtPlot;
 class QwtPlotCurve;
+class QwtPlotLegendItem;
 
 namespace talvesk {
 
-/// The misfit after every external iteration of an inversion, as a small curve that grows.
+/// The misfit of an inversion as small curves that grow: of the section after every external
+/// iteration, 0 being the starting model, and of the solver's last pass in each.
 class MisfitPlot : public QWidget {
   Q_OBJECT
 
@@ -18,10 +20,11 @@ class MisfitPlot : public QWidget {
 
   /// How many iterations there will be, 1 at least.
   void setTotal(int iterations);
-  /// \param rmse of the next iteration, seconds
-  void addMisfit(double rmse);
+  /// Of the next iteration, seconds.
+  /// \param sectionBefore of the section that it started from \param lastPass of its solver
+  void addMisfit(double sectionBefore, double lastPass);
 
-  std::size_t points() const { return mRmse.size(); }
+  std::size_t points() const { return mSection.size(); }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -35,9 +38,12 @@ class MisfitPlot : public QWidget {
   void draw();
 
   QwtPlot* mPlot;
-  QwtPlotCurve* mCurve;
+  QwtPlotCurve* mSectionCurve;
+  QwtPlotCurve* mPassCurve;
+  QwtPlotLegendItem* mLegend;
   int mTotal = 1;
-  std::vector<double> mRmse;  ///< milliseconds
+  std::vector<double> mSection;  ///< milliseconds; of the starting model first
+  std::vector<double> mPass;     ///< milliseconds; of the first iteration first
 };
 
 }  // namespace talvesk

@@ -1,4 +1,5 @@
 #include "app/DialogSetGeometry.h"
+#include "app/FileFolders.h"
 #include "gui/ModalScript.h"
 #include "io/SegyFile.h"
 #include "support/TestSurveys.h"
@@ -19,7 +20,8 @@ TEST(GeometryDialog, savesNoGapsThatItCouldNotLoadAgain) {
   line.goephonesStringSet[0][3].z = kEmpty;
   line.ttArray[1].shotPos2d.x = kEmpty;
   SegyState state;
-  DialogSetGeometry dialog(line, state, {});
+  FileFolders folders{History({})};
+  DialogSetGeometry dialog(line, state, folders, {});
   const auto* notice = dialog.findChild<QLabel*>(QStringLiteral("noticeLabel"));
   for (const auto& [button, text] : {std::pair("saveGeophonesButton", "4 without a position"),
                                      std::pair("saveShotsButton", "2 without a position")}) {

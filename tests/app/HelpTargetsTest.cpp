@@ -18,11 +18,10 @@ namespace {
 
 /// The tests stand beside the program, in the build tree.
 TEST(UserGuide, opensInTheLanguageOfTheWindow) {
-  const std::pair<const char*, const char*> cases[] = {{"en", "en/index.html"},
-                                                       {"it", "it/index.html"},
-                                                       {"it_CH", "it/index.html"},
-                                                       {"xx", "en/index.html"},
-                                                       {"", "en/index.html"}};
+  const std::pair<const char*, const char*> cases[] = {
+      {"en", "en/index.html"}, {"it", "it/index.html"}, {"it_CH", "it/index.html"},
+      {"de", "de/index.html"}, {"fr", "fr/index.html"}, {"es_MX", "es/index.html"},
+      {"xx", "en/index.html"}, {"", "en/index.html"}};
   for (const auto& [language, page] : cases) {
     SCOPED_TRACE(language);
     const QString path = userGuidePath(QString::fromLatin1(language));

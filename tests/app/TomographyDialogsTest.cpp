@@ -40,73 +40,132 @@ std::string text(const QWidget& parent, const char* label) {
   return child<QLabel>(parent, label).text().toStdString();
 }
 
-/// 24 geophones 2 m apart, shots at both ends: 50 m of array from -1 m of the first shot on.
-SurveyProfile profile() {
-  return testing::testLine(24, 2.0, {-1.0, 47.0}).surveyProfile();
-}
-
 // --- Grid
 
-TEST(GridDialog, showsWhatIsProposedAndTheGridThatItMakes) {
-  const gridDialog dialog(profile(), {25.0, 0.5, 6}, 2);
-  EXPECT_EQ(dialog.windowTitle().toStdString(), "Grid Settings");
-  EXPECT_EQ(text(dialog, "arrayLength"), QLocale().toString(50.0, 'f', 2).toStdString());
-  EXPECT_EQ(dialog.settings().maxDepth, 25.0);
-  EXPECT_EQ(dialog.settings().cellSize, 0.5);
-  EXPECT_EQ(dialog.settings().nodes, 6U);
-  EXPECT_EQ(text(dialog, "columnsFigure"), "100");
-  EXPECT_EQ(text(dialog, "rowsFigure"), "50");
-  EXPECT_EQ(text(dialog, "cellsFigure"), QLocale().toString(5000).toStdString());
+/// 24 geophones 2 m apart, shots at both ends: 50 m of array from -1 m of the first shot on.
+class GridDialog : public ::testing::Test {
+ protected:
+  gridDialog& open(const GridSettings& proposed) {
+    dialog = std::make_unique<gridDialog>(survey, survey.surveyProfile(), proposed, 2);
+    return *dialog;
+  }
+  QDoubleSpinBox& cellSize() { return child<QDoubleSpinBox>(*dialog, "cellSizeEdit"); }
+  QCheckBox& propose() { return child<QCheckBox>(*dialog, "proposeCBox"); }
+  std::string warning() { return text(*dialog, "warningLabel"); }
+
+  TomoDocument survey = testing::testLine(24, 2.0, {-1.0, 47.0});
+  std::unique_ptr<gridDialog> dialog;
+};
+
+TEST_F(GridDialog, showsWhatIsProposedAndTheGridThatItMakes) {
+  open({25.0, 0.5, 6});
+  EXPECT_EQ(dialog->windowTitle().toStdString(), "Grid Settings");
+  EXPECT_EQ(text(*dialog, "arrayLength"), QLocale().toString(50.0, 'f', 2).toStdString());
+  EXPECT_EQ(dialog->settings().maxDepth, 25.0);
+  EXPECT_EQ(dialog->settings().cellSize, 0.5);
+  EXPECT_EQ(dialog->settings().nodes, 6U);
+  EXPECT_EQ(text(*dialog, "columnsFigure"), "100");
+  EXPECT_EQ(text(*dialog, "rowsFigure"), "50");
+  EXPECT_EQ(text(*dialog, "cellsFigure"), QLocale().toString(5000).toStdString());
   // 51 lines of 501 nodes, 50 rows of 4 levels of 101.
-  EXPECT_EQ(text(dialog, "nodesFigure"), QLocale().toString(45751).toStdString());
-  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(1.0);
-  EXPECT_EQ(text(dialog, "columnsFigure"), "50");
-  EXPECT_EQ(text(dialog, "warningLabel"), "");
+  EXPECT_EQ(text(*dialog, "nodesFigure"), QLocale().toString(45751).toStdString());
+  cellSize().setValue(1.0);
+  EXPECT_EQ(text(*dialog, "columnsFigure"), "50");
+  EXPECT_EQ(warning(), "");
 }
 
-TEST(GridDialog, keepsValuesInTheRangesOfItsFields) {
-  const gridDialog dialog(profile(), {80.0, 0.0, 0}, 2);
-  EXPECT_EQ(dialog.settings().maxDepth, 50.0) << "no deeper than the array is long";
-  EXPECT_EQ(dialog.settings().cellSize, 0.1);
-  EXPECT_EQ(dialog.settings().nodes, 6U);
+TEST_F(GridDialog, keepsValuesInTheRangesOfItsFields) {
+  open({80.0, 0.0, 0});
+  EXPECT_EQ(dialog->settings().maxDepth, 50.0) << "no deeper than the array is long";
+  EXPECT_EQ(dialog->settings().cellSize, 0.1);
+  EXPECT_EQ(dialog->settings().nodes, 6U);
 }
 
-TEST(GridDialog, tellsOfPositionsThatTheLastColumnDoesNotReach) {
-  const gridDialog dialog(profile(), {25.0, 1.0, 6}, 2);
-  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(3.5);  // 14 columns, 49 m: just reached
-  EXPECT_EQ(text(dialog, "warningLabel"), "");
-  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(3.0);  // 16 columns, 48 m
-  EXPECT_THAT(text(dialog, "warningLabel"), ::testing::HasSubstr("beyond the last column"));
-  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(1.0);
-  child<QDoubleSpinBox>(dialog, "maxDepthEdit").setValue(0.4);
-  EXPECT_THAT(text(dialog, "warningLabel"), ::testing::HasSubstr("no rows"));
+TEST_F(GridDialog, givesBackWhatWasProposedWithAllItsDigits) {
+  open({24.2451237, 0.33333, 6});
+  EXPECT_EQ(child<QDoubleSpinBox>(*dialog, "maxDepthEdit").value(), 24.245);
+  EXPECT_EQ(dialog->settings().maxDepth, 24.2451237);
+  EXPECT_EQ(dialog->settings().cellSize, 0.33333);
+  cellSize().setValue(0.5);
+  child<QDoubleSpinBox>(*dialog, "maxDepthEdit").setValue(12.125);
+  EXPECT_EQ(dialog->settings().cellSize, 0.5);
+  EXPECT_EQ(dialog->settings().maxDepth, 12.125);
 }
 
-TEST(GridDialog, tellsThatTheSmallestCellsAreSlow) {
-  const gridDialog dialog(profile(), {25.0, 0.0, 6}, 2);  // as before the first grid of a run
-  EXPECT_THAT(text(dialog, "warningLabel"),
+TEST_F(GridDialog, goesBetweenTheProposalAndTheGridThereIs) {
+  open({25.0, 0.5, 6});
+  EXPECT_TRUE(propose().isChecked());
+  propose().click();
+  EXPECT_EQ(dialog->settings().cellSize, 0.1) << "the least, without a grid";
+  propose().click();
+  EXPECT_EQ(dialog->settings().cellSize, 0.5);
+  cellSize().setValue(1.25);
+  EXPECT_FALSE(propose().isChecked()) << "this is no proposal";
+  testing::putGrid(survey, 12.0, 0.8);
+  open({25.0, 0.5, 6});
+  propose().click();
+  EXPECT_EQ(dialog->settings().cellSize, 0.8);
+}
+
+TEST_F(GridDialog, countsWhatTheLastColumnDoesNotReachAndOffersSizesThatDo) {
+  testing::pickTwoLayers(survey, 450.0, 1800.0, 3.0);
+  open({25.0, 1.0, 6});
+  cellSize().setValue(3.5);  // 14 columns, 49 m: just reached
+  EXPECT_EQ(warning(), "");
+  EXPECT_TRUE(child<QPushButton>(*dialog, "largerButton").isHidden());
+  cellSize().setValue(3.0);  // 16 columns and a node, 48.6 m
+  EXPECT_THAT(warning(), ::testing::HasSubstr("beyond the last column, 24 of 48 picks."));
+  // 17 columns of 2.941 m; 16 of 3.025 m and a node, 49.005 m.
+  for (const auto& [button, size] :
+       {std::pair("smallerButton", 2.941), std::pair("largerButton", 3.025)}) {
+    cellSize().setValue(3.0);
+    child<QPushButton>(*dialog, button).click();
+    EXPECT_EQ(dialog->settings().cellSize, size);
+    EXPECT_EQ(warning(), "");
+    EXPECT_TRUE(child<QPushButton>(*dialog, button).isHidden());
+  }
+}
+
+TEST_F(GridDialog, tellsOfPositionsThatTheLastColumnDoesNotReachBeforeThereAreShots) {
+  survey.ttArray.clear();
+  open({25.0, 1.0, 6});
+  cellSize().setValue(10.0);  // 4 columns, 42 m of 48
+  EXPECT_THAT(warning(), ::testing::HasSubstr("beyond the last column"));
+}
+
+TEST_F(GridDialog, saysAllThatHoldsAtOnce) {
+  survey.has_tomographic_info = true;
+  open({0.0, 3.0, 6});
+  for (const char* words : {"no rows", "beyond the last column", "last inversion will be lost"}) {
+    EXPECT_THAT(warning(), ::testing::HasSubstr(words));
+  }
+}
+
+TEST_F(GridDialog, tellsThatTheSmallestCellsAreSlow) {
+  open({25.0, 0.1, 6});
+  EXPECT_THAT(warning(),
               ::testing::HasSubstr("is " + QLocale().toString(0.5, 'f', 2).toStdString() + " m."));
-  child<QDoubleSpinBox>(dialog, "cellSizeEdit").setValue(0.25);
-  EXPECT_EQ(text(dialog, "warningLabel"), "");
+  cellSize().setValue(0.25);
+  EXPECT_EQ(warning(), "");
 }
 
-TEST(GridDialog, warnsAndClosesAllTheSame) {
+TEST_F(GridDialog, warnsAndClosesAllTheSame) {
   ModalScript dialogs;
-  gridDialog dialog(profile(), {25.0, 1.0, 15}, 2);
-  dialog.accept();
+  open({25.0, 1.0, 15});
+  dialog->accept();
   EXPECT_TRUE(dialogs.finished()) << "15 nodes are none too many";
-  child<QDoubleSpinBox>(dialog, "maxDepthEdit").setValue(0.0);
-  child<QSpinBox>(dialog, "nodesEdit").setValue(16);
+  child<QDoubleSpinBox>(*dialog, "maxDepthEdit").setValue(0.0);
+  child<QSpinBox>(*dialog, "nodesEdit").setValue(16);
   dialogs.expectBox("Invalid parameter",
                     "The max depth parameter set to 0.0 is not valid for tomography", "",
                     QMessageBox::Ok);
   dialogs.expectBox("Memory warning", "A large number of nodes may require a lot of memory", "",
                     QMessageBox::Ok);
-  dialog.setResult(QDialog::Rejected);
-  dialog.accept();
-  EXPECT_EQ(dialog.result(), QDialog::Accepted);
-  EXPECT_EQ(dialog.settings().maxDepth, 0.0);
-  EXPECT_EQ(dialog.settings().nodes, 16U);
+  dialog->setResult(QDialog::Rejected);
+  dialog->accept();
+  EXPECT_EQ(dialog->result(), QDialog::Accepted);
+  EXPECT_EQ(dialog->settings().maxDepth, 0.0);
+  EXPECT_EQ(dialog->settings().nodes, 16U);
 }
 
 // --- Inversion
@@ -162,11 +221,11 @@ TEST(ProgressDialog, countsIterations) {
   dialog.addCompleted();
   EXPECT_EQ(child<QProgressBar>(dialog, "progressBar").value(), 33) << "truncated";
   dialog.addCompleted();
-  Misfit misfit;
-  dialog.addMisfit(misfit);
+  TomographyProgress progress;
+  dialog.addMisfit(progress);
   EXPECT_EQ(child<MisfitPlot>(dialog, "misfitPlot").points(), 0U) << "no picks, no misfit";
-  misfit.count = 5;
-  dialog.addMisfit(misfit);
+  progress.misfit.count = 5;
+  dialog.addMisfit(progress);
   EXPECT_EQ(child<MisfitPlot>(dialog, "misfitPlot").points(), 1U);
   EXPECT_EQ(child<QTextBrowser>(dialog, "textBrowser").toPlainText().toStdString(),
             "Completed iteration 1\nCompleted iteration 2\n");

@@ -1,11 +1,13 @@
 #!/usr/bin/env python3
 """Fails on a user guide that leads nowhere or calls things by names that the program does not use.
 
-Every language has the same pages and pictures; every link, anchor, style sheet and picture is there;
-every page is reached from the first one; what stands in bold is a text of the program in the
-language of the page; and every command of the window stands in bold on some page.
+Every language of the program has the same pages and pictures, built alike; every link, anchor,
+style sheet and picture is there; every page is reached from the first one and says its language;
+what stands in bold is a text of the program in the language of the page; and every command of the
+window stands in bold on some page.
 """
 import html.parser
+import itertools
 import pathlib
 import sys
 import urllib.parse
@@ -13,15 +15,17 @@ import xml.etree.ElementTree as ElementTree
 
 LARGEST_PICTURE = 150 * 1024  # bytes
 VOID = {"img", "link", "meta", "br"}
+BLOCKS = {"h1", "h2", "h3", "p", "li", "tr", "td", "th", "figure", "pre", "img"}
 
 
 class Page(html.parser.HTMLParser):
-    """Links, anchors and bold texts of a page."""
+    """Language, blocks, links, anchors and bold texts of a page."""
 
     def __init__(self, path):
         super().__init__()
         self.path = path
         self.links, self.anchors, self.bold, self.faults, self.open = [], set(), [], [], []
+        self.language, self.blocks = "", []
         self.feed(path.read_text(encoding="utf-8"))
         if self.open:
             self.faults.append(f"{path}: <{self.open[-1]}> is not closed")
@@ -30,6 +34,10 @@ class Page(html.parser.HTMLParser):
         values = dict(attributes)
         if tag not in VOID:
             self.open.append(tag)
+        if tag == "html":
+            self.language = values.get("lang")
+        if tag in BLOCKS:
+            self.blocks.append((tag, values.get("id"), values.get("class"), values.get("src")))
         if "id" in values:
             self.anchors.add(values["id"])
         if tag == "b":
@@ -99,11 +107,36 @@ def reached_from(first, pages):
     return found
 
 
+def languages_of_program(root):
+    translations = (root / "resources" / "translations").glob("talvesk_*.ts")
+    return {path.stem.partition("_")[2] for path in translations}
+
+
+def faults_of_language(page, model, languages):
+    """Compares a page with the one of its name that it is a translation of."""
+    own = page.path.parent.name
+    if page.language != own:
+        yield f"{page.path}: the page says that its language is '{page.language}'"
+    for language in sorted(languages - {own}):
+        if f"../{language}/{page.path.name}" not in page.links:
+            yield f"{page.path}: no link to the page in '{language}'"
+    if page.blocks != model.blocks:
+        pairs = enumerate(itertools.zip_longest(page.blocks, model.blocks), 1)
+        number, mine, other = next((at, *pair) for at, pair in pairs if pair[0] != pair[1])
+        yield f"{page.path}: block {number} is {mine}, but {other} in {model.path}"
+    inside = [{link for link in side.links if not link.startswith("../")} for side in (page, model)]
+    for link in sorted(inside[0] ^ inside[1]):
+        yield f"{page.path}: {link} stands here or in {model.path}, not in both"
+
+
 def faults_of_guide(repository):
     root = (repository / "resources" / "guide").resolve()
     languages = sorted(folder for folder in root.iterdir() if folder.is_dir())
-    if not {"en", "it"} <= {folder.name for folder in languages}:
-        yield f"{root}: a language is missing"
+    spoken = languages_of_program(repository)
+    alone = spoken ^ {folder.name for folder in languages}
+    for name in sorted(alone):
+        yield f"{root}: '{name}' is not a language of both program and guide"
+    if alone:
         return
     pages = {path: Page(path) for path in sorted(root.glob("*/*.html"))}
     wanted = {path.name for path in (root / "en").iterdir()}
@@ -114,6 +147,9 @@ def faults_of_guide(repository):
         for path, page in pages.items():
             if path.parent != folder:
                 continue
+            model = root / "en" / path.name
+            if model in pages:
+                yield from faults_of_language(page, pages[model], spoken)
             for text in (" ".join(text.split()) for text in page.bold):
                 if text not in names:
                     yield f"{path}: the program says nowhere '{text}'"

@@ -81,6 +81,23 @@ TEST(Log, withoutAFileReachesTheConsoleOnly) {
   EXPECT_PRED2(isStamped, console.out(), "hello");
 }
 
+TEST(Log, recordsWhatTheConsoleIsToldForIt) {
+  const TestFolder folder;
+  const ConsoleCapture console;
+  Log log(folder.file("run.log"));
+  {
+    const RecordedConsole recorded(log);
+    console::log(" TAB: 0.035");
+    console::logError("[ERROR] Error in opening grid.xml.");
+    console::out() << "no line of the log\n";
+  }
+  console::log("after its time");
+  EXPECT_EQ(console.out(), " TAB: 0.035\nno line of the log\nafter its time\n") << "as they are";
+  EXPECT_EQ(console.error(), "[ERROR] Error in opening grid.xml.\n");
+  EXPECT_PRED2(isStamped, TestFolder::get(log.path()),
+               " TAB: 0\\.035\n" + kStamp + R"(ERROR : \[ERROR\] Error in opening grid\.xml\.)");
+}
+
 TEST(Log, keepsLinesOfSeveralThreadsWhole) {
   const TestFolder folder;
   const ConsoleCapture console;

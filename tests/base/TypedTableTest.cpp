@@ -58,7 +58,8 @@ TEST(TypedNumber, followsTheUsersDecimalMarkWhereTheTextDoesNotTell) {
 
 TypedTable parsed(const std::string& text, bool decimalComma = false) {
   TypedTable table;
-  const Status status = parseTypedTable(text, decimalComma, 100, table);
+  TableRemarks remarks;
+  const Status status = parseTypedTable(text, decimalComma, 100, table, remarks);
   EXPECT_TRUE(status.ok()) << status.message();
   for (auto& row : table) {
     for (double& value : row) value = std::isnan(value) ? kEmpty : value;
@@ -100,14 +101,29 @@ TEST(TypedTable, takesCommasForDecimalMarksWhereTheUserWritesThemSo) {
   EXPECT_EQ(parsed("0,5;100,5\n", true), (TypedTable{{0.5, 100.5}}));
 }
 
+TEST(TypedTable, saysWhichLineItSkippedAsAHeading) {
+  TypedTable table;
+  TableRemarks remarks;
+  ASSERT_TRUE(parseTypedTable("\xEF\xBB\xBFx (m)\tz\n1\t2\n", true, 9, table, remarks).ok());
+  EXPECT_TRUE(remarks.skippedHeading);
+  EXPECT_EQ(remarks.heading, "x (m) z");
+  ASSERT_TRUE(parseTypedTable("\xEF\xBB\xBF,5\t2\n1\t2\n", true, 9, table, remarks).ok());
+  EXPECT_FALSE(remarks.skippedHeading);
+  EXPECT_EQ(table, (TypedTable{{0.5, 2}, {1, 2}}));
+}
+
 TEST(TypedTable, refusesWordsAndTooMuch) {
   TypedTable table = {{7}};
-  Status status = parseTypedTable("1\t2\n3\tten\n", false, 100, table);
+  TableRemarks remarks;
+  Status status = parseTypedTable("1\t2\n3\tten\n", false, 100, table, remarks);
   EXPECT_THAT(status.message(), HasSubstr("line 2: \"ten\" is no number"));
-  status = parseTypedTable("1\n2\n3\n", false, 2, table);
+  status = parseTypedTable("1\n2\n3\n", false, 2, table, remarks);
   EXPECT_THAT(status.message(), HasSubstr("more than 2 rows"));
-  EXPECT_FALSE(parseTypedTable("words", false, 100, table).ok());
+  EXPECT_FALSE(parseTypedTable("words", false, 100, table, remarks).ok());
+  status = parseTypedTable("5 m\t7 m\n3\t4\n", false, 100, table, remarks);
+  EXPECT_THAT(status.message(), HasSubstr("line 1: \"5 m\" is no number"));
   EXPECT_EQ(table, (TypedTable{{7}}));
+  EXPECT_FALSE(remarks.skippedHeading);
 }
 
 }  // namespace

@@ -214,14 +214,55 @@ TEST_F(Picking, thePickerIsHeardOnlyOnRequestAndQuietSaysNothing) {
   EXPECT_EQ(quiet.out + quiet.err, "");
 }
 
-TEST_F(Picking, recordsWithoutPositionsAreWarnedOf) {
-  Seg2Record record = smallShot(0.5);
-  for (Point2D& receiver : record.receivers) receiver = {0.0, 0.0};
+TEST_F(Picking, savesAProjectThatPicksNeedNoFileBeside) {
+  const Environment home = {{"HOME", mFolder / ""}};
+  const std::string project = mFolder / "line.tvsk";
   const Outcome outcome =
-      runBatch({"pick", mFolder.write("heap.sg2", formatSeg2(record)), "-o", mFolder / "out.otte"});
-  EXPECT_EQ(outcome.code, 0);
-  EXPECT_THAT(outcome.err, HasSubstr("--geophones"));
-  EXPECT_THAT(outcome.out, HasSubstr("0 accepted, 13 rejected"));
+      runBatch(arguments("pick", mFiles, {"--project", project, "--filter", "agc"}), home);
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const Outcome told = runBatch({"info", project, "--json", "-"}, home);
+  const ordered_json info = ordered_json::parse(told.out);
+  const ordered_json picked = pickJson({"--filter", "agc"});
+  EXPECT_EQ(info["strings"], picked["strings"]);
+  for (std::size_t shot = 0; shot < 3; ++shot) {
+    EXPECT_EQ(info["shots"][shot]["times"], picked["shots"][shot]["times"]);
+    EXPECT_EQ(info["shots"][shot]["traces"], 13);
+  }
+}
+
+TEST_F(Picking, receiversAtTooFewPlacesAreWarnedOf) {
+  Seg2Record heap = smallShot(0.5);
+  Seg2Record two = heap;
+  for (std::size_t i = 0; i < heap.receivers.size(); ++i) {
+    heap.receivers[i] = {0.0, 0.0};
+    two.receivers[i] = {i < 6 ? 0.0 : 24.0, 0.0};
+  }
+  const struct {
+    std::string file;
+    const char* says;
+  } cases[] = {{mFolder.write("heap.sg2", formatSeg2(heap)), "all receivers are at one place"},
+               {mFolder.write("two.sg2", formatSeg2(two)), "13 receivers are at only 2 places"}};
+  for (const auto& [file, says] : cases) {
+    const Outcome outcome = runBatch({"pick", file, "-o", mFolder / "out.otte"});
+    EXPECT_THAT(outcome.err, HasSubstr(says));
+    EXPECT_THAT(outcome.err, HasSubstr("--geophones"));
+  }
+}
+
+TEST_F(Picking, notASinglePickIsAFailureWithoutResult) {
+  Seg2Record heap = smallShot(0.5);
+  for (Point2D& receiver : heap.receivers) receiver = {0.0, 0.0};
+  const std::string file = mFolder.write("heap.sg2", formatSeg2(heap));
+  const std::size_t files = mFolder.fileCount();
+  for (const char* command : {"pick", "invert"}) {
+    const std::string output = command == std::string("pick") ? "-o" : "--otte";
+    const Outcome outcome = runBatch(
+        {command, file, output, mFolder / "out.otte", "--json", mFolder / "out.json", "--quiet"});
+    EXPECT_EQ(outcome.code, 1) << command;
+    EXPECT_EQ(outcome.err,
+              "talvesk-batch: " + file + ": not a single usable pick; nothing was written\n");
+    EXPECT_EQ(mFolder.fileCount(), files) << command;
+  }
 }
 
 TEST_F(Picking, invertPicksTheSameFirstBreaksAndThreadsChangeNothing) {

@@ -44,7 +44,8 @@ TEST_F(Projects, holdWhatAnInversionGave) {
   EXPECT_EQ(info["rms_percent"], result["rms_percent"]);
   EXPECT_EQ(info["grid"]["righe"], 5);
   EXPECT_EQ(info["shots"].size(), 3U);
-  EXPECT_EQ(info["shots"][1]["computed_times"], result["computed_times"][1]);
+  EXPECT_EQ(info["shots"][1]["computed_times"], result["section_times"][1]);
+  EXPECT_EQ(info["section_rmse_ms"], result["section_rmse_ms"]);
   EXPECT_EQ(info["has_tomographic_info"], true);
   const Outcome text = run({"info", project});
   EXPECT_THAT(text.out, HasSubstr("  grid        5 rows, 26 columns of 1 m\n"));

@@ -1,6 +1,12 @@
 #include "batch/BatchRunner.h"
+#include "io/ProjectWriter.h"
 #include "io/TravelTimeFile.h"
+#include "io/projectReader.h"
+#include "refraction/BuildProfiles.h"
+#include "support/ConsoleCapture.h"
 #include "support/RefractionLines.h"
+
+#include <algorithm>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,7 +16,9 @@ namespace talvesk::batchtest {
 namespace {
 
 using nlohmann::ordered_json;
+using ::testing::AnyOf;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 /// A line over three layers as a file, and the true marks as another.
 struct Survey {
@@ -69,6 +77,28 @@ TEST(Refract, writesTableAndPictures) {
   EXPECT_EQ(contentsOf(survey.folder / "r.json").substr(0, 7), "{\n\"v1\":");
 }
 
+TEST(Refract, savesItsLayersInAProjectAndDescribesThemInAReport) {
+  const Survey survey;
+  const Environment home = {{"HOME", survey.folder / ""}};
+  const std::string project = survey.folder / "line.tvsk";
+  const std::string first = survey.folder / "first.json";
+  const std::string again = survey.folder / "again.json";
+  const std::string report = survey.folder / "line.odt";
+  const Outcome outcome =
+      runBatch({"refract", survey.picks, "--layers", survey.layers, "--xy", "2", "--json", first,
+                "--project", project, "--report", report, "--report-title", "Dipping"},
+               home);
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_EQ(contentsOf(report).substr(0, 2), "PK");
+  // The project brings its marks and its XY.
+  ASSERT_EQ(runBatch({"refract", project, "--json", again}, home).code, 0);
+  const ordered_json before = ordered_json::parse(contentsOf(first));
+  const ordered_json after = ordered_json::parse(contentsOf(again));
+  EXPECT_EQ(after["refractors"][0]["xy"], 2.0);
+  EXPECT_EQ(after["shots"], before["shots"]);
+  EXPECT_EQ(after["refractors"][0]["depth"], before["refractors"][0]["depth"]);
+}
+
 TEST(Refract, saysWhatKeepsItFromAProfile) {
   const Survey survey;
   const std::string out = survey.folder / "r.json";
@@ -104,6 +134,53 @@ TEST(Refract, saysWhatKeepsItFromAProfile) {
     EXPECT_THAT(outcome.err, HasSubstr(c.message)) << c.what;
     EXPECT_FALSE(survey.folder.holds("r.json")) << c.what;
   }
+}
+
+TEST(Refract, leavesOutWhatNoGroundHasAndSaysSoEvenWhenQuiet) {
+  const Survey survey;
+  std::string text = contentsOf(survey.layers);
+  std::replace(text.begin(), text.end(), '1', '0');
+  const std::string layers = survey.folder.write("no_first.csv", text);
+  const std::string table = survey.folder / "profile.txt";
+  const Outcome outcome = runBatch(
+      {"refract", survey.picks, "--layers", layers, "--json", "-", "--table", table, "--quiet"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("Layer 1: no shot that takes part has two picks"));
+  const ordered_json json = ordered_json::parse(outcome.out);
+  EXPECT_TRUE(json["v1"].is_null());
+  EXPECT_TRUE(json["refractors"][0]["depth"][7].is_null());
+  EXPECT_TRUE(json["refractors"][0]["velocity"][7].is_number());
+  EXPECT_THAT(contentsOf(table), Not(AnyOf(HasSubstr("nan"), HasSubstr("inf"))));
+}
+
+TEST(Refract, ofAProjectTellsWhetherPicksHaveChangedSince) {
+  const testing::ConsoleCapture console;
+  const Survey survey;
+  const Folder home;
+  LoadedProject project;
+  project.document =
+      testing::standardDippingLine(testing::threeDippingLayers(), project.interpretation.ttLayer);
+  ASSERT_TRUE(buildProfiles(shotArrivals(project.document), project.interpretation).built);
+  const std::string path = survey.folder / "line.tvsk";
+  const auto saved = [&] {
+    ProjectWriter writer;
+    EXPECT_EQ(writer.save(path, home / "", project.document, project.interpretation,
+                          project.palettes, project.section),
+              0);
+  };
+  const auto run = [&](std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"info", path});
+    const Outcome outcome = runBatch(arguments, {{"HOME", home / ""}});
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    return outcome.out;
+  };
+  saved();
+  EXPECT_THAT(run({}), HasSubstr("\n  layers      2 refractors\n"));
+  EXPECT_EQ(ordered_json::parse(run({"--json", "-"}))["picks_changed_since_profile"], false);
+  project.document.ttArray[4].ttMisurati[9] *= 1.01;
+  saved();
+  EXPECT_THAT(run({}), HasSubstr("\n  layers      2 refractors, picks have changed since\n"));
+  EXPECT_EQ(ordered_json::parse(run({"--json", "-"}))["picks_changed_since_profile"], true);
 }
 
 }  // namespace

@@ -20,20 +20,25 @@ TomographyProgress threeOfTen() {
   progress.misfit.count = 5;
   progress.misfit.rmse = 0.0015;
   progress.misfit.relativeRms = 0.031;
+  progress.sectionBefore.count = 5;
+  progress.sectionBefore.rmse = 0.0025;
+  progress.sectionBefore.relativeRms = 0.04;
   return progress;
 }
 
 TEST(Progress, remainingTimeFollowsFromTheIterationsDone) {
-  EXPECT_EQ(progressLine(threeOfTen()),
-            "External iteration 3 of 10: RMSE 1.5 ms (3.1 %), elapsed 1:30, remaining about 3:30");
+  EXPECT_EQ(
+      progressLine(threeOfTen()),
+      "External iteration 3 of 10: section of 2 2.5 ms (4 %), last solver pass 1.5 ms (3.1 %), "
+      "elapsed 1:30, remaining about 3:30");
 }
 
 TEST(Progress, barFitsATerminalLine) {
   TomographyProgress progress = threeOfTen();
-  EXPECT_EQ(progressBar(progress, 10), "[###.......] 3/10 RMSE 1.5 ms (3.1 %) 3:30 left");
+  EXPECT_EQ(progressBar(progress, 10), "[###.......] 3/10 section 2.5 ms (4 %) 3:30 left");
   progress.elapsedSeconds = 1e9;
   progress.completed = 1;
-  progress.misfit.rmse = 12.3456789;
+  progress.sectionBefore.rmse = 12.3456789;
   EXPECT_LT(progressBar(progress, 30).size(), 80U);
 }
 

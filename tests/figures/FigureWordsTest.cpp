@@ -1,4 +1,6 @@
 #include "figures/FigureWords.h"
+#include "model/PickFingerprint.h"
+#include "model/Residuals.h"
 #include "support/SectionDocument.h"
 
 #include <gmock/gmock.h>
@@ -35,7 +37,17 @@ TEST(FigureWords, theCaptionStatesWhatTheReaderCannotSee) {
   const SectionScene scene = sceneOf(document, options);
   EXPECT_EQ(captionOf(scene, 1.0),
             "Velocity 300 to 1000 m/s   \u00B7   Contours every 100 m/s   \u00B7   "
-            "RMS misfit of the inversion 2.35 %");
+            "last solver pass 2.35 %");
+  document.timesOfSection = true;
+  document.ttArray.front().ttMisurati = {0.010, 0.020, kNoTime};
+  document.ttArray.front().ttCalcolati = {0.011, 0.018, 0.5};
+  document.lastInversion = InversionRecord();
+  document.lastInversion->picks = fingerprintOfPicks(document.ttArray);
+  EXPECT_THAT(captionOf(sceneOf(document), 1.0),
+              HasSubstr("   \u00B7   RMS misfit 1.58 ms, 10 %   \u00B7   last solver pass 2.35 %"));
+  document.ttArray.front().ttMisurati[2] = 0.5;
+  EXPECT_THAT(captionOf(sceneOf(document), 1.0),
+              HasSubstr("1.29 ms, 8.16 %   \u00B7   picks have changed since the inversion"));
   EXPECT_THAT(captionOf(scene, 2.0), HasSubstr("Vertical exaggeration 2.0"));
   EXPECT_THAT(captionOf(scene, 1.25), HasSubstr("Vertical exaggeration 1.25"));
   document.has_tomographic_info = false;

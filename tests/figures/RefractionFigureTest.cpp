@@ -46,5 +46,20 @@ TEST(RefractionFigure, hasNothingToDrawWithoutADepth) {
   EXPECT_TRUE(bytes.isEmpty());
 }
 
+TEST(RefractionFigure, saysThatPicksHaveChangedSince) {
+  const testing::ConsoleCapture console;
+  refractionDataStructure::Interpretation all;
+  TomoDocument line = testing::standardDippingLine(testing::twoDippingLayers(), all.ttLayer);
+  ASSERT_TRUE(buildProfiles(shotArrivals(line), all).built);
+  const auto says = [&] {
+    QByteArray svg;
+    EXPECT_TRUE(renderRefractionFigure(line, all.refractData, {}, FigureFormat::kSvg, svg).ok());
+    return svg.contains("Picks have changed since this was built");
+  };
+  EXPECT_FALSE(says());
+  line.ttArray[3].ttMisurati[8] = kUnpicked;
+  EXPECT_TRUE(says());
+}
+
 }  // namespace
 }  // namespace talvesk

@@ -1,9 +1,14 @@
 #include "figures/MisfitFigures.h"
+#include "figures/ProfileLines.h"
 #include "figures/Report.h"
+#include "figures/ReportBuilder.h"
 #include "figures/ReportPages.h"
+#include "model/Residuals.h"
+#include "refraction/PicksFingerprint.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 #include "support/TestSurveys.h"
+#include "tomo/RayRecomputation.h"
 #include "tomo/TomographyRun.h"
 #include "view/SectionViewSettings.h"
 
@@ -27,6 +32,7 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using testing::TestFolder;
 using Kind = ReportItem::Kind;
 
@@ -185,7 +191,7 @@ TEST(Report, leavesOutWhatIsNotWanted) {
   EXPECT_THAT(textsOf(content, Kind::kFigure),
               ElementsAre("Figure 1. Velocity section",
                           "Figure 2. Residuals of the picks against the distance from their shot",
-                          "Figure 3. Misfit after every external iteration"));
+                          HasSubstr("Figure 3. RMS misfit of the section after every")));
 }
 
 TEST(Report, refusesASurveyOfNothing) {
@@ -241,7 +247,7 @@ TEST(Report, keepsItsOwnNumbersAndThoseOfTheRun) {
   const ReportTable parameters = tableOf(content, "Parameters of the inversion");
   EXPECT_THAT(parameters.rows, Contains(QStringList({"External iterations", "2 of 2"})));
   EXPECT_THAT(parameters.rows, Contains(QStringList({"Velocity limits", "250 \u2013 3500 m/s"})));
-  EXPECT_EQ(tableOf(content, "Misfit after every external iteration").rows.size(), 2u);
+  EXPECT_EQ(tableOf(content, "Misfit after every external iteration").rows.size(), 3u);
   EXPECT_THAT(tableOf(content, "The line").rows,
               Contains(QStringList({"Length of the line", "24.00 m"})));
 }
@@ -281,14 +287,41 @@ TEST(Report, showsItsSectionsWhateverTheViewHides) {
   EXPECT_EQ(sectionsOf(line, bands)[1], wanted[1]) << "bands are of velocity only";
 }
 
-TEST(Report, tellsTimesOfTheInversionFromTimesTracedAnew) {
+TEST(Report, tellsOneMisfitOfTheSectionBeforeAndAfterItsRaysAreTracedAnew) {
   TomoDocument line = invertedLine();
-  const auto captions = [&line] { return textsOf(reportOn({line}), Kind::kTable); };
-  EXPECT_THAT(captions(), Contains(HasSubstr("Misfit after the last external iteration")));
-  for (TravelTime& record : line.ttArray) {
-    for (double& time : record.ttCalcolati) time += 0.001;
+  const auto misfit = [&] {
+    return tableOf(reportOn({line}), "Misfit of the section, along fresh rays").rows;
+  };
+  const std::vector<QStringList> before = misfit();
+  ASSERT_EQ(before.size(), 4u);
+  {
+    const testing::ConsoleCapture console;
+    Log log;
+    ASSERT_TRUE(recomputeRays(line, log).ok());
   }
-  EXPECT_THAT(captions(), Contains(HasSubstr("Misfit of the section")));
+  EXPECT_EQ(misfit(), before);
+  const QString first = tableOf(reportOn({line}), "Picks of every shot").rows.back()[4];
+  EXPECT_EQ(first.toDouble(), std::round(before[1][1].section(' ', 0, 0).toDouble() * 100) / 100);
+  const Misfit& pass = line.lastInversion->history.back();
+  EXPECT_EQ(tableOf(reportOn({line}), "Last solver pass of the inversion").rows[0][1],
+            report::number(1e3 * pass.rmse, 3) + " ms, " +
+                report::number(1e2 * pass.relativeRms, 2) + " %");
+}
+
+TEST(Report, saysThatPicksHaveChangedAndSpeaksOfNoInversionWithoutOne) {
+  TomoDocument line = invertedLine();
+  const auto hasText = [&](const char* words) {
+    const std::vector<std::string> texts = textsOf(reportOn({line}), Kind::kParagraph);
+    return std::any_of(texts.begin(), texts.end(), [&](const std::string& text) {
+      return text.find(words) != std::string::npos;
+    });
+  };
+  EXPECT_FALSE(hasText("Picks have changed"));
+  EXPECT_TRUE(hasText("inverted by travel-time tomography"));
+  line.ttArray[1].ttMisurati[2] *= 1.1;
+  EXPECT_TRUE(hasText("Picks have changed"));
+  line.clearInversion();
+  EXPECT_FALSE(hasText("inverted by travel-time tomography"));
 }
 
 TEST(Report, breaksPagesOnlyWhereAReaderWould) {
@@ -346,8 +379,9 @@ TEST(Report, writesOdtThatHoldsItsTextsTablesAndPictures) {
   EXPECT_EQ(file.substr(30, 47), "mimetypeapplication/vnd.oasis.opendocument.text");
   const std::string content = memberOf(path, "content.xml");
   const std::string text = textOfXml(content);
-  for (const char* part : {"Line <3> & \xE2\x82\xAC", "Ünal", "First.", "Second.", "Survey",
-                           "Table 1. The line", "Figure 5. Misfit after every"}) {
+  for (const char* part :
+       {"Line <3> & \xE2\x82\xAC", "Ünal", "First.", "Second.", "Survey", "Table 1. The line",
+        "Figure 5. RMS misfit of the section after every"}) {
     EXPECT_THAT(text, HasSubstr(part));
   }
   EXPECT_THAT(content, HasSubstr("table:table-header-rows"));
@@ -384,6 +418,42 @@ TEST(Report, velocitiesOfARefractorRangeOverThoseThatAreKnown) {
       tableOf(reportOn({document, &interpretation}), QStringLiteral("Layers and refractors"));
   ASSERT_GE(facts.rows.size(), 2u);
   EXPECT_EQ(facts.rows[1][1].toStdString(), "1801 \u2013 1811 m/s");
+}
+
+TEST(Report, saysWhatIsNotKnownOfTheLayers) {
+  const TomoDocument document = pickedLine();
+  refractionDataStructure::Interpretation interpretation = oneRefractor();
+  const auto paragraphs = [&] {
+    return textsOf(reportOn({document, &interpretation}), Kind::kParagraph);
+  };
+  EXPECT_THAT(paragraphs(), Not(Contains(HasSubstr("No velocity is given"))));
+  auto& results = interpretation.refractData;
+  results.v1 = NAN;
+  results.cData[0].velocity.assign(13, NAN);
+  results.cData[0].depth.assign(13, NAN);
+  EXPECT_THAT(paragraphs(), Contains(HasSubstr("No velocity is given")));
+  const ReportContent content = reportOn({document, &interpretation});
+  const ReportTable facts = tableOf(content, QStringLiteral("Layers and refractors"));
+  EXPECT_EQ(facts.rows[0][1].toStdString(), "\u2013");
+  EXPECT_EQ(facts.rows[1][1].toStdString(), "\u2013");
+  const ReportTable depths = tableOf(content, QStringLiteral("Depths below the surface"));
+  EXPECT_EQ(depths.rows[4][2].toStdString(), "\u2013");
+  EXPECT_EQ(depths.rows[4][3].toStdString(), "\u2013");
+}
+
+TEST(Report, marksAProfileWhosePicksHaveChangedSince) {
+  TomoDocument document = pickedLine();
+  refractionDataStructure::Interpretation interpretation = oneRefractor();
+  interpretation.refractData.picks = fingerprintOf(shotArrivals(document));
+  const auto said = [&] {
+    return textsOf(reportOn({document, &interpretation}), Kind::kParagraph);
+  };
+  const char* mark = "picks have changed since";
+  EXPECT_THAT(said(), Not(Contains(HasSubstr(mark))));
+  EXPECT_EQ(profileLines(document, interpretation)[0].name, "Refractor 1");
+  document.ttArray[1].ttMisurati[4] += 1e-4;
+  EXPECT_THAT(said(), Contains(HasSubstr(mark)));
+  EXPECT_THAT(profileLines(document, interpretation)[0].name, HasSubstr(mark));
 }
 
 }  // namespace

@@ -86,7 +86,7 @@ TEST(TravelTimeFigure, computedTimesAreTheLinesWhenThereAreAny) {
   const Curves curves = curvesOf(document, FigureFormat::kSvg);
   EXPECT_EQ(curves.layout.computedTimes, 5U);
   EXPECT_THAT(curves.bytes, HasSubstr(">Computed<"));
-  EXPECT_THAT(curves.bytes, HasSubstr("RMS misfit 202 %"));
+  EXPECT_THAT(curves.bytes, HasSubstr("ms, 202 %"));
   const Curves picture = curvesOf(document, FigureFormat::kPng);
   EXPECT_LT(picture.colorAt(11.0, 40.0).lightness(), 240);
   EXPECT_EQ(picture.colorAt(11.0, 500.0 * (firstBreak(0) + firstBreak(1))).lightness(), 255);

@@ -2,15 +2,19 @@
 
 #include <QCheckBox>
 #include <QFile>
+#include <QImage>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QSet>
 #include <QTabWidget>
+#include <QTextDocument>
 #include <QToolBar>
 
 namespace talvesk {
 namespace {
 
+using ::testing::HasSubstr;
 using testing::WindowTest;
 
 struct Command {
@@ -103,6 +107,38 @@ TEST_F(Commands, areAsUsersKnowThem) {
       EXPECT_FALSE(found.icon().isNull());
     }
   }
+}
+
+TEST_F(Commands, ofOneMenuHavePicturesOfTheirOwn) {
+  open();
+  for (const char* menu : {"menuFile", "menuProject", "menuProcessing", "menuView"}) {
+    std::vector<std::pair<std::string, QImage>> pictures;
+    for (const QAction* each : child<QMenu>(menu).actions()) {
+      if (each->icon().isNull()) continue;
+      const QImage picture = each->icon().pixmap(48, 48).toImage();
+      for (const auto& [name, other] : pictures) {
+        EXPECT_NE(picture, other) << name << " and " << each->objectName().toStdString();
+      }
+      pictures.emplace_back(each->objectName().toStdString(), picture);
+    }
+    EXPECT_GE(pictures.size(), 2U) << menu;
+  }
+}
+
+TEST_F(Commands, tellWhatLibrariesTheProgramIsBuiltWith) {
+  open();
+  dialogs.expect([](QWidget& widget) {
+    QTextDocument page;
+    page.setHtml(dynamic_cast<QMessageBox&>(widget).text());
+    const std::string text = page.toPlainText().toStdString();
+    for (const char* name :
+         {"Talvesk 2022.0", "Qt", "VTK", "Qwt", "PROJ", "libzip", "liquid-dsp", "Eigen", "cereal",
+          "LGPL", "BSD 3-Clause", "MIT", "MPL 2.0", qVersion()}) {
+      EXPECT_THAT(text, HasSubstr(name));
+    }
+    widget.close();
+  });
+  action("actionAbout").trigger();
 }
 
 /// All actions below a menu, its submenus included.

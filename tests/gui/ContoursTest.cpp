@@ -1,3 +1,4 @@
+#include "app/FileFolders.h"
 #include "app/contourlines_dialog.h"
 #include "gui/WindowTest.h"
 #include "support/SectionDocument.h"
@@ -28,7 +29,8 @@ class Contours : public WindowTest {
     ContourSettings settings;
     settings.customized = true;
     settings.customValues = {500.0, 1500.0};
-    dialog = std::make_unique<contourlines_dialog>(settings, ValueRange{250.0, 3500.0}, "m/s");
+    dialog = std::make_unique<contourlines_dialog>(settings, SectionQuantity::kVelocity,
+                                                   ValueRange{250.0, 3500.0}, folders);
     dialog->show();
   }
 
@@ -61,6 +63,7 @@ class Contours : public WindowTest {
   static constexpr int kBlank = 0;
   static constexpr int kSemicolon = 1;
   static constexpr int kComma = 2;
+  FileFolders folders{History(home.file("history.txt"))};
   std::unique_ptr<contourlines_dialog> dialog;
 };
 
@@ -255,6 +258,58 @@ TEST_F(Contours, areProposedRoundAndTheCommandSaysWhetherThereAreAny) {
     command.trigger();
     EXPECT_EQ(command.isChecked(), step.shown);
   }
+}
+
+TEST_F(Contours, haveAListForEachQuantity) {
+  dialog->close();
+  open();
+  window->document() = testing::sectionDocument(6, 20, 0.0, [](std::uint32_t row, std::uint32_t) {
+    return 600.0 + 200.0 * row + 10.0 * row * row;
+  });
+  window->showFile(0);
+  std::vector<std::string> rows;
+  const auto look = [&](const QString& first, const std::string& range) {
+    dialogs.expect([&rows, first, range](QWidget& widget) {
+      const auto edits = widget.findChild<QWidget*>("rows")->findChildren<QLineEdit*>();
+      rows.clear();
+      for (const QLineEdit* edit : edits) rows.push_back(edit->text().toStdString());
+      EXPECT_THAT(widget.findChild<QLabel*>("rangeLabel")->text().toStdString(), HasSubstr(range));
+      if (!first.isEmpty() && !edits.isEmpty()) edits.front()->setText(first);
+      EXPECT_EQ(widget.findChild<QLabel*>("faultLabel")->text().toStdString(), "");
+      widget.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    });
+    action("actionShow_Contour_Lines").trigger();
+  };
+  look("777", "m/s");
+  EXPECT_EQ(rows.front(), "500") << "round ones, as there were none";
+
+  action("actionVertical_Gradient").trigger();
+  look("210", " 1/s");
+  ASSERT_FALSE(rows.empty());
+  EXPECT_THAT(rows, ::testing::Not(::testing::Contains("777"))) << "no velocity is a gradient";
+  const SectionScene* scene = child<SectionView>("vtk_widget").scene();
+  EXPECT_THAT(scene->contourLevels, ::testing::Contains(210.0));
+  EXPECT_FALSE(scene->contours.empty());
+
+  action("actionVertical_Gradient").trigger();
+  look({}, "m/s");
+  EXPECT_THAT(rows, ::testing::Contains("777")) << "kept while the other was edited";
+}
+
+TEST_F(Contours, thatAreSwitchedOnForAQuantityOutOfViewAreRound) {
+  dialog->close();
+  open();
+  window->document() = testing::sectionDocument(6, 20, 0.0, [](std::uint32_t row, std::uint32_t) {
+    return 600.0 + 200.0 * row + 10.0 * row * row;
+  });
+  window->showFile(0);
+  dialogs.expect([](QWidget& widget) {
+    widget.findChild<QCheckBox*>("gradientContours")->click();
+    widget.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+  });
+  action("actionShow_Contour_Lines").trigger();
+  action("actionVertical_Gradient").trigger();
+  EXPECT_FALSE(child<SectionView>("vtk_widget").scene()->contours.empty());
 }
 
 TEST_F(Contours, areRoundOnRequest) {

@@ -60,35 +60,37 @@ class Dialogs : public WindowTest {
   std::vector<Case> cases() {
     TomoDocument& document = window->document();
     const SurveyProfile profile = document.surveyProfile();
-    return {{"geometry", [&] { return make<DialogSetGeometry>(document, mSegy, mContext); }},
-            {"shift", [&] { return make<ExportTomoVelData>(); }},
-            {"images", [&] { return make<ImagesDialog>(document, mLayers, ImageSetOptions(), 0); }},
-            {"palette",
-             [&] {
-               return make<PaletteDialog>(mPalettes, false, ValueRange{250.0, 900.0});
-             }},
-            {"recording", [&] { return make<RecordingDetailsDialog>(document, mFiles, 0); }},
-            {"refraction", [&] { return make<RefractionProcessingDialog>(document, mLayers); }},
-            {"report", [&] { return make<ReportDialog>(ReportOptions(), mBuild); }},
-            {"screenshot", [&] { return make<ScreenshotDialog>(QSize(600, 400)); }},
-            {"separator", [&] { return make<SelectCSVDelimiterDialog>(); }},
-            {"settings", [&] { return make<SettingsDialog>(mLanguages.list(), 0, mSettings); }},
-            {"contours",
-             [&] {
-               return make<contourlines_dialog>(mContours, ValueRange{250.0, 900.0}, "m/s");
-             }},
-            {"filters",
-             [&] { return make<doFilteringDialog>(document, 0, std::vector<std::int32_t>{1}); }},
-            {"grid",
-             [&, profile] {
-               return make<gridDialog>(profile, GridSettings{9.0, 0.5, 6}, 2U);
-             }},
-            {"progress", [&] { return make<progressTomographyDialog>(); }},
-            {"run", [&] { return make<runTomography_Dialog>(250.0, 3500.0); }},
-            {"layers", [&] { return make<select_speed_Dialog>(document); }},
-            {"coordinates",
-             [&] { return make<setGeographyDialog>(std::nullopt, std::optional<LineEnds>()); }},
-            {"smoothing", [&] { return make<smoothingDialog>(SmoothingType::kUniform); }}};
+    return {
+        {"geometry", [&] { return make<DialogSetGeometry>(document, mSegy, mFolders, mContext); }},
+        {"shift", [&] { return make<ExportTomoVelData>(); }},
+        {"images", [&] { return make<ImagesDialog>(document, mLayers, ImageSetOptions(), 0); }},
+        {"palette",
+         [&] {
+           return make<PaletteDialog>(mPalettes, false, ValueRange{250.0, 900.0}, mFolders);
+         }},
+        {"recording", [&] { return make<RecordingDetailsDialog>(document, mFiles, 0); }},
+        {"refraction", [&] { return make<RefractionProcessingDialog>(document, mLayers); }},
+        {"report", [&] { return make<ReportDialog>(ReportOptions(), mBuild); }},
+        {"screenshot", [&] { return make<ScreenshotDialog>(QSize(600, 400)); }},
+        {"separator", [&] { return make<SelectCSVDelimiterDialog>(); }},
+        {"settings", [&] { return make<SettingsDialog>(mLanguages.list(), 0, mSettings); }},
+        {"contours",
+         [&] {
+           return make<contourlines_dialog>(mContours, SectionQuantity::kVelocity,
+                                            ValueRange{250.0, 900.0}, mFolders);
+         }},
+        {"filters",
+         [&] { return make<doFilteringDialog>(document, 0, std::vector<std::int32_t>{1}); }},
+        {"grid",
+         [&, profile] {
+           return make<gridDialog>(document, profile, GridSettings{9.0, 0.5, 6}, 2U);
+         }},
+        {"progress", [&] { return make<progressTomographyDialog>(); }},
+        {"run", [&] { return make<runTomography_Dialog>(250.0, 3500.0); }},
+        {"layers", [&] { return make<select_speed_Dialog>(document); }},
+        {"coordinates",
+         [&] { return make<setGeographyDialog>(std::nullopt, std::optional<LineEnds>()); }},
+        {"smoothing", [&] { return make<smoothingDialog>(SmoothingType::kUniform); }}};
   }
 
   static void show(QDialog& dialog) {
@@ -109,6 +111,7 @@ class Dialogs : public WindowTest {
   }
 
   SegyState mSegy;
+  FileFolders mFolders{History(home.file("history.txt"))};
   DialogSetGeometry::Context mContext;
   refractionDataStructure::Interpretation mLayers;
   ColorPaletteList mPalettes;

@@ -33,7 +33,9 @@
 #include <cstdio>
 #include <exception>
 #include <iterator>
+#include <map>
 #include <stdexcept>
+#include <string>
 #include <utility>
 
 namespace {
@@ -191,6 +193,16 @@ void storeImagesAndReport(Talvesk_MainWindows& window, const QString& line, cons
   });
 }
 
+/// The title of the survey on the pictures, in the language of the guide.
+std::string titleOfLine(const QString& language) {
+  static const std::map<QString, const char*> kTitles = {{QStringLiteral("de"), "Messlinie 1"},
+                                                         {QStringLiteral("es"), "L\u00ednea 1"},
+                                                         {QStringLiteral("fr"), "Ligne 1"},
+                                                         {QStringLiteral("it"), "Linea 1"}};
+  const auto title = kTitles.find(language);
+  return title == kTitles.end() ? "Line 1" : title->second;
+}
+
 void storePictures(const QString& demo, const QString& language, const QString& folder) {
   const WorkingFolder working = WorkingFolder::ofUser();
   working.create();
@@ -203,7 +215,7 @@ void storePictures(const QString& demo, const QString& language, const QString& 
   window.show();
   if (!QTest::qWaitForWindowExposed(&window)) throw std::runtime_error("no window");
   const BoxAnswers boxes;
-  window.document().title = language == QLatin1String("it") ? "Linea 1" : "Line 1";
+  window.document().title = titleOfLine(language);
   loadDemo(window, demo);
   storeTraces(window, folder);
   storeGeometry(window, folder);

@@ -3,11 +3,13 @@
 #include "app/runTomography_Dialog.h"
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
+#include "model/Residuals.h"
 #include "support/TestSurveys.h"
 #include "tomo/Misfit.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QDragEnterEvent>
 #include <QJsonArray>
@@ -17,6 +19,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -90,6 +93,7 @@ class Inverting : public WindowTest {
       ASSERT_NE(box, nullptr);
       EXPECT_EQ(box->windowTitle().toStdString(), "Inversion results");
       results = box->text();
+      details = box->informativeText();
       box->button(QMessageBox::Ok)->click();
     });
   }
@@ -100,6 +104,7 @@ class Inverting : public WindowTest {
   }
 
   QString results;
+  QString details;
 
  private:
   std::unique_ptr<ShowWatch> mWatch;
@@ -139,14 +144,21 @@ TEST_F(Inverting, showsItsResults) {
   run();
   const TomoDocument& line = window->document();
   EXPECT_TRUE(line.has_tomographic_info && line.modified);
-  const Misfit misfit = computeMisfit(line);
+  ASSERT_TRUE(line.lastInversion);
+  const Misfit misfit = line.lastInversion->history.back();
   EXPECT_EQ(line.RMSE_tomography, 100.0 * misfit.relativeRms);
+  const SectionMisfit section = sectionMisfitOf(line);
+  ASSERT_GT(section.count, 0);
+  EXPECT_THAT(child<QStatusBar>("statusBar").currentMessage().toStdString(),
+              HasSubstr("Misfit of the section: RMS "));
   const auto number = [](double value) { return QString::number(value, 'g', 6); };
   const QRegularExpression expected(
-      QStringLiteral("^Elapsed time: \\[s\\] [0-9.e-]+\nRMSE: \\[ms\\] %1; \\[%\\] %2\n"
-                     "MaxError: \\[ms\\] %3; \\[%\\] %4\n$")
+      QStringLiteral("^Section, along fresh rays\nRMS: \\[ms\\] %5; \\[%\\] %6\n[^E]+"
+                     "Last solver pass\nElapsed time: \\[s\\] [0-9.e-]+\nRMSE: \\[ms\\] %1; "
+                     "\\[%\\] %2\nMaxError: \\[ms\\] %3; \\[%\\] %4\n$")
           .arg(number(1000.0 * misfit.rmse), number(100.0 * misfit.relativeRms),
-               number(1000.0 * misfit.maxError), number(100.0 * misfit.maxRelativeError)));
+               number(1000.0 * misfit.maxError), number(100.0 * misfit.maxRelativeError),
+               number(1000.0 * section.rmse), number(100.0 * section.relativeRms)));
   EXPECT_TRUE(expected.match(results).hasMatch()) << results.toStdString();
   EXPECT_EQ(child<QTabWidget>("tabWidget").currentIndex(), 2);
   EXPECT_TRUE(child<QWidget>("showSimTT_CB").isEnabled());
@@ -175,6 +187,37 @@ TEST_F(Inverting, completesTheIterationInWhichItIsStopped) {
   expectResults();
   run();
   EXPECT_THAT(log(), HasSubstr("external iteration 0 ... COMPLETED. "));
+}
+
+TEST_F(Inverting, proposesTheCellSizeOfTheSurveyWhereThereIsNoGrid) {
+  openLine();
+  dialogs.expect([](QWidget& dialog) {
+    EXPECT_TRUE(dialog.findChild<QCheckBox*>(QStringLiteral("proposeCBox"))->isChecked());
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  dialogs.expectAndCancel();  // the parameters
+  run();
+  ASSERT_NE(window->document().grid, nullptr);
+  EXPECT_EQ(window->document().grid->aLato(), 0.5);
+}
+
+TEST_F(Inverting, namesWhatItLeftOut) {
+  openLine();
+  answerGrid(12.0, 3.0);  // 17 columns of 52 m: they end at 51.6 m, the last shot is at 51 m
+  answerParameters(1, 1);
+  expectResults();
+  run();
+  EXPECT_EQ(details.toStdString(), "");
+  answerGrid(12.0, 7.0);  // 7 columns and a node: 50.4 m
+  action("actionGrid").trigger();
+  answerParameters(1, 1);
+  expectResults();
+  run();
+  const std::string shot = " 5 beyond the last column";
+  EXPECT_THAT(details.toStdString(), HasSubstr("Left out of the inversion:\nShot"));
+  EXPECT_THAT(details.toStdString(), HasSubstr(shot + "\n24 of 120 picks"));
+  EXPECT_THAT(child<QStatusBar>("statusBar").currentMessage().toStdString(),
+              HasSubstr(shot + "; 24 of 120 picks."));
 }
 
 TEST_F(Inverting, showsNoResultsWhereNothingIsPicked) {

@@ -1,6 +1,9 @@
 #include "gui/WindowTest.h"
+#include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
+#include "support/TestSurveys.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -8,6 +11,7 @@
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -101,6 +105,77 @@ TEST_F(Loading, startsWhereFilesWereOpenedAndSavingWhereTheyWereSaved) {
   action("actionExport_TravelTimes").trigger();
 }
 
+TEST_F(Loading, startsWhereTheLastFileWasHoweverItCame) {
+  for (const char* folder : {"dropped", "geometry"}) {
+    ASSERT_TRUE(QDir(QString::fromStdString(home.path())).mkdir(folder));
+  }
+  const auto expectFolder = [&](const char* command, const std::string& folder) {
+    dialogs.expect([folder](QWidget& dialog) {
+      EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path().toStdString(), folder);
+      dialog.close();
+    });
+    action(command).trigger();
+  };
+  window->openFiles({shotFile("dropped/a.dat")});
+  expectFolder("actionOpen_shot_files", home.file("dropped"));
+  expectFolder("actionLoad_TT", home.file("dropped"));
+
+  // Dialogs within dialogs, too.
+  dialogs.expect([this](QWidget& palettes) {
+    dialogs.expectFiles("Save Palette", {QString::fromStdString(home.file("geometry/mine.xml"))});
+    palettes.findChild<QAbstractButton*>("saveButton")->click();
+    palettes.close();
+  });
+  action("actionPalette").trigger();
+  expectFolder("actionSave_Project_As", home.file("geometry"));
+  expectFolder("actionOpen_shot_files", home.file("dropped"));
+}
+
+TEST_F(Loading, showsTheShotFilesOfAllFormatsFirst) {
+  dialogs.expect([](QWidget& widget) {
+    const auto& dialog = dynamic_cast<QFileDialog&>(widget);
+    const QStringList filters = dialog.nameFilters();
+    EXPECT_EQ(filters.mid(1).join(";;").toStdString(),
+              "SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;"
+              "All Files (*)");
+    EXPECT_EQ(dialog.selectedNameFilter(), filters.front());
+    for (const char* suffix : {"seg2", "dat", "sg2", "sgy", "segy", "su"}) {
+      EXPECT_TRUE(hasShotFileSuffix(std::string("shot.") + suffix));
+      EXPECT_THAT(filters.front().toStdString(), HasSubstr(std::string("*.") + suffix));
+    }
+    widget.close();
+  });
+  action("actionOpen_shot_files").trigger();
+}
+
+TEST_F(Loading, thatFailsTellsWhyOfEveryFile) {
+  QStringList broken;
+  for (int i = 0; i < 12; ++i) {
+    broken << QString::fromStdString(home.put("broken" + std::to_string(i) + ".dat", "no SEG-2"));
+  }
+  dialogs.expect([&](QWidget& widget) {
+    auto& box = dynamic_cast<QMessageBox&>(widget);
+    EXPECT_EQ(box.windowTitle().toStdString(), "Error occured");
+    EXPECT_THAT(box.informativeText().toStdString(), HasSubstr("and 4 more"));
+    const QStringList reasons = box.detailedText().split('\n');
+    EXPECT_EQ(reasons.size(), broken.size());
+    for (int i = 0; i < std::min(reasons.size(), broken.size()); ++i) {
+      EXPECT_TRUE(reasons[i].startsWith(broken[i] + ": ")) << reasons[i].toStdString();
+      EXPECT_GT(reasons[i].size(), broken[i].size() + 10) << "a reason";
+    }
+    box.button(QMessageBox::Ok)->click();
+  });
+  window->openFiles(broken);
+}
+
+TEST_F(Loading, intoPicksWithoutTracesNamesTheFilesThatItRefuses) {
+  drop({picksFile("picks.otte", 2, 12)});
+  const QString shot = shotFile("a.dat");
+  dialogs.expectBox("Error occured", "Error while loading one or more traces.",
+                    shot + ": the survey holds picks without traces", QMessageBox::Ok);
+  window->openFiles({shot});
+}
+
 TEST_F(Loading, givenUpChangesNothing) {
   dialogs.expectAndCancel();
   action("actionOpen_shot_files").trigger();
@@ -144,6 +219,68 @@ TEST_F(Loading, ofPicksAsksBeforeItReplacesUnsavedOnes) {
                     "Do you want to save your changes?", QMessageBox::Cancel);
   window->openFiles({picksFile("picks.otte", 1, 12)});
   EXPECT_DOUBLE_EQ(window->document().ttArray[0].ttMisurati[0], 0.011);
+}
+
+TEST_F(Loading, asksBeforeGridAndResultsGo) {
+  loadShots(2);
+  TomoDocument& document = window->document();
+  const std::size_t known = document.traceSets.size();
+  testing::putGrid(document, 5.0, 1.0);
+  document.has_tomographic_info = true;
+  document.modified = false;
+  const QString longer = shotFile("longer.dat", 60.0);
+  const char* const question = "The survey changes. This will be lost:";
+  dialogs.expectBox("Warning", question, "the grid and the results of the inversion",
+                    QMessageBox::No);
+  window->openFiles({longer});
+  EXPECT_THAT(document.traceSets, SizeIs(known));
+  EXPECT_TRUE(document.grid != nullptr && document.has_tomographic_info && !document.modified);
+
+  // At a place that is known: the line stays as it is.
+  dialogs.expectBox("Warning", question, "the results of the inversion; the grid stays",
+                    QMessageBox::Yes);
+  window->openFiles({shotFile("again.dat", document.ttArray[0].shotPos2d.x)});
+  EXPECT_THAT(document.traceSets, SizeIs(known + 1));
+  EXPECT_TRUE(document.grid != nullptr && !document.has_tomographic_info);
+  window->openFiles({shotFile("more.dat", document.ttArray[0].shotPos2d.x)});  // nothing to lose
+  EXPECT_NE(document.grid, nullptr);
+
+  dialogs.expectBox("Warning", question, "the grid", QMessageBox::Yes);
+  window->openFiles({longer});
+  EXPECT_THAT(document.traceSets, SizeIs(known + 3));
+  EXPECT_EQ(document.grid, nullptr);
+}
+
+TEST_F(Loading, ofPicksAsksBeforeGridAndResultsGo) {
+  loadShots(2);
+  TomoDocument& document = window->document();
+  testing::putGrid(document, 5.0, 1.0);
+  document.has_tomographic_info = true;
+  document.ttArray[0].ttMisurati[3] = 0.011;
+  document.ttArray[0].ttCalcolati[3] = 0.012;
+  document.modified = false;
+  dialogs.expectFiles("Save TravelTimeExchange", {QString::fromStdString(home.file("same"))});
+  action("actionExport_TravelTimes").trigger();
+  document.modified = false;
+  window->openFiles({QString::fromStdString(home.file("same.otte"))});
+  EXPECT_TRUE(document.grid != nullptr && document.has_tomographic_info) << "nothing has moved";
+  EXPECT_EQ(document.ttArray[0].ttCalcolati[3], 0.012);
+
+  TomoDocument moved;
+  moved.goephonesStringSet = document.goephonesStringSet;
+  moved.ttArray = document.ttArray;
+  moved.ttArray[1].shotPos2d.x += 50.0;
+  ASSERT_TRUE(writeTravelTimes(home.file("moved.otte"), moved).ok());
+  const QString file = QString::fromStdString(home.file("moved.otte"));
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    document.modified = false;
+    dialogs.expectBox("Warning", "The survey changes. This will be lost:",
+                      "the grid and the results of the inversion", answer);
+    window->openFiles({file});
+    EXPECT_EQ(document.grid == nullptr, answer == QMessageBox::Yes);
+    EXPECT_EQ(document.modified, answer == QMessageBox::Yes);
+  }
+  EXPECT_DOUBLE_EQ(document.ttArray[1].shotPos2d.x, moved.ttArray[1].shotPos2d.x);
 }
 
 TEST_F(Loading, asksWhetherTimesCountFromTheShot) {

@@ -4,8 +4,10 @@
 #include "support/TestSurveys.h"
 #include "tomo/Smoothing.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QSpinBox>
 #include <QTest>
 
@@ -73,9 +75,16 @@ TEST_F(Model, gridWithoutGeometryAsksForIt) {
   TomoDocument& line = window->document();
   for (auto& string : line.goephonesStringSet) string.clear();
   line.modified = false;
-  dialogs.expectBox("Warning",
-                    "Geophones do not have geometry! \nPlease set the position of geophones\n", "",
-                    QMessageBox::Ok);
+  dialogs.expect([](QWidget& widget) {
+    auto& box = dynamic_cast<QMessageBox&>(widget);
+    EXPECT_EQ(box.windowTitle().toStdString(), "Warning");
+    EXPECT_EQ(box.icon(), QMessageBox::Warning);
+    EXPECT_EQ(box.text().toStdString(),
+              "Geophones do not have geometry! \nPlease set the position of geophones\n");
+    EXPECT_THAT(box.findChild<QLabel*>("qt_msgbox_label")->styleSheet().toStdString(),
+                HasSubstr("color: red; font-size: 11px;"));
+    box.button(QMessageBox::Ok)->click();
+  });
   dialogs.expect([](QWidget& dialog) {
     EXPECT_EQ(dialog.windowTitle().toStdString(), "Set survey geometry - Dialog");
     dialog.close();
@@ -111,6 +120,8 @@ TEST_F(Model, layersAndSmoothingChangeTheGridUnlessCancelled) {
   }
   EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionDefine_model_velocity_triggered\n"));
   answer([](QWidget&) {});
+  dialogs.expectBox("Define model velocity", "You have not changed the layers.",
+                    "put them into the grid", QMessageBox::Yes);
   action("actionDefine_model_velocity").trigger();
   const std::vector<double> layered = document().grid->slownesses();
   EXPECT_NE(layered, atFirst);

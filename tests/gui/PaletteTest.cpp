@@ -43,7 +43,8 @@ class Palettes : public WindowTest {
   }
 
   ColorPaletteList list;
-  PaletteDialog dialog{list, false, ValueRange{312.0, 2873.0}};
+  FileFolders folders{History(home.file("history.txt"))};
+  PaletteDialog dialog{list, false, ValueRange{312.0, 2873.0}, folders};
   int modified = 0;
   int maximum = 0;
 };

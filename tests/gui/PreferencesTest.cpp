@@ -22,6 +22,11 @@ using testing::WindowTest;
 
 class Preferences : public WindowTest {
  protected:
+  void openForTheFirstTime() {
+    QFile::remove(QString::fromStdString(home.file("Talvesk_TMP/Talvesk_settings.xml")));
+    open();
+    window->start({});
+  }
   void inSettingsDialog(const std::function<void(QWidget&)>& change) {
     dialogs.expect([change](QWidget& dialog) {
       change(dialog);
@@ -36,9 +41,12 @@ class Preferences : public WindowTest {
 };
 
 TEST_F(Preferences, areAskedForAtTheFirstRun) {
-  QFile::remove(QString::fromStdString(home.file("Talvesk_TMP/Talvesk_settings.xml")));
-  inSettingsDialog([](QWidget& dialog) { choose(dialog, "Italiano"); });
-  open();
+  inSettingsDialog([](QWidget& dialog) {
+    ASSERT_NE(dialog.parentWidget(), nullptr);
+    EXPECT_TRUE(dialog.parentWidget()->isVisible()) << "the window that the settings are for";
+    choose(dialog, "Italiano");
+  });
+  openForTheFirstTime();
   EXPECT_EQ(window->settings().language, "it");
   EXPECT_EQ(child<QMenu>("menuTraces").title().toStdString(), "&Tracce");
   const std::string lines = log();
@@ -46,17 +54,34 @@ TEST_F(Preferences, areAskedForAtTheFirstRun) {
   EXPECT_EQ(lines.find("Application Start"), lines.find("] ") + 2) << "the log starts anew";
 
   open();
+  window->start({});
   EXPECT_EQ(child<QMenu>("menuTraces").title().toStdString(), "&Tracce") << "never asked again";
 }
 
 TEST_F(Preferences, keepTheProgramsOwnLanguageWhenTheFirstQuestionIsCancelled) {
-  QFile::remove(QString::fromStdString(home.file("Talvesk_TMP/Talvesk_settings.xml")));
   dialogs.expectAndCancel();
-  open();
+  openForTheFirstTime();
   EXPECT_EQ(window->settings().language, "en");
   EXPECT_TRUE(QFile::exists(QString::fromStdString(home.file("Talvesk_TMP/Talvesk_settings.xml"))));
   loadShots(1);
   EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(), "1 shot file loaded.");
+}
+
+TEST_F(Preferences, haveTheNamesThatTheMenuHas) {
+  for (const char* language : {"en", "it"}) {
+    writeSettings(language);
+    open();
+    const std::pair<const char*, const char*> names[] = {
+        {"fillWiggle", "actionFill_wiggle"},       {"twoColors", "actionTwo_colors"},
+        {"cutHorizontal", "actionCut_horizontal"}, {"zoomIn", "actionZoom_in"},
+        {"showFiltered", "actionShow_filtered"},   {"showAllTraces", "actionShow_all_traces"}};
+    inSettingsDialog([&](QWidget& dialog) {
+      for (const auto& [box, command] : names) {
+        EXPECT_EQ(dialog.findChild<QCheckBox*>(box)->text(), action(command).text());
+      }
+    });
+    action("actionSettings").trigger();
+  }
 }
 
 TEST_F(Preferences, speakEnglishWhenTheLanguageIsNotThereAnyMore) {

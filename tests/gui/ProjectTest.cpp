@@ -1,5 +1,5 @@
 #include "app/RecoveryCopy.h"
-#include "gui/WindowTest.h"
+#include "gui/ProjectsTest.h"
 #include "io/ProjectSnapshot.h"
 #include "io/ProjectWriter.h"
 #include "io/projectReader.h"
@@ -25,38 +25,6 @@ namespace talvesk::testing {
 namespace {
 
 using ::testing::HasSubstr;
-
-/// A window with a survey that was changed, and its project files.
-class Projects : public WindowTest {
- protected:
-  Projects() {
-    open();
-    loadShots(3);
-    document().ttArray[1].ttMisurati[2] = 0.017;
-  }
-
-  TomoDocument& document() { return window->document(); }
-  QString path(const std::string& name) const { return QString::fromStdString(home.file(name)); }
-  void trigger(const char* name) { action(name).trigger(); }
-  void saveAs(const QString& typed) {
-    dialogs.expectFiles(QStringLiteral("Save Project"), {typed});
-    trigger("actionSave_Project_As");
-  }
-  void load(const QString& file) {
-    dialogs.expectFiles(QStringLiteral("Load Project"), {file});
-    trigger("actionLoad_Project");
-  }
-  QStringList recoveryFiles() const {
-    return QDir(path("Talvesk_TMP")).entryList({QStringLiteral("Talvesk_recovery_*")}, QDir::Files);
-  }
-  /// What the timer does every few minutes.
-  void autosave(bool expected = true) {
-    QMetaObject::invokeMethod(window.get(), "autosave");
-    if (!expected) return;
-    EXPECT_TRUE(QTest::qWaitFor(
-        [this] { return !recoveryFiles().filter(QStringLiteral(".tvsk.txt")).isEmpty(); }));
-  }
-};
 
 TEST_F(Projects, areSavedUnderANameWithTheirSuffixAndThenWithoutAsking) {
   EXPECT_TRUE(window->isWindowModified());
@@ -199,10 +167,10 @@ TEST_F(Projects, thatCannotBeSavedAreToldAndStayModified) {
                     QStringLiteral("Something went wrong while saving project ") +
                         path("line.tvsk") +
                         QStringLiteral("\nWARNING: the project has NOT been saved."),
-                    path("line.tvsk~"), QMessageBox::Ok);
+                    QStringLiteral("The file is as it was before."), QMessageBox::Ok);
   trigger("actionSave_Project");
   EXPECT_TRUE(document().modified);
-  EXPECT_TRUE(QFile::exists(path("line.tvsk~")));
+  EXPECT_TRUE(QFile::exists(path("line.tvsk")));
 }
 
 TEST_F(Projects, thatAreNoneLeaveTheSurveyAsItIs) {
@@ -215,6 +183,18 @@ TEST_F(Projects, thatAreNoneLeaveTheSurveyAsItIs) {
   trigger("actionLoad_Project");
   EXPECT_EQ(document().traceSets.size(), 3U);
   EXPECT_EQ(document().ttArray[1].ttMisurati[2], 0.017);
+}
+
+TEST_F(Projects, tellWhatHadToBePutRightInThem) {
+  document().title = "Line\a7";
+  saveAs(path("line.tvsk"));
+  dialogs.expectFiles(QStringLiteral("Load Project"), {path("line.tvsk")});
+  dialogs.expectBox(
+      QStringLiteral("Warning"),
+      QStringLiteral("Some values of the project cannot be. They were put right or left out."),
+      QStringLiteral("it reads \"Line 7\" now"), QMessageBox::Ok);
+  trigger("actionLoad_Project");
+  EXPECT_EQ(document().title, "Line 7");
 }
 
 TEST_F(Projects, tellOfShotFilesThatCouldNotBeSaved) {
@@ -321,7 +301,7 @@ TEST_F(Projects, doNotWaitForARecoveryCopyThatNobodyWantsAnyMore) {
   const auto save = [&recovery] {
     LoadedProject survey;
     survey.document.title = "Line";
-    recovery.save(std::move(survey), QString());
+    recovery.save(std::move(survey), {});
   };
   save();
   recovery.discard();
@@ -373,6 +353,18 @@ TEST_F(Crash, isForgottenOrAskedAboutAgain) {
   EXPECT_TRUE(recoveryFiles().isEmpty());
   EXPECT_TRUE(document().ttArray.empty());
   window->start({});  // nothing to ask
+}
+
+TEST_F(Crash, doesNotHideThatTheProjectWasSavedByOthersSince) {
+  home.put("Talvesk_TMP/Talvesk_recovery_1.tvsk.txt", home.file("line.tvsk") + "\n17 4711");
+  answer(QMessageBox::Open);
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*] - line.tvsk - Crashed"));
+  dialogs.expectBox(QStringLiteral("Save Project"),
+                    QStringLiteral("line.tvsk has been changed by somebody else since it was "
+                                   "opened or saved here."),
+                    QString(), QMessageBox::No);
+  trigger("actionSave_Project");
+  EXPECT_TRUE(document().modified);
 }
 
 TEST_F(Crash, isNotWhatHappenedToAnotherWindow) {

@@ -7,6 +7,7 @@
 #include "widgets/RefractionProfilePlot.h"
 #include "widgets/SectionView.h"
 #include "widgets/SeriesPlot.h"
+#include "widgets/editTravelTimesWidget.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -201,33 +202,10 @@ TEST_F(Refraction, warnsOfAMissingShotPair) {
   EXPECT_EQ(part<QTabWidget>("tabs").currentIndex(), 0);
 }
 
-/// Arrivals at both ends of a line that make tV and tG what a test wants, by x in metres.
-struct Functions {
-  double (*tV)(double);
-  double (*tG)(double);
-};
-
-/// Marks all but the direct wave of the two end shots as the first refractor, with those arrivals.
-void arrive(TomoDocument& line, std::vector<layerStruct>& marks, const Functions& wanted) {
-  for (std::size_t shot = 0; shot < marks.size(); ++shot) {
-    marks[shot].enabled = shot == testing::kStartShot || shot == testing::kEndShot;
-  }
-  for (std::size_t i = 0; i < 60; ++i) {
-    const double x = 2.5 * static_cast<double>(i);
-    const double total = 0.1;
-    const double tV = wanted.tV(x);
-    const double tG = wanted.tG(x);
-    line.ttArray[testing::kStartShot].ttMisurati[i] = tG + tV;
-    line.ttArray[testing::kEndShot].ttMisurati[i] = total + tG - tV;
-    marks[testing::kStartShot].layer[i] = 2;
-    marks[testing::kEndShot].layer[i] = 2;
-  }
-}
-
 TEST_F(Refraction, warnsOfWhatMakesAProfileInaccurate) {
   struct Case {
     const char* what;
-    Functions functions;
+    testing::Functions functions;
     const char* message;
   };
   const auto steady = [](double x) { return 5e-4 * x; };
@@ -247,7 +225,7 @@ TEST_F(Refraction, warnsOfWhatMakesAProfileInaccurate) {
   for (const Case& c : cases) {
     std::vector<layerStruct> truth;
     line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
-    arrive(line, truth, c.functions);
+    testing::arrive(line, truth, c.functions);
     Interpretation interpretation;
     interpretation.ttLayer = truth;
     show(interpretation);
@@ -259,6 +237,24 @@ TEST_F(Refraction, warnsOfWhatMakesAProfileInaccurate) {
                 HasSubstr(QString::fromLatin1(c.message).trimmed().toStdString()));
     dialog.reset();
   }
+}
+
+TEST_F(Refraction, showsNothingThatNoGroundHasAndSaysWhy) {
+  std::vector<layerStruct> truth;
+  line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+  testing::arrive(line, truth, {[](double x) { return x / 11000; }, [](double) { return 0.02; }});
+  Interpretation interpretation;
+  interpretation.ttLayer = truth;
+  show(interpretation);
+  press("buildButton");
+  EXPECT_THAT(part<QLabel>("notesLabel").text().toStdString(),
+              HasSubstr("Layer 2: no velocity and no depth at 5 of 60 receivers"));
+  for (const Point2D& point : part<SeriesPlot>("velocityPlot").series().back().points) {
+    EXPECT_TRUE(std::isnan(point.z) || point.z <= 12000.0) << point.x;
+  }
+  show(dialog->interpretation());
+  EXPECT_THAT(part<QLabel>("notesLabel").text().toStdString(),
+              HasSubstr("Some velocities or depths are not known."));
 }
 
 /// The window on the line, with the keys of the command.
@@ -307,6 +303,41 @@ TEST_F(RefractionCommand, showsTheProfileBeforeThereIsAGrid) {
   EXPECT_LT(scene->lowerLeft().z, scene->surface.front().z - 5.0) << "the refractor is in view";
   action("actionShow_refraction").trigger();
   EXPECT_EQ(child<SectionView>("vtk_widget").scene(), nullptr);
+}
+
+/// In the legend of the section, and in the dialog until the profiles are built again.
+TEST_F(RefractionCommand, marksAProfileWhosePicksHaveChangedSince) {
+  answer(QDialogButtonBox::Ok);
+  const auto name = [this] { return child<SectionView>("vtk_widget").scene()->refractors[0].name; };
+  double& pick = window->document().ttArray[5].ttMisurati[20];
+  const double before = pick;
+  const auto edit = [&](double time) {
+    pick = time;
+    emit child<editTravelTimesWidget>("showTracesWidget").pick_edited();
+  };
+  EXPECT_EQ(name(), "Refractor 1");
+  edit(before + 0.001);
+  EXPECT_EQ(name(), "Refractor 1 (picks have changed since)");
+  edit(before);
+  EXPECT_EQ(name(), "Refractor 1") << "as after undo";
+  edit(before + 0.001);
+  dialogs.expect([](QWidget& dialog) {
+    const auto& label = *dialog.findChild<QLabel*>(QStringLiteral("staleLabel"));
+    EXPECT_EQ(label.text(),
+              QStringLiteral("The picks have changed since the profiles were built."));
+    dialog.findChild<QPushButton*>(QStringLiteral("buildButton"))->click();
+    EXPECT_TRUE(label.text().isEmpty());
+    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+  });
+  action("actionRefraction").trigger();
+  EXPECT_EQ(name(), "Refractor 1");
+}
+
+TEST_F(RefractionCommand, writesHowTheProfileIsMadeToTheLog) {
+  answer(QDialogButtonBox::Cancel);
+  for (const char* line : {"] ID Time\n", "]  TAB: 0.", "] j xy tY tX tAB tVsJ\n"}) {
+    EXPECT_THAT(log(), HasSubstr(line));
+  }
 }
 
 TEST_F(RefractionCommand, leavesTheDocumentAloneOnOkWithoutAChange) {

@@ -2,9 +2,11 @@
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QTabWidget>
 #include <QTest>
 
@@ -71,6 +73,49 @@ TEST_F(Survey, isEmptiedByNewWhichAsksFirst) {
   action("actionNew").trigger();
   EXPECT_THAT(window->document().traceSets, SizeIs(1));
   EXPECT_EQ(window->currentFile(), 0);
+}
+
+TEST_F(Survey, staysWhenNewFindsNoFilesToTakeItsPlace) {
+  loadShots(2);
+  const auto expectAsItWas = [this] {
+    EXPECT_THAT(window->document().traceSets, SizeIs(2));
+    EXPECT_EQ(window->currentFile(), 0);
+    EXPECT_TRUE(window->isWindowModified());
+  };
+  expectToSave(QMessageBox::Discard);
+  dialogs.expectAndCancel();
+  action("actionNew").trigger();
+  expectAsItWas();
+
+  expectToSave(QMessageBox::Discard);
+  const QString broken = QString::fromStdString(home.put("broken.dat", "no SEG-2"));
+  dialogs.expectFiles("Open Seismic Trace", {broken});
+  dialogs.expectBox("Error occured", "Error while loading one or more traces.", broken,
+                    QMessageBox::Ok);
+  action("actionNew").trigger();
+  expectAsItWas();
+}
+
+TEST_F(Survey, isSteppedThroughByShiftAndTheArrowsOfTheKeypad) {
+  loadShots(3);
+  // As X11 hands keys on: no shortcut has matched. The digits come with the number lock off.
+  const auto press = [this](int key, Qt::KeyboardModifiers modifiers) {
+    QKeyEvent event(QEvent::KeyPress, key, modifiers);
+    QApplication::sendEvent(&traces(), &event);
+    return window->currentFile();
+  };
+  const auto shiftKeypad = Qt::ShiftModifier | Qt::KeypadModifier;
+  const struct {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    int shot;
+  } presses[] = {{Qt::Key_Right, shiftKeypad, 1},       {Qt::Key_6, shiftKeypad, 2},
+                 {Qt::Key_Left, shiftKeypad, 1},        {Qt::Key_4, shiftKeypad, 0},
+                 {Qt::Key_Right, Qt::ShiftModifier, 0}, {Qt::Key_Right, Qt::KeypadModifier, 0},
+                 {Qt::Key_Up, shiftKeypad, 0}};
+  for (const auto& each : presses) {
+    EXPECT_EQ(press(each.key, each.modifiers), each.shot) << each.key << " " << each.modifiers;
+  }
 }
 
 TEST_F(Survey, namesItselfInTheTitle) {

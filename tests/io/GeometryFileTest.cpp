@@ -12,9 +12,9 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 GeometryRecords parsed(std::string_view text, const std::string& separator, bool labelled = false) {
-  GeometryRecords records;
-  EXPECT_TRUE(parseRecords(text, "a.csv", separator, labelled, records).ok()) << text;
-  return records;
+  PositionTable table;
+  EXPECT_TRUE(parseRecords(text, "a.csv", separator, labelled, table).ok()) << text;
+  return table.records;
 }
 
 TEST(GeometryFile, returnsWhatWasWrittenWithEverySeparator) {
@@ -33,16 +33,17 @@ TEST(GeometryFile, returnsWhatWasWrittenWithEverySeparator) {
     const std::string path = folder.file("line.csv");
     ASSERT_TRUE(writeRecords(path, separator, records).ok());
     EXPECT_EQ(TestFolder::get(path), geophones);
-    GeometryRecords read;
+    PositionTable read;
     ASSERT_TRUE(readRecords(path, separator, read).ok());
-    EXPECT_EQ(read, (GeometryRecords{{0.0, 101.25}, {5.0, -3e-7}, {1234570.0, 1e20}}));
+    EXPECT_EQ(read.records, (GeometryRecords{{0.0, 101.25}, {5.0, -3e-7}, {1234570.0, 1e20}}));
 
     ASSERT_TRUE(
         writeLabelledRecords(path, separator, {std::string(kShotLabel) + "1"}, {records.front()})
             .ok());
     EXPECT_EQ(TestFolder::get(path), shots);
     ASSERT_TRUE(readLabelledRecords(path, separator, read).ok());
-    EXPECT_EQ(read, (GeometryRecords{{0.0, 101.25}}));
+    EXPECT_EQ(read.records, (GeometryRecords{{0.0, 101.25}}));
+    EXPECT_THAT(describe(read.remarks), IsEmpty());
   }
 }
 
@@ -59,12 +60,79 @@ TEST(GeometryFile, hasNoPositionsWhenReadWithAnotherSeparator) {
   const GeometryRecords records = parsed("1.5;2.5\n3;4\n", ",");
   EXPECT_THAT(records, ElementsAre(ElementsAre(1.5), ElementsAre(3)));
   std::vector<Point2D> positions = {{9, 9}};
-  const Status status = positionsOf(records, positions);
+  const Status status = positionsOf({records, {}}, positions);
   EXPECT_EQ(status.code(), 1);
   EXPECT_THAT(status.message(), HasSubstr("line 1"));
   EXPECT_THAT(positions, ElementsAre(Point2D{9, 9}));
-  ASSERT_TRUE(positionsOf(parsed("1.5;2.5;9\n3;4\n", ";"), positions).ok());
+  ASSERT_TRUE(positionsOf({parsed("1.5;2.5;9\n3;4\n", ";"), {}}, positions).ok());
   EXPECT_THAT(positions, ElementsAre(Point2D{1.5, 2.5}, Point2D{3, 4}));
+}
+
+/// As a spreadsheet saves "Unicode text".
+std::string utf16(const std::string& ascii, bool bigEndian, bool mark) {
+  std::string bytes = !mark ? "" : bigEndian ? "\xFE\xFF" : "\xFF\xFE";
+  for (const char c : ascii) {
+    bytes += bigEndian ? std::string{'\0', c} : std::string{c, '\0'};
+  }
+  return bytes;
+}
+
+TEST(GeometryFile, readsWhatSpreadsheetsSaveInEveryEncoding) {
+  const std::string text = "0;101.5\r\n2;102\r\n";
+  for (const std::string& bytes :
+       {text, "\xEF\xBB\xBF" + text, utf16(text, false, true), utf16(text, true, true),
+        utf16(text, false, false), utf16(text, true, false)}) {
+    PositionTable table;
+    ASSERT_TRUE(parseRecords(bytes, "a.csv", ";", false, table).ok());
+    EXPECT_EQ(table.records, (GeometryRecords{{0, 101.5}, {2, 102}}));
+    EXPECT_THAT(describe(table.remarks), IsEmpty());
+    const TestFolder folder;
+    EXPECT_EQ(lookAtGeometryFile(folder.put("a.csv", bytes)).separator, ";");
+  }
+}
+
+TEST(GeometryFile, skipsAHeadingAndSaysSo) {
+  const struct {
+    const char* text;
+    bool labelled;
+    const char* heading;  ///< null where the line is read
+  } kCases[] = {{"x (m);z (m)\n1;2\n", false, "x (m);z (m)"},
+                {"\xEF\xBB\xBFinformation;height\n1;2\n", false, "information;height"},
+                {"shot 1;distance;elevation\nshot_id_1;1;2\n", true, "shot 1;distance;elevation"},
+                {"x;12 m\n1;2\n", false, nullptr},
+                {"shot_id_1;1;2\n", true, nullptr},
+                {"\n1;2\n", false, nullptr},
+                {";\n1;2\n", false, nullptr}};
+  for (const auto& [text, labelled, heading] : kCases) {
+    PositionTable table;
+    ASSERT_TRUE(parseRecords(text, "a.csv", ";", labelled, table).ok()) << text;
+    EXPECT_EQ(table.records.back(), (std::vector<double>{1, 2})) << text;
+    EXPECT_EQ(table.remarks.skippedHeading, heading != nullptr) << text;
+    if (heading != nullptr) {
+      EXPECT_EQ(table.records.size(), 1U);
+      EXPECT_EQ(table.remarks.heading, heading);
+    }
+  }
+  PositionTable words;
+  ASSERT_TRUE(parseRecords("x;z\n1;2\n3\n", "a.csv", ";", false, words).ok());
+  std::vector<Point2D> positions;
+  EXPECT_THAT(positionsOf(words, positions).message(), HasSubstr("line 3"));
+}
+
+TEST(GeometryFile, countsAndNamesEveryFieldThatItTakesAsZero) {
+  PositionTable table;
+  ASSERT_TRUE(
+      parseRecords("0;1\n;two\n3;-\x1b[2J;note\n0x;5 m\n", "a.csv", ";", false, table).ok());
+  EXPECT_EQ(table.records, (GeometryRecords{{0, 1}, {0, 0}, {3, 0, 0}, {0, 5}}));
+  EXPECT_THAT(describe(table.remarks),
+              ElementsAre("3 fields that are no numbers were taken as 0: line 2 \"\", line 2 "
+                          "\"two\", line 3 \"- [2J\""));
+  std::string many = "0;0\n";
+  for (int i = 0; i < 1000; ++i) many += "1;x\n";
+  ASSERT_TRUE(parseRecords(many, "a.csv", ";", false, table).ok());
+  EXPECT_EQ(table.remarks.zeroCount, 1000U);
+  EXPECT_EQ(table.remarks.zeros.size(), TableRemarks::kNamedZeros);
+  EXPECT_THAT(describe(table.remarks).front(), HasSubstr("line 21 \"x\" and 980 more"));
 }
 
 TEST(GeometryFile, refusesLongLinesAndNumbersThatFitNoDouble) {
@@ -78,11 +146,11 @@ TEST(GeometryFile, refusesLongLinesAndNumbersThatFitNoDouble) {
                 {"1;inf\n", "line 1: a number is out of range or not finite"},
                 {"nan;1\n", "line 1: a number is out of range or not finite"}};
   for (const auto& [text, reason] : kCases) {
-    GeometryRecords records = {{9}};
-    const Status status = parseRecords(text, "a.csv", ";", false, records);
+    PositionTable table = {{{9}}, {}};
+    const Status status = parseRecords(text, "a.csv", ";", false, table);
     EXPECT_EQ(status.code(), 1);
     EXPECT_THAT(status.message(), HasSubstr("a.csv, " + std::string(reason)));
-    EXPECT_EQ(records, (GeometryRecords{{9}}));
+    EXPECT_EQ(table.records, (GeometryRecords{{9}}));
   }
 }
 
@@ -91,23 +159,24 @@ TEST(GeometryFile, takesAsManyPositionsAsAShotFileHasTracesAndRefusesFarMore) {
   std::string text;
   for (int i = 0; i < 65535; ++i) text += "123456.789;-1234.56789012345\n";
   const std::string path = folder.put("line.csv", text);
-  GeometryRecords records;
-  ASSERT_TRUE(readRecords(path, ";", records).ok());
-  EXPECT_EQ(records.size(), 65535U);
+  PositionTable table;
+  ASSERT_TRUE(readRecords(path, ";", table).ok());
+  EXPECT_EQ(table.records.size(), 65535U);
 
   // Records of next to nothing cost many times the file.
   folder.put("line.csv", std::string((std::size_t{2} << 20) + 1, '\n'));
-  const Status status = readRecords(path, ";", records);
+  const Status status = readRecords(path, ";", table);
   EXPECT_EQ(status.code(), 1);
   EXPECT_THAT(status.message(), HasSubstr("more than the limit"));
-  EXPECT_EQ(records.size(), 65535U);
+  EXPECT_EQ(table.records.size(), 65535U);
 }
 
 TEST(GeometryFile, saysWhichFileCannotBeReadOrWritten) {
-  GeometryRecords records;
+  PositionTable table;
   for (const Status& status :
-       {readRecords("/no/a.csv", ";", records), readLabelledRecords("/no/a.csv", ";", records),
-        writeRecords("/no/a.csv", ";", records), writeLabelledRecords("/no/a.csv", ";", {}, {}),
+       {readRecords("/no/a.csv", ";", table), readLabelledRecords("/no/a.csv", ";", table),
+        writeRecords("/no/a.csv", ";", table.records),
+        writeLabelledRecords("/no/a.csv", ";", {}, {}),
         writeLabelledRecords("/no/a.csv", ";", {"one"}, {})}) {
     EXPECT_EQ(status.code(), 1);
     EXPECT_THAT(status.message(), HasSubstr("/no/a.csv"));

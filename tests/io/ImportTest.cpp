@@ -3,6 +3,9 @@
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 #include "support/TestGrids.h"
+#include "support/TestSurveys.h"
+
+#include <functional>
 
 #include <gmock/gmock.h>
 
@@ -90,6 +93,21 @@ TEST(Import, fillsTheRecordsByTheirTraceSet) {
   EXPECT_TRUE(document.modified);
 }
 
+TEST(Import, dropsPicksBeyondTheRecordsOfTheTracesTheyBelongTo) {
+  TomoDocument document = inverted(2, 3);
+  for (TraceSet& set : document.traceSets) {
+    for (Trace& trace : set) {
+      trace.samples.assign(25, 0.0);
+      trace.sampleInterval = 0.001;
+    }
+  }
+  TravelTimeData data = sample();
+  fitToRecords(data, document);
+  EXPECT_THAT(data.warnings, ElementsAre(HasSubstr("shot 2, trace 1 (30 ms, beyond its record")));
+  ASSERT_TRUE(importTravelTimes(std::move(data), document).ok());
+  EXPECT_THAT(document.ttArray[1].ttMisurati, ElementsAre(kNoTime, 0.02, kUnpicked));
+}
+
 TEST(Import, keepsTheGridWhenOnlyTimesChange) {
   TomoDocument document = inverted(2, 3);
   document.goephonesStringSet = sample().strings;
@@ -99,6 +117,108 @@ TEST(Import, keepsTheGridWhenOnlyTimesChange) {
   EXPECT_THAT(document.ttArray[0].ttCalcolati, ElementsAre(0.5, 0.5, 0.5));
   EXPECT_NE(document.grid, nullptr);
   EXPECT_TRUE(document.has_tomographic_info);
+}
+
+/// A survey that has been inverted, with positions that take more digits than a file has.
+TomoDocument invertedLine(bool traces) {
+  TomoDocument line = testLine(12, 2.0123456, {-1.0654321, 11.0}, 1.0);
+  for (TravelTime& record : line.ttArray) {
+    record.ttMisurati.assign(12, 0.01);
+    record.ttCalcolati.assign(12, 0.012);
+  }
+  if (traces) line.traceSets.assign(2, TraceSet(12));
+  putGrid(line, 6.0, 1.0);
+  line.grid->setSlowness(5, 1.0 / 777.0);
+  line.has_tomographic_info = true;
+  line.RMSE_tomography = 3.0;
+  line.rays = {{1, 2}};
+  line.layers.resize(1);
+  return line;
+}
+
+/// What a file has of a line after a change.
+TravelTimeData writtenAfter(const TomoDocument& line,
+                            const std::function<void(TomoDocument&)>& change = {}) {
+  const TestFolder folder;
+  const ConsoleCapture console;
+  TomoDocument other;
+  other.goephonesStringSet = line.goephonesStringSet;
+  other.ttArray = line.ttArray;
+  if (change) change(other);
+  TravelTimeData data;
+  EXPECT_TRUE(writeTravelTimes(folder.file("out.otte"), other).ok());
+  EXPECT_TRUE(readTravelTimes(folder.file("out.otte"), data).ok());
+  return data;
+}
+
+TEST(Import, countsPositionsEqualToTheDigitsOfTheFileAsUnmoved) {
+  for (const bool traces : {true, false}) {
+    TomoDocument line = invertedLine(traces);
+    TravelTimeData data =
+        writtenAfter(line, [](TomoDocument& other) { other.ttArray[1].ttMisurati[3] = 0.02; });
+    ASSERT_NE(data.strings, line.goephonesStringSet) << "digits are gone";
+    const auto positions = line.goephonesStringSet;
+    ImportCost cost;
+    ASSERT_TRUE(checkImport(data, line, cost).ok());
+    EXPECT_EQ(cost.model, ModelLoss::kNothing);
+    EXPECT_FALSE(cost.survey);
+    ASSERT_TRUE(importTravelTimes(std::move(data), line).ok());
+    EXPECT_EQ(line.goephonesStringSet, positions);
+    EXPECT_EQ(line.ttArray[0].shotPos2d.x, -1.0654321);
+    EXPECT_DOUBLE_EQ(line.ttArray[1].ttMisurati[3], 0.02);
+    EXPECT_EQ(line.ttArray[1].ttCalcolati[3], 0.012);
+    EXPECT_TRUE(line.grid != nullptr && line.has_tomographic_info && line.layers.size() == 1U);
+  }
+}
+
+TEST(Import, keepsTheGridUnderTheSameSurfaceAndForgetsItUnderAnother) {
+  const struct {
+    const char* name;
+    std::function<void(TravelTimeData&)> change;
+    ModelLoss loss;
+  } cases[] = {
+      {"a shot at another geophone",
+       [](TravelTimeData& d) {
+         d.records[1].shotPos2d = invertedLine(true).goephonesStringSet[0][5];
+       },
+       ModelLoss::kResults},
+      {"a shot above the ground", [](TravelTimeData& d) { d.records[1].shotPos2d.z += 0.5; },
+       ModelLoss::kGrid},
+      {"a longer line", [](TravelTimeData& d) { d.records[0].shotPos2d.x -= 3.0; },
+       ModelLoss::kGrid},
+      {"a geophone moved", [](TravelTimeData& d) { d.strings[0][4].x += 0.3; }, ModelLoss::kGrid},
+  };
+  for (const bool traces : {true, false}) {
+    for (const auto& c : cases) {
+      SCOPED_TRACE(c.name);
+      TomoDocument line = invertedLine(traces);
+      // At a geophone it bends no surface that others do not bend as well.
+      line.ttArray[1].shotPos2d = line.goephonesStringSet[0][6];
+      TravelTimeData data = writtenAfter(line);
+      c.change(data);
+      ImportCost cost;
+      ASSERT_TRUE(checkImport(data, line, cost).ok());
+      EXPECT_EQ(cost.model, c.loss);
+      EXPECT_EQ(cost.survey, !traces) << "without traces it is another survey";
+      ASSERT_TRUE(importTravelTimes(std::move(data), line).ok());
+      EXPECT_FALSE(line.has_tomographic_info);
+      EXPECT_TRUE(line.rays.empty());
+      EXPECT_EQ(line.ttArray[0].ttCalcolati, std::vector<double>(12, kNoTime));
+      ASSERT_EQ(line.grid != nullptr, c.loss == ModelLoss::kResults);
+      if (line.grid == nullptr) continue;
+      EXPECT_EQ(line.grid->slowness(5), 1.0 / 777.0);
+      EXPECT_EQ(line.info_density, std::vector<double>(line.grid->cellCount(), -1.0));
+      EXPECT_EQ(line.layers.size(), 1U);
+    }
+  }
+}
+
+TEST(Import, givesGeophonesWithoutShotsTheirFirst) {
+  TomoDocument line = invertedLine(false);
+  const TravelTimeData data = writtenAfter(line);
+  line.ttArray.clear();
+  ASSERT_TRUE(importTravelTimes(data, line).ok());
+  EXPECT_EQ(line.ttArray.size(), 2U);
 }
 
 void expectUntouched(const TomoDocument& document, std::size_t shots, std::size_t traces) {

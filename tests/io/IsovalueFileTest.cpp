@@ -77,6 +77,31 @@ TEST(IsovalueFile, stopsAtTheFirstLineWhoseFirstFieldIsNotANumberAsAWhole) {
   }
 }
 
+TEST(IsovalueFile, passesOverAHeadingAndUnderstandsOtherEncodings) {
+  const testing::ConsoleCapture console;
+  const std::string little(
+      "\xFF\xFE"
+      "7\0;\0t\0\n\0"
+      "8\0;\0t\0",
+      18);
+  const struct {
+    std::string text;
+    bool heading;
+  } facts[] = {{"Velocity (m/s);shown\n7;true\n8;true\n", true},
+               {"\xEF\xBB\xBF"
+                "7;true\n8;true\n",
+                false},
+               {little, false}};
+  for (const auto& fact : facts) {
+    const IsovalueRead read = parseIsovalues(fact.text, "a.csv", ";");
+    EXPECT_TRUE(read.status.ok()) << read.status.message();
+    EXPECT_THAT(read.values, ElementsAre(7.0, 8.0));
+    EXPECT_EQ(read.remarks.skippedHeading, fact.heading);
+  }
+  EXPECT_EQ(parseIsovalues("only words\n\n", "a.csv", ";").invalidLine, 1U);
+  EXPECT_EQ(parseIsovalues("words\nmore words\n7\n", "a.csv", ";").invalidLine, 2U);
+}
+
 TEST(IsovalueFile, isBoundedInItsValues) {
   const testing::ConsoleCapture console;
   std::string text;

@@ -14,6 +14,11 @@ TEST(LayerFile, readsALinePerShot) {
   LayerMarks marks;
   ASSERT_TRUE(parseLayerMarks("1;2;3;\r\n\n 0;0;1", "a.csv", line, marks).ok());
   EXPECT_EQ(marks, (LayerMarks{{1, 2, 3}, {0, 0, 1}}));
+  ASSERT_TRUE(parseLayerMarks("\xEF\xBB\xBF"
+                              "1;1;3\n2;0;1",
+                              "a.csv", line, marks)
+                  .ok());
+  EXPECT_EQ(marks, (LayerMarks{{1, 1, 3}, {2, 0, 1}}));
 }
 
 TEST(LayerFile, refusesWhatIsNotTheSurveys) {

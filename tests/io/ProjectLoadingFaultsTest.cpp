@@ -1,3 +1,4 @@
+#include "support/FileLimit.h"
 #include "support/TestProjects.h"
 
 #include <QLockFile>
@@ -14,6 +15,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
+using ::testing::SizeIs;
 
 class LoadingFaults : public ProjectTest {
  protected:
@@ -46,8 +48,10 @@ TEST_F(LoadingFaults, ofFilesThatAreNoArchive) {
   EXPECT_THAT(console.error(), HasSubstr("[ERROR] While extracting "));
   EXPECT_EQ(reader.message(), "There is no such file.");
   expectRefused(folder.put("text.tvsk", "no archive"));
+  EXPECT_EQ(
+      reader.message(),
+      "It cannot be extracted: it is no archive of a project, or damaged: Not a zip archive.");
   expectRefused(folder.put("empty.tvsk", ""));
-  EXPECT_THAT(reader.message(), HasSubstr("no archive"));
   expectRefused(folder.path());
   EXPECT_EQ(reader.message(), "It is not a regular file.");
 }
@@ -59,6 +63,7 @@ TEST_F(LoadingFaults, ofAnArchiveWithoutSurveyAreFoundBeforeAnythingIsExtracted)
   expectRefused(path);
   EXPECT_EQ(refused.count(), 1);
   EXPECT_THAT(console.error(), HasSubstr(" : read_ZIP() : no tomodoc.xml into " + path + "\n"));
+  EXPECT_THAT(reader.message(), HasSubstr("there is no tomodoc.xml in it"));
   EXPECT_THAT(console.out(), Not(HasSubstr("extract [ grid.xml ] in [ " + work())));
 }
 
@@ -83,11 +88,10 @@ TEST_F(LoadingFaults, ofDamagedArchivesGiveAnErrorOrAProject) {
 
 /// An archive with one more entry of any name.
 std::string withEntry(const TestFolder& folder, const std::string& archive, const std::string& name,
-                      std::uint32_t unixMode = 0100644) {
+                      std::uint32_t unixMode = 0100644, const std::string& bytes = "/etc/passwd") {
   const std::string path = folder.put("odd.tvsk", TestFolder::get(archive));
   zip_t* zip = zip_open(path.c_str(), 0, nullptr);
   EXPECT_NE(zip, nullptr);
-  const std::string bytes = "/etc/passwd";
   zip_source_t* source = zip_source_buffer(zip, bytes.data(), bytes.size(), 0);
   const zip_int64_t index = zip_file_add(zip, name.c_str(), source, ZIP_FL_ENC_UTF_8);
   EXPECT_GE(index, 0) << name;
@@ -113,17 +117,88 @@ TEST_F(LoadingFaults, areNoneOfAnEntryThatSaysItIsALink) {
   EXPECT_FALSE(entry.isSymLink());
 }
 
+/// The archive with another length in both headers of an entry, which its bytes do not have.
+std::string sayingLength(std::string zip, const std::string& entry, std::uint32_t length) {
+  const auto put = [&](const std::string& signature, std::size_t nameAt, std::size_t lengthAt) {
+    std::size_t at = zip.find(signature);
+    while (at != std::string::npos && zip.compare(at + nameAt, entry.size(), entry) != 0) {
+      at = zip.find(signature, at + 1);
+    }
+    ASSERT_NE(at, std::string::npos);
+    for (std::size_t i = 0; i < 4; ++i) {
+      zip[at + lengthAt + i] = static_cast<char>(length >> (8 * i) & 0xff);
+    }
+  };
+  put("PK\3\4", 30, 22);
+  put("PK\1\2", 46, 24);
+  return zip;
+}
+
+TEST_F(LoadingFaults, ofArchivesThatUnpackToTooMuchSaySo) {
+  const std::string zeros(11 * 1000 * 1000, '\0');
+  const std::string bomb = withEntry(folder, archive(), "bomb.dat", 0100644, zeros);
+  expectRefused(bomb);
+  EXPECT_THAT(reader.message(), HasSubstr("it unpacks to more than 10 MB"));
+  EXPECT_THAT(console.out(), Not(HasSubstr("extract [ bomb.dat ]")));
+}
+
+/// What an entry says of its length is no promise: the bytes that are written count.
+TEST_F(LoadingFaults, ofEntriesThatAreLongerThanTheySayEndAtTheLimit) {
+  const std::string zeros(40 * 1000 * 1000, '\0');
+  const std::string bomb =
+      TestFolder::get(withEntry(folder, archive(), "bomb.dat", 0100644, zeros));
+  {
+    const FileLimit tenMegabytes(10 * 1000 * 1000);  // not a byte more is even tried
+    expectRefused(folder.put("liar.tvsk", sayingLength(bomb, "bomb.dat", 1000)));
+  }
+  EXPECT_THAT(reader.message(), HasSubstr("it unpacks to more than 10 MB"));
+  expectRefused(folder.put("less.tvsk", sayingLength(bomb, "bomb.dat", 5 * 1000 * 1000)));
+  EXPECT_THAT(reader.message(), HasSubstr("it unpacks to more than 10 MB"));
+}
+
+TEST_F(LoadingFaults, ofDamagedAndShortEntriesNameThem) {
+  const std::string extra =
+      TestFolder::get(withEntry(folder, archive(), "more.dat", 0100644, std::string(5000, 'x')));
+  expectRefused(folder.put("odd.tvsk", sayingLength(extra, "more.dat", 5001)));
+  EXPECT_THAT(reader.message(), HasSubstr("\"more.dat\" in it is"));
+}
+
+TEST_F(LoadingFaults, ofAFullDiskSaySo) {
+  const FileLimit little(100);
+  EXPECT_EQ(load(archive(), open), 1);
+  EXPECT_THAT(reader.message(), HasSubstr("cannot be extracted: "));
+  EXPECT_THAT(leftovers(), IsEmpty());
+}
+
+struct Sizes {
+  std::vector<ZipEntry> entries;
+  std::uint64_t archiveBytes;
+  const char* refusal;  ///< part of it, or empty
+};
+
 TEST(ArchiveSizes, thatCannotBeAreRefused) {
+  constexpr std::uint64_t kMega = 1000 * 1000;
   constexpr std::uint64_t kGiB = std::uint64_t{1} << 30;
-  constexpr std::uint64_t kDisk = 100 * kGiB;
-  EXPECT_EQ(refusalOf({{"a", 4 * kGiB}}, 1000, kDisk), "");
-  EXPECT_EQ(refusalOf({{"a", 40 * kGiB}}, kGiB, kDisk), "");
-  EXPECT_NE(refusalOf({{"a", 5 * kGiB}}, 1000, kDisk), "");
-  EXPECT_NE(refusalOf({{"a", 3 * kGiB}, {"b", 3 * kGiB}}, 1000, kDisk), "");
-  EXPECT_NE(refusalOf({{"a", kDisk + 1}}, kDisk, kDisk), "");
-  EXPECT_NE(refusalOf({{"a", kDisk}, {"b", 1}}, kDisk, kDisk), "");
-  EXPECT_NE(refusalOf({{"a", 1}, {"a", 1}}, 1000, kDisk), "");
-  EXPECT_NE(refusalOf({{"a", ~std::uint64_t{0}}, {"b", 2}}, 1000, ~std::uint64_t{0}), "");
+  constexpr std::uint64_t kDisk = 3 * kGiB;
+  constexpr std::uint64_t kHuge = ~std::uint64_t{0};
+  const std::vector<Sizes> table = {
+      {{{"a", 10 * kMega}}, 1000, ""},
+      {{{"a", 10 * kMega + 1}}, 1000, "more than 10 MB, which no project of 1000 bytes"},
+      {{{"a", 6 * kMega}, {"b", 6 * kMega}}, 1000, "more than 10 MB"},
+      {{{"a", 200 * kMega}}, kMega, ""},
+      {{{"a", 200 * kMega}, {"b", 1}}, kMega, "more than 200 MB, which no project of 1 MB"},
+      {{{"a", 4 * kGiB + 1}}, 4 * kGiB, "more than 4294 MB"},
+      {{{"a", kHuge}, {"b", 2}}, kHuge, "more than 4294 MB"},
+      {{{"a", kDisk}}, kGiB, ""},
+      {{{"a", kDisk}, {"b", 1}}, kGiB, "the disk has room for 3221 MB"},
+      {{{"a", 1}, {"a", 1}}, 1000, "two files in it are called \"a\""},
+      {{{"a/b", 1}}, 1000, "\"a/b\" in it is no name"},
+      {std::vector<ZipEntry>(65536), 1000, "it holds 65536 files"}};
+  for (const Sizes& sizes : table) {
+    const std::string refusal = refusalOf(sizes.entries, sizes.archiveBytes, kDisk);
+    EXPECT_THAT(refusal, HasSubstr(sizes.refusal));
+    EXPECT_EQ(refusal.empty(), std::string(sizes.refusal).empty()) << refusal;
+  }
 }
 
 struct Change {
@@ -230,13 +305,60 @@ TEST_F(LoadingFaults, areNoneOfAPairThatIsNone) {
   EXPECT_EQ(back.document.traceSets[0][0].waveKind, Trace::kFromFile);
 }
 
-TEST_F(LoadingFaults, areNoneOfNamesThatLeaveTheFolder) {
-  entries["traces.xml"] = with(entries["traces.xml"], ">1.dat<", ">../../secret.dat<");
+/// Whatever a project calls its shot files, with or without samples of its own, saving it again
+/// must not collect a file that lies somewhere else.
+TEST_F(LoadingFaults, areNoneOfShotFilesElsewhereAndNoneOfTheseIsEverCopied) {
+  const std::string secret = folder.put("secret.dat", projectShot(-2.5));
+  const std::string sound = entries["traces.xml"];
+  const std::string inMember =
+      with(sound, "<TAB size=\"dynamic\"/>",
+           "<TAB size=\"dynamic\"><value0>1</value0><value1>2</value1></TAB>");
+  for (const std::string& name :
+       {secret, std::string("../../secret.dat"), std::string("/etc/passwd"),
+        std::string("..\\..\\secret.dat"), std::string(".."), std::string("a/1.dat")}) {
+    for (const std::string& member : {sound, inMember}) {
+      entries["traces.xml"] = with(member, ">1.dat<", ">" + name + "<");
+      LoadedProject back;
+      ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
+      EXPECT_THAT(reader.repairs().at(0), HasSubstr("shot 1: "));
+      EXPECT_THAT(reader.repairs().at(0), HasSubstr('"' + name + '"'));
+      EXPECT_EQ(back.document.filenames[0], "") << name;
+      EXPECT_EQ(back.document.traceSets[0][0].samples.empty(), member == sound) << name;
+      ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
+      EXPECT_THAT(writer.warnings(), IsEmpty());
+      const auto saved = entriesOf(folder.file("again.tvsk"));
+      EXPECT_EQ(saved.count("secret.dat") + saved.count("passwd"), 0U) << name;
+    }
+  }
+}
+
+TEST_F(LoadingFaults, areNoneOfPairsWithAFileElsewhere) {
+  std::string& traces = entries["traces.xml"];
+  traces = with(traces, "<filenames_DX size=\"dynamic\"/>",
+                "<filenames_DX size=\"dynamic\"><value0>1.dat</value0></filenames_DX>");
+  traces = with(traces, "<filenames_SX size=\"dynamic\"/>",
+                "<filenames_SX size=\"dynamic\"><value0>/etc/passwd</value0></filenames_SX>");
   LoadedProject back;
   ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
-  EXPECT_THAT(back.document.traceSets[0][0].samples, IsEmpty());
-  ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
-  EXPECT_EQ(entriesOf(folder.file("again.tvsk")).count("secret.dat"), 0U);
+  EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("\"/etc/passwd\"")));
+  EXPECT_EQ(back.document.filenames_SX[0], "");
+  EXPECT_THAT(back.document.traceSets[0][0].samples, SizeIs(40));  // of the other name
+}
+
+TEST_F(LoadingFaults, areNoneOfPicksThatCannotBe) {
+  const std::string before = entries["tomodoc.xml"];
+  const std::size_t picks = before.find("<ttMisurati");
+  const std::size_t from = before.find("<value1>", picks);
+  const std::size_t to = before.find("</value1>", picks);
+  ASSERT_LT(to, before.find("</ttMisurati>", picks));
+  for (const char* time : {"nan", "-inf", "1e300", "3601", "5"}) {
+    entries["tomodoc.xml"] = before.substr(0, from) + "<value1>" + time + before.substr(to);
+    LoadedProject back;
+    ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
+    EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("shot 1, trace 2 ("))) << time;
+    EXPECT_EQ(back.document.ttArray[0].ttMisurati[1], kNoTime) << time;
+    EXPECT_EQ(back.document.ttArray[0].ttMisurati[0], project.document.ttArray[0].ttMisurati[0]);
+  }
 }
 
 TEST_F(LoadingFaults, ofAWorkingFolderThatIsNotThere) {

@@ -2,7 +2,9 @@
 #include "support/TestProjects.h"
 
 #include <QSignalSpy>
+#include <chrono>
 #include <csignal>
+#include <random>
 
 #include <gmock/gmock.h>
 #include <sys/wait.h>
@@ -69,23 +71,23 @@ class SavingFaults : public ProjectTest, public ::testing::WithParamInterface<St
     return faulty.save(archive(), work(), project.document, project.interpretation,
                        project.palettes);
   }
-  /// The project as it was saved before is there under its other name, and loads.
+  /// The project is as it was saved before, and nothing else lies beside it.
   void expectOldProjectKept() {
-    EXPECT_FALSE(QFile::exists(QString::fromStdString(archive())));
-    EXPECT_EQ(TestFolder::get(archive() + "~"), before);
+    EXPECT_EQ(TestFolder::get(archive()), before);
     LoadedProject back;
-    EXPECT_EQ(load(archive() + "~", back), 0) << reader.message();
+    EXPECT_EQ(load(archive(), back), 0) << reader.message();
     EXPECT_EQ(back.document.title, "");
+    EXPECT_EQ(folder.entries(), kEntries);
   }
+  static constexpr int kEntries = 5;  ///< three shots, the working folder, the project
   std::string before;
 };
 
-TEST_P(SavingFaults, keepTheOldProjectAndNameIt) {
+TEST_P(SavingFaults, leaveTheOldProjectWhereItIs) {
   FailingWriter faulty(GetParam());
   EXPECT_EQ(saveWith(faulty), 1);
   EXPECT_TRUE(faulty.hasError());
   EXPECT_FALSE(faulty.message().empty());
-  EXPECT_EQ(faulty.keptArchive(), archive() + "~");
   EXPECT_THAT(leftovers(), IsEmpty());
   expectOldProjectKept();
 }
@@ -158,15 +160,6 @@ TEST_F(SavingFaults, ofAMemberLeaveNoHalfOfItForTheArchive) {
                                       "[^\n]*/grid.xml\n"));
 }
 
-TEST_F(SavingFaults, inARowNameTheOldProjectEachTime) {
-  FailingWriter faulty(Step::kRefraction);
-  for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(saveWith(faulty), 1);
-    EXPECT_EQ(faulty.keptArchive(), archive() + "~");
-  }
-  expectOldProjectKept();
-}
-
 TEST_F(SavingFaults, ofAFullDiskLoseNothing) {
   bool saved = false;
   for (rlim_t limit = 256; !saved; limit *= 2) {
@@ -176,9 +169,9 @@ TEST_F(SavingFaults, ofAFullDiskLoseNothing) {
       saved = save() == 0;
     }
     EXPECT_THAT(leftovers(), IsEmpty());
+    EXPECT_EQ(folder.entries(), kEntries) << limit;
     if (saved) break;
-    EXPECT_EQ(TestFolder::get(archive() + "~"), before) << limit;
-    ASSERT_EQ(QFile::exists(QString::fromStdString(archive())), false) << limit;
+    ASSERT_EQ(TestFolder::get(archive()), before) << limit;
   }
   LoadedProject back;
   EXPECT_EQ(load(archive(), back), 0) << reader.message();
@@ -218,9 +211,49 @@ TEST_F(SavingFaults, areNoneThroughASymbolicLink) {
   EXPECT_TRUE(QFileInfo(QString::fromStdString(link)).isSymLink());
 }
 
-TEST_F(SavingFaults, leaveNoOldProjectBehindWhenAllIsWell) {
+TEST_F(SavingFaults, areNoneWhereALinkPointsAtNothingYet) {
+  const std::string link = folder.file("link.tvsk");
+  ASSERT_TRUE(QFile::link(QStringLiteral("new.tvsk"), QString::fromStdString(link)));
+  ASSERT_EQ(save(link, project), 0);
+  EXPECT_TRUE(QFileInfo(QString::fromStdString(link)).isSymLink());
+  LoadedProject back;
+  EXPECT_EQ(load(folder.file("new.tvsk"), back), 0) << reader.message();
+}
+
+TEST_F(SavingFaults, leaveFilesOfTheUserAlone) {
+  folder.put("line.tvsk~", "of an editor");
+  FailingWriter faulty(Step::kArchive);
+  EXPECT_EQ(saveWith(faulty), 1);
   ASSERT_EQ(save(), 0);
-  EXPECT_FALSE(QFile::exists(QString::fromStdString(archive() + "~")));
+  EXPECT_EQ(TestFolder::get(archive() + "~"), "of an editor");
+}
+
+TEST_F(SavingFaults, neverLeaveTheNameWithoutAWholeProject) {
+  constexpr int kKills = 20;
+  std::mt19937 random(std::random_device{}());
+  std::uniform_real_distribution<double> wait(0.0, 0.03);  // seconds; a few saves at most
+  int missing = 0;
+  for (int i = 0; i < kKills; ++i) {
+    const pid_t child = ::fork();
+    while (child == 0) {
+      project.document.title += 'x';
+      save();
+    }
+    const auto begun = std::chrono::steady_clock::now();
+    const std::chrono::duration<double> time(wait(random));
+    while (std::chrono::steady_clock::now() - begun < time) {
+      if (::access(archive().c_str(), R_OK) != 0) ++missing;
+    }
+    ::kill(child, SIGKILL);
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    LoadedProject back;
+    ASSERT_EQ(load(archive(), back), 0) << "kill " << i << ": " << reader.message();
+    EXPECT_EQ(back.document.traceSets.size(), project.document.traceSets.size());
+  }
+  EXPECT_EQ(missing, 0);
+  ASSERT_EQ(save(), 0);
+  EXPECT_EQ(folder.entries(), kEntries) << "the dead have left something";
+  EXPECT_THAT(leftovers(), IsEmpty());
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 #include "io/ProjectSnapshot.h"
+#include "model/Residuals.h"
 #include "processing/ShotTime.h"
 #include "support/TestProjects.h"
 #include "tomo/RayRecomputation.h"
 #include "tomo/TomographyRun.h"
 
 #include <cmath>
+#include <filesystem>
 
 #include <gmock/gmock.h>
 
@@ -12,6 +14,7 @@ namespace talvesk {
 namespace {
 
 using namespace talvesk::testing;
+using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -69,6 +72,7 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
   project.palettes.select(3);
   project.section.quantity = SectionQuantity::kLaplacian;
   project.section.contours.customValues = {400, 800};
+  project.section.contours.gradientValues = {-1.5, 20};
   project.section.contours.customized = true;
   ASSERT_EQ(save(), 0) << console.error();
   EXPECT_THAT(writer.warnings(), IsEmpty());
@@ -106,7 +110,7 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
   EXPECT_EQ(back.interpretation.phnt_A[0].enabled, project.interpretation.phnt_A[0].enabled);
   EXPECT_EQ(back.palettes.currentIndex(), 3U);
   EXPECT_EQ(back.section.quantity, SectionQuantity::kLaplacian);
-  EXPECT_THAT(back.section.contours.customValues, ElementsAre(400, 800));
+  EXPECT_EQ(back.section.contours, project.section.contours);
 }
 
 TEST_F(ProjectTest, isTheSameByteForByteAfterLoadingAndSavingAgain) {
@@ -120,7 +124,7 @@ TEST_F(ProjectTest, isTheSameByteForByteAfterLoadingAndSavingAgain) {
   ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
   const auto first = entriesOf(archive());
   EXPECT_EQ(entriesOf(folder.file("again.tvsk")), first);
-  EXPECT_THAT(first, SizeIs(8));
+  EXPECT_THAT(first, SizeIs(9));
   EXPECT_THAT(first.at("traces.xml"), HasSubstr("<TAB size=\"dynamic\"/>"));
   EXPECT_EQ(first.at("2.dat"), TestFolder::get(shots[1]));
 }
@@ -140,6 +144,55 @@ TEST_F(ProjectTest, isTheSameByteForByteWhenItIsSavedFromASnapshot) {
     ASSERT_EQ(save(folder.file("copy.tvsk"), copy), 0);
     EXPECT_EQ(entriesOf(folder.file("copy.tvsk")), entriesOf(archive())) << piece;
   }
+}
+
+TEST_F(ProjectTest, tellsTheSameFiguresOfItsSectionBeforeAndAfter) {
+  TomoDocument& document = project.document;
+  invert(document);
+  document.smoothedResult = true;
+  ASSERT_EQ(save(), 0) << console.error();
+  LoadedProject loaded;
+  ASSERT_EQ(load(archive(), loaded), 0) << reader.message();
+  const TomoDocument& back = loaded.document;
+  const SectionMisfit before = sectionMisfitOf(document);
+  const SectionMisfit after = sectionMisfitOf(back);
+  ASSERT_GT(before.count, 0);
+  EXPECT_EQ(after.rmse, before.rmse);
+  EXPECT_EQ(after.bias, before.bias);
+  EXPECT_EQ(after.maxReceiver, before.maxReceiver);
+  ASSERT_THAT(back.lastInversion->sectionHistory, SizeIs(3));
+  EXPECT_EQ(back.lastInversion->sectionHistory[0].rmse,
+            document.lastInversion->sectionHistory[0].rmse);
+  EXPECT_EQ(back.lastInversion->computingSeconds, document.lastInversion->computingSeconds);
+  EXPECT_EQ(back.hitCounts, document.hitCounts);
+  EXPECT_EQ(back.coorcount, document.coorcount);
+  EXPECT_TRUE(back.smoothedResult);
+  EXPECT_FALSE(picksChangedSince(back));
+  loaded.document.ttArray[0].ttMisurati[1] *= 1.1;
+  EXPECT_TRUE(picksChangedSince(back));
+}
+
+TEST_F(ProjectTest, losesCoverageAndFiguresWithAWordWhenTheyDoNotGoWithItsGrid) {
+  invert(project.document);
+  project.document.hitCounts.pop_back();
+  ASSERT_EQ(save(), 0) << console.error();
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.warnings(), ElementsAre(HasSubstr("result.xml")));
+  EXPECT_THAT(back.document.hitCounts, IsEmpty());
+  EXPECT_FALSE(back.document.timesOfSection);
+  Log log;
+  ASSERT_TRUE(recomputeRays(back.document, log).ok());
+  EXPECT_EQ(back.document.hitCounts.size(), back.document.grid->cellCount());
+}
+
+TEST_F(ProjectTest, ofAnEarlierVersionHasNoTimesOfAGridThatIsGone) {
+  invert(project.document);
+  project.document.has_tomographic_info = false;
+  ASSERT_EQ(save(), 0) << console.error();
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(back.document.ttArray[0].ttCalcolati, Each(kNoTime));
 }
 
 TEST_F(ProjectTest, hasItsRaysAgainAfterOneForwardPass) {
@@ -219,8 +272,27 @@ TEST_F(ProjectTest, keepsTheSamplesOfAFileThatNoArchiveCanName) {
   EXPECT_THAT(writer.warnings().front(), HasSubstr(odd));
   LoadedProject loaded;
   ASSERT_EQ(load(archive(), loaded), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
   ASSERT_EQ(loaded.document.traceSets.size(), 4U);
   EXPECT_EQ(loaded.document.traceSets[3][5].samples, project.document.traceSets[3][5].samples);
+}
+
+/// Records of dead channels shrink to a thousandth, which loading takes for a trap.
+TEST_F(ProjectTest, ofNothingButZerosCanBeOpenedAgain) {
+  const std::vector<std::string> files = {
+      folder.put("tomodoc.xml", ""), folder.put("dead.dat", std::string(12 * 1000 * 1000, '\0'))};
+  std::string why;
+  ASSERT_EQ(writeZip(archive(), files, why), 0) << why;
+  EXPECT_EQ(entriesOf(archive())["dead.dat"].size(), 12U * 1000 * 1000);
+}
+
+TEST_F(ProjectTest, thatCouldNotBeOpenedAgainForItsSizeIsNotWritten) {
+  const std::string huge = folder.put("huge.dat", "");
+  std::filesystem::resize_file(huge, (std::uintmax_t{4} << 30) + 1);  // takes no room
+  std::string why;
+  EXPECT_EQ(writeZip(archive(), {folder.put("tomodoc.xml", ""), huge}, why), 1);
+  EXPECT_THAT(console.error(), HasSubstr("more than the 4294 MB that can be opened again"));
+  EXPECT_FALSE(QFile::exists(QString::fromStdString(archive())));
 }
 
 TEST_F(ProjectTest, bringsPairsOfPolaritiesBackAsTheirDifference) {

@@ -50,6 +50,13 @@ TEST_P(EveryFormat, restoresTheSameSurvey) {
   expectTheSurvey(data);
 }
 
+TEST_P(EveryFormat, dropsAPickThatIsAboveAnHourAndNamesIt) {
+  const std::string late = replaced(text(), "10.25", "3600001");
+  ASSERT_TRUE(parseTravelTimes(late, path(), data).ok());
+  EXPECT_THAT(data.records[0].ttMisurati, ElementsAre(0.0055, kNoTime, kNoTime));
+  EXPECT_THAT(data.warnings, ElementsAre(HasSubstr("shot 1, trace 2 (3.6e+06 ms, above an hour)")));
+}
+
 TEST_P(EveryFormat, takesLineEndsWithCarriageReturns) {
   ASSERT_TRUE(parseTravelTimes(replaced(text(), "\n", "\r\n"), path(), data).ok());
   expectTheSurvey(data);

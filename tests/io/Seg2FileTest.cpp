@@ -82,6 +82,25 @@ TEST(Seg2File, neverHandsOutSamplesThatAreNotFinite) {
   EXPECT_THAT(data.warnings, ElementsAre(HasSubstr("2 samples")));
 }
 
+TEST(Seg2File, saysWhatPositionsAndDelaysItDoesNotUse) {
+  const std::string interval = "SAMPLE_INTERVAL 0.001";
+  const ShotFileData data = readWhole(seg2Bytes({
+      channel(4, {1, 2}, {"DELAY -0.01", "RECEIVER_LOCATION 5 1", interval, "SOURCE_LOCATION 1 2"}),
+      channel(4, {1, 2}, {"DELAY nan", "RECEIVER_LOCATION inf 1", interval, "SOURCE_LOCATION 1 2"}),
+      channel(4, {1, 2}, {"DELAY 0", "RECEIVER_LOCATION 9 nan", interval, "SOURCE_LOCATION 1 2"}),
+      channel(4, {1, 2}, {"DELAY none", "RECEIVER_LOCATION 9 1e999", interval}),
+  }));
+  EXPECT_EQ(data.traces[1].delay, 0.0);
+  EXPECT_EQ(data.traces[1].receiver, Point2D());
+  EXPECT_EQ(data.traces[2].receiver, (Point2D{9.0, 0.0}));
+  EXPECT_THAT(
+      data.warnings,
+      ElementsAre("the receiver position in the header of 3 traces, the first of them trace "
+                  "2, is no finite number; what cannot be used of it was taken as 0",
+                  "the delay in the header of trace 2 is no finite number; what cannot be "
+                  "used of it was taken as 0"));
+}
+
 TEST(Seg2File, takesPositionsDelayAndIntervalOfEachTrace) {
   const ShotFileData data =
       readWhole(seg2Bytes({channel(4, {1, 2},
@@ -176,6 +195,9 @@ TEST(Seg2Strings, takeTheElevationFromTheLastOfTwoOrThreeNumbers) {
       {"1.5m 2 m", {1.5, 2}, "Z: 2\n"},
       {"1.5 1e999 3", {1.5, 0}, ""},
       {"1.5 nan", {1.5, 0}, ""},
+      {"1.5 2 nan", {1.5, 0}, "Y: 2\n"},
+      {"1.5 nan 3", {1.5, 3}, "Y: nan\nZ: 3\n"},
+      {"1.5 2 1e999", {1.5, 2}, "Z: 2\n"},
       {"m 2", {0, 0}, "Exception Source location\n"},
       {"", {0, 0}, "Exception Source location\n"},
   };

@@ -4,6 +4,7 @@
 #include "support/ShotFiles.h"
 #include "support/TestFolder.h"
 #include "support/TestGrids.h"
+#include "support/TestSurveys.h"
 
 #include <limits>
 
@@ -125,6 +126,37 @@ TEST_F(ShotLoading, isNoChangeWhenNoFileLoads) {
   EXPECT_NE(document.grid, nullptr);
   load({folder.put("a.dat", seg2Shot(1, 0, 2))});
   EXPECT_EQ(document.grid, nullptr) << "the grid was made for another line";
+}
+
+TEST_F(ShotLoading, keepsTheGridWhenTheLineStaysAsItIs) {
+  load({folder.put("a.dat", seg2Shot(0, 0, 4)), folder.put("b.dat", seg2Shot(15, 0, 4))});
+  for (TravelTime& record : document.ttArray) record.shotPos2d.z = 0.0;
+  putGrid(document, 5.0, 1.0);
+  document.has_tomographic_info = true;
+  document.ttArray[0].ttCalcolati.assign(4, 0.01);
+  const std::string level = folder.put("level.dat", seg2Shot(0, 0, 4));    // a point that is known
+  const std::string high = folder.put("high.dat", seg2Shot(7, 0, 4));      // 101 m above the line
+  const std::string longer = folder.put("longer.dat", seg2Shot(0, 5, 4));  // a geophone at 20 m
+  const std::string broken = folder.put("broken.dat", "no");
+  const auto loss = [&](const std::vector<std::string>& files) {
+    std::vector<ReadShot> shots;
+    for (const std::string& file : files) shots.push_back(loader.read(file, document));
+    return lossByShots(shots, document);
+  };
+  EXPECT_EQ(loss({broken}), ModelLoss::kNothing);
+  EXPECT_EQ(loss({level, broken}), ModelLoss::kResults);
+  EXPECT_EQ(loss({level, high}), ModelLoss::kGrid);
+  EXPECT_EQ(loss({longer}), ModelLoss::kGrid);
+  load({broken});
+  EXPECT_TRUE(document.has_tomographic_info);
+  load({level});
+  EXPECT_THAT(document.ttArray, SizeIs(3));
+  EXPECT_NE(document.grid, nullptr);
+  EXPECT_FALSE(document.has_tomographic_info) << "its results are those of two shots";
+  EXPECT_THAT(document.ttArray[0].ttCalcolati, ElementsAre(kNoTime, kNoTime, kNoTime, kNoTime));
+  EXPECT_EQ(loss({level}), ModelLoss::kNothing);
+  load({high});
+  EXPECT_EQ(document.grid, nullptr);
 }
 
 TEST_F(ShotLoading, takesFilesWithoutATrace) {

@@ -38,6 +38,18 @@ TEST(LayerVelocity, isTheMeanOverBothSidesOfAllShots) {
   EXPECT_NEAR(layerVelocity(shots, all, 1), 2000.0 / 3.0, 1e-9);
 }
 
+TEST(LayerVelocity, leavesOutShotsThatDoNotTakePart) {
+  const testing::ConsoleCapture console;
+  const std::vector<ShotArrivals> shots = {shotAt(0, {5, 10, 15}, {0.010, 0.020, 0.030}),
+                                           shotAt(0, {5, 10, 15}, {0.001, 0.002, 0.003})};
+  std::vector<layerStruct> all = {marks(0, {1, 1, 1}), marks(1, {1, 1, 1})};
+  EXPECT_NEAR(layerVelocity(shots, all, 1), 2750.0, 1e-9);
+  all[1].enabled = false;
+  EXPECT_NEAR(layerVelocity(shots, all, 1), 500.0, 1e-9);
+  all[0].enabled = false;
+  EXPECT_TRUE(std::isnan(layerVelocity(shots, all, 1)));
+}
+
 struct NoBranch {
   const char* what;
   std::vector<std::uint32_t> layers;

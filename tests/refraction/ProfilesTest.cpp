@@ -1,7 +1,9 @@
+#include "base/Log.h"
 #include "refraction/BuildProfiles.h"
 #include "refraction/Profile.h"
 #include "support/ConsoleCapture.h"
 #include "support/RefractionLines.h"
+#include "support/TestFolder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,6 +20,7 @@ using refractionDataStructure::phantom;
 using testing::ConsoleCapture;
 using testing::DippingLayers;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using Kind = RefractionWarning::Kind;
 
 std::vector<Kind> kinds(const ProfileOutcome& outcome) {
@@ -78,13 +81,8 @@ TEST(Profile, recoversTwoDippingRefractors) {
   }
 }
 
-TEST(Profile, ofReceiversThatBothCurvesReach) {
-  const ConsoleCapture console;
-  Interpretation interpretation;
-  const TomoDocument line =
-      testing::standardDippingLine(testing::twoDippingLayers(), interpretation.ttLayer);
-  // As on most lines: no refracted arrivals near the shot at the far end.
-  const double end = 40.0;
+/// As on most lines: no refracted arrivals near the shot at the far end.
+void endReverseCurve(const TomoDocument& line, double end, Interpretation& interpretation) {
   for (std::size_t shot = 0; shot < line.ttArray.size(); ++shot) {
     const auto& receivers = line.goephonesStringSet[0];
     for (std::size_t i = 0; i < receivers.size(); ++i) {
@@ -92,11 +90,45 @@ TEST(Profile, ofReceiversThatBothCurvesReach) {
       if (facesEnd && receivers[i].x > end) interpretation.ttLayer[shot].layer[i] = 0;
     }
   }
+}
+
+TEST(Profile, ofReceiversThatBothCurvesReach) {
+  const ConsoleCapture console;
+  Interpretation interpretation;
+  const TomoDocument line =
+      testing::standardDippingLine(testing::twoDippingLayers(), interpretation.ttLayer);
+  endReverseCurve(line, 40.0, interpretation);
   ASSERT_TRUE(buildProfiles(shotArrivals(line), interpretation).built);
-  const phantom& forward = interpretation.phnt_A[0];
-  EXPECT_EQ(forward.points.back().x, end);
-  EXPECT_EQ(interpretation.refractData.cData[0].tV.size(), forward.points.size());
-  EXPECT_EQ(interpretation.refractData.cData[0].x.back(), end);
+  const computedData& found = interpretation.refractData.cData[0];
+  EXPECT_EQ(found.x.back(), 40.0);
+  EXPECT_EQ(found.tV.size(), found.x.size());
+  EXPECT_EQ(interpretation.phnt_R[0].points.back().x, 40.0);
+  EXPECT_EQ(interpretation.phnt_A[0].points.back().x, 147.5) << "the forward curve stays whole";
+}
+
+/// A step in the refractor just behind the last receiver of both: what was picked there is read,
+/// not a continuation of what lies before.
+TEST(Profile, readsForwardPicksBehindTheReceiversOfBoth) {
+  const ConsoleCapture console;
+  Interpretation whole;
+  TomoDocument line = testing::standardDippingLine(testing::twoDippingLayers(), whole.ttLayer);
+  testing::arrive(
+      line, whole.ttLayer,
+      {[](double x) { return 5e-4 * x; }, [](double x) { return x > 40.0 ? 0.024 : 0.02; }});
+  chooseXY(whole, 2, 4.0);
+  Interpretation ended = whole;
+  endReverseCurve(line, 40.0, ended);
+  const auto shots = shotArrivals(line);
+  ASSERT_TRUE(buildProfiles(shots, whole).built);
+  ASSERT_TRUE(buildProfiles(shots, ended).built);
+  const computedData& all = whole.refractData.cData[0];
+  const computedData& some = ended.refractData.cData[0];
+  ASSERT_EQ(some.x.back(), 40.0);
+  // The reciprocal times differ by the lines of the reverse curves, so compare along the line.
+  const double level = all.tV[0] - some.tV[0];
+  for (std::size_t j = 0; j < some.x.size(); ++j) {
+    EXPECT_NEAR(some.tV[j] + level, all.tV[j], 1e-9) << some.x[j];
+  }
 }
 
 TEST(Profile, keepsTheChosenXY) {
@@ -142,6 +174,7 @@ TEST(Profile, showsTheRefractorWhoseLayerAboveIsUnknown) {
   EXPECT_TRUE(outcome.built);
   EXPECT_EQ(kinds(outcome), std::vector<Kind>{Kind::kNoFirstLayer});
   EXPECT_THAT(outcome.warnings[0].text(), HasSubstr("Layer 1"));
+  EXPECT_THAT(profileTable(interpretation.refractData), Not(HasSubstr("nan")));
   EXPECT_NEAR(interpretation.refractData.cData[0].velocity[10], 1200.0, 36.0);
   EXPECT_TRUE(profileBoundaries(interpretation.refractData).empty());
 }
@@ -203,6 +236,28 @@ TEST(Profile, tellsWhereARefractorIsSlowerThanTheLayerAbove) {
   EXPECT_TRUE(outcome.built);
   ASSERT_EQ(kinds(outcome), std::vector<Kind>{Kind::kSlowRefractor});
   EXPECT_EQ(outcome.warnings[0].count, outcome.warnings[0].total);
+}
+
+TEST(Profile, tellsTheLogHowItIsMade) {
+  const ConsoleCapture console;
+  const testing::TestFolder folder;
+  Interpretation interpretation;
+  const TomoDocument line =
+      testing::standardDippingLine(testing::threeDippingLayers(), interpretation.ttLayer);
+  Log log(folder.file("run.log"));
+  const RecordedConsole recorded(log);
+  ASSERT_TRUE(buildProfiles(shotArrivals(line), interpretation).built);
+  const std::string lines = testing::TestFolder::get(log.path());
+  for (const char* told :
+       {"] ID Time\n", "]  TAB: 0.", "] j xy tY tX tAB tVsJ\n", "] j xy tY tX tAB delta -build\n",
+        "] j xy tY tX tAB delta\n", "] Phantom 3\n", "]  TAB 3 \n", "] TAB3 : 0."}) {
+    EXPECT_THAT(lines, HasSubstr(told));
+  }
+  // What is for standard output only.
+  for (const char* other : {"The linear fit line", " x    z    z2"}) {
+    EXPECT_THAT(lines, Not(HasSubstr(other)));
+    EXPECT_THAT(console.out(), HasSubstr(other));
+  }
 }
 
 TEST(Phantoms, leaveNoShiftAtPicksThatWereAssignedElsewhereSince) {

@@ -48,10 +48,10 @@ TEST(Families, followTheHalfSeparationConvention) {
   const phantom forward = curve(every(5, 5), 0.001, 0.020);
   const phantom reverse = curve(every(10, 3), -0.001, 0.040);
   const double tAB = 0.040;
-  const auto tVs = buildTV(forward, reverse, tAB);
+  const auto tVs = buildTV(forward, reverse, every(5, 5), tAB);
   ASSERT_EQ(tVs.size(), 45U);
   const auto tV = memberOf(tVs, indexOfXY(0.0));
-  const auto tGs = buildTG(forward, reverse, tAB, tV);
+  const auto tGs = buildTG(forward, reverse, every(5, 5), tAB, tV);
   ASSERT_EQ(tGs.size(), 45U);
   for (std::size_t k = 0; k < 9; ++k) {
     for (std::size_t j = 0; j < 5; ++j) {

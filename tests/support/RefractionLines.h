@@ -97,4 +97,29 @@ inline TomoDocument standardDippingLine(const DippingLayers& ground,
 inline constexpr std::size_t kStartShot = 2;
 inline constexpr std::size_t kEndShot = 17;
 
+/// Arrivals at both ends of a line that make tV and tG what a test wants, seconds by x in metres.
+struct Functions {
+  double (*tV)(double);
+  double (*tG)(double);
+  double total = 0.1;  ///< from end to end
+};
+
+/// Marks all arrivals of the two end shots of the standard line as the first refractor, with those
+/// functions. Of the other shots only the direct wave stays marked.
+inline void arrive(TomoDocument& line, std::vector<refractionDataStructure::layerStruct>& marks,
+                   const Functions& wanted) {
+  for (auto& own : marks) {
+    for (std::uint32_t& layer : own.layer) {
+      layer = layer > 1 ? refractionDataStructure::kNoLayer : layer;
+    }
+  }
+  for (std::size_t i = 0; i < 60; ++i) {
+    const double x = 2.5 * static_cast<double>(i);
+    line.ttArray[kStartShot].ttMisurati[i] = wanted.tG(x) + wanted.tV(x);
+    line.ttArray[kEndShot].ttMisurati[i] = wanted.total + wanted.tG(x) - wanted.tV(x);
+    marks[kStartShot].layer[i] = 2;
+    marks[kEndShot].layer[i] = 2;
+  }
+}
+
 }  // namespace talvesk::testing

@@ -56,7 +56,8 @@ class ProjectTest : public ::testing::Test {
   /// The entries of an archive by name.
   std::map<std::string, std::string> entriesOf(const std::string& path) {
     const TestFolder extracted;
-    EXPECT_EQ(readZip(path, extracted.path() + "/"), 0) << console.error();
+    std::string why;
+    EXPECT_EQ(readZip(path, extracted.path() + "/", why), 0) << why;
     std::map<std::string, std::string> entries;
     const QStringList names =
         QDir(QString::fromStdString(extracted.path())).entryList(QDir::Files | QDir::Hidden);
@@ -70,7 +71,8 @@ class ProjectTest : public ::testing::Test {
     const TestFolder loose;
     std::vector<std::string> files;
     for (const auto& [entry, bytes] : entries) files.push_back(loose.put(entry, bytes));
-    EXPECT_EQ(writeZip(folder.file(name), files), 0);
+    std::string why;
+    EXPECT_EQ(writeZip(folder.file(name), files, why), 0) << why;
     return folder.file(name);
   }
   /// What is in the working folder.

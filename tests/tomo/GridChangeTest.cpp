@@ -1,8 +1,11 @@
 #include "TestInversion.h"
+#include "model/Residuals.h"
 #include "support/ConsoleCapture.h"
+#include "tomo/ForwardPass.h"
 #include "tomo/GridPreview.h"
 #include "tomo/GridSetup.h"
 #include "tomo/InversionCopy.h"
+#include "tomo/RayRecomputation.h"
 #include "tomo/StartingModel.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +31,7 @@ TEST(GridPreview, countsWhatTheGridWillHave) {
   const testing::ConsoleCapture console;
   for (const GridSettings& settings : {GridSettings{4.6, 1.0, 7}, GridSettings{9.0, 3.0, 6}}) {
     TomoDocument line = testing::testLine(10, 2.0, {-1.5, 9.0}, 1.0);
-    const GridPreview preview = previewGrid(line.surveyProfile(), settings, 1);
+    const GridPreview preview = previewGrid(line, line.surveyProfile(), settings, 1);
     Log log;
     ASSERT_TRUE(setUpGrid(line, settings, log).ok());
     EXPECT_EQ(preview.size.righe, line.grid->righe());
@@ -51,16 +54,74 @@ TEST(GridPreview, findsOutsideWhatTheGridHasNoNodeFor) {
     for (const double x : profile.x) {
       if (line.grid->geometry().topNodeIndex(x + profile.xOffset) == kNoNode) ++outside;
     }
-    EXPECT_EQ(previewGrid(profile, {10.0, cell, 6}, 1).outside, outside) << cell;
+    const GridPreview preview = previewGrid(line, profile, {10.0, cell, 6}, 1);
+    EXPECT_EQ(preview.outside, outside) << cell;
+    EXPECT_EQ(describe(preview.left, line), describe(leftOut(line, findExcluded(line)), line))
+        << cell;
   }
 }
 
+/// 134 m of array, which 53 cells of 2.5 m do not fill: the shot at the end has no node.
+TomoDocument lineWithAnEndShot() {
+  TomoDocument line = testing::testLine(24, 5.5, {-2.75, 31.0, 63.0, 95.0, 129.25});
+  testing::pickTwoLayers(line, 450.0, 1800.0, 3.0);
+  return line;
+}
+
+TEST(GridPreview, countsShotsGeophonesAndPicksThatWouldBeLost) {
+  TomoDocument line = lineWithAnEndShot();
+  const auto lost = [&](double cell) {
+    return previewGrid(line, line.surveyProfile(), {10.0, cell, 6}, 1).left;
+  };
+  EXPECT_EQ(lost(2.5).shotsBeyond, std::vector<std::size_t>{4});
+  EXPECT_EQ(lost(2.5).geophoneCount(), 0U);
+  EXPECT_EQ(lost(2.5).picks, 24U);
+  EXPECT_EQ(lost(2.5).of, 120U);
+  EXPECT_FALSE(lost(2.0).any());
+  // 10 columns of 12.5 m and a node reach 127.5 m of 133: the last two geophones of 4 shots, too.
+  line.ttArray[0].ttMisurati[23] = kNoTime;
+  line.ttArray[1].indexStesa = -1;
+  const LeftOut more = lost(12.5);
+  EXPECT_EQ(more.shotsWithoutString, std::vector<std::size_t>{1});
+  ASSERT_EQ(more.geophones.size(), 1U);
+  EXPECT_EQ(more.geophones[0].numbers, (std::vector<std::size_t>{23}));
+  EXPECT_EQ(more.of, 119U);
+  EXPECT_EQ(more.picks, 24U + 24U + 2U);
+}
+
+TEST(GridPreview, offersTheNearestCellSizesThatLoseNone) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = lineWithAnEndShot();
+  const SurveyProfile profile = line.surveyProfile();
+  const auto reaches = [&](double cell) {
+    testing::putGrid(line, 10.0, cell);
+    return findExcluded(line).empty();
+  };
+  for (const double cell : {2.5, 3.21, 12.5, 60.0}) {
+    ASSERT_FALSE(reaches(cell)) << cell;
+    const NearestSizes nearest = reachingCellSizes(profile, {10.0, cell, 6});
+    ASSERT_TRUE(nearest.smaller && nearest.larger) << cell;
+    EXPECT_LT(*nearest.smaller, cell);
+    EXPECT_GT(*nearest.larger, cell);
+    EXPECT_TRUE(reaches(*nearest.smaller)) << *nearest.smaller;
+    EXPECT_TRUE(reaches(*nearest.larger)) << *nearest.larger;
+    EXPECT_FALSE(reaches(*nearest.smaller + 0.001)) << "the nearest";
+    EXPECT_FALSE(reaches(*nearest.larger - 0.001)) << "the nearest";
+  }
+  EXPECT_EQ(reachingCellSizes(profile, {10.0, 2.5, 6}).smaller, 2.481);
+  EXPECT_FALSE(reachingCellSizes(profile, {10.0, 0.1, 6}).smaller) << "none is smaller";
+  EXPECT_FALSE(reachingCellSizes(profile, {10.0, 134.0, 6}).larger)
+      << "no cell fits below the line";
+}
+
 TEST(GridPreview, saysWhatCannotBeBuilt) {
-  const SurveyProfile profile = testing::testLine(24, 2.0, {0.0}).surveyProfile();
-  EXPECT_FALSE(previewGrid(profile, {10.0, 0.0, 6}, 1).status.ok());
-  EXPECT_FALSE(previewGrid(profile, {10.0, 60.0, 6}, 1).status.ok());
-  EXPECT_NE(previewGrid(profile, {20.0, 1e-6, 6}, 1).status.message().find("nodes"),
-            std::string::npos);
+  const TomoDocument line = testing::testLine(24, 2.0, {0.0});
+  const auto status = [&](const GridSettings& settings) {
+    return previewGrid(line, line.surveyProfile(), settings, 1).status;
+  };
+  EXPECT_FALSE(status({10.0, 0.0, 6}).ok());
+  EXPECT_FALSE(status({10.0, 60.0, 6}).ok());
+  EXPECT_NE(status({20.0, 1e-6, 6}).message().find("nodes"), std::string::npos);
 }
 
 TEST(StartingModel, isToldThroughTheLifeOfAGrid) {
@@ -70,12 +131,12 @@ TEST(StartingModel, isToldThroughTheLifeOfAGrid) {
   EXPECT_EQ(startingModelOf(line), StartingModel::kDefault);
   ASSERT_TRUE(applyLayers(line, {{0, 300, 4, 600}, {4, 600, 12, 2000}}).ok());
   EXPECT_EQ(startingModelOf(line), StartingModel::kLayered);
-  ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false).ok());
+  ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false, log).ok());
   EXPECT_EQ(startingModelOf(line), StartingModel::kOther);
   for (int run = 0; run < 2; ++run) {  // the second begins with the smoothed result of the first
     ASSERT_TRUE(runInversion(line, testing::fewIterations(1), log).status.ok());
     EXPECT_EQ(startingModelOf(line), StartingModel::kResult);
-    ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false).ok());
+    ASSERT_TRUE(smoothGrid(line, SmoothingType::kUniform, 2, false, log).ok());
     EXPECT_EQ(startingModelOf(line), StartingModel::kSmoothed);
     TomoDocument copy = inversionCopy(line);
     EXPECT_EQ(startingModelOf(copy), StartingModel::kSmoothed);
@@ -86,33 +147,40 @@ TEST(StartingModel, isToldThroughTheLifeOfAGrid) {
   EXPECT_EQ(startingModelOf(line), StartingModel::kNone);
 }
 
-TEST(SmoothGrid, changesSlownessesAndNothingElse) {
+TEST(SmoothGrid, changesSlownessesAndTracesWhatIsShown) {
   TomoDocument line = inverted();
   const Grid before = *line.grid;
-  const double misfit = line.RMSE_tomography;
-  const auto rays = line.rays;
+  const double ofLastPass = line.RMSE_tomography;
+  const std::vector<double> coverage = line.coorcount;
   line.modified = false;
-  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 3, true).ok());
+  Log log;
+  const testing::ConsoleCapture console;
+  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 3, true, log).ok());
   EXPECT_EQ(line.grid->slownesses(),
             smoothSlowness(SmoothingType::kRayBased, before, line.hitCounts, 3, 1.0));
   EXPECT_NE(line.grid->slownesses(), before.slownesses());
   EXPECT_EQ(drawn(*line.grid), drawn(before));
   EXPECT_EQ(&line.grid->geometry(), &before.geometry());
-  EXPECT_EQ(line.rays, rays);
-  EXPECT_EQ(line.RMSE_tomography, misfit);
-  EXPECT_TRUE(line.has_tomographic_info && line.modified);
+  EXPECT_EQ(line.coorcount, coverage);
+  EXPECT_EQ(line.RMSE_tomography, ofLastPass);
+  EXPECT_TRUE(line.has_tomographic_info && line.modified && line.timesOfSection);
+  TomoDocument traced = inversionCopy(line);
+  ASSERT_TRUE(recomputeRays(traced, log).ok());
+  EXPECT_EQ(line.rays, traced.rays);
+  EXPECT_EQ(sectionMisfitOf(line).rmse, misfitOfTimes(traced).rmse);
 }
 
 TEST(SmoothGrid, worksWithoutAnInversionAndRefusesWhatMakesNoSense) {
   TomoDocument line = testing::twoLayers();
+  Log log;
   const std::vector<double> before = line.grid->slownesses();
-  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 0, false).ok());
+  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 0, false, log).ok());
   EXPECT_EQ(line.grid->slownesses(), before);
   EXPECT_FALSE(line.modified);
-  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 2, false).ok());
+  ASSERT_TRUE(smoothGrid(line, SmoothingType::kRayBased, 2, false, log).ok());
   EXPECT_NE(line.grid->slownesses(), before);
   line.grid.reset();
-  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 2, false).ok());
+  EXPECT_FALSE(smoothGrid(line, SmoothingType::kUniform, 2, false, log).ok());
 }
 
 TEST(InversionCopy, bringsHomeWhatTheInversionOfTheDocumentWouldLeave) {

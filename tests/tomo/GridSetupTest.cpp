@@ -156,6 +156,15 @@ TEST(GridSetup, goesOnProposingTheFirstCellSize) {
   EXPECT_EQ(line.proposedCellSizes, (std::vector<double>{0.5, 0.5, 1.0}));
 }
 
+TEST(GridSetup, proposesNoSmallerCellsThanUsersMayChoose) {
+  const testing::ConsoleCapture console;
+  Log log;
+  TomoDocument line = testing::testLine(24, 0.2, {});
+  SurveyProfile profile;
+  EXPECT_EQ(proposeGrid(line, profile, log).cellSize, 0.1);
+  EXPECT_EQ(line.proposedCellSizes, std::vector<double>{0.05});
+}
+
 TEST(GridSetup, proposesHalfAMetreWhereNothingIsKnown) {
   const testing::ConsoleCapture console;
   Log log;
