@@ -46,7 +46,7 @@ TomographyResult BackgroundInversion::work(const IterationDone& iterationDone) {
     return runInversion(mCopy, mParameters, mLog, handOver, [this] { return mStop.load(); });
   } catch (const std::exception& error) {
     TomographyResult failed;
-    failed.status = Status::failure(std::string("The inversion failed: ") + error.what());
+    failed.status = Status::failure(Message::tr("The inversion failed: %1").arg(error.what()));
     return failed;
   }
 }

@@ -3,6 +3,7 @@
 #include "app/GeometrySession.h"
 #include "app/GeometryTables.h"
 #include "app/GeometryTexts.h"
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/SelectCSVDelimiterDialog.h"
 #include "app/TableTexts.h"
@@ -35,7 +36,7 @@ struct DialogSetGeometry::PositionsFile {
 /// The positions of a file that has exactly one for each of `count` places; else why it has not.
 QString DialogSetGeometry::takePositions(std::size_t count, const Status& read,
                                          PositionsFile& file) {
-  if (!read.ok()) return QString::fromStdString(read.message());
+  if (!read.ok()) return textOf(read.text());
   if (file.table.records.size() != count) {
     const QString why =
         tr("Read with this separator the file has %1 lines of numbers; %2 are needed.")
@@ -43,7 +44,7 @@ QString DialogSetGeometry::takePositions(std::size_t count, const Status& read,
             .arg(count);
     return (why + QLatin1Char(' ') + headingText(file.table.remarks)).trimmed();
   }
-  return QString::fromStdString(positionsOf(file.table, file.positions).message());
+  return textOf(positionsOf(file.table, file.positions).text());
 }
 
 QString DialogSetGeometry::askForFile(bool save, const QString& filter) {
@@ -213,7 +214,7 @@ void DialogSetGeometry::choosePairOfShot() {
       readSWavePair(dx.front().toStdString(), sx.front().toStdString(), mState, *pair);
   if (!status.ok()) {
     showError(this, tr("Error occured"), tr("The files are not taken as an S-wave pair."),
-              QString::fromStdString(status.message()));
+              textOf(status.text()));
     return;
   }
   mSession->edit([&](SurveyGeometry& next) {
@@ -250,7 +251,7 @@ void DialogSetGeometry::addPairs() {
   if (!status.ok()) {
     showError(this, tr("Error occured"),
               tr("No shot was added: the files are not taken as S-wave pairs."),
-              QString::fromStdString(status.message()));
+              textOf(status.text()));
     return;
   }
   mSession->edit([&](SurveyGeometry& now) { now = std::move(next); });

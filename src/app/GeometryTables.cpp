@@ -2,6 +2,7 @@
 
 #include "app/GeometrySession.h"
 #include "app/GeometryTexts.h"
+#include "app/MessageText.h"
 #include "app/TableTexts.h"
 #include "base/TypedTable.h"
 
@@ -123,7 +124,7 @@ void GeometryTable::paste(int row, int column, const QString& text) {
   const Status read =
       parseTypedTable(text.toStdString(), usesDecimalComma(), kMostGeophones, rows, remarks);
   if (!read.ok()) {
-    emit refused(tr("Nothing was pasted: %1.").arg(QString::fromStdString(read.message())));
+    emit refused(tr("Nothing was pasted: %1.").arg(textOf(read.text())));
     return;
   }
   if (rows.empty()) return;

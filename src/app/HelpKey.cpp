@@ -1,9 +1,12 @@
 #include "app/HelpKey.h"
 
 #include <QCoreApplication>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
-#include <QWidget>
+#include <QMessageBox>
+#include <QPushButton>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace talvesk {
@@ -16,6 +19,7 @@ struct Page {
 
 constexpr Page kPages[] = {
     {"DialogSetGeometry", "geometry.html"},
+    {"SelectCSVDelimiterDialog", "geometry.html"},
     {"RecordingDetailsDialog", "load.html"},
     {"doFilteringDialog", "filter.html"},
     {"gridDialog", "inversion.html"},
@@ -31,12 +35,22 @@ constexpr Page kPages[] = {
     {"ImagesDialog", "report.html"},
     {"ScreenshotDialog", "report.html"},
     {"ReportDialog", "report.html"},
+    {"progressDialog", "projects.html"},
     {"SettingsDialog", "settings.html"},
 };
 
+const QString kMessages = QStringLiteral("troubleshooting.html");
+
+/// Not one of the message and file boxes, which belong to Qt.
+bool isOwnDialog(const QWidget& widget) {
+  return qobject_cast<const QDialog*>(&widget) != nullptr &&
+         std::string_view(widget.metaObject()->className()).substr(0, 9) == "talvesk::";
+}
+
 }  // namespace
 
-QString guidePageOf(const QObject* widget) {
+QString guidePageOf(const QWidget* widget) {
+  const QWidget* top = widget->window();
   for (const QObject* at = widget; at != nullptr; at = at->parent()) {
     for (const Page& page : kPages) {
       if (at->inherits((std::string("talvesk::") + page.dialog).c_str())) {
@@ -44,7 +58,7 @@ QString guidePageOf(const QObject* widget) {
       }
     }
   }
-  return {};
+  return qobject_cast<const QMessageBox*>(top) != nullptr ? kMessages : QString();
 }
 
 HelpKey::HelpKey(std::function<void(const QString&)> open, QObject* parent)
@@ -53,13 +67,25 @@ HelpKey::HelpKey(std::function<void(const QString&)> open, QObject* parent)
 }
 
 bool HelpKey::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+  if (!watched->isWidgetType()) return false;
+  auto* widget = static_cast<QWidget*>(watched);
+  if (event->type() == QEvent::Polish) addHelpButton(*widget);
+  if (event->type() != QEvent::KeyPress) return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);
   if (key.key() != Qt::Key_F1 || key.modifiers() != Qt::NoModifier) return false;
-  const QString page = guidePageOf(watched);
+  const QString page = guidePageOf(widget);
   if (page.isEmpty()) return false;
   mOpen(page);
   return true;
+}
+
+void HelpKey::addHelpButton(QWidget& dialog) {
+  if (!isOwnDialog(dialog)) return;
+  const QString page = guidePageOf(&dialog);
+  auto* buttons = dialog.findChild<QDialogButtonBox*>();
+  if (page.isEmpty() || buttons == nullptr || buttons->button(QDialogButtonBox::Help)) return;
+  buttons->addButton(QDialogButtonBox::Help);
+  connect(buttons, &QDialogButtonBox::helpRequested, this, [this, page] { mOpen(page); });
 }
 
 }  // namespace talvesk

@@ -11,13 +11,12 @@ QString userGuidePath(const QString& language, const QString& page) {
   const QDir program(QCoreApplication::applicationDirPath());
   const QStringList languages = {language, language.section(QLatin1Char('_'), 0, 0),
                                  QStringLiteral("en")};
-  // Installed in bin/, built in build/PRESET/bin/.
-  for (const char* folder : {"../share/talvesk/guide/", "../../../resources/guide/"}) {
-    for (const QString& name : languages) {
-      if (name.isEmpty()) continue;
-      const QString guide = QLatin1String(folder) + name + QLatin1Char('/');
-      for (const QString& wanted : {page, QStringLiteral("index.html")}) {
-        const QFileInfo file(program, guide + wanted);
+  for (const QString& wanted : {page, QStringLiteral("index.html")}) {
+    // Installed in bin/, built in build/PRESET/bin/.
+    for (const char* folder : {"../share/talvesk/guide/", "../../../resources/guide/"}) {
+      for (const QString& name : languages) {
+        if (name.isEmpty()) continue;
+        const QFileInfo file(program, QLatin1String(folder) + name + QLatin1Char('/') + wanted);
         if (file.isFile()) return file.canonicalFilePath();
       }
     }

@@ -11,10 +11,10 @@ namespace talvesk {
 /// The help pages on the web. The one place that names them.
 inline constexpr char kOnlineHelpAddress[] = "https://talvesk.example/help/";
 
-/// The first page of the guide that came with the program, in the language (a locale code) where
-/// there is one, else in English: beside the installed program, or in the source tree that it was
-/// built in. Empty when it is missing.
-/// \param page of the guide; where there is none of that name it is the first one
+/// A page of the guide that came with the program, in the language (a locale code) where there is
+/// one, else in English: beside the installed program, or in the source tree that it was built in.
+/// Empty when there is no guide.
+/// \param page of the guide; where no language has one of that name it is the first one
 QString userGuidePath(const QString& language, const QString& page = QStringLiteral("index.html"));
 
 /// Tells `found` whether the host of an address can be reached by name, at once or within the

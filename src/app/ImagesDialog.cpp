@@ -1,5 +1,6 @@
 #include "app/ImagesDialog.h"
 
+#include "app/MessageText.h"
 #include "figures/FigureOutput.h"
 #include "model/SurveyFacts.h"
 #include "ui_ImagesDialog.h"
@@ -157,7 +158,7 @@ QString ImagesDialog::problemWith(const std::vector<PlannedImage>& images) const
   sheet.widthMm = chosen.widthMm;
   sheet.heightMm = chosen.heightMm > 0.0 ? chosen.heightMm : FigureSheet::kMinMm;
   sheet.dpi = chosen.dpi;
-  return QString::fromStdString(sheet.check(chosen.format).message());
+  return textOf(sheet.check(chosen.format).text());
 }
 
 void ImagesDialog::refresh() {

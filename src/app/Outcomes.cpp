@@ -1,5 +1,6 @@
 #include "app/Outcomes.h"
 
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "base/Log.h"
 #include "base/Status.h"
@@ -11,13 +12,7 @@ namespace talvesk {
 void tellFailure(QWidget* window, Log& log, const QString& text, const Status& status) {
   log.write(status.message(), 1);
   showError(window, QCoreApplication::translate("talvesk::Talvesk_MainWindows", "Error occured"),
-            text, QString::fromStdString(status.message()));
-}
-
-QStringList linesOf(const std::vector<std::string>& texts) {
-  QStringList lines;
-  for (const std::string& text : texts) lines << QString::fromStdString(text);
-  return lines;
+            text, textOf(status.text()));
 }
 
 }  // namespace talvesk

@@ -2,6 +2,7 @@
 
 #include "app/FileFolders.h"
 #include "app/LineIcon.h"
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "io/PaletteFile.h"
 #include "ui_PaletteDialog.h"
@@ -250,8 +251,7 @@ void PaletteDialog::save_palette() {
   }
   const Status saved = savePalette(file.toStdString(), mPalettes.current());
   if (!saved.ok()) {
-    showError(this, tr("Save Palette"), tr("Error while saving palette."),
-              QString::fromStdString(saved.message()));
+    showError(this, tr("Save Palette"), tr("Error while saving palette."), textOf(saved.text()));
   }
 }
 
@@ -266,7 +266,7 @@ void PaletteDialog::load_palette() {
     if (loaded.ok()) {
       add(std::move(palette));
     } else {
-      failures << QString::fromStdString(loaded.message());
+      failures << textOf(loaded.text());
     }
   }
   if (!failures.isEmpty()) {

@@ -1,5 +1,6 @@
 #include "app/RecoveryCopy.h"
 
+#include "app/MessageText.h"
 #include "base/AtomicFile.h"
 #include "io/ProjectWriter.h"
 
@@ -59,7 +60,7 @@ Status write(const QString& file, const QString& folder, const LoadedProject& co
   ProjectWriter writer;
   if (writer.save(file.toStdString(), folder.toStdString(), copy.document, copy.interpretation,
                   copy.palettes, copy.section) != 0) {
-    return Status::failure(writer.message());
+    return Status::failure(writer.reason());
   }
   return writeFileAtomically(noteOf(file).toStdString(), note);
 }
@@ -131,7 +132,7 @@ void RecoveryCopy::finish(int run, const Status& written) {
   if (written.ok()) {
     emit saved();
   } else {
-    emit failed(QString::fromStdString(written.message()), !canWrite(mFolder));
+    emit failed(textOf(written.text()), !canWrite(mFolder));
   }
 }
 

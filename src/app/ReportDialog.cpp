@@ -1,5 +1,6 @@
 #include "app/ReportDialog.h"
 
+#include "app/MessageText.h"
 #include "app/WaitCursor.h"
 #include "figures/ReportPages.h"
 #include "ui_ReportDialog.h"
@@ -125,7 +126,7 @@ void ReportDialog::preview() {
     mUi->previewArea->setWidget(sheets);
     mUi->pagesLabel->setText(tr("%n page(s)", nullptr, pages.count()));
   } else {
-    mUi->pagesLabel->setText(qt(status.message()));
+    mUi->pagesLabel->setText(textOf(status.text()));
   }
 }
 

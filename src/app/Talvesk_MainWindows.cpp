@@ -1,6 +1,7 @@
 #include "app/Talvesk_MainWindows.h"
 
 #include "app/CommandIcons.h"
+#include "app/GuideWindow.h"
 #include "app/HelpKey.h"
 #include "app/KeypadArrows.h"
 #include "app/Messages.h"
@@ -264,6 +265,7 @@ void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
   }
   forgetRecovery();
   saveWindow();
+  if (mGuide != nullptr) mGuide->close();
   event->accept();
 }
 

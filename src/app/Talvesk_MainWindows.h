@@ -36,6 +36,7 @@ namespace Ui {
 class Talvesk_MainWindows;
 }
 class BackgroundInversion;
+class GuideWindow;
 class ProjectSnapshot;
 class SettingsDialog;
 class editTravelTimesWidget;
@@ -203,10 +204,10 @@ class Talvesk_MainWindows : public QMainWindow {
 
   /// What the window remembers of a shot beside the document.
   struct ShotMemory {
-    bool filtered = false;      ///< a command made its filtered copy while it was current
-    bool showFiltered = false;  ///< its views show that copy
-    QString format;             ///< of its file
-    QStringList warnings;       ///< that the reader had about its file
+    bool filtered = false;          ///< a command made its filtered copy while it was current
+    bool showFiltered = false;      ///< its views show that copy
+    QString format;                 ///< of its file
+    std::vector<Message> warnings;  ///< that the reader had about its file
   };
 
   // Start and end
@@ -373,6 +374,7 @@ class Talvesk_MainWindows : public QMainWindow {
   bool mCloseAfterInversion = false;
   QComboBox* mShotChooser = nullptr;
   QLabel* mCursorLabel = nullptr;
+  std::unique_ptr<GuideWindow> mGuide;  ///< once it was asked for
 };
 
 }  // namespace talvesk

@@ -1,4 +1,5 @@
 #include "app/LossQuestion.h"
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
@@ -35,9 +36,9 @@ bool isTravelTimeFile(const QString& file) {
 
 /// Why a file was not loaded. A survey that takes no files refuses them without a name.
 QString reasonOf(const ShotFileOutcome& outcome) {
-  const std::string& why = outcome.status.message();
-  const bool named = why.find(outcome.path) != std::string::npos;
-  return QString::fromStdString(named ? why : outcome.path + ": " + why);
+  const Message& why = outcome.status.text();
+  const bool named = why.english().find(outcome.path) != std::string::npos;
+  return textOf(named ? why : joined(outcome.path, why));
 }
 
 bool isProjectFile(const QString& file) {
@@ -106,7 +107,7 @@ void Talvesk_MainWindows::loadShotFiles(const QStringList& files, ShotFiles how)
     if (!outcome.status.ok()) continue;
     ShotMemory& memory = memories.emplace_back();
     memory.format = QString::fromStdString(outcome.format);
-    memory.warnings = linesOf(outcome.warnings);
+    memory.warnings = outcome.warnings;
   }
   if (memories.empty()) return reportShotFiles(outcomes);
   if (how == ShotFiles::kInstead) {
@@ -204,7 +205,7 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
     fitToRecords(times, mDocument);
     return read.ok() ? checkImport(times, mDocument, cost) : read;
   });
-  const std::vector<std::string> warnings = times.warnings;
+  const std::vector<Message> warnings = times.warnings;
   if (status.ok()) {
     // An import replaces the picks at least.
     if (hasPicks(mDocument) && !mayLoseChanges()) return;

@@ -39,7 +39,7 @@ void Talvesk_MainWindows::takeGeometry(const SurveyGeometry& geometry) {
     fresh.push_back(i);
     mShots[i] = ShotMemory();
     mShots[i].format = QString::fromStdString(pair->format);
-    mShots[i].warnings = linesOf(pair->warnings);
+    mShots[i].warnings = pair->warnings;
     if (i < mInterpretation.ttLayer.size()) mInterpretation.ttLayer[i].layer.clear();
   }
   if (!fresh.empty()) {

@@ -1,3 +1,4 @@
+#include "app/GuideWindow.h"
 #include "app/HelpTargets.h"
 #include "app/Messages.h"
 #include "app/Talvesk_MainWindows.h"
@@ -38,13 +39,15 @@ QString libraryTable() {
 }  // namespace
 
 void Talvesk_MainWindows::openUserGuide(const QString& page) {
-  const QString guide = userGuidePath(QString::fromStdString(mSettings.language), page);
-  if (guide.isEmpty()) {
+  if (mGuide == nullptr) {
+    const auto locate = [this](const QString& wanted) {
+      return userGuidePath(QString::fromStdString(mSettings.language), wanted);
+    };
+    mGuide = std::make_unique<GuideWindow>(locate, windowStateFile());
+  }
+  if (!mGuide->open(page)) {
     showError(this, tr("User guide"), tr("The user guide is not where it was installed."),
               tr("Install Talvesk again to get it back."));
-  } else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(guide))) {
-    showNote(this, tr("User guide"), tr("No program to show the user guide was found."),
-             tr("You find it in %1").arg(guide));
   }
 }
 

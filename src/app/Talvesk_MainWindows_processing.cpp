@@ -1,3 +1,4 @@
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
@@ -69,8 +70,7 @@ void Talvesk_MainWindows::on_actionAutoPick_triggered() {
                            kMessageTime);
   if (!failed.ok()) {
     mLog.write(failed.message(), 1);
-    showError(this, tr("Warning"), tr("Not every shot could be picked."),
-              QString::fromStdString(failed.message()));
+    showError(this, tr("Warning"), tr("Not every shot could be picked."), textOf(failed.text()));
   }
 }
 
@@ -97,7 +97,7 @@ void Talvesk_MainWindows::makeFilteredCopies(
     mLog.write(sum.status.message(), 1);
     showError(this, tr("Warning"),
               tr("%n trace(s) stay as they were.", nullptr, static_cast<int>(sum.failed)),
-              QString::fromStdString(sum.status.message()));
+              textOf(sum.status.text()));
   }
 }
 

@@ -1,3 +1,4 @@
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
@@ -137,7 +138,7 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
   });
   if (result != 0) {
     mLog.write(writer.message(), 1);
-    QString details = QString::fromStdString(writer.message());
+    QString details = textOf(writer.reason());
     if (QFileInfo::exists(file)) {
       details += QLatin1Char('\n') + tr("The file is as it was before.");
     }
@@ -209,7 +210,7 @@ void Talvesk_MainWindows::reportBadProject(const QString& file, const projectRea
   if (reader.tracesFailed()) {
     text += QLatin1Char('\n') + tr("Error while loading traces: Invalid file format.");
   }
-  QString details = QString::fromStdString(reader.message());
+  QString details = textOf(reader.reason());
   if (!QFileInfo::exists(file)) {
     mRecent.remove(file);
     refreshRecentProjects();

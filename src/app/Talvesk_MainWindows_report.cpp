@@ -42,7 +42,7 @@ Status writePicture(const QImage& picture, const QString& file, int quality) {
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   if (!picture.save(&buffer, jpeg ? "JPEG" : "PNG", jpeg ? quality : -1)) {
-    return Status::failure("The picture cannot be made: " + file.toStdString());
+    return Status::failure(Message::tr("The picture cannot be made: %1").arg(file.toStdString()));
   }
   return writeBytes(file.toStdString(), bytes);
 }
@@ -118,8 +118,9 @@ void Talvesk_MainWindows::on_actionScreenshot_triggered() {
   const Status status = whileWaiting([&] {
     showWriting(file);
     const QImage picture = view->picture(size, SectionView::Part::kSeen, dialog.scale());
-    return picture.isNull() ? Status::failure("The view cannot be drawn for a picture.")
-                            : writePicture(picture, file, dialog.quality());
+    return picture.isNull()
+               ? Status::failure(Message::tr("The view cannot be drawn for a picture."))
+               : writePicture(picture, file, dialog.quality());
   });
   tellReport(status, file);
 }

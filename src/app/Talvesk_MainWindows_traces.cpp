@@ -1,3 +1,4 @@
+#include "app/MessageText.h"
 #include "app/RecordingDetailsDialog.h"
 #include "app/Talvesk_MainWindows.h"
 #include "ui_Talvesk_MainWindows.h"
@@ -32,7 +33,7 @@ void Talvesk_MainWindows::on_actionRecording_details_triggered() {
   logSlot(__func__);
   std::vector<RecordingInfo> files;
   for (std::size_t i = 0; i < mShots.size(); ++i) {
-    files.push_back({mShots[i].format, mShots[i].warnings});
+    files.push_back({mShots[i].format, linesOf(mShots[i].warnings)});
   }
   RecordingDetailsDialog(mDocument, files, mCurrentFile, this).exec();
 }

@@ -1,6 +1,7 @@
 #include "app/contourlines_dialog.h"
 
 #include "app/FileFolders.h"
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/NumberText.h"
 #include "app/SelectCSVDelimiterDialog.h"
@@ -271,8 +272,7 @@ void contourlines_dialog::saveIsovalues() {
   if (!separator) return;
   const Status saved = writeIsovalues(file.toStdString(), *separator, values());
   if (!saved.ok()) {
-    showError(this, tr("Error"), tr("Cannot save file ") + file,
-              QString::fromStdString(saved.message()));
+    showError(this, tr("Error"), tr("Cannot save file ") + file, textOf(saved.text()));
   }
 }
 
@@ -285,7 +285,7 @@ void contourlines_dialog::loadIsovalues() {
   std::string text;
   if (const Status opened = readIsovalueText(file, text); !opened.ok()) {
     return showError(this, tr("Error"), tr("Cannot open file ") + QString::fromStdString(file),
-                     QString::fromStdString(opened.message()));
+                     textOf(opened.text()));
   }
   const auto separator = SelectCSVDelimiterDialog::ask(this, lookAtGeometryFile(file).separator);
   if (!separator) return;
@@ -295,7 +295,7 @@ void contourlines_dialog::loadIsovalues() {
               tr("Invalid value at line ") + QString::number(read.invalidLine) + QLatin1Char('\n') +
                   tr("Or wrong CVS separator."));
   } else if (!read.status.ok()) {
-    showError(this, tr("Error"), QString::fromStdString(read.status.message()));
+    showError(this, tr("Error"), textOf(read.status.text()));
   }
   // A file that gave nothing, as with the wrong separator, does not cost the list.
   if (!read.status.ok() && read.values.empty()) return;

@@ -1,5 +1,6 @@
 #include "app/doFilteringDialog.h"
 
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
 #include "model/SurveyFacts.h"
@@ -143,7 +144,7 @@ bool doFilteringDialog::mayFilter(const BandFilter& wanted) {
   }
   const Status check = checkBandFilter(wanted, mHighest.value());
   if (check.ok()) return true;
-  showError(this, tr("Caution"), tr("No filter applied."), QString::fromStdString(check.message()));
+  showError(this, tr("Caution"), tr("No filter applied."), textOf(check.text()));
   return false;
 }
 
@@ -184,7 +185,7 @@ void doFilteringDialog::on_button_apply_filter_clicked() {
   if (outcome.failed > 0) {
     showError(this, tr("Caution"),
               tr("%n trace(s) stay as they were.", nullptr, static_cast<int>(outcome.failed)),
-              QString::fromStdString(outcome.status.message()));
+              textOf(outcome.status.text()));
   }
 }
 

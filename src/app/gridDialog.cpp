@@ -1,6 +1,7 @@
 #include "app/gridDialog.h"
 
 #include "app/LeftOutText.h"
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "ui_gridDialog.h"
@@ -118,7 +119,7 @@ void gridDialog::showPreview() {
 }
 
 QStringList gridDialog::warningsOf(const GridPreview& preview) const {
-  if (!preview.status.ok()) return {QString::fromStdString(preview.status.message())};
+  if (!preview.status.ok()) return {textOf(preview.status.text())};
   QStringList warnings;
   if (preview.size.righe == 0) {
     warnings << tr("The grid has no rows: choose a greater depth or smaller cells.");

@@ -1,5 +1,6 @@
 #include "app/select_speed_Dialog.h"
 
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "app/WaitCursor.h"
@@ -102,7 +103,7 @@ Status select_speed_Dialog::check(const std::vector<VelocityLayer>& layers) cons
 void select_speed_Dialog::showModel(const std::vector<VelocityLayer>& layers) {
   mUi->widget->setLayers(layers);
   const Status status = check(layers);
-  QString text = QString::fromStdString(status.ok() ? "" : status.message());
+  QString text = textOf(status.text());
   if (status.ok() && mDocument.has_tomographic_info) {
     text = tr("The results of the last inversion will be lost.");
   }
@@ -169,7 +170,7 @@ void select_speed_Dialog::accept() {
     return;
   }
   showError(this, tr("Define model velocity"), tr("The layers make no velocity model."),
-            QString::fromStdString(status.message()));
+            textOf(status.text()));
 }
 
 }  // namespace talvesk

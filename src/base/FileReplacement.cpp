@@ -92,16 +92,18 @@ std::string placeOf(const std::string& path) {
 }
 
 Status checkReplaceable(const std::string& path) {
-  const auto refuse = [&](const char* why) {
-    return Status::failure("The file " + path + " cannot be replaced: it is " + why +
-                           "; choose another place.");
+  const auto refuse = [&](Message why) {
+    return Status::failure(
+        Message::tr("The file %1 cannot be replaced: it is %2; choose another place.")
+            .arg(path)
+            .arg(std::move(why)));
   };
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
   if (!fs::exists(status)) return {};
-  if (fs::is_directory(status)) return refuse("a folder");
-  if (!fs::is_regular_file(status)) return refuse("not a regular file");
-  if (::access(path.c_str(), W_OK) != 0) return refuse("protected against writing");
+  if (fs::is_directory(status)) return refuse(Message::tr("a folder"));
+  if (!fs::is_regular_file(status)) return refuse(Message::tr("not a regular file"));
+  if (::access(path.c_str(), W_OK) != 0) return refuse(Message::tr("protected against writing"));
   return {};
 }
 
@@ -109,9 +111,9 @@ FileReplacement::~FileReplacement() {
   if (mWriting) mWriting->remove();
 }
 
-Status FileReplacement::failed(const std::string& what) const {
+Status FileReplacement::failed(Message text) const {
   const std::string reason = std::system_category().message(errno);
-  return Status::failure("The file " + mPath + " cannot be " + what + ": " + reason + ".");
+  return Status::failure(std::move(text).arg(mPath).arg(reason));
 }
 
 Status FileReplacement::begin(const std::string& path) {
@@ -125,7 +127,7 @@ Status FileReplacement::begin(const std::string& path) {
   do {
     mWriting = LockedFile::create(folder + "/" + freshName(), mode);
   } while (!mWriting && errno == EEXIST);
-  return mWriting ? Status() : failed("created");
+  return mWriting ? Status() : failed(Message::tr("The file %1 cannot be created: %2."));
 }
 
 bool FileReplacement::write(const void* bytes, std::size_t count) {
@@ -155,9 +157,13 @@ std::uint64_t FileReplacement::size() const {
 }
 
 Status FileReplacement::commit() {
-  if (!takeAfter(mPath, mWriting->descriptor())) return failed("given its permissions");
-  if (::fsync(mWriting->descriptor()) != 0) return failed("written");
-  if (!mWriting->rename(mPath)) return failed("replaced");
+  if (!takeAfter(mPath, mWriting->descriptor())) {
+    return failed(Message::tr("The file %1 cannot be given its permissions: %2."));
+  }
+  if (::fsync(mWriting->descriptor()) != 0) {
+    return failed(Message::tr("The file %1 cannot be written: %2."));
+  }
+  if (!mWriting->rename(mPath)) return failed(Message::tr("The file %1 cannot be replaced: %2."));
   mWriting.reset();
   syncFolder(folderOf(mPath));
   return {};

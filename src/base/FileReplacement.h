@@ -45,7 +45,8 @@ class FileReplacement {
   Status commit();
 
  private:
-  Status failed(const std::string& what) const;
+  /// \param text with the path and the reason as placeholders
+  Status failed(Message text) const;
 
   std::string mPath;                   ///< of the old file, no symbolic link any more
   std::optional<LockedFile> mWriting;  ///< none before begin() and after commit()

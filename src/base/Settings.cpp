@@ -95,7 +95,7 @@ Status Settings::save() const {
             CEREAL_NVP(fillWiggle), CEREAL_NVP(showFiltered), CEREAL_NVP(showAllTraces),
             CEREAL_NVP(savePngHColorbar), CEREAL_NVP(twoColors));
   } catch (const std::exception& error) {  // the archive writes its text as it goes out of scope
-    return Status::failure("Cannot write " + mPath + ": " + error.what());
+    return Status::failure(Message::tr("Cannot write %1: %2").arg(mPath).arg(error.what()));
   }
   return writeFileAtomically(mPath, stream.str());
 }

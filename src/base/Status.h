@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Message.h"
+
 #include <string>
 #include <utility>
 
@@ -10,17 +12,18 @@ namespace talvesk {
 class [[nodiscard]] Status {
  public:
   Status() = default;  ///< success
-  static Status failure(std::string message, int code = 1) { return {code, std::move(message)}; }
+  static Status failure(Message text, int code = 1) { return {code, std::move(text)}; }
 
   bool ok() const { return mCode == 0; }
   int code() const { return mCode; }
-  const std::string& message() const { return mMessage; }
+  const std::string& message() const { return mText.english(); }  ///< English
+  const Message& text() const { return mText; }                   ///< what the window translates
 
  private:
-  Status(int code, std::string message) : mCode(code), mMessage(std::move(message)) {}
+  Status(int code, Message text) : mCode(code), mText(std::move(text)) {}
 
   int mCode = 0;
-  std::string mMessage;
+  Message mText;
 };
 
 }  // namespace talvesk

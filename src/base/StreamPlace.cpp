@@ -83,8 +83,10 @@ Status writeStream(const std::string& path, std::string_view bytes) {
   if (descriptor >= 0) ::close(descriptor);
   if (done) return {};
   const bool unread = reason == ENXIO || reason == EPIPE;
-  return Status::failure("Cannot write " + path + ": " +
-                         (unread ? "nobody reads from it" : std::strerror(reason)));
+  return Status::failure(
+      Message::tr("Cannot write %1: %2")
+          .arg(path)
+          .arg(unread ? Message::tr("nobody reads from it") : Message(std::strerror(reason))));
 }
 
 }  // namespace talvesk

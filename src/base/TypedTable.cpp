@@ -160,15 +160,16 @@ Status parseTypedTable(std::string_view copied, bool decimalComma, std::size_t m
       continue;
     }
     if (read.size() == mostRows) {
-      return Status::failure("there are more than " + std::to_string(mostRows) + " rows");
+      return Status::failure(Message::tr("there are more than %1 rows").arg(mostRows));
     }
     std::vector<double>& row = read.emplace_back();
     for (const std::string_view field : fields) {
       row.push_back(std::numeric_limits<double>::quiet_NaN());
       const std::string_view number = unquoted(field);
       if (number.empty() || parseTyped(number, decimalComma, row.back())) continue;
-      return Status::failure("line " + std::to_string(i + 1) + ": \"" +
-                             std::string(number.substr(0, kLongestNumber)) + "\" is no number");
+      return Status::failure(Message::tr("line %1: \"%2\" is no number")
+                                 .arg(i + 1)
+                                 .arg(std::string(number.substr(0, kLongestNumber))));
     }
   }
   table = std::move(read);

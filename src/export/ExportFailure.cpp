@@ -7,8 +7,8 @@
 
 namespace talvesk {
 
-Status cannotWrite(const std::string& path, const std::string& reason) {
-  return told(Status::failure("Cannot write " + path + ": " + reason));
+Status cannotWrite(const std::string& path, const Message& reason) {
+  return told(Status::failure(Message::tr("Cannot write %1: %2").arg(path).arg(reason)));
 }
 
 Status told(Status written) {

@@ -54,6 +54,14 @@ bool countsBackward(const std::vector<Axis>& axes) {
   return both.find("west") != std::string::npos || both == "south east" || both == "east south";
 }
 
+Message toward(const std::string& direction) {
+  if (direction == "east") return Message::tr("eastward");
+  if (direction == "north") return Message::tr("northward");
+  if (direction == "west") return Message::tr("westward");
+  if (direction == "south") return Message::tr("southward");
+  return direction + "ward";
+}
+
 }  // namespace
 
 void GeoTransformer::Release::operator()(PJconsts* object) const {
@@ -74,29 +82,39 @@ GeoTransformer::GeoTransformer(GeoTransformer&&) noexcept = default;
 GeoTransformer& GeoTransformer::operator=(GeoTransformer&&) noexcept = default;
 
 Status GeoTransformer::examine(const Object& system, const std::string& code) {
-  if (!system)
-    return Status::failure(code + " is no reference system that is known here", kUnknownSystem);
+  if (!system) {
+    return Status::failure(Message::tr("%1 is no reference system that is known here").arg(code),
+                           kUnknownSystem);
+  }
   if (const char* name = proj_get_name(system.get())) mName = name;
   const std::string what = code + " (" + mName + ")";
   if (proj_get_type(system.get()) != PJ_TYPE_PROJECTED_CRS) {
-    return Status::failure(what + " is not a projected system; easting and northing need one",
-                           kNotProjected);
+    return Status::failure(
+        Message::tr("%1 is not a projected system; easting and northing need one").arg(what),
+        kNotProjected);
   }
   const Object coordinateSystem(proj_crs_get_coordinate_system(nullptr, system.get()));
   const std::vector<Axis> axes =
       coordinateSystem ? axesOf(coordinateSystem.get()) : std::vector<Axis>{};
-  if (axes.size() < 2)
-    return Status::failure(what + " has no axes that are known here", kNotProjected);
+  if (axes.size() < 2) {
+    return Status::failure(Message::tr("%1 has no axes that are known here").arg(what),
+                           kNotProjected);
+  }
   for (const Axis& axis : axes) {
     if (axis.metres == 1.0) continue;
-    return Status::failure(what + " counts in another unit than the metre: " + axis.unit +
-                               "; choose a system in metres",
-                           kNotInMetres);
+    return Status::failure(
+        Message::tr("%1 counts in another unit than the metre: %2; choose a system in metres")
+            .arg(what)
+            .arg(axis.unit),
+        kNotInMetres);
   }
   if (countsBackward(axes)) {
-    return Status::failure(what + " counts " + axes[0].direction + "ward and " + axes[1].direction +
-                               "ward; choose a system with easting and northing",
-                           kCountsBackward);
+    return Status::failure(
+        Message::tr("%1 counts %2 and %3; choose a system with easting and northing")
+            .arg(what)
+            .arg(toward(axes[0].direction))
+            .arg(toward(axes[1].direction)),
+        kCountsBackward);
   }
   return {};
 }
@@ -105,8 +123,9 @@ Status GeoTransformer::build(const std::string& code) {
   const Object asDefined(proj_create_crs_to_crs(nullptr, code.c_str(), kGlobe, nullptr));
   if (asDefined) mTransformation.reset(proj_normalize_for_visualization(nullptr, asDefined.get()));
   if (mTransformation) return {};
-  return Status::failure(code + " (" + mName + ") cannot be turned into longitude and latitude",
-                         kNoTransformation);
+  return Status::failure(
+      Message::tr("%1 (%2) cannot be turned into longitude and latitude").arg(code).arg(mName),
+      kNoTransformation);
 }
 
 bool GeoTransformer::transform(double easting, double northing, LonLat& out) const {

@@ -37,11 +37,11 @@ void announceGriddedText(const std::string& path) {
 Status writeGriddedText(const std::string& path, const TomoDocument& document,
                         const GriddedTextOptions& options) {
   if (!document.grid) {
-    return cannotWrite(path, kNoGrid);
+    return cannotWrite(path, noGrid());
   }
   if (!std::isfinite(options.lineY) || !std::isfinite(options.zOffset)) {
-    return cannotWrite(path,
-                       "the Y coordinate and the Z offset of the line must be finite numbers");
+    return cannotWrite(
+        path, Message::tr("the Y coordinate and the Z offset of the line must be finite numbers"));
   }
   return told(
       writeTextAtomically(path, [&](std::ostream& out) { printCells(out, document, options); }));

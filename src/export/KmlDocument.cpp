@@ -100,7 +100,8 @@ void KmlDocument::addShape(const std::vector<Vertex>& ring, const QString& color
 Status KmlDocument::write(const std::string& path) {
   mXml.writeEndDocument();
   if (mXml.hasError()) {
-    return Status::failure("Cannot write " + path + ": its text could not be put together");
+    return Status::failure(
+        Message::tr("Cannot write %1: its text could not be put together").arg(path));
   }
   return writeFileAtomically(path, {mBytes.constData(), static_cast<std::size_t>(mBytes.size())});
 }

@@ -49,14 +49,17 @@ LineOnGlobe::LineOnGlobe(std::shared_ptr<const GeoTransformer> transformer,
   }
   if (!mStatus.ok()) return;
   if (!std::isfinite(mPlacement.length())) {
-    mStatus = Status::failure("the coordinates of the geophones are not numbers", kNotNumbers);
+    mStatus = Status::failure(Message::tr("the coordinates of the geophones are not numbers"),
+                              kNotNumbers);
   } else if (!(mPlacement.length() > 0.0)) {
-    mStatus =
-        Status::failure("the first and the last geophone have the same coordinates", kSameEnds);
+    mStatus = Status::failure(
+        Message::tr("the first and the last geophone have the same coordinates"), kSameEnds);
   } else if (!locate(0.0, mFirst) || !locate(mPlacement.length(), mLast)) {
-    mStatus = Status::failure("the coordinates of the geophones lie outside of EPSG:" +
-                                  std::to_string(ends.CRS) + " (" + systemName() + ")",
-                              kOutside);
+    mStatus =
+        Status::failure(Message::tr("the coordinates of the geophones lie outside of EPSG:%1 (%2)")
+                            .arg(ends.CRS)
+                            .arg(systemName()),
+                        kOutside);
   }
 }
 

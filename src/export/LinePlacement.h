@@ -11,8 +11,9 @@
 namespace talvesk {
 
 /// What users are told when the line has no place on the globe.
-inline constexpr const char* kNoGeographicCoordinates =
-    "Geographical coordinates are missing, data cannot be exported in KML format";
+inline Message noGeographicCoordinates() {
+  return Message::tr("Geographical coordinates are missing, data cannot be exported in KML format");
+}
 
 /// Survey abscissas of the first and the last geophone: the least and the greatest of all strings,
 /// whatever the order of channels. Metres.

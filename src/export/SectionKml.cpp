@@ -79,16 +79,16 @@ std::vector<KmlDocument::Vertex> ringOf(const Rectangle& cell, const LineOnGlobe
 }
 
 /// What stands in the way of an export, or an empty text.
-std::string whyNot(const TomoDocument& document, const ColorPalette& palette,
-                   const ValueRange& range) {
-  if (!document.grid) return kNoGrid;
+Message whyNot(const TomoDocument& document, const ColorPalette& palette, const ValueRange& range) {
+  if (!document.grid) return noGrid();
   if (document.grid->cellCount() > kMaxCells) {
-    return "the section has too many cells for this format, " +
-           std::to_string(document.grid->cellCount());
+    return Message::tr("the section has too many cells for this format, %1")
+        .arg(document.grid->cellCount());
   }
-  if (palette.color_gradient.empty()) return "the palette has no colours";
+  if (palette.color_gradient.empty()) return Message::tr("the palette has no colours");
   if (!std::isfinite(range.span()) || !(range.span() > 0.0)) {
-    return "the value range of the section is empty; its maximum must be greater than its minimum";
+    return Message::tr(
+        "the value range of the section is empty; its maximum must be greater than its minimum");
   }
   return {};
 }
@@ -105,14 +105,14 @@ std::string kmlColor(const ColorGradient& gradient, double fraction) {
 
 Status writeSectionKml(const std::string& path, const TomoDocument& document,
                        const ColorPalette& palette, ValueRange range) {
-  if (!document.geoCoord_isSet) return cannotWrite(path, kNoGeographicCoordinates);
+  if (!document.geoCoord_isSet) return cannotWrite(path, noGeographicCoordinates());
   const std::optional<LineEnds> ends = lineEnds(document);
-  if (!ends) return cannotWrite(path, "the survey has no geophones");
-  if (const std::string why = whyNot(document, palette, range); !why.empty()) {
+  if (!ends) return cannotWrite(path, Message::tr("the survey has no geophones"));
+  if (const Message why = whyNot(document, palette, range); !why.empty()) {
     return cannotWrite(path, why);
   }
   const LineOnGlobe line(document.geoCoord);
-  if (!line.status().ok()) return cannotWrite(path, line.status().message());
+  if (!line.status().ok()) return cannotWrite(path, line.status().text());
   tellUntransformed(path, line);
 
   console::out() << "Exporting tomographic data on KML file: " << path << std::endl;
@@ -128,7 +128,7 @@ Status writeSectionKml(const std::string& path, const TomoDocument& document,
     kml.addShape(ring, QString::fromStdString(color));
     ++shapes;
   });
-  if (shapes == 0) return cannotWrite(path, kNoCellDrawn);
+  if (shapes == 0) return cannotWrite(path, noCellDrawn());
   return told(kml.write(path));
 }
 

@@ -37,11 +37,11 @@ class Marker {
 }  // namespace
 
 Status writeSeismicLineKml(const std::string& path, const TomoDocument& document) {
-  if (!document.geoCoord_isSet) return cannotWrite(path, kNoGeographicCoordinates);
+  if (!document.geoCoord_isSet) return cannotWrite(path, noGeographicCoordinates());
   const std::optional<LineEnds> ends = lineEnds(document);
-  if (!ends) return cannotWrite(path, "the survey has no geophones");
+  if (!ends) return cannotWrite(path, Message::tr("the survey has no geophones"));
   const LineOnGlobe line(document.geoCoord);
-  if (!line.status().ok()) return cannotWrite(path, line.status().message());
+  if (!line.status().ok()) return cannotWrite(path, line.status().text());
   tellUntransformed(path, line);
 
   KmlDocument kml("Shots and Receivers", "Content");

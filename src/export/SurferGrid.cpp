@@ -130,13 +130,14 @@ void Raster::print(std::ostream& out) const {
 
 Status writeSurferGrid(const std::string& path, const TomoDocument& document) {
   if (!document.grid) {
-    return cannotWrite(path, kNoGrid);
+    return cannotWrite(path, noGrid());
   }
   const Raster raster(document);
-  if (raster.empty()) return cannotWrite(path, kNoCellDrawn);
+  if (raster.empty()) return cannotWrite(path, noCellDrawn());
   if (!(raster.nodes() <= kMaxSurferNodes)) {
-    return cannotWrite(path, "the raster would have " + formatDouble(raster.nodes()) +
-                                 " nodes; choose larger cells");
+    return cannotWrite(
+        path,
+        Message::tr("the raster would have %1 nodes; choose larger cells").arg(raster.nodes()));
   }
   return told(writeTextAtomically(path, [&](std::ostream& out) { raster.print(out); }));
 }

@@ -131,13 +131,14 @@ void writeCellData(VtuWriter& vtu, const Cells& cells, const TomoDocument& docum
 
 Status writeVtkGrid(const std::string& path, const TomoDocument& document) {
   if (!document.grid) {
-    return cannotWrite(path, kNoGrid);
+    return cannotWrite(path, noGrid());
   }
   const Cells cells = drawnCells(sectionMesh(*document.grid, document.xOffset));
-  if (cells.cells.empty()) return cannotWrite(path, kNoCellDrawn);
+  if (cells.cells.empty()) return cannotWrite(path, noCellDrawn());
   if (cells.cells.size() > kMaxCells) {
-    return cannotWrite(path, "the section has too many cells for this format, " +
-                                 std::to_string(cells.cells.size()));
+    return cannotWrite(
+        path,
+        Message::tr("the section has too many cells for this format, %1").arg(cells.cells.size()));
   }
 
   VtuWriter vtu;

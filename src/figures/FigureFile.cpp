@@ -37,8 +37,8 @@ Status paintPng(const FigureSheet& sheet, const Paint& paint, QBuffer& buffer) {
                QImage::Format_RGB32);
   if (image.isNull()) {
     return Status::failure(
-        "Not enough memory for a picture of this size: choose a smaller size or "
-        "resolution.");
+        Message::tr("Not enough memory for a picture of this size: choose a smaller size or "
+                    "resolution."));
   }
   setResolution(image, sheet.dpi);
   image.fill(Qt::white);
@@ -47,7 +47,9 @@ Status paintPng(const FigureSheet& sheet, const Paint& paint, QBuffer& buffer) {
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   paint(painter, QRectF(image.rect()));
   painter.end();
-  return image.save(&buffer, "PNG") ? Status() : Status::failure("The PNG picture cannot be made.");
+  return image.save(&buffer, "PNG")
+             ? Status()
+             : Status::failure(Message::tr("The PNG picture cannot be made."));
 }
 
 Status paintSvg(const FigureSheet& sheet, const Paint& paint, QBuffer& buffer) {
@@ -60,7 +62,9 @@ Status paintSvg(const FigureSheet& sheet, const Paint& paint, QBuffer& buffer) {
   generator.setDescription(QStringLiteral("Made by Talvesk"));
   generator.setOutputDevice(&buffer);
   QPainter painter;
-  if (!painter.begin(&generator)) return Status::failure("The SVG picture cannot be made.");
+  if (!painter.begin(&generator)) {
+    return Status::failure(Message::tr("The SVG picture cannot be made."));
+  }
   paint(painter, QRectF(rect));
   painter.end();
   return {};
@@ -76,9 +80,11 @@ Status paintPdf(const FigureSheet& sheet, std::size_t pages, const PaintPage& pa
                        QPageSize::ExactMatch);
   writer.setPageLayout(QPageLayout(page, QPageLayout::Portrait, QMarginsF()));
   QPainter painter;
-  if (!painter.begin(&writer)) return Status::failure("The PDF page cannot be made.");
+  if (!painter.begin(&writer)) return Status::failure(Message::tr("The PDF page cannot be made."));
   for (std::size_t number = 0; number < pages; ++number) {
-    if (number > 0 && !writer.newPage()) return Status::failure("The PDF page cannot be made.");
+    if (number > 0 && !writer.newPage()) {
+      return Status::failure(Message::tr("The PDF page cannot be made."));
+    }
     const QRectF rect(0, 0, writer.width(), writer.height());
     if (Status status = paint(number, painter, rect); !status.ok()) return status;
   }
@@ -88,20 +94,20 @@ Status paintPdf(const FigureSheet& sheet, std::size_t pages, const PaintPage& pa
 
 Status checkEnvironment() {
   if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr) {
-    return Status::failure("A figure cannot be drawn before the application object exists.");
+    return Status::failure(
+        Message::tr("A figure cannot be drawn before the application object exists."));
   }
   if (QFontDatabase().families().isEmpty()) {
     return Status::failure(
-        "A figure cannot be drawn without fonts: install a font package, for "
-        "instance fonts-dejavu-core.");
+        Message::tr("A figure cannot be drawn without fonts: install a font package, for "
+                    "instance fonts-dejavu-core."));
   }
   return {};
 }
 
-Status outside(const char* what, double value, double least, double most, const char* unit) {
-  return Status::failure(std::string("A figure cannot be ") + formatDouble(value) + unit + what +
-                         ": choose " + formatDouble(least) + " to " + formatDouble(most) + unit +
-                         ".");
+/// \param refusal with the value and its limits as placeholders
+Status outside(Message refusal, double value, double least, double most) {
+  return Status::failure(std::move(refusal).arg(value).arg(least).arg(most));
 }
 
 }  // namespace
@@ -118,8 +124,10 @@ Status figureFormatOf(const std::string& path, FigureFormat& format) {
   } else if (endsWith(".pdf")) {
     format = FigureFormat::kPdf;
   } else {
-    return Status::failure("No picture format is known for " + path +
-                           ": let the file name end with .png, .svg or .pdf.");
+    return Status::failure(
+        Message::tr(
+            "No picture format is known for %1: let the file name end with .png, .svg or .pdf.")
+            .arg(path));
   }
   return {};
 }
@@ -128,18 +136,26 @@ Status FigureSheet::check(FigureFormat format) const {
   const auto within = [](double value, double least, double most) {
     return value >= least && value <= most;  // false for what is not a number
   };
-  if (!within(widthMm, kMinMm, kMaxMm)) return outside(" wide", widthMm, kMinMm, kMaxMm, " mm");
-  if (!within(heightMm, kMinMm, kMaxMm)) return outside(" high", heightMm, kMinMm, kMaxMm, " mm");
+  if (!within(widthMm, kMinMm, kMaxMm)) {
+    return outside(Message::tr("A figure cannot be %1 mm wide: choose %2 to %3 mm."), widthMm,
+                   kMinMm, kMaxMm);
+  }
+  if (!within(heightMm, kMinMm, kMaxMm)) {
+    return outside(Message::tr("A figure cannot be %1 mm high: choose %2 to %3 mm."), heightMm,
+                   kMinMm, kMaxMm);
+  }
   if (format != FigureFormat::kPng) return {};
   if (!within(dpi, kMinDpi, kMaxDpi)) {
-    return outside("", dpi, kMinDpi, kMaxDpi, " pixels per inch");
+    return outside(Message::tr("A figure cannot be %1 pixels per inch: choose %2 to %3 pixels per "
+                               "inch."),
+                   dpi, kMinDpi, kMaxDpi);
   }
   const double count = widthMm / kMmPerInch * dpi * heightMm / kMmPerInch * dpi;
   if (count > kMaxPixels) {
-    return Status::failure("A picture of " + formatDouble(count / 1e6, 3) +
-                           " million pixels is too large: the limit is " +
-                           formatDouble(kMaxPixels / 1e6, 3) +
-                           " million. Choose a smaller size or resolution.");
+    return Status::failure(Message::tr("A picture of %1 million pixels is too large: the limit is "
+                                       "%2 million. Choose a smaller size or resolution.")
+                               .arg(Message::number(count / 1e6, 3))
+                               .arg(Message::number(kMaxPixels / 1e6, 3)));
   }
   return {};
 }
@@ -171,7 +187,7 @@ Status paintFigurePages(const FigureSheet& sheet, std::size_t pages, const Paint
   if (Status status = checkEnvironment(); !status.ok()) return status;
   if (Status status = sheet.check(FigureFormat::kPdf); !status.ok()) return status;
   bytes.clear();
-  if (pages == 0) return Status::failure("A PDF file needs a page at least.");
+  if (pages == 0) return Status::failure(Message::tr("A PDF file needs a page at least."));
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   return paintPdf(sheet, pages, paint, buffer);

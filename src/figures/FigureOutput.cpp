@@ -19,7 +19,8 @@ void setResolution(QImage& image, double dpi) {
 
 Status checkApplication(const std::string& what) {
   if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) return {};
-  return Status::failure(what + " cannot be drawn before the application object exists.");
+  return Status::failure(
+      Message::tr("%1 cannot be drawn before the application object exists.").arg(what));
 }
 
 Status writeBytes(const std::string& path, const QByteArray& bytes) {

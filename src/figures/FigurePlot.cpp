@@ -229,8 +229,8 @@ Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, doubl
     const double height = (place.bottomMm - place.topMm) * perMm;
     if (width < leastWidth || height < leastHeight) {
       return Status::failure(
-          "The picture is too small for what it shows with its axes and texts: "
-          "choose a larger size.");
+          Message::tr("The picture is too small for what it shows with its axes and texts: "
+                      "choose a larger size."));
     }
     setScales(width, height);
   }

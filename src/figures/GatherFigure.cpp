@@ -187,7 +187,7 @@ Status writeGatherFigures(const TomoDocument& document, const GatherFigureOption
   FigureFormat format{};
   if (Status status = figureFormatOf(path, format); !status.ok()) return status;
   const std::size_t count = document.traceSets.size();
-  if (count == 0) return Status::failure("The document has no traces to draw.");
+  if (count == 0) return Status::failure(Message::tr("The document has no traces to draw."));
   std::vector<std::size_t> shots;
   if (options.shot) {
     shots.push_back(*options.shot);

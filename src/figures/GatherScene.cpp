@@ -111,9 +111,10 @@ Status checkWindow(const TimeWindow& window) {
   if (window.beginMs >= 0.0 && window.endMs <= kLongestMs && window.endMs > window.beginMs) {
     return {};
   }
-  return Status::failure("The times from " + formatDouble(window.beginMs) + " to " +
-                         formatDouble(window.endMs) +
-                         " ms cannot be drawn: choose a begin of 0 or more and an end after it.");
+  return Status::failure(Message::tr("The times from %1 to %2 ms cannot be drawn: choose a begin "
+                                     "of 0 or more and an end after it.")
+                             .arg(window.beginMs)
+                             .arg(window.endMs));
 }
 
 Status checkOptions(const GatherFigureOptions& options) {
@@ -121,11 +122,12 @@ Status checkOptions(const GatherFigureOptions& options) {
     if (Status status = checkWindow(*options.window); !status.ok()) return status;
   }
   if (!(options.gain > 0.0 && options.gain <= kMaxGain)) {
-    return Status::failure("The gain of a gather must lie above 0 and not above " +
-                           formatDouble(kMaxGain) + ".");
+    return Status::failure(
+        Message::tr("The gain of a gather must lie above 0 and not above %1.").arg(kMaxGain));
   }
   if (!(options.clip > 0.0 && options.clip <= 100.0)) {
-    return Status::failure("Wiggles can be cut at more than 0 and up to 100 trace distances.");
+    return Status::failure(
+        Message::tr("Wiggles can be cut at more than 0 and up to 100 trace distances."));
   }
   return {};
 }
@@ -291,9 +293,11 @@ double GatherTrace::swing(std::size_t sample) const {
 Status buildGatherScene(const TomoDocument& document, std::size_t shot,
                         const GatherFigureOptions& options, GatherScene& scene) {
   if (shot >= document.traceSets.size()) {
+    const std::size_t shots = document.traceSets.size();
     return Status::failure(
-        "There is no shot " + std::to_string(shot + 1) + " to draw: the document has " +
-        FigureWords::shots(document.traceSets.size()).toStdString() + " with traces.");
+        Message::tr("There is no shot %1 to draw: the document has %2 with traces.")
+            .arg(shot + 1)
+            .arg(shots == 1 ? Message::tr("1 shot") : Message::tr("%1 shots").arg(shots)));
   }
   if (Status status = checkOptions(options); !status.ok()) return status;
   const TraceSet& set = document.traceSets[shot];

@@ -129,7 +129,7 @@ Status prepareMisfitHistoryFigure(const InversionRecord& record, double widthMm,
     take(plot->beside, i + 1, record.history[i].count, record.history[i].rmse);
   }
   if (plot->points.empty() && plot->beside.empty()) {
-    return Status::failure("The inversion has no misfit to draw.");
+    return Status::failure(Message::tr("The inversion has no misfit to draw."));
   }
   plot->joined = plot->wholeNumbers = plot->zeroBased = true;
   plot->figure.addAxis(QwtPlot::xBottom, FigureWords::tr("External iteration"));
@@ -144,7 +144,7 @@ Status prepareResidualFigure(const TomoDocument& document, double widthMm, doubl
     if (!std::isfinite(residual.offset) || !std::isfinite(residual.residual)) continue;
     plot->points.push_back({residual.offset, 1e3 * residual.residual});
   }
-  if (plot->points.empty()) return Status::failure("There are no residuals to draw.");
+  if (plot->points.empty()) return Status::failure(Message::tr("There are no residuals to draw."));
   plot->figure.addAxis(QwtPlot::xBottom, FigureWords::tr("Offset [m]"));
   plot->figure.addAxis(QwtPlot::yLeft, FigureWords::tr("Computed minus measured [ms]"));
   return prepare(plot, widthMm, heightMm, drawing);

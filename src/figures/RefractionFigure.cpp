@@ -115,7 +115,7 @@ std::string RefractionSheet::caption() const {
 
 Status RefractionSheet::layOut() {
   if (mScene.isEmpty()) {
-    return Status::failure("There is no refractor with a depth to draw.");
+    return Status::failure(Message::tr("There is no refractor with a depth to draw."));
   }
   const auto scale = [this](double width, double height) { setScales(width, height); };
   const auto fitWith = [&](const std::string& caption) {

@@ -65,7 +65,7 @@ Status buildReport(const ReportSource& source, const ReportOptions& options,
   if (Status status = checkApplication("A report"); !status.ok()) return status;
   if (source.document.ttArray.empty() && source.document.goephonesStringSet.empty()) {
     return Status::failure(
-        "There is no survey to report on: load shot files or travel times first.");
+        Message::tr("There is no survey to report on: load shot files or travel times first."));
   }
   ReportContent made;
   made.paper = options.paper;
@@ -104,8 +104,9 @@ Status reportFormatOf(const std::string& path, ReportFormat& format) {
   } else if (name.endsWith(QLatin1String(".odt"), Qt::CaseInsensitive)) {
     format = ReportFormat::kOdt;
   } else {
-    return Status::failure("No report format is known for " + path +
-                           ": let the file name end with .pdf or .odt.");
+    return Status::failure(
+        Message::tr("No report format is known for %1: let the file name end with .pdf or .odt.")
+            .arg(path));
   }
   return {};
 }

@@ -232,7 +232,9 @@ Status reportAsOdt(const ReportContent& content, const std::function<bool(int)>&
     Status status = paintFigure(FigureFormat::kPng, sheet, item.figure.paint, picture);
     if (!status.ok()) return status;
     members.push_back({pictureName(++figures).toStdString(), picture, false});
-    if (goOn && !goOn(figures)) return Status::failure("The report was stopped.", kReportCancelled);
+    if (goOn && !goOn(figures)) {
+      return Status::failure(Message::tr("The report was stopped."), kReportCancelled);
+    }
   }
   members.push_back({"META-INF/manifest.xml", manifest(figures)});
   return zipBytes(members, bytes);

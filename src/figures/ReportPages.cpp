@@ -105,7 +105,7 @@ Status ReportPages::pdf(const std::function<bool(int)>& goOn, QByteArray& bytes)
   const auto paintPage = [&](std::size_t page, QPainter& painter, const QRectF&) {
     paint(painter, static_cast<int>(page));
     if (goOn && !goOn(static_cast<int>(page) + 1)) {
-      return Status::failure("The report was stopped.", kReportCancelled);
+      return Status::failure(Message::tr("The report was stopped."), kReportCancelled);
     }
     return Status();
   };

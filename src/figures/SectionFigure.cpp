@@ -19,11 +19,12 @@ Status checkOptions(const SectionFigureOptions& options) {
   if (exaggeration != 0.0 &&
       !(exaggeration >= kLeastExaggeration && exaggeration <= kMostExaggeration)) {
     return Status::failure(
-        "The vertical exaggeration must lie between 0.01 and 100, or be 0 to "
-        "let the picture choose.");
+        Message::tr("The vertical exaggeration must lie between 0.01 and 100, or be 0 to "
+                    "let the picture choose."));
   }
   if (options.palette.color_gradient.empty()) {
-    return Status::failure("The palette \"" + options.palette.name + "\" has no colours.");
+    return Status::failure(
+        Message::tr("The palette \"%1\" has no colours.").arg(options.palette.name));
   }
   return checkApplication("A section");
 }

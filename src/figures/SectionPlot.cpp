@@ -192,7 +192,7 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
   const double spanX = parts.high.x - parts.low.x;
   const double spanZ = parts.high.z - parts.low.z;
   if (!(spanX > 0.0) || !(spanZ > 0.0) || !std::isfinite(spanX) || !std::isfinite(spanZ)) {
-    return Status::failure("The section has no extent to draw.");
+    return Status::failure(Message::tr("The section has no extent to draw."));
   }
   parts.exaggeration = parts.options.verticalExaggeration > 0.0
                            ? parts.options.verticalExaggeration
@@ -219,8 +219,8 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
     }
     if (width < kMinCanvasWidth || height < kMinCanvasHeight) {
       return Status::failure(
-          "The picture is too small for the section with its axes and texts: "
-          "choose a larger size.");
+          Message::tr("The picture is too small for the section with its axes and texts: "
+                      "choose a larger size."));
     }
     parts.setScales(width, height);
   }

@@ -103,8 +103,8 @@ void TravelTimeSheet::setScales(double width, double height) {
 
 Status TravelTimeSheet::layOut() {
   if (mLayout.picks.empty() && mLayout.computedTimes == 0) {
-    return Status::failure(
-        "There are no travel times to draw: pick first breaks, or load travel times, first.");
+    return Status::failure(Message::tr(
+        "There are no travel times to draw: pick first breaks, or load travel times, first."));
   }
   mPlot.setTexts(mOptions.showTitle ? mTitle : std::string(), mCaption, mOptions.widthMm);
   const auto scale = [this](double width, double height) { setScales(width, height); };

@@ -7,8 +7,8 @@
 namespace talvesk {
 namespace {
 
-Status broken(const char* reason) {
-  return Status::failure(std::string("The document cannot be packed: ") + reason);
+Status broken(const Message& reason) {
+  return Status::failure(Message::tr("The document cannot be packed: %1").arg(reason));
 }
 
 Status add(zip_t* archive, const ZipMember& member) {
@@ -59,7 +59,7 @@ Status zipBytes(const std::vector<ZipMember>& members, QByteArray& bytes) {
   bytes.resize(static_cast<int>(facts.size));
   const zip_int64_t got = zip_source_read(source.get(), bytes.data(), facts.size);
   zip_source_close(source.get());
-  if (got != bytes.size()) return broken("its bytes cannot be read back");
+  if (got != bytes.size()) return broken(Message::tr("its bytes cannot be read back"));
   return {};
 }
 

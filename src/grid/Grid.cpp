@@ -104,11 +104,10 @@ GridNode Grid::node(std::uint32_t index) const {
   return node;
 }
 
-std::string Grid::invalidSlowness() const {
+Message Grid::invalidSlowness() const {
   for (std::size_t c = 0; c < mSlowness.size(); ++c) {
     if (mSlowness[c] >= kLeastSlowness && mSlowness[c] <= kGreatestSlowness) continue;
-    return "cell " + std::to_string(c) + " has no valid velocity (slowness " +
-           formatDouble(mSlowness[c]) + " s/m)";
+    return Message::tr("cell %1 has no valid velocity (slowness %2 s/m)").arg(c).arg(mSlowness[c]);
   }
   return {};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "grid/GridGeometry.h"
 #include "grid/GridGraph.h"
 
@@ -50,7 +51,7 @@ class Grid {
 
   /// Empty when every slowness is one that rays can be traced through, 1e-100 .. 1e100 s/m, else
   /// what is wrong with which cell.
-  std::string invalidSlowness() const;
+  Message invalidSlowness() const;
 
  private:
   std::shared_ptr<const GridGeometry> mGeometry;

@@ -72,29 +72,30 @@ double estimatedGridBytes(const GridSize& size, unsigned searches) {
 
 Status checkGridSize(const GridSize& size, unsigned searches) {
   const double nodes = size.nodesAsNumber();
-  std::ostringstream text;
-  text.imbue(std::locale::classic());
-  text.precision(12);
-  text << "A grid of " << size.righe << " rows and " << size.col << " columns with " << size.nV
-       << " nodes per side ";
+  const auto failed = [&size](Message why) {
+    return Status::failure(Message::tr("A grid of %1 rows and %2 columns with %3 nodes per side %4")
+                               .arg(size.righe)
+                               .arg(size.col)
+                               .arg(size.nV)
+                               .arg(std::move(why)));
+  };
   // No rows are allowed: a depth of 0 only warns, and there is nothing to draw or trace yet.
   if (size.col == 0) {
-    text << "has no cells; choose cells smaller than the array is long.";
-    return Status::failure(text.str());
+    return failed(Message::tr("has no cells; choose cells smaller than the array is long."));
   }
   if (nodes > GridSize::kMaxNodes) {
-    text << "has " << nodes << " nodes; at most " << GridSize::kMaxNodes
-         << " can be numbered. Choose larger cells or a smaller depth.";
-    return Status::failure(text.str());
+    return failed(Message::tr("has %1 nodes; at most %2 can be numbered. Choose larger cells or a "
+                              "smaller depth.")
+                      .arg(Message::number(nodes, 12))
+                      .arg(Message::number(GridSize::kMaxNodes, 12)));
   }
   const double needed = estimatedGridBytes(size, searches);
   const double available = availableBytes();
   if (needed > available) {
-    text.precision(0);
-    text << std::fixed << "needs about " << std::ceil(needed / 1048576.0) << " MiB, but only "
-         << std::floor(available / 1048576.0)
-         << " MiB are free. Choose larger cells or a smaller depth.";
-    return Status::failure(text.str());
+    return failed(Message::tr("needs about %1 MiB, but only %2 MiB are free. Choose larger cells "
+                              "or a smaller depth.")
+                      .arg(Message::number(std::ceil(needed / 1048576.0), 15))
+                      .arg(Message::number(std::floor(available / 1048576.0), 15)));
   }
   return {};
 }

@@ -75,16 +75,16 @@ Status checkLayers(const GridSize& size, const std::vector<VelocityLayer>& layer
   const std::vector<VelocityLayer> accepted = acceptedLayers(layers);
   if (accepted.empty()) {
     return Status::failure(
-        "No layer is left: a layer's final depth must be greater than its "
-        "initial depth, and that not negative.");
+        Message::tr("No layer is left: a layer's final depth must be greater than its "
+                    "initial depth, and that not negative."));
   }
   try {
     const std::string problem = invalidVelocity(size, layerSpline(accepted));
     return problem.empty() ? Status() : Status::failure(problem);
   } catch (const std::exception& error) {
-    return Status::failure(std::string("The layers make no velocity model. Order them by depth, "
-                                       "without overlap, each more than 0.02 m thick. ") +
-                           error.what());
+    return Status::failure(Message::tr("The layers make no velocity model. Order them by depth, "
+                                       "without overlap, each more than 0.02 m thick. %1")
+                               .arg(error.what()));
   }
 }
 
@@ -111,7 +111,9 @@ Status buildLayeredGrid(const Grid& current, const std::vector<VelocityLayer>& l
   const Splines::CubicSpline velocityOfDepth = layerSpline(acceptedLayers(layers));
   std::unique_ptr<Grid> grid = buildGridFromVelocity(
       size, [&](double depth) { return velocityOfDepth(depth); }, surface);
-  if (!grid) return Status::failure("The grid of the layered model could not be built.");
+  if (!grid) {
+    return Status::failure(Message::tr("The grid of the layered model could not be built."));
+  }
   out = std::move(grid);
   return {};
 }

@@ -24,24 +24,26 @@ class CsvPickReader : private PickReader {
     line = {};
     mText.nextLine(line);
     return line.size() <= kLineLimit ||
-           refuse("the line holds " + std::to_string(line.size()) +
-                  " characters, more than the limit of " + std::to_string(kLineLimit) +
-                  "; split the table into one file per spread");
+           refuse(Message::tr("the line holds %1 characters, more than the limit of %2; split the "
+                              "table into one file per spread")
+                      .arg(line.size())
+                      .arg(kLineLimit));
   }
 
   bool readReceivers() {
     std::vector<double> distances;
     std::vector<double> elevations;
     if (!readReceiverRow("distance", distances)) return false;
-    if (distances.empty()) return refuse("the first line names no receiver");
+    if (distances.empty()) return refuse(Message::tr("the first line names no receiver"));
     if (!readReceiverRow("elevation", elevations)) return false;
     if (elevations.size() > distances.size()) {
-      return refuse("there are " + counted(elevations.size(), "elevation") + " for " +
-                    counted(distances.size(), "receiver"));
+      return refuse(Message::tr("there are %1 for %2")
+                        .arg(counted(elevations.size(), "elevation"))
+                        .arg(counted(distances.size(), "receiver")));
     }
     if (elevations.size() < distances.size()) {
-      warn(counted(distances.size() - elevations.size(), "receiver") +
-           " without an elevation were taken to lie at 0");
+      warn(Message::tr("%1 without an elevation were taken to lie at 0")
+               .arg(counted(distances.size() - elevations.size(), "receiver")));
       elevations.resize(distances.size(), 0.0);
     }
     auto& geophones = mData.strings.emplace_back();
@@ -89,14 +91,17 @@ class CsvPickReader : private PickReader {
         record.ttMisurati.push_back(value / kMillisecondsPerSecond);
       }
     }
-    if (fields.count() < kLeadingFields) return refuse("the shot has no elevation");
+    if (fields.count() < kLeadingFields) return refuse(Message::tr("the shot has no elevation"));
     if (record.ttMisurati.size() > receivers) {
-      return refuse("there are " + counted(record.ttMisurati.size(), "time") + " for " +
-                    counted(receivers, "receiver"));
+      return refuse(Message::tr("there are %1 for %2")
+                        .arg(counted(record.ttMisurati.size(), "time"))
+                        .arg(counted(receivers, "receiver")));
     }
     if (record.ttMisurati.size() < receivers && takesWarnings()) {
-      warn("line " + std::to_string(mText.line()) + ": only " +
-           counted(record.ttMisurati.size(), "time") + " for " + counted(receivers, "receiver"));
+      warn(Message::tr("line %1: only %2 for %3")
+               .arg(mText.line())
+               .arg(counted(record.ttMisurati.size(), "time"))
+               .arg(counted(receivers, "receiver")));
     }
     record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
     mData.records.push_back(std::move(record));
@@ -110,14 +115,14 @@ class CsvPickReader : private PickReader {
 
   /// The conversion's faults go by the names that the users of this format know.
   bool readField(const std::string& what, std::string_view field, double& value) {
-    const std::string details = "the " + what + " " + quoted(field);
+    const Message details = Message::tr("the %1 %2").arg(inWords(what)).arg(quoted(field));
     switch (convert(field, value)) {
       case Fault::kNone:
         return true;
       case Fault::kNotANumber:
-        return refuseWith("invalid stod argument", details);
+        return refuseWith(Message::tr("invalid stod argument"), details);
       case Fault::kOutOfRange:
-        return refuseWith("stod argument out of range", details);
+        return refuseWith(Message::tr("stod argument out of range"), details);
       case Fault::kNotFinite:
         break;
     }

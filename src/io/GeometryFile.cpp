@@ -60,8 +60,8 @@ bool readFields(const std::vector<std::string_view>& fields, std::size_t line,
   return true;
 }
 
-Status refused(const std::string& name, std::size_t line, const std::string& reason) {
-  return Status::failure(name + ", line " + std::to_string(line) + ": " + reason);
+Status refused(const std::string& name, std::size_t line, const Message& reason) {
+  return Status::failure(Message::tr("%1, line %2: %3").arg(name).arg(line).arg(reason));
 }
 
 Status readFile(const std::string& path, const std::string& separator, bool labelled,
@@ -89,8 +89,10 @@ Status writeLabelledRecords(const std::string& path, const std::string& separato
                             const std::vector<std::string>& labels,
                             const GeometryRecords& records) {
   if (labels.size() != records.size()) {
-    return Status::failure("Cannot write " + path + ": there are " + std::to_string(labels.size()) +
-                           " labels for " + std::to_string(records.size()) + " records");
+    return Status::failure(Message::tr("Cannot write %1: there are %2 labels for %3 records")
+                               .arg(path)
+                               .arg(labels.size())
+                               .arg(records.size()));
   }
   const std::string between = separatorText(separator);
   return writeTextAtomically(path, [&](std::ostream& stream) {
@@ -110,7 +112,7 @@ Status parseRecords(std::string_view bytes, const std::string& name, const std::
   for (std::string_view line; !cursor.atEnd() && cursor.nextLine(line);) {
     if (line.size() > kLineLimit) {
       return refused(name, cursor.line(),
-                     "the line holds more than " + std::to_string(kLineLimit) + " characters");
+                     Message::tr("the line holds more than %1 characters").arg(kLineLimit));
     }
     const std::vector<std::string_view> fields = fieldsOf(line, between, labelled);
     if (cursor.line() == 1 && isHeading(fields)) {
@@ -163,8 +165,8 @@ Status positionsOf(const PositionTable& table, std::vector<Point2D>& positions) 
   const std::size_t firstLine = table.remarks.skippedHeading ? 2 : 1;
   for (const auto& record : table.records) {
     if (record.size() < kPositionFields) {
-      return Status::failure("line " + std::to_string(firstLine + read.size()) +
-                             " has no x and z; check the separator");
+      return Status::failure(
+          Message::tr("line %1 has no x and z; check the separator").arg(firstLine + read.size()));
     }
     read.push_back({record[0], record[1]});
   }

@@ -71,13 +71,15 @@ IsovalueRead parseIsovalues(std::string_view bytes, const std::string& name,
     double value = 0.0;
     if (line.size() > kIsovalueLineLimit || !isValue(fields.front(), value)) {
       read.invalidLine = cursor.line();
-      read.status = Status::failure(name + ", line " + std::to_string(cursor.line()) +
-                                    " does not begin with a number; check the separator");
+      read.status = Status::failure(
+          Message::tr("%1, line %2 does not begin with a number; check the separator")
+              .arg(name)
+              .arg(cursor.line()));
       return read;
     }
     if (read.values.size() == kMostIsovalues) {
-      read.status =
-          Status::failure(name + " holds more than " + std::to_string(kMostIsovalues) + " values");
+      read.status = Status::failure(
+          Message::tr("%1 holds more than %2 values").arg(name).arg(kMostIsovalues));
       return read;
     }
     console::out() << "Value : " << shortestText(value) << std::endl;

@@ -37,15 +37,15 @@ Status parseLayerMarks(std::string_view bytes, const std::string& name,
                        const TomoDocument& document, LayerMarks& marks) {
   const std::string text = tableText(bytes);
   TextCursor cursor(text);
-  const auto refuse = [&](const std::string& reason) {
-    return Status::failure(name + ", line " + std::to_string(cursor.line()) + ": " + reason);
+  const auto refuse = [&](const Message& reason) {
+    return Status::failure(Message::tr("%1, line %2: %3").arg(name).arg(cursor.line()).arg(reason));
   };
   const std::size_t shots = document.ttArray.size();
   LayerMarks read;
   for (std::string_view line; cursor.nextLine(line);) {
     if (isBlank(line)) continue;
     if (read.size() == shots) {
-      return refuse("there are only " + std::to_string(shots) + " shots");
+      return refuse(Message::tr("there are only %1 shots").arg(shots));
     }
     const std::size_t traces = document.ttArray[read.size()].ttMisurati.size();
     read.emplace_back();
@@ -53,18 +53,22 @@ Status parseLayerMarks(std::string_view bytes, const std::string& name,
     for (std::string_view field; fields.next(field);) {
       if (read.back().size() == traces) break;
       if (!readLayer(field, read.back().emplace_back())) {
-        return refuse("'" + std::string(field.substr(0, 20)) +
-                      "' is not a layer number: 0 for none, 1, 2 or 3");
+        return refuse(Message::tr("'%1' is not a layer number: 0 for none, 1, 2 or 3")
+                          .arg(std::string(field.substr(0, 20))));
       }
     }
     if (fields.count() != traces) {
-      return refuse("shot " + std::to_string(read.size()) + " has " + std::to_string(traces) +
-                    " traces, which is not how many layer numbers there are");
+      return refuse(
+          Message::tr("shot %1 has %2 traces, which is not how many layer numbers there are")
+              .arg(read.size())
+              .arg(traces));
     }
   }
   if (read.size() != shots) {
-    return Status::failure(name + ": it holds layers of " + std::to_string(read.size()) +
-                           " shots, and there are " + std::to_string(shots));
+    return Status::failure(Message::tr("%1: it holds layers of %2 shots, and there are %3")
+                               .arg(name)
+                               .arg(read.size())
+                               .arg(shots));
   }
   marks = std::move(read);
   return {};

@@ -27,15 +27,18 @@ class OtteReader : private PickReader {
   bool readHead(std::string& version) {
     std::string_view line;
     if (!mText.nextLine(line) || line != "otte") {
-      return refuse("the first line is " + quoted(line) + " where \"otte\" must stand");
+      return refuse(
+          Message::tr("the first line is %1 where \"otte\" must stand").arg(quoted(line)));
     }
     std::string_view word;
-    if (!mText.nextWord(word)) return refuse("the format version is missing");
+    if (!mText.nextWord(word)) return refuse(Message::tr("the format version is missing"));
     version = quotable(word);
-    if (word != "1.0") warn("the format version " + quoted(word) + " was read as \"1.0\"");
+    if (word != "1.0") {
+      warn(Message::tr("the format version %1 was read as \"1.0\"").arg(quoted(word)));
+    }
     int constant = 0;
     if (!readCount("format constant 2", constant)) return false;
-    if (constant != kFormatConstant) warn("line 3 holds " + std::to_string(constant) + ", not 2");
+    if (constant != kFormatConstant) warn(Message::tr("line 3 holds %1, not 2").arg(constant));
     if (!readCount("number of geophone strings", mStringCount)) return false;
     mText.nextLine(line);
     return true;
@@ -43,12 +46,14 @@ class OtteReader : private PickReader {
 
   bool readCount(std::string_view what, int& value) {
     std::string_view word;
-    if (!mText.nextWord(word)) return refuse("the " + std::string(what) + " is missing");
+    if (!mText.nextWord(word)) return refuse(Message::tr("the %1 is missing").arg(inWords(what)));
     return readWholeInt(what, word, value);
   }
 
   bool readRow(const std::string& what, std::vector<double>& row) {
-    if (!mText.nextLine(mLastRow)) return refuse("the line of each " + what + " is missing");
+    if (!mText.nextLine(mLastRow)) {
+      return refuse(Message::tr("the line of each %1 is missing").arg(inWords(what)));
+    }
     FieldCursor fields(mLastRow, ';');
     for (std::string_view field; fields.next(field);) {
       double value = 0.0;
@@ -65,8 +70,9 @@ class OtteReader : private PickReader {
       return false;
     }
     if (distances.size() != elevations.size()) {
-      return refuse("there are " + counted(distances.size(), of + " distance") + " but " +
-                    counted(elevations.size(), "elevation"));
+      return refuse(Message::tr("there are %1 but %2")
+                        .arg(counted(distances.size(), of + " distance"))
+                        .arg(counted(elevations.size(), "elevation")));
     }
     points.reserve(distances.size());
     for (std::size_t i = 0; i < distances.size(); ++i) {
@@ -81,21 +87,24 @@ class OtteReader : private PickReader {
     const std::size_t most = std::max<std::size_t>(mGeophones.size() + mShots.size(), 1);
     const bool sane = mStringCount >= 0 && static_cast<std::size_t>(mStringCount) <= most &&
                       (mStringCount > 0 || mGeophones.empty());
-    return sane || refuse("the file names " + std::to_string(mStringCount) + " strings for " +
-                          counted(mGeophones.size(), "geophone") + " and " +
-                          counted(mShots.size(), "shot"));
+    return sane || refuse(Message::tr("the file names %1 strings for %2 and %3")
+                              .arg(mStringCount)
+                              .arg(counted(mGeophones.size(), "geophone"))
+                              .arg(counted(mShots.size(), "shot")));
   }
 
   bool readRecords() {
     while (mText.skipToText()) {
       if (mData.records.size() == mShots.size()) {
-        return refuse("there are more records than the " + counted(mShots.size(), "shot position"));
+        return refuse(Message::tr("there are more records than the %1")
+                          .arg(counted(mShots.size(), "shot position")));
       }
       if (!readRecord()) return false;
     }
     if (mData.records.size() == mShots.size()) return true;
-    return refuse("the file ends after " + counted(mData.records.size(), "record") + " of " +
-                  std::to_string(mShots.size()));
+    return refuse(Message::tr("the file ends after %1 of %2")
+                      .arg(counted(mData.records.size(), "record"))
+                      .arg(mShots.size()));
   }
 
   bool readRecord() {
@@ -103,8 +112,8 @@ class OtteReader : private PickReader {
     record.shotPos2d = mShots[mData.records.size()];
     if (!readCount("string of the record", record.indexStesa)) return false;
     if (record.indexStesa < 0 || record.indexStesa >= mStringCount) {
-      return refuse("the record names string " + std::to_string(record.indexStesa) + " of " +
-                    std::to_string(mStringCount));
+      return refuse(
+          Message::tr("the record names string %1 of %2").arg(record.indexStesa).arg(mStringCount));
     }
     if (!readCount("trace set of the record", record.traceSetID)) return false;
     if (record.traceSetID < 0) takeOwnSet(record);
@@ -113,8 +122,9 @@ class OtteReader : private PickReader {
     if (!readRow("time", record.ttMisurati)) return false;
     warnOfCut();
     if (record.ttMisurati.size() > mGeophones.size()) {
-      return refuse("there are " + counted(record.ttMisurati.size(), "time") + " for " +
-                    counted(mGeophones.size(), "geophone"));
+      return refuse(Message::tr("there are %1 for %2")
+                        .arg(counted(record.ttMisurati.size(), "time"))
+                        .arg(counted(mGeophones.size(), "geophone")));
     }
     for (double& time : record.ttMisurati) time /= kMillisecondsPerSecond;
     record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
@@ -124,15 +134,16 @@ class OtteReader : private PickReader {
 
   /// Picks that came without traces may have no trace set to name.
   void takeOwnSet(TravelTime& record) {
-    warn("record " + std::to_string(mData.records.size()) + " names trace set " +
-         std::to_string(record.traceSetID) + "; it was taken for that of its own place");
+    warn(Message::tr("record %1 names trace set %2; it was taken for that of its own place")
+             .arg(mData.records.size())
+             .arg(record.traceSetID));
     record.traceSetID = static_cast<std::int32_t>(mData.records.size());
   }
 
   /// The bytes that a broken copy lost may be the last digits of the last time.
   void warnOfCut() {
     if (mText.atEnd() && !mLastRow.empty() && mLastRow.back() != ';') {
-      warn("the last line does not end in \";\": the file may be cut short");
+      warn(Message::tr("the last line does not end in \";\": the file may be cut short"));
     }
   }
 
@@ -164,9 +175,10 @@ class OtteReader : private PickReader {
     std::size_t claimed = 0;
     for (const std::size_t size : sizes) claimed += size;
     if (claimed > mGeophones.size()) {
-      return refuse("the records need " + counted(claimed, "geophone") + " in " +
-                    counted(sizes.size(), "string") + ", the file holds " +
-                    std::to_string(mGeophones.size()));
+      return refuse(Message::tr("the records need %1 in %2, the file holds %3")
+                        .arg(counted(claimed, "geophone"))
+                        .arg(counted(sizes.size(), "string"))
+                        .arg(mGeophones.size()));
     }
     return shareRest(mGeophones.size() - claimed, named, sizes);
   }
@@ -176,13 +188,15 @@ class OtteReader : private PickReader {
     if (rest == 0) return true;
     const auto unnamed = static_cast<std::size_t>(std::count(named.begin(), named.end(), false));
     if (unnamed == 0) {
-      return refuse("no string claims the last " + counted(rest, "geophone") +
-                    ": a record of each string must hold one time per geophone");
+      return refuse(Message::tr("no string claims the last %1: a record of each string must hold "
+                                "one time per geophone")
+                        .arg(counted(rest, "geophone")));
     }
     std::size_t oneMore = rest % unnamed;
     if (oneMore != 0) {
-      warn("the strings without a record do not share " + counted(rest, "geophone") +
-           " equally; the first ones took one more");
+      warn(Message::tr(
+               "the strings without a record do not share %1 equally; the first ones took one more")
+               .arg(counted(rest, "geophone")));
     }
     for (std::size_t i = 0; i < sizes.size(); ++i) {
       if (named[i]) continue;
@@ -197,8 +211,10 @@ class OtteReader : private PickReader {
       const TravelTime& record = mData.records[i];
       const std::size_t size = mData.strings[static_cast<std::size_t>(record.indexStesa)].size();
       if (record.ttMisurati.size() == size) continue;
-      warn("record " + std::to_string(i) + " holds " + counted(record.ttMisurati.size(), "time") +
-           " for " + counted(size, "geophone"));
+      warn(Message::tr("record %1 holds %2 for %3")
+               .arg(i)
+               .arg(counted(record.ttMisurati.size(), "time"))
+               .arg(counted(size, "geophone")));
     }
   }
 

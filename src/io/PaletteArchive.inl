@@ -135,7 +135,7 @@ inline void save(cereal::XMLOutputArchive& archive, const ColorPaletteList& list
 /// A palette that cannot be made fit for use is left out, with a line in `repairs`; when none is
 /// fit the list stays as it is.
 inline void load(cereal::XMLInputArchive& archive, ColorPaletteList& list,
-                 std::vector<std::string>& repairs) {
+                 std::vector<Message>& repairs) {
   int count = 0;
   int current = 0;
   std::vector<palettes::Unchecked> read;
@@ -149,12 +149,15 @@ inline void load(cereal::XMLInputArchive& archive, ColorPaletteList& list,
     ColorPalette& palette = read[i].palette;
     const std::string name = palette.name;
     if (const Status repaired = repairPalette(palette); !repaired.ok()) {
-      repairs.push_back("palette " + quoted(name) + ": " + repaired.message() + "; it is left out");
+      repairs.push_back(Message::tr("palette %1: %2; it is left out")
+                            .arg(quoted(name))
+                            .arg(repaired.text()));
       continue;
     }
     if (palette.name != name) {
-      repairs.push_back("the name of palette " + quoted(name) +
-                        " has control characters; they are " + "blanks now");
+      repairs.push_back(
+          Message::tr("the name of palette %1 has control characters; they are blanks now")
+              .arg(quoted(name)));
     }
     if (i == static_cast<std::size_t>(current)) currentFit = fit.size();
     fit.push_back(std::move(palette));

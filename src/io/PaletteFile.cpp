@@ -61,14 +61,16 @@ std::string formatPalette(const ColorPalette& palette) {
 }
 
 Status parsePalette(std::string_view text, const std::string& name, ColorPalette& palette) {
-  if (text.size() > kLargestFile) return Status::failure(name + " is too large for a palette");
+  if (text.size() > kLargestFile) {
+    return Status::failure(Message::tr("%1 is too large for a palette").arg(name));
+  }
   if (Status shape = checkXmlShape(text, name, kMostLevels); !shape.ok()) return shape;
   try {
     std::istringstream stream{std::string(text)};
     cereal::XMLInputArchive archive(stream);
     load(archive, palette);
   } catch (const std::exception& error) {
-    return Status::failure(name + " is no palette file: " + error.what());
+    return Status::failure(Message::tr("%1 is no palette file: %2").arg(name).arg(error.what()));
   }
   return {};
 }
@@ -77,13 +79,13 @@ Status savePalette(const std::string& path, const ColorPalette& palette) {
   std::string reason;
   if (!canOpen(path, reason)) {
     return toldAsUnsaved("opening palette ", path,
-                         Status::failure("Cannot write " + path + ": " + reason));
+                         Status::failure(Message::tr("Cannot write %1: %2").arg(path).arg(reason)));
   }
   Status written;
   try {
     written = writeFileAtomically(path, formatPalette(palette));
   } catch (const std::exception& error) {
-    written = Status::failure("Cannot write " + path + ": " + error.what());
+    written = Status::failure(Message::tr("Cannot write %1: %2").arg(path).arg(error.what()));
   }
   return written.ok() ? written : toldAsUnsaved("saving palette", path, written);
 }

@@ -36,7 +36,9 @@ std::string quotable(std::string_view text) {
 
 PickReader::PickReader(std::string_view bytes)
     : mText(startsWithMark(bytes) ? bytes.substr(kByteOrderMark.size()) : bytes) {
-  if (startsWithMark(bytes)) warn("the byte order mark before the first line was ignored");
+  if (startsWithMark(bytes)) {
+    warn(Message::tr("the byte order mark before the first line was ignored"));
+  }
 }
 
 PickReader::Fault PickReader::convert(std::string_view field, double& value) {
@@ -49,23 +51,23 @@ PickReader::Fault PickReader::convert(std::string_view field, double& value) {
   return Fault::kNone;
 }
 
-bool PickReader::refuse(std::string reason) {
+bool PickReader::refuse(Message reason) {
   if (!mRefusal) mRefusal = Refusal{mText.line(), std::move(reason), {}};
   return false;
 }
 
-bool PickReader::refuseWith(const std::string& message, const std::string& details) {
+bool PickReader::refuseWith(const Message& message, const Message& details) {
   if (!mRefusal) {
-    mRefusal = Refusal{mText.line(), details.empty() ? message : message + ": " + details, message};
+    mRefusal = Refusal{mText.line(), details.empty() ? message : joined(message, details), message};
   }
   return false;
 }
 
 bool PickReader::refuseNumber(std::string_view what, std::string_view field, Fault fault) {
-  const char* complaint = fault == Fault::kNotANumber   ? " is not a number"
-                          : fault == Fault::kOutOfRange ? " is out of range"
-                                                        : " is not finite";
-  return refuse("the " + std::string(what) + " " + quoted(field) + complaint);
+  Message complaint = fault == Fault::kNotANumber   ? Message::tr("the %1 %2 is not a number")
+                      : fault == Fault::kOutOfRange ? Message::tr("the %1 %2 is out of range")
+                                                    : Message::tr("the %1 %2 is not finite");
+  return refuse(std::move(complaint).arg(inWords(what)).arg(quoted(field)));
 }
 
 bool PickReader::readNumber(std::string_view what, std::string_view field, double& value) {
@@ -79,15 +81,18 @@ bool PickReader::readWholeInt(std::string_view what, std::string_view word, int&
       word.size() > sign &&
       std::all_of(word.begin() + sign, word.end(), [](char c) { return c >= '0' && c <= '9'; });
   if (!digits) {
-    return refuse("the " + std::string(what) + " " + quoted(word) + " is not a whole number");
+    return refuse(
+        Message::tr("the %1 %2 is not a whole number").arg(inWords(what)).arg(quoted(word)));
   }
   if (parseInt(word, value) == NumberError::kNone) return true;
   return refuseNumber(what, word, Fault::kOutOfRange);
 }
 
-void PickReader::warn(const std::string& text) {
+void PickReader::warn(const Message& text) {
   if (takesWarnings()) mData.warnings.push_back(text);
-  if (mData.warnings.size() == kWarnings) mData.warnings.push_back("and more of this kind");
+  if (mData.warnings.size() == kWarnings) {
+    mData.warnings.push_back(Message::tr("and more of this kind"));
+  }
 }
 
 bool PickReader::takesWarnings() const {
@@ -96,24 +101,20 @@ bool PickReader::takesWarnings() const {
 
 void PickReader::warnOfRest() {
   if (mText.skipToText()) {
-    warn("line " + std::to_string(mText.line()) + " and what follows it was ignored");
+    warn(Message::tr("line %1 and what follows it was ignored").arg(mText.line()));
   }
 }
 
 std::optional<Refusal> PickReader::finish(bool read, std::string_view format,
                                           TravelTimeData& data) {
   if (!read) return mRefusal;
-  if (mData.records.empty()) warn("the file holds no shot");
+  if (mData.records.empty()) warn(Message::tr("the file holds no shot"));
   // Not one of the notes that can become too many.
-  const std::string dropped = dropImpossiblePicks(mData.records, {});
+  const Message dropped = dropImpossiblePicks(mData.records, {});
   if (!dropped.empty()) mData.warnings.push_back(dropped);
   mData.format = format;
   data = std::move(mData);
   return std::nullopt;
-}
-
-std::string PickReader::counted(std::size_t count, const std::string& noun) {
-  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
 }  // namespace talvesk

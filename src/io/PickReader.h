@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Message.h"
+#include "io/PickWords.h"
 #include "io/TextCursor.h"
 #include "io/TravelTimeFile.h"
 
@@ -16,7 +18,7 @@ inline constexpr double kMillisecondsPerSecond = 1000.0;
 /// Why a reader gave a file up.
 struct Refusal {
   std::size_t line = 0;  ///< from 1
-  std::string reason;    ///< what is wrong, without file and line
+  Message reason;        ///< what is wrong, without file and line
   /// What the console is told instead, where the format has a message of its own; empty: the
   /// reason, headed by file and line.
   std::string consoleText;
@@ -39,9 +41,9 @@ class PickReader {
   /// A finite number at the front of the field, by the rules of the standard conversion.
   static Fault convert(std::string_view field, double& value);
 
-  bool refuse(std::string reason);
+  bool refuse(Message reason);
   /// Refuses with a message of the format itself.
-  bool refuseWith(const std::string& message, const std::string& details = {});
+  bool refuseWith(const Message& message, const Message& details = {});
   bool refuseNumber(std::string_view what, std::string_view field, Fault fault);
 
   /// \param what names the number in messages ("geophone distance")
@@ -51,14 +53,12 @@ class PickReader {
 
   /// Notes something repaired or ignored; a file can cause a bounded number of notes only. What may
   /// recur with every field or line asks first whether its text is still worth putting together.
-  void warn(const std::string& text);
+  void warn(const Message& text);
   bool takesWarnings() const;
   void warnOfRest();  ///< when text follows after all that the format knows
 
   /// Hands the data out, or says why not.
   std::optional<Refusal> finish(bool read, std::string_view format, TravelTimeData& data);
-
-  static std::string counted(std::size_t count, const std::string& noun);  ///< "3 shots"
 
   TextCursor mText;
   TravelTimeData mData;

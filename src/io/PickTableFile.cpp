@@ -48,9 +48,10 @@ class PickTableReader : private PickReader {
     open(section, &Entry::distance, mReceivers);
     if (!readSection("Receiver number, receiver elevation", section)) return false;
     if (section.numbers.size() != mReceivers.size()) {
-      return refuseWith("Invalid phone list : " + quotable(section.numberLine),
-                        counted(section.numbers.size(), "number") + " for " +
-                            counted(mReceivers.size(), "receiver"));
+      return refuseWith(Message::tr("Invalid phone list : %1").arg(quotable(section.numberLine)),
+                        Message::tr("%1 for %2")
+                            .arg(counted(section.numbers.size(), "number"))
+                            .arg(counted(mReceivers.size(), "receiver")));
     }
     return complete(section, &Entry::elevation, mReceivers, "Invalid phone ids : ") &&
            allComplete(mReceivers, "receiver", "elevation");
@@ -60,7 +61,8 @@ class PickTableReader : private PickReader {
     std::string_view line;
     mText.nextLine(line);
     if (line == header) return true;
-    return refuseWith("Invalid header : " + quotable(line), quoted(header) + " must stand here");
+    return refuseWith(Message::tr("Invalid header : %1").arg(quotable(line)),
+                      Message::tr("%1 must stand here").arg(quoted(header)));
   }
 
   bool readSection(std::string_view header, Section& section) {
@@ -81,9 +83,10 @@ class PickTableReader : private PickReader {
     mText.nextLine(line);
     if (!readValues(line, section.values)) return false;
     if (section.values.size() == section.numbers.size()) return true;
-    return refuseWith("Invalid match : " + quotable(line),
-                      counted(section.values.size(), "value") + " for " +
-                          counted(section.numbers.size(), "number"));
+    return refuseWith(Message::tr("Invalid match : %1").arg(quotable(line)),
+                      Message::tr("%1 for %2")
+                          .arg(counted(section.values.size(), "value"))
+                          .arg(counted(section.numbers.size(), "number")));
   }
 
   bool readValues(std::string_view line, std::vector<double>& values) {
@@ -103,8 +106,9 @@ class PickTableReader : private PickReader {
 
   void warnOfZero(std::string_view field) {
     if (!takesWarnings()) return;
-    warn("line " + std::to_string(mText.line()) + ": " + quoted(field) +
-         " is not a number and was taken as 0");
+    warn(Message::tr("line %1: %2 is not a number and was taken as 0")
+             .arg(mText.line())
+             .arg(quoted(field)));
   }
 
   void open(const Section& section, double Entry::*member, Table& table) {
@@ -112,8 +116,9 @@ class PickTableReader : private PickReader {
       const auto [entry, isNew] = table.try_emplace(section.numbers[i]);
       entry->second.*member = section.values[i];
       if (!isNew && takesWarnings()) {
-        warn("line " + std::to_string(mText.line() - 1) + ": number " +
-             std::to_string(section.numbers[i]) + " is named twice; its last value was taken");
+        warn(Message::tr("line %1: number %2 is named twice; its last value was taken")
+                 .arg(mText.line() - 1)
+                 .arg(section.numbers[i]));
       }
     }
   }
@@ -124,7 +129,7 @@ class PickTableReader : private PickReader {
       const auto entry = table.find(section.numbers[i]);
       if (entry == table.end()) {
         return refuseWith(complaint + quotable(section.numberLine),
-                          "number " + std::to_string(section.numbers[i]) + " is not known");
+                          Message::tr("number %1 is not known").arg(section.numbers[i]));
       }
       entry->second.*member = section.values[i];
       entry->second.complete = true;
@@ -135,7 +140,8 @@ class PickTableReader : private PickReader {
   bool allComplete(const Table& table, const std::string& owner, const std::string& what) {
     for (const auto& [number, entry] : table) {
       if (!entry.complete) {
-        return refuse(owner + " " + std::to_string(number) + " has no " + what);
+        return refuse(
+            Message::tr("%1 %2 has no %3").arg(inWords(owner)).arg(number).arg(inWords(what)));
       }
     }
     return true;
@@ -155,10 +161,11 @@ class PickTableReader : private PickReader {
       mText.nextLine(line);
       if (!readValues(line, record.ttMisurati)) return false;
       if (record.ttMisurati.size() != mReceivers.size()) {
-        return refuseWith("Invalid times : " + quotable(line),
-                          counted(record.ttMisurati.size(), "time") + " of shot " +
-                              std::to_string(number) + " for " +
-                              counted(mReceivers.size(), "receiver"));
+        return refuseWith(Message::tr("Invalid times : %1").arg(quotable(line)),
+                          Message::tr("%1 of shot %2 for %3")
+                              .arg(counted(record.ttMisurati.size(), "time"))
+                              .arg(number)
+                              .arg(counted(mReceivers.size(), "receiver")));
       }
       for (double& time : record.ttMisurati) time /= kMillisecondsPerSecond;
       record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);

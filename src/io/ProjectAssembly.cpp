@@ -39,26 +39,31 @@ bool canHaveBeen(const InversionRecord& run) {
 Status checkCells(const GridMember& grid) {
   const auto cells = static_cast<std::uint64_t>(grid.righe) * grid.col;
   if (cells != grid.velocities.size() || cells != grid.toBeDraw.size()) {
-    return Status::failure(std::to_string(grid.righe) + " rows of " + std::to_string(grid.col) +
-                           " columns do not go with " + std::to_string(grid.velocities.size()) +
-                           " velocities and " + std::to_string(grid.toBeDraw.size()) +
-                           " draw flags");
+    return Status::failure(
+        Message::tr("%1 rows of %2 columns do not go with %3 velocities and %4 draw flags")
+            .arg(grid.righe)
+            .arg(grid.col)
+            .arg(grid.velocities.size())
+            .arg(grid.toBeDraw.size()));
   }
   constexpr std::uint32_t kMostNodes = 1000;  // per side; more has no use and no memory
   if (grid.nV < 2 || grid.nV > kMostNodes || !positive(grid.aLato) ||
       grid.aLato > kLargestCoordinate) {
-    return Status::failure("cells with " + std::to_string(grid.nV) + " nodes per side, " +
-                           formatDouble(grid.aLato) + " m long, cannot be");
+    return Status::failure(Message::tr("cells with %1 nodes per side, %2 m long, cannot be")
+                               .arg(grid.nV)
+                               .arg(grid.aLato));
   }
   if (!std::all_of(grid.velocities.begin(), grid.velocities.end(), positive)) {
-    return Status::failure("a velocity is not a positive number");
+    return Status::failure(Message::tr("a velocity is not a positive number"));
   }
   return {};
 }
 
 Status buildGrid(const GridMember& grid, TomoDocument& document) {
   const SurveyProfile profile = document.surveyProfile();
-  if (!profile.hasGeometry()) return Status::failure("there is a grid, but no two geophones");
+  if (!profile.hasGeometry()) {
+    return Status::failure(Message::tr("there is a grid, but no two geophones"));
+  }
   GridSize size;
   size.righe = grid.righe;
   size.col = grid.col;
@@ -70,7 +75,7 @@ Status buildGrid(const GridMember& grid, TomoDocument& document) {
   for (const double velocity : grid.velocities) slownesses.push_back(1.0 / velocity);
   Splines::LinearSpline surface = profile.surface();
   std::unique_ptr<Grid> built = buildGridFromValues(size, std::move(slownesses), surface);
-  if (built == nullptr) return Status::failure("the grid cannot be built");
+  if (built == nullptr) return Status::failure(Message::tr("the grid cannot be built"));
   for (std::uint32_t c = 0; c < built->cellCount(); ++c) built->setDraw(c, grid.toBeDraw[c]);
   document.grid = std::move(built);
   document.surface = std::move(surface);
@@ -92,18 +97,20 @@ std::vector<Point2D> drawnLimit(const Grid& grid) {
   return limit;
 }
 
-void restoreCoverage(SurveyMember& survey, std::vector<std::string>& repairs) {
+void restoreCoverage(SurveyMember& survey, std::vector<Message>& repairs) {
   TomoDocument& document = survey.document;
   std::vector<Point2D> limit = std::move(document.coverageLimit);
   const bool possible = std::all_of(limit.begin(), limit.end(), plausible);
   const bool usable = survey.hasCoverageLimit && possible;
-  if (!possible) repairs.emplace_back("the limit of its rays lies off the line; it is left out");
+  if (!possible) {
+    repairs.push_back(Message::tr("the limit of its rays lies off the line; it is left out"));
+  }
   if (!usable) limit.clear();
   if (!usable && document.has_tomographic_info) limit = drawnLimit(*document.grid);
   document.setCoverageLimit(std::move(limit));
 }
 
-void restoreDensity(SurveyMember& survey, std::vector<std::string>& repairs) {
+void restoreDensity(SurveyMember& survey, std::vector<Message>& repairs) {
   std::vector<double>& density = survey.document.info_density;
   const std::size_t cells = survey.document.grid->cellCount();
   if (!survey.hasInformationDensity) {
@@ -111,7 +118,7 @@ void restoreDensity(SurveyMember& survey, std::vector<std::string>& repairs) {
   } else if (density.size() == 1 && cells != 1) {
     density.assign(cells, density.front());
   } else if (density.size() != cells || !finite(density)) {
-    repairs.emplace_back("its information density does not fit the grid; it is left out");
+    repairs.push_back(Message::tr("its information density does not fit the grid; it is left out"));
     density.assign(cells, -1.0);
   }
 }
@@ -123,22 +130,22 @@ void forgetTimes(TomoDocument& document) {
   }
 }
 
-void restoreRun(SurveyMember& survey, std::vector<std::string>& repairs) {
+void restoreRun(SurveyMember& survey, std::vector<Message>& repairs) {
   if (!survey.document.has_tomographic_info || survey.runs.empty()) return;
   if (survey.runs.size() == 1 && canHaveBeen(survey.runs.front())) {
     survey.document.lastInversion = survey.runs.front();
   } else {
-    repairs.emplace_back("what it tells of its last inversion cannot be; it is left out");
+    repairs.push_back(Message::tr("what it tells of its last inversion cannot be; it is left out"));
   }
 }
 
 }  // namespace
 
-Status checkSurvey(SurveyMember& member, std::vector<std::string>& repairs) {
+Status checkSurvey(SurveyMember& member, std::vector<Message>& repairs) {
   TomoDocument& document = member.document;
   for (const auto& string : document.goephonesStringSet) {
     if (!std::all_of(string.begin(), string.end(), plausible)) {
-      return Status::failure("a geophone has no place");
+      return Status::failure(Message::tr("a geophone has no place"));
     }
   }
   std::int32_t own = 0;
@@ -146,10 +153,11 @@ Status checkSurvey(SurveyMember& member, std::vector<std::string>& repairs) {
     // -1 is a shot that no string recorded.
     const auto strings = static_cast<std::int64_t>(document.goephonesStringSet.size());
     if (record.indexStesa < -1 || record.indexStesa >= strings) {
-      return Status::failure("a shot was recorded by geophone string " +
-                             std::to_string(record.indexStesa) + " of " + std::to_string(strings));
+      return Status::failure(Message::tr("a shot was recorded by geophone string %1 of %2")
+                                 .arg(record.indexStesa)
+                                 .arg(strings));
     }
-    if (!plausible(record.shotPos2d)) return Status::failure("a shot has no place");
+    if (!plausible(record.shotPos2d)) return Status::failure(Message::tr("a shot has no place"));
     // Picks that came without traces may have none; their place says as much.
     if (record.traceSetID < 0) record.traceSetID = own;
     ++own;
@@ -159,7 +167,7 @@ Status checkSurvey(SurveyMember& member, std::vector<std::string>& repairs) {
   return {};
 }
 
-Status installGrid(GridMember grid, SurveyMember& survey, std::vector<std::string>& repairs) {
+Status installGrid(GridMember grid, SurveyMember& survey, std::vector<Message>& repairs) {
   TomoDocument& document = survey.document;
   if (grid.col == 0 && grid.righe == 0 && grid.velocities.empty()) {
     document.has_tomographic_info = false;
@@ -180,7 +188,7 @@ Status installGrid(GridMember grid, SurveyMember& survey, std::vector<std::strin
     restoreRun(survey, repairs);
     return status;
   } catch (const std::exception& error) {
-    return Status::failure(std::string("the grid cannot be built: ") + error.what());
+    return Status::failure(Message::tr("the grid cannot be built: %1").arg(error.what()));
   }
 }
 

@@ -15,11 +15,11 @@ namespace talvesk {
 
 /// Positions, spreads and settings. What the survey can do without is put right, see
 /// ProjectRepair.h. \param repairs one line is added for each thing that was put right or left out
-Status checkSurvey(SurveyMember& member, std::vector<std::string>& repairs);
+Status checkSurvey(SurveyMember& member, std::vector<Message>& repairs);
 
 /// Builds the grid under the survey and restores what an inversion left with it.
 /// \param repairs as in checkSurvey()
-Status installGrid(GridMember grid, SurveyMember& survey, std::vector<std::string>& repairs);
+Status installGrid(GridMember grid, SurveyMember& survey, std::vector<Message>& repairs);
 
 /// Puts the traces into the document, from the member or from the shot files in `folder` (ending in
 /// "/"), where the document's file names then point. A shot file that is missing, fails or is not
@@ -29,15 +29,15 @@ Status installGrid(GridMember grid, SurveyMember& survey, std::vector<std::strin
 /// \param state out: what their readers remember of them
 /// \param repairs as in checkSurvey()
 Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,
-                     SegyState& state, std::vector<std::string>& warnings,
-                     std::vector<std::string>& repairs);
+                     SegyState& state, std::vector<Message>& warnings,
+                     std::vector<Message>& repairs);
 
 /// Layers that name shots or layers which do not exist are refused; results that do not hang
 /// together are dropped, they can be built again.
 /// \param repairs as in checkSurvey()
 Status checkInterpretation(const TomoDocument& document,
                            refractionDataStructure::Interpretation& interpretation,
-                           std::vector<std::string>& repairs);
+                           std::vector<Message>& repairs);
 
 /// The shot files of one trace set: one file, or the two of a pair.
 struct SetFiles {
@@ -55,6 +55,6 @@ SetFiles filesOfSet(const std::vector<std::string>& main, const std::vector<std:
 /// loader and the writer, who wants to know what the loader will see, use it. False, with a reason,
 /// and `state` as before, when a file is missing or fails, or the files of a pair do not match.
 bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& state,
-                  TraceSet& traces, std::string& why);
+                  TraceSet& traces, Message& why);
 
 }  // namespace talvesk

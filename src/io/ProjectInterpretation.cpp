@@ -13,12 +13,13 @@ using namespace refractionDataStructure;
 Status checkLayers(const TomoDocument& document, std::vector<layerStruct>& layers) {
   for (layerStruct& shot : layers) {
     if (shot.shotID >= document.ttArray.size()) {
-      return Status::failure("layers belong to shot " + std::to_string(shot.shotID) + ", but " +
-                             std::to_string(document.ttArray.size()) + " shots exist");
+      return Status::failure(Message::tr("layers belong to shot %1, but %2 shots exist")
+                                 .arg(shot.shotID)
+                                 .arg(document.ttArray.size()));
     }
     const auto exists = [](std::uint32_t layer) { return layer <= kLastLayer; };
     if (!std::all_of(shot.layer.begin(), shot.layer.end(), exists)) {
-      return Status::failure("an arrival belongs to a layer that does not exist");
+      return Status::failure(Message::tr("an arrival belongs to a layer that does not exist"));
     }
     const std::size_t traces = document.ttArray[shot.shotID].ttMisurati.size();
     shot.layer.resize(traces, kNoLayer);
@@ -59,7 +60,7 @@ void takeSigns(Interpretation& interpretation) {
 }
 
 Status checkInterpretation(const TomoDocument& document, Interpretation& interpretation,
-                           std::vector<std::string>& repairs) {
+                           std::vector<Message>& repairs) {
   const Status status = checkLayers(document, interpretation.ttLayer);
   if (status.ok()) repairResults(interpretation, repairs);
   return status;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "model/RefractionDataStructure.h"
 #include "model/TomoDocument.h"
 #include "view/ColorPalette.h"
@@ -92,16 +93,16 @@ int writeRefraction(const std::string& path,
                     const refractionDataStructure::Interpretation& interpretation);
 int writeResult(const std::string& path, const ResultMember& result);
 
-int readSurvey(const std::string& path, SurveyMember& member, std::string& why);
-int readGrid(const std::string& path, GridMember& member, std::string& why);
-int readTraces(const std::string& path, TracesMember& member, std::string& why);
+int readSurvey(const std::string& path, SurveyMember& member, Message& why);
+int readGrid(const std::string& path, GridMember& member, Message& why);
+int readTraces(const std::string& path, TracesMember& member, Message& why);
 /// Palettes that cannot be used are left out, with a line in `repairs`; when none can be used they
 /// are as before.
-int readPalettes(const std::string& path, ColorPaletteList& palettes,
-                 std::vector<std::string>& repairs, std::string& why);
+int readPalettes(const std::string& path, ColorPaletteList& palettes, std::vector<Message>& repairs,
+                 Message& why);
 int readRefraction(const std::string& path, refractionDataStructure::Interpretation& interpretation,
-                   std::string& why);
-int readResult(const std::string& path, ResultMember& result, std::string& why);
+                   Message& why);
+int readResult(const std::string& path, ResultMember& result, Message& why);
 
 /// Stands in the file for what is not known of a layered profile, and is no number in memory: as
 /// for picks, for other programs read the file, too.

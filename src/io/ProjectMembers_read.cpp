@@ -20,26 +20,30 @@ constexpr std::uintmax_t kLargestMember = std::uintmax_t{1} << 29;
 constexpr std::uintmax_t kLargestTraces = std::uintmax_t{1} << 33;
 
 /// \param what the member, as its messages call it
-int readMember(const std::string& path, const char* what, std::uintmax_t largest, std::string& why,
+int readMember(const std::string& path, const char* what, std::uintmax_t largest, Message& why,
                const std::function<void(XmlReader&)>& read) {
-  const auto fail = [&](const std::string& reason) {
-    why = bareName(path) + ": " + reason;
+  const auto fail = [&](const Message& reason) {
+    why = joined(bareName(path), reason);
     console::logError(std::string("[ERROR] ") + what + " cannot be read from disk.");
     return 1;
   };
   std::ifstream stream(path, std::ios::binary);
   if (!stream.is_open()) {
     console::logError("[ERROR] Error in opening " + path + ".");
-    return fail("it is missing");
+    return fail(Message::tr("it is missing"));
   }
   std::error_code error;
-  if (std::filesystem::file_size(path, error) > largest || error) return fail("it is too large");
+  if (std::filesystem::file_size(path, error) > largest || error) {
+    return fail(Message::tr("it is too large"));
+  }
   try {
     XmlReader reader(stream, "cereal");
     read(reader);
     return 0;
   } catch (const std::bad_alloc&) {
-    return fail("there is not enough memory");
+    return fail(Message::tr("there is not enough memory"));
+  } catch (const XmlError& failure) {
+    return fail(failure.reason);
   } catch (const std::exception& failure) {
     return fail(failure.what());
   }
@@ -79,7 +83,7 @@ void describe(V& fields, SurveyRecord& record) {
 
 }  // namespace
 
-int readSurvey(const std::string& path, SurveyMember& member, std::string& why) {
+int readSurvey(const std::string& path, SurveyMember& member, Message& why) {
   return readMember(path, "TomoDocument", kLargestMember, why, [&](XmlReader& reader) {
     SurveyMember read;
     SurveyRecord record{read.document, read.section, read.runs};
@@ -92,7 +96,7 @@ int readSurvey(const std::string& path, SurveyMember& member, std::string& why) 
   });
 }
 
-int readGrid(const std::string& path, GridMember& member, std::string& why) {
+int readGrid(const std::string& path, GridMember& member, Message& why) {
   return readMember(path, "Grid", kLargestMember, why, [&](XmlReader& reader) {
     GridMember read;
     xml::readRecord(reader, read);
@@ -100,7 +104,7 @@ int readGrid(const std::string& path, GridMember& member, std::string& why) {
   });
 }
 
-int readTraces(const std::string& path, TracesMember& member, std::string& why) {
+int readTraces(const std::string& path, TracesMember& member, Message& why) {
   return readMember(path, "Traces", kLargestTraces, why, [&](XmlReader& reader) {
     TracesMember read;
     const std::vector<std::string> missing = xml::readRecord(reader, read);
@@ -117,7 +121,7 @@ int readTraces(const std::string& path, TracesMember& member, std::string& why) 
 }
 
 int readRefraction(const std::string& path, refractionDataStructure::Interpretation& interpretation,
-                   std::string& why) {
+                   Message& why) {
   return readMember(path, "Refraction data", kLargestMember, why, [&](XmlReader& reader) {
     refractionDataStructure::Interpretation read;
     xml::readRecord(reader, read);
@@ -126,7 +130,7 @@ int readRefraction(const std::string& path, refractionDataStructure::Interpretat
   });
 }
 
-int readResult(const std::string& path, ResultMember& result, std::string& why) {
+int readResult(const std::string& path, ResultMember& result, Message& why) {
   return readMember(path, "Result", kLargestMember, why, [&](XmlReader& reader) {
     ResultMember read;
     xml::readRecord(reader, read);

@@ -22,8 +22,8 @@ int failWriting(const std::string& path) {
   return 1;
 }
 
-int failReading(const std::string& reason, std::string& why) {
-  why = std::string(kPalettesMember) + ": " + reason;
+int failReading(const Message& reason, Message& why) {
+  why = joined(kPalettesMember, reason);
   console::logError("[ERROR] Palettes cannot be read from disk.");
   return 1;
 }
@@ -44,15 +44,15 @@ int writePalettes(const std::string& path, const ColorPaletteList& palettes) {
   return stream.good() ? 0 : failWriting(path);
 }
 
-int readPalettes(const std::string& path, ColorPaletteList& palettes,
-                 std::vector<std::string>& repairs, std::string& why) {
+int readPalettes(const std::string& path, ColorPaletteList& palettes, std::vector<Message>& repairs,
+                 Message& why) {
   std::string text;
   if (const Status status = readWholeFile(path, text, kLargestMember); !status.ok()) {
     console::logError("[ERROR] Error in opening " + path + ".");
-    return failReading(status.message(), why);
+    return failReading(status.text(), why);
   }
   if (const Status shape = checkXmlShape(text, kPalettesMember, kMostLevels); !shape.ok()) {
-    return failReading(shape.message(), why);
+    return failReading(shape.text(), why);
   }
   try {
     std::istringstream stream(std::move(text));

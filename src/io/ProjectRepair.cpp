@@ -13,7 +13,7 @@ namespace talvesk {
 namespace {
 
 using namespace refractionDataStructure;
-using Repairs = std::vector<std::string>;
+using Repairs = std::vector<Message>;
 
 constexpr double kLeastVelocity = 1e-3;      // m/s
 constexpr double kLargestVelocity = 1e9;     // m/s
@@ -41,8 +41,8 @@ void repairTitle(std::string& title, Repairs& repairs) {
   std::string clean = beginningOf(withoutControls(title), kLongestTitle);
   if (clean == title) return;
   title = std::move(clean);
-  repairs.push_back("its title has control characters or is too long; it reads " + quoted(title) +
-                    " now");
+  repairs.push_back(Message::tr("its title has control characters or is too long; it reads %1 now")
+                        .arg(quoted(title)));
 }
 
 bool fits(const VelocityLayer& layer) {
@@ -53,21 +53,22 @@ bool fits(const VelocityLayer& layer) {
 void repairInversion(TomoDocument& document, Repairs& repairs) {
   const TomoDocument fresh;
   if (!std::isfinite(document.RMSE_tomography)) {
-    repairs.emplace_back("its RMS misfit is no number; it is left out");
+    repairs.push_back(Message::tr("its RMS misfit is no number; it is left out"));
     document.RMSE_tomography = fresh.RMSE_tomography;
   }
   if (!isVelocity(document.minVelocity) || !isVelocity(document.maxVelocity)) {
-    repairs.emplace_back("its limits of velocity cannot be; they are as in a new survey");
+    repairs.push_back(Message::tr("its limits of velocity cannot be; they are as in a new survey"));
     document.minVelocity = fresh.minVelocity;
     document.maxVelocity = fresh.maxVelocity;
   }
   if (!all(document.layers, fits)) {
-    repairs.emplace_back("a layer of its starting model cannot be; the model is left out");
+    repairs.push_back(
+        Message::tr("a layer of its starting model cannot be; the model is left out"));
     document.layers.clear();
   }
   const auto isSize = [](double size) { return size > 0.0 && isPosition(size); };
   if (!all(document.proposedCellSizes, isSize)) {
-    repairs.emplace_back("a cell size that it proposes cannot be; it proposes new ones");
+    repairs.push_back(Message::tr("a cell size that it proposes cannot be; it proposes new ones"));
     document.proposedCellSizes.clear();
   }
 }
@@ -77,7 +78,7 @@ void repairPlace(TomoDocument& document, Repairs& repairs) {
   const double sum = std::fabs(place.mEastFstGeoph) + std::fabs(place.mEastLstGeoph) +
                      std::fabs(place.mNorthFstGeoph) + std::fabs(place.mNorthLstGeoph);
   if (std::isfinite(sum)) return;
-  repairs.emplace_back("its geographic coordinates are no numbers; they are left out");
+  repairs.push_back(Message::tr("its geographic coordinates are no numbers; they are left out"));
   document.geoCoord = {};
   document.geoCoord_isSet = false;
 }
@@ -88,8 +89,10 @@ void repairExaggeration(double& exaggeration, Repairs& repairs) {
   const bool isFactor = std::isfinite(before) && before > 0.0;
   exaggeration = isFactor ? std::clamp(before, kLeastExaggeration, kMostExaggeration)
                           : SectionViewSettings().verticalExaggeration;
-  repairs.push_back("no section can be drawn with a vertical exaggeration of " +
-                    formatDouble(before) + "; it is " + formatDouble(exaggeration) + " now");
+  repairs.push_back(
+      Message::tr("no section can be drawn with a vertical exaggeration of %1; it is %2 now")
+          .arg(before)
+          .arg(exaggeration));
 }
 
 /// Whether the value was outside.
@@ -137,7 +140,9 @@ void repairContours(ContourSettings& contours, Repairs& repairs) {
     repaired = hold(*part, 0.0, 1.0) || repaired;
   }
   repaired = repairContourLists(contours) || repaired;
-  if (repaired) repairs.emplace_back("its contours cannot be drawn so; they are put right");
+  if (repaired) {
+    repairs.push_back(Message::tr("its contours cannot be drawn so; they are put right"));
+  }
 }
 
 void repairSection(SectionViewSettings& section, Repairs& repairs) {
@@ -145,12 +150,13 @@ void repairSection(SectionViewSettings& section, Repairs& repairs) {
   if (section.quantity < SectionQuantity::kVelocity ||
       section.quantity > SectionQuantity::kInformationDensity) {
     section.quantity = fresh.quantity;
-    repairs.emplace_back(
-        "its section shows a quantity that does not exist; it is the velocity now");
+    repairs.push_back(
+        Message::tr("its section shows a quantity that does not exist; it is the velocity now"));
   }
   if (section.geophones < GeophoneMarkers::kNone || section.geophones > GeophoneMarkers::kLarge) {
     section.geophones = fresh.geophones;
-    repairs.emplace_back("its geophone markers have a size that does not exist; it is normal now");
+    repairs.push_back(
+        Message::tr("its geophone markers have a size that does not exist; it is normal now"));
   }
   repairExaggeration(section.verticalExaggeration, repairs);
   repairContours(section.contours, repairs);
@@ -214,9 +220,11 @@ void repairVelocities(std::vector<double>& velocities, Repairs& repairs) {
     if (isOutside && hold(velocity, kLeastVelocity, kLargestVelocity)) ++held;
   }
   if (held == 0) return;
-  repairs.push_back("velocities of " + std::to_string(held) + (held == 1 ? " cell" : " cells") +
-                    " cannot be; they are held within " + formatDouble(kLeastVelocity) + " and " +
-                    formatDouble(kLargestVelocity) + " m/s");
+  Message text =
+      held == 1
+          ? Message::tr("velocities of %1 cell cannot be; they are held within %2 and %3 m/s")
+          : Message::tr("velocities of %1 cells cannot be; they are held within %2 and %3 m/s");
+  repairs.push_back(std::move(text).arg(held).arg(kLeastVelocity).arg(kLargestVelocity));
 }
 
 void repairResults(Interpretation& interpretation, Repairs& repairs) {
@@ -228,7 +236,9 @@ void repairResults(Interpretation& interpretation, Repairs& repairs) {
       shifted = true;
     }
   }
-  if (shifted) repairs.emplace_back("a time shift of its arrivals cannot be; it is 0 now");
+  if (shifted) {
+    repairs.push_back(Message::tr("a time shift of its arrivals cannot be; it is 0 now"));
+  }
   if (allCanBe(interpretation.phnt_A) && allCanBe(interpretation.phnt_R) &&
       canBe(interpretation.refractData)) {
     return;
@@ -236,7 +246,8 @@ void repairResults(Interpretation& interpretation, Repairs& repairs) {
   interpretation.phnt_A.clear();
   interpretation.phnt_R.clear();
   interpretation.refractData = {};
-  repairs.emplace_back("its layered profile cannot be; it is left out and can be built again");
+  repairs.push_back(
+      Message::tr("its layered profile cannot be; it is left out and can be built again"));
 }
 
 }  // namespace talvesk

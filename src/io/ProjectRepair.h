@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "io/ProjectMembers.h"
 
 #include <string>
@@ -12,15 +13,15 @@ namespace talvesk {
 // `repairs` for the user.
 
 /// Title, limits and starting model of the inversion, coordinates, and what the section shows.
-void repairSurvey(SurveyMember& member, std::vector<std::string>& repairs);
+void repairSurvey(SurveyMember& member, std::vector<Message>& repairs);
 
 /// Velocities that no ground has, sound or not, are held within 0.001 and 1e9 m/s. What is not
 /// positive and finite is not touched.
-void repairVelocities(std::vector<double>& velocities, std::vector<std::string>& repairs);
+void repairVelocities(std::vector<double>& velocities, std::vector<Message>& repairs);
 
 /// Results of the layered interpretation that do not hang together, or lie where no line does, are
 /// dropped: they can be built again. A time shift that cannot be is 0.
 void repairResults(refractionDataStructure::Interpretation& interpretation,
-                   std::vector<std::string>& repairs);
+                   std::vector<Message>& repairs);
 
 }  // namespace talvesk

@@ -44,8 +44,8 @@ ResultMember resultOf(const TomoDocument& document) {
 
 Status installResult(ResultMember result, TomoDocument& document) {
   if (document.grid == nullptr || !document.has_tomographic_info || !fits(result, document)) {
-    return Status::failure(
-        "its coverage and figures do not go with the grid and the inversion of the project");
+    return Status::failure(Message::tr(
+        "its coverage and figures do not go with the grid and the inversion of the project"));
   }
   document.hitCounts = std::move(result.hitCounts);
   document.coorcount = std::move(result.coorcount);

@@ -19,7 +19,9 @@ std::string entryOf(const std::vector<std::string>& list, std::size_t i) {
 
 Status readOne(const std::string& folder, const std::string& name, SegyState& state,
                TraceSet& traces) {
-  if (!isEntryName(name)) return Status::failure(quoted(name) + " is no name of a file");
+  if (!isEntryName(name)) {
+    return Status::failure(Message::tr("%1 is no name of a file").arg(quoted(name)));
+  }
   ShotFileData data;
   const Status status = readShotFile(folder + name, state, data);
   if (status.ok()) traces = traceSetOf(std::move(data));
@@ -88,9 +90,10 @@ Status installFiltered(TracesMember& member, std::size_t set, TraceSet& traces) 
   std::vector<std::vector<double>>& copies = member.filtered[set];
   if (copies.empty()) return {};
   if (copies.size() != traces.size()) {
-    return Status::failure("trace set " + std::to_string(set) + " has " +
-                           std::to_string(traces.size()) + " traces, but " +
-                           std::to_string(copies.size()) + " filtered copies");
+    return Status::failure(Message::tr("trace set %1 has %2 traces, but %3 filtered copies")
+                               .arg(set)
+                               .arg(traces.size())
+                               .arg(copies.size()));
   }
   for (std::size_t i = 0; i < traces.size(); ++i) traces[i].filtered = std::move(copies[i]);
   return {};
@@ -98,7 +101,7 @@ Status installFiltered(TracesMember& member, std::size_t set, TraceSet& traces) 
 
 /// A name with a folder in it would have the next save collect a file of the user's that has
 /// nothing to do with the survey, and hand it on with the project.
-void forgetPaths(TracesMember& member, std::size_t set, std::vector<std::string>& repairs) {
+void forgetPaths(TracesMember& member, std::size_t set, std::vector<Message>& repairs) {
   std::string path;
   for (auto* names : {&member.filenames, &member.filenames_DX, &member.filenames_SX}) {
     if (set >= names->size()) continue;
@@ -108,35 +111,33 @@ void forgetPaths(TracesMember& member, std::size_t set, std::vector<std::string>
   if (path.empty()) return;
   const SetFiles left = filesOfSet(member.filenames, member.filenames_DX, member.filenames_SX, set);
   const bool lost = left.none() && !hasSamples(member.traceSets[set]);
-  repairs.push_back("shot " + std::to_string(set + 1) + ": its shot file is called " +
-                    quoted(path) + ", which is no plain file name; the name is forgotten" +
-                    (lost ? " and its traces are empty" : ""));
-}
-
-/// A reason with the bare names of its files: nobody put anything into the temporary folder by
-/// hand.
-std::string without(const std::string& folder, std::string why) {
-  for (auto at = why.find(folder); at != std::string::npos; at = why.find(folder)) {
-    why.erase(at, folder.size());
-  }
-  return why;
+  Message text = lost ? Message::tr(
+                            "shot %1: its shot file is called %2, which is no plain file name; the "
+                            "name is forgotten and its traces are empty")
+                      : Message::tr(
+                            "shot %1: its shot file is called %2, which is no plain file name; the "
+                            "name is forgotten");
+  repairs.push_back(std::move(text).arg(set + 1).arg(quoted(path)));
 }
 
 /// One set, from its record or its files.
 TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<StoredTrace>& stored,
-               SegyState& state, std::vector<std::string>& warnings) {
+               SegyState& state, std::vector<Message>& warnings) {
   if (hasSamples(stored) || names.none()) return storedSet(stored);
   TraceSet traces;
-  std::string why;
+  Message why;
   bool read = readSetFiles(folder, names, state, traces, why);
   if (read && traces.size() != stored.size()) {
-    why = (names.isPair() ? names.dx : names.main) + " has " + std::to_string(traces.size()) +
-          " traces instead of " + std::to_string(stored.size());
+    why = Message::tr("%1 has %2 traces instead of %3")
+              .arg(names.isPair() ? names.dx : names.main)
+              .arg(traces.size())
+              .arg(stored.size());
     read = false;
   }
   if (!read) {
     console::logError("Error while loading traces: Invalid file format.");
-    warnings.push_back(without(folder, why));
+    // By their bare names: nobody put anything into the temporary folder by hand.
+    warnings.push_back(why.without(folder));
     return storedSet(stored);
   }
   for (std::size_t i = 0; i < traces.size(); ++i) {
@@ -152,16 +153,16 @@ Status matchRecords(TomoDocument& document) {
   if (document.traceSets.empty()) return {};
   std::vector<TravelTime>& records = document.ttArray;
   if (records.size() != document.traceSets.size()) {
-    return Status::failure("there are " + std::to_string(document.traceSets.size()) +
-                           " trace sets, but " + std::to_string(records.size()) +
-                           " travel-time records");
+    return Status::failure(Message::tr("there are %1 trace sets, but %2 travel-time records")
+                               .arg(document.traceSets.size())
+                               .arg(records.size()));
   }
   std::stable_sort(records.begin(), records.end(), [](const TravelTime& a, const TravelTime& b) {
     return a.traceSetID < b.traceSetID;
   });
   for (std::size_t i = 0; i < records.size(); ++i) {
     if (records[i].traceSetID != static_cast<std::int32_t>(i)) {
-      return Status::failure("no travel-time record belongs to trace set " + std::to_string(i));
+      return Status::failure(Message::tr("no travel-time record belongs to trace set %1").arg(i));
     }
     const std::size_t traces = document.traceSets[i].size();
     if (records[i].ttMisurati.size() < traces) records[i].ttMisurati.resize(traces, kUnpicked);
@@ -185,7 +186,7 @@ SetFiles filesOfSet(const std::vector<std::string>& main, const std::vector<std:
 }
 
 bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& state,
-                  TraceSet& traces, std::string& why) {
+                  TraceSet& traces, Message& why) {
   SegyState after = state;
   TraceSet first;
   TraceSet second;
@@ -193,10 +194,11 @@ bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& s
   if (status.ok() && names.isPair()) {
     status = readOne(folder, names.sx, after, second);
     if (status.ok() && first.size() != second.size()) {
-      status = Status::failure(names.dx + " and " + names.sx + " have different numbers of traces");
+      status = Status::failure(
+          Message::tr("%1 and %2 have different numbers of traces").arg(names.dx).arg(names.sx));
     }
   }
-  why = status.message();
+  why = status.text();
   if (!status.ok()) return false;
   if (names.isPair()) joinRecordings(first, second);
   state = after;
@@ -205,23 +207,23 @@ bool readSetFiles(const std::string& folder, const SetFiles& names, SegyState& s
 }
 
 Status installTraces(TracesMember member, const std::string& folder, TomoDocument& document,
-                     SegyState& state, std::vector<std::string>& warnings,
-                     std::vector<std::string>& repairs) {
+                     SegyState& state, std::vector<Message>& warnings,
+                     std::vector<Message>& repairs) {
   const std::size_t sets = member.traceSets.size();
   if (member.waveType != WaveType::P && member.waveType != WaveType::S) {
-    return Status::failure("wave type " + std::to_string(static_cast<int>(member.waveType)) +
-                           " does not exist");
+    return Status::failure(
+        Message::tr("wave type %1 does not exist").arg(static_cast<int>(member.waveType)));
   }
   if (std::max({member.filenames.size(), member.filenames_DX.size(), member.filenames_SX.size(),
                 member.filtered.size()}) > sets) {
-    return Status::failure("there are more files or filtered copies than trace sets");
+    return Status::failure(Message::tr("there are more files or filtered copies than trace sets"));
   }
   state = {};
   std::vector<TraceSet> traceSets;
   for (std::size_t set = 0; set < sets; ++set) {
     if (!finitePlaces(member.traceSets[set])) {
-      return Status::failure("trace set " + std::to_string(set) +
-                             " has a position or delay that cannot be");
+      return Status::failure(
+          Message::tr("trace set %1 has a position or delay that cannot be").arg(set));
     }
     forgetPaths(member, set, repairs);
     const SetFiles names =
@@ -230,8 +232,8 @@ Status installTraces(TracesMember member, const std::string& folder, TomoDocumen
     member.traceSets[set] = {};
     if (Status status = installFiltered(member, set, traces); !status.ok()) return status;
     if (!finiteSamples(traces)) {
-      return Status::failure("trace set " + std::to_string(set) +
-                             " has a sample that is no finite number");
+      return Status::failure(
+          Message::tr("trace set %1 has a sample that is no finite number").arg(set));
     }
     traceSets.push_back(std::move(traces));
   }
@@ -243,7 +245,7 @@ Status installTraces(TracesMember member, const std::string& folder, TomoDocumen
   document.traceSets = std::move(traceSets);
   Status matched = matchRecords(document);
   if (!matched.ok()) return matched;
-  const std::string dropped = dropImpossiblePicks(document.ttArray, document.traceSets);
+  const Message dropped = dropImpossiblePicks(document.ttArray, document.traceSets);
   if (!dropped.empty()) repairs.push_back(dropped);
   return {};
 }

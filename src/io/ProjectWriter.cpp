@@ -20,9 +20,9 @@ namespace fs = std::filesystem;
 
 }  // namespace
 
-int ProjectWriter::fail(const std::string& message) {
+int ProjectWriter::fail(const Message& reason) {
   mError = true;
-  mMessage = message;
+  mReason = reason;
   return 1;
 }
 
@@ -59,7 +59,7 @@ int ProjectWriter::saveRefraction_XML(
 int ProjectWriter::compress_project(const std::string& archive,
                                     const std::vector<std::string>& files) {
   console::log("ProjectWriter::compress_project");
-  std::string why;
+  Message why;
   return writeZip(archive, files, why) == 0 ? 0 : fail(why);
 }
 
@@ -127,16 +127,19 @@ int ProjectWriter::build(const std::string& archive, const std::string& workingF
     const auto temporary = TemporaryFolder::create(workingFolder);
     if (temporary == nullptr) {
       console::logError("ERROR: Impossible to save!");
-      return fail("No temporary folder can be created in " + workingFolder + ".");
+      return fail(Message::tr("No temporary folder can be created in %1.").arg(workingFolder));
     }
-    const std::string inFolder = "in " + temporary->path() + "; is the disk full?";
+    const Message unwritten =
+        Message::tr("Its parts cannot be written in %1; is the disk full?").arg(temporary->path());
     if (!writeMembers(temporary->path(), project, files, complete)) {
-      return fail("Its parts cannot be written " + inFolder);
+      return fail(unwritten);
     }
     built = compress_project(archive, files);
     step(built, &ProjectWriter::saved_compressed, &ProjectWriter::error_saved_compressed);
-    if (!complete) fail("Its parts cannot be written " + inFolder);
-    if (built != 0 && mMessage.empty()) fail("The archive " + archive + " cannot be written.");
+    if (!complete) fail(unwritten);
+    if (built != 0 && mReason.empty()) {
+      fail(Message::tr("The archive %1 cannot be written.").arg(archive));
+    }
   }
   emit saved_completed();
   return built;
@@ -147,17 +150,17 @@ int ProjectWriter::save(const std::string& archive, const std::string& workingFo
                         const refractionDataStructure::Interpretation& interpretation,
                         const ColorPaletteList& palettes, const SectionViewSettings& section) {
   mError = false;
-  mMessage.clear();
+  mReason = {};
   mWarnings.clear();
   if (const Status place = checkReplaceable(archive); !place.ok()) {
     console::logError("ERROR: Impossible to save!");
-    return fail(place.message());
+    return fail(place.text());
   }
   TemporaryFolder::clear(workingFolder);
   try {
     return build(archive, workingFolder, {document, interpretation, palettes, section});
   } catch (const std::exception& error) {
-    return fail(std::string("It cannot be put together: ") + error.what());
+    return fail(Message::tr("It cannot be put together: %1").arg(error.what()));
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "io/ProjectMembers.h"
 
 #include <QObject>
@@ -34,10 +35,11 @@ class ProjectWriter : public QObject {
            const refractionDataStructure::Interpretation& interpretation,
            const ColorPaletteList& palettes, const SectionViewSettings& section = {});
 
-  bool hasError() const { return mError; }                 ///< of the last save
-  const std::string& message() const { return mMessage; }  ///< why the last save failed
+  bool hasError() const { return mError; }                          ///< of the last save
+  const std::string& message() const { return mReason.english(); }  ///< why the last save failed
+  const Message& reason() const { return mReason; }                 ///< the same, to be translated
   /// What the user should know about a save that succeeded: shot files that are not in it.
-  const std::vector<std::string>& warnings() const { return mWarnings; }
+  const std::vector<Message>& warnings() const { return mWarnings; }
 
   // The steps. Each returns 0 or 1.
   virtual int saveTomoDocument_XML(const std::string& path, const TomoDocument& document,
@@ -78,7 +80,7 @@ class ProjectWriter : public QObject {
 
   using Signal = void (ProjectWriter::*)();
 
-  int fail(const std::string& message);
+  int fail(const Message& reason);
   int writeTracesAndFiles(const std::string& folder, const TomoDocument& document,
                           std::vector<std::string>& files);
   bool step(int result, Signal done, Signal failed);
@@ -87,8 +89,8 @@ class ProjectWriter : public QObject {
   int build(const std::string& archive, const std::string& workingFolder, const Project& project);
 
   bool mError = false;
-  std::string mMessage;
-  std::vector<std::string> mWarnings;
+  Message mReason;
+  std::vector<Message> mWarnings;
 };
 
 }  // namespace talvesk

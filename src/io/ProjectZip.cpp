@@ -73,38 +73,43 @@ std::uint64_t roomIn(const std::string& folder) {
 }
 
 /// A number of bytes as people say it.
-std::string sizeText(std::uint64_t bytes) {
+Message sizeText(std::uint64_t bytes) {
   constexpr std::uint64_t kMega = 1000 * 1000;
-  return bytes < kMega ? std::to_string(bytes) + " bytes" : std::to_string(bytes / kMega) + " MB";
+  return bytes < kMega ? Message::tr("%1 bytes").arg(bytes)
+                       : Message::tr("%1 MB").arg(bytes / kMega);
 }
 
-std::string tooMuch(std::uint64_t archiveBytes) {
-  return "it unpacks to more than " + sizeText(unpackedLimit(archiveBytes)) +
-         ", which no project of " + sizeText(archiveBytes) + " does";
+Message tooMuch(std::uint64_t archiveBytes) {
+  return Message::tr("it unpacks to more than %1, which no project of %2 does")
+      .arg(sizeText(unpackedLimit(archiveBytes)))
+      .arg(sizeText(archiveBytes));
 }
 
-std::string noRoom(std::uint64_t bytes, std::uint64_t room) {
-  return "it unpacks to " + sizeText(bytes) + " or more, and the disk has room for " +
-         sizeText(room);
+Message noRoom(std::uint64_t bytes, std::uint64_t room) {
+  return Message::tr("it unpacks to %1 or more, and the disk has room for %2")
+      .arg(sizeText(bytes))
+      .arg(sizeText(room));
 }
 
 /// Why a file could not be written; to be called before anything else goes wrong.
-std::string notWritten(const std::string& name) {
-  return quoted(name) + " cannot be extracted: " + std::generic_category().message(errno);
+Message notWritten(const std::string& name) {
+  return Message::tr("%1 cannot be extracted: %2")
+      .arg(quoted(name))
+      .arg(std::generic_category().message(errno));
 }
 
 /// Entries on their way from an archive to the folder.
 class Extraction {
  public:
   /// \param why out: the reason of the failure
-  Extraction(zip_t* archive, std::uint64_t archiveBytes, std::string folder, std::string& why)
+  Extraction(zip_t* archive, std::uint64_t archiveBytes, std::string folder, Message& why)
       : mArchive(archive), mArchiveBytes(archiveBytes), mFolder(std::move(folder)), mWhy(why) {}
 
   /// 0, or 1 after telling the console.
   int extract(std::uint64_t index, const ZipEntry& entry);
 
  private:
-  int fail(int line, const std::string& text, const std::string& why) {
+  int fail(int line, const std::string& text, const Message& why) {
     mWhy = why;
     return failLoading(line, text);
   }
@@ -114,7 +119,7 @@ class Extraction {
   std::uint64_t mArchiveBytes;
   std::uint64_t mWritten = 0;  ///< of all entries
   std::string mFolder;
-  std::string& mWhy;
+  Message& mWhy;
 };
 
 int Extraction::extract(std::uint64_t index, const ZipEntry& entry) {
@@ -122,7 +127,9 @@ int Extraction::extract(std::uint64_t index, const ZipEntry& entry) {
   const std::unique_ptr<zip_file_t, CloseEntry> source(zip_fopen_index(mArchive, index, 0));
   if (source == nullptr) {
     return fail(__LINE__, " : read_ZIP() : error reading",
-                quoted(entry.name) + " in it cannot be read: " + zip_strerror(mArchive));
+                Message::tr("%1 in it cannot be read: %2")
+                    .arg(quoted(entry.name))
+                    .arg(zip_strerror(mArchive)));
   }
   const std::string destination = mFolder + entry.name;
   const std::size_t dot = entry.name.rfind('.');
@@ -152,7 +159,8 @@ int Extraction::copy(zip_file_t* source, std::FILE* target, const ZipEntry& entr
     const zip_int64_t got = zip_fread(source, chunk.data(), chunk.size());
     if (got < 0) {
       const char* reason = zip_error_strerror(zip_file_get_error(source));
-      return fail(__LINE__, writing, quoted(entry.name) + " in it is damaged: " + reason);
+      return fail(__LINE__, writing,
+                  Message::tr("%1 in it is damaged: %2").arg(quoted(entry.name)).arg(reason));
     }
     if (got == 0) break;
     const auto bytes = static_cast<std::size_t>(got);
@@ -166,7 +174,8 @@ int Extraction::copy(zip_file_t* source, std::FILE* target, const ZipEntry& entr
     mWritten += bytes;
   }
   if (mWritten - before == entry.bytes) return 0;
-  return fail(__LINE__, writing, quoted(entry.name) + " in it is not as long as it says");
+  return fail(__LINE__, writing,
+              Message::tr("%1 in it is not as long as it says").arg(quoted(entry.name)));
 }
 
 /// Names and sizes of all entries.
@@ -244,51 +253,52 @@ int addFile(zip_t* archive, const std::string& file, zip_int32_t method) {
 
 /// Packs the files into what is to replace the archive.
 int pack(const std::string& path, const std::vector<std::string>& files, zip_int32_t method,
-         FileReplacement& replacement, std::string& why) {
+         FileReplacement& replacement, Message& why) {
   Archive archive;
   if (Status status = openForWriting(path, replacement, archive); !status.ok()) {
-    why = status.message();
+    why = status.text();
     return failSaving(__LINE__, " : write_ZIP() : impossible to create " + path);
   }
   for (const std::string& file : files) {
     if (addFile(archive.get(), file, method) == 0) continue;
-    why = "The file " + file + " cannot be added to the archive.";
+    why = Message::tr("The file %1 cannot be added to the archive.").arg(file);
     return 1;
   }
   // Only a close that succeeds takes the archive over.
   if (zip_close(archive.get()) != 0) {
     const std::string reason = zip_strerror(archive.get());
-    why = "The archive " + path + " cannot be written: " + reason + ".";
+    why = Message::tr("The archive %1 cannot be written: %2.").arg(path).arg(reason);
     return failSaving(__LINE__, " : write_ZIP() : impossible to close " + path + ": " + reason);
   }
   archive.release();
   return 0;
 }
 
-int commit(const std::string& path, FileReplacement& replacement, std::string& why) {
+int commit(const std::string& path, FileReplacement& replacement, Message& why) {
   const Status replaced = replacement.commit();
   if (replaced.ok()) return 0;
-  why = replaced.message();
+  why = replaced.text();
   return failSaving(__LINE__, " : write_ZIP() : impossible to close " + path);
 }
 
 }  // namespace
 
-std::string refusalOf(const std::vector<ZipEntry>& entries, std::uint64_t archiveBytes,
-                      std::uint64_t room) {
+Message refusalOf(const std::vector<ZipEntry>& entries, std::uint64_t archiveBytes,
+                  std::uint64_t room) {
   constexpr std::size_t kMostEntries = 65535;
   if (entries.size() > kMostEntries) {
-    return "it holds " + std::to_string(entries.size()) + " files, more than " +
-           std::to_string(kMostEntries);
+    return Message::tr("it holds %1 files, more than %2").arg(entries.size()).arg(kMostEntries);
   }
   std::set<std::string> names;
   const std::uint64_t limit = unpackedLimit(archiveBytes);
   std::uint64_t total = 0;
   for (const ZipEntry& entry : entries) {
     if (!isEntryName(entry.name)) {
-      return quoted(entry.name) + " in it is no name of a file without a folder";
+      return Message::tr("%1 in it is no name of a file without a folder").arg(quoted(entry.name));
     }
-    if (!names.insert(entry.name).second) return "two files in it are called " + quoted(entry.name);
+    if (!names.insert(entry.name).second) {
+      return Message::tr("two files in it are called %1").arg(quoted(entry.name));
+    }
     if (entry.bytes > limit - total) return tooMuch(archiveBytes);
     total += entry.bytes;
   }
@@ -303,12 +313,14 @@ std::uint64_t unpackedLimit(std::uint64_t archiveBytes) {
   return std::max(kAlwaysAllowed, kLargestRatio * archiveBytes);
 }
 
-int writeZip(const std::string& path, const std::vector<std::string>& files, std::string& why) {
+int writeZip(const std::string& path, const std::vector<std::string>& files, Message& why) {
   const std::uint64_t total = bytesOf(files);
   if (total > kMostUnpacked) {
-    why = "The files of the project are " + sizeText(total) + ", more than the " +
-          sizeText(kMostUnpacked) + " that can be opened again.";
-    return failSaving(__LINE__, " : write_ZIP() : impossible to create " + path + ": " + why);
+    why = Message::tr("The files of the project are %1, more than the %2 that can be opened again.")
+              .arg(sizeText(total))
+              .arg(sizeText(kMostUnpacked));
+    return failSaving(__LINE__,
+                      " : write_ZIP() : impossible to create " + path + ": " + why.english());
   }
   FileReplacement packed;
   if (pack(path, files, ZIP_CM_DEFLATE, packed, why) != 0) return 1;
@@ -319,39 +331,39 @@ int writeZip(const std::string& path, const std::vector<std::string>& files, std
   return commit(path, stored, why);
 }
 
-int readZip(const std::string& path, const std::string& folder, std::string& why) {
+int readZip(const std::string& path, const std::string& folder, Message& why) {
   int error = 0;
   Archive archive(zip_open(path.c_str(), ZIP_RDONLY, &error));
   if (archive == nullptr) {
-    why = "it is no archive of a project, or damaged: " + textOf(error);
+    why = Message::tr("it is no archive of a project, or damaged: %1").arg(textOf(error));
     return failLoading(__LINE__, ": read_ZIP() : couldn't open input file " + path);
   }
   if (zip_get_num_entries(archive.get(), 0) == 0) {
-    why = "there is nothing in it";
+    why = Message::tr("there is nothing in it");
     return failLoading(__LINE__, " : read_ZIP() : empty " + path);
   }
   if (!holdsSurvey(archive.get())) {
-    why = std::string("it is no archive of a project: there is no ") + kSurveyMember + " in it";
+    why = Message::tr("it is no archive of a project: there is no %1 in it").arg(kSurveyMember);
     return failLoading(__LINE__,
                        std::string(" : read_ZIP() : no ") + kSurveyMember + " into " + path);
   }
   std::vector<ZipEntry> entries;
   if (listEntries(archive.get(), entries) != 0) {
-    why = "its list of files is damaged";
+    why = Message::tr("its list of files is damaged");
     return 1;
   }
   std::error_code unknown;
   const std::uint64_t archiveBytes = std::filesystem::file_size(path, unknown);
   why = refusalOf(entries, archiveBytes, roomIn(folder));
   if (!why.empty()) {
-    return failLoading(__LINE__, " : read_ZIP() : error extracting " + path + ": " + why);
+    return failLoading(__LINE__, " : read_ZIP() : error extracting " + path + ": " + why.english());
   }
   Extraction extraction(archive.get(), archiveBytes, folder, why);
   for (std::size_t i = 0; i < entries.size(); ++i) {
     if (extraction.extract(i, entries[i]) != 0) return 1;
   }
   if (zip_close(archive.get()) != 0) {
-    why = std::string("it cannot be closed: ") + zip_strerror(archive.get());
+    why = Message::tr("it cannot be closed: %1").arg(zip_strerror(archive.get()));
     return failLoading(__LINE__, " : read_ZIP() : impossible to close " + path);
   }
   archive.release();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Message.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -7,11 +9,11 @@
 namespace talvesk {
 
 /// Puts files into a new archive, flat, under their bare names. The archive appears whole or not at
-/// all; what lay at its path before is replaced, in one step, only by one that is on the disk. Files
-/// that readZip() would refuse for their size are no archive either.
-/// \param why out: what happened, for the user, when it failed
-/// \return 0, or 1 after telling the console's error stream what was impossible
-int writeZip(const std::string& archive, const std::vector<std::string>& files, std::string& why);
+/// all; what lay at its path before is replaced, in one step, only by one that is on the disk.
+/// Files that readZip() would refuse for their size are no archive either. \param why out: what
+/// happened, for the user, when it failed \return 0, or 1 after telling the console's error stream
+/// what was impossible
+int writeZip(const std::string& archive, const std::vector<std::string>& files, Message& why);
 
 /// Extracts an archive that holds a "tomodoc.xml" into a folder that holds nothing else.
 ///
@@ -23,7 +25,7 @@ int writeZip(const std::string& archive, const std::vector<std::string>& files, 
 /// \param folder ending in "/"
 /// \param why out: what is wrong, for the user, when it failed; says nothing of the path
 /// \return 0, or 1 after telling the console's error stream where it stopped
-int readZip(const std::string& archive, const std::string& folder, std::string& why);
+int readZip(const std::string& archive, const std::string& folder, Message& why);
 
 /// How many bytes an archive of so many may unpack to: 200 times as many, or 10 MB where that is
 /// more, and never more than 4 GiB.
@@ -36,7 +38,7 @@ struct ZipEntry {
 
 /// Whether what the entries say about themselves is acceptable. Empty, or why not.
 /// \param archiveBytes size of the archive; \param room bytes that the disk can take
-std::string refusalOf(const std::vector<ZipEntry>& entries, std::uint64_t archiveBytes,
-                      std::uint64_t room);
+Message refusalOf(const std::vector<ZipEntry>& entries, std::uint64_t archiveBytes,
+                  std::uint64_t room);
 
 }  // namespace talvesk

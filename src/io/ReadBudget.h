@@ -1,8 +1,9 @@
 #pragma once
 
+#include "base/Message.h"
+
 #include <cstddef>
 #include <cstdint>
-#include <string>
 
 namespace talvesk {
 
@@ -26,10 +27,12 @@ class ReadBudget {
     return mWithin;
   }
 
-  static std::string refusal(std::uint64_t traces, std::size_t fileBytes) {
-    return "its headers promise " + std::to_string(traces) +
-           " traces of more data than can come from " + std::to_string(fileBytes) +
-           " bytes; the file is damaged or no shot file";
+  static Message refusal(std::uint64_t traces, std::size_t fileBytes) {
+    return Message::tr(
+               "its headers promise %1 traces of more data than can come from %2 bytes; the file "
+               "is damaged or no shot file")
+        .arg(traces)
+        .arg(fileBytes);
   }
 
  private:

@@ -19,33 +19,36 @@ bool sameTime(double a, double b) {
   return std::fabs(a - b) <= kSameTime * std::max(std::fabs(a), std::fabs(b));
 }
 
-std::string milliseconds(double seconds) {
-  return formatDouble(1000.0 * seconds) + " ms";
+Message milliseconds(double seconds) {
+  return Message::tr("%1 ms").arg(1000.0 * seconds);
 }
 
 /// Why the recordings make no pair; empty when they do.
-std::string mismatch(const TraceSet& dx, const TraceSet& sx) {
-  if (dx.empty() || sx.empty()) return "a file holds no traces";
+Message mismatch(const TraceSet& dx, const TraceSet& sx) {
+  if (dx.empty() || sx.empty()) return Message::tr("a file holds no traces");
   if (dx.size() != sx.size()) {
-    return "the DX file has " + std::to_string(dx.size()) + " traces, the SX file " +
-           std::to_string(sx.size());
+    return Message::tr("the DX file has %1 traces, the SX file %2").arg(dx.size()).arg(sx.size());
   }
   for (std::size_t i = 0; i < dx.size(); ++i) {
-    const std::string trace = "trace " + std::to_string(i + 1) + " has ";
     if (!sameTime(dx[i].sampleInterval, sx[i].sampleInterval)) {
-      return trace + "a sample interval of " + milliseconds(dx[i].sampleInterval) +
-             " in the DX file and of " + milliseconds(sx[i].sampleInterval) + " in the SX file";
+      return Message::tr(
+                 "trace %1 has a sample interval of %2 in the DX file and of %3 in the SX file")
+          .arg(i + 1)
+          .arg(milliseconds(dx[i].sampleInterval))
+          .arg(milliseconds(sx[i].sampleInterval));
     }
     if (!sameTime(dx[i].delay, sx[i].delay)) {
-      return trace + "a delay of " + milliseconds(dx[i].delay) + " in the DX file and of " +
-             milliseconds(sx[i].delay) + " in the SX file";
+      return Message::tr("trace %1 has a delay of %2 in the DX file and of %3 in the SX file")
+          .arg(i + 1)
+          .arg(milliseconds(dx[i].delay))
+          .arg(milliseconds(sx[i].delay));
     }
   }
   return {};
 }
 
 /// What differs and does not matter to the subtraction.
-void compare(const TraceSet& dx, const TraceSet& sx, std::vector<std::string>& warnings) {
+void compare(const TraceSet& dx, const TraceSet& sx, std::vector<Message>& warnings) {
   bool receivers = false;
   bool sources = false;
   bool lengths = false;
@@ -54,14 +57,17 @@ void compare(const TraceSet& dx, const TraceSet& sx, std::vector<std::string>& w
     sources = sources || dx[i].sourcePosition != sx[i].sourcePosition;
     lengths = lengths || dx[i].samples.size() != sx[i].samples.size();
   }
-  if (receivers) warnings.emplace_back("DX and SX differ in receiver positions; those of DX count");
-  if (sources) warnings.emplace_back("DX and SX differ in source position; that of DX counts");
-  if (lengths) warnings.emplace_back("DX and SX differ in length; that of DX counts");
+  if (receivers) {
+    warnings.push_back(Message::tr("DX and SX differ in receiver positions; those of DX count"));
+  }
+  if (sources) {
+    warnings.push_back(Message::tr("DX and SX differ in source position; that of DX counts"));
+  }
+  if (lengths) warnings.push_back(Message::tr("DX and SX differ in length; that of DX counts"));
 }
 
-void append(const std::vector<std::string>& warnings, const char* side,
-            std::vector<std::string>& all) {
-  for (const std::string& warning : warnings) all.push_back(side + warning);
+void append(const std::vector<Message>& warnings, const char* side, std::vector<Message>& all) {
+  for (const Message& warning : warnings) all.push_back(joined(side, warning));
 }
 
 }  // namespace
@@ -69,7 +75,8 @@ void append(const std::vector<std::string>& warnings, const char* side,
 Status readSWavePair(const std::string& fileDX, const std::string& fileSX, SegyState& state,
                      SWavePair& pair) {
   if (fileDX == fileSX) {
-    return Status::failure(fileDX + ": DX and SX are the same file; their difference is nothing");
+    return Status::failure(
+        Message::tr("%1: DX and SX are the same file; their difference is nothing").arg(fileDX));
   }
   const SegyState before = state;
   ShotFileData dataDX;
@@ -84,13 +91,14 @@ Status readSWavePair(const std::string& fileDX, const std::string& fileSX, SegyS
   made.fileDX = fileDX;
   made.fileSX = fileSX;
   made.format = dataDX.format;
-  append(dataDX.warnings, "DX: ", made.warnings);
-  append(dataSX.warnings, "SX: ", made.warnings);
+  append(dataDX.warnings, "DX", made.warnings);
+  append(dataSX.warnings, "SX", made.warnings);
   TraceSet dx = traceSetOf(std::move(dataDX));
   TraceSet sx = traceSetOf(std::move(dataSX));
-  if (const std::string why = mismatch(dx, sx); !why.empty()) {
+  if (const Message why = mismatch(dx, sx); !why.empty()) {
     state = before;
-    return Status::failure(fileDX + " and " + fileSX + " are no pair: " + why);
+    return Status::failure(
+        Message::tr("%1 and %2 are no pair: %3").arg(fileDX).arg(fileSX).arg(why));
   }
   compare(dx, sx, made.warnings);
   joinRecordings(dx, sx);

@@ -35,14 +35,16 @@ class BadHeaders {
   void count(bool bad, std::uint64_t trace) {
     if (bad && mCount++ == 0) mFirst = trace;
   }
-  void warn(const std::string& what, ShotFileData& data) const {
+  void warn(const Message& what, ShotFileData& data) const {
     if (mCount == 0) return;
-    const std::string which = mCount == 1
-                                  ? "trace " + std::to_string(mFirst + 1)
-                                  : std::to_string(mCount) + " traces, the first of them trace " +
-                                        std::to_string(mFirst + 1) + ",";
-    data.warnings.push_back("the " + what + " in the header of " + which +
-                            " is no finite number; what cannot be used of it was taken as 0");
+    const Message which =
+        mCount == 1
+            ? Message::tr("trace %1").arg(mFirst + 1)
+            : Message::tr("%1 traces, the first of them trace %2,").arg(mCount).arg(mFirst + 1);
+    data.warnings.push_back(Message::tr("the %1 in the header of %2 is no finite number; what "
+                                        "cannot be used of it was taken as 0")
+                                .arg(what)
+                                .arg(which));
   }
 
  private:
@@ -56,7 +58,7 @@ class Seg2Reader {
 
   Status read(ShotFileData& data) {
     if (mReader.u16(0, kOrder) != kFileBlock) {
-      return Status::failure("it is no SEG-2 file of little-endian numbers");
+      return Status::failure(Message::tr("it is no SEG-2 file of little-endian numbers"));
     }
     const std::uint16_t traces = mReader.u16(kTraceCountAt, kOrder);
     console::out() << "Numero tracce:" << traces << '\n';
@@ -66,12 +68,12 @@ class Seg2Reader {
     mData.traces.resize(traces);
     for (std::uint64_t i = 0; i < traces; ++i) readTrace(pointer(mReader, i), i);
     if (!mHasInterval) {
-      return Status::failure("its last trace has no usable sample interval", 2);
+      return Status::failure(Message::tr("its last trace has no usable sample interval"), 2);
     }
     warnOfFormats();
-    mSources.warn("source position", mData);
-    mReceivers.warn("receiver position", mData);
-    mDelays.warn("delay", mData);
+    mSources.warn(Message::tr("source position"), mData);
+    mReceivers.warn(Message::tr("receiver position"), mData);
+    mDelays.warn(Message::tr("delay"), mData);
     warnOfTraces(mData, mReader.missing(), mNonFinite);
     data = std::move(mData);
     return {};
@@ -144,10 +146,11 @@ class Seg2Reader {
 
   void warnOfFormats() {
     for (const std::uint8_t format : mFormats) {
-      const std::string code = "data format code " + std::to_string(format);
       const bool int16 = format == kInt16 || format == kOtherInt16;
-      mData.warnings.push_back(int16 ? code + ": one 16-bit sample is taken of every four bytes"
-                                     : code + " is not read; its samples are 0");
+      Message text =
+          int16 ? Message::tr("data format code %1: one 16-bit sample is taken of every four bytes")
+                : Message::tr("data format code %1 is not read; its samples are 0");
+      mData.warnings.push_back(std::move(text).arg(format));
     }
   }
 

@@ -63,7 +63,8 @@ class SegyReader {
     // samples taken as floats.
     mSpacing = spacing();
     if (mSpacing != kTraceHeaderBytes + samples() * sizeof(float)) {
-      warn("its traces are taken to lie as close as the 16-bit data of the SEG-Y file before it");
+      warn(Message::tr(
+          "its traces are taken to lie as close as the 16-bit data of the SEG-Y file before it"));
     }
     mState.formatCode = kIeeeFloat;
     return readTraces(0, traces, state, data);
@@ -75,7 +76,7 @@ class SegyReader {
   std::uint64_t spacing() const {
     return kTraceHeaderBytes + samples() * (mState.formatCode == kInt16 ? 2 : 4);
   }
-  void warn(const std::string& text) { mData.warnings.push_back(text); }
+  void warn(const Message& text) { mData.warnings.push_back(text); }
 
   void takeInterval(std::uint16_t microseconds) {
     mState.sampleInterval = microseconds / kMicrosecondsPerMillisecond;
@@ -88,8 +89,8 @@ class SegyReader {
         console::out() << "same endianess\n";
         if (!mState.nativeOrder) {
           warn(
-              "it says that its numbers are little-endian, but is read big-endian as a file before "
-              "it; load the little-endian files first");
+              Message::tr("it says that its numbers are little-endian, but is read big-endian as a "
+                          "file before it; load the little-endian files first"));
         }
         break;
       case 0x04030201:
@@ -120,14 +121,17 @@ class SegyReader {
   void warnOfOtherOrder() {
     const ByteOrder other = mState.nativeOrder ? ByteOrder::kBig : kNative;
     if (fits(order()) || !fits(other)) return;
-    warn("its numbers seem to be in the other byte order; load a SEG-Y file of that order first");
+    warn(Message::tr(
+        "its numbers seem to be in the other byte order; load a SEG-Y file of that order first"));
   }
 
   /// A wrong byte order is the likeliest cause of a promise that cannot be kept.
   Status refusal(std::uint64_t traces) const {
-    std::string message = ReadBudget::refusal(traces, mReader.size());
-    for (const std::string& warning : mData.warnings) message += "; " + warning;
-    return Status::failure(message);
+    Message message = ReadBudget::refusal(traces, mReader.size());
+    for (const Message& warning : mData.warnings) {
+      message = Message::tr("%1; %2").arg(std::move(message)).arg(warning);
+    }
+    return Status::failure(std::move(message));
   }
 
   Status readTraces(std::uint64_t first, std::uint64_t count, SegyState& state,
@@ -192,15 +196,18 @@ class SegyReader {
 
   void warnOfRest(std::uint64_t end) {
     if (end >= mReader.size()) return;
-    warn(std::to_string(mReader.size() - end) +
-         " bytes after the traces that its headers name were not read");
+    warn(Message::tr("%1 bytes after the traces that its headers name were not read")
+             .arg(mReader.size() - end));
   }
 
   void warnOfFormat() {
     const std::int16_t code = mState.formatCode;
     if (mData.traces.empty() || code == kInt32 || code == kInt16 || code == kIeeeFloat) return;
-    warn("data format code " + std::to_string(code) + (code == kIbmFloat ? " (IBM floats)" : "") +
-         " is not read; its samples are 0");
+    Message text =
+        code == kIbmFloat
+            ? Message::tr("data format code %1 (IBM floats) is not read; its samples are 0")
+            : Message::tr("data format code %1 is not read; its samples are 0");
+    warn(std::move(text).arg(code));
   }
 
   ByteReader mReader;

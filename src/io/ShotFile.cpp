@@ -30,14 +30,15 @@ const char* nameOf(Format format) {
   return format == Format::kSegy ? "segy" : "su";
 }
 
-Status failed(const std::string& path, const std::string& reason, int code) {
-  const std::string message = path + ": " + reason;
+Status failed(const std::string& path, Message reason, int code) {
+  Message message = joined(path, std::move(reason));
   console::error() << message << std::endl;
-  return Status::failure(message, code);
+  return Status::failure(std::move(message), code);
 }
 
 Status unknownFormat(const std::string& path) {
-  return failed(path, "its suffix is none of seg2, dat, sg2, sgy, segy, su", kUnknownSuffix);
+  return failed(path, Message::tr("its suffix is none of seg2, dat, sg2, sgy, segy, su"),
+                kUnknownSuffix);
 }
 
 Status readAs(Format format, std::string_view bytes, SegyState& state, ShotFileData& data) {
@@ -48,7 +49,7 @@ Status readAs(Format format, std::string_view bytes, SegyState& state, ShotFileD
 Status parse(Format format, std::string_view bytes, const std::string& path, SegyState& state,
              ShotFileData& data) {
   if (const Status read = readAs(format, bytes, state, data); !read.ok()) {
-    return failed(path, read.message(), read.code());
+    return failed(path, read.text(), read.code());
   }
   for (const std::string& warning : data.warnings) {
     console::error() << "Warning: " << path << ": " << warning << '\n';
@@ -81,9 +82,9 @@ Status readShotFile(const std::string& path, SegyState& state, ShotFileData& dat
   announce(format, path);
   std::string bytes;
   if (const Status opened = readWholeFile(path, bytes); !opened.ok()) {
-    const std::string message = "Error while loading " + path;
+    Message message = Message::tr("Error while loading %1").arg(path);
     console::error() << message << std::endl;
-    return Status::failure(message + ". " + opened.message());
+    return Status::failure(Message::tr("%1. %2").arg(std::move(message)).arg(opened.text()));
   }
   return parse(format, bytes, path, state, data);
 }

@@ -33,13 +33,13 @@ std::vector<Point2D> positionsOf(const Traces& traces, PositionOf positionOf) {
 
 Status checkTakesShots(const TomoDocument& document) {
   if (document.waveType == WaveType::S && !document.traceSets.empty()) {
-    return Status::failure(
+    return Status::failure(Message::tr(
         "the survey holds S-wave pairs; add more of them in the survey geometry, or start a new "
-        "survey to load shot files");
+        "survey to load shot files"));
   }
   if (document.ttArray.size() == document.traceSets.size()) return {};
   return Status::failure(
-      "the survey holds picks without traces; start a new survey to load shot files");
+      Message::tr("the survey holds picks without traces; start a new survey to load shot files"));
 }
 
 void add(const std::string& path, ShotFileData data, TomoDocument& document) {

@@ -14,9 +14,9 @@ namespace talvesk {
 /// What became of one shot file.
 struct ShotFileOutcome {
   std::string path;
-  Status status;                      ///< as of readShotFile
-  std::string format;                 ///< "seg2", "segy", "su"; empty after a failure
-  std::vector<std::string> warnings;  ///< without the path
+  Status status;                  ///< as of readShotFile
+  std::string format;             ///< "seg2", "segy", "su"; empty after a failure
+  std::vector<Message> warnings;  ///< without the path
 };
 
 /// A shot file that was read, and that is in no document yet.

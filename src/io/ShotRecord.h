@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "base/Point2D.h"
 
 #include <string>
@@ -18,9 +19,9 @@ struct ShotRecord {
 
 /// What a shot file holds.
 struct ShotFileData {
-  std::string format;                 ///< "seg2", "segy" or "su"
-  std::vector<ShotRecord> traces;     ///< in channel order; may be empty
-  std::vector<std::string> warnings;  ///< what was repaired, ignored or looks odd, without the path
+  std::string format;              ///< "seg2", "segy" or "su"
+  std::vector<ShotRecord> traces;  ///< in channel order; may be empty
+  std::vector<Message> warnings;   ///< what was repaired, ignored or looks odd, without the path
 };
 
 }  // namespace talvesk

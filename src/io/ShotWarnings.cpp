@@ -19,15 +19,16 @@ std::size_t zeroNonFinite(std::vector<double>& samples) {
 void warnOfTraces(ShotFileData& data, std::uint64_t missingBytes, std::uint64_t nonFinite) {
   const auto& traces = data.traces;
   if (traces.empty()) {
-    data.warnings.emplace_back("the file holds no trace");
+    data.warnings.push_back(Message::tr("the file holds no trace"));
   }
   if (missingBytes > 0) {
-    data.warnings.push_back("the file is cut short: " + std::to_string(missingBytes) +
-                            " bytes that its headers promise are missing and were taken as zeros");
+    data.warnings.push_back(Message::tr("the file is cut short: %1 bytes that its headers promise "
+                                        "are missing and were taken as zeros")
+                                .arg(missingBytes));
   }
   if (nonFinite > 0) {
-    data.warnings.push_back(std::to_string(nonFinite) +
-                            " samples that are no finite numbers were set to 0");
+    data.warnings.push_back(
+        Message::tr("%1 samples that are no finite numbers were set to 0").arg(nonFinite));
   }
   const auto differs = [&traces](auto value) {
     return std::any_of(traces.begin(), traces.end(), [&](const ShotRecord& trace) {
@@ -35,14 +36,15 @@ void warnOfTraces(ShotFileData& data, std::uint64_t missingBytes, std::uint64_t 
     });
   };
   if (differs([](const ShotRecord& trace) { return trace.samples.size(); })) {
-    data.warnings.emplace_back("its traces have different numbers of samples");
+    data.warnings.push_back(Message::tr("its traces have different numbers of samples"));
   }
   if (differs([](const ShotRecord& trace) { return trace.sampleInterval; })) {
-    data.warnings.emplace_back("its traces have different sample intervals");
+    data.warnings.push_back(Message::tr("its traces have different sample intervals"));
   }
   if (std::any_of(traces.begin(), traces.end(),
                   [](const ShotRecord& trace) { return !(trace.sampleInterval > 0.0); })) {
-    data.warnings.emplace_back("a sample interval is not positive, so that times mean nothing");
+    data.warnings.push_back(
+        Message::tr("a sample interval is not positive, so that times mean nothing"));
   }
 }
 

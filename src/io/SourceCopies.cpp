@@ -53,13 +53,16 @@ SourceCopies copySources(const std::vector<const std::vector<std::string>*>& lis
       const std::string target = folder + name;
       if (isMember(name) || !isEntryName(name) || !copyOver(source, target)) {
         console::logError("Error while saving " + source);
-        copies.warnings.push_back("The shot file " + source +
-                                  " could not be copied; its traces are saved without it.");
+        copies.warnings.push_back(
+            Message::tr("The shot file %1 could not be copied; its traces are saved without it.")
+                .arg(source));
         continue;
       }
       if (known != sourceOf.end()) {
-        copies.warnings.push_back("Of the shot files " + known->second + " and " + source +
-                                  " only the second is in the project; the traces of both are.");
+        copies.warnings.push_back(Message::tr("Of the shot files %1 and %2 only the second is in "
+                                              "the project; the traces of both are.")
+                                      .arg(known->second)
+                                      .arg(source));
       } else {
         copies.files.push_back(target);
       }
@@ -79,7 +82,7 @@ std::vector<bool> setsWithoutFile(const TomoDocument& document, const std::strin
     if (names.none()) continue;
     SegyState after = state;
     TraceSet read;
-    std::string why;
+    Message why;
     if (!readSetFiles(folder, names, after, read, why)) continue;
     if (!sameSamples(document.traceSets[set], read)) continue;
     without[set] = false;

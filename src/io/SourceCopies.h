@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "model/TomoDocument.h"
 
 #include <string>
@@ -9,8 +10,8 @@ namespace talvesk {
 
 /// What became of the shot files of a survey that was to be saved.
 struct SourceCopies {
-  std::vector<std::string> files;     ///< the copies, each once
-  std::vector<std::string> warnings;  ///< files that could not be copied, or share a name
+  std::vector<std::string> files;  ///< the copies, each once
+  std::vector<Message> warnings;   ///< files that could not be copied, or share a name
 };
 
 /// Copies every shot file that has a name into a folder (ending in "/"), flat. Of files with one

@@ -32,9 +32,10 @@ Format formatOf(std::string_view path) {
 }
 
 Status unknownFormat(const std::string& path) {
-  const std::string message = "Invalid input TT file : " + path;
-  console::error() << message << std::endl;
-  return Status::failure(message + " (its suffix is none of .otte, .txt, .xyz, .csv)");
+  console::error() << "Invalid input TT file : " << path << std::endl;
+  return Status::failure(
+      Message::tr("Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)")
+          .arg(path));
 }
 
 std::optional<Refusal> readOtteAndTellVersion(std::string_view bytes, TravelTimeData& data) {
@@ -63,15 +64,16 @@ Status checkPositions(const TomoDocument& document) {
   for (std::size_t s = 0; s < document.goephonesStringSet.size(); ++s) {
     for (const Point2D& geophone : document.goephonesStringSet[s]) {
       if (!isFinite(geophone)) {
-        return Status::failure("a geophone of string " + std::to_string(s + 1) +
-                               " has no finite position; edit the geometry first");
+        return Status::failure(
+            Message::tr("a geophone of string %1 has no finite position; edit the geometry first")
+                .arg(s + 1));
       }
     }
   }
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     if (!isFinite(document.ttArray[i].shotPos2d)) {
-      return Status::failure("shot " + std::to_string(i + 1) +
-                             " has no finite position; edit the geometry first");
+      return Status::failure(
+          Message::tr("shot %1 has no finite position; edit the geometry first").arg(i + 1));
     }
   }
   return {};
@@ -84,7 +86,7 @@ void warnOfWhatIsLost(const std::string& path, const std::string& text,
   TravelTimeData restored;
   const auto refusal = readOtte(text, version, restored);
   std::string loss;
-  if (refusal) loss = "it cannot be read back: " + refusal->reason;
+  if (refusal) loss = "it cannot be read back: " + refusal->reason.english();
   for (std::size_t i = 0; loss.empty() && i < restored.strings.size(); ++i) {
     if (restored.strings[i].size() != document.goephonesStringSet[i].size()) {
       loss =
@@ -105,11 +107,11 @@ Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelT
   if (format == Format::kNone) return unknownFormat(path);
   TravelTimeData read;
   if (const auto refusal = readAs(format, bytes, read)) {
-    const std::string message =
-        path + ", line " + std::to_string(refusal->line) + ": " + refusal->reason;
+    Message message =
+        Message::tr("%1, line %2: %3").arg(path).arg(refusal->line).arg(refusal->reason);
     const bool ownText = !refusal->consoleText.empty();
-    console::error() << (ownText ? refusal->consoleText : message) << std::endl;
-    return Status::failure(message);
+    console::error() << (ownText ? refusal->consoleText : message.english()) << std::endl;
+    return Status::failure(std::move(message));
   }
   for (const std::string& warning : read.warnings) {
     console::error() << "Warning: " << path << ": " << warning << std::endl;
@@ -122,9 +124,9 @@ Status readTravelTimes(const std::string& path, TravelTimeData& data) {
   if (formatOf(path) == Format::kNone) return unknownFormat(path);
   std::string bytes;
   if (const Status opened = readWholeFile(path, bytes, kLargestFile); !opened.ok()) {
-    const std::string message = "File " + path + " cannot be open.";
+    Message message = Message::tr("File %1 cannot be open.").arg(path);
     console::error() << message << std::endl;
-    return Status::failure(message + " " + opened.message());
+    return Status::failure(Message::tr("%1 %2").arg(std::move(message)).arg(opened.text()));
   }
   return parseTravelTimes(bytes, path, data);
 }
@@ -135,16 +137,16 @@ Status loadTravelTimes(const std::string& path, TomoDocument& document) {
   fitToRecords(data, document);
   Status imported = importTravelTimes(std::move(data), document);
   if (imported.ok()) return imported;
-  const std::string message = path + ": " + imported.message();
+  Message message = joined(path, imported.text());
   console::error() << message << std::endl;
-  return Status::failure(message);
+  return Status::failure(std::move(message));
 }
 
 Status writeTravelTimes(const std::string& path, const TomoDocument& document) {
   if (const Status positions = checkPositions(document); !positions.ok()) {
-    const std::string message = "Cannot write " + path + ": " + positions.message();
+    Message message = Message::tr("Cannot write %1: %2").arg(path).arg(positions.text());
     console::error() << message << std::endl;
-    return Status::failure(message);
+    return Status::failure(std::move(message));
   }
   const std::string text = formatOtte(document);
   warnOfWhatIsLost(path, text, document);

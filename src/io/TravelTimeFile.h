@@ -17,7 +17,7 @@ struct TravelTimeData {
   std::string format;  ///< "otte", "txt", "xyz" or "csv"
   std::vector<std::vector<Point2D>> strings;
   std::vector<TravelTime> records;
-  std::vector<std::string> warnings;  ///< what was repaired or ignored while reading
+  std::vector<Message> warnings;  ///< what was repaired or ignored while reading
 };
 
 /// Whether the suffix of a path is one of a travel-time file.

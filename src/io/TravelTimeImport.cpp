@@ -15,8 +15,9 @@ Status checkStrings(const TravelTimeData& data) {
   for (const TravelTime& record : data.records) {
     if (record.indexStesa < 0 ||
         static_cast<std::size_t>(record.indexStesa) >= data.strings.size()) {
-      return Status::failure("a record names geophone string " + std::to_string(record.indexStesa) +
-                             " of " + std::to_string(data.strings.size()));
+      return Status::failure(Message::tr("a record names geophone string %1 of %2")
+                                 .arg(record.indexStesa)
+                                 .arg(data.strings.size()));
     }
   }
   return {};
@@ -27,29 +28,33 @@ Status matchRecords(TravelTimeData& data, const TomoDocument& document,
                     std::vector<TravelTime*>& matches) {
   const std::size_t shots = document.traceSets.size();
   if (data.records.size() != shots || document.ttArray.size() != shots) {
-    return Status::failure("the file holds picks of " + std::to_string(data.records.size()) +
-                           " shots, the survey has " + std::to_string(shots) +
-                           "; the picks were not taken");
+    return Status::failure(
+        Message::tr("the file holds picks of %1 shots, the survey has %2; the picks were not taken")
+            .arg(data.records.size())
+            .arg(shots));
   }
   std::vector<TravelTime*> bySet(shots, nullptr);
   for (TravelTime& record : data.records) {
     const auto set = static_cast<std::size_t>(record.traceSetID);
     if (record.traceSetID < 0 || set >= shots || bySet[set] != nullptr) {
-      return Status::failure("trace set " + std::to_string(record.traceSetID) +
-                             " is named twice or not in the survey; the picks were not taken");
+      return Status::failure(
+          Message::tr("trace set %1 is named twice or not in the survey; the picks were not taken")
+              .arg(record.traceSetID));
     }
     if (record.ttMisurati.size() != document.traceSets[set].size()) {
-      return Status::failure("the file holds " + std::to_string(record.ttMisurati.size()) +
-                             " times for trace set " + std::to_string(set) + ", which has " +
-                             std::to_string(document.traceSets[set].size()) +
-                             " traces; the picks were not taken");
+      return Status::failure(Message::tr("the file holds %1 times for trace set %2, which has %3 "
+                                         "traces; the picks were not taken")
+                                 .arg(record.ttMisurati.size())
+                                 .arg(set)
+                                 .arg(document.traceSets[set].size()));
     }
     bySet[set] = &record;
   }
   for (const TravelTime& record : document.ttArray) {
     const auto set = static_cast<std::size_t>(record.traceSetID);
     if (record.traceSetID < 0 || set >= shots) {
-      return Status::failure("a record of the survey has no trace set; the picks were not taken");
+      return Status::failure(
+          Message::tr("a record of the survey has no trace set; the picks were not taken"));
     }
     matches.push_back(bySet[set]);
   }
@@ -140,7 +145,7 @@ void replaceRecords(std::vector<TravelTime> records, TomoDocument& document) {
 }  // namespace
 
 void fitToRecords(TravelTimeData& data, const TomoDocument& document) {
-  const std::string dropped = dropImpossiblePicks(data.records, document.traceSets);
+  const Message dropped = dropImpossiblePicks(data.records, document.traceSets);
   if (!dropped.empty()) data.warnings.push_back(dropped);
 }
 

@@ -47,7 +47,7 @@ class TxCurveReader : private PickReader {
     std::string_view line;
     std::string_view word;
     do {
-      if (!mText.nextLine(line)) return refuse("the line \"INFO\" is missing");
+      if (!mText.nextLine(line)) return refuse(Message::tr("the line \"INFO\" is missing"));
       word = {};
       TextCursor(line).nextWord(word);
     } while (word != "INFO");
@@ -63,30 +63,35 @@ class TxCurveReader : private PickReader {
     mText.nextLine(line);
     TextCursor(line).nextWord(word);
     if (word == keyword) return true;
-    return refuse("the line begins with " + quoted(word) + " where " + quoted(keyword) +
-                  " must stand");
+    return refuse(Message::tr("the line begins with %1 where %2 must stand")
+                      .arg(quoted(word))
+                      .arg(quoted(keyword)));
   }
 
   /// The rest of the next line that is not blank and must begin with the keyword.
   bool readKeyword(std::string_view keyword, TextCursor& rest, std::string_view& second) {
     std::string_view line;
     mText.skipToText();
-    if (!mText.nextLine(line)) return refuse("the line " + quoted(keyword) + " is missing");
+    if (!mText.nextLine(line)) {
+      return refuse(Message::tr("the line %1 is missing").arg(quoted(keyword)));
+    }
     rest = TextCursor(line);
     std::string_view word;
     rest.nextWord(word);
     if (word != keyword) {
-      return refuse("the line begins with " + quoted(word) + " where " + quoted(keyword) +
-                    " must stand");
+      return refuse(Message::tr("the line begins with %1 where %2 must stand")
+                        .arg(quoted(word))
+                        .arg(quoted(keyword)));
     }
-    return rest.nextWord(second) || refuse(quoted(keyword) + " stands without a value");
+    return rest.nextWord(second) ||
+           refuse(Message::tr("%1 stands without a value").arg(quoted(keyword)));
   }
 
   bool readCount(std::string_view keyword, int& count) {
     TextCursor rest({});
     std::string_view word;
     if (!readKeyword(keyword, rest, word) || !readWholeInt(keyword, word, count)) return false;
-    return count >= 0 || refuse("the " + std::string(keyword) + " is negative");
+    return count >= 0 || refuse(Message::tr("the %1 is negative").arg(std::string(keyword)));
   }
 
   bool readShots() {
@@ -132,7 +137,9 @@ class TxCurveReader : private PickReader {
 
   bool readReceiver(std::vector<Point2D>& geophones, std::vector<double>& times) {
     std::string_view line;
-    if (!mText.nextLine(line)) return refuse("the file ends before its last receiver line");
+    if (!mText.nextLine(line)) {
+      return refuse(Message::tr("the file ends before its last receiver line"));
+    }
     constexpr std::size_t kValues = 4;
     const char* const names[kValues] = {"receiver number", "receiver distance",
                                         "receiver elevation", "first-break time"};
@@ -141,11 +148,14 @@ class TxCurveReader : private PickReader {
     std::string_view word;
     for (std::size_t i = 0; i < kValues; ++i) {
       if (!rest.nextWord(word)) {
-        return refuse("the receiver line holds " + counted(i, "value") + " instead of 4");
+        return refuse(
+            Message::tr("the receiver line holds %1 instead of 4").arg(counted(i, "value")));
       }
       if (!readNumber(names[i], word, values[i])) return false;
     }
-    if (rest.nextWord(word)) return refuse("the receiver line holds more than 4 values");
+    if (rest.nextWord(word)) {
+      return refuse(Message::tr("the receiver line holds more than 4 values"));
+    }
     geophones.push_back({values[1], mWithElevations ? values[2] : 0.0});
     times.push_back(values[3] / kMillisecondsPerSecond);
     return true;

@@ -46,7 +46,7 @@ XmlReader::XmlReader(std::istream& stream, std::string_view root) : mStream(stre
   }
   openElement();
   if (name() != root) {
-    throw XmlError("the root element is not \"" + std::string(root) + "\"");
+    throw XmlError(Message::tr("the root element is not \"%1\"").arg(std::string(root)));
   }
 }
 
@@ -61,8 +61,8 @@ int XmlReader::refill() {
 void XmlReader::expect(char c) {
   const int got = take();
   if (got == static_cast<unsigned char>(c)) return;
-  if (got == kEnd) throw XmlError("the document ends too early");
-  throw XmlError(std::string("a '") + c + "' is missing");
+  if (got == kEnd) throw XmlError(Message::tr("the document ends too early"));
+  throw XmlError(Message::tr("a '%1' is missing").arg(std::string(1, c)));
 }
 
 void XmlReader::expectWord(std::string_view word) {
@@ -79,7 +79,7 @@ void XmlReader::skipUntil(std::string_view end) {
   std::string last;
   while (last != end) {
     const int c = take();
-    if (c == kEnd) throw XmlError("the document ends too early");
+    if (c == kEnd) throw XmlError(Message::tr("the document ends too early"));
     if (last.size() == end.size()) last.erase(0, 1);
     last += static_cast<char>(c);
   }
@@ -92,7 +92,7 @@ bool XmlReader::skipMarkup() {
   }
   if (peek() != '!') return false;
   ++mAt;
-  if (peek() != '-') throw XmlError("it declares a document type or a data section");
+  if (peek() != '-') throw XmlError(Message::tr("it declares a document type or a data section"));
   expectWord("--");
   skipUntil("-->");
   return true;
@@ -101,10 +101,10 @@ bool XmlReader::skipMarkup() {
 void XmlReader::readName(std::string& name) {
   name.clear();
   while (belongsToName(peek())) {
-    if (name.size() == kLongestName) throw XmlError("an element has too long a name");
+    if (name.size() == kLongestName) throw XmlError(Message::tr("an element has too long a name"));
     name += static_cast<char>(take());
   }
-  if (name.empty()) throw XmlError("an element has no name");
+  if (name.empty()) throw XmlError(Message::tr("an element has no name"));
 }
 
 void XmlReader::readAttributes() {
@@ -117,15 +117,15 @@ void XmlReader::readAttributes() {
     expect('=');
     skipBlanks();
     const int quote = take();
-    if (quote != '"' && quote != '\'') throw XmlError("an attribute has no quotes");
+    if (quote != '"' && quote != '\'') throw XmlError(Message::tr("an attribute has no quotes"));
     for (int inner = take(); inner != quote; inner = take()) {
-      if (inner == kEnd || inner == '<') throw XmlError("an attribute does not end");
+      if (inner == kEnd || inner == '<') throw XmlError(Message::tr("an attribute does not end"));
     }
   }
 }
 
 void XmlReader::openElement() {
-  if (mOpen == kMostLevels) throw XmlError("its elements are nested too deep");
+  if (mOpen == kMostLevels) throw XmlError(Message::tr("its elements are nested too deep"));
   readName(mNames[mOpen]);
   readAttributes();
   mSelfClosed = peek() == '/';
@@ -139,7 +139,8 @@ void XmlReader::closeElement() {
   skipBlanks();
   expect('>');
   if (mEndName != name()) {
-    throw XmlError("\"" + mEndName + "\" ends where \"" + std::string(name()) + "\" should");
+    throw XmlError(
+        Message::tr("\"%1\" ends where \"%2\" should").arg(mEndName).arg(std::string(name())));
   }
   leave();
 }
@@ -150,7 +151,7 @@ void XmlReader::leave() {
   if (mOpen > 0) return;
   for (skipBlanks(); peek() != kEnd; skipBlanks()) {
     expect('<');
-    if (!skipMarkup()) throw XmlError("something follows the root element");
+    if (!skipMarkup()) throw XmlError(Message::tr("something follows the root element"));
   }
 }
 
@@ -166,7 +167,8 @@ bool XmlReader::nextChild() {
   for (;;) {
     skipBlanks();
     if (peek() != '<' && peek() != kEnd) {
-      throw XmlError("there is text in \"" + std::string(name()) + "\", which holds elements");
+      throw XmlError(
+          Message::tr("there is text in \"%1\", which holds elements").arg(std::string(name())));
     }
     expect('<');
     if (peek() == '/') {
@@ -183,7 +185,7 @@ bool XmlReader::nextChild() {
 char32_t XmlReader::entity() {
   std::string word;
   for (int c = take(); c != ';'; c = take()) {
-    if (c == kEnd || word.size() > 8) throw XmlError("an entity does not end");
+    if (c == kEnd || word.size() > 8) throw XmlError(Message::tr("an entity does not end"));
     word += static_cast<char>(c);
   }
   if (word == "lt") return '<';
@@ -193,17 +195,21 @@ char32_t XmlReader::entity() {
   if (word == "apos") return '\'';
   const bool isHex = word.size() > 1 && word[1] == 'x';
   char32_t code = 0;
-  if (word.size() < 2 + (isHex ? 1U : 0U) || word[0] != '#') throw XmlError("an unknown entity");
+  if (word.size() < 2 + (isHex ? 1U : 0U) || word[0] != '#') {
+    throw XmlError(Message::tr("an unknown entity"));
+  }
   for (const char c : std::string_view(word).substr(isHex ? 2 : 1)) {
     const bool digit = c >= '0' && c <= '9';
     const char lower = static_cast<char>(c | 0x20);
-    if (!digit && !(isHex && lower >= 'a' && lower <= 'f')) throw XmlError("an unknown entity");
+    if (!digit && !(isHex && lower >= 'a' && lower <= 'f')) {
+      throw XmlError(Message::tr("an unknown entity"));
+    }
     const auto value = static_cast<char32_t>(digit ? c - '0' : lower - 'a' + 10);
     code = code * (isHex ? 16 : 10) + value;
-    if (code > 0x10FFFF) throw XmlError("a character that does not exist");
+    if (code > 0x10FFFF) throw XmlError(Message::tr("a character that does not exist"));
   }
   if (code == 0 || (code >= 0xD800 && code < 0xE000)) {
-    throw XmlError("a character that does not exist");
+    throw XmlError(Message::tr("a character that does not exist"));
   }
   return code;
 }
@@ -216,18 +222,19 @@ std::string_view XmlReader::text() {
   }
   for (;;) {
     int c = take();
-    if (c == kEnd) throw XmlError("the document ends too early");
-    if (c == 0) throw XmlError("a byte of value 0");
+    if (c == kEnd) throw XmlError(Message::tr("the document ends too early"));
+    if (c == 0) throw XmlError(Message::tr("a byte of value 0"));
     if (c == '<') {
       if (peek() != '/') {
         if (skipMarkup()) continue;
-        throw XmlError("there is an element in \"" + std::string(name()) + "\", which holds text");
+        throw XmlError(Message::tr("there is an element in \"%1\", which holds text")
+                           .arg(std::string(name())));
       }
       ++mAt;
       closeElement();
       return mText;
     }
-    if (mText.size() >= kLongestText) throw XmlError("a text is too long");
+    if (mText.size() >= kLongestText) throw XmlError(Message::tr("a text is too long"));
     if (c == '&') {
       appendUtf8(mText, entity());
     } else {
@@ -243,7 +250,7 @@ bool XmlReader::holdsText() {
 }
 
 void XmlReader::countSequence() {
-  if (++mSequences > kMostSequences) throw XmlError("it holds too many sequences");
+  if (++mSequences > kMostSequences) throw XmlError(Message::tr("it holds too many sequences"));
 }
 
 void XmlReader::skip() {
@@ -254,7 +261,7 @@ void XmlReader::skip() {
   }
   while (mOpen > outside) {
     const int c = take();
-    if (c == kEnd) throw XmlError("the document ends too early");
+    if (c == kEnd) throw XmlError(Message::tr("the document ends too early"));
     if (c != '<') continue;
     if (peek() == '/') {
       ++mAt;

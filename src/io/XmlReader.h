@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Message.h"
+
 #include <array>
 #include <cstddef>
 #include <iosfwd>
@@ -12,7 +14,8 @@ namespace talvesk {
 
 /// What is wrong with an XML document or with a value in it. Does not leave the room.
 struct XmlError : std::runtime_error {
-  using std::runtime_error::runtime_error;
+  explicit XmlError(const Message& why) : std::runtime_error(why.english()), reason(why) {}
+  Message reason;
 };
 
 /// Walks through an XML document as it comes from a stream, with memory for one value at a time.

@@ -17,21 +17,23 @@ class Walk {
  public:
   Walk(std::string_view xml, std::size_t mostLevels) : mRest(xml), mMostLevels(mostLevels) {}
 
-  /// What is wrong with the document; null for nothing.
-  const char* fault() {
-    if (mRest.find('\0') != std::string_view::npos) return "it holds bytes that no text holds";
+  /// What is wrong with the document; empty: nothing.
+  Message fault() {
+    if (mRest.find('\0') != std::string_view::npos) {
+      return Message::tr("it holds bytes that no text holds");
+    }
     bool any = false;
     while (nextMarkup()) {
-      if (const char* found = markup()) return found;
+      if (Message found = markup(); !found.empty()) return found;
       any = true;
     }
-    if (!any) return "it holds no XML";
-    return mLevel == 0 ? nullptr : kCutShort;
+    if (!any) return Message::tr("it holds no XML");
+    return mLevel == 0 ? Message() : cutShort();
   }
 
  private:
-  static constexpr const char* kCutShort = "it ends within an element";
-  static constexpr const char* kMalformed = "it has a malformed tag";
+  static Message cutShort() { return Message::tr("it ends within an element"); }
+  static Message malformed() { return Message::tr("it has a malformed tag"); }
 
   bool nextMarkup() {
     const std::size_t at = mRest.find('<');
@@ -45,11 +47,11 @@ class Walk {
     return true;
   }
 
-  const char* takeUntil(std::string_view end) {
+  Message takeUntil(std::string_view end) {
     const std::size_t at = mRest.find(end);
-    if (at == std::string_view::npos) return kCutShort;
+    if (at == std::string_view::npos) return cutShort();
     mRest.remove_prefix(at + end.size());
-    return nullptr;
+    return {};
   }
 
   void skipBlanks() {
@@ -63,36 +65,38 @@ class Walk {
     return length > 0;
   }
 
-  const char* markup() {
+  Message markup() {
     if (take("<!--")) return takeUntil("-->");
     if (take("<?")) return takeUntil("?>");
-    if (take("<!")) return "it has a document type or raw data, which no file of this kind has";
+    if (take("<!")) {
+      return Message::tr("it has a document type or raw data, which no file of this kind has");
+    }
     if (take("</")) return closingTag();
     take("<");
     return openingTag();
   }
 
-  const char* closingTag() {
-    if (!takeName()) return kMalformed;
+  Message closingTag() {
+    if (!takeName()) return malformed();
     skipBlanks();
-    if (!take(">")) return kMalformed;
-    if (mLevel == 0) return "it closes an element that it has not opened";
+    if (!take(">")) return malformed();
+    if (mLevel == 0) return Message::tr("it closes an element that it has not opened");
     --mLevel;
-    return nullptr;
+    return {};
   }
 
-  const char* openingTag() {
-    if (!takeName()) return kMalformed;
+  Message openingTag() {
+    if (!takeName()) return malformed();
     for (;;) {
       skipBlanks();
       // Where a parser enters an element that is empty it is as deep as in any other.
-      if (mLevel == mMostLevels) return "its elements are nested too deeply";
-      if (take("/>")) return nullptr;
+      if (mLevel == mMostLevels) return Message::tr("its elements are nested too deeply");
+      if (take("/>")) return {};
       if (take(">")) {
         ++mLevel;
-        return nullptr;
+        return {};
       }
-      if (!takeAttribute()) return kMalformed;
+      if (!takeAttribute()) return malformed();
     }
   }
 
@@ -106,7 +110,7 @@ class Walk {
     mRest.remove_prefix(1);
     const std::size_t end = mRest.find(quote);
     if (mRest.substr(0, end).find('<') != std::string_view::npos) return false;
-    return takeUntil(quote) == nullptr;
+    return takeUntil(quote).empty();
   }
 
   std::string_view mRest;
@@ -117,8 +121,9 @@ class Walk {
 }  // namespace
 
 Status checkXmlShape(std::string_view xml, const std::string& name, std::size_t mostLevels) {
-  const char* fault = Walk(xml, mostLevels).fault();
-  return fault == nullptr ? Status() : Status::failure(name + " cannot be read: " + fault);
+  const Message fault = Walk(xml, mostLevels).fault();
+  return fault.empty() ? Status()
+                       : Status::failure(Message::tr("%1 cannot be read: %2").arg(name).arg(fault));
 }
 
 }  // namespace talvesk

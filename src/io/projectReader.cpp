@@ -17,19 +17,21 @@ namespace talvesk {
 namespace {
 
 /// Why the file cannot even be opened; empty when it can.
-std::string whyClosed(const std::string& path) {
+Message whyClosed(const std::string& path) {
   std::error_code error;
-  if (!std::filesystem::exists(path, error)) return "There is no such file.";
-  if (!std::filesystem::is_regular_file(path, error)) return "It is not a regular file.";
-  if (::access(path.c_str(), R_OK) != 0) return "You may not read it.";
+  if (!std::filesystem::exists(path, error)) return Message::tr("There is no such file.");
+  if (!std::filesystem::is_regular_file(path, error)) {
+    return Message::tr("It is not a regular file.");
+  }
+  if (::access(path.c_str(), R_OK) != 0) return Message::tr("You may not read it.");
   return {};
 }
 
 }  // namespace
 
-int projectReader::fail(const std::string& message) {
+int projectReader::fail(const Message& reason) {
   mError = true;
-  if (mMessage.empty()) mMessage = message;  // the first reason is the one that matters
+  if (mReason.empty()) mReason = reason;  // the first reason is the one that matters
   return 1;
 }
 
@@ -41,39 +43,40 @@ bool projectReader::step(int result, void (projectReader::*done)(),
 }
 
 int projectReader::read_ZIP(const std::string& archive, const std::string& folder) {
-  std::string why;
+  Message why;
   if (readZip(archive, folder, why) == 0) return 0;
-  const std::string closed = whyClosed(archive);
-  return fail(closed.empty() ? "It cannot be extracted: " + why + "." : closed);
+  const Message closed = whyClosed(archive);
+  return fail(closed.empty() ? Message::tr("It cannot be extracted: %1.").arg(std::move(why))
+                             : closed);
 }
 
 int projectReader::readTomoDocument_XML(const std::string& path, SurveyMember& survey) {
-  std::string why;
+  Message why;
   if (readSurvey(path, survey, why) != 0) return fail(why);
   const Status status = checkSurvey(survey, mRepairs);
-  return status.ok() ? 0 : fail(std::string(kSurveyMember) + ": " + status.message());
+  return status.ok() ? 0 : fail(joined(kSurveyMember, status.text()));
 }
 
 int projectReader::readTomoDocumentGrid_XML(const std::string& path, SurveyMember& survey) {
-  std::string why;
+  Message why;
   GridMember grid;
   if (readGrid(path, grid, why) != 0) return fail(why);
   const Status status = installGrid(std::move(grid), survey, mRepairs);
-  return status.ok() ? 0 : fail(std::string(kGridMember) + ": " + status.message());
+  return status.ok() ? 0 : fail(joined(kGridMember, status.text()));
 }
 
 int projectReader::readTomoDocumentTraces_XML(const std::string& path, TomoDocument& document) {
-  std::string why;
+  Message why;
   TracesMember traces;
   if (readTraces(path, traces, why) != 0) return fail(why);
   const std::string folder = path.substr(0, path.size() - bareName(path).size());
   const Status status =
       installTraces(std::move(traces), folder, document, mShotFiles, mWarnings, mRepairs);
-  return status.ok() ? 0 : fail(std::string(kTracesMember) + ": " + status.message());
+  return status.ok() ? 0 : fail(joined(kTracesMember, status.text()));
 }
 
 int projectReader::readPalettes_XML(const std::string& path, ColorPaletteList& palettes) {
-  std::string why;
+  Message why;
   return readPalettes(path, palettes, mRepairs, why) == 0 ? 0 : fail(why);
 }
 
@@ -81,12 +84,12 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
                                       refractionDataStructure::Interpretation& interpretation) {
   std::error_code error;
   if (!std::filesystem::exists(path, error)) return 0;  // projects of earlier versions
-  std::string why;
+  Message why;
   if (readRefraction(path, interpretation, why) != 0) return fail(why);
   const std::size_t left =
       leaveOutImplausible(interpretation.refractData, lineLength(shotArrivals(document)));
   const Status status = checkInterpretation(document, interpretation, mRepairs);
-  if (!status.ok()) return fail(std::string(kRefractionMember) + ": " + status.message());
+  if (!status.ok()) return fail(joined(kRefractionMember, status.text()));
   if (left > 0) {
     mWarnings.push_back(std::string(kRefractionMember) + ": " + std::to_string(left) +
                         " velocities and depths of the layers are left out: outside 50 to 12 000 "
@@ -98,14 +101,16 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
 int projectReader::readResult_XML(const std::string& path, TomoDocument& document) {
   std::error_code error;
   if (!std::filesystem::exists(path, error)) return 0;  // nothing inverted, or an earlier version
-  std::string why;
+  Message why;
   ResultMember result;
   if (readResult(path, result, why) == 0) {
     const Status status = installResult(std::move(result), document);
     if (status.ok()) return 0;
-    why = std::string(kResultMember) + ": " + status.message();
+    why = joined(kResultMember, status.text());
   }
-  mWarnings.push_back(why + "; the coverage of the last inversion and its figures are not known");
+  mWarnings.push_back(
+      Message::tr("%1; the coverage of the last inversion and its figures are not known")
+          .arg(std::move(why)));
   return 1;
 }
 
@@ -140,12 +145,12 @@ int projectReader::loadInto(const std::string& archive, const std::string& worki
   project.folder = TemporaryFolder::create(workingFolder);
   if (project.folder == nullptr) {
     console::logError("ERROR: Impossible to save!");
-    return fail("No temporary folder can be created in " + workingFolder + ".");
+    return fail(Message::tr("No temporary folder can be created in %1.").arg(workingFolder));
   }
   if (read_ZIP(archive, project.folder->path()) != 0) {
     console::logError("[ERROR] While extracting " + archive);
     emit error_read_compressed();
-    return fail("It cannot be extracted.");
+    return fail(Message::tr("It cannot be extracted."));
   }
   emit read_compressed();
   return readMembers(project.folder->path(), project) ? 0 : 1;
@@ -155,7 +160,7 @@ int projectReader::load(const std::string& archive, const std::string& workingFo
                         LoadedProject& project) {
   mError = false;
   mTracesFailed = false;
-  mMessage.clear();
+  mReason = {};
   mWarnings.clear();
   mRepairs.clear();
   mShotFiles = {};
@@ -165,7 +170,7 @@ int projectReader::load(const std::string& archive, const std::string& workingFo
     project = std::move(fresh);
     return 0;
   } catch (const std::exception& error) {
-    return fail(std::string("It cannot be loaded: ") + error.what());
+    return fail(Message::tr("It cannot be loaded: %1").arg(error.what()));
   }
 }
 

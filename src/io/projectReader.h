@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "io/ProjectMembers.h"
 #include "io/SegyFile.h"
 #include "io/TemporaryFolder.h"
@@ -35,13 +36,14 @@ class projectReader : public QObject {
   /// into a new one and reads its members. 0, or 1 and `project` as before.
   int load(const std::string& archive, const std::string& workingFolder, LoadedProject& project);
 
-  bool hasError() const { return mError; }                 ///< of the last load
-  const std::string& message() const { return mMessage; }  ///< why it failed
+  bool hasError() const { return mError; }                          ///< of the last load
+  const std::string& message() const { return mReason.english(); }  ///< why it failed
+  const Message& reason() const { return mReason; }                 ///< the same, to be translated
   bool tracesFailed() const { return mTracesFailed; }
   /// What a load that succeeded had to leave out: shot files whose traces are empty now, ...
-  const std::vector<std::string>& warnings() const { return mWarnings; }
+  const std::vector<Message>& warnings() const { return mWarnings; }
   /// What else was put right or left out of a load that succeeded, because it cannot be.
-  const std::vector<std::string>& repairs() const { return mRepairs; }
+  const std::vector<Message>& repairs() const { return mRepairs; }
 
   // The steps. Each returns 0 or 1. They are virtual so that tests can make each of them fail.
   virtual int read_ZIP(const std::string& archive, const std::string& folder);
@@ -68,7 +70,7 @@ class projectReader : public QObject {
   void error_read_palettes();
 
  private:
-  int fail(const std::string& message);
+  int fail(const Message& reason);
   bool step(int result, void (projectReader::*done)(), void (projectReader::*failed)());
   bool readMembers(const std::string& folder, LoadedProject& project);
   int loadInto(const std::string& archive, const std::string& workingFolder,
@@ -77,8 +79,8 @@ class projectReader : public QObject {
   bool mError = false;
   bool mTracesFailed = false;
   std::string mMessage;
-  std::vector<std::string> mWarnings;
-  std::vector<std::string> mRepairs;
+  std::vector<Message> mWarnings;
+  std::vector<Message> mRepairs;
   SegyState mShotFiles;
 };
 

@@ -11,8 +11,8 @@ namespace {
 /// More are counted only.
 constexpr std::size_t kNamed = 8;
 
-std::string milliseconds(double seconds) {
-  return formatDouble(1e3 * seconds) + " ms";
+Message milliseconds(double seconds) {
+  return Message::tr("%1 ms").arg(1e3 * seconds);
 }
 
 const Trace* traceOf(const TravelTime& record, std::size_t trace,
@@ -24,37 +24,41 @@ const Trace* traceOf(const TravelTime& record, std::size_t trace,
 
 /// Why a time can be no first break; empty when it can. A trace without samples, as of a shot file
 /// that is missing, says nothing of its length.
-std::string fault(double time, const Trace* trace) {
-  if (!std::isfinite(time)) return "not a finite time";
-  if (time > kLatestPick) return milliseconds(time) + ", above an hour";
+Message fault(double time, const Trace* trace) {
+  if (!std::isfinite(time)) return Message::tr("not a finite time");
+  if (time > kLatestPick) return Message::tr("%1, above an hour").arg(milliseconds(time));
   if (trace == nullptr || trace->samples.empty() || !(trace->sampleInterval > 0.0)) return {};
   const double end = static_cast<double>(trace->samples.size()) * trace->sampleInterval;
   if (time <= end) return {};
-  return milliseconds(time) + ", beyond its record of " + milliseconds(end);
+  return Message::tr("%1, beyond its record of %2").arg(milliseconds(time)).arg(milliseconds(end));
 }
 
 }  // namespace
 
-std::string dropImpossiblePicks(std::vector<TravelTime>& records,
-                                const std::vector<TraceSet>& traceSets) {
+Message dropImpossiblePicks(std::vector<TravelTime>& records,
+                            const std::vector<TraceSet>& traceSets) {
   std::size_t dropped = 0;
-  std::string named;
+  Message named;
   for (std::size_t shot = 0; shot < records.size(); ++shot) {
     std::vector<double>& times = records[shot].ttMisurati;
     for (std::size_t trace = 0; trace < times.size(); ++trace) {
-      const std::string why = fault(times[trace], traceOf(records[shot], trace, traceSets));
+      const Message why = fault(times[trace], traceOf(records[shot], trace, traceSets));
       if (why.empty()) continue;
       times[trace] = kNoTime;
       if (++dropped > kNamed) continue;
-      named += (named.empty() ? "shot " : "; shot ") + std::to_string(shot + 1) + ", trace " +
-               std::to_string(trace + 1) + " (" + why + ")";
+      Message one = Message::tr("shot %1, trace %2 (%3)").arg(shot + 1).arg(trace + 1).arg(why);
+      named = named.empty() ? std::move(one)
+                            : Message::tr("%1; %2").arg(std::move(named)).arg(std::move(one));
     }
   }
   if (dropped == 0) return {};
-  if (dropped > kNamed) named += "; and " + std::to_string(dropped - kNamed) + " more";
-  return (dropped == 1 ? "a pick that cannot be was dropped: "
-                       : std::to_string(dropped) + " picks that cannot be were dropped: ") +
-         named;
+  if (dropped > kNamed) {
+    named = Message::tr("%1; and %2 more").arg(std::move(named)).arg(dropped - kNamed);
+  }
+  return dropped == 1 ? Message::tr("a pick that cannot be was dropped: %1").arg(std::move(named))
+                      : Message::tr("%1 picks that cannot be were dropped: %2")
+                            .arg(dropped)
+                            .arg(std::move(named));
 }
 
 }  // namespace talvesk

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/Message.h"
 #include "model/Trace.h"
 #include "model/TravelTime.h"
 
-#include <string>
 #include <vector>
 
 namespace talvesk {
@@ -16,7 +16,7 @@ inline constexpr double kLatestPick = 3600.0;
 /// kNoTime.
 /// \param traceSets by TravelTime::traceSetID; may be empty, as for picks without traces
 /// \return what was dropped, counted and named, and why; empty when all may stay
-std::string dropImpossiblePicks(std::vector<TravelTime>& records,
-                                const std::vector<TraceSet>& traceSets);
+Message dropImpossiblePicks(std::vector<TravelTime>& records,
+                            const std::vector<TraceSet>& traceSets);
 
 }  // namespace talvesk

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "model/Trace.h"
 
 #include <string>
@@ -11,9 +12,9 @@ namespace talvesk {
 struct SWavePair {
   std::string fileDX;
   std::string fileSX;
-  TraceSet traces;                    ///< Trace::kSWavePair, samples = DX minus SX
-  std::string format;                 ///< of the DX file: "seg2", "segy", "su"
-  std::vector<std::string> warnings;  ///< that the readers had
+  TraceSet traces;                ///< Trace::kSWavePair, samples = DX minus SX
+  std::string format;             ///< of the DX file: "seg2", "segy", "su"
+  std::vector<Message> warnings;  ///< that the readers had
 };
 
 /// Makes the samples of a pair from its recordings: DX minus SX over the length of DX; where SX is

@@ -23,8 +23,8 @@ constexpr double kSlowest = 200.0;   // m/s
 constexpr double kFastest = 4500.0;  // m/s
 
 /// As users count, from 1.
-std::string shotName(std::int32_t shot) {
-  return "shot " + std::to_string(shot + std::int64_t{1});
+Message shotName(std::int32_t shot) {
+  return Message::tr("shot %1").arg(shot + std::int64_t{1});
 }
 
 double meanOf(const std::vector<double>& samples) {
@@ -79,7 +79,7 @@ Status takePicks(TomoDocument& document, std::int32_t shot,
                  const std::vector<std::int32_t>& indices) {
   const TraceSet* traces = tracesOf(document, shot);
   if (traces == nullptr) {
-    return Status::failure(shotName(shot) + " has no traces to pick on");
+    return Status::failure(Message::tr("%1 has no traces to pick on").arg(shotName(shot)));
   }
   TravelTime& record = *recordOf(document, shot);
   for (std::size_t t = 0; t < indices.size(); ++t) {
@@ -120,8 +120,9 @@ Status runJobs(const std::vector<Job>& jobs, bool useFiltered, unsigned threads)
   }
   work();
   for (std::thread& thread : pool) thread.join();
-  return outOfMemory ? Status::failure("the machine has no memory left to pick first breaks")
-                     : Status{};
+  return outOfMemory
+             ? Status::failure(Message::tr("the machine has no memory left to pick first breaks"))
+             : Status{};
 }
 
 }  // namespace
@@ -148,12 +149,13 @@ std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t t
 Status screenShotPicks(TomoDocument& document, std::int32_t shot) {
   TravelTime* record = recordOf(document, shot);
   if (record == nullptr) {
-    return Status::failure(shotName(shot) + " has no record of times to screen");
+    return Status::failure(Message::tr("%1 has no record of times to screen").arg(shotName(shot)));
   }
   const auto string = static_cast<std::size_t>(record->indexStesa);
   if (record->indexStesa < 0 || string >= document.goephonesStringSet.size()) {
-    return Status::failure("the picks of " + shotName(shot) +
-                           " are not screened: it has no geophone string");
+    return Status::failure(
+        Message::tr("the picks of %1 are not screened: it has no geophone string")
+            .arg(shotName(shot)));
   }
   const std::vector<Point2D>& geophones = document.goephonesStringSet[string];
   std::vector<double>& times = record->ttMisurati;

@@ -13,35 +13,40 @@ double normalised(double hertz, double highestFrequency) {
   return hertz / (2.0 * highestFrequency);
 }
 
-Status checkCorner(const std::string& name, const FilterCorner& corner, double highestFrequency) {
+Status checkCorner(const Message& name, const FilterCorner& corner, double highestFrequency) {
   const double fc = normalised(corner.hertz, highestFrequency);
   // The design works in single precision, where a frequency just below the limit rounds up to it.
   const auto single = static_cast<float>(fc);
   if (single > 0.0F && single < 0.5F) return {};
-  const std::string limit =
+  const Message limit =
       highestFrequency > 0.0
-          ? "must be above 0 Hz and below " + formatDouble(highestFrequency) +
-                " Hz, the highest frequency of the spectrum"
-          : "has no limit to keep to, as the spectrum has no frequency above 0 Hz: the traces are "
-            "too short or their sample interval is not known";
-  return Status::failure("No filter applied. The " + name + " cut-off of " +
-                         formatDouble(corner.hertz) + " Hz " + limit + '.');
+          ? Message::tr("must be above 0 Hz and below %1 Hz, the highest frequency of the spectrum")
+                .arg(highestFrequency)
+          : Message::tr(
+                "has no limit to keep to, as the spectrum has no frequency above 0 Hz: the "
+                "traces are too short or their sample interval is not known");
+  return Status::failure(Message::tr("No filter applied. The %1 cut-off of %2 Hz %3.")
+                             .arg(name)
+                             .arg(corner.hertz)
+                             .arg(limit));
 }
 
-void count(FilterOutcome& outcome, const Status& status, const std::string& where) {
+void count(FilterOutcome& outcome, const Status& status, const Message& where) {
   if (status.ok()) {
     ++outcome.filtered;
     return;
   }
   ++outcome.failed;
-  if (outcome.status.ok()) outcome.status = Status::failure(where + ": " + status.message());
+  if (outcome.status.ok()) {
+    outcome.status = Status::failure(joined(where, status.text()));
+  }
 }
 
-void add(FilterOutcome& sum, const FilterOutcome& part, const std::string& where) {
+void add(FilterOutcome& sum, const FilterOutcome& part, const Message& where) {
   sum.filtered += part.filtered;
   sum.failed += part.failed;
   if (sum.status.ok() && !part.status.ok()) {
-    sum.status = Status::failure(where + ": " + part.status.message());
+    sum.status = Status::failure(joined(where, part.status.text()));
   }
 }
 
@@ -51,11 +56,11 @@ TraceSet* tracesOf(TomoDocument& document, std::int32_t shot) {
 }
 
 // Users count from 1.
-std::string nameOf(std::int32_t shot) {
-  return "shot " + std::to_string(shot + std::int64_t{1});
+Message nameOf(std::int32_t shot) {
+  return Message::tr("shot %1").arg(shot + std::int64_t{1});
 }
-std::string nameOf(std::size_t trace) {
-  return "trace " + std::to_string(trace + 1);
+Message nameOf(std::size_t trace) {
+  return Message::tr("trace %1").arg(trace + 1);
 }
 
 /// Runs an operation over shots and puts their outcomes together.
@@ -66,7 +71,7 @@ FilterOutcome overShots(TomoDocument& document, const std::vector<std::int32_t>&
   for (const std::int32_t shot : shots) {
     TraceSet* traces = tracesOf(document, shot);
     if (traces == nullptr) {
-      add(outcome, {0, 0, Status::failure("there are no traces")}, nameOf(shot));
+      add(outcome, {0, 0, Status::failure(Message::tr("there are no traces"))}, nameOf(shot));
     } else {
       add(outcome, operation(*traces), nameOf(shot));
     }
@@ -80,12 +85,15 @@ FilterOutcome overShots(TomoDocument& document, const std::vector<std::int32_t>&
 Status checkBandFilter(const BandFilter& filter, double highestFrequency) {
   for (const auto& corner : {filter.low, filter.high}) {
     if (corner && corner->order < 1) {
-      return Status::failure("No filter applied. Filter order must be greater then 0.");
+      return Status::failure(
+          Message::tr("No filter applied. Filter order must be greater then 0."));
     }
   }
   Status status;
-  if (filter.low) status = checkCorner("low-pass", *filter.low, highestFrequency);
-  if (status.ok() && filter.high) status = checkCorner("high-pass", *filter.high, highestFrequency);
+  if (filter.low) status = checkCorner(Message::tr("low-pass"), *filter.low, highestFrequency);
+  if (status.ok() && filter.high) {
+    status = checkCorner(Message::tr("high-pass"), *filter.high, highestFrequency);
+  }
   return status;
 }
 

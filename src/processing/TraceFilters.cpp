@@ -29,8 +29,8 @@ Status toSinglePrecision(const std::vector<double>& in, std::vector<float>& out)
   out.reserve(in.size());
   for (const double sample : in) {
     if (!(std::fabs(sample) <= kLargest)) {
-      return Status::failure("sample " + std::to_string(out.size()) + " is " +
-                             formatDouble(sample) + ", which no filter can take");
+      return Status::failure(
+          Message::tr("sample %1 is %2, which no filter can take").arg(out.size()).arg(sample));
     }
     out.push_back(static_cast<float>(sample));
   }
@@ -40,7 +40,8 @@ Status toSinglePrecision(const std::vector<double>& in, std::vector<float>& out)
 Status handOut(const std::vector<float>& result, std::vector<double>& out) {
   for (const float sample : result) {
     if (!std::isfinite(sample)) {
-      return Status::failure("the result does not fit single precision; scale the samples down");
+      return Status::failure(
+          Message::tr("the result does not fit single precision; scale the samples down"));
     }
   }
   out.assign(result.begin(), result.end());
@@ -113,17 +114,20 @@ void describe(const std::vector<Section>& sections) {
 /// What the library would say on the standard error stream, and go on with a filter of NaNs.
 Status checkDesign(int order, double fc) {
   if (order < 1) {
-    return Status::failure("No filter applied. Filter order must be greater then 0.");
+    return Status::failure(Message::tr("No filter applied. Filter order must be greater then 0."));
   }
   if (order > kMaxFilterOrder) {
-    return Status::failure("No filter applied. Filter order " + std::to_string(order) +
-                           " is above the limit of " + std::to_string(kMaxFilterOrder) + '.');
+    return Status::failure(
+        Message::tr("No filter applied. Filter order %1 is above the limit of %2.")
+            .arg(order)
+            .arg(kMaxFilterOrder));
   }
   // Just below the limit a number may round up to it.
   const auto single = static_cast<float>(fc);
   if (!(single > 0.0F && single < 0.5F)) {
-    return Status::failure("No filter applied. The cut-off is " + formatDouble(fc) +
-                           " of the sample rate; it must be above 0 and below 0.5.");
+    return Status::failure(Message::tr("No filter applied. The cut-off is %1 of the sample rate; "
+                                       "it must be above 0 and below 0.5.")
+                               .arg(fc));
   }
   return {};
 }
@@ -139,10 +143,12 @@ Status butterworth(const std::vector<double>& in, liquid_iirdes_bandtype band, i
   const auto cutOff = static_cast<float>(fc);
   const std::vector<Section> sections = designOf(band, order, cutOff);
   if (!isSound(sections, band)) {
-    return Status::failure("No filter applied. Single precision cannot hold a filter of order " +
-                           std::to_string(order) + " with a cut-off of " + formatDouble(fc) +
-                           " of the sample rate; choose a lower order or a cut-off nearer to the "
-                           "middle of the range.");
+    return Status::failure(
+        Message::tr("No filter applied. Single precision cannot hold a filter of order %1 with a "
+                    "cut-off of %2 of the sample rate; choose a lower order or a cut-off nearer to "
+                    "the middle of the range.")
+            .arg(order)
+            .arg(fc));
   }
   std::vector<float> samples;
   status = toSinglePrecision(in, samples);
@@ -151,7 +157,9 @@ Status butterworth(const std::vector<double>& in, liquid_iirdes_bandtype band, i
                                                     static_cast<unsigned>(order), cutOff, 0.0F,
                                                     kPassBandRipple, kStopBandLoss),
                       iirfilt_rrrf_destroy);
-  if (!filter) return Status::failure("No filter applied. The filter cannot be created.");
+  if (!filter) {
+    return Status::failure(Message::tr("No filter applied. The filter cannot be created."));
+  }
   describe(sections);
   for (float& sample : samples) iirfilt_rrrf_execute(filter.get(), sample, &sample);
   return handOut(samples, out);
@@ -177,7 +185,7 @@ Status agcTrace(const std::vector<double>& in, std::vector<double>& out) {
   }
   if (!energyFits(samples)) {
     return Status::failure(
-        "the energy of the samples does not fit single precision; scale them down");
+        Message::tr("the energy of the samples does not fit single precision; scale them down"));
   }
   const auto count = static_cast<unsigned>(samples.size());
   std::vector<float> result(samples.size());

@@ -31,10 +31,12 @@ unsigned searchThreads() {
 
 Status checkTraceable(const TomoDocument& document) {
   if (document.grid == nullptr || document.grid->cellCount() == 0) {
-    return Status::failure("There is no grid with cells; build the grid first.");
+    return Status::failure(Message::tr("There is no grid with cells; build the grid first."));
   }
-  const std::string invalid = document.grid->invalidSlowness();
-  if (!invalid.empty()) return Status::failure("The velocity model cannot be used: " + invalid);
+  const Message invalid = document.grid->invalidSlowness();
+  if (!invalid.empty()) {
+    return Status::failure(Message::tr("The velocity model cannot be used: %1").arg(invalid));
+  }
   return {};
 }
 
@@ -133,8 +135,8 @@ Status ForwardPass::runBatch(std::size_t first, std::size_t last, std::vector<do
     if (mWorkers[s] == nullptr) continue;
     mWorkers[s]->wait();
     if (!mWorkers[s]->failure().empty()) {
-      status = Status::failure("Ray tracing of shot " + std::to_string(s + 1) +
-                               " failed: " + mWorkers[s]->failure());
+      status = Status::failure(
+          Message::tr("Ray tracing of shot %1 failed: %2").arg(s + 1).arg(mWorkers[s]->failure()));
     }
   }
   if (!mTraced && coorslow != nullptr) {

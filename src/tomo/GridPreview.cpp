@@ -39,7 +39,8 @@ GridPreview previewGrid(const TomoDocument& survey, const SurveyProfile& profile
                         const GridSettings& settings, unsigned searches) {
   GridPreview preview;
   if (!(settings.cellSize > 0.0) || !(settings.maxDepth >= 0.0) || settings.nodes < 2) {
-    preview.status = Status::failure("Choose a positive cell size and no negative depth.");
+    preview.status =
+        Status::failure(Message::tr("Choose a positive cell size and no negative depth."));
     return preview;
   }
   preview.size =

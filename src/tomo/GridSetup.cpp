@@ -47,16 +47,16 @@ bool plausible(const SurveyProfile& profile) {
 Status checkSurvey(const SurveyProfile& profile) {
   if (!profile.hasGeometry()) {
     return Status::failure(
-        "Geophones do not have geometry! \nPlease set the position of geophones\n");
+        Message::tr("Geophones do not have geometry! \nPlease set the position of geophones\n"));
   }
   if (!plausible(profile)) {
-    return Status::failure(
-        "A position of the survey lies more than 100 000 km away; please check the geometry.");
+    return Status::failure(Message::tr(
+        "A position of the survey lies more than 100 000 km away; please check the geometry."));
   }
   return {};
 }
 
-Status fail(Log& log, const std::string& message) {
+Status fail(Log& log, const Message& message) {
   log.write("Setting Grid ... FAILED. ", 1);
   return Status::failure(message);
 }
@@ -86,33 +86,36 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
   log.write("Setting Grid ... ");
   const SurveyProfile profile = measure(document, log);
   if (const Status status = checkSurvey(profile); !status.ok()) {
-    return fail(log, status.message());
+    return fail(log, status.text());
   }
   if (!(settings.cellSize > 0.0) || !(settings.maxDepth >= 0.0) || settings.nodes < 2 ||
       !std::isfinite(settings.cellSize) || !std::isfinite(settings.maxDepth)) {
     return fail(log,
-                "A grid of cells of " + formatDouble(settings.cellSize) + " m with " +
-                    std::to_string(settings.nodes) + " nodes per side, " +
-                    formatDouble(settings.maxDepth) +
-                    " m deep, cannot be built; choose a positive cell size, two nodes at least "
-                    "and no negative depth.");
+                Message::tr("A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be "
+                            "built; choose a positive cell size, two nodes at least and no "
+                            "negative depth.")
+                    .arg(settings.cellSize)
+                    .arg(settings.nodes)
+                    .arg(settings.maxDepth));
   }
   const GridSize size =
       gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);
   if (const Status status = checkGridSize(size, searchThreads()); !status.ok()) {
-    return fail(log, status.message());
+    return fail(log, status.text());
   }
   log.write("Generating the grid ... ");
   try {
     Splines::LinearSpline surface = profile.surface();
     std::unique_ptr<Grid> grid = buildDefaultGrid(size, surface);
-    if (grid == nullptr) return fail(log, "The grid could not be built; see the error stream.");
+    if (grid == nullptr) {
+      return fail(log, Message::tr("The grid could not be built; see the error stream."));
+    }
     log.write("Generating the grid ... COMPLETED");
     install(document, std::move(grid));
     document.surface = std::move(surface);
     document.xOffset = profile.xOffset;
   } catch (const std::exception& error) {
-    return fail(log, std::string("The grid could not be built: ") + error.what());
+    return fail(log, Message::tr("The grid could not be built: %1").arg(error.what()));
   }
   log.write("Setting Grid ... COMPLETED. ");
   log.write("Setting info layer ... COMPLETED. ");
@@ -120,8 +123,9 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
 }
 
 Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers) {
-  if (document.grid == nullptr)
-    return Status::failure("There is no grid yet; build the grid first.");
+  if (document.grid == nullptr) {
+    return Status::failure(Message::tr("There is no grid yet; build the grid first."));
+  }
   std::vector<VelocityLayer> accepted = acceptedLayers(layers);
   std::unique_ptr<Grid> grid;
   Status status = buildLayeredGrid(*document.grid, accepted, document.surface, grid);
@@ -134,9 +138,11 @@ Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& lay
 Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric,
                   Log& log) {
   if (document.grid == nullptr || document.grid->cellCount() == 0) {
-    return Status::failure("There is no grid with cells; build the grid first.");
+    return Status::failure(Message::tr("There is no grid with cells; build the grid first."));
   }
-  if (radius < 1) return Status::failure("The smoothing parameter must be 1 at least.");
+  if (radius < 1) {
+    return Status::failure(Message::tr("The smoothing parameter must be 1 at least."));
+  }
   const Grid& current = *document.grid;
   try {
     std::vector<std::uint32_t> hits = document.hitCounts;
@@ -144,9 +150,10 @@ Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool s
     auto smoothed = std::make_unique<Grid>(
         current.sharedGeometry(),
         smoothSlowness(type, current, hits, radius, verticalRatio(symmetric)));
-    const std::string invalid = smoothed->invalidSlowness();
+    const Message invalid = smoothed->invalidSlowness();
     if (!invalid.empty()) {
-      return Status::failure("The smoothed velocity model cannot be used: " + invalid);
+      return Status::failure(
+          Message::tr("The smoothed velocity model cannot be used: %1").arg(invalid));
     }
     for (std::uint32_t c = 0; c < current.cellCount(); ++c) smoothed->setDraw(c, current.draw(c));
     TomoDocument copy = inversionCopy(document);
@@ -157,7 +164,7 @@ Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool s
     }
     takeInversion(document, copy);
   } catch (const std::exception& error) {
-    return Status::failure(std::string("The grid could not be smoothed: ") + error.what());
+    return Status::failure(Message::tr("The grid could not be smoothed: %1").arg(error.what()));
   }
   document.modified = true;
   return {};

@@ -18,7 +18,7 @@ Status trace(TomoDocument& document, unsigned threads, Log& log, ThreadLines lin
     document.timesOfSection = true;
     return status;
   } catch (const std::exception& error) {
-    return Status::failure(std::string("The rays could not be traced: ") + error.what());
+    return Status::failure(Message::tr("The rays could not be traced: %1").arg(error.what()));
   }
 }
 

@@ -146,7 +146,7 @@ Status TomoDocument::runTomography(std::vector<double>& slownesses, int solverIt
       return status;
     }
   } catch (const std::exception& error) {
-    status = Status::failure(std::string("The inversion failed: ") + error.what());
+    status = Status::failure(Message::tr("The inversion failed: %1").arg(error.what()));
   }
   before.restore();
   return status;

@@ -31,12 +31,12 @@ class Stopwatch {
 
 Status checkParameters(const TomographyParameters& p) {
   if (p.externalIterations < 1 || p.solverIterations < 1 || p.smoothing < 1) {
-    return Status::failure("Iterations and smoothing parameter must be 1 at least.");
+    return Status::failure(Message::tr("Iterations and smoothing parameter must be 1 at least."));
   }
   for (const double limit : {p.minVelocity, p.maxVelocity}) {
     if (limit > 0.0 && std::isfinite(limit) && std::isfinite(1.0 / limit)) continue;
-    return Status::failure("The velocity limits must be positive numbers; " + formatDouble(limit) +
-                           " m/s is none.");
+    return Status::failure(
+        Message::tr("The velocity limits must be positive numbers; %1 m/s is none.").arg(limit));
   }
   return {};
 }
@@ -105,8 +105,8 @@ Status finish(TomoDocument& document, const TomographyParameters& p, const Stopw
     tellEnd(result, log);
   } catch (const std::exception& error) {
     seconds();
-    status = Status::failure(std::string("The information density could not be computed: ") +
-                             error.what());
+    status = Status::failure(
+        Message::tr("The information density could not be computed: %1").arg(error.what()));
   }
   document.lastInversion = recordOf(p, result, document);
   return status;

@@ -16,9 +16,9 @@ bool isFinite(const GradientColorPoint& point) {
 
 Status checkGradient(const ColorGradient& gradient) {
   const auto& points = gradient.points();
-  if (points.empty()) return Status::failure("its gradient has no colours");
+  if (points.empty()) return Status::failure(Message::tr("its gradient has no colours"));
   if (!std::all_of(points.begin(), points.end(), isFinite)) {
-    return Status::failure("a colour stop of its gradient is not a finite number");
+    return Status::failure(Message::tr("a colour stop of its gradient is not a finite number"));
   }
   return {};
 }
@@ -59,16 +59,19 @@ void repairScale(ColorPalette& palette) {
 
 Status repairPalette(ColorPalette& palette) {
   if (Status checked = checkGradient(palette.color_gradient); !checked.ok()) return checked;
-  if (palette.name.size() > kMostPaletteNameBytes) return Status::failure("its name is too long");
+  if (palette.name.size() > kMostPaletteNameBytes) {
+    return Status::failure(Message::tr("its name is too long"));
+  }
   for (const double end : {palette.min_db, palette.max_db}) {
     if (!(std::abs(end) <= kLargestPaletteValue)) {
-      return Status::failure("its range of values is out of bounds");
+      return Status::failure(Message::tr("its range of values is out of bounds"));
     }
   }
   ColorGradient gradient = repaired(palette.color_gradient);
   if (const std::size_t stops = gradient.points().size(); stops > kMostGradientStops) {
-    return Status::failure("its gradient has " + std::to_string(stops) +
-                           " colour stops, more than " + std::to_string(kMostGradientStops));
+    return Status::failure(Message::tr("its gradient has %1 colour stops, more than %2")
+                               .arg(stops)
+                               .arg(kMostGradientStops));
   }
   palette.name = withoutControls(std::move(palette.name));
   palette.color_gradient = std::move(gradient);

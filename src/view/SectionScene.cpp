@@ -107,13 +107,13 @@ Status checkOptions(const SectionSceneOptions& options) {
   if (options.equallySpacedContours < 0 ||
       options.contourValues.size() + static_cast<std::size_t>(options.equallySpacedContours) >
           most) {
-    return Status::failure("A section has 0 to " + std::to_string(most) + " contour values.");
+    return Status::failure(Message::tr("A section has 0 to %1 contour values.").arg(most));
   }
   const std::optional<ValueRange>& range = options.range;
   if (range &&
       (!std::isfinite(range->min) || !std::isfinite(range->max) || !(range->span() > 0.0))) {
-    return Status::failure(
-        "The value range of the section is empty: its maximum must be greater than its minimum.");
+    return Status::failure(Message::tr(
+        "The value range of the section is empty: its maximum must be greater than its minimum."));
   }
   return {};
 }
@@ -145,8 +145,8 @@ Status fillIn(const TomoDocument& document, const SectionSceneOptions& options,
   if (scene.dataRange.min > scene.dataRange.max) {
     if (filled) {
       return Status::failure(
-          "There is no section to draw: no cell that is shown has a value for \"" +
-          quantityName(options.quantity) + "\".");
+          Message::tr("There is no section to draw: no cell that is shown has a value for \"%1\".")
+              .arg(quantityName(options.quantity)));
     }
     scene.dataRange = {};
   }
@@ -210,7 +210,8 @@ ColorTable sectionColors(const SectionScene& scene, const ColorPalette& palette)
 Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions& options,
                          SectionScene& out) {
   if (!document.grid || document.grid->cellCount() == 0) {
-    return Status::failure("There is no section to draw: the survey has no grid yet. Build one.");
+    return Status::failure(
+        Message::tr("There is no section to draw: the survey has no grid yet. Build one."));
   }
   if (Status status = checkOptions(options); !status.ok()) return status;
 
@@ -246,18 +247,18 @@ SectionScene sceneWithoutGrid(const TomoDocument& document, std::vector<SectionL
   return scene;
 }
 
-std::string quantityName(SectionQuantity quantity) {
+Message quantityName(SectionQuantity quantity) {
   switch (quantity) {
     case SectionQuantity::kVerticalGradient:
-      return "Vertical gradient of velocity";
+      return Message::tr("Vertical gradient of velocity");
     case SectionQuantity::kLaplacian:
-      return "Laplacian of velocity";
+      return Message::tr("Laplacian of velocity");
     case SectionQuantity::kInformationDensity:
-      return "Information density";
+      return Message::tr("Information density");
     case SectionQuantity::kVelocity:
       break;
   }
-  return "Velocity";
+  return Message::tr("Velocity");
 }
 
 std::string quantityUnit(SectionQuantity quantity) {

@@ -99,7 +99,7 @@ SectionScene sceneWithoutGrid(const TomoDocument& document, std::vector<SectionL
 ColorTable sectionColors(const SectionScene& scene, const ColorPalette& palette);
 
 /// "Velocity", "Vertical gradient of velocity", ...
-std::string quantityName(SectionQuantity quantity);
+Message quantityName(SectionQuantity quantity);
 /// "m/s", "1/s", ...; empty for a quantity without a unit.
 std::string quantityUnit(SectionQuantity quantity);
 

@@ -5,7 +5,10 @@
 #include "base/Settings.h"
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -34,9 +37,13 @@ TEST(UserGuide, hasAPageForEveryDialogThatF1IsPressedIn) {
   SettingsDialog settings({}, 0, Settings(std::string()));
   smoothingDialog smoothing(SmoothingType::kUniform, &settings);
   QDialog other;
+  QMessageBox message;
+  QMessageBox question(&smoothing);
   const std::pair<QWidget*, const char*> cases[] = {
       {settings.findChild<QComboBox*>(), "settings.html"},
       {&smoothing, "inversion.html"},
+      {&question, "inversion.html"},
+      {&message, "troubleshooting.html"},
       {&other, ""}};
   for (const auto& [widget, page] : cases) {
     SCOPED_TRACE(page);
@@ -49,6 +56,28 @@ TEST(UserGuide, hasAPageForEveryDialogThatF1IsPressedIn) {
   }
   EXPECT_TRUE(userGuidePath(QStringLiteral("en"), QStringLiteral("no.html"))
                   .endsWith(QStringLiteral("en/index.html")));
+}
+
+TEST(UserGuide, isOpenedByAButtonOfEveryDialog) {
+  QString opened;
+  const HelpKey key([&opened](const QString& page) { opened = page; });
+  SettingsDialog settings({}, 0, Settings(std::string()));
+  smoothingDialog smoothing(SmoothingType::kUniform);
+  const std::pair<QDialog*, const char*> cases[] = {{&settings, "settings.html"},
+                                                    {&smoothing, "inversion.html"}};
+  for (const auto& [dialog, page] : cases) {
+    for (const bool again : {false, true}) {
+      SCOPED_TRACE(again ? "shown again" : page);
+      opened.clear();
+      dialog->show();
+      auto* buttons = dialog->findChild<QDialogButtonBox*>();
+      ASSERT_NE(buttons->button(QDialogButtonBox::Help), nullptr);
+      buttons->button(QDialogButtonBox::Help)->click();
+      EXPECT_EQ(opened.toStdString(), page);
+      EXPECT_TRUE(dialog->isVisible());
+      dialog->hide();
+    }
+  }
 }
 
 }  // namespace

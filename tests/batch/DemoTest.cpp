@@ -89,7 +89,7 @@ TEST_F(Demo, recordsStartBeforeTheShotAndEndWithAZero) {
   SegyState state;
   ShotFileData data;
   ASSERT_TRUE(readShotFile(shots()[4], state, data).ok());
-  EXPECT_EQ(data.warnings, std::vector<std::string>());
+  EXPECT_TRUE(data.warnings.empty());
   ASSERT_EQ(data.traces.size(), 48U);
   for (const ShotRecord& trace : data.traces) {
     EXPECT_EQ(trace.source, (Point2D{33.0, std::round(demoElevation(33.0) * 100.0) / 100.0}));

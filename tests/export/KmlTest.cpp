@@ -267,9 +267,9 @@ TEST(Kml, isNotWrittenWithoutAPlaceOnTheGlobe) {
   using D = TomoDocument;
   const struct {
     D document;
-    const char* message;
+    std::string message;
   } cases[] = {
-      {broken([](D& d) { d.geoCoord_isSet = false; }), kNoGeographicCoordinates},
+      {broken([](D& d) { d.geoCoord_isSet = false; }), noGeographicCoordinates().english()},
       {broken([](D& d) { d.goephonesStringSet.clear(); }), "no geophones"},
       {broken([](D& d) { d.geoCoord.CRS = 4326; }), "not a projected system"},
       {broken([](D& d) { d.geoCoord.mEastFstGeoph = kNan; }), "not numbers"},

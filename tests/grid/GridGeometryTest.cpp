@@ -303,11 +303,11 @@ TEST(Grid, namesTheFirstCellWithoutAVelocity) {
   // The last two are finite, but no ground: their squares are none.
   for (const double bad : {0.0, -0.001, nan, infinity, 1e200, 1e-200}) {
     grid->setSlowness(7, bad);
-    EXPECT_NE(grid->invalidSlowness().find("cell 7 "), std::string::npos) << bad;
+    EXPECT_NE(grid->invalidSlowness().english().find("cell 7 "), std::string::npos) << bad;
   }
   const testing::CommaNumbers comma;
   grid->setSlowness(7, -0.125);
-  EXPECT_NE(grid->invalidSlowness().find("(slowness -0.125 s/m)"), std::string::npos);
+  EXPECT_NE(grid->invalidSlowness().english().find("(slowness -0.125 s/m)"), std::string::npos);
 }
 
 }  // namespace

@@ -13,6 +13,8 @@ import tempfile
 import xml.etree.ElementTree as ElementTree
 
 PLACEHOLDER = re.compile(r"%(?:n|L?\d)")
+# What the rooms below the window say.
+ENGINE = "talvesk::Message"
 FILTER = re.compile(r"\(\*[^)]*\)")
 
 
@@ -55,7 +57,11 @@ def main():
             command += ["-pluralonly"] if english else []
             subprocess.run(command + [str(root / "src"), "-ts", str(copy)], check=True,
                            stderr=subprocess.DEVNULL)
-            for context in ElementTree.parse(copy).getroot().findall("context"):
+            contexts = ElementTree.parse(copy).getroot().findall("context")
+            if not english and ENGINE not in [c.findtext("name") for c in contexts]:
+                found += 1
+                print(f"{original.name}: no text of {ENGINE}, which the window asks for")
+            for context in contexts:
                 for message in context.findall("message"):
                     checked += 1
                     for fault in faults(message):

@@ -1,0 +1,63 @@
+#include "base/Message.h"
+#include "base/Status.h"
+
+#include <gmock/gmock.h>
+
+namespace talvesk {
+namespace {
+
+using ::testing::HasSubstr;
+
+/// A language that turns words around and has a decimal comma.
+class Backwards : public Message::Language {
+ public:
+  std::string text(const char* source) const override {
+    const std::string english = source;
+    if (english == "%1 m are missing of %2") return "di %2 mancano %1 m";
+    if (english == "line %1") return "riga %1";
+    return english;
+  }
+  std::string number(const std::string& c) const override {
+    std::string text = c;
+    const std::size_t point = text.find('.');
+    if (point != std::string::npos) text[point] = ',';
+    return text;
+  }
+};
+
+struct MessageCase {
+  const char* name;
+  Message message;
+  const char* english;
+  const char* translated;
+};
+
+TEST(Message, speaksEnglishByItselfAndAnyLanguageWhenItIsShown) {
+  const MessageCase cases[] = {
+      {"nothing", {}, "", ""},
+      {"plain", Message("line 7"), "line 7", "line 7"},
+      {"order", Message::tr("%1 m are missing of %2").arg(1.5).arg("a"), "1.5 m are missing of a",
+       "di a mancano 1,5 m"},
+      {"nested", joined("a.su", Message::tr("line %1").arg(3)), "a.su: line 3", "a.su: riga 3"},
+      {"percent in an argument", Message::tr("%1 m are missing of %2").arg("%2").arg("50 %1"),
+       "%2 m are missing of 50 %1", "di 50 %1 mancano %2 m"},
+      {"no argument", Message::tr("100 % of %1"), "100 % of %1", "100 % of %1"},
+      {"digits", Message::tr("%1").arg(Message::number(1.23456, 3)), "1.23", "1,23"},
+  };
+  for (const MessageCase& c : cases) {
+    SCOPED_TRACE(c.name);
+    EXPECT_EQ(c.message.english(), c.english);
+    EXPECT_EQ(c.message.in(Backwards()), c.translated);
+  }
+}
+
+TEST(Message, isAStringWhereOneIsWanted) {
+  const Status status = Status::failure(std::string("no room left"));
+  const std::string& english = status.text();
+  EXPECT_EQ(english, status.message());
+  EXPECT_THAT(status.text(), HasSubstr("room"));
+  EXPECT_EQ(status.text(), "no room left");
+}
+
+}  // namespace
+}  // namespace talvesk
