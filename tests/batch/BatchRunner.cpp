@@ -65,6 +65,7 @@ Outcome interruptBatch(const std::vector<std::string>& arguments, const std::str
   QProcess process;
   Outcome outcome;
   start(process, TALVESK_BATCH, arguments, {});
+  process.setReadChannel(QProcess::StandardError);  // what is waited for
   while (outcome.err.find(trigger) == std::string::npos && process.waitForReadyRead(kPatience)) {
     outcome.err += process.readAllStandardError().toStdString();
   }

@@ -163,7 +163,7 @@ TEST(Inversion, interruptKeepsTheIterationUnderWay) {
                      "External iteration 1 of");
   EXPECT_EQ(outcome.code, 0) << outcome.err;
   EXPECT_THAT(outcome.err, HasSubstr("Stopping after this external iteration"));
-  EXPECT_THAT(outcome.out, HasSubstr("Stop Request by the user."));
+  EXPECT_THAT(outcome.out, HasSubstr(" of 100000, stopped by the user"));
   EXPECT_THAT(outcome.out, HasSubstr("RMSE: [ms] "));
   const ordered_json json = ordered_json::parse(contentsOf(folder / "out.json"));
   EXPECT_GE(json["iterations_done"].get<int>(), 1);

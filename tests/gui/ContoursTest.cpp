@@ -194,6 +194,15 @@ TEST_F(Contours, areSavedAscendingUnderANameThatEndsInCsv) {
   EXPECT_FALSE(QFile::exists(QString::fromStdString(home.file("other.CSV"))));
 }
 
+TEST_F(Contours, areLoadedFromBelowAHeadingWhichIsSaid) {
+  load("velocity;shown\n400;true\n", kSemicolon);
+  dialogs.expectBox("Load Isovalues",
+                    "The first line, \"velocity;shown\", was taken for a heading and skipped.", "",
+                    QMessageBox::Ok);
+  click("load_button");
+  EXPECT_THAT(values(), ElementsAre(400.0));
+}
+
 TEST_F(Contours, areRemovedOneByOneOrAll) {
   for (auto* remove : part<QWidget>("rows").findChildren<QAbstractButton*>()) {
     remove->click();

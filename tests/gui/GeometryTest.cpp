@@ -208,6 +208,7 @@ TEST_F(Geometry, takesWhatASpreadsheetCopies) {
   edit([](GeometryDriver& user) {
     user.paste(user.geophones(), 10, GeophoneTable::kX, "x\tz\n40\t1,5\n42\t\n44\t2.5\n");
     EXPECT_EQ(user.geophones().model()->rowCount(), 13) << "one geophone more";
+    EXPECT_THAT(user.notice().toStdString(), HasSubstr("\"x z\", was taken for a heading"));
     EXPECT_EQ(user.cell(user.geophones(), 10, GeophoneTable::kZ), "1.5");
     EXPECT_EQ(user.cell(user.geophones(), 11, GeophoneTable::kZ), "");
     EXPECT_THAT(user.mistakes(), SizeIs(2));
@@ -367,6 +368,36 @@ TEST_F(Geometry, rejectsFilesThatDoNotFit) {
     expectRefused(details);
     action("actionGeometry").trigger();
   }
+}
+
+TEST_F(Geometry, tellsWhatOfAFileItSkippedAndTookForZero) {
+  loadShots(1);
+  std::string text = "\xEF\xBB\xBFx (m);z (m)\n";
+  for (int i = 0; i < 12; ++i) text += std::to_string(i) + (i == 4 ? ";low\n" : ";1\n");
+  const std::string path = home.put("line.csv", text);
+  QString notice;
+  dialogs.expect([&notice](QWidget& widget) {
+    GeometryDriver user(widget);
+    user.click("loadGeophonesButton");
+    notice = user.notice();
+    user.ok();
+  });
+  dialogs.expectFiles("Open Geometry", {QString::fromStdString(path)});
+  expectSeparator(1);
+  dialogs.expect([](QWidget& widget) {
+    auto* box = qobject_cast<QMessageBox*>(&widget);
+    ASSERT_NE(box, nullptr) << widget.windowTitle().toStdString();
+    EXPECT_EQ(box->icon(), QMessageBox::Warning);
+    EXPECT_THAT(box->text().toStdString(), HasSubstr("of line.csv"));
+    EXPECT_EQ(box->informativeText(), "line 6: \"low\"");
+    box->button(QMessageBox::Ok)->click();
+  });
+  action("actionGeometry").trigger();
+  EXPECT_EQ(notice,
+            "Geophones loaded from line.csv. The first line, \"x (m);z (m)\", was taken for a "
+            "heading and skipped.");
+  EXPECT_EQ(string()[3], (Point2D{3, 1}));
+  EXPECT_EQ(string()[4], (Point2D{4, 0}));
 }
 
 TEST_F(Geometry, leavesFilesAloneWhenTheSeparatorIsNotChosen) {

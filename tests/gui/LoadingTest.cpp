@@ -308,6 +308,27 @@ TEST_F(Loading, exportedPicksComeBack) {
   EXPECT_DOUBLE_EQ(window->document().ttArray[0].ttMisurati[5], 0.0425);
 }
 
+TEST_F(Loading, dropsAndNamesPicksThatCannotBe) {
+  loadShots(1);
+  const std::string path = home.file("late.otte");
+  for (const auto& [seconds, why] : {std::pair{4250.0, "above an hour"}, {42.5, "its record of"}}) {
+    window->document().ttArray[0].ttMisurati[5] = seconds;
+    ASSERT_TRUE(writeTravelTimes(path, window->document()).ok());
+    window->document().ttArray[0].ttMisurati[5] = kUnpicked;
+    dialogs.expectFiles("Import TravelTimes", {QString::fromStdString(path)});
+    dialogs.expect([why = why](QWidget& widget) {
+      auto* box = qobject_cast<QMessageBox*>(&widget);
+      ASSERT_NE(box, nullptr) << widget.windowTitle().toStdString();
+      EXPECT_EQ(box->text(), "late.otte was loaded with warnings.");
+      EXPECT_THAT(box->informativeText().toStdString(), HasSubstr("shot 1, trace 6 ("));
+      EXPECT_THAT(box->informativeText().toStdString(), HasSubstr(why));
+      box->accept();
+    });
+    action("actionLoad_TT").trigger();
+    EXPECT_EQ(window->document().ttArray[0].ttMisurati[5], kNoTime) << why;
+  }
+}
+
 TEST_F(Loading, showsWhatAFileHolds) {
   loadShots(2);
   action("actionNext_file").trigger();
