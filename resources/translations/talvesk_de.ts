@@ -771,23 +771,23 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
     <message>
         <source>RMS misfit %1 ms, %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>RMS-Abweichung %1 ms, %2 %</translation>
     </message>
     <message>
         <source>last solver pass %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>letzter Durchgang des Lösers %1 %</translation>
     </message>
     <message>
         <source>picks have changed since the inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Picks seit der Inversion geändert</translation>
     </message>
     <message>
         <source>Refractor %1 (picks have changed since)</source>
-        <translation type="unfinished"></translation>
+        <translation>Refraktor %1 (Picks seither geändert)</translation>
     </message>
     <message>
         <source>Picks have changed since this was built</source>
-        <translation type="unfinished"></translation>
+        <translation>Picks seit der Erstellung geändert</translation>
     </message>
 </context>
 <context>
@@ -1120,53 +1120,59 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Section, along fresh rays
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt, entlang neuer Strahlen
+</translation>
     </message>
     <message>
         <source>RMS: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>RMS: [ms] %1; [%] %2
+</translation>
     </message>
     <message>
         <source>Mean: [ms] %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel: [ms] %1
+</translation>
     </message>
     <message>
         <source>Largest difference: [ms] %1; shot %2, receiver %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Differenz: [ms] %1; Schuss %2, Empfänger %3
+</translation>
     </message>
     <message>
         <source>Misfit of the section: RMS %1 ms (%2 %).</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung des Schnitts: RMS %1 ms (%2 %).</translation>
     </message>
     <message>
         <source>Computing time: [s] %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Rechenzeit: [s] %1
+</translation>
     </message>
     <message>
         <source>Last solver pass
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter Durchgang des Lösers
+</translation>
     </message>
     <message>
         <source>Elapsed time: [s] %1
 </source>
-        <translation type="unfinished">Verstrichene Zeit: [s] %1
+        <translation>Verstrichene Zeit: [s] %1
 </translation>
     </message>
     <message>
         <source>RMSE: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished">RMSE: [ms] %1; [%] %2
+        <translation>RMSE: [ms] %1; [%] %2
 </translation>
     </message>
     <message>
         <source>MaxError: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished">Größter Fehler: [ms] %1; [%] %2
+        <translation>Größter Fehler: [ms] %1; [%] %2
 </translation>
     </message>
 </context>
@@ -1189,48 +1195,48 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Picks</translation>
     </message>
     <message numerus="yes">
         <source>%n shot(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Schuss jenseits der letzten Spalte</numerusform>
+            <numerusform>%n Schüsse jenseits der letzten Spalte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n geophone(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Geophon jenseits der letzten Spalte</numerusform>
+            <numerusform>%n Geophone jenseits der letzten Spalte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n shot(s) without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Schuss ohne Geophonauslage</numerusform>
+            <numerusform>%n Schüsse ohne Geophonauslage</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Schuss %1 jenseits der letzten Spalte</numerusform>
+            <numerusform>Schüsse %1 jenseits der letzten Spalte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Geophone(s) %1 of string %2 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Geophon %1 der Auslage %2 jenseits der letzten Spalte</numerusform>
+            <numerusform>Geophone %1 der Auslage %2 jenseits der letzten Spalte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Schuss %1 ohne Geophonauslage</numerusform>
+            <numerusform>Schüsse %1 ohne Geophonauslage</numerusform>
         </translation>
     </message>
 </context>
@@ -1281,35 +1287,35 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <name>talvesk::LossQuestion</name>
     <message>
         <source>the grid and the results of the inversion</source>
-        <translation type="unfinished">das Gitter und die Ergebnisse der Inversion</translation>
+        <translation>das Gitter und die Ergebnisse der Inversion</translation>
     </message>
     <message>
         <source>the grid</source>
-        <translation type="unfinished">das Gitter</translation>
+        <translation>das Gitter</translation>
     </message>
     <message>
         <source>the results of the inversion; the grid stays</source>
-        <translation type="unfinished"></translation>
+        <translation>die Ergebnisse der Inversion; das Gitter bleibt</translation>
     </message>
     <message>
         <source>the layers of the starting model</source>
-        <translation type="unfinished"></translation>
+        <translation>die Schichten des Startmodells</translation>
     </message>
     <message>
         <source>the refraction interpretation</source>
-        <translation type="unfinished">die Refraktionsauswertung</translation>
+        <translation>die Refraktionsauswertung</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Warnung</translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>The survey changes. This will be lost:</source>
-        <translation type="unfinished">Die Messung ändert sich. Verloren gehen:</translation>
+        <translation>Die Messung ändert sich. Verloren gehen:</translation>
     </message>
     <message>
         <source>Do you want to continue?</source>
-        <translation type="unfinished">Möchten Sie fortfahren?</translation>
+        <translation>Möchten Sie fortfahren?</translation>
     </message>
 </context>
 <context>
@@ -1362,11 +1368,11 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt</translation>
     </message>
     <message>
         <source>Last solver pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter Durchgang des Lösers</translation>
     </message>
 </context>
 <context>
@@ -1938,11 +1944,11 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     </message>
     <message>
         <source>The picks have changed since the profiles were built.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Picks haben sich geändert, seit die Profile erstellt wurden.</translation>
     </message>
     <message>
         <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Geschwindigkeiten oder Tiefen sind nicht bekannt. Erstellen Sie die Profile neu, um den Grund zu erfahren.</translation>
     </message>
 </context>
 <context>
@@ -2016,19 +2022,19 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     </message>
     <message>
         <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schicht %1: Kein teilnehmender Schuss hat auf einer Seite zwei Picks dieser Schicht, daher hat sie keine Geschwindigkeit, und die Schichten darunter haben keine Tiefe.</translation>
     </message>
     <message>
         <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schicht %1: Ihre Geschwindigkeit ergibt sich außerhalb von 50 bis 12 000 m/s, daher hat sie keine, und die Schichten darunter haben keine Tiefe.</translation>
     </message>
     <message>
         <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schicht %1: keine Geschwindigkeit und keine Tiefe an %2 von %3 Empfängern, wo sich die Geschwindigkeit außerhalb von 50 bis 12 000 m/s ergibt.</translation>
     </message>
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schicht %1: keine Tiefe an %2 von %3 Empfängern, wo sie sich größer als die Länge der Messlinie ergibt.</translation>
     </message>
 </context>
 <context>
@@ -2527,79 +2533,79 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     </message>
     <message>
         <source>Computing time</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechenzeit</translation>
     </message>
     <message>
         <source>Mean of computed minus measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel von berechnet minus gemessen</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>Largest difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Differenz</translation>
     </message>
     <message>
         <source>%1 ms, shot %2, receiver %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms, Schuss %2, Empfänger %3</translation>
     </message>
     <message>
         <source>Misfit of the section, along fresh rays</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung des Schnitts, entlang neuer Strahlen</translation>
     </message>
     <message>
         <source>The section was smoothed after the inversion; its misfit is that of the smoothed one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schnitt wurde nach der Inversion geglättet; seine Abweichung ist die des geglätteten Schnitts.</translation>
     </message>
     <message>
         <source>Picks have changed since the inversion: the section was fitted to others than those that its misfit is told of here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Picks haben sich seit der Inversion geändert: Der Schnitt wurde an andere Picks angepasst als an die, auf die sich seine hier angegebene Abweichung bezieht.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Last solver pass of the inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter Durchgang des Lösers bei der Inversion</translation>
     </message>
     <message>
         <source>Section, RMS [ms]</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt, RMS [ms]</translation>
     </message>
     <message>
         <source>Last solver pass, RMS [ms]</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter Durchgang des Lösers, RMS [ms]</translation>
     </message>
     <message>
         <source>The misfit of the section is that of fresh rays through the section that an iteration has left; 0 is the starting model. The last solver pass of an iteration goes along its old rays, before the last correction of the velocities and before they are smoothed, and its misfit is usually smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abweichung des Schnitts ist die neuer Strahlen durch den Schnitt, den eine Iteration hinterlassen hat; 0 ist das Startmodell. Der letzte Durchgang des Lösers einer Iteration folgt ihren alten Strahlen, vor der letzten Korrektur der Geschwindigkeiten und vor ihrer Glättung, und seine Abweichung ist meist kleiner.</translation>
     </message>
     <message>
         <source>RMS misfit of the section after every external iteration (blue), 0 being the starting model, and of the last solver pass of each (grey)</source>
-        <translation type="unfinished"></translation>
+        <translation>RMS-Abweichung des Schnitts nach jeder äußeren Iteration (blau; 0 ist das Startmodell) und des jeweils letzten Durchgangs des Lösers (grau)</translation>
     </message>
     <message>
         <source>The picks have changed since this profile was built: it is that of the earlier picks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Picks haben sich geändert, seit dieses Profil erstellt wurde: Es ist das der früheren Picks.</translation>
     </message>
     <message>
         <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Zeiten zu einer Geschwindigkeit außerhalb von 50 bis 12 000 m/s führen, ist keine angegeben. Keine Tiefe ist dort angegeben, ferner unter einer Schicht, die schneller ist oder deren Geschwindigkeit oder Tiefe nicht bekannt ist, und wo sich eine Tiefe ergab, die größer ist als die Länge der Messlinie.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersteinsätze sind die Zeiten, zu denen die erste seismische Energie eines Schusses die einzelnen Geophone erreicht. Sie wurden auf den aufgezeichneten Spuren gepickt.</translation>
     </message>
     <message>
         <source>They were inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie wurden mit Laufzeittomographie invertiert. Der Untergrund unter der Messlinie ist in quadratische Zellen konstanter Geschwindigkeit geteilt, die der Oberfläche folgen. Von jedem Schuss aus werden im Netz der Knoten auf den Zellenseiten die schnellsten Wege zu allen Geophonen gesucht; das sind die Strahlen. Die Differenzen zwischen gemessenen und berechneten Zeiten werden entlang der Strahlen verteilt und korrigieren die Langsamkeit der durchquerten Zellen, mehrmals auf denselben Strahlen und innerhalb der Geschwindigkeitsgrenzen. Der korrigierte Schnitt wird geglättet, und neue Strahlen werden durch ihn verfolgt: Das ist eine äußere Iteration.</translation>
     </message>
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abweichung ist der Unterschied zwischen berechneten und gemessenen Zeiten. Die berechneten Zeiten sind die entlang neuer Strahlen durch den Schnitt, wie er gezeichnet ist. RMS ist das quadratische Mittel der Abweichung, in Millisekunden oder in Prozent der gemessenen Zeiten. Die Informationsdichte sagt, wie vollständig Strahlen die Umgebung einer Zelle durchqueren; wo sie gering ist, sind die Geschwindigkeiten durch die Daten schwach gestützt, und unterhalb der tiefsten Strahlen wird der Schnitt nicht gezeichnet. Geschwindigkeiten, die mit der Tiefe abnehmen, und dünne Schichten können den Ersteinsätzen verborgen bleiben.</translation>
     </message>
 </context>
 <context>
@@ -2903,15 +2909,15 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     </message>
     <message>
         <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Apply Hushel then work on all shots.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet Schüsse mit allen Spuren im Bild, wie schmal sie auch sind. „AutoPick“, „Filter“, „AGC“ und „Hushel anwenden“ wirken dann auf alle Schüsse.</translation>
     </message>
     <message>
         <source>Horizontal scalarbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagrechte Farbskala</translation>
     </message>
     <message>
         <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt die Farbskala gespeicherter Bilder über den Schnitt statt daneben.</translation>
     </message>
 </context>
 <context>
@@ -2995,28 +3001,28 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <name>talvesk::TableTexts</name>
     <message>
         <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste Zeile, „%1“, wurde für eine Überschrift gehalten und übersprungen.</translation>
     </message>
     <message>
         <source>line %1: &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: „%2“</translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform>und %n weitere</numerusform>
+        <translation>
+            <numerusform>und %n weiteres</numerusform>
             <numerusform>und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Warnung</translation>
+        <translation>Warnung</translation>
     </message>
     <message numerus="yes">
         <source>%n field(s) of %1 that are no number were taken as 0.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Feld von %1, das keine Zahl ist, wurde als 0 genommen.</numerusform>
+            <numerusform>%n Felder von %1, die keine Zahlen sind, wurden als 0 genommen.</numerusform>
         </translation>
     </message>
 </context>
@@ -4378,71 +4384,71 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     </message>
     <message>
         <source>Start a new survey: asks for shot files, which then take the place of this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginnt eine neue Messung: fragt nach Schussdateien, die dann an die Stelle der jetzigen treten</translation>
     </message>
     <message>
         <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seismische Dateien (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</translation>
     </message>
     <message>
         <source>No shot file was loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde keine Schussdatei geladen.</translation>
     </message>
     <message>
         <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with these libraries, Qt being version %1:&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Refraktionsseismische Messungen: von den Feldaufzeichnungen zu Geschwindigkeitsschnitten.&lt;/p&gt;&lt;p&gt;Talvesk ist freie Software unter der MIT-Lizenz, ohne jede Gewährleistung.&lt;/p&gt;&lt;p&gt;Es verwendet diese Bibliotheken, Qt in der Version %1:&lt;/p&gt;</translation>
     </message>
     <message>
         <source>%1 is a folder or names no file. Give the project a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ein Ordner oder nennt keine Datei. Geben Sie dem Projekt einen Namen.</translation>
     </message>
     <message>
         <source>%1 is in use elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird anderswo verwendet.</translation>
     </message>
     <message>
         <source>%1 is in use by %2 on %3 (process %4).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird von %2 auf %3 verwendet (Prozess %4).</translation>
     </message>
     <message>
         <source>Project in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt in Gebrauch</translation>
     </message>
     <message>
         <source>If nobody uses it any more, delete the lock %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwendet es niemand mehr, löschen Sie die Sperrdatei %1</translation>
     </message>
     <message>
         <source>Do you want to replace it all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Datei trotzdem ersetzen?</translation>
     </message>
     <message>
         <source>%1 has been changed by somebody else since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde von jemand anderem geändert, seit die Datei hier geöffnet oder gespeichert wurde.</translation>
     </message>
     <message>
         <source>Do you want to replace it? What was changed there is lost then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Datei ersetzen? Was dort geändert wurde, geht dann verloren.</translation>
     </message>
     <message>
         <source>The file is as it was before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist, wie sie vorher war.</translation>
     </message>
     <message>
         <source>Do you want to open it all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Datei trotzdem öffnen?</translation>
     </message>
     <message>
         <source>Some values of the project cannot be. They were put right or left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Werte des Projekts sind nicht möglich. Sie wurden berichtigt oder weggelassen.</translation>
     </message>
     <message>
         <source>Left out of the inversion:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei der Inversion weggelassen:</translation>
     </message>
     <message>
         <source>Left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Weggelassen: %1.</translation>
     </message>
 </context>
 <context>
@@ -4793,7 +4799,7 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     </message>
     <message>
         <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Schnitt zeigt, hat keine Isolinien. Die der Geschwindigkeit liegen zwischen %1 und %2 %3</translation>
     </message>
 </context>
 <context>
@@ -5103,23 +5109,23 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     </message>
     <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Viertel des kleinsten Geophonabstands, mindestens 0,1 m. Nicht angekreuzt: die Zellengröße des vorhandenen Gitters, ohne Gitter die kleinste.</translation>
     </message>
     <message>
         <source>Propose</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschlagen</translation>
     </message>
     <message>
         <source>Cell sizes that lose none:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellengrößen ohne Verlust:</translation>
     </message>
     <message>
         <source>Lost to an inversion: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei einer Inversion gehen verloren: %1.</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished">%1 m</translation>
+        <translation>%1 m</translation>
     </message>
 </context>
 <context>
@@ -5364,7 +5370,7 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     </message>
     <message>
         <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede äußere Iteration verfolgt die Strahlen neu durch das bisherige Modell. Mehr Iterationen bringen die Strahlen der Wirklichkeit näher und senken die Abweichung; die Zeit wächst mit der Anzahl. Ist die Abweichungskurve flach geworden, ändern weitere wenig. Die 5 der Beschriftung genügt für einen ersten Blick; das Feld selbst beginnt mit 10.</translation>
     </message>
 </context>
 <context>
@@ -5407,11 +5413,11 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     </message>
     <message>
         <source>Do you want to put them into the grid all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie sie trotzdem in das Gitter übernehmen?</translation>
     </message>
     <message>
         <source>You have not changed the layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben die Schichten nicht geändert.</translation>
     </message>
 </context>
 <context>

@@ -123,44 +123,44 @@
     <name>talvesk::LeftOutText</name>
     <message numerus="yes">
         <source>%n shot(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n shot beyond the last column</numerusform>
+            <numerusform>%n shots beyond the last column</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n geophone(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n geophone beyond the last column</numerusform>
+            <numerusform>%n geophones beyond the last column</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n shot(s) without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n shot without a geophone string</numerusform>
+            <numerusform>%n shots without a geophone string</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Shot %1 beyond the last column</numerusform>
+            <numerusform>Shots %1 beyond the last column</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Geophone(s) %1 of string %2 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Geophone %1 of string %2 beyond the last column</numerusform>
+            <numerusform>Geophones %1 of string %2 beyond the last column</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Shot %1 without a geophone string</numerusform>
+            <numerusform>Shots %1 without a geophone string</numerusform>
         </translation>
     </message>
 </context>
@@ -215,16 +215,16 @@
     <name>talvesk::TableTexts</name>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>and one more</numerusform>
             <numerusform>and %n more</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n field(s) of %1 that are no number were taken as 0.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n field of %1 that is no number was taken as 0.</numerusform>
+            <numerusform>%n fields of %1 that are no numbers were taken as 0.</numerusform>
         </translation>
     </message>
 </context>

@@ -771,23 +771,23 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>RMS misfit %1 ms, %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarto quadratico medio %1 ms, %2 %</translation>
     </message>
     <message>
         <source>last solver pass %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>ultimo passaggio del risolutore %1 %</translation>
     </message>
     <message>
         <source>picks have changed since the inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>primi arrivi cambiati dopo l&apos;inversione</translation>
     </message>
     <message>
         <source>Refractor %1 (picks have changed since)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rifrattore %1 (primi arrivi cambiati da allora)</translation>
     </message>
     <message>
         <source>Picks have changed since this was built</source>
-        <translation type="unfinished"></translation>
+        <translation>Primi arrivi cambiati dopo la costruzione</translation>
     </message>
 </context>
 <context>
@@ -1120,53 +1120,59 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Section, along fresh rays
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Sezione, lungo raggi nuovi
+</translation>
     </message>
     <message>
         <source>RMS: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>RMS: [ms] %1; [%] %2
+</translation>
     </message>
     <message>
         <source>Mean: [ms] %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Media: [ms] %1
+</translation>
     </message>
     <message>
         <source>Largest difference: [ms] %1; shot %2, receiver %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Differenza massima: [ms] %1; tiro %2, ricevitore %3
+</translation>
     </message>
     <message>
         <source>Misfit of the section: RMS %1 ms (%2 %).</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarto della sezione: RMS %1 ms (%2 %).</translation>
     </message>
     <message>
         <source>Computing time: [s] %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo di calcolo: [s] %1
+</translation>
     </message>
     <message>
         <source>Last solver pass
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimo passaggio del risolutore
+</translation>
     </message>
     <message>
         <source>Elapsed time: [s] %1
 </source>
-        <translation type="unfinished">Tempo trascorso: [s] %1
+        <translation>Tempo trascorso: [s] %1
 </translation>
     </message>
     <message>
         <source>RMSE: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished">RMSE: [ms] %1; [%] %2
+        <translation>RMSE: [ms] %1; [%] %2
 </translation>
     </message>
     <message>
         <source>MaxError: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished">Errore massimo: [ms] %1; [%] %2
+        <translation>Errore massimo: [ms] %1; [%] %2
 </translation>
     </message>
 </context>
@@ -1189,48 +1195,48 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 su %2 primi arrivi</translation>
     </message>
     <message numerus="yes">
         <source>%n shot(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tiro oltre l&apos;ultima colonna</numerusform>
+            <numerusform>%n tiri oltre l&apos;ultima colonna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n geophone(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n geofono oltre l&apos;ultima colonna</numerusform>
+            <numerusform>%n geofoni oltre l&apos;ultima colonna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n shot(s) without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tiro senza una stesa di geofoni</numerusform>
+            <numerusform>%n tiri senza una stesa di geofoni</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Tiro %1 oltre l&apos;ultima colonna</numerusform>
+            <numerusform>Tiri %1 oltre l&apos;ultima colonna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Geophone(s) %1 of string %2 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Geofono %1 della stesa %2 oltre l&apos;ultima colonna</numerusform>
+            <numerusform>Geofoni %1 della stesa %2 oltre l&apos;ultima colonna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Tiro %1 senza una stesa di geofoni</numerusform>
+            <numerusform>Tiri %1 senza una stesa di geofoni</numerusform>
         </translation>
     </message>
 </context>
@@ -1281,35 +1287,35 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <name>talvesk::LossQuestion</name>
     <message>
         <source>the grid and the results of the inversion</source>
-        <translation type="unfinished">la griglia e i risultati dell&apos;inversione</translation>
+        <translation>la griglia e i risultati dell&apos;inversione</translation>
     </message>
     <message>
         <source>the grid</source>
-        <translation type="unfinished">la griglia</translation>
+        <translation>la griglia</translation>
     </message>
     <message>
         <source>the results of the inversion; the grid stays</source>
-        <translation type="unfinished"></translation>
+        <translation>i risultati dell&apos;inversione; la griglia resta</translation>
     </message>
     <message>
         <source>the layers of the starting model</source>
-        <translation type="unfinished"></translation>
+        <translation>gli strati del modello iniziale</translation>
     </message>
     <message>
         <source>the refraction interpretation</source>
-        <translation type="unfinished">l&apos;interpretazione a rifrazione</translation>
+        <translation>l&apos;interpretazione a rifrazione</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Attenzione</translation>
+        <translation>Attenzione</translation>
     </message>
     <message>
         <source>The survey changes. This will be lost:</source>
-        <translation type="unfinished">Il rilievo cambia. Andranno persi:</translation>
+        <translation>Il rilievo cambia. Andranno persi:</translation>
     </message>
     <message>
         <source>Do you want to continue?</source>
-        <translation type="unfinished">Vuoi continuare?</translation>
+        <translation>Vuoi continuare?</translation>
     </message>
 </context>
 <context>
@@ -1362,11 +1368,11 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezione</translation>
     </message>
     <message>
         <source>Last solver pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimo passaggio del risolutore</translation>
     </message>
 </context>
 <context>
@@ -1938,11 +1944,11 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>The picks have changed since the profiles were built.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli arrivi sono cambiati dopo la costruzione dei profili.</translation>
     </message>
     <message>
         <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcune velocità o profondità non sono note. Costruire di nuovo i profili per saperne il motivo.</translation>
     </message>
 </context>
 <context>
@@ -2016,19 +2022,19 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strato %1: nessun tiro che partecipa ne ha due arrivi su un lato, quindi non ha velocità e gli strati sottostanti non hanno profondità.</translation>
     </message>
     <message>
         <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strato %1: la sua velocità risulta fuori dall&apos;intervallo da 50 a 12 000 m/s, quindi non ne ha una e gli strati sottostanti non hanno profondità.</translation>
     </message>
     <message>
         <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strato %1: nessuna velocità e nessuna profondità in %2 ricevitori su %3, dove la velocità risulta fuori dall&apos;intervallo da 50 a 12 000 m/s.</translation>
     </message>
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strato %1: nessuna profondità in %2 ricevitori su %3, dove risulta maggiore della lunghezza della linea.</translation>
     </message>
 </context>
 <context>
@@ -2171,7 +2177,7 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Solver iterations on the rays of each</source>
-        <translation>Iterazioni del solutore sui raggi di ognuna</translation>
+        <translation>Iterazioni del risolutore sui raggi di ognuna</translation>
     </message>
     <message>
         <source>Velocity limits</source>
@@ -2527,79 +2533,79 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Computing time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo di calcolo</translation>
     </message>
     <message>
         <source>Mean of computed minus measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Media di calcolati meno misurati</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>Largest difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenza massima</translation>
     </message>
     <message>
         <source>%1 ms, shot %2, receiver %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms, tiro %2, ricevitore %3</translation>
     </message>
     <message>
         <source>Misfit of the section, along fresh rays</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarto della sezione, lungo raggi nuovi</translation>
     </message>
     <message>
         <source>The section was smoothed after the inversion; its misfit is that of the smoothed one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sezione è stata smussata dopo l&apos;inversione; il suo scarto è quello della sezione smussata.</translation>
     </message>
     <message>
         <source>Picks have changed since the inversion: the section was fitted to others than those that its misfit is told of here.</source>
-        <translation type="unfinished"></translation>
+        <translation>I primi arrivi sono cambiati dopo l&apos;inversione: la sezione è stata adattata ad arrivi diversi da quelli a cui si riferisce lo scarto indicato qui.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Last solver pass of the inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimo passaggio del risolutore nell&apos;inversione</translation>
     </message>
     <message>
         <source>Section, RMS [ms]</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezione, RMS [ms]</translation>
     </message>
     <message>
         <source>Last solver pass, RMS [ms]</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimo passaggio del risolutore, RMS [ms]</translation>
     </message>
     <message>
         <source>The misfit of the section is that of fresh rays through the section that an iteration has left; 0 is the starting model. The last solver pass of an iteration goes along its old rays, before the last correction of the velocities and before they are smoothed, and its misfit is usually smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo scarto della sezione è quello di raggi nuovi attraverso la sezione lasciata da un&apos;iterazione; 0 è il modello iniziale. L&apos;ultimo passaggio del risolutore di un&apos;iterazione segue i suoi vecchi raggi, prima dell&apos;ultima correzione delle velocità e prima che siano smussate, e il suo scarto è di solito minore.</translation>
     </message>
     <message>
         <source>RMS misfit of the section after every external iteration (blue), 0 being the starting model, and of the last solver pass of each (grey)</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarto quadratico medio della sezione dopo ogni iterazione esterna (blu), 0 essendo il modello iniziale, e dell&apos;ultimo passaggio del risolutore di ognuna (grigio)</translation>
     </message>
     <message>
         <source>The picks have changed since this profile was built: it is that of the earlier picks.</source>
-        <translation type="unfinished"></translation>
+        <translation>I primi arrivi sono cambiati dopo la costruzione di questo profilo: è quello degli arrivi precedenti.</translation>
     </message>
     <message>
         <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dove i tempi portano a una velocità fuori dall&apos;intervallo da 50 a 12 000 m/s non se ne dà alcuna. La profondità non è data in quei punti, né sotto uno strato più veloce o di velocità o profondità non note, né dove è risultata maggiore della lunghezza della linea.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
-        <translation type="unfinished"></translation>
+        <translation>I primi arrivi sono i tempi in cui la prima energia sismica di un tiro raggiunge ogni geofono. Sono stati letti sulle tracce registrate.</translation>
     </message>
     <message>
         <source>They were inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sono stati invertiti per tomografia dei tempi di arrivo. Il terreno sotto la linea è diviso in celle quadrate a velocità costante, che seguono la superficie. Da ogni tiro si cercano i percorsi più rapidi verso tutti i geofoni nella rete dei nodi sui lati delle celle: sono i raggi. Le differenze fra tempi misurati e calcolati si distribuiscono lungo i raggi e correggono la lentezza delle celle attraversate, più volte sugli stessi raggi ed entro i limiti di velocità. La sezione corretta viene smussata e vi si tracciano nuovi raggi: questa è un&apos;iterazione esterna.</translation>
     </message>
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo scarto è la differenza fra tempi calcolati e misurati. I tempi calcolati sono quelli lungo raggi nuovi attraverso la sezione così come è disegnata. RMS è la media quadratica dello scarto, in millisecondi o in percentuale dei tempi misurati. La densità d&apos;informazione dice quanto completamente i raggi attraversano i dintorni di una cella; dove è bassa le velocità sono poco sostenute dai dati, e sotto i raggi più profondi la sezione non è disegnata. Velocità che diminuiscono con la profondità e strati sottili possono restare nascosti ai primi arrivi.</translation>
     </message>
 </context>
 <context>
@@ -2903,15 +2909,15 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
     <message>
         <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Apply Hushel then work on all shots.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre i tiri con tutte le tracce in vista, per quanto strette. AutoPick, Filtro, AGC e Applica Hushel lavorano allora su tutti i tiri.</translation>
     </message>
     <message>
         <source>Horizontal scalarbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala dei colori orizzontale</translation>
     </message>
     <message>
         <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mette la scala dei colori delle immagini salvate sopra la sezione, non accanto.</translation>
     </message>
 </context>
 <context>
@@ -2995,28 +3001,28 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <name>talvesk::TableTexts</name>
     <message>
         <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>La prima riga, &quot;%1&quot;, è stata presa per un&apos;intestazione e saltata.</translation>
     </message>
     <message>
         <source>line %1: &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1: &quot;%2&quot;</translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>e un altro</numerusform>
             <numerusform>e altri %n</numerusform>
         </translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Attenzione</translation>
+        <translation>Attenzione</translation>
     </message>
     <message numerus="yes">
         <source>%n field(s) of %1 that are no number were taken as 0.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n campo di %1 che non è un numero è stato preso come 0.</numerusform>
+            <numerusform>%n campi di %1 che non sono numeri sono stati presi come 0.</numerusform>
         </translation>
     </message>
 </context>
@@ -4378,71 +4384,71 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     </message>
     <message>
         <source>Start a new survey: asks for shot files, which then take the place of this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Comincia un nuovo rilievo: chiede i file dei tiri, che prendono poi il posto di questo</translation>
     </message>
     <message>
         <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
-        <translation type="unfinished"></translation>
+        <translation>File sismici (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</translation>
     </message>
     <message>
         <source>No shot file was loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun file dei tiri è stato caricato.</translation>
     </message>
     <message>
         <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with these libraries, Qt being version %1:&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Rilievi di sismica a rifrazione: dalle registrazioni di campagna alle sezioni di velocità.&lt;/p&gt;&lt;p&gt;Talvesk è software libero con licenza MIT, senza alcuna garanzia.&lt;/p&gt;&lt;p&gt;È costruito con queste librerie, Qt nella versione %1:&lt;/p&gt;</translation>
     </message>
     <message>
         <source>%1 is a folder or names no file. Give the project a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è una cartella o non indica alcun file. Dare un nome al progetto.</translation>
     </message>
     <message>
         <source>%1 is in use elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è in uso altrove.</translation>
     </message>
     <message>
         <source>%1 is in use by %2 on %3 (process %4).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è in uso da parte di %2 su %3 (processo %4).</translation>
     </message>
     <message>
         <source>Project in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Progetto in uso</translation>
     </message>
     <message>
         <source>If nobody uses it any more, delete the lock %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se nessuno lo usa più, eliminare il blocco %1</translation>
     </message>
     <message>
         <source>Do you want to replace it all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuoi sostituirlo comunque?</translation>
     </message>
     <message>
         <source>%1 has been changed by somebody else since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è stato modificato da qualcun altro dopo l&apos;ultima apertura o l&apos;ultimo salvataggio da qui.</translation>
     </message>
     <message>
         <source>Do you want to replace it? What was changed there is lost then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuoi sostituirlo? Le modifiche fatte lì andranno perse.</translation>
     </message>
     <message>
         <source>The file is as it was before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file è com&apos;era prima.</translation>
     </message>
     <message>
         <source>Do you want to open it all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuoi aprirlo comunque?</translation>
     </message>
     <message>
         <source>Some values of the project cannot be. They were put right or left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcuni valori del progetto non sono possibili. Sono stati corretti o tralasciati.</translation>
     </message>
     <message>
         <source>Left out of the inversion:</source>
-        <translation type="unfinished"></translation>
+        <translation>Esclusi dall&apos;inversione:</translation>
     </message>
     <message>
         <source>Left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esclusi: %1.</translation>
     </message>
 </context>
 <context>
@@ -4793,7 +4799,7 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     </message>
     <message>
         <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che la sezione mostra non ha isolinee. Quelle della velocità stanno fra %1 e %2 %3</translation>
     </message>
 </context>
 <context>
@@ -5103,23 +5109,23 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     </message>
     <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un quarto della distanza più piccola fra i geofoni, almeno 0,1 m. Se non è spuntato: il lato delle celle della griglia esistente, o il più piccolo se non ce n&apos;è una.</translation>
     </message>
     <message>
         <source>Propose</source>
-        <translation type="unfinished"></translation>
+        <translation>Proponi</translation>
     </message>
     <message>
         <source>Cell sizes that lose none:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lati delle celle senza perdite:</translation>
     </message>
     <message>
         <source>Lost to an inversion: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Andranno persi in un&apos;inversione: %1.</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished">%1 m</translation>
+        <translation>%1 m</translation>
     </message>
 </context>
 <context>
@@ -5364,7 +5370,7 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     </message>
     <message>
         <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni iterazione esterna traccia di nuovo i raggi attraverso il modello ottenuto finora. Con più iterazioni i raggi si avvicinano alla realtà e lo scarto diminuisce; il tempo cresce con il numero. Quando la curva dello scarto si è appiattita, altre cambiano poco. Il 5 dell&apos;etichetta basta per una prima occhiata; il campo parte da 10.</translation>
     </message>
 </context>
 <context>
@@ -5407,11 +5413,11 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     </message>
     <message>
         <source>Do you want to put them into the grid all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuoi metterli comunque nella griglia?</translation>
     </message>
     <message>
         <source>You have not changed the layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli strati non sono stati cambiati.</translation>
     </message>
 </context>
 <context>
