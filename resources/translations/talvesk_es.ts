@@ -771,23 +771,23 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
     <message>
         <source>RMS misfit %1 ms, %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Desajuste RMS %1 ms, %2 %</translation>
     </message>
     <message>
         <source>last solver pass %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>última pasada del solucionador %1 %</translation>
     </message>
     <message>
         <source>picks have changed since the inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>los picados han cambiado desde la inversión</translation>
     </message>
     <message>
         <source>Refractor %1 (picks have changed since)</source>
-        <translation type="unfinished"></translation>
+        <translation>Refractor %1 (los picados han cambiado desde entonces)</translation>
     </message>
     <message>
         <source>Picks have changed since this was built</source>
-        <translation type="unfinished"></translation>
+        <translation>Los picados han cambiado desde que se construyó este perfil</translation>
     </message>
 </context>
 <context>
@@ -1120,53 +1120,59 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Section, along fresh rays
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Sección, a lo largo de rayos nuevos
+</translation>
     </message>
     <message>
         <source>RMS: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>RMS: [ms] %1; [%] %2
+</translation>
     </message>
     <message>
         <source>Mean: [ms] %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Media: [ms] %1
+</translation>
     </message>
     <message>
         <source>Largest difference: [ms] %1; shot %2, receiver %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor diferencia: [ms] %1; disparo %2, receptor %3
+</translation>
     </message>
     <message>
         <source>Misfit of the section: RMS %1 ms (%2 %).</source>
-        <translation type="unfinished"></translation>
+        <translation>Desajuste de la sección: RMS %1 ms (%2 %).</translation>
     </message>
     <message>
         <source>Computing time: [s] %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo de cálculo: [s] %1
+</translation>
     </message>
     <message>
         <source>Last solver pass
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Última pasada del solucionador
+</translation>
     </message>
     <message>
         <source>Elapsed time: [s] %1
 </source>
-        <translation type="unfinished">Tiempo transcurrido: [s] %1
+        <translation>Tiempo transcurrido: [s] %1
 </translation>
     </message>
     <message>
         <source>RMSE: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished">RMSE: [ms] %1; [%] %2
+        <translation>RMSE: [ms] %1; [%] %2
 </translation>
     </message>
     <message>
         <source>MaxError: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished">Error máximo: [ms] %1; [%] %2
+        <translation>Error máximo: [ms] %1; [%] %2
 </translation>
     </message>
 </context>
@@ -1189,48 +1195,48 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 picados</translation>
     </message>
     <message numerus="yes">
         <source>%n shot(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n disparo más allá de la última columna</numerusform>
+            <numerusform>%n disparos más allá de la última columna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n geophone(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n geófono más allá de la última columna</numerusform>
+            <numerusform>%n geófonos más allá de la última columna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n shot(s) without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n disparo sin tendido de geófonos</numerusform>
+            <numerusform>%n disparos sin tendido de geófonos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Disparo %1 más allá de la última columna</numerusform>
+            <numerusform>Disparos %1 más allá de la última columna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Geophone(s) %1 of string %2 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Geófono %1 del tendido %2 más allá de la última columna</numerusform>
+            <numerusform>Geófonos %1 del tendido %2 más allá de la última columna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Disparo %1 sin tendido de geófonos</numerusform>
+            <numerusform>Disparos %1 sin tendido de geófonos</numerusform>
         </translation>
     </message>
 </context>
@@ -1281,35 +1287,35 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <name>talvesk::LossQuestion</name>
     <message>
         <source>the grid and the results of the inversion</source>
-        <translation type="unfinished">la malla y los resultados de la inversión</translation>
+        <translation>la malla y los resultados de la inversión</translation>
     </message>
     <message>
         <source>the grid</source>
-        <translation type="unfinished">la malla</translation>
+        <translation>la malla</translation>
     </message>
     <message>
         <source>the results of the inversion; the grid stays</source>
-        <translation type="unfinished"></translation>
+        <translation>los resultados de la inversión; la malla se mantiene</translation>
     </message>
     <message>
         <source>the layers of the starting model</source>
-        <translation type="unfinished"></translation>
+        <translation>las capas del modelo inicial</translation>
     </message>
     <message>
         <source>the refraction interpretation</source>
-        <translation type="unfinished">la interpretación por refracción</translation>
+        <translation>la interpretación por refracción</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Advertencia</translation>
+        <translation>Advertencia</translation>
     </message>
     <message>
         <source>The survey changes. This will be lost:</source>
-        <translation type="unfinished">El levantamiento cambia. Se perderán:</translation>
+        <translation>El levantamiento cambia. Se perderán:</translation>
     </message>
     <message>
         <source>Do you want to continue?</source>
-        <translation type="unfinished">¿Desea continuar?</translation>
+        <translation>¿Desea continuar?</translation>
     </message>
 </context>
 <context>
@@ -1362,11 +1368,11 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sección</translation>
     </message>
     <message>
         <source>Last solver pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Última pasada del solucionador</translation>
     </message>
 </context>
 <context>
@@ -1938,11 +1944,11 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     </message>
     <message>
         <source>The picks have changed since the profiles were built.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los picados han cambiado desde que se construyeron los perfiles.</translation>
     </message>
     <message>
         <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunas velocidades o profundidades no se conocen. Vuelva a construir los perfiles para saber por qué.</translation>
     </message>
 </context>
 <context>
@@ -2016,19 +2022,19 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     </message>
     <message>
         <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa %1: ningún disparo participante tiene dos picados de ella a un mismo lado, así que no tiene velocidad y las capas inferiores no tienen profundidad.</translation>
     </message>
     <message>
         <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa %1: la velocidad calculada queda fuera del rango de 50 a 12&#xa0;000 m/s, así que la capa no tiene velocidad y las capas inferiores no tienen profundidad.</translation>
     </message>
     <message>
         <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa %1: sin velocidad ni profundidad en %2 de %3 receptores, donde la velocidad calculada queda fuera del rango de 50 a 12&#xa0;000 m/s.</translation>
     </message>
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa %1: sin profundidad en %2 de %3 receptores, donde la profundidad calculada supera la longitud de la línea.</translation>
     </message>
 </context>
 <context>
@@ -2527,79 +2533,79 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     </message>
     <message>
         <source>Computing time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo de cálculo</translation>
     </message>
     <message>
         <source>Mean of computed minus measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Media de calculado menos medido</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>Largest difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor diferencia</translation>
     </message>
     <message>
         <source>%1 ms, shot %2, receiver %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms, disparo %2, receptor %3</translation>
     </message>
     <message>
         <source>Misfit of the section, along fresh rays</source>
-        <translation type="unfinished"></translation>
+        <translation>Desajuste de la sección, a lo largo de rayos nuevos</translation>
     </message>
     <message>
         <source>The section was smoothed after the inversion; its misfit is that of the smoothed one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sección se suavizó después de la inversión; el desajuste es el de la sección suavizada.</translation>
     </message>
     <message>
         <source>Picks have changed since the inversion: the section was fitted to others than those that its misfit is told of here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los picados han cambiado desde la inversión: la sección se ajustó a otros picados que aquellos a los que se refiere el desajuste indicado aquí.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Last solver pass of the inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Última pasada del solucionador de la inversión</translation>
     </message>
     <message>
         <source>Section, RMS [ms]</source>
-        <translation type="unfinished"></translation>
+        <translation>Sección, RMS [ms]</translation>
     </message>
     <message>
         <source>Last solver pass, RMS [ms]</source>
-        <translation type="unfinished"></translation>
+        <translation>Última pasada del solucionador, RMS [ms]</translation>
     </message>
     <message>
         <source>The misfit of the section is that of fresh rays through the section that an iteration has left; 0 is the starting model. The last solver pass of an iteration goes along its old rays, before the last correction of the velocities and before they are smoothed, and its misfit is usually smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>El desajuste de la sección es el de rayos nuevos a través de la sección que ha dejado una iteración; 0 es el modelo inicial. La última pasada del solucionador de una iteración sigue los rayos antiguos de esta, antes de la última corrección de las velocidades y antes de suavizarlas, y su desajuste suele ser menor.</translation>
     </message>
     <message>
         <source>RMS misfit of the section after every external iteration (blue), 0 being the starting model, and of the last solver pass of each (grey)</source>
-        <translation type="unfinished"></translation>
+        <translation>Desajuste RMS de la sección después de cada iteración externa (azul), siendo 0 el modelo inicial, y de la última pasada del solucionador de cada una (gris)</translation>
     </message>
     <message>
         <source>The picks have changed since this profile was built: it is that of the earlier picks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los picados han cambiado desde que se construyó este perfil: es el de los picados anteriores.</translation>
     </message>
     <message>
         <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se da velocidad donde los tiempos llevarían a una fuera del rango de 50 a 12&#xa0;000 m/s. No se da profundidad en esos puntos, ni por debajo de una capa cuya velocidad o profundidad no se conoce o que es más rápida, ni donde la profundidad calculada supera la longitud de la línea.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las primeras llegadas son los tiempos en que la primera energía sísmica de un disparo alcanza cada geófono. Se picaron en las trazas registradas.</translation>
     </message>
     <message>
         <source>They were inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se invirtieron mediante tomografía de tiempos de recorrido. El terreno bajo la línea se divide en celdas cuadradas de velocidad constante que siguen la superficie. Desde cada disparo se buscan los caminos más rápidos hasta todos los geófonos en la red de nodos situados en los lados de las celdas: son los rayos. Las diferencias entre tiempos medidos y calculados se reparten a lo largo de los rayos y corrigen la lentitud de las celdas que atraviesan, varias veces sobre los mismos rayos y dentro de los límites de velocidad. La sección corregida se suaviza y se trazan en ella nuevos rayos: eso es una iteración externa.</translation>
     </message>
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation type="unfinished"></translation>
+        <translation>El desajuste es la diferencia entre los tiempos calculados y los medidos. Los tiempos calculados son los que resultan a lo largo de rayos nuevos a través de la sección tal como está dibujada. RMS es la media cuadrática del desajuste, en milisegundos o en porcentaje de los tiempos medidos. La densidad de información dice hasta qué punto los rayos cruzan los alrededores de una celda; donde es baja, los datos apoyan poco las velocidades, y por debajo de los rayos más profundos la sección no se dibuja. Las velocidades que disminuyen con la profundidad y las capas delgadas pueden quedar ocultas a las primeras llegadas.</translation>
     </message>
 </context>
 <context>
@@ -2903,15 +2909,15 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     </message>
     <message>
         <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Apply Hushel then work on all shots.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre los disparos con todas las trazas a la vista, por estrechas que sean. AutoPick, Filtro, AGC y Aplicar Hushel actúan entonces sobre todos los disparos.</translation>
     </message>
     <message>
         <source>Horizontal scalarbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de color horizontal</translation>
     </message>
     <message>
         <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone la barra de color de las imágenes guardadas encima de la sección, no al lado.</translation>
     </message>
 </context>
 <context>
@@ -2995,28 +3001,28 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <name>talvesk::TableTexts</name>
     <message>
         <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>La primera línea, «%1», se ha tomado por un encabezado y se ha omitido.</translation>
     </message>
     <message>
         <source>line %1: &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: «%2»</translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>y %n más</numerusform>
             <numerusform>y %n más</numerusform>
         </translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Advertencia</translation>
+        <translation>Advertencia</translation>
     </message>
     <message numerus="yes">
         <source>%n field(s) of %1 that are no number were taken as 0.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n campo de %1 que no es un número se ha tomado como 0.</numerusform>
+            <numerusform>%n campos de %1 que no son números se han tomado como 0.</numerusform>
         </translation>
     </message>
 </context>
@@ -4378,71 +4384,71 @@ Do you want to run refraction processing anyway? </source>
     </message>
     <message>
         <source>Start a new survey: asks for shot files, which then take the place of this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicia un levantamiento nuevo: pide archivos de disparos, que ocupan entonces el lugar del actual</translation>
     </message>
     <message>
         <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos sísmicos (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</translation>
     </message>
     <message>
         <source>No shot file was loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cargado ningún archivo de disparos.</translation>
     </message>
     <message>
         <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with these libraries, Qt being version %1:&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Levantamientos de sísmica de refracción: de los registros de campo a las secciones de velocidad.&lt;/p&gt;&lt;p&gt;Talvesk es software libre con licencia MIT, sin garantía alguna.&lt;/p&gt;&lt;p&gt;Está construido con estas bibliotecas, con Qt en la versión %1:&lt;/p&gt;</translation>
     </message>
     <message>
         <source>%1 is a folder or names no file. Give the project a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es una carpeta o no designa ningún archivo. Dé un nombre al proyecto.</translation>
     </message>
     <message>
         <source>%1 is in use elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está en uso en otro lugar.</translation>
     </message>
     <message>
         <source>%1 is in use by %2 on %3 (process %4).</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 está usando %1 en %3 (proceso %4).</translation>
     </message>
     <message>
         <source>Project in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto en uso</translation>
     </message>
     <message>
         <source>If nobody uses it any more, delete the lock %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Si ya nadie lo usa, elimine el bloqueo %1</translation>
     </message>
     <message>
         <source>Do you want to replace it all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea reemplazarlo de todos modos?</translation>
     </message>
     <message>
         <source>%1 has been changed by somebody else since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra persona ha modificado %1 desde que se abrió o se guardó aquí.</translation>
     </message>
     <message>
         <source>Do you want to replace it? What was changed there is lost then.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea reemplazarlo? En ese caso se pierden esos cambios.</translation>
     </message>
     <message>
         <source>The file is as it was before.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo está como estaba.</translation>
     </message>
     <message>
         <source>Do you want to open it all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea abrirlo de todos modos?</translation>
     </message>
     <message>
         <source>Some values of the project cannot be. They were put right or left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos valores del proyecto son imposibles. Se han corregido o descartado.</translation>
     </message>
     <message>
         <source>Left out of the inversion:</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluidos de la inversión:</translation>
     </message>
     <message>
         <source>Left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluidos: %1.</translation>
     </message>
 </context>
 <context>
@@ -4793,7 +4799,7 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     </message>
     <message>
         <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que muestra la sección no tiene isolíneas. Las de la velocidad están entre %1 y %2 %3</translation>
     </message>
 </context>
 <context>
@@ -5103,23 +5109,23 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     </message>
     <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un cuarto de la menor separación entre geófonos, 0,1 m como mínimo. Sin marcar: el tamaño de celda de la malla existente, o el menor si no hay malla.</translation>
     </message>
     <message>
         <source>Propose</source>
-        <translation type="unfinished"></translation>
+        <translation>Proponer</translation>
     </message>
     <message>
         <source>Cell sizes that lose none:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaños de celda sin pérdidas:</translation>
     </message>
     <message>
         <source>Lost to an inversion: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se pierden para la inversión: %1.</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished">%1 m</translation>
+        <translation>%1 m</translation>
     </message>
 </context>
 <context>
@@ -5364,7 +5370,7 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     </message>
     <message>
         <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada iteración externa vuelve a trazar los rayos a través del modelo obtenido hasta entonces. Con más iteraciones los rayos se curvan de forma más fiel a la realidad y el desajuste disminuye; el tiempo crece con el número. Cuando la curva del desajuste se ha aplanado, más iteraciones cambian poco. El 5 de la etiqueta basta para una primera impresión; el campo empieza en 10.</translation>
     </message>
 </context>
 <context>
@@ -5407,11 +5413,11 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     </message>
     <message>
         <source>Do you want to put them into the grid all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea ponerlas de todos modos en la malla?</translation>
     </message>
     <message>
         <source>You have not changed the layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>No ha modificado las capas.</translation>
     </message>
 </context>
 <context>

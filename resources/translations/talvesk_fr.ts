@@ -771,23 +771,23 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
     <message>
         <source>RMS misfit %1 ms, %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart quadratique moyen %1 ms, %2&#xa0;%</translation>
     </message>
     <message>
         <source>last solver pass %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>dernière passe du solveur %1&#xa0;%</translation>
     </message>
     <message>
         <source>picks have changed since the inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>les pointés ont changé depuis l&apos;inversion</translation>
     </message>
     <message>
         <source>Refractor %1 (picks have changed since)</source>
-        <translation type="unfinished"></translation>
+        <translation>Réfracteur %1 (les pointés ont changé depuis)</translation>
     </message>
     <message>
         <source>Picks have changed since this was built</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pointés ont changé depuis la construction de ce profil</translation>
     </message>
 </context>
 <context>
@@ -1120,53 +1120,59 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Section, along fresh rays
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Coupe, le long de nouveaux rais
+</translation>
     </message>
     <message>
         <source>RMS: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>RMS&#xa0;: [ms] %1&#xa0;; [%] %2
+</translation>
     </message>
     <message>
         <source>Mean: [ms] %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne&#xa0;: [ms] %1
+</translation>
     </message>
     <message>
         <source>Largest difference: [ms] %1; shot %2, receiver %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grande différence&#xa0;: [ms] %1&#xa0;; tir %2, récepteur %3
+</translation>
     </message>
     <message>
         <source>Misfit of the section: RMS %1 ms (%2 %).</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart de la coupe&#xa0;: RMS %1 ms (%2&#xa0;%).</translation>
     </message>
     <message>
         <source>Computing time: [s] %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Temps de calcul&#xa0;: [s] %1
+</translation>
     </message>
     <message>
         <source>Last solver pass
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière passe du solveur
+</translation>
     </message>
     <message>
         <source>Elapsed time: [s] %1
 </source>
-        <translation type="unfinished">Temps écoulé&#xa0;: [s] %1
+        <translation>Temps écoulé&#xa0;: [s] %1
 </translation>
     </message>
     <message>
         <source>RMSE: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished">RMSE&#xa0;: [ms] %1&#xa0;; [%] %2
+        <translation>RMSE&#xa0;: [ms] %1&#xa0;; [%] %2
 </translation>
     </message>
     <message>
         <source>MaxError: [ms] %1; [%] %2
 </source>
-        <translation type="unfinished">Erreur maximale&#xa0;: [ms] %1&#xa0;; [%] %2
+        <translation>Erreur maximale&#xa0;: [ms] %1&#xa0;; [%] %2
 </translation>
     </message>
 </context>
@@ -1189,48 +1195,48 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2 pointés</translation>
     </message>
     <message numerus="yes">
         <source>%n shot(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tir au-delà de la dernière colonne</numerusform>
+            <numerusform>%n tirs au-delà de la dernière colonne</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n geophone(s) beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n géophone au-delà de la dernière colonne</numerusform>
+            <numerusform>%n géophones au-delà de la dernière colonne</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n shot(s) without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tir sans dispositif de géophones</numerusform>
+            <numerusform>%n tirs sans dispositif de géophones</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Tir %1 au-delà de la dernière colonne</numerusform>
+            <numerusform>Tirs %1 au-delà de la dernière colonne</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Geophone(s) %1 of string %2 beyond the last column</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Géophone %1 du dispositif %2 au-delà de la dernière colonne</numerusform>
+            <numerusform>Géophones %1 du dispositif %2 au-delà de la dernière colonne</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Shot(s) %1 without a geophone string</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Tir %1 sans dispositif de géophones</numerusform>
+            <numerusform>Tirs %1 sans dispositif de géophones</numerusform>
         </translation>
     </message>
 </context>
@@ -1281,35 +1287,35 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <name>talvesk::LossQuestion</name>
     <message>
         <source>the grid and the results of the inversion</source>
-        <translation type="unfinished">la grille et les résultats de l&apos;inversion</translation>
+        <translation>la grille et les résultats de l&apos;inversion</translation>
     </message>
     <message>
         <source>the grid</source>
-        <translation type="unfinished">la grille</translation>
+        <translation>la grille</translation>
     </message>
     <message>
         <source>the results of the inversion; the grid stays</source>
-        <translation type="unfinished"></translation>
+        <translation>les résultats de l&apos;inversion&#xa0;; la grille reste</translation>
     </message>
     <message>
         <source>the layers of the starting model</source>
-        <translation type="unfinished"></translation>
+        <translation>les couches du modèle initial</translation>
     </message>
     <message>
         <source>the refraction interpretation</source>
-        <translation type="unfinished">l&apos;interprétation en réfraction</translation>
+        <translation>l&apos;interprétation en réfraction</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Avertissement</translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>The survey changes. This will be lost:</source>
-        <translation type="unfinished">Le levé change. Ceci sera perdu&#xa0;:</translation>
+        <translation>Le levé change. Ceci sera perdu&#xa0;:</translation>
     </message>
     <message>
         <source>Do you want to continue?</source>
-        <translation type="unfinished">Voulez-vous continuer&#xa0;?</translation>
+        <translation>Voulez-vous continuer&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1362,11 +1368,11 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Coupe</translation>
     </message>
     <message>
         <source>Last solver pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière passe du solveur</translation>
     </message>
 </context>
 <context>
@@ -1938,11 +1944,11 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
     <message>
         <source>The picks have changed since the profiles were built.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pointés ont changé depuis la construction des profils.</translation>
     </message>
     <message>
         <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certaines vitesses ou profondeurs ne sont pas connues. Reconstruisez les profils pour en connaître la raison.</translation>
     </message>
 </context>
 <context>
@@ -2016,19 +2022,19 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
     <message>
         <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couche %1&#xa0;: aucun tir participant n&apos;a deux pointés dans cette couche d&apos;un même côté&#xa0;; elle n&apos;a donc pas de vitesse et les couches inférieures n&apos;ont pas de profondeur.</translation>
     </message>
     <message>
         <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couche %1&#xa0;: la vitesse calculée est hors de la plage de 50 à 12&#xa0;000 m/s&#xa0;; la couche n&apos;en a donc pas et les couches inférieures n&apos;ont pas de profondeur.</translation>
     </message>
     <message>
         <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couche %1&#xa0;: ni vitesse ni profondeur à %2 des %3 récepteurs, où la vitesse calculée est hors de la plage de 50 à 12&#xa0;000 m/s.</translation>
     </message>
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couche %1&#xa0;: aucune profondeur à %2 des %3 récepteurs, où la profondeur calculée dépasse la longueur de la ligne.</translation>
     </message>
 </context>
 <context>
@@ -2527,79 +2533,79 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
     <message>
         <source>Computing time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps de calcul</translation>
     </message>
     <message>
         <source>Mean of computed minus measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne de calculés moins mesurés</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>Largest difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grande différence</translation>
     </message>
     <message>
         <source>%1 ms, shot %2, receiver %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms, tir %2, récepteur %3</translation>
     </message>
     <message>
         <source>Misfit of the section, along fresh rays</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart de la coupe, le long de nouveaux rais</translation>
     </message>
     <message>
         <source>The section was smoothed after the inversion; its misfit is that of the smoothed one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coupe a été lissée après l&apos;inversion&#xa0;; l&apos;écart est celui de la coupe lissée.</translation>
     </message>
     <message>
         <source>Picks have changed since the inversion: the section was fitted to others than those that its misfit is told of here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pointés ont changé depuis l&apos;inversion&#xa0;: la coupe a été ajustée à d&apos;autres pointés que ceux auxquels se rapporte l&apos;écart donné ici.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Last solver pass of the inversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière passe du solveur de l&apos;inversion</translation>
     </message>
     <message>
         <source>Section, RMS [ms]</source>
-        <translation type="unfinished"></translation>
+        <translation>Coupe, RMS [ms]</translation>
     </message>
     <message>
         <source>Last solver pass, RMS [ms]</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière passe du solveur, RMS [ms]</translation>
     </message>
     <message>
         <source>The misfit of the section is that of fresh rays through the section that an iteration has left; 0 is the starting model. The last solver pass of an iteration goes along its old rays, before the last correction of the velocities and before they are smoothed, and its misfit is usually smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;écart de la coupe est celui de nouveaux rais à travers la coupe qu&apos;une itération a laissée&#xa0;; 0 est le modèle initial. La dernière passe du solveur d&apos;une itération suit les anciens rais de celle-ci, avant la dernière correction des vitesses et avant leur lissage, et son écart est en général plus petit.</translation>
     </message>
     <message>
         <source>RMS misfit of the section after every external iteration (blue), 0 being the starting model, and of the last solver pass of each (grey)</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart quadratique moyen de la coupe après chaque itération externe (bleu), 0 étant le modèle initial, et de la dernière passe du solveur de chacune (gris)</translation>
     </message>
     <message>
         <source>The picks have changed since this profile was built: it is that of the earlier picks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pointés ont changé depuis la construction de ce profil&#xa0;: il est celui des pointés antérieurs.</translation>
     </message>
     <message>
         <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune vitesse n&apos;est donnée là où les temps en donneraient une hors de la plage de 50 à 12&#xa0;000 m/s. Aucune profondeur n&apos;est donnée à ces endroits, ni sous une couche dont la vitesse ou la profondeur n&apos;est pas connue ou qui est plus rapide, ni là où la profondeur calculée dépasse la longueur de la ligne.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les premières arrivées sont les instants auxquels la première énergie sismique d&apos;un tir atteint chaque géophone. Elles ont été pointées sur les traces enregistrées.</translation>
     </message>
     <message>
         <source>They were inverted by travel-time tomography. The ground beneath the line is divided into square cells of constant velocity, which follow the surface. From each shot the fastest paths to all geophones are searched for in the network of nodes on the sides of the cells; they are the rays. The differences between measured and computed times are distributed along the rays and correct the slowness of the cells that they cross, several times over on the same rays, within the limits of velocity. The corrected section is smoothed, and new rays are traced through it: that is one external iteration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elles ont été inversées par tomographie des temps de parcours. Le terrain sous la ligne est divisé en cellules carrées de vitesse constante, qui suivent la surface. Depuis chaque tir, les chemins les plus rapides vers tous les géophones sont recherchés dans le réseau des nœuds placés sur les côtés des cellules&#xa0;: ce sont les rais. Les différences entre temps mesurés et calculés sont réparties le long des rais et corrigent la lenteur des cellules qu&apos;ils traversent, plusieurs fois sur les mêmes rais et dans les limites de vitesse. La coupe corrigée est lissée et de nouveaux rais y sont tracés&#xa0;: c&apos;est une itération externe.</translation>
     </message>
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;écart est la différence entre temps calculés et mesurés. Les temps calculés sont ceux le long de nouveaux rais à travers la coupe telle qu&apos;elle est dessinée. Le RMS est la moyenne quadratique de l&apos;écart, en millisecondes ou en pourcentage des temps mesurés. La densité d&apos;information dit à quel point les rais traversent les environs d&apos;une cellule&#xa0;; là où elle est faible, les vitesses sont peu étayées par les données, et sous les rais les plus profonds la coupe n&apos;est pas dessinée. Des vitesses qui diminuent avec la profondeur et des couches minces peuvent rester cachées aux premières arrivées.</translation>
     </message>
 </context>
 <context>
@@ -2903,15 +2909,15 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
     <message>
         <source>Opens shots with all traces in view, however narrow. AutoPick, Filter, AGC and Apply Hushel then work on all shots.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre les tirs avec toutes les traces visibles, si étroites soient-elles. AutoPick, Filtre, AGC et Appliquer Hushel agissent alors sur tous les tirs.</translation>
     </message>
     <message>
         <source>Horizontal scalarbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Échelle de couleurs horizontale</translation>
     </message>
     <message>
         <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Place l&apos;échelle de couleurs des images enregistrées au-dessus de la coupe, et non à côté.</translation>
     </message>
 </context>
 <context>
@@ -2995,28 +3001,28 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <name>talvesk::TableTexts</name>
     <message>
         <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>La première ligne, «&#xa0;%1&#xa0;», a été prise pour un en-tête et ignorée.</translation>
     </message>
     <message>
         <source>line %1: &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1&#xa0;: «&#xa0;%2&#xa0;»</translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>et %n autre</numerusform>
             <numerusform>et %n autres</numerusform>
         </translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Avertissement</translation>
+        <translation>Avertissement</translation>
     </message>
     <message numerus="yes">
         <source>%n field(s) of %1 that are no number were taken as 0.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n champ de %1 qui n&apos;est pas un nombre a été lu comme 0.</numerusform>
+            <numerusform>%n champs de %1 qui ne sont pas des nombres ont été lus comme 0.</numerusform>
         </translation>
     </message>
 </context>
@@ -4378,71 +4384,71 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     </message>
     <message>
         <source>Start a new survey: asks for shot files, which then take the place of this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer un nouveau levé&#xa0;: demande des fichiers de tirs, qui prennent alors la place de celui-ci</translation>
     </message>
     <message>
         <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers sismiques (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</translation>
     </message>
     <message>
         <source>No shot file was loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier de tir n&apos;a été chargé.</translation>
     </message>
     <message>
         <source>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Seismic refraction surveys: from field records to velocity sections.&lt;/p&gt;&lt;p&gt;Talvesk is free software under the MIT licence, without any warranty.&lt;/p&gt;&lt;p&gt;It is built with these libraries, Qt being version %1:&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Talvesk 2022.0&lt;/h2&gt;&lt;p&gt;Levés de sismique réfraction&#xa0;: des enregistrements de terrain aux coupes de vitesse.&lt;/p&gt;&lt;p&gt;Talvesk est un logiciel libre sous licence MIT, sans aucune garantie.&lt;/p&gt;&lt;p&gt;Il est construit avec ces bibliothèques, Qt étant en version %1&#xa0;:&lt;/p&gt;</translation>
     </message>
     <message>
         <source>%1 is a folder or names no file. Give the project a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est un dossier ou ne désigne aucun fichier. Donnez un nom au projet.</translation>
     </message>
     <message>
         <source>%1 is in use elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est utilisé ailleurs.</translation>
     </message>
     <message>
         <source>%1 is in use by %2 on %3 (process %4).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est utilisé par %2 sur %3 (processus %4).</translation>
     </message>
     <message>
         <source>Project in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Projet en cours d&apos;utilisation</translation>
     </message>
     <message>
         <source>If nobody uses it any more, delete the lock %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Si plus personne ne l&apos;utilise, supprimez le verrou %1</translation>
     </message>
     <message>
         <source>Do you want to replace it all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous tout de même le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>%1 has been changed by somebody else since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a été modifié par quelqu&apos;un d&apos;autre depuis qu&apos;il a été ouvert ou enregistré ici.</translation>
     </message>
     <message>
         <source>Do you want to replace it? What was changed there is lost then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous le remplacer&#xa0;? Ces modifications seront alors perdues.</translation>
     </message>
     <message>
         <source>The file is as it was before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est tel qu&apos;il était auparavant.</translation>
     </message>
     <message>
         <source>Do you want to open it all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous tout de même l&apos;ouvrir&#xa0;?</translation>
     </message>
     <message>
         <source>Some values of the project cannot be. They were put right or left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certaines valeurs du projet sont impossibles. Elles ont été corrigées ou écartées.</translation>
     </message>
     <message>
         <source>Left out of the inversion:</source>
-        <translation type="unfinished"></translation>
+        <translation>Écartés de l&apos;inversion&#xa0;:</translation>
     </message>
     <message>
         <source>Left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écartés&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -4793,7 +4799,7 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     </message>
     <message>
         <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que montre la coupe n&apos;a pas d&apos;isolignes. Celles de la vitesse sont comprises entre %1 et %2 %3</translation>
     </message>
 </context>
 <context>
@@ -5103,23 +5109,23 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     </message>
     <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le quart du plus petit espacement des géophones, 0,1 m au moins. Décochée&#xa0;: la taille des cellules de la grille existante, la plus petite s&apos;il n&apos;y en a pas.</translation>
     </message>
     <message>
         <source>Propose</source>
-        <translation type="unfinished"></translation>
+        <translation>Proposer</translation>
     </message>
     <message>
         <source>Cell sizes that lose none:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tailles de cellules sans perte&#xa0;:</translation>
     </message>
     <message>
         <source>Lost to an inversion: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdus pour une inversion&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished">%1 m</translation>
+        <translation>%1 m</translation>
     </message>
 </context>
 <context>
@@ -5364,7 +5370,7 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     </message>
     <message>
         <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque itération externe retrace les rais à travers le modèle obtenu jusque-là. Davantage d&apos;itérations courbent les rais plus près de la réalité et réduisent l&apos;écart&#xa0;; le temps croît avec leur nombre. Quand la courbe de l&apos;écart s&apos;est aplatie, de nouvelles itérations changent peu. Le 5 de l&apos;intitulé suffit pour un premier aperçu&#xa0;; le champ lui-même commence à 10.</translation>
     </message>
 </context>
 <context>
@@ -5407,11 +5413,11 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     </message>
     <message>
         <source>Do you want to put them into the grid all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous tout de même les mettre dans la grille&#xa0;?</translation>
     </message>
     <message>
         <source>You have not changed the layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous n&apos;avez pas modifié les couches.</translation>
     </message>
 </context>
 <context>
