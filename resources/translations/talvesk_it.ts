@@ -941,6 +941,78 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::GuideWindow</name>
+    <message>
+        <source>User guide</source>
+        <translation type="unfinished">Guida per l&apos;utente</translation>
+    </message>
+    <message>
+        <source>Pages found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find previous</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open in browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>title of a page, number of places</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished">%1 di %2</translation>
+    </message>
+    <message>
+        <source>No program to show the user guide was found.</source>
+        <translation type="unfinished">Non è stato trovato un programma per mostrare la guida.</translation>
+    </message>
+    <message>
+        <source>You find it in %1</source>
+        <translation type="unfinished">Si trova in %1</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ImagesDialog</name>
     <message>
         <source>Images</source>
@@ -1316,6 +1388,1623 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Do you want to continue?</source>
         <translation>Vuoi continuare?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::Message</name>
+    <message>
+        <source>The inversion failed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture cannot be made: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The view cannot be drawn for a picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its name is not valid UTF-8 text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its text could not be put together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its %1 bytes are more than the limit of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is %2; choose another place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>protected against writing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be created: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be given its permissions: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are more than %1 rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot; is no number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the survey has no grid; create the grid or run the inversion first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no cell of the section is drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>eastward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>northward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>westward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>southward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no reference system that is known here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a projected system; easting and northing need one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no axes that are known here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 counts in another unit than the metre: %2; choose a system in metres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 counts %2 and %3; choose a system with easting and northing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2) cannot be turned into longitude and latitude</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the Y coordinate and the Z offset of the line must be finite numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write %1: its text could not be put together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the coordinates of the geophones are not numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first and the last geophone have the same coordinates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the coordinates of the geophones lie outside of EPSG:%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
+        <translation type="unfinished">Mancano le coordinate geografiche: i dati non possono essere esportati in formato KML</translation>
+    </message>
+    <message>
+        <source>the section has too many cells for this format, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the palette has no colours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value range of the section is empty; its maximum must be greater than its minimum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the survey has no geophones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the raster would have %1 nodes; choose larger cells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not enough memory for a picture of this size: choose a smaller size or resolution.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PNG picture cannot be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SVG picture cannot be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PDF page cannot be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A figure cannot be drawn before the application object exists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A figure cannot be drawn without fonts: install a font package, for instance fonts-dejavu-core.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No picture format is known for %1: let the file name end with .png, .svg or .pdf.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A figure cannot be %1 mm wide: choose %2 to %3 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A figure cannot be %1 mm high: choose %2 to %3 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A figure cannot be %1 pixels per inch: choose %2 to %3 pixels per inch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A picture of %1 million pixels is too large: the limit is %2 million. Choose a smaller size or resolution.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDF file needs a page at least.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be drawn before the application object exists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is too small for what it shows with its axes and texts: choose a larger size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document has no traces to draw.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The times from %1 to %2 ms cannot be drawn: choose a begin of 0 or more and an end after it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The gain of a gather must lie above 0 and not above %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wiggles can be cut at more than 0 and up to 100 trace distances.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no shot %1 to draw: the document has %2 with traces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 shot</source>
+        <translation type="unfinished">1 tiro</translation>
+    </message>
+    <message>
+        <source>%1 shots</source>
+        <translation type="unfinished">%1 tiri</translation>
+    </message>
+    <message>
+        <source>The inversion has no misfit to draw.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no residuals to draw.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no refractor with a depth to draw.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no survey to report on: load shot files or travel times first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No report format is known for %1: let the file name end with .pdf or .odt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report was stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The vertical exaggeration must lie between 0.01 and 100, or be 0 to let the picture choose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The palette &quot;%1&quot; has no colours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The section has no extent to draw.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is too small for the section with its axes and texts: choose a larger size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no travel times to draw: pick first breaks, or load travel times, first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document cannot be packed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its bytes cannot be read back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cell %1 has no valid velocity (slowness %2 s/m)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A grid of %1 rows and %2 columns with %3 nodes per side %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no cells; choose cells smaller than the array is long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has %1 nodes; at most %2 can be numbered. Choose larger cells or a smaller depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>needs about %1 MiB, but only %2 MiB are free. Choose larger cells or a smaller depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The grid of the layered model could not be built.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line holds %1 characters, more than the limit of %2; split the table into one file per spread</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first line names no receiver</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are %1 for %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 without an elevation were taken to lie at 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the shot has no elevation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: only %2 for %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>invalid stod argument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stod argument out of range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write %1: there are %2 labels for %3 records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line holds more than %1 characters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 has no x and z; check the separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, line %2 does not begin with a number; check the separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds more than %2 values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are only %1 shots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a layer number: 0 for none, 1, 2 or 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shot %1 has %2 traces, which is not how many layer numbers there are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: it holds layers of %2 shots, and there are %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first line is %1 where &quot;otte&quot; must stand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the format version is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the format version %1 was read as &quot;1.0&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line 3 holds %1, not 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the %1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line of each %1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are %1 but %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file names %1 strings for %2 and %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are more records than the %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the record names string %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>record %1 names trace set %2; it was taken for that of its own place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last line does not end in &quot;;&quot;: the file may be cut short</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the records need %1 in %2, the file holds %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no string claims the last %1: a record of each string must hold one time per geophone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the strings without a record do not share %1 equally; the first ones took one more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>record %1 holds %2 for %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is too large for a palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no palette file: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the byte order mark before the first line was ignored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the %1 %2 is not a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the %1 %2 is out of range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the %1 %2 is not finite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the %1 %2 is not a whole number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and more of this kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 and what follows it was ignored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file holds no shot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid phone list : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 for %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid header : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must stand here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid match : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: %2 is not a number and was taken as 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: number %2 is named twice; its last value was taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number %1 is not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 has no %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid times : %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of shot %2 for %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>geophone distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>geophone elevation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shot distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shot elevation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>receiver number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>receiver distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>receiver elevation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>elevation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>receiver</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>first-break time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>format constant 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of geophone strings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>string of the record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trace set of the record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 geophone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 geophones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 receiver</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 receivers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 shot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 shot position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 shot positions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 geophone distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 geophone distances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 shot distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 shot distances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 elevation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 elevations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 string</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 strings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 rows of %2 columns do not go with %3 velocities and %4 draw flags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cells with %1 nodes per side, %2 m long, cannot be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a velocity is not a positive number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is a grid, but no two geophones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the grid cannot be built</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the limit of its rays lies off the line; it is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its information density does not fit the grid; it is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what it tells of its last inversion cannot be; it is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a geophone has no place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a shot was recorded by geophone string %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a shot has no place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the grid cannot be built: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layers belong to shot %1, but %2 shots exist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an arrival belongs to a layer that does not exist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You may not read it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It cannot be extracted: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, or deeper than the line is long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; the coverage of the last inversion and its figures are not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No temporary folder can be created in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It cannot be extracted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It cannot be loaded: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its title has control characters or is too long; it reads %1 now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its RMS misfit is no number; it is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its limits of velocity cannot be; they are as in a new survey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a layer of its starting model cannot be; the model is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a cell size that it proposes cannot be; it proposes new ones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its geographic coordinates are no numbers; they are left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no section can be drawn with a vertical exaggeration of %1; it is %2 now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its contours cannot be drawn so; they are put right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its section shows a quantity that does not exist; it is the velocity now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its geophone markers have a size that does not exist; it is normal now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>velocities of %1 cell cannot be; they are held within %2 and %3 m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>velocities of %1 cells cannot be; they are held within %2 and %3 m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a time shift of its arrivals cannot be; it is 0 now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its layered profile cannot be; it is left out and can be built again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its coverage and figures do not go with the grid and the inversion of the project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no name of a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trace set %1 has %2 traces, but %3 filtered copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten and its traces are empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has %2 traces instead of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are %1 trace sets, but %2 travel-time records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no travel-time record belongs to trace set %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 have different numbers of traces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>wave type %1 does not exist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are more files or filtered copies than trace sets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trace set %1 has a position or delay that cannot be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trace set %1 has a sample that is no finite number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its parts cannot be written in %1; is the disk full?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The archive %1 cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It cannot be put together: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it unpacks to more than %1, which no project of %2 does</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it unpacks to %1 or more, and the disk has room for %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be extracted: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in it cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in it is damaged: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in it is not as long as it says</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be added to the archive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The archive %1 cannot be written: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it holds %1 files, more than %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in it is no name of a file without a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>two files in it are called %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files of the project are %1, more than the %2 that can be opened again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is no archive of a project, or damaged: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is nothing in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is no archive of a project: there is no %1 in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its list of files is damaged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it cannot be closed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its headers promise %1 traces of more data than can come from %2 bytes; the file is damaged or no shot file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trace %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 traces, the first of them trace %2,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the %1 in the header of %2 is no finite number; what cannot be used of it was taken as 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is no SEG-2 file of little-endian numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its last trace has no usable sample interval</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>source position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>receiver position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>delay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>data format code %1: one 16-bit sample is taken of every four bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>data format code %1 is not read; its samples are 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its traces are taken to lie as close as the 16-bit data of the SEG-Y file before it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it says that its numbers are little-endian, but is read big-endian as a file before it; load the little-endian files first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its numbers seem to be in the other byte order; load a SEG-Y file of that order first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation type="unfinished">%1: %2 {1;?}</translation>
+    </message>
+    <message>
+        <source>%1 bytes after the traces that its headers name were not read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>data format code %1 (IBM floats) is not read; its samples are 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its suffix is none of seg2, dat, sg2, sgy, segy, su</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error while loading %1</source>
+        <translation type="unfinished">Errore nel caricamento di %1. {1?}</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation type="unfinished">%1: %2 {1.?}</translation>
+    </message>
+    <message>
+        <source>the survey holds S-wave pairs; add more of them in the survey geometry, or start a new survey to load shot files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the survey holds picks without traces; start a new survey to load shot files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file holds no trace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is cut short: %1 bytes that its headers promise are missing and were taken as zeros</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 samples that are no finite numbers were set to 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its traces have different numbers of samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its traces have different sample intervals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a sample interval is not positive, so that times mean nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shot file %1 could not be copied; its traces are saved without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the shot files %1 and %2 only the second is in the project; the traces of both are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished">%1 ms</translation>
+    </message>
+    <message>
+        <source>a file holds no traces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the DX file has %1 traces, the SX file %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trace %1 has a sample interval of %2 in the DX file and of %3 in the SX file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trace %1 has a delay of %2 in the DX file and of %3 in the SX file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DX and SX differ in receiver positions; those of DX count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DX and SX differ in source position; that of DX counts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DX and SX differ in length; that of DX counts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: DX and SX are the same file; their difference is nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 are no pair: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a geophone of string %1 has no finite position; edit the geometry first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shot %1 has no finite position; edit the geometry first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File %1 cannot be open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a record names geophone string %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file holds picks of %1 shots, the survey has %2; the picks were not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trace set %1 is named twice or not in the survey; the picks were not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file holds %1 times for trace set %2, which has %3 traces; the picks were not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a record of the survey has no trace set; the picks were not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line &quot;INFO&quot; is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line begins with %1 where %2 must stand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the line %1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stands without a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the %1 is negative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file ends before its last receiver line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the receiver line holds %1 instead of 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the receiver line holds more than 4 values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the root element is not &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the document ends too early</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a &apos;%1&apos; is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it declares a document type or a data section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an element has too long a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an element has no name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an attribute has no quotes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an attribute does not end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its elements are nested too deep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends where &quot;%2&quot; should</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>something follows the root element</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is text in &quot;%1&quot;, which holds elements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an entity does not end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an unknown entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a character that does not exist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a byte of value 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is an element in &quot;%1&quot;, which holds text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text is too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it holds too many sequences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it holds bytes that no text holds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it holds no XML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it ends within an element</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has a malformed tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has a document type or raw data, which no file of this kind has</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it closes an element that it has not opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its elements are nested too deeply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not a finite time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, above an hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, beyond its record of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shot %1, trace %2 (%3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a pick that cannot be was dropped: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 picks that cannot be were dropped: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shot %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no traces to pick on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the machine has no memory left to pick first breaks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no record of times to screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the picks of %1 are not screened: it has no geophone string</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>must be above 0 Hz and below %1 Hz, the highest frequency of the spectrum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no limit to keep to, as the spectrum has no frequency above 0 Hz: the traces are too short or their sample interval is not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No filter applied. The %1 cut-off of %2 Hz %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are no traces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No filter applied. Filter order must be greater then 0.</source>
+        <translation type="unfinished">Nessun filtro applicato. L&apos;ordine del filtro deve essere maggiore di 0.</translation>
+    </message>
+    <message>
+        <source>low-pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>high-pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sample %1 is %2, which no filter can take</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the result does not fit single precision; scale the samples down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No filter applied. Filter order %1 is above the limit of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No filter applied. The cut-off is %1 of the sample rate; it must be above 0 and below 0.5.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No filter applied. Single precision cannot hold a filter of order %1 with a cut-off of %2 of the sample rate; choose a lower order or a cut-off nearer to the middle of the range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No filter applied. The filter cannot be created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the energy of the samples does not fit single precision; scale them down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no grid with cells; build the grid first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The velocity model cannot be used: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ray tracing of shot %1 failed: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a positive cell size and no negative depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geophones do not have geometry! 
+Please set the position of geophones
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A position of the survey lies more than 100 000 km away; please check the geometry.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The grid could not be built; see the error stream.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The grid could not be built: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no grid yet; build the grid first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The smoothing parameter must be 1 at least.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The smoothed velocity model cannot be used: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The grid could not be smoothed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The rays could not be traced: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Iterations and smoothing parameter must be 1 at least.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The information density could not be computed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its gradient has no colours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a colour stop of its gradient is not a finite number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its range of values is out of bounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its gradient has %1 colour stops, more than %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A section has 0 to %1 contour values.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value range of the section is empty: its maximum must be greater than its minimum.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no section to draw: no cell that is shown has a value for &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no section to draw: the survey has no grid yet. Build one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical gradient of velocity</source>
+        <translation type="unfinished">Gradiente verticale di velocità</translation>
+    </message>
+    <message>
+        <source>Laplacian of velocity</source>
+        <translation type="unfinished">Laplaciano della velocità</translation>
+    </message>
+    <message>
+        <source>Information density</source>
+        <translation type="unfinished">Densità d&apos;informazione</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation type="unfinished">Velocità</translation>
     </message>
 </context>
 <context>
@@ -3909,14 +5598,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Installa di nuovo Talvesk per riaverla.</translation>
     </message>
     <message>
-        <source>No program to show the user guide was found.</source>
-        <translation>Non è stato trovato un programma per mostrare la guida.</translation>
-    </message>
-    <message>
-        <source>You find it in %1</source>
-        <translation>Si trova in %1</translation>
-    </message>
-    <message>
         <source>Picking first breaks ...</source>
         <translation>Ricerca dei primi arrivi ...</translation>
     </message>
@@ -5594,10 +7275,6 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Applica lo smussamento</translation>
     </message>
     <message>
-        <source>Smooths the velocities of the present grid. Rays and misfit stay those of the last inversion.</source>
-        <translation>Smussa le velocità della griglia attuale. Raggi e scarto restano quelli dell&apos;ultima inversione.</translation>
-    </message>
-    <message>
         <source>&amp;Type of smoothing:</source>
         <translation>&amp;Tipo di smussamento:</translation>
     </message>
@@ -5636,6 +7313,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>&amp;Symmetric smoothing</source>
         <translation>Smussamento &amp;simmetrico</translation>
+    </message>
+    <message>
+        <source>Smooths the velocities of the present grid. Rays and misfit of a result are traced anew through the smoothed section.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -78,7 +78,7 @@ class projectReader : public QObject {
 
   bool mError = false;
   bool mTracesFailed = false;
-  std::string mMessage;
+  Message mReason;
   std::vector<Message> mWarnings;
   std::vector<Message> mRepairs;
   SegyState mShotFiles;
