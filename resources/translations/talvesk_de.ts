@@ -944,72 +944,72 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
-        <translation type="unfinished">Benutzerhandbuch</translation>
+        <translation>Benutzerhandbuch</translation>
     </message>
     <message>
         <source>Pages found</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Seiten</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorwärts</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinere Schrift</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Größere Schrift</translation>
     </message>
     <message>
         <source>Find previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorige Fundstelle</translation>
     </message>
     <message>
         <source>Find next</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Fundstelle</translation>
     </message>
     <message>
         <source>Open in browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>title of a page, number of places</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts gefunden</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 von %2</translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>No program to show the user guide was found.</source>
-        <translation type="unfinished">Es wurde kein Programm gefunden, das das Benutzerhandbuch anzeigt.</translation>
+        <translation>Es wurde kein Programm gefunden, das das Benutzerhandbuch anzeigt.</translation>
     </message>
     <message>
         <source>You find it in %1</source>
-        <translation type="unfinished">Sie finden es in %1</translation>
+        <translation>Sie finden es in %1</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
 </context>
 <context>
@@ -1394,1617 +1394,1619 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <name>talvesk::Message</name>
     <message>
         <source>The inversion failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Inversion ist fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>The picture cannot be made: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild kann nicht erstellt werden: %1</translation>
     </message>
     <message>
         <source>The view cannot be drawn for a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ansicht kann nicht für ein Bild gezeichnet werden.</translation>
     </message>
     <message>
         <source>Cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>its name is not valid UTF-8 text</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name ist kein gültiger UTF-8-Text</translation>
     </message>
     <message>
         <source>the file is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist zu groß</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>its text could not be put together</source>
-        <translation type="unfinished"></translation>
+        <translation>der Text konnte nicht zusammengestellt werden</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Datei gibt es nicht</translation>
     </message>
     <message>
         <source>its %1 bytes are more than the limit of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre %1 Bytes sind mehr als die Grenze von %2</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>der Speicher reicht nicht aus</translation>
     </message>
     <message>
         <source>The file %1 cannot be replaced: it is %2; choose another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht ersetzt werden: sie ist %2; wählen Sie einen anderen Ort.</translation>
     </message>
     <message>
         <source>a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Ordner</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>protected against writing</source>
-        <translation type="unfinished"></translation>
+        <translation>schreibgeschützt</translation>
     </message>
     <message>
         <source>The file %1 cannot be created: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht angelegt werden: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be given its permissions: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zugriffsrechte der Datei %1 können nicht gesetzt werden: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be replaced: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht ersetzt werden: %2.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>nobody reads from it</source>
-        <translation type="unfinished"></translation>
+        <translation>niemand liest daraus</translation>
     </message>
     <message>
         <source>there are more than %1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>es sind mehr als %1 Zeilen</translation>
     </message>
     <message>
         <source>line %1: &quot;%2&quot; is no number</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: „%2“ ist keine Zahl</translation>
     </message>
     <message>
         <source>the survey has no grid; create the grid or run the inversion first</source>
-        <translation type="unfinished"></translation>
+        <translation>die Messung hat kein Gitter; erstellen Sie zuerst das Gitter oder starten Sie die Inversion</translation>
     </message>
     <message>
         <source>no cell of the section is drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Zelle des Schnitts wird gezeichnet</translation>
     </message>
     <message>
         <source>eastward</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Osten</translation>
     </message>
     <message>
         <source>northward</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Norden</translation>
     </message>
     <message>
         <source>westward</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Westen</translation>
     </message>
     <message>
         <source>southward</source>
-        <translation type="unfinished"></translation>
+        <translation>nach Süden</translation>
     </message>
     <message>
         <source>%1 is no reference system that is known here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein hier bekanntes Referenzsystem</translation>
     </message>
     <message>
         <source>%1 is not a projected system; easting and northing need one</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein projiziertes System; Ost- und Nordwert brauchen eines</translation>
     </message>
     <message>
         <source>%1 has no axes that are known here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat keine hier bekannten Achsen</translation>
     </message>
     <message>
         <source>%1 counts in another unit than the metre: %2; choose a system in metres</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zählt in einer anderen Einheit als dem Meter: %2; wählen Sie ein System in Metern</translation>
     </message>
     <message>
         <source>%1 counts %2 and %3; choose a system with easting and northing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zählt %2 und %3; wählen Sie ein System mit Ost- und Nordwert</translation>
     </message>
     <message>
         <source>%1 (%2) cannot be turned into longitude and latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2) lässt sich nicht in geographische Länge und Breite umrechnen</translation>
     </message>
     <message>
         <source>the Y coordinate and the Z offset of the line must be finite numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>die Y-Koordinate und die Z-Verschiebung der Messlinie müssen endliche Zahlen sein</translation>
     </message>
     <message>
         <source>Cannot write %1: its text could not be put together</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden: der Text konnte nicht zusammengestellt werden</translation>
     </message>
     <message>
         <source>the coordinates of the geophones are not numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>die Koordinaten der Geophone sind keine Zahlen</translation>
     </message>
     <message>
         <source>the first and the last geophone have the same coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>das erste und das letzte Geophon haben dieselben Koordinaten</translation>
     </message>
     <message>
         <source>the coordinates of the geophones lie outside of EPSG:%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>die Koordinaten der Geophone liegen außerhalb von EPSG:%1 (%2)</translation>
     </message>
     <message>
         <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
-        <translation type="unfinished">Die geographischen Koordinaten fehlen; die Daten können nicht als KML exportiert werden</translation>
+        <translation>Die geographischen Koordinaten fehlen; die Daten können nicht als KML exportiert werden</translation>
     </message>
     <message>
         <source>the section has too many cells for this format, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>der Schnitt hat zu viele Zellen für dieses Format, %1</translation>
     </message>
     <message>
         <source>the palette has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>die Palette hat keine Farben</translation>
     </message>
     <message>
         <source>the value range of the section is empty; its maximum must be greater than its minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wertebereich des Schnitts ist leer; sein Maximum muss größer sein als sein Minimum</translation>
     </message>
     <message>
         <source>the survey has no geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>die Messung hat keine Geophone</translation>
     </message>
     <message>
         <source>the raster would have %1 nodes; choose larger cells</source>
-        <translation type="unfinished"></translation>
+        <translation>das Raster hätte %1 Knoten; wählen Sie größere Zellen</translation>
     </message>
     <message>
         <source>Not enough memory for a picture of this size: choose a smaller size or resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher reicht für ein Bild dieser Größe nicht aus: Wählen Sie eine kleinere Größe oder Auflösung.</translation>
     </message>
     <message>
         <source>The PNG picture cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das PNG-Bild kann nicht erstellt werden.</translation>
     </message>
     <message>
         <source>The SVG picture cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das SVG-Bild kann nicht erstellt werden.</translation>
     </message>
     <message>
         <source>The PDF page cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die PDF-Seite kann nicht erstellt werden.</translation>
     </message>
     <message>
         <source>A figure cannot be drawn before the application object exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Abbildung kann nicht gezeichnet werden, bevor das Anwendungsobjekt besteht.</translation>
     </message>
     <message>
         <source>A figure cannot be drawn without fonts: install a font package, for instance fonts-dejavu-core.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Abbildung kann nicht ohne Schriften gezeichnet werden: Installieren Sie ein Schriftpaket, zum Beispiel fonts-dejavu-core.</translation>
     </message>
     <message>
         <source>No picture format is known for %1: let the file name end with .png, .svg or .pdf.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für %1 ist kein Bildformat bekannt: Der Dateiname muss auf .png, .svg oder .pdf enden.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 mm wide: choose %2 to %3 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Abbildung kann nicht %1 mm breit sein: Wählen Sie %2 bis %3 mm.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 mm high: choose %2 to %3 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Abbildung kann nicht %1 mm hoch sein: Wählen Sie %2 bis %3 mm.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 pixels per inch: choose %2 to %3 pixels per inch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Abbildung kann nicht %1 Pixel pro Zoll haben: Wählen Sie %2 bis %3 Pixel pro Zoll.</translation>
     </message>
     <message>
         <source>A picture of %1 million pixels is too large: the limit is %2 million. Choose a smaller size or resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild mit %1 Millionen Pixeln ist zu groß: Die Grenze liegt bei %2 Millionen. Wählen Sie eine kleinere Größe oder Auflösung.</translation>
     </message>
     <message>
         <source>A PDF file needs a page at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine PDF-Datei braucht mindestens eine Seite.</translation>
     </message>
     <message>
         <source>%1 cannot be drawn before the application object exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gezeichnet werden, bevor das Anwendungsobjekt besteht.</translation>
     </message>
     <message>
         <source>The picture is too small for what it shows with its axes and texts: choose a larger size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist zu klein für das, was es mit seinen Achsen und Texten zeigt: Wählen Sie eine größere Größe.</translation>
     </message>
     <message>
         <source>The document has no traces to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument hat keine Spuren, die gezeichnet werden könnten.</translation>
     </message>
     <message>
         <source>The times from %1 to %2 ms cannot be drawn: choose a begin of 0 or more and an end after it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeiten von %1 bis %2 ms können nicht gezeichnet werden: Wählen Sie einen Anfang von 0 oder mehr und ein Ende danach.</translation>
     </message>
     <message>
         <source>The gain of a gather must lie above 0 and not above %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verstärkung der Spuren eines Schusses muss über 0 liegen und darf nicht über %1 liegen.</translation>
     </message>
     <message>
         <source>Wiggles can be cut at more than 0 and up to 100 trace distances.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwingungen können bei mehr als 0 und bis zu 100 Spurabständen abgeschnitten werden.</translation>
     </message>
     <message>
         <source>There is no shot %1 to draw: the document has %2 with traces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Schuss %1 zum Zeichnen: Das Dokument hat %2 mit Spuren.</translation>
     </message>
     <message>
         <source>1 shot</source>
-        <translation type="unfinished">1 Schuss</translation>
+        <translation>1 Schuss</translation>
     </message>
     <message>
         <source>%1 shots</source>
-        <translation type="unfinished">%1 Schüsse</translation>
+        <translation>%1 Schüsse</translation>
     </message>
     <message>
         <source>The inversion has no misfit to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Inversion hat keine Abweichung, die gezeichnet werden könnte.</translation>
     </message>
     <message>
         <source>There are no residuals to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Residuen zu zeichnen.</translation>
     </message>
     <message>
         <source>There is no refractor with a depth to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Refraktor mit einer Tiefe zu zeichnen.</translation>
     </message>
     <message>
         <source>There is no survey to report on: load shot files or travel times first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Messung, über die berichtet werden könnte: Laden Sie zuerst Schussdateien oder Laufzeiten.</translation>
     </message>
     <message>
         <source>No report format is known for %1: let the file name end with .pdf or .odt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für %1 ist kein Berichtsformat bekannt: Der Dateiname muss auf .pdf oder .odt enden.</translation>
     </message>
     <message>
         <source>The report was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bericht wurde angehalten.</translation>
     </message>
     <message>
         <source>The vertical exaggeration must lie between 0.01 and 100, or be 0 to let the picture choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Überhöhung muss zwischen 0,01 und 100 liegen, oder 0 sein, damit das Bild sie wählt.</translation>
     </message>
     <message>
         <source>The palette &quot;%1&quot; has no colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Palette „%1“ hat keine Farben.</translation>
     </message>
     <message>
         <source>The section has no extent to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schnitt hat keine Ausdehnung, die gezeichnet werden könnte.</translation>
     </message>
     <message>
         <source>The picture is too small for the section with its axes and texts: choose a larger size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist zu klein für den Schnitt mit seinen Achsen und Texten: Wählen Sie eine größere Größe.</translation>
     </message>
     <message>
         <source>There are no travel times to draw: pick first breaks, or load travel times, first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Laufzeiten zu zeichnen: Picken Sie zuerst Ersteinsätze oder laden Sie Laufzeiten.</translation>
     </message>
     <message>
         <source>The document cannot be packed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument kann nicht gepackt werden: %1</translation>
     </message>
     <message>
         <source>its bytes cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>seine Bytes können nicht zurückgelesen werden</translation>
     </message>
     <message>
         <source>cell %1 has no valid velocity (slowness %2 s/m)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelle %1 hat keine gültige Geschwindigkeit (Langsamkeit %2 s/m)</translation>
     </message>
     <message>
         <source>A grid of %1 rows and %2 columns with %3 nodes per side %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Gitter mit %1 Zeilen und %2 Spalten und %3 Knoten pro Zellenseite %4</translation>
     </message>
     <message>
         <source>has no cells; choose cells smaller than the array is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>hat keine Zellen; wählen Sie Zellen, die kleiner sind als die Länge der Auslage.</translation>
     </message>
     <message>
         <source>has %1 nodes; at most %2 can be numbered. Choose larger cells or a smaller depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>hat %1 Knoten; höchstens %2 können nummeriert werden. Wählen Sie größere Zellen oder eine kleinere Tiefe.</translation>
     </message>
     <message>
         <source>needs about %1 MiB, but only %2 MiB are free. Choose larger cells or a smaller depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>braucht etwa %1 MiB, aber nur %2 MiB sind frei. Wählen Sie größere Zellen oder eine kleinere Tiefe.</translation>
     </message>
     <message>
         <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es bleibt keine Schicht übrig: Die Endtiefe einer Schicht muss größer sein als ihre Anfangstiefe, und diese darf nicht negativ sein.</translation>
     </message>
     <message>
         <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schichten ergeben kein Geschwindigkeitsmodell. Ordnen Sie sie nach der Tiefe, ohne Überlappung, jede mehr als 0,02 m mächtig. %1</translation>
     </message>
     <message>
         <source>The grid of the layered model could not be built.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gitter des Schichtmodells konnte nicht erstellt werden.</translation>
     </message>
     <message>
         <source>the line holds %1 characters, more than the limit of %2; split the table into one file per spread</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zeile enthält %1 Zeichen, mehr als die Grenze von %2; teilen Sie die Tabelle in eine Datei pro Auslage</translation>
     </message>
     <message>
         <source>the first line names no receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>die erste Zeile nennt keinen Empfänger</translation>
     </message>
     <message>
         <source>there are %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt %1 für %2</translation>
     </message>
     <message>
         <source>%1 without an elevation were taken to lie at 0</source>
-        <translation type="unfinished"></translation>
+        <translation>für %1 ohne Höhe wurde die Höhe 0 angenommen</translation>
     </message>
     <message>
         <source>the shot has no elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>der Schuss hat keine Höhe</translation>
     </message>
     <message>
         <source>line %1: only %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: nur %2 für %3</translation>
     </message>
     <message>
         <source>the %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>invalid stod argument</source>
-        <translation type="unfinished"></translation>
+        <translation>ungültiges Argument für stod</translation>
     </message>
     <message>
         <source>stod argument out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>Argument für stod außerhalb des Bereichs</translation>
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Zeile %2: %3</translation>
     </message>
     <message>
         <source>Cannot write %1: there are %2 labels for %3 records</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden: es gibt %2 Bezeichnungen für %3 Datensätze</translation>
     </message>
     <message>
         <source>the line holds more than %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zeile enthält mehr als %1 Zeichen</translation>
     </message>
     <message>
         <source>line %1 has no x and z; check the separator</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 hat kein x und z; prüfen Sie das Trennzeichen</translation>
     </message>
     <message>
         <source>%1, line %2 does not begin with a number; check the separator</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Zeile %2 beginnt nicht mit einer Zahl; prüfen Sie das Trennzeichen</translation>
     </message>
     <message>
         <source>%1 holds more than %2 values</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enthält mehr als %2 Werte</translation>
     </message>
     <message>
         <source>there are only %1 shots</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt nur %1 Schüsse</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a layer number: 0 for none, 1, 2 or 3</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Schichtnummer: 0 für keine, 1, 2 oder 3</translation>
     </message>
     <message>
         <source>shot %1 has %2 traces, which is not how many layer numbers there are</source>
-        <translation type="unfinished"></translation>
+        <translation>Schuss %1 hat %2 Spuren; so viele Schichtnummern sind es nicht</translation>
     </message>
     <message>
         <source>%1: it holds layers of %2 shots, and there are %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Datei enthält Schichten von %2 Schüssen, und es gibt %3</translation>
     </message>
     <message>
         <source>the first line is %1 where &quot;otte&quot; must stand</source>
-        <translation type="unfinished"></translation>
+        <translation>die erste Zeile ist %1, wo „otte“ stehen muss</translation>
     </message>
     <message>
         <source>the format version is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>die Formatversion fehlt</translation>
     </message>
     <message>
         <source>the format version %1 was read as &quot;1.0&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>die Formatversion %1 wurde als „1.0“ gelesen</translation>
     </message>
     <message>
         <source>line 3 holds %1, not 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile 3 enthält %1, nicht 2</translation>
     </message>
     <message>
         <source>the %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fehlt</translation>
     </message>
     <message>
         <source>the line of each %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zeile mit diesen Werten fehlt: %1</translation>
     </message>
     <message>
         <source>there are %1 but %2</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt %1, aber %2</translation>
     </message>
     <message>
         <source>the file names %1 strings for %2 and %3</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei nennt für %2 und %3 als Anzahl der Geophonauslagen %1</translation>
     </message>
     <message>
         <source>there are more records than the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt nur %1, aber mehr Datensätze</translation>
     </message>
     <message>
         <source>the file ends after %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei endet zu früh: %1 von %2</translation>
     </message>
     <message>
         <source>the record names string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>der Datensatz nennt Auslage %1 von %2</translation>
     </message>
     <message>
         <source>record %1 names trace set %2; it was taken for that of its own place</source>
-        <translation type="unfinished"></translation>
+        <translation>Datensatz %1 nennt Spurensatz %2; angenommen wurde der an seiner eigenen Stelle</translation>
     </message>
     <message>
         <source>the last line does not end in &quot;;&quot;: the file may be cut short</source>
-        <translation type="unfinished"></translation>
+        <translation>die letzte Zeile endet nicht mit „;“: die Datei ist womöglich abgeschnitten</translation>
     </message>
     <message>
         <source>the records need %1 in %2, the file holds %3</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datensätze brauchen %1 (%2), die Datei enthält %3</translation>
     </message>
     <message>
         <source>no string claims the last %1: a record of each string must hold one time per geophone</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Auslage beansprucht %1 am Ende: ein Datensatz jeder Auslage muss eine Zeit je Geophon enthalten</translation>
     </message>
     <message>
         <source>the strings without a record do not share %1 equally; the first ones took one more</source>
-        <translation type="unfinished"></translation>
+        <translation>die Auslagen ohne Datensatz teilen %1 nicht gleichmäßig auf; die ersten haben eines mehr erhalten</translation>
     </message>
     <message>
         <source>record %1 holds %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Datensatz %1 enthält %2 für %3</translation>
     </message>
     <message>
         <source>%1 is too large for a palette</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist zu groß für eine Palette</translation>
     </message>
     <message>
         <source>%1 is no palette file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine Palettendatei: %2</translation>
     </message>
     <message>
         <source>the byte order mark before the first line was ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>die Bytereihenfolgemarke vor der ersten Zeile wurde ignoriert</translation>
     </message>
     <message>
         <source>the %1 %2 is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 ist keine Zahl</translation>
     </message>
     <message>
         <source>the %1 %2 is out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 liegt außerhalb des Bereichs</translation>
     </message>
     <message>
         <source>the %1 %2 is not finite</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 ist nicht endlich</translation>
     </message>
     <message>
         <source>the %1 %2 is not a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 ist keine ganze Zahl</translation>
     </message>
     <message>
         <source>and more of this kind</source>
-        <translation type="unfinished"></translation>
+        <translation>und weitere dieser Art</translation>
     </message>
     <message>
         <source>line %1 and what follows it was ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 und alles danach wurden ignoriert</translation>
     </message>
     <message>
         <source>the file holds no shot</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält keinen Schuss</translation>
     </message>
     <message>
         <source>Invalid phone list : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Geophonliste : %1</translation>
     </message>
     <message>
         <source>%1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 für %2</translation>
     </message>
     <message>
         <source>Invalid header : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Kopfzeile : %1</translation>
     </message>
     <message>
         <source>%1 must stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>hier muss %1 stehen</translation>
     </message>
     <message>
         <source>Invalid match : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Zuordnung : %1</translation>
     </message>
     <message>
         <source>line %1: %2 is not a number and was taken as 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2 ist keine Zahl und wurde als 0 genommen</translation>
     </message>
     <message>
         <source>line %1: number %2 is named twice; its last value was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: Nummer %2 wird zweimal genannt; ihr letzter Wert wurde genommen</translation>
     </message>
     <message>
         <source>number %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer %1 ist nicht bekannt</translation>
     </message>
     <message>
         <source>%1 %2 has no %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 hat keine %3</translation>
     </message>
     <message>
         <source>Invalid times : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Zeiten : %1</translation>
     </message>
     <message>
         <source>%1 of shot %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von Schuss %2 für %3</translation>
     </message>
     <message>
         <source>geophone distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Geophonentfernung</translation>
     </message>
     <message>
         <source>geophone elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>Geophonhöhe</translation>
     </message>
     <message>
         <source>shot distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Schussentfernung</translation>
     </message>
     <message>
         <source>shot elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>Schusshöhe</translation>
     </message>
     <message>
         <source>receiver number</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfängernummer</translation>
     </message>
     <message>
         <source>receiver distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfängerentfernung</translation>
     </message>
     <message>
         <source>receiver elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfängerhöhe</translation>
     </message>
     <message>
         <source>distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernung</translation>
     </message>
     <message>
         <source>elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>shot</source>
-        <translation type="unfinished"></translation>
+        <translation>Schuss</translation>
     </message>
     <message>
         <source>receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfänger</translation>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>first-break time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersteinsatzzeit</translation>
     </message>
     <message>
         <source>number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer</translation>
     </message>
     <message>
         <source>value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>format constant 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Formatkonstante 2</translation>
     </message>
     <message>
         <source>number of geophone strings</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Geophonauslagen</translation>
     </message>
     <message>
         <source>string of the record</source>
-        <translation type="unfinished"></translation>
+        <translation>Auslage des Datensatzes</translation>
     </message>
     <message>
         <source>trace set of the record</source>
-        <translation type="unfinished"></translation>
+        <translation>Spurensatz des Datensatzes</translation>
     </message>
     <message>
         <source>%1 geophone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Geophon</translation>
     </message>
     <message>
         <source>%1 geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Geophone</translation>
     </message>
     <message>
         <source>%1 receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Empfänger</translation>
     </message>
     <message>
         <source>%1 receivers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Empfänger</translation>
     </message>
     <message>
         <source>%1 shot</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Schuss</translation>
     </message>
     <message>
         <source>%1 shot position</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Schussposition</translation>
     </message>
     <message>
         <source>%1 shot positions</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Schusspositionen</translation>
     </message>
     <message>
         <source>%1 geophone distance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Geophonentfernung</translation>
     </message>
     <message>
         <source>%1 geophone distances</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Geophonentfernungen</translation>
     </message>
     <message>
         <source>%1 shot distance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Schussentfernung</translation>
     </message>
     <message>
         <source>%1 shot distances</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Schussentfernungen</translation>
     </message>
     <message>
         <source>%1 elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Höhe</translation>
     </message>
     <message>
         <source>%1 elevations</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Höhen</translation>
     </message>
     <message>
         <source>%1 time</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeit</translation>
     </message>
     <message>
         <source>%1 times</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeiten</translation>
     </message>
     <message>
         <source>%1 record</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Datensatz</translation>
     </message>
     <message>
         <source>%1 records</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Datensätze</translation>
     </message>
     <message>
         <source>%1 string</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Auslage</translation>
     </message>
     <message>
         <source>%1 strings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Auslagen</translation>
     </message>
     <message>
         <source>%1 number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Nummer</translation>
     </message>
     <message>
         <source>%1 numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Nummern</translation>
     </message>
     <message>
         <source>%1 value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Wert</translation>
     </message>
     <message>
         <source>%1 values</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Werte</translation>
     </message>
     <message>
         <source>%1 rows of %2 columns do not go with %3 velocities and %4 draw flags</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen mit %2 Spalten passen nicht zu %3 Geschwindigkeiten und %4 Sichtbarkeitsangaben</translation>
     </message>
     <message>
         <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen mit %1 Knoten pro Seite und %2 m Seitenlänge sind nicht möglich</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Geschwindigkeit ist keine positive Zahl</translation>
     </message>
     <message>
         <source>there is a grid, but no two geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt ein Gitter, aber keine zwei Geophone</translation>
     </message>
     <message>
         <source>the grid cannot be built</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gitter kann nicht erstellt werden</translation>
     </message>
     <message>
         <source>the limit of its rays lies off the line; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>die Grenze der Strahlen liegt nicht auf der Messlinie; sie wird weggelassen</translation>
     </message>
     <message>
         <source>its information density does not fit the grid; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>die Informationsdichte passt nicht zum Gitter; sie wird weggelassen</translation>
     </message>
     <message>
         <source>what it tells of its last inversion cannot be; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>die Angaben zur letzten Inversion sind nicht möglich; sie werden weggelassen</translation>
     </message>
     <message>
         <source>a geophone has no place</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Geophon hat keine Position</translation>
     </message>
     <message>
         <source>a shot was recorded by geophone string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Schuss wurde von Geophonauslage %1 von %2 aufgezeichnet</translation>
     </message>
     <message>
         <source>a shot has no place</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Schuss hat keine Position</translation>
     </message>
     <message>
         <source>the grid cannot be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gitter kann nicht erstellt werden: %1</translation>
     </message>
     <message>
         <source>layers belong to shot %1, but %2 shots exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Schichten gehören zu Schuss %1, aber es gibt %2 Schüsse</translation>
     </message>
     <message>
         <source>an arrival belongs to a layer that does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Einsatz gehört zu einer Schicht, die es nicht gibt</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>sie fehlt</translation>
     </message>
     <message>
         <source>it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist zu groß</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei gibt es nicht.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
         <source>You may not read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie dürfen sie nicht lesen.</translation>
     </message>
     <message>
         <source>It cannot be extracted: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt kann nicht entpackt werden: %1.</translation>
     </message>
     <message>
         <source>%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, or deeper than the line is long</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Geschwindigkeiten und Tiefen der Schichten werden weggelassen: außerhalb von 50 bis 12 000 m/s oder tiefer, als die Messlinie lang ist</translation>
     </message>
     <message>
         <source>%1; the coverage of the last inversion and its figures are not known</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; die Abdeckung der letzten Inversion und ihre Zahlen sind nicht bekannt</translation>
     </message>
     <message>
         <source>No temporary folder can be created in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 kann kein temporärer Ordner angelegt werden.</translation>
     </message>
     <message>
         <source>It cannot be extracted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt kann nicht entpackt werden.</translation>
     </message>
     <message>
         <source>It cannot be loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt kann nicht geladen werden: %1</translation>
     </message>
     <message>
         <source>its title has control characters or is too long; it reads %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>der Titel enthält Steuerzeichen oder ist zu lang; er lautet jetzt %1</translation>
     </message>
     <message>
         <source>its RMS misfit is no number; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>die RMS-Abweichung ist keine Zahl; sie wird weggelassen</translation>
     </message>
     <message>
         <source>its limits of velocity cannot be; they are as in a new survey</source>
-        <translation type="unfinished"></translation>
+        <translation>die Geschwindigkeitsgrenzen sind nicht möglich; sie sind wie in einer neuen Messung</translation>
     </message>
     <message>
         <source>a layer of its starting model cannot be; the model is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Schicht des Startmodells ist nicht möglich; das Modell wird weggelassen</translation>
     </message>
     <message>
         <source>a cell size that it proposes cannot be; it proposes new ones</source>
-        <translation type="unfinished"></translation>
+        <translation>eine vorgeschlagene Zellengröße ist nicht möglich; es werden neue vorgeschlagen</translation>
     </message>
     <message>
         <source>its geographic coordinates are no numbers; they are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>die geographischen Koordinaten sind keine Zahlen; sie werden weggelassen</translation>
     </message>
     <message>
         <source>no section can be drawn with a vertical exaggeration of %1; it is %2 now</source>
-        <translation type="unfinished"></translation>
+        <translation>mit einer Überhöhung von %1 kann kein Schnitt gezeichnet werden; sie ist jetzt %2</translation>
     </message>
     <message>
         <source>its contours cannot be drawn so; they are put right</source>
-        <translation type="unfinished"></translation>
+        <translation>die Isolinien können so nicht gezeichnet werden; sie werden berichtigt</translation>
     </message>
     <message>
         <source>its section shows a quantity that does not exist; it is the velocity now</source>
-        <translation type="unfinished"></translation>
+        <translation>der Schnitt zeigt eine Größe, die es nicht gibt; jetzt ist es die Geschwindigkeit</translation>
     </message>
     <message>
         <source>its geophone markers have a size that does not exist; it is normal now</source>
-        <translation type="unfinished"></translation>
+        <translation>die Geophonsymbole haben eine Größe, die es nicht gibt; sie ist jetzt normal</translation>
     </message>
     <message>
         <source>velocities of %1 cell cannot be; they are held within %2 and %3 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>die Geschwindigkeit von %1 Zelle ist nicht möglich; sie wird zwischen %2 und %3 m/s gehalten</translation>
     </message>
     <message>
         <source>velocities of %1 cells cannot be; they are held within %2 and %3 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>die Geschwindigkeiten von %1 Zellen sind nicht möglich; sie werden zwischen %2 und %3 m/s gehalten</translation>
     </message>
     <message>
         <source>a time shift of its arrivals cannot be; it is 0 now</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zeitverschiebung der Einsätze ist nicht möglich; sie ist jetzt 0</translation>
     </message>
     <message>
         <source>its layered profile cannot be; it is left out and can be built again</source>
-        <translation type="unfinished"></translation>
+        <translation>das Schichtprofil ist nicht möglich; es wird weggelassen und kann neu erstellt werden</translation>
     </message>
     <message>
         <source>its coverage and figures do not go with the grid and the inversion of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Abdeckung und Zahlen passen nicht zu Gitter und Inversion des Projekts</translation>
     </message>
     <message>
         <source>%1 is no name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Name einer Datei</translation>
     </message>
     <message>
         <source>trace set %1 has %2 traces, but %3 filtered copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Spurensatz %1 hat %2 Spuren, aber %3 gefilterte Kopien</translation>
     </message>
     <message>
         <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten and its traces are empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Schuss %1: die Schussdatei heißt %2, was kein einfacher Dateiname ist; der Name wird verworfen, und die Spuren sind leer</translation>
     </message>
     <message>
         <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>Schuss %1: die Schussdatei heißt %2, was kein einfacher Dateiname ist; der Name wird verworfen</translation>
     </message>
     <message>
         <source>%1 has %2 traces instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat %2 statt %3 Spuren</translation>
     </message>
     <message>
         <source>there are %1 trace sets, but %2 travel-time records</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt %1 Spurensätze, aber %2 Laufzeitdatensätze</translation>
     </message>
     <message>
         <source>no travel-time record belongs to trace set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zu Spurensatz %1 gehört kein Laufzeitdatensatz</translation>
     </message>
     <message>
         <source>%1 and %2 have different numbers of traces</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 haben verschieden viele Spuren</translation>
     </message>
     <message>
         <source>wave type %1 does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>den Wellentyp %1 gibt es nicht</translation>
     </message>
     <message>
         <source>there are more files or filtered copies than trace sets</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt mehr Dateien oder gefilterte Kopien als Spurensätze</translation>
     </message>
     <message>
         <source>trace set %1 has a position or delay that cannot be</source>
-        <translation type="unfinished"></translation>
+        <translation>Spurensatz %1 hat eine unmögliche Position oder Verzögerung</translation>
     </message>
     <message>
         <source>trace set %1 has a sample that is no finite number</source>
-        <translation type="unfinished"></translation>
+        <translation>Spurensatz %1 hat einen Abtastwert, der keine endliche Zahl ist</translation>
     </message>
     <message>
         <source>Its parts cannot be written in %1; is the disk full?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Teile des Projekts können nicht in %1 geschrieben werden; ist der Datenträger voll?</translation>
     </message>
     <message>
         <source>The archive %1 cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>It cannot be put together: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt kann nicht zusammengestellt werden: %1</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bytes</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>it unpacks to more than %1, which no project of %2 does</source>
-        <translation type="unfinished"></translation>
+        <translation>der Inhalt ist entpackt größer als %1, was bei keinem Projekt von %2 vorkommt</translation>
     </message>
     <message>
         <source>it unpacks to %1 or more, and the disk has room for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>der Inhalt ist entpackt mindestens %1 groß, und auf dem Datenträger sind %2 frei</translation>
     </message>
     <message>
         <source>%1 cannot be extracted: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht entpackt werden: %2</translation>
     </message>
     <message>
         <source>%1 in it cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 darin kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>%1 in it is damaged: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 darin ist beschädigt: %2</translation>
     </message>
     <message>
         <source>%1 in it is not as long as it says</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 darin ist nicht so lang wie angegeben</translation>
     </message>
     <message>
         <source>The file %1 cannot be added to the archive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht in das Archiv aufgenommen werden.</translation>
     </message>
     <message>
         <source>The archive %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv %1 kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
         <source>it holds %1 files, more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>das Archiv enthält %1 Dateien, mehr als %2</translation>
     </message>
     <message>
         <source>%1 in it is no name of a file without a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 darin ist kein Name einer Datei ohne Ordner</translation>
     </message>
     <message>
         <source>two files in it are called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zwei Dateien darin heißen %1</translation>
     </message>
     <message>
         <source>The files of the project are %1, more than the %2 that can be opened again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt hat %1 Dateien, mehr als die %2, die sich wieder öffnen lassen.</translation>
     </message>
     <message>
         <source>it is no archive of a project, or damaged: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist kein Archiv eines Projekts oder beschädigt: %1</translation>
     </message>
     <message>
         <source>there is nothing in it</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist nichts darin</translation>
     </message>
     <message>
         <source>it is no archive of a project: there is no %1 in it</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist kein Archiv eines Projekts: %1 fehlt darin</translation>
     </message>
     <message>
         <source>its list of files is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>die Dateiliste ist beschädigt</translation>
     </message>
     <message>
         <source>it cannot be closed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>das Archiv kann nicht geschlossen werden: %1</translation>
     </message>
     <message>
         <source>its headers promise %1 traces of more data than can come from %2 bytes; the file is damaged or no shot file</source>
-        <translation type="unfinished"></translation>
+        <translation>die Header versprechen %1 Spuren mit mehr Daten, als aus %2 Bytes kommen können; die Datei ist beschädigt oder keine Schussdatei</translation>
     </message>
     <message>
         <source>trace %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Spur %1</translation>
     </message>
     <message>
         <source>%1 traces, the first of them trace %2,</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Spuren, die erste davon Spur %2,</translation>
     </message>
     <message>
         <source>the %1 in the header of %2 is no finite number; what cannot be used of it was taken as 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 im Header von %2 ist keine endliche Zahl; was davon nicht brauchbar ist, wurde als 0 genommen</translation>
     </message>
     <message>
         <source>it is no SEG-2 file of little-endian numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist keine SEG-2-Datei mit Little-Endian-Zahlen</translation>
     </message>
     <message>
         <source>its last trace has no usable sample interval</source>
-        <translation type="unfinished"></translation>
+        <translation>die letzte Spur hat kein brauchbares Abtastintervall</translation>
     </message>
     <message>
         <source>source position</source>
-        <translation type="unfinished"></translation>
+        <translation>Quellposition</translation>
     </message>
     <message>
         <source>receiver position</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfängerposition</translation>
     </message>
     <message>
         <source>delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzögerung</translation>
     </message>
     <message>
         <source>data format code %1: one 16-bit sample is taken of every four bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenformatcode %1: von je vier Bytes wird ein 16-Bit-Abtastwert genommen</translation>
     </message>
     <message>
         <source>data format code %1 is not read; its samples are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenformatcode %1 wird nicht gelesen; die Abtastwerte sind 0</translation>
     </message>
     <message>
         <source>its traces are taken to lie as close as the 16-bit data of the SEG-Y file before it</source>
-        <translation type="unfinished"></translation>
+        <translation>es wird angenommen, dass die Spuren so dicht liegen wie die 16-Bit-Daten der SEG-Y-Datei davor</translation>
     </message>
     <message>
         <source>it says that its numbers are little-endian, but is read big-endian as a file before it; load the little-endian files first</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei gibt ihre Zahlen als Little-Endian an, wird aber wie eine Datei davor als Big-Endian gelesen; laden Sie die Little-Endian-Dateien zuerst</translation>
     </message>
     <message>
         <source>its numbers seem to be in the other byte order; load a SEG-Y file of that order first</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zahlen scheinen die andere Bytereihenfolge zu haben; laden Sie zuerst eine SEG-Y-Datei dieser Reihenfolge</translation>
     </message>
     <message>
         <source>%1; %2</source>
-        <translation type="unfinished">%1: %2 {1;?}</translation>
+        <translation>%1; %2</translation>
     </message>
     <message>
         <source>%1 bytes after the traces that its headers name were not read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bytes nach den in den Headern genannten Spuren wurden nicht gelesen</translation>
     </message>
     <message>
         <source>data format code %1 (IBM floats) is not read; its samples are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenformatcode %1 (IBM-Gleitkommazahlen) wird nicht gelesen; die Abtastwerte sind 0</translation>
     </message>
     <message>
         <source>its suffix is none of seg2, dat, sg2, sgy, segy, su</source>
-        <translation type="unfinished"></translation>
+        <translation>die Endung ist keine von seg2, dat, sg2, sgy, segy, su</translation>
     </message>
     <message>
         <source>Error while loading %1</source>
-        <translation type="unfinished">Fehler beim Laden von %1. {1?}</translation>
+        <translation>Fehler beim Laden von %1</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished">%1: %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>the survey holds S-wave pairs; add more of them in the survey geometry, or start a new survey to load shot files</source>
-        <translation type="unfinished"></translation>
+        <translation>die Messung enthält S-Wellen-Paare; fügen Sie weitere in der Geometrie der Messung hinzu oder beginnen Sie eine neue Messung, um Schussdateien zu laden</translation>
     </message>
     <message>
         <source>the survey holds picks without traces; start a new survey to load shot files</source>
-        <translation type="unfinished"></translation>
+        <translation>die Messung enthält Picks ohne Spuren; beginnen Sie eine neue Messung, um Schussdateien zu laden</translation>
     </message>
     <message>
         <source>the file holds no trace</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält keine Spur</translation>
     </message>
     <message>
         <source>the file is cut short: %1 bytes that its headers promise are missing and were taken as zeros</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist abgeschnitten: %1 Bytes, die ihre Header versprechen, fehlen und wurden als Nullen genommen</translation>
     </message>
     <message>
         <source>%1 samples that are no finite numbers were set to 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Abtastwerte, die keine endlichen Zahlen sind, wurden auf 0 gesetzt</translation>
     </message>
     <message>
         <source>its traces have different numbers of samples</source>
-        <translation type="unfinished"></translation>
+        <translation>die Spuren haben verschieden viele Abtastwerte</translation>
     </message>
     <message>
         <source>its traces have different sample intervals</source>
-        <translation type="unfinished"></translation>
+        <translation>die Spuren haben verschiedene Abtastintervalle</translation>
     </message>
     <message>
         <source>a sample interval is not positive, so that times mean nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Abtastintervall ist nicht positiv, sodass Zeiten nichts bedeuten</translation>
     </message>
     <message>
         <source>The shot file %1 could not be copied; its traces are saved without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schussdatei %1 konnte nicht kopiert werden; ihre Spuren sind ohne sie gespeichert.</translation>
     </message>
     <message>
         <source>Of the shot files %1 and %2 only the second is in the project; the traces of both are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von den Schussdateien %1 und %2 ist nur die zweite im Projekt; die Spuren beider sind darin.</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>a file holds no traces</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Datei enthält keine Spuren</translation>
     </message>
     <message>
         <source>the DX file has %1 traces, the SX file %2</source>
-        <translation type="unfinished"></translation>
+        <translation>die DX-Datei hat %1 Spuren, die SX-Datei %2</translation>
     </message>
     <message>
         <source>trace %1 has a sample interval of %2 in the DX file and of %3 in the SX file</source>
-        <translation type="unfinished"></translation>
+        <translation>Spur %1 hat in der DX-Datei ein Abtastintervall von %2 und in der SX-Datei von %3</translation>
     </message>
     <message>
         <source>trace %1 has a delay of %2 in the DX file and of %3 in the SX file</source>
-        <translation type="unfinished"></translation>
+        <translation>Spur %1 hat in der DX-Datei eine Verzögerung von %2 und in der SX-Datei von %3</translation>
     </message>
     <message>
         <source>DX and SX differ in receiver positions; those of DX count</source>
-        <translation type="unfinished"></translation>
+        <translation>DX und SX unterscheiden sich in den Empfängerpositionen; die von DX gelten</translation>
     </message>
     <message>
         <source>DX and SX differ in source position; that of DX counts</source>
-        <translation type="unfinished"></translation>
+        <translation>DX und SX unterscheiden sich in der Quellposition; die von DX gilt</translation>
     </message>
     <message>
         <source>DX and SX differ in length; that of DX counts</source>
-        <translation type="unfinished"></translation>
+        <translation>DX und SX unterscheiden sich in der Länge; die von DX gilt</translation>
     </message>
     <message>
         <source>%1: DX and SX are the same file; their difference is nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: DX und SX sind dieselbe Datei; ihre Differenz ist null</translation>
     </message>
     <message>
         <source>%1 and %2 are no pair: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 sind kein Paar: %3</translation>
     </message>
     <message>
         <source>Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Laufzeitdatei : %1 (ihre Endung ist keine von .otte, .txt, .xyz, .csv)</translation>
     </message>
     <message>
         <source>a geophone of string %1 has no finite position; edit the geometry first</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Geophon der Auslage %1 hat keine endliche Position; bearbeiten Sie zuerst die Geometrie</translation>
     </message>
     <message>
         <source>shot %1 has no finite position; edit the geometry first</source>
-        <translation type="unfinished"></translation>
+        <translation>Schuss %1 hat keine endliche Position; bearbeiten Sie zuerst die Geometrie</translation>
     </message>
     <message>
         <source>File %1 cannot be open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>a record names geophone string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Datensatz nennt Geophonauslage %1 von %2</translation>
     </message>
     <message>
         <source>the file holds picks of %1 shots, the survey has %2; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält Picks von %1 Schüssen, die Messung hat %2; die Picks wurden nicht übernommen</translation>
     </message>
     <message>
         <source>trace set %1 is named twice or not in the survey; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Spurensatz %1 wird zweimal genannt oder ist nicht in der Messung; die Picks wurden nicht übernommen</translation>
     </message>
     <message>
         <source>the file holds %1 times for trace set %2, which has %3 traces; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält %1 Zeiten für Spurensatz %2, der %3 Spuren hat; die Picks wurden nicht übernommen</translation>
     </message>
     <message>
         <source>a record of the survey has no trace set; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Datensatz der Messung hat keinen Spurensatz; die Picks wurden nicht übernommen</translation>
     </message>
     <message>
         <source>the line &quot;INFO&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zeile „INFO“ fehlt</translation>
     </message>
     <message>
         <source>the line begins with %1 where %2 must stand</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zeile beginnt mit %1, wo %2 stehen muss</translation>
     </message>
     <message>
         <source>the line %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zeile %1 fehlt</translation>
     </message>
     <message>
         <source>%1 stands without a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 steht ohne Wert</translation>
     </message>
     <message>
         <source>the %1 is negative</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist negativ</translation>
     </message>
     <message>
         <source>the file ends before its last receiver line</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei endet vor ihrer letzten Empfängerzeile</translation>
     </message>
     <message>
         <source>the receiver line holds %1 instead of 4</source>
-        <translation type="unfinished"></translation>
+        <translation>die Empfängerzeile enthält %1 statt 4</translation>
     </message>
     <message>
         <source>the receiver line holds more than 4 values</source>
-        <translation type="unfinished"></translation>
+        <translation>die Empfängerzeile enthält mehr als 4 Werte</translation>
     </message>
     <message>
         <source>the root element is not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>das Wurzelelement ist nicht „%1“</translation>
     </message>
     <message>
         <source>the document ends too early</source>
-        <translation type="unfinished"></translation>
+        <translation>das Dokument endet zu früh</translation>
     </message>
     <message>
         <source>a &apos;%1&apos; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>das Zeichen „%1“ fehlt</translation>
     </message>
     <message>
         <source>it declares a document type or a data section</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Dokumenttyp oder ein Datenabschnitt ist deklariert</translation>
     </message>
     <message>
         <source>an element has too long a name</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Element hat einen zu langen Namen</translation>
     </message>
     <message>
         <source>an element has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Element hat keinen Namen</translation>
     </message>
     <message>
         <source>an attribute has no quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Attribut hat keine Anführungszeichen</translation>
     </message>
     <message>
         <source>an attribute does not end</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Attribut endet nicht</translation>
     </message>
     <message>
         <source>its elements are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>die Elemente sind zu tief verschachtelt</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends where &quot;%2&quot; should</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ endet, wo „%2“ enden müsste</translation>
     </message>
     <message>
         <source>something follows the root element</source>
-        <translation type="unfinished"></translation>
+        <translation>nach dem Wurzelelement folgt noch etwas</translation>
     </message>
     <message>
         <source>there is text in &quot;%1&quot;, which holds elements</source>
-        <translation type="unfinished"></translation>
+        <translation>in „%1“, das Elemente enthält, steht Text</translation>
     </message>
     <message>
         <source>an entity does not end</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Entität endet nicht</translation>
     </message>
     <message>
         <source>an unknown entity</source>
-        <translation type="unfinished"></translation>
+        <translation>eine unbekannte Entität</translation>
     </message>
     <message>
         <source>a character that does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Zeichen, das es nicht gibt</translation>
     </message>
     <message>
         <source>a byte of value 0</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Byte mit dem Wert 0</translation>
     </message>
     <message>
         <source>there is an element in &quot;%1&quot;, which holds text</source>
-        <translation type="unfinished"></translation>
+        <translation>in „%1“, das Text enthält, steht ein Element</translation>
     </message>
     <message>
         <source>a text is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Text ist zu lang</translation>
     </message>
     <message>
         <source>it holds too many sequences</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält zu viele Sequenzen</translation>
     </message>
     <message>
         <source>it holds bytes that no text holds</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält Bytes, die kein Text enthält</translation>
     </message>
     <message>
         <source>it holds no XML</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält kein XML</translation>
     </message>
     <message>
         <source>it ends within an element</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei endet innerhalb eines Elements</translation>
     </message>
     <message>
         <source>it has a malformed tag</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei hat ein fehlerhaftes Tag</translation>
     </message>
     <message>
         <source>it has a document type or raw data, which no file of this kind has</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei hat einen Dokumenttyp oder Rohdaten, was keine Datei dieser Art hat</translation>
     </message>
     <message>
         <source>it closes an element that it has not opened</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei schließt ein Element, das sie nicht geöffnet hat</translation>
     </message>
     <message>
         <source>its elements are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>die Elemente der Datei sind zu tief verschachtelt</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>not a finite time</source>
-        <translation type="unfinished"></translation>
+        <translation>keine endliche Zeit</translation>
     </message>
     <message>
         <source>%1, above an hour</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, über einer Stunde</translation>
     </message>
     <message>
         <source>%1, beyond its record of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, jenseits der Aufzeichnung von %2</translation>
     </message>
     <message>
         <source>shot %1, trace %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schuss %1, Spur %2 (%3)</translation>
     </message>
     <message>
         <source>%1; and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; und %2 weitere</translation>
     </message>
     <message>
         <source>a pick that cannot be was dropped: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ein unmöglicher Pick wurde verworfen: %1</translation>
     </message>
     <message>
         <source>%1 picks that cannot be were dropped: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 unmögliche Picks wurden verworfen: %2</translation>
     </message>
     <message>
         <source>shot %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Schuss %1</translation>
     </message>
     <message>
         <source>%1 has no traces to pick on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat keine Spuren, auf denen gepickt werden könnte</translation>
     </message>
     <message>
         <source>the machine has no memory left to pick first breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>der Rechner hat keinen Speicher mehr, um Ersteinsätze zu picken</translation>
     </message>
     <message>
         <source>%1 has no record of times to screen</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat keinen Laufzeitdatensatz, der geprüft werden könnte</translation>
     </message>
     <message>
         <source>the picks of %1 are not screened: it has no geophone string</source>
-        <translation type="unfinished"></translation>
+        <translation>die Picks von %1 werden nicht geprüft: es gibt dazu keine Geophonauslage</translation>
     </message>
     <message>
         <source>must be above 0 Hz and below %1 Hz, the highest frequency of the spectrum</source>
-        <translation type="unfinished"></translation>
+        <translation>muss über 0 Hz und unter %1 Hz liegen, der höchsten Frequenz des Spektrums</translation>
     </message>
     <message>
         <source>has no limit to keep to, as the spectrum has no frequency above 0 Hz: the traces are too short or their sample interval is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>hat keine Grenze, an die sie sich halten könnte, da das Spektrum keine Frequenz über 0 Hz hat: die Spuren sind zu kurz, oder ihr Abtastintervall ist nicht bekannt</translation>
     </message>
     <message>
         <source>No filter applied. The %1 cut-off of %2 Hz %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Filter angewendet. Die %1-Grenzfrequenz von %2 Hz %3.</translation>
     </message>
     <message>
         <source>there are no traces</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Spuren</translation>
     </message>
     <message>
         <source>No filter applied. Filter order must be greater then 0.</source>
-        <translation type="unfinished">Kein Filter angewendet. Die Filterordnung muss größer als 0 sein.</translation>
+        <translation>Kein Filter angewendet. Die Filterordnung muss größer als 0 sein.</translation>
     </message>
     <message>
         <source>low-pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefpass</translation>
     </message>
     <message>
         <source>high-pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochpass</translation>
     </message>
     <message>
         <source>sample %1 is %2, which no filter can take</source>
-        <translation type="unfinished"></translation>
+        <translation>Abtastwert %1 ist %2, was kein Filter verarbeiten kann</translation>
     </message>
     <message>
         <source>the result does not fit single precision; scale the samples down</source>
-        <translation type="unfinished"></translation>
+        <translation>das Ergebnis passt nicht in einfache Genauigkeit; skalieren Sie die Abtastwerte herunter</translation>
     </message>
     <message>
         <source>No filter applied. Filter order %1 is above the limit of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Filter angewendet. Die Filterordnung %1 liegt über der Grenze von %2.</translation>
     </message>
     <message>
         <source>No filter applied. The cut-off is %1 of the sample rate; it must be above 0 and below 0.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Filter angewendet. Die Grenzfrequenz ist das %1-Fache der Abtastrate; sie muss über 0 und unter 0,5 liegen.</translation>
     </message>
     <message>
         <source>No filter applied. Single precision cannot hold a filter of order %1 with a cut-off of %2 of the sample rate; choose a lower order or a cut-off nearer to the middle of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Filter angewendet. Einfache Genauigkeit reicht nicht für einen Filter der Ordnung %1 mit einer Grenzfrequenz vom %2-Fachen der Abtastrate; wählen Sie eine kleinere Ordnung oder eine Grenzfrequenz näher an der Mitte des Bereichs.</translation>
     </message>
     <message>
         <source>No filter applied. The filter cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Filter angewendet. Der Filter kann nicht erstellt werden.</translation>
     </message>
     <message>
         <source>the energy of the samples does not fit single precision; scale them down</source>
-        <translation type="unfinished"></translation>
+        <translation>die Energie der Abtastwerte passt nicht in einfache Genauigkeit; skalieren Sie sie herunter</translation>
     </message>
     <message>
         <source>There is no grid with cells; build the grid first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Gitter mit Zellen; erstellen Sie zuerst das Gitter.</translation>
     </message>
     <message>
         <source>The velocity model cannot be used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Geschwindigkeitsmodell kann nicht verwendet werden: %1</translation>
     </message>
     <message>
         <source>Ray tracing of shot %1 failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Strahlverfolgung von Schuss %1 ist fehlgeschlagen: %2</translation>
     </message>
     <message>
         <source>Choose a positive cell size and no negative depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine positive Zellengröße und keine negative Tiefe.</translation>
     </message>
     <message>
         <source>Geophones do not have geometry! 
 Please set the position of geophones
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Die Geophone haben keine Geometrie! 
+Bitte legen Sie die Positionen der Geophone fest
+</translation>
     </message>
     <message>
         <source>A position of the survey lies more than 100 000 km away; please check the geometry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Position der Messung liegt mehr als 100 000 km entfernt; bitte prüfen Sie die Geometrie.</translation>
     </message>
     <message>
         <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Gitter aus Zellen von %1 m mit %2 Knoten pro Seite und %3 m Tiefe kann nicht erstellt werden; wählen Sie eine positive Zellengröße, mindestens zwei Knoten und keine negative Tiefe.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gitter konnte nicht erstellt werden; siehe die Fehlerausgabe.</translation>
     </message>
     <message>
         <source>The grid could not be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gitter konnte nicht erstellt werden: %1</translation>
     </message>
     <message>
         <source>There is no grid yet; build the grid first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch kein Gitter; erstellen Sie zuerst das Gitter.</translation>
     </message>
     <message>
         <source>The smoothing parameter must be 1 at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Glättungsparameter muss mindestens 1 sein.</translation>
     </message>
     <message>
         <source>The smoothed velocity model cannot be used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das geglättete Geschwindigkeitsmodell kann nicht verwendet werden: %1</translation>
     </message>
     <message>
         <source>The grid could not be smoothed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gitter konnte nicht geglättet werden: %1</translation>
     </message>
     <message>
         <source>The rays could not be traced: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Strahlen konnten nicht verfolgt werden: %1</translation>
     </message>
     <message>
         <source>Iterations and smoothing parameter must be 1 at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Iterationen und Glättungsparameter müssen mindestens 1 sein.</translation>
     </message>
     <message>
         <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Geschwindigkeitsgrenzen müssen positive Zahlen sein; %1 m/s ist keine.</translation>
     </message>
     <message>
         <source>The information density could not be computed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Informationsdichte konnte nicht berechnet werden: %1</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>der Farbverlauf hat keine Farben</translation>
     </message>
     <message>
         <source>a colour stop of its gradient is not a finite number</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Regler des Farbverlaufs ist keine endliche Zahl</translation>
     </message>
     <message>
         <source>its name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name ist zu lang</translation>
     </message>
     <message>
         <source>its range of values is out of bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wertebereich liegt außerhalb der Grenzen</translation>
     </message>
     <message>
         <source>its gradient has %1 colour stops, more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>der Farbverlauf hat %1 Regler, mehr als %2</translation>
     </message>
     <message>
         <source>A section has 0 to %1 contour values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Schnitt hat 0 bis %1 Isowerte.</translation>
     </message>
     <message>
         <source>The value range of the section is empty: its maximum must be greater than its minimum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wertebereich des Schnitts ist leer: Sein Maximum muss größer sein als sein Minimum.</translation>
     </message>
     <message>
         <source>There is no section to draw: no cell that is shown has a value for &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Schnitt zu zeichnen: Keine gezeigte Zelle hat einen Wert für „%1“.</translation>
     </message>
     <message>
         <source>There is no section to draw: the survey has no grid yet. Build one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Schnitt zu zeichnen: Die Messung hat noch kein Gitter. Erstellen Sie eines.</translation>
     </message>
     <message>
         <source>Vertical gradient of velocity</source>
-        <translation type="unfinished">Vertikaler Geschwindigkeitsgradient</translation>
+        <translation>Vertikaler Geschwindigkeitsgradient</translation>
     </message>
     <message>
         <source>Laplacian of velocity</source>
-        <translation type="unfinished">Laplace der Geschwindigkeit</translation>
+        <translation>Laplace der Geschwindigkeit</translation>
     </message>
     <message>
         <source>Information density</source>
-        <translation type="unfinished">Informationsdichte</translation>
+        <translation>Informationsdichte</translation>
     </message>
     <message>
         <source>Velocity</source>
-        <translation type="unfinished">Geschwindigkeit</translation>
+        <translation>Geschwindigkeit</translation>
     </message>
 </context>
 <context>
@@ -7316,7 +7318,7 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     </message>
     <message>
         <source>Smooths the velocities of the present grid. Rays and misfit of a result are traced anew through the smoothed section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Glättet die Geschwindigkeiten des vorhandenen Gitters. Strahlen und Abweichung eines Ergebnisses werden durch den geglätteten Schnitt neu berechnet.</translation>
     </message>
 </context>
 </TS>
