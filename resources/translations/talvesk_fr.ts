@@ -944,72 +944,72 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
-        <translation type="unfinished">Guide de l&apos;utilisateur</translation>
+        <translation>Guide de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>Pages found</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages trouvées</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Précédent</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Sommaire</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte plus petit</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte plus grand</translation>
     </message>
     <message>
         <source>Find previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher le précédent</translation>
     </message>
     <message>
         <source>Find next</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher le suivant</translation>
     </message>
     <message>
         <source>Open in browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir dans le navigateur</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>title of a page, number of places</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun résultat</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 sur %2</translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>No program to show the user guide was found.</source>
-        <translation type="unfinished">Aucun programme n&apos;a été trouvé pour afficher le guide de l&apos;utilisateur.</translation>
+        <translation>Aucun programme n&apos;a été trouvé pour afficher le guide de l&apos;utilisateur.</translation>
     </message>
     <message>
         <source>You find it in %1</source>
-        <translation type="unfinished">Il se trouve dans %1</translation>
+        <translation>Il se trouve dans %1</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher</translation>
     </message>
 </context>
 <context>
@@ -1394,1617 +1394,1619 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <name>talvesk::Message</name>
     <message>
         <source>The inversion failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;inversion a échoué&#xa0;: %1</translation>
     </message>
     <message>
         <source>The picture cannot be made: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image ne peut pas être produite&#xa0;: %1</translation>
     </message>
     <message>
         <source>The view cannot be drawn for a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vue ne peut pas être dessinée pour une image.</translation>
     </message>
     <message>
         <source>Cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>its name is not valid UTF-8 text</source>
-        <translation type="unfinished"></translation>
+        <translation>son nom n&apos;est pas un texte UTF-8 valide</translation>
     </message>
     <message>
         <source>the file is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est trop volumineux</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>its text could not be put together</source>
-        <translation type="unfinished"></translation>
+        <translation>son texte n&apos;a pas pu être composé</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce fichier n&apos;existe pas</translation>
     </message>
     <message>
         <source>its %1 bytes are more than the limit of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ses %1 octets dépassent la limite de %2</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>la mémoire est insuffisante</translation>
     </message>
     <message>
         <source>The file %1 cannot be replaced: it is %2; choose another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 ne peut pas être remplacé (%2)&#xa0;; choisissez un autre emplacement.</translation>
     </message>
     <message>
         <source>a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un dossier</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>protected against writing</source>
-        <translation type="unfinished"></translation>
+        <translation>il est protégé en écriture</translation>
     </message>
     <message>
         <source>The file %1 cannot be created: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 ne peut pas être créé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be given its permissions: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 ne peut pas recevoir ses droits d&apos;accès&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 ne peut pas être écrit&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be replaced: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 ne peut pas être remplacé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1&#xa0;: %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>nobody reads from it</source>
-        <translation type="unfinished"></translation>
+        <translation>personne n&apos;y lit</translation>
     </message>
     <message>
         <source>there are more than %1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a plus de %1 lignes</translation>
     </message>
     <message>
         <source>line %1: &quot;%2&quot; is no number</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1&#xa0;: «&#xa0;%2&#xa0;» n&apos;est pas un nombre</translation>
     </message>
     <message>
         <source>the survey has no grid; create the grid or run the inversion first</source>
-        <translation type="unfinished"></translation>
+        <translation>le levé n&apos;a pas de grille&#xa0;; créez d&apos;abord la grille ou lancez l&apos;inversion</translation>
     </message>
     <message>
         <source>no cell of the section is drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune cellule de la coupe n&apos;est dessinée</translation>
     </message>
     <message>
         <source>eastward</source>
-        <translation type="unfinished"></translation>
+        <translation>vers l&apos;est</translation>
     </message>
     <message>
         <source>northward</source>
-        <translation type="unfinished"></translation>
+        <translation>vers le nord</translation>
     </message>
     <message>
         <source>westward</source>
-        <translation type="unfinished"></translation>
+        <translation>vers l&apos;ouest</translation>
     </message>
     <message>
         <source>southward</source>
-        <translation type="unfinished"></translation>
+        <translation>vers le sud</translation>
     </message>
     <message>
         <source>%1 is no reference system that is known here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;est pas un système de référence connu ici</translation>
     </message>
     <message>
         <source>%1 is not a projected system; easting and northing need one</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;est pas un système projeté&#xa0;; il en faut un pour les coordonnées est et nord</translation>
     </message>
     <message>
         <source>%1 has no axes that are known here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas d&apos;axes connus ici</translation>
     </message>
     <message>
         <source>%1 counts in another unit than the metre: %2; choose a system in metres</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 compte dans une autre unité que le mètre&#xa0;: %2&#xa0;; choisissez un système en mètres</translation>
     </message>
     <message>
         <source>%1 counts %2 and %3; choose a system with easting and northing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 compte %2 et %3&#xa0;; choisissez un système dont les coordonnées croissent vers l&apos;est et vers le nord</translation>
     </message>
     <message>
         <source>%1 (%2) cannot be turned into longitude and latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2) ne peut pas être converti en longitude et latitude</translation>
     </message>
     <message>
         <source>the Y coordinate and the Z offset of the line must be finite numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>la coordonnée Y et le décalage Z de la ligne doivent être des nombres finis</translation>
     </message>
     <message>
         <source>Cannot write %1: its text could not be put together</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire %1&#xa0;: son texte n&apos;a pas pu être composé</translation>
     </message>
     <message>
         <source>the coordinates of the geophones are not numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>les coordonnées des géophones ne sont pas des nombres</translation>
     </message>
     <message>
         <source>the first and the last geophone have the same coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>le premier et le dernier géophone ont les mêmes coordonnées</translation>
     </message>
     <message>
         <source>the coordinates of the geophones lie outside of EPSG:%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>les coordonnées des géophones sont hors du domaine d&apos;EPSG:%1 (%2)</translation>
     </message>
     <message>
         <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
-        <translation type="unfinished">Les coordonnées géographiques manquent, les données ne peuvent pas être exportées au format KML</translation>
+        <translation>Les coordonnées géographiques manquent, les données ne peuvent pas être exportées au format KML</translation>
     </message>
     <message>
         <source>the section has too many cells for this format, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la coupe a trop de cellules pour ce format, %1</translation>
     </message>
     <message>
         <source>the palette has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>la palette n&apos;a pas de couleurs</translation>
     </message>
     <message>
         <source>the value range of the section is empty; its maximum must be greater than its minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>la plage de valeurs de la coupe est vide&#xa0;; son maximum doit être supérieur à son minimum</translation>
     </message>
     <message>
         <source>the survey has no geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>le levé n&apos;a pas de géophones</translation>
     </message>
     <message>
         <source>the raster would have %1 nodes; choose larger cells</source>
-        <translation type="unfinished"></translation>
+        <translation>le maillage aurait %1 nœuds&#xa0;; choisissez des cellules plus grandes</translation>
     </message>
     <message>
         <source>Not enough memory for a picture of this size: choose a smaller size or resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante pour une image de cette taille&#xa0;: choisissez une taille ou une résolution plus petite.</translation>
     </message>
     <message>
         <source>The PNG picture cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image PNG ne peut pas être produite.</translation>
     </message>
     <message>
         <source>The SVG picture cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image SVG ne peut pas être produite.</translation>
     </message>
     <message>
         <source>The PDF page cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page PDF ne peut pas être produite.</translation>
     </message>
     <message>
         <source>A figure cannot be drawn before the application object exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une figure ne peut pas être dessinée avant que l&apos;objet application n&apos;existe.</translation>
     </message>
     <message>
         <source>A figure cannot be drawn without fonts: install a font package, for instance fonts-dejavu-core.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une figure ne peut pas être dessinée sans polices&#xa0;: installez un paquet de polices, par exemple fonts-dejavu-core.</translation>
     </message>
     <message>
         <source>No picture format is known for %1: let the file name end with .png, .svg or .pdf.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun format d&apos;image n&apos;est connu pour %1&#xa0;: le nom du fichier doit se terminer par .png, .svg ou .pdf.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 mm wide: choose %2 to %3 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une figure ne peut pas avoir une largeur de %1 mm&#xa0;: choisissez de %2 à %3 mm.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 mm high: choose %2 to %3 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une figure ne peut pas avoir une hauteur de %1 mm&#xa0;: choisissez de %2 à %3 mm.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 pixels per inch: choose %2 to %3 pixels per inch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une figure ne peut pas avoir %1 pixels par pouce&#xa0;: choisissez de %2 à %3 pixels par pouce.</translation>
     </message>
     <message>
         <source>A picture of %1 million pixels is too large: the limit is %2 million. Choose a smaller size or resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image de %1 millions de pixels est trop grande&#xa0;: la limite est de %2 millions. Choisissez une taille ou une résolution plus petite.</translation>
     </message>
     <message>
         <source>A PDF file needs a page at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier PDF doit avoir au moins une page.</translation>
     </message>
     <message>
         <source>%1 cannot be drawn before the application object exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de dessiner avant que l&apos;objet application n&apos;existe&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The picture is too small for what it shows with its axes and texts: choose a larger size.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image est trop petite pour ce qu&apos;elle montre avec ses axes et ses textes&#xa0;: choisissez une taille plus grande.</translation>
     </message>
     <message>
         <source>The document has no traces to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n&apos;a aucune trace à dessiner.</translation>
     </message>
     <message>
         <source>The times from %1 to %2 ms cannot be drawn: choose a begin of 0 or more and an end after it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les temps de %1 à %2 ms ne peuvent pas être dessinés&#xa0;: choisissez un début positif ou nul et une fin postérieure au début.</translation>
     </message>
     <message>
         <source>The gain of a gather must lie above 0 and not above %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le gain des traces d&apos;un tir doit être supérieur à 0 et au plus égal à %1.</translation>
     </message>
     <message>
         <source>Wiggles can be cut at more than 0 and up to 100 trace distances.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coupure des oscillations doit être supérieure à 0 et au plus égale à 100 intervalles entre traces.</translation>
     </message>
     <message>
         <source>There is no shot %1 to draw: the document has %2 with traces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de tir %1 à dessiner&#xa0;: le document a %2 avec des traces.</translation>
     </message>
     <message>
         <source>1 shot</source>
-        <translation type="unfinished">1 tir</translation>
+        <translation>1 tir</translation>
     </message>
     <message>
         <source>%1 shots</source>
-        <translation type="unfinished">%1 tirs</translation>
+        <translation>%1 tirs</translation>
     </message>
     <message>
         <source>The inversion has no misfit to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;inversion n&apos;a pas d&apos;écart à dessiner.</translation>
     </message>
     <message>
         <source>There are no residuals to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a aucun résidu à dessiner.</translation>
     </message>
     <message>
         <source>There is no refractor with a depth to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a aucun réfracteur avec une profondeur à dessiner.</translation>
     </message>
     <message>
         <source>There is no survey to report on: load shot files or travel times first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de levé pour un rapport&#xa0;: chargez d&apos;abord des fichiers de tirs ou des temps de parcours.</translation>
     </message>
     <message>
         <source>No report format is known for %1: let the file name end with .pdf or .odt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun format de rapport n&apos;est connu pour %1&#xa0;: le nom du fichier doit se terminer par .pdf ou .odt.</translation>
     </message>
     <message>
         <source>The report was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le rapport a été interrompu.</translation>
     </message>
     <message>
         <source>The vertical exaggeration must lie between 0.01 and 100, or be 0 to let the picture choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;exagération verticale doit être comprise entre 0,01 et 100, ou valoir 0 pour que l&apos;image choisisse.</translation>
     </message>
     <message>
         <source>The palette &quot;%1&quot; has no colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>La palette «&#xa0;%1&#xa0;» n&apos;a pas de couleurs.</translation>
     </message>
     <message>
         <source>The section has no extent to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coupe n&apos;a pas d&apos;étendue à dessiner.</translation>
     </message>
     <message>
         <source>The picture is too small for the section with its axes and texts: choose a larger size.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image est trop petite pour la coupe avec ses axes et ses textes&#xa0;: choisissez une taille plus grande.</translation>
     </message>
     <message>
         <source>There are no travel times to draw: pick first breaks, or load travel times, first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a aucun temps de parcours à dessiner&#xa0;: pointez d&apos;abord les premières arrivées ou chargez des temps de parcours.</translation>
     </message>
     <message>
         <source>The document cannot be packed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document ne peut pas être compressé&#xa0;: %1</translation>
     </message>
     <message>
         <source>its bytes cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>ses octets ne peuvent pas être relus</translation>
     </message>
     <message>
         <source>cell %1 has no valid velocity (slowness %2 s/m)</source>
-        <translation type="unfinished"></translation>
+        <translation>la cellule %1 n&apos;a pas de vitesse valide (lenteur %2 s/m)</translation>
     </message>
     <message>
         <source>A grid of %1 rows and %2 columns with %3 nodes per side %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Une grille de %1 lignes et %2 colonnes avec %3 nœuds par côté %4</translation>
     </message>
     <message>
         <source>has no cells; choose cells smaller than the array is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>n&apos;a pas de cellules&#xa0;; choisissez des cellules plus petites que la longueur du dispositif.</translation>
     </message>
     <message>
         <source>has %1 nodes; at most %2 can be numbered. Choose larger cells or a smaller depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>a %1 nœuds&#xa0;; au plus %2 peuvent être numérotés. Choisissez des cellules plus grandes ou une profondeur plus faible.</translation>
     </message>
     <message>
         <source>needs about %1 MiB, but only %2 MiB are free. Choose larger cells or a smaller depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>demande environ %1 Mio, mais seuls %2 Mio sont libres. Choisissez des cellules plus grandes ou une profondeur plus faible.</translation>
     </message>
     <message>
         <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne reste aucune couche&#xa0;: la profondeur finale d&apos;une couche doit être supérieure à sa profondeur initiale, et celle-ci ne doit pas être négative.</translation>
     </message>
     <message>
         <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les couches ne forment pas un modèle de vitesse. Classez-les par profondeur, sans chevauchement, chacune de plus de 0,02 m d&apos;épaisseur. %1</translation>
     </message>
     <message>
         <source>The grid of the layered model could not be built.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grille du modèle en couches n&apos;a pas pu être construite.</translation>
     </message>
     <message>
         <source>the line holds %1 characters, more than the limit of %2; split the table into one file per spread</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne contient %1 caractères, plus que la limite de %2&#xa0;; découpez le tableau en un fichier par dispositif</translation>
     </message>
     <message>
         <source>the first line names no receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>la première ligne ne nomme aucun récepteur</translation>
     </message>
     <message>
         <source>there are %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a %1 pour %2</translation>
     </message>
     <message>
         <source>%1 without an elevation were taken to lie at 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sans altitude&#xa0;: altitude 0 retenue</translation>
     </message>
     <message>
         <source>the shot has no elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>le tir n&apos;a pas d&apos;altitude</translation>
     </message>
     <message>
         <source>line %1: only %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1&#xa0;: seulement %2 pour %3</translation>
     </message>
     <message>
         <source>the %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>invalid stod argument</source>
-        <translation type="unfinished"></translation>
+        <translation>argument de stod non valide</translation>
     </message>
     <message>
         <source>stod argument out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>argument de stod hors limites</translation>
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, ligne %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>Cannot write %1: there are %2 labels for %3 records</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire %1&#xa0;: il y a %2 étiquettes pour %3 enregistrements</translation>
     </message>
     <message>
         <source>the line holds more than %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne contient plus de %1 caractères</translation>
     </message>
     <message>
         <source>line %1 has no x and z; check the separator</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne %1 n&apos;a pas x et z&#xa0;; vérifiez le séparateur</translation>
     </message>
     <message>
         <source>%1, line %2 does not begin with a number; check the separator</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, la ligne %2 ne commence pas par un nombre&#xa0;; vérifiez le séparateur</translation>
     </message>
     <message>
         <source>%1 holds more than %2 values</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contient plus de %2 valeurs</translation>
     </message>
     <message>
         <source>there are only %1 shots</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a que %1 tirs</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a layer number: 0 for none, 1, 2 or 3</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un numéro de couche&#xa0;: 0 pour aucune, 1, 2 ou 3</translation>
     </message>
     <message>
         <source>shot %1 has %2 traces, which is not how many layer numbers there are</source>
-        <translation type="unfinished"></translation>
+        <translation>le tir %1 a %2 traces, ce qui n&apos;est pas le nombre des numéros de couche</translation>
     </message>
     <message>
         <source>%1: it holds layers of %2 shots, and there are %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: il contient les couches de %2 tirs, et il y en a %3</translation>
     </message>
     <message>
         <source>the first line is %1 where &quot;otte&quot; must stand</source>
-        <translation type="unfinished"></translation>
+        <translation>la première ligne est %1 au lieu de «&#xa0;otte&#xa0;»</translation>
     </message>
     <message>
         <source>the format version is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la version du format manque</translation>
     </message>
     <message>
         <source>the format version %1 was read as &quot;1.0&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la version de format %1 a été lue comme «&#xa0;1.0&#xa0;»</translation>
     </message>
     <message>
         <source>line 3 holds %1, not 2</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne 3 contient %1 et non 2</translation>
     </message>
     <message>
         <source>the %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>donnée manquante&#xa0;: %1</translation>
     </message>
     <message>
         <source>the line of each %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne de valeurs manquante&#xa0;: %1</translation>
     </message>
     <message>
         <source>there are %1 but %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a %1 mais %2</translation>
     </message>
     <message>
         <source>the file names %1 strings for %2 and %3</source>
-        <translation type="unfinished"></translation>
+        <translation>le nombre de dispositifs annoncé est %1, pour %2 et %3</translation>
     </message>
     <message>
         <source>there are more records than the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a plus d&apos;enregistrements qu&apos;il n&apos;en faut pour %1</translation>
     </message>
     <message>
         <source>the file ends after %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier se termine après %1 sur %2</translation>
     </message>
     <message>
         <source>the record names string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;enregistrement désigne le dispositif %1 sur %2</translation>
     </message>
     <message>
         <source>record %1 names trace set %2; it was taken for that of its own place</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;enregistrement %1 désigne le jeu de traces %2&#xa0;; il a été attribué à celui de son propre rang</translation>
     </message>
     <message>
         <source>the last line does not end in &quot;;&quot;: the file may be cut short</source>
-        <translation type="unfinished"></translation>
+        <translation>la dernière ligne ne se termine pas par «&#xa0;;&#xa0;»&#xa0;: le fichier est peut-être tronqué</translation>
     </message>
     <message>
         <source>the records need %1 in %2, the file holds %3</source>
-        <translation type="unfinished"></translation>
+        <translation>les enregistrements demandent %1 dans %2, le fichier contient %3</translation>
     </message>
     <message>
         <source>no string claims the last %1: a record of each string must hold one time per geophone</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun dispositif ne revendique %1 en fin de liste&#xa0;: un enregistrement de chaque dispositif doit contenir un temps par géophone</translation>
     </message>
     <message>
         <source>the strings without a record do not share %1 equally; the first ones took one more</source>
-        <translation type="unfinished"></translation>
+        <translation>les dispositifs sans enregistrement ne se partagent pas également %1&#xa0;; les premiers en ont pris un de plus</translation>
     </message>
     <message>
         <source>record %1 holds %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;enregistrement %1 contient %2 pour %3</translation>
     </message>
     <message>
         <source>%1 is too large for a palette</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est trop volumineux pour une palette</translation>
     </message>
     <message>
         <source>%1 is no palette file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;est pas un fichier de palette&#xa0;: %2</translation>
     </message>
     <message>
         <source>the byte order mark before the first line was ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>la marque d&apos;ordre des octets avant la première ligne a été ignorée</translation>
     </message>
     <message>
         <source>the %1 %2 is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur %2 (%1) n&apos;est pas un nombre</translation>
     </message>
     <message>
         <source>the %1 %2 is out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur %2 (%1) est hors limites</translation>
     </message>
     <message>
         <source>the %1 %2 is not finite</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur %2 (%1) n&apos;est pas finie</translation>
     </message>
     <message>
         <source>the %1 %2 is not a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur %2 (%1) n&apos;est pas un nombre entier</translation>
     </message>
     <message>
         <source>and more of this kind</source>
-        <translation type="unfinished"></translation>
+        <translation>et d&apos;autres du même genre</translation>
     </message>
     <message>
         <source>line %1 and what follows it was ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne %1 et ce qui la suit ont été ignorés</translation>
     </message>
     <message>
         <source>the file holds no shot</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier ne contient aucun tir</translation>
     </message>
     <message>
         <source>Invalid phone list : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste de géophones non valide&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pour %2</translation>
     </message>
     <message>
         <source>Invalid header : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En-tête non valide&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 must stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est attendu ici</translation>
     </message>
     <message>
         <source>Invalid match : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Correspondance non valide&#xa0;: %1</translation>
     </message>
     <message>
         <source>line %1: %2 is not a number and was taken as 0</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1&#xa0;: %2 n&apos;est pas un nombre et a été pris égal à 0</translation>
     </message>
     <message>
         <source>line %1: number %2 is named twice; its last value was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1&#xa0;: le numéro %2 est donné deux fois&#xa0;; sa dernière valeur a été retenue</translation>
     </message>
     <message>
         <source>number %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>le numéro %1 est inconnu</translation>
     </message>
     <message>
         <source>%1 %2 has no %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2, donnée manquante&#xa0;: %3</translation>
     </message>
     <message>
         <source>Invalid times : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps non valides&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 of shot %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 du tir %2 pour %3</translation>
     </message>
     <message>
         <source>geophone distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distance du géophone</translation>
     </message>
     <message>
         <source>geophone elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>altitude du géophone</translation>
     </message>
     <message>
         <source>shot distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distance du tir</translation>
     </message>
     <message>
         <source>shot elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>altitude du tir</translation>
     </message>
     <message>
         <source>receiver number</source>
-        <translation type="unfinished"></translation>
+        <translation>numéro du récepteur</translation>
     </message>
     <message>
         <source>receiver distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distance du récepteur</translation>
     </message>
     <message>
         <source>receiver elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>altitude du récepteur</translation>
     </message>
     <message>
         <source>distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distance</translation>
     </message>
     <message>
         <source>elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>altitude</translation>
     </message>
     <message>
         <source>shot</source>
-        <translation type="unfinished"></translation>
+        <translation>tir</translation>
     </message>
     <message>
         <source>receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>récepteur</translation>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>temps</translation>
     </message>
     <message>
         <source>first-break time</source>
-        <translation type="unfinished"></translation>
+        <translation>temps de première arrivée</translation>
     </message>
     <message>
         <source>number</source>
-        <translation type="unfinished"></translation>
+        <translation>numéro</translation>
     </message>
     <message>
         <source>value</source>
-        <translation type="unfinished"></translation>
+        <translation>valeur</translation>
     </message>
     <message>
         <source>format constant 2</source>
-        <translation type="unfinished"></translation>
+        <translation>constante de format 2</translation>
     </message>
     <message>
         <source>number of geophone strings</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de dispositifs de géophones</translation>
     </message>
     <message>
         <source>string of the record</source>
-        <translation type="unfinished"></translation>
+        <translation>dispositif de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>trace set of the record</source>
-        <translation type="unfinished"></translation>
+        <translation>jeu de traces de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>%1 geophone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 géophone</translation>
     </message>
     <message>
         <source>%1 geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 géophones</translation>
     </message>
     <message>
         <source>%1 receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 récepteur</translation>
     </message>
     <message>
         <source>%1 receivers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 récepteurs</translation>
     </message>
     <message>
         <source>%1 shot</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tir</translation>
     </message>
     <message>
         <source>%1 shot position</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 position de tir</translation>
     </message>
     <message>
         <source>%1 shot positions</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 positions de tir</translation>
     </message>
     <message>
         <source>%1 geophone distance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distance de géophone</translation>
     </message>
     <message>
         <source>%1 geophone distances</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distances de géophones</translation>
     </message>
     <message>
         <source>%1 shot distance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distance de tir</translation>
     </message>
     <message>
         <source>%1 shot distances</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distances de tirs</translation>
     </message>
     <message>
         <source>%1 elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 altitude</translation>
     </message>
     <message>
         <source>%1 elevations</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 altitudes</translation>
     </message>
     <message>
         <source>%1 time</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 temps</translation>
     </message>
     <message>
         <source>%1 times</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 temps</translation>
     </message>
     <message>
         <source>%1 record</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistrement</translation>
     </message>
     <message>
         <source>%1 records</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistrements</translation>
     </message>
     <message>
         <source>%1 string</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dispositif</translation>
     </message>
     <message>
         <source>%1 strings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dispositifs</translation>
     </message>
     <message>
         <source>%1 number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 numéro</translation>
     </message>
     <message>
         <source>%1 numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 numéros</translation>
     </message>
     <message>
         <source>%1 value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 valeur</translation>
     </message>
     <message>
         <source>%1 values</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 valeurs</translation>
     </message>
     <message>
         <source>%1 rows of %2 columns do not go with %3 velocities and %4 draw flags</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lignes de %2 colonnes ne correspondent pas à %3 vitesses et %4 indicateurs de dessin</translation>
     </message>
     <message>
         <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation type="unfinished"></translation>
+        <translation>des cellules de %2 m avec %1 nœuds par côté sont impossibles</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
-        <translation type="unfinished"></translation>
+        <translation>une vitesse n&apos;est pas un nombre positif</translation>
     </message>
     <message>
         <source>there is a grid, but no two geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a une grille, mais pas deux géophones</translation>
     </message>
     <message>
         <source>the grid cannot be built</source>
-        <translation type="unfinished"></translation>
+        <translation>la grille ne peut pas être construite</translation>
     </message>
     <message>
         <source>the limit of its rays lies off the line; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la limite de ses rais est hors de la ligne&#xa0;; elle est écartée</translation>
     </message>
     <message>
         <source>its information density does not fit the grid; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>sa densité d&apos;information ne correspond pas à la grille&#xa0;; elle est écartée</translation>
     </message>
     <message>
         <source>what it tells of its last inversion cannot be; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qu&apos;il indique de sa dernière inversion est impossible&#xa0;; cela est écarté</translation>
     </message>
     <message>
         <source>a geophone has no place</source>
-        <translation type="unfinished"></translation>
+        <translation>un géophone n&apos;a pas de position</translation>
     </message>
     <message>
         <source>a shot was recorded by geophone string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un tir a été enregistré par le dispositif de géophones %1 sur %2</translation>
     </message>
     <message>
         <source>a shot has no place</source>
-        <translation type="unfinished"></translation>
+        <translation>un tir n&apos;a pas de position</translation>
     </message>
     <message>
         <source>the grid cannot be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la grille ne peut pas être construite&#xa0;: %1</translation>
     </message>
     <message>
         <source>layers belong to shot %1, but %2 shots exist</source>
-        <translation type="unfinished"></translation>
+        <translation>des couches se rapportent au tir %1, mais il existe %2 tirs</translation>
     </message>
     <message>
         <source>an arrival belongs to a layer that does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>une arrivée appartient à une couche qui n&apos;existe pas</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque</translation>
     </message>
     <message>
         <source>it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>il est trop volumineux</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n&apos;existe pas.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas un fichier ordinaire.</translation>
     </message>
     <message>
         <source>You may not read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous n&apos;avez pas le droit de le lire.</translation>
     </message>
     <message>
         <source>It cannot be extracted: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne peut pas être extrait&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, or deeper than the line is long</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vitesses et profondeurs des couches sont écartées&#xa0;: hors de la plage de 50 à 12&#xa0;000 m/s, ou plus profondes que la longueur de la ligne</translation>
     </message>
     <message>
         <source>%1; the coverage of the last inversion and its figures are not known</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;; la couverture de la dernière inversion et ses chiffres ne sont pas connus</translation>
     </message>
     <message>
         <source>No temporary folder can be created in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun dossier temporaire ne peut être créé dans %1.</translation>
     </message>
     <message>
         <source>It cannot be extracted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne peut pas être extrait.</translation>
     </message>
     <message>
         <source>It cannot be loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne peut pas être chargé&#xa0;: %1</translation>
     </message>
     <message>
         <source>its title has control characters or is too long; it reads %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>son titre contient des caractères de contrôle ou est trop long&#xa0;; il est maintenant %1</translation>
     </message>
     <message>
         <source>its RMS misfit is no number; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>son écart quadratique moyen n&apos;est pas un nombre&#xa0;; il est écarté</translation>
     </message>
     <message>
         <source>its limits of velocity cannot be; they are as in a new survey</source>
-        <translation type="unfinished"></translation>
+        <translation>ses limites de vitesse sont impossibles&#xa0;; elles sont celles d&apos;un nouveau levé</translation>
     </message>
     <message>
         <source>a layer of its starting model cannot be; the model is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>une couche de son modèle initial est impossible&#xa0;; le modèle est écarté</translation>
     </message>
     <message>
         <source>a cell size that it proposes cannot be; it proposes new ones</source>
-        <translation type="unfinished"></translation>
+        <translation>une taille de cellule qu&apos;il propose est impossible&#xa0;; il en propose de nouvelles</translation>
     </message>
     <message>
         <source>its geographic coordinates are no numbers; they are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>ses coordonnées géographiques ne sont pas des nombres&#xa0;; elles sont écartées</translation>
     </message>
     <message>
         <source>no section can be drawn with a vertical exaggeration of %1; it is %2 now</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune coupe ne peut être dessinée avec une exagération verticale de %1&#xa0;; elle est maintenant de %2</translation>
     </message>
     <message>
         <source>its contours cannot be drawn so; they are put right</source>
-        <translation type="unfinished"></translation>
+        <translation>ses isolignes ne peuvent pas être dessinées ainsi&#xa0;; elles sont corrigées</translation>
     </message>
     <message>
         <source>its section shows a quantity that does not exist; it is the velocity now</source>
-        <translation type="unfinished"></translation>
+        <translation>sa coupe montre une grandeur qui n&apos;existe pas&#xa0;; c&apos;est maintenant la vitesse</translation>
     </message>
     <message>
         <source>its geophone markers have a size that does not exist; it is normal now</source>
-        <translation type="unfinished"></translation>
+        <translation>ses marques de géophones ont une taille qui n&apos;existe pas&#xa0;; elle est maintenant normale</translation>
     </message>
     <message>
         <source>velocities of %1 cell cannot be; they are held within %2 and %3 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>les vitesses de %1 cellule sont impossibles&#xa0;; elles sont maintenues entre %2 et %3 m/s</translation>
     </message>
     <message>
         <source>velocities of %1 cells cannot be; they are held within %2 and %3 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>les vitesses de %1 cellules sont impossibles&#xa0;; elles sont maintenues entre %2 et %3 m/s</translation>
     </message>
     <message>
         <source>a time shift of its arrivals cannot be; it is 0 now</source>
-        <translation type="unfinished"></translation>
+        <translation>un décalage temporel de ses arrivées est impossible&#xa0;; il est maintenant nul</translation>
     </message>
     <message>
         <source>its layered profile cannot be; it is left out and can be built again</source>
-        <translation type="unfinished"></translation>
+        <translation>son profil en couches est impossible&#xa0;; il est écarté et peut être reconstruit</translation>
     </message>
     <message>
         <source>its coverage and figures do not go with the grid and the inversion of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>sa couverture et ses chiffres ne correspondent pas à la grille et à l&apos;inversion du projet</translation>
     </message>
     <message>
         <source>%1 is no name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;est pas un nom de fichier</translation>
     </message>
     <message>
         <source>trace set %1 has %2 traces, but %3 filtered copies</source>
-        <translation type="unfinished"></translation>
+        <translation>le jeu de traces %1 a %2 traces, mais %3 copies filtrées</translation>
     </message>
     <message>
         <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten and its traces are empty</source>
-        <translation type="unfinished"></translation>
+        <translation>tir %1&#xa0;: son fichier de tir s&apos;appelle %2, ce qui n&apos;est pas un simple nom de fichier&#xa0;; le nom est oublié et ses traces sont vides</translation>
     </message>
     <message>
         <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>tir %1&#xa0;: son fichier de tir s&apos;appelle %2, ce qui n&apos;est pas un simple nom de fichier&#xa0;; le nom est oublié</translation>
     </message>
     <message>
         <source>%1 has %2 traces instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a %2 traces au lieu de %3</translation>
     </message>
     <message>
         <source>there are %1 trace sets, but %2 travel-time records</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a %1 jeux de traces, mais %2 enregistrements de temps de parcours</translation>
     </message>
     <message>
         <source>no travel-time record belongs to trace set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun enregistrement de temps de parcours ne correspond au jeu de traces %1</translation>
     </message>
     <message>
         <source>%1 and %2 have different numbers of traces</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2 n&apos;ont pas le même nombre de traces</translation>
     </message>
     <message>
         <source>wave type %1 does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>le type d&apos;onde %1 n&apos;existe pas</translation>
     </message>
     <message>
         <source>there are more files or filtered copies than trace sets</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a plus de fichiers ou de copies filtrées que de jeux de traces</translation>
     </message>
     <message>
         <source>trace set %1 has a position or delay that cannot be</source>
-        <translation type="unfinished"></translation>
+        <translation>le jeu de traces %1 a une position ou un délai impossible</translation>
     </message>
     <message>
         <source>trace set %1 has a sample that is no finite number</source>
-        <translation type="unfinished"></translation>
+        <translation>le jeu de traces %1 a un échantillon qui n&apos;est pas un nombre fini</translation>
     </message>
     <message>
         <source>Its parts cannot be written in %1; is the disk full?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ses parties ne peuvent pas être écrites dans %1&#xa0;; le disque est-il plein&#xa0;?</translation>
     </message>
     <message>
         <source>The archive %1 cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;archive %1 ne peut pas être écrite.</translation>
     </message>
     <message>
         <source>It cannot be put together: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne peut pas être composé&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 octets</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mo</translation>
     </message>
     <message>
         <source>it unpacks to more than %1, which no project of %2 does</source>
-        <translation type="unfinished"></translation>
+        <translation>une fois décompressé, il dépasse %1, ce qu&apos;aucun projet de %2 ne fait</translation>
     </message>
     <message>
         <source>it unpacks to %1 or more, and the disk has room for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>une fois décompressé, il occupe %1 ou plus, et le disque n&apos;a que %2 de libre</translation>
     </message>
     <message>
         <source>%1 cannot be extracted: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être extrait&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 in it cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>son élément %1 ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 in it is damaged: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>son élément %1 est endommagé&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 in it is not as long as it says</source>
-        <translation type="unfinished"></translation>
+        <translation>son élément %1 n&apos;a pas la longueur annoncée</translation>
     </message>
     <message>
         <source>The file %1 cannot be added to the archive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 ne peut pas être ajouté à l&apos;archive.</translation>
     </message>
     <message>
         <source>The archive %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;archive %1 ne peut pas être écrite&#xa0;: %2.</translation>
     </message>
     <message>
         <source>it holds %1 files, more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient %1 fichiers, plus que %2</translation>
     </message>
     <message>
         <source>%1 in it is no name of a file without a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>son élément %1 n&apos;est pas un nom de fichier sans dossier</translation>
     </message>
     <message>
         <source>two files in it are called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>deux de ses fichiers s&apos;appellent %1</translation>
     </message>
     <message>
         <source>The files of the project are %1, more than the %2 that can be opened again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers du projet sont au nombre de %1, plus que les %2 qui peuvent être rouverts.</translation>
     </message>
     <message>
         <source>it is no archive of a project, or damaged: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas une archive de projet, ou elle est endommagée&#xa0;: %1</translation>
     </message>
     <message>
         <source>there is nothing in it</source>
-        <translation type="unfinished"></translation>
+        <translation>il est vide</translation>
     </message>
     <message>
         <source>it is no archive of a project: there is no %1 in it</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas une archive de projet&#xa0;: elle ne contient pas %1</translation>
     </message>
     <message>
         <source>its list of files is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>sa liste de fichiers est endommagée</translation>
     </message>
     <message>
         <source>it cannot be closed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne peut pas être fermé&#xa0;: %1</translation>
     </message>
     <message>
         <source>its headers promise %1 traces of more data than can come from %2 bytes; the file is damaged or no shot file</source>
-        <translation type="unfinished"></translation>
+        <translation>ses en-têtes promettent %1 traces de plus de données que ne peuvent en fournir %2 octets&#xa0;; le fichier est endommagé ou n&apos;est pas un fichier de tir</translation>
     </message>
     <message>
         <source>trace %1</source>
-        <translation type="unfinished"></translation>
+        <translation>trace %1</translation>
     </message>
     <message>
         <source>%1 traces, the first of them trace %2,</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 traces, dont la première est la trace %2</translation>
     </message>
     <message>
         <source>the %1 in the header of %2 is no finite number; what cannot be used of it was taken as 0</source>
-        <translation type="unfinished"></translation>
+        <translation>un nombre de l&apos;en-tête n&apos;est pas fini (%1&#xa0;; %2)&#xa0;; ce qui n&apos;en est pas utilisable a été pris égal à 0</translation>
     </message>
     <message>
         <source>it is no SEG-2 file of little-endian numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fichier SEG-2 à nombres petit-boutistes</translation>
     </message>
     <message>
         <source>its last trace has no usable sample interval</source>
-        <translation type="unfinished"></translation>
+        <translation>sa dernière trace n&apos;a pas de pas d&apos;échantillonnage utilisable</translation>
     </message>
     <message>
         <source>source position</source>
-        <translation type="unfinished"></translation>
+        <translation>position de la source</translation>
     </message>
     <message>
         <source>receiver position</source>
-        <translation type="unfinished"></translation>
+        <translation>position du récepteur</translation>
     </message>
     <message>
         <source>delay</source>
-        <translation type="unfinished"></translation>
+        <translation>délai</translation>
     </message>
     <message>
         <source>data format code %1: one 16-bit sample is taken of every four bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>code de format de données %1&#xa0;: un échantillon de 16 bits est pris tous les quatre octets</translation>
     </message>
     <message>
         <source>data format code %1 is not read; its samples are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>le code de format de données %1 n&apos;est pas lu&#xa0;; ses échantillons sont nuls</translation>
     </message>
     <message>
         <source>its traces are taken to lie as close as the 16-bit data of the SEG-Y file before it</source>
-        <translation type="unfinished"></translation>
+        <translation>ses traces sont supposées aussi rapprochées que les données de 16 bits du fichier SEG-Y précédent</translation>
     </message>
     <message>
         <source>it says that its numbers are little-endian, but is read big-endian as a file before it; load the little-endian files first</source>
-        <translation type="unfinished"></translation>
+        <translation>il annonce des nombres petit-boutistes, mais il est lu comme gros-boutiste, à l&apos;instar d&apos;un fichier précédent&#xa0;; chargez d&apos;abord les fichiers petit-boutistes</translation>
     </message>
     <message>
         <source>its numbers seem to be in the other byte order; load a SEG-Y file of that order first</source>
-        <translation type="unfinished"></translation>
+        <translation>ses nombres semblent être dans l&apos;autre ordre des octets&#xa0;; chargez d&apos;abord un fichier SEG-Y de cet ordre</translation>
     </message>
     <message>
         <source>%1; %2</source>
-        <translation type="unfinished">%1&#xa0;: %2 {1;?}</translation>
+        <translation>%1&#xa0;; %2</translation>
     </message>
     <message>
         <source>%1 bytes after the traces that its headers name were not read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 octets après les traces annoncées par ses en-têtes n&apos;ont pas été lus</translation>
     </message>
     <message>
         <source>data format code %1 (IBM floats) is not read; its samples are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>le code de format de données %1 (flottants IBM) n&apos;est pas lu&#xa0;; ses échantillons sont nuls</translation>
     </message>
     <message>
         <source>its suffix is none of seg2, dat, sg2, sgy, segy, su</source>
-        <translation type="unfinished"></translation>
+        <translation>son suffixe n&apos;est ni seg2, ni dat, ni sg2, ni sgy, ni segy, ni su</translation>
     </message>
     <message>
         <source>Error while loading %1</source>
-        <translation type="unfinished">Erreur lors du chargement de %1. {1?}</translation>
+        <translation>Erreur lors du chargement de %1</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished">%1&#xa0;: %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>the survey holds S-wave pairs; add more of them in the survey geometry, or start a new survey to load shot files</source>
-        <translation type="unfinished"></translation>
+        <translation>le levé contient des paires d&apos;ondes S&#xa0;; ajoutez-en d&apos;autres dans la géométrie du levé, ou commencez un nouveau levé pour charger des fichiers de tirs</translation>
     </message>
     <message>
         <source>the survey holds picks without traces; start a new survey to load shot files</source>
-        <translation type="unfinished"></translation>
+        <translation>le levé contient des pointés sans traces&#xa0;; commencez un nouveau levé pour charger des fichiers de tirs</translation>
     </message>
     <message>
         <source>the file holds no trace</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier ne contient aucune trace</translation>
     </message>
     <message>
         <source>the file is cut short: %1 bytes that its headers promise are missing and were taken as zeros</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est tronqué&#xa0;: %1 octets promis par ses en-têtes manquent et ont été pris comme des zéros</translation>
     </message>
     <message>
         <source>%1 samples that are no finite numbers were set to 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 échantillons qui ne sont pas des nombres finis ont été mis à 0</translation>
     </message>
     <message>
         <source>its traces have different numbers of samples</source>
-        <translation type="unfinished"></translation>
+        <translation>ses traces n&apos;ont pas toutes le même nombre d&apos;échantillons</translation>
     </message>
     <message>
         <source>its traces have different sample intervals</source>
-        <translation type="unfinished"></translation>
+        <translation>ses traces n&apos;ont pas toutes le même pas d&apos;échantillonnage</translation>
     </message>
     <message>
         <source>a sample interval is not positive, so that times mean nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>un pas d&apos;échantillonnage n&apos;est pas positif, si bien que les temps n&apos;ont pas de sens</translation>
     </message>
     <message>
         <source>The shot file %1 could not be copied; its traces are saved without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de tir %1 n&apos;a pas pu être copié&#xa0;; ses traces sont enregistrées sans lui.</translation>
     </message>
     <message>
         <source>Of the shot files %1 and %2 only the second is in the project; the traces of both are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des fichiers de tirs %1 et %2, seul le second est dans le projet&#xa0;; les traces des deux y sont.</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>a file holds no traces</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier ne contient aucune trace</translation>
     </message>
     <message>
         <source>the DX file has %1 traces, the SX file %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier DX a %1 traces, le fichier SX %2</translation>
     </message>
     <message>
         <source>trace %1 has a sample interval of %2 in the DX file and of %3 in the SX file</source>
-        <translation type="unfinished"></translation>
+        <translation>la trace %1 a un pas d&apos;échantillonnage de %2 dans le fichier DX et de %3 dans le fichier SX</translation>
     </message>
     <message>
         <source>trace %1 has a delay of %2 in the DX file and of %3 in the SX file</source>
-        <translation type="unfinished"></translation>
+        <translation>la trace %1 a un délai de %2 dans le fichier DX et de %3 dans le fichier SX</translation>
     </message>
     <message>
         <source>DX and SX differ in receiver positions; those of DX count</source>
-        <translation type="unfinished"></translation>
+        <translation>DX et SX diffèrent par les positions des récepteurs&#xa0;; celles de DX font foi</translation>
     </message>
     <message>
         <source>DX and SX differ in source position; that of DX counts</source>
-        <translation type="unfinished"></translation>
+        <translation>DX et SX diffèrent par la position de la source&#xa0;; celle de DX fait foi</translation>
     </message>
     <message>
         <source>DX and SX differ in length; that of DX counts</source>
-        <translation type="unfinished"></translation>
+        <translation>DX et SX diffèrent par la longueur&#xa0;; celle de DX fait foi</translation>
     </message>
     <message>
         <source>%1: DX and SX are the same file; their difference is nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: DX et SX sont le même fichier&#xa0;; leur différence est nulle</translation>
     </message>
     <message>
         <source>%1 and %2 are no pair: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2 ne forment pas une paire&#xa0;: %3</translation>
     </message>
     <message>
         <source>Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier TT d&apos;entrée non valide&#xa0;: %1 (son suffixe n&apos;est ni .otte, ni .txt, ni .xyz, ni .csv)</translation>
     </message>
     <message>
         <source>a geophone of string %1 has no finite position; edit the geometry first</source>
-        <translation type="unfinished"></translation>
+        <translation>un géophone du dispositif %1 n&apos;a pas de position finie&#xa0;; modifiez d&apos;abord la géométrie</translation>
     </message>
     <message>
         <source>shot %1 has no finite position; edit the geometry first</source>
-        <translation type="unfinished"></translation>
+        <translation>le tir %1 n&apos;a pas de position finie&#xa0;; modifiez d&apos;abord la géométrie</translation>
     </message>
     <message>
         <source>File %1 cannot be open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 ne peut pas être ouvert.</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>a record names geophone string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un enregistrement désigne le dispositif de géophones %1 sur %2</translation>
     </message>
     <message>
         <source>the file holds picks of %1 shots, the survey has %2; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier contient les pointés de %1 tirs, le levé en a %2&#xa0;; les pointés n&apos;ont pas été repris</translation>
     </message>
     <message>
         <source>trace set %1 is named twice or not in the survey; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>le jeu de traces %1 est nommé deux fois ou n&apos;est pas dans le levé&#xa0;; les pointés n&apos;ont pas été repris</translation>
     </message>
     <message>
         <source>the file holds %1 times for trace set %2, which has %3 traces; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier contient %1 temps pour le jeu de traces %2, qui a %3 traces&#xa0;; les pointés n&apos;ont pas été repris</translation>
     </message>
     <message>
         <source>a record of the survey has no trace set; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>un enregistrement du levé n&apos;a pas de jeu de traces&#xa0;; les pointés n&apos;ont pas été repris</translation>
     </message>
     <message>
         <source>the line &quot;INFO&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne «&#xa0;INFO&#xa0;» manque</translation>
     </message>
     <message>
         <source>the line begins with %1 where %2 must stand</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne commence par %1 au lieu de %2</translation>
     </message>
     <message>
         <source>the line %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne %1 manque</translation>
     </message>
     <message>
         <source>%1 stands without a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est sans valeur</translation>
     </message>
     <message>
         <source>the %1 is negative</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur de %1 est négative</translation>
     </message>
     <message>
         <source>the file ends before its last receiver line</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier se termine avant sa dernière ligne de récepteur</translation>
     </message>
     <message>
         <source>the receiver line holds %1 instead of 4</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne de récepteur contient %1 au lieu de 4</translation>
     </message>
     <message>
         <source>the receiver line holds more than 4 values</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne de récepteur contient plus de 4 valeurs</translation>
     </message>
     <message>
         <source>the root element is not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;élément racine n&apos;est pas «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the document ends too early</source>
-        <translation type="unfinished"></translation>
+        <translation>le document se termine trop tôt</translation>
     </message>
     <message>
         <source>a &apos;%1&apos; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque un «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>it declares a document type or a data section</source>
-        <translation type="unfinished"></translation>
+        <translation>il déclare un type de document ou une section de données</translation>
     </message>
     <message>
         <source>an element has too long a name</source>
-        <translation type="unfinished"></translation>
+        <translation>un élément a un nom trop long</translation>
     </message>
     <message>
         <source>an element has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>un élément n&apos;a pas de nom</translation>
     </message>
     <message>
         <source>an attribute has no quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>un attribut n&apos;a pas de guillemets</translation>
     </message>
     <message>
         <source>an attribute does not end</source>
-        <translation type="unfinished"></translation>
+        <translation>un attribut ne se termine pas</translation>
     </message>
     <message>
         <source>its elements are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>ses éléments sont trop profondément imbriqués</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends where &quot;%2&quot; should</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» se termine là où «&#xa0;%2&#xa0;» devrait se terminer</translation>
     </message>
     <message>
         <source>something follows the root element</source>
-        <translation type="unfinished"></translation>
+        <translation>quelque chose suit l&apos;élément racine</translation>
     </message>
     <message>
         <source>there is text in &quot;%1&quot;, which holds elements</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a du texte dans «&#xa0;%1&#xa0;», qui contient des éléments</translation>
     </message>
     <message>
         <source>an entity does not end</source>
-        <translation type="unfinished"></translation>
+        <translation>une entité ne se termine pas</translation>
     </message>
     <message>
         <source>an unknown entity</source>
-        <translation type="unfinished"></translation>
+        <translation>une entité inconnue</translation>
     </message>
     <message>
         <source>a character that does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>un caractère qui n&apos;existe pas</translation>
     </message>
     <message>
         <source>a byte of value 0</source>
-        <translation type="unfinished"></translation>
+        <translation>un octet de valeur 0</translation>
     </message>
     <message>
         <source>there is an element in &quot;%1&quot;, which holds text</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a un élément dans «&#xa0;%1&#xa0;», qui contient du texte</translation>
     </message>
     <message>
         <source>a text is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>un texte est trop long</translation>
     </message>
     <message>
         <source>it holds too many sequences</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient trop de séquences</translation>
     </message>
     <message>
         <source>it holds bytes that no text holds</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient des octets qu&apos;aucun texte ne contient</translation>
     </message>
     <message>
         <source>it holds no XML</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne contient pas de XML</translation>
     </message>
     <message>
         <source>it ends within an element</source>
-        <translation type="unfinished"></translation>
+        <translation>il se termine à l&apos;intérieur d&apos;un élément</translation>
     </message>
     <message>
         <source>it has a malformed tag</source>
-        <translation type="unfinished"></translation>
+        <translation>il a une balise mal formée</translation>
     </message>
     <message>
         <source>it has a document type or raw data, which no file of this kind has</source>
-        <translation type="unfinished"></translation>
+        <translation>il a un type de document ou des données brutes, ce qu&apos;aucun fichier de ce genre n&apos;a</translation>
     </message>
     <message>
         <source>it closes an element that it has not opened</source>
-        <translation type="unfinished"></translation>
+        <translation>il ferme un élément qu&apos;il n&apos;a pas ouvert</translation>
     </message>
     <message>
         <source>its elements are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>ses éléments sont trop profondément imbriqués</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
         <source>not a finite time</source>
-        <translation type="unfinished"></translation>
+        <translation>temps non fini</translation>
     </message>
     <message>
         <source>%1, above an hour</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, plus d&apos;une heure</translation>
     </message>
     <message>
         <source>%1, beyond its record of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, au-delà de son enregistrement de %2</translation>
     </message>
     <message>
         <source>shot %1, trace %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>tir %1, trace %2 (%3)</translation>
     </message>
     <message>
         <source>%1; and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;; et %2 de plus</translation>
     </message>
     <message>
         <source>a pick that cannot be was dropped: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un pointé impossible a été retiré&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 picks that cannot be were dropped: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pointés impossibles ont été retirés&#xa0;: %2</translation>
     </message>
     <message>
         <source>shot %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tir %1</translation>
     </message>
     <message>
         <source>%1 has no traces to pick on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: aucune trace à pointer</translation>
     </message>
     <message>
         <source>the machine has no memory left to pick first breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>la machine n&apos;a plus de mémoire pour pointer les premières arrivées</translation>
     </message>
     <message>
         <source>%1 has no record of times to screen</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: aucun enregistrement de temps à contrôler</translation>
     </message>
     <message>
         <source>the picks of %1 are not screened: it has no geophone string</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: ses pointés ne sont pas contrôlés, faute de dispositif de géophones</translation>
     </message>
     <message>
         <source>must be above 0 Hz and below %1 Hz, the highest frequency of the spectrum</source>
-        <translation type="unfinished"></translation>
+        <translation>doit être supérieure à 0 Hz et inférieure à %1 Hz, la plus haute fréquence du spectre</translation>
     </message>
     <message>
         <source>has no limit to keep to, as the spectrum has no frequency above 0 Hz: the traces are too short or their sample interval is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>n&apos;a pas de limite à respecter, car le spectre n&apos;a aucune fréquence supérieure à 0 Hz&#xa0;: les traces sont trop courtes ou leur pas d&apos;échantillonnage est inconnu</translation>
     </message>
     <message>
         <source>No filter applied. The %1 cut-off of %2 Hz %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun filtre appliqué. La fréquence de coupure du %1, %2 Hz, %3.</translation>
     </message>
     <message>
         <source>there are no traces</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de traces</translation>
     </message>
     <message>
         <source>No filter applied. Filter order must be greater then 0.</source>
-        <translation type="unfinished">Aucun filtre appliqué. L&apos;ordre du filtre doit être supérieur à 0.</translation>
+        <translation>Aucun filtre appliqué. L&apos;ordre du filtre doit être supérieur à 0.</translation>
     </message>
     <message>
         <source>low-pass</source>
-        <translation type="unfinished"></translation>
+        <translation>passe-bas</translation>
     </message>
     <message>
         <source>high-pass</source>
-        <translation type="unfinished"></translation>
+        <translation>passe-haut</translation>
     </message>
     <message>
         <source>sample %1 is %2, which no filter can take</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échantillon %1 vaut %2, ce qu&apos;aucun filtre ne peut accepter</translation>
     </message>
     <message>
         <source>the result does not fit single precision; scale the samples down</source>
-        <translation type="unfinished"></translation>
+        <translation>le résultat dépasse la simple précision&#xa0;; réduisez l&apos;échelle des échantillons</translation>
     </message>
     <message>
         <source>No filter applied. Filter order %1 is above the limit of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun filtre appliqué. L&apos;ordre %1 du filtre dépasse la limite de %2.</translation>
     </message>
     <message>
         <source>No filter applied. The cut-off is %1 of the sample rate; it must be above 0 and below 0.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun filtre appliqué. La fréquence de coupure est %1 fois la fréquence d&apos;échantillonnage&#xa0;; elle doit être supérieure à 0 et inférieure à 0,5.</translation>
     </message>
     <message>
         <source>No filter applied. Single precision cannot hold a filter of order %1 with a cut-off of %2 of the sample rate; choose a lower order or a cut-off nearer to the middle of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun filtre appliqué. La simple précision ne suffit pas à un filtre d&apos;ordre %1 dont la fréquence de coupure est %2 fois la fréquence d&apos;échantillonnage&#xa0;; choisissez un ordre plus bas ou une fréquence de coupure plus proche du milieu de la plage.</translation>
     </message>
     <message>
         <source>No filter applied. The filter cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun filtre appliqué. Le filtre ne peut pas être créé.</translation>
     </message>
     <message>
         <source>the energy of the samples does not fit single precision; scale them down</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;énergie des échantillons dépasse la simple précision&#xa0;; réduisez leur échelle</translation>
     </message>
     <message>
         <source>There is no grid with cells; build the grid first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de grille avec des cellules&#xa0;; construisez d&apos;abord la grille.</translation>
     </message>
     <message>
         <source>The velocity model cannot be used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le modèle de vitesse ne peut pas être utilisé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Ray tracing of shot %1 failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tracé des rais du tir %1 a échoué&#xa0;: %2</translation>
     </message>
     <message>
         <source>Choose a positive cell size and no negative depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une taille de cellule positive et une profondeur non négative.</translation>
     </message>
     <message>
         <source>Geophones do not have geometry! 
 Please set the position of geophones
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Les géophones n&apos;ont pas de géométrie&#xa0;! 
+Veuillez définir la position des géophones
+</translation>
     </message>
     <message>
         <source>A position of the survey lies more than 100 000 km away; please check the geometry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une position du levé est à plus de 100&#xa0;000 km&#xa0;; veuillez vérifier la géométrie.</translation>
     </message>
     <message>
         <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une grille de cellules de %1 m avec %2 nœuds par côté et une profondeur de %3 m ne peut pas être construite&#xa0;; choisissez une taille de cellule positive, au moins deux nœuds et une profondeur non négative.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grille n&apos;a pas pu être construite&#xa0;; voyez le flux d&apos;erreur.</translation>
     </message>
     <message>
         <source>The grid could not be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La grille n&apos;a pas pu être construite&#xa0;: %1</translation>
     </message>
     <message>
         <source>There is no grid yet; build the grid first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas encore de grille&#xa0;; construisez d&apos;abord la grille.</translation>
     </message>
     <message>
         <source>The smoothing parameter must be 1 at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paramètre de lissage doit être au moins égal à 1.</translation>
     </message>
     <message>
         <source>The smoothed velocity model cannot be used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le modèle de vitesse lissé ne peut pas être utilisé&#xa0;: %1</translation>
     </message>
     <message>
         <source>The grid could not be smoothed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La grille n&apos;a pas pu être lissée&#xa0;: %1</translation>
     </message>
     <message>
         <source>The rays could not be traced: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les rais n&apos;ont pas pu être tracés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Iterations and smoothing parameter must be 1 at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre d&apos;itérations et le paramètre de lissage doivent être au moins égaux à 1.</translation>
     </message>
     <message>
         <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les limites de vitesse doivent être des nombres positifs&#xa0;; %1 m/s n&apos;en est pas un.</translation>
     </message>
     <message>
         <source>The information density could not be computed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La densité d&apos;information n&apos;a pas pu être calculée&#xa0;: %1</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>son dégradé n&apos;a pas de couleurs</translation>
     </message>
     <message>
         <source>a colour stop of its gradient is not a finite number</source>
-        <translation type="unfinished"></translation>
+        <translation>un point de couleur de son dégradé n&apos;est pas un nombre fini</translation>
     </message>
     <message>
         <source>its name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>son nom est trop long</translation>
     </message>
     <message>
         <source>its range of values is out of bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>sa plage de valeurs est hors limites</translation>
     </message>
     <message>
         <source>its gradient has %1 colour stops, more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>son dégradé a %1 points de couleur, plus que %2</translation>
     </message>
     <message>
         <source>A section has 0 to %1 contour values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une coupe a de 0 à %1 valeurs d&apos;isolignes.</translation>
     </message>
     <message>
         <source>The value range of the section is empty: its maximum must be greater than its minimum.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plage de valeurs de la coupe est vide&#xa0;: son maximum doit être supérieur à son minimum.</translation>
     </message>
     <message>
         <source>There is no section to draw: no cell that is shown has a value for &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de coupe à dessiner&#xa0;: aucune cellule affichée n&apos;a de valeur pour «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is no section to draw: the survey has no grid yet. Build one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de coupe à dessiner&#xa0;: le levé n&apos;a pas encore de grille. Construisez-en une.</translation>
     </message>
     <message>
         <source>Vertical gradient of velocity</source>
-        <translation type="unfinished">Gradient vertical de vitesse</translation>
+        <translation>Gradient vertical de vitesse</translation>
     </message>
     <message>
         <source>Laplacian of velocity</source>
-        <translation type="unfinished">Laplacien de la vitesse</translation>
+        <translation>Laplacien de la vitesse</translation>
     </message>
     <message>
         <source>Information density</source>
-        <translation type="unfinished">Densité d&apos;information</translation>
+        <translation>Densité d&apos;information</translation>
     </message>
     <message>
         <source>Velocity</source>
-        <translation type="unfinished">Vitesse</translation>
+        <translation>Vitesse</translation>
     </message>
 </context>
 <context>
@@ -7316,7 +7318,7 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     </message>
     <message>
         <source>Smooths the velocities of the present grid. Rays and misfit of a result are traced anew through the smoothed section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisse les vitesses de la grille actuelle. Les rais d&apos;un résultat sont tracés à nouveau à travers la coupe lissée et son écart est recalculé.</translation>
     </message>
 </context>
 </TS>
