@@ -944,72 +944,72 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
-        <translation type="unfinished">Guía del usuario</translation>
+        <translation>Guía del usuario</translation>
     </message>
     <message>
         <source>Pages found</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas encontradas</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Atrás</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Adelante</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Índice</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto más pequeño</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto más grande</translation>
     </message>
     <message>
         <source>Find previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar anterior</translation>
     </message>
     <message>
         <source>Find next</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar siguiente</translation>
     </message>
     <message>
         <source>Open in browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir en el navegador</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>title of a page, number of places</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha encontrado nada</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 de %2</translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>No program to show the user guide was found.</source>
-        <translation type="unfinished">No se ha encontrado ningún programa para mostrar la guía del usuario.</translation>
+        <translation>No se ha encontrado ningún programa para mostrar la guía del usuario.</translation>
     </message>
     <message>
         <source>You find it in %1</source>
-        <translation type="unfinished">Se encuentra en %1</translation>
+        <translation>Se encuentra en %1</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
 </context>
 <context>
@@ -1394,1617 +1394,1619 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <name>talvesk::Message</name>
     <message>
         <source>The inversion failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La inversión ha fallado: %1</translation>
     </message>
     <message>
         <source>The picture cannot be made: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la imagen: %1</translation>
     </message>
     <message>
         <source>The view cannot be drawn for a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede dibujar la vista para una imagen.</translation>
     </message>
     <message>
         <source>Cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer %1: %2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir %1: %2</translation>
     </message>
     <message>
         <source>its name is not valid UTF-8 text</source>
-        <translation type="unfinished"></translation>
+        <translation>su nombre no es un texto UTF-8 válido</translation>
     </message>
     <message>
         <source>the file is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo es demasiado grande</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo normal</translation>
     </message>
     <message>
         <source>its text could not be put together</source>
-        <translation type="unfinished"></translation>
+        <translation>no se ha podido componer su texto</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo no existe</translation>
     </message>
     <message>
         <source>its %1 bytes are more than the limit of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>sus %1 bytes superan el límite de %2</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay memoria suficiente</translation>
     </message>
     <message>
         <source>The file %1 cannot be replaced: it is %2; choose another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 no se puede reemplazar: %2; elija otro lugar.</translation>
     </message>
     <message>
         <source>a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>es una carpeta</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo normal</translation>
     </message>
     <message>
         <source>protected against writing</source>
-        <translation type="unfinished"></translation>
+        <translation>está protegido contra escritura</translation>
     </message>
     <message>
         <source>The file %1 cannot be created: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 no se puede crear: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be given its permissions: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden dar sus permisos al archivo %1: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 no se puede escribir: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be replaced: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 no se puede reemplazar: %2.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>nobody reads from it</source>
-        <translation type="unfinished"></translation>
+        <translation>nadie lee de él</translation>
     </message>
     <message>
         <source>there are more than %1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>hay más de %1 filas</translation>
     </message>
     <message>
         <source>line %1: &quot;%2&quot; is no number</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: «%2» no es un número</translation>
     </message>
     <message>
         <source>the survey has no grid; create the grid or run the inversion first</source>
-        <translation type="unfinished"></translation>
+        <translation>el levantamiento no tiene malla; cree la malla o ejecute primero la inversión</translation>
     </message>
     <message>
         <source>no cell of the section is drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>no se dibuja ninguna celda de la sección</translation>
     </message>
     <message>
         <source>eastward</source>
-        <translation type="unfinished"></translation>
+        <translation>hacia el este</translation>
     </message>
     <message>
         <source>northward</source>
-        <translation type="unfinished"></translation>
+        <translation>hacia el norte</translation>
     </message>
     <message>
         <source>westward</source>
-        <translation type="unfinished"></translation>
+        <translation>hacia el oeste</translation>
     </message>
     <message>
         <source>southward</source>
-        <translation type="unfinished"></translation>
+        <translation>hacia el sur</translation>
     </message>
     <message>
         <source>%1 is no reference system that is known here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un sistema de referencia conocido aquí</translation>
     </message>
     <message>
         <source>%1 is not a projected system; easting and northing need one</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un sistema proyectado; las coordenadas este y norte requieren uno</translation>
     </message>
     <message>
         <source>%1 has no axes that are known here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene ejes conocidos aquí</translation>
     </message>
     <message>
         <source>%1 counts in another unit than the metre: %2; choose a system in metres</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 usa una unidad distinta del metro: %2; elija un sistema en metros</translation>
     </message>
     <message>
         <source>%1 counts %2 and %3; choose a system with easting and northing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cuenta %2 y %3; elija un sistema con coordenadas este y norte</translation>
     </message>
     <message>
         <source>%1 (%2) cannot be turned into longitude and latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2) no se puede convertir en longitud y latitud</translation>
     </message>
     <message>
         <source>the Y coordinate and the Z offset of the line must be finite numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>la coordenada Y y el desplazamiento Z de la línea deben ser números finitos</translation>
     </message>
     <message>
         <source>Cannot write %1: its text could not be put together</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir %1: no se ha podido componer su texto</translation>
     </message>
     <message>
         <source>the coordinates of the geophones are not numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>las coordenadas de los geófonos no son números</translation>
     </message>
     <message>
         <source>the first and the last geophone have the same coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>el primer y el último geófono tienen las mismas coordenadas</translation>
     </message>
     <message>
         <source>the coordinates of the geophones lie outside of EPSG:%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>las coordenadas de los geófonos quedan fuera de EPSG:%1 (%2)</translation>
     </message>
     <message>
         <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
-        <translation type="unfinished">Faltan las coordenadas geográficas; los datos no se pueden exportar en formato KML</translation>
+        <translation>Faltan las coordenadas geográficas; los datos no se pueden exportar en formato KML</translation>
     </message>
     <message>
         <source>the section has too many cells for this format, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la sección tiene demasiadas celdas para este formato, %1</translation>
     </message>
     <message>
         <source>the palette has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>la paleta no tiene colores</translation>
     </message>
     <message>
         <source>the value range of the section is empty; its maximum must be greater than its minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>el rango de valores de la sección está vacío; su máximo debe ser mayor que su mínimo</translation>
     </message>
     <message>
         <source>the survey has no geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>el levantamiento no tiene geófonos</translation>
     </message>
     <message>
         <source>the raster would have %1 nodes; choose larger cells</source>
-        <translation type="unfinished"></translation>
+        <translation>la retícula tendría %1 nodos; elija celdas más grandes</translation>
     </message>
     <message>
         <source>Not enough memory for a picture of this size: choose a smaller size or resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para una imagen de este tamaño: elija un tamaño o una resolución menor.</translation>
     </message>
     <message>
         <source>The PNG picture cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la imagen PNG.</translation>
     </message>
     <message>
         <source>The SVG picture cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la imagen SVG.</translation>
     </message>
     <message>
         <source>The PDF page cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la página PDF.</translation>
     </message>
     <message>
         <source>A figure cannot be drawn before the application object exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede dibujar una figura antes de que exista el objeto de la aplicación.</translation>
     </message>
     <message>
         <source>A figure cannot be drawn without fonts: install a font package, for instance fonts-dejavu-core.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede dibujar una figura sin fuentes tipográficas: instale un paquete de fuentes, por ejemplo fonts-dejavu-core.</translation>
     </message>
     <message>
         <source>No picture format is known for %1: let the file name end with .png, .svg or .pdf.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce ningún formato de imagen para %1: el nombre del archivo debe terminar en .png, .svg o .pdf.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 mm wide: choose %2 to %3 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una figura no puede tener %1 mm de ancho: elija de %2 a %3 mm.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 mm high: choose %2 to %3 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una figura no puede tener %1 mm de alto: elija de %2 a %3 mm.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 pixels per inch: choose %2 to %3 pixels per inch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una figura no puede tener %1 píxeles por pulgada: elija de %2 a %3 píxeles por pulgada.</translation>
     </message>
     <message>
         <source>A picture of %1 million pixels is too large: the limit is %2 million. Choose a smaller size or resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una imagen de %1 millones de píxeles es demasiado grande: el límite es de %2 millones. Elija un tamaño o una resolución menor.</translation>
     </message>
     <message>
         <source>A PDF file needs a page at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo PDF necesita al menos una página.</translation>
     </message>
     <message>
         <source>%1 cannot be drawn before the application object exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no se puede dibujar antes de que exista el objeto de la aplicación.</translation>
     </message>
     <message>
         <source>The picture is too small for what it shows with its axes and texts: choose a larger size.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen es demasiado pequeña para lo que muestra, con sus ejes y textos: elija un tamaño mayor.</translation>
     </message>
     <message>
         <source>The document has no traces to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento no tiene trazas que dibujar.</translation>
     </message>
     <message>
         <source>The times from %1 to %2 ms cannot be drawn: choose a begin of 0 or more and an end after it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden dibujar los tiempos de %1 a %2 ms: elija un inicio de 0 o más y un final posterior.</translation>
     </message>
     <message>
         <source>The gain of a gather must lie above 0 and not above %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ganancia de las trazas de un disparo debe ser mayor que 0 y no superar %1.</translation>
     </message>
     <message>
         <source>Wiggles can be cut at more than 0 and up to 100 trace distances.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las oscilaciones se pueden cortar a más de 0 y hasta 100 distancias entre trazas.</translation>
     </message>
     <message>
         <source>There is no shot %1 to draw: the document has %2 with traces.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay disparo %1 que dibujar: el documento tiene %2 con trazas.</translation>
     </message>
     <message>
         <source>1 shot</source>
-        <translation type="unfinished">1 disparo</translation>
+        <translation>1 disparo</translation>
     </message>
     <message>
         <source>%1 shots</source>
-        <translation type="unfinished">%1 disparos</translation>
+        <translation>%1 disparos</translation>
     </message>
     <message>
         <source>The inversion has no misfit to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>La inversión no tiene desajuste que dibujar.</translation>
     </message>
     <message>
         <source>There are no residuals to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay residuos que dibujar.</translation>
     </message>
     <message>
         <source>There is no refractor with a depth to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún refractor con profundidad que dibujar.</translation>
     </message>
     <message>
         <source>There is no survey to report on: load shot files or travel times first.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún levantamiento sobre el que informar: cargue antes archivos de disparos o tiempos de recorrido.</translation>
     </message>
     <message>
         <source>No report format is known for %1: let the file name end with .pdf or .odt.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce ningún formato de informe para %1: el nombre del archivo debe terminar en .pdf o .odt.</translation>
     </message>
     <message>
         <source>The report was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>El informe se ha detenido.</translation>
     </message>
     <message>
         <source>The vertical exaggeration must lie between 0.01 and 100, or be 0 to let the picture choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>La exageración vertical debe estar entre 0,01 y 100, o ser 0 para que la elija la imagen.</translation>
     </message>
     <message>
         <source>The palette &quot;%1&quot; has no colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>La paleta «%1» no tiene colores.</translation>
     </message>
     <message>
         <source>The section has no extent to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sección no tiene extensión que dibujar.</translation>
     </message>
     <message>
         <source>The picture is too small for the section with its axes and texts: choose a larger size.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen es demasiado pequeña para la sección, con sus ejes y textos: elija un tamaño mayor.</translation>
     </message>
     <message>
         <source>There are no travel times to draw: pick first breaks, or load travel times, first.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay tiempos de recorrido que dibujar: pique antes primeras llegadas o cargue tiempos de recorrido.</translation>
     </message>
     <message>
         <source>The document cannot be packed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede empaquetar el documento: %1</translation>
     </message>
     <message>
         <source>its bytes cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>sus bytes no se pueden volver a leer</translation>
     </message>
     <message>
         <source>cell %1 has no valid velocity (slowness %2 s/m)</source>
-        <translation type="unfinished"></translation>
+        <translation>la celda %1 no tiene una velocidad válida (lentitud %2 s/m)</translation>
     </message>
     <message>
         <source>A grid of %1 rows and %2 columns with %3 nodes per side %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Una malla de %1 filas y %2 columnas con %3 nodos por lado %4</translation>
     </message>
     <message>
         <source>has no cells; choose cells smaller than the array is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene celdas; elija celdas más pequeñas que la longitud del tendido.</translation>
     </message>
     <message>
         <source>has %1 nodes; at most %2 can be numbered. Choose larger cells or a smaller depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene %1 nodos; se pueden numerar %2 como máximo. Elija celdas más grandes o una profundidad menor.</translation>
     </message>
     <message>
         <source>needs about %1 MiB, but only %2 MiB are free. Choose larger cells or a smaller depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>necesita unos %1 MiB, pero solo hay libres %2 MiB. Elija celdas más grandes o una profundidad menor.</translation>
     </message>
     <message>
         <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>No queda ninguna capa: la profundidad final de una capa debe ser mayor que la inicial, y esta no puede ser negativa.</translation>
     </message>
     <message>
         <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Las capas no forman un modelo de velocidad. Ordénelas por profundidad, sin solapes y con más de 0,02 m de espesor cada una. %1</translation>
     </message>
     <message>
         <source>The grid of the layered model could not be built.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido construir la malla del modelo de capas.</translation>
     </message>
     <message>
         <source>the line holds %1 characters, more than the limit of %2; split the table into one file per spread</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea contiene %1 caracteres, más que el límite de %2; divida la tabla en un archivo por tendido</translation>
     </message>
     <message>
         <source>the first line names no receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>la primera línea no nombra ningún receptor</translation>
     </message>
     <message>
         <source>there are %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>hay %1 para %2</translation>
     </message>
     <message>
         <source>%1 without an elevation were taken to lie at 0</source>
-        <translation type="unfinished"></translation>
+        <translation>se ha tomado la cota 0 para %1 sin cota</translation>
     </message>
     <message>
         <source>the shot has no elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>el disparo no tiene cota</translation>
     </message>
     <message>
         <source>line %1: only %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: solo %2 para %3</translation>
     </message>
     <message>
         <source>the %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>invalid stod argument</source>
-        <translation type="unfinished"></translation>
+        <translation>argumento de stod no válido</translation>
     </message>
     <message>
         <source>stod argument out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>argumento de stod fuera de rango</translation>
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, línea %2: %3</translation>
     </message>
     <message>
         <source>Cannot write %1: there are %2 labels for %3 records</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir %1: hay %2 etiquetas para %3 registros</translation>
     </message>
     <message>
         <source>the line holds more than %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea contiene más de %1 caracteres</translation>
     </message>
     <message>
         <source>line %1 has no x and z; check the separator</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea %1 no tiene x ni z; compruebe el separador</translation>
     </message>
     <message>
         <source>%1, line %2 does not begin with a number; check the separator</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, línea %2: no empieza por un número; compruebe el separador</translation>
     </message>
     <message>
         <source>%1 holds more than %2 values</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contiene más de %2 valores</translation>
     </message>
     <message>
         <source>there are only %1 shots</source>
-        <translation type="unfinished"></translation>
+        <translation>solo hay %1 disparos</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a layer number: 0 for none, 1, 2 or 3</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un número de capa: 0 para ninguna, 1, 2 o 3</translation>
     </message>
     <message>
         <source>shot %1 has %2 traces, which is not how many layer numbers there are</source>
-        <translation type="unfinished"></translation>
+        <translation>el disparo %1 tiene %2 trazas, y no es ese el número de capas indicadas</translation>
     </message>
     <message>
         <source>%1: it holds layers of %2 shots, and there are %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: contiene capas de %2 disparos, y hay %3</translation>
     </message>
     <message>
         <source>the first line is %1 where &quot;otte&quot; must stand</source>
-        <translation type="unfinished"></translation>
+        <translation>la primera línea es %1, donde debe estar «otte»</translation>
     </message>
     <message>
         <source>the format version is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta la versión del formato</translation>
     </message>
     <message>
         <source>the format version %1 was read as &quot;1.0&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la versión de formato %1 se ha leído como «1.0»</translation>
     </message>
     <message>
         <source>line 3 holds %1, not 2</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea 3 contiene %1, no 2</translation>
     </message>
     <message>
         <source>the %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta: %1</translation>
     </message>
     <message>
         <source>the line of each %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta la línea de valores: %1</translation>
     </message>
     <message>
         <source>there are %1 but %2</source>
-        <translation type="unfinished"></translation>
+        <translation>hay %1 pero %2</translation>
     </message>
     <message>
         <source>the file names %1 strings for %2 and %3</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo indica %1 tendidos para %2 y %3</translation>
     </message>
     <message>
         <source>there are more records than the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hay más registros que %1</translation>
     </message>
     <message>
         <source>the file ends after %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo termina tras %1 de %2</translation>
     </message>
     <message>
         <source>the record names string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>el registro nombra el tendido %1 de %2</translation>
     </message>
     <message>
         <source>record %1 names trace set %2; it was taken for that of its own place</source>
-        <translation type="unfinished"></translation>
+        <translation>el registro %1 nombra el conjunto de trazas %2; se ha tomado el que corresponde a su propio lugar</translation>
     </message>
     <message>
         <source>the last line does not end in &quot;;&quot;: the file may be cut short</source>
-        <translation type="unfinished"></translation>
+        <translation>la última línea no termina en «;»: el archivo puede estar truncado</translation>
     </message>
     <message>
         <source>the records need %1 in %2, the file holds %3</source>
-        <translation type="unfinished"></translation>
+        <translation>los registros necesitan %1 en %2, el archivo contiene %3</translation>
     </message>
     <message>
         <source>no string claims the last %1: a record of each string must hold one time per geophone</source>
-        <translation type="unfinished"></translation>
+        <translation>al final quedan %1 que ningún tendido reclama: un registro de cada tendido debe contener un tiempo por geófono</translation>
     </message>
     <message>
         <source>the strings without a record do not share %1 equally; the first ones took one more</source>
-        <translation type="unfinished"></translation>
+        <translation>los tendidos sin registro no se reparten %1 por igual; los primeros han tomado uno más</translation>
     </message>
     <message>
         <source>record %1 holds %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>el registro %1 contiene %2 para %3</translation>
     </message>
     <message>
         <source>%1 is too large for a palette</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es demasiado grande para una paleta</translation>
     </message>
     <message>
         <source>%1 is no palette file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un archivo de paleta: %2</translation>
     </message>
     <message>
         <source>the byte order mark before the first line was ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>se ha pasado por alto la marca de orden de bytes que precede a la primera línea</translation>
     </message>
     <message>
         <source>the %1 %2 is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: no es un número</translation>
     </message>
     <message>
         <source>the %1 %2 is out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: fuera de rango</translation>
     </message>
     <message>
         <source>the %1 %2 is not finite</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: no es un valor finito</translation>
     </message>
     <message>
         <source>the %1 %2 is not a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: no es un número entero</translation>
     </message>
     <message>
         <source>and more of this kind</source>
-        <translation type="unfinished"></translation>
+        <translation>y más de este tipo</translation>
     </message>
     <message>
         <source>line %1 and what follows it was ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>se ha pasado por alto la línea %1 y lo que la sigue</translation>
     </message>
     <message>
         <source>the file holds no shot</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo no contiene ningún disparo</translation>
     </message>
     <message>
         <source>Invalid phone list : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de geófonos no válida: %1</translation>
     </message>
     <message>
         <source>%1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 para %2</translation>
     </message>
     <message>
         <source>Invalid header : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Encabezado no válido: %1</translation>
     </message>
     <message>
         <source>%1 must stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>aquí debe estar %1</translation>
     </message>
     <message>
         <source>Invalid match : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Correspondencia no válida: %1</translation>
     </message>
     <message>
         <source>line %1: %2 is not a number and was taken as 0</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: %2 no es un número y se ha tomado como 0</translation>
     </message>
     <message>
         <source>line %1: number %2 is named twice; its last value was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: el número %2 aparece dos veces; se ha tomado su último valor</translation>
     </message>
     <message>
         <source>number %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>no se conoce el número %1</translation>
     </message>
     <message>
         <source>%1 %2 has no %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 sin %3</translation>
     </message>
     <message>
         <source>Invalid times : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos no válidos: %1</translation>
     </message>
     <message>
         <source>%1 of shot %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 del disparo %2 para %3</translation>
     </message>
     <message>
         <source>geophone distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distancia del geófono</translation>
     </message>
     <message>
         <source>geophone elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>cota del geófono</translation>
     </message>
     <message>
         <source>shot distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distancia del disparo</translation>
     </message>
     <message>
         <source>shot elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>cota del disparo</translation>
     </message>
     <message>
         <source>receiver number</source>
-        <translation type="unfinished"></translation>
+        <translation>número del receptor</translation>
     </message>
     <message>
         <source>receiver distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distancia del receptor</translation>
     </message>
     <message>
         <source>receiver elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>cota del receptor</translation>
     </message>
     <message>
         <source>distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distancia</translation>
     </message>
     <message>
         <source>elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>cota</translation>
     </message>
     <message>
         <source>shot</source>
-        <translation type="unfinished"></translation>
+        <translation>disparo</translation>
     </message>
     <message>
         <source>receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>receptor</translation>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo</translation>
     </message>
     <message>
         <source>first-break time</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo de primera llegada</translation>
     </message>
     <message>
         <source>number</source>
-        <translation type="unfinished"></translation>
+        <translation>número</translation>
     </message>
     <message>
         <source>value</source>
-        <translation type="unfinished"></translation>
+        <translation>valor</translation>
     </message>
     <message>
         <source>format constant 2</source>
-        <translation type="unfinished"></translation>
+        <translation>constante de formato 2</translation>
     </message>
     <message>
         <source>number of geophone strings</source>
-        <translation type="unfinished"></translation>
+        <translation>número de tendidos de geófonos</translation>
     </message>
     <message>
         <source>string of the record</source>
-        <translation type="unfinished"></translation>
+        <translation>tendido del registro</translation>
     </message>
     <message>
         <source>trace set of the record</source>
-        <translation type="unfinished"></translation>
+        <translation>conjunto de trazas del registro</translation>
     </message>
     <message>
         <source>%1 geophone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geófono</translation>
     </message>
     <message>
         <source>%1 geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geófonos</translation>
     </message>
     <message>
         <source>%1 receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 receptor</translation>
     </message>
     <message>
         <source>%1 receivers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 receptores</translation>
     </message>
     <message>
         <source>%1 shot</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 disparo</translation>
     </message>
     <message>
         <source>%1 shot position</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 posición de disparo</translation>
     </message>
     <message>
         <source>%1 shot positions</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 posiciones de disparo</translation>
     </message>
     <message>
         <source>%1 geophone distance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distancia de geófono</translation>
     </message>
     <message>
         <source>%1 geophone distances</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distancias de geófonos</translation>
     </message>
     <message>
         <source>%1 shot distance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distancia de disparo</translation>
     </message>
     <message>
         <source>%1 shot distances</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distancias de disparos</translation>
     </message>
     <message>
         <source>%1 elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cota</translation>
     </message>
     <message>
         <source>%1 elevations</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cotas</translation>
     </message>
     <message>
         <source>%1 time</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tiempo</translation>
     </message>
     <message>
         <source>%1 times</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tiempos</translation>
     </message>
     <message>
         <source>%1 record</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 registro</translation>
     </message>
     <message>
         <source>%1 records</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 registros</translation>
     </message>
     <message>
         <source>%1 string</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tendido</translation>
     </message>
     <message>
         <source>%1 strings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tendidos</translation>
     </message>
     <message>
         <source>%1 number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 número</translation>
     </message>
     <message>
         <source>%1 numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 números</translation>
     </message>
     <message>
         <source>%1 value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 valor</translation>
     </message>
     <message>
         <source>%1 values</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 valores</translation>
     </message>
     <message>
         <source>%1 rows of %2 columns do not go with %3 velocities and %4 draw flags</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 filas de %2 columnas no concuerdan con %3 velocidades y %4 marcas de dibujo</translation>
     </message>
     <message>
         <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation type="unfinished"></translation>
+        <translation>son imposibles celdas con %1 nodos por lado y %2 m de longitud</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
-        <translation type="unfinished"></translation>
+        <translation>una velocidad no es un número positivo</translation>
     </message>
     <message>
         <source>there is a grid, but no two geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>hay una malla, pero no hay dos geófonos</translation>
     </message>
     <message>
         <source>the grid cannot be built</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede construir la malla</translation>
     </message>
     <message>
         <source>the limit of its rays lies off the line; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>el límite de sus rayos queda fuera de la línea; se ha descartado</translation>
     </message>
     <message>
         <source>its information density does not fit the grid; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>su densidad de información no corresponde a la malla; se ha descartado</translation>
     </message>
     <message>
         <source>what it tells of its last inversion cannot be; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que indica de su última inversión es imposible; se ha descartado</translation>
     </message>
     <message>
         <source>a geophone has no place</source>
-        <translation type="unfinished"></translation>
+        <translation>un geófono no tiene posición</translation>
     </message>
     <message>
         <source>a shot was recorded by geophone string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un disparo se registró con el tendido de geófonos %1 de %2</translation>
     </message>
     <message>
         <source>a shot has no place</source>
-        <translation type="unfinished"></translation>
+        <translation>un disparo no tiene posición</translation>
     </message>
     <message>
         <source>the grid cannot be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede construir la malla: %1</translation>
     </message>
     <message>
         <source>layers belong to shot %1, but %2 shots exist</source>
-        <translation type="unfinished"></translation>
+        <translation>hay capas del disparo %1, pero existen %2 disparos</translation>
     </message>
     <message>
         <source>an arrival belongs to a layer that does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>una llegada pertenece a una capa que no existe</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta</translation>
     </message>
     <message>
         <source>it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>es demasiado grande</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no existe.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo normal.</translation>
     </message>
     <message>
         <source>You may not read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No tiene permiso para leerlo.</translation>
     </message>
     <message>
         <source>It cannot be extracted: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede extraer: %1.</translation>
     </message>
     <message>
         <source>%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, or deeper than the line is long</source>
-        <translation type="unfinished"></translation>
+        <translation>se han descartado %1 velocidades y profundidades de las capas: quedan fuera del rango de 50 a 12&#xa0;000 m/s o son mayores que la longitud de la línea</translation>
     </message>
     <message>
         <source>%1; the coverage of the last inversion and its figures are not known</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; no se conocen la cobertura de la última inversión ni sus cifras</translation>
     </message>
     <message>
         <source>No temporary folder can be created in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear ninguna carpeta temporal en %1.</translation>
     </message>
     <message>
         <source>It cannot be extracted.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede extraer.</translation>
     </message>
     <message>
         <source>It cannot be loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede cargar: %1</translation>
     </message>
     <message>
         <source>its title has control characters or is too long; it reads %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>su título contiene caracteres de control o es demasiado largo; ahora es %1</translation>
     </message>
     <message>
         <source>its RMS misfit is no number; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>su desajuste RMS no es un número; se ha descartado</translation>
     </message>
     <message>
         <source>its limits of velocity cannot be; they are as in a new survey</source>
-        <translation type="unfinished"></translation>
+        <translation>sus límites de velocidad son imposibles; ahora son los de un levantamiento nuevo</translation>
     </message>
     <message>
         <source>a layer of its starting model cannot be; the model is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>una capa de su modelo inicial es imposible; el modelo se ha descartado</translation>
     </message>
     <message>
         <source>a cell size that it proposes cannot be; it proposes new ones</source>
-        <translation type="unfinished"></translation>
+        <translation>un tamaño de celda que propone es imposible; propone otros nuevos</translation>
     </message>
     <message>
         <source>its geographic coordinates are no numbers; they are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>sus coordenadas geográficas no son números; se han descartado</translation>
     </message>
     <message>
         <source>no section can be drawn with a vertical exaggeration of %1; it is %2 now</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede dibujar ninguna sección con una exageración vertical de %1; ahora es %2</translation>
     </message>
     <message>
         <source>its contours cannot be drawn so; they are put right</source>
-        <translation type="unfinished"></translation>
+        <translation>sus isolíneas no se pueden dibujar así; se han corregido</translation>
     </message>
     <message>
         <source>its section shows a quantity that does not exist; it is the velocity now</source>
-        <translation type="unfinished"></translation>
+        <translation>su sección muestra una magnitud que no existe; ahora es la velocidad</translation>
     </message>
     <message>
         <source>its geophone markers have a size that does not exist; it is normal now</source>
-        <translation type="unfinished"></translation>
+        <translation>sus marcas de geófonos tienen un tamaño que no existe; ahora es el normal</translation>
     </message>
     <message>
         <source>velocities of %1 cell cannot be; they are held within %2 and %3 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>las velocidades de %1 celda son imposibles; se mantienen entre %2 y %3 m/s</translation>
     </message>
     <message>
         <source>velocities of %1 cells cannot be; they are held within %2 and %3 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>las velocidades de %1 celdas son imposibles; se mantienen entre %2 y %3 m/s</translation>
     </message>
     <message>
         <source>a time shift of its arrivals cannot be; it is 0 now</source>
-        <translation type="unfinished"></translation>
+        <translation>un desplazamiento en tiempo de sus llegadas es imposible; ahora es 0</translation>
     </message>
     <message>
         <source>its layered profile cannot be; it is left out and can be built again</source>
-        <translation type="unfinished"></translation>
+        <translation>su perfil de capas es imposible; se ha descartado y se puede volver a construir</translation>
     </message>
     <message>
         <source>its coverage and figures do not go with the grid and the inversion of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>su cobertura y sus cifras no concuerdan con la malla y la inversión del proyecto</translation>
     </message>
     <message>
         <source>%1 is no name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un nombre de archivo</translation>
     </message>
     <message>
         <source>trace set %1 has %2 traces, but %3 filtered copies</source>
-        <translation type="unfinished"></translation>
+        <translation>el conjunto de trazas %1 tiene %2 trazas, pero %3 copias filtradas</translation>
     </message>
     <message>
         <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten and its traces are empty</source>
-        <translation type="unfinished"></translation>
+        <translation>disparo %1: su archivo de disparo se llama %2, que no es un simple nombre de archivo; el nombre se ha descartado y sus trazas están vacías</translation>
     </message>
     <message>
         <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>disparo %1: su archivo de disparo se llama %2, que no es un simple nombre de archivo; el nombre se ha descartado</translation>
     </message>
     <message>
         <source>%1 has %2 traces instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tiene %2 trazas en lugar de %3</translation>
     </message>
     <message>
         <source>there are %1 trace sets, but %2 travel-time records</source>
-        <translation type="unfinished"></translation>
+        <translation>hay %1 conjuntos de trazas, pero %2 registros de tiempos de recorrido</translation>
     </message>
     <message>
         <source>no travel-time record belongs to trace set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ningún registro de tiempos de recorrido pertenece al conjunto de trazas %1</translation>
     </message>
     <message>
         <source>%1 and %2 have different numbers of traces</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2 tienen distinto número de trazas</translation>
     </message>
     <message>
         <source>wave type %1 does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>el tipo de onda %1 no existe</translation>
     </message>
     <message>
         <source>there are more files or filtered copies than trace sets</source>
-        <translation type="unfinished"></translation>
+        <translation>hay más archivos o copias filtradas que conjuntos de trazas</translation>
     </message>
     <message>
         <source>trace set %1 has a position or delay that cannot be</source>
-        <translation type="unfinished"></translation>
+        <translation>el conjunto de trazas %1 tiene una posición o un retardo imposible</translation>
     </message>
     <message>
         <source>trace set %1 has a sample that is no finite number</source>
-        <translation type="unfinished"></translation>
+        <translation>el conjunto de trazas %1 tiene una muestra que no es un número finito</translation>
     </message>
     <message>
         <source>Its parts cannot be written in %1; is the disk full?</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden escribir sus partes en %1; ¿está lleno el disco?</translation>
     </message>
     <message>
         <source>The archive %1 cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo comprimido %1 no se puede escribir.</translation>
     </message>
     <message>
         <source>It cannot be put together: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede componer: %1</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bytes</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>it unpacks to more than %1, which no project of %2 does</source>
-        <translation type="unfinished"></translation>
+        <translation>descomprimido ocupa más de %1, lo que no ocurre con ningún proyecto de %2</translation>
     </message>
     <message>
         <source>it unpacks to %1 or more, and the disk has room for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>descomprimido ocupa %1 o más, y en el disco hay sitio para %2</translation>
     </message>
     <message>
         <source>%1 cannot be extracted: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede extraer: %2</translation>
     </message>
     <message>
         <source>%1 in it cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede leer el archivo %1 que contiene: %2</translation>
     </message>
     <message>
         <source>%1 in it is damaged: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo %1 que contiene está dañado: %2</translation>
     </message>
     <message>
         <source>%1 in it is not as long as it says</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo %1 que contiene no tiene la longitud que indica</translation>
     </message>
     <message>
         <source>The file %1 cannot be added to the archive.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 no se puede añadir al archivo comprimido.</translation>
     </message>
     <message>
         <source>The archive %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo comprimido %1 no se puede escribir: %2.</translation>
     </message>
     <message>
         <source>it holds %1 files, more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene %1 archivos, más de %2</translation>
     </message>
     <message>
         <source>%1 in it is no name of a file without a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre %1 que contiene no es un nombre de archivo sin carpeta</translation>
     </message>
     <message>
         <source>two files in it are called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dos archivos que contiene se llaman %1</translation>
     </message>
     <message>
         <source>The files of the project are %1, more than the %2 that can be opened again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos del proyecto ocupan %1, más de los %2 que se pueden volver a abrir.</translation>
     </message>
     <message>
         <source>it is no archive of a project, or damaged: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no es el archivo comprimido de un proyecto, o está dañado: %1</translation>
     </message>
     <message>
         <source>there is nothing in it</source>
-        <translation type="unfinished"></translation>
+        <translation>no contiene nada</translation>
     </message>
     <message>
         <source>it is no archive of a project: there is no %1 in it</source>
-        <translation type="unfinished"></translation>
+        <translation>no es el archivo comprimido de un proyecto: no contiene %1</translation>
     </message>
     <message>
         <source>its list of files is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>su lista de archivos está dañada</translation>
     </message>
     <message>
         <source>it cannot be closed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede cerrar: %1</translation>
     </message>
     <message>
         <source>its headers promise %1 traces of more data than can come from %2 bytes; the file is damaged or no shot file</source>
-        <translation type="unfinished"></translation>
+        <translation>sus cabeceras anuncian %1 trazas, con más datos de los que pueden salir de %2 bytes; el archivo está dañado o no es un archivo de disparo</translation>
     </message>
     <message>
         <source>trace %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la traza %1</translation>
     </message>
     <message>
         <source>%1 traces, the first of them trace %2,</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 trazas, la primera de ellas la traza %2</translation>
     </message>
     <message>
         <source>the %1 in the header of %2 is no finite number; what cannot be used of it was taken as 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en la cabecera de %2: no es un número finito; lo que no se puede usar se ha tomado como 0</translation>
     </message>
     <message>
         <source>it is no SEG-2 file of little-endian numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo SEG-2 con números little-endian</translation>
     </message>
     <message>
         <source>its last trace has no usable sample interval</source>
-        <translation type="unfinished"></translation>
+        <translation>su última traza no tiene un intervalo de muestreo utilizable</translation>
     </message>
     <message>
         <source>source position</source>
-        <translation type="unfinished"></translation>
+        <translation>posición de la fuente</translation>
     </message>
     <message>
         <source>receiver position</source>
-        <translation type="unfinished"></translation>
+        <translation>posición del receptor</translation>
     </message>
     <message>
         <source>delay</source>
-        <translation type="unfinished"></translation>
+        <translation>retardo</translation>
     </message>
     <message>
         <source>data format code %1: one 16-bit sample is taken of every four bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>código de formato de datos %1: se toma una muestra de 16 bits de cada cuatro bytes</translation>
     </message>
     <message>
         <source>data format code %1 is not read; its samples are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>el código de formato de datos %1 no se lee; sus muestras son 0</translation>
     </message>
     <message>
         <source>its traces are taken to lie as close as the 16-bit data of the SEG-Y file before it</source>
-        <translation type="unfinished"></translation>
+        <translation>se supone que sus trazas están tan juntas como los datos de 16 bits del archivo SEG-Y anterior</translation>
     </message>
     <message>
         <source>it says that its numbers are little-endian, but is read big-endian as a file before it; load the little-endian files first</source>
-        <translation type="unfinished"></translation>
+        <translation>indica que sus números son little-endian, pero se lee como big-endian, igual que un archivo anterior; cargue primero los archivos little-endian</translation>
     </message>
     <message>
         <source>its numbers seem to be in the other byte order; load a SEG-Y file of that order first</source>
-        <translation type="unfinished"></translation>
+        <translation>sus números parecen estar en el otro orden de bytes; cargue primero un archivo SEG-Y de ese orden</translation>
     </message>
     <message>
         <source>%1; %2</source>
-        <translation type="unfinished">%1: %2 {1;?}</translation>
+        <translation>%1; %2</translation>
     </message>
     <message>
         <source>%1 bytes after the traces that its headers name were not read</source>
-        <translation type="unfinished"></translation>
+        <translation>no se han leído %1 bytes posteriores a las trazas que indican sus cabeceras</translation>
     </message>
     <message>
         <source>data format code %1 (IBM floats) is not read; its samples are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>el código de formato de datos %1 (coma flotante IBM) no se lee; sus muestras son 0</translation>
     </message>
     <message>
         <source>its suffix is none of seg2, dat, sg2, sgy, segy, su</source>
-        <translation type="unfinished"></translation>
+        <translation>su extensión no es ninguna de estas: seg2, dat, sg2, sgy, segy, su</translation>
     </message>
     <message>
         <source>Error while loading %1</source>
-        <translation type="unfinished">Error al cargar %1. {1?}</translation>
+        <translation>Error al cargar %1</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished">%1: %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>the survey holds S-wave pairs; add more of them in the survey geometry, or start a new survey to load shot files</source>
-        <translation type="unfinished"></translation>
+        <translation>el levantamiento contiene pares de onda S; añada más en la geometría del levantamiento, o inicie un levantamiento nuevo para cargar archivos de disparos</translation>
     </message>
     <message>
         <source>the survey holds picks without traces; start a new survey to load shot files</source>
-        <translation type="unfinished"></translation>
+        <translation>el levantamiento contiene picados sin trazas; inicie un levantamiento nuevo para cargar archivos de disparos</translation>
     </message>
     <message>
         <source>the file holds no trace</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo no contiene ninguna traza</translation>
     </message>
     <message>
         <source>the file is cut short: %1 bytes that its headers promise are missing and were taken as zeros</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está truncado: faltan %1 bytes que anuncian sus cabeceras y se han tomado como ceros</translation>
     </message>
     <message>
         <source>%1 samples that are no finite numbers were set to 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 muestras que no son números finitos se han puesto a 0</translation>
     </message>
     <message>
         <source>its traces have different numbers of samples</source>
-        <translation type="unfinished"></translation>
+        <translation>sus trazas tienen distinto número de muestras</translation>
     </message>
     <message>
         <source>its traces have different sample intervals</source>
-        <translation type="unfinished"></translation>
+        <translation>sus trazas tienen distintos intervalos de muestreo</translation>
     </message>
     <message>
         <source>a sample interval is not positive, so that times mean nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>un intervalo de muestreo no es positivo, así que los tiempos carecen de sentido</translation>
     </message>
     <message>
         <source>The shot file %1 could not be copied; its traces are saved without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido copiar el archivo de disparo %1; sus trazas se guardan sin él.</translation>
     </message>
     <message>
         <source>Of the shot files %1 and %2 only the second is in the project; the traces of both are.</source>
-        <translation type="unfinished"></translation>
+        <translation>De los archivos de disparo %1 y %2 solo el segundo está en el proyecto; las trazas de ambos sí lo están.</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>a file holds no traces</source>
-        <translation type="unfinished"></translation>
+        <translation>un archivo no contiene trazas</translation>
     </message>
     <message>
         <source>the DX file has %1 traces, the SX file %2</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo DX tiene %1 trazas; el archivo SX, %2</translation>
     </message>
     <message>
         <source>trace %1 has a sample interval of %2 in the DX file and of %3 in the SX file</source>
-        <translation type="unfinished"></translation>
+        <translation>la traza %1 tiene un intervalo de muestreo de %2 en el archivo DX y de %3 en el archivo SX</translation>
     </message>
     <message>
         <source>trace %1 has a delay of %2 in the DX file and of %3 in the SX file</source>
-        <translation type="unfinished"></translation>
+        <translation>la traza %1 tiene un retardo de %2 en el archivo DX y de %3 en el archivo SX</translation>
     </message>
     <message>
         <source>DX and SX differ in receiver positions; those of DX count</source>
-        <translation type="unfinished"></translation>
+        <translation>DX y SX difieren en las posiciones de los receptores; valen las de DX</translation>
     </message>
     <message>
         <source>DX and SX differ in source position; that of DX counts</source>
-        <translation type="unfinished"></translation>
+        <translation>DX y SX difieren en la posición de la fuente; vale la de DX</translation>
     </message>
     <message>
         <source>DX and SX differ in length; that of DX counts</source>
-        <translation type="unfinished"></translation>
+        <translation>DX y SX difieren en duración; vale la de DX</translation>
     </message>
     <message>
         <source>%1: DX and SX are the same file; their difference is nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: DX y SX son el mismo archivo; su diferencia es nula</translation>
     </message>
     <message>
         <source>%1 and %2 are no pair: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2 no forman un par: %3</translation>
     </message>
     <message>
         <source>Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de tiempos de recorrido no válido: %1 (su extensión no es ninguna de estas: .otte, .txt, .xyz, .csv)</translation>
     </message>
     <message>
         <source>a geophone of string %1 has no finite position; edit the geometry first</source>
-        <translation type="unfinished"></translation>
+        <translation>un geófono del tendido %1 no tiene una posición finita; corrija antes la geometría</translation>
     </message>
     <message>
         <source>shot %1 has no finite position; edit the geometry first</source>
-        <translation type="unfinished"></translation>
+        <translation>el disparo %1 no tiene una posición finita; corrija antes la geometría</translation>
     </message>
     <message>
         <source>File %1 cannot be open.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 no se puede abrir.</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>a record names geophone string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un registro nombra el tendido de geófonos %1 de %2</translation>
     </message>
     <message>
         <source>the file holds picks of %1 shots, the survey has %2; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo contiene picados de %1 disparos, el levantamiento tiene %2; no se han tomado los picados</translation>
     </message>
     <message>
         <source>trace set %1 is named twice or not in the survey; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>el conjunto de trazas %1 aparece dos veces o no está en el levantamiento; no se han tomado los picados</translation>
     </message>
     <message>
         <source>the file holds %1 times for trace set %2, which has %3 traces; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo contiene %1 tiempos para el conjunto de trazas %2, que tiene %3 trazas; no se han tomado los picados</translation>
     </message>
     <message>
         <source>a record of the survey has no trace set; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>un registro del levantamiento no tiene conjunto de trazas; no se han tomado los picados</translation>
     </message>
     <message>
         <source>the line &quot;INFO&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta la línea «INFO»</translation>
     </message>
     <message>
         <source>the line begins with %1 where %2 must stand</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea empieza por %1, donde debe estar %2</translation>
     </message>
     <message>
         <source>the line %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta la línea %1</translation>
     </message>
     <message>
         <source>%1 stands without a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no lleva ningún valor</translation>
     </message>
     <message>
         <source>the %1 is negative</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor de %1 es negativo</translation>
     </message>
     <message>
         <source>the file ends before its last receiver line</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo termina antes de su última línea de receptor</translation>
     </message>
     <message>
         <source>the receiver line holds %1 instead of 4</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea de receptor contiene %1 en lugar de 4</translation>
     </message>
     <message>
         <source>the receiver line holds more than 4 values</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea de receptor contiene más de 4 valores</translation>
     </message>
     <message>
         <source>the root element is not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>el elemento raíz no es «%1»</translation>
     </message>
     <message>
         <source>the document ends too early</source>
-        <translation type="unfinished"></translation>
+        <translation>el documento termina antes de tiempo</translation>
     </message>
     <message>
         <source>a &apos;%1&apos; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta «%1»</translation>
     </message>
     <message>
         <source>it declares a document type or a data section</source>
-        <translation type="unfinished"></translation>
+        <translation>declara un tipo de documento o una sección de datos</translation>
     </message>
     <message>
         <source>an element has too long a name</source>
-        <translation type="unfinished"></translation>
+        <translation>un elemento tiene un nombre demasiado largo</translation>
     </message>
     <message>
         <source>an element has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>un elemento no tiene nombre</translation>
     </message>
     <message>
         <source>an attribute has no quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>un atributo no tiene comillas</translation>
     </message>
     <message>
         <source>an attribute does not end</source>
-        <translation type="unfinished"></translation>
+        <translation>un atributo no termina</translation>
     </message>
     <message>
         <source>its elements are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>sus elementos están anidados a demasiada profundidad</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends where &quot;%2&quot; should</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» termina donde debería terminar «%2»</translation>
     </message>
     <message>
         <source>something follows the root element</source>
-        <translation type="unfinished"></translation>
+        <translation>algo sigue al elemento raíz</translation>
     </message>
     <message>
         <source>there is text in &quot;%1&quot;, which holds elements</source>
-        <translation type="unfinished"></translation>
+        <translation>hay texto en «%1», que contiene elementos</translation>
     </message>
     <message>
         <source>an entity does not end</source>
-        <translation type="unfinished"></translation>
+        <translation>una entidad no termina</translation>
     </message>
     <message>
         <source>an unknown entity</source>
-        <translation type="unfinished"></translation>
+        <translation>una entidad desconocida</translation>
     </message>
     <message>
         <source>a character that does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>un carácter que no existe</translation>
     </message>
     <message>
         <source>a byte of value 0</source>
-        <translation type="unfinished"></translation>
+        <translation>un byte de valor 0</translation>
     </message>
     <message>
         <source>there is an element in &quot;%1&quot;, which holds text</source>
-        <translation type="unfinished"></translation>
+        <translation>hay un elemento en «%1», que contiene texto</translation>
     </message>
     <message>
         <source>a text is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>un texto es demasiado largo</translation>
     </message>
     <message>
         <source>it holds too many sequences</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene demasiadas secuencias</translation>
     </message>
     <message>
         <source>it holds bytes that no text holds</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene bytes que ningún texto contiene</translation>
     </message>
     <message>
         <source>it holds no XML</source>
-        <translation type="unfinished"></translation>
+        <translation>no contiene XML</translation>
     </message>
     <message>
         <source>it ends within an element</source>
-        <translation type="unfinished"></translation>
+        <translation>termina dentro de un elemento</translation>
     </message>
     <message>
         <source>it has a malformed tag</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene una etiqueta mal formada</translation>
     </message>
     <message>
         <source>it has a document type or raw data, which no file of this kind has</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene un tipo de documento o datos en bruto, que ningún archivo de esta clase tiene</translation>
     </message>
     <message>
         <source>it closes an element that it has not opened</source>
-        <translation type="unfinished"></translation>
+        <translation>cierra un elemento que no ha abierto</translation>
     </message>
     <message>
         <source>its elements are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>sus elementos están anidados a demasiada profundidad</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede leer: %2</translation>
     </message>
     <message>
         <source>not a finite time</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un tiempo finito</translation>
     </message>
     <message>
         <source>%1, above an hour</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, más de una hora</translation>
     </message>
     <message>
         <source>%1, beyond its record of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, más allá de su registro de %2</translation>
     </message>
     <message>
         <source>shot %1, trace %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>disparo %1, traza %2 (%3)</translation>
     </message>
     <message>
         <source>%1; and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; y %2 más</translation>
     </message>
     <message>
         <source>a pick that cannot be was dropped: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>se ha descartado un picado imposible: %1</translation>
     </message>
     <message>
         <source>%1 picks that cannot be were dropped: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>se han descartado %1 picados imposibles: %2</translation>
     </message>
     <message>
         <source>shot %1</source>
-        <translation type="unfinished"></translation>
+        <translation>disparo %1</translation>
     </message>
     <message>
         <source>%1 has no traces to pick on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene trazas en las que picar</translation>
     </message>
     <message>
         <source>the machine has no memory left to pick first breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>el equipo no tiene más memoria para picar primeras llegadas</translation>
     </message>
     <message>
         <source>%1 has no record of times to screen</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene registro de tiempos que depurar</translation>
     </message>
     <message>
         <source>the picks of %1 are not screened: it has no geophone string</source>
-        <translation type="unfinished"></translation>
+        <translation>los picados de %1 no se depuran: no tiene tendido de geófonos</translation>
     </message>
     <message>
         <source>must be above 0 Hz and below %1 Hz, the highest frequency of the spectrum</source>
-        <translation type="unfinished"></translation>
+        <translation>debe ser mayor que 0 Hz y menor que %1 Hz, la frecuencia más alta del espectro</translation>
     </message>
     <message>
         <source>has no limit to keep to, as the spectrum has no frequency above 0 Hz: the traces are too short or their sample interval is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene límite al que atenerse, porque el espectro no tiene ninguna frecuencia mayor que 0 Hz: las trazas son demasiado cortas o no se conoce su intervalo de muestreo</translation>
     </message>
     <message>
         <source>No filter applied. The %1 cut-off of %2 Hz %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha aplicado ningún filtro. La frecuencia de corte del filtro %1, %2 Hz, %3.</translation>
     </message>
     <message>
         <source>there are no traces</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay trazas</translation>
     </message>
     <message>
         <source>No filter applied. Filter order must be greater then 0.</source>
-        <translation type="unfinished">No se ha aplicado ningún filtro. El orden del filtro debe ser mayor que 0.</translation>
+        <translation>No se ha aplicado ningún filtro. El orden del filtro debe ser mayor que 0.</translation>
     </message>
     <message>
         <source>low-pass</source>
-        <translation type="unfinished"></translation>
+        <translation>paso bajo</translation>
     </message>
     <message>
         <source>high-pass</source>
-        <translation type="unfinished"></translation>
+        <translation>paso alto</translation>
     </message>
     <message>
         <source>sample %1 is %2, which no filter can take</source>
-        <translation type="unfinished"></translation>
+        <translation>la muestra %1 es %2, que ningún filtro admite</translation>
     </message>
     <message>
         <source>the result does not fit single precision; scale the samples down</source>
-        <translation type="unfinished"></translation>
+        <translation>el resultado no cabe en precisión simple; reduzca la escala de las muestras</translation>
     </message>
     <message>
         <source>No filter applied. Filter order %1 is above the limit of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha aplicado ningún filtro. El orden de filtro %1 supera el límite de %2.</translation>
     </message>
     <message>
         <source>No filter applied. The cut-off is %1 of the sample rate; it must be above 0 and below 0.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha aplicado ningún filtro. La frecuencia de corte es %1 veces la de muestreo; debe ser mayor que 0 y menor que 0,5.</translation>
     </message>
     <message>
         <source>No filter applied. Single precision cannot hold a filter of order %1 with a cut-off of %2 of the sample rate; choose a lower order or a cut-off nearer to the middle of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha aplicado ningún filtro. En precisión simple no cabe un filtro de orden %1 con una frecuencia de corte de %2 veces la de muestreo; elija un orden menor o una frecuencia de corte más cercana al centro del rango.</translation>
     </message>
     <message>
         <source>No filter applied. The filter cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha aplicado ningún filtro. No se puede crear el filtro.</translation>
     </message>
     <message>
         <source>the energy of the samples does not fit single precision; scale them down</source>
-        <translation type="unfinished"></translation>
+        <translation>la energía de las muestras no cabe en precisión simple; reduzca su escala</translation>
     </message>
     <message>
         <source>There is no grid with cells; build the grid first.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay malla con celdas; construya antes la malla.</translation>
     </message>
     <message>
         <source>The velocity model cannot be used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar el modelo de velocidad: %1</translation>
     </message>
     <message>
         <source>Ray tracing of shot %1 failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>El trazado de rayos del disparo %1 ha fallado: %2</translation>
     </message>
     <message>
         <source>Choose a positive cell size and no negative depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un tamaño de celda positivo y una profundidad no negativa.</translation>
     </message>
     <message>
         <source>Geophones do not have geometry! 
 Please set the position of geophones
 </source>
-        <translation type="unfinished"></translation>
+        <translation>¡Los geófonos no tienen geometría! 
+Defina la posición de los geófonos
+</translation>
     </message>
     <message>
         <source>A position of the survey lies more than 100 000 km away; please check the geometry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una posición del levantamiento está a más de 100&#xa0;000 km; compruebe la geometría.</translation>
     </message>
     <message>
         <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede construir una malla de celdas de %1 m con %2 nodos por lado y %3 m de profundidad; elija un tamaño de celda positivo, al menos dos nodos y una profundidad no negativa.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido construir la malla; véase la salida de error.</translation>
     </message>
     <message>
         <source>The grid could not be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido construir la malla: %1</translation>
     </message>
     <message>
         <source>There is no grid yet; build the grid first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay malla; construya antes la malla.</translation>
     </message>
     <message>
         <source>The smoothing parameter must be 1 at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>El parámetro de suavizado debe ser 1 como mínimo.</translation>
     </message>
     <message>
         <source>The smoothed velocity model cannot be used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar el modelo de velocidad suavizado: %1</translation>
     </message>
     <message>
         <source>The grid could not be smoothed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido suavizar la malla: %1</translation>
     </message>
     <message>
         <source>The rays could not be traced: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido trazar los rayos: %1</translation>
     </message>
     <message>
         <source>Iterations and smoothing parameter must be 1 at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las iteraciones y el parámetro de suavizado deben ser 1 como mínimo.</translation>
     </message>
     <message>
         <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los límites de velocidad deben ser números positivos; %1 m/s no lo es.</translation>
     </message>
     <message>
         <source>The information density could not be computed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido calcular la densidad de información: %1</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>su degradado no tiene colores</translation>
     </message>
     <message>
         <source>a colour stop of its gradient is not a finite number</source>
-        <translation type="unfinished"></translation>
+        <translation>un punto de color de su degradado no es un número finito</translation>
     </message>
     <message>
         <source>its name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>su nombre es demasiado largo</translation>
     </message>
     <message>
         <source>its range of values is out of bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>su rango de valores está fuera de los límites</translation>
     </message>
     <message>
         <source>its gradient has %1 colour stops, more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>su degradado tiene %1 puntos de color, más de %2</translation>
     </message>
     <message>
         <source>A section has 0 to %1 contour values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una sección tiene de 0 a %1 valores de isolíneas.</translation>
     </message>
     <message>
         <source>The value range of the section is empty: its maximum must be greater than its minimum.</source>
-        <translation type="unfinished"></translation>
+        <translation>El rango de valores de la sección está vacío: su máximo debe ser mayor que su mínimo.</translation>
     </message>
     <message>
         <source>There is no section to draw: no cell that is shown has a value for &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay sección que dibujar: ninguna celda de las mostradas tiene un valor de «%1».</translation>
     </message>
     <message>
         <source>There is no section to draw: the survey has no grid yet. Build one.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay sección que dibujar: el levantamiento aún no tiene malla. Construya una.</translation>
     </message>
     <message>
         <source>Vertical gradient of velocity</source>
-        <translation type="unfinished">Gradiente vertical de velocidad</translation>
+        <translation>Gradiente vertical de velocidad</translation>
     </message>
     <message>
         <source>Laplacian of velocity</source>
-        <translation type="unfinished">Laplaciano de la velocidad</translation>
+        <translation>Laplaciano de la velocidad</translation>
     </message>
     <message>
         <source>Information density</source>
-        <translation type="unfinished">Densidad de información</translation>
+        <translation>Densidad de información</translation>
     </message>
     <message>
         <source>Velocity</source>
-        <translation type="unfinished">Velocidad</translation>
+        <translation>Velocidad</translation>
     </message>
 </context>
 <context>
@@ -7316,7 +7318,7 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     </message>
     <message>
         <source>Smooths the velocities of the present grid. Rays and misfit of a result are traced anew through the smoothed section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suaviza las velocidades de la malla actual. Los rayos y el desajuste de un resultado se recalculan a través de la sección suavizada.</translation>
     </message>
 </context>
 </TS>
