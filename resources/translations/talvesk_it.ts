@@ -944,72 +944,72 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
-        <translation type="unfinished">Guida per l&apos;utente</translation>
+        <translation>Guida per l&apos;utente</translation>
     </message>
     <message>
         <source>Pages found</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine trovate</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Strumenti</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanti</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Indice</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo più piccolo</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo più grande</translation>
     </message>
     <message>
         <source>Find previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova precedente</translation>
     </message>
     <message>
         <source>Find next</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova successivo</translation>
     </message>
     <message>
         <source>Open in browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri nel browser</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>title of a page, number of places</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun risultato</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 di %2</translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>No program to show the user guide was found.</source>
-        <translation type="unfinished">Non è stato trovato un programma per mostrare la guida.</translation>
+        <translation>Non è stato trovato un programma per mostrare la guida.</translation>
     </message>
     <message>
         <source>You find it in %1</source>
-        <translation type="unfinished">Si trova in %1</translation>
+        <translation>Si trova in %1</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca</translation>
     </message>
 </context>
 <context>
@@ -1394,1617 +1394,1619 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <name>talvesk::Message</name>
     <message>
         <source>The inversion failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;inversione non è riuscita: %1</translation>
     </message>
     <message>
         <source>The picture cannot be made: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile creare l&apos;immagine: %1</translation>
     </message>
     <message>
         <source>The view cannot be drawn for a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile disegnare la vista per un&apos;immagine.</translation>
     </message>
     <message>
         <source>Cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere %1: %2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere %1: %2</translation>
     </message>
     <message>
         <source>its name is not valid UTF-8 text</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome non è testo UTF-8 valido</translation>
     </message>
     <message>
         <source>the file is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è troppo grande</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un file regolare</translation>
     </message>
     <message>
         <source>its text could not be put together</source>
-        <translation type="unfinished"></translation>
+        <translation>non è stato possibile comporne il testo</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>il file non esiste</translation>
     </message>
     <message>
         <source>its %1 bytes are more than the limit of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>i suoi %1 byte superano il limite di %2</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>la memoria non basta</translation>
     </message>
     <message>
         <source>The file %1 cannot be replaced: it is %2; choose another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file %1 non può essere sostituito: è %2; scegliere un altro percorso.</translation>
     </message>
     <message>
         <source>a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>una cartella</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>un file non regolare</translation>
     </message>
     <message>
         <source>protected against writing</source>
-        <translation type="unfinished"></translation>
+        <translation>protetto da scrittura</translation>
     </message>
     <message>
         <source>The file %1 cannot be created: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file %1 non può essere creato: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be given its permissions: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile assegnare i permessi al file %1: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file %1 non può essere scritto: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be replaced: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file %1 non può essere sostituito: %2.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>nobody reads from it</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno legge da lì</translation>
     </message>
     <message>
         <source>there are more than %1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>ci sono più di %1 righe</translation>
     </message>
     <message>
         <source>line %1: &quot;%2&quot; is no number</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1: &quot;%2&quot; non è un numero</translation>
     </message>
     <message>
         <source>the survey has no grid; create the grid or run the inversion first</source>
-        <translation type="unfinished"></translation>
+        <translation>il rilievo non ha una griglia; creare la griglia o eseguire prima l&apos;inversione</translation>
     </message>
     <message>
         <source>no cell of the section is drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna cella della sezione è disegnata</translation>
     </message>
     <message>
         <source>eastward</source>
-        <translation type="unfinished"></translation>
+        <translation>verso est</translation>
     </message>
     <message>
         <source>northward</source>
-        <translation type="unfinished"></translation>
+        <translation>verso nord</translation>
     </message>
     <message>
         <source>westward</source>
-        <translation type="unfinished"></translation>
+        <translation>verso ovest</translation>
     </message>
     <message>
         <source>southward</source>
-        <translation type="unfinished"></translation>
+        <translation>verso sud</translation>
     </message>
     <message>
         <source>%1 is no reference system that is known here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è un sistema di riferimento noto</translation>
     </message>
     <message>
         <source>%1 is not a projected system; easting and northing need one</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è un sistema proiettato; le coordinate est e nord ne richiedono uno</translation>
     </message>
     <message>
         <source>%1 has no axes that are known here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha assi noti</translation>
     </message>
     <message>
         <source>%1 counts in another unit than the metre: %2; choose a system in metres</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 usa un&apos;unità diversa dal metro: %2; scegliere un sistema in metri</translation>
     </message>
     <message>
         <source>%1 counts %2 and %3; choose a system with easting and northing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 conta %2 e %3; scegliere un sistema con coordinate est e nord</translation>
     </message>
     <message>
         <source>%1 (%2) cannot be turned into longitude and latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2) non può essere convertito in longitudine e latitudine</translation>
     </message>
     <message>
         <source>the Y coordinate and the Z offset of the line must be finite numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>la coordinata Y e lo spostamento Z della linea devono essere numeri finiti</translation>
     </message>
     <message>
         <source>Cannot write %1: its text could not be put together</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere %1: non è stato possibile comporne il testo</translation>
     </message>
     <message>
         <source>the coordinates of the geophones are not numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>le coordinate dei geofoni non sono numeri</translation>
     </message>
     <message>
         <source>the first and the last geophone have the same coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>il primo e l&apos;ultimo geofono hanno le stesse coordinate</translation>
     </message>
     <message>
         <source>the coordinates of the geophones lie outside of EPSG:%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>le coordinate dei geofoni sono fuori da EPSG:%1 (%2)</translation>
     </message>
     <message>
         <source>Geographical coordinates are missing, data cannot be exported in KML format</source>
-        <translation type="unfinished">Mancano le coordinate geografiche: i dati non possono essere esportati in formato KML</translation>
+        <translation>Mancano le coordinate geografiche: i dati non possono essere esportati in formato KML</translation>
     </message>
     <message>
         <source>the section has too many cells for this format, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la sezione ha troppe celle per questo formato, %1</translation>
     </message>
     <message>
         <source>the palette has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>la tavolozza non ha colori</translation>
     </message>
     <message>
         <source>the value range of the section is empty; its maximum must be greater than its minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;intervallo di valori della sezione è vuoto; il massimo deve essere maggiore del minimo</translation>
     </message>
     <message>
         <source>the survey has no geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>il rilievo non ha geofoni</translation>
     </message>
     <message>
         <source>the raster would have %1 nodes; choose larger cells</source>
-        <translation type="unfinished"></translation>
+        <translation>la maglia avrebbe %1 nodi; scegliere celle più grandi</translation>
     </message>
     <message>
         <source>Not enough memory for a picture of this size: choose a smaller size or resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>La memoria non basta per un&apos;immagine di queste dimensioni: scegliere dimensioni o risoluzione minori.</translation>
     </message>
     <message>
         <source>The PNG picture cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile creare l&apos;immagine PNG.</translation>
     </message>
     <message>
         <source>The SVG picture cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile creare l&apos;immagine SVG.</translation>
     </message>
     <message>
         <source>The PDF page cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile creare la pagina PDF.</translation>
     </message>
     <message>
         <source>A figure cannot be drawn before the application object exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile disegnare una figura prima che esista l&apos;oggetto applicazione.</translation>
     </message>
     <message>
         <source>A figure cannot be drawn without fonts: install a font package, for instance fonts-dejavu-core.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile disegnare una figura senza caratteri: installare un pacchetto di caratteri, per esempio fonts-dejavu-core.</translation>
     </message>
     <message>
         <source>No picture format is known for %1: let the file name end with .png, .svg or .pdf.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun formato di immagine noto per %1: il nome del file deve finire con .png, .svg o .pdf.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 mm wide: choose %2 to %3 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una figura non può essere larga %1 mm: scegliere da %2 a %3 mm.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 mm high: choose %2 to %3 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una figura non può essere alta %1 mm: scegliere da %2 a %3 mm.</translation>
     </message>
     <message>
         <source>A figure cannot be %1 pixels per inch: choose %2 to %3 pixels per inch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una figura non può avere %1 pixel per pollice: scegliere da %2 a %3 pixel per pollice.</translation>
     </message>
     <message>
         <source>A picture of %1 million pixels is too large: the limit is %2 million. Choose a smaller size or resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un&apos;immagine di %1 milioni di pixel è troppo grande: il limite è di %2 milioni. Scegliere dimensioni o risoluzione minori.</translation>
     </message>
     <message>
         <source>A PDF file needs a page at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un file PDF ha bisogno di almeno una pagina.</translation>
     </message>
     <message>
         <source>%1 cannot be drawn before the application object exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non è possibile disegnare prima che esista l&apos;oggetto applicazione.</translation>
     </message>
     <message>
         <source>The picture is too small for what it shows with its axes and texts: choose a larger size.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;immagine è troppo piccola per ciò che mostra con assi e testi: scegliere dimensioni maggiori.</translation>
     </message>
     <message>
         <source>The document has no traces to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento non ha tracce da disegnare.</translation>
     </message>
     <message>
         <source>The times from %1 to %2 ms cannot be drawn: choose a begin of 0 or more and an end after it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile disegnare i tempi da %1 a %2 ms: scegliere un inizio pari o superiore a 0 e una fine successiva.</translation>
     </message>
     <message>
         <source>The gain of a gather must lie above 0 and not above %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il guadagno delle tracce di un tiro deve essere maggiore di 0 e non superiore a %1.</translation>
     </message>
     <message>
         <source>Wiggles can be cut at more than 0 and up to 100 trace distances.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le oscillazioni si possono troncare a più di 0 e fino a 100 distanze fra le tracce.</translation>
     </message>
     <message>
         <source>There is no shot %1 to draw: the document has %2 with traces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è un tiro %1 da disegnare: il documento ha %2 con tracce.</translation>
     </message>
     <message>
         <source>1 shot</source>
-        <translation type="unfinished">1 tiro</translation>
+        <translation>1 tiro</translation>
     </message>
     <message>
         <source>%1 shots</source>
-        <translation type="unfinished">%1 tiri</translation>
+        <translation>%1 tiri</translation>
     </message>
     <message>
         <source>The inversion has no misfit to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;inversione non ha scarti da disegnare.</translation>
     </message>
     <message>
         <source>There are no residuals to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ci sono residui da disegnare.</translation>
     </message>
     <message>
         <source>There is no refractor with a depth to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è alcun rifrattore con una profondità da disegnare.</translation>
     </message>
     <message>
         <source>There is no survey to report on: load shot files or travel times first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è un rilievo su cui scrivere una relazione: caricare prima file dei tiri o tempi di arrivo.</translation>
     </message>
     <message>
         <source>No report format is known for %1: let the file name end with .pdf or .odt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun formato di relazione noto per %1: il nome del file deve finire con .pdf o .odt.</translation>
     </message>
     <message>
         <source>The report was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>La relazione è stata interrotta.</translation>
     </message>
     <message>
         <source>The vertical exaggeration must lie between 0.01 and 100, or be 0 to let the picture choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;esagerazione verticale deve essere compresa fra 0,01 e 100, o essere 0 per lasciare la scelta all&apos;immagine.</translation>
     </message>
     <message>
         <source>The palette &quot;%1&quot; has no colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tavolozza &quot;%1&quot; non ha colori.</translation>
     </message>
     <message>
         <source>The section has no extent to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sezione non ha un&apos;estensione da disegnare.</translation>
     </message>
     <message>
         <source>The picture is too small for the section with its axes and texts: choose a larger size.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;immagine è troppo piccola per la sezione con assi e testi: scegliere dimensioni maggiori.</translation>
     </message>
     <message>
         <source>There are no travel times to draw: pick first breaks, or load travel times, first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ci sono tempi di arrivo da disegnare: segnare prima i primi arrivi, o caricare tempi di arrivo.</translation>
     </message>
     <message>
         <source>The document cannot be packed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento non può essere impacchettato: %1</translation>
     </message>
     <message>
         <source>its bytes cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>i suoi byte non possono essere riletti</translation>
     </message>
     <message>
         <source>cell %1 has no valid velocity (slowness %2 s/m)</source>
-        <translation type="unfinished"></translation>
+        <translation>la cella %1 non ha una velocità valida (lentezza %2 s/m)</translation>
     </message>
     <message>
         <source>A grid of %1 rows and %2 columns with %3 nodes per side %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Una griglia di %1 righe e %2 colonne con %3 nodi per lato %4</translation>
     </message>
     <message>
         <source>has no cells; choose cells smaller than the array is long.</source>
-        <translation type="unfinished"></translation>
+        <translation>non ha celle; scegliere celle più piccole della lunghezza dello stendimento.</translation>
     </message>
     <message>
         <source>has %1 nodes; at most %2 can be numbered. Choose larger cells or a smaller depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>ha %1 nodi; se ne possono numerare al massimo %2. Scegliere celle più grandi o una profondità minore.</translation>
     </message>
     <message>
         <source>needs about %1 MiB, but only %2 MiB are free. Choose larger cells or a smaller depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>richiede circa %1 MiB, ma solo %2 MiB sono liberi. Scegliere celle più grandi o una profondità minore.</translation>
     </message>
     <message>
         <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non resta alcuno strato: la profondità finale di uno strato deve essere maggiore di quella iniziale, e questa non negativa.</translation>
     </message>
     <message>
         <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli strati non formano un modello di velocità. Ordinarli per profondità, senza sovrapposizioni, ognuno spesso più di 0,02 m. %1</translation>
     </message>
     <message>
         <source>The grid of the layered model could not be built.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile creare la griglia del modello a strati.</translation>
     </message>
     <message>
         <source>the line holds %1 characters, more than the limit of %2; split the table into one file per spread</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga contiene %1 caratteri, più del limite di %2; dividere la tabella in un file per stendimento</translation>
     </message>
     <message>
         <source>the first line names no receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>la prima riga non indica alcun ricevitore</translation>
     </message>
     <message>
         <source>there are %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il file ha %1 per %2</translation>
     </message>
     <message>
         <source>%1 without an elevation were taken to lie at 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 senza quota: presi a quota 0</translation>
     </message>
     <message>
         <source>the shot has no elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>il tiro non ha quota</translation>
     </message>
     <message>
         <source>line %1: only %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1: solo %2 per %3</translation>
     </message>
     <message>
         <source>the %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>invalid stod argument</source>
-        <translation type="unfinished"></translation>
+        <translation>argomento di stod non valido</translation>
     </message>
     <message>
         <source>stod argument out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>argomento di stod fuori intervallo</translation>
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, riga %2: %3</translation>
     </message>
     <message>
         <source>Cannot write %1: there are %2 labels for %3 records</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere %1: ci sono %2 etichette per %3 record</translation>
     </message>
     <message>
         <source>the line holds more than %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga contiene più di %1 caratteri</translation>
     </message>
     <message>
         <source>line %1 has no x and z; check the separator</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga %1 non ha x e z; controllare il separatore</translation>
     </message>
     <message>
         <source>%1, line %2 does not begin with a number; check the separator</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, la riga %2 non comincia con un numero; controllare il separatore</translation>
     </message>
     <message>
         <source>%1 holds more than %2 values</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contiene più di %2 valori</translation>
     </message>
     <message>
         <source>there are only %1 shots</source>
-        <translation type="unfinished"></translation>
+        <translation>ci sono solo %1 tiri</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a layer number: 0 for none, 1, 2 or 3</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; non è un numero di strato: 0 per nessuno, 1, 2 o 3</translation>
     </message>
     <message>
         <source>shot %1 has %2 traces, which is not how many layer numbers there are</source>
-        <translation type="unfinished"></translation>
+        <translation>il tiro %1 ha %2 tracce, ma non altrettanti numeri di strato</translation>
     </message>
     <message>
         <source>%1: it holds layers of %2 shots, and there are %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: contiene gli strati di %2 tiri, ma i tiri sono %3</translation>
     </message>
     <message>
         <source>the first line is %1 where &quot;otte&quot; must stand</source>
-        <translation type="unfinished"></translation>
+        <translation>la prima riga è %1, dove deve esserci &quot;otte&quot;</translation>
     </message>
     <message>
         <source>the format version is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca la versione del formato</translation>
     </message>
     <message>
         <source>the format version %1 was read as &quot;1.0&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la versione del formato %1 è stata letta come &quot;1.0&quot;</translation>
     </message>
     <message>
         <source>line 3 holds %1, not 2</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga 3 contiene %1, non 2</translation>
     </message>
     <message>
         <source>the %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca: %1</translation>
     </message>
     <message>
         <source>the line of each %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca la riga con i valori di %1</translation>
     </message>
     <message>
         <source>there are %1 but %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il file ha %1 ma %2</translation>
     </message>
     <message>
         <source>the file names %1 strings for %2 and %3</source>
-        <translation type="unfinished"></translation>
+        <translation>il file indica %1 stese per %2 e %3</translation>
     </message>
     <message>
         <source>there are more records than the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ci sono più record che tiri (%1)</translation>
     </message>
     <message>
         <source>the file ends after %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il file finisce dopo %1 di %2</translation>
     </message>
     <message>
         <source>the record names string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il record indica la stesa %1 di %2</translation>
     </message>
     <message>
         <source>record %1 names trace set %2; it was taken for that of its own place</source>
-        <translation type="unfinished"></translation>
+        <translation>il record %1 indica il gruppo di tracce %2; è stato preso quello del suo posto</translation>
     </message>
     <message>
         <source>the last line does not end in &quot;;&quot;: the file may be cut short</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ultima riga non finisce con &quot;;&quot;: il file potrebbe essere troncato</translation>
     </message>
     <message>
         <source>the records need %1 in %2, the file holds %3</source>
-        <translation type="unfinished"></translation>
+        <translation>i record richiedono %1 in %2, il file contiene %3</translation>
     </message>
     <message>
         <source>no string claims the last %1: a record of each string must hold one time per geophone</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna stesa comprende gli ultimi geofoni (%1): un record di ogni stesa deve contenere un tempo per geofono</translation>
     </message>
     <message>
         <source>the strings without a record do not share %1 equally; the first ones took one more</source>
-        <translation type="unfinished"></translation>
+        <translation>le stese senza record non si dividono %1 in parti uguali; le prime ne hanno preso uno in più</translation>
     </message>
     <message>
         <source>record %1 holds %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>il record %1 contiene %2 per %3</translation>
     </message>
     <message>
         <source>%1 is too large for a palette</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è troppo grande per una tavolozza</translation>
     </message>
     <message>
         <source>%1 is no palette file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è un file di tavolozza: %2</translation>
     </message>
     <message>
         <source>the byte order mark before the first line was ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;indicatore dell&apos;ordine dei byte (BOM) prima della prima riga è stato ignorato</translation>
     </message>
     <message>
         <source>the %1 %2 is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: non è un numero</translation>
     </message>
     <message>
         <source>the %1 %2 is out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: fuori intervallo</translation>
     </message>
     <message>
         <source>the %1 %2 is not finite</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: numero non finito</translation>
     </message>
     <message>
         <source>the %1 %2 is not a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: non è un numero intero</translation>
     </message>
     <message>
         <source>and more of this kind</source>
-        <translation type="unfinished"></translation>
+        <translation>e altri dello stesso tipo</translation>
     </message>
     <message>
         <source>line %1 and what follows it was ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga %1 e ciò che la segue sono stati ignorati</translation>
     </message>
     <message>
         <source>the file holds no shot</source>
-        <translation type="unfinished"></translation>
+        <translation>il file non contiene tiri</translation>
     </message>
     <message>
         <source>Invalid phone list : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Elenco dei ricevitori non valido : %1</translation>
     </message>
     <message>
         <source>%1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 per %2</translation>
     </message>
     <message>
         <source>Invalid header : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intestazione non valida : %1</translation>
     </message>
     <message>
         <source>%1 must stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>qui deve esserci %1</translation>
     </message>
     <message>
         <source>Invalid match : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrispondenza non valida : %1</translation>
     </message>
     <message>
         <source>line %1: %2 is not a number and was taken as 0</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1: %2 non è un numero ed è stato preso come 0</translation>
     </message>
     <message>
         <source>line %1: number %2 is named twice; its last value was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1: il numero %2 è indicato due volte; è stato preso l&apos;ultimo valore</translation>
     </message>
     <message>
         <source>number %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>il numero %1 non è noto</translation>
     </message>
     <message>
         <source>%1 %2 has no %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: manca %3</translation>
     </message>
     <message>
         <source>Invalid times : %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempi non validi : %1</translation>
     </message>
     <message>
         <source>%1 of shot %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 del tiro %2 per %3</translation>
     </message>
     <message>
         <source>geophone distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distanza del geofono</translation>
     </message>
     <message>
         <source>geophone elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>quota del geofono</translation>
     </message>
     <message>
         <source>shot distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distanza del tiro</translation>
     </message>
     <message>
         <source>shot elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>quota del tiro</translation>
     </message>
     <message>
         <source>receiver number</source>
-        <translation type="unfinished"></translation>
+        <translation>numero del ricevitore</translation>
     </message>
     <message>
         <source>receiver distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distanza del ricevitore</translation>
     </message>
     <message>
         <source>receiver elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>quota del ricevitore</translation>
     </message>
     <message>
         <source>distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distanza</translation>
     </message>
     <message>
         <source>elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>quota</translation>
     </message>
     <message>
         <source>shot</source>
-        <translation type="unfinished"></translation>
+        <translation>tiro</translation>
     </message>
     <message>
         <source>receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>ricevitore</translation>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>tempo</translation>
     </message>
     <message>
         <source>first-break time</source>
-        <translation type="unfinished"></translation>
+        <translation>tempo di primo arrivo</translation>
     </message>
     <message>
         <source>number</source>
-        <translation type="unfinished"></translation>
+        <translation>numero</translation>
     </message>
     <message>
         <source>value</source>
-        <translation type="unfinished"></translation>
+        <translation>valore</translation>
     </message>
     <message>
         <source>format constant 2</source>
-        <translation type="unfinished"></translation>
+        <translation>costante di formato 2</translation>
     </message>
     <message>
         <source>number of geophone strings</source>
-        <translation type="unfinished"></translation>
+        <translation>numero delle stese di geofoni</translation>
     </message>
     <message>
         <source>string of the record</source>
-        <translation type="unfinished"></translation>
+        <translation>stesa del record</translation>
     </message>
     <message>
         <source>trace set of the record</source>
-        <translation type="unfinished"></translation>
+        <translation>gruppo di tracce del record</translation>
     </message>
     <message>
         <source>%1 geophone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geofono</translation>
     </message>
     <message>
         <source>%1 geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geofoni</translation>
     </message>
     <message>
         <source>%1 receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ricevitore</translation>
     </message>
     <message>
         <source>%1 receivers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ricevitori</translation>
     </message>
     <message>
         <source>%1 shot</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tiro</translation>
     </message>
     <message>
         <source>%1 shot position</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 posizione di tiro</translation>
     </message>
     <message>
         <source>%1 shot positions</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 posizioni di tiro</translation>
     </message>
     <message>
         <source>%1 geophone distance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distanza dei geofoni</translation>
     </message>
     <message>
         <source>%1 geophone distances</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distanze dei geofoni</translation>
     </message>
     <message>
         <source>%1 shot distance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distanza dei tiri</translation>
     </message>
     <message>
         <source>%1 shot distances</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 distanze dei tiri</translation>
     </message>
     <message>
         <source>%1 elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 quota</translation>
     </message>
     <message>
         <source>%1 elevations</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 quote</translation>
     </message>
     <message>
         <source>%1 time</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tempo</translation>
     </message>
     <message>
         <source>%1 times</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tempi</translation>
     </message>
     <message>
         <source>%1 record</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 record</translation>
     </message>
     <message>
         <source>%1 records</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 record</translation>
     </message>
     <message>
         <source>%1 string</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 stesa</translation>
     </message>
     <message>
         <source>%1 strings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 stese</translation>
     </message>
     <message>
         <source>%1 number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 numero</translation>
     </message>
     <message>
         <source>%1 numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 numeri</translation>
     </message>
     <message>
         <source>%1 value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 valore</translation>
     </message>
     <message>
         <source>%1 values</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 valori</translation>
     </message>
     <message>
         <source>%1 rows of %2 columns do not go with %3 velocities and %4 draw flags</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 righe di %2 colonne non corrispondono a %3 velocità e %4 indicatori di disegno</translation>
     </message>
     <message>
         <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation type="unfinished"></translation>
+        <translation>celle con %1 nodi per lato, lunghe %2 m, non sono possibili</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
-        <translation type="unfinished"></translation>
+        <translation>una velocità non è un numero positivo</translation>
     </message>
     <message>
         <source>there is a grid, but no two geophones</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;è una griglia, ma non due geofoni</translation>
     </message>
     <message>
         <source>the grid cannot be built</source>
-        <translation type="unfinished"></translation>
+        <translation>non è possibile creare la griglia</translation>
     </message>
     <message>
         <source>the limit of its rays lies off the line; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>il limite dei suoi raggi è fuori dalla linea; è stato tralasciato</translation>
     </message>
     <message>
         <source>its information density does not fit the grid; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la sua densità d&apos;informazione non corrisponde alla griglia; è stata tralasciata</translation>
     </message>
     <message>
         <source>what it tells of its last inversion cannot be; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che indica della sua ultima inversione non è possibile; è stato tralasciato</translation>
     </message>
     <message>
         <source>a geophone has no place</source>
-        <translation type="unfinished"></translation>
+        <translation>un geofono non ha posizione</translation>
     </message>
     <message>
         <source>a shot was recorded by geophone string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un tiro è stato registrato dalla stesa di geofoni %1 di %2</translation>
     </message>
     <message>
         <source>a shot has no place</source>
-        <translation type="unfinished"></translation>
+        <translation>un tiro non ha posizione</translation>
     </message>
     <message>
         <source>the grid cannot be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>non è possibile creare la griglia: %1</translation>
     </message>
     <message>
         <source>layers belong to shot %1, but %2 shots exist</source>
-        <translation type="unfinished"></translation>
+        <translation>ci sono strati assegnati al tiro %1, ma i tiri sono %2</translation>
     </message>
     <message>
         <source>an arrival belongs to a layer that does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>un arrivo è assegnato a uno strato che non esiste</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca</translation>
     </message>
     <message>
         <source>it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>è troppo grande</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file non esiste.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è un file regolare.</translation>
     </message>
     <message>
         <source>You may not read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non si ha il permesso di leggerlo.</translation>
     </message>
     <message>
         <source>It cannot be extracted: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non può essere estratto: %1.</translation>
     </message>
     <message>
         <source>%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, or deeper than the line is long</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 velocità e profondità degli strati tralasciate: fuori da 50 - 12 000 m/s, o più profonde della lunghezza della linea</translation>
     </message>
     <message>
         <source>%1; the coverage of the last inversion and its figures are not known</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; la copertura dell&apos;ultima inversione e le sue cifre non sono note</translation>
     </message>
     <message>
         <source>No temporary folder can be created in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile creare una cartella temporanea in %1.</translation>
     </message>
     <message>
         <source>It cannot be extracted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non può essere estratto.</translation>
     </message>
     <message>
         <source>It cannot be loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non può essere caricato: %1</translation>
     </message>
     <message>
         <source>its title has control characters or is too long; it reads %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>il titolo ha caratteri di controllo o è troppo lungo; ora è %1</translation>
     </message>
     <message>
         <source>its RMS misfit is no number; it is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo scarto quadratico medio non è un numero; è stato tralasciato</translation>
     </message>
     <message>
         <source>its limits of velocity cannot be; they are as in a new survey</source>
-        <translation type="unfinished"></translation>
+        <translation>i suoi limiti di velocità non sono possibili; sono quelli di un nuovo rilievo</translation>
     </message>
     <message>
         <source>a layer of its starting model cannot be; the model is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>uno strato del suo modello iniziale non è possibile; il modello è stato tralasciato</translation>
     </message>
     <message>
         <source>a cell size that it proposes cannot be; it proposes new ones</source>
-        <translation type="unfinished"></translation>
+        <translation>un lato delle celle che propone non è possibile; ne propone di nuovi</translation>
     </message>
     <message>
         <source>its geographic coordinates are no numbers; they are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>le sue coordinate geografiche non sono numeri; sono state tralasciate</translation>
     </message>
     <message>
         <source>no section can be drawn with a vertical exaggeration of %1; it is %2 now</source>
-        <translation type="unfinished"></translation>
+        <translation>non è possibile disegnare una sezione con un&apos;esagerazione verticale di %1; ora è %2</translation>
     </message>
     <message>
         <source>its contours cannot be drawn so; they are put right</source>
-        <translation type="unfinished"></translation>
+        <translation>le sue isolinee non si possono disegnare così; sono state corrette</translation>
     </message>
     <message>
         <source>its section shows a quantity that does not exist; it is the velocity now</source>
-        <translation type="unfinished"></translation>
+        <translation>la sua sezione mostra una grandezza che non esiste; ora è la velocità</translation>
     </message>
     <message>
         <source>its geophone markers have a size that does not exist; it is normal now</source>
-        <translation type="unfinished"></translation>
+        <translation>i suoi simboli dei geofoni hanno una dimensione che non esiste; ora è normale</translation>
     </message>
     <message>
         <source>velocities of %1 cell cannot be; they are held within %2 and %3 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>la velocità di %1 cella non è possibile; è stata portata fra %2 e %3 m/s</translation>
     </message>
     <message>
         <source>velocities of %1 cells cannot be; they are held within %2 and %3 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>le velocità di %1 celle non sono possibili; sono state portate fra %2 e %3 m/s</translation>
     </message>
     <message>
         <source>a time shift of its arrivals cannot be; it is 0 now</source>
-        <translation type="unfinished"></translation>
+        <translation>una traslazione temporale dei suoi arrivi non è possibile; ora è 0</translation>
     </message>
     <message>
         <source>its layered profile cannot be; it is left out and can be built again</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo profilo a strati non è possibile; è stato tralasciato e può essere costruito di nuovo</translation>
     </message>
     <message>
         <source>its coverage and figures do not go with the grid and the inversion of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>la sua copertura e le sue cifre non corrispondono alla griglia e all&apos;inversione del progetto</translation>
     </message>
     <message>
         <source>%1 is no name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è un nome di file</translation>
     </message>
     <message>
         <source>trace set %1 has %2 traces, but %3 filtered copies</source>
-        <translation type="unfinished"></translation>
+        <translation>il gruppo di tracce %1 ha %2 tracce, ma %3 copie filtrate</translation>
     </message>
     <message>
         <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten and its traces are empty</source>
-        <translation type="unfinished"></translation>
+        <translation>tiro %1: il suo file si chiama %2, che non è un semplice nome di file; il nome è stato tolto e le tracce sono vuote</translation>
     </message>
     <message>
         <source>shot %1: its shot file is called %2, which is no plain file name; the name is forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>tiro %1: il suo file si chiama %2, che non è un semplice nome di file; il nome è stato tolto</translation>
     </message>
     <message>
         <source>%1 has %2 traces instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha %2 tracce invece di %3</translation>
     </message>
     <message>
         <source>there are %1 trace sets, but %2 travel-time records</source>
-        <translation type="unfinished"></translation>
+        <translation>ci sono %1 gruppi di tracce, ma %2 record di tempi di arrivo</translation>
     </message>
     <message>
         <source>no travel-time record belongs to trace set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun record di tempi di arrivo appartiene al gruppo di tracce %1</translation>
     </message>
     <message>
         <source>%1 and %2 have different numbers of traces</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 e %2 hanno numeri di tracce diversi</translation>
     </message>
     <message>
         <source>wave type %1 does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di onda %1 non esiste</translation>
     </message>
     <message>
         <source>there are more files or filtered copies than trace sets</source>
-        <translation type="unfinished"></translation>
+        <translation>ci sono più file o copie filtrate che gruppi di tracce</translation>
     </message>
     <message>
         <source>trace set %1 has a position or delay that cannot be</source>
-        <translation type="unfinished"></translation>
+        <translation>il gruppo di tracce %1 ha una posizione o un ritardo non possibili</translation>
     </message>
     <message>
         <source>trace set %1 has a sample that is no finite number</source>
-        <translation type="unfinished"></translation>
+        <translation>il gruppo di tracce %1 ha un campione che non è un numero finito</translation>
     </message>
     <message>
         <source>Its parts cannot be written in %1; is the disk full?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le sue parti non possono essere scritte in %1; il disco è pieno?</translation>
     </message>
     <message>
         <source>The archive %1 cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;archivio %1 non può essere scritto.</translation>
     </message>
     <message>
         <source>It cannot be put together: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non può essere composto: %1</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 byte</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>it unpacks to more than %1, which no project of %2 does</source>
-        <translation type="unfinished"></translation>
+        <translation>una volta estratto supera %1, cosa che nessun progetto di %2 fa</translation>
     </message>
     <message>
         <source>it unpacks to %1 or more, and the disk has room for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>una volta estratto occupa %1 o più, e sul disco c&apos;è posto per %2</translation>
     </message>
     <message>
         <source>%1 cannot be extracted: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può essere estratto: %2</translation>
     </message>
     <message>
         <source>%1 in it cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 al suo interno non può essere letto: %2</translation>
     </message>
     <message>
         <source>%1 in it is damaged: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 al suo interno è danneggiato: %2</translation>
     </message>
     <message>
         <source>%1 in it is not as long as it says</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 al suo interno non ha la lunghezza che dichiara</translation>
     </message>
     <message>
         <source>The file %1 cannot be added to the archive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file %1 non può essere aggiunto all&apos;archivio.</translation>
     </message>
     <message>
         <source>The archive %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;archivio %1 non può essere scritto: %2.</translation>
     </message>
     <message>
         <source>it holds %1 files, more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene %1 file, più di %2</translation>
     </message>
     <message>
         <source>%1 in it is no name of a file without a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 al suo interno non è un nome di file senza cartella</translation>
     </message>
     <message>
         <source>two files in it are called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>due file al suo interno si chiamano %1</translation>
     </message>
     <message>
         <source>The files of the project are %1, more than the %2 that can be opened again.</source>
-        <translation type="unfinished"></translation>
+        <translation>I file del progetto occupano %1, più dei %2 che si possono riaprire.</translation>
     </message>
     <message>
         <source>it is no archive of a project, or damaged: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un archivio di progetto, o è danneggiato: %1</translation>
     </message>
     <message>
         <source>there is nothing in it</source>
-        <translation type="unfinished"></translation>
+        <translation>non contiene nulla</translation>
     </message>
     <message>
         <source>it is no archive of a project: there is no %1 in it</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un archivio di progetto: non contiene %1</translation>
     </message>
     <message>
         <source>its list of files is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo elenco di file è danneggiato</translation>
     </message>
     <message>
         <source>it cannot be closed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>non può essere chiuso: %1</translation>
     </message>
     <message>
         <source>its headers promise %1 traces of more data than can come from %2 bytes; the file is damaged or no shot file</source>
-        <translation type="unfinished"></translation>
+        <translation>le intestazioni promettono %1 tracce con più dati di quanti ne possano contenere %2 byte; il file è danneggiato o non è un file dei tiri</translation>
     </message>
     <message>
         <source>trace %1</source>
-        <translation type="unfinished"></translation>
+        <translation>traccia %1</translation>
     </message>
     <message>
         <source>%1 traces, the first of them trace %2,</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tracce, la prima delle quali è la traccia %2</translation>
     </message>
     <message>
         <source>the %1 in the header of %2 is no finite number; what cannot be used of it was taken as 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nell&apos;intestazione (%2): numero non finito; ciò che non si può usare è stato preso come 0</translation>
     </message>
     <message>
         <source>it is no SEG-2 file of little-endian numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un file SEG-2 con numeri little-endian</translation>
     </message>
     <message>
         <source>its last trace has no usable sample interval</source>
-        <translation type="unfinished"></translation>
+        <translation>la sua ultima traccia non ha un intervallo di campionamento utilizzabile</translation>
     </message>
     <message>
         <source>source position</source>
-        <translation type="unfinished"></translation>
+        <translation>posizione della sorgente</translation>
     </message>
     <message>
         <source>receiver position</source>
-        <translation type="unfinished"></translation>
+        <translation>posizione del ricevitore</translation>
     </message>
     <message>
         <source>delay</source>
-        <translation type="unfinished"></translation>
+        <translation>ritardo</translation>
     </message>
     <message>
         <source>data format code %1: one 16-bit sample is taken of every four bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>codice di formato dei dati %1: si prende un campione a 16 bit ogni quattro byte</translation>
     </message>
     <message>
         <source>data format code %1 is not read; its samples are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>il codice di formato dei dati %1 non viene letto; i suoi campioni sono 0</translation>
     </message>
     <message>
         <source>its traces are taken to lie as close as the 16-bit data of the SEG-Y file before it</source>
-        <translation type="unfinished"></translation>
+        <translation>si suppone che le sue tracce siano vicine fra loro come i dati a 16 bit del file SEG-Y precedente</translation>
     </message>
     <message>
         <source>it says that its numbers are little-endian, but is read big-endian as a file before it; load the little-endian files first</source>
-        <translation type="unfinished"></translation>
+        <translation>dichiara numeri little-endian, ma viene letto come big-endian come un file precedente; caricare prima i file little-endian</translation>
     </message>
     <message>
         <source>its numbers seem to be in the other byte order; load a SEG-Y file of that order first</source>
-        <translation type="unfinished"></translation>
+        <translation>i suoi numeri sembrano nell&apos;altro ordine dei byte; caricare prima un file SEG-Y di quell&apos;ordine</translation>
     </message>
     <message>
         <source>%1; %2</source>
-        <translation type="unfinished">%1: %2 {1;?}</translation>
+        <translation>%1; %2</translation>
     </message>
     <message>
         <source>%1 bytes after the traces that its headers name were not read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 byte dopo le tracce indicate dalle intestazioni non sono stati letti</translation>
     </message>
     <message>
         <source>data format code %1 (IBM floats) is not read; its samples are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>il codice di formato dei dati %1 (numeri in virgola mobile IBM) non viene letto; i suoi campioni sono 0</translation>
     </message>
     <message>
         <source>its suffix is none of seg2, dat, sg2, sgy, segy, su</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;estensione non è nessuna di seg2, dat, sg2, sgy, segy, su</translation>
     </message>
     <message>
         <source>Error while loading %1</source>
-        <translation type="unfinished">Errore nel caricamento di %1. {1?}</translation>
+        <translation>Errore nel caricamento di %1</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished">%1: %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>the survey holds S-wave pairs; add more of them in the survey geometry, or start a new survey to load shot files</source>
-        <translation type="unfinished"></translation>
+        <translation>il rilievo contiene coppie di onde S; aggiungerne altre nella geometria del rilievo, o iniziare un nuovo rilievo per caricare file dei tiri</translation>
     </message>
     <message>
         <source>the survey holds picks without traces; start a new survey to load shot files</source>
-        <translation type="unfinished"></translation>
+        <translation>il rilievo contiene primi arrivi senza tracce; iniziare un nuovo rilievo per caricare file dei tiri</translation>
     </message>
     <message>
         <source>the file holds no trace</source>
-        <translation type="unfinished"></translation>
+        <translation>il file non contiene tracce</translation>
     </message>
     <message>
         <source>the file is cut short: %1 bytes that its headers promise are missing and were taken as zeros</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è troncato: mancano %1 byte promessi dalle intestazioni, presi come zeri</translation>
     </message>
     <message>
         <source>%1 samples that are no finite numbers were set to 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 campioni che non sono numeri finiti sono stati posti a 0</translation>
     </message>
     <message>
         <source>its traces have different numbers of samples</source>
-        <translation type="unfinished"></translation>
+        <translation>le sue tracce hanno numeri di campioni diversi</translation>
     </message>
     <message>
         <source>its traces have different sample intervals</source>
-        <translation type="unfinished"></translation>
+        <translation>le sue tracce hanno intervalli di campionamento diversi</translation>
     </message>
     <message>
         <source>a sample interval is not positive, so that times mean nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>un intervallo di campionamento non è positivo: i tempi non hanno significato</translation>
     </message>
     <message>
         <source>The shot file %1 could not be copied; its traces are saved without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file dei tiri %1 non è stato copiato; le sue tracce sono salvate senza di esso.</translation>
     </message>
     <message>
         <source>Of the shot files %1 and %2 only the second is in the project; the traces of both are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dei file dei tiri %1 e %2 solo il secondo è nel progetto; le tracce di entrambi ci sono.</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>a file holds no traces</source>
-        <translation type="unfinished"></translation>
+        <translation>un file non contiene tracce</translation>
     </message>
     <message>
         <source>the DX file has %1 traces, the SX file %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il file DX ha %1 tracce, il file SX %2</translation>
     </message>
     <message>
         <source>trace %1 has a sample interval of %2 in the DX file and of %3 in the SX file</source>
-        <translation type="unfinished"></translation>
+        <translation>la traccia %1 ha un intervallo di campionamento di %2 nel file DX e di %3 nel file SX</translation>
     </message>
     <message>
         <source>trace %1 has a delay of %2 in the DX file and of %3 in the SX file</source>
-        <translation type="unfinished"></translation>
+        <translation>la traccia %1 ha un ritardo di %2 nel file DX e di %3 nel file SX</translation>
     </message>
     <message>
         <source>DX and SX differ in receiver positions; those of DX count</source>
-        <translation type="unfinished"></translation>
+        <translation>DX e SX differiscono nelle posizioni dei ricevitori; valgono quelle di DX</translation>
     </message>
     <message>
         <source>DX and SX differ in source position; that of DX counts</source>
-        <translation type="unfinished"></translation>
+        <translation>DX e SX differiscono nella posizione della sorgente; vale quella di DX</translation>
     </message>
     <message>
         <source>DX and SX differ in length; that of DX counts</source>
-        <translation type="unfinished"></translation>
+        <translation>DX e SX differiscono in lunghezza; vale quella di DX</translation>
     </message>
     <message>
         <source>%1: DX and SX are the same file; their difference is nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: DX e SX sono lo stesso file; la loro differenza è nulla</translation>
     </message>
     <message>
         <source>%1 and %2 are no pair: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 e %2 non sono una coppia: %3</translation>
     </message>
     <message>
         <source>Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>File TT in ingresso non valido : %1 (l&apos;estensione non è nessuna di .otte, .txt, .xyz, .csv)</translation>
     </message>
     <message>
         <source>a geophone of string %1 has no finite position; edit the geometry first</source>
-        <translation type="unfinished"></translation>
+        <translation>un geofono della stesa %1 non ha una posizione finita; modificare prima la geometria</translation>
     </message>
     <message>
         <source>shot %1 has no finite position; edit the geometry first</source>
-        <translation type="unfinished"></translation>
+        <translation>il tiro %1 non ha una posizione finita; modificare prima la geometria</translation>
     </message>
     <message>
         <source>File %1 cannot be open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire il file %1.</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>a record names geophone string %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un record indica la stesa di geofoni %1 di %2</translation>
     </message>
     <message>
         <source>the file holds picks of %1 shots, the survey has %2; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>il file contiene primi arrivi di %1 tiri, il rilievo ne ha %2; i primi arrivi non sono stati presi</translation>
     </message>
     <message>
         <source>trace set %1 is named twice or not in the survey; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>il gruppo di tracce %1 è indicato due volte o non è nel rilievo; i primi arrivi non sono stati presi</translation>
     </message>
     <message>
         <source>the file holds %1 times for trace set %2, which has %3 traces; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>il file contiene %1 tempi per il gruppo di tracce %2, che ha %3 tracce; i primi arrivi non sono stati presi</translation>
     </message>
     <message>
         <source>a record of the survey has no trace set; the picks were not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>un record del rilievo non ha gruppo di tracce; i primi arrivi non sono stati presi</translation>
     </message>
     <message>
         <source>the line &quot;INFO&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca la riga &quot;INFO&quot;</translation>
     </message>
     <message>
         <source>the line begins with %1 where %2 must stand</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga comincia con %1, dove deve esserci %2</translation>
     </message>
     <message>
         <source>the line %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca la riga %1</translation>
     </message>
     <message>
         <source>%1 stands without a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha un valore</translation>
     </message>
     <message>
         <source>the %1 is negative</source>
-        <translation type="unfinished"></translation>
+        <translation>valore negativo: %1</translation>
     </message>
     <message>
         <source>the file ends before its last receiver line</source>
-        <translation type="unfinished"></translation>
+        <translation>il file finisce prima della sua ultima riga dei ricevitori</translation>
     </message>
     <message>
         <source>the receiver line holds %1 instead of 4</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga del ricevitore contiene %1 invece di 4</translation>
     </message>
     <message>
         <source>the receiver line holds more than 4 values</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga del ricevitore contiene più di 4 valori</translation>
     </message>
     <message>
         <source>the root element is not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;elemento radice non è &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the document ends too early</source>
-        <translation type="unfinished"></translation>
+        <translation>il documento finisce troppo presto</translation>
     </message>
     <message>
         <source>a &apos;%1&apos; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca un &apos;%1&apos;</translation>
     </message>
     <message>
         <source>it declares a document type or a data section</source>
-        <translation type="unfinished"></translation>
+        <translation>dichiara un tipo di documento o una sezione di dati</translation>
     </message>
     <message>
         <source>an element has too long a name</source>
-        <translation type="unfinished"></translation>
+        <translation>un elemento ha un nome troppo lungo</translation>
     </message>
     <message>
         <source>an element has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>un elemento non ha nome</translation>
     </message>
     <message>
         <source>an attribute has no quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>un attributo non ha virgolette</translation>
     </message>
     <message>
         <source>an attribute does not end</source>
-        <translation type="unfinished"></translation>
+        <translation>un attributo non finisce</translation>
     </message>
     <message>
         <source>its elements are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>i suoi elementi sono annidati troppo a fondo</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends where &quot;%2&quot; should</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; finisce dove dovrebbe finire &quot;%2&quot;</translation>
     </message>
     <message>
         <source>something follows the root element</source>
-        <translation type="unfinished"></translation>
+        <translation>qualcosa segue l&apos;elemento radice</translation>
     </message>
     <message>
         <source>there is text in &quot;%1&quot;, which holds elements</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;è del testo in &quot;%1&quot;, che contiene elementi</translation>
     </message>
     <message>
         <source>an entity does not end</source>
-        <translation type="unfinished"></translation>
+        <translation>un&apos;entità non finisce</translation>
     </message>
     <message>
         <source>an unknown entity</source>
-        <translation type="unfinished"></translation>
+        <translation>un&apos;entità sconosciuta</translation>
     </message>
     <message>
         <source>a character that does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>un carattere che non esiste</translation>
     </message>
     <message>
         <source>a byte of value 0</source>
-        <translation type="unfinished"></translation>
+        <translation>un byte di valore 0</translation>
     </message>
     <message>
         <source>there is an element in &quot;%1&quot;, which holds text</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;è un elemento in &quot;%1&quot;, che contiene testo</translation>
     </message>
     <message>
         <source>a text is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>un testo è troppo lungo</translation>
     </message>
     <message>
         <source>it holds too many sequences</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene troppe sequenze</translation>
     </message>
     <message>
         <source>it holds bytes that no text holds</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene byte che nessun testo contiene</translation>
     </message>
     <message>
         <source>it holds no XML</source>
-        <translation type="unfinished"></translation>
+        <translation>non contiene XML</translation>
     </message>
     <message>
         <source>it ends within an element</source>
-        <translation type="unfinished"></translation>
+        <translation>finisce dentro un elemento</translation>
     </message>
     <message>
         <source>it has a malformed tag</source>
-        <translation type="unfinished"></translation>
+        <translation>ha un tag malformato</translation>
     </message>
     <message>
         <source>it has a document type or raw data, which no file of this kind has</source>
-        <translation type="unfinished"></translation>
+        <translation>ha un tipo di documento o dati grezzi, che nessun file di questo tipo ha</translation>
     </message>
     <message>
         <source>it closes an element that it has not opened</source>
-        <translation type="unfinished"></translation>
+        <translation>chiude un elemento che non ha aperto</translation>
     </message>
     <message>
         <source>its elements are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>i suoi elementi sono annidati troppo a fondo</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può essere letto: %2</translation>
     </message>
     <message>
         <source>not a finite time</source>
-        <translation type="unfinished"></translation>
+        <translation>un tempo non finito</translation>
     </message>
     <message>
         <source>%1, above an hour</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, più di un&apos;ora</translation>
     </message>
     <message>
         <source>%1, beyond its record of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, oltre la sua registrazione di %2</translation>
     </message>
     <message>
         <source>shot %1, trace %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>tiro %1, traccia %2 (%3)</translation>
     </message>
     <message>
         <source>%1; and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; e altri %2</translation>
     </message>
     <message>
         <source>a pick that cannot be was dropped: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un primo arrivo impossibile è stato tralasciato: %1</translation>
     </message>
     <message>
         <source>%1 picks that cannot be were dropped: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 primi arrivi impossibili sono stati tralasciati: %2</translation>
     </message>
     <message>
         <source>shot %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tiro %1</translation>
     </message>
     <message>
         <source>%1 has no traces to pick on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non ha tracce su cui segnare i primi arrivi</translation>
     </message>
     <message>
         <source>the machine has no memory left to pick first breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>il computer non ha più memoria per segnare i primi arrivi</translation>
     </message>
     <message>
         <source>%1 has no record of times to screen</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non ha un record di tempi da controllare</translation>
     </message>
     <message>
         <source>the picks of %1 are not screened: it has no geophone string</source>
-        <translation type="unfinished"></translation>
+        <translation>i primi arrivi non sono stati controllati, %1: non ha una stesa di geofoni</translation>
     </message>
     <message>
         <source>must be above 0 Hz and below %1 Hz, the highest frequency of the spectrum</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere superiore a 0 Hz e inferiore a %1 Hz, la frequenza massima dello spettro</translation>
     </message>
     <message>
         <source>has no limit to keep to, as the spectrum has no frequency above 0 Hz: the traces are too short or their sample interval is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>non ha un limite da rispettare, poiché lo spettro non ha frequenze superiori a 0 Hz: le tracce sono troppo corte o il loro intervallo di campionamento non è noto</translation>
     </message>
     <message>
         <source>No filter applied. The %1 cut-off of %2 Hz %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun filtro applicato. La frequenza di taglio del %1, %2 Hz, %3.</translation>
     </message>
     <message>
         <source>there are no traces</source>
-        <translation type="unfinished"></translation>
+        <translation>non ci sono tracce</translation>
     </message>
     <message>
         <source>No filter applied. Filter order must be greater then 0.</source>
-        <translation type="unfinished">Nessun filtro applicato. L&apos;ordine del filtro deve essere maggiore di 0.</translation>
+        <translation>Nessun filtro applicato. L&apos;ordine del filtro deve essere maggiore di 0.</translation>
     </message>
     <message>
         <source>low-pass</source>
-        <translation type="unfinished"></translation>
+        <translation>passa basso</translation>
     </message>
     <message>
         <source>high-pass</source>
-        <translation type="unfinished"></translation>
+        <translation>passa alto</translation>
     </message>
     <message>
         <source>sample %1 is %2, which no filter can take</source>
-        <translation type="unfinished"></translation>
+        <translation>il campione %1 è %2, che nessun filtro può accettare</translation>
     </message>
     <message>
         <source>the result does not fit single precision; scale the samples down</source>
-        <translation type="unfinished"></translation>
+        <translation>il risultato non entra nella precisione singola; ridurre la scala dei campioni</translation>
     </message>
     <message>
         <source>No filter applied. Filter order %1 is above the limit of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun filtro applicato. L&apos;ordine del filtro %1 supera il limite di %2.</translation>
     </message>
     <message>
         <source>No filter applied. The cut-off is %1 of the sample rate; it must be above 0 and below 0.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun filtro applicato. La frequenza di taglio è %1 della frequenza di campionamento; deve essere superiore a 0 e inferiore a 0,5.</translation>
     </message>
     <message>
         <source>No filter applied. Single precision cannot hold a filter of order %1 with a cut-off of %2 of the sample rate; choose a lower order or a cut-off nearer to the middle of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun filtro applicato. La precisione singola non può contenere un filtro di ordine %1 con una frequenza di taglio di %2 della frequenza di campionamento; scegliere un ordine minore o un taglio più vicino al centro dell&apos;intervallo.</translation>
     </message>
     <message>
         <source>No filter applied. The filter cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun filtro applicato. Il filtro non può essere creato.</translation>
     </message>
     <message>
         <source>the energy of the samples does not fit single precision; scale them down</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;energia dei campioni non entra nella precisione singola; ridurne la scala</translation>
     </message>
     <message>
         <source>There is no grid with cells; build the grid first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è una griglia con celle; creare prima la griglia.</translation>
     </message>
     <message>
         <source>The velocity model cannot be used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il modello di velocità non può essere usato: %1</translation>
     </message>
     <message>
         <source>Ray tracing of shot %1 failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tracciamento dei raggi del tiro %1 non è riuscito: %2</translation>
     </message>
     <message>
         <source>Choose a positive cell size and no negative depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegliere un lato delle celle positivo e una profondità non negativa.</translation>
     </message>
     <message>
         <source>Geophones do not have geometry! 
 Please set the position of geophones
 </source>
-        <translation type="unfinished"></translation>
+        <translation>I geofoni non hanno geometria! 
+Impostare la posizione dei geofoni
+</translation>
     </message>
     <message>
         <source>A position of the survey lies more than 100 000 km away; please check the geometry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una posizione del rilievo dista più di 100 000 km; controllare la geometria.</translation>
     </message>
     <message>
         <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una griglia di celle di %1 m con %2 nodi per lato, profonda %3 m, non può essere creata; scegliere un lato delle celle positivo, almeno due nodi e una profondità non negativa.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile creare la griglia; vedere il flusso degli errori.</translation>
     </message>
     <message>
         <source>The grid could not be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile creare la griglia: %1</translation>
     </message>
     <message>
         <source>There is no grid yet; build the grid first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è ancora una griglia; creare prima la griglia.</translation>
     </message>
     <message>
         <source>The smoothing parameter must be 1 at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il parametro di smussamento deve essere almeno 1.</translation>
     </message>
     <message>
         <source>The smoothed velocity model cannot be used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il modello di velocità smussato non può essere usato: %1</translation>
     </message>
     <message>
         <source>The grid could not be smoothed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile smussare la griglia: %1</translation>
     </message>
     <message>
         <source>The rays could not be traced: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile tracciare i raggi: %1</translation>
     </message>
     <message>
         <source>Iterations and smoothing parameter must be 1 at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Iterazioni e parametro di smussamento devono essere almeno 1.</translation>
     </message>
     <message>
         <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>I limiti di velocità devono essere numeri positivi; %1 m/s non lo è.</translation>
     </message>
     <message>
         <source>The information density could not be computed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile calcolare la densità d&apos;informazione: %1</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo gradiente non ha colori</translation>
     </message>
     <message>
         <source>a colour stop of its gradient is not a finite number</source>
-        <translation type="unfinished"></translation>
+        <translation>un cursore del suo gradiente non è un numero finito</translation>
     </message>
     <message>
         <source>its name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo nome è troppo lungo</translation>
     </message>
     <message>
         <source>its range of values is out of bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo intervallo di valori è fuori dai limiti</translation>
     </message>
     <message>
         <source>its gradient has %1 colour stops, more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo gradiente ha %1 cursori, più di %2</translation>
     </message>
     <message>
         <source>A section has 0 to %1 contour values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una sezione ha da 0 a %1 valori di isolinea.</translation>
     </message>
     <message>
         <source>The value range of the section is empty: its maximum must be greater than its minimum.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;intervallo di valori della sezione è vuoto: il massimo deve essere maggiore del minimo.</translation>
     </message>
     <message>
         <source>There is no section to draw: no cell that is shown has a value for &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è una sezione da disegnare: nessuna cella mostrata ha un valore per &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>There is no section to draw: the survey has no grid yet. Build one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è una sezione da disegnare: il rilievo non ha ancora una griglia. Crearne una.</translation>
     </message>
     <message>
         <source>Vertical gradient of velocity</source>
-        <translation type="unfinished">Gradiente verticale di velocità</translation>
+        <translation>Gradiente verticale di velocità</translation>
     </message>
     <message>
         <source>Laplacian of velocity</source>
-        <translation type="unfinished">Laplaciano della velocità</translation>
+        <translation>Laplaciano della velocità</translation>
     </message>
     <message>
         <source>Information density</source>
-        <translation type="unfinished">Densità d&apos;informazione</translation>
+        <translation>Densità d&apos;informazione</translation>
     </message>
     <message>
         <source>Velocity</source>
-        <translation type="unfinished">Velocità</translation>
+        <translation>Velocità</translation>
     </message>
 </context>
 <context>
@@ -7316,7 +7318,7 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     </message>
     <message>
         <source>Smooths the velocities of the present grid. Rays and misfit of a result are traced anew through the smoothed section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Smussa le velocità della griglia attuale. I raggi e lo scarto di un risultato vengono ricalcolati attraverso la sezione smussata.</translation>
     </message>
 </context>
 </TS>
