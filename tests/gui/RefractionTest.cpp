@@ -365,21 +365,31 @@ TEST_F(RefractionCommand, keepsPhantomArrivalsThatWereMadeWithoutAProfile) {
   EXPECT_FALSE(run("pushAutoPhantButton", true)) << "the same curves again";
 }
 
-TEST_F(RefractionCommand, forgetsTheProfileOfPicksThatAreReplaced) {
+TEST_F(RefractionCommand, asksBeforeReplacedPicksTakeTheProfileAndOtherShotsTheMarks) {
   answer(QDialogButtonBox::Ok);
-  const QString file = QString::fromStdString(home.file("other.otte"));
-  ASSERT_TRUE(writeTravelTimes(file.toStdString(), window->document()).ok());
-  window->document().modified = false;
-  window->openFiles({file});
-  testing::putGrid(window->document(), 30.0, 2.0);
-  window->showFile(0);
-  EXPECT_FALSE(action("actionShow_refraction").isEnabled());
-  dialogs.expect([](QWidget& dialog) {
-    EXPECT_FALSE(dialog.findChild<QPushButton*>(QStringLiteral("clearButton"))->isEnabled())
-        << "marks of another survey";
-    dialog.close();
-  });
-  action("actionRefraction").trigger();
+  TomoDocument moved;
+  moved.goephonesStringSet = window->document().goephonesStringSet;
+  moved.ttArray = window->document().ttArray;
+  ASSERT_TRUE(writeTravelTimes(home.file("same.otte"), moved).ok());
+  moved.ttArray.front().shotPos2d.x -= 7.0;
+  ASSERT_TRUE(writeTravelTimes(home.file("moved.otte"), moved).ok());
+  for (const char* name : {"same.otte", "moved.otte"}) {
+    window->document().modified = false;
+    dialogs.expectBox("Warning",
+                      "The survey changes. This will be lost:", "the refraction interpretation",
+                      QMessageBox::Yes);
+    window->openFiles({QString::fromStdString(home.file(name))});
+    testing::putGrid(window->document(), 30.0, 2.0);
+    window->showFile(0);
+    EXPECT_FALSE(action("actionShow_refraction").isEnabled()) << name;
+    dialogs.expect([name](QWidget& dialog) {
+      EXPECT_EQ(dialog.findChild<QPushButton*>(QStringLiteral("clearButton"))->isEnabled(),
+                name == std::string("same.otte"))
+          << "marks are those of the shots";
+      dialog.close();
+    });
+    action("actionRefraction").trigger();
+  }
 }
 
 TEST_F(RefractionCommand, asksAboutIncompletePicks) {
