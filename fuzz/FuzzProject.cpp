@@ -61,7 +61,7 @@ struct Workshop {
     QDir(folder.path()).mkdir(QStringLiteral("work"));
     demand(save(archive, work(), soundProject()) == 0, "the sound project can be saved");
     QDir(folder.path()).mkdir(QStringLiteral("loose"));
-    std::string why;
+    Message why;
     demand(readZip(archive, loose(), why) == 0, "and extracted");
   }
   std::string root() const { return folder.path().toStdString() + "/"; }
@@ -81,7 +81,7 @@ void build(const Workshop& shop, std::uint8_t place, const std::uint8_t* bytes, 
   const std::string changed = shop.root() + kMembers[place - 1];
   put(changed, bytes, size);
   files[place - 1] = changed;
-  std::string why;
+  Message why;
   demand(writeZip(archive, files, why) == 0, "an archive of any members");
 }
 

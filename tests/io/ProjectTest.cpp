@@ -281,7 +281,7 @@ TEST_F(ProjectTest, keepsTheSamplesOfAFileThatNoArchiveCanName) {
 TEST_F(ProjectTest, ofNothingButZerosCanBeOpenedAgain) {
   const std::vector<std::string> files = {
       folder.put("tomodoc.xml", ""), folder.put("dead.dat", std::string(12 * 1000 * 1000, '\0'))};
-  std::string why;
+  Message why;
   ASSERT_EQ(writeZip(archive(), files, why), 0) << why;
   EXPECT_EQ(entriesOf(archive())["dead.dat"].size(), 12U * 1000 * 1000);
 }
@@ -289,7 +289,7 @@ TEST_F(ProjectTest, ofNothingButZerosCanBeOpenedAgain) {
 TEST_F(ProjectTest, thatCouldNotBeOpenedAgainForItsSizeIsNotWritten) {
   const std::string huge = folder.put("huge.dat", "");
   std::filesystem::resize_file(huge, (std::uintmax_t{4} << 30) + 1);  // takes no room
-  std::string why;
+  Message why;
   EXPECT_EQ(writeZip(archive(), {folder.put("tomodoc.xml", ""), huge}, why), 1);
   EXPECT_THAT(console.error(), HasSubstr("more than the 4294 MB that can be opened again"));
   EXPECT_FALSE(QFile::exists(QString::fromStdString(archive())));

@@ -56,7 +56,7 @@ class ProjectTest : public ::testing::Test {
   /// The entries of an archive by name.
   std::map<std::string, std::string> entriesOf(const std::string& path) {
     const TestFolder extracted;
-    std::string why;
+    Message why;
     EXPECT_EQ(readZip(path, extracted.path() + "/", why), 0) << why;
     std::map<std::string, std::string> entries;
     const QStringList names =
@@ -71,7 +71,7 @@ class ProjectTest : public ::testing::Test {
     const TestFolder loose;
     std::vector<std::string> files;
     for (const auto& [entry, bytes] : entries) files.push_back(loose.put(entry, bytes));
-    std::string why;
+    Message why;
     EXPECT_EQ(writeZip(folder.file(name), files, why), 0) << why;
     return folder.file(name);
   }
