@@ -270,9 +270,14 @@ TEST_F(Projects, doNotChangeInWhichByteOrderShotsAreRead) {
 
 TEST_F(Projects, giveWayToANewSurvey) {
   saveAs(path("line.tvsk"));
+  const QString title = window->windowTitle();
   dialogs.expectAndCancel();  // which shot files?
   trigger("actionNew");
-  EXPECT_TRUE(document().ttArray.empty());
+  EXPECT_EQ(document().ttArray.size(), 3U);
+  EXPECT_EQ(window->windowTitle(), title) << "none: the project stays";
+  dialogs.expectFiles(QStringLiteral("Open Seismic Trace"), {shotFile("new.dat")});
+  trigger("actionNew");
+  EXPECT_EQ(document().ttArray.size(), 1U);
   EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*]"));
 }
 
