@@ -149,9 +149,8 @@ inline void load(cereal::XMLInputArchive& archive, ColorPaletteList& list,
     ColorPalette& palette = read[i].palette;
     const std::string name = palette.name;
     if (const Status repaired = repairPalette(palette); !repaired.ok()) {
-      repairs.push_back(Message::tr("palette %1: %2; it is left out")
-                            .arg(quoted(name))
-                            .arg(repaired.text()));
+      repairs.push_back(
+          Message::tr("palette %1: %2; it is left out").arg(quoted(name)).arg(repaired.text()));
       continue;
     }
     if (palette.name != name) {

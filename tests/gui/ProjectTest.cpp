@@ -186,15 +186,15 @@ TEST_F(Projects, thatAreNoneLeaveTheSurveyAsItIs) {
 }
 
 TEST_F(Projects, tellWhatHadToBePutRightInThem) {
-  document().title = "Line\a7";
+  document().maxVelocity = 1e308;
   saveAs(path("line.tvsk"));
   dialogs.expectFiles(QStringLiteral("Load Project"), {path("line.tvsk")});
   dialogs.expectBox(
       QStringLiteral("Warning"),
       QStringLiteral("Some values of the project cannot be. They were put right or left out."),
-      QStringLiteral("it reads \"Line 7\" now"), QMessageBox::Ok);
+      QStringLiteral("limits of velocity"), QMessageBox::Ok);
   trigger("actionLoad_Project");
-  EXPECT_EQ(document().title, "Line 7");
+  EXPECT_EQ(document().maxVelocity, 3500.0);
 }
 
 TEST_F(Projects, tellOfShotFilesThatCouldNotBeSaved) {
