@@ -1,133 +1,20 @@
-#include "app/DialogSetGeometry.h"
-#include "app/GeometryTables.h"
-#include "app/SelectCSVDelimiterDialog.h"
-#include "gui/WindowTest.h"
+#include "gui/GeometryDriver.h"
 #include "widgets/LinePlan.h"
-#include "widgets/SpreadsheetView.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
-#include <QPushButton>
 #include <QSpinBox>
-#include <QTabWidget>
-#include <QTest>
 #include <QToolButton>
 #include <algorithm>
-#include <functional>
 
 namespace talvesk {
 namespace {
 
 using ::testing::ElementsAre;
+using testing::Geometry;
+using testing::GeometryDriver;
 using ::testing::HasSubstr;
 using ::testing::SizeIs;
 using testing::TestFolder;
-using testing::WindowTest;
-
-/// The geometry dialog as a user has it before him.
-struct GeometryDriver {
-  explicit GeometryDriver(QWidget& widget) : dialog(widget) {}
-
-  template <typename Widget>
-  Widget& child(const char* name) {
-    auto* found = dialog.findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) throw std::runtime_error(std::string("no widget ") + name);
-    return *found;
-  }
-  void click(const char* button) { child<QPushButton>(button).click(); }
-  SpreadsheetView& geophones() { return child<SpreadsheetView>("geophonesTable"); }
-  SpreadsheetView& shots() {
-    child<QTabWidget>("pages").setCurrentIndex(1);
-    return child<SpreadsheetView>("shotsTable");
-  }
-  void type(SpreadsheetView& table, int row, int column, const QString& text) {
-    table.setCurrentIndex(table.model()->index(row, column));
-    table.setFocus();
-    QTest::keyClicks(&table, text.left(1));
-    // Behind another dialog the window manager may have left the focus anywhere.
-    auto* editor = table.viewport()->findChild<QLineEdit*>();
-    ASSERT_NE(editor, nullptr);
-    QTest::keyClicks(editor, text.mid(1));
-    QTest::keyClick(editor, Qt::Key_Return);
-    QApplication::processEvents();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
-  void paste(SpreadsheetView& table, int row, int column, const QString& text) {
-    QApplication::clipboard()->setText(text);
-    table.setCurrentIndex(table.model()->index(row, column));
-    QTest::keyClick(&table, Qt::Key_V, Qt::ControlModifier);
-  }
-  static QString cell(SpreadsheetView& table, int row, int column) {
-    return table.model()->index(row, column).data().toString();
-  }
-  QString notice() { return child<QLabel>("noticeLabel").text(); }
-  QStringList mistakes() {
-    QStringList texts;
-    auto& list = child<QListWidget>("mistakesList");
-    for (int i = 0; i < list.count(); ++i) texts << list.item(i)->text();
-    return texts;
-  }
-  void ok() { child<QDialogButtonBox>("buttonBox").button(QDialogButtonBox::Ok)->click(); }
-  void cancel() { child<QDialogButtonBox>("buttonBox").button(QDialogButtonBox::Cancel)->click(); }
-
-  QWidget& dialog;
-};
-
-class Geometry : public WindowTest {
- protected:
-  Geometry() { open(); }
-
-  /// What to do with the geometry dialog once it is there; it must end with ok() or cancel().
-  /// \param leaves it ends with cancel() after an edit
-  void edit(std::function<void(GeometryDriver&)> work, bool leaves = false) {
-    dialogs.expect([work = std::move(work)](QWidget& widget) {
-      if (qobject_cast<DialogSetGeometry*>(&widget) == nullptr) {
-        ADD_FAILURE() << widget.windowTitle().toStdString();
-        widget.close();
-        return;
-      }
-      GeometryDriver driver(widget);
-      work(driver);
-    });
-    if (leaves) expectToLeave();
-    action("actionGeometry").trigger();
-  }
-  void expectToLeave() {
-    dialogs.expectBox("Set survey geometry - Dialog", "The geometry has been edited.", "",
-                      QMessageBox::Yes);
-  }
-  void expectSeparator(int entry) {
-    dialogs.expect([entry](QWidget& widget) {
-      auto* dialog = qobject_cast<SelectCSVDelimiterDialog*>(&widget);
-      ASSERT_NE(dialog, nullptr) << widget.windowTitle().toStdString();
-      auto* box = dialog->findChild<QComboBox*>();
-      EXPECT_EQ(dialog->windowTitle(), "Select CSV Separator");
-      ASSERT_EQ(box->count(), 3);
-      EXPECT_EQ(box->itemText(0) + box->itemText(1) + box->itemText(2), "(blank space);,");
-      box->setCurrentIndex(entry);
-      dialog->accept();
-    });
-  }
-  void expectRefused(const QString& details) {
-    dialogs.expect([details](QWidget& widget) {
-      auto* box = qobject_cast<QMessageBox*>(&widget);
-      ASSERT_NE(box, nullptr) << widget.windowTitle().toStdString();
-      EXPECT_EQ(box->text(), "Error Message");
-      EXPECT_EQ(box->informativeText().toStdString(), details.toStdString());
-      box->button(QMessageBox::Ok)->click();
-    });
-  }
-  const std::vector<Point2D>& string(std::size_t index = 0) const {
-    return window->document().goephonesStringSet.at(index);
-  }
-};
 
 TEST_F(Geometry, changesTheSurveyInOneStepAndAllFollows) {
   loadShots(2);
@@ -293,129 +180,6 @@ TEST_F(Geometry, keepsStringsAndTheShotsThatUseThem) {
   EXPECT_EQ(string().back().x, 40.0);
   EXPECT_EQ(window->document().ttArray[0].indexStesa, 0);
   EXPECT_EQ(window->document().ttArray[1].indexStesa, 0);
-}
-
-TEST_F(Geometry, savesAndLoadsFilesWithEverySeparator) {
-  loadShots(2);
-  for (int entry = 0; entry < 3; ++entry) {
-    const std::string between = std::string(" ;,").substr(static_cast<std::size_t>(entry), 1);
-    const std::string name = home.file("line" + std::to_string(entry));
-    dialogs.expect([&](QWidget& widget) {
-      GeometryDriver user(widget);
-      user.click("saveGeophonesButton");
-      user.child<QLineEdit>("firstEdit").setText("0");
-      user.child<QLineEdit>("spacingEdit").setText("5");
-      user.click("autofillButton");
-      EXPECT_EQ(user.cell(user.geophones(), 11, GeophoneTable::kX), "55");
-      user.click("loadGeophonesButton");
-      EXPECT_EQ(user.cell(user.geophones(), 11, GeophoneTable::kX), "32");
-      user.click("saveShotsButton");
-      user.type(user.shots(), 1, ShotTable::kX, "99");
-      user.click("loadShotsButton");
-      EXPECT_EQ(user.cell(user.shots(), 1, ShotTable::kX), "13");
-      user.ok();
-    });
-    dialogs.expectFiles("Save Geometry", {QString::fromStdString(name)});
-    expectSeparator(entry);
-    dialogs.expectFiles("Open Geometry", {QString::fromStdString(name + ".csv")});
-    expectSeparator(entry);
-    dialogs.expectFiles("Save Geometry", {QString::fromStdString(name + ".CSV")});
-    expectSeparator(entry);
-    dialogs.expectFiles("Open Geometry", {QString::fromStdString(name + ".CSV.csv")});
-    expectSeparator(entry);
-    action("actionGeometry").trigger();
-    EXPECT_THAT(TestFolder::get(name + ".csv"), HasSubstr("10" + between + "0\n12" + between));
-    EXPECT_EQ(
-        TestFolder::get(name + ".CSV.csv"),
-        "shot_id_1" + between + "9" + between + "0\nshot_id_2" + between + "13" + between + "0\n");
-    EXPECT_EQ(string().back().x, 32.0);
-  }
-  EXPECT_THAT(console.out(), HasSubstr("LOADED\nTo be updated: 2\nSetting 1\nSetting 2\n"));
-}
-
-TEST_F(Geometry, rejectsFilesThatDoNotFit) {
-  loadShots(2);
-  std::string geophones;
-  for (int i = 0; i < 12; ++i) geophones += std::to_string(i) + ";1\n";
-  const struct {
-    bool shots;
-    std::string text;
-    int separator;
-    const char* details;
-  } kCases[] = {
-      {false, geophones.substr(0, geophones.size() - 5), 1, "Invalid geometry file. 11"},
-      {false, geophones + "12;1\n", 1, "Invalid geometry file. 13"},
-      {false, geophones, 2, "Invalid geometry file. 12"},
-      {false, std::string(300, '1'), 1, "Invalid geometry file. 0"},
-      {true, "shot_id_1;1;2\n", 1, "Invalid shot file. 1"},
-      {true, "shot_id_1;1;2\nshot_id_2;1\n", 1, "Invalid shot file. 2"},
-      {true, "shot_id_1;1;2\nshot_id_2;1;2\n", 0, "Invalid shot file. 0"},
-  };
-  for (const auto& [shots, text, separator, details] : kCases) {
-    SCOPED_TRACE(details);
-    const std::string path = home.put("line.csv", text);
-    const bool ofShots = shots;
-    dialogs.expect([ofShots](QWidget& widget) {
-      GeometryDriver user(widget);
-      user.click(ofShots ? "loadShotsButton" : "loadGeophonesButton");
-      EXPECT_EQ(user.cell(user.geophones(), 0, GeophoneTable::kX), "10");
-      EXPECT_EQ(user.cell(user.shots(), 0, ShotTable::kX), "9");
-      EXPECT_FALSE(user.notice().isEmpty()) << "the count alone tells nobody what to do";
-      user.cancel();
-    });
-    dialogs.expectFiles("Open Geometry", {QString::fromStdString(path)});
-    expectSeparator(separator);
-    expectRefused(details);
-    action("actionGeometry").trigger();
-  }
-}
-
-TEST_F(Geometry, tellsWhatOfAFileItSkippedAndTookForZero) {
-  loadShots(1);
-  std::string text = "\xEF\xBB\xBFx (m);z (m)\n";
-  for (int i = 0; i < 12; ++i) text += std::to_string(i) + (i == 4 ? ";low\n" : ";1\n");
-  const std::string path = home.put("line.csv", text);
-  QString notice;
-  dialogs.expect([&notice](QWidget& widget) {
-    GeometryDriver user(widget);
-    user.click("loadGeophonesButton");
-    notice = user.notice();
-    user.ok();
-  });
-  dialogs.expectFiles("Open Geometry", {QString::fromStdString(path)});
-  expectSeparator(1);
-  dialogs.expect([](QWidget& widget) {
-    auto* box = qobject_cast<QMessageBox*>(&widget);
-    ASSERT_NE(box, nullptr) << widget.windowTitle().toStdString();
-    EXPECT_EQ(box->icon(), QMessageBox::Warning);
-    EXPECT_THAT(box->text().toStdString(), HasSubstr("of line.csv"));
-    EXPECT_EQ(box->informativeText(), "line 6: \"low\"");
-    box->button(QMessageBox::Ok)->click();
-  });
-  action("actionGeometry").trigger();
-  EXPECT_EQ(notice,
-            "Geophones loaded from line.csv. The first line, \"x (m);z (m)\", was taken for a "
-            "heading and skipped.");
-  EXPECT_EQ(string()[3], (Point2D{3, 1}));
-  EXPECT_EQ(string()[4], (Point2D{4, 0}));
-}
-
-TEST_F(Geometry, leavesFilesAloneWhenTheSeparatorIsNotChosen) {
-  loadShots(1);
-  dialogs.expect([](QWidget& widget) {
-    GeometryDriver user(widget);
-    user.click("saveGeophonesButton");
-    user.click("loadGeophonesButton");
-    user.cancel();
-  });
-  const std::string path = home.put("line.csv", "keep\n");
-  dialogs.expectFiles("Save Geometry", {QString::fromStdString(home.file("new"))});
-  dialogs.expectAndCancel();
-  dialogs.expectFiles("Open Geometry", {QString::fromStdString(path)});
-  dialogs.expectAndCancel();
-  action("actionGeometry").trigger();
-  EXPECT_FALSE(QFile::exists(QString::fromStdString(home.file("new.csv"))));
-  EXPECT_EQ(TestFolder::get(path), "keep\n");
 }
 
 TEST_F(Geometry, makesShotsOfSWavePairsWhichArePickedOnTheirDifference) {
