@@ -1,6 +1,6 @@
 #!/bin/sh
-# Inverts every travel-time file of a folder and prints one line per file: picks used, RMSE in
-# milliseconds and in percent. Section pictures and results go to the second folder.
+# Inverts every travel-time file of a folder and prints one line per file: picks used, and the RMS misfit of
+# the section in milliseconds and in percent. Section pictures and results go to the second folder.
 #
 #   sh survey-table.sh PICKS RESULTS
 #
@@ -22,7 +22,7 @@ value() {
 }
 
 failures=0
-printf '%-30s %8s %10s %8s\n' file picks 'RMSE [ms]' '[%]'
+printf '%-30s %8s %10s %8s\n' file picks 'RMS [ms]' '[%]'
 for file in "$picks"/*.otte "$picks"/*.csv "$picks"/*.xyz "$picks"/*.txt; do
   [ -f "$file" ] || continue
   name=$(basename "$file")
@@ -32,6 +32,6 @@ for file in "$picks"/*.otte "$picks"/*.csv "$picks"/*.xyz "$picks"/*.txt; do
     continue
   fi
   printf '%-30s %8s %10.6s %8.6s\n' "$name" "$(value "$results/$name.json" picks_used)" \
-    "$(value "$results/$name.json" rmse_ms)" "$(value "$results/$name.json" rms_percent)"
+    "$(value "$results/$name.json" section_rmse_ms)" "$(value "$results/$name.json" section_rms_percent)"
 done
 [ "$failures" -eq 0 ]
