@@ -53,7 +53,8 @@ def main():
             english = original.stem.endswith("_en")
             copy = pathlib.Path(folder) / original.name
             shutil.copy(original, copy)
-            command = [lupdate, "-silent", "-locations", "none", "-no-obsolete"]
+            command = [lupdate, "-silent", "-locations", "none", "-no-obsolete",
+                       "-extensions", "cpp,h,inl,ui"]
             command += ["-pluralonly"] if english else []
             subprocess.run(command + [str(root / "src"), "-ts", str(copy)], check=True,
                            stderr=subprocess.DEVNULL)
