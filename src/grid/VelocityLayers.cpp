@@ -1,6 +1,5 @@
 #include "grid/VelocityLayers.h"
 
-#include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
 
 #include <cmath>
@@ -15,15 +14,17 @@ constexpr double kBottomVelocity = 2500.0;  // m/s
 constexpr double kBottomGap = 0.01;         // metres: keeps a bottom apart from the next top
 
 /// Empty when the velocity is positive and finite in every row, else what is wrong.
-std::string invalidVelocity(const GridSize& size, const Splines::Spline& velocityOfDepth) {
+Message invalidVelocity(const GridSize& size, const Splines::Spline& velocityOfDepth) {
   for (std::uint32_t row = 0; row < size.righe; ++row) {
     const double depth = row * size.aLato;
     const double velocity = velocityOfDepth(depth);
     if (velocity > 0.0 && std::isfinite(velocity)) continue;
-    return "The layers give a velocity of " + formatDouble(velocity) + " m/s at a depth of " +
-           formatDouble(depth) +
-           " m, which is no velocity of the ground. Let the layers cover the whole depth of the "
-           "grid, or make the change between them gentler.";
+    return Message::tr(
+               "The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of "
+               "the ground. Let the layers cover the whole depth of the grid, or make the change "
+               "between them gentler.")
+        .arg(velocity)
+        .arg(depth);
   }
   return {};
 }
@@ -79,7 +80,7 @@ Status checkLayers(const GridSize& size, const std::vector<VelocityLayer>& layer
                     "initial depth, and that not negative."));
   }
   try {
-    const std::string problem = invalidVelocity(size, layerSpline(accepted));
+    const Message problem = invalidVelocity(size, layerSpline(accepted));
     return problem.empty() ? Status() : Status::failure(problem);
   } catch (const std::exception& error) {
     return Status::failure(Message::tr("The layers make no velocity model. Order them by depth, "

@@ -118,7 +118,7 @@ Status parseRecords(std::string_view bytes, const std::string& name, const std::
     if (cursor.line() == 1 && isHeading(fields)) {
       read.remarks.skipHeading(line);
     } else if (!readFields(fields, cursor.line(), read)) {
-      return refused(name, cursor.line(), "a number is out of range or not finite");
+      return refused(name, cursor.line(), Message::tr("a number is out of range or not finite"));
     }
   }
   while (!read.records.empty() && read.records.back().empty()) read.records.pop_back();

@@ -1,10 +1,12 @@
 #pragma once
 
 // How palettes are laid out in an XML archive, alone in a file or as a list in a project. Included
-// by the sources that read or write such archives; it throws what the archive throws.
+// by the sources that read or write such archives; it throws what the archive throws, and XmlError
+// for a value.
 
 #include "base/PlainText.h"
 #include "base/TextNumber.h"
+#include "io/XmlReader.h"
 #include "view/ColorPalette.h"
 #include "view/PaletteRepair.h"
 
@@ -48,7 +50,7 @@ void getNumber(cereal::XMLInputArchive& archive, const char* key, Number& value,
   archive(cereal::make_nvp(key, text));
   Number read{};
   if (parse(text, read) != NumberError::kNone) {
-    throw cereal::Exception(std::string("the value of ") + key + " is not a number it can hold");
+    throw XmlError(Message::tr("the value of %1 is not a number it can hold").arg(key));
   }
   value = read;
 }
@@ -120,7 +122,8 @@ inline void load(cereal::XMLInputArchive& archive, ColorPalette& palette) {
   palettes::Unchecked read;
   load(archive, read);
   if (const Status repaired = repairPalette(read.palette); !repaired.ok()) {
-    throw cereal::Exception("palette " + quoted(read.palette.name) + ": " + repaired.message());
+    throw XmlError(
+        Message::tr("palette %1: %2").arg(quoted(read.palette.name)).arg(repaired.text()));
   }
   palette = std::move(read.palette);
 }
@@ -142,7 +145,7 @@ inline void load(cereal::XMLInputArchive& archive, ColorPaletteList& list,
   palettes::get(archive, "n_palettes", count);
   palettes::get(archive, "curr_palette", current);
   archive(cereal::make_nvp("palettes", read));
-  if (read.empty()) throw cereal::Exception("there are no palettes in it");
+  if (read.empty()) throw XmlError(Message::tr("there are no palettes in it"));
   std::vector<ColorPalette> fit;
   std::size_t currentFit = read.size();
   for (std::size_t i = 0; i < read.size(); ++i) {

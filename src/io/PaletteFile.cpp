@@ -35,11 +35,11 @@ Status toldAsUnread(const std::string& path, Status status) {
 }
 
 /// Whether a file could be begun there. Writing the whole of it may still fail.
-bool canOpen(const std::string& path, std::string& reason) {
+bool canOpen(const std::string& path, Message& reason) {
   const QString name = QString::fromStdString(path);
   const QFileInfo existing(name);
   if (existing.exists() && !existing.isFile()) {
-    reason = "it is not a regular file";
+    reason = Message::tr("it is not a regular file");
     return false;
   }
   QSaveFile file(name);
@@ -69,6 +69,8 @@ Status parsePalette(std::string_view text, const std::string& name, ColorPalette
     std::istringstream stream{std::string(text)};
     cereal::XMLInputArchive archive(stream);
     load(archive, palette);
+  } catch (const XmlError& error) {
+    return Status::failure(Message::tr("%1 is no palette file: %2").arg(name).arg(error.reason));
   } catch (const std::exception& error) {
     return Status::failure(Message::tr("%1 is no palette file: %2").arg(name).arg(error.what()));
   }
@@ -76,7 +78,7 @@ Status parsePalette(std::string_view text, const std::string& name, ColorPalette
 }
 
 Status savePalette(const std::string& path, const ColorPalette& palette) {
-  std::string reason;
+  Message reason;
   if (!canOpen(path, reason)) {
     return toldAsUnsaved("opening palette ", path,
                          Status::failure(Message::tr("Cannot write %1: %2").arg(path).arg(reason)));

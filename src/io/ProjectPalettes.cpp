@@ -59,6 +59,8 @@ int readPalettes(const std::string& path, ColorPaletteList& palettes, std::vecto
     cereal::XMLInputArchive archive(stream);
     load(archive, palettes, repairs);
     return 0;
+  } catch (const XmlError& error) {
+    return failReading(error.reason, why);
   } catch (const std::exception& error) {
     return failReading(error.what(), why);
   }

@@ -68,7 +68,8 @@ Number numberOf(std::string_view text, std::string_view element) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   const std::string_view rest = text.substr(static_cast<std::size_t>(end - text.data()));
   if (error != std::errc{} || rest.find_first_not_of(" \t\r\n") != std::string_view::npos) {
-    throw XmlError("\"" + std::string(element) + "\" is not a number that it can hold");
+    throw XmlError(
+        Message::tr("\"%1\" is not a number that it can hold").arg(std::string(element)));
   }
   return value;
 }
@@ -79,7 +80,7 @@ inline bool truthOf(std::string_view text, std::string_view element) {
   if (first != std::string_view::npos) text = text.substr(first, last - first + 1);
   if (text == "true" || text == "1") return true;
   if (text == "false" || text == "0") return false;
-  throw XmlError("\"" + std::string(element) + "\" is neither true nor false");
+  throw XmlError(Message::tr("\"%1\" is neither true nor false").arg(std::string(element)));
 }
 
 template <typename Record>
@@ -131,7 +132,7 @@ class Match {
   void operator()(const char* name, T& value) {
     const std::uint64_t bit = std::uint64_t{1} << mIndex++;
     if (mTaken || mReader.name() != name) return;
-    if ((mFound & bit) != 0) throw XmlError(std::string("\"") + name + "\" is there twice");
+    if ((mFound & bit) != 0) throw XmlError(Message::tr("\"%1\" is there twice").arg(name));
     mTaken = true;
     mFound |= bit;
     read(mReader, value);
@@ -156,7 +157,7 @@ class Gaps {
 
   template <typename T>
   void operator()(const char* name, T&) {
-    if (isMissing()) throw XmlError(std::string("\"") + name + "\" is missing");
+    if (isMissing()) throw XmlError(Message::tr("\"%1\" is missing").arg(name));
   }
   template <typename T>
   void optional(const char* name, T&) {
