@@ -11,9 +11,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QLocale>
+#include <QScreen>
 #include <QSettings>
 #include <QShortcut>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 namespace talvesk {
@@ -108,11 +110,21 @@ void GuideWindow::connectActions() {
   });
 }
 
+/// With its frame, which window managers do not see to when a window comes beside a dialog.
+void GuideWindow::keepOnScreen() {
+  const QRect there = screen()->availableGeometry();
+  const QRect frame = frameGeometry();
+  const int x = std::max(std::min(frame.x(), there.right() - frame.width()), there.left());
+  const int y = std::max(std::min(frame.y(), there.bottom() - frame.height()), there.top());
+  if (QPoint(x, y) != frame.topLeft()) move(x, y);
+}
+
 bool GuideWindow::open(const QString& page) {
   const QString file = mLocate(page);
   if (file.isEmpty()) return false;
   mUi->browser->open(file);
   show();
+  keepOnScreen();
   followModalWindow();
   raise();
   activateWindow();

@@ -41,6 +41,7 @@ class GuideWindow : public QMainWindow {
   void retranslate();
   void restore();
   void remember();
+  void keepOnScreen();
   void followModalWindow();
   void pageChanged();
   void search();

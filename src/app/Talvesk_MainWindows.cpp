@@ -156,6 +156,10 @@ void Talvesk_MainWindows::connectViews() {
   mCursorLabel->setMinimumWidth(1);  // a long text must not widen the window
   // What was read in one view says nothing about another.
   connect(mUi->tabWidget, &QTabWidget::currentChanged, mCursorLabel, &QLabel::clear);
+  mMisfitLabel = new QLabel(this);
+  mMisfitLabel->setObjectName(QStringLiteral("misfitLabel"));
+  mMisfitLabel->setMinimumWidth(1);
+  mUi->statusBar->addPermanentWidget(mMisfitLabel);
   mUi->statusBar->addPermanentWidget(mCursorLabel);
 }
 

@@ -32,6 +32,9 @@ class QMenu;
 
 namespace talvesk {
 
+class smoothingDialog;
+struct GridSettings;
+
 namespace Ui {
 class Talvesk_MainWindows;
 }
@@ -280,6 +283,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void clearDocument();
   void documentChanged();
   void documentModified();
+  void refreshMisfit();
   void refreshTitle();
   void refreshCommands();
   void refreshGeometryCommands();
@@ -330,6 +334,9 @@ class Talvesk_MainWindows : public QMainWindow {
   void showFilteredCopies();
 
   // Tomography
+  bool isPresentGrid(const SurveyProfile& profile, const GridSettings& settings) const;
+  bool askForSameGrid();
+  Status smoothBeside(const smoothingDialog& dialog);
   bool makeGrid();
   TomographyResult runInversionBeside(const TomographyParameters& parameters);
   void showInversion(const TomographyResult& result);
@@ -374,6 +381,7 @@ class Talvesk_MainWindows : public QMainWindow {
   bool mCloseAfterInversion = false;
   QComboBox* mShotChooser = nullptr;
   QLabel* mCursorLabel = nullptr;
+  QLabel* mMisfitLabel = nullptr;
   std::unique_ptr<GuideWindow> mGuide;  ///< once it was asked for
 };
 

@@ -211,7 +211,8 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
     if (hasPicks(mDocument) && !mayLoseChanges()) return;
     Losses losses;
     losses.model = cost.model;
-    losses.startingModel = cost.survey && cost.model == ModelLoss::kGrid;
+    losses.startingModel =
+        cost.survey && (cost.model == ModelLoss::kGrid || mDocument.grid == nullptr);
     losses.interpretation =
         isInterpreted(mInterpretation) || (cost.survey && hasMarks(mInterpretation.ttLayer));
     if (!mayLose(this, mDocument, losses)) return;

@@ -1,3 +1,4 @@
+#include "app/InversionTexts.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
@@ -5,12 +6,18 @@
 #include "app/gridDialog.h"
 #include "app/select_speed_Dialog.h"
 #include "app/smoothingDialog.h"
+#include "grid/GridBuilder.h"
+#include "model/Residuals.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/GridSetup.h"
+#include "tomo/InversionCopy.h"
 #include "ui_Talvesk_MainWindows.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QStatusBar>
+#include <QThread>
+#include <memory>
 
 // The commands that make and change the model of the ground: grid, starting model, smoothing.
 
@@ -35,6 +42,7 @@ bool Talvesk_MainWindows::makeGrid() {
   }
   gridDialog dialog(mDocument, profile, settings, searchThreads(), this);
   while (dialog.exec() == QDialog::Accepted) {
+    if (isPresentGrid(profile, dialog.settings()) && !askForSameGrid()) return true;
     const Status status = whileWaiting([&] {
       Status built = setUpGrid(mDocument, dialog.settings(), mLog);
       if (built.ok()) modelChanged();
@@ -53,6 +61,23 @@ bool Talvesk_MainWindows::makeGrid() {
   return false;
 }
 
+/// Whether a grid of these settings would have the cells that there are.
+bool Talvesk_MainWindows::isPresentGrid(const SurveyProfile& profile,
+                                        const GridSettings& settings) const {
+  if (mDocument.grid == nullptr) return false;
+  const GridSize wanted =
+      gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);
+  const GridSize& present = mDocument.grid->geometry().size();
+  return wanted.righe == present.righe && wanted.col == present.col && wanted.nV == present.nV &&
+         wanted.aLato == present.aLato;
+}
+
+/// Leaving a dialog as it came changes nothing, unless that is wanted.
+bool Talvesk_MainWindows::askForSameGrid() {
+  return askYesNo(this, tr("Warning"), tr("The grid has these cells already."),
+                  tr("Do you want to build it anew, with the default velocities?"), false);
+}
+
 void Talvesk_MainWindows::on_actionDefine_model_velocity_triggered() {
   logSlot(__func__);
   if (select_speed_Dialog(mDocument, this).exec() != QDialog::Accepted) return;
@@ -66,18 +91,38 @@ void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
   smoothingDialog dialog(
       mDocument.has_tomographic_info ? SmoothingType::kRayBased : SmoothingType::kUniform, this);
   if (dialog.exec() != QDialog::Accepted) return;
-  const Status status = whileWaiting([&] {
-    Status smoothed =
-        smoothGrid(mDocument, dialog.type(), dialog.radius(), dialog.symmetric(), mLog);
-    if (smoothed.ok()) modelChanged();
-    return smoothed;
-  });
+  const Status status = smoothBeside(dialog);
   if (!status.ok()) {
     tellFailure(this, mLog, tr("The grid could not be smoothed."), status);
     return;
   }
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
-  statusBar()->showMessage(tr("The velocities of the grid are smoothed."), kMessageTime);
+  statusBar()->showMessage(tr("The velocities of the grid are smoothed.") + QLatin1Char(' ') +
+                               sectionMisfitText(sectionMisfitOf(mDocument)),
+                           kMessageTime);
+}
+
+/// Tracing the smoothed section takes as long as a pass of an inversion: a thread works on a copy
+/// while the window goes on drawing itself.
+Status Talvesk_MainWindows::smoothBeside(const smoothingDialog& dialog) {
+  const WaitCursor waiting;
+  TomoDocument copy = inversionCopy(mDocument);
+  Status status;
+  const std::unique_ptr<QThread> thread(QThread::create([&] {
+    status = smoothGrid(copy, dialog.type(), dialog.radius(), dialog.symmetric(), mLog);
+  }));
+  QEventLoop loop;
+  connect(thread.get(), &QThread::finished, &loop, &QEventLoop::quit);
+  statusBar()->showMessage(tr("Smoothing, and tracing rays anew ..."));
+  thread->start();
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  thread->wait();
+  statusBar()->clearMessage();
+  if (!status.ok()) return status;
+  takeInversion(mDocument, copy);
+  mDocument.modified = true;
+  modelChanged();
+  return status;
 }
 
 void Talvesk_MainWindows::refreshTomographyCommands() {

@@ -1,4 +1,6 @@
+#include "app/InversionTexts.h"
 #include "app/Talvesk_MainWindows.h"
+#include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
 #include "refraction/ShotArrivals.h"
@@ -8,6 +10,7 @@
 
 #include <QComboBox>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLocale>
 #include <QUndoStack>
 
@@ -64,7 +67,19 @@ void Talvesk_MainWindows::showFile(int index) {
   refreshPlots();
 }
 
+/// The misfit of the section stays in view, and whether it still is that of the picks it was fitted
+/// to.
+void Talvesk_MainWindows::refreshMisfit() {
+  QString text = sectionMisfitText(sectionMisfitOf(mDocument));
+  if (!text.isEmpty() && picksChangedSince(mDocument)) {
+    text += QLatin1Char(' ') + tr("Picks have changed since.");
+  }
+  mMisfitLabel->setText(text);
+  mMisfitLabel->setVisible(!text.isEmpty());
+}
+
 void Talvesk_MainWindows::refreshTitle() {
+  refreshMisfit();
   QString title = tr("Talvesk 2022.0") + QStringLiteral("[*]");
   for (QString part :
        {QFileInfo(mProject.path()).fileName(), QString::fromStdString(mDocument.title)}) {

@@ -12,7 +12,9 @@
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
+#include "model/Residuals.h"
 #include "refraction/PicksFingerprint.h"
+#include "tomo/LeftOut.h"
 #include "tomo/RayRecomputation.h"
 
 #include <ostream>
@@ -95,7 +97,13 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
   if (options.images.empty() && options.report.empty()) return {};
   prepareDrawing();
   Log log;
-  return document.has_tomographic_info ? recomputeRays(document, log) : Status();
+  if (!document.has_tomographic_info) return {};
+  const Status status = recomputeRays(document, log);
+  for (const std::string& line : describe(leftOut(document, document.excluded), document)) {
+    warn(line);
+  }
+  if (picksChangedSince(document)) warn("picks have changed since the inversion");
+  return status;
 }
 
 /// Where the layered profile is drawn or told.

@@ -203,10 +203,12 @@ int run(const InvertOptions& options) {
   if (!options.quiet) warnAboutChoices(parameters, document);
 
   const TomographyResult result = invert(options, parameters, channels, document, log);
-  if (!result.status.ok()) return failed(result.status.message());
+  // What the completed iterations found is not lost with the one that failed.
+  const int runCode = result.status.ok() ? kDone : failed(result.status.message());
+  if (result.iterationsDone == 0) return runCode;
   const int exitCode = writeResults(options, project, result);
   summarize(options, document, result, *channels.summary);
-  return exitCode;
+  return runCode != kDone ? runCode : exitCode;
 }
 
 }  // namespace talvesk

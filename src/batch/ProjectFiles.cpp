@@ -10,6 +10,8 @@
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "refraction/PicksFingerprint.h"
+#include "tomo/ForwardPass.h"
+#include "tomo/LeftOut.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -49,8 +51,12 @@ void describeInversion(const TomoDocument& document, std::ostream& out) {
   if (document.RMSE_tomography >= 0.0) {
     out << ", last solver pass " << formatDouble(document.RMSE_tomography) << " %";
   }
+  if (document.smoothedResult) out << "; smoothed since";
   if (picksChangedSince(document)) out << "; picks have changed since";
   out << "\n";
+  for (const std::string& line : describe(leftOut(document, findExcluded(document)), document)) {
+    out << "              " << line << "\n";
+  }
 }
 
 /// A window that has the project open asks before it saves over what is written now.
@@ -78,7 +84,7 @@ Status readProject(const std::string& path, LoadedProject& project) {
   }
   for (const std::string& repair : reader.repairs()) warn(path + ": " + repair);
   for (const std::string& warning : reader.warnings()) {
-    warn(path + ": error while loading traces: " + warning);
+    warn(path + ": " + warning);
   }
   return {};
 }

@@ -31,7 +31,6 @@ void addRefract(CLI::App& app, RefractOptions& options) {
   CLI::Option* json = addPath(command, "--json", options.json,
                               "Write the results as JSON; '-' is standard output, and then all "
                               "diagnostics go to standard error");
-  json->required();
   CLI::Option* table = addPath(command, "--table", options.table,
                                "Write a text line per receiver: x, depths (metres), tV, tG "
                                "(seconds) and velocities (m/s) of both refractors");
@@ -50,6 +49,10 @@ void addRefract(CLI::App& app, RefractOptions& options) {
                 "Print the messages of the readers, the picker and the interpretation")
       ->excludes(quiet);
   command.final_callback([inputs, shots, &options] {
+    if (options.json.empty() && options.table.empty() && options.images.empty() &&
+        options.project.empty() && options.report.empty()) {
+      throw CLI::RequiredError("one of --json, --table, --image, --project and --report");
+    }
     sortInputs(*inputs, shots.anyGiven(), options.input, options.shots.files);
     shots.check(options.shots);
   });

@@ -92,6 +92,7 @@ QString FigureWords::sectionCaption(const SectionScene& scene, double verticalEx
   }
   if (scene.misfit.count > 0) parts += misfit(scene.misfit);
   if (scene.picksChanged) parts += picksChanged();
+  if (scene.smoothed) parts += tr("smoothed since the inversion");
   if (scene.lastPassPercent >= 0.0) parts += lastPassMisfit(scene.lastPassPercent);
   if (std::abs(verticalExaggeration - 1.0) > 1e-9) {
     QString factor = qt(formatDouble(verticalExaggeration, 4));

@@ -212,6 +212,9 @@ Status addTravelTimes(ReportBuilder& builder) {
           ? ReportWords::tr("Picks of every shot")
           : ReportWords::tr("Picks of every shot and their misfit, computed minus measured"),
       shotTable(document, residuals));
+  if (!residuals.empty() && picksChangedSince(document)) {
+    builder.paragraph(ReportWords::tr("Picks have changed since the inversion."));
+  }
   return {};
 }
 

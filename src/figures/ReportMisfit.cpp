@@ -2,6 +2,7 @@
 #include "figures/ReportBuilder.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
+#include "tomo/LeftOut.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,9 +32,13 @@ void addSectionMisfit(ReportBuilder& builder, const SectionMisfit& misfit) {
                                                     .arg(misfit.maxShot + 1)
                                                     .arg(misfit.maxReceiver + 1)}};
   }
-  if (!document.excluded.empty()) {
-    facts.rows.push_back({ReportWords::tr("Shots and receivers left out, beyond the grid"),
-                          QString::number(document.excluded.size())});
+  if (const LeftOut left = leftOut(document, document.excluded); left.any()) {
+    facts.rows.push_back({ReportWords::tr("Left out"),
+                          ReportWords::tr("Shots: %1; geophones: %2; picks: %3 of %4")
+                              .arg(left.shotsBeyond.size() + left.shotsWithoutString.size())
+                              .arg(left.geophoneCount())
+                              .arg(left.picks)
+                              .arg(left.of)});
   }
   builder.table(ReportWords::tr("Misfit of the section, along fresh rays"), facts);
   if (document.smoothedResult) {

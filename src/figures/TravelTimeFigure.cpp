@@ -36,7 +36,7 @@ class TravelTimeSheet {
 
  private:
   void setScales(double width, double height);
-  std::string caption(const SectionMisfit& misfit) const;
+  std::string caption(const SectionMisfit& misfit, bool picksChanged) const;
 
   TravelTimeFigureOptions mOptions;
   TravelTimeCurves mCurves;
@@ -60,7 +60,7 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
   }
   mLayout.computedTimes = mCurves.computedTimes;
   mLook.joined = mCurves.computedTimes == 0;
-  mCaption = caption(misfitOfTimes(document));
+  mCaption = caption(misfitOfTimes(document), picksChangedSince(document));
   mPlot.addAxis(QwtPlot::xBottom, FigureWords::distanceAxis());
   mPlot.addAxis(QwtPlot::yLeft, FigureWords::timeAxis());
   using namespace travel_time_items;
@@ -69,12 +69,13 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
   mPlot.add(shots(mCurves.curves, mLook));
 }
 
-std::string TravelTimeSheet::caption(const SectionMisfit& misfit) const {
+std::string TravelTimeSheet::caption(const SectionMisfit& misfit, bool picksChanged) const {
   QStringList parts{FigureWords::shots(mCurves.curves.size()),
                     FigureWords::picks(mLayout.picks.size())};
   if (mLayout.computedTimes > 0) {
     parts += FigureWords::computedTimes(mLayout.computedTimes);
     if (misfit.count > 0) parts += FigureWords::misfit(misfit);
+    if (picksChanged) parts += FigureWords::picksChanged();
   }
   return FigureWords::joined(parts).toStdString();
 }

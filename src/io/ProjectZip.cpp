@@ -74,8 +74,10 @@ std::uint64_t roomIn(const std::string& folder) {
 
 /// A number of bytes as people say it.
 Message sizeText(std::uint64_t bytes) {
-  constexpr std::uint64_t kMega = 1000 * 1000;
-  return bytes < kMega ? Message::tr("%1 bytes").arg(bytes)
+  constexpr std::uint64_t kKilo = 1000;
+  constexpr std::uint64_t kMega = 1000 * kKilo;
+  if (bytes < kKilo) return Message::tr("%1 bytes").arg(bytes);
+  return bytes < kMega ? Message::tr("%1 kB").arg(bytes / kKilo)
                        : Message::tr("%1 MB").arg(bytes / kMega);
 }
 

@@ -111,7 +111,7 @@ int projectReader::readResult_XML(const std::string& path, TomoDocument& documen
     if (status.ok()) return 0;
     why = joined(kResultMember, status.text());
   }
-  mWarnings.push_back(
+  mRepairs.push_back(
       Message::tr("%1; the coverage of the last inversion and its figures are not known")
           .arg(std::move(why)));
   return 1;

@@ -106,7 +106,7 @@ Status finish(TomoDocument& document, const TomographyParameters& p, const Stopw
   } catch (const std::exception& error) {
     seconds();
     status = Status::failure(
-        Message::tr("The information density could not be computed: %1").arg(error.what()));
+        Message::tr("The last steps of the inversion failed: %1").arg(error.what()));
   }
   document.lastInversion = recordOf(p, result, document);
   return status;

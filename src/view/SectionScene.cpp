@@ -230,6 +230,7 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.shots = eachPlaceOnce(document.shotPoints());
   scene.misfit = sectionMisfitOf(document);
   scene.picksChanged = picksChangedSince(document);
+  scene.smoothed = document.has_tomographic_info && document.smoothedResult;
   if (document.has_tomographic_info) scene.lastPassPercent = document.RMSE_tomography;
   out = std::move(scene);
   return {};

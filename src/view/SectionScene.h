@@ -75,6 +75,7 @@ struct SectionScene {
   std::vector<Point2D> shots;      ///< of all records, ascending x, each place once
   SectionMisfit misfit;            ///< of an inverted section; count 0: none
   bool picksChanged = false;       ///< since the inversion, which knew others
+  bool smoothed = false;           ///< since the inversion
   double lastPassPercent = -1.0;   ///< relative RMS of the solver's last pass; negative: none
 
   /// Lower left and upper right of the drawn cells, geophones and shots; without a grid, of the

@@ -118,7 +118,7 @@ TEST(Refract, saysWhatKeepsItFromAProfile) {
     return text;
   }());
   const Case cases[] = {
-      {"no json", {survey.picks}, 2, "--json is required"},
+      {"no output", {survey.picks}, 2, "one of --json, --table"},
       {"no XY of the family", {survey.picks, "--json", out, "--xy", "0.5"}, 2, "from -4 to 4"},
       {"output on input", {survey.picks, "--json", survey.picks}, 2, "line.otte"},
       {"broken marks", {survey.picks, "--json", out, "--layers", bad}, 1, "bad.csv, line 1"},

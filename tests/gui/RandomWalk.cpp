@@ -214,8 +214,9 @@ int main(int argc, char** argv) {
   window.show();
   QStringList files;
   for (int i = 3; i < argc; ++i) files.append(QString::fromLocal8Bit(argv[i]));
-  window.openFiles(files);
   talvesk::Walk walk(window, static_cast<unsigned>(std::stoul(argv[2])), std::stod(argv[1]));
+  // Loading may ask something, which is for the walk to answer.
+  QTimer::singleShot(0, &window, [&] { window.openFiles(files); });
   const int code = QApplication::exec();
   std::cout << walk.steps() << " steps" << std::endl;
   return code;

@@ -99,6 +99,20 @@ TEST_F(Untouched, layersGoIntoTheGridAgainOnlyWhenTheUserSaysSo) {
   EXPECT_FALSE(document.modified) << "the grid has these layers: there is nothing to ask";
 }
 
+TEST_F(Untouched, gridIsBuiltAgainOnlyWhenTheUserSaysSo) {
+  TomoDocument& document = window->document();
+  const double slowness = 1.0 / 777.0;
+  document.grid->setSlowness(0, slowness);
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    document.modified = false;
+    expectOk();
+    dialogs.expectBox("Warning", "The grid has these cells already.", "build it anew", answer);
+    action("actionGrid").trigger();
+    EXPECT_EQ(document.grid->slowness(0) == slowness, answer == QMessageBox::No);
+    EXPECT_EQ(document.modified, answer == QMessageBox::Yes);
+  }
+}
+
 TEST_F(Untouched, isNoLongerWhatIsChanged) {
   const struct {
     const char* command;

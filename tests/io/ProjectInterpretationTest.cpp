@@ -67,8 +67,8 @@ TEST_F(ProjectTest, losesVelocitiesAndDepthsThatNoGroundHasWithAWord) {
   xml = with(xml, "1520", "1e17");  // the first one is that of the refractor
   LoadedProject back;
   ASSERT_EQ(load(pack("old.tvsk", entries), back), 0) << reader.message();
-  ASSERT_THAT(reader.warnings(), SizeIs(1));
-  EXPECT_THAT(reader.warnings()[0], HasSubstr("refraction.xml: 2 velocities and depths"));
+  ASSERT_THAT(reader.repairs(), SizeIs(1));
+  EXPECT_THAT(reader.repairs()[0], HasSubstr("refraction.xml: 2 velocities and depths"));
   const processingData& results = back.interpretation.refractData;
   EXPECT_THAT(results.cData[0].velocity, ElementsAre(IsNan(), 1510, IsNan()));
   EXPECT_THAT(results.cData[0].depth, ElementsAre(IsNan(), IsNan(), IsNan()));

@@ -178,7 +178,7 @@ TEST_F(ProjectTest, losesCoverageAndFiguresWithAWordWhenTheyDoNotGoWithItsGrid) 
   ASSERT_EQ(save(), 0) << console.error();
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
-  EXPECT_THAT(reader.warnings(), ElementsAre(HasSubstr("result.xml")));
+  EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("result.xml")));
   EXPECT_THAT(back.document.hitCounts, IsEmpty());
   EXPECT_FALSE(back.document.timesOfSection);
   Log log;
