@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Fails when docs/vocabulary.md speaks of what is not in src/.
+"""Fails when docs/vocabulary.md or docs/edits.md speak of what is not in src/.
 
-The last cell of a table row names files below src/; the names in the cell before must be words of these files.
+The last cell of a table row names files below src/, in docs/edits.md each with functions that must be words of
+it. In docs/vocabulary.md the names that the row explains must be words of its files.
 """
 import functools
 import pathlib
@@ -59,7 +60,8 @@ def names_of(cells):
 def main():
     root = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ".")
     found = list(violations(root, "vocabulary.md", names_of))
-    print("\n".join(found) or "the vocabulary speaks of what is there")
+    found += violations(root, "edits.md", lambda cells: None)
+    print("\n".join(found) or "vocabulary and edits speak of what is there")
     return 1 if found else 0
 
 
