@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+// docs/vocabulary.md explains the names.
+
 namespace talvesk {
 
 /// The discretised ground under the line: one slowness per square cell, and the graph on which rays

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <vector>
 
+// docs/vocabulary.md explains the names.
+
 namespace talvesk {
 
 /// The records of the layered interpretation. They sit beside the survey document, are filled by

@@ -18,6 +18,8 @@
 #include <string>
 #include <vector>
 
+// docs/vocabulary.md explains the names.
+
 namespace talvesk {
 
 enum class WaveType : std::int32_t { P = 0, S = 1 };

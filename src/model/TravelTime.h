@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <vector>
 
+// docs/vocabulary.md explains the names.
+
 namespace talvesk {
 
 /// A measured time that was removed or rejected, and a computed time that does not exist, seconds.

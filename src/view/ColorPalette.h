@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+// docs/vocabulary.md explains the names.
+
 namespace talvesk {
 
 /// A colour, components 0 to 1.
