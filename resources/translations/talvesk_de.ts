@@ -789,6 +789,10 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Picks have changed since this was built</source>
         <translation>Picks seit der Erstellung geändert</translation>
     </message>
+    <message>
+        <source>smoothed since the inversion</source>
+        <translation>seit der Inversion geglättet</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -2953,10 +2957,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Die Geschwindigkeitsgrenzen müssen positive Zahlen sein; %1 m/s ist keine.</translation>
     </message>
     <message>
-        <source>The information density could not be computed: %1</source>
-        <translation>Die Informationsdichte konnte nicht berechnet werden: %1</translation>
-    </message>
-    <message>
         <source>its gradient has no colours</source>
         <translation>der Farbverlauf hat keine Farben</translation>
     </message>
@@ -3007,6 +3007,58 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Velocity</source>
         <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Die Schichten ergeben in %2 m Tiefe eine Geschwindigkeit von %1 m/s, die es im Untergrund nicht gibt. Lassen Sie die Schichten die ganze Tiefe des Gitters abdecken, oder machen Sie den Übergang zwischen ihnen sanfter.</translation>
+    </message>
+    <message>
+        <source>a number is out of range or not finite</source>
+        <translation>eine Zahl liegt außerhalb des Bereichs oder ist nicht endlich</translation>
+    </message>
+    <message>
+        <source>the value of %1 is not a number it can hold</source>
+        <translation>der Wert von %1 ist keine Zahl, die dort stehen kann</translation>
+    </message>
+    <message>
+        <source>palette %1: %2</source>
+        <translation>Palette %1: %2</translation>
+    </message>
+    <message>
+        <source>there are no palettes in it</source>
+        <translation>es enthält keine Paletten</translation>
+    </message>
+    <message>
+        <source>palette %1: %2; it is left out</source>
+        <translation>Palette %1: %2; sie wird ausgelassen</translation>
+    </message>
+    <message>
+        <source>the name of palette %1 has control characters; they are blanks now</source>
+        <translation>der Name der Palette %1 enthält Steuerzeichen; sie sind jetzt Leerzeichen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that it can hold</source>
+        <translation>„%1“ ist keine Zahl, die dort stehen kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false</source>
+        <translation>„%1“ ist weder wahr noch falsch</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there twice</source>
+        <translation>„%1“ kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>„%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>The last steps of the inversion failed: %1</source>
+        <translation>Die letzten Schritte der Inversion sind fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
@@ -3983,10 +4035,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>%1 ms, %2 %</translation>
     </message>
     <message>
-        <source>Shots and receivers left out, beyond the grid</source>
-        <translation>Weggelassene Schüsse und Empfänger außerhalb des Gitters</translation>
-    </message>
-    <message>
         <source>Residuals of the picks against the distance from their shot</source>
         <translation>Residuen der Picks über der Entfernung von ihrem Schuss</translation>
     </message>
@@ -4297,6 +4345,18 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
         <translation>Die Abweichung ist der Unterschied zwischen berechneten und gemessenen Zeiten. Die berechneten Zeiten sind die entlang neuer Strahlen durch den Schnitt, wie er gezeichnet ist. RMS ist das quadratische Mittel der Abweichung, in Millisekunden oder in Prozent der gemessenen Zeiten. Die Informationsdichte sagt, wie vollständig Strahlen die Umgebung einer Zelle durchqueren; wo sie gering ist, sind die Geschwindigkeiten durch die Daten schwach gestützt, und unterhalb der tiefsten Strahlen wird der Schnitt nicht gezeichnet. Geschwindigkeiten, die mit der Tiefe abnehmen, und dünne Schichten können den Ersteinsätzen verborgen bleiben.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion.</source>
+        <translation>Die Picks haben sich seit der Inversion geändert.</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Ausgelassen</translation>
+    </message>
+    <message>
+        <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
+        <translation>Schüsse: %1; Geophone: %2; Picks: %3 von %4</translation>
     </message>
 </context>
 <context>
@@ -6132,6 +6192,22 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     <message>
         <source>Left out: %1.</source>
         <translation>Weggelassen: %1.</translation>
+    </message>
+    <message>
+        <source>The grid has these cells already.</source>
+        <translation>Das Gitter hat diese Zellen schon.</translation>
+    </message>
+    <message>
+        <source>Do you want to build it anew, with the default velocities?</source>
+        <translation>Möchten Sie es neu aufbauen, mit den Standardgeschwindigkeiten?</translation>
+    </message>
+    <message>
+        <source>Smoothing, and tracing rays anew ...</source>
+        <translation>Glätten, und Strahlen neu verfolgen ...</translation>
+    </message>
+    <message>
+        <source>Picks have changed since.</source>
+        <translation>Die Picks haben sich seitdem geändert.</translation>
     </message>
 </context>
 <context>

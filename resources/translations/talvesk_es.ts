@@ -789,6 +789,10 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Picks have changed since this was built</source>
         <translation>Los picados han cambiado desde que se construyó este perfil</translation>
     </message>
+    <message>
+        <source>smoothed since the inversion</source>
+        <translation>suavizada desde la inversión</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -2953,10 +2957,6 @@ Defina la posición de los geófonos
         <translation>Los límites de velocidad deben ser números positivos; %1 m/s no lo es.</translation>
     </message>
     <message>
-        <source>The information density could not be computed: %1</source>
-        <translation>No se ha podido calcular la densidad de información: %1</translation>
-    </message>
-    <message>
         <source>its gradient has no colours</source>
         <translation>su degradado no tiene colores</translation>
     </message>
@@ -3007,6 +3007,58 @@ Defina la posición de los geófonos
     <message>
         <source>Velocity</source>
         <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Las capas dan una velocidad de %1 m/s a %2 m de profundidad, que no es una velocidad del terreno. Haga que las capas cubran toda la profundidad de la malla, o suavice el paso de una a otra.</translation>
+    </message>
+    <message>
+        <source>a number is out of range or not finite</source>
+        <translation>un número está fuera de rango o no es finito</translation>
+    </message>
+    <message>
+        <source>the value of %1 is not a number it can hold</source>
+        <translation>el valor de %1 no es un número posible</translation>
+    </message>
+    <message>
+        <source>palette %1: %2</source>
+        <translation>paleta %1: %2</translation>
+    </message>
+    <message>
+        <source>there are no palettes in it</source>
+        <translation>no contiene ninguna paleta</translation>
+    </message>
+    <message>
+        <source>palette %1: %2; it is left out</source>
+        <translation>paleta %1: %2; se omite</translation>
+    </message>
+    <message>
+        <source>the name of palette %1 has control characters; they are blanks now</source>
+        <translation>el nombre de la paleta %1 tiene caracteres de control; ahora son espacios</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that it can hold</source>
+        <translation>«%1» no es un número posible</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false</source>
+        <translation>«%1» no es ni verdadero ni falso</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there twice</source>
+        <translation>«%1» está dos veces</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>falta «%1»</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>The last steps of the inversion failed: %1</source>
+        <translation>Los últimos pasos de la inversión fallaron: %1</translation>
     </message>
 </context>
 <context>
@@ -3983,10 +4035,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>%1 ms, %2 %</translation>
     </message>
     <message>
-        <source>Shots and receivers left out, beyond the grid</source>
-        <translation>Disparos y receptores excluidos, fuera de la malla</translation>
-    </message>
-    <message>
         <source>Residuals of the picks against the distance from their shot</source>
         <translation>Residuos de los picados en función de la distancia a su disparo</translation>
     </message>
@@ -4297,6 +4345,18 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
         <translation>El desajuste es la diferencia entre los tiempos calculados y los medidos. Los tiempos calculados son los que resultan a lo largo de rayos nuevos a través de la sección tal como está dibujada. RMS es la media cuadrática del desajuste, en milisegundos o en porcentaje de los tiempos medidos. La densidad de información dice hasta qué punto los rayos cruzan los alrededores de una celda; donde es baja, los datos apoyan poco las velocidades, y por debajo de los rayos más profundos la sección no se dibuja. Las velocidades que disminuyen con la profundidad y las capas delgadas pueden quedar ocultas a las primeras llegadas.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion.</source>
+        <translation>Los picados han cambiado desde la inversión.</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omitido</translation>
+    </message>
+    <message>
+        <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
+        <translation>Disparos: %1; geófonos: %2; picados: %3 de %4</translation>
     </message>
 </context>
 <context>
@@ -6132,6 +6192,22 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Left out: %1.</source>
         <translation>Excluidos: %1.</translation>
+    </message>
+    <message>
+        <source>The grid has these cells already.</source>
+        <translation>La malla ya tiene estas celdas.</translation>
+    </message>
+    <message>
+        <source>Do you want to build it anew, with the default velocities?</source>
+        <translation>¿Quiere construirla de nuevo, con las velocidades predeterminadas?</translation>
+    </message>
+    <message>
+        <source>Smoothing, and tracing rays anew ...</source>
+        <translation>Suavizando, y trazando los rayos de nuevo ...</translation>
+    </message>
+    <message>
+        <source>Picks have changed since.</source>
+        <translation>Los picados han cambiado desde entonces.</translation>
     </message>
 </context>
 <context>

@@ -789,6 +789,10 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Picks have changed since this was built</source>
         <translation>Les pointés ont changé depuis la construction de ce profil</translation>
     </message>
+    <message>
+        <source>smoothed since the inversion</source>
+        <translation>lissée depuis l&apos;inversion</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -2953,10 +2957,6 @@ Veuillez définir la position des géophones
         <translation>Les limites de vitesse doivent être des nombres positifs&#xa0;; %1 m/s n&apos;en est pas un.</translation>
     </message>
     <message>
-        <source>The information density could not be computed: %1</source>
-        <translation>La densité d&apos;information n&apos;a pas pu être calculée&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>its gradient has no colours</source>
         <translation>son dégradé n&apos;a pas de couleurs</translation>
     </message>
@@ -3007,6 +3007,58 @@ Veuillez définir la position des géophones
     <message>
         <source>Velocity</source>
         <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Les couches donnent une vitesse de %1 m/s à %2 m de profondeur, ce qui n&apos;est pas une vitesse du sol. Faites couvrir aux couches toute la profondeur de la grille, ou adoucissez le passage de l&apos;une à l&apos;autre.</translation>
+    </message>
+    <message>
+        <source>a number is out of range or not finite</source>
+        <translation>un nombre est hors limites ou n&apos;est pas fini</translation>
+    </message>
+    <message>
+        <source>the value of %1 is not a number it can hold</source>
+        <translation>la valeur de %1 n&apos;est pas un nombre possible</translation>
+    </message>
+    <message>
+        <source>palette %1: %2</source>
+        <translation>palette %1 : %2</translation>
+    </message>
+    <message>
+        <source>there are no palettes in it</source>
+        <translation>il ne contient aucune palette</translation>
+    </message>
+    <message>
+        <source>palette %1: %2; it is left out</source>
+        <translation>palette %1 : %2 ; elle est laissée de côté</translation>
+    </message>
+    <message>
+        <source>the name of palette %1 has control characters; they are blanks now</source>
+        <translation>le nom de la palette %1 contient des caractères de contrôle ; ce sont maintenant des espaces</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that it can hold</source>
+        <translation>« %1 » n&apos;est pas un nombre possible</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false</source>
+        <translation>« %1 » n&apos;est ni vrai ni faux</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there twice</source>
+        <translation>« %1 » y est deux fois</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>« %1 » manque</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 ko</translation>
+    </message>
+    <message>
+        <source>The last steps of the inversion failed: %1</source>
+        <translation>Les dernières étapes de l&apos;inversion ont échoué : %1</translation>
     </message>
 </context>
 <context>
@@ -3983,10 +4035,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>%1 ms, %2&#xa0;%</translation>
     </message>
     <message>
-        <source>Shots and receivers left out, beyond the grid</source>
-        <translation>Tirs et récepteurs écartés, au-delà de la grille</translation>
-    </message>
-    <message>
         <source>Residuals of the picks against the distance from their shot</source>
         <translation>Résidus des pointés en fonction de la distance à leur tir</translation>
     </message>
@@ -4297,6 +4345,18 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
         <translation>L&apos;écart est la différence entre temps calculés et mesurés. Les temps calculés sont ceux le long de nouveaux rais à travers la coupe telle qu&apos;elle est dessinée. Le RMS est la moyenne quadratique de l&apos;écart, en millisecondes ou en pourcentage des temps mesurés. La densité d&apos;information dit à quel point les rais traversent les environs d&apos;une cellule&#xa0;; là où elle est faible, les vitesses sont peu étayées par les données, et sous les rais les plus profonds la coupe n&apos;est pas dessinée. Des vitesses qui diminuent avec la profondeur et des couches minces peuvent rester cachées aux premières arrivées.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion.</source>
+        <translation>Les pointés ont changé depuis l&apos;inversion.</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Laissés de côté</translation>
+    </message>
+    <message>
+        <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
+        <translation>Tirs : %1 ; géophones : %2 ; pointés : %3 sur %4</translation>
     </message>
 </context>
 <context>
@@ -6132,6 +6192,22 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Left out: %1.</source>
         <translation>Écartés&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The grid has these cells already.</source>
+        <translation>La grille a déjà ces cellules.</translation>
+    </message>
+    <message>
+        <source>Do you want to build it anew, with the default velocities?</source>
+        <translation>Voulez-vous la reconstruire, avec les vitesses par défaut ?</translation>
+    </message>
+    <message>
+        <source>Smoothing, and tracing rays anew ...</source>
+        <translation>Lissage, et nouveau tracé des rais ...</translation>
+    </message>
+    <message>
+        <source>Picks have changed since.</source>
+        <translation>Les pointés ont changé depuis.</translation>
     </message>
 </context>
 <context>

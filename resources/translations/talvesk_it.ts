@@ -789,6 +789,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Picks have changed since this was built</source>
         <translation>Primi arrivi cambiati dopo la costruzione</translation>
     </message>
+    <message>
+        <source>smoothed since the inversion</source>
+        <translation>smussata dopo l&apos;inversione</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -2953,10 +2957,6 @@ Impostare la posizione dei geofoni
         <translation>I limiti di velocità devono essere numeri positivi; %1 m/s non lo è.</translation>
     </message>
     <message>
-        <source>The information density could not be computed: %1</source>
-        <translation>Non è stato possibile calcolare la densità d&apos;informazione: %1</translation>
-    </message>
-    <message>
         <source>its gradient has no colours</source>
         <translation>il suo gradiente non ha colori</translation>
     </message>
@@ -3007,6 +3007,58 @@ Impostare la posizione dei geofoni
     <message>
         <source>Velocity</source>
         <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Gli strati danno una velocità di %1 m/s alla profondità di %2 m, che non è una velocità del terreno. Si facciano coprire agli strati tutta la profondità della griglia, o si renda più graduale il passaggio tra di essi.</translation>
+    </message>
+    <message>
+        <source>a number is out of range or not finite</source>
+        <translation>un numero è fuori intervallo o non è finito</translation>
+    </message>
+    <message>
+        <source>the value of %1 is not a number it can hold</source>
+        <translation>il valore di %1 non è un numero ammesso</translation>
+    </message>
+    <message>
+        <source>palette %1: %2</source>
+        <translation>tavolozza %1: %2</translation>
+    </message>
+    <message>
+        <source>there are no palettes in it</source>
+        <translation>non contiene tavolozze</translation>
+    </message>
+    <message>
+        <source>palette %1: %2; it is left out</source>
+        <translation>tavolozza %1: %2; è tralasciata</translation>
+    </message>
+    <message>
+        <source>the name of palette %1 has control characters; they are blanks now</source>
+        <translation>il nome della tavolozza %1 ha caratteri di controllo; ora sono spazi</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that it can hold</source>
+        <translation>«%1» non è un numero ammesso</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false</source>
+        <translation>«%1» non è né vero né falso</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there twice</source>
+        <translation>«%1» c&apos;è due volte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>manca «%1»</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>The last steps of the inversion failed: %1</source>
+        <translation>Gli ultimi passi dell&apos;inversione non sono riusciti: %1</translation>
     </message>
 </context>
 <context>
@@ -3983,10 +4035,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>%1 ms, %2 %</translation>
     </message>
     <message>
-        <source>Shots and receivers left out, beyond the grid</source>
-        <translation>Tiri e ricevitori esclusi, oltre la griglia</translation>
-    </message>
-    <message>
         <source>Residuals of the picks against the distance from their shot</source>
         <translation>Residui dei primi arrivi in funzione della distanza dal tiro</translation>
     </message>
@@ -4297,6 +4345,18 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>The misfit is the difference between computed and measured times. The computed times are those along fresh rays through the section as it is drawn. RMS is the root mean square of the misfit, in milliseconds or relative to the measured times in percent. The information density tells how completely rays cross the surroundings of a cell; where it is low, velocities are poorly supported by the data, and below the lowest rays the section is not drawn. Velocities that decrease with depth and thin layers may remain hidden from first arrivals.</source>
         <translation>Lo scarto è la differenza fra tempi calcolati e misurati. I tempi calcolati sono quelli lungo raggi nuovi attraverso la sezione così come è disegnata. RMS è la media quadratica dello scarto, in millisecondi o in percentuale dei tempi misurati. La densità d&apos;informazione dice quanto completamente i raggi attraversano i dintorni di una cella; dove è bassa le velocità sono poco sostenute dai dati, e sotto i raggi più profondi la sezione non è disegnata. Velocità che diminuiscono con la profondità e strati sottili possono restare nascosti ai primi arrivi.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion.</source>
+        <translation>I primi arrivi sono cambiati dopo l&apos;inversione.</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Tralasciati</translation>
+    </message>
+    <message>
+        <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
+        <translation>Tiri: %1; geofoni: %2; primi arrivi: %3 di %4</translation>
     </message>
 </context>
 <context>
@@ -6132,6 +6192,22 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>Left out: %1.</source>
         <translation>Esclusi: %1.</translation>
+    </message>
+    <message>
+        <source>The grid has these cells already.</source>
+        <translation>La griglia ha già queste celle.</translation>
+    </message>
+    <message>
+        <source>Do you want to build it anew, with the default velocities?</source>
+        <translation>Ricostruirla con le velocità predefinite?</translation>
+    </message>
+    <message>
+        <source>Smoothing, and tracing rays anew ...</source>
+        <translation>Smussamento, e nuovo tracciamento dei raggi ...</translation>
+    </message>
+    <message>
+        <source>Picks have changed since.</source>
+        <translation>I primi arrivi sono cambiati da allora.</translation>
     </message>
 </context>
 <context>

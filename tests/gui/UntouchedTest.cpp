@@ -101,15 +101,17 @@ TEST_F(Untouched, layersGoIntoTheGridAgainOnlyWhenTheUserSaysSo) {
 
 TEST_F(Untouched, gridIsBuiltAgainOnlyWhenTheUserSaysSo) {
   TomoDocument& document = window->document();
+  answer();
+  action("actionGrid").trigger();  // now it has what the dialog proposes
   const double slowness = 1.0 / 777.0;
   document.grid->setSlowness(0, slowness);
-  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+  for (const auto again : {QMessageBox::No, QMessageBox::Yes}) {
     document.modified = false;
-    expectOk();
-    dialogs.expectBox("Warning", "The grid has these cells already.", "build it anew", answer);
+    answer();
+    dialogs.expectBox("Warning", "The grid has these cells already.", "build it anew", again);
     action("actionGrid").trigger();
-    EXPECT_EQ(document.grid->slowness(0) == slowness, answer == QMessageBox::No);
-    EXPECT_EQ(document.modified, answer == QMessageBox::Yes);
+    EXPECT_EQ(document.grid->slowness(0) == slowness, again == QMessageBox::No);
+    EXPECT_EQ(document.modified, again == QMessageBox::Yes);
   }
 }
 
