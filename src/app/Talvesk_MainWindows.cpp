@@ -52,6 +52,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   mUi->setupUi(this);
   setCommandIcons(*this);
   addShotChooser();
+  addMisfitLabel();
   addRecentMenu();
   groupActions();
   addKeys();
@@ -156,11 +157,14 @@ void Talvesk_MainWindows::connectViews() {
   mCursorLabel->setMinimumWidth(1);  // a long text must not widen the window
   // What was read in one view says nothing about another.
   connect(mUi->tabWidget, &QTabWidget::currentChanged, mCursorLabel, &QLabel::clear);
+  mUi->statusBar->addPermanentWidget(mCursorLabel);
+}
+
+void Talvesk_MainWindows::addMisfitLabel() {
   mMisfitLabel = new QLabel(this);
   mMisfitLabel->setObjectName(QStringLiteral("misfitLabel"));
-  mMisfitLabel->setMinimumWidth(1);
+  mMisfitLabel->setMinimumWidth(1);  // a long text must not widen the window
   mUi->statusBar->addPermanentWidget(mMisfitLabel);
-  mUi->statusBar->addPermanentWidget(mCursorLabel);
 }
 
 void Talvesk_MainWindows::connectCommands() {

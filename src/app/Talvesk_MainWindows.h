@@ -283,6 +283,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void clearDocument();
   void documentChanged();
   void documentModified();
+  void addMisfitLabel();
   void refreshMisfit();
   void refreshTitle();
   void refreshCommands();

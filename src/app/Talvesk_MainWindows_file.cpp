@@ -202,8 +202,9 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   ImportCost cost;
   Status status = whileWaiting([&] {
     Status read = readTravelTimes(file.toStdString(), times);
+    if (!read.ok()) return read;
     fitToRecords(times, mDocument);
-    return read.ok() ? checkImport(times, mDocument, cost) : read;
+    return checkImport(times, mDocument, cost);
   });
   const std::vector<Message> warnings = times.warnings;
   if (status.ok()) {
@@ -224,7 +225,10 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   }
   // A profile is one of the picks that it was built from, marks are those of the shots.
   forgetResults(mInterpretation);
-  if (cost.survey) mInterpretation = {};
+  if (cost.survey) {
+    mInterpretation = {};
+    mProject = {};  // the project on the disk is that of another survey: saving asks where to
+  }
   for (editTravelTimesWidget* editor : editors()) editor->picksReplaced();
   documentChanged();
   showFresh(mCurrentFile < 0 ? 0 : mCurrentFile);

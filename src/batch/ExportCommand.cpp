@@ -56,7 +56,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
   const TomoDocument& document = project.document;
   int exitCode = kDone;
   const auto attempt = [&](const std::string& path, const auto& write) {
-    if (path.empty()) return;
+    if (path.empty() || isDiscarded(path)) return;
     if (const Status status = write(path); !status.ok()) {
       exitCode = failed(status.message());
     } else {

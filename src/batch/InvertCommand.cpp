@@ -151,7 +151,7 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
   const TomoDocument& document = project.document;
   int exitCode = kDone;
   const auto attempt = [&](const std::string& path, const auto& write) {
-    if (path.empty()) return;
+    if (path.empty() || isDiscarded(path)) return;
     const Status status = write();
     if (!status.ok()) exitCode = failed(status.message());
   };

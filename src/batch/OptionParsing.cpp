@@ -1,6 +1,7 @@
 #include "batch/OptionParsing.h"
 
 #include "base/StreamPlace.h"
+#include "batch/OutputFiles.h"
 
 #include <algorithm>
 #include <cctype>
@@ -57,6 +58,7 @@ CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,
 
 CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase) {
   return option->check([suffixes = std::move(suffixes), anyCase](const std::string& path) {
+    if (isDiscarded(path)) return std::string();
     if (suffixes.size() == 1 && isStreamPlace(path)) return std::string();
     for (const std::string& suffix : suffixes) {
       if (endsWith(path, suffix, anyCase)) return std::string();

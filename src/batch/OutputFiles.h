@@ -7,6 +7,11 @@
 
 namespace talvesk {
 
+/// Whether nobody wants what would be written there, in whatever format.
+inline bool isDiscarded(const std::string& path) {
+  return path == "/dev/null";
+}
+
 /// A file that a command will write.
 struct OutputFile {
   std::string option;  ///< how the command line calls it, for messages

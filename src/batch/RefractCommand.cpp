@@ -93,7 +93,7 @@ int writeResults(const RefractOptions& options, const LoadedProject& project,
   const Interpretation& interpretation = project.interpretation;
   int exitCode = kDone;
   const auto attempt = [&](const std::string& path, const auto& write) {
-    if (path.empty()) return;
+    if (path.empty() || isDiscarded(path)) return;
     const Status status = write();
     if (!status.ok()) exitCode = failed(status.message());
   };

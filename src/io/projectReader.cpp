@@ -91,7 +91,7 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   const Status status = checkInterpretation(document, interpretation, mRepairs);
   if (!status.ok()) return fail(joined(kRefractionMember, status.text()));
   if (left > 0) {
-    mWarnings.push_back(
+    mRepairs.push_back(
         joined(kRefractionMember,
                Message::tr(
                    "%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, "

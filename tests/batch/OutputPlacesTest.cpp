@@ -89,6 +89,16 @@ TEST(OutputPlaces, ofProjectsMayBePipes) {
   EXPECT_THAT(info.out, HasSubstr("26 columns of 1 m")) << info.err;
 }
 
+TEST(OutputPlaces, discardWhateverGoesNowhere) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const std::size_t files = folder.fileCount();
+  const Outcome outcome = runBatch({"invert", input, "--iterations", "1", "--cell-size", "1",
+                                    "--report", "/dev/null", "--image", "/dev/null", "--quiet"});
+  EXPECT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_EQ(folder.fileCount(), files);
+}
+
 TEST(EngineLines, areHeardOnRequestOnly) {
   const Folder folder;
   const std::string input = folder.write("line.otte", smallLine());

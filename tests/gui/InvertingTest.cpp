@@ -15,6 +15,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
 #include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
@@ -32,6 +33,7 @@ namespace {
 
 using ::testing::HasSubstr;
 using ::testing::Not;
+using ::testing::StartsWith;
 
 /// Waits for the progress dialog. What it then does is the first event of the inversion: nothing
 /// that the inversion tells can come before.
@@ -166,6 +168,21 @@ TEST_F(Inverting, showsItsResults) {
   EXPECT_THAT(log(), HasSubstr("Running Tomography - external iteration 1 ... COMPLETED. \n"));
   EXPECT_THAT(log(), Not(HasSubstr("Stop Request")));
   EXPECT_TRUE(action("actionGrid").isEnabled() && action("actionOpen_shot_files").isEnabled());
+}
+
+TEST_F(Inverting, keepsTheMisfitInViewAndSaysWhenPicksHaveChanged) {
+  openLine();
+  answerGrid(12.0, 1.0);
+  answerParameters(1, 2);
+  expectResults();
+  const auto told = [this] { return child<QLabel>("misfitLabel").text().toStdString(); };
+  EXPECT_EQ(told(), "");
+  run();
+  EXPECT_THAT(told(), StartsWith("Misfit of the section: RMS "));
+  EXPECT_THAT(told(), Not(HasSubstr("changed")));
+  window->document().ttArray[0].ttMisurati[3] *= 1.01;
+  emit child<editTravelTimesWidget>("showTracesWidget").pick_edited();
+  EXPECT_THAT(told(), HasSubstr("Picks have changed since."));
 }
 
 TEST_F(Inverting, completesTheIterationInWhichItIsStopped) {

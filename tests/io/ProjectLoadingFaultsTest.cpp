@@ -183,7 +183,7 @@ TEST(ArchiveSizes, thatCannotBeAreRefused) {
   constexpr std::uint64_t kHuge = ~std::uint64_t{0};
   const std::vector<Sizes> table = {
       {{{"a", 10 * kMega}}, 1000, ""},
-      {{{"a", 10 * kMega + 1}}, 1000, "more than 10 MB, which no project of 1000 bytes"},
+      {{{"a", 10 * kMega + 1}}, 1000, "more than 10 MB, which no project of 1 kB"},
       {{{"a", 6 * kMega}, {"b", 6 * kMega}}, 1000, "more than 10 MB"},
       {{{"a", 200 * kMega}}, kMega, ""},
       {{{"a", 200 * kMega}, {"b", 1}}, kMega, "more than 200 MB, which no project of 1 MB"},
