@@ -1,4 +1,3 @@
-#include "app/InversionTexts.h"
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
@@ -7,7 +6,6 @@
 #include "app/select_speed_Dialog.h"
 #include "app/smoothingDialog.h"
 #include "grid/GridBuilder.h"
-#include "model/Residuals.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/GridSetup.h"
 #include "tomo/InversionCopy.h"
@@ -97,9 +95,7 @@ void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
     return;
   }
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
-  statusBar()->showMessage(tr("The velocities of the grid are smoothed.") + QLatin1Char(' ') +
-                               sectionMisfitText(sectionMisfitOf(mDocument)),
-                           kMessageTime);
+  statusBar()->showMessage(tr("The velocities of the grid are smoothed."), kMessageTime);
 }
 
 /// Tracing the smoothed section takes as long as a pass of an inversion: a thread works on a copy

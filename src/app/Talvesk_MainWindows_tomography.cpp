@@ -136,8 +136,7 @@ void Talvesk_MainWindows::showInversion(const TomographyResult& result) {
   if (result.iterationsDone == 0) return;
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
   const QStringList left = leftOutNames(leftOut(mDocument, mDocument.excluded));
-  QString outcome = tr("%n external iteration(s) completed.", nullptr, result.iterationsDone) +
-                    QLatin1Char(' ') + sectionMisfitText(result.sectionMisfit);
+  QString outcome = tr("%n external iteration(s) completed.", nullptr, result.iterationsDone);
   if (!left.isEmpty()) {
     outcome += QLatin1Char(' ') + tr("Left out: %1.").arg(left.join(QStringLiteral("; ")));
   }

@@ -67,7 +67,7 @@ class TomoDocument {
 
   // --- Results of the last inversion.
   bool has_tomographic_info = false;
-  bool smoothedResult = false;       ///< the grid was smoothed since
+  bool smoothedResult = false;    ///< the grid was smoothed since
   double RMSE_tomography = -1.0;  ///< relative RMS misfit of the last pass, percent; <0: none
   /// The computed times were traced through the grid as it is, along rays of their own. Not so
   /// while an inversion runs, and in projects of earlier versions until their rays are traced anew.

@@ -151,7 +151,7 @@ TEST_F(Inverting, showsItsResults) {
   EXPECT_EQ(line.RMSE_tomography, 100.0 * misfit.relativeRms);
   const SectionMisfit section = sectionMisfitOf(line);
   ASSERT_GT(section.count, 0);
-  EXPECT_THAT(child<QStatusBar>("statusBar").currentMessage().toStdString(),
+  EXPECT_THAT(child<QLabel>("misfitLabel").text().toStdString(),
               HasSubstr("Misfit of the section: RMS "));
   const auto number = [](double value) { return QString::number(value, 'g', 6); };
   const QRegularExpression expected(
