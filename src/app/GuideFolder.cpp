@@ -56,6 +56,13 @@ QString GuideFolder::page(const QString& file) {
   const int end = html.indexOf(QLatin1String("</nav>"), begin);
   const int body = html.indexOf(QLatin1String("<main>"));
   if (begin >= 0 && end > begin && end < body) html.remove(begin, end + 6 - begin);
+  // Links beside each other would read as one, for nothing underlines them.
+  const int last = html.lastIndexOf(QLatin1String("<nav>"));
+  if (last > 0) {
+    QString links = html.mid(last);
+    links.replace(QLatin1String("</a> <a"), QStringLiteral("</a> &nbsp;\u00B7&nbsp; <a"));
+    html = html.left(last) + links;
+  }
   // The text documents of the window know no figures.
   for (const char* name : {"figure", "figcaption"}) {
     const QLatin1String tag(name);
