@@ -83,7 +83,7 @@ TEST(IsovalueFile, passesOverAHeadingAndUnderstandsOtherEncodings) {
       "\xFF\xFE"
       "7\0;\0t\0\n\0"
       "8\0;\0t\0",
-      18);
+      16);
   const struct {
     std::string text;
     bool heading;
