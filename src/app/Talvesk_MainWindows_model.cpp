@@ -27,7 +27,7 @@ void Talvesk_MainWindows::on_actionGrid_triggered() {
 }
 
 /// Asks for a grid and builds it; without geometry asks for that first, as long as the user gives
-/// one. False when no grid was built.
+/// one. False when there is no grid as the user wants it.
 bool Talvesk_MainWindows::makeGrid() {
   SurveyProfile profile;
   GridSettings settings = proposeGrid(mDocument, profile, mLog);
