@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Console.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "tomo/GridSetup.h"
 
@@ -13,9 +14,9 @@ namespace talvesk::bench {
 inline TomoDocument survey(int geophones, int shots) {
   const auto elevation = [](double x) { return 100.0 + 1.5 * std::sin(x / 20.0); };
   TomoDocument document;
-  document.goephonesStringSet.emplace_back();
+  document.line.edit().goephonesStringSet.emplace_back();
   for (int i = 0; i < geophones; ++i) {
-    document.goephonesStringSet[0].push_back({2.0 * i, elevation(2.0 * i)});
+    document.line.edit().goephonesStringSet[0].push_back({2.0 * i, elevation(2.0 * i)});
   }
   const double length = 2.0 * (geophones - 1);
   for (int s = 0; s < shots; ++s) {
@@ -23,12 +24,12 @@ inline TomoDocument survey(int geophones, int shots) {
     record.shotPos2d.x = -1.0 + (length + 2.0) * s / (shots - 1);
     record.shotPos2d.z = elevation(record.shotPos2d.x);
     record.traceSetID = s;
-    for (const Point2D& geophone : document.goephonesStringSet[0]) {
+    for (const Point2D& geophone : document.line->goephonesStringSet[0]) {
       const double offset = std::fabs(geophone.x - record.shotPos2d.x) + 0.1;
       const double k = 60.0, v0 = 400.0;
-      record.ttMisurati.push_back(2.0 / k * std::asinh(k * offset / (2.0 * v0)));
+      record.ttMisurati.edit().push_back(2.0 / k * std::asinh(k * offset / (2.0 * v0)));
     }
-    document.ttArray.push_back(record);
+    document.ttArray.edit().push_back(record);
   }
   return document;
 }

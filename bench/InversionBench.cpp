@@ -2,6 +2,8 @@
 // and the smoothing operators.
 #include "BenchSurvey.h"
 #include "grid/GridBuilder.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/TomographyRun.h"
 
 #include <ostream>
@@ -53,8 +55,8 @@ void smoothing(benchmark::State& state) {
   if (!status.ok()) state.SkipWithError(status.message().c_str());
   const SmoothingType type = smoothingTypeOf(static_cast<int>(state.range(0)));
   for (auto _ : state) {
-    benchmark::DoNotOptimize(
-        smoothSlowness(type, *document.grid, document.hitCounts, 5, verticalRatio(false)));
+    benchmark::DoNotOptimize(smoothSlowness(type, *document.model->grid, document.result->hitCounts,
+                                            5, verticalRatio(false)));
   }
 }
 

@@ -1,6 +1,8 @@
 // The first-break picker on shots of 48 traces of 4000 samples: the detector alone, and whole shots
 // with their screening on one thread and on two.
 #include "base/Console.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 #include "processing/FirstBreak.h"
 
 #include <cmath>
@@ -31,16 +33,17 @@ std::vector<double> signal(int trace, std::mt19937& random) {
 TomoDocument shots(int count) {
   std::mt19937 random(7);
   TomoDocument document;
-  document.goephonesStringSet.emplace_back();
-  for (int t = 0; t < kTraces; ++t) document.goephonesStringSet[0].push_back({2.0 * t + 2.0, 0.0});
+  document.line.edit().goephonesStringSet.emplace_back();
+  for (int t = 0; t < kTraces; ++t)
+    document.line.edit().goephonesStringSet[0].push_back({2.0 * t + 2.0, 0.0});
   for (int s = 0; s < count; ++s) {
     TravelTime record;
     record.traceSetID = s;
-    document.ttArray.push_back(record);
-    document.traceSets.emplace_back(kTraces);
+    document.ttArray.edit().push_back(record);
+    document.recordings.edit().traceSets.emplace_back(kTraces);
     for (int t = 0; t < kTraces; ++t) {
-      document.traceSets.back()[t].samples = signal(t, random);
-      document.traceSets.back()[t].sampleInterval = 0.25e-3;
+      document.recordings.edit().traceSets.back()[t].samples.edit() = signal(t, random);
+      document.recordings.edit().traceSets.back()[t].sampleInterval = 0.25e-3;
     }
   }
   return document;

@@ -4,6 +4,7 @@
 #include "io/ProjectWriter.h"
 #include "io/ShotLoader.h"
 #include "io/projectReader.h"
+#include "model/Recordings.h"
 #include "support/ShotFiles.h"
 
 #include <QDir>
@@ -67,9 +68,9 @@ struct Line {
     }
     ShotLoader().load(paths, project.document);
     if (!filtered) return;
-    for (Trace& trace : project.document.traceSets[0]) {
-      trace.filtered = trace.samples;
-      for (double& sample : trace.filtered) sample *= 0.123456789;
+    for (Trace& trace : project.document.recordings.edit().traceSets[0]) {
+      trace.filtered.edit() = trace.samples;
+      for (double& sample : trace.filtered.edit()) sample *= 0.123456789;
     }
   }
   std::string root() const { return folder.path().toStdString() + "/"; }

@@ -1,4 +1,7 @@
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 #include "support/TestGrids.h"
 #include "view/SectionScene.h"
 #include "view/SectionViewSettings.h"
@@ -20,13 +23,13 @@ namespace {
 /// 100 000 cells and 5000 rays, each through some 250 nodes.
 TomoDocument bigSection() {
   TomoDocument document;
-  document.grid = testing::roughGrid(GridSize{125, 800, 6, 1.0}, 3.0);
-  document.surface = testing::hills(800.0, 3.0);
-  document.goephonesStringSet.emplace_back();
+  document.model.edit().grid = testing::roughGrid(GridSize{125, 800, 6, 1.0}, 3.0);
+  document.model.edit().surface = testing::hills(800.0, 3.0);
+  document.line.edit().goephonesStringSet.emplace_back();
   for (double x = 1.0; x < 799.0; x += 4.0) {
-    document.goephonesStringSet[0].push_back({x, document.surface(x)});
+    document.line.edit().goephonesStringSet[0].push_back({x, document.model->surface(x)});
   }
-  const GridGeometry& geometry = document.grid->geometry();
+  const GridGeometry& geometry = document.model->grid->geometry();
   for (std::uint32_t i = 0; i < 5000; ++i) {
     const std::uint32_t first = (i * 37) % 500;
     std::vector<std::uint32_t> ray;
@@ -36,7 +39,7 @@ TomoDocument bigSection() {
       ray.push_back(
           geometry.sideNode(row, first + k, static_cast<std::uint32_t>(4.0 * (depth - row))));
     }
-    document.rays.push_back(ray);
+    document.result.edit().rays.edit().push_back(ray);
   }
   return document;
 }

@@ -1,3 +1,5 @@
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "widgets/TraceMapping.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -16,27 +18,28 @@ namespace {
 /// Shots of noise and waves, all picked, into one string.
 TomoDocument shots(int traces, int samples, int count) {
   TomoDocument document;
-  document.goephonesStringSet.emplace_back();
-  for (int i = 0; i < traces; ++i) document.goephonesStringSet[0].push_back({2.0 * i, 0.0});
+  document.line.edit().goephonesStringSet.emplace_back();
+  for (int i = 0; i < traces; ++i)
+    document.line.edit().goephonesStringSet[0].push_back({2.0 * i, 0.0});
   for (int shot = 0; shot < count; ++shot) {
     TravelTime record;
     record.shotPos2d = {10.0 * shot - 5.0, 0.0};
     record.traceSetID = shot;
     for (int i = 0; i < traces; ++i) {
-      record.ttMisurati.push_back(std::fabs(2.0 * i - record.shotPos2d.x) / 1500.0 + 0.001);
+      record.ttMisurati.edit().push_back(std::fabs(2.0 * i - record.shotPos2d.x) / 1500.0 + 0.001);
     }
-    record.ttCalcolati = record.ttMisurati;
-    document.ttArray.push_back(record);
+    record.ttCalcolati.edit() = record.ttMisurati;
+    document.ttArray.edit().push_back(record);
     TraceSet set(static_cast<std::size_t>(shot == 0 ? traces : 0));
     std::uint32_t state = 1;
     for (Trace& trace : set) {
       trace.sampleInterval = 0.000125;
       for (int k = 0; k < samples; ++k) {
         state = state * 1664525U + 1013904223U;
-        trace.samples.push_back(0.2 * (state >> 8) / 16777216.0 + std::sin(0.05 * k));
+        trace.samples.edit().push_back(0.2 * (state >> 8) / 16777216.0 + std::sin(0.05 * k));
       }
     }
-    document.traceSets.push_back(std::move(set));
+    document.recordings.edit().traceSets.push_back(std::move(set));
   }
   return document;
 }

@@ -6,6 +6,10 @@
 #include "io/ProjectWriter.h"
 #include "io/ProjectZip.h"
 #include "io/projectReader.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 
 #include <QTemporaryDir>
 #include <cstdint>
@@ -34,20 +38,20 @@ int save(const std::string& path, const std::string& work, const LoadedProject& 
 /// Two shots into three geophones, with traces and layers, without a file.
 LoadedProject soundProject() {
   LoadedProject project;
-  project.document.goephonesStringSet = {{{0, 100}, {5, 101}, {10, 102}}};
+  project.document.line.edit().goephonesStringSet = {{{0, 100}, {5, 101}, {10, 102}}};
   for (std::int32_t shot = 0; shot < 2; ++shot) {
     TravelTime record;
     record.shotPos2d = {12.0 * shot - 1.0, 100.0};
     record.traceSetID = shot;
-    record.ttMisurati = {0.01, 0.0, -99.0};
-    record.ttCalcolati = {0.01, 0.02, 0.03};
-    project.document.ttArray.push_back(record);
+    record.ttMisurati.edit() = {0.01, 0.0, -99.0};
+    record.ttCalcolati.edit() = {0.01, 0.02, 0.03};
+    project.document.ttArray.edit().push_back(record);
     Trace trace;
     trace.waveKind = Trace::kFromFile;
     trace.sampleInterval = 0.001;
-    trace.samples = {0, 1, 2};
-    project.document.traceSets.push_back({trace, trace, trace});
-    project.document.shotPositions.push_back(record.shotPos2d.x);
+    trace.samples.edit() = {0, 1, 2};
+    project.document.recordings.edit().traceSets.push_back({trace, trace, trace});
+    project.document.line.edit().shotPositions.push_back(record.shotPos2d.x);
     project.interpretation.ttLayer.push_back(
         {static_cast<std::uint32_t>(shot), {1, 2, 3}, {0, 0, 0}, true});
   }
@@ -87,19 +91,22 @@ void build(const Workshop& shop, std::uint8_t place, const std::uint8_t* bytes, 
 
 void demandWhole(const LoadedProject& project) {
   const TomoDocument& document = project.document;
-  const auto strings = static_cast<std::int64_t>(document.goephonesStringSet.size());
-  demand(document.traceSets.empty() || document.traceSets.size() == document.ttArray.size(),
+  const auto strings = static_cast<std::int64_t>(document.line->goephonesStringSet.size());
+  demand(document.recordings->traceSets.empty() ||
+             document.recordings->traceSets.size() == document.ttArray.size(),
          "a record for every trace set");
   for (const TravelTime& record : document.ttArray) {
     demand(record.indexStesa >= -1 && record.indexStesa < strings, "a string that exists");
     demand(record.ttCalcolati.size() == record.ttMisurati.size(), "computed times");
   }
-  for (std::size_t i = 0; i < document.traceSets.size(); ++i) {
-    demand(document.ttArray[i].ttMisurati.size() >= document.traceSets[i].size(), "enough times");
+  for (std::size_t i = 0; i < document.recordings->traceSets.size(); ++i) {
+    demand(document.ttArray[i].ttMisurati.size() >= document.recordings->traceSets[i].size(),
+           "enough times");
   }
-  if (document.grid != nullptr) {
-    demand(document.grid->invalidSlowness().empty(), "velocities to trace rays through");
-    demand(document.info_density.size() == document.grid->cellCount(), "a density per cell");
+  if (document.model->grid != nullptr) {
+    demand(document.model->grid->invalidSlowness().empty(), "velocities to trace rays through");
+    demand(document.result->info_density.size() == document.model->grid->cellCount(),
+           "a density per cell");
   }
   demand(project.palettes.currentIndex() < project.palettes.size(), "a current palette");
 }

@@ -42,8 +42,8 @@ TomoDocument threeShots() {
   TomoDocument document;
   for (const std::size_t traces : {4, 0, 3}) {
     TravelTime record;
-    record.ttMisurati.assign(traces, 0.01);
-    document.ttArray.push_back(record);
+    record.ttMisurati.edit().assign(traces, 0.01);
+    document.ttArray.edit().push_back(record);
   }
   return document;
 }

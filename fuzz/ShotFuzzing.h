@@ -5,6 +5,8 @@
 #include "io/ByteReader.h"
 #include "io/ShotFile.h"
 #include "io/ShotLoader.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,9 +35,11 @@ inline void demandSane(const ShotFileData& data, std::size_t fileBytes) {
 
 inline void demandFit(const TomoDocument& document) {
   const TravelTime& record = document.ttArray.back();
-  const auto& string = document.goephonesStringSet.at(static_cast<std::size_t>(record.indexStesa));
-  demand(document.traceSets.size() == document.ttArray.size(), "a record per trace set");
-  demand(string.size() == document.traceSets.back().size(), "a geophone per trace");
+  const auto& string =
+      document.line->goephonesStringSet.at(static_cast<std::size_t>(record.indexStesa));
+  demand(document.recordings->traceSets.size() == document.ttArray.size(),
+         "a record per trace set");
+  demand(string.size() == document.recordings->traceSets.back().size(), "a geophone per trace");
   demand(record.ttMisurati.size() == string.size(), "a time per trace");
 }
 

@@ -12,6 +12,7 @@
 #include "io/GeometryFile.h"
 #include "io/SWavePairFile.h"
 #include "model/GeometryCheck.h"
+#include "model/Recordings.h"
 #include "ui_DialogSetGeometry.h"
 
 #include <QCollator>
@@ -181,7 +182,7 @@ void DialogSetGeometry::loadShots() {
 
 /// Picks without traces stay what they are: every record of a survey has traces, or none has.
 bool DialogSetGeometry::takesPairs() const {
-  return mDocument.ttArray.size() == mDocument.traceSets.size();
+  return mDocument.ttArray.size() == mDocument.recordings->traceSets.size();
 }
 
 QStringList DialogSetGeometry::askForRecordings(const QString& title, bool several) {

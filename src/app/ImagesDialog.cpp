@@ -2,7 +2,10 @@
 
 #include "app/MessageText.h"
 #include "figures/FigureOutput.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
 #include "model/SurveyFacts.h"
+#include "model/TomographyOutcome.h"
 #include "ui_ImagesDialog.h"
 
 #include <QFileDialog>
@@ -60,8 +63,8 @@ ImagesDialog::ImagesDialog(const TomoDocument& document,
 ImagesDialog::~ImagesDialog() = default;
 
 void ImagesDialog::offerWhatThereIs() {
-  const auto& sets = mDocument.traceSets;
-  const bool section = mDocument.grid != nullptr;
+  const auto& sets = mDocument.recordings->traceSets;
+  const bool section = mDocument.model->grid != nullptr;
   offer(mUi->currentGatherBox, mShot >= 0 && static_cast<std::size_t>(mShot) < sets.size());
   offer(mUi->allGathersBox, !sets.empty());
   offer(mUi->filteredBox, std::any_of(sets.begin(), sets.end(), hasFilteredCopy));
@@ -69,7 +72,7 @@ void ImagesDialog::offerWhatThereIs() {
   for (QCheckBox* box : {mUi->gradientBox, mUi->laplacianBox, mUi->cellsBox, mUi->smoothBox}) {
     offer(box, section);
   }
-  offer(mUi->densityBox, section && mDocument.has_tomographic_info);
+  offer(mUi->densityBox, section && mDocument.result->has_tomographic_info);
   offer(mUi->refractionBox, !mInterpretation.refractData.cData.empty());
   mUi->smoothBox->setChecked(section && mLook.view.smooth);
   mUi->cellsBox->setChecked(section && !mLook.view.smooth);

@@ -1,7 +1,9 @@
 #include "app/LossQuestion.h"
 
 #include "app/Messages.h"
+#include "model/GroundModel.h"
 #include "model/RefractionDataStructure.h"
+#include "model/TomographyOutcome.h"
 
 #include <QCoreApplication>
 
@@ -17,17 +19,17 @@ class LossQuestion {
 
 QStringList LossQuestion::words(const TomoDocument& document, const Losses& losses) {
   QStringList words;
-  const bool results = document.has_tomographic_info;
+  const bool results = document.result->has_tomographic_info;
   if (losses.model == ModelLoss::kGrid) {
     if (results) {
       words << tr("the grid and the results of the inversion");
-    } else if (document.grid) {
+    } else if (document.model->grid) {
       words << tr("the grid");
     }
   } else if (losses.model == ModelLoss::kResults && results) {
     words << tr("the results of the inversion; the grid stays");
   }
-  if (losses.startingModel && !document.layers.empty()) {
+  if (losses.startingModel && !document.model->layers.empty()) {
     words << tr("the layers of the starting model");
   }
   if (losses.interpretation) words << tr("the refraction interpretation");

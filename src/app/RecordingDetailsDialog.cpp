@@ -1,5 +1,6 @@
 #include "app/RecordingDetailsDialog.h"
 
+#include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "model/TomoDocument.h"
 #include "ui_RecordingDetailsDialog.h"
@@ -39,8 +40,10 @@ QString rangeOf(const TraceSet& traces, Value value, const QString& unit) {
 /// Of the file of a set, or of both files of an S-wave pair.
 QString pathsOf(const TomoDocument& document, std::size_t set) {
   QString paths = QString::fromStdString(shotFile(document, set));
-  const bool pair = set < document.filenames_SX.size() && !document.filenames_SX[set].empty();
-  if (pair) paths += QLatin1Char('\n') + QString::fromStdString(document.filenames_SX[set]);
+  const bool pair = set < document.recordings->filenames_SX.size() &&
+                    !document.recordings->filenames_SX[set].empty();
+  if (pair)
+    paths += QLatin1Char('\n') + QString::fromStdString(document.recordings->filenames_SX[set]);
   return paths.isEmpty() ? QStringLiteral("-") : paths;
 }
 
@@ -62,7 +65,7 @@ RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
       mFiles(std::move(files)) {
   mUi->setupUi(this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
-  for (std::size_t i = 0; i < mDocument.traceSets.size(); ++i) {
+  for (std::size_t i = 0; i < mDocument.recordings->traceSets.size(); ++i) {
     const QString path = QString::fromStdString(shotFile(mDocument, i));
     mUi->fileCBox->addItem(
         tr("%1: %2", "shot number, file name").arg(i + 1).arg(QFileInfo(path).fileName()));
@@ -85,9 +88,10 @@ RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
 RecordingDetailsDialog::~RecordingDetailsDialog() = default;
 
 void RecordingDetailsDialog::showSet(int index) {
-  if (index < 0 || static_cast<std::size_t>(index) >= mDocument.traceSets.size()) return;
+  if (index < 0 || static_cast<std::size_t>(index) >= mDocument.recordings->traceSets.size())
+    return;
   const auto set = static_cast<std::size_t>(index);
-  const TraceSet& traces = mDocument.traceSets[set];
+  const TraceSet& traces = mDocument.recordings->traceSets[set];
   const RecordingInfo info = set < mFiles.size() ? mFiles[set] : RecordingInfo();
   mUi->pathValue->setText(pathsOf(mDocument, set));
   mUi->formatValue->setText(formatName(info.format));
@@ -112,7 +116,7 @@ void RecordingDetailsDialog::showSet(int index) {
 }
 
 void RecordingDetailsDialog::fillTable(int index) {
-  const TraceSet& traces = mDocument.traceSets[static_cast<std::size_t>(index)];
+  const TraceSet& traces = mDocument.recordings->traceSets[static_cast<std::size_t>(index)];
   QTableWidget& table = *mUi->tracesTable;
   table.setRowCount(static_cast<int>(traces.size()));
   for (std::size_t row = 0; row < traces.size(); ++row) {

@@ -9,6 +9,8 @@
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
 #include "ui_Talvesk_MainWindows.h"
 
 #include <QFileDialog>
@@ -74,18 +76,18 @@ QString Talvesk_MainWindows::askForGriddedText() {
 
 void Talvesk_MainWindows::on_actionExport_tomographic_data_triggered() {
   logSlot(__func__);
-  if (!mDocument.grid) return;
+  if (!mDocument.model->grid) return;
   const QString file = askForGriddedText();
   if (file.isEmpty()) return;
   GriddedTextOptions options;
-  options.zOffset = -referenceElevation(*mDocument.grid);
+  options.zOffset = -referenceElevation(*mDocument.model->grid);
   exportTo(file,
            [&](const std::string& path) { return writeGriddedText(path, mDocument, options); });
 }
 
 void Talvesk_MainWindows::on_actionGridded_Data_triggered() {
   logSlot(__func__);
-  if (!mDocument.grid) return;
+  if (!mDocument.model->grid) return;
   const QString file = askForGriddedText();
   if (file.isEmpty()) return;
   ExportTomoVelData dialog(this);
@@ -97,7 +99,7 @@ void Talvesk_MainWindows::on_actionGridded_Data_triggered() {
 
 void Talvesk_MainWindows::on_actionExport_VTK_triggered() {
   logSlot(__func__);
-  if (!mDocument.grid) return;
+  if (!mDocument.model->grid) return;
   const QString file = askForExport(tr("Export VTK Grid"),
                                     tr("VTK unstructured grid (*.vtu);;All Files (*)"), "vtu");
   if (file.isEmpty()) return;
@@ -106,7 +108,7 @@ void Talvesk_MainWindows::on_actionExport_VTK_triggered() {
 
 void Talvesk_MainWindows::on_actionExport_Surfer_triggered() {
   logSlot(__func__);
-  if (!mDocument.grid) return;
+  if (!mDocument.model->grid) return;
   const QString file =
       askForExport(tr("Export Surfer Grid"), tr("Surfer ASCII grid (*.grd);;All Files (*)"), "grd");
   if (file.isEmpty()) return;
@@ -115,7 +117,7 @@ void Talvesk_MainWindows::on_actionExport_Surfer_triggered() {
 
 /// Whether the line has a place on the globe; the user is told when it has none.
 bool Talvesk_MainWindows::mayExportKml() {
-  if (mDocument.geoCoord_isSet) return true;
+  if (mDocument.map->geoCoord_isSet) return true;
   showWarning(this, tr("Warning"),
               tr("Geographical coordinates are missing, data cannot be exported in KML format"),
               tr("Set them with Project > Set geographic coordinates ..."));
@@ -124,7 +126,7 @@ bool Talvesk_MainWindows::mayExportKml() {
 
 void Talvesk_MainWindows::on_actionExportTomographic_profile_2_KML_triggered() {
   logSlot(__func__);
-  if (!mDocument.grid || !lineEnds(mDocument) || !mayExportKml()) return;
+  if (!mDocument.model->grid || !lineEnds(mDocument) || !mayExportKml()) return;
   const QString file =
       askForExport(tr("Export Tomography to KML"), tr("KML (*.kml);;All Files (*)"), "kml");
   if (file.isEmpty()) return;
@@ -146,18 +148,18 @@ void Talvesk_MainWindows::on_actionExportSeismic_line_triggered() {
 void Talvesk_MainWindows::on_actionSet_geography_coordinates_triggered() {
   logSlot(__func__);
   std::optional<geographicsCoord> before;
-  if (mDocument.geoCoord_isSet) before = mDocument.geoCoord;
+  if (mDocument.map->geoCoord_isSet) before = mDocument.map->geoCoord;
   setGeographyDialog dialog(before, lineEnds(mDocument), this);
   if (dialog.exec() != QDialog::Accepted) return;
   if (before && areSame(*before, dialog.coordinates())) return;
-  mDocument.geoCoord = dialog.coordinates();
-  mDocument.geoCoord_isSet = true;
+  mDocument.map.edit().geoCoord = dialog.coordinates();
+  mDocument.map.edit().geoCoord_isSet = true;
   documentModified();
 }
 
 void Talvesk_MainWindows::refreshExportCommands() {
   const bool line = lineEnds(mDocument).has_value();
-  const bool section = mDocument.grid != nullptr;
+  const bool section = mDocument.model->grid != nullptr;
   for (QAction* action : {mUi->actionExport_tomographic_data, mUi->actionGridded_Data,
                           mUi->actionExport_VTK, mUi->actionExport_Surfer}) {
     action->setEnabled(section);

@@ -6,6 +6,8 @@
 #include "app/WaitCursor.h"
 #include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "processing/ShotTime.h"
 #include "refraction/ShotArrivals.h"
@@ -93,7 +95,7 @@ std::vector<ReadShot> Talvesk_MainWindows::readShotFiles(const QStringList& file
 void Talvesk_MainWindows::loadShotFiles(const QStringList& files, ShotFiles how) {
   TomoDocument fresh;
   TomoDocument& target = how == ShotFiles::kInstead ? fresh : mDocument;
-  const std::size_t before = target.traceSets.size();
+  const std::size_t before = target.recordings->traceSets.size();
   std::vector<ReadShot> shots = readShotFiles(files, target);
   Losses losses;
   losses.model = lossByShots(shots, target);
@@ -161,7 +163,8 @@ void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& ou
 void Talvesk_MainWindows::askForShotTime(const std::vector<std::size_t>& sets) {
   double earliest = 0.0;
   for (const std::size_t set : sets) {
-    for (const Trace& trace : mDocument.traceSets[set]) earliest = std::min(earliest, trace.delay);
+    for (const Trace& trace : mDocument.recordings->traceSets[set])
+      earliest = std::min(earliest, trace.delay);
   }
   if (earliest >= 0.0) return;
   const bool yes = askYesNo(
@@ -173,11 +176,13 @@ void Talvesk_MainWindows::askForShotTime(const std::vector<std::size_t>& sets) {
   // Only the new records: picks on the older ones count from where those start now.
   TomoDocument fresh;
   for (const std::size_t set : sets) {
-    fresh.traceSets.push_back(std::move(mDocument.traceSets[set]));
+    fresh.recordings.edit().traceSets.push_back(
+        std::move(mDocument.recordings.edit().traceSets[set]));
   }
   const ShotTimeOutcome outcome = countTimeFromShot(fresh);
   for (std::size_t i = 0; i < sets.size(); ++i) {
-    mDocument.traceSets[sets[i]] = std::move(fresh.traceSets[i]);
+    mDocument.recordings.edit().traceSets[sets[i]] =
+        std::move(fresh.recordings.edit().traceSets[i]);
   }
   documentChanged();
   if (outcome.leftAsRecorded > 0) {
@@ -213,7 +218,7 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
     Losses losses;
     losses.model = cost.model;
     losses.startingModel =
-        cost.survey && (cost.model == ModelLoss::kGrid || mDocument.grid == nullptr);
+        cost.survey && (cost.model == ModelLoss::kGrid || mDocument.model->grid == nullptr);
     losses.interpretation =
         isInterpreted(mInterpretation) || (cost.survey && hasMarks(mInterpretation.ttLayer));
     if (!mayLose(this, mDocument, losses)) return;

@@ -2,6 +2,7 @@
 #include "app/LossQuestion.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
+#include "model/Recordings.h"
 #include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -32,7 +33,7 @@ void Talvesk_MainWindows::takeGeometry(const SurveyGeometry& geometry) {
   forgetResults(mInterpretation);
 
   std::vector<std::size_t> fresh;
-  mShots.resize(mDocument.traceSets.size());
+  mShots.resize(mDocument.recordings->traceSets.size());
   for (std::size_t i = 0; i < geometry.shots.size(); ++i) {
     const auto& pair = geometry.shots[i].pair;
     if (!pair) continue;

@@ -6,6 +6,9 @@
 #include "app/select_speed_Dialog.h"
 #include "app/smoothingDialog.h"
 #include "grid/GridBuilder.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/GridSetup.h"
 #include "tomo/InversionCopy.h"
@@ -49,8 +52,8 @@ bool Talvesk_MainWindows::makeGrid() {
     if (status.ok()) {
       mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
       statusBar()->showMessage(tr("Grid of %1 rows and %2 columns built.")
-                                   .arg(mDocument.grid->righe())
-                                   .arg(mDocument.grid->col()),
+                                   .arg(mDocument.model->grid->righe())
+                                   .arg(mDocument.model->grid->col()),
                                kMessageTime);
       return true;
     }
@@ -62,10 +65,10 @@ bool Talvesk_MainWindows::makeGrid() {
 /// Whether a grid of these settings would have the cells that there are.
 bool Talvesk_MainWindows::isPresentGrid(const SurveyProfile& profile,
                                         const GridSettings& settings) const {
-  if (mDocument.grid == nullptr) return false;
+  if (mDocument.model->grid == nullptr) return false;
   const GridSize wanted =
       gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);
-  const GridSize& present = mDocument.grid->geometry().size();
+  const GridSize& present = mDocument.model->grid->geometry().size();
   return wanted.righe == present.righe && wanted.col == present.col && wanted.nV == present.nV &&
          wanted.aLato == present.aLato;
 }
@@ -87,7 +90,8 @@ void Talvesk_MainWindows::on_actionDefine_model_velocity_triggered() {
 void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
   logSlot(__func__);
   smoothingDialog dialog(
-      mDocument.has_tomographic_info ? SmoothingType::kRayBased : SmoothingType::kUniform, this);
+      mDocument.result->has_tomographic_info ? SmoothingType::kRayBased : SmoothingType::kUniform,
+      this);
   if (dialog.exec() != QDialog::Accepted) return;
   const Status status = smoothBeside(dialog);
   if (!status.ok()) {
@@ -123,8 +127,8 @@ Status Talvesk_MainWindows::smoothBeside(const smoothingDialog& dialog) {
 
 void Talvesk_MainWindows::refreshTomographyCommands() {
   const bool survey = !mDocument.ttArray.empty();
-  const bool cells = mDocument.grid && mDocument.grid->cellCount() > 0;
-  mUi->actionGrid->setEnabled(survey || !mDocument.goephonesStringSet.empty());
+  const bool cells = mDocument.model->grid && mDocument.model->grid->cellCount() > 0;
+  mUi->actionGrid->setEnabled(survey || !mDocument.line->goephonesStringSet.empty());
   mUi->actionDefine_model_velocity->setEnabled(cells);
   mUi->actionRun_tomography_inversion->setEnabled(survey);
   mUi->actionApply_smoothing->setEnabled(cells);

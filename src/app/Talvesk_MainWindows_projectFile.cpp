@@ -5,7 +5,10 @@
 #include "app/progressDialog.h"
 #include "base/FileReplacement.h"
 #include "io/ProjectWriter.h"
+#include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/RayRecomputation.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
@@ -52,7 +55,7 @@ QString Talvesk_MainWindows::proposedName() const {
   if (!mProject.isEmpty()) return QFileInfo(mProject.path()).completeBaseName();
   if (!mDocument.title.empty()) return fileNameOf(QString::fromStdString(mDocument.title));
   // That of a recovered survey is a temporary one, which says nothing.
-  if (mDocument.traceSets.empty() || mProjectFolder) return {};
+  if (mDocument.recordings->traceSets.empty() || mProjectFolder) return {};
   const std::string shot = shotFile(mDocument, 0);
   if (shot.empty()) return {};
   return fileNameOf(QFileInfo(QString::fromStdString(shot)).dir().dirName());
@@ -183,7 +186,7 @@ bool Talvesk_MainWindows::loadProject(const QString& file, LoadedProject& projec
   progressDialog progress(reader, file, this);
   progress.run([&] {
     result = reader.load(file.toStdString(), mFolder.path, project);
-    if (result != 0 || !project.document.has_tomographic_info) return;
+    if (result != 0 || !project.document.result->has_tomographic_info) return;
     QMetaObject::invokeMethod(&progress, &progressDialog::write_tracing_rays, Qt::QueuedConnection);
     rays = recomputeRays(project.document, mLog);
   });
@@ -230,10 +233,11 @@ void Talvesk_MainWindows::takeProject(LoadedProject project, ProjectFile file) {
   mProjectFolder = std::move(project.folder);  // the one before goes, nobody needs its files now
   mProject = std::move(file);
   mLoader.remember(project.shotFiles);
-  mShots.assign(mDocument.traceSets.size(), ShotMemory());
+  mShots.assign(mDocument.recordings->traceSets.size(), ShotMemory());
   for (std::size_t i = 0; i < mShots.size(); ++i) {
     mShots[i].filtered = mShots[i].showFiltered = hasFilteredCopy(static_cast<int>(i));
-    if (i < mDocument.filenames.size()) mShots[i].format = formatOf(mDocument.filenames[i]);
+    if (i < mDocument.recordings->filenames.size())
+      mShots[i].format = formatOf(mDocument.recordings->filenames[i]);
   }
   mCurrentFile = -1;
   for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
@@ -301,8 +305,8 @@ void Talvesk_MainWindows::clearRecentProjects() {
 }
 
 void Talvesk_MainWindows::refreshProjectCommands() {
-  const bool survey =
-      !mDocument.ttArray.empty() || !mDocument.goephonesStringSet.empty() || mDocument.modified;
+  const bool survey = !mDocument.ttArray.empty() || !mDocument.line->goephonesStringSet.empty() ||
+                      mDocument.modified;
   mUi->actionLoad_Project->setEnabled(true);
   mUi->actionSave_Project->setEnabled(survey);
   mUi->actionSave_Project_As->setEnabled(survey);

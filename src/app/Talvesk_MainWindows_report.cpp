@@ -8,6 +8,7 @@
 #include "figures/FigureOutput.h"
 #include "figures/Report.h"
 #include "figures/ReportPages.h"
+#include "model/GroundModel.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/SectionView.h"
 
@@ -180,8 +181,8 @@ void Talvesk_MainWindows::tellReport(const Status& written, const QString& file)
 
 void Talvesk_MainWindows::refreshReportCommands() {
   const bool survey = !mDocument.ttArray.empty();
-  mUi->actionImages->setEnabled(survey || mDocument.grid != nullptr);
-  mUi->actionScreenshot->setEnabled(mDocument.grid != nullptr);
+  mUi->actionImages->setEnabled(survey || mDocument.model->grid != nullptr);
+  mUi->actionScreenshot->setEnabled(mDocument.model->grid != nullptr);
   mUi->actionPDF->setEnabled(survey);
   mUi->actionODT->setEnabled(survey);
 }

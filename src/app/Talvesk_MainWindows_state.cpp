@@ -1,8 +1,10 @@
 #include "app/InversionTexts.h"
 #include "app/Talvesk_MainWindows.h"
+#include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
@@ -19,8 +21,9 @@
 namespace talvesk {
 
 bool Talvesk_MainWindows::hasFilteredCopy(int shot) const {
-  if (shot < 0 || static_cast<std::size_t>(shot) >= mDocument.traceSets.size()) return false;
-  return talvesk::hasFilteredCopy(mDocument.traceSets[static_cast<std::size_t>(shot)]);
+  if (shot < 0 || static_cast<std::size_t>(shot) >= mDocument.recordings->traceSets.size())
+    return false;
+  return talvesk::hasFilteredCopy(mDocument.recordings->traceSets[static_cast<std::size_t>(shot)]);
 }
 
 void Talvesk_MainWindows::clearDocument() {
@@ -38,7 +41,7 @@ void Talvesk_MainWindows::clearDocument() {
 
 void Talvesk_MainWindows::documentChanged() {
   fitToSurvey(mDocument, mInterpretation);
-  mShots.resize(mDocument.traceSets.size());
+  mShots.resize(mDocument.recordings->traceSets.size());
   const int count = static_cast<int>(mDocument.ttArray.size());
   if (mCurrentFile >= count) mCurrentFile = count - 1;
   for (editTravelTimesWidget* editor : editors()) editor->documentChanged();
@@ -151,10 +154,10 @@ void Talvesk_MainWindows::refreshViewActions() {
 void Talvesk_MainWindows::refreshCommands() {
   if (mInversion != nullptr) return;  // all are locked; they are refreshed when it has ended
   const bool records = !mDocument.ttArray.empty();
-  const bool traces = !mDocument.traceSets.empty();
+  const bool traces = !mDocument.recordings->traceSets.empty();
   const bool recordInView = records && mCurrentFile >= 0;
   const bool shotInView = traces && recordInView;
-  const bool computed = mDocument.has_tomographic_info;
+  const bool computed = mDocument.result->has_tomographic_info;
   const QUndoStack& edits = *mUi->showTracesWidget->undoStack();
 
   const std::pair<QAction*, bool> states[] = {

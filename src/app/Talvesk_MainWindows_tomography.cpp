@@ -7,6 +7,8 @@
 #include "app/Talvesk_MainWindows.h"
 #include "app/progressTomographyDialog.h"
 #include "app/runTomography_Dialog.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/InversionCopy.h"
 #include "tomo/LeftOut.h"
 #include "ui_Talvesk_MainWindows.h"
@@ -28,8 +30,8 @@ void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
                 tr("Do you want to run tomography inversion anyway? "), false)) {
     return;
   }
-  runTomography_Dialog dialog(mDocument.minVelocity, mDocument.maxVelocity, this);
-  if (mDocument.grid == nullptr) {
+  runTomography_Dialog dialog(mDocument.model->minVelocity, mDocument.model->maxVelocity, this);
+  if (mDocument.model->grid == nullptr) {
     mLog.write("grid does not exist; ask for parameter");
     if (!makeGrid()) return;
   }
@@ -37,8 +39,8 @@ void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
   if (dialog.exec() != QDialog::Accepted) return;
   TomographyParameters parameters = dialog.parameters();
   parameters.asked = asked;
-  mDocument.minVelocity = parameters.minVelocity;
-  mDocument.maxVelocity = parameters.maxVelocity;
+  mDocument.model.edit().minVelocity = parameters.minVelocity;
+  mDocument.model.edit().maxVelocity = parameters.maxVelocity;
   documentModified();
   const TomographyResult result = runInversionBeside(parameters);
   if (mCloseAfterInversion) {
@@ -116,7 +118,7 @@ void Talvesk_MainWindows::askToStopAndClose() {
 
 /// Grid or results are others than before.
 void Talvesk_MainWindows::modelChanged() {
-  if (!mDocument.has_tomographic_info) mUi->showSimTT_CB->setChecked(false);
+  if (!mDocument.result->has_tomographic_info) mUi->showSimTT_CB->setChecked(false);
   for (editTravelTimesWidget* editor : editors()) editor->update();
   refreshPlots();
   refreshSection();
@@ -135,7 +137,7 @@ void Talvesk_MainWindows::showInversion(const TomographyResult& result) {
   }
   if (result.iterationsDone == 0) return;
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
-  const QStringList left = leftOutNames(leftOut(mDocument, mDocument.excluded));
+  const QStringList left = leftOutNames(leftOut(mDocument, mDocument.result->excluded));
   QString outcome = tr("%n external iteration(s) completed.", nullptr, result.iterationsDone);
   if (!left.isEmpty()) {
     outcome += QLatin1Char(' ') + tr("Left out: %1.").arg(left.join(QStringLiteral("; ")));

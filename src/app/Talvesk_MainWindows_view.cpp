@@ -1,6 +1,8 @@
 #include "app/Talvesk_MainWindows.h"
 #include "figures/ProfileLines.h"
+#include "model/GroundModel.h"
 #include "model/SurveyFacts.h"
+#include "model/TomographyOutcome.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "view/RefractorLines.h"
 #include "widgets/SectionView.h"
@@ -124,7 +126,7 @@ bool Talvesk_MainWindows::hasInformationDensity() const {
 void Talvesk_MainWindows::refreshSectionCommands() {
   if (mInversion != nullptr) return;  // all commands are locked
   // Even of a grid whose cells have no value of this quantity another may be chosen.
-  const bool section = mDocument.grid && mDocument.grid->cellCount() > 0;
+  const bool section = mDocument.model->grid && mDocument.model->grid->cellCount() > 0;
   // Before there is a grid the layered profile may be shown alone.
   const bool picture = section || (mSection.refraction && !refractorLines(mInterpretation).empty());
   const SectionQuantity quantity = mSection.quantity;
@@ -136,7 +138,7 @@ void Talvesk_MainWindows::refreshSectionCommands() {
       {mUi->actionShow_Tomographic_Profile, section, mSection.profile},
       {mUi->actionGrid_view, section, !mSection.smooth},
       {mUi->actionSmooth_view, section, mSection.smooth},
-      {mUi->actionShow_rays, section && !mDocument.rays.empty(), mSection.rays},
+      {mUi->actionShow_rays, section && !mDocument.result->rays.empty(), mSection.rays},
       {mUi->actionShow_Information_Density_Layer, section && hasInformationDensity(),
        quantity == SectionQuantity::kInformationDensity},
       {mUi->actionVertical_Gradient, section, quantity == SectionQuantity::kVerticalGradient},
@@ -161,12 +163,12 @@ QString Talvesk_MainWindows::whyNoSection() const {
     return heading.arg(tr("No section yet"),
                        tr("Load shot files or travel times with the File menu first."));
   }
-  if (!mDocument.grid) {
+  if (!mDocument.model->grid) {
     return heading.arg(tr("No section yet"),
                        tr("Build a grid with <b>Project &gt; Grid ...</b>, then invert the picks "
                           "with <b>Processing &gt; Run tomography inversion</b>."));
   }
-  if (mDocument.grid->cellCount() == 0) {
+  if (mDocument.model->grid->cellCount() == 0) {
     return heading.arg(tr("The grid has no cells"),
                        tr("Build another one with <b>Project &gt; Grid ...</b> and give it a depth "
                           "greater than the cell size."));

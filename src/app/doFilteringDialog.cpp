@@ -3,6 +3,7 @@
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
+#include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "ui_doFilteringDialog.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -23,7 +24,7 @@ constexpr double kMostOfScreen = 0.92;
 TraceSet workingCopyOf(const TraceSet& traces, bool ofFiltered) {
   TraceSet copy = traces;
   if (ofFiltered) {
-    for (Trace& trace : copy) trace.samples = trace.filtered;
+    for (Trace& trace : copy) trace.samples.edit() = trace.filtered;
   }
   return copy;
 }
@@ -71,8 +72,9 @@ void doFilteringDialog::setTraceOptions(const TraceViewOptions& options) {
 }
 
 void doFilteringDialog::describeShot() {
-  const QString shot =
-      tr("Shot %1 of %2").arg(mShot + 1).arg(static_cast<int>(mDocument.traceSets.size()));
+  const QString shot = tr("Shot %1 of %2")
+                           .arg(mShot + 1)
+                           .arg(static_cast<int>(mDocument.recordings->traceSets.size()));
   mUi->shotLabel->setText(
       mOthers.empty() ? shot : shot + QLatin1Char('\n') + tr("The filter goes to all shots."));
 }
@@ -95,12 +97,13 @@ void doFilteringDialog::connectControls() {
 void doFilteringDialog::makeWorkingCopy() {
   mUi->tracesWidget->setDocument(nullptr);
   const auto shot = static_cast<std::size_t>(mShot);
-  mCopy.traceSets = {workingCopyOf(mDocument.traceSets[shot], mUi->applyToFiltered->isChecked())};
+  mCopy.recordings.edit().traceSets = {
+      workingCopyOf(mDocument.recordings->traceSets[shot], mUi->applyToFiltered->isChecked())};
   TravelTime record;
   if (shot < mDocument.ttArray.size()) record.shotPos2d = mDocument.ttArray[shot].shotPos2d;
   record.indexStesa = -1;  // positions are those of the traces
-  record.ttMisurati.assign(mCopy.traceSets.front().size(), kUnpicked);
-  mCopy.ttArray = {record};
+  record.ttMisurati.edit().assign(mCopy.recordings->traceSets.front().size(), kUnpicked);
+  mCopy.ttArray.edit() = {record};
   mUi->tracesWidget->setDocument(&mCopy);
   mUi->tracesWidget->setShot(0);
 }
@@ -149,16 +152,16 @@ bool doFilteringDialog::mayFilter(const BandFilter& wanted) {
 }
 
 void doFilteringDialog::copyBack(const TraceSet& traces, std::int32_t shot) {
-  TraceSet& target = mDocument.traceSets[static_cast<std::size_t>(shot)];
+  TraceSet& target = mDocument.recordings->traceSets[static_cast<std::size_t>(shot)];
   for (std::size_t t = 0; t < std::min(traces.size(), target.size()); ++t) {
-    target[t].filtered = traces[t].filtered;
+    target[t].filtered.edit() = traces[t].filtered;
   }
 }
 
 FilterOutcome doFilteringDialog::filterOthers(const BandFilter& wanted) {
   FilterOutcome sum;
   for (const std::int32_t shot : mOthers) {
-    TraceSet copy = workingCopyOf(mDocument.traceSets[static_cast<std::size_t>(shot)],
+    TraceSet copy = workingCopyOf(mDocument.recordings->traceSets[static_cast<std::size_t>(shot)],
                                   mUi->applyToFiltered->isChecked());
     HighestFrequency highest;
     highest.see(computeSpectrum(copy, true));

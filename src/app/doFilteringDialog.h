@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Recordings.h"
 #include "model/TomoDocument.h"
 #include "processing/ShotFilters.h"
 #include "processing/Spectrum.h"
@@ -43,7 +44,7 @@ class doFilteringDialog : public QDialog {
  private:
   void connectControls();
   void describeShot();
-  TraceSet& workingTraces() { return mCopy.traceSets.front(); }
+  TraceSet& workingTraces() { return mCopy.recordings->traceSets.front(); }
   void makeWorkingCopy();
   void showWorkingCopy();
   void showCorners();

@@ -4,6 +4,8 @@
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "ui_gridDialog.h"
 
 #include <QLocale>
@@ -83,7 +85,7 @@ gridDialog::Value gridDialog::fill(double exact, double most, QDoubleSpinBox& bo
 
 /// The cell size that suits the geophones, or that of the grid there is: without one the least.
 void gridDialog::propose(bool on) {
-  const double present = mSurvey.grid ? mSurvey.grid->aLato() : 0.0;
+  const double present = mSurvey.model->grid ? mSurvey.model->grid->aLato() : 0.0;
   mCell = fill(on ? mProposedCell : present, mUi->cellSizeEdit->maximum(), *mUi->cellSizeEdit);
   mUi->proposeCBox->setChecked(on);
 }
@@ -138,7 +140,7 @@ QStringList gridDialog::warningsOf(const GridPreview& preview) const {
                    "iterations. A quarter of the geophone spacing is %1 m.")
                     .arg(QLocale().toString(mProfile.proposedCellSize, 'f', 2));
   }
-  if (mSurvey.has_tomographic_info) {
+  if (mSurvey.result->has_tomographic_info) {
     warnings << tr("The results of the last inversion will be lost.");
   }
   return warnings;

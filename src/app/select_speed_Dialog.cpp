@@ -6,6 +6,8 @@
 #include "app/WaitCursor.h"
 #include "app/setVelocityWidget.h"
 #include "base/Console.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/GridSetup.h"
 #include "tomo/StartingModel.h"
 #include "ui_select_speed_Dialog.h"
@@ -37,13 +39,14 @@ select_speed_Dialog::select_speed_Dialog(TomoDocument& document, QWidget* parent
 select_speed_Dialog::~select_speed_Dialog() = default;
 
 double select_speed_Dialog::gridDepth() const {
-  return mDocument.grid ? mDocument.grid->righe() * mDocument.grid->aLato() : 0.0;
+  return mDocument.model->grid ? mDocument.model->grid->righe() * mDocument.model->grid->aLato()
+                               : 0.0;
 }
 
 void select_speed_Dialog::setDocument() {
   mUi->widget->setGridDepth(gridDepth());
-  for (const VelocityLayer& layer : mDocument.layers) addRow(layer);
-  if (mDocument.layers.empty()) addRow(defaultLayer(gridDepth()));
+  for (const VelocityLayer& layer : mDocument.model->layers) addRow(layer);
+  if (mDocument.model->layers.empty()) addRow(defaultLayer(gridDepth()));
   mAtFirst = layers();
   showModel(mAtFirst);
   row(0)->focusFirstField();
@@ -97,14 +100,15 @@ void select_speed_Dialog::onLineeditmod() {
 
 /// Whether the layers make a model for the grid.
 Status select_speed_Dialog::check(const std::vector<VelocityLayer>& layers) const {
-  return mDocument.grid ? checkLayers(mDocument.grid->geometry().size(), layers) : Status();
+  return mDocument.model->grid ? checkLayers(mDocument.model->grid->geometry().size(), layers)
+                               : Status();
 }
 
 void select_speed_Dialog::showModel(const std::vector<VelocityLayer>& layers) {
   mUi->widget->setLayers(layers);
   const Status status = check(layers);
   QString text = textOf(status.text());
-  if (status.ok() && mDocument.has_tomographic_info) {
+  if (status.ok() && mDocument.result->has_tomographic_info) {
     text = tr("The results of the last inversion will be lost.");
   }
   mUi->problemLabel->setText(text);
@@ -157,9 +161,10 @@ bool select_speed_Dialog::wantsLayersAgain() {
   if (startingModelOf(mDocument) == StartingModel::kLayered) return false;
   const QString question = tr("Do you want to put them into the grid all the same?");
   const QString lost = tr("The results of the last inversion will be lost.");
-  return askYesNo(this, tr("Define model velocity"), tr("You have not changed the layers."),
-                  mDocument.has_tomographic_info ? question + QLatin1Char('\n') + lost : question,
-                  false);
+  return askYesNo(
+      this, tr("Define model velocity"), tr("You have not changed the layers."),
+      mDocument.result->has_tomographic_info ? question + QLatin1Char('\n') + lost : question,
+      false);
 }
 
 void select_speed_Dialog::accept() {

@@ -7,6 +7,7 @@
 #include "batch/OutputFiles.h"
 #include "io/GeometryFile.h"
 #include "io/TravelTimeFile.h"
+#include "model/SurveyLine.h"
 
 #include <filesystem>
 #include <ostream>
@@ -43,7 +44,7 @@ struct DemoPlaces {
 Status writePositions(const TomoDocument& line, const DemoPlaces& places) {
   constexpr const char* kSeparator = ";";
   GeometryRecords geophones;
-  for (const Point2D& point : line.goephonesStringSet.front()) {
+  for (const Point2D& point : line.line->goephonesStringSet.front()) {
     geophones.push_back({point.x, point.z});
   }
   GeometryRecords shots;

@@ -1,6 +1,7 @@
 #include "batch/DemoLine.h"
 
 #include "batch/DemoNoise.h"
+#include "model/SurveyLine.h"
 #include "tomo/ShortestPaths.h"
 
 #include <algorithm>
@@ -50,13 +51,13 @@ Point2D onSurface(double x) {
 void layOut(TomoDocument& line) {
   std::vector<Point2D> geophones;
   for (int i = 0; i < kGeophones; ++i) geophones.push_back(onSurface(kSpacing * i));
-  line.goephonesStringSet = {geophones};
+  line.line.edit().goephonesStringSet = {geophones};
   for (const double x : kShots) {
     TravelTime record;
     record.shotPos2d = onSurface(x);
     record.traceSetID = static_cast<std::int32_t>(line.ttArray.size());
-    line.ttArray.push_back(std::move(record));
-    line.shotPositions.push_back(x);
+    line.ttArray.edit().push_back(std::move(record));
+    line.line.edit().shotPositions.push_back(x);
   }
 }
 
@@ -94,9 +95,9 @@ void fireShots(TomoDocument& line, const Grid& grid, double xOffset) {
   const auto work = [&](std::size_t first) {
     ShortestPaths paths;
     for (std::size_t shot = first; shot < line.ttArray.size(); shot += workers) {
-      TravelTime& record = line.ttArray[shot];
-      record.ttMisurati =
-          timesFrom(grid, paths, xOffset, record.shotPos2d, line.goephonesStringSet.front());
+      TravelTime& record = line.ttArray.edit()[shot];
+      record.ttMisurati.edit() =
+          timesFrom(grid, paths, xOffset, record.shotPos2d, line.line->goephonesStringSet.front());
     }
   };
   std::vector<std::future<void>> running;
@@ -108,8 +109,8 @@ void fireShots(TomoDocument& line, const Grid& grid, double xOffset) {
 
 void addNoise(TomoDocument& line) {
   DemoNoise noise(kNoiseSeed);
-  for (TravelTime& record : line.ttArray) {
-    for (double& time : record.ttMisurati) {
+  for (TravelTime& record : line.ttArray.edit()) {
+    for (double& time : record.ttMisurati.edit()) {
       time = std::max(time + kNoise * noise.next(), kShortestTime);
     }
   }

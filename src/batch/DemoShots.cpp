@@ -1,6 +1,7 @@
 #include "batch/DemoShots.h"
 
 #include "batch/DemoNoise.h"
+#include "model/SurveyLine.h"
 
 #include <algorithm>
 #include <cmath>
@@ -105,7 +106,8 @@ std::vector<Seg2Record> demoShots(const TomoDocument& line) {
   std::vector<Seg2Record> records;
   std::uint64_t traceNumber = 0;
   for (const TravelTime& shot : line.ttArray) {
-    const auto& geophones = line.goephonesStringSet[static_cast<std::size_t>(shot.indexStesa)];
+    const auto& geophones =
+        line.line->goephonesStringSet[static_cast<std::size_t>(shot.indexStesa)];
     Seg2Record record;
     record.source = shot.shotPos2d;
     record.receivers = geophones;

@@ -12,7 +12,9 @@
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
+#include "model/GeographicsCoord.h"
 #include "model/Residuals.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "tomo/LeftOut.h"
 #include "tomo/RayRecomputation.h"
@@ -97,9 +99,9 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
   if (options.images.empty() && options.report.empty()) return {};
   prepareDrawing();
   Log log;
-  if (!document.has_tomographic_info) return {};
+  if (!document.result->has_tomographic_info) return {};
   const Status status = recomputeRays(document, log);
-  for (const std::string& line : describe(leftOut(document, document.excluded), document)) {
+  for (const std::string& line : describe(leftOut(document, document.result->excluded), document)) {
     warn(line);
   }
   if (picksChangedSince(document)) warn("picks have changed since the inversion");
@@ -134,8 +136,8 @@ int run(const ExportOptions& options) {
     return chosen;
   }
   if (options.geography) {
-    project.document.geoCoord = *options.geography;
-    project.document.geoCoord_isSet = true;
+    project.document.map.edit().geoCoord = *options.geography;
+    project.document.map.edit().geoCoord_isSet = true;
   }
   warnOfOldProfile(options, project);
   return writeFiles(options, project, range, *channels.summary);

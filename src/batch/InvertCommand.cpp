@@ -11,7 +11,9 @@
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
 #include "grid/GridBuilder.h"
+#include "model/GroundModel.h"
 #include "model/SurveyFacts.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/GridPreview.h"
 #include "tomo/LeftOut.h"
@@ -42,7 +44,8 @@ std::vector<std::string> inputsOf(const InvertOptions& options) {
 
 /// A project continues from the grid that it has, as it would in the window.
 bool continues(const InvertOptions& options, const TomoDocument& document) {
-  return !options.ownGrid && document.grid != nullptr && document.grid->cellCount() > 0;
+  return !options.ownGrid && document.model->grid != nullptr &&
+         document.model->grid->cellCount() > 0;
 }
 
 Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log) {
@@ -73,7 +76,7 @@ void warnAboutChoices(const TomographyParameters& parameters, const TomoDocument
 }
 
 std::string otherCellSizes(const TomoDocument& document) {
-  const Grid& grid = *document.grid;
+  const Grid& grid = *document.model->grid;
   const NearestSizes nearest = reachingCellSizes(
       document.surveyProfile(), {grid.righe() * grid.aLato(), grid.aLato(), grid.nV()});
   std::string sizes;
@@ -98,8 +101,8 @@ Status tellWhatIsLeftOut(const TomoDocument& document) {
 
 TomographyParameters parametersOf(const InvertOptions& options, const TomoDocument& document) {
   TomographyParameters parameters = options.parameters;
-  parameters.minVelocity = options.minVelocity.value_or(document.minVelocity);
-  parameters.maxVelocity = options.maxVelocity.value_or(document.maxVelocity);
+  parameters.minVelocity = options.minVelocity.value_or(document.model->minVelocity);
+  parameters.maxVelocity = options.maxVelocity.value_or(document.model->maxVelocity);
   return parameters;
 }
 
@@ -126,7 +129,7 @@ void summarizeSection(const SectionMisfit& misfit, std::ostream& out) {
 
 void summarize(const InvertOptions& options, const TomoDocument& document,
                const TomographyResult& result, std::ostream& out) {
-  const Grid& grid = *document.grid;
+  const Grid& grid = *document.model->grid;
   const Misfit& misfit = result.misfit;
   out << "Grid: " << grid.righe() << " rows, " << grid.col() << " columns of "
       << formatDouble(grid.aLato()) << " m, " << grid.nV() << " nodes per side\n"
@@ -141,7 +144,7 @@ void summarize(const InvertOptions& options, const TomoDocument& document,
       << formatDouble(misfit.relativeRms * 100.0) << "\n"
       << "MaxError: [ms] " << formatDouble(misfit.maxError * 1000.0) << "; [%] "
       << formatDouble(misfit.maxRelativeError * 100.0) << "\n"
-      << "Picks used: " << misfit.count << " of " << leftOut(document, document.excluded).of
+      << "Picks used: " << misfit.count << " of " << leftOut(document, document.result->excluded).of
       << std::endl;
 }
 

@@ -7,8 +7,12 @@
 #include "batch/Failure.h"
 #include "io/ProjectLock.h"
 #include "io/ProjectWriter.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/LeftOut.h"
@@ -48,10 +52,10 @@ void describeInversion(const TomoDocument& document, std::ostream& out) {
     out << ", RMS misfit of the section " << formatDouble(misfit.rmse * 1000.0) << " ms, "
         << formatDouble(misfit.relativeRms * 100.0) << " %";
   }
-  if (document.RMSE_tomography >= 0.0) {
-    out << ", last solver pass " << formatDouble(document.RMSE_tomography) << " %";
+  if (document.result->RMSE_tomography >= 0.0) {
+    out << ", last solver pass " << formatDouble(document.result->RMSE_tomography) << " %";
   }
-  if (document.smoothedResult) out << "; smoothed since";
+  if (document.result->smoothedResult) out << "; smoothed since";
   if (picksChangedSince(document)) out << "; picks have changed since";
   out << "\n";
   for (const std::string& line : describe(leftOut(document, findExcluded(document)), document)) {
@@ -111,25 +115,25 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
   std::size_t traces = 0;
   std::size_t times = 0;
   std::size_t picks = 0;
-  for (const auto& string : document.goephonesStringSet) geophones += string.size();
-  for (const TraceSet& set : document.traceSets) traces += set.size();
+  for (const auto& string : document.line->goephonesStringSet) geophones += string.size();
+  for (const TraceSet& set : document.recordings->traceSets) traces += set.size();
   for (const TravelTime& record : document.ttArray) {
     times += record.ttMisurati.size();
     picks += pickCount(record);
   }
   out << asOneLine(path) << "\n  format      project\n  title       " << asOneLine(document.title)
-      << "\n  strings     " << document.goephonesStringSet.size() << "\n  geophones   " << geophones
-      << "\n  shots       " << document.ttArray.size() << "\n  traces      " << traces << " of "
-      << countOf(document.traceSets.size(), "file") << "\n  picks       " << picks << " of "
-      << times << " times\n  grid        ";
-  if (const Grid* grid = document.grid.get()) {
+      << "\n  strings     " << document.line->goephonesStringSet.size() << "\n  geophones   "
+      << geophones << "\n  shots       " << document.ttArray.size() << "\n  traces      " << traces
+      << " of " << countOf(document.recordings->traceSets.size(), "file") << "\n  picks       "
+      << picks << " of " << times << " times\n  grid        ";
+  if (const Grid* grid = document.model->grid.get()) {
     out << countOf(grid->righe(), "row") << ", " << countOf(grid->col(), "column") << " of "
         << formatDouble(grid->aLato()) << " m\n";
   } else {
     out << "none\n";
   }
   out << "  inversion   ";
-  if (!document.has_tomographic_info) {
+  if (!document.result->has_tomographic_info) {
     out << "none\n";
   } else {
     describeInversion(document, out);

@@ -10,6 +10,7 @@
 #include "batch/ShotPicking.h"
 #include "figures/RefractionFigure.h"
 #include "io/LayerFile.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/Branches.h"
 #include "refraction/BuildProfiles.h"
 #include "refraction/LayerProposal.h"
@@ -132,7 +133,7 @@ std::vector<std::string> inputsOf(const RefractOptions& options) {
 
 /// The section of a project is drawn in a report, and its rays are not in the project.
 Status prepareReport(const RefractOptions& options, TomoDocument& document) {
-  if (options.report.empty() || !document.has_tomographic_info) return {};
+  if (options.report.empty() || !document.result->has_tomographic_info) return {};
   Log log;
   return recomputeRays(document, log);
 }

@@ -1,9 +1,14 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 
 namespace talvesk {
@@ -49,13 +54,13 @@ Json recordJson(const TravelTime& record) {
 }
 
 Json gridJson(const TomoDocument& document) {
-  const Grid& grid = *document.grid;
+  const Grid& grid = *document.model->grid;
   Json json = Json::object();
   json["righe"] = grid.righe();
   json["col"] = grid.col();
   json["nV"] = grid.nV();
   json["aLato"] = grid.aLato();
-  json["x_offset"] = document.xOffset;
+  json["x_offset"] = document.model->xOffset;
   return json;
 }
 
@@ -115,20 +120,20 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   json["max_error_ms"] = ofPicks(misfit, misfit.maxError * 1000.0);
   json["max_error_percent"] = ofPicks(misfit, misfit.maxRelativeError * 100.0);
   json["picks_used"] = misfit.count;
-  json["excluded"] = excludedJson(document.excluded);
+  json["excluded"] = excludedJson(document.result->excluded);
   json["misfit_history"] = historyJson(result.history);
-  json["velocities"] = document.grid->velocities();
-  json["hit_counts"] = document.hitCounts;
-  json["coverage_m"] = document.coorcount;
-  json["info_density"] = document.info_density;
+  json["velocities"] = document.model->grid->velocities();
+  json["hit_counts"] = document.result->hitCounts;
+  json["coverage_m"] = document.result->coorcount;
+  json["info_density"] = document.result->info_density;
   Json drawn = Json::array();
-  for (std::uint32_t cell = 0; cell < document.grid->cellCount(); ++cell) {
-    drawn.push_back(document.grid->draw(cell));
+  for (std::uint32_t cell = 0; cell < document.model->grid->cellCount(); ++cell) {
+    drawn.push_back(document.model->grid->draw(cell));
   }
   json["to_be_draw"] = std::move(drawn);
   json["computed_times"] = result.lastPassTimes;
   putSectionMisfit(json, result.sectionMisfit);
-  json["section_history"] = sectionHistoryJson(document.sectionHistory);
+  json["section_history"] = sectionHistoryJson(document.result->sectionHistory);
   json["section_times"] = sectionTimesJson(document);
   json["computing_s"] = result.computingSeconds;
   return linePerKey(json) + "\n";
@@ -175,9 +180,9 @@ std::string picksJson(const TomoDocument& document, const std::string& filter) {
   Json shots = Json::array();
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const TravelTime& record = document.ttArray[i];
-    const TraceSet& traces = document.traceSets[i];
+    const TraceSet& traces = document.recordings->traceSets[i];
     Json shot = recordJson(record);
-    shot["file"] = document.filenames[i];
+    shot["file"] = document.recordings->filenames[i];
     shot["samples_before_shot"] = traces.empty() ? 0 : traces.front().droppedSamples;
     shot["accepted"] = pickCount(record);
     shot["rejected"] = record.ttMisurati.size() - pickCount(record);
@@ -185,7 +190,7 @@ std::string picksJson(const TomoDocument& document, const std::string& filter) {
   }
   Json json = Json::object();
   json["filter"] = filter;
-  json["strings"] = stringsJson(document.goephonesStringSet);
+  json["strings"] = stringsJson(document.line->goephonesStringSet);
   json["shots"] = std::move(shots);
   return linePerKey(json) + "\n";
 }
@@ -199,21 +204,23 @@ std::string projectJson(const LoadedProject& project) {
     const std::string path = shotFile(document, i);
     const std::string file = path.substr(path.find_last_of('/') + 1);
     shot["file"] = file.empty() ? Json(nullptr) : Json(file);
-    shot["traces"] = i < document.traceSets.size() ? document.traceSets[i].size() : 0;
+    shot["traces"] =
+        i < document.recordings->traceSets.size() ? document.recordings->traceSets[i].size() : 0;
     shot["computed_times"] = record.ttCalcolati;
     shots.push_back(std::move(shot));
   }
   Json json = Json::object();
   json["format"] = "tvsk";
   json["title"] = document.title;
-  json["wave_type"] = document.waveType == WaveType::S ? "S" : "P";
-  json["strings"] = stringsJson(document.goephonesStringSet);
+  json["wave_type"] = document.recordings->waveType == WaveType::S ? "S" : "P";
+  json["strings"] = stringsJson(document.line->goephonesStringSet);
   json["shots"] = std::move(shots);
-  json["has_tomographic_info"] = document.has_tomographic_info;
-  json["rms_percent"] =
-      document.RMSE_tomography < 0.0 ? Json(nullptr) : Json(document.RMSE_tomography);
+  json["has_tomographic_info"] = document.result->has_tomographic_info;
+  json["rms_percent"] = document.result->RMSE_tomography < 0.0
+                            ? Json(nullptr)
+                            : Json(document.result->RMSE_tomography);
   putSectionMisfit(json, sectionMisfitOf(document));
-  json["crs"] = document.geoCoord_isSet ? Json(document.geoCoord.CRS) : Json(nullptr);
+  json["crs"] = document.map->geoCoord_isSet ? Json(document.map->geoCoord.CRS) : Json(nullptr);
   json["palette"] = project.palettes.current().name;
   json["layered_shots"] = project.interpretation.ttLayer.size();
   const auto& profile = project.interpretation.refractData;
@@ -223,10 +230,10 @@ std::string projectJson(const LoadedProject& project) {
                                             ? Json(nullptr)
                                             : Json(picksChangedSince(document, profile));
   json["grid"] = nullptr;
-  if (document.grid != nullptr) {
+  if (document.model->grid != nullptr) {
     json["grid"] = gridJson(document);
-    json["velocities"] = document.grid->velocities();
-    json["info_density"] = document.info_density;
+    json["velocities"] = document.model->grid->velocities();
+    json["info_density"] = document.result->info_density;
   }
   return linePerKey(json) + "\n";
 }

@@ -5,8 +5,10 @@
 #include "batch/ProjectFiles.h"
 #include "io/GeometryFile.h"
 #include "io/ShotLoader.h"
+#include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
+#include "model/SurveyLine.h"
 #include "processing/FirstBreak.h"
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
@@ -52,17 +54,17 @@ Status placeGeophones(const ShotOptions& options, TomoDocument& document) {
   std::vector<Point2D> geophones;
   Status status = readPositions(options.geophones, options.separator, false, geophones);
   if (!status.ok()) return status;
-  for (std::size_t i = 0; i < document.traceSets.size(); ++i) {
-    TraceSet& traces = document.traceSets[i];
+  for (std::size_t i = 0; i < document.recordings->traceSets.size(); ++i) {
+    TraceSet& traces = document.recordings.edit().traceSets[i];
     if (traces.size() != geophones.size()) {
       return Status::failure(options.geophones + ": " + std::to_string(geophones.size()) +
                              " geophones do not fit the " + std::to_string(traces.size()) +
-                             " traces of " + document.filenames[i]);
+                             " traces of " + document.recordings->filenames[i]);
     }
     for (std::size_t t = 0; t < traces.size(); ++t) traces[t].receiverPosition = geophones[t];
-    document.ttArray[i].indexStesa = 0;
+    document.ttArray.edit()[i].indexStesa = 0;
   }
-  document.goephonesStringSet = {std::move(geophones)};
+  document.line.edit().goephonesStringSet = {std::move(geophones)};
   return {};
 }
 
@@ -70,15 +72,15 @@ Status placeShots(const ShotOptions& options, TomoDocument& document) {
   std::vector<Point2D> shots;
   Status status = readPositions(options.shots, options.separator, true, shots);
   if (!status.ok()) return status;
-  if (shots.size() != document.traceSets.size()) {
+  if (shots.size() != document.recordings->traceSets.size()) {
     return Status::failure(options.shots + ": " + std::to_string(shots.size()) +
-                           " shots do not fit " + std::to_string(document.traceSets.size()) +
-                           " shot files");
+                           " shots do not fit " +
+                           std::to_string(document.recordings->traceSets.size()) + " shot files");
   }
   for (std::size_t i = 0; i < shots.size(); ++i) {
-    for (Trace& trace : document.traceSets[i]) trace.sourcePosition = shots[i];
-    document.ttArray[i].shotPos2d = shots[i];
-    document.shotPositions[i] = shots[i].x;
+    for (Trace& trace : document.recordings.edit().traceSets[i]) trace.sourcePosition = shots[i];
+    document.ttArray.edit()[i].shotPos2d = shots[i];
+    document.line.edit().shotPositions[i] = shots[i].x;
   }
   return {};
 }
@@ -103,7 +105,7 @@ void levelShots(const ShotOptions& options, const PickingManner& manner, TomoDoc
 void warnOfHeap(const TomoDocument& document) {
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const auto string = static_cast<std::size_t>(document.ttArray[i].indexStesa);
-    const std::vector<Point2D>& geophones = document.goephonesStringSet[string];
+    const std::vector<Point2D>& geophones = document.line->goephonesStringSet[string];
     std::set<double> places;
     for (const Point2D& geophone : geophones) places.insert(geophone.x);
     if (places.size() == geophones.size()) continue;
@@ -112,7 +114,7 @@ void warnOfHeap(const TomoDocument& document) {
                            : std::to_string(geophones.size()) + " receivers are at only " +
                                  std::to_string(places.size()) +
                                  " places, and picks are judged by those distances";
-    warn(document.filenames[i] + ": " + heap +
+    warn(document.recordings->filenames[i] + ": " + heap +
          "; give their positions with --geophones and --shots");
   }
 }
@@ -120,7 +122,7 @@ void warnOfHeap(const TomoDocument& document) {
 void startAtShot(const ShotOptions& options, const PickingManner& manner, TomoDocument& document) {
   const auto early = [](const Trace& trace) { return trace.delay < 0.0; };
   const bool anyEarly =
-      std::any_of(document.traceSets.begin(), document.traceSets.end(),
+      std::any_of(document.recordings->traceSets.begin(), document.recordings->traceSets.end(),
                   [&](const TraceSet& set) { return std::any_of(set.begin(), set.end(), early); });
   if (!anyEarly) return;
   std::ostream& out = *manner.summary;
@@ -164,7 +166,7 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
     picks += pickCount(record);
   }
   out << "Shots: " << document.ttArray.size() << ", traces: " << traces
-      << ", geophone strings: " << document.goephonesStringSet.size() << "\n"
+      << ", geophone strings: " << document.line->goephonesStringSet.size() << "\n"
       << "Filter: " << nameOf(options.filter) << "\n"
       << "Picks: " << picks << " accepted, " << traces - picks << " rejected" << std::endl;
 }
@@ -180,8 +182,8 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
   levelShots(options, manner, document);
 
   std::vector<std::int32_t> shots;
-  for (std::size_t i = 0; i < document.traceSets.size(); ++i) {
-    if (!document.traceSets[i].empty()) shots.push_back(static_cast<std::int32_t>(i));
+  for (std::size_t i = 0; i < document.recordings->traceSets.size(); ++i) {
+    if (!document.recordings->traceSets[i].empty()) shots.push_back(static_cast<std::int32_t>(i));
   }
   if (shots.empty()) return Status::failure("the shot files hold no traces");
   if (!manner.quiet) warnOfHeap(document);

@@ -3,6 +3,7 @@
 #include "base/AtomicFile.h"
 #include "base/Console.h"
 #include "export/ExportFailure.h"
+#include "model/GroundModel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,8 +18,8 @@ constexpr double kUnknownVelocity = std::numeric_limits<double>::max();
 
 void printCells(std::ostream& out, const TomoDocument& document,
                 const GriddedTextOptions& options) {
-  const Grid& grid = *document.grid;
-  const double shift = options.surveyX ? document.xOffset : 0.0;
+  const Grid& grid = *document.model->grid;
+  const double shift = options.surveyX ? document.model->xOffset : 0.0;
   for (std::uint32_t cell = 0; cell < grid.cellCount(); ++cell) {
     if (!grid.draw(cell)) continue;
     const Point2D centre = grid.cellCentre(cell);
@@ -36,7 +37,7 @@ void announceGriddedText(const std::string& path) {
 
 Status writeGriddedText(const std::string& path, const TomoDocument& document,
                         const GriddedTextOptions& options) {
-  if (!document.grid) {
+  if (!document.model->grid) {
     return cannotWrite(path, noGrid());
   }
   if (!std::isfinite(options.lineY) || !std::isfinite(options.zOffset)) {

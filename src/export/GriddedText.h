@@ -7,6 +7,8 @@
 
 namespace talvesk {
 
+class Grid;
+
 /// How the columns of the gridded text are placed.
 struct GriddedTextOptions {
   double lineY = 0.0;    ///< Y coordinate of the line, metres

@@ -1,6 +1,7 @@
 #include "export/LinePlacement.h"
 
 #include "base/Console.h"
+#include "model/SurveyLine.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +14,7 @@ namespace talvesk {
 std::optional<LineEnds> lineEnds(const TomoDocument& document) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   LineEnds ends{kInfinity, -kInfinity};
-  for (const auto& string : document.goephonesStringSet) {
+  for (const auto& string : document.line->goephonesStringSet) {
     for (const Point2D& geophone : string) {
       if (!std::isfinite(geophone.x)) continue;
       ends.first = std::min(ends.first, geophone.x);

@@ -4,6 +4,8 @@
 #include "export/ExportFailure.h"
 #include "export/KmlDocument.h"
 #include "export/LinePlacement.h"
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
 #include "view/SectionValues.h"
 
 #include <algorithm>
@@ -44,7 +46,7 @@ struct Wall {
   double foot = std::numeric_limits<double>::infinity();  ///< elevation of the deepest drawn cell
 
   explicit Wall(const TomoDocument& document)
-      : mesh(sectionMesh(*document.grid, document.xOffset)) {
+      : mesh(sectionMesh(*document.model->grid, document.model->xOffset)) {
     forEachDrawn([this](std::size_t, const Rectangle& cell) { foot = std::min(foot, cell.lower); });
   }
 
@@ -80,10 +82,10 @@ std::vector<KmlDocument::Vertex> ringOf(const Rectangle& cell, const LineOnGlobe
 
 /// What stands in the way of an export, or an empty text.
 Message whyNot(const TomoDocument& document, const ColorPalette& palette, const ValueRange& range) {
-  if (!document.grid) return noGrid();
-  if (document.grid->cellCount() > kMaxCells) {
+  if (!document.model->grid) return noGrid();
+  if (document.model->grid->cellCount() > kMaxCells) {
     return Message::tr("the section has too many cells for this format, %1")
-        .arg(document.grid->cellCount());
+        .arg(document.model->grid->cellCount());
   }
   if (palette.color_gradient.empty()) return Message::tr("the palette has no colours");
   if (!std::isfinite(range.span()) || !(range.span() > 0.0)) {
@@ -105,13 +107,13 @@ std::string kmlColor(const ColorGradient& gradient, double fraction) {
 
 Status writeSectionKml(const std::string& path, const TomoDocument& document,
                        const ColorPalette& palette, ValueRange range) {
-  if (!document.geoCoord_isSet) return cannotWrite(path, noGeographicCoordinates());
+  if (!document.map->geoCoord_isSet) return cannotWrite(path, noGeographicCoordinates());
   const std::optional<LineEnds> ends = lineEnds(document);
   if (!ends) return cannotWrite(path, Message::tr("the survey has no geophones"));
   if (const Message why = whyNot(document, palette, range); !why.empty()) {
     return cannotWrite(path, why);
   }
-  const LineOnGlobe line(document.geoCoord);
+  const LineOnGlobe line(document.map->geoCoord);
   if (!line.status().ok()) return cannotWrite(path, line.status().text());
   tellUntransformed(path, line);
 
@@ -120,7 +122,7 @@ Status writeSectionKml(const std::string& path, const TomoDocument& document,
   const Wall wall(document);
   std::size_t shapes = 0;
   wall.forEachDrawn([&](std::size_t cell, const Rectangle& rectangle) {
-    const double velocity = document.grid->velocity(static_cast<std::uint32_t>(cell));
+    const double velocity = document.model->grid->velocity(static_cast<std::uint32_t>(cell));
     const auto ring = ringOf(rectangle, line, ends->first, wall.foot);
     if (std::isnan(velocity) || ring.empty()) return;
     const std::string color =

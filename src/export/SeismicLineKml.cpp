@@ -4,6 +4,8 @@
 #include "export/ExportFailure.h"
 #include "export/KmlDocument.h"
 #include "export/LinePlacement.h"
+#include "model/GeographicsCoord.h"
+#include "model/SurveyLine.h"
 
 #include <ostream>
 
@@ -37,17 +39,17 @@ class Marker {
 }  // namespace
 
 Status writeSeismicLineKml(const std::string& path, const TomoDocument& document) {
-  if (!document.geoCoord_isSet) return cannotWrite(path, noGeographicCoordinates());
+  if (!document.map->geoCoord_isSet) return cannotWrite(path, noGeographicCoordinates());
   const std::optional<LineEnds> ends = lineEnds(document);
   if (!ends) return cannotWrite(path, Message::tr("the survey has no geophones"));
-  const LineOnGlobe line(document.geoCoord);
+  const LineOnGlobe line(document.map->geoCoord);
   if (!line.status().ok()) return cannotWrite(path, line.status().text());
   tellUntransformed(path, line);
 
   KmlDocument kml("Shots and Receivers", "Content");
   Marker marker(kml, line, ends->first);
-  for (std::size_t s = 0; s < document.goephonesStringSet.size(); ++s) {
-    const std::vector<Point2D>& string = document.goephonesStringSet[s];
+  for (std::size_t s = 0; s < document.line->goephonesStringSet.size(); ++s) {
+    const std::vector<Point2D>& string = document.line->goephonesStringSet[s];
     for (std::size_t g = 0; g < string.size(); ++g) {
       marker.mark(QStringLiteral("G-%1-%2").arg(s).arg(g), string[g].x, kGeophoneColor);
     }

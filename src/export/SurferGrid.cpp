@@ -3,6 +3,7 @@
 #include "base/AtomicFile.h"
 #include "base/TextNumber.h"
 #include "export/ExportFailure.h"
+#include "model/GroundModel.h"
 #include "view/SectionValues.h"
 
 #include <algorithm>
@@ -41,7 +42,7 @@ struct Axis {
 class Raster {
  public:
   explicit Raster(const TomoDocument& document)
-      : mGrid(*document.grid), mMesh(sectionMesh(mGrid, document.xOffset)) {
+      : mGrid(*document.model->grid), mMesh(sectionMesh(mGrid, document.model->xOffset)) {
     for (std::uint32_t row = 0; row < mMesh.rows; ++row) {
       for (std::uint32_t column = 0; column < mMesh.columns; ++column) {
         if (!hasValue(row, column)) continue;
@@ -129,7 +130,7 @@ void Raster::print(std::ostream& out) const {
 }  // namespace
 
 Status writeSurferGrid(const std::string& path, const TomoDocument& document) {
-  if (!document.grid) {
+  if (!document.model->grid) {
     return cannotWrite(path, noGrid());
   }
   const Raster raster(document);

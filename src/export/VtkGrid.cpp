@@ -2,6 +2,8 @@
 
 #include "base/AtomicFile.h"
 #include "export/ExportFailure.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "view/SectionValues.h"
 
 #include <QByteArray>
@@ -113,12 +115,12 @@ std::vector<double> ofCells(const Cells& cells, const std::vector<double>& all) 
 void writeCellData(VtuWriter& vtu, const Cells& cells, const TomoDocument& document) {
   vtu.begin("CellData");
   vtu.attribute("Scalars", "Velocity (m/s)");
-  vtu.array("Float64", "Velocity (m/s)", ofCells(cells, document.grid->velocities()));
-  vtu.array("Float64", "Slowness (s/m)", ofCells(cells, document.grid->slownesses()));
+  vtu.array("Float64", "Velocity (m/s)", ofCells(cells, document.model->grid->velocities()));
+  vtu.array("Float64", "Slowness (s/m)", ofCells(cells, document.model->grid->slownesses()));
   vtu.array("Float64", "Vertical gradient (1/s)",
-            ofCells(cells, verticalGradientValues(*document.grid)));
-  if (document.has_tomographic_info) {
-    std::vector<double> density = document.info_density;
+            ofCells(cells, verticalGradientValues(*document.model->grid)));
+  if (document.result->has_tomographic_info) {
+    std::vector<double> density = document.result->info_density;
     for (double& value : density) {
       if (value < 0.0) value = kNone;  // no inversion came by this cell
     }
@@ -130,10 +132,10 @@ void writeCellData(VtuWriter& vtu, const Cells& cells, const TomoDocument& docum
 }  // namespace
 
 Status writeVtkGrid(const std::string& path, const TomoDocument& document) {
-  if (!document.grid) {
+  if (!document.model->grid) {
     return cannotWrite(path, noGrid());
   }
-  const Cells cells = drawnCells(sectionMesh(*document.grid, document.xOffset));
+  const Cells cells = drawnCells(sectionMesh(*document.model->grid, document.model->xOffset));
   if (cells.cells.empty()) return cannotWrite(path, noCellDrawn());
   if (cells.cells.size() > kMaxCells) {
     return cannotWrite(

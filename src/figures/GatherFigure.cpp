@@ -6,6 +6,7 @@
 #include "figures/GatherItems.h"
 #include "figures/GatherScene.h"
 #include "figures/SectionItems.h"
+#include "model/Recordings.h"
 #include "model/TomoDocument.h"
 
 #include <QByteArray>
@@ -186,7 +187,7 @@ Status writeGatherFigures(const TomoDocument& document, const GatherFigureOption
   written.clear();
   FigureFormat format{};
   if (Status status = figureFormatOf(path, format); !status.ok()) return status;
-  const std::size_t count = document.traceSets.size();
+  const std::size_t count = document.recordings->traceSets.size();
   if (count == 0) return Status::failure(Message::tr("The document has no traces to draw."));
   std::vector<std::size_t> shots;
   if (options.shot) {

@@ -3,7 +3,9 @@
 #include "base/TextNumber.h"
 #include "figures/DrawableValues.h"
 #include "figures/FigureWords.h"
+#include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "numerics/Medians.h"
 #include "view/SectionTexts.h"
@@ -36,7 +38,7 @@ const TravelTime* recordOf(const TomoDocument& document, std::size_t shot) {
   if (shot < records.size() && belongs(records[shot])) return &records[shot];
   const auto found = std::find_if(records.begin(), records.end(), belongs);
   if (found != records.end()) return &*found;
-  return records.size() == document.traceSets.size() ? &records[shot] : nullptr;
+  return records.size() == document.recordings->traceSets.size() ? &records[shot] : nullptr;
 }
 
 /// Positions that say something about every trace: known, and not all at one place.
@@ -49,7 +51,7 @@ bool tellApart(const std::vector<double>& positions) {
 
 std::vector<double> stringPositions(const TomoDocument& document, const TravelTime* record,
                                     std::size_t traces) {
-  const auto& strings = document.goephonesStringSet;
+  const auto& strings = document.line->goephonesStringSet;
   if (record == nullptr || record->indexStesa < 0) return {};
   const auto index = static_cast<std::size_t>(record->indexStesa);
   if (index >= strings.size() || strings[index].size() < traces) return {};
@@ -177,7 +179,7 @@ std::string titleOf(const TomoDocument& document, std::size_t shot, const Travel
   }
   QStringList parts;
   if (!title.empty()) parts += QString::fromStdString(title);
-  const std::size_t count = document.traceSets.size();
+  const std::size_t count = document.recordings->traceSets.size();
   QString number = count > 1 ? FigureWords::tr("Shot %1 of %2").arg(shot + 1).arg(count)
                              : FigureWords::tr("Shot %1").arg(shot + 1);
   // Where nothing else has a position, 0 is what stands for none.
@@ -258,7 +260,7 @@ void addTrace(const TraceSet& set, std::size_t channel, double x, const TravelTi
     ++(inside ? counts.picks : counts.hiddenPicks);
   }
   const bool filtered = options.filtered && !source.filtered.empty();
-  trace.samples = filtered ? &source.filtered : &source.samples;
+  trace.samples = filtered ? &*source.filtered : &*source.samples;
   if (!trace.samples->empty() && hasInterval(source)) {
     trace.intervalMs = 1e3 * source.sampleInterval;
     measure(trace, scene.window);
@@ -292,15 +294,15 @@ double GatherTrace::swing(std::size_t sample) const {
 
 Status buildGatherScene(const TomoDocument& document, std::size_t shot,
                         const GatherFigureOptions& options, GatherScene& scene) {
-  if (shot >= document.traceSets.size()) {
-    const std::size_t shots = document.traceSets.size();
+  if (shot >= document.recordings->traceSets.size()) {
+    const std::size_t shots = document.recordings->traceSets.size();
     return Status::failure(
         Message::tr("There is no shot %1 to draw: the document has %2 with traces.")
             .arg(shot + 1)
             .arg(shots == 1 ? Message::tr("1 shot") : Message::tr("%1 shots").arg(shots)));
   }
   if (Status status = checkOptions(options); !status.ok()) return status;
-  const TraceSet& set = document.traceSets[shot];
+  const TraceSet& set = document.recordings->traceSets[shot];
   const TravelTime* record = recordOf(document, shot);
   GatherScene made;
   made.byChannel = options.byChannel;

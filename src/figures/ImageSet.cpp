@@ -4,7 +4,10 @@
 #include "figures/GatherFigure.h"
 #include "figures/RefractionFigure.h"
 #include "figures/TravelTimeFigure.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
 #include "model/SurveyFacts.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <utility>
@@ -35,11 +38,11 @@ class Planner {
       : mDocument(document), mOptions(options) {}
 
   void addGathers() {
-    const std::size_t count = mDocument.traceSets.size();
+    const std::size_t count = mDocument.recordings->traceSets.size();
     const std::size_t first = mOptions.shot.value_or(0);
     const std::size_t end = mOptions.shot ? std::min(first + 1, count) : count;
     for (std::size_t shot = first; shot < end; ++shot) {
-      if (mDocument.traceSets[shot].empty()) continue;
+      if (mDocument.recordings->traceSets[shot].empty()) continue;
       GatherFigureOptions figure;
       setSize(figure);
       figure.shot = shot;
@@ -63,7 +66,8 @@ class Planner {
 
   void addSection(SectionQuantity quantity, bool smooth) {
     const bool density = quantity == SectionQuantity::kInformationDensity;
-    if (mDocument.grid == nullptr || (density && !mDocument.has_tomographic_info)) return;
+    if (mDocument.model->grid == nullptr || (density && !mDocument.result->has_tomographic_info))
+      return;
     SectionViewSettings view = mOptions.view;
     view.quantity = quantity;
     view.profile = true;

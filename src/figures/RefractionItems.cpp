@@ -3,6 +3,7 @@
 #include "figures/DrawableValues.h"
 #include "figures/FigureItem.h"
 #include "figures/SectionItems.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "numerics/Medians.h"
 
@@ -108,7 +109,7 @@ Point2D RefractionScene::upperRight() const {
 
 RefractionScene refractionScene(const TomoDocument& document, const processingData& results) {
   RefractionScene scene;
-  for (const auto& string : document.goephonesStringSet) {
+  for (const auto& string : document.line->goephonesStringSet) {
     scene.geophones.insert(scene.geophones.end(), string.begin(), string.end());
   }
   putInOrder(scene.geophones);

@@ -4,6 +4,7 @@
 #include "figures/ReportBuilder.h"
 #include "figures/ReportOdt.h"
 #include "figures/ReportPages.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 
 #include <QByteArray>
@@ -63,7 +64,7 @@ void Range::take(double value) {
 Status buildReport(const ReportSource& source, const ReportOptions& options,
                    ReportContent& content) {
   if (Status status = checkApplication("A report"); !status.ok()) return status;
-  if (source.document.ttArray.empty() && source.document.goephonesStringSet.empty()) {
+  if (source.document.ttArray.empty() && source.document.line->goephonesStringSet.empty()) {
     return Status::failure(
         Message::tr("There is no survey to report on: load shot files or travel times first."));
   }

@@ -1,7 +1,9 @@
 #include "figures/ReportBuilder.h"
 #include "figures/TravelTimeFigure.h"
+#include "model/GroundModel.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/Smoothing.h"
 
 #include <algorithm>
@@ -92,7 +94,7 @@ QString smoothingName(int type) {
 }
 
 void addGrid(ReportBuilder& builder) {
-  const Grid& grid = *builder.source.document.grid;
+  const Grid& grid = *builder.source.document.model->grid;
   ReportTable facts = ReportTable::ofFacts();
   facts.rows = {
       {ReportWords::tr("Cells"),
@@ -106,7 +108,7 @@ void addGrid(ReportBuilder& builder) {
 }
 
 void addLayers(ReportBuilder& builder) {
-  const auto layers = acceptedLayers(builder.source.document.layers);
+  const auto layers = acceptedLayers(builder.source.document.model->layers);
   ReportTable table{{{ReportWords::tr("Layer"), true},
                      {ReportWords::tr("Top [m]"), true},
                      {ReportWords::tr("Bottom [m]"), true},
@@ -221,17 +223,17 @@ Status addTravelTimes(ReportBuilder& builder) {
 void addInversion(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   builder.heading(ReportWords::tr("Grid and inversion"));
-  if (document.grid == nullptr) {
+  if (document.model->grid == nullptr) {
     builder.paragraph(ReportWords::tr("No grid has been built and nothing has been inverted."));
     return;
   }
   addGrid(builder);
   addLayers(builder);
-  if (!document.has_tomographic_info) {
+  if (!document.result->has_tomographic_info) {
     builder.paragraph(
         ReportWords::tr("Nothing has been inverted: the grid holds its starting model."));
-  } else if (document.lastInversion) {
-    addParameters(builder, *document.lastInversion);
+  } else if (document.result->lastInversion) {
+    addParameters(builder, *document.result->lastInversion);
   } else {
     builder.paragraph(ReportWords::tr("The parameters of the inversion are not known."));
   }
@@ -239,17 +241,17 @@ void addInversion(ReportBuilder& builder) {
 
 Status addSections(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
-  if (document.grid == nullptr) return {};
+  if (document.model->grid == nullptr) return {};
   builder.heading(ReportWords::tr("Velocity section"));
   SectionFigureOptions options = sectionOptions(builder, SectionQuantity::kVelocity);
-  options.scene.rays = builder.options.sections.rays && !document.rays.empty();
+  options.scene.rays = builder.options.sections.rays && !document.result->rays.empty();
   QString caption = ReportWords::tr("Velocity of the starting model");
-  if (document.has_tomographic_info) {
+  if (document.result->has_tomographic_info) {
     caption = options.scene.rays ? ReportWords::tr("Velocity section with rays")
                                  : ReportWords::tr("Velocity section");
   }
   Status status = addSection(builder, options, caption);
-  if (status.ok() && builder.options.sections.density && document.has_tomographic_info &&
+  if (status.ok() && builder.options.sections.density && document.result->has_tomographic_info &&
       hasInformationDensity(document)) {
     options = sectionOptions(builder, SectionQuantity::kInformationDensity);
     options.scene.rays = false;

@@ -2,6 +2,7 @@
 #include "figures/ReportBuilder.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/LeftOut.h"
 
 #include <algorithm>
@@ -32,7 +33,7 @@ void addSectionMisfit(ReportBuilder& builder, const SectionMisfit& misfit) {
                                                     .arg(misfit.maxShot + 1)
                                                     .arg(misfit.maxReceiver + 1)}};
   }
-  if (const LeftOut left = leftOut(document, document.excluded); left.any()) {
+  if (const LeftOut left = leftOut(document, document.result->excluded); left.any()) {
     facts.rows.push_back({ReportWords::tr("Left out"),
                           ReportWords::tr("Shots: %1; geophones: %2; picks: %3 of %4")
                               .arg(left.shotsBeyond.size() + left.shotsWithoutString.size())
@@ -41,7 +42,7 @@ void addSectionMisfit(ReportBuilder& builder, const SectionMisfit& misfit) {
                               .arg(left.of)});
   }
   builder.table(ReportWords::tr("Misfit of the section, along fresh rays"), facts);
-  if (document.smoothedResult) {
+  if (document.result->smoothedResult) {
     builder.paragraph(ReportWords::tr(
         "The section was smoothed after the inversion; its misfit is that of the smoothed one."));
   }
@@ -56,18 +57,19 @@ void addSectionMisfit(ReportBuilder& builder, const SectionMisfit& misfit) {
 void addLastPass(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   ReportTable facts = ReportTable::ofFacts();
-  const bool known = document.lastInversion && !document.lastInversion->history.empty() &&
-                     document.lastInversion->history.back().count > 0;
+  const bool known = document.result->lastInversion &&
+                     !document.result->lastInversion->history.empty() &&
+                     document.result->lastInversion->history.back().count > 0;
   if (known) {
-    const Misfit& misfit = document.lastInversion->history.back();
+    const Misfit& misfit = document.result->lastInversion->history.back();
     facts.rows = {
         {ReportWords::tr("RMS misfit"), millisecondsAndPercent(misfit.rmse, misfit.relativeRms)},
         {ReportWords::tr("Largest relative late error"),
          ReportWords::tr("%1 % (%2 ms)")
              .arg(number(1e2 * misfit.maxRelativeError, 2), number(1e3 * misfit.maxError, 3))}};
-  } else if (document.RMSE_tomography >= 0.0) {
+  } else if (document.result->RMSE_tomography >= 0.0) {
     facts.rows = {{ReportWords::tr("RMS misfit"),
-                   ReportWords::tr("%1 %").arg(number(document.RMSE_tomography, 2))}};
+                   ReportWords::tr("%1 %").arg(number(document.result->RMSE_tomography, 2))}};
   }
   builder.table(ReportWords::tr("Last solver pass of the inversion"), facts);
 }
@@ -111,9 +113,9 @@ void addHistory(ReportBuilder& builder, const InversionRecord& run) {
 
 Status addMisfit(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
-  if (!document.has_tomographic_info) return {};
+  if (!document.result->has_tomographic_info) return {};
   const SectionMisfit misfit = sectionMisfitOf(document);
-  if (misfit.count == 0 && document.RMSE_tomography < 0.0) return {};
+  if (misfit.count == 0 && document.result->RMSE_tomography < 0.0) return {};
   builder.heading(ReportWords::tr("Misfit"));
   addSectionMisfit(builder, misfit);
   addLastPass(builder);
@@ -123,18 +125,18 @@ Status addMisfit(ReportBuilder& builder) {
     builder.figure(ReportWords::tr("Residuals of the picks against the distance from their shot"),
                    drawing);
   }
-  if (!document.lastInversion) return {};
+  if (!document.result->lastInversion) return {};
   drawing = FigureDrawing();
-  if (document.lastInversion->history.size() > 1 &&
-      prepareMisfitHistoryFigure(*document.lastInversion, builder.widthMm(), kMisfitHeightMm,
-                                 drawing)
+  if (document.result->lastInversion->history.size() > 1 &&
+      prepareMisfitHistoryFigure(*document.result->lastInversion, builder.widthMm(),
+                                 kMisfitHeightMm, drawing)
           .ok()) {
     builder.figure(
         ReportWords::tr("RMS misfit of the section after every external iteration (blue), 0 being "
                         "the starting model, and of the last solver pass of each (grey)"),
         drawing);
   }
-  addHistory(builder, *document.lastInversion);
+  addHistory(builder, *document.result->lastInversion);
   return {};
 }
 

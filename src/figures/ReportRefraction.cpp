@@ -1,6 +1,7 @@
 #include "figures/RefractionFigure.h"
 #include "figures/ReportBuilder.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "refraction/Profile.h"
 
@@ -104,7 +105,7 @@ void addMethod(ReportBuilder& builder) {
   builder.paragraph(ReportWords::tr(
       "First breaks are the times at which the first seismic energy of a shot reaches each "
       "geophone. They were picked on the recorded traces."));
-  if (builder.source.document.has_tomographic_info) {
+  if (builder.source.document.result->has_tomographic_info) {
     builder.paragraph(ReportWords::tr(
         "They were inverted by travel-time tomography. The ground beneath the line is divided into "
         "square cells of constant velocity, which follow the surface. From each shot the fastest "

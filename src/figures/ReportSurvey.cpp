@@ -1,6 +1,9 @@
 #include "export/GeoTransformer.h"
 #include "figures/ReportBuilder.h"
+#include "model/GeographicsCoord.h"
+#include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 
 #include <QFileInfo>
@@ -54,7 +57,7 @@ void addLine(ReportBuilder& builder) {
   Extent geophones;
   Extent shots;
   std::set<double> places;  // strings of a line that was moved along overlap
-  for (const auto& string : document.goephonesStringSet) {
+  for (const auto& string : document.line->goephonesStringSet) {
     for (const Point2D& geophone : string) {
       geophones.take(geophone);
       places.insert(geophone.x);
@@ -63,9 +66,9 @@ void addLine(ReportBuilder& builder) {
   for (const TravelTime& record : document.ttArray) shots.take(record.shotPos2d);
 
   ReportTable facts = ReportTable::ofFacts();
-  addFact(
-      facts, ReportWords::tr("Waves"),
-      document.waveType == WaveType::S ? ReportWords::tr("S waves") : ReportWords::tr("P waves"));
+  addFact(facts, ReportWords::tr("Waves"),
+          document.recordings->waveType == WaveType::S ? ReportWords::tr("S waves")
+                                                       : ReportWords::tr("P waves"));
   if (geophones.x.known()) {
     addFact(facts, ReportWords::tr("Geophones from, to"),
             ReportWords::tr("%1 m").arg(span(geophones.x.low, geophones.x.high, 2)));
@@ -79,14 +82,14 @@ void addLine(ReportBuilder& builder) {
             ReportWords::tr("%1 m").arg(span(shots.x.low, shots.x.high, 2)));
   }
   addFact(facts, ReportWords::tr("Geophone strings"),
-          QString::number(document.goephonesStringSet.size()));
+          QString::number(document.line->goephonesStringSet.size()));
   addFact(facts, ReportWords::tr("Geophone positions"), QString::number(places.size()));
   addFact(facts, ReportWords::tr("Number of shots"), QString::number(document.ttArray.size()));
   builder.table(ReportWords::tr("The line"), facts);
 }
 
 void addStrings(ReportBuilder& builder) {
-  const auto& strings = builder.source.document.goephonesStringSet;
+  const auto& strings = builder.source.document.line->goephonesStringSet;
   ReportTable table{{{ReportWords::tr("String"), true},
                      {ReportWords::tr("Geophones"), true},
                      {ReportWords::tr("From [m]"), true},
@@ -148,8 +151,8 @@ QStringList shortFileNames(const TomoDocument& document) {
 
 /// The first trace of a shot that tells how it was sampled.
 const Trace* sampledTrace(const TomoDocument& document, std::size_t shot) {
-  if (shot >= document.traceSets.size()) return nullptr;
-  for (const Trace& trace : document.traceSets[shot]) {
+  if (shot >= document.recordings->traceSets.size()) return nullptr;
+  for (const Trace& trace : document.recordings->traceSets[shot]) {
     if (!trace.samples.empty() && trace.sampleInterval > 0.0 && trace.sampleInterval < 1e3) {
       return &trace;
     }
@@ -159,8 +162,9 @@ const Trace* sampledTrace(const TomoDocument& document, std::size_t shot) {
 
 void addShots(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
-  const bool files = std::any_of(document.traceSets.begin(), document.traceSets.end(),
-                                 [](const TraceSet& set) { return !set.empty(); });
+  const bool files =
+      std::any_of(document.recordings->traceSets.begin(), document.recordings->traceSets.end(),
+                  [](const TraceSet& set) { return !set.empty(); });
   ReportTable table{{{ReportWords::tr("Shot"), true},
                      {ReportWords::tr("Position [m]"), true},
                      {ReportWords::tr("Elevation [m]"), true},
@@ -228,8 +232,8 @@ void addSurvey(ReportBuilder& builder) {
 
 void addPosition(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
-  if (!document.geoCoord_isSet) return;
-  const geographicsCoord& place = document.geoCoord;
+  if (!document.map->geoCoord_isSet) return;
+  const geographicsCoord& place = document.map->geoCoord;
   builder.heading(ReportWords::tr("Position"));
   ReportTable table{{{ReportWords::tr("End of the line")},
                      {ReportWords::tr("Easting [m]"), true},

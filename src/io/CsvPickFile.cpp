@@ -88,7 +88,7 @@ class CsvPickReader : private PickReader {
       } else if (fields.count() == kLeadingFields) {
         record.shotPos2d.z = value;
       } else {
-        record.ttMisurati.push_back(value / kMillisecondsPerSecond);
+        record.ttMisurati.edit().push_back(value / kMillisecondsPerSecond);
       }
     }
     if (fields.count() < kLeadingFields) return refuse(Message::tr("the shot has no elevation"));
@@ -103,7 +103,7 @@ class CsvPickReader : private PickReader {
                .arg(counted(record.ttMisurati.size(), "time"))
                .arg(counted(receivers, "receiver")));
     }
-    record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+    record.ttCalcolati.edit().assign(record.ttMisurati.size(), kNoTime);
     mData.records.push_back(std::move(record));
     return true;
   }

@@ -1,5 +1,7 @@
 #include "io/OtteFile.h"
 
+#include "model/SurveyLine.h"
+
 #include <algorithm>
 #include <cmath>
 #include <locale>
@@ -119,15 +121,15 @@ class OtteReader : private PickReader {
     if (record.traceSetID < 0) takeOwnSet(record);
     std::string_view line;
     mText.nextLine(line);
-    if (!readRow("time", record.ttMisurati)) return false;
+    if (!readRow("time", record.ttMisurati.edit())) return false;
     warnOfCut();
     if (record.ttMisurati.size() > mGeophones.size()) {
       return refuse(Message::tr("there are %1 for %2")
                         .arg(counted(record.ttMisurati.size(), "time"))
                         .arg(counted(mGeophones.size(), "geophone")));
     }
-    for (double& time : record.ttMisurati) time /= kMillisecondsPerSecond;
-    record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+    for (double& time : record.ttMisurati.edit()) time /= kMillisecondsPerSecond;
+    record.ttCalcolati.edit().assign(record.ttMisurati.size(), kNoTime);
     mData.records.push_back(std::move(record));
     return true;
   }
@@ -245,10 +247,12 @@ std::string formatOtte(const TomoDocument& document) {
   std::ostringstream out;
   out.imbue(std::locale::classic());
   std::vector<Point2D> geophones;
-  for (const auto& string : document.goephonesStringSet) {
+  for (const auto& string : document.line->goephonesStringSet) {
     geophones.insert(geophones.end(), string.begin(), string.end());
   }
-  out << "otte\n1.0\n" << kFormatConstant << '\n' << document.goephonesStringSet.size() << '\n';
+  out << "otte\n1.0\n"
+      << kFormatConstant << '\n'
+      << document.line->goephonesStringSet.size() << '\n';
   printRow(out, geophones, &Point2D::x);
   printRow(out, geophones, &Point2D::z);
   std::vector<Point2D> shots;

@@ -159,7 +159,7 @@ class PickTableReader : private PickReader {
       record.traceSetID = static_cast<std::int32_t>(mData.records.size());
       std::string_view line;
       mText.nextLine(line);
-      if (!readValues(line, record.ttMisurati)) return false;
+      if (!readValues(line, record.ttMisurati.edit())) return false;
       if (record.ttMisurati.size() != mReceivers.size()) {
         return refuseWith(Message::tr("Invalid times : %1").arg(quotable(line)),
                           Message::tr("%1 of shot %2 for %3")
@@ -167,8 +167,8 @@ class PickTableReader : private PickReader {
                               .arg(number)
                               .arg(counted(mReceivers.size(), "receiver")));
       }
-      for (double& time : record.ttMisurati) time /= kMillisecondsPerSecond;
-      record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+      for (double& time : record.ttMisurati.edit()) time /= kMillisecondsPerSecond;
+      record.ttCalcolati.edit().assign(record.ttMisurati.size(), kNoTime);
       mData.records.push_back(std::move(record));
     }
     return true;

@@ -3,6 +3,9 @@
 #include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
 #include "io/ProjectRepair.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <cmath>
@@ -77,9 +80,9 @@ Status buildGrid(const GridMember& grid, TomoDocument& document) {
   std::unique_ptr<Grid> built = buildGridFromValues(size, std::move(slownesses), surface);
   if (built == nullptr) return Status::failure(Message::tr("the grid cannot be built"));
   for (std::uint32_t c = 0; c < built->cellCount(); ++c) built->setDraw(c, grid.toBeDraw[c]);
-  document.grid = std::move(built);
-  document.surface = std::move(surface);
-  document.xOffset = profile.xOffset;
+  document.model.edit().grid = std::move(built);
+  document.model.edit().surface = std::move(surface);
+  document.model.edit().xOffset = profile.xOffset;
   return {};
 }
 
@@ -99,20 +102,20 @@ std::vector<Point2D> drawnLimit(const Grid& grid) {
 
 void restoreCoverage(SurveyMember& survey, std::vector<Message>& repairs) {
   TomoDocument& document = survey.document;
-  std::vector<Point2D> limit = std::move(document.coverageLimit);
+  std::vector<Point2D> limit = std::move(document.result.edit().coverageLimit);
   const bool possible = std::all_of(limit.begin(), limit.end(), plausible);
   const bool usable = survey.hasCoverageLimit && possible;
   if (!possible) {
     repairs.push_back(Message::tr("the limit of its rays lies off the line; it is left out"));
   }
   if (!usable) limit.clear();
-  if (!usable && document.has_tomographic_info) limit = drawnLimit(*document.grid);
-  document.setCoverageLimit(std::move(limit));
+  if (!usable && document.result->has_tomographic_info) limit = drawnLimit(*document.model->grid);
+  document.result.edit().setCoverageLimit(std::move(limit));
 }
 
 void restoreDensity(SurveyMember& survey, std::vector<Message>& repairs) {
-  std::vector<double>& density = survey.document.info_density;
-  const std::size_t cells = survey.document.grid->cellCount();
+  std::vector<double>& density = survey.document.result.edit().info_density;
+  const std::size_t cells = survey.document.model->grid->cellCount();
   if (!survey.hasInformationDensity) {
     density.assign(cells, 1.0);
   } else if (density.size() == 1 && cells != 1) {
@@ -125,15 +128,15 @@ void restoreDensity(SurveyMember& survey, std::vector<Message>& repairs) {
 
 /// Times of a section that is no more: an earlier version kept them when a new grid came.
 void forgetTimes(TomoDocument& document) {
-  for (TravelTime& record : document.ttArray) {
-    std::fill(record.ttCalcolati.begin(), record.ttCalcolati.end(), kNoTime);
+  for (TravelTime& record : document.ttArray.edit()) {
+    record.ttCalcolati = std::vector<double>(record.ttCalcolati.size(), kNoTime);
   }
 }
 
 void restoreRun(SurveyMember& survey, std::vector<Message>& repairs) {
-  if (!survey.document.has_tomographic_info || survey.runs.empty()) return;
+  if (!survey.document.result->has_tomographic_info || survey.runs.empty()) return;
   if (survey.runs.size() == 1 && canHaveBeen(survey.runs.front())) {
-    survey.document.lastInversion = survey.runs.front();
+    survey.document.result.edit().lastInversion = survey.runs.front();
   } else {
     repairs.push_back(Message::tr("what it tells of its last inversion cannot be; it is left out"));
   }
@@ -143,15 +146,15 @@ void restoreRun(SurveyMember& survey, std::vector<Message>& repairs) {
 
 Status checkSurvey(SurveyMember& member, std::vector<Message>& repairs) {
   TomoDocument& document = member.document;
-  for (const auto& string : document.goephonesStringSet) {
+  for (const auto& string : document.line->goephonesStringSet) {
     if (!std::all_of(string.begin(), string.end(), plausible)) {
       return Status::failure(Message::tr("a geophone has no place"));
     }
   }
   std::int32_t own = 0;
-  for (TravelTime& record : document.ttArray) {
+  for (TravelTime& record : document.ttArray.edit()) {
     // -1 is a shot that no string recorded.
-    const auto strings = static_cast<std::int64_t>(document.goephonesStringSet.size());
+    const auto strings = static_cast<std::int64_t>(document.line->goephonesStringSet.size());
     if (record.indexStesa < -1 || record.indexStesa >= strings) {
       return Status::failure(Message::tr("a shot was recorded by geophone string %1 of %2")
                                  .arg(record.indexStesa)
@@ -161,7 +164,7 @@ Status checkSurvey(SurveyMember& member, std::vector<Message>& repairs) {
     // Picks that came without traces may have none; their place says as much.
     if (record.traceSetID < 0) record.traceSetID = own;
     ++own;
-    record.ttCalcolati.resize(record.ttMisurati.size(), kNoTime);
+    record.ttCalcolati.edit().resize(record.ttMisurati.size(), kNoTime);
   }
   repairSurvey(member, repairs);
   return {};
@@ -170,10 +173,10 @@ Status checkSurvey(SurveyMember& member, std::vector<Message>& repairs) {
 Status installGrid(GridMember grid, SurveyMember& survey, std::vector<Message>& repairs) {
   TomoDocument& document = survey.document;
   if (grid.col == 0 && grid.righe == 0 && grid.velocities.empty()) {
-    document.has_tomographic_info = false;
+    document.result.edit().has_tomographic_info = false;
     forgetTimes(document);
-    document.info_density.clear();
-    document.coverageLimit.clear();
+    document.result.edit().info_density.clear();
+    document.result.edit().coverageLimit.clear();
     return {};
   }
   try {
@@ -182,7 +185,7 @@ Status installGrid(GridMember grid, SurveyMember& survey, std::vector<Message>& 
     repairVelocities(grid.velocities, repairs);
     status = buildGrid(grid, document);
     if (!status.ok()) return status;
-    if (!document.has_tomographic_info) forgetTimes(document);
+    if (!document.result->has_tomographic_info) forgetTimes(document);
     restoreDensity(survey, repairs);
     restoreCoverage(survey, repairs);
     restoreRun(survey, repairs);

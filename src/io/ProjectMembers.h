@@ -1,8 +1,12 @@
 #pragma once
 
 #include "base/Message.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
 #include "model/RefractionDataStructure.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 #include "view/ColorPalette.h"
 #include "view/SectionViewSettings.h"
 

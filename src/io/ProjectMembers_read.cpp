@@ -1,6 +1,7 @@
 #include "base/Console.h"
 #include "io/ProjectMembers.h"
 #include "io/ProjectRecords.inl"
+#include "model/GeographicsCoord.h"
 
 #include <algorithm>
 #include <exception>
@@ -89,7 +90,7 @@ int readSurvey(const std::string& path, SurveyMember& member, Message& why) {
     SurveyRecord record{read.document, read.section, read.runs};
     const std::vector<std::string> missing = xml::readRecord(reader, record);
     tellMissing(missing);
-    if (contains(missing, "geoCoord")) read.document.geoCoord_isSet = false;
+    if (contains(missing, "geoCoord")) read.document.map.edit().geoCoord_isSet = false;
     read.hasInformationDensity = !contains(missing, "info_density");
     read.hasCoverageLimit = !contains(missing, "coverage_limit");
     member = std::move(read);

@@ -3,6 +3,10 @@
 #include "base/PlainText.h"
 #include "io/ProjectMembers.h"
 #include "io/ProjectRecords.inl"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <fstream>
@@ -61,10 +65,10 @@ void putTraceSets(XmlWriter& writer, const TomoDocument& document,
                   const std::vector<bool>& withSamples) {
   xml::Output output(writer);
   writer.beginSequence("traceSet");
-  for (std::size_t set = 0; set < document.traceSets.size(); ++set) {
+  for (std::size_t set = 0; set < document.recordings->traceSets.size(); ++set) {
     const bool full = set < withSamples.size() && withSamples[set];
     writer.beginSequence(nullptr);
-    for (const Trace& trace : document.traceSets[set]) {
+    for (const Trace& trace : document.recordings->traceSets[set]) {
       output.put(nullptr, storedTrace(trace, full));
     }
     writer.end();
@@ -75,7 +79,7 @@ void putTraceSets(XmlWriter& writer, const TomoDocument& document,
 void putFiltered(XmlWriter& writer, const TomoDocument& document) {
   xml::Output output(writer);
   writer.beginSequence("filtered");
-  for (const TraceSet& traces : document.traceSets) {
+  for (const TraceSet& traces : document.recordings->traceSets) {
     writer.beginSequence(nullptr);
     for (const Trace& trace : traces) output.put(nullptr, trace.filtered);
     writer.end();
@@ -104,15 +108,16 @@ int writeSurvey(const std::string& path, const TomoDocument& document,
     xml::Output output(writer);
     SectionViewSettings view = section;
     std::vector<InversionRecord> runs;
-    if (document.lastInversion) runs.push_back(*document.lastInversion);
-    describeSurvey(output, const_cast<TomoDocument&>(document), view, runs);
+    if (document.result->lastInversion) runs.push_back(*document.result->lastInversion);
+    TomoDocument survey = document;
+    describeSurvey(output, survey, view, runs);
   });
 }
 
 int writeGrid(const std::string& path, const TomoDocument& document) {
   return writeMember(path, "Grid", [&](XmlWriter& writer) {
     GridMember member;
-    if (const Grid* grid = document.grid.get()) {
+    if (const Grid* grid = document.model->grid.get()) {
       member.righe = grid->righe();
       member.col = grid->col();
       member.nV = grid->nV();
@@ -130,11 +135,11 @@ int writeTraces(const std::string& path, const TomoDocument& document,
                 const std::vector<bool>& withSamples) {
   return writeMember(path, "Traces", [&](XmlWriter& writer) {
     xml::Output output(writer);
-    output.put("filenames", bareNames(document.filenames));
-    output.put("filenames_DX", bareNames(document.filenames_DX));
-    output.put("filenames_SX", bareNames(document.filenames_SX));
-    output.put("wave_type", document.waveType);
-    output.put("shot_pos", document.shotPositions);
+    output.put("filenames", bareNames(document.recordings->filenames));
+    output.put("filenames_DX", bareNames(document.recordings->filenames_DX));
+    output.put("filenames_SX", bareNames(document.recordings->filenames_SX));
+    output.put("wave_type", document.recordings->waveType);
+    output.put("shot_pos", document.line->shotPositions);
     putTraceSets(writer, document, withSamples);
     putFiltered(writer, document);
   });

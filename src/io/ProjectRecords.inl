@@ -6,6 +6,10 @@
 #include "base/Console.h"
 #include "io/ProjectMembers.h"
 #include "io/XmlRecords.inl"
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 
 #include <type_traits>
 
@@ -146,19 +150,19 @@ void describe(V& fields, InversionRecord& run) {
 template <class V>
 void describeSurvey(V& fields, TomoDocument& document, SectionViewSettings& section,
                     std::vector<InversionRecord>& runs) {
-  fields("goephonesStringSet", document.goephonesStringSet);
+  fields("goephonesStringSet", document.line.edit().goephonesStringSet);
   fields("ttArray", document.ttArray);
-  fields.optional("has_tomographic_info", document.has_tomographic_info);
-  fields.optional("geoCoord", document.geoCoord);
-  fields.optional("geoCoord_isSet", document.geoCoord_isSet);
-  fields.optional("RMSE_tomography", document.RMSE_tomography);
-  fields.optional("info_density", document.info_density);
+  fields.optional("has_tomographic_info", document.result.edit().has_tomographic_info);
+  fields.optional("geoCoord", document.map.edit().geoCoord);
+  fields.optional("geoCoord_isSet", document.map.edit().geoCoord_isSet);
+  fields.optional("RMSE_tomography", document.result.edit().RMSE_tomography);
+  fields.optional("info_density", document.result.edit().info_density);
   fields.optional("title", document.title);
-  fields.optional("min_velocity", document.minVelocity);
-  fields.optional("max_velocity", document.maxVelocity);
-  fields.optional("layers", document.layers);
-  fields.optional("proposed_cell_sizes", document.proposedCellSizes);
-  fields.optional("coverage_limit", document.coverageLimit);
+  fields.optional("min_velocity", document.model.edit().minVelocity);
+  fields.optional("max_velocity", document.model.edit().maxVelocity);
+  fields.optional("layers", document.model.edit().layers);
+  fields.optional("proposed_cell_sizes", document.model.edit().proposedCellSizes);
+  fields.optional("coverage_limit", document.result.edit().coverageLimit);
   fields.optional("section_view", section);
   fields.optional("last_inversion", runs);
 }

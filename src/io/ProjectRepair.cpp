@@ -2,6 +2,9 @@
 
 #include "base/PlainText.h"
 #include "base/TextNumber.h"
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/ReciprocalMethod.h"
 
 #include <algorithm>
@@ -52,35 +55,35 @@ bool fits(const VelocityLayer& layer) {
 
 void repairInversion(TomoDocument& document, Repairs& repairs) {
   const TomoDocument fresh;
-  if (!std::isfinite(document.RMSE_tomography)) {
+  if (!std::isfinite(document.result->RMSE_tomography)) {
     repairs.push_back(Message::tr("its RMS misfit is no number; it is left out"));
-    document.RMSE_tomography = fresh.RMSE_tomography;
+    document.result.edit().RMSE_tomography = fresh.result->RMSE_tomography;
   }
-  if (!isVelocity(document.minVelocity) || !isVelocity(document.maxVelocity)) {
+  if (!isVelocity(document.model->minVelocity) || !isVelocity(document.model->maxVelocity)) {
     repairs.push_back(Message::tr("its limits of velocity cannot be; they are as in a new survey"));
-    document.minVelocity = fresh.minVelocity;
-    document.maxVelocity = fresh.maxVelocity;
+    document.model.edit().minVelocity = fresh.model->minVelocity;
+    document.model.edit().maxVelocity = fresh.model->maxVelocity;
   }
-  if (!all(document.layers, fits)) {
+  if (!all(document.model->layers, fits)) {
     repairs.push_back(
         Message::tr("a layer of its starting model cannot be; the model is left out"));
-    document.layers.clear();
+    document.model.edit().layers.clear();
   }
   const auto isSize = [](double size) { return size > 0.0 && isPosition(size); };
-  if (!all(document.proposedCellSizes, isSize)) {
+  if (!all(document.model->proposedCellSizes, isSize)) {
     repairs.push_back(Message::tr("a cell size that it proposes cannot be; it proposes new ones"));
-    document.proposedCellSizes.clear();
+    document.model.edit().proposedCellSizes.clear();
   }
 }
 
 void repairPlace(TomoDocument& document, Repairs& repairs) {
-  const geographicsCoord& place = document.geoCoord;
+  const geographicsCoord& place = document.map->geoCoord;
   const double sum = std::fabs(place.mEastFstGeoph) + std::fabs(place.mEastLstGeoph) +
                      std::fabs(place.mNorthFstGeoph) + std::fabs(place.mNorthLstGeoph);
   if (std::isfinite(sum)) return;
   repairs.push_back(Message::tr("its geographic coordinates are no numbers; they are left out"));
-  document.geoCoord = {};
-  document.geoCoord_isSet = false;
+  document.map.edit().geoCoord = {};
+  document.map.edit().geoCoord_isSet = false;
 }
 
 void repairExaggeration(double& exaggeration, Repairs& repairs) {

@@ -1,5 +1,8 @@
 #include "io/ProjectResult.h"
 
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
+
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -15,13 +18,13 @@ bool canHaveBeen(const SectionMisfit& misfit) {
 }
 
 bool fits(const ResultMember& result, const TomoDocument& document) {
-  const std::size_t cells = document.grid->cellCount();
+  const std::size_t cells = document.model->grid->cellCount();
   if (result.hitCounts.size() != cells || result.coorcount.size() != cells) return false;
   const auto length = [](double metres) { return std::isfinite(metres) && metres >= 0.0; };
   if (!std::all_of(result.coorcount.begin(), result.coorcount.end(), length)) return false;
   if (!std::isfinite(result.computingSeconds)) return false;
   const std::size_t iterations =
-      document.lastInversion ? document.lastInversion->history.size() + 1 : 0;
+      document.result->lastInversion ? document.result->lastInversion->history.size() + 1 : 0;
   const std::vector<SectionMisfit>& history = result.sectionHistory;
   return (history.empty() || history.size() == iterations) &&
          std::all_of(history.begin(), history.end(), canHaveBeen);
@@ -31,31 +34,32 @@ bool fits(const ResultMember& result, const TomoDocument& document) {
 
 ResultMember resultOf(const TomoDocument& document) {
   ResultMember result;
-  result.hitCounts = document.hitCounts;
-  result.coorcount = document.coorcount;
-  result.smoothed = document.smoothedResult;
-  result.timesOfSection = document.timesOfSection;
-  if (!document.lastInversion) return result;
-  result.computingSeconds = document.lastInversion->computingSeconds;
-  result.picks = document.lastInversion->picks;
-  result.sectionHistory = document.lastInversion->sectionHistory;
+  result.hitCounts = document.result->hitCounts;
+  result.coorcount = document.result->coorcount;
+  result.smoothed = document.result->smoothedResult;
+  result.timesOfSection = document.result->timesOfSection;
+  if (!document.result->lastInversion) return result;
+  result.computingSeconds = document.result->lastInversion->computingSeconds;
+  result.picks = document.result->lastInversion->picks;
+  result.sectionHistory = document.result->lastInversion->sectionHistory;
   return result;
 }
 
 Status installResult(ResultMember result, TomoDocument& document) {
-  if (document.grid == nullptr || !document.has_tomographic_info || !fits(result, document)) {
+  if (document.model->grid == nullptr || !document.result->has_tomographic_info ||
+      !fits(result, document)) {
     return Status::failure(Message::tr(
         "its coverage and figures do not go with the grid and the inversion of the project"));
   }
-  document.hitCounts = std::move(result.hitCounts);
-  document.coorcount = std::move(result.coorcount);
-  document.smoothedResult = result.smoothed;
-  document.timesOfSection = result.timesOfSection;
-  if (!document.lastInversion) return {};
-  document.lastInversion->computingSeconds = result.computingSeconds;
-  document.lastInversion->picks = result.picks;
-  document.lastInversion->sectionHistory = result.sectionHistory;
-  document.sectionHistory = std::move(result.sectionHistory);
+  document.result.edit().hitCounts = std::move(result.hitCounts);
+  document.result.edit().coorcount = std::move(result.coorcount);
+  document.result.edit().smoothedResult = result.smoothed;
+  document.result.edit().timesOfSection = result.timesOfSection;
+  if (!document.result->lastInversion) return {};
+  document.result.edit().lastInversion->computingSeconds = result.computingSeconds;
+  document.result.edit().lastInversion->picks = result.picks;
+  document.result.edit().lastInversion->sectionHistory = result.sectionHistory;
+  document.result.edit().sectionHistory = std::move(result.sectionHistory);
   return {};
 }
 

@@ -1,5 +1,11 @@
 #include "io/ProjectSnapshot.h"
 
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
+
 #include <utility>
 
 namespace talvesk {
@@ -14,38 +20,39 @@ std::size_t bytesOf(const Trace& trace) {
 TomoDocument copyWithoutTraces(const TomoDocument& document) {
   TomoDocument copy;
   copy.title = document.title;
-  copy.filenames = document.filenames;
-  copy.filenames_DX = document.filenames_DX;
-  copy.filenames_SX = document.filenames_SX;
-  copy.waveType = document.waveType;
-  copy.shotPositions = document.shotPositions;
-  copy.ttArray = document.ttArray;
-  copy.goephonesStringSet = document.goephonesStringSet;
-  copy.geoCoord = document.geoCoord;
-  copy.geoCoord_isSet = document.geoCoord_isSet;
-  if (document.grid != nullptr) copy.grid = std::make_unique<Grid>(*document.grid);
-  copy.xOffset = document.xOffset;
-  copy.surface = document.surface;
-  copy.proposedCellSizes = document.proposedCellSizes;
-  copy.layers = document.layers;
-  copy.lastInversion = document.lastInversion;
-  copy.minVelocity = document.minVelocity;
-  copy.maxVelocity = document.maxVelocity;
-  copy.has_tomographic_info = document.has_tomographic_info;
-  copy.smoothedResult = document.smoothedResult;
-  copy.timesOfSection = document.timesOfSection;
-  copy.RMSE_tomography = document.RMSE_tomography;
-  copy.info_density = document.info_density;
-  copy.coorcount = document.coorcount;
-  copy.hitCounts = document.hitCounts;
-  copy.coverageLimit = document.coverageLimit;
+  copy.recordings.edit().filenames = document.recordings->filenames;
+  copy.recordings.edit().filenames_DX = document.recordings->filenames_DX;
+  copy.recordings.edit().filenames_SX = document.recordings->filenames_SX;
+  copy.recordings.edit().waveType = document.recordings->waveType;
+  copy.line.edit().shotPositions = document.line->shotPositions;
+  copy.ttArray.edit() = document.ttArray;
+  copy.line.edit().goephonesStringSet = document.line->goephonesStringSet;
+  copy.map.edit().geoCoord = document.map->geoCoord;
+  copy.map.edit().geoCoord_isSet = document.map->geoCoord_isSet;
+  if (document.model->grid != nullptr)
+    copy.model.edit().grid = std::make_unique<Grid>(*document.model->grid);
+  copy.model.edit().xOffset = document.model->xOffset;
+  copy.model.edit().surface = document.model->surface;
+  copy.model.edit().proposedCellSizes = document.model->proposedCellSizes;
+  copy.model.edit().layers = document.model->layers;
+  copy.result.edit().lastInversion = document.result->lastInversion;
+  copy.model.edit().minVelocity = document.model->minVelocity;
+  copy.model.edit().maxVelocity = document.model->maxVelocity;
+  copy.result.edit().has_tomographic_info = document.result->has_tomographic_info;
+  copy.result.edit().smoothedResult = document.result->smoothedResult;
+  copy.result.edit().timesOfSection = document.result->timesOfSection;
+  copy.result.edit().RMSE_tomography = document.result->RMSE_tomography;
+  copy.result.edit().info_density = document.result->info_density;
+  copy.result.edit().coorcount = document.result->coorcount;
+  copy.result.edit().hitCounts = document.result->hitCounts;
+  copy.result.edit().coverageLimit = document.result->coverageLimit;
   return copy;
 }
 
 }  // namespace
 
 bool ProjectSnapshot::copyTraces(const TomoDocument& document, std::size_t bytes) {
-  const std::vector<TraceSet>& sets = document.traceSets;
+  const std::vector<TraceSet>& sets = document.recordings->traceSets;
   std::size_t copied = 0;
   while (copied < bytes) {
     const bool setDone =
@@ -69,7 +76,7 @@ LoadedProject ProjectSnapshot::complete(
     const ColorPaletteList& palettes, const SectionViewSettings& section,
     const SharedFolder& folder) {
   TomoDocument copy = copyWithoutTraces(document);
-  copy.traceSets = std::move(mTraceSets);
+  copy.recordings.edit().traceSets = std::move(mTraceSets);
   return {std::move(copy), interpretation, palettes, section, {}, folder};
 }
 

@@ -4,7 +4,9 @@
 #include "io/ShotFile.h"
 #include "io/ShotLoader.h"
 #include "model/PickLimits.h"
+#include "model/Recordings.h"
 #include "model/SWavePair.h"
+#include "model/SurveyLine.h"
 
 #include <algorithm>
 #include <cmath>
@@ -54,9 +56,9 @@ TraceSet storedSet(std::vector<StoredTrace>& stored) {
     trace.waveKind = Trace::kFromFile;
     trace.receiverPosition.x = stored[i].pos;
     place(stored[i], trace);
-    trace.samples = std::move(stored[i].TAB);
-    trace.samplesDX = std::move(stored[i].TAB_DX);
-    trace.samplesSX = std::move(stored[i].TAB_SX);
+    trace.samples.edit() = std::move(stored[i].TAB);
+    trace.samplesDX.edit() = std::move(stored[i].TAB_DX);
+    trace.samplesSX.edit() = std::move(stored[i].TAB_SX);
     checkKind(trace);
   }
   return traces;
@@ -95,7 +97,7 @@ Status installFiltered(TracesMember& member, std::size_t set, TraceSet& traces) 
                                .arg(traces.size())
                                .arg(copies.size()));
   }
-  for (std::size_t i = 0; i < traces.size(); ++i) traces[i].filtered = std::move(copies[i]);
+  for (std::size_t i = 0; i < traces.size(); ++i) traces[i].filtered.edit() = std::move(copies[i]);
   return {};
 }
 
@@ -150,11 +152,11 @@ TraceSet setOf(const std::string& folder, const SetFiles& names, std::vector<Sto
 
 /// One record per set, in their order, each with a time for every trace.
 Status matchRecords(TomoDocument& document) {
-  if (document.traceSets.empty()) return {};
-  std::vector<TravelTime>& records = document.ttArray;
-  if (records.size() != document.traceSets.size()) {
+  if (document.recordings->traceSets.empty()) return {};
+  std::vector<TravelTime>& records = document.ttArray.edit();
+  if (records.size() != document.recordings->traceSets.size()) {
     return Status::failure(Message::tr("there are %1 trace sets, but %2 travel-time records")
-                               .arg(document.traceSets.size())
+                               .arg(document.recordings->traceSets.size())
                                .arg(records.size()));
   }
   std::stable_sort(records.begin(), records.end(), [](const TravelTime& a, const TravelTime& b) {
@@ -164,9 +166,10 @@ Status matchRecords(TomoDocument& document) {
     if (records[i].traceSetID != static_cast<std::int32_t>(i)) {
       return Status::failure(Message::tr("no travel-time record belongs to trace set %1").arg(i));
     }
-    const std::size_t traces = document.traceSets[i].size();
-    if (records[i].ttMisurati.size() < traces) records[i].ttMisurati.resize(traces, kUnpicked);
-    records[i].ttCalcolati.resize(records[i].ttMisurati.size(), kNoTime);
+    const std::size_t traces = document.recordings->traceSets[i].size();
+    if (records[i].ttMisurati.size() < traces)
+      records[i].ttMisurati.edit().resize(traces, kUnpicked);
+    records[i].ttCalcolati.edit().resize(records[i].ttMisurati.size(), kNoTime);
   }
   return {};
 }
@@ -237,15 +240,16 @@ Status installTraces(TracesMember member, const std::string& folder, TomoDocumen
     }
     traceSets.push_back(std::move(traces));
   }
-  document.waveType = member.waveType;
-  document.filenames = inFolder(folder, std::move(member.filenames));
-  document.filenames_DX = inFolder(folder, std::move(member.filenames_DX));
-  document.filenames_SX = inFolder(folder, std::move(member.filenames_SX));
-  document.shotPositions = std::move(member.shotPositions);
-  document.traceSets = std::move(traceSets);
+  document.recordings.edit().waveType = member.waveType;
+  document.recordings.edit().filenames = inFolder(folder, std::move(member.filenames));
+  document.recordings.edit().filenames_DX = inFolder(folder, std::move(member.filenames_DX));
+  document.recordings.edit().filenames_SX = inFolder(folder, std::move(member.filenames_SX));
+  document.line.edit().shotPositions = std::move(member.shotPositions);
+  document.recordings.edit().traceSets = std::move(traceSets);
   Status matched = matchRecords(document);
   if (!matched.ok()) return matched;
-  const Message dropped = dropImpossiblePicks(document.ttArray, document.traceSets);
+  const Message dropped =
+      dropImpossiblePicks(document.ttArray.edit(), document.recordings->traceSets);
   if (!dropped.empty()) repairs.push_back(dropped);
   return {};
 }

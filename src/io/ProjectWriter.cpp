@@ -6,6 +6,8 @@
 #include "io/ProjectZip.h"
 #include "io/SourceCopies.h"
 #include "io/TemporaryFolder.h"
+#include "model/Recordings.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <exception>
@@ -41,7 +43,8 @@ int ProjectWriter::saveTomoDocumentTraces_XML(const std::string& path, const Tom
                                               const std::vector<bool>& withSamples,
                                               SourceFiles& sources) {
   console::log("ProjectWriter::saveTomoDocumentTraces_XML");
-  sources = {document.filenames, document.filenames_DX, document.filenames_SX};
+  sources = {document.recordings->filenames, document.recordings->filenames_DX,
+             document.recordings->filenames_SX};
   return writeTraces(path, document, withSamples);
 }
 
@@ -70,7 +73,7 @@ int ProjectWriter::writeTracesAndFiles(const std::string& folder, const TomoDocu
   SourceFiles sources;
   const std::string member = folder + kTracesMember;
   files.push_back(member);
-  const std::vector<bool> hoped(document.traceSets.size(), false);
+  const std::vector<bool> hoped(document.recordings->traceSets.size(), false);
   if (saveTomoDocumentTraces_XML(member, document, hoped, sources) != 0) return 1;
   SourceCopies copies = copySources({&sources.main, &sources.dx, &sources.sx}, folder);
   const std::vector<bool> without = setsWithoutFile(document, folder);
@@ -110,7 +113,7 @@ bool ProjectWriter::writeMembers(const std::string& folder, const Project& proje
         &ProjectWriter::saved_traces, &ProjectWriter::error_saved_traces);
   check(kPalettesMember, savePalettes_XML(add(kPalettesMember), project.palettes),
         &ProjectWriter::saved_palettes, &ProjectWriter::error_saved_palettes);
-  if (project.document.has_tomographic_info &&
+  if (project.document.result->has_tomographic_info &&
       writeResult(add(kResultMember), resultOf(project.document)) != 0) {
     giveUp(kResultMember);
   }

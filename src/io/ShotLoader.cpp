@@ -3,6 +3,9 @@
 #include "base/Console.h"
 #include "io/ShotFile.h"
 #include "io/WrittenPosition.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 
 #include <algorithm>
 #include <ostream>
@@ -32,12 +35,12 @@ std::vector<Point2D> positionsOf(const Traces& traces, PositionOf positionOf) {
 }
 
 Status checkTakesShots(const TomoDocument& document) {
-  if (document.waveType == WaveType::S && !document.traceSets.empty()) {
+  if (document.recordings->waveType == WaveType::S && !document.recordings->traceSets.empty()) {
     return Status::failure(Message::tr(
         "the survey holds S-wave pairs; add more of them in the survey geometry, or start a new "
         "survey to load shot files"));
   }
-  if (document.ttArray.size() == document.traceSets.size()) return {};
+  if (document.ttArray.size() == document.recordings->traceSets.size()) return {};
   return Status::failure(
       Message::tr("the survey holds picks without traces; start a new survey to load shot files"));
 }
@@ -48,14 +51,14 @@ void add(const std::string& path, ShotFileData data, TomoDocument& document) {
   if (!traces.empty()) record.shotPos2d = traces.front().sourcePosition;
   record.indexStesa =
       stringOf(positionsOf(traces, [](const Trace& trace) { return trace.receiverPosition; }),
-               document.goephonesStringSet);
-  record.ttMisurati.assign(traces.size(), kUnpicked);
-  record.ttCalcolati.assign(traces.size(), kNoTime);
-  record.traceSetID = static_cast<std::int32_t>(document.traceSets.size());
-  document.filenames.push_back(path);
-  document.shotPositions.push_back(record.shotPos2d.x);
-  document.traceSets.push_back(std::move(traces));
-  document.ttArray.push_back(std::move(record));
+               document.line.edit().goephonesStringSet);
+  record.ttMisurati.edit().assign(traces.size(), kUnpicked);
+  record.ttCalcolati.edit().assign(traces.size(), kNoTime);
+  record.traceSetID = static_cast<std::int32_t>(document.recordings->traceSets.size());
+  document.recordings.edit().filenames.push_back(path);
+  document.line.edit().shotPositions.push_back(record.shotPos2d.x);
+  document.recordings.edit().traceSets.push_back(std::move(traces));
+  document.ttArray.edit().push_back(std::move(record));
 }
 
 }  // namespace
@@ -66,7 +69,7 @@ TraceSet traceSetOf(ShotFileData data) {
   for (ShotRecord& record : data.traces) {
     Trace& trace = set.emplace_back();
     trace.waveKind = Trace::kFromFile;
-    trace.samples = std::move(record.samples);
+    trace.samples.edit() = std::move(record.samples);
     trace.sourcePosition = record.source;
     trace.receiverPosition = record.receiver;
     trace.delay = record.delay;
@@ -76,7 +79,7 @@ TraceSet traceSetOf(ShotFileData data) {
 }
 
 ModelLoss lossByShots(const std::vector<ReadShot>& shots, const TomoDocument& document) {
-  std::vector<std::vector<Point2D>> strings = document.goephonesStringSet;
+  std::vector<std::vector<Point2D>> strings = document.line->goephonesStringSet;
   std::vector<Point2D> sources = document.shotPoints();
   bool any = false;
   for (const ReadShot& shot : shots) {
@@ -91,7 +94,8 @@ ModelLoss lossByShots(const std::vector<ReadShot>& shots, const TomoDocument& do
 
 std::vector<ShotFileOutcome> appendShots(std::vector<ReadShot> shots, TomoDocument& document) {
   // Without a grid there are still the cell sizes that were proposed for the line as it was.
-  const ModelLoss loss = document.grid == nullptr ? ModelLoss::kGrid : lossByShots(shots, document);
+  const ModelLoss loss =
+      document.model->grid == nullptr ? ModelLoss::kGrid : lossByShots(shots, document);
   std::vector<ShotFileOutcome> outcomes;
   outcomes.reserve(shots.size());
   bool any = false;
@@ -104,7 +108,6 @@ std::vector<ShotFileOutcome> appendShots(std::vector<ReadShot> shots, TomoDocume
   }
   if (any) {
     forgetModel(loss, document);
-    document.modified = true;
   }
   return outcomes;
 }

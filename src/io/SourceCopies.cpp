@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "io/ProjectAssembly.h"
+#include "model/Recordings.h"
 
 #include <filesystem>
 #include <map>
@@ -73,18 +74,18 @@ SourceCopies copySources(const std::vector<const std::vector<std::string>*>& lis
 }
 
 std::vector<bool> setsWithoutFile(const TomoDocument& document, const std::string& folder) {
-  std::vector<bool> without(document.traceSets.size(), true);
+  std::vector<bool> without(document.recordings->traceSets.size(), true);
   SegyState state;
   for (std::size_t set = 0; set < without.size(); ++set) {
-    SetFiles names =
-        filesOfSet(document.filenames, document.filenames_DX, document.filenames_SX, set);
+    SetFiles names = filesOfSet(document.recordings->filenames, document.recordings->filenames_DX,
+                                document.recordings->filenames_SX, set);
     for (std::string* name : {&names.main, &names.dx, &names.sx}) *name = bareName(*name);
     if (names.none()) continue;
     SegyState after = state;
     TraceSet read;
     Message why;
     if (!readSetFiles(folder, names, after, read, why)) continue;
-    if (!sameSamples(document.traceSets[set], read)) continue;
+    if (!sameSamples(document.recordings->traceSets[set], read)) continue;
     without[set] = false;
     state = after;
   }

@@ -7,6 +7,7 @@
 #include "io/PickReader.h"
 #include "io/PickTableFile.h"
 #include "io/TxCurveFile.h"
+#include "model/SurveyLine.h"
 
 #include <ostream>
 #include <string_view>
@@ -61,8 +62,8 @@ std::optional<Refusal> readAs(Format format, std::string_view bytes, TravelTimeD
 }
 
 Status checkPositions(const TomoDocument& document) {
-  for (std::size_t s = 0; s < document.goephonesStringSet.size(); ++s) {
-    for (const Point2D& geophone : document.goephonesStringSet[s]) {
+  for (std::size_t s = 0; s < document.line->goephonesStringSet.size(); ++s) {
+    for (const Point2D& geophone : document.line->goephonesStringSet[s]) {
       if (!isFinite(geophone)) {
         return Status::failure(
             Message::tr("a geophone of string %1 has no finite position; edit the geometry first")
@@ -88,7 +89,7 @@ void warnOfWhatIsLost(const std::string& path, const std::string& text,
   std::string loss;
   if (refusal) loss = "it cannot be read back: " + refusal->reason.english();
   for (std::size_t i = 0; loss.empty() && i < restored.strings.size(); ++i) {
-    if (restored.strings[i].size() != document.goephonesStringSet[i].size()) {
+    if (restored.strings[i].size() != document.line->goephonesStringSet[i].size()) {
       loss =
           "read back, string " + std::to_string(i + 1) + " will have another number of geophones";
     }

@@ -1,6 +1,9 @@
 #include "io/TravelTimeFile.h"
 #include "io/WrittenPosition.h"
+#include "model/GroundModel.h"
 #include "model/PickLimits.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -26,7 +29,7 @@ Status checkStrings(const TravelTimeData& data) {
 /// For each record of the document, the record of the file that has its trace set.
 Status matchRecords(TravelTimeData& data, const TomoDocument& document,
                     std::vector<TravelTime*>& matches) {
-  const std::size_t shots = document.traceSets.size();
+  const std::size_t shots = document.recordings->traceSets.size();
   if (data.records.size() != shots || document.ttArray.size() != shots) {
     return Status::failure(
         Message::tr("the file holds picks of %1 shots, the survey has %2; the picks were not taken")
@@ -41,12 +44,12 @@ Status matchRecords(TravelTimeData& data, const TomoDocument& document,
           Message::tr("trace set %1 is named twice or not in the survey; the picks were not taken")
               .arg(record.traceSetID));
     }
-    if (record.ttMisurati.size() != document.traceSets[set].size()) {
+    if (record.ttMisurati.size() != document.recordings->traceSets[set].size()) {
       return Status::failure(Message::tr("the file holds %1 times for trace set %2, which has %3 "
                                          "traces; the picks were not taken")
                                  .arg(record.ttMisurati.size())
                                  .arg(set)
-                                 .arg(document.traceSets[set].size()));
+                                 .arg(document.recordings->traceSets[set].size()));
     }
     bySet[set] = &record;
   }
@@ -86,7 +89,7 @@ bool settle(std::vector<Point2D>& read, const std::vector<Point2D>& kept) {
 /// \param records of the data, each beside one of the document or beyond them
 bool settle(TravelTimeData& data, const TomoDocument& document,
             const std::vector<TravelTime*>& records) {
-  const auto& strings = document.goephonesStringSet;
+  const auto& strings = document.line->goephonesStringSet;
   bool moved = data.strings.size() != strings.size() || records.size() != document.ttArray.size();
   for (std::size_t s = 0; s < std::min(data.strings.size(), strings.size()); ++s) {
     if (settle(data.strings[s], strings[s])) moved = true;
@@ -109,7 +112,7 @@ bool settle(TravelTimeData& data, const TomoDocument& document,
 Status makePlan(TravelTimeData& data, const TomoDocument& document, Plan& plan) {
   Status status = checkStrings(data);
   if (!status.ok()) return status;
-  if (document.traceSets.empty()) {
+  if (document.recordings->traceSets.empty()) {
     for (TravelTime& record : data.records) plan.records.push_back(&record);
   } else {
     status = matchRecords(data, document, plan.records);
@@ -126,26 +129,26 @@ Status makePlan(TravelTimeData& data, const TomoDocument& document, Plan& plan) 
 /// The records stay, with other times and, if they moved, positions.
 void fillRecords(const Plan& plan, TomoDocument& document) {
   for (std::size_t i = 0; i < plan.records.size(); ++i) {
-    TravelTime& record = document.ttArray[i];
+    TravelTime& record = document.ttArray.edit()[i];
     TravelTime& read = *plan.records[i];
     record.shotPos2d = read.shotPos2d;
     record.indexStesa = read.indexStesa;
     record.ttMisurati = std::move(read.ttMisurati);
-    if (plan.moved) record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+    if (plan.moved) record.ttCalcolati.edit().assign(record.ttMisurati.size(), kNoTime);
   }
 }
 
 void replaceRecords(std::vector<TravelTime> records, TomoDocument& document) {
-  document.ttArray = std::move(records);
-  document.filenames.clear();
-  document.filenames_DX.clear();
-  document.filenames_SX.clear();
+  document.ttArray.edit() = std::move(records);
+  document.recordings.edit().filenames.clear();
+  document.recordings.edit().filenames_DX.clear();
+  document.recordings.edit().filenames_SX.clear();
 }
 
 }  // namespace
 
 void fitToRecords(TravelTimeData& data, const TomoDocument& document) {
-  const Message dropped = dropImpossiblePicks(data.records, document.traceSets);
+  const Message dropped = dropImpossiblePicks(data.records, document.recordings->traceSets);
   if (!dropped.empty()) data.warnings.push_back(dropped);
 }
 
@@ -153,7 +156,7 @@ Status checkImport(TravelTimeData& data, const TomoDocument& document, ImportCos
   Plan plan;
   Status status = makePlan(data, document, plan);
   cost.model = plan.loss;
-  cost.survey = plan.moved && document.traceSets.empty();
+  cost.survey = plan.moved && document.recordings->traceSets.empty();
   return status;
 }
 
@@ -161,20 +164,19 @@ Status importTravelTimes(TravelTimeData data, TomoDocument& document) {
   Plan plan;
   if (Status status = makePlan(data, document, plan); !status.ok()) return status;
   // Cell sizes that were proposed for other positions are none for these.
-  const bool all = plan.moved && document.grid == nullptr;
-  if (plan.moved && document.traceSets.empty()) {
+  const bool all = plan.moved && document.model->grid == nullptr;
+  if (plan.moved && document.recordings->traceSets.empty()) {
     replaceRecords(std::move(data.records), document);
-    if (all || plan.loss == ModelLoss::kGrid) document.layers.clear();
+    if (all || plan.loss == ModelLoss::kGrid) document.model.edit().layers.clear();
   } else {
     fillRecords(plan, document);
   }
-  document.goephonesStringSet = std::move(data.strings);
+  document.line.edit().goephonesStringSet = std::move(data.strings);
   forgetModel(all ? ModelLoss::kGrid : plan.loss, document);
-  document.shotPositions.clear();
+  document.line.edit().shotPositions.clear();
   for (const TravelTime& record : document.ttArray) {
-    document.shotPositions.push_back(record.shotPos2d.x);
+    document.line.edit().shotPositions.push_back(record.shotPos2d.x);
   }
-  document.modified = true;
   return {};
 }
 

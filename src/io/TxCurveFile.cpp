@@ -121,14 +121,14 @@ class TxCurveReader : private PickReader {
     if (!readCount("NUMBER_OF_RECEIVERS", receivers)) return false;
     std::vector<Point2D> geophones;
     for (int i = 0; i < receivers; ++i) {
-      if (!readReceiver(geophones, record.ttMisurati)) return false;
+      if (!readReceiver(geophones, record.ttMisurati.edit())) return false;
     }
     if (!mWithElevations) {
       record.shotPos2d.z = 0.0;
     } else if (!hasElevation) {
       record.shotPos2d.z = elevationAlong(geophones, record.shotPos2d.x);
     }
-    record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+    record.ttCalcolati.edit().assign(record.ttMisurati.size(), kNoTime);
     const int next = static_cast<int>(mStrings.size());
     record.indexStesa = mStrings.emplace(std::move(geophones), next).first->second;
     mData.records.push_back(std::move(record));

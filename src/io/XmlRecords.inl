@@ -6,6 +6,7 @@
 // that must be there, fields.optional("x", record.x) for one that older files lack. Elements are
 // found by name, whatever their order; unknown ones are passed over.
 
+#include "base/Shared.h"
 #include "io/XmlReader.h"
 #include "io/XmlWriter.h"
 
@@ -21,6 +22,11 @@ template <typename T>
 struct IsVector : std::false_type {};
 template <typename T>
 struct IsVector<std::vector<T>> : std::true_type {};
+
+template <typename T>
+struct IsShared : std::false_type {};
+template <typename T>
+struct IsShared<SharedVector<T>> : std::true_type {};
 
 struct OneOrMany;
 
@@ -41,6 +47,8 @@ class Output {
   void put(const char* name, const T& value) {
     if constexpr (std::is_same_v<T, OneOrMany>) {
       put(name, value.values);
+    } else if constexpr (IsShared<T>::value) {
+      put(name, *value);
     } else if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, std::string>) {
       mWriter.put(name, value);
     } else if constexpr (std::is_enum_v<T>) {
@@ -98,6 +106,8 @@ void read(XmlReader& reader, T& value) {
     value = numberOf<T>(reader.text(), element);
   } else if constexpr (std::is_enum_v<T>) {
     value = static_cast<T>(numberOf<std::int32_t>(reader.text(), element));
+  } else if constexpr (IsShared<T>::value) {
+    read(reader, value.edit());
   } else if constexpr (IsVector<T>::value) {
     reader.countSequence();
     value.clear();

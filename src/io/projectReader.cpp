@@ -138,7 +138,6 @@ bool projectReader::readMembers(const std::string& folder, LoadedProject& projec
   project.document = std::move(survey.document);
   project.section = survey.section;
   project.shotFiles = mShotFiles;
-  project.document.modified = false;
   return !mError;
 }
 

@@ -13,4 +13,10 @@ struct geographicsCoord {
   double mNorthLstGeoph = 0.0;  ///< northing of the last geophone, metres
 };
 
+/// Where the line lies on the map.
+struct MapPosition {
+  geographicsCoord geoCoord;
+  bool geoCoord_isSet = false;
+};
+
 }  // namespace talvesk

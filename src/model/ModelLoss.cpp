@@ -1,5 +1,8 @@
 #include "model/ModelLoss.h"
 
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -38,21 +41,21 @@ bool sameGround(const SurveyProfile& a, const SurveyProfile& b) {
 }  // namespace
 
 ModelLoss modelLoss(const TomoDocument& document, const SurveyProfile& next) {
-  if (document.grid == nullptr) return ModelLoss::kNothing;
+  if (document.model->grid == nullptr) return ModelLoss::kNothing;
   if (!sameGround(document.surveyProfile(), next)) return ModelLoss::kGrid;
-  return document.has_tomographic_info ? ModelLoss::kResults : ModelLoss::kNothing;
+  return document.result->has_tomographic_info ? ModelLoss::kResults : ModelLoss::kNothing;
 }
 
 void forgetModel(ModelLoss loss, TomoDocument& document) {
   if (loss == ModelLoss::kNothing) return;
   if (loss == ModelLoss::kGrid) {
     document.clearModelAndResults();
-  } else if (document.grid != nullptr) {
+  } else if (document.model->grid != nullptr) {
     document.clearInversion();
-    document.info_density.assign(document.grid->cellCount(), -1.0);
+    document.result.edit().info_density.assign(document.model->grid->cellCount(), -1.0);
   }
-  for (TravelTime& record : document.ttArray) {
-    record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+  for (TravelTime& record : document.ttArray.edit()) {
+    record.ttCalcolati = std::vector<double>(record.ttMisurati.size(), kNoTime);
   }
 }
 

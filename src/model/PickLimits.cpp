@@ -40,11 +40,11 @@ Message dropImpossiblePicks(std::vector<TravelTime>& records,
   std::size_t dropped = 0;
   Message named;
   for (std::size_t shot = 0; shot < records.size(); ++shot) {
-    std::vector<double>& times = records[shot].ttMisurati;
+    const SharedVector<double>& times = records[shot].ttMisurati;
     for (std::size_t trace = 0; trace < times.size(); ++trace) {
       const Message why = fault(times[trace], traceOf(records[shot], trace, traceSets));
       if (why.empty()) continue;
-      times[trace] = kNoTime;
+      records[shot].ttMisurati.edit()[trace] = kNoTime;
       if (++dropped > kNamed) continue;
       Message one = Message::tr("shot %1, trace %2 (%3)").arg(shot + 1).arg(trace + 1).arg(why);
       named = named.empty() ? std::move(one)

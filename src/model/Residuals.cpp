@@ -1,7 +1,9 @@
 #include "model/Residuals.h"
 
 #include "model/PickFingerprint.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,9 +20,9 @@ std::vector<Residual> residualsOf(const TomoDocument& document) {
       const double computed = record.ttCalcolati[j];
       if (!hasPick(record.ttMisurati[j]) || computed == kNoTime) continue;
       double offset = std::nan("");
-      if (record.indexStesa >= 0 && string < document.goephonesStringSet.size() &&
-          j < document.goephonesStringSet[string].size()) {
-        offset = std::abs(document.goephonesStringSet[string][j].x - record.shotPos2d.x);
+      if (record.indexStesa >= 0 && string < document.line->goephonesStringSet.size() &&
+          j < document.line->goephonesStringSet[string].size()) {
+        offset = std::abs(document.line->goephonesStringSet[string][j].x - record.shotPos2d.x);
       }
       residuals.push_back({i, j, offset, record.ttMisurati[j], computed - record.ttMisurati[j]});
     }
@@ -52,13 +54,13 @@ SectionMisfit misfitOfTimes(const TomoDocument& document) {
 }
 
 SectionMisfit sectionMisfitOf(const TomoDocument& document) {
-  if (!document.has_tomographic_info || !document.timesOfSection) return {};
+  if (!document.result->has_tomographic_info || !document.result->timesOfSection) return {};
   return misfitOfTimes(document);
 }
 
 bool picksChangedSince(const TomoDocument& document) {
-  return document.lastInversion && document.lastInversion->picks != 0 &&
-         document.lastInversion->picks != fingerprintOfPicks(document.ttArray);
+  return document.result->lastInversion && document.result->lastInversion->picks != 0 &&
+         document.result->lastInversion->picks != fingerprintOfPicks(document.ttArray);
 }
 
 }  // namespace talvesk

@@ -7,9 +7,10 @@ namespace talvesk {
 
 void subtractRecordings(Trace& trace) {
   if (trace.waveKind != Trace::kSWavePair) return;
-  trace.samples = trace.samplesDX;
+  std::vector<double> samples = trace.samplesDX;
   const std::size_t both = std::min(trace.samplesDX.size(), trace.samplesSX.size());
-  for (std::size_t k = 0; k < both; ++k) trace.samples[k] -= trace.samplesSX[k];
+  for (std::size_t k = 0; k < both; ++k) samples[k] -= trace.samplesSX[k];
+  trace.samples = std::move(samples);
 }
 
 void joinRecordings(TraceSet& dx, TraceSet& sx) {

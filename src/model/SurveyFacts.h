@@ -1,6 +1,8 @@
 #pragma once
 
+#include "model/Recordings.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -33,7 +35,7 @@ inline bool hasFilteredCopy(const TraceSet& traces) {
 
 /// Whether the information density is known of any cell: there has been an inversion.
 inline bool hasInformationDensity(const TomoDocument& document) {
-  return std::any_of(document.info_density.begin(), document.info_density.end(),
+  return std::any_of(document.result->info_density.begin(), document.result->info_density.end(),
                      [](double density) { return density >= 0.0; });
 }
 

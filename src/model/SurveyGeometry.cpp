@@ -1,5 +1,9 @@
 #include "model/SurveyGeometry.h"
 
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -75,17 +79,19 @@ bool fillElevation(GeometryPlace& place, const Profile& profile) {
 
 /// A record for recordings that are new.
 void takePair(SWavePair& pair, std::size_t shot, TomoDocument& next) {
-  TravelTime& record = next.ttArray[shot];
+  TravelTime& record = next.ttArray.edit()[shot];
   record.traceSetID = static_cast<std::int32_t>(shot);
-  record.ttMisurati.assign(pair.traces.size(), kUnpicked);
-  record.ttCalcolati.assign(pair.traces.size(), kNoTime);
-  next.filenames[shot].clear();
-  next.filenames_DX[shot] = pair.fileDX;
-  next.filenames_SX[shot] = pair.fileSX;
+  record.ttMisurati = std::vector<double>(pair.traces.size(), kUnpicked);
+  record.ttCalcolati = std::vector<double>(pair.traces.size(), kNoTime);
+  Recordings& recordings = next.recordings.edit();
+  recordings.filenames[shot].clear();
+  recordings.filenames_DX[shot] = pair.fileDX;
+  recordings.filenames_SX[shot] = pair.fileSX;
+  recordings.traceSets[shot] = std::move(pair.traces);
 }
 
 bool stringsDiffer(const SurveyGeometry& geometry, const TomoDocument& document) {
-  const auto& strings = document.goephonesStringSet;
+  const auto& strings = document.line->goephonesStringSet;
   if (geometry.strings.size() != strings.size()) return true;
   for (std::size_t s = 0; s < strings.size(); ++s) {
     const GeophoneString& edited = geometry.strings[s];
@@ -106,7 +112,7 @@ bool hasNewPair(const SurveyGeometry& geometry) {
 
 SurveyGeometry geometryOf(const TomoDocument& document) {
   SurveyGeometry geometry;
-  for (const auto& string : document.goephonesStringSet) {
+  for (const auto& string : document.line->goephonesStringSet) {
     geometry.strings.push_back(stringOf(string));
   }
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
@@ -116,9 +122,9 @@ SurveyGeometry geometryOf(const TomoDocument& document) {
     shot.string = record.indexStesa;
     const TraceSet* traces = document.tracesOf(record);
     shot.traces = traces != nullptr ? traces->size() : record.ttMisurati.size();
-    shot.file = entry(document.filenames, i);
-    shot.fileDX = entry(document.filenames_DX, i);
-    shot.fileSX = entry(document.filenames_SX, i);
+    shot.file = entry(document.recordings->filenames, i);
+    shot.fileDX = entry(document.recordings->filenames_DX, i);
+    shot.fileSX = entry(document.recordings->filenames_SX, i);
   }
   markTyped(geometry.shots, [](GeometryShot& shot) -> GeometryPlace& { return shot.place; });
   return geometry;
@@ -139,54 +145,39 @@ bool geometryDiffers(const SurveyGeometry& geometry, const TomoDocument& documen
 
 bool applyGeometry(const SurveyGeometry& geometry, TomoDocument& document) {
   if (!geometryDiffers(geometry, document)) return false;
-  // What needs memory is made first, so that the document is never left half changed.
   const std::size_t count = geometry.shots.size();
-  TomoDocument next;
-  for (const GeophoneString& string : geometry.strings) {
-    next.goephonesStringSet.push_back(pointsOf(string));
-  }
-  next.ttArray = document.ttArray;
-  next.ttArray.resize(count);
-  const bool pairs = hasNewPair(geometry);
-  if (pairs) {
-    next.filenames = document.filenames;
-    next.filenames_DX = document.filenames_DX;
-    next.filenames_SX = document.filenames_SX;
-    for (auto* list : {&next.filenames, &next.filenames_DX, &next.filenames_SX}) {
-      list->resize(count);
+  TomoDocument next = document;  // which takes its place when all of it is there
+  next.clearModelAndResults();
+  // The first cell size that was proposed for a survey stays its proposal.
+  next.model.edit().proposedCellSizes = document.model->proposedCellSizes;
+  next.ttArray.edit().resize(count);
+  if (hasNewPair(geometry)) {
+    Recordings& recordings = next.recordings.edit();
+    recordings.traceSets.resize(count);
+    for (auto* files :
+         {&recordings.filenames, &recordings.filenames_DX, &recordings.filenames_SX}) {
+      files->resize(count);
     }
+    recordings.waveType = WaveType::S;
+  }
+  SurveyLine line;
+  for (const GeophoneString& string : geometry.strings) {
+    line.goephonesStringSet.push_back(pointsOf(string));
   }
   for (std::size_t i = 0; i < count; ++i) {
     const GeometryShot& shot = geometry.shots[i];
-    TravelTime& record = next.ttArray[i];
+    TravelTime& record = next.ttArray.edit()[i];
     record.shotPos2d = shot.place.point();
     record.indexStesa = shot.string;
-    std::fill(record.ttCalcolati.begin(), record.ttCalcolati.end(), kNoTime);
     if (shot.pair) takePair(*shot.pair, i, next);
-    next.shotPositions.push_back(shot.place.x);
+    line.shotPositions.push_back(shot.place.x);
   }
-  if (pairs) document.traceSets.resize(count);
-
-  for (std::size_t i = 0; i < count; ++i) {
-    if (geometry.shots[i].pair) document.traceSets[i] = std::move(geometry.shots[i].pair->traces);
-  }
-  document.goephonesStringSet.swap(next.goephonesStringSet);
-  document.ttArray.swap(next.ttArray);
   // Picks without traces may have shot positions of their own, too.
-  if (!document.traceSets.empty() || !document.shotPositions.empty()) {
-    document.shotPositions.swap(next.shotPositions);
+  if (next.recordings->traceSets.empty() && document.line->shotPositions.empty()) {
+    line.shotPositions.clear();
   }
-  if (pairs) {
-    document.filenames.swap(next.filenames);
-    document.filenames_DX.swap(next.filenames_DX);
-    document.filenames_SX.swap(next.filenames_SX);
-    document.waveType = WaveType::S;
-  }
-  // The first cell size that was proposed for a survey stays its proposal.
-  std::vector<double> proposed = std::move(document.proposedCellSizes);
-  document.clearModelAndResults();
-  document.proposedCellSizes = std::move(proposed);
-  document.modified = true;
+  next.line = std::move(line);
+  document = std::move(next);
   return true;
 }
 
@@ -248,8 +239,8 @@ void removeString(SurveyGeometry& geometry, std::size_t string, int heir) {
 }
 
 std::string shotFile(const TomoDocument& document, std::size_t shot) {
-  std::string file = entry(document.filenames, shot);
-  return file.empty() ? entry(document.filenames_DX, shot) : file;
+  std::string file = entry(document.recordings->filenames, shot);
+  return file.empty() ? entry(document.recordings->filenames_DX, shot) : file;
 }
 
 std::vector<std::size_t> shotsOfString(const SurveyGeometry& geometry, std::size_t string) {

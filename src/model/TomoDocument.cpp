@@ -2,6 +2,10 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <limits>
@@ -63,41 +67,49 @@ double elevationBy(const std::vector<Point2D>& profile, double x) {
 
 TomoDocument::TomoDocument() = default;
 TomoDocument::~TomoDocument() = default;
+TomoDocument::TomoDocument(const TomoDocument&) = default;
+TomoDocument& TomoDocument::operator=(const TomoDocument&) = default;
 TomoDocument::TomoDocument(TomoDocument&&) noexcept = default;
 TomoDocument& TomoDocument::operator=(TomoDocument&&) noexcept = default;
 
-void TomoDocument::clearInversion() {
-  has_tomographic_info = false;
-  smoothedResult = false;
-  RMSE_tomography = -1.0;
-  timesOfSection = false;
-  sectionHistory.clear();
-  for (TravelTime& record : ttArray) {
-    std::fill(record.ttCalcolati.begin(), record.ttCalcolati.end(), kNoTime);
-  }
-  coorcount.clear();
-  hitCounts.clear();
-  rays.clear();
-  excluded.clear();
-  coverageLimit.clear();
-  coverageSpline.reset();
-  lastInversion.reset();
+void TomographyOutcome::clear() {
+  std::vector<double> density = std::move(info_density);
+  *this = TomographyOutcome();
+  info_density = std::move(density);
 }
 
-void TomoDocument::clearModelAndResults() {
-  grid.reset();
-  xOffset = 0.0;
-  surface = Splines::LinearSpline();
-  proposedCellSizes.clear();
-  info_density.clear();
-  clearInversion();
-}
-
-void TomoDocument::setCoverageLimit(std::vector<Point2D> centres) {
+void TomographyOutcome::setCoverageLimit(std::vector<Point2D> centres) {
   coverageLimit = std::move(centres);
   coverageSpline.reset();
   if (coverageLimit.size() < 2) return;
   coverageSpline = splineThrough<Splines::BesselSpline>(coverageLimit);
+}
+
+Grid& GroundModel::editGrid() {
+  if (grid.use_count() != 1) grid = std::make_shared<Grid>(*grid);
+  return const_cast<Grid&>(*grid);
+}
+
+void TomoDocument::clearInversion() {
+  result.edit().clear();
+  const auto computed = [](const TravelTime& record) {
+    return std::any_of(record.ttCalcolati.begin(), record.ttCalcolati.end(),
+                       [](double time) { return time != kNoTime; });
+  };
+  if (std::none_of(ttArray.begin(), ttArray.end(), computed)) return;
+  for (TravelTime& record : ttArray.edit()) {
+    record.ttCalcolati = std::vector<double>(record.ttCalcolati.size(), kNoTime);
+  }
+}
+
+void TomoDocument::clearModelAndResults() {
+  GroundModel& ground = model.edit();
+  ground.grid.reset();
+  ground.xOffset = 0.0;
+  ground.surface = Splines::LinearSpline();
+  ground.proposedCellSizes.clear();
+  result.edit().info_density.clear();
+  clearInversion();
 }
 
 bool TomoDocument::picksComplete() const {
@@ -112,6 +124,7 @@ bool TomoDocument::picksComplete() const {
 
 int TomoDocument::findTrace(std::int32_t set, std::int32_t trace, const Trace*& out) const {
   out = nullptr;
+  const std::vector<TraceSet>& traceSets = recordings->traceSets;
   if (traceSets.empty()) {
     console::error() << "[ERROR] No trace exists. " << std::endl;
     return -1;
@@ -130,19 +143,21 @@ int TomoDocument::findTrace(std::int32_t set, std::int32_t trace, const Trace*& 
 }
 
 const TraceSet* TomoDocument::tracesOf(const TravelTime& record) const {
+  const std::vector<TraceSet>& traceSets = recordings->traceSets;
   const auto set = static_cast<std::size_t>(record.traceSetID);
   return record.traceSetID >= 0 && set < traceSets.size() ? &traceSets[set] : nullptr;
 }
 
-TraceSet* TomoDocument::tracesOf(const TravelTime& record) {
-  return const_cast<TraceSet*>(std::as_const(*this).tracesOf(record));
+TraceSet* TomoDocument::editTracesOf(const TravelTime& record) {
+  if (tracesOf(record) == nullptr) return nullptr;
+  return &recordings.edit().traceSets[static_cast<std::size_t>(record.traceSetID)];
 }
 
 std::vector<Point2D> TomoDocument::receiversOf(const TravelTime& record) const {
   const auto string = static_cast<std::size_t>(record.indexStesa);
-  if (record.indexStesa >= 0 && string < goephonesStringSet.size() &&
-      !goephonesStringSet[string].empty()) {
-    return goephonesStringSet[string];
+  const std::vector<std::vector<Point2D>>& strings = line->goephonesStringSet;
+  if (record.indexStesa >= 0 && string < strings.size() && !strings[string].empty()) {
+    return strings[string];
   }
   std::vector<Point2D> receivers;
   if (const TraceSet* traces = tracesOf(record)) {
@@ -159,12 +174,12 @@ std::vector<Point2D> TomoDocument::shotPoints() const {
 }
 
 SurveyProfile TomoDocument::surveyProfile() const {
-  return measureSurvey(goephonesStringSet, shotPoints());
+  return measureSurvey(line->goephonesStringSet, shotPoints());
 }
 
 std::vector<Point2D> TomoDocument::elevationProfile() const {
   const std::vector<Point2D> shots = shotPoints();
-  const Extent extent = lineExtent(goephonesStringSet, shots);
+  const Extent extent = lineExtent(line->goephonesStringSet, shots);
   std::map<double, double> elevations;
   const auto take = [&](const Point2D& point) {
     if (!isFinite(point) || !extent.holds(point.x)) return;
@@ -172,7 +187,7 @@ std::vector<Point2D> TomoDocument::elevationProfile() const {
       console::out() << formatDouble(point.x) << " insert\n";
     }
   };
-  for (const auto& string : goephonesStringSet) {
+  for (const auto& string : line->goephonesStringSet) {
     for (const Point2D& geophone : string) take(geophone);
   }
   for (const Point2D& shot : shots) take(shot);

@@ -1,20 +1,13 @@
 #pragma once
 
-#include "base/Log.h"
 #include "base/Point2D.h"
+#include "base/Shared.h"
 #include "base/Status.h"
-#include "grid/Grid.h"
 #include "grid/SurveyProfile.h"
-#include "grid/VelocityLayers.h"
 #include "model/GeographicsCoord.h"
-#include "model/InversionRecord.h"
-#include "model/Trace.h"
 #include "model/TravelTime.h"
-#include "numerics/Splines.h"
 
 #include <cstdint>
-#include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,73 +15,40 @@
 
 namespace talvesk {
 
-enum class WaveType : std::int32_t { P = 0, S = 1 };
-
-/// A shot or receiver that lies beyond the top line of the grid and takes no part in an inversion.
-struct ExcludedPosition {
-  std::int32_t shot = 0;       ///< record, from 0
-  std::int32_t receiver = -1;  ///< geophone of the record's string, from 0; -1 is the whole shot
-  double x = 0.0;              ///< survey abscissa, metres
-};
+class Log;
+struct GroundModel;
+struct Recordings;
+struct SurveyLine;
+struct TomographyOutcome;
+struct Trace;
+using TraceSet = std::vector<Trace>;
 
 /// The survey: the one document of the application. Holds data and answers simple questions; the
-/// algorithms of the rooms above fill it. Not for use by two threads at once, except that ray
-/// tracing workers write the computed times of their own shot.
+/// algorithms of the rooms above fill it. A copy costs some pointers: what it consists of is shared
+/// until one of the copies edits it. Not for use by two threads at once, except that ray tracing
+/// workers write the computed times of their own shot; copies may be.
+///
+/// A part is read by `->` and written through edit(). Include the header of a part to use it.
 class TomoDocument {
  public:
   TomoDocument();
   ~TomoDocument();
+  TomoDocument(const TomoDocument&);
+  TomoDocument& operator=(const TomoDocument&);
   TomoDocument(TomoDocument&&) noexcept;
   TomoDocument& operator=(TomoDocument&&) noexcept;
 
-  // --- What was recorded.
   std::string title;
-  std::vector<std::string> filenames;     ///< shot files, in loading order
-  std::vector<std::string> filenames_DX;  ///< S-wave files, one source polarity
-  std::vector<std::string> filenames_SX;  ///< S-wave files, the other polarity
-  WaveType waveType = WaveType::P;
-  std::vector<double> shotPositions;  ///< source abscissa per file, metres
-  std::vector<TraceSet> traceSets;
+  Shared<Recordings> recordings;  ///< model/Recordings.h
   /// One record per trace set, record i belonging to set i. A document of picks only has records
   /// without any trace set.
-  std::vector<TravelTime> ttArray;
-  std::vector<std::vector<Point2D>> goephonesStringSet;  ///< geophones in channel order, per string
-  geographicsCoord geoCoord;
-  bool geoCoord_isSet = false;
+  SharedVector<TravelTime> ttArray;
+  Shared<SurveyLine> line;           ///< model/SurveyLine.h
+  Shared<GroundModel> model;         ///< model/GroundModel.h
+  Shared<TomographyOutcome> result;  ///< of the last inversion, model/TomographyOutcome.h
+  Shared<MapPosition> map;           ///< model/GeographicsCoord.h
+  bool stopRequested = false;        ///< the inversion under way is to end after its iteration
 
-  // --- The model of the ground.
-  std::unique_ptr<Grid> grid;
-  double xOffset = 0.0;                   ///< added to survey x to get grid x, metres
-  Splines::LinearSpline surface;          ///< elevation over grid x, of the current grid
-  std::vector<double> proposedCellSizes;  ///< metres; only grows
-  std::vector<VelocityLayer> layers;      ///< starting model; empty until the user made one
-  double minVelocity = 250.0;             ///< m/s, limits of the solver
-  double maxVelocity = 3500.0;            ///< m/s
-
-  // --- Results of the last inversion.
-  bool has_tomographic_info = false;
-  bool smoothedResult = false;    ///< the grid was smoothed since
-  double RMSE_tomography = -1.0;  ///< relative RMS misfit of the last pass, percent; <0: none
-  /// The computed times were traced through the grid as it is, along rays of their own. Not so
-  /// while an inversion runs, and in projects of earlier versions until their rays are traced anew.
-  bool timesOfSection = false;
-  /// Misfit through every section that the run has traced its rays in, the starting model first.
-  std::vector<SectionMisfit> sectionHistory;
-  std::vector<double> info_density;              ///< per cell; -1.0 before any inversion
-  std::vector<double> coorcount;                 ///< metres of ray per cell, last update
-  std::vector<std::uint32_t> hitCounts;          ///< per cell, of the last external iteration
-  std::vector<std::vector<std::uint32_t>> rays;  ///< node lists, shot by shot, receivers in order
-  std::vector<ExcludedPosition> excluded;
-  std::vector<Point2D> coverageLimit;  ///< centres of the deepest covered cells, grid coordinates
-  std::optional<Splines::BesselSpline> coverageSpline;  ///< through them; none for fewer than two
-  std::optional<InversionRecord> lastInversion;         ///< none when nothing is known of it
-  bool stopRequested = false;
-
-  bool modified = false;  ///< something changed since the last save
-
-  /// Takes the centres of the deepest covered cells, column by column, and lays the curve through
-  /// them.
-  void setCoverageLimit(std::vector<Point2D> centres);
   /// Forgets what the last inversion left, computed times included, but the information density,
   /// which every grid has.
   void clearInversion();
@@ -106,7 +66,7 @@ class TomoDocument {
 
   /// The traces that the times of a record belong to; null when there are none.
   const TraceSet* tracesOf(const TravelTime& record) const;
-  TraceSet* tracesOf(const TravelTime& record);
+  TraceSet* editTracesOf(const TravelTime& record);  ///< the same, to be written
   /// Where the receivers of a record stand: the geophones of its string or, without any, what the
   /// headers of its traces say.
   std::vector<Point2D> receiversOf(const TravelTime& record) const;

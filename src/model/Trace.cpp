@@ -7,7 +7,7 @@ namespace talvesk {
 void dropFirstSamples(Trace& trace, std::size_t count) {
   for (auto* samples : {&trace.samples, &trace.samplesDX, &trace.samplesSX}) {
     const auto dropped = static_cast<std::ptrdiff_t>(std::min(count, samples->size()));
-    samples->erase(samples->begin(), samples->begin() + dropped);
+    if (dropped > 0) *samples = std::vector<double>(samples->begin() + dropped, samples->end());
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Point2D.h"
+#include "base/Shared.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -17,10 +18,10 @@ struct Trace {
   static constexpr std::uint32_t kUnknown = 4;
 
   std::uint32_t waveKind = kUnknown;
-  std::vector<double> samples;    ///< as displayed and picked
-  std::vector<double> samplesDX;  ///< source struck in one direction (pairs only)
-  std::vector<double> samplesSX;  ///< source struck in the opposite direction (pairs only)
-  std::vector<double> filtered;   ///< after the current filter chain; empty without one
+  SharedVector<double> samples;    ///< as displayed and picked
+  SharedVector<double> samplesDX;  ///< source struck in one direction (pairs only)
+  SharedVector<double> samplesSX;  ///< source struck in the opposite direction (pairs only)
+  SharedVector<double> filtered;   ///< after the current filter chain; empty without one
   Point2D sourcePosition;
   double sampleInterval = std::numeric_limits<double>::max();  ///< seconds
   Point2D receiverPosition;

@@ -3,6 +3,7 @@
 #include "base/Console.h"
 #include "base/TextNumber.h"
 #include "model/SWavePair.h"
+#include "model/SurveyLine.h"
 
 #include <algorithm>
 #include <atomic>
@@ -41,18 +42,28 @@ std::int32_t detect(const Trace& trace, bool useFiltered) {
 
 TravelTime* recordOf(TomoDocument& document, std::int32_t shot) {
   if (shot < 0 || static_cast<std::size_t>(shot) >= document.ttArray.size()) return nullptr;
-  return &document.ttArray[static_cast<std::size_t>(shot)];
+  return &document.ttArray.edit()[static_cast<std::size_t>(shot)];
 }
 
 /// The traces that belong to a shot's times; null when there are none.
-TraceSet* tracesOf(TomoDocument& document, std::int32_t shot) {
-  const TravelTime* record = recordOf(document, shot);
-  return record != nullptr ? document.tracesOf(*record) : nullptr;
+const TraceSet* tracesOf(const TomoDocument& document, std::int32_t shot) {
+  if (shot < 0 || static_cast<std::size_t>(shot) >= document.ttArray.size()) return nullptr;
+  return document.tracesOf(document.ttArray[static_cast<std::size_t>(shot)]);
+}
+
+/// Samples of pairs are made anew from their recordings; those of others are left alone.
+void subtractPairs(TomoDocument& document, std::int32_t shot) {
+  const TraceSet* traces = tracesOf(document, shot);
+  const auto isPair = [](const Trace& trace) { return trace.waveKind == Trace::kSWavePair; };
+  if (traces == nullptr || std::none_of(traces->begin(), traces->end(), isPair)) return;
+  const TravelTime& record = document.ttArray[static_cast<std::size_t>(shot)];
+  for (Trace& trace : *document.editTracesOf(record)) subtractRecordings(trace);
 }
 
 void store(TravelTime& record, const TraceSet& traces, std::size_t trace, std::int32_t index) {
-  if (record.ttMisurati.size() < traces.size()) record.ttMisurati.resize(traces.size(), kUnpicked);
-  record.ttMisurati[trace] = static_cast<std::uint32_t>(index) * traces[trace].sampleInterval;
+  std::vector<double>& times = record.ttMisurati.edit();
+  if (times.size() < traces.size()) times.resize(traces.size(), kUnpicked);
+  times[trace] = static_cast<std::uint32_t>(index) * traces[trace].sampleInterval;
 }
 
 /// Indices of the offsets, nearest to the shot first. An offset that is not known is last.
@@ -70,7 +81,7 @@ std::vector<std::size_t> outward(const std::vector<double>& offsets) {
 
 void removeWhatWasNotFound(TravelTime& record, const std::vector<std::int32_t>& indices) {
   for (std::size_t t = 0; t < indices.size(); ++t) {
-    if (indices[t] < 0) record.ttMisurati[t] = kNoTime;
+    if (indices[t] < 0) record.ttMisurati.edit()[t] = kNoTime;
   }
 }
 
@@ -137,12 +148,11 @@ std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t t
     console::error() << "[ERROR] Shot " + std::to_string(shot) + " has no record of times.\n";
     return -1;
   }
-  TraceSet& traces = *tracesOf(document, shot);
+  subtractPairs(document, shot);
+  const TraceSet& traces = *tracesOf(document, shot);
   const auto t = static_cast<std::size_t>(trace);
-  subtractRecordings(traces[t]);
   const std::int32_t index = detect(traces[t], useFiltered);
   store(*record, traces, t, index);
-  document.modified = true;
   return index;
 }
 
@@ -152,13 +162,13 @@ Status screenShotPicks(TomoDocument& document, std::int32_t shot) {
     return Status::failure(Message::tr("%1 has no record of times to screen").arg(shotName(shot)));
   }
   const auto string = static_cast<std::size_t>(record->indexStesa);
-  if (record->indexStesa < 0 || string >= document.goephonesStringSet.size()) {
+  if (record->indexStesa < 0 || string >= document.line->goephonesStringSet.size()) {
     return Status::failure(
         Message::tr("the picks of %1 are not screened: it has no geophone string")
             .arg(shotName(shot)));
   }
-  const std::vector<Point2D>& geophones = document.goephonesStringSet[string];
-  std::vector<double>& times = record->ttMisurati;
+  const std::vector<Point2D>& geophones = document.line->goephonesStringSet[string];
+  std::vector<double>& times = record->ttMisurati.edit();
   std::vector<double> offsets;
   for (std::size_t i = 0; i < std::min(geophones.size(), times.size()); ++i) {
     offsets.push_back(geophones[i].x - record->shotPos2d.x);
@@ -181,7 +191,6 @@ Status screenShotPicks(TomoDocument& document, std::int32_t shot) {
       slowest = std::max(slowest, 0.5 * speed);
     }
   }
-  document.modified = true;
   return {};
 }
 
@@ -194,11 +203,13 @@ Status pickShots(TomoDocument& document, const std::vector<std::int32_t>& shots,
   std::vector<std::vector<std::int32_t>> indices(shots.size());
   std::vector<Job> jobs;
   for (std::size_t s = 0; s < shots.size(); ++s) {
-    TraceSet* traces = tracesOf(document, shots[s]);
+    subtractPairs(document, shots[s]);
+  }
+  for (std::size_t s = 0; s < shots.size(); ++s) {
+    const TraceSet* traces = tracesOf(document, shots[s]);
     if (traces == nullptr) continue;
     indices[s].assign(traces->size(), -1);
     for (std::size_t t = 0; t < traces->size(); ++t) {
-      subtractRecordings((*traces)[t]);
       jobs.push_back({&(*traces)[t], &indices[s][t]});
     }
   }
@@ -209,7 +220,6 @@ Status pickShots(TomoDocument& document, const std::vector<std::int32_t>& shots,
     const Status status = takePicks(document, shots[s], indices[s]);
     if (first.ok() && !status.ok()) first = status;
   }
-  if (!shots.empty()) document.modified = true;
   return first;
 }
 

@@ -12,13 +12,13 @@ const BandFilter kHushel{FilterCorner{85.0, 1}, FilterCorner{14.0, 1}};
 
 Status reduceNoiseOf(Trace& trace) {
   if (trace.samples.empty()) {
-    trace.filtered.clear();
+    trace.filtered = {};
     return {};
   }
   // Only the last bin of the spectrum matters, and no transform is needed to know it.
   console::out() << "fft\n";
   const double highest = highestBinFrequency(trace.samples.size(), trace.sampleInterval);
-  return bandFilterTrace(trace.samples, kHushel, highest, trace.filtered);
+  return bandFilterTrace(trace.samples, kHushel, highest, trace.filtered.edit());
 }
 
 }  // namespace

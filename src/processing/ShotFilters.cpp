@@ -1,6 +1,7 @@
 #include "processing/ShotFilters.h"
 
 #include "base/TextNumber.h"
+#include "model/Recordings.h"
 #include "processing/Spectrum.h"
 #include "processing/TraceFilters.h"
 
@@ -51,8 +52,9 @@ void add(FilterOutcome& sum, const FilterOutcome& part, const Message& where) {
 }
 
 TraceSet* tracesOf(TomoDocument& document, std::int32_t shot) {
-  if (shot < 0 || static_cast<std::size_t>(shot) >= document.traceSets.size()) return nullptr;
-  return &document.traceSets[static_cast<std::size_t>(shot)];
+  if (shot < 0 || static_cast<std::size_t>(shot) >= document.recordings->traceSets.size())
+    return nullptr;
+  return &document.recordings.edit().traceSets[static_cast<std::size_t>(shot)];
 }
 
 // Users count from 1.
@@ -76,7 +78,6 @@ FilterOutcome overShots(TomoDocument& document, const std::vector<std::int32_t>&
       add(outcome, operation(*traces), nameOf(shot));
     }
   }
-  if (outcome.filtered > 0) document.modified = true;
   return outcome;
 }
 
@@ -121,7 +122,8 @@ FilterOutcome bandFilterTraces(TraceSet& traces, const BandFilter& filter,
   if (!check.ok()) return {0, traces.size(), check};
   FilterOutcome outcome;
   for (std::size_t t = 0; t < traces.size(); ++t) {
-    count(outcome, bandFilterTrace(traces[t].samples, filter, highestFrequency, traces[t].filtered),
+    count(outcome,
+          bandFilterTrace(traces[t].samples, filter, highestFrequency, traces[t].filtered.edit()),
           nameOf(t));
   }
   return outcome;
@@ -138,8 +140,8 @@ FilterOutcome bandFilterShots(TomoDocument& document, const std::vector<std::int
 }
 
 FilterOutcome agcShots(TomoDocument& document, const std::vector<std::int32_t>& shots) {
-  return filterEachTrace(document, shots,
-                         [](Trace& trace) { return agcTrace(trace.samples, trace.filtered); });
+  return filterEachTrace(
+      document, shots, [](Trace& trace) { return agcTrace(trace.samples, trace.filtered.edit()); });
 }
 
 FilterOutcome filterEachTrace(TomoDocument& document, const std::vector<std::int32_t>& shots,

@@ -1,5 +1,7 @@
 #include "processing/ShotTime.h"
 
+#include "model/Recordings.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -33,7 +35,7 @@ void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
   // A filtered copy as long as the samples now are was kept from an earlier shortening.
   if (trace.filtered.size() != trace.samples.size()) {
     const auto dropped = static_cast<std::ptrdiff_t>(std::min(now, trace.filtered.size()));
-    trace.filtered.erase(trace.filtered.begin(), trace.filtered.begin() + dropped);
+    trace.filtered = std::vector<double>(trace.filtered.begin() + dropped, trace.filtered.end());
   }
   trace.droppedSamples = total;
   ++outcome.shortened;
@@ -44,10 +46,9 @@ void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
 
 ShotTimeOutcome countTimeFromShot(TomoDocument& document) {
   ShotTimeOutcome outcome;
-  for (TraceSet& traces : document.traceSets) {
+  for (TraceSet& traces : document.recordings.edit().traceSets) {
     for (Trace& trace : traces) countFromShot(trace, outcome);
   }
-  if (outcome.shortened > 0) document.modified = true;
   return outcome;
 }
 

@@ -1,5 +1,8 @@
 #include "tomo/DijkstraComputePathsThread.h"
 
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+
 #include <algorithm>
 #include <exception>
 
@@ -10,7 +13,9 @@ DijkstraComputePathsThread::DijkstraComputePathsThread(TomoDocument& document,
                                                        std::uint32_t sourceNode)
     : mShotIndex(shotIndex),
       mDocument(document),
-      mSpreadIndex(static_cast<std::uint32_t>(document.ttArray.at(shotIndex).indexStesa)),
+      mRecord(document.ttArray.edit().at(shotIndex)),
+      mComputed(document.ttArray.edit()[shotIndex].ttCalcolati.edit()),
+      mSpreadIndex(static_cast<std::uint32_t>(mRecord.indexStesa)),
       mSourceNode(sourceNode) {}
 
 DijkstraComputePathsThread::~DijkstraComputePathsThread() {
@@ -38,15 +43,14 @@ void DijkstraComputePathsThread::run() {
 }
 
 void DijkstraComputePathsThread::traceRays() {
-  const auto& spread = mDocument.goephonesStringSet.at(mSpreadIndex);
-  const std::size_t receivers =
-      std::min(spread.size(), mDocument.ttArray.at(mShotIndex).ttMisurati.size());
+  const auto& spread = mDocument.line->goephonesStringSet.at(mSpreadIndex);
+  const std::size_t receivers = std::min(spread.size(), mRecord.ttMisurati.size());
   if (receivers == 0) return;
-  mSearch->search(*mDocument.grid, mSourceNode);
+  mSearch->search(*mDocument.model->grid, mSourceNode);
   std::vector<Ray> rays(receivers);
   for (std::size_t i = 0; i < receivers; ++i) {
     const std::uint32_t node =
-        mDocument.grid->geometry().topNodeIndex(spread[i].x + mDocument.xOffset);
+        mDocument.model->grid->geometry().topNodeIndex(spread[i].x + mDocument.model->xOffset);
     if (node != kNoNode) rays[i] = mSearch->ray(node);
   }
   mRays = std::move(rays);
@@ -54,7 +58,7 @@ void DijkstraComputePathsThread::traceRays() {
 }
 
 void DijkstraComputePathsThread::collectCells() {
-  std::vector<std::uint8_t> seen(mDocument.grid->cellCount(), 0);
+  std::vector<std::uint8_t> seen(mDocument.model->grid->cellCount(), 0);
   for (const Ray& ray : mRays) {
     for (const GridEdge& step : ray.steps) {
       if (seen[step.cell] != 0) continue;
@@ -67,7 +71,7 @@ void DijkstraComputePathsThread::collectCells() {
 void DijkstraComputePathsThread::evaluateRay(std::uint32_t receiver) {
   const Ray& ray = mRays.at(receiver);
   if (ray.nodes.empty()) return;
-  const Grid& grid = *mDocument.grid;
+  const Grid& grid = *mDocument.model->grid;
   double time = 0.0;
   double length = 0.0;
   for (const GridEdge& step : ray.steps) {
@@ -75,10 +79,9 @@ void DijkstraComputePathsThread::evaluateRay(std::uint32_t receiver) {
     length += step.length;
   }
   mLastTime = time;
-  TravelTime& record = mDocument.ttArray.at(mShotIndex);
-  record.ttCalcolati.at(receiver) = time;
+  mComputed.at(receiver) = time;
 
-  const double measured = record.ttMisurati.at(receiver);
+  const double measured = mRecord.ttMisurati.at(receiver);
   double residual = time - measured;
   if (measured <= 0.0) residual = 0.0;
   residual /= length;
@@ -94,7 +97,7 @@ void DijkstraComputePathsThread::evaluateRay(std::uint32_t receiver) {
 
 void DijkstraComputePathsThread::refreshRayTimes(std::uint32_t receiver) {
   for (GridEdge& step : mRays.at(receiver).steps) {
-    step.time = mDocument.grid->slowness(step.cell) * step.length;
+    step.time = mDocument.model->grid->slowness(step.cell) * step.length;
   }
 }
 

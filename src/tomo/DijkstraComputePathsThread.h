@@ -15,7 +15,8 @@ namespace talvesk {
 /// when it evaluates the rays that it has with the new slownesses.
 ///
 /// Reads the document; writes the computed times of its own shot and its own two accumulators, so
-/// that workers of different shots need no lock. Nothing escapes the thread: see failure().
+/// that workers of different shots need no lock. As long as it works nobody copies the document,
+/// whose parts would be shared then. Nothing escapes the thread: see failure().
 class DijkstraComputePathsThread : public QThread {
  public:
   /// \param shotIndex record of the shot, also the thread's number; its `ttCalcolati` is as long as
@@ -48,7 +49,9 @@ class DijkstraComputePathsThread : public QThread {
   void collectCells();
 
   std::uint32_t mShotIndex;
-  TomoDocument& mDocument;
+  const TomoDocument& mDocument;
+  const TravelTime& mRecord;
+  std::vector<double>& mComputed;  ///< times of the record, seconds
   std::uint32_t mSpreadIndex;
   std::uint32_t mSourceNode;
   std::vector<Ray> mRays;  ///< per receiver; empty until the first run

@@ -2,6 +2,9 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 
 #include <QThread>
 #include <algorithm>
@@ -30,10 +33,10 @@ unsigned searchThreads() {
 }
 
 Status checkTraceable(const TomoDocument& document) {
-  if (document.grid == nullptr || document.grid->cellCount() == 0) {
+  if (document.model->grid == nullptr || document.model->grid->cellCount() == 0) {
     return Status::failure(Message::tr("There is no grid with cells; build the grid first."));
   }
-  const Message invalid = document.grid->invalidSlowness();
+  const Message invalid = document.model->grid->invalidSlowness();
   if (!invalid.empty()) {
     return Status::failure(Message::tr("The velocity model cannot be used: %1").arg(invalid));
   }
@@ -48,9 +51,9 @@ std::string describe(const ExcludedPosition& position) {
 }
 
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document) {
-  const GridGeometry& g = document.grid->geometry();
-  return findExcluded(document,
-                      [&](double x) { return g.topNodeIndex(x + document.xOffset) == kNoNode; });
+  const GridGeometry& g = document.model->grid->geometry();
+  return findExcluded(
+      document, [&](double x) { return g.topNodeIndex(x + document.model->xOffset) == kNoNode; });
 }
 
 std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
@@ -60,12 +63,12 @@ std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
     const TravelTime& record = document.ttArray[s];
     const auto shot = static_cast<std::int32_t>(s);
     const bool noString = record.indexStesa < 0 || static_cast<std::size_t>(record.indexStesa) >=
-                                                       document.goephonesStringSet.size();
+                                                       document.line->goephonesStringSet.size();
     if (noString || outside(record.shotPos2d.x)) {
       excluded.push_back({shot, -1, record.shotPos2d.x});
       continue;
     }
-    const auto& spread = document.goephonesStringSet[record.indexStesa];
+    const auto& spread = document.line->goephonesStringSet[record.indexStesa];
     const std::size_t n = std::min(spread.size(), record.ttMisurati.size());
     for (std::size_t i = 0; i < n; ++i) {
       if (!outside(spread[i].x)) continue;
@@ -78,31 +81,32 @@ std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
 ForwardPass::ForwardPass(TomoDocument& document, unsigned threads, Log& log, ThreadLines lines)
     : mDocument(document), mLog(log), mLines(lines) {
   std::vector<ExcludedPosition> excluded = findExcluded(document);
-  if (!sameExclusions(excluded, document.excluded)) {
+  if (!sameExclusions(excluded, document.result->excluded)) {
     for (const ExcludedPosition& position : excluded) log.write(describe(position), 1);
   }
-  document.excluded = std::move(excluded);
-  document.timesOfSection = false;
+  document.result.edit().excluded = std::move(excluded);
+  document.result.edit().timesOfSection = false;
 
-  const std::size_t shots = document.ttArray.size();
+  std::vector<TravelTime>& records = document.ttArray.edit();
+  const std::size_t shots = records.size();
   mWorkers.resize(shots);
   std::vector<bool> whole(shots, true);
-  for (const ExcludedPosition& p : document.excluded) {
+  for (const ExcludedPosition& p : document.result->excluded) {
     if (p.receiver < 0) whole[p.shot] = false;
   }
   for (std::size_t s = 0; s < shots; ++s) {
-    TravelTime& record = document.ttArray[s];
-    record.ttCalcolati.assign(record.ttMisurati.size(), kNoTime);
+    TravelTime& record = records[s];
+    record.ttCalcolati = std::vector<double>(record.ttMisurati.size(), kNoTime);
     if (!whole[s]) continue;
     const std::uint32_t source =
-        document.grid->geometry().topNodeIndex(record.shotPos2d.x + document.xOffset);
+        document.model->grid->geometry().topNodeIndex(record.shotPos2d.x + document.model->xOffset);
     mWorkers[s] = std::make_unique<DijkstraComputePathsThread>(
         document, static_cast<std::uint32_t>(s), source);
   }
   mSlots.resize(std::min<std::size_t>(std::max(threads, 1U), std::max<std::size_t>(shots, 1)));
   for (Slot& slot : mSlots) {
-    slot.correction.assign(document.grid->cellCount(), 0.0);
-    slot.rayLength.assign(document.grid->cellCount(), 0.0);
+    slot.correction.assign(document.model->grid->cellCount(), 0.0);
+    slot.rayLength.assign(document.model->grid->cellCount(), 0.0);
   }
 }
 

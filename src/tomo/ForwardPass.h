@@ -12,6 +12,7 @@
 
 namespace talvesk {
 
+struct ExcludedPosition;
 /// How many ray searches run at once unless the user asks for a single one.
 unsigned searchThreads();
 

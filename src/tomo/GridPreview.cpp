@@ -1,6 +1,7 @@
 #include "tomo/GridPreview.h"
 
 #include "grid/GridBuilder.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 
 #include <algorithm>

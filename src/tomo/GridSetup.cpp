@@ -3,8 +3,9 @@
 #include "base/Console.h"
 #include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
-#include "tomo/InversionCopy.h"
 #include "tomo/RayRecomputation.h"
 
 #include <algorithm>
@@ -32,7 +33,8 @@ SurveyProfile measure(TomoDocument& document, Log& log) {
   SurveyProfile profile = document.surveyProfile();
   log.write("Minima spaziatura : " + withSixDecimals(profile.minSpacing));
   console::out() << "[LOG] Minima spaziatura " << formatDouble(profile.minSpacing) << std::endl;
-  if (profile.hasGeometry()) document.proposedCellSizes.push_back(profile.proposedCellSize);
+  if (profile.hasGeometry())
+    document.model.edit().proposedCellSizes.push_back(profile.proposedCellSize);
   return profile;
 }
 
@@ -65,9 +67,8 @@ Status fail(Log& log, const Message& message) {
 void install(TomoDocument& document, std::unique_ptr<Grid> grid) {
   std::vector<double> noInformation(grid->cellCount(), -1.0);
   document.clearInversion();
-  document.info_density = std::move(noInformation);
-  document.grid = std::move(grid);
-  document.modified = true;
+  document.result.edit().info_density = std::move(noInformation);
+  document.model.edit().grid = std::move(grid);
 }
 
 }  // namespace
@@ -76,9 +77,10 @@ GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& lo
   profile = measure(document, log);
   GridSettings settings;
   settings.maxDepth = profile.arrayLength / 2.0;
-  settings.cellSize = document.proposedCellSizes.empty() ? 0.5 : document.proposedCellSizes.front();
+  settings.cellSize =
+      document.model->proposedCellSizes.empty() ? 0.5 : document.model->proposedCellSizes.front();
   settings.cellSize = std::max(settings.cellSize, kSmallestCell);
-  settings.nodes = std::max(document.grid ? document.grid->nV() : 0U, kFewestNodes);
+  settings.nodes = std::max(document.model->grid ? document.model->grid->nV() : 0U, kFewestNodes);
   return settings;
 }
 
@@ -112,8 +114,8 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
     }
     log.write("Generating the grid ... COMPLETED");
     install(document, std::move(grid));
-    document.surface = std::move(surface);
-    document.xOffset = profile.xOffset;
+    document.model.edit().surface = std::move(surface);
+    document.model.edit().xOffset = profile.xOffset;
   } catch (const std::exception& error) {
     return fail(log, Message::tr("The grid could not be built: %1").arg(error.what()));
   }
@@ -123,29 +125,29 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
 }
 
 Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers) {
-  if (document.grid == nullptr) {
+  if (document.model->grid == nullptr) {
     return Status::failure(Message::tr("There is no grid yet; build the grid first."));
   }
   std::vector<VelocityLayer> accepted = acceptedLayers(layers);
   std::unique_ptr<Grid> grid;
-  Status status = buildLayeredGrid(*document.grid, accepted, document.surface, grid);
+  Status status = buildLayeredGrid(*document.model->grid, accepted, document.model->surface, grid);
   if (!status.ok()) return status;
   install(document, std::move(grid));
-  document.layers = std::move(accepted);
+  document.model.edit().layers = std::move(accepted);
   return {};
 }
 
 Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool symmetric,
                   Log& log) {
-  if (document.grid == nullptr || document.grid->cellCount() == 0) {
+  if (document.model->grid == nullptr || document.model->grid->cellCount() == 0) {
     return Status::failure(Message::tr("There is no grid with cells; build the grid first."));
   }
   if (radius < 1) {
     return Status::failure(Message::tr("The smoothing parameter must be 1 at least."));
   }
-  const Grid& current = *document.grid;
+  const Grid& current = *document.model->grid;
   try {
-    std::vector<std::uint32_t> hits = document.hitCounts;
+    std::vector<std::uint32_t> hits = document.result->hitCounts;
     hits.resize(current.cellCount(), 0);  // without an inversion no ray passed anywhere
     auto smoothed = std::make_unique<Grid>(
         current.sharedGeometry(),
@@ -156,17 +158,16 @@ Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool s
           Message::tr("The smoothed velocity model cannot be used: %1").arg(invalid));
     }
     for (std::uint32_t c = 0; c < current.cellCount(); ++c) smoothed->setDraw(c, current.draw(c));
-    TomoDocument copy = inversionCopy(document);
-    copy.grid = std::move(smoothed);
-    if (copy.has_tomographic_info) {
-      copy.smoothedResult = true;
+    TomoDocument copy = document;
+    copy.model.edit().grid = std::move(smoothed);
+    if (copy.result->has_tomographic_info) {
+      copy.result.edit().smoothedResult = true;
       if (Status status = traceSection(copy, searchThreads(), log); !status.ok()) return status;
     }
-    takeInversion(document, copy);
+    document = std::move(copy);
   } catch (const std::exception& error) {
     return Status::failure(Message::tr("The grid could not be smoothed: %1").arg(error.what()));
   }
-  document.modified = true;
   return {};
 }
 

@@ -9,6 +9,7 @@
 
 namespace talvesk {
 
+struct VelocityLayer;
 inline constexpr double kSmallestCell = 0.1;  ///< metres, of the sizes that users choose
 
 /// What the user chooses for a grid.

@@ -2,6 +2,7 @@
 
 #include "base/TextNumber.h"
 #include "model/SurveyFacts.h"
+#include "model/SurveyLine.h"
 
 #include <algorithm>
 #include <map>
@@ -15,8 +16,8 @@ using Receivers = std::set<std::size_t>;
 std::size_t usedPicks(const TomoDocument& document, const TravelTime& record,
                       const Receivers& excluded) {
   const auto index = static_cast<std::size_t>(record.indexStesa);
-  if (record.indexStesa < 0 || index >= document.goephonesStringSet.size()) return 0;
-  const auto& string = document.goephonesStringSet[index];
+  if (record.indexStesa < 0 || index >= document.line->goephonesStringSet.size()) return 0;
+  const auto& string = document.line->goephonesStringSet[index];
   const std::size_t n = std::min(string.size(), record.ttMisurati.size());
   std::size_t used = 0;
   for (std::size_t i = 0; i < n; ++i) {
@@ -78,7 +79,7 @@ LeftOut leftOut(const TomoDocument& document, const std::vector<ExcludedPosition
     }
     whole[shot] = false;
     const bool known =
-        string >= 0 && static_cast<std::size_t>(string) < document.goephonesStringSet.size();
+        string >= 0 && static_cast<std::size_t>(string) < document.line->goephonesStringSet.size();
     (known ? left.shotsBeyond : left.shotsWithoutString).push_back(shot);
   }
   for (const auto& [string, receivers] : byString) {
@@ -106,7 +107,7 @@ std::vector<std::string> describe(const LeftOut& left, const TomoDocument& docum
   }
   for (const LeftOut::Geophones& geophones : left.geophones) {
     lines.push_back("Left out, beyond the grid: " +
-                    describe(geophones, document.goephonesStringSet[geophones.string]));
+                    describe(geophones, document.line->goephonesStringSet[geophones.string]));
   }
   if (left.picks > 0) {
     lines.push_back("Left out: " + std::to_string(left.picks) + " of " + std::to_string(left.of) +

@@ -8,6 +8,7 @@
 
 namespace talvesk {
 
+struct ExcludedPosition;
 /// What an inversion leaves out of a survey, put together for people. Indices are from 0.
 struct LeftOut {
   /// Geophones of one string that no column of the grid reaches.

@@ -1,5 +1,7 @@
 #include "tomo/RayRecomputation.h"
 
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 
 #include <exception>
@@ -10,12 +12,12 @@ namespace {
 
 Status trace(TomoDocument& document, unsigned threads, Log& log, ThreadLines lines) {
   try {
-    document.rays.clear();
+    document.result.edit().rays = {};
     ForwardPass pass(document, threads, log, lines);
     const Status status = pass.run("", nullptr, nullptr);
     if (!status.ok()) return status;
-    pass.appendRaysTo(document.rays);
-    document.timesOfSection = true;
+    pass.appendRaysTo(document.result.edit().rays.edit());
+    document.result.edit().timesOfSection = true;
     return status;
   } catch (const std::exception& error) {
     return Status::failure(Message::tr("The rays could not be traced: %1").arg(error.what()));
@@ -31,10 +33,10 @@ Status traceSection(TomoDocument& document, unsigned threads, Log& log) {
 
 Status recomputeRays(TomoDocument& document, Log& log) {
   if (const Status status = checkTraceable(document); !status.ok()) return status;
-  const std::size_t cells = document.grid->cellCount();
-  if (document.coorcount.size() != cells || document.hitCounts.size() != cells) {
-    document.coorcount.assign(cells, 0.0);
-    document.hitCounts.assign(cells, 0);
+  const std::size_t cells = document.model->grid->cellCount();
+  if (document.result->coorcount.size() != cells || document.result->hitCounts.size() != cells) {
+    document.result.edit().coorcount.assign(cells, 0.0);
+    document.result.edit().hitCounts.assign(cells, 0);
   }
   return trace(document, searchThreads(), log, ThreadLines::kTold);
 }

@@ -1,6 +1,8 @@
 #include "tomo/StartingModel.h"
 
 #include "grid/GridBuilder.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 
 #include <cmath>
 
@@ -31,13 +33,13 @@ bool followsLayers(const Grid& grid, const std::vector<VelocityLayer>& layers) {
 }  // namespace
 
 StartingModel startingModelOf(const TomoDocument& document) {
-  if (document.grid == nullptr) return StartingModel::kNone;
-  if (document.has_tomographic_info) {
-    return document.smoothedResult ? StartingModel::kSmoothed : StartingModel::kResult;
+  if (document.model->grid == nullptr) return StartingModel::kNone;
+  if (document.result->has_tomographic_info) {
+    return document.result->smoothedResult ? StartingModel::kSmoothed : StartingModel::kResult;
   }
-  if (follows(*document.grid, defaultVelocity)) return StartingModel::kDefault;
-  return followsLayers(*document.grid, document.layers) ? StartingModel::kLayered
-                                                        : StartingModel::kOther;
+  if (follows(*document.model->grid, defaultVelocity)) return StartingModel::kDefault;
+  return followsLayers(*document.model->grid, document.model->layers) ? StartingModel::kLayered
+                                                                      : StartingModel::kOther;
 }
 
 }  // namespace talvesk

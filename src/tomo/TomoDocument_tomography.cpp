@@ -1,6 +1,8 @@
 #include "base/Console.h"
+#include "model/GroundModel.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/Smoothing.h"
 #include "tomo/Solver.h"
@@ -25,45 +27,6 @@ void tellEnd(std::chrono::steady_clock::time_point start) {
                  << "s\n";
 }
 
-/// What an external iteration overwrites before it is through.
-class ResultsBefore {
- public:
-  explicit ResultsBefore(TomoDocument& document)
-      : mDocument(document),
-        mSlownesses(document.grid->slownesses()),
-        mCoorcount(document.coorcount),
-        mHitCounts(document.hitCounts),
-        mRays(document.rays),
-        mExcluded(document.excluded),
-        mTimesOfSection(document.timesOfSection) {
-    for (const TravelTime& record : document.ttArray) mComputed.push_back(record.ttCalcolati);
-  }
-
-  void restore() {
-    for (std::uint32_t c = 0; c < mSlownesses.size(); ++c) {
-      mDocument.grid->setSlowness(c, mSlownesses[c]);
-    }
-    mDocument.coorcount = std::move(mCoorcount);
-    mDocument.hitCounts = std::move(mHitCounts);
-    mDocument.rays = std::move(mRays);
-    mDocument.excluded = std::move(mExcluded);
-    mDocument.timesOfSection = mTimesOfSection;
-    for (std::size_t s = 0; s < mComputed.size(); ++s) {
-      mDocument.ttArray[s].ttCalcolati = std::move(mComputed[s]);
-    }
-  }
-
- private:
-  TomoDocument& mDocument;
-  std::vector<double> mSlownesses;
-  std::vector<double> mCoorcount;
-  std::vector<std::uint32_t> mHitCounts;
-  std::vector<std::vector<std::uint32_t>> mRays;
-  std::vector<ExcludedPosition> mExcluded;
-  bool mTimesOfSection;
-  std::vector<std::vector<double>> mComputed;
-};
-
 /// Draw flags of the new grid, and in the document the lower limit of what rays covered.
 void setCoverage(TomoDocument& document, Grid& grid) {
   std::vector<Point2D> limit;
@@ -71,14 +34,14 @@ void setCoverage(TomoDocument& document, Grid& grid) {
     bool covered = false;
     for (std::uint32_t row = grid.righe() - 1; row >= 1; --row) {
       const std::uint32_t cell = grid.cellIndex(row, column);
-      if (!covered && document.hitCounts[cell] > 0) {
+      if (!covered && document.result->hitCounts[cell] > 0) {
         covered = true;
         limit.push_back(grid.cellCentre(cell));
       }
       grid.setDraw(cell, covered);
     }
   }
-  document.setCoverageLimit(std::move(limit));
+  document.result.edit().setCoverageLimit(std::move(limit));
 }
 
 }  // namespace
@@ -88,12 +51,13 @@ Status TomoDocument::runTomography_fast(std::vector<double>& slownesses, unsigne
                                         int smoothingType, Log& log) {
   log.write("TomoDocument::runTomography_fast");
   const auto start = std::chrono::steady_clock::now();
-  rays.clear();
+  TomographyOutcome& outcome = result.edit();
+  outcome.rays = {};
   log.write(" Forwarding ... ");
-  const std::size_t cells = grid->cellCount();
+  const std::size_t cells = model->grid->cellCount();
   std::vector<double> coorslow(cells, 0.0);
-  coorcount.assign(cells, 0.0);
-  hitCounts.assign(cells, 0);
+  outcome.coorcount.assign(cells, 0.0);
+  outcome.hitCounts.assign(cells, 0);
 
   const std::string n = std::to_string(threads);
   const std::string total =
@@ -102,27 +66,27 @@ Status TomoDocument::runTomography_fast(std::vector<double>& slownesses, unsigne
   log.write(total);
 
   ForwardPass pass(*this, threads, log);
-  Status status = pass.run("[RUNNIG DIJKSTRA]", &coorslow, &coorcount);
+  Status status = pass.run("[RUNNIG DIJKSTRA]", &coorslow, &outcome.coorcount);
   if (!status.ok()) return status;
-  pass.appendRaysTo(rays);
+  pass.appendRaysTo(outcome.rays.edit());
   // These rays are the first through the section that the iteration before has left.
-  sectionHistory.push_back(misfitOfTimes(*this));
+  outcome.sectionHistory.push_back(misfitOfTimes(*this));
   tellEnd(start);
 
   const std::string caption =
       "[INTERNAL RUN " + std::to_string(solverIterations) + "][RUNNIG SOLVEART]";
   for (int it = 0; it < solverIterations; ++it) {
-    slownesses =
-        updateSlownesses(*grid, coorslow, coorcount, hitCounts, {minVelocity, maxVelocity});
+    slownesses = updateSlownesses(model.edit().editGrid(), coorslow, outcome.coorcount,
+                                  outcome.hitCounts, {model->minVelocity, model->maxVelocity});
     pass.refreshRayTimes();
     if (it + 1 == solverIterations) break;
     std::fill(coorslow.begin(), coorslow.end(), 0.0);
-    std::fill(coorcount.begin(), coorcount.end(), 0.0);
-    status = pass.run(caption, &coorslow, &coorcount);
+    std::fill(outcome.coorcount.begin(), outcome.coorcount.end(), 0.0);
+    status = pass.run(caption, &coorslow, &outcome.coorcount);
     if (!status.ok()) return status;
   }
-  slownesses = smoothSlowness(smoothingTypeOf(smoothingType), *grid, hitCounts, smoothing,
-                              verticalRatio(symmetric));
+  slownesses = smoothSlowness(smoothingTypeOf(smoothingType), *model->grid, outcome.hitCounts,
+                              smoothing, verticalRatio(symmetric));
   return {};
 }
 
@@ -132,23 +96,26 @@ Status TomoDocument::runTomography(std::vector<double>& slownesses, int solverIt
   log.write("TomoDocument::runTomography");
   if (const Status status = checkTraceable(*this); !status.ok()) return status;
   const unsigned threads = multiThread ? searchThreads() : 1U;
-  ResultsBefore before(*this);
+  const TomoDocument before = *this;
   Status status;
   try {
     status = runTomography_fast(slownesses, threads, solverIterations, smoothing, symmetric,
                                 smoothingType, log);
     if (status.ok()) {
-      auto corrected = std::make_unique<Grid>(grid->sharedGeometry(), slownesses);
+      auto corrected = std::make_unique<Grid>(model->grid->sharedGeometry(), slownesses);
       setCoverage(*this, *corrected);
-      grid = std::move(corrected);
-      has_tomographic_info = true;
-      smoothedResult = false;
+      model.edit().grid = std::move(corrected);
+      result.edit().has_tomographic_info = true;
+      result.edit().smoothedResult = false;
       return status;
     }
   } catch (const std::exception& error) {
     status = Status::failure(Message::tr("The inversion failed: %1").arg(error.what()));
   }
-  before.restore();
+  // Whoever asked to stop meanwhile has asked for more than this iteration.
+  const bool stop = stopRequested;
+  *this = before;
+  stopRequested = stop;
   return status;
 }
 

@@ -2,8 +2,10 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "model/GroundModel.h"
 #include "model/PickFingerprint.h"
 #include "model/Residuals.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"
 
@@ -55,7 +57,7 @@ InversionRecord recordOf(const TomographyParameters& p, const TomographyResult& 
   record.computingSeconds = result.computingSeconds;
   record.stopped = result.stopped;
   record.history = result.history;
-  record.sectionHistory = document.sectionHistory;
+  record.sectionHistory = document.result->sectionHistory;
   record.picks = fingerprintOfPicks(document.ttArray);
   return record;
 }
@@ -72,11 +74,11 @@ Status traceFinished(TomoDocument& document, const TomographyParameters& p,
     result.lastPassTimes.push_back(record.ttCalcolati);
   }
   // An iteration that failed may have been through this section before.
-  document.sectionHistory.resize(static_cast<std::size_t>(result.iterationsDone));
+  document.result.edit().sectionHistory.resize(static_cast<std::size_t>(result.iterationsDone));
   const Status status = traceSection(document, p.singleThread ? 1U : searchThreads(), log);
   if (!status.ok()) return status;
   result.sectionMisfit = sectionMisfitOf(document);
-  document.sectionHistory.push_back(result.sectionMisfit);
+  document.result.edit().sectionHistory.push_back(result.sectionMisfit);
   return status;
 }
 
@@ -98,8 +100,9 @@ Status finish(TomoDocument& document, const TomographyParameters& p, const Stopw
   };
   Status status;
   try {
-    document.info_density = smoothRayDensity(p.smoothingType, *document.grid, document.hitCounts,
-                                             p.smoothing, verticalRatio(p.symmetric), log);
+    document.result.edit().info_density =
+        smoothRayDensity(p.smoothingType, *document.model->grid, document.result->hitCounts,
+                         p.smoothing, verticalRatio(p.symmetric), log);
     status = traceFinished(document, p, result, log);
     seconds();
     tellEnd(result, log);
@@ -108,7 +111,7 @@ Status finish(TomoDocument& document, const TomographyParameters& p, const Stopw
     status = Status::failure(
         Message::tr("The last steps of the inversion failed: %1").arg(error.what()));
   }
-  document.lastInversion = recordOf(p, result, document);
+  document.result.edit().lastInversion = recordOf(p, result, document);
   return status;
 }
 
@@ -122,12 +125,12 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   if (!result.status.ok()) return result;
   const Stopwatch watch;
   document.stopRequested = false;
+  const Shared<TomographyOutcome> before = document.result;
   // Every run names anew what it leaves out.
-  std::vector<ExcludedPosition> excludedBefore = std::exchange(document.excluded, {});
-  std::vector<SectionMisfit> historyBefore = std::exchange(document.sectionHistory, {});
-  document.minVelocity = p.minVelocity;
-  document.maxVelocity = p.maxVelocity;
-  document.modified = true;
+  document.result.edit().excluded.clear();
+  document.result.edit().sectionHistory.clear();
+  document.model.edit().minVelocity = p.minVelocity;
+  document.model.edit().maxVelocity = p.maxVelocity;
   log.write(std::string("Running Tomography :") +
             (p.singleThread ? "Single thread mode. " : "Multi thread mode. "));
 
@@ -142,11 +145,11 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
     log.write(line + " ... COMPLETED. ");
     result.iterationsDone = i + 1;
     result.history.push_back(computeMisfit(document));
-    document.RMSE_tomography = percentOf(result.history.back());
+    document.result.edit().RMSE_tomography = percentOf(result.history.back());
     log.write("Updating tomographic profile ... ");
     if (progress) {
       progress({i + 1, p.externalIterations, watch.seconds(), result.history.back(),
-                document.sectionHistory.back()});
+                document.result->sectionHistory.back()});
     }
     log.write("Updating tomographic profile ... COMPLETED. ");
     if (cancelled && cancelled()) document.stopRequested = true;
@@ -158,8 +161,7 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   }
   if (result.iterationsDone == 0) {
     // The exclusions tell which rays are those of which receiver.
-    document.excluded = std::move(excludedBefore);
-    document.sectionHistory = std::move(historyBefore);
+    document.result = before;
     result.elapsedSeconds = result.computingSeconds = watch.seconds();
     return result;
   }

@@ -1,6 +1,9 @@
 #include "view/RayLines.h"
 
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -14,7 +17,7 @@ namespace {
 /// order, without the shots that were left out as a whole.
 std::vector<bool> picked(const TomoDocument& document) {
   std::vector<bool> traced(document.ttArray.size(), true);
-  for (const ExcludedPosition& position : document.excluded) {
+  for (const ExcludedPosition& position : document.result->excluded) {
     const auto shot = static_cast<std::size_t>(position.shot);
     if (position.receiver < 0 && shot < traced.size()) traced[shot] = false;
   }
@@ -22,9 +25,9 @@ std::vector<bool> picked(const TomoDocument& document) {
   for (std::size_t shot = 0; shot < document.ttArray.size(); ++shot) {
     const TravelTime& record = document.ttArray[shot];
     const auto string = static_cast<std::size_t>(record.indexStesa);
-    if (!traced[shot] || string >= document.goephonesStringSet.size()) continue;
+    if (!traced[shot] || string >= document.line->goephonesStringSet.size()) continue;
     const std::size_t receivers =
-        std::min(document.goephonesStringSet[string].size(), record.ttMisurati.size());
+        std::min(document.line->goephonesStringSet[string].size(), record.ttMisurati.size());
     for (std::size_t i = 0; i < receivers; ++i) found.push_back(hasPick(record.ttMisurati[i]));
   }
   return found;
@@ -33,19 +36,19 @@ std::vector<bool> picked(const TomoDocument& document) {
 }  // namespace
 
 std::vector<std::vector<Point2D>> rayLines(const TomoDocument& document) {
-  const GridGeometry& geometry = document.grid->geometry();
+  const GridGeometry& geometry = document.model->grid->geometry();
   const std::vector<bool> withPick = picked(document);
-  const bool known = withPick.size() == document.rays.size();
+  const bool known = withPick.size() == document.result->rays.size();
   std::vector<std::vector<Point2D>> lines;
-  lines.reserve(document.rays.size());
-  for (std::size_t i = 0; i < document.rays.size(); ++i) {
+  lines.reserve(document.result->rays.size());
+  for (std::size_t i = 0; i < document.result->rays.size(); ++i) {
     if (known && !withPick[i]) continue;
     std::vector<Point2D> line;
-    line.reserve(document.rays[i].size());
-    for (const std::uint32_t node : document.rays[i]) {
+    line.reserve(document.result->rays[i].size());
+    for (const std::uint32_t node : document.result->rays[i]) {
       // A project may bring rays of another grid.
       if (node >= geometry.nodeCount()) continue;
-      line.push_back({geometry.nodeX(node) - document.xOffset, -geometry.nodeZ(node)});
+      line.push_back({geometry.nodeX(node) - document.model->xOffset, -geometry.nodeZ(node)});
     }
     if (line.size() >= 2) lines.push_back(std::move(line));
   }

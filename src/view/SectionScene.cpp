@@ -1,8 +1,11 @@
 #include "view/SectionScene.h"
 
 #include "base/RoundStep.h"
+#include "model/GroundModel.h"
 #include "model/Residuals.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 #include "view/RayLines.h"
 #include "view/SectionValues.h"
 
@@ -19,7 +22,7 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 std::vector<double> valuesOf(const TomoDocument& document, SectionQuantity quantity) {
-  const Grid& grid = *document.grid;
+  const Grid& grid = *document.model->grid;
   switch (quantity) {
     case SectionQuantity::kVelocity:
       return grid.velocities();
@@ -31,7 +34,7 @@ std::vector<double> valuesOf(const TomoDocument& document, SectionQuantity quant
       break;
   }
   // Negative numbers say that a cell has no information density yet.
-  std::vector<double> values = document.info_density;
+  std::vector<double> values = document.result->info_density;
   values.resize(grid.cellCount(), -1.0);
   for (double& value : values) {
     if (value < 0.0) value = std::numeric_limits<double>::quiet_NaN();
@@ -69,7 +72,7 @@ std::vector<Point2D> eachPlaceOnce(std::vector<Point2D> points) {
 
 std::vector<Point2D> allGeophones(const TomoDocument& document) {
   std::vector<Point2D> points;
-  for (const auto& string : document.goephonesStringSet) {
+  for (const auto& string : document.line->goephonesStringSet) {
     points.insert(points.end(), string.begin(), string.end());
   }
   return eachPlaceOnce(std::move(points));
@@ -87,16 +90,17 @@ std::vector<Point2D> surfaceLine(const Grid& grid, double xOffset) {
 
 std::vector<Point2D> coverageCurve(const TomoDocument& document) {
   std::vector<Point2D> curve;
-  if (!document.coverageSpline || document.coverageSpline->npts() < 2) return curve;
-  const Splines::BesselSpline spline = *document.coverageSpline;  // evaluation writes its cache
+  if (!document.result->coverageSpline || document.result->coverageSpline->npts() < 2) return curve;
+  const Splines::BesselSpline spline =
+      *document.result->coverageSpline;  // evaluation writes its cache
   const double first = spline.X().front();
   const double last = spline.X().back();
-  const double step = document.grid->aLato() / 4.0;
+  const double step = document.model->grid->aLato() / 4.0;
   const auto pieces = static_cast<std::uint32_t>(
-      std::clamp((last - first) / step, 1.0, 4.0 * document.grid->col()));
+      std::clamp((last - first) / step, 1.0, 4.0 * document.model->grid->col()));
   for (std::uint32_t i = 0; i <= pieces; ++i) {
     const double x = i == pieces ? last : first + (last - first) * i / pieces;
-    const Point2D point{x - document.xOffset, -spline(x)};
+    const Point2D point{x - document.model->xOffset, -spline(x)};
     if (std::isfinite(point.z)) curve.push_back(point);
   }
   return curve;
@@ -137,7 +141,7 @@ void addContours(const SectionSceneOptions& options, SectionScene& scene) {
 /// The values of the cells and all that follows from them.
 Status fillIn(const TomoDocument& document, const SectionSceneOptions& options,
               SectionScene& scene) {
-  scene.velocities = document.grid->velocities();
+  scene.velocities = document.model->grid->velocities();
   scene.cellValues = valuesOf(document, options.quantity);
   const bool filled = scene.fill != SectionFill::kNone;
   if (filled) drawOnlyValues(scene.mesh, scene.cellValues);
@@ -209,7 +213,7 @@ ColorTable sectionColors(const SectionScene& scene, const ColorPalette& palette)
 
 Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions& options,
                          SectionScene& out) {
-  if (!document.grid || document.grid->cellCount() == 0) {
+  if (!document.model->grid || document.model->grid->cellCount() == 0) {
     return Status::failure(
         Message::tr("There is no section to draw: the survey has no grid yet. Build one."));
   }
@@ -219,19 +223,20 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.title = document.title;
   scene.quantity = options.quantity;
   scene.fill = options.fill;
-  scene.mesh = sectionMesh(*document.grid, document.xOffset);
+  scene.mesh = sectionMesh(*document.model->grid, document.model->xOffset);
   if (Status status = fillIn(document, options, scene); !status.ok()) return status;
 
   if (options.rays) scene.rays = rayLines(document);
   if (options.coverageLimit) scene.coverageLimit = coverageCurve(document);
   scene.refractors = options.refractors;
-  scene.surface = surfaceLine(*document.grid, document.xOffset);
+  scene.surface = surfaceLine(*document.model->grid, document.model->xOffset);
   scene.geophones = allGeophones(document);
   scene.shots = eachPlaceOnce(document.shotPoints());
   scene.misfit = sectionMisfitOf(document);
   scene.picksChanged = picksChangedSince(document);
-  scene.smoothed = document.has_tomographic_info && document.smoothedResult;
-  if (document.has_tomographic_info) scene.lastPassPercent = document.RMSE_tomography;
+  scene.smoothed = document.result->has_tomographic_info && document.result->smoothedResult;
+  if (document.result->has_tomographic_info)
+    scene.lastPassPercent = document.result->RMSE_tomography;
   out = std::move(scene);
   return {};
 }

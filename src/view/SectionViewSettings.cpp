@@ -1,5 +1,6 @@
 #include "view/SectionViewSettings.h"
 
+#include "model/GroundModel.h"
 #include "model/TomoDocument.h"
 #include "view/ContourLines.h"
 
@@ -133,7 +134,7 @@ SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const Colo
 Status buildSectionScene(const TomoDocument& document, const SectionViewSettings& settings,
                          const ColorPalette& palette, const std::vector<SectionLine>& refractors,
                          SectionScene& out) {
-  const bool cells = document.grid && document.grid->cellCount() > 0;
+  const bool cells = document.model->grid && document.model->grid->cellCount() > 0;
   if (!cells && settings.refraction && !refractors.empty()) {
     out = sceneWithoutGrid(document, refractors);
     return {};

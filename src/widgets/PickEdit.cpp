@@ -52,7 +52,8 @@ void PickEditCommand::redo() {
 
 void PickEditCommand::apply(bool forward) {
   if (mShot < 0 || static_cast<std::size_t>(mShot) >= mDocument.ttArray.size()) return;
-  std::vector<double>& times = mDocument.ttArray[static_cast<std::size_t>(mShot)].ttMisurati;
+  std::vector<double>& times =
+      mDocument.ttArray.edit()[static_cast<std::size_t>(mShot)].ttMisurati.edit();
   PickEditEffect effect;
   effect.shot = mShot;
   for (const PickChange& change : mChanges) {
@@ -64,7 +65,6 @@ void PickEditCommand::apply(bool forward) {
     time = wanted;
     mReview.set(mShot, change.trace, forward ? change.waitsAfter : change.waitedBefore);
   }
-  if (effect.timesChanged) mDocument.modified = true;
   if (mDone) mDone(effect);
 }
 

@@ -1,5 +1,8 @@
 #include "widgets/ShotTraces.h"
 
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -117,7 +120,7 @@ void ShotTraces::measure() {
 double ShotTraces::receiverX(int trace) const {
   const TravelTime* record = times();
   if (record == nullptr || trace < 0) return kUnknown;
-  const auto& strings = mDocument->goephonesStringSet;
+  const auto& strings = mDocument->line->goephonesStringSet;
   const auto string = static_cast<std::size_t>(record->indexStesa);
   if (record->indexStesa >= 0 && string < strings.size() && index(trace) < strings[string].size()) {
     return strings[string][index(trace)].x;

@@ -1,5 +1,7 @@
 #include "widgets/TraceGuides.h"
 
+#include "model/SurveyLine.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -121,7 +123,7 @@ std::vector<QPointF> otherPicks(const TomoDocument& document, const ShotTraces& 
   for (const TravelTime& record : document.ttArray) {
     if (&record == own) continue;
     const bool sameString = record.indexStesa == own->indexStesa;
-    const auto& strings = document.goephonesStringSet;
+    const auto& strings = document.line->goephonesStringSet;
     const auto string = static_cast<std::size_t>(record.indexStesa);
     const bool known = record.indexStesa >= 0 && string < strings.size();
     for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {

@@ -1,3 +1,4 @@
+#include "model/Recordings.h"
 #include "model/TomoDocument.h"
 #include "widgets/TravelTimePlot_state.h"
 
@@ -40,9 +41,9 @@ double withinRecord(const TomoDocument& document, int shot, int trace, double se
   constexpr double kEarliest = 1e-6;
   const auto set =
       static_cast<std::size_t>(document.ttArray[static_cast<std::size_t>(shot)].traceSetID);
-  if (set < document.traceSets.size() &&
-      static_cast<std::size_t>(trace) < document.traceSets[set].size()) {
-    const Trace& recorded = document.traceSets[set][static_cast<std::size_t>(trace)];
+  if (set < document.recordings->traceSets.size() &&
+      static_cast<std::size_t>(trace) < document.recordings->traceSets[set].size()) {
+    const Trace& recorded = document.recordings->traceSets[set][static_cast<std::size_t>(trace)];
     const double end =
         (static_cast<double>(recorded.samples.size()) - 1.0) * recorded.sampleInterval;
     if (end > 0.0) seconds = std::min(seconds, end);

@@ -2,6 +2,7 @@
 #include "app/FileFolders.h"
 #include "gui/ModalScript.h"
 #include "io/SegyFile.h"
+#include "model/SurveyLine.h"
 #include "support/TestSurveys.h"
 
 #include <QLabel>
@@ -17,8 +18,8 @@ TEST(GeometryDialog, savesNoGapsThatItCouldNotLoadAgain) {
   testing::ModalScript dialogs;  // nobody expects the dialog that asks for a file
   constexpr double kEmpty = std::numeric_limits<double>::quiet_NaN();
   TomoDocument line = testing::testLine(5, 2.0, {-1.0, 9.0});
-  line.goephonesStringSet[0][3].z = kEmpty;
-  line.ttArray[1].shotPos2d.x = kEmpty;
+  line.line.edit().goephonesStringSet[0][3].z = kEmpty;
+  line.ttArray.edit()[1].shotPos2d.x = kEmpty;
   SegyState state;
   FileFolders folders{History({})};
   DialogSetGeometry dialog(line, state, folders, {});

@@ -4,6 +4,8 @@
 #include "app/select_speed_Dialog.h"
 #include "app/setVelocityWidget.h"
 #include "gui/ModalScript.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestSurveys.h"
 #include "widgets/MisfitPlot.h"
@@ -127,14 +129,14 @@ TEST_F(GridDialog, countsWhatTheLastColumnDoesNotReachAndOffersSizesThatDo) {
 }
 
 TEST_F(GridDialog, tellsOfPositionsThatTheLastColumnDoesNotReachBeforeThereAreShots) {
-  survey.ttArray.clear();
+  survey.ttArray.edit().clear();
   open({25.0, 1.0, 6});
   cellSize().setValue(10.0);  // 4 columns, 42 m of 48
   EXPECT_THAT(warning(), ::testing::HasSubstr("beyond the last column"));
 }
 
 TEST_F(GridDialog, saysAllThatHoldsAtOnce) {
-  survey.has_tomographic_info = true;
+  survey.result.edit().has_tomographic_info = true;
   open({0.0, 3.0, 6});
   for (const char* words : {"no rows", "beyond the last column", "last inversion will be lost"}) {
     EXPECT_THAT(warning(), ::testing::HasSubstr(words));
@@ -248,11 +250,11 @@ class Layers : public ::testing::Test {
  protected:
   Layers() : line(testing::testLine(24, 2.0, {-1.0, 47.0})) {
     testing::putGrid(line, 24.0, 1.0);
-    line.has_tomographic_info = true;
-    line.RMSE_tomography = 4.0;
+    line.result.edit().has_tomographic_info = true;
+    line.result.edit().RMSE_tomography = 4.0;
   }
   std::vector<VelocityLayer> open(const std::vector<VelocityLayer>& layers = {}) {
-    line.layers = layers;
+    line.model.edit().layers = layers;
     dialog = std::make_unique<select_speed_Dialog>(line);
     dialog->show();
     return dialog->layers();
@@ -293,7 +295,7 @@ TEST_F(Layers, beginWithOneOverTheWholeGridThatAddSplits) {
   EXPECT_EQ(child<QPushButton>(*dialog, "addButton").text().toStdString(), "Add");
   EXPECT_EQ(child<draw1DVelocityProfile>(*dialog, "widget").largestVelocity(), 2500.0);
   dialog->reject();
-  EXPECT_TRUE(line.layers.empty() && line.has_tomographic_info && !line.modified);
+  EXPECT_TRUE(line.model->layers.empty() && line.result->has_tomographic_info && !line.modified);
 }
 
 TEST_F(Layers, goWhenCheckedOrSelected) {
@@ -321,13 +323,14 @@ TEST_F(Layers, giveTheirSplineToTheGridAndStayInTheDocument) {
   child<draw1DVelocityProfile>(*dialog, "widget");
   dialog->accept();
   EXPECT_FALSE(dialog->isVisible());
-  EXPECT_EQ(described(line.layers), "0-12: 300-900; 12-24: 900-1500; ");
-  const Splines::CubicSpline spline = layerSpline(line.layers);
-  for (std::uint32_t r = 0; r < line.grid->righe(); ++r) {
-    EXPECT_EQ(line.grid->slowness(line.grid->cellIndex(r, 3)), 1.0 / spline(r * 1.0)) << r;
+  EXPECT_EQ(described(line.model->layers), "0-12: 300-900; 12-24: 900-1500; ");
+  const Splines::CubicSpline spline = layerSpline(line.model->layers);
+  for (std::uint32_t r = 0; r < line.model->grid->righe(); ++r) {
+    EXPECT_EQ(line.model->grid->slowness(line.model->grid->cellIndex(r, 3)), 1.0 / spline(r * 1.0))
+        << r;
   }
-  EXPECT_FALSE(line.has_tomographic_info) << "results of another model";
-  EXPECT_LT(line.RMSE_tomography, 0.0);
+  EXPECT_FALSE(line.result->has_tomographic_info) << "results of another model";
+  EXPECT_LT(line.result->RMSE_tomography, 0.0);
   EXPECT_TRUE(line.modified);
 }
 
@@ -335,24 +338,24 @@ TEST_F(Layers, rowsThatAreNoneAreDroppedSilently) {
   open({{0, 300, 12, 900}, {12, 900, 24, 2000}});
   child<QDoubleSpinBox>(row(1), "d2Edit").setValue(12.0);
   dialog->accept();
-  EXPECT_EQ(described(line.layers), "0-12: 300-900; ");
+  EXPECT_EQ(described(line.model->layers), "0-12: 300-900; ");
 }
 
 TEST_F(Layers, thatSwingBelowZeroAreShownAndExplained) {
   open({{0, 5000, 11.9, 5000}, {11.9, 200, 24, 200}});
   EXPECT_TRUE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
   EXPECT_THAT(text(*dialog, "problemLabel"), ::testing::HasSubstr("no velocity of the ground"));
-  const std::vector<double> before = line.grid->slownesses();
+  const std::vector<double> before = line.model->grid->slownesses();
   dialogs.expectBox("Define model velocity", "The layers make no velocity model.",
                     "no velocity of the ground", QMessageBox::Ok);
   dialog->accept();
   EXPECT_TRUE(dialog->isVisible());
-  EXPECT_EQ(line.grid->slownesses(), before);
+  EXPECT_EQ(line.model->grid->slownesses(), before);
   child<QSpinBox>(row(0), "v1Edit").setValue(200);
   child<QSpinBox>(row(0), "v2Edit").setValue(200);
   EXPECT_FALSE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
   EXPECT_EQ(text(*dialog, "problemLabel"), "The results of the last inversion will be lost.");
-  line.has_tomographic_info = false;
+  line.result.edit().has_tomographic_info = false;
   child<QSpinBox>(row(0), "v1Edit").setValue(201);
   EXPECT_EQ(text(*dialog, "problemLabel"), "");
 }

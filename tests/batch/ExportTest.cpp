@@ -1,5 +1,6 @@
 #include "batch/BatchRunner.h"
 #include "io/ProjectWriter.h"
+#include "model/GeographicsCoord.h"
 #include "support/ConsoleCapture.h"
 #include "support/SectionDocument.h"
 
@@ -22,8 +23,8 @@ std::string writeProject(const Folder& folder, bool onGlobe = true) {
       3, 10, 0.0, [](std::uint32_t row, std::uint32_t) { return 500.0 + 100.0 * row; });
   document.title = "Valley";
   if (onGlobe) {
-    document.geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
-    document.geoCoord_isSet = true;
+    document.map.edit().geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
+    document.map.edit().geoCoord_isSet = true;
   }
   ColorPaletteList palettes;
   palettes.current().min_db = 500.0;

@@ -177,7 +177,7 @@ TEST(Refract, ofAProjectTellsWhetherPicksHaveChangedSince) {
   saved();
   EXPECT_THAT(run({}), HasSubstr("\n  layers      2 refractors\n"));
   EXPECT_EQ(ordered_json::parse(run({"--json", "-"}))["picks_changed_since_profile"], false);
-  project.document.ttArray[4].ttMisurati[9] *= 1.01;
+  project.document.ttArray.edit()[4].ttMisurati.edit()[9] *= 1.01;
   saved();
   EXPECT_THAT(run({}), HasSubstr("\n  layers      2 refractors, picks have changed since\n"));
   EXPECT_EQ(ordered_json::parse(run({"--json", "-"}))["picks_changed_since_profile"], true);

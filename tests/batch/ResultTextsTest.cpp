@@ -56,7 +56,7 @@ TEST(ResultJson, whatIsNoNumberIsNullAndWrongBytesAreReplaced) {
   data.format = "\xff\"otte";
   data.strings = {{{std::nan(""), std::numeric_limits<double>::infinity()}}};
   TravelTime record;
-  record.ttMisurati = {0.1, -std::numeric_limits<double>::infinity()};
+  record.ttMisurati.edit() = {0.1, -std::numeric_limits<double>::infinity()};
   data.records = {record};
   const auto json = nlohmann::ordered_json::parse(travelTimesJson(data));
   EXPECT_TRUE(json["strings"][0][0][0].is_null());

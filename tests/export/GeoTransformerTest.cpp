@@ -1,5 +1,6 @@
 #include "export/GeoTransformer.h"
 #include "export/LinePlacement.h"
+#include "model/SurveyLine.h"
 #include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"
 
@@ -146,9 +147,10 @@ TEST(LineEnds, areTheOutermostGeophonesWhateverTheOrderOfChannels) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   TomoDocument document;
   EXPECT_FALSE(lineEnds(document));
-  document.goephonesStringSet = {{{nan, 0.0}}};
+  document.line.edit().goephonesStringSet = {{{nan, 0.0}}};
   EXPECT_FALSE(lineEnds(document));
-  document.goephonesStringSet = {{{40.0, 0.0}, {20.0, 0.0}}, {}, {{nan, 0.0}, {60.0, 0.0}}};
+  document.line.edit().goephonesStringSet = {
+      {{40.0, 0.0}, {20.0, 0.0}}, {}, {{nan, 0.0}, {60.0, 0.0}}};
   EXPECT_EQ(lineEnds(document)->first, 20.0);
   EXPECT_EQ(lineEnds(document)->length(), 40.0);
 }

@@ -1,4 +1,5 @@
 #include "export/GriddedText.h"
+#include "model/GroundModel.h"
 #include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
@@ -20,7 +21,7 @@ using ::testing::HasSubstr;
 TomoDocument document() {
   TomoDocument document;
   const auto surface = hills(20.0, 0.0);
-  document.grid =
+  document.model.edit().grid =
       std::make_unique<Grid>(std::make_shared<GridGeometry>(GridSize{2, 2, 3, 10.0}, surface),
                              std::vector<double>{0.002, 0.002, 0.0005, 0.0005});
   return document;
@@ -39,12 +40,12 @@ TEST(GriddedText, writesCentreLineElevationAndVelocity) {
   const std::string path = folder.file("grid.txt");
   ASSERT_TRUE(writeGriddedText(path, document()).ok());
   const TomoDocument same = document();
-  const Point2D first = same.grid->cellCentre(0);
+  const Point2D first = same.model->grid->cellCentre(0);
   ASSERT_NEAR(first.x, 5.0, 2.0);
   EXPECT_EQ(first.z, -95.0);  // a depth: five metres below ground at 100 m
   std::ostringstream x0, x1;
   x0 << first.x;
-  x1 << same.grid->cellCentre(1).x;
+  x1 << same.model->grid->cellCentre(1).x;
   EXPECT_THAT(linesOf(path), ElementsAre(x0.str() + " 0 95 500", x1.str() + " 0 95 500",
                                          x0.str() + " 0 85 2000", x1.str() + " 0 85 2000"));
   EXPECT_EQ(console.out(), "");
@@ -67,11 +68,12 @@ TEST(GriddedText, takesTheOffsetOfTheGridOffAndCountsFromTheHighestGround) {
   const TestFolder folder;
   const std::string path = folder.file("survey.txt");
   TomoDocument offset = document();
-  offset.xOffset = -95.0;
-  EXPECT_EQ(referenceElevation(*offset.grid), 100.0);
-  ASSERT_TRUE(writeGriddedText(path, offset, {0.0, -referenceElevation(*offset.grid), true}).ok());
+  offset.model.edit().xOffset = -95.0;
+  EXPECT_EQ(referenceElevation(*offset.model->grid), 100.0);
+  ASSERT_TRUE(
+      writeGriddedText(path, offset, {0.0, -referenceElevation(*offset.model->grid), true}).ok());
   std::ostringstream x;
-  x << offset.grid->cellCentre(0).x + 95.0;
+  x << offset.model->grid->cellCentre(0).x + 95.0;
   EXPECT_EQ(linesOf(path)[0], x.str() + " 0 -5 500");
 }
 
@@ -79,9 +81,9 @@ TEST(GriddedText, leavesOutCellsThatAreNotDrawn) {
   const ConsoleCapture console;
   const TestFolder folder;
   const std::string path = folder.file("hidden.txt");
-  const TomoDocument hidden = document();
-  hidden.grid->setDraw(1, false);
-  hidden.grid->setDraw(2, false);
+  TomoDocument hidden = document();
+  hidden.model.edit().editGrid().setDraw(1, false);
+  hidden.model.edit().editGrid().setDraw(2, false);
   ASSERT_TRUE(writeGriddedText(path, hidden).ok());
   EXPECT_THAT(linesOf(path), ElementsAre(HasSubstr(" 95 500"), HasSubstr(" 85 2000")));
 }
@@ -90,10 +92,10 @@ TEST(GriddedText, writesAPlaceholderForAnInfiniteVelocity) {
   const ConsoleCapture console;
   const TestFolder folder;
   const std::string path = folder.file("placeholder.txt");
-  const TomoDocument unknown = document();
-  unknown.grid->setSlowness(0, 0.0);
-  unknown.grid->setSlowness(1, -0.0);
-  unknown.grid->setSlowness(2, std::numeric_limits<double>::denorm_min());
+  TomoDocument unknown = document();
+  unknown.model.edit().editGrid().setSlowness(0, 0.0);
+  unknown.model.edit().editGrid().setSlowness(1, -0.0);
+  unknown.model.edit().editGrid().setSlowness(2, std::numeric_limits<double>::denorm_min());
   ASSERT_TRUE(writeGriddedText(path, unknown).ok());
   EXPECT_THAT(linesOf(path), ElementsAre(HasSubstr(" 1.79769e+308"), HasSubstr(" 1.79769e+308"),
                                          HasSubstr(" 1.79769e+308"), HasSubstr(" 85 2000")));

@@ -2,6 +2,9 @@
 #include "export/LinePlacement.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
 #include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"
 #include "support/SectionDocument.h"
@@ -29,8 +32,8 @@ TomoDocument placed(double relief = 0.0) {
   TomoDocument document = sectionDocument(
       3, 10, relief, [](std::uint32_t row, std::uint32_t) { return 500.0 + 100.0 * row; });
   document.title = "Valley";
-  document.geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
-  document.geoCoord_isSet = true;
+  document.map.edit().geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
+  document.map.edit().geoCoord_isSet = true;
   return document;
 }
 
@@ -86,7 +89,7 @@ TEST(SeismicLineKml, marksEveryGeophoneAndShotInTenDigits) {
   const TestFolder folder;
   const std::string path = folder.file("line.kml");
   TomoDocument document = placed();
-  document.goephonesStringSet.push_back({{116.0, 0.0}, {108.0, 0.0}});
+  document.line.edit().goephonesStringSet.push_back({{116.0, 0.0}, {108.0, 0.0}});
   ASSERT_TRUE(writeSeismicLineKml(path, document).ok());
   EXPECT_THAT(TestFolder::get(path),
               ::testing::StartsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
@@ -124,8 +127,8 @@ TEST(SeismicLineKml, leavesOutWhatHasNoPosition) {
   const ConsoleCapture console;
   const TestFolder folder;
   TomoDocument document = placed();
-  document.goephonesStringSet[0][1].x = kNan;
-  document.ttArray[0].shotPos2d.x = 1e300;
+  document.line.edit().goephonesStringSet[0][1].x = kNan;
+  document.ttArray.edit()[0].shotPos2d.x = 1e300;
   ASSERT_TRUE(writeSeismicLineKml(folder.file("line.kml"), document).ok());
   EXPECT_THAT(Leaves(folder.file("line.kml")).of(kMark + "/name"),
               ElementsAre("G-0-0", "G-0-2", "G-0-3", "G-0-4"));
@@ -140,8 +143,9 @@ TEST(SectionKml, standsTheDrawnCellsOnTheLineLikeAWall) {
   const std::string path = folder.file("section.kml");
   TomoDocument document = placed();
   document.title = "Valley <3> & \"more\" \x01";
-  for (std::uint32_t column = 0; column < 10; ++column) document.grid->setDraw(20 + column, false);
-  document.grid->setDraw(19, false);
+  for (std::uint32_t column = 0; column < 10; ++column)
+    document.model.edit().editGrid().setDraw(20 + column, false);
+  document.model.edit().editGrid().setDraw(19, false);
   ASSERT_TRUE(writeSectionKml(path, document, ColorPaletteList().current(), kRange).ok());
   EXPECT_EQ(console.out(), "Exporting tomographic data on KML file: " + path + "\n");
 
@@ -246,8 +250,8 @@ TEST(SectionKml, colorsUnknownVelocitiesLikeTheFastestAndLeavesOutWhatIsNoNumber
   const ConsoleCapture console;
   const TestFolder folder;
   TomoDocument document = placed();
-  document.grid->setSlowness(0, 0.0);
-  document.grid->setSlowness(1, kNan);
+  document.model.edit().editGrid().setSlowness(0, 0.0);
+  document.model.edit().editGrid().setSlowness(1, kNan);
   ASSERT_TRUE(
       writeSectionKml(folder.file("s.kml"), document, ColorPaletteList().current(), kRange).ok());
   const auto colors = Leaves(folder.file("s.kml")).of(kMark + "/Style/PolyStyle/color");
@@ -269,16 +273,18 @@ TEST(Kml, isNotWrittenWithoutAPlaceOnTheGlobe) {
     D document;
     std::string message;
   } cases[] = {
-      {broken([](D& d) { d.geoCoord_isSet = false; }), noGeographicCoordinates().english()},
-      {broken([](D& d) { d.goephonesStringSet.clear(); }), "no geophones"},
-      {broken([](D& d) { d.geoCoord.CRS = 4326; }), "not a projected system"},
-      {broken([](D& d) { d.geoCoord.mEastFstGeoph = kNan; }), "not numbers"},
-      {broken([](D& d) { d.geoCoord.mNorthLstGeoph = HUGE_VAL; }), "not numbers"},
+      {broken([](D& d) { d.map.edit().geoCoord_isSet = false; }),
+       noGeographicCoordinates().english()},
+      {broken([](D& d) { d.line.edit().goephonesStringSet.clear(); }), "no geophones"},
+      {broken([](D& d) { d.map.edit().geoCoord.CRS = 4326; }), "not a projected system"},
+      {broken([](D& d) { d.map.edit().geoCoord.mEastFstGeoph = kNan; }), "not numbers"},
+      {broken([](D& d) { d.map.edit().geoCoord.mNorthLstGeoph = HUGE_VAL; }), "not numbers"},
       {broken([](D& d) {
-         d.geoCoord = {32632, 5e5, 5e5, 5e6, 5e6};
+         d.map.edit().geoCoord = {32632, 5e5, 5e5, 5e6, 5e6};
        }),
        "same coordinates"},
-      {broken([](D& d) { d.geoCoord.mEastFstGeoph = 1e30; }), "outside of EPSG:32632 (WGS 84"},
+      {broken([](D& d) { d.map.edit().geoCoord.mEastFstGeoph = 1e30; }),
+       "outside of EPSG:32632 (WGS 84"},
   };
   const std::string path = folder.put("old.kml", "old");
   const ColorPaletteList palettes;
@@ -299,7 +305,7 @@ TEST(Kml, keepsEastingAndNorthingWhereTheSystemCannotBeBuilt) {
   const TestFolder folder;
   const std::string path = folder.file("plain.kml");
   TomoDocument document = placed();
-  document.geoCoord = {99999, 5e5, 5e5 + 100.0, 5e6, 5e6};
+  document.map.edit().geoCoord = {99999, 5e5, 5e5 + 100.0, 5e6, 5e6};
   const ColorPaletteList palettes;
   for (const bool section : {false, true}) {
     const ConsoleCapture console;
@@ -322,9 +328,10 @@ TEST(SectionKml, isNotWrittenWithoutColorsOrCells) {
   }
   EXPECT_THAT(writeSectionKml(path, placed(), {}, kRange).message(), HasSubstr("no colours"));
   TomoDocument document = placed();
-  for (std::uint32_t cell = 0; cell < 30; ++cell) document.grid->setDraw(cell, false);
+  for (std::uint32_t cell = 0; cell < 30; ++cell)
+    document.model.edit().editGrid().setDraw(cell, false);
   EXPECT_THAT(writeSectionKml(path, document, palette, kRange).message(), HasSubstr("no cell"));
-  document.grid.reset();
+  document.model.edit().grid.reset();
   EXPECT_THAT(writeSectionKml(path, document, palette, kRange).message(), HasSubstr("no grid"));
   EXPECT_THAT(writeSectionKml(folder.file("no/s.kml"), placed(), palette, kRange).message(),
               HasSubstr("no/s.kml"));

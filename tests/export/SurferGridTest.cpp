@@ -1,4 +1,5 @@
 #include "export/SurferGrid.h"
+#include "model/GroundModel.h"
 #include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"
 #include "support/SectionDocument.h"
@@ -46,9 +47,9 @@ TEST(SurferGrid, hasANodeInEveryCellUnderLevelGroundLowestLineFirst) {
   const CommaStreams commas;
   const TestFolder folder;
   TomoDocument document = sectionDocument(3, 12, 0.0, byRow);
-  document.grid->setDraw(0, false);
-  document.grid->setDraw(14, false);
-  document.grid->setSlowness(35, 0.0);
+  document.model.edit().editGrid().setDraw(0, false);
+  document.model.edit().editGrid().setDraw(14, false);
+  document.model.edit().editGrid().setSlowness(35, 0.0);
   ASSERT_TRUE(writeSurferGrid(folder.file("s.grd"), document).ok());
   const Raster r = readBack(folder.file("s.grd"));
   EXPECT_EQ(r.format, "DSAA");
@@ -76,7 +77,7 @@ TEST(SurferGrid, hasANodeInEveryCellUnderLevelGroundLowestLineFirst) {
 TEST(SurferGrid, followsTheGroundAndIsBlankOutside) {
   const ConsoleCapture console;
   const TestFolder folder;
-  const TomoDocument document = sectionDocument(6, 40, 6.0, byRow);
+  TomoDocument document = sectionDocument(6, 40, 6.0, byRow);
   ASSERT_TRUE(writeSurferGrid(folder.file("s.grd"), document).ok());
   const Raster r = readBack(folder.file("s.grd"));
   ASSERT_EQ(r.nx, 40);
@@ -84,7 +85,7 @@ TEST(SurferGrid, followsTheGroundAndIsBlankOutside) {
   int filled = 0;
   for (int j = 0; j < r.ny; ++j) {
     for (int i = 0; i < r.nx; ++i) {
-      const auto& g = document.grid->geometry();
+      const auto& g = document.model->grid->geometry();
       const auto node = static_cast<std::uint32_t>(i) * 5;
       const double top = -0.5 * (g.lineZ(0, node) + g.lineZ(0, node + 5));
       const double bottom = -0.5 * (g.lineZ(6, node) + g.lineZ(6, node + 5));
@@ -95,7 +96,8 @@ TEST(SurferGrid, followsTheGroundAndIsBlankOutside) {
       // The row is the number of whole hundreds; its middle is near.
       const int row = static_cast<int>((r.at(i, j) - 500.0) / 100.0);
       EXPECT_EQ(r.at(i, j), 500.0 + 100.0 * row + i);
-      EXPECT_NEAR(r.y(j), -document.grid->cellCentre(static_cast<std::uint32_t>(row * 40 + i)).z,
+      EXPECT_NEAR(r.y(j),
+                  -document.model->grid->cellCentre(static_cast<std::uint32_t>(row * 40 + i)).z,
                   1.5);
     }
   }
@@ -105,8 +107,9 @@ TEST(SurferGrid, followsTheGroundAndIsBlankOutside) {
 TEST(SurferGrid, widensASingleColumnWithBlanks) {
   const ConsoleCapture console;
   const TestFolder folder;
-  const TomoDocument document = sectionDocument(3, 4, 0.0, byRow);
-  for (std::uint32_t cell = 0; cell < 12; ++cell) document.grid->setDraw(cell, cell == 6);
+  TomoDocument document = sectionDocument(3, 4, 0.0, byRow);
+  for (std::uint32_t cell = 0; cell < 12; ++cell)
+    document.model.edit().editGrid().setDraw(cell, cell == 6);
   ASSERT_TRUE(writeSurferGrid(folder.file("s.grd"), document).ok());
   const Raster r = readBack(folder.file("s.grd"));
   ASSERT_EQ(r.nx, 2);
@@ -118,8 +121,9 @@ TEST(SurferGrid, widensASingleColumnWithBlanks) {
 TEST(SurferGrid, isNotWrittenWithoutDrawnCellsForHugeReliefOrWhereItCannotBe) {
   const ConsoleCapture console;
   const TestFolder folder;
-  const TomoDocument hidden = sectionDocument(3, 4, 0.0, byRow);
-  for (std::uint32_t cell = 0; cell < 12; ++cell) hidden.grid->setDraw(cell, false);
+  TomoDocument hidden = sectionDocument(3, 4, 0.0, byRow);
+  for (std::uint32_t cell = 0; cell < 12; ++cell)
+    hidden.model.edit().editGrid().setDraw(cell, false);
   const std::string path = folder.file("s.grd");
   EXPECT_THAT(writeSurferGrid(path, hidden).message(), HasSubstr("no cell"));
   EXPECT_THAT(writeSurferGrid(path, TomoDocument()).message(), HasSubstr("no grid"));

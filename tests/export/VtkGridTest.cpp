@@ -1,4 +1,6 @@
 #include "export/VtkGrid.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "support/SectionDocument.h"
 #include "support/TestFolder.h"
@@ -36,11 +38,11 @@ TEST(VtkGrid, isReadByVtkWithItsCellsAndValues) {
   const ConsoleCapture console;
   const TestFolder folder;
   TomoDocument document = section(2.0);
-  document.has_tomographic_info = true;
-  document.info_density.assign(12, 0.5);
-  document.info_density[7] = -1.0;
-  document.grid->setDraw(0, false);
-  document.grid->setSlowness(5, 0.0);
+  document.result.edit().has_tomographic_info = true;
+  document.result.edit().info_density.assign(12, 0.5);
+  document.result.edit().info_density[7] = -1.0;
+  document.model.edit().editGrid().setDraw(0, false);
+  document.model.edit().editGrid().setSlowness(5, 0.0);
   ASSERT_TRUE(writeVtkGrid(folder.file("s.vtu"), document).ok());
   EXPECT_EQ(folder.entries(), 1);
 
@@ -56,11 +58,11 @@ TEST(VtkGrid, isReadByVtkWithItsCellsAndValues) {
   for (vtkIdType i = 0; i < 11; ++i) {
     const auto cell = static_cast<std::uint32_t>(i + 1);
     SCOPED_TRACE(cell);
-    EXPECT_EQ(slowness.GetComponent(i, 0), document.grid->slowness(cell));
+    EXPECT_EQ(slowness.GetComponent(i, 0), document.model->grid->slowness(cell));
     if (cell == 5) {
       EXPECT_TRUE(std::isnan(velocity.GetComponent(i, 0)));
     } else {
-      EXPECT_EQ(velocity.GetComponent(i, 0), document.grid->velocity(cell));
+      EXPECT_EQ(velocity.GetComponent(i, 0), document.model->grid->velocity(cell));
     }
     EXPECT_EQ(std::isnan(density.GetComponent(i, 0)), cell == 7);
     ASSERT_EQ(grid.GetCellType(i), 9);
@@ -70,8 +72,8 @@ TEST(VtkGrid, isReadByVtkWithItsCellsAndValues) {
     EXPECT_NEAR(bounds[1], 100.0 + cell % 4, 1e-9);
     EXPECT_EQ(bounds[2], 0.0);
     EXPECT_EQ(bounds[3], 0.0);
-    EXPECT_LT(bounds[4], -document.grid->cellCentre(cell).z);
-    EXPECT_GT(bounds[5], -document.grid->cellCentre(cell).z);
+    EXPECT_LT(bounds[4], -document.model->grid->cellCentre(cell).z);
+    EXPECT_GT(bounds[5], -document.model->grid->cellCentre(cell).z);
   }
 }
 
@@ -90,7 +92,8 @@ TEST(VtkGrid, isNotWrittenWithoutDrawnCellsOrWhereItCannotBe) {
   const ConsoleCapture console;
   const TestFolder folder;
   TomoDocument hidden = section();
-  for (std::uint32_t cell = 0; cell < 12; ++cell) hidden.grid->setDraw(cell, false);
+  for (std::uint32_t cell = 0; cell < 12; ++cell)
+    hidden.model.edit().editGrid().setDraw(cell, false);
   EXPECT_THAT(writeVtkGrid(folder.file("s.vtu"), hidden).message(), HasSubstr("no cell"));
   EXPECT_THAT(writeVtkGrid(folder.file("s.vtu"), TomoDocument()).message(), HasSubstr("no grid"));
   EXPECT_THAT(writeVtkGrid(folder.file("no/s.vtu"), section()).message(), HasSubstr("no/s.vtu"));

@@ -1,6 +1,7 @@
 #include "figures/FigureWords.h"
 #include "model/PickFingerprint.h"
 #include "model/Residuals.h"
+#include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
 
 #include <gmock/gmock.h>
@@ -29,8 +30,8 @@ std::string captionOf(const SectionScene& scene, double exaggeration) {
 
 TEST(FigureWords, theCaptionStatesWhatTheReaderCannotSee) {
   TomoDocument document = sectionDocument(8, 20, 0.0, layered);
-  document.has_tomographic_info = true;
-  document.RMSE_tomography = 2.3456;
+  document.result.edit().has_tomographic_info = true;
+  document.result.edit().RMSE_tomography = 2.3456;
   SectionSceneOptions options;
   options.range = ValueRange{300.0, 1000.0};
   options.equallySpacedContours = 6;
@@ -38,19 +39,19 @@ TEST(FigureWords, theCaptionStatesWhatTheReaderCannotSee) {
   EXPECT_EQ(captionOf(scene, 1.0),
             "Velocity 300 to 1000 m/s   \u00B7   Contours every 100 m/s   \u00B7   "
             "last solver pass 2.35 %");
-  document.timesOfSection = true;
-  document.ttArray.front().ttMisurati = {0.010, 0.020, kNoTime};
-  document.ttArray.front().ttCalcolati = {0.011, 0.018, 0.5};
-  document.lastInversion = InversionRecord();
-  document.lastInversion->picks = fingerprintOfPicks(document.ttArray);
+  document.result.edit().timesOfSection = true;
+  document.ttArray.edit().front().ttMisurati.edit() = {0.010, 0.020, kNoTime};
+  document.ttArray.edit().front().ttCalcolati.edit() = {0.011, 0.018, 0.5};
+  document.result.edit().lastInversion = InversionRecord();
+  document.result.edit().lastInversion->picks = fingerprintOfPicks(document.ttArray);
   EXPECT_THAT(captionOf(sceneOf(document), 1.0),
               HasSubstr("   \u00B7   RMS misfit 1.58 ms, 10 %   \u00B7   last solver pass 2.35 %"));
-  document.ttArray.front().ttMisurati[2] = 0.5;
+  document.ttArray.edit().front().ttMisurati.edit()[2] = 0.5;
   EXPECT_THAT(captionOf(sceneOf(document), 1.0),
               HasSubstr("1.29 ms, 8.16 %   \u00B7   picks have changed since the inversion"));
   EXPECT_THAT(captionOf(scene, 2.0), HasSubstr("Vertical exaggeration 2.0"));
   EXPECT_THAT(captionOf(scene, 1.25), HasSubstr("Vertical exaggeration 1.25"));
-  document.has_tomographic_info = false;
+  document.result.edit().has_tomographic_info = false;
   EXPECT_THAT(captionOf(sceneOf(document), 1.0), Not(HasSubstr("RMS")));
 }
 

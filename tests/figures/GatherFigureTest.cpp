@@ -1,4 +1,6 @@
 #include "figures/GatherFigure.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 #include "support/CommaLocale.h"
 #include "support/ShotDocument.h"
 #include "support/TestFolder.h"
@@ -68,7 +70,7 @@ TEST(GatherFigure, picksAreMarkedAtTheirTraceAndTime) {
   for (std::size_t i = 0; i < 12; ++i) {
     const auto& pick = gather.layout.picks[i];
     EXPECT_EQ(pick.trace, i);
-    EXPECT_EQ(pick.x, document.goephonesStringSet[0][i].x);
+    EXPECT_EQ(pick.x, document.line->goephonesStringSet[0][i].x);
     EXPECT_DOUBLE_EQ(pick.timeMs, 1e3 * firstBreak(i));
     const QColor mark = colorAt(image, gather.layout.place, pick.x, pick.timeMs);
     EXPECT_GT(mark.red(), 150) << i;
@@ -79,7 +81,7 @@ TEST(GatherFigure, picksAreMarkedAtTheirTraceAndTime) {
 TEST(GatherFigure, wigglesLeaveTheBaseLineWhereTheirSamplesDo) {
   TomoDocument document = shotDocument(1, 8, 400);
   for (std::size_t i = 0; i < 8; ++i) {
-    auto& samples = document.traceSets[0][i].samples;
+    auto& samples = document.recordings.edit().traceSets[0][i].samples.edit();
     for (std::size_t k = 0; k < samples.size(); ++k) {
       samples[k] = k < 100 + 20 * i || k % 2 == 0 ? 0.0 : (k / 2 % 2 == 0 ? 1.0 : -1.0);
     }
@@ -92,7 +94,7 @@ TEST(GatherFigure, wigglesLeaveTheBaseLineWhereTheirSamplesDo) {
   const double msPerPixel = gather.layout.place.heightMm / image.height() /
                             (gather.layout.place.yToMm(1.0) - gather.layout.place.yToMm(0.0));
   for (std::size_t i = 0; i < 8; ++i) {
-    const double x = document.goephonesStringSet[0][i].x + 0.4;
+    const double x = document.line->goephonesStringSet[0][i].x + 0.4;
     const double breakMs = 0.25 * static_cast<double>(100 + 20 * i);
     const auto darkest = [&](double fromMs, double toMs) {
       int least = 255;
@@ -108,7 +110,8 @@ TEST(GatherFigure, wigglesLeaveTheBaseLineWhereTheirSamplesDo) {
 
 TEST(GatherFigure, timesThatAreNoPicksAreNotDrawn) {
   TomoDocument document = shotDocument(1, 8, 400);
-  document.ttArray[0].ttMisurati = {0.02, 0.0, kNoTime, NAN, INFINITY, -0.0, 0.03};  // and one less
+  document.ttArray.edit()[0].ttMisurati.edit() = {0.02,     0.0,  kNoTime, NAN,
+                                                  INFINITY, -0.0, 0.03};  // and one less
   EXPECT_THAT(pickXs(gatherOf(document, kDefaults, FigureFormat::kSvg).layout),
               ElementsAre(10.0, 22.0));
   GatherFigureOptions options;
@@ -116,7 +119,7 @@ TEST(GatherFigure, timesThatAreNoPicksAreNotDrawn) {
   const Gather gather = gatherOf(document, options, FigureFormat::kSvg);
   EXPECT_THAT(pickXs(gather.layout), ElementsAre(10.0));
   EXPECT_THAT(gather.bytes, HasSubstr("1 pick outside the times shown"));
-  document.ttArray.clear();
+  document.ttArray.edit().clear();
   EXPECT_THAT(gatherOf(document, kDefaults, FigureFormat::kSvg).layout.picks, IsEmpty());
 }
 
@@ -127,27 +130,30 @@ TEST(GatherFigure, positionsComeFromTheStringThenTheHeadersThenTheChannels) {
     bool byChannel;
     double first, last;
   } facts[] = {
-      {"string", [](TomoDocument& d) { d.traceSets[0][0].receiverPosition.x = 77.0; }, false, 10,
-       14},
+      {"string",
+       [](TomoDocument& d) { d.recordings.edit().traceSets[0][0].receiverPosition.x = 77.0; },
+       false, 10, 14},
       {"second string",
        [](TomoDocument& d) {
-         d.goephonesStringSet.push_back({{30, 0}, {20, 0}, {10, 0}});
-         d.ttArray[0].indexStesa = 1;
+         d.line.edit().goephonesStringSet.push_back({{30, 0}, {20, 0}, {10, 0}});
+         d.ttArray.edit()[0].indexStesa = 1;
        },
        false, 30, 10},
-      {"short string", [](TomoDocument& d) { d.goephonesStringSet[0].resize(2); }, false, 10, 14},
-      {"no string", [](TomoDocument& d) { d.ttArray[0].indexStesa = 5; }, false, 10, 14},
-      {"negative string", [](TomoDocument& d) { d.ttArray[0].indexStesa = -1; }, false, 10, 14},
+      {"short string", [](TomoDocument& d) { d.line.edit().goephonesStringSet[0].resize(2); },
+       false, 10, 14},
+      {"no string", [](TomoDocument& d) { d.ttArray.edit()[0].indexStesa = 5; }, false, 10, 14},
+      {"negative string", [](TomoDocument& d) { d.ttArray.edit()[0].indexStesa = -1; }, false, 10,
+       14},
       {"nothing known",
        [](TomoDocument& d) {
-         for (auto& g : d.goephonesStringSet[0]) g = {};
-         for (auto& t : d.traceSets[0]) t.receiverPosition = {};
+         for (auto& g : d.line.edit().goephonesStringSet[0]) g = {};
+         for (auto& t : d.recordings.edit().traceSets[0]) t.receiverPosition = {};
        },
        true, 1, 3},
       {"no numbers",
        [](TomoDocument& d) {
-         d.goephonesStringSet[0][1].x = NAN;
-         d.traceSets[0][1].receiverPosition.x = 1e300;
+         d.line.edit().goephonesStringSet[0][1].x = NAN;
+         d.recordings.edit().traceSets[0][1].receiverPosition.x = 1e300;
        },
        true, 1, 3}};
   for (const auto& fact : facts) {
@@ -173,16 +179,16 @@ TEST(GatherFigure, showsHalfAsLongAgainAsThePicksTakeOrTheWholeRecord) {
   } facts[] = {{0.0, 249.75}, {0.016, 25.0},     {0.1, 150.0},
                {0.2, 249.75}, {kNoTime, 249.75}, {0.3, 315.0}};
   for (const auto& fact : facts) {
-    document.ttArray[0].ttMisurati.assign(4, fact.pick);
+    document.ttArray.edit()[0].ttMisurati.edit().assign(4, fact.pick);
     EXPECT_NEAR(endMs(), fact.end, 1e-9) << fact.pick;
   }
 }
 
 TEST(GatherFigure, aPeakOfOneSampleSurvivesHoweverLongTheRecord) {
   TomoDocument document = shotDocument(1, 5, 10);
-  for (Trace& trace : document.traceSets[0]) {
-    trace.samples.assign(400001, 0.0);
-    trace.samples[234567] = 1.0;
+  for (Trace& trace : document.recordings.edit().traceSets[0]) {
+    trace.samples.edit().assign(400001, 0.0);
+    trace.samples.edit()[234567] = 1.0;
   }
   GatherFigureOptions options;
   options.picks = false;
@@ -197,13 +203,13 @@ TEST(GatherFigure, vectorFilesStaySmall) {
   for (const auto& fact : facts) {
     TomoDocument document = shotDocument(1, fact.traces, fact.samples);
     std::uint32_t random = 1;
-    for (Trace& trace : document.traceSets[0]) {
-      for (double& sample : trace.samples) {
+    for (Trace& trace : document.recordings.edit().traceSets[0]) {
+      for (double& sample : trace.samples.edit()) {
         random = random * 1664525U + 1013904223U;
         sample = random;
       }
     }
-    document.ttArray.clear();
+    document.ttArray.edit().clear();
     for (const FigureFormat format : {FigureFormat::kSvg, FigureFormat::kPdf}) {
       EXPECT_LT(gatherOf(document, kDefaults, format).bytes.size(), 6000000U) << fact.traces;
     }
@@ -216,9 +222,9 @@ TEST(GatherFigure, drawsTheFilteredCopyWhereThereIsOneAndItIsWanted) {
   raw.filtered = false;
   const std::string before = gatherOf(document, raw, FigureFormat::kSvg).bytes;
   EXPECT_EQ(gatherOf(document, kDefaults, FigureFormat::kSvg).bytes, before);
-  for (Trace& trace : document.traceSets[0]) {
-    trace.filtered = trace.samples;
-    for (double& sample : trace.filtered) sample = -sample;
+  for (Trace& trace : document.recordings.edit().traceSets[0]) {
+    trace.filtered.edit() = trace.samples;
+    for (double& sample : trace.filtered.edit()) sample = -sample;
   }
   EXPECT_EQ(gatherOf(document, raw, FigureFormat::kSvg).bytes, before);
   const std::string filtered = gatherOf(document, kDefaults, FigureFormat::kSvg).bytes;
@@ -228,10 +234,10 @@ TEST(GatherFigure, drawsTheFilteredCopyWhereThereIsOneAndItIsWanted) {
 
 TEST(GatherFigure, oneScaleForAllTracesKeepsTheirAmplitudes) {
   TomoDocument document = shotDocument(1, 4, 400);
-  for (double& sample : document.traceSets[0][1].samples) sample *= 1e-3;
+  for (double& sample : document.recordings.edit().traceSets[0][1].samples.edit()) sample *= 1e-3;
   GatherFigureOptions options;
   options.picks = false;
-  const double x = document.goephonesStringSet[0][1].x + 0.5;
+  const double x = document.line->goephonesStringSet[0][1].x + 0.5;
   const double ms = 1e3 * firstBreak(1) + 5.2;  // a quarter of the ringing's period later
   for (const GatherScaling scaling : {GatherScaling::kEachTrace, GatherScaling::kWholeShot}) {
     options.scaling = scaling;
@@ -313,7 +319,7 @@ TEST(GatherFigure, aFailureLeavesNoFileAndTouchesNone) {
     }
   }
   const std::string path = folder.put("b.pdf", "before");
-  document.traceSets.clear();
+  document.recordings.edit().traceSets.clear();
   EXPECT_THAT(failure(kDefaults, "b.pdf"), HasSubstr("no traces"));
   EXPECT_EQ(TestFolder::get(path), "before");
   EXPECT_EQ(folder.entries(), 1);
@@ -327,55 +333,61 @@ TEST(GatherFigure, drawsWhateverTheSamplesAre) {
   } facts[] = {
       {"no numbers",
        [](TomoDocument& d) {
-         auto& samples = d.traceSets[0][0].samples;
+         auto& samples = d.recordings.edit().traceSets[0][0].samples.edit();
          for (std::size_t i = 0; i < samples.size(); i += 7) samples[i] = i % 2 ? NAN : -INFINITY;
-         d.traceSets[0][1].samples.assign(400, NAN);
+         d.recordings.edit().traceSets[0][1].samples.edit().assign(400, NAN);
        },
        6},
       {"largest numbers",
        [](TomoDocument& d) {
-         auto& samples = d.traceSets[0][0].samples;
+         auto& samples = d.recordings.edit().traceSets[0][0].samples.edit();
          for (std::size_t i = 0; i < samples.size(); ++i) samples[i] = i % 3 ? DBL_MAX : -DBL_MAX;
        },
        6},
       {"smallest numbers",
        [](TomoDocument& d) {
-         for (double& sample : d.traceSets[0][0].samples) sample = sample > 0 ? 5e-324 : 0.0;
+         for (double& sample : d.recordings.edit().traceSets[0][0].samples.edit())
+           sample = sample > 0 ? 5e-324 : 0.0;
        },
        6},
-      {"constants", [](TomoDocument& d) { d.traceSets[0][0].samples.assign(400, 0.1); }, 6},
+      {"constants",
+       [](TomoDocument& d) { d.recordings.edit().traceSets[0][0].samples.edit().assign(400, 0.1); },
+       6},
       {"empty traces",
        [](TomoDocument& d) {
-         d.traceSets[0][0].samples.clear();
-         d.traceSets[0][5].samples.assign(1, 3.0);
+         d.recordings.edit().traceSets[0][0].samples.edit().clear();
+         d.recordings.edit().traceSets[0][5].samples.edit().assign(1, 3.0);
        },
        5},
-      {"no interval", [](TomoDocument& d) { d.traceSets[0][2].sampleInterval = DBL_MAX; }, 5},
+      {"no interval",
+       [](TomoDocument& d) { d.recordings.edit().traceSets[0][2].sampleInterval = DBL_MAX; }, 5},
       {"odd intervals",
        [](TomoDocument& d) {
-         d.traceSets[0][0].sampleInterval = 1e-300;
-         d.traceSets[0][1].sampleInterval = 1e3;
-         d.traceSets[0][2].sampleInterval = NAN;
-         d.traceSets[0][3].sampleInterval = -1.0;
-         d.ttArray.clear();
+         d.recordings.edit().traceSets[0][0].sampleInterval = 1e-300;
+         d.recordings.edit().traceSets[0][1].sampleInterval = 1e3;
+         d.recordings.edit().traceSets[0][2].sampleInterval = NAN;
+         d.recordings.edit().traceSets[0][3].sampleInterval = -1.0;
+         d.ttArray.edit().clear();
        },
        4},
       {"one trace",
        [](TomoDocument& d) {
-         d.traceSets[0].resize(1);
-         d.goephonesStringSet.clear();
+         d.recordings.edit().traceSets[0].resize(1);
+         d.line.edit().goephonesStringSet.clear();
        },
        1},
-      {"no trace", [](TomoDocument& d) { d.traceSets[0].clear(); }, 0},
+      {"no trace", [](TomoDocument& d) { d.recordings.edit().traceSets[0].clear(); }, 0},
       {"nothing but picks",
        [](TomoDocument& d) {
-         for (Trace& trace : d.traceSets[0]) trace = Trace();
+         for (Trace& trace : d.recordings.edit().traceSets[0]) trace = Trace();
        },
        0},
-      {"a shot nowhere", [](TomoDocument& d) { d.ttArray[0].shotPos2d.x = -INFINITY; }, 6},
-      {"a shot far off", [](TomoDocument& d) { d.ttArray[0].shotPos2d.x = 9e7; }, 6},
-      {"receivers far apart", [](TomoDocument& d) { d.goephonesStringSet[0][3].x = 9e7; }, 6},
-      {"a pick past the record", [](TomoDocument& d) { d.ttArray[0].ttMisurati[3] = 9e5; }, 6}};
+      {"a shot nowhere", [](TomoDocument& d) { d.ttArray.edit()[0].shotPos2d.x = -INFINITY; }, 6},
+      {"a shot far off", [](TomoDocument& d) { d.ttArray.edit()[0].shotPos2d.x = 9e7; }, 6},
+      {"receivers far apart",
+       [](TomoDocument& d) { d.line.edit().goephonesStringSet[0][3].x = 9e7; }, 6},
+      {"a pick past the record",
+       [](TomoDocument& d) { d.ttArray.edit()[0].ttMisurati.edit()[3] = 9e5; }, 6}};
   for (const auto& fact : facts) {
     TomoDocument document = shotDocument(1, 6, 400);
     fact.change(document);
@@ -392,9 +404,9 @@ TEST(GatherFigure, drawsWhateverTheSamplesAre) {
 
 TEST(GatherFigure, aConstantIsAStraightLine) {
   TomoDocument document = shotDocument(1, 2, 400);
-  document.traceSets[0][0].samples.assign(400, 0.1);
-  document.traceSets[0][1].samples.assign(400, -1e17 / 3.0);
-  document.ttArray.clear();
+  document.recordings.edit().traceSets[0][0].samples.edit().assign(400, 0.1);
+  document.recordings.edit().traceSets[0][1].samples.edit().assign(400, -1e17 / 3.0);
+  document.ttArray.edit().clear();
   const Gather gather = gatherOf(document, kDefaults, FigureFormat::kPng);
   const QImage image = gather.image();
   for (double ms = 1.0; ms < 99.0; ms += 0.2) {

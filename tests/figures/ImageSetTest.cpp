@@ -1,4 +1,5 @@
 #include "figures/ImageSet.h"
+#include "model/Recordings.h"
 #include "support/SectionDocument.h"
 #include "support/TestFolder.h"
 
@@ -24,8 +25,8 @@ TomoDocument survey() {
   for (int shot = 0; shot < 2; ++shot) {
     Trace trace;
     trace.sampleInterval = 1e-3;
-    for (int i = 0; i < 100; ++i) trace.samples.push_back(i % 7);
-    document.traceSets.push_back({trace, trace, trace});
+    for (int i = 0; i < 100; ++i) trace.samples.edit().push_back(i % 7);
+    document.recordings.edit().traceSets.push_back({trace, trace, trace});
   }
   return document;
 }

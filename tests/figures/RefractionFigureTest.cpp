@@ -57,7 +57,7 @@ TEST(RefractionFigure, saysThatPicksHaveChangedSince) {
     return svg.contains("Picks have changed since this was built");
   };
   EXPECT_FALSE(says());
-  line.ttArray[3].ttMisurati[8] = kUnpicked;
+  line.ttArray.edit()[3].ttMisurati.edit()[8] = kUnpicked;
   EXPECT_TRUE(says());
 }
 

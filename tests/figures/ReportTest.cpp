@@ -3,7 +3,10 @@
 #include "figures/Report.h"
 #include "figures/ReportBuilder.h"
 #include "figures/ReportPages.h"
+#include "model/GeographicsCoord.h"
+#include "model/Recordings.h"
 #include "model/Residuals.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
@@ -41,7 +44,7 @@ TomoDocument pickedLine(int shots = 3) {
   for (int i = 0; i < shots; ++i) places.push_back(24.0 * i / std::max(shots - 1, 1));
   TomoDocument line = testing::testLine(13, 2.0, places, 1.0);
   testing::pickTwoLayers(line, 450.0, 1800.0, 3.0);
-  line.ttArray[0].ttMisurati[3] = kUnpicked;
+  line.ttArray.edit()[0].ttMisurati.edit()[3] = kUnpicked;
   return line;
 }
 
@@ -136,14 +139,14 @@ TEST(Report, tellsOfWhatTheSurveyHas) {
   const auto interpretation = oneRefractor();
   const TomoDocument picked = pickedLine();
   TomoDocument unpicked = pickedLine();
-  for (TravelTime& record : unpicked.ttArray) {
-    record.ttMisurati.assign(record.ttMisurati.size(), kUnpicked);
+  for (TravelTime& record : unpicked.ttArray.edit()) {
+    record.ttMisurati.edit().assign(record.ttMisurati.size(), kUnpicked);
   }
   TomoDocument started = pickedLine();
   testing::putGrid(started, 10.0, 1.0);
   TomoDocument placed = invertedLine();
-  placed.geoCoord_isSet = true;
-  placed.geoCoord = {32632, 600000.0, 600100.0, 5000000.0, 5000050.0};
+  placed.map.edit().geoCoord_isSet = true;
+  placed.map.edit().geoCoord = {32632, 600000.0, 600100.0, 5000000.0, 5000050.0};
 
   const struct {
     ReportSource source;
@@ -215,8 +218,8 @@ TEST(Report, namesShotFilesSoThatTheyCanBeToldApart) {
   };
   for (const auto& c : cases) {
     TomoDocument line = pickedLine();
-    line.filenames = c.files;
-    line.traceSets.resize(3, TraceSet(1));
+    line.recordings.edit().filenames = c.files;
+    line.recordings.edit().traceSets.resize(3, TraceSet(1));
     const ReportTable table = tableOf(reportOn({line}), "Shots and their recordings");
     std::vector<std::string> shown;
     for (const QStringList& row : table.rows) shown.push_back(row[1].toStdString());
@@ -226,10 +229,10 @@ TEST(Report, namesShotFilesSoThatTheyCanBeToldApart) {
 
 TEST(Report, givesEveryShotItsMisfitByHand) {
   TomoDocument line = testing::testLine(3, 2.0, {0.0, 4.0});
-  line.ttArray[0].ttMisurati = {0.010, 0.020, kUnpicked};
-  line.ttArray[0].ttCalcolati = {0.011, 0.017, 0.5};
-  line.ttArray[1].ttMisurati = {0.010, 0.010, kNoTime};
-  line.ttArray[1].ttCalcolati = {kNoTime, kNoTime, 0.1};
+  line.ttArray.edit()[0].ttMisurati.edit() = {0.010, 0.020, kUnpicked};
+  line.ttArray.edit()[0].ttCalcolati.edit() = {0.011, 0.017, 0.5};
+  line.ttArray.edit()[1].ttMisurati.edit() = {0.010, 0.010, kNoTime};
+  line.ttArray.edit()[1].ttCalcolati.edit() = {kNoTime, kNoTime, 0.1};
   const ReportTable table = tableOf(reportOn({line}), "Picks of every shot");
   ASSERT_EQ(table.rows.size(), 3u);
   EXPECT_EQ(table.rows[0], QStringList({"1", "0.00", "3", "2", "2.24", "12.7", "-1.00", "-3.00"}));
@@ -302,7 +305,7 @@ TEST(Report, tellsOneMisfitOfTheSectionBeforeAndAfterItsRaysAreTracedAnew) {
   EXPECT_EQ(misfit(), before);
   const QString first = tableOf(reportOn({line}), "Picks of every shot").rows.back()[4];
   EXPECT_EQ(first.toDouble(), std::round(before[1][1].section(' ', 0, 0).toDouble() * 100) / 100);
-  const Misfit& pass = line.lastInversion->history.back();
+  const Misfit& pass = line.result->lastInversion->history.back();
   EXPECT_EQ(tableOf(reportOn({line}), "Last solver pass of the inversion").rows[0][1],
             report::number(1e3 * pass.rmse, 3) + " ms, " +
                 report::number(1e2 * pass.relativeRms, 2) + " %");
@@ -318,7 +321,7 @@ TEST(Report, saysThatPicksHaveChangedAndSpeaksOfNoInversionWithoutOne) {
   };
   EXPECT_FALSE(hasText("Picks have changed"));
   EXPECT_TRUE(hasText("inverted by travel-time tomography"));
-  line.ttArray[1].ttMisurati[2] *= 1.1;
+  line.ttArray.edit()[1].ttMisurati.edit()[2] *= 1.1;
   EXPECT_TRUE(hasText("Picks have changed"));
   line.clearInversion();
   EXPECT_FALSE(hasText("inverted by travel-time tomography"));
@@ -451,7 +454,7 @@ TEST(Report, marksAProfileWhosePicksHaveChangedSince) {
   const char* mark = "picks have changed since";
   EXPECT_THAT(said(), Not(Contains(HasSubstr(mark))));
   EXPECT_EQ(profileLines(document, interpretation)[0].name, "Refractor 1");
-  document.ttArray[1].ttMisurati[4] += 1e-4;
+  document.ttArray.edit()[1].ttMisurati.edit()[4] += 1e-4;
   EXPECT_THAT(said(), Contains(HasSubstr(mark)));
   EXPECT_THAT(profileLines(document, interpretation)[0].name, HasSubstr(mark));
 }

@@ -1,5 +1,8 @@
 #include "figures/SectionFigure.h"
 #include "figures/SectionPlot.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/CommaLocale.h"
 #include "support/SectionDocument.h"
 #include "support/TestFolder.h"
@@ -113,7 +116,7 @@ TEST(SectionFigure, aFailureLeavesNoFileAndTouchesNone) {
   SectionFigureOptions colorless;
   colorless.palette.color_gradient.clear();
   EXPECT_THAT(failure(colorless, path), HasSubstr("no colours"));
-  document.grid.reset();
+  document.model.edit().grid.reset();
   EXPECT_THAT(failure(kDefaults, path), HasSubstr("no grid"));
   EXPECT_EQ(TestFolder::get(path), "before");
   EXPECT_EQ(folder.entries(), 1);
@@ -122,7 +125,7 @@ TEST(SectionFigure, aFailureLeavesNoFileAndTouchesNone) {
 TEST(SectionFigure, everyCellHasItsColorAtItsPlace) {
   TomoDocument document = sectionDocument(8, 30, 1.5, patchwork);
   for (std::uint32_t cell = 0; cell < 240; ++cell) {
-    document.grid->setDraw(cell, cell < 60 || cell % 5 != 0);
+    document.model.edit().editGrid().setDraw(cell, cell < 60 || cell % 5 != 0);
   }
   SectionFigureOptions options;
   options.scene.range = ValueRange{300.0, 2000.0};
@@ -130,13 +133,14 @@ TEST(SectionFigure, everyCellHasItsColorAtItsPlace) {
   const QImage image = picture.image();
   const ColorTable table(options.palette, *options.scene.range);
   for (std::uint32_t cell = 30; cell < 240; ++cell) {  // markers stand in the first row
-    const Point2D centre = document.grid->cellCentre(cell);
+    const Point2D centre = document.model->grid->cellCentre(cell);
     QColor expected(Qt::white);
-    if (document.grid->draw(cell)) {
-      const RgbColor& c = table[table.indexOf(document.grid->velocity(cell))];
+    if (document.model->grid->draw(cell)) {
+      const RgbColor& c = table[table.indexOf(document.model->grid->velocity(cell))];
       expected = QColor::fromRgbF(c.r, c.g, c.b);
     }
-    EXPECT_EQ(QColor(pixelAt(image, picture.layout, centre.x - document.xOffset, -centre.z)).name(),
+    EXPECT_EQ(QColor(pixelAt(image, picture.layout, centre.x - document.model->xOffset, -centre.z))
+                  .name(),
               expected.name())
         << "cell " << cell;
   }
@@ -150,10 +154,10 @@ TEST(SectionFigure, neighboursOfOneColorLeaveNoGap) {
   options.scene.range = ValueRange{400.0, 600.0};
   const Picture picture = pictureOf(document, options);
   const QImage image = picture.image();
-  const QRgb fill = pixelAt(image, picture.layout, 110.5, document.surface(11.5) - 5.5);
+  const QRgb fill = pixelAt(image, picture.layout, 110.5, document.model->surface(11.5) - 5.5);
   for (double x = 99.2; x < 158.8; x += 0.05) {
     for (double depth = 2.0; depth < 9.0; depth += 0.05) {
-      const double elevation = document.surface(x + document.xOffset) - depth;
+      const double elevation = document.model->surface(x + document.model->xOffset) - depth;
       ASSERT_EQ(pixelAt(image, picture.layout, x, elevation), fill) << x << " " << depth;
     }
   }
@@ -164,7 +168,7 @@ TEST(SectionFigure, markersStandAtGeophonesAndShots) {
   const Picture picture = pictureOf(document, kDefaults);
   const QImage image = picture.image();
   const double aboveTip = 1.2 / (picture.layout.xToMm(101.0) - picture.layout.xToMm(100.0));
-  for (const Point2D& geophone : document.goephonesStringSet[0]) {
+  for (const Point2D& geophone : document.line->goephonesStringSet[0]) {
     if (std::abs(geophone.x - document.ttArray[0].shotPos2d.x) < 2.0) continue;
     EXPECT_EQ(pixelAt(image, picture.layout, geophone.x, geophone.z + aboveTip), qRgb(32, 32, 32))
         << geophone.x;
@@ -222,9 +226,9 @@ TEST(SectionFigure, hasTheSizeThatIsAskedFor) {
 TEST(SectionFigure, saysWhatItShowsAndTakesTitlesAsTheyAre) {
   TomoDocument document = sectionDocument(8, 30, 1.5, patchwork);
   document.title = "Line <b>3</b> & more";
-  document.coverageSpline.emplace();
-  document.coverageSpline->build({0.5, 29.5}, {-94.0, -94.0});
-  document.rays = {{0, 5, 10}};
+  document.result.edit().coverageSpline.emplace();
+  document.result.edit().coverageSpline->build({0.5, 29.5}, {-94.0, -94.0});
+  document.result.edit().rays = {{0, 5, 10}};
   SectionFigureOptions options;
   options.scene.equallySpacedContours = 4;
   options.scene.rays = true;

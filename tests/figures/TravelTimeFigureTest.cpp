@@ -1,4 +1,7 @@
 #include "figures/TravelTimeFigure.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/ShotDocument.h"
 #include "support/TestFolder.h"
 
@@ -53,7 +56,7 @@ TEST(TravelTimeFigure, picksStandAtDistanceAndTimeInTheColorOfTheirShot) {
   for (std::size_t i = 0; i < 6; ++i) {
     const auto& pick = curves.layout.picks[i];
     EXPECT_EQ(pick.geophone, i);
-    EXPECT_EQ(pick.x, document.goephonesStringSet[0][i].x);
+    EXPECT_EQ(pick.x, document.line->goephonesStringSet[0][i].x);
     EXPECT_DOUBLE_EQ(pick.timeMs, 1e3 * firstBreak(i));
     EXPECT_EQ(curves.colorAt(pick.x, pick.timeMs), star) << i;
   }
@@ -63,15 +66,15 @@ TEST(TravelTimeFigure, picksStandAtDistanceAndTimeInTheColorOfTheirShot) {
 TEST(TravelTimeFigure, aMissingPickBreaksTheLine) {
   TomoDocument document = shotDocument(1, 6, 0);
   const auto lightnessBetween = [&document](std::size_t a, std::size_t b) {
-    const double x =
-        0.5 * (document.goephonesStringSet[0][a].x + document.goephonesStringSet[0][b].x);
+    const double x = 0.5 * (document.line->goephonesStringSet[0][a].x +
+                            document.line->goephonesStringSet[0][b].x);
     return curvesOf(document, FigureFormat::kPng)
         .colorAt(x, 500.0 * (firstBreak(a) + firstBreak(b)))
         .lightness();
   };
   EXPECT_LT(lightnessBetween(2, 3), 200);
   for (const double none : {0.0, kNoTime, static_cast<double>(NAN)}) {
-    document.ttArray[0].ttMisurati[3] = none;
+    document.ttArray.edit()[0].ttMisurati.edit()[3] = none;
     EXPECT_EQ(lightnessBetween(2, 3), 255) << none;
     EXPECT_EQ(lightnessBetween(2, 4), 255) << none;
     EXPECT_LT(lightnessBetween(4, 5), 200) << none;
@@ -81,8 +84,8 @@ TEST(TravelTimeFigure, aMissingPickBreaksTheLine) {
 TEST(TravelTimeFigure, computedTimesAreTheLinesWhenThereAreAny) {
   TomoDocument document = shotDocument(2, 6, 0);
   EXPECT_EQ(curvesOf(document, FigureFormat::kSvg).bytes.find("Computed"), std::string::npos);
-  document.ttArray[0].ttCalcolati = {0.04, 0.04, 0.04, kNoTime, 0.04, 0.04, 0.04};
-  document.RMSE_tomography = 3.456;  // of other times: those of the inversion
+  document.ttArray.edit()[0].ttCalcolati.edit() = {0.04, 0.04, 0.04, kNoTime, 0.04, 0.04, 0.04};
+  document.result.edit().RMSE_tomography = 3.456;  // of other times: those of the inversion
   const Curves curves = curvesOf(document, FigureFormat::kSvg);
   EXPECT_EQ(curves.layout.computedTimes, 5U);
   EXPECT_THAT(curves.bytes, HasSubstr(">Computed<"));
@@ -97,8 +100,8 @@ TEST(TravelTimeFigure, computedTimesAreTheLinesWhenThereAreAny) {
 
 TEST(TravelTimeFigure, receiversWithoutAStringAreThoseOfTheTraces) {
   TomoDocument document = shotDocument(2, 6, 4);
-  document.goephonesStringSet.clear();
-  document.traceSets[1].resize(4);
+  document.line.edit().goephonesStringSet.clear();
+  document.recordings.edit().traceSets[1].resize(4);
   const Curves curves = curvesOf(document, FigureFormat::kSvg);
   ASSERT_EQ(curves.layout.picks.size(), 10U);
   EXPECT_EQ(curves.layout.picks[9].x, 16.0);
@@ -106,21 +109,21 @@ TEST(TravelTimeFigure, receiversWithoutAStringAreThoseOfTheTraces) {
 
 TEST(TravelTimeFigure, hostilePositionsAndTimesDoNotSpoilThePicture) {
   TomoDocument document = shotDocument(3, 6, 0);
-  document.goephonesStringSet[0][1].x = NAN;
-  document.goephonesStringSet[0][2].x = 1e300;
-  document.ttArray[0].shotPos2d.x = -INFINITY;
-  document.ttArray[1].shotPos2d.x = 9e7;
-  document.ttArray[1].ttMisurati[4] = INFINITY;
-  document.ttArray[2].indexStesa = -7;
-  document.ttArray[2].traceSetID = 900;
+  document.line.edit().goephonesStringSet[0][1].x = NAN;
+  document.line.edit().goephonesStringSet[0][2].x = 1e300;
+  document.ttArray.edit()[0].shotPos2d.x = -INFINITY;
+  document.ttArray.edit()[1].shotPos2d.x = 9e7;
+  document.ttArray.edit()[1].ttMisurati.edit()[4] = INFINITY;
+  document.ttArray.edit()[2].indexStesa = -7;
+  document.ttArray.edit()[2].traceSetID = 900;
   for (const FigureFormat format : {FigureFormat::kPng, FigureFormat::kSvg, FigureFormat::kPdf}) {
     const Curves curves = curvesOf(document, format);
     EXPECT_EQ(curves.layout.picks.size(), 7U);
     EXPECT_LT(curves.layout.place.right, 30.0);
     EXPECT_EQ(curves.bytes.find("nan,"), std::string::npos);
   }
-  document.ttArray.resize(1);
-  document.ttArray[0].ttMisurati = {0.01};
+  document.ttArray.edit().resize(1);
+  document.ttArray.edit()[0].ttMisurati.edit() = {0.01};
   EXPECT_EQ(curvesOf(document, FigureFormat::kPng).layout.picks.size(), 1U);
 }
 
@@ -138,7 +141,7 @@ TEST(TravelTimeFigure, writesAllFormatsAndAFailureTouchesNoFile) {
   TravelTimeFigureOptions narrow;
   narrow.widthMm = 25.0;
   EXPECT_FALSE(writeTravelTimeFigure(document, narrow, folder.file("a.svg")).ok());
-  for (TravelTime& record : document.ttArray) record.ttMisurati.assign(6, kNoTime);
+  for (TravelTime& record : document.ttArray.edit()) record.ttMisurati.edit().assign(6, kNoTime);
   EXPECT_THAT(writeTravelTimeFigure(document, kDefaults, folder.file("a.svg")).message(),
               HasSubstr("no travel times"));
   EXPECT_EQ(TestFolder::get(folder.file("a.svg")), before);

@@ -1,4 +1,5 @@
 #include "gui/WindowTest.h"
+#include "model/GeographicsCoord.h"
 #include "support/SectionDocument.h"
 
 #include <QApplication>
@@ -35,8 +36,8 @@ class Exports : public WindowTest {
     document = testing::sectionDocument(
         3, 10, 0.0, [](std::uint32_t row, std::uint32_t) { return row == 0 ? 250.0 : 3500.0; });
     if (onGlobe) {
-      document.geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
-      document.geoCoord_isSet = true;
+      document.map.edit().geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
+      document.map.edit().geoCoord_isSet = true;
     }
     window->showFile(0);
   }
@@ -208,7 +209,7 @@ TEST_F(Exports, ofTheSectionUseThePaletteInView) {
 
 TEST_F(Exports, needNoPlaceThatProjCannotFind) {
   takeSection(true);
-  window->document().geoCoord.CRS = 4326;
+  window->document().map.edit().geoCoord.CRS = 4326;
   expectFile("Export Seismic Line to KML", home.file("out.kml"));
   dialogs.expectBox("Error occured", "The data have not been exported.",
                     "is not a projected system", QMessageBox::Ok);
@@ -260,13 +261,13 @@ TEST_F(Exports, placeTheLineWithChecksWhileTyping) {
   });
   action("actionSet_geography_coordinates").trigger();
   const TomoDocument& document = window->document();
-  EXPECT_TRUE(document.geoCoord_isSet);
+  EXPECT_TRUE(document.map->geoCoord_isSet);
   EXPECT_TRUE(window->isWindowModified());
-  EXPECT_EQ(document.geoCoord.CRS, 32632);
-  EXPECT_EQ(document.geoCoord.mEastFstGeoph, 652000.0);
-  EXPECT_EQ(document.geoCoord.mNorthFstGeoph, 5074000.0);
-  EXPECT_EQ(document.geoCoord.mEastLstGeoph, 652000.0);
-  EXPECT_EQ(document.geoCoord.mNorthLstGeoph, 5074009.0);
+  EXPECT_EQ(document.map->geoCoord.CRS, 32632);
+  EXPECT_EQ(document.map->geoCoord.mEastFstGeoph, 652000.0);
+  EXPECT_EQ(document.map->geoCoord.mNorthFstGeoph, 5074000.0);
+  EXPECT_EQ(document.map->geoCoord.mEastLstGeoph, 652000.0);
+  EXPECT_EQ(document.map->geoCoord.mNorthLstGeoph, 5074009.0);
 }
 
 TEST_F(Exports, keepThePlaceWhenTheUserGivesUp) {
@@ -285,7 +286,7 @@ TEST_F(Exports, keepThePlaceWhenTheUserGivesUp) {
   });
   action("actionSet_geography_coordinates").trigger();
   QLocale::setDefault(before);
-  EXPECT_EQ(window->document().geoCoord.mEastLstGeoph, 652004.8);
+  EXPECT_EQ(window->document().map->geoCoord.mEastLstGeoph, 652004.8);
   EXPECT_FALSE(window->document().modified);
 }
 

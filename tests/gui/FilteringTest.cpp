@@ -1,5 +1,6 @@
 #include "app/doFilteringDialog.h"
 #include "gui/ModalScript.h"
+#include "model/Recordings.h"
 #include "processing/TraceFilters.h"
 #include "support/ConsoleCapture.h"
 #include "support/ShotDocument.h"
@@ -31,7 +32,7 @@ constexpr double kHighest = 1990.0;    // Hz: bin 199 of 200, 10 Hz each
 /// The filter dialog on the second of three shots.
 class Filtering : public ::testing::Test {
  protected:
-  Filtering() : document(shotDocument(3, 4, kSamples)), raw(document.traceSets) {}
+  Filtering() : document(shotDocument(3, 4, kSamples)), raw(document.recordings->traceSets) {}
 
   void open(const std::vector<std::int32_t>& alsoShots = {}) {
     dialog = std::make_unique<doFilteringDialog>(document, 1, alsoShots);
@@ -59,13 +60,13 @@ class Filtering : public ::testing::Test {
   }
 
   const std::vector<double>& filtered(std::size_t shot, std::size_t trace) const {
-    return document.traceSets[shot][trace].filtered;
+    return document.recordings->traceSets[shot][trace].filtered;
   }
   bool untouched() const {
     if (document.modified || dialog->changedDocument()) return false;
     for (std::size_t s = 0; s < raw.size(); ++s) {
       for (std::size_t t = 0; t < raw[s].size(); ++t) {
-        if (document.traceSets[s][t].samples != raw[s][t].samples) return false;
+        if (document.recordings->traceSets[s][t].samples != raw[s][t].samples) return false;
         if (filtered(s, t) != raw[s][t].filtered) return false;
       }
     }
@@ -117,7 +118,7 @@ TEST_F(Filtering, appliesLowPassHighPassOrTheCascadeOfBoth) {
       if (chosen.low) expected = lowOf(expected, 120.0, 3);
       if (chosen.high) expected = highOf(expected, 30.0, 2);
       EXPECT_EQ(filtered(1, t), expected) << chosen.low << chosen.high << t;
-      EXPECT_EQ(document.traceSets[1][t].samples, raw[1][t].samples);
+      EXPECT_EQ(document.recordings->traceSets[1][t].samples, raw[1][t].samples);
       EXPECT_TRUE(filtered(0, t).empty() && filtered(2, t).empty());
     }
     EXPECT_TRUE(dialog->changedDocument() && document.modified);
@@ -128,8 +129,8 @@ TEST_F(Filtering, appliesLowPassHighPassOrTheCascadeOfBoth) {
 }
 
 TEST_F(Filtering, neitherFilterOnlyTurnsToWhatWasFilteredBefore) {
-  for (Trace& trace : document.traceSets[1]) trace.filtered = {1.0, 2.0, 3.0};
-  raw = document.traceSets;
+  for (Trace& trace : document.recordings->traceSets[1]) trace.filtered.edit() = {1.0, 2.0, 3.0};
+  raw = document.recordings->traceSets;
   open();
   EXPECT_TRUE(child<QRadioButton>("displayFiltered").isEnabled());
   apply();
@@ -166,7 +167,7 @@ TEST_F(Filtering, refusesACutOffBeyondTheSpectrumWithFrequencyAndLimit) {
 }
 
 TEST_F(Filtering, tellsOfTracesThatCannotBeFiltered) {
-  document.traceSets[1][2].samples[7] = std::nan("");
+  document.recordings.edit().traceSets[1][2].samples.edit()[7] = std::nan("");
   open();
   low(120.0, 2);
   expectBox("1 trace(s) stay as they were.", "trace 3: sample 7 is nan");
@@ -199,7 +200,7 @@ TEST_F(Filtering, reachesTheOtherShotsWhenAsked) {
 }
 
 TEST_F(Filtering, shotsWithoutSamplesGiveEmptyCopies) {
-  for (Trace& trace : document.traceSets[1]) trace.samples.clear();
+  for (Trace& trace : document.recordings->traceSets[1]) trace.samples.edit().clear();
   open();
   EXPECT_EQ(child<SpectrumPlot>("spectrumWidget").points(), 0U);
   low(120.0, 2);

@@ -4,6 +4,7 @@
 #include "app/GeometryTables.h"
 #include "app/SelectCSVDelimiterDialog.h"
 #include "gui/WindowTest.h"
+#include "model/SurveyLine.h"
 #include "widgets/SpreadsheetView.h"
 
 #include <QApplication>
@@ -115,7 +116,7 @@ class Geometry : public WindowTest {
     });
   }
   const std::vector<Point2D>& string(std::size_t index = 0) const {
-    return window->document().goephonesStringSet.at(index);
+    return window->document().line->goephonesStringSet.at(index);
   }
 };
 

@@ -1,4 +1,7 @@
 #include "gui/GeometryDriver.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "widgets/LinePlan.h"
 
 #include <QMenu>
@@ -60,16 +63,16 @@ TEST_F(Geometry, leftWithCancelChangesNothing) {
       },
       true);
   EXPECT_EQ(string(), before);
-  EXPECT_THAT(window->document().goephonesStringSet, SizeIs(1));
+  EXPECT_THAT(window->document().line->goephonesStringSet, SizeIs(1));
   EXPECT_FALSE(window->document().modified);
 }
 
 TEST_F(Geometry, asksBeforeResultsAreLost) {
   loadShots(1);
   TomoDocument& document = window->document();
-  document.has_tomographic_info = true;
+  document.result.edit().has_tomographic_info = true;
   edit([](GeometryDriver& user) { user.ok(); });
-  EXPECT_TRUE(document.has_tomographic_info) << "nothing moved, nothing lost";
+  EXPECT_TRUE(document.result->has_tomographic_info) << "nothing moved, nothing lost";
 
   const auto moveFirst = [](GeometryDriver& user) {
     user.type(user.geophones(), 0, GeophoneTable::kX, "9.5");
@@ -86,7 +89,7 @@ TEST_F(Geometry, asksBeforeResultsAreLost) {
                       "the grid and the results of the inversion", answer);
   }
   action("actionGeometry").trigger();
-  EXPECT_FALSE(document.has_tomographic_info);
+  EXPECT_FALSE(document.result->has_tomographic_info);
   EXPECT_EQ(string()[0].x, 9.5);
 }
 
@@ -176,7 +179,7 @@ TEST_F(Geometry, keepsStringsAndTheShotsThatUseThem) {
   dialogs.expectBox("Set survey geometry - Dialog", "String 1 is used by shot 1. Remove it?",
                     "They will use string 1", QMessageBox::Yes);
   action("actionGeometry").trigger();
-  ASSERT_THAT(window->document().goephonesStringSet, SizeIs(1));
+  ASSERT_THAT(window->document().line->goephonesStringSet, SizeIs(1));
   EXPECT_EQ(string().back().x, 40.0);
   EXPECT_EQ(window->document().ttArray[0].indexStesa, 0);
   EXPECT_EQ(window->document().ttArray[1].indexStesa, 0);
@@ -210,20 +213,20 @@ TEST_F(Geometry, makesShotsOfSWavePairsWhichArePickedOnTheirDifference) {
   action("actionGeometry").trigger();
 
   TomoDocument& document = window->document();
-  ASSERT_THAT(document.traceSets, SizeIs(1));
-  EXPECT_EQ(document.waveType, WaveType::S);
+  ASSERT_THAT(document.recordings->traceSets, SizeIs(1));
+  EXPECT_EQ(document.recordings->waveType, WaveType::S);
   EXPECT_EQ(TestFolder::get(history), home.path()) << "recordings are opened as shot files are";
-  EXPECT_THAT(document.filenames_DX, ElementsAre(dx.toStdString()));
-  EXPECT_THAT(document.filenames_SX, ElementsAre(sx.toStdString()));
+  EXPECT_THAT(document.recordings->filenames_DX, ElementsAre(dx.toStdString()));
+  EXPECT_THAT(document.recordings->filenames_SX, ElementsAre(sx.toStdString()));
   EXPECT_EQ(window->currentFile(), 0);
   EXPECT_THAT(child<QComboBox>("shotCBox").itemText(0).toStdString(), HasSubstr("dx 2.dat"));
   // Two recordings that are alike leave nothing to pick, however loud each is.
-  Trace& trace = document.traceSets[0][3];
+  Trace& trace = document.recordings->traceSets[0][3];
   EXPECT_EQ(trace.waveKind, Trace::kSWavePair);
   EXPECT_THAT(trace.samples, ::testing::Each(0.0));
   EXPECT_NE(*std::max_element(trace.samplesDX.begin(), trace.samplesDX.end()), 0.0);
   // A blow the other way round doubles the signal.
-  for (Trace& each : document.traceSets[0]) {
+  for (Trace& each : document.recordings->traceSets[0]) {
     for (double& sample : each.samplesSX) sample = -sample;
   }
   action("actionAutoPick").trigger();
@@ -233,7 +236,7 @@ TEST_F(Geometry, makesShotsOfSWavePairsWhichArePickedOnTheirDifference) {
 
 TEST_F(Geometry, replacesTheRecordingOfAShotByAPair) {
   loadShots(1);
-  window->document().ttArray[0].ttMisurati[2] = 0.02;
+  window->document().ttArray.edit()[0].ttMisurati.edit()[2] = 0.02;
   const QString dx = shotFile("dx.dat", 50.0);
   const QString sx = shotFile("sx.dat", 50.0);
   dialogs.expect([](QWidget& widget) {
@@ -248,7 +251,7 @@ TEST_F(Geometry, replacesTheRecordingOfAShotByAPair) {
                     QMessageBox::Yes);
   action("actionGeometry").trigger();
   const TomoDocument& document = window->document();
-  EXPECT_EQ(document.traceSets[0][0].waveKind, Trace::kSWavePair);
+  EXPECT_EQ(document.recordings->traceSets[0][0].waveKind, Trace::kSWavePair);
   EXPECT_EQ(document.ttArray[0].shotPos2d.x, 9.0);
   EXPECT_EQ(document.ttArray[0].ttMisurati[2], kUnpicked);
   EXPECT_FALSE(action("actionUndo").isEnabled());
@@ -276,8 +279,8 @@ TEST_F(Geometry, showsMistakesInThePlanWhereAClickLeadsToThem) {
 
 TEST_F(Geometry, editsPicksWithoutTraces) {
   loadShots(1);
-  window->document().traceSets.clear();
-  window->document().filenames.clear();
+  window->document().recordings.edit().traceSets.clear();
+  window->document().recordings.edit().filenames.clear();
   edit([](GeometryDriver& user) {
     EXPECT_FALSE(user.child<QPushButton>("addPairsButton").isEnabled());
     user.type(user.shots(), 0, ShotTable::kZ, "3");

@@ -3,7 +3,9 @@
 #include "app/runTomography_Dialog.h"
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
+#include "model/GroundModel.h"
 #include "model/Residuals.h"
+#include "model/TomographyOutcome.h"
 #include "support/TestSurveys.h"
 #include "tomo/Misfit.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -64,7 +66,7 @@ class Inverting : public WindowTest {
     TomoDocument line = testLine(24, 2.0, {-2.0, 9.0, 23.0, 37.0, 48.0}, 1.0);
     pickTwoLayers(line, 450.0, 1800.0, 3.0);
     for (TravelTime& record : line.ttArray) {
-      for (std::size_t i = 0; i < missing; ++i) record.ttMisurati[i] = kUnpicked;
+      for (std::size_t i = 0; i < missing; ++i) record.ttMisurati.edit()[i] = kUnpicked;
     }
     ASSERT_TRUE(writeTravelTimes(home.file("line.otte"), line).ok());
     open();
@@ -117,7 +119,7 @@ TEST_F(Inverting, asksBeforeItGoesOnWithoutMostPicks) {
   dialogs.expectBox("Warning:", "Uncomplete set of picks. \n \n",
                     "Do you want to run tomography inversion anyway? ", QMessageBox::No);
   run();
-  EXPECT_EQ(window->document().grid, nullptr);
+  EXPECT_EQ(window->document().model->grid, nullptr);
   EXPECT_FALSE(window->document().modified);
   EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered"));
   EXPECT_THAT(log(), Not(HasSubstr("grid does not exist")));
@@ -127,14 +129,14 @@ TEST_F(Inverting, endsWhereADialogIsCancelled) {
   openLine(11);
   dialogs.expectAndCancel();  // the grid
   run();
-  EXPECT_EQ(window->document().grid, nullptr);
+  EXPECT_EQ(window->document().model->grid, nullptr);
   EXPECT_FALSE(window->document().modified);
   EXPECT_THAT(log(), HasSubstr("grid does not exist; ask for parameter\n"));
   answerGrid(12.0, 1.0);
   dialogs.expectAndCancel();  // the parameters
   run();
-  ASSERT_NE(window->document().grid, nullptr);
-  EXPECT_FALSE(window->document().has_tomographic_info);
+  ASSERT_NE(window->document().model->grid, nullptr);
+  EXPECT_FALSE(window->document().result->has_tomographic_info);
   EXPECT_THAT(log(), Not(HasSubstr("Running Tomography")));
 }
 
@@ -145,10 +147,10 @@ TEST_F(Inverting, showsItsResults) {
   expectResults();
   run();
   const TomoDocument& line = window->document();
-  EXPECT_TRUE(line.has_tomographic_info && line.modified);
-  ASSERT_TRUE(line.lastInversion);
-  const Misfit misfit = line.lastInversion->history.back();
-  EXPECT_EQ(line.RMSE_tomography, 100.0 * misfit.relativeRms);
+  EXPECT_TRUE(line.result->has_tomographic_info && line.modified);
+  ASSERT_TRUE(line.result->lastInversion);
+  const Misfit misfit = line.result->lastInversion->history.back();
+  EXPECT_EQ(line.result->RMSE_tomography, 100.0 * misfit.relativeRms);
   const SectionMisfit section = sectionMisfitOf(line);
   ASSERT_GT(section.count, 0);
   EXPECT_THAT(child<QLabel>("misfitLabel").text().toStdString(),
@@ -180,7 +182,7 @@ TEST_F(Inverting, keepsTheMisfitInViewAndSaysWhenPicksHaveChanged) {
   run();
   EXPECT_THAT(told(), StartsWith("Misfit of the section: RMS "));
   EXPECT_THAT(told(), Not(HasSubstr("changed")));
-  window->document().ttArray[0].ttMisurati[3] *= 1.01;
+  window->document().ttArray.edit()[0].ttMisurati.edit()[3] *= 1.01;
   emit child<editTravelTimesWidget>("showTracesWidget").pick_edited();
   EXPECT_THAT(told(), HasSubstr("Picks have changed since."));
 }
@@ -194,7 +196,7 @@ TEST_F(Inverting, completesTheIterationInWhichItIsStopped) {
   });
   expectResults();
   run();
-  EXPECT_TRUE(window->document().has_tomographic_info);
+  EXPECT_TRUE(window->document().result->has_tomographic_info);
   EXPECT_THAT(log(), HasSubstr("Running Tomography - external iteration 0 ... COMPLETED. \n"));
   EXPECT_THAT(log(), HasSubstr("Stop Request by the user.\n"));
   EXPECT_THAT(log(), Not(HasSubstr("external iteration 1")));
@@ -214,8 +216,8 @@ TEST_F(Inverting, proposesTheCellSizeOfTheSurveyWhereThereIsNoGrid) {
   });
   dialogs.expectAndCancel();  // the parameters
   run();
-  ASSERT_NE(window->document().grid, nullptr);
-  EXPECT_EQ(window->document().grid->aLato(), 0.5);
+  ASSERT_NE(window->document().model->grid, nullptr);
+  EXPECT_EQ(window->document().model->grid->aLato(), 0.5);
 }
 
 TEST_F(Inverting, namesWhatItLeftOut) {
@@ -243,8 +245,8 @@ TEST_F(Inverting, showsNoResultsWhereNothingIsPicked) {
   answerGrid(12.0, 1.0);
   answerParameters(1, 1);
   run();
-  EXPECT_TRUE(window->document().has_tomographic_info);
-  EXPECT_LT(window->document().RMSE_tomography, 0.0);
+  EXPECT_TRUE(window->document().result->has_tomographic_info);
+  EXPECT_LT(window->document().result->RMSE_tomography, 0.0);
 }
 
 TEST_F(Inverting, tellsWhyAGridWithoutRowsCannotBeInverted) {
@@ -257,7 +259,7 @@ TEST_F(Inverting, tellsWhyAGridWithoutRowsCannotBeInverted) {
   dialogs.expectBox("Error occured", "The inversion could not be completed.", "no grid with cells",
                     QMessageBox::Ok);
   run();
-  EXPECT_FALSE(window->document().has_tomographic_info);
+  EXPECT_FALSE(window->document().result->has_tomographic_info);
 }
 
 TEST_F(Inverting, leavesTheWindowAliveButTheDocumentOutOfReach) {
@@ -335,7 +337,7 @@ TEST_F(Inverting, givesTheNumbersOfTheBatchProgramToTheLastBit) {
   const QJsonObject expected =
       QJsonDocument::fromJson(QByteArray::fromStdString(TestFolder::get(json.toStdString())))
           .object();
-  const Grid& grid = *window->document().grid;
+  const Grid& grid = *window->document().model->grid;
   const QJsonArray velocities = expected[QLatin1String("velocities")].toArray();
   ASSERT_EQ(velocities.size(), static_cast<int>(grid.cellCount()));
   int different = 0;
@@ -343,7 +345,8 @@ TEST_F(Inverting, givesTheNumbersOfTheBatchProgramToTheLastBit) {
     if (velocities[static_cast<int>(c)].toDouble() != grid.velocity(c)) ++different;
   }
   EXPECT_EQ(different, 0);
-  EXPECT_EQ(expected[QLatin1String("rms_percent")].toDouble(), window->document().RMSE_tomography);
+  EXPECT_EQ(expected[QLatin1String("rms_percent")].toDouble(),
+            window->document().result->RMSE_tomography);
 }
 
 }  // namespace

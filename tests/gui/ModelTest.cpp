@@ -1,6 +1,8 @@
 #include "app/gridDialog.h"
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
 #include "support/TestSurveys.h"
 #include "tomo/Smoothing.h"
 
@@ -51,10 +53,10 @@ TEST_F(Model, gridIsProposedFromTheGeophonesAndItsNodesFromTheOneBefore) {
     field<QSpinBox>(dialog, "nodesEdit").setValue(8);
   });
   action("actionGrid").trigger();
-  ASSERT_NE(document().grid, nullptr);
-  EXPECT_EQ(document().grid->righe(), 10U);
-  EXPECT_EQ(document().grid->col(), 50U);
-  EXPECT_EQ(document().grid->nV(), 8U);
+  ASSERT_NE(document().model->grid, nullptr);
+  EXPECT_EQ(document().model->grid->righe(), 10U);
+  EXPECT_EQ(document().model->grid->col(), 50U);
+  EXPECT_EQ(document().model->grid->nV(), 8U);
   for (const char* line : {"Talvesk_MainWindows::on_actionGrid_triggered\n", "Setting Grid ... \n",
                            "Generating the grid ... COMPLETED\n", "Setting Grid ... COMPLETED. \n",
                            "Setting info layer ... COMPLETED. \n"}) {
@@ -67,13 +69,13 @@ TEST_F(Model, gridIsProposedFromTheGeophonesAndItsNodesFromTheOneBefore) {
     dialog.close();
   });
   action("actionGrid").trigger();
-  EXPECT_EQ(document().grid->righe(), 10U);
+  EXPECT_EQ(document().model->grid->righe(), 10U);
 }
 
 TEST_F(Model, gridWithoutGeometryAsksForIt) {
   openLine();
   TomoDocument& line = window->document();
-  for (auto& string : line.goephonesStringSet) string.clear();
+  for (auto& string : line.line->goephonesStringSet) string.clear();
   line.modified = false;
   dialogs.expect([](QWidget& widget) {
     auto& box = dynamic_cast<QMessageBox&>(widget);
@@ -90,7 +92,7 @@ TEST_F(Model, gridWithoutGeometryAsksForIt) {
     dialog.close();
   });
   action("actionGrid").trigger();
-  EXPECT_EQ(line.grid, nullptr);
+  EXPECT_EQ(line.model->grid, nullptr);
   EXPECT_FALSE(line.modified);
 }
 
@@ -112,27 +114,28 @@ TEST_F(Model, layersAndSmoothingChangeTheGridUnlessCancelled) {
   openLine();
   answer([](QWidget& dialog) { field<QDoubleSpinBox>(dialog, "maxDepthEdit").setValue(6.0); });
   action("actionGrid").trigger();
-  const std::vector<double> atFirst = document().grid->slownesses();
+  const std::vector<double> atFirst = document().model->grid->slownesses();
   for (const char* name : {"actionDefine_model_velocity", "actionApply_smoothing"}) {
     dialogs.expectAndCancel();
     action(name).trigger();
-    EXPECT_EQ(document().grid->slownesses(), atFirst) << name;
+    EXPECT_EQ(document().model->grid->slownesses(), atFirst) << name;
   }
   EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionDefine_model_velocity_triggered\n"));
   answer([](QWidget&) {});
   dialogs.expectBox("Define model velocity", "You have not changed the layers.",
                     "put them into the grid", QMessageBox::Yes);
   action("actionDefine_model_velocity").trigger();
-  const std::vector<double> layered = document().grid->slownesses();
+  const std::vector<double> layered = document().model->grid->slownesses();
   EXPECT_NE(layered, atFirst);
-  EXPECT_EQ(document().layers.size(), 1U);
+  EXPECT_EQ(document().model->layers.size(), 1U);
   answer([](QWidget& dialog) {
     field<QComboBox>(dialog, "typeOfSmoothingCBox").setCurrentIndex(1);
     field<QSpinBox>(dialog, "smooth_Edit").setValue(3);
   });
   action("actionApply_smoothing").trigger();
-  EXPECT_EQ(document().grid->slownesses(),
-            smoothSlowness(SmoothingType::kLinear, Grid(document().grid->sharedGeometry(), layered),
+  EXPECT_EQ(document().model->grid->slownesses(),
+            smoothSlowness(SmoothingType::kLinear,
+                           Grid(document().model->grid->sharedGeometry(), layered),
                            std::vector<std::uint32_t>(layered.size(), 0), 3, 0.7));
 }
 

@@ -1,4 +1,5 @@
 #include "gui/WindowTest.h"
+#include "model/Recordings.h"
 #include "support/ShotDocument.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -29,7 +30,7 @@ class Processing : public WindowTest {
     return picks;
   }
   bool hasCopy(std::size_t shot) {
-    return !window->document().traceSets[shot].front().filtered.empty();
+    return !window->document().recordings->traceSets[shot].front().filtered.empty();
   }
 };
 
@@ -114,7 +115,7 @@ TEST_F(Processing, filtersTheShotInViewAndTurnsItsCopyOver) {
     EXPECT_TRUE(hasCopy(0)) << command;
     EXPECT_FALSE(hasCopy(1)) << command;
     EXPECT_TRUE(shown.isEnabled() && shown.isChecked()) << command;
-    const QString traces = QString::number(window->document().traceSets[0].size());
+    const QString traces = QString::number(window->document().recordings->traceSets[0].size());
     EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(),
               "Filtered copies made of " + traces + " of " + traces + " traces.");
     action("actionNext_file").trigger();
@@ -153,14 +154,14 @@ TEST_F(Processing, picksRawSamplesWhereThereIsNoFilteredCopy) {
 }
 
 TEST_F(Processing, leavesTracesThatCannotBeFilteredAndSaysSo) {
-  window->document().traceSets[0][2].sampleInterval = 0.01;
+  window->document().recordings.edit().traceSets[0][2].sampleInterval = 0.01;
   dialogs.expect([](QWidget& dialog) {
     auto& box = dynamic_cast<QMessageBox&>(dialog);
     EXPECT_EQ(box.text().toStdString(), "1 trace stays as it was.");
     box.button(QMessageBox::Ok)->click();
   });
   action("actionApply_Hushel").trigger();
-  EXPECT_TRUE(window->document().traceSets[0][2].filtered.empty());
+  EXPECT_TRUE(window->document().recordings->traceSets[0][2].filtered.empty());
   EXPECT_TRUE(hasCopy(0));
 }
 

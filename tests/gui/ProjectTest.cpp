@@ -3,6 +3,9 @@
 #include "io/ProjectSnapshot.h"
 #include "io/ProjectWriter.h"
 #include "io/projectReader.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
+#include "model/TomographyOutcome.h"
 #include "support/ShotFiles.h"
 #include "support/TestSurveys.h"
 #include "tomo/ForwardPass.h"
@@ -62,18 +65,19 @@ TEST_F(Projects, proposeNamesForTheirFiles) {
 }
 
 TEST_F(Projects, comeBackWithWhatTheScreenShows) {
-  document().traceSets[1][0].filtered = document().traceSets[1][0].samples;
+  document().recordings.edit().traceSets[1][0].filtered.edit() =
+      document().recordings->traceSets[1][0].samples;
   putGrid(document(), 6, 2);
   Log quiet;
   ASSERT_TRUE(runInversion(document(), {}, quiet).status.ok());
-  const std::size_t rays = document().rays.size();
+  const std::size_t rays = document().result->rays.size();
   saveAs(path("line.tvsk"));
   open();
   EXPECT_TRUE(document().ttArray.empty());
   load(path("line.tvsk"));
-  ASSERT_EQ(document().traceSets.size(), 3U);
+  ASSERT_EQ(document().recordings->traceSets.size(), 3U);
   EXPECT_EQ(document().ttArray[1].ttMisurati[2], 0.017);
-  EXPECT_EQ(document().rays.size(), rays);
+  EXPECT_EQ(document().result->rays.size(), rays);
   EXPECT_EQ(window->currentFile(), 0);
   EXPECT_FALSE(window->isWindowModified());
   EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*] - line.tvsk"));
@@ -120,11 +124,11 @@ TEST_F(Projects, nameInTheLogWhatTheirRaysLeaveOut) {
   putGrid(document(), 2 * cell, cell);  // two columns: the last fifth of the line has none
   Log quiet;
   ASSERT_TRUE(runInversion(document(), {}, quiet).status.ok());
-  ASSERT_FALSE(document().excluded.empty());
-  const std::string first = describe(document().excluded.front());
+  ASSERT_FALSE(document().result->excluded.empty());
+  const std::string first = describe(document().result->excluded.front());
   saveAs(path("line.tvsk"));
   load(path("line.tvsk"));
-  EXPECT_FALSE(document().excluded.empty());
+  EXPECT_FALSE(document().result->excluded.empty());
   EXPECT_THAT(log(), HasSubstr("ERROR : " + first + "\n"));
 }
 
@@ -136,8 +140,8 @@ TEST_F(Projects, areSavedAgainFromTheFilesThatTheyWereLoadedWith) {
   saveAs(path("copy.tvsk"));
   open();
   load(path("copy.tvsk"));
-  ASSERT_EQ(document().traceSets.size(), 3U);
-  EXPECT_FALSE(document().traceSets[2][0].samples.empty());
+  ASSERT_EQ(document().recordings->traceSets.size(), 3U);
+  EXPECT_FALSE(document().recordings->traceSets[2][0].samples.empty());
 }
 
 TEST_F(Projects, askBeforeTheyReplaceAnotherFile) {
@@ -181,12 +185,12 @@ TEST_F(Projects, thatAreNoneLeaveTheSurveyAsItIs) {
                     QStringLiteral("text.tvsk is not a valid project."), QString(),
                     QMessageBox::Ok);
   trigger("actionLoad_Project");
-  EXPECT_EQ(document().traceSets.size(), 3U);
+  EXPECT_EQ(document().recordings->traceSets.size(), 3U);
   EXPECT_EQ(document().ttArray[1].ttMisurati[2], 0.017);
 }
 
 TEST_F(Projects, tellWhatHadToBePutRightInThem) {
-  document().maxVelocity = 1e308;
+  document().model.edit().maxVelocity = 1e308;
   saveAs(path("line.tvsk"));
   dialogs.expectFiles(QStringLiteral("Load Project"), {path("line.tvsk")});
   dialogs.expectBox(
@@ -194,7 +198,7 @@ TEST_F(Projects, tellWhatHadToBePutRightInThem) {
       QStringLiteral("Some values of the project cannot be. They were put right or left out."),
       QStringLiteral("limits of velocity"), QMessageBox::Ok);
   trigger("actionLoad_Project");
-  EXPECT_EQ(document().maxVelocity, 3500.0);
+  EXPECT_EQ(document().model->maxVelocity, 3500.0);
 }
 
 TEST_F(Projects, tellOfShotFilesThatCouldNotBeSaved) {
@@ -247,7 +251,7 @@ TEST_F(Projects, openFromTheCommandLine) {
   saveAs(path("line.tvsk"));
   open();
   window->start({path("line.tvsk")});
-  EXPECT_EQ(document().traceSets.size(), 3U);
+  EXPECT_EQ(document().recordings->traceSets.size(), 3U);
 }
 
 TEST_F(Projects, doNotChangeInWhichByteOrderShotsAreRead) {
@@ -261,11 +265,11 @@ TEST_F(Projects, doNotChangeInWhichByteOrderShotsAreRead) {
   trigger("actionOpen_shot_files");
   document().modified = false;
   load(path("line.tvsk"));
-  ASSERT_EQ(document().traceSets.size(), 3U);
+  ASSERT_EQ(document().recordings->traceSets.size(), 3U);
   dialogs.expectFiles(QStringLiteral("Open Seismic Trace"), {su});
   trigger("actionOpen_shot_files");
-  ASSERT_EQ(document().traceSets.size(), 4U);
-  EXPECT_EQ(document().traceSets[3].at(1).samples, (std::vector<double>{7, 8, 0}));
+  ASSERT_EQ(document().recordings->traceSets.size(), 4U);
+  EXPECT_EQ(document().recordings->traceSets[3].at(1).samples, (std::vector<double>{7, 8, 0}));
 }
 
 TEST_F(Projects, giveWayToANewSurvey) {

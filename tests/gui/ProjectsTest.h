@@ -14,7 +14,7 @@ class Projects : public WindowTest {
   Projects() {
     open();
     loadShots(3);
-    document().ttArray[1].ttMisurati[2] = 0.017;
+    document().ttArray.edit()[1].ttMisurati.edit()[2] = 0.017;
   }
 
   TomoDocument& document() { return window->document(); }

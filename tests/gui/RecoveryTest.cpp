@@ -1,5 +1,6 @@
 #include "gui/ProjectsTest.h"
 #include "io/projectReader.h"
+#include "model/Recordings.h"
 
 #include <QDialog>
 #include <QLineEdit>
@@ -99,7 +100,7 @@ TEST_F(Recovery, copyIsLeftByAProgramThatASignalEnds) {
     EXPECT_EQ(reader.load(work.filePath(copies[0]).toStdString(), user.file("Talvesk_TMP/"), copy),
               0)
         << reader.message();
-    EXPECT_EQ(copy.document.traceSets.size(), 2U);
+    EXPECT_EQ(copy.document.recordings->traceSets.size(), 2U);
   }
 }
 

@@ -1,6 +1,8 @@
 #include "app/RefractionProcessingDialog.h"
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
 #include "support/RefractionLines.h"
 #include "view/SectionScene.h"
 #include "widgets/LayerCurvesPlot.h"
@@ -293,7 +295,7 @@ TEST_F(RefractionCommand, changesNothingOnCancelAndLaysTheProfileOverTheSectionO
 }
 
 TEST_F(RefractionCommand, showsTheProfileBeforeThereIsAGrid) {
-  window->document().grid.reset();
+  window->document().model.edit().grid.reset();
   window->showFile(0);
   answer(QDialogButtonBox::Ok);
   ASSERT_TRUE(action("actionShow_refraction").isEnabled());
@@ -368,10 +370,10 @@ TEST_F(RefractionCommand, keepsPhantomArrivalsThatWereMadeWithoutAProfile) {
 TEST_F(RefractionCommand, asksBeforeReplacedPicksTakeTheProfileAndOtherShotsTheMarks) {
   answer(QDialogButtonBox::Ok);
   TomoDocument moved;
-  moved.goephonesStringSet = window->document().goephonesStringSet;
-  moved.ttArray = window->document().ttArray;
+  moved.line.edit().goephonesStringSet = window->document().line->goephonesStringSet;
+  moved.ttArray.edit() = window->document().ttArray;
   ASSERT_TRUE(writeTravelTimes(home.file("same.otte"), moved).ok());
-  moved.ttArray.front().shotPos2d.x -= 7.0;
+  moved.ttArray.edit().front().shotPos2d.x -= 7.0;
   ASSERT_TRUE(writeTravelTimes(home.file("moved.otte"), moved).ok());
   for (const char* name : {"same.otte", "moved.otte"}) {
     window->document().modified = false;
@@ -394,7 +396,7 @@ TEST_F(RefractionCommand, asksBeforeReplacedPicksTakeTheProfileAndOtherShotsTheM
 
 TEST_F(RefractionCommand, asksAboutIncompletePicks) {
   for (TravelTime& record : window->document().ttArray) {
-    for (std::size_t i = 0; i < 40; ++i) record.ttMisurati[i] = kUnpicked;
+    for (std::size_t i = 0; i < 40; ++i) record.ttMisurati.edit()[i] = kUnpicked;
   }
   dialogs.expectBox("Warning",
                     "Uncomplete set of picks. \n \n"

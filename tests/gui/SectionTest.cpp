@@ -1,5 +1,7 @@
 #include "figures/SectionFigure.h"
 #include "gui/WindowTest.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
 #include "view/SectionScene.h"
 #include "widgets/SectionCamera.h"
@@ -90,15 +92,15 @@ TEST_F(Section, withoutOneThePageSaysWhatToDoNext) {
   EXPECT_THAT(text.text().toStdString(), ::testing::HasSubstr("Load shot files"));
   EXPECT_FALSE(action("actionSmooth_view").isEnabled());
   EXPECT_FALSE(action("actionReset_View").isEnabled());
-  window->document().ttArray.emplace_back();
+  window->document().ttArray.edit().emplace_back();
   refresh();
   EXPECT_THAT(text.text().toStdString(), ::testing::HasSubstr("Run tomography inversion"));
 }
 
 TEST_F(Section, commandsChangeWhatIsShown) {
   TomoDocument document = sectionDocument(12, 40, 1.5, patchwork);
-  document.info_density.assign(12 * 40, 3.0);
-  document.rays = {{0, 5, 10}};
+  document.result.edit().info_density.assign(12 * 40, 3.0);
+  document.result.edit().rays = {{0, 5, 10}};
   openWith(std::move(document));
   const auto scene = [this]() -> const SectionScene& { return *view().scene(); };
   EXPECT_TRUE(action("actionGrid_view").isChecked());
@@ -130,10 +132,10 @@ TEST_F(Section, commandsChangeWhatIsShown) {
 
 TEST_F(Section, aNewGridHasNoInformationDensityToShow) {
   TomoDocument document = sectionDocument(6, 20, 0.0, patchwork);
-  document.info_density.assign(120, 3.0);
+  document.result.edit().info_density.assign(120, 3.0);
   openWith(std::move(document));
   action("actionShow_Information_Density_Layer").trigger();
-  window->document().info_density.assign(120, -1.0);
+  window->document().result.edit().info_density.assign(120, -1.0);
   refresh();
   EXPECT_EQ(view().scene()->quantity, SectionQuantity::kVelocity);
   EXPECT_FALSE(action("actionShow_Information_Density_Layer").isEnabled());
@@ -271,7 +273,8 @@ struct Figure {
 
 TEST_F(Section, onTheScreenAndInAFigureHasTheSameColorsAndHoles) {
   TomoDocument document = sectionDocument(12, 40, 1.5, hilly);
-  for (std::uint32_t cell = 200; cell < 480; cell += 9) document.grid->setDraw(cell, false);
+  for (std::uint32_t cell = 200; cell < 480; cell += 9)
+    document.model.edit().editGrid().setDraw(cell, false);
   openWith(std::move(document));
   const struct {
     const char* name;
@@ -297,8 +300,8 @@ TEST_F(Section, onTheScreenAndInAFigureHasTheSameColorsAndHoles) {
     const Figure figure(window->document(), settings, palette);
     int compared = 0;
     for (std::uint32_t cell = 40; cell < 480; ++cell) {  // markers stand in the first row
-      const Point2D centre = window->document().grid->cellCentre(cell);
-      const Point2D at{centre.x - window->document().xOffset, -centre.z};
+      const Point2D centre = window->document().model->grid->cellCentre(cell);
+      const Point2D at{centre.x - window->document().model->xOffset, -centre.z};
       const auto nearEdge = [&](double level) {
         return std::abs(level - scene->cellValues[cell]) < 80.0;
       };
@@ -396,7 +399,8 @@ TEST_F(Section, oddSectionsAreDrawnOrExplained) {
   action("actionLaplacian_Gradient").trigger();
 
   window->document() = sectionDocument(5, 10, 0.0, patchwork);
-  for (std::uint32_t cell = 0; cell < 50; ++cell) window->document().grid->setDraw(cell, cell == 7);
+  for (std::uint32_t cell = 0; cell < 50; ++cell)
+    window->document().model.edit().editGrid().setDraw(cell, cell == 7);
   for (const char* name : {"actionGrid_view", "actionSmooth_view", "actionGrid_view"}) {
     action(name).trigger();
     EXPECT_FALSE(view().isEmpty());

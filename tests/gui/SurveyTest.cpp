@@ -1,4 +1,5 @@
 #include "gui/WindowTest.h"
+#include "model/Recordings.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -57,7 +58,7 @@ TEST_F(Survey, staysOpenOnCancelAndGoesOnDiscard) {
   expectToSave(QMessageBox::Cancel);
   EXPECT_FALSE(window->close());
   EXPECT_TRUE(window->isVisible());
-  EXPECT_THAT(window->document().traceSets, SizeIs(1));
+  EXPECT_THAT(window->document().recordings->traceSets, SizeIs(1));
   expectToSave(QMessageBox::Discard);
   EXPECT_TRUE(window->close());
 }
@@ -66,19 +67,19 @@ TEST_F(Survey, isEmptiedByNewWhichAsksFirst) {
   loadShots(2);
   expectToSave(QMessageBox::Cancel);
   action("actionNew").trigger();
-  EXPECT_THAT(window->document().traceSets, SizeIs(2));
+  EXPECT_THAT(window->document().recordings->traceSets, SizeIs(2));
 
   expectToSave(QMessageBox::Discard);
   dialogs.expectFiles("Open Seismic Trace", {shotFile("new.dat")});
   action("actionNew").trigger();
-  EXPECT_THAT(window->document().traceSets, SizeIs(1));
+  EXPECT_THAT(window->document().recordings->traceSets, SizeIs(1));
   EXPECT_EQ(window->currentFile(), 0);
 }
 
 TEST_F(Survey, staysWhenNewFindsNoFilesToTakeItsPlace) {
   loadShots(2);
   const auto expectAsItWas = [this] {
-    EXPECT_THAT(window->document().traceSets, SizeIs(2));
+    EXPECT_THAT(window->document().recordings->traceSets, SizeIs(2));
     EXPECT_EQ(window->currentFile(), 0);
     EXPECT_TRUE(window->isWindowModified());
   };
@@ -168,7 +169,8 @@ TEST_F(Survey, isChosenAndEditedInItsCurvesToo) {
   loadShots(2);
   for (TravelTime& record : window->document().ttArray) {
     for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
-      record.ttMisurati[i] = 0.02 + 0.002 * static_cast<double>(i) + 0.01 * record.traceSetID;
+      record.ttMisurati.edit()[i] =
+          0.02 + 0.002 * static_cast<double>(i) + 0.01 * record.traceSetID;
     }
   }
   window->showFile(0);

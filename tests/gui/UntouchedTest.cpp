@@ -1,4 +1,8 @@
 #include "gui/WindowTest.h"
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/TestSurveys.h"
 #include "tomo/GridSetup.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -25,19 +29,19 @@ class Untouched : public WindowTest {
     TomoDocument& document = window->document();
     document.title = "A line at 12.5 m";
     // Positions that no field shows with all digits.
-    document.goephonesStringSet[0][3] = {16.0 + 1.0 / 3.0, 100.123456789};
-    document.ttArray[1].shotPos2d = {13.0 + 1.0 / 7.0, 99.5};
+    document.line.edit().goephonesStringSet[0][3] = {16.0 + 1.0 / 3.0, 100.123456789};
+    document.ttArray.edit()[1].shotPos2d = {13.0 + 1.0 / 7.0, 99.5};
     for (TravelTime& record : document.ttArray) {
       for (double& time : record.ttMisurati) time = 0.01;
     }
-    document.geoCoord = {32632, 500000.123456789, 500022.0, 5000000.1, 5000000.0};
-    document.geoCoord_isSet = true;
+    document.map.edit().geoCoord = {32632, 500000.123456789, 500022.0, 5000000.1, 5000000.0};
+    document.map.edit().geoCoord_isSet = true;
     testing::putGrid(document, 10.0, 1.0);
     EXPECT_TRUE(applyLayers(document, {{0.0, 300.0, 10.0, 2500.0}}).ok());
     answer();
     action("actionShow_Contour_Lines").trigger();  // the first time proposes some
-    document.has_tomographic_info = true;
-    document.RMSE_tomography = 0.02;
+    document.result.edit().has_tomographic_info = true;
+    document.result.edit().RMSE_tomography = 0.02;
     document.modified = false;
     window->showFile(0);
   }
@@ -61,7 +65,7 @@ class Untouched : public WindowTest {
 
 TEST_F(Untouched, dialogsLeaveTheSurveyAsItIs) {
   const TomoDocument& document = window->document();
-  const std::vector<double> slownesses = document.grid->slownesses();
+  const std::vector<double> slownesses = document.model->grid->slownesses();
   const QUndoStack& edits = *child<editTravelTimesWidget>("showTracesWidget").undoStack();
   const int steps = edits.count();
   for (const char* command :
@@ -72,12 +76,12 @@ TEST_F(Untouched, dialogsLeaveTheSurveyAsItIs) {
     action(command).trigger();
     EXPECT_TRUE(dialogs.finished()) << command;
     EXPECT_FALSE(document.modified) << command;
-    EXPECT_TRUE(document.has_tomographic_info) << command;
+    EXPECT_TRUE(document.result->has_tomographic_info) << command;
     EXPECT_EQ(edits.count(), steps) << command;
   }
-  EXPECT_EQ(document.grid->slownesses(), slownesses);
-  EXPECT_EQ(document.goephonesStringSet[0][3].z, 100.123456789);
-  EXPECT_EQ(document.geoCoord.mEastFstGeoph, 500000.123456789);
+  EXPECT_EQ(document.model->grid->slownesses(), slownesses);
+  EXPECT_EQ(document.line->goephonesStringSet[0][3].z, 100.123456789);
+  EXPECT_EQ(document.map->geoCoord.mEastFstGeoph, 500000.123456789);
 }
 
 TEST_F(Untouched, layersGoIntoTheGridAgainOnlyWhenTheUserSaysSo) {
@@ -85,12 +89,12 @@ TEST_F(Untouched, layersGoIntoTheGridAgainOnlyWhenTheUserSaysSo) {
   answer();
   expectLayersAgain(QMessageBox::No);
   action("actionDefine_model_velocity").trigger();
-  EXPECT_TRUE(document.has_tomographic_info && !document.modified);
+  EXPECT_TRUE(document.result->has_tomographic_info && !document.modified);
 
   answer();
   expectLayersAgain(QMessageBox::Yes);
   action("actionDefine_model_velocity").trigger();
-  EXPECT_FALSE(document.has_tomographic_info);
+  EXPECT_FALSE(document.result->has_tomographic_info);
   EXPECT_TRUE(document.modified);
 
   document.modified = false;
@@ -104,13 +108,13 @@ TEST_F(Untouched, gridIsBuiltAgainOnlyWhenTheUserSaysSo) {
   answer();
   action("actionGrid").trigger();  // now it has what the dialog proposes
   const double slowness = 1.0 / 777.0;
-  document.grid->setSlowness(0, slowness);
+  document.model.edit().editGrid().setSlowness(0, slowness);
   for (const auto again : {QMessageBox::No, QMessageBox::Yes}) {
     document.modified = false;
     answer();
     dialogs.expectBox("Warning", "The grid has these cells already.", "build it anew", again);
     action("actionGrid").trigger();
-    EXPECT_EQ(document.grid->slowness(0) == slowness, again == QMessageBox::No);
+    EXPECT_EQ(document.model->grid->slowness(0) == slowness, again == QMessageBox::No);
     EXPECT_EQ(document.modified, again == QMessageBox::Yes);
   }
 }

@@ -1,5 +1,6 @@
 #include "gui/WindowTest.h"
 
+#include "model/Recordings.h"
 #include "support/ShotDocument.h"
 #include "support/ShotFiles.h"
 
@@ -73,7 +74,7 @@ void WindowTest::loadShots(int count) {
     files << shotFile("shot" + std::to_string(i + 1) + ".dat", 9.0 + 4.0 * i);
   }
   window->openFiles(files);
-  ASSERT_EQ(window->document().traceSets.size(), static_cast<std::size_t>(count));
+  ASSERT_EQ(window->document().recordings->traceSets.size(), static_cast<std::size_t>(count));
 }
 
 }  // namespace talvesk::testing

@@ -1,5 +1,9 @@
 #include "Samples.h"
 #include "io/TravelTimeFile.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 #include "support/TestGrids.h"
@@ -27,51 +31,50 @@ TravelTimeData sample() {
 /// A document with a grid and the results of an inversion.
 TomoDocument inverted(std::size_t shots, std::size_t traces) {
   TomoDocument document;
-  document.traceSets.assign(shots, TraceSet(traces));
-  document.filenames.assign(shots, "shot.dat");
-  document.goephonesStringSet = {{{0, 1}, {1, 1}}, {{2, 1}}};
+  document.recordings.edit().traceSets.assign(shots, TraceSet(traces));
+  document.recordings.edit().filenames.assign(shots, "shot.dat");
+  document.line.edit().goephonesStringSet = {{{0, 1}, {1, 1}}, {{2, 1}}};
   for (std::size_t i = 0; i < shots; ++i) {
     TravelTime record;
     record.traceSetID = static_cast<int>(i);
-    record.ttMisurati.assign(traces, kUnpicked);
-    record.ttCalcolati.assign(traces, 0.5);
-    document.ttArray.push_back(record);
+    record.ttMisurati.edit().assign(traces, kUnpicked);
+    record.ttCalcolati.edit().assign(traces, 0.5);
+    document.ttArray.edit().push_back(record);
   }
-  document.grid = roughGrid({2, 2, 3, 5.0}, 0.0);
-  document.proposedCellSizes = {5.0};
-  document.has_tomographic_info = true;
-  document.RMSE_tomography = 3.0;
-  document.info_density = {1.0};
-  document.rays = {{1, 2}};
-  document.hitCounts = {1};
-  document.coorcount = {1.0};
-  document.excluded = {{0, 1, 2.0}};
-  document.layers.resize(1);
+  document.model.edit().grid = roughGrid({2, 2, 3, 5.0}, 0.0);
+  document.model.edit().proposedCellSizes = {5.0};
+  document.result.edit().has_tomographic_info = true;
+  document.result.edit().RMSE_tomography = 3.0;
+  document.result.edit().info_density = {1.0};
+  document.result.edit().rays = {{1, 2}};
+  document.result.edit().hitCounts = {1};
+  document.result.edit().coorcount = {1.0};
+  document.result.edit().excluded = {{0, 1, 2.0}};
+  document.model.edit().layers.resize(1);
   return document;
 }
 
 void expectNoModel(const TomoDocument& document) {
-  EXPECT_EQ(document.grid, nullptr);
-  EXPECT_FALSE(document.has_tomographic_info);
-  EXPECT_EQ(document.RMSE_tomography, -1.0);
-  EXPECT_TRUE(document.info_density.empty() && document.rays.empty());
-  EXPECT_TRUE(document.hitCounts.empty() && document.coorcount.empty());
-  EXPECT_TRUE(document.excluded.empty() && document.proposedCellSizes.empty());
+  EXPECT_EQ(document.model->grid, nullptr);
+  EXPECT_FALSE(document.result->has_tomographic_info);
+  EXPECT_EQ(document.result->RMSE_tomography, -1.0);
+  EXPECT_TRUE(document.result->info_density.empty() && document.result->rays.empty());
+  EXPECT_TRUE(document.result->hitCounts.empty() && document.result->coorcount.empty());
+  EXPECT_TRUE(document.result->excluded.empty() && document.model->proposedCellSizes.empty());
 }
 
 TEST(Import, replacesASurveyWithoutTraces) {
   TomoDocument document = inverted(5, 2);
-  document.traceSets.clear();
+  document.recordings.edit().traceSets.clear();
   document.title = "line 4";
   ASSERT_TRUE(importTravelTimes(sample(), document).ok());
-  EXPECT_EQ(document.goephonesStringSet.size(), 1u);
+  EXPECT_EQ(document.line->goephonesStringSet.size(), 1u);
   EXPECT_EQ(document.ttArray.size(), 2u);
-  EXPECT_THAT(document.shotPositions, ElementsAre(-2.5, 12.5));
-  EXPECT_THAT(document.filenames, IsEmpty());
-  EXPECT_THAT(document.layers, IsEmpty());
+  EXPECT_THAT(document.line->shotPositions, ElementsAre(-2.5, 12.5));
+  EXPECT_THAT(document.recordings->filenames, IsEmpty());
+  EXPECT_THAT(document.model->layers, IsEmpty());
   EXPECT_EQ(document.title, "line 4");
   expectNoModel(document);
-  EXPECT_TRUE(document.modified);
 }
 
 TEST(Import, fillsTheRecordsByTheirTraceSet) {
@@ -84,20 +87,19 @@ TEST(Import, fillsTheRecordsByTheirTraceSet) {
   EXPECT_THAT(document.ttArray[1].ttCalcolati, ElementsAre(kNoTime, kNoTime, kNoTime));
   EXPECT_EQ(document.ttArray[0].traceSetID, 0);
   EXPECT_EQ(document.ttArray[0].shotPos2d, (Point2D{-2.5, 99}));
-  EXPECT_THAT(document.shotPositions, ElementsAre(-2.5, 12.5));
-  EXPECT_EQ(document.goephonesStringSet, sample().strings);
-  EXPECT_EQ(document.traceSets.size(), 2u);
-  EXPECT_EQ(document.filenames.size(), 2u);
-  EXPECT_EQ(document.layers.size(), 1u);
+  EXPECT_THAT(document.line->shotPositions, ElementsAre(-2.5, 12.5));
+  EXPECT_EQ(document.line->goephonesStringSet, sample().strings);
+  EXPECT_EQ(document.recordings->traceSets.size(), 2u);
+  EXPECT_EQ(document.recordings->filenames.size(), 2u);
+  EXPECT_EQ(document.model->layers.size(), 1u);
   expectNoModel(document);
-  EXPECT_TRUE(document.modified);
 }
 
 TEST(Import, dropsPicksBeyondTheRecordsOfTheTracesTheyBelongTo) {
   TomoDocument document = inverted(2, 3);
-  for (TraceSet& set : document.traceSets) {
+  for (TraceSet& set : document.recordings.edit().traceSets) {
     for (Trace& trace : set) {
-      trace.samples.assign(25, 0.0);
+      trace.samples.edit().assign(25, 0.0);
       trace.sampleInterval = 0.001;
     }
   }
@@ -110,29 +112,30 @@ TEST(Import, dropsPicksBeyondTheRecordsOfTheTracesTheyBelongTo) {
 
 TEST(Import, keepsTheGridWhenOnlyTimesChange) {
   TomoDocument document = inverted(2, 3);
-  document.goephonesStringSet = sample().strings;
-  for (std::size_t i = 0; i < 2; ++i) document.ttArray[i].shotPos2d = sample().records[i].shotPos2d;
+  document.line.edit().goephonesStringSet = sample().strings;
+  for (std::size_t i = 0; i < 2; ++i)
+    document.ttArray.edit()[i].shotPos2d = sample().records[i].shotPos2d;
   ASSERT_TRUE(importTravelTimes(sample(), document).ok());
   EXPECT_THAT(document.ttArray[0].ttMisurati, ElementsAre(0.0055, 0.01025, kNoTime));
   EXPECT_THAT(document.ttArray[0].ttCalcolati, ElementsAre(0.5, 0.5, 0.5));
-  EXPECT_NE(document.grid, nullptr);
-  EXPECT_TRUE(document.has_tomographic_info);
+  EXPECT_NE(document.model->grid, nullptr);
+  EXPECT_TRUE(document.result->has_tomographic_info);
 }
 
 /// A survey that has been inverted, with positions that take more digits than a file has.
 TomoDocument invertedLine(bool traces) {
   TomoDocument line = testLine(12, 2.0123456, {-1.0654321, 11.0}, 1.0);
-  for (TravelTime& record : line.ttArray) {
-    record.ttMisurati.assign(12, 0.01);
-    record.ttCalcolati.assign(12, 0.012);
+  for (TravelTime& record : line.ttArray.edit()) {
+    record.ttMisurati.edit().assign(12, 0.01);
+    record.ttCalcolati.edit().assign(12, 0.012);
   }
-  if (traces) line.traceSets.assign(2, TraceSet(12));
+  if (traces) line.recordings.edit().traceSets.assign(2, TraceSet(12));
   putGrid(line, 6.0, 1.0);
-  line.grid->setSlowness(5, 1.0 / 777.0);
-  line.has_tomographic_info = true;
-  line.RMSE_tomography = 3.0;
-  line.rays = {{1, 2}};
-  line.layers.resize(1);
+  line.model.edit().editGrid().setSlowness(5, 1.0 / 777.0);
+  line.result.edit().has_tomographic_info = true;
+  line.result.edit().RMSE_tomography = 3.0;
+  line.result.edit().rays = {{1, 2}};
+  line.model.edit().layers.resize(1);
   return line;
 }
 
@@ -142,8 +145,8 @@ TravelTimeData writtenAfter(const TomoDocument& line,
   const TestFolder folder;
   const ConsoleCapture console;
   TomoDocument other;
-  other.goephonesStringSet = line.goephonesStringSet;
-  other.ttArray = line.ttArray;
+  other.line.edit().goephonesStringSet = line.line->goephonesStringSet;
+  other.ttArray.edit() = line.ttArray;
   if (change) change(other);
   TravelTimeData data;
   EXPECT_TRUE(writeTravelTimes(folder.file("out.otte"), other).ok());
@@ -154,20 +157,21 @@ TravelTimeData writtenAfter(const TomoDocument& line,
 TEST(Import, countsPositionsEqualToTheDigitsOfTheFileAsUnmoved) {
   for (const bool traces : {true, false}) {
     TomoDocument line = invertedLine(traces);
-    TravelTimeData data =
-        writtenAfter(line, [](TomoDocument& other) { other.ttArray[1].ttMisurati[3] = 0.02; });
-    ASSERT_NE(data.strings, line.goephonesStringSet) << "digits are gone";
-    const auto positions = line.goephonesStringSet;
+    TravelTimeData data = writtenAfter(
+        line, [](TomoDocument& other) { other.ttArray.edit()[1].ttMisurati.edit()[3] = 0.02; });
+    ASSERT_NE(data.strings, line.line->goephonesStringSet) << "digits are gone";
+    const auto positions = line.line->goephonesStringSet;
     ImportCost cost;
     ASSERT_TRUE(checkImport(data, line, cost).ok());
     EXPECT_EQ(cost.model, ModelLoss::kNothing);
     EXPECT_FALSE(cost.survey);
     ASSERT_TRUE(importTravelTimes(std::move(data), line).ok());
-    EXPECT_EQ(line.goephonesStringSet, positions);
+    EXPECT_EQ(line.line->goephonesStringSet, positions);
     EXPECT_EQ(line.ttArray[0].shotPos2d.x, -1.0654321);
     EXPECT_DOUBLE_EQ(line.ttArray[1].ttMisurati[3], 0.02);
     EXPECT_EQ(line.ttArray[1].ttCalcolati[3], 0.012);
-    EXPECT_TRUE(line.grid != nullptr && line.has_tomographic_info && line.layers.size() == 1U);
+    EXPECT_TRUE(line.model->grid != nullptr && line.result->has_tomographic_info &&
+                line.model->layers.size() == 1U);
   }
 }
 
@@ -179,7 +183,7 @@ TEST(Import, keepsTheGridUnderTheSameSurfaceAndForgetsItUnderAnother) {
   } cases[] = {
       {"a shot at another geophone",
        [](TravelTimeData& d) {
-         d.records[1].shotPos2d = invertedLine(true).goephonesStringSet[0][5];
+         d.records[1].shotPos2d = invertedLine(true).line->goephonesStringSet[0][5];
        },
        ModelLoss::kResults},
       {"a shot above the ground", [](TravelTimeData& d) { d.records[1].shotPos2d.z += 0.5; },
@@ -193,7 +197,7 @@ TEST(Import, keepsTheGridUnderTheSameSurfaceAndForgetsItUnderAnother) {
       SCOPED_TRACE(c.name);
       TomoDocument line = invertedLine(traces);
       // At a geophone it bends no surface that others do not bend as well.
-      line.ttArray[1].shotPos2d = line.goephonesStringSet[0][6];
+      line.ttArray.edit()[1].shotPos2d = line.line->goephonesStringSet[0][6];
       TravelTimeData data = writtenAfter(line);
       c.change(data);
       ImportCost cost;
@@ -201,14 +205,15 @@ TEST(Import, keepsTheGridUnderTheSameSurfaceAndForgetsItUnderAnother) {
       EXPECT_EQ(cost.model, c.loss);
       EXPECT_EQ(cost.survey, !traces) << "without traces it is another survey";
       ASSERT_TRUE(importTravelTimes(std::move(data), line).ok());
-      EXPECT_FALSE(line.has_tomographic_info);
-      EXPECT_TRUE(line.rays.empty());
+      EXPECT_FALSE(line.result->has_tomographic_info);
+      EXPECT_TRUE(line.result->rays.empty());
       EXPECT_EQ(line.ttArray[0].ttCalcolati, std::vector<double>(12, kNoTime));
-      ASSERT_EQ(line.grid != nullptr, c.loss == ModelLoss::kResults);
-      if (line.grid == nullptr) continue;
-      EXPECT_EQ(line.grid->slowness(5), 1.0 / 777.0);
-      EXPECT_EQ(line.info_density, std::vector<double>(line.grid->cellCount(), -1.0));
-      EXPECT_EQ(line.layers.size(), 1U);
+      ASSERT_EQ(line.model->grid != nullptr, c.loss == ModelLoss::kResults);
+      if (line.model->grid == nullptr) continue;
+      EXPECT_EQ(line.model->grid->slowness(5), 1.0 / 777.0);
+      EXPECT_EQ(line.result->info_density,
+                std::vector<double>(line.model->grid->cellCount(), -1.0));
+      EXPECT_EQ(line.model->layers.size(), 1U);
     }
   }
 }
@@ -216,17 +221,16 @@ TEST(Import, keepsTheGridUnderTheSameSurfaceAndForgetsItUnderAnother) {
 TEST(Import, givesGeophonesWithoutShotsTheirFirst) {
   TomoDocument line = invertedLine(false);
   const TravelTimeData data = writtenAfter(line);
-  line.ttArray.clear();
+  line.ttArray.edit().clear();
   ASSERT_TRUE(importTravelTimes(data, line).ok());
   EXPECT_EQ(line.ttArray.size(), 2U);
 }
 
 void expectUntouched(const TomoDocument& document, std::size_t shots, std::size_t traces) {
-  EXPECT_FALSE(document.modified);
-  EXPECT_NE(document.grid, nullptr);
-  EXPECT_EQ(document.RMSE_tomography, 3.0);
-  EXPECT_EQ(document.goephonesStringSet.size(), 2u);
-  EXPECT_THAT(document.shotPositions, IsEmpty());
+  EXPECT_NE(document.model->grid, nullptr);
+  EXPECT_EQ(document.result->RMSE_tomography, 3.0);
+  EXPECT_EQ(document.line->goephonesStringSet.size(), 2u);
+  EXPECT_THAT(document.line->shotPositions, IsEmpty());
   ASSERT_EQ(document.ttArray.size(), shots);
   for (const TravelTime& record : document.ttArray) {
     EXPECT_EQ(record.ttMisurati, std::vector<double>(traces, kUnpicked));

@@ -1,5 +1,6 @@
 #include "Samples.h"
 #include "io/OtteFile.h"
+#include "model/SurveyLine.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 
@@ -21,7 +22,7 @@ TomoDocument survey(const std::vector<std::size_t>& sizes, const std::vector<int
   TomoDocument document;
   double x = -1.0 / 3.0;
   for (const std::size_t size : sizes) {
-    auto& string = document.goephonesStringSet.emplace_back();
+    auto& string = document.line.edit().goephonesStringSet.emplace_back();
     for (std::size_t i = 0; i < size; ++i, x += 2.0) string.push_back({x, 600.0 + std::sin(x)});
   }
   for (const int string : shots) {
@@ -30,9 +31,9 @@ TomoDocument survey(const std::vector<std::size_t>& sizes, const std::vector<int
     record.traceSetID = static_cast<int>(document.ttArray.size());
     record.shotPos2d = {7.0 * record.traceSetID + 1e-7, 601.25};
     for (std::size_t i = 0; i < sizes[static_cast<std::size_t>(string)]; ++i) {
-      record.ttMisurati.push_back(i % 7 == 3 ? kNoTime : 0.001 * std::sqrt(3.0 * double(i)));
+      record.ttMisurati.edit().push_back(i % 7 == 3 ? kNoTime : 0.001 * std::sqrt(3.0 * double(i)));
     }
-    document.ttArray.push_back(record);
+    document.ttArray.edit().push_back(record);
   }
   return document;
 }
@@ -52,8 +53,8 @@ TEST(OtteWriter, writesEveryLineOfTheFormat) {
   TravelTimeData data;
   ASSERT_TRUE(parseTravelTimes(kOtte, "a.otte", data).ok());
   TomoDocument document;
-  document.goephonesStringSet = data.strings;
-  document.ttArray = data.records;
+  document.line.edit().goephonesStringSet = data.strings;
+  document.ttArray.edit() = data.records;
   EXPECT_EQ(formatOtte(document), kOtte);
 }
 
@@ -69,8 +70,8 @@ TEST(OtteWriter, writesWhatTheReaderRestores) {
   EXPECT_THAT(sizesOf(data.strings), ElementsAre(24, 24));
   for (std::size_t s = 0; s < 2; ++s) {
     for (std::size_t i = 0; i < 24; ++i) {
-      expectSixDigits(data.strings[s][i].x, document.goephonesStringSet[s][i].x);
-      expectSixDigits(data.strings[s][i].z, document.goephonesStringSet[s][i].z);
+      expectSixDigits(data.strings[s][i].x, document.line->goephonesStringSet[s][i].x);
+      expectSixDigits(data.strings[s][i].z, document.line->goephonesStringSet[s][i].z);
     }
   }
   ASSERT_EQ(data.records.size(), 5u);
@@ -100,7 +101,8 @@ TEST(OtteWriter, restoresAnEmptySurveyAndOneWithoutShots) {
 TEST(OtteWriter, writesATimeThatIsNotFiniteAsNoPick) {
   const ConsoleCapture console;
   TomoDocument document = survey({4}, {0});
-  document.ttArray[0].ttMisurati = {std::nan(""), HUGE_VAL, 1e308, 2.2250738585072014e-311};
+  document.ttArray.edit()[0].ttMisurati.edit() = {std::nan(""), HUGE_VAL, 1e308,
+                                                  2.2250738585072014e-311};
   TravelTimeData data;
   ASSERT_TRUE(parseTravelTimes(formatOtte(document), "a.otte", data).ok());
   EXPECT_THAT(data.records[0].ttMisurati, ElementsAre(kNoTime, kNoTime, kNoTime, 0.0));
@@ -112,7 +114,8 @@ TEST(OtteWriter, leavesTheOldFileWhenAPositionIsNotFinite) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   for (const bool ofShot : {false, true}) {
     TomoDocument document = survey({2, 2}, {0, 1});
-    (ofShot ? document.ttArray[1].shotPos2d.z : document.goephonesStringSet[1][0].x) = nan;
+    (ofShot ? document.ttArray.edit()[1].shotPos2d.z
+            : document.line.edit().goephonesStringSet[1][0].x) = nan;
     const ConsoleCapture console;
     const Status status = writeTravelTimes(path, document);
     EXPECT_THAT(status.message(), HasSubstr(ofShot ? "shot 2 has" : "a geophone of string 2 has"));

@@ -83,7 +83,7 @@ TEST_F(ProjectTest, knowsAfterLoadingWhetherPicksChangedSinceTheProfile) {
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
   EXPECT_FALSE(picksChangedSince(back.document, back.interpretation.refractData));
 
-  project.document.ttArray[0].ttMisurati[2] += 1e-6;
+  project.document.ttArray.edit()[0].ttMisurati.edit()[2] += 1e-6;
   ASSERT_EQ(save(), 0);
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
   EXPECT_TRUE(picksChangedSince(back.document, back.interpretation.refractData));

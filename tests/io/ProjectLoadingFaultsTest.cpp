@@ -1,3 +1,5 @@
+#include "model/Recordings.h"
+#include "model/TomographyOutcome.h"
 #include "support/FileLimit.h"
 #include "support/TestProjects.h"
 
@@ -283,7 +285,7 @@ TEST_F(LoadingFaults, areNoneOfAPaletteIndexOrSettingsThatDoNotExist) {
   EXPECT_EQ(back.section.quantity, SectionQuantity::kVelocity);
   EXPECT_EQ(back.section.verticalExaggeration, 1.0);
   EXPECT_EQ(back.section.contours.numberOfValues, 1);
-  EXPECT_EQ(back.document.RMSE_tomography, -1.0);
+  EXPECT_EQ(back.document.result->RMSE_tomography, -1.0);
 }
 
 TEST_F(LoadingFaults, areNoneOfOneVelocityPerRefractor) {
@@ -302,7 +304,7 @@ TEST_F(LoadingFaults, areNoneOfAPairThatIsNone) {
   entries["traces.xml"] = with(entries["traces.xml"], "<kind>3", "<kind>2");
   LoadedProject back;
   ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
-  EXPECT_EQ(back.document.traceSets[0][0].waveKind, Trace::kFromFile);
+  EXPECT_EQ(back.document.recordings->traceSets[0][0].waveKind, Trace::kFromFile);
 }
 
 /// Whatever a project calls its shot files, with or without samples of its own, saving it again
@@ -322,8 +324,8 @@ TEST_F(LoadingFaults, areNoneOfShotFilesElsewhereAndNoneOfTheseIsEverCopied) {
       ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
       EXPECT_THAT(reader.repairs().at(0), HasSubstr("shot 1: "));
       EXPECT_THAT(reader.repairs().at(0), HasSubstr('"' + name + '"'));
-      EXPECT_EQ(back.document.filenames[0], "") << name;
-      EXPECT_EQ(back.document.traceSets[0][0].samples.empty(), member == sound) << name;
+      EXPECT_EQ(back.document.recordings->filenames[0], "") << name;
+      EXPECT_EQ(back.document.recordings->traceSets[0][0].samples.empty(), member == sound) << name;
       ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
       EXPECT_THAT(writer.warnings(), IsEmpty());
       const auto saved = entriesOf(folder.file("again.tvsk"));
@@ -341,8 +343,8 @@ TEST_F(LoadingFaults, areNoneOfPairsWithAFileElsewhere) {
   LoadedProject back;
   ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
   EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("\"/etc/passwd\"")));
-  EXPECT_EQ(back.document.filenames_SX[0], "");
-  EXPECT_THAT(back.document.traceSets[0][0].samples, SizeIs(40));  // of the other name
+  EXPECT_EQ(back.document.recordings->filenames_SX[0], "");
+  EXPECT_THAT(back.document.recordings->traceSets[0][0].samples, SizeIs(40));  // of the other name
 }
 
 TEST_F(LoadingFaults, areNoneOfPicksThatCannotBe) {

@@ -1,3 +1,4 @@
+#include "model/GroundModel.h"
 #include "support/TestProjects.h"
 
 #include <gmock/gmock.h>
@@ -16,8 +17,8 @@ class Repairs : public ProjectTest {
   Repairs() {
     TomoDocument& document = project.document;
     document.title = "Line 7";
-    document.layers.push_back({0.0, 500.0, 10.0, 1500.0});
-    document.proposedCellSizes = {1.25};
+    document.model.edit().layers.push_back({0.0, 500.0, 10.0, 1500.0});
+    document.model.edit().proposedCellSizes = {1.25};
     putGrid(document, 6, 2);
     refractionDataStructure::computedData refractor;
     refractor.x = {0, 5};

@@ -1,3 +1,4 @@
+#include "model/Recordings.h"
 #include "support/FileLimit.h"
 #include "support/TestProjects.h"
 
@@ -248,7 +249,8 @@ TEST_F(SavingFaults, neverLeaveTheNameWithoutAWholeProject) {
     ASSERT_EQ(::waitpid(child, nullptr, 0), child);
     LoadedProject back;
     ASSERT_EQ(load(archive(), back), 0) << "kill " << i << ": " << reader.message();
-    EXPECT_EQ(back.document.traceSets.size(), project.document.traceSets.size());
+    EXPECT_EQ(back.document.recordings->traceSets.size(),
+              project.document.recordings->traceSets.size());
   }
   EXPECT_EQ(missing, 0);
   ASSERT_EQ(save(), 0);

@@ -1,5 +1,9 @@
 #include "io/ProjectSnapshot.h"
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
 #include "model/Residuals.h"
+#include "model/TomographyOutcome.h"
 #include "processing/ShotTime.h"
 #include "support/TestProjects.h"
 #include "tomo/RayRecomputation.h"
@@ -60,13 +64,14 @@ void interpret(LoadedProject& project) {
 TEST_F(ProjectTest, comesBackAsItWasSaved) {
   TomoDocument& document = project.document;
   countTimeFromShot(document);
-  for (Trace& trace : document.traceSets[1]) trace.filtered = trace.samples;
-  document.traceSets[1][2].filtered[3] = 0.1;
+  for (Trace& trace : document.recordings.edit().traceSets[1])
+    trace.filtered.edit() = trace.samples.edit();
+  document.recordings.edit().traceSets[1][2].filtered.edit()[3] = 0.1;
   document.title = "Strada <Nord> & Süd ";
-  document.geoCoord = {32632, 500000.25, 500100, 5000000, 5000001};
-  document.geoCoord_isSet = true;
-  document.minVelocity = 300;
-  document.layers = {{0, 300, 5, 900}};
+  document.map.edit().geoCoord = {32632, 500000.25, 500100, 5000000, 5000001};
+  document.map.edit().geoCoord_isSet = true;
+  document.model.edit().minVelocity = 300;
+  document.model.edit().layers = {{0, 300, 5, 900}};
   invert(document);
   interpret(project);
   project.palettes.select(3);
@@ -80,30 +85,31 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
   EXPECT_THAT(reader.warnings(), IsEmpty());
-  EXPECT_FALSE(back.document.modified);
   EXPECT_EQ(back.document.title, document.title);
-  EXPECT_EQ(back.document.geoCoord.CRS, 32632);
-  ASSERT_THAT(back.document.traceSets, SizeIs(3));
-  const Trace& trace = back.document.traceSets[1][2];
-  EXPECT_EQ(trace.samples, document.traceSets[1][2].samples);
+  EXPECT_EQ(back.document.map->geoCoord.CRS, 32632);
+  ASSERT_THAT(back.document.recordings->traceSets, SizeIs(3));
+  const Trace& trace = back.document.recordings->traceSets[1][2];
+  EXPECT_EQ(trace.samples, document.recordings->traceSets[1][2].samples);
   EXPECT_EQ(trace.droppedSamples, 2U);
   EXPECT_EQ(trace.delay, -0.002);
-  EXPECT_EQ(trace.filtered, document.traceSets[1][2].filtered);
-  EXPECT_THAT(back.document.traceSets[0][0].filtered, IsEmpty());
+  EXPECT_EQ(trace.filtered, document.recordings->traceSets[1][2].filtered);
+  EXPECT_THAT(back.document.recordings->traceSets[0][0].filtered, IsEmpty());
   EXPECT_EQ(back.document.ttArray[2].ttMisurati, document.ttArray[2].ttMisurati);
   EXPECT_EQ(back.document.ttArray[2].ttCalcolati, document.ttArray[2].ttCalcolati);
-  ASSERT_NE(back.document.grid, nullptr);
-  EXPECT_EQ(back.document.grid->velocities(), document.grid->velocities());
-  EXPECT_EQ(back.document.xOffset, document.xOffset);
-  EXPECT_EQ(back.document.surface.Y(), document.surface.Y());
-  EXPECT_EQ(back.document.info_density, document.info_density);
-  EXPECT_EQ(back.document.coverageLimit.size(), document.coverageLimit.size());
-  EXPECT_EQ(back.document.coverageSpline.has_value(), document.coverageSpline.has_value());
-  EXPECT_TRUE(back.document.has_tomographic_info);
-  ASSERT_TRUE(back.document.lastInversion);
-  EXPECT_EQ(back.document.lastInversion->externalIterations, 2);
-  ASSERT_THAT(back.document.lastInversion->history, SizeIs(2));
-  EXPECT_EQ(back.document.lastInversion->history[1].rmse, document.lastInversion->history[1].rmse);
+  ASSERT_NE(back.document.model->grid, nullptr);
+  EXPECT_EQ(back.document.model->grid->velocities(), document.model->grid->velocities());
+  EXPECT_EQ(back.document.model->xOffset, document.model->xOffset);
+  EXPECT_EQ(back.document.model->surface.Y(), document.model->surface.Y());
+  EXPECT_EQ(back.document.result->info_density, document.result->info_density);
+  EXPECT_EQ(back.document.result->coverageLimit.size(), document.result->coverageLimit.size());
+  EXPECT_EQ(back.document.result->coverageSpline.has_value(),
+            document.result->coverageSpline.has_value());
+  EXPECT_TRUE(back.document.result->has_tomographic_info);
+  ASSERT_TRUE(back.document.result->lastInversion);
+  EXPECT_EQ(back.document.result->lastInversion->externalIterations, 2);
+  ASSERT_THAT(back.document.result->lastInversion->history, SizeIs(2));
+  EXPECT_EQ(back.document.result->lastInversion->history[1].rmse,
+            document.result->lastInversion->history[1].rmse);
   EXPECT_EQ(back.interpretation.ttLayer[1].layer, project.interpretation.ttLayer[1].layer);
   EXPECT_FALSE(back.interpretation.ttLayer[1].enabled);
   EXPECT_EQ(back.interpretation.refractData.cData[0].chosenXY, 2.0);
@@ -115,7 +121,8 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
 
 TEST_F(ProjectTest, isTheSameByteForByteAfterLoadingAndSavingAgain) {
   countTimeFromShot(project.document);
-  for (Trace& trace : project.document.traceSets[0]) trace.filtered = trace.samples;
+  for (Trace& trace : project.document.recordings.edit().traceSets[0])
+    trace.filtered.edit() = trace.samples.edit();
   invert(project.document);
   interpret(project);
   ASSERT_EQ(save(), 0);
@@ -130,9 +137,10 @@ TEST_F(ProjectTest, isTheSameByteForByteAfterLoadingAndSavingAgain) {
 }
 
 TEST_F(ProjectTest, isTheSameByteForByteWhenItIsSavedFromASnapshot) {
-  for (Trace& trace : project.document.traceSets[1]) trace.filtered = trace.samples;
-  project.document.traceSets.emplace_back();
-  project.document.ttArray.emplace_back().traceSetID = 3;
+  for (Trace& trace : project.document.recordings.edit().traceSets[1])
+    trace.filtered.edit() = trace.samples.edit();
+  project.document.recordings.edit().traceSets.emplace_back();
+  project.document.ttArray.edit().emplace_back().traceSetID = 3;
   invert(project.document);
   interpret(project);
   ASSERT_EQ(save(), 0);
@@ -149,7 +157,7 @@ TEST_F(ProjectTest, isTheSameByteForByteWhenItIsSavedFromASnapshot) {
 TEST_F(ProjectTest, tellsTheSameFiguresOfItsSectionBeforeAndAfter) {
   TomoDocument& document = project.document;
   invert(document);
-  document.smoothedResult = true;
+  document.result.edit().smoothedResult = true;
   ASSERT_EQ(save(), 0) << console.error();
   LoadedProject loaded;
   ASSERT_EQ(load(archive(), loaded), 0) << reader.message();
@@ -160,35 +168,36 @@ TEST_F(ProjectTest, tellsTheSameFiguresOfItsSectionBeforeAndAfter) {
   EXPECT_EQ(after.rmse, before.rmse);
   EXPECT_EQ(after.bias, before.bias);
   EXPECT_EQ(after.maxReceiver, before.maxReceiver);
-  ASSERT_THAT(back.lastInversion->sectionHistory, SizeIs(3));
-  EXPECT_EQ(back.lastInversion->sectionHistory[0].rmse,
-            document.lastInversion->sectionHistory[0].rmse);
-  EXPECT_EQ(back.lastInversion->computingSeconds, document.lastInversion->computingSeconds);
-  EXPECT_EQ(back.hitCounts, document.hitCounts);
-  EXPECT_EQ(back.coorcount, document.coorcount);
-  EXPECT_TRUE(back.smoothedResult);
+  ASSERT_THAT(back.result->lastInversion->sectionHistory, SizeIs(3));
+  EXPECT_EQ(back.result->lastInversion->sectionHistory[0].rmse,
+            document.result->lastInversion->sectionHistory[0].rmse);
+  EXPECT_EQ(back.result->lastInversion->computingSeconds,
+            document.result->lastInversion->computingSeconds);
+  EXPECT_EQ(back.result->hitCounts, document.result->hitCounts);
+  EXPECT_EQ(back.result->coorcount, document.result->coorcount);
+  EXPECT_TRUE(back.result->smoothedResult);
   EXPECT_FALSE(picksChangedSince(back));
-  loaded.document.ttArray[0].ttMisurati[1] *= 1.1;
+  loaded.document.ttArray.edit()[0].ttMisurati.edit()[1] *= 1.1;
   EXPECT_TRUE(picksChangedSince(back));
 }
 
 TEST_F(ProjectTest, losesCoverageAndFiguresWithAWordWhenTheyDoNotGoWithItsGrid) {
   invert(project.document);
-  project.document.hitCounts.pop_back();
+  project.document.result.edit().hitCounts.pop_back();
   ASSERT_EQ(save(), 0) << console.error();
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
   EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("result.xml")));
-  EXPECT_THAT(back.document.hitCounts, IsEmpty());
-  EXPECT_FALSE(back.document.timesOfSection);
+  EXPECT_THAT(back.document.result->hitCounts, IsEmpty());
+  EXPECT_FALSE(back.document.result->timesOfSection);
   Log log;
   ASSERT_TRUE(recomputeRays(back.document, log).ok());
-  EXPECT_EQ(back.document.hitCounts.size(), back.document.grid->cellCount());
+  EXPECT_EQ(back.document.result->hitCounts.size(), back.document.model->grid->cellCount());
 }
 
 TEST_F(ProjectTest, ofAnEarlierVersionHasNoTimesOfAGridThatIsGone) {
   invert(project.document);
-  project.document.has_tomographic_info = false;
+  project.document.result.edit().has_tomographic_info = false;
   ASSERT_EQ(save(), 0) << console.error();
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
@@ -200,23 +209,23 @@ TEST_F(ProjectTest, hasItsRaysAgainAfterOneForwardPass) {
   ASSERT_EQ(save(), 0);
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0);
-  EXPECT_THAT(back.document.rays, IsEmpty());
+  EXPECT_THAT(back.document.result->rays, IsEmpty());
   Log log;
   ASSERT_TRUE(recomputeRays(back.document, log).ok());
   ASSERT_TRUE(recomputeRays(project.document, log).ok());
-  EXPECT_EQ(back.document.rays.size(), project.document.rays.size());
+  EXPECT_EQ(back.document.result->rays.size(), project.document.result->rays.size());
 }
 
 TEST_F(ProjectTest, ofPicksAloneNeedsNoTraces) {
   LoadedProject picks;
   picks.document = testLine(8, 5, {0, 20});
-  for (TravelTime& record : picks.document.ttArray) record.traceSetID = -1;
+  for (TravelTime& record : picks.document.ttArray.edit()) record.traceSetID = -1;
   ASSERT_EQ(save(archive(), picks), 0);
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
   ASSERT_THAT(back.document.ttArray, SizeIs(2));
   EXPECT_EQ(back.document.ttArray[1].traceSetID, 1) << "that of its own place";
-  EXPECT_EQ(back.document.grid, nullptr);
+  EXPECT_EQ(back.document.model->grid, nullptr);
 }
 
 TEST_F(ProjectTest, tellsWhatItWritesAndExtracts) {
@@ -236,18 +245,19 @@ TEST_F(ProjectTest, tellsWhatItWritesAndExtracts) {
 TEST_F(ProjectTest, keepsTheSamplesOfAFileThatVanishedOrChanged) {
   QFile::remove(QString::fromStdString(shots[0]));
   folder.put("2.dat", projectShot(12.5, 5));
-  const TraceSet vanished = project.document.traceSets[0];
-  const TraceSet changed = project.document.traceSets[1];
+  const TraceSet vanished = project.document.recordings->traceSets[0];
+  const TraceSet changed = project.document.recordings->traceSets[1];
   ASSERT_EQ(save(), 0);
   EXPECT_THAT(console.error(), HasSubstr("Error while saving " + shots[0] + "\n"));
   EXPECT_THAT(writer.warnings(), ElementsAre(HasSubstr(shots[0])));
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
   for (std::size_t i = 0; i < vanished.size(); ++i) {
-    EXPECT_EQ(back.document.traceSets[0][i].samples, vanished[i].samples);
-    EXPECT_EQ(back.document.traceSets[0][i].receiverPosition, vanished[i].receiverPosition);
-    EXPECT_EQ(back.document.traceSets[0][i].delay, vanished[i].delay);
-    EXPECT_EQ(back.document.traceSets[1][i].samples, changed[i].samples);
+    EXPECT_EQ(back.document.recordings->traceSets[0][i].samples, vanished[i].samples);
+    EXPECT_EQ(back.document.recordings->traceSets[0][i].receiverPosition,
+              vanished[i].receiverPosition);
+    EXPECT_EQ(back.document.recordings->traceSets[0][i].delay, vanished[i].delay);
+    EXPECT_EQ(back.document.recordings->traceSets[1][i].samples, changed[i].samples);
   }
 }
 
@@ -260,8 +270,10 @@ TEST_F(ProjectTest, keepsTheSamplesOfTwoFilesOfOneName) {
   EXPECT_THAT(entriesOf(archive()), SizeIs(8));
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
-  EXPECT_EQ(back.document.traceSets[0][1].samples, project.document.traceSets[0][1].samples);
-  EXPECT_EQ(back.document.traceSets[3][1].samples, project.document.traceSets[3][1].samples);
+  EXPECT_EQ(back.document.recordings->traceSets[0][1].samples,
+            project.document.recordings->traceSets[0][1].samples);
+  EXPECT_EQ(back.document.recordings->traceSets[3][1].samples,
+            project.document.recordings->traceSets[3][1].samples);
 }
 
 TEST_F(ProjectTest, keepsTheSamplesOfAFileThatNoArchiveCanName) {
@@ -273,8 +285,9 @@ TEST_F(ProjectTest, keepsTheSamplesOfAFileThatNoArchiveCanName) {
   LoadedProject loaded;
   ASSERT_EQ(load(archive(), loaded), 0) << reader.message();
   EXPECT_THAT(reader.repairs(), IsEmpty());
-  ASSERT_EQ(loaded.document.traceSets.size(), 4U);
-  EXPECT_EQ(loaded.document.traceSets[3][5].samples, project.document.traceSets[3][5].samples);
+  ASSERT_EQ(loaded.document.recordings->traceSets.size(), 4U);
+  EXPECT_EQ(loaded.document.recordings->traceSets[3][5].samples,
+            project.document.recordings->traceSets[3][5].samples);
 }
 
 /// Records of dead channels shrink to a thousandth, which loading takes for a trap.
@@ -301,17 +314,18 @@ TEST_F(ProjectTest, bringsPairsOfPolaritiesBackAsTheirDifference) {
   ShotLoader().load({shots[0], shots[1]}, dx);
   ShotLoader().load({shots[1], shots[2]}, sx);
   pairs.document = std::move(dx);
-  pairs.document.filenames_DX = std::move(pairs.document.filenames);
-  pairs.document.filenames_SX = sx.filenames;
-  pairs.document.filenames = {};
-  pairs.document.waveType = WaveType::S;
+  pairs.document.recordings.edit().filenames_DX =
+      std::move(pairs.document.recordings.edit().filenames);
+  pairs.document.recordings.edit().filenames_SX = sx.recordings->filenames;
+  pairs.document.recordings.edit().filenames = {};
+  pairs.document.recordings.edit().waveType = WaveType::S;
   for (std::size_t set = 0; set < 2; ++set) {
     for (std::size_t i = 0; i < 6; ++i) {
-      Trace& trace = pairs.document.traceSets[set][i];
+      Trace& trace = pairs.document.recordings.edit().traceSets[set][i];
       trace.waveKind = Trace::kSWavePair;
-      trace.samplesDX = trace.samples;
-      trace.samplesSX = sx.traceSets[set][i].samples;
-      for (std::size_t s = 0; s < 40; ++s) trace.samples[s] -= trace.samplesSX[s];
+      trace.samplesDX.edit() = trace.samples;
+      trace.samplesSX.edit() = sx.recordings->traceSets[set][i].samples;
+      for (std::size_t s = 0; s < 40; ++s) trace.samples.edit()[s] -= trace.samplesSX[s];
     }
   }
   for (const bool filesThere : {true, false}) {
@@ -319,12 +333,12 @@ TEST_F(ProjectTest, bringsPairsOfPolaritiesBackAsTheirDifference) {
     ASSERT_EQ(save(archive(), pairs), 0);
     LoadedProject back;
     ASSERT_EQ(load(archive(), back), 0) << reader.message();
-    EXPECT_EQ(back.document.waveType, WaveType::S);
-    const Trace& trace = back.document.traceSets[1][4];
+    EXPECT_EQ(back.document.recordings->waveType, WaveType::S);
+    const Trace& trace = back.document.recordings->traceSets[1][4];
     EXPECT_EQ(trace.waveKind, Trace::kSWavePair);
-    EXPECT_EQ(trace.samples, pairs.document.traceSets[1][4].samples) << filesThere;
-    EXPECT_EQ(trace.samplesDX, pairs.document.traceSets[1][4].samplesDX);
-    EXPECT_EQ(trace.samplesSX, pairs.document.traceSets[1][4].samplesSX);
+    EXPECT_EQ(trace.samples, pairs.document.recordings->traceSets[1][4].samples) << filesThere;
+    EXPECT_EQ(trace.samplesDX, pairs.document.recordings->traceSets[1][4].samplesDX);
+    EXPECT_EQ(trace.samplesSX, pairs.document.recordings->traceSets[1][4].samplesSX);
   }
 }
 
@@ -343,14 +357,14 @@ TEST_F(ProjectTest, readsSuFilesInTheByteOrderThatTheyWereReadInBefore) {
     TomoDocument other;
     loader.load({segy}, withSegy ? saved.document : other);
     loader.load({su}, saved.document);
-    const TraceSet before = saved.document.traceSets.back();
-    ASSERT_EQ(before[1].samples, all.traceSets[1][1].samples);
+    const TraceSet before = saved.document.recordings->traceSets.back();
+    ASSERT_EQ(before[1].samples, all.recordings->traceSets[1][1].samples);
     ASSERT_EQ(save(archive(), saved), 0);
     const std::string traces = entriesOf(archive())["traces.xml"];
     EXPECT_EQ(traces.find("<TAB size=\"dynamic\">") == std::string::npos, withSegy);
     LoadedProject back;
     ASSERT_EQ(load(archive(), back), 0) << reader.message();
-    EXPECT_EQ(back.document.traceSets.back()[1].samples, before[1].samples);
+    EXPECT_EQ(back.document.recordings->traceSets.back()[1].samples, before[1].samples);
     // Files that come after the project's own follow these.
     ShotLoader after;
     after.remember(back.shotFiles);
@@ -369,10 +383,10 @@ TEST_F(ProjectTest, leavesTracesEmptyWhoseFileIsNotInTheArchive) {
   EXPECT_THAT(reader.warnings()[0], HasSubstr("2.dat"));
   EXPECT_THAT(reader.warnings()[0], Not(HasSubstr(work())));
   EXPECT_THAT(console.error(), HasSubstr("Error while loading traces: Invalid file format.\n"));
-  ASSERT_THAT(back.document.traceSets[1], SizeIs(6));
-  EXPECT_THAT(back.document.traceSets[1][0].samples, IsEmpty());
-  EXPECT_EQ(back.document.traceSets[1][5].receiverPosition, (Point2D{25, 100}));
-  EXPECT_THAT(back.document.traceSets[0][0].samples, SizeIs(40));
+  ASSERT_THAT(back.document.recordings->traceSets[1], SizeIs(6));
+  EXPECT_THAT(back.document.recordings->traceSets[1][0].samples, IsEmpty());
+  EXPECT_EQ(back.document.recordings->traceSets[1][5].receiverPosition, (Point2D{25, 100}));
+  EXPECT_THAT(back.document.recordings->traceSets[0][0].samples, SizeIs(40));
 }
 
 struct OldElement {
@@ -396,14 +410,15 @@ TEST_P(OldProject, loadsWithItsDefaultAndSaysSo) {
   EXPECT_THAT(console.out() + console.error(), HasSubstr(std::string(GetParam().message) + "\n"));
   const TomoDocument& document = back.document;
   const std::string element = GetParam().element;
-  EXPECT_EQ(document.has_tomographic_info, element != "has_tomographic_info");
-  EXPECT_EQ(document.RMSE_tomography < 0, element == "RMSE_tomography");
+  EXPECT_EQ(document.result->has_tomographic_info, element != "has_tomographic_info");
+  EXPECT_EQ(document.result->RMSE_tomography < 0, element == "RMSE_tomography");
   EXPECT_EQ(document.title, element == "title" ? "" : "Title");
-  EXPECT_THAT(document.info_density, SizeIs(document.grid->cellCount()));
+  EXPECT_THAT(document.result->info_density, SizeIs(document.model->grid->cellCount()));
   if (element == "info_density") {
-    EXPECT_EQ(document.info_density, std::vector<double>(document.grid->cellCount(), 1.0));
+    EXPECT_EQ(document.result->info_density,
+              std::vector<double>(document.model->grid->cellCount(), 1.0));
   }
-  EXPECT_FALSE(document.geoCoord_isSet);
+  EXPECT_FALSE(document.map->geoCoord_isSet);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -435,20 +450,22 @@ TEST_F(ProjectTest, ofAnEarlierVersionHasNeitherNewElementsNorRefraction) {
   LoadedProject back;
   ASSERT_EQ(load(pack("old.tvsk", entries), back), 0) << reader.message();
   // The limit can be told from the cells that are drawn.
-  ASSERT_EQ(back.document.coverageLimit.size(), project.document.coverageLimit.size());
-  EXPECT_EQ(back.document.coverageLimit.front(), project.document.coverageLimit.front());
-  EXPECT_EQ(back.document.maxVelocity, 3500.0);
-  EXPECT_FALSE(back.document.lastInversion);
+  ASSERT_EQ(back.document.result->coverageLimit.size(),
+            project.document.result->coverageLimit.size());
+  EXPECT_EQ(back.document.result->coverageLimit.front(),
+            project.document.result->coverageLimit.front());
+  EXPECT_EQ(back.document.model->maxVelocity, 3500.0);
+  EXPECT_FALSE(back.document.result->lastInversion);
 }
 
 TEST_F(ProjectTest, forgetsARunThatCannotHaveBeen) {
   invert(project.document);
-  project.document.lastInversion->history[0].rmse = std::nan("");
+  project.document.result.edit().lastInversion->history[0].rmse = std::nan("");
   ASSERT_EQ(save(), 0);
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
-  EXPECT_TRUE(back.document.has_tomographic_info);
-  EXPECT_FALSE(back.document.lastInversion);
+  EXPECT_TRUE(back.document.result->has_tomographic_info);
+  EXPECT_FALSE(back.document.result->lastInversion);
 }
 
 TEST_F(ProjectTest, keepsItsShotFilesAsLongAsItIsOpen) {

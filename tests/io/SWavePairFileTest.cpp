@@ -1,5 +1,6 @@
 #include "io/SWavePairFile.h"
 #include "io/ShotLoader.h"
+#include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "processing/FirstBreak.h"
 #include "support/ConsoleCapture.h"
@@ -72,12 +73,12 @@ TEST(SWavePairFile, isPickedOnItsDifferenceAndNotOnOneRecording) {
   addPair(geometry, pair);
   ASSERT_TRUE(applyGeometry(geometry, document));
   // Samples that something else left behind are not what is picked.
-  Trace& kept = document.traceSets[0][1];
-  kept.samples = kept.samplesDX;
+  Trace& kept = document.recordings.edit().traceSets[0][1];
+  kept.samples.edit() = kept.samplesDX;
   const std::int32_t picked = pickTrace(document, 0, 1, false);
   EXPECT_NEAR(picked * kept.sampleInterval, firstBreak(1), 0.0015);
   kept.waveKind = Trace::kFromFile;
-  kept.samples = kept.samplesDX;
+  kept.samples.edit() = kept.samplesDX;
   EXPECT_LT(pickTrace(document, 0, 1, false) * kept.sampleInterval, 0.009) << "the common arrival";
 }
 
@@ -134,10 +135,10 @@ TEST(SWavePairFile, keepsShotFilesOutOfASurveyOfPairs) {
   const ConsoleCapture console;
   const TestFolder folder;
   TomoDocument document = shotDocument(1, 2, 8);
-  document.waveType = WaveType::S;
+  document.recordings.edit().waveType = WaveType::S;
   const auto outcomes = ShotLoader().load({recording(folder, "p.dat", {})}, document);
   EXPECT_THAT(outcomes[0].status.message(), HasSubstr("S-wave pairs"));
-  EXPECT_EQ(document.traceSets.size(), 1U);
+  EXPECT_EQ(document.recordings->traceSets.size(), 1U);
 }
 
 }  // namespace

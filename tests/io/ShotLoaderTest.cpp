@@ -1,5 +1,9 @@
 #include "io/ShotFile.h"
 #include "io/ShotLoader.h"
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "support/ShotFiles.h"
 #include "support/TestFolder.h"
@@ -68,20 +72,19 @@ TEST_F(ShotLoading, makesATraceSetAndARecordOfEachFile) {
   const std::string second = folder.put("a.Sg2", seg2Shot(12.5, 0, 2));
   EXPECT_THAT(load({first, second}), ElementsAre(0, 0));
   EXPECT_EQ(outcomes[0].format, "seg2");
-  EXPECT_THAT(document.filenames, ElementsAre(first, second));
-  EXPECT_THAT(document.shotPositions, ElementsAre(-2.5, 12.5));
-  ASSERT_THAT(document.traceSets, ElementsAre(SizeIs(3), SizeIs(2)));
+  EXPECT_THAT(document.recordings->filenames, ElementsAre(first, second));
+  EXPECT_THAT(document.line->shotPositions, ElementsAre(-2.5, 12.5));
+  ASSERT_THAT(document.recordings->traceSets, ElementsAre(SizeIs(3), SizeIs(2)));
   ASSERT_THAT(document.ttArray, SizeIs(2));
   EXPECT_EQ(document.ttArray[0].shotPos2d, (Point2D{-2.5, 101}));
   EXPECT_EQ(document.ttArray[1].traceSetID, 1);
   EXPECT_THAT(document.ttArray[0].ttMisurati, ElementsAre(0, 0, 0));
   EXPECT_THAT(document.ttArray[1].ttCalcolati, ElementsAre(kNoTime, kNoTime));
-  EXPECT_TRUE(document.modified);
 }
 
 TEST_F(ShotLoading, keepsWhatTheTraceHeadersSay) {
   load({folder.put("a.dat", seg2Shot(-2.5, 10, 1))});
-  const Trace& trace = document.traceSets.at(0).at(0);
+  const Trace& trace = document.recordings->traceSets.at(0).at(0);
   EXPECT_EQ(trace.waveKind, Trace::kFromFile);
   EXPECT_THAT(trace.samples, ElementsAre(1, 2, 0));
   EXPECT_THAT(trace.filtered, IsEmpty());
@@ -97,7 +100,7 @@ TEST_F(ShotLoading, sharesGeophoneStringsThatAreEqual) {
       load({folder.put("a.dat", seg2Shot(0, 0, 3)), folder.put("b.dat", seg2Shot(5, 60, 3)),
             folder.put("c.dat", seg2Shot(9, 0, 3)), folder.put("d.dat", seg2Shot(9, 0, 2))}),
       ElementsAre(0, 0, 0, 0));
-  EXPECT_THAT(document.goephonesStringSet, ElementsAre(SizeIs(3), SizeIs(3), SizeIs(2)));
+  EXPECT_THAT(document.line->goephonesStringSet, ElementsAre(SizeIs(3), SizeIs(3), SizeIs(2)));
   std::vector<int> strings;
   for (const TravelTime& record : document.ttArray) strings.push_back(record.indexStesa);
   EXPECT_THAT(strings, ElementsAre(0, 1, 0, 2));
@@ -109,10 +112,10 @@ TEST_F(ShotLoading, leavesFilesThatFailOut) {
                     folder.put("silent.dat", seg2Bytes({{4, {1, 2}, seg2Area({"DELAY 0"})}})),
                     folder.put("picks.otte", "otte")}),
               ElementsAre(1, 1, 0, 2, 3));
-  EXPECT_THAT(document.filenames, ElementsAre(good));
+  EXPECT_THAT(document.recordings->filenames, ElementsAre(good));
   EXPECT_THAT(document.ttArray, SizeIs(1));
-  EXPECT_THAT(document.traceSets, SizeIs(1));
-  EXPECT_THAT(document.goephonesStringSet, SizeIs(1));
+  EXPECT_THAT(document.recordings->traceSets, SizeIs(1));
+  EXPECT_THAT(document.line->goephonesStringSet, SizeIs(1));
   for (const ShotFileOutcome& outcome : outcomes) {
     EXPECT_EQ(outcome.status.message().find(outcome.path) == std::string::npos,
               outcome.status.ok());
@@ -120,20 +123,19 @@ TEST_F(ShotLoading, leavesFilesThatFailOut) {
 }
 
 TEST_F(ShotLoading, isNoChangeWhenNoFileLoads) {
-  document.grid = roughGrid({2, 2, 3, 5.0}, 0.0);
+  document.model.edit().grid = roughGrid({2, 2, 3, 5.0}, 0.0);
   load({folder.file("missing.dat")});
-  EXPECT_FALSE(document.modified);
-  EXPECT_NE(document.grid, nullptr);
+  EXPECT_NE(document.model->grid, nullptr);
   load({folder.put("a.dat", seg2Shot(1, 0, 2))});
-  EXPECT_EQ(document.grid, nullptr) << "the grid was made for another line";
+  EXPECT_EQ(document.model->grid, nullptr) << "the grid was made for another line";
 }
 
 TEST_F(ShotLoading, keepsTheGridWhenTheLineStaysAsItIs) {
   load({folder.put("a.dat", seg2Shot(0, 0, 4)), folder.put("b.dat", seg2Shot(15, 0, 4))});
-  for (TravelTime& record : document.ttArray) record.shotPos2d.z = 0.0;
+  for (TravelTime& record : document.ttArray.edit()) record.shotPos2d.z = 0.0;
   putGrid(document, 5.0, 1.0);
-  document.has_tomographic_info = true;
-  document.ttArray[0].ttCalcolati.assign(4, 0.01);
+  document.result.edit().has_tomographic_info = true;
+  document.ttArray.edit()[0].ttCalcolati.edit().assign(4, 0.01);
   const std::string level = folder.put("level.dat", seg2Shot(0, 0, 4));    // a point that is known
   const std::string high = folder.put("high.dat", seg2Shot(7, 0, 4));      // 101 m above the line
   const std::string longer = folder.put("longer.dat", seg2Shot(0, 5, 4));  // a geophone at 20 m
@@ -148,38 +150,38 @@ TEST_F(ShotLoading, keepsTheGridWhenTheLineStaysAsItIs) {
   EXPECT_EQ(loss({level, high}), ModelLoss::kGrid);
   EXPECT_EQ(loss({longer}), ModelLoss::kGrid);
   load({broken});
-  EXPECT_TRUE(document.has_tomographic_info);
+  EXPECT_TRUE(document.result->has_tomographic_info);
   load({level});
   EXPECT_THAT(document.ttArray, SizeIs(3));
-  EXPECT_NE(document.grid, nullptr);
-  EXPECT_FALSE(document.has_tomographic_info) << "its results are those of two shots";
+  EXPECT_NE(document.model->grid, nullptr);
+  EXPECT_FALSE(document.result->has_tomographic_info) << "its results are those of two shots";
   EXPECT_THAT(document.ttArray[0].ttCalcolati, ElementsAre(kNoTime, kNoTime, kNoTime, kNoTime));
   EXPECT_EQ(loss({level}), ModelLoss::kNothing);
   load({high});
-  EXPECT_EQ(document.grid, nullptr);
+  EXPECT_EQ(document.model->grid, nullptr);
 }
 
 TEST_F(ShotLoading, takesFilesWithoutATrace) {
   EXPECT_THAT(load({folder.put("none.dat", seg2Bytes({}))}), ElementsAre(0));
-  EXPECT_THAT(document.traceSets, ElementsAre(IsEmpty()));
+  EXPECT_THAT(document.recordings->traceSets, ElementsAre(IsEmpty()));
   EXPECT_THAT(document.ttArray.at(0).ttMisurati, IsEmpty());
   EXPECT_EQ(document.ttArray[0].shotPos2d, Point2D());
   EXPECT_THAT(outcomes[0].warnings, ElementsAre("the file holds no trace"));
 }
 
 TEST_F(ShotLoading, refusesASurveyOfPicksWithoutTraces) {
-  document.ttArray.resize(2);
+  document.ttArray.edit().resize(2);
   EXPECT_THAT(load({folder.put("a.dat", seg2Shot(1, 0, 2))}), ElementsAre(1));
   EXPECT_THAT(document.ttArray, SizeIs(2));
-  EXPECT_THAT(document.filenames, IsEmpty());
+  EXPECT_THAT(document.recordings->filenames, IsEmpty());
 }
 
 TEST_F(ShotLoading, remembersTheByteOrderBetweenFilesAndCalls) {
   const std::string su = folder.put("big.su", suShot(ByteOrder::kBig));
   load({folder.put("big.segy", segyShot(ByteOrder::kBig)), su});
-  EXPECT_THAT(document.traceSets, ElementsAre(SizeIs(1), SizeIs(2)));
+  EXPECT_THAT(document.recordings->traceSets, ElementsAre(SizeIs(1), SizeIs(2)));
   load({su});
-  EXPECT_THAT(document.traceSets.at(2).at(1).samples, ElementsAre(4, 5, 0));
+  EXPECT_THAT(document.recordings->traceSets.at(2).at(1).samples, ElementsAre(4, 5, 0));
   ShotLoader fresh;
   EXPECT_TRUE(fresh.state().nativeOrder);
 }

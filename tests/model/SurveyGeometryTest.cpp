@@ -1,4 +1,8 @@
+#include "model/GroundModel.h"
+#include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/ShotDocument.h"
 
 #include <cmath>
@@ -25,9 +29,9 @@ std::vector<double> elevations(const GeophoneString& string) {
 /// Two shots of three traces with picks, grid and results pretended.
 TomoDocument survey() {
   TomoDocument document = shotDocument(2, 3, 8);
-  document.shotPositions = {9.0, 13.0};
-  document.has_tomographic_info = true;
-  for (TravelTime& record : document.ttArray) record.ttCalcolati.assign(3, 0.01);
+  document.line.edit().shotPositions = {9.0, 13.0};
+  document.result.edit().has_tomographic_info = true;
+  for (TravelTime& record : document.ttArray.edit()) record.ttCalcolati.edit().assign(3, 0.01);
   return document;
 }
 
@@ -46,12 +50,11 @@ std::shared_ptr<SWavePair> pairAt(double source, std::size_t traces) {
 
 TEST(SurveyGeometry, leftAsItIsChangesNothing) {
   TomoDocument document = survey();
-  document.goephonesStringSet[0][1].z = kNone;
+  document.line.edit().goephonesStringSet[0][1].z = kNone;
   const SurveyGeometry geometry = geometryOf(document);
   EXPECT_FALSE(geometryDiffers(geometry, document));
   EXPECT_FALSE(applyGeometry(geometry, document));
-  EXPECT_TRUE(document.has_tomographic_info);
-  EXPECT_FALSE(document.modified);
+  EXPECT_TRUE(document.result->has_tomographic_info);
 }
 
 TEST(SurveyGeometry, appliedForgetsResultsAndKeepsPicks) {
@@ -68,37 +71,36 @@ TEST(SurveyGeometry, appliedForgetsResultsAndKeepsPicks) {
   for (const auto& [name, edit] : kEdits) {
     SCOPED_TRACE(name);
     TomoDocument document = survey();
-    document.proposedCellSizes = {0.5};
+    document.model.edit().proposedCellSizes = {0.5};
     SurveyGeometry geometry = geometryOf(document);
     edit(geometry);
     EXPECT_TRUE(applyGeometry(geometry, document));
-    EXPECT_THAT(document.proposedCellSizes, ElementsAre(0.5)) << "the first proposal stays";
+    EXPECT_THAT(document.model->proposedCellSizes, ElementsAre(0.5)) << "the first proposal stays";
     EXPECT_FALSE(geometryDiffers(geometry, document));
-    EXPECT_FALSE(document.has_tomographic_info);
-    EXPECT_TRUE(document.modified);
+    EXPECT_FALSE(document.result->has_tomographic_info);
     EXPECT_DOUBLE_EQ(document.ttArray[1].ttMisurati[2], firstBreak(2));
     EXPECT_THAT(document.ttArray[1].ttCalcolati, ElementsAre(kNoTime, kNoTime, kNoTime));
-    EXPECT_EQ(document.waveType, WaveType::P);
-    EXPECT_EQ(document.shotPositions[1], geometry.shots[1].place.x);
+    EXPECT_EQ(document.recordings->waveType, WaveType::P);
+    EXPECT_EQ(document.line->shotPositions[1], geometry.shots[1].place.x);
   }
 }
 
 TEST(SurveyGeometry, worksOnPicksWithoutTraces) {
   TomoDocument document = survey();
-  document.traceSets.clear();
-  document.filenames.clear();
-  document.shotPositions.clear();
+  document.recordings.edit().traceSets.clear();
+  document.recordings.edit().filenames.clear();
+  document.line.edit().shotPositions.clear();
   SurveyGeometry geometry = geometryOf(document);
   EXPECT_EQ(geometry.shots[0].traces, 3U);
   geometry.shots[0].place.x = 8.0;
   EXPECT_TRUE(applyGeometry(geometry, document));
   EXPECT_EQ(document.ttArray[0].shotPos2d.x, 8.0);
-  EXPECT_THAT(document.shotPositions, SizeIs(0));
+  EXPECT_THAT(document.line->shotPositions, SizeIs(0));
 
-  document.shotPositions = {8.0, 13.0};  // as an import leaves them
+  document.line.edit().shotPositions = {8.0, 13.0};  // as an import leaves them
   geometry.shots[1].place.x = 14.0;
   EXPECT_TRUE(applyGeometry(geometry, document));
-  EXPECT_THAT(document.shotPositions, ElementsAre(8.0, 14.0));
+  EXPECT_THAT(document.line->shotPositions, ElementsAre(8.0, 14.0));
 }
 
 TEST(SurveyGeometry, takesAPairForAnEmptySurveyAndForAShot) {
@@ -108,19 +110,19 @@ TEST(SurveyGeometry, takesAPairForAnEmptySurveyAndForAShot) {
   addPair(geometry, pairAt(17.0, 3));
   EXPECT_THAT(geometry.strings, SizeIs(1)) << "equal receivers are one string";
   EXPECT_TRUE(applyGeometry(geometry, document));
-  EXPECT_EQ(document.waveType, WaveType::S);
-  EXPECT_THAT(document.traceSets, SizeIs(2));
-  EXPECT_THAT(document.traceSets[1], SizeIs(3));
-  EXPECT_THAT(document.filenames, ElementsAre("", ""));
-  EXPECT_THAT(document.filenames_DX, ElementsAre("dx.dat", "dx.dat"));
-  EXPECT_THAT(document.filenames_SX, ElementsAre("sx.dat", "sx.dat"));
+  EXPECT_EQ(document.recordings->waveType, WaveType::S);
+  EXPECT_THAT(document.recordings->traceSets, SizeIs(2));
+  EXPECT_THAT(document.recordings->traceSets[1], SizeIs(3));
+  EXPECT_THAT(document.recordings->filenames, ElementsAre("", ""));
+  EXPECT_THAT(document.recordings->filenames_DX, ElementsAre("dx.dat", "dx.dat"));
+  EXPECT_THAT(document.recordings->filenames_SX, ElementsAre("sx.dat", "sx.dat"));
   EXPECT_EQ(document.ttArray[1].traceSetID, 1);
   EXPECT_EQ(document.ttArray[1].shotPos2d.x, 17.0);
   EXPECT_THAT(document.ttArray[1].ttMisurati, ElementsAre(0.0, 0.0, 0.0));
   EXPECT_EQ(shotFile(document, 1), "dx.dat");
 
-  document.ttArray[0].ttMisurati = {0.1, 0.2, 0.3};
-  document.ttArray[1].ttMisurati = {0.1, 0.2, 0.3};
+  document.ttArray.edit()[0].ttMisurati.edit() = {0.1, 0.2, 0.3};
+  document.ttArray.edit()[1].ttMisurati.edit() = {0.1, 0.2, 0.3};
   geometry = geometryOf(document);
   geometry.shots[1].pair = pairAt(99.0, 2);
   EXPECT_TRUE(applyGeometry(geometry, document));
@@ -132,7 +134,7 @@ TEST(SurveyGeometry, takesAPairForAnEmptySurveyAndForAShot) {
 TEST(Elevations, countAsTypedUnlessAllAreZero) {
   TomoDocument document = survey();
   EXPECT_FALSE(geometryOf(document).strings[0][1].typed);
-  document.goephonesStringSet[0][2].z = 5.0;
+  document.line.edit().goephonesStringSet[0][2].z = 5.0;
   EXPECT_TRUE(geometryOf(document).strings[0][1].typed);
 }
 

@@ -1,3 +1,5 @@
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "support/ConsoleCapture.h"
 
@@ -16,7 +18,7 @@ constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 TravelTime record(std::vector<double> measured, Point2D shot = {}) {
   TravelTime record;
   record.shotPos2d = shot;
-  record.ttMisurati = std::move(measured);
+  record.ttMisurati.edit() = std::move(measured);
   return record;
 }
 
@@ -29,7 +31,7 @@ class PicksComplete : public ::testing::TestWithParam<Picks> {};
 
 TEST_P(PicksComplete, whenMoreThanHalfAreNotZero) {
   TomoDocument document;
-  for (const auto& times : GetParam().records) document.ttArray.push_back(record(times));
+  for (const auto& times : GetParam().records) document.ttArray.edit().push_back(record(times));
   EXPECT_EQ(document.picksComplete(), GetParam().complete);
 }
 
@@ -57,28 +59,28 @@ TEST(FindTrace, tellsWhatDoesNotExist) {
     EXPECT_EQ(document.findTrace(0, 0, found), -1);
     EXPECT_EQ(console.error(), "[ERROR] No trace exists. \n");
   }
-  document.traceSets = {TraceSet(2), TraceSet(0)};
+  document.recordings.edit().traceSets = {TraceSet(2), TraceSet(0)};
   for (const auto& [set, trace, error] : {Case{0, 2, "[ERROR] Trace 2 does not exist.\n"},
                                           Case{1, 0, "[ERROR] Trace 0 does not exist.\n"},
                                           Case{0, -1, "[ERROR] Trace -1 does not exist.\n"},
                                           Case{2, 0, "[ERROR] Trace set 2 does not exist.\n"},
                                           Case{-1, 0, "[ERROR] Trace set -1 does not exist.\n"}}) {
     const ConsoleCapture console;
-    found = &document.traceSets[0][0];
+    found = &document.recordings->traceSets[0][0];
     EXPECT_EQ(document.findTrace(set, trace, found), -1);
     EXPECT_EQ(found, nullptr);
     EXPECT_EQ(console.error(), error);
   }
   EXPECT_EQ(document.findTrace(0, 1, found), 0);
-  EXPECT_EQ(found, &document.traceSets[0][1]);
+  EXPECT_EQ(found, &document.recordings->traceSets[0][1]);
 }
 
 TEST(Receivers, areTheGeophonesElseWhereTheTracesSay) {
   TomoDocument document;
-  document.goephonesStringSet = {{{1.0, 2.0}, {3.0, 4.0}}, {}};
-  document.traceSets.resize(2);
-  document.traceSets[1].resize(1);
-  document.traceSets[1][0].receiverPosition = {7.0, 8.0};
+  document.line.edit().goephonesStringSet = {{{1.0, 2.0}, {3.0, 4.0}}, {}};
+  document.recordings.edit().traceSets.resize(2);
+  document.recordings.edit().traceSets[1].resize(1);
+  document.recordings.edit().traceSets[1][0].receiverPosition = {7.0, 8.0};
   const std::vector<Point2D> geophones = {{1.0, 2.0}, {3.0, 4.0}};
   const std::vector<Point2D> headers = {{7.0, 8.0}};
   const struct {
@@ -97,9 +99,10 @@ TEST(Receivers, areTheGeophonesElseWhereTheTracesSay) {
 
 TomoDocument hillLine() {
   TomoDocument document;
-  document.goephonesStringSet = {{{10.0, 1.0}, {0.0, 5.0}}, {{10.0, 99.0}, {20.0, 3.0}}};
-  document.ttArray = {record({}, {5.0, 9.0}), record({}, {-4.0, 50.0}), record({}, {20.5, 50.0}),
-                      record({}, {0.0, 50.0})};
+  document.line.edit().goephonesStringSet = {{{10.0, 1.0}, {0.0, 5.0}},
+                                             {{10.0, 99.0}, {20.0, 3.0}}};
+  document.ttArray.edit() = {record({}, {5.0, 9.0}), record({}, {-4.0, 50.0}),
+                             record({}, {20.5, 50.0}), record({}, {0.0, 50.0})};
   return document;
 }
 
@@ -122,7 +125,8 @@ TEST(Elevation, isLinearBetweenKnownPointsAndLevelBeyond) {
 TEST(Elevation, smoothVariantRunsThroughTheKnownPoints) {
   const ConsoleCapture console;
   TomoDocument document;
-  document.goephonesStringSet = {{{0.0, 0.0}, {1.0, 1.0}, {2.0, 4.0}, {3.0, 9.0}, {4.0, 16.0}}};
+  document.line.edit().goephonesStringSet = {
+      {{0.0, 0.0}, {1.0, 1.0}, {2.0, 4.0}, {3.0, 9.0}, {4.0, 16.0}}};
   for (const double x : {0.0, 0.5, 1.5, 3.0, 3.25}) {
     EXPECT_NEAR(document.smoothElevationAt(x), x * x, 1e-12) << x;
   }
@@ -134,7 +138,8 @@ TEST(Elevation, makesDoWithFewPoints) {
   TomoDocument document;
   EXPECT_EQ(document.elevationAt(3.0), 0.0);
   EXPECT_EQ(document.smoothElevationAt(3.0), 0.0);
-  document.ttArray = {record({}, {3.0, 7.0}), record({}, {kNan, 8.0}), record({}, {4.0, kNan})};
+  document.ttArray.edit() = {record({}, {3.0, 7.0}), record({}, {kNan, 8.0}),
+                             record({}, {4.0, kNan})};
   EXPECT_THAT(document.elevationProfile(), ElementsAre(Point2D{3.0, 7.0}));
   EXPECT_EQ(document.elevationAt(3.0), 7.0);
   EXPECT_EQ(document.smoothElevationAt(99.0), 7.0);

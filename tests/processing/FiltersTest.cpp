@@ -1,4 +1,5 @@
 #include "Signals.h"
+#include "model/Recordings.h"
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
 #include "processing/Spectrum.h"
@@ -187,7 +188,7 @@ TEST(Agc, bringsASteadySignalToUnitPowerWhateverItsStrength) {
 
 TomoDocument documentOf(TraceSet traces) {
   TomoDocument document;
-  document.traceSets.push_back(std::move(traces));
+  document.recordings.edit().traceSets.push_back(std::move(traces));
   return document;
 }
 
@@ -198,12 +199,13 @@ TEST(BandFilter, normalisesByTwiceTheHighestFrequencyAndFiltersLowFirst) {
   ASSERT_TRUE(
       bandFilterShots(document, {0}, {FilterCorner{90.0, 3}, FilterCorner{12.0, 2}}).status.ok());
   Samples expected;
-  ASSERT_TRUE(lowPass(document.traceSets[0][0].samples, 3, 90.0 / (2.0 * highest), expected).ok());
+  ASSERT_TRUE(
+      lowPass(document.recordings->traceSets[0][0].samples, 3, 90.0 / (2.0 * highest), expected)
+          .ok());
   ASSERT_TRUE(highPass(expected, 2, 12.0 / (2.0 * highest), expected).ok());
-  EXPECT_EQ(document.traceSets[0][0].filtered, expected);
-  EXPECT_EQ(document.traceSets[0][0].samples, testing::arrival(900, 300));
-  EXPECT_TRUE(document.traceSets[0][1].filtered.empty());
-  EXPECT_TRUE(document.modified);
+  EXPECT_EQ(document.recordings->traceSets[0][0].filtered, expected);
+  EXPECT_EQ(document.recordings->traceSets[0][0].samples, testing::arrival(900, 300));
+  EXPECT_TRUE(document.recordings->traceSets[0][1].filtered.empty());
 }
 
 TEST(BandFilter, namesTheFrequencyAndTheLimitInHertz) {
@@ -222,12 +224,11 @@ TEST(BandFilter, namesTheFrequencyAndTheLimitInHertz) {
   };
   for (const auto& c : cases) {
     TomoDocument document = documentOf(before);
-    for (Trace& trace : document.traceSets[0]) trace.filtered = {1.0};
+    for (Trace& trace : document.recordings.edit().traceSets[0]) trace.filtered.edit() = {1.0};
     const FilterOutcome outcome = bandFilterShots(document, {0}, c.filter);
     EXPECT_THAT(outcome.status.message(), HasSubstr(c.text));
     EXPECT_EQ(outcome.failed, 2U);
-    EXPECT_EQ(document.traceSets[0][0].filtered, Samples{1.0});
-    EXPECT_FALSE(document.modified);
+    EXPECT_EQ(document.recordings->traceSets[0][0].filtered, Samples{1.0});
   }
 }
 
@@ -238,16 +239,16 @@ TEST(BandFilter, saysWhyThereIsNoLimit) {
               HasSubstr("too short"));
   EXPECT_THAT(checkBandFilter(filter, 0.0).message(), HasSubstr("too short"));
   TomoDocument document = documentOf({traceOf(sine(1000, 60.0))});
-  document.traceSets[0][0].sampleInterval = std::numeric_limits<double>::max();
+  document.recordings.edit().traceSets[0][0].sampleInterval = std::numeric_limits<double>::max();
   EXPECT_THAT(bandFilterShots(document, {0}, filter).status.message(),
               HasSubstr("low-pass cut-off of 85 Hz"));
 }
 
 TEST(BandFilter, doesNothingWithoutACorner) {
   TomoDocument document = documentOf({traceOf(sine(1000, 60.0))});
-  document.traceSets[0][0].filtered = {1.0};
+  document.recordings.edit().traceSets[0][0].filtered.edit() = {1.0};
   EXPECT_TRUE(bandFilterShots(document, {0}, {}).status.ok());
-  EXPECT_EQ(document.traceSets[0][0].filtered, Samples{1.0});
+  EXPECT_EQ(document.recordings->traceSets[0][0].filtered, Samples{1.0});
 }
 
 TEST(ShotFilters, leaveABadTraceAndFilterTheOthers) {
@@ -259,17 +260,17 @@ TEST(ShotFilters, leaveABadTraceAndFilterTheOthers) {
       {band, agcShots, reduceNoise};
   for (const auto& operation : operations) {
     TomoDocument document = documentOf({traceOf(sine(1000, 60.0)), traceOf(sine(1000, 60.0))});
-    document.traceSets.push_back(document.traceSets[0]);
-    document.traceSets.push_back(document.traceSets[0]);
-    document.traceSets[1][1].samples[500] = kNaN;
-    document.traceSets[1][1].filtered = {1.0};
+    document.recordings.edit().traceSets.push_back(document.recordings->traceSets[0]);
+    document.recordings.edit().traceSets.push_back(document.recordings->traceSets[0]);
+    document.recordings.edit().traceSets[1][1].samples.edit()[500] = kNaN;
+    document.recordings.edit().traceSets[1][1].filtered.edit() = {1.0};
     const FilterOutcome outcome = operation(document, {0, 1, 7});
     EXPECT_EQ(outcome.filtered, 3U);
     EXPECT_EQ(outcome.failed, 1U);
     EXPECT_THAT(outcome.status.message(), HasSubstr("shot 2: trace 2: sample 500 is nan"));
-    EXPECT_EQ(document.traceSets[1][0].filtered.size(), 1000U);
-    EXPECT_EQ(document.traceSets[1][1].filtered, Samples{1.0});
-    EXPECT_TRUE(document.traceSets[2][0].filtered.empty());
+    EXPECT_EQ(document.recordings->traceSets[1][0].filtered.size(), 1000U);
+    EXPECT_EQ(document.recordings->traceSets[1][1].filtered, Samples{1.0});
+    EXPECT_TRUE(document.recordings->traceSets[2][0].filtered.empty());
   }
 }
 
@@ -279,13 +280,14 @@ TEST(NoiseReduction, passesFrom14To85HertzAndDoesNotAccumulate) {
   const double hertz[] = {1.0, 14.0, 34.5, 85.0, 600.0};
   // First-order losses of both corners, dB, with the low-pass warped at 600 of 1000 Hz.
   const double expected[] = {-22.9, -3.13, -1.32, -3.12, -20.2};
-  for (const double f : hertz) document.traceSets[0].push_back(traceOf(sine(8000, f)));
+  for (const double f : hertz)
+    document.recordings.edit().traceSets[0].push_back(traceOf(sine(8000, f)));
   ASSERT_TRUE(reduceNoise(document, {0}).status.ok());
-  const TraceSet once = document.traceSets[0];
+  const TraceSet once = document.recordings->traceSets[0];
   ASSERT_TRUE(reduceNoise(document, {0}).status.ok());
   for (std::size_t t = 0; t < 5; ++t) {
     EXPECT_NEAR(gain(once[t].samples, once[t].filtered), expected[t], 0.15) << hertz[t];
-    EXPECT_EQ(document.traceSets[0][t].filtered, once[t].filtered);
+    EXPECT_EQ(document.recordings->traceSets[0][t].filtered, once[t].filtered);
   }
 }
 
@@ -302,9 +304,9 @@ TEST(NoiseReduction, leavesTracesAloneThatHaveNo85Hertz) {
                {1000, kNaN, false},       {1000, std::numeric_limits<double>::max(), false}};
   for (const auto& c : cases) {
     TomoDocument document = documentOf({traceOf(Samples(c.samples, 1.0))});
-    Trace& trace = document.traceSets[0][0];
+    Trace& trace = document.recordings.edit().traceSets[0][0];
     trace.sampleInterval = c.interval;
-    trace.filtered = Samples(17, 1.0);
+    trace.filtered.edit() = Samples(17, 1.0);
     const FilterOutcome outcome = reduceNoise(document, {0});
     EXPECT_EQ(outcome.status.ok(), c.filtered) << c.samples << ' ' << c.interval;
     EXPECT_EQ(trace.filtered.size(), c.filtered ? c.samples : 17U);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 
 #include <cmath>
@@ -44,7 +46,7 @@ inline ::testing::Matcher<std::int32_t> justBefore(int at) {
 inline Trace traceOf(std::vector<double> samples) {
   Trace trace;
   trace.waveKind = Trace::kFromFile;
-  trace.samples = std::move(samples);
+  trace.samples.edit() = std::move(samples);
   trace.sampleInterval = kInterval;
   return trace;
 }
@@ -52,13 +54,14 @@ inline Trace traceOf(std::vector<double> samples) {
 /// One shot at x = 0 with geophones at the given places, one trace each, and no picks yet.
 inline void addShot(TomoDocument& document, const std::vector<double>& geophones, TraceSet traces) {
   TravelTime record;
-  record.indexStesa = static_cast<std::int32_t>(document.goephonesStringSet.size());
-  record.traceSetID = static_cast<std::int32_t>(document.traceSets.size());
-  record.ttMisurati.assign(traces.size(), kUnpicked);
-  document.goephonesStringSet.emplace_back();
-  for (const double x : geophones) document.goephonesStringSet.back().push_back({x, 0.0});
-  document.traceSets.push_back(std::move(traces));
-  document.ttArray.push_back(record);
+  record.indexStesa = static_cast<std::int32_t>(document.line->goephonesStringSet.size());
+  record.traceSetID = static_cast<std::int32_t>(document.recordings->traceSets.size());
+  record.ttMisurati.edit().assign(traces.size(), kUnpicked);
+  document.line.edit().goephonesStringSet.emplace_back();
+  for (const double x : geophones)
+    document.line.edit().goephonesStringSet.back().push_back({x, 0.0});
+  document.recordings.edit().traceSets.push_back(std::move(traces));
+  document.ttArray.edit().push_back(record);
 }
 
 }  // namespace talvesk::testing

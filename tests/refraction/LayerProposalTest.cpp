@@ -15,8 +15,8 @@ using testing::DippingLayers;
 /// A few milliseconds of noise, the same every time.
 void shake(TomoDocument& line, double seconds) {
   std::uint32_t state = 12345;
-  for (TravelTime& record : line.ttArray) {
-    for (double& time : record.ttMisurati) {
+  for (TravelTime& record : line.ttArray.edit()) {
+    for (double& time : record.ttMisurati.edit()) {
       state = state * 1664525U + 1013904223U;
       if (time > 0.0) time = std::max(1e-4, time + seconds * (state / 2147483648.0 - 1.0));
     }
@@ -78,8 +78,8 @@ TEST(Proposal, isGoodEnoughForAProfile) {
 TEST(Proposal, marksPicksOnlyAndKeepsWhoIsDisabled) {
   std::vector<layerStruct> truth;
   TomoDocument line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
-  line.ttArray[3].ttMisurati[5] = kNoTime;
-  line.ttArray[3].ttMisurati[6] = kUnpicked;
+  line.ttArray.edit()[3].ttMisurati.edit()[5] = kNoTime;
+  line.ttArray.edit()[3].ttMisurati.edit()[6] = kUnpicked;
   truth[4].enabled = false;
   const auto proposed = proposeLayers(shotArrivals(line), truth);
   EXPECT_EQ(proposed[3].layer[5], 0U);

@@ -12,7 +12,7 @@ using refractionDataStructure::layerStruct;
 struct Line {
   Line() : document(testing::testLine(5, 5.0, {0, 20})) {
     testing::pickTwoLayers(document, 500, 50000, 1e6);
-    document.ttArray[1].ttMisurati[2] = kNoTime;
+    document.ttArray.edit()[1].ttMisurati.edit()[2] = kNoTime;
     shots = shotArrivals(document);
     refractionDataStructure::Interpretation all;
     fitToSurvey(document, all);

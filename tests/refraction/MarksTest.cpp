@@ -1,3 +1,4 @@
+#include "model/SurveyLine.h"
 #include "support/RefractionLines.h"
 
 #include <cmath>
@@ -60,14 +61,14 @@ TEST(Marks, ofNoLayerCountAsNone) {
 
 TEST(Arrivals, areFinitePicksUpToTheShorterOfRecordAndString) {
   TomoDocument line = testing::testLine(4, 5.0, {0});
-  line.ttArray[0].ttMisurati = {0.01, kNoTime, std::nan(""), 0.02, 0.03, 0.04};
-  line.goephonesStringSet[0][3].x = std::numeric_limits<double>::infinity();
+  line.ttArray.edit()[0].ttMisurati.edit() = {0.01, kNoTime, std::nan(""), 0.02, 0.03, 0.04};
+  line.line.edit().goephonesStringSet[0][3].x = std::numeric_limits<double>::infinity();
   auto shots = shotArrivals(line);
   EXPECT_EQ(shots[0].times, (std::vector<double>{0.01, 0, 0, 0}));
-  line.ttArray[0].ttMisurati.resize(2);
+  line.ttArray.edit()[0].ttMisurati.edit().resize(2);
   shots = shotArrivals(line);
   EXPECT_EQ(shots[0].receivers.size(), 2U);
-  line.ttArray[0].indexStesa = 9;
+  line.ttArray.edit()[0].indexStesa = 9;
   EXPECT_TRUE(shotArrivals(line)[0].receivers.empty());
 }
 

@@ -24,7 +24,7 @@ TEST(Fingerprint, ofAProfileTellsWhetherPicksHaveChanged) {
   ASSERT_TRUE(buildProfiles(shotArrivals(line), interpretation).built);
   EXPECT_FALSE(picksChangedSince(line, results));
 
-  double& pick = line.ttArray[5].ttMisurati[20];
+  double& pick = line.ttArray.edit()[5].ttMisurati.edit()[20];
   const double before = pick;
   for (const double other : {before + 1e-9, kUnpicked, kNoTime}) {
     pick = other;
@@ -32,7 +32,7 @@ TEST(Fingerprint, ofAProfileTellsWhetherPicksHaveChanged) {
   }
   pick = before;
   EXPECT_FALSE(picksChangedSince(line, results)) << "as it was";
-  double& removed = line.ttArray[2].ttMisurati[7];
+  double& removed = line.ttArray.edit()[2].ttMisurati.edit()[7];
   std::swap(pick, removed);
   EXPECT_TRUE(picksChangedSince(line, results)) << "the same times at other traces";
   interpretation.refractData.picks = 0;

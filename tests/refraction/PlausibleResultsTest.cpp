@@ -102,8 +102,8 @@ TEST(Profile, failsWhereNoGroundIsLikeThat) {
     Interpretation interpretation;
     TomoDocument line =
         testing::standardDippingLine(testing::twoDippingLayers(), interpretation.ttLayer);
-    for (TravelTime& record : line.ttArray) {
-      for (double& time : record.ttMisurati) time *= c.directWave;
+    for (TravelTime& record : line.ttArray.edit()) {
+      for (double& time : record.ttMisurati.edit()) time *= c.directWave;
     }
     testing::arrive(line, interpretation.ttLayer, c.functions);
     const ProfileOutcome outcome = buildProfiles(shotArrivals(line), interpretation);

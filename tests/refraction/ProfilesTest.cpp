@@ -1,4 +1,5 @@
 #include "base/Log.h"
+#include "model/SurveyLine.h"
 #include "refraction/BuildProfiles.h"
 #include "refraction/Profile.h"
 #include "support/ConsoleCapture.h"
@@ -84,7 +85,7 @@ TEST(Profile, recoversTwoDippingRefractors) {
 /// As on most lines: no refracted arrivals near the shot at the far end.
 void endReverseCurve(const TomoDocument& line, double end, Interpretation& interpretation) {
   for (std::size_t shot = 0; shot < line.ttArray.size(); ++shot) {
-    const auto& receivers = line.goephonesStringSet[0];
+    const auto& receivers = line.line->goephonesStringSet[0];
     for (std::size_t i = 0; i < receivers.size(); ++i) {
       const bool facesEnd = receivers[i].x < line.ttArray[shot].shotPos2d.x;
       if (facesEnd && receivers[i].x > end) interpretation.ttLayer[shot].layer[i] = 0;
@@ -226,10 +227,10 @@ TEST(Profile, tellsWhereARefractorIsSlowerThanTheLayerAbove) {
   TomoDocument line =
       testing::standardDippingLine(testing::twoDippingLayers(), interpretation.ttLayer);
   // Direct waves that seem to be faster than anything below.
-  for (TravelTime& record : line.ttArray) {
+  for (TravelTime& record : line.ttArray.edit()) {
     for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
       const auto& marks = interpretation.ttLayer[static_cast<std::size_t>(record.traceSetID)];
-      if (marks.layer[i] == 1) record.ttMisurati[i] *= 0.1;
+      if (marks.layer[i] == 1) record.ttMisurati.edit()[i] *= 0.1;
     }
   }
   const ProfileOutcome outcome = buildProfiles(shotArrivals(line), interpretation);

@@ -61,13 +61,13 @@ inline TomoDocument dippingLine(const DippingLayers& ground, int geophones, doub
                                 std::vector<refractionDataStructure::layerStruct>& truth) {
   TomoDocument line = testLine(geophones, spacing, shots);
   truth.clear();
-  for (TravelTime& record : line.ttArray) {
+  for (TravelTime& record : line.ttArray.edit()) {
     refractionDataStructure::layerStruct marks;
     marks.shotID = static_cast<std::uint32_t>(record.traceSetID);
     for (int i = 0; i < geophones; ++i) {
       const auto [time, layer] = ground.firstArrival(record.shotPos2d.x, i * spacing);
       // A geophone at the shot has no time of its own to pick.
-      record.ttMisurati[static_cast<std::size_t>(i)] = time;
+      record.ttMisurati.edit()[static_cast<std::size_t>(i)] = time;
       marks.layer.push_back(time > 0.0 ? layer : refractionDataStructure::kNoLayer);
       marks.trasla.push_back(0.0);
     }
@@ -115,8 +115,8 @@ inline void arrive(TomoDocument& line, std::vector<refractionDataStructure::laye
   }
   for (std::size_t i = 0; i < 60; ++i) {
     const double x = 2.5 * static_cast<double>(i);
-    line.ttArray[kStartShot].ttMisurati[i] = wanted.tG(x) + wanted.tV(x);
-    line.ttArray[kEndShot].ttMisurati[i] = wanted.total + wanted.tG(x) - wanted.tV(x);
+    line.ttArray.edit()[kStartShot].ttMisurati.edit()[i] = wanted.tG(x) + wanted.tV(x);
+    line.ttArray.edit()[kEndShot].ttMisurati.edit()[i] = wanted.total + wanted.tG(x) - wanted.tV(x);
     marks[kStartShot].layer[i] = 2;
     marks[kEndShot].layer[i] = 2;
   }

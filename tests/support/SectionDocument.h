@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "support/TestGrids.h"
 
@@ -15,26 +17,26 @@ inline TomoDocument sectionDocument(
     std::uint32_t rows, std::uint32_t columns, double relief,
     const std::function<double(std::uint32_t, std::uint32_t)>& velocity) {
   TomoDocument document;
-  document.surface = hills(columns, relief);
-  document.xOffset = -99.0;  // the leftmost point, at 100 m, sits at grid x = 1 m
+  document.model.edit().surface = hills(columns, relief);
+  document.model.edit().xOffset = -99.0;  // the leftmost point, at 100 m, sits at grid x = 1 m
   std::vector<double> slownesses;
   for (std::uint32_t row = 0; row < rows; ++row) {
     for (std::uint32_t column = 0; column < columns; ++column) {
       slownesses.push_back(1.0 / velocity(row, column));
     }
   }
-  document.grid = std::make_unique<Grid>(
-      std::make_shared<GridGeometry>(GridSize{rows, columns, 6, 1.0}, document.surface),
+  document.model.edit().grid = std::make_unique<Grid>(
+      std::make_shared<GridGeometry>(GridSize{rows, columns, 6, 1.0}, document.model->surface),
       slownesses);
   std::vector<Point2D> geophones;
   for (double x = 1.0; x <= columns - 1.0; x += 2.0) {
-    geophones.push_back({x - document.xOffset, document.surface(x)});
+    geophones.push_back({x - document.model->xOffset, document.model->surface(x)});
   }
   TravelTime record;
-  record.shotPos2d = {2.0 - document.xOffset, document.surface(2.0)};
-  record.ttMisurati.assign(geophones.size(), 0.01);
-  document.goephonesStringSet.push_back(geophones);
-  document.ttArray.push_back(record);
+  record.shotPos2d = {2.0 - document.model->xOffset, document.model->surface(2.0)};
+  record.ttMisurati.edit().assign(geophones.size(), 0.01);
+  document.line.edit().goephonesStringSet.push_back(geophones);
+  document.ttArray.edit().push_back(record);
   return document;
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "grid/GridBuilder.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,16 +18,16 @@ inline TomoDocument testLine(int geophones, double spacing, const std::vector<do
                              double relief = 0.0) {
   const auto elevation = [relief](double x) { return 100.0 + relief * std::sin(x / 11.0); };
   TomoDocument line;
-  line.goephonesStringSet.emplace_back();
+  line.line.edit().goephonesStringSet.emplace_back();
   for (int i = 0; i < geophones; ++i) {
-    line.goephonesStringSet[0].push_back({i * spacing, elevation(i * spacing)});
+    line.line.edit().goephonesStringSet[0].push_back({i * spacing, elevation(i * spacing)});
   }
   for (const double x : shots) {
     TravelTime record;
     record.shotPos2d = {x, elevation(x)};
-    record.ttMisurati.assign(static_cast<std::size_t>(geophones), kUnpicked);
+    record.ttMisurati.edit().assign(static_cast<std::size_t>(geophones), kUnpicked);
     record.traceSetID = static_cast<std::int32_t>(line.ttArray.size());
-    line.ttArray.push_back(record);
+    line.ttArray.edit().push_back(record);
   }
   return line;
 }
@@ -32,11 +35,11 @@ inline TomoDocument testLine(int geophones, double spacing, const std::vector<do
 /// First arrivals over a level layer on a faster half-space: the earlier of direct and head wave.
 inline void pickTwoLayers(TomoDocument& line, double v1, double v2, double thickness) {
   const double delay = 2.0 * thickness * std::sqrt(1.0 / (v1 * v1) - 1.0 / (v2 * v2));
-  for (TravelTime& record : line.ttArray) {
-    const auto& string = line.goephonesStringSet[record.indexStesa];
+  for (TravelTime& record : line.ttArray.edit()) {
+    const auto& string = line.line->goephonesStringSet[record.indexStesa];
     for (std::size_t i = 0; i < string.size(); ++i) {
       const double offset = std::fabs(string[i].x - record.shotPos2d.x);
-      record.ttMisurati[i] = std::min(offset / v1, offset / v2 + delay);
+      record.ttMisurati.edit()[i] = std::min(offset / v1, offset / v2 + delay);
     }
   }
 }
@@ -44,11 +47,11 @@ inline void pickTwoLayers(TomoDocument& line, double v1, double v2, double thick
 /// A grid under the line with the default model, without the log of the grid command.
 inline void putGrid(TomoDocument& line, double maxDepth, double cellSize, std::uint32_t nodes = 6) {
   const SurveyProfile profile = line.surveyProfile();
-  line.surface = profile.surface();
-  line.xOffset = profile.xOffset;
-  line.grid =
-      buildDefaultGrid(gridSizeFor(profile.arrayLength, maxDepth, cellSize, nodes), line.surface);
-  line.info_density.assign(line.grid->cellCount(), -1.0);
+  line.model.edit().surface = profile.surface();
+  line.model.edit().xOffset = profile.xOffset;
+  line.model.edit().grid = buildDefaultGrid(
+      gridSizeFor(profile.arrayLength, maxDepth, cellSize, nodes), line.model->surface);
+  line.result.edit().info_density.assign(line.model->grid->cellCount(), -1.0);
 }
 
 }  // namespace talvesk::testing

@@ -1,4 +1,7 @@
 #include "TestInversion.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "tomo/GridSetup.h"
 
@@ -26,14 +29,13 @@ TEST(GridSetup, buildsTheGridAndSaysSo) {
                                       "log: Setting Grid ... COMPLETED. ",
                                       "log: Setting info layer ... COMPLETED. "}));
   EXPECT_EQ(console.error(), "");
-  ASSERT_NE(line.grid, nullptr);
-  EXPECT_EQ(line.grid->righe(), 5u);
-  EXPECT_EQ(line.grid->col(), 21u);  // 19.5 m and a metre at each end
-  EXPECT_EQ(line.grid->nV(), 7u);
-  EXPECT_EQ(line.xOffset, 2.5);
-  EXPECT_EQ(line.info_density, std::vector<double>(5 * 21, -1.0));
-  EXPECT_EQ(line.surface(1.0), line.ttArray[0].shotPos2d.z);
-  EXPECT_TRUE(line.modified);
+  ASSERT_NE(line.model->grid, nullptr);
+  EXPECT_EQ(line.model->grid->righe(), 5u);
+  EXPECT_EQ(line.model->grid->col(), 21u);  // 19.5 m and a metre at each end
+  EXPECT_EQ(line.model->grid->nV(), 7u);
+  EXPECT_EQ(line.model->xOffset, 2.5);
+  EXPECT_EQ(line.result->info_density, std::vector<double>(5 * 21, -1.0));
+  EXPECT_EQ(line.model->surface(1.0), line.ttArray[0].shotPos2d.z);
 }
 
 TEST(GridSetup, leavesTheDocumentAloneWhenItFails) {
@@ -44,25 +46,25 @@ TEST(GridSetup, leavesTheDocumentAloneWhenItFails) {
     std::string text;
   } cases[] = {
       {"no strings",
-       [](TomoDocument& d) { d.goephonesStringSet.clear(); },
+       [](TomoDocument& d) { d.line.edit().goephonesStringSet.clear(); },
        {5, 1, 6},
        "Geophones do not have geometry! \nPlease set the position of geophones\n"},
       {"all in one place",
        [](TomoDocument& d) {
-         for (Point2D& p : d.goephonesStringSet[0]) p.x = 0.0;
+         for (Point2D& p : d.line.edit().goephonesStringSet[0]) p.x = 0.0;
        },
        {5, 1, 6},
        "Geophones do not have geometry! \nPlease set the position of geophones\n"},
       {"a place that is none",
-       [](TomoDocument& d) { d.goephonesStringSet[0][3].x = kNaN; },
+       [](TomoDocument& d) { d.line.edit().goephonesStringSet[0][3].x = kNaN; },
        {5, 1, 6},
        "geometry"},
       {"an elevation that is none",
-       [](TomoDocument& d) { d.goephonesStringSet[0][3].z = kNaN; },
+       [](TomoDocument& d) { d.line.edit().goephonesStringSet[0][3].z = kNaN; },
        {5, 1, 6},
        "geometry"},
       {"a shot beyond the Moon",
-       [](TomoDocument& d) { d.ttArray[0].shotPos2d.x = 1e12; },
+       [](TomoDocument& d) { d.ttArray.edit()[0].shotPos2d.x = 1e12; },
        {5, 1, 6},
        "geometry"},
       {"no cell size", [](TomoDocument&) {}, {5, 0, 6}, "cell size"},
@@ -81,21 +83,20 @@ TEST(GridSetup, leavesTheDocumentAloneWhenItFails) {
     TomoDocument line = testing::testLine(10, 2.0, {4.0}, 1.0);
     testing::putGrid(line, 6.0, 1.0);
     c.change(line);
-    line.rays = {{1, 2, 3}};
-    line.has_tomographic_info = true;
-    const Grid* grid = line.grid.get();
-    const double xOffset = line.xOffset;
-    const auto surface = line.surface.X();
+    line.result.edit().rays = {{1, 2, 3}};
+    line.result.edit().has_tomographic_info = true;
+    const Grid* grid = line.model->grid.get();
+    const double xOffset = line.model->xOffset;
+    const auto surface = line.model->surface.X();
 
     const Status status = setUpGrid(line, c.settings, log);
     ASSERT_FALSE(status.ok());
     EXPECT_NE(status.message().find(c.text), std::string::npos) << status.message();
-    EXPECT_EQ(line.grid.get(), grid);
-    EXPECT_EQ(line.xOffset, xOffset);
-    EXPECT_EQ(line.surface.X(), surface);
-    EXPECT_EQ(line.rays.size(), 1u);
-    EXPECT_TRUE(line.has_tomographic_info);
-    EXPECT_FALSE(line.modified);
+    EXPECT_EQ(line.model->grid.get(), grid);
+    EXPECT_EQ(line.model->xOffset, xOffset);
+    EXPECT_EQ(line.model->surface.X(), surface);
+    EXPECT_EQ(line.result->rays.size(), 1u);
+    EXPECT_TRUE(line.result->has_tomographic_info);
     EXPECT_EQ(linesOf(console.error()).back(), "log: Setting Grid ... FAILED. ");
   }
 }
@@ -106,34 +107,34 @@ TEST(GridSetup, buildsAGridWithoutRowsForADepthOfZero) {
   TomoDocument line = testing::testLine(10, 2.0, {4.0});
   const Status status = setUpGrid(line, {0.0, 1.0, 6}, log);
   ASSERT_TRUE(status.ok()) << status.message();
-  EXPECT_EQ(line.grid->righe(), 0u);
-  EXPECT_EQ(line.grid->col(), 20u);
-  EXPECT_TRUE(line.info_density.empty());
+  EXPECT_EQ(line.model->grid->righe(), 0u);
+  EXPECT_EQ(line.model->grid->col(), 20u);
+  EXPECT_TRUE(line.result->info_density.empty());
 }
 
 TEST(GridSetup, forgetsWhatAnInversionLeftInTheGridBefore) {
   const testing::ConsoleCapture console;
   Log log;
   TomoDocument line = testing::testLine(10, 2.0, {4.0});
-  line.rays = {{1, 2, 3}};
-  line.hitCounts = {1};
-  line.coorcount = {1.0};
-  line.has_tomographic_info = true;
-  line.RMSE_tomography = 4.0;
-  line.coverageLimit = {{1.0, 2.0}, {2.0, 2.0}};
-  line.coverageSpline.emplace();
-  line.lastInversion.emplace();
-  line.excluded = {{0, 1, 2.0}};
+  line.result.edit().rays = {{1, 2, 3}};
+  line.result.edit().hitCounts = {1};
+  line.result.edit().coorcount = {1.0};
+  line.result.edit().has_tomographic_info = true;
+  line.result.edit().RMSE_tomography = 4.0;
+  line.result.edit().coverageLimit = {{1.0, 2.0}, {2.0, 2.0}};
+  line.result.edit().coverageSpline.emplace();
+  line.result.edit().lastInversion.emplace();
+  line.result.edit().excluded = {{0, 1, 2.0}};
   ASSERT_TRUE(setUpGrid(line, {5.0, 1.0, 6}, log).ok());
-  EXPECT_TRUE(line.rays.empty());
-  EXPECT_TRUE(line.hitCounts.empty());
-  EXPECT_TRUE(line.coorcount.empty());
-  EXPECT_FALSE(line.has_tomographic_info);
-  EXPECT_LT(line.RMSE_tomography, 0.0);
-  EXPECT_TRUE(line.coverageLimit.empty());
-  EXPECT_FALSE(line.coverageSpline.has_value());
-  EXPECT_FALSE(line.lastInversion.has_value());
-  EXPECT_TRUE(line.excluded.empty());
+  EXPECT_TRUE(line.result->rays.empty());
+  EXPECT_TRUE(line.result->hitCounts.empty());
+  EXPECT_TRUE(line.result->coorcount.empty());
+  EXPECT_FALSE(line.result->has_tomographic_info);
+  EXPECT_LT(line.result->RMSE_tomography, 0.0);
+  EXPECT_TRUE(line.result->coverageLimit.empty());
+  EXPECT_FALSE(line.result->coverageSpline.has_value());
+  EXPECT_FALSE(line.result->lastInversion.has_value());
+  EXPECT_TRUE(line.result->excluded.empty());
 }
 
 TEST(GridSetup, goesOnProposingTheFirstCellSize) {
@@ -146,14 +147,14 @@ TEST(GridSetup, goesOnProposingTheFirstCellSize) {
   EXPECT_EQ(settings.maxDepth, 13.0);  // half of 24 m and two margins
   EXPECT_EQ(settings.nodes, 6u);
   ASSERT_TRUE(setUpGrid(line, {5.0, 1.0, 9}, log).ok());
-  EXPECT_EQ(line.proposedCellSizes, (std::vector<double>{0.5, 0.5}));
+  EXPECT_EQ(line.model->proposedCellSizes, (std::vector<double>{0.5, 0.5}));
 
-  for (Point2D& p : line.goephonesStringSet[0]) p.x *= 2.0;
+  for (Point2D& p : line.line.edit().goephonesStringSet[0]) p.x *= 2.0;
   settings = proposeGrid(line, profile, log);
   EXPECT_EQ(profile.proposedCellSize, 1.0);
   EXPECT_EQ(settings.cellSize, 0.5);
   EXPECT_EQ(settings.nodes, 9u);  // as many as the present grid has
-  EXPECT_EQ(line.proposedCellSizes, (std::vector<double>{0.5, 0.5, 1.0}));
+  EXPECT_EQ(line.model->proposedCellSizes, (std::vector<double>{0.5, 0.5, 1.0}));
 }
 
 TEST(GridSetup, proposesNoSmallerCellsThanUsersMayChoose) {
@@ -162,7 +163,7 @@ TEST(GridSetup, proposesNoSmallerCellsThanUsersMayChoose) {
   TomoDocument line = testing::testLine(24, 0.2, {});
   SurveyProfile profile;
   EXPECT_EQ(proposeGrid(line, profile, log).cellSize, 0.1);
-  EXPECT_EQ(line.proposedCellSizes, std::vector<double>{0.05});
+  EXPECT_EQ(line.model->proposedCellSizes, std::vector<double>{0.05});
 }
 
 TEST(GridSetup, proposesHalfAMetreWhereNothingIsKnown) {
@@ -171,7 +172,7 @@ TEST(GridSetup, proposesHalfAMetreWhereNothingIsKnown) {
   TomoDocument empty;
   SurveyProfile profile;
   EXPECT_EQ(proposeGrid(empty, profile, log).cellSize, 0.5);
-  EXPECT_TRUE(empty.proposedCellSizes.empty());
+  EXPECT_TRUE(empty.model->proposedCellSizes.empty());
 }
 
 }  // namespace

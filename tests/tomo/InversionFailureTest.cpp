@@ -1,4 +1,6 @@
 #include "TestInversion.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 
 #include <functional>
@@ -24,14 +26,18 @@ TEST(Inversion, refusesWhatItCannotRunWith) {
     std::string text;
   };
   const Case cases[] = {
-      {"no grid", [](TomoDocument& d, TomographyParameters&) { d.grid.reset(); }, "no grid"},
+      {"no grid", [](TomoDocument& d, TomographyParameters&) { d.model.edit().grid.reset(); },
+       "no grid"},
       {"a grid without rows",
        [](TomoDocument& d, TomographyParameters&) {
-         d.grid = buildDefaultGrid({0, 10, 6, 1.0}, d.surface);
+         d.model.edit().grid = buildDefaultGrid({0, 10, 6, 1.0}, d.model->surface);
        },
        "no grid with cells"},
       {"a cell without velocity",
-       [](TomoDocument& d, TomographyParameters&) { d.grid->setSlowness(3, 0.0); }, "cell 3 "},
+       [](TomoDocument& d, TomographyParameters&) {
+         d.model.edit().editGrid().setSlowness(3, 0.0);
+       },
+       "cell 3 "},
       {"no iterations", [](TomoDocument&, TomographyParameters& p) { p.externalIterations = 0; },
        "1 at least"},
       {"no solver iterations",
@@ -53,14 +59,15 @@ TEST(Inversion, refusesWhatItCannotRunWith) {
     TomoDocument line = twoLayers();
     TomographyParameters p = fewIterations();
     c.change(line, p);
-    const std::vector<double> before = line.grid ? line.grid->slownesses() : std::vector<double>();
+    const std::vector<double> before =
+        line.model->grid ? line.model->grid->slownesses() : std::vector<double>();
     Log log;
     const TomographyResult result = runInversion(line, p, log);
     EXPECT_FALSE(result.status.ok());
     EXPECT_NE(result.status.message().find(c.text), std::string::npos) << result.status.message();
     EXPECT_EQ(result.iterationsDone, 0);
-    EXPECT_FALSE(line.has_tomographic_info);
-    EXPECT_EQ(line.grid ? line.grid->slownesses() : std::vector<double>(), before);
+    EXPECT_FALSE(line.result->has_tomographic_info);
+    EXPECT_EQ(line.model->grid ? line.model->grid->slownesses() : std::vector<double>(), before);
   }
 }
 
@@ -103,7 +110,7 @@ TEST(Inversion, goesBackToTheLastCompletedIterationWhenOneFails) {
       ASSERT_TRUE(runInversion(line, fewIterations(1, 3), log).status.ok());
       ASSERT_TRUE(runInversion(expected, fewIterations(1, 3), log).status.ok());
     }
-    const Grid* grid = line.grid.get();
+    const Grid* grid = line.model->grid.get();
     std::vector<double> slownesses;
     Status status;
     {
@@ -112,12 +119,12 @@ TEST(Inversion, goesBackToTheLastCompletedIterationWhenOneFails) {
     }
     ASSERT_FALSE(status.ok());
     EXPECT_NE(status.message().find("the console is gone"), std::string::npos);
-    EXPECT_EQ(line.grid.get(), grid);
-    EXPECT_EQ(line.grid->slownesses(), expected.grid->slownesses());
-    EXPECT_EQ(line.hitCounts, expected.hitCounts);
-    EXPECT_EQ(line.coorcount, expected.coorcount);
-    EXPECT_EQ(line.rays, expected.rays);
-    EXPECT_EQ(line.coverageLimit, expected.coverageLimit);
+    EXPECT_EQ(line.model->grid.get(), grid);
+    EXPECT_EQ(line.model->grid->slownesses(), expected.model->grid->slownesses());
+    EXPECT_EQ(line.result->hitCounts, expected.result->hitCounts);
+    EXPECT_EQ(line.result->coorcount, expected.result->coorcount);
+    EXPECT_EQ(line.result->rays, expected.result->rays);
+    EXPECT_EQ(line.result->coverageLimit, expected.result->coverageLimit);
     for (std::size_t s = 0; s < 5; ++s) {
       EXPECT_EQ(line.ttArray[s].ttCalcolati, expected.ttArray[s].ttCalcolati);
     }
@@ -126,20 +133,20 @@ TEST(Inversion, goesBackToTheLastCompletedIterationWhenOneFails) {
 
 TEST(Inversion, knowsStillWhatTheRaysLeaveOutWhenTheNextOneFails) {
   TomoDocument line = twoLayers();
-  line.ttArray[1].shotPos2d.x = 500.0;
+  line.ttArray.edit()[1].shotPos2d.x = 500.0;
   Log log;
   {
     const testing::ConsoleCapture console;
     ASSERT_TRUE(runInversion(line, fewIterations(1, 1), log).status.ok());
   }
-  ASSERT_EQ(line.excluded.size(), 1u);
+  ASSERT_EQ(line.result->excluded.size(), 1u);
   {
     const BrokenConsole console("Forwarding");
     EXPECT_FALSE(runInversion(line, fewIterations(1, 1), log).status.ok());
   }
-  EXPECT_EQ(line.rays.size(), 4u * 24u);
-  ASSERT_EQ(line.excluded.size(), 1u);
-  EXPECT_EQ(line.excluded[0].shot, 1);
+  EXPECT_EQ(line.result->rays.size(), 4u * 24u);
+  ASSERT_EQ(line.result->excluded.size(), 1u);
+  EXPECT_EQ(line.result->excluded[0].shot, 1);
 }
 
 TEST(Inversion, letsNothingEscapeItsLastSteps) {
@@ -151,7 +158,7 @@ TEST(Inversion, letsNothingEscapeItsLastSteps) {
   const TomographyResult result = runInversion(line, p, log);
   EXPECT_FALSE(result.status.ok());
   EXPECT_EQ(result.iterationsDone, 1);
-  EXPECT_TRUE(line.has_tomographic_info);
+  EXPECT_TRUE(line.result->has_tomographic_info);
 }
 
 }  // namespace

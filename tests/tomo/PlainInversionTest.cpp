@@ -1,3 +1,6 @@
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "support/ReferenceSearch.h"
 #include "support/TestSurveys.h"
@@ -16,13 +19,15 @@ namespace {
 class PlainIteration {
  public:
   explicit PlainIteration(TomoDocument& document)
-      : mDocument(document), mGrid(*document.grid), hitCounts(mGrid.cellCount(), 0) {
+      : mDocument(document),
+        mGrid(document.model.edit().editGrid()),
+        hitCounts(mGrid.cellCount(), 0) {
     const reference::Graph graph(mGrid);
     for (const TravelTime& shot : document.ttArray) {
       const std::uint32_t source = topNode(shot.shotPos2d.x);
       const reference::Paths paths = reference::search(graph, source);
       mRays.emplace_back();
-      for (const Point2D& geophone : document.goephonesStringSet[shot.indexStesa]) {
+      for (const Point2D& geophone : document.line->goephonesStringSet[shot.indexStesa]) {
         std::vector<GridEdge> ray;
         for (std::uint32_t n = topNode(geophone.x); n != source; n = paths.predecessor[n]) {
           ray.push_back(paths.predecessorEdge[n]);
@@ -42,7 +47,8 @@ class PlainIteration {
 
  private:
   std::uint32_t topNode(double x) const {
-    return static_cast<std::uint32_t>((x + mDocument.xOffset) / (mGrid.aLato() / (mGrid.nV() - 1)));
+    return static_cast<std::uint32_t>((x + mDocument.model->xOffset) /
+                                      (mGrid.aLato() / (mGrid.nV() - 1)));
   }
 
   void evaluate() {
@@ -85,8 +91,8 @@ class PlainIteration {
     } else if (1.0 / next > 1.4 * v) {
       next = s * 0.7142857142857143;
     }
-    if (1.0 / next < mDocument.minVelocity) next = 1.0 / mDocument.minVelocity;
-    if (1.0 / next > mDocument.maxVelocity) next = 1.0 / mDocument.maxVelocity;
+    if (1.0 / next < mDocument.model->minVelocity) next = 1.0 / mDocument.model->minVelocity;
+    if (1.0 / next > mDocument.model->maxVelocity) next = 1.0 / mDocument.model->maxVelocity;
     mGrid.setSlowness(c, next);
   }
 
@@ -103,8 +109,8 @@ class PlainIteration {
 TomoDocument hillyLine() {
   TomoDocument line = testing::testLine(12, 2.0, {-1.0, 8.0, 12.5, 23.0}, 2.0);
   testing::pickTwoLayers(line, 350.0, 1500.0, 2.0);
-  line.ttArray[1].ttMisurati[3] = kNoTime;
-  line.ttArray[2].ttMisurati[7] = kUnpicked;
+  line.ttArray.edit()[1].ttMisurati.edit()[3] = kNoTime;
+  line.ttArray.edit()[2].ttMisurati.edit()[7] = kUnpicked;
   testing::putGrid(line, 8.0, 1.0);
   return line;
 }
@@ -122,14 +128,14 @@ TEST(ExternalIteration, equalsThePlainOneToTheLastBit) {
           line.runTomography_fast(slownesses, threads, solverIterations, 2, false, 3, log).ok());
       PlainIteration iteration(plain);
       iteration.run(solverIterations);
-      EXPECT_EQ(line.grid->slownesses(), plain.grid->slownesses());
-      EXPECT_EQ(line.hitCounts, iteration.hitCounts);
-      EXPECT_EQ(line.coorcount, iteration.coorcount);
+      EXPECT_EQ(line.model->grid->slownesses(), plain.model->grid->slownesses());
+      EXPECT_EQ(line.result->hitCounts, iteration.hitCounts);
+      EXPECT_EQ(line.result->coorcount, iteration.coorcount);
       for (std::size_t s = 0; s < 4; ++s) {
         EXPECT_EQ(line.ttArray[s].ttCalcolati, iteration.computed[s]);
       }
-      EXPECT_EQ(slownesses,
-                smoothSlowness(SmoothingType::kRayBased, *plain.grid, iteration.hitCounts, 2, 0.7));
+      EXPECT_EQ(slownesses, smoothSlowness(SmoothingType::kRayBased, *plain.model->grid,
+                                           iteration.hitCounts, 2, 0.7));
     }
   }
 }

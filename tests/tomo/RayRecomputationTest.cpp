@@ -1,4 +1,6 @@
 #include "TestInversion.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "tomo/RayRecomputation.h"
 
@@ -21,15 +23,16 @@ TEST(RayRecomputation, bringsBackRaysAndTimesAndChangesNoModel) {
     ASSERT_TRUE(runInversion(line, fewIterations(1, 1), log).status.ok());
   }
   TomoDocument loaded = twoLayers(1.0);
-  loaded.grid = std::make_unique<Grid>(line.grid->sharedGeometry(), line.grid->slownesses());
-  loaded.has_tomographic_info = true;
-  loaded.rays = {{7}};
+  loaded.model.edit().grid =
+      std::make_unique<Grid>(line.model->grid->sharedGeometry(), line.model->grid->slownesses());
+  loaded.result.edit().has_tomographic_info = true;
+  loaded.result.edit().rays = {{7}};
   const testing::ConsoleCapture console;
   ASSERT_TRUE(recomputeRays(loaded, log).ok());
-  EXPECT_EQ(loaded.grid->slownesses(), line.grid->slownesses());
-  EXPECT_EQ(loaded.rays.size(), 5u * 24u);
-  EXPECT_EQ(loaded.coorcount, std::vector<double>(line.grid->cellCount(), 0.0));
-  EXPECT_EQ(loaded.hitCounts, std::vector<std::uint32_t>(line.grid->cellCount(), 0));
+  EXPECT_EQ(loaded.model->grid->slownesses(), line.model->grid->slownesses());
+  EXPECT_EQ(loaded.result->rays.size(), 5u * 24u);
+  EXPECT_EQ(loaded.result->coorcount, std::vector<double>(line.model->grid->cellCount(), 0.0));
+  EXPECT_EQ(loaded.result->hitCounts, std::vector<std::uint32_t>(line.model->grid->cellCount(), 0));
   EXPECT_EQ(linesOf(console.out()),
             (std::vector<std::string>{
                 " --- Creating and running thread 0", " --- Creating and running thread 1",
@@ -40,7 +43,7 @@ TEST(RayRecomputation, bringsBackRaysAndTimesAndChangesNoModel) {
   std::vector<double> slownesses;
   const testing::ConsoleCapture quiet;
   ASSERT_TRUE(line.runTomography_fast(slownesses, 1, 1, 2, false, 3, log).ok());
-  EXPECT_EQ(loaded.rays, line.rays);
+  EXPECT_EQ(loaded.result->rays, line.result->rays);
   for (std::size_t s = 0; s < 5; ++s) {
     EXPECT_EQ(loaded.ttArray[s].ttCalcolati, line.ttArray[s].ttCalcolati);
   }
@@ -50,9 +53,9 @@ TEST(RayRecomputation, failsWithoutAGridOrAVelocity) {
   const testing::ConsoleCapture console;
   Log log;
   TomoDocument line = twoLayers();
-  line.grid->setSlowness(2, std::numeric_limits<double>::infinity());
+  line.model.edit().editGrid().setSlowness(2, std::numeric_limits<double>::infinity());
   EXPECT_FALSE(recomputeRays(line, log).ok());
-  line.grid.reset();
+  line.model.edit().grid.reset();
   EXPECT_FALSE(recomputeRays(line, log).ok());
 }
 

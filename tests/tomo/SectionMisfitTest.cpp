@@ -1,8 +1,8 @@
 #include "TestInversion.h"
 #include "model/Residuals.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "tomo/GridSetup.h"
-#include "tomo/InversionCopy.h"
 #include "tomo/RayRecomputation.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ Inverted run(int iterations) {
 /// Misfit of fresh times through what the document holds.
 SectionMisfit traced(const TomoDocument& document) {
   const testing::ConsoleCapture console;
-  TomoDocument copy = inversionCopy(document);
+  TomoDocument copy = document;
   Log log;
   EXPECT_TRUE(recomputeRays(copy, log).ok());
   return misfitOfTimes(copy);
@@ -48,14 +48,14 @@ void expectSame(const SectionMisfit& a, const SectionMisfit& b) {
 
 TEST(SectionMisfit, isThatOfFreshRaysThroughWhatIsShown) {
   const Inverted three = run(3);
-  EXPECT_TRUE(three.line.timesOfSection);
+  EXPECT_TRUE(three.line.result->timesOfSection);
   expectSame(three.result.sectionMisfit, traced(three.line));
   expectSame(sectionMisfitOf(three.line), three.result.sectionMisfit);
   EXPECT_GE(three.result.sectionMisfit.maxAbs, three.result.sectionMisfit.rmse);
   // The solver's own figures stay those of its last pass.
-  TomoDocument lastPass = inversionCopy(three.line);
+  TomoDocument lastPass = three.line;
   for (std::size_t s = 0; s < lastPass.ttArray.size(); ++s) {
-    lastPass.ttArray[s].ttCalcolati = three.result.lastPassTimes.at(s);
+    lastPass.ttArray.edit()[s].ttCalcolati.edit() = three.result.lastPassTimes.at(s);
   }
   EXPECT_EQ(computeMisfit(lastPass).rmse, three.result.misfit.rmse);
   EXPECT_EQ(three.result.history.back().rmse, three.result.misfit.rmse);
@@ -63,7 +63,7 @@ TEST(SectionMisfit, isThatOfFreshRaysThroughWhatIsShown) {
 }
 
 TEST(SectionMisfit, isKnownOfTheStartingModelAndAfterEveryIteration) {
-  const std::vector<SectionMisfit> history = run(3).line.lastInversion->sectionHistory;
+  const std::vector<SectionMisfit> history = run(3).line.result->lastInversion->sectionHistory;
   ASSERT_EQ(history.size(), 4U);
   expectSame(history[0], traced(twoLayers(1.5)));
   for (int iterations = 1; iterations <= 3; ++iterations) {
@@ -82,15 +82,15 @@ TEST(SectionMisfit, isThatOfTheLastWholeIterationAfterAStop) {
       [&](const TomographyProgress& progress) { before.push_back(progress.sectionBefore); },
       [&] { return before.size() == 2; });
   ASSERT_TRUE(result.stopped);
-  ASSERT_EQ(line.lastInversion->sectionHistory.size(), 3U);
-  expectSame(before[1], line.lastInversion->sectionHistory[1]);
+  ASSERT_EQ(line.result->lastInversion->sectionHistory.size(), 3U);
+  expectSame(before[1], line.result->lastInversion->sectionHistory[1]);
   expectSame(result.sectionMisfit, traced(line));
 }
 
 TEST(SectionMisfit, isNotClaimedOfTimesThatBelongToAnotherSection) {
   Inverted one = run(1);
   const testing::ConsoleCapture console;
-  one.line.timesOfSection = false;
+  one.line.result.edit().timesOfSection = false;
   EXPECT_EQ(sectionMisfitOf(one.line).count, 0);
   Log log;
   ASSERT_TRUE(recomputeRays(one.line, log).ok());
@@ -105,7 +105,7 @@ TEST(SectionMisfit, isNotClaimedOfTimesThatBelongToAnotherSection) {
 TEST(SectionMisfit, knowsWhenPicksHaveChangedSinceTheInversion) {
   Inverted one = run(1);
   EXPECT_FALSE(picksChangedSince(one.line));
-  std::vector<double>& picks = one.line.ttArray[2].ttMisurati;
+  std::vector<double>& picks = one.line.ttArray.edit()[2].ttMisurati.edit();
   const double pick = picks[3];
   picks[3] = pick + 1e-6;
   EXPECT_TRUE(picksChangedSince(one.line));
@@ -113,7 +113,7 @@ TEST(SectionMisfit, knowsWhenPicksHaveChangedSinceTheInversion) {
   EXPECT_FALSE(picksChangedSince(one.line)) << "as it was before";
   picks[3] = kNoTime;
   EXPECT_TRUE(picksChangedSince(one.line));
-  one.line.lastInversion->picks = 0;
+  one.line.result.edit().lastInversion->picks = 0;
   EXPECT_FALSE(picksChangedSince(one.line)) << "an earlier version did not note them";
 }
 

@@ -77,9 +77,9 @@ TEST(Solver, refusesArraysOfAnotherGrid) {
 
 TomoDocument recordOf(std::vector<double> measured, std::vector<double> computed) {
   TomoDocument document;
-  document.ttArray.resize(1);
-  document.ttArray[0].ttMisurati = std::move(measured);
-  document.ttArray[0].ttCalcolati = std::move(computed);
+  document.ttArray.edit().resize(1);
+  document.ttArray.edit()[0].ttMisurati.edit() = std::move(measured);
+  document.ttArray.edit()[0].ttCalcolati.edit() = std::move(computed);
   return document;
 }
 

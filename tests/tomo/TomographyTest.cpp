@@ -1,4 +1,7 @@
 #include "TestInversion.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "tomo/RayRecomputation.h"
 #include "tomo/TomographyRun.h"
@@ -111,10 +114,10 @@ TEST(Inversion, doesNotDependOnTheNumberOfThreads) {
       std::vector<double> result;
       ASSERT_TRUE(other.runTomography_fast(result, threads, 4, 2, false, type, log).ok());
       EXPECT_EQ(result, slownesses);
-      EXPECT_EQ(other.coorcount, one.coorcount);
-      EXPECT_EQ(other.hitCounts, one.hitCounts);
-      EXPECT_EQ(other.rays, one.rays);
-      EXPECT_EQ(other.grid->slownesses(), one.grid->slownesses());
+      EXPECT_EQ(other.result->coorcount, one.result->coorcount);
+      EXPECT_EQ(other.result->hitCounts, one.result->hitCounts);
+      EXPECT_EQ(other.result->rays, one.result->rays);
+      EXPECT_EQ(other.model->grid->slownesses(), one.model->grid->slownesses());
       for (std::size_t s = 0; s < 5; ++s) {
         EXPECT_EQ(other.ttArray[s].ttCalcolati, one.ttArray[s].ttCalcolati);
       }
@@ -130,9 +133,9 @@ TEST(Inversion, givesTheSameInBothModes) {
   ASSERT_TRUE(runInversion(multi, p, log).status.ok());
   p.singleThread = true;
   ASSERT_TRUE(runInversion(single, p, log).status.ok());
-  EXPECT_EQ(multi.grid->slownesses(), single.grid->slownesses());
-  EXPECT_EQ(multi.info_density, single.info_density);
-  EXPECT_EQ(multi.RMSE_tomography, single.RMSE_tomography);
+  EXPECT_EQ(multi.model->grid->slownesses(), single.model->grid->slownesses());
+  EXPECT_EQ(multi.result->info_density, single.result->info_density);
+  EXPECT_EQ(multi.result->RMSE_tomography, single.result->RMSE_tomography);
 }
 
 TEST(Inversion, finishesTheIterationUnderWayWhenItIsStopped) {
@@ -145,21 +148,21 @@ TEST(Inversion, finishesTheIterationUnderWayWhenItIsStopped) {
         line, fewIterations(5, 2), log,
         [&](const TomographyProgress& state) {
           EXPECT_EQ(state.total, 5);
-          EXPECT_EQ(line.RMSE_tomography, state.misfit.relativeRms * 100.0);
+          EXPECT_EQ(line.result->RMSE_tomography, state.misfit.relativeRms * 100.0);
           if (byFlag && state.completed == 2) line.stopRequested = true;
         },
-        [&] { return !byFlag && line.has_tomographic_info; });
+        [&] { return !byFlag && line.result->has_tomographic_info; });
     ASSERT_TRUE(result.status.ok());
     EXPECT_TRUE(result.stopped);
     EXPECT_EQ(result.iterationsDone, byFlag ? 2 : 1);
     EXPECT_GT(result.misfit.count, 0);
-    EXPECT_EQ(line.RMSE_tomography, result.misfit.relativeRms * 100.0);
-    ASSERT_TRUE(line.lastInversion);
-    EXPECT_TRUE(line.lastInversion->stopped);
-    EXPECT_EQ(line.lastInversion->externalIterations, 5);
-    EXPECT_EQ(line.lastInversion->solverIterations, 2);
-    ASSERT_EQ(line.lastInversion->history.size(), byFlag ? 2u : 1u);
-    EXPECT_EQ(line.lastInversion->history.back().rmse, result.misfit.rmse);
+    EXPECT_EQ(line.result->RMSE_tomography, result.misfit.relativeRms * 100.0);
+    ASSERT_TRUE(line.result->lastInversion);
+    EXPECT_TRUE(line.result->lastInversion->stopped);
+    EXPECT_EQ(line.result->lastInversion->externalIterations, 5);
+    EXPECT_EQ(line.result->lastInversion->solverIterations, 2);
+    ASSERT_EQ(line.result->lastInversion->history.size(), byFlag ? 2u : 1u);
+    EXPECT_EQ(line.result->lastInversion->history.back().rmse, result.misfit.rmse);
     const std::vector<std::string> lines = linesOf(console.out());
     const auto stop = std::find(lines.begin(), lines.end(), "log: Stop Request by the user.");
     ASSERT_NE(stop, lines.end());
@@ -176,8 +179,8 @@ TEST(Inversion, countsItsTimeFromWhenItWasAskedFor) {
   parameters.asked = std::chrono::steady_clock::now() - std::chrono::hours(1);
   const TomographyResult result = runInversion(line, parameters, log);
   EXPECT_GE(result.elapsedSeconds, 3600.0);
-  ASSERT_TRUE(line.lastInversion);
-  EXPECT_EQ(line.lastInversion->elapsedSeconds, result.elapsedSeconds);
+  ASSERT_TRUE(line.result->lastInversion);
+  EXPECT_EQ(line.result->lastInversion->elapsedSeconds, result.elapsedSeconds);
   EXPECT_NE(console.out().find("Elapsed time: 36"), std::string::npos);
 }
 
@@ -187,8 +190,8 @@ TEST(Inversion, makesOneUpdateFromTheForwardPassForASingleSolverIteration) {
   Log log;
   ASSERT_TRUE(runInversion(line, fewIterations(1, 1), log).status.ok());
   EXPECT_EQ(console.out().find("INTERNAL RUN"), std::string::npos);
-  for (const std::uint32_t hits : line.hitCounts) EXPECT_LE(hits, 1u);
-  EXPECT_EQ(*std::max_element(line.hitCounts.begin(), line.hitCounts.end()), 1u);
+  for (const std::uint32_t hits : line.result->hitCounts) EXPECT_LE(hits, 1u);
+  EXPECT_EQ(*std::max_element(line.result->hitCounts.begin(), line.result->hitCounts.end()), 1u);
 }
 
 TEST(Inversion, countsHitsOfTheLastExternalIterationOnly) {
@@ -196,27 +199,27 @@ TEST(Inversion, countsHitsOfTheLastExternalIterationOnly) {
   TomoDocument line = twoLayers();
   Log log;
   ASSERT_TRUE(runInversion(line, fewIterations(3, 4), log).status.ok());
-  EXPECT_EQ(*std::max_element(line.hitCounts.begin(), line.hitCounts.end()), 4u);
+  EXPECT_EQ(*std::max_element(line.result->hitCounts.begin(), line.result->hitCounts.end()), 4u);
   std::size_t rays = 0;
   for (const TravelTime& record : line.ttArray) rays += record.ttMisurati.size();
-  EXPECT_EQ(line.rays.size(), rays);
+  EXPECT_EQ(line.result->rays.size(), rays);
 }
 
 TEST(Inversion, drawsEachColumnDownToItsDeepestHit) {
   const testing::ConsoleCapture console;
   TomoDocument line = twoLayers(1.0);
   // Leaves columns without any ray at the right end.
-  line.goephonesStringSet[0].resize(18);
-  line.ttArray.resize(3);
+  line.line.edit().goephonesStringSet[0].resize(18);
+  line.ttArray.edit().resize(3);
   Log log;
   ASSERT_TRUE(runInversion(line, fewIterations(2, 2), log).status.ok());
-  const Grid& grid = *line.grid;
+  const Grid& grid = *line.model->grid;
   std::vector<Point2D> limit;
   std::uint32_t bare = 0;
   for (std::uint32_t column = 0; column < grid.col(); ++column) {
     std::uint32_t deepest = 0;
     for (std::uint32_t row = 1; row < grid.righe(); ++row) {
-      if (line.hitCounts[grid.cellIndex(row, column)] > 0) deepest = row;
+      if (line.result->hitCounts[grid.cellIndex(row, column)] > 0) deepest = row;
     }
     if (deepest > 0) limit.push_back(grid.cellCentre(grid.cellIndex(deepest, column)));
     bare += deepest == 0;
@@ -225,28 +228,28 @@ TEST(Inversion, drawsEachColumnDownToItsDeepestHit) {
     }
   }
   EXPECT_GT(bare, 0u);
-  EXPECT_EQ(line.coverageLimit, limit);
-  ASSERT_TRUE(line.coverageSpline.has_value());
-  EXPECT_EQ((*line.coverageSpline)(limit[3].x), limit[3].z);
+  EXPECT_EQ(line.result->coverageLimit, limit);
+  ASSERT_TRUE(line.result->coverageSpline.has_value());
+  EXPECT_EQ((*line.result->coverageSpline)(limit[3].x), limit[3].z);
 }
 
 TEST(Inversion, hasNoCoverageCurveForFewerThanTwoColumns) {
   const testing::ConsoleCapture console;
   TomoDocument line = twoLayers();
-  for (TravelTime& record : line.ttArray) {
-    record.ttMisurati.assign(record.ttMisurati.size(), kUnpicked);
+  for (TravelTime& record : line.ttArray.edit()) {
+    record.ttMisurati.edit().assign(record.ttMisurati.size(), kUnpicked);
   }
-  line.coverageLimit = {{1.0, 1.0}};
-  line.RMSE_tomography = 12.5;  // of an inversion before, when there were picks
+  line.result.edit().coverageLimit = {{1.0, 1.0}};
+  line.result.edit().RMSE_tomography = 12.5;  // of an inversion before, when there were picks
   Log log;
   const TomographyResult result = runInversion(line, fewIterations(1, 2), log);
   ASSERT_TRUE(result.status.ok());
-  EXPECT_TRUE(line.coverageLimit.empty());
-  EXPECT_FALSE(line.coverageSpline.has_value());
-  EXPECT_TRUE(line.has_tomographic_info);
+  EXPECT_TRUE(line.result->coverageLimit.empty());
+  EXPECT_FALSE(line.result->coverageSpline.has_value());
+  EXPECT_TRUE(line.result->has_tomographic_info);
   // No pick, no misfit.
   EXPECT_EQ(result.misfit.count, 0);
-  EXPECT_LT(line.RMSE_tomography, 0.0);
+  EXPECT_LT(line.result->RMSE_tomography, 0.0);
   EXPECT_EQ(console.out().find("[LOG] RMSE"), std::string::npos);
 }
 
@@ -272,12 +275,12 @@ TEST(Inversion, fitsTwoLayersBetterThanItsStart) {
   EXPECT_EQ(result.history.back().rmse, result.misfit.rmse);
 
   // Under the middle of the line: slow cover, fast ground below.
-  const Grid& grid = *line.grid;
+  const Grid& grid = *line.model->grid;
   const std::uint32_t middle = grid.col() / 2;
   EXPECT_NEAR(grid.velocity(grid.cellIndex(0, middle)), 450.0, 100.0);
   EXPECT_GT(grid.velocity(grid.cellIndex(5, middle)), 1200.0);
   for (std::uint32_t c = 0; c < grid.cellCount(); ++c) {
-    EXPECT_GT(line.info_density[c], -1.0);
+    EXPECT_GT(line.result->info_density[c], -1.0);
     EXPECT_LE(grid.velocity(c), 3500.0 * (1.0 + 1e-12));
   }
 }
@@ -285,13 +288,13 @@ TEST(Inversion, fitsTwoLayersBetterThanItsStart) {
 TEST(Inversion, namesWhatItLeavesOutOncePerRun) {
   const testing::ConsoleCapture console;
   TomoDocument line = twoLayers();
-  line.ttArray[4].shotPos2d.x = 500.0;
+  line.ttArray.edit()[4].shotPos2d.x = 500.0;
   Log log;
   for (const int runs : {1, 2}) {
     const TomographyResult result = runInversion(line, fewIterations(3, 1), log);
     ASSERT_TRUE(result.status.ok());
     EXPECT_EQ(result.misfit.count, 4 * 24);
-    EXPECT_EQ(line.excluded.size(), 1u);
+    EXPECT_EQ(line.result->excluded.size(), 1u);
     int named = 0;
     for (const std::string& text : linesOf(console.error())) {
       named += text.find("Left out: shot 5 ") != std::string::npos;
@@ -303,12 +306,12 @@ TEST(Inversion, namesWhatItLeavesOutOncePerRun) {
 TEST(Inversion, takesPicksAtTheSourceAsTheyAre) {
   const testing::ConsoleCapture console;
   TomoDocument line = twoLayers();
-  line.ttArray[1].shotPos2d.x = 10.0;      // at a geophone
-  line.ttArray[1].ttMisurati[5] = 0.0005;  // where the computed time is 0
+  line.ttArray.edit()[1].shotPos2d.x = 10.0;             // at a geophone
+  line.ttArray.edit()[1].ttMisurati.edit()[5] = 0.0005;  // where the computed time is 0
   Log log;
   ASSERT_TRUE(runInversion(line, fewIterations(2, 2), log).status.ok());
   EXPECT_EQ(line.ttArray[1].ttCalcolati[5], 0.0);
-  EXPECT_EQ(line.grid->invalidSlowness(), "");
+  EXPECT_EQ(line.model->grid->invalidSlowness(), "");
 }
 
 }  // namespace

@@ -1,3 +1,6 @@
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestSurveys.h"
 #include "tomo/DijkstraComputePathsThread.h"
@@ -18,11 +21,12 @@ class Worker {
  public:
   explicit Worker(TomoDocument& document)
       : mDocument(document), mThread(document, 0, sourceOf(document)) {
-    document.ttArray[0].ttCalcolati.assign(document.ttArray[0].ttMisurati.size(), kNoTime);
+    document.ttArray.edit()[0].ttCalcolati.edit().assign(document.ttArray[0].ttMisurati.size(),
+                                                         kNoTime);
   }
 
   void run() {
-    correction.assign(mDocument.grid->cellCount(), 0.0);
+    correction.assign(mDocument.model->grid->cellCount(), 0.0);
     rayLength = correction;
     mThread.use(mSearch, correction, rayLength);
     mThread.start();
@@ -35,7 +39,7 @@ class Worker {
 
  private:
   static std::uint32_t sourceOf(const TomoDocument& d) {
-    return d.grid->geometry().topNodeIndex(d.ttArray[0].shotPos2d.x + d.xOffset);
+    return d.model->grid->geometry().topNodeIndex(d.ttArray[0].shotPos2d.x + d.model->xOffset);
   }
   TomoDocument& mDocument;
   ShortestPaths mSearch;
@@ -55,7 +59,7 @@ double sum(const std::vector<double>& values) {
 
 TEST(Worker, spreadsTheErrorOfARayAlongItsWay) {
   TomoDocument line = smallLine();
-  line.ttArray[0].ttMisurati[8] = 0.02;
+  line.ttArray.edit()[0].ttMisurati.edit()[8] = 0.02;
   Worker worker(line);
   worker.run();
   ASSERT_EQ(worker.thread().failure(), "");
@@ -63,13 +67,13 @@ TEST(Worker, spreadsTheErrorOfARayAlongItsWay) {
   const Ray& ray = worker.thread().rays()[8];
   double time = 0.0, length = 0.0;
   for (const GridEdge& step : ray.steps) {
-    time += step.length * line.grid->slowness(step.cell);
+    time += step.length * line.model->grid->slowness(step.cell);
     length += step.length;
   }
   EXPECT_EQ(worker.computed(8), time);
   EXPECT_GT(length, 12.0);
   const double perMetre = (time - 0.02) / length;
-  std::vector<double> correction(line.grid->cellCount(), 0.0), rayLength = correction;
+  std::vector<double> correction(line.model->grid->cellCount(), 0.0), rayLength = correction;
   for (const GridEdge& step : ray.steps) {
     correction[step.cell] += perMetre * step.length;
     rayLength[step.cell] += step.length;
@@ -94,7 +98,7 @@ TEST(Worker, addsNothingForRaysThatAskForNothing) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     TomoDocument line = smallLine();
-    line.ttArray[0].ttMisurati[c.receiver] = c.measured;
+    line.ttArray.edit()[0].ttMisurati.edit()[c.receiver] = c.measured;
     Worker worker(line);
     worker.run();
     for (std::size_t i = 0; i < 10; ++i) {
@@ -102,8 +106,8 @@ TEST(Worker, addsNothingForRaysThatAskForNothing) {
       EXPECT_EQ(worker.computed(i) > 0.0, i != 2) << i;
     }
     EXPECT_EQ(worker.computed(2), 0.0);
-    EXPECT_EQ(worker.correction, std::vector<double>(line.grid->cellCount(), 0.0));
-    EXPECT_EQ(worker.rayLength, std::vector<double>(line.grid->cellCount(), 0.0));
+    EXPECT_EQ(worker.correction, std::vector<double>(line.model->grid->cellCount(), 0.0));
+    EXPECT_EQ(worker.rayLength, std::vector<double>(line.model->grid->cellCount(), 0.0));
   }
 }
 
@@ -111,10 +115,10 @@ TEST(Worker, addsNoLengthForAnExactFit) {
   TomoDocument line = smallLine();
   Worker worker(line);
   worker.run();
-  line.ttArray[0].ttMisurati = line.ttArray[0].ttCalcolati;
+  line.ttArray.edit()[0].ttMisurati.edit() = line.ttArray[0].ttCalcolati;
   worker.run();
   EXPECT_EQ(sum(worker.rayLength), 0.0);
-  line.ttArray[0].ttMisurati[9] = std::nextafter(line.ttArray[0].ttMisurati[9], 1.0);
+  line.ttArray.edit()[0].ttMisurati.edit()[9] = std::nextafter(line.ttArray[0].ttMisurati[9], 1.0);
   worker.run();
   EXPECT_GT(sum(worker.rayLength), 13.0);
 }
@@ -128,19 +132,21 @@ TEST(Worker, keepsItsRaysWhenItIsStartedAgain) {
   const std::vector<double> times = line.ttArray[0].ttCalcolati;
 
   // A model that would bend every ray otherwise.
-  for (std::uint32_t c = 0; c < line.grid->cellCount(); ++c) {
-    line.grid->setSlowness(c, c < line.grid->col() ? 1.0 / 5000.0 : 1.0 / 100.0);
+  for (std::uint32_t c = 0; c < line.model->grid->cellCount(); ++c) {
+    line.model.edit().editGrid().setSlowness(
+        c, c < line.model.edit().grid->col() ? 1.0 / 5000.0 : 1.0 / 100.0);
   }
   worker.thread().refreshRayTimes(9);
   for (const GridEdge& step : worker.thread().rays()[9].steps) {
-    EXPECT_EQ(step.time, step.length * line.grid->slowness(step.cell));
+    EXPECT_EQ(step.time, step.length * line.model->grid->slowness(step.cell));
   }
   worker.run();
   for (std::size_t i = 0; i < before.size(); ++i) {
     const Ray& ray = worker.thread().rays()[i];
     EXPECT_EQ(ray.nodes, before[i]);
     double time = 0.0;
-    for (const GridEdge& step : ray.steps) time += step.length * line.grid->slowness(step.cell);
+    for (const GridEdge& step : ray.steps)
+      time += step.length * line.model->grid->slowness(step.cell);
     EXPECT_EQ(worker.computed(i), time);
   }
   EXPECT_NE(line.ttArray[0].ttCalcolati, times);
@@ -150,7 +156,7 @@ TEST(Worker, keepsItsRaysWhenItIsStartedAgain) {
 TEST(Worker, goesAsFarAsStringAndRecordBothGo) {
   for (const std::size_t times : {0, 4, 15}) {
     TomoDocument line = smallLine();
-    line.ttArray[0].ttMisurati.assign(times, 0.01);
+    line.ttArray.edit()[0].ttMisurati.edit().assign(times, 0.01);
     Worker worker(line);
     worker.run();
     EXPECT_EQ(worker.thread().failure(), "");
@@ -198,14 +204,22 @@ TEST(ForwardPass, leavesOutWhatTheGridCannotHold) {
     std::vector<std::pair<int, int>> excluded;  ///< shot and receiver
   } cases[] = {
       {"nothing", [](TomoDocument&) {}, {}},
-      {"a shot to the right", [](TomoDocument& d) { d.ttArray[1].shotPos2d.x = 500.0; }, {{1, -1}}},
-      {"a shot to the left", [](TomoDocument& d) { d.ttArray[2].shotPos2d.x = -5.0; }, {{2, -1}}},
-      {"a shot nowhere", [nan](TomoDocument& d) { d.ttArray[0].shotPos2d.x = nan; }, {{0, -1}}},
+      {"a shot to the right",
+       [](TomoDocument& d) { d.ttArray.edit()[1].shotPos2d.x = 500.0; },
+       {{1, -1}}},
+      {"a shot to the left",
+       [](TomoDocument& d) { d.ttArray.edit()[2].shotPos2d.x = -5.0; },
+       {{2, -1}}},
+      {"a shot nowhere",
+       [nan](TomoDocument& d) { d.ttArray.edit()[0].shotPos2d.x = nan; },
+       {{0, -1}}},
       {"a geophone of all shots",
-       [](TomoDocument& d) { d.goephonesStringSet[0][9].x = 21.5; },
+       [](TomoDocument& d) { d.line.edit().goephonesStringSet[0][9].x = 21.5; },
        {{0, 9}, {1, 9}, {2, 9}}},
-      {"no such string", [](TomoDocument& d) { d.ttArray[1].indexStesa = 1; }, {{1, -1}}},
-      {"a negative string", [](TomoDocument& d) { d.ttArray[1].indexStesa = -1; }, {{1, -1}}},
+      {"no such string", [](TomoDocument& d) { d.ttArray.edit()[1].indexStesa = 1; }, {{1, -1}}},
+      {"a negative string",
+       [](TomoDocument& d) { d.ttArray.edit()[1].indexStesa = -1; },
+       {{1, -1}}},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -213,14 +227,15 @@ TEST(ForwardPass, leavesOutWhatTheGridCannotHold) {
     TomoDocument whole = movedLine(), line = movedLine();
     c.change(line);
     Log log;
-    std::vector<double> coorslow(line.grid->cellCount(), 0.0), coorcount = coorslow;
+    std::vector<double> coorslow(line.model->grid->cellCount(), 0.0), coorcount = coorslow;
     ForwardPass reference(whole, 2, log);
     ASSERT_TRUE(reference.run("all", &coorslow, &coorcount).ok());
     ForwardPass pass(line, 2, log);
     ASSERT_TRUE(pass.run("rest", &coorslow, &coorcount).ok());
 
     std::vector<std::pair<int, int>> excluded;
-    for (const ExcludedPosition& p : line.excluded) excluded.push_back({p.shot, p.receiver});
+    for (const ExcludedPosition& p : line.result->excluded)
+      excluded.push_back({p.shot, p.receiver});
     EXPECT_EQ(excluded, c.excluded);
     EXPECT_EQ(exclusionsIn(console.error()).size(), c.excluded.size());
     for (std::size_t s = 0; s < 3; ++s) {
@@ -240,8 +255,8 @@ TEST(ForwardPass, leavesOutWhatTheGridCannotHold) {
 TEST(ForwardPass, namesExclusionsOnceAndCountsFromOne) {
   const testing::ConsoleCapture console;
   TomoDocument line = movedLine();
-  line.ttArray[1].shotPos2d.x = 500.0;
-  line.goephonesStringSet[0][9].x = std::numeric_limits<double>::quiet_NaN();
+  line.ttArray.edit()[1].shotPos2d.x = 500.0;
+  line.line.edit().goephonesStringSet[0][9].x = std::numeric_limits<double>::quiet_NaN();
   Log log;
   ForwardPass(line, 1, log);
   ForwardPass(line, 1, log);

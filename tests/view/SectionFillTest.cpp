@@ -1,3 +1,4 @@
+#include "model/GroundModel.h"
 #include "support/SectionDocument.h"
 #include "view/ContourBands.h"
 #include "view/RefractorLines.h"
@@ -243,20 +244,20 @@ TEST(SectionScene, aCellWithoutAValueIsNotDrawn) {
 
 TEST(SectionReading, tellsWhatLiesUnderAPosition) {
   TomoDocument document = sectionDocument(8, 30, 2.0, bumpy);
-  document.grid->setDraw(document.grid->cellIndex(5, 12), false);
+  document.model.edit().editGrid().setDraw(document.model.edit().grid->cellIndex(5, 12), false);
   SectionViewSettings settings;
   settings.quantity = SectionQuantity::kVerticalGradient;
   const SectionScene scene = sceneOf(document, settings);
   for (const std::uint32_t row : {0U, 3U, 5U, 7U}) {
-    const std::uint32_t cell = document.grid->cellIndex(row, 12);
-    const Point2D centre = document.grid->cellCentre(cell);
-    const Point2D position{centre.x - document.xOffset, -centre.z};
+    const std::uint32_t cell = document.model->grid->cellIndex(row, 12);
+    const Point2D centre = document.model->grid->cellCentre(cell);
+    const Point2D position{centre.x - document.model->xOffset, -centre.z};
     const SectionReading reading = readSection(scene, position);
     ASSERT_TRUE(reading.depth);
-    EXPECT_NEAR(*reading.depth, document.surface(centre.x) - position.z, 1e-9);
+    EXPECT_NEAR(*reading.depth, document.model->surface(centre.x) - position.z, 1e-9);
     ASSERT_EQ(reading.velocity.has_value(), row != 5U);
     if (!reading.velocity) continue;
-    EXPECT_DOUBLE_EQ(*reading.velocity, document.grid->velocity(cell));
+    EXPECT_DOUBLE_EQ(*reading.velocity, document.model->grid->velocity(cell));
     EXPECT_DOUBLE_EQ(*reading.value, scene.cellValues[cell]);
   }
 }
@@ -296,7 +297,7 @@ TEST(RefractorLines, lieBelowTheSurfaceWhereADepthIsKnown) {
 
 TEST(SectionScene, showsTheLayeredProfileBeforeThereIsAGrid) {
   TomoDocument document = sectionDocument(4, 10, 0.0, layered);
-  document.grid.reset();
+  document.model.edit().grid.reset();
   const SectionLine refractor{"Refractor 1", {{{101.0, 80.0}, {140.0, 82.0}}}};
   SectionViewSettings settings;
   SectionScene scene;

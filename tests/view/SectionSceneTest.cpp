@@ -1,3 +1,6 @@
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
 #include "view/SectionScene.h"
 #include "view/SectionTexts.h"
@@ -33,21 +36,21 @@ TEST(SectionScene, liesInSurveyDistancesAndTrueElevations) {
   for (const std::uint32_t column : {0U, 13U, 30U}) {
     const Point2D& top = scene.mesh.corners[scene.mesh.corner(0, column)];
     EXPECT_DOUBLE_EQ(top.x, column + 99.0);
-    EXPECT_DOUBLE_EQ(top.z, document.surface(column));
+    EXPECT_DOUBLE_EQ(top.z, document.model->surface(column));
   }
   const Point2D& deep = scene.mesh.corners[scene.mesh.corner(8, 0)];
-  EXPECT_NEAR(deep.z, document.surface(0.0) - 8.0, 1e-9);  // the ends are never smoothed
+  EXPECT_NEAR(deep.z, document.model->surface(0.0) - 8.0, 1e-9);  // the ends are never smoothed
   EXPECT_EQ(scene.surface.size(), 30U * 5U + 1U);
-  EXPECT_EQ(scene.geophones, document.goephonesStringSet[0]);
+  EXPECT_EQ(scene.geophones, document.line->goephonesStringSet[0]);
   ASSERT_EQ(scene.shots.size(), 1U);
   EXPECT_EQ(scene.shots[0], document.ttArray[0].shotPos2d);
 }
 
 TEST(SectionScene, showsEveryPlaceOfSeveralStringsOnce) {
   TomoDocument document = sectionDocument(4, 20, 0.0, layered);
-  document.goephonesStringSet.push_back(
+  document.line.edit().goephonesStringSet.push_back(
       {{119.0, 100.0}, {117.0, 100.0}, {101.0, 100.0}, {102.0, 100.0}});
-  document.ttArray.push_back(document.ttArray[0]);
+  document.ttArray.edit().push_back(document.ttArray[0]);
   const SectionScene scene = sceneOf(document);
   ASSERT_EQ(scene.geophones.size(), 13U);  // 100, 102 ... 118 and 101, 117, 119
   for (std::size_t i = 1; i < scene.geophones.size(); ++i) {
@@ -58,7 +61,8 @@ TEST(SectionScene, showsEveryPlaceOfSeveralStringsOnce) {
 
 TEST(SectionScene, cellsThatAreNotDrawnCountForNothing) {
   TomoDocument document = sectionDocument(8, 20, 0.0, layered);
-  for (std::uint32_t cell = 5 * 20; cell < 8 * 20; ++cell) document.grid->setDraw(cell, false);
+  for (std::uint32_t cell = 5 * 20; cell < 8 * 20; ++cell)
+    document.model.edit().editGrid().setDraw(cell, false);
   SectionSceneOptions options;
   options.equallySpacedContours = 20;
   const SectionScene scene = sceneOf(document, options);
@@ -106,19 +110,20 @@ TEST(SectionScene, saysWhyThereIsNothingToShow) {
   }
   options.equallySpacedContours = 0;
   options.quantity = SectionQuantity::kInformationDensity;
-  document.info_density.assign(15, -1.0);  // no inversion yet
+  document.result.edit().info_density.assign(15, -1.0);  // no inversion yet
   EXPECT_THAT(failure(options), HasSubstr("Information density"));
   options.quantity = SectionQuantity::kVelocity;
-  for (std::uint32_t cell = 0; cell < 15; ++cell) document.grid->setDraw(cell, false);
+  for (std::uint32_t cell = 0; cell < 15; ++cell)
+    document.model.edit().editGrid().setDraw(cell, false);
   EXPECT_THAT(failure(options), HasSubstr("no cell"));
-  document.grid.reset();
+  document.model.edit().grid.reset();
   EXPECT_THAT(failure(options), HasSubstr("no grid"));
 }
 
 TEST(SectionScene, raysRunThroughTheNodesOfThisGrid) {
   TomoDocument document = sectionDocument(4, 10, 1.0, layered);
-  const GridGeometry& geometry = document.grid->geometry();
-  document.rays = {{0, geometry.sideNode(1, 2, 0), geometry.nodeCount()}, {3}, {}};
+  const GridGeometry& geometry = document.model->grid->geometry();
+  document.result.edit().rays = {{0, geometry.sideNode(1, 2, 0), geometry.nodeCount()}, {3}, {}};
   EXPECT_TRUE(sceneOf(document).rays.empty());
   SectionSceneOptions options;
   options.rays = true;
@@ -131,25 +136,26 @@ TEST(SectionScene, raysRunThroughTheNodesOfThisGrid) {
 
 TEST(SectionScene, raysOfReceiversWithoutAPickAreLeftOut) {
   TomoDocument document = sectionDocument(4, 10, 0.0, layered);
-  document.ttArray.push_back(document.ttArray[0]);
-  document.excluded = {{0, -1, 0.0}};
-  std::vector<double>& times = document.ttArray[1].ttMisurati;
+  document.ttArray.edit().push_back(document.ttArray[0]);
+  document.result.edit().excluded = {{0, -1, 0.0}};
+  std::vector<double>& times = document.ttArray.edit()[1].ttMisurati.edit();
   ASSERT_EQ(times.size(), 5U);
   times[1] = kUnpicked;
   times[4] = kNoTime;
-  for (std::uint32_t i = 0; i < 5; ++i) document.rays.push_back({0, i + 1});
+  for (std::uint32_t i = 0; i < 5; ++i) document.result.edit().rays.edit().push_back({0, i + 1});
   SectionSceneOptions options;
   options.rays = true;
   EXPECT_EQ(sceneOf(document, options).rays.size(), 3U);
-  document.rays.pop_back();
+  document.result.edit().rays.edit().pop_back();
   EXPECT_EQ(sceneOf(document, options).rays.size(), 4U) << "not the rays of these records";
 }
 
 TEST(SectionScene, theCoverageCurveRunsThroughTheDeepestCentres) {
   TomoDocument document = sectionDocument(4, 10, 0.0, layered);
   EXPECT_TRUE(sceneOf(document).coverageLimit.empty());
-  document.coverageSpline.emplace();
-  document.coverageSpline->build({0.5, 4.5, 9.5}, {-98.5, -96.5, -99.5});  // z downward
+  document.result.edit().coverageSpline.emplace();
+  document.result.edit().coverageSpline->build({0.5, 4.5, 9.5},
+                                               {-98.5, -96.5, -99.5});  // z downward
   const auto curve = sceneOf(document).coverageLimit;
   ASSERT_GE(curve.size(), 10U);
   EXPECT_DOUBLE_EQ(curve.front().x, 99.5);

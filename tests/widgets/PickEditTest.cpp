@@ -44,11 +44,10 @@ class PickEdits : public ::testing::Test {
 };
 
 TEST_F(PickEdits, undoTellsNeverPickedFromRemoved) {
-  mDocument.ttArray[0].ttMisurati = {kUnpicked, kNoTime, 0.02, 0.0};
+  mDocument.ttArray.edit()[0].ttMisurati.edit() = {kUnpicked, kNoTime, 0.02, 0.0};
   change(0, 0.01);
   change(1, 0.01);
   change(2, kNoTime);
-  EXPECT_TRUE(mDocument.modified);
   while (mStack.canUndo()) mStack.undo();
   EXPECT_THAT(mDocument.ttArray[0].ttMisurati, ElementsAre(kUnpicked, kNoTime, 0.02, 0.0));
   while (mStack.canRedo()) mStack.redo();
@@ -83,15 +82,15 @@ TEST_F(PickEdits, ofAHeldKeyAreOne) {
 
 TEST_F(PickEdits, ofTracesThatAreGoneChangeNothing) {
   change(3, 0.01);
-  mDocument.ttArray[0].ttMisurati.resize(2);
+  mDocument.ttArray.edit()[0].ttMisurati.edit().resize(2);
   mStack.undo();
-  mDocument.ttArray.clear();
+  mDocument.ttArray.edit().clear();
   mStack.redo();
   EXPECT_TRUE(mDocument.ttArray.empty());
 }
 
 TEST_F(PickEdits, ofAutomaticPicksConfirmThemUntilUndone) {
-  mDocument.ttArray[0].ttMisurati = {0.01, kNoTime, kUnpicked, 0.02};
+  mDocument.ttArray.edit()[0].ttMisurati.edit() = {0.01, kNoTime, kUnpicked, 0.02};
   autoPickedFrom({0.01, kUnpicked, kUnpicked, kUnpicked});
   EXPECT_TRUE(mReview.waits(0, 0));
   EXPECT_FALSE(mReview.waits(0, 1)) << "what was rejected is no pick";

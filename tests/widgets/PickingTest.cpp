@@ -1,4 +1,5 @@
 #include "WidgetDriver.h"
+#include "model/Recordings.h"
 
 #include <QSignalSpy>
 #include <limits>
@@ -29,7 +30,6 @@ TEST_F(Picking, aClickSetsAPickAtTheTimeUnderTheCursor) {
   }
   EXPECT_EQ(mAdded.count(), 3);
   EXPECT_EQ(mEdited.count(), 3);
-  EXPECT_TRUE(mDocument.modified);
   EXPECT_EQ(mUser.pick(3), kUnpicked);
 }
 
@@ -179,7 +179,8 @@ TEST_F(Picking, autopickingSeveralShotsIsOneEditThatGivesHandPicksBack) {
   const double byHand = mUser.pick(3);
   std::vector<ReplacedPicks> replaced;
   for (const int shot : {0, 1}) {
-    std::vector<double>& times = mDocument.ttArray[static_cast<std::size_t>(shot)].ttMisurati;
+    std::vector<double>& times =
+        mDocument.ttArray.edit()[static_cast<std::size_t>(shot)].ttMisurati.edit();
     replaced.push_back({shot, times});
     times.assign(12, 0.07);
   }
@@ -274,7 +275,7 @@ TEST_F(Picking, restsWhileOnlyTracesAreShown) {
 }
 
 TEST_F(Picking, tracesWithoutATimeInTheRecordAreNotPicked) {
-  mDocument.ttArray[0].ttMisurati.resize(6);
+  mDocument.ttArray.edit()[0].ttMisurati.edit().resize(6);
   mWidget.documentChanged();
   mUser.click(mUser.at(8, 0.05));
   mUser.dragTo(mUser.at(4, 0.05), mUser.at(8, 0.05));
@@ -297,7 +298,7 @@ TEST_F(Picking, tellsWhatIsUnderTheCursor) {
   EXPECT_DOUBLE_EQ(*cursor.offset, 7.0);
   EXPECT_DOUBLE_EQ(*cursor.distance, 6.0);
   EXPECT_DOUBLE_EQ(*cursor.pick, 0.04);
-  const auto& samples = mDocument.traceSets[0][3].samples;
+  const auto& samples = mDocument.recordings->traceSets[0][3].samples;
   EXPECT_EQ(*cursor.amplitude,
             samples[static_cast<std::size_t>(std::lround(*cursor.time / kInterval))]);
   ASSERT_EQ(moved.count(), 1);

@@ -1,3 +1,4 @@
+#include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
 #include "view/SectionScene.h"
 #include "widgets/SectionActors.h"
@@ -14,7 +15,7 @@ namespace {
 SectionScene sceneWithRaysAndContours() {
   TomoDocument document = testing::sectionDocument(
       4, 12, 0.0, [](std::uint32_t row, std::uint32_t) { return 400.0 + 100.0 * row; });
-  document.rays = {{0, 1, 2}};
+  document.result.edit().rays = {{0, 1, 2}};
   SectionSceneOptions options;
   options.rays = true;
   options.equallySpacedContours = 3;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 
 #include <cmath>
@@ -26,8 +28,8 @@ inline Trace testTrace(int trace, double shotX, int samples) {
   result.sourcePosition = {shotX, 0.0};
   for (int k = 0; k < samples; ++k) {
     const double t = k * kInterval - arrival(trace, shotX);
-    result.samples.push_back(t < 0.0 ? 0.0
-                                     : std::exp(-40.0 * t) * std::sin(2.0 * 3.14159265 * 60.0 * t));
+    result.samples.edit().push_back(
+        t < 0.0 ? 0.0 : std::exp(-40.0 * t) * std::sin(2.0 * 3.14159265 * 60.0 * t));
   }
   return result;
 }
@@ -35,17 +37,18 @@ inline Trace testTrace(int trace, double shotX, int samples) {
 /// Shots into one string of geophones, nothing picked.
 inline TomoDocument testShots(int traces, int samples, const std::vector<double>& shots = {-1.0}) {
   TomoDocument document;
-  document.goephonesStringSet.emplace_back();
-  for (int i = 0; i < traces; ++i) document.goephonesStringSet[0].push_back({i * kSpacing, 0.0});
+  document.line.edit().goephonesStringSet.emplace_back();
+  for (int i = 0; i < traces; ++i)
+    document.line.edit().goephonesStringSet[0].push_back({i * kSpacing, 0.0});
   for (const double x : shots) {
     TraceSet set;
     for (int i = 0; i < traces; ++i) set.push_back(testTrace(i, x, samples));
-    document.traceSets.push_back(std::move(set));
+    document.recordings.edit().traceSets.push_back(std::move(set));
     TravelTime record;
     record.shotPos2d = {x, 0.0};
-    record.ttMisurati.assign(static_cast<std::size_t>(traces), kUnpicked);
+    record.ttMisurati.edit().assign(static_cast<std::size_t>(traces), kUnpicked);
     record.traceSetID = static_cast<std::int32_t>(document.ttArray.size());
-    document.ttArray.push_back(std::move(record));
+    document.ttArray.edit().push_back(std::move(record));
   }
   return document;
 }

@@ -1,4 +1,6 @@
 #include "TestShots.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 #include "widgets/TraceGuides.h"
 
 #include <cmath>
@@ -25,7 +27,7 @@ TEST(TraceGuides, theShotStandsBetweenAndBeyondChannels) {
   EXPECT_DOUBLE_EQ(*shotPlace(Seen(document, 0).traces, TraceLayout::byChannel(5)), 1.5);
   EXPECT_DOUBLE_EQ(*shotPlace(Seen(document, 1).traces, TraceLayout::byChannel(5)), -2.0);
   EXPECT_DOUBLE_EQ(*shotPlace(Seen(document, 2).traces, TraceLayout::byChannel(5)), 5.0);
-  document.ttArray[0].shotPos2d.x = NAN;
+  document.ttArray.edit()[0].shotPos2d.x = NAN;
   EXPECT_FALSE(shotPlace(Seen(document).traces, TraceLayout::byChannel(5)));
 }
 
@@ -48,13 +50,13 @@ TEST(TraceGuides, aRulerReadsMetresPerSecondInBothLayouts) {
   EXPECT_NEAR(*apparentVelocity(seen.traces, byDistance, {1.0, 0.010}, {7.0, 0.014}), 6.0 / 0.004,
               1e-9);
   EXPECT_FALSE(apparentVelocity(seen.traces, seen.layout, {1.0, 0.0}, {1.0, 0.1}));
-  document.goephonesStringSet[0].assign(5, {0.0, 0.0});
+  document.line.edit().goephonesStringSet[0].assign(5, {0.0, 0.0});
   EXPECT_FALSE(apparentVelocity(seen.traces, seen.layout, {0.0, 0.0}, {3.0, 0.1}));
 }
 
 TEST(TraceGuides, computedTimesBreakWhereThereAreNone) {
   TomoDocument document = testShots(5, 10);
-  document.ttArray[0].ttCalcolati = {0.0, 0.01, kNoTime, 0.03, NAN};
+  document.ttArray.edit()[0].ttCalcolati.edit() = {0.0, 0.01, kNoTime, 0.03, NAN};
   const Seen seen(document);
   const auto lines = computedLines(seen.traces, seen.layout);
   ASSERT_EQ(lines.size(), 2u);
@@ -65,11 +67,11 @@ TEST(TraceGuides, computedTimesBreakWhereThereAreNone) {
 TEST(TraceGuides, otherShotsCountAtTheSamePlaces) {
   TomoDocument document = testShots(4, 10, {-1.0, 5.0, 9.0});
   // The third shot was recorded by a string that overlaps the first by two geophones.
-  document.goephonesStringSet.push_back({{4.0, 0.0}, {6.0, 0.0}, {8.0, 0.0}});
-  document.ttArray[2].indexStesa = 1;
-  document.ttArray[0].ttMisurati = {0.5, 0.5, 0.5, 0.5};
-  document.ttArray[1].ttMisurati = {kUnpicked, 0.011, kNoTime, 0.013};
-  document.ttArray[2].ttMisurati = {0.021, 0.022, 0.023, 0.024};
+  document.line.edit().goephonesStringSet.push_back({{4.0, 0.0}, {6.0, 0.0}, {8.0, 0.0}});
+  document.ttArray.edit()[2].indexStesa = 1;
+  document.ttArray.edit()[0].ttMisurati.edit() = {0.5, 0.5, 0.5, 0.5};
+  document.ttArray.edit()[1].ttMisurati.edit() = {kUnpicked, 0.011, kNoTime, 0.013};
+  document.ttArray.edit()[2].ttMisurati.edit() = {0.021, 0.022, 0.023, 0.024};
   const Seen seen(document);
   EXPECT_THAT(otherPicks(document, seen.traces, seen.layout),
               ElementsAre(QPointF(1.0, 0.011), QPointF(3.0, 0.013), QPointF(2.0, 0.021),
@@ -78,9 +80,9 @@ TEST(TraceGuides, otherShotsCountAtTheSamePlaces) {
 
 TEST(ShotTraces, readWhatThereIs) {
   TomoDocument document = testShots(3, 100);
-  document.traceSets[0][1].filtered.assign(50, 8.0);
-  document.traceSets[0][2].samples = {1.0, NAN, 3.0};
-  document.traceSets[0][2].sampleInterval = 0.0;
+  document.recordings.edit().traceSets[0][1].filtered.edit().assign(50, 8.0);
+  document.recordings.edit().traceSets[0][2].samples.edit() = {1.0, NAN, 3.0};
+  document.recordings.edit().traceSets[0][2].sampleInterval = 0.0;
   const ShotTraces filtered(&document, 0, true);
   EXPECT_EQ(filtered.samples(1).size(), 50u);
   EXPECT_EQ(filtered.samples(0).size(), 100u) << "no filtered copy: the raw samples";
@@ -88,15 +90,15 @@ TEST(ShotTraces, readWhatThereIs) {
   EXPECT_DOUBLE_EQ(filtered.peak(2), 1.0);
   EXPECT_GT(filtered.interval(2), 0.0);
   EXPECT_EQ(ShotTraces(&document, 0, false).samples(1).size(), 100u);
-  document.traceSets.clear();
+  document.recordings.edit().traceSets.clear();
   EXPECT_TRUE(filtered.samples(0).empty()) << "traces that went away are not read";
   EXPECT_EQ(ShotTraces(&document, 1, false).count(), 0);
 }
 
 TEST(ShotTraces, recordsOfPicksOnlyHaveATimeAxis) {
   TomoDocument document = testShots(3, 100);
-  document.traceSets.clear();
-  document.ttArray[0].ttMisurati = {0.01, 0.2, 1e300};
+  document.recordings.edit().traceSets.clear();
+  document.ttArray.edit()[0].ttMisurati.edit() = {0.01, 0.2, 1e300};
   const ShotTraces traces(&document, 0, false);
   EXPECT_EQ(traces.count(), 3);
   EXPECT_FALSE(traces.hasSamples());

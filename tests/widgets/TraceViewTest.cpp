@@ -1,4 +1,6 @@
 #include "WidgetDriver.h"
+#include "model/Recordings.h"
+#include "model/SurveyLine.h"
 
 #include <QImage>
 #include <QSignalSpy>
@@ -127,7 +129,7 @@ TEST_F(TraceView, keepsTheTimesLookedAtFromShotToShot) {
 
 TEST_F(TraceView, walkingBringsTheTraceIntoSight) {
   mWidget.setWindow({0.0, 6.0, 0.0, 0.05});
-  mDocument.ttArray[0].ttMisurati[23] = 0.4;
+  mDocument.ttArray.edit()[0].ttMisurati.edit()[23] = 0.4;
   mUser.key(Qt::Key_End);
   EXPECT_GT(mWidget.window().right, 23.0);
   EXPECT_LT(mWidget.window().top, 0.4);
@@ -147,7 +149,7 @@ TEST_F(TraceView, theRulerReadsApparentVelocity) {
 }
 
 TEST_F(TraceView, tracesStandAtTheirDistances) {
-  mDocument.goephonesStringSet[0][23].x = 100.0;
+  mDocument.line.edit().goephonesStringSet[0][23].x = 100.0;
   mUser.change([](TraceViewOptions& options) { options.byDistance = true; });
   const double gap = mWidget.pointOf(23, 0.0).x() - mWidget.pointOf(22, 0.0).x();
   const double spacing = mWidget.pointOf(22, 0.0).x() - mWidget.pointOf(21, 0.0).x();
@@ -170,8 +172,8 @@ TEST_F(TraceView, picksAreDrawnOverTheWigglesAndHideOnDemand) {
 }
 
 TEST_F(TraceView, everyGuideShowsAndGoesAgain) {
-  mDocument.ttArray[0].ttCalcolati.assign(24, 0.25);
-  mDocument.ttArray[1].ttMisurati.assign(24, 0.35);
+  mDocument.ttArray.edit()[0].ttCalcolati.edit().assign(24, 0.25);
+  mDocument.ttArray.edit()[1].ttMisurati.edit().assign(24, 0.35);
   const QImage bare = picture();
   const TraceViewOptions none = mWidget.options();
   const std::vector<bool TraceViewOptions::*> guides{&TraceViewOptions::airWave,
@@ -189,7 +191,8 @@ TEST_F(TraceView, everyGuideShowsAndGoesAgain) {
 
 TEST_F(TraceView, followsChangesOfSamplesAndPalette) {
   const QImage before = picture();
-  for (Trace& trace : mDocument.traceSets[0]) trace.filtered.assign(1000, 0.0);
+  for (Trace& trace : mDocument.recordings.edit().traceSets[0])
+    trace.filtered.edit().assign(1000, 0.0);
   mWidget.documentChanged();
   EXPECT_GT(differing(picture(), before), 1000);
   mUser.change([](TraceViewOptions& options) { options.showFiltered = false; });
@@ -204,19 +207,19 @@ TEST_F(TraceView, followsChangesOfSamplesAndPalette) {
 TEST_F(TraceView, survivesWhateverTheDocumentHolds) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const double huge = std::numeric_limits<double>::max();
-  TraceSet& set = mDocument.traceSets[0];
-  set[0].samples.clear();
-  set[1].samples.assign(1000, nan);
-  set[2].samples.assign(1, 1.0);
-  set[3].samples = {huge, -huge, huge};
+  TraceSet& set = mDocument.recordings.edit().traceSets[0];
+  set[0].samples.edit().clear();
+  set[1].samples.edit().assign(1000, nan);
+  set[2].samples.edit().assign(1, 1.0);
+  set[3].samples.edit() = {huge, -huge, huge};
   set[4].sampleInterval = huge;
   set[5].sampleInterval = nan;
   set[6].sampleInterval = 1e-300;
-  mDocument.goephonesStringSet[0][7].x = nan;
-  mDocument.goephonesStringSet[0][8].x = 1e300;
-  mDocument.ttArray[0].ttMisurati = {nan, huge, 1e300, -1.0, 0.1};
-  mDocument.ttArray[0].ttCalcolati = {nan, huge};
-  mDocument.ttArray[0].shotPos2d.x = nan;
+  mDocument.line.edit().goephonesStringSet[0][7].x = nan;
+  mDocument.line.edit().goephonesStringSet[0][8].x = 1e300;
+  mDocument.ttArray.edit()[0].ttMisurati.edit() = {nan, huge, 1e300, -1.0, 0.1};
+  mDocument.ttArray.edit()[0].ttCalcolati.edit() = {nan, huge};
+  mDocument.ttArray.edit()[0].shotPos2d.x = nan;
   for (const bool byDistance : {false, true}) {
     TraceViewOptions options;
     options.byDistance = byDistance;
@@ -262,8 +265,8 @@ TEST_F(TraceView, saysWhatToDoWhenThereIsNothing) {
 }
 
 TEST_F(TraceView, editsRecordsThatHavePicksOnly) {
-  mDocument.traceSets.clear();
-  mDocument.ttArray[0].ttMisurati.assign(24, 0.1);
+  mDocument.recordings.edit().traceSets.clear();
+  mDocument.ttArray.edit()[0].ttMisurati.edit().assign(24, 0.1);
   mWidget.documentChanged();
   EXPECT_NEAR(mWidget.window().bottom, 0.12, 1e-12);
   mUser.dragTo(mUser.at(4, 0.1), mUser.at(4, 0.05));

@@ -68,7 +68,7 @@ class WidgetDriver {
         .ttMisurati[static_cast<std::size_t>(trace)];
   }
   void setPick(int trace, double time) {
-    document.ttArray[0].ttMisurati[static_cast<std::size_t>(trace)] = time;
+    document.ttArray.edit()[0].ttMisurati.edit()[static_cast<std::size_t>(trace)] = time;
   }
   void change(void (*edit)(TraceViewOptions&)) {
     TraceViewOptions options = widget.options();

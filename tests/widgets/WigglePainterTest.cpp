@@ -1,4 +1,5 @@
 #include "TestShots.h"
+#include "model/Recordings.h"
 #include "widgets/WigglePainter.h"
 
 #include <QColor>
@@ -19,7 +20,7 @@ class Wiggles : public ::testing::Test {
     mColors.positive = Qt::blue;
     mColors.negative = Qt::red;
     mDocument = testing::testShots(1, 100);
-    mDocument.traceSets[0][0].sampleInterval = 0.001;
+    mDocument.recordings.edit().traceSets[0][0].sampleInterval = 0.001;
   }
   void paint(int side = 100) {
     const ShotTraces traces(&mDocument, 0, mOptions.showFiltered);
@@ -35,7 +36,9 @@ class Wiggles : public ::testing::Test {
     }
     return found;
   }
-  std::vector<double>& samples() { return mDocument.traceSets[0][0].samples; }
+  std::vector<double>& samples() {
+    return mDocument.recordings.edit().traceSets[0][0].samples.edit();
+  }
 
   TomoDocument mDocument;
   TraceViewOptions mOptions;
@@ -75,7 +78,7 @@ TEST_F(Wiggles, endAtTheNeighbourWhenCut) {
 TEST_F(Wiggles, showASpikeOfOneSampleInALongRecord) {
   samples().assign(100000, 0.0);
   samples()[40000] = 5.0;
-  mDocument.traceSets[0][0].sampleInterval = 1e-6;
+  mDocument.recordings.edit().traceSets[0][0].sampleInterval = 1e-6;
   paint();
   EXPECT_NE(mImage.pixelColor(65, 40), QColor(Qt::white));
   EXPECT_EQ(mImage.pixelColor(65, 42), QColor(Qt::white));
@@ -106,8 +109,8 @@ TEST_F(Wiggles, coverEveryRowWithoutGaps) {
 }
 
 TEST_F(Wiggles, compareAmplitudesOnlyWhenTheShotIsScaledAsAWhole) {
-  mDocument.traceSets[0].push_back(mDocument.traceSets[0][0]);
-  for (double& v : mDocument.traceSets[0][1].samples) v *= 100.0;
+  mDocument.recordings.edit().traceSets[0].push_back(mDocument.recordings->traceSets[0][0]);
+  for (double& v : mDocument.recordings.edit().traceSets[0][1].samples.edit()) v *= 100.0;
   mOptions.fillWiggle = true;
   paint();
   const int each = count(Qt::blue);
