@@ -10,7 +10,7 @@
 namespace talvesk {
 
 class TomoDocument;
-struct TraceWindow;
+struct ViewWindow;
 
 /// The travel-time curves of a survey, distance to the right and time upward: a preview of the
 /// current shot, or the page of all shots with legend and buttons.
@@ -55,7 +55,7 @@ class TravelTimePlot : public QWidget {
   bool isEmpty() const;  ///< there is no time to draw; a text says what to do
 
   /// The part that is seen: metres, and seconds with `top` the earliest.
-  const TraceWindow& window() const;
+  const ViewWindow& window() const;
   bool canZoomBack() const;
   bool canZoomForward() const;
   /// Where a pick is, in coordinates of canvas(); none without one.

@@ -49,8 +49,8 @@ struct TravelTimePlot::State {
   void walk(int curves);
 
   // --- View.
-  TraceWindow wholeWindow() const;
-  void show(const TraceWindow& wanted, Step step);
+  ViewWindow wholeWindow() const;
+  void show(const ViewWindow& wanted, Step step);
   void applyWindow();
   void zoomAbout(const QPointF& point, double byPosition, double byTime, Step step);
   void zoomAboutMiddle(double by);
@@ -92,7 +92,7 @@ struct TravelTimePlot::State {
   bool measuredShown = true;
   bool computedShown = true;
 
-  TraceWindow window;
+  ViewWindow window;
   bool movedByUser = false;  ///< else the window follows size and document
   bool layingOut = false;
   ViewHistory history;
@@ -103,7 +103,7 @@ struct TravelTimePlot::State {
   Qt::KeyboardModifiers dragModifiers;
   QPointF pressed;
   QPointF dragged;
-  TraceWindow pressedWindow;
+  ViewWindow pressedWindow;
   std::optional<PickAt> grabbed;
   std::optional<PickAt> hovered;
 

@@ -26,7 +26,7 @@ double padding(double room, double span) {
 
 }  // namespace
 
-TraceWindow TravelTimePlot::State::wholeWindow() const {
+ViewWindow TravelTimePlot::State::wholeWindow() const {
   const QRect canvas = plot->canvas()->contentsRect();
   const double span = curves.high > curves.low ? curves.high - curves.low : 2.0;
   const double middle = 0.5 * (curves.low + curves.high);
@@ -36,9 +36,9 @@ TraceWindow TravelTimePlot::State::wholeWindow() const {
   return {middle - side, middle + side, -above, latest + above};
 }
 
-void TravelTimePlot::State::show(const TraceWindow& wanted, Step step) {
-  const TraceWindow whole = wholeWindow();
-  const TraceWindow next =
+void TravelTimePlot::State::show(const ViewWindow& wanted, Step step) {
+  const ViewWindow whole = wholeWindow();
+  const ViewWindow next =
       confined(wanted, whole, whole.width() / kMostMagnified, whole.height() / kMostMagnified);
   if (step != Step::Silent && next != window) {
     const bool same =
@@ -147,7 +147,7 @@ void TravelTimePlot::State::paintOverlay(QPainter& painter) const {
   }
 }
 
-const TraceWindow& TravelTimePlot::window() const {
+const ViewWindow& TravelTimePlot::window() const {
   return mState->window;
 }
 

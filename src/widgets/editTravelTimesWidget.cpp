@@ -172,11 +172,11 @@ void editTravelTimesWidget::selectTraces(int first, int last) {
   mState->select(first, last);
 }
 
-const TraceWindow& editTravelTimesWidget::window() const {
+const ViewWindow& editTravelTimesWidget::window() const {
   return mState->window;
 }
 
-void editTravelTimesWidget::setWindow(const TraceWindow& window) {
+void editTravelTimesWidget::setWindow(const ViewWindow& window) {
   mState->show(window, State::Step::New);
 }
 

@@ -14,7 +14,7 @@ class QUndoStack;
 namespace talvesk {
 
 class TomoDocument;
-struct TraceWindow;
+struct ViewWindow;
 
 /// What the left mouse button does. Whatever the tool, Ctrl + left drag zooms to a rectangle,
 /// Shift + left drag selects traces, the middle button pans and the right button removes picks.
@@ -92,8 +92,8 @@ class editTravelTimesWidget : public QWidget {
   void selectTraces(int first, int last);  ///< -1, -1 clears
 
   /// The part of the shot that is seen: channels from 0 or metres, and seconds.
-  const TraceWindow& window() const;
-  void setWindow(const TraceWindow& window);  ///< enters the history
+  const ViewWindow& window() const;
+  void setWindow(const ViewWindow& window);  ///< enters the history
   bool canZoomBack() const;
   bool canZoomForward() const;
 

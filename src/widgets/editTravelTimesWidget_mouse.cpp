@@ -125,7 +125,7 @@ void editTravelTimesWidget::State::finishBand(const QPointF& point) {
   }
   // A flat or narrow rectangle means one axis.
   const TraceMapping map = mapping();
-  TraceWindow wanted = window;
+  ViewWindow wanted = window;
   if (wide) {
     wanted.left = map.positionAt(band.left());
     wanted.right = map.positionAt(band.right());

@@ -38,10 +38,10 @@ struct editTravelTimesWidget::State {
   void rebuildShot(bool newShot);
   void placePlot();
   TraceMapping mapping() const { return {plot, window}; }
-  TraceWindow wholeWindow() const;
-  TraceWindow openingWindow() const;
-  TraceWindow confinedWindow(const TraceWindow& wanted) const;
-  void show(const TraceWindow& wanted, Step step);
+  ViewWindow wholeWindow() const;
+  ViewWindow openingWindow() const;
+  ViewWindow confinedWindow(const ViewWindow& wanted) const;
+  void show(const ViewWindow& wanted, Step step);
   void zoomAbout(const QPointF& point, double byPosition, double byTime, Step step);
   void zoomAboutMiddle(double by);
   void goInHistory(bool back);
@@ -107,7 +107,7 @@ struct editTravelTimesWidget::State {
   ShotTraces traces;
   TraceLayout layout;
   QRectF plot{0.0, 0.0, 1.0, 1.0};
-  TraceWindow window;
+  ViewWindow window;
   bool movedByUser = false;  ///< else the window follows size and options
   ViewHistory history;
   QElapsedTimer sinceStep;
@@ -121,7 +121,7 @@ struct editTravelTimesWidget::State {
   Drag drag = Drag::None;
   Qt::MouseButton dragButton = Qt::NoButton;
   QPointF pressed;
-  TraceWindow pressedWindow;
+  ViewWindow pressedWindow;
   int pressedTrace = -1;
   bool strayed = false;  ///< the drag went beyond the trace that it started on
   PickStroke stroke;

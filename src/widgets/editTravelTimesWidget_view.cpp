@@ -67,7 +67,7 @@ void editTravelTimesWidget::State::rebuildShot(bool newShot) {
   if (current >= layout.count()) current = -1;
   if (selectedLast >= layout.count()) selectedFirst = selectedLast = -1;
   if (current < 0 && layout.count() > 0) current = layout.order().front();
-  const TraceWindow whole = wholeWindow();
+  const ViewWindow whole = wholeWindow();
   const bool overlaps = window.left < whole.right && window.right > whole.left;
   if (movedByUser && (!overlaps || (!layout.isByDistance() && countBefore != layout.count()))) {
     // The times that were looked at stay, whatever becomes of the traces.
@@ -101,13 +101,13 @@ void editTravelTimesWidget::State::placePlot() {
   emit widget.viewChanged();
 }
 
-TraceWindow editTravelTimesWidget::State::wholeWindow() const {
+ViewWindow editTravelTimesWidget::State::wholeWindow() const {
   const double margin = layout.spacing();
   return {layout.first() - margin, layout.last() + margin, 0.0, traces.timeEnd()};
 }
 
-TraceWindow editTravelTimesWidget::State::openingWindow() const {
-  TraceWindow opening = wholeWindow();
+ViewWindow editTravelTimesWidget::State::openingWindow() const {
+  ViewWindow opening = wholeWindow();
   if (options.zoomIn) opening.bottom = firstBreakEnd(traces);
   if (!options.showAllTraces) {
     const double legible = plot.width() / kLegible * layout.spacing();
@@ -116,18 +116,18 @@ TraceWindow editTravelTimesWidget::State::openingWindow() const {
   return opening;
 }
 
-TraceWindow editTravelTimesWidget::State::confinedWindow(const TraceWindow& wanted) const {
+ViewWindow editTravelTimesWidget::State::confinedWindow(const ViewWindow& wanted) const {
   double interval = traces.timeEnd();
   for (int i = 0; i < traces.count(); ++i) interval = std::min(interval, traces.interval(i));
   // Far from zero, a window may not become narrower than numbers can tell apart.
-  const TraceWindow whole = wholeWindow();
+  const ViewWindow whole = wholeWindow();
   return confined(wanted, whole,
                   std::max(kLeastTraces * layout.spacing(), kNarrowest * whole.width()),
                   std::max(kLeastSamples * interval, kNarrowest * whole.height()));
 }
 
-void editTravelTimesWidget::State::show(const TraceWindow& wanted, Step step) {
-  const TraceWindow next = confinedWindow(wanted);
+void editTravelTimesWidget::State::show(const ViewWindow& wanted, Step step) {
+  const ViewWindow next = confinedWindow(wanted);
   if (next == window) return;
   const bool goesOn =
       step == Step::Continuing && sinceStep.isValid() && sinceStep.elapsed() < kContinuingMs;
@@ -158,14 +158,14 @@ void editTravelTimesWidget::State::zoomAboutMiddle(double by) {
 }
 
 void editTravelTimesWidget::State::goInHistory(bool back) {
-  const TraceWindow to = back ? history.back(window) : history.forward(window);
+  const ViewWindow to = back ? history.back(window) : history.forward(window);
   show(to, Step::Silent);
   emit widget.viewChanged();
 }
 
 void editTravelTimesWidget::State::reveal(int trace) {
   if (trace < 0 || trace >= layout.count()) return;
-  TraceWindow wanted = window;
+  ViewWindow wanted = window;
   const double margin = std::min(layout.spacing(), 0.25 * window.width());
   const double x = layout.position(trace);
   if (x - margin < window.left) wanted = moved(wanted, x - margin - window.left, 0.0);
@@ -178,15 +178,15 @@ void editTravelTimesWidget::State::reveal(int trace) {
 }
 
 void editTravelTimesWidget::State::syncScrollBars() {
-  const TraceWindow whole = wholeWindow();
+  const ViewWindow whole = wholeWindow();
   setBar(*across, window.left, window.right, whole.left, whole.right);
   setBar(*down, window.top, window.bottom, whole.top, whole.bottom);
 }
 
 void editTravelTimesWidget::State::scrolled(bool horizontal, int value) {
-  const TraceWindow whole = wholeWindow();
+  const ViewWindow whole = wholeWindow();
   const double part = static_cast<double>(value) / kScrollSteps;
-  TraceWindow wanted = window;
+  ViewWindow wanted = window;
   if (horizontal) {
     wanted = moved(window, whole.left + part * whole.width() - window.left, 0.0);
   } else {
