@@ -101,7 +101,7 @@ PlotTool* PlotGestures::toolFor(const QMouseEvent& event) {
   const bool left = event.button() == Qt::LeftButton;
   const bool within = mSurface.area().contains(event.localPos());
   if (event.button() == Qt::MiddleButton || (left && mSpaceHeld)) return mPan.get();
-  if (left && within && (event.modifiers() & Qt::ControlModifier)) return mBand.get();
+  if (left && (event.modifiers() & Qt::ControlModifier)) return within ? mBand.get() : nullptr;
   PlotTool* own = mSurface.toolFor(event.button(), event.modifiers(), event.localPos());
   if (own != nullptr || !left || !within) return own;
   return event.modifiers() & Qt::ShiftModifier ? mPan.get() : mBand.get();

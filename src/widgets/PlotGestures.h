@@ -30,7 +30,7 @@ class PlotSurface {
   virtual void viewMoved() = 0;    ///< another window, or other ones to go back to
   virtual void repaintLive() = 0;  ///< what the tool at work draws
 
-  /// The plot's own tool for a button; null for none. Ask before anything is changed by it.
+  /// The plot's own tool for a button that goes down; null for none. Changes nothing.
   virtual PlotTool* toolFor(Qt::MouseButton, Qt::KeyboardModifiers, const QPointF&) {
     return nullptr;
   }

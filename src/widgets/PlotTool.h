@@ -32,8 +32,8 @@ class PlotTool {
   virtual void paint(QPainter&) const {}  ///< above the plot, while the button is down
   /// While the button is down; none: that of the canvas.
   virtual std::optional<Qt::CursorShape> cursor() const { return std::nullopt; }
-  /// Whether the second click of a double click is one more of its own, because a click changes the
-  /// survey; else it shows everything.
+  /// Whether the second click of a double click is one more of its own, with which a user corrects
+  /// the first; else it shows everything.
   virtual bool takesDoubleClick() const { return false; }
 };
 
