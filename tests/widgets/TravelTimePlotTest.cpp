@@ -49,7 +49,7 @@ class TravelTimes : public ::testing::Test {
   }
   QPoint at(int shot, int trace) { return plot.pointOf(shot, trace).value().toPoint(); }
   double secondsPerPixel() const {
-    return plot.window().height() / plot.canvas()->contentsRect().height();
+    return 1e-3 * plot.window().height() / plot.canvas()->contentsRect().height();
   }
 
   void mouse(QEvent::Type type, const QPoint& point, Qt::MouseButton button,
@@ -214,7 +214,7 @@ TEST_F(TravelTimes, pansAndFitsAndNewPicksLeaveAZoomedViewAlone) {
   QTest::keyClick(&plot, Qt::Key_F);
   time(0, 2) = 0.150;
   plot.refresh();
-  EXPECT_GT(plot.window().bottom, 0.150) << "a view that shows everything goes on doing so";
+  EXPECT_GT(plot.window().bottom, 150.0) << "a view that shows everything goes on doing so";
 }
 
 TEST_F(TravelTimes, pageKeysWalkThroughTheCurves) {
