@@ -201,48 +201,30 @@ bool PlotGestures::key(const QKeyEvent& event) {
 }
 
 bool PlotGestures::viewKey(const QKeyEvent& event) {
-  switch (event.key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-      zoom(kZoomStep);
-      return true;
-    case Qt::Key_Minus:
-      zoom(1.0 / kZoomStep);
-      return true;
-    case Qt::Key_F:
-      fit();
-      return true;
-    case Qt::Key_H:
-    case Qt::Key_Home:
-      home();
-      return true;
-    case Qt::Key_Backspace:
-      event.modifiers() & Qt::ShiftModifier ? goForward() : goBack();
-      return true;
-    case Qt::Key_Left:
-      panBy(-kPanStep, 0.0);
-      return true;
-    case Qt::Key_Right:
-      panBy(kPanStep, 0.0);
-      return true;
-    case Qt::Key_Up:
-      panBy(0.0, -kPanStep);
-      return true;
-    case Qt::Key_Down:
-      panBy(0.0, kPanStep);
-      return true;
-    case Qt::Key_PageUp:
-      panBy(0.0, -kPage);
-      return true;
-    case Qt::Key_PageDown:
-      panBy(0.0, kPage);
-      return true;
-    case Qt::Key_Space:
-      holdSpace(true);
-      return true;
-    default:
-      return false;
+  static const struct {
+    int key;
+    void (*act)(PlotGestures&, bool shift);
+  } kKeys[] = {
+      {Qt::Key_Plus, [](PlotGestures& g, bool) { g.zoom(kZoomStep); }},
+      {Qt::Key_Equal, [](PlotGestures& g, bool) { g.zoom(kZoomStep); }},
+      {Qt::Key_Minus, [](PlotGestures& g, bool) { g.zoom(1.0 / kZoomStep); }},
+      {Qt::Key_F, [](PlotGestures& g, bool) { g.fit(); }},
+      {Qt::Key_H, [](PlotGestures& g, bool) { g.home(); }},
+      {Qt::Key_Home, [](PlotGestures& g, bool) { g.home(); }},
+      {Qt::Key_Backspace, [](PlotGestures& g, bool shift) { shift ? g.goForward() : g.goBack(); }},
+      {Qt::Key_Left, [](PlotGestures& g, bool) { g.panBy(-kPanStep, 0.0); }},
+      {Qt::Key_Right, [](PlotGestures& g, bool) { g.panBy(kPanStep, 0.0); }},
+      {Qt::Key_Up, [](PlotGestures& g, bool) { g.panBy(0.0, -kPanStep); }},
+      {Qt::Key_Down, [](PlotGestures& g, bool) { g.panBy(0.0, kPanStep); }},
+      {Qt::Key_PageUp, [](PlotGestures& g, bool) { g.panBy(0.0, -kPage); }},
+      {Qt::Key_PageDown, [](PlotGestures& g, bool) { g.panBy(0.0, kPage); }},
+      {Qt::Key_Space, [](PlotGestures& g, bool) { g.holdSpace(true); }}};
+  for (const auto& row : kKeys) {
+    if (row.key != event.key()) continue;
+    row.act(*this, event.modifiers().testFlag(Qt::ShiftModifier));
+    return true;
   }
+  return false;
 }
 
 void PlotGestures::holdSpace(bool held) {
