@@ -101,6 +101,7 @@ LayerCurvesPlot::LayerCurvesPlot(QWidget* parent)
     : PlotPage(parent),
       mMark(std::make_unique<MarkTool>(*this)),
       mChoose(std::make_unique<BandTool>(gestures(), [this](const QPointF& at) { click(at); })) {
+  alignNumbers();
   add(figureItem({}, kLayer,
                  [this](QPainter& painter, const QwtScaleMap&, const QwtScaleMap&, const QRectF&) {
                    paintCurves(painter);

@@ -15,7 +15,6 @@
 #include <qwt_legend.h>
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
-#include <qwt_scale_draw.h>
 #include <qwt_symbol.h>
 
 namespace talvesk {
@@ -74,7 +73,6 @@ QColor faded(const QColor& color, const QColor& background) {
 LinePlan::LinePlan(QWidget* parent)
     : PlotPage(parent),
       mChoose(std::make_unique<BandTool>(gestures(), [this](const QPointF& at) { click(at); })) {
-  plot().axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(0.0);
   auto* legend = new QwtLegend;
   legend->setFrameStyle(QFrame::NoFrame);
   plot().insertLegend(legend, QwtPlot::BottomLegend);

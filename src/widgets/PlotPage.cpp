@@ -24,7 +24,6 @@
 namespace talvesk {
 namespace {
 
-constexpr double kPadding = 12.0;     ///< around everything, pixels
 constexpr double kAxisExtent = 52.0;  ///< of the numbers at the left, pixels
 constexpr double kMostMagnified = 1e4;
 
@@ -34,9 +33,9 @@ void setTitle(QwtPlot& plot, int axis, const QString& text, const QFont& font) {
   plot.setAxisTitle(axis, title);
 }
 
-/// What a span has to grow by at each end to leave room for the padding.
-double padding(double span, double pixels) {
-  return span * kPadding / std::max(pixels - 2.0 * kPadding, kPadding);
+/// What a span has to grow by at each end to leave room for a padding of pixels.
+double margin(double span, double padding, double pixels) {
+  return span * padding / std::max(pixels - 2.0 * padding, padding + 1.0);
 }
 
 }  // namespace
@@ -63,8 +62,6 @@ PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
   if (auto* framed = qobject_cast<QwtPlotCanvas*>(area)) {
     framed->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
   }
-  // As wide in all plots, so that those above each other have their distances above each other.
-  mPlot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kAxisExtent);
   mGrid = new QwtPlotGrid;
   mGrid->attach(mPlot);
   mOverlay = new PlotOverlay(area, [this](QPainter& painter) {
@@ -132,6 +129,10 @@ void PlotPage::addBelow(QWidget* bar) {
   mColumn->addWidget(bar);
 }
 
+void PlotPage::alignNumbers() {
+  mPlot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kAxisExtent);
+}
+
 void PlotPage::setWhole(const QRectF& content, bool empty) {
   mPages->setCurrentIndex(empty ? 1 : 0);
   mContent = content;
@@ -145,8 +146,8 @@ void PlotPage::setWhole(const QRectF& content, bool empty) {
 void PlotPage::followContent() {
   const double width = mContent.width() > 0.0 ? mContent.width() : 1.0;
   const double height = mContent.height() > 0.0 ? mContent.height() : 1.0;
-  const double x = 0.5 * width + padding(width, area().width());
-  const double y = 0.5 * height + padding(height, area().height());
+  const double x = 0.5 * width + margin(width, mPadding, area().width());
+  const double y = 0.5 * height + margin(height, mPadding, area().height());
   const QPointF middle = mContent.center();
   const ViewWindow whole{middle.x() - x, middle.x() + x, middle.y() - y, middle.y() + y};
   mGestures->viewport().setExtent(
@@ -155,12 +156,16 @@ void PlotPage::followContent() {
 }
 
 void PlotPage::viewMoved() {
+  scaleAxes();
+  repaintPlot();
+}
+
+void PlotPage::scaleAxes() {
   const QSizeF size = area().size();
   mPlot->setAxisMaxMajor(QwtPlot::xBottom, std::clamp(static_cast<int>(size.width()) / 70, 2, 14));
   mPlot->setAxisMaxMajor(QwtPlot::yLeft, std::clamp(static_cast<int>(size.height()) / 35, 2, 12));
   mPlot->setAxisScale(QwtPlot::xBottom, window().left, window().right);
   mPlot->setAxisScale(QwtPlot::yLeft, window().top, window().bottom);
-  repaintPlot();
 }
 
 void PlotPage::repaintPlot() {

@@ -51,11 +51,16 @@ class PlotPage : public QWidget, protected PlotSurface {
   /// The plot owns the item from here on.
   void add(QwtPlotItem* item);
   void addBelow(QWidget* bar);
+  void setPadding(double pixels) { mPadding = pixels; }  ///< around what there is to show
+  /// Plots above each other that have the numbers at the left as wide have their distances above
+  /// each other.
+  void alignNumbers();
   /// What there is to show, and whether there is anything: it is seen whole, with some room around,
   /// until the user has zoomed. Then repaints.
   void setWhole(const QRectF& content, bool empty);
   void repaintPlot();
 
+  virtual void scaleAxes();  ///< to the window
   virtual void paintOverlay(QPainter&) {}
   virtual void dress();  ///< colours and fonts of the desktop
   virtual void retranslate() {}
@@ -80,6 +85,7 @@ class PlotPage : public QWidget, protected PlotSurface {
   QWidget* mOverlay = nullptr;
   std::unique_ptr<PlotGestures> mGestures;
   QRectF mContent{0.0, 0.0, 1.0, 1.0};
+  double mPadding = 12.0;
   bool mResizing = false;
 };
 

@@ -15,7 +15,6 @@
 #include <qwt_graphic.h>
 #include <qwt_plot.h>
 #include <qwt_plot_item.h>
-#include <qwt_scale_draw.h>
 
 namespace talvesk {
 namespace {
@@ -30,8 +29,6 @@ QIcon iconOf(const QwtPlotItem& item) {
 
 void TravelTimePlot::State::build() {
   widget.canvas()->setObjectName(QStringLiteral("travelTimeCanvas"));
-  // Alone, and small as a preview: no wider than the numbers.
-  widget.plot().axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(0.0);
   measured = travel_time_items::measured(curves.curves, look);
   computed = travel_time_items::computed(curves.curves, look);
   shots = travel_time_items::shots(curves.curves, look);

@@ -1,9 +1,12 @@
 #include "TestShots.h"
 #include "widgets/LayerCurvesPlot.h"
 #include "widgets/LinePlan.h"
+#include "widgets/MisfitPlot.h"
 #include "widgets/RefractionProfilePlot.h"
 #include "widgets/SeriesPlot.h"
+#include "widgets/SpectrumPlot.h"
 #include "widgets/TravelTimePlot.h"
+#include "widgets/draw1DVelocityProfile.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QApplication>
@@ -109,6 +112,22 @@ void makeProfile(Plot& plot) {
   scene.boundaries = {boundary};
   scene.velocities = {2000.0, 0.0};
   makePage<RefractionProfilePlot>(plot).setScene(scene);
+}
+
+void makeSpectrum(Plot& plot) {
+  makePage<SpectrumPlot>(plot).setCurve({0.0, 20.0, 40.0, 60.0}, {1.0, 5.0, 3.0, 0.5});
+}
+
+void makeMisfit(Plot& plot) {
+  auto& misfit = makePage<MisfitPlot>(plot);
+  misfit.setTotal(8);
+  misfit.addMisfit(0.004, 0.003);
+}
+
+void makeVelocities(Plot& plot) {
+  auto& velocities = makePage<draw1DVelocityProfile>(plot);
+  velocities.setGridDepth(30.0);
+  plot.upward = false;
 }
 
 class Gestures : public ::testing::TestWithParam<PlotKind> {
@@ -322,7 +341,10 @@ const PlotKind kKinds[] = {{"traces", makeTraces, Qt::ControlModifier, false},
                            {"plan", makePlan, Qt::NoModifier, true},
                            {"layers", makeLayers, Qt::ControlModifier, false},
                            {"series", makeSeries, Qt::NoModifier, true},
-                           {"profile", makeProfile, Qt::NoModifier, true}};
+                           {"profile", makeProfile, Qt::NoModifier, true},
+                           {"spectrum", makeSpectrum, Qt::NoModifier, true},
+                           {"misfit", makeMisfit, Qt::NoModifier, true},
+                           {"velocities", makeVelocities, Qt::NoModifier, true}};
 
 INSTANTIATE_TEST_SUITE_P(Plots, Gestures, ::testing::ValuesIn(kKinds),
                          [](const auto& row) { return std::string(row.param.name); });
