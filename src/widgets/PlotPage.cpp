@@ -38,6 +38,13 @@ double margin(double span, double padding, double pixels) {
   return span * padding / std::max(pixels - 2.0 * padding, padding + 1.0);
 }
 
+/// Who has the keys.
+void paintFocus(QPainter& painter, const QRectF& frame, const QPalette& palette) {
+  painter.setPen(QPen(palette.color(QPalette::Highlight), 1.0));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(frame.adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
 }  // namespace
 
 PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
@@ -68,6 +75,7 @@ PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
     painter.setRenderHint(QPainter::Antialiasing);
     paintOverlay(painter);
     mGestures->paintTool(painter);
+    if (hasFocus()) paintFocus(painter, mOverlay->rect(), palette());
   });
   PlotSurface& surface = *this;
   mGestures = std::make_unique<PlotGestures>(surface, *this, *area);
@@ -197,6 +205,16 @@ bool PlotPage::eventFilter(QObject* watched, QEvent* event) {
     }
   }
   return QWidget::eventFilter(watched, event);
+}
+
+void PlotPage::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  repaintLive();
+}
+
+void PlotPage::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  repaintLive();
 }
 
 void PlotPage::changeEvent(QEvent* event) {

@@ -73,6 +73,8 @@ class PlotPage : public QWidget, protected PlotSurface {
 
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void followContent();
