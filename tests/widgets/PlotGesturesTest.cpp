@@ -271,7 +271,7 @@ TEST_P(Gestures, fHomeAndDoubleClickShowEverything) {
     key(code);
     EXPECT_NEAR(window().width(), mWhole.width(), 0.01 * mWhole.width()) << code;
   }
-  if (GetParam().make == makeTraces) return;  // the next test
+  if (GetParam().make == makeTraces) return;  // there the clicks pick
   zoomIn();
   mouse(QEvent::MouseButtonPress, middle(), Qt::LeftButton, Qt::NoModifier);
   mouse(QEvent::MouseButtonRelease, middle(), Qt::LeftButton, Qt::NoModifier);
@@ -348,26 +348,6 @@ const PlotKind kKinds[] = {{"traces", makeTraces, Qt::ControlModifier, false},
 
 INSTANTIATE_TEST_SUITE_P(Plots, Gestures, ::testing::ValuesIn(kKinds),
                          [](const auto& row) { return std::string(row.param.name); });
-
-/// Its first click has picked: the second is a correction, and must not take the view away.
-TEST(PickingByMouse, doubleClickPicksAndKeepsTheView) {
-  TomoDocument survey = testing::testShots(12, 400, {-1.0});
-  editTravelTimesWidget traces;
-  traces.resize(700, 500);
-  traces.show();
-  traces.setDocument(&survey);
-  traces.setShot(0);
-  traces.setWindow({2.0, 8.0, 0.01, 0.05});
-  const ViewWindow before = traces.window();
-  const QPoint first = traces.pointOf(5, 0.030).toPoint();
-  const QPoint second = first + QPoint(0, 3);
-  QTest::mouseClick(&traces, Qt::LeftButton, Qt::NoModifier, first);
-  EXPECT_NEAR(survey.ttArray[0].ttMisurati[5], 0.030, 0.0005);
-  QTest::mouseDClick(&traces, Qt::LeftButton, Qt::NoModifier, second);
-  QTest::mouseRelease(&traces, Qt::LeftButton, Qt::NoModifier, second);
-  EXPECT_NEAR(survey.ttArray[0].ttMisurati[5], traces.timeAt(second), 1e-4);
-  EXPECT_EQ(traces.window(), before);
-}
 
 }  // namespace
 }  // namespace talvesk

@@ -120,6 +120,26 @@ TEST_F(TraceView, theMiddleButtonPans) {
   EXPECT_NEAR(mWidget.window().left, 4.0, 1e-12);
 }
 
+/// The first click has picked, so the second corrects it and must not take the view away.
+TEST_F(TraceView, aDoubleClickWithPickPicksAndWithOtherToolsShowsEverything) {
+  const ViewWindow opening = mWidget.window();
+  const ViewWindow zoomed{4.0, 10.0, 0.1, 0.2};
+  mWidget.setWindow(zoomed);
+  const QPoint first = mUser.at(7, 0.15);
+  const QPoint second = first + QPoint(0, 3);
+  const auto doubleClick = [&] {
+    mUser.click(first);
+    QTest::mouseDClick(&mWidget, Qt::LeftButton, Qt::NoModifier, second);
+    mUser.release(second);
+  };
+  doubleClick();
+  EXPECT_EQ(mWidget.window(), zoomed);
+  EXPECT_NEAR(mUser.pick(7), mWidget.timeAt(second), mUser.pixel());
+  mWidget.setTool(TraceTool::Select);
+  doubleClick();
+  EXPECT_EQ(mWidget.window(), opening);
+}
+
 TEST_F(TraceView, keepsTheTimesLookedAtFromShotToShot) {
   mWidget.setWindow({4.0, 10.0, 0.02, 0.06});
   mWidget.setShot(1);
