@@ -18,6 +18,12 @@ constexpr double kNotch = 120.0;     ///< eighths of a degree
 constexpr double kPanStep = 0.1;     ///< of what is seen
 constexpr double kPage = 0.8;        ///< of what is seen
 
+/// Something; else events end what was begun, or follow the mouse.
+bool begins(QEvent::Type type) {
+  return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick ||
+         type == QEvent::Wheel || type == QEvent::KeyPress;
+}
+
 }  // namespace
 
 PlotGestures::PlotGestures(PlotSurface& surface, QWidget& widget, QWidget& canvas)
@@ -70,7 +76,7 @@ void PlotGestures::giveUpDrag() {
 }
 
 bool PlotGestures::eventFilter(QObject* watched, QEvent* event) {
-  if (mSurface.hasNothing()) return false;
+  if (mSurface.hasNothing() && begins(event->type())) return false;
   // What a canvas does not take comes to the widget around it once more.
   return (watched == &mCanvas && mouseEvent(*event)) || (watched == &mWidget && keyEvent(*event));
 }

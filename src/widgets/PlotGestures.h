@@ -24,7 +24,7 @@ class PlotSurface {
  public:
   virtual ~PlotSurface() = default;
 
-  virtual bool hasNothing() const = 0;  ///< to be seen: events pass by
+  virtual bool hasNothing() const = 0;  ///< to be seen: no gesture begins
   virtual QRectF area() const = 0;      ///< that the window fills
   virtual QPointF placeAt(const QPointF& point) const = 0;
   virtual void viewMoved() = 0;    ///< another window, or other ones to go back to
@@ -34,7 +34,8 @@ class PlotSurface {
   virtual PlotTool* toolFor(Qt::MouseButton, Qt::KeyboardModifiers, const QPointF&) {
     return nullptr;
   }
-  /// The plot's own keys, which come before those of all plots. \return whether it was one
+  /// The plot's own keys and turns of the wheel, which come before those of all plots.
+  /// \return whether it was one
   virtual bool keyPressed(const QKeyEvent&) { return false; }
   virtual bool wheelTurned(double /*notches*/, Qt::KeyboardModifiers) { return false; }
   virtual void hovered(const std::optional<QPointF>&) {}  ///< none: the mouse has left
@@ -46,10 +47,10 @@ class PlotSurface {
 /// Wheel: zoom at the cursor, with Ctrl up and down only, with Shift sideways only; a wheel that is
 /// turned sideways pans. Middle drag, or left drag with Space held, pans. Left drag: with Ctrl a
 /// rectangle to zoom to; else the plot's own tool; where it has none, the rectangle, or with Shift,
-/// panning. Double click, F: everything. H, Home: the opening view. Backspace, Shift+Backspace and
-/// the side buttons of the mouse: back and forth in the history of views. + and -: zoom, about the
-/// cursor while it is over the plot. Arrows, Page Up and Page Down: pan. Escape, or another button,
-/// gives up a drag.
+/// panning. F, double click unless the tool takes it: everything. H, Home: the opening view.
+/// Backspace, Shift+Backspace and the side buttons of the mouse: back and forth in the history of
+/// views. + and -: zoom, about the cursor while it is over the plot. Arrows, Page Up and Page Down:
+/// pan. Escape, or another button, gives up a drag.
 class PlotGestures : public QObject {
  public:
   /// \param widget has the focus \param canvas has the mouse; may be the same

@@ -94,8 +94,8 @@ void editTravelTimesWidget::State::paintLive(QPainter& painter) {
                  .arg(selectedLast + 1),
              plot);
   }
-  if (!hover) return;
   gestures.paintTool(painter);
+  if (!hover) return;
   const PlotTool* atWork = gestures.toolAtWork();
   if (atWork == gestures.panTool() || atWork == gestures.bandTool() || atWork == zoomTool.get()) {
     return;
