@@ -181,7 +181,7 @@ TravelTimePlot::Role TravelTimePlot::role() const {
   return mState->role;
 }
 
-void TravelTimePlot::setDocument(TomoDocument* document) {
+void TravelTimePlot::setDocument(const TomoDocument* document) {
   State& s = *mState;
   gestures().giveUpDrag();
   gestures().viewport().clearHistory();

@@ -120,8 +120,10 @@ bool editTravelTimesWidget::State::keyPressed(const QKeyEvent& event) {
 
 void editTravelTimesWidget::keyPressEvent(QKeyEvent* event) {
   State& s = *mState;
-  if (event->matches(QKeySequence::Undo)) return s.stack.undo();
-  if (event->matches(QKeySequence::Redo)) return s.stack.redo();
+  if (s.session != nullptr) {
+    if (event->matches(QKeySequence::Undo)) return s.session->undo();
+    if (event->matches(QKeySequence::Redo)) return s.session->redo();
+  }
   QWidget::keyPressEvent(event);
 }
 

@@ -56,7 +56,7 @@ TraceCursor editTravelTimesWidget::State::cursorFor(int trace, std::optional<dou
     }
   }
   if (hasPick(traces.measured(trace))) cursor.pick = traces.measured(trace);
-  cursor.pickIsAutomatic = review.waits(shot, trace);
+  cursor.pickIsAutomatic = waits(trace);
   return cursor;
 }
 

@@ -53,11 +53,11 @@ class editTravelTimesWidget::State::PickTool : public PlotTool {
     const std::map<int, double> times = s.stroke.times();
     const bool had = hasPick(s.traces.measured(mTrace));
     s.stroke.clear();
-    const QString text = mRemoves ? (times.size() > 1 ? editTravelTimesWidget::tr("Remove picks")
-                                                      : editTravelTimesWidget::tr("Remove pick"))
-                         : times.size() > 1 ? editTravelTimesWidget::tr("Draw picks")
-                         : had              ? editTravelTimesWidget::tr("Move pick")
-                                            : editTravelTimesWidget::tr("Set pick");
+    const Message text =
+        mRemoves ? (times.size() > 1 ? Message::tr("Remove picks") : Message::tr("Remove pick"))
+        : times.size() > 1 ? Message::tr("Draw picks")
+        : had              ? Message::tr("Move pick")
+                           : Message::tr("Set pick");
     s.edit(text, times);
     s.redrawMarks();
   }
