@@ -12,6 +12,7 @@
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
+#include "io/TravelTimeFile.h"
 #include "model/GeographicsCoord.h"
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"

@@ -11,6 +11,7 @@
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
 #include "grid/GridBuilder.h"
+#include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"

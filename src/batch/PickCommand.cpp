@@ -7,6 +7,7 @@
 #include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
+#include "io/TravelTimeFile.h"
 
 #include <sstream>
 

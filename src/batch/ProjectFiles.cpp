@@ -5,6 +5,7 @@
 #include "base/TextNumber.h"
 #include "base/WorkingFolder.h"
 #include "batch/Failure.h"
+#include "io/FileFormats.h"
 #include "io/ProjectLock.h"
 #include "io/ProjectWriter.h"
 #include "model/GroundModel.h"
@@ -74,9 +75,7 @@ void warnOfHolder(const std::string& path, const ProjectHolder& holder) {
 }  // namespace
 
 bool isProjectFile(const std::string& path) {
-  const QLatin1String suffix(".tvsk");
-  const QString name = QString::fromStdString(path);
-  return name.size() > suffix.size() && name.endsWith(suffix, Qt::CaseInsensitive);
+  return hasSuffixOf(projectFormat(), path);
 }
 
 Status readProject(const std::string& path, LoadedProject& project) {

@@ -1,0 +1,83 @@
+#include "io/FileFormats.h"
+#include "model/TomoDocument.h"
+
+#include <fstream>
+#include <iterator>
+#include <set>
+
+#include <gtest/gtest.h>
+
+using namespace talvesk;
+
+namespace {
+
+std::string joinedLines(const std::vector<Message>& lines) {
+  std::string text;
+  for (const Message& line : lines) text += (text.empty() ? "" : ";;") + line.english();
+  return text;
+}
+
+/// The words with which two formats would get into each other's way.
+template <typename Formats>
+void expectNoDoubles(const Formats& formats, std::set<std::string> taken) {
+  for (const auto& format : formats) {
+    EXPECT_TRUE(taken.insert(format.id).second) << format.id;
+    for (const char* suffix : format.suffixes) {
+      EXPECT_EQ(suffix[0], '.');
+      EXPECT_TRUE(taken.insert(suffix).second) << suffix;
+    }
+    EXPECT_NE(format.filter.english().find("(%1)"), std::string::npos) << format.id;
+  }
+}
+
+}  // namespace
+
+TEST(FileFormats, listAllFormatsFirstInDialogsThenEach) {
+  EXPECT_EQ(joinedLines(shotFileFilters()),
+            "Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;SEG2 format (*.sg2 *.dat "
+            "*.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)");
+  EXPECT_EQ(joinedLines(travelTimeFileFilters()),
+            "Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Open Travel Time Exchange "
+            "format (*.otte);;T-x curves (*.txt);;Sectioned pick table (*.xyz *.XYZ);;Pick table "
+            "(*.csv *.CSV);;All Files (*)");
+  EXPECT_EQ(joinedLines(filtersOf(*travelTimeFormatOf("a.otte"))),
+            "Open Travel Time Exchange format (*.otte);;All Files (*)");
+  EXPECT_EQ(joinedLines(filtersOf(projectFormat())), "Talvesk projects (*.tvsk);;All Files (*)");
+}
+
+TEST(FileFormats, listEverySuffixOnceInSentences) {
+  EXPECT_EQ(shotSuffixes(), ".sg2, .dat, .seg2, .sgy, .segy, .su");
+  EXPECT_EQ(travelTimeSuffixes(), ".otte, .txt, .xyz, .csv");
+}
+
+TEST(FileFormats, haveNoSuffixInCommon) {
+  expectNoDoubles(shotFormats(), {".tvsk"});
+  expectNoDoubles(travelTimeFormats(), {".tvsk"});
+  for (const ShotFormat& format : shotFormats()) {
+    EXPECT_EQ(shotFormatNamed(format.id), &format);
+    for (const char* suffix : format.suffixes) EXPECT_FALSE(looksLikeTravelTimes(suffix));
+  }
+  EXPECT_EQ(shotFormatNamed("otte"), nullptr);
+}
+
+TEST(FileFormats, tellWhatAFileIsMeantToBeByItsName) {
+  EXPECT_TRUE(looksLikeTravelTimes("a.OTTE"));  // for the reader to refuse with its reason
+  EXPECT_EQ(travelTimeFormatOf("a.OTTE"), nullptr);
+  EXPECT_FALSE(looksLikeTravelTimes("folder.otte/a"));
+  EXPECT_TRUE(hasSuffixOf(projectFormat(), "line.TVSK"));
+  EXPECT_FALSE(hasSuffixOf(projectFormat(), ".tvsk"));
+  EXPECT_FALSE(hasSuffixOf(projectFormat(), "tvsk"));
+}
+
+TEST(FileFormats, allStandInTheirDocument) {
+  std::ifstream stream(TALVESK_FORMATS_DOCUMENT);
+  const std::string document{std::istreambuf_iterator<char>(stream), {}};
+  const auto expectAll = [&](const FileFormat& format) {
+    for (const char* suffix : format.suffixes) {
+      EXPECT_NE(document.find('`' + std::string(suffix) + '`'), std::string::npos) << suffix;
+    }
+  };
+  for (const ShotFormat& format : shotFormats()) expectAll(format);
+  for (const TravelTimeFormat& format : travelTimeFormats()) expectAll(format);
+  expectAll(projectFormat());
+}
