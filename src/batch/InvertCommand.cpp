@@ -13,11 +13,11 @@
 #include "grid/GridBuilder.h"
 #include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
+#include "model/LeftOut.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/GridPreview.h"
-#include "tomo/LeftOut.h"
 
 #include <iostream>
 #include <utility>

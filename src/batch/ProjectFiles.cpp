@@ -9,6 +9,7 @@
 #include "io/ProjectLock.h"
 #include "io/ProjectWriter.h"
 #include "model/GroundModel.h"
+#include "model/LeftOut.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -16,7 +17,6 @@
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "tomo/ForwardPass.h"
-#include "tomo/LeftOut.h"
 
 #include <QString>
 #include <QTemporaryDir>

@@ -1,10 +1,11 @@
 #include "figures/ReportBuilder.h"
+#include "figures/SectionFigure.h"
 #include "figures/TravelTimeFigure.h"
 #include "model/GroundModel.h"
 #include "model/Residuals.h"
+#include "model/SmoothingType.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
-#include "tomo/Smoothing.h"
 
 #include <algorithm>
 #include <cmath>
