@@ -1,6 +1,6 @@
 #include "base/Console.h"
 #include "io/ProjectMembers.h"
-#include "io/ProjectRecords.inl"
+#include "io/ProjectMembers_records.inl"
 #include "model/GeographicsCoord.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "base/Console.h"
 #include "base/PlainText.h"
 #include "io/ProjectMembers.h"
-#include "io/ProjectRecords.inl"
+#include "io/ProjectMembers_records.inl"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
