@@ -100,7 +100,7 @@ Status writeProject(const std::string& path, bool quiet, const LoadedProject& pr
   if (lock.holder) warnOfHolder(path, *lock.holder);
   ProjectWriter writer;
   if (writer.save(path, folder, project.document, project.interpretation, project.palettes,
-                  project.section) != 0) {
+                  project.section, project.own) != 0) {
     return Status::failure("The project " + path + " has not been saved: " + writer.message());
   }
   if (quiet) return {};

@@ -5,6 +5,7 @@
 
 #include "base/Console.h"
 #include "io/ProjectMembers.h"
+#include "io/ProjectResult.h"
 #include "io/XmlRecords.inl"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
@@ -121,7 +122,6 @@ void describe(V& fields, SectionMisfit& misfit) {
 
 template <class V>
 void describe(V& fields, ResultMember& result) {
-  fields("version", result.version);
   fields("hit_counts", result.hitCounts);
   fields("coorcount", result.coorcount);
   fields("smoothed", result.smoothed);

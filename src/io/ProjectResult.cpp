@@ -32,7 +32,18 @@ bool fits(const ResultMember& result, const TomoDocument& document) {
 
 }  // namespace
 
-ResultMember resultOf(const TomoDocument& document) {
+bool hasResult(const TomoDocument& document) {
+  return document.result->has_tomographic_info;
+}
+
+bool knowsResult(const TomoDocument& document) {
+  const std::vector<std::uint32_t>& hits = document.result->hitCounts;
+  return hasResult(document) &&
+         std::any_of(hits.begin(), hits.end(), [](std::uint32_t count) { return count > 0; });
+}
+
+std::optional<ResultMember> resultOf(const TomoDocument& document) {
+  if (!hasResult(document)) return std::nullopt;
   ResultMember result;
   result.hitCounts = document.result->hitCounts;
   result.coorcount = document.result->coorcount;

@@ -77,7 +77,7 @@ LoadedProject ProjectSnapshot::complete(
     const SharedFolder& folder) {
   TomoDocument copy = copyWithoutTraces(document);
   copy.recordings.edit().traceSets = std::move(mTraceSets);
-  return {std::move(copy), interpretation, palettes, section, {}, folder};
+  return {std::move(copy), interpretation, palettes, section, {}, folder, {}};
 }
 
 }  // namespace talvesk
