@@ -4,7 +4,9 @@
 #include "io/MemberFile.h"
 #include "io/ProjectMembers.h"
 #include "io/ProjectMembers_records.inl"
+#include "io/ProjectPicks.h"
 #include "io/ProjectResult.h"
+#include "model/SurveyFacts.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -81,7 +83,19 @@ const std::vector<OwnMember>& ownMembers() {
            [](const TomoDocument& document, const Interpretation&) { return resultOf(document); }),
        reads<ResultMember>([](ResultMember result, TomoDocument& document, Interpretation&) {
          return installResult(std::move(result), document);
-       })}};
+       })},
+      {"picks.xml", 1, "Picks", Message::tr("every pick counts as confirmed"),
+       [](const TomoDocument& document, const Interpretation&) { return hasPicks(document); },
+       [](const TomoDocument& document, const Interpretation&) {
+         return unconfirmedOf(document).has_value();
+       },
+       writes([](const TomoDocument& document, const Interpretation&) {
+         return unconfirmedOf(document);
+       }),
+       reads<UnconfirmedMember>(
+           [](const UnconfirmedMember& member, TomoDocument& document, Interpretation&) {
+             return installUnconfirmed(member, document);
+           })}};
   return kMembers;
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/Console.h"
 #include "io/ProjectMembers.h"
+#include "io/ProjectPicks.h"
 #include "io/ProjectResult.h"
 #include "io/XmlRecords.inl"
 #include "model/GeographicsCoord.h"
@@ -129,6 +130,12 @@ void describe(V& fields, ResultMember& result) {
   fields("computing_seconds", result.computingSeconds);
   fields("picks", result.picks);
   fields("section_history", result.sectionHistory);
+}
+
+template <class V>
+void describe(V& fields, UnconfirmedMember& member) {
+  fields("picks", member.picks);
+  fields("unconfirmed", member.traces);
 }
 
 template <class V>
