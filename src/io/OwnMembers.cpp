@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <set>
 #include <string_view>
 #include <system_error>
@@ -59,12 +60,13 @@ auto writes(Take take) {
   };
 }
 
-/// \param give puts a record into a survey, or says why it does not fit
-template <typename Record, typename Give>
-auto reads(Give give) {
-  return [give](const std::string& path, const OwnMember& row, TomoDocument& document,
-                Interpretation& interpretation) {
-    Record record;
+/// \param start gives the record that is filled
+/// \param give puts it into a survey, or says why it does not fit
+template <typename Start, typename Give>
+auto reads(Start start, Give give) {
+  return [start, give](const std::string& path, const OwnMember& row, TomoDocument& document,
+                       Interpretation& interpretation) {
+    auto record = start(document);
     Message why;
     const auto fill = [&](XmlReader& reader) { xml::readRecord(reader, record); };
     if (readMember(path, row.part, kLargestMember, why, fill) != 0) return Status::failure(why);
@@ -79,11 +81,11 @@ const std::vector<OwnMember>& ownMembers() {
        Message::tr("the coverage of the last inversion and its figures are not known"),
        [](const TomoDocument& document, const Interpretation&) { return hasResult(document); },
        [](const TomoDocument& document, const Interpretation&) { return knowsResult(document); },
-       writes(
-           [](const TomoDocument& document, const Interpretation&) { return resultOf(document); }),
-       reads<ResultMember>([](ResultMember result, TomoDocument& document, Interpretation&) {
-         return installResult(std::move(result), document);
-       })},
+       writes([](const TomoDocument& document, const Interpretation&) {
+         return hasResult(document) ? std::make_optional(resultOf(document)) : std::nullopt;
+       }),
+       reads(resultOf, [](ResultMember result, TomoDocument& document,
+                          Interpretation&) { return installResult(std::move(result), document); })},
       {"picks.xml", 1, "Picks", Message::tr("every pick counts as confirmed"),
        [](const TomoDocument& document, const Interpretation&) { return hasPicks(document); },
        [](const TomoDocument& document, const Interpretation&) {
@@ -92,10 +94,10 @@ const std::vector<OwnMember>& ownMembers() {
        writes([](const TomoDocument& document, const Interpretation&) {
          return unconfirmedOf(document);
        }),
-       reads<UnconfirmedMember>(
-           [](const UnconfirmedMember& member, TomoDocument& document, Interpretation&) {
-             return installUnconfirmed(member, document);
-           })}};
+       reads([](const TomoDocument&) { return UnconfirmedMember(); },
+             [](const UnconfirmedMember& member, TomoDocument& document, Interpretation&) {
+               return installUnconfirmed(member, document);
+             })}};
   return kMembers;
 }
 

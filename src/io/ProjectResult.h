@@ -1,34 +1,29 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/InversionRecord.h"
 #include "model/TomoDocument.h"
-
-#include <cstdint>
-#include <optional>
-#include <vector>
+#include "model/TomographyOutcome.h"
 
 namespace talvesk {
 
 /// What an inversion left beside the section: without it neither the coverage nor the misfit of a
-/// project would be the same when it is opened again.
+/// project would be the same when it is opened again. Of both only what no other member has counts.
 struct ResultMember {
-  std::vector<std::uint32_t> hitCounts;  ///< per cell
-  std::vector<double> coorcount;         ///< metres of ray per cell
-  bool smoothed = false;                 ///< the section was smoothed since
-  bool timesOfSection = false;           ///< the computed times are those through the section
-  double computingSeconds = 0.0;
-  std::uint64_t picks = 0;  ///< fingerprint of those that were inverted
-  std::vector<SectionMisfit> sectionHistory;
+  TomographyOutcome outcome;
+  InversionRecord run;  ///< that of the outcome; as new when nothing is known of it
 };
 
 bool hasResult(const TomoDocument& document);
 /// Whether rays of an inversion are known: not so where only their times were traced anew.
 bool knowsResult(const TomoDocument& document);
-/// What a project keeps of the last inversion beside the section; none without an inversion.
-std::optional<ResultMember> resultOf(const TomoDocument& document);
+/// What a project keeps of the last inversion, and what is read from it fills.
+ResultMember resultOf(const TomoDocument& document);
 /// Gives a document, whose grid and inversion record are there, what its project kept. Fails, with
 /// the document as it was, when that does not go with its grid and run.
+/// \param result resultOf() the document, with what was read
 Status installResult(ResultMember result, TomoDocument& document);
+
+/// Whether an inversion can have been run so, and have come to these figures.
+bool canHaveBeen(const InversionRecord& run);
 
 }  // namespace talvesk
