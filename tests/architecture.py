@@ -92,28 +92,27 @@ def includes_within_rooms(src):
     return arrows
 
 
-def circles(arrows):
-    """What is left of the arrows when units that lie on no circle are taken away at either end."""
-    left = {unit: set(targets) for unit, targets in arrows.items()}
-    while True:
-        included = set().union(*left.values()) if left else set()
-        ends = [unit for unit, targets in left.items() if not targets or unit not in included]
-        if not ends:
-            return left
-        for unit in ends:
-            del left[unit]
-        for targets in left.values():
-            targets.difference_update(ends)
+def reachable(unit, arrows):
+    found, left = set(), [unit]
+    while left:
+        new = arrows[left.pop()] - found
+        found |= new
+        left.extend(new)
+    return found
 
 
-def tell_circles(src):
-    for unit, targets in sorted(circles(includes_within_rooms(src)).items()):
-        yield f"{unit}: on a circle of includes, through {', '.join(sorted(targets))}"
+def circles(src):
+    arrows = includes_within_rooms(src)
+    reach = {unit: reachable(unit, arrows) for unit in arrows}
+    for unit, targets in sorted(arrows.items()):
+        back = sorted(target for target in targets if unit in reach[target])
+        if back:
+            yield f"{unit}: on a circle of includes, through {', '.join(back)}"
 
 
 def main():
     root = pathlib.Path(sys.argv[1])
-    found = list(violations(root)) + list(tell_circles(root / "src"))
+    found = list(violations(root)) + list(circles(root / "src"))
     for line in found:
         print(line)
     headers = sum(1 for _ in (root / "src").rglob("*.h"))
