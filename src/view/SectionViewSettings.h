@@ -76,6 +76,8 @@ struct SectionViewSettings {
   double verticalExaggeration = 1.0;  ///< height of a metre over its width
   bool lockRange = false;             ///< the palette's range stays when another line is shown
   ContourSettings contours;
+
+  bool operator==(const SectionViewSettings& other) const;
 };
 
 /// The scene that these settings ask for. The palette's scale is the range of velocities, unless it
