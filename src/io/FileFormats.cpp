@@ -119,6 +119,10 @@ const FileFormat& projectFormat() {
   return kFormat;
 }
 
+const TravelTimeFormat& exchangeFormat() {
+  return travelTimeFormats().front();
+}
+
 const ShotFormat* shotFormatOf(std::string_view path) {
   return formatWith(shotFormats(), inLowerCase(suffixOf(path)));
 }

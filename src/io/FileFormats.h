@@ -45,6 +45,7 @@ const std::vector<ShotFormat>& shotFormats();
 const std::vector<TravelTimeFormat>& travelTimeFormats();
 
 const FileFormat& projectFormat();
+const TravelTimeFormat& exchangeFormat();  ///< the one that travel times are written in
 
 /// The format of a file by the suffix of its path; null when it has none of the table.
 const ShotFormat* shotFormatOf(std::string_view path);

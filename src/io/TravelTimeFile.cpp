@@ -108,7 +108,7 @@ Status writeTravelTimes(const std::string& path, const TomoDocument& document) {
     console::error() << message << std::endl;
     return Status::failure(std::move(message));
   }
-  const std::string text = formatOtte(document);
+  const std::string text = exchangeFormat().write(document);
   warnOfWhatIsLost(path, text, document);
   Status written = writeFileAtomically(path, text);
   if (!written.ok()) console::error() << written.message() << std::endl;

@@ -41,7 +41,7 @@ TEST(FileFormats, listAllFormatsFirstInDialogsThenEach) {
             "Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Open Travel Time Exchange "
             "format (*.otte);;T-x curves (*.txt);;Sectioned pick table (*.xyz *.XYZ);;Pick table "
             "(*.csv *.CSV);;All Files (*)");
-  EXPECT_EQ(joinedLines(filtersOf(*travelTimeFormatOf("a.otte"))),
+  EXPECT_EQ(joinedLines(filtersOf(exchangeFormat())),
             "Open Travel Time Exchange format (*.otte);;All Files (*)");
   EXPECT_EQ(joinedLines(filtersOf(projectFormat())), "Talvesk projects (*.tvsk);;All Files (*)");
 }
@@ -87,7 +87,8 @@ TEST(FileFormats, areNamedWhereverTheProgramTellsWhatItReads) {
     expectSuffixes(format);
     for (const char* path : {"README.md", "cmake/Packaging.cmake", "resources/man/talvesk.1",
                              "resources/desktop/example.talvesk.Talvesk.metainfo.xml",
-                             "docs/file-formats.md", "resources/guide/en/formats.html"}) {
+                             "docs/file-formats.md", "resources/guide/en/formats.html",
+                             "src/app/StartOptions.cpp", "src/app/forms/Talvesk_MainWindows.ui"}) {
       EXPECT_THAT(textOf(path), HasSubstr(format.name)) << path;
     }
   }
