@@ -59,7 +59,7 @@ Status write(const QString& file, const QString& folder, const Survey& copy,
              const std::string& note) {
   ProjectWriter writer;
   if (writer.save(file.toStdString(), folder.toStdString(), copy.document, copy.interpretation,
-                  copy.palettes, copy.section) != 0) {
+                  copy.palettes, copy.section, copy.own) != 0) {
     return Status::failure(writer.reason());
   }
   return writeFileAtomically(noteOf(file).toStdString(), note);

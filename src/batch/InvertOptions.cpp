@@ -164,9 +164,9 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   const auto inputs = std::make_shared<std::vector<std::string>>();
   command
       .add_option("INPUT", *inputs,
-                  "One travel-time file (.otte, .txt, .xyz, .csv), one project (.tvsk), or shot "
-                  "files (.seg2, .sg2, .dat, .sgy, .segy, .su). A project brings its grid and "
-                  "velocities to start from, unless an option of the grid is given")
+                  kindsOfInput() +
+                      ". A project brings its grid and velocities to start from, "
+                      "unless an option of the grid is given")
       ->required();
   const ShotOptionGroup shots = addShotOptions(command, options.shots);
   addGridOptions(command, options);

@@ -11,11 +11,7 @@ void addRefract(CLI::App& app, RefractOptions& options) {
                                           "reciprocal method: velocities and depths "
                                           "of one or two refractors under the line");
   const auto inputs = std::make_shared<std::vector<std::string>>();
-  command
-      .add_option("INPUT", *inputs,
-                  "One travel-time file (.otte, .txt, .xyz, .csv), one project (.tvsk), or shot "
-                  "files (.seg2, .sg2, .dat, .sgy, .segy, .su)")
-      ->required();
+  command.add_option("INPUT", *inputs, kindsOfInput())->required();
   const ShotOptionGroup shots = addShotOptions(command, options.shots);
   CLI::Option* layers = addPath(
       command, "--layers", options.layers,

@@ -1,7 +1,7 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
+#include "io/FileFormats.h"
 #include "io/GeometryFile.h"
-#include "io/ShotFile.h"
 #include "processing/TraceFilters.h"
 
 #include <algorithm>
@@ -110,10 +110,15 @@ CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
   return mustEndIn(image, {".png", ".svg", ".pdf"}, true);
 }
 
+std::string kindsOfInput() {
+  return "One travel-time file (" + travelTimeSuffixes() +
+         "), one project (.tvsk), or shot files (" + shotSuffixes() + ")";
+}
+
 void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, std::string& input,
                 std::vector<std::string>& shotFiles) {
   const auto shots =
-      static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), hasShotFileSuffix));
+      static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), shotFormatOf));
   if (shots == inputs.size()) {
     shotFiles = inputs;
     return;

@@ -3,6 +3,7 @@
 #include "base/Console.h"
 #include "base/FileReplacement.h"
 #include "base/PlainText.h"
+#include "io/EntryName.h"
 #include "io/ProjectMembers.h"
 #include "io/ZipSink.h"
 

@@ -1,7 +1,7 @@
 #include "figures/FigureItem.h"
 #include "model/TravelTime.h"
 #include "widgets/LayerCurvesPlot.h"
-#include "widgets/ViewTools.h"
+#include "widgets/PlotGestures_tools.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "widgets/LinePlan.h"
 
 #include "widgets/TraceColors.h"
-#include "widgets/ViewTools.h"
+#include "widgets/PlotGestures_tools.h"
 
 #include <QHelpEvent>
 #include <QLocale>

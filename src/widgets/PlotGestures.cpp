@@ -1,6 +1,6 @@
 #include "widgets/PlotGestures.h"
 
-#include "widgets/ViewTools.h"
+#include "widgets/PlotGestures_tools.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -1,4 +1,4 @@
-#include "widgets/ViewTools.h"
+#include "widgets/PlotGestures_tools.h"
 
 #include "widgets/PlotGestures.h"
 
