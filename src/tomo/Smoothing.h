@@ -2,6 +2,7 @@
 
 #include "base/Log.h"
 #include "grid/Grid.h"
+#include "model/Parameters.h"
 
 #include <cstdint>
 #include <vector>
@@ -9,6 +10,8 @@
 namespace talvesk {
 
 enum class SmoothingType : int { kUniform = 0, kLinear = 1, kGaussian = 2, kRayBased = 3 };
+inline constexpr auto kUsualSmoothing =
+    static_cast<SmoothingType>(parameters::kSmoothingType.initial);
 
 /// Any number but 1, 2 and 3 means uniform.
 SmoothingType smoothingTypeOf(int type);
@@ -16,7 +19,7 @@ SmoothingType smoothingTypeOf(int type);
 /// Height over width of the smoothing window. Ground is layered: unless the user asks for a
 /// symmetric window it is flatter than wide.
 inline constexpr double verticalRatio(bool symmetric) {
-  return symmetric ? 1.0 : 0.7;
+  return symmetric ? 1.0 : parameters::kFlatness.value;
 }
 
 /// Smoothed slownesses (s/m, cell order) of a grid. The window of a cell reaches `radius` columns
