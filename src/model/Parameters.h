@@ -99,6 +99,10 @@ inline constexpr Parameter<int> kXY = {
     "whole metres",
     "Half the distance between the points at which forward and reverse arrivals are taken"};
 
+// Velocities of a layer that are taken for real, m/s.
+inline constexpr FixedNumber kSlowestLayer = {"slowest-layer", 50.0};
+inline constexpr FixedNumber kFastestLayer = {"fastest-layer", 12000.0};
+
 // The look of a section.
 inline constexpr Parameter<int> kContours = {
     "contours", 10, {1, 1000}, "", "Number of contour lines of velocity"};
