@@ -52,7 +52,7 @@ LoadedProject soundProject() {
     trace.samples.edit() = {0, 1, 2};
     project.document.recordings.edit().traceSets.push_back({trace, trace, trace});
     project.document.line.edit().shotPositions.push_back(record.shotPos2d.x);
-    project.interpretation.ttLayer.push_back(
+    project.interpretation.edit().ttLayer.push_back(
         {static_cast<std::uint32_t>(shot), {1, 2, 3}, {0, 0, 0}, true});
   }
   return project;
@@ -108,7 +108,7 @@ void demandWhole(const LoadedProject& project) {
     demand(document.result->info_density.size() == document.model->grid->cellCount(),
            "a density per cell");
   }
-  demand(project.palettes.currentIndex() < project.palettes.size(), "a current palette");
+  demand(project.palettes->currentIndex() < project.palettes->size(), "a current palette");
 }
 
 }  // namespace

@@ -20,10 +20,11 @@ ALLOWED = {
     "view": ENGINE | ALGORITHMS,
     "io": ENGINE | ALGORITHMS | {"view"},
     "export": ENGINE | ALGORITHMS | {"view"},
+    "session": ENGINE | ALGORITHMS | {"view", "io", "export"},
     "figures": ENGINE | ALGORITHMS | {"view", "io", "export"},
-    "widgets": ENGINE | ALGORITHMS | {"view", "io", "export", "figures"},
-    "app": ENGINE | ALGORITHMS | {"view", "io", "export", "figures", "widgets"},
-    "batch": ENGINE | ALGORITHMS | {"view", "io", "export", "figures"},
+    "widgets": ENGINE | ALGORITHMS | {"view", "io", "export", "session", "figures"},
+    "app": ENGINE | ALGORITHMS | {"view", "io", "export", "session", "figures", "widgets"},
+    "batch": ENGINE | ALGORITHMS | {"view", "io", "export", "session", "figures"},
 }
 # Heavy libraries stay out of headers, and out of the rooms that never draw or archive.
 HEAVY_IN_HEADER = re.compile(r"^(vtk|qwt_|cereal/)")

@@ -1,7 +1,5 @@
 #include "app/BackgroundInversion.h"
 
-#include "tomo/InversionCopy.h"
-
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QThread>
@@ -12,7 +10,7 @@ namespace talvesk {
 
 BackgroundInversion::BackgroundInversion(const TomoDocument& document,
                                          const TomographyParameters& parameters, Log& log)
-    : mCopy(inversionCopy(document)), mParameters(parameters), mLog(log) {}
+    : mCopy(document), mParameters(parameters), mLog(log) {}
 
 TomographyResult BackgroundInversion::run(const IterationDone& iterationDone) {
   TomographyResult result;

@@ -55,7 +55,7 @@ void removeFiles(const QString& file) {
   QFile::remove(noteOf(file));
 }
 
-Status write(const QString& file, const QString& folder, const LoadedProject& copy,
+Status write(const QString& file, const QString& folder, const Survey& copy,
              const std::string& note) {
   ProjectWriter writer;
   if (writer.save(file.toStdString(), folder.toStdString(), copy.document, copy.interpretation,
@@ -96,13 +96,13 @@ bool RecoveryCopy::take() {
   return false;
 }
 
-void RecoveryCopy::save(LoadedProject copy, const ProjectFile& project) {
+void RecoveryCopy::save(Survey copy, const ProjectFile& project) {
   if (isSaving()) return;
   if (!take()) {
     emit failed(nothingCanBeWritten(), !canWrite(mFolder));
     return;
   }
-  auto shared = std::make_shared<LoadedProject>(std::move(copy));
+  auto shared = std::make_shared<Survey>(std::move(copy));
   const int run = ++mRun;
   mThread.reset(QThread::create([this, run, shared = std::move(shared), file = mFile,
                                  folder = mFolder, note = noteText(project)]() mutable {
@@ -114,7 +114,7 @@ void RecoveryCopy::save(LoadedProject copy, const ProjectFile& project) {
   mThread->start(QThread::LowPriority);
 }
 
-Status RecoveryCopy::saveNow(LoadedProject copy, const ProjectFile& project) {
+Status RecoveryCopy::saveNow(Survey copy, const ProjectFile& project) {
   wait();
   if (!take()) return Status::failure(nothingCanBeWritten().toStdString());
   return write(mFile, mFolder, copy, noteText(project));

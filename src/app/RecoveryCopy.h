@@ -2,7 +2,7 @@
 
 #include "app/ProjectFile.h"
 #include "base/Status.h"
-#include "io/projectReader.h"
+#include "io/Survey.h"
 
 #include <QDateTime>
 #include <QObject>
@@ -38,9 +38,9 @@ class RecoveryCopy : public QObject {
 
   /// Begins to save a copy; saved() or failed() follows. Nothing happens while one is being saved.
   /// \param project where the survey itself is saved, if it is
-  void save(LoadedProject copy, const ProjectFile& project);
+  void save(Survey copy, const ProjectFile& project);
   /// Saves a copy, after one that is being saved, and returns when it is there.
-  Status saveNow(LoadedProject copy, const ProjectFile& project);
+  Status saveNow(Survey copy, const ProjectFile& project);
   bool isSaving() const { return mThread != nullptr; }
 
   /// Deletes the copy, if there is one. Nobody waits for one that is being saved: it goes when its

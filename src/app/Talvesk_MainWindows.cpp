@@ -6,7 +6,6 @@
 #include "app/KeypadArrows.h"
 #include "app/Messages.h"
 #include "app/SettingsDialog.h"
-#include "io/ProjectSnapshot.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/SectionView.h"
 #include "widgets/TravelTimePlot.h"
@@ -19,7 +18,6 @@
 #include <QLabel>
 #include <QScreen>
 #include <QSettings>
-#include <QUndoStack>
 
 namespace talvesk {
 namespace {
@@ -68,7 +66,8 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   mUi->tabWidget->setCurrentIndex(0);
   retranslate();
   restoreWindow();
-  documentChanged();
+  mSubscription = mSession.subscribe([this](const SurveyChange& change) { surveyChanged(change); });
+  mSession.open({}, true);
 }
 
 QString Talvesk_MainWindows::windowStateFile() const {
@@ -79,7 +78,6 @@ Talvesk_MainWindows::~Talvesk_MainWindows() {
   // The views are children and go last; what they say then finds no window any more.
   for (editTravelTimesWidget* editor : editors()) {
     editor->disconnect(this);
-    editor->undoStack()->disconnect(this);
   }
   mUi->vtk_widget->disconnect(this);
 }
@@ -128,7 +126,7 @@ void Talvesk_MainWindows::saveSettings() {
 
 void Talvesk_MainWindows::connectViews() {
   for (editTravelTimesWidget* editor : editors()) {
-    editor->setDocument(&mDocument);
+    editor->setSession(mSession);
     connect(editor, &editTravelTimesWidget::pick_added, this,
             &Talvesk_MainWindows::enable_draw_travel_times);
     connect(editor, &editTravelTimesWidget::pick_edited, this, &Talvesk_MainWindows::on_pickEdited);
@@ -148,10 +146,6 @@ void Talvesk_MainWindows::connectViews() {
           &Talvesk_MainWindows::refreshViewActions);
   connect(mUi->showTracesWidget, &editTravelTimesWidget::shotEdited, this,
           &Talvesk_MainWindows::showFile);
-  const QUndoStack* edits = mUi->showTracesWidget->undoStack();
-  connect(edits, &QUndoStack::canUndoChanged, mUi->actionUndo, &QAction::setEnabled);
-  connect(edits, &QUndoStack::canRedoChanged, mUi->actionRedo, &QAction::setEnabled);
-  connect(edits, &QUndoStack::indexChanged, this, &Talvesk_MainWindows::refreshCommands);
   mCursorLabel = new QLabel(this);
   mCursorLabel->setObjectName(QStringLiteral("cursorLabel"));
   mCursorLabel->setMinimumWidth(1);  // a long text must not widen the window
@@ -278,7 +272,7 @@ void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
 }
 
 bool Talvesk_MainWindows::mayLoseChanges() {
-  if (!mDocument.modified) return true;
+  if (!mSession.modified()) return true;
   switch (askToSave(this)) {
     case SaveAnswer::kSave:
       return saveProject();

@@ -9,12 +9,8 @@
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
 #include "io/ShotLoader.h"
-#include "model/RefractionDataStructure.h"
-#include "model/TomoDocument.h"
-#include "view/ColorPalette.h"
-#include "view/SectionViewSettings.h"
+#include "session/Session.h"
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QStringList>
 #include <QTimer>
@@ -40,14 +36,15 @@ class Talvesk_MainWindows;
 }
 class BackgroundInversion;
 class GuideWindow;
-class ProjectSnapshot;
 class SettingsDialog;
 class editTravelTimesWidget;
+class projectReader;
 class progressTomographyDialog;
 class TravelTimePlot;
 enum class PickSnap;
 enum class TraceTool;
 struct FilterOutcome;
+struct LoadedProject;
 struct PlannedImage;
 struct SectionReading;
 struct SurveyGeometry;
@@ -82,7 +79,8 @@ class Talvesk_MainWindows : public QMainWindow {
   /// the dialog was left with by OK; false after Cancel, which changes nothing.
   bool askGeometry();
 
-  TomoDocument& document() { return mDocument; }
+  const TomoDocument& document() const { return mSession.document(); }
+  Session& session() { return mSession; }
   const Settings& settings() const { return mSettings; }
   int currentFile() const { return mCurrentFile; }  ///< record in view, -1 without one
 
@@ -198,20 +196,12 @@ class Talvesk_MainWindows : public QMainWindow {
   void on_actionAuto_improve_triggered();
   void enable_draw_travel_times();
   void on_pickEdited();
-  void on_mousemoved(int trace);
   void update_palette_max(int value);
   void update_palette_min(int value);
   void on_vtk_palette_changed();
+  void on_mousemoved(int trace);
   void update_show_traces(bool onlyTraces);
   void on_tomo_stopped();
-
-  /// What the window remembers of a shot beside the document.
-  struct ShotMemory {
-    bool filtered = false;          ///< a command made its filtered copy while it was current
-    bool showFiltered = false;      ///< its views show that copy
-    QString format;                 ///< of its file
-    std::vector<Message> warnings;  ///< that the reader had about its file
-  };
 
   // Start and end
   void startLog();
@@ -239,7 +229,11 @@ class Talvesk_MainWindows : public QMainWindow {
   bool loadProject(const QString& file, LoadedProject& project);
   bool mayUse(const ProjectFile& file, const QString& question);
   bool mayReplace(const ProjectFile& file);
-  void takeProject(LoadedProject project, ProjectFile file);
+  void takeProject(LoadedProject project, ProjectFile file, bool saved = true);
+  void keepRange(ColorPaletteList& palettes) const;
+  void openSurvey(Survey survey, ProjectFile file, bool saved = false);
+  void setProjectFile(ProjectFile file);
+  Survey newSurvey(TomoDocument document) const;
   void reportBadProject(const QString& file, const projectReader& reader);
   void addRecentMenu();
   void refreshRecentProjects();
@@ -248,7 +242,6 @@ class Talvesk_MainWindows : public QMainWindow {
   void prepareAutosave();
   void noteEdit();
   void forgetRecovery();
-  void continueSnapshot();
   void recoveryFailed(const QString& reason, bool lasting);
 
   // Loading
@@ -280,9 +273,19 @@ class Talvesk_MainWindows : public QMainWindow {
 
   // State
   void changeLanguage(int index);
-  void clearDocument();
-  void documentChanged();
-  void documentModified();
+  const Survey& survey() const { return mSession.survey(); }
+  const refractionDataStructure::Interpretation& interpretation() const {
+    return *survey().interpretation;
+  }
+  const ColorPaletteList& palettes() const { return *survey().palettes; }
+  const SectionViewSettings& section() const { return survey().section; }
+  void surveyChanged(const SurveyChange& change);
+  bool showsOtherwise(const SurveyChange& change) const;
+  void showRecords();
+  /// Edits the survey. False, after telling why, when it is as it was.
+  bool edit(Edit kind, const std::function<void(Survey&)>& change, Message text = {});
+  bool tellUnlessDone(const Status& status);
+  void refreshUndoTexts();
   void addMisfitLabel();
   void refreshMisfit();
   void refreshTitle();
@@ -293,9 +296,8 @@ class Talvesk_MainWindows : public QMainWindow {
   void refreshPaletteCommands();
   std::optional<SectionScene> plainSection(SectionQuantity quantity) const;
   ValueRange contourRange(SectionQuantity quantity) const;
-  void completeContourLists();
+  ContourSettings completedContours(ContourSettings contours) const;
   void logContours();
-  void takeOverPalettes(ColorPaletteList palettes);  ///< of another project; a locked range stays
   void refreshRefractionCommands();
   void refreshProjectCommands();
   void refreshExportCommands();
@@ -308,11 +310,9 @@ class Talvesk_MainWindows : public QMainWindow {
   bool hasInformationDensity() const;
   QString whyNoSection() const;
   std::vector<SectionLine> refractors() const;
-  void refreshRefractors();
   void showSectionCursor(const SectionReading& reading);
   void refreshShotChooser();
   void refreshTraceOptions();
-  void refreshFilteredBox();
   void setOption(bool Settings::*option, bool value);
   void saveSettings();
   void refreshViewActions();
@@ -330,13 +330,14 @@ class Talvesk_MainWindows : public QMainWindow {
   std::vector<std::int32_t> shotsToProcess() const;
   bool forEachShot(const std::vector<std::int32_t>& shots, const QString& text,
                    const std::function<void(std::int32_t)>& work);
-  void makeFilteredCopies(const QString& text,
-                          const std::function<FilterOutcome(std::int32_t)>& filter);
-  void showFilteredCopies();
+  void makeFilteredCopies(Message step, const QString& text,
+                          const std::function<FilterOutcome(TomoDocument&, std::int32_t)>& filter);
+  void takeFilteredCopies(const TomoDocument& work, Message step);
 
   // Tomography
   bool isPresentGrid(const SurveyProfile& profile, const GridSettings& settings) const;
   bool askForSameGrid();
+  GridSettings proposedGrid(SurveyProfile& profile);
   Status smoothBeside(const smoothingDialog& dialog);
   bool makeGrid();
   TomographyResult runInversionBeside(const TomographyParameters& parameters);
@@ -344,7 +345,6 @@ class Talvesk_MainWindows : public QMainWindow {
   static QString leftOutBox(const QStringList& names);
   std::vector<QWidget*> documentEditors() const;
   void askToStopAndClose();
-  void modelChanged();
 
   void logSlot(const char* name);
   void openUserGuide(const QString& page);
@@ -357,25 +357,19 @@ class Talvesk_MainWindows : public QMainWindow {
   FileFolders mFolders;
   Languages mLanguages;
   ShotLoader mLoader;
-  TomoDocument mDocument;
-  refractionDataStructure::Interpretation mInterpretation;
-  ColorPaletteList mPalettes;
-  SectionViewSettings mSection;
-  std::vector<ShotMemory> mShots;  ///< one per trace set
+  Session mSession;
+  Session::Subscription mSubscription;
   int mCurrentFile = -1;
-  ProjectFile mProject;         ///< where the survey is saved
-  SharedFolder mProjectFolder;  ///< of the shot files of a loaded project
+  ProjectFile mProject;  ///< where the survey is saved
   RecentProjects mRecent;
   QMenu* mRecentMenu = nullptr;
   RecoveryCopy mRecovery;
   QTimer mAutosaveTimer{this};
-  QElapsedTimer mUncopiedSince;                ///< the first edit that no recovery copy has
-  int mRevision = 0;                           ///< grows with every change
-  int mRecoveredRevision = 0;                  ///< that the recovery copy holds
-  std::unique_ptr<ProjectSnapshot> mSnapshot;  ///< that is being made for the recovery copy
-  int mSnapshotRevision = 0;                   ///< that it is made of
-  int mFailedRecoveries = 0;                   ///< in a row
+  std::uint64_t mRecoveredRevision = 0;  ///< that the recovery copy holds
+  int mFailedRecoveries = 0;             ///< in a row
   bool mLaidOut = false;
+  struct PaletteTrial;
+  PaletteTrial* mPaletteTrial = nullptr;      ///< while the dialog of palettes is open
   bool mFirstRun = false;                     ///< the user has not been asked for settings yet
   BackgroundInversion* mInversion = nullptr;  ///< under way; the document is not to be edited then
   progressTomographyDialog* mInversionProgress = nullptr;

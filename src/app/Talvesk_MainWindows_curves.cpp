@@ -15,7 +15,7 @@ void Talvesk_MainWindows::connectPlots() {
   mUi->travelTimePreview->setRole(TravelTimePlot::Role::CurrentShot);
   mUi->travelTimeCurves->setRole(TravelTimePlot::Role::AllShots);
   for (TravelTimePlot* plot : plots()) {
-    plot->setDocument(&mDocument);
+    plot->setDocument(&document());
     // A pick dragged in a plot is undone with the others, so the trace view makes the edit.
     plot->setEditor([this](int shot, int trace, double seconds) {
       mUi->showTracesWidget->editPick(shot, trace, seconds);
@@ -40,7 +40,7 @@ void Talvesk_MainWindows::exportCurves() {
   if (file.isEmpty()) return;
   TravelTimeFigureOptions options;
   options.computed = mUi->travelTimeCurves->showsComputed();
-  if (const Status status = writeTravelTimeFigure(mDocument, options, file.toStdString());
+  if (const Status status = writeTravelTimeFigure(document(), options, file.toStdString());
       !status.ok()) {
     tellFailure(this, mLog, tr("The picture has not been saved."), status);
     return;

@@ -76,48 +76,48 @@ QString Talvesk_MainWindows::askForGriddedText() {
 
 void Talvesk_MainWindows::on_actionExport_tomographic_data_triggered() {
   logSlot(__func__);
-  if (!mDocument.model->grid) return;
+  if (!document().model->grid) return;
   const QString file = askForGriddedText();
   if (file.isEmpty()) return;
   GriddedTextOptions options;
-  options.zOffset = -referenceElevation(*mDocument.model->grid);
+  options.zOffset = -referenceElevation(*document().model->grid);
   exportTo(file,
-           [&](const std::string& path) { return writeGriddedText(path, mDocument, options); });
+           [&](const std::string& path) { return writeGriddedText(path, document(), options); });
 }
 
 void Talvesk_MainWindows::on_actionGridded_Data_triggered() {
   logSlot(__func__);
-  if (!mDocument.model->grid) return;
+  if (!document().model->grid) return;
   const QString file = askForGriddedText();
   if (file.isEmpty()) return;
   ExportTomoVelData dialog(this);
   if (dialog.exec() != QDialog::Accepted) return;
   exportTo(file, [&](const std::string& path) {
-    return writeGriddedText(path, mDocument, dialog.options());
+    return writeGriddedText(path, document(), dialog.options());
   });
 }
 
 void Talvesk_MainWindows::on_actionExport_VTK_triggered() {
   logSlot(__func__);
-  if (!mDocument.model->grid) return;
+  if (!document().model->grid) return;
   const QString file = askForExport(tr("Export VTK Grid"),
                                     tr("VTK unstructured grid (*.vtu);;All Files (*)"), "vtu");
   if (file.isEmpty()) return;
-  exportTo(file, [this](const std::string& path) { return writeVtkGrid(path, mDocument); });
+  exportTo(file, [this](const std::string& path) { return writeVtkGrid(path, document()); });
 }
 
 void Talvesk_MainWindows::on_actionExport_Surfer_triggered() {
   logSlot(__func__);
-  if (!mDocument.model->grid) return;
+  if (!document().model->grid) return;
   const QString file =
       askForExport(tr("Export Surfer Grid"), tr("Surfer ASCII grid (*.grd);;All Files (*)"), "grd");
   if (file.isEmpty()) return;
-  exportTo(file, [this](const std::string& path) { return writeSurferGrid(path, mDocument); });
+  exportTo(file, [this](const std::string& path) { return writeSurferGrid(path, document()); });
 }
 
 /// Whether the line has a place on the globe; the user is told when it has none.
 bool Talvesk_MainWindows::mayExportKml() {
-  if (mDocument.map->geoCoord_isSet) return true;
+  if (document().map->geoCoord_isSet) return true;
   showWarning(this, tr("Warning"),
               tr("Geographical coordinates are missing, data cannot be exported in KML format"),
               tr("Set them with Project > Set geographic coordinates ..."));
@@ -126,40 +126,40 @@ bool Talvesk_MainWindows::mayExportKml() {
 
 void Talvesk_MainWindows::on_actionExportTomographic_profile_2_KML_triggered() {
   logSlot(__func__);
-  if (!mDocument.model->grid || !lineEnds(mDocument) || !mayExportKml()) return;
+  if (!document().model->grid || !lineEnds(document()) || !mayExportKml()) return;
   const QString file =
       askForExport(tr("Export Tomography to KML"), tr("KML (*.kml);;All Files (*)"), "kml");
   if (file.isEmpty()) return;
-  const ColorPalette& palette = mPalettes.current();
+  const ColorPalette& palette = palettes().current();
   exportTo(file, [&](const std::string& path) {
-    return writeSectionKml(path, mDocument, palette, {palette.min_db, palette.max_db});
+    return writeSectionKml(path, document(), palette, {palette.min_db, palette.max_db});
   });
 }
 
 void Talvesk_MainWindows::on_actionExportSeismic_line_triggered() {
   logSlot(__func__);
-  if (!lineEnds(mDocument) || !mayExportKml()) return;
+  if (!lineEnds(document()) || !mayExportKml()) return;
   const QString file =
       askForExport(tr("Export Seismic Line to KML"), tr("KML (*.kml);;All Files (*)"), "kml");
   if (file.isEmpty()) return;
-  exportTo(file, [this](const std::string& path) { return writeSeismicLineKml(path, mDocument); });
+  exportTo(file, [this](const std::string& path) { return writeSeismicLineKml(path, document()); });
 }
 
 void Talvesk_MainWindows::on_actionSet_geography_coordinates_triggered() {
   logSlot(__func__);
   std::optional<geographicsCoord> before;
-  if (mDocument.map->geoCoord_isSet) before = mDocument.map->geoCoord;
-  setGeographyDialog dialog(before, lineEnds(mDocument), this);
+  if (document().map->geoCoord_isSet) before = document().map->geoCoord;
+  setGeographyDialog dialog(before, lineEnds(document()), this);
   if (dialog.exec() != QDialog::Accepted) return;
   if (before && areSame(*before, dialog.coordinates())) return;
-  mDocument.map.edit().geoCoord = dialog.coordinates();
-  mDocument.map.edit().geoCoord_isSet = true;
-  documentModified();
+  edit(Edit::kMapPosition, [&](Survey& survey) {
+    survey.document.map = MapPosition{dialog.coordinates(), true};
+  });
 }
 
 void Talvesk_MainWindows::refreshExportCommands() {
-  const bool line = lineEnds(mDocument).has_value();
-  const bool section = mDocument.model->grid != nullptr;
+  const bool line = lineEnds(document()).has_value();
+  const bool section = document().model->grid != nullptr;
   for (QAction* action : {mUi->actionExport_tomographic_data, mUi->actionGridded_Data,
                           mUi->actionExport_VTK, mUi->actionExport_Surfer}) {
     action->setEnabled(section);

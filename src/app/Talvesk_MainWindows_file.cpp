@@ -93,36 +93,38 @@ std::vector<ReadShot> Talvesk_MainWindows::readShotFiles(const QStringList& file
 
 /// A survey that others are to take the place of stays until one of these is there.
 void Talvesk_MainWindows::loadShotFiles(const QStringList& files, ShotFiles how) {
-  TomoDocument fresh;
-  TomoDocument& target = how == ShotFiles::kInstead ? fresh : mDocument;
-  const std::size_t before = target.recordings->traceSets.size();
-  std::vector<ReadShot> shots = readShotFiles(files, target);
+  const bool instead = how == ShotFiles::kInstead;
+  TomoDocument work = instead ? TomoDocument() : document();
+  const std::size_t before = work.recordings->traceSets.size();
+  std::vector<ReadShot> shots = readShotFiles(files, work);
   Losses losses;
-  losses.model = lossByShots(shots, target);
-  if (!mayLose(this, target, losses)) {
+  losses.model = lossByShots(shots, work);
+  if (!mayLose(this, work, losses)) {
     statusBar()->showMessage(tr("No shot file was loaded."), kMessageTime);
     return;
   }
-  const std::vector<ShotFileOutcome> outcomes = appendShots(std::move(shots), target);
-  std::vector<ShotMemory> memories;
-  for (const ShotFileOutcome& outcome : outcomes) {
-    if (!outcome.status.ok()) continue;
-    ShotMemory& memory = memories.emplace_back();
-    memory.format = QString::fromStdString(outcome.format);
-    memory.warnings = outcome.warnings;
+  const std::vector<ShotFileOutcome> outcomes = appendShots(std::move(shots), work);
+  const std::size_t loaded = work.recordings->traceSets.size() - before;
+  if (loaded == 0) return reportShotFiles(outcomes);
+  if (instead) {
+    openSurvey(newSurvey(std::move(work)), ProjectFile());
+  } else if (!edit(Edit::kOpenShots, [&](Survey& survey) { survey.document = work; })) {
+    return;
   }
-  if (memories.empty()) return reportShotFiles(outcomes);
-  if (how == ShotFiles::kInstead) {
-    clearDocument();
-    mDocument = std::move(fresh);
-  }
-  mShots.insert(mShots.end(), memories.begin(), memories.end());
-  documentChanged();
   showFresh(static_cast<int>(before));
   reportShotFiles(outcomes);
-  std::vector<std::size_t> loaded(memories.size());
-  std::iota(loaded.begin(), loaded.end(), before);
-  askForShotTime(loaded);
+  std::vector<std::size_t> sets(loaded);
+  std::iota(sets.begin(), sets.end(), before);
+  askForShotTime(sets);
+}
+
+/// What the user has set up for the section before goes on: palettes and view.
+Survey Talvesk_MainWindows::newSurvey(TomoDocument document) const {
+  Survey survey = mSession.survey();
+  survey.document = std::move(document);
+  survey.interpretation = {};
+  survey.folder.reset();
+  return survey;
 }
 
 /// Makes a record that was just loaded the current one, and the keys go to its traces: they would
@@ -163,7 +165,7 @@ void Talvesk_MainWindows::reportShotFiles(const std::vector<ShotFileOutcome>& ou
 void Talvesk_MainWindows::askForShotTime(const std::vector<std::size_t>& sets) {
   double earliest = 0.0;
   for (const std::size_t set : sets) {
-    for (const Trace& trace : mDocument.recordings->traceSets[set])
+    for (const Trace& trace : document().recordings->traceSets[set])
       earliest = std::min(earliest, trace.delay);
   }
   if (earliest >= 0.0) return;
@@ -173,18 +175,11 @@ void Talvesk_MainWindows::askForShotTime(const std::vector<std::size_t>& sets) {
       tr("Do you want to count times from the shot? What was recorded before it is then dropped."),
       true);
   if (!yes) return;
+  ShotTimeOutcome outcome;
   // Only the new records: picks on the older ones count from where those start now.
-  TomoDocument fresh;
-  for (const std::size_t set : sets) {
-    fresh.recordings.edit().traceSets.push_back(
-        std::move(mDocument.recordings.edit().traceSets[set]));
-  }
-  const ShotTimeOutcome outcome = countTimeFromShot(fresh);
-  for (std::size_t i = 0; i < sets.size(); ++i) {
-    mDocument.recordings.edit().traceSets[sets[i]] =
-        std::move(fresh.recordings.edit().traceSets[i]);
-  }
-  documentChanged();
+  edit(Edit::kShotTime, [&](Survey& survey) {
+    outcome = countTimeFromShot(survey.document.recordings.edit().traceSets, sets);
+  });
   if (outcome.leftAsRecorded > 0) {
     showNote(this, tr("Recording delay"),
              tr("%n trace(s) end before the shot and stay as recorded.", nullptr,
@@ -208,37 +203,34 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
   Status status = whileWaiting([&] {
     Status read = readTravelTimes(file.toStdString(), times);
     if (!read.ok()) return read;
-    fitToRecords(times, mDocument);
-    return checkImport(times, mDocument, cost);
+    fitToRecords(times, document());
+    return checkImport(times, document(), cost);
   });
   const std::vector<Message> warnings = times.warnings;
   if (status.ok()) {
     // An import replaces the picks at least.
-    if (hasPicks(mDocument) && !mayLoseChanges()) return;
+    if (hasPicks(document()) && !mayLoseChanges()) return;
     Losses losses;
     losses.model = cost.model;
     losses.startingModel =
-        cost.survey && (cost.model == ModelLoss::kGrid || mDocument.model->grid == nullptr);
+        cost.survey && (cost.model == ModelLoss::kGrid || document().model->grid == nullptr);
     losses.interpretation =
-        isInterpreted(mInterpretation) || (cost.survey && hasMarks(mInterpretation.ttLayer));
-    if (!mayLose(this, mDocument, losses)) return;
-    status = importTravelTimes(std::move(times), mDocument);
+        isInterpreted(interpretation()) || (cost.survey && hasMarks(interpretation().ttLayer));
+    if (!mayLose(this, document(), losses)) return;
+    status = mSession.apply(cost.survey ? Edit::kImportSurvey : Edit::kImport, [&](Survey& survey) {
+      if (cost.survey) survey.document.title.clear();
+      return importTravelTimes(times, survey.document);
+    });
   }
   if (!status.ok()) {
     tellFailure(this, mLog, tr("Error while loading %1.").arg(QFileInfo(file).fileName()), status);
     return;
   }
-  // A profile is one of the picks that it was built from, marks are those of the shots.
-  forgetResults(mInterpretation);
-  if (cost.survey) {
-    mInterpretation = {};
-    mProject = {};  // the project on the disk is that of another survey: saving asks where to
-  }
-  for (editTravelTimesWidget* editor : editors()) editor->picksReplaced();
-  documentChanged();
+  // The project on the disk is that of another survey: saving asks where to.
+  if (cost.survey) setProjectFile({});
   showFresh(mCurrentFile < 0 ? 0 : mCurrentFile);
   statusBar()->showMessage(tr("Travel times of %n shot(s) imported.", nullptr,
-                              static_cast<int>(mDocument.ttArray.size())),
+                              static_cast<int>(document().ttArray.size())),
                            kMessageTime);
   if (!warnings.empty()) {
     showNote(this, tr("Warning"),
@@ -253,7 +245,7 @@ void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
       askForExport(tr("Save TravelTimeExchange"),
                    tr("Open Travel Time Exchange format (*.otte);;All Files (*)"), "otte");
   if (file.isEmpty()) return;
-  if (const Status status = writeTravelTimes(file.toStdString(), mDocument); !status.ok()) {
+  if (const Status status = writeTravelTimes(file.toStdString(), document()); !status.ok()) {
     tellFailure(this, mLog, tr("The travel times have not been saved."), status);
     return;
   }

@@ -5,7 +5,6 @@
 #include "model/Recordings.h"
 #include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
-#include "widgets/editTravelTimesWidget.h"
 
 #include <QStatusBar>
 
@@ -20,33 +19,24 @@ void Talvesk_MainWindows::on_actionGeometry_triggered() {
 
 bool Talvesk_MainWindows::askGeometry() {
   DialogSetGeometry::Context context;
-  context.interpreted = isInterpreted(mInterpretation);
-  DialogSetGeometry dialog(mDocument, mLoader.state(), mFolders, context, this);
+  context.interpreted = isInterpreted(interpretation());
+  DialogSetGeometry dialog(document(), mLoader.state(), mFolders, context, this);
   if (dialog.exec() != QDialog::Accepted) return false;
   takeGeometry(dialog.geometry());
   return true;
 }
 
 void Talvesk_MainWindows::takeGeometry(const SurveyGeometry& geometry) {
-  if (!applyGeometry(geometry, mDocument)) return;
-  // Which pick belongs to which layer does not depend on positions; what was computed does.
-  forgetResults(mInterpretation);
-
+  if (!geometryDiffers(geometry, document())) return;
   std::vector<std::size_t> fresh;
-  mShots.resize(mDocument.recordings->traceSets.size());
   for (std::size_t i = 0; i < geometry.shots.size(); ++i) {
-    const auto& pair = geometry.shots[i].pair;
-    if (!pair) continue;
-    fresh.push_back(i);
-    mShots[i] = ShotMemory();
-    mShots[i].format = QString::fromStdString(pair->format);
-    mShots[i].warnings = pair->warnings;
-    if (i < mInterpretation.ttLayer.size()) mInterpretation.ttLayer[i].layer.clear();
+    if (geometry.shots[i].pair) fresh.push_back(i);
   }
-  if (!fresh.empty()) {
-    for (editTravelTimesWidget* editor : editors()) editor->picksReplaced();
-  }
-  documentChanged();
+  const bool done = edit(fresh.empty() ? Edit::kGeometry : Edit::kRecordPairs, [&](Survey& survey) {
+    applyGeometry(geometry, survey.document);
+    for (const std::size_t shot : fresh) forgetMarks(shot, survey.interpretation.edit());
+  });
+  if (!done) return;
   if (!fresh.empty()) showFresh(static_cast<int>(fresh.front()));
   statusBar()->showMessage(tr("The geometry of the survey has changed."), kMessageTime);
   askForShotTime(fresh);

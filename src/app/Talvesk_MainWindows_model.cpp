@@ -11,7 +11,6 @@
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/GridSetup.h"
-#include "tomo/InversionCopy.h"
 #include "ui_Talvesk_MainWindows.h"
 
 #include <QApplication>
@@ -33,27 +32,27 @@ void Talvesk_MainWindows::on_actionGrid_triggered() {
 /// one. False when there is no grid as the user wants it.
 bool Talvesk_MainWindows::makeGrid() {
   SurveyProfile profile;
-  GridSettings settings = proposeGrid(mDocument, profile, mLog);
+  GridSettings settings = proposedGrid(profile);
   while (!profile.hasGeometry()) {
     showUrgentWarning(
         this, tr("Warning"),
         tr("Geophones do not have geometry! \n") + tr("Please set the position of geophones\n"));
     if (!askGeometry()) return false;
-    settings = proposeGrid(mDocument, profile, mLog);
+    settings = proposedGrid(profile);
   }
-  gridDialog dialog(mDocument, profile, settings, searchThreads(), this);
+  gridDialog dialog(document(), profile, settings, searchThreads(), this);
   while (dialog.exec() == QDialog::Accepted) {
     if (isPresentGrid(profile, dialog.settings()) && !askForSameGrid()) return true;
     const Status status = whileWaiting([&] {
-      Status built = setUpGrid(mDocument, dialog.settings(), mLog);
-      if (built.ok()) modelChanged();
-      return built;
+      return mSession.apply(Edit::kGrid, [&](Survey& survey) {
+        return setUpGrid(survey.document, dialog.settings(), mLog);
+      });
     });
     if (status.ok()) {
       mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
       statusBar()->showMessage(tr("Grid of %1 rows and %2 columns built.")
-                                   .arg(mDocument.model->grid->righe())
-                                   .arg(mDocument.model->grid->col()),
+                                   .arg(document().model->grid->righe())
+                                   .arg(document().model->grid->col()),
                                kMessageTime);
       return true;
     }
@@ -62,13 +61,20 @@ bool Talvesk_MainWindows::makeGrid() {
   return false;
 }
 
+/// What is proposed first stays the proposal, whether or not a grid is built.
+GridSettings Talvesk_MainWindows::proposedGrid(SurveyProfile& profile) {
+  GridSettings settings;
+  mSession.amend([&](Survey& survey) { settings = proposeGrid(survey.document, profile, mLog); });
+  return settings;
+}
+
 /// Whether a grid of these settings would have the cells that there are.
 bool Talvesk_MainWindows::isPresentGrid(const SurveyProfile& profile,
                                         const GridSettings& settings) const {
-  if (mDocument.model->grid == nullptr) return false;
+  if (document().model->grid == nullptr) return false;
   const GridSize wanted =
       gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);
-  const GridSize& present = mDocument.model->grid->geometry().size();
+  const GridSize& present = document().model->grid->geometry().size();
   return wanted.righe == present.righe && wanted.col == present.col && wanted.nV == present.nV &&
          wanted.aLato == present.aLato;
 }
@@ -81,8 +87,9 @@ bool Talvesk_MainWindows::askForSameGrid() {
 
 void Talvesk_MainWindows::on_actionDefine_model_velocity_triggered() {
   logSlot(__func__);
-  if (select_speed_Dialog(mDocument, this).exec() != QDialog::Accepted) return;
-  modelChanged();
+  TomoDocument work = document();
+  if (select_speed_Dialog(work, this).exec() != QDialog::Accepted) return;
+  edit(Edit::kStartingModel, [&](Survey& survey) { survey.document = work; });
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
   statusBar()->showMessage(tr("The grid has the velocities of the layers."), kMessageTime);
 }
@@ -90,7 +97,7 @@ void Talvesk_MainWindows::on_actionDefine_model_velocity_triggered() {
 void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
   logSlot(__func__);
   smoothingDialog dialog(
-      mDocument.result->has_tomographic_info ? SmoothingType::kRayBased : SmoothingType::kUniform,
+      document().result->has_tomographic_info ? SmoothingType::kRayBased : SmoothingType::kUniform,
       this);
   if (dialog.exec() != QDialog::Accepted) return;
   const Status status = smoothBeside(dialog);
@@ -106,7 +113,7 @@ void Talvesk_MainWindows::on_actionApply_smoothing_triggered() {
 /// while the window goes on drawing itself.
 Status Talvesk_MainWindows::smoothBeside(const smoothingDialog& dialog) {
   const WaitCursor waiting;
-  TomoDocument copy = inversionCopy(mDocument);
+  TomoDocument copy = document();
   Status status;
   const std::unique_ptr<QThread> thread(QThread::create([&] {
     status = smoothGrid(copy, dialog.type(), dialog.radius(), dialog.symmetric(), mLog);
@@ -119,16 +126,16 @@ Status Talvesk_MainWindows::smoothBeside(const smoothingDialog& dialog) {
   thread->wait();
   statusBar()->clearMessage();
   if (!status.ok()) return status;
-  takeInversion(mDocument, copy);
-  mDocument.modified = true;
-  modelChanged();
-  return status;
+  return mSession.apply(Edit::kSmoothing, [&](Survey& survey) {
+    survey.document = std::move(copy);
+    return Status();
+  });
 }
 
 void Talvesk_MainWindows::refreshTomographyCommands() {
-  const bool survey = !mDocument.ttArray.empty();
-  const bool cells = mDocument.model->grid && mDocument.model->grid->cellCount() > 0;
-  mUi->actionGrid->setEnabled(survey || !mDocument.line->goephonesStringSet.empty());
+  const bool survey = !document().ttArray.empty();
+  const bool cells = document().model->grid && document().model->grid->cellCount() > 0;
+  mUi->actionGrid->setEnabled(survey || !document().line->goephonesStringSet.empty());
   mUi->actionDefine_model_velocity->setEnabled(cells);
   mUi->actionRun_tomography_inversion->setEnabled(survey);
   mUi->actionApply_smoothing->setEnabled(cells);

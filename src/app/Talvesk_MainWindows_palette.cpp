@@ -9,13 +9,23 @@
 
 namespace talvesk {
 
+/// The section follows every change in the dialog of palettes; the survey takes those that it is
+/// left with by OK.
+struct Talvesk_MainWindows::PaletteTrial {
+  explicit PaletteTrial(Session& session)
+      : palettes(session.survey().palettes), edit(session, Edit::kPalette) {}
+
+  ColorPaletteList palettes;
+  OpenEdit edit;
+};
+
 /// The section without its lines: what values it shows. None where there is nothing to show.
 std::optional<SectionScene> Talvesk_MainWindows::plainSection(SectionQuantity quantity) const {
   SectionSceneOptions options;
   options.quantity = quantity;
   options.coverageLimit = false;
   SectionScene scene;
-  if (!buildSectionScene(mDocument, options, scene).ok()) return std::nullopt;
+  if (!buildSectionScene(document(), options, scene).ok()) return std::nullopt;
   return scene;
 }
 
@@ -23,57 +33,57 @@ void Talvesk_MainWindows::on_actionPalette_triggered() {
   logSlot(__func__);
   std::optional<ValueRange> shown;
   if (const auto scene = plainSection(SectionQuantity::kVelocity)) shown = scene->dataRange;
-  PaletteDialog dialog(mPalettes, mSection.lockRange, shown, mFolders, this);
+  PaletteTrial trial(mSession);
+  mPaletteTrial = &trial;
+  PaletteDialog dialog(trial.palettes, section().lockRange, shown, mFolders, this);
   connect(&dialog, &PaletteDialog::changed_max_value, this,
           &Talvesk_MainWindows::update_palette_max);
   connect(&dialog, &PaletteDialog::changed_min_value, this,
           &Talvesk_MainWindows::update_palette_min);
   connect(&dialog, &PaletteDialog::modified, this, &Talvesk_MainWindows::on_vtk_palette_changed);
-  if (dialog.exec() != QDialog::Accepted || !dialog.hasChanges()) return;
-  mSection.lockRange = dialog.lockRange();
-  if (!mDocument.ttArray.empty()) documentModified();
+  const bool changed = dialog.exec() == QDialog::Accepted && dialog.hasChanges();
+  mPaletteTrial = nullptr;
+  if (!changed) return;
+  tellUnlessDone(trial.edit.commit([&](Survey& survey) {
+    survey.section.lockRange = dialog.lockRange();
+    survey.palettes = trial.palettes;
+    return Status();
+  }));
 }
 
 void Talvesk_MainWindows::update_palette_max(int value) {
-  mPalettes.current().max_db = value;
-  refreshSection();
+  if (mPaletteTrial != nullptr) mPaletteTrial->palettes.current().max_db = value;
+  on_vtk_palette_changed();
 }
 
 void Talvesk_MainWindows::update_palette_min(int value) {
-  mPalettes.current().min_db = value;
-  refreshSection();
+  if (mPaletteTrial != nullptr) mPaletteTrial->palettes.current().min_db = value;
+  on_vtk_palette_changed();
 }
 
 void Talvesk_MainWindows::on_vtk_palette_changed() {
-  refreshSection();
-}
-
-void Talvesk_MainWindows::takeOverPalettes(ColorPaletteList palettes) {
-  const ValueRange before{mPalettes.current().min_db, mPalettes.current().max_db};
-  mPalettes = std::move(palettes);
-  if (!mSection.lockRange) return;
-  mPalettes.current().min_db = before.min;
-  mPalettes.current().max_db = before.max;
+  if (mPaletteTrial == nullptr) return;
+  tellUnlessDone(mPaletteTrial->edit.preview([this](Survey& survey) {
+    survey.palettes = mPaletteTrial->palettes;
+    return Status();
+  }));
 }
 
 void Talvesk_MainWindows::on_actionShow_Contour_Lines_triggered() {
   logSlot(__func__);
-  const ValueRange range = contourRange(contouredQuantity(mSection.quantity));
+  const ValueRange range = contourRange(contouredQuantity(section().quantity));
   // Who wants contours where there are none yet wants to see them.
-  const ContourSettings proposed = proposedContours(mSection.contours, mSection.quantity, range);
-  contourlines_dialog dialog(proposed, mSection.quantity, range, mFolders, this);
+  const ContourSettings proposed = proposedContours(section().contours, section().quantity, range);
+  contourlines_dialog dialog(proposed, section().quantity, range, mFolders, this);
   const bool accepted = dialog.exec() == QDialog::Accepted;
   refreshSectionCommands();  // the click has turned the action over, whatever was answered
   if (!accepted) return;
-  const bool changed = dialog.hasChanges() || proposed != mSection.contours;
-  changeSection([&](SectionViewSettings& section) {
-    if (!changed) return;
-    section.contours = dialog.settings();
-    completeContourLists();
-  });
+  mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
+  if (dialog.hasChanges() || proposed != section().contours) {
+    edit(Edit::kContours,
+         [&](Survey& survey) { survey.section.contours = completedContours(dialog.settings()); });
+  }
   logContours();
-  if (!changed) return;
-  if (!mDocument.ttArray.empty()) documentModified();
 }
 
 /// The palette says what range of velocities is shown; other quantities have their own.
@@ -81,24 +91,24 @@ ValueRange Talvesk_MainWindows::contourRange(SectionQuantity quantity) const {
   if (quantity != SectionQuantity::kVelocity) {
     if (const auto scene = plainSection(quantity)) return scene->range;
   }
-  return {mPalettes.current().min_db, mPalettes.current().max_db};
+  return {palettes().current().min_db, palettes().current().max_db};
 }
 
 /// Contours of a quantity that is not in view may have been switched on before it had a list.
-void Talvesk_MainWindows::completeContourLists() {
-  ContourSettings& contours = mSection.contours;
+ContourSettings Talvesk_MainWindows::completedContours(ContourSettings contours) const {
   for (const SectionQuantity quantity :
        {SectionQuantity::kVelocity, SectionQuantity::kVerticalGradient,
         SectionQuantity::kLaplacian}) {
-    const bool edited = quantity == contouredQuantity(mSection.quantity);
+    const bool edited = quantity == contouredQuantity(section().quantity);
     if (edited || !showsContours(contours, quantity)) continue;
     if (!(contours.*contourList(quantity)).empty()) continue;
     contours = proposedContours(contours, quantity, contourRange(quantity));
   }
+  return contours;
 }
 
 void Talvesk_MainWindows::logContours() {
-  const ContourSettings& contours = mSection.contours;
+  const ContourSettings& contours = section().contours;
   const std::pair<const char*, bool> choices[] = {
       {"Equally Spaced Contours: ", !contours.customized},
       {"Customized Contours: ", contours.customized},

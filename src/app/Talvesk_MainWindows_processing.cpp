@@ -9,6 +9,7 @@
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
 #include "processing/ShotList.h"
+#include "session/PickEdits.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -19,7 +20,7 @@
 namespace talvesk {
 
 std::vector<std::int32_t> Talvesk_MainWindows::shotsToProcess() const {
-  return shotList(mDocument, mSettings.showAllTraces, mCurrentFile);
+  return shotList(document(), mSettings.showAllTraces, mCurrentFile);
 }
 
 /// Shot by shot on this thread: a shot takes a moment, and between two of them the window answers
@@ -45,27 +46,21 @@ void Talvesk_MainWindows::on_actionAutoPick_triggered() {
   logSlot(__func__);
   if (mCurrentFile < 0) return;
   const bool useFiltered = mUi->show_filtered_cb->isChecked();
-  std::vector<ReplacedPicks> picked;
+  TomoDocument work = document();
+  std::size_t traces = 0;
+  std::size_t found = 0;
   Status failed;
   forEachShot(shotsToProcess(), tr("Picking first breaks ..."), [&](std::int32_t shot) {
     // A shot without a filtered copy has nothing to pick there.
-    const bool fromCopy = useFiltered && hasFilteredCopy(shot);
-    picked.push_back({shot, mDocument.ttArray[static_cast<std::size_t>(shot)].ttMisurati});
-    Status status = pickShots(mDocument, {shot}, fromCopy);
+    Status status = pickShots(work, {shot}, useFiltered && hasFilteredCopy(shot));
     if (!status.ok() && failed.ok()) failed = std::move(status);
-  });
-  mUi->showTracesWidget->autoPicked(picked);
-  mUi->showTracesWidget_2->picksReplaced();
-  documentModified();
-  refreshPlots();
-  // The traces may be behind another tab.
-  std::size_t traces = 0;
-  std::size_t found = 0;
-  for (const ReplacedPicks& one : picked) {
-    const TravelTime& record = mDocument.ttArray[static_cast<std::size_t>(one.shot)];
+    markPicksAutomatic(work, shot);
+    const TravelTime& record = work.ttArray[static_cast<std::size_t>(shot)];
     traces += record.ttMisurati.size();
     found += pickCount(record);
-  }
+  });
+  edit(Edit::kAutoPick, [&](Survey& survey) { survey.document = work; });
+  // The traces may be behind another tab.
   statusBar()->showMessage(tr("First breaks found on %1 of %2 traces.").arg(found).arg(traces),
                            kMessageTime);
   if (!failed.ok()) {
@@ -75,20 +70,19 @@ void Talvesk_MainWindows::on_actionAutoPick_triggered() {
 }
 
 void Talvesk_MainWindows::makeFilteredCopies(
-    const QString& text, const std::function<FilterOutcome(std::int32_t)>& filter) {
+    Message step, const QString& text,
+    const std::function<FilterOutcome(TomoDocument&, std::int32_t)>& filter) {
   const std::vector<std::int32_t> shots = shotsToProcess();
   if (shots.empty()) return;
   FilterOutcome sum;
+  TomoDocument work = document();
   forEachShot(shots, text, [&](std::int32_t shot) {
-    FilterOutcome one = filter(shot);
+    FilterOutcome one = filter(work, shot);
     sum.filtered += one.filtered;
     sum.failed += one.failed;
     if (sum.status.ok()) sum.status = std::move(one.status);
   });
-  if (sum.filtered > 0) {
-    documentModified();
-    showFilteredCopies();
-  }
+  if (sum.filtered > 0) takeFilteredCopies(work, std::move(step));
   statusBar()->showMessage(tr("Filtered copies made of %1 of %2 traces.")
                                .arg(sum.filtered)
                                .arg(sum.filtered + sum.failed),
@@ -102,38 +96,43 @@ void Talvesk_MainWindows::makeFilteredCopies(
 }
 
 /// Whatever shots were filtered, only the one in view is marked and turned over to its copy.
-void Talvesk_MainWindows::showFilteredCopies() {
-  ShotMemory& shot = mShots[static_cast<std::size_t>(mCurrentFile)];
-  shot.filtered = true;
-  shot.showFiltered = true;
+void Talvesk_MainWindows::takeFilteredCopies(const TomoDocument& work, Message step) {
   mSettings.showFiltered = true;
   saveSettings();
-  for (editTravelTimesWidget* editor : editors()) editor->documentChanged();
-  refreshTraceOptions();
+  edit(
+      Edit::kFilter,
+      [&](Survey& survey) {
+        survey.document = work;
+        RecordingNote& shot =
+            survey.document.recordings.edit().noteOf(static_cast<std::size_t>(mCurrentFile));
+        shot.filtered = true;
+        shot.showFiltered = true;
+      },
+      std::move(step));
 }
 
 void Talvesk_MainWindows::on_actionAGC_triggered() {
   logSlot(__func__);
-  makeFilteredCopies(tr("Applying AGC ..."),
-                     [this](std::int32_t shot) { return agcShots(mDocument, {shot}); });
+  makeFilteredCopies(Message::tr("AGC"), tr("Applying AGC ..."),
+                     [](TomoDocument& work, std::int32_t shot) { return agcShots(work, {shot}); });
 }
 
 void Talvesk_MainWindows::on_actionAuto_improve_triggered() {
   logSlot(__func__);
-  makeFilteredCopies(tr("Applying Hushel ..."),
-                     [this](std::int32_t shot) { return reduceNoise(mDocument, {shot}); });
+  makeFilteredCopies(
+      Message::tr("Hushel"), tr("Applying Hushel ..."),
+      [](TomoDocument& work, std::int32_t shot) { return reduceNoise(work, {shot}); });
 }
 
 void Talvesk_MainWindows::on_actionFilter_triggered() {
   logSlot(__func__);
   const std::vector<std::int32_t> shots = shotsToProcess();
   if (shots.empty() || mCurrentFile < 0) return;
-  doFilteringDialog dialog(mDocument, mCurrentFile, shots, this);
+  TomoDocument work = document();
+  doFilteringDialog dialog(work, mCurrentFile, shots, this);
   dialog.setTraceOptions(mUi->showTracesWidget->options());
   dialog.exec();
-  if (!dialog.changedDocument()) return;
-  documentModified();
-  showFilteredCopies();
+  if (dialog.changedDocument()) takeFilteredCopies(work, {});
 }
 
 }  // namespace talvesk

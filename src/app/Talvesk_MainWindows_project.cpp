@@ -9,11 +9,9 @@ void Talvesk_MainWindows::on_actionSet_title_triggered() {
   bool accepted = false;
   const QString title =
       QInputDialog::getText(this, tr("Project title"), tr("&Title:"), QLineEdit::Normal,
-                            QString::fromStdString(mDocument.title), &accepted);
-  if (!accepted || title.toStdString() == mDocument.title) return;
-  mDocument.title = title.toStdString();
-  documentModified();
-  refreshSection();
+                            QString::fromStdString(document().title), &accepted);
+  if (!accepted || title.toStdString() == document().title) return;
+  edit(Edit::kTitle, [&](Survey& survey) { survey.document.title = title.toStdString(); });
 }
 
 }  // namespace talvesk

@@ -5,7 +5,9 @@
 #include "app/progressDialog.h"
 #include "base/FileReplacement.h"
 #include "io/ProjectWriter.h"
+#include "io/projectReader.h"
 #include "model/Recordings.h"
+#include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
@@ -53,10 +55,10 @@ QString fileNameOf(const QString& title) {
 /// What files of this survey are called: as its project, its title, or the folder of its shots.
 QString Talvesk_MainWindows::proposedName() const {
   if (!mProject.isEmpty()) return QFileInfo(mProject.path()).completeBaseName();
-  if (!mDocument.title.empty()) return fileNameOf(QString::fromStdString(mDocument.title));
+  if (!document().title.empty()) return fileNameOf(QString::fromStdString(document().title));
   // That of a recovered survey is a temporary one, which says nothing.
-  if (mDocument.recordings->traceSets.empty() || mProjectFolder) return {};
-  const std::string shot = shotFile(mDocument, 0);
+  if (document().recordings->traceSets.empty() || survey().folder) return {};
+  const std::string shot = shotFile(document(), 0);
   if (shot.empty()) return {};
   return fileNameOf(QFileInfo(QString::fromStdString(shot)).dir().dirName());
 }
@@ -136,8 +138,8 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
   int result = 1;
   progressDialog progress(writer, file, this);
   progress.run([&] {
-    result = writer.save(file.toStdString(), mFolder.path, mDocument, mInterpretation, mPalettes,
-                         mSection);
+    result = writer.save(file.toStdString(), mFolder.path, document(), interpretation(), palettes(),
+                         section());
   });
   if (result != 0) {
     mLog.write(writer.message(), 1);
@@ -152,12 +154,10 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
     return false;
   }
   mProject = ProjectFile(file, target);
-  mDocument.modified = false;
   forgetRecovery();
+  mSession.markSaved();
   mRecent.add(file);
   refreshRecentProjects();
-  refreshTitle();
-  refreshCommands();
   statusBar()->showMessage(tr("Project saved in %1").arg(file), kMessageTime);
   if (!writer.warnings().empty()) {
     showWarning(this, tr("Warning"), tr("The project has been saved."),
@@ -222,33 +222,42 @@ void Talvesk_MainWindows::reportBadProject(const QString& file, const projectRea
   showError(this, tr("Error occured"), text, details);
 }
 
-void Talvesk_MainWindows::takeProject(LoadedProject project, ProjectFile file) {
-  forgetRecovery();
-  mDocument = std::move(project.document);
-  mInterpretation = std::move(project.interpretation);
-  const bool rangeLocked = mSection.lockRange;
-  takeOverPalettes(std::move(project.palettes));
-  mSection = project.section;
-  mSection.lockRange = mSection.lockRange || rangeLocked;
-  mProjectFolder = std::move(project.folder);  // the one before goes, nobody needs its files now
-  mProject = std::move(file);
-  mLoader.remember(project.shotFiles);
-  mShots.assign(mDocument.recordings->traceSets.size(), ShotMemory());
-  for (std::size_t i = 0; i < mShots.size(); ++i) {
-    mShots[i].filtered = mShots[i].showFiltered = hasFilteredCopy(static_cast<int>(i));
-    if (i < mDocument.recordings->filenames.size())
-      mShots[i].format = formatOf(mDocument.recordings->filenames[i]);
+void Talvesk_MainWindows::takeProject(LoadedProject project, ProjectFile file, bool saved) {
+  Recordings& recordings = project.document.recordings.edit();
+  for (std::size_t i = 0; i < recordings.traceSets.size(); ++i) {
+    RecordingNote& note = recordings.noteOf(i);
+    note.filtered = note.showFiltered = talvesk::hasFilteredCopy(recordings.traceSets[i]);
+    if (i < recordings.filenames.size())
+      note.format = formatOf(recordings.filenames[i]).toStdString();
   }
-  mCurrentFile = -1;
-  for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
-  for (TravelTimePlot* plot : plots()) plot->setDocument(&mDocument);
-  documentChanged();
-  if (!mDocument.ttArray.empty()) showFresh(0);
-  mDocument.modified = false;
-  refreshTitle();
+  mLoader.remember(project.shotFiles);
+  Survey survey = std::move(project);
+  survey.section.lockRange = survey.section.lockRange || section().lockRange;
+  if (section().lockRange) keepRange(survey.palettes.edit());
+  openSurvey(std::move(survey), std::move(file), saved);
+  if (!document().ttArray.empty()) showFresh(0);
   if (mProject.isEmpty()) return;  // recovered before it was ever saved
   statusBar()->showMessage(tr("Project %1 loaded.").arg(QFileInfo(mProject.path()).fileName()),
                            kMessageTime);
+}
+
+/// The palette in use has the range of that of the survey before.
+void Talvesk_MainWindows::keepRange(ColorPaletteList& palettes) const {
+  palettes.current().min_db = this->palettes().current().min_db;
+  palettes.current().max_db = this->palettes().current().max_db;
+}
+
+/// Another survey in the place of this one, with all that belongs to it.
+void Talvesk_MainWindows::openSurvey(Survey survey, ProjectFile file, bool saved) {
+  forgetRecovery();
+  mProject = std::move(file);
+  mCurrentFile = -1;
+  mSession.open(std::move(survey), saved);
+}
+
+void Talvesk_MainWindows::setProjectFile(ProjectFile file) {
+  mProject = std::move(file);
+  refreshTitle();
 }
 
 void Talvesk_MainWindows::on_actionSave_Project_triggered() {
@@ -305,11 +314,11 @@ void Talvesk_MainWindows::clearRecentProjects() {
 }
 
 void Talvesk_MainWindows::refreshProjectCommands() {
-  const bool survey = !mDocument.ttArray.empty() || !mDocument.line->goephonesStringSet.empty() ||
-                      mDocument.modified;
+  const bool something = !document().ttArray.empty() ||
+                         !document().line->goephonesStringSet.empty() || mSession.modified();
   mUi->actionLoad_Project->setEnabled(true);
-  mUi->actionSave_Project->setEnabled(survey);
-  mUi->actionSave_Project_As->setEnabled(survey);
+  mUi->actionSave_Project->setEnabled(something);
+  mUi->actionSave_Project_As->setEnabled(something);
 }
 
 }  // namespace talvesk

@@ -1,12 +1,11 @@
 #include "app/Messages.h"
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
-#include "io/ProjectSnapshot.h"
+#include "io/projectReader.h"
 
 #include <QApplication>
 #include <QLocale>
 #include <QStatusBar>
-#include <limits>
 
 // What keeps a crash from costing more than a minute of work.
 
@@ -15,13 +14,10 @@ namespace {
 
 // Milliseconds. A copy is begun early enough to be on the disk a minute after the edit.
 constexpr int kDelay = 30 * 1000;             // from an edit to its copy
-constexpr int kLatest = 45 * 1000;            // the same, when edits keep overtaking it
-constexpr int kPause = 2 * 1000;              // for edits that overtook a copy
+constexpr int kPause = 2 * 1000;              // for a copy that is still being saved
 constexpr int kRetry = 30 * 1000;             // after a failure
 constexpr int kLastingRetry = 3 * 60 * 1000;  // after one that will hardly go away
 constexpr int kPatience = 3;                  // failures in a row that are more than an accident
-constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
-constexpr std::size_t kPiece = std::size_t{1} << 22;  // bytes; copied in a few milliseconds
 
 }  // namespace
 
@@ -44,62 +40,30 @@ void Talvesk_MainWindows::prepareAutosave() {
 }
 
 void Talvesk_MainWindows::noteEdit() {
-  ++mRevision;
-  if (!mUncopiedSince.isValid()) mUncopiedSince.start();
   if (!mAutosaveTimer.isActive()) mAutosaveTimer.start(kDelay);
 }
 
 /// There is nothing to lose any more.
 void Talvesk_MainWindows::forgetRecovery() {
   mAutosaveTimer.stop();
-  mUncopiedSince.invalidate();
-  mSnapshot.reset();
   mRecovery.discard();
 }
 
 /// Dialogs and inversions that are open, for hours perhaps, do not put it off: they work on copies
 /// of their own, and what they change meanwhile is whole between two events.
 void Talvesk_MainWindows::autosave() {
-  if (mSnapshot != nullptr) return;
-  if (!mDocument.modified || mRevision == mRecoveredRevision) return;
+  if (!mSession.modified() || mSession.revision() == mRecoveredRevision) return;
   if (mRecovery.isSaving()) {
     mAutosaveTimer.start(kPause);
     return;
   }
-  mSnapshot = std::make_unique<ProjectSnapshot>();
-  mSnapshotRevision = mRevision;
-  continueSnapshot();
-}
-
-/// One piece between two events of the user's. What was changed meanwhile makes the pieces useless;
-/// others are made as soon as the user pauses, or all at once when the pause does not come.
-void Talvesk_MainWindows::continueSnapshot() {
-  if (mSnapshot == nullptr) return;
-  if (!mDocument.modified || mRevision != mSnapshotRevision) {
-    mSnapshot.reset();
-    mAutosaveTimer.start(kPause);
-    return;
-  }
-  const bool late = mUncopiedSince.isValid() && mUncopiedSince.elapsed() >= kLatest;
-  if (!mSnapshot->copyTraces(mDocument, late ? kAll : kPiece)) {
-    QTimer::singleShot(0, this, &Talvesk_MainWindows::continueSnapshot);
-    return;
-  }
-  mRecoveredRevision = mRevision;
-  mUncopiedSince.invalidate();
-  mRecovery.save(
-      mSnapshot->complete(mDocument, mInterpretation, mPalettes, mSection, mProjectFolder),
-      mProject);
-  mSnapshot.reset();
+  mRecoveredRevision = mSession.revision();
+  mRecovery.save(mSession.survey(), mProject);
 }
 
 void Talvesk_MainWindows::leaveRecoveryCopy() {
-  mSnapshot.reset();
-  if (!mDocument.modified) return;
-  ProjectSnapshot snapshot;
-  snapshot.copyTraces(mDocument, kAll);
-  const Status left = mRecovery.saveNow(
-      snapshot.complete(mDocument, mInterpretation, mPalettes, mSection, mProjectFolder), mProject);
+  if (!mSession.modified()) return;
+  const Status left = mRecovery.saveNow(mSession.survey(), mProject);
   if (!left.ok()) mLog.write("Recovery copy: " + left.message(), 1);
 }
 
@@ -109,7 +73,6 @@ void Talvesk_MainWindows::recoveryFailed(const QString& reason, bool lasting) {
   mLog.write("Recovery copy: " + reason.toStdString(), 1);
   ++mFailedRecoveries;
   mRecoveredRevision = 0;
-  if (!mUncopiedSince.isValid()) mUncopiedSince.start();
   const int toTell = lasting ? 1 : kPatience;
   if (mFailedRecoveries == toTell) {
     statusBar()->showMessage(
@@ -137,9 +100,8 @@ void Talvesk_MainWindows::offerRecovery() {
   if (!mayUse(file, tr("Do you want to open it all the same?"))) return;
   LoadedProject project;
   if (!loadProject(copy->file, project)) return;  // the copy stays, for whoever can do more with it
-  takeProject(std::move(project), std::move(file));
+  takeProject(std::move(project), std::move(file), false);
   mRecovery.adopt(*copy);
-  documentModified();
   // It may have no file yet that could be named as loaded.
   statusBar()->showMessage(tr("The survey is recovered; it is not saved yet."), kMessageTime);
 }

@@ -10,34 +10,34 @@ namespace talvesk {
 
 void Talvesk_MainWindows::on_actionRefraction_triggered() {
   logSlot(__func__);
-  if (mDocument.ttArray.empty()) return;
-  if (!mDocument.picksComplete() &&
+  if (document().ttArray.empty()) return;
+  if (!document().picksComplete() &&
       !askYesNo(this, tr("Warning"),
                 tr("Uncomplete set of picks. \n \n"
                    "Do you want to run refraction processing anyway? "),
                 {}, false)) {
     return;
   }
-  RefractionProcessingDialog dialog(mDocument, mInterpretation, this);
+  RefractionProcessingDialog dialog(document(), interpretation(), this);
   if (dialog.exec() != QDialog::Accepted || !dialog.hasChanges()) return;
-  mInterpretation = dialog.interpretation();
-  // A profile that was just built is worth seeing.
-  if (dialog.profileBuilt()) mSection.refraction = true;
-  documentModified();
-  refreshSection();
+  edit(Edit::kRefraction, [&](Survey& survey) {
+    survey.interpretation = dialog.interpretation();
+    // A profile that was just built is worth seeing.
+    if (dialog.profileBuilt()) survey.section.refraction = true;
+  });
 }
 
 void Talvesk_MainWindows::on_actionShow_refraction_triggered() {
   logSlot(__func__);
-  mSection.refraction = mUi->actionShow_refraction->isChecked();
-  refreshSection();
+  const bool shown = mUi->actionShow_refraction->isChecked();
+  mSession.setView([shown](SectionViewSettings& section) { section.refraction = shown; });
 }
 
 void Talvesk_MainWindows::refreshRefractionCommands() {
-  mUi->actionRefraction->setEnabled(!mDocument.ttArray.empty());
-  mUi->actionShow_refraction->setEnabled(!refractorLines(mInterpretation).empty());
+  mUi->actionRefraction->setEnabled(!document().ttArray.empty());
+  mUi->actionShow_refraction->setEnabled(!refractorLines(interpretation()).empty());
   mUi->actionShow_refraction->setCheckable(true);
-  mUi->actionShow_refraction->setChecked(mSection.refraction);
+  mUi->actionShow_refraction->setChecked(section().refraction);
 }
 
 }  // namespace talvesk

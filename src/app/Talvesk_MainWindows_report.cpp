@@ -53,11 +53,11 @@ Status writePicture(const QImage& picture, const QString& file, int quality) {
 void Talvesk_MainWindows::on_actionImages_triggered() {
   logSlot(__func__);
   ImageSetOptions look;
-  look.view = mSection;
-  look.palette = mPalettes.current();
+  look.view = section();
+  look.palette = palettes().current();
   look.refractors = refractors();
   look.horizontalColorBar = mSettings.savePngHColorbar;
-  ImagesDialog dialog(mDocument, mInterpretation, look, mCurrentFile, this);
+  ImagesDialog dialog(document(), interpretation(), look, mCurrentFile, this);
   QSettings remembered(windowStateFile(), QSettings::IniFormat);
   dialog.recall(remembered);
   dialog.setFolder(mFolders.toSave());
@@ -139,11 +139,11 @@ void Talvesk_MainWindows::on_actionODT_triggered() {
 void Talvesk_MainWindows::writeReportAs(const QString& title, const QString& filter,
                                         const char* suffix) {
   ReportOptions options;
-  options.title = mDocument.title;
+  options.title = document().title;
   options.date = QLocale().toString(QDate::currentDate(), QLocale::LongFormat).toStdString();
-  options.section = sectionFigureOptions(mSection, mPalettes.current(), refractors());
+  options.section = sectionFigureOptions(section(), palettes().current(), refractors());
   const auto build = [this](const ReportOptions& chosen, ReportContent& content) {
-    return buildReport({mDocument, &mInterpretation}, chosen, content);
+    return buildReport({document(), &interpretation()}, chosen, content);
   };
   ReportDialog dialog(options, build, this);
   QSettings remembered(windowStateFile(), QSettings::IniFormat);
@@ -180,9 +180,9 @@ void Talvesk_MainWindows::tellReport(const Status& written, const QString& file)
 }
 
 void Talvesk_MainWindows::refreshReportCommands() {
-  const bool survey = !mDocument.ttArray.empty();
-  mUi->actionImages->setEnabled(survey || mDocument.model->grid != nullptr);
-  mUi->actionScreenshot->setEnabled(mDocument.model->grid != nullptr);
+  const bool survey = !document().ttArray.empty();
+  mUi->actionImages->setEnabled(survey || document().model->grid != nullptr);
+  mUi->actionScreenshot->setEnabled(document().model->grid != nullptr);
   mUi->actionPDF->setEnabled(survey);
   mUi->actionODT->setEnabled(survey);
 }

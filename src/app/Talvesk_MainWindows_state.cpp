@@ -1,4 +1,6 @@
 #include "app/InversionTexts.h"
+#include "app/MessageText.h"
+#include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
@@ -7,6 +9,7 @@
 #include "model/TomographyOutcome.h"
 #include "refraction/ShotArrivals.h"
 #include "ui_Talvesk_MainWindows.h"
+#include "widgets/SectionView.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -14,55 +17,76 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
-#include <QUndoStack>
 
 // What the window shows follows the document and the settings through the functions of this file.
 
 namespace talvesk {
 
 bool Talvesk_MainWindows::hasFilteredCopy(int shot) const {
-  if (shot < 0 || static_cast<std::size_t>(shot) >= mDocument.recordings->traceSets.size())
+  if (shot < 0 || static_cast<std::size_t>(shot) >= document().recordings->traceSets.size())
     return false;
-  return talvesk::hasFilteredCopy(mDocument.recordings->traceSets[static_cast<std::size_t>(shot)]);
+  return talvesk::hasFilteredCopy(document().recordings->traceSets[static_cast<std::size_t>(shot)]);
 }
 
-void Talvesk_MainWindows::clearDocument() {
-  mDocument = TomoDocument();
-  mInterpretation = {};
-  mProject = {};
-  mProjectFolder.reset();
-  forgetRecovery();
-  mShots.clear();
-  mCurrentFile = -1;
-  for (editTravelTimesWidget* editor : editors()) editor->setDocument(&mDocument);
-  for (TravelTimePlot* plot : plots()) plot->setDocument(&mDocument);
-  documentChanged();
+/// The one place where the window hears that the survey is another: every view and command that
+/// depends on a part follows it.
+void Talvesk_MainWindows::surveyChanged(const SurveyChange& change) {
+  const bool opened = change.kind == SurveyChange::Kind::kOpened;
+  const auto has = [&change](Part part) { return change.parts.has(part); };
+  if (opened || has(Part::kRecordings) || has(Part::kGeometry)) showRecords();
+  if (opened) {
+    for (TravelTimePlot* plot : plots()) plot->setDocument(&document());
+  }
+  if (has(Part::kGeometry) || has(Part::kResult)) {
+    if (!document().result->has_tomographic_info) mUi->showSimTT_CB->setChecked(false);
+    for (editTravelTimesWidget* editor : editors()) editor->update();
+    refreshPlots();
+  }
+  if (showsOtherwise(change)) refreshSection();
+  if (mSession.modified() && change.kind != SurveyChange::Kind::kView) noteEdit();
+  refreshTitle();
+  refreshTraceOptions();
 }
 
-void Talvesk_MainWindows::documentChanged() {
-  fitToSurvey(mDocument, mInterpretation);
-  mShots.resize(mDocument.recordings->traceSets.size());
-  const int count = static_cast<int>(mDocument.ttArray.size());
+/// The legend of the layered profile follows the picks: they may be others than those that it was
+/// built from.
+bool Talvesk_MainWindows::showsOtherwise(const SurveyChange& change) const {
+  PartSet drawn = PartSet::all();
+  drawn.remove(Part::kRecordings);
+  drawn.remove(Part::kMap);
+  drawn.remove(Part::kPicks);
+  if (change.parts.any(drawn)) return true;
+  const SectionScene* scene = mUi->vtk_widget->scene();
+  if (scene == nullptr || scene->refractors.empty()) return false;
+  const std::vector<SectionLine> now = refractors();
+  return !now.empty() && now.front().name != scene->refractors.front().name;
+}
+
+void Talvesk_MainWindows::showRecords() {
+  const int count = static_cast<int>(document().ttArray.size());
   if (mCurrentFile >= count) mCurrentFile = count - 1;
-  for (editTravelTimesWidget* editor : editors()) editor->documentChanged();
+  for (editTravelTimesWidget* editor : editors()) editor->setShot(mCurrentFile);
   mUi->tracesStack->setCurrentWidget(count == 0 ? mUi->emptyPage
                                                 : static_cast<QWidget*>(mUi->splitter));
-  refreshPlots();
-  refreshSection();
   refreshShotChooser();
-  refreshTraceOptions();
-  refreshTitle();
 }
 
-void Talvesk_MainWindows::documentModified() {
-  mDocument.modified = true;
-  refreshTitle();
-  refreshCommands();
-  refreshRefractors();
+bool Talvesk_MainWindows::edit(Edit kind, const std::function<void(Survey&)>& change,
+                               Message text) {
+  const auto edit = [&change](Survey& survey) {
+    change(survey);
+    return Status();
+  };
+  return tellUnlessDone(mSession.apply(kind, edit, std::move(text)));
+}
+
+bool Talvesk_MainWindows::tellUnlessDone(const Status& status) {
+  if (!status.ok()) tellFailure(this, mLog, tr("The survey was not changed."), status);
+  return status.ok();
 }
 
 void Talvesk_MainWindows::showFile(int index) {
-  const int count = static_cast<int>(mDocument.ttArray.size());
+  const int count = static_cast<int>(document().ttArray.size());
   mCurrentFile = index >= 0 && index < count ? index : -1;
   for (editTravelTimesWidget* editor : editors()) editor->setShot(mCurrentFile);
   mShotChooser->setCurrentIndex(mCurrentFile);
@@ -73,8 +97,8 @@ void Talvesk_MainWindows::showFile(int index) {
 /// The misfit of the section stays in view, and whether it still is that of the picks it was fitted
 /// to.
 void Talvesk_MainWindows::refreshMisfit() {
-  QString text = sectionMisfitText(sectionMisfitOf(mDocument));
-  if (!text.isEmpty() && picksChangedSince(mDocument)) {
+  QString text = sectionMisfitText(sectionMisfitOf(document()));
+  if (!text.isEmpty() && picksChangedSince(document())) {
     text += QLatin1Char(' ') + tr("Picks have changed since.");
   }
   mMisfitLabel->setText(text);
@@ -85,24 +109,23 @@ void Talvesk_MainWindows::refreshTitle() {
   refreshMisfit();
   QString title = tr("Talvesk 2022.0") + QStringLiteral("[*]");
   for (QString part :
-       {QFileInfo(mProject.path()).fileName(), QString::fromStdString(mDocument.title)}) {
+       {QFileInfo(mProject.path()).fileName(), QString::fromStdString(document().title)}) {
     // Two markers are how Qt writes one that is not its own.
     part.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     if (!part.isEmpty()) title += QStringLiteral(" - ") + part;
   }
-  if (mDocument.modified) noteEdit();
   setWindowTitle(title);
-  setWindowModified(mDocument.modified);
+  setWindowModified(mSession.modified());
 }
 
 void Talvesk_MainWindows::refreshShotChooser() {
   mShotChooser->clear();
   const QLocale locale;
-  for (std::size_t i = 0; i < mDocument.ttArray.size(); ++i) {
-    const TravelTime& record = mDocument.ttArray[i];
+  for (std::size_t i = 0; i < document().ttArray.size(); ++i) {
+    const TravelTime& record = document().ttArray[i];
     const QString place = tr("%1 m").arg(locale.toString(record.shotPos2d.x, 'f', 1));
     const auto number = static_cast<int>(i + 1);
-    const std::string file = shotFile(mDocument, i);
+    const std::string file = shotFile(document(), i);
     const QString text = !file.empty()
                              ? tr("%1: %2 at %3", "shot number, file, place")
                                    .arg(number)
@@ -153,12 +176,11 @@ void Talvesk_MainWindows::refreshViewActions() {
 
 void Talvesk_MainWindows::refreshCommands() {
   if (mInversion != nullptr) return;  // all are locked; they are refreshed when it has ended
-  const bool records = !mDocument.ttArray.empty();
-  const bool traces = !mDocument.recordings->traceSets.empty();
+  const bool records = !document().ttArray.empty();
+  const bool traces = !document().recordings->traceSets.empty();
   const bool recordInView = records && mCurrentFile >= 0;
   const bool shotInView = traces && recordInView;
-  const bool computed = mDocument.result->has_tomographic_info;
-  const QUndoStack& edits = *mUi->showTracesWidget->undoStack();
+  const bool computed = document().result->has_tomographic_info;
 
   const std::pair<QAction*, bool> states[] = {
       {mUi->actionExport_TravelTimes, records},
@@ -177,10 +199,11 @@ void Talvesk_MainWindows::refreshCommands() {
       {mUi->actionFit, recordInView},
       {mUi->actionZoom_back, recordInView && mUi->showTracesWidget->canZoomBack()},
       {mUi->actionZoom_forward, recordInView && mUi->showTracesWidget->canZoomForward()},
-      {mUi->actionUndo, edits.canUndo()},
-      {mUi->actionRedo, edits.canRedo()},
+      {mUi->actionUndo, mSession.canUndo()},
+      {mUi->actionRedo, mSession.canRedo()},
   };
   for (const auto& [action, enabled] : states) action->setEnabled(enabled);
+  refreshUndoTexts();
   mShotChooser->setEnabled(records);
   mUi->showAllPicksCB->setEnabled(records);
   mUi->showTravelTimeCB->setEnabled(records);
@@ -194,6 +217,14 @@ void Talvesk_MainWindows::refreshCommands() {
   refreshProjectCommands();
   refreshExportCommands();
   refreshReportCommands();
+}
+
+/// The menu says what would be undone; the form has the texts for when there is nothing.
+void Talvesk_MainWindows::refreshUndoTexts() {
+  const Message undo = mSession.undoText();
+  const Message redo = mSession.redoText();
+  mUi->actionUndo->setText(undo.empty() ? tr("Undo") : tr("Undo \"%1\"").arg(textOf(undo)));
+  mUi->actionRedo->setText(redo.empty() ? tr("Redo") : tr("Redo \"%1\"").arg(textOf(redo)));
 }
 
 }  // namespace talvesk

@@ -9,7 +9,6 @@
 #include "app/runTomography_Dialog.h"
 #include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
-#include "tomo/InversionCopy.h"
 #include "tomo/LeftOut.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
@@ -25,23 +24,20 @@ namespace talvesk {
 void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
   logSlot(__func__);
   const auto asked = std::chrono::steady_clock::now();
-  if (!mDocument.picksComplete() &&
+  if (!document().picksComplete() &&
       !askYesNo(this, tr("Warning:"), tr("Uncomplete set of picks. \n \n"),
                 tr("Do you want to run tomography inversion anyway? "), false)) {
     return;
   }
-  runTomography_Dialog dialog(mDocument.model->minVelocity, mDocument.model->maxVelocity, this);
-  if (mDocument.model->grid == nullptr) {
+  runTomography_Dialog dialog(document().model->minVelocity, document().model->maxVelocity, this);
+  if (document().model->grid == nullptr) {
     mLog.write("grid does not exist; ask for parameter");
     if (!makeGrid()) return;
   }
-  dialog.setStartingModel(startingModelOf(mDocument));
+  dialog.setStartingModel(startingModelOf(document()));
   if (dialog.exec() != QDialog::Accepted) return;
   TomographyParameters parameters = dialog.parameters();
   parameters.asked = asked;
-  mDocument.model.edit().minVelocity = parameters.minVelocity;
-  mDocument.model.edit().maxVelocity = parameters.maxVelocity;
-  documentModified();
   const TomographyResult result = runInversionBeside(parameters);
   if (mCloseAfterInversion) {
     mCloseAfterInversion = false;
@@ -54,12 +50,12 @@ void Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered() {
 /// The inversion works on a copy, and whatever could change the document is out of reach until it
 /// is through; the views stay, to be looked at.
 TomographyResult Talvesk_MainWindows::runInversionBeside(const TomographyParameters& parameters) {
-  BackgroundInversion inversion(mDocument, parameters, mLog);
+  BackgroundInversion inversion(document(), parameters, mLog);
   progressTomographyDialog progress(this);
   connect(&progress, &progressTomographyDialog::stopped, this,
           &Talvesk_MainWindows::on_tomo_stopped);
   progress.setTotal(parameters.externalIterations);
-  mDocument.stopRequested = false;
+  OpenEdit edit(mSession, Edit::kInversion);
   mInversion = &inversion;
   mInversionProgress = &progress;
   TomographyResult result;
@@ -68,18 +64,25 @@ TomographyResult Talvesk_MainWindows::runInversionBeside(const TomographyParamet
     progress.show();
     statusBar()->showMessage(tr("An inversion is under way; the survey cannot be edited."));
     result = inversion.run([&](const TomographyProgress& state, const TomoDocument& copy) {
-      takeInversion(mDocument, copy);
       progress.addCompleted();
       progress.addMisfit(state);
-      refreshSection();
+      tellUnlessDone(edit.preview([&](Survey& survey) {
+        survey.document = copy;
+        return Status();
+      }));
     });
   }
   mInversion = nullptr;
   mInversionProgress = nullptr;
   progress.hide();
   statusBar()->clearMessage();
-  if (result.iterationsDone > 0) takeInversion(mDocument, inversion.copy());
-  modelChanged();
+  tellUnlessDone(edit.commit([&](Survey& survey) {
+    if (result.iterationsDone > 0) survey.document = inversion.copy();
+    // The limits are those that were asked for last, however the run has ended.
+    survey.document.model.edit().minVelocity = parameters.minVelocity;
+    survey.document.model.edit().maxVelocity = parameters.maxVelocity;
+    return Status();
+  }));
   return result;
 }
 
@@ -94,7 +97,6 @@ std::vector<QWidget*> Talvesk_MainWindows::documentEditors() const {
 }
 
 void Talvesk_MainWindows::on_tomo_stopped() {
-  mDocument.stopRequested = true;
   if (mInversion != nullptr) mInversion->requestStop();
   if (mInversionProgress != nullptr) mInversionProgress->showStopping();
 }
@@ -116,15 +118,6 @@ void Talvesk_MainWindows::askToStopAndClose() {
   on_tomo_stopped();
 }
 
-/// Grid or results are others than before.
-void Talvesk_MainWindows::modelChanged() {
-  if (!mDocument.result->has_tomographic_info) mUi->showSimTT_CB->setChecked(false);
-  for (editTravelTimesWidget* editor : editors()) editor->update();
-  refreshPlots();
-  refreshSection();
-  documentModified();
-}
-
 /// What a box says of it below the figures, which are those of the rest.
 QString Talvesk_MainWindows::leftOutBox(const QStringList& names) {
   if (names.isEmpty()) return {};
@@ -137,7 +130,7 @@ void Talvesk_MainWindows::showInversion(const TomographyResult& result) {
   }
   if (result.iterationsDone == 0) return;
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
-  const QStringList left = leftOutNames(leftOut(mDocument, mDocument.result->excluded));
+  const QStringList left = leftOutNames(leftOut(document(), document().result->excluded));
   QString outcome = tr("%n external iteration(s) completed.", nullptr, result.iterationsDone);
   if (!left.isEmpty()) {
     outcome += QLatin1Char(' ') + tr("Left out: %1.").arg(left.join(QStringLiteral("; ")));

@@ -1,12 +1,12 @@
 #include "app/MessageText.h"
 #include "app/RecordingDetailsDialog.h"
 #include "app/Talvesk_MainWindows.h"
+#include "model/Recordings.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QLocale>
-#include <QUndoStack>
 
 namespace talvesk {
 namespace {
@@ -19,23 +19,24 @@ constexpr double kGainStep = 1.5;
 
 void Talvesk_MainWindows::on_actionNext_file_triggered() {
   logSlot(__func__);
-  const int count = static_cast<int>(mDocument.ttArray.size());
+  const int count = static_cast<int>(document().ttArray.size());
   if (count > 0) showFile((mCurrentFile + 1) % count);
 }
 
 void Talvesk_MainWindows::on_actionPrev_file_triggered() {
   logSlot(__func__);
-  const int count = static_cast<int>(mDocument.ttArray.size());
+  const int count = static_cast<int>(document().ttArray.size());
   if (count > 0) showFile(mCurrentFile <= 0 ? count - 1 : mCurrentFile - 1);
 }
 
 void Talvesk_MainWindows::on_actionRecording_details_triggered() {
   logSlot(__func__);
   std::vector<RecordingInfo> files;
-  for (std::size_t i = 0; i < mShots.size(); ++i) {
-    files.push_back({mShots[i].format, linesOf(mShots[i].warnings)});
+  for (const RecordingNote& note : document().recordings->notes) {
+    files.push_back({QString::fromStdString(note.format), linesOf(note.warnings)});
   }
-  RecordingDetailsDialog(mDocument, files, mCurrentFile, this).exec();
+  files.resize(document().recordings->traceSets.size());
+  RecordingDetailsDialog(document(), files, mCurrentFile, this).exec();
 }
 
 // --- What the views tell
@@ -45,7 +46,6 @@ void Talvesk_MainWindows::enable_draw_travel_times() {
 }
 
 void Talvesk_MainWindows::on_pickEdited() {
-  documentModified();
   refreshPlots();
 }
 
@@ -77,12 +77,12 @@ void Talvesk_MainWindows::showCursor(const TraceCursor& cursor) {
 
 void Talvesk_MainWindows::on_actionUndo_triggered() {
   logSlot(__func__);
-  mUi->showTracesWidget->undoStack()->undo();
+  mSession.undo();
 }
 
 void Talvesk_MainWindows::on_actionRedo_triggered() {
   logSlot(__func__);
-  mUi->showTracesWidget->undoStack()->redo();
+  mSession.redo();
 }
 
 void Talvesk_MainWindows::on_actionConfirm_picks_triggered() {

@@ -20,14 +20,15 @@ void Talvesk_MainWindows::connectSection() {
   SectionView* view = mUi->vtk_widget;
   connect(view, &SectionView::cursorMoved, this, &Talvesk_MainWindows::showSectionCursor);
   connect(view, &SectionView::cursorLeft, mCursorLabel, &QLabel::clear);
-  connect(view, &SectionView::exaggerationChanged, this,
-          [this](double factor) { mSection.verticalExaggeration = factor; });
+  connect(view, &SectionView::exaggerationChanged, this, [this](double factor) {
+    mSession.setView(
+        [factor](SectionViewSettings& section) { section.verticalExaggeration = factor; });
+  });
 }
 
 void Talvesk_MainWindows::changeSection(const std::function<void(SectionViewSettings&)>& change) {
-  change(mSection);
   mUi->tabWidget->setCurrentWidget(mUi->vtk_tab);
-  refreshSection();
+  mSession.setView(change);
 }
 
 /// Gradient, Laplacian and information density take turns; without any of them it is velocity.
@@ -120,36 +121,37 @@ void Talvesk_MainWindows::on_actionReset_View_triggered() {
 }
 
 bool Talvesk_MainWindows::hasInformationDensity() const {
-  return talvesk::hasInformationDensity(mDocument);
+  return talvesk::hasInformationDensity(document());
 }
 
 void Talvesk_MainWindows::refreshSectionCommands() {
+  const SectionViewSettings& view = this->section();
   if (mInversion != nullptr) return;  // all commands are locked
   // Even of a grid whose cells have no value of this quantity another may be chosen.
-  const bool section = mDocument.model->grid && mDocument.model->grid->cellCount() > 0;
+  const bool section = document().model->grid && document().model->grid->cellCount() > 0;
   // Before there is a grid the layered profile may be shown alone.
-  const bool picture = section || (mSection.refraction && !refractorLines(mInterpretation).empty());
-  const SectionQuantity quantity = mSection.quantity;
+  const bool picture = section || (view.refraction && !refractorLines(interpretation()).empty());
+  const SectionQuantity quantity = view.quantity;
   const struct {
     QAction* action;
     bool enabled;
     bool checked;
   } states[] = {
-      {mUi->actionShow_Tomographic_Profile, section, mSection.profile},
-      {mUi->actionGrid_view, section, !mSection.smooth},
-      {mUi->actionSmooth_view, section, mSection.smooth},
-      {mUi->actionShow_rays, section && !mDocument.result->rays.empty(), mSection.rays},
+      {mUi->actionShow_Tomographic_Profile, section, view.profile},
+      {mUi->actionGrid_view, section, !view.smooth},
+      {mUi->actionSmooth_view, section, view.smooth},
+      {mUi->actionShow_rays, section && !document().result->rays.empty(), view.rays},
       {mUi->actionShow_Information_Density_Layer, section && hasInformationDensity(),
        quantity == SectionQuantity::kInformationDensity},
       {mUi->actionVertical_Gradient, section, quantity == SectionQuantity::kVerticalGradient},
       {mUi->actionLaplacian_Gradient, section, quantity == SectionQuantity::kLaplacian},
-      {mUi->actionShow_Contour_Lines, section, showsContours(mSection.contours, quantity)},
-      {mUi->actionShow_scalarbar, section, mSection.scalarBar},
-      {mUi->actionShow_Grid_Lines, section, mSection.gridLines},
-      {mUi->actionSmallGeo, picture, mSection.geophones == GeophoneMarkers::kSmall},
-      {mUi->actionNormalGeo, picture, mSection.geophones == GeophoneMarkers::kNormal},
-      {mUi->actionLargeGeo, picture, mSection.geophones == GeophoneMarkers::kLarge},
-      {mUi->actionShow_title, picture, mSection.title}};
+      {mUi->actionShow_Contour_Lines, section, showsContours(view.contours, quantity)},
+      {mUi->actionShow_scalarbar, section, view.scalarBar},
+      {mUi->actionShow_Grid_Lines, section, view.gridLines},
+      {mUi->actionSmallGeo, picture, view.geophones == GeophoneMarkers::kSmall},
+      {mUi->actionNormalGeo, picture, view.geophones == GeophoneMarkers::kNormal},
+      {mUi->actionLargeGeo, picture, view.geophones == GeophoneMarkers::kLarge},
+      {mUi->actionShow_title, picture, view.title}};
   for (const auto& state : states) {
     state.action->setEnabled(state.enabled);
     state.action->setChecked(state.checked);
@@ -159,16 +161,16 @@ void Talvesk_MainWindows::refreshSectionCommands() {
 
 QString Talvesk_MainWindows::whyNoSection() const {
   const QString heading = QStringLiteral("<h2>%1</h2><p>%2</p>");
-  if (mDocument.ttArray.empty()) {
+  if (document().ttArray.empty()) {
     return heading.arg(tr("No section yet"),
                        tr("Load shot files or travel times with the File menu first."));
   }
-  if (!mDocument.model->grid) {
+  if (!document().model->grid) {
     return heading.arg(tr("No section yet"),
                        tr("Build a grid with <b>Project &gt; Grid ...</b>, then invert the picks "
                           "with <b>Processing &gt; Run tomography inversion</b>."));
   }
-  if (mDocument.model->grid->cellCount() == 0) {
+  if (document().model->grid->cellCount() == 0) {
     return heading.arg(tr("The grid has no cells"),
                        tr("Build another one with <b>Project &gt; Grid ...</b> and give it a depth "
                           "greater than the cell size."));
@@ -177,27 +179,19 @@ QString Talvesk_MainWindows::whyNoSection() const {
 }
 
 std::vector<SectionLine> Talvesk_MainWindows::refractors() const {
-  return profileLines(mDocument, mInterpretation);
-}
-
-/// The legend follows the picks: they may be others than those that the profile was built from.
-void Talvesk_MainWindows::refreshRefractors() {
-  const SectionScene* scene = mUi->vtk_widget->scene();
-  if (scene == nullptr || scene->refractors.empty()) return;
-  const std::vector<SectionLine> now = refractors();
-  if (now.empty() || now.front().name != scene->refractors.front().name) refreshSection();
+  return profileLines(document(), interpretation());
 }
 
 void Talvesk_MainWindows::refreshSection() {
   // A new grid has no information density until it is inverted.
-  if (mSection.quantity == SectionQuantity::kInformationDensity && !hasInformationDensity()) {
-    mSection.quantity = SectionQuantity::kVelocity;
+  if (section().quantity == SectionQuantity::kInformationDensity && !hasInformationDensity()) {
+    mSession.amend([](Survey& survey) { survey.section.quantity = SectionQuantity::kVelocity; });
   }
   auto scene = std::make_shared<SectionScene>();
   const Status built =
-      buildSectionScene(mDocument, mSection, mPalettes.current(), refractors(), *scene);
+      buildSectionScene(document(), section(), palettes().current(), refractors(), *scene);
   if (built.ok()) {
-    mUi->vtk_widget->showScene(std::move(scene), mPalettes.current(), mSection);
+    mUi->vtk_widget->showScene(std::move(scene), palettes().current(), section());
   } else {
     mUi->vtk_widget->showText(whyNoSection());
   }
@@ -210,14 +204,14 @@ void Talvesk_MainWindows::showSectionCursor(const SectionReading& reading) {
                        tr("Elevation %1 m").arg(locale.toString(reading.position.z, 'f', 2))};
   if (reading.depth) parts << tr("Depth %1 m").arg(locale.toString(*reading.depth, 'f', 2));
   // What is not shown is not read either.
-  if (reading.velocity && mSection.profile) {
+  if (reading.velocity && section().profile) {
     parts << tr("Velocity %1 m/s").arg(locale.toString(*reading.velocity, 'f', 0));
   }
-  if (reading.value && mSection.profile && mSection.quantity != SectionQuantity::kVelocity) {
+  if (reading.value && section().profile && section().quantity != SectionQuantity::kVelocity) {
     const QString value = locale.toString(*reading.value, 'g', 4);
-    parts << (mSection.quantity == SectionQuantity::kVerticalGradient
+    parts << (section().quantity == SectionQuantity::kVerticalGradient
                   ? tr("Gradient %1 1/s").arg(value)
-              : mSection.quantity == SectionQuantity::kLaplacian
+              : section().quantity == SectionQuantity::kLaplacian
                   ? tr("Laplacian %1 1/(m\u00B7s)").arg(value)
                   : tr("Information density %1").arg(value));
   }

@@ -160,9 +160,9 @@ bool doFilteringDialog::mayFilter(const BandFilter& wanted) {
 }
 
 void doFilteringDialog::copyBack(const TraceSet& traces, std::int32_t shot) {
-  TraceSet& target = mDocument.recordings->traceSets[static_cast<std::size_t>(shot)];
+  TraceSet& target = mDocument.recordings.edit().traceSets[static_cast<std::size_t>(shot)];
   for (std::size_t t = 0; t < std::min(traces.size(), target.size()); ++t) {
-    target[t].filtered.edit() = traces[t].filtered;
+    target[t].filtered = traces[t].filtered;
   }
 }
 
@@ -189,7 +189,6 @@ void doFilteringDialog::on_button_apply_filter_clicked() {
     return sum;
   });
   if (outcome.filtered > 0) {
-    mDocument.modified = true;
     mChangedDocument = true;
   }
   showFiltered();

@@ -44,7 +44,7 @@ class doFilteringDialog : public QDialog {
  private:
   void connectControls();
   void describeShot();
-  TraceSet& workingTraces() { return mCopy.recordings->traceSets.front(); }
+  TraceSet& workingTraces() { return mCopy.recordings.edit().traceSets.front(); }
   void makeWorkingCopy();
   void showWorkingCopy();
   void showCorners();

@@ -79,16 +79,16 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
   });
   attempt(options.kmlSection, [&](Path path) {
     const Status system = checkSystem(options);
-    return system.ok() ? writeSectionKml(path, document, project.palettes.current(), range)
+    return system.ok() ? writeSectionKml(path, document, project.palettes->current(), range)
                        : cannotWrite(path, system.message());
   });
   const SectionFigureOptions section = sectionFigureOptions(
-      project.section, project.palettes.current(), profileLines(document, project.interpretation));
+      project.section, project.palettes->current(), profileLines(document, project.interpretation));
   for (const std::string& image : options.images) {
     attempt(image, [&](Path path) { return writeSectionFigure(document, section, path); });
   }
   attempt(options.report, [&](Path path) {
-    return writeReportFile({document, &project.interpretation}, options.reportFields, section,
+    return writeReportFile({document, &*project.interpretation}, options.reportFields, section,
                            path);
   });
   return exitCode;
@@ -112,7 +112,7 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
 void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project) {
   const bool shown =
       !options.report.empty() || (!options.images.empty() && project.section.refraction);
-  if (shown && picksChangedSince(project.document, project.interpretation.refractData)) {
+  if (shown && picksChangedSince(project.document, project.interpretation->refractData)) {
     warn("picks have changed since the layered profile was built");
   }
 }
@@ -130,9 +130,9 @@ int run(const ExportOptions& options) {
   Status status = readProject(options.project, project);
   if (status.ok()) status = prepareFigures(options, project.document);
   if (!status.ok()) return failed(status.message());
-  const ColorPalette& inView = project.palettes.current();
+  const ColorPalette& inView = project.palettes->current();
   const ValueRange range = options.range.value_or(ValueRange{inView.min_db, inView.max_db});
-  if (const int chosen = choosePalette(options.palette, project.palettes); chosen != kDone) {
+  if (const int chosen = choosePalette(options.palette, project.palettes.edit()); chosen != kDone) {
     return chosen;
   }
   if (options.geography) {

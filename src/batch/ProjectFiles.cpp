@@ -138,7 +138,7 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
   } else {
     describeInversion(document, out);
   }
-  const auto& profile = project.interpretation.refractData;
+  const auto& profile = project.interpretation->refractData;
   out << "  layers      ";
   if (profile.cData.empty()) {
     out << "none\n";

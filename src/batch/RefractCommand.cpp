@@ -91,7 +91,7 @@ void summarize(const Interpretation& interpretation, std::ostream& out) {
 int writeResults(const RefractOptions& options, const LoadedProject& project,
                  const std::vector<RefractionWarning>& warnings) {
   const TomoDocument& document = project.document;
-  const Interpretation& interpretation = project.interpretation;
+  const Interpretation& interpretation = *project.interpretation;
   int exitCode = kDone;
   const auto attempt = [&](const std::string& path, const auto& write) {
     if (path.empty() || isDiscarded(path)) return;
@@ -109,7 +109,7 @@ int writeResults(const RefractOptions& options, const LoadedProject& project,
   }
   attempt(options.report, [&] {
     return writeReportFile({document, &interpretation}, options.reportFields,
-                           sectionFigureOptions(project.section, project.palettes.current(),
+                           sectionFigureOptions(project.section, project.palettes->current(),
                                                 refractorLines(interpretation)),
                            options.report);
   });
@@ -159,7 +159,7 @@ int run(const RefractOptions& options) {
     warn("uncomplete set of picks; the interpretation is run anyway");
   }
 
-  Interpretation& interpretation = project.interpretation;
+  Interpretation& interpretation = project.interpretation.edit();
   const std::vector<ShotArrivals> shots = shotArrivals(document);
   status = markLayers(options, document, shots, interpretation);
   if (!status.ok()) return failed(status.message());

@@ -221,9 +221,9 @@ std::string projectJson(const LoadedProject& project) {
                             : Json(document.result->RMSE_tomography);
   putSectionMisfit(json, sectionMisfitOf(document));
   json["crs"] = document.map->geoCoord_isSet ? Json(document.map->geoCoord.CRS) : Json(nullptr);
-  json["palette"] = project.palettes.current().name;
-  json["layered_shots"] = project.interpretation.ttLayer.size();
-  const auto& profile = project.interpretation.refractData;
+  json["palette"] = project.palettes->current().name;
+  json["layered_shots"] = project.interpretation->ttLayer.size();
+  const auto& profile = project.interpretation->refractData;
   json["refractors"] = profile.cData.size();
   // A profile of an earlier version does not know its picks.
   json["picks_changed_since_profile"] = profile.cData.empty() || profile.picks == 0

@@ -46,18 +46,21 @@ Status checkTakesShots(const TomoDocument& document) {
 }
 
 void add(const std::string& path, ShotFileData data, TomoDocument& document) {
+  RecordingNote note = {data.format, data.warnings};
   TraceSet traces = traceSetOf(std::move(data));
   TravelTime record;
   if (!traces.empty()) record.shotPos2d = traces.front().sourcePosition;
   record.indexStesa =
       stringOf(positionsOf(traces, [](const Trace& trace) { return trace.receiverPosition; }),
                document.line.edit().goephonesStringSet);
-  record.ttMisurati.edit().assign(traces.size(), kUnpicked);
-  record.ttCalcolati.edit().assign(traces.size(), kNoTime);
+  record.ttMisurati = std::vector<double>(traces.size(), kUnpicked);
+  record.ttCalcolati = std::vector<double>(traces.size(), kNoTime);
   record.traceSetID = static_cast<std::int32_t>(document.recordings->traceSets.size());
-  document.recordings.edit().filenames.push_back(path);
   document.line.edit().shotPositions.push_back(record.shotPos2d.x);
-  document.recordings.edit().traceSets.push_back(std::move(traces));
+  Recordings& recordings = document.recordings.edit();
+  recordings.filenames.push_back(path);
+  recordings.noteOf(recordings.traceSets.size()) = std::move(note);
+  recordings.traceSets.push_back(std::move(traces));
   document.ttArray.edit().push_back(std::move(record));
 }
 

@@ -129,10 +129,10 @@ bool projectReader::readMembers(const std::string& folder, LoadedProject& projec
       step(hasSurvey ? readTomoDocumentTraces_XML(folder + kTracesMember, survey.document) : 1,
            &projectReader::read_traces, &projectReader::error_read_traces);
   mTracesFailed = hasSurvey && !hasTraces;
-  step(readPalettes_XML(folder + kPalettesMember, project.palettes), &projectReader::read_palettes,
-       &projectReader::error_read_palettes);
+  step(readPalettes_XML(folder + kPalettesMember, project.palettes.edit()),
+       &projectReader::read_palettes, &projectReader::error_read_palettes);
   if (hasSurvey && hasTraces) {
-    readRefraction_XML(folder + kRefractionMember, survey.document, project.interpretation);
+    readRefraction_XML(folder + kRefractionMember, survey.document, project.interpretation.edit());
   }
   if (hasSurvey && hasGrid) readResult_XML(folder + kResultMember, survey.document);
   project.document = std::move(survey.document);

@@ -3,7 +3,7 @@
 #include "base/Message.h"
 #include "io/ProjectMembers.h"
 #include "io/SegyFile.h"
-#include "io/TemporaryFolder.h"
+#include "io/Survey.h"
 
 #include <QObject>
 #include <memory>
@@ -13,15 +13,8 @@
 namespace talvesk {
 
 /// What a project file holds, ready for work.
-struct LoadedProject {
-  TomoDocument document;
-  refractionDataStructure::Interpretation interpretation;
-  ColorPaletteList palettes;
-  SectionViewSettings section;
+struct LoadedProject : Survey {
   SegyState shotFiles;  ///< what the readers of its SEG-Y and SU files remember, see ShotLoader
-  /// Where the shot files lie that the document names. They are gone with the last owner, so it
-  /// stays as long as the document does.
-  SharedFolder folder;
 };
 
 /// Loads a project, all of it or nothing. Runs on any thread.

@@ -88,6 +88,7 @@ void takePair(SWavePair& pair, std::size_t shot, TomoDocument& next) {
   recordings.filenames_DX[shot] = pair.fileDX;
   recordings.filenames_SX[shot] = pair.fileSX;
   recordings.traceSets[shot] = std::move(pair.traces);
+  recordings.noteOf(shot) = {pair.format, pair.warnings};
 }
 
 bool stringsDiffer(const SurveyGeometry& geometry, const TomoDocument& document) {

@@ -1,9 +1,11 @@
 #include "processing/ShotTime.h"
 
 #include "model/Recordings.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace talvesk {
 namespace {
@@ -45,9 +47,16 @@ void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
 }  // namespace
 
 ShotTimeOutcome countTimeFromShot(TomoDocument& document) {
+  std::vector<std::size_t> all(document.recordings->traceSets.size());
+  std::iota(all.begin(), all.end(), std::size_t{0});
+  return countTimeFromShot(document.recordings.edit().traceSets, all);
+}
+
+ShotTimeOutcome countTimeFromShot(std::vector<TraceSet>& traceSets,
+                                  const std::vector<std::size_t>& sets) {
   ShotTimeOutcome outcome;
-  for (TraceSet& traces : document.recordings.edit().traceSets) {
-    for (Trace& trace : traces) countFromShot(trace, outcome);
+  for (const std::size_t set : sets) {
+    for (Trace& trace : traceSets.at(set)) countFromShot(trace, outcome);
   }
   return outcome;
 }

@@ -1,10 +1,13 @@
 #pragma once
 
-#include "model/TomoDocument.h"
+#include "model/Trace.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What counting time from the shot did to the traces of a document.
 struct ShotTimeOutcome {
@@ -21,5 +24,8 @@ struct ShotTimeOutcome {
 /// Trace::droppedSamples. Repeating it drops nothing more. Times that were picked before are not
 /// moved: count time from the shot before picking.
 ShotTimeOutcome countTimeFromShot(TomoDocument& document);
+/// The same of some of the trace sets only, from 0.
+ShotTimeOutcome countTimeFromShot(std::vector<TraceSet>& traceSets,
+                                  const std::vector<std::size_t>& sets);
 
 }  // namespace talvesk

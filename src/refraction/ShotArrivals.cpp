@@ -74,6 +74,10 @@ bool fitToSurvey(const TomoDocument& document, Interpretation& interpretation) {
   return true;
 }
 
+void forgetMarks(std::size_t shot, Interpretation& interpretation) {
+  if (shot < interpretation.ttLayer.size()) interpretation.ttLayer[shot].layer.clear();
+}
+
 void forgetResults(Interpretation& interpretation) {
   interpretation.phnt_A.clear();
   interpretation.phnt_R.clear();

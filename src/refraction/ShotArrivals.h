@@ -44,6 +44,9 @@ std::uint32_t layerOf(const refractionDataStructure::layerStruct& marks, std::si
 bool fitToSurvey(const TomoDocument& document,
                  refractionDataStructure::Interpretation& interpretation);
 
+/// Takes away the marks of a shot, whose recording is another now. Whether it takes part stays.
+void forgetMarks(std::size_t shot, refractionDataStructure::Interpretation& interpretation);
+
 /// Forgets curves, time shifts and results; the marks stay.
 void forgetResults(refractionDataStructure::Interpretation& interpretation);
 

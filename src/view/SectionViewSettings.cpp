@@ -44,6 +44,14 @@ bool ContourSettings::operator==(const ContourSettings& other) const {
   return parts(*this) == parts(other);
 }
 
+bool SectionViewSettings::operator==(const SectionViewSettings& other) const {
+  const auto parts = [](const SectionViewSettings& s) {
+    return std::tie(s.profile, s.smooth, s.quantity, s.rays, s.refraction, s.scalarBar, s.title,
+                    s.gridLines, s.geophones, s.verticalExaggeration, s.lockRange, s.contours);
+  };
+  return parts(*this) == parts(other);
+}
+
 SectionQuantity contouredQuantity(SectionQuantity shown) {
   return shown == SectionQuantity::kInformationDensity ? SectionQuantity::kVelocity : shown;
 }

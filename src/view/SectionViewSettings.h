@@ -73,6 +73,8 @@ struct SectionViewSettings {
   double verticalExaggeration = parameters::kExaggeration.initial;
   bool lockRange = false;  ///< the palette's range stays when another line is shown
   ContourSettings contours;
+
+  bool operator==(const SectionViewSettings& other) const;
 };
 
 /// The scene that these settings ask for. The palette's scale is the range of velocities, unless it

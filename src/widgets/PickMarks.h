@@ -1,6 +1,5 @@
 #pragma once
 
-#include "widgets/PickEdit.h"
 #include "widgets/WigglePainter.h"
 
 #include <QPointF>

@@ -47,7 +47,7 @@ double timeAmong(const std::vector<double>& times, int trace) {
 
 }  // namespace
 
-ShotTraces::ShotTraces(TomoDocument* document, int record, bool showFiltered)
+ShotTraces::ShotTraces(const TomoDocument* document, int record, bool showFiltered)
     : mDocument(document), mRecord(record), mShowFiltered(showFiltered) {
   if (times() == nullptr) {
     mRecord = -1;

@@ -16,7 +16,7 @@ class ShotTraces {
   ShotTraces() = default;
   /// \param record from 0; one that does not exist makes a shot without traces
   /// \param showFiltered prefer the filtered copies
-  ShotTraces(TomoDocument* document, int record, bool showFiltered);
+  ShotTraces(const TomoDocument* document, int record, bool showFiltered);
 
   int record() const { return mRecord; }
   /// Traces of the trace set; of a record of picks only: its measured times.
@@ -47,7 +47,7 @@ class ShotTraces {
   const TraceSet* traceSet() const;
   void measure();
 
-  TomoDocument* mDocument = nullptr;
+  const TomoDocument* mDocument = nullptr;
   int mRecord = -1;
   bool mShowFiltered = false;
   std::vector<double> mMean;

@@ -220,7 +220,7 @@ TravelTimePlot::Role TravelTimePlot::role() const {
   return mState->role;
 }
 
-void TravelTimePlot::setDocument(TomoDocument* document) {
+void TravelTimePlot::setDocument(const TomoDocument* document) {
   State& s = *mState;
   s.cancelDrag();
   s.document = document;

@@ -39,7 +39,7 @@ class TravelTimePlot : public QWidget {
 
   /// \param document not owned, outlives the widget or is replaced before it goes; null for none.
   /// Forgets shot and views.
-  void setDocument(TomoDocument* document);
+  void setDocument(const TomoDocument* document);
   int currentShot() const;  ///< record of the document, from 0; -1 none
 
   /// Sets the pick of a trace of a shot (from 0) to a time in seconds, kNoTime to remove it, as an

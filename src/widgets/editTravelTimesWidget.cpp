@@ -48,19 +48,29 @@ editTravelTimesWidget::editTravelTimesWidget(QWidget* parent)
 
 editTravelTimesWidget::~editTravelTimesWidget() = default;
 
-void editTravelTimesWidget::setDocument(TomoDocument* document) {
-  State& s = *mState;
-  s.cancelDrag();
-  s.stack.clear();
-  s.review.clear();
-  s.history.clear();
-  s.document = document;
-  s.shot = -1;
-  s.movedByUser = false;
-  s.rebuildShot(true);
+void editTravelTimesWidget::setDocument(const TomoDocument* document) {
+  mState->session = nullptr;
+  mState->subscription.reset();
+  mState->show(document);
 }
 
-TomoDocument* editTravelTimesWidget::document() const {
+void editTravelTimesWidget::setSession(Session& session) {
+  State& s = *mState;
+  s.session = &session;
+  s.subscription = session.subscribe([&s](const SurveyChange& change) { s.surveyChanged(change); });
+  s.show(&session.document());
+}
+
+void editTravelTimesWidget::State::show(const TomoDocument* shown) {
+  cancelDrag();
+  history.clear();
+  document = shown;
+  shot = -1;
+  movedByUser = false;
+  rebuildShot(true);
+}
+
+const TomoDocument* editTravelTimesWidget::document() const {
   return mState->document;
 }
 
@@ -118,38 +128,8 @@ TraceTool editTravelTimesWidget::tool() const {
   return mState->tool;
 }
 
-QUndoStack* editTravelTimesWidget::undoStack() const {
-  return &mState->stack;
-}
-
 void editTravelTimesWidget::documentChanged() {
   setShot(mState->shot);
-}
-
-void editTravelTimesWidget::picksReplaced() {
-  State& s = *mState;
-  s.cancelDrag();
-  s.stack.clear();
-  s.review.clear();
-  s.redrawMarks();
-  s.tellAgain();
-}
-
-void editTravelTimesWidget::autoPicked(const std::vector<ReplacedPicks>& shots) {
-  State& s = *mState;
-  s.cancelDrag();
-  if (s.document == nullptr) return;
-  auto batch = std::make_unique<PickBatchCommand>(
-      tr("AutoPick"), [&s] { return s.shot; },
-      [&s](const PickEditEffect& effect) { s.edited(effect); });
-  for (const ReplacedPicks& replaced : shots) {
-    std::vector<PickChange> changes =
-        s.review.replaced(*s.document, replaced.shot, replaced.before);
-    if (!changes.empty()) batch->add(*s.document, s.review, replaced.shot, std::move(changes));
-  }
-  if (batch->childCount() > 0) s.stack.push(batch.release());
-  s.redrawMarks();
-  s.tellAgain();
 }
 
 int editTravelTimesWidget::currentTrace() const {

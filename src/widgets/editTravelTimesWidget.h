@@ -9,10 +9,9 @@
 #include <optional>
 #include <vector>
 
-class QUndoStack;
-
 namespace talvesk {
 
+class Session;
 class TomoDocument;
 struct TraceWindow;
 
@@ -26,17 +25,11 @@ enum class TraceTool {
   Select  ///< drag over the traces to confirm or clear together
 };
 
-/// Measured times of a shot as they were before something replaced them, seconds, by trace.
-struct ReplacedPicks {
-  std::int32_t shot = -1;
-  std::vector<double> before;
-};
-
 /// The traces of one shot, time downward, with its first breaks to be picked by mouse and keys.
 ///
-/// The widget edits the measured times of the document in place; every edit by hand is a command of
-/// undoStack(). It reads the document whenever it paints and keeps nothing but extremes and
-/// pictures of it: tell it of changes with the functions below. Give it the whole room of its
+/// The widget edits the measured times of a session, each edit by hand a step of its own, and
+/// follows what else happens to the survey. It reads the document whenever it paints and keeps
+/// nothing but extremes and pictures of it. Give it the whole room of its
 /// parent (in a scroll area: widgetResizable), it has scroll bars of its own.
 ///
 /// Keys: Left and Right walk along the traces (Shift selects), Home and End go to the first and the
@@ -52,11 +45,13 @@ class editTravelTimesWidget : public QWidget {
   explicit editTravelTimesWidget(QWidget* parent = nullptr);
   ~editTravelTimesWidget() override;
 
-  /// \param document not owned, outlives the widget or is replaced before it goes; null for none.
-  /// Forgets shot, undo history and views, also when the document is the one it has: its contents
-  /// were replaced.
-  void setDocument(TomoDocument* document);
-  TomoDocument* document() const;
+  /// A document to look at only: not owned, outlives the widget or is replaced before it goes; null
+  /// for none. Forgets shot and views, also when the document is the one it has: its contents were
+  /// replaced.
+  void setDocument(const TomoDocument* document);
+  /// A survey to work on, which outlives the widget.
+  void setSession(Session& session);
+  const TomoDocument* document() const;
 
   /// Record of the document to show, from 0; -1, or one that does not exist: none. The view that
   /// the user has zoomed to stays.
@@ -68,15 +63,8 @@ class editTravelTimesWidget : public QWidget {
   void setTool(TraceTool tool);
   TraceTool tool() const;
 
-  QUndoStack* undoStack() const;
-
-  /// Samples, positions, or the number of shots changed; the undo history stays.
+  /// Samples, positions, or the number of shots of a document that is looked at changed.
   void documentChanged();
-  /// Measured times were replaced by something else than this widget: clears the undo history.
-  void picksReplaced();
-  /// The autopicker replaced the measured times of these shots: an edit like those by hand, which
-  /// can be undone. The picks wait to be confirmed.
-  void autoPicked(const std::vector<ReplacedPicks>& shots);
 
   /// Sets the pick of a trace of any shot (both from 0), seconds, kNoTime to remove it, as an edit
   /// by hand that can be undone. Nothing happens where there is no such trace or nothing to change.
@@ -84,7 +72,7 @@ class editTravelTimesWidget : public QWidget {
 
   int currentTrace() const;  ///< from 0; -1 none
   /// Whether removePicks() would find any, or confirmPicks() and removeUnconfirmedPicks() one that
-  /// waits. Follows selectionChanged() and the undo stack.
+  /// waits. Follows selectionChanged() and the session.
   bool hasPicksInRange(bool unconfirmedOnly) const;
   void setCurrentTrace(int trace);
   int selectedFirst() const;  ///< channels selected, from 0; -1 none
@@ -134,7 +122,7 @@ class editTravelTimesWidget : public QWidget {
   void optionsChanged();  ///< by keys or wheel, not by setOptions()
   void toolChanged();
   void selectionChanged();  ///< current trace or selected ones
-  /// An edit of a shot that is not shown was undone or done again.
+  /// Picks of a shot that is not shown changed.
   void shotEdited(int shot);
 
  protected:

@@ -1,6 +1,7 @@
 #include "widgets/PickSnap.h"
 #include "widgets/editTravelTimesWidget_state.h"
 
+#include <QApplication>
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
@@ -28,33 +29,54 @@ PickStroke::Adjust editTravelTimesWidget::State::adjuster(bool snapping) const {
   return [this, snapping](int trace, double time) { return adjusted(trace, time, snapping); };
 }
 
-void editTravelTimesWidget::State::edit(const QString& text, const std::map<int, double>& times,
-                                        PickEditCommand::Merge merge) {
+bool editTravelTimesWidget::State::waits(int trace) const {
+  const TravelTime* record = traces.times();
+  return record != nullptr && trace >= 0 && record->waits(static_cast<std::size_t>(trace));
+}
+
+void editTravelTimesWidget::State::edit(Message text, const std::map<int, double>& times,
+                                        const std::string& mergeKey) {
   std::vector<PickChange> changes;
   for (const auto& [trace, time] : times) {
     if (!traces.canPick(trace)) continue;
     const double before = traces.measured(trace);
     const bool nothing = hasPick(time) ? time == before : !hasPick(before);
-    if (nothing) continue;
-    changes.push_back({trace, before, time, review.waits(shot, trace), false});
+    if (!nothing) changes.push_back({trace, time, false});
   }
-  push(text, std::move(changes), merge);
+  push(Edit::kPick, std::move(text), shot, changes, mergeKey);
 }
 
-void editTravelTimesWidget::State::push(const QString& text, std::vector<PickChange> changes,
-                                        PickEditCommand::Merge merge) {
-  if (changes.empty() || document == nullptr) return;
-  stack.push(new PickEditCommand(text, *document, review, shot, std::move(changes), merge,
-                                 [this](const PickEditEffect& effect) { edited(effect); }));
+void editTravelTimesWidget::State::push(Edit edit, Message text, int record,
+                                        const std::vector<PickChange>& changes,
+                                        const std::string& mergeKey) {
+  if (changes.empty() || session == nullptr) return;
+  const auto change = [&](Survey& survey) {
+    changePicks(survey.document, record, changes);
+    return Status();
+  };
+  const Status done = session->applyMerging(edit, change, mergeKey, std::move(text));
+  // It is refused while another edit is under way, whose progress stands before this view.
+  if (!done.ok()) QApplication::beep();
 }
 
-void editTravelTimesWidget::State::edited(const PickEditEffect& effect) {
+void editTravelTimesWidget::State::surveyChanged(const SurveyChange& change) {
+  if (change.kind == SurveyChange::Kind::kOpened) return show(&session->document());
+  const bool other = change.parts.has(Part::kRecordings) || change.parts.has(Part::kGeometry);
+  if (other) widget.documentChanged();
+  if (change.parts.has(Part::kPicks)) picksChanged(change);
+}
+
+void editTravelTimesWidget::State::picksChanged(const SurveyChange& change) {
+  if (change.edit != Edit::kPick && change.edit != Edit::kConfirmPicks) cancelDrag();
   redrawMarks();
   describe();
   tellAgain();
-  if (effect.added) emit widget.pick_added();
-  if (effect.timesChanged) emit widget.pick_edited();
-  if (effect.shot != shot) emit widget.shotEdited(effect.shot);
+  const TomoDocument& before = change.before.document;
+  if (hasNewPick(before, *document)) emit widget.pick_added();
+  emit widget.pick_edited();
+  const std::vector<std::int32_t> shots = shotsWithOtherPicks(before, *document);
+  if (shots.empty() || std::find(shots.begin(), shots.end(), shot) != shots.end()) return;
+  emit widget.shotEdited(shots.front());
 }
 
 std::pair<int, int> editTravelTimesWidget::State::range() const {
@@ -68,11 +90,9 @@ void editTravelTimesWidget::State::removeRange(bool unconfirmedOnly) {
   std::map<int, double> times;
   const auto [first, last] = range();
   for (int trace = first; trace <= last; ++trace) {
-    if (!unconfirmedOnly || review.waits(shot, trace)) times[trace] = kNoTime;
+    if (!unconfirmedOnly || waits(trace)) times[trace] = kNoTime;
   }
-  edit(times.size() > 1 ? editTravelTimesWidget::tr("Remove picks")
-                        : editTravelTimesWidget::tr("Remove pick"),
-       times);
+  edit(times.size() > 1 ? Message::tr("Remove picks") : Message::tr("Remove pick"), times);
 }
 
 void editTravelTimesWidget::State::confirmRange() {
@@ -80,11 +100,10 @@ void editTravelTimesWidget::State::confirmRange() {
   std::vector<PickChange> changes;
   const auto [first, last] = range();
   for (int trace = first; trace <= last; ++trace) {
-    if (!traces.canPick(trace) || !review.waits(shot, trace)) continue;
-    const double time = traces.measured(trace);
-    changes.push_back({trace, time, time, true, false});
+    if (!traces.canPick(trace) || !waits(trace)) continue;
+    changes.push_back({trace, traces.measured(trace), false});
   }
-  push(editTravelTimesWidget::tr("Confirm picks"), std::move(changes), PickEditCommand::Merge::No);
+  push(Edit::kConfirmPicks, {}, shot, changes);
 }
 
 bool editTravelTimesWidget::hasPicksInRange(bool unconfirmedOnly) const {
@@ -93,7 +112,7 @@ bool editTravelTimesWidget::hasPicksInRange(bool unconfirmedOnly) const {
   const auto [first, last] = state.range();
   for (int trace = first; trace <= last; ++trace) {
     if (!state.traces.canPick(trace) || !hasPick(state.traces.measured(trace))) continue;
-    if (!unconfirmedOnly || state.review.waits(state.shot, trace)) return true;
+    if (!unconfirmedOnly || state.waits(trace)) return true;
   }
   return false;
 }
@@ -101,8 +120,10 @@ bool editTravelTimesWidget::hasPicksInRange(bool unconfirmedOnly) const {
 void editTravelTimesWidget::State::nudge(double seconds, bool keyHeld) {
   if (!canEdit() || current < 0 || !hasPick(traces.measured(current))) return;
   const double time = adjusted(current, traces.measured(current) + seconds, false);
-  edit(editTravelTimesWidget::tr("Nudge pick"), {{current, time}},
-       keyHeld ? PickEditCommand::Merge::KeyHeld : PickEditCommand::Merge::No);
+  // The first step of a key begins an edit, those of the key held go on with it.
+  if (!keyHeld) ++nudges;
+  edit(Message::tr("Nudge pick"), {{current, time}},
+       "nudge " + std::to_string(nudges) + ' ' + std::to_string(current));
   reveal(current);
 }
 
@@ -120,7 +141,7 @@ void editTravelTimesWidget::State::pickLikeNeighbour() {
     time = hasPick(left) && hasPick(right) ? 0.5 * (left + right) : hasPick(left) ? left : right;
     break;
   }
-  edit(editTravelTimesWidget::tr("Set pick"), {{current, adjusted(current, time, true)}});
+  edit(Message::tr("Set pick"), {{current, adjusted(current, time, true)}});
 }
 
 void editTravelTimesWidget::State::setCurrent(int trace) {
@@ -155,7 +176,7 @@ void editTravelTimesWidget::State::describe() {
 
 void editTravelTimesWidget::editPick(int shot, int trace, double seconds) {
   State& state = *mState;
-  if (state.document == nullptr || shot < 0 || trace < 0) return;
+  if (state.session == nullptr || shot < 0 || trace < 0) return;
   const std::vector<TravelTime>& records = state.document->ttArray;
   if (static_cast<std::size_t>(shot) >= records.size()) return;
   const std::vector<double>& times = records[static_cast<std::size_t>(shot)].ttMisurati;
@@ -163,11 +184,8 @@ void editTravelTimesWidget::editPick(int shot, int trace, double seconds) {
   const double before = times[static_cast<std::size_t>(trace)];
   if (!hasPick(seconds) || !std::isfinite(seconds)) seconds = kNoTime;
   if (hasPick(seconds) ? seconds == before : !hasPick(before)) return;
-  const PickChange change = {trace, before, seconds, state.review.waits(shot, trace), false};
-  state.stack.push(
-      new PickEditCommand(hasPick(seconds) ? tr("Move pick") : tr("Remove pick"), *state.document,
-                          state.review, shot, {change}, PickEditCommand::Merge::No,
-                          [&state](const PickEditEffect& effect) { state.edited(effect); }));
+  state.push(Edit::kPick, hasPick(seconds) ? Message::tr("Move pick") : Message::tr("Remove pick"),
+             shot, {{trace, seconds, false}});
 }
 
 }  // namespace talvesk

@@ -136,8 +136,10 @@ bool editTravelTimesWidget::State::escape() {
 
 void editTravelTimesWidget::keyPressEvent(QKeyEvent* event) {
   State& s = *mState;
-  if (event->matches(QKeySequence::Undo)) return s.stack.undo();
-  if (event->matches(QKeySequence::Redo)) return s.stack.redo();
+  if (s.session != nullptr) {
+    if (event->matches(QKeySequence::Undo)) return s.session->undo();
+    if (event->matches(QKeySequence::Redo)) return s.session->redo();
+  }
   if (s.layout.count() > 0) {
     if (event->key() == Qt::Key_Escape && s.escape()) return;
     const bool plain =

@@ -96,12 +96,11 @@ void editTravelTimesWidget::State::finishDrag(const QPointF& point) {
     const std::map<int, double> times = stroke.times();
     const bool had = hasPick(traces.measured(pressedTrace));
     stroke.clear();
-    const QString text = finished == Drag::Remove
-                             ? (times.size() > 1 ? editTravelTimesWidget::tr("Remove picks")
-                                                 : editTravelTimesWidget::tr("Remove pick"))
-                         : times.size() > 1 ? editTravelTimesWidget::tr("Draw picks")
-                         : had              ? editTravelTimesWidget::tr("Move pick")
-                                            : editTravelTimesWidget::tr("Set pick");
+    const Message text = finished == Drag::Remove ? (times.size() > 1 ? Message::tr("Remove picks")
+                                                                      : Message::tr("Remove pick"))
+                         : times.size() > 1       ? Message::tr("Draw picks")
+                         : had                    ? Message::tr("Move pick")
+                                                  : Message::tr("Set pick");
     edit(text, times);
     redrawMarks();
   }
@@ -165,7 +164,7 @@ TraceCursor editTravelTimesWidget::State::cursorFor(int trace, std::optional<dou
     }
   }
   if (hasPick(traces.measured(trace))) cursor.pick = traces.measured(trace);
-  cursor.pickIsAutomatic = review.waits(shot, trace);
+  cursor.pickIsAutomatic = waits(trace);
   return cursor;
 }
 

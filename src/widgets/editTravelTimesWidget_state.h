@@ -1,6 +1,7 @@
 #pragma once
 
-#include "widgets/PickEdit.h"
+#include "session/PickEdits.h"
+#include "session/Session.h"
 #include "widgets/PickStroke.h"
 #include "widgets/ShotTraces.h"
 #include "widgets/TraceColors.h"
@@ -50,14 +51,18 @@ struct editTravelTimesWidget::State {
   void scrolled(bool horizontal, int value);
 
   // --- Picks.
-  bool canEdit() const { return document != nullptr && shot >= 0 && !options.showOnlyTraces; }
+  bool canEdit() const { return session != nullptr && shot >= 0 && !options.showOnlyTraces; }
   /// A time that may become a pick: within the record, drawn to a feature when snapping.
   double adjusted(int trace, double time, bool snapping) const;
   PickStroke::Adjust adjuster(bool snapping) const;
-  void edit(const QString& text, const std::map<int, double>& times,
-            PickEditCommand::Merge merge = PickEditCommand::Merge::No);
-  void push(const QString& text, std::vector<PickChange> changes, PickEditCommand::Merge merge);
-  void edited(const PickEditEffect& effect);
+  bool waits(int trace) const;  ///< for confirmation
+  /// \param mergeKey steps of one key that is held are one edit
+  void edit(Message text, const std::map<int, double>& times, const std::string& mergeKey = {});
+  void push(Edit edit, Message text, int record, const std::vector<PickChange>& changes,
+            const std::string& mergeKey = {});
+  void surveyChanged(const SurveyChange& change);
+  void picksChanged(const SurveyChange& change);
+  void show(const TomoDocument* shown);
   std::pair<int, int> range() const;  ///< selected traces or the current one; first > last: none
   void removeRange(bool unconfirmedOnly);
   void confirmRange();
@@ -99,7 +104,9 @@ struct editTravelTimesWidget::State {
   WiggleScene scene() const { return {traces, layout, options, colors}; }
 
   editTravelTimesWidget& widget;
-  TomoDocument* document = nullptr;
+  const TomoDocument* document = nullptr;
+  Session* session = nullptr;  ///< null: the document is only looked at
+  Session::Subscription subscription;
   int shot = -1;
   TraceViewOptions options;
   TraceTool tool = TraceTool::Pick;
@@ -115,6 +122,7 @@ struct editTravelTimesWidget::State {
   QScrollBar* down = nullptr;
 
   int current = -1;
+  int nudges = 0;  ///< keys that moved a pick so far
   int selectedFirst = -1;
   int selectedLast = -1;
 
@@ -135,9 +143,6 @@ struct editTravelTimesWidget::State {
   QImage still;
   bool wigglesStale = true;
   bool stillStale = true;
-
-  PickReview review;
-  QUndoStack stack;  ///< last: its commands refer to the others
 };
 
 }  // namespace talvesk

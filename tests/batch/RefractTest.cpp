@@ -158,9 +158,9 @@ TEST(Refract, ofAProjectTellsWhetherPicksHaveChangedSince) {
   const Survey survey;
   const Folder home;
   LoadedProject project;
-  project.document =
-      testing::standardDippingLine(testing::threeDippingLayers(), project.interpretation.ttLayer);
-  ASSERT_TRUE(buildProfiles(shotArrivals(project.document), project.interpretation).built);
+  project.document = testing::standardDippingLine(testing::threeDippingLayers(),
+                                                  project.interpretation.edit().ttLayer);
+  ASSERT_TRUE(buildProfiles(shotArrivals(project.document), project.interpretation.edit()).built);
   const std::string path = survey.folder / "line.tvsk";
   const auto saved = [&] {
     ProjectWriter writer;

@@ -243,7 +243,7 @@ TEST_F(Contours, areLoggedWhenTheyAreAccepted) {
 TEST_F(Contours, areProposedRoundAndTheCommandSaysWhetherThereAreAny) {
   dialog->close();
   open();
-  window->document() = testing::sectionDocument(
+  writable() = testing::sectionDocument(
       6, 20, 0.0, [](std::uint32_t row, std::uint32_t) { return 600.0 + 200.0 * row; });
   QAction& command = child<QAction>("actionShow_Contour_Lines");
   command.setEnabled(true);
@@ -272,7 +272,7 @@ TEST_F(Contours, areProposedRoundAndTheCommandSaysWhetherThereAreAny) {
 TEST_F(Contours, haveAListForEachQuantity) {
   dialog->close();
   open();
-  window->document() = testing::sectionDocument(6, 20, 0.0, [](std::uint32_t row, std::uint32_t) {
+  writable() = testing::sectionDocument(6, 20, 0.0, [](std::uint32_t row, std::uint32_t) {
     return 600.0 + 200.0 * row + 10.0 * row * row;
   });
   window->showFile(0);
@@ -308,7 +308,7 @@ TEST_F(Contours, haveAListForEachQuantity) {
 TEST_F(Contours, thatAreSwitchedOnForAQuantityOutOfViewAreRound) {
   dialog->close();
   open();
-  window->document() = testing::sectionDocument(6, 20, 0.0, [](std::uint32_t row, std::uint32_t) {
+  writable() = testing::sectionDocument(6, 20, 0.0, [](std::uint32_t row, std::uint32_t) {
     return 600.0 + 200.0 * row + 10.0 * row * row;
   });
   window->showFile(0);
@@ -329,7 +329,7 @@ TEST_F(Contours, areRoundOnRequest) {
 TEST_F(Contours, appearOnTheSection) {
   dialog->close();
   open();
-  window->document() = testing::sectionDocument(
+  writable() = testing::sectionDocument(
       6, 20, 0.0, [](std::uint32_t row, std::uint32_t) { return 600.0 + 200.0 * row; });
   dialogs.expect([](QWidget& widget) {
     widget.findChild<QPushButton*>("remove_all_button")->click();
@@ -343,14 +343,14 @@ TEST_F(Contours, appearOnTheSection) {
   ASSERT_NE(scene, nullptr);
   EXPECT_THAT(scene->contourLevels, ElementsAre(900.0));
   EXPECT_FALSE(scene->contours.empty());
-  EXPECT_TRUE(window->document().modified);
+  EXPECT_TRUE(window->session().modified());
   EXPECT_EQ(child<QTabWidget>("tabWidget").currentWidget(), &child<QWidget>("vtk_tab"));
 }
 
 TEST_F(Contours, theCommandIsCheckedWhileTheyAreShownWhateverIsAnswered) {
   dialog->close();
   open();
-  window->document() = testing::sectionDocument(
+  writable() = testing::sectionDocument(
       6, 20, 0.0, [](std::uint32_t row, std::uint32_t) { return 600.0 + 200.0 * row; });
   window->showFile(0);
   const auto answer = [this](const char* toClick, QDialogButtonBox::StandardButton button) {

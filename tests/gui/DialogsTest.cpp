@@ -51,14 +51,14 @@ class Dialogs : public WindowTest {
   void openSurvey() {
     open();
     loadShots(2);
-    for (TravelTime& record : window->document().ttArray) {
-      for (double& time : record.ttMisurati) time = 0.01;
+    for (TravelTime& record : writable().ttArray.edit()) {
+      for (double& time : record.ttMisurati.edit()) time = 0.01;
     }
-    testing::putGrid(window->document(), 10.0, 1.0);
+    testing::putGrid(writable(), 10.0, 1.0);
   }
 
   std::vector<Case> cases() {
-    TomoDocument& document = window->document();
+    TomoDocument& document = writable();
     const SurveyProfile profile = document.surveyProfile();
     return {
         {"geometry", [&] { return make<DialogSetGeometry>(document, mSegy, mFolders, mContext); }},

@@ -32,7 +32,7 @@ class Exports : public WindowTest {
   Exports() { open(); }
 
   void takeSection(bool onGlobe) {
-    TomoDocument& document = window->document();
+    TomoDocument& document = writable();
     document = testing::sectionDocument(
         3, 10, 0.0, [](std::uint32_t row, std::uint32_t) { return row == 0 ? 250.0 : 3500.0; });
     if (onGlobe) {
@@ -139,7 +139,7 @@ TEST_F(Exports, askForAFileAndGiveItsSuffix) {
     }
     action(command.action).trigger();
     EXPECT_THAT(TestFolder::get(file + "." + command.suffix), StartsWith(command.beginning));
-    EXPECT_FALSE(window->document().modified) << "an export changes nothing";
+    EXPECT_FALSE(window->session().modified()) << "an export changes nothing";
   }
 }
 
@@ -209,7 +209,7 @@ TEST_F(Exports, ofTheSectionUseThePaletteInView) {
 
 TEST_F(Exports, needNoPlaceThatProjCannotFind) {
   takeSection(true);
-  window->document().map.edit().geoCoord.CRS = 4326;
+  writable().map.edit().geoCoord.CRS = 4326;
   expectFile("Export Seismic Line to KML", home.file("out.kml"));
   dialogs.expectBox("Error occured", "The data have not been exported.",
                     "is not a projected system", QMessageBox::Ok);
@@ -260,7 +260,7 @@ TEST_F(Exports, placeTheLineWithChecksWhileTyping) {
     button(dialog, QDialogButtonBox::Ok).click();
   });
   action("actionSet_geography_coordinates").trigger();
-  const TomoDocument& document = window->document();
+  const TomoDocument& document = writable();
   EXPECT_TRUE(document.map->geoCoord_isSet);
   EXPECT_TRUE(window->isWindowModified());
   EXPECT_EQ(document.map->geoCoord.CRS, 32632);
@@ -286,8 +286,8 @@ TEST_F(Exports, keepThePlaceWhenTheUserGivesUp) {
   });
   action("actionSet_geography_coordinates").trigger();
   QLocale::setDefault(before);
-  EXPECT_EQ(window->document().map->geoCoord.mEastLstGeoph, 652004.8);
-  EXPECT_FALSE(window->document().modified);
+  EXPECT_EQ(writable().map->geoCoord.mEastLstGeoph, 652004.8);
+  EXPECT_FALSE(window->session().modified());
 }
 
 }  // namespace

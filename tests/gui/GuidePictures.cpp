@@ -46,7 +46,8 @@ using namespace talvesk::testing;
 constexpr int kShot = 4;  ///< on the line, left of the valley
 
 void storeFilterDialog(Talvesk_MainWindows& window, const QString& file) {
-  doFilteringDialog dialog(window.document(), kShot, {}, &window);
+  TomoDocument document = window.document();
+  doFilteringDialog dialog(document, kShot, {}, &window);
   dialog.resize(980, 560);
   child<QCheckBox>(dialog, "lowPassCBox").setChecked(true);
   child<QDoubleSpinBox>(dialog, "doubleFxLowpass").setValue(150.0);
@@ -215,7 +216,7 @@ void storePictures(const QString& demo, const QString& language, const QString& 
   window.show();
   if (!QTest::qWaitForWindowExposed(&window)) throw std::runtime_error("no window");
   const BoxAnswers boxes;
-  window.document().title = titleOfLine(language);
+  window.session().amend([&](Survey& survey) { survey.document.title = titleOfLine(language); });
   loadDemo(window, demo);
   storeTraces(window, folder);
   storeGeometry(window, folder);
@@ -227,7 +228,7 @@ void storePictures(const QString& demo, const QString& language, const QString& 
   // Pictures tell of no folder of whoever takes them.
   QDir::setCurrent(QFileInfo(demo).absolutePath());
   storeImagesAndReport(window, QFileInfo(demo).fileName(), folder);
-  window.document().modified = false;
+  window.session().markSaved();
 }
 
 }  // namespace

@@ -65,14 +65,14 @@ class Inverting : public WindowTest {
   void openLine(std::size_t missing = 0) {
     TomoDocument line = testLine(24, 2.0, {-2.0, 9.0, 23.0, 37.0, 48.0}, 1.0);
     pickTwoLayers(line, 450.0, 1800.0, 3.0);
-    for (TravelTime& record : line.ttArray) {
+    for (TravelTime& record : line.ttArray.edit()) {
       for (std::size_t i = 0; i < missing; ++i) record.ttMisurati.edit()[i] = kUnpicked;
     }
     ASSERT_TRUE(writeTravelTimes(home.file("line.otte"), line).ok());
     open();
     window->openFiles({QString::fromStdString(home.file("line.otte"))});
-    ASSERT_EQ(window->document().ttArray.size(), 5U);
-    window->document().modified = false;
+    ASSERT_EQ(writable().ttArray.size(), 5U);
+    window->session().markSaved();
   }
   void answerGrid(double depth, double cell) {
     dialogs.expect([=](QWidget& widget) {
@@ -119,8 +119,8 @@ TEST_F(Inverting, asksBeforeItGoesOnWithoutMostPicks) {
   dialogs.expectBox("Warning:", "Uncomplete set of picks. \n \n",
                     "Do you want to run tomography inversion anyway? ", QMessageBox::No);
   run();
-  EXPECT_EQ(window->document().model->grid, nullptr);
-  EXPECT_FALSE(window->document().modified);
+  EXPECT_EQ(writable().model->grid, nullptr);
+  EXPECT_FALSE(window->session().modified());
   EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionRun_tomography_inversion_triggered"));
   EXPECT_THAT(log(), Not(HasSubstr("grid does not exist")));
 }
@@ -129,14 +129,14 @@ TEST_F(Inverting, endsWhereADialogIsCancelled) {
   openLine(11);
   dialogs.expectAndCancel();  // the grid
   run();
-  EXPECT_EQ(window->document().model->grid, nullptr);
-  EXPECT_FALSE(window->document().modified);
+  EXPECT_EQ(writable().model->grid, nullptr);
+  EXPECT_FALSE(window->session().modified());
   EXPECT_THAT(log(), HasSubstr("grid does not exist; ask for parameter\n"));
   answerGrid(12.0, 1.0);
   dialogs.expectAndCancel();  // the parameters
   run();
-  ASSERT_NE(window->document().model->grid, nullptr);
-  EXPECT_FALSE(window->document().result->has_tomographic_info);
+  ASSERT_NE(writable().model->grid, nullptr);
+  EXPECT_FALSE(writable().result->has_tomographic_info);
   EXPECT_THAT(log(), Not(HasSubstr("Running Tomography")));
 }
 
@@ -146,8 +146,8 @@ TEST_F(Inverting, showsItsResults) {
   answerParameters(2, 3);
   expectResults();
   run();
-  const TomoDocument& line = window->document();
-  EXPECT_TRUE(line.result->has_tomographic_info && line.modified);
+  const TomoDocument& line = writable();
+  EXPECT_TRUE(line.result->has_tomographic_info && window->session().modified());
   ASSERT_TRUE(line.result->lastInversion);
   const Misfit misfit = line.result->lastInversion->history.back();
   EXPECT_EQ(line.result->RMSE_tomography, 100.0 * misfit.relativeRms);
@@ -182,8 +182,8 @@ TEST_F(Inverting, keepsTheMisfitInViewAndSaysWhenPicksHaveChanged) {
   run();
   EXPECT_THAT(told(), StartsWith("Misfit of the section: RMS "));
   EXPECT_THAT(told(), Not(HasSubstr("changed")));
-  window->document().ttArray.edit()[0].ttMisurati.edit()[3] *= 1.01;
-  emit child<editTravelTimesWidget>("showTracesWidget").pick_edited();
+  const double pick = window->document().ttArray[0].ttMisurati[3];
+  child<editTravelTimesWidget>("showTracesWidget").editPick(0, 3, 1.01 * pick);
   EXPECT_THAT(told(), HasSubstr("Picks have changed since."));
 }
 
@@ -196,7 +196,7 @@ TEST_F(Inverting, completesTheIterationInWhichItIsStopped) {
   });
   expectResults();
   run();
-  EXPECT_TRUE(window->document().result->has_tomographic_info);
+  EXPECT_TRUE(writable().result->has_tomographic_info);
   EXPECT_THAT(log(), HasSubstr("Running Tomography - external iteration 0 ... COMPLETED. \n"));
   EXPECT_THAT(log(), HasSubstr("Stop Request by the user.\n"));
   EXPECT_THAT(log(), Not(HasSubstr("external iteration 1")));
@@ -216,8 +216,8 @@ TEST_F(Inverting, proposesTheCellSizeOfTheSurveyWhereThereIsNoGrid) {
   });
   dialogs.expectAndCancel();  // the parameters
   run();
-  ASSERT_NE(window->document().model->grid, nullptr);
-  EXPECT_EQ(window->document().model->grid->aLato(), 0.5);
+  ASSERT_NE(writable().model->grid, nullptr);
+  EXPECT_EQ(writable().model->grid->aLato(), 0.5);
 }
 
 TEST_F(Inverting, namesWhatItLeftOut) {
@@ -245,8 +245,8 @@ TEST_F(Inverting, showsNoResultsWhereNothingIsPicked) {
   answerGrid(12.0, 1.0);
   answerParameters(1, 1);
   run();
-  EXPECT_TRUE(window->document().result->has_tomographic_info);
-  EXPECT_LT(window->document().result->RMSE_tomography, 0.0);
+  EXPECT_TRUE(writable().result->has_tomographic_info);
+  EXPECT_LT(writable().result->RMSE_tomography, 0.0);
 }
 
 TEST_F(Inverting, tellsWhyAGridWithoutRowsCannotBeInverted) {
@@ -259,7 +259,7 @@ TEST_F(Inverting, tellsWhyAGridWithoutRowsCannotBeInverted) {
   dialogs.expectBox("Error occured", "The inversion could not be completed.", "no grid with cells",
                     QMessageBox::Ok);
   run();
-  EXPECT_FALSE(window->document().result->has_tomographic_info);
+  EXPECT_FALSE(writable().result->has_tomographic_info);
 }
 
 TEST_F(Inverting, leavesTheWindowAliveButTheDocumentOutOfReach) {
@@ -337,7 +337,7 @@ TEST_F(Inverting, givesTheNumbersOfTheBatchProgramToTheLastBit) {
   const QJsonObject expected =
       QJsonDocument::fromJson(QByteArray::fromStdString(TestFolder::get(json.toStdString())))
           .object();
-  const Grid& grid = *window->document().model->grid;
+  const Grid& grid = *writable().model->grid;
   const QJsonArray velocities = expected[QLatin1String("velocities")].toArray();
   ASSERT_EQ(velocities.size(), static_cast<int>(grid.cellCount()));
   int different = 0;
@@ -345,8 +345,7 @@ TEST_F(Inverting, givesTheNumbersOfTheBatchProgramToTheLastBit) {
     if (velocities[static_cast<int>(c)].toDouble() != grid.velocity(c)) ++different;
   }
   EXPECT_EQ(different, 0);
-  EXPECT_EQ(expected[QLatin1String("rms_percent")].toDouble(),
-            window->document().result->RMSE_tomography);
+  EXPECT_EQ(expected[QLatin1String("rms_percent")].toDouble(), writable().result->RMSE_tomography);
 }
 
 }  // namespace

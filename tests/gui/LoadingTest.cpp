@@ -69,14 +69,14 @@ TEST_F(Loading, byDialogAddsToTheSurveyAndRemembersTheFolder) {
   const QStringList files = {shotFile("a.dat"), shotFile("b.dat", 13.0)};
   dialogs.expectFiles("Open Seismic Trace", files);
   action("actionOpen_shot_files").trigger();
-  EXPECT_THAT(window->document().recordings->traceSets, SizeIs(2));
+  EXPECT_THAT(writable().recordings->traceSets, SizeIs(2));
   EXPECT_EQ(window->currentFile(), 0);
   EXPECT_EQ(testing::TestFolder::get(home.file("Talvesk_TMP/Talvesk_history.txt")), home.path());
   EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::loadTraces_PWave\n"));
 
   dialogs.expectFiles("Open Seismic Trace", {shotFile("c.dat", 17.0)});
   action("actionOpen_shot_files").trigger();
-  EXPECT_THAT(window->document().recordings->traceSets, SizeIs(3));
+  EXPECT_THAT(writable().recordings->traceSets, SizeIs(3));
   EXPECT_EQ(window->currentFile(), 2) << "the first of the new shots is in view";
   EXPECT_EQ(child<QComboBox>("shotCBox").currentText().toStdString(), "3: c.dat at 17.0 m");
 }
@@ -184,15 +184,15 @@ TEST_F(Loading, intoPicksWithoutTracesNamesTheFilesThatItRefuses) {
 TEST_F(Loading, givenUpChangesNothing) {
   dialogs.expectAndCancel();
   action("actionOpen_shot_files").trigger();
-  EXPECT_THAT(window->document().recordings->traceSets, SizeIs(0));
+  EXPECT_THAT(writable().recordings->traceSets, SizeIs(0));
   EXPECT_FALSE(window->isWindowModified());
 }
 
 TEST_F(Loading, byDropTakesShotsAndTheirPicksTogether) {
   EXPECT_EQ(child<QStackedWidget>("tracesStack").currentIndex(), 0) << "says what to do next";
   drop({picksFile("picks.otte", 2, 12), shotFile("a.dat"), shotFile("b.dat", 13.0)});
-  EXPECT_THAT(window->document().recordings->traceSets, SizeIs(2));
-  EXPECT_DOUBLE_EQ(window->document().ttArray.at(1).ttMisurati.at(3), 0.021);
+  EXPECT_THAT(writable().recordings->traceSets, SizeIs(2));
+  EXPECT_DOUBLE_EQ(writable().ttArray.at(1).ttMisurati.at(3), 0.021);
   EXPECT_EQ(child<QStackedWidget>("tracesStack").currentIndex(), 1);
   EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(), "Travel times of 2 shots imported.");
 }
@@ -204,35 +204,35 @@ TEST_F(Loading, namesTheFilesThatFailAndTakesTheOthers) {
   dialogs.expectBox("Error occured", "Error while loading one or more traces.", "broken.dat",
                     QMessageBox::Ok);
   window->openFiles({noShot, shotFile("good.dat"), broken});
-  EXPECT_THAT(window->document().recordings->traceSets, SizeIs(1));
+  EXPECT_THAT(writable().recordings->traceSets, SizeIs(1));
   EXPECT_THAT(log(), HasSubstr("ERROR : " + broken.toStdString()));
 }
 
 TEST_F(Loading, refusesPicksOfAnotherSurveyAndKeepsItsOwn) {
   loadShots(2);
-  window->document().ttArray.edit()[0].ttMisurati.edit()[0] = 0.011;
-  window->document().modified = false;
+  writable().ttArray.edit()[0].ttMisurati.edit()[0] = 0.011;
+  window->session().markSaved();
   dialogs.expectBox("Error occured", "Error while loading other.otte.", "3 shots", QMessageBox::Ok);
   window->openFiles({picksFile("other.otte", 3, 12)});
-  EXPECT_DOUBLE_EQ(window->document().ttArray[0].ttMisurati[0], 0.011);
+  EXPECT_DOUBLE_EQ(writable().ttArray[0].ttMisurati[0], 0.011);
 }
 
 TEST_F(Loading, ofPicksAsksBeforeItReplacesUnsavedOnes) {
   loadShots(1);
-  window->document().ttArray.edit()[0].ttMisurati.edit()[0] = 0.011;
+  writable().ttArray.edit()[0].ttMisurati.edit()[0] = 0.011;
   dialogs.expectBox("Talvesk", "The document has been modified",
                     "Do you want to save your changes?", QMessageBox::Cancel);
   window->openFiles({picksFile("picks.otte", 1, 12)});
-  EXPECT_DOUBLE_EQ(window->document().ttArray[0].ttMisurati[0], 0.011);
+  EXPECT_DOUBLE_EQ(writable().ttArray[0].ttMisurati[0], 0.011);
 }
 
 TEST_F(Loading, asksBeforeGridAndResultsGo) {
   loadShots(2);
-  TomoDocument& document = window->document();
+  TomoDocument& document = writable();
   const std::size_t known = document.recordings->traceSets.size();
   testing::putGrid(document, 5.0, 1.0);
   document.result.edit().has_tomographic_info = true;
-  document.modified = false;
+  window->session().markSaved();
   const QString longer = shotFile("longer.dat", 60.0);
   const char* const question = "The survey changes. This will be lost:";
   dialogs.expectBox("Warning", question, "the grid and the results of the inversion",
@@ -240,7 +240,7 @@ TEST_F(Loading, asksBeforeGridAndResultsGo) {
   window->openFiles({longer});
   EXPECT_THAT(document.recordings->traceSets, SizeIs(known));
   EXPECT_TRUE(document.model->grid != nullptr && document.result->has_tomographic_info &&
-              !document.modified);
+              !window->session().modified());
 
   // At a place that is known: the line stays as it is.
   dialogs.expectBox("Warning", question, "the results of the inversion; the grid stays",
@@ -259,15 +259,15 @@ TEST_F(Loading, asksBeforeGridAndResultsGo) {
 
 TEST_F(Loading, ofPicksAsksBeforeGridAndResultsGo) {
   loadShots(2);
-  TomoDocument& document = window->document();
+  TomoDocument& document = writable();
   testing::putGrid(document, 5.0, 1.0);
   document.result.edit().has_tomographic_info = true;
   document.ttArray.edit()[0].ttMisurati.edit()[3] = 0.011;
   document.ttArray.edit()[0].ttCalcolati.edit()[3] = 0.012;
-  document.modified = false;
+  window->session().markSaved();
   dialogs.expectFiles("Save TravelTimeExchange", {QString::fromStdString(home.file("same"))});
   action("actionExport_TravelTimes").trigger();
-  document.modified = false;
+  window->session().markSaved();
   window->openFiles({QString::fromStdString(home.file("same.otte"))});
   EXPECT_TRUE(document.model->grid != nullptr && document.result->has_tomographic_info)
       << "nothing has moved";
@@ -280,12 +280,12 @@ TEST_F(Loading, ofPicksAsksBeforeGridAndResultsGo) {
   ASSERT_TRUE(writeTravelTimes(home.file("moved.otte"), moved).ok());
   const QString file = QString::fromStdString(home.file("moved.otte"));
   for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
-    document.modified = false;
+    window->session().markSaved();
     dialogs.expectBox("Warning", "The survey changes. This will be lost:",
                       "the grid and the results of the inversion", answer);
     window->openFiles({file});
     EXPECT_EQ(document.model->grid == nullptr, answer == QMessageBox::Yes);
-    EXPECT_EQ(document.modified, answer == QMessageBox::Yes);
+    EXPECT_EQ(window->session().modified(), answer == QMessageBox::Yes);
   }
   EXPECT_DOUBLE_EQ(document.ttArray[1].shotPos2d.x, moved.ttArray[1].shotPos2d.x);
 }
@@ -294,34 +294,34 @@ TEST_F(Loading, asksWhetherTimesCountFromTheShot) {
   const QString text = "The records start before the shot, by up to 20 ms.";
   dialogs.expectBox("Recording delay", text, "count times from the shot", QMessageBox::No);
   window->openFiles({shotFile("a.dat", 9.0, -0.02)});
-  EXPECT_EQ(window->document().recordings->traceSets[0][0].samples.size(), 400U);
+  EXPECT_EQ(writable().recordings->traceSets[0][0].samples.size(), 400U);
 
   dialogs.expectBox("Recording delay", text, "count times from the shot", QMessageBox::Yes);
   window->openFiles({shotFile("b.dat", 13.0, -0.02)});
-  EXPECT_EQ(window->document().recordings->traceSets[1][0].samples.size(), 320U);
-  EXPECT_EQ(window->document().recordings->traceSets[0][0].samples.size(), 400U)
+  EXPECT_EQ(writable().recordings->traceSets[1][0].samples.size(), 320U);
+  EXPECT_EQ(writable().recordings->traceSets[0][0].samples.size(), 400U)
       << "what was answered for the first file stands";
 }
 
 TEST_F(Loading, exportedPicksComeBack) {
   loadShots(1);
-  window->document().ttArray.edit()[0].ttMisurati.edit()[5] = 0.0425;
+  writable().ttArray.edit()[0].ttMisurati.edit()[5] = 0.0425;
   dialogs.expectFiles("Save TravelTimeExchange", {QString::fromStdString(home.file("out"))});
   action("actionExport_TravelTimes").trigger();
   ASSERT_FALSE(testing::TestFolder::get(home.file("out.otte")).empty()) << "the suffix is added";
-  window->document().ttArray.edit()[0].ttMisurati.edit()[5] = 0.0;
+  writable().ttArray.edit()[0].ttMisurati.edit()[5] = 0.0;
   dialogs.expectFiles("Import TravelTimes", {QString::fromStdString(home.file("out.otte"))});
   action("actionLoad_TT").trigger();
-  EXPECT_DOUBLE_EQ(window->document().ttArray[0].ttMisurati[5], 0.0425);
+  EXPECT_DOUBLE_EQ(writable().ttArray[0].ttMisurati[5], 0.0425);
 }
 
 TEST_F(Loading, dropsAndNamesPicksThatCannotBe) {
   loadShots(1);
   const std::string path = home.file("late.otte");
   for (const auto& [seconds, why] : {std::pair{4250.0, "above an hour"}, {42.5, "its record of"}}) {
-    window->document().ttArray.edit()[0].ttMisurati.edit()[5] = seconds;
-    ASSERT_TRUE(writeTravelTimes(path, window->document()).ok());
-    window->document().ttArray.edit()[0].ttMisurati.edit()[5] = kUnpicked;
+    writable().ttArray.edit()[0].ttMisurati.edit()[5] = seconds;
+    ASSERT_TRUE(writeTravelTimes(path, writable()).ok());
+    writable().ttArray.edit()[0].ttMisurati.edit()[5] = kUnpicked;
     dialogs.expectFiles("Import TravelTimes", {QString::fromStdString(path)});
     dialogs.expect([why = why](QWidget& widget) {
       auto* box = qobject_cast<QMessageBox*>(&widget);
@@ -332,7 +332,7 @@ TEST_F(Loading, dropsAndNamesPicksThatCannotBe) {
       box->accept();
     });
     action("actionLoad_TT").trigger();
-    EXPECT_EQ(window->document().ttArray[0].ttMisurati[5], kNoTime) << why;
+    EXPECT_EQ(writable().ttArray[0].ttMisurati[5], kNoTime) << why;
   }
 }
 

@@ -27,7 +27,7 @@ class Model : public WindowTest {
     ASSERT_TRUE(writeTravelTimes(home.file("line.otte"), line).ok());
     open();
     window->openFiles({QString::fromStdString(home.file("line.otte"))});
-    ASSERT_EQ(window->document().ttArray.size(), 2U);
+    ASSERT_EQ(writable().ttArray.size(), 2U);
   }
   void answer(const std::function<void(QWidget&)>& fill) {
     dialogs.expect([fill](QWidget& widget) {
@@ -39,7 +39,7 @@ class Model : public WindowTest {
   static Widget& field(QWidget& dialog, const char* name) {
     return *dialog.findChild<Widget*>(QLatin1String(name));
   }
-  const TomoDocument& document() { return window->document(); }
+  const TomoDocument& document() { return writable(); }
 };
 
 TEST_F(Model, gridIsProposedFromTheGeophonesAndItsNodesFromTheOneBefore) {
@@ -74,9 +74,9 @@ TEST_F(Model, gridIsProposedFromTheGeophonesAndItsNodesFromTheOneBefore) {
 
 TEST_F(Model, gridWithoutGeometryAsksForIt) {
   openLine();
-  TomoDocument& line = window->document();
-  for (auto& string : line.line->goephonesStringSet) string.clear();
-  line.modified = false;
+  TomoDocument& line = writable();
+  for (auto& string : line.line.edit().goephonesStringSet) string.clear();
+  window->session().markSaved();
   dialogs.expect([](QWidget& widget) {
     auto& box = dynamic_cast<QMessageBox&>(widget);
     EXPECT_EQ(box.windowTitle().toStdString(), "Warning");
@@ -93,7 +93,7 @@ TEST_F(Model, gridWithoutGeometryAsksForIt) {
   });
   action("actionGrid").trigger();
   EXPECT_EQ(line.model->grid, nullptr);
-  EXPECT_FALSE(line.modified);
+  EXPECT_FALSE(window->session().modified());
 }
 
 TEST_F(Model, commandsWaitForWhatTheyNeed) {

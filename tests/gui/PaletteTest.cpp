@@ -191,7 +191,7 @@ TEST_F(Palettes, areKeptByTheWindowAfterOk) {
 TEST_F(Palettes, areFollowedByTheSectionWhileTheDialogIsOpen) {
   dialog.close();
   open();
-  window->document() = testing::sectionDocument(
+  writable() = testing::sectionDocument(
       6, 20, 0.0, [](std::uint32_t row, std::uint32_t) { return 600.0 + 200.0 * row; });
   const auto shown = [this] { return child<SectionView>("vtk_widget").scene()->range; };
   dialogs.expect([&](QWidget& widget) {
@@ -208,7 +208,7 @@ TEST_F(Palettes, areFollowedByTheSectionWhileTheDialogIsOpen) {
   action("actionPalette").trigger();
   EXPECT_EQ(shown().min, 250.0);
   EXPECT_EQ(shown().max, 3500.0);
-  EXPECT_FALSE(window->document().modified);
+  EXPECT_FALSE(window->session().modified());
 }
 
 }  // namespace

@@ -26,11 +26,11 @@ class Processing : public WindowTest {
 
   int picksOf(std::size_t shot) {
     int picks = 0;
-    for (const double time : window->document().ttArray[shot].ttMisurati) picks += hasPick(time);
+    for (const double time : writable().ttArray[shot].ttMisurati) picks += hasPick(time);
     return picks;
   }
   bool hasCopy(std::size_t shot) {
-    return !window->document().recordings->traceSets[shot].front().filtered.empty();
+    return !writable().recordings->traceSets[shot].front().filtered.empty();
   }
 };
 
@@ -42,7 +42,7 @@ TEST_F(Processing, picksTheShotInViewOrAllWhenAllAreShown) {
   EXPECT_EQ(picksOf(2), 0);
   EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(),
             QString("First breaks found on %1 of 12 traces.").arg(picksOf(1)));
-  const std::vector<double>& times = window->document().ttArray[1].ttMisurati;
+  const std::vector<double>& times = writable().ttArray[1].ttMisurati;
   for (std::size_t i = 6; i < times.size(); ++i) {
     if (!hasPick(times[i])) continue;
     EXPECT_NEAR(times[i], testing::firstBreak(i), 0.002) << i;
@@ -54,7 +54,7 @@ TEST_F(Processing, picksTheShotInViewOrAllWhenAllAreShown) {
 }
 
 TEST_F(Processing, givesPicksByHandBackWhenTheAutopickerIsUndone) {
-  const std::vector<TravelTime>& records = window->document().ttArray;
+  const SharedVector<TravelTime>& records = window->document().ttArray;
   child<editTravelTimesWidget>("showTracesWidget").editPick(1, 3, 0.05);
   action("actionShow_all_traces").trigger();
   action("actionAutoPick").trigger();
@@ -90,7 +90,7 @@ TEST_F(Processing, offersToReviewPicksOnlyWhereThereAreSome) {
   view.setCurrentTrace(8);
   EXPECT_EQ(offered(), std::make_pair(false, false)) << "nothing is picked";
   action("actionAutoPick").trigger();
-  ASSERT_TRUE(hasPick(window->document().ttArray[0].ttMisurati[8]));
+  ASSERT_TRUE(hasPick(writable().ttArray[0].ttMisurati[8]));
   EXPECT_EQ(offered(), std::make_pair(true, true));
   action("actionConfirm_picks").trigger();
   EXPECT_EQ(offered(), std::make_pair(false, true));
@@ -115,7 +115,7 @@ TEST_F(Processing, filtersTheShotInViewAndTurnsItsCopyOver) {
     EXPECT_TRUE(hasCopy(0)) << command;
     EXPECT_FALSE(hasCopy(1)) << command;
     EXPECT_TRUE(shown.isEnabled() && shown.isChecked()) << command;
-    const QString traces = QString::number(window->document().recordings->traceSets[0].size());
+    const QString traces = QString::number(writable().recordings->traceSets[0].size());
     EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage(),
               "Filtered copies made of " + traces + " of " + traces + " traces.");
     action("actionNext_file").trigger();
@@ -154,14 +154,14 @@ TEST_F(Processing, picksRawSamplesWhereThereIsNoFilteredCopy) {
 }
 
 TEST_F(Processing, leavesTracesThatCannotBeFilteredAndSaysSo) {
-  window->document().recordings.edit().traceSets[0][2].sampleInterval = 0.01;
+  writable().recordings.edit().traceSets[0][2].sampleInterval = 0.01;
   dialogs.expect([](QWidget& dialog) {
     auto& box = dynamic_cast<QMessageBox&>(dialog);
     EXPECT_EQ(box.text().toStdString(), "1 trace stays as it was.");
     box.button(QMessageBox::Ok)->click();
   });
   action("actionApply_Hushel").trigger();
-  EXPECT_TRUE(window->document().recordings->traceSets[0][2].filtered.empty());
+  EXPECT_TRUE(writable().recordings->traceSets[0][2].filtered.empty());
   EXPECT_TRUE(hasCopy(0));
 }
 

@@ -11,23 +11,23 @@ const QString kChanged = QStringLiteral(
 TEST_F(Projects, askBeforeTheyReplaceWhatSomebodyElseHasSaved) {
   saveAs(path("line.tvsk"));
   home.put("line.tvsk", "of a colleague");
-  document().modified = true;
+  touch();
   dialogs.expectBox(QStringLiteral("Save Project"), kChanged, QString(), QMessageBox::No);
   trigger("actionSave_Project");
   EXPECT_EQ(TestFolder::get(home.file("line.tvsk")), "of a colleague");
-  EXPECT_TRUE(document().modified);
+  EXPECT_TRUE(window->session().modified());
   dialogs.expectBox(QStringLiteral("Save Project"), kChanged, QString(), QMessageBox::Yes);
   trigger("actionSave_Project");
   EXPECT_NE(TestFolder::get(home.file("line.tvsk")), "of a colleague");
-  document().modified = true;
+  touch();
   trigger("actionSave_Project");  // nobody else has saved since
-  EXPECT_FALSE(document().modified);
+  EXPECT_FALSE(window->session().modified());
 }
 
 TEST_F(Projects, areWrittenAgainWithoutAQuestionWhereSomebodyHasDeletedThem) {
   saveAs(path("line.tvsk"));
   QFile::remove(path("line.tvsk"));
-  document().modified = true;
+  touch();
   trigger("actionSave_Project");
   EXPECT_TRUE(QFile::exists(path("line.tvsk")));
 }
@@ -69,7 +69,7 @@ TEST_F(Projects, areLockedWhileTheyAreOpen) {
   saveAs(path("line.tvsk"));
   EXPECT_TRUE(locked(".line.tvsk.lock"));
   load(path("line.tvsk"));  // its own lock asks nothing
-  document().modified = true;
+  touch();
   trigger("actionSave_Project");
   EXPECT_TRUE(locked(".line.tvsk.lock"));
   saveAs(path("copy.tvsk"));

@@ -1,6 +1,5 @@
 #include "app/RecoveryCopy.h"
 #include "gui/ProjectsTest.h"
-#include "io/ProjectSnapshot.h"
 #include "io/ProjectWriter.h"
 #include "io/projectReader.h"
 #include "model/GroundModel.h"
@@ -33,14 +32,14 @@ TEST_F(Projects, areSavedUnderANameWithTheirSuffixAndThenWithoutAsking) {
   EXPECT_TRUE(window->isWindowModified());
   saveAs(path("line"));
   EXPECT_TRUE(QFile::exists(path("line.tvsk")));
-  EXPECT_FALSE(document().modified);
+  EXPECT_FALSE(window->session().modified());
   EXPECT_EQ(window->windowTitle(), QStringLiteral("Talvesk 2022.0[*] - line.tvsk"));
   EXPECT_FALSE(window->isWindowModified());
-  document().modified = true;
+  touch();
   const std::string before = TestFolder::get(home.file("line.tvsk"));
   document().title = "another";
   trigger("actionSave_Project");
-  EXPECT_FALSE(document().modified);
+  EXPECT_FALSE(window->session().modified());
   EXPECT_NE(TestFolder::get(home.file("line.tvsk")), before);
   EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionSave_Project_triggered"));
 }
@@ -151,7 +150,7 @@ TEST_F(Projects, askBeforeTheyReplaceAnotherFile) {
                     QStringLiteral("Do you want to replace it?"), QMessageBox::No);
   trigger("actionSave_Project_As");
   EXPECT_EQ(TestFolder::get(home.file("other.tvsk")), "precious");
-  EXPECT_TRUE(document().modified);
+  EXPECT_TRUE(window->session().modified());
 }
 
 TEST_F(Projects, needAName) {
@@ -159,12 +158,12 @@ TEST_F(Projects, needAName) {
   dialogs.expectBox(QStringLiteral("Error occured"), QStringLiteral("Empty filename to be saved"),
                     QString(), QMessageBox::Ok);
   trigger("actionSave_Project_As");
-  EXPECT_TRUE(document().modified);
+  EXPECT_TRUE(window->session().modified());
 }
 
 TEST_F(Projects, thatCannotBeSavedAreToldAndStayModified) {
   saveAs(path("line.tvsk"));
-  document().modified = true;
+  touch();
   // Nothing can be put together any more.
   QDir(path("Talvesk_TMP")).removeRecursively();
   dialogs.expectBox(QStringLiteral("Error occured"),
@@ -173,12 +172,12 @@ TEST_F(Projects, thatCannotBeSavedAreToldAndStayModified) {
                         QStringLiteral("\nWARNING: the project has NOT been saved."),
                     QStringLiteral("The file is as it was before."), QMessageBox::Ok);
   trigger("actionSave_Project");
-  EXPECT_TRUE(document().modified);
+  EXPECT_TRUE(window->session().modified());
   EXPECT_TRUE(QFile::exists(path("line.tvsk")));
 }
 
 TEST_F(Projects, thatAreNoneLeaveTheSurveyAsItIs) {
-  document().modified = false;
+  window->session().markSaved();
   home.put("text.tvsk", "no project");
   dialogs.expectFiles(QStringLiteral("Load Project"), {path("text.tvsk")});
   dialogs.expectBox(QStringLiteral("Error occured"),
@@ -207,7 +206,7 @@ TEST_F(Projects, tellOfShotFilesThatCouldNotBeSaved) {
   dialogs.expectBox(QStringLiteral("Warning"), QStringLiteral("The project has been saved."),
                     path("shot2.dat"), QMessageBox::Ok);
   trigger("actionSave_Project_As");
-  EXPECT_FALSE(document().modified);
+  EXPECT_FALSE(window->session().modified());
 }
 
 TEST_F(Projects, areSavedOrNotWhenTheWindowCloses) {
@@ -263,7 +262,7 @@ TEST_F(Projects, doNotChangeInWhichByteOrderShotsAreRead) {
   saveAs(path("line.tvsk"));
   dialogs.expectFiles(QStringLiteral("Open Seismic Trace"), {segy});
   trigger("actionOpen_shot_files");
-  document().modified = false;
+  window->session().markSaved();
   load(path("line.tvsk"));
   ASSERT_EQ(document().recordings->traceSets.size(), 3U);
   dialogs.expectFiles(QStringLiteral("Open Seismic Trace"), {su});
@@ -373,7 +372,7 @@ TEST_F(Crash, doesNotHideThatTheProjectWasSavedByOthersSince) {
                                    "opened or saved here."),
                     QString(), QMessageBox::No);
   trigger("actionSave_Project");
-  EXPECT_TRUE(document().modified);
+  EXPECT_TRUE(window->session().modified());
 }
 
 TEST_F(Crash, isNotWhatHappenedToAnotherWindow) {

@@ -17,7 +17,7 @@ class Projects : public WindowTest {
     document().ttArray.edit()[1].ttMisurati.edit()[2] = 0.017;
   }
 
-  TomoDocument& document() { return window->document(); }
+  TomoDocument& document() { return writable(); }
   QString path(const std::string& name) const { return QString::fromStdString(home.file(name)); }
   void trigger(const char* name) { action(name).trigger(); }
   void saveAs(const QString& typed) {

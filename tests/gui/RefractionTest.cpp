@@ -264,12 +264,12 @@ class RefractionCommand : public WindowTest {
  protected:
   RefractionCommand() {
     open();
-    window->document() = testing::standardDippingLine(testing::twoDippingLayers(), truth);
-    testing::putGrid(window->document(), 30.0, 2.0);
-    window->document().modified = false;
+    writable() = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+    testing::putGrid(writable(), 30.0, 2.0);
+    window->session().markSaved();
     window->showFile(0);
   }
-  ~RefractionCommand() override { window->document().modified = false; }
+  ~RefractionCommand() override { window->session().markSaved(); }
   void answer(QDialogButtonBox::StandardButton button) {
     dialogs.expect([button](QWidget& dialog) {
       dialog.findChild<QPushButton*>(QStringLiteral("proposeButton"))->click();
@@ -284,10 +284,10 @@ class RefractionCommand : public WindowTest {
 TEST_F(RefractionCommand, changesNothingOnCancelAndLaysTheProfileOverTheSectionOnOk) {
   EXPECT_FALSE(action("actionShow_refraction").isEnabled());
   answer(QDialogButtonBox::Cancel);
-  EXPECT_FALSE(window->document().modified);
+  EXPECT_FALSE(window->session().modified());
   EXPECT_FALSE(action("actionShow_refraction").isEnabled());
   answer(QDialogButtonBox::Ok);
-  EXPECT_TRUE(window->document().modified);
+  EXPECT_TRUE(window->session().modified());
   ASSERT_TRUE(action("actionShow_refraction").isEnabled());
   EXPECT_TRUE(action("actionShow_refraction").isChecked());
   action("actionShow_refraction").trigger();
@@ -295,7 +295,7 @@ TEST_F(RefractionCommand, changesNothingOnCancelAndLaysTheProfileOverTheSectionO
 }
 
 TEST_F(RefractionCommand, showsTheProfileBeforeThereIsAGrid) {
-  window->document().model.edit().grid.reset();
+  writable().model.edit().grid.reset();
   window->showFile(0);
   answer(QDialogButtonBox::Ok);
   ASSERT_TRUE(action("actionShow_refraction").isEnabled());
@@ -311,11 +311,9 @@ TEST_F(RefractionCommand, showsTheProfileBeforeThereIsAGrid) {
 TEST_F(RefractionCommand, marksAProfileWhosePicksHaveChangedSince) {
   answer(QDialogButtonBox::Ok);
   const auto name = [this] { return child<SectionView>("vtk_widget").scene()->refractors[0].name; };
-  double& pick = window->document().ttArray[5].ttMisurati[20];
-  const double before = pick;
+  const double before = window->document().ttArray[5].ttMisurati[20];
   const auto edit = [&](double time) {
-    pick = time;
-    emit child<editTravelTimesWidget>("showTracesWidget").pick_edited();
+    child<editTravelTimesWidget>("showTracesWidget").editPick(5, 20, time);
   };
   EXPECT_EQ(name(), "Refractor 1");
   edit(before + 0.001);
@@ -347,12 +345,12 @@ TEST_F(RefractionCommand, leavesTheDocumentAloneOnOkWithoutAChange) {
     dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
   });
   action("actionRefraction").trigger();
-  EXPECT_FALSE(window->document().modified);
+  EXPECT_FALSE(window->session().modified());
 }
 
 TEST_F(RefractionCommand, keepsPhantomArrivalsThatWereMadeWithoutAProfile) {
   const auto run = [this](const char* button, bool shiftsBefore) {
-    window->document().modified = false;
+    window->session().markSaved();
     dialogs.expect([button, shiftsBefore](QWidget& dialog) {
       EXPECT_EQ(dialog.findChild<QTableWidget*>(QStringLiteral("shiftTable"))->rowCount() > 0,
                 shiftsBefore);
@@ -360,7 +358,7 @@ TEST_F(RefractionCommand, keepsPhantomArrivalsThatWereMadeWithoutAProfile) {
       dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
     });
     action("actionRefraction").trigger();
-    return window->document().modified;
+    return window->session().modified();
   };
   EXPECT_TRUE(run("proposeButton", false));
   EXPECT_TRUE(run("pushAutoPhantButton", false));
@@ -370,18 +368,18 @@ TEST_F(RefractionCommand, keepsPhantomArrivalsThatWereMadeWithoutAProfile) {
 TEST_F(RefractionCommand, asksBeforeReplacedPicksTakeTheProfileAndOtherShotsTheMarks) {
   answer(QDialogButtonBox::Ok);
   TomoDocument moved;
-  moved.line.edit().goephonesStringSet = window->document().line->goephonesStringSet;
-  moved.ttArray.edit() = window->document().ttArray;
+  moved.line.edit().goephonesStringSet = writable().line->goephonesStringSet;
+  moved.ttArray.edit() = writable().ttArray;
   ASSERT_TRUE(writeTravelTimes(home.file("same.otte"), moved).ok());
   moved.ttArray.edit().front().shotPos2d.x -= 7.0;
   ASSERT_TRUE(writeTravelTimes(home.file("moved.otte"), moved).ok());
   for (const char* name : {"same.otte", "moved.otte"}) {
-    window->document().modified = false;
+    window->session().markSaved();
     dialogs.expectBox("Warning",
                       "The survey changes. This will be lost:", "the refraction interpretation",
                       QMessageBox::Yes);
     window->openFiles({QString::fromStdString(home.file(name))});
-    testing::putGrid(window->document(), 30.0, 2.0);
+    testing::putGrid(writable(), 30.0, 2.0);
     window->showFile(0);
     EXPECT_FALSE(action("actionShow_refraction").isEnabled()) << name;
     dialogs.expect([name](QWidget& dialog) {
@@ -395,7 +393,7 @@ TEST_F(RefractionCommand, asksBeforeReplacedPicksTakeTheProfileAndOtherShotsTheM
 }
 
 TEST_F(RefractionCommand, asksAboutIncompletePicks) {
-  for (TravelTime& record : window->document().ttArray) {
+  for (TravelTime& record : writable().ttArray.edit()) {
     for (std::size_t i = 0; i < 40; ++i) record.ttMisurati.edit()[i] = kUnpicked;
   }
   dialogs.expectBox("Warning",

@@ -41,10 +41,11 @@ class Reports : public WindowTest {
   Reports() { open(); }
 
   void takeSection() {
-    TomoDocument& document = window->document();
+    TomoDocument& document = writable();
     document = testing::sectionDocument(
         6, 20, 0.5, [](std::uint32_t row, std::uint32_t) { return 400.0 + 300.0 * row; });
     document.title = "Hill 7/b";
+    showWritten();
     window->showFile(0);
     QMetaObject::invokeMethod(window.get(), "on_actionGrid_view_triggered");
   }
@@ -106,7 +107,7 @@ TEST_F(Reports, areShownBeforeTheyAreWrittenAndRememberWhomTheyAreFor) {
   EXPECT_THAT(TestFolder::get(home.file("report.pdf")), StartsWith("%PDF-"));
   EXPECT_THAT(log(), HasSubstr("Talvesk_MainWindows::on_actionPDF_triggered"));
 
-  window->document().modified = false;
+  window->session().markSaved();
   open();
   takeSection();
   expectDialog([](QWidget& dialog) {

@@ -40,10 +40,11 @@ class Section : public WindowTest {
   void openWith(TomoDocument document) {
     open();
     child<QTabWidget>("tabWidget").setCurrentIndex(2);
-    window->document() = std::move(document);
+    writable() = std::move(document);
     refresh();
   }
   void refresh() {
+    showWritten();
     ASSERT_TRUE(QMetaObject::invokeMethod(window.get(), "on_actionGrid_view_triggered"));
     QApplication::processEvents();
   }
@@ -92,7 +93,7 @@ TEST_F(Section, withoutOneThePageSaysWhatToDoNext) {
   EXPECT_THAT(text.text().toStdString(), ::testing::HasSubstr("Load shot files"));
   EXPECT_FALSE(action("actionSmooth_view").isEnabled());
   EXPECT_FALSE(action("actionReset_View").isEnabled());
-  window->document().ttArray.edit().emplace_back();
+  writable().ttArray.edit().emplace_back();
   refresh();
   EXPECT_THAT(text.text().toStdString(), ::testing::HasSubstr("Run tomography inversion"));
 }
@@ -135,7 +136,7 @@ TEST_F(Section, aNewGridHasNoInformationDensityToShow) {
   document.result.edit().info_density.assign(120, 3.0);
   openWith(std::move(document));
   action("actionShow_Information_Density_Layer").trigger();
-  window->document().result.edit().info_density.assign(120, -1.0);
+  writable().result.edit().info_density.assign(120, -1.0);
   refresh();
   EXPECT_EQ(view().scene()->quantity, SectionQuantity::kVelocity);
   EXPECT_FALSE(action("actionShow_Information_Density_Layer").isEnabled());
@@ -218,7 +219,7 @@ TEST_F(Section, whatIsSeenStaysUntilAnotherGridComes) {
   const double zoomed = view().camera().metresPerPixel;
   action("actionSmooth_view").trigger();
   EXPECT_EQ(view().camera().metresPerPixel, zoomed);
-  window->document() = sectionDocument(20, 90, 1.5, patchwork);
+  writable() = sectionDocument(20, 90, 1.5, patchwork);
   refresh();
   EXPECT_GT(view().camera().metresPerPixel, zoomed);
   EXPECT_TRUE(QRectF(view().plotRect()).contains(view().pointOf({189.0, 80.0})));
@@ -293,15 +294,15 @@ TEST_F(Section, onTheScreenAndInAFigureHasTheSameColorsAndHoles) {
     settings.quantity = fact.quantity;
     const ColorPalette palette = *ColorPaletteList().find("Dark rainbow");
     auto scene = std::make_shared<SectionScene>();
-    ASSERT_TRUE(buildSectionScene(window->document(), settings, palette, {}, *scene).ok());
+    ASSERT_TRUE(buildSectionScene(writable(), settings, palette, {}, *scene).ok());
     const std::vector<double> levels = scene->bandLevels();
     view().showScene(scene, palette, settings);
     const QImage screen = seen();
-    const Figure figure(window->document(), settings, palette);
+    const Figure figure(writable(), settings, palette);
     int compared = 0;
     for (std::uint32_t cell = 40; cell < 480; ++cell) {  // markers stand in the first row
-      const Point2D centre = window->document().model->grid->cellCentre(cell);
-      const Point2D at{centre.x - window->document().model->xOffset, -centre.z};
+      const Point2D centre = writable().model->grid->cellCentre(cell);
+      const Point2D at{centre.x - writable().model->xOffset, -centre.z};
       const auto nearEdge = [&](double level) {
         return std::abs(level - scene->cellValues[cell]) < 80.0;
       };
@@ -339,10 +340,10 @@ TEST_F(Section, onTheScreenAndInAFigureHasTheSameContours) {
   const QRgb color = qRgb(255, 0, 255);
   const ColorPalette palette = *ColorPaletteList().find("White to Black");
   auto scene = std::make_shared<SectionScene>();
-  ASSERT_TRUE(buildSectionScene(window->document(), settings, palette, {}, *scene).ok());
+  ASSERT_TRUE(buildSectionScene(writable(), settings, palette, {}, *scene).ok());
   view().showScene(scene, palette, settings);
   const QImage screen = seen();
-  const Figure figure(window->document(), settings, palette);
+  const Figure figure(writable(), settings, palette);
   std::size_t compared = 0;
   for (const ContourLine& contour : scene->contours) {
     for (std::size_t i = 0; i < contour.points.size(); i += 5) {
@@ -388,7 +389,7 @@ TEST_F(Section, aPictureOfAnySizeShowsTheWholeSection) {
 TEST_F(Section, oddSectionsAreDrawnOrExplained) {
   openWith(sectionDocument(12, 40, 0.0, patchwork));
   const auto constant = [](std::uint32_t, std::uint32_t) { return 800.0; };
-  window->document() = sectionDocument(5, 10, 0.0, constant);
+  writable() = sectionDocument(5, 10, 0.0, constant);
   refresh();
   EXPECT_FALSE(view().isEmpty());
   EXPECT_FALSE(seen().isNull());
@@ -398,16 +399,16 @@ TEST_F(Section, oddSectionsAreDrawnOrExplained) {
   }
   action("actionLaplacian_Gradient").trigger();
 
-  window->document() = sectionDocument(5, 10, 0.0, patchwork);
+  writable() = sectionDocument(5, 10, 0.0, patchwork);
   for (std::uint32_t cell = 0; cell < 50; ++cell)
-    window->document().model.edit().editGrid().setDraw(cell, cell == 7);
+    writable().model.edit().editGrid().setDraw(cell, cell == 7);
   for (const char* name : {"actionGrid_view", "actionSmooth_view", "actionGrid_view"}) {
     action(name).trigger();
     EXPECT_FALSE(view().isEmpty());
     EXPECT_FALSE(seen().isNull());
   }
 
-  window->document() = sectionDocument(1, 1, 0.0, constant);  // one cell has no gradient
+  writable() = sectionDocument(1, 1, 0.0, constant);  // one cell has no gradient
   refresh();
   EXPECT_FALSE(seen().isNull());
   action("actionVertical_Gradient").trigger();
@@ -416,7 +417,7 @@ TEST_F(Section, oddSectionsAreDrawnOrExplained) {
   action("actionVertical_Gradient").trigger();
   EXPECT_FALSE(view().isEmpty());
 
-  window->document() = sectionDocument(0, 10, 0.0, constant);
+  writable() = sectionDocument(0, 10, 0.0, constant);
   refresh();
   EXPECT_TRUE(view().isEmpty());
   EXPECT_THAT(child<QLabel>("sectionEmptyLabel").text().toStdString(),

@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QUndoStack>
 
 namespace talvesk {
 namespace {
@@ -26,13 +25,13 @@ class Untouched : public WindowTest {
   Untouched() {
     open();
     loadShots(2);
-    TomoDocument& document = window->document();
+    TomoDocument& document = writable();
     document.title = "A line at 12.5 m";
     // Positions that no field shows with all digits.
     document.line.edit().goephonesStringSet[0][3] = {16.0 + 1.0 / 3.0, 100.123456789};
     document.ttArray.edit()[1].shotPos2d = {13.0 + 1.0 / 7.0, 99.5};
-    for (TravelTime& record : document.ttArray) {
-      for (double& time : record.ttMisurati) time = 0.01;
+    for (TravelTime& record : document.ttArray.edit()) {
+      for (double& time : record.ttMisurati.edit()) time = 0.01;
     }
     document.map.edit().geoCoord = {32632, 500000.123456789, 500022.0, 5000000.1, 5000000.0};
     document.map.edit().geoCoord_isSet = true;
@@ -42,7 +41,7 @@ class Untouched : public WindowTest {
     action("actionShow_Contour_Lines").trigger();  // the first time proposes some
     document.result.edit().has_tomographic_info = true;
     document.result.edit().RMSE_tomography = 0.02;
-    document.modified = false;
+    window->session().markSaved();
     window->showFile(0);
   }
 
@@ -64,10 +63,9 @@ class Untouched : public WindowTest {
 };
 
 TEST_F(Untouched, dialogsLeaveTheSurveyAsItIs) {
-  const TomoDocument& document = window->document();
+  const TomoDocument& document = writable();
   const std::vector<double> slownesses = document.model->grid->slownesses();
-  const QUndoStack& edits = *child<editTravelTimesWidget>("showTracesWidget").undoStack();
-  const int steps = edits.count();
+  const std::size_t steps = window->session().steps();
   for (const char* command :
        {"actionGeometry", "actionSet_title", "actionSettings", "actionShow_Contour_Lines",
         "actionPalette", "actionSet_geography_coordinates", "actionFilter", "actionRefraction"}) {
@@ -75,9 +73,9 @@ TEST_F(Untouched, dialogsLeaveTheSurveyAsItIs) {
     answer();
     action(command).trigger();
     EXPECT_TRUE(dialogs.finished()) << command;
-    EXPECT_FALSE(document.modified) << command;
+    EXPECT_FALSE(window->session().modified()) << command;
     EXPECT_TRUE(document.result->has_tomographic_info) << command;
-    EXPECT_EQ(edits.count(), steps) << command;
+    EXPECT_EQ(window->session().steps(), steps) << command;
   }
   EXPECT_EQ(document.model->grid->slownesses(), slownesses);
   EXPECT_EQ(document.line->goephonesStringSet[0][3].z, 100.123456789);
@@ -85,37 +83,38 @@ TEST_F(Untouched, dialogsLeaveTheSurveyAsItIs) {
 }
 
 TEST_F(Untouched, layersGoIntoTheGridAgainOnlyWhenTheUserSaysSo) {
-  TomoDocument& document = window->document();
+  TomoDocument& document = writable();
   answer();
   expectLayersAgain(QMessageBox::No);
   action("actionDefine_model_velocity").trigger();
-  EXPECT_TRUE(document.result->has_tomographic_info && !document.modified);
+  EXPECT_TRUE(document.result->has_tomographic_info && !window->session().modified());
 
   answer();
   expectLayersAgain(QMessageBox::Yes);
   action("actionDefine_model_velocity").trigger();
   EXPECT_FALSE(document.result->has_tomographic_info);
-  EXPECT_TRUE(document.modified);
+  EXPECT_TRUE(window->session().modified());
 
-  document.modified = false;
+  window->session().markSaved();
   answer();
   action("actionDefine_model_velocity").trigger();
-  EXPECT_FALSE(document.modified) << "the grid has these layers: there is nothing to ask";
+  EXPECT_FALSE(window->session().modified())
+      << "the grid has these layers: there is nothing to ask";
 }
 
 TEST_F(Untouched, gridIsBuiltAgainOnlyWhenTheUserSaysSo) {
-  TomoDocument& document = window->document();
+  TomoDocument& document = writable();
   answer();
   action("actionGrid").trigger();  // now it has what the dialog proposes
   const double slowness = 1.0 / 777.0;
   document.model.edit().editGrid().setSlowness(0, slowness);
   for (const auto again : {QMessageBox::No, QMessageBox::Yes}) {
-    document.modified = false;
+    window->session().markSaved();
     answer();
     dialogs.expectBox("Warning", "The grid has these cells already.", "build it anew", again);
     action("actionGrid").trigger();
     EXPECT_EQ(document.model->grid->slowness(0) == slowness, again == QMessageBox::No);
-    EXPECT_EQ(document.modified, again == QMessageBox::Yes);
+    EXPECT_EQ(window->session().modified(), again == QMessageBox::Yes);
   }
 }
 
@@ -133,10 +132,10 @@ TEST_F(Untouched, isNoLongerWhatIsChanged) {
                   dialog.findChild<QLineEdit*>("northFstGeoph")->setText("5000000.2");
                 }}};
   for (const auto& each : cases) {
-    window->document().modified = false;
+    window->session().markSaved();
     answer(each.change);
     action(each.command).trigger();
-    EXPECT_TRUE(window->document().modified) << each.command;
+    EXPECT_TRUE(window->session().modified()) << each.command;
   }
 }
 

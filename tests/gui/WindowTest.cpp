@@ -17,7 +17,7 @@ WindowTest::WindowTest() {
 }
 
 WindowTest::~WindowTest() {
-  if (window) window->document().modified = false;
+  if (window) window->session().markSaved();
 }
 
 void WindowTest::writeSettings(const std::string& language) {
@@ -29,7 +29,7 @@ void WindowTest::writeSettings(const std::string& language) {
 
 void WindowTest::open() {
   if (window) {
-    window->document().modified = false;
+    window->session().markSaved();
     window->close();
   }
   window.reset();
@@ -37,6 +37,24 @@ void WindowTest::open() {
   window->show();
   QApplication::setActiveWindow(window.get());
   EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+}
+
+TomoDocument& WindowTest::writable() {
+  TomoDocument* document = nullptr;
+  window->session().amend([&document](Survey& survey) { document = &survey.document; });
+  return *document;
+}
+
+void WindowTest::showWritten() {
+  window->session().open(window->session().survey(), !window->session().modified());
+}
+
+void WindowTest::touch() {
+  const Status status = window->session().apply(Edit::kMapPosition, [](Survey& survey) {
+    survey.document.map.edit();
+    return Status();
+  });
+  EXPECT_TRUE(status.ok()) << status.message();
 }
 
 std::string WindowTest::log() const {

@@ -23,6 +23,10 @@ class WindowTest : public ::testing::Test {
   void open();
   void writeSettings(const std::string& language);
   std::string log() const;  ///< what the log file says
+  /// The document, for what a test wants to be there without anybody having edited it.
+  TomoDocument& writable();
+  void touch();        ///< an edit that has to be saved
+  void showWritten();  ///< as if another survey had been opened
 
   QAction& action(const char* name);
   template <typename Widget>

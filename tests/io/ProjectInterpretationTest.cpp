@@ -37,10 +37,10 @@ processingData profile() {
 }
 
 TEST_F(ProjectTest, keepsWhatIsNotKnownOfAProfileWithoutWordsForIt) {
-  project.interpretation.refractData = profile();
+  project.interpretation.edit().refractData = profile();
   ASSERT_EQ(save(), 0);
-  EXPECT_EQ(project.interpretation.refractData.cData[0].depth[1], 3.1);
-  EXPECT_TRUE(std::isnan(project.interpretation.refractData.v1)) << "the survey is left alone";
+  EXPECT_EQ(project.interpretation->refractData.cData[0].depth[1], 3.1);
+  EXPECT_TRUE(std::isnan(project.interpretation->refractData.v1)) << "the survey is left alone";
   const std::string xml = entriesOf(archive()).at("refraction.xml");
   for (const char* word : {"nan", "inf"}) EXPECT_THAT(xml, Not(HasSubstr(word)));
   EXPECT_THAT(xml, HasSubstr("<v1>-99</v1>"));
@@ -48,7 +48,7 @@ TEST_F(ProjectTest, keepsWhatIsNotKnownOfAProfileWithoutWordsForIt) {
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
   EXPECT_THAT(reader.warnings(), IsEmpty()) << "nothing is lost";
-  const processingData& results = back.interpretation.refractData;
+  const processingData& results = back.interpretation->refractData;
   EXPECT_THAT(results.v1, IsNan());
   EXPECT_THAT(results.v2, ElementsAre(IsNan(), 1510, 1520));
   EXPECT_THAT(results.cData[0].velocity, ElementsAre(IsNan(), 1510, 1520));
@@ -58,7 +58,7 @@ TEST_F(ProjectTest, keepsWhatIsNotKnownOfAProfileWithoutWordsForIt) {
 }
 
 TEST_F(ProjectTest, losesVelocitiesAndDepthsThatNoGroundHasWithAWord) {
-  project.interpretation.refractData = profile();
+  project.interpretation.edit().refractData = profile();
   ASSERT_EQ(save(), 0);
   auto entries = entriesOf(archive());
   std::string& xml = entries["refraction.xml"];
@@ -69,29 +69,29 @@ TEST_F(ProjectTest, losesVelocitiesAndDepthsThatNoGroundHasWithAWord) {
   ASSERT_EQ(load(pack("old.tvsk", entries), back), 0) << reader.message();
   ASSERT_THAT(reader.repairs(), SizeIs(1));
   EXPECT_THAT(reader.repairs()[0], HasSubstr("refraction.xml: 2 velocities and depths"));
-  const processingData& results = back.interpretation.refractData;
+  const processingData& results = back.interpretation->refractData;
   EXPECT_THAT(results.cData[0].velocity, ElementsAre(IsNan(), 1510, IsNan()));
   EXPECT_THAT(results.cData[0].depth, ElementsAre(IsNan(), IsNan(), IsNan()));
   EXPECT_THAT(results.v1, IsNan());
 }
 
 TEST_F(ProjectTest, knowsAfterLoadingWhetherPicksChangedSinceTheProfile) {
-  project.interpretation.refractData = profile();
-  project.interpretation.refractData.picks = fingerprintOf(shotArrivals(project.document));
+  project.interpretation.edit().refractData = profile();
+  project.interpretation.edit().refractData.picks = fingerprintOf(shotArrivals(project.document));
   ASSERT_EQ(save(), 0);
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
-  EXPECT_FALSE(picksChangedSince(back.document, back.interpretation.refractData));
+  EXPECT_FALSE(picksChangedSince(back.document, back.interpretation->refractData));
 
   project.document.ttArray.edit()[0].ttMisurati.edit()[2] += 1e-6;
   ASSERT_EQ(save(), 0);
   ASSERT_EQ(load(archive(), back), 0) << reader.message();
-  EXPECT_TRUE(picksChangedSince(back.document, back.interpretation.refractData));
+  EXPECT_TRUE(picksChangedSince(back.document, back.interpretation->refractData));
 
   auto entries = entriesOf(archive());
   entries["refraction.xml"] = without(entries["refraction.xml"], "picks");
   ASSERT_EQ(load(pack("old.tvsk", entries), back), 0) << reader.message();
-  EXPECT_FALSE(picksChangedSince(back.document, back.interpretation.refractData))
+  EXPECT_FALSE(picksChangedSince(back.document, back.interpretation->refractData))
       << "an earlier version did not keep them";
 }
 

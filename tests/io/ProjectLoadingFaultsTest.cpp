@@ -23,7 +23,8 @@ class LoadingFaults : public ProjectTest {
  protected:
   LoadingFaults() {
     putGrid(project.document, 6, 2);
-    project.interpretation.ttLayer.push_back({0, {1, 1, 1, 1, 1, 1}, {0, 0, 0, 0, 0, 0}, true});
+    project.interpretation.edit().ttLayer.push_back(
+        {0, {1, 1, 1, 1, 1, 1}, {0, 0, 0, 0, 0, 0}, true});
     EXPECT_EQ(save(), 0);
     entries = entriesOf(archive());
     open.document.title = "open";
@@ -281,7 +282,7 @@ TEST_F(LoadingFaults, areNoneOfAPaletteIndexOrSettingsThatDoNotExist) {
       with(entries["tomodoc.xml"], "<RMSE_tomography>-1", "<RMSE_tomography>nan");
   LoadedProject back;
   ASSERT_EQ(load(pack("odd.tvsk", entries), back), 0) << reader.message();
-  EXPECT_EQ(back.palettes.currentIndex(), 0U);
+  EXPECT_EQ(back.palettes->currentIndex(), 0U);
   EXPECT_EQ(back.section.quantity, SectionQuantity::kVelocity);
   EXPECT_EQ(back.section.verticalExaggeration, 1.0);
   EXPECT_EQ(back.section.contours.numberOfValues, 1);
@@ -294,7 +295,7 @@ TEST_F(LoadingFaults, areNoneOfOneVelocityPerRefractor) {
   {
     LoadedProject back;
     ASSERT_EQ(load(pack("plain.tvsk", entries), back), 0) << reader.message();
-    EXPECT_THAT(back.interpretation.refractData.v2, ElementsAre(1500.5));
+    EXPECT_THAT(back.interpretation->refractData.v2, ElementsAre(1500.5));
   }
   entries["refraction.xml"] = with(entries["refraction.xml"], "1500.5", "fast");
   expectRefused(pack("odd.tvsk", entries));

@@ -25,8 +25,9 @@ class Repairs : public ProjectTest {
     refractor.elevation = {100, 101};
     refractor.depth = {3.25, std::nan("")};  // not known at the second receiver
     refractor.velocity = {1750, 1800};
-    project.interpretation.refractData.cData.push_back(refractor);
-    project.interpretation.ttLayer.push_back({0, {1, 1, 1, 1, 1, 1}, {0, 0.375, 0, 0, 0, 0}, true});
+    project.interpretation.edit().refractData.cData.push_back(refractor);
+    project.interpretation.edit().ttLayer.push_back(
+        {0, {1, 1, 1, 1, 1, 1}, {0, 0.375, 0, 0, 0, 0}, true});
     EXPECT_EQ(save(), 0);
     entries = entriesOf(archive());
   }
@@ -46,8 +47,8 @@ TEST_F(Repairs, areNoneOfASoundProject) {
   LoadedProject back;
   ASSERT_EQ(load(archive(), back), 0);
   EXPECT_THAT(reader.repairs(), IsEmpty());
-  EXPECT_EQ(back.interpretation.refractData.cData.size(), 1U);
-  EXPECT_EQ(back.interpretation.ttLayer[0].trasla[1], 0.375);
+  EXPECT_EQ(back.interpretation->refractData.cData.size(), 1U);
+  EXPECT_EQ(back.interpretation->ttLayer[0].trasla[1], 0.375);
 }
 
 struct Repair {
@@ -96,8 +97,8 @@ TEST_F(Repairs, holdTheExaggerationWithinWhatCanBeDrawn) {
 TEST_F(Repairs, leaveOutAPaletteThatCannotBeAndKeepTheChosenOne) {
   entries["palettes.xml"] = with(entries["palettes.xml"], "<curr_palette>0", "<curr_palette>2");
   const LoadedProject back = loaded("palettes.xml", "<max_db>3500<", "<max_db>1e308<");
-  EXPECT_EQ(back.palettes.size(), 7U);
-  EXPECT_EQ(back.palettes.current().name, "Black to White");
+  EXPECT_EQ(back.palettes->size(), 7U);
+  EXPECT_EQ(back.palettes->current().name, "Black to White");
 }
 
 TEST_F(Repairs, ofATitleCutItBetweenTwoCharacters) {

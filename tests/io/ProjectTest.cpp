@@ -1,4 +1,3 @@
-#include "io/ProjectSnapshot.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
@@ -34,7 +33,7 @@ void invert(TomoDocument& document) {
 }
 
 void interpret(LoadedProject& project) {
-  auto& records = project.interpretation;
+  auto& records = project.interpretation.edit();
   for (std::uint32_t shot = 0; shot < 3; ++shot) {
     records.ttLayer.push_back({shot, {1, 1, 2, 2, 3, 0}, {0, 0, 0.001, 0, -0.002, 0}, shot != 1});
   }
@@ -74,7 +73,7 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
   document.model.edit().layers = {{0, 300, 5, 900}};
   invert(document);
   interpret(project);
-  project.palettes.select(3);
+  project.palettes.edit().select(3);
   project.section.quantity = SectionQuantity::kLaplacian;
   project.section.contours.customValues = {400, 800};
   project.section.contours.gradientValues = {-1.5, 20};
@@ -110,11 +109,11 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
   ASSERT_THAT(back.document.result->lastInversion->history, SizeIs(2));
   EXPECT_EQ(back.document.result->lastInversion->history[1].rmse,
             document.result->lastInversion->history[1].rmse);
-  EXPECT_EQ(back.interpretation.ttLayer[1].layer, project.interpretation.ttLayer[1].layer);
-  EXPECT_FALSE(back.interpretation.ttLayer[1].enabled);
-  EXPECT_EQ(back.interpretation.refractData.cData[0].chosenXY, 2.0);
-  EXPECT_EQ(back.interpretation.phnt_A[0].enabled, project.interpretation.phnt_A[0].enabled);
-  EXPECT_EQ(back.palettes.currentIndex(), 3U);
+  EXPECT_EQ(back.interpretation->ttLayer[1].layer, project.interpretation->ttLayer[1].layer);
+  EXPECT_FALSE(back.interpretation->ttLayer[1].enabled);
+  EXPECT_EQ(back.interpretation->refractData.cData[0].chosenXY, 2.0);
+  EXPECT_EQ(back.interpretation->phnt_A[0].enabled, project.interpretation->phnt_A[0].enabled);
+  EXPECT_EQ(back.palettes->currentIndex(), 3U);
   EXPECT_EQ(back.section.quantity, SectionQuantity::kLaplacian);
   EXPECT_EQ(back.section.contours, project.section.contours);
 }
@@ -144,14 +143,11 @@ TEST_F(ProjectTest, isTheSameByteForByteWhenItIsSavedFromASnapshot) {
   invert(project.document);
   interpret(project);
   ASSERT_EQ(save(), 0);
-  for (const std::size_t piece : {1, 1000, 1 << 20}) {
-    ProjectSnapshot snapshot;
-    while (!snapshot.copyTraces(project.document, piece)) continue;
-    const LoadedProject copy = snapshot.complete(project.document, project.interpretation,
-                                                 project.palettes, project.section, nullptr);
-    ASSERT_EQ(save(folder.file("copy.tvsk"), copy), 0);
-    EXPECT_EQ(entriesOf(folder.file("copy.tvsk")), entriesOf(archive())) << piece;
-  }
+  const LoadedProject copy = project;
+  project.document.recordings.edit().traceSets.clear();
+  project.document.title = "edited meanwhile";
+  ASSERT_EQ(save(folder.file("copy.tvsk"), copy), 0);
+  EXPECT_EQ(entriesOf(folder.file("copy.tvsk")), entriesOf(archive()));
 }
 
 TEST_F(ProjectTest, tellsTheSameFiguresOfItsSectionBeforeAndAfter) {

@@ -1,5 +1,6 @@
 #include "WidgetDriver.h"
 #include "model/Recordings.h"
+#include "session/PickEdits.h"
 
 #include <QSignalSpy>
 #include <limits>
@@ -15,8 +16,20 @@ using testing::kInterval;
 
 class Picking : public ::testing::Test {
  protected:
-  TomoDocument mDocument = testing::testShots(12, 400, {-1.0, 25.0});
-  testing::WidgetDriver mUser{mDocument};
+  /// As an autopicker does.
+  void autoPick(const std::vector<int>& shots, void (*find)(std::vector<double>&)) {
+    const Status status = mUser.session.apply(Edit::kAutoPick, [&](Survey& survey) {
+      for (const int shot : shots) {
+        find(survey.document.ttArray.edit()[static_cast<std::size_t>(shot)].ttMisurati.edit());
+        markPicksAutomatic(survey.document, shot);
+      }
+      return Status();
+    });
+    ASSERT_TRUE(status.ok()) << status.message();
+  }
+
+  testing::WidgetDriver mUser{testing::testShots(12, 400, {-1.0, 25.0})};
+  TomoDocument& mDocument = mUser.writable();
   editTravelTimesWidget& mWidget = mUser.widget;
   QSignalSpy mAdded{&mWidget, &editTravelTimesWidget::pick_added};
   QSignalSpy mEdited{&mWidget, &editTravelTimesWidget::pick_edited};
@@ -42,7 +55,7 @@ TEST_F(Picking, aClickAtTheVeryTopIsStillAPick) {
 TEST_F(Picking, clicksBesideTheTracesDoNothing) {
   mUser.click({2, 300});
   mUser.click({400, 598});
-  EXPECT_FALSE(mWidget.undoStack()->canUndo());
+  EXPECT_FALSE(mUser.session.canUndo());
 }
 
 TEST_F(Picking, aDragMovesThePickOfItsTraceOnly) {
@@ -52,7 +65,7 @@ TEST_F(Picking, aDragMovesThePickOfItsTraceOnly) {
   EXPECT_EQ(mUser.pick(7), kUnpicked);
   EXPECT_EQ(mAdded.count(), 0);
   EXPECT_EQ(mEdited.count(), 1) << "one edit, when the button is up";
-  mWidget.undoStack()->undo();
+  mUser.session.undo();
   EXPECT_DOUBLE_EQ(mUser.pick(4), 0.05);
 }
 
@@ -63,8 +76,8 @@ TEST_F(Picking, aDragAcrossTracesDrawsARunAndIsOneEdit) {
   }
   EXPECT_EQ(mUser.pick(1), kUnpicked);
   EXPECT_EQ(mUser.pick(9), kUnpicked);
-  EXPECT_EQ(mWidget.undoStack()->count(), 1);
-  mWidget.undoStack()->undo();
+  EXPECT_EQ(mUser.session.steps(), 1U);
+  mUser.session.undo();
   EXPECT_EQ(mUser.pick(5), kUnpicked);
 }
 
@@ -81,7 +94,7 @@ TEST_F(Picking, escapeGivesADragUp) {
   mUser.move(mUser.at(6, 0.04));
   mUser.key(Qt::Key_Escape);
   mUser.release(mUser.at(6, 0.04));
-  EXPECT_FALSE(mWidget.undoStack()->canUndo());
+  EXPECT_FALSE(mUser.session.canUndo());
   EXPECT_EQ(mUser.pick(2), kUnpicked);
 }
 
@@ -95,9 +108,9 @@ TEST_F(Picking, rightClickAndDeleteRemove) {
   mUser.key(Qt::Key_Delete);
   EXPECT_EQ(mUser.pick(10), kNoTime);
   EXPECT_EQ(mUser.pick(9), 0.05);
-  EXPECT_EQ(mWidget.undoStack()->count(), 3);
+  EXPECT_EQ(mUser.session.steps(), 3U);
   mUser.click(mUser.at(3, 0.15), Qt::RightButton);
-  EXPECT_EQ(mWidget.undoStack()->count(), 3) << "there was nothing left to remove";
+  EXPECT_EQ(mUser.session.steps(), 3U) << "there was nothing left to remove";
 }
 
 TEST_F(Picking, arrowKeysNudgeByASampleTenOrAMillisecond) {
@@ -153,10 +166,10 @@ TEST_F(Picking, snapsToTheOnsetUnlessAltIsHeld) {
 
 TEST_F(Picking, automaticPicksOfARangeAreConfirmedOrRemovedAtOnce) {
   mUser.setPick(1, 0.02);
-  mWidget.undoStack()->clear();
+  mUser.forgetSteps();
   for (int trace = 2; trace <= 8; ++trace) mUser.setPick(trace, 0.05);
   mUser.click(mUser.at(0, 0.1));
-  mWidget.autoPicked({{0, mDocument.ttArray[0].ttMisurati}});
+  autoPick({0}, [](std::vector<double>&) {});
   mUser.dragTo(mUser.at(4, 0.1), mUser.at(6, 0.1), Qt::LeftButton, Qt::ShiftModifier);
   EXPECT_EQ(mWidget.selectedFirst(), 4);
   EXPECT_EQ(mWidget.selectedLast(), 6);
@@ -166,34 +179,27 @@ TEST_F(Picking, automaticPicksOfARangeAreConfirmedOrRemovedAtOnce) {
   for (int trace = 0; trace < 12; ++trace) {
     EXPECT_EQ(hasPick(mUser.pick(trace)), trace >= 4 && trace <= 6) << trace;
   }
-  mWidget.undoStack()->undo();
+  mUser.session.undo();
   EXPECT_EQ(mUser.pick(8), 0.05);
   mUser.key(Qt::Key_Delete);
   EXPECT_FALSE(hasPick(mUser.pick(5)));
-  mWidget.undoStack()->undo();
+  mUser.session.undo();
   EXPECT_TRUE(hasPick(mUser.pick(5)));
 }
 
 TEST_F(Picking, autopickingSeveralShotsIsOneEditThatGivesHandPicksBack) {
   mUser.click(mUser.at(3, 0.05));
   const double byHand = mUser.pick(3);
-  std::vector<ReplacedPicks> replaced;
-  for (const int shot : {0, 1}) {
-    std::vector<double>& times =
-        mDocument.ttArray.edit()[static_cast<std::size_t>(shot)].ttMisurati.edit();
-    replaced.push_back({shot, times});
-    times.assign(12, 0.07);
-  }
-  mWidget.autoPicked(replaced);
-  EXPECT_EQ(mWidget.undoStack()->count(), 2);
+  autoPick({0, 1}, [](std::vector<double>& times) { times.assign(12, 0.07); });
+  EXPECT_EQ(mUser.session.steps(), 2U);
   EXPECT_TRUE(mWidget.hasPicksInRange(true));
   QSignalSpy shots(&mWidget, &editTravelTimesWidget::shotEdited);
-  mWidget.undoStack()->undo();
+  mUser.session.undo();
   EXPECT_DOUBLE_EQ(mUser.pick(3), byHand);
   EXPECT_EQ(mUser.pick(5, 1), kUnpicked);
   EXPECT_FALSE(mWidget.hasPicksInRange(true)) << "it is the user's own again";
   EXPECT_EQ(shots.count(), 0) << "the shot in view is one of them";
-  mWidget.undoStack()->redo();
+  mUser.session.redo();
   EXPECT_EQ(mUser.pick(5, 1), 0.07);
   EXPECT_TRUE(mWidget.hasPicksInRange(true));
 }
@@ -212,7 +218,7 @@ TEST_F(Picking, whatIsReadFollowsTheKeys) {
   mUser.key(Qt::Key_Delete);
   EXPECT_FALSE(read.pick);
   EXPECT_FALSE(read.time) << "there is no cursor that could have one";
-  mWidget.undoStack()->undo();
+  mUser.session.undo();
   EXPECT_TRUE(read.pick);
   mWidget.setShot(1);
   EXPECT_FALSE(read.pick) << "the other shot has none";
@@ -235,7 +241,7 @@ TEST_F(Picking, undoOfAnotherShotSaysWhichOne) {
   mUser.click(mUser.at(3, 0.05));
   mWidget.setShot(1);
   QSignalSpy shots(&mWidget, &editTravelTimesWidget::shotEdited);
-  mWidget.undoStack()->undo();
+  mUser.session.undo();
   EXPECT_EQ(mUser.pick(3, 0), kUnpicked);
   ASSERT_EQ(shots.count(), 1);
   EXPECT_EQ(shots[0][0].toInt(), 0);
@@ -248,15 +254,15 @@ TEST_F(Picking, editsThatOtherViewsAskForCanBeUndone) {
   mWidget.editPick(9, 4, 0.07);
   EXPECT_EQ(mUser.pick(4, 1), 0.07);
   EXPECT_EQ(mUser.pick(5, 1), kUnpicked);
-  EXPECT_EQ(mWidget.undoStack()->count(), 1);
-  mWidget.undoStack()->undo();
+  EXPECT_EQ(mUser.session.steps(), 1U);
+  mUser.session.undo();
   EXPECT_EQ(mUser.pick(4, 1), kUnpicked);
 }
 
-TEST_F(Picking, aNewDocumentForgetsTheHistory) {
+TEST_F(Picking, anotherSurveyForgetsShotAndHistory) {
   mUser.click(mUser.at(3, 0.05));
-  mWidget.setDocument(&mDocument);
-  EXPECT_FALSE(mWidget.undoStack()->canUndo());
+  mUser.session.open(mUser.session.survey(), true);
+  EXPECT_FALSE(mUser.session.canUndo());
   EXPECT_EQ(mWidget.shot(), -1);
 }
 
@@ -315,7 +321,7 @@ TEST_F(Picking, tellsAgainWhatHasChangedUnderACursorThatRests) {
                    [&told](const TraceCursor& cursor) { told.push_back(cursor); });
   mUser.click(mUser.at(3, 0.04));
   ASSERT_TRUE(told.back().pick.has_value());
-  mWidget.undoStack()->undo();
+  mUser.session.undo();
   EXPECT_FALSE(told.back().pick.has_value());
   mWidget.setShot(1);
   EXPECT_DOUBLE_EQ(*told.back().offset, -19.0) << "of the shot that is shown now";

@@ -24,8 +24,8 @@ class TraceView : public ::testing::Test {
     return count;
   }
 
-  TomoDocument mDocument = testing::testShots(24, 1000, {-1.0, 25.0});
-  testing::WidgetDriver mUser{mDocument};
+  testing::WidgetDriver mUser{testing::testShots(24, 1000, {-1.0, 25.0})};
+  TomoDocument& mDocument = mUser.writable();
   editTravelTimesWidget& mWidget = mUser.widget;
 };
 
@@ -105,7 +105,7 @@ TEST_F(TraceView, aRubberBandZoomsToItsRectangle) {
   EXPECT_NEAR(mWidget.window().top, 0.1, 0.002);
   EXPECT_NEAR(mWidget.window().bottom, 0.2, 0.002);
   EXPECT_TRUE(mWidget.canZoomBack());
-  EXPECT_FALSE(mWidget.undoStack()->canUndo()) << "zooming is no edit";
+  EXPECT_FALSE(mUser.session.canUndo()) << "zooming is no edit";
   mWidget.zoomBack();
   EXPECT_FALSE(mWidget.canZoomBack());
 }
@@ -141,7 +141,7 @@ TEST_F(TraceView, theRulerReadsApparentVelocity) {
   mUser.dragTo(mUser.at(5, 0.05), mUser.at(15, 0.15));
   ASSERT_TRUE(mWidget.rulerVelocity());
   EXPECT_NEAR(*mWidget.rulerVelocity(), 200.0, 5.0);
-  EXPECT_FALSE(mWidget.undoStack()->canUndo());
+  EXPECT_FALSE(mUser.session.canUndo());
   mUser.key(Qt::Key_Escape);
   EXPECT_FALSE(mWidget.rulerVelocity());
   mUser.key(Qt::Key_Escape);

@@ -1,4 +1,5 @@
 #include "TestShots.h"
+#include "session/Session.h"
 #include "widgets/TraceMapping.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -10,7 +11,6 @@
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
-#include <QUndoStack>
 #include <QWheelEvent>
 #include <cmath>
 
@@ -26,13 +26,16 @@ using testing::testShots;
 /// trace view makes.
 class TravelTimes : public ::testing::Test {
  protected:
-  TravelTimes() : document(testShots(12, 400, {-1.0, 23.0})) {
+  TravelTimes() {
+    Survey survey;
+    survey.document = testShots(12, 400, {-1.0, 23.0});
+    session.open(std::move(survey), true);
     for (TravelTime& record : document.ttArray.edit()) {
       for (int i = 0; i < 12; ++i) {
         record.ttMisurati.edit()[static_cast<std::size_t>(i)] = arrival(i, record.shotPos2d.x);
       }
     }
-    traces.setDocument(&document);
+    traces.setSession(session);
     traces.setShot(0);
     plot.resize(700, 500);
     plot.setDocument(&document);
@@ -43,6 +46,11 @@ class TravelTimes : public ::testing::Test {
     QApplication::processEvents();
   }
 
+  static TomoDocument& writable(Session& session) {
+    TomoDocument* written = nullptr;
+    session.amend([&written](Survey& survey) { written = &survey.document; });
+    return *written;
+  }
   double& time(int shot, int trace) {
     return document.ttArray.edit()[static_cast<std::size_t>(shot)]
         .ttMisurati.edit()[static_cast<std::size_t>(trace)];
@@ -88,7 +96,8 @@ class TravelTimes : public ::testing::Test {
     return strongest;
   }
 
-  TomoDocument document;
+  Session session;
+  TomoDocument& document = writable(session);
   editTravelTimesWidget traces;
   TravelTimePlot plot;
 };
@@ -104,7 +113,7 @@ TEST_F(TravelTimes, choosesTheShotOfTheCurveThatIsClicked) {
   click(at(0, 5) + QPoint(0, -60));
   click(at(0, 2));
   EXPECT_EQ(chosen.count(), 2) << "nothing new under the mouse";
-  EXPECT_EQ(traces.undoStack()->count(), 0);
+  EXPECT_EQ(session.steps(), 0U);
 }
 
 TEST_F(TravelTimes, dragsAPickToAnotherTimeAndBackByUndo) {
@@ -114,7 +123,7 @@ TEST_F(TravelTimes, dragsAPickToAnotherTimeAndBackByUndo) {
   EXPECT_NEAR(time(0, 3), before + 80 * secondsPerPixel(), secondsPerPixel());
   ASSERT_EQ(edited.count(), 1);
   EXPECT_EQ(edited[0][1].toInt(), 3);
-  traces.undoStack()->undo();
+  session.undo();
   EXPECT_EQ(time(0, 3), before);
   const QPoint stale = at(0, 3);
   plot.refresh();
@@ -138,7 +147,7 @@ TEST_F(TravelTimes, takesThePickOfTheCurrentShotWhereCurvesCross) {
     drag(at(shot, 6), at(shot, 6) + QPoint(0, -30));
     EXPECT_NE(time(shot, 6), 0.018) << shot;
   }
-  EXPECT_EQ(traces.undoStack()->count(), 2);
+  EXPECT_EQ(session.steps(), 2U);
 }
 
 TEST_F(TravelTimes, keepsADraggedPickWithinItsRecord) {
@@ -197,7 +206,7 @@ TEST_F(TravelTimes, rubberBandZoomsAndHistoryGoesBack) {
   QTest::keyClick(&plot, Qt::Key_Backspace, Qt::ShiftModifier);
   EXPECT_NEAR(plot.window().width(), zoomed.width(), 1e-9);
   drag(at(0, 3), at(0, 3) + QPoint(60, 60), Qt::LeftButton, Qt::ControlModifier);
-  EXPECT_EQ(traces.undoStack()->count(), 0) << "Ctrl zooms, also from a pick";
+  EXPECT_EQ(session.steps(), 0U) << "Ctrl zooms, also from a pick";
 }
 
 TEST_F(TravelTimes, pansAndFitsAndNewPicksLeaveAZoomedViewAlone) {
@@ -252,7 +261,7 @@ TEST_F(TravelTimes, hiddenPicksCannotBeDraggedAndComputedTimesNeedSome) {
   const QPoint pick = at(0, 3);
   measured->setChecked(false);
   drag(pick, pick + QPoint(30, -50));
-  EXPECT_EQ(traces.undoStack()->count(), 0);
+  EXPECT_EQ(session.steps(), 0U);
   EXPECT_TRUE(plot.showsComputed());
 }
 

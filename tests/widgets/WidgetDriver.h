@@ -1,13 +1,13 @@
 #pragma once
 
 #include "TestShots.h"
+#include "session/Session.h"
 #include "widgets/TraceMapping.h"
 #include "widgets/editTravelTimesWidget.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QTest>
-#include <QUndoStack>
 #include <QWheelEvent>
 
 namespace talvesk::testing {
@@ -15,12 +15,15 @@ namespace talvesk::testing {
 /// A trace view on a shot, and the hands of a user.
 class WidgetDriver {
  public:
-  explicit WidgetDriver(TomoDocument& shots) : document(shots) {
+  explicit WidgetDriver(const TomoDocument& shots) {
+    Survey survey;
+    survey.document = shots;
+    session.open(std::move(survey), true);
     TraceViewOptions options;
     options.showAllTraces = true;
     widget.setOptions(options);
     widget.resize(800, 600);
-    widget.setDocument(&document);
+    widget.setSession(session);
     widget.setShot(0);
     widget.show();
     widget.setFocus();
@@ -64,11 +67,22 @@ class WidgetDriver {
   }
 
   double pick(int trace, int shot = 0) const {
-    return document.ttArray[static_cast<std::size_t>(shot)]
+    return session.document()
+        .ttArray[static_cast<std::size_t>(shot)]
         .ttMisurati[static_cast<std::size_t>(trace)];
   }
   void setPick(int trace, double time) {
-    document.ttArray.edit()[0].ttMisurati.edit()[static_cast<std::size_t>(trace)] = time;
+    writable().ttArray.edit()[0].ttMisurati.edit()[static_cast<std::size_t>(trace)] = time;
+  }
+  /// The document, for what is to be there without anybody having edited it.
+  TomoDocument& writable() {
+    TomoDocument* document = nullptr;
+    session.amend([&document](Survey& survey) { document = &survey.document; });
+    return *document;
+  }
+  void forgetSteps() {
+    session.open(session.survey(), true);
+    widget.setShot(0);
   }
   void change(void (*edit)(TraceViewOptions&)) {
     TraceViewOptions options = widget.options();
@@ -76,7 +90,7 @@ class WidgetDriver {
     widget.setOptions(options);
   }
 
-  TomoDocument& document;
+  Session session;  ///< outlives the widget
   editTravelTimesWidget widget;
 };
 

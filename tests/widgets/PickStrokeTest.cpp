@@ -1,8 +1,6 @@
-#include "TestShots.h"
-#include "widgets/PickEdit.h"
+#include "model/TravelTime.h"
 #include "widgets/PickStroke.h"
 
-#include <QUndoStack>
 #include <map>
 #include <vector>
 
@@ -15,91 +13,6 @@ namespace {
 using ::testing::DoubleEq;
 using ::testing::ElementsAre;
 using ::testing::Pair;
-
-using Merge = PickEditCommand::Merge;
-
-class PickEdits : public ::testing::Test {
- protected:
-  void change(int trace, double after, Merge merge = Merge::No, int shot = 0) {
-    const double before = mDocument.ttArray[0].ttMisurati[trace];
-    mStack.push(
-        new PickEditCommand("edit", mDocument, mReview, shot,
-                            {{trace, before, after, mReview.waits(shot, trace), false}}, merge,
-                            [this](const PickEditEffect& effect) { mEffects.push_back(effect); }));
-  }
-  /// As if the autopicker had set what the document has.
-  void autoPickedFrom(const std::vector<double>& before) {
-    auto* batch = new PickBatchCommand(
-        "auto", [] { return 0; },
-        [this](const PickEditEffect& effect) { mEffects.push_back(effect); });
-    batch->add(mDocument, mReview, 0, mReview.replaced(mDocument, 0, before));
-    mStack.push(batch);
-  }
-  double time(int trace) const { return mDocument.ttArray[0].ttMisurati[trace]; }
-
-  TomoDocument mDocument = testing::testShots(4, 100);
-  PickReview mReview;
-  std::vector<PickEditEffect> mEffects;
-  QUndoStack mStack;
-};
-
-TEST_F(PickEdits, undoTellsNeverPickedFromRemoved) {
-  mDocument.ttArray.edit()[0].ttMisurati.edit() = {kUnpicked, kNoTime, 0.02, 0.0};
-  change(0, 0.01);
-  change(1, 0.01);
-  change(2, kNoTime);
-  while (mStack.canUndo()) mStack.undo();
-  EXPECT_THAT(mDocument.ttArray[0].ttMisurati, ElementsAre(kUnpicked, kNoTime, 0.02, 0.0));
-  while (mStack.canRedo()) mStack.redo();
-  EXPECT_THAT(mDocument.ttArray[0].ttMisurati, ElementsAre(0.01, 0.01, kNoTime, 0.0));
-}
-
-TEST_F(PickEdits, tellWhetherAPickIsNew) {
-  change(0, 0.01);
-  change(0, 0.02);
-  change(0, kNoTime);
-  mStack.undo();
-  ASSERT_EQ(mEffects.size(), 4u);
-  EXPECT_TRUE(mEffects[0].added);
-  EXPECT_FALSE(mEffects[1].added);
-  EXPECT_FALSE(mEffects[2].added);
-  EXPECT_TRUE(mEffects[3].added) << "the undone removal brings it back";
-}
-
-TEST_F(PickEdits, ofAHeldKeyAreOne) {
-  change(0, 0.010);
-  change(0, 0.011, Merge::No);
-  change(0, 0.012, Merge::KeyHeld);
-  change(0, 0.013, Merge::KeyHeld);
-  change(1, 0.020, Merge::KeyHeld);
-  EXPECT_EQ(mStack.count(), 3) << "another trace is another edit";
-  mStack.undo();
-  mStack.undo();
-  EXPECT_DOUBLE_EQ(time(0), 0.010);
-  mStack.redo();
-  EXPECT_DOUBLE_EQ(time(0), 0.013);
-}
-
-TEST_F(PickEdits, ofTracesThatAreGoneChangeNothing) {
-  change(3, 0.01);
-  mDocument.ttArray.edit()[0].ttMisurati.edit().resize(2);
-  mStack.undo();
-  mDocument.ttArray.edit().clear();
-  mStack.redo();
-  EXPECT_TRUE(mDocument.ttArray.empty());
-}
-
-TEST_F(PickEdits, ofAutomaticPicksConfirmThemUntilUndone) {
-  mDocument.ttArray.edit()[0].ttMisurati.edit() = {0.01, kNoTime, kUnpicked, 0.02};
-  autoPickedFrom({0.01, kUnpicked, kUnpicked, kUnpicked});
-  EXPECT_TRUE(mReview.waits(0, 0));
-  EXPECT_FALSE(mReview.waits(0, 1)) << "what was rejected is no pick";
-  change(0, 0.015);
-  EXPECT_FALSE(mReview.waits(0, 0));
-  mStack.undo();
-  EXPECT_TRUE(mReview.waits(0, 0));
-  EXPECT_TRUE(mReview.waits(0, 3));
-}
 
 const PickStroke::Adjust kAsItIs = [](int, double time) { return time; };
 

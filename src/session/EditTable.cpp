@@ -1,0 +1,45 @@
+#include "session/EditTable.h"
+
+#include <algorithm>
+
+namespace talvesk {
+
+Fate EditRule::fate(Part part) const {
+  return part == Part::kView ? Fate::kChanged
+                             : static_cast<Fate>(fates[static_cast<std::size_t>(part)]);
+}
+
+const std::vector<EditRule>& editTable() {
+  // Parts: recordings, picks, geometry, model, result, marks, profile, look, map.
+  static const std::vector<EditRule> table = {
+      {Edit::kOpenShots, Message::tr("Open shot files"), "CCCGVC..S"},
+      {Edit::kRemoveShot, Message::tr("Remove shot"), "CCCGVCV.S"},
+      {Edit::kImport, Message::tr("Import travel times"), ".CCGGCV.S"},
+      {Edit::kImportSurvey, Message::tr("Import travel times"), "CCCGVVVCV"},
+      {Edit::kShotTime, Message::tr("Count times from the shot"), "CC....S.."},
+      {Edit::kPick, Message::tr("Edit picks"), ".C..S.S.."},
+      {Edit::kConfirmPicks, Message::tr("Confirm picks"), ".C......."},
+      {Edit::kAutoPick, Message::tr("AutoPick"), "CC..S.S.."},
+      {Edit::kFilter, Message::tr("Filter"), "C........"},
+      {Edit::kGeometry, Message::tr("Geometry"), "..CVV.V.S"},
+      {Edit::kRecordPairs, Message::tr("S-wave recordings"), "CCCVVCV.S"},
+      {Edit::kGrid, Message::tr("Grid"), "...CC...."},
+      {Edit::kStartingModel, Message::tr("Define model velocity"), "...CC...."},
+      {Edit::kSmoothing, Message::tr("Apply smoothing"), "...CC...."},
+      {Edit::kInversion, Message::tr("Run tomography inversion"), "...CC...."},
+      {Edit::kRefraction, Message::tr("Refraction"), ".....CC.."},
+      {Edit::kTitle, Message::tr("Set title"), ".......C."},
+      {Edit::kPalette, Message::tr("Palette"), ".......C."},
+      {Edit::kContours, Message::tr("Contour lines"), ".......C."},
+      {Edit::kMapPosition, Message::tr("Set geographic coordinates"), "........C"},
+  };
+  return table;
+}
+
+const EditRule& ruleOf(Edit edit) {
+  const std::vector<EditRule>& table = editTable();
+  return *std::find_if(table.begin(), table.end(),
+                       [edit](const EditRule& rule) { return rule.edit == edit; });
+}
+
+}  // namespace talvesk

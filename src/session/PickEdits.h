@@ -1,0 +1,32 @@
+#pragma once
+
+#include "base/Status.h"
+#include "model/TomoDocument.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace talvesk {
+
+/// What an edit by hand gives one trace.
+struct PickChange {
+  std::int32_t trace = 0;
+  double time = 0.0;   ///< seconds; kNoTime removes the pick
+  bool waits = false;  ///< for confirmation
+};
+
+/// Gives traces of a shot their times. Those that the shot does not have are left out.
+/// \param shot record of the document, from 0
+void changePicks(TomoDocument& document, std::int32_t shot, const std::vector<PickChange>& changes);
+
+/// All picks of a shot are those of an autopicker, and wait for confirmation.
+void markPicksAutomatic(TomoDocument& document, std::int32_t shot);
+
+/// The records whose measured times, or whose confirmations, are not those of the other document.
+std::vector<std::int32_t> shotsWithOtherPicks(const TomoDocument& before,
+                                              const TomoDocument& after);
+
+/// Whether a trace has a pick that it had not before.
+bool hasNewPick(const TomoDocument& before, const TomoDocument& after);
+
+}  // namespace talvesk

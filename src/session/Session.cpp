@@ -1,0 +1,241 @@
+#include "session/Session.h"
+
+#include "refraction/ShotArrivals.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+/// What undo leaves alone of a section: all but its contours and its range of colours.
+void keepView(const SectionViewSettings& view, SectionViewSettings& section) {
+  SectionViewSettings kept = view;
+  kept.contours = section.contours;
+  kept.lockRange = section.lockRange;
+  section = std::move(kept);
+}
+
+/// Every record has its marks, be they none.
+void fitMarks(Survey& survey) {
+  refractionDataStructure::Interpretation fitted = *survey.interpretation;
+  fitToSurvey(survey.document, fitted);
+  const auto size = [](const auto& marks) {
+    return std::make_pair(marks.shotID, marks.layer.size());
+  };
+  const bool same =
+      std::equal(fitted.ttLayer.begin(), fitted.ttLayer.end(),
+                 survey.interpretation->ttLayer.begin(), survey.interpretation->ttLayer.end(),
+                 [&](const auto& a, const auto& b) { return size(a) == size(b); });
+  if (!same) survey.interpretation = std::move(fitted);
+}
+
+/// Forgets what an edit makes void, and refuses one that touches what its rule keeps.
+Status follow(const EditRule& rule, const Survey& before, Survey& next) {
+  const PartSet touched = differingParts(before, next);
+  for (const Part part : kParts) {
+    const Fate fate = rule.fate(part);
+    if (fate == Fate::kVoid) forgetPart(part, next);
+    if ((fate == Fate::kKept || fate == Fate::kStale) && touched.has(part)) {
+      return Status::failure(
+          Message::tr("%1 would change what it must not; nothing was changed").arg(rule.text));
+    }
+  }
+  PartSet records;
+  for (const Part part : {Part::kRecordings, Part::kPicks, Part::kGeometry}) records.add(part);
+  if (differingParts(before, next).any(records)) fitMarks(next);
+  return {};
+}
+
+}  // namespace
+
+Session::Session() = default;
+
+Session::Subscription Session::subscribe(Observer observer) {
+  auto subscription = std::make_shared<Observer>(std::move(observer));
+  mObservers.push_back(subscription);
+  return subscription;
+}
+
+/// \param before what the rule compares with
+Status Session::run(Edit edit, const Change& change, const Survey& before, Survey& next) {
+  if (mChanging) {
+    return Status::failure(Message::tr("another edit is under way; try again when it is through"));
+  }
+  mChanging = true;
+  Status status;
+  try {
+    status = change(next);
+  } catch (const std::exception& error) {
+    status = Status::failure(Message::tr("the edit failed: %1").arg(error.what()));
+  }
+  mChanging = false;
+  return status.ok() ? follow(ruleOf(edit), before, next) : status;
+}
+
+Status Session::apply(Edit edit, const Change& change, Message text) {
+  return applyMerging(edit, change, {}, std::move(text));
+}
+
+Status Session::applyMerging(Edit edit, const Change& change, const std::string& key,
+                             Message text) {
+  if (isOpen()) {
+    return Status::failure(Message::tr("another edit is under way; try again when it is through"));
+  }
+  Survey next = mSurvey;
+  Status status = run(edit, change, mSurvey, next);
+  if (!status.ok()) return status;
+  std::swap(mSurvey, next);
+  push({edit, text.empty() ? ruleOf(edit).text : std::move(text), key, next, 0});
+  tell(SurveyChange::Kind::kEdit, edit, next);
+  return status;
+}
+
+bool Session::begin(Edit edit) {
+  if (mChanging || isOpen()) return false;
+  mOpen = Open{edit, mSurvey};
+  return true;
+}
+
+Status Session::preview(const Change& change) {
+  if (!isOpen()) return Status::failure(Message::tr("no edit is under way"));
+  Survey next = mOpen->before;
+  keepView(mSurvey.section, next.section);
+  Status status = run(mOpen->edit, change, mOpen->before, next);
+  if (!status.ok()) return status;
+  std::swap(mSurvey, next);
+  tell(SurveyChange::Kind::kPreview, mOpen->edit, next);
+  return status;
+}
+
+Status Session::commit(const Change& change) {
+  if (!isOpen()) return Status::failure(Message::tr("no edit is under way"));
+  Survey next = mOpen->before;
+  keepView(mSurvey.section, next.section);
+  Status status = run(mOpen->edit, change, mOpen->before, next);
+  if (!status.ok()) {
+    abandon();
+    return status;
+  }
+  const Open open = *std::exchange(mOpen, std::nullopt);
+  std::swap(mSurvey, next);
+  push({open.edit, ruleOf(open.edit).text, {}, open.before, 0});
+  tell(SurveyChange::Kind::kEdit, open.edit, next);
+  return status;
+}
+
+void Session::abandon() {
+  if (!isOpen()) return;
+  Open open = *std::exchange(mOpen, std::nullopt);
+  keepView(mSurvey.section, open.before.section);
+  std::swap(mSurvey, open.before);
+  tell(SurveyChange::Kind::kPreview, open.edit, open.before);
+}
+
+void Session::setView(const std::function<void(SectionViewSettings&)>& change) {
+  const Survey before = mSurvey;
+  SectionViewSettings view = mSurvey.section;
+  change(view);
+  keepView(view, mSurvey.section);
+  tell(SurveyChange::Kind::kView, std::nullopt, before);
+}
+
+Message Session::undoText() const {
+  return canUndo() ? mSteps[mIndex - 1].text : Message();
+}
+
+Message Session::redoText() const {
+  return canRedo() ? mSteps[mIndex].text : Message();
+}
+
+void Session::undo() {
+  if (!canUndo()) return;
+  exchange(mSteps[--mIndex], SurveyChange::Kind::kUndo);
+}
+
+void Session::redo() {
+  if (!canRedo()) return;
+  exchange(mSteps[mIndex++], SurveyChange::Kind::kRedo);
+}
+
+/// The survey and that on the other side of a step change places.
+void Session::exchange(Step& step, SurveyChange::Kind kind) {
+  const Survey before = mSurvey;
+  std::swap(mSurvey, step.other);
+  keepView(before.section, mSurvey.section);
+  step.bytes = bytesNotShared(step.other, mSurvey);
+  tell(kind, step.edit, before);
+}
+
+void Session::push(Step step) {
+  PartSet parts = differingParts(step.other, mSurvey);
+  parts.remove(Part::kView);
+  if (parts.empty()) return;
+  if (mClean && *mClean > mIndex) mClean.reset();  // it was undone, and now nothing leads there
+  mSteps.resize(mIndex);
+  const bool merges = !step.key.empty() && mIndex > 0 && mSteps.back().key == step.key &&
+                      mSteps.back().edit == step.edit && mClean != mIndex;
+  if (!merges) {
+    mSteps.push_back(std::move(step));
+    ++mIndex;
+  }
+  mSteps.back().bytes = bytesNotShared(mSteps.back().other, mSurvey);
+  dropOldest();
+}
+
+/// The step that was just made stays, whatever it costs: who made it may want to take it back.
+void Session::dropOldest() {
+  while (mIndex > 1 && undoMemory() > mUndoMemory) {
+    mSteps.pop_front();
+    --mIndex;
+    ++mDropped;
+    if (mClean) mClean = *mClean > 0 ? std::optional<std::size_t>(*mClean - 1) : std::nullopt;
+  }
+}
+
+void Session::open(Survey survey, bool saved) {
+  mOpen.reset();
+  fitMarks(survey);
+  std::swap(mSurvey, survey);
+  mSteps.clear();
+  mIndex = 0;
+  mDropped = 0;
+  mClean = saved ? std::optional<std::size_t>(0) : std::nullopt;
+  tell(SurveyChange::Kind::kOpened, std::nullopt, survey);
+}
+
+void Session::markSaved() {
+  mClean = mIndex;
+  const Survey before = mSurvey;
+  tell(SurveyChange::Kind::kSaved, std::nullopt, before);
+}
+
+void Session::setUndoMemory(std::size_t bytes) {
+  mUndoMemory = bytes;
+  dropOldest();
+}
+
+std::size_t Session::undoMemory() const {
+  std::size_t bytes = 0;
+  for (const Step& step : mSteps) bytes += step.bytes;
+  return bytes;
+}
+
+void Session::tell(SurveyChange::Kind kind, std::optional<Edit> edit, const Survey& before) {
+  const bool other = kind == SurveyChange::Kind::kOpened;
+  const SurveyChange change = {kind, edit, other ? PartSet::all() : differingParts(before, mSurvey),
+                               before};
+  if (change.parts.empty() && kind != SurveyChange::Kind::kSaved) return;
+  if (!change.parts.empty()) ++mRevision;
+  // Observers may come and go while they are told.
+  const std::vector<std::weak_ptr<Observer>> observers = mObservers;
+  for (const auto& observer : observers) {
+    if (const auto alive = observer.lock()) (*alive)(change);
+  }
+  mObservers.erase(std::remove_if(mObservers.begin(), mObservers.end(),
+                                  [](const auto& observer) { return observer.expired(); }),
+                   mObservers.end());
+}
+
+}  // namespace talvesk
