@@ -114,10 +114,10 @@ void RecoveryCopy::save(Survey copy, const ProjectFile& project) {
   mThread->start(QThread::LowPriority);
 }
 
-Status RecoveryCopy::saveNow(Survey copy, const ProjectFile& project) {
+Status RecoveryCopy::saveNow(const Survey& survey, const ProjectFile& project) {
   wait();
   if (!take()) return Status::failure(nothingCanBeWritten().toStdString());
-  return write(mFile, mFolder, copy, noteText(project));
+  return write(mFile, mFolder, survey, noteText(project));
 }
 
 QString RecoveryCopy::nothingCanBeWritten() const {

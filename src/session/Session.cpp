@@ -56,7 +56,8 @@ Status Session::applyMerging(Edit edit, const Change& change, const std::string&
   Status status = run(edit, change, mSurvey, next);
   if (!status.ok()) return status;
   std::swap(mSurvey, next);
-  push({edit, text.empty() ? ruleOf(edit).text : std::move(text), key, next, 0});
+  if (text.empty()) text = ruleOf(edit).text;
+  push({edit, std::move(text), key, next, 0});
   tell(SurveyChange::Kind::kEdit, edit, next);
   return status;
 }
