@@ -1,9 +1,9 @@
 #pragma once
 
+#include "figures/SectionCamera.h"
 #include "view/ColorPalette.h"
 #include "view/SectionScene.h"
 #include "view/SectionViewSettings.h"
-#include "widgets/SectionCamera.h"
 
 #include <QCoreApplication>
 #include <QFont>

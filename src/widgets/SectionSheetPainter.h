@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/AxisTicks.h"
+#include "view/AxisTicks.h"
 #include "widgets/SectionSheet.h"
 
 #include <QCoreApplication>

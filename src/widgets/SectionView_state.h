@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/SectionCamera.h"
+#include "figures/SectionCamera.h"
 #include "widgets/SectionCanvas.h"
 #include "widgets/SectionSheet.h"
 #include "widgets/SectionView.h"

@@ -1,10 +1,10 @@
+#include "figures/SectionCamera.h"
 #include "figures/SectionFigure.h"
 #include "gui/WindowTest.h"
 #include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
 #include "view/SectionScene.h"
-#include "widgets/SectionCamera.h"
 #include "widgets/SectionView.h"
 
 #include <QApplication>

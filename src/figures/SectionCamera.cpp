@@ -1,4 +1,4 @@
-#include "widgets/SectionCamera.h"
+#include "figures/SectionCamera.h"
 
 #include <algorithm>
 #include <cmath>
