@@ -198,8 +198,9 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
                            ? parts.options.verticalExaggeration
                            : legibleExaggeration(spanZ / spanX);
 
-  parts.figure.setTexts(parts.options.showTitle ? mTitle : std::string(),
-                        FigureWords::sectionCaption(parts.scene, parts.exaggeration).toStdString(),
+  const QString caption =
+      FigureWords::joined(FigureWords::sectionFacts(parts.scene, parts.exaggeration));
+  parts.figure.setTexts(parts.options.showTitle ? mTitle : std::string(), caption.toStdString(),
                         widthMm);
 
   // How wide the numbers at the axes are depends on the scales, which depend on the room that the
