@@ -135,6 +135,17 @@ double symbolSize(double size, const std::vector<Point2D>& points, const QwtScal
   return fittingMarkerSize(size, length / static_cast<double>(points.size() - 1));
 }
 
+/// Lines are thinned to this accuracy, in points of 1/96 inch: a twentieth of a millimetre.
+constexpr double kThinning = 0.2;
+
+template <typename Map>
+QPolygonF thinnedOver(const std::vector<Point2D>& points, Map map) {
+  QPolygonF line;
+  line.reserve(static_cast<int>(points.size()));
+  for (const Point2D& p : points) line.append(map(p));
+  return QwtWeedingCurveFitter(kThinning).fitCurve(line);
+}
+
 }  // namespace
 
 void setMarkerColors(QPainter& painter, Marker marker) {
@@ -174,15 +185,14 @@ QPainterPath symbol(Marker marker, double size) {
   return marker == Marker::kShot ? star(1.4 * size) : triangleOnTip(size);
 }
 
-/// Lines are thinned to this accuracy, in points of 1/96 inch: a twentieth of a millimetre.
-static constexpr double kThinning = 0.2;
-
 QPolygonF thinned(const std::vector<Point2D>& points, const QwtScaleMap& xMap,
                   const QwtScaleMap& yMap) {
-  QPolygonF line;
-  line.reserve(static_cast<int>(points.size()));
-  for (const Point2D& p : points) line.append({xMap.transform(p.x), yMap.transform(p.z)});
-  return QwtWeedingCurveFitter(kThinning).fitCurve(line);
+  return thinnedOver(
+      points, [&](const Point2D& p) { return QPointF(xMap.transform(p.x), yMap.transform(p.z)); });
+}
+
+QPolygonF thinned(const std::vector<Point2D>& points, const QTransform& map) {
+  return thinnedOver(points, [&map](const Point2D& p) { return map.map(QPointF(p.x, p.z)); });
 }
 
 QwtPlotItem* cells(const SectionScene& scene, const ColorTable& colors) {

@@ -8,6 +8,7 @@
 class QPainter;
 class QPainterPath;
 class QPolygonF;
+class QTransform;
 class QColor;
 class QString;
 class QwtPlotItem;
@@ -78,6 +79,7 @@ enum Layer { kCellsLayer = 10, kRaysLayer = 20, kContoursLayer = 30, kMarkersLay
 /// A line on the sheet without the points that no eye would miss.
 QPolygonF thinned(const std::vector<Point2D>& points, const QwtScaleMap& xMap,
                   const QwtScaleMap& elevationMap);
+QPolygonF thinned(const std::vector<Point2D>& points, const QTransform& map);
 
 }  // namespace section_items
 }  // namespace talvesk
