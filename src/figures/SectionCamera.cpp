@@ -39,15 +39,6 @@ void SectionCamera::fit(const Point2D& lowerLeft, const Point2D& upperRight, con
   pan({0.0, 0.5 * (padding.top - padding.bottom)});
 }
 
-SectionCamera SectionCamera::fitting(const Point2D& lowerLeft, const Point2D& upperRight,
-                                     double exaggeration, const QSizeF& size,
-                                     const Padding& padding) {
-  SectionCamera camera;
-  camera.exaggeration = exaggeration;
-  camera.fit(lowerLeft, upperRight, size, padding);
-  return camera;
-}
-
 void SectionCamera::zoomAt(const QPointF& point, double factor, const QSizeF& size) {
   const QPointF before = toPicture(size).inverted().map(point);
   metresPerPixel = std::clamp(metresPerPixel / factor, kMinMetresPerPixel, kMaxMetresPerPixel);

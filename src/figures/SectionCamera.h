@@ -35,8 +35,6 @@ struct SectionCamera {
   /// turned as before.
   void fit(const Point2D& lowerLeft, const Point2D& upperRight, const QSizeF& size,
            const Padding& padding);
-  static SectionCamera fitting(const Point2D& lowerLeft, const Point2D& upperRight,
-                               double exaggeration, const QSizeF& size, const Padding& padding);
 
   void zoomAt(const QPointF& point, double factor, const QSizeF& size);  ///< `point` stays in place
   void pan(const QPointF& by);                ///< pixels that the picture moves

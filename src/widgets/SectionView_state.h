@@ -29,6 +29,8 @@ class SectionOverlay : public QWidget {
 };
 
 struct SectionView::State {
+  SectionPaper sheetPaper() const { return sheet.paper(overlay->font()); }  ///< of a scene
+
   SectionSheet sheet;
   SectionCamera camera;
   std::unique_ptr<SectionCanvas> canvas;  ///< none before the first section
