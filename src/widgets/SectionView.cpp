@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStackedLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -64,7 +65,7 @@ void SectionView::layOutControls() {
   s.exaggeration = new QDoubleSpinBox(s.controls);
   s.exaggeration->setObjectName(QStringLiteral("exaggerationSpin"));
   s.exaggeration->setRange(SectionCamera::kMinExaggeration, SectionCamera::kMaxExaggeration);
-  s.exaggeration->setDecimals(1);
+  s.exaggeration->setDecimals(2);
   s.exaggeration->setSingleStep(0.5);
   s.exaggeration->setSuffix(QStringLiteral("\u00D7"));
   s.exaggeration->setValue(1.0);
@@ -237,7 +238,11 @@ void SectionView::setVerticalExaggeration(double factor) {
   State& s = *mState;
   const double before = s.camera.exaggeration;
   s.camera.setExaggeration(factor);
-  s.exaggeration->setValue(s.camera.exaggeration);
+  {
+    // The field rounds, which is not the user's choice.
+    const QSignalBlocker quiet(s.exaggeration);
+    s.exaggeration->setValue(s.camera.exaggeration);
+  }
   if (s.camera.exaggeration == before) return;
   layOut();
   emit exaggerationChanged(s.camera.exaggeration);

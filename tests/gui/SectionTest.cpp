@@ -251,6 +251,14 @@ TEST_F(Section, isExaggeratedAsAskedAndTurnedOnlyWhenAsked) {
   EXPECT_EQ(view().camera().turn, 0.0);
 }
 
+TEST_F(Section, keepsAnExaggerationThatItsFieldCannotShow) {
+  openWith(sectionDocument(12, 40, 0.0, patchwork));
+  view().setVerticalExaggeration(2.125);
+  EXPECT_EQ(view().verticalExaggeration(), 2.125);
+  action("actionSmooth_view").trigger();  // the settings have followed
+  EXPECT_EQ(view().verticalExaggeration(), 2.125);
+}
+
 TEST_F(Section, isTurnedWithinThePlotWhateverTheSizeOfTheWindow) {
   openWith(sectionDocument(12, 40, 1.5, patchwork));
   view().setVerticalExaggeration(3.0);
