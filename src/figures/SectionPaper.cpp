@@ -23,6 +23,10 @@ SectionExtent::SectionExtent(const SectionScene& scene) {
   high = upper;
 }
 
+QRectF SectionExtent::rect() const {
+  return {QPointF(low.x, low.z), QPointF(high.x, high.z)};
+}
+
 SectionPaper::SectionPaper(const SectionScene& scene, const SectionExtent& extent,
                            const ColorTable& colors, SectionDress dress)
     : mScene(scene), mExtent(extent), mColors(colors), mDress(std::move(dress)) {
@@ -84,18 +88,27 @@ SectionPaperPainter::SectionPaperPainter(const SectionScene& scene, const Sectio
       mMetrics(dress.font),
       mLine(mMetrics.height()) {}
 
-void SectionPaperPainter::put(const QString& text, const QPointF& middle, double angle) {
+/// Of a line in the painter's font, turned by degrees about its middle.
+QPolygonF SectionPaperPainter::outlineOf(const QString& text, const QPointF& middle,
+                                         double angle) const {
   const QFontMetricsF metrics(mPainter.font());
-  const double width = metrics.horizontalAdvance(text);
-  const QRectF line(-0.5 * width, -0.5 * metrics.height(), width, metrics.height());
+  QRectF line(0.0, 0.0, metrics.horizontalAdvance(text), metrics.height());
+  line.moveCenter({0.0, 0.0});
   QTransform place;
   place.translate(middle.x(), middle.y());
   place.rotate(angle);
-  texts.push_back({text, place.map(QPolygonF(line))});
+  return place.map(QPolygonF(line));
+}
+
+void SectionPaperPainter::put(const QString& text, const QPointF& middle, double angle) {
+  const QFontMetricsF metrics(mPainter.font());
+  texts.push_back({text, outlineOf(text, middle, angle)});
   mPainter.save();
   mPainter.translate(middle);
   if (angle != 0.0) mPainter.rotate(angle);
-  mPainter.drawText(QPointF(line.left(), line.top() + metrics.ascent()), text);
+  mPainter.drawText(
+      QPointF(-0.5 * metrics.horizontalAdvance(text), metrics.ascent() - 0.5 * metrics.height()),
+      text);
   mPainter.restore();
 }
 

@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QPolygonF>
 #include <QRect>
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 #include <vector>
@@ -37,6 +38,8 @@ struct SectionExtent {
   SectionExtent() = default;
   /// Of what is drawn; of the unit square where that is nowhere.
   explicit SectionExtent(const SectionScene& scene);
+
+  QRectF rect() const;  ///< x and elevation; top() is the lower elevation
 };
 
 /// A line of text as it lies on the sheet.

@@ -40,7 +40,6 @@ class SectionPaperPainter {
   };
 
   QRectF visible() const;  ///< survey x and elevation in the plot; top() is the lower elevation
-  bool isWhole() const;    ///< all of the section is in the plot
   QRectF axisRoom() const;
   AxisTicks distanceTicks() const;
   AxisTicks elevationTicks() const;
@@ -50,12 +49,12 @@ class SectionPaperPainter {
   double elevationLine() const;  ///< x of the elevation axis on the sheet
   void paintAxis(const Axis& axis);
   void paintFrame();
+  QPolygonF outlineOf(const QString& text, const QPointF& middle, double angle) const;
   /// Unless a text is there already, or there is no room for it.
   void putWithin(const QRectF& room, const QString& text, const QPointF& middle,
                  double angle = 0.0);
   void put(const QString& text, const QPointF& middle, double angle = 0.0);
 
-  QPolygonF mapped(const std::vector<Point2D>& points) const;
   void paintGridLines();
   void paintLines();
   void paintContourValues();

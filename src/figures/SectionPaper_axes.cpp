@@ -24,14 +24,7 @@ constexpr double kElevationSpacing = 42.0;  ///< between numbers up the section
 
 QRectF SectionPaperPainter::visible() const {
   const QRectF seen = mMap.inverted().mapRect(mPlot);
-  if (!mCamera.isTurned()) return seen;
-  return seen.intersected(
-      {QPointF(mExtent.low.x, mExtent.low.z), QPointF(mExtent.high.x, mExtent.high.z)});
-}
-
-bool SectionPaperPainter::isWhole() const {
-  const QRectF all(QPointF(mExtent.low.x, mExtent.low.z), QPointF(mExtent.high.x, mExtent.high.z));
-  return mPlot.contains(mMap.mapRect(all));
+  return mCamera.isTurned() ? seen.intersected(mExtent.rect()) : seen;
 }
 
 AxisTicks SectionPaperPainter::distanceTicks() const {
@@ -129,11 +122,7 @@ SectionPaperPainter::Axis SectionPaperPainter::elevationAxis() const {
 
 void SectionPaperPainter::putWithin(const QRectF& room, const QString& text, const QPointF& middle,
                                     double angle) {
-  const double width = mMetrics.horizontalAdvance(text);
-  QTransform place;
-  place.translate(middle.x(), middle.y());
-  place.rotate(angle);
-  const QPolygonF line = place.map(QPolygonF(QRectF(-0.5 * width, -0.5 * mLine, width, mLine)));
+  const QPolygonF line = outlineOf(text, middle, angle);
   const auto touches = [&line](const PlacedText& other) { return other.outline.intersects(line); };
   if (!room.contains(line.boundingRect())) return;
   if (std::any_of(texts.begin(), texts.end(), touches)) return;
@@ -169,16 +158,16 @@ void SectionPaperPainter::paintAxis(const Axis& axis) {
 
 void SectionPaperPainter::paintFrame() {
   if (mCamera.isTurned()) {
+    const QPolygonF outline = mMap.map(QPolygonF(mExtent.rect()));
     mPainter.save();
     mPainter.setClipRect(mPlot);
     mPainter.setRenderHint(QPainter::Antialiasing);
     mPainter.setBrush(Qt::NoBrush);
-    mPainter.drawPolygon(mMap.map(QPolygonF(
-        QRectF(QPointF(mExtent.low.x, mExtent.low.z), QPointF(mExtent.high.x, mExtent.high.z)))));
+    mPainter.drawPolygon(outline);
     mPainter.restore();
+    // A frame would cross the numbers of a turned section; it shows where a cut one ends.
+    if (mPlot.contains(outline.boundingRect())) return;
   }
-  // A frame around a turned section would cross its numbers; it shows where a cut one ends.
-  if (mCamera.isTurned() && isWhole()) return;
   mPainter.save();
   paintFigureFrame(mPainter, mPlot.adjusted(-0.5, -0.5, 0.5, 0.5));
   mPainter.restore();

@@ -44,10 +44,6 @@ void SectionPaperPainter::paintMarks() {
   mPainter.restore();
 }
 
-QPolygonF SectionPaperPainter::mapped(const std::vector<Point2D>& points) const {
-  return thinned(points, mMap);
-}
-
 void SectionPaperPainter::paintGridLines() {
   mPainter.save();
   mPainter.setRenderHint(QPainter::Antialiasing, mCamera.isTurned());
@@ -65,12 +61,12 @@ void SectionPaperPainter::paintGridLines() {
 void SectionPaperPainter::paintLines() {
   mPainter.setBrush(Qt::NoBrush);
   mPainter.setPen(kSurfacePen);
-  mPainter.drawPolyline(mapped(mScene.surface));
+  mPainter.drawPolyline(thinned(mScene.surface, mMap));
   mPainter.setPen(coveragePen());
-  mPainter.drawPolyline(mapped(mScene.coverageLimit));
+  mPainter.drawPolyline(thinned(mScene.coverageLimit, mMap));
   for (std::size_t i = 0; i < mScene.refractors.size(); ++i) {
     for (const auto& piece : mScene.refractors[i].pieces) {
-      const QPolygonF line = mapped(piece);
+      const QPolygonF line = thinned(piece, mMap);
       mPainter.setPen(QPen(Qt::white, kRefractorWidth + 2.0));
       mPainter.drawPolyline(line);
       mPainter.setPen(refractorPen(i));
@@ -84,7 +80,7 @@ void SectionPaperPainter::paintContourValues() {
   std::vector<QPolygonF> lines;
   lines.reserve(mScene.contours.size());
   for (const ContourLine& contour : mScene.contours) {
-    lines.push_back(mapped(contour.points));
+    lines.push_back(thinned(contour.points, mMap));
     if (contour.closed && !lines.back().isEmpty()) lines.back().append(lines.back().front());
   }
   const double step = mScene.range.span() / 50.0;
