@@ -4,6 +4,7 @@
 #include "app/Outcomes.h"
 #include "app/Talvesk_MainWindows.h"
 #include "app/WaitCursor.h"
+#include "io/FileFormats.h"
 #include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
@@ -30,21 +31,11 @@ namespace {
 
 constexpr int kPatience = 500;  ///< milliseconds of loading before progress is shown
 
-bool isTravelTimeFile(const QString& file) {
-  static const QStringList suffixes = {QStringLiteral("otte"), QStringLiteral("txt"),
-                                       QStringLiteral("xyz"), QStringLiteral("csv")};
-  return suffixes.contains(QFileInfo(file).suffix().toLower());
-}
-
 /// Why a file was not loaded. A survey that takes no files refuses them without a name.
 QString reasonOf(const ShotFileOutcome& outcome) {
   const Message& why = outcome.status.text();
   const bool named = why.english().find(outcome.path) != std::string::npos;
   return textOf(named ? why : joined(outcome.path, why));
-}
-
-bool isProjectFile(const QString& file) {
-  return QFileInfo(file).suffix().toLower() == QLatin1String("tvsk");
 }
 
 }  // namespace
@@ -64,10 +55,7 @@ void Talvesk_MainWindows::loadTraces_PWave() {
 
 QStringList Talvesk_MainWindows::askForShotFiles() {
   QStringList files = QFileDialog::getOpenFileNames(
-      this, tr("Open Seismic Trace"), mFolders.toOpen(),
-      tr("Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)") + QLatin1String(";;") +
-          tr("SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;"
-             "All Files (*)"));
+      this, tr("Open Seismic Trace"), mFolders.toOpen(), dialogFilter(shotFileFilters()));
   if (files.isEmpty()) return files;
   mFolders.opened(files.front());
   mLog.write("Loading " + std::to_string(files.size()) + " seismic files", 0);
@@ -124,6 +112,7 @@ Survey Talvesk_MainWindows::newSurvey(TomoDocument document) const {
   survey.document = std::move(document);
   survey.interpretation = {};
   survey.folder.reset();
+  survey.own = {};
   return survey;
 }
 
@@ -190,8 +179,7 @@ void Talvesk_MainWindows::askForShotTime(const std::vector<std::size_t>& sets) {
 void Talvesk_MainWindows::on_actionLoad_TT_triggered() {
   logSlot(__func__);
   const QString file = QFileDialog::getOpenFileName(
-      this, tr("Import TravelTimes"), mFolders.toOpen(),
-      tr("Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)"));
+      this, tr("Import TravelTimes"), mFolders.toOpen(), dialogFilter(travelTimeFileFilters()));
   if (file.isEmpty()) return;
   mFolders.opened(file);
   importTravelTimeFile(file);
@@ -218,7 +206,10 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
         isInterpreted(interpretation()) || (cost.survey && hasMarks(interpretation().ttLayer));
     if (!mayLose(this, document(), losses)) return;
     status = mSession.apply(cost.survey ? Edit::kImportSurvey : Edit::kImport, [&](Survey& survey) {
-      if (cost.survey) survey.document.title.clear();
+      if (cost.survey) {
+        survey.document.title.clear();
+        survey.own = {};
+      }
       return importTravelTimes(times, survey.document);
     });
   }
@@ -241,9 +232,8 @@ void Talvesk_MainWindows::importTravelTimeFile(const QString& file) {
 
 void Talvesk_MainWindows::on_actionExport_TravelTimes_triggered() {
   logSlot(__func__);
-  const QString file =
-      askForExport(tr("Save TravelTimeExchange"),
-                   tr("Open Travel Time Exchange format (*.otte);;All Files (*)"), "otte");
+  const QString file = askForExport(tr("Save TravelTimeExchange"),
+                                    dialogFilter(filtersOf(exchangeFormat())), "otte");
   if (file.isEmpty()) return;
   if (const Status status = writeTravelTimes(file.toStdString(), document()); !status.ok()) {
     tellFailure(this, mLog, tr("The travel times have not been saved."), status);
@@ -260,11 +250,12 @@ void Talvesk_MainWindows::openFiles(const QStringList& files) {
   QStringList travelTimes;
   QStringList projects;
   for (const QString& file : files) {
-    if (isProjectFile(file)) {
+    if (hasSuffixOf(projectFormat(), file.toStdString())) {
       projects << QFileInfo(file).absoluteFilePath();
       continue;
     }
-    (isTravelTimeFile(file) ? travelTimes : shots) << QFileInfo(file).absoluteFilePath();
+    (looksLikeTravelTimes(file.toStdString()) ? travelTimes : shots)
+        << QFileInfo(file).absoluteFilePath();
   }
   // Each would take the place of the one before.
   if (!projects.isEmpty()) openProject(projects.front());

@@ -4,6 +4,7 @@
 #include "app/Talvesk_MainWindows.h"
 #include "app/progressDialog.h"
 #include "base/FileReplacement.h"
+#include "io/FileFormats.h"
 #include "io/ProjectWriter.h"
 #include "io/projectReader.h"
 #include "model/Recordings.h"
@@ -29,16 +30,6 @@ namespace talvesk {
 namespace {
 
 const QString kSuffix = QStringLiteral(".tvsk");
-
-/// The format of a shot file as its reader would name it.
-QString formatOf(const std::string& file) {
-  const QString suffix = QFileInfo(QString::fromStdString(file)).suffix().toLower();
-  if (suffix == QLatin1String("su")) return suffix;
-  if (suffix == QLatin1String("sgy") || suffix == QLatin1String("segy")) {
-    return QStringLiteral("segy");
-  }
-  return suffix.isEmpty() ? suffix : QStringLiteral("seg2");
-}
 
 /// A name for files by the title of the survey, without what no file system takes.
 QString fileNameOf(const QString& title) {
@@ -76,7 +67,7 @@ bool Talvesk_MainWindows::saveProject() {
 bool Talvesk_MainWindows::saveProjectAs() {
   QFileDialog dialog(this, tr("Save Project"),
                      mProject.isEmpty() ? mFolders.toSave() : mProject.path(),
-                     tr("Talvesk projects (*.tvsk);;All Files (*)"));
+                     dialogFilter(filtersOf(projectFormat())));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   // The question comes below, when the name is complete.
@@ -139,7 +130,7 @@ bool Talvesk_MainWindows::saveProjectTo(const QString& file) {
   progressDialog progress(writer, file, this);
   progress.run([&] {
     result = writer.save(file.toStdString(), mFolder.path, document(), interpretation(), palettes(),
-                         section());
+                         section(), survey().own);
   });
   if (result != 0) {
     mLog.write(writer.message(), 1);
@@ -227,8 +218,8 @@ void Talvesk_MainWindows::takeProject(LoadedProject project, ProjectFile file, b
   for (std::size_t i = 0; i < recordings.traceSets.size(); ++i) {
     RecordingNote& note = recordings.noteOf(i);
     note.filtered = note.showFiltered = talvesk::hasFilteredCopy(recordings.traceSets[i]);
-    if (i < recordings.filenames.size())
-      note.format = formatOf(recordings.filenames[i]).toStdString();
+    if (i >= recordings.filenames.size()) continue;
+    if (const ShotFormat* format = shotFormatOf(recordings.filenames[i])) note.format = format->id;
   }
   mLoader.remember(project.shotFiles);
   Survey survey = std::move(project);
@@ -273,7 +264,7 @@ void Talvesk_MainWindows::on_actionSave_Project_As_triggered() {
 void Talvesk_MainWindows::on_actionLoad_Project_triggered() {
   logSlot(__func__);
   const QString file = QFileDialog::getOpenFileName(this, tr("Load Project"), mFolders.toOpen(),
-                                                    tr("Talvesk projects (*.tvsk);;All Files (*)"));
+                                                    dialogFilter(filtersOf(projectFormat())));
   if (file.isEmpty()) return;
   mFolders.opened(file);
   openProject(file);

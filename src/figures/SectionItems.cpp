@@ -1,7 +1,7 @@
 #include "figures/SectionItems.h"
 
 #include "figures/FigureItem.h"
-#include "figures/SectionFigure.h"
+#include "figures/SectionFigureOptions.h"
 #include "view/SectionScene.h"
 #include "view/SectionViewSettings.h"
 

@@ -4,7 +4,7 @@
 #include "figures/FigurePlot.h"
 #include "figures/FigureWords.h"
 #include "figures/SectionItems.h"
-#include "figures/SectionPaperPainter.h"
+#include "figures/SectionPaper_painter.h"
 #include "view/SectionScene.h"
 
 #include <QFontInfo>

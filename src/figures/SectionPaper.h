@@ -2,7 +2,7 @@
 
 #include "base/Point2D.h"
 #include "figures/SectionCamera.h"
-#include "figures/SectionFigure.h"
+#include "figures/SectionFigureOptions.h"
 
 #include <QFont>
 #include <QLocale>

@@ -1,6 +1,6 @@
 #include "figures/FigurePlot.h"
 #include "figures/FigureWords.h"
-#include "figures/SectionPaperPainter.h"
+#include "figures/SectionPaper_painter.h"
 
 #include <QLineF>
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "figures/FigureItem.h"
 #include "figures/FigureWords.h"
 #include "figures/SectionItems.h"
-#include "figures/SectionPaperPainter.h"
+#include "figures/SectionPaper_painter.h"
 #include "view/SectionScene.h"
 #include "view/SectionTexts.h"
 #include "view/SectionViewSettings.h"

@@ -1,5 +1,6 @@
 #include "figures/SectionPlot.h"
 
+#include "figures/FigureFile.h"
 #include "figures/FigureWords.h"
 #include "figures/SectionCamera.h"
 #include "figures/SectionItems.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "figures/SectionCamera.h"
-#include "figures/SectionPaperLayout.h"
+#include "figures/SectionPaper_layout.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

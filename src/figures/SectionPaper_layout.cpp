@@ -1,4 +1,4 @@
-#include "figures/SectionPaperLayout.h"
+#include "figures/SectionPaper_layout.h"
 
 #include "figures/FigureWords.h"
 #include "view/SectionScene.h"
