@@ -238,6 +238,9 @@ TEST_F(Geometry, makesShotsOfSWavePairsWhichArePickedOnTheirDifference) {
 TEST_F(Geometry, replacesTheRecordingOfAShotByAPair) {
   loadShots(1);
   writable().ttArray.edit()[0].ttMisurati.edit()[2] = 0.02;
+  const auto marks = [this] { return window->session().survey().interpretation->ttLayer[0].layer; };
+  window->session().amend(
+      [](Survey& survey) { survey.interpretation.edit().ttLayer[0].layer[2] = 1; });
   const QString dx = shotFile("dx.dat", 50.0);
   const QString sx = shotFile("sx.dat", 50.0);
   dialogs.expect([](QWidget& widget) {
@@ -255,7 +258,9 @@ TEST_F(Geometry, replacesTheRecordingOfAShotByAPair) {
   EXPECT_EQ(document.recordings->traceSets[0][0].waveKind, Trace::kSWavePair);
   EXPECT_EQ(document.ttArray[0].shotPos2d.x, 9.0);
   EXPECT_EQ(document.ttArray[0].ttMisurati[2], kUnpicked);
+  EXPECT_EQ(marks()[2], 0U) << "marks are those of the recording that is gone";
   action("actionUndo").trigger();
+  EXPECT_EQ(marks()[2], 1U);
   EXPECT_EQ(document.recordings->traceSets[0][0].waveKind, Trace::kFromFile);
   EXPECT_EQ(document.ttArray[0].ttMisurati[2], 0.02);
 }

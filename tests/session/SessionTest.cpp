@@ -153,12 +153,14 @@ TEST_F(Sessions, leaveTheViewAloneWhenTheyGoBack) {
                   .apply(Edit::kContours,
                          [](Survey& survey) {
                            survey.section.contours.filled = false;
+                           survey.section.lockRange = true;
                            return Status();
                          })
                   .ok());
   session.setView([](SectionViewSettings& view) { view.verticalExaggeration = 7.0; });
   session.undo();
   EXPECT_TRUE(session.survey().section.contours.filled);
+  EXPECT_FALSE(session.survey().section.lockRange) << "the range goes with the colours";
   session.undo();
   EXPECT_EQ(session.survey().section.verticalExaggeration, 7.0);
   EXPECT_FALSE(session.modified()) << "looking at it otherwise is no edit";
