@@ -6401,6 +6401,18 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Redo &quot;%1&quot;</source>
         <translation>Wiederholen: „%1“</translation>
     </message>
+    <message>
+        <source>Remove shot</source>
+        <translation>Schuss entfernen</translation>
+    </message>
+    <message>
+        <source>Shot %1 is removed; Undo brings it back.</source>
+        <translation>Schuss %1 ist entfernt; „Rückgängig“ bringt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
+        <translation>Die ältesten Schritte lassen sich nicht mehr rückgängig machen: Sie brauchten mehr als %1 MB.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>

@@ -6401,6 +6401,18 @@ Do you want to run refraction processing anyway? </source>
         <source>Redo &quot;%1&quot;</source>
         <translation>Rehacer «%1»</translation>
     </message>
+    <message>
+        <source>Remove shot</source>
+        <translation>Quitar disparo</translation>
+    </message>
+    <message>
+        <source>Shot %1 is removed; Undo brings it back.</source>
+        <translation>Se ha quitado el disparo %1; Deshacer lo recupera.</translation>
+    </message>
+    <message>
+        <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
+        <translation>Los cambios más antiguos ya no se pueden deshacer: necesitaban más de %1 MB.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>

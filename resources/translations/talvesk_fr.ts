@@ -6401,6 +6401,18 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Redo &quot;%1&quot;</source>
         <translation>Refaire « %1 »</translation>
     </message>
+    <message>
+        <source>Remove shot</source>
+        <translation>Supprimer le tir</translation>
+    </message>
+    <message>
+        <source>Shot %1 is removed; Undo brings it back.</source>
+        <translation>Le tir %1 est supprimé ; « Défaire » le rétablit.</translation>
+    </message>
+    <message>
+        <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
+        <translation>Les modifications les plus anciennes ne peuvent plus être défaites : elles demandaient plus de %1 Mo.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>

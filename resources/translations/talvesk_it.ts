@@ -6401,6 +6401,18 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Redo &quot;%1&quot;</source>
         <translation>Ripeti modifica &quot;%1&quot;</translation>
     </message>
+    <message>
+        <source>Remove shot</source>
+        <translation>Togli il tiro</translation>
+    </message>
+    <message>
+        <source>Shot %1 is removed; Undo brings it back.</source>
+        <translation>Il tiro %1 è stato tolto; &quot;Annulla modifica&quot; lo ripristina.</translation>
+    </message>
+    <message>
+        <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
+        <translation>Le modifiche più vecchie non si possono più annullare: richiedevano più di %1 MB.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
