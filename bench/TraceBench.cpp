@@ -76,8 +76,8 @@ void frame(benchmark::State& state) {
   application();
   View view(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
   view.paint();
-  const TraceWindow whole = view.widget.window();
-  TraceWindow shorter = whole;
+  const ViewWindow whole = view.widget.window();
+  ViewWindow shorter = whole;
   shorter.bottom *= 0.999;
   bool toShorter = true;
   for (auto _ : state) {

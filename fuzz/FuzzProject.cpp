@@ -8,12 +8,14 @@
 #include "io/projectReader.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
+#include "model/SurveyFacts.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
 
 #include <QTemporaryDir>
 #include <cstdint>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -21,8 +23,8 @@ namespace {
 
 using namespace talvesk;
 
-const char* const kMembers[] = {kSurveyMember, kGridMember, kTracesMember, kPalettesMember,
-                                kRefractionMember};
+const char* const kMembers[] = {kSurveyMember,   kGridMember,       kTracesMember,
+                                kPalettesMember, kRefractionMember, "picks.xml"};
 
 void put(const std::string& path, const std::uint8_t* bytes, std::size_t size) {
   std::ofstream stream(path, std::ios::binary | std::ios::trunc);
@@ -32,7 +34,7 @@ void put(const std::string& path, const std::uint8_t* bytes, std::size_t size) {
 int save(const std::string& path, const std::string& work, const LoadedProject& project) {
   ProjectWriter writer;
   return writer.save(path, work, project.document, project.interpretation, project.palettes,
-                     project.section);
+                     project.section, project.own);
 }
 
 /// Two shots into three geophones, with traces and layers, without a file.
@@ -45,10 +47,11 @@ LoadedProject soundProject() {
     record.traceSetID = shot;
     record.ttMisurati.edit() = {0.01, 0.0, -99.0};
     record.ttCalcolati.edit() = {0.01, 0.02, 0.03};
+    record.setWaiting(0, shot == 0);
     project.document.ttArray.edit().push_back(record);
     Trace trace;
     trace.waveKind = Trace::kFromFile;
-    trace.sampleInterval = 0.001;
+    trace.sampleInterval = 0.01;  // the pick lies within the record
     trace.samples.edit() = {0, 1, 2};
     project.document.recordings.edit().traceSets.push_back({trace, trace, trace});
     project.document.line.edit().shotPositions.push_back(record.shotPos2d.x);
@@ -98,6 +101,11 @@ void demandWhole(const LoadedProject& project) {
   for (const TravelTime& record : document.ttArray) {
     demand(record.indexStesa >= -1 && record.indexStesa < strings, "a string that exists");
     demand(record.ttCalcolati.size() == record.ttMisurati.size(), "computed times");
+    for (std::size_t trace = 0; trace < record.unconfirmed.size(); ++trace) {
+      demand(!record.waits(trace) ||
+                 (trace < record.ttMisurati.size() && hasPick(record.ttMisurati[trace])),
+             "a pick that waits");
+    }
   }
   for (std::size_t i = 0; i < document.recordings->traceSets.size(); ++i) {
     demand(document.ttArray[i].ttMisurati.size() >= document.recordings->traceSets[i].size(),
@@ -119,7 +127,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   if (size == 0 || size > 100000) return 0;
   static const Workshop shop;
   const std::string archive = shop.root() + "fuzz.tvsk";
-  build(shop, bytes[0] % 6, bytes + 1, size - 1, archive);
+  build(shop, bytes[0] % (std::size(kMembers) + 1), bytes + 1, size - 1, archive);
   LoadedProject project;
   projectReader reader;
   const bool loaded = reader.load(archive, shop.work(), project) == 0;
@@ -130,5 +138,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   LoadedProject again;
   demand(reader.load(archive, shop.work(), again) == 0, "and loaded");
   demandWhole(again);
+  demand(again.own.carried.size() == project.own.carried.size() || !hasPicks(project.document),
+         "carried members stay with their part");
   return 0;
 }

@@ -59,6 +59,12 @@ def refraction(shot=0, layer=2):
             + "</refractData>" + sequence("ttLayer", [layers]) + TAIL)
 
 
+def picks(version=1, traces=(0,)):
+    return (HEAD + f"<version>{version}</version><picks>1</picks>"
+            + sequence("unconfirmed", ["".join(f"<value{i}>{t}</value{i}>"
+                                               for i, t in enumerate(traces)), ""]) + TAIL)
+
+
 MEMBERS = {
     "tomodoc.xml": [survey(), survey(0), survey(2, 7), survey(2, -1),
                     survey(extra="<title>a &lt; b</title><has_tomographic_info>true"
@@ -69,6 +75,7 @@ MEMBERS = {
     "traces.xml": [traces(), traces(0), traces(3), traces(files=2, samples=()), traces(files=3)],
     "palettes.xml": [palettes(), palettes(0), palettes(1, 99)],
     "refraction.xml": [refraction(), refraction(9), refraction(0, 9)],
+    "picks.xml": [picks(), picks(traces=(4294967295,)), picks(2), picks("x"), HEAD + TAIL],
 }
 
 

@@ -9,6 +9,7 @@
 #include "app/TableTexts.h"
 #include "app/WaitCursor.h"
 #include "base/Console.h"
+#include "io/FileFormats.h"
 #include "io/GeometryFile.h"
 #include "io/SWavePairFile.h"
 #include "model/GeometryCheck.h"
@@ -186,7 +187,7 @@ bool DialogSetGeometry::takesPairs() const {
 }
 
 QStringList DialogSetGeometry::askForRecordings(const QString& title, bool several) {
-  const QString filter = tr("Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)");
+  const QString filter = dialogFilter(shotFileFilters());
   QStringList files;
   if (several) {
     files = QFileDialog::getOpenFileNames(this, title, mFolders.toOpen(), filter);

@@ -1,7 +1,7 @@
 #include "app/LeftOutText.h"
 
 #include "app/GeometryTexts.h"
-#include "tomo/LeftOut.h"
+#include "model/LeftOut.h"
 
 #include <QCoreApplication>
 

@@ -35,4 +35,8 @@ QStringList linesOf(const std::vector<Message>& messages) {
   return lines;
 }
 
+QString dialogFilter(const std::vector<Message>& lines) {
+  return linesOf(lines).join(QLatin1String(";;"));
+}
+
 }  // namespace talvesk

@@ -15,4 +15,7 @@ QString textOf(const Message& message);
 /// Several messages, one a line.
 QStringList linesOf(const std::vector<Message>& messages);
 
+/// What a file dialog offers, of the lines of FileFormats.h.
+QString dialogFilter(const std::vector<Message>& lines);
+
 }  // namespace talvesk

@@ -4,6 +4,7 @@
 #include "app/LineIcon.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
+#include "app/ParameterField.h"
 #include "io/PaletteFile.h"
 #include "ui_PaletteDialog.h"
 #include "view/PaletteRepair.h"
@@ -70,6 +71,7 @@ PaletteDialog::PaletteDialog(ColorPaletteList& palettes, bool lockRange,
   mUi->loadButton->setIcon(lineIcon(QStringLiteral(":/icons/open-folder-with-document.png")));
   mUi->saveButton->setIcon(lineIcon(QStringLiteral(":/icons/save-file-option.png")));
   mUi->paletteCBox->setIconSize(kIconSize);
+  setUpField(*mUi->colorsSpinBox, parameters::kColors);
   mUi->colorsSpinBox->setKeyboardTracking(false);
   mUi->lockRangeCB->setChecked(lockRange);
   mUi->dataRangeButton->setEnabled(dataRange.has_value());

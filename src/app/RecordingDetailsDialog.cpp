@@ -1,5 +1,6 @@
 #include "app/RecordingDetailsDialog.h"
 
+#include "io/FileFormats.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "model/TomoDocument.h"
@@ -47,11 +48,9 @@ QString pathsOf(const TomoDocument& document, std::size_t set) {
   return paths.isEmpty() ? QStringLiteral("-") : paths;
 }
 
-QString formatName(const QString& format) {
-  if (format == QLatin1String("seg2")) return QStringLiteral("SEG-2");
-  if (format == QLatin1String("segy")) return QStringLiteral("SEG-Y");
-  if (format == QLatin1String("su")) return QStringLiteral("SU");
-  return QStringLiteral("-");
+QString formatName(const QString& id) {
+  const ShotFormat* format = shotFormatNamed(id.toStdString());
+  return QString::fromLatin1(format != nullptr ? format->name : "-");
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ Status write(const QString& file, const QString& folder, const Survey& copy,
              const std::string& note) {
   ProjectWriter writer;
   if (writer.save(file.toStdString(), folder.toStdString(), copy.document, copy.interpretation,
-                  copy.palettes, copy.section) != 0) {
+                  copy.palettes, copy.section, copy.own) != 0) {
     return Status::failure(writer.reason());
   }
   return writeFileAtomically(noteOf(file).toStdString(), note);
@@ -114,10 +114,10 @@ void RecoveryCopy::save(Survey copy, const ProjectFile& project) {
   mThread->start(QThread::LowPriority);
 }
 
-Status RecoveryCopy::saveNow(Survey copy, const ProjectFile& project) {
+Status RecoveryCopy::saveNow(const Survey& survey, const ProjectFile& project) {
   wait();
   if (!take()) return Status::failure(nothingCanBeWritten().toStdString());
-  return write(mFile, mFolder, copy, noteText(project));
+  return write(mFile, mFolder, survey, noteText(project));
 }
 
 QString RecoveryCopy::nothingCanBeWritten() const {

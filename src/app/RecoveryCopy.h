@@ -40,7 +40,7 @@ class RecoveryCopy : public QObject {
   /// \param project where the survey itself is saved, if it is
   void save(Survey copy, const ProjectFile& project);
   /// Saves a copy, after one that is being saved, and returns when it is there.
-  Status saveNow(Survey copy, const ProjectFile& project);
+  Status saveNow(const Survey& survey, const ProjectFile& project);
   bool isSaving() const { return mThread != nullptr; }
 
   /// Deletes the copy, if there is one. Nobody waits for one that is being saved: it goes when its

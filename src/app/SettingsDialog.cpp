@@ -43,6 +43,8 @@ SettingsDialog::SettingsDialog(const std::vector<Language>& languages, int curre
   mUi->languageCBox->setCurrentIndex(currentLanguage >= 0 ? currentLanguage
                                                           : languageOfSystem(languages));
   forEachOption(*mUi, settings, [](QCheckBox& box, bool value) { box.setChecked(value); });
+  mUi->undoMegabytes->setRange(Settings::kLeastUndo, Settings::kMostUndo);
+  mUi->undoMegabytes->setValue(settings.undoMegabytes);
   fitToScreen();
 }
 
@@ -67,6 +69,7 @@ int SettingsDialog::languageIndex() const {
 
 void SettingsDialog::apply(Settings& settings) const {
   forEachOption(*mUi, settings, [](const QCheckBox& box, bool& value) { value = box.isChecked(); });
+  settings.undoMegabytes = mUi->undoMegabytes->value();
 }
 
 }  // namespace talvesk

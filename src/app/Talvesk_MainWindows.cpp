@@ -5,6 +5,7 @@
 #include "app/WindowPlace.h"
 #include "app/presenters/CommandTable.h"
 #include "app/presenters/Presenters.h"
+#include "io/FileFormats.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
@@ -98,9 +99,9 @@ void Talvesk_MainWindows::openFiles(const QStringList& files) {
   QStringList travelTimes;
   QStringList projects;
   for (const QString& file : files) {
-    QStringList& kind = ProjectPresenter::takes(file)       ? projects
-                        : TravelTimesPresenter::takes(file) ? travelTimes
-                                                            : shots;
+    QStringList& kind = hasSuffixOf(projectFormat(), file.toStdString()) ? projects
+                        : looksLikeTravelTimes(file.toStdString())       ? travelTimes
+                                                                         : shots;
     kind << QFileInfo(file).absoluteFilePath();
   }
   // Each would take the place of the one before.

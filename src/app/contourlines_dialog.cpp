@@ -4,6 +4,7 @@
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/NumberText.h"
+#include "app/ParameterField.h"
 #include "app/SelectCSVDelimiterDialog.h"
 #include "app/TableTexts.h"
 #include "io/GeometryFile.h"
@@ -52,6 +53,9 @@ contourlines_dialog::contourlines_dialog(const ContourSettings& settings, Sectio
   // The look of a fault must be legible on light and on dark windows.
   mUi->faultLabel->setStyleSheet(warningStyle(*this));
   mUi->rowsLayout->setAlignment(Qt::AlignTop);
+  setUpField(*mUi->spinBox, parameters::kContours);
+  setUpField(*mUi->every_N_contour_lines_spinBox, parameters::kLabelEvery);
+  setUpField(*mUi->fontSize, parameters::kLabelSize);
   connectControls();
   fillIn(settings);
   mAtFirst = this->settings();

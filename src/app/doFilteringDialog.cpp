@@ -2,6 +2,7 @@
 
 #include "app/MessageText.h"
 #include "app/Messages.h"
+#include "app/ParameterField.h"
 #include "app/WaitCursor.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
@@ -46,6 +47,13 @@ doFilteringDialog::doFilteringDialog(TomoDocument& document, std::int32_t shot,
   mUi->setupUi(this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mUi->pictures->setSizes({240, 420});
+  setUpField(*mUi->doubleFxLowpass, parameters::kLowPass);
+  setUpField(*mUi->doubleFxHighPass, parameters::kHighPass);
+  for (QSpinBox* order : {mUi->lowPassOrder, mUi->hiPassOrder}) {
+    setUpField(*order, parameters::kFilterOrder);
+    order->setMinimum(0);  // who applies it is told that this is no filter
+    order->setValue(static_cast<int>(parameters::kProposedOrder.value));
+  }
   for (const std::int32_t other : alsoShots) {
     if (other != shot) mOthers.push_back(other);
   }

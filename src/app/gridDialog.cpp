@@ -3,6 +3,7 @@
 #include "app/LeftOutText.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
+#include "app/ParameterField.h"
 #include "app/ToolTips.h"
 #include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
@@ -16,7 +17,6 @@
 namespace talvesk {
 namespace {
 
-constexpr std::uint32_t kManyNodes = 15;
 constexpr double kFine = 0.5;     // of the size that suits the geophones: smaller is worth a word
 constexpr int kWarningLines = 6;  // that the place for warnings holds without moving the buttons
 
@@ -39,10 +39,12 @@ gridDialog::gridDialog(const TomoDocument& survey, const SurveyProfile& profile,
       mSearches(searches) {
   mUi->setupUi(this);
   wrapToolTips(*this);
+  setUpField(*mUi->maxDepthEdit, parameters::kDepth);
+  setUpField(*mUi->cellSizeEdit, parameters::kCellSize);
+  setUpField(*mUi->nodesEdit, parameters::kNodes);
   mUi->arrayLength->setText(QLocale().toString(profile.arrayLength, 'f', 2));
   mUi->maxDepthEdit->setMaximum(profile.arrayLength);
-  mUi->cellSizeEdit->setMinimum(kSmallestCell);
-  mUi->cellSizeEdit->setMaximum(std::max(profile.arrayLength, kSmallestCell));
+  mUi->cellSizeEdit->setMaximum(std::max(profile.arrayLength, mUi->cellSizeEdit->minimum()));
   mDepth = fill(proposed.maxDepth, profile.arrayLength, *mUi->maxDepthEdit);
   propose(true);
   mUi->nodesEdit->setValue(static_cast<int>(proposed.nodes));
@@ -159,7 +161,7 @@ void gridDialog::accept() {
     QMessageBox::warning(this, tr("Invalid parameter"),
                          tr("The max depth parameter set to 0.0 is not valid for tomography"));
   }
-  if (settings().nodes > kManyNodes) {
+  if (settings().nodes > parameters::kManyNodes.value) {
     QMessageBox::warning(this, tr("Memory warning"),
                          tr("A large number of nodes may require a lot of memory"));
   }

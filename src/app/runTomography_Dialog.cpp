@@ -1,6 +1,7 @@
 #include "app/runTomography_Dialog.h"
 
 #include "app/Messages.h"
+#include "app/ParameterField.h"
 #include "app/ToolTips.h"
 #include "ui_runTomography_Dialog.h"
 
@@ -13,8 +14,8 @@ namespace {
 constexpr int kHintLines = 2;  // that the place for the hint holds without moving the buttons
 
 int wholeNumber(double velocity) {
-  constexpr double kLargest = 999999999.0;
-  return std::isfinite(velocity) ? static_cast<int>(std::clamp(velocity, 0.0, kLargest)) : 0;
+  constexpr double kMost = parameters::kMaxVelocity.limits.most;
+  return std::isfinite(velocity) ? static_cast<int>(std::clamp(velocity, 0.0, kMost)) : 0;
 }
 
 }  // namespace
@@ -23,6 +24,12 @@ runTomography_Dialog::runTomography_Dialog(double minVelocity, double maxVelocit
     : QDialog(parent), mUi(std::make_unique<Ui::runTomography_Dialog>()) {
   mUi->setupUi(this);
   wrapToolTips(*this);
+  setUpField(*mUi->extIter_edit, parameters::kIterations);
+  setUpField(*mUi->solvIter_Edit, parameters::kSolverIterations);
+  setUpField(*mUi->smooth_Edit, parameters::kSmoothing);
+  setUpField(*mUi->minVelEdit, parameters::kMinVelocity);
+  setUpField(*mUi->maxVelEdit, parameters::kMaxVelocity);
+  mUi->typeOfSmoothingCBox->setCurrentIndex(parameters::kSmoothingType.initial);
   mUi->minVelEdit->setValue(wholeNumber(minVelocity));
   mUi->maxVelEdit->setValue(wholeNumber(maxVelocity));
   connect(mUi->minVelEdit, QOverload<int>::of(&QSpinBox::valueChanged), this,

@@ -1,5 +1,6 @@
 #include "app/setVelocityWidget.h"
 
+#include "app/ParameterField.h"
 #include "ui_setVelocityWidget.h"
 
 #include <algorithm>
@@ -10,6 +11,13 @@ namespace talvesk {
 setVelocityWidget::setVelocityWidget(const VelocityLayer& layer, QWidget* parent)
     : QWidget(parent), mUi(std::make_unique<Ui::setVelocityWidget>()) {
   mUi->setupUi(this);
+  for (QDoubleSpinBox* depth : {mUi->d1Edit, mUi->d2Edit}) {
+    setUpField(*depth, parameters::kLayerDepth);
+  }
+  for (QSpinBox* velocity : {mUi->v1Edit, mUi->v2Edit}) {
+    setUpField(*velocity, parameters::kLayerVelocity);
+    velocity->setMinimum(0);  // what a layer has that makes no model, of which the dialog tells
+  }
   setLayer(layer);
   for (QDoubleSpinBox* box : {mUi->d1Edit, mUi->d2Edit}) {
     connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,

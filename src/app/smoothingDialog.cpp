@@ -1,5 +1,6 @@
 #include "app/smoothingDialog.h"
 
+#include "app/ParameterField.h"
 #include "app/ToolTips.h"
 #include "ui_smoothingDialog.h"
 
@@ -9,6 +10,7 @@ smoothingDialog::smoothingDialog(SmoothingType proposed, QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::smoothingDialog>()) {
   mUi->setupUi(this);
   wrapToolTips(*this);
+  setUpField(*mUi->smooth_Edit, parameters::kSmoothing);
   mUi->typeOfSmoothingCBox->setCurrentIndex(static_cast<int>(proposed));
   mUi->typeOfSmoothingCBox->setFocus();
 }

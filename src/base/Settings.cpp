@@ -4,6 +4,7 @@
 #include "base/Console.h"
 
 #include <algorithm>
+#include <charconv>
 #include <exception>
 #include <sstream>
 
@@ -40,6 +41,19 @@ bool read(cereal::XMLInputArchive& archive, const char* key, bool& value) {
   return true;
 }
 
+/// A number of our own within its bounds: files of other programs lack it, which is nothing to
+/// tell.
+void readOwn(cereal::XMLInputArchive& archive, const char* key, int least, int most, int& value) {
+  std::string text;
+  if (!read(archive, key, text)) return;
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error == std::errc{} && end == text.data() + text.size() && number >= least &&
+      number <= most) {
+    value = number;
+  }
+}
+
 /// A value that came with a later version: false unless the file says otherwise.
 void readLater(cereal::XMLInputArchive& archive, const char* key, bool& value,
                const char* version) {
@@ -66,6 +80,8 @@ void readStages(cereal::XMLInputArchive& archive, Settings& settings) {
   readLater(archive, "showAllTraces", settings.showAllTraces, "2020.0");
   readLater(archive, "savePngHColorbar", settings.savePngHColorbar, "2020.0");
   readLater(archive, "twoColors", settings.twoColors, "2020.2");
+  readOwn(archive, "undoMegabytes", Settings::kLeastUndo, Settings::kMostUndo,
+          settings.undoMegabytes);
 }
 
 }  // namespace
@@ -93,7 +109,7 @@ Status Settings::save() const {
     cereal::XMLOutputArchive archive(stream);
     archive(CEREAL_NVP(language), CEREAL_NVP(zoomIn), CEREAL_NVP(cutHorizontal),
             CEREAL_NVP(fillWiggle), CEREAL_NVP(showFiltered), CEREAL_NVP(showAllTraces),
-            CEREAL_NVP(savePngHColorbar), CEREAL_NVP(twoColors));
+            CEREAL_NVP(savePngHColorbar), CEREAL_NVP(twoColors), CEREAL_NVP(undoMegabytes));
   } catch (const std::exception& error) {  // the archive writes its text as it goes out of scope
     return Status::failure(Message::tr("Cannot write %1: %2").arg(mPath).arg(error.what()));
   }

@@ -2,6 +2,7 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/OutputFiles.h"
+#include "io/TravelTimeFile.h"
 
 #include <ostream>
 #include <utility>

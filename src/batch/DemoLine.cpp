@@ -72,7 +72,8 @@ Grid groundUnder(const SurveyProfile& profile) {
   for (std::uint32_t cell = 0; cell < geometry->cellCount(); ++cell) {
     const double x = geometry->cellCentre(cell).x - profile.xOffset;
     // Deeper lines of the grid are smoothed copies of the surface; layers follow its rows.
-    const double depth = (cell / size.col + 0.5) * kCellSize;
+    const std::uint32_t row = cell / size.col;
+    const double depth = (row + 0.5) * kCellSize;
     slownesses[cell] = 1.0 / demoVelocity(x, depth);
   }
   return {std::move(geometry), std::move(slownesses)};

@@ -2,7 +2,7 @@
 
 #include "batch/OutputFiles.h"
 #include "batch/Progress.h"
-#include "io/TravelTimeFile.h"
+#include "io/TravelTimeData.h"
 
 #include <iosfwd>
 #include <string>

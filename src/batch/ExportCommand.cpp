@@ -6,17 +6,18 @@
 #include "batch/ProjectFiles.h"
 #include "batch/Reports.h"
 #include "export/ExportFailure.h"
-#include "export/GeoTransformer.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
+#include "io/TravelTimeFile.h"
+#include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
+#include "model/LeftOut.h"
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
-#include "tomo/LeftOut.h"
 #include "tomo/RayRecomputation.h"
 
 #include <ostream>
@@ -56,28 +57,19 @@ Status checkSystem(const ExportOptions& options) {
 int writeFiles(const ExportOptions& options, const LoadedProject& project, ValueRange range,
                std::ostream& summary) {
   const TomoDocument& document = project.document;
-  int exitCode = kDone;
-  const auto attempt = [&](const std::string& path, const auto& write) {
-    if (path.empty() || isDiscarded(path)) return;
-    if (const Status status = write(path); !status.ok()) {
-      exitCode = failed(status.message());
-    } else {
-      summary << "Wrote " << path << std::endl;
-    }
-  };
-  using Path = const std::string&;
-  attempt(options.gridded, [&](Path path) {
+  OutputAttempts attempt(&summary);
+  attempt(options.gridded, [&](const auto& path) {
     announceGriddedText(path);
     return writeGriddedText(path, document, options.griddedText);
   });
-  attempt(options.otte, [&](Path path) { return writeTravelTimes(path, document); });
-  attempt(options.vtk, [&](Path path) { return writeVtkGrid(path, document); });
-  attempt(options.surfer, [&](Path path) { return writeSurferGrid(path, document); });
-  attempt(options.kmlLine, [&](Path path) {
+  attempt(options.otte, [&](const auto& path) { return writeTravelTimes(path, document); });
+  attempt(options.vtk, [&](const auto& path) { return writeVtkGrid(path, document); });
+  attempt(options.surfer, [&](const auto& path) { return writeSurferGrid(path, document); });
+  attempt(options.kmlLine, [&](const auto& path) {
     const Status system = checkSystem(options);
     return system.ok() ? writeSeismicLineKml(path, document) : cannotWrite(path, system.message());
   });
-  attempt(options.kmlSection, [&](Path path) {
+  attempt(options.kmlSection, [&](const auto& path) {
     const Status system = checkSystem(options);
     return system.ok() ? writeSectionKml(path, document, project.palettes->current(), range)
                        : cannotWrite(path, system.message());
@@ -85,13 +77,13 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
   const SectionFigureOptions section = sectionFigureOptions(
       project.section, project.palettes->current(), profileLines(document, project.interpretation));
   for (const std::string& image : options.images) {
-    attempt(image, [&](Path path) { return writeSectionFigure(document, section, path); });
+    attempt(image, [&](const auto& path) { return writeSectionFigure(document, section, path); });
   }
-  attempt(options.report, [&](Path path) {
+  attempt(options.report, [&](const auto& path) {
     return writeReportFile({document, &*project.interpretation}, options.reportFields, section,
                            path);
   });
-  return exitCode;
+  return attempt.exitCode();
 }
 
 /// Makes ready what figures need: rays are not in a project.

@@ -6,6 +6,7 @@
 #include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
 #include "grid/SurveyProfile.h"
+#include "io/FileFormats.h"
 #include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
 #include "model/SurveyFacts.h"
@@ -80,7 +81,7 @@ class Inventory {
 
   void add(const std::string& file) {
     if (isProjectFile(file)) return addProject(file);
-    hasTravelTimeFileSuffix(file) ? addTravelTimes(file) : addShot(file);
+    travelTimeFormatOf(file) != nullptr ? addTravelTimes(file) : addShot(file);
   }
 
   int exitCode() const { return mExitCode; }
@@ -88,7 +89,7 @@ class Inventory {
   /// A single file that is no shot file has nothing to say when it cannot be read.
   bool hasJson() const {
     return mExitCode == kDone || mOptions.files.size() > 1 ||
-           hasShotFileSuffix(mOptions.files.front());
+           shotFormatOf(mOptions.files.front()) != nullptr;
   }
   std::string json() const {
     return mOptions.files.size() == 1 ? mValues.front() : jsonArray(mValues);
@@ -96,10 +97,9 @@ class Inventory {
 
  private:
   static Status neitherKind(const std::string& file) {
-    return Status::failure(file +
-                               ": its suffix is not of a travel-time file (.otte, .txt, .xyz, "
-                               ".csv) or a shot file (.seg2, .sg2, .dat, .sgy, .segy, .su) or "
-                               "a project (.tvsk)",
+    return Status::failure(file + ": its suffix is not of a travel-time file (" +
+                               travelTimeSuffixes() + ") or a shot file (" + shotSuffixes() +
+                               ") or a project (.tvsk)",
                            kUnknownSuffix);
   }
 
@@ -118,7 +118,7 @@ class Inventory {
   void addShot(const std::string& file) {
     ShotFileData data;
     const Status status =
-        hasShotFileSuffix(file) ? readShotFile(file, mState, data) : neitherKind(file);
+        shotFormatOf(file) != nullptr ? readShotFile(file, mState, data) : neitherKind(file);
     for (const std::string& warning : data.warnings) warn(file + ": " + warning);
     take(file, status, data, [&] { return shotFileJson(data, mOptions.samples); });
   }

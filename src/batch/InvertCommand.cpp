@@ -11,12 +11,13 @@
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
 #include "grid/GridBuilder.h"
+#include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
+#include "model/LeftOut.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/GridPreview.h"
-#include "tomo/LeftOut.h"
 
 #include <iostream>
 #include <utility>
@@ -152,27 +153,25 @@ void summarize(const InvertOptions& options, const TomoDocument& document,
 int writeResults(const InvertOptions& options, const LoadedProject& project,
                  const TomographyResult& result) {
   const TomoDocument& document = project.document;
-  int exitCode = kDone;
-  const auto attempt = [&](const std::string& path, const auto& write) {
-    if (path.empty() || isDiscarded(path)) return;
-    const Status status = write();
-    if (!status.ok()) exitCode = failed(status.message());
-  };
-  attempt(options.json, [&] { return writeOutput(options.json, inversionJson(document, result)); });
-  attempt(options.gridded, [&] {
-    announceGriddedText(options.gridded);
-    return writeGriddedText(options.gridded, document, {options.lineY, options.zOffset});
+  OutputAttempts attempt;
+  attempt(options.json,
+          [&](const auto& path) { return writeOutput(path, inversionJson(document, result)); });
+  attempt(options.gridded, [&](const auto& path) {
+    announceGriddedText(path);
+    return writeGriddedText(path, document, {options.lineY, options.zOffset});
   });
-  attempt(options.otte, [&] { return writeTravelTimes(options.otte, document); });
-  attempt(options.project, [&] { return writeProject(options.project, options.quiet, project); });
+  attempt(options.otte, [&](const auto& path) { return writeTravelTimes(path, document); });
+  attempt(options.project,
+          [&](const auto& path) { return writeProject(path, options.quiet, project); });
   for (const std::string& image : options.images) {
-    attempt(image, [&] { return writeSectionFigure(document, sectionFigure(options), image); });
+    attempt(image, [&](const auto& path) {
+      return writeSectionFigure(document, sectionFigure(options), path);
+    });
   }
-  attempt(options.report, [&] {
-    return writeReportFile({document}, options.reportFields, sectionFigure(options),
-                           options.report);
+  attempt(options.report, [&](const auto& path) {
+    return writeReportFile({document}, options.reportFields, sectionFigure(options), path);
   });
-  return exitCode;
+  return attempt.exitCode();
 }
 
 }  // namespace

@@ -8,7 +8,10 @@
 namespace talvesk {
 namespace {
 
-constexpr int kLargestInt = 2147483647;
+std::string rangeText(const Parameter<double>& parameter) {
+  return "(" + plainNumber(parameter.limits.least) + " to " + plainNumber(parameter.limits.most) +
+         ")";
+}
 
 VelocityLayer readLayer(const std::string& text) {
   const auto fields = splitFields(text, ':');
@@ -18,13 +21,13 @@ VelocityLayer readLayer(const std::string& text) {
   const auto field = [&](std::size_t i, Range<double> range) {
     return numberWithin("--layer " + text, std::string(fields[i]), range);
   };
-  constexpr Range<double> kDepth{0.0, 999.99};
-  constexpr Range<double> kVelocity{1.0, 999999.0};
+  const Range<double> depth = rangeOf(parameters::kLayerDepth);
+  const Range<double> velocity = rangeOf(parameters::kLayerVelocity);
   VelocityLayer layer;
-  layer.initialDepth = field(0, kDepth);
-  layer.finalDepth = field(1, kDepth);
-  layer.initialVelocity = field(2, kVelocity);
-  layer.finalVelocity = field(3, kVelocity);
+  layer.initialDepth = field(0, depth);
+  layer.finalDepth = field(1, depth);
+  layer.initialVelocity = field(2, velocity);
+  layer.finalVelocity = field(3, velocity);
   if (layer.finalDepth <= layer.initialDepth) {
     throw CLI::ValidationError("--layer", "'" + text + "': the bottom must be deeper than the top");
   }
@@ -32,29 +35,30 @@ VelocityLayer readLayer(const std::string& text) {
 }
 
 void addGridOptions(CLI::App& app, InvertOptions& options) {
-  addNumber(
-      app, "--cell-size", "M", Range<double>{kSmallestCell, 1e6},
-      "Side of the square cells, metres (default: a quarter of the smallest geophone spacing, at "
-      "least 0.1)",
-      [&](double value) {
-        options.cellSize = value;
+  using parameters::kCellSize, parameters::kDepth, parameters::kNodes;
+  addParameter(app, kCellSize, "M",
+               meaningOf(kCellSize) +
+                   " (default: a quarter of the smallest geophone spacing, at least " +
+                   plainNumber(kCellSize.limits.least) + ")",
+               [&](double value) {
+                 options.cellSize = value;
+                 options.ownGrid = true;
+               })
+      ->group("Grid");
+  addParameter(app, kDepth, "M",
+               meaningOf(kDepth) + ", at most the array length (default: half the array length)",
+               [&](double value) {
+                 options.depth = value;
+                 options.ownGrid = true;
+               })
+      ->group("Grid");
+  addParameter(
+      app, kNodes, "N",
+      meaningOf(kNodes) + ", at least " + plainNumber(kNodes.limits.least) + defaultOf(kNodes),
+      [&](int value) {
+        options.nodes = value;
         options.ownGrid = true;
       })
-      ->group("Grid");
-  addNumber(app, "--depth", "M", Range<double>{0.0, 1e6},
-            "Depth of the grid below the surface, metres, at most the array length "
-            "(default: half the array length)",
-            [&](double value) {
-              options.depth = value;
-              options.ownGrid = true;
-            })
-      ->group("Grid");
-  addNumber(app, "--nodes", "N", Range<int>{6, 1000},
-            "Nodes per cell side, at least 6 (default: 6)",
-            [&](int value) {
-              options.nodes = value;
-              options.ownGrid = true;
-            })
       ->group("Grid");
   app.add_option_function<std::vector<std::string>>(
          "--layer",
@@ -62,60 +66,57 @@ void addGridOptions(CLI::App& app, InvertOptions& options) {
            for (const std::string& text : texts) options.layers.push_back(readLayer(text));
            options.ownGrid = true;
          },
-         "One layer of the starting model: depths of top and bottom in metres below the surface "
-         "(0 to 999.99), velocities at top and bottom in m/s (1 to 999999). Once per "
-         "layer, from the top down, each beginning with the velocity that the one above ends with "
-         "(default: a model that grows with depth)")
+         "One layer of the starting model: depths of top and bottom in metres below the surface " +
+             rangeText(parameters::kLayerDepth) + ", velocities at top and bottom in m/s " +
+             rangeText(parameters::kLayerVelocity) +
+             ". Once per "
+             "layer, from the top down, each beginning with the velocity that the one above ends "
+             "with "
+             "(default: a model that grows with depth)")
       ->type_name("TOP:BOTTOM:VTOP:VBOTTOM")
       ->allow_extra_args(false)
       ->group("Grid");
 }
 
+SmoothingType readSmoothing(const std::string& text) {
+  const auto& words = parameters::kSmoothingType.words;
+  const auto found = std::find(words.begin(), words.end(), text);
+  if (found != words.end()) return smoothingTypeOf(static_cast<int>(found - words.begin()));
+  std::string all;
+  for (const char* word : words) all += (all.empty() ? "" : ", ") + std::string(word);
+  throw CLI::ValidationError("--smoothing-type", "'" + text + "' is none of " + all);
+}
+
 void addRunOptions(CLI::App& app, InvertOptions& options) {
   TomographyParameters& run = options.parameters;
-  const auto count = [&](const char* name, int& target, const std::string& help) {
-    addNumber(app, name, "N", Range<int>{1, kLargestInt}, help, [&target](int value) {
-      target = value;
-    })->group("Inversion");
+  const auto count = [&](const Parameter<int>& parameter, int& target) {
+    addParameter(app, parameter, "N", meaningOf(parameter) + defaultOf(parameter),
+                 [&target](int value) { target = value; })
+        ->group("Inversion");
   };
-  count("--iterations", run.externalIterations,
-        "External iterations, each with new rays (default: 10)");
-  count("--solver-iterations", run.solverIterations,
-        "Solver iterations on the rays of one external iteration (default: 20)");
-  count("--smoothing", run.smoothing, "Smoothing radius, cells (default: 5)");
+  count(parameters::kIterations, run.externalIterations);
+  count(parameters::kSolverIterations, run.solverIterations);
+  count(parameters::kSmoothing, run.smoothing);
+  const auto& words = parameters::kSmoothingType.words;
   app.add_option_function<std::string>(
-         "--smoothing-type",
-         [&](const std::string& text) {
-           if (text == "uniform") {
-             run.smoothingType = SmoothingType::kUniform;
-           } else if (text == "linear") {
-             run.smoothingType = SmoothingType::kLinear;
-           } else if (text == "gaussian") {
-             run.smoothingType = SmoothingType::kGaussian;
-           } else if (text == "ray") {
-             run.smoothingType = SmoothingType::kRayBased;
-           } else {
-             throw CLI::ValidationError("--smoothing-type", "'" + text +
-                                                                "' is none of uniform, linear, "
-                                                                "gaussian, ray");
-           }
-         },
-         "uniform, linear, gaussian or ray (default: ray)")
+         std::string("--") + parameters::kSmoothingType.key,
+         [&](const std::string& text) { run.smoothingType = readSmoothing(text); },
+         std::string(words[0]) + ", " + words[1] + ", " + words[2] + " or " + words[3] +
+             " (default: " + words[parameters::kSmoothingType.initial] + ")")
       ->type_name("TYPE")
       ->group("Inversion");
   app.add_flag("--symmetric", run.symmetric,
-               "Smooth as far up and down as sideways, instead of 0.7 times as far")
+               "Smooth as far up and down as sideways, instead of " +
+                   plainNumber(parameters::kFlatness.value) + " times as far")
       ->group("Inversion");
-  const auto velocity = [&](const char* name, std::optional<double>& target,
-                            const std::string& help) {
-    addNumber(app, name, "M/S", Range<double>{1.0, 999999999.0}, help, [&target](double value) {
-      target = value;
-    })->group("Inversion");
+  const auto velocity = [&](const Parameter<double>& parameter, std::optional<double>& target) {
+    addParameter(app, parameter, "M/S",
+                 meaningOf(parameter) + defaultOf(parameter, "that of the project, else "),
+                 [&target](double value) { target = value; })
+        ->group("Inversion");
   };
-  velocity("--min-velocity", options.minVelocity,
-           "Least velocity of a cell, m/s (default: that of the project, else 250)");
-  velocity("--max-velocity", options.maxVelocity,
-           "Greatest velocity of a cell, m/s (default: that of the project, else 3500)");
+  velocity(parameters::kMinVelocity, options.minVelocity);
+  velocity(parameters::kMaxVelocity, options.maxVelocity);
   app.add_flag("--single-thread", run.singleThread,
                "Trace rays on one processor; the results are the same")
       ->group("Inversion");
@@ -134,8 +135,8 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
       addImages(app, options.images, "Draw the section: .png, .svg or .pdf; once per picture");
   CLI::Option* rays = app.add_flag("--rays", options.rays, "Draw the rays in --image");
   CLI::Option* contours =
-      addNumber(app, "--contours", "N", Range<int>{0, 100},
-                "Number of contour lines of velocity in --image and --report (default: 0)",
+      addNumber(app, "--contours", "N", Range<int>{0, parameters::kContours.limits.most},
+                meaningOf(parameters::kContours) + " in --image and --report (default: 0)",
                 [&](int value) { options.contours = value; });
   for (CLI::Option* option : {lineY, zOffset}) option->needs(gridded);
   rays->needs(image);
@@ -164,9 +165,9 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   const auto inputs = std::make_shared<std::vector<std::string>>();
   command
       .add_option("INPUT", *inputs,
-                  "One travel-time file (.otte, .txt, .xyz, .csv), one project (.tvsk), or shot "
-                  "files (.seg2, .sg2, .dat, .sgy, .segy, .su). A project brings its grid and "
-                  "velocities to start from, unless an option of the grid is given")
+                  kindsOfInput() +
+                      ". A project brings its grid and velocities to start from, "
+                      "unless an option of the grid is given")
       ->required();
   const ShotOptionGroup shots = addShotOptions(command, options.shots);
   addGridOptions(command, options);

@@ -1,4 +1,4 @@
-#include "batch/Options.h"
+#include "batch/CommandLine.h"
 
 #include <iostream>
 #include <string>

@@ -36,6 +36,9 @@ CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
 /// --report and what it says of those it concerns.
 CLI::Option* addReport(CLI::App& command, std::string& path, ReportFields& fields);
 
+/// What sortInputs() takes, for a help text.
+std::string kindsOfInput();
+
 /// Tells shot files from a travel-time file, which stands alone and has nothing to be filtered.
 /// Throws CLI::ValidationError for what does not go together.
 void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, std::string& input,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/TextNumber.h"
+#include "model/Parameters.h"
 
 #include <charconv>
 #include <cmath>
@@ -32,6 +33,12 @@ bool readWhole(std::string_view text, T& value) {
   return true;
 }
 
+/// As help and messages write it: "0.1".
+template <typename T>
+std::string plainNumber(T value) {
+  return formatDouble(static_cast<double>(value), 10);
+}
+
 /// The number, or CLI::ValidationError that names the range. \param what for the message
 template <typename T>
 T numberWithin(const std::string& what, const std::string& text, Range<T> range) {
@@ -39,8 +46,8 @@ T numberWithin(const std::string& what, const std::string& text, Range<T> range)
   if (readWhole(text, value) && value >= range.least && value <= range.greatest) return value;
   const std::string kind = std::is_integral_v<T> ? "a whole number" : "a number";
   throw CLI::ValidationError(what, "'" + text + "' is not " + kind + " from " +
-                                       formatDouble(static_cast<double>(range.least), 10) + " to " +
-                                       formatDouble(static_cast<double>(range.greatest), 10));
+                                       plainNumber(range.least) + " to " +
+                                       plainNumber(range.greatest));
 }
 
 /// An option with one number; `assign` takes it once it is in range.
@@ -55,6 +62,32 @@ CLI::Option* addNumber(CLI::App& app, const std::string& name, const std::string
           },
           help)
       ->type_name(unit);
+}
+
+template <typename T>
+constexpr Range<T> rangeOf(const Parameter<T>& parameter) {
+  return {parameter.limits.least, parameter.limits.most};
+}
+
+/// "Smoothing radius, cells": what a parameter is, and its unit.
+template <typename T>
+std::string meaningOf(const Parameter<T>& parameter) {
+  const std::string unit = parameter.unit;
+  return parameter.help + (unit.empty() ? unit : ", " + unit);
+}
+
+/// " (default: 250)". \param unless what comes first: "that of the project, else "
+template <typename T>
+std::string defaultOf(const Parameter<T>& parameter, const std::string& unless = {}) {
+  return " (default: " + unless + plainNumber(parameter.initial) + ")";
+}
+
+/// An option that is a row of the table of parameters.
+/// \param type stands for the value where the option is listed
+template <typename T, typename Assign>
+CLI::Option* addParameter(CLI::App& app, const Parameter<T>& parameter, const std::string& type,
+                          const std::string& help, Assign assign) {
+  return addNumber(app, std::string("--") + parameter.key, type, rangeOf(parameter), help, assign);
 }
 
 CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,

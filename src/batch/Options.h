@@ -3,6 +3,7 @@
 #include "export/GriddedText.h"
 #include "grid/VelocityLayers.h"
 #include "model/GeographicsCoord.h"
+#include "model/Parameters.h"
 #include "processing/ShotFilters.h"
 #include "tomo/TomographyRun.h"
 #include "view/ColorPalette.h"
@@ -64,15 +65,15 @@ struct ReportFields {
 struct InvertOptions {
   std::string input;  ///< travel-time file or project; none: shot files
   ShotOptions shots;
-  std::optional<double> cellSize;     ///< metres; none: as proposed
-  std::optional<double> depth;        ///< metres; none: half the array length
-  int nodes = 6;                      ///< per cell side
-  std::vector<VelocityLayer> layers;  ///< none: the grid's default model
-  bool ownGrid = false;               ///< one of the above was given
-  TomographyParameters parameters;    ///< but the velocities: those are the next two
-  std::optional<double> minVelocity;  ///< m/s; none: that of the survey
-  std::optional<double> maxVelocity;  ///< m/s; none: that of the survey
-  std::string project;                ///< to save the survey in
+  std::optional<double> cellSize;          ///< metres; none: as proposed
+  std::optional<double> depth;             ///< metres; none: half the array length
+  int nodes = parameters::kNodes.initial;  ///< per cell side
+  std::vector<VelocityLayer> layers;       ///< none: the grid's default model
+  bool ownGrid = false;                    ///< one of the above was given
+  TomographyParameters parameters;         ///< but the velocities: those are the next two
+  std::optional<double> minVelocity;       ///< m/s; none: that of the survey
+  std::optional<double> maxVelocity;       ///< m/s; none: that of the survey
+  std::string project;                     ///< to save the survey in
   std::string gridded;
   double lineY = 0.0;               ///< metres
   double zOffset = 0.0;             ///< metres
@@ -139,22 +140,5 @@ struct DemoOptions {
 
 using CommandOptions = std::variant<InfoOptions, PickOptions, InvertOptions, RefractOptions,
                                     ExportOptions, ConvertOptions, DemoOptions>;
-
-/// A command to run, or none and the exit code to leave with: help was printed on standard output,
-/// or what is wrong on standard error.
-struct CommandLine {
-  std::optional<CommandOptions> command;
-  int exitCode = kDone;
-};
-
-/// Understands the command line. Numbers are decimal with a point in every locale, and must be
-/// nothing but a number in the range that the help text names.
-CommandLine parseCommandLine(int argc, const char* const* argv);
-
-enum class ManualKind { kManualPage, kBashCompletion };
-
-/// The manual page (troff) or the completion of the shell for all commands and options, made from
-/// the same table that parses them.
-std::string manualOfCommands(ManualKind kind);
 
 }  // namespace talvesk

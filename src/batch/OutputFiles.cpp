@@ -3,6 +3,7 @@
 #include "base/AtomicFile.h"
 #include "base/StandardStreams.h"
 #include "base/StreamPlace.h"
+#include "batch/Failure.h"
 #include "batch/Options.h"
 
 #include <QDir>
@@ -101,6 +102,15 @@ Status writeOutput(const std::string& path, const std::string& text) {
   std::cout << text << std::flush;
   if (std::cout) return {};
   return Status::failure("Cannot write to the standard output");
+}
+
+void OutputAttempts::operator()(const std::string& path, const Write& write) {
+  if (path.empty() || isDiscarded(path)) return;
+  if (const Status status = write(path); !status.ok()) {
+    mExitCode = failed(status.message());
+  } else if (mSummary != nullptr) {
+    *mSummary << "Wrote " << path << std::endl;
+  }
 }
 
 }  // namespace talvesk

@@ -2,6 +2,8 @@
 
 #include "base/Status.h"
 
+#include <functional>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -30,5 +32,22 @@ Status checkOutputFiles(const std::vector<OutputFile>& outputs,
 
 /// Writes to a file, whole or not at all, or to standard output for "-".
 Status writeOutput(const std::string& path, const std::string& text);
+
+/// Tries one output after the other: a picture that cannot be drawn must not cost the numbers.
+class OutputAttempts {
+ public:
+  using Write = std::function<Status(const std::string& path)>;
+
+  /// \param summary is told of every file that was written; null: nobody is
+  explicit OutputAttempts(std::ostream* summary = nullptr) : mSummary(summary) {}
+
+  /// Nothing for a path that was not given, or where nobody wants it. A failure is told.
+  void operator()(const std::string& path, const Write& write);
+  int exitCode() const { return mExitCode; }  ///< of a command that has tried them all
+
+ private:
+  std::ostream* mSummary;
+  int mExitCode = 0;
+};
 
 }  // namespace talvesk

@@ -7,6 +7,7 @@
 #include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
+#include "io/TravelTimeFile.h"
 
 #include <sstream>
 
@@ -14,11 +15,11 @@ namespace talvesk {
 namespace {
 
 /// The writer tells the console of surveys that its format cannot hold.
-Status writePicks(const PickOptions& options, const TomoDocument& document) {
+Status writePicks(const std::string& path, const TomoDocument& document) {
   std::ostringstream remarks;
   std::ostream& before = console::error();
   console::setError(remarks);
-  const Status status = writeTravelTimes(options.otte, document);
+  const Status status = writeTravelTimes(path, document);
   console::setError(before);
   if (status.ok() && !remarks.str().empty()) warn(remarks.str());
   return status;
@@ -27,23 +28,19 @@ Status writePicks(const PickOptions& options, const TomoDocument& document) {
 /// Tries every output: a picture that cannot be drawn must not cost the picks.
 int writeResults(const PickOptions& options, const LoadedProject& project) {
   const TomoDocument& document = project.document;
-  int exitCode = kDone;
-  const auto attempt = [&](const std::string& path, const auto& write) {
-    if (path.empty() || isDiscarded(path)) return;
-    const Status status = write();
-    if (!status.ok()) exitCode = failed(status.message());
-  };
-  attempt(options.otte, [&] { return writePicks(options, document); });
-  attempt(options.project, [&] { return writeProject(options.project, options.quiet, project); });
-  attempt(options.json, [&] {
-    return writeOutput(options.json, picksJson(document, nameOf(options.shots.filter)));
+  OutputAttempts attempt;
+  attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
+  attempt(options.project,
+          [&](const auto& path) { return writeProject(path, options.quiet, project); });
+  attempt(options.json, [&](const auto& path) {
+    return writeOutput(path, picksJson(document, nameOf(options.shots.filter)));
   });
   for (const std::string& image : options.images) {
-    attempt(image, [&] {
-      return drawGathers(document, options.shots.filter != PickFilter::kNone, image);
+    attempt(image, [&](const auto& path) {
+      return drawGathers(document, options.shots.filter != PickFilter::kNone, path);
     });
   }
-  return exitCode;
+  return attempt.exitCode();
 }
 
 }  // namespace

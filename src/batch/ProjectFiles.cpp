@@ -5,9 +5,11 @@
 #include "base/TextNumber.h"
 #include "base/WorkingFolder.h"
 #include "batch/Failure.h"
+#include "io/FileFormats.h"
 #include "io/ProjectLock.h"
 #include "io/ProjectWriter.h"
 #include "model/GroundModel.h"
+#include "model/LeftOut.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -15,7 +17,6 @@
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "tomo/ForwardPass.h"
-#include "tomo/LeftOut.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -74,9 +75,7 @@ void warnOfHolder(const std::string& path, const ProjectHolder& holder) {
 }  // namespace
 
 bool isProjectFile(const std::string& path) {
-  const QLatin1String suffix(".tvsk");
-  const QString name = QString::fromStdString(path);
-  return name.size() > suffix.size() && name.endsWith(suffix, Qt::CaseInsensitive);
+  return hasSuffixOf(projectFormat(), path);
 }
 
 Status readProject(const std::string& path, LoadedProject& project) {
@@ -101,7 +100,7 @@ Status writeProject(const std::string& path, bool quiet, const LoadedProject& pr
   if (lock.holder) warnOfHolder(path, *lock.holder);
   ProjectWriter writer;
   if (writer.save(path, folder, project.document, project.interpretation, project.palettes,
-                  project.section) != 0) {
+                  project.section, project.own) != 0) {
     return Status::failure("The project " + path + " has not been saved: " + writer.message());
   }
   if (quiet) return {};

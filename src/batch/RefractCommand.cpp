@@ -92,28 +92,27 @@ int writeResults(const RefractOptions& options, const LoadedProject& project,
                  const std::vector<RefractionWarning>& warnings) {
   const TomoDocument& document = project.document;
   const Interpretation& interpretation = *project.interpretation;
-  int exitCode = kDone;
-  const auto attempt = [&](const std::string& path, const auto& write) {
-    if (path.empty() || isDiscarded(path)) return;
-    const Status status = write();
-    if (!status.ok()) exitCode = failed(status.message());
-  };
-  attempt(options.json,
-          [&] { return writeOutput(options.json, refractionJson(interpretation, warnings)); });
-  attempt(options.table,
-          [&] { return writeOutput(options.table, profileTable(interpretation.refractData)); });
-  attempt(options.project, [&] { return writeProject(options.project, options.quiet, project); });
+  OutputAttempts attempt;
+  attempt(options.json, [&](const auto& path) {
+    return writeOutput(path, refractionJson(interpretation, warnings));
+  });
+  attempt(options.table, [&](const auto& path) {
+    return writeOutput(path, profileTable(interpretation.refractData));
+  });
+  attempt(options.project,
+          [&](const auto& path) { return writeProject(path, options.quiet, project); });
   for (const std::string& image : options.images) {
-    attempt(image,
-            [&] { return writeRefractionFigure(document, interpretation.refractData, {}, image); });
+    attempt(image, [&](const auto& path) {
+      return writeRefractionFigure(document, interpretation.refractData, {}, path);
+    });
   }
-  attempt(options.report, [&] {
+  attempt(options.report, [&](const auto& path) {
     return writeReportFile({document, &interpretation}, options.reportFields,
                            sectionFigureOptions(project.section, project.palettes->current(),
                                                 refractorLines(interpretation)),
-                           options.report);
+                           path);
   });
-  return exitCode;
+  return attempt.exitCode();
 }
 
 std::vector<OutputFile> outputsOf(const RefractOptions& options) {

@@ -11,22 +11,17 @@ void addRefract(CLI::App& app, RefractOptions& options) {
                                           "reciprocal method: velocities and depths "
                                           "of one or two refractors under the line");
   const auto inputs = std::make_shared<std::vector<std::string>>();
-  command
-      .add_option("INPUT", *inputs,
-                  "One travel-time file (.otte, .txt, .xyz, .csv), one project (.tvsk), or shot "
-                  "files (.seg2, .sg2, .dat, .sgy, .segy, .su)")
-      ->required();
+  command.add_option("INPUT", *inputs, kindsOfInput())->required();
   const ShotOptionGroup shots = addShotOptions(command, options.shots);
   CLI::Option* layers = addPath(
       command, "--layers", options.layers,
       "Which layer every trace belongs to: a line per shot, a number per trace separated by "
       "';', 1 the direct wave, 2 and 3 the refractors, 0 none (default: those of the project, else "
       "as proposed from the break points of the branches)");
-  CLI::Option* xy =
-      addNumber(command, "--xy", "M", Range<int>{-4, 4},
-                "Half the distance between the points at which forward and reverse "
-                "arrivals are taken, whole metres (default: that of the project, else 0)",
-                [&](int value) { options.xy = value; });
+  CLI::Option* xy = addParameter(
+      command, parameters::kXY, "M",
+      meaningOf(parameters::kXY) + defaultOf(parameters::kXY, "that of the project, else "),
+      [&](int value) { options.xy = value; });
   for (CLI::Option* option : {layers, xy}) option->group("Interpretation");
   CLI::Option* json = addPath(command, "--json", options.json,
                               "Write the results as JSON; '-' is standard output, and then all "

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "io/ShotRecord.h"
-#include "io/TravelTimeFile.h"
+#include "io/TravelTimeData.h"
 #include "io/projectReader.h"
 #include "model/TomoDocument.h"
 #include "tomo/TomographyRun.h"

@@ -1,8 +1,7 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
+#include "io/FileFormats.h"
 #include "io/GeometryFile.h"
-#include "io/ShotFile.h"
-#include "processing/TraceFilters.h"
 
 #include <algorithm>
 
@@ -26,19 +25,21 @@ std::string readSeparator(const std::string& text) {
 }
 
 /// Cut-off and order of one end of the band.
-std::vector<CLI::Option*> addCorner(CLI::App& command, const std::string& name,
-                                    const std::string& help, std::optional<FilterCorner>& corner) {
+std::vector<CLI::Option*> addCorner(CLI::App& command, const Parameter<double>& frequency,
+                                    std::optional<FilterCorner>& corner) {
   CLI::Option* cutOff =
-      addNumber(command, name, "HZ", Range<double>{1e-6, 1e9}, help, [&corner](double hertz) {
+      addParameter(command, frequency, "HZ", frequency.help, [&corner](double hertz) {
         if (!corner) corner.emplace();
         corner->hertz = hertz;
       });
-  CLI::Option* orderOption = addNumber(
-      command, name + "-order", "N", Range<int>{1, kMaxFilterOrder},
-      "Order of the Butterworth filter of " + name + " (default: 1)", [&corner](int value) {
-        if (!corner) corner.emplace();
-        corner->order = value;
-      });
+  constexpr const Parameter<int>& kOrder = parameters::kFilterOrder;
+  const std::string name = std::string("--") + frequency.key;
+  CLI::Option* orderOption =
+      addNumber(command, name + '-' + kOrder.key, "N", rangeOf(kOrder),
+                kOrder.help + (" of " + name) + defaultOf(kOrder), [&corner](int value) {
+                  if (!corner) corner.emplace();
+                  corner->order = value;
+                });
   orderOption->needs(cutOff);
   return {cutOff, orderOption};
 }
@@ -75,16 +76,14 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
           .add_option_function<std::string>(
               "--filter", [&](const std::string& text) { shots.filter = readFilter(text); },
               "What to pick on: none, the samples as they are; agc, after automatic gain "
-              "control; hushel, 14 to 85 Hz; band, what --low and --high leave (default: none)")
+              "control; hushel, " +
+                  plainNumber(parameters::kHushelHigh.value) + " to " +
+                  plainNumber(parameters::kHushelLow.value) +
+                  " Hz; band, what --low and --high leave (default: none)")
           ->type_name("TYPE"));
-  for (CLI::Option* option :
-       addCorner(command, "--low", "Low-pass: keep what is below this frequency", shots.band.low)) {
+  for (CLI::Option* option : addCorner(command, parameters::kLowPass, shots.band.low)) add(option);
+  for (CLI::Option* option : addCorner(command, parameters::kHighPass, shots.band.high))
     add(option);
-  }
-  for (CLI::Option* option : addCorner(
-           command, "--high", "High-pass: keep what is above this frequency", shots.band.high)) {
-    add(option);
-  }
   add(command.add_flag("--as-recorded", shots.asRecorded,
                        "Count time from the first sample of a record, also when recording began "
                        "before the shot"));
@@ -110,10 +109,15 @@ CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
   return mustEndIn(image, {".png", ".svg", ".pdf"}, true);
 }
 
+std::string kindsOfInput() {
+  return "One travel-time file (" + travelTimeSuffixes() +
+         "), one project (.tvsk), or shot files (" + shotSuffixes() + ")";
+}
+
 void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, std::string& input,
                 std::vector<std::string>& shotFiles) {
   const auto shots =
-      static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), hasShotFileSuffix));
+      static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), shotFormatOf));
   if (shots == inputs.size()) {
     shotFiles = inputs;
     return;

@@ -5,6 +5,7 @@
 #include "batch/ProjectFiles.h"
 #include "io/GeometryFile.h"
 #include "io/ShotLoader.h"
+#include "io/TravelTimeFile.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"

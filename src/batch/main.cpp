@@ -1,8 +1,8 @@
 #include "base/FileReplacement.h"
 #include "base/StandardStreams.h"
+#include "batch/CommandLine.h"
 #include "batch/Commands.h"
 #include "batch/Failure.h"
-#include "batch/Options.h"
 
 #include <QTextCodec>
 #include <exception>

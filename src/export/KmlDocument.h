@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
-#include "export/GeoTransformer.h"
+#include "model/GeoTransformer.h"
 
 #include <QByteArray>
 #include <QString>

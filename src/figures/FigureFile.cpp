@@ -1,7 +1,6 @@
 #include "figures/FigureFile.h"
 
 #include "base/TextNumber.h"
-#include "figures/FigureOutput.h"
 
 #include <QBuffer>
 #include <QByteArray>
@@ -111,6 +110,12 @@ Status outside(Message refusal, double value, double least, double most) {
 }
 
 }  // namespace
+
+void setResolution(QImage& image, double dpi) {
+  const int dotsPerMeter = static_cast<int>(std::lround(dpi * 1000.0 / kMmPerInch));
+  image.setDotsPerMeterX(dotsPerMeter);
+  image.setDotsPerMeterY(dotsPerMeter);
+}
 
 Status figureFormatOf(const std::string& path, FigureFormat& format) {
   const QString name = QString::fromStdString(path);

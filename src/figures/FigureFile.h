@@ -8,10 +8,13 @@
 
 class QByteArray;
 class QFont;
+class QImage;
 class QPainter;
 class QRectF;
 
 namespace talvesk {
+
+inline constexpr double kMmPerInch = 25.4;
 
 enum class FigureFormat { kPng, kSvg, kPdf };
 
@@ -50,6 +53,9 @@ Status paintFigurePages(
     const FigureSheet& sheet, std::size_t pages,
     const std::function<Status(std::size_t page, QPainter&, const QRectF&)>& paint,
     QByteArray& bytes);
+
+/// Tells who paints on an image how many of its pixels are an inch.
+void setResolution(QImage& image, double dpi);
 
 /// A figure that is laid out and waits for a device: who puts several on a page, or one into a
 /// document, paints it. `paint` may be called any number of times.

@@ -4,18 +4,10 @@
 
 #include <QApplication>
 #include <QByteArray>
-#include <QImage>
 #include <algorithm>
-#include <cmath>
 #include <string_view>
 
 namespace talvesk {
-
-void setResolution(QImage& image, double dpi) {
-  const int dotsPerMeter = static_cast<int>(std::lround(dpi * 1000.0 / kMmPerInch));
-  image.setDotsPerMeterX(dotsPerMeter);
-  image.setDotsPerMeterY(dotsPerMeter);
-}
 
 Status checkApplication(const std::string& what) {
   if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) return {};

@@ -8,16 +8,10 @@
 #include <string>
 
 class QByteArray;
-class QImage;
 
 namespace talvesk {
 
 // What all figures do on their way from options to a file.
-
-inline constexpr double kMmPerInch = 25.4;
-
-/// Tells who paints on an image how many of its pixels are an inch.
-void setResolution(QImage& image, double dpi);
 
 /// Plots are made of widgets: fails before the QApplication exists. \param what "A section"
 Status checkApplication(const std::string& what);

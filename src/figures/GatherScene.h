@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
-#include "figures/GatherFigure.h"
+#include "figures/GatherFigureOptions.h"
 
 #include <cstddef>
 #include <limits>
@@ -10,6 +10,8 @@
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// A trace as a gather shows it: about its median, as a part of its full swing.
 struct GatherTrace {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "figures/Report.h"
+#include "base/Status.h"
+#include "figures/ReportOptions.h"
 
 #include <QCoreApplication>
 #include <limits>

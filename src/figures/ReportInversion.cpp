@@ -1,10 +1,11 @@
 #include "figures/ReportBuilder.h"
+#include "figures/SectionFigure.h"
 #include "figures/TravelTimeFigure.h"
 #include "model/GroundModel.h"
 #include "model/Residuals.h"
+#include "model/SmoothingType.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
-#include "tomo/Smoothing.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,29 +18,17 @@ namespace {
 constexpr double kCurvesHeightMm = 110.0;
 constexpr double kHighestSectionMm = 200.0;  ///< leaves a caption its place
 
-/// What the residuals of some picks come to; milliseconds and percent.
-struct Fit {
-  int count = 0;
-  double squares = 0.0;
-  double relativeSquares = 0.0;
-  double sum = 0.0;
-  double largest = 0.0;
-
-  void take(const Residual& each) {
-    ++count;
-    const double ms = 1e3 * each.residual;
-    squares += ms * ms;
-    relativeSquares += each.residual * each.residual / (each.measured * each.measured);
-    sum += ms;
-    if (std::abs(ms) > std::abs(largest)) largest = ms;
-  }
-  QStringList texts() const {
-    if (count == 0) return {number(NAN, 0), number(NAN, 0), number(NAN, 0), number(NAN, 0)};
-    return {number(std::sqrt(squares / count), 2),
-            number(100.0 * std::sqrt(relativeSquares / count), 1), number(sum / count, 2),
-            number(largest, 2)};
-  }
-};
+/// What the residuals of some picks come to: RMS in milliseconds and percent, mean and largest.
+QStringList fitTexts(const std::vector<Residual>& residuals) {
+  const SectionMisfit misfit = misfitOf(residuals);
+  if (misfit.count == 0) return {number(NAN, 0), number(NAN, 0), number(NAN, 0), number(NAN, 0)};
+  const auto largest = std::max_element(residuals.begin(), residuals.end(),
+                                        [](const Residual& a, const Residual& b) {
+                                          return std::abs(a.residual) < std::abs(b.residual);
+                                        });
+  return {number(1e3 * misfit.rmse, 2), number(1e2 * misfit.relativeRms, 1),
+          number(1e3 * misfit.bias, 2), number(1e3 * largest->residual, 2)};
+}
 
 ReportTable shotTable(const TomoDocument& document, const std::vector<Residual>& residuals) {
   ReportTable table{{{ReportWords::tr("Shot"), true},
@@ -53,27 +42,23 @@ ReportTable shotTable(const TomoDocument& document, const std::vector<Residual>&
       table.columns.push_back({title, true});
     }
   }
-  std::vector<Fit> fits(document.ttArray.size());
-  Fit whole;
-  for (const Residual& each : residuals) {
-    fits[each.record].take(each);
-    whole.take(each);
-  }
+  std::vector<std::vector<Residual>> ofShots(document.ttArray.size());
+  for (const Residual& each : residuals) ofShots[each.record].push_back(each);
   std::size_t traces = 0;
   std::size_t picks = 0;
-  for (std::size_t i = 0; i < fits.size(); ++i) {
+  for (std::size_t i = 0; i < ofShots.size(); ++i) {
     const TravelTime& record = document.ttArray[i];
     traces += record.ttMisurati.size();
     picks += pickCount(record);
     QStringList row{QString::number(i + 1), number(record.shotPos2d.x, 2),
                     QString::number(record.ttMisurati.size()), QString::number(pickCount(record))};
-    if (!residuals.empty()) row += fits[i].texts();
+    if (!residuals.empty()) row += fitTexts(ofShots[i]);
     table.rows.push_back(row);
   }
-  if (fits.size() > 1) {
+  if (ofShots.size() > 1) {
     QStringList row{ReportWords::tr("All"), QString(), QString::number(traces),
                     QString::number(picks)};
-    if (!residuals.empty()) row += whole.texts();
+    if (!residuals.empty()) row += fitTexts(residuals);
     table.rows.push_back(row);
   }
   return table;

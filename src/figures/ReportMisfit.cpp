@@ -1,9 +1,9 @@
 #include "figures/MisfitFigures.h"
 #include "figures/ReportBuilder.h"
+#include "model/LeftOut.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
-#include "tomo/LeftOut.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
-#include "export/GeoTransformer.h"
 #include "figures/ReportBuilder.h"
+#include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"

@@ -15,9 +15,9 @@ namespace talvesk {
 namespace {
 
 Status checkOptions(const SectionFigureOptions& options) {
+  constexpr auto kRange = parameters::kExaggeration.limits;
   const double exaggeration = options.verticalExaggeration;
-  if (exaggeration != 0.0 &&
-      !(exaggeration >= kLeastExaggeration && exaggeration <= kMostExaggeration)) {
+  if (exaggeration != 0.0 && !(exaggeration >= kRange.least && exaggeration <= kRange.most)) {
     return Status::failure(
         Message::tr("The vertical exaggeration must lie between 0.01 and 100, or be 0 to "
                     "let the picture choose."));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
-#include "figures/SectionFigure.h"
+#include "figures/SectionFigureOptions.h"
 
 #include <memory>
 #include <string>

@@ -15,7 +15,7 @@ class CsvPickReader : private PickReader {
 
   std::optional<Refusal> read(TravelTimeData& data) {
     const bool whole = readReceivers() && readShots();
-    return finish(whole, "csv", data);
+    return finish(whole, data);
   }
 
  private:

@@ -22,7 +22,7 @@ class OtteReader : private PickReader {
     const bool whole = readHead(version) && readPositions("geophone", mGeophones) &&
                        readPositions("shot", mShots) && checkStringCount() && readRecords() &&
                        makeStrings();
-    return finish(whole, "otte", data);
+    return finish(whole, data);
   }
 
  private:

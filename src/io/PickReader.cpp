@@ -105,14 +105,12 @@ void PickReader::warnOfRest() {
   }
 }
 
-std::optional<Refusal> PickReader::finish(bool read, std::string_view format,
-                                          TravelTimeData& data) {
+std::optional<Refusal> PickReader::finish(bool read, TravelTimeData& data) {
   if (!read) return mRefusal;
   if (mData.records.empty()) warn(Message::tr("the file holds no shot"));
   // Not one of the notes that can become too many.
   const Message dropped = dropImpossiblePicks(mData.records, {});
   if (!dropped.empty()) mData.warnings.push_back(dropped);
-  mData.format = format;
   data = std::move(mData);
   return std::nullopt;
 }

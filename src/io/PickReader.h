@@ -3,7 +3,7 @@
 #include "base/Message.h"
 #include "io/PickWords.h"
 #include "io/TextCursor.h"
-#include "io/TravelTimeFile.h"
+#include "io/TravelTimeData.h"
 
 #include <cstddef>
 #include <optional>
@@ -14,15 +14,6 @@ namespace talvesk {
 
 /// All travel-time files hold times in milliseconds.
 inline constexpr double kMillisecondsPerSecond = 1000.0;
-
-/// Why a reader gave a file up.
-struct Refusal {
-  std::size_t line = 0;  ///< from 1
-  Message reason;        ///< what is wrong, without file and line
-  /// What the console is told instead, where the format has a message of its own; empty: the
-  /// reason, headed by file and line.
-  std::string consoleText;
-};
 
 /// Text of a file for use in a message: cut to a readable length, without control characters.
 std::string quotable(std::string_view text);
@@ -58,7 +49,7 @@ class PickReader {
   void warnOfRest();  ///< when text follows after all that the format knows
 
   /// Hands the data out, or says why not.
-  std::optional<Refusal> finish(bool read, std::string_view format, TravelTimeData& data);
+  std::optional<Refusal> finish(bool read, TravelTimeData& data);
 
   TextCursor mText;
   TravelTimeData mData;

@@ -31,7 +31,7 @@ class PickTableReader : private PickReader {
   std::optional<Refusal> read(TravelTimeData& data) {
     const bool whole = readTables() && readTimes();
     if (whole) warnOfRest();
-    return finish(whole, "xyz", data);
+    return finish(whole, data);
   }
 
  private:

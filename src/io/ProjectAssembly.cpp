@@ -3,6 +3,7 @@
 #include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
 #include "io/ProjectRepair.h"
+#include "io/ProjectResult.h"
 #include "model/GroundModel.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
@@ -26,17 +27,6 @@ bool finite(const std::vector<double>& values) {
 
 bool positive(double value) {
   return std::isfinite(value) && value > 0.0;
-}
-
-bool canHaveBeen(const InversionRecord& run) {
-  const auto known = [](const Misfit& m) {
-    return m.count >= 0 && finite({m.rmse, m.relativeRms, m.maxError, m.maxRelativeError});
-  };
-  return run.externalIterations > 0 && run.solverIterations > 0 && run.smoothing > 0 &&
-         run.smoothingType >= 0 && positive(run.minVelocity) && positive(run.maxVelocity) &&
-         finite({run.elapsedSeconds}) &&
-         run.history.size() <= static_cast<std::size_t>(run.externalIterations) &&
-         std::all_of(run.history.begin(), run.history.end(), known);
 }
 
 Status checkCells(const GridMember& grid) {

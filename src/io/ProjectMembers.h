@@ -26,8 +26,8 @@ inline constexpr const char* kGridMember = "grid.xml";
 inline constexpr const char* kTracesMember = "traces.xml";
 inline constexpr const char* kPalettesMember = "palettes.xml";
 inline constexpr const char* kRefractionMember = "refraction.xml";
-/// Ours alone: other programs pass it over, and projects without an inversion have none.
-inline constexpr const char* kResultMember = "result.xml";
+/// Whether a name is one of these five; see OwnMembers.h for those that are ours alone.
+bool isCommonMember(const std::string& name);
 
 /// The survey without its traces, and how its section is looked at.
 struct SurveyMember {
@@ -46,19 +46,6 @@ struct GridMember {
   double aLato = 0.0;              ///< metres
   std::vector<double> velocities;  ///< m/s, per cell
   std::vector<bool> toBeDraw;      ///< per cell
-};
-
-/// What an inversion left beside the section: without it neither the coverage nor the misfit of a
-/// project would be the same when it is opened again.
-struct ResultMember {
-  std::uint32_t version = 1;             ///< of the member
-  std::vector<std::uint32_t> hitCounts;  ///< per cell
-  std::vector<double> coorcount;         ///< metres of ray per cell
-  bool smoothed = false;                 ///< the section was smoothed since
-  bool timesOfSection = false;           ///< the computed times are those through the section
-  double computingSeconds = 0.0;
-  std::uint64_t picks = 0;  ///< fingerprint of those that were inverted
-  std::vector<SectionMisfit> sectionHistory;
 };
 
 /// A trace as it is stored: without samples where they can be read from its shot file again.
@@ -95,7 +82,6 @@ int writeTraces(const std::string& path, const TomoDocument& document,
 int writePalettes(const std::string& path, const ColorPaletteList& palettes);
 int writeRefraction(const std::string& path,
                     const refractionDataStructure::Interpretation& interpretation);
-int writeResult(const std::string& path, const ResultMember& result);
 
 int readSurvey(const std::string& path, SurveyMember& member, Message& why);
 int readGrid(const std::string& path, GridMember& member, Message& why);
@@ -106,19 +92,11 @@ int readPalettes(const std::string& path, ColorPaletteList& palettes, std::vecto
                  Message& why);
 int readRefraction(const std::string& path, refractionDataStructure::Interpretation& interpretation,
                    Message& why);
-int readResult(const std::string& path, ResultMember& result, Message& why);
 
 /// Stands in the file for what is not known of a layered profile, and is no number in memory: as
 /// for picks, for other programs read the file, too.
 inline constexpr double kNotKnown = -99.0;
 void putSigns(refractionDataStructure::Interpretation& interpretation);   ///< for the file
 void takeSigns(refractionDataStructure::Interpretation& interpretation);  ///< and back
-
-/// The part of a path behind its last slash or backslash.
-std::string bareName(const std::string& path);
-
-/// Whether a name can be that of a file in a project: UTF-8 text without any folder in it, and of
-/// control characters none but tabs and line breaks, for archives cannot spell the others.
-bool isEntryName(const std::string& name);
 
 }  // namespace talvesk

@@ -1,54 +1,16 @@
 #include "base/Console.h"
+#include "io/MemberFile.h"
 #include "io/ProjectMembers.h"
-#include "io/ProjectRecords.inl"
+#include "io/ProjectMembers_records.inl"
 #include "model/GeographicsCoord.h"
 
 #include <algorithm>
-#include <exception>
-#include <filesystem>
-#include <fstream>
-#include <functional>
 #include <map>
-#include <new>
-#include <system_error>
 
 namespace talvesk {
 namespace {
 
-// Larger than any survey gives. What is read takes a few times its member in memory, so these also
-// keep an archive of a few megabytes from filling the machine.
-constexpr std::uintmax_t kLargestMember = std::uintmax_t{1} << 29;
 constexpr std::uintmax_t kLargestTraces = std::uintmax_t{1} << 33;
-
-/// \param what the member, as its messages call it
-int readMember(const std::string& path, const char* what, std::uintmax_t largest, Message& why,
-               const std::function<void(XmlReader&)>& read) {
-  const auto fail = [&](const Message& reason) {
-    why = joined(bareName(path), reason);
-    console::logError(std::string("[ERROR] ") + what + " cannot be read from disk.");
-    return 1;
-  };
-  std::ifstream stream(path, std::ios::binary);
-  if (!stream.is_open()) {
-    console::logError("[ERROR] Error in opening " + path + ".");
-    return fail(Message::tr("it is missing"));
-  }
-  std::error_code error;
-  if (std::filesystem::file_size(path, error) > largest || error) {
-    return fail(Message::tr("it is too large"));
-  }
-  try {
-    XmlReader reader(stream, "cereal");
-    read(reader);
-    return 0;
-  } catch (const std::bad_alloc&) {
-    return fail(Message::tr("there is not enough memory"));
-  } catch (const XmlError& failure) {
-    return fail(failure.reason);
-  } catch (const std::exception& failure) {
-    return fail(failure.what());
-  }
-}
 
 /// What users of the program read in its log about projects of earlier versions. The double blanks
 /// and the message for the title are those that it has always had.
@@ -128,14 +90,6 @@ int readRefraction(const std::string& path, refractionDataStructure::Interpretat
     xml::readRecord(reader, read);
     takeSigns(read);
     interpretation = std::move(read);
-  });
-}
-
-int readResult(const std::string& path, ResultMember& result, Message& why) {
-  return readMember(path, "Result", kLargestMember, why, [&](XmlReader& reader) {
-    ResultMember read;
-    xml::readRecord(reader, read);
-    result = std::move(read);
   });
 }
 

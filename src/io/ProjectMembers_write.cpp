@@ -1,37 +1,18 @@
-#include "base/AtomicFile.h"
-#include "base/Console.h"
 #include "base/PlainText.h"
+#include "io/EntryName.h"
+#include "io/MemberFile.h"
 #include "io/ProjectMembers.h"
-#include "io/ProjectRecords.inl"
+#include "io/ProjectMembers_records.inl"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
 
 #include <algorithm>
-#include <fstream>
-#include <functional>
 #include <utility>
 
 namespace talvesk {
 namespace {
-
-/// \param what the member, as its messages call it
-int writeMember(const std::string& path, const char* what,
-                const std::function<void(XmlWriter&)>& write) {
-  const auto fail = [&] {
-    console::logError("[ERROR] Error in opening " + path + ".");
-    console::logError(std::string("[ERROR] ") + what + " cannot be stored on disk.");
-    return 1;
-  };
-  std::ofstream stream(path, std::ios::binary);
-  if (!stream.is_open()) return fail();
-  XmlWriter writer(stream);
-  write(writer);
-  const bool complete = writer.finish();
-  stream.close();
-  return complete && stream.good() ? 0 : fail();
-}
 
 std::vector<std::string> bareNames(const std::vector<std::string>& paths) {
   std::vector<std::string> names;
@@ -89,17 +70,10 @@ void putFiltered(XmlWriter& writer, const TomoDocument& document) {
 
 }  // namespace
 
-std::string bareName(const std::string& path) {
-  return path.substr(path.find_last_of("/\\") + 1);
-}
-
-bool isEntryName(const std::string& name) {
-  const auto isOdd = [](char c) {
-    const bool isControl = static_cast<unsigned char>(c) < 0x20;
-    return c == '/' || c == '\\' || (isControl && c != '\t' && c != '\n' && c != '\r');
-  };
-  return !name.empty() && name != "." && name != ".." && isFileName(name) &&
-         std::none_of(name.begin(), name.end(), isOdd);
+bool isCommonMember(const std::string& name) {
+  const auto members = {kSurveyMember, kGridMember, kTracesMember, kPalettesMember,
+                        kRefractionMember};
+  return std::find(members.begin(), members.end(), name) != members.end();
 }
 
 int writeSurvey(const std::string& path, const TomoDocument& document,
@@ -152,13 +126,6 @@ int writeRefraction(const std::string& path,
     putSigns(stored);
     xml::Output output(writer);
     describe(output, stored);
-  });
-}
-
-int writeResult(const std::string& path, const ResultMember& result) {
-  return writeMember(path, "Result", [&](XmlWriter& writer) {
-    xml::Output output(writer);
-    describe(output, const_cast<ResultMember&>(result));
   });
 }
 

@@ -55,7 +55,7 @@ int readPalettes(const std::string& path, ColorPaletteList& palettes, std::vecto
     return failReading(shape.text(), why);
   }
   try {
-    std::istringstream stream(std::move(text));
+    std::istringstream stream(text);
     cereal::XMLInputArchive archive(stream);
     load(archive, palettes, repairs);
     return 0;

@@ -87,10 +87,11 @@ void repairPlace(TomoDocument& document, Repairs& repairs) {
 }
 
 void repairExaggeration(double& exaggeration, Repairs& repairs) {
-  if (exaggeration >= kLeastExaggeration && exaggeration <= kMostExaggeration) return;
+  constexpr auto kRange = parameters::kExaggeration.limits;
+  if (exaggeration >= kRange.least && exaggeration <= kRange.most) return;
   const double before = exaggeration;
   const bool isFactor = std::isfinite(before) && before > 0.0;
-  exaggeration = isFactor ? std::clamp(before, kLeastExaggeration, kMostExaggeration)
+  exaggeration = isFactor ? std::clamp(before, kRange.least, kRange.most)
                           : SectionViewSettings().verticalExaggeration;
   repairs.push_back(
       Message::tr("no section can be drawn with a vertical exaggeration of %1; it is %2 now")
@@ -104,6 +105,11 @@ bool hold(Number& value, Number least, Number most) {
   const Number before = value;
   value = std::isfinite(static_cast<double>(before)) ? std::clamp(before, least, most) : least;
   return value != before;
+}
+
+/// The same, within what users can choose.
+bool hold(int& value, const Parameter<int>& parameter) {
+  return hold(value, parameter.limits.least, parameter.limits.most);
 }
 
 /// Whether a list had to be given up.
@@ -134,11 +140,9 @@ bool repairContourLists(ContourSettings& contours) {
 }
 
 void repairContours(ContourSettings& contours, Repairs& repairs) {
-  constexpr int kMost = static_cast<int>(SectionSceneOptions::kMaxContours);
-  constexpr int kLargestLabel = 200;  // points
-  bool repaired = hold(contours.numberOfValues, 1, kMost);
-  repaired = hold(contours.labelEvery, 0, kMost) || repaired;
-  repaired = hold(contours.labelSize, 1, kLargestLabel) || repaired;
+  bool repaired = hold(contours.numberOfValues, parameters::kContours);
+  repaired = hold(contours.labelEvery, parameters::kLabelEvery) || repaired;
+  repaired = hold(contours.labelSize, parameters::kLabelSize) || repaired;
   for (double* part : {&contours.color.r, &contours.color.g, &contours.color.b}) {
     repaired = hold(*part, 0.0, 1.0) || repaired;
   }

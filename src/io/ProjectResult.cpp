@@ -1,66 +1,78 @@
 #include "io/ProjectResult.h"
 
 #include "model/GroundModel.h"
-#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
+#include <initializer_list>
 #include <utility>
 
 namespace talvesk {
 namespace {
 
-bool canHaveBeen(const SectionMisfit& misfit) {
-  const double values[] = {misfit.rmse, misfit.relativeRms, misfit.bias, misfit.maxAbs};
-  return misfit.count >= 0 && std::all_of(std::begin(values), std::end(values),
-                                          [](double value) { return std::isfinite(value); });
+bool finite(std::initializer_list<double> values) {
+  return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+}
+
+bool positive(double value) {
+  return std::isfinite(value) && value > 0.0;
+}
+
+bool isMisfit(const Misfit& m) {
+  return m.count >= 0 && finite({m.rmse, m.relativeRms, m.maxError, m.maxRelativeError});
+}
+
+bool isSectionMisfit(const SectionMisfit& m) {
+  return m.count >= 0 && finite({m.rmse, m.relativeRms, m.bias, m.maxAbs});
 }
 
 bool fits(const ResultMember& result, const TomoDocument& document) {
   const std::size_t cells = document.model->grid->cellCount();
-  if (result.hitCounts.size() != cells || result.coorcount.size() != cells) return false;
+  const TomographyOutcome& outcome = result.outcome;
+  if (outcome.hitCounts.size() != cells || outcome.coorcount.size() != cells) return false;
   const auto length = [](double metres) { return std::isfinite(metres) && metres >= 0.0; };
-  if (!std::all_of(result.coorcount.begin(), result.coorcount.end(), length)) return false;
-  if (!std::isfinite(result.computingSeconds)) return false;
-  const std::size_t iterations =
-      document.result->lastInversion ? document.result->lastInversion->history.size() + 1 : 0;
-  const std::vector<SectionMisfit>& history = result.sectionHistory;
-  return (history.empty() || history.size() == iterations) &&
-         std::all_of(history.begin(), history.end(), canHaveBeen);
+  if (!std::all_of(outcome.coorcount.begin(), outcome.coorcount.end(), length)) return false;
+  if (outcome.lastInversion) return canHaveBeen(result.run);
+  return std::isfinite(result.run.computingSeconds) && result.run.sectionHistory.empty();
 }
 
 }  // namespace
 
+bool hasResult(const TomoDocument& document) {
+  return document.result->has_tomographic_info;
+}
+
+bool knowsResult(const TomoDocument& document) {
+  const std::vector<std::uint32_t>& hits = document.result->hitCounts;
+  return hasResult(document) &&
+         std::any_of(hits.begin(), hits.end(), [](std::uint32_t count) { return count > 0; });
+}
+
 ResultMember resultOf(const TomoDocument& document) {
-  ResultMember result;
-  result.hitCounts = document.result->hitCounts;
-  result.coorcount = document.result->coorcount;
-  result.smoothed = document.result->smoothedResult;
-  result.timesOfSection = document.result->timesOfSection;
-  if (!document.result->lastInversion) return result;
-  result.computingSeconds = document.result->lastInversion->computingSeconds;
-  result.picks = document.result->lastInversion->picks;
-  result.sectionHistory = document.result->lastInversion->sectionHistory;
-  return result;
+  return {*document.result, document.result->lastInversion.value_or(InversionRecord())};
 }
 
 Status installResult(ResultMember result, TomoDocument& document) {
-  if (document.model->grid == nullptr || !document.result->has_tomographic_info ||
-      !fits(result, document)) {
+  if (document.model->grid == nullptr || !hasResult(document) || !fits(result, document)) {
     return Status::failure(Message::tr(
         "its coverage and figures do not go with the grid and the inversion of the project"));
   }
-  document.result.edit().hitCounts = std::move(result.hitCounts);
-  document.result.edit().coorcount = std::move(result.coorcount);
-  document.result.edit().smoothedResult = result.smoothed;
-  document.result.edit().timesOfSection = result.timesOfSection;
-  if (!document.result->lastInversion) return {};
-  document.result.edit().lastInversion->computingSeconds = result.computingSeconds;
-  document.result.edit().lastInversion->picks = result.picks;
-  document.result.edit().lastInversion->sectionHistory = result.sectionHistory;
-  document.result.edit().sectionHistory = std::move(result.sectionHistory);
+  if (result.outcome.lastInversion) {
+    result.outcome.sectionHistory = result.run.sectionHistory;
+    result.outcome.lastInversion = std::move(result.run);
+  }
+  document.result = std::move(result.outcome);
   return {};
+}
+
+bool canHaveBeen(const InversionRecord& run) {
+  return run.externalIterations > 0 && run.solverIterations > 0 && run.smoothing > 0 &&
+         run.smoothingType >= 0 && positive(run.minVelocity) && positive(run.maxVelocity) &&
+         finite({run.elapsedSeconds, run.computingSeconds}) &&
+         run.history.size() <= static_cast<std::size_t>(run.externalIterations) &&
+         std::all_of(run.history.begin(), run.history.end(), isMisfit) &&
+         (run.sectionHistory.empty() || run.sectionHistory.size() == run.history.size() + 1) &&
+         std::all_of(run.sectionHistory.begin(), run.sectionHistory.end(), isSectionMisfit);
 }
 
 }  // namespace talvesk

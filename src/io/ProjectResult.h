@@ -1,15 +1,29 @@
 #pragma once
 
 #include "base/Status.h"
-#include "io/ProjectMembers.h"
+#include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 
 namespace talvesk {
 
-/// What a project keeps of the last inversion beside the section.
-ResultMember resultOf(const TomoDocument& document);
+/// What an inversion left beside the section: without it neither the coverage nor the misfit of a
+/// project would be the same when it is opened again. Of both only what no other member has counts.
+struct ResultMember {
+  TomographyOutcome outcome;
+  InversionRecord run;  ///< that of the outcome; as new when nothing is known of it
+};
 
+bool hasResult(const TomoDocument& document);
+/// Whether rays of an inversion are known: not so where only their times were traced anew.
+bool knowsResult(const TomoDocument& document);
+/// What a project keeps of the last inversion, and what is read from it fills.
+ResultMember resultOf(const TomoDocument& document);
 /// Gives a document, whose grid and inversion record are there, what its project kept. Fails, with
 /// the document as it was, when that does not go with its grid and run.
+/// \param result resultOf() the document, with what was read
 Status installResult(ResultMember result, TomoDocument& document);
+
+/// Whether an inversion can have been run so, and have come to these figures.
+bool canHaveBeen(const InversionRecord& run);
 
 }  // namespace talvesk

@@ -1,5 +1,6 @@
 #include "base/Console.h"
 #include "base/PlainText.h"
+#include "io/EntryName.h"
 #include "io/ProjectAssembly.h"
 #include "io/ShotFile.h"
 #include "io/ShotLoader.h"

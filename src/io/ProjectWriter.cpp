@@ -2,7 +2,6 @@
 
 #include "base/Console.h"
 #include "base/FileReplacement.h"
-#include "io/ProjectResult.h"
 #include "io/ProjectZip.h"
 #include "io/SourceCopies.h"
 #include "io/TemporaryFolder.h"
@@ -113,9 +112,9 @@ bool ProjectWriter::writeMembers(const std::string& folder, const Project& proje
         &ProjectWriter::saved_traces, &ProjectWriter::error_saved_traces);
   check(kPalettesMember, savePalettes_XML(add(kPalettesMember), project.palettes),
         &ProjectWriter::saved_palettes, &ProjectWriter::error_saved_palettes);
-  if (project.document.result->has_tomographic_info &&
-      writeResult(add(kResultMember), resultOf(project.document)) != 0) {
-    giveUp(kResultMember);
+  if (!writeOwnMembers(folder, project.document, project.interpretation, project.own, files,
+                       mWarnings)) {
+    complete = false;
   }
   return step(saveRefraction_XML(add(kRefractionMember), project.interpretation),
               &ProjectWriter::saved_refraction, &ProjectWriter::error_saved_refraction);
@@ -151,7 +150,8 @@ int ProjectWriter::build(const std::string& archive, const std::string& workingF
 int ProjectWriter::save(const std::string& archive, const std::string& workingFolder,
                         const TomoDocument& document,
                         const refractionDataStructure::Interpretation& interpretation,
-                        const ColorPaletteList& palettes, const SectionViewSettings& section) {
+                        const ColorPaletteList& palettes, const SectionViewSettings& section,
+                        const OwnMembers& own) {
   mError = false;
   mReason = {};
   mWarnings.clear();
@@ -161,7 +161,7 @@ int ProjectWriter::save(const std::string& archive, const std::string& workingFo
   }
   TemporaryFolder::clear(workingFolder);
   try {
-    return build(archive, workingFolder, {document, interpretation, palettes, section});
+    return build(archive, workingFolder, {document, interpretation, palettes, section, own});
   } catch (const std::exception& error) {
     return fail(Message::tr("It cannot be put together: %1").arg(error.what()));
   }

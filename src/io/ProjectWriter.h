@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Message.h"
+#include "io/OwnMembers.h"
 #include "io/ProjectMembers.h"
 
 #include <QObject>
@@ -9,7 +10,8 @@
 
 namespace talvesk {
 
-/// Saves a project: five XML members and the shot files that its traces come from, in one archive.
+/// Saves a project: five XML members, those of our own and the shot files that its traces come
+/// from, in one archive.
 ///
 /// An archive that lies at the path is replaced by the new one in a single step, when all of that
 /// is on the disk. Until then, and after a save that fails, it is as it was. Its permissions stay,
@@ -29,16 +31,17 @@ class ProjectWriter : public QObject {
 
   /// 0, or 1 when the project is not saved; message() says why.
   /// \param archive path, UTF-8; \param workingFolder ending in "/", where the temporary folder
-  /// goes
+  /// goes; \param own what the project held that is not in the survey, see readOwnMembers()
   int save(const std::string& archive, const std::string& workingFolder,
            const TomoDocument& document,
            const refractionDataStructure::Interpretation& interpretation,
-           const ColorPaletteList& palettes, const SectionViewSettings& section = {});
+           const ColorPaletteList& palettes, const SectionViewSettings& section = {},
+           const OwnMembers& own = {});
 
   bool hasError() const { return mError; }                          ///< of the last save
   const std::string& message() const { return mReason.english(); }  ///< why the last save failed
   const Message& reason() const { return mReason; }                 ///< the same, to be translated
-  /// What the user should know about a save that succeeded: shot files that are not in it.
+  /// What the user should know about a save that succeeded: shot files that are not in it, ...
   const std::vector<Message>& warnings() const { return mWarnings; }
 
   // The steps. Each returns 0 or 1.
@@ -76,6 +79,7 @@ class ProjectWriter : public QObject {
     const refractionDataStructure::Interpretation& interpretation;
     const ColorPaletteList& palettes;
     const SectionViewSettings& section;
+    const OwnMembers& own;
   };
 
   using Signal = void (ProjectWriter::*)();

@@ -3,6 +3,7 @@
 #include "base/Console.h"
 #include "base/FileReplacement.h"
 #include "base/PlainText.h"
+#include "io/EntryName.h"
 #include "io/ProjectMembers.h"
 #include "io/ZipSink.h"
 
@@ -272,7 +273,7 @@ int pack(const std::string& path, const std::vector<std::string>& files, zip_int
     why = Message::tr("The archive %1 cannot be written: %2.").arg(path).arg(reason);
     return failSaving(__LINE__, " : write_ZIP() : impossible to close " + path + ": " + reason);
   }
-  archive.release();
+  static_cast<void>(archive.release());  // closing has freed it
   return 0;
 }
 
@@ -309,7 +310,7 @@ Message refusalOf(const std::vector<ZipEntry>& entries, std::uint64_t archiveByt
 }
 
 std::uint64_t unpackedLimit(std::uint64_t archiveBytes) {
-  constexpr std::uint64_t kAlwaysAllowed = 10 * 1000 * 1000;
+  constexpr std::uint64_t kAlwaysAllowed = 10'000'000;
   constexpr std::uint64_t kLargestRatio = 200;
   if (archiveBytes >= kMostUnpacked / kLargestRatio) return kMostUnpacked;
   return std::max(kAlwaysAllowed, kLargestRatio * archiveBytes);
@@ -368,7 +369,7 @@ int readZip(const std::string& path, const std::string& folder, Message& why) {
     why = Message::tr("it cannot be closed: %1").arg(zip_strerror(archive.get()));
     return failLoading(__LINE__, " : read_ZIP() : impossible to close " + path);
   }
-  archive.release();
+  static_cast<void>(archive.release());  // closing has freed it
   return 0;
 }
 

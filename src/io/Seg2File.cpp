@@ -64,7 +64,6 @@ class Seg2Reader {
     console::out() << "Numero tracce:" << traces << '\n';
     if (!affordable(traces)) return Status::failure(ReadBudget::refusal(traces, mBytes.size()));
 
-    mData.format = "seg2";
     mData.traces.resize(traces);
     for (std::uint64_t i = 0; i < traces; ++i) readTrace(pointer(mReader, i), i);
     if (!mHasInterval) {

@@ -44,7 +44,6 @@ class SegyReader {
   SegyReader(std::string_view bytes, const SegyState& state) : mReader(bytes), mState(state) {}
 
   Status readSegy(SegyState& state, ShotFileData& data) {
-    mData.format = "segy";
     detectOrder();
     takeInterval(mReader.u16(kIntervalAt, order()));
     mState.formatCode = mReader.i16(kFormatAt, order());
@@ -54,7 +53,6 @@ class SegyReader {
   }
 
   Status readSu(SegyState& state, ShotFileData& data) {
-    mData.format = "su";
     takeInterval(mReader.u16(kTraceIntervalAt, order()));
     mState.samplesPerTrace = mReader.u16(kSampleCountAt, order());
     const std::uint64_t traces = mReader.size() / (samples() * sizeof(float) + kTraceHeaderBytes);

@@ -12,11 +12,8 @@ namespace talvesk {
 /// Status code of a file whose suffix no reader of shot files takes.
 inline constexpr int kUnknownSuffix = 3;
 
-/// Whether the suffix of a path, whatever its case, is one of a shot file.
-bool hasShotFileSuffix(const std::string& path);
-
-/// Reads one shot file, of a format that its suffix tells whatever its case: SEG-2 (seg2, dat,
-/// sg2), SEG-Y (sgy, segy) or SU (su). Memory stays below 64 MiB and 16 times the file.
+/// Reads one shot file, in the format of shotFormats() that its suffix tells whatever its case.
+/// Memory stays below 64 MiB and 16 times the file.
 ///
 /// Status 1: not readable, not of its format, or promising more data than it can hold. Status 2: a
 /// SEG-2 file without a usable sample interval. Status 3: another suffix; the file is not touched.

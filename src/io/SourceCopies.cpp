@@ -1,12 +1,14 @@
 #include "io/SourceCopies.h"
 
 #include "base/Console.h"
+#include "io/EntryName.h"
+#include "io/OwnMembers.h"
 #include "io/ProjectAssembly.h"
+#include "io/ProjectMembers.h"
 #include "model/Recordings.h"
 
 #include <filesystem>
 #include <map>
-#include <set>
 #include <system_error>
 
 namespace talvesk {
@@ -15,9 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 
 bool isMember(const std::string& name) {
-  static const std::set<std::string> kMembers = {kSurveyMember,   kGridMember,       kTracesMember,
-                                                 kPalettesMember, kRefractionMember, kResultMember};
-  return kMembers.count(name) > 0;
+  return isCommonMember(name) || isOwnMemberName(name);
 }
 
 bool copyOver(const std::string& source, const std::string& target) {

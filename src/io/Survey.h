@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Shared.h"
+#include "io/OwnMembers.h"
 #include "io/TemporaryFolder.h"
 #include "model/RefractionDataStructure.h"
 #include "model/TomoDocument.h"
@@ -19,6 +20,7 @@ struct Survey {
   /// Where the shot files lie that the document of a loaded project names. They are gone with the
   /// last owner, so it stays as long as the document does.
   SharedFolder folder;
+  OwnMembers own;  ///< what else its project held, for the next save
 };
 
 }  // namespace talvesk

@@ -2,11 +2,8 @@
 
 #include "base/AtomicFile.h"
 #include "base/Console.h"
-#include "io/CsvPickFile.h"
+#include "io/FileFormats.h"
 #include "io/OtteFile.h"
-#include "io/PickReader.h"
-#include "io/PickTableFile.h"
-#include "io/TxCurveFile.h"
 #include "model/SurveyLine.h"
 
 #include <ostream>
@@ -19,46 +16,11 @@ namespace {
 /// A survey's picks take kilobytes; what is larger is no travel-time file.
 constexpr std::size_t kLargestFile = std::size_t{256} << 20;
 
-enum class Format { kNone, kOtte, kTxCurves, kPickTable, kCsv };
-
-Format formatOf(std::string_view path) {
-  const std::size_t dot = path.find_last_of("./\\");
-  if (dot == std::string_view::npos || path[dot] != '.') return Format::kNone;
-  const std::string_view suffix = path.substr(dot);
-  if (suffix == ".otte") return Format::kOtte;
-  if (suffix == ".txt") return Format::kTxCurves;
-  if (suffix == ".xyz" || suffix == ".XYZ") return Format::kPickTable;
-  if (suffix == ".csv" || suffix == ".CSV") return Format::kCsv;
-  return Format::kNone;
-}
-
 Status unknownFormat(const std::string& path) {
   console::error() << "Invalid input TT file : " << path << std::endl;
-  return Status::failure(
-      Message::tr("Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)")
-          .arg(path));
-}
-
-std::optional<Refusal> readOtteAndTellVersion(std::string_view bytes, TravelTimeData& data) {
-  std::string version;
-  auto refusal = readOtte(bytes, version, data);
-  if (!version.empty()) console::out() << version << std::endl;
-  return refusal;
-}
-
-std::optional<Refusal> readAs(Format format, std::string_view bytes, TravelTimeData& data) {
-  switch (format) {
-    case Format::kOtte:
-      return readOtteAndTellVersion(bytes, data);
-    case Format::kTxCurves:
-      return readTxCurves(bytes, data);
-    case Format::kPickTable:
-      return readPickTable(bytes, data);
-    case Format::kCsv:
-    case Format::kNone:
-      break;
-  }
-  return readCsvPicks(bytes, data);
+  return Status::failure(Message::tr("Invalid input TT file : %1 (its suffix is none of %2)")
+                             .arg(path)
+                             .arg(travelTimeSuffixes()));
 }
 
 Status checkPositions(const TomoDocument& document) {
@@ -99,15 +61,11 @@ void warnOfWhatIsLost(const std::string& path, const std::string& text,
 
 }  // namespace
 
-bool hasTravelTimeFileSuffix(const std::string& path) {
-  return formatOf(path) != Format::kNone;
-}
-
 Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelTimeData& data) {
-  const Format format = formatOf(path);
-  if (format == Format::kNone) return unknownFormat(path);
+  const TravelTimeFormat* format = travelTimeFormatOf(path);
+  if (format == nullptr) return unknownFormat(path);
   TravelTimeData read;
-  if (const auto refusal = readAs(format, bytes, read)) {
+  if (const auto refusal = format->read(bytes, read)) {
     Message message =
         Message::tr("%1, line %2: %3").arg(path).arg(refusal->line).arg(refusal->reason);
     const bool ownText = !refusal->consoleText.empty();
@@ -118,11 +76,12 @@ Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelT
     console::error() << "Warning: " << path << ": " << warning << std::endl;
   }
   data = std::move(read);
+  data.format = format->id;
   return {};
 }
 
 Status readTravelTimes(const std::string& path, TravelTimeData& data) {
-  if (formatOf(path) == Format::kNone) return unknownFormat(path);
+  if (travelTimeFormatOf(path) == nullptr) return unknownFormat(path);
   std::string bytes;
   if (const Status opened = readWholeFile(path, bytes, kLargestFile); !opened.ok()) {
     Message message = Message::tr("File %1 cannot be open.").arg(path);
@@ -149,7 +108,7 @@ Status writeTravelTimes(const std::string& path, const TomoDocument& document) {
     console::error() << message << std::endl;
     return Status::failure(std::move(message));
   }
-  const std::string text = formatOtte(document);
+  const std::string text = exchangeFormat().write(document);
   warnOfWhatIsLost(path, text, document);
   Status written = writeFileAtomically(path, text);
   if (!written.ok()) console::error() << written.message() << std::endl;

@@ -1,30 +1,17 @@
 #pragma once
 
-#include "base/Point2D.h"
 #include "base/Status.h"
+#include "io/TravelTimeData.h"
 #include "model/ModelLoss.h"
 #include "model/TomoDocument.h"
-#include "model/TravelTime.h"
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace talvesk {
 
-/// What a travel-time file holds: a survey of picks without its traces.
-struct TravelTimeData {
-  std::string format;  ///< "otte", "txt", "xyz" or "csv"
-  std::vector<std::vector<Point2D>> strings;
-  std::vector<TravelTime> records;
-  std::vector<Message> warnings;  ///< what was repaired or ignored while reading
-};
-
-/// Whether the suffix of a path is one of a travel-time file.
-bool hasTravelTimeFileSuffix(const std::string& path);
-
-/// Reads ".otte", ".txt", ".xyz"/".XYZ" and ".csv"/".CSV" by the suffix, compared exactly. Failures
-/// also go to the console's error stream.
+/// Reads a file in the format of travelTimeFormats() that its suffix tells, compared exactly.
+/// Failures also go to the console's error stream.
 Status readTravelTimes(const std::string& path, TravelTimeData& data);
 
 /// The same from the bytes of a file; its name chooses the format and stands in the messages.

@@ -38,7 +38,7 @@ class TxCurveReader : private PickReader {
   std::optional<Refusal> read(TravelTimeData& data) {
     const bool whole = readHead() && readShots();
     if (whole) warnOfRest();
-    return finish(whole, "txt", data);
+    return finish(whole, data);
   }
 
  private:

@@ -1,8 +1,8 @@
 #include "io/projectReader.h"
 
 #include "base/Console.h"
+#include "io/EntryName.h"
 #include "io/ProjectAssembly.h"
-#include "io/ProjectResult.h"
 #include "io/ProjectZip.h"
 #include "refraction/PlausibleResults.h"
 
@@ -101,22 +101,6 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   return 0;
 }
 
-int projectReader::readResult_XML(const std::string& path, TomoDocument& document) {
-  std::error_code error;
-  if (!std::filesystem::exists(path, error)) return 0;  // nothing inverted, or an earlier version
-  Message why;
-  ResultMember result;
-  if (readResult(path, result, why) == 0) {
-    const Status status = installResult(std::move(result), document);
-    if (status.ok()) return 0;
-    why = joined(kResultMember, status.text());
-  }
-  mRepairs.push_back(
-      Message::tr("%1; the coverage of the last inversion and its figures are not known")
-          .arg(std::move(why)));
-  return 1;
-}
-
 bool projectReader::readMembers(const std::string& folder, LoadedProject& project) {
   SurveyMember survey;
   // Whatever fails, the others are read, so that all that is wrong with a project is told at once;
@@ -134,7 +118,10 @@ bool projectReader::readMembers(const std::string& folder, LoadedProject& projec
   if (hasSurvey && hasTraces) {
     readRefraction_XML(folder + kRefractionMember, survey.document, project.interpretation.edit());
   }
-  if (hasSurvey && hasGrid) readResult_XML(folder + kResultMember, survey.document);
+  if (hasSurvey && hasGrid && hasTraces) {
+    project.own =
+        readOwnMembers(folder, survey.document, project.interpretation.edit(), mWarnings, mRepairs);
+  }
   project.document = std::move(survey.document);
   project.section = survey.section;
   project.shotFiles = mShotFiles;

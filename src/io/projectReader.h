@@ -33,7 +33,8 @@ class projectReader : public QObject {
   const std::string& message() const { return mReason.english(); }  ///< why it failed
   const Message& reason() const { return mReason; }                 ///< the same, to be translated
   bool tracesFailed() const { return mTracesFailed; }
-  /// What a load that succeeded had to leave out: shot files whose traces are empty now, ...
+  /// What a load that succeeded had to leave out: shot files whose traces are empty now, members of
+  /// newer versions, ...
   const std::vector<Message>& warnings() const { return mWarnings; }
   /// What else was put right or left out of a load that succeeded, because it cannot be.
   const std::vector<Message>& repairs() const { return mRepairs; }
@@ -46,9 +47,6 @@ class projectReader : public QObject {
   virtual int readPalettes_XML(const std::string& path, ColorPaletteList& palettes);
   virtual int readRefraction_XML(const std::string& path, const TomoDocument& document,
                                  refractionDataStructure::Interpretation& interpretation);
-  /// A result that cannot be read costs coverage and figures, which a warning says, not the
-  /// project.
-  virtual int readResult_XML(const std::string& path, TomoDocument& document);
 
  signals:
   void read_compressed();

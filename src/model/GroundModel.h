@@ -2,6 +2,7 @@
 
 #include "grid/Grid.h"
 #include "grid/VelocityLayers.h"
+#include "model/Parameters.h"
 #include "numerics/Splines.h"
 
 #include <memory>
@@ -17,8 +18,8 @@ struct GroundModel {
   Splines::LinearSpline surface;          ///< elevation over grid x, of the current grid
   std::vector<double> proposedCellSizes;  ///< metres; only grows
   std::vector<VelocityLayer> layers;      ///< starting model; empty until the user made one
-  double minVelocity = 250.0;             ///< m/s, limits of the solver
-  double maxVelocity = 3500.0;            ///< m/s
+  double minVelocity = parameters::kMinVelocity.initial;  ///< m/s, limits of the solver
+  double maxVelocity = parameters::kMaxVelocity.initial;  ///< m/s
 
   /// The grid, to be written; copied before when somebody else has it, too. There must be one.
   Grid& editGrid();

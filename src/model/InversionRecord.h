@@ -33,7 +33,7 @@ struct InversionRecord {
   int externalIterations = 0;  ///< asked for; the history has one entry for each that was done
   int solverIterations = 0;
   int smoothing = 0;      ///< smoothing parameter, cells
-  int smoothingType = 0;  ///< 0 uniform, 1 linear, 2 Gaussian, 3 ray based
+  int smoothingType = 0;  ///< see SmoothingType
   bool symmetric = false;
   double minVelocity = 0.0;     ///< m/s
   double maxVelocity = 0.0;     ///< m/s

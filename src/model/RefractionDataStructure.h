@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Point2D.h"
+#include "model/Parameters.h"
 
 #include <cstdint>
 #include <vector>
@@ -50,10 +51,10 @@ struct computedData {
   std::vector<double> tGs;  ///< the family over XY, -4 to 4 m by 1 m, one curve behind the other
   std::vector<double> tVs;  ///< the same of tV
   std::vector<double> x;    ///< receivers, metres, ascending
-  std::vector<double> elevation;  ///< of the surface at the receivers, metres
-  double chosenXY = 0.0;          ///< metres
-  std::vector<double> velocity;   ///< of the refractor, m/s
-  std::vector<double> depth;      ///< of the refractor below the surface, metres
+  std::vector<double> elevation;              ///< of the surface at the receivers, metres
+  double chosenXY = parameters::kXY.initial;  ///< metres
+  std::vector<double> velocity;               ///< of the refractor, m/s
+  std::vector<double> depth;                  ///< of the refractor below the surface, metres
 };
 
 struct processingData {

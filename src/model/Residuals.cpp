@@ -30,12 +30,12 @@ std::vector<Residual> residualsOf(const TomoDocument& document) {
   return residuals;
 }
 
-SectionMisfit misfitOfTimes(const TomoDocument& document) {
+SectionMisfit misfitOf(const std::vector<Residual>& residuals) {
   SectionMisfit misfit;
   double squares = 0.0;
   double relativeSquares = 0.0;
   double sum = 0.0;
-  for (const Residual& each : residualsOf(document)) {
+  for (const Residual& each : residuals) {
     ++misfit.count;
     const double relative = each.residual / each.measured;
     squares += each.residual * each.residual;
@@ -51,6 +51,10 @@ SectionMisfit misfitOfTimes(const TomoDocument& document) {
   misfit.relativeRms = std::sqrt(relativeSquares / misfit.count);
   misfit.bias = sum / misfit.count;
   return misfit;
+}
+
+SectionMisfit misfitOfTimes(const TomoDocument& document) {
+  return misfitOf(residualsOf(document));
 }
 
 SectionMisfit sectionMisfitOf(const TomoDocument& document) {

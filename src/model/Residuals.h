@@ -22,6 +22,9 @@ struct Residual {
 /// Of every pick with a computed time, in the order of the records.
 std::vector<Residual> residualsOf(const TomoDocument& document);
 
+/// What residuals come to together; count 0 for none.
+SectionMisfit misfitOf(const std::vector<Residual>& residuals);
+
 /// The misfit of the computed times, as they are, to the picks.
 SectionMisfit misfitOfTimes(const TomoDocument& document);
 

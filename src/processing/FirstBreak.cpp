@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "model/Parameters.h"
 #include "model/SWavePair.h"
 #include "model/SurveyLine.h"
 
@@ -20,8 +21,8 @@
 namespace talvesk {
 namespace {
 
-constexpr double kSlowest = 200.0;   // m/s
-constexpr double kFastest = 4500.0;  // m/s
+constexpr double kSlowest = parameters::kSlowestPick.value;
+constexpr double kFastest = parameters::kFastestPick.value;
 
 /// As users count, from 1.
 Message shotName(std::int32_t shot) {

@@ -1,6 +1,7 @@
 #include "processing/NoiseReduction.h"
 
 #include "base/Console.h"
+#include "model/Parameters.h"
 #include "processing/Spectrum.h"
 
 #include <ostream>
@@ -8,7 +9,8 @@
 namespace talvesk {
 namespace {
 
-const BandFilter kHushel{FilterCorner{85.0, 1}, FilterCorner{14.0, 1}};
+const BandFilter kHushel{FilterCorner{parameters::kHushelLow.value, 1},
+                         FilterCorner{parameters::kHushelHigh.value, 1}};
 
 Status reduceNoiseOf(Trace& trace) {
   if (trace.samples.empty()) {

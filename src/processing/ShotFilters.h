@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "model/Parameters.h"
 #include "model/TomoDocument.h"
 
 #include <cstddef>
@@ -22,7 +23,7 @@ struct FilterOutcome {
 /// One corner of a filter, as the user gives it.
 struct FilterCorner {
   double hertz = 0.0;  ///< cut-off, above 0 and below the highest spectral frequency
-  int order = 1;       ///< from 1
+  int order = parameters::kFilterOrder.initial;  ///< from 1
 };
 
 /// Low-pass, high-pass, or both: a band-pass by cascade, low-pass first. Neither filters nothing.

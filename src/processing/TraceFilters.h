@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "model/Parameters.h"
 
 #include <string>
 #include <vector>
@@ -13,7 +14,7 @@ namespace talvesk {
 /// are refused, and a result that is not finite is never handed out.
 
 /// Beyond this order rounding in single precision outgrows the filtered signal, many times over.
-inline constexpr int kMaxFilterOrder = 100;
+inline constexpr int kMaxFilterOrder = parameters::kFilterOrder.limits.most;
 
 /// Automatic gain control: the gain starts from the energy of the whole trace and then follows the
 /// signal with the library's own loop bandwidth, squelch enabled.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Parameters.h"
 #include "model/RefractionDataStructure.h"
 #include "refraction/ShotArrivals.h"
 
@@ -13,8 +14,8 @@ namespace talvesk {
 // number).
 
 /// Slower than any soil, and faster than any rock that refraction surveys reach, m/s.
-inline constexpr double kLeastVelocity = 50.0;
-inline constexpr double kGreatestVelocity = 12000.0;
+inline constexpr double kLeastVelocity = parameters::kSlowestLayer.value;
+inline constexpr double kGreatestVelocity = parameters::kFastestLayer.value;
 
 /// False for what is no number, too.
 bool isPlausibleVelocity(double velocity);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Parameters.h"
 #include "model/RefractionDataStructure.h"
 
 #include <array>
@@ -20,6 +21,8 @@ namespace talvesk {
 /// of the whole interpretation.
 inline constexpr std::array<double, 9> kXYFamily = {-4.0, -3.0, -2.0, -1.0, 0.0,
                                                     1.0,  2.0,  3.0,  4.0};
+static_assert(kXYFamily.front() == parameters::kXY.limits.least &&
+              kXYFamily.back() == parameters::kXY.limits.most);
 
 /// Index of a value of kXYFamily; a value that is not of the family counts as 0 m.
 std::size_t indexOfXY(double xy);

@@ -1,6 +1,6 @@
 #include "session/Session.h"
 
-#include "refraction/ShotArrivals.h"
+#include "session/TableRules.h"
 
 #include <algorithm>
 #include <exception>
@@ -15,37 +15,6 @@ void keepView(const SectionViewSettings& view, SectionViewSettings& section) {
   kept.contours = section.contours;
   kept.lockRange = section.lockRange;
   section = std::move(kept);
-}
-
-/// Every record has its marks, be they none.
-void fitMarks(Survey& survey) {
-  refractionDataStructure::Interpretation fitted = *survey.interpretation;
-  fitToSurvey(survey.document, fitted);
-  const auto size = [](const auto& marks) {
-    return std::make_pair(marks.shotID, marks.layer.size());
-  };
-  const bool same =
-      std::equal(fitted.ttLayer.begin(), fitted.ttLayer.end(),
-                 survey.interpretation->ttLayer.begin(), survey.interpretation->ttLayer.end(),
-                 [&](const auto& a, const auto& b) { return size(a) == size(b); });
-  if (!same) survey.interpretation = std::move(fitted);
-}
-
-/// Forgets what an edit makes void, and refuses one that touches what its rule keeps.
-Status follow(const EditRule& rule, const Survey& before, Survey& next) {
-  const PartSet touched = differingParts(before, next);
-  for (const Part part : kParts) {
-    const Fate fate = rule.fate(part);
-    if (fate == Fate::kVoid) forgetPart(part, next);
-    if ((fate == Fate::kKept || fate == Fate::kStale) && touched.has(part)) {
-      return Status::failure(
-          Message::tr("%1 would change what it must not; nothing was changed").arg(rule.text));
-    }
-  }
-  PartSet records;
-  for (const Part part : {Part::kRecordings, Part::kPicks, Part::kGeometry}) records.add(part);
-  if (differingParts(before, next).any(records)) fitMarks(next);
-  return {};
 }
 
 }  // namespace
@@ -71,7 +40,7 @@ Status Session::run(Edit edit, const Change& change, const Survey& before, Surve
     status = Status::failure(Message::tr("the edit failed: %1").arg(error.what()));
   }
   mChanging = false;
-  return status.ok() ? follow(ruleOf(edit), before, next) : status;
+  return status.ok() ? followTable(edit, before, next) : status;
 }
 
 Status Session::apply(Edit edit, const Change& change, Message text) {
@@ -87,7 +56,8 @@ Status Session::applyMerging(Edit edit, const Change& change, const std::string&
   Status status = run(edit, change, mSurvey, next);
   if (!status.ok()) return status;
   std::swap(mSurvey, next);
-  push({edit, text.empty() ? ruleOf(edit).text : std::move(text), key, next, 0});
+  if (text.empty()) text = ruleOf(edit).text;
+  push({edit, std::move(text), key, next, 0});
   tell(SurveyChange::Kind::kEdit, edit, next);
   return status;
 }
@@ -196,7 +166,7 @@ void Session::dropOldest() {
 
 void Session::open(Survey survey, bool saved) {
   mOpen.reset();
-  fitMarks(survey);
+  fitMarksToRecords(survey);
   std::swap(mSurvey, survey);
   mSteps.clear();
   mIndex = 0;

@@ -79,7 +79,7 @@ std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
 }
 
 ForwardPass::ForwardPass(TomoDocument& document, unsigned threads, Log& log, ThreadLines lines)
-    : mDocument(document), mLog(log), mLines(lines) {
+    : mLog(log), mLines(lines) {
   std::vector<ExcludedPosition> excluded = findExcluded(document);
   if (!sameExclusions(excluded, document.result->excluded)) {
     for (const ExcludedPosition& position : excluded) log.write(describe(position), 1);

@@ -66,7 +66,6 @@ class ForwardPass {
 
   void tellThread(std::size_t shot, bool log);
 
-  TomoDocument& mDocument;
   Log& mLog;
   ThreadLines mLines;
   bool mTraced = false;

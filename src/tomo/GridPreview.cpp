@@ -27,7 +27,7 @@ std::optional<double> reachingSize(const SurveyProfile& profile, const GridSetti
   for (int tried = 0; tried < kMostSteps; ++tried) {
     steps += step;
     const double size = steps / kStepsPerMetre;
-    if (size < kSmallestCell || size > profile.arrayLength) break;
+    if (size < parameters::kCellSize.limits.least || size > profile.arrayLength) break;
     const GridSize grid = gridSizeFor(profile.arrayLength, settings.maxDepth, size, settings.nodes);
     if (reaches(grid, profile.maxX + profile.xOffset)) return size;
   }

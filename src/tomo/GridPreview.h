@@ -2,8 +2,8 @@
 
 #include "base/Status.h"
 #include "grid/GridGeometry.h"
+#include "model/LeftOut.h"
 #include "tomo/GridSetup.h"
-#include "tomo/LeftOut.h"
 
 #include <optional>
 

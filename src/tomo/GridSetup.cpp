@@ -19,7 +19,7 @@
 namespace talvesk {
 namespace {
 
-constexpr std::uint32_t kFewestNodes = 6;  // per cell side, of those that users choose
+constexpr std::uint32_t kFewestNodes = parameters::kNodes.limits.least;  // per cell side
 
 std::string withSixDecimals(double value) {
   std::ostringstream text;
@@ -77,9 +77,10 @@ GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& lo
   profile = measure(document, log);
   GridSettings settings;
   settings.maxDepth = profile.arrayLength / 2.0;
-  settings.cellSize =
-      document.model->proposedCellSizes.empty() ? 0.5 : document.model->proposedCellSizes.front();
-  settings.cellSize = std::max(settings.cellSize, kSmallestCell);
+  settings.cellSize = document.model->proposedCellSizes.empty()
+                          ? parameters::kCellSize.initial
+                          : document.model->proposedCellSizes.front();
+  settings.cellSize = std::max(settings.cellSize, parameters::kCellSize.limits.least);
   settings.nodes = std::max(document.model->grid ? document.model->grid->nV() : 0U, kFewestNodes);
   return settings;
 }

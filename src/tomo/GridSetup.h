@@ -2,6 +2,7 @@
 
 #include "base/Log.h"
 #include "base/Status.h"
+#include "model/Parameters.h"
 #include "model/TomoDocument.h"
 #include "tomo/Smoothing.h"
 
@@ -10,18 +11,18 @@
 namespace talvesk {
 
 struct VelocityLayer;
-inline constexpr double kSmallestCell = 0.1;  ///< metres, of the sizes that users choose
 
 /// What the user chooses for a grid.
 struct GridSettings {
-  double maxDepth = 0.0;    ///< metres
-  double cellSize = 0.0;    ///< metres
-  std::uint32_t nodes = 6;  ///< per cell side
+  double maxDepth = 0.0;                             ///< metres
+  double cellSize = 0.0;                             ///< metres
+  std::uint32_t nodes = parameters::kNodes.initial;  ///< per cell side
 };
 
 /// Measures the survey, proposes a cell size (kept in the document's list) and returns what a
-/// dialog shows as defaults: half the array length deep, the size proposed first but kSmallestCell
-/// at least, as many nodes per side as the present grid has, 6 without one.
+/// dialog shows as defaults: half the array length deep, the size proposed first but at
+/// least the smallest that users can choose, as many nodes per side as the present grid has, 6
+/// without one.
 GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& log);
 
 /// Builds the grid with the default model under the survey and installs it; the information density

@@ -1,6 +1,7 @@
 #include "tomo/Misfit.h"
 
-#include <algorithm>
+#include "model/Residuals.h"
+
 #include <cmath>
 
 namespace talvesk {
@@ -9,22 +10,15 @@ Misfit computeMisfit(const TomoDocument& document) {
   Misfit misfit;
   double squares = 0.0;
   double relativeSquares = 0.0;
-  for (const TravelTime& record : document.ttArray) {
-    const std::size_t n = std::min(record.ttMisurati.size(), record.ttCalcolati.size());
-    for (std::size_t i = 0; i < n; ++i) {
-      const double measured = record.ttMisurati[i];
-      const double computed = record.ttCalcolati[i];
-      if (!hasPick(measured) || computed == kNoTime) continue;
-      ++misfit.count;
-      squares += (measured - computed) * (measured - computed);
-      const double relative = (measured - computed) / measured;
-      relativeSquares += relative * relative;
-      // One-sided on purpose: only a computed time that comes late can be the largest error.
-      const double late = (computed - measured) / measured;
-      if (late > misfit.maxRelativeError) {
-        misfit.maxRelativeError = late;
-        misfit.maxError = std::fabs(computed - measured);
-      }
+  for (const Residual& each : residualsOf(document)) {
+    ++misfit.count;
+    squares += each.residual * each.residual;
+    const double relative = each.residual / each.measured;
+    relativeSquares += relative * relative;
+    // One-sided on purpose: only a computed time that comes late can be the largest error.
+    if (relative > misfit.maxRelativeError) {
+      misfit.maxRelativeError = relative;
+      misfit.maxError = std::fabs(each.residual);
     }
   }
   if (misfit.count == 0) return {};

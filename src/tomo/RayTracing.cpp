@@ -1,4 +1,4 @@
-#include "tomo/ShortestPathsState.h"
+#include "tomo/ShortestPaths_state.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "tomo/ShortestPaths.h"
 
-#include "tomo/ShortestPathsState.h"
+#include "tomo/ShortestPaths_state.h"
 
 #include <algorithm>
 #include <cmath>

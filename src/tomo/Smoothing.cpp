@@ -232,10 +232,6 @@ void checkHits(const Grid& grid, const std::vector<std::uint32_t>& hits) {
 
 }  // namespace
 
-SmoothingType smoothingTypeOf(int type) {
-  return type >= 1 && type <= 3 ? static_cast<SmoothingType>(type) : SmoothingType::kUniform;
-}
-
 std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
                                    const std::vector<std::uint32_t>& hits, int radius,
                                    double ratio) {

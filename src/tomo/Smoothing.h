@@ -2,22 +2,12 @@
 
 #include "base/Log.h"
 #include "grid/Grid.h"
+#include "model/SmoothingType.h"
 
 #include <cstdint>
 #include <vector>
 
 namespace talvesk {
-
-enum class SmoothingType : int { kUniform = 0, kLinear = 1, kGaussian = 2, kRayBased = 3 };
-
-/// Any number but 1, 2 and 3 means uniform.
-SmoothingType smoothingTypeOf(int type);
-
-/// Height over width of the smoothing window. Ground is layered: unless the user asks for a
-/// symmetric window it is flatter than wide.
-inline constexpr double verticalRatio(bool symmetric) {
-  return symmetric ? 1.0 : 0.7;
-}
 
 /// Smoothed slownesses (s/m, cell order) of a grid. The window of a cell reaches `radius` columns
 /// to each side and floor(radius * ratio) rows up and down, cut at the edges of the grid.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grid/Grid.h"
+#include "model/Parameters.h"
 
 #include <cstdint>
 #include <vector>
@@ -9,8 +10,8 @@ namespace talvesk {
 
 /// The limits within which the solver keeps velocities, m/s. The maximum wins where they cross.
 struct VelocityLimits {
-  double minimum = 250.0;
-  double maximum = 3500.0;
+  double minimum = parameters::kMinVelocity.initial;
+  double maximum = parameters::kMaxVelocity.initial;
 };
 
 /// One simultaneous update (SIRT; Gilbert 1972, Iterative methods for the three-dimensional

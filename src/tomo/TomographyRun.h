@@ -2,6 +2,7 @@
 
 #include "base/Log.h"
 #include "base/Status.h"
+#include "model/Parameters.h"
 #include "model/TomoDocument.h"
 #include "tomo/Misfit.h"
 #include "tomo/Smoothing.h"
@@ -16,14 +17,14 @@ namespace talvesk {
 
 /// What the user chooses before an inversion.
 struct TomographyParameters {
-  int externalIterations = 10;  ///< at least 1
-  int solverIterations = 20;    ///< at least 1
-  int smoothing = 5;            ///< smoothing parameter, cells, at least 1
-  SmoothingType smoothingType = SmoothingType::kRayBased;
+  int externalIterations = parameters::kIterations.initial;      ///< at least 1
+  int solverIterations = parameters::kSolverIterations.initial;  ///< at least 1
+  int smoothing = parameters::kSmoothing.initial;  ///< smoothing parameter, cells, at least 1
+  SmoothingType smoothingType = kUsualSmoothing;
   bool symmetric = false;
   bool singleThread = false;
-  double minVelocity = 250.0;   ///< m/s
-  double maxVelocity = 3500.0;  ///< m/s
+  double minVelocity = parameters::kMinVelocity.initial;  ///< m/s
+  double maxVelocity = parameters::kMaxVelocity.initial;  ///< m/s
   /// From when the elapsed time of the result counts, such as the choice of a window's command with
   /// its questions; none: from the start of the run.
   std::optional<std::chrono::steady_clock::time_point> asked;

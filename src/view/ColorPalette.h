@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Parameters.h"
+
 #include <cstddef>
 #include <string>
 #include <utility>
@@ -65,11 +67,12 @@ void buildGradient(ColorGradient& gradient, int type);
 /// A named gradient with the value scale that it is stretched over and the number of discrete
 /// colours that a view samples from it.
 struct ColorPalette {
-  std::string name;         ///< as shown in the palette chooser
-  int n_colors = 64;        ///< discrete colours; colorTable() bounds it
-  bool is_editable = true;  ///< false for the built-in palettes
-  double min_db = 250.0;    ///< lower end of the value scale, m/s for a velocity
-  double max_db = 3500.0;   ///< upper end of the value scale
+  std::string name;                            ///< as shown in the palette chooser
+  int n_colors = parameters::kColors.initial;  ///< discrete colours; colorTable() bounds it
+  bool is_editable = true;                     ///< false for the built-in palettes
+  double min_db =
+      parameters::kMinVelocity.initial;  ///< lower end of the value scale, as a rule m/s
+  double max_db = parameters::kMaxVelocity.initial;  ///< upper end of the value scale
   ColorGradient color_gradient;
 
   bool operator==(const ColorPalette& other) const;
@@ -121,7 +124,7 @@ struct ValueRange {
 /// gradient's colour at its centre.
 class ColorTable {
  public:
-  static constexpr int kMaxColors = 4096;
+  static constexpr int kMaxColors = parameters::kColors.limits.most;
 
   /// \param palette its n_colors is held within 1 and kMaxColors
   /// \param range the values at both ends of the table

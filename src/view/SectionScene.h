@@ -3,6 +3,7 @@
 #include "base/Point2D.h"
 #include "base/Status.h"
 #include "model/InversionRecord.h"
+#include "model/Parameters.h"
 #include "view/ColorPalette.h"
 #include "view/ContourBands.h"
 #include "view/ContourLines.h"
@@ -44,8 +45,8 @@ struct SectionSceneOptions {
   std::optional<ValueRange> range;
   std::vector<double> contourValues;  ///< drawn in addition to the equally spaced ones
   int equallySpacedContours = 0;      ///< how many values divide the range into equal parts
-  static constexpr std::size_t kMaxContours = 1000;  ///< values altogether
-  bool contourLines = true;                          ///< false: levels for the bands only
+  static constexpr std::size_t kMaxContours = parameters::kContours.limits.most;  ///< altogether
+  bool contourLines = true;  ///< false: levels for the bands only
   bool rays = false;
   bool coverageLimit = true;
   std::vector<SectionLine> refractors;  ///< shown as they are

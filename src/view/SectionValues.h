@@ -1,7 +1,6 @@
 #pragma once
 
 #include "view/ContourLines.h"
-#include "view/SectionScene.h"
 
 #include <vector>
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Parameters.h"
 #include "view/ColorPalette.h"
 #include "view/SectionScene.h"
 
@@ -13,13 +14,13 @@ inline constexpr int kMostRoundContours = 15;
 /// What the user chose about contours. Each quantity has a list of values of its own, for one of
 /// velocities says nothing about a gradient; all else is common to them.
 struct ContourSettings {
-  bool customized = false;              ///< the lists of values instead of equally spaced ones
-  int numberOfValues = 10;              ///< of the equally spaced ones, 1 or more
+  bool customized = false;  ///< the lists of values instead of equally spaced ones
+  int numberOfValues = parameters::kContours.initial;  ///< of the equally spaced ones, 1 or more
   std::vector<double> customValues;     ///< velocities, m/s; ascending, as the other two
   std::vector<double> gradientValues;   ///< vertical gradients of velocity, 1/s
   std::vector<double> laplacianValues;  ///< Laplacians of velocity, 1/(m s)
-  int labelEvery = 1;                   ///< every how many lines carry a label; 0 none
-  int labelSize = 12;                   ///< points
+  int labelEvery = parameters::kLabelEvery.initial;  ///< every how many lines carry a label; 0 none
+  int labelSize = parameters::kLabelSize.initial;    ///< points
   RgbColor color;
   bool onProfile = false;           ///< lines over the velocity section
   bool filled = false;              ///< bands between the values instead of cells
@@ -55,10 +56,6 @@ bool showsAnyContours(const ContourSettings& settings);
 ContourSettings proposedContours(ContourSettings settings, SectionQuantity quantity,
                                  const ValueRange& range);
 
-/// The vertical exaggerations that a section can be drawn with.
-inline constexpr double kLeastExaggeration = 0.01;
-inline constexpr double kMostExaggeration = 100.0;
-
 /// Size of the geophone markers on the section.
 enum class GeophoneMarkers { kNone, kSmall, kNormal, kLarge };
 
@@ -73,8 +70,8 @@ struct SectionViewSettings {
   bool title = true;
   bool gridLines = false;
   GeophoneMarkers geophones = GeophoneMarkers::kNormal;
-  double verticalExaggeration = 1.0;  ///< height of a metre over its width
-  bool lockRange = false;             ///< the palette's range stays when another line is shown
+  double verticalExaggeration = parameters::kExaggeration.initial;
+  bool lockRange = false;  ///< the palette's range stays when another line is shown
   ContourSettings contours;
 
   bool operator==(const SectionViewSettings& other) const;

@@ -1,6 +1,5 @@
 #include "widgets/LayerCurvesPlot.h"
 
-#include "figures/FigureItem.h"
 #include "figures/RefractionItems.h"
 #include "model/TravelTime.h"
 #include "refraction/LinearFit.h"
@@ -23,18 +22,8 @@ namespace {
 constexpr double kSymbol = 3.2;  ///< radius of a pick, pixels
 constexpr double kFaintSymbol = 2.2;
 constexpr double kRing = 6.0;
-constexpr double kLayer = 20.0;
 
 }  // namespace
-
-LayerCurvesPlot::LayerCurvesPlot(QWidget* parent) : PlotPage(parent) {
-  add(figureItem({}, kLayer,
-                 [this](QPainter& painter, const QwtScaleMap&, const QwtScaleMap&, const QRectF&) {
-                   paintCurves(painter);
-                 }));
-}
-
-LayerCurvesPlot::~LayerCurvesPlot() = default;
 
 void LayerCurvesPlot::setSurvey(std::vector<ShotArrivals> shots) {
   mShots = std::move(shots);
@@ -100,10 +89,9 @@ void LayerCurvesPlot::setShownLayer(int layer) {
 }
 
 void LayerCurvesPlot::setEditable(bool editable) {
+  gestures().giveUpDrag();
   mEditable = editable;
-  mPressed.reset();
-  mDragging = false;
-  repaintOverlay();
+  repaintLive();
 }
 
 bool LayerCurvesPlot::isShown(std::uint32_t shot) const {
@@ -123,7 +111,7 @@ std::optional<QPointF> LayerCurvesPlot::pointOf(const TraceRef& pick) const {
 
 void LayerCurvesPlot::select(std::vector<TraceRef> picks) {
   mSelection = std::move(picks);
-  repaintOverlay();
+  repaintLive();
   read(mSelection);
 }
 
@@ -210,16 +198,10 @@ void LayerCurvesPlot::paintOverlay(QPainter& painter) {
   for (const TraceRef& pick : mSelection) {
     if (const auto point = pointOf(pick)) painter.drawEllipse(*point, kRing, kRing);
   }
-  if (mHovered && mEditable && !mDragging) {
+  if (mHovered && mEditable) {
     painter.setPen(QPen(shown(mLayer), 1.6));
     if (const auto point = pointOf(*mHovered)) painter.drawEllipse(*point, kRing, kRing);
   }
-  if (!mDragging || !mPressed) return;
-  QColor veil = shown(mLayer);
-  painter.setPen(QPen(veil, 1.0));
-  veil.setAlphaF(0.15);
-  painter.setBrush(veil);
-  painter.drawRect(QRectF(*mPressed, mDragged).normalized());
 }
 
 bool LayerCurvesPlot::event(QEvent* event) {

@@ -17,7 +17,7 @@ namespace talvesk {
 ///
 /// Keys: 1, 2, 3 and 0 (none) choose the layer to mark with and mark what is selected; left and
 /// right go from pick to pick along the shot's curve, with Shift they select; Page Up and Page Down
-/// change the shot; Escape gives up a drag or the selection. Beside that those of PlotPage.
+/// change the shot; Escape gives up a drag, then the selection. Beside that those of PlotGestures.
 class LayerCurvesPlot : public PlotPage {
   Q_OBJECT
 
@@ -54,13 +54,14 @@ class LayerCurvesPlot : public PlotPage {
 
  protected:
   void paintOverlay(QPainter& painter) override;
-  bool pressed(const QMouseEvent& event) override;
-  bool moved(const QMouseEvent& event) override;
-  bool released(const QMouseEvent& event) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  PlotTool* toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys, const QPointF& at) override;
+  bool keyPressed(const QKeyEvent& event) override;
+  void hovered(const std::optional<QPointF>& at) override;
   bool event(QEvent* event) override;
 
  private:
+  class MarkTool;
+
   bool isShown(std::uint32_t shot) const;  ///< may be marked: of the current shot, or any
   bool hasPickAt(const TraceRef& at) const;
   std::optional<TraceRef> pickAt(const QPointF& point) const;
@@ -70,6 +71,7 @@ class LayerCurvesPlot : public PlotPage {
   void paintBranches(QPainter& painter, std::uint32_t shot) const;
   QColor shown(std::uint32_t layer) const;  ///< the colour of a layer on this paper
   QColor colorOf(std::uint32_t shot, std::uint32_t trace, bool strong) const;
+  void click(const QPointF& at);
   void select(std::vector<TraceRef> picks);
   void mark(std::vector<TraceRef> picks);
   void read(const std::vector<TraceRef>& picks);
@@ -87,9 +89,8 @@ class LayerCurvesPlot : public PlotPage {
   bool mEditable = true;
   std::vector<TraceRef> mSelection;
   std::optional<TraceRef> mHovered;
-  std::optional<QPointF> mPressed;  ///< where the left button went down
-  QPointF mDragged;
-  bool mDragging = false;
+  std::unique_ptr<PlotTool> mMark;
+  std::unique_ptr<PlotTool> mChoose;  ///< the shot, where nothing can be marked
 };
 
 }  // namespace talvesk

@@ -1,19 +1,23 @@
+#include "figures/FigureItem.h"
 #include "model/TravelTime.h"
 #include "widgets/LayerCurvesPlot.h"
+#include "widgets/PlotGestures_tools.h"
 
-#include <QApplication>
 #include <QKeyEvent>
-#include <QMouseEvent>
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <limits>
+
+#include <qwt_plot_item.h>
 
 // How the curves answer mouse and keys.
 
 namespace talvesk {
 namespace {
 
-constexpr double kReach = 9.0;  ///< pixels from a pick that still hit it
+constexpr double kReach = 9.0;   ///< pixels from a pick that still hit it
+constexpr double kLayer = 20.0;  ///< above the grid
 
 }  // namespace
 
@@ -47,59 +51,77 @@ std::vector<TraceRef> LayerCurvesPlot::picksIn(const QRectF& rect) const {
   return picks;
 }
 
-bool LayerCurvesPlot::pressed(const QMouseEvent& event) {
-  if (event.button() != Qt::LeftButton) return false;
-  mPressed = event.localPos();
-  mDragged = event.localPos();
-  mDragging = false;
-  return true;
-}
-
-bool LayerCurvesPlot::moved(const QMouseEvent& event) {
-  if (!mPressed) {
-    const auto hovered = pickAt(event.localPos());
-    if (hovered != mHovered) {
-      mHovered = hovered;
-      repaintOverlay();
-    }
-    return false;
-  }
-  if (!mEditable) return true;
-  mDragged = event.localPos();
-  const QPointF way = mDragged - *mPressed;
-  if (way.manhattanLength() >= QApplication::startDragDistance()) mDragging = true;
-  if (!mDragging) return true;
-  read(picksIn(QRectF(*mPressed, mDragged).normalized()));
-  repaintOverlay();
-  return true;
-}
-
-bool LayerCurvesPlot::released(const QMouseEvent& event) {
-  if (event.button() != Qt::LeftButton || !mPressed) return false;
-  // The release is the last move of a drag.
-  moved(event);
-  const QRectF band = QRectF(*mPressed, mDragged).normalized();
-  const bool dragged = mDragging;
-  mPressed.reset();
-  mDragging = false;
-  repaintOverlay();
-  if (dragged) {
-    const auto picks = picksIn(band);
-    if (picks.empty()) select({});
-    mark(picks);
-    return true;
-  }
-  const auto at = pickAt(event.localPos());
-  if (at && !isShown(at->shot)) {
-    emit shotChosen(static_cast<int>(at->shot));
-  } else if (at && mEditable) {
+void LayerCurvesPlot::click(const QPointF& point) {
+  const auto at = pickAt(point);
+  if (at && mEditable && isShown(at->shot)) {
     mark({*at});
-  } else if (at && mCurrent == kAllShots) {
+  } else if (at && (!isShown(at->shot) || mCurrent == kAllShots)) {
     emit shotChosen(static_cast<int>(at->shot));
   } else {
     select({});
   }
-  return true;
+}
+
+/// Marks the pick under a click, or those in the rectangle.
+class LayerCurvesPlot::MarkTool : public PlotTool {
+ public:
+  explicit MarkTool(LayerCurvesPlot& plot) : mPlot(plot) {}
+
+  bool press(const ToolEvent& event) override {
+    mFrom = mTo = event.at;
+    mDragging = false;
+    return true;
+  }
+  void move(const ToolEvent& event) override {
+    mTo = event.at;
+    mDragging = mDragging || isDrag(mTo - mFrom);
+    if (mDragging) mPlot.read(mPlot.picksIn(band()));
+  }
+  void release(const ToolEvent& event) override {
+    if (!mDragging) return mPlot.click(event.at);
+    const auto picks = mPlot.picksIn(band());
+    if (picks.empty()) mPlot.select({});
+    mPlot.mark(picks);
+  }
+  void giveUp() override { mPlot.read(mPlot.mSelection); }
+  void paint(QPainter& painter) const override {
+    if (mDragging) paintBand(painter, band(), mPlot.shown(mPlot.mLayer));
+  }
+
+ private:
+  QRectF band() const { return QRectF(mFrom, mTo).normalized(); }
+
+  LayerCurvesPlot& mPlot;
+  QPointF mFrom;
+  QPointF mTo;
+  bool mDragging = false;
+};
+
+LayerCurvesPlot::LayerCurvesPlot(QWidget* parent)
+    : PlotPage(parent),
+      mMark(std::make_unique<MarkTool>(*this)),
+      mChoose(std::make_unique<BandTool>(gestures(), [this](const QPointF& at) { click(at); })) {
+  alignNumbers();
+  add(figureItem({}, kLayer,
+                 [this](QPainter& painter, const QwtScaleMap&, const QwtScaleMap&, const QRectF&) {
+                   paintCurves(painter);
+                 }));
+}
+
+LayerCurvesPlot::~LayerCurvesPlot() = default;
+
+PlotTool* LayerCurvesPlot::toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys,
+                                   const QPointF&) {
+  if (button != Qt::LeftButton || (keys & Qt::ShiftModifier)) return nullptr;
+  return mEditable ? mMark.get() : mChoose.get();
+}
+
+void LayerCurvesPlot::hovered(const std::optional<QPointF>& at) {
+  const bool free = at && gestures().toolAtWork() == nullptr;
+  const auto now = free ? pickAt(*at) : std::nullopt;
+  if (now == mHovered) return;
+  mHovered = now;
+  repaintLive();
 }
 
 void LayerCurvesPlot::chooseLayer(int layer) {
@@ -138,39 +160,34 @@ void LayerCurvesPlot::walkShots(int steps) {
   emit shotChosen(mCurrent == kAllShots ? 0 : std::clamp(mCurrent + steps, 0, last));
 }
 
-void LayerCurvesPlot::keyPressEvent(QKeyEvent* event) {
-  const bool extend = event->modifiers().testFlag(Qt::ShiftModifier);
-  switch (event->key()) {
+bool LayerCurvesPlot::keyPressed(const QKeyEvent& event) {
+  const bool extend = event.modifiers().testFlag(Qt::ShiftModifier);
+  switch (event.key()) {
     case Qt::Key_0:
     case Qt::Key_1:
     case Qt::Key_2:
     case Qt::Key_3:
-      chooseLayer(event->key() - Qt::Key_0);
-      break;
+      chooseLayer(event.key() - Qt::Key_0);
+      return true;
     case Qt::Key_Left:
       walk(-1, extend);
-      break;
+      return true;
     case Qt::Key_Right:
       walk(1, extend);
-      break;
+      return true;
     case Qt::Key_PageUp:
       walkShots(-1);
-      break;
+      return true;
     case Qt::Key_PageDown:
       walkShots(1);
-      break;
+      return true;
     case Qt::Key_Escape:
       // With nothing to give up, the key is for whoever the plot is part of.
-      if (!mDragging && mSelection.empty()) {
-        event->ignore();
-        return;
-      }
-      mPressed.reset();
-      mDragging = false;
+      if (mSelection.empty()) return false;
       select({});
-      break;
+      return true;
     default:
-      PlotPage::keyPressEvent(event);
+      return false;
   }
 }
 

@@ -1,33 +1,26 @@
 #include "widgets/LinePlan.h"
 
-#include "widgets/PlotDress.h"
 #include "widgets/TraceColors.h"
+#include "widgets/PlotGestures_tools.h"
 
-#include <QEvent>
 #include <QHelpEvent>
 #include <QLocale>
-#include <QMouseEvent>
 #include <QPainterPath>
 #include <QPolygonF>
 #include <QToolTip>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
 #include <qwt_legend.h>
 #include <qwt_plot.h>
-#include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
-#include <qwt_plot_grid.h>
-#include <qwt_scale_map.h>
 #include <qwt_symbol.h>
 
 namespace talvesk {
 namespace {
 
 constexpr double kReach = 14.0;       ///< pixels around a click
-constexpr double kMargin = 0.06;      ///< of the width of the line, beside it
 constexpr double kLeastHeight = 2.0;  ///< metres of elevation shown for a level line
 constexpr double kFarthest = 1e8;     ///< what lies beyond would squeeze all the rest, metres
 
@@ -77,20 +70,13 @@ QColor faded(const QColor& color, const QColor& background) {
 
 }  // namespace
 
-LinePlan::LinePlan(QWidget* parent) : QWidget(parent), mPlot(new QwtPlot(this)) {
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(mPlot);
-  if (auto* canvas = qobject_cast<QwtPlotCanvas*>(mPlot->canvas())) {
-    canvas->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
-  }
+LinePlan::LinePlan(QWidget* parent)
+    : PlotPage(parent),
+      mChoose(std::make_unique<BandTool>(gestures(), [this](const QPointF& at) { click(at); })) {
   auto* legend = new QwtLegend;
   legend->setFrameStyle(QFrame::NoFrame);
-  mPlot->insertLegend(legend, QwtPlot::BottomLegend);
-  mPlot->canvas()->installEventFilter(this);
-  mPlot->canvas()->setCursor(Qt::ArrowCursor);
+  plot().insertLegend(legend, QwtPlot::BottomLegend);
   retranslate();
-  draw();
 }
 
 LinePlan::~LinePlan() = default;
@@ -100,13 +86,8 @@ void LinePlan::setScene(LinePlanScene scene) {
   draw();
 }
 
-QWidget* LinePlan::canvas() const {
-  return mPlot->canvas();
-}
-
 QPointF LinePlan::pointOf(const Point2D& place) const {
-  return {mPlot->canvasMap(QwtPlot::xBottom).transform(place.x),
-          mPlot->canvasMap(QwtPlot::yLeft).transform(place.z)};
+  return toCanvas({place.x, place.z});
 }
 
 QSize LinePlan::sizeHint() const {
@@ -118,13 +99,8 @@ QSize LinePlan::minimumSizeHint() const {
 }
 
 void LinePlan::draw() {
-  mPlot->detachItems(QwtPlotItem::Rtti_PlotItem);
-  dressPlot(*mPlot);
+  plot().detachItems(QwtPlotItem::Rtti_PlotCurve);
   const TraceColors colors = traceColors(palette(), true);
-  auto* grid = new QwtPlotGrid;
-  grid->setPen(QPen(colors.faint, 0.0));
-  grid->attach(mPlot);
-
   bool named = false;
   const auto addString = [&](std::size_t s) {
     const bool current = static_cast<int>(s) == mScene.currentString;
@@ -137,7 +113,7 @@ void LinePlan::draw() {
                           : named ? QString()
                                   : tr("Other strings");
     named = named || !current;
-    addCurve(*mPlot, title, points, triangle, QPen(color, current ? 1.4 : 1.0));
+    addCurve(plot(), title, points, triangle, QPen(color, current ? 1.4 : 1.0));
   };
   for (std::size_t s = 0; s < mScene.strings.size(); ++s) {
     if (static_cast<int>(s) != mScene.currentString) addString(s);
@@ -148,22 +124,22 @@ void LinePlan::draw() {
   }
   if (const QPolygonF shots = drawable(mScene.shots); !shots.isEmpty()) {
     auto* star = new QwtSymbol(starPath(), QBrush(colors.negative), QPen(colors.text, 0.8));
-    addCurve(*mPlot, tr("Shots"), shots, star, Qt::NoPen);
+    addCurve(plot(), tr("Shots"), shots, star, Qt::NoPen);
   }
   if (const QPolygonF mistakes = drawable(mScene.mistakes); !mistakes.isEmpty()) {
     auto* ring =
         new QwtSymbol(QwtSymbol::Ellipse, Qt::NoBrush, QPen(colors.pick, 2.0), QSize(17, 17));
-    addCurve(*mPlot, tr("To be looked at"), mistakes, ring, Qt::NoPen);
+    addCurve(plot(), tr("To be looked at"), mistakes, ring, Qt::NoPen);
   }
   if (mScene.current && canDraw(*mScene.current)) {
     auto* frameSymbol =
         new QwtSymbol(QwtSymbol::Rect, Qt::NoBrush, QPen(colors.focus, 2.0), QSize(15, 15));
-    addCurve(*mPlot, QString(), drawable({*mScene.current}), frameSymbol, Qt::NoPen);
+    addCurve(plot(), QString(), drawable({*mScene.current}), frameSymbol, Qt::NoPen);
   }
-  fitAxes();
+  setWhole(content(), false);
 }
 
-void LinePlan::fitAxes() {
+QRectF LinePlan::content() const {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   Point2D low = {kInfinity, kInfinity};
   Point2D high = {-kInfinity, -kInfinity};
@@ -181,11 +157,8 @@ void LinePlan::fitAxes() {
     high = {100.0, 5.0};
   }
   const double width = std::max(high.x - low.x, 1.0);
-  mPlot->setAxisScale(QwtPlot::xBottom, low.x - kMargin * width, high.x + kMargin * width);
   const double height = std::max(high.z - low.z, kLeastHeight);
-  const double middle = 0.5 * (low.z + high.z);
-  mPlot->setAxisScale(QwtPlot::yLeft, middle - 0.65 * height, middle + 0.65 * height);
-  mPlot->replot();
+  return {low.x, 0.5 * (low.z + high.z - height), width, height};
 }
 
 std::optional<LinePlan::Target> LinePlan::targetAt(const QPointF& at) const {
@@ -221,8 +194,10 @@ void LinePlan::click(const QPointF& at) {
   }
 }
 
-bool LinePlan::showTip(const QPoint& at, const QPoint& global) {
-  const auto target = targetAt(at);
+bool LinePlan::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return PlotPage::event(event);
+  const auto& help = static_cast<const QHelpEvent&>(*event);
+  const auto target = targetAt(canvas()->mapFrom(this, help.pos()));
   if (!target) {
     QToolTip::hideText();
     return true;
@@ -238,46 +213,24 @@ bool LinePlan::showTip(const QPoint& at, const QPoint& global) {
   const QString who = target->string < 0
                           ? tr("Shot %1").arg(index + 1)
                           : tr("String %1, geophone %2").arg(target->string + 1).arg(index + 1);
-  QToolTip::showText(global, who + QLatin1Char('\n') + where, this);
+  QToolTip::showText(help.globalPos(), who + QLatin1Char('\n') + where, this);
   return true;
 }
 
-bool LinePlan::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == mPlot->canvas()) {
-    if (event->type() == QEvent::MouseButtonPress) {
-      const auto* mouse = static_cast<QMouseEvent*>(event);
-      if (mouse->button() == Qt::LeftButton) click(mouse->localPos());
-    } else if (event->type() == QEvent::ToolTip) {
-      const auto* help = static_cast<QHelpEvent*>(event);
-      return showTip(help->pos(), help->globalPos());
-    }
-  }
-  return QWidget::eventFilter(watched, event);
+PlotTool* LinePlan::toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys, const QPointF&) {
+  const bool plain = button == Qt::LeftButton && !(keys & Qt::ShiftModifier);
+  return plain ? mChoose.get() : nullptr;
 }
 
-void LinePlan::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  // Few centimetres of height leave no room for a name of the axis and numbers.
-  mPlot->setAxisMaxMajor(QwtPlot::yLeft, std::clamp(height() / 45, 2, 8));
-  mPlot->setAxisMaxMajor(QwtPlot::xBottom, std::clamp(width() / 70, 2, 12));
-  fitAxes();
-}
-
-void LinePlan::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  followChange(
-      *event,
-      [this] {
-        retranslate();
-        draw();
-      },
-      [this] { draw(); });
+void LinePlan::dress() {
+  PlotPage::dress();
+  draw();
 }
 
 void LinePlan::retranslate() {
   setAccessibleName(tr("Plan of the line"));
-  mPlot->setAxisTitle(QwtPlot::xBottom, tr("Distance (m)"));
-  mPlot->setAxisTitle(QwtPlot::yLeft, tr("Elevation (m)"));
+  setTexts({}, tr("Distance (m)"), tr("Elevation (m)"));
+  draw();  // the legend speaks, too
 }
 
 }  // namespace talvesk

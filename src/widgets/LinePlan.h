@@ -1,13 +1,12 @@
 #pragma once
 
 #include "base/Point2D.h"
+#include "widgets/PlotPage.h"
 
 #include <QPointF>
-#include <QWidget>
+#include <memory>
 #include <optional>
 #include <vector>
-
-class QwtPlot;
 
 namespace talvesk {
 
@@ -21,8 +20,8 @@ struct LinePlanScene {
 };
 
 /// Geophones and shots of a survey, elevation against distance. A click chooses the geophone of the
-/// current string, else of another one, or the shot that is nearest.
-class LinePlan : public QWidget {
+/// current string, else of another one, or the shot that is nearest; a drag zooms to a rectangle.
+class LinePlan : public PlotPage {
   Q_OBJECT
 
  public:
@@ -32,7 +31,6 @@ class LinePlan : public QWidget {
   void setScene(LinePlanScene scene);
   const LinePlanScene& scene() const { return mScene; }
 
-  QWidget* canvas() const;
   QPointF pointOf(const Point2D& place) const;  ///< in coordinates of canvas()
 
   QSize sizeHint() const override;
@@ -43,16 +41,15 @@ class LinePlan : public QWidget {
   void shotClicked(int shot);                      ///< from 0
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  void changeEvent(QEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  PlotTool* toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys, const QPointF& at) override;
+  void dress() override;
+  void retranslate() override;
+  bool event(QEvent* event) override;
 
  private:
   void draw();
-  void fitAxes();
-  void retranslate();
+  QRectF content() const;
   void click(const QPointF& at);
-  bool showTip(const QPoint& at, const QPoint& global);
 
   /// What a point of the plan belongs to.
   struct Target {
@@ -61,8 +58,8 @@ class LinePlan : public QWidget {
   };
   std::optional<Target> targetAt(const QPointF& at) const;
 
-  QwtPlot* mPlot;
   LinePlanScene mScene;
+  std::unique_ptr<PlotTool> mChoose;
 };
 
 }  // namespace talvesk

@@ -1,12 +1,9 @@
 #include "widgets/MisfitPlot.h"
 
-#include "widgets/PlotDress.h"
 #include "widgets/TraceColors.h"
 
-#include <QEvent>
 #include <QPen>
 #include <QPolygonF>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -18,21 +15,15 @@
 namespace talvesk {
 
 MisfitPlot::MisfitPlot(QWidget* parent)
-    : QWidget(parent),
-      mPlot(new QwtPlot(this)),
-      mSectionCurve(new QwtPlotCurve),
-      mPassCurve(new QwtPlotCurve) {
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(mPlot);
+    : PlotPage(parent), mSectionCurve(new QwtPlotCurve), mPassCurve(new QwtPlotCurve) {
   for (QwtPlotCurve* curve : {mPassCurve, mSectionCurve}) {
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
-    curve->attach(mPlot);
+    add(curve);
   }
   auto* legend = new QwtPlotLegendItem;
   legend->setAlignment(Qt::AlignRight | Qt::AlignTop);
   legend->setRenderHint(QwtPlotItem::RenderAntialiased);
-  legend->attach(mPlot);
+  add(legend);
   mLegend = legend;
   retranslate();
   dress();
@@ -67,13 +58,16 @@ void MisfitPlot::draw() {
   };
   mSectionCurve->setSamples(samples(mSection, 0));
   mPassCurve->setSamples(samples(mPass, 1));
-  const double last = std::max(mTotal, 2);
-  const double step = std::ceil(last / 10.0);  // iterations are counted in whole numbers
-  mPlot->setAxisScale(QwtPlot::xBottom, 0.0, last, step);
-  mPlot->setAxisMaxMinor(QwtPlot::xBottom, 0);
-  mPlot->setAxisMaxMajor(QwtPlot::yLeft, 4);
-  mPlot->setAxisScale(QwtPlot::yLeft, 0.0, largest > 0.0 ? 1.1 * largest : 1.0);
-  mPlot->replot();
+  setWhole({0.0, 0.0, static_cast<double>(std::max(mTotal, 2)), largest > 0.0 ? largest : 1.0},
+           false);
+}
+
+void MisfitPlot::scaleAxes() {
+  PlotPage::scaleAxes();
+  // Iterations are counted in whole numbers.
+  plot().setAxisMaxMinor(QwtPlot::xBottom, 0);
+  plot().setAxisScale(QwtPlot::xBottom, window().left, window().right,
+                      std::ceil(window().width() / 10.0));
 }
 
 QSize MisfitPlot::sizeHint() const {
@@ -85,7 +79,7 @@ QSize MisfitPlot::minimumSizeHint() const {
 }
 
 void MisfitPlot::dress() {
-  dressPlot(*mPlot);
+  PlotPage::dress();
   const TraceColors colors = traceColors(palette(), true);
   const auto paint = [](QwtPlotCurve* curve, const QColor& color) {
     curve->setPen(QPen(color, 1.4));
@@ -94,21 +88,14 @@ void MisfitPlot::dress() {
   paint(mSectionCurve, colors.positive);
   paint(mPassCurve, palette().color(QPalette::Disabled, QPalette::Text));
   mLegend->setTextPen(QPen(palette().color(QPalette::Text)));
-  mPlot->replot();
+  repaintPlot();
 }
 
 void MisfitPlot::retranslate() {
   mSectionCurve->setTitle(tr("Section"));
   mPassCurve->setTitle(tr("Last solver pass"));
   setAccessibleName(tr("Misfit after every external iteration"));
-  mPlot->setAxisTitle(QwtPlot::xBottom, tr("External iteration"));
-  mPlot->setAxisTitle(QwtPlot::yLeft, tr("RMSE (ms)"));
-}
-
-void MisfitPlot::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  followChange(
-      *event, [this] { retranslate(); }, [this] { dress(); });
+  setTexts({}, tr("External iteration"), tr("RMSE (ms)"));
 }
 
 }  // namespace talvesk

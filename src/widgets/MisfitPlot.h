@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QWidget>
+#include "widgets/PlotPage.h"
+
 #include <vector>
 
-class QwtPlot;
 class QwtPlotCurve;
 class QwtPlotLegendItem;
 
@@ -11,7 +11,7 @@ namespace talvesk {
 
 /// The misfit of an inversion as small curves that grow: of the section after every external
 /// iteration, 0 being the starting model, and of the solver's last pass in each.
-class MisfitPlot : public QWidget {
+class MisfitPlot : public PlotPage {
   Q_OBJECT
 
  public:
@@ -30,14 +30,13 @@ class MisfitPlot : public QWidget {
   QSize minimumSizeHint() const override;
 
  protected:
-  void changeEvent(QEvent* event) override;
+  void scaleAxes() override;
+  void dress() override;
+  void retranslate() override;
 
  private:
-  void dress();
-  void retranslate();
   void draw();
 
-  QwtPlot* mPlot;
   QwtPlotCurve* mSectionCurve;
   QwtPlotCurve* mPassCurve;
   QwtPlotLegendItem* mLegend;

@@ -5,14 +5,11 @@
 #include "widgets/TraceColors.h"
 
 #include <QEvent>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QStackedLayout>
-#include <QWheelEvent>
+#include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
@@ -27,9 +24,7 @@
 namespace talvesk {
 namespace {
 
-constexpr double kPadding = 0.04;     ///< around everything, part of the size
 constexpr double kAxisExtent = 52.0;  ///< of the numbers at the left, pixels
-constexpr double kZoomStep = 1.4;
 constexpr double kMostMagnified = 1e4;
 
 void setTitle(QwtPlot& plot, int axis, const QString& text, const QFont& font) {
@@ -38,42 +33,59 @@ void setTitle(QwtPlot& plot, int axis, const QString& text, const QFont& font) {
   plot.setAxisTitle(axis, title);
 }
 
+/// What a span has to grow by at each end to leave room for a padding of pixels.
+double margin(double span, double padding, double pixels) {
+  return span * padding / std::max(pixels - 2.0 * padding, padding + 1.0);
+}
+
+/// Who has the keys.
+void paintFocus(QPainter& painter, const QRectF& frame, const QPalette& palette) {
+  painter.setPen(QPen(palette.color(QPalette::Highlight), 1.0));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(frame.adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
 }  // namespace
 
 PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
-  setFocusPolicy(Qt::StrongFocus);
-  mPages = new QStackedLayout(this);
-  mPlot = new QwtPlot(this);
+  auto* page = new QWidget(this);
+  mPlot = new QwtPlot(page);
   mPlot->setAutoDelete(true);
   mPlot->setFocusPolicy(Qt::NoFocus);
+  mColumn = new QVBoxLayout(page);
+  mColumn->setContentsMargins(0, 0, 0, 0);
+  mColumn->addWidget(mPlot, 1);
   mEmpty = new QLabel(this);
   mEmpty->setAlignment(Qt::AlignCenter);
   mEmpty->setWordWrap(true);
   mEmpty->setMargin(16);
   mEmpty->setTextFormat(Qt::PlainText);
-  mPages->addWidget(mPlot);
+  mPages = new QStackedLayout(this);
+  mPages->addWidget(page);
   mPages->addWidget(mEmpty);
   QWidget* area = mPlot->canvas();
-  area->setMouseTracking(true);
   area->setCursor(Qt::ArrowCursor);
   area->installEventFilter(this);
   if (auto* framed = qobject_cast<QwtPlotCanvas*>(area)) {
     framed->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
   }
-  // As wide in all plots, so that those above each other have their distances above each other.
-  mPlot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kAxisExtent);
   mGrid = new QwtPlotGrid;
   mGrid->attach(mPlot);
   mOverlay = new PlotOverlay(area, [this](QPainter& painter) {
     painter.setRenderHint(QPainter::Antialiasing);
     paintOverlay(painter);
+    mGestures->paintTool(painter);
+    if (hasFocus()) paintFocus(painter, mOverlay->rect(), palette());
   });
+  PlotSurface& surface = *this;
+  mGestures = std::make_unique<PlotGestures>(surface, *this, *area);
   PlotPage::dress();
 }
 
 PlotPage::~PlotPage() {
   // The canvas sends a last event when it goes.
   mPlot->canvas()->removeEventFilter(this);
+  mGestures.reset();
   delete mPlot;
 }
 
@@ -96,9 +108,17 @@ QPointF PlotPage::toCanvas(const QPointF& place) const {
           mPlot->canvasMap(QwtPlot::yLeft).transform(place.y())};
 }
 
-QPointF PlotPage::fromCanvas(const QPointF& point) const {
+QPointF PlotPage::placeAt(const QPointF& point) const {
   return {mPlot->canvasMap(QwtPlot::xBottom).invTransform(point.x()),
           mPlot->canvasMap(QwtPlot::yLeft).invTransform(point.y())};
+}
+
+QRectF PlotPage::area() const {
+  return mPlot->canvas()->contentsRect();
+}
+
+bool PlotPage::hasNothing() const {
+  return mPages->currentWidget() == mEmpty;
 }
 
 QSize PlotPage::sizeHint() const {
@@ -113,62 +133,56 @@ void PlotPage::add(QwtPlotItem* item) {
   item->attach(mPlot);
 }
 
-void PlotPage::setWhole(const QRectF& whole, bool empty) {
-  mPages->setCurrentIndex(empty ? 1 : 0);
-  const double width = whole.width() > 0.0 ? whole.width() : 1.0;
-  const double height = whole.height() > 0.0 ? whole.height() : 1.0;
-  const QPointF middle = whole.center();
-  mWhole = QRectF(0.0, 0.0, width * (1.0 + 2.0 * kPadding), height * (1.0 + 2.0 * kPadding));
-  mWhole.moveCenter(middle);
-  if (empty) mZoomed = false;
-  show(mZoomed ? mWindow : mWhole);
+void PlotPage::addBelow(QWidget* bar) {
+  mColumn->addWidget(bar);
 }
 
-void PlotPage::show(const QRectF& window) {
-  mWindow = window;
-  const QRect area = mPlot->canvas()->contentsRect();
-  mPlot->setAxisMaxMajor(QwtPlot::xBottom, std::clamp(area.width() / 70, 2, 14));
-  mPlot->setAxisMaxMajor(QwtPlot::yLeft, std::clamp(area.height() / 35, 2, 12));
-  mPlot->setAxisScale(QwtPlot::xBottom, mWindow.left(), mWindow.right());
-  mPlot->setAxisScale(QwtPlot::yLeft, mWindow.top(), mWindow.bottom());
+void PlotPage::alignNumbers() {
+  mPlot->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kAxisExtent);
+}
+
+void PlotPage::setWhole(const QRectF& content, bool empty) {
+  mPages->setCurrentIndex(empty ? 1 : 0);
+  mContent = content;
+  if (empty) {
+    mGestures->giveUpDrag();
+    mGestures->viewport().followHome();
+  }
+  followContent();
+}
+
+void PlotPage::followContent() {
+  const double width = mContent.width() > 0.0 ? mContent.width() : 1.0;
+  const double height = mContent.height() > 0.0 ? mContent.height() : 1.0;
+  const double x = 0.5 * width + margin(width, mPadding, area().width());
+  const double y = 0.5 * height + margin(height, mPadding, area().height());
+  const QPointF middle = mContent.center();
+  const ViewWindow whole{middle.x() - x, middle.x() + x, middle.y() - y, middle.y() + y};
+  mGestures->viewport().setExtent(
+      {whole, whole, whole.width() / kMostMagnified, whole.height() / kMostMagnified});
+  viewMoved();
+}
+
+void PlotPage::viewMoved() {
+  scaleAxes();
   repaintPlot();
+}
+
+void PlotPage::scaleAxes() {
+  const QSizeF size = area().size();
+  mPlot->setAxisMaxMajor(QwtPlot::xBottom, std::clamp(static_cast<int>(size.width()) / 70, 2, 14));
+  mPlot->setAxisMaxMajor(QwtPlot::yLeft, std::clamp(static_cast<int>(size.height()) / 35, 2, 12));
+  mPlot->setAxisScale(QwtPlot::xBottom, window().left, window().right);
+  mPlot->setAxisScale(QwtPlot::yLeft, window().top, window().bottom);
 }
 
 void PlotPage::repaintPlot() {
   mPlot->replot();
-  repaintOverlay();
+  repaintLive();
 }
 
-void PlotPage::repaintOverlay() {
+void PlotPage::repaintLive() {
   mOverlay->update();
-}
-
-void PlotPage::fit() {
-  mZoomed = false;
-  show(mWhole);
-}
-
-void PlotPage::zoomIn() {
-  zoomAbout(QRectF(mPlot->canvas()->contentsRect()).center(), 1.0 / kZoomStep, 1.0 / kZoomStep);
-}
-
-void PlotPage::zoomOut() {
-  zoomAbout(QRectF(mPlot->canvas()->contentsRect()).center(), kZoomStep, kZoomStep);
-}
-
-void PlotPage::zoomAbout(const QPointF& point, double byX, double byY) {
-  const QPointF at = fromCanvas(point);
-  const double width =
-      std::clamp(mWindow.width() * byX, mWhole.width() / kMostMagnified, mWhole.width());
-  const double height =
-      std::clamp(mWindow.height() * byY, mWhole.height() / kMostMagnified, mWhole.height());
-  const double left = at.x() - (at.x() - mWindow.left()) * width / mWindow.width();
-  const double top = at.y() - (at.y() - mWindow.top()) * height / mWindow.height();
-  QRectF next(left, top, width, height);
-  next.moveLeft(std::clamp(next.left(), mWhole.left(), mWhole.right() - width));
-  next.moveTop(std::clamp(next.top(), mWhole.top(), mWhole.bottom() - height));
-  mZoomed = true;
-  show(next);
 }
 
 void PlotPage::dress() {
@@ -180,92 +194,33 @@ void PlotPage::dress() {
 }
 
 bool PlotPage::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != mPlot->canvas()) return QWidget::eventFilter(watched, event);
-  switch (event->type()) {
-    case QEvent::Resize:
-      mOverlay->resize(mPlot->canvas()->size());
-      // Numbers at the axes change the size of the canvas, and the canvas the numbers: once round
-      // is enough.
-      if (!mResizing) {
-        mResizing = true;
-        show(mZoomed ? mWindow : mWhole);
-        mResizing = false;
-      }
-      return false;
-    case QEvent::Wheel: {
-      const auto& wheel = static_cast<QWheelEvent&>(*event);
-      // Alt and Shift turn some wheels sideways.
-      const QPoint angle = wheel.angleDelta();
-      const int turned = angle.y() != 0 ? angle.y() : angle.x();
-      const double by = std::pow(kZoomStep, -turned / 120.0);
-      const bool heightOnly = wheel.modifiers().testFlag(Qt::ControlModifier);
-      const bool widthOnly = wheel.modifiers().testFlag(Qt::ShiftModifier);
-      zoomAbout(wheel.position(), heightOnly ? 1.0 : by, widthOnly ? 1.0 : by);
-      return true;
+  if (watched == mPlot->canvas() && event->type() == QEvent::Resize) {
+    mOverlay->resize(mPlot->canvas()->size());
+    // Numbers at the axes change the size of the canvas, and the canvas the numbers: once round is
+    // enough.
+    if (!mResizing) {
+      mResizing = true;
+      followContent();
+      mResizing = false;
     }
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-      return mouse(*event);
-    default:
-      return QWidget::eventFilter(watched, event);
   }
+  return QWidget::eventFilter(watched, event);
 }
 
-bool PlotPage::mouse(QEvent& event) {
-  const auto& mouse = static_cast<QMouseEvent&>(event);
-  if (event.type() == QEvent::MouseButtonDblClick && mouse.button() == Qt::LeftButton) {
-    fit();
-    return true;
-  }
-  if (event.type() == QEvent::MouseButtonPress) {
-    setFocus(Qt::MouseFocusReason);
-    if (mouse.button() == Qt::MiddleButton) {
-      mPanning = true;
-      mPanFrom = fromCanvas(mouse.localPos());
-      return true;
-    }
-    return pressed(mouse);
-  }
-  if (event.type() == QEvent::MouseMove) {
-    if (!mPanning) return moved(mouse);
-    const QPointF by = mPanFrom - fromCanvas(mouse.localPos());
-    mZoomed = true;
-    show(mWindow.translated(by));
-    return true;
-  }
-  if (mPanning && mouse.button() == Qt::MiddleButton) {
-    mPanning = false;
-    return true;
-  }
-  return released(mouse);
+void PlotPage::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  repaintLive();
+}
+
+void PlotPage::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  repaintLive();
 }
 
 void PlotPage::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  const QEvent::Type type = event->type();
-  if (type == QEvent::PaletteChange || type == QEvent::FontChange || type == QEvent::StyleChange) {
-    dress();
-  }
-}
-
-void PlotPage::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-    case Qt::Key_F:
-    case Qt::Key_Home:
-      fit();
-      break;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-      zoomIn();
-      break;
-    case Qt::Key_Minus:
-      zoomOut();
-      break;
-    default:
-      QWidget::keyPressEvent(event);
-  }
+  followChange(
+      *event, [this] { retranslate(); }, [this] { dress(); });
 }
 
 }  // namespace talvesk

@@ -1,29 +1,26 @@
 #pragma once
 
+#include "widgets/PlotGestures.h"
+
 #include <QPointF>
 #include <QRectF>
 #include <QString>
 #include <QWidget>
-#include <functional>
 #include <memory>
 
 class QLabel;
-class QMouseEvent;
 class QPainter;
 class QStackedLayout;
+class QVBoxLayout;
 class QwtPlot;
 class QwtPlotGrid;
 class QwtPlotItem;
 
 namespace talvesk {
 
-/// A plot with distance to the right in the dress of the desktop, that can be zoomed and panned:
-/// what the plots of the layered interpretation have in common. Without anything to show a text
-/// stands in its place.
-///
-/// Wheel: zoom at the cursor, with Ctrl the height only, with Shift the distance only. The middle
-/// button pans, a double click, F or Home shows everything, + and - zoom.
-class PlotPage : public QWidget {
+/// A plot with distance to the right in the dress of the desktop, which is moved about in by the
+/// gestures of all plots. Without anything to show a text stands in its place.
+class PlotPage : public QWidget, protected PlotSurface {
   Q_OBJECT
 
  public:
@@ -34,56 +31,64 @@ class PlotPage : public QWidget {
   void setEmptyText(const QString& text);
 
   QWidget* canvas() const;  ///< the framed part that takes the mouse
-  /// Where a place is on the canvas, and back; y in the units of the left axis.
+  /// Where a place is on the canvas; y in the units of the left axis.
   QPointF toCanvas(const QPointF& place) const;
-  QPointF fromCanvas(const QPointF& point) const;
-  QRectF window() const { return mWindow; }  ///< what is seen: x, and y from least to largest
+  const ViewWindow& window() const { return mGestures->viewport().window(); }
+  bool canZoomBack() const { return mGestures->viewport().canGoBack(); }
+  bool canZoomForward() const { return mGestures->viewport().canGoForward(); }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
  public slots:
-  void fit();
-  void zoomIn();
-  void zoomOut();
+  void fit() { mGestures->fit(); }
+  void zoomBack() { mGestures->goBack(); }
+  void zoomForward() { mGestures->goForward(); }
 
  protected:
-  QwtPlot& plot() { return *mPlot; }
+  QwtPlot& plot() const { return *mPlot; }
+  PlotGestures& gestures() const { return *mGestures; }
   /// The plot owns the item from here on.
   void add(QwtPlotItem* item);
-  /// What there is to show, and whether there is anything: it is seen whole until the user has
-  /// zoomed. Then repaints.
-  void setWhole(const QRectF& whole, bool empty);
+  void addBelow(QWidget* bar);
+  void setPadding(double pixels) { mPadding = pixels; }  ///< around what there is to show
+  /// Plots above each other that have the numbers at the left as wide have their distances above
+  /// each other.
+  void alignNumbers();
+  /// What there is to show, and whether there is anything: it is seen whole, with some room around,
+  /// until the user has zoomed. Then repaints.
+  void setWhole(const QRectF& content, bool empty);
   void repaintPlot();
-  void repaintOverlay();
 
+  virtual void scaleAxes();  ///< to the window
   virtual void paintOverlay(QPainter&) {}
-  /// Mouse events that the page does not take itself; return whether they are done with.
-  virtual bool pressed(const QMouseEvent&) { return false; }
-  virtual bool moved(const QMouseEvent&) { return false; }
-  virtual bool released(const QMouseEvent&) { return false; }
   virtual void dress();  ///< colours and fonts of the desktop
+  virtual void retranslate() {}
+
+  bool hasNothing() const override;
+  QRectF area() const override;
+  QPointF placeAt(const QPointF& point) const override;
+  void viewMoved() override;
+  void repaintLive() override;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  bool mouse(QEvent& event);
-  void zoomAbout(const QPointF& point, double byX, double byY);
-  void show(const QRectF& window);
+  void followContent();
 
   QStackedLayout* mPages = nullptr;
+  QVBoxLayout* mColumn = nullptr;
   QwtPlot* mPlot = nullptr;
   QwtPlotGrid* mGrid = nullptr;
   QLabel* mEmpty = nullptr;
   QWidget* mOverlay = nullptr;
-  QRectF mWhole{0.0, 0.0, 1.0, 1.0};
-  QRectF mWindow{0.0, 0.0, 1.0, 1.0};
-  bool mZoomed = false;
-  bool mPanning = false;
+  std::unique_ptr<PlotGestures> mGestures;
+  QRectF mContent{0.0, 0.0, 1.0, 1.0};
+  double mPadding = 12.0;
   bool mResizing = false;
-  QPointF mPanFrom;
 };
 
 }  // namespace talvesk

@@ -20,6 +20,7 @@ constexpr double kSkyAbove = 0.06;    ///< room for the geophones
 }  // namespace
 
 RefractionProfilePlot::RefractionProfilePlot(QWidget* parent) : PlotPage(parent) {
+  alignNumbers();
   plot().insertLegend(new QwtLegend, QwtPlot::BottomLegend);
 }
 

@@ -1,7 +1,7 @@
 #include "widgets/SectionSheet.h"
 
 #include "figures/SectionItems.h"
-#include "widgets/SectionSheetPainter.h"
+#include "widgets/SectionSheet_painter.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

@@ -70,6 +70,7 @@ QwtPlotItem* itemOf(const PlotSeries& series, double z) {
 }  // namespace
 
 SeriesPlot::SeriesPlot(QWidget* parent) : PlotPage(parent) {
+  alignNumbers();
   plot().insertLegend(new QwtLegend, QwtPlot::BottomLegend);
 }
 

@@ -1,12 +1,9 @@
 #include "widgets/SpectrumPlot.h"
 
-#include "widgets/PlotDress.h"
 #include "widgets/TraceColors.h"
 
-#include <QEvent>
 #include <QPen>
 #include <QPolygonF>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -17,21 +14,18 @@
 namespace talvesk {
 
 SpectrumPlot::SpectrumPlot(QWidget* parent)
-    : QWidget(parent),
-      mPlot(new QwtPlot(this)),
+    : PlotPage(parent),
       mCurve(new QwtPlotCurve),
       mLow(new QwtPlotMarker),
       mHigh(new QwtPlotMarker) {
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(mPlot);
   mCurve->setRenderHint(QwtPlotItem::RenderAntialiased);
-  mCurve->attach(mPlot);
+  add(mCurve);
   for (QwtPlotMarker* marker : {mLow, mHigh}) {
     marker->setLineStyle(QwtPlotMarker::VLine);
     marker->setVisible(false);
-    marker->attach(mPlot);
+    add(marker);
   }
+  setPadding(0.0);
   retranslate();
   dress();
   setCurve({}, {});
@@ -51,9 +45,8 @@ void SpectrumPlot::setCurve(const std::vector<double>& frequencies,
     strongest = std::max(strongest, amplitudes[i]);
   }
   mCurve->setSamples(points);
-  mPlot->setAxisScale(QwtPlot::xBottom, 0.0, highest > 0.0 ? highest : 100.0);
-  mPlot->setAxisScale(QwtPlot::yLeft, 0.0, strongest > 0.0 ? 1.05 * strongest : 1.0);
-  mPlot->replot();
+  setWhole({0.0, 0.0, highest > 0.0 ? highest : 100.0, strongest > 0.0 ? 1.05 * strongest : 1.0},
+           false);
 }
 
 void SpectrumPlot::setCorners(std::optional<double> low, std::optional<double> high) {
@@ -63,7 +56,7 @@ void SpectrumPlot::setCorners(std::optional<double> low, std::optional<double> h
   };
   place(*mLow, low);
   place(*mHigh, high);
-  mPlot->replot();
+  repaintPlot();
 }
 
 std::size_t SpectrumPlot::points() const {
@@ -79,24 +72,17 @@ QSize SpectrumPlot::minimumSizeHint() const {
 }
 
 void SpectrumPlot::dress() {
-  dressPlot(*mPlot);
+  PlotPage::dress();
   const TraceColors colors = traceColors(palette(), true);
   mCurve->setPen(QPen(colors.positive, 1.4));
   mLow->setLinePen(QPen(colors.pick, 1.2, Qt::DashLine));
   mHigh->setLinePen(QPen(colors.computed, 1.2, Qt::DashDotLine));
-  mPlot->replot();
+  repaintPlot();
 }
 
 void SpectrumPlot::retranslate() {
   setAccessibleName(tr("Amplitude spectrum"));
-  mPlot->setAxisTitle(QwtPlot::xBottom, tr("Frequency"));
-  mPlot->setAxisTitle(QwtPlot::yLeft, tr("Intensity"));
-}
-
-void SpectrumPlot::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  followChange(
-      *event, [this] { retranslate(); }, [this] { dress(); });
+  setTexts({}, tr("Frequency"), tr("Intensity"));
 }
 
 }  // namespace talvesk

@@ -1,17 +1,17 @@
 #pragma once
 
-#include <QWidget>
+#include "widgets/PlotPage.h"
+
 #include <optional>
 #include <vector>
 
-class QwtPlot;
 class QwtPlotCurve;
 class QwtPlotMarker;
 
 namespace talvesk {
 
 /// An amplitude spectrum with the corners of a filter, frequency to the right.
-class SpectrumPlot : public QWidget {
+class SpectrumPlot : public PlotPage {
   Q_OBJECT
 
  public:
@@ -29,13 +29,10 @@ class SpectrumPlot : public QWidget {
   QSize minimumSizeHint() const override;
 
  protected:
-  void changeEvent(QEvent* event) override;
+  void dress() override;
+  void retranslate() override;
 
  private:
-  void dress();
-  void retranslate();
-
-  QwtPlot* mPlot;
   QwtPlotCurve* mCurve;
   QwtPlotMarker* mLow;
   QwtPlotMarker* mHigh;

@@ -1,27 +1,19 @@
 #include "widgets/TravelTimePlot.h"
 
 #include "model/TomoDocument.h"
-#include "widgets/PlotDress.h"
-#include "widgets/PlotOverlay.h"
 #include "widgets/TraceColors.h"
 #include "widgets/TravelTimePlot_state.h"
 
 #include <QCheckBox>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
-#include <QPainter>
-#include <QStackedLayout>
 #include <QToolButton>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
 #include <qwt_graphic.h>
 #include <qwt_plot.h>
-#include <qwt_plot_canvas.h>
-#include <qwt_plot_grid.h>
 #include <qwt_plot_item.h>
 
 namespace talvesk {
@@ -36,45 +28,17 @@ QIcon iconOf(const QwtPlotItem& item) {
 }  // namespace
 
 void TravelTimePlot::State::build() {
-  pages = new QStackedLayout(&widget);
-  plotPage = new QWidget(&widget);
-  emptyPage = new QLabel(&widget);
-  emptyPage->setAlignment(Qt::AlignCenter);
-  emptyPage->setWordWrap(true);
-  emptyPage->setMargin(16);
-  emptyPage->setTextFormat(Qt::PlainText);
-  pages->addWidget(plotPage);
-  pages->addWidget(emptyPage);
-
-  plot = new QwtPlot(plotPage);
-  plot->setAutoDelete(true);
-  plot->setFocusPolicy(Qt::NoFocus);
-  QWidget* canvas = plot->canvas();
-  canvas->setObjectName(QStringLiteral("travelTimeCanvas"));
-  canvas->setMouseTracking(true);
-  canvas->setCursor(Qt::ArrowCursor);
-  canvas->installEventFilter(&widget);
-  if (auto* framed = qobject_cast<QwtPlotCanvas*>(canvas)) {
-    framed->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
-  }
-  using namespace travel_time_items;
-  grid = new QwtPlotGrid;
-  grid->attach(plot);
+  widget.canvas()->setObjectName(QStringLiteral("travelTimeCanvas"));
   measured = travel_time_items::measured(curves.curves, look);
   computed = travel_time_items::computed(curves.curves, look);
   shots = travel_time_items::shots(curves.curves, look);
-  for (QwtPlotItem* item : {measured, computed, shots}) item->attach(plot);
-  overlay = new PlotOverlay(canvas, [this](QPainter& painter) { paintOverlay(painter); });
-
-  auto* column = new QVBoxLayout(plotPage);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(plot, 1);
+  for (QwtPlotItem* item : {measured, computed, shots}) widget.add(item);
   buildLegend();
-  column->addWidget(bar);
+  widget.addBelow(bar);
 }
 
 void TravelTimePlot::State::buildLegend() {
-  bar = new QWidget(plotPage);
+  bar = new QWidget(&widget);
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(8, 2, 8, 6);
   measuredBox = new QCheckBox(bar);
@@ -107,32 +71,33 @@ void TravelTimePlot::State::buildLegend() {
   connect(exportButton, &QToolButton::clicked, &widget, &TravelTimePlot::exportRequested);
 }
 
-void TravelTimePlot::State::dress() {
-  dressPlot(*plot);
-  const TraceColors colors = traceColors(widget.palette(), false);
-  look.ground = colors.background;
-  look.icons = colors.text;
-  grid->setPen(QPen(colors.faint, 0.0));
-  measuredBox->setIcon(iconOf(*measured));
-  computedBox->setIcon(iconOf(*computed));
-  shotIcon->setPixmap(iconOf(*shots).pixmap(kIcon));
-  plot->replot();
+void TravelTimePlot::dress() {
+  PlotPage::dress();
+  State& s = *mState;
+  const TraceColors colors = traceColors(palette(), false);
+  s.look.ground = colors.background;
+  s.look.icons = colors.text;
+  s.measuredBox->setIcon(iconOf(*s.measured));
+  s.computedBox->setIcon(iconOf(*s.computed));
+  s.shotIcon->setPixmap(iconOf(*s.shots).pixmap(kIcon));
+  repaintPlot();
 }
 
-void TravelTimePlot::State::retranslate() {
-  emptyPage->setText(TravelTimePlot::tr(
-      "No travel times yet.\n\nPick first breaks in the traces, by hand or with AutoPick, or "
-      "import travel times."));
-  plot->setAxisTitle(QwtPlot::xBottom, TravelTimePlot::tr("Distance [m]"));
-  plot->setAxisTitle(QwtPlot::yLeft, TravelTimePlot::tr("Time [ms]"));
-  measuredBox->setText(TravelTimePlot::tr("&Measured"));
-  computedBox->setText(TravelTimePlot::tr("&Computed"));
-  shotLabel->setText(TravelTimePlot::tr("Shots"));
-  fitButton->setText(TravelTimePlot::tr("&Fit"));
-  fitButton->setToolTip(TravelTimePlot::tr("Show all curves"));
-  exportButton->setText(TravelTimePlot::tr("Export &picture..."));
-  exportButton->setToolTip(TravelTimePlot::tr("Save the curves as PNG, SVG or PDF"));
-  describeCurrent();
+void TravelTimePlot::retranslate() {
+  State& s = *mState;
+  setAccessibleName(tr("Travel-time curves"));
+  setEmptyText(
+      tr("No travel times yet.\n\nPick first breaks in the traces, by hand or with AutoPick, or "
+         "import travel times."));
+  setTexts({}, tr("Distance [m]"), tr("Time [ms]"));
+  s.measuredBox->setText(tr("&Measured"));
+  s.computedBox->setText(tr("&Computed"));
+  s.shotLabel->setText(tr("Shots"));
+  s.fitButton->setText(tr("&Fit"));
+  s.fitButton->setToolTip(tr("Show all curves"));
+  s.exportButton->setText(tr("Export &picture..."));
+  s.exportButton->setToolTip(tr("Save the curves as PNG, SVG or PDF"));
+  s.describeCurrent();
 }
 
 void TravelTimePlot::State::readDocument() {
@@ -141,7 +106,6 @@ void TravelTimePlot::State::readDocument() {
   if (current >= count) current = -1;
   look.current = current < 0 ? TravelTimeLook::kNone : static_cast<std::size_t>(current);
   hovered.reset();
-  pages->setCurrentWidget(curves.curves.empty() ? emptyPage : plotPage);
   computedBox->setEnabled(curves.computedTimes > 0);
   followVisibility();
   describeCurrent();
@@ -156,7 +120,8 @@ void TravelTimePlot::State::followVisibility() {
   }
   measured->setVisible(measuredShown);
   computed->setVisible(lines);
-  show(movedByUser ? window : wholeWindow(), Step::Silent);
+  const double latest = curves.latestMs > 0.0 ? curves.latestMs : 1e3;
+  widget.setWhole({curves.low, 0.0, curves.high - curves.low, latest}, curves.curves.empty());
 }
 
 void TravelTimePlot::State::describeCurrent() {
@@ -194,26 +159,22 @@ void TravelTimePlot::State::walk(int steps) {
 }
 
 TravelTimePlot::TravelTimePlot(QWidget* parent)
-    : QWidget(parent), mState(std::make_unique<State>(*this)) {
-  setFocusPolicy(Qt::StrongFocus);
-  setAccessibleName(tr("Travel-time curves"));
+    : PlotPage(parent), mState(std::make_unique<State>(*this)) {
   mState->build();
-  mState->retranslate();
-  mState->dress();
+  retranslate();
+  dress();
   mState->readDocument();
 }
 
 TravelTimePlot::~TravelTimePlot() {
-  // The plot's items look at the curves, and its canvas sends a last event when it goes.
-  mState->plot->canvas()->removeEventFilter(this);
-  delete mState->plot;
+  plot().detachItems();  // they look at the curves
 }
 
 void TravelTimePlot::setRole(Role role) {
   mState->role = role;
   mState->look.othersFaint = role == Role::CurrentShot;
   mState->bar->setVisible(role == Role::AllShots);
-  mState->plot->replot();
+  repaintPlot();
 }
 
 TravelTimePlot::Role TravelTimePlot::role() const {
@@ -222,14 +183,13 @@ TravelTimePlot::Role TravelTimePlot::role() const {
 
 void TravelTimePlot::setDocument(const TomoDocument* document) {
   State& s = *mState;
-  s.cancelDrag();
+  gestures().giveUpDrag();
+  gestures().viewport().clearHistory();
+  gestures().viewport().followHome();
   s.document = document;
   s.current = -1;
   s.highlighted = -1;
-  s.movedByUser = false;
-  s.history.clear();
   s.readDocument();
-  emit viewChanged();
 }
 
 int TravelTimePlot::currentShot() const {
@@ -243,7 +203,7 @@ void TravelTimePlot::setEditor(EditPick edit) {
 void TravelTimePlot::setHighlightedTrace(int trace) {
   if (mState->highlighted == trace) return;
   mState->highlighted = trace;
-  mState->overlay->update();
+  repaintLive();
 }
 
 bool TravelTimePlot::showsComputed() const {
@@ -257,7 +217,7 @@ bool TravelTimePlot::isEmpty() const {
 void TravelTimePlot::setCurrentShot(int shot) {
   State& s = *mState;
   if (shot != s.current) {
-    s.cancelDrag();
+    gestures().giveUpDrag();
     s.highlighted = -1;
   }
   s.current = std::max(shot, -1);
@@ -280,10 +240,12 @@ void TravelTimePlot::setShowComputed(bool show) {
   mState->followVisibility();
 }
 
-void TravelTimePlot::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  followChange(
-      *event, [this] { mState->retranslate(); }, [this] { mState->dress(); });
+QSize TravelTimePlot::sizeHint() const {
+  return {480, 400};
+}
+
+QSize TravelTimePlot::minimumSizeHint() const {
+  return {160, 140};
 }
 
 }  // namespace talvesk

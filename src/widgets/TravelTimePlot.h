@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QPointF>
-#include <QWidget>
-#include <cstdint>
+#include "widgets/PlotPage.h"
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -10,19 +9,14 @@
 namespace talvesk {
 
 class TomoDocument;
-struct TraceWindow;
 
-/// The travel-time curves of a survey, distance to the right and time upward: a preview of the
-/// current shot, or the page of all shots with legend and buttons.
+/// The travel-time curves of a survey, metres to the right and milliseconds upward: a preview of
+/// the current shot, or the page of all shots with legend and buttons.
 ///
-/// The left button chooses the curve under it, drags a pick to another time, or, where nothing is,
-/// drags a rectangle to zoom to; with Ctrl it always zooms. The middle button, or Shift + left,
-/// pans; the right button opens a menu; a double click shows everything. Wheel: zoom at the cursor,
-/// with Ctrl time only, with Shift distance only.
-/// Keys: + and - zoom, F or Home shows everything, Backspace and Shift+Backspace go back and forth
-/// in the history of views, arrows pan, Page Up and Page Down choose the curve before and after,
-/// Escape gives up a drag.
-class TravelTimePlot : public QWidget {
+/// A click chooses the curve under it, and the left button drags a pick to another time; the right
+/// button opens a menu. Page Up and Page Down choose the curve before and after. Beside that the
+/// gestures of all plots.
+class TravelTimePlot : public PlotPage {
   Q_OBJECT
 
  public:
@@ -54,13 +48,8 @@ class TravelTimePlot : public QWidget {
   bool showsComputed() const;
   bool isEmpty() const;  ///< there is no time to draw; a text says what to do
 
-  /// The part that is seen: metres, and seconds with `top` the earliest.
-  const TraceWindow& window() const;
-  bool canZoomBack() const;
-  bool canZoomForward() const;
   /// Where a pick is, in coordinates of canvas(); none without one.
   std::optional<QPointF> pointOf(int shot, int trace) const;
-  QWidget* canvas() const;  ///< the framed part that takes the mouse
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -70,22 +59,21 @@ class TravelTimePlot : public QWidget {
   void refresh();  ///< times, positions or shots of the document changed
   void setShowMeasured(bool show);
   void setShowComputed(bool show);
-  void zoomIn();
-  void zoomOut();
-  void fit();  ///< everything
-  void zoomBack();
-  void zoomForward();
 
  signals:
   void shotChosen(int shot);             ///< by mouse or keys, from 0
   void pickEdited(int shot, int trace);  ///< by mouse; the document has the new time
   void exportRequested();                ///< the user wants the curves as a picture
-  void viewChanged();
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  void changeEvent(QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  PlotTool* toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys, const QPointF& at) override;
+  bool keyPressed(const QKeyEvent& event) override;
+  void hovered(const std::optional<QPointF>& at) override;
+  void paintOverlay(QPainter& painter) override;
+  void dress() override;
+  void retranslate() override;
+  bool event(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   struct State;

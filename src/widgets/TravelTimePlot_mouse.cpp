@@ -1,28 +1,24 @@
 #include "model/Recordings.h"
 #include "model/TomoDocument.h"
 #include "widgets/TravelTimePlot_state.h"
+#include "widgets/PlotGestures_tools.h"
 
-#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLocale>
 #include <QMenu>
-#include <QMouseEvent>
+#include <QPainter>
 #include <QToolTip>
-#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
-#include <qwt_plot.h>
-
 namespace talvesk {
 namespace {
 
-constexpr double kReach = 7.0;      ///< how far from a pick or curve the mouse may be, pixels
-constexpr double kLeastBand = 6.0;  ///< a smaller rectangle is a slip of the hand
-constexpr double kWheelStep = 1.25;
-constexpr double kWheelClick = 120.0;
+constexpr double kReach = 7.0;  ///< how far from a pick or curve the mouse may be, pixels
+constexpr double kRing = 6.0;   ///< radius, pixels
 
 double distance(const QPointF& a, const QPointF& b) {
   return std::hypot(a.x() - b.x(), a.y() - b.y());
@@ -123,74 +119,67 @@ int TravelTimePlot::State::curveAt(const QPointF& at) const {
   return found;
 }
 
-bool TravelTimePlot::State::press(const QMouseEvent& event) {
-  if (drag != Drag::None) return true;
-  if (event.button() != Qt::LeftButton && event.button() != Qt::MiddleButton) return false;
-  widget.setFocus(Qt::MouseFocusReason);
-  dragButton = event.button();
-  dragModifiers = event.modifiers();
-  pressed = dragged = event.localPos();
-  pressedWindow = window;
-  hovered.reset();
-  grabbed.reset();
-  drag = Drag::Press;
-  const bool plain = !(dragModifiers & (Qt::ControlModifier | Qt::ShiftModifier));
-  if (dragButton == Qt::LeftButton && plain) grabbed = pickAt(pressed);
-  return true;
-}
+/// Drags a pick to another time; a click chooses its shot.
+class TravelTimePlot::State::PickTool : public PlotTool {
+ public:
+  explicit PickTool(State& state) : mState(state) {}
 
-void TravelTimePlot::State::startDragging(const QPointF& at) {
-  if (distance(at, pressed) < QApplication::startDragDistance()) return;
-  if (dragButton == Qt::MiddleButton || (dragModifiers & Qt::ShiftModifier)) {
-    drag = Drag::Pan;
-    plot->canvas()->setCursor(Qt::ClosedHandCursor);
-  } else if (grabbed && edit) {
-    const PickAt pick = *grabbed;
-    chooseShot(pick.shot);
-    grabbed = pick;  // another shot in view ends what was under way
-    drag = Drag::Pick;
-  } else {
-    drag = Drag::Band;
+  bool press(const ToolEvent& event) override {
+    const auto pick = mState.pickAt(event.at);
+    if (!pick) return false;
+    mPick = *pick;
+    mFrom = mTo = event.at;
+    mDragging = false;
+    return true;
   }
-}
+  void move(const ToolEvent& event) override {
+    mTo = event.at;
+    mDragging = mDragging || isDrag(mTo - mFrom);
+  }
+  void release(const ToolEvent& event) override {
+    const double seconds = mState.timeAt(event.at.y());
+    mState.chooseShot(mPick.shot);
+    if (!mDragging || !mState.pickPoint(mPick.shot, mPick.trace)) return;
+    mState.movePick(mPick, withinRecord(*mState.document, mPick.shot, mPick.trace, seconds));
+  }
+  std::optional<Qt::CursorShape> cursor() const override { return Qt::SizeVerCursor; }
+  void paint(QPainter& painter) const override {
+    const auto from = mState.pickPoint(mPick.shot, mPick.trace);
+    if (!from) return;
+    const QColor color =
+        travel_time_items::colorOf(static_cast<std::size_t>(mPick.shot), mState.look);
+    const QPointF start = mState.point(*from);
+    if (!mDragging) return mState.paintRing(painter, start, color);
+    const QPointF at(start.x(), mTo.y());
+    painter.setPen(QPen(color, 1.0, Qt::DashLine));
+    painter.drawLine(start, at);
+    mState.paintRing(painter, at, color);
+    painter.setPen(mState.look.icons);
+    painter.drawText(
+        at + QPointF(1.6 * kRing, -kRing),
+        TravelTimePlot::tr("%1 ms").arg(milliseconds(std::max(mState.timeAt(at.y()), 0.0))));
+  }
 
-void TravelTimePlot::State::move(const QMouseEvent& event) {
-  if (drag == Drag::None) {
-    hoverAt(event.localPos());
-    return;
-  }
-  dragged = event.localPos();
-  if (drag == Drag::Press) startDragging(dragged);
-  if (drag == Drag::Pan) {
-    const QRectF canvas = plot->canvas()->contentsRect();
-    show(moved(pressedWindow, (pressed.x() - dragged.x()) / canvas.width() * window.width(),
-               (dragged.y() - pressed.y()) / canvas.height() * window.height()),
-         Step::Continuing);
-  }
-  overlay->update();
-}
+ private:
+  State& mState;
+  PickAt mPick;
+  QPointF mFrom;
+  QPointF mTo;
+  bool mDragging = false;
+};
 
-void TravelTimePlot::State::release(const QMouseEvent& event) {
-  if (drag == Drag::None || event.button() != dragButton) return;
-  move(event);  // a quick hand may have left no moves between
-  const Drag finished = drag;
-  const auto pick = grabbed;
-  const QPointF at = event.localPos();
-  cancelDrag();
-  if (finished == Drag::Press && event.button() == Qt::LeftButton) {
-    if (const int shot = curveAt(at); shot >= 0) chooseShot(shot);
-  } else if (finished == Drag::Band) {
-    finishBand(at);
-  } else if (finished == Drag::Pick && pickPoint(pick ? pick->shot : -1, pick ? pick->trace : -1)) {
-    movePick(*pick, withinRecord(*document, pick->shot, pick->trace, timeAt(at.y())));
-  }
-}
+TravelTimePlot::State::State(TravelTimePlot& owner)
+    : widget(owner),
+      pickTool(std::make_unique<PickTool>(*this)),
+      chooseTool(std::make_unique<BandTool>(owner.gestures(), [this](const QPointF& at) {
+        if (const int shot = curveAt(at); shot >= 0) chooseShot(shot);
+      })) {}
 
-void TravelTimePlot::State::finishBand(const QPointF& at) {
-  const QRectF band = QRectF(pressed, at).normalized();
-  if (band.width() < kLeastBand || band.height() < kLeastBand) return;
-  show({metresAt(band.left()), metresAt(band.right()), timeAt(band.bottom()), timeAt(band.top())},
-       Step::New);
+PlotTool* TravelTimePlot::toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys,
+                                  const QPointF& at) {
+  const State& s = *mState;
+  if (button != Qt::LeftButton || (keys & Qt::ShiftModifier)) return nullptr;
+  return s.edit && s.pickAt(at) ? s.pickTool.get() : s.chooseTool.get();
 }
 
 void TravelTimePlot::State::movePick(PickAt pick, double seconds) {
@@ -200,36 +189,46 @@ void TravelTimePlot::State::movePick(PickAt pick, double seconds) {
   emit widget.pickEdited(pick.shot, pick.trace);
 }
 
-void TravelTimePlot::State::cancelDrag() {
-  drag = Drag::None;
-  grabbed.reset();
-  plot->canvas()->setCursor(Qt::ArrowCursor);
-  overlay->update();
+void TravelTimePlot::hovered(const std::optional<QPointF>& at) {
+  State& s = *mState;
+  const bool free = gestures().toolAtWork() == nullptr;
+  const auto now = at && free ? s.pickAt(*at) : std::nullopt;
+  const Qt::CursorShape shape = !now     ? Qt::ArrowCursor
+                                : s.edit ? Qt::SizeVerCursor
+                                         : Qt::PointingHandCursor;
+  if (free && canvas()->cursor().shape() != shape) canvas()->setCursor(shape);
+  if (now == s.hovered) return;
+  s.hovered = now;
+  repaintLive();
 }
 
-void TravelTimePlot::State::hoverAt(const QPointF& at) {
-  const auto now = pickAt(at);
-  const bool same = now.has_value() == hovered.has_value() &&
-                    (!now || (now->shot == hovered->shot && now->trace == hovered->trace));
-  if (same) return;
-  hovered = now;
-  plot->canvas()->setCursor(!now   ? Qt::ArrowCursor
-                            : edit ? Qt::SizeVerCursor
-                                   : Qt::PointingHandCursor);
-  overlay->update();
+bool TravelTimePlot::keyPressed(const QKeyEvent& event) {
+  if (event.key() != Qt::Key_PageUp && event.key() != Qt::Key_PageDown) return false;
+  mState->walk(event.key() == Qt::Key_PageUp ? -1 : 1);
+  return true;
 }
 
-void TravelTimePlot::State::wheel(const QWheelEvent& event) {
-  const QPoint turned = event.angleDelta();
-  // Some desktops turn a wheel with Alt or Shift held into one across.
-  const double clicks = (turned.y() != 0 ? turned.y() : turned.x()) / kWheelClick;
-  const double by = std::pow(kWheelStep, clicks);
-  zoomAbout(event.position(), event.modifiers() & Qt::ControlModifier ? 1.0 : by,
-            event.modifiers() & Qt::ShiftModifier ? 1.0 : by, Step::Continuing);
+void TravelTimePlot::State::paintRing(QPainter& painter, const QPointF& middle,
+                                      const QColor& color) const {
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(look.ground, 4.0));
+  painter.drawEllipse(middle, kRing, kRing);
+  painter.setPen(QPen(color, 1.8));
+  painter.drawEllipse(middle, kRing, kRing);
+}
+
+void TravelTimePlot::paintOverlay(QPainter& painter) {
+  const State& s = *mState;
+  if (gestures().toolAtWork() == s.pickTool.get()) return;  // paints its own
+  const State::PickAt marked = s.hovered ? *s.hovered : State::PickAt{s.current, s.highlighted};
+  if (const auto pick = s.pickPoint(marked.shot, marked.trace)) {
+    s.paintRing(painter, s.point(*pick),
+                travel_time_items::colorOf(static_cast<std::size_t>(marked.shot), s.look));
+  }
 }
 
 void TravelTimePlot::State::tell(const QHelpEvent& event) {
-  const auto pick = pickAt(event.pos());
+  const auto pick = pickAt(widget.canvas()->mapFrom(&widget, event.pos()));
   if (!pick || document == nullptr) {
     QToolTip::hideText();
     return;
@@ -246,7 +245,7 @@ void TravelTimePlot::State::tell(const QHelpEvent& event) {
     text += QLatin1Char('\n') +
             TravelTimePlot::tr("Computed: %1 ms").arg(milliseconds(record.ttCalcolati[trace]));
   }
-  QToolTip::showText(event.globalPos(), text, plot->canvas());
+  QToolTip::showText(event.globalPos(), text, widget.canvas());
 }
 
 void TravelTimePlot::State::openMenu(const QPoint& global, const QPointF& at) {
@@ -259,50 +258,30 @@ void TravelTimePlot::State::openMenu(const QPoint& global, const QPointF& at) {
   }
   menu->addAction(TravelTimePlot::tr("&Fit"), &widget, &TravelTimePlot::fit);
   menu->addAction(TravelTimePlot::tr("Zoom &back"), &widget, &TravelTimePlot::zoomBack)
-      ->setEnabled(history.canGoBack());
+      ->setEnabled(widget.canZoomBack());
   menu->addAction(TravelTimePlot::tr("Zoom for&ward"), &widget, &TravelTimePlot::zoomForward)
-      ->setEnabled(history.canGoForward());
+      ->setEnabled(widget.canZoomForward());
   menu->addSeparator();
   menu->addAction(TravelTimePlot::tr("Export &picture..."), &widget,
                   &TravelTimePlot::exportRequested);
   menu->popup(global);
 }
 
-bool TravelTimePlot::eventFilter(QObject* watched, QEvent* event) {
-  State& s = *mState;
-  if (watched != s.plot->canvas()) return QWidget::eventFilter(watched, event);
-  switch (event->type()) {
-    case QEvent::Resize:
-      s.canvasResized();
-      return false;
-    case QEvent::MouseButtonPress:
-      return s.press(static_cast<const QMouseEvent&>(*event));
-    case QEvent::MouseMove:
-      s.move(static_cast<const QMouseEvent&>(*event));
-      return true;
-    case QEvent::MouseButtonRelease:
-      s.release(static_cast<const QMouseEvent&>(*event));
-      return true;
-    case QEvent::MouseButtonDblClick:
-      if (static_cast<const QMouseEvent&>(*event).button() == Qt::LeftButton) fit();
-      return true;
-    case QEvent::Leave:
-      s.hoverAt({-1e3, -1e3});
-      return false;
-    case QEvent::Wheel:
-      s.wheel(static_cast<const QWheelEvent&>(*event));
-      return true;
-    case QEvent::ToolTip:
-      s.tell(static_cast<const QHelpEvent&>(*event));
-      return true;
-    case QEvent::ContextMenu: {
-      const auto& menu = static_cast<const QContextMenuEvent&>(*event);
-      s.openMenu(menu.globalPos(), menu.pos());
-      return true;
-    }
-    default:
-      return QWidget::eventFilter(watched, event);
-  }
+bool TravelTimePlot::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return PlotPage::event(event);
+  mState->tell(static_cast<const QHelpEvent&>(*event));
+  return true;
+}
+
+void TravelTimePlot::contextMenuEvent(QContextMenuEvent* event) {
+  if (hasNothing()) return event->ignore();
+  mState->openMenu(event->globalPos(), canvas()->mapFrom(this, event->pos()));
+}
+
+std::optional<QPointF> TravelTimePlot::pointOf(int shot, int trace) const {
+  const auto pick = mState->pickPoint(shot, trace);
+  if (!pick) return std::nullopt;
+  return mState->point(*pick);
 }
 
 }  // namespace talvesk

@@ -1,82 +1,54 @@
 #pragma once
 
 #include "figures/TravelTimeItems.h"
-#include "widgets/TraceMapping.h"
 #include "widgets/TravelTimePlot.h"
-#include "widgets/ViewHistory.h"
 
-#include <QElapsedTimer>
 #include <QPointF>
 #include <optional>
 
 class QCheckBox;
 class QHelpEvent;
 class QLabel;
-class QMouseEvent;
-class QPainter;
-class QStackedLayout;
 class QToolButton;
-class QWheelEvent;
-class QwtPlot;
-class QwtPlotGrid;
 class QwtPlotItem;
 
 namespace talvesk {
 
-/// What the plot of travel times remembers between events. Its functions stand in the file of their
-/// purpose: TravelTimePlot.cpp builds and follows the document, _view.cpp zooms and paints,
-/// _mouse.cpp answers the mouse.
+/// What the plot of travel times remembers between events. TravelTimePlot.cpp builds it and follows
+/// the document, _mouse.cpp answers the mouse.
 struct TravelTimePlot::State {
-  explicit State(TravelTimePlot& owner) : widget(owner) {}
+  class PickTool;
 
-  /// How a new window enters the history of views.
-  enum class Step { New, Continuing, Silent };
-  enum class Drag { None, Press, Pick, Band, Pan };
+  explicit State(TravelTimePlot& owner);
+
   struct PickAt {
     int shot = -1;
     int trace = -1;
+    friend bool operator==(const PickAt& a, const PickAt& b) {
+      return a.shot == b.shot && a.trace == b.trace;
+    }
   };
 
   // --- Building and following.
   void build();
   void buildLegend();
-  void dress();        ///< colours and fonts of the desktop
-  void retranslate();  ///< texts of the program's language
   void readDocument();
   void followVisibility();  ///< of measured and computed times
   void describeCurrent();
   void chooseShot(int shot);
   void walk(int curves);
 
-  // --- View.
-  TraceWindow wholeWindow() const;
-  void show(const TraceWindow& wanted, Step step);
-  void applyWindow();
-  void zoomAbout(const QPointF& point, double byPosition, double byTime, Step step);
-  void zoomAboutMiddle(double by);
-  void pan(double partOfWidth, double partOfHeight);
-  void goInHistory(bool back);
-  QPointF point(const Point2D& metresAndMs) const;
-  double metresAt(double x) const;
-  double timeAt(double y) const;  ///< seconds
-  void canvasResized();
-  void paintOverlay(QPainter& painter) const;
-  void paintRing(QPainter& painter, const QPointF& middle, const QColor& color) const;
-
   // --- Mouse.
+  QPointF point(const Point2D& metresAndMs) const {
+    return widget.toCanvas({metresAndMs.x, metresAndMs.z});
+  }
+  double timeAt(double y) const { return 1e-3 * widget.placeAt({0.0, y}).y(); }  ///< seconds
   const TravelTimeCurve* curveOf(int shot) const;
   std::optional<Point2D> pickPoint(int shot, int trace) const;
   std::optional<PickAt> pickAt(const QPointF& point) const;
   int curveAt(const QPointF& point) const;  ///< shot; -1 none
-  bool press(const QMouseEvent& event);
-  void move(const QMouseEvent& event);
-  void release(const QMouseEvent& event);
-  void startDragging(const QPointF& point);
-  void finishBand(const QPointF& point);
   void movePick(PickAt pick, double seconds);
-  void cancelDrag();
-  void hoverAt(const QPointF& point);
-  void wheel(const QWheelEvent& event);
+  void paintRing(QPainter& painter, const QPointF& middle, const QColor& color) const;
   void tell(const QHelpEvent& event);
   void openMenu(const QPoint& global, const QPointF& point);
 
@@ -92,24 +64,10 @@ struct TravelTimePlot::State {
   bool measuredShown = true;
   bool computedShown = true;
 
-  TraceWindow window;
-  bool movedByUser = false;  ///< else the window follows size and document
-  bool layingOut = false;
-  ViewHistory history;
-  QElapsedTimer sinceStep;
-
-  Drag drag = Drag::None;
-  Qt::MouseButton dragButton = Qt::NoButton;
-  Qt::KeyboardModifiers dragModifiers;
-  QPointF pressed;
-  QPointF dragged;
-  TraceWindow pressedWindow;
-  std::optional<PickAt> grabbed;
+  std::unique_ptr<PlotTool> pickTool;
+  std::unique_ptr<PlotTool> chooseTool;  ///< the shot, by a click; else a rectangle to zoom to
   std::optional<PickAt> hovered;
 
-  QStackedLayout* pages = nullptr;
-  QWidget* plotPage = nullptr;
-  QLabel* emptyPage = nullptr;
   QWidget* bar = nullptr;
   QCheckBox* measuredBox = nullptr;
   QCheckBox* computedBox = nullptr;
@@ -118,9 +76,6 @@ struct TravelTimePlot::State {
   QLabel* currentLabel = nullptr;
   QToolButton* fitButton = nullptr;
   QToolButton* exportButton = nullptr;
-  QWidget* overlay = nullptr;
-  QwtPlot* plot = nullptr;
-  QwtPlotGrid* grid = nullptr;
   QwtPlotItem* measured = nullptr;
   QwtPlotItem* computed = nullptr;
   QwtPlotItem* shots = nullptr;

@@ -3,10 +3,10 @@
 namespace talvesk {
 namespace {
 
-TraceWindow exchange(std::vector<TraceWindow>& from, std::vector<TraceWindow>& to,
-                     const TraceWindow& now) {
+ViewWindow exchange(std::vector<ViewWindow>& from, std::vector<ViewWindow>& to,
+                    const ViewWindow& now) {
   if (from.empty()) return now;
-  const TraceWindow window = from.back();
+  const ViewWindow window = from.back();
   from.pop_back();
   to.push_back(now);
   return window;
@@ -19,18 +19,18 @@ void ViewHistory::clear() {
   mForward.clear();
 }
 
-void ViewHistory::leave(const TraceWindow& window) {
+void ViewHistory::leave(const ViewWindow& window) {
   mForward.clear();
   if (!mBack.empty() && mBack.back() == window) return;
   if (mBack.size() == kLongest) mBack.erase(mBack.begin());
   mBack.push_back(window);
 }
 
-TraceWindow ViewHistory::back(const TraceWindow& now) {
+ViewWindow ViewHistory::back(const ViewWindow& now) {
   return exchange(mBack, mForward, now);
 }
 
-TraceWindow ViewHistory::forward(const TraceWindow& now) {
+ViewWindow ViewHistory::forward(const ViewWindow& now) {
   return exchange(mForward, mBack, now);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/TraceMapping.h"
+#include "widgets/ViewWindow.h"
 
 #include <cstddef>
 #include <vector>
@@ -12,19 +12,19 @@ class ViewHistory {
  public:
   void clear();
   /// The view that is about to be left. Views that were gone back from are forgotten.
-  void leave(const TraceWindow& window);
+  void leave(const ViewWindow& window);
 
   bool canGoBack() const { return !mBack.empty(); }
   bool canGoForward() const { return !mForward.empty(); }
   /// \param now the view that is left \return the one to show; `now` where there is none
-  TraceWindow back(const TraceWindow& now);
-  TraceWindow forward(const TraceWindow& now);
+  ViewWindow back(const ViewWindow& now);
+  ViewWindow forward(const ViewWindow& now);
 
   static constexpr std::size_t kLongest = 100;  ///< older views are forgotten
 
  private:
-  std::vector<TraceWindow> mBack;
-  std::vector<TraceWindow> mForward;
+  std::vector<ViewWindow> mBack;
+  std::vector<ViewWindow> mForward;
 };
 
 }  // namespace talvesk

@@ -1,12 +1,9 @@
 #include "widgets/draw1DVelocityProfile.h"
 
-#include "widgets/PlotDress.h"
 #include "widgets/TraceColors.h"
 
-#include <QEvent>
 #include <QPen>
 #include <QPolygonF>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -26,22 +23,19 @@ constexpr double kFarthest = 0.75;  // how far the scale follows the spline out,
 }  // namespace
 
 draw1DVelocityProfile::draw1DVelocityProfile(QWidget* parent)
-    : QWidget(parent),
-      mPlot(new QwtPlot(this)),
+    : PlotPage(parent),
       mNonPositive(new QwtPlotZoneItem),
       mLayerCurve(new QwtPlotCurve),
       mSplineCurve(new QwtPlotCurve) {
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(mPlot);
   mNonPositive->setOrientation(Qt::Vertical);
-  mNonPositive->attach(mPlot);
+  add(mNonPositive);
   for (QwtPlotCurve* curve : {mLayerCurve, mSplineCurve}) {
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
     curve->setLegendAttribute(QwtPlotCurve::LegendShowLine);
-    curve->attach(mPlot);
+    add(curve);
   }
-  mPlot->insertLegend(new QwtLegend, QwtPlot::BottomLegend);
+  plot().insertLegend(new QwtLegend, QwtPlot::BottomLegend);
+  setPadding(0.0);
   retranslate();
   dress();
   draw();
@@ -84,12 +78,18 @@ void draw1DVelocityProfile::draw() {
     }
   }
   mSplineCurve->setSamples(points);
-  scale(spline);
-  mPlot->setAxisScale(QwtPlot::yLeft, deepest > 0.0 ? deepest : 1.0, 0.0);
-  mPlot->replot();
+  QRectF whole = velocities(spline);
+  whole.setHeight(deepest > 0.0 ? deepest : 1.0);
+  setWhole(whole, false);
 }
 
-void draw1DVelocityProfile::scale(const VelocityCurve& curve) {
+void draw1DVelocityProfile::scaleAxes() {
+  PlotPage::scaleAxes();
+  plot().setAxisScale(QwtPlot::yLeft, window().bottom, window().top);
+}
+
+/// What of the velocities is in view; marks those that are none.
+QRectF draw1DVelocityProfile::velocities(const VelocityCurve& curve) {
   double lowest = 0.0;
   double highest = mLargestVelocity;
   bool swings = false;
@@ -106,7 +106,8 @@ void draw1DVelocityProfile::scale(const VelocityCurve& curve) {
   if (swings) lowest = std::min(lowest, -0.05 * reach);
   mNonPositive->setInterval(kRoom * lowest, 0.0);
   mNonPositive->setVisible(swings);
-  mPlot->setAxisScale(QwtPlot::xBottom, kRoom * lowest, kRoom * (highest > 0.0 ? highest : reach));
+  if (highest <= 0.0) highest = reach;
+  return {kRoom * lowest, 0.0, kRoom * (highest - lowest), 0.0};
 }
 
 QSize draw1DVelocityProfile::sizeHint() const {
@@ -118,7 +119,7 @@ QSize draw1DVelocityProfile::minimumSizeHint() const {
 }
 
 void draw1DVelocityProfile::dress() {
-  dressPlot(*mPlot);
+  PlotPage::dress();
   const TraceColors colors = traceColors(palette(), true);
   mLayerCurve->setPen(QPen(colors.negative, 3.0));
   mSplineCurve->setPen(QPen(colors.positive, 1.6));
@@ -126,21 +127,14 @@ void draw1DVelocityProfile::dress() {
   zone.setAlphaF(0.18);
   mNonPositive->setBrush(zone);
   mNonPositive->setPen(QPen(Qt::NoPen));
-  mPlot->replot();
+  repaintPlot();
 }
 
 void draw1DVelocityProfile::retranslate() {
   setAccessibleName(tr("Velocity against depth"));
-  mPlot->setAxisTitle(QwtPlot::xBottom, tr("Velocity (m/s)"));
-  mPlot->setAxisTitle(QwtPlot::yLeft, tr("Depth below the ground (m)"));
+  setTexts({}, tr("Velocity (m/s)"), tr("Depth below the ground (m)"));
   mLayerCurve->setTitle(tr("Layers"));
   mSplineCurve->setTitle(tr("Velocity that the grid gets"));
-}
-
-void draw1DVelocityProfile::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  followChange(
-      *event, [this] { retranslate(); }, [this] { dress(); });
 }
 
 }  // namespace talvesk

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "grid/VelocityLayers.h"
+#include "widgets/PlotPage.h"
 
-#include <QWidget>
 #include <vector>
 
-class QwtPlot;
 class QwtPlotCurve;
 class QwtPlotZoneItem;
 
@@ -13,7 +12,7 @@ namespace talvesk {
 
 /// A layered starting model, velocity to the right and depth downward, and over the layers the
 /// spline through them that the grid will get.
-class draw1DVelocityProfile : public QWidget {
+class draw1DVelocityProfile : public PlotPage {
   Q_OBJECT
 
  public:
@@ -34,15 +33,14 @@ class draw1DVelocityProfile : public QWidget {
   QSize minimumSizeHint() const override;
 
  protected:
-  void changeEvent(QEvent* event) override;
+  void scaleAxes() override;
+  void dress() override;
+  void retranslate() override;
 
  private:
   void draw();
-  void scale(const VelocityCurve& curve);
-  void dress();
-  void retranslate();
+  QRectF velocities(const VelocityCurve& curve);
 
-  QwtPlot* mPlot;
   QwtPlotZoneItem* mNonPositive;
   QwtPlotCurve* mLayerCurve;
   QwtPlotCurve* mSplineCurve;

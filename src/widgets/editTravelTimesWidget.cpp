@@ -29,8 +29,6 @@ TraceViewOptions sane(TraceViewOptions options) {
 
 editTravelTimesWidget::editTravelTimesWidget(QWidget* parent)
     : QWidget(parent), mState(std::make_unique<State>(*this)) {
-  setFocusPolicy(Qt::StrongFocus);
-  setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAccessibleName(tr("Seismic traces"));
   State& s = *mState;
@@ -63,10 +61,10 @@ void editTravelTimesWidget::setSession(Session& session) {
 
 void editTravelTimesWidget::State::show(const TomoDocument* shown) {
   cancelDrag();
-  history.clear();
+  gestures.viewport().clearHistory();
+  gestures.viewport().followHome();
   document = shown;
   shot = -1;
-  movedByUser = false;
   rebuildShot(true);
 }
 
@@ -96,8 +94,8 @@ void editTravelTimesWidget::setOptions(const TraceViewOptions& options) {
   const bool reopen = s.options.zoomIn != before.zoomIn ||
                       s.options.showAllTraces != before.showAllTraces ||
                       s.options.byDistance != before.byDistance;
-  if (s.options.byDistance != before.byDistance) s.history.clear();
-  if (reopen) s.movedByUser = false;
+  if (s.options.byDistance != before.byDistance) s.gestures.viewport().clearHistory();
+  if (reopen) s.gestures.viewport().followHome();
   if (reopen || s.options.showFiltered != before.showFiltered) s.rebuildShot(false);
   s.redrawAll();
 }
@@ -152,20 +150,20 @@ void editTravelTimesWidget::selectTraces(int first, int last) {
   mState->select(first, last);
 }
 
-const TraceWindow& editTravelTimesWidget::window() const {
-  return mState->window;
+const ViewWindow& editTravelTimesWidget::window() const {
+  return mState->window();
 }
 
-void editTravelTimesWidget::setWindow(const TraceWindow& window) {
-  mState->show(window, State::Step::New);
+void editTravelTimesWidget::setWindow(const ViewWindow& window) {
+  mState->gestures.show(window, State::Step::New);
 }
 
 bool editTravelTimesWidget::canZoomBack() const {
-  return mState->history.canGoBack();
+  return mState->gestures.viewport().canGoBack();
 }
 
 bool editTravelTimesWidget::canZoomForward() const {
-  return mState->history.canGoForward();
+  return mState->gestures.viewport().canGoForward();
 }
 
 QPointF editTravelTimesWidget::pointOf(int trace, double time) const {
@@ -209,28 +207,27 @@ void editTravelTimesWidget::setGain(double gain) {
 }
 
 void editTravelTimesWidget::zoomIn() {
-  mState->zoomAboutMiddle(1.5);
+  mState->gestures.zoom(PlotGestures::kZoomStep);
 }
 
 void editTravelTimesWidget::zoomOut() {
-  mState->zoomAboutMiddle(1.0 / 1.5);
+  mState->gestures.zoom(1.0 / PlotGestures::kZoomStep);
 }
 
 void editTravelTimesWidget::fit() {
-  mState->show(mState->wholeWindow(), State::Step::New);
+  mState->gestures.fit();
 }
 
 void editTravelTimesWidget::home() {
-  mState->show(mState->openingWindow(), State::Step::New);
-  mState->movedByUser = false;
+  mState->gestures.home();
 }
 
 void editTravelTimesWidget::zoomBack() {
-  mState->goInHistory(true);
+  mState->gestures.goBack();
 }
 
 void editTravelTimesWidget::zoomForward() {
-  mState->goInHistory(false);
+  mState->gestures.goForward();
 }
 
 void editTravelTimesWidget::confirmPicks() {

@@ -13,13 +13,13 @@ namespace talvesk {
 
 class Session;
 class TomoDocument;
-struct TraceWindow;
+struct ViewWindow;
 
 /// What the left mouse button does. Whatever the tool, Ctrl + left drag zooms to a rectangle,
-/// Shift + left drag selects traces, the middle button pans and the right button removes picks.
+/// Shift + left drag selects traces, and the right button removes picks.
 enum class TraceTool {
   Pick,   ///< click sets, drag moves, drag across traces draws a run
-  Zoom,   ///< drag a rectangle
+  Zoom,   ///< drag a rectangle; a click zooms in
   Pan,    ///< drag the picture
   Ruler,  ///< drag a line and read its apparent velocity
   Select  ///< drag over the traces to confirm or clear together
@@ -32,12 +32,12 @@ enum class TraceTool {
 /// nothing but extremes and pictures of it. Give it the whole room of its
 /// parent (in a scroll area: widgetResizable), it has scroll bars of its own.
 ///
-/// Keys: Left and Right walk along the traces (Shift selects), Home and End go to the first and the
-/// last; Up and Down move the pick by a sample (Shift 10 samples, Ctrl 1 ms); Return sets a pick
-/// like that of the neighbour; Delete removes, C confirms; + and - zoom, Page Up and Page Down move
-/// in time, F shows everything, H the opening view, Backspace and Shift+Backspace go back and forth
-/// in the history of views; [ and ] change the gain; M magnifier, R ruler, Escape gives up.
-/// Wheel: zoom at the cursor, with Ctrl time only, with Shift traces only, with Alt gain.
+/// The view is moved with the gestures of all plots, see PlotGestures. Keys beside those: Left and
+/// Right walk along the traces (Shift selects), Home and End go to the first and the last; Up and
+/// Down move the pick by a sample (Shift 10 samples, Ctrl 1 ms); Return sets a pick like that of
+/// the neighbour; Delete removes, C confirms; [ and ] change the gain, as the wheel does with Alt;
+/// M magnifier, R ruler, Escape gives up. H shows the opening view. A double click with the tool
+/// Pick picks twice, and shows not everything.
 class editTravelTimesWidget : public QWidget {
   Q_OBJECT
 
@@ -80,8 +80,8 @@ class editTravelTimesWidget : public QWidget {
   void selectTraces(int first, int last);  ///< -1, -1 clears
 
   /// The part of the shot that is seen: channels from 0 or metres, and seconds.
-  const TraceWindow& window() const;
-  void setWindow(const TraceWindow& window);  ///< enters the history
+  const ViewWindow& window() const;
+  void setWindow(const ViewWindow& window);  ///< enters the history
   bool canZoomBack() const;
   bool canZoomForward() const;
 
@@ -129,11 +129,6 @@ class editTravelTimesWidget : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-  void leaveEvent(QEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;

@@ -133,7 +133,7 @@ void editTravelTimesWidget::State::pickLikeNeighbour() {
     confirmRange();
     return;
   }
-  double time = 0.5 * (window.top + window.bottom);
+  double time = 0.5 * (window().top + window().bottom);
   for (int away = 1; away < layout.count(); ++away) {
     const double left = traces.measured(layout.stepped(current, -away));
     const double right = traces.measured(layout.stepped(current, away));

@@ -8,7 +8,6 @@ namespace {
 
 constexpr double kMillisecond = 1e-3;
 constexpr double kKeyGain = 1.4142135623730951;  ///< two steps double
-constexpr double kPage = 0.8;                    ///< part of the window that a page moves by
 
 }  // namespace
 
@@ -75,30 +74,8 @@ bool editTravelTimesWidget::State::pickKey(const QKeyEvent& event) {
   }
 }
 
-bool editTravelTimesWidget::State::viewKey(const QKeyEvent& event) {
+bool editTravelTimesWidget::State::lookKey(const QKeyEvent& event) {
   switch (event.key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-      widget.zoomIn();
-      return true;
-    case Qt::Key_Minus:
-      widget.zoomOut();
-      return true;
-    case Qt::Key_PageUp:
-      show(moved(window, 0.0, -kPage * window.height()), Step::Continuing);
-      return true;
-    case Qt::Key_PageDown:
-      show(moved(window, 0.0, kPage * window.height()), Step::Continuing);
-      return true;
-    case Qt::Key_F:
-      widget.fit();
-      return true;
-    case Qt::Key_H:
-      widget.home();
-      return true;
-    case Qt::Key_Backspace:
-      goInHistory(!(event.modifiers() & Qt::ShiftModifier));
-      return true;
     case Qt::Key_BracketLeft:
       changeGain(1.0 / kKeyGain);
       return true;
@@ -119,9 +96,7 @@ bool editTravelTimesWidget::State::viewKey(const QKeyEvent& event) {
 
 /// Gives up, one thing after the other. \return whether there was anything
 bool editTravelTimesWidget::State::escape() {
-  if (drag != Drag::None) {
-    cancelDrag();
-  } else if (ruler) {
+  if (ruler) {
     ruler.reset();
     widget.update();
   } else if (selectedFirst >= 0) {
@@ -134,21 +109,20 @@ bool editTravelTimesWidget::State::escape() {
   return true;
 }
 
+bool editTravelTimesWidget::State::keyPressed(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_Escape) return escape();
+  const bool plain =
+      !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+  const bool nudging = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+  if ((plain || nudging) && pickKey(event)) return true;
+  return plain && (walkKey(event) || lookKey(event));
+}
+
 void editTravelTimesWidget::keyPressEvent(QKeyEvent* event) {
   State& s = *mState;
   if (s.session != nullptr) {
     if (event->matches(QKeySequence::Undo)) return s.session->undo();
     if (event->matches(QKeySequence::Redo)) return s.session->redo();
-  }
-  if (s.layout.count() > 0) {
-    if (event->key() == Qt::Key_Escape && s.escape()) return;
-    const bool plain =
-        !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-    const bool nudging = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
-    // A drag in progress keeps its picks to itself until it ends.
-    const bool free = s.drag == State::Drag::None;
-    if (free && (plain || nudging) && s.pickKey(*event)) return;
-    if (free && plain && (s.walkKey(*event) || s.viewKey(*event))) return;
   }
   QWidget::keyPressEvent(event);
 }

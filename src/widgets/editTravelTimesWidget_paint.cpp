@@ -94,20 +94,14 @@ void editTravelTimesWidget::State::paintLive(QPainter& painter) {
                  .arg(selectedLast + 1),
              plot);
   }
+  gestures.paintTool(painter);
   if (!hover) return;
-  if (drag == Drag::Band) {
-    const QRectF rect = QRectF(pressed, *hover).normalized();
-    QColor inside = colors.focus;
-    inside.setAlphaF(0.15);
-    painter.setPen(QPen(colors.focus, 1.0));
-    painter.setBrush(inside);
-    painter.drawRect(rect);
-    painter.setBrush(Qt::NoBrush);
+  const PlotTool* atWork = gestures.toolAtWork();
+  if (atWork == gestures.panTool() || atWork == gestures.bandTool() || atWork == zoomTool.get()) {
     return;
   }
-  if (drag == Drag::Pan) return;
   paintCrosshair(painter, scene(), map, hoverTrace, map.timeAt(hover->y()));
-  if (options.magnifier && drag != Drag::Select) {
+  if (options.magnifier && atWork != selectTool.get()) {
     paintMagnifier(painter, scene(), map, stroke.times(),
                    {map.positionAt(hover->x()), map.timeAt(hover->y())});
   }

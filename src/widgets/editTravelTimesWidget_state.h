@@ -3,18 +3,18 @@
 #include "session/PickEdits.h"
 #include "session/Session.h"
 #include "widgets/PickStroke.h"
+#include "widgets/PlotGestures.h"
 #include "widgets/ShotTraces.h"
 #include "widgets/TraceColors.h"
 #include "widgets/TraceLayout.h"
 #include "widgets/TraceMapping.h"
-#include "widgets/ViewHistory.h"
 #include "widgets/WigglePainter.h"
 #include "widgets/editTravelTimesWidget.h"
 
-#include <QElapsedTimer>
 #include <QImage>
 #include <QUndoStack>
 #include <map>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -23,29 +23,24 @@ class QScrollBar;
 namespace talvesk {
 
 /// What the trace view remembers between events. Its functions stand in the file of their purpose:
-/// _view.cpp, _edit.cpp, _mouse.cpp, _keys.cpp, _paint.cpp.
-struct editTravelTimesWidget::State {
-  explicit State(editTravelTimesWidget& owner) : widget(owner) {}
+/// _view.cpp, _edit.cpp, _mouse.cpp, _keys.cpp, _paint.cpp, and the tools of the mouse in
+/// _tools.cpp.
+struct editTravelTimesWidget::State : PlotSurface {
+  using Step = Viewport::Step;
+  class PickTool;
+  class RulerTool;
+  class SelectTool;
 
-  /// How a new window enters the history of views.
-  enum class Step {
-    New,         ///< the one before can be gone back to
-    Continuing,  ///< one of many small steps, that are gone back from together
-    Silent       ///< not at all
-  };
-  enum class Drag { None, Pick, Remove, Band, Pan, Ruler, Select };
+  explicit State(editTravelTimesWidget& owner);
 
   // --- View.
   void rebuildShot(bool newShot);
   void placePlot();
-  TraceMapping mapping() const { return {plot, window}; }
-  TraceWindow wholeWindow() const;
-  TraceWindow openingWindow() const;
-  TraceWindow confinedWindow(const TraceWindow& wanted) const;
-  void show(const TraceWindow& wanted, Step step);
-  void zoomAbout(const QPointF& point, double byPosition, double byTime, Step step);
-  void zoomAboutMiddle(double by);
-  void goInHistory(bool back);
+  const ViewWindow& window() const { return gestures.viewport().window(); }
+  TraceMapping mapping() const { return {plot, window()}; }
+  ViewWindow wholeWindow() const;
+  ViewWindow openingWindow() const;
+  Viewport::Extent extent() const;
   void reveal(int trace);  ///< moves the window so far that the trace and its pick are in sight
   void syncScrollBars();
   void scrolled(bool horizontal, int value);
@@ -73,16 +68,19 @@ struct editTravelTimesWidget::State {
   void describe();  ///< tells assistive technology what is current
 
   // --- Mouse.
+  bool hasNothing() const override { return layout.count() == 0; }
+  QRectF area() const override { return plot; }
+  QPointF placeAt(const QPointF& point) const override;
+  void viewMoved() override;
+  void repaintLive() override { widget.update(); }
+  PlotTool* toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys,
+                    const QPointF& point) override;
+  bool keyPressed(const QKeyEvent& event) override;
+  bool wheelTurned(double notches, Qt::KeyboardModifiers keys) override;
+  void hovered(const std::optional<QPointF>& point) override;
   int traceAt(const QPointF& point) const;
-  PickStroke::Place placeAt(const QPointF& point) const;
-  bool nearPick(const QPointF& point, int trace) const;
-  void beginDrag(Drag kind, const QPointF& point, bool snapping);
-  void continueDrag(const QPointF& point, bool snapping);
-  void finishDrag(const QPointF& point);
-  void cancelDrag();
-  void finishBand(const QPointF& point);
+  void cancelDrag() { gestures.giveUpDrag(); }
   TraceCursor cursorFor(int trace, std::optional<double> time) const;
-  void hoverAt(const QPointF& point);
   void tellAgain();    ///< cursorMoved() once more, of what it told last
   void tellCurrent();  ///< cursorMoved() of the current trace
   void changeGain(double factor);
@@ -91,7 +89,7 @@ struct editTravelTimesWidget::State {
   void walk(int steps, bool selecting);
   bool walkKey(const QKeyEvent& event);
   bool pickKey(const QKeyEvent& event);
-  bool viewKey(const QKeyEvent& event);
+  bool lookKey(const QKeyEvent& event);
   bool escape();
 
   // --- Pictures.
@@ -114,10 +112,7 @@ struct editTravelTimesWidget::State {
   ShotTraces traces;
   TraceLayout layout;
   QRectF plot{0.0, 0.0, 1.0, 1.0};
-  TraceWindow window;
-  bool movedByUser = false;  ///< else the window follows size and options
-  ViewHistory history;
-  QElapsedTimer sinceStep;
+  PlotGestures gestures;
   QScrollBar* across = nullptr;
   QScrollBar* down = nullptr;
 
@@ -126,13 +121,12 @@ struct editTravelTimesWidget::State {
   int selectedFirst = -1;
   int selectedLast = -1;
 
-  Drag drag = Drag::None;
-  Qt::MouseButton dragButton = Qt::NoButton;
-  QPointF pressed;
-  TraceWindow pressedWindow;
-  int pressedTrace = -1;
-  bool strayed = false;  ///< the drag went beyond the trace that it started on
-  PickStroke stroke;
+  std::unique_ptr<PlotTool> pickTool;
+  std::unique_ptr<PlotTool> removeTool;
+  std::unique_ptr<PlotTool> zoomTool;
+  std::unique_ptr<PlotTool> rulerTool;
+  std::unique_ptr<PlotTool> selectTool;
+  PickStroke stroke;                                 ///< of the drag that picks or removes
   std::optional<std::pair<QPointF, QPointF>> ruler;  ///< positions, seconds
   std::optional<QPointF> hover;                      ///< cursor, when over the plot
   int hoverTrace = -1;

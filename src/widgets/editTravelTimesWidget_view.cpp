@@ -11,7 +11,6 @@ namespace talvesk {
 namespace {
 
 constexpr double kLegible = 7.0;       ///< least pixels per trace of the opening view
-constexpr int kContinuingMs = 900;     ///< steps nearer in time than this are one
 constexpr double kLeastSamples = 6.0;  ///< that a window is high
 constexpr double kLeastTraces = 1.5;   ///< spacings that a window is wide
 constexpr double kNarrowest = 1e-9;    ///< part of the whole that a window is wide and high
@@ -67,13 +66,15 @@ void editTravelTimesWidget::State::rebuildShot(bool newShot) {
   if (current >= layout.count()) current = -1;
   if (selectedLast >= layout.count()) selectedFirst = selectedLast = -1;
   if (current < 0 && layout.count() > 0) current = layout.order().front();
-  const TraceWindow whole = wholeWindow();
-  const bool overlaps = window.left < whole.right && window.right > whole.left;
-  if (movedByUser && (!overlaps || (!layout.isByDistance() && countBefore != layout.count()))) {
-    // The times that were looked at stay, whatever becomes of the traces.
-    window.left = whole.left;
-    window.right = whole.right;
-  }
+  Viewport& viewport = gestures.viewport();
+  const ViewWindow before = window();
+  const ViewWindow whole = wholeWindow();
+  const bool overlaps = before.left < whole.right && before.right > whole.left;
+  const bool lost = !viewport.followsHome() &&
+                    (!overlaps || (!layout.isByDistance() && countBefore != layout.count()));
+  viewport.setExtent(extent());
+  // The times that were looked at stay, whatever becomes of the traces.
+  if (lost) viewport.show({whole.left, whole.right, before.top, before.bottom}, Step::Silent);
   placePlot();
   tellAgain();
   emit widget.selectionChanged();
@@ -95,19 +96,23 @@ void editTravelTimesWidget::State::placePlot() {
   const bool any = layout.count() > 0;
   down->setVisible(any);
   across->setVisible(any);
-  window = confinedWindow(movedByUser ? window : openingWindow());
+  gestures.viewport().setExtent(extent());
+  viewMoved();
+}
+
+void editTravelTimesWidget::State::viewMoved() {
   syncScrollBars();
   redrawAll();
   emit widget.viewChanged();
 }
 
-TraceWindow editTravelTimesWidget::State::wholeWindow() const {
+ViewWindow editTravelTimesWidget::State::wholeWindow() const {
   const double margin = layout.spacing();
   return {layout.first() - margin, layout.last() + margin, 0.0, traces.timeEnd()};
 }
 
-TraceWindow editTravelTimesWidget::State::openingWindow() const {
-  TraceWindow opening = wholeWindow();
+ViewWindow editTravelTimesWidget::State::openingWindow() const {
+  ViewWindow opening = wholeWindow();
   if (options.zoomIn) opening.bottom = firstBreakEnd(traces);
   if (!options.showAllTraces) {
     const double legible = plot.width() / kLegible * layout.spacing();
@@ -116,56 +121,20 @@ TraceWindow editTravelTimesWidget::State::openingWindow() const {
   return opening;
 }
 
-TraceWindow editTravelTimesWidget::State::confinedWindow(const TraceWindow& wanted) const {
+Viewport::Extent editTravelTimesWidget::State::extent() const {
   double interval = traces.timeEnd();
   for (int i = 0; i < traces.count(); ++i) interval = std::min(interval, traces.interval(i));
   // Far from zero, a window may not become narrower than numbers can tell apart.
-  const TraceWindow whole = wholeWindow();
-  return confined(wanted, whole,
-                  std::max(kLeastTraces * layout.spacing(), kNarrowest * whole.width()),
-                  std::max(kLeastSamples * interval, kNarrowest * whole.height()));
-}
-
-void editTravelTimesWidget::State::show(const TraceWindow& wanted, Step step) {
-  const TraceWindow next = confinedWindow(wanted);
-  if (next == window) return;
-  const bool goesOn =
-      step == Step::Continuing && sinceStep.isValid() && sinceStep.elapsed() < kContinuingMs;
-  if (step != Step::Silent && !goesOn) history.leave(window);
-  if (step == Step::Continuing) {
-    sinceStep.start();
-  } else {
-    sinceStep.invalidate();
-  }
-  window = next;
-  movedByUser = true;
-  syncScrollBars();
-  redrawAll();
-  emit widget.viewChanged();
-}
-
-void editTravelTimesWidget::State::zoomAbout(const QPointF& point, double byPosition, double byTime,
-                                             Step step) {
-  const TraceMapping map = mapping();
-  const double x = std::clamp(point.x(), plot.left(), plot.right());
-  const double y = std::clamp(point.y(), plot.top(), plot.bottom());
-  show(zoomed(window, map.positionAt(x), map.timeAt(y), byPosition, byTime), step);
-}
-
-void editTravelTimesWidget::State::zoomAboutMiddle(double by) {
-  // About the cursor while it is over the traces, so that keys zoom where the user looks.
-  zoomAbout(hover ? *hover : plot.center(), by, by, Step::New);
-}
-
-void editTravelTimesWidget::State::goInHistory(bool back) {
-  const TraceWindow to = back ? history.back(window) : history.forward(window);
-  show(to, Step::Silent);
-  emit widget.viewChanged();
+  const ViewWindow whole = wholeWindow();
+  return {whole, openingWindow(),
+          std::max(kLeastTraces * layout.spacing(), kNarrowest * whole.width()),
+          std::max(kLeastSamples * interval, kNarrowest * whole.height())};
 }
 
 void editTravelTimesWidget::State::reveal(int trace) {
   if (trace < 0 || trace >= layout.count()) return;
-  TraceWindow wanted = window;
+  const ViewWindow& window = gestures.viewport().window();
+  ViewWindow wanted = window;
   const double margin = std::min(layout.spacing(), 0.25 * window.width());
   const double x = layout.position(trace);
   if (x - margin < window.left) wanted = moved(wanted, x - margin - window.left, 0.0);
@@ -174,25 +143,26 @@ void editTravelTimesWidget::State::reveal(int trace) {
   if (hasPick(pick) && pick < traces.timeEnd() && (pick < window.top || pick > window.bottom)) {
     wanted = moved(wanted, 0.0, pick - 0.5 * (window.top + window.bottom));
   }
-  show(wanted, Step::Continuing);
+  gestures.show(wanted, Step::Continuing);
 }
 
 void editTravelTimesWidget::State::syncScrollBars() {
-  const TraceWindow whole = wholeWindow();
+  const ViewWindow& window = gestures.viewport().window();
+  const ViewWindow& whole = gestures.viewport().whole();
   setBar(*across, window.left, window.right, whole.left, whole.right);
   setBar(*down, window.top, window.bottom, whole.top, whole.bottom);
 }
 
 void editTravelTimesWidget::State::scrolled(bool horizontal, int value) {
-  const TraceWindow whole = wholeWindow();
+  const ViewWindow& whole = gestures.viewport().whole();
   const double part = static_cast<double>(value) / kScrollSteps;
-  TraceWindow wanted = window;
+  ViewWindow wanted = window();
   if (horizontal) {
-    wanted = moved(window, whole.left + part * whole.width() - window.left, 0.0);
+    wanted = moved(wanted, whole.left + part * whole.width() - wanted.left, 0.0);
   } else {
-    wanted = moved(window, 0.0, whole.top + part * whole.height() - window.top);
+    wanted = moved(wanted, 0.0, whole.top + part * whole.height() - wanted.top);
   }
-  show(wanted, Step::Silent);
+  gestures.show(wanted, Step::Silent);
 }
 
 }  // namespace talvesk

@@ -3,6 +3,7 @@
 #include "app/runTomography_Dialog.h"
 #include "app/select_speed_Dialog.h"
 #include "app/setVelocityWidget.h"
+#include "app/smoothingDialog.h"
 #include "gui/ModalScript.h"
 #include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
@@ -213,6 +214,40 @@ TEST(RunTomographyDialog, leavesAMinimumAboveTheMaximumAndTells) {
   child<QSpinBox>(dialog, "minVelEdit").setValue(300);
   child<QSpinBox>(dialog, "maxVelEdit").setValue(200);
   EXPECT_EQ(dialog.parameters().minVelocity, 300.0);
+}
+
+struct FieldFacts {
+  const char* name;
+  double least;
+  double most;
+  double initial;
+  int decimals;
+};
+
+void expectFields(const QWidget& form, const std::vector<FieldFacts>& fields) {
+  for (const FieldFacts& field : fields) {
+    SCOPED_TRACE(field.name);
+    const auto& box = child<QAbstractSpinBox>(form, field.name);
+    EXPECT_EQ(box.property("minimum").toDouble(), field.least);
+    EXPECT_EQ(box.property("maximum").toDouble(), field.most);
+    EXPECT_EQ(box.property("value").toDouble(), field.initial);
+    EXPECT_EQ(box.property("decimals").toInt(), field.decimals);
+  }
+}
+
+TEST(ParameterFields, haveTheRangesThatUsersMayChooseFrom) {
+  constexpr double kMany = 999999999.0;
+  expectFields(runTomography_Dialog(250.0, 3500.0), {{"extIter_edit", 1.0, kMany, 10.0, 0},
+                                                     {"solvIter_Edit", 1.0, kMany, 20.0, 0},
+                                                     {"smooth_Edit", 1.0, kMany, 5.0, 0},
+                                                     {"minVelEdit", 1.0, kMany, 250.0, 0},
+                                                     {"maxVelEdit", 1.0, kMany, 3500.0, 0}});
+  expectFields(smoothingDialog(SmoothingType::kLinear), {{"smooth_Edit", 1.0, kMany, 5.0, 0}});
+  expectFields(setVelocityWidget({1.5, 300.0, 2.25, 2500.0}),
+               {{"d1Edit", 0.0, 999.99, 1.5, 2},
+                {"v1Edit", 0.0, 999999.0, 300.0, 0},
+                {"d2Edit", 0.0, 999.99, 2.25, 2},
+                {"v2Edit", 0.0, 999999.0, 2500.0, 0}});
 }
 
 // --- Progress

@@ -3,29 +3,34 @@
 
 Every language of the program has the same pages and pictures, built alike; every link, anchor,
 style sheet and picture is there; every page is reached from the first one and says its language;
-what stands in bold is a text of the program in the language of the page; and every command of the
-window stands in bold on some page.
+what stands in bold is a text of the program in the language of the page; every command of the window
+stands in bold on some page; and numbers that users set are those of the table of parameters.
 """
 import html.parser
 import itertools
 import pathlib
+import re
 import sys
 import urllib.parse
 import xml.etree.ElementTree as ElementTree
 
 LARGEST_PICTURE = 150 * 1024  # bytes
 VOID = {"img", "link", "meta", "br"}
+# The rows of the table: key, start, least, most; key, value.
+PARAMETER = re.compile(r'Parameter<(?:int|double)> k\w+ = \{\s*"([\w-]+)",\s*([-\d.e]+),'
+                       r'\s*\{([-\d.e]+),\s*([-\d.e]+)(?:,\s*\d+)?\}')
+FIXED_NUMBER = re.compile(r'FixedNumber k\w+ = \{"([\w-]+)",\s*([-\d.e]+)\}')
 BLOCKS = {"h1", "h2", "h3", "p", "li", "tr", "td", "th", "figure", "pre", "img"}
 
 
 class Page(html.parser.HTMLParser):
-    """Language, blocks, links, anchors and bold texts of a page."""
+    """Language, blocks, links, anchors, bold texts and numbers of parameters of a page."""
 
     def __init__(self, path):
         super().__init__()
         self.path = path
         self.links, self.anchors, self.bold, self.faults, self.open = [], set(), [], [], []
-        self.language, self.blocks = "", []
+        self.language, self.blocks, self.numbers = "", [], []
         self.feed(path.read_text(encoding="utf-8"))
         if self.open:
             self.faults.append(f"{path}: <{self.open[-1]}> is not closed")
@@ -42,6 +47,8 @@ class Page(html.parser.HTMLParser):
             self.anchors.add(values["id"])
         if tag == "b":
             self.bold.append("")
+        if tag == "span":
+            self.numbers.append([values.get("data-parameter"), ""])
         if tag == "img" and not values.get("alt"):
             self.faults.append(f"{self.path}: {values.get('src')} has no text in its place")
         self.links += [values[name] for name in ("href", "src") if name in values]
@@ -53,6 +60,8 @@ class Page(html.parser.HTMLParser):
     def handle_data(self, data):
         if self.open and self.open[-1] == "b":
             self.bold[-1] += data
+        if self.open and self.open[-1] == "span":
+            self.numbers[-1][1] += data
 
 
 def texts_of_program(root, language):
@@ -80,6 +89,27 @@ def commands_of_window(root, language):
                 translated = {message.findtext("source"): message.findtext("translation")
                               for message in context.iter("message")}
     return {" ".join(translated.get(text, text).replace("&", "").split()) for text in commands}
+
+
+def parameters_of_program(root):
+    """The numbers of the table: "key" is where a parameter starts, "key:least" and "key:most"."""
+    table = (root / "src" / "model" / "Parameters.h").read_text(encoding="utf-8")
+    numbers = {key: float(value) for key, value in FIXED_NUMBER.findall(table)}
+    for key, start, least, most in PARAMETER.findall(table):
+        numbers |= {key: float(start), f"{key}:least": float(least), f"{key}:most": float(most)}
+    rows = len(re.findall(r"constexpr (?:Parameter<\w+>|FixedNumber) k", table))
+    if len(PARAMETER.findall(table)) + len(FIXED_NUMBER.findall(table)) != rows:
+        sys.exit("a row of src/model/Parameters.h is laid out otherwise than this test reads it")
+    return numbers
+
+
+def faults_of_numbers(page, parameters):
+    for key, text in page.numbers:
+        number = re.sub(r"\s", "", text).replace(",", ".")
+        if key not in parameters:
+            yield f"{page.path}: there is no parameter '{key}'"
+        elif not re.fullmatch(r"-?\d+(\.\d+)?", number) or float(number) != parameters[key]:
+            yield f"{page.path}: '{text}' for {key}, which is {parameters[key]:g}"
 
 
 def faults_of_links(page, pages, root):
@@ -127,6 +157,9 @@ def faults_of_language(page, model, languages):
     inside = [{link for link in side.links if not link.startswith("../")} for side in (page, model)]
     for link in sorted(inside[0] ^ inside[1]):
         yield f"{page.path}: {link} stands here or in {model.path}, not in both"
+    inside = [sorted(str(key) for key, text in side.numbers) for side in (page, model)]
+    if inside[0] != inside[1]:
+        yield f"{page.path}: tells {inside[0]}, but {model.path} tells {inside[1]}"
 
 
 def faults_of_guide(repository):
@@ -161,8 +194,10 @@ def faults_of_guide(repository):
         for path in pages:
             if path.parent == folder and path not in reached:
                 yield f"{path}: no way leads there"
+    parameters = parameters_of_program(repository)
     for page in pages.values():
         yield from page.faults
+        yield from faults_of_numbers(page, parameters)
         yield from faults_of_links(page, pages, root)
     for picture in root.glob("**/*.png"):
         if picture.stat().st_size > LARGEST_PICTURE:

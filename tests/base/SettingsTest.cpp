@@ -23,7 +23,7 @@ const std::string kOf2020_2 =
 
 auto values(const Settings& s) {
   return std::make_tuple(s.language, s.fillWiggle, s.zoomIn, s.cutHorizontal, s.showFiltered,
-                         s.showAllTraces, s.twoColors, s.savePngHColorbar);
+                         s.showAllTraces, s.twoColors, s.savePngHColorbar, s.undoMegabytes);
 }
 
 std::string xml(const std::string& content) {
@@ -41,12 +41,30 @@ TEST(Settings, comeBackAsTheyWereSaved) {
   saved.language = "it <&> \xC3\xA8";
   saved.fillWiggle = saved.cutHorizontal = saved.showFiltered = false;
   saved.zoomIn = saved.showAllTraces = saved.twoColors = saved.savePngHColorbar = true;
+  saved.undoMegabytes = 128;
   ASSERT_TRUE(saved.save().ok());
   Settings loaded(saved.path());
   EXPECT_TRUE(loaded.load());
   EXPECT_EQ(values(loaded), values(saved));
   EXPECT_EQ(console.out() + console.error(), "");
   EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST(Settings, takeMemoryForUndoThatCanBe) {
+  const TestFolder folder;
+  const ConsoleCapture console;
+  for (const auto& [text, megabytes] : {std::pair{"64", 64},
+                                        {"16", 16},
+                                        {"15", 512},
+                                        {"-1", 512},
+                                        {"99999999999", 512},
+                                        {"much", 512},
+                                        {"", 512}}) {
+    Settings settings(folder.put("settings.xml",
+                                 xml(std::string("<undoMegabytes>") + text + "</undoMegabytes>")));
+    EXPECT_TRUE(settings.load()) << text;
+    EXPECT_EQ(settings.undoMegabytes, megabytes) << text;
+  }
 }
 
 TEST(Settings, areWrittenInTheOrderOfTheFile) {
@@ -56,9 +74,10 @@ TEST(Settings, areWrittenInTheOrderOfTheFile) {
   const std::string text = TestFolder::get(settings.path());
   std::size_t last = text.find("<cereal>");
   ASSERT_NE(last, std::string::npos);
-  for (const char* element : {"<language>en<", "<zoomIn>false<", "<cutHorizontal>true<",
-                              "<fillWiggle>true<", "<showFiltered>true<", "<showAllTraces>false<",
-                              "<savePngHColorbar>false<", "<twoColors>false<"}) {
+  for (const char* element :
+       {"<language>en<", "<zoomIn>false<", "<cutHorizontal>true<", "<fillWiggle>true<",
+        "<showFiltered>true<", "<showAllTraces>false<", "<savePngHColorbar>false<",
+        "<twoColors>false<", "<undoMegabytes>512<"}) {
     const std::size_t at = text.find(element);
     ASSERT_NE(at, std::string::npos) << element << " in\n" << text;
     EXPECT_GT(at, last) << element;
@@ -95,7 +114,7 @@ TEST_P(SettingsOfOlderVersions, keepWhatTheyHold) {
   settings.twoColors = settings.savePngHColorbar = settings.showAllTraces = true;
   EXPECT_TRUE(settings.load());
   EXPECT_EQ(values(settings), std::make_tuple(std::string("fr"), false, true, false, false,
-                                              GetParam().showAllTraces, false, false));
+                                              GetParam().showAllTraces, false, false, 512));
   EXPECT_EQ(console.error(), GetParam().error);
   EXPECT_EQ(console.out(), GetParam().out);
 }
@@ -119,7 +138,7 @@ TEST(Settings, areReadByNameInAnyOrder) {
                           kGroupOf2019 + "<language>de</language>")));
   EXPECT_TRUE(settings.load());
   EXPECT_EQ(values(settings),
-            std::make_tuple(std::string("de"), false, true, false, false, true, true, true));
+            std::make_tuple(std::string("de"), false, true, false, false, true, true, true, 512));
   EXPECT_EQ(console.out() + console.error(), "");
 }
 

@@ -1,5 +1,5 @@
 #include "batch/BatchRunner.h"
-#include "batch/Options.h"
+#include "batch/CommandLine.h"
 
 #include <cstdio>
 #include <regex>

@@ -21,7 +21,7 @@ struct Raster {
   int nx = 0, ny = 0;
   double xlo = 0, xhi = 0, ylo = 0, yhi = 0, zlo = 0, zhi = 0;
   std::vector<double> values;
-  double at(int i, int j) const { return values[static_cast<std::size_t>(j * nx + i)]; }
+  double at(int i, int j) const { return values[j * nx + i]; }
   double x(int i) const { return xlo + (xhi - xlo) * i / (nx - 1); }
   double y(int j) const { return ylo + (yhi - ylo) * j / (ny - 1); }
   bool blank(int i, int j) const { return at(i, j) >= 1.70141e38; }

@@ -3,6 +3,7 @@
 #include "figures/Report.h"
 #include "figures/ReportBuilder.h"
 #include "figures/ReportPages.h"
+#include "figures/SectionFigure.h"
 #include "model/GeographicsCoord.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"

@@ -1,5 +1,5 @@
 #include "gui/WindowTest.h"
-#include "io/ShotFile.h"
+#include "io/FileFormats.h"
 #include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
@@ -145,7 +145,7 @@ TEST_F(Loading, showsTheShotFilesOfAllFormatsFirst) {
               "All Files (*)");
     EXPECT_EQ(dialog.selectedNameFilter(), filters.front());
     for (const char* suffix : {"seg2", "dat", "sg2", "sgy", "segy", "su"}) {
-      EXPECT_TRUE(hasShotFileSuffix(std::string("shot.") + suffix));
+      EXPECT_NE(shotFormatOf(std::string("shot.") + suffix), nullptr);
       EXPECT_THAT(filters.front().toStdString(), HasSubstr(std::string("*.") + suffix));
     }
     widget.close();

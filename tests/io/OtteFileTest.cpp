@@ -1,5 +1,6 @@
 #include "Samples.h"
 #include "io/OtteFile.h"
+#include "io/TravelTimeFile.h"
 #include "model/SurveyLine.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"

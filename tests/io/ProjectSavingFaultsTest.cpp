@@ -236,7 +236,7 @@ TEST_F(SavingFaults, neverLeaveTheNameWithoutAWholeProject) {
   int missing = 0;
   for (int i = 0; i < kKills; ++i) {
     const pid_t child = ::fork();
-    while (child == 0) {
+    while (child == 0) {  // NOLINT(bugprone-infinite-loop): until it is killed
       project.document.title += 'x';
       save();
     }

@@ -43,7 +43,7 @@ struct Graph {
   }
 
   std::size_t bytes() const {
-    std::size_t total = edges.capacity() * sizeof(edges[0]);
+    std::size_t total = edges.capacity() * sizeof(std::vector<GridEdge>);
     for (const auto& list : edges) total += list.capacity() * sizeof(GridEdge);
     return total;
   }

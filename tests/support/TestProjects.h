@@ -48,7 +48,7 @@ class ProjectTest : public ::testing::Test {
 
   int save(const std::string& path, const LoadedProject& saved) {
     return writer.save(path, work(), saved.document, saved.interpretation, saved.palettes,
-                       saved.section);
+                       saved.section, saved.own);
   }
   int save() { return save(archive(), project); }
   int load(const std::string& path, LoadedProject& into) { return reader.load(path, work(), into); }

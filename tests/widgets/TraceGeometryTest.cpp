@@ -43,15 +43,15 @@ TEST(TraceMapping, whatIsUnderTheCursorStaysThereWhileZooming) {
 
 struct ConfineCase {
   const char* name;
-  TraceWindow wanted;
-  TraceWindow expected;
+  ViewWindow wanted;
+  ViewWindow expected;
 };
 
 class ConfinedWindow : public ::testing::TestWithParam<ConfineCase> {};
 
 TEST_P(ConfinedWindow, staysWithinTheShot) {
-  const TraceWindow whole{-1.0, 24.0, 0.0, 1.0};
-  const TraceWindow got = confined(GetParam().wanted, whole, 2.0, 0.01);
+  const ViewWindow whole{-1.0, 24.0, 0.0, 1.0};
+  const ViewWindow got = confined(GetParam().wanted, whole, 2.0, 0.01);
   EXPECT_NEAR(got.left, GetParam().expected.left, 1e-12);
   EXPECT_NEAR(got.right, GetParam().expected.right, 1e-12);
   EXPECT_NEAR(got.top, GetParam().expected.top, 1e-12);
@@ -165,9 +165,9 @@ TEST(AxisTicks, rangesThatCannotBeCountedHaveNone) {
 }
 
 TEST(ViewHistory, goesBackAndForthLikeABrowser) {
-  const TraceWindow a{0.0, 1.0, 0.0, 1.0};
-  const TraceWindow b{0.0, 1.0, 0.0, 0.5};
-  const TraceWindow c{0.0, 1.0, 0.0, 0.2};
+  const ViewWindow a{0.0, 1.0, 0.0, 1.0};
+  const ViewWindow b{0.0, 1.0, 0.0, 0.5};
+  const ViewWindow c{0.0, 1.0, 0.0, 0.2};
   ViewHistory history;
   history.leave(a);
   history.leave(b);
@@ -182,7 +182,7 @@ TEST(ViewHistory, goesBackAndForthLikeABrowser) {
 TEST(ViewHistory, forgetsTheOldest) {
   ViewHistory history;
   for (int i = 0; i < 1000; ++i) history.leave({0.0, 1.0, 0.0, 1.0 + i});
-  TraceWindow window{0.0, 1.0, 0.0, 0.5};
+  ViewWindow window{0.0, 1.0, 0.0, 0.5};
   std::size_t steps = 0;
   for (; history.canGoBack(); ++steps) window = history.back(window);
   EXPECT_EQ(steps, ViewHistory::kLongest);

@@ -65,7 +65,7 @@ TEST_F(TraceView, keepsTracesLegibleUnlessAllAreWanted) {
 }
 
 TEST_F(TraceView, theWheelZoomsAtTheCursorAndItsTurnsAreOneStepOfHistory) {
-  const TraceWindow opening = mWidget.window();
+  const ViewWindow opening = mWidget.window();
   const QPoint cursor = mUser.at(6, 0.2);
   const double time = mWidget.timeAt(cursor);
   for (int i = 0; i < 3; ++i) mUser.wheel(cursor, 1);
@@ -73,7 +73,7 @@ TEST_F(TraceView, theWheelZoomsAtTheCursorAndItsTurnsAreOneStepOfHistory) {
   EXPECT_LT(mWidget.window().width(), 0.6 * opening.width());
   EXPECT_NEAR(mWidget.timeAt(cursor), time, 1e-9);
   EXPECT_EQ(mWidget.traceAt(cursor), 6);
-  const TraceWindow zoomed = mWidget.window();
+  const ViewWindow zoomed = mWidget.window();
   mUser.key(Qt::Key_Backspace);
   EXPECT_EQ(mWidget.window(), opening);
   mUser.key(Qt::Key_Backspace, Qt::ShiftModifier);
@@ -81,7 +81,7 @@ TEST_F(TraceView, theWheelZoomsAtTheCursorAndItsTurnsAreOneStepOfHistory) {
 }
 
 TEST_F(TraceView, modifiersOfTheWheelChooseTheAxisOrTheGain) {
-  const TraceWindow opening = mWidget.window();
+  const ViewWindow opening = mWidget.window();
   const QPoint cursor = mUser.at(6, 0.2);
   mUser.wheel(cursor, 2, Qt::ControlModifier);
   EXPECT_DOUBLE_EQ(mWidget.window().width(), opening.width());
@@ -90,7 +90,7 @@ TEST_F(TraceView, modifiersOfTheWheelChooseTheAxisOrTheGain) {
   mUser.wheel(cursor, 2, Qt::ShiftModifier);
   EXPECT_LT(mWidget.window().width(), opening.width());
   EXPECT_DOUBLE_EQ(mWidget.window().height(), opening.height());
-  const TraceWindow before = mWidget.window();
+  const ViewWindow before = mWidget.window();
   QSignalSpy told(&mWidget, &editTravelTimesWidget::optionsChanged);
   mUser.wheel(cursor, 2, Qt::AltModifier);
   EXPECT_EQ(mWidget.window(), before);
@@ -118,6 +118,26 @@ TEST_F(TraceView, theMiddleButtonPans) {
   EXPECT_NEAR(mUser.at(7, 0.15).y(), grabbed.y() - 40, 1);
   mWidget.zoomBack();
   EXPECT_NEAR(mWidget.window().left, 4.0, 1e-12);
+}
+
+/// The first click has picked, so the second corrects it and must not take the view away.
+TEST_F(TraceView, aDoubleClickWithPickPicksAndWithOtherToolsShowsEverything) {
+  const ViewWindow opening = mWidget.window();
+  const ViewWindow zoomed{4.0, 10.0, 0.1, 0.2};
+  mWidget.setWindow(zoomed);
+  const QPoint first = mUser.at(7, 0.15);
+  const QPoint second = first + QPoint(0, 3);
+  const auto doubleClick = [&] {
+    mUser.click(first);
+    QTest::mouseDClick(&mWidget, Qt::LeftButton, Qt::NoModifier, second);
+    mUser.release(second);
+  };
+  doubleClick();
+  EXPECT_EQ(mWidget.window(), zoomed);
+  EXPECT_NEAR(mUser.pick(7), mWidget.timeAt(second), mUser.pixel());
+  mWidget.setTool(TraceTool::Select);
+  doubleClick();
+  EXPECT_EQ(mWidget.window(), opening);
 }
 
 TEST_F(TraceView, keepsTheTimesLookedAtFromShotToShot) {

@@ -57,7 +57,7 @@ class TravelTimes : public ::testing::Test {
   }
   QPoint at(int shot, int trace) { return plot.pointOf(shot, trace).value().toPoint(); }
   double secondsPerPixel() const {
-    return plot.window().height() / plot.canvas()->contentsRect().height();
+    return 1e-3 * plot.window().height() / plot.canvas()->contentsRect().height();
   }
 
   void mouse(QEvent::Type type, const QPoint& point, Qt::MouseButton button,
@@ -172,13 +172,13 @@ TEST_F(TravelTimes, escapeGivesUpADragAndNoEditorMeansNoEdits) {
 }
 
 TEST_F(TravelTimes, wheelZoomsAtTheCursorAndWithKeysAlongOneAxis) {
-  const TraceWindow whole = plot.window();
+  const ViewWindow whole = plot.window();
   const QPoint cursor = at(0, 8);
   wheel(cursor, 3);
   EXPECT_NEAR(plot.window().width(), whole.width() / std::pow(1.25, 3), 1e-9);
   EXPECT_NEAR(plot.window().height(), whole.height() / std::pow(1.25, 3), 1e-9);
   EXPECT_LE((at(0, 8) - cursor).manhattanLength(), 8) << "but for the axes' numbers";
-  TraceWindow before = plot.window();
+  ViewWindow before = plot.window();
   wheel(cursor, 1, Qt::ControlModifier);
   EXPECT_EQ(plot.window().width(), before.width());
   EXPECT_LT(plot.window().height(), before.height());
@@ -191,7 +191,7 @@ TEST_F(TravelTimes, wheelZoomsAtTheCursorAndWithKeysAlongOneAxis) {
 }
 
 TEST_F(TravelTimes, rubberBandZoomsAndHistoryGoesBack) {
-  const TraceWindow whole = plot.window();
+  const ViewWindow whole = plot.window();
   const QPoint from(120, 60);
   const QPoint to(320, 160);
   const QRect canvas = plot.canvas()->contentsRect();
@@ -200,7 +200,7 @@ TEST_F(TravelTimes, rubberBandZoomsAndHistoryGoesBack) {
   EXPECT_NEAR(plot.window().height(), whole.height() * 100 / canvas.height(),
               0.02 * whole.height());
   EXPECT_GT(plot.window().top, 0.5 * whole.bottom) << "the upper part of the plot is late";
-  const TraceWindow zoomed = plot.window();
+  const ViewWindow zoomed = plot.window();
   QTest::keyClick(&plot, Qt::Key_Backspace);
   EXPECT_NEAR(plot.window().width(), whole.width(), 0.02 * whole.width());
   QTest::keyClick(&plot, Qt::Key_Backspace, Qt::ShiftModifier);
@@ -212,18 +212,18 @@ TEST_F(TravelTimes, rubberBandZoomsAndHistoryGoesBack) {
 TEST_F(TravelTimes, pansAndFitsAndNewPicksLeaveAZoomedViewAlone) {
   const QPoint middle = plot.canvas()->contentsRect().center();
   wheel(middle, 5);
-  const TraceWindow before = plot.window();
+  const ViewWindow before = plot.window();
   drag(middle, middle + QPoint(50, 0), Qt::MiddleButton);
   EXPECT_LT(plot.window().left, before.left);
   EXPECT_NEAR(plot.window().top, before.top, 1e-9);
-  const TraceWindow zoomed = plot.window();
+  const ViewWindow zoomed = plot.window();
   time(0, 2) = 0.030;
   plot.refresh();
   EXPECT_EQ(plot.window(), zoomed);
   QTest::keyClick(&plot, Qt::Key_F);
   time(0, 2) = 0.150;
   plot.refresh();
-  EXPECT_GT(plot.window().bottom, 0.150) << "a view that shows everything goes on doing so";
+  EXPECT_GT(plot.window().bottom, 150.0) << "a view that shows everything goes on doing so";
 }
 
 TEST_F(TravelTimes, pageKeysWalkThroughTheCurves) {

@@ -6,6 +6,7 @@
 #include "app/presenters/ProjectQuestions.h"
 #include "app/progressDialog.h"
 #include "base/FileReplacement.h"
+#include "io/FileFormats.h"
 #include "io/ProjectWriter.h"
 #include "io/projectReader.h"
 #include "model/Recordings.h"
@@ -23,16 +24,6 @@ namespace {
 
 const QString kSuffix = QStringLiteral(".tvsk");
 
-/// The format of a shot file as its reader would name it.
-QString formatOf(const std::string& file) {
-  const QString suffix = QFileInfo(QString::fromStdString(file)).suffix().toLower();
-  if (suffix == QLatin1String("su")) return suffix;
-  if (suffix == QLatin1String("sgy") || suffix == QLatin1String("segy")) {
-    return QStringLiteral("segy");
-  }
-  return suffix.isEmpty() ? suffix : QStringLiteral("seg2");
-}
-
 }  // namespace
 
 ProjectPresenter::ProjectPresenter(Desk& desk)
@@ -41,10 +32,6 @@ ProjectPresenter::ProjectPresenter(Desk& desk)
         open(file);
       }) {}
 
-bool ProjectPresenter::takes(const QString& file) {
-  return QFileInfo(file).suffix().toLower() == QLatin1String("tvsk");
-}
-
 bool ProjectPresenter::save() {
   return mDesk.project.isEmpty() ? saveAs() : saveTo(mDesk.project.path());
 }
@@ -52,7 +39,7 @@ bool ProjectPresenter::save() {
 bool ProjectPresenter::saveAs() {
   QFileDialog dialog(&mDesk.window, tr("Save Project"),
                      mDesk.project.isEmpty() ? mDesk.folders.toSave() : mDesk.project.path(),
-                     tr("Talvesk projects (*.tvsk);;All Files (*)"));
+                     dialogFilter(filtersOf(projectFormat())));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   // The question comes below, when the name is complete.
@@ -85,8 +72,9 @@ bool ProjectPresenter::saveTo(const QString& file) {
   int result = 1;
   progressDialog progress(writer, file, &mDesk.window);
   progress.run([&] {
-    result = writer.save(file.toStdString(), mDesk.folder.path, mDesk.document(),
-                         mDesk.interpretation(), mDesk.palettes(), mDesk.section());
+    result =
+        writer.save(file.toStdString(), mDesk.folder.path, mDesk.document(), mDesk.interpretation(),
+                    mDesk.palettes(), mDesk.section(), mDesk.survey().own);
   });
   if (result != 0) {
     mDesk.log.write(writer.message(), 1);
@@ -127,7 +115,7 @@ bool ProjectPresenter::mayLoseChanges() {
 void ProjectPresenter::load() {
   const QString file =
       QFileDialog::getOpenFileName(&mDesk.window, tr("Load Project"), mDesk.folders.toOpen(),
-                                   tr("Talvesk projects (*.tvsk);;All Files (*)"));
+                                   dialogFilter(filtersOf(projectFormat())));
   if (file.isEmpty()) return;
   mDesk.folders.opened(file);
   open(file);
@@ -193,8 +181,8 @@ void ProjectPresenter::take(LoadedProject project, ProjectFile file, bool saved)
   for (std::size_t i = 0; i < recordings.traceSets.size(); ++i) {
     RecordingNote& note = recordings.noteOf(i);
     note.filtered = note.showFiltered = hasFilteredCopy(recordings.traceSets[i]);
-    if (i < recordings.filenames.size())
-      note.format = formatOf(recordings.filenames[i]).toStdString();
+    if (i >= recordings.filenames.size()) continue;
+    if (const ShotFormat* format = shotFormatOf(recordings.filenames[i])) note.format = format->id;
   }
   mDesk.loader.remember(project.shotFiles);
   Survey survey = std::move(project);

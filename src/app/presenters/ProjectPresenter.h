@@ -17,8 +17,6 @@ class ProjectPresenter : public QObject {
  public:
   explicit ProjectPresenter(Desk& desk);
 
-  static bool takes(const QString& file);  ///< by its suffix
-
   void load();    ///< asks for the file
   bool save();    ///< false when nothing was saved; why, the user has been told or has chosen
   bool saveAs();  ///< the same, to a file that is asked for

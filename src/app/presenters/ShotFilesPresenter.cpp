@@ -5,6 +5,7 @@
 #include "app/Messages.h"
 #include "app/presenters/ProjectPresenter.h"
 #include "app/presenters/ShotTimeQuestion.h"
+#include "io/FileFormats.h"
 #include "io/ShotFile.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
@@ -41,11 +42,9 @@ void ShotFilesPresenter::addFiles() {
 }
 
 QStringList ShotFilesPresenter::askForFiles() {
-  QStringList files = QFileDialog::getOpenFileNames(
-      &mDesk.window, tr("Open Seismic Trace"), mDesk.folders.toOpen(),
-      tr("Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)") + QLatin1String(";;") +
-          tr("SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;"
-             "All Files (*)"));
+  QStringList files =
+      QFileDialog::getOpenFileNames(&mDesk.window, tr("Open Seismic Trace"), mDesk.folders.toOpen(),
+                                    dialogFilter(shotFileFilters()));
   if (files.isEmpty()) return files;
   mDesk.folders.opened(files.front());
   mDesk.log.write("Loading " + std::to_string(files.size()) + " seismic files", 0);
@@ -102,6 +101,7 @@ Survey ShotFilesPresenter::surveyOf(TomoDocument document) const {
   survey.document = std::move(document);
   survey.interpretation = {};
   survey.folder.reset();
+  survey.own = {};
   return survey;
 }
 

@@ -6,6 +6,7 @@
 #include "app/WaitCursor.h"
 #include "app/presenters/FileExport.h"
 #include "app/presenters/ProjectPresenter.h"
+#include "io/FileFormats.h"
 #include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
 #include "model/SurveyFacts.h"
@@ -16,16 +17,10 @@
 
 namespace talvesk {
 
-bool TravelTimesPresenter::takes(const QString& file) {
-  static const QStringList suffixes = {QStringLiteral("otte"), QStringLiteral("txt"),
-                                       QStringLiteral("xyz"), QStringLiteral("csv")};
-  return suffixes.contains(QFileInfo(file).suffix().toLower());
-}
-
 void TravelTimesPresenter::import() {
-  const QString file = QFileDialog::getOpenFileName(
-      &mDesk.window, tr("Import TravelTimes"), mDesk.folders.toOpen(),
-      tr("Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)"));
+  const QString file =
+      QFileDialog::getOpenFileName(&mDesk.window, tr("Import TravelTimes"), mDesk.folders.toOpen(),
+                                   dialogFilter(travelTimeFileFilters()));
   if (file.isEmpty()) return;
   mDesk.folders.opened(file);
   importFile(file);
@@ -53,7 +48,10 @@ void TravelTimesPresenter::importFile(const QString& file) {
     if (!mayLose(&mDesk.window, mDesk.document(), losses)) return;
     status =
         mDesk.session.apply(cost.survey ? Edit::kImportSurvey : Edit::kImport, [&](Survey& survey) {
-          if (cost.survey) survey.document.title.clear();
+          if (cost.survey) {
+            survey.document.title.clear();
+            survey.own = {};
+          }
           return importTravelTimes(times, survey.document);
         });
   }
@@ -74,9 +72,8 @@ void TravelTimesPresenter::importFile(const QString& file) {
 }
 
 void TravelTimesPresenter::exportTimes() {
-  const QString file =
-      askForExport(mDesk, tr("Save TravelTimeExchange"),
-                   tr("Open Travel Time Exchange format (*.otte);;All Files (*)"), "otte");
+  const QString file = askForExport(mDesk, tr("Save TravelTimeExchange"),
+                                    dialogFilter(filtersOf(exchangeFormat())), "otte");
   if (file.isEmpty()) return;
   if (const Status status = writeTravelTimes(file.toStdString(), mDesk.document()); !status.ok()) {
     mDesk.tellFailure(tr("The travel times have not been saved."), status);

@@ -15,8 +15,6 @@ class TravelTimesPresenter : public QObject {
  public:
   TravelTimesPresenter(Desk& desk, ProjectPresenter& projects) : mDesk(desk), mProjects(projects) {}
 
-  static bool takes(const QString& file);  ///< by its suffix
-
   void import();  ///< asks for the file
   void importFile(const QString& file);
   void exportTimes();  ///< asks for the file

@@ -5,6 +5,8 @@
 
 #include "base/Console.h"
 #include "io/ProjectMembers.h"
+#include "io/ProjectPicks.h"
+#include "io/ProjectResult.h"
 #include "io/XmlRecords.inl"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
@@ -121,14 +123,19 @@ void describe(V& fields, SectionMisfit& misfit) {
 
 template <class V>
 void describe(V& fields, ResultMember& result) {
-  fields("version", result.version);
-  fields("hit_counts", result.hitCounts);
-  fields("coorcount", result.coorcount);
-  fields("smoothed", result.smoothed);
-  fields("times_of_section", result.timesOfSection);
-  fields("computing_seconds", result.computingSeconds);
-  fields("picks", result.picks);
-  fields("section_history", result.sectionHistory);
+  fields("hit_counts", result.outcome.hitCounts);
+  fields("coorcount", result.outcome.coorcount);
+  fields("smoothed", result.outcome.smoothedResult);
+  fields("times_of_section", result.outcome.timesOfSection);
+  fields("computing_seconds", result.run.computingSeconds);
+  fields("picks", result.run.picks);
+  fields("section_history", result.run.sectionHistory);
+}
+
+template <class V>
+void describe(V& fields, UnconfirmedMember& member) {
+  fields("picks", member.picks);
+  fields("unconfirmed", member.traces);
 }
 
 template <class V>

@@ -1,4 +1,4 @@
-#include "widgets/SectionSheetPainter.h"
+#include "widgets/SectionSheet_painter.h"
 
 #include "figures/ContourLabels.h"
 #include "figures/FigureItem.h"
@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
-// What lies on the section itself. The paper around it is in SectionSheetPainter_paper.cpp.
+// What lies on the section itself. The paper around it is in SectionSheet_paper.cpp.
 
 namespace talvesk {
 namespace {

@@ -1,4 +1,4 @@
-#include "export/GeoTransformer.h"
+#include "model/GeoTransformer.h"
 
 #include "base/Console.h"
 

@@ -1,25 +1,23 @@
-#include "batch/Options.h"
+#include "batch/CommandLine.h"
 
 #include "batch/Failure.h"
 #include "batch/Manual.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
-#include "io/ShotFile.h"
+#include "io/FileFormats.h"
 
 #include <algorithm>
 
 namespace talvesk {
 namespace {
 
-constexpr const char* kShotSuffixes = ".seg2, .sg2, .dat, .sgy, .segy, .su";
-
 void addInfo(CLI::App& app, InfoOptions& info) {
   CLI::App& command =
       *app.add_subcommand("info", "Tell what travel-time files, shot files and projects hold");
   command
       .add_option("FILE", info.files,
-                  std::string("Travel-time files (.otte, .txt, .xyz, .csv), shot files (") +
-                      kShotSuffixes + ") and projects (.tvsk), read in this order")
+                  "Travel-time files (" + travelTimeSuffixes() + "), shot files (" +
+                      shotSuffixes() + ") and projects (.tvsk), read in this order")
       ->required();
   CLI::Option* json =
       addPath(command, "--json", info.json,
@@ -27,7 +25,7 @@ void addInfo(CLI::App& app, InfoOptions& info) {
               "Several files make one array");
   command.add_flag("--samples", info.samples, "Write the samples of shot files, too")->needs(json);
   command.final_callback([&info] {
-    if (info.samples && std::none_of(info.files.begin(), info.files.end(), hasShotFileSuffix)) {
+    if (info.samples && std::none_of(info.files.begin(), info.files.end(), shotFormatOf)) {
       throw CLI::ValidationError("--samples", "only shot files have samples to write");
     }
   });
@@ -36,8 +34,7 @@ void addInfo(CLI::App& app, InfoOptions& info) {
 void addPick(CLI::App& app, PickOptions& pick) {
   CLI::App& command =
       *app.add_subcommand("pick", "Find the first breaks of shot files and drop implausible ones");
-  command.add_option("SHOTS", pick.shots.files, std::string("Shot files: ") + kShotSuffixes)
-      ->required();
+  command.add_option("SHOTS", pick.shots.files, "Shot files: " + shotSuffixes())->required();
   const ShotOptionGroup shots = addShotOptions(command, pick.shots);
   mustEndIn(addPath(command, "-o,--otte", pick.otte,
                     "The travel-time exchange file to write, named *.otte; not needed with "
@@ -64,7 +61,7 @@ void addPick(CLI::App& app, PickOptions& pick) {
 void addConvert(CLI::App& app, ConvertOptions& convert) {
   CLI::App& command = *app.add_subcommand(
       "convert", "Rewrite a travel-time file in the exchange format .otte (metres, milliseconds)");
-  command.add_option("INPUT", convert.input, "Travel-time file: .otte, .txt, .xyz or .csv")
+  command.add_option("INPUT", convert.input, "Travel-time file: " + travelTimeSuffixes())
       ->required();
   mustEndIn(
       command.add_option("OUT", convert.output, "The file to write, named *.otte")->required(),

@@ -1,6 +1,6 @@
 #include "figures/FigureItem.h"
 #include "figures/FigureWords.h"
-#include "widgets/SectionSheetPainter.h"
+#include "widgets/SectionSheet_painter.h"
 
 #include <QFontMetricsF>
 #include <QLineF>

@@ -1,4 +1,4 @@
-#include "tomo/LeftOut.h"
+#include "model/LeftOut.h"
 
 #include "base/TextNumber.h"
 #include "model/SurveyFacts.h"

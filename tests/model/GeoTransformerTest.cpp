@@ -1,6 +1,4 @@
-#include "export/GeoTransformer.h"
-#include "export/LinePlacement.h"
-#include "model/SurveyLine.h"
+#include "model/GeoTransformer.h"
 #include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"
 
@@ -118,41 +116,6 @@ TEST(GeoTransformer, leavesWhatItCannotPlace) {
     EXPECT_FALSE(transformer.transform(bad, 5000000.0, place)) << bad;
     EXPECT_EQ(place.longitude, 1.0);
   }
-}
-
-TEST(LinePlacement, walksFromTheFirstGeophoneTowardsTheLast) {
-  const struct {
-    const char* what;
-    geographicsCoord ends;  ///< east first, east last, north first, north last
-    double distance;
-    double easting, northing;
-  } cases[] = {
-      {"three four five", {0, 100.0, 130.0, 200.0, 240.0}, 25.0, 115.0, 220.0},
-      {"north", {0, 100.0, 100.0, 200.0, 240.0}, 10.0, 100.0, 210.0},
-      {"south", {0, 100.0, 100.0, 200.0, 140.0}, 10.0, 100.0, 190.0},
-      {"east", {0, 100.0, 130.0, 200.0, 200.0}, 10.0, 110.0, 200.0},
-      {"west", {0, 100.0, 30.0, 200.0, 200.0}, 10.0, 90.0, 200.0},
-      {"before the first", {0, 100.0, 130.0, 200.0, 240.0}, -5.0, 97.0, 196.0},
-      {"beyond the last", {0, 100.0, 103.0, 200.0, 204.0}, 50.0, 130.0, 240.0},
-      {"no length", {0, 100.0, 100.0, 200.0, 200.0}, 10.0, 100.0, 200.0},
-  };
-  for (const auto& c : cases) {
-    const MapPoint place = LinePlacement(c.ends).at(c.distance);
-    EXPECT_NEAR(place.easting, c.easting, 1e-9) << c.what;
-    EXPECT_NEAR(place.northing, c.northing, 1e-9) << c.what;
-  }
-}
-
-TEST(LineEnds, areTheOutermostGeophonesWhateverTheOrderOfChannels) {
-  const double nan = std::numeric_limits<double>::quiet_NaN();
-  TomoDocument document;
-  EXPECT_FALSE(lineEnds(document));
-  document.line.edit().goephonesStringSet = {{{nan, 0.0}}};
-  EXPECT_FALSE(lineEnds(document));
-  document.line.edit().goephonesStringSet = {
-      {{40.0, 0.0}, {20.0, 0.0}}, {}, {{nan, 0.0}, {60.0, 0.0}}};
-  EXPECT_EQ(lineEnds(document)->first, 20.0);
-  EXPECT_EQ(lineEnds(document)->length(), 40.0);
 }
 
 }  // namespace

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/Parameters.h"
+
+#include <QDoubleSpinBox>
+#include <QSpinBox>
+
+namespace talvesk {
+
+/// Gives a field range and first value of a parameter. Its label in the form names the unit.
+template <typename Number>
+void setUpField(QSpinBox& field, const Parameter<Number>& parameter) {
+  field.setRange(static_cast<int>(parameter.limits.least), static_cast<int>(parameter.limits.most));
+  field.setValue(static_cast<int>(parameter.initial));
+}
+
+/// The same, and the decimals. The least of some parameters shows as 0.
+inline void setUpField(QDoubleSpinBox& field, const Parameter<double>& parameter) {
+  field.setDecimals(parameter.limits.decimals);
+  field.setRange(parameter.limits.least, parameter.limits.most);
+  field.setValue(parameter.initial);
+}
+
+}  // namespace talvesk

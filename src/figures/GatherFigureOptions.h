@@ -1,0 +1,49 @@
+#pragma once
+
+#include "view/ColorPalette.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+namespace talvesk {
+
+/// What a full swing of a trace is measured by.
+enum class GatherScaling {
+  kEachTrace,  ///< the largest swing of the trace itself
+  kWholeShot   ///< the largest swing of all traces: amplitudes can be compared
+};
+
+/// Part of a record, milliseconds from its first sample.
+struct TimeWindow {
+  double beginMs = 0.0;
+  double endMs = 0.0;
+};
+
+struct GatherFigureOptions {
+  double widthMm = 280.0;
+  double heightMm = 190.0;
+  double dpi = 150.0;  ///< pixels per inch of a PNG
+
+  /// The one shot to draw, from 0; none: all of them. Counts in writeGatherFigures() only.
+  std::optional<std::size_t> shot;
+  /// The filtered copy of a trace that has one; else its samples.
+  bool filtered = true;
+  GatherScaling scaling = GatherScaling::kEachTrace;
+  /// Swing of the largest value within the window, in distances between traces.
+  double gain = 2.0;
+  /// Swings are cut beyond this, in distances between traces.
+  double clip = 0.7;
+  bool fillPositive = true;
+  /// None: from 0 to half as long again as the last pick takes, or the whole record of a shot
+  /// without picks.
+  std::optional<TimeWindow> window;
+  /// Channel numbers along the axis even where receiver positions are known.
+  bool byChannel = false;
+
+  bool picks = true;
+  RgbColor pickColor{0.85, 0.05, 0.1};
+  std::string title;  ///< UTF-8, above every shot; empty: the name of the shot's file
+};
+
+}  // namespace talvesk
