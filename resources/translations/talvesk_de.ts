@@ -448,10 +448,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Schüsse aus %1 geladen</translation>
     </message>
     <message>
-        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)</source>
-        <translation>Seismische Dateien (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Open DX File of Shot %1</source>
         <translation>DX-Datei von Schuss %1 öffnen</translation>
     </message>
@@ -2233,10 +2229,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>%1 Geschwindigkeiten und Tiefen der Schichten werden weggelassen: außerhalb von 50 bis 12 000 m/s oder tiefer, als die Messlinie lang ist</translation>
     </message>
     <message>
-        <source>%1; the coverage of the last inversion and its figures are not known</source>
-        <translation>%1; die Abdeckung der letzten Inversion und ihre Zahlen sind nicht bekannt</translation>
-    </message>
-    <message>
         <source>No temporary folder can be created in %1.</source>
         <translation>In %1 kann kein temporärer Ordner angelegt werden.</translation>
     </message>
@@ -2513,10 +2505,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Datenformatcode %1 (IBM-Gleitkommazahlen) wird nicht gelesen; die Abtastwerte sind 0</translation>
     </message>
     <message>
-        <source>its suffix is none of seg2, dat, sg2, sgy, segy, su</source>
-        <translation>die Endung ist keine von seg2, dat, sg2, sgy, segy, su</translation>
-    </message>
-    <message>
         <source>Error while loading %1</source>
         <translation>Fehler beim Laden von %1</translation>
     </message>
@@ -2603,10 +2591,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>%1 and %2 are no pair: %3</source>
         <translation>%1 und %2 sind kein Paar: %3</translation>
-    </message>
-    <message>
-        <source>Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)</source>
-        <translation>Ungültige Laufzeitdatei : %1 (ihre Endung ist keine von .otte, .txt, .xyz, .csv)</translation>
     </message>
     <message>
         <source>a geophone of string %1 has no finite position; edit the geometry first</source>
@@ -3059,6 +3043,210 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>The last steps of the inversion failed: %1</source>
         <translation>Die letzten Schritte der Inversion sind fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>AGC</source>
+        <translation>AGC</translation>
+    </message>
+    <message>
+        <source>Hushel</source>
+        <translation>Hushel</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>SEG2 format (%1)</source>
+        <translation>SEG2-Format (%1)</translation>
+    </message>
+    <message>
+        <source>SEGY format (%1)</source>
+        <translation>SEGY-Format (%1)</translation>
+    </message>
+    <message>
+        <source>SU format (%1)</source>
+        <translation>SU-Format (%1)</translation>
+    </message>
+    <message>
+        <source>Open Travel Time Exchange format (%1)</source>
+        <translation>Open-Travel-Time-Exchange-Format (%1)</translation>
+    </message>
+    <message>
+        <source>T-x curves (%1)</source>
+        <translation>T-x-Kurven (%1)</translation>
+    </message>
+    <message>
+        <source>Sectioned pick table (%1)</source>
+        <translation>Pick-Tabelle mit Abschnitten (%1)</translation>
+    </message>
+    <message>
+        <source>Pick table (%1)</source>
+        <translation>Pick-Tabelle (%1)</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (%1)</source>
+        <translation>Talvesk-Projekte (%1)</translation>
+    </message>
+    <message>
+        <source>Seismic files (%1)</source>
+        <translation>Seismische Dateien (%1)</translation>
+    </message>
+    <message>
+        <source>Travel times (%1)</source>
+        <translation>Laufzeiten (%1)</translation>
+    </message>
+    <message>
+        <source>the coverage of the last inversion and its figures are not known</source>
+        <translation>die Abdeckung der letzten Inversion und ihre Zahlen sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>every pick counts as confirmed</source>
+        <translation>jeder Pick gilt als bestätigt</translation>
+    </message>
+    <message>
+        <source>%1 and what else this version does not know, %2 in all, is too much to be kept; it will not be in the next save</source>
+        <translation>%1 und was diese Version sonst nicht kennt, insgesamt %2, ist zu viel, um behalten zu werden; es fehlt beim nächsten Speichern</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of Talvesk; it stays as it is, but %2</source>
+        <translation>%1 wurde von einer neueren Version von Talvesk geschrieben; es bleibt, wie es ist, aber %2</translation>
+    </message>
+    <message>
+        <source>%1 is of another version of Talvesk; it stays as it is, but is not used</source>
+        <translation>%1 stammt von einer anderen Version von Talvesk; es bleibt, wie es ist, wird aber nicht verwendet</translation>
+    </message>
+    <message>
+        <source>%1 of a newer version of Talvesk gave way to that of this version: what it told of has changed.</source>
+        <translation>%1 einer neueren Version von Talvesk wurde durch das dieser Version ersetzt: Was es beschrieb, hat sich geändert.</translation>
+    </message>
+    <message>
+        <source>it is about other picks than those of the project</source>
+        <translation>es betrifft andere Picks als die des Projekts</translation>
+    </message>
+    <message>
+        <source>its suffix is none of %1</source>
+        <translation>die Endung ist keine von %1</translation>
+    </message>
+    <message>
+        <source>Invalid input TT file : %1 (its suffix is none of %2)</source>
+        <translation>Ungültige Laufzeitdatei : %1 (ihre Endung ist keine von %2)</translation>
+    </message>
+    <message>
+        <source>Open shot files</source>
+        <translation>Schussdateien öffnen</translation>
+    </message>
+    <message>
+        <source>Remove shot</source>
+        <translation>Schuss entfernen</translation>
+    </message>
+    <message>
+        <source>Import travel times</source>
+        <translation>Laufzeiten importieren</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Zeiten ab dem Schuss zählen</translation>
+    </message>
+    <message>
+        <source>Edit picks</source>
+        <translation>Picks bearbeiten</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Picks bestätigen</translation>
+    </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Geometrie</translation>
+    </message>
+    <message>
+        <source>S-wave recordings</source>
+        <translation>S-Wellen-Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Modellgeschwindigkeit festlegen</translation>
+    </message>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Glättung anwenden</translation>
+    </message>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Tomographische Inversion starten</translation>
+    </message>
+    <message>
+        <source>Refraction</source>
+        <translation>Refraktion</translation>
+    </message>
+    <message>
+        <source>Set title</source>
+        <translation>Titel festlegen</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Contour lines</source>
+        <translation>Isolinien</translation>
+    </message>
+    <message>
+        <source>Set geographic coordinates</source>
+        <translation>Geographische Koordinaten</translation>
+    </message>
+    <message>
+        <source>another edit is under way; try again when it is through</source>
+        <translation>eine andere Bearbeitung läuft; versuchen Sie es erneut, wenn sie abgeschlossen ist</translation>
+    </message>
+    <message>
+        <source>the edit failed: %1</source>
+        <translation>die Bearbeitung ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>no edit is under way</source>
+        <translation>es läuft keine Bearbeitung</translation>
+    </message>
+    <message>
+        <source>%1 would change what it must not; nothing was changed</source>
+        <translation>„%1“ würde ändern, was es nicht darf; es wurde nichts geändert</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Picks entfernen</translation>
+    </message>
+    <message>
+        <source>Remove pick</source>
+        <translation>Pick entfernen</translation>
+    </message>
+    <message>
+        <source>Nudge pick</source>
+        <translation>Pick verrücken</translation>
+    </message>
+    <message>
+        <source>Set pick</source>
+        <translation>Pick setzen</translation>
+    </message>
+    <message>
+        <source>Move pick</source>
+        <translation>Pick verschieben</translation>
+    </message>
+    <message>
+        <source>Draw picks</source>
+        <translation>Picks zeichnen</translation>
     </message>
 </context>
 <context>
@@ -4670,6 +4858,18 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
         <translation>Setzt die Farbskala gespeicherter Bilder über den Schnitt statt daneben.</translation>
     </message>
+    <message>
+        <source>&amp;Memory for undo:</source>
+        <translation>Speicher für &amp;Rückgängig:</translation>
+    </message>
+    <message>
+        <source>When the steps that can be undone need more, the oldest go.</source>
+        <translation>Brauchen die Schritte, die sich rückgängig machen lassen, mehr, so entfallen die ältesten.</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ShotTable</name>
@@ -5544,10 +5744,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Seismische Spuren öffnen</translation>
     </message>
     <message>
-        <source>SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)</source>
-        <translation>SEG2-Format (*.sg2 *.dat *.seg2);;SEGY-Format (*.sgy *.segy);;SU-Format (*.su);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Loading shot files ...</source>
         <translation>Schussdateien werden geladen ...</translation>
     </message>
@@ -5620,10 +5816,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Laufzeiten importieren</translation>
     </message>
     <message>
-        <source>Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)</source>
-        <translation>Laufzeiten (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Error while loading %1.</source>
         <translation>Fehler beim Laden von %1.</translation>
     </message>
@@ -5638,10 +5830,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Save TravelTimeExchange</source>
         <translation>Laufzeiten speichern</translation>
-    </message>
-    <message>
-        <source>Open Travel Time Exchange format (*.otte);;All Files (*)</source>
-        <translation>Open-Travel-Time-Exchange-Format (*.otte);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>The travel times have not been saved.</source>
@@ -5893,10 +6081,6 @@ Do you want to run refraction processing anyway? </source>
 Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     </message>
     <message>
-        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
-        <translation>Talvesk-Projekte (*.tvsk);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Empty filename to be saved</source>
         <translation>Kein Dateiname zum Speichern angegeben</translation>
     </message>
@@ -6130,10 +6314,6 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>Beginnt eine neue Messung: fragt nach Schussdateien, die dann an die Stelle der jetzigen treten</translation>
     </message>
     <message>
-        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
-        <translation>Seismische Dateien (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</translation>
-    </message>
-    <message>
         <source>No shot file was loaded.</source>
         <translation>Es wurde keine Schussdatei geladen.</translation>
     </message>
@@ -6208,6 +6388,18 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     <message>
         <source>Picks have changed since.</source>
         <translation>Die Picks haben sich seitdem geändert.</translation>
+    </message>
+    <message>
+        <source>The survey was not changed.</source>
+        <translation>Die Messung wurde nicht geändert.</translation>
+    </message>
+    <message>
+        <source>Undo &quot;%1&quot;</source>
+        <translation>Rückgängig: „%1“</translation>
+    </message>
+    <message>
+        <source>Redo &quot;%1&quot;</source>
+        <translation>Wiederholen: „%1“</translation>
     </message>
 </context>
 <context>
@@ -6709,40 +6901,12 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Seismische Spuren</translation>
     </message>
     <message>
-        <source>Remove picks</source>
-        <translation>Picks entfernen</translation>
-    </message>
-    <message>
-        <source>Remove pick</source>
-        <translation>Pick entfernen</translation>
-    </message>
-    <message>
-        <source>Confirm picks</source>
-        <translation>Picks bestätigen</translation>
-    </message>
-    <message>
-        <source>Nudge pick</source>
-        <translation>Pick verrücken</translation>
-    </message>
-    <message>
-        <source>Set pick</source>
-        <translation>Pick setzen</translation>
-    </message>
-    <message>
         <source>Trace %1, picked at %2 ms</source>
         <translation>Spur %1, gepickt bei %2 ms</translation>
     </message>
     <message>
         <source>Trace %1, not picked</source>
         <translation>Spur %1, nicht gepickt</translation>
-    </message>
-    <message>
-        <source>Draw picks</source>
-        <translation>Picks zeichnen</translation>
-    </message>
-    <message>
-        <source>Move pick</source>
-        <translation>Pick verschieben</translation>
     </message>
     <message>
         <source>No samples, only picks</source>
@@ -6763,10 +6927,6 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>This shot has no traces</source>
         <translation>Dieser Schuss hat keine Spuren</translation>
-    </message>
-    <message>
-        <source>AutoPick</source>
-        <translation>AutoPick</translation>
     </message>
 </context>
 <context>

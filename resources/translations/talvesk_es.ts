@@ -448,10 +448,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Disparos cargados de %1</translation>
     </message>
     <message>
-        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)</source>
-        <translation>Archivos sísmicos (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;Todos los archivos (*)</translation>
-    </message>
-    <message>
         <source>Open DX File of Shot %1</source>
         <translation>Abrir archivo DX del disparo %1</translation>
     </message>
@@ -2233,10 +2229,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>se han descartado %1 velocidades y profundidades de las capas: quedan fuera del rango de 50 a 12&#xa0;000 m/s o son mayores que la longitud de la línea</translation>
     </message>
     <message>
-        <source>%1; the coverage of the last inversion and its figures are not known</source>
-        <translation>%1; no se conocen la cobertura de la última inversión ni sus cifras</translation>
-    </message>
-    <message>
         <source>No temporary folder can be created in %1.</source>
         <translation>No se puede crear ninguna carpeta temporal en %1.</translation>
     </message>
@@ -2513,10 +2505,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>el código de formato de datos %1 (coma flotante IBM) no se lee; sus muestras son 0</translation>
     </message>
     <message>
-        <source>its suffix is none of seg2, dat, sg2, sgy, segy, su</source>
-        <translation>su extensión no es ninguna de estas: seg2, dat, sg2, sgy, segy, su</translation>
-    </message>
-    <message>
         <source>Error while loading %1</source>
         <translation>Error al cargar %1</translation>
     </message>
@@ -2603,10 +2591,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>%1 and %2 are no pair: %3</source>
         <translation>%1 y %2 no forman un par: %3</translation>
-    </message>
-    <message>
-        <source>Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)</source>
-        <translation>Archivo de tiempos de recorrido no válido: %1 (su extensión no es ninguna de estas: .otte, .txt, .xyz, .csv)</translation>
     </message>
     <message>
         <source>a geophone of string %1 has no finite position; edit the geometry first</source>
@@ -3059,6 +3043,210 @@ Defina la posición de los geófonos
     <message>
         <source>The last steps of the inversion failed: %1</source>
         <translation>Los últimos pasos de la inversión fallaron: %1</translation>
+    </message>
+    <message>
+        <source>AGC</source>
+        <translation>AGC</translation>
+    </message>
+    <message>
+        <source>Hushel</source>
+        <translation>Hushel</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>SEG2 format (%1)</source>
+        <translation>Formato SEG2 (%1)</translation>
+    </message>
+    <message>
+        <source>SEGY format (%1)</source>
+        <translation>Formato SEGY (%1)</translation>
+    </message>
+    <message>
+        <source>SU format (%1)</source>
+        <translation>Formato SU (%1)</translation>
+    </message>
+    <message>
+        <source>Open Travel Time Exchange format (%1)</source>
+        <translation>Formato Open Travel Time Exchange (%1)</translation>
+    </message>
+    <message>
+        <source>T-x curves (%1)</source>
+        <translation>Curvas T-x (%1)</translation>
+    </message>
+    <message>
+        <source>Sectioned pick table (%1)</source>
+        <translation>Tabla de picados por secciones (%1)</translation>
+    </message>
+    <message>
+        <source>Pick table (%1)</source>
+        <translation>Tabla de picados (%1)</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (%1)</source>
+        <translation>Proyectos de Talvesk (%1)</translation>
+    </message>
+    <message>
+        <source>Seismic files (%1)</source>
+        <translation>Archivos sísmicos (%1)</translation>
+    </message>
+    <message>
+        <source>Travel times (%1)</source>
+        <translation>Tiempos de recorrido (%1)</translation>
+    </message>
+    <message>
+        <source>the coverage of the last inversion and its figures are not known</source>
+        <translation>no se conocen la cobertura de la última inversión ni sus cifras</translation>
+    </message>
+    <message>
+        <source>every pick counts as confirmed</source>
+        <translation>todos los picados cuentan como confirmados</translation>
+    </message>
+    <message>
+        <source>%1 and what else this version does not know, %2 in all, is too much to be kept; it will not be in the next save</source>
+        <translation>%1 y lo demás que esta versión no conoce, %2 en total, es demasiado para conservarlo; no estará la próxima vez que se guarde</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of Talvesk; it stays as it is, but %2</source>
+        <translation>%1 se escribió con una versión más reciente de Talvesk; se conserva tal cual, pero %2</translation>
+    </message>
+    <message>
+        <source>%1 is of another version of Talvesk; it stays as it is, but is not used</source>
+        <translation>%1 es de otra versión de Talvesk; se conserva tal cual, pero no se usa</translation>
+    </message>
+    <message>
+        <source>%1 of a newer version of Talvesk gave way to that of this version: what it told of has changed.</source>
+        <translation>%1 de una versión más reciente de Talvesk ha dejado su lugar al de esta versión: lo que describía ha cambiado.</translation>
+    </message>
+    <message>
+        <source>it is about other picks than those of the project</source>
+        <translation>se refiere a picados distintos de los del proyecto</translation>
+    </message>
+    <message>
+        <source>its suffix is none of %1</source>
+        <translation>su extensión no es ninguna de estas: %1</translation>
+    </message>
+    <message>
+        <source>Invalid input TT file : %1 (its suffix is none of %2)</source>
+        <translation>Archivo de tiempos de recorrido no válido: %1 (su extensión no es ninguna de estas: %2)</translation>
+    </message>
+    <message>
+        <source>Open shot files</source>
+        <translation>Abrir archivos de disparos</translation>
+    </message>
+    <message>
+        <source>Remove shot</source>
+        <translation>Quitar disparo</translation>
+    </message>
+    <message>
+        <source>Import travel times</source>
+        <translation>Importar tiempos de recorrido</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Contar los tiempos desde el disparo</translation>
+    </message>
+    <message>
+        <source>Edit picks</source>
+        <translation>Modificar picados</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Confirmar picados</translation>
+    </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Geometría</translation>
+    </message>
+    <message>
+        <source>S-wave recordings</source>
+        <translation>Registros de onda S</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Malla</translation>
+    </message>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Definir modelo de velocidad</translation>
+    </message>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Aplicar suavizado</translation>
+    </message>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Ejecutar inversión tomográfica</translation>
+    </message>
+    <message>
+        <source>Refraction</source>
+        <translation>Refracción</translation>
+    </message>
+    <message>
+        <source>Set title</source>
+        <translation>Definir título</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Paleta</translation>
+    </message>
+    <message>
+        <source>Contour lines</source>
+        <translation>Isolíneas</translation>
+    </message>
+    <message>
+        <source>Set geographic coordinates</source>
+        <translation>Definir coordenadas geográficas</translation>
+    </message>
+    <message>
+        <source>another edit is under way; try again when it is through</source>
+        <translation>hay otra modificación en curso; vuelva a intentarlo cuando termine</translation>
+    </message>
+    <message>
+        <source>the edit failed: %1</source>
+        <translation>la modificación ha fallado: %1</translation>
+    </message>
+    <message>
+        <source>no edit is under way</source>
+        <translation>no hay ninguna modificación en curso</translation>
+    </message>
+    <message>
+        <source>%1 would change what it must not; nothing was changed</source>
+        <translation>«%1» cambiaría lo que no debe; no se ha cambiado nada</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Quitar picados</translation>
+    </message>
+    <message>
+        <source>Remove pick</source>
+        <translation>Quitar picado</translation>
+    </message>
+    <message>
+        <source>Nudge pick</source>
+        <translation>Desplazar un poco el picado</translation>
+    </message>
+    <message>
+        <source>Set pick</source>
+        <translation>Poner picado</translation>
+    </message>
+    <message>
+        <source>Move pick</source>
+        <translation>Mover picado</translation>
+    </message>
+    <message>
+        <source>Draw picks</source>
+        <translation>Trazar picados</translation>
     </message>
 </context>
 <context>
@@ -4670,6 +4858,18 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
         <translation>Pone la barra de color de las imágenes guardadas encima de la sección, no al lado.</translation>
     </message>
+    <message>
+        <source>&amp;Memory for undo:</source>
+        <translation>&amp;Memoria para deshacer:</translation>
+    </message>
+    <message>
+        <source>When the steps that can be undone need more, the oldest go.</source>
+        <translation>Si los cambios que se pueden deshacer necesitan más, se descartan los más antiguos.</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ShotTable</name>
@@ -5544,10 +5744,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Abrir trazas sísmicas</translation>
     </message>
     <message>
-        <source>SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)</source>
-        <translation>Formato SEG2 (*.sg2 *.dat *.seg2);;Formato SEGY (*.sgy *.segy);;Formato SU (*.su);;Todos los archivos (*)</translation>
-    </message>
-    <message>
         <source>Loading shot files ...</source>
         <translation>Cargando archivos de disparos ...</translation>
     </message>
@@ -5620,10 +5816,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Importar tiempos de recorrido</translation>
     </message>
     <message>
-        <source>Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)</source>
-        <translation>Tiempos de recorrido (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Todos los archivos (*)</translation>
-    </message>
-    <message>
         <source>Error while loading %1.</source>
         <translation>Error al cargar %1.</translation>
     </message>
@@ -5638,10 +5830,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Save TravelTimeExchange</source>
         <translation>Guardar tiempos de recorrido</translation>
-    </message>
-    <message>
-        <source>Open Travel Time Exchange format (*.otte);;All Files (*)</source>
-        <translation>Formato Open Travel Time Exchange (*.otte);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>The travel times have not been saved.</source>
@@ -5893,10 +6081,6 @@ Do you want to run refraction processing anyway? </source>
 ¿Desea ejecutar de todos modos el procesamiento de refracción? </translation>
     </message>
     <message>
-        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
-        <translation>Proyectos de Talvesk (*.tvsk);;Todos los archivos (*)</translation>
-    </message>
-    <message>
         <source>Empty filename to be saved</source>
         <translation>El nombre del archivo que se va a guardar está vacío</translation>
     </message>
@@ -6130,10 +6314,6 @@ Do you want to run refraction processing anyway? </source>
         <translation>Inicia un levantamiento nuevo: pide archivos de disparos, que ocupan entonces el lugar del actual</translation>
     </message>
     <message>
-        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
-        <translation>Archivos sísmicos (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</translation>
-    </message>
-    <message>
         <source>No shot file was loaded.</source>
         <translation>No se ha cargado ningún archivo de disparos.</translation>
     </message>
@@ -6208,6 +6388,18 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Picks have changed since.</source>
         <translation>Los picados han cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>The survey was not changed.</source>
+        <translation>El levantamiento no se ha modificado.</translation>
+    </message>
+    <message>
+        <source>Undo &quot;%1&quot;</source>
+        <translation>Deshacer «%1»</translation>
+    </message>
+    <message>
+        <source>Redo &quot;%1&quot;</source>
+        <translation>Rehacer «%1»</translation>
     </message>
 </context>
 <context>
@@ -6709,40 +6901,12 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Trazas sísmicas</translation>
     </message>
     <message>
-        <source>Remove picks</source>
-        <translation>Quitar picados</translation>
-    </message>
-    <message>
-        <source>Remove pick</source>
-        <translation>Quitar picado</translation>
-    </message>
-    <message>
-        <source>Confirm picks</source>
-        <translation>Confirmar picados</translation>
-    </message>
-    <message>
-        <source>Nudge pick</source>
-        <translation>Desplazar un poco el picado</translation>
-    </message>
-    <message>
-        <source>Set pick</source>
-        <translation>Poner picado</translation>
-    </message>
-    <message>
         <source>Trace %1, picked at %2 ms</source>
         <translation>Traza %1, picada en %2 ms</translation>
     </message>
     <message>
         <source>Trace %1, not picked</source>
         <translation>Traza %1, sin picar</translation>
-    </message>
-    <message>
-        <source>Draw picks</source>
-        <translation>Trazar picados</translation>
-    </message>
-    <message>
-        <source>Move pick</source>
-        <translation>Mover picado</translation>
     </message>
     <message>
         <source>No samples, only picks</source>
@@ -6763,10 +6927,6 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>This shot has no traces</source>
         <translation>Este disparo no tiene trazas</translation>
-    </message>
-    <message>
-        <source>AutoPick</source>
-        <translation>AutoPick</translation>
     </message>
 </context>
 <context>

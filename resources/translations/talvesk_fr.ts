@@ -448,10 +448,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Tirs chargés depuis %1</translation>
     </message>
     <message>
-        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)</source>
-        <translation>Fichiers sismiques (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
         <source>Open DX File of Shot %1</source>
         <translation>Ouvrir le fichier DX du tir %1</translation>
     </message>
@@ -2233,10 +2229,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>%1 vitesses et profondeurs des couches sont écartées&#xa0;: hors de la plage de 50 à 12&#xa0;000 m/s, ou plus profondes que la longueur de la ligne</translation>
     </message>
     <message>
-        <source>%1; the coverage of the last inversion and its figures are not known</source>
-        <translation>%1&#xa0;; la couverture de la dernière inversion et ses chiffres ne sont pas connus</translation>
-    </message>
-    <message>
         <source>No temporary folder can be created in %1.</source>
         <translation>Aucun dossier temporaire ne peut être créé dans %1.</translation>
     </message>
@@ -2513,10 +2505,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>le code de format de données %1 (flottants IBM) n&apos;est pas lu&#xa0;; ses échantillons sont nuls</translation>
     </message>
     <message>
-        <source>its suffix is none of seg2, dat, sg2, sgy, segy, su</source>
-        <translation>son suffixe n&apos;est ni seg2, ni dat, ni sg2, ni sgy, ni segy, ni su</translation>
-    </message>
-    <message>
         <source>Error while loading %1</source>
         <translation>Erreur lors du chargement de %1</translation>
     </message>
@@ -2603,10 +2591,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>%1 and %2 are no pair: %3</source>
         <translation>%1 et %2 ne forment pas une paire&#xa0;: %3</translation>
-    </message>
-    <message>
-        <source>Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)</source>
-        <translation>Fichier TT d&apos;entrée non valide&#xa0;: %1 (son suffixe n&apos;est ni .otte, ni .txt, ni .xyz, ni .csv)</translation>
     </message>
     <message>
         <source>a geophone of string %1 has no finite position; edit the geometry first</source>
@@ -3059,6 +3043,210 @@ Veuillez définir la position des géophones
     <message>
         <source>The last steps of the inversion failed: %1</source>
         <translation>Les dernières étapes de l&apos;inversion ont échoué : %1</translation>
+    </message>
+    <message>
+        <source>AGC</source>
+        <translation>AGC</translation>
+    </message>
+    <message>
+        <source>Hushel</source>
+        <translation>Hushel</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>SEG2 format (%1)</source>
+        <translation>Format SEG2 (%1)</translation>
+    </message>
+    <message>
+        <source>SEGY format (%1)</source>
+        <translation>Format SEGY (%1)</translation>
+    </message>
+    <message>
+        <source>SU format (%1)</source>
+        <translation>Format SU (%1)</translation>
+    </message>
+    <message>
+        <source>Open Travel Time Exchange format (%1)</source>
+        <translation>Format Open Travel Time Exchange (%1)</translation>
+    </message>
+    <message>
+        <source>T-x curves (%1)</source>
+        <translation>Courbes T-x (%1)</translation>
+    </message>
+    <message>
+        <source>Sectioned pick table (%1)</source>
+        <translation>Tableau de pointés en sections (%1)</translation>
+    </message>
+    <message>
+        <source>Pick table (%1)</source>
+        <translation>Tableau de pointés (%1)</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (%1)</source>
+        <translation>Projets Talvesk (%1)</translation>
+    </message>
+    <message>
+        <source>Seismic files (%1)</source>
+        <translation>Fichiers sismiques (%1)</translation>
+    </message>
+    <message>
+        <source>Travel times (%1)</source>
+        <translation>Temps de parcours (%1)</translation>
+    </message>
+    <message>
+        <source>the coverage of the last inversion and its figures are not known</source>
+        <translation>la couverture de la dernière inversion et ses chiffres ne sont pas connus</translation>
+    </message>
+    <message>
+        <source>every pick counts as confirmed</source>
+        <translation>tous les pointés comptent comme confirmés</translation>
+    </message>
+    <message>
+        <source>%1 and what else this version does not know, %2 in all, is too much to be kept; it will not be in the next save</source>
+        <translation>%1 et ce que cette version ne connaît pas non plus, %2 en tout, est trop volumineux pour être conservé ; cela manquera au prochain enregistrement</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of Talvesk; it stays as it is, but %2</source>
+        <translation>%1 a été écrit par une version plus récente de Talvesk ; il reste tel quel, mais %2</translation>
+    </message>
+    <message>
+        <source>%1 is of another version of Talvesk; it stays as it is, but is not used</source>
+        <translation>%1 provient d&apos;une autre version de Talvesk ; il reste tel quel, mais n&apos;est pas utilisé</translation>
+    </message>
+    <message>
+        <source>%1 of a newer version of Talvesk gave way to that of this version: what it told of has changed.</source>
+        <translation>%1 d&apos;une version plus récente de Talvesk a cédé la place à celui de cette version : ce qu&apos;il décrivait a changé.</translation>
+    </message>
+    <message>
+        <source>it is about other picks than those of the project</source>
+        <translation>il porte sur d&apos;autres pointés que ceux du projet</translation>
+    </message>
+    <message>
+        <source>its suffix is none of %1</source>
+        <translation>son suffixe n&apos;est aucun de ceux-ci : %1</translation>
+    </message>
+    <message>
+        <source>Invalid input TT file : %1 (its suffix is none of %2)</source>
+        <translation>Fichier TT d&apos;entrée non valide : %1 (son suffixe n&apos;est aucun de ceux-ci : %2)</translation>
+    </message>
+    <message>
+        <source>Open shot files</source>
+        <translation>Ouvrir des fichiers de tirs</translation>
+    </message>
+    <message>
+        <source>Remove shot</source>
+        <translation>Supprimer le tir</translation>
+    </message>
+    <message>
+        <source>Import travel times</source>
+        <translation>Importer des temps de parcours</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Compter les temps à partir du tir</translation>
+    </message>
+    <message>
+        <source>Edit picks</source>
+        <translation>Modifier les pointés</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Confirmer les pointés</translation>
+    </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Géométrie</translation>
+    </message>
+    <message>
+        <source>S-wave recordings</source>
+        <translation>Enregistrements d&apos;ondes S</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grille</translation>
+    </message>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Définir le modèle de vitesse</translation>
+    </message>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Appliquer un lissage</translation>
+    </message>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Lancer l&apos;inversion tomographique</translation>
+    </message>
+    <message>
+        <source>Refraction</source>
+        <translation>Réfraction</translation>
+    </message>
+    <message>
+        <source>Set title</source>
+        <translation>Définir le titre</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Contour lines</source>
+        <translation>Isolignes</translation>
+    </message>
+    <message>
+        <source>Set geographic coordinates</source>
+        <translation>Définir les coordonnées géographiques</translation>
+    </message>
+    <message>
+        <source>another edit is under way; try again when it is through</source>
+        <translation>une autre modification est en cours ; réessayez quand elle sera terminée</translation>
+    </message>
+    <message>
+        <source>the edit failed: %1</source>
+        <translation>la modification a échoué : %1</translation>
+    </message>
+    <message>
+        <source>no edit is under way</source>
+        <translation>aucune modification n&apos;est en cours</translation>
+    </message>
+    <message>
+        <source>%1 would change what it must not; nothing was changed</source>
+        <translation>« %1 » modifierait ce qui ne doit pas l&apos;être ; rien n&apos;a été modifié</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Supprimer les pointés</translation>
+    </message>
+    <message>
+        <source>Remove pick</source>
+        <translation>Supprimer le pointé</translation>
+    </message>
+    <message>
+        <source>Nudge pick</source>
+        <translation>Ajuster le pointé</translation>
+    </message>
+    <message>
+        <source>Set pick</source>
+        <translation>Placer le pointé</translation>
+    </message>
+    <message>
+        <source>Move pick</source>
+        <translation>Déplacer le pointé</translation>
+    </message>
+    <message>
+        <source>Draw picks</source>
+        <translation>Tracer les pointés</translation>
     </message>
 </context>
 <context>
@@ -4670,6 +4858,18 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
         <translation>Place l&apos;échelle de couleurs des images enregistrées au-dessus de la coupe, et non à côté.</translation>
     </message>
+    <message>
+        <source>&amp;Memory for undo:</source>
+        <translation>&amp;Mémoire pour défaire :</translation>
+    </message>
+    <message>
+        <source>When the steps that can be undone need more, the oldest go.</source>
+        <translation>Si les modifications qui peuvent être défaites en demandent davantage, les plus anciennes sont abandonnées.</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> Mo</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ShotTable</name>
@@ -5544,10 +5744,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Ouvrir des traces sismiques</translation>
     </message>
     <message>
-        <source>SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)</source>
-        <translation>Format SEG2 (*.sg2 *.dat *.seg2);;Format SEGY (*.sgy *.segy);;Format SU (*.su);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
         <source>Loading shot files ...</source>
         <translation>Chargement des fichiers de tirs ...</translation>
     </message>
@@ -5620,10 +5816,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Importer des temps de parcours</translation>
     </message>
     <message>
-        <source>Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)</source>
-        <translation>Temps de parcours (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
         <source>Error while loading %1.</source>
         <translation>Erreur lors du chargement de %1.</translation>
     </message>
@@ -5638,10 +5830,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Save TravelTimeExchange</source>
         <translation>Enregistrer les temps de parcours</translation>
-    </message>
-    <message>
-        <source>Open Travel Time Exchange format (*.otte);;All Files (*)</source>
-        <translation>Format Open Travel Time Exchange (*.otte);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>The travel times have not been saved.</source>
@@ -5893,10 +6081,6 @@ Do you want to run refraction processing anyway? </source>
 Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translation>
     </message>
     <message>
-        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
-        <translation>Projets Talvesk (*.tvsk);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
         <source>Empty filename to be saved</source>
         <translation>Le nom du fichier à enregistrer est vide</translation>
     </message>
@@ -6130,10 +6314,6 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>Commencer un nouveau levé&#xa0;: demande des fichiers de tirs, qui prennent alors la place de celui-ci</translation>
     </message>
     <message>
-        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
-        <translation>Fichiers sismiques (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</translation>
-    </message>
-    <message>
         <source>No shot file was loaded.</source>
         <translation>Aucun fichier de tir n&apos;a été chargé.</translation>
     </message>
@@ -6208,6 +6388,18 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Picks have changed since.</source>
         <translation>Les pointés ont changé depuis.</translation>
+    </message>
+    <message>
+        <source>The survey was not changed.</source>
+        <translation>Le levé n&apos;a pas été modifié.</translation>
+    </message>
+    <message>
+        <source>Undo &quot;%1&quot;</source>
+        <translation>Défaire « %1 »</translation>
+    </message>
+    <message>
+        <source>Redo &quot;%1&quot;</source>
+        <translation>Refaire « %1 »</translation>
     </message>
 </context>
 <context>
@@ -6709,40 +6901,12 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Traces sismiques</translation>
     </message>
     <message>
-        <source>Remove picks</source>
-        <translation>Supprimer les pointés</translation>
-    </message>
-    <message>
-        <source>Remove pick</source>
-        <translation>Supprimer le pointé</translation>
-    </message>
-    <message>
-        <source>Confirm picks</source>
-        <translation>Confirmer les pointés</translation>
-    </message>
-    <message>
-        <source>Nudge pick</source>
-        <translation>Ajuster le pointé</translation>
-    </message>
-    <message>
-        <source>Set pick</source>
-        <translation>Placer le pointé</translation>
-    </message>
-    <message>
         <source>Trace %1, picked at %2 ms</source>
         <translation>Trace %1, pointée à %2 ms</translation>
     </message>
     <message>
         <source>Trace %1, not picked</source>
         <translation>Trace %1, non pointée</translation>
-    </message>
-    <message>
-        <source>Draw picks</source>
-        <translation>Tracer les pointés</translation>
-    </message>
-    <message>
-        <source>Move pick</source>
-        <translation>Déplacer le pointé</translation>
     </message>
     <message>
         <source>No samples, only picks</source>
@@ -6763,10 +6927,6 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>This shot has no traces</source>
         <translation>Ce tir n&apos;a pas de traces</translation>
-    </message>
-    <message>
-        <source>AutoPick</source>
-        <translation>AutoPick</translation>
     </message>
 </context>
 <context>

@@ -448,10 +448,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Tiri caricati da %1</translation>
     </message>
     <message>
-        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;All Files (*)</source>
-        <translation>File sismici (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;Tutti i file (*)</translation>
-    </message>
-    <message>
         <source>Open DX File of Shot %1</source>
         <translation>Apri il file DX del tiro %1</translation>
     </message>
@@ -2233,10 +2229,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>%1 velocità e profondità degli strati tralasciate: fuori da 50 - 12 000 m/s, o più profonde della lunghezza della linea</translation>
     </message>
     <message>
-        <source>%1; the coverage of the last inversion and its figures are not known</source>
-        <translation>%1; la copertura dell&apos;ultima inversione e le sue cifre non sono note</translation>
-    </message>
-    <message>
         <source>No temporary folder can be created in %1.</source>
         <translation>Non è possibile creare una cartella temporanea in %1.</translation>
     </message>
@@ -2513,10 +2505,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>il codice di formato dei dati %1 (numeri in virgola mobile IBM) non viene letto; i suoi campioni sono 0</translation>
     </message>
     <message>
-        <source>its suffix is none of seg2, dat, sg2, sgy, segy, su</source>
-        <translation>l&apos;estensione non è nessuna di seg2, dat, sg2, sgy, segy, su</translation>
-    </message>
-    <message>
         <source>Error while loading %1</source>
         <translation>Errore nel caricamento di %1</translation>
     </message>
@@ -2603,10 +2591,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>%1 and %2 are no pair: %3</source>
         <translation>%1 e %2 non sono una coppia: %3</translation>
-    </message>
-    <message>
-        <source>Invalid input TT file : %1 (its suffix is none of .otte, .txt, .xyz, .csv)</source>
-        <translation>File TT in ingresso non valido : %1 (l&apos;estensione non è nessuna di .otte, .txt, .xyz, .csv)</translation>
     </message>
     <message>
         <source>a geophone of string %1 has no finite position; edit the geometry first</source>
@@ -3059,6 +3043,210 @@ Impostare la posizione dei geofoni
     <message>
         <source>The last steps of the inversion failed: %1</source>
         <translation>Gli ultimi passi dell&apos;inversione non sono riusciti: %1</translation>
+    </message>
+    <message>
+        <source>AGC</source>
+        <translation>AGC</translation>
+    </message>
+    <message>
+        <source>Hushel</source>
+        <translation>Hushel</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>SEG2 format (%1)</source>
+        <translation>Formato SEG2 (%1)</translation>
+    </message>
+    <message>
+        <source>SEGY format (%1)</source>
+        <translation>Formato SEGY (%1)</translation>
+    </message>
+    <message>
+        <source>SU format (%1)</source>
+        <translation>Formato SU (%1)</translation>
+    </message>
+    <message>
+        <source>Open Travel Time Exchange format (%1)</source>
+        <translation>Formato Open Travel Time Exchange (%1)</translation>
+    </message>
+    <message>
+        <source>T-x curves (%1)</source>
+        <translation>Curve T-x (%1)</translation>
+    </message>
+    <message>
+        <source>Sectioned pick table (%1)</source>
+        <translation>Tabella dei primi arrivi in sezioni (%1)</translation>
+    </message>
+    <message>
+        <source>Pick table (%1)</source>
+        <translation>Tabella dei primi arrivi (%1)</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (%1)</source>
+        <translation>Progetti Talvesk (%1)</translation>
+    </message>
+    <message>
+        <source>Seismic files (%1)</source>
+        <translation>File sismici (%1)</translation>
+    </message>
+    <message>
+        <source>Travel times (%1)</source>
+        <translation>Tempi di arrivo (%1)</translation>
+    </message>
+    <message>
+        <source>the coverage of the last inversion and its figures are not known</source>
+        <translation>la copertura dell&apos;ultima inversione e le sue cifre non sono note</translation>
+    </message>
+    <message>
+        <source>every pick counts as confirmed</source>
+        <translation>ogni primo arrivo vale come confermato</translation>
+    </message>
+    <message>
+        <source>%1 and what else this version does not know, %2 in all, is too much to be kept; it will not be in the next save</source>
+        <translation>%1 e il resto che questa versione non conosce, %2 in tutto, è troppo per essere conservato; mancherà nel prossimo salvataggio</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of Talvesk; it stays as it is, but %2</source>
+        <translation>%1 è stato scritto da una versione più recente di Talvesk; resta com&apos;è, ma %2</translation>
+    </message>
+    <message>
+        <source>%1 is of another version of Talvesk; it stays as it is, but is not used</source>
+        <translation>%1 è di un&apos;altra versione di Talvesk; resta com&apos;è, ma non viene usato</translation>
+    </message>
+    <message>
+        <source>%1 of a newer version of Talvesk gave way to that of this version: what it told of has changed.</source>
+        <translation>%1 di una versione più recente di Talvesk ha lasciato il posto a quello di questa versione: ciò che descriveva è cambiato.</translation>
+    </message>
+    <message>
+        <source>it is about other picks than those of the project</source>
+        <translation>riguarda primi arrivi diversi da quelli del progetto</translation>
+    </message>
+    <message>
+        <source>its suffix is none of %1</source>
+        <translation>l&apos;estensione non è nessuna di %1</translation>
+    </message>
+    <message>
+        <source>Invalid input TT file : %1 (its suffix is none of %2)</source>
+        <translation>File TT in ingresso non valido : %1 (l&apos;estensione non è nessuna di %2)</translation>
+    </message>
+    <message>
+        <source>Open shot files</source>
+        <translation>Apri file dei tiri</translation>
+    </message>
+    <message>
+        <source>Remove shot</source>
+        <translation>Togli il tiro</translation>
+    </message>
+    <message>
+        <source>Import travel times</source>
+        <translation>Importa tempi di arrivo</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Conta i tempi dal tiro</translation>
+    </message>
+    <message>
+        <source>Edit picks</source>
+        <translation>Modifica i primi arrivi</translation>
+    </message>
+    <message>
+        <source>Confirm picks</source>
+        <translation>Conferma i primi arrivi</translation>
+    </message>
+    <message>
+        <source>AutoPick</source>
+        <translation>AutoPick</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Geometria</translation>
+    </message>
+    <message>
+        <source>S-wave recordings</source>
+        <translation>Registrazioni di onde S</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Griglia</translation>
+    </message>
+    <message>
+        <source>Define model velocity</source>
+        <translation>Definisci il modello di velocità</translation>
+    </message>
+    <message>
+        <source>Apply smoothing</source>
+        <translation>Applica lo smussamento</translation>
+    </message>
+    <message>
+        <source>Run tomography inversion</source>
+        <translation>Esegui l&apos;inversione tomografica</translation>
+    </message>
+    <message>
+        <source>Refraction</source>
+        <translation>Rifrazione</translation>
+    </message>
+    <message>
+        <source>Set title</source>
+        <translation>Titolo</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Tavolozza</translation>
+    </message>
+    <message>
+        <source>Contour lines</source>
+        <translation>Isolinee</translation>
+    </message>
+    <message>
+        <source>Set geographic coordinates</source>
+        <translation>Coordinate geografiche</translation>
+    </message>
+    <message>
+        <source>another edit is under way; try again when it is through</source>
+        <translation>un&apos;altra modifica è in corso; riprovare quando è terminata</translation>
+    </message>
+    <message>
+        <source>the edit failed: %1</source>
+        <translation>la modifica non è riuscita: %1</translation>
+    </message>
+    <message>
+        <source>no edit is under way</source>
+        <translation>nessuna modifica è in corso</translation>
+    </message>
+    <message>
+        <source>%1 would change what it must not; nothing was changed</source>
+        <translation>&quot;%1&quot; cambierebbe ciò che non deve; nulla è stato cambiato</translation>
+    </message>
+    <message>
+        <source>Remove picks</source>
+        <translation>Togli i primi arrivi</translation>
+    </message>
+    <message>
+        <source>Remove pick</source>
+        <translation>Togli il primo arrivo</translation>
+    </message>
+    <message>
+        <source>Nudge pick</source>
+        <translation>Sposta di poco il primo arrivo</translation>
+    </message>
+    <message>
+        <source>Set pick</source>
+        <translation>Metti il primo arrivo</translation>
+    </message>
+    <message>
+        <source>Move pick</source>
+        <translation>Sposta il primo arrivo</translation>
+    </message>
+    <message>
+        <source>Draw picks</source>
+        <translation>Traccia i primi arrivi</translation>
     </message>
 </context>
 <context>
@@ -4670,6 +4858,18 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>Puts the scalarbar of saved pictures above the section, not beside it.</source>
         <translation>Mette la scala dei colori delle immagini salvate sopra la sezione, non accanto.</translation>
     </message>
+    <message>
+        <source>&amp;Memory for undo:</source>
+        <translation>&amp;Memoria per l&apos;annullamento:</translation>
+    </message>
+    <message>
+        <source>When the steps that can be undone need more, the oldest go.</source>
+        <translation>Se le modifiche che si possono annullare ne richiedono di più, le più vecchie vengono scartate.</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ShotTable</name>
@@ -5544,10 +5744,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Apri tracce sismiche</translation>
     </message>
     <message>
-        <source>SEG2 format (*.sg2 *.dat *.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)</source>
-        <translation>Formato SEG2 (*.sg2 *.dat *.seg2);;Formato SEGY (*.sgy *.segy);;Formato SU (*.su);;Tutti i file (*)</translation>
-    </message>
-    <message>
         <source>Loading shot files ...</source>
         <translation>Caricamento dei file dei tiri ...</translation>
     </message>
@@ -5620,10 +5816,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Importa tempi di arrivo</translation>
     </message>
     <message>
-        <source>Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;All Files (*)</source>
-        <translation>Tempi di arrivo (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Tutti i file (*)</translation>
-    </message>
-    <message>
         <source>Error while loading %1.</source>
         <translation>Errore nel caricamento di %1.</translation>
     </message>
@@ -5638,10 +5830,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Save TravelTimeExchange</source>
         <translation>Salva tempi di arrivo</translation>
-    </message>
-    <message>
-        <source>Open Travel Time Exchange format (*.otte);;All Files (*)</source>
-        <translation>Formato Open Travel Time Exchange (*.otte);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>The travel times have not been saved.</source>
@@ -5893,10 +6081,6 @@ Do you want to run refraction processing anyway? </source>
 Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     </message>
     <message>
-        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
-        <translation>Progetti Talvesk (*.tvsk);;Tutti i file (*)</translation>
-    </message>
-    <message>
         <source>Empty filename to be saved</source>
         <translation>Nome del file da salvare vuoto</translation>
     </message>
@@ -6130,10 +6314,6 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>Comincia un nuovo rilievo: chiede i file dei tiri, che prendono poi il posto di questo</translation>
     </message>
     <message>
-        <source>Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</source>
-        <translation>File sismici (*.sg2 *.dat *.seg2 *.sgy *.segy *.su)</translation>
-    </message>
-    <message>
         <source>No shot file was loaded.</source>
         <translation>Nessun file dei tiri è stato caricato.</translation>
     </message>
@@ -6208,6 +6388,18 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>Picks have changed since.</source>
         <translation>I primi arrivi sono cambiati da allora.</translation>
+    </message>
+    <message>
+        <source>The survey was not changed.</source>
+        <translation>Il rilievo non è stato modificato.</translation>
+    </message>
+    <message>
+        <source>Undo &quot;%1&quot;</source>
+        <translation>Annulla modifica &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Redo &quot;%1&quot;</source>
+        <translation>Ripeti modifica &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -6709,40 +6901,12 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Tracce sismiche</translation>
     </message>
     <message>
-        <source>Remove picks</source>
-        <translation>Togli i primi arrivi</translation>
-    </message>
-    <message>
-        <source>Remove pick</source>
-        <translation>Togli il primo arrivo</translation>
-    </message>
-    <message>
-        <source>Confirm picks</source>
-        <translation>Conferma i primi arrivi</translation>
-    </message>
-    <message>
-        <source>Nudge pick</source>
-        <translation>Sposta di poco il primo arrivo</translation>
-    </message>
-    <message>
-        <source>Set pick</source>
-        <translation>Metti il primo arrivo</translation>
-    </message>
-    <message>
         <source>Trace %1, picked at %2 ms</source>
         <translation>Traccia %1, primo arrivo a %2 ms</translation>
     </message>
     <message>
         <source>Trace %1, not picked</source>
         <translation>Traccia %1, senza primo arrivo</translation>
-    </message>
-    <message>
-        <source>Draw picks</source>
-        <translation>Traccia i primi arrivi</translation>
-    </message>
-    <message>
-        <source>Move pick</source>
-        <translation>Sposta il primo arrivo</translation>
     </message>
     <message>
         <source>No samples, only picks</source>
@@ -6763,10 +6927,6 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>This shot has no traces</source>
         <translation>Questo tiro non ha tracce</translation>
-    </message>
-    <message>
-        <source>AutoPick</source>
-        <translation>AutoPick</translation>
     </message>
 </context>
 <context>

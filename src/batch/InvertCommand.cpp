@@ -16,6 +16,7 @@
 #include "model/LeftOut.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
+#include "session/TableRules.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/GridPreview.h"
 
@@ -49,10 +50,10 @@ bool continues(const InvertOptions& options, const TomoDocument& document) {
          document.model->grid->cellCount() > 0;
 }
 
-Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log) {
-  if (continues(options, document)) return {};
+Status setUpModel(const InvertOptions& options, Survey& survey, Log& log) {
+  if (continues(options, survey.document)) return {};
   SurveyProfile profile;
-  GridSettings settings = proposeGrid(document, profile, log);
+  GridSettings settings = proposeGrid(survey.document, profile, log);
   if (!profile.hasGeometry()) {
     return Status::failure(inputsOf(options).front() +
                            ": no two geophones have different positions");
@@ -61,9 +62,12 @@ Status setUpModel(const InvertOptions& options, TomoDocument& document, Log& log
   if (options.depth) settings.maxDepth = *options.depth;
   settings.nodes = static_cast<std::uint32_t>(options.nodes);
   Status status = checkDepth(settings, profile);
-  if (status.ok()) status = setUpGrid(document, settings, log);
-  if (status.ok() && !options.layers.empty()) status = applyLayers(document, options.layers);
-  return status;
+  if (!status.ok()) return status;
+  status = editSurvey(Edit::kGrid, survey,
+                      [&](Survey& next) { return setUpGrid(next.document, settings, log); });
+  if (!status.ok() || options.layers.empty()) return status;
+  return editSurvey(Edit::kStartingModel, survey,
+                    [&](Survey& next) { return applyLayers(next.document, options.layers); });
 }
 
 /// What the window would ask about; nobody is there to answer.
@@ -108,13 +112,18 @@ TomographyParameters parametersOf(const InvertOptions& options, const TomoDocume
 }
 
 TomographyResult invert(const InvertOptions& options, const TomographyParameters& parameters,
-                        const Channels& channels, TomoDocument& document, Log& log) {
+                        const Channels& channels, Survey& survey, Log& log) {
   listenForInterrupt(!options.quiet);
   Progress progress(channels.progress, std::cerr, options.parameters.externalIterations);
-  TomographyResult result = runInversion(
-      document, parameters, log, [&](const TomographyProgress& state) { progress.show(state); },
-      interruptRequested);
+  TomographyResult result;
+  const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
+    result = runInversion(
+        next.document, parameters, log,
+        [&](const TomographyProgress& state) { progress.show(state); }, interruptRequested);
+    return Status();  // what the completed iterations found is kept with one that failed
+  });
   progress.finish();
+  if (result.status.ok()) result.status = edited;
   return result;
 }
 
@@ -198,13 +207,13 @@ int run(const InvertOptions& options) {
   manner.summary = channels.summary;
   Status status = readSurvey(options.input, options.shots, manner, project);
   if (status.ok()) status = checkPicks(document, inputsOf(options));
-  if (status.ok()) status = setUpModel(options, document, log);
+  if (status.ok()) status = setUpModel(options, project, log);
   if (status.ok()) status = tellWhatIsLeftOut(document);
   if (!status.ok()) return failed(status.message());
   const TomographyParameters parameters = parametersOf(options, document);
   if (!options.quiet) warnAboutChoices(parameters, document);
 
-  const TomographyResult result = invert(options, parameters, channels, document, log);
+  const TomographyResult result = invert(options, parameters, channels, project, log);
   // What the completed iterations found is not lost with the one that failed.
   const int runCode = result.status.ok() ? kDone : failed(result.status.message());
   if (result.iterationsDone == 0) return runCode;

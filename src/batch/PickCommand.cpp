@@ -59,7 +59,7 @@ int run(const PickOptions& options) {
   PickingManner manner;
   manner.quiet = options.quiet;
   manner.summary = channels.summary;
-  Status status = pickShotFiles(options.shots, manner, project.document);
+  Status status = pickShotFiles(options.shots, manner, project);
   if (status.ok()) status = checkPicks(project.document, options.shots.files);
   if (!status.ok()) return failed(status.message());
   return writeResults(options, project);

@@ -15,6 +15,7 @@
 #include "refraction/BuildProfiles.h"
 #include "refraction/LayerProposal.h"
 #include "refraction/Profile.h"
+#include "session/TableRules.h"
 #include "tomo/RayRecomputation.h"
 #include "view/RefractorLines.h"
 
@@ -158,13 +159,19 @@ int run(const RefractOptions& options) {
     warn("uncomplete set of picks; the interpretation is run anyway");
   }
 
-  Interpretation& interpretation = project.interpretation.edit();
   const std::vector<ShotArrivals> shots = shotArrivals(document);
-  status = markLayers(options, document, shots, interpretation);
+  ProfileOutcome outcome;
+  status = editSurvey(Edit::kRefraction, project, [&](Survey& next) {
+    Interpretation& work = next.interpretation.edit();
+    Status marked = markLayers(options, document, shots, work);
+    if (marked.ok()) outcome = interpret(options, shots, work);
+    return marked;
+  });
   if (!status.ok()) return failed(status.message());
-  const ProfileOutcome outcome = interpret(options, shots, interpretation);
-  if (!outcome.built)
+  const Interpretation& interpretation = *project.interpretation;
+  if (!outcome.built) {
     return failed(reasonOf(outcome, shotPairReach(shots, interpretation.ttLayer, 2)));
+  }
   // What is left out or replaced is told even who wants to hear nothing else.
   for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
   status = prepareReport(options, document);

@@ -14,6 +14,7 @@
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
 #include "processing/ShotTime.h"
+#include "session/TableRules.h"
 
 #include <algorithm>
 #include <ostream>
@@ -88,18 +89,23 @@ Status placeShots(const ShotOptions& options, TomoDocument& document) {
 
 /// Shots at 0 under geophones with elevations would pull the ground down to them. Those that a file
 /// of positions puts there stay.
-void levelShots(const ShotOptions& options, const PickingManner& manner, TomoDocument& document) {
-  SurveyGeometry geometry = geometryOf(document);
+Status levelShots(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+  SurveyGeometry geometry = geometryOf(survey.document);
   const std::size_t off = shotsNotLevelled(geometry).size();
-  if (off == 0) return;
+  if (off == 0) return {};
   if (!options.shots.empty()) {
     warn(options.shots + ": all shots are at elevation 0, the geophones are not; they stay there");
-    return;
+    return {};
   }
   interpolateShotElevations(geometry);
-  applyGeometry(geometry, document);
+  const Status moved = editSurvey(Edit::kGeometry, survey, [&](Survey& next) {
+    applyGeometry(geometry, next.document);
+    return Status();
+  });
+  if (!moved.ok()) return moved;
   *manner.summary << "All shots are at elevation 0, the geophones are not: " << off
                   << " shots were put on the line of the geophones.\n";
+  return {};
 }
 
 /// The screening goes by distances, and without them removes every pick.
@@ -120,18 +126,24 @@ void warnOfHeap(const TomoDocument& document) {
   }
 }
 
-void startAtShot(const ShotOptions& options, const PickingManner& manner, TomoDocument& document) {
+Status startAtShot(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+  const std::vector<TraceSet>& traceSets = survey.document.recordings->traceSets;
   const auto early = [](const Trace& trace) { return trace.delay < 0.0; };
-  const bool anyEarly =
-      std::any_of(document.recordings->traceSets.begin(), document.recordings->traceSets.end(),
-                  [&](const TraceSet& set) { return std::any_of(set.begin(), set.end(), early); });
-  if (!anyEarly) return;
+  const bool anyEarly = std::any_of(traceSets.begin(), traceSets.end(), [&](const TraceSet& set) {
+    return std::any_of(set.begin(), set.end(), early);
+  });
+  if (!anyEarly) return {};
   std::ostream& out = *manner.summary;
   if (options.asRecorded) {
     out << "Records start before the shot; times count from their first sample, as asked for.\n";
-    return;
+    return {};
   }
-  const ShotTimeOutcome outcome = countTimeFromShot(document);
+  ShotTimeOutcome outcome;
+  const Status counted = editSurvey(Edit::kShotTime, survey, [&](Survey& next) {
+    outcome = countTimeFromShot(next.document);
+    return Status();
+  });
+  if (!counted.ok()) return counted;
   if (outcome.shortened > 0) {
     out << "Records start before the shot: up to " << outcome.mostDropped
         << " samples were left out of " << outcome.shortened
@@ -142,16 +154,21 @@ void startAtShot(const ShotOptions& options, const PickingManner& manner, TomoDo
          " traces end before the shot, or their delay is no number of samples; their times count "
          "from the first sample");
   }
+  return {};
 }
 
-Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots,
-              TomoDocument& document) {
+Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots, Survey& survey) {
   FilterOutcome outcome;
-  if (options.filter == PickFilter::kAgc) outcome = agcShots(document, shots);
-  if (options.filter == PickFilter::kHushel) outcome = reduceNoise(document, shots);
-  if (options.filter == PickFilter::kBand) {
-    outcome = bandFilterShots(document, shots, options.band);
-  }
+  const Status done = editSurvey(Edit::kFilter, survey, [&](Survey& next) {
+    TomoDocument& document = next.document;
+    if (options.filter == PickFilter::kAgc) outcome = agcShots(document, shots);
+    if (options.filter == PickFilter::kHushel) outcome = reduceNoise(document, shots);
+    if (options.filter == PickFilter::kBand) {
+      outcome = bandFilterShots(document, shots, options.band);
+    }
+    return Status();
+  });
+  if (!done.ok()) return done;
   if (outcome.failed == 0) return {};
   if (outcome.filtered == 0) return outcome.status;
   warn(std::to_string(outcome.failed) + " of " + std::to_string(outcome.failed + outcome.filtered) +
@@ -174,13 +191,13 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
 
 }  // namespace
 
-Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
-                     TomoDocument& document) {
+Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+  TomoDocument& document = survey.document;
   Status status = load(options.files, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
+  if (status.ok()) status = levelShots(options, manner, survey);
   if (!status.ok()) return status;
-  levelShots(options, manner, document);
 
   std::vector<std::int32_t> shots;
   for (std::size_t i = 0; i < document.recordings->traceSets.size(); ++i) {
@@ -188,10 +205,12 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
   }
   if (shots.empty()) return Status::failure("the shot files hold no traces");
   if (!manner.quiet) warnOfHeap(document);
-  startAtShot(options, manner, document);
-  status = filter(options, shots, document);
+  status = startAtShot(options, manner, survey);
+  if (status.ok()) status = filter(options, shots, survey);
   if (status.ok()) {
-    status = pickShots(document, shots, options.filter != PickFilter::kNone, manner.threads);
+    status = editSurvey(Edit::kAutoPick, survey, [&](Survey& next) {
+      return pickShots(next.document, shots, options.filter != PickFilter::kNone, manner.threads);
+    });
   }
   if (status.ok()) summarize(options, document, *manner.summary);
   return status;
@@ -199,7 +218,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
 
 Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
                   LoadedProject& project) {
-  if (file.empty()) return pickShotFiles(shots, manner, project.document);
+  if (file.empty()) return pickShotFiles(shots, manner, project);
   if (isProjectFile(file)) return readProject(file, project);
   TravelTimeData data;
   const Status status = readPicks(file, data);

@@ -11,6 +11,7 @@
 namespace talvesk {
 
 struct LoadedProject;
+struct Survey;
 
 /// How talvesk-batch goes about it, apart from the options of the shot files.
 struct PickingManner {
@@ -19,12 +20,11 @@ struct PickingManner {
   std::ostream* summary = nullptr;  ///< what the user came to know
 };
 
-/// Loads shot files into an empty document, takes positions from geometry files, counts time from
+/// Loads shot files into an empty survey, takes positions from geometry files, counts time from
 /// the shot, filters, picks every trace and screens every shot. One file that cannot be read, or
 /// geometry that does not fit the files, fails the whole: a survey with a shot missing would be
 /// another survey.
-Status pickShotFiles(const ShotOptions& options, const PickingManner& manner,
-                     TomoDocument& document);
+Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey);
 
 /// A survey with picks: that of the project or travel-time file, or without one that of
 /// pickShotFiles(). What only a project holds is left as it was by the others.

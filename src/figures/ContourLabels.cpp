@@ -2,7 +2,7 @@
 
 #include "figures/FigureFile.h"
 #include "figures/FigureItem.h"
-#include "figures/SectionFigure.h"
+#include "figures/SectionFigureOptions.h"
 #include "view/SectionScene.h"
 
 #include <QFont>

@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
-#include <utility>
 #include <vector>
 
 #include <qwt_legend.h>
@@ -50,9 +49,6 @@ class NumberScaleDraw : public QwtScaleDraw {
 /// to the sheet.
 class FigurePlot::Renderer : public QwtPlotRenderer {
  public:
-  Renderer(int besideAxis, const PaintBeside& paintBeside)
-      : mBesideAxis(besideAxis), mPaintBeside(paintBeside) {}
-
   void measureOnly() { mMeasureOnly = true; }
 
   /// Qwt shortens a scale whose end labels it cannot seat. These labels have room; every scale is
@@ -69,7 +65,6 @@ class FigurePlot::Renderer : public QwtPlotRenderer {
       place.setTop(canvas.top() - startDist);
       place.setBottom(canvas.bottom() + endDist);
     }
-    if (axis == mBesideAxis && mPaintBeside) mPaintBeside(*painter, rect, canvas);
     QwtPlotRenderer::renderScale(plot, painter, axis, startDist, endDist, baseDist, place);
   }
 
@@ -105,8 +100,6 @@ class FigurePlot::Renderer : public QwtPlotRenderer {
   }
 
  private:
-  const int mBesideAxis;
-  const PaintBeside& mPaintBeside;
   bool mMeasureOnly = false;
   mutable QwtScaleMap mXMap;
   mutable QwtScaleMap mYMap;
@@ -197,17 +190,12 @@ void FigurePlot::add(QwtPlotItem* item) {
   item->attach(mPlot.get());
 }
 
-void FigurePlot::setPaintBeside(int axis, PaintBeside paint) {
-  mBesideAxis = axis;
-  mPaintBeside = std::move(paint);
-}
-
 PlotPlace FigurePlot::measure(double widthMm, double heightMm) {
   const double perMm = pointsPerMm();
   QImage sheet(1, 1, QImage::Format_RGB32);
   setResolution(sheet, mPlot->logicalDpiX());
   QPainter painter(&sheet);
-  Renderer renderer(mBesideAxis, mPaintBeside);
+  Renderer renderer;
   renderer.measureOnly();
   mPlot->resize(static_cast<int>(widthMm * perMm), static_cast<int>(heightMm * perMm));
   renderer.render(mPlot.get(), &painter, QRectF(0, 0, widthMm * perMm, heightMm * perMm));
@@ -239,7 +227,7 @@ Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, doubl
 }
 
 PlotPlace FigurePlot::paint(QPainter& painter, const QRectF& sheet, double widthMm) {
-  Renderer renderer(mBesideAxis, mPaintBeside);
+  Renderer renderer;
   renderer.render(mPlot.get(), &painter, sheet);
   const double points = sheet.width() * mPlot->logicalDpiX() / painter.device()->logicalDpiX();
   PlotPlace place = renderer.place(widthMm / points);

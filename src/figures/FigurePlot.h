@@ -63,11 +63,6 @@ class FigurePlot {
   /// The plot owns the item from here on.
   void add(QwtPlotItem* item);
 
-  /// Paints something between the canvas and the numbers of the right or the upper axis, which
-  /// leave it room by their margin.
-  using PaintBeside = std::function<void(QPainter&, const QRectF& axis, const QRectF& canvas)>;
-  void setPaintBeside(int axis, PaintBeside paint);
-
   /// Lays the plot out on a sheet. The place depends on scales and texts, which are set before.
   PlotPlace measure(double widthMm, double heightMm);
 
@@ -84,8 +79,6 @@ class FigurePlot {
  private:
   class Renderer;
   std::unique_ptr<QwtPlot> mPlot;
-  PaintBeside mPaintBeside;
-  int mBesideAxis = -1;
 };
 
 /// Numbers in a file look the same whatever the user's language.

@@ -3,7 +3,6 @@
 #include "base/TextNumber.h"
 #include "view/SectionTexts.h"
 
-#include <QStringList>
 #include <cmath>
 
 namespace talvesk {
@@ -11,6 +10,11 @@ namespace {
 
 QString qt(const std::string& utf8) {
   return QString::fromStdString(utf8);
+}
+
+/// A number as formatDouble() writes it, with the decimal point of a locale.
+QString number(const std::string& digits, const QLocale& locale) {
+  return qt(digits).replace(QLatin1Char('.'), locale.decimalPoint());
 }
 
 }  // namespace
@@ -53,13 +57,14 @@ QString FigureWords::computedTimes(std::size_t count) {
   return count == 1 ? tr("1 computed time") : tr("%1 computed times").arg(count);
 }
 
-QString FigureWords::misfit(const SectionMisfit& misfit) {
+QString FigureWords::misfit(const SectionMisfit& misfit, const QLocale& locale) {
   return tr("RMS misfit %1 ms, %2 %")
-      .arg(qt(formatDouble(1e3 * misfit.rmse, 3)), qt(formatDouble(1e2 * misfit.relativeRms, 3)));
+      .arg(number(formatDouble(1e3 * misfit.rmse, 3), locale),
+           number(formatDouble(1e2 * misfit.relativeRms, 3), locale));
 }
 
-QString FigureWords::lastPassMisfit(double percent) {
-  return tr("last solver pass %1 %").arg(qt(formatDouble(percent, 3)));
+QString FigureWords::lastPassMisfit(double percent, const QLocale& locale) {
+  return tr("last solver pass %1 %").arg(number(formatDouble(percent, 3), locale));
 }
 
 QString FigureWords::picksChanged() {
@@ -74,34 +79,45 @@ QString FigureWords::oldRefractor(std::size_t index) {
   return tr("Refractor %1 (picks have changed since)").arg(index + 1);
 }
 
-QString FigureWords::sectionCaption(const SectionScene& scene, double verticalExaggeration) {
+QString FigureWords::exaggeration(double factor, const QLocale& locale) {
+  if (std::abs(factor - 1.0) <= 1e-9) return {};
+  std::string digits = formatDouble(factor, 4);
+  if (digits.find_first_of(".e") == std::string::npos) digits += ".0";
+  return tr("Vertical exaggeration %1").arg(number(digits, locale));
+}
+
+QStringList FigureWords::sectionFacts(const SectionScene& scene, double verticalExaggeration,
+                                      const QLocale& locale) {
+  const auto text = [&locale](double value, double step) {
+    return number(valueText(value, step), locale);
+  };
   const double step = scene.range.span() / 100.0;
   QString unit = qt(quantityUnit(scene.quantity));
   if (!unit.isEmpty()) unit.prepend(QLatin1Char(' '));
-  QStringList parts;
+  QStringList facts;
   if (scene.fill != SectionFill::kNone) {
-    parts += tr("%1 %2 to %3", "quantity, least and greatest value with its unit")
-                 .arg(quantity(scene.quantity), qt(valueText(scene.dataRange.min, step)),
-                      qt(valueText(scene.dataRange.max, step)) + unit);
+    facts += tr("%1 %2 to %3", "quantity, least and greatest value with its unit")
+                 .arg(quantity(scene.quantity), text(scene.dataRange.min, step),
+                      text(scene.dataRange.max, step) + unit);
   }
   if (const double spacing = levelSpacing(scene.contourLevels); spacing > 0.0) {
-    parts += tr("Contours every %1").arg(qt(valueText(spacing, spacing / 10.0)) + unit);
+    facts += tr("Contours every %1").arg(text(spacing, spacing / 10.0) + unit);
   }
   if (!scene.rays.empty()) {
-    parts += scene.rays.size() == 1 ? tr("1 ray") : tr("%1 rays").arg(scene.rays.size());
+    facts += scene.rays.size() == 1 ? tr("1 ray") : tr("%1 rays").arg(scene.rays.size());
   }
-  if (scene.misfit.count > 0) parts += misfit(scene.misfit);
-  if (scene.picksChanged) parts += picksChanged();
-  if (scene.smoothed) parts += tr("smoothed since the inversion");
-  if (scene.lastPassPercent >= 0.0) parts += lastPassMisfit(scene.lastPassPercent);
-  if (std::abs(verticalExaggeration - 1.0) > 1e-9) {
-    QString factor = qt(formatDouble(verticalExaggeration, 4));
-    if (!factor.contains(QLatin1Char('.')) && !factor.contains(QLatin1Char('e'))) {
-      factor += QStringLiteral(".0");
-    }
-    parts += tr("Vertical exaggeration %1").arg(factor);
-  }
-  return joined(parts);
+  if (scene.misfit.count > 0) facts += misfit(scene.misfit, locale);
+  if (scene.picksChanged) facts += picksChanged();
+  if (scene.smoothed) facts += tr("smoothed since the inversion");
+  if (scene.lastPassPercent >= 0.0) facts += lastPassMisfit(scene.lastPassPercent, locale);
+  const QString factor = exaggeration(verticalExaggeration, locale);
+  if (!factor.isEmpty()) facts += factor;
+  return facts;
+}
+
+QString FigureWords::sectionTitle(const SectionScene& scene) {
+  const QString title = qt(scene.title).simplified();
+  return title.isEmpty() && scene.fill != SectionFill::kNone ? quantity(scene.quantity) : title;
 }
 
 QString FigureWords::joined(const QStringList& parts) {

@@ -3,12 +3,15 @@
 #include "view/SectionScene.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QString>
+#include <QStringList>
 #include <cstddef>
 
 namespace talvesk {
 
-/// The words on figures, in the language of the program. Numbers look the same in every language.
+/// The words on figures, in the language of the program. In files numbers look the same in every
+/// language; on the screen they are the locale's.
 struct FigureWords {
   Q_DECLARE_TR_FUNCTIONS(talvesk::FigureWords)
 
@@ -25,15 +28,23 @@ struct FigureWords {
   static QString picks(std::size_t count);
   static QString shots(std::size_t count);
   static QString computedTimes(std::size_t count);
-  static QString misfit(const SectionMisfit& misfit);  ///< "RMS misfit 1.21 ms, 2.34 %"
-  static QString lastPassMisfit(double percent);       ///< of the solver, before its last smoothing
-  static QString picksChanged();                       ///< since the section was inverted from them
-  static QString refractor(std::size_t index);         ///< "Refractor 1" for 0, the shallowest
-  static QString oldRefractor(std::size_t index);      ///< the same of a profile of other picks
+  static QString misfit(const SectionMisfit& misfit,
+                        const QLocale& locale = QLocale::c());  ///< "RMS misfit 1.21 ms, 2.34 %"
+  static QString lastPassMisfit(
+      double percent,
+      const QLocale& locale = QLocale::c());       ///< of the solver, before its last smoothing
+  static QString picksChanged();                   ///< since the section was inverted from them
+  static QString refractor(std::size_t index);     ///< "Refractor 1" for 0, the shallowest
+  static QString oldRefractor(std::size_t index);  ///< the same of a profile of other picks
 
+  /// "Vertical exaggeration 2.0": height of a metre over its width; empty for 1.
+  static QString exaggeration(double factor, const QLocale& locale = QLocale::c());
   /// What a reader must know of a section beside its axes: values shown, contour distance, number
-  /// of rays, misfit, and a vertical exaggeration (height of a metre over its width) other than 1.
-  static QString sectionCaption(const SectionScene& scene, double verticalExaggeration);
+  /// of rays, misfit, and a vertical exaggeration other than 1.
+  static QStringList sectionFacts(const SectionScene& scene, double verticalExaggeration,
+                                  const QLocale& locale = QLocale::c());
+  /// The title of a document without one: what the section shows. Empty when that is no value.
+  static QString sectionTitle(const SectionScene& scene);
   /// Puts parts of a caption into one line.
   static QString joined(const QStringList& parts);
 };

@@ -1,6 +1,7 @@
 #include "figures/SectionItems.h"
 
 #include "figures/FigureItem.h"
+#include "figures/SectionFigureOptions.h"
 #include "view/SectionScene.h"
 #include "view/SectionViewSettings.h"
 
@@ -10,7 +11,6 @@
 #include <cmath>
 
 #include <qwt_curve_fitter.h>
-#include <qwt_plot_grid.h>
 #include <qwt_scale_map.h>
 
 namespace talvesk::section_items {
@@ -22,11 +22,10 @@ constexpr double kOverlap = 1.0;
 
 class CellsPainter {
  public:
-  CellsPainter(const SectionScene& scene, const ColorTable& colors)
-      : mScene(scene), mColors(colors) {}
+  CellsPainter(const SectionScene& scene, const ColorTable& colors, const QTransform& map)
+      : mScene(scene), mColors(colors), mMap(map) {}
 
-  void operator()(QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
-                  const QRectF& /*canvas*/) const {
+  void paint(QPainter& painter) const {
     const bool vector = paintsVectors(painter);
     std::vector<QPainterPath> ofColor(static_cast<std::size_t>(mColors.size()));
     for (std::uint32_t row = 0; row < mScene.mesh.rows; ++row) {
@@ -37,7 +36,7 @@ class CellsPainter {
         while (end < mScene.mesh.columns && colorOf(row, end) == color) ++end;
         if (color < 0) continue;
         QPainterPath& path = ofColor[static_cast<std::size_t>(color)];
-        path.addPolygon(band(row, begin, end, xMap, yMap, vector));
+        path.addPolygon(band(row, begin, end, vector));
         path.closeSubpath();
       }
     }
@@ -45,7 +44,7 @@ class CellsPainter {
       QPolygonF outline;
       for (std::size_t i = 0; i < piece.pointCount; ++i) {
         const Point2D& p = mScene.bands.points[piece.firstPoint + i];
-        outline.append({xMap.transform(p.x), yMap.transform(p.z)});
+        outline.append(mMap.map(QPointF(p.x, p.z)));
       }
       QPainterPath& path = ofColor[static_cast<std::size_t>(piece.band)];
       path.addPolygon(outline);
@@ -78,12 +77,11 @@ class CellsPainter {
   /// Outline of the cells [begin, end) of a row. Thinned, it goes without the corners where it does
   /// not bend: smaller files, but no longer the very points of the rows above and below, by which
   /// pixels are shared out without a gap.
-  QPolygonF band(std::uint32_t row, std::uint32_t begin, std::uint32_t end, const QwtScaleMap& xMap,
-                 const QwtScaleMap& yMap, bool thin) const {
+  QPolygonF band(std::uint32_t row, std::uint32_t begin, std::uint32_t end, bool thin) const {
     QPolygonF outline;
     const auto add = [&](std::uint32_t line, std::uint32_t column) {
       const Point2D& p = mScene.mesh.corners[mScene.mesh.corner(line, column)];
-      const QPointF point(xMap.transform(p.x), yMap.transform(p.z));
+      const QPointF point = mMap.map(QPointF(p.x, p.z));
       const int n = outline.size();
       if (thin && n >= 2 && bendIsInvisible(outline[n - 2], outline[n - 1], point))
         outline.removeLast();
@@ -105,6 +103,7 @@ class CellsPainter {
 
   const SectionScene& mScene;
   const ColorTable& mColors;
+  QTransform mMap;
 };
 
 QPainterPath triangleOnTip(double size) {
@@ -133,6 +132,17 @@ double symbolSize(double size, const std::vector<Point2D>& points, const QwtScal
   if (points.size() < 2) return size;
   const double length = xMap.transform(points.back().x) - xMap.transform(points.front().x);
   return fittingMarkerSize(size, length / static_cast<double>(points.size() - 1));
+}
+
+/// Lines are thinned to this accuracy, in points of 1/96 inch: a twentieth of a millimetre.
+constexpr double kThinning = 0.2;
+
+template <typename Map>
+QPolygonF thinnedOver(const std::vector<Point2D>& points, Map map) {
+  QPolygonF line;
+  line.reserve(static_cast<int>(points.size()));
+  for (const Point2D& p : points) line.append(map(p));
+  return QwtWeedingCurveFitter(kThinning).fitCurve(line);
 }
 
 }  // namespace
@@ -174,48 +184,43 @@ QPainterPath symbol(Marker marker, double size) {
   return marker == Marker::kShot ? star(1.4 * size) : triangleOnTip(size);
 }
 
-/// Lines are thinned to this accuracy, in points of 1/96 inch: a twentieth of a millimetre.
-static constexpr double kThinning = 0.2;
-
 QPolygonF thinned(const std::vector<Point2D>& points, const QwtScaleMap& xMap,
                   const QwtScaleMap& yMap) {
-  QPolygonF line;
-  line.reserve(static_cast<int>(points.size()));
-  for (const Point2D& p : points) line.append({xMap.transform(p.x), yMap.transform(p.z)});
-  return QwtWeedingCurveFitter(kThinning).fitCurve(line);
+  return thinnedOver(
+      points, [&](const Point2D& p) { return QPointF(xMap.transform(p.x), yMap.transform(p.z)); });
 }
 
-QwtPlotItem* cells(const SectionScene& scene, const ColorTable& colors) {
-  return figureItem({}, kCellsLayer, CellsPainter(scene, colors));
+QPolygonF thinned(const std::vector<Point2D>& points, const QTransform& map) {
+  return thinnedOver(points, [&map](const Point2D& p) { return map.map(QPointF(p.x, p.z)); });
 }
 
-QwtPlotItem* gridLines() {
-  auto* grid = new QwtPlotGrid;
-  grid->setMajorPen(QPen(QColor(0, 0, 0, 70), 0.5));
-  grid->setZ(kCellsLayer + 5);
-  return grid;
+void paintCells(QPainter& painter, const SectionScene& scene, const ColorTable& colors,
+                const QTransform& map) {
+  CellsPainter(scene, colors, map).paint(painter);
 }
 
-QwtPlotItem* lines(const std::vector<std::vector<Point2D>>& polylines, const QString& name,
-                   const QColor& color, const LineStyle& style) {
-  QPen pen(color, style.width);
-  if (style.dashed) pen.setStyle(Qt::DashLine);
-  const auto paint = [polylines, pen](QPainter& painter, const QwtScaleMap& xMap,
-                                      const QwtScaleMap& yMap, const QRectF&) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(pen);
-    for (const auto& line : polylines) painter.drawPolyline(thinned(line, xMap, yMap));
-  };
-  QColor opaque = color;
-  opaque.setAlphaF(1.0);
-  QPen iconPen = pen;
-  iconPen.setColor(opaque);
-  const auto icon = [iconPen](QPainter& painter, const QSizeF& size) {
-    painter.setPen(iconPen);
-    painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
-  };
-  return figureItem(name, kRaysLayer, paint, icon);
+void paintRays(QPainter& painter, const SectionScene& scene, const QTransform& map) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(QColor::fromRgbF(0.0, 0.0, 0.0, rayOpacity(scene.rays.size())), 0.5));
+  for (const auto& ray : scene.rays) painter.drawPolyline(thinned(ray, map));
+}
+
+void paintContours(QPainter& painter, const SectionScene& scene, const ContourStyle& style,
+                   const QTransform& map) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  std::vector<QPolygonF> lines;
+  for (const ContourLine& contour : scene.contours) {
+    lines.push_back(thinned(contour.points, map));
+    if (contour.closed && !lines.back().isEmpty()) lines.back().append(lines.back().front());
+  }
+  if (!scene.rays.empty()) {  // else one could not tell them from rays
+    painter.setPen(QPen(QColor(255, 255, 255, 150), style.width + 1.6));
+    for (const QPolygonF& line : lines) painter.drawPolyline(line);
+  }
+  painter.setPen(QPen(toColor(style.color), style.width));
+  for (const QPolygonF& line : lines) painter.drawPolyline(line);
 }
 
 QwtPlotItem* markers(const std::vector<Point2D>& points, const QString& name, Marker marker,

@@ -8,6 +8,8 @@
 class QPainter;
 class QPainterPath;
 class QPolygonF;
+class QRectF;
+class QTransform;
 class QColor;
 class QString;
 class QwtPlotItem;
@@ -19,33 +21,26 @@ struct ContourStyle;
 struct SectionScene;
 enum class GeophoneMarkers;
 
-/// The layers of a section on a plot with distance below and elevation at the left. The plot that
-/// they are attached to owns them; scene and colours must outlive it.
+/// What fills the plot of a section in a file, and the marks that several figures have in common.
+/// `map` leads from survey positions (x, elevation) to the sheet, where lengths are points of 1/96
+/// inch.
 namespace section_items {
 
 /// The drawn cells, each in the colour of its class and without an outline; or, where the scene is
 /// filled so, the bands between its contour levels.
-QwtPlotItem* cells(const SectionScene& scene, const ColorTable& colors);
+void paintCells(QPainter& painter, const SectionScene& scene, const ColorTable& colors,
+                const QTransform& map);
 
 /// The values blended between the corners of the cells, each in the colour of its class. A picture
-/// of pixels, even in a vector file.
-QwtPlotItem* smoothCells(const SectionScene& scene, const ColorTable& colors);
+/// of pixels, even in a vector file. \param canvas that it fills
+void paintSmoothCells(QPainter& painter, const SectionScene& scene, const ColorTable& colors,
+                      const QTransform& map, const QRectF& canvas);
 
-/// Lines over the canvas at the numbers of both axes.
-QwtPlotItem* gridLines();
+void paintRays(QPainter& painter, const SectionScene& scene, const QTransform& map);
 
-/// The iso-lines with their values written into them.
-QwtPlotItem* contours(const SectionScene& scene, const ContourStyle& style);
-
-struct LineStyle {
-  double width = 1.0;  ///< points of 1/96 inch
-  bool dashed = false;
-};
-
-/// Polylines of one colour, with `name` in the legend. Points that lie on the line between their
-/// neighbours, as far as an eye can see, are left out.
-QwtPlotItem* lines(const std::vector<std::vector<Point2D>>& polylines, const QString& name,
-                   const QColor& color, const LineStyle& style);
+/// The iso-lines without their values.
+void paintContours(QPainter& painter, const SectionScene& scene, const ContourStyle& style,
+                   const QTransform& map);
 
 enum class Marker { kGeophone, kShot };
 
@@ -78,6 +73,7 @@ enum Layer { kCellsLayer = 10, kRaysLayer = 20, kContoursLayer = 30, kMarkersLay
 /// A line on the sheet without the points that no eye would miss.
 QPolygonF thinned(const std::vector<Point2D>& points, const QwtScaleMap& xMap,
                   const QwtScaleMap& elevationMap);
+QPolygonF thinned(const std::vector<Point2D>& points, const QTransform& map);
 
 }  // namespace section_items
 }  // namespace talvesk

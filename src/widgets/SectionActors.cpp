@@ -1,8 +1,8 @@
 #include "widgets/SectionActors.h"
 
+#include "figures/SectionCamera.h"
 #include "view/SectionScene.h"
 #include "view/SimplifiedLine.h"
-#include "widgets/SectionCamera.h"
 
 #include <algorithm>
 #include <cmath>

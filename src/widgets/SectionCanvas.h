@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/SectionCamera.h"
+#include "figures/SectionCamera.h"
 
 #include <QImage>
 #include <QSize>

@@ -1,25 +1,23 @@
 #pragma once
 
+#include "figures/SectionCamera.h"
+#include "figures/SectionPaper.h"
 #include "view/ColorPalette.h"
 #include "view/SectionScene.h"
 #include "view/SectionViewSettings.h"
-#include "widgets/SectionCamera.h"
 
-#include <QCoreApplication>
 #include <QFont>
-#include <QRectF>
+#include <QSizeF>
 #include <memory>
 
 class QPainter;
 
 namespace talvesk {
 
-/// The paper around and over the section: axes, title, colour bar and legend beside it; grid lines,
-/// markers, refractors, coverage limit and contour values on it. Painted over the picture of
-/// SectionActors, on the screen and in a file alike. Lengths are logical pixels.
+/// The paper of the section that a window shows: the scene with what the user chose about it.
+/// Painted over the picture of SectionActors, on the screen and in a screenshot alike. Lengths are
+/// logical pixels.
 class SectionSheet {
-  Q_DECLARE_TR_FUNCTIONS(talvesk::SectionSheet)
-
  public:
   void setScene(std::shared_ptr<const SectionScene> scene, const ColorPalette& palette,
                 const SectionViewSettings& settings);
@@ -27,23 +25,14 @@ class SectionSheet {
   const SectionViewSettings& settings() const { return mSettings; }
   const ColorTable& colors() const { return mColors; }
 
-  /// Where the section itself goes on a sheet of that size: 1 pixel wide and high at least, and of
-  /// whole pixels.
-  QRect plotRect(const QSizeF& size, const QFont& font) const;
-
-  /// The camera that brings the whole section into a plot of that size, seen from the front.
-  SectionCamera fittingCamera(double exaggeration, const QSizeF& plotSize) const;
-
-  /// Paints all but what the actors show, which must be in plotRect() already.
-  void paint(QPainter& painter, const QSizeF& size, const QFont& font,
-             const SectionCamera& camera) const;
+  /// The sheet's painter, for a scene that is there, as long as this one has it.
+  SectionPaper paper(const QFont& font) const;
 
  private:
   std::shared_ptr<const SectionScene> mScene;
   SectionViewSettings mSettings;
   ColorTable mColors{ColorPalette()};
-  Point2D mLow{0.0, 0.0};
-  Point2D mHigh{1.0, 1.0};
+  SectionExtent mExtent;
 };
 
 }  // namespace talvesk

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStackedLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -37,8 +38,9 @@ SectionOverlay::SectionOverlay(QWidget* parent, const SectionSheet& sheet,
 }
 
 void SectionOverlay::paintEvent(QPaintEvent*) {
+  if (mSheet.scene() == nullptr) return;
   QPainter painter(this);
-  mSheet.paint(painter, size(), font(), mCamera);
+  mSheet.paper(font()).paint(painter, size(), mCamera);
 }
 
 SectionView::SectionView(QWidget* parent) : QWidget(parent), mState(std::make_unique<State>()) {
@@ -63,7 +65,7 @@ void SectionView::layOutControls() {
   s.exaggeration = new QDoubleSpinBox(s.controls);
   s.exaggeration->setObjectName(QStringLiteral("exaggerationSpin"));
   s.exaggeration->setRange(SectionCamera::kMinExaggeration, SectionCamera::kMaxExaggeration);
-  s.exaggeration->setDecimals(1);
+  s.exaggeration->setDecimals(2);
   s.exaggeration->setSingleStep(0.5);
   s.exaggeration->setSuffix(QStringLiteral("\u00D7"));
   s.exaggeration->setValue(1.0);
@@ -189,7 +191,8 @@ QWidget* SectionView::sheet() const {
 }
 
 QRect SectionView::plotRect() const {
-  return mState->sheet.plotRect(mState->paper->size(), mState->overlay->font());
+  if (isEmpty()) return {0, 0, 1, 1};
+  return mState->sheetPaper().plotRect(mState->paper->size(), mState->camera.exaggeration);
 }
 
 QPointF SectionView::pointOf(const Point2D& position) const {
@@ -210,20 +213,14 @@ void SectionView::layOut() {
   State& s = *mState;
   s.overlay->setGeometry(s.paper->rect());
   if (isEmpty() || !s.canvas) return;
-  const QRect plot = plotRect();
-  s.canvas->widget()->setGeometry(plot);
-  if (s.fits) {
-    const SectionCamera front = s.camera;
-    s.camera = s.sheet.fittingCamera(front.exaggeration, plot.size());
-    s.camera.turn = front.turn;
-    s.camera.tilt = front.tilt;
-  }
+  s.canvas->widget()->setGeometry(plotRect());
   applyCamera();
 }
 
 void SectionView::applyCamera(bool moving) {
   State& s = *mState;
   if (isEmpty() || !s.canvas) return;
+  if (s.fits) s.sheetPaper().fit(s.camera, plotRect().size());
   s.canvas->setCamera(s.camera, moving);
   s.overlay->update();
   emit viewChanged();
@@ -241,7 +238,11 @@ void SectionView::setVerticalExaggeration(double factor) {
   State& s = *mState;
   const double before = s.camera.exaggeration;
   s.camera.setExaggeration(factor);
-  s.exaggeration->setValue(s.camera.exaggeration);
+  {
+    // The field rounds, which is not the user's choice.
+    const QSignalBlocker quiet(s.exaggeration);
+    s.exaggeration->setValue(s.camera.exaggeration);
+  }
   if (s.camera.exaggeration == before) return;
   layOut();
   emit exaggerationChanged(s.camera.exaggeration);
@@ -262,13 +263,16 @@ QImage SectionView::picture(const QSize& size, Part part, double ratio) const {
   const State& s = *mState;
   if (isEmpty() || size.isEmpty() || !(ratio >= 0.1 && ratio <= 10.0)) return {};
   if (std::max(size.width(), size.height()) * ratio > kMaxSide) return {};
-  const QFont font = s.overlay->font();
-  const QRect plot = s.sheet.plotRect(size, font);
-  SectionCamera camera = s.sheet.fittingCamera(s.camera.exaggeration, plot.size());
-  if (part == Part::kSeen) {
+  const SectionPaper paper = s.sheetPaper();
+  SectionCamera camera = s.camera;
+  const QRect plot = paper.plotRect(size, camera.exaggeration);
+  if (part == Part::kWhole) {
+    camera.turn = 0.0;
+    camera.tilt = 0.0;
+    paper.fit(camera, plot.size());
+  } else {
     // What fills the plot on the screen fills as much as it can of the other.
     const QSizeF seen = plotRect().size();
-    camera = s.camera;
     camera.metresPerPixel *= std::max(seen.width() / plot.width(), seen.height() / plot.height());
   }
   const QImage section =
@@ -281,7 +285,7 @@ QImage SectionView::picture(const QSize& size, Part part, double ratio) const {
   image.setDevicePixelRatio(ratio);
   QPainter painter(&image);
   painter.drawImage(QRectF(plot), section);
-  s.sheet.paint(painter, size, font, camera);
+  paper.paint(painter, size, camera);
   painter.end();
   return image;
 }

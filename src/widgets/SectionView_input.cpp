@@ -91,9 +91,9 @@ void SectionView::zoomBy(double factor, const QPointF& point) {
   State& s = *mState;
   const QSizeF size = plotRect().size();
   // Farther away, the section is a speck that nobody finds again.
-  const double farthest =
-      kFarthest * s.sheet.fittingCamera(s.camera.exaggeration, size).metresPerPixel;
-  const double least = std::min(s.camera.metresPerPixel / farthest, 1.0);
+  SectionCamera whole = s.camera;
+  s.sheetPaper().fit(whole, size);
+  const double least = std::min(s.camera.metresPerPixel / (kFarthest * whole.metresPerPixel), 1.0);
   s.camera.zoomAt(point, std::max(factor, least), size);
   s.fits = false;
   applyCamera(true);

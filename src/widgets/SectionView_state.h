@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/SectionCamera.h"
+#include "figures/SectionCamera.h"
 #include "widgets/SectionCanvas.h"
 #include "widgets/SectionSheet.h"
 #include "widgets/SectionView.h"
@@ -29,6 +29,8 @@ class SectionOverlay : public QWidget {
 };
 
 struct SectionView::State {
+  SectionPaper sheetPaper() const { return sheet.paper(overlay->font()); }  ///< of a scene
+
   SectionSheet sheet;
   SectionCamera camera;
   std::unique_ptr<SectionCanvas> canvas;  ///< none before the first section

@@ -1,6 +1,6 @@
 #include "widgets/TraceAxes.h"
 
-#include "widgets/AxisTicks.h"
+#include "view/AxisTicks.h"
 #include "widgets/TraceGuides.h"
 #include "widgets/TraceTags.h"
 

@@ -25,7 +25,7 @@ SectionScene sceneOf(const TomoDocument& document, const SectionSceneOptions& op
 }
 
 std::string captionOf(const SectionScene& scene, double exaggeration) {
-  return FigureWords::sectionCaption(scene, exaggeration).toStdString();
+  return FigureWords::joined(FigureWords::sectionFacts(scene, exaggeration)).toStdString();
 }
 
 TEST(FigureWords, theCaptionStatesWhatTheReaderCannotSee) {

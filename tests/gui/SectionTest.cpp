@@ -1,10 +1,11 @@
+#include "figures/SectionCamera.h"
 #include "figures/SectionFigure.h"
+#include "figures/SectionPaper.h"
 #include "gui/WindowTest.h"
 #include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
 #include "view/SectionScene.h"
-#include "widgets/SectionCamera.h"
 #include "widgets/SectionView.h"
 
 #include <QApplication>
@@ -248,6 +249,46 @@ TEST_F(Section, isExaggeratedAsAskedAndTurnedOnlyWhenAsked) {
   EXPECT_NE(view().camera().turn, 0.0);
   child<QToolButton>("turnButton").click();
   EXPECT_EQ(view().camera().turn, 0.0);
+}
+
+TEST_F(Section, keepsAnExaggerationThatItsFieldCannotShow) {
+  openWith(sectionDocument(12, 40, 0.0, patchwork));
+  view().setVerticalExaggeration(2.125);
+  EXPECT_EQ(view().verticalExaggeration(), 2.125);
+  action("actionSmooth_view").trigger();  // the settings have followed
+  EXPECT_EQ(view().verticalExaggeration(), 2.125);
+}
+
+TEST_F(Section, isTurnedWithinThePlotWhateverTheSizeOfTheWindow) {
+  openWith(sectionDocument(12, 40, 1.5, patchwork));
+  view().setVerticalExaggeration(3.0);
+  view().setTurning(true);
+  const auto isWhole = [this] {
+    const QRectF plot(view().plotRect());
+    const SectionExtent all(*view().scene());
+    for (const double x : {all.low.x, all.high.x}) {
+      for (const double z : {all.low.z, all.high.z}) {
+        if (!plot.contains(view().pointOf({x, z}))) return false;
+      }
+    }
+    return true;
+  };
+  for (const QSize& size : {QSize(700, 400), QSize(1100, 700), QSize(1600, 1000)}) {
+    window->resize(size);
+    QApplication::processEvents();
+    for (const QPointF& by : {QPointF(-60.0, 50.0), QPointF(-50.0, 60.0), QPointF(200.0, -30.0)}) {
+      const QPoint from = view().plotRect().center();
+      QTest::mousePress(view().sheet(), Qt::LeftButton, {}, from);
+      moveTo(from + by, Qt::LeftButton);
+      QTest::mouseRelease(view().sheet(), Qt::LeftButton);
+      EXPECT_NE(view().camera().turn, 0.0);
+      EXPECT_TRUE(isWhole()) << size.width() << ", " << view().camera().turn;
+    }
+  }
+  view().zoomIn();  // what the user looks at stays from now on
+  const double zoomed = view().camera().metresPerPixel;
+  QTest::keyClick(view().sheet(), Qt::Key_Left);
+  EXPECT_EQ(view().camera().metresPerPixel, zoomed);
 }
 
 /// The picture of `figures`, and where a position lies in it.

@@ -1,8 +1,8 @@
+#include "figures/SectionCamera.h"
 #include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
 #include "view/SectionScene.h"
 #include "widgets/SectionActors.h"
-#include "widgets/SectionCamera.h"
 
 #include <gtest/gtest.h>
 #include <vtkActor.h>

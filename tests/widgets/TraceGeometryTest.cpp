@@ -1,4 +1,4 @@
-#include "widgets/AxisTicks.h"
+#include "view/AxisTicks.h"
 #include "widgets/RowExtremes.h"
 #include "widgets/TraceLayout.h"
 #include "widgets/TraceMapping.h"

@@ -1,4 +1,4 @@
-#include "widgets/SectionCamera.h"
+#include "figures/SectionCamera.h"
 
 #include <algorithm>
 #include <cmath>
@@ -25,20 +25,18 @@ QTransform SectionCamera::toPicture(const QSizeF& size) const {
           0.5 * size.height() - down * centre.x + up * centre.z};
 }
 
-SectionCamera SectionCamera::fitting(const Point2D& lowerLeft, const Point2D& upperRight,
-                                     double exaggeration, const QSizeF& size,
-                                     const Padding& padding) {
-  SectionCamera camera;
-  camera.exaggeration = exaggeration;
+void SectionCamera::fit(const Point2D& lowerLeft, const Point2D& upperRight, const QSizeF& size,
+                        const Padding& padding) {
   const double width = std::max(size.width() - 2.0 * padding.side, 1.0);
   const double height = std::max(size.height() - padding.top - padding.bottom, 1.0);
-  const double across = std::max(upperRight.x - lowerLeft.x, 1e-3);
+  const double along = std::max(upperRight.x - lowerLeft.x, 1e-3);
   const double down = std::max(upperRight.z - lowerLeft.z, 1e-3);
-  camera.metresPerPixel = std::max(across / width, down * exaggeration / height);
-  camera.centre = {0.5 * (lowerLeft.x + upperRight.x),
-                   0.5 * (lowerLeft.z + upperRight.z) +
-                       0.5 * (padding.top - padding.bottom) * camera.metresPerPixel / exaggeration};
-  return camera;
+  metresPerPixel = 1.0;
+  centre = {0.5 * (lowerLeft.x + upperRight.x), 0.5 * (lowerLeft.z + upperRight.z)};
+  const QRectF picture =
+      toPicture(size).mapRect(QRectF(lowerLeft.x, lowerLeft.z, along, down));  // one pixel a metre
+  metresPerPixel = std::max(picture.width() / width, picture.height() / height);
+  pan({0.0, 0.5 * (padding.top - padding.bottom)});
 }
 
 void SectionCamera::zoomAt(const QPointF& point, double factor, const QSizeF& size) {

@@ -21,18 +21,20 @@ struct SectionCamera {
   double turn = 0.0;            ///< degrees about the vertical
   double tilt = 0.0;            ///< degrees about the line, seen from above
 
+  bool isTurned() const { return turn != 0.0 || tilt != 0.0; }
+
   /// From survey positions (x, elevation) to a picture of that size, y downward.
   QTransform toPicture(const QSizeF& size) const;
 
-  /// The camera that shows a rectangle as large as it fits in, in the middle, seen from the front.
-  /// The paddings are pixels inside the picture.
-  struct Padding {
+  struct Padding {  ///< pixels inside the picture
     double side = 10.0;
     double top = 26.0;  ///< markers stand above the ground
     double bottom = 10.0;
   };
-  static SectionCamera fitting(const Point2D& lowerLeft, const Point2D& upperRight,
-                               double exaggeration, const QSizeF& size, const Padding& padding);
+  /// Moves so that a rectangle is seen as large as it fits in, in the middle; exaggerated and
+  /// turned as before.
+  void fit(const Point2D& lowerLeft, const Point2D& upperRight, const QSizeF& size,
+           const Padding& padding);
 
   void zoomAt(const QPointF& point, double factor, const QSizeF& size);  ///< `point` stays in place
   void pan(const QPointF& by);                ///< pixels that the picture moves

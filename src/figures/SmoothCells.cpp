@@ -5,10 +5,9 @@
 #include <QColor>
 #include <QImage>
 #include <QPainter>
+#include <QTransform>
 #include <algorithm>
 #include <cmath>
-
-#include <qwt_scale_map.h>
 
 namespace talvesk::section_items {
 namespace {
@@ -19,14 +18,12 @@ constexpr double kPixelsPerPoint = 3.0;  ///< in vector files, some 290 per inch
 /// its cell. Pixels outside the drawn cells stay clear.
 class PixelPainter {
  public:
-  /// \param toSheet from pixels to the sheet
-  PixelPainter(const SectionScene& scene, const ColorTable& colors, const QwtScaleMap& xMap,
-               const QwtScaleMap& yMap, const QTransform& toSheet, QImage& image)
+  /// \param map from survey positions to the sheet \param toSheet from pixels to it
+  PixelPainter(const SectionScene& scene, const ColorTable& colors, const QTransform& map,
+               const QTransform& toSheet, QImage& image)
       : mScene(scene),
-        mXMap(xMap),
-        mYMap(yMap),
-        mToSheet(toSheet),
-        mFromSheet(toSheet.inverted()),
+        mToPixels(map * toSheet.inverted()),
+        mFromPixels(mToPixels.inverted()),
         mImage(image) {
     for (int i = 0; i < colors.size(); ++i) mColors.push_back(toColor(colors[i]).rgb());
     mTable = &colors;
@@ -37,7 +34,7 @@ class PixelPainter {
     const double left = mesh.corners[mesh.corner(0, 0)].x;
     const double right = mesh.corners[mesh.corner(0, mesh.columns)].x;
     for (int px = 0; px < mImage.width(); ++px) {
-      const double x = mXMap.invTransform(mToSheet.map(QPointF(px + 0.5, 0.0)).x());
+      const double x = mFromPixels.map(QPointF(px + 0.5, 0.0)).x();
       const double along = (x - left) / (right - left) * mesh.columns;
       if (!(along >= 0.0 && along < mesh.columns)) continue;
       const auto column = static_cast<std::uint32_t>(along);
@@ -58,8 +55,8 @@ class PixelPainter {
     const std::size_t b = mScene.mesh.corner(line, column + 1);
     const auto mix = [f](double from, double to) { return from + f * (to - from); };
     const double z = mix(mScene.mesh.corners[a].z, mScene.mesh.corners[b].z);
-    const QPointF sheet(0.0, mYMap.transform(z));
-    return {mFromSheet.map(sheet).y(), mix(mScene.cornerValues[a], mScene.cornerValues[b])};
+    return {mToPixels.map(QPointF(0.0, z)).y(),
+            mix(mScene.cornerValues[a], mScene.cornerValues[b])};
   }
 
   void paintCell(int px, std::uint32_t row, std::uint32_t column, double f) {
@@ -75,10 +72,8 @@ class PixelPainter {
   }
 
   const SectionScene& mScene;
-  const QwtScaleMap& mXMap;
-  const QwtScaleMap& mYMap;
-  QTransform mToSheet;
-  QTransform mFromSheet;
+  QTransform mToPixels;  ///< from survey positions
+  QTransform mFromPixels;
   QImage& mImage;
   const ColorTable* mTable = nullptr;
   std::vector<QRgb> mColors;
@@ -86,24 +81,21 @@ class PixelPainter {
 
 }  // namespace
 
-QwtPlotItem* smoothCells(const SectionScene& scene, const ColorTable& colors) {
-  const auto paint = [&scene, &colors](QPainter& painter, const QwtScaleMap& xMap,
-                                       const QwtScaleMap& yMap, const QRectF& canvas) {
-    // On a device of pixels, those of the image are its own.
-    const QTransform toDevice = paintsVectors(painter)
-                                    ? QTransform::fromScale(kPixelsPerPoint, kPixelsPerPoint)
-                                    : painter.deviceTransform();
-    const QRect pixels = toDevice.mapRect(canvas).toAlignedRect();
-    QImage image(pixels.size(), QImage::Format_ARGB32);
-    if (image.isNull() || scene.mesh.columns == 0) return;
-    image.fill(Qt::transparent);
-    const QTransform toSheet =
-        QTransform::fromTranslate(pixels.left(), pixels.top()) * toDevice.inverted();
-    PixelPainter(scene, colors, xMap, yMap, toSheet, image).paint();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
-    painter.drawImage(toSheet.mapRect(QRectF(image.rect())), image);
-  };
-  return figureItem({}, kCellsLayer, paint);
+void paintSmoothCells(QPainter& painter, const SectionScene& scene, const ColorTable& colors,
+                      const QTransform& map, const QRectF& canvas) {
+  // On a device of pixels, those of the image are its own.
+  const QTransform toDevice = paintsVectors(painter)
+                                  ? QTransform::fromScale(kPixelsPerPoint, kPixelsPerPoint)
+                                  : painter.deviceTransform();
+  const QRect pixels = toDevice.mapRect(canvas).toAlignedRect();
+  QImage image(pixels.size(), QImage::Format_ARGB32);
+  if (image.isNull() || scene.mesh.columns == 0) return;
+  image.fill(Qt::transparent);
+  const QTransform toSheet =
+      QTransform::fromTranslate(pixels.left(), pixels.top()) * toDevice.inverted();
+  PixelPainter(scene, colors, map, toSheet, image).paint();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+  painter.drawImage(toSheet.mapRect(QRectF(image.rect())), image);
 }
 
 }  // namespace talvesk::section_items

@@ -1,4 +1,4 @@
-#include "widgets/AxisTicks.h"
+#include "view/AxisTicks.h"
 
 #include "base/RoundStep.h"
 

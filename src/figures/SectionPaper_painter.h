@@ -1,0 +1,77 @@
+#pragma once
+
+#include "figures/SectionCamera.h"
+#include "figures/SectionPaper_layout.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTransform>
+#include <functional>
+#include <vector>
+
+namespace talvesk {
+
+/// Paints one sheet, part by part.
+class SectionPaperPainter {
+ public:
+  SectionPaperPainter(const SectionScene& scene, const SectionExtent& extent,
+                      const ColorTable& colors, const SectionDress& dress, QPainter& painter,
+                      const QSizeF& size, const SectionCamera& camera);
+
+  void paintMarks();  ///< what lies on the section; within the plot
+  void paintMargins();
+  void paintAxes();
+  void paintColorBar();
+  void paintTitle();
+  void paintWords();
+
+  std::vector<PlacedText> texts;  ///< painted so far
+
+ private:
+  /// One axis: marks from its line outwards, numbers beyond them, the title along its middle.
+  struct Axis {
+    AxisTicks ticks;
+    std::function<QPointF(double)> at;  ///< on the line
+    QPointF outward;                    ///< unit vector
+    QRectF room;                        ///< that its words keep to
+    QString title;
+    QPointF titleMiddle;
+    double titleAngle = 0.0;  ///< degrees
+  };
+
+  QRectF visible() const;  ///< survey x and elevation in the plot; top() is the lower elevation
+  QRectF axisRoom() const;
+  AxisTicks distanceTicks() const;
+  AxisTicks elevationTicks() const;
+  Axis distanceAxis() const;
+  Axis elevationAxis() const;
+  QPointF distancePoint(double x) const;
+  double elevationLine() const;  ///< x of the elevation axis on the sheet
+  void paintAxis(const Axis& axis);
+  void paintFrame();
+  QPolygonF outlineOf(const QString& text, const QPointF& middle, double angle) const;
+  /// Unless a text is there already, or there is no room for it.
+  void putWithin(const QRectF& room, const QString& text, const QPointF& middle,
+                 double angle = 0.0);
+  void put(const QString& text, const QPointF& middle, double angle = 0.0);
+
+  void paintGridLines();
+  void paintLines();
+  void paintContourValues();
+  void paintMarkers();
+
+  const SectionScene& mScene;
+  const SectionExtent& mExtent;
+  const ColorTable& mColors;
+  const SectionDress& mDress;
+  QPainter& mPainter;
+  QSizeF mSize;
+  SectionCamera mCamera;
+  SectionPaperLayout mLayout;
+  QRectF mPlot;
+  QTransform mMap;  ///< survey positions to the sheet
+  QFontMetricsF mMetrics;
+  double mLine;  ///< height of a line of text
+};
+
+}  // namespace talvesk
