@@ -1,23 +1,21 @@
 #include "app/Talvesk_MainWindows.h"
 
 #include "app/CommandIcons.h"
-#include "app/GuideWindow.h"
-#include "app/HelpKey.h"
 #include "app/KeypadArrows.h"
-#include "app/Messages.h"
-#include "app/SettingsDialog.h"
+#include "app/WindowPlace.h"
+#include "app/presenters/CommandTable.h"
+#include "app/presenters/Presenters.h"
+#include "io/FileFormats.h"
 #include "ui_Talvesk_MainWindows.h"
-#include "widgets/SectionView.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/editTravelTimesWidget.h"
 
-#include <QActionGroup>
-#include <QApplication>
+#include <QAction>
 #include <QCloseEvent>
-#include <QComboBox>
-#include <QLabel>
-#include <QScreen>
-#include <QSettings>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QUrl>
+#include <algorithm>
 
 namespace talvesk {
 namespace {
@@ -25,176 +23,94 @@ namespace {
 /// Share of the width that the traces get; the travel times have the rest.
 constexpr double kTracesShare = 0.618;
 
-/// Share of the screen, either way, that a window without a remembered place fills at most.
-constexpr double kMostOfScreen = 0.95;
-
-/// A window that was left on a larger screen must not reach beyond this one.
-void bringIntoSight(QWidget& window) {
-  const QRect room = window.screen()->availableVirtualGeometry();
-  if (window.isMaximized() || window.isFullScreen()) return;
-  if (window.width() <= room.width() && window.height() <= room.height()) return;
-  window.resize(window.size().boundedTo(room.size() * kMostOfScreen));
-  window.move(room.center() - window.rect().center());
-}
-
 }  // namespace
 
 Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
-    : QMainWindow(parent),
-      mUi(std::make_unique<Ui::Talvesk_MainWindows>()),
-      mFolder(WorkingFolder::ofUser()),
-      mSettings(mFolder.settings),
-      mFolders(History(mFolder.history)),
-      mRecent(windowStateFile()),
-      mRecovery(QString::fromStdString(mFolder.path)) {
+    : QMainWindow(parent), mUi(std::make_unique<Ui::Talvesk_MainWindows>()) {
   mUi->setupUi(this);
   setCommandIcons(*this);
-  addShotChooser();
-  addMisfitLabel();
-  addRecentMenu();
-  groupActions();
+  mDesk = std::make_unique<Desk>(*this, *mUi);
+  mPresenters = std::make_unique<Presenters>(*mDesk);
+  mCommands = std::make_unique<CommandTable>(*mDesk, commandRows(*mDesk, *mPresenters));
   addKeys();
-  startLog();
-  loadSettings();
-  connectViews();
-  connectPlots();
-  connectSection();
   connectCommands();
-  prepareAutosave();
-  new HelpKey([this](const QString& page) { openUserGuide(page); }, this);
+  connectViews();
+  connectPresenters();
+  mUi->menuView->addSeparator();
+  mUi->menuView->addAction(mUi->mainToolBar->toggleViewAction());
+  mUi->menuView->addAction(mUi->toolBar->toggleViewAction());
   mUi->showTracesWidget_2->hide();
   mUi->tabWidget->setCurrentIndex(0);
   retranslate();
-  restoreWindow();
-  mSubscription = mSession.subscribe([this](const SurveyChange& change) { surveyChanged(change); });
-  mSession.open({}, true);
-}
-
-QString Talvesk_MainWindows::windowStateFile() const {
-  return QString::fromStdString(mFolder.path) + QStringLiteral("Talvesk_window.ini");
+  restorePlace(*this, mDesk->windowStateFile());
+  session().open({}, true);
 }
 
 Talvesk_MainWindows::~Talvesk_MainWindows() {
   // The views are children and go last; what they say then finds no window any more.
-  for (editTravelTimesWidget* editor : editors()) {
-    editor->disconnect(this);
+  for (editTravelTimesWidget* editor : mDesk->editors()) editor->disconnect(this);
+}
+
+// --- The window from outside
+
+void Talvesk_MainWindows::start(const QStringList& files) {
+  mPresenters->settings.askAtFirstRun();
+  mPresenters->recovery.offer();
+  openFiles(files);
+}
+
+void Talvesk_MainWindows::autosave() {
+  mPresenters->recovery.autosave();
+}
+
+void Talvesk_MainWindows::leaveRecoveryCopy() {
+  mPresenters->recovery.leaveCopy();
+}
+
+bool Talvesk_MainWindows::askGeometry() {
+  return mPresenters->geometry.ask();
+}
+
+const TomoDocument& Talvesk_MainWindows::document() const {
+  return mDesk->document();
+}
+
+Session& Talvesk_MainWindows::session() {
+  return mDesk->session;
+}
+
+const Settings& Talvesk_MainWindows::settings() const {
+  return mDesk->settings;
+}
+
+int Talvesk_MainWindows::currentFile() const {
+  return mDesk->shot.index();
+}
+
+void Talvesk_MainWindows::showFile(int index) {
+  mDesk->shot.show(index);
+}
+
+void Talvesk_MainWindows::openFiles(const QStringList& files) {
+  if (files.isEmpty() || mDesk->inversionRuns) return;  // it may have begun since the drop
+  mDesk->logSlot(__func__);
+  mDesk->folders.opened(files.front());
+  QStringList shots;
+  QStringList travelTimes;
+  QStringList projects;
+  for (const QString& file : files) {
+    QStringList& kind = hasSuffixOf(projectFormat(), file.toStdString()) ? projects
+                        : looksLikeTravelTimes(file.toStdString())       ? travelTimes
+                                                                         : shots;
+    kind << QFileInfo(file).absoluteFilePath();
   }
-  mUi->vtk_widget->disconnect(this);
+  // Each would take the place of the one before.
+  if (!projects.isEmpty()) mPresenters->projects.open(projects.front());
+  if (!shots.isEmpty()) mPresenters->shotFiles.load(shots);
+  for (const QString& file : travelTimes) mPresenters->travelTimes.importFile(file);
 }
 
-void Talvesk_MainWindows::startLog() {
-  mFolder.create();
-  mLog = Log(mFolder.log);
-  mLog.write("Application Start", 0);
-}
-
-void Talvesk_MainWindows::loadSettings() {
-  if (mSettings.load()) {
-    changeLanguage(mLanguages.indexOf(QString::fromStdString(mSettings.language)));
-  } else {
-    mFirstRun = true;
-  }
-  // English without its file has no plurals: "1 shot file(s)".
-  if (mLanguages.current() < 0) {
-    mSettings.language = "en";
-    mLanguages.use(mLanguages.indexOf(QStringLiteral("en")), mLog);
-  }
-}
-
-/// \param language to propose, an index in the list; -1 proposes that of the system
-bool Talvesk_MainWindows::askForSettings(int language) {
-  SettingsDialog dialog(mLanguages.list(), language, mSettings, this);
-  if (dialog.exec() != QDialog::Accepted) return false;
-  dialog.apply(mSettings);
-  refreshTraceOptions();
-  if (dialog.languageIndex() != mLanguages.current()) changeLanguage(dialog.languageIndex());
-  return true;
-}
-
-void Talvesk_MainWindows::changeLanguage(int index) {
-  if (index < 0) return;
-  if (mLanguages.use(index, mLog)) {
-    retranslate();
-    mSettings.language = mLanguages.list()[static_cast<std::size_t>(index)].code.toStdString();
-  }
-  saveSettings();
-}
-
-void Talvesk_MainWindows::saveSettings() {
-  if (const Status saved = mSettings.save(); !saved.ok()) mLog.write(saved.message(), 1);
-}
-
-void Talvesk_MainWindows::connectViews() {
-  for (editTravelTimesWidget* editor : editors()) {
-    editor->setSession(mSession);
-    connect(editor, &editTravelTimesWidget::pick_added, this,
-            &Talvesk_MainWindows::enable_draw_travel_times);
-    connect(editor, &editTravelTimesWidget::pick_edited, this, &Talvesk_MainWindows::on_pickEdited);
-    connect(editor, &editTravelTimesWidget::mouse_moved, this, &Talvesk_MainWindows::on_mousemoved);
-    connect(editor, &editTravelTimesWidget::cursorMoved, this,
-            [this, editor](const TraceCursor& cursor) {
-              if (!editor->isHidden()) showCursor(cursor);
-            });
-  }
-  connect(mUi->showTracesWidget, &editTravelTimesWidget::viewChanged, this,
-          &Talvesk_MainWindows::refreshCommands);
-  connect(mUi->showTracesWidget, &editTravelTimesWidget::selectionChanged, this,
-          &Talvesk_MainWindows::refreshCommands);
-  connect(mUi->showTracesWidget, &editTravelTimesWidget::optionsChanged, this,
-          &Talvesk_MainWindows::refreshViewActions);
-  connect(mUi->showTracesWidget, &editTravelTimesWidget::toolChanged, this,
-          &Talvesk_MainWindows::refreshViewActions);
-  connect(mUi->showTracesWidget, &editTravelTimesWidget::shotEdited, this,
-          &Talvesk_MainWindows::showFile);
-  mCursorLabel = new QLabel(this);
-  mCursorLabel->setObjectName(QStringLiteral("cursorLabel"));
-  mCursorLabel->setMinimumWidth(1);  // a long text must not widen the window
-  // What was read in one view says nothing about another.
-  connect(mUi->tabWidget, &QTabWidget::currentChanged, mCursorLabel, &QLabel::clear);
-  mUi->statusBar->addPermanentWidget(mCursorLabel);
-}
-
-void Talvesk_MainWindows::addMisfitLabel() {
-  mMisfitLabel = new QLabel(this);
-  mMisfitLabel->setObjectName(QStringLiteral("misfitLabel"));
-  mMisfitLabel->setMinimumWidth(1);  // a long text must not widen the window
-  mUi->statusBar->addPermanentWidget(mMisfitLabel);
-}
-
-void Talvesk_MainWindows::connectCommands() {
-  mUi->menuView->addSeparator();
-  mUi->menuView->addAction(mUi->mainToolBar->toggleViewAction());
-  mUi->menuView->addAction(mUi->toolBar->toggleViewAction());
-  connect(mUi->showTravelTimeCB, &QCheckBox::clicked, this,
-          &Talvesk_MainWindows::update_show_traces);
-  connect(mUi->actionApply_Hushel, &QAction::triggered, this,
-          &Talvesk_MainWindows::on_actionAuto_improve_triggered);
-  connect(mUi->actionOpen_shot_files, &QAction::triggered, this,
-          &Talvesk_MainWindows::loadTraces_PWave);
-  connect(mShotChooser, QOverload<int>::of(&QComboBox::activated), this,
-          &Talvesk_MainWindows::showFile);
-}
-
-void Talvesk_MainWindows::addShotChooser() {
-  mShotChooser = new QComboBox(this);
-  mShotChooser->setObjectName(QStringLiteral("shotCBox"));
-  mShotChooser->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  mShotChooser->setMinimumContentsLength(12);
-  mUi->toolBar->insertWidget(mUi->actionNext_file, mShotChooser);
-}
-
-void Talvesk_MainWindows::groupActions() {
-  const std::vector<std::vector<QAction*>> groups = {
-      {mUi->actionGrid_view, mUi->actionSmooth_view},
-      {mUi->actionSmallGeo, mUi->actionNormalGeo, mUi->actionLargeGeo},
-      {mUi->actionTool_pick, mUi->actionTool_zoom, mUi->actionTool_pan, mUi->actionTool_ruler,
-       mUi->actionTool_select},
-      {mUi->actionSnap_none, mUi->actionSnap_onset, mUi->actionSnap_zero, mUi->actionSnap_peak}};
-  for (const std::vector<QAction*>& actions : groups) {
-    auto* group = new QActionGroup(this);
-    for (QAction* action : actions) group->addAction(action);
-  }
-}
+// --- Menus and connections
 
 void Talvesk_MainWindows::addKeys() {
   // The keypad arrows are missing on many keyboards.
@@ -206,9 +122,76 @@ void Talvesk_MainWindows::addKeys() {
   mUi->actionExit->setShortcuts({mUi->actionExit->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q)});
 }
 
-std::array<editTravelTimesWidget*, 2> Talvesk_MainWindows::editors() const {
-  return {mUi->showTracesWidget, mUi->showTracesWidget_2};
+/// Commands follow the survey, the shot in view, and what the view of its traces tells.
+void Talvesk_MainWindows::connectCommands() {
+  connect(mUi->showTravelTimeCB, &QCheckBox::clicked, this,
+          &Talvesk_MainWindows::update_show_traces);
+  connect(mUi->actionApply_Hushel, &QAction::triggered, this,
+          &Talvesk_MainWindows::on_actionAuto_improve_triggered);
+  connect(mUi->actionOpen_shot_files, &QAction::triggered, this,
+          &Talvesk_MainWindows::loadTraces_PWave);
+
+  const auto refresh = [this] { mCommands->refresh(); };
+  mSubscription = session().subscribe([refresh](const SurveyChange&) { refresh(); });
+  connect(&mDesk->shot, &ShotInView::changed, this, refresh);
+  const editTravelTimesWidget* traces = mUi->showTracesWidget;
+  connect(traces, &editTravelTimesWidget::viewChanged, this, refresh);
+  connect(traces, &editTravelTimesWidget::selectionChanged, this, refresh);
+  connect(traces, &editTravelTimesWidget::optionsChanged, this, refresh);
+  connect(traces, &editTravelTimesWidget::toolChanged, this, refresh);
 }
+
+void Talvesk_MainWindows::connectViews() {
+  for (editTravelTimesWidget* editor : mDesk->editors()) {
+    connect(editor, &editTravelTimesWidget::pick_added, this,
+            &Talvesk_MainWindows::enable_draw_travel_times);
+    connect(editor, &editTravelTimesWidget::pick_edited, this, &Talvesk_MainWindows::on_pickEdited);
+    connect(editor, &editTravelTimesWidget::mouse_moved, this, &Talvesk_MainWindows::on_mousemoved);
+  }
+}
+
+void Talvesk_MainWindows::connectPresenters() {
+  mPresenters->recovery.due = [this] { autosave(); };
+  mPresenters->settings.languageChanged = [this] { retranslate(); };
+  mPresenters->palettes.maximumTried = [this](int value) { update_palette_max(value); };
+  mPresenters->palettes.minimumTried = [this](int value) { update_palette_min(value); };
+  mPresenters->palettes.palettesTried = [this] { on_vtk_palette_changed(); };
+  mPresenters->inversion.stopWanted = [this] { on_tomo_stopped(); };
+}
+
+void Talvesk_MainWindows::run(const char* slot) {
+  mCommands->run(slot);
+}
+
+void Talvesk_MainWindows::enable_draw_travel_times() {
+  mCommands->refresh();
+}
+
+void Talvesk_MainWindows::on_pickEdited() {
+  mPresenters->curves.refresh();
+}
+
+void Talvesk_MainWindows::on_mousemoved(int trace) {
+  mUi->travelTimePreview->setHighlightedTrace(trace);
+}
+
+void Talvesk_MainWindows::update_palette_max(int value) {
+  mPresenters->palettes.tryMaximum(value);
+}
+
+void Talvesk_MainWindows::update_palette_min(int value) {
+  mPresenters->palettes.tryMinimum(value);
+}
+
+void Talvesk_MainWindows::on_vtk_palette_changed() {
+  mPresenters->palettes.tryPalettes();
+}
+
+void Talvesk_MainWindows::on_tomo_stopped() {
+  mPresenters->inversion.stop();
+}
+
+// --- Events
 
 void Talvesk_MainWindows::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
@@ -223,23 +206,6 @@ void Talvesk_MainWindows::layOutSplitter() {
   mUi->splitter->setSizes({left, 0, width - left});
 }
 
-void Talvesk_MainWindows::restoreWindow() {
-  const QSettings state(windowStateFile(), QSettings::IniFormat);
-  if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
-    // A laptop at twice the scale has fewer points than the form; the frame needs some too.
-    resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
-  } else {
-    bringIntoSight(*this);
-  }
-  restoreState(state.value(QStringLiteral("toolBars")).toByteArray());
-}
-
-void Talvesk_MainWindows::saveWindow() {
-  QSettings state(windowStateFile(), QSettings::IniFormat);
-  state.setValue(QStringLiteral("geometry"), saveGeometry());
-  state.setValue(QStringLiteral("toolBars"), saveState());
-}
-
 void Talvesk_MainWindows::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) retranslate();
   QMainWindow::changeEvent(event);
@@ -247,45 +213,36 @@ void Talvesk_MainWindows::changeEvent(QEvent* event) {
 
 void Talvesk_MainWindows::retranslate() {
   mUi->retranslateUi(this);
-  mShotChooser->setAccessibleName(tr("Shot in view"));
-  mShotChooser->setToolTip(tr("The shot in view"));
-  refreshTitle();
-  refreshShotChooser();
-  refreshRecentProjects();
-  refreshSection();
+  mPresenters->retranslate();
 }
 
 void Talvesk_MainWindows::closeEvent(QCloseEvent* event) {
-  if (mInversion != nullptr) {
-    event->ignore();
-    askToStopAndClose();
-    return;
-  }
-  if (!mayLoseChanges()) {
-    event->ignore();
-    return;
-  }
-  forgetRecovery();
-  saveWindow();
-  if (mGuide != nullptr) mGuide->close();
+  event->ignore();
+  if (mDesk->inversionRuns) return mPresenters->inversion.askToStopAndClose();
+  if (!mPresenters->projects.mayLoseChanges()) return;
+  mPresenters->recovery.forget();
+  savePlace(*this, mDesk->windowStateFile());
+  mPresenters->help.closeGuide();
   event->accept();
 }
 
-bool Talvesk_MainWindows::mayLoseChanges() {
-  if (!mSession.modified()) return true;
-  switch (askToSave(this)) {
-    case SaveAnswer::kSave:
-      return saveProject();
-    case SaveAnswer::kDiscard:
-      return true;
-    case SaveAnswer::kCancel:
-      return false;
+void Talvesk_MainWindows::dragEnterEvent(QDragEnterEvent* event) {
+  if (mDesk->inversionRuns) return;
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); })) {
+    event->acceptProposedAction();
   }
-  return false;
 }
 
-void Talvesk_MainWindows::logSlot(const char* name) {
-  mLog.write(std::string("Talvesk_MainWindows::") + name, 0);
+void Talvesk_MainWindows::dropEvent(QDropEvent* event) {
+  QStringList files;
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) files << url.toLocalFile();
+  }
+  event->acceptProposedAction();
+  // The program that the files come from waits for the end of the drop, and loading may ask.
+  QMetaObject::invokeMethod(
+      this, [this, files] { openFiles(files); }, Qt::QueuedConnection);
 }
 
 }  // namespace talvesk

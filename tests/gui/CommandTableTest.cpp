@@ -1,4 +1,9 @@
+#include "app/presenters/CommandTable.h"
 #include "gui/WindowTest.h"
+#include "model/SurveyGeometry.h"
+#include "support/TestSurveys.h"
+#include "tomo/GridSetup.h"
+#include "tomo/TomographyRun.h"
 
 #include <QCheckBox>
 #include <QFile>
@@ -6,18 +11,23 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMetaMethod>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTabWidget>
 #include <QTextDocument>
 #include <QToolBar>
+#include <map>
+#include <set>
 
 namespace talvesk {
 namespace {
 
 using ::testing::HasSubstr;
+using testing::pickTwoLayers;
 using testing::WindowTest;
 
-struct Command {
+struct KnownCommand {
   const char* name;
   const char* text;
   const char* toolTip;  ///< empty: any that says more than the text
@@ -25,7 +35,7 @@ struct Command {
   const char* icon;  ///< resource, empty: any or none
 };
 
-constexpr Command kCommands[] = {
+constexpr KnownCommand kCommands[] = {
     {"actionNew", "New...", "", "Ctrl+N", ":/icons/new-file.png"},
     {"actionLoad_TT", "Import TravelTimes...", "Load traveltimes", "", ""},
     {"actionApply_smoothing", "Apply smoothing", "", "", ""},
@@ -90,7 +100,7 @@ class Commands : public WindowTest {};
 
 TEST_F(Commands, areAsUsersKnowThem) {
   open();
-  for (const Command& command : kCommands) {
+  for (const KnownCommand& command : kCommands) {
     SCOPED_TRACE(command.name);
     const QAction& found = action(command.name);
     EXPECT_EQ(found.text().toStdString(), command.text);
@@ -155,7 +165,7 @@ TEST_F(Commands, areAllInTheMenus) {
   open();
   QSet<QAction*> inMenus;
   for (QAction* top : window->menuBar()->actions()) inMenus.unite(reachable(*top->menu()));
-  for (const Command& command : kCommands) {
+  for (const KnownCommand& command : kCommands) {
     EXPECT_TRUE(inMenus.contains(&action(command.name))) << command.name;
   }
 }
@@ -199,20 +209,231 @@ TEST_F(Commands, writeTheirNameToTheLogFirst) {
               ::testing::HasSubstr("Talvesk_MainWindows::on_actionAuto_improve_triggered\n"));
 }
 
-TEST_F(Commands, areEnabledWhenTheyCanWork) {
+std::set<std::string> objectsOf(const CommandTable& table) {
+  std::set<std::string> names;
+  for (const Command& row : table.rows()) names.insert(row.object);
+  return names;
+}
+
+TEST_F(Commands, haveOneRowForEveryActionAndSlot) {
   open();
-  const char* const ofTraces[] = {"actionAutoPick",           "actionAGC",
-                                  "actionApply_Hushel",       "actionNext_file",
-                                  "actionExport_TravelTimes", "actionRecording_details"};
-  const char* const always[] = {
-      "actionNew",  "actionOpen_shot_files", "actionLoad_TT",  "actionSettings",
-      "actionExit", "actionAbout",           "actionSet_title"};
-  for (const char* name : ofTraces) EXPECT_FALSE(action(name).isEnabled()) << name;
-  for (const char* name : always) EXPECT_TRUE(action(name).isEnabled()) << name;
+  const CommandTable& table = window->commands();
+  const std::set<std::string> objects = objectsOf(table);
+  std::set<std::string> slotNames;
+  for (const Command& row : table.rows()) slotNames.insert(CommandTable::slotOf(row));
+  EXPECT_EQ(objects.size(), table.rows().size());
+  EXPECT_EQ(slotNames.size(), table.rows().size());
+  for (const Command& row : table.rows()) {
+    EXPECT_NE(window->findChild<QObject*>(QLatin1String(row.object)), nullptr) << row.object;
+  }
+
+  int actions = 0;
+  for (const QAction* each : window->findChildren<QAction*>(QRegularExpression("^action"))) {
+    ++actions;
+    EXPECT_EQ(objects.count(each->objectName().toStdString()), 1U)
+        << each->objectName().toStdString();
+  }
+  EXPECT_GT(actions, 80);
+
+  const QMetaObject& meta = *window->metaObject();
+  int named = 0;
+  for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+    const std::string name = meta.method(i).name().toStdString();
+    if (name.rfind("on_", 0) != 0) continue;
+    ++named;
+    EXPECT_EQ(slotNames.count(name), 1U) << name;
+  }
+  EXPECT_GE(named, 50);
+}
+
+/// From what on a command can work, in the order in which a survey grows.
+enum class Stage { kNothing, kShots, kGrid, kResult };
+
+const std::map<Stage, std::vector<std::string>>& commandsByStage() {
+  static const std::map<Stage, std::vector<std::string>> stages = {
+      {Stage::kNothing,
+       {"actionNew",
+        "actionOpen_shot_files",
+        "actionLoad_TT",
+        "actionLoad_Project",
+        "actionSettings",
+        "actionExit",
+        "actionUser_guide",
+        "actionHelp",
+        "actionAbout",
+        "actionGeometry",
+        "actionSet_title",
+        "actionPalette",
+        "actionFill_wiggle",
+        "actionTwo_colors",
+        "actionCut_horizontal",
+        "actionZoom_in",
+        "actionShow_filtered",
+        "actionShow_all_traces",
+        "actionBy_distance",
+        "actionTrue_amplitudes",
+        "actionAir_wave",
+        "actionMagnifier",
+        "actionTool_pick",
+        "actionTool_zoom",
+        "actionTool_pan",
+        "actionTool_ruler",
+        "actionTool_select",
+        "actionSnap_none",
+        "actionSnap_onset",
+        "actionSnap_zero",
+        "actionSnap_peak"}},
+      {Stage::kShots,
+       {"actionSave_Project",
+        "actionSave_Project_As",
+        "actionExport_TravelTimes",
+        "actionExportSeismic_line",
+        "actionImages",
+        "actionPDF",
+        "actionODT",
+        "actionSet_geography_coordinates",
+        "actionGrid",
+        "actionAutoPick",
+        "actionFilter",
+        "actionAGC",
+        "actionApply_Hushel",
+        "actionRun_tomography_inversion",
+        "actionRefraction",
+        "actionNext_file",
+        "actionPrev_file",
+        "actionRecording_details",
+        "actionUndo",
+        "actionGain_up",
+        "actionGain_down",
+        "actionFit",
+        "showAllPicksCB",
+        "showTravelTimeCB"}},
+      {Stage::kGrid,
+       {"actionExport_tomographic_data",
+        "actionGridded_Data",
+        "actionExport_VTK",
+        "actionExport_Surfer",
+        "actionExportTomographic_profile_2_KML",
+        "actionScreenshot",
+        "actionDefine_model_velocity",
+        "actionApply_smoothing",
+        "actionShow_Tomographic_Profile",
+        "actionGrid_view",
+        "actionSmooth_view",
+        "actionShow_Contour_Lines",
+        "actionVertical_Gradient",
+        "actionLaplacian_Gradient",
+        "actionShow_scalarbar",
+        "actionShow_Grid_Lines",
+        "actionSmallGeo",
+        "actionNormalGeo",
+        "actionLargeGeo",
+        "actionShow_title",
+        "actionReset_View"}},
+      {Stage::kResult,
+       {"actionShow_rays", "actionShow_Information_Density_Layer", "showSimTT_CB"}}};
+  return stages;
+}
+
+/// What these need is not on the way to a section: a filtered copy, a layered profile, a view that
+/// was zoomed, a step that was undone, picks that were made.
+const std::set<std::string> kBesideTheWay = {
+    "show_filtered_cb", "actionShow_refraction", "actionZoom_back",    "actionZoom_forward",
+    "actionRedo",       "actionConfirm_picks",   "actionRemove_picks", "actionRemove_unconfirmed"};
+
+class GrowingSurvey : public Commands {
+ protected:
+  void expectEnabledUpTo(Stage stage) {
+    for (const auto& [from, names] : commandsByStage()) {
+      for (const std::string& name : names) {
+        const QVariant enabled = child<QObject>(name.c_str()).property("enabled");
+        EXPECT_EQ(enabled.toBool(), stage >= from) << name << " at stage " << int(stage);
+      }
+    }
+  }
+  void edit(Edit kind, const std::function<Status(Survey&)>& change) {
+    const Status status = window->session().apply(kind, change);
+    ASSERT_TRUE(status.ok()) << status.message();
+  }
+
+  Log nowhere;
+};
+
+TEST_F(GrowingSurvey, isWhatCommandsAreEnabledBy) {
+  open();
+  std::set<std::string> judged = kBesideTheWay;
+  for (const auto& stage : commandsByStage()) {
+    judged.insert(stage.second.begin(), stage.second.end());
+  }
+  ASSERT_EQ(judged, objectsOf(window->commands()));
+
+  expectEnabledUpTo(Stage::kNothing);
   loadShots(2);
-  for (const char* name : ofTraces) EXPECT_TRUE(action(name).isEnabled()) << name;
-  EXPECT_TRUE(action("actionUndo").isEnabled()) << "loading can be taken back";
+  expectEnabledUpTo(Stage::kShots);
   EXPECT_EQ(action("actionUndo").text().toStdString(), "Undo \"Open shot files\"");
+  EXPECT_FALSE(action("actionRedo").isEnabled());
+
+  edit(Edit::kPick, [](Survey& survey) {
+    pickTwoLayers(survey.document, 450.0, 1800.0, 3.0);
+    return Status();
+  });
+  edit(Edit::kGrid, [this](Survey& survey) {
+    return setUpGrid(survey.document, {8.0, 1.0, 4}, nowhere);
+  });
+  expectEnabledUpTo(Stage::kGrid);
+
+  edit(Edit::kInversion, [this](Survey& survey) {
+    TomographyParameters parameters;
+    parameters.externalIterations = 1;
+    parameters.solverIterations = 2;
+    return runInversion(survey.document, parameters, nowhere).status;
+  });
+  expectEnabledUpTo(Stage::kResult);
+
+  for (const Stage stage : {Stage::kGrid, Stage::kShots, Stage::kShots, Stage::kNothing}) {
+    action("actionUndo").trigger();
+    expectEnabledUpTo(stage);
+  }
+  EXPECT_TRUE(action("actionRedo").isEnabled());
+  for (int step = 0; step < 4; ++step) action("actionRedo").trigger();
+  expectEnabledUpTo(Stage::kResult);
+  EXPECT_FALSE(action("actionRedo").isEnabled());
+}
+
+/// Neither left unconnected nor connected twice: a check mark turns over, is remembered, and turns
+/// back, and the log has one line for each click.
+TEST_F(GrowingSurvey, showsWhatItsCheckMarksSay) {
+  open();
+  loadShots(2);
+  edit(Edit::kGrid, [this](Survey& survey) {
+    return setUpGrid(survey.document, {8.0, 1.0, 4}, nowhere);
+  });
+  const auto lines = [this](const std::string& slot) {
+    const std::string text = log();
+    const std::string line = "] Talvesk_MainWindows::" + slot + "\n";
+    int found = 0;
+    for (auto at = text.find(line); at != std::string::npos; at = text.find(line, at + 1)) ++found;
+    return found;
+  };
+  int clicked = 0;
+  for (const Command& row : window->commands().rows()) {
+    auto* each = window->findChild<QAction*>(QLatin1String(row.object));
+    const bool asks = std::string(row.object) == "actionShow_Contour_Lines";
+    if (each == nullptr || !each->isCheckable() || !each->isEnabled() || asks) continue;
+    SCOPED_TRACE(row.object);
+    ++clicked;
+    const bool before = each->isChecked();
+    each->trigger();
+    EXPECT_EQ(lines(CommandTable::slotOf(row)), 1);
+    const bool stays = each->actionGroup() != nullptr;
+    EXPECT_EQ(each->isChecked(), stays || !before);
+    window->showFile(0);  // all commands are looked at anew
+    EXPECT_EQ(each->isChecked(), stays || !before);
+    each->trigger();
+    EXPECT_EQ(lines(CommandTable::slotOf(row)), 2);
+    EXPECT_EQ(each->isChecked(), stays || before);
+  }
+  EXPECT_GE(clicked, 30);
 }
 
 TEST_F(Commands, haveTheirTabsBoxesAndBars) {

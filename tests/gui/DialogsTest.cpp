@@ -1,5 +1,6 @@
 #include "app/DialogSetGeometry.h"
 #include "app/ExportTomoVelData.h"
+#include "app/FileFolders.h"
 #include "app/ImagesDialog.h"
 #include "app/Languages.h"
 #include "app/PaletteDialog.h"
@@ -18,6 +19,7 @@
 #include "app/setGeographyDialog.h"
 #include "app/smoothingDialog.h"
 #include "gui/WindowTest.h"
+#include "io/SegyFile.h"
 #include "support/TestSurveys.h"
 
 #include <QAbstractButton>

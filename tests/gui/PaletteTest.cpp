@@ -1,3 +1,4 @@
+#include "app/FileFolders.h"
 #include "app/PaletteDialog.h"
 #include "gui/WindowTest.h"
 #include "io/PaletteFile.h"

@@ -1,5 +1,6 @@
 #include "app/Languages.h"
 #include "app/LineIcon.h"
+#include "base/Log.h"
 #include "gui/WindowTest.h"
 #include "widgets/editTravelTimesWidget.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Talvesk_MainWindows.h"
+#include "base/Settings.h"
 #include "gui/ModalScript.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"

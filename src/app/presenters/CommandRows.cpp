@@ -1,0 +1,244 @@
+#include "app/presenters/CommandTable.h"
+#include "app/presenters/Presenters.h"
+#include "ui_Talvesk_MainWindows.h"
+#include "widgets/TraceViewOptions.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QMainWindow>
+
+namespace talvesk {
+namespace {
+
+using State = CommandState;
+using Rows = std::vector<Command>;
+
+bool always(const State& /*state*/) {
+  return true;
+}
+
+// What a row runs: a function of an object, with a value or with what the action is checked to.
+
+template <typename Object>
+Command::Run call(Object& object, void (Object::*function)()) {
+  return [&object, function](bool /*checked*/) { (object.*function)(); };
+}
+
+template <typename Object, typename Value>
+Command::Run call(Object& object, void (Object::*function)(Value), Value value) {
+  return [&object, function, value](bool /*checked*/) { (object.*function)(value); };
+}
+
+template <typename Object>
+Command::Run turn(Object& object, void (Object::*function)(bool)) {
+  return [&object, function](bool checked) { (object.*function)(checked); };
+}
+
+template <typename Object, typename What>
+Command::Run turn(Object& object, void (Object::*function)(What, bool), What what) {
+  return [&object, function, what](bool checked) { (object.*function)(what, checked); };
+}
+
+Rows fileRows(Desk& desk, Presenters& p) {
+  return {
+      {"actionNew", always, call(p.shotFiles, &ShotFilesPresenter::newSurvey)},
+      {"actionOpen_shot_files", always, call(p.shotFiles, &ShotFilesPresenter::addFiles), nullptr,
+       "loadTraces_PWave"},
+      {"actionLoad_TT", always, call(p.travelTimes, &TravelTimesPresenter::import)},
+      {"actionLoad_Project", always, call(p.projects, &ProjectPresenter::load)},
+      {"actionSave_Project", &State::toSave, [&p](bool) { p.projects.save(); }},
+      {"actionSave_Project_As", &State::toSave, [&p](bool) { p.projects.saveAs(); }},
+      {"actionSettings", always, call(p.settings, &SettingsPresenter::ask)},
+      {"actionExit", always, [&desk](bool) { desk.window.close(); }},
+
+      {"actionExport_TravelTimes", &State::records,
+       call(p.travelTimes, &TravelTimesPresenter::exportTimes)},
+      {"actionExport_tomographic_data", &State::grid,
+       call(p.exports, &ExportPresenter::exportSection)},
+      {"actionGridded_Data", &State::grid, call(p.exports, &ExportPresenter::exportGriddedText)},
+      {"actionExport_VTK", &State::grid, call(p.exports, &ExportPresenter::exportVtk)},
+      {"actionExport_Surfer", &State::grid, call(p.exports, &ExportPresenter::exportSurfer)},
+      {"actionExportTomographic_profile_2_KML", &State::lineAndGrid,
+       call(p.exports, &ExportPresenter::exportSectionKml)},
+      {"actionExportSeismic_line", &State::line, call(p.exports, &ExportPresenter::exportLineKml)},
+      {"actionImages", &State::drawable, call(p.reports, &ReportPresenter::writePictures)},
+      {"actionScreenshot", &State::grid, call(p.reports, &ReportPresenter::takeScreenshot)},
+      {"actionPDF", &State::records, call(p.reports, &ReportPresenter::writePdf)},
+      {"actionODT", &State::records, call(p.reports, &ReportPresenter::writeOdt)},
+
+      {"actionUser_guide", always, call(p.help, &HelpPresenter::openUserGuide)},
+      {"actionHelp", always, call(p.help, &HelpPresenter::openOnlineHelp)},
+      {"actionAbout", always, call(p.help, &HelpPresenter::showAbout)},
+  };
+}
+
+Rows projectRows(Desk& /*desk*/, Presenters& p) {
+  return {
+      // An empty survey, too, can get geophones and S-wave pairs.
+      {"actionGeometry", always, [&p](bool) { p.geometry.ask(); }},
+      {"actionSet_geography_coordinates", &State::line,
+       call(p.exports, &ExportPresenter::setMapPosition)},
+      {"actionGrid", &State::strings, [&p](bool) { p.models.makeGrid(); }},
+      {"actionDefine_model_velocity", &State::cells,
+       call(p.models, &ModelPresenter::defineVelocity)},
+      {"actionSet_title", always, call(p.survey, &SurveyPresenter::askForTitle)},
+
+      {"actionAutoPick", &State::shotInView, call(p.processing, &ProcessingPresenter::autoPick)},
+      {"actionFilter", &State::shotInView, call(p.processing, &ProcessingPresenter::filter)},
+      {"actionAGC", &State::shotInView, call(p.processing, &ProcessingPresenter::agc)},
+      {"actionApply_Hushel", &State::shotInView, call(p.processing, &ProcessingPresenter::hushel),
+       nullptr, "on_actionAuto_improve_triggered"},
+      {"actionRun_tomography_inversion", &State::records,
+       call(p.inversion, &InversionPresenter::run)},
+      {"actionApply_smoothing", &State::cells, call(p.models, &ModelPresenter::smooth)},
+      {"actionRefraction", &State::records, call(p.refraction, &RefractionPresenter::interpret)},
+  };
+}
+
+Rows shotRows(Desk& desk, Presenters& p) {
+  editTravelTimesWidget& traces = *desk.ui.showTracesWidget;
+  return {
+      {"actionNext_file", &State::records, call(desk.shot, &ShotInView::showNext)},
+      {"actionPrev_file", &State::records, call(desk.shot, &ShotInView::showPrevious)},
+      {"actionRecording_details", &State::traces, call(p.traces, &TracesPresenter::showDetails)},
+      {"actionUndo", &State::canUndo, call(desk.session, &Session::undo)},
+      {"actionRedo", &State::canRedo, call(desk.session, &Session::redo)},
+      {"actionConfirm_picks", &State::unconfirmedInRange,
+       call(traces, &editTravelTimesWidget::confirmPicks)},
+      {"actionRemove_picks", &State::picksInRange,
+       call(traces, &editTravelTimesWidget::removePicks)},
+      {"actionRemove_unconfirmed", &State::unconfirmedInRange,
+       call(traces, &editTravelTimesWidget::removeUnconfirmedPicks)},
+      {"actionGain_up", &State::shotInView, call(p.traceOptions, &TraceOptionsPresenter::gainUp)},
+      {"actionGain_down", &State::shotInView,
+       call(p.traceOptions, &TraceOptionsPresenter::gainDown)},
+      {"actionFit", &State::recordInView, call(traces, &editTravelTimesWidget::fit)},
+      {"actionZoom_back", &State::canZoomBack, call(traces, &editTravelTimesWidget::zoomBack)},
+      {"actionZoom_forward", &State::canZoomForward,
+       call(traces, &editTravelTimesWidget::zoomForward)},
+  };
+}
+
+Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
+  TraceOptionsPresenter& view = p.traceOptions;
+  using Options = TraceViewOptions;
+  const auto setting = [&view](const char* object, bool Settings::*what) {
+    return Command{object, always, turn(view, &TraceOptionsPresenter::setSetting, what),
+                   [what](const State& state) { return state.settings.*what; }};
+  };
+  const auto option = [&view](const char* object, bool Options::*what) {
+    return Command{object, always, turn(view, &TraceOptionsPresenter::setOption, what),
+                   [what](const State& state) { return state.traceView.*what; }};
+  };
+  const auto tool = [&view](const char* object, TraceTool what) {
+    return Command{object,
+                   always,
+                   call(view, &TraceOptionsPresenter::setTool, what),
+                   [what](const State& state) { return state.tool == what; },
+                   nullptr,
+                   "tool"};
+  };
+  const auto snap = [&view](const char* object, PickSnap what) {
+    return Command{object,
+                   always,
+                   call(view, &TraceOptionsPresenter::setSnap, what),
+                   [what](const State& state) { return state.traceView.snap == what; },
+                   nullptr,
+                   "snap"};
+  };
+  return {
+      setting("actionFill_wiggle", &Settings::fillWiggle),
+      setting("actionTwo_colors", &Settings::twoColors),
+      setting("actionCut_horizontal", &Settings::cutHorizontal),
+      setting("actionZoom_in", &Settings::zoomIn),
+      setting("actionShow_filtered", &Settings::showFiltered),
+      setting("actionShow_all_traces", &Settings::showAllTraces),
+      option("actionBy_distance", &Options::byDistance),
+      option("actionAir_wave", &Options::airWave),
+      option("actionMagnifier", &Options::magnifier),
+      {"actionTrue_amplitudes", always, turn(view, &TraceOptionsPresenter::setTrueAmplitudes),
+       [](const State& state) { return state.traceView.normalise == TraceNormalise::WholeShot; }},
+      tool("actionTool_pick", TraceTool::Pick),
+      tool("actionTool_zoom", TraceTool::Zoom),
+      tool("actionTool_pan", TraceTool::Pan),
+      tool("actionTool_ruler", TraceTool::Ruler),
+      tool("actionTool_select", TraceTool::Select),
+      snap("actionSnap_none", PickSnap::None),
+      snap("actionSnap_onset", PickSnap::Onset),
+      snap("actionSnap_zero", PickSnap::ZeroCrossing),
+      snap("actionSnap_peak", PickSnap::Peak),
+      {"show_filtered_cb", &State::filteredCopy,
+       turn(view, &TraceOptionsPresenter::setSetting, &Settings::showFiltered),
+       [](const State& state) { return state.filteredCopy && state.settings.showFiltered; }},
+      {"showAllPicksCB", &State::records,
+       turn(view, &TraceOptionsPresenter::setOption, &Options::showAllPicks)},
+      {"showTravelTimeCB", &State::records, turn(view, &TraceOptionsPresenter::setOnlyTraces),
+       nullptr, "update_show_traces"},
+      {"showSimTT_CB", &State::computed,
+       [&p](bool shown) {
+         p.traceOptions.setOption(&Options::showComputedTimes, shown);
+         p.curves.refresh();
+       }},
+  };
+}
+
+Rows sectionRows(Desk& /*desk*/, Presenters& p) {
+  SectionPresenter& section = p.section;
+  using View = SectionViewSettings;
+  const auto shown = [&section](const char* object, bool State::*enabled, bool View::*what) {
+    return Command{object, enabled, turn(section, &SectionPresenter::show, what),
+                   [what](const State& state) { return state.section.*what; }};
+  };
+  const auto quantity = [&section](const char* object, bool State::*enabled, SectionQuantity what) {
+    return Command{object, enabled, turn(section, &SectionPresenter::chooseQuantity, what),
+                   [what](const State& state) { return state.section.quantity == what; }};
+  };
+  const auto geophones = [&section](const char* object, GeophoneMarkers what) {
+    return Command{object,
+                   &State::picture,
+                   call(section, &SectionPresenter::chooseGeophones, what),
+                   [what](const State& state) { return state.section.geophones == what; },
+                   nullptr,
+                   "geophones"};
+  };
+  return {
+      shown("actionShow_Tomographic_Profile", &State::cells, &View::profile),
+      {"actionGrid_view", &State::cells, [&section](bool) { section.show(&View::smooth, false); },
+       [](const State& state) { return !state.section.smooth; }, nullptr, "view"},
+      {"actionSmooth_view", &State::cells, [&section](bool) { section.show(&View::smooth, true); },
+       [](const State& state) { return state.section.smooth; }, nullptr, "view"},
+      shown("actionShow_rays", &State::rays, &View::rays),
+      {"actionShow_Contour_Lines", &State::cells,
+       call(p.contours, &ContoursPresenter::editContours),
+       [](const State& state) {
+         return showsContours(state.section.contours, state.section.quantity);
+       }},
+      quantity("actionShow_Information_Density_Layer", &State::density,
+               SectionQuantity::kInformationDensity),
+      quantity("actionVertical_Gradient", &State::cells, SectionQuantity::kVerticalGradient),
+      quantity("actionLaplacian_Gradient", &State::cells, SectionQuantity::kLaplacian),
+      {"actionShow_refraction", &State::refractors,
+       turn(section, &SectionPresenter::showRefraction),
+       [](const State& state) { return state.section.refraction; }},
+      shown("actionShow_scalarbar", &State::cells, &View::scalarBar),
+      shown("actionShow_Grid_Lines", &State::cells, &View::gridLines),
+      geophones("actionSmallGeo", GeophoneMarkers::kSmall),
+      geophones("actionNormalGeo", GeophoneMarkers::kNormal),
+      geophones("actionLargeGeo", GeophoneMarkers::kLarge),
+      shown("actionShow_title", &State::picture, &View::title),
+      {"actionPalette", always, call(p.palettes, &PalettePresenter::editPalettes)},
+      {"actionReset_View", &State::picture, call(section, &SectionPresenter::resetView)},
+  };
+}
+
+}  // namespace
+
+std::vector<Command> commandRows(Desk& desk, Presenters& presenters) {
+  Rows rows;
+  for (const auto& part : {fileRows, projectRows, shotRows, traceViewRows, sectionRows}) {
+    const Rows more = part(desk, presenters);
+    rows.insert(rows.end(), more.begin(), more.end());
+  }
+  return rows;
+}
+
+}  // namespace talvesk

@@ -1,0 +1,48 @@
+#include "app/presenters/CommandState.h"
+
+#include "app/presenters/Desk.h"
+#include "export/LinePlacement.h"
+#include "model/GroundModel.h"
+#include "model/SurveyFacts.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
+#include "ui_Talvesk_MainWindows.h"
+#include "view/RefractorLines.h"
+#include "widgets/TraceViewOptions.h"
+#include "widgets/editTravelTimesWidget.h"
+
+namespace talvesk {
+
+CommandState::CommandState(const Desk& desk)
+    : settings(desk.settings),
+      traceView(desk.ui.showTracesWidget->options()),
+      tool(desk.ui.showTracesWidget->tool()),
+      section(desk.section()) {
+  const TomoDocument& document = desk.document();
+  const editTravelTimesWidget& editor = *desk.ui.showTracesWidget;
+  records = !document.ttArray.empty();
+  traces = !document.recordings->traceSets.empty();
+  recordInView = records && desk.shot.index() >= 0;
+  shotInView = traces && recordInView;
+  filteredCopy = desk.hasFilteredCopy(desk.shot.index());
+  picksInRange = editor.hasPicksInRange(false);
+  unconfirmedInRange = editor.hasPicksInRange(true);
+  canZoomBack = recordInView && editor.canZoomBack();
+  canZoomForward = recordInView && editor.canZoomForward();
+  canUndo = desk.session.canUndo();
+  canRedo = desk.session.canRedo();
+  strings = records || !document.line->goephonesStringSet.empty();
+  toSave = strings || desk.session.modified();
+  grid = document.model->grid != nullptr;
+  cells = grid && document.model->grid->cellCount() > 0;
+  computed = document.result->has_tomographic_info;
+  rays = cells && !document.result->rays.empty();
+  density = cells && hasInformationDensity(document);
+  refractors = !refractorLines(desk.interpretation()).empty();
+  picture = cells || (section.refraction && refractors);
+  line = lineEnds(document).has_value();
+  lineAndGrid = line && grid;
+  drawable = records || grid;
+}
+
+}  // namespace talvesk

@@ -1,0 +1,58 @@
+#include "app/presenters/CurvesPresenter.h"
+
+#include "app/presenters/FileExport.h"
+#include "figures/TravelTimeFigure.h"
+#include "model/TomographyOutcome.h"
+#include "ui_Talvesk_MainWindows.h"
+#include "widgets/TravelTimePlot.h"
+#include "widgets/editTravelTimesWidget.h"
+
+namespace talvesk {
+
+CurvesPresenter::CurvesPresenter(Desk& desk) : mDesk(desk) {
+  desk.ui.travelTimePreview->setRole(TravelTimePlot::Role::CurrentShot);
+  desk.ui.travelTimeCurves->setRole(TravelTimePlot::Role::AllShots);
+  for (TravelTimePlot* plot : desk.plots()) {
+    plot->setDocument(&desk.document());
+    // A pick dragged in a plot is undone with the others, so the trace view makes the edit.
+    plot->setEditor([&traces = *desk.ui.showTracesWidget](int shot, int trace, double seconds) {
+      traces.editPick(shot, trace, seconds);
+    });
+    connect(plot, &TravelTimePlot::shotChosen, &desk.shot, &ShotInView::show);
+    connect(plot, &TravelTimePlot::exportRequested, this, &CurvesPresenter::exportPicture);
+  }
+  connect(&desk.shot, &ShotInView::changed, this, &CurvesPresenter::refresh);
+  mSubscription = desk.session.subscribe([this](const SurveyChange& change) {
+    if (change.kind == SurveyChange::Kind::kOpened) {
+      for (TravelTimePlot* plot : mDesk.plots()) plot->setDocument(&mDesk.document());
+    }
+    if (!change.parts.has(Part::kGeometry) && !change.parts.has(Part::kResult)) return;
+    if (!mDesk.document().result->has_tomographic_info) mDesk.ui.showSimTT_CB->setChecked(false);
+    refresh();
+  });
+}
+
+void CurvesPresenter::refresh() {
+  for (TravelTimePlot* plot : mDesk.plots()) {
+    plot->refresh();
+    plot->setCurrentShot(mDesk.shot.index());
+  }
+  mDesk.ui.travelTimePreview->setShowComputed(mDesk.ui.showSimTT_CB->isChecked());
+}
+
+void CurvesPresenter::exportPicture() {
+  mDesk.logSlot("exportCurves");
+  const QString file = askForExport(mDesk, tr("Save travel-time curves"),
+                                    tr("Pictures (*.png *.svg *.pdf);;All Files (*)"), "png");
+  if (file.isEmpty()) return;
+  TravelTimeFigureOptions options;
+  options.computed = mDesk.ui.travelTimeCurves->showsComputed();
+  if (const Status status = writeTravelTimeFigure(mDesk.document(), options, file.toStdString());
+      !status.ok()) {
+    mDesk.tellFailure(tr("The picture has not been saved."), status);
+    return;
+  }
+  mDesk.tell(tr("Picture saved in %1").arg(file));
+}
+
+}  // namespace talvesk

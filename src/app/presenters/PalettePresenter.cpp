@@ -1,0 +1,59 @@
+#include "app/presenters/PalettePresenter.h"
+
+#include "app/PaletteDialog.h"
+#include "app/presenters/PlainSection.h"
+
+#include <utility>
+
+namespace talvesk {
+
+/// The survey takes the palettes that the dialog is left with by OK.
+struct PalettePresenter::Trial {
+  explicit Trial(Session& session)
+      : palettes(session.survey().palettes), edit(session, Edit::kPalette) {}
+
+  ColorPaletteList palettes;
+  OpenEdit edit;
+};
+
+void PalettePresenter::editPalettes() {
+  std::optional<ValueRange> shown;
+  if (const auto scene = plainSection(mDesk.document(), SectionQuantity::kVelocity)) {
+    shown = scene->dataRange;
+  }
+  Trial trial(mDesk.session);
+  mTrial = &trial;
+  PaletteDialog dialog(trial.palettes, mDesk.section().lockRange, shown, mDesk.folders,
+                       &mDesk.window);
+  connect(&dialog, &PaletteDialog::changed_max_value, this, maximumTried);
+  connect(&dialog, &PaletteDialog::changed_min_value, this, minimumTried);
+  connect(&dialog, &PaletteDialog::modified, this, palettesTried);
+  const bool changed = dialog.exec() == QDialog::Accepted && dialog.hasChanges();
+  mTrial = nullptr;
+  if (!changed) return;
+  mDesk.tellUnlessDone(trial.edit.commit([&](Survey& survey) {
+    survey.section.lockRange = dialog.lockRange();
+    survey.palettes = trial.palettes;
+    return Status();
+  }));
+}
+
+void PalettePresenter::tryMaximum(int value) {
+  if (mTrial != nullptr) mTrial->palettes.current().max_db = value;
+  tryPalettes();
+}
+
+void PalettePresenter::tryMinimum(int value) {
+  if (mTrial != nullptr) mTrial->palettes.current().min_db = value;
+  tryPalettes();
+}
+
+void PalettePresenter::tryPalettes() {
+  if (mTrial == nullptr) return;
+  mDesk.tellUnlessDone(mTrial->edit.preview([this](Survey& survey) {
+    survey.palettes = mTrial->palettes;
+    return Status();
+  }));
+}
+
+}  // namespace talvesk

@@ -1,0 +1,37 @@
+#include "app/presenters/Presenters.h"
+
+namespace talvesk {
+
+Presenters::Presenters(Desk& desk)
+    : settings(desk),
+      traces(desk),
+      traceOptions(desk),
+      curves(desk),
+      section(desk),
+      palettes(desk),
+      contours(desk),
+      projects(desk),
+      recovery(desk, projects),
+      shotFiles(desk, projects),
+      travelTimes(desk, projects),
+      survey(desk),
+      geometry(desk),
+      models(desk, geometry),
+      inversion(desk, models),
+      processing(desk),
+      refraction(desk),
+      exports(desk),
+      reports(desk),
+      help(desk) {
+  settings.changed = [this] { traceOptions.refresh(); };
+  projects.fileChanged = [this] { survey.refresh(); };
+}
+
+void Presenters::retranslate() {
+  traces.retranslate();
+  projects.retranslate();
+  section.refresh();
+  survey.refresh();
+}
+
+}  // namespace talvesk

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "app/presenters/ContoursPresenter.h"
+#include "app/presenters/CurvesPresenter.h"
+#include "app/presenters/ExportPresenter.h"
+#include "app/presenters/GeometryPresenter.h"
+#include "app/presenters/HelpPresenter.h"
+#include "app/presenters/InversionPresenter.h"
+#include "app/presenters/ModelPresenter.h"
+#include "app/presenters/PalettePresenter.h"
+#include "app/presenters/ProcessingPresenter.h"
+#include "app/presenters/ProjectPresenter.h"
+#include "app/presenters/RecoveryPresenter.h"
+#include "app/presenters/RefractionPresenter.h"
+#include "app/presenters/ReportPresenter.h"
+#include "app/presenters/SectionPresenter.h"
+#include "app/presenters/SettingsPresenter.h"
+#include "app/presenters/ShotFilesPresenter.h"
+#include "app/presenters/SurveyPresenter.h"
+#include "app/presenters/TraceOptionsPresenter.h"
+#include "app/presenters/TracesPresenter.h"
+#include "app/presenters/TravelTimesPresenter.h"
+
+namespace talvesk {
+
+struct Command;
+
+/// One presenter for each family of commands and what they show. A presenter is handed those whose
+/// questions it asks on its way; what it changes the others hear from the session.
+struct Presenters {
+  explicit Presenters(Desk& desk);
+
+  // They hear of a change in this order.
+  SettingsPresenter settings;
+  TracesPresenter traces;
+  TraceOptionsPresenter traceOptions;
+  CurvesPresenter curves;
+  SectionPresenter section;
+  PalettePresenter palettes;
+  ContoursPresenter contours;
+  ProjectPresenter projects;
+  RecoveryPresenter recovery;
+  ShotFilesPresenter shotFiles;
+  TravelTimesPresenter travelTimes;
+  SurveyPresenter survey;
+  GeometryPresenter geometry;
+  ModelPresenter models;
+  InversionPresenter inversion;
+  ProcessingPresenter processing;
+  RefractionPresenter refraction;
+  ExportPresenter exports;
+  ReportPresenter reports;
+  HelpPresenter help;
+
+  /// All texts that are not in the form.
+  void retranslate();
+};
+
+/// The rows of the table of commands, in the order of the menus.
+std::vector<Command> commandRows(Desk& desk, Presenters& presenters);
+
+}  // namespace talvesk

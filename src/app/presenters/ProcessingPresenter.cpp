@@ -1,0 +1,131 @@
+#include "app/presenters/ProcessingPresenter.h"
+
+#include "app/MessageText.h"
+#include "app/Messages.h"
+#include "app/WaitCursor.h"
+#include "app/doFilteringDialog.h"
+#include "model/Recordings.h"
+#include "model/SurveyFacts.h"
+#include "processing/FirstBreak.h"
+#include "processing/NoiseReduction.h"
+#include "processing/ShotFilters.h"
+#include "processing/ShotList.h"
+#include "session/PickEdits.h"
+#include "ui_Talvesk_MainWindows.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QApplication>
+#include <QProgressDialog>
+#include <utility>
+
+namespace talvesk {
+
+std::vector<std::int32_t> ProcessingPresenter::shotsToProcess() const {
+  return shotList(mDesk.document(), mDesk.settings.showAllTraces, mDesk.shot.index());
+}
+
+/// Shot by shot on this thread: a shot takes a moment, and between two of them the window answers
+/// and the document is whole.
+void ProcessingPresenter::forEachShot(const std::vector<std::int32_t>& shots, const QString& text,
+                                      const std::function<void(std::int32_t)>& work) {
+  QProgressDialog progress(text, tr("Stop"), 0, static_cast<int>(shots.size()), &mDesk.window);
+  progress.setWindowModality(Qt::WindowModal);
+  progress.setMinimumDuration(500);
+  progress.setWindowTitle(QApplication::applicationName());
+  const WaitCursor waiting;
+  progress.setValue(0);
+  for (std::size_t i = 0; i < shots.size() && !progress.wasCanceled(); ++i) {
+    work(shots[i]);
+    progress.setValue(static_cast<int>(i + 1));
+  }
+}
+
+void ProcessingPresenter::autoPick() {
+  if (mDesk.shot.index() < 0) return;
+  const bool useFiltered = mDesk.ui.show_filtered_cb->isChecked();
+  TomoDocument work = mDesk.document();
+  std::size_t traces = 0;
+  std::size_t found = 0;
+  Status failed;
+  forEachShot(shotsToProcess(), tr("Picking first breaks ..."), [&](std::int32_t shot) {
+    // A shot without a filtered copy has nothing to pick there.
+    Status status = pickShots(work, {shot}, useFiltered && mDesk.hasFilteredCopy(shot));
+    if (!status.ok() && failed.ok()) failed = std::move(status);
+    markPicksAutomatic(work, shot);
+    const TravelTime& record = work.ttArray[static_cast<std::size_t>(shot)];
+    traces += record.ttMisurati.size();
+    found += pickCount(record);
+  });
+  mDesk.edit(Edit::kAutoPick, [&](Survey& survey) { survey.document = work; });
+  // The traces may be behind another tab.
+  mDesk.tell(tr("First breaks found on %1 of %2 traces.").arg(found).arg(traces));
+  if (!failed.ok()) {
+    mDesk.log.write(failed.message(), 1);
+    showError(&mDesk.window, tr("Warning"), tr("Not every shot could be picked."),
+              textOf(failed.text()));
+  }
+}
+
+void ProcessingPresenter::makeFilteredCopies(
+    Message step, const QString& text,
+    const std::function<FilterOutcome(TomoDocument&, std::int32_t)>& filter) {
+  const std::vector<std::int32_t> shots = shotsToProcess();
+  if (shots.empty()) return;
+  FilterOutcome sum;
+  TomoDocument work = mDesk.document();
+  forEachShot(shots, text, [&](std::int32_t shot) {
+    FilterOutcome one = filter(work, shot);
+    sum.filtered += one.filtered;
+    sum.failed += one.failed;
+    if (sum.status.ok()) sum.status = std::move(one.status);
+  });
+  if (sum.filtered > 0) takeFilteredCopies(work, std::move(step));
+  mDesk.tell(tr("Filtered copies made of %1 of %2 traces.")
+                 .arg(sum.filtered)
+                 .arg(sum.filtered + sum.failed));
+  if (sum.failed > 0) {
+    mDesk.log.write(sum.status.message(), 1);
+    showError(&mDesk.window, tr("Warning"),
+              tr("%n trace(s) stay as they were.", nullptr, static_cast<int>(sum.failed)),
+              textOf(sum.status.text()));
+  }
+}
+
+/// Whatever shots were filtered, only the one in view is marked and turned over to its copy.
+void ProcessingPresenter::takeFilteredCopies(const TomoDocument& work, Message step) {
+  mDesk.settings.showFiltered = true;
+  mDesk.saveSettings();
+  mDesk.edit(
+      Edit::kFilter,
+      [&](Survey& survey) {
+        survey.document = work;
+        RecordingNote& shot =
+            survey.document.recordings.edit().noteOf(static_cast<std::size_t>(mDesk.shot.index()));
+        shot.filtered = true;
+        shot.showFiltered = true;
+      },
+      std::move(step));
+}
+
+void ProcessingPresenter::agc() {
+  makeFilteredCopies(Message::tr("AGC"), tr("Applying AGC ..."),
+                     [](TomoDocument& work, std::int32_t shot) { return agcShots(work, {shot}); });
+}
+
+void ProcessingPresenter::hushel() {
+  makeFilteredCopies(
+      Message::tr("Hushel"), tr("Applying Hushel ..."),
+      [](TomoDocument& work, std::int32_t shot) { return reduceNoise(work, {shot}); });
+}
+
+void ProcessingPresenter::filter() {
+  const std::vector<std::int32_t> shots = shotsToProcess();
+  if (shots.empty() || mDesk.shot.index() < 0) return;
+  TomoDocument work = mDesk.document();
+  doFilteringDialog dialog(work, mDesk.shot.index(), shots, &mDesk.window);
+  dialog.setTraceOptions(mDesk.ui.showTracesWidget->options());
+  dialog.exec();
+  if (dialog.changedDocument()) takeFilteredCopies(work, {});
+}
+
+}  // namespace talvesk

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/presenters/Desk.h"
+
+#include <QObject>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace talvesk {
+
+struct FilterOutcome;
+
+/// What is computed from the traces: picks and filtered copies.
+class ProcessingPresenter : public QObject {
+  Q_DECLARE_TR_FUNCTIONS(talvesk::Talvesk_MainWindows)
+
+ public:
+  explicit ProcessingPresenter(Desk& desk) : mDesk(desk) {}
+
+  // Of the shot in view, or of all shots where all traces are shown (Settings::showAllTraces).
+
+  void autoPick();
+  void filter();  ///< by its dialog
+  void agc();
+  void hushel();
+
+ private:
+  std::vector<std::int32_t> shotsToProcess() const;
+  void forEachShot(const std::vector<std::int32_t>& shots, const QString& text,
+                   const std::function<void(std::int32_t)>& work);
+  void makeFilteredCopies(Message step, const QString& text,
+                          const std::function<FilterOutcome(TomoDocument&, std::int32_t)>& filter);
+  void takeFilteredCopies(const TomoDocument& work, Message step);
+
+  Desk& mDesk;
+};
+
+}  // namespace talvesk

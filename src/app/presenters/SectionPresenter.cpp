@@ -1,0 +1,133 @@
+#include "app/presenters/SectionPresenter.h"
+
+#include "figures/ProfileLines.h"
+#include "model/GroundModel.h"
+#include "model/SurveyFacts.h"
+#include "model/TomographyOutcome.h"
+#include "ui_Talvesk_MainWindows.h"
+#include "widgets/SectionView.h"
+
+#include <QLabel>
+#include <QLocale>
+#include <utility>
+
+namespace talvesk {
+
+SectionPresenter::SectionPresenter(Desk& desk) : mDesk(desk) {
+  const SectionView* view = desk.ui.vtk_widget;
+  connect(view, &SectionView::cursorMoved, this, &SectionPresenter::showCursor);
+  connect(view, &SectionView::cursorLeft, desk.cursorLabel, &QLabel::clear);
+  connect(view, &SectionView::exaggerationChanged, this, [this](double factor) {
+    mDesk.session.setView(
+        [factor](SectionViewSettings& section) { section.verticalExaggeration = factor; });
+  });
+  mSubscription = desk.session.subscribe([this](const SurveyChange& change) {
+    if (showsOtherwise(change)) refresh();
+  });
+}
+
+void SectionPresenter::show(bool SectionViewSettings::*what, bool shown) {
+  change([=](SectionViewSettings& section) { section.*what = shown; });
+}
+
+void SectionPresenter::showRefraction(bool shown) {
+  mDesk.session.setView([shown](SectionViewSettings& section) { section.refraction = shown; });
+}
+
+void SectionPresenter::change(const std::function<void(SectionViewSettings&)>& change) {
+  mDesk.showSection();
+  mDesk.session.setView(change);
+}
+
+void SectionPresenter::chooseQuantity(SectionQuantity quantity, bool chosen) {
+  change([quantity, chosen](SectionViewSettings& section) {
+    section.quantity = chosen ? quantity : SectionQuantity::kVelocity;
+    if (chosen) section.profile = true;
+  });
+}
+
+void SectionPresenter::chooseGeophones(GeophoneMarkers size) {
+  change([size](SectionViewSettings& section) { section.geophones = size; });
+}
+
+void SectionPresenter::resetView() {
+  mDesk.showSection();
+  mDesk.ui.vtk_widget->resetView();
+}
+
+/// The legend of the layered profile follows the picks: they may be others than those that it was
+/// built from.
+bool SectionPresenter::showsOtherwise(const SurveyChange& change) const {
+  PartSet drawn = PartSet::all();
+  drawn.remove(Part::kRecordings);
+  drawn.remove(Part::kMap);
+  drawn.remove(Part::kPicks);
+  if (change.parts.any(drawn)) return true;
+  const SectionScene* scene = mDesk.ui.vtk_widget->scene();
+  if (scene == nullptr || scene->refractors.empty()) return false;
+  const std::vector<SectionLine> now = refractors();
+  return !now.empty() && now.front().name != scene->refractors.front().name;
+}
+
+std::vector<SectionLine> SectionPresenter::refractors() const {
+  return profileLines(mDesk.document(), mDesk.interpretation());
+}
+
+QString SectionPresenter::whyNoSection() const {
+  const QString heading = QStringLiteral("<h2>%1</h2><p>%2</p>");
+  if (mDesk.document().ttArray.empty()) {
+    return heading.arg(tr("No section yet"),
+                       tr("Load shot files or travel times with the File menu first."));
+  }
+  if (!mDesk.document().model->grid) {
+    return heading.arg(tr("No section yet"),
+                       tr("Build a grid with <b>Project &gt; Grid ...</b>, then invert the picks "
+                          "with <b>Processing &gt; Run tomography inversion</b>."));
+  }
+  if (mDesk.document().model->grid->cellCount() == 0) {
+    return heading.arg(tr("The grid has no cells"),
+                       tr("Build another one with <b>Project &gt; Grid ...</b> and give it a depth "
+                          "greater than the cell size."));
+  }
+  return heading.arg(tr("Nothing to draw"), tr("No cell of the grid has a value to show."));
+}
+
+void SectionPresenter::refresh() {
+  // A new grid has no information density until it is inverted.
+  if (mDesk.section().quantity == SectionQuantity::kInformationDensity &&
+      !hasInformationDensity(mDesk.document())) {
+    mDesk.session.amend(
+        [](Survey& survey) { survey.section.quantity = SectionQuantity::kVelocity; });
+  }
+  auto scene = std::make_shared<SectionScene>();
+  const Status built = buildSectionScene(mDesk.document(), mDesk.section(),
+                                         mDesk.palettes().current(), refractors(), *scene);
+  if (built.ok()) {
+    mDesk.ui.vtk_widget->showScene(std::move(scene), mDesk.palettes().current(), mDesk.section());
+  } else {
+    mDesk.ui.vtk_widget->showText(whyNoSection());
+  }
+}
+
+void SectionPresenter::showCursor(const SectionReading& reading) {
+  const QLocale locale;
+  QStringList parts = {tr("Distance %1 m").arg(locale.toString(reading.position.x, 'f', 2)),
+                       tr("Elevation %1 m").arg(locale.toString(reading.position.z, 'f', 2))};
+  if (reading.depth) parts << tr("Depth %1 m").arg(locale.toString(*reading.depth, 'f', 2));
+  // What is not shown is not read either.
+  if (reading.velocity && mDesk.section().profile) {
+    parts << tr("Velocity %1 m/s").arg(locale.toString(*reading.velocity, 'f', 0));
+  }
+  if (reading.value && mDesk.section().profile &&
+      mDesk.section().quantity != SectionQuantity::kVelocity) {
+    const QString value = locale.toString(*reading.value, 'g', 4);
+    parts << (mDesk.section().quantity == SectionQuantity::kVerticalGradient
+                  ? tr("Gradient %1 1/s").arg(value)
+              : mDesk.section().quantity == SectionQuantity::kLaplacian
+                  ? tr("Laplacian %1 1/(m\u00B7s)").arg(value)
+                  : tr("Information density %1").arg(value));
+  }
+  mDesk.cursorLabel->setText(parts.join(QStringLiteral("   ")));
+}
+
+}  // namespace talvesk

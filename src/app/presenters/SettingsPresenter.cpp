@@ -1,0 +1,50 @@
+#include "app/presenters/SettingsPresenter.h"
+
+#include "app/SettingsDialog.h"
+
+namespace talvesk {
+
+SettingsPresenter::SettingsPresenter(Desk& desk) : mDesk(desk) {
+  if (desk.settings.load()) {
+    changeLanguage(mLanguages.indexOf(QString::fromStdString(desk.settings.language)));
+  } else {
+    mFirstRun = true;
+  }
+  // English without its file has no plurals: "1 shot file(s)".
+  if (mLanguages.current() < 0) {
+    desk.settings.language = "en";
+    mLanguages.use(mLanguages.indexOf(QStringLiteral("en")), desk.log);
+  }
+}
+
+void SettingsPresenter::askAtFirstRun() {
+  if (!mFirstRun) return;
+  mFirstRun = false;
+  askFor(-1);
+  mDesk.saveSettings();  // after Cancel, too: nobody is asked twice
+}
+
+void SettingsPresenter::ask() {
+  if (askFor(mLanguages.current())) mDesk.saveSettings();
+}
+
+/// \param language to propose, an index in the list; -1 proposes that of the system
+bool SettingsPresenter::askFor(int language) {
+  SettingsDialog dialog(mLanguages.list(), language, mDesk.settings, &mDesk.window);
+  if (dialog.exec() != QDialog::Accepted) return false;
+  dialog.apply(mDesk.settings);
+  changed();
+  if (dialog.languageIndex() != mLanguages.current()) changeLanguage(dialog.languageIndex());
+  return true;
+}
+
+void SettingsPresenter::changeLanguage(int index) {
+  if (index < 0) return;
+  if (mLanguages.use(index, mDesk.log)) {
+    if (languageChanged) languageChanged();
+    mDesk.settings.language = mLanguages.list()[static_cast<std::size_t>(index)].code.toStdString();
+  }
+  mDesk.saveSettings();
+}
+
+}  // namespace talvesk

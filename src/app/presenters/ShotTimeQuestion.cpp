@@ -1,0 +1,38 @@
+#include "app/presenters/ShotTimeQuestion.h"
+
+#include "app/Messages.h"
+#include "app/presenters/Desk.h"
+#include "model/Recordings.h"
+#include "processing/ShotTime.h"
+
+#include <algorithm>
+
+namespace talvesk {
+
+void askForShotTime(Desk& desk, const std::vector<std::size_t>& sets) {
+  double earliest = 0.0;
+  for (const std::size_t set : sets) {
+    for (const Trace& trace : desk.document().recordings->traceSets[set])
+      earliest = std::min(earliest, trace.delay);
+  }
+  if (earliest >= 0.0) return;
+  const bool yes = askYesNo(
+      &desk.window, Desk::tr("Recording delay"),
+      Desk::tr("The records start before the shot, by up to %1 ms.").arg(-1000.0 * earliest),
+      Desk::tr(
+          "Do you want to count times from the shot? What was recorded before it is then dropped."),
+      true);
+  if (!yes) return;
+  ShotTimeOutcome outcome;
+  // Only the new records: picks on the older ones count from where those start now.
+  desk.edit(Edit::kShotTime, [&](Survey& survey) {
+    outcome = countTimeFromShot(survey.document.recordings.edit().traceSets, sets);
+  });
+  if (outcome.leftAsRecorded > 0) {
+    showNote(&desk.window, Desk::tr("Recording delay"),
+             Desk::tr("%n trace(s) end before the shot and stay as recorded.", nullptr,
+                      static_cast<int>(outcome.leftAsRecorded)));
+  }
+}
+
+}  // namespace talvesk

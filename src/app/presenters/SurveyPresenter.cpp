@@ -1,0 +1,71 @@
+#include "app/presenters/SurveyPresenter.h"
+
+#include "app/InversionTexts.h"
+#include "app/MessageText.h"
+#include "model/Residuals.h"
+#include "model/SurveyFacts.h"
+#include "model/TomographyOutcome.h"
+#include "ui_Talvesk_MainWindows.h"
+
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLabel>
+
+namespace talvesk {
+
+SurveyPresenter::SurveyPresenter(Desk& desk)
+    : mDesk(desk),
+      mMisfitLabel(new QLabel(&desk.window)),
+      mSubscription(desk.session.subscribe([this](const SurveyChange&) { refresh(); })) {
+  mMisfitLabel->setObjectName(QStringLiteral("misfitLabel"));
+  mMisfitLabel->setMinimumWidth(1);  // a long text must not widen the window
+  desk.ui.statusBar->insertPermanentWidget(0, mMisfitLabel);
+}
+
+void SurveyPresenter::refresh() {
+  refreshMisfit();
+  refreshTitle();
+  refreshUndoTexts();
+}
+
+void SurveyPresenter::askForTitle() {
+  bool accepted = false;
+  const QString title =
+      QInputDialog::getText(&mDesk.window, tr("Project title"), tr("&Title:"), QLineEdit::Normal,
+                            QString::fromStdString(mDesk.document().title), &accepted);
+  if (!accepted || title.toStdString() == mDesk.document().title) return;
+  mDesk.edit(Edit::kTitle, [&](Survey& survey) { survey.document.title = title.toStdString(); });
+}
+
+/// The misfit of the section stays in view, and whether it still is that of the picks it was fitted
+/// to.
+void SurveyPresenter::refreshMisfit() {
+  QString text = sectionMisfitText(sectionMisfitOf(mDesk.document()));
+  if (!text.isEmpty() && picksChangedSince(mDesk.document())) {
+    text += QLatin1Char(' ') + tr("Picks have changed since.");
+  }
+  mMisfitLabel->setText(text);
+  mMisfitLabel->setVisible(!text.isEmpty());
+}
+
+void SurveyPresenter::refreshTitle() {
+  QString title = tr("Talvesk 2022.0") + QStringLiteral("[*]");
+  for (QString part : {QFileInfo(mDesk.project.path()).fileName(),
+                       QString::fromStdString(mDesk.document().title)}) {
+    // Two markers are how Qt writes one that is not its own.
+    part.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    if (!part.isEmpty()) title += QStringLiteral(" - ") + part;
+  }
+  mDesk.window.setWindowTitle(title);
+  mDesk.window.setWindowModified(mDesk.session.modified());
+}
+
+/// The menu says what would be undone; the form has the texts for when there is nothing.
+void SurveyPresenter::refreshUndoTexts() {
+  const Message undo = mDesk.session.undoText();
+  const Message redo = mDesk.session.redoText();
+  mDesk.ui.actionUndo->setText(undo.empty() ? tr("Undo") : tr("Undo \"%1\"").arg(textOf(undo)));
+  mDesk.ui.actionRedo->setText(redo.empty() ? tr("Redo") : tr("Redo \"%1\"").arg(textOf(redo)));
+}
+
+}  // namespace talvesk

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/presenters/Desk.h"
+
+#include <QObject>
+
+namespace talvesk {
+
+/// What the frame of the window says of the survey as a whole: title, misfit, what can be undone.
+class SurveyPresenter : public QObject {
+  Q_DECLARE_TR_FUNCTIONS(talvesk::Talvesk_MainWindows)
+
+ public:
+  explicit SurveyPresenter(Desk& desk);
+
+  void askForTitle();
+  void refresh();  ///< where the session does not tell: file and language
+
+ private:
+  void refreshMisfit();
+  void refreshTitle();
+  void refreshUndoTexts();
+
+  Desk& mDesk;
+  QLabel* mMisfitLabel;
+  Session::Subscription mSubscription;
+};
+
+}  // namespace talvesk

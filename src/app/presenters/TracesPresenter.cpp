@@ -1,0 +1,117 @@
+#include "app/presenters/TracesPresenter.h"
+
+#include "app/MessageText.h"
+#include "app/RecordingDetailsDialog.h"
+#include "model/Recordings.h"
+#include "model/SurveyGeometry.h"
+#include "ui_Talvesk_MainWindows.h"
+#include "widgets/editTravelTimesWidget.h"
+
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLocale>
+
+namespace talvesk {
+
+TracesPresenter::TracesPresenter(Desk& desk) : mDesk(desk), mChooser(new QComboBox(&desk.window)) {
+  addChooser();
+  connectEditors();
+  connect(&desk.shot, &ShotInView::changed, this, &TracesPresenter::showShot);
+  mSubscription = desk.session.subscribe([this](const SurveyChange& change) {
+    const auto has = [&change](Part part) { return change.parts.has(part); };
+    const bool opened = change.kind == SurveyChange::Kind::kOpened;
+    if (opened || has(Part::kRecordings) || has(Part::kGeometry)) showRecords();
+    if (!has(Part::kGeometry) && !has(Part::kResult)) return;
+    for (editTravelTimesWidget* editor : mDesk.editors()) editor->update();
+  });
+}
+
+void TracesPresenter::addChooser() {
+  mChooser->setObjectName(QStringLiteral("shotCBox"));
+  mChooser->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  mChooser->setMinimumContentsLength(12);
+  mDesk.ui.toolBar->insertWidget(mDesk.ui.actionNext_file, mChooser);
+  connect(mChooser, QOverload<int>::of(&QComboBox::activated), &mDesk.shot, &ShotInView::show);
+}
+
+void TracesPresenter::connectEditors() {
+  for (editTravelTimesWidget* editor : mDesk.editors()) {
+    editor->setSession(mDesk.session);
+    connect(editor, &editTravelTimesWidget::cursorMoved, this,
+            [this, editor](const TraceCursor& cursor) {
+              if (!editor->isHidden()) showCursor(cursor);
+            });
+  }
+  connect(mDesk.ui.showTracesWidget, &editTravelTimesWidget::shotEdited, &mDesk.shot,
+          &ShotInView::show);
+}
+
+void TracesPresenter::showRecords() {
+  showShot();
+  mDesk.ui.tracesStack->setCurrentWidget(mDesk.document().ttArray.empty()
+                                             ? mDesk.ui.emptyPage
+                                             : static_cast<QWidget*>(mDesk.ui.splitter));
+  refreshChooser();
+}
+
+void TracesPresenter::showShot() {
+  for (editTravelTimesWidget* editor : mDesk.editors()) editor->setShot(mDesk.shot.index());
+  mChooser->setEnabled(!mDesk.document().ttArray.empty());
+  mChooser->setCurrentIndex(mDesk.shot.index());
+}
+
+void TracesPresenter::retranslate() {
+  mChooser->setAccessibleName(tr("Shot in view"));
+  mChooser->setToolTip(tr("The shot in view"));
+  refreshChooser();
+}
+
+void TracesPresenter::refreshChooser() {
+  mChooser->clear();
+  const QLocale locale;
+  for (std::size_t i = 0; i < mDesk.document().ttArray.size(); ++i) {
+    const TravelTime& record = mDesk.document().ttArray[i];
+    const QString place = tr("%1 m").arg(locale.toString(record.shotPos2d.x, 'f', 1));
+    const auto number = static_cast<int>(i + 1);
+    const std::string file = shotFile(mDesk.document(), i);
+    const QString text = !file.empty()
+                             ? tr("%1: %2 at %3", "shot number, file, place")
+                                   .arg(number)
+                                   .arg(QFileInfo(QString::fromStdString(file)).fileName(), place)
+                             : tr("%1: at %2", "shot number, place").arg(number).arg(place);
+    mChooser->addItem(text);
+  }
+  mChooser->setCurrentIndex(mDesk.shot.index());
+}
+
+void TracesPresenter::showCursor(const TraceCursor& cursor) {
+  if (cursor.trace < 0 || mDesk.ui.tabWidget->currentWidget() != mDesk.ui.tab_3) {
+    mDesk.cursorLabel->clear();
+    return;
+  }
+  const QLocale locale;
+  QStringList parts = {tr("Trace %1").arg(cursor.trace + 1)};
+  if (cursor.offset) parts << tr("Offset %1 m").arg(locale.toString(*cursor.offset, 'f', 1));
+  if (cursor.time) parts << tr("Time %1 ms").arg(locale.toString(1000.0 * *cursor.time, 'f', 2));
+  if (cursor.pick) {
+    const QString pick = locale.toString(1000.0 * *cursor.pick, 'f', 2);
+    parts << (cursor.pickIsAutomatic ? tr("Pick %1 ms (automatic)").arg(pick)
+                                     : tr("Pick %1 ms").arg(pick));
+  }
+  if (cursor.amplitude) {
+    parts << tr("Amplitude %1").arg(locale.toString(*cursor.amplitude, 'g', 4));
+  }
+  mDesk.cursorLabel->setText(parts.join(QStringLiteral("   ")));
+}
+
+void TracesPresenter::showDetails() {
+  std::vector<RecordingInfo> files;
+  for (const RecordingNote& note : mDesk.document().recordings->notes) {
+    files.push_back({QString::fromStdString(note.format), linesOf(note.warnings)});
+  }
+  files.resize(mDesk.document().recordings->traceSets.size());
+  RecordingDetailsDialog(mDesk.document(), files, mDesk.shot.index(), &mDesk.window).exec();
+}
+
+}  // namespace talvesk

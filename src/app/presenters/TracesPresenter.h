@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/presenters/Desk.h"
+
+#include <QObject>
+
+class QComboBox;
+
+namespace talvesk {
+
+struct TraceCursor;
+
+/// The traces of the shot in view: which shot it is, and what is under the mouse.
+class TracesPresenter : public QObject {
+  Q_DECLARE_TR_FUNCTIONS(talvesk::Talvesk_MainWindows)
+
+ public:
+  explicit TracesPresenter(Desk& desk);
+
+  void showDetails();  ///< what the files of the recordings say of them
+  void retranslate();
+
+ private:
+  void addChooser();
+  void connectEditors();
+  void showRecords();
+  void showShot();
+  void refreshChooser();
+  void showCursor(const TraceCursor& cursor);
+
+  Desk& mDesk;
+  QComboBox* mChooser;
+  Session::Subscription mSubscription;
+};
+
+}  // namespace talvesk
