@@ -302,6 +302,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionNext_file",
         "actionPrev_file",
         "actionRecording_details",
+        "actionRemove_shot",
         "actionUndo",
         "actionGain_up",
         "actionGain_down",

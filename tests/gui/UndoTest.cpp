@@ -236,6 +236,33 @@ TEST_F(Undo, bringsBackWhatAnImportReplaced) {
   EXPECT_EQ(window->document().ttArray[0].ttMisurati[3], kUnpicked) << "older steps are there, too";
 }
 
+TEST_F(Undo, bringsBackAShotThatWasRemoved) {
+  loadShots(3);
+  window->showFile(1);
+  const Survey before = window->session().survey();
+  action("actionRemove_shot").trigger();
+  EXPECT_EQ(window->document().ttArray.size(), 2U);
+  EXPECT_EQ(window->currentFile(), 1);
+  EXPECT_THAT(window->statusBar()->currentMessage().toStdString(),
+              ::testing::HasSubstr("Shot 2 is removed"));
+  action("actionUndo").trigger();
+  EXPECT_TRUE(isSame(window->session().survey(), before));
+  for (int i = 0; i < 3; ++i) action("actionRemove_shot").trigger();
+  EXPECT_TRUE(window->document().ttArray.empty());
+  EXPECT_FALSE(action("actionRemove_shot").isEnabled());
+}
+
+TEST_F(Undo, saysWhenTheOldestStepsHaveGone) {
+  loadShots(2);
+  window->session().setUndoMemory(1);
+  action("actionAGC").trigger();
+  EXPECT_THAT(window->statusBar()->currentMessage().toStdString(),
+              ::testing::Not(::testing::HasSubstr("oldest")));
+  child<editTravelTimesWidget>("showTracesWidget").editPick(0, 3, 0.0161);
+  EXPECT_THAT(window->statusBar()->currentMessage().toStdString(),
+              ::testing::HasSubstr("The oldest steps can no longer be undone"));
+}
+
 TEST_F(Undo, redoNeedsNoFiles) {
   loadShots(2);
   const double sample = window->document().recordings->traceSets[1][4].samples[120];

@@ -100,6 +100,7 @@ Rows shotRows(Desk& desk, Presenters& p) {
       {"actionNext_file", &State::records, call(desk.shot, &ShotInView::showNext)},
       {"actionPrev_file", &State::records, call(desk.shot, &ShotInView::showPrevious)},
       {"actionRecording_details", &State::traces, call(p.traces, &TracesPresenter::showDetails)},
+      {"actionRemove_shot", &State::recordInView, call(p.traces, &TracesPresenter::removeShot)},
       {"actionUndo", &State::canUndo, call(desk.session, &Session::undo)},
       {"actionRedo", &State::canRedo, call(desk.session, &Session::redo)},
       {"actionConfirm_picks", &State::unconfirmedInRange,

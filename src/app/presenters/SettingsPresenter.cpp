@@ -10,6 +10,7 @@ SettingsPresenter::SettingsPresenter(Desk& desk) : mDesk(desk) {
   } else {
     mFirstRun = true;
   }
+  boundUndo();
   // English without its file has no plurals: "1 shot file(s)".
   if (mLanguages.current() < 0) {
     desk.settings.language = "en";
@@ -33,9 +34,14 @@ bool SettingsPresenter::askFor(int language) {
   SettingsDialog dialog(mLanguages.list(), language, mDesk.settings, &mDesk.window);
   if (dialog.exec() != QDialog::Accepted) return false;
   dialog.apply(mDesk.settings);
+  boundUndo();
   changed();
   if (dialog.languageIndex() != mLanguages.current()) changeLanguage(dialog.languageIndex());
   return true;
+}
+
+void SettingsPresenter::boundUndo() {
+  mDesk.session.setUndoMemory(static_cast<std::size_t>(mDesk.settings.undoMegabytes) << 20);
 }
 
 void SettingsPresenter::changeLanguage(int index) {

@@ -24,6 +24,7 @@ class SettingsPresenter : public QObject {
 
  private:
   bool askFor(int language);
+  void boundUndo();
   void changeLanguage(int index);
 
   Desk& mDesk;

@@ -26,6 +26,17 @@ void SurveyPresenter::refresh() {
   refreshMisfit();
   refreshTitle();
   refreshUndoTexts();
+  tellDroppedSteps();
+}
+
+/// Once for every time that some went.
+void SurveyPresenter::tellDroppedSteps() {
+  const std::size_t dropped = mDesk.session.droppedSteps();
+  if (dropped > mDroppedSteps) {
+    mDesk.tell(tr("The oldest steps can no longer be undone: they needed more than %1 MB.")
+                   .arg(mDesk.settings.undoMegabytes));
+  }
+  mDroppedSteps = dropped;
 }
 
 void SurveyPresenter::askForTitle() {

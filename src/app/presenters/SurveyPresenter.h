@@ -20,9 +20,11 @@ class SurveyPresenter : public QObject {
   void refreshMisfit();
   void refreshTitle();
   void refreshUndoTexts();
+  void tellDroppedSteps();
 
   Desk& mDesk;
   QLabel* mMisfitLabel;
+  std::size_t mDroppedSteps = 0;  ///< that were told
   Session::Subscription mSubscription;
 };
 

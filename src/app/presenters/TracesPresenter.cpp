@@ -1,9 +1,11 @@
 #include "app/presenters/TracesPresenter.h"
 
+#include "app/LossQuestion.h"
 #include "app/MessageText.h"
 #include "app/RecordingDetailsDialog.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
+#include "session/RemoveShots.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/editTravelTimesWidget.h"
 
@@ -59,6 +61,20 @@ void TracesPresenter::showShot() {
   for (editTravelTimesWidget* editor : mDesk.editors()) editor->setShot(mDesk.shot.index());
   mChooser->setEnabled(!mDesk.document().ttArray.empty());
   mChooser->setCurrentIndex(mDesk.shot.index());
+}
+
+void TracesPresenter::removeShot() {
+  const int shot = mDesk.shot.index();
+  if (shot < 0) return;
+  const std::vector<std::size_t> shots = {static_cast<std::size_t>(shot)};
+  Survey without = mDesk.survey();
+  removeShots(shots, without);
+  Losses losses;
+  losses.model = modelLoss(mDesk.document(), without.document.surveyProfile());
+  losses.interpretation = isInterpreted(mDesk.interpretation());
+  if (!mayLose(&mDesk.window, mDesk.document(), losses)) return;
+  if (!mDesk.edit(Edit::kRemoveShot, [&](Survey& survey) { removeShots(shots, survey); })) return;
+  mDesk.tell(tr("Shot %1 is removed; Undo brings it back.").arg(shot + 1));
 }
 
 void TracesPresenter::retranslate() {

@@ -18,6 +18,7 @@ class TracesPresenter : public QObject {
   explicit TracesPresenter(Desk& desk);
 
   void showDetails();  ///< what the files of the recordings say of them
+  void removeShot();   ///< the one in view, with its recording and picks
   void retranslate();
 
  private:
