@@ -1,9 +1,9 @@
 // Saving and loading a long line. The counter says how much memory the process had at its peak, the
 // survey included, in sizes of the survey's samples.
 #include "base/Console.h"
-#include "io/ProjectWriter.h"
 #include "io/ShotLoader.h"
-#include "io/projectReader.h"
+#include "io/project/ProjectWriter.h"
+#include "io/project/projectReader.h"
 #include "model/Recordings.h"
 #include "support/ShotFiles.h"
 

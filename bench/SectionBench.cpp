@@ -5,8 +5,8 @@
 #include "support/TestGrids.h"
 #include "view/SectionScene.h"
 #include "view/SectionViewSettings.h"
-#include "widgets/SectionSurface.h"
-#include "widgets/SectionView.h"
+#include "widgets/section/SectionSurface.h"
+#include "widgets/section/SectionView.h"
 
 #include <QApplication>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
-#include "widgets/TraceMapping.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/TraceMapping.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QApplication>
 #include <QImage>

@@ -1,6 +1,6 @@
 #include "app/LeftOutText.h"
 
-#include "app/GeometryTexts.h"
+#include "app/dialogs/GeometryTexts.h"
 #include "model/LeftOut.h"
 
 #include <QCoreApplication>

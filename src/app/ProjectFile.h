@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/FileStamp.h"
-#include "io/ProjectLock.h"
+#include "io/project/ProjectLock.h"
 
 #include <QString>
 #include <memory>

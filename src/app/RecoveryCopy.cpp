@@ -2,7 +2,7 @@
 
 #include "app/MessageText.h"
 #include "base/AtomicFile.h"
-#include "io/ProjectWriter.h"
+#include "io/project/ProjectWriter.h"
 
 #include <QDir>
 #include <QFile>

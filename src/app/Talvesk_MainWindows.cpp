@@ -8,7 +8,7 @@
 #include "io/FileFormats.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QAction>
 #include <QCloseEvent>

@@ -4,7 +4,7 @@
 #include "app/Termination.h"
 #include "base/FileReplacement.h"
 #include "base/StandardStreams.h"
-#include "widgets/SectionSurface.h"
+#include "widgets/section/SectionSurface.h"
 
 #include <QApplication>
 #include <QSessionManager>

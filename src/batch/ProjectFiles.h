@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
-#include "io/projectReader.h"
+#include "io/project/projectReader.h"
 
 #include <iosfwd>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "base/Status.h"
 #include "batch/Options.h"
-#include "figures/Report.h"
+#include "figures/report/Report.h"
 
 #include <string>
 

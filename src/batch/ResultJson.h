@@ -2,7 +2,7 @@
 
 #include "io/ShotRecord.h"
 #include "io/TravelTimeData.h"
-#include "io/projectReader.h"
+#include "io/project/projectReader.h"
 #include "model/TomoDocument.h"
 #include "tomo/TomographyRun.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/Shared.h"
-#include "io/OwnMembers.h"
 #include "io/TemporaryFolder.h"
+#include "io/project/OwnMembers.h"
 #include "model/RefractionDataStructure.h"
 #include "model/TomoDocument.h"
 #include "view/ColorPalette.h"

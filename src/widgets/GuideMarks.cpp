@@ -1,7 +1,7 @@
 #include "widgets/GuideMarks.h"
 
-#include "widgets/TraceGuides.h"
-#include "widgets/TraceTags.h"
+#include "widgets/traces/TraceGuides.h"
+#include "widgets/traces/TraceTags.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>

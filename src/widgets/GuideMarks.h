@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/WigglePainter.h"
+#include "widgets/traces/WigglePainter.h"
 
 #include <QPointF>
 #include <QRectF>

@@ -1,7 +1,7 @@
 #include "widgets/LinePlan.h"
 
-#include "widgets/TraceColors.h"
 #include "widgets/PlotGestures_tools.h"
+#include "widgets/traces/TraceColors.h"
 
 #include <QHelpEvent>
 #include <QLocale>

@@ -1,6 +1,6 @@
 #include "widgets/MisfitPlot.h"
 
-#include "widgets/TraceColors.h"
+#include "widgets/traces/TraceColors.h"
 
 #include <QPen>
 #include <QPolygonF>

@@ -1,6 +1,6 @@
 #include "widgets/PlotDress.h"
 
-#include "widgets/TraceColors.h"
+#include "widgets/traces/TraceColors.h"
 
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>

@@ -2,7 +2,7 @@
 
 #include "widgets/PlotDress.h"
 #include "widgets/PlotOverlay.h"
-#include "widgets/TraceColors.h"
+#include "widgets/traces/TraceColors.h"
 
 #include <QEvent>
 #include <QLabel>

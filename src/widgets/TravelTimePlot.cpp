@@ -1,8 +1,8 @@
 #include "widgets/TravelTimePlot.h"
 
 #include "model/TomoDocument.h"
-#include "widgets/TraceColors.h"
 #include "widgets/TravelTimePlot_state.h"
+#include "widgets/traces/TraceColors.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

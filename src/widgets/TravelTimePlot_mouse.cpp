@@ -1,7 +1,7 @@
 #include "model/Recordings.h"
 #include "model/TomoDocument.h"
-#include "widgets/TravelTimePlot_state.h"
 #include "widgets/PlotGestures_tools.h"
+#include "widgets/TravelTimePlot_state.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>

@@ -1,5 +1,5 @@
-#include "app/DialogSetGeometry.h"
 #include "app/FileFolders.h"
+#include "app/dialogs/DialogSetGeometry.h"
 #include "gui/ModalScript.h"
 #include "io/SegyFile.h"
 #include "model/SurveyLine.h"

@@ -1,7 +1,7 @@
 #include "app/HelpKey.h"
 #include "app/HelpTargets.h"
-#include "app/SettingsDialog.h"
-#include "app/smoothingDialog.h"
+#include "app/dialogs/SettingsDialog.h"
+#include "app/dialogs/smoothingDialog.h"
 #include "base/Settings.h"
 
 #include <QComboBox>

@@ -1,5 +1,5 @@
 #include "app/Languages.h"
-#include "app/SettingsDialog.h"
+#include "app/dialogs/SettingsDialog.h"
 #include "base/Settings.h"
 
 #include <gtest/gtest.h>

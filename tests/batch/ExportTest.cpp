@@ -1,5 +1,5 @@
 #include "batch/BatchRunner.h"
-#include "io/ProjectWriter.h"
+#include "io/project/ProjectWriter.h"
 #include "model/GeographicsCoord.h"
 #include "support/ConsoleCapture.h"
 #include "support/SectionDocument.h"

@@ -1,8 +1,8 @@
 #include "app/FileFolders.h"
-#include "app/contourlines_dialog.h"
+#include "app/dialogs/contourlines_dialog.h"
 #include "gui/WindowTest.h"
 #include "support/SectionDocument.h"
-#include "widgets/SectionView.h"
+#include "widgets/section/SectionView.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,11 +1,11 @@
-#include "app/doFilteringDialog.h"
+#include "app/dialogs/doFilteringDialog.h"
 #include "gui/ModalScript.h"
 #include "model/Recordings.h"
 #include "processing/TraceFilters.h"
 #include "support/ConsoleCapture.h"
 #include "support/ShotDocument.h"
 #include "widgets/SpectrumPlot.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>

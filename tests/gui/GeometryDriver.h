@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/DialogSetGeometry.h"
-#include "app/GeometryTables.h"
-#include "app/SelectCSVDelimiterDialog.h"
+#include "app/dialogs/DialogSetGeometry.h"
+#include "app/dialogs/GeometryTables.h"
+#include "app/dialogs/SelectCSVDelimiterDialog.h"
 #include "gui/WindowTest.h"
 #include "model/SurveyLine.h"
 #include "widgets/SpreadsheetView.h"

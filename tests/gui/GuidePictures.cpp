@@ -1,14 +1,14 @@
 // The pictures of the user guide, taken from the program at work on the demo line. See
 // scripts/guide-pictures.
 #include "app/Talvesk_MainWindows.h"
-#include "app/doFilteringDialog.h"
-#include "app/progressTomographyDialog.h"
-#include "app/setVelocityWidget.h"
+#include "app/dialogs/doFilteringDialog.h"
+#include "app/dialogs/progressTomographyDialog.h"
+#include "app/dialogs/setVelocityWidget.h"
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
 #include "gui/GuideCamera.h"
-#include "widgets/SectionSurface.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/section/SectionSurface.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,6 +1,6 @@
-#include "app/gridDialog.h"
-#include "app/progressTomographyDialog.h"
-#include "app/runTomography_Dialog.h"
+#include "app/dialogs/gridDialog.h"
+#include "app/dialogs/progressTomographyDialog.h"
+#include "app/dialogs/runTomography_Dialog.h"
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
@@ -8,7 +8,7 @@
 #include "model/TomographyOutcome.h"
 #include "support/TestSurveys.h"
 #include "tomo/Misfit.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #include "gui/ModalScript.h"
 
-#include "app/progressDialog.h"
+#include "app/dialogs/progressDialog.h"
 
 #include <QAbstractButton>
 #include <QApplication>

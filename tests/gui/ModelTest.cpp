@@ -1,4 +1,4 @@
-#include "app/gridDialog.h"
+#include "app/dialogs/gridDialog.h"
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"

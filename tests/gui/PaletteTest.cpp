@@ -1,10 +1,10 @@
 #include "app/FileFolders.h"
-#include "app/PaletteDialog.h"
+#include "app/dialogs/PaletteDialog.h"
 #include "gui/WindowTest.h"
 #include "io/PaletteFile.h"
 #include "support/SectionDocument.h"
 #include "widgets/ColorPaletteWidget.h"
-#include "widgets/SectionView.h"
+#include "widgets/section/SectionView.h"
 
 #include <QCheckBox>
 #include <QComboBox>

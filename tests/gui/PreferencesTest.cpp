@@ -2,7 +2,7 @@
 #include "app/LineIcon.h"
 #include "base/Log.h"
 #include "gui/WindowTest.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QApplication>
 #include <QCheckBox>

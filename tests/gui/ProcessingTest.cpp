@@ -1,7 +1,7 @@
 #include "gui/WindowTest.h"
 #include "model/Recordings.h"
 #include "support/ShotDocument.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 #include "app/RecoveryCopy.h"
 #include "gui/ProjectsTest.h"
-#include "io/ProjectWriter.h"
-#include "io/projectReader.h"
+#include "io/project/ProjectWriter.h"
+#include "io/project/projectReader.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/TomographyOutcome.h"
@@ -9,7 +9,7 @@
 #include "support/TestSurveys.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/TomographyRun.h"
-#include "widgets/SectionView.h"
+#include "widgets/section/SectionView.h"
 
 #include <QDir>
 #include <QElapsedTimer>

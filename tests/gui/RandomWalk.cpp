@@ -1,6 +1,6 @@
 #include "app/Talvesk_MainWindows.h"
 #include "support/TestFolder.h"
-#include "widgets/SectionSurface.h"
+#include "widgets/section/SectionSurface.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>

@@ -1,5 +1,5 @@
 #include "gui/ProjectsTest.h"
-#include "io/projectReader.h"
+#include "io/project/projectReader.h"
 #include "model/Recordings.h"
 
 #include <QDialog>

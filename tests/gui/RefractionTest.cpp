@@ -1,4 +1,4 @@
-#include "app/RefractionProcessingDialog.h"
+#include "app/dialogs/RefractionProcessingDialog.h"
 #include "gui/WindowTest.h"
 #include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
@@ -7,9 +7,9 @@
 #include "view/SectionScene.h"
 #include "widgets/LayerCurvesPlot.h"
 #include "widgets/RefractionProfilePlot.h"
-#include "widgets/SectionView.h"
 #include "widgets/SeriesPlot.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/section/SectionView.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QCheckBox>
 #include <QComboBox>

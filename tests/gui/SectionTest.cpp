@@ -6,7 +6,7 @@
 #include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
 #include "view/SectionScene.h"
-#include "widgets/SectionView.h"
+#include "widgets/section/SectionView.h"
 
 #include <QApplication>
 #include <QDoubleSpinBox>

@@ -6,8 +6,8 @@
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
 #include "session/FullSurvey.h"
-#include "widgets/SectionView.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/section/SectionView.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -5,7 +5,7 @@
 #include "model/TomographyOutcome.h"
 #include "support/TestSurveys.h"
 #include "tomo/GridSetup.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

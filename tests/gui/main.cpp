@@ -1,4 +1,4 @@
-#include "widgets/SectionSurface.h"
+#include "widgets/section/SectionSurface.h"
 
 #include <QApplication>
 #include <QTextCodec>

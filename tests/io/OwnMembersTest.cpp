@@ -1,4 +1,4 @@
-#include "io/OwnMembers.h"
+#include "io/project/OwnMembers.h"
 #include "model/PickFingerprint.h"
 #include "model/Recordings.h"
 #include "model/TomographyOutcome.h"

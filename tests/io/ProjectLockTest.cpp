@@ -1,4 +1,4 @@
-#include "io/ProjectLock.h"
+#include "io/project/ProjectLock.h"
 #include "support/TestFolder.h"
 
 #include <QSysInfo>

@@ -1,6 +1,6 @@
 #include "io/GeometryFile.h"
 #include "io/PaletteFile.h"
-#include "io/ProjectMembers.h"
+#include "io/project/ProjectMembers.h"
 #include "support/TestFolder.h"
 
 #include <gmock/gmock.h>

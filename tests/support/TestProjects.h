@@ -1,9 +1,9 @@
 #pragma once
 
-#include "io/ProjectWriter.h"
-#include "io/ProjectZip.h"
 #include "io/ShotLoader.h"
-#include "io/projectReader.h"
+#include "io/project/ProjectWriter.h"
+#include "io/project/ProjectZip.h"
+#include "io/project/projectReader.h"
 #include "support/ConsoleCapture.h"
 #include "support/ShotFiles.h"
 #include "support/TestFolder.h"

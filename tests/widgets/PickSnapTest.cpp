@@ -1,5 +1,5 @@
 #include "TestShots.h"
-#include "widgets/PickSnap.h"
+#include "widgets/traces/PickSnap.h"
 
 #include <cmath>
 #include <limits>

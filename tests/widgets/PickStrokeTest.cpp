@@ -1,5 +1,5 @@
 #include "model/TravelTime.h"
-#include "widgets/PickStroke.h"
+#include "widgets/traces/PickStroke.h"
 
 #include <map>
 #include <vector>

@@ -7,7 +7,7 @@
 #include "widgets/SpectrumPlot.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/draw1DVelocityProfile.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QApplication>
 #include <QMouseEvent>

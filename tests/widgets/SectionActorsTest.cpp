@@ -2,7 +2,7 @@
 #include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
 #include "view/SectionScene.h"
-#include "widgets/SectionActors.h"
+#include "widgets/section/SectionActors.h"
 
 #include <gtest/gtest.h>
 #include <vtkActor.h>

@@ -1,7 +1,7 @@
 #include "figures/SectionFigure.h"
 #include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
-#include "widgets/SectionSheet.h"
+#include "widgets/section/SectionSheet.h"
 
 #include <QBuffer>
 #include <QByteArray>

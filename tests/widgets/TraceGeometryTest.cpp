@@ -1,8 +1,8 @@
 #include "view/AxisTicks.h"
-#include "widgets/RowExtremes.h"
-#include "widgets/TraceLayout.h"
-#include "widgets/TraceMapping.h"
 #include "widgets/ViewHistory.h"
+#include "widgets/traces/RowExtremes.h"
+#include "widgets/traces/TraceLayout.h"
+#include "widgets/traces/TraceMapping.h"
 
 #include <cmath>
 #include <limits>

@@ -1,7 +1,7 @@
 #include "TestShots.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
-#include "widgets/TraceGuides.h"
+#include "widgets/traces/TraceGuides.h"
 
 #include <cmath>
 

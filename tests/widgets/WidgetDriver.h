@@ -2,8 +2,8 @@
 
 #include "TestShots.h"
 #include "session/Session.h"
-#include "widgets/TraceMapping.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/TraceMapping.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -1,6 +1,6 @@
 #include "TestShots.h"
 #include "model/Recordings.h"
-#include "widgets/WigglePainter.h"
+#include "widgets/traces/WigglePainter.h"
 
 #include <QColor>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "app/presenters/CommandTable.h"
 #include "app/presenters/Presenters.h"
 #include "ui_Talvesk_MainWindows.h"
-#include "widgets/TraceViewOptions.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/TraceViewOptions.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QMainWindow>
 

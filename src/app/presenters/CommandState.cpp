@@ -8,8 +8,8 @@
 #include "model/TomographyOutcome.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "view/RefractorLines.h"
-#include "widgets/TraceViewOptions.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/TraceViewOptions.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 namespace talvesk {
 

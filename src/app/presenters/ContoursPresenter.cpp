@@ -1,6 +1,6 @@
 #include "app/presenters/ContoursPresenter.h"
 
-#include "app/contourlines_dialog.h"
+#include "app/dialogs/contourlines_dialog.h"
 #include "app/presenters/PlainSection.h"
 
 #include <utility>

@@ -5,7 +5,7 @@
 #include "model/TomographyOutcome.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 namespace talvesk {
 

@@ -1,9 +1,9 @@
 #include "app/presenters/ExportPresenter.h"
 
-#include "app/ExportTomoVelData.h"
 #include "app/Messages.h"
+#include "app/dialogs/ExportTomoVelData.h"
+#include "app/dialogs/setGeographyDialog.h"
 #include "app/presenters/FileExport.h"
-#include "app/setGeographyDialog.h"
 #include "export/GriddedText.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"

@@ -1,7 +1,7 @@
 #include "app/presenters/GeometryPresenter.h"
 
-#include "app/DialogSetGeometry.h"
 #include "app/LossQuestion.h"
+#include "app/dialogs/DialogSetGeometry.h"
 #include "app/presenters/ShotTimeQuestion.h"
 #include "model/Recordings.h"
 #include "refraction/ShotArrivals.h"

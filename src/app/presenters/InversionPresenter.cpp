@@ -5,15 +5,15 @@
 #include "app/InversionTexts.h"
 #include "app/LeftOutText.h"
 #include "app/Messages.h"
+#include "app/dialogs/progressTomographyDialog.h"
+#include "app/dialogs/runTomography_Dialog.h"
 #include "app/presenters/ModelPresenter.h"
-#include "app/progressTomographyDialog.h"
-#include "app/runTomography_Dialog.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
 #include "model/TomographyOutcome.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <chrono>
 

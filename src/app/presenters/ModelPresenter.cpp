@@ -2,10 +2,10 @@
 
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
-#include "app/gridDialog.h"
+#include "app/dialogs/gridDialog.h"
+#include "app/dialogs/select_speed_Dialog.h"
+#include "app/dialogs/smoothingDialog.h"
 #include "app/presenters/GeometryPresenter.h"
-#include "app/select_speed_Dialog.h"
-#include "app/smoothingDialog.h"
 #include "grid/GridBuilder.h"
 #include "model/GroundModel.h"
 #include "model/SurveyLine.h"

@@ -1,6 +1,6 @@
 #include "app/presenters/PalettePresenter.h"
 
-#include "app/PaletteDialog.h"
+#include "app/dialogs/PaletteDialog.h"
 #include "app/presenters/PlainSection.h"
 
 #include <utility>

@@ -3,7 +3,7 @@
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
-#include "app/doFilteringDialog.h"
+#include "app/dialogs/doFilteringDialog.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "processing/FirstBreak.h"
@@ -12,7 +12,7 @@
 #include "processing/ShotList.h"
 #include "session/PickEdits.h"
 #include "ui_Talvesk_MainWindows.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QApplication>
 #include <QProgressDialog>

@@ -3,7 +3,7 @@
 #include "app/Messages.h"
 #include "app/presenters/ProjectPresenter.h"
 #include "app/presenters/ProjectQuestions.h"
-#include "io/projectReader.h"
+#include "io/project/projectReader.h"
 #include "ui_Talvesk_MainWindows.h"
 
 #include <QLocale>

@@ -1,7 +1,7 @@
 #include "app/presenters/RefractionPresenter.h"
 
 #include "app/Messages.h"
-#include "app/RefractionProcessingDialog.h"
+#include "app/dialogs/RefractionProcessingDialog.h"
 
 namespace talvesk {
 

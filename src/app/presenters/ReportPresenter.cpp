@@ -1,17 +1,17 @@
 #include "app/presenters/ReportPresenter.h"
 
-#include "app/ImagesDialog.h"
 #include "app/Messages.h"
-#include "app/ReportDialog.h"
-#include "app/ScreenshotDialog.h"
 #include "app/WaitCursor.h"
+#include "app/dialogs/ImagesDialog.h"
+#include "app/dialogs/ReportDialog.h"
+#include "app/dialogs/ScreenshotDialog.h"
 #include "app/presenters/FileExport.h"
 #include "figures/FigureOutput.h"
 #include "figures/ProfileLines.h"
-#include "figures/Report.h"
-#include "figures/ReportPages.h"
+#include "figures/report/Report.h"
+#include "figures/report/ReportPages.h"
 #include "ui_Talvesk_MainWindows.h"
-#include "widgets/SectionView.h"
+#include "widgets/section/SectionView.h"
 
 #include <QBuffer>
 #include <QDate>

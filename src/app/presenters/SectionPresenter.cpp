@@ -5,7 +5,7 @@
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
 #include "ui_Talvesk_MainWindows.h"
-#include "widgets/SectionView.h"
+#include "widgets/section/SectionView.h"
 
 #include <QLabel>
 #include <QLocale>

@@ -1,6 +1,6 @@
 #include "app/presenters/SettingsPresenter.h"
 
-#include "app/SettingsDialog.h"
+#include "app/dialogs/SettingsDialog.h"
 
 namespace talvesk {
 

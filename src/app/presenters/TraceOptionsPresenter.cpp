@@ -1,9 +1,9 @@
 #include "app/presenters/TraceOptionsPresenter.h"
 
 #include "ui_Talvesk_MainWindows.h"
-#include "widgets/TraceViewOptions.h"
 #include "widgets/TravelTimePlot.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/TraceViewOptions.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 namespace talvesk {
 namespace {

@@ -2,12 +2,12 @@
 
 #include "app/LossQuestion.h"
 #include "app/MessageText.h"
-#include "app/RecordingDetailsDialog.h"
+#include "app/dialogs/RecordingDetailsDialog.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "session/RemoveShots.h"
 #include "ui_Talvesk_MainWindows.h"
-#include "widgets/editTravelTimesWidget.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QComboBox>
 #include <QFileInfo>

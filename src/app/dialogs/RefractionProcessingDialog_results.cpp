@@ -1,0 +1,326 @@
+#include "app/Messages.h"
+#include "app/WaitCursor.h"
+#include "app/dialogs/RefractionProcessingDialog.h"
+#include "app/dialogs/RefractionTexts.h"
+#include "figures/RefractionItems.h"
+#include "model/TomoDocument.h"
+#include "refraction/Profile.h"
+#include "refraction/ReciprocalMethod.h"
+#include "ui_RefractionProcessingDialog.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QMessageBox>
+#include <QTableWidgetItem>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+// What the dialog builds from the marks, and how it shows it.
+
+namespace talvesk {
+namespace {
+
+using namespace refractionDataStructure;
+
+constexpr double kMs = 1e3;
+
+/// The colour of a layer on the paper of the plots.
+QColor shown(std::uint32_t layer) {
+  return layerColor(layer, QGuiApplication::palette().color(QPalette::Base));
+}
+
+/// Tells the reverse curve from the forward one.
+QColor strongerOf(const QColor& color) {
+  const bool dark = QGuiApplication::palette().color(QPalette::Base).lightness() < 128;
+  return dark ? color.lighter(140) : color.darker(150);
+}
+
+QColor faint(QColor color, double alpha) {
+  color.setAlphaF(alpha);
+  return color;
+}
+
+PlotSeries seriesOf(const QString& name, const std::vector<double>& x,
+                    const std::vector<double>& values, double factor) {
+  PlotSeries series;
+  series.name = name;
+  for (std::size_t i = 0; i < std::min(x.size(), values.size()); ++i) {
+    series.points.push_back({x[i], factor * values[i]});
+  }
+  return series;
+}
+
+/// The arrivals that went into a curve, where they were shifted to.
+PlotSeries arrivalsOf(const std::vector<ShotArrivals>& shots, const std::vector<layerStruct>& marks,
+                      std::uint32_t layer) {
+  PlotSeries series;
+  series.color = faint(shown(layer), 0.35);
+  series.width = 0.0;
+  series.symbols = true;
+  for (std::size_t shot = 0; shot < std::min(shots.size(), marks.size()); ++shot) {
+    const layerStruct& own = marks[shot];
+    for (std::size_t i = 0; i < std::min(own.layer.size(), shots[shot].times.size()); ++i) {
+      if (own.layer[i] != layer || !(own.trasla[i] != 0.0)) continue;
+      // A point without a neighbour: none of them is joined to another.
+      series.points.push_back(
+          {shots[shot].receivers[i].x, kMs * (shots[shot].times[i] + own.trasla[i])});
+    }
+  }
+  return series;
+}
+
+PlotSeries curveOf(const phantom& curve, const QString& name, bool forward) {
+  PlotSeries series;
+  series.name = name;
+  const QColor color = shown(static_cast<std::uint32_t>(curve.layer));
+  series.color = forward ? color : strongerOf(color);
+  series.symbols = true;
+  for (std::size_t i = 0; i < std::min(curve.points.size(), curve.times.size()); ++i) {
+    series.points.push_back({curve.points[i].x, kMs * curve.times[i]});
+  }
+  return series;
+}
+
+PlotSeries lineOf(const phantom& curve, double end) {
+  PlotSeries series;
+  series.color = faint(shown(static_cast<std::uint32_t>(curve.layer)), 0.7);
+  series.width = 1.0;
+  series.dashed = true;
+  if (curve.points.empty()) return series;
+  for (const double x : {curve.points.front().x, curve.points.back().x, end}) {
+    series.points.push_back({x, kMs * (curve.slope * x + curve.intercept)});
+  }
+  std::sort(series.points.begin(), series.points.end(),
+            [](const Point2D& a, const Point2D& b) { return a.x < b.x; });
+  return series;
+}
+
+bool sameCurves(const std::vector<phantom>& some, const std::vector<phantom>& others) {
+  return std::equal(some.begin(), some.end(), others.begin(), others.end(),
+                    [](const phantom& a, const phantom& b) {
+                      return a.shotID == b.shotID && a.times == b.times;
+                    });
+}
+
+bool contains(const std::vector<RefractionWarning>& list, const RefractionWarning& one) {
+  return std::any_of(list.begin(), list.end(), [&](const RefractionWarning& other) {
+    return other.kind == one.kind && other.layer == one.layer;
+  });
+}
+
+}  // namespace
+
+void RefractionProcessingDialog::on_pushAutoPhantButton_clicked() {
+  const Interpretation before = mWork;
+  const auto warnings = buildPhantoms(mShots, mWork);
+  if (!sameCurves(before.phnt_A, mWork.phnt_A) || !sameCurves(before.phnt_R, mWork.phnt_R)) {
+    mPhantomed = true;
+  }
+  showPhantoms();
+  tell(warnings, {});
+  QStringList rest;
+  for (const RefractionWarning& warning : warnings) {
+    if (!warning.ofTheMethod()) rest << refractionText(warning);
+  }
+  mUi->phantomLabel->setText(rest.join(QLatin1Char('\n')));
+}
+
+void RefractionProcessingDialog::on_buildButton_clicked() {
+  if (!build({})) return;
+  QWidget* current = mUi->tabs->currentWidget();
+  if (current == mUi->curvesTab || current == mUi->phantomTab) {
+    mUi->tabs->setCurrentWidget(mUi->profileTab);
+  }
+}
+
+/// \param known warnings that the user has been told already
+bool RefractionProcessingDialog::build(std::vector<RefractionWarning> known) {
+  const ProfileOutcome outcome = whileWaiting([this] { return buildProfiles(mShots, mWork); });
+  if (outcome.built) {
+    mWarnings = outcome.warnings;
+    mStale = false;
+    mBuilt = true;
+  }
+  marksChanged();
+  showResults();
+  tell(outcome.warnings, known);
+  if (outcome.built) return true;
+  QStringList why;
+  for (const RefractionWarning& warning : outcome.warnings) {
+    if (!warning.ofTheMethod()) why << refractionText(warning);
+  }
+  if (!why.isEmpty()) {
+    showWarning(this, tr("Warning"), tr("No profile could be built."), why.join(QLatin1Char('\n')));
+  }
+  return false;
+}
+
+/// The warnings of the method, one box each.
+void RefractionProcessingDialog::tell(const std::vector<RefractionWarning>& warnings,
+                                      const std::vector<RefractionWarning>& known) {
+  for (const RefractionWarning& warning : warnings) {
+    if (!warning.ofTheMethod() || contains(known, warning)) continue;
+    const bool noPair = warning.kind == RefractionWarning::Kind::kNoShotPair;
+    showWarning(this, tr("Warning"), refractionText(warning),
+                noPair ? noShotPairText(shotPairReach(mShots, mWork.ttLayer, 2)) : QString());
+  }
+}
+
+void RefractionProcessingDialog::showResults() {
+  const int refractors = static_cast<int>(mWork.refractData.cData.size());
+  const int chosen =
+      std::clamp(mUi->refractorCombo->currentIndex(), 0, std::max(refractors - 1, 0));
+  mUi->refractorCombo->clear();
+  for (int i = 0; i < refractors; ++i) {
+    mUi->refractorCombo->addItem(i == 0 ? tr("first (layer 2)") : tr("second (layer 3)"));
+  }
+  mUi->refractorCombo->setCurrentIndex(refractors > 0 ? chosen : -1);
+  mUi->refractorCombo->setEnabled(refractors > 0);
+  mUi->xyCombo->setEnabled(refractors > 0);
+  showPhantoms();
+  showFunctions();
+  showProfile();
+}
+
+void RefractionProcessingDialog::showPhantoms() {
+  std::vector<PlotSeries> series;
+  const std::size_t refractors = std::min(mWork.phnt_A.size(), mWork.phnt_R.size());
+  for (std::size_t i = 0; i < refractors; ++i) {
+    const phantom& forward = mWork.phnt_A[i];
+    const phantom& reverse = mWork.phnt_R[i];
+    const auto shotX = [this](std::int32_t shot) {
+      return shot >= 0 && static_cast<std::size_t>(shot) < mShots.size()
+                 ? mShots[static_cast<std::size_t>(shot)].shot.x
+                 : 0.0;
+    };
+    series.push_back(arrivalsOf(mShots, mWork.ttLayer, static_cast<std::uint32_t>(forward.layer)));
+    series.push_back(lineOf(forward, shotX(reverse.shotID)));
+    series.push_back(lineOf(reverse, shotX(forward.shotID)));
+    series.push_back(curveOf(
+        forward, tr("Layer %1 from shot %2").arg(forward.layer).arg(forward.shotID + 1), true));
+    series.push_back(curveOf(
+        reverse, tr("Layer %1 from shot %2").arg(reverse.layer).arg(reverse.shotID + 1), false));
+  }
+  mUi->phantomPlot->setSeries(std::move(series));
+  showShifts();
+}
+
+void RefractionProcessingDialog::showShifts() {
+  QTableWidget& table = *mUi->shiftTable;
+  table.setRowCount(0);
+  const QLocale locale;
+  for (std::uint32_t layer = 2; layer <= kLastLayer; ++layer) {
+    for (std::size_t shot = 0; shot < std::min(mShots.size(), mWork.ttLayer.size()); ++shot) {
+      for (const Side side : {Side::kRight, Side::kLeft}) {
+        const layerStruct& own = mWork.ttLayer[shot];
+        int picks = 0;
+        double shift = 0.0;
+        for (std::size_t i = 0; i < mShots[shot].times.size(); ++i) {
+          if (layerOf(own, i) != layer || !mShots[shot].onSide(i, side)) continue;
+          if (i >= own.trasla.size() || own.trasla[i] == 0.0) continue;
+          shift = own.trasla[i];
+          ++picks;
+        }
+        if (picks == 0) continue;
+        const int row = table.rowCount();
+        table.insertRow(row);
+        const QStringList cells = {QString::number(layer),
+                                   tr("%1: at %2 m", "shot number, place")
+                                       .arg(shot + 1)
+                                       .arg(locale.toString(mShots[shot].shot.x, 'f', 1)),
+                                   side == Side::kRight ? tr("to the right") : tr("to the left"),
+                                   QString::number(picks), locale.toString(kMs * shift, 'f', 2)};
+        for (int column = 0; column < cells.size(); ++column) {
+          auto* cell = new QTableWidgetItem(cells[column]);
+          if (column != 1 && column != 2) cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+          table.setItem(row, column, cell);
+        }
+      }
+    }
+  }
+  table.resizeColumnsToContents();
+}
+
+void RefractionProcessingDialog::showFunctions() {
+  const int refractor = mUi->refractorCombo->currentIndex();
+  std::vector<PlotSeries> tV;
+  std::vector<PlotSeries> tG;
+  if (refractor >= 0) {
+    const computedData& found = mWork.refractData.cData[static_cast<std::size_t>(refractor)];
+    const std::size_t chosen = indexOfXY(found.chosenXY);
+    mUi->xyCombo->setCurrentIndex(static_cast<int>(chosen));
+    const QColor strong = shown(static_cast<std::uint32_t>(refractor) + 2);
+    const auto addFamily = [&](const std::vector<double>& family, std::vector<PlotSeries>& plot) {
+      for (std::size_t i = 0; i < kXYFamily.size(); ++i) {
+        if (i == chosen) continue;
+        // One name stands for all of them in the legend.
+        const QString name = plot.empty() ? tr("other XY") : QString();
+        plot.push_back(seriesOf(name, found.x, memberOf(family, i), kMs));
+        plot.back().color = faint(shown(kNoLayer), 0.6);
+        plot.back().width = 1.0;
+      }
+      plot.push_back(
+          seriesOf(tr("XY = %1 m").arg(kXYFamily[chosen]), found.x, memberOf(family, chosen), kMs));
+      plot.back().color = strong;
+      plot.back().width = 2.2;
+      plot.back().symbols = true;
+    };
+    addFamily(found.tVs, tV);
+    addFamily(found.tGs, tG);
+  }
+  mUi->tvPlot->setSeries(std::move(tV));
+  mUi->tgPlot->setSeries(std::move(tG));
+}
+
+void RefractionProcessingDialog::on_refractorCombo_activated(int) {
+  showFunctions();
+}
+
+void RefractionProcessingDialog::on_xyCombo_activated(int index) {
+  const int refractor = mUi->refractorCombo->currentIndex();
+  if (refractor < 0) return;
+  const auto layer = static_cast<std::uint32_t>(refractor) + 2;
+  const double before = mWork.refractData.cData[static_cast<std::size_t>(refractor)].chosenXY;
+  chooseXY(mWork, layer, kXYFamily[static_cast<std::size_t>(index)]);
+  if (build(mWarnings)) return;
+  chooseXY(mWork, layer, before);
+  showFunctions();
+}
+
+void RefractionProcessingDialog::showProfile() {
+  const processingData& results = mWork.refractData;
+  std::vector<PlotSeries> velocities;
+  const QColor first = shown(1);
+  const std::vector<Point2D> surface = profileSurface(results);
+  if (!surface.empty() && std::isfinite(results.v1) && results.v1 > 0.0) {
+    PlotSeries series;
+    series.name = tr("Layer %1").arg(1);
+    series.color = first;
+    series.dashed = true;
+    series.points = {{surface.front().x, results.v1}, {surface.back().x, results.v1}};
+    velocities.push_back(std::move(series));
+  }
+  for (std::size_t i = 0; i < results.cData.size(); ++i) {
+    velocities.push_back(
+        seriesOf(tr("Layer %1").arg(i + 2), results.cData[i].x, results.cData[i].velocity, 1.0));
+    velocities.back().color = shown(static_cast<std::uint32_t>(i) + 2);
+    velocities.back().symbols = true;
+  }
+  RefractionScene scene = refractionScene(mDocument, results);
+  // Velocities begin at 0 and lie above the places that they belong to.
+  const double left = scene.lowerLeft().x;
+  mUi->velocityPlot->setFrame(QRectF(left, 0.0, scene.upperRight().x - left, 0.0));
+  mUi->velocityPlot->setSeries(std::move(velocities));
+  mUi->profilePlot->setScene(std::move(scene));
+  QStringList notes;
+  for (const RefractionWarning& warning : mWarnings) notes << refractionText(warning).trimmed();
+  if (mWarnings.empty() && hasGaps(results)) {
+    notes << tr(
+        "Some velocities or depths are not known. Build the profiles again to be told why.");
+  }
+  mUi->notesLabel->setText(notes.join(QLatin1Char('\n')));
+  mUi->notesLabel->setVisible(!notes.isEmpty());
+}
+
+}  // namespace talvesk

@@ -1,0 +1,103 @@
+#include "app/dialogs/runTomography_Dialog.h"
+
+#include "app/Messages.h"
+#include "app/ToolTips.h"
+#include "app/dialogs/ParameterField.h"
+#include "ui_runTomography_Dialog.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+constexpr int kHintLines = 2;  // that the place for the hint holds without moving the buttons
+
+int wholeNumber(double velocity) {
+  constexpr double kMost = parameters::kMaxVelocity.limits.most;
+  return std::isfinite(velocity) ? static_cast<int>(std::clamp(velocity, 0.0, kMost)) : 0;
+}
+
+}  // namespace
+
+runTomography_Dialog::runTomography_Dialog(double minVelocity, double maxVelocity, QWidget* parent)
+    : QDialog(parent), mUi(std::make_unique<Ui::runTomography_Dialog>()) {
+  mUi->setupUi(this);
+  wrapToolTips(*this);
+  setUpField(*mUi->extIter_edit, parameters::kIterations);
+  setUpField(*mUi->solvIter_Edit, parameters::kSolverIterations);
+  setUpField(*mUi->smooth_Edit, parameters::kSmoothing);
+  setUpField(*mUi->minVelEdit, parameters::kMinVelocity);
+  setUpField(*mUi->maxVelEdit, parameters::kMaxVelocity);
+  mUi->typeOfSmoothingCBox->setCurrentIndex(parameters::kSmoothingType.initial);
+  mUi->minVelEdit->setValue(wholeNumber(minVelocity));
+  mUi->maxVelEdit->setValue(wholeNumber(maxVelocity));
+  connect(mUi->minVelEdit, QOverload<int>::of(&QSpinBox::valueChanged), this,
+          &runTomography_Dialog::checkMinWRTMax);
+  connect(mUi->maxVelEdit, QOverload<int>::of(&QSpinBox::valueChanged), this,
+          &runTomography_Dialog::checkMaxWRTMin);
+  mUi->hintLabel->setStyleSheet(warningStyle(*this));
+  mUi->hintLabel->setMinimumHeight(kHintLines * fontMetrics().lineSpacing());
+  for (QSpinBox* box : {mUi->minVelEdit, mUi->maxVelEdit}) {
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] { showHint(); });
+  }
+  showHint();
+  mUi->extIter_edit->setFocus();
+  mUi->extIter_edit->selectAll();
+}
+
+runTomography_Dialog::~runTomography_Dialog() = default;
+
+TomographyParameters runTomography_Dialog::parameters() const {
+  TomographyParameters parameters;
+  parameters.externalIterations = mUi->extIter_edit->value();
+  parameters.solverIterations = mUi->solvIter_Edit->value();
+  parameters.smoothing = mUi->smooth_Edit->value();
+  parameters.smoothingType = smoothingTypeOf(mUi->typeOfSmoothingCBox->currentIndex());
+  parameters.symmetric = mUi->symmetricSmoothCBox->isChecked();
+  parameters.singleThread = mUi->checkBox->isChecked();
+  parameters.minVelocity = mUi->minVelEdit->value();
+  parameters.maxVelocity = mUi->maxVelEdit->value();
+  return parameters;
+}
+
+void runTomography_Dialog::setStartingModel(StartingModel model) {
+  QString text;
+  switch (model) {
+    case StartingModel::kNone:
+      break;
+    case StartingModel::kDefault:
+      text = tr("Starts from the default model.");
+      break;
+    case StartingModel::kLayered:
+      text = tr("Starts from the layered model.");
+      break;
+    case StartingModel::kResult:
+      text = tr("Starts from the result of the last inversion.");
+      break;
+    case StartingModel::kSmoothed:
+      text = tr("Starts from the smoothed result of the last inversion.");
+      break;
+    case StartingModel::kOther:
+      text = tr("Starts from the present velocities of the grid.");
+      break;
+  }
+  mUi->startLabel->setText(text);
+}
+
+void runTomography_Dialog::checkMinWRTMax(int value) {
+  if (value < mUi->minVelEdit->value()) mUi->maxVelEdit->setValue(value);
+}
+
+void runTomography_Dialog::checkMaxWRTMin(int value) {
+  if (value > mUi->maxVelEdit->value()) mUi->minVelEdit->setValue(value);
+}
+
+void runTomography_Dialog::showHint() {
+  const bool crossed = mUi->minVelEdit->value() > mUi->maxVelEdit->value();
+  mUi->hintLabel->setText(crossed ? tr("The minimum is above the maximum: every cell that changes "
+                                       "will end at the maximum.")
+                                  : QString());
+}
+
+}  // namespace talvesk

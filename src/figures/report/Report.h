@@ -1,0 +1,31 @@
+#pragma once
+
+#include "base/Status.h"
+#include "figures/report/ReportContent.h"
+#include "figures/report/ReportOptions.h"
+
+#include <functional>
+#include <string>
+
+namespace talvesk {
+
+/// Told how far the work is, 0 to 1; false ends it.
+using ReportProgress = std::function<bool(double done)>;
+
+/// Puts a report together in the language of the program. Needs the QApplication and its thread.
+Status buildReport(const ReportSource& source, const ReportOptions& options,
+                   ReportContent& content);
+
+enum class ReportFormat { kPdf, kOdt };
+
+/// The format that a file's suffix (".pdf", ".odt", any case) asks for. Any other suffix fails with
+/// a message that names the two.
+Status reportFormatOf(const std::string& path, ReportFormat& format);
+
+/// Writes a report as PDF, its figures as shapes, or as ODT, its figures as pictures, and replaces
+/// the file at `path` by it, whole or not at all. Work that `progress` ended fails with the code
+/// kReportCancelled.
+Status writeReport(const ReportContent& content, const std::string& path,
+                   const ReportProgress& progress = {});
+
+}  // namespace talvesk

@@ -1,0 +1,136 @@
+#include "figures/RefractionFigure.h"
+#include "figures/report/ReportBuilder.h"
+#include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
+#include "refraction/PicksFingerprint.h"
+#include "refraction/Profile.h"
+
+#include <algorithm>
+#include <cmath>
+
+// The layered interpretation, and how all of it was done.
+
+namespace talvesk::report {
+namespace {
+
+constexpr double kProfileHeightMm = 85.0;
+using refractionDataStructure::computedData;
+
+bool isBuilt(const ReportBuilder& builder) {
+  const auto* interpretation = builder.source.interpretation;
+  return interpretation != nullptr && !interpretation->refractData.cData.empty() &&
+         !interpretation->refractData.cData.front().depth.empty();
+}
+
+double at(const std::vector<double>& values, std::size_t i) {
+  return i < values.size() ? values[i] : std::nan("");
+}
+
+/// "–" when they are not known.
+QString velocities(double low, double high) {
+  return std::isfinite(low) && std::isfinite(high)
+             ? ReportWords::tr("%1 m/s").arg(span(low, high, 0))
+             : number(low, 0);
+}
+
+/// One value per receiver of the first refractor; the second's receivers are found by their place.
+ReportTable profileTable(const std::vector<computedData>& refractors) {
+  ReportTable table{
+      {{ReportWords::tr("Position [m]"), true}, {ReportWords::tr("Elevation [m]"), true}}, {}};
+  for (std::size_t r = 0; r < refractors.size(); ++r) {
+    const QString number = QString::number(r + 1);
+    table.columns.push_back({ReportWords::tr("Depth %1 [m]").arg(number), true});
+    table.columns.push_back({ReportWords::tr("Velocity %1 [m/s]").arg(number), true});
+  }
+  const computedData& first = refractors.front();
+  for (std::size_t i = 0; i < first.x.size(); ++i) {
+    QStringList row{number(first.x[i], 2), number(at(first.elevation, i), 2)};
+    for (const computedData& refractor : refractors) {
+      const auto same = std::find_if(refractor.x.begin(), refractor.x.end(),
+                                     [&](double x) { return std::abs(x - first.x[i]) < 1e-6; });
+      const auto j = static_cast<std::size_t>(same - refractor.x.begin());
+      row << number(at(refractor.depth, j), 2) << number(at(refractor.velocity, j), 0);
+    }
+    table.rows.push_back(row);
+  }
+  return table;
+}
+
+}  // namespace
+
+Status addRefraction(ReportBuilder& builder) {
+  if (!isBuilt(builder)) return {};
+  const auto& data = builder.source.interpretation->refractData;
+  builder.heading(ReportWords::tr("Refraction interpretation"));
+  if (picksChangedSince(builder.source.document, data)) {
+    builder.paragraph(
+        ReportWords::tr("The picks have changed since this profile was built: it is that of the "
+                        "earlier picks."));
+  }
+  ReportTable facts = ReportTable::ofFacts();
+  facts.rows.push_back(
+      {ReportWords::tr("Velocity of the first layer"), velocities(data.v1, data.v1)});
+  for (std::size_t r = 0; r < data.cData.size(); ++r) {
+    Range velocity;
+    for (const double value : data.cData[r].velocity) velocity.take(value);
+    facts.rows.push_back({ReportWords::tr("Velocity of refractor %1").arg(r + 1),
+                          velocities(velocity.low, velocity.high)});
+    facts.rows.push_back({ReportWords::tr("Distance XY of refractor %1").arg(r + 1),
+                          ReportWords::tr("%1 m").arg(number(data.cData[r].chosenXY, 1))});
+  }
+  builder.table(ReportWords::tr("Layers and refractors"), facts);
+  RefractionFigureOptions options;
+  options.widthMm = builder.widthMm();
+  options.heightMm = kProfileHeightMm;
+  options.showTitle = false;
+  FigureDrawing drawing;
+  // Refractors without any depth have a table all the same.
+  if (prepareRefractionFigure(builder.source.document, data, options, drawing).ok()) {
+    builder.figure(ReportWords::tr("Section of the layers"), std::move(drawing));
+  }
+  builder.table(ReportWords::tr("Depths below the surface and velocities of the refractors"),
+                profileTable(data.cData));
+  if (hasGaps(data)) {
+    builder.paragraph(ReportWords::tr(
+        "No velocity is given where the times lead to one outside 50 to 12 000 m/s. "
+        "No depth is given there, below a layer whose velocity or depth is not "
+        "known or which is faster, and where it came out deeper than the line is "
+        "long."));
+  }
+  return {};
+}
+
+void addMethod(ReportBuilder& builder) {
+  builder.heading(ReportWords::tr("Method"));
+  builder.paragraph(ReportWords::tr(
+      "First breaks are the times at which the first seismic energy of a shot reaches each "
+      "geophone. They were picked on the recorded traces."));
+  if (builder.source.document.result->has_tomographic_info) {
+    builder.paragraph(ReportWords::tr(
+        "They were inverted by travel-time tomography. The ground beneath the line is divided into "
+        "square cells of constant velocity, which follow the surface. From each shot the fastest "
+        "paths to all geophones are searched for in the network of nodes on the sides of the "
+        "cells; they are the rays. The differences between measured and computed times are "
+        "distributed along the rays and correct the slowness of the cells that they cross, several "
+        "times over on the same rays, within the limits of velocity. The corrected section is "
+        "smoothed, and new rays are traced through it: that is one external iteration."));
+    builder.paragraph(ReportWords::tr(
+        "The misfit is the difference between computed and measured times. The computed times are "
+        "those along fresh rays through the section as it is drawn. RMS is the root mean square of "
+        "the misfit, in milliseconds or relative to the measured times in percent. The information "
+        "density tells how completely rays cross the surroundings of a cell; where it is low, "
+        "velocities are poorly supported by the data, and below the lowest rays the section is not "
+        "drawn. Velocities that decrease with depth and thin layers may remain hidden from first "
+        "arrivals."));
+  }
+  if (isBuilt(builder)) {
+    builder.paragraph(ReportWords::tr(
+        "The refractors were interpreted by the generalised reciprocal method. First breaks "
+        "were assigned to layers, and the arrivals of each refractor from both ends of the "
+        "line were completed by shifted arrivals of the other shots. The velocity-analysis "
+        "function gives the velocity of the refractor, the time-depth function its depth "
+        "beneath each geophone."));
+  }
+}
+
+}  // namespace talvesk::report

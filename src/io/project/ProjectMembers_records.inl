@@ -1,0 +1,260 @@
+#pragma once
+
+// The elements of the records that a project holds. Their names and order are those of every
+// project file there is; what came later stands at the end and is optional.
+
+#include "base/Console.h"
+#include "io/XmlRecords.inl"
+#include "io/project/ProjectMembers.h"
+#include "io/project/ProjectPicks.h"
+#include "io/project/ProjectResult.h"
+#include "model/GeographicsCoord.h"
+#include "model/GroundModel.h"
+#include "model/SurveyLine.h"
+#include "model/TomographyOutcome.h"
+
+#include <type_traits>
+
+namespace talvesk {
+
+template <class V>
+void describe(V& fields, Point2D& point) {
+  fields("x", point.x);
+  fields("z", point.z);
+}
+
+template <class V>
+void describe(V& fields, TravelTime& record) {
+  fields("shotPos2d", record.shotPos2d);
+  fields("indexStesa", record.indexStesa);
+  fields("ttMisurati", record.ttMisurati);
+  fields("ttCalcolati", record.ttCalcolati);
+  fields("traceSetID", record.traceSetID);
+}
+
+template <class V>
+void describe(V& fields, geographicsCoord& coordinates) {
+  fields.optional("CRS", coordinates.CRS);
+  fields("mEastFstGeoph", coordinates.mEastFstGeoph);
+  fields("mEastLstGeoph", coordinates.mEastLstGeoph);
+  fields("mNorthFstGeoph", coordinates.mNorthFstGeoph);
+  fields("mNorthLstGeoph", coordinates.mNorthLstGeoph);
+  if constexpr (std::is_same_v<V, xml::Gaps>) {
+    if (!fields.missing.empty()) console::logError(" CRS not set");
+  }
+}
+
+template <class V>
+void describe(V& fields, VelocityLayer& layer) {
+  fields("initialDepth", layer.initialDepth);
+  fields("initialVelocity", layer.initialVelocity);
+  fields("finalDepth", layer.finalDepth);
+  fields("finalVelocity", layer.finalVelocity);
+}
+
+template <class V>
+void describe(V& fields, RgbColor& color) {
+  fields("r", color.r);
+  fields("g", color.g);
+  fields("b", color.b);
+}
+
+template <class V>
+void describe(V& fields, ContourSettings& contours) {
+  fields.optional("customized", contours.customized);
+  fields.optional("numberOfValues", contours.numberOfValues);
+  fields.optional("customValues", contours.customValues);
+  fields.optional("gradientValues", contours.gradientValues);
+  fields.optional("laplacianValues", contours.laplacianValues);
+  fields.optional("labelEvery", contours.labelEvery);
+  fields.optional("labelSize", contours.labelSize);
+  fields.optional("color", contours.color);
+  fields.optional("onProfile", contours.onProfile);
+  fields.optional("filled", contours.filled);
+  fields.optional("onLaplacian", contours.onLaplacian);
+  fields.optional("onVerticalGradient", contours.onVerticalGradient);
+}
+
+template <class V>
+void describe(V& fields, SectionViewSettings& section) {
+  fields.optional("profile", section.profile);
+  fields.optional("smooth", section.smooth);
+  fields.optional("quantity", section.quantity);
+  fields.optional("rays", section.rays);
+  fields.optional("refraction", section.refraction);
+  fields.optional("scalarBar", section.scalarBar);
+  fields.optional("title", section.title);
+  fields.optional("gridLines", section.gridLines);
+  fields.optional("geophones", section.geophones);
+  fields.optional("verticalExaggeration", section.verticalExaggeration);
+  fields.optional("lockRange", section.lockRange);
+  fields.optional("contours", section.contours);
+}
+
+template <class V>
+void describe(V& fields, GridMember& grid) {
+  fields("righe", grid.righe);
+  fields("col", grid.col);
+  fields("nV", grid.nV);
+  fields("aLato", grid.aLato);
+  fields("velocities", grid.velocities);
+  fields("to_be_draw", grid.toBeDraw);
+}
+
+template <class V>
+void describe(V& fields, Misfit& misfit) {
+  fields("count", misfit.count);
+  fields("rmse", misfit.rmse);
+  fields("relativeRms", misfit.relativeRms);
+  fields("maxError", misfit.maxError);
+  fields("maxRelativeError", misfit.maxRelativeError);
+}
+
+template <class V>
+void describe(V& fields, SectionMisfit& misfit) {
+  fields("count", misfit.count);
+  fields("rmse", misfit.rmse);
+  fields("relativeRms", misfit.relativeRms);
+  fields("bias", misfit.bias);
+  fields("maxAbs", misfit.maxAbs);
+  fields("maxShot", misfit.maxShot);
+  fields("maxReceiver", misfit.maxReceiver);
+}
+
+template <class V>
+void describe(V& fields, ResultMember& result) {
+  fields("hit_counts", result.outcome.hitCounts);
+  fields("coorcount", result.outcome.coorcount);
+  fields("smoothed", result.outcome.smoothedResult);
+  fields("times_of_section", result.outcome.timesOfSection);
+  fields("computing_seconds", result.run.computingSeconds);
+  fields("picks", result.run.picks);
+  fields("section_history", result.run.sectionHistory);
+}
+
+template <class V>
+void describe(V& fields, UnconfirmedMember& member) {
+  fields("picks", member.picks);
+  fields("unconfirmed", member.traces);
+}
+
+template <class V>
+void describe(V& fields, InversionRecord& run) {
+  fields("externalIterations", run.externalIterations);
+  fields("solverIterations", run.solverIterations);
+  fields("smoothing", run.smoothing);
+  fields("smoothingType", run.smoothingType);
+  fields("symmetric", run.symmetric);
+  fields("minVelocity", run.minVelocity);
+  fields("maxVelocity", run.maxVelocity);
+  fields("elapsedSeconds", run.elapsedSeconds);
+  fields("stopped", run.stopped);
+  fields("history", run.history);
+}
+
+/// The elements of a survey, at the top of its member.
+/// \param runs one, or none when nothing is known of the last inversion
+template <class V>
+void describeSurvey(V& fields, TomoDocument& document, SectionViewSettings& section,
+                    std::vector<InversionRecord>& runs) {
+  fields("goephonesStringSet", document.line.edit().goephonesStringSet);
+  fields("ttArray", document.ttArray);
+  fields.optional("has_tomographic_info", document.result.edit().has_tomographic_info);
+  fields.optional("geoCoord", document.map.edit().geoCoord);
+  fields.optional("geoCoord_isSet", document.map.edit().geoCoord_isSet);
+  fields.optional("RMSE_tomography", document.result.edit().RMSE_tomography);
+  fields.optional("info_density", document.result.edit().info_density);
+  fields.optional("title", document.title);
+  fields.optional("min_velocity", document.model.edit().minVelocity);
+  fields.optional("max_velocity", document.model.edit().maxVelocity);
+  fields.optional("layers", document.model.edit().layers);
+  fields.optional("proposed_cell_sizes", document.model.edit().proposedCellSizes);
+  fields.optional("coverage_limit", document.result.edit().coverageLimit);
+  fields.optional("section_view", section);
+  fields.optional("last_inversion", runs);
+}
+
+template <class V>
+void describe(V& fields, StoredTrace& trace) {
+  fields("pos", trace.pos);
+  fields("time", trace.time);
+  fields("TAB", trace.TAB);
+  fields.optional("dropped_samples", trace.droppedSamples);
+  fields.optional("kind", trace.waveKind);
+  fields.optional("delay", trace.delay);
+  fields.optional("source", trace.source);
+  fields.optional("receiver", trace.receiver);
+  fields.optional("TAB_DX", trace.TAB_DX);
+  fields.optional("TAB_SX", trace.TAB_SX);
+  if constexpr (std::is_same_v<V, xml::Gaps>) trace.hasPlace = fields.missing.empty();
+}
+
+template <class V>
+void describe(V& fields, TracesMember& member) {
+  fields("filenames", member.filenames);
+  fields.optional("filenames_DX", member.filenames_DX);
+  fields.optional("filenames_SX", member.filenames_SX);
+  fields("wave_type", member.waveType);
+  fields("shot_pos", member.shotPositions);
+  fields("traceSet", member.traceSets);
+  fields.optional("filtered", member.filtered);
+}
+
+namespace refractionDataStructure {
+
+template <class V>
+void describe(V& fields, phantom& curve) {
+  fields("enabled", curve.enabled);
+  fields("layer", curve.layer);
+  fields("shotID", curve.shotID);
+  fields("trasla", curve.trasla);
+  fields.optional("points", curve.points);
+  fields.optional("times", curve.times);
+  fields.optional("slope", curve.slope);
+  fields.optional("intercept", curve.intercept);
+  fields.optional("reciprocalTime", curve.reciprocalTime);
+}
+
+template <class V>
+void describe(V& fields, computedData& data) {
+  fields("tG", data.tG);
+  fields("tV", data.tV);
+  fields("tGs", data.tGs);
+  fields("tVs", data.tVs);
+  fields.optional("x", data.x);
+  fields.optional("chosenXY", data.chosenXY);
+  fields.optional("velocity", data.velocity);
+  fields.optional("depth", data.depth);
+  fields.optional("elevation", data.elevation);
+}
+
+template <class V>
+void describe(V& fields, processingData& data) {
+  fields("cData", data.cData);
+  fields("v1", data.v1);
+  // Other programs may give a refractor one velocity.
+  xml::OneOrMany v2{data.v2};
+  xml::OneOrMany v3{data.v3};
+  fields("v2", v2);
+  fields("v3", v3);
+  fields.optional("picks", data.picks);
+}
+
+template <class V>
+void describe(V& fields, layerStruct& layers) {
+  fields("shotID", layers.shotID);
+  fields("layer", layers.layer);
+  fields("trasla", layers.trasla);
+  fields("enabled", layers.enabled);
+}
+
+template <class V>
+void describe(V& fields, Interpretation& interpretation) {
+  fields("phnt_A", interpretation.phnt_A);
+  fields("phnt_R", interpretation.phnt_R);
+  fields("refractData", interpretation.refractData);
+  fields("ttLayer", interpretation.ttLayer);
+}
+
+}  // namespace refractionDataStructure
+}  // namespace talvesk

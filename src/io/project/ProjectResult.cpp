@@ -1,0 +1,78 @@
+#include "io/project/ProjectResult.h"
+
+#include "model/GroundModel.h"
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+bool finite(std::initializer_list<double> values) {
+  return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+}
+
+bool positive(double value) {
+  return std::isfinite(value) && value > 0.0;
+}
+
+bool isMisfit(const Misfit& m) {
+  return m.count >= 0 && finite({m.rmse, m.relativeRms, m.maxError, m.maxRelativeError});
+}
+
+bool isSectionMisfit(const SectionMisfit& m) {
+  return m.count >= 0 && finite({m.rmse, m.relativeRms, m.bias, m.maxAbs});
+}
+
+bool fits(const ResultMember& result, const TomoDocument& document) {
+  const std::size_t cells = document.model->grid->cellCount();
+  const TomographyOutcome& outcome = result.outcome;
+  if (outcome.hitCounts.size() != cells || outcome.coorcount.size() != cells) return false;
+  const auto length = [](double metres) { return std::isfinite(metres) && metres >= 0.0; };
+  if (!std::all_of(outcome.coorcount.begin(), outcome.coorcount.end(), length)) return false;
+  if (outcome.lastInversion) return canHaveBeen(result.run);
+  return std::isfinite(result.run.computingSeconds) && result.run.sectionHistory.empty();
+}
+
+}  // namespace
+
+bool hasResult(const TomoDocument& document) {
+  return document.result->has_tomographic_info;
+}
+
+bool knowsResult(const TomoDocument& document) {
+  const std::vector<std::uint32_t>& hits = document.result->hitCounts;
+  return hasResult(document) &&
+         std::any_of(hits.begin(), hits.end(), [](std::uint32_t count) { return count > 0; });
+}
+
+ResultMember resultOf(const TomoDocument& document) {
+  return {*document.result, document.result->lastInversion.value_or(InversionRecord())};
+}
+
+Status installResult(ResultMember result, TomoDocument& document) {
+  if (document.model->grid == nullptr || !hasResult(document) || !fits(result, document)) {
+    return Status::failure(Message::tr(
+        "its coverage and figures do not go with the grid and the inversion of the project"));
+  }
+  if (result.outcome.lastInversion) {
+    result.outcome.sectionHistory = result.run.sectionHistory;
+    result.outcome.lastInversion = std::move(result.run);
+  }
+  document.result = std::move(result.outcome);
+  return {};
+}
+
+bool canHaveBeen(const InversionRecord& run) {
+  return run.externalIterations > 0 && run.solverIterations > 0 && run.smoothing > 0 &&
+         run.smoothingType >= 0 && positive(run.minVelocity) && positive(run.maxVelocity) &&
+         finite({run.elapsedSeconds, run.computingSeconds}) &&
+         run.history.size() <= static_cast<std::size_t>(run.externalIterations) &&
+         std::all_of(run.history.begin(), run.history.end(), isMisfit) &&
+         (run.sectionHistory.empty() || run.sectionHistory.size() == run.history.size() + 1) &&
+         std::all_of(run.sectionHistory.begin(), run.sectionHistory.end(), isSectionMisfit);
+}
+
+}  // namespace talvesk

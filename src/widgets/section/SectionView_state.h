@@ -1,0 +1,55 @@
+#pragma once
+
+#include "figures/SectionCamera.h"
+#include "widgets/section/SectionCanvas.h"
+#include "widgets/section/SectionSheet.h"
+#include "widgets/section/SectionView.h"
+
+#include <QWidget>
+#include <optional>
+
+class QDoubleSpinBox;
+class QLabel;
+class QStackedLayout;
+class QToolButton;
+
+namespace talvesk {
+
+/// Paints the paper over the canvas; it lies in front of it and takes no events.
+class SectionOverlay : public QWidget {
+ public:
+  SectionOverlay(QWidget* parent, const SectionSheet& sheet, const SectionCamera& camera);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const SectionSheet& mSheet;
+  const SectionCamera& mCamera;
+};
+
+struct SectionView::State {
+  SectionPaper sheetPaper() const { return sheet.paper(overlay->font()); }  ///< of a scene
+
+  SectionSheet sheet;
+  SectionCamera camera;
+  std::unique_ptr<SectionCanvas> canvas;  ///< none before the first section
+  bool fits = true;                       ///< nobody has moved the view since it was reset
+  bool turning = false;
+
+  QWidget* controls = nullptr;
+  QLabel* exaggerationLabel = nullptr;
+  QDoubleSpinBox* exaggeration = nullptr;
+  QToolButton* turn = nullptr;
+  QToolButton* reset = nullptr;
+  QStackedLayout* pages = nullptr;
+  QLabel* text = nullptr;
+  QWidget* paper = nullptr;
+  SectionOverlay* overlay = nullptr;
+
+  Qt::MouseButton dragButton = Qt::NoButton;
+  QPointF dragPoint;
+  std::optional<QPointF> cursor;  ///< where the mouse was last, while it is over the paper
+};
+
+}  // namespace talvesk

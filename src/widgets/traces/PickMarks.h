@@ -1,0 +1,28 @@
+#pragma once
+
+#include "widgets/traces/WigglePainter.h"
+
+#include <QPointF>
+#include <map>
+
+class QPainter;
+
+namespace talvesk {
+
+/// The measured time that is shown for a trace: the one that a drag is about to give it, else the
+/// document's.
+double shownPick(const ShotTraces& traces, const std::map<int, double>& draft, int trace);
+
+/// Bars at the picks. \param draft times that a drag is about to give
+void paintPicks(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
+                const std::map<int, double>& draft);
+
+/// Lines through the cursor, the time at the left side and the channel above.
+void paintCrosshair(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
+                    int trace, double time);
+
+/// A magnified window around a point (position, seconds) with its picks, beside the cursor.
+void paintMagnifier(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
+                    const std::map<int, double>& draft, const QPointF& at);
+
+}  // namespace talvesk

@@ -1,0 +1,152 @@
+#include "widgets/traces/TraceGuides.h"
+
+#include "model/SurveyLine.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+/// Geophones of two strings that stand this near, in spacings, are at one place.
+constexpr double kSamePlace = 0.02;
+
+/// A trace's distance with its position, ascending in distance.
+using Placed = std::vector<std::pair<double, double>>;
+
+/// Empty where a distance is not known or all are the same.
+Placed placedByDistance(const ShotTraces& traces, const TraceLayout& layout) {
+  Placed placed;
+  for (int i = 0; i < layout.count(); ++i) {
+    const double x = traces.receiverX(i);
+    if (!std::isfinite(x)) return {};
+    placed.emplace_back(x, layout.position(i));
+  }
+  std::sort(placed.begin(), placed.end());
+  if (placed.size() < 2 || !(placed.back().first > placed.front().first)) return {};
+  return placed;
+}
+
+using Place = std::pair<double, double>;
+
+double onLine(const Place& a, const Place& b, double x) {
+  if (b.first == a.first) return a.second;
+  return a.second + (b.second - a.second) * ((x - a.first) / (b.first - a.first));
+}
+
+/// Linear between points; beyond them on with the mean slope of all.
+double interpolate(const Placed& points, double x) {
+  const Place& front = points.front();
+  const Place& back = points.back();
+  if (x <= front.first)
+    return front.second + onLine(front, back, x) - onLine(front, back, front.first);
+  if (x >= back.first)
+    return back.second + onLine(front, back, x) - onLine(front, back, back.first);
+  const auto right = std::lower_bound(points.begin(), points.end(), Place(x, -HUGE_VAL));
+  return onLine(*(right - 1), *right, x);
+}
+
+/// The trace at a place of the line, or -1.
+int traceNear(const std::vector<std::pair<double, int>>& places, double x, double tolerance) {
+  const auto right =
+      std::lower_bound(places.begin(), places.end(), std::make_pair(x - tolerance, -1));
+  return right != places.end() && right->first <= x + tolerance ? right->second : -1;
+}
+
+}  // namespace
+
+std::optional<double> shotPlace(const ShotTraces& traces, const TraceLayout& layout) {
+  const double shot = traces.shotX();
+  if (!std::isfinite(shot)) return std::nullopt;
+  if (layout.isByDistance()) return shot;
+  const Placed placed = placedByDistance(traces, layout);
+  if (placed.empty()) return std::nullopt;
+  return interpolate(placed, shot);
+}
+
+std::optional<double> distanceAt(const ShotTraces& traces, const TraceLayout& layout,
+                                 double position) {
+  if (layout.isByDistance()) return position;
+  Placed placed = placedByDistance(traces, layout);
+  if (placed.empty()) return std::nullopt;
+  for (auto& [x, where] : placed) std::swap(x, where);
+  std::sort(placed.begin(), placed.end());
+  return interpolate(placed, position);
+}
+
+std::vector<QPointF> airWaveLine(const ShotTraces& traces, const TraceLayout& layout,
+                                 double velocity) {
+  std::vector<QPointF> line;
+  const std::optional<double> shot = shotPlace(traces, layout);
+  if (!shot || !(velocity > 0.0)) return line;
+  for (const int trace : layout.order()) {
+    line.emplace_back(layout.position(trace), std::fabs(traces.offset(trace)) / velocity);
+  }
+  if (*shot > layout.first() && *shot < layout.last()) {
+    const auto right = std::lower_bound(line.begin(), line.end(), *shot,
+                                        [](const QPointF& p, double x) { return p.x() < x; });
+    line.insert(right, QPointF(*shot, 0.0));
+  }
+  return line;
+}
+
+std::vector<std::vector<QPointF>> computedLines(const ShotTraces& traces,
+                                                const TraceLayout& layout) {
+  std::vector<std::vector<QPointF>> lines;
+  bool open = false;
+  for (const int trace : layout.order()) {
+    const double time = traces.computed(trace);
+    if (!(time >= 0.0) || !std::isfinite(time)) {
+      open = false;
+      continue;
+    }
+    if (!open) lines.emplace_back();
+    open = true;
+    lines.back().emplace_back(layout.position(trace), time);
+  }
+  return lines;
+}
+
+std::vector<QPointF> otherPicks(const TomoDocument& document, const ShotTraces& traces,
+                                const TraceLayout& layout) {
+  std::vector<QPointF> picks;
+  const TravelTime* own = traces.times();
+  if (own == nullptr) return picks;
+  std::vector<std::pair<double, int>> places;
+  for (int i = 0; i < layout.count(); ++i) {
+    if (std::isfinite(traces.receiverX(i))) places.emplace_back(traces.receiverX(i), i);
+  }
+  std::sort(places.begin(), places.end());
+  const double range = places.empty() ? 0.0 : places.back().first - places.front().first;
+  const double tolerance = kSamePlace * range / std::max<double>(1.0, double(places.size()) - 1.0);
+  for (const TravelTime& record : document.ttArray) {
+    if (&record == own) continue;
+    const bool sameString = record.indexStesa == own->indexStesa;
+    const auto& strings = document.line->goephonesStringSet;
+    const auto string = static_cast<std::size_t>(record.indexStesa);
+    const bool known = record.indexStesa >= 0 && string < strings.size();
+    for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
+      const double time = record.ttMisurati[i];
+      if (!hasPick(time) || !std::isfinite(time)) continue;
+      int trace = -1;
+      if (sameString) {
+        trace = i < static_cast<std::size_t>(layout.count()) ? static_cast<int>(i) : -1;
+      } else if (known && i < strings[string].size()) {
+        trace = traceNear(places, strings[string][i].x, tolerance);
+      }
+      if (trace >= 0) picks.emplace_back(layout.position(trace), time);
+    }
+  }
+  return picks;
+}
+
+std::optional<double> apparentVelocity(const ShotTraces& traces, const TraceLayout& layout,
+                                       const QPointF& from, const QPointF& to) {
+  const std::optional<double> a = distanceAt(traces, layout, from.x());
+  const std::optional<double> b = distanceAt(traces, layout, to.x());
+  if (!a || !b || *a == *b) return std::nullopt;
+  return std::fabs((*b - *a) / (to.y() - from.y()));
+}
+
+}  // namespace talvesk

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "widgets/traces/ShotTraces.h"
+#include "widgets/traces/TraceLayout.h"
+
+#include <QPointF>
+#include <optional>
+#include <vector>
+
+namespace talvesk {
+
+/// What helps to judge picks, as positions (x of the points) and seconds (y).
+
+/// The place of the shot among the traces; beyond the ends in steps of the spacing. None where the
+/// positions of shot or geophones are not known.
+std::optional<double> shotPlace(const ShotTraces& traces, const TraceLayout& layout);
+
+/// Metres along the line at a position between or beyond traces; none where not known.
+std::optional<double> distanceAt(const ShotTraces& traces, const TraceLayout& layout,
+                                 double position);
+
+/// The arrivals of the air wave, from left to right, with the shot's own place among them.
+std::vector<QPointF> airWaveLine(const ShotTraces& traces, const TraceLayout& layout,
+                                 double velocity);
+
+/// Computed times from left to right, in pieces where they are missing.
+std::vector<std::vector<QPointF>> computedLines(const ShotTraces& traces,
+                                                const TraceLayout& layout);
+
+/// The picks of the other records at the geophones of this one: of the same string by channel, of
+/// other strings where they stand at the same place.
+std::vector<QPointF> otherPicks(const TomoDocument& document, const ShotTraces& traces,
+                                const TraceLayout& layout);
+
+/// Magnitude of the slope between two points (positions, seconds), m/s; none along one trace or
+/// where positions are not known. Infinite for equal times.
+std::optional<double> apparentVelocity(const ShotTraces& traces, const TraceLayout& layout,
+                                       const QPointF& from, const QPointF& to);
+
+}  // namespace talvesk

@@ -1,0 +1,141 @@
+#pragma once
+
+#include "widgets/traces/TraceCursor.h"
+#include "widgets/traces/TraceViewOptions.h"
+
+#include <QWidget>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace talvesk {
+
+class Session;
+class TomoDocument;
+struct ViewWindow;
+
+/// What the left mouse button does. Whatever the tool, Ctrl + left drag zooms to a rectangle,
+/// Shift + left drag selects traces, and the right button removes picks.
+enum class TraceTool {
+  Pick,   ///< click sets, drag moves, drag across traces draws a run
+  Zoom,   ///< drag a rectangle; a click zooms in
+  Pan,    ///< drag the picture
+  Ruler,  ///< drag a line and read its apparent velocity
+  Select  ///< drag over the traces to confirm or clear together
+};
+
+/// The traces of one shot, time downward, with its first breaks to be picked by mouse and keys.
+///
+/// The widget edits the measured times of a session, each edit by hand a step of its own, and
+/// follows what else happens to the survey. It reads the document whenever it paints and keeps
+/// nothing but extremes and pictures of it. Give it the whole room of its
+/// parent (in a scroll area: widgetResizable), it has scroll bars of its own.
+///
+/// The view is moved with the gestures of all plots, see PlotGestures. Keys beside those: Left and
+/// Right walk along the traces (Shift selects), Home and End go to the first and the last; Up and
+/// Down move the pick by a sample (Shift 10 samples, Ctrl 1 ms); Return sets a pick like that of
+/// the neighbour; Delete removes, C confirms; [ and ] change the gain, as the wheel does with Alt;
+/// M magnifier, R ruler, Escape gives up. H shows the opening view. A double click with the tool
+/// Pick picks twice, and shows not everything.
+class editTravelTimesWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit editTravelTimesWidget(QWidget* parent = nullptr);
+  ~editTravelTimesWidget() override;
+
+  /// A document to look at only: not owned, outlives the widget or is replaced before it goes; null
+  /// for none. Forgets shot and views, also when the document is the one it has: its contents were
+  /// replaced.
+  void setDocument(const TomoDocument* document);
+  /// A survey to work on, which outlives the widget.
+  void setSession(Session& session);
+  const TomoDocument* document() const;
+
+  /// Record of the document to show, from 0; -1, or one that does not exist: none. The view that
+  /// the user has zoomed to stays.
+  void setShot(int shot);
+  int shot() const;
+
+  void setOptions(const TraceViewOptions& options);
+  const TraceViewOptions& options() const;
+  void setTool(TraceTool tool);
+  TraceTool tool() const;
+
+  /// Samples, positions, or the number of shots of a document that is looked at changed.
+  void documentChanged();
+
+  /// Sets the pick of a trace of any shot (both from 0), seconds, kNoTime to remove it, as an edit
+  /// by hand that can be undone. Nothing happens where there is no such trace or nothing to change.
+  void editPick(int shot, int trace, double seconds);
+
+  int currentTrace() const;  ///< from 0; -1 none
+  /// Whether removePicks() would find any, or confirmPicks() and removeUnconfirmedPicks() one that
+  /// waits. Follows selectionChanged() and the session.
+  bool hasPicksInRange(bool unconfirmedOnly) const;
+  void setCurrentTrace(int trace);
+  int selectedFirst() const;  ///< channels selected, from 0; -1 none
+  int selectedLast() const;
+  void selectTraces(int first, int last);  ///< -1, -1 clears
+
+  /// The part of the shot that is seen: channels from 0 or metres, and seconds.
+  const ViewWindow& window() const;
+  void setWindow(const ViewWindow& window);  ///< enters the history
+  bool canZoomBack() const;
+  bool canZoomForward() const;
+
+  /// Where a trace and time are on the widget, and back; none beside the traces.
+  QPointF pointOf(int trace, double time) const;
+  int traceAt(const QPointF& point) const;  ///< -1: none
+  double timeAt(const QPointF& point) const;
+
+  /// Apparent velocity along the ruler, m/s; none without one, along one trace, or where positions
+  /// are not known.
+  std::optional<double> rulerVelocity() const;
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ public slots:
+  void setMagnifier(bool show);
+  void setGain(double gain);
+
+  void zoomIn();
+  void zoomOut();
+  void fit();   ///< everything
+  void home();  ///< the opening view, see zoomIn and showAllTraces of the options
+  void zoomBack();
+  void zoomForward();
+
+  /// Over the selected traces, or the current one without a selection.
+  void confirmPicks();            ///< automatic picks become the user's own
+  void removePicks();             ///< of whatever origin
+  void removeUnconfirmedPicks();  ///< automatic ones that nobody confirmed
+
+ signals:
+  void pick_added();            ///< a trace without a pick got one; pick_edited() follows
+  void pick_edited();           ///< picks changed, undo and redo included
+  void mouse_moved(int trace);  ///< trace under the cursor, from 0; -1 none
+  void cursorMoved(const talvesk::TraceCursor& cursor);
+  void viewChanged();     ///< window or history of views
+  void optionsChanged();  ///< by keys or wheel, not by setOptions()
+  void toolChanged();
+  void selectionChanged();  ///< current trace or selected ones
+  /// Picks of a shot that is not shown changed.
+  void shotEdited(int shot);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  struct State;
+  std::unique_ptr<State> mState;
+};
+
+}  // namespace talvesk

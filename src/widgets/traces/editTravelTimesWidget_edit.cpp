@@ -1,0 +1,191 @@
+#include "widgets/traces/PickSnap.h"
+#include "widgets/traces/editTravelTimesWidget_state.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+/// A pick at 0 would be none: the earliest time that is one, seconds.
+constexpr double kEarliest = 1e-6;
+
+}  // namespace
+
+double editTravelTimesWidget::State::adjusted(int trace, double time, bool snapping) const {
+  const double end = traces.recordEnd(trace);
+  const double latest = std::max(end > 0.0 ? end : traces.timeEnd(), kEarliest);
+  time = std::clamp(time, kEarliest, latest);
+  if (snapping && options.snap != PickSnap::None) {
+    time = snapPick(traces.samples(trace), traces.interval(trace), traces.mean(trace), time,
+                    options.snap, options.snapRadius);
+  }
+  return std::clamp(time, kEarliest, latest);
+}
+
+PickStroke::Adjust editTravelTimesWidget::State::adjuster(bool snapping) const {
+  return [this, snapping](int trace, double time) { return adjusted(trace, time, snapping); };
+}
+
+bool editTravelTimesWidget::State::waits(int trace) const {
+  const TravelTime* record = traces.times();
+  return record != nullptr && trace >= 0 && record->waits(static_cast<std::size_t>(trace));
+}
+
+void editTravelTimesWidget::State::edit(Message text, const std::map<int, double>& times,
+                                        const std::string& mergeKey) {
+  std::vector<PickChange> changes;
+  for (const auto& [trace, time] : times) {
+    if (!traces.canPick(trace)) continue;
+    const double before = traces.measured(trace);
+    const bool nothing = hasPick(time) ? time == before : !hasPick(before);
+    if (!nothing) changes.push_back({trace, time, false});
+  }
+  push(Edit::kPick, std::move(text), shot, changes, mergeKey);
+}
+
+void editTravelTimesWidget::State::push(Edit edit, Message text, int record,
+                                        const std::vector<PickChange>& changes,
+                                        const std::string& mergeKey) {
+  if (changes.empty() || session == nullptr) return;
+  const auto change = [&](Survey& survey) {
+    changePicks(survey.document, record, changes);
+    return Status();
+  };
+  const Status done = session->applyMerging(edit, change, mergeKey, std::move(text));
+  // It is refused while another edit is under way, whose progress stands before this view.
+  if (!done.ok()) QApplication::beep();
+}
+
+void editTravelTimesWidget::State::surveyChanged(const SurveyChange& change) {
+  if (change.kind == SurveyChange::Kind::kOpened) return show(&session->document());
+  const bool other = change.parts.has(Part::kRecordings) || change.parts.has(Part::kGeometry);
+  if (other) widget.documentChanged();
+  if (change.parts.has(Part::kPicks)) picksChanged(change);
+}
+
+void editTravelTimesWidget::State::picksChanged(const SurveyChange& change) {
+  if (change.edit != Edit::kPick && change.edit != Edit::kConfirmPicks) cancelDrag();
+  redrawMarks();
+  describe();
+  tellAgain();
+  const TomoDocument& before = change.before.document;
+  if (hasNewPick(before, *document)) emit widget.pick_added();
+  emit widget.pick_edited();
+  const std::vector<std::int32_t> shots = shotsWithOtherPicks(before, *document);
+  if (shots.empty() || std::find(shots.begin(), shots.end(), shot) != shots.end()) return;
+  emit widget.shotEdited(shots.front());
+}
+
+std::pair<int, int> editTravelTimesWidget::State::range() const {
+  if (selectedFirst >= 0) return {selectedFirst, selectedLast};
+  if (current >= 0) return {current, current};
+  return {0, -1};
+}
+
+void editTravelTimesWidget::State::removeRange(bool unconfirmedOnly) {
+  if (!canEdit()) return;
+  std::map<int, double> times;
+  const auto [first, last] = range();
+  for (int trace = first; trace <= last; ++trace) {
+    if (!unconfirmedOnly || waits(trace)) times[trace] = kNoTime;
+  }
+  edit(times.size() > 1 ? Message::tr("Remove picks") : Message::tr("Remove pick"), times);
+}
+
+void editTravelTimesWidget::State::confirmRange() {
+  if (!canEdit()) return;
+  std::vector<PickChange> changes;
+  const auto [first, last] = range();
+  for (int trace = first; trace <= last; ++trace) {
+    if (!traces.canPick(trace) || !waits(trace)) continue;
+    changes.push_back({trace, traces.measured(trace), false});
+  }
+  push(Edit::kConfirmPicks, {}, shot, changes);
+}
+
+bool editTravelTimesWidget::hasPicksInRange(bool unconfirmedOnly) const {
+  const State& state = *mState;
+  if (!state.canEdit()) return false;
+  const auto [first, last] = state.range();
+  for (int trace = first; trace <= last; ++trace) {
+    if (!state.traces.canPick(trace) || !hasPick(state.traces.measured(trace))) continue;
+    if (!unconfirmedOnly || state.waits(trace)) return true;
+  }
+  return false;
+}
+
+void editTravelTimesWidget::State::nudge(double seconds, bool keyHeld) {
+  if (!canEdit() || current < 0 || !hasPick(traces.measured(current))) return;
+  const double time = adjusted(current, traces.measured(current) + seconds, false);
+  // The first step of a key begins an edit, those of the key held go on with it.
+  if (!keyHeld) ++nudges;
+  edit(Message::tr("Nudge pick"), {{current, time}},
+       "nudge " + std::to_string(nudges) + ' ' + std::to_string(current));
+  reveal(current);
+}
+
+void editTravelTimesWidget::State::pickLikeNeighbour() {
+  if (!canEdit() || current < 0 || !traces.canPick(current)) return;
+  if (hasPick(traces.measured(current))) {
+    confirmRange();
+    return;
+  }
+  double time = 0.5 * (window().top + window().bottom);
+  for (int away = 1; away < layout.count(); ++away) {
+    const double left = traces.measured(layout.stepped(current, -away));
+    const double right = traces.measured(layout.stepped(current, away));
+    if (!hasPick(left) && !hasPick(right)) continue;
+    time = hasPick(left) && hasPick(right) ? 0.5 * (left + right) : hasPick(left) ? left : right;
+    break;
+  }
+  edit(Message::tr("Set pick"), {{current, adjusted(current, time, true)}});
+}
+
+void editTravelTimesWidget::State::setCurrent(int trace) {
+  if (trace < -1 || trace >= layout.count() || trace == current) return;
+  current = trace;
+  redrawMarks();
+  describe();
+  emit widget.selectionChanged();
+}
+
+void editTravelTimesWidget::State::select(int first, int last) {
+  if (first > last) std::swap(first, last);
+  if (first < 0 || last >= layout.count()) first = last = -1;
+  if (first == selectedFirst && last == selectedLast) return;
+  selectedFirst = first;
+  selectedLast = last;
+  redrawMarks();
+  emit widget.selectionChanged();
+}
+
+void editTravelTimesWidget::State::describe() {
+  QString text;
+  if (current >= 0 && current < layout.count()) {
+    const double pick = traces.measured(current);
+    text = hasPick(pick) ? editTravelTimesWidget::tr("Trace %1, picked at %2 ms")
+                               .arg(current + 1)
+                               .arg(QLocale().toString(1e3 * pick, 'f', 2))
+                         : editTravelTimesWidget::tr("Trace %1, not picked").arg(current + 1);
+  }
+  if (widget.accessibleDescription() != text) widget.setAccessibleDescription(text);
+}
+
+void editTravelTimesWidget::editPick(int shot, int trace, double seconds) {
+  State& state = *mState;
+  if (state.session == nullptr || shot < 0 || trace < 0) return;
+  const std::vector<TravelTime>& records = state.document->ttArray;
+  if (static_cast<std::size_t>(shot) >= records.size()) return;
+  const std::vector<double>& times = records[static_cast<std::size_t>(shot)].ttMisurati;
+  if (static_cast<std::size_t>(trace) >= times.size()) return;
+  const double before = times[static_cast<std::size_t>(trace)];
+  if (!hasPick(seconds) || !std::isfinite(seconds)) seconds = kNoTime;
+  if (hasPick(seconds) ? seconds == before : !hasPick(before)) return;
+  state.push(Edit::kPick, hasPick(seconds) ? Message::tr("Move pick") : Message::tr("Remove pick"),
+             shot, {{trace, seconds, false}});
+}
+
+}  // namespace talvesk

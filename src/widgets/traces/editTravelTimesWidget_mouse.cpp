@@ -1,0 +1,104 @@
+#include "widgets/traces/editTravelTimesWidget_state.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+constexpr double kWheelGain = 1.25;  ///< by one notch
+
+}  // namespace
+
+QPointF editTravelTimesWidget::State::placeAt(const QPointF& point) const {
+  const TraceMapping map = mapping();
+  return {map.positionAt(point.x()), map.timeAt(point.y())};
+}
+
+int editTravelTimesWidget::State::traceAt(const QPointF& point) const {
+  return layout.traceAt(mapping().positionAt(point.x()));
+}
+
+PlotTool* editTravelTimesWidget::State::toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys,
+                                                const QPointF& point) {
+  const bool within = plot.contains(point);
+  const bool above = point.y() < plot.top() && point.x() >= plot.left();
+  if (button == Qt::RightButton && within) return removeTool.get();
+  if (button != Qt::LeftButton || (!within && !above)) return nullptr;
+  if (above || (keys & Qt::ShiftModifier)) return selectTool.get();
+  switch (tool) {
+    case TraceTool::Pick:
+      return pickTool.get();
+    case TraceTool::Zoom:
+      return zoomTool.get();
+    case TraceTool::Pan:
+      return gestures.panTool();
+    case TraceTool::Ruler:
+      return rulerTool.get();
+    case TraceTool::Select:
+      return selectTool.get();
+  }
+  return nullptr;
+}
+
+TraceCursor editTravelTimesWidget::State::cursorFor(int trace, std::optional<double> time) const {
+  TraceCursor cursor;
+  cursor.trace = trace;
+  cursor.time = time;
+  if (trace < 0 || trace >= layout.count()) return cursor;
+  if (std::isfinite(traces.offset(trace))) cursor.offset = traces.offset(trace);
+  if (std::isfinite(traces.receiverX(trace))) cursor.distance = traces.receiverX(trace);
+  if (time) {
+    const std::vector<double>& samples = traces.samples(trace);
+    const double nearest = std::round(*time / traces.interval(trace));
+    if (nearest >= 0.0 && nearest < static_cast<double>(samples.size())) {
+      cursor.amplitude = samples[static_cast<std::size_t>(nearest)];
+    }
+  }
+  if (hasPick(traces.measured(trace))) cursor.pick = traces.measured(trace);
+  cursor.pickIsAutomatic = waits(trace);
+  return cursor;
+}
+
+void editTravelTimesWidget::State::hovered(const std::optional<QPointF>& point) {
+  const bool over = layout.count() > 0 && point && plot.contains(*point);
+  const int trace = over ? traceAt(*point) : -1;
+  const bool was = hover.has_value();
+  hover = over ? point : std::nullopt;
+  if (trace != hoverTrace) {
+    hoverTrace = trace;
+    emit widget.mouse_moved(trace);
+  }
+  if (over || was) {
+    tellsCurrent = false;
+    emit widget.cursorMoved(
+        cursorFor(trace, over ? std::optional(mapping().timeAt(point->y())) : std::nullopt));
+    widget.update();
+  }
+}
+
+/// What was told of a trace is no longer so once its pick, the shot or its samples have changed.
+void editTravelTimesWidget::State::tellAgain() {
+  if (tellsCurrent) return tellCurrent();
+  if (hover) emit widget.cursorMoved(cursorFor(traceAt(*hover), mapping().timeAt(hover->y())));
+}
+
+void editTravelTimesWidget::State::tellCurrent() {
+  tellsCurrent = true;
+  const double pick = current >= 0 ? traces.measured(current) : kNoTime;
+  emit widget.cursorMoved(cursorFor(current, hasPick(pick) ? std::optional(pick) : std::nullopt));
+}
+
+void editTravelTimesWidget::State::changeGain(double factor) {
+  const double before = options.gain;
+  widget.setGain(options.gain * factor);
+  if (options.gain != before) emit widget.optionsChanged();
+}
+
+bool editTravelTimesWidget::State::wheelTurned(double notches, Qt::KeyboardModifiers keys) {
+  if (!(keys & Qt::AltModifier)) return false;
+  changeGain(std::pow(kWheelGain, notches));
+  return true;
+}
+
+}  // namespace talvesk

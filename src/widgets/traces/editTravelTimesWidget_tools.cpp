@@ -1,0 +1,153 @@
+#include "widgets/PlotGestures_tools.h"
+#include "widgets/traces/editTravelTimesWidget_state.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+constexpr double kGrab = 5.0;       ///< pixels from a pick within which a drag moves it alone
+constexpr double kClickZoom = 2.0;  ///< of a click with the tool Zoom
+
+QPointF clamped(const QPointF& point, const QRectF& plot) {
+  return {std::clamp(point.x(), plot.left(), plot.right()),
+          std::clamp(point.y(), plot.top(), plot.bottom())};
+}
+
+}  // namespace
+
+/// Sets or moves picks, or takes them away, along the way of the mouse.
+class editTravelTimesWidget::State::PickTool : public PlotTool {
+ public:
+  PickTool(State& state, bool removes) : mState(state), mRemoves(removes) {}
+
+  bool press(const ToolEvent& event) override {
+    State& s = mState;
+    mFrom = event.at;
+    mTrace = s.traceAt(mFrom);
+    mStrayed = false;
+    if (!s.canEdit() || !s.traces.canPick(mTrace)) return false;
+    const auto kind = mRemoves     ? PickStroke::Kind::Remove
+                      : nearPick() ? PickStroke::Kind::Move
+                                   : PickStroke::Kind::Run;
+    s.stroke.begin(kind, mTrace, placeOf(mFrom), s.layout, adjuster(event));
+    s.setCurrent(mTrace);
+    s.redrawMarks();
+    return true;
+  }
+
+  void move(const ToolEvent& event) override {
+    State& s = mState;
+    const QPointF at = clamped(event.at, s.plot);
+    // A hand that shakes while it clicks between two traces must not pick both.
+    mStrayed = mStrayed || isDrag({event.at.x() - mFrom.x(), 0.0});
+    const int trace = mStrayed ? s.traceAt(at) : mTrace;
+    s.stroke.moveTo(trace, placeOf(at), s.layout, adjuster(event));
+    if (s.stroke.kind() != PickStroke::Kind::Move && trace >= 0) s.setCurrent(trace);
+    s.redrawMarks();
+  }
+
+  void release(const ToolEvent&) override {
+    State& s = mState;
+    const std::map<int, double> times = s.stroke.times();
+    const bool had = hasPick(s.traces.measured(mTrace));
+    s.stroke.clear();
+    const Message text =
+        mRemoves ? (times.size() > 1 ? Message::tr("Remove picks") : Message::tr("Remove pick"))
+        : times.size() > 1 ? Message::tr("Draw picks")
+        : had              ? Message::tr("Move pick")
+                           : Message::tr("Set pick");
+    s.edit(text, times);
+    s.redrawMarks();
+  }
+
+  void giveUp() override {
+    mState.stroke.clear();
+    mState.redrawMarks();
+  }
+
+  bool takesDoubleClick() const override { return mState.canEdit(); }
+
+ private:
+  PickStroke::Place placeOf(const QPointF& point) const {
+    const QPointF place = mState.placeAt(point);
+    return {place.x(), place.y()};
+  }
+  PickStroke::Adjust adjuster(const ToolEvent& event) const {
+    return mState.adjuster(!(event.keys & Qt::AltModifier));
+  }
+  bool nearPick() const {
+    const double pick = mState.traces.measured(mTrace);
+    return hasPick(pick) && std::fabs(mState.mapping().y(pick) - mFrom.y()) <= kGrab;
+  }
+
+  State& mState;
+  const bool mRemoves;
+  QPointF mFrom;
+  int mTrace = -1;
+  bool mStrayed = false;  ///< the drag went beyond the trace that it started on
+};
+
+/// Draws the line that the apparent velocity is read along.
+class editTravelTimesWidget::State::RulerTool : public PlotTool {
+ public:
+  explicit RulerTool(State& state) : mState(state) {}
+
+  bool press(const ToolEvent& event) override {
+    const QPointF place = mState.placeAt(event.at);
+    mState.ruler = {place, place};
+    mFrom = event.at;
+    return true;
+  }
+  void move(const ToolEvent& event) override {
+    mState.ruler->second = mState.placeAt(clamped(event.at, mState.plot));
+  }
+  void release(const ToolEvent& event) override {
+    if (event.at == mFrom) mState.ruler.reset();
+  }
+  void giveUp() override { mState.ruler.reset(); }
+
+ private:
+  State& mState;
+  QPointF mFrom;
+};
+
+/// Selects the traces between press and mouse.
+class editTravelTimesWidget::State::SelectTool : public PlotTool {
+ public:
+  explicit SelectTool(State& state) : mState(state) {}
+
+  bool press(const ToolEvent& event) override {
+    mBefore = {mState.selectedFirst, mState.selectedLast};
+    mFrom = nearest(event.at);
+    mState.select(mFrom, mFrom);
+    return true;
+  }
+  void move(const ToolEvent& event) override {
+    mState.select(mFrom, nearest(clamped(event.at, mState.plot)));
+  }
+  void release(const ToolEvent&) override {}
+  void giveUp() override { mState.select(mBefore.first, mBefore.second); }
+
+ private:
+  int nearest(const QPointF& point) const {
+    return mState.layout.nearest(mState.placeAt(point).x());
+  }
+
+  State& mState;
+  std::pair<int, int> mBefore;
+  int mFrom = -1;
+};
+
+editTravelTimesWidget::State::State(editTravelTimesWidget& owner)
+    : widget(owner),
+      gestures(*this, owner, owner),
+      pickTool(std::make_unique<PickTool>(*this, false)),
+      removeTool(std::make_unique<PickTool>(*this, true)),
+      zoomTool(std::make_unique<BandTool>(
+          gestures, [this](const QPointF& at) { gestures.zoomAbout(at, kClickZoom, kClickZoom); })),
+      rulerTool(std::make_unique<RulerTool>(*this)),
+      selectTool(std::make_unique<SelectTool>(*this)) {}
+
+}  // namespace talvesk
