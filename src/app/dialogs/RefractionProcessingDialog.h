@@ -69,7 +69,7 @@ class RefractionProcessingDialog : public QDialog {
   void refreshShot();
 
   // Results
-  bool build(std::vector<RefractionWarning> known);
+  bool build(std::vector<RefractionWarning> told);
   void tell(const std::vector<RefractionWarning>& warnings,
             const std::vector<RefractionWarning>& known);
   void showPhantoms();

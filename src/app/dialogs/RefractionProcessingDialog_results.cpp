@@ -134,8 +134,9 @@ void RefractionProcessingDialog::on_buildButton_clicked() {
   }
 }
 
-/// \param known warnings that the user has been told already
-bool RefractionProcessingDialog::build(std::vector<RefractionWarning> known) {
+/// \param told warnings that the user has been told already
+bool RefractionProcessingDialog::build(std::vector<RefractionWarning> told) {
+  const std::vector<RefractionWarning> known = std::move(told);  // those of before may be meant
   const ProfileOutcome outcome = whileWaiting([this] { return buildProfiles(mShots, mWork); });
   if (outcome.built) {
     mWarnings = outcome.warnings;
