@@ -136,13 +136,21 @@ class OpenEdit {
   OpenEdit(const OpenEdit&) = delete;
   OpenEdit& operator=(const OpenEdit&) = delete;
 
-  Status preview(const Session::Change& change) { return mSession.preview(change); }
+  Status preview(const Session::Change& change) {
+    return mOpen ? mSession.preview(change) : inTheWay();
+  }
   Status commit(const Session::Change& change) {
+    if (!mOpen) return inTheWay();
     mOpen = false;
     return mSession.commit(change);
   }
 
  private:
+  /// What is open is the edit of somebody else.
+  static Status inTheWay() {
+    return Status::failure(Message::tr("another edit is under way; try again when it is through"));
+  }
+
   Session& mSession;
   bool mOpen;
 };

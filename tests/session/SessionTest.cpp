@@ -196,6 +196,13 @@ TEST_F(Sessions, showAnEditThatIsUnderWay) {
     EXPECT_FALSE(session.canUndo());
     EXPECT_FALSE(pick(4, 0.030).ok()) << "one edit at a time";
     EXPECT_FALSE(session.begin(Edit::kTitle));
+    {
+      OpenEdit late(session, Edit::kPalette);
+      EXPECT_FALSE(late.preview(withRange(7.0)).ok());
+      EXPECT_FALSE(late.commit(withRange(7.0)).ok());
+    }
+    EXPECT_TRUE(session.isOpen()) << "the edit of somebody else goes on";
+    EXPECT_EQ(session.survey().palettes->current().max_db, 1000.0);
   }
   EXPECT_TRUE(isSame(session.survey(), before)) << "abandoned";
   EXPECT_EQ(session.steps(), 0U);

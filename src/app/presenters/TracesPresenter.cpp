@@ -40,6 +40,8 @@ void TracesPresenter::addChooser() {
 void TracesPresenter::connectEditors() {
   for (editTravelTimesWidget* editor : mDesk.editors()) {
     editor->setSession(mDesk.session);
+    connect(editor, &editTravelTimesWidget::editRefused, this,
+            [this](const Status& reason) { mDesk.tellUnlessDone(reason); });
     connect(editor, &editTravelTimesWidget::cursorMoved, this,
             [this, editor](const TraceCursor& cursor) {
               if (!editor->isHidden()) showCursor(cursor);

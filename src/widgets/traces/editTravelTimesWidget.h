@@ -12,6 +12,7 @@
 namespace talvesk {
 
 class Session;
+class Status;
 class TomoDocument;
 struct ViewWindow;
 
@@ -114,6 +115,7 @@ class editTravelTimesWidget : public QWidget {
   void removeUnconfirmedPicks();  ///< automatic ones that nobody confirmed
 
  signals:
+  void editRefused(const talvesk::Status& reason);  ///< the picks are as they were
   void pick_added();            ///< a trace without a pick got one; pick_edited() follows
   void pick_edited();           ///< picks changed, undo and redo included
   void mouse_moved(int trace);  ///< trace under the cursor, from 0; -1 none

@@ -1,7 +1,6 @@
 #include "widgets/traces/PickSnap.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
 
-#include <QApplication>
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
@@ -55,8 +54,7 @@ void editTravelTimesWidget::State::push(Edit edit, Message text, int record,
     return Status();
   };
   const Status done = session->applyMerging(edit, change, mergeKey, std::move(text));
-  // It is refused while another edit is under way, whose progress stands before this view.
-  if (!done.ok()) QApplication::beep();
+  if (!done.ok()) emit widget.editRefused(done);
 }
 
 void editTravelTimesWidget::State::surveyChanged(const SurveyChange& change) {
