@@ -54,9 +54,9 @@ void removeShots(const std::vector<std::size_t>& shots, Survey& survey) {
          {&recordings.filenames, &recordings.filenames_DX, &recordings.filenames_SX}) {
       removeFrom(*files, removed);
     }
-    std::int32_t set = 0;
-    for (TravelTime& record : document.ttArray.edit()) record.traceSetID = set++;
   }
+  std::int32_t set = 0;
+  for (TravelTime& record : document.ttArray.edit()) record.traceSetID = set++;
   removeMarks(survey.interpretation.edit(), removed);
   forgetModel(modelLoss(before, document.surveyProfile()), document);
 }

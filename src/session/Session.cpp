@@ -62,9 +62,10 @@ Status Session::applyMerging(Edit edit, const Change& change, const std::string&
   return status;
 }
 
-bool Session::begin(Edit edit) {
+bool Session::begin(Edit edit, bool decided) {
   if (mChanging || isOpen()) return false;
-  mOpen = Open{edit, mSurvey};
+  mOpen = Open{edit, mSurvey, decided};
+  tell(SurveyChange::Kind::kPreview, edit, mOpen->before);
   return true;
 }
 
@@ -121,21 +122,23 @@ Message Session::redoText() const {
 
 void Session::undo() {
   if (!canUndo()) return;
-  exchange(mSteps[--mIndex], SurveyChange::Kind::kUndo);
+  exchange(mSteps[--mIndex], Way::kBack);
 }
 
 void Session::redo() {
   if (!canRedo()) return;
-  exchange(mSteps[mIndex++], SurveyChange::Kind::kRedo);
+  exchange(mSteps[mIndex++], Way::kForth);
 }
 
 /// The survey and that on the other side of a step change places.
-void Session::exchange(Step& step, SurveyChange::Kind kind) {
+void Session::exchange(Step& step, Way way) {
   const Survey before = mSurvey;
+  const Edit edit = step.edit;
   std::swap(mSurvey, step.other);
   keepView(before.section, mSurvey.section);
   step.bytes = bytesNotShared(step.other, mSurvey);
-  tell(kind, step.edit, before);
+  dropFarthest(way);
+  tell(way == Way::kBack ? SurveyChange::Kind::kUndo : SurveyChange::Kind::kRedo, edit, before);
 }
 
 void Session::push(Step step) {
@@ -150,17 +153,33 @@ void Session::push(Step step) {
     mSteps.push_back(std::move(step));
     ++mIndex;
   }
+  ++mPushed;
   mSteps.back().bytes = bytesNotShared(mSteps.back().other, mSurvey);
-  dropOldest();
+  dropFarthest(Way::kForth);
 }
 
-/// The step that was just made stays, whatever it costs: who made it may want to take it back.
-void Session::dropOldest() {
-  while (mIndex > 1 && undoMemory() > mUndoMemory) {
+/// Going forth the oldest steps go first, going back those that would be done again last. The next
+/// step either way stays, whatever it costs: who made it may want to take it back.
+void Session::dropFarthest(Way way) {
+  const auto dropFirst = [this] {
     mSteps.pop_front();
     --mIndex;
-    ++mDropped;
     if (mClean) mClean = *mClean > 0 ? std::optional<std::size_t>(*mClean - 1) : std::nullopt;
+  };
+  const auto dropLast = [this] {
+    mSteps.pop_back();
+    if (mClean && *mClean > mSteps.size()) mClean.reset();
+  };
+  while (undoMemory() > mUndoMemory) {
+    const bool first = mIndex > 1;
+    const bool last = mSteps.size() > mIndex + 1;
+    if (!first && !last) break;
+    if (first && (way == Way::kForth || !last)) {
+      dropFirst();
+    } else {
+      dropLast();
+    }
+    ++mDropped;
   }
 }
 
@@ -183,7 +202,7 @@ void Session::markSaved() {
 
 void Session::setUndoMemory(std::size_t bytes) {
   mUndoMemory = bytes;
-  dropOldest();
+  dropFarthest(Way::kForth);
 }
 
 std::size_t Session::undoMemory() const {
@@ -196,7 +215,11 @@ void Session::tell(SurveyChange::Kind kind, std::optional<Edit> edit, const Surv
   const bool other = kind == SurveyChange::Kind::kOpened;
   const SurveyChange change = {kind, edit, other ? PartSet::all() : differingParts(before, mSurvey),
                                before};
-  if (change.parts.empty() && kind != SurveyChange::Kind::kSaved) return;
+  // What begins, ends or is saved as it was shown may still count as modified or not, or be a step.
+  const bool step = kind == SurveyChange::Kind::kEdit && mPushed != mTold;
+  const bool looks = kind == SurveyChange::Kind::kView || kind == SurveyChange::Kind::kEdit;
+  mTold = mPushed;
+  if (change.parts.empty() && looks && !step) return;
   if (!change.parts.empty()) ++mRevision;
   // Observers may come and go while they are told.
   const std::vector<std::weak_ptr<Observer>> observers = mObservers;

@@ -59,7 +59,9 @@ class Session {
   Status applyMerging(Edit edit, const Change& change, const std::string& key, Message text = {});
 
   /// Begins an edit that takes time and is looked at meanwhile: see OpenEdit.
-  bool begin(Edit edit);
+  /// \param decided the user has said that it is to be: what is shown of it counts as modified, and
+  /// is what settled() gives. Else it is a trial until commit().
+  bool begin(Edit edit, bool decided = false);
   Status preview(const Change& change);  ///< shows another state of the edit that was begun
   Status commit(const Change& change);   ///< the edit ends as one step
   void abandon();                        ///< the survey is as it was at begin()
@@ -84,7 +86,9 @@ class Session {
   void open(Survey survey, bool saved);
   void markSaved();  ///< a file holds the survey as it is
   /// Whether the survey is another than the one that was opened or saved last.
-  bool modified() const { return mClean != mIndex; }
+  bool modified() const { return mClean != mIndex || (mOpen && mOpen->decided); }
+  /// The survey without what is only tried.
+  const Survey& settled() const { return mOpen && !mOpen->decided ? mOpen->before : mSurvey; }
   /// Grows whenever the survey changes, the view included.
   std::uint64_t revision() const { return mRevision; }
 
@@ -103,20 +107,25 @@ class Session {
     std::size_t bytes = 0;  ///< that it does not share with the survey on the other side
   };
 
+  enum class Way { kBack, kForth };
+
   Status run(Edit edit, const Change& change, const Survey& before, Survey& next);
   void push(Step step);
-  void exchange(Step& step, SurveyChange::Kind kind);
-  void dropOldest();
+  void exchange(Step& step, Way way);
+  void dropFarthest(Way way);
   void tell(SurveyChange::Kind kind, std::optional<Edit> edit, const Survey& before);
 
   struct Open {
     Edit edit;
     Survey before;
+    bool decided;
   };
 
   Survey mSurvey;
   std::deque<Step> mSteps;
-  std::size_t mIndex = 0;  ///< steps that are done
+  std::size_t mIndex = 0;     ///< steps that are done
+  std::uint64_t mPushed = 0;  ///< steps ever made
+  std::uint64_t mTold = 0;    ///< of them, that observers know of
   std::optional<std::size_t> mClean = 0;
   std::size_t mUndoMemory = kUndoMemory;
   std::size_t mDropped = 0;
@@ -129,7 +138,8 @@ class Session {
 /// An edit under way, which ends abandoned unless it is committed.
 class OpenEdit {
  public:
-  OpenEdit(Session& session, Edit edit) : mSession(session), mOpen(session.begin(edit)) {}
+  OpenEdit(Session& session, Edit edit, bool decided = false)
+      : mSession(session), mOpen(session.begin(edit, decided)) {}
   ~OpenEdit() {
     if (mOpen) mSession.abandon();
   }

@@ -47,7 +47,8 @@ TEST(RemoveShots, ofPicksOnlyAndOfAll) {
   Survey survey = fullSurvey(2);
   survey.document.recordings = {};
   removeShots({0}, survey);
-  EXPECT_EQ(survey.document.ttArray.size(), 1U);
+  ASSERT_EQ(survey.document.ttArray.size(), 1U);
+  EXPECT_EQ(survey.document.ttArray[0].traceSetID, 0) << "a record is its own set";
   removeShots({0}, survey);
   EXPECT_TRUE(survey.document.ttArray.empty());
   removeShots({0}, survey);

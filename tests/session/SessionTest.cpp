@@ -214,8 +214,61 @@ TEST_F(Sessions, showAnEditThatIsUnderWay) {
   }
   EXPECT_EQ(session.survey().palettes->current().max_db, 3000.0);
   EXPECT_EQ(session.steps(), 1U);
+  bool named = false;
+  const auto subscription = session.subscribe(
+      [&](const SurveyChange&) { named = session.undoText() == Message("Palette"); });
+  {
+    OpenEdit edit(session, Edit::kPalette);
+    ASSERT_TRUE(edit.preview(withRange(4000.0)).ok());
+    named = false;
+    ASSERT_TRUE(edit.commit(withRange(4000.0)).ok());
+    EXPECT_TRUE(named) << "a step is told that shows what was shown before";
+  }
+  session.undo();
   session.undo();
   EXPECT_TRUE(isSame(session.survey(), before));
+}
+
+TEST_F(Sessions, countWhatWasDecidedAsModifiedAndNotWhatIsTried) {
+  const auto limit = [](Survey& survey) {
+    survey.document.model.edit().maxVelocity = 1234.0;
+    return Status();
+  };
+  {
+    OpenEdit trial(session, Edit::kGrid);
+    ASSERT_TRUE(trial.preview(limit).ok());
+    EXPECT_FALSE(session.modified());
+    EXPECT_NE(session.settled().document.model->maxVelocity, 1234.0);
+  }
+  bool told = false;
+  const auto subscription =
+      session.subscribe([&](const SurveyChange&) { told = told || session.modified(); });
+  OpenEdit run(session, Edit::kInversion, true);
+  EXPECT_TRUE(told) << "the title has its mark from the beginning";
+  ASSERT_TRUE(run.preview(limit).ok());
+  EXPECT_TRUE(session.modified());
+  EXPECT_EQ(session.settled().document.model->maxVelocity, 1234.0);
+}
+
+TEST_F(Sessions, boundWhatCanBeDoneAgainToo) {
+  for (std::size_t set = 0; set < 3; ++set) {
+    ASSERT_TRUE(session
+                    .apply(Edit::kFilter,
+                           [set](Survey& survey) {
+                             for (Trace& trace : survey.document.recordings.edit().traceSets[set]) {
+                               trace.filtered = std::vector<double>(40000, 1.0);
+                             }
+                             return Status();
+                           })
+                    .ok());
+  }
+  session.setUndoMemory(12 * 40000 * 8 * 3 / 2);
+  EXPECT_EQ(session.steps(), 3U) << "the copies are those of the survey itself";
+  session.undo();
+  session.undo();
+  EXPECT_EQ(session.steps(), 2U) << "the farthest is gone";
+  EXPECT_EQ(session.droppedSteps(), 1U);
+  EXPECT_TRUE(session.canUndo() && session.canRedo());
 }
 
 TEST_F(Sessions, payForWhatDiffersOnly) {

@@ -61,7 +61,7 @@ TomographyResult InversionPresenter::runBeside(const TomographyParameters& param
   progressTomographyDialog progress(&mDesk.window);
   connect(&progress, &progressTomographyDialog::stopped, this, stopWanted);
   progress.setTotal(parameters.externalIterations);
-  OpenEdit edit(mDesk.session, Edit::kInversion);
+  OpenEdit edit(mDesk.session, Edit::kInversion, true);
   mRunning = &inversion;
   mDesk.inversionRuns = true;
   mProgress = &progress;

@@ -33,8 +33,10 @@ RecoveryPresenter::RecoveryPresenter(Desk& desk, ProjectPresenter& projects)
   connect(&mCopy, &RecoveryCopy::failed, this, &RecoveryPresenter::failed);
   mSubscription = desk.session.subscribe([this](const SurveyChange& change) {
     using Kind = SurveyChange::Kind;
-    if (change.kind == Kind::kOpened || change.kind == Kind::kSaved) forget();
-    if (!mDesk.session.modified() || change.kind == Kind::kView) return;
+    if (change.kind == Kind::kOpened) forget();
+    if (change.kind == Kind::kView) return;
+    // Saved, or taken back to what was: nothing is to be recovered.
+    if (!mDesk.session.modified()) return forget();
     if (!mTimer.isActive()) mTimer.start(kDelay);
   });
 }
@@ -48,12 +50,12 @@ void RecoveryPresenter::autosave() {
     return;
   }
   mRevision = mDesk.session.revision();
-  mCopy.save(mDesk.session.survey(), mDesk.project);
+  mCopy.save(mDesk.session.settled(), mDesk.project);
 }
 
 void RecoveryPresenter::leaveCopy() {
   if (!mDesk.session.modified()) return;
-  const Status left = mCopy.saveNow(mDesk.session.survey(), mDesk.project);
+  const Status left = mCopy.saveNow(mDesk.session.settled(), mDesk.project);
   if (!left.ok()) mDesk.log.write("Recovery copy: " + left.message(), 1);
 }
 
