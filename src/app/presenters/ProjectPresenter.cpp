@@ -27,10 +27,14 @@ const QString kSuffix = QStringLiteral(".tvsk");
 }  // namespace
 
 ProjectPresenter::ProjectPresenter(Desk& desk)
-    : mDesk(desk), mRecent(desk, [this](const QString& file) {
-        mDesk.folders.opened(file);
-        open(file);
-      }) {}
+    : mDesk(desk),
+      mRecent(desk,
+              [this](const QString& file) {
+                mDesk.folders.opened(file);
+                open(file);
+              }),
+      mSubscription(
+          desk.session.subscribe([this](const SurveyChange& change) { followImports(change); })) {}
 
 bool ProjectPresenter::save() {
   return mDesk.project.isEmpty() ? saveAs() : saveTo(mDesk.project.path());
@@ -204,6 +208,33 @@ void ProjectPresenter::openSurvey(Survey survey, ProjectFile file, bool saved) {
   mDesk.project = std::move(file);
   mDesk.shot.forget();
   mDesk.session.open(std::move(survey), saved);
+}
+
+void ProjectPresenter::leaveFile() {
+  mFilesBefore.push_back(mDesk.project);
+  mFilesAfter.clear();
+  setFile({});
+}
+
+/// Saving must not put one survey over the file of another.
+void ProjectPresenter::followImports(const SurveyChange& change) {
+  using Kind = SurveyChange::Kind;
+  if (change.kind == Kind::kOpened) {
+    mFilesBefore.clear();
+    mFilesAfter.clear();
+  }
+  if (change.edit != Edit::kImportSurvey) return;
+  const bool undone = change.kind == Kind::kUndo;
+  if (!undone && change.kind != Kind::kRedo) return;
+  std::vector<ProjectFile>& from = undone ? mFilesBefore : mFilesAfter;
+  std::vector<ProjectFile>& to = undone ? mFilesAfter : mFilesBefore;
+  to.push_back(mDesk.project);
+  ProjectFile file;
+  if (!from.empty()) {
+    file = from.back();
+    from.pop_back();
+  }
+  setFile(std::move(file));
 }
 
 void ProjectPresenter::setFile(ProjectFile file) {

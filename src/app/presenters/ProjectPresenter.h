@@ -32,9 +32,11 @@ class ProjectPresenter : public QObject {
   void take(LoadedProject project, ProjectFile file, bool saved = true);
   /// Another survey in the place of this one, with all that belongs to it.
   void openSurvey(Survey survey, ProjectFile file, bool saved = false);
-  void setFile(ProjectFile file);
+  /// The survey is another than that of its file, by an edit that was just made. Undo brings the
+  /// file back with the survey.
+  void leaveFile();
 
-  std::function<void()> fileChanged;  ///< by setFile()
+  std::function<void()> fileChanged;  ///< by leaveFile(), and undo and redo of its edit
 
   void retranslate() { mRecent.retranslate(); }
 
@@ -43,8 +45,15 @@ class ProjectPresenter : public QObject {
   void reportBad(const QString& file, const projectReader& reader);
   void keepRange(ColorPaletteList& palettes) const;
 
+  void followImports(const SurveyChange& change);
+  void setFile(ProjectFile file);
+
   Desk& mDesk;
   RecentMenu mRecent;
+  // Of imports of another survey that can be undone, and done again: the file on the other side.
+  std::vector<ProjectFile> mFilesBefore;
+  std::vector<ProjectFile> mFilesAfter;
+  Session::Subscription mSubscription;
 };
 
 }  // namespace talvesk

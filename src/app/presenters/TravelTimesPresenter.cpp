@@ -60,7 +60,7 @@ void TravelTimesPresenter::importFile(const QString& file) {
     return;
   }
   // The project on the disk is that of another survey: saving asks where to.
-  if (cost.survey) mProjects.setFile({});
+  if (cost.survey) mProjects.leaveFile();
   mDesk.showFresh(mDesk.shot.index() < 0 ? 0 : mDesk.shot.index());
   mDesk.tell(tr("Travel times of %n shot(s) imported.", nullptr,
                 static_cast<int>(mDesk.document().ttArray.size())));
