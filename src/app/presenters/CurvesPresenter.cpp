@@ -5,6 +5,7 @@
 #include "model/TomographyOutcome.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
+#include "widgets/traces/TraceViewOptions.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 
 namespace talvesk {
@@ -27,9 +28,19 @@ CurvesPresenter::CurvesPresenter(Desk& desk) : mDesk(desk) {
       for (TravelTimePlot* plot : mDesk.plots()) plot->setDocument(&mDesk.document());
     }
     if (!change.parts.has(Part::kGeometry) && !change.parts.has(Part::kResult)) return;
-    if (!mDesk.document().result->has_tomographic_info) mDesk.ui.showSimTT_CB->setChecked(false);
+    if (!mDesk.document().result->has_tomographic_info) hideComputed();
     refresh();
   });
+}
+
+/// In the traces, too: times of a result to come are shown when they are asked for.
+void CurvesPresenter::hideComputed() {
+  mDesk.ui.showSimTT_CB->setChecked(false);
+  for (editTravelTimesWidget* editor : mDesk.editors()) {
+    TraceViewOptions view = editor->options();
+    view.showComputedTimes = false;
+    editor->setOptions(view);
+  }
 }
 
 void CurvesPresenter::refresh() {

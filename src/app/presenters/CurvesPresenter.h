@@ -17,6 +17,7 @@ class CurvesPresenter : public QObject {
 
  private:
   void exportPicture();
+  void hideComputed();
 
   Desk& mDesk;
   Session::Subscription mSubscription;

@@ -77,7 +77,7 @@ bool ModelPresenter::askForSameGrid() {
 void ModelPresenter::defineVelocity() {
   TomoDocument work = mDesk.document();
   if (select_speed_Dialog(work, &mDesk.window).exec() != QDialog::Accepted) return;
-  mDesk.edit(Edit::kStartingModel, [&](Survey& survey) { survey.document = work; });
+  if (!mDesk.edit(Edit::kStartingModel, [&](Survey& survey) { survey.document = work; })) return;
   mDesk.showSection();
   mDesk.tell(tr("The grid has the velocities of the layers."));
 }

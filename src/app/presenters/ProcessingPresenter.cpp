@@ -56,7 +56,7 @@ void ProcessingPresenter::autoPick() {
     traces += record.ttMisurati.size();
     found += pickCount(record);
   });
-  mDesk.edit(Edit::kAutoPick, [&](Survey& survey) { survey.document = work; });
+  if (!mDesk.edit(Edit::kAutoPick, [&](Survey& survey) { survey.document = work; })) return;
   // The traces may be behind another tab.
   mDesk.tell(tr("First breaks found on %1 of %2 traces.").arg(found).arg(traces));
   if (!failed.ok()) {

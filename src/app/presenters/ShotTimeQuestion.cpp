@@ -23,11 +23,11 @@ void askForShotTime(Desk& desk, const std::vector<std::size_t>& sets) {
           "Do you want to count times from the shot? What was recorded before it is then dropped."),
       true);
   if (!yes) return;
-  ShotTimeOutcome outcome;
   // Only the new records: picks on the older ones count from where those start now.
-  desk.edit(Edit::kShotTime, [&](Survey& survey) {
-    outcome = countTimeFromShot(survey.document.recordings.edit().traceSets, sets);
-  });
+  TomoDocument work = desk.document();
+  const ShotTimeOutcome outcome = countTimeFromShot(work.recordings.edit().traceSets, sets);
+  const auto take = [&](Survey& survey) { survey.document = work; };
+  if (outcome.shortened > 0 && !desk.edit(Edit::kShotTime, take)) return;
   if (outcome.leftAsRecorded > 0) {
     showNote(&desk.window, Desk::tr("Recording delay"),
              Desk::tr("%n trace(s) end before the shot and stay as recorded.", nullptr,

@@ -16,7 +16,12 @@ namespace talvesk {
 SurveyPresenter::SurveyPresenter(Desk& desk)
     : mDesk(desk),
       mMisfitLabel(new QLabel(&desk.window)),
-      mSubscription(desk.session.subscribe([this](const SurveyChange&) { refresh(); })) {
+      mSubscription(desk.session.subscribe([this](const SurveyChange& change) {
+        PartSet fitted;
+        for (const Part part : {Part::kPicks, Part::kGeometry, Part::kResult}) fitted.add(part);
+        if (change.parts.any(fitted)) refreshMisfit();
+        refreshTexts();
+      })) {
   mMisfitLabel->setObjectName(QStringLiteral("misfitLabel"));
   mMisfitLabel->setMinimumWidth(1);  // a long text must not widen the window
   desk.ui.statusBar->insertPermanentWidget(0, mMisfitLabel);
@@ -24,6 +29,10 @@ SurveyPresenter::SurveyPresenter(Desk& desk)
 
 void SurveyPresenter::refresh() {
   refreshMisfit();
+  refreshTexts();
+}
+
+void SurveyPresenter::refreshTexts() {
   refreshTitle();
   refreshUndoTexts();
   tellDroppedSteps();
@@ -33,8 +42,17 @@ void SurveyPresenter::refresh() {
 void SurveyPresenter::tellDroppedSteps() {
   const std::size_t dropped = mDesk.session.droppedSteps();
   if (dropped > mDroppedSteps) {
-    mDesk.tell(tr("The oldest steps can no longer be undone: they needed more than %1 MB.")
-                   .arg(mDesk.settings.undoMegabytes));
+    const QString text =
+        tr("The oldest steps can no longer be undone: they needed more than %1 MB.")
+            .arg(mDesk.settings.undoMegabytes);
+    // After the command that has cost them has told its outcome.
+    QMetaObject::invokeMethod(
+        &mDesk.window,
+        [this, text] {
+          const QString outcome = mDesk.ui.statusBar->currentMessage();
+          mDesk.tell(outcome.isEmpty() ? text : outcome + QLatin1Char(' ') + text);
+        },
+        Qt::QueuedConnection);
   }
   mDroppedSteps = dropped;
 }

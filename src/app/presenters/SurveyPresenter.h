@@ -19,6 +19,7 @@ class SurveyPresenter : public QObject {
  private:
   void refreshMisfit();
   void refreshTitle();
+  void refreshTexts();
   void refreshUndoTexts();
   void tellDroppedSteps();
 

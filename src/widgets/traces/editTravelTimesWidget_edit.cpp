@@ -72,6 +72,7 @@ void editTravelTimesWidget::State::picksChanged(const SurveyChange& change) {
   const TomoDocument& before = change.before.document;
   if (hasNewPick(before, *document)) emit widget.pick_added();
   emit widget.pick_edited();
+  if (before.ttArray.size() != document->ttArray.size()) return;  // shots came or went
   const std::vector<std::int32_t> shots = shotsWithOtherPicks(before, *document);
   if (shots.empty() || std::find(shots.begin(), shots.end(), shot) != shots.end()) return;
   emit widget.shotEdited(shots.front());
