@@ -6402,6 +6402,14 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>Wiederholen: „%1“</translation>
     </message>
     <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
         <source>Remove shot</source>
         <translation>Schuss entfernen</translation>
     </message>

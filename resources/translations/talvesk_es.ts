@@ -6402,6 +6402,14 @@ Do you want to run refraction processing anyway? </source>
         <translation>Rehacer «%1»</translation>
     </message>
     <message>
+        <source>Undone: %1</source>
+        <translation>Deshecho: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Rehecho: %1</translation>
+    </message>
+    <message>
         <source>Remove shot</source>
         <translation>Quitar disparo</translation>
     </message>

@@ -6402,6 +6402,14 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>Refaire « %1 »</translation>
     </message>
     <message>
+        <source>Undone: %1</source>
+        <translation>Défait : %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Refait : %1</translation>
+    </message>
+    <message>
         <source>Remove shot</source>
         <translation>Supprimer le tir</translation>
     </message>

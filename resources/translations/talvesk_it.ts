@@ -6402,6 +6402,14 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>Ripeti modifica &quot;%1&quot;</translation>
     </message>
     <message>
+        <source>Undone: %1</source>
+        <translation>Annullato: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ripetuto: %1</translation>
+    </message>
+    <message>
         <source>Remove shot</source>
         <translation>Togli il tiro</translation>
     </message>

@@ -227,6 +227,31 @@ TEST_F(Undo, bringsBackWhatAnImportReplaced) {
   EXPECT_EQ(window->document().ttArray[0].ttMisurati[3], kUnpicked) << "older steps are there, too";
 }
 
+TEST_F(Undo, bringsTheProjectFileBackWithTheSurveyOfIt) {
+  const auto importLine = [this](const char* name, double first) {
+    TomoDocument line = testLine(12, 2.0, {first, 30.0});
+    pickTwoLayers(line, 450.0, 1800.0, 3.0);
+    ASSERT_TRUE(writeTravelTimes(home.file(name), line).ok());
+    window->openFiles({QString::fromStdString(home.file(name))});
+  };
+  const auto saveAs = [this](const char* name) {
+    dialogs.expectFiles(QStringLiteral("Save Project"), {QString::fromStdString(home.file(name))});
+    action("actionSave_Project_As").trigger();
+    ASSERT_TRUE(dialogs.finished());
+  };
+  importLine("first.otte", -1.0);
+  saveAs("first.tvsk");
+  importLine("second.otte", -5.0);
+  EXPECT_THAT(window->windowTitle().toStdString(), ::testing::Not(::testing::HasSubstr("tvsk")));
+  saveAs("second.tvsk");
+  action("actionUndo").trigger();
+  EXPECT_THAT(window->windowTitle().toStdString(), ::testing::HasSubstr("first.tvsk"));
+  EXPECT_EQ(window->document().ttArray[0].shotPos2d.x, -1.0);
+  action("actionRedo").trigger();
+  EXPECT_THAT(window->windowTitle().toStdString(), ::testing::HasSubstr("second.tvsk"));
+  EXPECT_EQ(window->document().ttArray[0].shotPos2d.x, -5.0);
+}
+
 TEST_F(Undo, bringsBackAShotThatWasRemoved) {
   loadShots(3);
   window->showFile(1);
@@ -237,6 +262,7 @@ TEST_F(Undo, bringsBackAShotThatWasRemoved) {
   EXPECT_THAT(window->statusBar()->currentMessage().toStdString(),
               ::testing::HasSubstr("Shot 2 is removed"));
   action("actionUndo").trigger();
+  EXPECT_EQ(window->statusBar()->currentMessage(), QStringLiteral("Undone: Remove shot"));
   EXPECT_TRUE(isSame(window->session().survey(), before));
   for (int i = 0; i < 3; ++i) action("actionRemove_shot").trigger();
   EXPECT_TRUE(window->document().ttArray.empty());

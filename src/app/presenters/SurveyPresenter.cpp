@@ -21,6 +21,7 @@ SurveyPresenter::SurveyPresenter(Desk& desk)
         for (const Part part : {Part::kPicks, Part::kGeometry, Part::kResult}) fitted.add(part);
         if (change.parts.any(fitted)) refreshMisfit();
         refreshTexts();
+        tellUndone(change);
       })) {
   mMisfitLabel->setObjectName(QStringLiteral("misfitLabel"));
   mMisfitLabel->setMinimumWidth(1);  // a long text must not widen the window
@@ -36,6 +37,15 @@ void SurveyPresenter::refreshTexts() {
   refreshTitle();
   refreshUndoTexts();
   tellDroppedSteps();
+}
+
+/// What was told of the edit is not true any more, nor what was read in a view.
+void SurveyPresenter::tellUndone(const SurveyChange& change) {
+  const bool undone = change.kind == SurveyChange::Kind::kUndo;
+  if (!undone && change.kind != SurveyChange::Kind::kRedo) return;
+  if (mDesk.cursorLabel != nullptr) mDesk.cursorLabel->clear();
+  const QString step = textOf(undone ? mDesk.session.redoText() : mDesk.session.undoText());
+  mDesk.tell((undone ? tr("Undone: %1") : tr("Done again: %1")).arg(step));
 }
 
 /// Once for every time that some went.

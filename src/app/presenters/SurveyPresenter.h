@@ -22,6 +22,7 @@ class SurveyPresenter : public QObject {
   void refreshTexts();
   void refreshUndoTexts();
   void tellDroppedSteps();
+  void tellUndone(const SurveyChange& change);
 
   Desk& mDesk;
   QLabel* mMisfitLabel;
