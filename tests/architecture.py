@@ -10,12 +10,13 @@ import re
 import sys
 
 ENGINE = {"base", "numerics", "grid", "model"}
-ALGORITHMS = {"tomo", "processing", "refraction"}
+ALGORITHMS = {"tomo", "processing", "refraction", "doctor"}
 ALLOWED = {
     "base": set(),
     "numerics": set(),
     "grid": {"base", "numerics"},
     "model": {"base", "numerics", "grid"},
+    "doctor": ENGINE | {"processing"},
     "tomo": ENGINE,
     "processing": ENGINE,
     "refraction": ENGINE,
