@@ -193,8 +193,8 @@ class Seg2StandardReader {
 
   std::vector<Message> warnings() const {
     std::vector<Message> lines;
-    const auto tell = [&lines](const TraceTally& traces, Message text) {
-      if (traces.any()) lines.push_back(std::move(text).arg(traces.which()));
+    const auto tell = [this, &lines](const TraceTally& traces, Message text) {
+      if (traces.any()) lines.push_back(std::move(text).arg(traces.which(mPointers)));
     };
     tell(mAstray,
          Message::tr("nothing is read of %1 since no trace block is where the pointer leads"));
@@ -209,12 +209,13 @@ class Seg2StandardReader {
     tell(mBadStack, Message::tr("the STACK of %1 is no usable number and was taken as 1"));
     tell(mBadDelay, Message::tr("the DELAY of %1 is no finite number and was taken as 0"));
     if (mSkewed.any()) {
-      lines.push_back(Message::tr("the SKEW of %1 has up to %2 ms beyond whole samples, which are "
-                                  "not applied")
-                          .arg(mSkewed.which())
-                          .arg(1000.0 * mMostSkew));
+      lines.push_back(
+          Message::tr("the SKEW of %1 is up to %2 ms beyond whole samples; that part is "
+                      "not applied")
+              .arg(mSkewed.which(mPointers))
+              .arg(1000.0 * mMostSkew));
     }
-    mStart.warn(lines);
+    mStart.warn(mPointers, lines);
     warnOfBytes(mReader.missing(), mNonFinite, lines);
     return lines;
   }
