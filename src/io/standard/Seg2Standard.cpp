@@ -167,13 +167,15 @@ class Seg2StandardReader {
     return (hasFactor ? *descaling.value : 1.0) / (hasStack ? *stack.value : 1.0);
   }
 
-  /// Seconds of the skew that are whole samples.
+  /// Seconds of the skew that are whole samples, but for how headers round.
   double wholeSkew(const Seg2Trace& trace) {
+    constexpr double kRounding = 1e-6;  // of a sample
+    const double interval = trace.record.sampleInterval;
     const double skew = trace.header.skew.value.value_or(0.0);
-    const double whole =
-        std::trunc(skew / trace.record.sampleInterval) * trace.record.sampleInterval;
-    const double applied = std::isfinite(whole) ? whole : 0.0;
-    if (skew != applied) {
+    const double samples = skew / interval;
+    const double whole = std::trunc(samples + std::copysign(kRounding, samples));
+    const double applied = std::isfinite(whole) ? whole * interval : 0.0;
+    if (!(std::abs(skew - applied) <= kRounding * interval)) {
       mSkewed.count(trace.index);
       mMostSkew = std::max(mMostSkew, std::abs(skew - applied));
     }
