@@ -61,7 +61,7 @@ void expectSaneOrRefused(const std::string& bytes) {
   std::size_t memory = 0;
   for (const StandardReading::Shot& shot : reading.shots) {
     for (const ShotRecord& trace : shot.data.traces) {
-      memory += trace.samples.size() * sizeof(double);
+      memory += trace.samples.capacity() * sizeof(double);
       EXPECT_TRUE(isFinite(trace.source) && isFinite(trace.receiver));
       EXPECT_TRUE(std::isfinite(trace.delay) && trace.delay <= 0.0);
       EXPECT_TRUE(std::isfinite(trace.sampleInterval) && trace.sampleInterval > 0.0);
@@ -89,6 +89,18 @@ TEST(StandardReader, namesTheFileInItsWarnings) {
   ASSERT_TRUE(parseByStandard(smallSeg2(ByteOrder::kLittle, 4), "line/a.dat", reading).ok());
   EXPECT_EQ(console.out(), "opening seg2 file line/a.dat\n");
   EXPECT_THAT(console.error(), HasSubstr("Warning: line/a.dat: its positions are in FEET"));
+}
+
+TEST(StandardReader, saysByWhatItToldShotsApart) {
+  Seg2Fixture file;
+  for (const char* source : {"SOURCE_LOCATION 0", "SOURCE_LOCATION 0", "SOURCE_LOCATION 9"}) {
+    file.channels.push_back({4, {1, 2}, {"SAMPLE_INTERVAL 0.001", source}, {}});
+  }
+  const ConsoleCapture console;
+  StandardReading reading;
+  ASSERT_TRUE(parseByStandard(seg2Bytes(file), "a.dat", reading).ok());
+  EXPECT_EQ(reading.split.english(), "it holds 2 shots, told apart by SOURCE_LOCATION");
+  EXPECT_THAT(console.error(), HasSubstr("Warning: a.dat: it holds 2 shots"));
 }
 
 TEST(StandardReader, refusesWhatIsNoRecordWithAReason) {

@@ -157,21 +157,19 @@ class MiniSeedReader {
       const double offset = since * channel.rate - static_cast<double>(channel.length);
       const bool isFirst = piece == channel.pieces.begin();
       piece->place = channel.length;
-      if (offset > tolerance) {
-        if (offset > static_cast<double>(channel.recorded - zeros)) {
-          if (!isFirst) {
-            mFarRecords += static_cast<std::size_t>(channel.pieces.end() - piece);
-            channel.pieces.erase(piece, channel.pieces.end());
-            return;
-          }
-          mNotAligned.count(index);
-          origin = piece->record.start;
-        } else {
-          const auto gap = static_cast<std::size_t>(std::round(offset));
-          (isFirst ? mLate : mGaps).count(index);
-          zeros += gap;
-          piece->place += gap;
-        }
+      const bool isLong = offset > static_cast<double>(channel.recorded - zeros);
+      if (offset > tolerance && isLong && isFirst) {
+        mNotAligned.count(index);
+        origin = piece->record.start;
+      } else if (offset > tolerance && isLong) {
+        mFarRecords += static_cast<std::size_t>(channel.pieces.end() - piece);
+        channel.pieces.erase(piece, channel.pieces.end());
+        return;
+      } else if (offset > tolerance) {
+        const auto gap = static_cast<std::size_t>(std::round(offset));
+        (isFirst ? mLate : mGaps).count(index);
+        zeros += gap;
+        piece->place += gap;
       } else if (offset < -tolerance) {
         mOverlaps.count(index);
         piece->place -= std::min(piece->place, static_cast<std::size_t>(std::round(-offset)));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace talvesk {
 
@@ -17,7 +18,11 @@ void RecordStart::set(double start, std::size_t trace, ShotRecord& record) {
     mLatest = std::max(mLatest, start);
     return;
   }
-  record.samples.insert(record.samples.begin(), static_cast<std::size_t>(zeros), 0.0);
+  // Made anew, not inserted into: that would keep room for twice as many.
+  const auto lead = static_cast<std::ptrdiff_t>(zeros);
+  std::vector<double> samples(record.samples.size() + static_cast<std::size_t>(lead), 0.0);
+  std::copy(record.samples.begin(), record.samples.end(), samples.begin() + lead);
+  record.samples = std::move(samples);
   mPadded.count(trace);
   mLongest = std::max(mLongest, start);
 }

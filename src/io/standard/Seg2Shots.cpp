@@ -103,10 +103,10 @@ void dealToShots(std::vector<Seg2Trace> traces, StandardReading& reading) {
   std::vector<Group> groups;
   if (areShots(numbered, traces)) {
     groups = numbered;
-    reading.split = Message::tr("%1 shots, told apart by SHOT_SEQUENCE_NUMBER").arg(groups.size());
+    reading.split = "SHOT_SEQUENCE_NUMBER";
   } else if (areShots(placed, traces)) {
     groups = placed;
-    reading.split = Message::tr("%1 shots, told apart by SOURCE_LOCATION").arg(groups.size());
+    reading.split = "SOURCE_LOCATION";
   } else {
     groups = {everything(traces.size())};
   }

@@ -95,6 +95,11 @@ Status parseByStandard(std::string_view bytes, const std::string& path, Standard
     console::out() << "opening " << format->id << " file " << path << '\n';
     const Status read = format->read(bytes, reading);
     if (read.ok()) {
+      if (!reading.split.empty()) {
+        reading.split = Message::tr("it holds %1 shots, told apart by %2")
+                            .arg(reading.shots.size())
+                            .arg(std::move(reading.split));
+      }
       tellWarnings(path, reading);
       return {};
     }
