@@ -32,6 +32,14 @@ inline float floatOf(std::uint32_t bits) {
   return value;
 }
 
+/// The double that has these bits.
+inline double doubleOf(std::uint64_t bits) {
+  static_assert(sizeof(double) == sizeof bits);
+  double value = 0.0;
+  std::memcpy(&value, &bits, sizeof value);
+  return value;
+}
+
 /// Reads numbers anywhere in the bytes of a file. What lies past the end reads as zero, a number of
 /// which only a part is there included, and is counted. The bytes must outlive the reader.
 class ByteReader {

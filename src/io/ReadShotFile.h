@@ -29,8 +29,8 @@ struct ReadShotFile {
   std::size_t traceCount() const;  ///< of all shots
 };
 
-/// Reads a shot file by one reader or the other; a failure is in the outcome. What the program's
-/// rules have to say also goes to the console.
+/// Reads a shot file by one reader or the other; a failure is in the outcome. Warnings and failures
+/// also go to the console.
 /// \param state of the program's rules; the standard needs none
 ReadShotFile readShotFileBy(ShotReader reader, const std::string& path, SegyState& state);
 

@@ -1,9 +1,14 @@
 #include "io/ReadingComparison.h"
 
+#include "base/Console.h"
 #include "io/SegyFile.h"
+#include "io/ShotFile.h"
+#include "io/standard/StandardReader.h"
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <fstream>
 #include <set>
 #include <utility>
 
@@ -237,6 +242,41 @@ class Comparison {
   std::vector<Message> mLosses;
 };
 
+/// Whether some standard may be that of a file, so that files of other kinds, of any size, are not
+/// read to no purpose.
+bool mayBeShotFile(const std::string& path) {
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(path, error);
+  if (error) return false;  // a pipe or a folder among others
+  std::string head(8192, '\0');
+  std::ifstream file(path, std::ios::binary);
+  file.read(head.data(), static_cast<std::streamsize>(head.size()));
+  head.resize(static_cast<std::size_t>(file.gcount()));
+  const std::vector<StandardFormat>& formats = standardFormats();
+  return std::any_of(formats.begin(), formats.end(), [&](const StandardFormat& format) {
+    return format.likelihood(head, static_cast<std::size_t>(size)) != Likelihood::kNo;
+  });
+}
+
+/// Swallows what readers tell the console.
+class QuietConsole {
+ public:
+  QuietConsole() : mOut(console::out()), mError(console::error()) {
+    console::setOut(console::nowhere());
+    console::setError(console::nowhere());
+  }
+  ~QuietConsole() {
+    console::setOut(mOut);
+    console::setError(mError);
+  }
+  QuietConsole(const QuietConsole&) = delete;
+  QuietConsole& operator=(const QuietConsole&) = delete;
+
+ private:
+  std::ostream& mOut;
+  std::ostream& mError;
+};
+
 }  // namespace
 
 ReadingSummary summaryOf(const ReadShotFile& file) {
@@ -276,6 +316,9 @@ std::vector<Message> lostByRules(const ReadShotFile& byRules, const ReadShotFile
 
 std::optional<FullerReading> readFuller(const ReadShotFile& byRules) {
   if (!mayHaveLost(byRules)) return std::nullopt;
+  const bool knownSuffix = byRules.outcome.status.code() != kUnknownSuffix;
+  if (!knownSuffix && !mayBeShotFile(byRules.outcome.path)) return std::nullopt;
+  const QuietConsole quiet;
   SegyState unused;
   FullerReading fuller;
   fuller.byStandard = readShotFileBy(ShotReader::kStandard, byRules.outcome.path, unused);

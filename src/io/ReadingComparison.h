@@ -44,7 +44,8 @@ struct FullerReading {
   std::vector<Message> losses;  ///< at least one
 };
 
-/// Reads a file again by the standard where that may help; none where it does not.
+/// Reads a file again by the standard where that may help; none where it does not. The console
+/// hears nothing of it.
 std::optional<FullerReading> readFuller(const ReadShotFile& byRules);
 
 }  // namespace talvesk

@@ -43,14 +43,6 @@ RecordingNote noteOf(const ReadShotFile& file, std::size_t shot) {
   return note;
 }
 
-/// The program's rules did so while they read.
-void tellWarnings(const ShotFileOutcome& outcome) {
-  for (const std::string& warning : outcome.warnings) {
-    console::error() << "Warning: " << outcome.path << ": " << warning << '\n';
-  }
-  console::error().flush();
-}
-
 void add(const std::string& path, ShotFileData data, RecordingNote note, TomoDocument& document) {
   TraceSet traces = traceSetOf(std::move(data));
   TravelTime record;
@@ -121,7 +113,6 @@ std::vector<ShotFileOutcome> appendShots(std::vector<ReadShotFile> files, TomoDo
   outcomes.reserve(files.size());
   bool any = false;
   for (ReadShotFile& file : files) {
-    if (file.reader == ShotReader::kStandard) tellWarnings(file.outcome);
     for (std::size_t shot = 0; shot < file.shots.size(); ++shot) {
       RecordingNote note = noteOf(file, shot);
       add(file.outcome.path, std::move(file.shots[shot].data), std::move(note), document);
