@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "model/Recordings.h"
 #include "model/TomoDocument.h"
 
 #include <cstdint>
