@@ -1,6 +1,7 @@
 #include "io/ReadShotFile.h"
 
 #include "base/Console.h"
+#include "io/FileFormats.h"
 #include "io/ShotFile.h"
 #include "io/standard/StandardReader.h"
 
@@ -70,6 +71,14 @@ std::size_t ReadShotFile::traceCount() const {
   std::size_t count = 0;
   for (const StandardReading::Shot& shot : shots) count += shot.data.traces.size();
   return count;
+}
+
+std::string shotFormatName(const std::string& id) {
+  if (const ShotFormat* format = shotFormatNamed(id)) return format->name;
+  for (const StandardFormat& format : standardFormats()) {
+    if (format.id == id) return format.name;
+  }
+  return {};
 }
 
 ReadShotFile readShotFileBy(ShotReader reader, const std::string& path, SegyState& state) {

@@ -29,6 +29,9 @@ struct ReadShotFile {
   std::size_t traceCount() const;  ///< of all shots
 };
 
+/// "SEG-2" for "seg2", of the formats of either reader; empty for what is no id.
+std::string shotFormatName(const std::string& id);
+
 /// Reads a shot file by one reader or the other; a failure is in the outcome. Warnings and failures
 /// also go to the console.
 /// \param state of the program's rules; the standard needs none
