@@ -19,7 +19,7 @@ constexpr double kMmPerPoint = 25.4 / kPointsPerInch;
 }  // namespace
 
 GatherPreview::GatherPreview(QWidget* parent) : QWidget(parent) {
-  setMinimumSize(220, 180);
+  setMinimumSize(240, 215);  // less has no room for traces beside axes and texts
 }
 
 void GatherPreview::setShot(const ShotFileData& shot, const std::string& title) {
@@ -47,8 +47,14 @@ void GatherPreview::draw() {
   options.title = mTitle;
   QByteArray bytes;
   const Status drawn = renderGatherFigure(mDocument, 0, options, FigureFormat::kPng, bytes);
-  if (!drawn.ok()) return setNothing(textOf(drawn.text()));
-  mPicture.loadFromData(bytes);
+  mPicture = QPixmap(size() * devicePixelRatioF());
+  mPicture.fill(Qt::white);
+  if (drawn.ok()) {
+    mPicture.loadFromData(bytes);
+  } else {
+    QPainter(&mPicture).drawText(mPicture.rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                                 textOf(drawn.text()));
+  }
   mPicture.setDevicePixelRatio(devicePixelRatioF());
 }
 
