@@ -17,6 +17,8 @@ void RecordStart::set(double start, std::size_t trace, ShotRecord& record) {
     mLatest = std::max(mLatest, start);
     return;
   }
+  // An insertion by itself may take room for twice the samples, more than the budget knows of.
+  record.samples.reserve(record.samples.size() + static_cast<std::size_t>(zeros));
   record.samples.insert(record.samples.begin(), static_cast<std::size_t>(zeros), 0.0);
   mPadded.count(trace);
   mLongest = std::max(mLongest, start);
