@@ -17,22 +17,24 @@ void RecordStart::set(double start, std::size_t trace, ShotRecord& record) {
     mLatest = std::max(mLatest, start);
     return;
   }
+  // An insertion by itself may take room for twice the samples, more than the budget knows of.
+  record.samples.reserve(record.samples.size() + static_cast<std::size_t>(zeros));
   record.samples.insert(record.samples.begin(), static_cast<std::size_t>(zeros), 0.0);
   mPadded.count(trace);
   mLongest = std::max(mLongest, start);
 }
 
-void RecordStart::warn(std::vector<Message>& warnings) const {
+void RecordStart::warn(std::size_t traces, std::vector<Message>& warnings) const {
   if (mPadded.any()) {
     warnings.push_back(Message::tr("the record of %1 begins after the shot, by up to %2 ms; zeros "
                                    "stand in front, in whole samples")
-                           .arg(mPadded.which())
+                           .arg(mPadded.which(traces))
                            .arg(1000.0 * mLongest));
   }
   if (mTooLate.any()) {
     warnings.push_back(Message::tr("the header of %1 says that the record begins up to %2 ms after "
                                    "the shot, longer than it lasts; that delay is not applied")
-                           .arg(mTooLate.which())
+                           .arg(mTooLate.which(traces))
                            .arg(1000.0 * mLatest));
   }
 }

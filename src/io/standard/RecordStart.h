@@ -21,7 +21,8 @@ class RecordStart {
   void set(double start, std::size_t trace, ShotRecord& record);
 
   /// What was done about records that begin after the shot, as lines for the user.
-  void warn(std::vector<Message>& warnings) const;
+  /// \param traces how many the file has
+  void warn(std::size_t traces, std::vector<Message>& warnings) const;
 
  private:
   ReadBudget& mBudget;

@@ -98,7 +98,7 @@ class Placing {
     }
     if (!missing.any()) return;
     mWarnings.push_back(Message::tr("the header of %1 tells no %2; 0 stands for it")
-                            .arg(missing.which())
+                            .arg(missing.which(mTraces.size()))
                             .arg(name));
   }
 

@@ -167,13 +167,15 @@ class Seg2StandardReader {
     return (hasFactor ? *descaling.value : 1.0) / (hasStack ? *stack.value : 1.0);
   }
 
-  /// Seconds of the skew that are whole samples.
+  /// Seconds of the skew that are whole samples, but for how headers round.
   double wholeSkew(const Seg2Trace& trace) {
+    constexpr double kRounding = 1e-6;  // of a sample
+    const double interval = trace.record.sampleInterval;
     const double skew = trace.header.skew.value.value_or(0.0);
-    const double whole =
-        std::trunc(skew / trace.record.sampleInterval) * trace.record.sampleInterval;
-    const double applied = std::isfinite(whole) ? whole : 0.0;
-    if (skew != applied) {
+    const double samples = skew / interval;
+    const double whole = std::trunc(samples + std::copysign(kRounding, samples));
+    const double applied = std::isfinite(whole) ? whole * interval : 0.0;
+    if (!(std::abs(skew - applied) <= kRounding * interval)) {
       mSkewed.count(trace.index);
       mMostSkew = std::max(mMostSkew, std::abs(skew - applied));
     }
@@ -193,8 +195,8 @@ class Seg2StandardReader {
 
   std::vector<Message> warnings() const {
     std::vector<Message> lines;
-    const auto tell = [&lines](const TraceTally& traces, Message text) {
-      if (traces.any()) lines.push_back(std::move(text).arg(traces.which()));
+    const auto tell = [this, &lines](const TraceTally& traces, Message text) {
+      if (traces.any()) lines.push_back(std::move(text).arg(traces.which(mPointers)));
     };
     tell(mAstray,
          Message::tr("nothing is read of %1 since no trace block is where the pointer leads"));
@@ -209,12 +211,13 @@ class Seg2StandardReader {
     tell(mBadStack, Message::tr("the STACK of %1 is no usable number and was taken as 1"));
     tell(mBadDelay, Message::tr("the DELAY of %1 is no finite number and was taken as 0"));
     if (mSkewed.any()) {
-      lines.push_back(Message::tr("the SKEW of %1 has up to %2 ms beyond whole samples, which are "
-                                  "not applied")
-                          .arg(mSkewed.which())
-                          .arg(1000.0 * mMostSkew));
+      lines.push_back(
+          Message::tr("the SKEW of %1 is up to %2 ms beyond whole samples; that part is "
+                      "not applied")
+              .arg(mSkewed.which(mPointers))
+              .arg(1000.0 * mMostSkew));
     }
-    mStart.warn(lines);
+    mStart.warn(mPointers, lines);
     warnOfBytes(mReader.missing(), mNonFinite, lines);
     return lines;
   }

@@ -3,7 +3,10 @@
 #include "base/AtomicFile.h"
 #include "base/Console.h"
 #include "io/FileFormats.h"
+#include "io/standard/MiniSeed.h"
 #include "io/standard/Seg2Standard.h"
+#include "io/standard/SegyStandard.h"
+#include "io/standard/SuStandard.h"
 
 #include <algorithm>
 #include <ostream>
@@ -55,7 +58,10 @@ std::vector<const StandardFormat*> candidates(std::string_view bytes, const std:
 Message noFormat(std::string_view bytes) {
   if (bytes.empty()) return Message::tr("the file is empty");
   if (isText(bytes.substr(0, kHeadBytes))) {
-    return Message::tr("it is a text file, and no record of shots in %1").arg(formatNames());
+    return Message::tr(
+               "it is a text file, and no record of shots in %1; open a table of picks or "
+               "positions as travel times or geometry")
+        .arg(formatNames());
   }
   return Message::tr("by its content it is no file of %1").arg(formatNames());
 }
@@ -80,6 +86,9 @@ void tellWarnings(const std::string& path, const StandardReading& reading) {
 const std::vector<StandardFormat>& standardFormats() {
   static const std::vector<StandardFormat> kFormats = {
       {"seg2", "SEG-2", likelihoodOfSeg2, readSeg2ByStandard},
+      {"segy", "SEG-Y", likelihoodOfSegy, readSegyByStandard},
+      {"su", "SU", likelihoodOfSu, readSuByStandard},
+      {"mseed", "miniSEED", likelihoodOfMiniSeed, readMiniSeedByStandard},
   };
   return kFormats;
 }
@@ -87,9 +96,9 @@ const std::vector<StandardFormat>& standardFormats() {
 Status parseByStandard(std::string_view bytes, const std::string& path, StandardReading& reading) {
   Message reason;
   for (const StandardFormat* format : candidates(bytes, path)) {
+    console::out() << "opening " << format->id << " file " << path << '\n';
     const Status read = format->read(bytes, reading);
     if (read.ok()) {
-      console::out() << "read " << format->name << " file " << path << " by the standard\n";
       tellWarnings(path, reading);
       return {};
     }
