@@ -94,6 +94,13 @@ double startOf(const ShotRecord& trace, std::size_t lead) {
   return trace.delay + static_cast<double>(lead) * trace.sampleInterval;
 }
 
+template <typename XOf>
+Message placesOf(const Traces& traces, XOf x) {
+  const Span span = spanOf(traces, x);
+  return span.least == span.most ? Message::tr("%1 m").arg(span.least)
+                                 : Message::tr("%1 to %2 m").arg(span.least).arg(span.most);
+}
+
 /// Finds the losses of one file; traces are compared in the order of the file.
 class Comparison {
  public:
@@ -199,13 +206,9 @@ class Comparison {
   }
 
   void findPositions() {
-    findPlaces(Message::tr("all geophones are at %1 m by the program's rules"),
-               Message::tr("its geophones are at %1 to %2 m by the program's rules, at %3 to %4 m "
-                           "by the standard"),
+    findPlaces(Message::tr("its geophones are at %1 by the program's rules, at %2 by the standard"),
                receiverX);
-    findPlaces(Message::tr("its shot is at %1 m by the program's rules"),
-               Message::tr("its shots are at %1 to %2 m by the program's rules, at %3 to %4 m by "
-                           "the standard"),
+    findPlaces(Message::tr("its shot is at %1 by the program's rules, at %2 by the standard"),
                sourceX);
     const std::size_t flat = countPairs([](const ShotRecord& rules, const ShotRecord& standard) {
       return !near(rules.receiver.z, standard.receiver.z) ||
@@ -219,19 +222,12 @@ class Comparison {
   }
 
   template <typename XOf>
-  void findPlaces(Message atOnePlace, Message elsewhere, XOf x) {
+  void findPlaces(Message clause, XOf x) {
     const std::size_t moved = countPairs([x](const ShotRecord& rules, const ShotRecord& standard) {
       return !near(x(rules), x(standard));
     });
     if (moved == 0) return;
-    const Span rules = spanOf(mRulePairs, x);
-    const Span standard = spanOf(mStandardPairs, x);
-    lost(rules.least == rules.most ? std::move(atOnePlace).arg(rules.least)
-                                   : std::move(elsewhere)
-                                         .arg(rules.least)
-                                         .arg(rules.most)
-                                         .arg(standard.least)
-                                         .arg(standard.most));
+    lost(std::move(clause).arg(placesOf(mRulePairs, x)).arg(placesOf(mStandardPairs, x)));
   }
 
   std::size_t mShots;

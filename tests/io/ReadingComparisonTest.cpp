@@ -108,7 +108,7 @@ TEST(LostByRules, isWhatTheStandardHasBesides) {
          });
        },
        false},
-      {"all geophones are at 0 m",
+      {"geophones are at 0 m by the program's rules, at 0 to 15 m by",
        [&](TwoReadings& two) {
          forAll(two.rules, [](ShotRecord& trace) { trace.receiver.x = 0.0; });
        },
@@ -118,7 +118,7 @@ TEST(LostByRules, isWhatTheStandardHasBesides) {
          forAll(two.rules, [](ShotRecord& trace) { trace.receiver.x *= 100.0; });
        },
        false},
-      {"shot is at 0 m",
+      {"shot is at 0 m by the program's rules, at -2.5 m by",
        [&](TwoReadings& two) {
          forAll(two.rules, [](ShotRecord& trace) { trace.source.x = 0.0; });
        },
