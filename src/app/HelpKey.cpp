@@ -21,6 +21,8 @@ constexpr Page kPages[] = {
     {"DialogSetGeometry", "geometry.html"},
     {"SelectCSVDelimiterDialog", "geometry.html"},
     {"RecordingDetailsDialog", "load.html"},
+    {"ReadingsDialog", "load.html"},
+    {"ShotFileDialog", "load.html"},
     {"doFilteringDialog", "filter.html"},
     {"gridDialog", "inversion.html"},
     {"select_speed_Dialog", "inversion.html"},

@@ -24,8 +24,15 @@ void addInfo(CLI::App& app, InfoOptions& info) {
               "Write positions (metres) and times (seconds) as JSON; '-' is standard output. "
               "Several files make one array");
   command.add_flag("--samples", info.samples, "Write the samples of shot files, too")->needs(json);
+  addReader(command, info.reader)
+      ->description(
+          "By what shot files must be readable: rules, as this program always has; standard, by "
+          "the "
+          "published standard of their format, whatever their suffix (default: rules). What either "
+          "makes of a file is told in any case");
   command.final_callback([&info] {
-    if (info.samples && std::none_of(info.files.begin(), info.files.end(), shotFormatOf)) {
+    const auto isShot = [&info](const std::string& file) { return isShotFile(file, info.reader); };
+    if (info.samples && std::none_of(info.files.begin(), info.files.end(), isShot)) {
       throw CLI::ValidationError("--samples", "only shot files have samples to write");
     }
   });

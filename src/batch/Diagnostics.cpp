@@ -28,6 +28,12 @@ Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool v
   return channels;
 }
 
+void warnOfLosses(const std::string& path, const std::vector<Message>& losses) {
+  std::string clauses;
+  for (const std::string& loss : losses) clauses += (clauses.empty() ? "" : "; ") + loss;
+  warn(path + ": " + clauses + ". Add --reader standard to read it by the standard of its format");
+}
+
 Status readPicks(const std::string& path, TravelTimeData& data) {
   Status status = readTravelTimes(path, data);
   for (const std::string& warning : data.warnings) warn(path + ": " + warning);

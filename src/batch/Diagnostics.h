@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "batch/OutputFiles.h"
 #include "batch/Progress.h"
 #include "io/TravelTimeData.h"
@@ -23,6 +24,10 @@ struct Channels {
 /// standard error
 /// \param verbose the engine talks where it would tear a progress bar apart, which then are lines
 Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool verbose = false);
+
+/// Warns on standard error of what the program's rules lose of a shot file, and names the option
+/// that helps.
+void warnOfLosses(const std::string& path, const std::vector<Message>& losses);
 
 /// Reads picks, and warns on standard error of what the reader repaired or left out.
 Status readPicks(const std::string& path, TravelTimeData& data);

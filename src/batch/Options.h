@@ -4,6 +4,7 @@
 #include "grid/VelocityLayers.h"
 #include "model/GeographicsCoord.h"
 #include "model/Parameters.h"
+#include "model/Recordings.h"
 #include "processing/ShotFilters.h"
 #include "tomo/TomographyRun.h"
 #include "view/ColorPalette.h"
@@ -27,6 +28,7 @@ struct InfoOptions {
   std::vector<std::string> files;  ///< at least one
   std::string json;
   bool samples = false;
+  ShotReader reader = ShotReader::kRules;  ///< whose failure is that of the command
 };
 
 /// On what the first breaks are picked.
@@ -35,6 +37,7 @@ enum class PickFilter { kNone, kAgc, kHushel, kBand };
 /// How shot files become picks.
 struct ShotOptions {
   std::vector<std::string> files;
+  ShotReader reader = ShotReader::kRules;
   PickFilter filter = PickFilter::kNone;
   BandFilter band;              ///< of kBand: one corner at least
   std::string geophones;        ///< geometry file

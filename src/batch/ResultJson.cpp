@@ -107,6 +107,57 @@ Json sectionTimesJson(const TomoDocument& document) {
   return times;
 }
 
+Json tracesJson(const ShotFileData& data, bool samples) {
+  Json traces = Json::array();
+  for (const ShotRecord& record : data.traces) {
+    Json trace = Json::object();
+    trace["samples"] = record.samples.size();
+    trace["sample_interval"] = record.sampleInterval;
+    trace["source"] = pointJson(record.source);
+    trace["receiver"] = pointJson(record.receiver);
+    trace["delay"] = record.delay;
+    if (samples) trace["data"] = record.samples;
+    traces.push_back(std::move(trace));
+  }
+  return traces;
+}
+
+Json failureJson(const std::string& file, const Status& status) {
+  Json json = Json::object();
+  json["file"] = file;
+  json["status"] = status.code();
+  json["message"] = status.message();
+  return json;
+}
+
+Json textsJson(const std::vector<Message>& messages) {
+  Json texts = Json::array();
+  for (const Message& message : messages) texts.push_back(message.english());
+  return texts;
+}
+
+/// What the standard makes of a shot file.
+Json standardJson(const ReadShotFile& file, const std::vector<Message>& losses, bool samples) {
+  Json json = Json::object();
+  json["status"] = file.outcome.status.code();
+  if (!file.outcome.status.ok()) {
+    json["message"] = file.outcome.status.message();
+    return json;
+  }
+  json["format"] = file.outcome.format;
+  Json shots = Json::array();
+  for (const StandardReading::Shot& shot : file.shots) {
+    Json record = Json::object();
+    record["name"] = shot.name;
+    record["traces"] = tracesJson(shot.data, samples);
+    shots.push_back(std::move(record));
+  }
+  json["shots"] = std::move(shots);
+  json["warnings"] = textsJson(file.outcome.warnings);
+  json["lost_by_rules"] = textsJson(losses);
+  return json;
+}
+
 }  // namespace
 
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result) {
@@ -149,31 +200,22 @@ std::string travelTimesJson(const TravelTimeData& data) {
   return jsonText(json) + "\n";
 }
 
-std::string shotFileJson(const ShotFileData& data, bool samples) {
-  Json traces = Json::array();
-  for (const ShotRecord& record : data.traces) {
-    Json trace = Json::object();
-    trace["samples"] = record.samples.size();
-    trace["sample_interval"] = record.sampleInterval;
-    trace["source"] = pointJson(record.source);
-    trace["receiver"] = pointJson(record.receiver);
-    trace["delay"] = record.delay;
-    if (samples) trace["data"] = record.samples;
-    traces.push_back(std::move(trace));
+std::string shotFileJson(const std::string& file, const ReadShotFile& byRules,
+                         const ReadShotFile& byStandard, const std::vector<Message>& losses,
+                         bool samples) {
+  Json json = failureJson(file, byRules.outcome.status);
+  if (byRules.outcome.status.ok()) {
+    json = Json::object();
+    json["format"] = byRules.outcome.format;
+    json["status"] = 0;
+    json["traces"] = tracesJson(byRules.shots.front().data, samples);
   }
-  Json json = Json::object();
-  json["format"] = data.format;
-  json["status"] = 0;
-  json["traces"] = std::move(traces);
+  json["standard"] = standardJson(byStandard, losses, samples);
   return jsonText(json) + "\n";
 }
 
 std::string unreadableJson(const std::string& file, const Status& status) {
-  Json json = Json::object();
-  json["file"] = file;
-  json["status"] = status.code();
-  json["message"] = status.message();
-  return jsonText(json) + "\n";
+  return jsonText(failureJson(file, status)) + "\n";
 }
 
 std::string picksJson(const TomoDocument& document, const std::string& filter) {
@@ -183,6 +225,8 @@ std::string picksJson(const TomoDocument& document, const std::string& filter) {
     const TraceSet& traces = document.recordings->traceSets[i];
     Json shot = recordJson(record);
     shot["file"] = document.recordings->filenames[i];
+    const std::string name = shotRecord(document, i);
+    if (!name.empty()) shot["record"] = name;
     shot["samples_before_shot"] = traces.empty() ? 0 : traces.front().droppedSamples;
     shot["accepted"] = pickCount(record);
     shot["rejected"] = record.ttMisurati.size() - pickCount(record);

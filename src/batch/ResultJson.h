@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/ShotRecord.h"
+#include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
 #include "model/TomoDocument.h"
@@ -23,9 +23,13 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
 /// Positions in metres, times in seconds.
 std::string travelTimesJson(const TravelTimeData& data);
 
-/// A shot file: positions in metres, intervals and delays in seconds.
+/// A shot file: positions in metres, intervals and delays in seconds. What the program's rules make
+/// of it, or their failure as in unreadableJson(), and under "standard" what the standard does.
+/// \param losses as of lostByRules()
 /// \param samples the samples of the traces, too, in the units of the file
-std::string shotFileJson(const ShotFileData& data, bool samples);
+std::string shotFileJson(const std::string& file, const ReadShotFile& byRules,
+                         const ReadShotFile& byStandard, const std::vector<Message>& losses,
+                         bool samples);
 
 /// Takes the place of a file that could not be read.
 std::string unreadableJson(const std::string& file, const Status& status);

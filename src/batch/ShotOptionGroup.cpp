@@ -18,6 +18,12 @@ PickFilter readFilter(const std::string& text) {
   throw CLI::ValidationError("--filter", "'" + text + "' is none of none, agc, hushel, band");
 }
 
+ShotReader readReader(const std::string& text) {
+  if (text == "rules") return ShotReader::kRules;
+  if (text == "standard") return ShotReader::kStandard;
+  throw CLI::ValidationError("--reader", "'" + text + "' is none of rules, standard");
+}
+
 std::string readSeparator(const std::string& text) {
   if (text == ";" || text == "," || text == " ") return text;
   if (text == kBlankSeparator || text == "blank") return " ";
@@ -65,7 +71,23 @@ void ShotOptionGroup::check(const ShotOptions& shots) const {
   }
 }
 
+CLI::Option* addReader(CLI::App& command, ShotReader& reader) {
+  return command
+      .add_option_function<std::string>(
+          "--reader", [&reader](const std::string& text) { reader = readReader(text); },
+          "How shot files are read: rules, as this program always has; standard, by the published "
+          "standard of their format, which their content decides (default: rules)")
+      ->type_name("READER")
+      ->group(kGroup);
+}
+
+bool isShotFile(const std::string& path, ShotReader reader) {
+  if (reader == ShotReader::kRules) return shotFormatOf(path) != nullptr;
+  return travelTimeFormatOf(path) == nullptr && !hasSuffixOf(projectFormat(), path);
+}
+
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
+  addReader(command, shots.reader);
   ShotOptionGroup group;
   const auto add = [&](CLI::Option* option) {
     option->group(kGroup);
@@ -115,14 +137,14 @@ std::string kindsOfInput() {
 }
 
 void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, std::string& input,
-                std::vector<std::string>& shotFiles) {
-  const auto shots =
-      static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), shotFormatOf));
-  if (shots == inputs.size()) {
-    shotFiles = inputs;
+                ShotOptions& shots) {
+  const auto isShot = [&](const std::string& path) { return isShotFile(path, shots.reader); };
+  const auto count = static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), isShot));
+  if (count == inputs.size()) {
+    shots.files = inputs;
     return;
   }
-  if (shots > 0) {
+  if (count > 0) {
     throw CLI::ValidationError("INPUT",
                                "shot files do not go together with travel-time files or projects");
   }

@@ -4,6 +4,7 @@
 #include "batch/Failure.h"
 #include "batch/ProjectFiles.h"
 #include "io/GeometryFile.h"
+#include "io/ReadingComparison.h"
 #include "io/ShotLoader.h"
 #include "io/TravelTimeFile.h"
 #include "model/Recordings.h"
@@ -26,10 +27,17 @@ namespace talvesk {
 namespace {
 
 /// Every file that fails has its line; the last one is the status.
-Status load(const std::vector<std::string>& files, TomoDocument& document) {
+Status load(const ShotOptions& options, TomoDocument& document) {
   ShotLoader loader;
+  std::vector<ReadShotFile> files;
+  for (const std::string& path : options.files) {
+    files.push_back(loader.read(path, document, options.reader));
+    if (options.reader == ShotReader::kStandard) continue;
+    const auto fuller = readFuller(files.back());
+    if (fuller) warnOfLosses(path, fuller->losses);
+  }
   Status status;
-  for (const ShotFileOutcome& outcome : loader.load(files, document)) {
+  for (const ShotFileOutcome& outcome : appendShots(std::move(files), document)) {
     for (const std::string& warning : outcome.warnings) warn(outcome.path + ": " + warning);
     if (outcome.status.ok()) continue;
     if (!status.ok()) failed(status.message());
@@ -75,9 +83,9 @@ Status placeShots(const ShotOptions& options, TomoDocument& document) {
   Status status = readPositions(options.shots, options.separator, true, shots);
   if (!status.ok()) return status;
   if (shots.size() != document.recordings->traceSets.size()) {
-    return Status::failure(options.shots + ": " + std::to_string(shots.size()) +
-                           " shots do not fit " +
-                           std::to_string(document.recordings->traceSets.size()) + " shot files");
+    return Status::failure(
+        options.shots + ": " + std::to_string(shots.size()) + " shots do not fit " +
+        std::to_string(document.recordings->traceSets.size()) + " recorded shots");
   }
   for (std::size_t i = 0; i < shots.size(); ++i) {
     for (Trace& trace : document.recordings.edit().traceSets[i]) trace.sourcePosition = shots[i];
@@ -193,7 +201,7 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
 
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
   TomoDocument& document = survey.document;
-  Status status = load(options.files, document);
+  Status status = load(options, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
   if (status.ok()) status = levelShots(options, manner, survey);

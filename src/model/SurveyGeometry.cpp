@@ -244,6 +244,11 @@ std::string shotFile(const TomoDocument& document, std::size_t shot) {
   return file.empty() ? entry(document.recordings->filenames_DX, shot) : file;
 }
 
+std::string shotRecord(const TomoDocument& document, std::size_t shot) {
+  const std::vector<RecordingNote>& notes = document.recordings->notes;
+  return shot < notes.size() ? notes[shot].nameInFile : std::string();
+}
+
 std::vector<std::size_t> shotsOfString(const SurveyGeometry& geometry, std::size_t string) {
   std::vector<std::size_t> shots;
   for (std::size_t i = 0; i < geometry.shots.size(); ++i) {

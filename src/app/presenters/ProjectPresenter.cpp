@@ -185,7 +185,7 @@ void ProjectPresenter::take(LoadedProject project, ProjectFile file, bool saved)
   for (std::size_t i = 0; i < recordings.traceSets.size(); ++i) {
     RecordingNote& note = recordings.noteOf(i);
     note.filtered = note.showFiltered = hasFilteredCopy(recordings.traceSets[i]);
-    if (i >= recordings.filenames.size()) continue;
+    if (i >= recordings.filenames.size() || !note.format.empty()) continue;
     if (const ShotFormat* format = shotFormatOf(recordings.filenames[i])) note.format = format->id;
   }
   mDesk.loader.remember(project.shotFiles);

@@ -93,11 +93,12 @@ void TracesPresenter::refreshChooser() {
     const QString place = tr("%1 m").arg(locale.toString(record.shotPos2d.x, 'f', 1));
     const auto number = static_cast<int>(i + 1);
     const std::string file = shotFile(mDesk.document(), i);
-    const QString text = !file.empty()
-                             ? tr("%1: %2 at %3", "shot number, file, place")
-                                   .arg(number)
-                                   .arg(QFileInfo(QString::fromStdString(file)).fileName(), place)
-                             : tr("%1: at %2", "shot number, place").arg(number).arg(place);
+    QString name = QFileInfo(QString::fromStdString(file)).fileName();
+    const std::string inFile = shotRecord(mDesk.document(), i);
+    if (!inFile.empty()) name += QStringLiteral(" (%1)").arg(QString::fromStdString(inFile));
+    const QString text =
+        !file.empty() ? tr("%1: %2 at %3", "shot number, file, place").arg(number).arg(name, place)
+                      : tr("%1: at %2", "shot number, place").arg(number).arg(place);
     mChooser->addItem(text);
   }
   mChooser->setCurrentIndex(mDesk.shot.index());

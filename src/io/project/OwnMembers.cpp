@@ -5,7 +5,9 @@
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectMembers_records.inl"
 #include "io/project/ProjectPicks.h"
+#include "io/project/ProjectReaders.h"
 #include "io/project/ProjectResult.h"
+#include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 
 #include <algorithm>
@@ -97,6 +99,21 @@ const std::vector<OwnMember>& ownMembers() {
        reads([](const TomoDocument&) { return UnconfirmedMember(); },
              [](const UnconfirmedMember& member, TomoDocument& document, Interpretation&) {
                return installUnconfirmed(member, document);
+             })},
+      {"readers.xml", 1, "Readers",
+       Message::tr("all shot files count as read by the program's rules; the traces are those that "
+                   "were saved"),
+       [](const TomoDocument& document, const Interpretation&) {
+         return !document.recordings->traceSets.empty();
+       },
+       [](const TomoDocument& document, const Interpretation&) {
+         return readersOf(document).has_value();
+       },
+       writes(
+           [](const TomoDocument& document, const Interpretation&) { return readersOf(document); }),
+       reads([](const TomoDocument&) { return ReadersMember(); },
+             [](ReadersMember member, TomoDocument& document, Interpretation&) {
+               return installReaders(std::move(member), document);
              })}};
   return kMembers;
 }

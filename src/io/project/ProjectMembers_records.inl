@@ -7,6 +7,7 @@
 #include "io/XmlRecords.inl"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectPicks.h"
+#include "io/project/ProjectReaders.h"
 #include "io/project/ProjectResult.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
@@ -136,6 +137,20 @@ template <class V>
 void describe(V& fields, UnconfirmedMember& member) {
   fields("picks", member.picks);
   fields("unconfirmed", member.traces);
+}
+
+template <class V>
+void describe(V& fields, StoredReader& stored) {
+  fields("file", stored.file);
+  fields("reader", stored.reader);
+  fields("format", stored.format);
+  fields("record", stored.record);
+  fields("name", stored.name);
+}
+
+template <class V>
+void describe(V& fields, ReadersMember& member) {
+  fields("sets", member.sets);
 }
 
 template <class V>
