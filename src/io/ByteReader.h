@@ -59,6 +59,8 @@ class ByteReader {
   std::int32_t i32(std::uint64_t at, ByteOrder order) {
     return static_cast<std::int32_t>(u32(at, order));
   }
+  std::uint64_t u64(std::uint64_t at, ByteOrder order) { return integer<std::uint64_t>(at, order); }
+  double f64(std::uint64_t at, ByteOrder order) { return doubleOf(u64(at, order)); }
 
   /// The bytes from `at` on that are there, at most `length` of them.
   std::string_view slice(std::uint64_t at, std::uint64_t length) {
