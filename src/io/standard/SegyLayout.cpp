@@ -1,0 +1,217 @@
+#include "io/standard/SegyLayout.h"
+
+#include "io/standard/TraceTally.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr double kMicrosecondsPerSecond = 1e6;
+
+/// Whose number of samples is taken.
+enum class Length { kOfTrace, kOfFile, kOfFirstTrace };
+
+class Walker {
+ public:
+  Walker(std::string_view bytes, const SegyLayout& layout) : mBytes(bytes), mLayout(layout) {
+    mFirst = headerAt(layout.first).header;
+  }
+
+  struct Found {
+    SegyTraceHeader header;
+    std::uint64_t dataAt;
+  };
+
+  Found headerAt(std::uint64_t at) const {
+    Found found = {segyTraceHeader(mBytes, at, mLayout.order), at + kSegyTraceHeaderBytes};
+    if (mLayout.extensions == 0) return found;
+    extendSegyTraceHeader(mBytes, found.dataAt, mLayout.order, found.header);
+    // Bytes 157 and 158 of the first extension say how many there are of this trace.
+    const std::uint32_t own = ByteReader(mBytes).u16(found.dataAt + 156, mLayout.order);
+    const bool told = own > 0 && own <= mLayout.extensions;
+    found.dataAt += (told ? own : mLayout.extensions) * kSegyTraceHeaderBytes;
+    return found;
+  }
+
+  std::uint64_t samplesOf(const SegyTraceHeader& header, Length length) const {
+    if (length == Length::kOfTrace && header.samples > 0) return header.samples;
+    if (length != Length::kOfFirstTrace && mLayout.samples > 0) return mLayout.samples;
+    return mFirst.samples;
+  }
+
+  /// Calls `take(header, dataAt, samples)` for every trace whose header is in the file.
+  /// \return where the last of them ends, which may be past the file
+  template <typename Take>
+  std::uint64_t walk(Length length, Take take) const {
+    std::uint64_t at = mLayout.first;
+    while (at + kSegyTraceHeaderBytes <= mLayout.end) {
+      const Found found = headerAt(at);
+      const std::uint64_t samples = samplesOf(found.header, length);
+      take(found, samples);
+      at = found.dataAt + samples * mLayout.width;
+    }
+    return at;
+  }
+
+  SegyFit fit(Length length) const {
+    SegyFit fit;
+    const std::uint64_t end = walk(length, [&](const Found& found, std::uint64_t) {
+      ++fit.traces;
+      const bool like = found.header.kind == mFirst.kind &&
+                        found.header.interval == mFirst.interval &&
+                        found.header.delay == mFirst.delay;
+      if (like) ++fit.alike;
+    });
+    fit.whole = fit.traces > 0 && end == mLayout.end && samplesOf(mFirst, length) > 0;
+    return fit;
+  }
+
+  /// The lengths in the order in which they are believed when nothing else decides.
+  std::vector<Length> lengths() const {
+    if (mLayout.samples == 0) return {Length::kOfTrace, Length::kOfFirstTrace};
+    if (mLayout.fixed) return {Length::kOfFile, Length::kOfTrace, Length::kOfFirstTrace};
+    return {Length::kOfTrace, Length::kOfFile, Length::kOfFirstTrace};
+  }
+
+  std::pair<Length, SegyFit> best() const {
+    std::pair<Length, SegyFit> best = {lengths().front(), {}};
+    for (const Length length : lengths()) {
+      const SegyFit fits = fit(length);
+      if (fits.whole) return {length, fits};
+      if (fits.alike > best.second.alike) best = {length, fits};
+    }
+    return best;
+  }
+
+ private:
+  std::string_view mBytes;
+  SegyLayout mLayout;
+  SegyTraceHeader mFirst;
+};
+
+/// What headers say otherwise than what was taken.
+class Disagreement {
+ public:
+  void look(double said, double taken, std::size_t trace) {
+    if (said == 0.0 || said == taken) return;
+    if (!mTally.any()) {
+      mSaid = said;
+      mTaken = taken;
+    }
+    mTally.count(trace);
+  }
+  bool any() const { return mTally.any(); }
+  Message which(std::size_t of) const { return mTally.which(of); }
+  double said() const { return mSaid; }    ///< by the first of them
+  double taken() const { return mTaken; }  ///< for the first of them
+
+ private:
+  TraceTally mTally;
+  double mSaid = 0.0;
+  double mTaken = 0.0;
+};
+
+class Finder {
+ public:
+  Finder(std::string_view bytes, const SegyLayout& layout)
+      : mBytes(bytes), mWalker(bytes, layout), mLayout(layout) {}
+
+  std::vector<SegyTrace> find(std::vector<Message>& warnings) {
+    const auto [length, fit] = mWalker.best();
+    std::vector<SegyTrace> traces;
+    traces.reserve(static_cast<std::size_t>(fit.traces));
+    std::uint64_t end =
+        mWalker.walk(length, [&](const Walker::Found& found, std::uint64_t samples) {
+          traces.push_back({found.header, found.dataAt, samples, intervalOf(found.header)});
+          compare(traces.back(), traces.size() - 1);
+        });
+    mCount = traces.size();
+    warn(length, warnings);
+    if (end > mLayout.end && isFilling(traces.back())) {
+      end = traces.back().dataAt - kSegyTraceHeaderBytes;
+      traces.pop_back();
+    }
+    if (end < mLayout.end) {
+      warnings.push_back(Message::tr("%1 bytes after its traces, too few for another one, were not "
+                                     "read")
+                             .arg(mLayout.end - end));
+    }
+    return traces;
+  }
+
+ private:
+  /// Zeros to the end of the file, which a block of a tape or disk was filled up with.
+  bool isFilling(const SegyTrace& last) const {
+    const std::uint64_t from = last.dataAt - kSegyTraceHeaderBytes;
+    const std::string_view rest = mBytes.substr(static_cast<std::size_t>(from));
+    return from > mLayout.first &&
+           std::all_of(rest.begin(), rest.end(), [](char byte) { return byte == 0; });
+  }
+
+  /// Seconds. As with lengths, but nothing can tell who is right.
+  double intervalOf(const SegyTraceHeader& header) const {
+    const bool file = mLayout.interval > 0.0 && (mLayout.fixed || !(header.interval > 0.0));
+    return std::max(file ? mLayout.interval : header.interval, 0.0) / kMicrosecondsPerSecond;
+  }
+
+  void compare(const SegyTrace& trace, std::size_t number) {
+    const auto samples = static_cast<double>(trace.samples);
+    // Two bytes hold the rest of a number that is written in full elsewhere.
+    if (trace.header.samples != (trace.samples & 0xFFFF)) {
+      mTraceSamples.look(trace.header.samples, samples, number);
+    }
+    mFileSamples.look(static_cast<double>(mLayout.samples), samples, number);
+    const double interval = trace.interval * kMicrosecondsPerSecond;
+    if (mLayout.fixed) mTraceInterval.look(trace.header.interval, interval, number);
+    mFileInterval.look(mLayout.interval, interval, number);
+  }
+
+  void warn(Length length, std::vector<Message>& warnings) const {
+    const auto tell = [&](const Disagreement& other, Message text) {
+      if (!other.any()) return;
+      warnings.push_back(
+          std::move(text).arg(other.which(mCount)).arg(other.said()).arg(other.taken()));
+    };
+    if (length == Length::kOfTrace) {
+      tell(mFileSamples, Message::tr("the number of samples in %1 is not the %2 of the header of "
+                                     "the file; the trace headers were believed"));
+    } else {
+      tell(mTraceSamples,
+           Message::tr("the header of %1 tells %2 samples, with which the traces do not fit the "
+                       "size of the file; %3 were taken"));
+      tell(mFileSamples, Message::tr("the traces, %1 among them, do not fit the size of the file "
+                                     "with the %2 samples that its header tells; %3 were taken"));
+    }
+    tell(mTraceInterval,
+         Message::tr("the header of %1 tells a sample interval of %2 microseconds; "
+                     "the %3 of the file, which says it is one for all, were taken"));
+    if (!mLayout.fixed) {
+      tell(mFileInterval, Message::tr("the sample interval of %1 is not the %2 microseconds of the "
+                                      "header of the file; the trace headers were believed"));
+    }
+  }
+
+  std::string_view mBytes;
+  Walker mWalker;
+  SegyLayout mLayout;
+  Disagreement mTraceSamples;
+  Disagreement mFileSamples;
+  Disagreement mTraceInterval;
+  Disagreement mFileInterval;
+  std::size_t mCount = 0;  ///< of traces
+};
+
+}  // namespace
+
+SegyFit fitOf(std::string_view bytes, const SegyLayout& layout) {
+  return Walker(bytes, layout).best().second;
+}
+
+std::vector<SegyTrace> findSegyTraces(std::string_view bytes, const SegyLayout& layout,
+                                      std::vector<Message>& warnings) {
+  return Finder(bytes, layout).find(warnings);
+}
+
+}  // namespace talvesk
