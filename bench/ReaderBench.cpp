@@ -84,6 +84,16 @@ void segy(benchmark::State& state) {
   measure(state, testing::segyBytes(file), "a.segy");
 }
 
+void segyStandard(benchmark::State& state) {
+  const ByteOrder order = state.range(1) == 0 ? ByteOrder::kLittle : ByteOrder::kBig;
+  const auto file = segyFixture(order, static_cast<std::int16_t>(state.range(0)));
+  measureStandard(state, testing::segyBytes(file));
+}
+
+void suStandard(benchmark::State& state) {
+  measureStandard(state, testing::suBytes(segyFixture(ByteOrder::kLittle, 5)));
+}
+
 void su(benchmark::State& state) {
   measure(state, testing::suBytes(segyFixture(ByteOrder::kLittle, 5)), "a.su");
 }
@@ -106,6 +116,11 @@ BENCHMARK(segy)
     ->Unit(benchmark::kMillisecond)
     ->ArgNames({"format", "big"})
     ->ArgsProduct({{5, 2, 3}, {0, 1}});
+BENCHMARK(segyStandard)
+    ->Unit(benchmark::kMillisecond)
+    ->ArgNames({"format", "big"})
+    ->ArgsProduct({{5, 2, 3, 1}, {0, 1}});
+BENCHMARK(suStandard)->Unit(benchmark::kMillisecond);
 BENCHMARK(su)->Unit(benchmark::kMillisecond);
 
 }  // namespace talvesk

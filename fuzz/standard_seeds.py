@@ -1,6 +1,8 @@
 """Small files as the standards of their formats have them, and some that lie."""
 import struct
 
+from standard_segy_seeds import segy_standard_seeds, su_standard_seeds
+
 SAMPLES = [0, 1, -2, 300, -32000, 5, 6]
 
 
@@ -104,4 +106,5 @@ def mseed_seeds():
 
 
 def standard_seeds():
-    return {"seg2_standard": seg2_seeds(), "mseed": mseed_seeds()}
+    return {"seg2_standard": seg2_seeds(), "mseed": mseed_seeds(),
+            "segy_standard": segy_standard_seeds(), "su_standard": su_standard_seeds()}

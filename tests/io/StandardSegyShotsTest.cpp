@@ -189,6 +189,7 @@ TEST(StandardSegyShots, countsTimeFromTheShot) {
     const char* told;
   } kCases[] = {
       {"before", {{109, 2, -100}}, -0.1, {1, 2, 3, 4}, nullptr},
+      {"a sample after", {{109, 2, 25}, {215, 2, -100}}, 0.0, {0, 1, 2, 3, 4}, "after the shot"},
       {"after", {{109, 2, 1}}, 0.0, {0, 0, 0, 0, 1, 2, 3, 4}, "begins after the shot"},
       {"too long after", {{109, 2, 2}}, 0.0, {1, 2, 3, 4}, "not applied"},
       {"divided", {{109, 2, -100}, {215, 2, -10}}, -0.01, {1, 2, 3, 4}, nullptr},
@@ -202,6 +203,7 @@ TEST(StandardSegyShots, countsTimeFromTheShot) {
     const StandardReading reading = read(fileOf({fields}));
     EXPECT_DOUBLE_EQ(tracesOf(reading)[0].delay, row.delay);
     EXPECT_EQ(tracesOf(reading)[0].samples, row.samples);
+    EXPECT_EQ(tracesOf(reading)[0].samples.capacity(), row.samples.size());
     expectTold(reading, row.told);
   }
 }

@@ -5,6 +5,8 @@
 #include "io/FileFormats.h"
 #include "io/standard/MiniSeed.h"
 #include "io/standard/Seg2Standard.h"
+#include "io/standard/SegyStandard.h"
+#include "io/standard/SuStandard.h"
 
 #include <algorithm>
 #include <ostream>
@@ -84,6 +86,8 @@ void tellWarnings(const std::string& path, const StandardReading& reading) {
 const std::vector<StandardFormat>& standardFormats() {
   static const std::vector<StandardFormat> kFormats = {
       {"seg2", "SEG-2", likelihoodOfSeg2, readSeg2ByStandard},
+      {"segy", "SEG-Y", likelihoodOfSegy, readSegyByStandard},
+      {"su", "SU", likelihoodOfSu, readSuByStandard},
       {"mseed", "miniSEED", likelihoodOfMiniSeed, readMiniSeedByStandard},
   };
   return kFormats;
