@@ -1,5 +1,7 @@
 #include "io/standard/SegyStandard.h"
+#include "io/standard/StandardReader.h"
 #include "io/standard/SuStandard.h"
+#include "support/ConsoleCapture.h"
 #include "support/StandardSegyFiles.h"
 
 #include <cmath>
@@ -262,12 +264,15 @@ TEST(StandardSegy, readsWhatRevisionTwoHasRoomFor) {
   EXPECT_THAT(warningsOf(reading), IsEmpty());
 }
 
-TEST(StandardSegy, doesNotTakeFillingForATrace) {
-  const StandardSegy file = shot();
-  StandardReading reading;
-  ASSERT_TRUE(readSegyByStandard(standardSegyBytes(file) + std::string(250, '\0'), reading).ok());
-  EXPECT_EQ(tracesOf(reading).size(), 2u);
-  EXPECT_THAT(warningsOf(reading), ElementsAre(HasSubstr("250 bytes after its traces")));
+TEST(StandardSegy, doesNotTakeFillingForTraces) {
+  for (const std::size_t zeros : {1u, 250u, 1000u}) {
+    StandardReading reading;
+    const std::string bytes = standardSegyBytes(shot()) + std::string(zeros, '\0');
+    ASSERT_TRUE(readSegyByStandard(bytes, reading).ok());
+    EXPECT_EQ(tracesOf(reading).size(), 2u);
+    EXPECT_THAT(warningsOf(reading),
+                ElementsAre(HasSubstr(std::to_string(zeros) + " bytes after its traces")));
+  }
 }
 
 TEST(StandardSegy, readsAFileThatIsCutShortAndSaysSo) {
@@ -339,6 +344,24 @@ TEST(StandardSegy, tellsFilesByTheirContent) {
     const std::string head = row.bytes.substr(0, 8192);
     EXPECT_EQ(likelihoodOfSegy(head, row.bytes.size()), row.segy) << row.what;
     EXPECT_EQ(likelihoodOfSu(head, row.bytes.size()), row.su) << row.what;
+  }
+}
+
+TEST(StandardSegy, isChosenByContentWhateverTheSuffix) {
+  const struct {
+    std::string bytes;
+    const char* format;
+  } kCases[] = {{standardSegyBytes(shot(1)), "segy"},
+                {standardSegyBytes(shot(3, ByteOrder::kLittle)), "segy"},
+                {standardSuBytes(shot()), "su"},
+                {standardSuBytes(shot(5, ByteOrder::kLittle)), "su"}};
+  for (const auto& row : kCases) {
+    for (const char* path : {"a", "a.dat", "a.su", "a.sgy"}) {
+      const ConsoleCapture console;
+      StandardReading reading;
+      EXPECT_TRUE(parseByStandard(row.bytes, path, reading).ok()) << path;
+      EXPECT_EQ(reading.format, row.format) << path;
+    }
   }
 }
 

@@ -129,25 +129,25 @@ class Finder {
         });
     mCount = traces.size();
     warn(length, warnings);
-    if (end > mLayout.end && isFilling(traces.back())) {
-      end = traces.back().dataAt - kSegyTraceHeaderBytes;
-      traces.pop_back();
-    }
+    if (end != mLayout.end) end = dropFilling(end, traces);
     if (end < mLayout.end) {
-      warnings.push_back(Message::tr("%1 bytes after its traces, too few for another one, were not "
-                                     "read")
+      warnings.push_back(Message::tr("%1 bytes after its traces, zeros or too few for another one, "
+                                     "were not read")
                              .arg(mLayout.end - end));
     }
     return traces;
   }
 
  private:
-  /// Zeros to the end of the file, which a block of a tape or disk was filled up with.
-  bool isFilling(const SegyTrace& last) const {
-    const std::uint64_t from = last.dataAt - kSegyTraceHeaderBytes;
-    const std::string_view rest = mBytes.substr(static_cast<std::size_t>(from));
-    return from > mLayout.first &&
-           std::all_of(rest.begin(), rest.end(), [](char byte) { return byte == 0; });
+  /// Drops what would be traces of zeros at the end of the file: blocks of a tape or disk are
+  /// filled up with them. \return where the traces end
+  std::uint64_t dropFilling(std::uint64_t end, std::vector<SegyTrace>& traces) const {
+    const std::uint64_t zerosFrom = mBytes.find_last_not_of('\0') + 1;  // npos is -1
+    while (traces.size() > 1 && traces.back().dataAt - kSegyTraceHeaderBytes >= zerosFrom) {
+      end = traces.back().dataAt - kSegyTraceHeaderBytes;
+      traces.pop_back();
+    }
+    return end;
   }
 
   /// Seconds. As with lengths, but nothing can tell who is right.
