@@ -103,6 +103,20 @@ TEST(StandardSegyShots, placesAShotInAHoleBelowTheGround) {
   expectTold(reading, "up to 1.5 m below the ground");
 }
 
+TEST(StandardSegyShots, putsShotsWithoutElevationsOnTheGround) {
+  std::vector<Fields> traces;
+  for (const int x : {0, 10, 20}) {
+    traces.push_back({{9, 4, x + 1}, {73, 4, 2 * x - 5}, {81, 4, x}, {41, 4, 100 + x}});
+  }
+  const StandardReading reading = read(fileOf(traces));
+  ASSERT_EQ(reading.shots.size(), 3u);
+  const double kElevations[] = {100, 110, 120};  // at -5, 15 and 35 m
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_EQ(reading.shots[i].data.traces[0].source.z, kElevations[i]) << i;
+  }
+  expectTold(reading, "elevations of geophones alone");
+}
+
 TEST(StandardSegyShots, takesNoElevationsThatNoGroundHas) {
   const StandardReading reading =
       read(fileOf({{{81, 4, 5}, {41, 4, 100}}, {{81, 4, 10}, {41, 4, 5152390}}}));

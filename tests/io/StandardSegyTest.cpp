@@ -190,14 +190,36 @@ TEST(StandardSegy, readsTracesOfDifferentLengthsAndIntervals) {
   }
 }
 
-TEST(StandardSegy, believesTheIntervalOfAFileThatSaysItIsOneForAll) {
-  StandardSegy file = shot(5, ByteOrder::kBig, 1);
-  file.fields = {{3503, 2, 1}};
-  file.traces[1].fields.push_back({117, 2, 125});
-  const StandardReading reading = read(file);
-  EXPECT_EQ(tracesOf(reading)[1].sampleInterval, 0.00025);
-  EXPECT_THAT(warningsOf(reading),
-              ElementsAre(HasSubstr("the header of trace 2 tells a sample interval of 125")));
+TEST(StandardSegy, takesTheIntervalThatMakesSense) {
+  const struct {
+    const char* what;
+    int file;
+    int trace;
+    int fixed;
+    double taken;
+    const char* told;
+  } kCases[] = {{"both", 250, 250, 0, 0.00025, nullptr},
+                {"of the trace alone", 0, 125, 0, 0.000125, nullptr},
+                {"of the file alone", 500, 0, 0, 0.0005, nullptr},
+                {"of the trace", 250, 125, 0, 0.000125, "is not the 250"},
+                {"of a file that says it is one for all", 250, 125, 1, 0.00025, "of 125"},
+                {"negative in the trace", 250, -250, 0, 0.00025, "of 65286"},
+                {"negative in a file that says it is one for all", -1, 250, 1, 0.00025, "65535"},
+                {"long, but the only one", 0, 40000, 0, 0.04, nullptr},
+                {"none", 0, 0, 0, 0.0, "not positive"}};
+  for (const auto& row : kCases) {
+    SCOPED_TRACE(row.what);
+    StandardSegy file = shot(5, ByteOrder::kBig, 1);
+    file.fields = {{3217, 2, row.file}, {3503, 2, row.fixed}};
+    for (StandardTrace& trace : file.traces) trace.fields.push_back({117, 2, row.trace});
+    const StandardReading reading = read(file);
+    EXPECT_EQ(tracesOf(reading)[1].sampleInterval, row.taken);
+    if (row.told == nullptr) {
+      EXPECT_THAT(warningsOf(reading), IsEmpty());
+    } else {
+      EXPECT_THAT(warningsOf(reading), ElementsAre(HasSubstr(row.told)));
+    }
+  }
 }
 
 TEST(StandardSegy, skipsExtendedTextsUpToTheirEnd) {

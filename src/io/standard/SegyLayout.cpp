@@ -10,6 +10,10 @@ namespace {
 
 constexpr double kMicrosecondsPerSecond = 1e6;
 
+bool isInterval(double microseconds) {
+  return microseconds >= 1.0 && microseconds <= 32767.0;
+}
+
 /// Whose number of samples is taken.
 enum class Length { kOfTrace, kOfFile, kOfFirstTrace };
 
@@ -150,9 +154,10 @@ class Finder {
     return end;
   }
 
-  /// Seconds. As with lengths, but nothing can tell who is right.
+  /// Seconds. Nothing can tell who is right, but that an interval makes sense.
   double intervalOf(const SegyTraceHeader& header) const {
-    const bool file = mLayout.interval > 0.0 && (mLayout.fixed || !(header.interval > 0.0));
+    const bool file = isInterval(mLayout.interval) ? mLayout.fixed || !isInterval(header.interval)
+                                                   : !(header.interval > 0.0);
     return std::max(file ? mLayout.interval : header.interval, 0.0) / kMicrosecondsPerSecond;
   }
 
@@ -164,7 +169,7 @@ class Finder {
     }
     mFileSamples.look(static_cast<double>(mLayout.samples), samples, number);
     const double interval = trace.interval * kMicrosecondsPerSecond;
-    if (mLayout.fixed) mTraceInterval.look(trace.header.interval, interval, number);
+    mTraceInterval.look(trace.header.interval, interval, number);
     mFileInterval.look(mLayout.interval, interval, number);
   }
 
@@ -184,13 +189,11 @@ class Finder {
       tell(mFileSamples, Message::tr("the traces, %1 among them, do not fit the size of the file "
                                      "with the %2 samples that its header tells; %3 were taken"));
     }
-    tell(mTraceInterval,
-         Message::tr("the header of %1 tells a sample interval of %2 microseconds; "
-                     "the %3 of the file, which says it is one for all, were taken"));
-    if (!mLayout.fixed) {
-      tell(mFileInterval, Message::tr("the sample interval of %1 is not the %2 microseconds of the "
-                                      "header of the file; the trace headers were believed"));
-    }
+    tell(mTraceInterval, Message::tr("the header of %1 tells a sample interval of %2 microseconds; "
+                                     "the %3 of the header of the file were taken"));
+    tell(mFileInterval,
+         Message::tr("the sample interval of %1 is not the %2 microseconds of the header of the "
+                     "file; the trace headers were believed"));
   }
 
   std::string_view mBytes;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace talvesk {
@@ -76,6 +77,7 @@ class Placing {
     }
     warnOfLength();
     takeElevations();
+    if (tellsGeophonesAlone()) takeElevationsOfGeophones();
     return std::move(mPlaced);
   }
 
@@ -254,6 +256,35 @@ class Placing {
       warn(Message::tr("the shot depth of %1 is negative and was taken as 0")
                .arg(above.which(mPlaced.size())));
     }
+  }
+
+  /// Whether shots stand at 0 and no geophone does.
+  bool tellsGeophonesAlone() const {
+    return std::all_of(mPlaced.begin(), mPlaced.end(), [](const SegyPosition& position) {
+      return position.source.z == 0.0 && position.receiver.z != 0.0;
+    });
+  }
+
+  void takeElevationsOfGeophones() {
+    std::vector<Point2D> geophones;
+    geophones.reserve(mPlaced.size());
+    for (const SegyPosition& position : mPlaced) geophones.push_back(position.receiver);
+    keepFirstOfEachX(geophones);
+    for (SegyPosition& position : mPlaced)
+      position.source.z = nearest(geophones, position.source.x).z;
+    warn(
+        Message::tr("its headers tell the elevations of geophones alone; shots were put at that of "
+                    "the geophone nearest to them"));
+  }
+
+  /// \param points by ascending x
+  static Point2D nearest(const std::vector<Point2D>& points, double x) {
+    const auto right =
+        std::lower_bound(points.begin(), points.end(), x,
+                         [](const Point2D& point, double at) { return point.x < at; });
+    if (right == points.begin()) return *right;
+    if (right == points.end()) return points.back();
+    return right->x - x < x - std::prev(right)->x ? *right : *std::prev(right);
   }
 
   SegyTraces& mFound;
