@@ -81,7 +81,7 @@ class Splitter {
   }
 
   template <typename KeyOf, typename NameOf>
-  bool byNumber(KeyOf keyOf, NameOf nameOf, Message by) {
+  bool byNumber(KeyOf keyOf, NameOf nameOf, const Message& by) {
     auto parts = runs(mTraces, [&](const SplitKey& before, const SplitKey& trace) {
       return keyOf(before) != keyOf(trace);
     });
@@ -94,7 +94,7 @@ class Splitter {
       return false;
     }
     for (ShotSplit::Part& part : parts) part.name = nameOf(mTraces[part.first]);
-    take(std::move(parts), std::move(by));
+    take(std::move(parts), by);
     return true;
   }
 
