@@ -269,7 +269,7 @@ TEST(StandardSegyShots, splitsAFileOfManyRecordsAndNamesThem) {
   }
   const StandardReading reading = read(fileOf(traces));
   ASSERT_EQ(reading.shots.size(), 3u);
-  EXPECT_EQ(reading.split.english(), "3 shots, told apart by their field records (bytes 9 to 12)");
+  EXPECT_EQ(reading.split.english(), "field record (bytes 9 to 12)");
   EXPECT_EQ(reading.shots[0].name, "FFID 12");
   EXPECT_EQ(reading.shots[2].name, "FFID 14");
   for (const StandardReading::Shot& shot : reading.shots) {

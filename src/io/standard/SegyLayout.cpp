@@ -3,6 +3,7 @@
 #include "io/standard/TraceTally.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace talvesk {
@@ -17,58 +18,48 @@ bool isInterval(double microseconds) {
 /// Whose number of samples is taken.
 enum class Length { kOfTrace, kOfFile, kOfFirstTrace };
 
+/// Goes from trace to trace. Files of hundreds of thousands of traces are gone through several
+/// times, so only that is looked at which leads to the next one.
 class Walker {
  public:
-  Walker(std::string_view bytes, const SegyLayout& layout) : mBytes(bytes), mLayout(layout) {
-    mFirst = headerAt(layout.first).header;
-  }
+  Walker(std::string_view bytes, const SegyLayout& layout)
+      : mBytes(bytes), mLayout(layout), mFirstSamples(placeAt(layout.first).samples) {}
 
-  struct Found {
-    SegyTraceHeader header;
-    std::uint64_t dataAt;
+  struct Place {
+    std::uint64_t at;      ///< of the header
+    std::uint64_t dataAt;  ///< of the first sample
+    std::uint64_t samples;
   };
 
-  Found headerAt(std::uint64_t at) const {
-    Found found = {segyTraceHeader(mBytes, at, mLayout.order), at + kSegyTraceHeaderBytes};
-    if (mLayout.extensions == 0) return found;
-    extendSegyTraceHeader(mBytes, found.dataAt, mLayout.order, found.header);
-    // Bytes 157 and 158 of the first extension say how many there are of this trace.
-    const std::uint32_t own = ByteReader(mBytes).u16(found.dataAt + 156, mLayout.order);
-    const bool told = own > 0 && own <= mLayout.extensions;
-    found.dataAt += (told ? own : mLayout.extensions) * kSegyTraceHeaderBytes;
-    return found;
+  SegyTraceHeader header(const Place& place) const {
+    SegyTraceHeader header = segyTraceHeader(mBytes, place.at, mLayout.order);
+    if (mLayout.extensions > 0) {
+      extendSegyTraceHeader(mBytes, place.at + kSegyTraceHeaderBytes, mLayout.order, header);
+    }
+    return header;
   }
 
-  std::uint64_t samplesOf(const SegyTraceHeader& header, Length length) const {
-    if (length == Length::kOfTrace && header.samples > 0) return header.samples;
-    if (length != Length::kOfFirstTrace && mLayout.samples > 0) return mLayout.samples;
-    return mFirst.samples;
-  }
-
-  /// Calls `take(header, dataAt, samples)` for every trace whose header is in the file.
+  /// Calls `take(place)` for every trace whose header is in the file.
   /// \return where the last of them ends, which may be past the file
   template <typename Take>
   std::uint64_t walk(Length length, Take take) const {
     std::uint64_t at = mLayout.first;
     while (at + kSegyTraceHeaderBytes <= mLayout.end) {
-      const Found found = headerAt(at);
-      const std::uint64_t samples = samplesOf(found.header, length);
-      take(found, samples);
-      at = found.dataAt + samples * mLayout.width;
+      Place place = placeAt(at);
+      place.samples = taken(place.samples, length);
+      take(place);
+      at = place.dataAt + place.samples * mLayout.width;
     }
     return at;
   }
 
   SegyFit fit(Length length) const {
     SegyFit fit;
-    const std::uint64_t end = walk(length, [&](const Found& found, std::uint64_t) {
+    const std::uint64_t end = walk(length, [&](const Place& place) {
       ++fit.traces;
-      const bool like = found.header.kind == mFirst.kind &&
-                        found.header.interval == mFirst.interval &&
-                        found.header.delay == mFirst.delay;
-      if (like) ++fit.alike;
+      if (isLikeFirst(place.at)) ++fit.alike;
     });
-    fit.whole = fit.traces > 0 && end == mLayout.end && samplesOf(mFirst, length) > 0;
+    fit.whole = fit.traces > 0 && end == mLayout.end && taken(mFirstSamples, length) > 0;
     return fit;
   }
 
@@ -90,9 +81,39 @@ class Walker {
   }
 
  private:
+  /// With the samples that its header tells.
+  Place placeAt(std::uint64_t at) const {
+    ByteReader reader(mBytes);
+    const std::uint64_t extension = at + kSegyTraceHeaderBytes;
+    Place place = {at, extension, reader.u16(at + 114, mLayout.order)};
+    if (mLayout.extensions == 0) return place;
+    if (const auto more = reader.u32(extension + 136, mLayout.order); more > 0)
+      place.samples = more;
+    // Bytes 157 and 158 of the first extension say how many there are of this trace.
+    const std::uint32_t own = reader.u16(extension + 156, mLayout.order);
+    const bool told = own > 0 && own <= mLayout.extensions;
+    place.dataAt += (told ? own : mLayout.extensions) * kSegyTraceHeaderBytes;
+    return place;
+  }
+
+  std::uint64_t taken(std::uint64_t told, Length length) const {
+    if (length == Length::kOfTrace && told > 0) return told;
+    if (length != Length::kOfFirstTrace && mLayout.samples > 0) return mLayout.samples;
+    return mFirstSamples;
+  }
+
+  /// By kind (29), delay (109) and sample interval (117).
+  bool isLikeFirst(std::uint64_t at) const {
+    ByteReader reader(mBytes);
+    return std::all_of(std::begin(kAlike), std::end(kAlike), [&](std::uint64_t field) {
+      return reader.slice(at + field, 2) == reader.slice(mLayout.first + field, 2);
+    });
+  }
+  static constexpr std::uint64_t kAlike[] = {28, 108, 116};
+
   std::string_view mBytes;
   SegyLayout mLayout;
-  SegyTraceHeader mFirst;
+  std::uint64_t mFirstSamples;
 };
 
 /// What headers say otherwise than what was taken.
@@ -126,11 +147,11 @@ class Finder {
     const auto [length, fit] = mWalker.best();
     std::vector<SegyTrace> traces;
     traces.reserve(static_cast<std::size_t>(fit.traces));
-    std::uint64_t end =
-        mWalker.walk(length, [&](const Walker::Found& found, std::uint64_t samples) {
-          traces.push_back({found.header, found.dataAt, samples, intervalOf(found.header)});
-          compare(traces.back(), traces.size() - 1);
-        });
+    std::uint64_t end = mWalker.walk(length, [&](const Walker::Place& place) {
+      const SegyTraceHeader header = mWalker.header(place);
+      traces.push_back({header, place.dataAt, place.samples, intervalOf(header)});
+      compare(traces.back(), traces.size() - 1);
+    });
     mCount = traces.size();
     warn(length, warnings);
     if (end != mLayout.end) end = dropFilling(end, traces);

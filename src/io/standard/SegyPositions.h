@@ -18,8 +18,8 @@ struct SegyPosition {
 /// Where all receivers share their y, x stays as it is. Otherwise x is the distance along the
 /// straight line from the first receiver to the one that is farthest from it, to the millimetre.
 /// Where coordinates do not tell receivers apart, and offsets do, a receiver is at its offset from
-/// its source. Shots without elevations among geophones that have them stand at that of the nearest.
-/// Elevations outside -12000 to 12000 m are no elevations, and then none of the file is
+/// its source. Shots without elevations among geophones that have them stand at that of the
+/// nearest. Elevations outside -12000 to 12000 m are no elevations, and then none of the file is
 /// taken.
 std::vector<SegyPosition> segyPositions(SegyTraces& found);
 

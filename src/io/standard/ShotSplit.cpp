@@ -63,11 +63,10 @@ class Splitter {
     const bool split =
         byNumber([](const SplitKey& t) { return t.fieldRecord; },
                  [&](const SplitKey& t) { return name("FFID ", t.fieldRecord); },
-                 Message::tr("%1 shots, told apart by their field records (bytes 9 to 12)")) ||
-        byNumber(
-            [](const SplitKey& t) { return t.sourcePoint; },
-            [&](const SplitKey& t) { return name("shot point ", t.sourcePoint); },
-            Message::tr("%1 shots, told apart by their energy source points (bytes 17 to 20)")) ||
+                 Message::tr("field record (bytes 9 to 12)")) ||
+        byNumber([](const SplitKey& t) { return t.sourcePoint; },
+                 [&](const SplitKey& t) { return name("shot point ", t.sourcePoint); },
+                 Message::tr("energy source point (bytes 17 to 20)")) ||
         byPlace() || byRestart();
     if (split) mSplit.doubtful = false;
     if (!split) mSplit.parts = {{0, mTraces.size(), {}}};
@@ -77,11 +76,11 @@ class Splitter {
  private:
   void take(std::vector<ShotSplit::Part> parts, Message by) {
     mSplit.parts = std::move(parts);
-    mSplit.by = std::move(by).arg(mSplit.parts.size());
+    mSplit.by = std::move(by);
   }
 
   template <typename KeyOf, typename NameOf>
-  bool byNumber(KeyOf keyOf, NameOf nameOf, Message by) {
+  bool byNumber(KeyOf keyOf, NameOf nameOf, const Message& by) {
     auto parts = runs(mTraces, [&](const SplitKey& before, const SplitKey& trace) {
       return keyOf(before) != keyOf(trace);
     });
@@ -94,7 +93,7 @@ class Splitter {
       return false;
     }
     for (ShotSplit::Part& part : parts) part.name = nameOf(mTraces[part.first]);
-    take(std::move(parts), std::move(by));
+    take(std::move(parts), by);
     return true;
   }
 
@@ -106,7 +105,7 @@ class Splitter {
     mSplit.doubtful = true;
     if (!haveSeveralTraces(parts) || !areDistinct(mTraces, parts, placeOf)) return false;
     nameByNumber("source ", parts);
-    take(std::move(parts), Message::tr("%1 shots, told apart by the positions of their sources"));
+    take(std::move(parts), Message::tr("position of the source"));
     return true;
   }
 
@@ -125,8 +124,8 @@ class Splitter {
       return false;
     }
     nameByNumber("record ", parts);
-    take(std::move(parts), Message::tr("%1 shots; the numbers of traces in a record (bytes 13 "
-                                       "to 16) start again with each"));
+    take(std::move(parts),
+         Message::tr("number of the trace in its record (bytes 13 to 16), which starts again"));
     return true;
   }
 

@@ -27,8 +27,8 @@ struct ShotSplit {
   };
 
   std::vector<Part> parts;  ///< all traces, in their order; at least one part
-  Message by;               ///< what told them apart; empty for one part
-  bool doubtful = false;    ///< the headers tell several shots, but not consistently: one part
+  Message by;  ///< what told them apart, "field record (bytes 9 to 12)"; empty for one part
+  bool doubtful = false;  ///< the headers tell several shots, but not consistently: one part
 };
 
 /// Splits by the first of these that is consistent: field record, energy source point, position of
