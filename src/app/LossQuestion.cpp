@@ -3,6 +3,7 @@
 #include "app/Messages.h"
 #include "model/GroundModel.h"
 #include "model/RefractionDataStructure.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 
 #include <QCoreApplication>

@@ -9,6 +9,7 @@
 #include "io/FileFormats.h"
 #include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
+#include "io/project/projectReader.h"
 #include "model/SurveyFacts.h"
 
 #include <algorithm>

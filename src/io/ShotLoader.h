@@ -4,12 +4,14 @@
 #include "io/SegyFile.h"
 #include "io/ShotRecord.h"
 #include "model/ModelLoss.h"
-#include "model/TomoDocument.h"
+#include "model/Trace.h"
 
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What became of one shot file.
 struct ShotFileOutcome {

@@ -4,6 +4,7 @@
 #include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"

@@ -1,5 +1,6 @@
 #include "app/presenters/CommandTable.h"
 #include "gui/WindowTest.h"
+#include "io/Survey.h"
 #include "model/SurveyGeometry.h"
 #include "support/TestSurveys.h"
 #include "tomo/GridSetup.h"

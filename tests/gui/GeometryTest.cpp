@@ -1,4 +1,5 @@
 #include "gui/GeometryDriver.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"

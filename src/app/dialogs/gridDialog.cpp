@@ -6,6 +6,7 @@
 #include "app/ToolTips.h"
 #include "app/dialogs/ParameterField.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "ui_gridDialog.h"
 

@@ -7,6 +7,7 @@
 #include "app/dialogs/setVelocityWidget.h"
 #include "base/Console.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/GridSetup.h"
 #include "tomo/StartingModel.h"

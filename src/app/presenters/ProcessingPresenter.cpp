@@ -4,6 +4,7 @@
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/doFilteringDialog.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "processing/FirstBreak.h"

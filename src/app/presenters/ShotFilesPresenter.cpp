@@ -7,6 +7,7 @@
 #include "app/presenters/ShotTimeQuestion.h"
 #include "io/FileFormats.h"
 #include "io/ShotFile.h"
+#include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"

@@ -2,6 +2,7 @@
 
 #include "app/Messages.h"
 #include "app/presenters/Desk.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "processing/ShotTime.h"
 
