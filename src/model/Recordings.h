@@ -18,8 +18,6 @@ enum class WaveType : std::int32_t { P = 0, S = 1 };
 struct RecordingNote {
   std::string format;             ///< of its file: "seg2", "segy", "su"; empty: not known
   std::vector<Message> warnings;  ///< that the reader had about its file
-  bool filtered = false;          ///< a command made its filtered copy while it was current
-  bool showFiltered = false;      ///< its views show that copy
 };
 
 /// What the geophones of a survey recorded, and the files that it came from.
