@@ -27,6 +27,7 @@ struct Session::Step {
   std::string key;
   Survey other;           ///< the survey before the step, or after it once it is undone
   std::size_t bytes = 0;  ///< that it does not share with the survey on the other side
+  bool proposes = false;  ///< the cell sizes that are proposed are others on the other side
 };
 
 struct Session::Open {
@@ -195,6 +196,9 @@ void Session::exchange(Step& step, Way way) {
   const Edit edit = step.edit;
   std::swap(mState->survey, step.other);
   keepView(before.section, mState->survey.section);
+  if (!step.proposes) {
+    mState->survey.document.proposedCellSizes = before.document.proposedCellSizes;
+  }
   step.bytes = bytesNotShared(step.other, mState->survey);
   dropFarthest(way);
   tell(way == Way::kBack ? SurveyChange::Kind::kUndo : SurveyChange::Kind::kRedo, edit, before);
@@ -213,7 +217,9 @@ void Session::push(Step step) {
     ++mIndex;
   }
   ++mPushed;
-  mState->steps.back().bytes = bytesNotShared(mState->steps.back().other, mState->survey);
+  Step& last = mState->steps.back();
+  last.bytes = bytesNotShared(last.other, mState->survey);
+  last.proposes = last.other.document.proposedCellSizes != document().proposedCellSizes;
   dropFarthest(Way::kForth);
 }
 
