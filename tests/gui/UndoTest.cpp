@@ -65,6 +65,12 @@ class Undo : public WindowTest {
     });
     action("actionRun_tomography_inversion").trigger();
   }
+  void interpret() {
+    ok("actionRefraction", [](QWidget& dialog) {
+      in<QPushButton>(dialog, "proposeButton").click();
+      in<QPushButton>(dialog, "buildButton").click();
+    });
+  }
   void editGeometry() {
     dialogs.expect([](QWidget& widget) {
       GeometryDriver driver(widget);
@@ -148,6 +154,7 @@ TEST_F(Undo, goesBackToTheEmptyWindowAndForthToTheLayers) {
        {},
        {}},
       {"Contour lines", [this] { ok("actionShow_Contour_Lines", [](QWidget&) {}); }, {}, {}},
+      {"Refraction", [this] { interpret(); }, {}, {"actionShow_refraction"}},
   };
 
   action("actionShow_all_traces").trigger();  // they are picked and filtered together
