@@ -235,7 +235,7 @@ TEST_F(Loading, asksBeforeGridAndResultsGo) {
   document.result.edit().has_tomographic_info = true;
   window->session().markSaved();
   const QString longer = shotFile("longer.dat", 60.0);
-  const char* const question = "The survey changes. This will be lost:";
+  const char* const question = "The survey changes. This will be removed (Undo brings it back):";
   dialogs.expectBox("Warning", question, "the grid and the results of the inversion",
                     QMessageBox::No);
   window->openFiles({longer});
@@ -282,7 +282,7 @@ TEST_F(Loading, ofPicksAsksBeforeGridAndResultsGo) {
   const QString file = QString::fromStdString(home.file("moved.otte"));
   for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
     window->session().markSaved();
-    dialogs.expectBox("Warning", "The survey changes. This will be lost:",
+    dialogs.expectBox("Warning", "The survey changes. This will be removed (Undo brings it back):",
                       "the grid and the results of the inversion", answer);
     window->openFiles({file});
     EXPECT_EQ(document.model->grid == nullptr, answer == QMessageBox::Yes);
