@@ -4,6 +4,7 @@
 #include "base/Console.h"
 #include "io/OtteFile.h"
 #include "io/TravelTimeFile.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "batch/Failure.h"
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 
 #include <iostream>

@@ -3,13 +3,14 @@
 #include "base/Message.h"
 #include "batch/OutputFiles.h"
 #include "batch/Progress.h"
-#include "io/TravelTimeData.h"
 
 #include <iosfwd>
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+struct TravelTimeData;
 
 /// Where a command's texts go.
 struct Channels {

@@ -12,6 +12,7 @@
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
 #include "io/TravelTimeFile.h"
+#include "io/project/projectReader.h"
 #include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
 #include "model/LeftOut.h"

@@ -11,6 +11,7 @@
 #include "io/SegyFile.h"
 #include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
+#include "io/project/projectReader.h"
 #include "model/SurveyFacts.h"
 
 #include <algorithm>

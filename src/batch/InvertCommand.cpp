@@ -12,6 +12,7 @@
 #include "export/GriddedText.h"
 #include "grid/GridBuilder.h"
 #include "io/TravelTimeFile.h"
+#include "io/project/projectReader.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
 #include "model/SurveyFacts.h"

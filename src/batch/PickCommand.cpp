@@ -8,6 +8,7 @@
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
 #include "io/TravelTimeFile.h"
+#include "io/project/projectReader.h"
 
 #include <sstream>
 

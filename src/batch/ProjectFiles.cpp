@@ -8,6 +8,7 @@
 #include "io/FileFormats.h"
 #include "io/project/ProjectLock.h"
 #include "io/project/ProjectWriter.h"
+#include "io/project/projectReader.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
 #include "model/Recordings.h"

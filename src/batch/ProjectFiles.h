@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/Status.h"
-#include "io/project/projectReader.h"
 
 #include <iosfwd>
 #include <string>
 
 namespace talvesk {
+
+struct LoadedProject;
 
 /// Whether a name ends in ".tvsk", whatever its case.
 bool isProjectFile(const std::string& path);

@@ -10,6 +10,7 @@
 #include "batch/ShotPicking.h"
 #include "figures/RefractionFigure.h"
 #include "io/LayerFile.h"
+#include "io/project/projectReader.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/Branches.h"
 #include "refraction/BuildProfiles.h"

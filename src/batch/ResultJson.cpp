@@ -1,6 +1,8 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "io/TravelTimeData.h"
+#include "io/project/projectReader.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
@@ -10,6 +12,7 @@
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
+#include "tomo/TomographyRun.h"
 
 namespace talvesk {
 namespace {

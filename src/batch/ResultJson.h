@@ -1,15 +1,17 @@
 #pragma once
 
-#include "io/ReadShotFile.h"
-#include "io/TravelTimeData.h"
-#include "io/project/projectReader.h"
-#include "model/TomoDocument.h"
-#include "tomo/TomographyRun.h"
+#include "base/Status.h"
 
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
+struct LoadedProject;
+struct ShotFileData;
+struct TomographyResult;
+struct TravelTimeData;
 
 // Results as JSON texts, in UTF-8, keys in a fixed order. Numbers are the shortest that read back
 // to the same double; what is no finite number is null. Texts that are not UTF-8 have the wrong

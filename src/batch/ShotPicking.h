@@ -2,7 +2,6 @@
 
 #include "base/Status.h"
 #include "batch/Options.h"
-#include "model/TomoDocument.h"
 
 #include <iosfwd>
 #include <string>
@@ -10,6 +9,7 @@
 
 namespace talvesk {
 
+class TomoDocument;
 struct LoadedProject;
 struct Survey;
 

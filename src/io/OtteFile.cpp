@@ -1,6 +1,7 @@
 #include "io/OtteFile.h"
 
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,6 +5,7 @@
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <ostream>

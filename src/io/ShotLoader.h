@@ -5,12 +5,14 @@
 #include "io/SegyFile.h"
 #include "io/ShotRecord.h"
 #include "model/ModelLoss.h"
-#include "model/TomoDocument.h"
+#include "model/Trace.h"
 
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Loads shot files into a document and remembers between them, and between calls, what the readers
 /// of SEG-Y and SU must remember.

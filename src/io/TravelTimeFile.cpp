@@ -5,6 +5,7 @@
 #include "io/FileFormats.h"
 #include "io/OtteFile.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <ostream>
 #include <string_view>

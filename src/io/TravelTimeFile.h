@@ -1,14 +1,15 @@
 #pragma once
 
 #include "base/Status.h"
-#include "io/TravelTimeData.h"
 #include "model/ModelLoss.h"
-#include "model/TomoDocument.h"
 
 #include <string>
 #include <string_view>
 
 namespace talvesk {
+
+class TomoDocument;
+struct TravelTimeData;
 
 /// Reads a file in the format of travelTimeFormats() that its suffix tells, compared exactly.
 /// Failures also go to the console's error stream.

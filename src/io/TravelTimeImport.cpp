@@ -1,9 +1,11 @@
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 #include "io/WrittenPosition.h"
 #include "model/GroundModel.h"
 #include "model/PickLimits.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cstddef>

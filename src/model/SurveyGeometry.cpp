@@ -3,6 +3,7 @@
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>
@@ -150,7 +151,7 @@ bool applyGeometry(const SurveyGeometry& geometry, TomoDocument& document) {
   TomoDocument next = document;  // which takes its place when all of it is there
   next.clearModelAndResults();
   // The first cell size that was proposed for a survey stays its proposal.
-  next.model.edit().proposedCellSizes = document.model->proposedCellSizes;
+  next.proposedCellSizes = document.proposedCellSizes;
   next.ttArray.edit().resize(count);
   if (hasNewPair(geometry)) {
     Recordings& recordings = next.recordings.edit();

@@ -2,7 +2,6 @@
 
 #include "base/Point2D.h"
 #include "model/SWavePair.h"
-#include "model/TomoDocument.h"
 
 #include <cstddef>
 #include <limits>
@@ -11,6 +10,8 @@
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Where geophones and shots stand, as it is while somebody edits it: positions may still be
 /// missing, and nothing of the survey changes before applyGeometry(). A plain value; a copy of it

@@ -107,7 +107,7 @@ void TomoDocument::clearModelAndResults() {
   ground.grid.reset();
   ground.xOffset = 0.0;
   ground.surface = Splines::LinearSpline();
-  ground.proposedCellSizes.clear();
+  proposedCellSizes = {};
   result.edit().info_density.clear();
   clearInversion();
 }

@@ -5,6 +5,7 @@
 #include "model/Parameters.h"
 #include "model/SWavePair.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 #include "processing/CharacteristicPick.h"
 
 #include <cstdint>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// First breaks without the user's help: an energy-ratio detector per trace, then a screening of
 /// each shot's picks by the apparent velocity that they imply.

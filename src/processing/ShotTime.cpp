@@ -23,10 +23,15 @@ std::size_t recorded(const Trace& trace) {
          trace.droppedSamples;
 }
 
+/// Whether a record has both what came before the shot and what came after it.
+bool holdsShot(const Trace& trace, double lead) {
+  return lead >= 0.0 && lead < static_cast<double>(recorded(trace));
+}
+
 void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
   const double lead = leadOf(trace);
   if (lead == static_cast<double>(trace.droppedSamples)) return;
-  if (lead < 0.0 || lead >= static_cast<double>(recorded(trace))) {
+  if (!holdsShot(trace, lead)) {
     ++outcome.leftAsRecorded;
     return;
   }
@@ -44,7 +49,37 @@ void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
   outcome.mostDropped = std::max(outcome.mostDropped, now);
 }
 
+/// Moves a pick by what its trace has lost at its beginning.
+void movePick(TravelTime& record, std::size_t trace, double earlier, ShotTimeOutcome& outcome) {
+  if (earlier == 0.0 || !hasPick(record.ttMisurati[trace])) return;
+  const double time = record.ttMisurati[trace] - earlier;
+  record.ttMisurati.edit()[trace] = hasPick(time) ? time : kNoTime;
+  if (hasPick(time)) return;
+  record.setWaiting(trace, false);
+  ++outcome.picksRemoved;
+}
+
 }  // namespace
+
+bool startsBeforeShot(const Trace& trace) {
+  const double lead = leadOf(trace);
+  return holdsShot(trace, lead) && lead > static_cast<double>(trace.droppedSamples);
+}
+
+ShotTimeOutcome countTimesAndPicksFromShot(TomoDocument& document) {
+  const std::vector<TraceSet> before = document.recordings->traceSets;
+  ShotTimeOutcome outcome = countTimeFromShot(document);
+  for (TravelTime& record : document.ttArray.edit()) {
+    const TraceSet* now = document.tracesOf(record);
+    if (now == nullptr) continue;
+    const TraceSet& then = before[static_cast<std::size_t>(record.traceSetID)];
+    for (std::size_t i = 0; i < std::min(now->size(), record.ttMisurati.size()); ++i) {
+      const auto dropped = static_cast<double>((*now)[i].droppedSamples - then[i].droppedSamples);
+      movePick(record, i, dropped * (*now)[i].sampleInterval, outcome);
+    }
+  }
+  return outcome;
+}
 
 ShotTimeOutcome countTimeFromShot(TomoDocument& document) {
   std::vector<std::size_t> all(document.recordings->traceSets.size());

@@ -1,5 +1,7 @@
 #include "session/PickEdits.h"
 
+#include "model/TomoDocument.h"
+
 #include <algorithm>
 
 namespace talvesk {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 
 #include <cstdint>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What an edit by hand gives one trace.
 struct PickChange {

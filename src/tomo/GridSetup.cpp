@@ -4,6 +4,7 @@
 #include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"
@@ -33,8 +34,7 @@ SurveyProfile measure(TomoDocument& document, Log& log) {
   SurveyProfile profile = document.surveyProfile();
   log.write("Minima spaziatura : " + withSixDecimals(profile.minSpacing));
   console::out() << "[LOG] Minima spaziatura " << formatDouble(profile.minSpacing) << std::endl;
-  if (profile.hasGeometry())
-    document.model.edit().proposedCellSizes.push_back(profile.proposedCellSize);
+  if (profile.hasGeometry()) document.proposedCellSizes.edit().push_back(profile.proposedCellSize);
   return profile;
 }
 
@@ -77,9 +77,8 @@ GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& lo
   profile = measure(document, log);
   GridSettings settings;
   settings.maxDepth = profile.arrayLength / 2.0;
-  settings.cellSize = document.model->proposedCellSizes.empty()
-                          ? parameters::kCellSize.initial
-                          : document.model->proposedCellSizes.front();
+  settings.cellSize = document.proposedCellSizes.empty() ? parameters::kCellSize.initial
+                                                         : document.proposedCellSizes.front();
   settings.cellSize = std::max(settings.cellSize, parameters::kCellSize.limits.least);
   settings.nodes = std::max(document.model->grid ? document.model->grid->nV() : 0U, kFewestNodes);
   return settings;

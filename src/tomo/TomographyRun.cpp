@@ -5,6 +5,7 @@
 #include "model/GroundModel.h"
 #include "model/PickFingerprint.h"
 #include "model/Residuals.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"

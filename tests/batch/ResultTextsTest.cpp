@@ -1,5 +1,6 @@
 #include "batch/Progress.h"
 #include "batch/ResultJson.h"
+#include "io/TravelTimeData.h"
 
 #include <cmath>
 #include <limits>

@@ -1,4 +1,5 @@
 #include "WidgetDriver.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "session/PickEdits.h"
 

@@ -17,6 +17,7 @@ struct CommandState {
   bool recordInView;  ///< there is a current one
   bool shotInView;    ///< with traces
   bool filteredCopy;  ///< of the shot in view
+  bool beforeShot;    ///< traces still begin before their shot
   bool picksInRange;  ///< where the traces are selected
   bool unconfirmedInRange;
   bool canZoomBack;

@@ -8,6 +8,7 @@
 #include "app/dialogs/progressTomographyDialog.h"
 #include "app/dialogs/runTomography_Dialog.h"
 #include "app/presenters/ModelPresenter.h"
+#include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
 #include "model/TomographyOutcome.h"

@@ -4,7 +4,7 @@
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/doFilteringDialog.h"
-#include "model/Recordings.h"
+#include "io/Survey.h"
 #include "model/SurveyFacts.h"
 #include "processing/FirstBreak.h"
 #include "processing/NoiseReduction.h"
@@ -91,20 +91,12 @@ void ProcessingPresenter::makeFilteredCopies(
   }
 }
 
-/// Whatever shots were filtered, only the one in view is marked and turned over to its copy.
+/// The views show filtered copies from now on, of every shot that has one.
 void ProcessingPresenter::takeFilteredCopies(const TomoDocument& work, Message step) {
   mDesk.settings.showFiltered = true;
   mDesk.saveSettings();
   mDesk.edit(
-      Edit::kFilter,
-      [&](Survey& survey) {
-        survey.document = work;
-        RecordingNote& shot =
-            survey.document.recordings.edit().noteOf(static_cast<std::size_t>(mDesk.shot.index()));
-        shot.filtered = true;
-        shot.showFiltered = true;
-      },
-      std::move(step));
+      Edit::kFilter, [&](Survey& survey) { survey.document = work; }, std::move(step));
 }
 
 void ProcessingPresenter::agc() {

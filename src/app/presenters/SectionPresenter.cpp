@@ -1,6 +1,7 @@
 #include "app/presenters/SectionPresenter.h"
 
 #include "figures/ProfileLines.h"
+#include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"

@@ -8,6 +8,7 @@
 #include "app/presenters/ProjectPresenter.h"
 #include "app/presenters/ShotTimeQuestion.h"
 #include "io/ShotFile.h"
+#include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"

@@ -3,6 +3,7 @@
 #include "app/LossQuestion.h"
 #include "app/MessageText.h"
 #include "app/dialogs/RecordingDetailsDialog.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "session/RemoveShots.h"

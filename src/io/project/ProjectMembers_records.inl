@@ -183,7 +183,7 @@ void describeSurvey(V& fields, TomoDocument& document, SectionViewSettings& sect
   fields.optional("min_velocity", document.model.edit().minVelocity);
   fields.optional("max_velocity", document.model.edit().maxVelocity);
   fields.optional("layers", document.model.edit().layers);
-  fields.optional("proposed_cell_sizes", document.model.edit().proposedCellSizes);
+  fields.optional("proposed_cell_sizes", document.proposedCellSizes);
   fields.optional("coverage_limit", document.result.edit().coverageLimit);
   fields.optional("section_view", section);
   fields.optional("last_inversion", runs);

@@ -1,6 +1,7 @@
 #include "io/project/ProjectResult.h"
 
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>

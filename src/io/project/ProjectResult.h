@@ -1,10 +1,11 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What an inversion left beside the section: without it neither the coverage nor the misfit of a
 /// project would be the same when it is opened again. Of both only what no other member has counts.

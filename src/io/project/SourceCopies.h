@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/Message.h"
-#include "model/TomoDocument.h"
 
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What became of the shot files of a survey that was to be saved.
 struct SourceCopies {

@@ -1,3 +1,4 @@
+#include "io/Survey.h"
 #include "widgets/traces/PickSnap.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
 

@@ -1,3 +1,4 @@
+#include "model/TomoDocument.h"
 #include "widgets/GuideMarks.h"
 #include "widgets/traces/PickMarks.h"
 #include "widgets/traces/TraceAxes.h"
