@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QScreen>
+#include <algorithm>
 #include <utility>
 
 namespace talvesk {
@@ -14,6 +15,7 @@ namespace {
 
 /// Share of the screen, either way, that the dialog fills at most.
 constexpr double kMostOfScreen = 0.92;
+constexpr int kHighestTable = 170;  ///< pixels at first; the splitter gives it more
 
 }  // namespace
 
@@ -51,6 +53,7 @@ void ReadingsDialog::fillTable() {
     const QString path = QString::fromStdString(file.byRules->outcome.path);
     auto* name = new QTableWidgetItem(QFileInfo(path).fileName());
     name->setToolTip(QStringLiteral("<qt>%1</qt>").arg(path.toHtmlEscaped()));
+    name->setTextAlignment(Qt::AlignLeft | Qt::AlignTop);
     table.setItem(row, 0, name);
     table.setItem(row, 1,
                   new QTableWidgetItem(linesOf(file.fuller->losses).join(QLatin1Char('\n'))));
@@ -59,6 +62,9 @@ void ReadingsDialog::fillTable() {
   table.resizeColumnToContents(0);
   table.verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   table.setCurrentCell(0, 0);
+  const int rows = table.verticalHeader()->length() + table.horizontalHeader()->sizeHint().height();
+  const int high = std::min(rows + 2 * table.frameWidth(), kHighestTable);
+  mUi->splitter->setSizes({high, height() - high});
 }
 
 void ReadingsDialog::showFile(int row) {
