@@ -1,6 +1,7 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
 #include "model/GeographicsCoord.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "base/Status.h"
 
 #include <string>
@@ -9,7 +10,7 @@ namespace talvesk {
 
 class TomoDocument;
 struct LoadedProject;
-struct ShotFileData;
+struct ReadShotFile;
 struct TomographyResult;
 struct TravelTimeData;
 
