@@ -142,6 +142,17 @@ const TraceSet& recordedTraces(const Recordings& recordings, std::size_t set) {
   return kept ? recordings.originals[set] : recordings.traceSets[set];
 }
 
+bool sameSamples(const Trace& a, const Trace& b) {
+  return a.samples == b.samples && a.samplesDX == b.samplesDX && a.samplesSX == b.samplesSX;
+}
+
+void dropEmptyEnds(Recordings& recordings) {
+  while (!recordings.mends.empty() && !recordings.mends.back().any()) recordings.mends.pop_back();
+  while (!recordings.originals.empty() && recordings.originals.back().empty()) {
+    recordings.originals.pop_back();
+  }
+}
+
 std::size_t channelAt(const ShotMends& mends, std::size_t geophone, std::size_t traces) {
   return mends.orderReversed && geophone < traces ? traces - 1 - geophone : geophone;
 }

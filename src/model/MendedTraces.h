@@ -12,6 +12,13 @@ namespace talvesk {
 /// The traces of a set as they were recorded.
 const TraceSet& recordedTraces(const Recordings& recordings, std::size_t set);
 
+/// Whether two traces have the same samples, raw and of both recordings; filtered ones do not
+/// count.
+bool sameSamples(const Trace& a, const Trace& b);
+
+/// Cuts the lists of mends and originals behind the last set that has any.
+void dropEmptyEnds(Recordings& recordings);
+
 /// The channel of the record that is at a geophone, and back.
 /// \param traces of the set
 std::size_t channelAt(const ShotMends& mends, std::size_t geophone, std::size_t traces);

@@ -111,10 +111,6 @@ Moved placePicks(const PicksOfRecord& recorded, const ShotMends& mends, const Tr
   return moved;
 }
 
-bool sameSamples(const Trace& a, const Trace& b) {
-  return a.samples == b.samples && a.samplesDX == b.samplesDX && a.samplesSX == b.samplesSX;
-}
-
 /// What did not change stays the same in memory, with its filtered copy. \return copies forgotten
 std::size_t takeTraces(TraceSet made, TraceSet& traces) {
   std::size_t forgotten = 0;
@@ -131,14 +127,6 @@ std::size_t takeTraces(TraceSet made, TraceSet& traces) {
   }
   traces = std::move(made);
   return forgotten;
-}
-
-/// Lists end with the last set that has mends.
-void dropEmptyEnds(Recordings& recordings) {
-  while (!recordings.mends.empty() && !recordings.mends.back().any()) recordings.mends.pop_back();
-  while (!recordings.originals.empty() && recordings.originals.back().empty()) {
-    recordings.originals.pop_back();
-  }
 }
 
 void keepMends(Recordings& recordings, std::size_t set, ShotMends mends) {
