@@ -50,7 +50,7 @@ void editTravelTimesWidget::State::push(Edit edit, Message text, int record,
                                         const std::string& mergeKey) {
   if (changes.empty() || session == nullptr) return;
   const Status may = mayPick(*document, record, changes);
-  if (!may.ok()) emit widget.editRefused(may);
+  if (!may.ok()) emit widget.pickLeftOut(may);
   const auto change = [&](Survey& survey) {
     changePicks(survey.document, record, changes);
     return Status();

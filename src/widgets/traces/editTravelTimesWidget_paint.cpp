@@ -1,3 +1,5 @@
+#include "figures/FigureWords.h"
+#include "model/Mending.h"
 #include "widgets/GuideMarks.h"
 #include "widgets/traces/PickMarks.h"
 #include "widgets/traces/TraceAxes.h"
@@ -5,6 +7,7 @@
 #include "widgets/traces/editTravelTimesWidget_state.h"
 
 #include <QFocusEvent>
+#include <QLocale>
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
@@ -78,9 +81,12 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
   painter.restore();
   if (!options.showOnlyTraces) paintLegend(painter, scene(), plot);
   paintAxes(painter, map, traces, layout, widget.palette().color(QPalette::WindowText));
-  if (!traces.hasSamples()) {
-    paintTag(painter, colors, plot.topLeft() + QPointF(8.0, 8.0),
-             editTravelTimesWidget::tr("No samples, only picks"), plot);
+  QStringList words = document != nullptr
+                          ? FigureWords::mends(mendsOfRecord(*document, shot), QLocale())
+                          : QStringList();
+  if (!traces.hasSamples()) words.prepend(editTravelTimesWidget::tr("No samples, only picks"));
+  if (!words.isEmpty()) {
+    paintTag(painter, colors, plot.topLeft() + QPointF(8.0, 8.0), FigureWords::joined(words), plot);
   }
 }
 
