@@ -302,6 +302,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionNext_file",
         "actionPrev_file",
         "actionRecording_details",
+        "actionMend_recording",
         "actionRemove_shot",
         "actionUndo",
         "actionGain_up",
@@ -339,8 +340,9 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
 /// What these need is not on the way to a section: a filtered copy, a layered profile, a view that
 /// was zoomed, a step that was undone, picks that were made.
 const std::set<std::string> kBesideTheWay = {
-    "show_filtered_cb", "actionShow_refraction", "actionZoom_back",    "actionZoom_forward",
-    "actionRedo",       "actionConfirm_picks",   "actionRemove_picks", "actionRemove_unconfirmed"};
+    "show_filtered_cb",    "actionShow_refraction", "actionZoom_back",
+    "actionZoom_forward",  "actionTake_back_mends", "actionRedo",
+    "actionConfirm_picks", "actionRemove_picks",    "actionRemove_unconfirmed"};
 
 class GrowingSurvey : public Commands {
  protected:

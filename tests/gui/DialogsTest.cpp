@@ -3,6 +3,7 @@
 #include "app/dialogs/DialogSetGeometry.h"
 #include "app/dialogs/ExportTomoVelData.h"
 #include "app/dialogs/ImagesDialog.h"
+#include "app/dialogs/MendDialog.h"
 #include "app/dialogs/PaletteDialog.h"
 #include "app/dialogs/RecordingDetailsDialog.h"
 #include "app/dialogs/RefractionProcessingDialog.h"
@@ -70,6 +71,7 @@ class Dialogs : public WindowTest {
          [&] {
            return make<PaletteDialog>(mPalettes, false, ValueRange{250.0, 900.0}, mFolders);
          }},
+        {"mend", [&] { return make<MendDialog>(document, 0); }},
         {"recording", [&] { return make<RecordingDetailsDialog>(document, mFiles, 0); }},
         {"refraction", [&] { return make<RefractionProcessingDialog>(document, mLayers); }},
         {"report", [&] { return make<ReportDialog>(ReportOptions(), mBuild); }},

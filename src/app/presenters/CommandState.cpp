@@ -24,6 +24,7 @@ CommandState::CommandState(const Desk& desk)
   traces = !document.recordings->traceSets.empty();
   recordInView = records && desk.shot.index() >= 0;
   shotInView = traces && recordInView;
+  mends = !document.recordings->mends.empty();
   filteredCopy = desk.hasFilteredCopy(desk.shot.index());
   picksInRange = editor.hasPicksInRange(false);
   unconfirmedInRange = editor.hasPicksInRange(true);

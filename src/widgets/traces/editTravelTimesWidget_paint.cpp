@@ -81,12 +81,16 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
   painter.restore();
   if (!options.showOnlyTraces) paintLegend(painter, scene(), plot);
   paintAxes(painter, map, traces, layout, widget.palette().color(QPalette::WindowText));
-  QStringList words = document != nullptr
-                          ? FigureWords::mends(mendsOfRecord(*document, shot), QLocale())
-                          : QStringList();
-  if (!traces.hasSamples()) words.prepend(editTravelTimesWidget::tr("No samples, only picks"));
-  if (!words.isEmpty()) {
-    paintTag(painter, colors, plot.topLeft() + QPointF(8.0, 8.0), FigureWords::joined(words), plot);
+  const QStringList words = document != nullptr
+                                ? FigureWords::mends(mendsOfRecord(*document, shot), QLocale())
+                                : QStringList();
+  if (!words.isEmpty()) {  // at the end of the records, where nobody picks
+    paintTag(painter, colors, plot.bottomRight(), FigureWords::joined(words),
+             plot.adjusted(8.0, 8.0, -8.0, -8.0));
+  }
+  if (!traces.hasSamples()) {
+    paintTag(painter, colors, plot.topLeft() + QPointF(8.0, 8.0),
+             editTravelTimesWidget::tr("No samples, only picks"), plot);
   }
 }
 
