@@ -11,6 +11,7 @@
 #include "io/project/projectReader.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -62,6 +63,14 @@ void describeInversion(const TomoDocument& document, std::ostream& out) {
   out << "\n";
   for (const std::string& line : describe(leftOut(document, findExcluded(document)), document)) {
     out << "              " << line << "\n";
+  }
+}
+
+void listMends(const TomoDocument& document, std::ostream& out) {
+  for (std::size_t set = 0; set < document.recordings->mends.size(); ++set) {
+    for (const Message& line : describeMends(document, set)) {
+      out << "  mend        shot " << set + 1 << ": " << line << "\n";
+    }
   }
 }
 
@@ -132,6 +141,7 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
   } else {
     out << "none\n";
   }
+  listMends(document, out);
   out << "  inversion   ";
   if (!document.result->has_tomographic_info) {
     out << "none\n";

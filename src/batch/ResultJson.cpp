@@ -6,6 +6,7 @@
 #include "io/project/projectReader.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -55,6 +56,29 @@ Json recordJson(const TravelTime& record) {
   shot["trace_set"] = record.traceSetID;
   shot["times"] = record.ttMisurati;
   return shot;
+}
+
+/// Null without any. Traces and shots are counted from 0, as in the rest.
+Json mendsJson(const ShotMends& mends) {
+  if (!mends.any()) return nullptr;
+  Json traces = Json::array();
+  for (std::size_t j = 0; j < mends.traces.size(); ++j) {
+    const TraceMend& mend = mends.traces[j];
+    if (!mend.any()) continue;
+    Json trace = Json::object();
+    trace["trace"] = j;
+    trace["killed"] = mend.killed;
+    trace["reversed"] = mend.reversed;
+    trace["muted_before"] = mend.mutedBefore;
+    traces.push_back(std::move(trace));
+  }
+  Json json = Json::object();
+  json["time_shift"] = mends.timeShift;
+  json["disabled"] = mends.disabled;
+  json["order_reversed"] = mends.orderReversed;
+  json["stacked_with"] = mends.stackedWith;
+  json["traces"] = std::move(traces);
+  return json;
 }
 
 Json gridJson(const TomoDocument& document) {
@@ -255,6 +279,7 @@ std::string projectJson(const LoadedProject& project) {
     shot["traces"] =
         i < document.recordings->traceSets.size() ? document.recordings->traceSets[i].size() : 0;
     shot["computed_times"] = record.ttCalcolati;
+    shot["mends"] = mendsJson(mendsOfRecord(document, static_cast<std::int32_t>(i)));
     shots.push_back(std::move(shot));
   }
   Json json = Json::object();

@@ -1,5 +1,7 @@
 #include "processing/ShotTime.h"
 
+#include "model/MendedTraces.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/TomoDocument.h"
 
@@ -59,6 +61,29 @@ void movePick(TravelTime& record, std::size_t trace, double earlier, ShotTimeOut
   ++outcome.picksRemoved;
 }
 
+/// Seconds that counting from its shot takes off the front of a recorded trace.
+double secondsBeforeShot(const Trace& trace) {
+  if (!startsBeforeShot(trace)) return 0.0;
+  return (leadOf(trace) - static_cast<double>(trace.droppedSamples)) * trace.sampleInterval;
+}
+
+/// The picks of a shot, those that its mends keep among them.
+void movePicks(TravelTime& record, TomoDocument& document, ShotTimeOutcome& outcome) {
+  const auto set = static_cast<std::size_t>(record.traceSetID);
+  std::vector<double> earlier;  // by channel of the record
+  for (const Trace& trace : recordedTraces(*document.recordings, set)) {
+    earlier.push_back(secondsBeforeShot(trace));
+  }
+  const ShotMends& mends = mendsOf(*document.recordings, set);
+  for (std::size_t j = 0; j < std::min(earlier.size(), record.ttMisurati.size()); ++j) {
+    movePick(record, j, earlier[channelAt(mends, j, earlier.size())], outcome);
+  }
+  if (mends.picks.empty()) return;
+  for (RecordedPick& pick : document.recordings.edit().mends[set].picks) {
+    if (pick.channel < earlier.size()) pick.time -= earlier[pick.channel];
+  }
+}
+
 }  // namespace
 
 bool startsBeforeShot(const Trace& trace) {
@@ -67,31 +92,30 @@ bool startsBeforeShot(const Trace& trace) {
 }
 
 ShotTimeOutcome countTimesAndPicksFromShot(TomoDocument& document) {
-  const std::vector<TraceSet> before = document.recordings->traceSets;
-  ShotTimeOutcome outcome = countTimeFromShot(document);
+  ShotTimeOutcome moved;
   for (TravelTime& record : document.ttArray.edit()) {
-    const TraceSet* now = document.tracesOf(record);
-    if (now == nullptr) continue;
-    const TraceSet& then = before[static_cast<std::size_t>(record.traceSetID)];
-    for (std::size_t i = 0; i < std::min(now->size(), record.ttMisurati.size()); ++i) {
-      const auto dropped = static_cast<double>((*now)[i].droppedSamples - then[i].droppedSamples);
-      movePick(record, i, dropped * (*now)[i].sampleInterval, outcome);
-    }
+    if (document.tracesOf(record) != nullptr) movePicks(record, document, moved);
   }
+  ShotTimeOutcome outcome = countTimeFromShot(document);
+  outcome.picksRemoved = moved.picksRemoved;
   return outcome;
 }
 
 ShotTimeOutcome countTimeFromShot(TomoDocument& document) {
   std::vector<std::size_t> all(document.recordings->traceSets.size());
   std::iota(all.begin(), all.end(), std::size_t{0});
-  return countTimeFromShot(document.recordings.edit().traceSets, all);
+  return countTimeFromShot(document, all);
 }
 
-ShotTimeOutcome countTimeFromShot(std::vector<TraceSet>& traceSets,
-                                  const std::vector<std::size_t>& sets) {
+ShotTimeOutcome countTimeFromShot(TomoDocument& document, const std::vector<std::size_t>& sets) {
   ShotTimeOutcome outcome;
   for (const std::size_t set : sets) {
-    for (Trace& trace : traceSets.at(set)) countFromShot(trace, outcome);
+    const std::size_t before = outcome.shortened;
+    Recordings& recordings = document.recordings.edit();
+    const bool mended = mendsOf(recordings, set).any();
+    TraceSet& recorded = mended ? recordings.originals.at(set) : recordings.traceSets.at(set);
+    for (Trace& trace : recorded) countFromShot(trace, outcome);
+    if (outcome.shortened > before) remakeMended(set, document, &outcome.notes);
   }
   return outcome;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Trace.h"
+#include "base/Message.h"
 
 #include <cstddef>
 #include <vector>
@@ -17,6 +17,7 @@ struct ShotTimeOutcome {
   std::size_t leftAsRecorded = 0;
   std::size_t mostDropped = 0;   ///< samples that the longest lead, of those shortened, had
   std::size_t picksRemoved = 0;  ///< picks from before the shot, where picks move with the samples
+  std::vector<Message> notes;    ///< what became of the picks and filtered copies of mended shots
 };
 
 /// Recorders often start before the shot (half a second is common). Picks are sample index times
@@ -24,10 +25,10 @@ struct ShotTimeOutcome {
 /// interval) samples of every trace, raw, components and filtered alike, and remembers how many in
 /// Trace::droppedSamples. Repeating it drops nothing more. Times that were picked before are not
 /// moved: count time from the shot before picking.
+/// Of mended traces, what was recorded is shortened and mended anew.
 ShotTimeOutcome countTimeFromShot(TomoDocument& document);
 /// The same of some of the trace sets only, from 0.
-ShotTimeOutcome countTimeFromShot(std::vector<TraceSet>& traceSets,
-                                  const std::vector<std::size_t>& sets);
+ShotTimeOutcome countTimeFromShot(TomoDocument& document, const std::vector<std::size_t>& sets);
 /// The same of all traces, and their picks move with the samples that they mark. A pick from before
 /// the shot is removed.
 ShotTimeOutcome countTimesAndPicksFromShot(TomoDocument& document);

@@ -5,6 +5,7 @@
 #include "figures/report/ReportBuilder.h"
 #include "figures/report/ReportPages.h"
 #include "model/GeographicsCoord.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
@@ -226,6 +227,20 @@ TEST(Report, namesShotFilesSoThatTheyCanBeToldApart) {
     for (const QStringList& row : table.rows) shown.push_back(row[1].toStdString());
     EXPECT_EQ(shown, c.shown);
   }
+}
+
+TEST(Report, listsTheMendsOfItsRecordings) {
+  TomoDocument line = pickedLine();
+  line.recordings.edit().traceSets.resize(3, TraceSet(13));
+  EXPECT_THROW(tableOf(reportOn({line}), "Mends of recordings"), std::runtime_error);
+  ShotMends mends;
+  mends.orderReversed = true;
+  mends.traces = {{true, false, 0.0}};
+  ASSERT_TRUE(setMends(1, mends, line).ok());
+  const ReportTable table = tableOf(reportOn({line}), "Mends of recordings");
+  ASSERT_EQ(table.rows.size(), 2U);
+  EXPECT_EQ(table.rows[0][0], "2");
+  EXPECT_EQ(table.rows[1][1].toStdString(), "traces killed: 1");
 }
 
 TEST(Report, givesEveryShotItsMisfitByHand) {

@@ -303,6 +303,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionNext_file",
         "actionPrev_file",
         "actionRecording_details",
+        "actionMend_recording",
         "actionRemove_shot",
         "actionUndo",
         "actionGain_up",
@@ -343,7 +344,7 @@ const std::set<std::string> kBesideTheWay = {"show_filtered_cb",     "actionShow
                                              "actionZoom_back",      "actionZoom_forward",
                                              "actionRedo",           "actionConfirm_picks",
                                              "actionRemove_picks",   "actionRemove_unconfirmed",
-                                             "actionCount_from_shot"};
+                                             "actionCount_from_shot", "actionTake_back_mends"};
 
 class GrowingSurvey : public Commands {
  protected:

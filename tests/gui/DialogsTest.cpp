@@ -3,6 +3,7 @@
 #include "app/dialogs/DialogSetGeometry.h"
 #include "app/dialogs/ExportTomoVelData.h"
 #include "app/dialogs/ImagesDialog.h"
+#include "app/dialogs/MendDialog.h"
 #include "app/dialogs/PaletteDialog.h"
 #include "app/dialogs/ReadingsDialog.h"
 #include "app/dialogs/RecordingDetailsDialog.h"
@@ -71,6 +72,7 @@ class Dialogs : public WindowTest {
          [&] {
            return make<PaletteDialog>(mPalettes, false, ValueRange{250.0, 900.0}, mFolders);
          }},
+        {"mend", [&] { return make<MendDialog>(document, 0); }},
         {"recording", [&] { return make<RecordingDetailsDialog>(document, mFiles, 0); }},
         {"readings",
          [&] {

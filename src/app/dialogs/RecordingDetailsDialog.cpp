@@ -1,6 +1,8 @@
 #include "app/dialogs/RecordingDetailsDialog.h"
 
+#include "app/MessageText.h"
 #include "io/ReadShotFile.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "model/TomoDocument.h"
@@ -123,6 +125,8 @@ void RecordingDetailsDialog::showSet(int index) {
       traces, [](const Trace& t) { return 1000.0 * t.delay; }, tr("ms")));
   mUi->droppedValue->setText(rangeOf(
       traces, [](const Trace& t) { return static_cast<double>(t.droppedSamples); }, QString()));
+  const QStringList mends = linesOf(describeMends(mDocument, set));
+  mUi->mendsValue->setText(mends.isEmpty() ? tr("None") : mends.join(QLatin1Char('\n')));
   mUi->warningsText->setPlainText(info.warnings.isEmpty() ? tr("None")
                                                           : info.warnings.join(QLatin1Char('\n')));
   fillTable(index);

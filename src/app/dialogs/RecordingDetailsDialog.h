@@ -20,7 +20,7 @@ struct RecordingInfo {
 };
 
 /// Shows what the shot files of a survey hold: format, reader, samples, interval, delay, positions
-/// and what the readers warned about.
+/// and what the readers warned about, and how they were mended.
 class RecordingDetailsDialog : public QDialog {
   Q_OBJECT
 

@@ -102,6 +102,8 @@ Rows shotRows(Desk& desk, Presenters& p) {
       {"actionPrev_file", &State::records, call(desk.shot, &ShotInView::showPrevious)},
       {"actionRecording_details", &State::traces, call(p.traces, &TracesPresenter::showDetails)},
       {"actionCount_from_shot", &State::beforeShot, [&desk](bool) { countTimesFromShot(desk); }},
+      {"actionMend_recording", &State::shotInView, call(p.traces, &TracesPresenter::mendRecording)},
+      {"actionTake_back_mends", &State::mends, call(p.traces, &TracesPresenter::takeBackMends)},
       {"actionRemove_shot", &State::recordInView, call(p.traces, &TracesPresenter::removeShot)},
       {"actionUndo", &State::canUndo, call(desk.session, &Session::undo)},
       {"actionRedo", &State::canRedo, call(desk.session, &Session::redo)},

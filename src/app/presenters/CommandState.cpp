@@ -36,6 +36,7 @@ CommandState::CommandState(const Desk& desk)
   traces = !document.recordings->traceSets.empty();
   recordInView = records && desk.shot.index() >= 0;
   shotInView = traces && recordInView;
+  mends = !document.recordings->mends.empty();
   filteredCopy = desk.hasFilteredCopy(desk.shot.index());
   beforeShot = anyStartsBeforeShot(document.recordings->traceSets);
   picksInRange = editor.hasPicksInRange(false);

@@ -42,7 +42,7 @@ void askForShotTime(Desk& desk, const std::vector<std::size_t>& sets) {
   if (!yes) return;
   // Only the new records: picks on the older ones count from where those start now.
   TomoDocument work = desk.document();
-  const ShotTimeOutcome outcome = countTimeFromShot(work.recordings.edit().traceSets, sets);
+  const ShotTimeOutcome outcome = countTimeFromShot(work, sets);
   take(desk, work, outcome);
 }
 
