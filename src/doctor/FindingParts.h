@@ -1,0 +1,25 @@
+#pragma once
+
+#include "doctor/Finding.h"
+#include "doctor/SurveyView.h"
+
+#include <vector>
+
+namespace talvesk::doctor {
+
+// What findings are put together of.
+
+Message metres(double value);          ///< as a number, without the unit
+Message milliseconds(double seconds);  ///< the same
+
+/// A finding about a shot that shows its arrivals.
+Finding aboutShot(Finding::Kind kind, const ShotView& shot, double confidence, Message text);
+
+Proposal moveShot(Point2D point);
+Proposal moveGeophones(std::vector<Point2D> points);
+Proposal ofTraces(Proposal::Kind kind, std::vector<std::size_t> traces);
+
+/// The numbers of traces as users count them: "3, 5 and 17".
+Message traceList(const std::vector<std::size_t>& traces);
+
+}  // namespace talvesk::doctor
