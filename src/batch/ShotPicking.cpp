@@ -149,6 +149,7 @@ Status startAtShot(const ShotOptions& options, const PickingManner& manner, Surv
         << " samples were left out of " << outcome.shortened
         << " traces, and time counts from the shot.\n";
   }
+  for (const Message& note : outcome.notes) warn(note);
   if (outcome.leftAsRecorded > 0 && !manner.quiet) {
     warn(std::to_string(outcome.leftAsRecorded) +
          " traces end before the shot, or their delay is no number of samples; their times count "

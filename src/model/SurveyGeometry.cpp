@@ -1,6 +1,7 @@
 #include "model/SurveyGeometry.h"
 
 #include "model/GroundModel.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 
@@ -89,6 +90,7 @@ void takePair(SWavePair& pair, std::size_t shot, TomoDocument& next) {
   recordings.filenames_SX[shot] = pair.fileSX;
   recordings.traceSets[shot] = std::move(pair.traces);
   recordings.noteOf(shot) = {pair.format, pair.warnings};
+  forgetMends(shot, next);
 }
 
 bool stringsDiffer(const SurveyGeometry& geometry, const TomoDocument& document) {

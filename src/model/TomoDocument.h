@@ -58,7 +58,8 @@ class TomoDocument {
 
   // --- Questions.
   /// True when more than half (integer halving) of all measured times are not 0. NaN and removed
-  /// picks count; a document without records is incomplete. Lenient on purpose.
+  /// picks count, disabled shots do not; a document without records is incomplete. Lenient on
+  /// purpose.
   bool picksComplete() const;
 
   /// 0 and the trace, or -1 with a line on the console's error stream.

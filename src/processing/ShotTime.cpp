@@ -1,5 +1,6 @@
 #include "processing/ShotTime.h"
 
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/TomoDocument.h"
 
@@ -49,14 +50,18 @@ void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
 ShotTimeOutcome countTimeFromShot(TomoDocument& document) {
   std::vector<std::size_t> all(document.recordings->traceSets.size());
   std::iota(all.begin(), all.end(), std::size_t{0});
-  return countTimeFromShot(document.recordings.edit().traceSets, all);
+  return countTimeFromShot(document, all);
 }
 
-ShotTimeOutcome countTimeFromShot(std::vector<TraceSet>& traceSets,
-                                  const std::vector<std::size_t>& sets) {
+ShotTimeOutcome countTimeFromShot(TomoDocument& document, const std::vector<std::size_t>& sets) {
   ShotTimeOutcome outcome;
   for (const std::size_t set : sets) {
-    for (Trace& trace : traceSets.at(set)) countFromShot(trace, outcome);
+    const std::size_t before = outcome.shortened;
+    Recordings& recordings = document.recordings.edit();
+    const bool mended = mendsOf(recordings, set).any();
+    TraceSet& recorded = mended ? recordings.originals.at(set) : recordings.traceSets.at(set);
+    for (Trace& trace : recorded) countFromShot(trace, outcome);
+    if (outcome.shortened > before) remakeMended(set, document, &outcome.notes);
   }
   return outcome;
 }

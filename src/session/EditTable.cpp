@@ -17,6 +17,7 @@ const std::vector<EditRule>& editTable() {
       {Edit::kImport, Message::tr("Import travel times"), ".CCGGCV.S"},
       {Edit::kImportSurvey, Message::tr("Import travel times"), "CCCGVVVCV"},
       {Edit::kShotTime, Message::tr("Count times from the shot"), "CC....S.."},
+      {Edit::kMend, Message::tr("Mend recordings"), "CC..S.S.."},
       {Edit::kPick, Message::tr("Edit picks"), ".C..S.S.."},
       {Edit::kConfirmPicks, Message::tr("Confirm picks"), ".C......."},
       {Edit::kAutoPick, Message::tr("AutoPick"), "CC..S.S.."},

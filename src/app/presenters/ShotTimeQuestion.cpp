@@ -25,7 +25,7 @@ void askForShotTime(Desk& desk, const std::vector<std::size_t>& sets) {
   if (!yes) return;
   // Only the new records: picks on the older ones count from where those start now.
   TomoDocument work = desk.document();
-  const ShotTimeOutcome outcome = countTimeFromShot(work.recordings.edit().traceSets, sets);
+  const ShotTimeOutcome outcome = countTimeFromShot(work, sets);
   const auto take = [&](Survey& survey) { survey.document = work; };
   if (outcome.shortened > 0 && !desk.edit(Edit::kShotTime, take)) return;
   if (outcome.leftAsRecorded > 0) {

@@ -5,6 +5,7 @@
 
 #include "base/Console.h"
 #include "io/XmlRecords.inl"
+#include "io/project/MendsMember.h"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectPicks.h"
 #include "io/project/ProjectResult.h"
@@ -136,6 +137,45 @@ template <class V>
 void describe(V& fields, UnconfirmedMember& member) {
   fields("picks", member.picks);
   fields("unconfirmed", member.traces);
+}
+
+template <class V>
+void describe(V& fields, TraceMend& mend) {
+  fields("killed", mend.killed);
+  fields("reversed", mend.reversed);
+  fields("muted_before", mend.mutedBefore);
+}
+
+template <class V>
+void describe(V& fields, RecordedPick& pick) {
+  fields("channel", pick.channel);
+  fields("time", pick.time);
+  fields("waits", pick.waits);
+}
+
+template <class V>
+void describe(V& fields, StoredOriginal& original) {
+  fields("TAB", original.TAB);
+  fields("TAB_DX", original.TAB_DX);
+  fields("TAB_SX", original.TAB_SX);
+}
+
+template <class V>
+void describe(V& fields, StoredMends& stored) {
+  fields("set", stored.set);
+  fields("samples", stored.samples);
+  fields("time_shift", stored.mends.timeShift);
+  fields("disabled", stored.mends.disabled);
+  fields("order_reversed", stored.mends.orderReversed);
+  fields("stacked_with", stored.mends.stackedWith);
+  fields("traces", stored.mends.traces);
+  fields("picks", stored.mends.picks);
+  fields("originals", stored.originals);
+}
+
+template <class V>
+void describe(V& fields, MendsMember& member) {
+  fields("mends", member.shots);
 }
 
 template <class V>

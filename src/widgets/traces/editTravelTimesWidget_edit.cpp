@@ -49,6 +49,8 @@ void editTravelTimesWidget::State::push(Edit edit, Message text, int record,
                                         const std::vector<PickChange>& changes,
                                         const std::string& mergeKey) {
   if (changes.empty() || session == nullptr) return;
+  const Status may = mayPick(*document, record, changes);
+  if (!may.ok()) emit widget.editRefused(may);
   const auto change = [&](Survey& survey) {
     changePicks(survey.document, record, changes);
     return Status();
