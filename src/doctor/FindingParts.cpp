@@ -1,6 +1,7 @@
 #include "doctor/FindingParts.h"
 
 #include "doctor/Placing.h"
+#include "doctor/RunForEach.h"
 
 #include <string>
 #include <utility>
@@ -54,6 +55,17 @@ Message traceList(const std::vector<std::size_t>& traces) {
   if (traces.empty()) return {};
   const Message last(std::to_string(traces.back() + 1));
   return list.empty() ? last : Message::tr("%1 and %2").arg(list).arg(last);
+}
+
+std::vector<Finding> findInEachShot(
+    const SurveyView& view, const std::function<std::vector<Finding>(const ShotView&)>& check) {
+  std::vector<std::vector<Finding>> found(view.shots.size());
+  runForEach(found.size(), [&](std::size_t i) { found[i] = check(view.shots[i]); });
+  std::vector<Finding> findings;
+  for (std::vector<Finding>& ofShot : found) {
+    for (Finding& finding : ofShot) findings.push_back(std::move(finding));
+  }
+  return findings;
 }
 
 }  // namespace talvesk::doctor

@@ -3,6 +3,7 @@
 #include "doctor/Finding.h"
 #include "doctor/SurveyView.h"
 
+#include <functional>
 #include <vector>
 
 namespace talvesk::doctor {
@@ -21,5 +22,9 @@ Proposal ofTraces(Proposal::Kind kind, std::vector<std::size_t> traces);
 
 /// The numbers of traces as users count them: "3, 5 and 17".
 Message traceList(const std::vector<std::size_t>& traces);
+
+/// What a check finds in each shot, in the order of the shots. It runs on several threads.
+std::vector<Finding> findInEachShot(
+    const SurveyView& view, const std::function<std::vector<Finding>(const ShotView&)>& check);
 
 }  // namespace talvesk::doctor

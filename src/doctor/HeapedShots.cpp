@@ -73,13 +73,19 @@ void checkHeapedShots(const std::vector<const ShotView*>& shots, std::vector<Fin
   }
   for (std::size_t i = 0; reading && i < shots.size(); ++i) {
     const ShotView& shot = *shots[i];
-    if (reading->places[i] == shot.source.x) continue;
+    const bool moved = reading->places[i] != shot.source.x;
+    // The elevations that go with such positions are those of the recorder, too.
+    if (!moved && shot.source.z == 0.0) continue;
     Finding finding = aboutShot(
         Kind::kShotPosition, shot, confidenceOf(reading->line),
-        Message::tr("the shot is said to be at %1 m; the name of the file says %2 m, and the least "
-                    "times of the survey follow the names")
-            .arg(metres(shot.source.x))
-            .arg(metres(reading->places[i])));
+        moved
+            ? Message::tr("the shot is said to be at %1 m; the name of the file says %2 m, and the "
+                          "least times of the survey follow the names")
+                  .arg(metres(shot.source.x))
+                  .arg(metres(reading->places[i]))
+            : Message::tr("the shot is said to be at an elevation of %1 m, and the geophones have "
+                          "none that could be theirs")
+                  .arg(metres(shot.source.z)));
     finding.measured = arrivalsOver(shot, points);
     finding.expected = veeAround(shot, points, reading->places[i]);
     finding.proposal = moveShot({reading->places[i], 0.0});

@@ -1,50 +1,24 @@
 #include "doctor/SurveyView.h"
 
+#include "doctor/RunForEach.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "model/SurveyLine.h"
 #include "numerics/Medians.h"
 
 #include <algorithm>
-#include <atomic>
+#include <cstdint>
 #include <filesystem>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 namespace talvesk::doctor {
 namespace {
 
-bool isDisabled(const TomoDocument& document, std::size_t shot) {
-  const auto set = static_cast<std::size_t>(document.ttArray[shot].traceSetID);
-  const std::vector<ShotMends>& mends = document.recordings->mends;
-  return set < mends.size() && mends[set].disabled;
-}
-
-/// The arrivals of all shots, on as many threads as the machine has processors: each shot has its
-/// own place for the result.
-void findAllOnsets(std::vector<ShotView>& shots, const std::function<bool()>& goOn) {
-  std::atomic<std::size_t> next{0};
-  std::atomic<bool> stopped{false};
-  const auto work = [&](bool asks) {
-    while (!stopped) {
-      if (asks && goOn && !goOn()) stopped = true;
-      const std::size_t i = next++;
-      if (stopped || i >= shots.size()) return;
-      shots[i].onsets = findOnsets(*shots[i].traces);
-      shots[i].station = findSourceStation(shots[i].onsets);
-    }
-  };
-  std::vector<std::thread> pool;
-  const unsigned threads = std::max(std::thread::hardware_concurrency(), 1U);
-  try {
-    for (unsigned t = 1; t < threads && t < shots.size(); ++t) pool.emplace_back(work, false);
-  } catch (const std::system_error&) {
-    // The system gives no more threads: those that run do all the work.
-  }
-  work(true);
-  for (std::thread& thread : pool) thread.join();
-  for (ShotView& shot : shots) shot.onsets.resize(shot.traces->size());
+std::vector<bool> killedTraces(const ShotMends& mends, std::size_t count) {
+  std::vector<bool> killed;
+  for (std::size_t t = 0; t < count; ++t) killed.push_back(mendOf(mends, t).killed);
+  return killed;
 }
 
 }  // namespace
@@ -55,10 +29,12 @@ SurveyView viewOf(const TomoDocument& document, const std::function<bool()>& goO
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const TravelTime& record = document.ttArray[i];
     const TraceSet* traces = document.tracesOf(record);
-    if (traces == nullptr || traces->empty() || isDisabled(document, i)) continue;
+    const ShotMends& mends = mendsOfRecord(document, static_cast<std::int32_t>(i));
+    if (traces == nullptr || traces->empty() || mends.disabled) continue;
     ShotView shot;
     shot.shot = i;
     shot.traces = traces;
+    shot.killed = killedTraces(mends, traces->size());
     shot.source = record.shotPos2d;
     shot.geophones = document.receiversOf(record);
     shot.string = static_cast<std::size_t>(std::max(0, record.indexStesa));
@@ -69,7 +45,12 @@ SurveyView viewOf(const TomoDocument& document, const std::function<bool()>& goO
     shot.name = std::filesystem::path(shotFile(document, i)).stem().string();
     view.shots.push_back(std::move(shot));
   }
-  findAllOnsets(view.shots, goOn);
+  for (ShotView& shot : view.shots) shot.onsets.resize(shot.traces->size());
+  const auto listen = [&](std::size_t i) {
+    view.shots[i].onsets = findOnsets(*view.shots[i].traces);
+    view.shots[i].station = findSourceStation(view.shots[i].onsets);
+  };
+  runForEach(view.shots.size(), listen, goOn);
   return view;
 }
 

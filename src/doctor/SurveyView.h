@@ -20,6 +20,7 @@ struct ShotView {
   bool placed = false;               ///< its string has as many geophones as it has traces
   Point2D source;                    ///< as the survey has it
   std::vector<Point2D> geophones;    ///< as the survey has them, one per trace
+  std::vector<bool> killed;          ///< by a mend, one per trace
   std::string name;                  ///< of its file, without folder and suffix
   ShotOnsets onsets;                 ///< one per trace
   SourceStation station;
