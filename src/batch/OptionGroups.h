@@ -29,6 +29,9 @@ struct ShotOptionGroup {
 /// The options with which shot files become picks. `shots` must outlive the parsing.
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots);
 
+/// Those of them that say where shots and geophones stand, and from when time counts.
+ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots);
+
 /// A repeatable --image with names that a picture can have.
 CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
                        const std::string& help);
