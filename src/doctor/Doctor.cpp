@@ -76,7 +76,15 @@ Found checkTraces(const ShotView& shot) {
   append(checkClippedTraces(shot), findings);
   append(checkNoisyTraces(shot), findings);
   append(checkDoubledTraces(shot), findings);
-  append(checkMistimedTraces(shot), findings);
+  // A copy of another trace comes at the time of that one.
+  Found mistimed = checkMistimedTraces(shot);
+  for (const Finding& other : findings) {
+    mistimed.erase(
+        std::remove_if(mistimed.begin(), mistimed.end(),
+                       [&](const Finding& finding) { return finding.traces == other.traces; }),
+        mistimed.end());
+  }
+  append(std::move(mistimed), findings);
   return findings;
 }
 

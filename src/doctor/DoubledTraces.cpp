@@ -13,9 +13,9 @@ namespace {
 
 constexpr std::size_t kBlocks = 64;  // of the sketch of a trace
 constexpr double kSketch = 0.99;     // correlation of sketches worth a closer look
-// Two geophones never have the same noise; a thousandth of the energy is what two recorders of one
-// geophone differ by.
-constexpr double kSame = 0.9995;
+// Two geophones never have the same noise, and at equal distances from the shot never the same wave
+// to a hundredth; two channels of one geophone do.
+constexpr double kSame = 0.9999;
 constexpr std::size_t kFarthest = 256;  // channels
 
 /// The strength of a trace over time, in few numbers.

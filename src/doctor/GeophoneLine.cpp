@@ -49,10 +49,11 @@ std::optional<double> misplacement(const Shots& shots, std::size_t geophone, dou
   if (left.shots < kFewestShots || right.shots < kFewestShots) return std::nullopt;
   const double mean = 0.5 * (left.metres + right.metres);
   const double least = std::min(std::fabs(left.metres), std::fabs(right.metres));
-  const double sure = std::max(left.scatter / std::sqrt(static_cast<double>(left.shots)),
-                               right.scatter / std::sqrt(static_cast<double>(right.shots)));
+  const double error =
+      0.5 * std::hypot(left.scatter / std::sqrt(static_cast<double>(left.shots)),
+                       right.scatter / std::sqrt(static_cast<double>(right.shots)));
   if (left.metres * right.metres <= 0.0 || least < kOffLine * spacing ||
-      least < 0.5 * std::fabs(mean) || std::fabs(mean) < 4.0 * sure) {
+      least < 0.5 * std::fabs(mean) || std::fabs(mean) < 4.0 * error) {
     return std::nullopt;
   }
   return mean;

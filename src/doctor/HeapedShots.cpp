@@ -33,6 +33,17 @@ std::vector<Point2D> evenly(const StationLine& line, std::size_t count, const Sh
   return points;
 }
 
+/// Whether the elevations of geophones at one place are not those of that place.
+bool hasElevations(const ShotView& shot) {
+  std::set<double> places;
+  std::set<double> elevations;
+  for (const Point2D& geophone : shot.geophones) {
+    places.insert(geophone.x);
+    elevations.insert(geophone.z);
+  }
+  return elevations.size() > places.size();
+}
+
 }  // namespace
 
 void checkHeapedShots(const std::vector<const ShotView*>& shots, std::vector<Finding>& findings) {
@@ -68,14 +79,20 @@ void checkHeapedShots(const std::vector<const ShotView*>& shots, std::vector<Fin
     Finding finding = aboutShot(Kind::kRepeatedPositions, shot,
                                 reading ? confidenceOf(reading->line) : 1.0, std::move(text));
     finding.measured = arrivalsOver(shot, reading ? points : shot.geophones);
-    if (reading) finding.proposal = moveGeophones(points);
+    if (reading) {
+      std::vector<Point2D> moved = points;
+      for (std::size_t i = 0; i < moved.size() && hasElevations(shot); ++i) {
+        moved[i].z = shot.geophones[i].z;
+      }
+      finding.proposal = moveGeophones(std::move(moved));
+    }
     findings.push_back(std::move(finding));
   }
   for (std::size_t i = 0; reading && i < shots.size(); ++i) {
     const ShotView& shot = *shots[i];
     const bool moved = reading->places[i] != shot.source.x;
     // The elevations that go with such positions are those of the recorder, too.
-    if (!moved && shot.source.z == 0.0) continue;
+    if (!moved && (shot.source.z == 0.0 || hasElevations(shot))) continue;
     Finding finding = aboutShot(
         Kind::kShotPosition, shot, confidenceOf(reading->line),
         moved
@@ -88,7 +105,7 @@ void checkHeapedShots(const std::vector<const ShotView*>& shots, std::vector<Fin
                   .arg(metres(shot.source.z)));
     finding.measured = arrivalsOver(shot, points);
     finding.expected = veeAround(shot, points, reading->places[i]);
-    finding.proposal = moveShot({reading->places[i], 0.0});
+    finding.proposal = moveShot({reading->places[i], hasElevations(shot) ? shot.source.z : 0.0});
     findings.push_back(std::move(finding));
   }
 }

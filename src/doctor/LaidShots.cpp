@@ -74,8 +74,10 @@ class LaidCheck {
         mLeft.insert(mLeft.end(), shots.begin(), shots.end());
       }
     }
+    // At the ends any scale will do.
+    const Tally among = tallyOf(insiders(mLeft), false);
+    if (among.bad > among.good && rescale()) return;
     const Tally tally = tallyOf(mLeft, false);
-    if (tally.bad > tally.good && rescale()) return;
     for (const ShotView* shot : mLeft) judge(*shot, tally);
   }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 
 namespace talvesk::doctor {
 namespace {
@@ -21,20 +22,29 @@ constexpr double kCheapestSkip = 0.2;   // of passing over what may be an arriva
 constexpr double kCostliestSkip = 3.0;  // of passing over an arrival that is plain to see
 constexpr double kCostliestJump = 1.5;  // of not lying on a line with the neighbours
 
+bool hasInterval(const Trace& trace) {
+  return trace.sampleInterval > 0.0 && trace.sampleInterval < 1e3;
+}
+
 std::size_t leadingConstants(const std::vector<double>& samples) {
   const auto differs = std::find_if(samples.begin(), samples.end(),
                                     [&](double value) { return value != samples.front(); });
   return static_cast<std::size_t>(differs - samples.begin());
 }
 
-/// Samples in front that no trace recorded: a mend or a reader put zeros there.
+/// Samples in front that no trace recorded: a mend or a reader put zeros there, on all alike.
 std::size_t padding(const TraceSet& traces) {
-  std::size_t least = std::numeric_limits<std::size_t>::max();
+  std::map<std::size_t, std::size_t> counts;
+  std::size_t live = 0;
   for (const Trace& trace : traces) {
     const std::size_t count = leadingConstants(*trace.samples);
-    if (count < trace.samples.size()) least = std::min(least, count);
+    if (count == trace.samples.size()) continue;
+    ++counts[count];
+    ++live;
   }
-  return least == std::numeric_limits<std::size_t>::max() || least < 2 ? 0 : least;
+  if (live == 0) return 0;
+  const auto [least, traceCount] = *counts.begin();
+  return least >= 2 && 2 * traceCount > live ? least : 0;
 }
 
 /// What it costs to take none of what begins at a candidate for the first arrival: little for what
@@ -112,15 +122,22 @@ std::vector<std::size_t> cheapest(const std::vector<Choice>& choices, double per
 }
 
 bool isUsable(const Trace& trace) {
-  return !trace.samples.empty() && trace.sampleInterval > 0.0 && trace.sampleInterval < 1e3;
+  return !trace.samples.empty() && hasInterval(trace);
 }
 
-/// Of the strongest waves of a shot, seconds.
+/// Period of the strongest waves of a shot, seconds: the median of the strongest quarter of its
+/// traces, for the weak ones hold little but noise.
 double periodOf(const TraceSet& traces, std::size_t from) {
-  std::vector<double> periods;
+  std::vector<StrongestWave> waves;
   for (const Trace& trace : traces) {
     if (!isUsable(trace) || leadingConstants(*trace.samples) == trace.samples.size()) continue;
-    periods.push_back(strongestPeriod(*trace.samples, from) * trace.sampleInterval);
+    waves.push_back(strongestWave(*trace.samples, from, trace.sampleInterval));
+  }
+  std::stable_sort(waves.begin(), waves.end(),
+                   [](const StrongestWave& a, const StrongestWave& b) { return a.size > b.size; });
+  std::vector<double> periods;
+  for (std::size_t i = 0; i < waves.size() && (i < 5 || 4 * i < waves.size()); ++i) {
+    periods.push_back(waves[i].period);
   }
   return medianOf(std::move(periods), 0.01);
 }
@@ -128,9 +145,8 @@ double periodOf(const TraceSet& traces, std::size_t from) {
 }  // namespace
 
 double timeOfFirstSample(const Trace& trace) {
-  return isUsable(trace)
-             ? trace.delay + static_cast<double>(trace.droppedSamples) * trace.sampleInterval
-             : 0.0;
+  if (!hasInterval(trace)) return 0.0;
+  return trace.delay + static_cast<double>(trace.droppedSamples) * trace.sampleInterval;
 }
 
 ShotOnsets findOnsets(const TraceSet& traces) {

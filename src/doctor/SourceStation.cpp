@@ -11,7 +11,7 @@
 namespace talvesk::doctor {
 namespace {
 
-constexpr double kReach = 5.0;      // stations on each side that are taken for alike
+constexpr double kReach = 4.0;      // stations on each side that are taken for alike
 constexpr double kStep = 0.05;      // stations between trials of the tip
 constexpr double kOutermost = 1.5;  // stations: nearer to an end two sides cannot be told apart
 constexpr double kFarthest = 2.0;   // stations from the earliest arrival to the tip
@@ -27,7 +27,7 @@ struct Vee {
   double tip = 0.0;
   double time = 0.0;
   double pace = 0.0;
-  double misfit = std::numeric_limits<double>::infinity();  ///< mean of capped magnitudes, seconds
+  double misfit = std::numeric_limits<double>::infinity();  ///< mean magnitude, seconds
   std::size_t left = 0;
   std::size_t right = 0;
 };
@@ -69,7 +69,7 @@ Vee fitVee(const std::vector<Arrival>& arrivals, double tip, double scale) {
   for (const Arrival& arrival : near) {
     const double off =
         std::fabs(arrival.time - vee.time - vee.pace * std::fabs(arrival.station - tip));
-    vee.misfit += std::min(off, 4.0 * scale) / static_cast<double>(near.size());
+    vee.misfit += off / static_cast<double>(near.size());
   }
   return vee;
 }
@@ -150,15 +150,14 @@ SourceStation findSourceStation(const std::vector<Onset>& onsets) {
   const double scale = medianOf(errors, 0.001);
 
   Vee best;
-  const double first = std::max(found.first + kOutermost, middle - kReach);
-  const double last = std::min(found.last - kOutermost, middle + kReach);
+  const double first = std::max(found.first + kOutermost, middle - kFarthest);
+  const double last = std::min(found.last - kOutermost, middle + kFarthest);
   for (double tip = first; tip <= last; tip += kStep) {
     const Vee trial = fitVee(arrivals, tip, scale);
     if (trial.pace > 0.0 && trial.misfit < best.misfit) best = trial;
   }
   // Both arms of a V rise; a line that only bends is none.
   const bool vee = best.pace > 0.0 && best.misfit < 0.25 * best.pace * kReach &&
-                   std::fabs(best.tip - middle) <= kFarthest &&
                    paceOutward(arrivals, best.tip, true) > 0.25 * best.pace &&
                    paceOutward(arrivals, best.tip, false) > 0.25 * best.pace &&
                    isStrongAround(onsets, best.tip);

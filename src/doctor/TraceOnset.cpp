@@ -16,16 +16,17 @@ constexpr double kRise = 2.0;           // in variance: less is a change of weat
 constexpr std::size_t kFewest = 4;      // samples in either part
 constexpr int kMostDepth = 3;           // splits of splits: seven arrivals at most
 constexpr double kNegligible = 1e-4;    // of the greatest magnitude: beyond what recorders resolve
+constexpr double kDeafBelow = 5.0;      // Hz: geophones hear nothing slower
+constexpr double kDrift = 3.0;          // times the period of the strongest waves, and longer
 constexpr double kPerPeriod = 48.0;     // samples that a swing and back needs to be seen
 constexpr double kNoisePeriods = 20.0;  // before the arrival, that tell how strong noise is there
 
-/// Takes out what is slower than a third of the strongest waves: two first-order high-passes one
-/// after the other, forward only, so that nothing shows before it begins.
+/// Takes out what is slower than a corner, cycles per sample: two first-order high-passes one after
+/// the other, forward only, so that nothing shows before it begins.
 std::vector<double> withoutDrift(const std::vector<double>& samples, std::size_t from,
-                                 double period) {
+                                 double corner) {
   std::vector<double> out(samples.size(), 0.0);
-  const double corner = 2.0 * kPi / (3.0 * period);  // radians per sample
-  const double keep = 1.0 / (1.0 + corner);
+  const double keep = 1.0 / (1.0 + 2.0 * kPi * corner);
   double first = 0.0;
   double second = 0.0;
   for (std::size_t i = from + 1; i < samples.size(); ++i) {
@@ -132,19 +133,21 @@ std::size_t TraceSums::strongest(std::size_t from) const {
   return best;
 }
 
-double strongestPeriod(const std::vector<double>& samples, std::size_t from) {
-  const TraceSums sums(samples);
+StrongestWave strongestWave(const std::vector<double>& samples, std::size_t from,
+                            double sampleInterval) {
+  const TraceSums sums(withoutDrift(samples, from, kDeafBelow * sampleInterval));
   const std::size_t end = sums.strongest(from);
   const auto around = static_cast<std::size_t>(4.0 * sums.correlation(from, samples.size()));
-  return 2.0 * sums.correlation(end > from + around ? end - around : from,
-                                std::min(samples.size(), end + around));
+  const double half = sums.correlation(end > from + around ? end - around : from,
+                                       std::min(samples.size(), end + around));
+  return {2.0 * half * sampleInterval, sums.peak()};
 }
 
 ReadyTrace makeReady(const std::vector<double>& samples, std::size_t from, double period) {
   ReadyTrace ready;
   ready.block = std::max<std::size_t>(1, static_cast<std::size_t>(period / kPerPeriod));
   ready.from = (from + ready.block - 1) / ready.block * ready.block;
-  ready.fine = withoutDrift(samples, from, period);
+  ready.fine = withoutDrift(samples, from, 1.0 / (kDrift * period));
   for (std::size_t i = 0; i + ready.block <= samples.size(); i += ready.block) {
     double sum = 0.0;
     for (std::size_t k = i; k < i + ready.block; ++k) sum += ready.fine[k];

@@ -55,8 +55,15 @@ class TraceSums {
   std::vector<double> mSlopes;
 };
 
-/// Samples per swing and back where the trace is strongest. \param from samples before are padding
-double strongestPeriod(const std::vector<double>& samples, std::size_t from);
+/// The waves where a trace is strongest.
+struct StrongestWave {
+  double period = 0.0;  ///< seconds
+  double size = 0.0;    ///< greatest magnitude of the trace, drift removed
+};
+
+/// \param from samples before are padding \param sampleInterval seconds
+StrongestWave strongestWave(const std::vector<double>& samples, std::size_t from,
+                            double sampleInterval);
 
 /// A trace made ready to look for its first arrival: without drift, and no finer than needed.
 struct ReadyTrace {
