@@ -4,6 +4,7 @@
 #include "batch/Manual.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
+#include "batch/ProjectFiles.h"
 #include "io/FileFormats.h"
 
 #include <algorithm>
@@ -65,6 +66,41 @@ void addPick(CLI::App& app, PickOptions& pick) {
   });
 }
 
+void addCheck(CLI::App& app, CheckOptions& check) {
+  CLI::App& command = *app.add_subcommand(
+      "check", "Look for what is doubtful about recordings: positions, triggers, traces");
+  command
+      .add_option("INPUT", check.shots.files,
+                  "Shot files (" + shotSuffixes() + "), or one project (.tvsk)")
+      ->required();
+  addReader(command, check.shots.reader);
+  const ShotOptionGroup positions = addPositionOptions(command, check.shots);
+  addPath(
+      command, "--json", check.json,
+      "Write the findings as JSON, shots and traces from 0, metres and seconds; '-' is standard "
+      "output");
+  mustEndIn(addPath(command, "--mend", check.project,
+                    "Carry out all proposals, check again until nothing is proposed, and save the "
+                    "mended survey as a project named *.tvsk"),
+            {".tvsk"}, false);
+  command.add_flag("--strict", check.strict,
+                   "End with exit code 3 when something is proposed, or left after --mend");
+  command.add_flag("--quiet", check.quiet, kQuietHelp);
+  command.final_callback([positions, &check] {
+    positions.check(check.shots);
+    std::vector<std::string>& files = check.shots.files;
+    if (std::none_of(files.begin(), files.end(), isProjectFile)) return;
+    if (files.size() > 1) {
+      throw CLI::ValidationError("INPUT", "a project is checked on its own");
+    }
+    if (positions.anyGiven()) {
+      throw CLI::ValidationError("INPUT", "the options of shot files do not apply to a project");
+    }
+    check.input = std::move(files.front());
+    files.clear();
+  });
+}
+
 void addConvert(CLI::App& app, ConvertOptions& convert) {
   CLI::App& command = *app.add_subcommand(
       "convert", "Rewrite a travel-time file in the exchange format .otte (metres, milliseconds)");
@@ -89,6 +125,7 @@ void addDemo(CLI::App& app, DemoOptions& demo) {
 struct AllOptions {
   InfoOptions info;
   PickOptions pick;
+  CheckOptions check;
   InvertOptions invert;
   RefractOptions refract;
   ExportOptions exports;
@@ -107,6 +144,7 @@ void addCommands(CLI::App& app, AllOptions& all) {
   addInvert(app, all.invert);
   addRefract(app, all.refract);
   addPick(app, all.pick);
+  addCheck(app, all.check);
   addInfo(app, all.info);
   addExport(app, all.exports);
   addConvert(app, all.convert);
@@ -142,7 +180,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
 
   if (chosenCommand(app) == nullptr) {
     result.exitCode = wrongUsage(
-        "", "a command is required: info, pick, invert, refract, export, convert or demo");
+        "", "a command is required: info, pick, check, invert, refract, export, convert or demo");
     return result;
   }
   const std::string name = chosenCommand(app)->get_name();
@@ -150,6 +188,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     result.command = std::move(all.info);
   } else if (name == "pick") {
     result.command = std::move(all.pick);
+  } else if (name == "check") {
+    result.command = std::move(all.check);
   } else if (name == "invert") {
     result.command = std::move(all.invert);
   } else if (name == "refract") {

@@ -38,6 +38,9 @@ bool isShotFile(const std::string& path, ShotReader reader);
 /// must outlive the parsing.
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots);
 
+/// Those of them that say where shots and geophones stand, and from when time counts.
+ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots);
+
 /// A repeatable --image with names that a picture can have.
 CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
                        const std::string& help);

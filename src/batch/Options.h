@@ -17,7 +17,8 @@
 namespace talvesk {
 
 /// What talvesk-batch tells whoever called it.
-enum ExitCode : int { kDone = 0, kFailed = 1, kWrongUsage = 2 };
+/// The last one only of a check that is asked for it.
+enum ExitCode : int { kDone = 0, kFailed = 1, kWrongUsage = 2, kDoubtful = 3 };
 
 /// The place that stands for standard output where a path is expected.
 inline constexpr const char* kStandardOutput = "-";
@@ -54,6 +55,15 @@ struct PickOptions {
   std::vector<std::string> images;
   bool quiet = false;
   bool verbose = false;
+};
+
+struct CheckOptions {
+  std::string input;  ///< project; none: shot files
+  ShotOptions shots;
+  std::string json;
+  std::string project;  ///< to save the mended survey in
+  bool strict = false;  ///< what is left with a proposal makes an exit code of its own
+  bool quiet = false;
 };
 
 /// What a report says of those it concerns; empty ones are left out.
@@ -141,7 +151,7 @@ struct DemoOptions {
   bool quiet = false;
 };
 
-using CommandOptions = std::variant<InfoOptions, PickOptions, InvertOptions, RefractOptions,
-                                    ExportOptions, ConvertOptions, DemoOptions>;
+using CommandOptions = std::variant<InfoOptions, PickOptions, CheckOptions, InvertOptions,
+                                    RefractOptions, ExportOptions, ConvertOptions, DemoOptions>;
 
 }  // namespace talvesk

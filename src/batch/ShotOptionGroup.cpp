@@ -86,6 +86,31 @@ bool isShotFile(const std::string& path, ShotReader reader) {
   return travelTimeFormatOf(path) == nullptr && !hasSuffixOf(projectFormat(), path);
 }
 
+ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots) {
+  ShotOptionGroup group;
+  const auto add = [&](CLI::Option* option) {
+    option->group(kGroup);
+    group.options.push_back(option);
+    return option;
+  };
+  add(command.add_flag("--as-recorded", shots.asRecorded,
+                       "Count time from the first sample of a record, also when recording began "
+                       "before the shot"));
+  add(addPath(command, "--geophones", shots.geophones,
+              "Positions of the geophones, a line 'x;z' (metres) per trace, instead of those "
+              "in the shot files; the same for all shots"));
+  add(addPath(command, "--shots", shots.shots,
+              "Positions of the shots, a line 'shot_id_...;x;z' (metres) per shot file, "
+              "instead of those in the shot files"));
+  add(command
+          .add_option_function<std::string>(
+              "--separator",
+              [&](const std::string& text) { shots.separator = readSeparator(text); },
+              "Separator of --geophones and --shots: ';', ',' or ' ' (default: ';')")
+          ->type_name("CHAR"));
+  return group;
+}
+
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
   addReader(command, shots.reader);
   ShotOptionGroup group;
@@ -106,21 +131,9 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
   for (CLI::Option* option : addCorner(command, parameters::kLowPass, shots.band.low)) add(option);
   for (CLI::Option* option : addCorner(command, parameters::kHighPass, shots.band.high))
     add(option);
-  add(command.add_flag("--as-recorded", shots.asRecorded,
-                       "Count time from the first sample of a record, also when recording began "
-                       "before the shot"));
-  add(addPath(command, "--geophones", shots.geophones,
-              "Positions of the geophones, a line 'x;z' (metres) per trace, instead of those "
-              "in the shot files; the same for all shots"));
-  add(addPath(command, "--shots", shots.shots,
-              "Positions of the shots, a line 'shot_id_...;x;z' (metres) per shot file, "
-              "instead of those in the shot files"));
-  add(command
-          .add_option_function<std::string>(
-              "--separator",
-              [&](const std::string& text) { shots.separator = readSeparator(text); },
-              "Separator of --geophones and --shots: ';', ',' or ' ' (default: ';')")
-          ->type_name("CHAR"));
+  for (CLI::Option* option : addPositionOptions(command, shots).options) {
+    group.options.push_back(option);
+  }
   return group;
 }
 

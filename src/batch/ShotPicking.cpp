@@ -136,14 +136,15 @@ void warnOfHeap(const TomoDocument& document) {
   }
 }
 
-Status startAtShot(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+}  // namespace
+
+Status countFromShot(const ShotOptions& options, bool quiet, std::ostream& out, Survey& survey) {
   const std::vector<TraceSet>& traceSets = survey.document.recordings->traceSets;
   const auto early = [](const Trace& trace) { return trace.delay < 0.0; };
   const bool anyEarly = std::any_of(traceSets.begin(), traceSets.end(), [&](const TraceSet& set) {
     return std::any_of(set.begin(), set.end(), early);
   });
   if (!anyEarly) return {};
-  std::ostream& out = *manner.summary;
   if (options.asRecorded) {
     out << "Records start before the shot; times count from their first sample, as asked for.\n";
     return {};
@@ -160,13 +161,15 @@ Status startAtShot(const ShotOptions& options, const PickingManner& manner, Surv
         << " traces, and time counts from the shot.\n";
   }
   for (const Message& note : outcome.notes) warn(note);
-  if (outcome.leftAsRecorded > 0 && !manner.quiet) {
+  if (outcome.leftAsRecorded > 0 && !quiet) {
     warn(std::to_string(outcome.leftAsRecorded) +
          " traces end before the shot, or their delay is no number of samples; their times count "
          "from the first sample");
   }
   return {};
 }
+
+namespace {
 
 Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots, Survey& survey) {
   FilterOutcome outcome;
@@ -202,12 +205,17 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
 
 }  // namespace
 
-Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
   TomoDocument& document = survey.document;
   Status status = load(options, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
-  if (status.ok()) status = levelShots(options, manner, survey);
+  return status.ok() ? levelShots(options, manner, survey) : status;
+}
+
+Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+  TomoDocument& document = survey.document;
+  Status status = loadShotFiles(options, manner, survey);
   if (!status.ok()) return status;
 
   std::vector<std::int32_t> shots;
@@ -216,7 +224,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   }
   if (shots.empty()) return Status::failure("the shot files hold no traces");
   if (!manner.quiet) warnOfHeap(document);
-  status = startAtShot(options, manner, survey);
+  status = countFromShot(options, manner.quiet, *manner.summary, survey);
   if (status.ok()) status = filter(options, shots, survey);
   if (status.ok()) {
     status = editSurvey(Edit::kAutoPick, survey, [&](Survey& next) {

@@ -1,0 +1,110 @@
+#include "doctor/Doctor.h"
+
+#include "doctor/FindingParts.h"
+#include "doctor/GeometryCheck.h"
+#include "doctor/SurveyChecks.h"
+#include "doctor/SurveyView.h"
+#include "doctor/TraceChecks.h"
+#include "doctor/TriggerCheck.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace talvesk::doctor {
+namespace {
+
+using Found = std::vector<Finding>;
+
+void append(Found more, Found& findings) {
+  for (Finding& finding : more) findings.push_back(std::move(finding));
+}
+
+/// Shots whose place is in doubt: times are not compared with theirs before that is settled.
+std::set<std::size_t> misplaced(const Found& findings, const SurveyView& view) {
+  std::set<std::size_t> shots;
+  for (const Finding& finding : findings) {
+    if (!finding.shot) continue;
+    shots.insert(*finding.shot);
+    if (!finding.proposal || finding.proposal->kind != Proposal::Kind::kMoveGeophones) continue;
+    const auto about = std::find_if(view.shots.begin(), view.shots.end(),
+                                    [&](const ShotView& s) { return s.shot == *finding.shot; });
+    for (const ShotView& shot : view.shots) {
+      if (about != view.shots.end() && shot.string == about->string) shots.insert(shot.shot);
+    }
+  }
+  return shots;
+}
+
+/// Shots whose traces will be others, or in another order, when the proposals are carried out.
+std::set<std::size_t> leftForLater(const Found& findings) {
+  std::set<std::size_t> shots;
+  for (const Finding& finding : findings) {
+    if (!finding.shot || !finding.proposal) continue;
+    const Proposal& proposal = *finding.proposal;
+    if (proposal.kind == Proposal::Kind::kReverseOrder ||
+        proposal.kind == Proposal::Kind::kDisableShot) {
+      shots.insert(*finding.shot);
+    }
+    if (proposal.kind == Proposal::Kind::kStack) {
+      shots.insert(proposal.others.begin(), proposal.others.end());
+    }
+  }
+  return shots;
+}
+
+/// Those of a check that may be carried out together with what was found before.
+Found without(const std::set<std::size_t>& shots, Found findings) {
+  findings.erase(std::remove_if(findings.begin(), findings.end(),
+                                [&](const Finding& finding) {
+                                  return finding.shot && shots.count(*finding.shot) > 0;
+                                }),
+                 findings.end());
+  return findings;
+}
+
+std::vector<const ShotView*> others(const SurveyView& view, const std::set<std::size_t>& shots) {
+  std::vector<const ShotView*> left;
+  for (const ShotView& shot : view.shots) {
+    if (shot.placed && shots.count(shot.shot) == 0) left.push_back(&shot);
+  }
+  return left;
+}
+
+Found checkTraces(const ShotView& shot) {
+  Found findings = checkDeadTraces(shot);
+  append(checkClippedTraces(shot), findings);
+  append(checkNoisyTraces(shot), findings);
+  append(checkDoubledTraces(shot), findings);
+  // A copy of another trace comes at the time of that one.
+  Found mistimed = checkMistimedTraces(shot);
+  for (const Finding& other : findings) {
+    mistimed.erase(
+        std::remove_if(mistimed.begin(), mistimed.end(),
+                       [&](const Finding& finding) { return finding.traces == other.traces; }),
+        mistimed.end());
+  }
+  append(std::move(mistimed), findings);
+  return findings;
+}
+
+}  // namespace
+
+std::vector<Finding> checkRecordings(const TomoDocument& document,
+                                     const std::function<bool()>& goOn) {
+  const SurveyView view = viewOf(document, goOn);
+  Found findings = checkGeometry(view);
+  append(checkGeophoneLine(others(view, misplaced(findings, view))), findings);
+  std::set<std::size_t> apart = misplaced(findings, view);
+  append(checkRepeats(view), findings);
+  const std::set<std::size_t> later = leftForLater(findings);
+  apart.insert(later.begin(), later.end());
+  append(checkTriggers(others(view, apart)), findings);
+  append(without(later, findInEachShot(view, checkTraces)), findings);
+  append(without(later, checkPolarity(view)), findings);
+  append(checkIntervals(view), findings);
+  append(checkSpreads(view), findings);
+  return findings;
+}
+
+}  // namespace talvesk::doctor
