@@ -224,6 +224,20 @@ TEST_F(ProjectTest, ofPicksAloneNeedsNoTraces) {
   EXPECT_EQ(back.document.model->grid, nullptr);
 }
 
+/// Shot files with a wrong scalar put shots there, and their picks are work all the same.
+TEST_F(ProjectTest, ofPositionsBeyondTheGlobeIsOpenedAgain) {
+  const Point2D far{5e9, -5e9};
+  project.document.ttArray.edit()[0].shotPos2d = far;
+  project.document.line.edit().goephonesStringSet[0][5] = far;
+  ASSERT_EQ(save(), 0) << console.error();
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
+  EXPECT_EQ(back.document.ttArray[0].shotPos2d, far);
+  EXPECT_EQ(back.document.line->goephonesStringSet[0][5], far);
+  EXPECT_EQ(back.document.ttArray[0].ttMisurati, project.document.ttArray[0].ttMisurati);
+}
+
 TEST_F(ProjectTest, tellsWhatItWritesAndExtracts) {
   ASSERT_EQ(save(), 0);
   EXPECT_THAT(console.out(), HasSubstr("ProjectWriter::saveTomoDocument_XML\n"
