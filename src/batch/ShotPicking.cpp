@@ -14,6 +14,7 @@
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
 #include "processing/ShotTime.h"
+#include "session/PickEdits.h"
 #include "session/TableRules.h"
 
 #include <algorithm>
@@ -209,7 +210,10 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   if (status.ok()) status = filter(options, shots, survey);
   if (status.ok()) {
     status = editSurvey(Edit::kAutoPick, survey, [&](Survey& next) {
-      return pickShots(next.document, shots, options.filter != PickFilter::kNone, manner.threads);
+      Status picked =
+          pickShots(next.document, shots, options.filter != PickFilter::kNone, manner.threads);
+      for (const std::int32_t shot : shots) markPicksAutomatic(next.document, shot);
+      return picked;
     });
   }
   if (status.ok()) summarize(options, document, *manner.summary);

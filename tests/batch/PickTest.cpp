@@ -1,4 +1,5 @@
 #include "batch/SmallShots.h"
+#include "io/project/projectReader.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,6 +13,7 @@ namespace {
 
 using nlohmann::ordered_json;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
@@ -228,6 +230,24 @@ TEST_F(Picking, savesAProjectThatPicksNeedNoFileBeside) {
     EXPECT_EQ(info["shots"][shot]["times"], picked["shots"][shot]["times"]);
     EXPECT_EQ(info["shots"][shot]["traces"], 13);
   }
+}
+
+TEST_F(Picking, leavesEveryPickOfAProjectUnconfirmed) {
+  const Environment home = {{"HOME", mFolder / ""}};
+  const std::string project = mFolder / "line.tvsk";
+  ASSERT_EQ(runBatch(arguments("pick", mFiles, {"--project", project}), home).code, 0);
+  LoadedProject back;
+  projectReader reader;
+  ASSERT_EQ(reader.load(project, mFolder / "", back), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
+  std::size_t picks = 0;
+  for (const TravelTime& record : back.document.ttArray) {
+    for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
+      EXPECT_EQ(record.waits(i), hasPick(record.ttMisurati[i])) << i;
+      picks += hasPick(record.ttMisurati[i]) ? 1 : 0;
+    }
+  }
+  EXPECT_GT(picks, 30U);
 }
 
 TEST_F(Picking, receiversAtTooFewPlacesAreWarnedOf) {
