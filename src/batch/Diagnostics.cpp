@@ -5,6 +5,7 @@
 #include "io/TravelTimeFile.h"
 
 #include <iostream>
+#include <sstream>
 
 #include <unistd.h>
 
@@ -31,6 +32,16 @@ Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool v
 Status readPicks(const std::string& path, TravelTimeData& data) {
   Status status = readTravelTimes(path, data);
   for (const std::string& warning : data.warnings) warn(path + ": " + warning);
+  return status;
+}
+
+Status writePicks(const std::string& path, const TomoDocument& document) {
+  std::ostringstream remarks;
+  std::ostream& before = console::error();
+  console::setError(remarks);
+  const Status status = writeTravelTimes(path, document);
+  console::setError(before);
+  if (status.ok() && !remarks.str().empty()) warn(remarks.str());
   return status;
 }
 

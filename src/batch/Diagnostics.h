@@ -10,6 +10,8 @@
 
 namespace talvesk {
 
+class TomoDocument;
+
 /// Where a command's texts go.
 struct Channels {
   std::ostream* summary = nullptr;  ///< what the user came to know; swallowed by --quiet
@@ -26,5 +28,9 @@ Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool v
 
 /// Reads picks, and warns on standard error of what the reader repaired or left out.
 Status readPicks(const std::string& path, TravelTimeData& data);
+
+/// Writes picks, and warns on standard error where the format cannot hold the survey, which its
+/// writer tells the console only.
+Status writePicks(const std::string& path, const TomoDocument& document);
 
 }  // namespace talvesk

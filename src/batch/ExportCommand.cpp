@@ -11,7 +11,6 @@
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
-#include "io/TravelTimeFile.h"
 #include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
 #include "model/LeftOut.h"
@@ -62,7 +61,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
     announceGriddedText(path);
     return writeGriddedText(path, document, options.griddedText);
   });
-  attempt(options.otte, [&](const auto& path) { return writeTravelTimes(path, document); });
+  attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
   attempt(options.vtk, [&](const auto& path) { return writeVtkGrid(path, document); });
   attempt(options.surfer, [&](const auto& path) { return writeSurferGrid(path, document); });
   attempt(options.kmlLine, [&](const auto& path) {

@@ -90,7 +90,7 @@ Status placeShots(const ShotOptions& options, TomoDocument& document) {
 
 /// Shots at 0 under geophones with elevations would pull the ground down to them. Those that a file
 /// of positions puts there stay.
-Status levelShots(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+Status levelShots(const ShotOptions& options, Survey& survey) {
   SurveyGeometry geometry = geometryOf(survey.document);
   const std::size_t off = shotsNotLevelled(geometry).size();
   if (off == 0) return {};
@@ -104,8 +104,8 @@ Status levelShots(const ShotOptions& options, const PickingManner& manner, Surve
     return Status();
   });
   if (!moved.ok()) return moved;
-  *manner.summary << "All shots are at elevation 0, the geophones are not: " << off
-                  << " shots were put on the line of the geophones.\n";
+  warn("all shots are at elevation 0, the geophones are not: " + std::to_string(off) +
+       " shots were put on the line of the geophones");
   return {};
 }
 
@@ -150,7 +150,7 @@ Status startAtShot(const ShotOptions& options, const PickingManner& manner, Surv
         << " samples were left out of " << outcome.shortened
         << " traces, and time counts from the shot.\n";
   }
-  if (outcome.leftAsRecorded > 0 && !manner.quiet) {
+  if (outcome.leftAsRecorded > 0) {
     warn(std::to_string(outcome.leftAsRecorded) +
          " traces end before the shot, or their delay is no number of samples; their times count "
          "from the first sample");
@@ -197,7 +197,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   Status status = load(options.files, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
-  if (status.ok()) status = levelShots(options, manner, survey);
+  if (status.ok()) status = levelShots(options, survey);
   if (!status.ok()) return status;
 
   std::vector<std::int32_t> shots;

@@ -146,7 +146,7 @@ TEST_F(Picking, shotsWithoutElevationsComeOntoTheLineOfTheGeophones) {
   const std::string places = geophones(13, 3.0, ";");
   const Outcome outcome = pick({"-o", mFolder / "a.otte", "--geophones", places});
   ASSERT_EQ(outcome.code, 0) << outcome.err;
-  EXPECT_THAT(outcome.out, HasSubstr("1 shots were put on the line of the geophones"));
+  EXPECT_THAT(outcome.err, HasSubstr("1 shots were put on the line of the geophones"));
   const ordered_json json = pickJson({"--geophones", places});
   EXPECT_EQ(json["shots"][0]["position"][1], 5.0);
 }
@@ -165,7 +165,7 @@ TEST_F(Picking, warnsOfNumbersThatAreCutAtDecimalCommas) {
   const std::string shots = mFolder.write("c.csv", "shot_1;1;4,5\nshot_2;19;4\nshot_3;35;0\n");
   const Outcome outcome = pick({"-o", mFolder / "a.otte", "--shots", shots});
   EXPECT_THAT(outcome.err, HasSubstr("c.csv: numbers were cut at their decimal commas"));
-  EXPECT_THAT(outcome.out, Not(HasSubstr("put on the line"))) << "some have elevations";
+  EXPECT_THAT(outcome.err, Not(HasSubstr("put on the line"))) << "some have elevations";
 }
 
 TEST_F(Picking, whatDoesNotFitFailsInOneLineAndLeavesTheOldFile) {
