@@ -176,7 +176,8 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
     });
   }
   attempt(options.report, [&](const auto& path) {
-    return writeReportFile({document}, options.reportFields, sectionFigure(options), path);
+    return writeReportFile({document, &*project.interpretation}, options.reportFields,
+                           sectionFigure(options), path);
   });
   return attempt.exitCode();
 }
