@@ -6,6 +6,7 @@
 #include "io/TravelTimeFile.h"
 
 #include <iostream>
+#include <sstream>
 
 #include <unistd.h>
 
@@ -38,6 +39,16 @@ void warnOfLosses(const std::string& path, const std::vector<Message>& losses) {
 Status readPicks(const std::string& path, TravelTimeData& data) {
   Status status = readTravelTimes(path, data);
   for (const std::string& warning : data.warnings) warn(path + ": " + warning);
+  return status;
+}
+
+Status writePicks(const std::string& path, const TomoDocument& document) {
+  std::ostringstream remarks;
+  std::ostream& before = console::error();
+  console::setError(remarks);
+  const Status status = writeTravelTimes(path, document);
+  console::setError(before);
+  if (status.ok() && !remarks.str().empty()) warn(remarks.str());
   return status;
 }
 

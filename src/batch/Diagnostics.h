@@ -10,6 +10,7 @@
 
 namespace talvesk {
 
+class TomoDocument;
 struct TravelTimeData;
 
 /// Where a command's texts go.
@@ -32,5 +33,9 @@ void warnOfLosses(const std::string& path, const std::vector<Message>& losses);
 
 /// Reads picks, and warns on standard error of what the reader repaired or left out.
 Status readPicks(const std::string& path, TravelTimeData& data);
+
+/// Writes picks, and warns on standard error where the format cannot hold the survey, which its
+/// writer tells the console only.
+Status writePicks(const std::string& path, const TomoDocument& document);
 
 }  // namespace talvesk

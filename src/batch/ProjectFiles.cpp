@@ -35,11 +35,11 @@ Status workingFolder(std::string& path) {
 }
 
 /// An archive is put together in a file, whose bytes then go on.
-Status streamProject(const std::string& path, bool quiet, const LoadedProject& project) {
+Status streamProject(const std::string& path, const LoadedProject& project) {
   const QTemporaryDir folder;
   const std::string file = folder.filePath(QStringLiteral("project.tvsk")).toStdString();
   std::string bytes;
-  Status status = writeProject(file, quiet, project);
+  Status status = writeProject(file, project);
   if (status.ok()) status = readWholeFile(file, bytes);
   return status.ok() ? writeStream(path, bytes) : status;
 }
@@ -102,8 +102,8 @@ Status readProject(const std::string& path, LoadedProject& project) {
   return {};
 }
 
-Status writeProject(const std::string& path, bool quiet, const LoadedProject& project) {
-  if (isStreamPlace(path)) return streamProject(path, quiet, project);
+Status writeProject(const std::string& path, const LoadedProject& project) {
+  if (isStreamPlace(path)) return streamProject(path, project);
   std::string folder;
   if (Status status = workingFolder(folder); !status.ok()) return status;
   const ProjectLock::Outcome lock = ProjectLock::take(path);
@@ -113,7 +113,6 @@ Status writeProject(const std::string& path, bool quiet, const LoadedProject& pr
                   project.section, project.own) != 0) {
     return Status::failure("The project " + path + " has not been saved: " + writer.message());
   }
-  if (quiet) return {};
   for (const std::string& warning : writer.warnings()) warn(warning);
   return {};
 }

@@ -17,6 +17,7 @@
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
 #include "processing/ShotTime.h"
+#include "session/PickEdits.h"
 #include "session/TableRules.h"
 
 #include <algorithm>
@@ -99,7 +100,7 @@ Status placeShots(const ShotOptions& options, TomoDocument& document) {
 
 /// Shots at 0 under geophones with elevations would pull the ground down to them. Those that a file
 /// of positions puts there stay.
-Status levelShots(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+Status levelShots(const ShotOptions& options, Survey& survey) {
   SurveyGeometry geometry = geometryOf(survey.document);
   const std::size_t off = shotsNotLevelled(geometry).size();
   if (off == 0) return {};
@@ -113,8 +114,8 @@ Status levelShots(const ShotOptions& options, const PickingManner& manner, Surve
     return Status();
   });
   if (!moved.ok()) return moved;
-  *manner.summary << "All shots are at elevation 0, the geophones are not: " << off
-                  << " shots were put on the line of the geophones.\n";
+  warn("all shots are at elevation 0, the geophones are not: " + std::to_string(off) +
+       " shots were put on the line of the geophones");
   return {};
 }
 
@@ -161,7 +162,7 @@ Status countFromShot(const ShotOptions& options, bool quiet, std::ostream& out, 
         << " traces, and time counts from the shot.\n";
   }
   for (const Message& note : outcome.notes) warn(note);
-  if (outcome.leftAsRecorded > 0 && !quiet) {
+  if (outcome.leftAsRecorded > 0) {
     warn(std::to_string(outcome.leftAsRecorded) +
          " traces end before the shot, or their delay is no number of samples; their times count "
          "from the first sample");
@@ -210,7 +211,7 @@ Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   Status status = load(options, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
-  return status.ok() ? levelShots(options, manner, survey) : status;
+  return status.ok() ? levelShots(options, survey) : status;
 }
 
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
@@ -228,7 +229,10 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   if (status.ok()) status = filter(options, shots, survey);
   if (status.ok()) {
     status = editSurvey(Edit::kAutoPick, survey, [&](Survey& next) {
-      return pickShots(next.document, shots, options.filter != PickFilter::kNone, manner.threads);
+      Status picked =
+          pickShots(next.document, shots, options.filter != PickFilter::kNone, manner.threads);
+      for (const std::int32_t shot : shots) markPicksAutomatic(next.document, shot);
+      return picked;
     });
   }
   if (status.ok()) summarize(options, document, *manner.summary);

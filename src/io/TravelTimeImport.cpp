@@ -137,6 +137,7 @@ void fillRecords(const Plan& plan, TomoDocument& document) {
     record.shotPos2d = read.shotPos2d;
     record.indexStesa = read.indexStesa;
     record.ttMisurati = std::move(read.ttMisurati);
+    record.unconfirmed = {};  // the marks were those of the picks that go
     dropPicksWithoutPart(document, record);
     if (plan.moved) record.ttCalcolati.edit().assign(record.ttMisurati.size(), kNoTime);
   }

@@ -38,20 +38,12 @@ SurveyProfile measure(TomoDocument& document, Log& log) {
   return profile;
 }
 
-bool plausible(const SurveyProfile& profile) {
-  const auto inRange = [](double v) { return std::fabs(v) <= kLargestCoordinate; };
-  for (std::size_t i = 0; i < profile.x.size(); ++i) {
-    if (!inRange(profile.x[i]) || !inRange(profile.elevation[i])) return false;
-  }
-  return true;
-}
-
 Status checkSurvey(const SurveyProfile& profile) {
   if (!profile.hasGeometry()) {
     return Status::failure(
         Message::tr("Geophones do not have geometry! \nPlease set the position of geophones\n"));
   }
-  if (!plausible(profile)) {
+  if (!profile.isOnGlobe()) {
     return Status::failure(Message::tr(
         "A position of the survey lies more than 100 000 km away; please check the geometry."));
   }

@@ -96,6 +96,16 @@ TEST(Import, fillsTheRecordsByTheirTraceSet) {
   expectNoModel(document);
 }
 
+TEST(Import, takesTheMarksOfAnAutopickerAwayWithItsPicks) {
+  TomoDocument document = inverted(2, 3);
+  document.ttArray.edit()[0].setWaiting(0, true);
+  document.ttArray.edit()[1].setWaiting(1, true);
+  ASSERT_TRUE(importTravelTimes(sample(), document).ok());
+  for (const TravelTime& record : document.ttArray) {
+    for (std::size_t trace = 0; trace < 3; ++trace) EXPECT_FALSE(record.waits(trace)) << trace;
+  }
+}
+
 TEST(Import, dropsPicksBeyondTheRecordsOfTheTracesTheyBelongTo) {
   TomoDocument document = inverted(2, 3);
   for (TraceSet& set : document.recordings.edit().traceSets) {

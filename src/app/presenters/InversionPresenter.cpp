@@ -88,8 +88,12 @@ TomographyResult InversionPresenter::runBeside(const TomographyParameters& param
   mDesk.tellUnlessDone(edit.commit([&](Survey& survey) {
     if (result.iterationsDone > 0) survey.document = inversion.copy();
     // The limits are those that were asked for last, however the run has ended.
-    survey.document.model.edit().minVelocity = parameters.minVelocity;
-    survey.document.model.edit().maxVelocity = parameters.maxVelocity;
+    const GroundModel& model = *survey.document.model;
+    if (model.minVelocity != parameters.minVelocity ||
+        model.maxVelocity != parameters.maxVelocity) {
+      survey.document.model.edit().minVelocity = parameters.minVelocity;
+      survey.document.model.edit().maxVelocity = parameters.maxVelocity;
+    }
     return Status();
   }));
   return result;

@@ -122,7 +122,7 @@ const std::vector<OwnMember>& ownMembers() {
        [](const TomoDocument& document, const Interpretation&) { return hasResult(document); },
        [](const TomoDocument& document, const Interpretation&) { return knowsResult(document); },
        writes([](const TomoDocument& document, const Interpretation&) {
-         return hasResult(document) ? std::make_optional(resultOf(document)) : std::nullopt;
+         return hasCoverage(document) ? std::make_optional(resultOf(document)) : std::nullopt;
        }),
        reads(resultOf, [](ResultMember result, TomoDocument& document,
                           Interpretation&) { return installResult(std::move(result), document); })},

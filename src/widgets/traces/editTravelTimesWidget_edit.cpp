@@ -5,12 +5,19 @@
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <string>
 
 namespace talvesk {
 namespace {
 
 /// A pick at 0 would be none: the earliest time that is one, seconds.
 constexpr double kEarliest = 1e-6;
+
+/// Each editor counts its own nudges.
+std::string idOf(const editTravelTimesWidget& editor) {
+  return std::to_string(reinterpret_cast<std::uintptr_t>(&editor));
+}
 
 }  // namespace
 
@@ -125,7 +132,8 @@ void editTravelTimesWidget::State::nudge(double seconds, bool keyHeld) {
   // The first step of a key begins an edit, those of the key held go on with it.
   if (!keyHeld) ++nudges;
   edit(Message::tr("Nudge pick"), {{current, time}},
-       "nudge " + std::to_string(nudges) + ' ' + std::to_string(current));
+       "nudge " + std::to_string(nudges) + ' ' + std::to_string(shot) + ' ' +
+           std::to_string(current) + ' ' + idOf(widget));
   reveal(current);
 }
 
