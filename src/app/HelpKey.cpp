@@ -20,6 +20,7 @@ struct Page {
 constexpr Page kPages[] = {
     {"DialogSetGeometry", "geometry.html"},
     {"SelectCSVDelimiterDialog", "geometry.html"},
+    {"MendDialog", "load.html"},
     {"RecordingDetailsDialog", "load.html"},
     {"doFilteringDialog", "filter.html"},
     {"gridDialog", "inversion.html"},
