@@ -20,6 +20,7 @@ struct Page {
 constexpr Page kPages[] = {
     {"DialogSetGeometry", "geometry.html"},
     {"SelectCSVDelimiterDialog", "geometry.html"},
+    {"MendDialog", "load.html"},
     {"RecordingDetailsDialog", "load.html"},
     {"ReadingsDialog", "load.html"},
     {"ShotFileDialog", "load.html"},
