@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include <Eigen/Dense>
 
@@ -22,17 +23,12 @@ constexpr double kAlways = 1e30;        // errors: counts whatever it says
 constexpr int kRounds = 30;             // of reweighting
 constexpr std::size_t kFewest = 3;      // arrivals that a time is read from
 constexpr std::size_t kMost = 4;        // more would reach around bends of the curve
-constexpr double kSharp = 10.0;         // signal to noise of arrivals to compare clocks by
 
 struct Arrival {
   double x = 0.0;
   double time = 0.0;
   double error = 0.0;
 };
-
-bool isSharp(const Onset& onset) {
-  return onset.found && onset.signalToNoise >= kSharp;
-}
 
 /// The time at x and the error of it, by a line through the arrivals around it that lie on its side
 /// of the shot; none where there are too few.

@@ -2,6 +2,7 @@
 
 #include "doctor/ClockShifts.h"
 #include "doctor/CommonSpike.h"
+#include "doctor/EqualDistances.h"
 #include "doctor/FindingParts.h"
 #include "numerics/Medians.h"
 
@@ -30,6 +31,14 @@ bool allAreOff(const std::vector<ClockBounds>& bounds) {
     if (shot.least > 0.0 || shot.most < 0.0) ++off;
   }
   return 2 * off > known;
+}
+
+double periodOf(const ShotView& shot) {
+  std::vector<double> periods;
+  for (const Onset& onset : shot.onsets) {
+    if (isClear(onset)) periods.push_back(onset.period);
+  }
+  return medianOf(std::move(periods), 0.0);
 }
 
 double nearestOffset(const ShotView& shot) {
@@ -97,19 +106,48 @@ Message lateOrEarly(double shift) {
   return shift > 0.0 ? Message::tr("late") : Message::tr("early");
 }
 
-/// By the other shots, if enough of them agree; none when the clock is right as far as they know.
+/// How surely a shift is more than errors explain, 0.5 to 1; none when it is not. Nobody sees the
+/// beginning of a swing better than to an eighth of its period.
+std::optional<double> sureness(double shift, double error, const ShotView& shot) {
+  const double sure =
+      std::max(kSure * error + 2.0 * shot.traces->front().sampleInterval, periodOf(shot) / 8.0);
+  if (std::fabs(shift) <= sure) return std::nullopt;
+  return 1.0 - 0.5 * sure / std::fabs(shift);
+}
+
+/// By times there and back.
 std::optional<Finding> byOthers(std::size_t i, const Clocks& clocks, const ShotView& shot) {
   const ClockShift& own = clocks.shifts[i];
   const double shift = own.seconds - clocks.usual;
-  const double sure = kSure * own.error + 2.0 * shot.traces->front().sampleInterval;
-  if (std::fabs(shift) <= sure) return std::nullopt;
-  return ofShift(shot, shift, 1.0 - 0.5 * sure / std::fabs(shift),
+  const std::optional<double> confidence = sureness(shift, own.error, shot);
+  if (!confidence) return std::nullopt;
+  return ofShift(shot, shift, *confidence,
                  Message::tr("the record is %1 ms %2: %3 times to the places of other shots differ "
                              "by that from the times back, give or take %4 ms")
                      .arg(milliseconds(std::fabs(shift)))
                      .arg(lateOrEarly(shift))
                      .arg(own.pairs)
                      .arg(milliseconds(own.error)));
+}
+
+/// By times at equal distances.
+std::optional<Finding> byDistances(std::size_t i, const Clocks& clocks,
+                                   const std::vector<const ShotView*>& shots) {
+  std::vector<double> late;
+  for (const ClockShift& other : clocks.shifts) {
+    late.push_back(other.pairs >= 2 ? other.seconds - clocks.usual : 0.0);
+  }
+  const std::optional<ClockShift> own = shiftAtEqualDistances(i, shots, late);
+  if (!own) return std::nullopt;
+  const std::optional<double> confidence = sureness(own->seconds, own->error, *shots[i]);
+  if (!confidence) return std::nullopt;
+  return ofShift(*shots[i], own->seconds, std::min(0.8, *confidence),
+                 Message::tr("the record is about %1 ms %2: its times differ by that from those of "
+                             "%3 other shots at equal distances, give or take %4 ms")
+                     .arg(milliseconds(std::fabs(own->seconds)))
+                     .arg(lateOrEarly(own->seconds))
+                     .arg(own->pairs)
+                     .arg(milliseconds(own->error)));
 }
 
 /// By a spike on all channels, where the arrivals leave room for the blow.
@@ -158,6 +196,7 @@ void checkBlock(const std::vector<const ShotView*>& shots, std::vector<Finding>&
       finding = byOthers(i, clocks, *shots[i]);
     } else {
       finding = byPulse(clocks.bounds[i], *shots[i]);
+      if (!finding) finding = byDistances(i, clocks, shots);
       if (!finding) finding = byNearest(i, clocks, *shots[i]);
     }
     if (!finding) continue;
