@@ -74,9 +74,12 @@ std::optional<Arrival> timeAt(const ShotView& shot, double x, double spacing) {
     sum += time;
     count += 1.0;
   }
-  if (nearest > 1.6 * spacing || count == 0.0) return std::nullopt;
+  if (nearest > 1.05 * spacing || count == 0.0) return std::nullopt;
   // A line is drawn where the curve may bend, and more so beyond the last geophone.
-  const double bend = (0.1 * spacing + 0.3 * std::max(0.0, nearest - spacing)) * std::fabs(slope);
+  const bool beyond = std::all_of(near.begin(), near.end(), [&](const Arrival& arrival) {
+    return (arrival.x - x) * (near.front().x - x) > 0.0;
+  });
+  const double bend = (0.1 * spacing + (beyond ? 0.2 * nearest : 0.0)) * std::fabs(slope);
   return Arrival{x, sum / count,
                  std::hypot(scatter / std::sqrt(count), medianOf(errors, 0.0), bend)};
 }

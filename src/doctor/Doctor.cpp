@@ -74,6 +74,20 @@ std::vector<const ShotView*> others(const SurveyView& view, const std::set<std::
   return left;
 }
 
+/// Those of a check that are about other traces: a copy of another trace comes when that one does,
+/// and swings as it does.
+Found ofOtherTraces(Found findings, const Found& before) {
+  findings.erase(
+      std::remove_if(findings.begin(), findings.end(),
+                     [&](const Finding& finding) {
+                       return std::any_of(before.begin(), before.end(), [&](const Finding& other) {
+                         return finding.shot == other.shot && finding.traces == other.traces;
+                       });
+                     }),
+      findings.end());
+  return findings;
+}
+
 /// \param placed whether times of neighbours can be compared
 Found checkTraces(const ShotView& shot, bool placed) {
   Found findings = checkDeadTraces(shot);
@@ -81,15 +95,7 @@ Found checkTraces(const ShotView& shot, bool placed) {
   append(checkNoisyTraces(shot), findings);
   append(checkDoubledTraces(shot), findings);
   if (!placed) return findings;
-  // A copy of another trace comes at the time of that one.
-  Found mistimed = checkMistimedTraces(shot);
-  for (const Finding& other : findings) {
-    mistimed.erase(
-        std::remove_if(mistimed.begin(), mistimed.end(),
-                       [&](const Finding& finding) { return finding.traces == other.traces; }),
-        mistimed.end());
-  }
-  append(std::move(mistimed), findings);
+  append(ofOtherTraces(checkMistimedTraces(shot), findings), findings);
   return findings;
 }
 
@@ -117,7 +123,7 @@ std::vector<Finding> checkRecordings(const TomoDocument& document,
     return checkTraces(shot, apart.count(shot.shot) == 0);
   };
   append(without(later, findInEachShot(view, ofTraces)), findings);
-  append(without(later, checkPolarity(view)), findings);
+  append(ofOtherTraces(checkPolarity(others(view, untimed)), findings), findings);
   append(checkIntervals(view), findings);
   append(checkSpreads(view), findings);
   return findings;

@@ -106,11 +106,11 @@ Message lateOrEarly(double shift) {
   return shift > 0.0 ? Message::tr("late") : Message::tr("early");
 }
 
-/// How surely a shift is more than errors explain, 0.5 to 1; none when it is not. Nobody sees the
-/// beginning of a swing better than to an eighth of its period.
+/// How surely a shift is more than errors explain, 0.5 to 1; none when it is not. Noise may
+/// hide a swing up to its top, a quarter of its period.
 std::optional<double> sureness(double shift, double error, const ShotView& shot) {
   const double sure =
-      std::max(kSure * error + 2.0 * shot.traces->front().sampleInterval, periodOf(shot) / 8.0);
+      std::max(kSure * error + 2.0 * shot.traces->front().sampleInterval, periodOf(shot) / 4.0);
   if (std::fabs(shift) <= sure) return std::nullopt;
   return 1.0 - 0.5 * sure / std::fabs(shift);
 }
