@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include <Eigen/Dense>
 
@@ -22,17 +23,12 @@ constexpr double kAlways = 1e30;        // errors: counts whatever it says
 constexpr int kRounds = 30;             // of reweighting
 constexpr std::size_t kFewest = 3;      // arrivals that a time is read from
 constexpr std::size_t kMost = 4;        // more would reach around bends of the curve
-constexpr double kSharp = 10.0;         // signal to noise of arrivals to compare clocks by
 
 struct Arrival {
   double x = 0.0;
   double time = 0.0;
   double error = 0.0;
 };
-
-bool isSharp(const Onset& onset) {
-  return onset.found && onset.signalToNoise >= kSharp;
-}
 
 /// The time at x and the error of it, by a line through the arrivals around it that lie on its side
 /// of the shot; none where there are too few.
@@ -78,9 +74,12 @@ std::optional<Arrival> timeAt(const ShotView& shot, double x, double spacing) {
     sum += time;
     count += 1.0;
   }
-  if (nearest > 1.6 * spacing || count == 0.0) return std::nullopt;
+  if (nearest > 1.05 * spacing || count == 0.0) return std::nullopt;
   // A line is drawn where the curve may bend, and more so beyond the last geophone.
-  const double bend = (0.1 * spacing + 0.3 * std::max(0.0, nearest - spacing)) * std::fabs(slope);
+  const bool beyond = std::all_of(near.begin(), near.end(), [&](const Arrival& arrival) {
+    return (arrival.x - x) * (near.front().x - x) > 0.0;
+  });
+  const double bend = (0.1 * spacing + (beyond ? 0.2 * nearest : 0.0)) * std::fabs(slope);
   return Arrival{x, sum / count,
                  std::hypot(scatter / std::sqrt(count), medianOf(errors, 0.0), bend)};
 }

@@ -7,6 +7,11 @@
 
 namespace talvesk::doctor {
 
+/// Whether an arrival is sharp enough to compare clocks by.
+inline bool isSharp(const Onset& onset) {
+  return onset.found && onset.signalToNoise >= 10.0;
+}
+
 /// What two records say of the difference of their clocks.
 struct ClockPair {
   std::size_t a = 0;

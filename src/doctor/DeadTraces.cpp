@@ -23,6 +23,19 @@ double strengthOf(const Trace& trace) {
   return trace.samples.empty() ? 0.0 : std::sqrt(sums.variance(0, sums.size()));
 }
 
+/// Whether a trace is as strong from beginning to end. One that begins after the arrival is not.
+bool isNoise(const Trace& trace) {
+  constexpr std::size_t kParts = 4;
+  constexpr double kSteady = 4.0;  // greatest variance of a part over the least
+  const TraceSums sums(*trace.samples);
+  std::vector<double> parts;
+  for (std::size_t i = 0; i < kParts; ++i) {
+    parts.push_back(sums.variance(i * sums.size() / kParts, (i + 1) * sums.size() / kParts));
+  }
+  const auto [least, most] = std::minmax_element(parts.begin(), parts.end());
+  return *most < kSteady * *least;
+}
+
 /// The median of values of the neighbours for which `counts`; 0 without any.
 template <typename Value, typename Counts>
 double ofNeighbours(std::size_t trace, std::size_t count, Value value, Counts counts) {
@@ -133,8 +146,9 @@ std::vector<Finding> checkNoisyTraces(const ShotView& shot) {
         t, count, [&](std::size_t i) { return shot.onsets[i].noise; }, clear);
     const double swing = ofNeighbours(
         t, count, [&](std::size_t i) { return shot.onsets[i].swing; }, clear);
-    const double noise =
-        shot.onsets[t].found ? shot.onsets[t].noise : strengthOf((*shot.traces)[t]);
+    const Onset& onset = shot.onsets[t];
+    if (!onset.found && !isNoise((*shot.traces)[t])) continue;
+    const double noise = onset.found ? onset.noise : strengthOf((*shot.traces)[t]);
     if (!(around > 0.0) || noise < kLoud * around || 3.0 * noise < swing) continue;
     noisy.push_back(t);
     loudest = std::max(loudest, noise / around);

@@ -20,18 +20,23 @@ void append(Found more, Found& findings) {
   for (Finding& finding : more) findings.push_back(std::move(finding));
 }
 
-/// Shots whose place is in doubt: times are not compared with theirs before that is settled.
+/// Shots whose place, or that of their geophones, is in doubt: times are not compared with theirs
+/// before that is settled.
 std::set<std::size_t> misplaced(const Found& findings, const SurveyView& view) {
   std::set<std::size_t> shots;
+  std::set<std::size_t> strings;
   for (const Finding& finding : findings) {
-    if (!finding.shot) continue;
-    shots.insert(*finding.shot);
-    if (!finding.proposal || finding.proposal->kind != Proposal::Kind::kMoveGeophones) continue;
-    const auto about = std::find_if(view.shots.begin(), view.shots.end(),
-                                    [&](const ShotView& s) { return s.shot == *finding.shot; });
+    const bool single =
+        finding.kind == Finding::Kind::kShotPosition ||
+        (finding.proposal && finding.proposal->kind == Proposal::Kind::kReverseOrder);
     for (const ShotView& shot : view.shots) {
-      if (about != view.shots.end() && shot.string == about->string) shots.insert(shot.shot);
+      if (shot.shot != finding.shot) continue;
+      shots.insert(shot.shot);
+      if (!single) strings.insert(shot.string);
     }
+  }
+  for (const ShotView& shot : view.shots) {
+    if (strings.count(shot.string) > 0) shots.insert(shot.shot);
   }
   return shots;
 }
@@ -42,10 +47,8 @@ std::set<std::size_t> leftForLater(const Found& findings) {
   for (const Finding& finding : findings) {
     if (!finding.shot || !finding.proposal) continue;
     const Proposal& proposal = *finding.proposal;
-    if (proposal.kind == Proposal::Kind::kReverseOrder ||
-        proposal.kind == Proposal::Kind::kDisableShot) {
-      shots.insert(*finding.shot);
-    }
+    const bool turned = proposal.kind == Proposal::Kind::kReverseOrder;
+    if (turned || proposal.kind == Proposal::Kind::kDisableShot) shots.insert(*finding.shot);
     if (proposal.kind == Proposal::Kind::kStack) {
       shots.insert(proposal.others.begin(), proposal.others.end());
     }
@@ -71,20 +74,28 @@ std::vector<const ShotView*> others(const SurveyView& view, const std::set<std::
   return left;
 }
 
-Found checkTraces(const ShotView& shot) {
+/// Those of a check that are about other traces: a copy of another trace comes when that one does,
+/// and swings as it does.
+Found ofOtherTraces(Found findings, const Found& before) {
+  findings.erase(
+      std::remove_if(findings.begin(), findings.end(),
+                     [&](const Finding& finding) {
+                       return std::any_of(before.begin(), before.end(), [&](const Finding& other) {
+                         return finding.shot == other.shot && finding.traces == other.traces;
+                       });
+                     }),
+      findings.end());
+  return findings;
+}
+
+/// \param placed whether times of neighbours can be compared
+Found checkTraces(const ShotView& shot, bool placed) {
   Found findings = checkDeadTraces(shot);
   append(checkClippedTraces(shot), findings);
   append(checkNoisyTraces(shot), findings);
   append(checkDoubledTraces(shot), findings);
-  // A copy of another trace comes at the time of that one.
-  Found mistimed = checkMistimedTraces(shot);
-  for (const Finding& other : findings) {
-    mistimed.erase(
-        std::remove_if(mistimed.begin(), mistimed.end(),
-                       [&](const Finding& finding) { return finding.traces == other.traces; }),
-        mistimed.end());
-  }
-  append(std::move(mistimed), findings);
+  if (!placed) return findings;
+  append(ofOtherTraces(checkMistimedTraces(shot), findings), findings);
   return findings;
 }
 
@@ -92,16 +103,27 @@ Found checkTraces(const ShotView& shot) {
 
 std::vector<Finding> checkRecordings(const TomoDocument& document,
                                      const std::function<bool()>& goOn) {
-  const SurveyView view = viewOf(document, goOn);
+  SurveyView view = viewOf(document, goOn);
+  Found copies = checkCopies(view);
+  const std::set<std::size_t> doubled = leftForLater(copies);
+  view.shots.erase(
+      std::remove_if(view.shots.begin(), view.shots.end(),
+                     [&](const ShotView& shot) { return doubled.count(shot.shot) > 0; }),
+      view.shots.end());
   Found findings = checkGeometry(view);
   append(checkGeophoneLine(others(view, misplaced(findings, view))), findings);
-  std::set<std::size_t> apart = misplaced(findings, view);
-  append(checkRepeats(view), findings);
+  const std::set<std::size_t> apart = misplaced(findings, view);
+  append(std::move(copies), findings);
+  append(checkRepeats(view, others(view, apart)), findings);
   const std::set<std::size_t> later = leftForLater(findings);
-  apart.insert(later.begin(), later.end());
-  append(checkTriggers(others(view, apart)), findings);
-  append(without(later, findInEachShot(view, checkTraces)), findings);
-  append(without(later, checkPolarity(view)), findings);
+  std::set<std::size_t> untimed = apart;
+  untimed.insert(later.begin(), later.end());
+  append(checkTriggers(others(view, untimed)), findings);
+  const auto ofTraces = [&](const ShotView& shot) {
+    return checkTraces(shot, apart.count(shot.shot) == 0);
+  };
+  append(without(later, findInEachShot(view, ofTraces)), findings);
+  append(ofOtherTraces(checkPolarity(others(view, untimed)), findings), findings);
   append(checkIntervals(view), findings);
   append(checkSpreads(view), findings);
   return findings;

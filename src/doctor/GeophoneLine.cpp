@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t kFewestShots = 2;  // on each side of a geophone
 constexpr double kOffLine = 0.5;         // of the spacing: less is the ground, or the blow's place
-constexpr double kExchanged = 0.25;      // of the distance between two exchanged channels
+constexpr double kExchanged = 0.4;       // of the distance between two exchanged channels
 
 /// How far along the line a geophone is from its place, metres, as the shots of one side have it.
 struct Offset {

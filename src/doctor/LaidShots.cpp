@@ -48,14 +48,6 @@ bool areHeaped(const Shots& shots) {
   return shots.size() > 1 && most - least > 2.0 * kStationTolerance;
 }
 
-/// Geophones that are numbered, one after the other, and not measured.
-bool countStations(const std::vector<Point2D>& geophones) {
-  for (std::size_t i = 1; i < geophones.size(); ++i) {
-    if (std::fabs(geophones[i].x - geophones[i - 1].x) != 1.0) return false;
-  }
-  return true;
-}
-
 /// Checks the shots of geophones that have places of their own.
 class LaidCheck {
  public:
@@ -76,7 +68,7 @@ class LaidCheck {
     }
     // At the ends any scale will do.
     const Tally among = tallyOf(insiders(mLeft), false);
-    if (among.bad > among.good && rescale()) return;
+    if (among.bad > among.good && findStationNumbers(mLeft, mFindings)) return;
     const Tally tally = tallyOf(mLeft, false);
     for (const ShotView* shot : mLeft) judge(*shot, tally);
   }
@@ -85,14 +77,6 @@ class LaidCheck {
   Shots mShots;
   Shots mLeft;  ///< of strings whose order is right
   std::vector<Finding>& mFindings;
-
-  std::vector<double> coordinatesOf(const Shots& inside) const {
-    std::vector<double> coordinates;
-    for (const ShotView* shot : inside) {
-      coordinates.push_back(placeOf(shot->geophones, shot->station.station));
-    }
-    return coordinates;
-  }
 
   void turnString(const Shots& shots, const Tally& turned) {
     const ShotView& shot = *shots.front();
@@ -110,71 +94,12 @@ class LaidCheck {
     mFindings.push_back(std::move(finding));
   }
 
-  /// Positions in another unit than those of the shots: station numbers. \return whether they are
-  bool rescale() {
-    const Shots inside = insiders(mLeft);
-    const std::vector<double> coordinates = coordinatesOf(inside);
-    const double spacing = spacingOf(mLeft.front()->geophones);
-    const std::optional<Reading> reading =
-        claimedReading(mLeft, coordinates, kStationTolerance * spacing);
-    if (!reading) return false;
-    const StationLine& line = reading->line;
-    const bool shotsCount = !countStations(mLeft.front()->geophones) &&
-                            std::all_of(mLeft.begin(), mLeft.end(), [](const ShotView* shot) {
-                              return shot->source.x == std::round(shot->source.x);
-                            });
-    const double confidence = confidenceOf(line);
-    if (shotsCount) {
-      for (const ShotView* shot : mLeft) {
-        const double x = std::round((shot->source.x - line.at0) / line.slope * 1e3) / 1e3;
-        Finding finding = aboutShot(
-            Kind::kStationNumbers, *shot, confidence,
-            Message::tr("the shot's position %1 counts stations: over all shots the least times "
-                        "move by %2 m for each 1 in the position")
-                .arg(metres(shot->source.x))
-                .arg(metres(1.0 / line.slope)));
-        finding.proposal = moveShot({x, shot->source.z});
-        finding.expected = veeAround(*shot, shot->geophones, x);
-        mFindings.push_back(std::move(finding));
-      }
-      return true;
-    }
-    const double scale = roundest(line.slope * spacing, line.slopeError * spacing) / spacing;
-    std::vector<double> starts;
-    for (std::size_t i = 0; i < inside.size(); ++i) {
-      if (line.fits[i]) starts.push_back(inside[i]->source.x - scale * coordinates[i]);
-    }
-    // The first geophone of the first string stands at a round place.
-    const double origin = mLeft.front()->geophones.front().x;
-    const double first =
-        roundest(medianOf(starts, line.at0) + scale * origin, 0.3 * std::fabs(scale) * spacing);
-    for (auto& [string, shots] : byString(mLeft)) {
-      std::vector<Point2D> points = shots.front()->geophones;
-      for (Point2D& point : points) {
-        point.x = std::round((first + scale * (point.x - origin)) * 1e6) / 1e6;
-      }
-      Finding finding = aboutShot(
-          Kind::kStationNumbers, *shots.front(), confidence,
-          Message::tr("the positions of the geophones are no metres: over %1 shots the least times "
-                      "move by %2 for each metre of the shot; geophones %3 m apart from %4 m on "
-                      "have them beside the shots")
-              .arg(line.fitCount)
-              .arg(metres(1.0 / line.slope))
-              .arg(metres(scale * spacing))
-              .arg(metres(points.front().x)));
-      finding.expected = veeAround(*shots.front(), points, shots.front()->source.x);
-      finding.proposal = moveGeophones(std::move(points));
-      mFindings.push_back(std::move(finding));
-    }
-    return true;
-  }
-
   /// All shots at one place: the names of their files tell another, or the least time does.
   void placeHeapedShots() {
     const Shots inside = insiders(mShots);
     const double spacing = spacingOf(mShots.front()->geophones);
     const std::optional<Reading> reading =
-        bestReading(mShots, coordinatesOf(inside), kStationTolerance * spacing);
+        bestReading(mShots, placesByArrivals(inside), kStationTolerance * spacing);
     const bool named = reading && reading->byName && std::fabs(reading->line.slope - 1.0) < 0.1;
     for (std::size_t i = 0; i < mShots.size(); ++i) {
       const ShotView& shot = *mShots[i];

@@ -1,6 +1,5 @@
 #include "doctor/NeighbourTimes.h"
 
-#include "doctor/Placing.h"
 #include "numerics/Medians.h"
 
 #include <algorithm>
@@ -12,23 +11,25 @@ namespace talvesk::doctor {
 std::optional<NeighbourTime> timeByNeighbours(const ShotView& shot, std::size_t trace) {
   constexpr std::size_t kReach = 3;
   const std::vector<Onset>& onsets = shot.onsets;
-  if (shot.station.side == SourceStation::Side::kInside &&
-      std::fabs(shot.station.station - static_cast<double>(trace)) <= kReach) {
-    return std::nullopt;
-  }
   const bool laid = shot.placed && !isHeap(shot.geophones);
   const auto along = [&](std::size_t t) {
     return laid ? shot.geophones[t].x : static_cast<double>(t);
   };
   const double spacing = laid ? spacingOf(shot.geophones) : 1.0;
+  const bool inside = shot.station.side == SourceStation::Side::kInside;
+  const double source = laid ? shot.source.x : shot.station.station;
+  if ((laid || inside) && std::fabs(along(trace) - source) <= kReach * spacing) return std::nullopt;
+  const std::size_t here = shot.rank[trace];
   NeighbourTime result;
   std::vector<double> times;
   std::vector<double> paces;
-  for (std::size_t left = trace > kReach ? trace - kReach : 0; left < trace; ++left) {
-    for (std::size_t right = trace + 1; right < std::min(onsets.size(), trace + kReach + 1);
-         ++right) {
-      if (!isClear(onsets[left]) || !isClear(onsets[right]) || along(left) == along(right))
+  for (std::size_t i = here > kReach ? here - kReach : 0; i < here; ++i) {
+    for (std::size_t k = here + 1; k < std::min(onsets.size(), here + kReach + 1); ++k) {
+      const std::size_t left = shot.order[i];
+      const std::size_t right = shot.order[k];
+      if (!isClear(onsets[left]) || !isClear(onsets[right]) || along(left) == along(right)) {
         continue;
+      }
       const double pace = (onsets[right].time - onsets[left].time) / (along(right) - along(left));
       times.push_back(onsets[left].time + pace * (along(trace) - along(left)));
       paces.push_back(pace);

@@ -1,11 +1,13 @@
 #include "doctor/Onsets.h"
 
+#include "doctor/CommonSpike.h"
 #include "numerics/Medians.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>
+#include <optional>
 
 namespace talvesk::doctor {
 namespace {
@@ -153,11 +155,14 @@ ShotOnsets findOnsets(const TraceSet& traces) {
   ShotOnsets onsets(traces.size());
   const std::size_t from = padding(traces);
   const double period = periodOf(traces, from);
+  const std::optional<std::size_t> spike = commonSpike(traces);
   std::vector<ReadyTrace> ready(traces.size());
   std::vector<Choice> choices;
   for (std::size_t t = 0; t < traces.size(); ++t) {
     if (!isUsable(traces[t])) continue;
-    ready[t] = makeReady(*traces[t].samples, from, period / traces[t].sampleInterval);
+    const double samplesPerPeriod = period / traces[t].sampleInterval;
+    ready[t] = spike ? makeReady(withoutSpike(traces[t].samples, *spike), from, samplesPerPeriod)
+                     : makeReady(traces[t].samples, from, samplesPerPeriod);
     Choice choice{t, onsetCandidates(ready[t]), {}, {}};
     if (choice.candidates.empty()) continue;
     weigh(choice, traces[t]);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 
 namespace talvesk::doctor {
 
@@ -13,17 +12,6 @@ double placeOf(const std::vector<Point2D>& geophones, double station) {
   const std::size_t right = std::min(left + 1, geophones.size() - 1);
   const double share = inside - static_cast<double>(left);
   return geophones[left].x + share * (geophones[right].x - geophones[left].x);
-}
-
-bool isHeap(const std::vector<Point2D>& geophones) {
-  std::map<double, std::size_t> places;
-  for (const Point2D& geophone : geophones) ++places[geophone.x];
-  if (geophones.size() < 3 || places.size() == geophones.size()) return false;
-  const std::size_t each = places.begin()->second;
-  const bool components =
-      places.size() > 2 && each <= 3 &&
-      std::all_of(places.begin(), places.end(), [&](const auto& p) { return p.second == each; });
-  return !components && 2 * places.size() < geophones.size();
 }
 
 std::vector<Point2D> reversed(std::vector<Point2D> geophones) {

@@ -15,10 +15,6 @@ inline constexpr double kStationTolerance = 1.5;
 /// Where a station is when geophones stand like this. \param station from 0, with fractions
 double placeOf(const std::vector<Point2D>& geophones, double station);
 
-/// Geophones of which so many share a place that distances mean nothing. Several components at one
-/// place, the same number at every place, are none.
-bool isHeap(const std::vector<Point2D>& geophones);
-
 /// The same geophones from the last to the first.
 std::vector<Point2D> reversed(std::vector<Point2D> geophones);
 

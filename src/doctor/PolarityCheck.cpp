@@ -70,30 +70,31 @@ std::vector<Swing> swingsOf(const ShotView& shot) {
   }
   const double period = medianOf(periods, 0.01);
   const std::vector<double> begins = beginnings(shot, period);
+  // By rank along the line, the lesser first.
   std::map<std::pair<std::size_t, std::size_t>, double> likenesses;
+  const auto isClearAt = [&](std::size_t rank) { return isClear(shot.onsets[shot.order[rank]]); };
   for (std::size_t a = 0; a < count; ++a) {
     for (std::size_t b = a + 1; b < std::min(count, a + 2 * kReach + 1); ++b) {
-      if (isClear(shot.onsets[a]) && isClear(shot.onsets[b])) {
-        likenesses[{a, b}] = likeness(*shot.traces, begins, a, b, period);
-      }
+      if (!isClearAt(a) || !isClearAt(b)) continue;
+      likenesses[{a, b}] = likeness(*shot.traces, begins, shot.order[a], shot.order[b], period);
     }
   }
-  for (std::size_t t = 0; t < count; ++t) {
-    if (shot.killed[t] || !isClear(shot.onsets[t])) continue;
+  for (std::size_t r = 0; r < count; ++r) {
+    if (shot.killed[shot.order[r]] || !isClearAt(r)) continue;
     std::vector<std::size_t> near;
-    for (std::size_t n = t > kReach ? t - kReach : 0; n < std::min(count, t + kReach + 1); ++n) {
-      if (n != t && isClear(shot.onsets[n])) near.push_back(n);
+    for (std::size_t n = r > kReach ? r - kReach : 0; n < std::min(count, r + kReach + 1); ++n) {
+      if (n != r && isClearAt(n)) near.push_back(n);
     }
     if (near.size() < kReach) continue;
     std::vector<double> others;
     double own = 0.0;
     for (std::size_t i = 0; i < near.size(); ++i) {
-      own += likenesses[std::minmax(t, near[i])] / static_cast<double>(near.size());
+      own += likenesses[std::minmax(r, near[i])] / static_cast<double>(near.size());
       for (std::size_t k = i + 1; k < near.size(); ++k) {
         others.push_back(likenesses[{near[i], near[k]}]);
       }
     }
-    swings[t] = {true, own, medianOf(std::move(others), 0.0)};
+    swings[shot.order[r]] = {true, own, medianOf(std::move(others), 0.0)};
   }
   return swings;
 }
@@ -113,16 +114,16 @@ bool isWiredBackwards(const std::vector<const std::vector<Swing>*>& shots, std::
 
 }  // namespace
 
-std::vector<Finding> checkPolarity(const SurveyView& view) {
-  std::vector<std::vector<Swing>> swings(view.shots.size());
-  runForEach(swings.size(), [&](std::size_t i) { swings[i] = swingsOf(view.shots[i]); });
+std::vector<Finding> checkPolarity(const std::vector<const ShotView*>& shots) {
+  std::vector<std::vector<Swing>> swings(shots.size());
+  runForEach(swings.size(), [&](std::size_t i) { swings[i] = swingsOf(*shots[i]); });
   std::map<std::size_t, std::vector<const std::vector<Swing>*>> byString;
-  for (std::size_t i = 0; i < view.shots.size(); ++i) {
-    byString[view.shots[i].string].push_back(&swings[i]);
+  for (std::size_t i = 0; i < shots.size(); ++i) {
+    byString[shots[i]->string].push_back(&swings[i]);
   }
   std::vector<Finding> findings;
-  for (std::size_t i = 0; i < view.shots.size(); ++i) {
-    const ShotView& shot = view.shots[i];
+  for (std::size_t i = 0; i < shots.size(); ++i) {
+    const ShotView& shot = *shots[i];
     std::vector<std::size_t> against;
     double least = 1.0;
     for (std::size_t t = 0; t < swings[i].size(); ++t) {

@@ -92,27 +92,37 @@ Message intervalText(double seconds) {
 
 }  // namespace
 
-std::vector<Finding> checkRepeats(const SurveyView& view) {
+std::vector<Finding> checkCopies(const SurveyView& view) {
   std::vector<Finding> findings;
-  std::vector<bool> done(view.shots.size(), false);
+  std::vector<bool> copies(view.shots.size(), false);
   for (std::size_t a = 0; a < view.shots.size(); ++a) {
-    for (std::size_t b = a + 1; b < view.shots.size() && !done[a]; ++b) {
-      const ShotView& shot = view.shots[a];
-      const ShotView& other = view.shots[b];
-      if (done[b]) continue;
-      if (areEqual(shot, other)) {
-        done[b] = true;
-        findings.push_back(
-            aboutShot(Finding::Kind::kRepeatedShot, other, 0.99,
-                      Message::tr("the record is that of shot %1 once more, sample for sample")
-                          .arg(shot.shot + 1)));
-        findings.back().proposal = disable();
-      } else if (shot.placed && other.placed && shot.source == other.source &&
-                 shot.geophones == other.geophones &&
-                 mendsOf(*view.document->recordings, setOf(view, shot)).stackedWith.empty()) {
-        done[b] = true;
-        findings.push_back(ofOnePoint(view, shot, other));
+    for (std::size_t b = a + 1; b < view.shots.size() && !copies[a]; ++b) {
+      if (copies[b] || !areEqual(view.shots[a], view.shots[b])) continue;
+      copies[b] = true;
+      findings.push_back(
+          aboutShot(Finding::Kind::kRepeatedShot, view.shots[b], 0.99,
+                    Message::tr("the record is that of shot %1 once more, sample for sample")
+                        .arg(view.shots[a].shot + 1)));
+      findings.back().proposal = disable();
+    }
+  }
+  return findings;
+}
+
+std::vector<Finding> checkRepeats(const SurveyView& view,
+                                  const std::vector<const ShotView*>& shots) {
+  std::vector<Finding> findings;
+  std::vector<bool> done(shots.size(), false);
+  for (std::size_t a = 0; a < shots.size(); ++a) {
+    const ShotMends& mends = mendsOf(*view.document->recordings, setOf(view, *shots[a]));
+    if (!mends.stackedWith.empty()) continue;
+    for (std::size_t b = a + 1; b < shots.size() && !done[a]; ++b) {
+      if (done[b] || shots[a]->source != shots[b]->source ||
+          shots[a]->geophones != shots[b]->geophones) {
+        continue;
       }
+      done[b] = true;
+      findings.push_back(ofOnePoint(view, *shots[a], *shots[b]));
     }
   }
   return findings;

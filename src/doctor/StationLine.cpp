@@ -61,7 +61,7 @@ std::optional<StationLine> lineThrough(const std::vector<double>& x, const std::
   }
   line.scatter = medianOf(off, 0.0);
   const double span = *stations.rbegin() - *stations.begin();
-  line.slopeError = 2.0 * std::max(line.scatter, 0.05 * std::fabs(line.slope)) / span;
+  line.slopeError = std::max(2.0 * line.scatter, std::fabs(line.slope) * tolerance / 3.0) / span;
   return line;
 }
 

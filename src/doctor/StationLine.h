@@ -11,9 +11,10 @@ namespace talvesk::doctor {
 struct StationLine {
   double at0 = 0.0;
   double slope = 0.0;
-  double scatter = 0.0;     ///< median magnitude of what the points that fit are off
-  double slopeError = 0.0;  ///< by that scatter
-  std::vector<bool> fits;   ///< per point
+  double scatter = 0.0;  ///< median magnitude of what the points that fit are off
+  /// By that scatter, or a third of the tolerance at the ends of the line, whichever is more.
+  double slopeError = 0.0;
+  std::vector<bool> fits;  ///< per point
   std::size_t fitCount = 0;
 
   double at(double x) const { return at0 + slope * x; }

@@ -1,5 +1,7 @@
 #include "doctor/StationReading.h"
 
+#include "doctor/Placing.h"
+
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -26,6 +28,14 @@ Shots insiders(const Shots& shots) {
     if (shot->station.side == SourceStation::Side::kInside) inside.push_back(shot);
   }
   return inside;
+}
+
+std::vector<double> placesByArrivals(const Shots& inside) {
+  std::vector<double> places;
+  for (const ShotView* shot : inside) {
+    places.push_back(placeOf(shot->geophones, shot->station.station));
+  }
+  return places;
 }
 
 std::map<std::size_t, Shots> byString(const Shots& shots) {

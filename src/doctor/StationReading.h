@@ -14,6 +14,9 @@ using Shots = std::vector<const ShotView*>;
 /// Those that are among their geophones by their arrivals.
 Shots insiders(const Shots& shots);
 
+/// Where those were by their arrivals, as their geophones are said to stand, metres.
+std::vector<double> placesByArrivals(const Shots& inside);
+
 /// The strings of shots, each with its shots, by number.
 std::map<std::size_t, Shots> byString(const Shots& shots);
 

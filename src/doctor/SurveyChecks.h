@@ -14,8 +14,12 @@ namespace talvesk::doctor {
 /// \param shots whose places can be trusted
 std::vector<Finding> checkGeophoneLine(const std::vector<const ShotView*>& shots);
 
-/// Records that are another one once more, and records of one shot point.
-std::vector<Finding> checkRepeats(const SurveyView& view);
+/// Records that are another one once more, sample for sample.
+std::vector<Finding> checkCopies(const SurveyView& view);
+
+/// Records of one shot point. \param shots whose places can be trusted
+std::vector<Finding> checkRepeats(const SurveyView& view,
+                                  const std::vector<const ShotView*>& shots);
 
 /// Sample intervals that differ within a record or between records.
 std::vector<Finding> checkIntervals(const SurveyView& view);

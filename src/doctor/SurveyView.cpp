@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
+#include <numeric>
 #include <utility>
 
 namespace talvesk::doctor {
@@ -19,6 +20,18 @@ std::vector<bool> killedTraces(const ShotMends& mends, std::size_t count) {
   std::vector<bool> killed;
   for (std::size_t t = 0; t < count; ++t) killed.push_back(mendOf(mends, t).killed);
   return killed;
+}
+
+void setOrder(ShotView& shot) {
+  const std::size_t count = shot.traces->size();
+  if (shot.placed && !isHeap(shot.geophones)) {
+    shot.order = alongLine(shot.geophones);
+  } else {
+    shot.order.resize(count);
+    std::iota(shot.order.begin(), shot.order.end(), std::size_t{0});
+  }
+  shot.rank.resize(count);
+  for (std::size_t i = 0; i < count; ++i) shot.rank[shot.order[i]] = i;
 }
 
 }  // namespace
@@ -42,6 +55,7 @@ SurveyView viewOf(const TomoDocument& document, const std::function<bool()>& goO
                   shot.string < document.line->goephonesStringSet.size() &&
                   std::all_of(shot.geophones.begin(), shot.geophones.end(), isFinite) &&
                   isFinite(shot.source);
+    setOrder(shot);
     shot.name = std::filesystem::path(shotFile(document, i)).stem().string();
     view.shots.push_back(std::move(shot));
   }
@@ -52,13 +66,6 @@ SurveyView viewOf(const TomoDocument& document, const std::function<bool()>& goO
   };
   runForEach(view.shots.size(), listen, goOn);
   return view;
-}
-
-double spacingOf(const std::vector<Point2D>& geophones) {
-  std::vector<double> x;
-  for (const Point2D& geophone : geophones) x.push_back(geophone.x);
-  std::sort(x.begin(), x.end());
-  return medianGap(x);
 }
 
 }  // namespace talvesk::doctor

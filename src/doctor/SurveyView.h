@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Point2D.h"
+#include "doctor/Geophones.h"
 #include "doctor/Onsets.h"
 #include "doctor/SourceStation.h"
 #include "model/TomoDocument.h"
@@ -20,9 +21,12 @@ struct ShotView {
   bool placed = false;               ///< its string has as many geophones as it has traces
   Point2D source;                    ///< as the survey has it
   std::vector<Point2D> geophones;    ///< as the survey has them, one per trace
-  std::vector<bool> killed;          ///< by a mend, one per trace
-  std::string name;                  ///< of its file, without folder and suffix
-  ShotOnsets onsets;                 ///< one per trace
+  /// The traces in the order of their geophones along the line; of channels where nobody knows.
+  std::vector<std::size_t> order;
+  std::vector<std::size_t> rank;  ///< of each trace in that order
+  std::vector<bool> killed;       ///< by a mend, one per trace
+  std::string name;               ///< of its file, without folder and suffix
+  ShotOnsets onsets;              ///< one per trace
   SourceStation station;
 
   double offset(std::size_t trace) const { return geophones[trace].x - source.x; }
@@ -37,8 +41,5 @@ struct SurveyView {
 
 /// \param goOn asked between shots; after false the shots that are left have no arrivals
 SurveyView viewOf(const TomoDocument& document, const std::function<bool()>& goOn);
-
-/// The median distance between neighbouring geophones, above 0; 1 where there are none.
-double spacingOf(const std::vector<Point2D>& geophones);
 
 }  // namespace talvesk::doctor

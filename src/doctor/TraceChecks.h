@@ -27,6 +27,7 @@ std::vector<Finding> checkMistimedTraces(const ShotView& shot);
 
 /// Traces that swing against their neighbours. Over several shots a geophone that is wired the
 /// wrong way is found even where single records are noisy.
-std::vector<Finding> checkPolarity(const SurveyView& view);
+/// \param shots whose places can be trusted
+std::vector<Finding> checkPolarity(const std::vector<const ShotView*>& shots);
 
 }  // namespace talvesk::doctor

@@ -182,6 +182,21 @@ const Fault kFaults[] = {
 INSTANTIATE_TEST_SUITE_P(Field, Faults, ::testing::ValuesIn(kFaults),
                          [](const auto& fault) { return fault.param.name; });
 
+/// A single record, so that no other one tells: its hammer switch shows on all channels.
+TEST(Doctor, readsTheBlowOffASpikeOnAllChannels) {
+  LinePlan plan;
+  plan.shots = {19.0};
+  plan.lead = 0.08;
+  TomoDocument document = soundLine(plan);
+  delayRecord(document, 0, 12);
+  for (Trace& trace : tracesOf(document, 0)) trace.samples.edit()[320 + 12] += 900.0;
+  const std::vector<Finding> findings = checkRecordings(document);
+  ASSERT_EQ(findings.size(), 1U);
+  EXPECT_THAT(findings[0].text.english(),
+              ::testing::HasSubstr("all channels have a spike at 3 ms"));
+  EXPECT_NEAR(findings[0].proposal->seconds, 12 * kInterval, 1e-9);
+}
+
 TEST(Doctor, stacksTwoRecordsOfOneShotPoint) {
   LinePlan plan;
   plan.shots = {3.0, 19.0, 19.0, 35.0};
