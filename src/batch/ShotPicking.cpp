@@ -139,7 +139,7 @@ void warnOfHeap(const TomoDocument& document) {
 
 }  // namespace
 
-Status countFromShot(const ShotOptions& options, bool quiet, std::ostream& out, Survey& survey) {
+Status countFromShot(const ShotOptions& options, std::ostream& out, Survey& survey) {
   const std::vector<TraceSet>& traceSets = survey.document.recordings->traceSets;
   const auto early = [](const Trace& trace) { return trace.delay < 0.0; };
   const bool anyEarly = std::any_of(traceSets.begin(), traceSets.end(), [&](const TraceSet& set) {
@@ -206,7 +206,7 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
 
 }  // namespace
 
-Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+Status loadShotFiles(const ShotOptions& options, Survey& survey) {
   TomoDocument& document = survey.document;
   Status status = load(options, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
@@ -216,7 +216,7 @@ Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Su
 
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
   TomoDocument& document = survey.document;
-  Status status = loadShotFiles(options, manner, survey);
+  Status status = loadShotFiles(options, survey);
   if (!status.ok()) return status;
 
   std::vector<std::int32_t> shots;
@@ -225,7 +225,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   }
   if (shots.empty()) return Status::failure("the shot files hold no traces");
   if (!manner.quiet) warnOfHeap(document);
-  status = countFromShot(options, manner.quiet, *manner.summary, survey);
+  status = countFromShot(options, *manner.summary, survey);
   if (status.ok()) status = filter(options, shots, survey);
   if (status.ok()) {
     status = editSurvey(Edit::kAutoPick, survey, [&](Survey& next) {

@@ -22,10 +22,10 @@ struct PickingManner {
 
 /// Loads shot files into an empty survey and takes positions from geometry files. One file that
 /// cannot be read, or geometry that does not fit the files, fails the whole.
-Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey);
+Status loadShotFiles(const ShotOptions& options, Survey& survey);
 
 /// Counts time from the shot where records begin before it, unless asked not to, and says so.
-Status countFromShot(const ShotOptions& options, bool quiet, std::ostream& out, Survey& survey);
+Status countFromShot(const ShotOptions& options, std::ostream& out, Survey& survey);
 
 /// Loads shot files into an empty survey, takes positions from geometry files, counts time from
 /// the shot, filters, picks every trace and screens every shot. One file that cannot be read, or
