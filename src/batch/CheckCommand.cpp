@@ -81,7 +81,7 @@ Findings mend(Findings findings, const CheckOptions& options, std::ostream& out,
     out << "\nMended, and checked again:\n";
     tell(findings, survey.document, out);
   }
-  out << done << " proposals carried out.\n";
+  out << done << (done == 1 ? " proposal" : " proposals") << " carried out.\n";
   const Status counted = countFromShot(options.shots, out, survey);
   if (!counted.ok()) warn(counted.message());
   return findings;
