@@ -23,6 +23,7 @@ void addInfo(CLI::App& app, InfoOptions& info) {
       addPath(command, "--json", info.json,
               "Write positions (metres) and times (seconds) as JSON; '-' is standard output. "
               "Several files make one array");
+  addPickReading(command, info.picks);
   command.add_flag("--samples", info.samples, "Write the samples of shot files, too")->needs(json);
   command.final_callback([&info] {
     if (info.samples && std::none_of(info.files.begin(), info.files.end(), shotFormatOf)) {
@@ -60,12 +61,20 @@ void addPick(CLI::App& app, PickOptions& pick) {
 
 void addConvert(CLI::App& app, ConvertOptions& convert) {
   CLI::App& command = *app.add_subcommand(
-      "convert", "Rewrite a travel-time file in the exchange format .otte (metres, milliseconds)");
-  command.add_option("INPUT", convert.input, "Travel-time file: " + travelTimeSuffixes())
+      "convert",
+      "Rewrite a travel-time file in the exchange format .otte (metres, milliseconds) or in the "
+      "unified data format .sgt of pyGIMLi and BERT (metres, seconds)");
+  command
+      .add_option("INPUT", convert.input,
+                  "Travel-time file: " + travelTimeSuffixes() +
+                      ", or of any suffix a table with a heading or the unified data format")
       ->required();
-  mustEndIn(
-      command.add_option("OUT", convert.output, "The file to write, named *.otte")->required(),
-      {".otte"}, false);
+  mustEndIn(command
+                .add_option("OUT", convert.output,
+                            "The file to write; its suffix, .otte or .sgt, tells the format")
+                ->required(),
+            writtenTravelTimeSuffixes(), false);
+  addPickReading(command, convert.picks);
   command.add_flag("--quiet", convert.quiet, kQuietHelp);
 }
 

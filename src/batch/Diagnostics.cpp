@@ -2,7 +2,6 @@
 
 #include "base/Console.h"
 #include "batch/Failure.h"
-#include "io/TravelTimeFile.h"
 
 #include <iostream>
 
@@ -28,10 +27,11 @@ Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool v
   return channels;
 }
 
-Status readPicks(const std::string& path, TravelTimeData& data) {
-  Status status = readTravelTimes(path, data);
+Status readPicks(const std::string& path, const TravelTimeReading& reading, TravelTimeData& data) {
+  Status status = readTravelTimes(path, data, reading);
   for (const std::string& warning : data.warnings) warn(path + ": " + warning);
-  return status;
+  if (status.ok() || reading.timeUnit || !asksForTimeUnit(path)) return status;
+  return Status::failure(status.message() + "; say it with --time-unit");
 }
 
 }  // namespace talvesk

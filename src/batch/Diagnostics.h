@@ -2,7 +2,7 @@
 
 #include "batch/OutputFiles.h"
 #include "batch/Progress.h"
-#include "io/TravelTimeData.h"
+#include "io/TravelTimeFile.h"
 
 #include <iosfwd>
 #include <string>
@@ -25,6 +25,6 @@ struct Channels {
 Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool verbose = false);
 
 /// Reads picks, and warns on standard error of what the reader repaired or left out.
-Status readPicks(const std::string& path, TravelTimeData& data);
+Status readPicks(const std::string& path, const TravelTimeReading& reading, TravelTimeData& data);
 
 }  // namespace talvesk

@@ -81,7 +81,8 @@ class Inventory {
 
   void add(const std::string& file) {
     if (isProjectFile(file)) return addProject(file);
-    travelTimeFormatOf(file) != nullptr ? addTravelTimes(file) : addShot(file);
+    const bool picks = travelTimeFormatOf(file) != nullptr || holdsTravelTimes(file);
+    picks ? addTravelTimes(file) : addShot(file);
   }
 
   int exitCode() const { return mExitCode; }
@@ -105,7 +106,7 @@ class Inventory {
 
   void addTravelTimes(const std::string& file) {
     TravelTimeData data;
-    const Status status = readPicks(file, data);
+    const Status status = readPicks(file, mOptions.picks, data);
     take(file, status, data, [&] { return travelTimesJson(data); });
   }
 

@@ -29,6 +29,9 @@ struct ShotOptionGroup {
 /// The options with which shot files become picks. `shots` must outlive the parsing.
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots);
 
+/// --time-unit, of picks in tables. `picks` must outlive the parsing.
+void addPickReading(CLI::App& command, TravelTimeReading& picks);
+
 /// A repeatable --image with names that a picture can have.
 CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
                        const std::string& help);

@@ -2,6 +2,7 @@
 
 #include "export/GriddedText.h"
 #include "grid/VelocityLayers.h"
+#include "io/TravelTimeFile.h"
 #include "model/GeographicsCoord.h"
 #include "model/Parameters.h"
 #include "processing/ShotFilters.h"
@@ -25,6 +26,7 @@ inline constexpr const char* kStandardOutput = "-";
 
 struct InfoOptions {
   std::vector<std::string> files;  ///< at least one
+  TravelTimeReading picks;
   std::string json;
   bool samples = false;
 };
@@ -64,6 +66,7 @@ struct ReportFields {
 
 struct InvertOptions {
   std::string input;  ///< travel-time file or project; none: shot files
+  TravelTimeReading picks;
   ShotOptions shots;
   std::optional<double> cellSize;          ///< metres; none: as proposed
   std::optional<double> depth;             ///< metres; none: half the array length
@@ -90,6 +93,7 @@ struct InvertOptions {
 
 struct RefractOptions {
   std::string input;  ///< travel-time file; none: shot files
+  TravelTimeReading picks;
   ShotOptions shots;
   std::string layers;        ///< file of marks; none: as proposed
   std::optional<double> xy;  ///< metres, of the family; none: that of the project, else 0
@@ -129,6 +133,7 @@ struct ExportOptions {
 
 struct ConvertOptions {
   std::string input;
+  TravelTimeReading picks;
   std::string output;
   bool quiet = false;
 };

@@ -12,6 +12,7 @@ void addRefract(CLI::App& app, RefractOptions& options) {
                                           "of one or two refractors under the line");
   const auto inputs = std::make_shared<std::vector<std::string>>();
   command.add_option("INPUT", *inputs, kindsOfInput())->required();
+  addPickReading(command, options.picks);
   const ShotOptionGroup shots = addShotOptions(command, options.shots);
   CLI::Option* layers = addPath(
       command, "--layers", options.layers,

@@ -2,6 +2,7 @@
 #include "batch/OptionParsing.h"
 #include "io/FileFormats.h"
 #include "io/GeometryFile.h"
+#include "io/TravelTimeFile.h"
 
 #include <algorithm>
 
@@ -22,6 +23,12 @@ std::string readSeparator(const std::string& text) {
   if (text == ";" || text == "," || text == " ") return text;
   if (text == kBlankSeparator || text == "blank") return " ";
   throw CLI::ValidationError("--separator", "'" + text + "' is none of ';', ',', ' '");
+}
+
+TimeUnit readTimeUnit(const std::string& text) {
+  if (text == "ms") return TimeUnit::kMilliseconds;
+  if (text == "s") return TimeUnit::kSeconds;
+  throw CLI::ValidationError("--time-unit", "'" + text + "' is none of ms, s");
 }
 
 /// Cut-off and order of one end of the band.
@@ -102,6 +109,15 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
   return group;
 }
 
+void addPickReading(CLI::App& command, TravelTimeReading& picks) {
+  command
+      .add_option_function<std::string>(
+          "--time-unit", [&](const std::string& text) { picks.timeUnit = readTimeUnit(text); },
+          "Unit of the times in a table whose heading names none: ms or s")
+      ->type_name("UNIT")
+      ->group("Travel times");
+}
+
 CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
                        const std::string& help) {
   CLI::Option* image =
@@ -116,8 +132,11 @@ std::string kindsOfInput() {
 
 void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, std::string& input,
                 std::vector<std::string>& shotFiles) {
-  const auto shots =
-      static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), shotFormatOf));
+  // A suffix of shot files may be one of travel times, too.
+  const auto isShot = [](const std::string& file) {
+    return shotFormatOf(file) != nullptr && !holdsTravelTimes(file);
+  };
+  const auto shots = static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), isShot));
   if (shots == inputs.size()) {
     shotFiles = inputs;
     return;

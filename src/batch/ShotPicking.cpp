@@ -216,12 +216,12 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   return status;
 }
 
-Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
-                  LoadedProject& project) {
+Status readSurvey(const std::string& file, const TravelTimeReading& picks, const ShotOptions& shots,
+                  const PickingManner& manner, LoadedProject& project) {
   if (file.empty()) return pickShotFiles(shots, manner, project);
   if (isProjectFile(file)) return readProject(file, project);
   TravelTimeData data;
-  const Status status = readPicks(file, data);
+  const Status status = readPicks(file, picks, data);
   if (!status.ok()) return status;
   return importTravelTimes(std::move(data), project.document);
 }

@@ -28,8 +28,8 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
 
 /// A survey with picks: that of the project or travel-time file, or without one that of
 /// pickShotFiles(). What only a project holds is left as it was by the others.
-Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
-                  LoadedProject& project);
+Status readSurvey(const std::string& file, const TravelTimeReading& picks, const ShotOptions& shots,
+                  const PickingManner& manner, LoadedProject& project);
 
 /// Fails when not a single trace has a pick: there is nothing to write or to invert.
 /// \param files that the survey came from
