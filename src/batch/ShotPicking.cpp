@@ -223,6 +223,7 @@ Status readSurvey(const std::string& file, const TravelTimeReading& picks, const
   TravelTimeData data;
   const Status status = readPicks(file, picks, data);
   if (!status.ok()) return status;
+  if (const Message lost = lostInSurvey(data); !lost.empty()) warn(file + ": " + lost.english());
   return importTravelTimes(std::move(data), project.document);
 }
 

@@ -152,6 +152,11 @@ void fitToRecords(TravelTimeData& data, const TomoDocument& document) {
   if (!dropped.empty()) data.warnings.push_back(dropped);
 }
 
+Message lostInSurvey(const TravelTimeData& data) {
+  if (data.errors.empty()) return {};
+  return Message::tr("the file tells errors of its picks, which the survey does not keep");
+}
+
 Status checkImport(TravelTimeData& data, const TomoDocument& document, ImportCost& cost) {
   Plan plan;
   Status status = makePlan(data, document, plan);
