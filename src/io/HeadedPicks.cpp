@@ -2,6 +2,7 @@
 
 #include "io/HeadedTable.h"
 #include "io/PickPairs.h"
+#include "io/PositionColumns.h"
 #include "model/ElevationProfile.h"
 #include "model/SurveyGeometry.h"
 
@@ -16,13 +17,9 @@ namespace talvesk {
 namespace {
 
 using Columns = HeadedTable::Columns;
-using Names = std::vector<std::string_view>;
+using columnNames::Names;
 constexpr std::size_t kNone = HeadedTable::kNone;
 
-const Names kShot = {"s", "shot", "source", "src", "sou"};
-const Names kGeophone = {"g", "r", "geophone", "receiver", "geo", "rec", "rcv", "phone"};
-const Names kAlong = {"x", "position", "pos", "distance", "dist", "location"};
-const Names kUp = {"z", "elevation", "elev", "height", "altitude"};
 const Names kTime = {
     "t",  "time", "tt",   "traveltime", "firstbreak", "firstbreaktime", "firstarrival",
     "fb", "fbp",  "pick", "picktime",   "picks",      "arrival",        "arrivaltime"};
@@ -43,19 +40,11 @@ struct Layout {
   bool complete() const { return shot != kNone && geophone != kNone && time != kNone; }
 };
 
-/// Names of one letter mean nothing alone.
-Names words(const Names& names) {
-  Names result;
-  std::copy_if(names.begin(), names.end(), std::back_inserter(result),
-               [](std::string_view name) { return name.size() > 1; });
-  return result;
-}
-
-Layout layoutOf(const Columns& columns) {
+Layout layoutOf(const Columns& all) {
   Layout layout;
-  layout.shot = columnNamed(columns, kShot, kAlong);
-  layout.geophone = columnNamed(columns, kGeophone, kAlong);
-  const std::size_t shotAlone = columnNamed(columns, words(kShot));
+  layout.shot = columnNamed(all, columnNames::kShot, columnNames::kAlong);
+  layout.geophone = columnNamed(all, columnNames::kGeophone, columnNames::kAlong);
+  const std::size_t shotAlone = columnNamed(all, columnNames::words(columnNames::kShot));
   if (layout.shot != kNone) {
     layout.shotNumber = shotAlone;
   } else {
@@ -63,20 +52,21 @@ Layout layoutOf(const Columns& columns) {
     layout.bare = true;
   }
   if (layout.geophone == kNone) {
-    layout.geophone = columnNamed(columns, words(kGeophone));
+    layout.geophone = columnNamed(all, columnNames::words(columnNames::kGeophone));
     layout.bare = true;
   }
-  layout.shotHeight = columnNamed(columns, kShot, kUp);
-  layout.geophoneHeight = columnNamed(columns, kGeophone, kUp);
-  if (layout.geophoneHeight == kNone) layout.geophoneHeight = columnNamed(columns, words(kUp));
-  layout.time = columnNamed(columns, kTime);
-  layout.error = columnNamed(columns, kError);
-  layout.valid = columnNamed(columns, {"valid"});
+  layout.shotHeight = columnNamed(all, columnNames::kShot, columnNames::kUp);
+  layout.geophoneHeight = columnNamed(all, columnNames::kGeophone, columnNames::kUp);
+  if (layout.geophoneHeight == kNone)
+    layout.geophoneHeight = columnNamed(all, columnNames::words(columnNames::kUp));
+  layout.time = columnNamed(all, kTime);
+  layout.error = columnNamed(all, kError);
+  layout.valid = columnNamed(all, {"valid"});
   return layout;
 }
 
-bool isPickHeading(const Columns& columns) {
-  return layoutOf(columns).complete();
+bool isPickHeading(const Columns& all) {
+  return layoutOf(all).complete();
 }
 
 bool isNoNumber(std::string_view field) {
@@ -166,36 +156,25 @@ class HeadedPickReader : private PickReader {
     return true;
   }
 
-  bool readNumberOf(std::string_view what, std::string_view field, double& value) {
-    double number = 0.0;
-    const NumberError error = mTable.number(field, number);
-    if (error == NumberError::kNone && std::isfinite(number)) {
-      value = number;
-      return true;
-    }
-    return refuseNumber(what, field,
-                        error == NumberError::kNotANumber   ? Fault::kNotANumber
-                        : error == NumberError::kOutOfRange ? Fault::kOutOfRange
-                                                            : Fault::kNotFinite);
+  static Fault faultOf(NumberError error) {
+    return error == NumberError::kNotANumber ? Fault::kNotANumber : Fault::kOutOfRange;
   }
 
   /// 0 where the table has no such column.
   bool readLength(std::string_view what, const std::vector<std::string_view>& fields,
                   std::size_t column, double& metres) {
     if (column == kNone) return true;
-    if (!readNumberOf(what, at(fields, column), metres)) return false;
-    const double units = unitsPerMetre(unitAt(column));
-    if (units > 0.0) metres /= units;
-    constexpr double kFarthest = 1e9;  // metres
-    return std::fabs(metres) <= kFarthest ||
-           refuseNumber(what, at(fields, column), Fault::kOutOfRange);
+    const NumberError error = readMetres(mTable, column, fields, metres);
+    return error == NumberError::kNone || refuseNumber(what, at(fields, column), faultOf(error));
   }
 
   bool readTime(std::string_view field, double perSecond, double& seconds) {
     if (isNoNumber(field)) return true;
-    if (!readNumberOf("time", field, seconds)) return false;
-    seconds /= perSecond;
-    return true;
+    double number = 0.0;
+    NumberError error = mTable.number(field, number);
+    if (error == NumberError::kNone && !std::isfinite(number)) error = NumberError::kOutOfRange;
+    seconds = number / perSecond;
+    return error == NumberError::kNone || refuseNumber("time", field, faultOf(error));
   }
 
   std::uint32_t shotAt(std::string number, const Point2D& place) {
@@ -272,8 +251,8 @@ bool lacksTimeUnit(std::string_view text) {
   TextCursor cursor(text);
   HeadedTable table(cursor);
   if (!table.findHeading(isPickHeading)) return false;
-  const Columns& columns = table.columns();
-  return unitsPerSecond(columns[layoutOf(columns).time].unit) == 0.0;
+  const Columns& all = table.columns();
+  return unitsPerSecond(all[layoutOf(all).time].unit) == 0.0;
 }
 
 std::optional<Refusal> readHeadedPicks(std::string_view text, std::optional<TimeUnit> unit,

@@ -153,6 +153,29 @@ bool HeadedTable::findHeading(const std::function<bool(const Columns&)>& accepts
   return false;
 }
 
+bool HeadedTable::startAtFirstRow() {
+  TextCursor ahead = mText;
+  std::string_view line;
+  do {
+    if (!ahead.nextLine(line)) return false;
+    line = trimmed(line);
+  } while (line.empty() || line.front() == '#');
+  std::vector<std::string_view> fields;
+  mSeparator = separatorOf(line);
+  if (mSeparator == ',') {
+    mSeparator = ' ';
+    split(line, kMostColumns, fields);
+    double ignored = 0.0;
+    const bool numbers = std::all_of(fields.begin(), fields.end(), [&](std::string_view field) {
+      return number(field, ignored) == NumberError::kNone;
+    });
+    if (fields.size() < 2 || !numbers) mSeparator = ',';
+  }
+  split(line, kMostColumns, fields);
+  mColumns.assign(fields.size(), {});
+  return true;
+}
+
 bool HeadedTable::nextRow(std::vector<std::string_view>& fields) {
   for (std::string_view line; mText.nextLine(line);) {
     const std::string_view text = trimmed(line);

@@ -38,6 +38,10 @@ class HeadedTable {
   /// that were looked at.
   bool findHeading(const std::function<bool(const Columns&)>& accepts);
 
+  /// For a table without a heading: as many columns without names as its first row has fields.
+  /// False when there is no row. There decimal commas may stand between blanks.
+  bool startAtFirstRow();
+
   const Columns& columns() const { return mColumns; }
   std::size_t linesAbove() const { return mLinesAbove; }  ///< with text, above the heading
 

@@ -106,6 +106,23 @@ std::vector<Message> lostInOtte(const std::string& text, const TravelTimeData& d
   return lost;
 }
 
+Status writeAs(const TravelTimeFormat& format, const std::string& path, const TravelTimeData& data,
+               std::vector<Message>& losses) {
+  if (const Status positions = checkPositions(data); !positions.ok()) {
+    Message message = Message::tr("Cannot write %1: %2").arg(path).arg(positions.text());
+    console::error() << message << std::endl;
+    return Status::failure(std::move(message));
+  }
+  const std::string text = format.write(data);
+  Status written = writeFileAtomically(path, text);
+  if (!written.ok()) {
+    console::error() << written.message() << std::endl;
+    return written;
+  }
+  losses = &format == &exchangeFormat() ? lostInOtte(text, data) : lostInUnifiedData(data);
+  return {};
+}
+
 }  // namespace
 
 Status parseTravelTimes(std::string_view bytes, const std::string& path, TravelTimeData& data,
@@ -199,25 +216,12 @@ Status loadTravelTimes(const std::string& path, TomoDocument& document) {
 
 Status writeTravelTimes(const std::string& path, const TravelTimeData& data,
                         std::vector<Message>& losses) {
-  if (const Status positions = checkPositions(data); !positions.ok()) {
-    Message message = Message::tr("Cannot write %1: %2").arg(path).arg(positions.text());
-    console::error() << message << std::endl;
-    return Status::failure(std::move(message));
-  }
-  const TravelTimeFormat& format = writtenFormatOf(path);
-  const std::string text = format.write(data);
-  Status written = writeFileAtomically(path, text);
-  if (!written.ok()) {
-    console::error() << written.message() << std::endl;
-    return written;
-  }
-  losses = &format == &exchangeFormat() ? lostInOtte(text, data) : lostInUnifiedData(data);
-  return {};
+  return writeAs(writtenFormatOf(path), path, data, losses);
 }
 
 Status writeTravelTimes(const std::string& path, const TomoDocument& document) {
   std::vector<Message> losses;
-  Status written = writeTravelTimes(path, travelTimesOf(document), losses);
+  Status written = writeAs(exchangeFormat(), path, travelTimesOf(document), losses);
   for (const Message& loss : losses) {
     console::error() << "Warning: " << path << ": " << loss << std::endl;
   }

@@ -75,7 +75,8 @@ Status loadTravelTimes(const std::string& path, TomoDocument& document);
 Status writeTravelTimes(const std::string& path, const TravelTimeData& data,
                         std::vector<Message>& losses);
 
-/// The same of a survey; losses are told on the console.
+/// The same of a survey in the exchange format, whatever the suffix; losses are told on the
+/// console.
 Status writeTravelTimes(const std::string& path, const TomoDocument& document);
 
 }  // namespace talvesk

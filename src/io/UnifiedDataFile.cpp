@@ -1,7 +1,7 @@
 #include "io/UnifiedDataFile.h"
 
-#include "io/HeadedTable.h"
 #include "io/PickPairs.h"
+#include "io/PositionColumns.h"
 #include "model/ElevationProfile.h"
 #include "model/SurveyGeometry.h"
 
@@ -15,7 +15,6 @@ namespace talvesk {
 namespace {
 
 constexpr std::size_t kNone = HeadedTable::kNone;
-constexpr double kFarthest = 1e9;  ///< metres
 constexpr std::size_t kMostColumns = 100;
 
 using Words = std::vector<std::string_view>;
@@ -123,7 +122,7 @@ class UnifiedDataReader : private PickReader {
 
   bool readCoordinate(std::string_view word, double& value) {
     return readNumber("position", word, value) &&
-           (std::fabs(value) <= kFarthest || refuseNumber("position", word, Fault::kOutOfRange));
+           (std::fabs(value) <= kFarthestPosition || refuseNumber("position", word, Fault::kOutOfRange));
   }
 
   bool readMeasurements() {

@@ -129,7 +129,7 @@ TEST(HeadedPicks, refuseRowsThatCannotBePlaced) {
       {replaced(kTable, "12.5,102.5,0", "12.5,102.5,"),
        "line 5: the receiver distance \"\" is not"},
       {replaced(kTable, "12.5,102.5,0", "12.5,inf,0"),
-       "line 5: the shot elevation \"inf\" is not f"},
+       "line 5: the shot elevation \"inf\" is out"},
       {replaced(kTable, "12.5,102.5,0", "1e10,102.5,0"),
        "line 5: the shot distance \"1e10\" is out"},
       {replaced(kTable, ",30", ",soon"), "line 5: the time \"soon\" is not a number"},
