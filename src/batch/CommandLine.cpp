@@ -36,6 +36,7 @@ void addPick(CLI::App& app, PickOptions& pick) {
   CLI::App& command =
       *app.add_subcommand("pick", "Find the first breaks of shot files and drop implausible ones");
   command.add_option("SHOTS", pick.shots.files, "Shot files: " + shotSuffixes())->required();
+  addElevationOptions(command, pick.shots.elevations);
   const ShotOptionGroup shots = addShotOptions(command, pick.shots);
   mustEndIn(addPath(command, "-o,--otte", pick.otte,
                     "The travel-time exchange file to write, named *.otte; not needed with "
@@ -69,11 +70,13 @@ void addConvert(CLI::App& app, ConvertOptions& convert) {
                   "Travel-time file: " + travelTimeSuffixes() +
                       ", or of any suffix a table with a heading or the unified data format")
       ->required();
-  mustEndIn(command
-                .add_option("OUT", convert.output,
-                            "The file to write; its suffix, .otte or .sgt, tells the format")
-                ->required(),
-            writtenTravelTimeSuffixes(), false);
+  mustEndIn(
+      command
+          .add_option("OUT", convert.output,
+                      "The file to write; its suffix, .otte or .sgt, tells the format; a pipe "
+                      "gets .otte")
+          ->required(),
+      writtenTravelTimeSuffixes(), false, true);
   addPickReading(command, convert.picks);
   command.add_flag("--quiet", convert.quiet, kQuietHelp);
 }
@@ -95,6 +98,7 @@ struct AllOptions {
   RefractOptions refract;
   ExportOptions exports;
   ConvertOptions convert;
+  RecordsOptions records;
   DemoOptions demo;
 };
 
@@ -112,6 +116,7 @@ void addCommands(CLI::App& app, AllOptions& all) {
   addInfo(app, all.info);
   addExport(app, all.exports);
   addConvert(app, all.convert);
+  addRecords(app, all.records);
   addDemo(app, all.demo);
 }
 
@@ -144,7 +149,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
 
   if (chosenCommand(app) == nullptr) {
     result.exitCode = wrongUsage(
-        "", "a command is required: info, pick, invert, refract, export, convert or demo");
+        "", "a command is required: info, pick, invert, refract, export, convert, records or demo");
     return result;
   }
   const std::string name = chosenCommand(app)->get_name();
@@ -160,6 +165,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     result.command = std::move(all.exports);
   } else if (name == "convert") {
     result.command = std::move(all.convert);
+  } else if (name == "records") {
+    result.command = std::move(all.records);
   } else {
     result.command = std::move(all.demo);
   }

@@ -170,6 +170,7 @@ void addInvert(CLI::App& app, InvertOptions& options) {
                       "unless an option of the grid is given")
       ->required();
   addPickReading(command, options.picks);
+  addElevationOptions(command, options.shots.elevations);
   const ShotOptionGroup shots = addShotOptions(command, options.shots);
   addGridOptions(command, options);
   addRunOptions(command, options);

@@ -29,6 +29,12 @@ struct ShotOptionGroup {
 /// The options with which shot files become picks. `shots` must outlive the parsing.
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots);
 
+/// Of those options only the ones that place geophones and shots.
+ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots);
+
+/// --elevations and --smooth-elevations, which go with every kind of input.
+void addElevationOptions(CLI::App& command, ElevationOptions& elevations);
+
 /// --time-unit, of picks in tables. `picks` must outlive the parsing.
 void addPickReading(CLI::App& command, TravelTimeReading& picks);
 
@@ -50,6 +56,9 @@ void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, s
 /// The commands `invert` and `refract`.
 void addInvert(CLI::App& app, InvertOptions& options);
 void addRefract(CLI::App& app, RefractOptions& options);
+
+/// The command `records`.
+void addRecords(CLI::App& app, RecordsOptions& options);
 
 /// The command `export`.
 void addExport(CLI::App& app, ExportOptions& options);

@@ -2,6 +2,7 @@
 
 #include "export/GriddedText.h"
 #include "grid/VelocityLayers.h"
+#include "io/RecordExport.h"
 #include "io/TravelTimeFile.h"
 #include "model/GeographicsCoord.h"
 #include "model/Parameters.h"
@@ -34,6 +35,12 @@ struct InfoOptions {
 /// On what the first breaks are picked.
 enum class PickFilter { kNone, kAgc, kHushel, kBand };
 
+/// Elevations for all positions of a survey.
+struct ElevationOptions {
+  std::string table;    ///< file of distances and elevations
+  bool smooth = false;  ///< along a smooth curve between its points
+};
+
 /// How shot files become picks.
 struct ShotOptions {
   std::vector<std::string> files;
@@ -42,6 +49,7 @@ struct ShotOptions {
   std::string geophones;        ///< geometry file
   std::string shots;            ///< geometry file
   std::string separator = ";";  ///< of the geometry files
+  ElevationOptions elevations;  ///< of picks and projects, too
   bool asRecorded = false;      ///< time counts from the first sample, wherever the shot was
 };
 
@@ -138,12 +146,21 @@ struct ConvertOptions {
   bool quiet = false;
 };
 
+struct RecordsOptions {
+  std::string project;  ///< none: shot files
+  ShotOptions shots;
+  std::string folder;
+  RecordFormat format = RecordFormat::kSegy;
+  bool together = false;  ///< in one file
+  bool quiet = false;
+};
+
 struct DemoOptions {
   std::string folder;
   bool quiet = false;
 };
 
 using CommandOptions = std::variant<InfoOptions, PickOptions, InvertOptions, RefractOptions,
-                                    ExportOptions, ConvertOptions, DemoOptions>;
+                                    ExportOptions, ConvertOptions, RecordsOptions, DemoOptions>;
 
 }  // namespace talvesk

@@ -72,6 +72,40 @@ void ShotOptionGroup::check(const ShotOptions& shots) const {
   }
 }
 
+ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots) {
+  ShotOptionGroup group;
+  const auto add = [&](CLI::Option* option) {
+    option->group(kGroup);
+    group.options.push_back(option);
+  };
+  add(addPath(command, "--geophones", shots.geophones,
+              "Positions of the geophones, a line 'x;z' (metres) per trace, instead of those "
+              "in the shot files; the same for all shots"));
+  add(addPath(command, "--shots", shots.shots,
+              "Positions of the shots, a line 'shot_id_...;x;z' (metres) per shot file, "
+              "instead of those in the shot files"));
+  add(command
+          .add_option_function<std::string>(
+              "--separator",
+              [&](const std::string& text) { shots.separator = readSeparator(text); },
+              "Separator of --geophones and --shots: ';', ',' or ' ' (default: ';')")
+          ->type_name("CHAR"));
+  return group;
+}
+
+void addElevationOptions(CLI::App& command, ElevationOptions& elevations) {
+  CLI::Option* table = addPath(
+      command, "--elevations", elevations.table,
+      "Elevations of all geophones and shots: a table of distances and elevations (metres), "
+      "whose heading names both or that has two columns");
+  CLI::Option* smooth =
+      command.add_flag("--smooth-elevations", elevations.smooth,
+                       "Follow a smooth curve through the points of --elevations, instead of "
+                       "straight lines");
+  smooth->needs(table);
+  for (CLI::Option* option : {table, smooth}) option->group("Positions");
+}
+
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
   ShotOptionGroup group;
   const auto add = [&](CLI::Option* option) {
@@ -94,18 +128,8 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
   add(command.add_flag("--as-recorded", shots.asRecorded,
                        "Count time from the first sample of a record, also when recording began "
                        "before the shot"));
-  add(addPath(command, "--geophones", shots.geophones,
-              "Positions of the geophones, a line 'x;z' (metres) per trace, instead of those "
-              "in the shot files; the same for all shots"));
-  add(addPath(command, "--shots", shots.shots,
-              "Positions of the shots, a line 'shot_id_...;x;z' (metres) per shot file, "
-              "instead of those in the shot files"));
-  add(command
-          .add_option_function<std::string>(
-              "--separator",
-              [&](const std::string& text) { shots.separator = readSeparator(text); },
-              "Separator of --geophones and --shots: ';', ',' or ' ' (default: ';')")
-          ->type_name("CHAR"));
+  const ShotOptionGroup positions = addPositionOptions(command, shots);
+  group.options.insert(group.options.end(), positions.options.begin(), positions.options.end());
   return group;
 }
 

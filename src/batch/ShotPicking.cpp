@@ -3,9 +3,11 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/ProjectFiles.h"
-#include "io/GeometryFile.h"
+#include "io/ElevationTable.h"
+#include "io/NamedPositions.h"
 #include "io/ShotLoader.h"
 #include "io/TravelTimeFile.h"
+#include "model/ElevationProfile.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
@@ -38,14 +40,15 @@ Status load(const std::vector<std::string>& files, TomoDocument& document) {
   return status;
 }
 
-Status readPositions(const std::string& path, const std::string& separator, bool labelled,
-                     std::vector<Point2D>& positions) {
+Status readPositions(const std::string& path, const std::string& separator,
+                     const WantedPositions& wanted, std::vector<Point2D>& positions) {
   PositionTable table;
-  Status status =
-      labelled ? readLabelledRecords(path, separator, table) : readRecords(path, separator, table);
+  bool byName = false;
+  Status status = readPositions(path, separator, wanted, table, byName);
   if (!status.ok()) return status;
   for (const std::string& remark : describe(table.remarks)) warn(path + ": " + remark);
-  if (cutsNumbers(lookAtGeometryFile(path), separator)) {
+  if (byName) warn(path + ": it was read by the names of its columns");
+  if (!byName && cutsNumbers(lookAtGeometryFile(path), separator)) {
     warn(path + ": numbers were cut at their decimal commas; they need points");
   }
   status = positionsOf(table, positions);
@@ -54,7 +57,10 @@ Status readPositions(const std::string& path, const std::string& separator, bool
 
 Status placeGeophones(const ShotOptions& options, TomoDocument& document) {
   std::vector<Point2D> geophones;
-  Status status = readPositions(options.geophones, options.separator, false, geophones);
+  const std::vector<TraceSet>& traceSets = document.recordings->traceSets;
+  const WantedPositions wanted = {PositionsOf::kGeophones,
+                                  traceSets.empty() ? 0 : traceSets.front().size(), 0};
+  Status status = readPositions(options.geophones, options.separator, wanted, geophones);
   if (!status.ok()) return status;
   for (std::size_t i = 0; i < document.recordings->traceSets.size(); ++i) {
     TraceSet& traces = document.recordings.edit().traceSets[i];
@@ -72,7 +78,8 @@ Status placeGeophones(const ShotOptions& options, TomoDocument& document) {
 
 Status placeShots(const ShotOptions& options, TomoDocument& document) {
   std::vector<Point2D> shots;
-  Status status = readPositions(options.shots, options.separator, true, shots);
+  const WantedPositions wanted = {PositionsOf::kShots, document.recordings->traceSets.size(), 0};
+  Status status = readPositions(options.shots, options.separator, wanted, shots);
   if (!status.ok()) return status;
   if (shots.size() != document.recordings->traceSets.size()) {
     return Status::failure(options.shots + ": " + std::to_string(shots.size()) +
@@ -191,12 +198,45 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
 
 }  // namespace
 
-Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+Status layOntoElevations(const ElevationOptions& options, const PickingManner& manner,
+                         Survey& survey) {
+  if (options.table.empty()) return {};
+  std::vector<Point2D> points;
+  Status status = readElevationTable(options.table, points);
+  if (!status.ok()) return status;
+  const ElevationProfile profile(std::move(points), options.smooth
+                                                        ? ElevationProfile::Course::kSmooth
+                                                        : ElevationProfile::Course::kStraight);
+  ElevationOutcome outcome;
+  status = editSurvey(Edit::kGeometry, survey, [&](Survey& next) {
+    SurveyGeometry geometry = geometryOf(next.document);
+    outcome = layOnto(profile, geometry);
+    applyGeometry(geometry, next.document);
+    return Status();
+  });
+  if (!status.ok()) return status;
+  *manner.summary << "Elevations of " << options.table << ": " << outcome.geophones
+                  << " geophones, " << outcome.shots << " shots\n";
+  if (outcome.beyond > 0) {
+    warn(options.table + ": " + std::to_string(outcome.beyond) +
+         " positions lie beyond its ends and got the elevation there");
+  }
+  return {};
+}
+
+Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
   TomoDocument& document = survey.document;
   Status status = load(options.files, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
-  if (status.ok()) status = levelShots(options, manner, survey);
+  if (!status.ok()) return status;
+  if (options.elevations.table.empty()) return levelShots(options, manner, survey);
+  return layOntoElevations(options.elevations, manner, survey);
+}
+
+Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+  TomoDocument& document = survey.document;
+  Status status = loadShotFiles(options, manner, survey);
   if (!status.ok()) return status;
 
   std::vector<std::int32_t> shots;
@@ -219,12 +259,16 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
 Status readSurvey(const std::string& file, const TravelTimeReading& picks, const ShotOptions& shots,
                   const PickingManner& manner, LoadedProject& project) {
   if (file.empty()) return pickShotFiles(shots, manner, project);
-  if (isProjectFile(file)) return readProject(file, project);
+  if (isProjectFile(file)) {
+    const Status status = readProject(file, project);
+    return status.ok() ? layOntoElevations(shots.elevations, manner, project) : status;
+  }
   TravelTimeData data;
-  const Status status = readPicks(file, picks, data);
+  Status status = readPicks(file, picks, data);
   if (!status.ok()) return status;
   if (const Message lost = lostInSurvey(data); !lost.empty()) warn(file + ": " + lost.english());
-  return importTravelTimes(std::move(data), project.document);
+  status = importTravelTimes(std::move(data), project.document);
+  return status.ok() ? layOntoElevations(shots.elevations, manner, project) : status;
 }
 
 Status checkPicks(const TomoDocument& document, const std::vector<std::string>& files) {
@@ -235,13 +279,15 @@ Status checkPicks(const TomoDocument& document, const std::vector<std::string>& 
 }
 
 std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions& shots) {
-  if (!file.empty()) return {file};
-  return filesOf(shots);
+  if (file.empty()) return filesOf(shots);
+  std::vector<std::string> files = {file};
+  if (!shots.elevations.table.empty()) files.push_back(shots.elevations.table);
+  return files;
 }
 
 std::vector<std::string> filesOf(const ShotOptions& options) {
   std::vector<std::string> files = options.files;
-  for (const std::string& geometry : {options.geophones, options.shots}) {
+  for (const std::string& geometry : {options.geophones, options.shots, options.elevations.table}) {
     if (!geometry.empty()) files.push_back(geometry);
   }
   return files;

@@ -20,10 +20,13 @@ struct PickingManner {
   std::ostream* summary = nullptr;  ///< what the user came to know
 };
 
-/// Loads shot files into an empty survey, takes positions from geometry files, counts time from
-/// the shot, filters, picks every trace and screens every shot. One file that cannot be read, or
-/// geometry that does not fit the files, fails the whole: a survey with a shot missing would be
-/// another survey.
+/// Loads shot files into an empty survey and takes positions and elevations from files. Fails as
+/// pickShotFiles() does.
+Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey);
+
+/// loadShotFiles(), then counts time from the shot, filters, picks every trace and screens every
+/// shot. One file that cannot be read, or geometry that does not fit the files, fails the whole: a
+/// survey with a shot missing would be another survey.
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey);
 
 /// A survey with picks: that of the project or travel-time file, or without one that of

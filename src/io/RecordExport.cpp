@@ -119,6 +119,25 @@ Status fits(const WrittenShot& shot, RecordFormat format) {
   return Status::failure(Message::tr("shot %1: %2").arg(shot.number).arg(status.text()));
 }
 
+/// What the program's own rules do not take from a SEG-Y file.
+void noteWhatRulesMiss(const TomoDocument& document, const std::vector<std::size_t>& shots,
+                       std::vector<Message>& notes) {
+  const auto missed = [](const Point2D& point) {
+    return point.z != 0.0 || point.x != std::round(point.x);
+  };
+  const auto any = [&](const std::vector<Point2D>& points) {
+    return std::any_of(points.begin(), points.end(), missed);
+  };
+  for (const std::size_t shot : shots) {
+    const TravelTime& record = document.ttArray[shot];
+    if (!missed(record.shotPos2d) && !any(document.receiversOf(record))) continue;
+    notes.push_back(
+        Message::tr("read by the program's rules, the files have no elevations, and no "
+                    "positions that are not whole metres; read them by the standard"));
+    return;
+  }
+}
+
 void noteWhatIsLeftOut(const TomoDocument& document, std::size_t written, std::size_t rounded,
                        std::vector<Message>& notes) {
   const std::size_t leftOut = document.ttArray.size() - written;
@@ -223,7 +242,9 @@ Status exportRecords(const TomoDocument& document, const RecordExport& wanted,
       },
       progress, ignored);
   if (status.ok() && wanted.together) status = writeFileAtomically(files.front(), formatSegy(all));
-  if (status.ok()) noteWhatIsLeftOut(document, shots.size(), rounded, notes);
+  if (!status.ok()) return status;
+  noteWhatIsLeftOut(document, shots.size(), rounded, notes);
+  if (wanted.format == RecordFormat::kSegy) noteWhatRulesMiss(document, shots, notes);
   return status;
 }
 

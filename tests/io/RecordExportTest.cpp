@@ -126,6 +126,7 @@ TEST_F(RecordExporting, fillsTheHeadersOfSegyThatOtherProgramsRead) {
   document.recordings.edit().mends[1].traces = {{}, {true, false, 0.0}};
   const std::vector<std::string> files = write(document, RecordFormat::kSegy, true);
   ASSERT_THAT(files, ElementsAre(folder.file("shots.sgy")));
+  EXPECT_THAT(notes, ElementsAre(HasSubstr("read by the program's rules, the files have no elev")));
   const std::string file = TestFolder::get(files[0]);
   const std::size_t traceBytes = 240 + 41 * 4;
   ASSERT_EQ(file.size(), 3600 + 6 * traceBytes);
