@@ -1,7 +1,5 @@
 #include "io/OtteFile.h"
 
-#include "io/TravelTimeFile.h"
-
 #include <algorithm>
 #include <cmath>
 #include <locale>

@@ -10,6 +10,8 @@
 
 namespace talvesk {
 
+class TomoDocument;
+
 /// What a travel-time file holds: a survey of picks without its traces.
 struct TravelTimeData {
   std::string format;  ///< "otte", "txt", "xyz", "csv", "sgt" or "table"
@@ -20,6 +22,9 @@ struct TravelTimeData {
   std::vector<std::vector<double>> errors;
   std::vector<Message> warnings;  ///< what was repaired or ignored while reading
 };
+
+/// The picks of a survey.
+TravelTimeData travelTimesOf(const TomoDocument& document);
 
 /// Why a reader gave a file up.
 struct Refusal {

@@ -7,7 +7,6 @@
 #include "io/OtteFile.h"
 #include "io/PickContent.h"
 #include "io/UnifiedDataFile.h"
-#include "model/SurveyLine.h"
 
 #include <array>
 #include <filesystem>
@@ -194,13 +193,6 @@ bool holdsTravelTimes(const std::string& path) {
 
 bool asksForTimeUnit(const std::string& path) {
   return lacksTimeUnit(textOfFile(path));
-}
-
-TravelTimeData travelTimesOf(const TomoDocument& document) {
-  TravelTimeData data;
-  data.strings = document.line->goephonesStringSet;
-  data.records = document.ttArray;
-  return data;
 }
 
 Status loadTravelTimes(const std::string& path, TomoDocument& document) {

@@ -38,9 +38,6 @@ bool holdsTravelTimes(const std::string& path);
 /// cannot be read without TravelTimeReading::timeUnit.
 bool asksForTimeUnit(const std::string& path);
 
-/// The picks of a survey.
-TravelTimeData travelTimesOf(const TomoDocument& document);
-
 /// Drops the picks that lie beyond the records of the document's traces, with a warning in the
 /// data.
 void fitToRecords(TravelTimeData& data, const TomoDocument& document);

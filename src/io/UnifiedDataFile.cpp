@@ -122,7 +122,8 @@ class UnifiedDataReader : private PickReader {
 
   bool readCoordinate(std::string_view word, double& value) {
     return readNumber("position", word, value) &&
-           (std::fabs(value) <= kFarthestPosition || refuseNumber("position", word, Fault::kOutOfRange));
+           (std::fabs(value) <= kFarthestPosition ||
+            refuseNumber("position", word, Fault::kOutOfRange));
   }
 
   bool readMeasurements() {
