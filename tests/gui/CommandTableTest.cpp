@@ -287,6 +287,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
        {"actionSave_Project",
         "actionSave_Project_As",
         "actionExport_TravelTimes",
+        "actionExport_recordings",
         "actionExportSeismic_line",
         "actionImages",
         "actionPDF",
