@@ -3,6 +3,7 @@
 #include "base/Console.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 #include "processing/FirstBreak.h"
 
 #include <cmath>

@@ -2,6 +2,7 @@
 // only makes vectors of as many samples, which is the most that this memory can do.
 #include "base/Console.h"
 #include "io/ShotFile.h"
+#include "io/standard/StandardReader.h"
 #include "support/ShotFiles.h"
 
 #include <cstdint>
@@ -53,6 +54,26 @@ void measure(benchmark::State& state, const std::string& bytes, const char* path
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes.size()));
 }
 
+void measureStandard(benchmark::State& state, const std::string& bytes) {
+  console::setOut(console::nowhere());
+  console::setError(console::nowhere());
+  for (auto _ : state) {
+    StandardReading reading;
+    const Status status = parseByStandard(bytes, "a", reading);
+    if (!status.ok() || reading.shots.front().data.traces.size() != kTraces) {
+      state.SkipWithError("not read");
+    }
+    benchmark::DoNotOptimize(reading.shots.data());
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes.size()));
+}
+
+/// The same files as for the reader by the program's rules, so that times compare. Of 16-bit
+/// integers it reads as many samples, from half of the bytes.
+void seg2Standard(benchmark::State& state) {
+  measureStandard(state, seg2File(static_cast<int>(state.range(0))));
+}
+
 void seg2(benchmark::State& state) {
   measure(state, seg2File(static_cast<int>(state.range(0))), "a.seg2");
 }
@@ -61,6 +82,16 @@ void segy(benchmark::State& state) {
   const ByteOrder order = state.range(1) == 0 ? ByteOrder::kLittle : ByteOrder::kBig;
   const auto file = segyFixture(order, static_cast<std::int16_t>(state.range(0)));
   measure(state, testing::segyBytes(file), "a.segy");
+}
+
+void segyStandard(benchmark::State& state) {
+  const ByteOrder order = state.range(1) == 0 ? ByteOrder::kLittle : ByteOrder::kBig;
+  const auto file = segyFixture(order, static_cast<std::int16_t>(state.range(0)));
+  measureStandard(state, testing::segyBytes(file));
+}
+
+void suStandard(benchmark::State& state) {
+  measureStandard(state, testing::suBytes(segyFixture(ByteOrder::kLittle, 5)));
 }
 
 void su(benchmark::State& state) {
@@ -80,10 +111,16 @@ void filled(benchmark::State& state) {
 
 BENCHMARK(filled)->Unit(benchmark::kMillisecond);
 BENCHMARK(seg2)->Unit(benchmark::kMillisecond)->ArgName("format")->Arg(4)->Arg(2)->Arg(1);
+BENCHMARK(seg2Standard)->Unit(benchmark::kMillisecond)->ArgName("format")->Arg(4)->Arg(2)->Arg(1);
 BENCHMARK(segy)
     ->Unit(benchmark::kMillisecond)
     ->ArgNames({"format", "big"})
     ->ArgsProduct({{5, 2, 3}, {0, 1}});
+BENCHMARK(segyStandard)
+    ->Unit(benchmark::kMillisecond)
+    ->ArgNames({"format", "big"})
+    ->ArgsProduct({{5, 2, 3, 1}, {0, 1}});
+BENCHMARK(suStandard)->Unit(benchmark::kMillisecond);
 BENCHMARK(su)->Unit(benchmark::kMillisecond);
 
 }  // namespace talvesk

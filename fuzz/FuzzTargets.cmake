@@ -1,7 +1,7 @@
 # The entry points that the fuzzer and the replay of seeds share. Seeds of a target lie in a folder
 # of its name.
 set(TALVESK_FUZZ_TARGETS travel_times seg2 segy su palette isovalues project tables
-  settings)
+  settings seg2_standard mseed segy_standard su_standard)
 set(TALVESK_FUZZ_SOURCE_travel_times ${CMAKE_CURRENT_LIST_DIR}/FuzzTravelTimes.cpp)
 set(TALVESK_FUZZ_SOURCE_seg2 ${CMAKE_CURRENT_LIST_DIR}/FuzzSeg2.cpp)
 set(TALVESK_FUZZ_SOURCE_segy ${CMAKE_CURRENT_LIST_DIR}/FuzzSegy.cpp)
@@ -11,5 +11,9 @@ set(TALVESK_FUZZ_SOURCE_isovalues ${CMAKE_CURRENT_LIST_DIR}/FuzzIsovalues.cpp)
 set(TALVESK_FUZZ_SOURCE_project ${CMAKE_CURRENT_LIST_DIR}/FuzzProject.cpp)
 set(TALVESK_FUZZ_SOURCE_tables ${CMAKE_CURRENT_LIST_DIR}/FuzzTables.cpp)
 set(TALVESK_FUZZ_SOURCE_settings ${CMAKE_CURRENT_LIST_DIR}/FuzzSettings.cpp)
+set(TALVESK_FUZZ_SOURCE_seg2_standard ${CMAKE_CURRENT_LIST_DIR}/FuzzSeg2Standard.cpp)
+set(TALVESK_FUZZ_SOURCE_mseed ${CMAKE_CURRENT_LIST_DIR}/FuzzMiniSeed.cpp)
+set(TALVESK_FUZZ_SOURCE_segy_standard ${CMAKE_CURRENT_LIST_DIR}/FuzzSegyStandard.cpp)
+set(TALVESK_FUZZ_SOURCE_su_standard ${CMAKE_CURRENT_LIST_DIR}/FuzzSuStandard.cpp)
 set(TALVESK_FUZZ_REPLAY ${CMAKE_CURRENT_LIST_DIR}/Replay.cpp)
 set(TALVESK_FUZZ_SEEDS ${CMAKE_CURRENT_LIST_DIR}/make_seeds.py)

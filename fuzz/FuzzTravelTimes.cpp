@@ -6,6 +6,7 @@
 #include "io/OtteFile.h"
 #include "io/TravelTimeFile.h"
 #include "io/UnifiedDataFile.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>

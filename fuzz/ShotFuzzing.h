@@ -7,6 +7,7 @@
 #include "io/ShotLoader.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>

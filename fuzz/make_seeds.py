@@ -13,6 +13,7 @@ import sys
 from palette_seeds import isovalue_seeds, palette_seeds
 from project_seeds import project_seeds
 from shot_seeds import shot_seeds
+from standard_seeds import standard_seeds
 from table_seeds import setting_seeds, table_seeds
 
 
@@ -125,7 +126,7 @@ def main():
     write(root / "project", project_seeds())
     write(root / "tables", table_seeds())
     write(root / "settings", setting_seeds())
-    for target, seeds in shot_seeds().items():
+    for target, seeds in (shot_seeds() | standard_seeds()).items():
         write(root / target, seeds)
 
 

@@ -20,7 +20,10 @@ struct Page {
 constexpr Page kPages[] = {
     {"DialogSetGeometry", "geometry.html"},
     {"SelectCSVDelimiterDialog", "geometry.html"},
+    {"MendDialog", "load.html"},
     {"RecordingDetailsDialog", "load.html"},
+    {"ReadingsDialog", "load.html"},
+    {"ShotFileDialog", "load.html"},
     {"doFilteringDialog", "filter.html"},
     {"gridDialog", "inversion.html"},
     {"select_speed_Dialog", "inversion.html"},

@@ -3,6 +3,7 @@
 #include "app/Messages.h"
 #include "model/GroundModel.h"
 #include "model/RefractionDataStructure.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 
 #include <QCoreApplication>
@@ -38,7 +39,7 @@ QStringList LossQuestion::words(const TomoDocument& document, const Losses& loss
 
 bool LossQuestion::ask(QWidget* parent, const QStringList& words) {
   return askYesNo(
-      parent, tr("Warning"), tr("The survey changes. This will be lost:"),
+      parent, tr("Warning"), tr("The survey changes. This will be removed (Undo brings it back):"),
       words.join(QLatin1Char('\n')) + QStringLiteral("\n\n") + tr("Do you want to continue?"),
       false);
 }

@@ -1,32 +1,14 @@
 #include "app/MessageText.h"
 
 #include "base/Message.h"
+#include "figures/FigureWords.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 
 namespace talvesk {
-namespace {
-
-/// The context that the texts of Message::tr() have in the translations.
-constexpr char kContext[] = "talvesk::Message";
-
-class WindowLanguage : public Message::Language {
- public:
-  std::string text(const char* source) const override {
-    return QCoreApplication::translate(kContext, source).toStdString();
-  }
-  std::string number(const std::string& c) const override {
-    return QString::fromStdString(c)
-        .replace(QLatin1Char('.'), QLocale().decimalPoint())
-        .toStdString();
-  }
-};
-
-}  // namespace
 
 QString textOf(const Message& message) {
-  return QString::fromStdString(message.in(WindowLanguage()));
+  return FigureWords::message(message, QLocale());
 }
 
 QStringList linesOf(const std::vector<Message>& messages) {

@@ -2,6 +2,7 @@
 
 #include "app/MessageText.h"
 #include "base/AtomicFile.h"
+#include "io/Survey.h"
 #include "io/project/ProjectWriter.h"
 
 #include <QDir>

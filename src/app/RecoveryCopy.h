@@ -2,7 +2,6 @@
 
 #include "app/ProjectFile.h"
 #include "base/Status.h"
-#include "io/Survey.h"
 
 #include <QDateTime>
 #include <QObject>
@@ -14,6 +13,8 @@ class QLockFile;
 class QThread;
 
 namespace talvesk {
+
+struct Survey;
 
 /// A recovery copy whose program is gone.
 struct AbandonedCopy {

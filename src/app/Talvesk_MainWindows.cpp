@@ -6,6 +6,7 @@
 #include "app/presenters/CommandTable.h"
 #include "app/presenters/Presenters.h"
 #include "io/FileFormats.h"
+#include "io/Survey.h"
 #include "io/TravelTimeFile.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"

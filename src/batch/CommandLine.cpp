@@ -4,6 +4,7 @@
 #include "batch/Manual.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
+#include "batch/ProjectFiles.h"
 #include "io/FileFormats.h"
 
 #include <algorithm>
@@ -25,8 +26,15 @@ void addInfo(CLI::App& app, InfoOptions& info) {
               "Several files make one array");
   addPickReading(command, info.picks);
   command.add_flag("--samples", info.samples, "Write the samples of shot files, too")->needs(json);
+  addReader(command, info.reader)
+      ->description(
+          "By what shot files must be readable: rules, as this program always has; standard, by "
+          "the "
+          "published standard of their format, whatever their suffix (default: rules). What either "
+          "makes of a file is told in any case");
   command.final_callback([&info] {
-    if (info.samples && std::none_of(info.files.begin(), info.files.end(), shotFormatOf)) {
+    const auto isShot = [&info](const std::string& file) { return isShotFile(file, info.reader); };
+    if (info.samples && std::none_of(info.files.begin(), info.files.end(), isShot)) {
       throw CLI::ValidationError("--samples", "only shot files have samples to write");
     }
   });
@@ -60,6 +68,41 @@ void addPick(CLI::App& app, PickOptions& pick) {
   });
 }
 
+void addCheck(CLI::App& app, CheckOptions& check) {
+  CLI::App& command = *app.add_subcommand(
+      "check", "Look for what is doubtful about recordings: positions, triggers, traces");
+  command
+      .add_option("INPUT", check.shots.files,
+                  "Shot files (" + shotSuffixes() + "), or one project (.tvsk)")
+      ->required();
+  addReader(command, check.shots.reader);
+  const ShotOptionGroup positions = addPositionOptions(command, check.shots);
+  addPath(
+      command, "--json", check.json,
+      "Write the findings as JSON, shots and traces from 0, metres and seconds; '-' is standard "
+      "output");
+  mustEndIn(addPath(command, "--mend", check.project,
+                    "Carry out all proposals, check again until nothing is proposed, and save the "
+                    "mended survey as a project named *.tvsk"),
+            {".tvsk"}, false);
+  command.add_flag("--strict", check.strict,
+                   "End with exit code 3 when something is proposed, or left after --mend");
+  command.add_flag("--quiet", check.quiet, kQuietHelp);
+  command.final_callback([positions, &check] {
+    positions.check(check.shots);
+    std::vector<std::string>& files = check.shots.files;
+    if (std::none_of(files.begin(), files.end(), isProjectFile)) return;
+    if (files.size() > 1) {
+      throw CLI::ValidationError("INPUT", "a project is checked on its own");
+    }
+    if (positions.anyGiven()) {
+      throw CLI::ValidationError("INPUT", "the options of shot files do not apply to a project");
+    }
+    check.input = std::move(files.front());
+    files.clear();
+  });
+}
+
 void addConvert(CLI::App& app, ConvertOptions& convert) {
   CLI::App& command = *app.add_subcommand(
       "convert",
@@ -77,6 +120,7 @@ void addConvert(CLI::App& app, ConvertOptions& convert) {
                       "gets .otte")
           ->required(),
       writtenTravelTimeSuffixes(), false, true);
+  addPickReader(command, convert.picks);
   addPickReading(command, convert.picks);
   command.add_flag("--quiet", convert.quiet, kQuietHelp);
 }
@@ -94,6 +138,7 @@ void addDemo(CLI::App& app, DemoOptions& demo) {
 struct AllOptions {
   InfoOptions info;
   PickOptions pick;
+  CheckOptions check;
   InvertOptions invert;
   RefractOptions refract;
   ExportOptions exports;
@@ -113,6 +158,7 @@ void addCommands(CLI::App& app, AllOptions& all) {
   addInvert(app, all.invert);
   addRefract(app, all.refract);
   addPick(app, all.pick);
+  addCheck(app, all.check);
   addInfo(app, all.info);
   addExport(app, all.exports);
   addConvert(app, all.convert);
@@ -149,7 +195,9 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
 
   if (chosenCommand(app) == nullptr) {
     result.exitCode = wrongUsage(
-        "", "a command is required: info, pick, invert, refract, export, convert, records or demo");
+        "",
+        "a command is required: info, pick, check, invert, refract, export, convert, records or "
+        "demo");
     return result;
   }
   const std::string name = chosenCommand(app)->get_name();
@@ -157,6 +205,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     result.command = std::move(all.info);
   } else if (name == "pick") {
     result.command = std::move(all.pick);
+  } else if (name == "check") {
+    result.command = std::move(all.check);
   } else if (name == "invert") {
     result.command = std::move(all.invert);
   } else if (name == "refract") {

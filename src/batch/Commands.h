@@ -9,6 +9,7 @@ namespace talvesk {
 
 int run(const InfoOptions& options);
 int run(const PickOptions& options);
+int run(const CheckOptions& options);
 int run(const InvertOptions& options);
 int run(const RefractOptions& options);
 int run(const ExportOptions& options);

@@ -2,7 +2,9 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/OutputFiles.h"
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
+#include "model/TomoDocument.h"
 
 #include <ostream>
 #include <vector>

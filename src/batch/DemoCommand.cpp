@@ -8,6 +8,7 @@
 #include "io/GeometryFile.h"
 #include "io/TravelTimeFile.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <filesystem>
 #include <ostream>

@@ -2,6 +2,7 @@
 
 #include "batch/DemoNoise.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 #include "tomo/ShortestPaths.h"
 
 #include <algorithm>

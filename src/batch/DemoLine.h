@@ -1,10 +1,10 @@
 #pragma once
 
-#include "model/TomoDocument.h"
-
 #include <cstddef>
 
 namespace talvesk {
+
+class TomoDocument;
 
 // A synthetic line to try the program on, computed and not measured: 48 geophones every 2 m on a
 // gentle slope, 11 shots, loose cover over weathered rock over bedrock, and a valley in the bedrock

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "io/Seg2Writer.h"
-#include "model/TomoDocument.h"
+#include "io/WrittenShot.h"
 
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 // What a crew would have recorded on the demo line: a blow, a first arrival that decays over some
 // swings and weakens with distance, a slower and weaker wave behind it, and noise that does not

@@ -2,8 +2,11 @@
 
 #include "base/Console.h"
 #include "batch/Failure.h"
+#include "io/TravelTimeData.h"
+#include "io/TravelTimeFile.h"
 
 #include <iostream>
+#include <sstream>
 
 #include <unistd.h>
 
@@ -27,11 +30,27 @@ Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool v
   return channels;
 }
 
+void warnOfLosses(const std::string& path, const std::vector<Message>& losses) {
+  std::string clauses;
+  for (const std::string& loss : losses) clauses += (clauses.empty() ? "" : "; ") + loss;
+  warn(path + ": " + clauses + ". Add --reader standard to read it by the standard of its format");
+}
+
 Status readPicks(const std::string& path, const TravelTimeReading& reading, TravelTimeData& data) {
   Status status = readTravelTimes(path, data, reading);
   for (const std::string& warning : data.warnings) warn(path + ": " + warning);
   if (status.ok() || reading.timeUnit || !asksForTimeUnit(path)) return status;
   return Status::failure(status.message() + "; say it with --time-unit");
+}
+
+Status writePicks(const std::string& path, const TomoDocument& document) {
+  std::ostringstream remarks;
+  std::ostream& before = console::error();
+  console::setError(remarks);
+  const Status status = writeTravelTimes(path, document);
+  console::setError(before);
+  if (status.ok() && !remarks.str().empty()) warn(remarks.str());
+  return status;
 }
 
 }  // namespace talvesk

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Message.h"
 #include "batch/OutputFiles.h"
 #include "batch/Progress.h"
 #include "io/TravelTimeFile.h"
@@ -9,6 +10,9 @@
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
+struct TravelTimeData;
 
 /// Where a command's texts go.
 struct Channels {
@@ -24,7 +28,15 @@ struct Channels {
 /// \param verbose the engine talks where it would tear a progress bar apart, which then are lines
 Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool verbose = false);
 
+/// Warns on standard error of what the program's rules lose of a shot file, and names the option
+/// that helps.
+void warnOfLosses(const std::string& path, const std::vector<Message>& losses);
+
 /// Reads picks, and warns on standard error of what the reader repaired or left out.
 Status readPicks(const std::string& path, const TravelTimeReading& reading, TravelTimeData& data);
+
+/// Writes picks, and warns on standard error where the format cannot hold the survey, which its
+/// writer tells the console only.
+Status writePicks(const std::string& path, const TomoDocument& document);
 
 }  // namespace talvesk

@@ -11,7 +11,7 @@
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
-#include "io/TravelTimeFile.h"
+#include "io/project/projectReader.h"
 #include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
 #include "model/LeftOut.h"
@@ -35,17 +35,26 @@ std::vector<OutputFile> outputsOf(const ExportOptions& options) {
   return outputs;
 }
 
-int choosePalette(const std::string& name, ColorPaletteList& palettes) {
-  if (name.empty()) return kDone;
+/// Those of the section in KML; pictures and reports have the project's.
+struct KmlColors {
+  const ColorPalette* palette = nullptr;
+  ValueRange range;
+};
+
+int chooseColors(const ExportOptions& options, const ColorPaletteList& palettes,
+                 KmlColors& colors) {
+  colors.palette = &palettes.current();
+  colors.range = options.range.value_or(ValueRange{colors.palette->min_db, colors.palette->max_db});
+  if (options.palette.empty()) return kDone;
   std::string names;
   for (std::size_t i = 0; i < palettes.size(); ++i) {
-    if (palettes[i].name == name) {
-      palettes.select(i);
+    if (palettes[i].name == options.palette) {
+      colors.palette = &palettes[i];
       return kDone;
     }
     names += (i > 0 ? ", '" : "'") + palettes[i].name + "'";
   }
-  return wrongUsage("export", "--palette: '" + name + "' is none of " + names);
+  return wrongUsage("export", "--palette: '" + options.palette + "' is none of " + names);
 }
 
 /// A code that is given here is checked, so that a slip is noticed; one that comes with the project
@@ -54,7 +63,7 @@ Status checkSystem(const ExportOptions& options) {
   return options.geography ? GeoTransformer(options.geography->CRS).status() : Status();
 }
 
-int writeFiles(const ExportOptions& options, const LoadedProject& project, ValueRange range,
+int writeFiles(const ExportOptions& options, const LoadedProject& project, const KmlColors& colors,
                std::ostream& summary) {
   const TomoDocument& document = project.document;
   OutputAttempts attempt(&summary);
@@ -62,7 +71,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
     announceGriddedText(path);
     return writeGriddedText(path, document, options.griddedText);
   });
-  attempt(options.otte, [&](const auto& path) { return writeTravelTimes(path, document); });
+  attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
   attempt(options.vtk, [&](const auto& path) { return writeVtkGrid(path, document); });
   attempt(options.surfer, [&](const auto& path) { return writeSurferGrid(path, document); });
   attempt(options.kmlLine, [&](const auto& path) {
@@ -71,7 +80,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, Value
   });
   attempt(options.kmlSection, [&](const auto& path) {
     const Status system = checkSystem(options);
-    return system.ok() ? writeSectionKml(path, document, project.palettes->current(), range)
+    return system.ok() ? writeSectionKml(path, document, *colors.palette, colors.range)
                        : cannotWrite(path, system.message());
   });
   const SectionFigureOptions section = sectionFigureOptions(
@@ -122,9 +131,8 @@ int run(const ExportOptions& options) {
   Status status = readProject(options.project, project);
   if (status.ok()) status = prepareFigures(options, project.document);
   if (!status.ok()) return failed(status.message());
-  const ColorPalette& inView = project.palettes->current();
-  const ValueRange range = options.range.value_or(ValueRange{inView.min_db, inView.max_db});
-  if (const int chosen = choosePalette(options.palette, project.palettes.edit()); chosen != kDone) {
+  KmlColors colors;
+  if (const int chosen = chooseColors(options, *project.palettes, colors); chosen != kDone) {
     return chosen;
   }
   if (options.geography) {
@@ -132,7 +140,7 @@ int run(const ExportOptions& options) {
     project.document.map.edit().geoCoord_isSet = true;
   }
   warnOfOldProfile(options, project);
-  return writeFiles(options, project, range, *channels.summary);
+  return writeFiles(options, project, colors, *channels.summary);
 }
 
 }  // namespace talvesk

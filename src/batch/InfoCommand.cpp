@@ -7,8 +7,11 @@
 #include "batch/ResultJson.h"
 #include "grid/SurveyProfile.h"
 #include "io/FileFormats.h"
+#include "io/ReadingComparison.h"
+#include "io/SegyFile.h"
 #include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
+#include "io/project/projectReader.h"
 #include "model/SurveyFacts.h"
 
 #include <algorithm>
@@ -16,6 +19,11 @@
 
 namespace talvesk {
 namespace {
+
+std::string padded(std::string text, std::size_t width) {
+  text.resize(std::max(text.size(), width), ' ');
+  return text;
+}
 
 void describe(const std::string& file, const TravelTimeData& data, std::ostream& out) {
   std::vector<Point2D> shots;
@@ -42,36 +50,54 @@ void describe(const std::string& file, const TravelTimeData& data, std::ostream&
 }
 
 /// "7", or "7 to 9" where the traces differ.
-template <typename ValueOf>
-std::string span(const std::vector<ShotRecord>& traces, ValueOf valueOf) {
-  double least = valueOf(traces.front());
-  double greatest = least;
-  for (const ShotRecord& trace : traces) {
-    least = std::min(least, valueOf(trace));
-    greatest = std::max(greatest, valueOf(trace));
-  }
-  const std::string text = formatDouble(least);
-  return least == greatest ? text : text + " to " + formatDouble(greatest);
+std::string spanText(const ReadingSummary::Span& span, double factor = 1.0) {
+  const std::string least = formatDouble(factor * span.least);
+  return span.least == span.most ? least : least + " to " + formatDouble(factor * span.most);
 }
 
 std::string place(const Point2D& point) {
   return formatDouble(point.x) + " m, elevation " + formatDouble(point.z) + " m";
 }
 
-void describe(const std::string& file, const ShotFileData& data, std::ostream& out) {
-  out << asOneLine(file) << "\n  format      " << data.format << "\n  traces      "
-      << data.traces.size() << '\n';
-  if (data.traces.empty()) return;
-  out << "  samples     "
-      << span(data.traces,
-              [](const ShotRecord& t) { return static_cast<double>(t.samples.size()); })
-      << "\n  interval    "
-      << span(data.traces, [](const ShotRecord& t) { return t.sampleInterval * 1000.0; })
-      << " ms\n  delay       "
-      << span(data.traces, [](const ShotRecord& t) { return t.delay * 1000.0; })
-      << " ms\n  source      " << place(data.traces.front().source) << "\n  receivers   "
-      << place(data.traces.front().receiver) << "\n              to "
-      << place(data.traces.back().receiver) << '\n';
+/// What a reading says in the lines of the table of readings, as far as it says anything.
+std::vector<std::string> columnOf(const ReadShotFile& file) {
+  if (!file.outcome.status.ok()) return {"not read"};
+  constexpr double kMsPerSecond = 1000.0;
+  const ReadingSummary summary = summaryOf(file);
+  std::vector<std::string> column = {file.outcome.format, std::to_string(summary.shots),
+                                     std::to_string(summary.traces)};
+  if (summary.traces == 0) return column;
+  const auto holdsTraces = [](const auto& shot) { return !shot.data.traces.empty(); };
+  const auto& first = *std::find_if(file.shots.begin(), file.shots.end(), holdsTraces);
+  const auto& last = *std::find_if(file.shots.rbegin(), file.shots.rend(), holdsTraces);
+  const std::vector<std::string> values = {spanText(summary.samples),
+                                           spanText(summary.sampleInterval, kMsPerSecond) + " ms",
+                                           spanText(summary.delay, kMsPerSecond) + " ms",
+                                           place(first.data.traces.front().source),
+                                           place(first.data.traces.front().receiver),
+                                           "to " + place(last.data.traces.back().receiver)};
+  column.insert(column.end(), values.begin(), values.end());
+  return column;
+}
+
+/// Both readings of a shot file, side by side.
+void describe(const std::string& file, const ReadShotFile& byRules, const ReadShotFile& byStandard,
+              std::ostream& out) {
+  static const std::vector<std::string> kLabels = {
+      "", "format", "shots", "traces", "samples", "interval", "delay", "source", "receivers", ""};
+  std::vector<std::string> left = columnOf(byRules);
+  std::vector<std::string> right = columnOf(byStandard);
+  left.insert(left.begin(), "by the program's rules");
+  right.insert(right.begin(), "by the standard");
+  std::size_t width = 0;
+  for (const std::string& text : left) width = std::max(width, text.size());
+  out << asOneLine(file) << '\n';
+  for (std::size_t i = 0; i < std::max(left.size(), right.size()); ++i) {
+    const std::string& text = i < left.size() ? left[i] : std::string();
+    out << asOneLine("  " + padded(kLabels[i], 12) + padded(text, width + 3) +
+                     (i < right.size() ? right[i] : std::string()))
+        << '\n';
+  }
 }
 
 /// What the command makes of the files one after the other.
@@ -88,10 +114,7 @@ class Inventory {
   int exitCode() const { return mExitCode; }
 
   /// A single file that is no shot file has nothing to say when it cannot be read.
-  bool hasJson() const {
-    return mExitCode == kDone || mOptions.files.size() > 1 ||
-           shotFormatOf(mOptions.files.front()) != nullptr;
-  }
+  bool hasJson() const { return mExitCode == kDone || mOptions.files.size() > 1 || mTellsOfShots; }
   std::string json() const {
     return mOptions.files.size() == 1 ? mValues.front() : jsonArray(mValues);
   }
@@ -106,7 +129,9 @@ class Inventory {
 
   void addTravelTimes(const std::string& file) {
     TravelTimeData data;
-    const Status status = readPicks(file, mOptions.picks, data);
+    TravelTimeReading reading = mOptions.picks;
+    reading.byContent = mOptions.reader == ShotReader::kStandard;
+    const Status status = readPicks(file, reading, data);
     take(file, status, data, [&] { return travelTimesJson(data); });
   }
 
@@ -116,12 +141,29 @@ class Inventory {
     take(file, status, project, [&] { return projectJson(project); });
   }
 
+  ReadShotFile readByRules(const std::string& file) {
+    if (shotFormatOf(file) != nullptr) return readShotFileBy(ShotReader::kRules, file, mState);
+    ReadShotFile refused;
+    refused.outcome.status = neitherKind(file);
+    return refused;
+  }
+
+  /// The reader that was asked for decides about success, and about the warnings to be told.
   void addShot(const std::string& file) {
-    ShotFileData data;
-    const Status status =
-        shotFormatOf(file) != nullptr ? readShotFile(file, mState, data) : neitherKind(file);
-    for (const std::string& warning : data.warnings) warn(file + ": " + warning);
-    take(file, status, data, [&] { return shotFileJson(data, mOptions.samples); });
+    const ReadShotFile byRules = readByRules(file);
+    const ReadShotFile byStandard = readShotFileBy(ShotReader::kStandard, file, mState);
+    const bool standard = mOptions.reader == ShotReader::kStandard;
+    const ShotFileOutcome& outcome = standard ? byStandard.outcome : byRules.outcome;
+    const std::vector<Message> losses = lostByRules(byRules, byStandard);
+    for (const std::string& warning : outcome.warnings) warn(file + ": " + warning);
+    if (!standard && !losses.empty()) warnOfLosses(file, losses);
+    if (!outcome.status.ok()) mExitCode = failed(outcome.status.message());
+    if (shotFormatOf(file) != nullptr || byStandard.outcome.status.ok()) mTellsOfShots = true;
+    if (!mOptions.json.empty()) {
+      mValues.push_back(shotFileJson(file, byRules, byStandard, losses, mOptions.samples));
+    } else if (byRules.outcome.status.ok() || byStandard.outcome.status.ok()) {
+      describe(file, byRules, byStandard, mOut);
+    }
   }
 
   template <typename Data, typename ToJson>
@@ -140,6 +182,7 @@ class Inventory {
   std::ostream& mOut;
   SegyState mState;  ///< what the readers of SEG-Y and SU pass on from file to file
   std::vector<std::string> mValues;
+  bool mTellsOfShots = false;
   int mExitCode = kDone;
 };
 

@@ -11,7 +11,7 @@
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
 #include "grid/GridBuilder.h"
-#include "io/TravelTimeFile.h"
+#include "io/project/projectReader.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
 #include "model/SurveyFacts.h"
@@ -169,16 +169,16 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
     announceGriddedText(path);
     return writeGriddedText(path, document, {options.lineY, options.zOffset});
   });
-  attempt(options.otte, [&](const auto& path) { return writeTravelTimes(path, document); });
-  attempt(options.project,
-          [&](const auto& path) { return writeProject(path, options.quiet, project); });
+  attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
+  attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) {
       return writeSectionFigure(document, sectionFigure(options), path);
     });
   }
   attempt(options.report, [&](const auto& path) {
-    return writeReportFile({document}, options.reportFields, sectionFigure(options), path);
+    return writeReportFile({document, &*project.interpretation}, options.reportFields,
+                           sectionFigure(options), path);
   });
   return attempt.exitCode();
 }

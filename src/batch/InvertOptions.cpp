@@ -184,7 +184,7 @@ void addInvert(CLI::App& app, InvertOptions& options) {
           "a progress bar")
       ->excludes(quiet);
   command.final_callback([inputs, shots, &options] {
-    sortInputs(*inputs, shots.anyGiven(), options.input, options.shots.files);
+    sortInputs(*inputs, shots.anyGiven(), options.input, options.shots);
     shots.check(options.shots);
     if (options.contours > 0 && options.images.empty() && options.report.empty()) {
       throw CLI::RequiresError("--contours", "--image or --report");

@@ -26,14 +26,29 @@ struct ShotOptionGroup {
   void check(const ShotOptions& shots) const;
 };
 
-/// The options with which shot files become picks. `shots` must outlive the parsing.
+/// --reader: by what files of measurements are read. `reader` must outlive the parsing.
+CLI::Option* addReader(CLI::App& command, ShotReader& reader);
+
+/// Whether a file counts as a shot file: by its suffix, or by the standard whatever is no
+/// travel-time file and no project.
+bool isShotFile(const std::string& path, ShotReader reader);
+
+/// The options with which shot files become picks, --reader among them, which is no part of the
+/// group: other files are read by the standard, too. `shots`
+/// must outlive the parsing.
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots);
 
-/// Of those options only the ones that place geophones and shots.
+/// Those of them that say where shots and geophones stand.
+ShotOptionGroup addPlaceOptions(CLI::App& command, ShotOptions& shots);
+
+/// Those of them that say where shots and geophones stand, and from when time counts.
 ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots);
 
 /// --elevations and --smooth-elevations, which go with every kind of input.
 void addElevationOptions(CLI::App& command, ElevationOptions& elevations);
+
+/// --reader, of a command that takes picks only.
+CLI::Option* addPickReader(CLI::App& command, TravelTimeReading& picks);
 
 /// --time-unit, of picks in tables. `picks` must outlive the parsing.
 void addPickReading(CLI::App& command, TravelTimeReading& picks);
@@ -50,8 +65,9 @@ std::string kindsOfInput();
 
 /// Tells shot files from a travel-time file, which stands alone and has nothing to be filtered.
 /// Throws CLI::ValidationError for what does not go together.
+/// \param shots its reader decides; its files are set
 void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, std::string& input,
-                std::vector<std::string>& shotFiles);
+                ShotOptions& shots);
 
 /// The commands `invert` and `refract`.
 void addInvert(CLI::App& app, InvertOptions& options);

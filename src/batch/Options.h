@@ -6,6 +6,7 @@
 #include "io/TravelTimeFile.h"
 #include "model/GeographicsCoord.h"
 #include "model/Parameters.h"
+#include "model/Recordings.h"
 #include "processing/ShotFilters.h"
 #include "tomo/TomographyRun.h"
 #include "view/ColorPalette.h"
@@ -18,7 +19,8 @@
 namespace talvesk {
 
 /// What talvesk-batch tells whoever called it.
-enum ExitCode : int { kDone = 0, kFailed = 1, kWrongUsage = 2 };
+/// The last one only of a check that is asked for it.
+enum ExitCode : int { kDone = 0, kFailed = 1, kWrongUsage = 2, kDoubtful = 3 };
 
 /// The place that stands for standard output where a path is expected.
 inline constexpr const char* kStandardOutput = "-";
@@ -30,6 +32,7 @@ struct InfoOptions {
   TravelTimeReading picks;
   std::string json;
   bool samples = false;
+  ShotReader reader = ShotReader::kRules;  ///< whose failure is that of the command
 };
 
 /// On what the first breaks are picked.
@@ -44,6 +47,7 @@ struct ElevationOptions {
 /// How shot files become picks.
 struct ShotOptions {
   std::vector<std::string> files;
+  ShotReader reader = ShotReader::kRules;
   PickFilter filter = PickFilter::kNone;
   BandFilter band;              ///< of kBand: one corner at least
   std::string geophones;        ///< geometry file
@@ -61,6 +65,15 @@ struct PickOptions {
   std::vector<std::string> images;
   bool quiet = false;
   bool verbose = false;
+};
+
+struct CheckOptions {
+  std::string input;  ///< project; none: shot files
+  ShotOptions shots;
+  std::string json;
+  std::string project;  ///< to save the mended survey in
+  bool strict = false;  ///< what is left with a proposal makes an exit code of its own
+  bool quiet = false;
 };
 
 /// What a report says of those it concerns; empty ones are left out.
@@ -160,7 +173,8 @@ struct DemoOptions {
   bool quiet = false;
 };
 
-using CommandOptions = std::variant<InfoOptions, PickOptions, InvertOptions, RefractOptions,
-                                    ExportOptions, ConvertOptions, RecordsOptions, DemoOptions>;
+using CommandOptions =
+    std::variant<InfoOptions, PickOptions, CheckOptions, InvertOptions, RefractOptions,
+                 ExportOptions, ConvertOptions, RecordsOptions, DemoOptions>;
 
 }  // namespace talvesk

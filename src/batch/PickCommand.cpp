@@ -1,4 +1,3 @@
-#include "base/Console.h"
 #include "batch/Commands.h"
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
@@ -7,31 +6,17 @@
 #include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
-#include "io/TravelTimeFile.h"
-
-#include <sstream>
+#include "io/project/projectReader.h"
 
 namespace talvesk {
 namespace {
-
-/// The writer tells the console of surveys that its format cannot hold.
-Status writePicks(const std::string& path, const TomoDocument& document) {
-  std::ostringstream remarks;
-  std::ostream& before = console::error();
-  console::setError(remarks);
-  const Status status = writeTravelTimes(path, document);
-  console::setError(before);
-  if (status.ok() && !remarks.str().empty()) warn(remarks.str());
-  return status;
-}
 
 /// Tries every output: a picture that cannot be drawn must not cost the picks.
 int writeResults(const PickOptions& options, const LoadedProject& project) {
   const TomoDocument& document = project.document;
   OutputAttempts attempt;
   attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
-  attempt(options.project,
-          [&](const auto& path) { return writeProject(path, options.quiet, project); });
+  attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   attempt(options.json, [&](const auto& path) {
     return writeOutput(path, picksJson(document, nameOf(options.shots.filter)));
   });

@@ -8,8 +8,10 @@
 #include "io/FileFormats.h"
 #include "io/project/ProjectLock.h"
 #include "io/project/ProjectWriter.h"
+#include "io/project/projectReader.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -33,11 +35,11 @@ Status workingFolder(std::string& path) {
 }
 
 /// An archive is put together in a file, whose bytes then go on.
-Status streamProject(const std::string& path, bool quiet, const LoadedProject& project) {
+Status streamProject(const std::string& path, const LoadedProject& project) {
   const QTemporaryDir folder;
   const std::string file = folder.filePath(QStringLiteral("project.tvsk")).toStdString();
   std::string bytes;
-  Status status = writeProject(file, quiet, project);
+  Status status = writeProject(file, project);
   if (status.ok()) status = readWholeFile(file, bytes);
   return status.ok() ? writeStream(path, bytes) : status;
 }
@@ -61,6 +63,14 @@ void describeInversion(const TomoDocument& document, std::ostream& out) {
   out << "\n";
   for (const std::string& line : describe(leftOut(document, findExcluded(document)), document)) {
     out << "              " << line << "\n";
+  }
+}
+
+void listMends(const TomoDocument& document, std::ostream& out) {
+  for (std::size_t set = 0; set < document.recordings->mends.size(); ++set) {
+    for (const Message& line : describeMends(document, set)) {
+      out << "  mend        shot " << set + 1 << ": " << line << "\n";
+    }
   }
 }
 
@@ -92,8 +102,8 @@ Status readProject(const std::string& path, LoadedProject& project) {
   return {};
 }
 
-Status writeProject(const std::string& path, bool quiet, const LoadedProject& project) {
-  if (isStreamPlace(path)) return streamProject(path, quiet, project);
+Status writeProject(const std::string& path, const LoadedProject& project) {
+  if (isStreamPlace(path)) return streamProject(path, project);
   std::string folder;
   if (Status status = workingFolder(folder); !status.ok()) return status;
   const ProjectLock::Outcome lock = ProjectLock::take(path);
@@ -103,7 +113,6 @@ Status writeProject(const std::string& path, bool quiet, const LoadedProject& pr
                   project.section, project.own) != 0) {
     return Status::failure("The project " + path + " has not been saved: " + writer.message());
   }
-  if (quiet) return {};
   for (const std::string& warning : writer.warnings()) warn(warning);
   return {};
 }
@@ -131,6 +140,7 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
   } else {
     out << "none\n";
   }
+  listMends(document, out);
   out << "  inversion   ";
   if (!document.result->has_tomographic_info) {
     out << "none\n";

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/Status.h"
-#include "io/project/projectReader.h"
 
 #include <iosfwd>
 #include <string>
 
 namespace talvesk {
+
+struct LoadedProject;
 
 /// Whether a name ends in ".tvsk", whatever its case.
 bool isProjectFile(const std::string& path);
@@ -15,8 +16,8 @@ bool isProjectFile(const std::string& path);
 /// told.
 Status readProject(const std::string& path, LoadedProject& project);
 
-/// Saves a project. What the user should know about its shot files is warned of unless `quiet`.
-Status writeProject(const std::string& path, bool quiet, const LoadedProject& project);
+/// Saves a project. What the user should know about its shot files is warned of.
+Status writeProject(const std::string& path, const LoadedProject& project);
 
 /// A few lines on what a project holds.
 void describe(const std::string& path, const LoadedProject& project, std::ostream& out);

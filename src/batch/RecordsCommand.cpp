@@ -39,7 +39,8 @@ void addRecords(CLI::App& app, RecordsOptions& options) {
   const auto inputs = std::make_shared<std::vector<std::string>>();
   command.add_option("INPUT", *inputs, "Shot files, or one project (.tvsk)")->required();
   addElevationOptions(command, options.shots.elevations);
-  const ShotOptionGroup shots = addPositionOptions(command, options.shots);
+  addReader(command, options.shots.reader);
+  const ShotOptionGroup shots = addPlaceOptions(command, options.shots);
   addPath(command, "-o,--output-folder", options.folder,
           "Folder for the files; made when it does not exist")
       ->required();

@@ -10,6 +10,7 @@
 #include "batch/ShotPicking.h"
 #include "figures/RefractionFigure.h"
 #include "io/LayerFile.h"
+#include "io/project/projectReader.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/Branches.h"
 #include "refraction/BuildProfiles.h"
@@ -100,8 +101,7 @@ int writeResults(const RefractOptions& options, const LoadedProject& project,
   attempt(options.table, [&](const auto& path) {
     return writeOutput(path, profileTable(interpretation.refractData));
   });
-  attempt(options.project,
-          [&](const auto& path) { return writeProject(path, options.quiet, project); });
+  attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) {
       return writeRefractionFigure(document, interpretation.refractData, {}, path);

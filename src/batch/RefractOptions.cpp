@@ -50,7 +50,7 @@ void addRefract(CLI::App& app, RefractOptions& options) {
         options.project.empty() && options.report.empty()) {
       throw CLI::RequiredError("one of --json, --table, --image, --project and --report");
     }
-    sortInputs(*inputs, shots.anyGiven(), options.input, options.shots.files);
+    sortInputs(*inputs, shots.anyGiven(), options.input, options.shots);
     shots.check(options.shots);
   });
 }

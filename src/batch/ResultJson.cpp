@@ -1,8 +1,12 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "io/ReadShotFile.h"
+#include "io/TravelTimeData.h"
+#include "io/project/projectReader.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -10,6 +14,7 @@
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
+#include "tomo/TomographyRun.h"
 
 namespace talvesk {
 namespace {
@@ -51,6 +56,29 @@ Json recordJson(const TravelTime& record) {
   shot["trace_set"] = record.traceSetID;
   shot["times"] = record.ttMisurati;
   return shot;
+}
+
+/// Null without any. Traces and shots are counted from 0, as in the rest.
+Json mendsJson(const ShotMends& mends) {
+  if (!mends.any()) return nullptr;
+  Json traces = Json::array();
+  for (std::size_t j = 0; j < mends.traces.size(); ++j) {
+    const TraceMend& mend = mends.traces[j];
+    if (!mend.any()) continue;
+    Json trace = Json::object();
+    trace["trace"] = j;
+    trace["killed"] = mend.killed;
+    trace["reversed"] = mend.reversed;
+    trace["muted_before"] = mend.mutedBefore;
+    traces.push_back(std::move(trace));
+  }
+  Json json = Json::object();
+  json["time_shift"] = mends.timeShift;
+  json["disabled"] = mends.disabled;
+  json["order_reversed"] = mends.orderReversed;
+  json["stacked_with"] = mends.stackedWith;
+  json["traces"] = std::move(traces);
+  return json;
 }
 
 Json gridJson(const TomoDocument& document) {
@@ -107,6 +135,57 @@ Json sectionTimesJson(const TomoDocument& document) {
   return times;
 }
 
+Json tracesJson(const ShotFileData& data, bool samples) {
+  Json traces = Json::array();
+  for (const ShotRecord& record : data.traces) {
+    Json trace = Json::object();
+    trace["samples"] = record.samples.size();
+    trace["sample_interval"] = record.sampleInterval;
+    trace["source"] = pointJson(record.source);
+    trace["receiver"] = pointJson(record.receiver);
+    trace["delay"] = record.delay;
+    if (samples) trace["data"] = record.samples;
+    traces.push_back(std::move(trace));
+  }
+  return traces;
+}
+
+Json failureJson(const std::string& file, const Status& status) {
+  Json json = Json::object();
+  json["file"] = file;
+  json["status"] = status.code();
+  json["message"] = status.message();
+  return json;
+}
+
+Json textsJson(const std::vector<Message>& messages) {
+  Json texts = Json::array();
+  for (const Message& message : messages) texts.push_back(message.english());
+  return texts;
+}
+
+/// What the standard makes of a shot file.
+Json standardJson(const ReadShotFile& file, const std::vector<Message>& losses, bool samples) {
+  Json json = Json::object();
+  json["status"] = file.outcome.status.code();
+  if (!file.outcome.status.ok()) {
+    json["message"] = file.outcome.status.message();
+    return json;
+  }
+  json["format"] = file.outcome.format;
+  Json shots = Json::array();
+  for (const StandardReading::Shot& shot : file.shots) {
+    Json record = Json::object();
+    record["name"] = shot.name;
+    record["traces"] = tracesJson(shot.data, samples);
+    shots.push_back(std::move(record));
+  }
+  json["shots"] = std::move(shots);
+  json["warnings"] = textsJson(file.outcome.warnings);
+  json["lost_by_rules"] = textsJson(losses);
+  return json;
+}
+
 }  // namespace
 
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result) {
@@ -149,31 +228,22 @@ std::string travelTimesJson(const TravelTimeData& data) {
   return jsonText(json) + "\n";
 }
 
-std::string shotFileJson(const ShotFileData& data, bool samples) {
-  Json traces = Json::array();
-  for (const ShotRecord& record : data.traces) {
-    Json trace = Json::object();
-    trace["samples"] = record.samples.size();
-    trace["sample_interval"] = record.sampleInterval;
-    trace["source"] = pointJson(record.source);
-    trace["receiver"] = pointJson(record.receiver);
-    trace["delay"] = record.delay;
-    if (samples) trace["data"] = record.samples;
-    traces.push_back(std::move(trace));
+std::string shotFileJson(const std::string& file, const ReadShotFile& byRules,
+                         const ReadShotFile& byStandard, const std::vector<Message>& losses,
+                         bool samples) {
+  Json json = failureJson(file, byRules.outcome.status);
+  if (byRules.outcome.status.ok()) {
+    json = Json::object();
+    json["format"] = byRules.outcome.format;
+    json["status"] = 0;
+    json["traces"] = tracesJson(byRules.shots.front().data, samples);
   }
-  Json json = Json::object();
-  json["format"] = data.format;
-  json["status"] = 0;
-  json["traces"] = std::move(traces);
+  json["standard"] = standardJson(byStandard, losses, samples);
   return jsonText(json) + "\n";
 }
 
 std::string unreadableJson(const std::string& file, const Status& status) {
-  Json json = Json::object();
-  json["file"] = file;
-  json["status"] = status.code();
-  json["message"] = status.message();
-  return jsonText(json) + "\n";
+  return jsonText(failureJson(file, status)) + "\n";
 }
 
 std::string picksJson(const TomoDocument& document, const std::string& filter) {
@@ -183,6 +253,8 @@ std::string picksJson(const TomoDocument& document, const std::string& filter) {
     const TraceSet& traces = document.recordings->traceSets[i];
     Json shot = recordJson(record);
     shot["file"] = document.recordings->filenames[i];
+    const std::string name = shotRecord(document, i);
+    if (!name.empty()) shot["record"] = name;
     shot["samples_before_shot"] = traces.empty() ? 0 : traces.front().droppedSamples;
     shot["accepted"] = pickCount(record);
     shot["rejected"] = record.ttMisurati.size() - pickCount(record);
@@ -207,6 +279,7 @@ std::string projectJson(const LoadedProject& project) {
     shot["traces"] =
         i < document.recordings->traceSets.size() ? document.recordings->traceSets[i].size() : 0;
     shot["computed_times"] = record.ttCalcolati;
+    shot["mends"] = mendsJson(mendsOfRecord(document, static_cast<std::int32_t>(i)));
     shots.push_back(std::move(shot));
   }
   Json json = Json::object();

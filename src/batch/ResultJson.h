@@ -1,15 +1,18 @@
 #pragma once
 
-#include "io/ShotRecord.h"
-#include "io/TravelTimeData.h"
-#include "io/project/projectReader.h"
-#include "model/TomoDocument.h"
-#include "tomo/TomographyRun.h"
+#include "base/Message.h"
+#include "base/Status.h"
 
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
+struct LoadedProject;
+struct ReadShotFile;
+struct TomographyResult;
+struct TravelTimeData;
 
 // Results as JSON texts, in UTF-8, keys in a fixed order. Numbers are the shortest that read back
 // to the same double; what is no finite number is null. Texts that are not UTF-8 have the wrong
@@ -23,9 +26,13 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
 /// Positions in metres, times in seconds.
 std::string travelTimesJson(const TravelTimeData& data);
 
-/// A shot file: positions in metres, intervals and delays in seconds.
+/// A shot file: positions in metres, intervals and delays in seconds. What the program's rules make
+/// of it, or their failure as in unreadableJson(), and under "standard" what the standard does.
+/// \param losses as of lostByRules()
 /// \param samples the samples of the traces, too, in the units of the file
-std::string shotFileJson(const ShotFileData& data, bool samples);
+std::string shotFileJson(const std::string& file, const ReadShotFile& byRules,
+                         const ReadShotFile& byStandard, const std::vector<Message>& losses,
+                         bool samples);
 
 /// Takes the place of a file that could not be read.
 std::string unreadableJson(const std::string& file, const Status& status);

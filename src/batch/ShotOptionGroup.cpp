@@ -19,6 +19,12 @@ PickFilter readFilter(const std::string& text) {
   throw CLI::ValidationError("--filter", "'" + text + "' is none of none, agc, hushel, band");
 }
 
+ShotReader readReader(const std::string& text) {
+  if (text == "rules") return ShotReader::kRules;
+  if (text == "standard") return ShotReader::kStandard;
+  throw CLI::ValidationError("--reader", "'" + text + "' is none of rules, standard");
+}
+
 std::string readSeparator(const std::string& text) {
   if (text == ";" || text == "," || text == " ") return text;
   if (text == kBlankSeparator || text == "blank") return " ";
@@ -72,7 +78,23 @@ void ShotOptionGroup::check(const ShotOptions& shots) const {
   }
 }
 
-ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots) {
+CLI::Option* addReader(CLI::App& command, ShotReader& reader) {
+  return command
+      .add_option_function<std::string>(
+          "--reader", [&reader](const std::string& text) { reader = readReader(text); },
+          "How shot files are read: rules, as this program always has; standard, by the published "
+          "standard of their format, which their content decides (default: rules)")
+      ->type_name("READER")
+      ->group(kGroup);
+}
+
+bool isShotFile(const std::string& path, ShotReader reader) {
+  if (reader == ShotReader::kRules) return shotFormatOf(path) != nullptr && !holdsTravelTimes(path);
+  return travelTimeFormatOf(path) == nullptr && !hasSuffixOf(projectFormat(), path) &&
+         !holdsTravelTimes(path);
+}
+
+ShotOptionGroup addPlaceOptions(CLI::App& command, ShotOptions& shots) {
   ShotOptionGroup group;
   const auto add = [&](CLI::Option* option) {
     option->group(kGroup);
@@ -93,6 +115,22 @@ ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots) {
   return group;
 }
 
+ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots) {
+  ShotOptionGroup group;
+  const auto add = [&](CLI::Option* option) {
+    option->group(kGroup);
+    group.options.push_back(option);
+    return option;
+  };
+  add(command.add_flag("--as-recorded", shots.asRecorded,
+                       "Count time from the first sample of a record, also when recording began "
+                       "before the shot"));
+  for (CLI::Option* option : addPlaceOptions(command, shots).options) {
+    group.options.push_back(option);
+  }
+  return group;
+}
+
 void addElevationOptions(CLI::App& command, ElevationOptions& elevations) {
   CLI::Option* table = addPath(
       command, "--elevations", elevations.table,
@@ -107,6 +145,7 @@ void addElevationOptions(CLI::App& command, ElevationOptions& elevations) {
 }
 
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
+  addReader(command, shots.reader);
   ShotOptionGroup group;
   const auto add = [&](CLI::Option* option) {
     option->group(kGroup);
@@ -125,12 +164,23 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
   for (CLI::Option* option : addCorner(command, parameters::kLowPass, shots.band.low)) add(option);
   for (CLI::Option* option : addCorner(command, parameters::kHighPass, shots.band.high))
     add(option);
-  add(command.add_flag("--as-recorded", shots.asRecorded,
-                       "Count time from the first sample of a record, also when recording began "
-                       "before the shot"));
-  const ShotOptionGroup positions = addPositionOptions(command, shots);
-  group.options.insert(group.options.end(), positions.options.begin(), positions.options.end());
+  for (CLI::Option* option : addPositionOptions(command, shots).options) {
+    group.options.push_back(option);
+  }
   return group;
+}
+
+CLI::Option* addPickReader(CLI::App& command, TravelTimeReading& picks) {
+  return command
+      .add_option_function<std::string>(
+          "--reader",
+          [&picks](const std::string& text) {
+            picks.byContent = readReader(text) == ShotReader::kStandard;
+          },
+          "By what a file is read: rules, by its suffix and only where that fails by its content; "
+          "standard, by its content first (default: rules)")
+      ->type_name("READER")
+      ->group("Travel times");
 }
 
 void addPickReading(CLI::App& command, TravelTimeReading& picks) {
@@ -155,17 +205,14 @@ std::string kindsOfInput() {
 }
 
 void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, std::string& input,
-                std::vector<std::string>& shotFiles) {
-  // A suffix of shot files may be one of travel times, too.
-  const auto isShot = [](const std::string& file) {
-    return shotFormatOf(file) != nullptr && !holdsTravelTimes(file);
-  };
-  const auto shots = static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), isShot));
-  if (shots == inputs.size()) {
-    shotFiles = inputs;
+                ShotOptions& shots) {
+  const auto isShot = [&](const std::string& path) { return isShotFile(path, shots.reader); };
+  const auto count = static_cast<std::size_t>(std::count_if(inputs.begin(), inputs.end(), isShot));
+  if (count == inputs.size()) {
+    shots.files = inputs;
     return;
   }
-  if (shots > 0) {
+  if (count > 0) {
     throw CLI::ValidationError("INPUT",
                                "shot files do not go together with travel-time files or projects");
   }

@@ -5,8 +5,11 @@
 #include "batch/ProjectFiles.h"
 #include "io/ElevationTable.h"
 #include "io/NamedPositions.h"
+#include "io/ReadingComparison.h"
 #include "io/ShotLoader.h"
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
+#include "io/project/projectReader.h"
 #include "model/ElevationProfile.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
@@ -16,6 +19,7 @@
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
 #include "processing/ShotTime.h"
+#include "session/PickEdits.h"
 #include "session/TableRules.h"
 
 #include <algorithm>
@@ -28,10 +32,17 @@ namespace talvesk {
 namespace {
 
 /// Every file that fails has its line; the last one is the status.
-Status load(const std::vector<std::string>& files, TomoDocument& document) {
+Status load(const ShotOptions& options, TomoDocument& document) {
   ShotLoader loader;
+  std::vector<ReadShotFile> files;
+  for (const std::string& path : options.files) {
+    files.push_back(loader.read(path, document, options.reader));
+    if (options.reader == ShotReader::kStandard) continue;
+    const auto fuller = readFuller(files.back());
+    if (fuller) warnOfLosses(path, fuller->losses);
+  }
   Status status;
-  for (const ShotFileOutcome& outcome : loader.load(files, document)) {
+  for (const ShotFileOutcome& outcome : appendShots(std::move(files), document)) {
     for (const std::string& warning : outcome.warnings) warn(outcome.path + ": " + warning);
     if (outcome.status.ok()) continue;
     if (!status.ok()) failed(status.message());
@@ -82,9 +93,9 @@ Status placeShots(const ShotOptions& options, TomoDocument& document) {
   Status status = readPositions(options.shots, options.separator, wanted, shots);
   if (!status.ok()) return status;
   if (shots.size() != document.recordings->traceSets.size()) {
-    return Status::failure(options.shots + ": " + std::to_string(shots.size()) +
-                           " shots do not fit " +
-                           std::to_string(document.recordings->traceSets.size()) + " shot files");
+    return Status::failure(
+        options.shots + ": " + std::to_string(shots.size()) + " shots do not fit " +
+        std::to_string(document.recordings->traceSets.size()) + " recorded shots");
   }
   for (std::size_t i = 0; i < shots.size(); ++i) {
     for (Trace& trace : document.recordings.edit().traceSets[i]) trace.sourcePosition = shots[i];
@@ -96,7 +107,7 @@ Status placeShots(const ShotOptions& options, TomoDocument& document) {
 
 /// Shots at 0 under geophones with elevations would pull the ground down to them. Those that a file
 /// of positions puts there stay.
-Status levelShots(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+Status levelShots(const ShotOptions& options, Survey& survey) {
   SurveyGeometry geometry = geometryOf(survey.document);
   const std::size_t off = shotsNotLevelled(geometry).size();
   if (off == 0) return {};
@@ -110,8 +121,8 @@ Status levelShots(const ShotOptions& options, const PickingManner& manner, Surve
     return Status();
   });
   if (!moved.ok()) return moved;
-  *manner.summary << "All shots are at elevation 0, the geophones are not: " << off
-                  << " shots were put on the line of the geophones.\n";
+  warn("all shots are at elevation 0, the geophones are not: " + std::to_string(off) +
+       " shots were put on the line of the geophones");
   return {};
 }
 
@@ -133,14 +144,15 @@ void warnOfHeap(const TomoDocument& document) {
   }
 }
 
-Status startAtShot(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+}  // namespace
+
+Status countFromShot(const ShotOptions& options, bool quiet, std::ostream& out, Survey& survey) {
   const std::vector<TraceSet>& traceSets = survey.document.recordings->traceSets;
   const auto early = [](const Trace& trace) { return trace.delay < 0.0; };
   const bool anyEarly = std::any_of(traceSets.begin(), traceSets.end(), [&](const TraceSet& set) {
     return std::any_of(set.begin(), set.end(), early);
   });
   if (!anyEarly) return {};
-  std::ostream& out = *manner.summary;
   if (options.asRecorded) {
     out << "Records start before the shot; times count from their first sample, as asked for.\n";
     return {};
@@ -156,13 +168,16 @@ Status startAtShot(const ShotOptions& options, const PickingManner& manner, Surv
         << " samples were left out of " << outcome.shortened
         << " traces, and time counts from the shot.\n";
   }
-  if (outcome.leftAsRecorded > 0 && !manner.quiet) {
+  for (const Message& note : outcome.notes) warn(note);
+  if (outcome.leftAsRecorded > 0) {
     warn(std::to_string(outcome.leftAsRecorded) +
          " traces end before the shot, or their delay is no number of samples; their times count "
          "from the first sample");
   }
   return {};
 }
+
+namespace {
 
 Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots, Survey& survey) {
   FilterOutcome outcome;
@@ -226,11 +241,11 @@ Status layOntoElevations(const ElevationOptions& options, const PickingManner& m
 
 Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
   TomoDocument& document = survey.document;
-  Status status = load(options.files, document);
+  Status status = load(options, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
   if (!status.ok()) return status;
-  if (options.elevations.table.empty()) return levelShots(options, manner, survey);
+  if (options.elevations.table.empty()) return levelShots(options, survey);
   return layOntoElevations(options.elevations, manner, survey);
 }
 
@@ -245,11 +260,14 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   }
   if (shots.empty()) return Status::failure("the shot files hold no traces");
   if (!manner.quiet) warnOfHeap(document);
-  status = startAtShot(options, manner, survey);
+  status = countFromShot(options, manner.quiet, *manner.summary, survey);
   if (status.ok()) status = filter(options, shots, survey);
   if (status.ok()) {
     status = editSurvey(Edit::kAutoPick, survey, [&](Survey& next) {
-      return pickShots(next.document, shots, options.filter != PickFilter::kNone, manner.threads);
+      Status picked =
+          pickShots(next.document, shots, options.filter != PickFilter::kNone, manner.threads);
+      for (const std::int32_t shot : shots) markPicksAutomatic(next.document, shot);
+      return picked;
     });
   }
   if (status.ok()) summarize(options, document, *manner.summary);
@@ -264,7 +282,9 @@ Status readSurvey(const std::string& file, const TravelTimeReading& picks, const
     return status.ok() ? layOntoElevations(shots.elevations, manner, project) : status;
   }
   TravelTimeData data;
-  Status status = readPicks(file, picks, data);
+  TravelTimeReading reading = picks;
+  reading.byContent = shots.reader == ShotReader::kStandard;
+  Status status = readPicks(file, reading, data);
   if (!status.ok()) return status;
   if (const Message lost = lostInSurvey(data); !lost.empty()) warn(file + ": " + lost.english());
   status = importTravelTimes(std::move(data), project.document);

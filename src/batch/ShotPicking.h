@@ -2,7 +2,6 @@
 
 #include "base/Status.h"
 #include "batch/Options.h"
-#include "model/TomoDocument.h"
 
 #include <iosfwd>
 #include <string>
@@ -10,6 +9,7 @@
 
 namespace talvesk {
 
+class TomoDocument;
 struct LoadedProject;
 struct Survey;
 
@@ -20,13 +20,17 @@ struct PickingManner {
   std::ostream* summary = nullptr;  ///< what the user came to know
 };
 
-/// Loads shot files into an empty survey and takes positions and elevations from files. Fails as
-/// pickShotFiles() does.
+/// Loads shot files into an empty survey and takes positions and elevations from files. One
+/// file that cannot be read, or geometry that does not fit the files, fails the whole.
 Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey);
 
+/// Counts time from the shot where records begin before it, unless asked not to, and says so.
+Status countFromShot(const ShotOptions& options, bool quiet, std::ostream& out, Survey& survey);
+
 /// loadShotFiles(), then counts time from the shot, filters, picks every trace and screens every
-/// shot. One file that cannot be read, or geometry that does not fit the files, fails the whole: a
-/// survey with a shot missing would be another survey.
+/// shot. One file that cannot be read, or
+/// geometry that does not fit the files, fails the whole: a survey with a shot missing would be
+/// another survey.
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey);
 
 /// A survey with picks: that of the project or travel-time file, or without one that of

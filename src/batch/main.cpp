@@ -3,6 +3,7 @@
 #include "batch/CommandLine.h"
 #include "batch/Commands.h"
 #include "batch/Failure.h"
+#include "model/TomoDocument.h"
 
 #include <QTextCodec>
 #include <exception>

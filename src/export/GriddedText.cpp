@@ -4,6 +4,7 @@
 #include "base/Console.h"
 #include "export/ExportFailure.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>

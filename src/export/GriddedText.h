@@ -1,13 +1,13 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 
 #include <string>
 
 namespace talvesk {
 
 class Grid;
+class TomoDocument;
 
 /// How the columns of the gridded text are placed.
 struct GriddedTextOptions {

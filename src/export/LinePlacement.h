@@ -2,13 +2,15 @@
 
 #include "base/Status.h"
 #include "model/GeoTransformer.h"
-#include "model/TomoDocument.h"
+#include "model/GeographicsCoord.h"
 
 #include <memory>
 #include <optional>
 #include <string>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What users are told when the line has no place on the globe.
 inline Message noGeographicCoordinates() {

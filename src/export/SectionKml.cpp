@@ -6,6 +6,7 @@
 #include "export/LinePlacement.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "view/SectionValues.h"
 
 #include <algorithm>

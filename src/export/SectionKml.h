@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 #include "view/ColorPalette.h"
 
 #include <string>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Writes the drawn cells as a wall of upright rectangles along the line, coloured by velocity. The
 /// wall stands on the ground: the deepest drawn cell begins at altitude 0, and heights are metres

@@ -6,6 +6,7 @@
 #include "export/LinePlacement.h"
 #include "model/GeographicsCoord.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <ostream>
 

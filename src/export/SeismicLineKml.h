@@ -1,11 +1,12 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 
 #include <string>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Writes geophones ("G-spread-geophone") and shots ("S-shot"), all counted from 0, as marks on the
 /// globe. Positions that are not known are left out, with a line on the console's error stream.

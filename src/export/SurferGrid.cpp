@@ -4,6 +4,7 @@
 #include "base/TextNumber.h"
 #include "export/ExportFailure.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "view/SectionValues.h"
 
 #include <algorithm>

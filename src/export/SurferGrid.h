@@ -1,11 +1,12 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 
 #include <string>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Writes velocity (m/s) on a regular raster in Surfer's ASCII grid format (DSAA): x distance along
 /// the line as surveyed, y elevation, both in steps of the cell size (metres). A node has the value

@@ -3,6 +3,7 @@
 #include "base/AtomicFile.h"
 #include "export/ExportFailure.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "view/SectionValues.h"
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 
 #include <string>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Writes the drawn cells as an unstructured grid of quadrilaterals in VTK's XML format (.vtu):
 /// x distance along the line as surveyed, y 0, z elevation (metres). Per cell "Velocity (m/s)",

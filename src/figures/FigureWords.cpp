@@ -3,6 +3,7 @@
 #include "base/TextNumber.h"
 #include "view/SectionTexts.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace talvesk {
@@ -17,7 +18,53 @@ QString number(const std::string& digits, const QLocale& locale) {
   return qt(digits).replace(QLatin1Char('.'), locale.decimalPoint());
 }
 
+/// The context that the texts of Message::tr() have in the translations.
+constexpr char kMessages[] = "talvesk::Message";
+
+class LanguageOfProgram : public Message::Language {
+ public:
+  explicit LanguageOfProgram(const QLocale& locale) : mLocale(locale) {}
+  std::string text(const char* source) const override {
+    return QCoreApplication::translate(kMessages, source).toStdString();
+  }
+  std::string number(const std::string& c) const override {
+    return talvesk::number(c, mLocale).toStdString();
+  }
+
+ private:
+  const QLocale& mLocale;
+};
+
+template <typename Is>
+std::size_t countOf(const std::vector<TraceMend>& traces, Is is) {
+  return static_cast<std::size_t>(std::count_if(traces.begin(), traces.end(), is));
+}
+
 }  // namespace
+
+QString FigureWords::message(const Message& message, const QLocale& locale) {
+  return qt(message.in(LanguageOfProgram(locale)));
+}
+
+QStringList FigureWords::mends(const ShotMends& mends, const QLocale& locale) {
+  QStringList words;
+  if (mends.disabled) words += tr("shot disabled");
+  if (mends.timeShift != 0.0) {
+    words += tr("shifted by %1 ms").arg(number(formatDouble(1e3 * mends.timeShift), locale));
+  }
+  if (mends.orderReversed) words += tr("order reversed");
+  if (!mends.stackedWith.empty()) {
+    words += tr("stacked with %1", "shots").arg(shots(mends.stackedWith.size()));
+  }
+  const std::size_t killed = countOf(mends.traces, [](const TraceMend& t) { return t.killed; });
+  const std::size_t turned = countOf(mends.traces, [](const TraceMend& t) { return t.reversed; });
+  const std::size_t muted =
+      countOf(mends.traces, [](const TraceMend& t) { return t.mutedBefore > 0.0; });
+  if (killed > 0) words += tr("%1 killed", "traces").arg(traces(killed));
+  if (turned > 0) words += tr("%1 of reversed polarity", "traces").arg(traces(turned));
+  if (muted > 0) words += tr("%1 muted", "traces").arg(traces(muted));
+  return words;
+}
 
 QString FigureWords::quantity(SectionQuantity quantity) {
   switch (quantity) {

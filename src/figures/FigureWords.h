@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Message.h"
+#include "model/Mends.h"
 #include "view/SectionScene.h"
 
 #include <QCoreApplication>
@@ -32,8 +34,12 @@ struct FigureWords {
                         const QLocale& locale = QLocale::c());  ///< "RMS misfit 1.21 ms, 2.34 %"
   static QString lastPassMisfit(
       double percent,
-      const QLocale& locale = QLocale::c());       ///< of the solver, before its last smoothing
-  static QString picksChanged();                   ///< since the section was inverted from them
+      const QLocale& locale = QLocale::c());  ///< of the solver, before its last smoothing
+  static QString picksChanged();              ///< since the section was inverted from them
+  /// What is put right of a shot, in a few words each: "shot disabled", "2 traces killed".
+  static QStringList mends(const ShotMends& mends, const QLocale& locale = QLocale::c());
+  /// A message of the rooms below, translated as the window does it.
+  static QString message(const Message& message, const QLocale& locale = QLocale::c());
   static QString refractor(std::size_t index);     ///< "Refractor 1" for 0, the shallowest
   static QString oldRefractor(std::size_t index);  ///< the same of a profile of other picks
 

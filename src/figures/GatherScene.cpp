@@ -200,7 +200,8 @@ struct Counts {
   std::size_t hiddenPicks = 0;
 };
 
-std::string captionOf(const Counts& counts, std::size_t step, const GatherFigureOptions& options) {
+std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& mends,
+                      const GatherFigureOptions& options) {
   QString traces = FigureWords::traces(counts.drawn);
   if (counts.filtered > 0) {
     traces = (counts.filtered == counts.drawn ? FigureWords::tr("%1, filtered", "traces")
@@ -224,6 +225,7 @@ std::string captionOf(const Counts& counts, std::size_t step, const GatherFigure
     parts += FigureWords::tr("%1 outside the times shown", "picks")
                  .arg(FigureWords::picks(counts.hiddenPicks));
   }
+  parts += FigureWords::mends(mends);
   return FigureWords::joined(parts).toStdString();
 }
 
@@ -318,7 +320,8 @@ Status buildGatherScene(const TomoDocument& document, std::size_t shot,
   }
   if (options.scaling == GatherScaling::kWholeShot) scaleAlike(made.traces);
   made.hasPicks = counts.picks > 0;
-  made.caption = captionOf(counts, made.traceStep, options);
+  made.caption =
+      captionOf(counts, made.traceStep, mendsOf(document.recordings->mends, shot), options);
   scene = std::move(made);
   return {};
 }

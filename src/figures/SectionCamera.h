@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Point2D.h"
+#include "model/Parameters.h"
 
 #include <QPointF>
 #include <QSizeF>
@@ -12,8 +13,8 @@ namespace talvesk {
 /// section is a plane, and its picture an affine one, even when the plane is turned.
 struct SectionCamera {
   static constexpr double kMaxTurn = 75.0;  ///< degrees; beyond, the plane is seen edge-on
-  static constexpr double kMinExaggeration = 0.1;
-  static constexpr double kMaxExaggeration = 50.0;
+  static constexpr double kMinExaggeration = parameters::kExaggeration.limits.least;
+  static constexpr double kMaxExaggeration = parameters::kExaggeration.limits.most;
 
   Point2D centre;               ///< survey position in the middle of the picture, metres
   double metresPerPixel = 1.0;  ///< along the line, of the plane as seen from the front

@@ -38,6 +38,12 @@ SurveyProfile measureSurvey(const std::vector<std::vector<Point2D>>& strings,
   return profile;
 }
 
+bool SurveyProfile::isOnGlobe() const {
+  const auto inRange = [](double v) { return std::fabs(v) <= kLargestCoordinate; };
+  return std::all_of(x.begin(), x.end(), inRange) &&
+         std::all_of(elevation.begin(), elevation.end(), inRange);
+}
+
 Splines::LinearSpline SurveyProfile::surface() const {
   const std::size_t n = std::min(x.size(), elevation.size());
   std::vector<double> gridX(n);

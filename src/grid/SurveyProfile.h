@@ -24,6 +24,8 @@ struct SurveyProfile {
 
   /// At least two geophones with different positions; without them no grid can be built.
   bool hasGeometry() const { return minSpacing > 0.0; }
+  /// No position is beyond kLargestCoordinate. Picks can be made anywhere, but no grid be built.
+  bool isOnGlobe() const;
 
   /// The surface: elevation over grid x (survey x plus xOffset), through every survey point.
   Splines::LinearSpline surface() const;

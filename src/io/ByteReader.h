@@ -32,6 +32,14 @@ inline float floatOf(std::uint32_t bits) {
   return value;
 }
 
+/// The double that has these bits.
+inline double doubleOf(std::uint64_t bits) {
+  static_assert(sizeof(double) == sizeof bits);
+  double value = 0.0;
+  std::memcpy(&value, &bits, sizeof value);
+  return value;
+}
+
 /// Reads numbers anywhere in the bytes of a file. What lies past the end reads as zero, a number of
 /// which only a part is there included, and is counted. The bytes must outlive the reader.
 class ByteReader {
@@ -51,6 +59,8 @@ class ByteReader {
   std::int32_t i32(std::uint64_t at, ByteOrder order) {
     return static_cast<std::int32_t>(u32(at, order));
   }
+  std::uint64_t u64(std::uint64_t at, ByteOrder order) { return integer<std::uint64_t>(at, order); }
+  double f64(std::uint64_t at, ByteOrder order) { return doubleOf(u64(at, order)); }
 
   /// The bytes from `at` on that are there, at most `length` of them.
   std::string_view slice(std::uint64_t at, std::uint64_t length) {

@@ -33,7 +33,7 @@ double unitsIn(const Unit (&units)[kCount], std::string_view name) {
 
 std::string_view trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
+  if (first == std::string_view::npos) return text.substr(0, 0);  // still within the line
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 

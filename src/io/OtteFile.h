@@ -1,13 +1,14 @@
 #pragma once
 
 #include "io/PickReader.h"
-#include "model/TomoDocument.h"
 
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Reads the travel-time exchange format (".otte"): positions in metres, times in milliseconds.
 ///

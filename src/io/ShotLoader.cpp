@@ -1,11 +1,11 @@
 #include "io/ShotLoader.h"
 
 #include "base/Console.h"
-#include "io/ShotFile.h"
 #include "io/WrittenPosition.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <ostream>
@@ -34,19 +34,17 @@ std::vector<Point2D> positionsOf(const Traces& traces, PositionOf positionOf) {
   return positions;
 }
 
-Status checkTakesShots(const TomoDocument& document) {
-  if (document.recordings->waveType == WaveType::S && !document.recordings->traceSets.empty()) {
-    return Status::failure(Message::tr(
-        "the survey holds S-wave pairs; add more of them in the survey geometry, or start a new "
-        "survey to load shot files"));
-  }
-  if (document.ttArray.size() == document.recordings->traceSets.size()) return {};
-  return Status::failure(
-      Message::tr("the survey holds picks without traces; start a new survey to load shot files"));
+RecordingNote noteOf(const ReadShotFile& file, std::size_t shot) {
+  const StandardReading::Shot& read = file.shots[shot];
+  RecordingNote note = {file.outcome.format, file.common};
+  note.warnings.insert(note.warnings.end(), read.data.warnings.begin(), read.data.warnings.end());
+  note.reader = file.reader;
+  note.recordInFile = shot;
+  note.nameInFile = read.name;
+  return note;
 }
 
-void add(const std::string& path, ShotFileData data, TomoDocument& document) {
-  RecordingNote note = {data.format, data.warnings};
+void add(const std::string& path, ShotFileData data, RecordingNote note, TomoDocument& document) {
   TraceSet traces = traceSetOf(std::move(data));
   TravelTime record;
   if (!traces.empty()) record.shotPos2d = traces.front().sourcePosition;
@@ -66,6 +64,17 @@ void add(const std::string& path, ShotFileData data, TomoDocument& document) {
 
 }  // namespace
 
+Status checkTakesShots(const TomoDocument& document) {
+  if (document.recordings->waveType == WaveType::S && !document.recordings->traceSets.empty()) {
+    return Status::failure(Message::tr(
+        "the survey holds S-wave pairs; add more of them in the survey geometry, or start a new "
+        "survey to load shot files"));
+  }
+  if (document.ttArray.size() == document.recordings->traceSets.size()) return {};
+  return Status::failure(
+      Message::tr("the survey holds picks without traces; start a new survey to load shot files"));
+}
+
 TraceSet traceSetOf(ShotFileData data) {
   TraceSet set;
   set.reserve(data.traces.size());
@@ -81,33 +90,36 @@ TraceSet traceSetOf(ShotFileData data) {
   return set;
 }
 
-ModelLoss lossByShots(const std::vector<ReadShot>& shots, const TomoDocument& document) {
+ModelLoss lossByShots(const std::vector<ReadShotFile>& files, const TomoDocument& document) {
   std::vector<std::vector<Point2D>> strings = document.line->goephonesStringSet;
   std::vector<Point2D> sources = document.shotPoints();
   bool any = false;
-  for (const ReadShot& shot : shots) {
-    if (!shot.outcome.status.ok()) continue;
-    any = true;
-    const std::vector<ShotRecord>& traces = shot.data.traces;
-    stringOf(positionsOf(traces, [](const ShotRecord& trace) { return trace.receiver; }), strings);
-    sources.push_back(traces.empty() ? Point2D() : traces.front().source);
+  for (const ReadShotFile& file : files) {
+    for (const StandardReading::Shot& shot : file.shots) {
+      any = true;
+      const std::vector<ShotRecord>& traces = shot.data.traces;
+      stringOf(positionsOf(traces, [](const ShotRecord& trace) { return trace.receiver; }),
+               strings);
+      sources.push_back(traces.empty() ? Point2D() : traces.front().source);
+    }
   }
   return any ? modelLoss(document, measureSurvey(strings, sources)) : ModelLoss::kNothing;
 }
 
-std::vector<ShotFileOutcome> appendShots(std::vector<ReadShot> shots, TomoDocument& document) {
+std::vector<ShotFileOutcome> appendShots(std::vector<ReadShotFile> files, TomoDocument& document) {
   // Without a grid there are still the cell sizes that were proposed for the line as it was.
   const ModelLoss loss =
-      document.model->grid == nullptr ? ModelLoss::kGrid : lossByShots(shots, document);
+      document.model->grid == nullptr ? ModelLoss::kGrid : lossByShots(files, document);
   std::vector<ShotFileOutcome> outcomes;
-  outcomes.reserve(shots.size());
+  outcomes.reserve(files.size());
   bool any = false;
-  for (ReadShot& shot : shots) {
-    if (shot.outcome.status.ok()) {
-      add(shot.outcome.path, std::move(shot.data), document);
+  for (ReadShotFile& file : files) {
+    for (std::size_t shot = 0; shot < file.shots.size(); ++shot) {
+      RecordingNote note = noteOf(file, shot);
+      add(file.outcome.path, std::move(file.shots[shot].data), std::move(note), document);
       any = true;
     }
-    outcomes.push_back(std::move(shot.outcome));
+    outcomes.push_back(std::move(file.outcome));
   }
   if (any) {
     forgetModel(loss, document);
@@ -116,9 +128,10 @@ std::vector<ShotFileOutcome> appendShots(std::vector<ReadShot> shots, TomoDocume
 }
 
 void appendShot(const std::string& path, ShotFileData data, TomoDocument& document) {
-  std::vector<ReadShot> one(1);
+  std::vector<ReadShotFile> one(1);
   one.front().outcome.path = path;
-  one.front().data = std::move(data);
+  one.front().outcome.format = data.format;
+  one.front().shots.push_back({std::move(data), {}});
   appendShots(std::move(one), document);
 }
 
@@ -129,25 +142,25 @@ void ShotLoader::remember(const SegyState& others) {
   mState.nativeOrder = native;
 }
 
-ReadShot ShotLoader::read(const std::string& path, const TomoDocument& document) {
-  ReadShot shot;
-  shot.outcome.path = path;
-  shot.outcome.status = checkTakesShots(document);
-  if (!shot.outcome.status.ok()) return shot;
-  shot.outcome.status = readShotFile(path, mState, shot.data);
-  shot.outcome.format = shot.data.format;
-  shot.outcome.warnings = shot.data.warnings;
-  return shot;
+ReadShotFile ShotLoader::read(const std::string& path, const TomoDocument& document,
+                              ShotReader reader) {
+  if (Status takes = checkTakesShots(document); !takes.ok()) {
+    ReadShotFile refused;
+    refused.outcome.path = path;
+    refused.outcome.status = std::move(takes);
+    return refused;
+  }
+  return readShotFileBy(reader, path, mState);
 }
 
 std::vector<ShotFileOutcome> ShotLoader::load(const std::vector<std::string>& paths,
-                                              TomoDocument& document) {
+                                              TomoDocument& document, ShotReader reader) {
   const Status takesShots = checkTakesShots(document);
   if (!takesShots.ok()) console::error() << takesShots.message() << std::endl;
-  std::vector<ReadShot> shots;
-  shots.reserve(paths.size());
-  for (const std::string& path : paths) shots.push_back(read(path, document));
-  return appendShots(std::move(shots), document);
+  std::vector<ReadShotFile> files;
+  files.reserve(paths.size());
+  for (const std::string& path : paths) files.push_back(read(path, document, reader));
+  return appendShots(std::move(files), document);
 }
 
 }  // namespace talvesk

@@ -10,7 +10,7 @@ namespace talvesk {
 
 /// One channel of a shot file, as a reader delivers it.
 struct ShotRecord {
-  std::vector<double> samples;  ///< finite; the last one is always 0
+  std::vector<double> samples;  ///< finite; by the program's rules the last one is always 0
   Point2D source;               ///< finite; z is 0 where the format or the file has no elevation
   Point2D receiver;
   double delay = 0.0;           ///< recording delay, seconds, never positive
@@ -19,7 +19,7 @@ struct ShotRecord {
 
 /// What a shot file holds.
 struct ShotFileData {
-  std::string format;              ///< "seg2", "segy" or "su"
+  std::string format;              ///< "seg2", "segy", "su" or "mseed"
   std::vector<ShotRecord> traces;  ///< in channel order; may be empty
   std::vector<Message> warnings;   ///< what was repaired, ignored or looks odd, without the path
 };

@@ -16,20 +16,25 @@ std::size_t zeroNonFinite(std::vector<double>& samples) {
   return count;
 }
 
+void warnOfBytes(std::uint64_t missingBytes, std::uint64_t nonFinite,
+                 std::vector<Message>& warnings) {
+  if (missingBytes > 0) {
+    warnings.push_back(Message::tr("the file is cut short: %1 bytes that its headers promise "
+                                   "are missing and were taken as zeros")
+                           .arg(missingBytes));
+  }
+  if (nonFinite > 0) {
+    warnings.push_back(
+        Message::tr("%1 samples that are no finite numbers were set to 0").arg(nonFinite));
+  }
+}
+
 void warnOfTraces(ShotFileData& data, std::uint64_t missingBytes, std::uint64_t nonFinite) {
   const auto& traces = data.traces;
   if (traces.empty()) {
     data.warnings.push_back(Message::tr("the file holds no trace"));
   }
-  if (missingBytes > 0) {
-    data.warnings.push_back(Message::tr("the file is cut short: %1 bytes that its headers promise "
-                                        "are missing and were taken as zeros")
-                                .arg(missingBytes));
-  }
-  if (nonFinite > 0) {
-    data.warnings.push_back(
-        Message::tr("%1 samples that are no finite numbers were set to 0").arg(nonFinite));
-  }
+  warnOfBytes(missingBytes, nonFinite, data.warnings);
   const auto differs = [&traces](auto value) {
     return std::any_of(traces.begin(), traces.end(), [&](const ShotRecord& trace) {
       return value(trace) != value(traces.front());

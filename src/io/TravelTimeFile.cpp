@@ -7,6 +7,7 @@
 #include "io/OtteFile.h"
 #include "io/PickContent.h"
 #include "io/UnifiedDataFile.h"
+#include "model/TomoDocument.h"
 
 #include <array>
 #include <filesystem>

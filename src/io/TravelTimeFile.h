@@ -4,7 +4,6 @@
 #include "io/HeadedPicks.h"
 #include "io/TravelTimeData.h"
 #include "model/ModelLoss.h"
-#include "model/TomoDocument.h"
 
 #include <optional>
 #include <string>
@@ -12,6 +11,8 @@
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// How a file of picks is read.
 struct TravelTimeReading {

@@ -1,9 +1,12 @@
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 #include "io/WrittenPosition.h"
 #include "model/GroundModel.h"
+#include "model/Mending.h"
 #include "model/PickLimits.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -134,6 +137,8 @@ void fillRecords(const Plan& plan, TomoDocument& document) {
     record.shotPos2d = read.shotPos2d;
     record.indexStesa = read.indexStesa;
     record.ttMisurati = std::move(read.ttMisurati);
+    record.unconfirmed = {};  // the marks were those of the picks that go
+    dropPicksWithoutPart(document, record);
     if (plan.moved) record.ttCalcolati.edit().assign(record.ttMisurati.size(), kNoTime);
   }
 }
@@ -150,6 +155,15 @@ void replaceRecords(std::vector<TravelTime> records, TomoDocument& document) {
 void fitToRecords(TravelTimeData& data, const TomoDocument& document) {
   const Message dropped = dropImpossiblePicks(data.records, document.recordings->traceSets);
   if (!dropped.empty()) data.warnings.push_back(dropped);
+  for (TravelTime& record : data.records) {
+    const std::size_t count = dropPicksWithoutPart(document, record);
+    if (count == 0) continue;
+    data.warnings.push_back(
+        Message::tr("shot %1: picks left out, as the shot is disabled or their traces are killed: "
+                    "%2")
+            .arg(record.traceSetID + std::int64_t{1})
+            .arg(count));
+  }
 }
 
 Message lostInSurvey(const TravelTimeData& data) {

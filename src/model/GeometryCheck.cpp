@@ -1,5 +1,7 @@
 #include "model/GeometryCheck.h"
 
+#include "model/TomoDocument.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>

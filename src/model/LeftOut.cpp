@@ -1,5 +1,6 @@
 #include "model/LeftOut.h"
 
+#include "base/IndexRanges.h"
 #include "base/TextNumber.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyLine.h"
@@ -24,19 +25,6 @@ std::size_t usedPicks(const TomoDocument& document, const TravelTime& record,
     if (hasPick(record.ttMisurati[i]) && excluded.count(i) == 0) ++used;
   }
   return used;
-}
-
-/// "1, 3-7" of indices from 0.
-std::string ranges(const std::vector<std::size_t>& indices) {
-  std::string text;
-  for (std::size_t i = 0; i < indices.size();) {
-    std::size_t end = i + 1;
-    while (end < indices.size() && indices[end] == indices[end - 1] + 1) ++end;
-    text += (text.empty() ? "" : ", ") + std::to_string(indices[i] + 1);
-    if (end - i > 1) text += "-" + std::to_string(indices[end - 1] + 1);
-    i = end;
-  }
-  return text;
 }
 
 /// "geophone 12 of string 1 at x = 24 m", "geophones 12-13 of string 1 at x = 22 to 24 m"

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "model/TomoDocument.h"
-
 #include <cstddef>
 #include <string>
 #include <vector>
 
 namespace talvesk {
 
+class TomoDocument;
 struct ExcludedPosition;
+
 /// What an inversion leaves out of a survey, put together for people. Indices are from 0.
 struct LeftOut {
   /// Geophones of one string that no column of the grid reaches.

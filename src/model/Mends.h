@@ -11,6 +11,17 @@ struct TraceMend {
   bool killed = false;       ///< its samples count for nothing: all are zero
   bool reversed = false;     ///< its samples change their sign
   double mutedBefore = 0.0;  ///< seconds; samples before are zero; 0 mutes none
+
+  bool any() const { return killed || reversed || mutedBefore > 0.0; }
+};
+
+bool operator==(const TraceMend& a, const TraceMend& b);
+
+/// A pick as the record has it, before the mends.
+struct RecordedPick {
+  std::uint32_t channel = 0;  ///< of the record, from 0: order and geophones may be reversed
+  double time = 0.0;          ///< seconds of recorded time
+  bool waits = false;         ///< for confirmation
 };
 
 /// What is put right of the recording of one shot: kept beside the data, never in them, so that it
@@ -23,14 +34,30 @@ struct ShotMends {
   /// The channels of the record run against the geophones: the last trace is at the first of them.
   bool orderReversed = false;
   /// Trace sets, from 0, of the same shot point and spread whose mended samples are averaged with
-  /// those of this one.
+  /// those of this one. Their own stacks do not count, and neither do traces killed in them.
   std::vector<std::int32_t> stackedWith;
   std::vector<TraceMend> traces;  ///< by geophone; shorter where the rest has none
-  /// The picks, in seconds of mended time, that were set aside with a disabled shot or a killed
-  /// trace, by geophone; kUnpicked where there is none. They come back with it.
-  std::vector<double> setAside;
+  /// By ascending channel, filled by setMends(): every pick that the shot had when its mends were
+  /// given. One that has no place among the mended times, for its shot is disabled, its trace
+  /// killed, or it would lie before the shot, comes back from here; and one that is taken back
+  /// unchanged is the very number that it was. Where the shot has another pick now, that one
+  /// counts.
+  std::vector<RecordedPick> picks;
 
-  bool any() const;
+  bool any() const;             ///< whatever is put right
+  bool changesSamples() const;  ///< all but a shot that is only disabled
 };
+
+/// Whether both put right the same; the picks that they keep are not looked at.
+bool samePurpose(const ShotMends& a, const ShotMends& b);
+
+/// Mends of a trace set; none where it has none. \param mends of a survey, per trace set
+const ShotMends& mendsOf(const std::vector<ShotMends>& mends, std::size_t set);
+
+/// Mends of a trace, by geophone; none where it has none.
+const TraceMend& mendOf(const ShotMends& mends, std::size_t trace);
+
+/// Whether a trace may have a pick: its shot is not disabled, and it is not killed.
+bool takesPart(const ShotMends& mends, std::size_t trace);
 
 }  // namespace talvesk

@@ -1,6 +1,7 @@
 #include "model/ModelLoss.h"
 
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 
 #include <algorithm>

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "model/TomoDocument.h"
-
 namespace talvesk {
+
+class TomoDocument;
+struct SurveyProfile;
 
 /// What a change of the survey costs of the model of the ground, least first.
 enum class ModelLoss {

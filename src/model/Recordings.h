@@ -25,8 +25,6 @@ enum class ShotReader : std::int32_t {
 struct RecordingNote {
   std::string format;             ///< of its file: "seg2", "segy", "su", "mseed"; empty: not known
   std::vector<Message> warnings;  ///< that the reader had about its file
-  bool filtered = false;          ///< a command made its filtered copy while it was current
-  bool showFiltered = false;      ///< its views show that copy
   ShotReader reader = ShotReader::kRules;
   std::size_t recordInFile = 0;  ///< which of the shots of its file, from 0
   std::string nameInFile = {};   ///< of that shot; empty where the file holds one

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/InversionRecord.h"
-#include "model/TravelTime.h"
 
 #include <cstddef>
 #include <vector>

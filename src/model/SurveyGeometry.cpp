@@ -1,8 +1,10 @@
 #include "model/SurveyGeometry.h"
 
 #include "model/GroundModel.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>
@@ -89,6 +91,7 @@ void takePair(SWavePair& pair, std::size_t shot, TomoDocument& next) {
   recordings.filenames_SX[shot] = pair.fileSX;
   recordings.traceSets[shot] = std::move(pair.traces);
   recordings.noteOf(shot) = {pair.format, pair.warnings};
+  forgetMends(shot, next);
 }
 
 bool stringsDiffer(const SurveyGeometry& geometry, const TomoDocument& document) {
@@ -150,7 +153,7 @@ bool applyGeometry(const SurveyGeometry& geometry, TomoDocument& document) {
   TomoDocument next = document;  // which takes its place when all of it is there
   next.clearModelAndResults();
   // The first cell size that was proposed for a survey stays its proposal.
-  next.model.edit().proposedCellSizes = document.model->proposedCellSizes;
+  next.proposedCellSizes = document.proposedCellSizes;
   next.ttArray.edit().resize(count);
   if (hasNewPair(geometry)) {
     Recordings& recordings = next.recordings.edit();
@@ -242,6 +245,11 @@ void removeString(SurveyGeometry& geometry, std::size_t string, int heir) {
 std::string shotFile(const TomoDocument& document, std::size_t shot) {
   std::string file = entry(document.recordings->filenames, shot);
   return file.empty() ? entry(document.recordings->filenames_DX, shot) : file;
+}
+
+std::string shotRecord(const TomoDocument& document, std::size_t shot) {
+  const std::vector<RecordingNote>& notes = document.recordings->notes;
+  return shot < notes.size() ? notes[shot].nameInFile : std::string();
 }
 
 std::vector<std::size_t> shotsOfString(const SurveyGeometry& geometry, std::size_t string) {

@@ -2,7 +2,6 @@
 
 #include "base/Point2D.h"
 #include "model/SWavePair.h"
-#include "model/TomoDocument.h"
 
 #include <cstddef>
 #include <limits>
@@ -11,6 +10,8 @@
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Where geophones and shots stand, as it is while somebody edits it: positions may still be
 /// missing, and nothing of the survey changes before applyGeometry(). A plain value; a copy of it
@@ -85,6 +86,9 @@ void removeString(SurveyGeometry& geometry, std::size_t string, int heir);
 
 /// Path to name a shot of the document by: its file, or the DX file of its pair; empty without one.
 std::string shotFile(const TomoDocument& document, std::size_t shot);
+
+/// The name of a shot among those of its file; empty where the file holds one.
+std::string shotRecord(const TomoDocument& document, std::size_t shot);
 
 /// Shots that use a string, from 0.
 std::vector<std::size_t> shotsOfString(const SurveyGeometry& geometry, std::size_t string);

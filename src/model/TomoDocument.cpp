@@ -43,6 +43,12 @@ Extent lineExtent(const std::vector<std::vector<Point2D>>& strings,
   return extent;
 }
 
+/// Nobody misses the picks of a shot that takes no part.
+bool isDisabled(const Recordings& recordings, const TravelTime& record) {
+  return record.traceSetID >= 0 &&
+         mendsOf(recordings.mends, static_cast<std::size_t>(record.traceSetID)).disabled;
+}
+
 template <typename SplineKind>
 SplineKind splineThrough(const std::vector<Point2D>& points) {
   std::vector<double> x;
@@ -107,7 +113,7 @@ void TomoDocument::clearModelAndResults() {
   ground.grid.reset();
   ground.xOffset = 0.0;
   ground.surface = Splines::LinearSpline();
-  ground.proposedCellSizes.clear();
+  proposedCellSizes = {};
   result.edit().info_density.clear();
   clearInversion();
 }
@@ -116,6 +122,7 @@ bool TomoDocument::picksComplete() const {
   std::size_t total = 0;
   std::size_t notZero = 0;
   for (const TravelTime& record : ttArray) {
+    if (isDisabled(*recordings, record)) continue;
     total += record.ttMisurati.size();
     for (const double time : record.ttMisurati) notZero += time != 0.0 ? 1 : 0;
   }

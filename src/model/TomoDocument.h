@@ -47,7 +47,10 @@ class TomoDocument {
   Shared<GroundModel> model;         ///< model/GroundModel.h
   Shared<TomographyOutcome> result;  ///< of the last inversion, model/TomographyOutcome.h
   Shared<MapPosition> map;           ///< model/GeographicsCoord.h
-  bool stopRequested = false;        ///< the inversion under way is to end after its iteration
+  /// Metres, one more for every look at the survey. What was proposed is remembered, be the edits
+  /// since undone or not, so it is no part of the model.
+  SharedVector<double> proposedCellSizes;
+  bool stopRequested = false;  ///< the inversion under way is to end after its iteration
 
   /// Forgets what the last inversion left, computed times included, but the information density,
   /// which every grid has.
@@ -58,7 +61,8 @@ class TomoDocument {
 
   // --- Questions.
   /// True when more than half (integer halving) of all measured times are not 0. NaN and removed
-  /// picks count; a document without records is incomplete. Lenient on purpose.
+  /// picks count, disabled shots do not; a document without records is incomplete. Lenient on
+  /// purpose.
   bool picksComplete() const;
 
   /// 0 and the trace, or -1 with a line on the console's error stream.

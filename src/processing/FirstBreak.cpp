@@ -2,9 +2,11 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "model/Mending.h"
 #include "model/Parameters.h"
 #include "model/SWavePair.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <atomic>
@@ -95,12 +97,16 @@ Status takePicks(TomoDocument& document, std::int32_t shot,
   }
   TravelTime& record = *recordOf(document, shot);
   for (std::size_t t = 0; t < indices.size(); ++t) {
+    if (!takesPart(document, shot, t)) continue;
     store(record, *traces, t, indices[t]);
     console::out() << "[FIRST BREAK] TRACE " + std::to_string(t) + " : " +
                           std::to_string(indices[t]) + '\n';
   }
   const Status status = screenShotPicks(document, shot);
   removeWhatWasNotFound(record, indices);
+  for (const std::size_t t : tracesWithoutPart(document, record)) {
+    record.ttMisurati.edit()[t] = kUnpicked;
+  }
   return status;
 }
 
@@ -152,6 +158,11 @@ std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t t
   subtractPairs(document, shot);
   const TraceSet& traces = *tracesOf(document, shot);
   const auto t = static_cast<std::size_t>(trace);
+  if (!takesPart(document, shot, t)) {
+    console::error() << "[ERROR] Trace " + std::to_string(trace) + " of shot " +
+                            std::to_string(shot) + " is disabled or killed.\n";
+    return -1;
+  }
   const std::int32_t index = detect(traces[t], useFiltered);
   store(*record, traces, t, index);
   return index;
@@ -211,13 +222,14 @@ Status pickShots(TomoDocument& document, const std::vector<std::int32_t>& shots,
     if (traces == nullptr) continue;
     indices[s].assign(traces->size(), -1);
     for (std::size_t t = 0; t < traces->size(); ++t) {
-      jobs.push_back({&(*traces)[t], &indices[s][t]});
+      if (takesPart(document, shots[s], t)) jobs.push_back({&(*traces)[t], &indices[s][t]});
     }
   }
   Status first = runJobs(jobs, useFiltered, threads);
   if (!first.ok()) return first;
 
   for (std::size_t s = 0; s < shots.size(); ++s) {
+    if (isDisabled(document, shots[s])) continue;
     const Status status = takePicks(document, shots[s], indices[s]);
     if (first.ok() && !status.ok()) first = status;
   }

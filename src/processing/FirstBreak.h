@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 #include "processing/CharacteristicPick.h"
 
 #include <cstdint>
@@ -9,14 +8,18 @@
 
 namespace talvesk {
 
+class TomoDocument;
+
 /// First breaks without the user's help: an energy-ratio detector per trace, then a screening of
 /// each shot's picks by the apparent velocity that they imply.
 
 /// Picks one trace, raw or filtered, and stores index * sample interval, seconds, among the
 /// measured times of the shot. The samples of an S-wave pair are rebuilt from its two recordings
-/// first. A trace without a break gets the time of sample 4294967295 on purpose: its apparent
-/// velocity is next to nothing, so the screening removes it. \return the picked sample, or -1; a
-/// shot or trace that does not exist is told on the console's error stream and changes nothing
+/// first. A trace that a mend has killed, or whose shot it has disabled, is told there, too, and
+/// stays unpicked. A trace without a break gets the time of sample 4294967295 on purpose: its
+/// apparent velocity is next to nothing, so the screening removes it. \return the picked sample, or
+/// -1; a shot or trace that does not exist is told on the console's error stream and changes
+/// nothing
 std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t trace,
                        bool useFiltered);
 
@@ -34,10 +37,11 @@ Status screenShotPicks(TomoDocument& document, std::int32_t shot);
 /// same.
 Status pickShot(TomoDocument& document, std::int32_t shot, bool useFiltered);
 
-/// The same over several shots, in the order given. Only the detector runs on the threads: times
-/// and console lines are those of pickShot for one shot after the other, whatever their number.
-/// \param threads 0 takes as many as the machine has processors
-/// \return the first failure; the other shots are picked and screened nevertheless
+/// The same over several shots, in the order given. Shots that are disabled are passed over, and
+/// so are traces that are killed: tracesWithoutPart() tells them. Only the detector runs on the
+/// threads: times and console lines are those of pickShot for one shot after the other, whatever
+/// their number. \param threads 0 takes as many as the machine has processors \return the first
+/// failure; the other shots are picked and screened nevertheless
 Status pickShots(TomoDocument& document, const std::vector<std::int32_t>& shots, bool useFiltered,
                  unsigned threads = 0);
 

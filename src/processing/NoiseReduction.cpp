@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "model/Parameters.h"
+#include "model/TomoDocument.h"
 #include "processing/Spectrum.h"
 
 #include <ostream>

@@ -2,6 +2,7 @@
 
 #include "base/TextNumber.h"
 #include "model/Recordings.h"
+#include "model/TomoDocument.h"
 #include "processing/Spectrum.h"
 #include "processing/TraceFilters.h"
 

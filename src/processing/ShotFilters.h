@@ -2,7 +2,7 @@
 
 #include "base/Status.h"
 #include "model/Parameters.h"
-#include "model/TomoDocument.h"
+#include "model/Trace.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +11,8 @@
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What became of the traces that a filter was to be applied to. The raw samples never change; a
 /// trace that cannot be filtered keeps the filtered copy that it had.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Trace.h"
+#include "base/Message.h"
 
 #include <cstddef>
 #include <vector>
@@ -15,7 +15,9 @@ struct ShotTimeOutcome {
   /// Traces left as recorded although their recording delay is not 0: the record ends before the
   /// shot, or delay and sample interval make no number of samples.
   std::size_t leftAsRecorded = 0;
-  std::size_t mostDropped = 0;  ///< samples that the longest lead, of those shortened, had
+  std::size_t mostDropped = 0;   ///< samples that the longest lead, of those shortened, had
+  std::size_t picksRemoved = 0;  ///< picks from before the shot, where picks move with the samples
+  std::vector<Message> notes;    ///< what became of the picks and filtered copies of mended shots
 };
 
 /// Recorders often start before the shot (half a second is common). Picks are sample index times
@@ -23,9 +25,15 @@ struct ShotTimeOutcome {
 /// interval) samples of every trace, raw, components and filtered alike, and remembers how many in
 /// Trace::droppedSamples. Repeating it drops nothing more. Times that were picked before are not
 /// moved: count time from the shot before picking.
+/// Of mended traces, what was recorded is shortened and mended anew.
 ShotTimeOutcome countTimeFromShot(TomoDocument& document);
 /// The same of some of the trace sets only, from 0.
-ShotTimeOutcome countTimeFromShot(std::vector<TraceSet>& traceSets,
-                                  const std::vector<std::size_t>& sets);
+ShotTimeOutcome countTimeFromShot(TomoDocument& document, const std::vector<std::size_t>& sets);
+/// The same of all traces, and their picks move with the samples that they mark. A pick from before
+/// the shot is removed.
+ShotTimeOutcome countTimesAndPicksFromShot(TomoDocument& document);
+
+/// Whether the trace still begins before its shot, so that counting from it would shorten it.
+bool startsBeforeShot(const Trace& trace);
 
 }  // namespace talvesk

@@ -15,6 +15,7 @@ enum class Edit {
   kImport,
   kImportSurvey,
   kShotTime,
+  kMend,
   kPick,
   kConfirmPicks,
   kAutoPick,

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <unordered_set>
 
 namespace talvesk {
 namespace {
@@ -126,16 +127,34 @@ const T* entry(const std::vector<T>& list, std::size_t i) {
   return i < list.size() ? &list[i] : nullptr;
 }
 
+constexpr auto kSamplesOfTrace = {&Trace::samples, &Trace::samplesDX, &Trace::samplesSX,
+                                  &Trace::filtered};
+
+/// Samples that somebody has, by their place in memory: what one survey shows may be what another
+/// keeps as the original of a mended trace.
+using SamplesSeen = std::unordered_set<const double*>;
+
+SamplesSeen samplesOf(const Recordings& recordings) {
+  SamplesSeen seen;
+  for (const auto* sets : {&recordings.traceSets, &recordings.originals}) {
+    for (const TraceSet& traces : *sets) {
+      for (const Trace& trace : traces) {
+        for (auto samples : kSamplesOfTrace) seen.insert((trace.*samples).data());
+      }
+    }
+  }
+  return seen;
+}
+
 void addRecordings(const Recordings& survey, const Recordings& other, Sum& sum) {
-  for (std::size_t set = 0; set < survey.traceSets.size(); ++set) {
-    const TraceSet& traces = survey.traceSets[set];
-    const TraceSet* others = entry(other.traceSets, set);
-    sum.add(traces);
-    for (std::size_t i = 0; i < traces.size(); ++i) {
-      const Trace* twin = others != nullptr ? entry(*others, i) : nullptr;
-      for (auto samples :
-           {&Trace::samples, &Trace::samplesDX, &Trace::samplesSX, &Trace::filtered}) {
-        sum.add(traces[i].*samples, twin != nullptr ? &(twin->*samples) : nullptr);
+  SamplesSeen seen = samplesOf(other);
+  for (const auto* sets : {&survey.traceSets, &survey.originals}) {
+    for (const TraceSet& traces : *sets) {
+      sum.add(traces);
+      for (const Trace& trace : traces) {
+        for (auto samples : kSamplesOfTrace) {
+          if (seen.insert((trace.*samples).data()).second) sum.add(*(trace.*samples));
+        }
       }
     }
   }

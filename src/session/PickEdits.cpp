@@ -1,5 +1,8 @@
 #include "session/PickEdits.h"
 
+#include "model/Mending.h"
+#include "model/TomoDocument.h"
+
 #include <algorithm>
 
 namespace talvesk {
@@ -18,9 +21,25 @@ void changePicks(TomoDocument& document, std::int32_t shot,
   for (const PickChange& change : changes) {
     const auto trace = static_cast<std::size_t>(change.trace);
     if (change.trace < 0 || trace >= record.ttMisurati.size()) continue;
+    if (hasPick(change.time) && !takesPart(document, shot, trace)) continue;
     if (record.ttMisurati[trace] != change.time) record.ttMisurati.edit()[trace] = change.time;
     record.setWaiting(trace, change.waits);
   }
+}
+
+Status mayPick(const TomoDocument& document, std::int32_t shot,
+               const std::vector<PickChange>& changes) {
+  for (const PickChange& change : changes) {
+    if (!hasPick(change.time) || change.trace < 0) continue;
+    if (takesPart(document, shot, static_cast<std::size_t>(change.trace))) continue;
+    return Status::failure(
+        isDisabled(document, shot)
+            ? Message::tr("Shot %1 is disabled and takes no picks; Mend recording enables it.")
+                  .arg(shot + 1)
+            : Message::tr("Trace %1 is killed and takes no pick; Mend recording brings it back.")
+                  .arg(change.trace + 1));
+  }
+  return {};
 }
 
 void markPicksAutomatic(TomoDocument& document, std::int32_t shot) {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 
 #include <cstdint>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What an edit by hand gives one trace.
 struct PickChange {
@@ -15,9 +16,15 @@ struct PickChange {
   bool waits = false;  ///< for confirmation
 };
 
-/// Gives traces of a shot their times. Those that the shot does not have are left out.
+/// Gives traces of a shot their times. Those that the shot does not have are left out, and so are
+/// picks on a shot that is disabled and on killed traces.
 /// \param shot record of the document, from 0
 void changePicks(TomoDocument& document, std::int32_t shot, const std::vector<PickChange>& changes);
+
+/// Why traces of these changes can have no pick: their shot is disabled, or they are killed.
+/// Success where none is concerned.
+Status mayPick(const TomoDocument& document, std::int32_t shot,
+               const std::vector<PickChange>& changes);
 
 /// All picks of a shot are those of an autopicker, and wait for confirmation.
 void markPicksAutomatic(TomoDocument& document, std::int32_t shot);

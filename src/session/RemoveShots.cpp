@@ -1,10 +1,12 @@
 #include "session/RemoveShots.h"
 
 #include "io/Survey.h"
+#include "model/Mending.h"
 #include "model/ModelLoss.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <set>
 #include <utility>
@@ -34,6 +36,37 @@ void removeMarks(refractionDataStructure::Interpretation& interpretation,
   interpretation.ttLayer = std::move(kept);
 }
 
+/// Stacks lose the shots that go; which traces are to be made anew is for the caller to see.
+void removeMends(Recordings& recordings, const std::set<std::size_t>& removed) {
+  removeFrom(recordings.mends, removed);
+  removeFrom(recordings.originals, removed);
+  for (ShotMends& mends : recordings.mends) {
+    std::vector<std::int32_t> kept;
+    for (const std::int32_t other : mends.stackedWith) {
+      const auto set = static_cast<std::size_t>(other);
+      if (removed.count(set) != 0) continue;
+      kept.push_back(other - static_cast<std::int32_t>(
+                                 std::distance(removed.begin(), removed.lower_bound(set))));
+    }
+    mends.stackedWith = std::move(kept);
+  }
+}
+
+/// Of those shots whose stack has lost one.
+void remakeStacks(const Recordings& before, const std::set<std::size_t>& removed,
+                  TomoDocument& document) {
+  std::size_t now = 0;
+  for (std::size_t set = 0; set < before.mends.size(); ++set) {
+    if (removed.count(set) != 0) continue;
+    const std::vector<std::int32_t>& stack = before.mends[set].stackedWith;
+    const bool lost = std::any_of(stack.begin(), stack.end(), [&](std::int32_t other) {
+      return removed.count(static_cast<std::size_t>(other)) != 0;
+    });
+    if (lost) remakeMended(now, document);
+    ++now;
+  }
+}
+
 }  // namespace
 
 void removeShots(const std::vector<std::size_t>& shots, Survey& survey) {
@@ -50,6 +83,7 @@ void removeShots(const std::vector<std::size_t>& shots, Survey& survey) {
     Recordings& recordings = document.recordings.edit();
     removeFrom(recordings.traceSets, removed);
     removeFrom(recordings.notes, removed);
+    removeMends(recordings, removed);
     for (auto* files :
          {&recordings.filenames, &recordings.filenames_DX, &recordings.filenames_SX}) {
       removeFrom(*files, removed);
@@ -57,6 +91,7 @@ void removeShots(const std::vector<std::size_t>& shots, Survey& survey) {
   }
   std::int32_t set = 0;
   for (TravelTime& record : document.ttArray.edit()) record.traceSetID = set++;
+  remakeStacks(*before.recordings, removed, document);
   removeMarks(survey.interpretation.edit(), removed);
   forgetModel(modelLoss(before, document.surveyProfile()), document);
 }

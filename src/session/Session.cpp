@@ -1,8 +1,10 @@
 #include "session/Session.h"
 
+#include "io/Survey.h"
 #include "session/TableRules.h"
 
 #include <algorithm>
+#include <deque>
 #include <exception>
 #include <utility>
 
@@ -19,7 +21,65 @@ void keepView(const SectionViewSettings& view, SectionViewSettings& section) {
 
 }  // namespace
 
-Session::Session() = default;
+struct Session::Step {
+  Edit edit;
+  Message text;
+  std::string key;
+  Survey other;           ///< the survey before the step, or after it once it is undone
+  std::size_t bytes = 0;  ///< that it does not share with the survey on the other side
+  bool proposes = false;  ///< the cell sizes that are proposed are others on the other side
+};
+
+struct Session::Open {
+  Edit edit;
+  Survey before;
+  bool decided;
+};
+
+struct Session::State {
+  Survey survey;
+  std::deque<Step> steps;
+  std::optional<Open> open;
+};
+
+Session::Session() : mState(std::make_unique<State>()) {}
+Session::~Session() = default;
+
+const Survey& Session::survey() const {
+  return mState->survey;
+}
+
+const TomoDocument& Session::document() const {
+  return mState->survey.document;
+}
+
+const Survey& Session::settled() const {
+  return isOpen() && !mState->open->decided ? mState->open->before : mState->survey;
+}
+
+bool Session::isOpen() const {
+  return mState->open.has_value();
+}
+
+bool Session::modified() const {
+  return mClean != mIndex || (isOpen() && mState->open->decided);
+}
+
+bool Session::canUndo() const {
+  return mIndex > 0 && !isOpen();
+}
+
+bool Session::canRedo() const {
+  return mIndex < mState->steps.size() && !isOpen();
+}
+
+std::size_t Session::steps() const {
+  return mState->steps.size();
+}
+
+void Session::amend(const std::function<void(Survey&)>& change) {
+  change(mState->survey);
+}
 
 Session::Subscription Session::subscribe(Observer observer) {
   auto subscription = std::make_shared<Observer>(std::move(observer));
@@ -52,10 +112,10 @@ Status Session::applyMerging(Edit edit, const Change& change, const std::string&
   if (isOpen()) {
     return Status::failure(Message::tr("another edit is under way; try again when it is through"));
   }
-  Survey next = mSurvey;
-  Status status = run(edit, change, mSurvey, next);
+  Survey next = mState->survey;
+  Status status = run(edit, change, mState->survey, next);
   if (!status.ok()) return status;
-  std::swap(mSurvey, next);
+  std::swap(mState->survey, next);
   if (text.empty()) text = ruleOf(edit).text;
   push({edit, std::move(text), key, next, 0});
   tell(SurveyChange::Kind::kEdit, edit, next);
@@ -64,33 +124,33 @@ Status Session::applyMerging(Edit edit, const Change& change, const std::string&
 
 bool Session::begin(Edit edit, bool decided) {
   if (mChanging || isOpen()) return false;
-  mOpen = Open{edit, mSurvey, decided};
-  tell(SurveyChange::Kind::kPreview, edit, mOpen->before);
+  mState->open = Open{edit, mState->survey, decided};
+  tell(SurveyChange::Kind::kPreview, edit, mState->open->before);
   return true;
 }
 
 Status Session::preview(const Change& change) {
   if (!isOpen()) return Status::failure(Message::tr("no edit is under way"));
-  Survey next = mOpen->before;
-  keepView(mSurvey.section, next.section);
-  Status status = run(mOpen->edit, change, mOpen->before, next);
+  Survey next = mState->open->before;
+  keepView(mState->survey.section, next.section);
+  Status status = run(mState->open->edit, change, mState->open->before, next);
   if (!status.ok()) return status;
-  std::swap(mSurvey, next);
-  tell(SurveyChange::Kind::kPreview, mOpen->edit, next);
+  std::swap(mState->survey, next);
+  tell(SurveyChange::Kind::kPreview, mState->open->edit, next);
   return status;
 }
 
 Status Session::commit(const Change& change) {
   if (!isOpen()) return Status::failure(Message::tr("no edit is under way"));
-  Survey next = mOpen->before;
-  keepView(mSurvey.section, next.section);
-  Status status = run(mOpen->edit, change, mOpen->before, next);
+  Survey next = mState->open->before;
+  keepView(mState->survey.section, next.section);
+  Status status = run(mState->open->edit, change, mState->open->before, next);
   if (!status.ok()) {
     abandon();
     return status;
   }
-  const Open open = *std::exchange(mOpen, std::nullopt);
-  std::swap(mSurvey, next);
+  const Open open = *std::exchange(mState->open, std::nullopt);
+  std::swap(mState->survey, next);
   push({open.edit, ruleOf(open.edit).text, {}, open.before, 0});
   tell(SurveyChange::Kind::kEdit, open.edit, next);
   return status;
@@ -98,63 +158,68 @@ Status Session::commit(const Change& change) {
 
 void Session::abandon() {
   if (!isOpen()) return;
-  Open open = *std::exchange(mOpen, std::nullopt);
-  keepView(mSurvey.section, open.before.section);
-  std::swap(mSurvey, open.before);
+  Open open = *std::exchange(mState->open, std::nullopt);
+  keepView(mState->survey.section, open.before.section);
+  std::swap(mState->survey, open.before);
   tell(SurveyChange::Kind::kPreview, open.edit, open.before);
 }
 
 void Session::setView(const std::function<void(SectionViewSettings&)>& change) {
-  const Survey before = mSurvey;
-  SectionViewSettings view = mSurvey.section;
+  const Survey before = mState->survey;
+  SectionViewSettings view = mState->survey.section;
   change(view);
-  keepView(view, mSurvey.section);
+  keepView(view, mState->survey.section);
   tell(SurveyChange::Kind::kView, std::nullopt, before);
 }
 
 Message Session::undoText() const {
-  return canUndo() ? mSteps[mIndex - 1].text : Message();
+  return canUndo() ? mState->steps[mIndex - 1].text : Message();
 }
 
 Message Session::redoText() const {
-  return canRedo() ? mSteps[mIndex].text : Message();
+  return canRedo() ? mState->steps[mIndex].text : Message();
 }
 
 void Session::undo() {
   if (!canUndo()) return;
-  exchange(mSteps[--mIndex], Way::kBack);
+  exchange(mState->steps[--mIndex], Way::kBack);
 }
 
 void Session::redo() {
   if (!canRedo()) return;
-  exchange(mSteps[mIndex++], Way::kForth);
+  exchange(mState->steps[mIndex++], Way::kForth);
 }
 
 /// The survey and that on the other side of a step change places.
 void Session::exchange(Step& step, Way way) {
-  const Survey before = mSurvey;
+  const Survey before = mState->survey;
   const Edit edit = step.edit;
-  std::swap(mSurvey, step.other);
-  keepView(before.section, mSurvey.section);
-  step.bytes = bytesNotShared(step.other, mSurvey);
+  std::swap(mState->survey, step.other);
+  keepView(before.section, mState->survey.section);
+  if (!step.proposes) {
+    mState->survey.document.proposedCellSizes = before.document.proposedCellSizes;
+  }
+  step.bytes = bytesNotShared(step.other, mState->survey);
   dropFarthest(way);
   tell(way == Way::kBack ? SurveyChange::Kind::kUndo : SurveyChange::Kind::kRedo, edit, before);
 }
 
 void Session::push(Step step) {
-  PartSet parts = differingParts(step.other, mSurvey);
+  PartSet parts = differingParts(step.other, mState->survey);
   parts.remove(Part::kView);
   if (parts.empty()) return;
   if (mClean && *mClean > mIndex) mClean.reset();  // it was undone, and now nothing leads there
-  mSteps.resize(mIndex);
-  const bool merges = !step.key.empty() && mIndex > 0 && mSteps.back().key == step.key &&
-                      mSteps.back().edit == step.edit && mClean != mIndex;
+  mState->steps.resize(mIndex);
+  const bool merges = !step.key.empty() && mIndex > 0 && mState->steps.back().key == step.key &&
+                      mState->steps.back().edit == step.edit && mClean != mIndex;
   if (!merges) {
-    mSteps.push_back(std::move(step));
+    mState->steps.push_back(std::move(step));
     ++mIndex;
   }
   ++mPushed;
-  mSteps.back().bytes = bytesNotShared(mSteps.back().other, mSurvey);
+  Step& last = mState->steps.back();
+  last.bytes = bytesNotShared(last.other, mState->survey);
+  last.proposes = last.other.document.proposedCellSizes != document().proposedCellSizes;
   dropFarthest(Way::kForth);
 }
 
@@ -162,17 +227,17 @@ void Session::push(Step step) {
 /// step either way stays, whatever it costs: who made it may want to take it back.
 void Session::dropFarthest(Way way) {
   const auto dropFirst = [this] {
-    mSteps.pop_front();
+    mState->steps.pop_front();
     --mIndex;
     if (mClean) mClean = *mClean > 0 ? std::optional<std::size_t>(*mClean - 1) : std::nullopt;
   };
   const auto dropLast = [this] {
-    mSteps.pop_back();
-    if (mClean && *mClean > mSteps.size()) mClean.reset();
+    mState->steps.pop_back();
+    if (mClean && *mClean > mState->steps.size()) mClean.reset();
   };
   while (undoMemory() > mUndoMemory) {
     const bool first = mIndex > 1;
-    const bool last = mSteps.size() > mIndex + 1;
+    const bool last = mState->steps.size() > mIndex + 1;
     if (!first && !last) break;
     if (first && (way == Way::kForth || !last)) {
       dropFirst();
@@ -184,10 +249,10 @@ void Session::dropFarthest(Way way) {
 }
 
 void Session::open(Survey survey, bool saved) {
-  mOpen.reset();
+  mState->open.reset();
   fitMarksToRecords(survey);
-  std::swap(mSurvey, survey);
-  mSteps.clear();
+  std::swap(mState->survey, survey);
+  mState->steps.clear();
   mIndex = 0;
   mDropped = 0;
   mClean = saved ? std::optional<std::size_t>(0) : std::nullopt;
@@ -196,7 +261,7 @@ void Session::open(Survey survey, bool saved) {
 
 void Session::markSaved() {
   mClean = mIndex;
-  const Survey before = mSurvey;
+  const Survey before = mState->survey;
   tell(SurveyChange::Kind::kSaved, std::nullopt, before);
 }
 
@@ -207,14 +272,14 @@ void Session::setUndoMemory(std::size_t bytes) {
 
 std::size_t Session::undoMemory() const {
   std::size_t bytes = 0;
-  for (const Step& step : mSteps) bytes += step.bytes;
+  for (const Step& step : mState->steps) bytes += step.bytes;
   return bytes;
 }
 
 void Session::tell(SurveyChange::Kind kind, std::optional<Edit> edit, const Survey& before) {
   const bool other = kind == SurveyChange::Kind::kOpened;
-  const SurveyChange change = {kind, edit, other ? PartSet::all() : differingParts(before, mSurvey),
-                               before};
+  const SurveyChange change = {
+      kind, edit, other ? PartSet::all() : differingParts(before, mState->survey), before};
   // What begins, ends or is saved as it was shown may still count as modified or not, or be a step.
   const bool step = kind == SurveyChange::Kind::kEdit && mPushed != mTold;
   const bool looks = kind == SurveyChange::Kind::kView || kind == SurveyChange::Kind::kEdit;

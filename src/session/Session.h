@@ -1,19 +1,21 @@
 #pragma once
 
 #include "base/Status.h"
-#include "io/Survey.h"
 #include "session/EditTable.h"
 #include "session/Parts.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
+struct SectionViewSettings;
+struct Survey;
 
 /// What observers of a session hear: once for every edit, undo, redo, look at an edit under way, or
 /// another survey in place of the one before.
@@ -41,11 +43,12 @@ class Session {
   static constexpr std::size_t kUndoMemory = std::size_t{512} << 20;
 
   Session();
+  ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  const Survey& survey() const { return mSurvey; }
-  const TomoDocument& document() const { return mSurvey.document; }
+  const Survey& survey() const;          ///< io/Survey.h
+  const TomoDocument& document() const;  ///< of the survey
   [[nodiscard]] Subscription subscribe(Observer observer);
 
   /// Edits the survey: one step to be undone. Forgets what the table says that the edit makes void.
@@ -65,17 +68,17 @@ class Session {
   Status preview(const Change& change);  ///< shows another state of the edit that was begun
   Status commit(const Change& change);   ///< the edit ends as one step
   void abandon();                        ///< the survey is as it was at begin()
-  bool isOpen() const { return mOpen.has_value(); }
+  bool isOpen() const;
 
   /// Changes what the program remembers of the survey beside what the user edits: no step, and no
   /// reason to save. Observers do not hear of it.
-  void amend(const std::function<void(Survey&)>& change) { change(mSurvey); }
+  void amend(const std::function<void(Survey&)>& change);
 
   /// Changes what the section shows. It is saved with the project, but neither an edit nor undone.
   void setView(const std::function<void(SectionViewSettings&)>& change);
 
-  bool canUndo() const { return mIndex > 0 && !isOpen(); }
-  bool canRedo() const { return mIndex < mSteps.size() && !isOpen(); }
+  bool canUndo() const;
+  bool canRedo() const;
   Message undoText() const;  ///< of the step that undo() takes back; empty without one
   Message redoText() const;
   void undo();
@@ -86,27 +89,22 @@ class Session {
   void open(Survey survey, bool saved);
   void markSaved();  ///< a file holds the survey as it is
   /// Whether the survey is another than the one that was opened or saved last.
-  bool modified() const { return mClean != mIndex || (mOpen && mOpen->decided); }
+  bool modified() const;
   /// The survey without what is only tried.
-  const Survey& settled() const { return mOpen && !mOpen->decided ? mOpen->before : mSurvey; }
+  const Survey& settled() const;
   /// Grows whenever the survey changes, the view included.
   std::uint64_t revision() const { return mRevision; }
 
   void setUndoMemory(std::size_t bytes);
   std::size_t undoMemory() const;  ///< bytes that undo and redo cost now
-  std::size_t steps() const { return mSteps.size(); }
+  std::size_t steps() const;
   /// Steps that were dropped because they cost too much, since the survey was opened.
   std::size_t droppedSteps() const { return mDropped; }
 
  private:
-  struct Step {
-    Edit edit;
-    Message text;
-    std::string key;
-    Survey other;           ///< the survey before the step, or after it once it is undone
-    std::size_t bytes = 0;  ///< that it does not share with the survey on the other side
-  };
-
+  struct Open;
+  struct State;
+  struct Step;
   enum class Way { kBack, kForth };
 
   Status run(Edit edit, const Change& change, const Survey& before, Survey& next);
@@ -115,14 +113,7 @@ class Session {
   void dropFarthest(Way way);
   void tell(SurveyChange::Kind kind, std::optional<Edit> edit, const Survey& before);
 
-  struct Open {
-    Edit edit;
-    Survey before;
-    bool decided;
-  };
-
-  Survey mSurvey;
-  std::deque<Step> mSteps;
+  std::unique_ptr<State> mState;
   std::size_t mIndex = 0;     ///< steps that are done
   std::uint64_t mPushed = 0;  ///< steps ever made
   std::uint64_t mTold = 0;    ///< of them, that observers know of
@@ -131,7 +122,6 @@ class Session {
   std::size_t mDropped = 0;
   std::uint64_t mRevision = 0;
   bool mChanging = false;
-  std::optional<Open> mOpen;
   std::vector<std::weak_ptr<Observer>> mObservers;
 };
 

@@ -2,6 +2,7 @@
 
 #include "model/GroundModel.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <exception>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/TomoDocument.h"
 #include "tomo/ShortestPaths.h"
 
 #include <QThread>
@@ -9,6 +8,9 @@
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
+struct TravelTime;
 
 /// The worker of one shot: its rays through the current grid, the times along them, and what they
 /// ask of every cell. Started once to trace and evaluate, and again after every solver iteration,

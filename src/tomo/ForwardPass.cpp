@@ -4,6 +4,7 @@
 #include "base/TextNumber.h"
 #include "model/GroundModel.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 
 #include <QThread>

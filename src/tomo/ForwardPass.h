@@ -2,7 +2,6 @@
 
 #include "base/Log.h"
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 #include "tomo/DijkstraComputePathsThread.h"
 
 #include <functional>
@@ -12,7 +11,9 @@
 
 namespace talvesk {
 
+class TomoDocument;
 struct ExcludedPosition;
+
 /// How many ray searches run at once unless the user asks for a single one.
 unsigned searchThreads();
 

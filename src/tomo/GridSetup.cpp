@@ -4,6 +4,7 @@
 #include "base/TextNumber.h"
 #include "grid/GridBuilder.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"
@@ -33,17 +34,8 @@ SurveyProfile measure(TomoDocument& document, Log& log) {
   SurveyProfile profile = document.surveyProfile();
   log.write("Minima spaziatura : " + withSixDecimals(profile.minSpacing));
   console::out() << "[LOG] Minima spaziatura " << formatDouble(profile.minSpacing) << std::endl;
-  if (profile.hasGeometry())
-    document.model.edit().proposedCellSizes.push_back(profile.proposedCellSize);
+  if (profile.hasGeometry()) document.proposedCellSizes.edit().push_back(profile.proposedCellSize);
   return profile;
-}
-
-bool plausible(const SurveyProfile& profile) {
-  const auto inRange = [](double v) { return std::fabs(v) <= kLargestCoordinate; };
-  for (std::size_t i = 0; i < profile.x.size(); ++i) {
-    if (!inRange(profile.x[i]) || !inRange(profile.elevation[i])) return false;
-  }
-  return true;
 }
 
 Status checkSurvey(const SurveyProfile& profile) {
@@ -51,7 +43,7 @@ Status checkSurvey(const SurveyProfile& profile) {
     return Status::failure(
         Message::tr("Geophones do not have geometry! \nPlease set the position of geophones\n"));
   }
-  if (!plausible(profile)) {
+  if (!profile.isOnGlobe()) {
     return Status::failure(Message::tr(
         "A position of the survey lies more than 100 000 km away; please check the geometry."));
   }
@@ -77,9 +69,8 @@ GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& lo
   profile = measure(document, log);
   GridSettings settings;
   settings.maxDepth = profile.arrayLength / 2.0;
-  settings.cellSize = document.model->proposedCellSizes.empty()
-                          ? parameters::kCellSize.initial
-                          : document.model->proposedCellSizes.front();
+  settings.cellSize = document.proposedCellSizes.empty() ? parameters::kCellSize.initial
+                                                         : document.proposedCellSizes.front();
   settings.cellSize = std::max(settings.cellSize, parameters::kCellSize.limits.least);
   settings.nodes = std::max(document.model->grid ? document.model->grid->nV() : 0U, kFewestNodes);
   return settings;

@@ -3,13 +3,14 @@
 #include "base/Log.h"
 #include "base/Status.h"
 #include "model/Parameters.h"
-#include "model/TomoDocument.h"
 #include "tomo/Smoothing.h"
 
 #include <vector>
 
 namespace talvesk {
 
+class TomoDocument;
+struct SurveyProfile;
 struct VelocityLayer;
 
 /// What the user chooses for a grid.

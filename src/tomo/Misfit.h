@@ -1,9 +1,10 @@
 #pragma once
 
 #include "model/InversionRecord.h"
-#include "model/TomoDocument.h"
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Of the computed times as the last solver pass has left them, over every receiver with a pick and
 /// one.

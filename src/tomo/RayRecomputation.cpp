@@ -1,6 +1,7 @@
 #include "tomo/RayRecomputation.h"
 
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 

@@ -2,9 +2,10 @@
 
 #include "base/Log.h"
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Traces rays and times through the section that the document holds, so that what is told of it is
 /// true of it: document.timesOfSection is set. The model is not corrected, coverage and hit counts

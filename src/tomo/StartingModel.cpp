@@ -2,6 +2,7 @@
 
 #include "grid/GridBuilder.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 
 #include <cmath>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/TomoDocument.h"
-
 namespace talvesk {
+
+class TomoDocument;
 
 /// What the velocities of a document's grid are, and so what an inversion begins with.
 enum class StartingModel {

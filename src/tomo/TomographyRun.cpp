@@ -5,6 +5,7 @@
 #include "model/GroundModel.h"
 #include "model/PickFingerprint.h"
 #include "model/Residuals.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"
@@ -126,8 +127,9 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   const Stopwatch watch;
   document.stopRequested = false;
   const Shared<TomographyOutcome> before = document.result;
-  // Every run names anew what it leaves out.
+  // Every run names anew what it leaves out, and the record is that of the one before.
   document.result.edit().excluded.clear();
+  document.result.edit().lastInversion.reset();
   document.result.edit().sectionHistory.clear();
   document.model.edit().minVelocity = p.minVelocity;
   document.model.edit().maxVelocity = p.maxVelocity;

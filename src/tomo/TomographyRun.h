@@ -3,7 +3,6 @@
 #include "base/Log.h"
 #include "base/Status.h"
 #include "model/Parameters.h"
-#include "model/TomoDocument.h"
 #include "tomo/Misfit.h"
 #include "tomo/Smoothing.h"
 
@@ -14,6 +13,8 @@
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What the user chooses before an inversion.
 struct TomographyParameters {

@@ -1,5 +1,6 @@
 #include "widgets/GuideMarks.h"
 
+#include "model/TomoDocument.h"
 #include "widgets/traces/TraceGuides.h"
 #include "widgets/traces/TraceTags.h"
 

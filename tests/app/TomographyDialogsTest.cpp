@@ -139,7 +139,8 @@ TEST_F(GridDialog, tellsOfPositionsThatTheLastColumnDoesNotReachBeforeThereAreSh
 TEST_F(GridDialog, saysAllThatHoldsAtOnce) {
   survey.result.edit().has_tomographic_info = true;
   open({0.0, 3.0, 6});
-  for (const char* words : {"no rows", "beyond the last column", "last inversion will be lost"}) {
+  for (const char* words :
+       {"no rows", "beyond the last column", "last inversion will be removed"}) {
     EXPECT_THAT(warning(), ::testing::HasSubstr(words));
   }
 }
@@ -388,7 +389,8 @@ TEST_F(Layers, thatSwingBelowZeroAreShownAndExplained) {
   child<QSpinBox>(row(0), "v1Edit").setValue(200);
   child<QSpinBox>(row(0), "v2Edit").setValue(200);
   EXPECT_FALSE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
-  EXPECT_EQ(text(*dialog, "problemLabel"), "The results of the last inversion will be lost.");
+  EXPECT_EQ(text(*dialog, "problemLabel"),
+            "The results of the last inversion will be removed (Undo brings them back).");
   line.result.edit().has_tomographic_info = false;
   child<QSpinBox>(row(0), "v1Edit").setValue(201);
   EXPECT_EQ(text(*dialog, "problemLabel"), "");

@@ -2,7 +2,9 @@
 #include "batch/DemoLine.h"
 #include "batch/DemoShots.h"
 #include "io/ShotFile.h"
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>

@@ -17,11 +17,17 @@ using ::testing::StartsWith;
 
 /// A project of 3 rows of 10 cells of 1 m under a line that lies in Italy, its view from 500 m/s to
 /// 700 m/s.
-std::string writeProject(const Folder& folder, bool onGlobe = true) {
+/// \param idle how many of its geophones make another string, which recorded no shot
+std::string writeProject(const Folder& folder, bool onGlobe = true,
+                         const std::vector<std::ptrdiff_t>& idle = {}) {
   const talvesk::testing::ConsoleCapture console;
   TomoDocument document = talvesk::testing::sectionDocument(
       3, 10, 0.0, [](std::uint32_t row, std::uint32_t) { return 500.0 + 100.0 * row; });
   document.title = "Valley";
+  auto& strings = document.line.edit().goephonesStringSet;
+  for (const std::ptrdiff_t geophones : idle) {
+    strings.emplace_back(strings[0].begin(), strings[0].begin() + geophones);
+  }
   if (onGlobe) {
     document.map.edit().geoCoord = {32632, 652000.0, 652004.8, 5074000.0, 5074006.4};
     document.map.edit().geoCoord_isSet = true;
@@ -90,6 +96,19 @@ TEST(Export, takesPlacePaletteAndRangeFromTheCommandLine) {
   EXPECT_EQ(report.code, 0) << "a report tells the place, too: " << report.err;
 }
 
+TEST(Export, coloursNothingButTheKmlByAPaletteThatIsAskedFor) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  ASSERT_EQ(runBatch({"export", project, "--image", folder / "a.png"}).code, 0);
+  const Outcome coloured =
+      runBatch({"export", project, "--image", folder / "b.png", "--kml-section", folder / "s.kml",
+                "--palette", "Black to White"});
+  ASSERT_EQ(coloured.code, 0) << coloured.err;
+  EXPECT_THAT(contentsOf(folder / "s.kml"), HasSubstr("<color>ffffffff</color>"));
+  const std::string picture = contentsOf(folder / "a.png");
+  EXPECT_EQ(contentsOf(folder / "b.png") == picture, true) << "of the project's palette";
+}
+
 TEST(Export, writesTheOthersWhenOneFails) {
   const Folder folder;
   const std::string project = writeProject(folder);
@@ -100,6 +119,20 @@ TEST(Export, writesTheOthersWhenOneFails) {
   EXPECT_THAT(outcome.err, HasSubstr("EPSG:999999 is no reference system"));
   EXPECT_TRUE(folder.holds("s.vtu"));
   EXPECT_FALSE(folder.holds("line.kml"));
+}
+
+/// The strings of picks are told apart by the shots that they recorded.
+TEST(Export, tellsOfStringsThatAnExchangeFileCannotHoldEvenWhenQuiet) {
+  const Folder folder;
+  const std::string project = writeProject(folder, true, {1, 4});
+  for (const std::vector<std::string>& command :
+       {std::vector<std::string>{"export", project}, {"invert", project, "--iterations", "1"}}) {
+    std::vector<std::string> arguments = command;
+    arguments.insert(arguments.end(), {"--otte", folder / "s.otte", "--quiet"});
+    const Outcome outcome = runBatch(arguments);
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_THAT(outcome.err, HasSubstr("read back, string 2 will have another number"));
+  }
 }
 
 TEST(Export, failsForWhatIsNoProjectInside) {

@@ -1,5 +1,6 @@
 #include "batch/BatchRunner.h"
 #include "batch/CommandLine.h"
+#include "model/TomoDocument.h"
 
 #include <cstdio>
 #include <regex>

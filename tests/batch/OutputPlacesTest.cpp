@@ -133,6 +133,16 @@ TEST(Losses, areToldWhateverQuietSays) {
   EXPECT_THAT(zero.err, HasSubstr("g.csv: line 1, \"distance;height\", was taken for a heading"));
   EXPECT_THAT(zero.err, HasSubstr("g.csv: 1 field that is no number was taken as 0: line 6 \"?\""));
   EXPECT_THAT(zero.err, Not(HasSubstr("uncomplete")));
+
+  WrittenShot early = smallShot(0.5);
+  early.delay = -1.0;  // longer than the record
+  early.source.z = 0.0;
+  const std::string odd = folder.write("bell\a.sg2", formatSeg2(early));
+  const Environment home = {{"HOME", folder / ""}};
+  const Outcome kept = runBatch({"pick", odd, "--project", folder / "p.tvsk", "--quiet"}, home);
+  EXPECT_THAT(kept.err, HasSubstr("13 traces end before the shot"));
+  EXPECT_THAT(kept.err, HasSubstr("1 shots were put on the line of the geophones"));
+  EXPECT_THAT(kept.err, HasSubstr("could not be copied; its traces are saved without it"));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "batch/SmallShots.h"
+#include "io/project/projectReader.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,6 +13,7 @@ namespace {
 
 using nlohmann::ordered_json;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
@@ -144,7 +146,7 @@ TEST_F(Picking, shotsWithoutElevationsComeOntoTheLineOfTheGeophones) {
   const std::string places = geophones(13, 3.0, ";");
   const Outcome outcome = pick({"-o", mFolder / "a.otte", "--geophones", places});
   ASSERT_EQ(outcome.code, 0) << outcome.err;
-  EXPECT_THAT(outcome.out, HasSubstr("1 shots were put on the line of the geophones"));
+  EXPECT_THAT(outcome.err, HasSubstr("1 shots were put on the line of the geophones"));
   const ordered_json json = pickJson({"--geophones", places});
   EXPECT_EQ(json["shots"][0]["position"][1], 5.0);
 }
@@ -163,7 +165,7 @@ TEST_F(Picking, warnsOfNumbersThatAreCutAtDecimalCommas) {
   const std::string shots = mFolder.write("c.csv", "shot_1;1;4,5\nshot_2;19;4\nshot_3;35;0\n");
   const Outcome outcome = pick({"-o", mFolder / "a.otte", "--shots", shots});
   EXPECT_THAT(outcome.err, HasSubstr("c.csv: numbers were cut at their decimal commas"));
-  EXPECT_THAT(outcome.out, Not(HasSubstr("put on the line"))) << "some have elevations";
+  EXPECT_THAT(outcome.err, Not(HasSubstr("put on the line"))) << "some have elevations";
 }
 
 TEST_F(Picking, whatDoesNotFitFailsInOneLineAndLeavesTheOldFile) {
@@ -228,6 +230,24 @@ TEST_F(Picking, savesAProjectThatPicksNeedNoFileBeside) {
     EXPECT_EQ(info["shots"][shot]["times"], picked["shots"][shot]["times"]);
     EXPECT_EQ(info["shots"][shot]["traces"], 13);
   }
+}
+
+TEST_F(Picking, leavesEveryPickOfAProjectUnconfirmed) {
+  const Environment home = {{"HOME", mFolder / ""}};
+  const std::string project = mFolder / "line.tvsk";
+  ASSERT_EQ(runBatch(arguments("pick", mFiles, {"--project", project}), home).code, 0);
+  LoadedProject back;
+  projectReader reader;
+  ASSERT_EQ(reader.load(project, mFolder / "", back), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
+  std::size_t picks = 0;
+  for (const TravelTime& record : back.document.ttArray) {
+    for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
+      EXPECT_EQ(record.waits(i), hasPick(record.ttMisurati[i])) << i;
+      picks += hasPick(record.ttMisurati[i]) ? 1 : 0;
+    }
+  }
+  EXPECT_GT(picks, 30U);
 }
 
 TEST_F(Picking, receiversAtTooFewPlacesAreWarnedOf) {

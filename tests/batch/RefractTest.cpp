@@ -97,6 +97,17 @@ TEST(Refract, savesItsLayersInAProjectAndDescribesThemInAReport) {
   EXPECT_EQ(after["refractors"][0]["xy"], 2.0);
   EXPECT_EQ(after["shots"], before["shots"]);
   EXPECT_EQ(after["refractors"][0]["depth"], before["refractors"][0]["depth"]);
+  // And so does an inversion of it.
+  const std::string both = survey.folder / "both.odt";
+  ASSERT_EQ(
+      runBatch({"invert", project, "--iterations", "1", "--cell-size", "4", "--report", both}, home)
+          .code,
+      0);
+  const std::string unpack =
+      "python3 -m zipfile -e '" + both + "' '" + (survey.folder / "unpacked'");
+  ASSERT_EQ(std::system(unpack.c_str()), 0);
+  EXPECT_THAT(contentsOf(survey.folder / "unpacked/content.xml"),
+              HasSubstr("Refraction interpretation"));
 }
 
 TEST(Refract, saysWhatKeepsItFromAProfile) {

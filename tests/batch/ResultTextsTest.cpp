@@ -1,5 +1,9 @@
 #include "batch/Progress.h"
+#include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
+#include "io/TravelTimeData.h"
+#include "model/Mending.h"
+#include "support/ShotDocument.h"
 
 #include <cmath>
 #include <limits>
@@ -49,6 +53,27 @@ TEST(Progress, silenceIsSilentAndLinesHaveNoControlCharacters) {
   std::ostringstream lines;
   Progress(ProgressStyle::kLines, lines, 10).show(threeOfTen());
   EXPECT_EQ(lines.str(), progressLine(threeOfTen()) + "\n");
+}
+
+TEST(ProjectInfo, tellsTheMendsOfEveryShot) {
+  LoadedProject project;
+  project.document = testing::shotDocument(3, 4, 100);
+  ShotMends mends;
+  mends.timeShift = 0.001;
+  mends.traces = {{}, {true, false, 0.0}};
+  ASSERT_TRUE(setMends(1, mends, project.document).ok());
+  const auto json = nlohmann::json::parse(projectJson(project));
+  EXPECT_TRUE(json["shots"][0]["mends"].is_null());
+  const auto& told = json["shots"][1]["mends"];
+  EXPECT_EQ(told["time_shift"], 0.001);
+  EXPECT_EQ(told["disabled"], false);
+  ASSERT_EQ(told["traces"].size(), 1U);
+  EXPECT_EQ(told["traces"][0]["trace"], 1);
+  EXPECT_EQ(told["traces"][0]["killed"], true);
+  std::ostringstream text;
+  describe("line.tvsk", project, text);
+  EXPECT_THAT(text.str(), ::testing::HasSubstr("  mend        shot 2: shifted by 1 ms: its record "
+                                               "was late\n  mend        shot 2: traces killed: 2"));
 }
 
 TEST(ResultJson, whatIsNoNumberIsNullAndWrongBytesAreReplaced) {

@@ -33,7 +33,7 @@ TEST(ShotInfo, tellsTheHeadersOfEveryTraceAndTheSamplesOnDemand) {
   const Folder folder;
   const std::string file = writeSmallShots(folder).front();
   const ordered_json brief = infoOf({file});
-  EXPECT_EQ(keysOf(brief), "format status traces ");
+  EXPECT_EQ(keysOf(brief), "format status traces standard ");
   EXPECT_EQ(brief["format"], "seg2");
   EXPECT_EQ(brief["status"], 0);
   ASSERT_EQ(brief["traces"].size(), 13U);
@@ -78,7 +78,7 @@ TEST(ShotInfo, filesThatFailHaveTheirStatusAndTheRestIsRead) {
   ASSERT_EQ(array.size(), 5U);
   const std::pair<std::size_t, int> failures[] = {{0, 2}, {2, 3}, {4, 1}};
   for (const auto& [i, status] : failures) {
-    EXPECT_EQ(keysOf(array[i]), "file status message ");
+    EXPECT_EQ(keysOf(array[i]), "file status message standard ");
     EXPECT_EQ(array[i]["status"], status) << i;
   }
   EXPECT_EQ(array[0]["file"], noInterval);

@@ -1,5 +1,6 @@
 #include "export/GriddedText.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"

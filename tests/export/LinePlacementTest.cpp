@@ -1,5 +1,6 @@
 #include "export/LinePlacement.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <limits>
 

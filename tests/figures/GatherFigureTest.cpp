@@ -1,4 +1,6 @@
 #include "figures/GatherFigure.h"
+#include "figures/GatherScene.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "support/CommaLocale.h"
@@ -105,6 +107,21 @@ TEST(GatherFigure, wigglesLeaveTheBaseLineWhereTheirSamplesDo) {
     };
     EXPECT_GT(darkest(1.0, breakMs - 1.5 * msPerPixel), 250) << i;
     EXPECT_LT(darkest(breakMs, breakMs + 1.5), 150) << i;
+  }
+}
+
+TEST(GatherFigure, saysThatItsShotIsMended) {
+  TomoDocument document = testing::shotDocument(1, 6, 200);
+  ShotMends mends;
+  mends.disabled = true;
+  mends.timeShift = 0.0005;
+  mends.traces = {{true, false, 0.0}, {true, true, 0.01}};
+  ASSERT_TRUE(setMends(0, mends, document).ok());
+  GatherScene scene;
+  ASSERT_TRUE(buildGatherScene(document, 0, {}, scene).ok());
+  for (const char* words : {"shot disabled", "shifted by 0.5 ms", "2 traces killed",
+                            "1 trace of reversed polarity", "1 trace muted"}) {
+    EXPECT_THAT(scene.caption, ::testing::HasSubstr(words));
   }
 }
 

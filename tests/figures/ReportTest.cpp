@@ -5,6 +5,7 @@
 #include "figures/report/ReportBuilder.h"
 #include "figures/report/ReportPages.h"
 #include "model/GeographicsCoord.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
@@ -167,7 +168,7 @@ TEST(Report, tellsOfWhatTheSurveyHas) {
        {"1  Survey", "2  Travel times", "3  Grid and inversion", "4  Velocity section",
         "5  Method"},
        2,
-       "Nothing has been inverted: the grid holds its starting model."},
+       "No result of an inversion is known: the grid has the velocities that it was left with."},
       {{placed, &interpretation},
        {"1  Survey", "2  Position", "3  Travel times", "4  Grid and inversion",
         "5  Velocity section", "6  Misfit", "7  Refraction interpretation", "8  Method"},
@@ -226,6 +227,20 @@ TEST(Report, namesShotFilesSoThatTheyCanBeToldApart) {
     for (const QStringList& row : table.rows) shown.push_back(row[1].toStdString());
     EXPECT_EQ(shown, c.shown);
   }
+}
+
+TEST(Report, listsTheMendsOfItsRecordings) {
+  TomoDocument line = pickedLine();
+  line.recordings.edit().traceSets.resize(3, TraceSet(13));
+  EXPECT_THROW(tableOf(reportOn({line}), "Mends of recordings"), std::runtime_error);
+  ShotMends mends;
+  mends.orderReversed = true;
+  mends.traces = {{true, false, 0.0}};
+  ASSERT_TRUE(setMends(1, mends, line).ok());
+  const ReportTable table = tableOf(reportOn({line}), "Mends of recordings");
+  ASSERT_EQ(table.rows.size(), 2U);
+  EXPECT_EQ(table.rows[0][0], "2");
+  EXPECT_EQ(table.rows[1][1].toStdString(), "traces killed: 1");
 }
 
 TEST(Report, givesEveryShotItsMisfitByHand) {
@@ -410,6 +425,23 @@ TEST(Report, leavesTheFileAloneWhenItCannotBeWrittenOrIsStopped) {
     EXPECT_EQ(stopped.code(), kReportCancelled);
     EXPECT_EQ(TestFolder::get(folder.file(name)), "before");
   }
+}
+
+TEST(Report, hasARowForEveryReceiverOfEitherRefractor) {
+  const TomoDocument document = pickedLine();
+  refractionDataStructure::Interpretation interpretation = oneRefractor();
+  auto& refractors = interpretation.refractData.cData;
+  refractors.push_back({});
+  refractors[1].x = {24.0, 26.0};
+  refractors[1].elevation = {100.0, 101.5};
+  refractors[1].depth = {9.0, 9.5};
+  refractors[1].velocity = {3000.0, 3100.0};
+  const ReportTable table =
+      tableOf(reportOn({document, &interpretation}), QStringLiteral("Depths below the surface"));
+  ASSERT_EQ(table.rows.size(), 14U);
+  EXPECT_EQ(table.rows[12], QStringList({"24.00", "100.00", "3.00", "1812", "9.00", "3000"}));
+  const QString none = QStringLiteral("\u2013");
+  EXPECT_EQ(table.rows[13], QStringList({"26.00", "101.50", none, none, "9.50", "3100"}));
 }
 
 TEST(Report, velocitiesOfARefractorRangeOverThoseThatAreKnown) {

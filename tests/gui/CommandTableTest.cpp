@@ -1,5 +1,6 @@
 #include "app/presenters/CommandTable.h"
 #include "gui/WindowTest.h"
+#include "io/Survey.h"
 #include "model/SurveyGeometry.h"
 #include "support/TestSurveys.h"
 #include "tomo/GridSetup.h"
@@ -303,6 +304,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionNext_file",
         "actionPrev_file",
         "actionRecording_details",
+        "actionMend_recording",
         "actionRemove_shot",
         "actionUndo",
         "actionGain_up",
@@ -339,9 +341,16 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
 
 /// What these need is not on the way to a section: a filtered copy, a layered profile, a view that
 /// was zoomed, a step that was undone, picks that were made.
-const std::set<std::string> kBesideTheWay = {
-    "show_filtered_cb", "actionShow_refraction", "actionZoom_back",    "actionZoom_forward",
-    "actionRedo",       "actionConfirm_picks",   "actionRemove_picks", "actionRemove_unconfirmed"};
+const std::set<std::string> kBesideTheWay = {"show_filtered_cb",
+                                             "actionShow_refraction",
+                                             "actionZoom_back",
+                                             "actionZoom_forward",
+                                             "actionRedo",
+                                             "actionConfirm_picks",
+                                             "actionRemove_picks",
+                                             "actionRemove_unconfirmed",
+                                             "actionCount_from_shot",
+                                             "actionTake_back_mends"};
 
 class GrowingSurvey : public Commands {
  protected:

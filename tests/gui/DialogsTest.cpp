@@ -3,7 +3,9 @@
 #include "app/dialogs/DialogSetGeometry.h"
 #include "app/dialogs/ExportTomoVelData.h"
 #include "app/dialogs/ImagesDialog.h"
+#include "app/dialogs/MendDialog.h"
 #include "app/dialogs/PaletteDialog.h"
+#include "app/dialogs/ReadingsDialog.h"
 #include "app/dialogs/RecordingDetailsDialog.h"
 #include "app/dialogs/RefractionProcessingDialog.h"
 #include "app/dialogs/ReportDialog.h"
@@ -70,7 +72,12 @@ class Dialogs : public WindowTest {
          [&] {
            return make<PaletteDialog>(mPalettes, false, ValueRange{250.0, 900.0}, mFolders);
          }},
+        {"mend", [&] { return make<MendDialog>(document, 0); }},
         {"recording", [&] { return make<RecordingDetailsDialog>(document, mFiles, 0); }},
+        {"readings",
+         [&] {
+           return make<ReadingsDialog>(std::vector<ReadingsDialog::File>{{&mReading, &mFuller}});
+         }},
         {"refraction", [&] { return make<RefractionProcessingDialog>(document, mLayers); }},
         {"report", [&] { return make<ReportDialog>(ReportOptions(), mBuild); }},
         {"screenshot", [&] { return make<ScreenshotDialog>(QSize(600, 400)); }},
@@ -118,6 +125,8 @@ class Dialogs : public WindowTest {
   refractionDataStructure::Interpretation mLayers;
   ColorPaletteList mPalettes;
   std::vector<RecordingInfo> mFiles;
+  ReadShotFile mReading;
+  FullerReading mFuller;
   ReportDialog::Build mBuild = [](const ReportOptions&, ReportContent&) { return Status(); };
   Languages mLanguages;
   Settings mSettings{home.file("settings.xml")};

@@ -5,6 +5,7 @@
 #include "app/dialogs/SelectCSVDelimiterDialog.h"
 #include "gui/WindowTest.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 #include "widgets/SpreadsheetView.h"
 
 #include <QApplication>

@@ -1,4 +1,5 @@
 #include "gui/GeometryDriver.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 

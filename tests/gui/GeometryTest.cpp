@@ -1,4 +1,5 @@
 #include "gui/GeometryDriver.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
@@ -85,7 +86,7 @@ TEST_F(Geometry, asksBeforeResultsAreLost) {
     user.ok();
   });
   for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
-    dialogs.expectBox("Warning", "The survey changes. This will be lost:",
+    dialogs.expectBox("Warning", "The survey changes. This will be removed (Undo brings it back):",
                       "the grid and the results of the inversion", answer);
   }
   action("actionGeometry").trigger();
@@ -251,8 +252,8 @@ TEST_F(Geometry, replacesTheRecordingOfAShotByAPair) {
   });
   dialogs.expectFiles("Open DX File of Shot 1", {dx});
   dialogs.expectFiles("Open SX File of Shot 1", {sx});
-  dialogs.expectBox("Warning", "The survey changes. This will be lost:", "the picks of shot 1",
-                    QMessageBox::Yes);
+  dialogs.expectBox("Warning", "The survey changes. This will be removed (Undo brings it back):",
+                    "the picks of shot 1", QMessageBox::Yes);
   action("actionGeometry").trigger();
   const TomoDocument& document = writable();
   EXPECT_EQ(document.recordings->traceSets[0][0].waveKind, Trace::kSWavePair);

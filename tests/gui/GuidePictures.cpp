@@ -7,6 +7,7 @@
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
 #include "gui/GuideCamera.h"
+#include "io/Survey.h"
 #include "widgets/section/SectionSurface.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 

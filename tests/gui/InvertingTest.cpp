@@ -8,6 +8,8 @@
 #include "model/TomographyOutcome.h"
 #include "support/TestSurveys.h"
 #include "tomo/Misfit.h"
+#include "view/SectionScene.h"
+#include "widgets/section/SectionView.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QApplication>
@@ -187,6 +189,28 @@ TEST_F(Inverting, keepsTheMisfitInViewAndSaysWhenPicksHaveChanged) {
   EXPECT_THAT(told(), HasSubstr("Picks have changed since."));
 }
 
+TEST_F(Inverting, tellsBelowTheSectionHowItFitsThePicksAsTheyAre) {
+  openLine();
+  answerGrid(12.0, 1.0);
+  answerParameters(1, 2);
+  expectResults();
+  run();
+  const auto scene = [this]() -> const SectionScene& {
+    return *child<SectionView>("vtk_widget").scene();
+  };
+  const double inverted = scene().misfit.rmse;
+  EXPECT_EQ(inverted, sectionMisfitOf(window->document()).rmse);
+  EXPECT_FALSE(scene().picksChanged);
+  const double pick = window->document().ttArray[0].ttMisurati[3];
+  child<editTravelTimesWidget>("showTracesWidget").editPick(0, 3, 1.5 * pick);
+  EXPECT_GT(scene().misfit.rmse, inverted);
+  EXPECT_EQ(scene().misfit.rmse, sectionMisfitOf(window->document()).rmse);
+  EXPECT_TRUE(scene().picksChanged);
+  window->session().undo();
+  EXPECT_EQ(scene().misfit.rmse, inverted);
+  EXPECT_FALSE(scene().picksChanged);
+}
+
 TEST_F(Inverting, completesTheIterationInWhichItIsStopped) {
   openLine();
   answerGrid(12.0, 0.5);
@@ -260,6 +284,25 @@ TEST_F(Inverting, tellsWhyAGridWithoutRowsCannotBeInverted) {
                     QMessageBox::Ok);
   run();
   EXPECT_FALSE(writable().result->has_tomographic_info);
+}
+
+TEST_F(Inverting, leavesUndoAndRedoAloneWhenItFailsBeforeItsFirstIteration) {
+  openLine();
+  answerGrid(0.0, 1.0);
+  dialogs.expectBox("Invalid parameter",
+                    "The max depth parameter set to 0.0 is not valid for tomography", "",
+                    QMessageBox::Ok);
+  dialogs.expectAndCancel();  // the parameters
+  run();
+  child<editTravelTimesWidget>("showTracesWidget").editPick(0, 3, 0.02);
+  window->session().undo();
+  const std::size_t steps = window->session().steps();
+  answerParameters(1, 1);
+  dialogs.expectBox("Error occured", "The inversion could not be completed.", "no grid with cells",
+                    QMessageBox::Ok);
+  run();
+  EXPECT_EQ(window->session().steps(), steps);
+  EXPECT_TRUE(window->session().canRedo());
 }
 
 TEST_F(Inverting, leavesTheWindowAliveButTheDocumentOutOfReach) {

@@ -6,6 +6,7 @@
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
 #include "support/TestSurveys.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -234,7 +235,7 @@ TEST_F(Loading, asksBeforeGridAndResultsGo) {
   document.result.edit().has_tomographic_info = true;
   window->session().markSaved();
   const QString longer = shotFile("longer.dat", 60.0);
-  const char* const question = "The survey changes. This will be lost:";
+  const char* const question = "The survey changes. This will be removed (Undo brings it back):";
   dialogs.expectBox("Warning", question, "the grid and the results of the inversion",
                     QMessageBox::No);
   window->openFiles({longer});
@@ -281,7 +282,7 @@ TEST_F(Loading, ofPicksAsksBeforeGridAndResultsGo) {
   const QString file = QString::fromStdString(home.file("moved.otte"));
   for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
     window->session().markSaved();
-    dialogs.expectBox("Warning", "The survey changes. This will be lost:",
+    dialogs.expectBox("Warning", "The survey changes. This will be removed (Undo brings it back):",
                       "the grid and the results of the inversion", answer);
     window->openFiles({file});
     EXPECT_EQ(document.model->grid == nullptr, answer == QMessageBox::Yes);
@@ -301,6 +302,31 @@ TEST_F(Loading, asksWhetherTimesCountFromTheShot) {
   EXPECT_EQ(writable().recordings->traceSets[1][0].samples.size(), 320U);
   EXPECT_EQ(writable().recordings->traceSets[0][0].samples.size(), 400U)
       << "what was answered for the first file stands";
+}
+
+TEST_F(Loading, countsTimesFromTheShotLaterToo) {
+  const QString text = "The records start before the shot, by up to 20 ms.";
+  const QAction& count = action("actionCount_from_shot");
+  loadShots(1);
+  EXPECT_FALSE(count.isEnabled()) << "the record begins with the shot";
+  dialogs.expectBox("Recording delay", text, "count times from the shot", QMessageBox::No);
+  window->openFiles({shotFile("late.dat", 13.0, -0.02)});
+  ASSERT_TRUE(count.isEnabled());
+  auto& traces = child<editTravelTimesWidget>("showTracesWidget");
+  traces.editPick(1, 3, 0.0361);
+  traces.editPick(1, 4, 0.0101);
+  action("actionCount_from_shot").trigger();
+  EXPECT_EQ(window->document().recordings->traceSets[0][0].samples.size(), 400U);
+  EXPECT_EQ(window->document().recordings->traceSets[1][0].samples.size(), 320U);
+  EXPECT_NEAR(window->document().ttArray[1].ttMisurati[3], 0.0161, 1e-12);
+  EXPECT_EQ(window->document().ttArray[1].ttMisurati[4], kNoTime) << "before the shot";
+  EXPECT_THAT(window->statusBar()->currentMessage().toStdString(),
+              ::testing::HasSubstr("lay before it"));
+  EXPECT_FALSE(count.isEnabled());
+  EXPECT_EQ(action("actionUndo").text(), QStringLiteral("Undo \"Count times from the shot\""));
+  action("actionUndo").trigger();
+  EXPECT_EQ(window->document().ttArray[1].ttMisurati[4], 0.0101);
+  EXPECT_TRUE(count.isEnabled());
 }
 
 TEST_F(Loading, exportedPicksComeBack) {

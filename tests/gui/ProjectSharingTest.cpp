@@ -1,4 +1,5 @@
 #include "gui/ProjectsTest.h"
+#include "model/TomoDocument.h"
 
 // What a window does about other programs that use the same project.
 

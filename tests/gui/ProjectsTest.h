@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gui/WindowTest.h"
+#include "model/TomoDocument.h"
 
 #include <QDir>
 #include <QFile>

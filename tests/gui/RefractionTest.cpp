@@ -375,9 +375,8 @@ TEST_F(RefractionCommand, asksBeforeReplacedPicksTakeTheProfileAndOtherShotsTheM
   ASSERT_TRUE(writeTravelTimes(home.file("moved.otte"), moved).ok());
   for (const char* name : {"same.otte", "moved.otte"}) {
     window->session().markSaved();
-    dialogs.expectBox("Warning",
-                      "The survey changes. This will be lost:", "the refraction interpretation",
-                      QMessageBox::Yes);
+    dialogs.expectBox("Warning", "The survey changes. This will be removed (Undo brings it back):",
+                      "the refraction interpretation", QMessageBox::Yes);
     window->openFiles({QString::fromStdString(home.file(name))});
     testing::putGrid(writable(), 30.0, 2.0);
     window->showFile(0);

@@ -259,6 +259,17 @@ TEST_F(Section, keepsAnExaggerationThatItsFieldCannotShow) {
   EXPECT_EQ(view().verticalExaggeration(), 2.125);
 }
 
+TEST_F(Section, keepsEveryExaggerationThatAProjectCanHave) {
+  openWith(sectionDocument(12, 40, 0.0, patchwork));
+  for (const double factor : {80.0, 100.0, 0.02, 0.01}) {
+    window->session().setView(
+        [factor](SectionViewSettings& section) { section.verticalExaggeration = factor; });
+    EXPECT_EQ(view().verticalExaggeration(), factor);
+    EXPECT_EQ(window->session().survey().section.verticalExaggeration, factor);
+    EXPECT_EQ(child<QDoubleSpinBox>("exaggerationSpin").value(), factor);
+  }
+}
+
 TEST_F(Section, isTurnedWithinThePlotWhateverTheSizeOfTheWindow) {
   openWith(sectionDocument(12, 40, 1.5, patchwork));
   view().setVerticalExaggeration(3.0);

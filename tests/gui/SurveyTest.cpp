@@ -1,5 +1,6 @@
 #include "gui/WindowTest.h"
 #include "model/Recordings.h"
+#include "model/TomoDocument.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 

@@ -58,7 +58,8 @@ class Untouched : public WindowTest {
   }
   void expectLayersAgain(QMessageBox::StandardButton button) {
     dialogs.expectBox("Define model velocity", "You have not changed the layers.",
-                      "The results of the last inversion will be lost.", button);
+                      "The results of the last inversion will be removed (Undo brings them back).",
+                      button);
   }
 };
 

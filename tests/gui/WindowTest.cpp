@@ -1,5 +1,6 @@
 #include "gui/WindowTest.h"
 
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "support/ShotDocument.h"
 #include "support/ShotFiles.h"

@@ -111,6 +111,12 @@ TEST(HeadedPicks, putShotsWithoutElevationsOnTheLineOfTheGeophones) {
   EXPECT_THAT(data.errors, ElementsAre(ElementsAre(0.0002, 0.0), ElementsAre(0.001, 0.0)));
 }
 
+TEST(HeadedPicks, joinAUnitToTheNameBeforeItEvenIfThatIsEmpty) {
+  EXPECT_FALSE(looksLikeHeadedPicks("sx gx \"\" (ms)\n0 5 7\n"));
+  const TravelTimeData data = read("sx gx \"\" t (ms)\n0 5 - 7\n");
+  EXPECT_THAT(data.records[0].ttMisurati, ElementsAre(0.007));
+}
+
 TEST(HeadedPicks, countRowsThatAreNoPicks) {
   const TravelTimeData data =
       read("sx,gx,t_ms,valid\n0,5,nan,1\n0,6,NA,1\n0,7,-99000,1\n0,8,0,1\n0,9,9,0\n0,10,10,1\n");

@@ -1,4 +1,5 @@
 #include "Samples.h"
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 #include "support/ConsoleCapture.h"
 

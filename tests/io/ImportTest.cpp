@@ -1,4 +1,5 @@
 #include "Samples.h"
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
@@ -42,7 +43,7 @@ TomoDocument inverted(std::size_t shots, std::size_t traces) {
     document.ttArray.edit().push_back(record);
   }
   document.model.edit().grid = roughGrid({2, 2, 3, 5.0}, 0.0);
-  document.model.edit().proposedCellSizes = {5.0};
+  document.proposedCellSizes = std::vector<double>{5.0};
   document.result.edit().has_tomographic_info = true;
   document.result.edit().RMSE_tomography = 3.0;
   document.result.edit().info_density = {1.0};
@@ -60,7 +61,7 @@ void expectNoModel(const TomoDocument& document) {
   EXPECT_EQ(document.result->RMSE_tomography, -1.0);
   EXPECT_TRUE(document.result->info_density.empty() && document.result->rays.empty());
   EXPECT_TRUE(document.result->hitCounts.empty() && document.result->coorcount.empty());
-  EXPECT_TRUE(document.result->excluded.empty() && document.model->proposedCellSizes.empty());
+  EXPECT_TRUE(document.result->excluded.empty() && document.proposedCellSizes.empty());
 }
 
 TEST(Import, replacesASurveyWithoutTraces) {
@@ -93,6 +94,16 @@ TEST(Import, fillsTheRecordsByTheirTraceSet) {
   EXPECT_EQ(document.recordings->filenames.size(), 2u);
   EXPECT_EQ(document.model->layers.size(), 1u);
   expectNoModel(document);
+}
+
+TEST(Import, takesTheMarksOfAnAutopickerAwayWithItsPicks) {
+  TomoDocument document = inverted(2, 3);
+  document.ttArray.edit()[0].setWaiting(0, true);
+  document.ttArray.edit()[1].setWaiting(1, true);
+  ASSERT_TRUE(importTravelTimes(sample(), document).ok());
+  for (const TravelTime& record : document.ttArray) {
+    for (std::size_t trace = 0; trace < 3; ++trace) EXPECT_FALSE(record.waits(trace)) << trace;
+  }
 }
 
 TEST(Import, dropsPicksBeyondTheRecordsOfTheTracesTheyBelongTo) {

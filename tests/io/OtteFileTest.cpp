@@ -2,6 +2,7 @@
 #include "io/OtteFile.h"
 #include "io/TravelTimeFile.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 

@@ -102,6 +102,18 @@ TEST_F(OwnMember, isNotThereWhenItHasNothingToTell) {
   EXPECT_THAT(entriesOf(archive()), SizeIs(8));
 }
 
+/// Inversions of earlier versions left none; a member without it would be refused when it is read.
+TEST_F(OwnMember, ofAResultIsNotWrittenWithoutItsCoverage) {
+  invert(project.document);
+  project.document.result.edit().hitCounts.clear();
+  project.document.result.edit().coorcount.clear();
+  ASSERT_EQ(save(), 0);
+  EXPECT_THAT(entriesOf(archive()), Not(Contains(Key("result.xml"))));
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
+  EXPECT_TRUE(back.document.result->has_tomographic_info);
+}
+
 TEST_F(OwnMember, ofOtherPicksIsLeftOutWithAWord) {
   project.document.ttArray.edit()[0].setWaiting(1, true);
   ASSERT_EQ(save(), 0);

@@ -225,7 +225,7 @@ INSTANTIATE_TEST_SUITE_P(
         Change{"tomodoc.xml", "<indexStesa>0", "<indexStesa>7"},
         Change{"tomodoc.xml", "<indexStesa>0", "<indexStesa>-2"},
         Change{"tomodoc.xml", "<x>5</x>", "<x>nan</x>"},
-        Change{"tomodoc.xml", "<x>5</x>", "<x>1e300</x>"},
+        Change{"tomodoc.xml", "<x>5</x>", "<x>inf</x>"},
         Change{"tomodoc.xml", "<ttArray", "<other"}, Change{"tomodoc.xml", "cereal>", "other>"},
         Change{"grid.xml", "<righe>3", "<righe>4"}, Change{"grid.xml", "<righe>3", "<righe>-3"},
         Change{"grid.xml", "<righe>3", "<righe>4294967295"}, Change{"grid.xml", "<nV>6", "<nV>1"},
@@ -239,6 +239,12 @@ INSTANTIATE_TEST_SUITE_P(
         Change{"palettes.xml", "<palettes", "<palette"},
         Change{"refraction.xml", "<shotID>0", "<shotID>3"},
         Change{"refraction.xml", "<value2>1", "<value2>4"}));
+
+TEST_F(LoadingFaults, ofAGridUnderAPositionBeyondTheGlobeSaySo) {
+  entries["tomodoc.xml"] = with(entries["tomodoc.xml"], "<x>5</x>", "<x>1e300</x>");
+  expectRefused(pack("wrong.tvsk", entries));
+  EXPECT_THAT(reader.message(), HasSubstr("grid.xml: there is a grid, but a position lies more"));
+}
 
 TEST_F(LoadingFaults, ofTracesHaveASignAndALineOfTheirOwn) {
   entries["tomodoc.xml"] =

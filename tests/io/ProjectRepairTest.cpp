@@ -18,7 +18,7 @@ class Repairs : public ProjectTest {
     TomoDocument& document = project.document;
     document.title = "Line 7";
     document.model.edit().layers.push_back({0.0, 500.0, 10.0, 1500.0});
-    document.model.edit().proposedCellSizes = {1.25};
+    document.proposedCellSizes = std::vector<double>{1.25};
     putGrid(document, 6, 2);
     refractionDataStructure::computedData refractor;
     refractor.x = {0, 5};

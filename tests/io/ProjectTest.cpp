@@ -178,11 +178,18 @@ TEST_F(ProjectTest, tellsTheSameFiguresOfItsSectionBeforeAndAfter) {
 }
 
 TEST_F(ProjectTest, losesCoverageAndFiguresWithAWordWhenTheyDoNotGoWithItsGrid) {
+  LoadedProject other = project;
   invert(project.document);
-  project.document.result.edit().hitCounts.pop_back();
   ASSERT_EQ(save(), 0) << console.error();
+  auto entries = entriesOf(archive());
+  putGrid(other.document, 6, 1.5);
+  other.document.result.edit().has_tomographic_info = true;
+  other.document.result.edit().hitCounts.assign(other.document.model->grid->cellCount(), 1);
+  other.document.result.edit().coorcount.assign(other.document.model->grid->cellCount(), 1.0);
+  ASSERT_EQ(save(folder.file("other.tvsk"), other), 0) << console.error();
+  entries["result.xml"] = entriesOf(folder.file("other.tvsk")).at("result.xml");
   LoadedProject back;
-  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  ASSERT_EQ(load(pack("mixed.tvsk", entries), back), 0) << reader.message();
   EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("result.xml")));
   EXPECT_THAT(back.document.result->hitCounts, IsEmpty());
   EXPECT_FALSE(back.document.result->timesOfSection);
@@ -222,6 +229,20 @@ TEST_F(ProjectTest, ofPicksAloneNeedsNoTraces) {
   ASSERT_THAT(back.document.ttArray, SizeIs(2));
   EXPECT_EQ(back.document.ttArray[1].traceSetID, 1) << "that of its own place";
   EXPECT_EQ(back.document.model->grid, nullptr);
+}
+
+/// Shot files with a wrong scalar put shots there, and their picks are work all the same.
+TEST_F(ProjectTest, ofPositionsBeyondTheGlobeIsOpenedAgain) {
+  const Point2D far{5e9, -5e9};
+  project.document.ttArray.edit()[0].shotPos2d = far;
+  project.document.line.edit().goephonesStringSet[0][5] = far;
+  ASSERT_EQ(save(), 0) << console.error();
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
+  EXPECT_EQ(back.document.ttArray[0].shotPos2d, far);
+  EXPECT_EQ(back.document.line->goephonesStringSet[0][5], far);
+  EXPECT_EQ(back.document.ttArray[0].ttMisurati, project.document.ttArray[0].ttMisurati);
 }
 
 TEST_F(ProjectTest, tellsWhatItWritesAndExtracts) {

@@ -1,5 +1,6 @@
 #include "Samples.h"
 #include "io/CsvPickFile.h"
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 #include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"

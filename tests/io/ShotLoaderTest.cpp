@@ -11,6 +11,7 @@
 #include "support/TestSurveys.h"
 
 #include <limits>
+#include <set>
 
 #include <gmock/gmock.h>
 
@@ -18,6 +19,7 @@ namespace talvesk {
 namespace {
 
 using namespace talvesk::testing;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -32,6 +34,21 @@ std::string seg2Shot(double source, double first, int channels) {
                     seg2Area({"DELAY -0.5", "RECEIVER_LOCATION " + std::to_string(first + 5 * i),
                               "SAMPLE_INTERVAL 0.001",
                               "SOURCE_LOCATION " + std::to_string(source) + " 101"})});
+  }
+  return seg2Bytes(made);
+}
+
+/// Shots at these places into three channels each, in one file.
+std::string seg2Shots(const std::vector<double>& sources) {
+  std::vector<Seg2Channel> made;
+  for (const double source : sources) {
+    for (int i = 0; i < 3; ++i) {
+      made.push_back(
+          {4,
+           {1, 2, static_cast<float>(made.size())},
+           seg2Area({"RECEIVER_LOCATION " + std::to_string(5 * i), "SAMPLE_INTERVAL 0.001",
+                     "SOURCE_LOCATION " + std::to_string(source)})});
+    }
   }
   return seg2Bytes(made);
 }
@@ -141,7 +158,7 @@ TEST_F(ShotLoading, keepsTheGridWhenTheLineStaysAsItIs) {
   const std::string longer = folder.put("longer.dat", seg2Shot(0, 5, 4));  // a geophone at 20 m
   const std::string broken = folder.put("broken.dat", "no");
   const auto loss = [&](const std::vector<std::string>& files) {
-    std::vector<ReadShot> shots;
+    std::vector<ReadShotFile> shots;
     for (const std::string& file : files) shots.push_back(loader.read(file, document));
     return lossByShots(shots, document);
   };
@@ -174,6 +191,49 @@ TEST_F(ShotLoading, refusesASurveyOfPicksWithoutTraces) {
   EXPECT_THAT(load({folder.put("a.dat", seg2Shot(1, 0, 2))}), ElementsAre(1));
   EXPECT_THAT(document.ttArray, SizeIs(2));
   EXPECT_THAT(document.recordings->filenames, IsEmpty());
+}
+
+TEST_F(ShotLoading, byTheStandardMakesATraceSetOfEveryShotOfAFile) {
+  const std::string first = folder.put("one.dat", seg2Shots({7}));
+  const std::string line = folder.put("line.whatever", seg2Shots({-2.5, 12.5}));
+  EXPECT_THAT(load({line}), ElementsAre(kUnknownSuffix)) << "by the program's rules";
+  outcomes = loader.load({first, line}, document, ShotReader::kStandard);
+  ASSERT_TRUE(outcomes.at(0).status.ok() && outcomes.at(1).status.ok());
+
+  const Recordings& recordings = *document.recordings;
+  EXPECT_THAT(recordings.filenames, ElementsAre(first, line, line));
+  ASSERT_THAT(recordings.traceSets, ElementsAre(SizeIs(3), SizeIs(3), SizeIs(3)));
+  EXPECT_THAT(recordings.traceSets[2][1].samples, ElementsAre(1, 2, 4)) << "with the last sample";
+  EXPECT_THAT(document.line->shotPositions, ElementsAre(7, -2.5, 12.5));
+  EXPECT_THAT(document.line->goephonesStringSet, SizeIs(1));
+  ASSERT_THAT(document.ttArray, SizeIs(3));
+  EXPECT_EQ(document.ttArray[2].traceSetID, 2);
+  ASSERT_THAT(recordings.notes, SizeIs(3));
+  EXPECT_EQ(recordings.notes[0].nameInFile, "");
+  EXPECT_NE(recordings.notes[2].nameInFile, recordings.notes[1].nameInFile);
+  for (std::size_t set = 0; set < 3; ++set) {
+    EXPECT_EQ(recordings.notes[set].reader, ShotReader::kStandard);
+    EXPECT_EQ(recordings.notes[set].format, "seg2");
+    EXPECT_EQ(recordings.notes[set].recordInFile, set == 2 ? 1 : 0);
+  }
+  ASSERT_FALSE(outcomes[1].warnings.empty()) << "how it was split";
+  EXPECT_THAT(recordings.notes[2].warnings, Contains(outcomes[1].warnings.front()));
+}
+
+TEST(ReadShots, tellAWarningThatTheyShareOnce) {
+  const ConsoleCapture console;
+  const TestFolder folder;
+  std::string bytes = seg2Shots({1, 2, 3});
+  bytes.resize(bytes.size() - 12);  // of the last shot
+  SegyState state;
+  const ReadShotFile file =
+      readShotFileBy(ShotReader::kStandard, folder.put("cut.dat", bytes), state);
+  ASSERT_THAT(file.shots, SizeIs(3)) << file.outcome.status.message();
+  std::vector<std::string> told;
+  for (const Message& warning : file.outcome.warnings) told.push_back(warning.english());
+  const std::set<std::string> once(told.begin(), told.end());
+  EXPECT_EQ(once.size(), told.size());
+  EXPECT_EQ(file.traceCount(), 9U);
 }
 
 TEST_F(ShotLoading, remembersTheByteOrderBetweenFilesAndCalls) {

@@ -71,11 +71,11 @@ TEST(SurveyGeometry, appliedForgetsResultsAndKeepsPicks) {
   for (const auto& [name, edit] : kEdits) {
     SCOPED_TRACE(name);
     TomoDocument document = survey();
-    document.model.edit().proposedCellSizes = {0.5};
+    document.proposedCellSizes = std::vector<double>{0.5};
     SurveyGeometry geometry = geometryOf(document);
     edit(geometry);
     EXPECT_TRUE(applyGeometry(geometry, document));
-    EXPECT_THAT(document.model->proposedCellSizes, ElementsAre(0.5)) << "the first proposal stays";
+    EXPECT_THAT(*document.proposedCellSizes, ElementsAre(0.5)) << "the first proposal stays";
     EXPECT_FALSE(geometryDiffers(geometry, document));
     EXPECT_FALSE(document.result->has_tomographic_info);
     EXPECT_DOUBLE_EQ(document.ttArray[1].ttMisurati[2], firstBreak(2));

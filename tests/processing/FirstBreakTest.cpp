@@ -1,4 +1,5 @@
 #include "Signals.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "processing/FirstBreak.h"
@@ -109,6 +110,28 @@ TEST(PickTrace, givesAFailedPickATimeFarBeyondTheRecord) {
     EXPECT_EQ(pickTrace(document, 0, t, false), -1);
     EXPECT_EQ(document.ttArray[0].ttMisurati[static_cast<std::size_t>(t)], kFailed);
   }
+}
+
+TEST(PickShots, passOverDisabledShotsAndKilledTraces) {
+  TomoDocument document;
+  for (int shot = 0; shot < 2; ++shot) {
+    addShot(document, {100, 200},
+            {traceOf(testing::arrival(900, 300)), traceOf(testing::arrival(900, 300))});
+    document.ttArray.edit().back().traceSetID = shot;
+  }
+  ShotMends disabled;
+  disabled.disabled = true;
+  ShotMends killed;
+  killed.traces = {{true, false, 0.0}};
+  ASSERT_TRUE(setMends(0, disabled, document).ok());
+  ASSERT_TRUE(setMends(1, killed, document).ok());
+  EXPECT_TRUE(pickShots(document, {0, 1}, false).ok());
+  EXPECT_THAT(document.ttArray[0].ttMisurati, ElementsAre(kUnpicked, kUnpicked));
+  EXPECT_EQ(document.ttArray[1].ttMisurati[0], kUnpicked);
+  EXPECT_TRUE(hasPick(document.ttArray[1].ttMisurati[1]));
+  EXPECT_THAT(tracesWithoutPart(document, document.ttArray[1]), ElementsAre(0U));
+  EXPECT_EQ(pickTrace(document, 1, 0, false), -1);
+  EXPECT_EQ(document.ttArray[1].ttMisurati[0], kUnpicked);
 }
 
 TEST(PickTrace, picksTheFilteredCopyOnRequest) {

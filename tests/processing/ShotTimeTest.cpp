@@ -55,6 +55,29 @@ TEST(ShotTime, keepsAFilteredCopyThatIsShortAlready) {
   EXPECT_EQ(document.recordings->traceSets[0][0].filtered.size(), 90U);
 }
 
+TEST(ShotTime, movesPicksWithTheSamplesThatTheyMark) {
+  TomoDocument document = documentOf(-0.01, 0.001);
+  TraceSet& traces = document.recordings.edit().traceSets[0];
+  traces.resize(5, traces[0]);
+  traces[4].delay = 0.0;
+  TravelTime& record = document.ttArray.edit().emplace_back();
+  record.ttMisurati = std::vector<double>{0.030, 0.004, kUnpicked, kNoTime, 0.030};
+  record.setWaiting(1, true);
+  EXPECT_TRUE(startsBeforeShot(traces[0]));
+  EXPECT_FALSE(startsBeforeShot(traces[4]));
+  for (int repeat = 0; repeat < 2; ++repeat) {
+    EXPECT_EQ(countTimesAndPicksFromShot(document).picksRemoved, repeat == 0 ? 1U : 0U);
+    const TravelTime& moved = document.ttArray[0];
+    EXPECT_DOUBLE_EQ(moved.ttMisurati[0], 0.020);
+    EXPECT_EQ(moved.ttMisurati[1], kNoTime) << "it lies before the shot";
+    EXPECT_FALSE(moved.waits(1));
+    EXPECT_EQ(moved.ttMisurati[2], kUnpicked);
+    EXPECT_EQ(moved.ttMisurati[3], kNoTime);
+    EXPECT_EQ(moved.ttMisurati[4], 0.030);
+    EXPECT_FALSE(startsBeforeShot(document.recordings->traceSets[0][0]));
+  }
+}
+
 TEST(ShotTime, staysSaneWithAbsurdHeaders) {
   const struct {
     double delay, interval;
@@ -71,6 +94,7 @@ TEST(ShotTime, staysSaneWithAbsurdHeaders) {
   };
   for (const auto& c : cases) {
     TomoDocument document = documentOf(c.delay, c.interval);
+    EXPECT_EQ(startsBeforeShot(document.recordings->traceSets[0][0]), c.kept < 100);
     const ShotTimeOutcome outcome = countTimeFromShot(document);
     EXPECT_EQ(document.recordings->traceSets[0][0].samples.size(), c.kept)
         << c.delay << ' ' << c.interval;

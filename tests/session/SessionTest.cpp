@@ -166,6 +166,35 @@ TEST_F(Sessions, leaveTheViewAloneWhenTheyGoBack) {
   EXPECT_FALSE(session.modified()) << "looking at it otherwise is no edit";
 }
 
+TEST_F(Sessions, rememberTheCellSizesThatWereProposedWhenTheyGoBack) {
+  const auto propose = [this](double size) {
+    session.amend(
+        [size](Survey& survey) { survey.document.proposedCellSizes.edit().push_back(size); });
+  };
+  ASSERT_TRUE(pick(4, 0.030).ok());
+  propose(0.5);
+  const Shared<GroundModel> model = session.document().model;
+  PartSet parts;
+  const auto heard =
+      session.subscribe([&parts](const SurveyChange& change) { parts = change.parts; });
+  session.undo();
+  EXPECT_FALSE(parts.has(Part::kModel)) << "the section is as it was";
+  EXPECT_TRUE(session.document().model.isSharedWith(model));
+  EXPECT_EQ(session.document().proposedCellSizes, std::vector<double>{0.5});
+  session.redo();
+  EXPECT_EQ(session.document().proposedCellSizes, std::vector<double>{0.5});
+
+  const auto otherLine = [](Survey& survey) {
+    survey.document.clearModelAndResults();
+    return Status();
+  };
+  ASSERT_TRUE(session.apply(Edit::kGrid, otherLine).ok());
+  propose(2.0);
+  session.undo();
+  EXPECT_EQ(session.document().proposedCellSizes, std::vector<double>{0.5})
+      << "those of the line that the step took away";
+}
+
 TEST_F(Sessions, makeOneStepOfAKeyThatIsHeld) {
   const double before = time(4);
   for (const double t : {0.030, 0.031, 0.032}) ASSERT_TRUE(pick(4, t, "nudge 1 4").ok());

@@ -147,14 +147,14 @@ TEST(GridSetup, goesOnProposingTheFirstCellSize) {
   EXPECT_EQ(settings.maxDepth, 13.0);  // half of 24 m and two margins
   EXPECT_EQ(settings.nodes, 6u);
   ASSERT_TRUE(setUpGrid(line, {5.0, 1.0, 9}, log).ok());
-  EXPECT_EQ(line.model->proposedCellSizes, (std::vector<double>{0.5, 0.5}));
+  EXPECT_EQ(line.proposedCellSizes, (std::vector<double>{0.5, 0.5}));
 
   for (Point2D& p : line.line.edit().goephonesStringSet[0]) p.x *= 2.0;
   settings = proposeGrid(line, profile, log);
   EXPECT_EQ(profile.proposedCellSize, 1.0);
   EXPECT_EQ(settings.cellSize, 0.5);
   EXPECT_EQ(settings.nodes, 9u);  // as many as the present grid has
-  EXPECT_EQ(line.model->proposedCellSizes, (std::vector<double>{0.5, 0.5, 1.0}));
+  EXPECT_EQ(line.proposedCellSizes, (std::vector<double>{0.5, 0.5, 1.0}));
 }
 
 TEST(GridSetup, proposesNoSmallerCellsThanUsersMayChoose) {
@@ -163,7 +163,7 @@ TEST(GridSetup, proposesNoSmallerCellsThanUsersMayChoose) {
   TomoDocument line = testing::testLine(24, 0.2, {});
   SurveyProfile profile;
   EXPECT_EQ(proposeGrid(line, profile, log).cellSize, 0.1);
-  EXPECT_EQ(line.model->proposedCellSizes, std::vector<double>{0.05});
+  EXPECT_EQ(line.proposedCellSizes, std::vector<double>{0.05});
 }
 
 TEST(GridSetup, proposesHalfAMetreWhereNothingIsKnown) {
@@ -172,7 +172,7 @@ TEST(GridSetup, proposesHalfAMetreWhereNothingIsKnown) {
   TomoDocument empty;
   SurveyProfile profile;
   EXPECT_EQ(proposeGrid(empty, profile, log).cellSize, 0.5);
-  EXPECT_TRUE(empty.model->proposedCellSizes.empty());
+  EXPECT_TRUE(empty.proposedCellSizes.empty());
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "model/TomoDocument.h"
 #include "support/TestGrids.h"
 #include "tomo/Misfit.h"
 #include "tomo/Solver.h"

@@ -303,6 +303,24 @@ TEST(Inversion, namesWhatItLeavesOutOncePerRun) {
   }
 }
 
+/// What is saved of a section under way must not tell of the run before.
+TEST(Inversion, hasNoRecordOfARunUntilItsEnd) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers();
+  Log log;
+  ASSERT_TRUE(runInversion(line, fewIterations(1, 1), log).status.ok());
+  ASSERT_TRUE(line.result->lastInversion);
+  int seen = 0;
+  const TomographyResult again =
+      runInversion(line, fewIterations(2, 1), log, [&](const TomographyProgress&) {
+        ++seen;
+        EXPECT_FALSE(line.result->lastInversion);
+      });
+  EXPECT_EQ(seen, 2);
+  ASSERT_TRUE(again.status.ok() && line.result->lastInversion);
+  EXPECT_EQ(line.result->lastInversion->externalIterations, 2);
+}
+
 TEST(Inversion, takesPicksAtTheSourceAsTheyAre) {
   const testing::ConsoleCapture console;
   TomoDocument line = twoLayers();

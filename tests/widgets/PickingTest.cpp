@@ -1,4 +1,5 @@
 #include "WidgetDriver.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "session/PickEdits.h"
 
@@ -127,6 +128,34 @@ TEST_F(Picking, arrowKeysNudgeByASampleTenOrAMillisecond) {
   EXPECT_NEAR(mUser.pick(4), 0.05 + kInterval, 1e-12);
   mUser.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_NEAR(mUser.pick(4), 0.05 - 9 * kInterval, 1e-12);
+}
+
+TEST_F(Picking, aKeyHeldIsOneEditOfOneShotInOneEditor) {
+  const auto hold = [this] {
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, {}, true);
+    QApplication::sendEvent(&mWidget, &event);
+  };
+  for (TravelTime& record : mDocument.ttArray.edit()) record.ttMisurati.edit()[4] = 0.05;
+  mWidget.setCurrentTrace(4);
+  mUser.key(Qt::Key_Down);
+  hold();
+  EXPECT_EQ(mUser.session.steps(), 1U);
+  mWidget.setShot(1);
+  mWidget.setCurrentTrace(4);
+  hold();
+  EXPECT_EQ(mUser.session.steps(), 2U);
+  EXPECT_NEAR(mUser.pick(4, 1), 0.05 + kInterval, 1e-12);
+
+  editTravelTimesWidget other;
+  other.setSession(mUser.session);
+  other.setShot(1);
+  other.setCurrentTrace(4);
+  QTest::keyClick(&other, Qt::Key_Down);
+  EXPECT_EQ(mUser.session.steps(), 3U) << "its first nudge, as the other's was";
+  mUser.session.undo();
+  mUser.session.undo();
+  EXPECT_EQ(mUser.pick(4, 1), 0.05);
+  EXPECT_NEAR(mUser.pick(4, 0), 0.05 + 2 * kInterval, 1e-12);
 }
 
 TEST_F(Picking, nudgesStopAtTheEndsOfTheRecord) {

@@ -1,4 +1,5 @@
 #include "TestShots.h"
+#include "io/Survey.h"
 #include "session/Session.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/traces/TraceMapping.h"

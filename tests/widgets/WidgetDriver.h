@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TestShots.h"
+#include "io/Survey.h"
 #include "session/Session.h"
 #include "widgets/traces/TraceMapping.h"
 #include "widgets/traces/editTravelTimesWidget.h"

@@ -15,6 +15,7 @@
 #include "io/SWavePairFile.h"
 #include "model/GeometryCheck.h"
 #include "model/Recordings.h"
+#include "model/TomoDocument.h"
 #include "ui_DialogSetGeometry.h"
 
 #include <QCollator>

@@ -1,6 +1,8 @@
 #include "app/dialogs/RecordingDetailsDialog.h"
 
-#include "io/FileFormats.h"
+#include "app/MessageText.h"
+#include "io/ReadShotFile.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "model/TomoDocument.h"
@@ -49,11 +51,24 @@ QString pathsOf(const TomoDocument& document, std::size_t set) {
 }
 
 QString formatName(const QString& id) {
-  const ShotFormat* format = shotFormatNamed(id.toStdString());
-  return QString::fromLatin1(format != nullptr ? format->name : "-");
+  const std::string name = shotFormatName(id.toStdString());
+  return name.empty() ? QStringLiteral("-") : QString::fromStdString(name);
 }
 
 }  // namespace
+
+/// By which reader, and which record of its file a set is.
+QString RecordingDetailsDialog::readerOf(std::size_t set) const {
+  const std::vector<RecordingNote>& notes = mDocument.recordings->notes;
+  if (set >= notes.size() || notes[set].reader == ShotReader::kRules) {
+    return tr("the program's rules");
+  }
+  const RecordingNote& note = notes[set];
+  if (note.nameInFile.empty()) return tr("the standard of its format");
+  return tr("the standard of its format; record %1 of the file, %2")
+      .arg(note.recordInFile + 1)
+      .arg(QString::fromStdString(note.nameInFile));
+}
 
 RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
                                                std::vector<RecordingInfo> files, int current,
@@ -94,6 +109,7 @@ void RecordingDetailsDialog::showSet(int index) {
   const RecordingInfo info = set < mFiles.size() ? mFiles[set] : RecordingInfo();
   mUi->pathValue->setText(pathsOf(mDocument, set));
   mUi->formatValue->setText(formatName(info.format));
+  mUi->readerValue->setText(readerOf(set));
   mUi->tracesValue->setText(QLocale().toString(static_cast<qulonglong>(traces.size())));
   mUi->samplesValue->setText(rangeOf(
       traces, [](const Trace& t) { return static_cast<double>(t.samples.size()); }, QString()));
@@ -109,6 +125,8 @@ void RecordingDetailsDialog::showSet(int index) {
       traces, [](const Trace& t) { return 1000.0 * t.delay; }, tr("ms")));
   mUi->droppedValue->setText(rangeOf(
       traces, [](const Trace& t) { return static_cast<double>(t.droppedSamples); }, QString()));
+  const QStringList mends = linesOf(describeMends(mDocument, set));
+  mUi->mendsValue->setText(mends.isEmpty() ? tr("None") : mends.join(QLatin1Char('\n')));
   mUi->warningsText->setPlainText(info.warnings.isEmpty() ? tr("None")
                                                           : info.warnings.join(QLatin1Char('\n')));
   fillTable(index);

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QStringList>
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -14,12 +15,12 @@ class TomoDocument;
 
 /// What is known of a shot file beside its traces.
 struct RecordingInfo {
-  QString format;        ///< "seg2", "segy", "su"; empty when not known
+  QString format;        ///< "seg2", "segy", "su", "mseed"; empty when not known
   QStringList warnings;  ///< of its reader
 };
 
-/// Shows what the shot files of a survey hold: format, samples, interval, delay, positions and what
-/// the readers warned about.
+/// Shows what the shot files of a survey hold: format, reader, samples, interval, delay, positions
+/// and what the readers warned about, and how they were mended.
 class RecordingDetailsDialog : public QDialog {
   Q_OBJECT
 
@@ -33,6 +34,7 @@ class RecordingDetailsDialog : public QDialog {
  private:
   void showSet(int index);
   void fillTable(int index);
+  QString readerOf(std::size_t set) const;
 
   std::unique_ptr<Ui::RecordingDetailsDialog> mUi;
   const TomoDocument& mDocument;

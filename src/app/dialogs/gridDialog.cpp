@@ -6,6 +6,7 @@
 #include "app/ToolTips.h"
 #include "app/dialogs/ParameterField.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "ui_gridDialog.h"
 
@@ -143,7 +144,7 @@ QStringList gridDialog::warningsOf(const GridPreview& preview) const {
                     .arg(QLocale().toString(mProfile.proposedCellSize, 'f', 2));
   }
   if (mSurvey.result->has_tomographic_info) {
-    warnings << tr("The results of the last inversion will be lost.");
+    warnings << tr("The results of the last inversion will be removed (Undo brings them back).");
   }
   return warnings;
 }

@@ -7,6 +7,7 @@
 #include "app/dialogs/setVelocityWidget.h"
 #include "base/Console.h"
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/GridSetup.h"
 #include "tomo/StartingModel.h"
@@ -109,7 +110,7 @@ void select_speed_Dialog::showModel(const std::vector<VelocityLayer>& layers) {
   const Status status = check(layers);
   QString text = textOf(status.text());
   if (status.ok() && mDocument.result->has_tomographic_info) {
-    text = tr("The results of the last inversion will be lost.");
+    text = tr("The results of the last inversion will be removed (Undo brings them back).");
   }
   mUi->problemLabel->setText(text);
 }
@@ -160,7 +161,8 @@ bool select_speed_Dialog::isAsItWas() const {
 bool select_speed_Dialog::wantsLayersAgain() {
   if (startingModelOf(mDocument) == StartingModel::kLayered) return false;
   const QString question = tr("Do you want to put them into the grid all the same?");
-  const QString lost = tr("The results of the last inversion will be lost.");
+  const QString lost =
+      tr("The results of the last inversion will be removed (Undo brings them back).");
   return askYesNo(
       this, tr("Define model velocity"), tr("You have not changed the layers."),
       mDocument.result->has_tomographic_info ? question + QLatin1Char('\n') + lost : question,

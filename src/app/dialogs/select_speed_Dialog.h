@@ -1,7 +1,6 @@
 #pragma once
 
 #include "grid/VelocityLayers.h"
-#include "model/TomoDocument.h"
 
 #include <QDialog>
 #include <memory>
@@ -10,6 +9,8 @@
 class QListWidgetItem;
 
 namespace talvesk {
+
+class TomoDocument;
 
 namespace Ui {
 class select_speed_Dialog;

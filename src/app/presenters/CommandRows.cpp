@@ -1,5 +1,6 @@
 #include "app/presenters/CommandTable.h"
 #include "app/presenters/Presenters.h"
+#include "app/presenters/ShotTimeQuestion.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/traces/TraceViewOptions.h"
 #include "widgets/traces/editTravelTimesWidget.h"
@@ -102,6 +103,9 @@ Rows shotRows(Desk& desk, Presenters& p) {
       {"actionNext_file", &State::records, call(desk.shot, &ShotInView::showNext)},
       {"actionPrev_file", &State::records, call(desk.shot, &ShotInView::showPrevious)},
       {"actionRecording_details", &State::traces, call(p.traces, &TracesPresenter::showDetails)},
+      {"actionCount_from_shot", &State::beforeShot, [&desk](bool) { countTimesFromShot(desk); }},
+      {"actionMend_recording", &State::shotInView, call(p.traces, &TracesPresenter::mendRecording)},
+      {"actionTake_back_mends", &State::mends, call(p.traces, &TracesPresenter::takeBackMends)},
       {"actionRemove_shot", &State::recordInView, call(p.traces, &TracesPresenter::removeShot)},
       {"actionUndo", &State::canUndo, call(desk.session, &Session::undo)},
       {"actionRedo", &State::canRedo, call(desk.session, &Session::redo)},

@@ -6,12 +6,24 @@
 #include "model/SurveyFacts.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
+#include "processing/ShotTime.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "view/RefractorLines.h"
 #include "widgets/traces/TraceViewOptions.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 
+#include <algorithm>
+
 namespace talvesk {
+namespace {
+
+bool anyStartsBeforeShot(const std::vector<TraceSet>& sets) {
+  return std::any_of(sets.begin(), sets.end(), [](const TraceSet& traces) {
+    return std::any_of(traces.begin(), traces.end(), startsBeforeShot);
+  });
+}
+
+}  // namespace
 
 CommandState::CommandState(const Desk& desk)
     : settings(desk.settings),
@@ -24,7 +36,9 @@ CommandState::CommandState(const Desk& desk)
   traces = !document.recordings->traceSets.empty();
   recordInView = records && desk.shot.index() >= 0;
   shotInView = traces && recordInView;
+  mends = !document.recordings->mends.empty();
   filteredCopy = desk.hasFilteredCopy(desk.shot.index());
+  beforeShot = anyStartsBeforeShot(document.recordings->traceSets);
   picksInRange = editor.hasPicksInRange(false);
   unconfirmedInRange = editor.hasPicksInRange(true);
   canZoomBack = recordInView && editor.canZoomBack();

@@ -16,7 +16,9 @@ struct CommandState {
   bool traces;        ///< and recordings
   bool recordInView;  ///< there is a current one
   bool shotInView;    ///< with traces
+  bool mends;         ///< any shot has some
   bool filteredCopy;  ///< of the shot in view
+  bool beforeShot;    ///< traces still begin before their shot
   bool picksInRange;  ///< where the traces are selected
   bool unconfirmedInRange;
   bool canZoomBack;

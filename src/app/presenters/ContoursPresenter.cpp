@@ -2,6 +2,7 @@
 
 #include "app/dialogs/contourlines_dialog.h"
 #include "app/presenters/PlainSection.h"
+#include "io/Survey.h"
 
 #include <utility>
 

@@ -2,6 +2,7 @@
 
 #include "app/presenters/FileExport.h"
 #include "figures/TravelTimeFigure.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"

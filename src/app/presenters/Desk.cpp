@@ -1,6 +1,7 @@
 #include "app/presenters/Desk.h"
 
 #include "app/Outcomes.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "ui_Talvesk_MainWindows.h"
@@ -25,6 +26,18 @@ Desk::Desk(QMainWindow& mainWindow, Ui::Talvesk_MainWindows& form)
   // What was read in one view says nothing about another.
   QObject::connect(ui.tabWidget, &QTabWidget::currentChanged, cursorLabel, &QLabel::clear);
   ui.statusBar->addPermanentWidget(cursorLabel);
+}
+
+const refractionDataStructure::Interpretation& Desk::interpretation() const {
+  return *survey().interpretation;
+}
+
+const ColorPaletteList& Desk::palettes() const {
+  return *survey().palettes;
+}
+
+const SectionViewSettings& Desk::section() const {
+  return survey().section;
 }
 
 bool Desk::hasFilteredCopy(int index) const {

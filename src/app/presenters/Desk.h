@@ -7,7 +7,10 @@
 #include "base/Settings.h"
 #include "base/WorkingFolder.h"
 #include "io/ShotLoader.h"
+#include "model/RefractionDataStructure.h"
 #include "session/Session.h"
+#include "view/ColorPalette.h"
+#include "view/SectionViewSettings.h"
 
 #include <QCoreApplication>
 #include <QMainWindow>
@@ -50,11 +53,9 @@ struct Desk {
 
   const Survey& survey() const { return session.survey(); }
   const TomoDocument& document() const { return session.document(); }
-  const refractionDataStructure::Interpretation& interpretation() const {
-    return *survey().interpretation;
-  }
-  const ColorPaletteList& palettes() const { return *survey().palettes; }
-  const SectionViewSettings& section() const { return survey().section; }
+  const refractionDataStructure::Interpretation& interpretation() const;
+  const ColorPaletteList& palettes() const;
+  const SectionViewSettings& section() const;
 
   bool hasFilteredCopy(int index) const;  ///< any trace of a shot; false for one that is not there
 

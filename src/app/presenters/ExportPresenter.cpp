@@ -9,6 +9,7 @@
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
+#include "io/Survey.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
 

@@ -2,6 +2,7 @@
 
 #include "app/WaitCursor.h"
 #include "app/presenters/Desk.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "ui_Talvesk_MainWindows.h"

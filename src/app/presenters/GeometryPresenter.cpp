@@ -3,6 +3,7 @@
 #include "app/LossQuestion.h"
 #include "app/dialogs/DialogSetGeometry.h"
 #include "app/presenters/ShotTimeQuestion.h"
+#include "io/Survey.h"
 #include "model/Recordings.h"
 #include "refraction/ShotArrivals.h"
 

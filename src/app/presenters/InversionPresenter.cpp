@@ -8,6 +8,7 @@
 #include "app/dialogs/progressTomographyDialog.h"
 #include "app/dialogs/runTomography_Dialog.h"
 #include "app/presenters/ModelPresenter.h"
+#include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
 #include "model/TomographyOutcome.h"
@@ -87,8 +88,12 @@ TomographyResult InversionPresenter::runBeside(const TomographyParameters& param
   mDesk.tellUnlessDone(edit.commit([&](Survey& survey) {
     if (result.iterationsDone > 0) survey.document = inversion.copy();
     // The limits are those that were asked for last, however the run has ended.
-    survey.document.model.edit().minVelocity = parameters.minVelocity;
-    survey.document.model.edit().maxVelocity = parameters.maxVelocity;
+    const GroundModel& model = *survey.document.model;
+    if (model.minVelocity != parameters.minVelocity ||
+        model.maxVelocity != parameters.maxVelocity) {
+      survey.document.model.edit().minVelocity = parameters.minVelocity;
+      survey.document.model.edit().maxVelocity = parameters.maxVelocity;
+    }
     return Status();
   }));
   return result;

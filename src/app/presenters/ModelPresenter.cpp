@@ -7,6 +7,7 @@
 #include "app/dialogs/smoothingDialog.h"
 #include "app/presenters/GeometryPresenter.h"
 #include "grid/GridBuilder.h"
+#include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"

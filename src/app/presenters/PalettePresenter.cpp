@@ -2,6 +2,7 @@
 
 #include "app/dialogs/PaletteDialog.h"
 #include "app/presenters/PlainSection.h"
+#include "io/Survey.h"
 
 #include <utility>
 

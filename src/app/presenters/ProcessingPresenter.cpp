@@ -4,6 +4,8 @@
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/doFilteringDialog.h"
+#include "io/Survey.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "processing/FirstBreak.h"
@@ -46,6 +48,7 @@ void ProcessingPresenter::autoPick() {
   TomoDocument work = mDesk.document();
   std::size_t traces = 0;
   std::size_t found = 0;
+  std::size_t leftOut = 0;
   Status failed;
   forEachShot(shotsToProcess(), tr("Picking first breaks ..."), [&](std::int32_t shot) {
     // A shot without a filtered copy has nothing to pick there.
@@ -54,11 +57,17 @@ void ProcessingPresenter::autoPick() {
     markPicksAutomatic(work, shot);
     const TravelTime& record = work.ttArray[static_cast<std::size_t>(shot)];
     traces += record.ttMisurati.size();
+    leftOut += tracesWithoutPart(work, record).size();
     found += pickCount(record);
   });
   if (!mDesk.edit(Edit::kAutoPick, [&](Survey& survey) { survey.document = work; })) return;
   // The traces may be behind another tab.
-  mDesk.tell(tr("First breaks found on %1 of %2 traces.").arg(found).arg(traces));
+  QString outcome = tr("First breaks found on %1 of %2 traces.").arg(found).arg(traces);
+  if (leftOut > 0) {
+    outcome += QLatin1Char(' ') +
+               tr("%1 of them are of disabled shots or killed and left unpicked.").arg(leftOut);
+  }
+  mDesk.tell(outcome);
   if (!failed.ok()) {
     mDesk.log.write(failed.message(), 1);
     showError(&mDesk.window, tr("Warning"), tr("Not every shot could be picked."),
@@ -91,20 +100,12 @@ void ProcessingPresenter::makeFilteredCopies(
   }
 }
 
-/// Whatever shots were filtered, only the one in view is marked and turned over to its copy.
+/// The views show filtered copies from now on, of every shot that has one.
 void ProcessingPresenter::takeFilteredCopies(const TomoDocument& work, Message step) {
   mDesk.settings.showFiltered = true;
   mDesk.saveSettings();
   mDesk.edit(
-      Edit::kFilter,
-      [&](Survey& survey) {
-        survey.document = work;
-        RecordingNote& shot =
-            survey.document.recordings.edit().noteOf(static_cast<std::size_t>(mDesk.shot.index()));
-        shot.filtered = true;
-        shot.showFiltered = true;
-      },
-      std::move(step));
+      Edit::kFilter, [&](Survey& survey) { survey.document = work; }, std::move(step));
 }
 
 void ProcessingPresenter::agc() {

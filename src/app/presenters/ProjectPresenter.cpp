@@ -10,13 +10,13 @@
 #include "io/project/ProjectWriter.h"
 #include "io/project/projectReader.h"
 #include "model/Recordings.h"
-#include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/RayRecomputation.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <algorithm>
 #include <utility>
 
 namespace talvesk {
@@ -182,10 +182,10 @@ void ProjectPresenter::reportBad(const QString& file, const projectReader& reade
 
 void ProjectPresenter::take(LoadedProject project, ProjectFile file, bool saved) {
   Recordings& recordings = project.document.recordings.edit();
-  for (std::size_t i = 0; i < recordings.traceSets.size(); ++i) {
+  const std::size_t named = std::min(recordings.traceSets.size(), recordings.filenames.size());
+  for (std::size_t i = 0; i < named; ++i) {
     RecordingNote& note = recordings.noteOf(i);
-    note.filtered = note.showFiltered = hasFilteredCopy(recordings.traceSets[i]);
-    if (i >= recordings.filenames.size()) continue;
+    if (!note.format.empty()) continue;
     if (const ShotFormat* format = shotFormatOf(recordings.filenames[i])) note.format = format->id;
   }
   mDesk.loader.remember(project.shotFiles);

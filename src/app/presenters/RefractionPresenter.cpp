@@ -2,6 +2,7 @@
 
 #include "app/Messages.h"
 #include "app/dialogs/RefractionProcessingDialog.h"
+#include "io/Survey.h"
 
 namespace talvesk {
 

@@ -10,6 +10,7 @@
 #include "figures/ProfileLines.h"
 #include "figures/report/Report.h"
 #include "figures/report/ReportPages.h"
+#include "model/TomoDocument.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/section/SectionView.h"
 

@@ -1,7 +1,9 @@
 #include "app/presenters/SectionPresenter.h"
 
 #include "figures/ProfileLines.h"
+#include "io/Survey.h"
 #include "model/GroundModel.h"
+#include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
 #include "ui_Talvesk_MainWindows.h"
@@ -55,8 +57,8 @@ void SectionPresenter::resetView() {
   mDesk.ui.vtk_widget->resetView();
 }
 
-/// The legend of the layered profile follows the picks: they may be others than those that it was
-/// built from.
+/// The caption of a section that was inverted and the rays follow the picks, and so does the legend
+/// of the layered profile: they may be others than those that it was built from.
 bool SectionPresenter::showsOtherwise(const SurveyChange& change) const {
   PartSet drawn = PartSet::all();
   drawn.remove(Part::kRecordings);
@@ -64,9 +66,20 @@ bool SectionPresenter::showsOtherwise(const SurveyChange& change) const {
   drawn.remove(Part::kPicks);
   if (change.parts.any(drawn)) return true;
   const SectionScene* scene = mDesk.ui.vtk_widget->scene();
-  if (scene == nullptr || scene->refractors.empty()) return false;
+  if (scene == nullptr) return false;
+  if (change.parts.has(Part::kPicks) && picksShowOtherwise(*scene)) return true;
+  if (scene->refractors.empty()) return false;
   const std::vector<SectionLine> now = refractors();
   return !now.empty() && now.front().name != scene->refractors.front().name;
+}
+
+bool SectionPresenter::picksShowOtherwise(const SectionScene& scene) const {
+  const TomoDocument& document = mDesk.document();
+  if (!document.result->has_tomographic_info) return false;
+  const SectionMisfit misfit = sectionMisfitOf(document);
+  return misfit.count != scene.misfit.count || misfit.rmse != scene.misfit.rmse ||
+         misfit.relativeRms != scene.misfit.relativeRms ||
+         picksChangedSince(document) != scene.picksChanged;
 }
 
 std::vector<SectionLine> SectionPresenter::refractors() const {

@@ -8,6 +8,7 @@
 namespace talvesk {
 
 struct SectionReading;
+struct SectionScene;
 
 /// The section on its tab, and what of it is shown.
 class SectionPresenter : public QObject {
@@ -28,6 +29,7 @@ class SectionPresenter : public QObject {
  private:
   void change(const std::function<void(SectionViewSettings&)>& change);
   bool showsOtherwise(const SurveyChange& change) const;
+  bool picksShowOtherwise(const SectionScene& scene) const;
   std::vector<SectionLine> refractors() const;
   QString whyNoSection() const;
   void showCursor(const SectionReading& reading);

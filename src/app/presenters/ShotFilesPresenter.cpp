@@ -3,15 +3,16 @@
 #include "app/LossQuestion.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
+#include "app/dialogs/ReadingsDialog.h"
+#include "app/dialogs/ShotFileDialog.h"
 #include "app/presenters/ProjectPresenter.h"
 #include "app/presenters/ShotTimeQuestion.h"
-#include "io/FileFormats.h"
 #include "io/ShotFile.h"
+#include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 
-#include <QFileDialog>
 #include <QProgressDialog>
 #include <numeric>
 #include <utility>
@@ -32,55 +33,78 @@ QString reasonOf(const ShotFileOutcome& outcome) {
 
 void ShotFilesPresenter::newSurvey() {
   if (!mProjects.mayLoseChanges()) return;
-  const QStringList files = askForFiles();
-  if (!files.isEmpty()) load(files, How::kInstead);
+  const Choice choice = askForFiles();
+  if (!choice.files.isEmpty()) load(choice.files, How::kInstead, choice.reader);
 }
 
 void ShotFilesPresenter::addFiles() {
-  const QStringList files = askForFiles();
-  if (!files.isEmpty()) load(files);
+  const Choice choice = askForFiles();
+  if (!choice.files.isEmpty()) load(choice.files, How::kAdded, choice.reader);
 }
 
-QStringList ShotFilesPresenter::askForFiles() {
-  QStringList files =
-      QFileDialog::getOpenFileNames(&mDesk.window, tr("Open Seismic Trace"), mDesk.folders.toOpen(),
-                                    dialogFilter(shotFileFilters()));
-  if (files.isEmpty()) return files;
-  mDesk.folders.opened(files.front());
-  mDesk.log.write("Loading " + std::to_string(files.size()) + " seismic files", 0);
-  return files;
+ShotFilesPresenter::Choice ShotFilesPresenter::askForFiles() {
+  ShotFileDialog dialog(tr("Open Seismic Trace"), mDesk.folders.toOpen(), &mDesk.window);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  Choice choice = {dialog.selectedFiles(), dialog.reader()};
+  if (choice.files.isEmpty()) return choice;
+  mDesk.folders.opened(choice.files.front());
+  mDesk.log.write("Loading " + std::to_string(choice.files.size()) + " seismic files", 0);
+  return choice;
 }
 
 /// Reads files until they end or the user has enough of it.
-std::vector<ReadShot> ShotFilesPresenter::read(const QStringList& files,
-                                               const TomoDocument& target) {
-  std::vector<ReadShot> shots;
+ShotFilesPresenter::Readings ShotFilesPresenter::read(const QStringList& files,
+                                                      const TomoDocument& target,
+                                                      ShotReader reader) {
+  Readings readings;
+  const bool compare = reader == ShotReader::kRules && checkTakesShots(target).ok();
   QProgressDialog progress(tr("Loading shot files ..."), tr("Stop"), 0,
                            static_cast<int>(files.size()), &mDesk.window);
   progress.setWindowModality(Qt::WindowModal);
   progress.setMinimumDuration(kPatience);
   for (const QString& file : files) {
-    progress.setValue(static_cast<int>(shots.size()));
+    const std::size_t index = readings.files.size();
+    progress.setValue(static_cast<int>(index));
     if (progress.wasCanceled()) break;
-    shots.push_back(mDesk.loader.read(file.toStdString(), target));
+    readings.files.push_back(mDesk.loader.read(file.toStdString(), target, reader));
+    if (!compare) continue;
+    auto fuller = readFuller(readings.files.back());
+    if (fuller) readings.fuller.emplace(index, std::move(*fuller));
   }
   progress.reset();
-  return shots;
+  return readings;
+}
+
+/// False when the user wants none of the files.
+bool ShotFilesPresenter::chooseReadings(Readings& readings) {
+  if (readings.fuller.empty()) return true;
+  std::vector<ReadingsDialog::File> shown;
+  for (const auto& [index, fuller] : readings.fuller) {
+    shown.push_back({&readings.files[index], &fuller});
+  }
+  const ReadingsDialog::Answer answer = ReadingsDialog(std::move(shown), &mDesk.window).ask();
+  if (answer == ReadingsDialog::Answer::kCancel) return false;
+  if (answer == ReadingsDialog::Answer::kRules) return true;
+  for (auto& [index, fuller] : readings.fuller) {
+    readings.files[index] = std::move(fuller.byStandard);
+  }
+  return true;
 }
 
 /// A survey that others are to take the place of stays until one of these is there.
-void ShotFilesPresenter::load(const QStringList& files, How how) {
+void ShotFilesPresenter::load(const QStringList& files, How how, ShotReader reader) {
   const bool instead = how == How::kInstead;
   TomoDocument work = instead ? TomoDocument() : mDesk.document();
   const std::size_t before = work.recordings->traceSets.size();
-  std::vector<ReadShot> shots = read(files, work);
+  Readings readings = read(files, work, reader);
   Losses losses;
-  losses.model = lossByShots(shots, work);
-  if (!mayLose(&mDesk.window, work, losses)) {
+  const bool wanted = chooseReadings(readings);
+  losses.model = lossByShots(readings.files, work);
+  if (!wanted || !mayLose(&mDesk.window, work, losses)) {
     mDesk.tell(tr("No shot file was loaded."));
     return;
   }
-  const std::vector<ShotFileOutcome> outcomes = appendShots(std::move(shots), work);
+  const std::vector<ShotFileOutcome> outcomes = appendShots(std::move(readings.files), work);
   const std::size_t loaded = work.recordings->traceSets.size() - before;
   if (loaded == 0) return report(outcomes);
   if (instead) {

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "app/presenters/Desk.h"
+#include "io/ReadingComparison.h"
 
 #include <QObject>
 #include <QStringList>
+#include <map>
 #include <vector>
 
 namespace talvesk {
@@ -21,11 +23,23 @@ class ShotFilesPresenter : public QObject {
   void addFiles();   ///< asks for shot files
   /// How shot files go with those that are there.
   enum class How { kAdded, kInstead };
-  void load(const QStringList& files, How how = How::kAdded);
+  /// Where the program's rules lose what the standard reads, the user is asked which to take.
+  void load(const QStringList& files, How how = How::kAdded,
+            ShotReader reader = ShotReader::kRules);
 
  private:
-  QStringList askForFiles();
-  std::vector<ReadShot> read(const QStringList& files, const TomoDocument& target);
+  struct Choice {
+    QStringList files;  ///< none: the user does not want any
+    ShotReader reader = ShotReader::kRules;
+  };
+  struct Readings {
+    std::vector<ReadShotFile> files;
+    std::map<std::size_t, FullerReading> fuller;  ///< by index
+  };
+
+  Choice askForFiles();
+  Readings read(const QStringList& files, const TomoDocument& target, ShotReader reader);
+  bool chooseReadings(Readings& readings);
   Survey surveyOf(TomoDocument document) const;
   void report(const std::vector<ShotFileOutcome>& outcomes);
 

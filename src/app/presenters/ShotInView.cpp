@@ -1,5 +1,7 @@
 #include "app/presenters/ShotInView.h"
 
+#include "model/TomoDocument.h"
+
 namespace talvesk {
 
 ShotInView::ShotInView(Session& session)

@@ -2,6 +2,7 @@
 
 #include "app/InversionTexts.h"
 #include "app/MessageText.h"
+#include "io/Survey.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"

@@ -2,7 +2,10 @@
 
 #include "app/LossQuestion.h"
 #include "app/MessageText.h"
+#include "app/dialogs/MendDialog.h"
 #include "app/dialogs/RecordingDetailsDialog.h"
+#include "io/Survey.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "session/RemoveShots.h"
@@ -42,6 +45,8 @@ void TracesPresenter::connectEditors() {
     editor->setSession(mDesk.session);
     connect(editor, &editTravelTimesWidget::editRefused, this,
             [this](const Status& reason) { mDesk.tellUnlessDone(reason); });
+    connect(editor, &editTravelTimesWidget::pickLeftOut, this,
+            [this](const Status& why) { mDesk.tell(textOf(why.text())); });
     connect(editor, &editTravelTimesWidget::cursorMoved, this,
             [this, editor](const TraceCursor& cursor) {
               if (!editor->isHidden()) showCursor(cursor);
@@ -79,6 +84,41 @@ void TracesPresenter::removeShot() {
   mDesk.tell(tr("Shot %1 is removed; Undo brings it back.").arg(shot + 1));
 }
 
+void TracesPresenter::mendRecording() {
+  const int shot = mDesk.shot.index();
+  if (shot < 0) return;
+  MendDialog dialog(mDesk.document(), static_cast<std::size_t>(shot), &mDesk.window);
+  if (dialog.exec() != QDialog::Accepted) return;
+  mend(tr("The recording of shot %1 has not been mended.").arg(shot + 1),
+       [&](TomoDocument& document, std::vector<Message>& notes) {
+         return dialog.apply(document, notes);
+       });
+}
+
+void TracesPresenter::takeBackMends() {
+  mend(tr("The mends have not been taken back."),
+       [](TomoDocument& document, std::vector<Message>& notes) {
+         Status status;
+         const std::size_t sets = document.recordings->mends.size();
+         for (std::size_t set = 0; set < sets && status.ok(); ++set) {
+           status = setMends(set, {}, document, &notes);
+         }
+         return status;
+       });
+}
+
+/// One step, and in the status bar what became of picks and filtered copies.
+void TracesPresenter::mend(
+    const QString& failure,
+    const std::function<Status(TomoDocument&, std::vector<Message>&)>& change) {
+  std::vector<Message> notes;
+  const Status done = mDesk.session.apply(
+      Edit::kMend, [&](Survey& survey) { return change(survey.document, notes); });
+  if (!done.ok()) return mDesk.tellFailure(failure, done);
+  for (const Message& note : notes) mDesk.log.write(note, 0);
+  if (!notes.empty()) mDesk.tell(linesOf(notes).join(QStringLiteral("; ")));
+}
+
 void TracesPresenter::retranslate() {
   mChooser->setAccessibleName(tr("Shot in view"));
   mChooser->setToolTip(tr("The shot in view"));
@@ -93,11 +133,18 @@ void TracesPresenter::refreshChooser() {
     const QString place = tr("%1 m").arg(locale.toString(record.shotPos2d.x, 'f', 1));
     const auto number = static_cast<int>(i + 1);
     const std::string file = shotFile(mDesk.document(), i);
-    const QString text = !file.empty()
-                             ? tr("%1: %2 at %3", "shot number, file, place")
-                                   .arg(number)
-                                   .arg(QFileInfo(QString::fromStdString(file)).fileName(), place)
-                             : tr("%1: at %2", "shot number, place").arg(number).arg(place);
+    QString name = QFileInfo(QString::fromStdString(file)).fileName();
+    const std::string inFile = shotRecord(mDesk.document(), i);
+    if (!inFile.empty()) name += QStringLiteral(" (%1)").arg(QString::fromStdString(inFile));
+    QString text = !file.empty()
+                       ? tr("%1: %2 at %3", "shot number, file, place").arg(number).arg(name, place)
+                       : tr("%1: at %2", "shot number, place").arg(number).arg(place);
+    const ShotMends& mends = mendsOfRecord(mDesk.document(), static_cast<std::int32_t>(i));
+    if (mends.disabled) {
+      text = tr("%1 (disabled)", "shot").arg(text);
+    } else if (mends.any()) {
+      text = tr("%1 (mended)", "shot").arg(text);
+    }
     mChooser->addItem(text);
   }
   mChooser->setCurrentIndex(mDesk.shot.index());
@@ -110,6 +157,7 @@ void TracesPresenter::showCursor(const TraceCursor& cursor) {
   }
   const QLocale locale;
   QStringList parts = {tr("Trace %1").arg(cursor.trace + 1)};
+  if (!cursor.takesPart) parts << tr("disabled or killed");
   if (cursor.offset) parts << tr("Offset %1 m").arg(locale.toString(*cursor.offset, 'f', 1));
   if (cursor.time) parts << tr("Time %1 ms").arg(locale.toString(1000.0 * *cursor.time, 'f', 2));
   if (cursor.pick) {

@@ -3,6 +3,8 @@
 #include "app/presenters/Desk.h"
 
 #include <QObject>
+#include <functional>
+#include <vector>
 
 class QComboBox;
 
@@ -17,8 +19,10 @@ class TracesPresenter : public QObject {
  public:
   explicit TracesPresenter(Desk& desk);
 
-  void showDetails();  ///< what the files of the recordings say of them
-  void removeShot();   ///< the one in view, with its recording and picks
+  void showDetails();    ///< what the files of the recordings say of them
+  void mendRecording();  ///< asks for the mends of the one in view
+  void takeBackMends();  ///< of all shots
+  void removeShot();     ///< the one in view, with its recording and picks
   void retranslate();
 
  private:
@@ -27,6 +31,8 @@ class TracesPresenter : public QObject {
   void showRecords();
   void showShot();
   void refreshChooser();
+  void mend(const QString& failure,
+            const std::function<Status(TomoDocument&, std::vector<Message>&)>& change);
   void showCursor(const TraceCursor& cursor);
 
   Desk& mDesk;

@@ -7,6 +7,7 @@
 #include "app/presenters/FileExport.h"
 #include "app/presenters/ProjectPresenter.h"
 #include "io/FileFormats.h"
+#include "io/Survey.h"
 #include "io/TravelTimeFile.h"
 #include "model/GroundModel.h"
 #include "model/SurveyFacts.h"

@@ -216,7 +216,8 @@ void addInversion(ReportBuilder& builder) {
   addLayers(builder);
   if (!document.result->has_tomographic_info) {
     builder.paragraph(
-        ReportWords::tr("Nothing has been inverted: the grid holds its starting model."));
+        ReportWords::tr("No result of an inversion is known: the grid has the velocities that it "
+                        "was left with."));
   } else if (document.result->lastInversion) {
     addParameters(builder, *document.result->lastInversion);
   } else {
@@ -230,7 +231,7 @@ Status addSections(ReportBuilder& builder) {
   builder.heading(ReportWords::tr("Velocity section"));
   SectionFigureOptions options = sectionOptions(builder, SectionQuantity::kVelocity);
   options.scene.rays = builder.options.sections.rays && !document.result->rays.empty();
-  QString caption = ReportWords::tr("Velocity of the starting model");
+  QString caption = ReportWords::tr("Velocities of the grid");
   if (document.result->has_tomographic_info) {
     caption = options.scene.rays ? ReportWords::tr("Velocity section with rays")
                                  : ReportWords::tr("Velocity section");

@@ -33,21 +33,19 @@ QString velocities(double low, double high) {
              : number(low, 0);
 }
 
-/// One value per receiver of the first refractor; the second's receivers are found by their place.
-ReportTable profileTable(const std::vector<computedData>& refractors) {
+/// A row per receiver of any refractor; those of each are found by their place.
+ReportTable profileTable(const refractionDataStructure::processingData& data) {
   ReportTable table{
       {{ReportWords::tr("Position [m]"), true}, {ReportWords::tr("Elevation [m]"), true}}, {}};
-  for (std::size_t r = 0; r < refractors.size(); ++r) {
+  for (std::size_t r = 0; r < data.cData.size(); ++r) {
     const QString number = QString::number(r + 1);
     table.columns.push_back({ReportWords::tr("Depth %1 [m]").arg(number), true});
     table.columns.push_back({ReportWords::tr("Velocity %1 [m/s]").arg(number), true});
   }
-  const computedData& first = refractors.front();
-  for (std::size_t i = 0; i < first.x.size(); ++i) {
-    QStringList row{number(first.x[i], 2), number(at(first.elevation, i), 2)};
-    for (const computedData& refractor : refractors) {
-      const auto same = std::find_if(refractor.x.begin(), refractor.x.end(),
-                                     [&](double x) { return std::abs(x - first.x[i]) < 1e-6; });
+  for (const Point2D& receiver : profileSurface(data)) {
+    QStringList row{number(receiver.x, 2), number(receiver.z, 2)};
+    for (const computedData& refractor : data.cData) {
+      const auto same = std::find(refractor.x.begin(), refractor.x.end(), receiver.x);
       const auto j = static_cast<std::size_t>(same - refractor.x.begin());
       row << number(at(refractor.depth, j), 2) << number(at(refractor.velocity, j), 0);
     }
@@ -89,7 +87,7 @@ Status addRefraction(ReportBuilder& builder) {
     builder.figure(ReportWords::tr("Section of the layers"), std::move(drawing));
   }
   builder.table(ReportWords::tr("Depths below the surface and velocities of the refractors"),
-                profileTable(data.cData));
+                profileTable(data));
   if (hasGaps(data)) {
     builder.paragraph(ReportWords::tr(
         "No velocity is given where the times lead to one outside 50 to 12 000 m/s. "

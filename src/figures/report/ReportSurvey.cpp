@@ -1,6 +1,8 @@
+#include "figures/FigureWords.h"
 #include "figures/report/ReportBuilder.h"
 #include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "model/SurveyLine.h"
@@ -199,6 +201,22 @@ void addShots(ReportBuilder& builder) {
                 table);
 }
 
+void addMends(ReportBuilder& builder) {
+  const TomoDocument& document = builder.source.document;
+  ReportTable table{{{ReportWords::tr("Shot"), true}, {ReportWords::tr("Mend"), false}}, {}};
+  for (std::size_t set = 0; set < document.recordings->mends.size(); ++set) {
+    for (const Message& line : describeMends(document, set)) {
+      table.rows.push_back({QString::number(set + 1), FigureWords::message(line)});
+    }
+  }
+  if (table.rows.empty()) return;
+  builder.subheading(ReportWords::tr("Mends"));
+  builder.paragraph(
+      ReportWords::tr("The recordings of these shots are put right as listed. All figures and "
+                      "times of this report are of the mended recordings."));
+  builder.table(ReportWords::tr("Mends of recordings"), table);
+}
+
 }  // namespace
 
 void addTitlePage(ReportBuilder& builder) {
@@ -228,6 +246,7 @@ void addSurvey(ReportBuilder& builder) {
   addLine(builder);
   addStrings(builder);
   addShots(builder);
+  addMends(builder);
 }
 
 void addPosition(ReportBuilder& builder) {

@@ -4,8 +4,11 @@
 #include "io/MemberFile.h"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectMembers_records.inl"
+#include "io/project/ProjectMends.h"
 #include "io/project/ProjectPicks.h"
+#include "io/project/ProjectReaders.h"
 #include "io/project/ProjectResult.h"
+#include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 
 #include <algorithm>
@@ -40,24 +43,39 @@ struct OwnMember {
   std::function<Written(const std::string& path, const OwnMember&, const TomoDocument&,
                         const Interpretation&)>
       write;
-  std::function<Status(const std::string& path, const OwnMember&, TomoDocument&, Interpretation&)>
+  /// \param repairs out: a line for each thing that was left out of a member which can be read
+  std::function<Status(const std::string& path, const OwnMember&, TomoDocument&, Interpretation&,
+                       std::vector<Message>& repairs)>
       read;
 };
+
+template <typename Record>
+Written writeRecord(const std::string& path, const OwnMember& row,
+                    const std::optional<Record>& record) {
+  if (!record) return Written::kNothing;
+  const int failed = writeMember(path, row.part, [&](XmlWriter& writer) {
+    writer.put("version", row.version);
+    xml::Output output(writer);
+    describe(output, const_cast<Record&>(*record));
+  });
+  return failed == 0 ? Written::kDone : Written::kFailed;
+}
 
 /// \param take gives the record of a survey, or none
 template <typename Take>
 auto writes(Take take) {
   return [take](const std::string& path, const OwnMember& row, const TomoDocument& document,
                 const Interpretation& interpretation) {
-    const auto record = take(document, interpretation);
-    if (!record) return Written::kNothing;
-    const int failed = writeMember(path, row.part, [&](XmlWriter& writer) {
-      writer.put("version", row.version);
-      xml::Output output(writer);
-      describe(output, const_cast<std::decay_t<decltype(*record)>&>(*record));
-    });
-    return failed == 0 ? Written::kDone : Written::kFailed;
+    return writeRecord(path, row, take(document, interpretation));
   };
+}
+
+template <typename Record>
+Status readOwnRecord(const std::string& path, const OwnMember& row, Record& record) {
+  Message why;
+  const auto fill = [&](XmlReader& reader) { xml::readRecord(reader, record); };
+  const int failed = readMember(path, row.part, kLargestMember, why, fill);
+  return failed == 0 ? Status() : Status::failure(why);
 }
 
 /// \param start gives the record that is filled
@@ -65,14 +83,36 @@ auto writes(Take take) {
 template <typename Start, typename Give>
 auto reads(Start start, Give give) {
   return [start, give](const std::string& path, const OwnMember& row, TomoDocument& document,
-                       Interpretation& interpretation) {
+                       Interpretation& interpretation, std::vector<Message>&) {
     auto record = start(document);
-    Message why;
-    const auto fill = [&](XmlReader& reader) { xml::readRecord(reader, record); };
-    if (readMember(path, row.part, kLargestMember, why, fill) != 0) return Status::failure(why);
+    Status read = readOwnRecord(path, row, record);
+    if (!read.ok()) return read;
     const Status given = give(std::move(record), document, interpretation);
     return given.ok() ? given : Status::failure(joined(row.name, given.text()));
   };
+}
+
+// Mends know the shot files, too, that lie beside their member.
+
+std::string folderOf(const std::string& path, const OwnMember& row) {
+  return path.substr(0, path.size() - std::string_view(row.name).size());
+}
+
+Written writeMends(const std::string& path, const OwnMember& row, const TomoDocument& document,
+                   const Interpretation&) {
+  return writeRecord(path, row, mendsOf(document, folderOf(path, row)));
+}
+
+Status readMends(const std::string& path, const OwnMember& row, TomoDocument& document,
+                 Interpretation&, std::vector<Message>& repairs) {
+  MendsMember member;
+  Status status = readOwnRecord(path, row, member);
+  if (status.ok()) installMends(std::move(member), folderOf(path, row), document, repairs);
+  return status;
+}
+
+bool hasMends(const TomoDocument& document, const Interpretation&) {
+  return !document.recordings->mends.empty();
 }
 
 const std::vector<OwnMember>& ownMembers() {
@@ -82,7 +122,7 @@ const std::vector<OwnMember>& ownMembers() {
        [](const TomoDocument& document, const Interpretation&) { return hasResult(document); },
        [](const TomoDocument& document, const Interpretation&) { return knowsResult(document); },
        writes([](const TomoDocument& document, const Interpretation&) {
-         return hasResult(document) ? std::make_optional(resultOf(document)) : std::nullopt;
+         return hasCoverage(document) ? std::make_optional(resultOf(document)) : std::nullopt;
        }),
        reads(resultOf, [](ResultMember result, TomoDocument& document,
                           Interpretation&) { return installResult(std::move(result), document); })},
@@ -97,7 +137,26 @@ const std::vector<OwnMember>& ownMembers() {
        reads([](const TomoDocument&) { return UnconfirmedMember(); },
              [](const UnconfirmedMember& member, TomoDocument& document, Interpretation&) {
                return installUnconfirmed(member, document);
-             })}};
+             })},
+      {"readers.xml", 1, "Readers",
+       Message::tr("all shot files count as read by the program's rules; the traces are those that "
+                   "were saved"),
+       [](const TomoDocument& document, const Interpretation&) {
+         return !document.recordings->traceSets.empty();
+       },
+       [](const TomoDocument& document, const Interpretation&) {
+         return readersOf(document).has_value();
+       },
+       writes(
+           [](const TomoDocument& document, const Interpretation&) { return readersOf(document); }),
+       reads([](const TomoDocument&) { return ReadersMember(); },
+             [](ReadersMember member, TomoDocument& document, Interpretation&) {
+               return installReaders(std::move(member), document);
+             })},
+      {"mends.xml", 1, "Mends",
+       Message::tr("what was mended in its recordings is not known; traces and picks stay as they "
+                   "are"),
+       hasMends, hasMends, writeMends, readMends}};
   return kMembers;
 }
 
@@ -204,7 +263,7 @@ OwnMembers readOwnMembers(const std::string& folder, TomoDocument& document,
               .arg(row.loss));
       continue;
     }
-    if (status.ok()) status = row.read(path, row, document, interpretation);
+    if (status.ok()) status = row.read(path, row, document, interpretation, repairs);
     if (!status.ok()) {
       repairs.push_back(Message::tr("%1; %2").arg(status.text()).arg(row.loss));
     }

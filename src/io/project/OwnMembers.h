@@ -3,13 +3,14 @@
 #include "base/Message.h"
 #include "base/Shared.h"
 #include "model/RefractionDataStructure.h"
-#include "model/TomoDocument.h"
 
 #include <cstddef>
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 // Members of a project that are ours beside the five that every program knows: other programs, and
 // earlier versions of this one, pass them over. Every one is named as isOwnMemberName() says,

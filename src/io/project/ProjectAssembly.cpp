@@ -57,6 +57,10 @@ Status buildGrid(const GridMember& grid, TomoDocument& document) {
   if (!profile.hasGeometry()) {
     return Status::failure(Message::tr("there is a grid, but no two geophones"));
   }
+  if (!profile.isOnGlobe()) {
+    return Status::failure(
+        Message::tr("there is a grid, but a position lies more than 100 000 km away"));
+  }
   GridSize size;
   size.righe = grid.righe;
   size.col = grid.col;
@@ -137,7 +141,7 @@ void restoreRun(SurveyMember& survey, std::vector<Message>& repairs) {
 Status checkSurvey(SurveyMember& member, std::vector<Message>& repairs) {
   TomoDocument& document = member.document;
   for (const auto& string : document.line->goephonesStringSet) {
-    if (!std::all_of(string.begin(), string.end(), plausible)) {
+    if (!std::all_of(string.begin(), string.end(), isFinite)) {
       return Status::failure(Message::tr("a geophone has no place"));
     }
   }
@@ -150,7 +154,7 @@ Status checkSurvey(SurveyMember& member, std::vector<Message>& repairs) {
                                  .arg(record.indexStesa)
                                  .arg(strings));
     }
-    if (!plausible(record.shotPos2d)) return Status::failure(Message::tr("a shot has no place"));
+    if (!isFinite(record.shotPos2d)) return Status::failure(Message::tr("a shot has no place"));
     // Picks that came without traces may have none; their place says as much.
     if (record.traceSetID < 0) record.traceSetID = own;
     ++own;

@@ -5,8 +5,10 @@
 
 #include "base/Console.h"
 #include "io/XmlRecords.inl"
+#include "io/project/MendsMember.h"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectPicks.h"
+#include "io/project/ProjectReaders.h"
 #include "io/project/ProjectResult.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
@@ -139,6 +141,59 @@ void describe(V& fields, UnconfirmedMember& member) {
 }
 
 template <class V>
+void describe(V& fields, StoredReader& stored) {
+  fields("file", stored.file);
+  fields("reader", stored.reader);
+  fields("format", stored.format);
+  fields("record", stored.record);
+  fields("name", stored.name);
+}
+
+template <class V>
+void describe(V& fields, ReadersMember& member) {
+  fields("sets", member.sets);
+}
+
+template <class V>
+void describe(V& fields, TraceMend& mend) {
+  fields("killed", mend.killed);
+  fields("reversed", mend.reversed);
+  fields("muted_before", mend.mutedBefore);
+}
+
+template <class V>
+void describe(V& fields, RecordedPick& pick) {
+  fields("channel", pick.channel);
+  fields("time", pick.time);
+  fields("waits", pick.waits);
+}
+
+template <class V>
+void describe(V& fields, StoredOriginal& original) {
+  fields("TAB", original.TAB);
+  fields("TAB_DX", original.TAB_DX);
+  fields("TAB_SX", original.TAB_SX);
+}
+
+template <class V>
+void describe(V& fields, StoredMends& stored) {
+  fields("set", stored.set);
+  fields("samples", stored.samples);
+  fields("time_shift", stored.mends.timeShift);
+  fields("disabled", stored.mends.disabled);
+  fields("order_reversed", stored.mends.orderReversed);
+  fields("stacked_with", stored.mends.stackedWith);
+  fields("traces", stored.mends.traces);
+  fields("picks", stored.mends.picks);
+  fields("originals", stored.originals);
+}
+
+template <class V>
+void describe(V& fields, MendsMember& member) {
+  fields("mends", member.shots);
+}
+
+template <class V>
 void describe(V& fields, InversionRecord& run) {
   fields("externalIterations", run.externalIterations);
   fields("solverIterations", run.solverIterations);
@@ -168,7 +223,7 @@ void describeSurvey(V& fields, TomoDocument& document, SectionViewSettings& sect
   fields.optional("min_velocity", document.model.edit().minVelocity);
   fields.optional("max_velocity", document.model.edit().maxVelocity);
   fields.optional("layers", document.model.edit().layers);
-  fields.optional("proposed_cell_sizes", document.model.edit().proposedCellSizes);
+  fields.optional("proposed_cell_sizes", document.proposedCellSizes);
   fields.optional("coverage_limit", document.result.edit().coverageLimit);
   fields.optional("section_view", section);
   fields.optional("last_inversion", runs);

@@ -1,6 +1,7 @@
 #include "io/project/ProjectPicks.h"
 
 #include "model/PickFingerprint.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 
 #include <cstdint>
 #include <optional>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// Which picks wait to be confirmed. Without it every pick of a project counts as the user's own.
 struct UnconfirmedMember {

@@ -70,9 +70,9 @@ void repairInversion(TomoDocument& document, Repairs& repairs) {
     document.model.edit().layers.clear();
   }
   const auto isSize = [](double size) { return size > 0.0 && isPosition(size); };
-  if (!all(document.model->proposedCellSizes, isSize)) {
+  if (!all(*document.proposedCellSizes, isSize)) {
     repairs.push_back(Message::tr("a cell size that it proposes cannot be; it proposes new ones"));
-    document.model.edit().proposedCellSizes.clear();
+    document.proposedCellSizes = {};
   }
 }
 

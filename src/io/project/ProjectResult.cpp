@@ -1,6 +1,7 @@
 #include "io/project/ProjectResult.h"
 
 #include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,10 +27,15 @@ bool isSectionMisfit(const SectionMisfit& m) {
   return m.count >= 0 && finite({m.rmse, m.relativeRms, m.bias, m.maxAbs});
 }
 
-bool fits(const ResultMember& result, const TomoDocument& document) {
+bool coversGrid(const TomographyOutcome& outcome, const TomoDocument& document) {
+  if (document.model->grid == nullptr) return false;
   const std::size_t cells = document.model->grid->cellCount();
+  return outcome.hitCounts.size() == cells && outcome.coorcount.size() == cells;
+}
+
+bool fits(const ResultMember& result, const TomoDocument& document) {
   const TomographyOutcome& outcome = result.outcome;
-  if (outcome.hitCounts.size() != cells || outcome.coorcount.size() != cells) return false;
+  if (!coversGrid(outcome, document)) return false;
   const auto length = [](double metres) { return std::isfinite(metres) && metres >= 0.0; };
   if (!std::all_of(outcome.coorcount.begin(), outcome.coorcount.end(), length)) return false;
   if (outcome.lastInversion) return canHaveBeen(result.run);
@@ -40,6 +46,10 @@ bool fits(const ResultMember& result, const TomoDocument& document) {
 
 bool hasResult(const TomoDocument& document) {
   return document.result->has_tomographic_info;
+}
+
+bool hasCoverage(const TomoDocument& document) {
+  return hasResult(document) && coversGrid(*document.result, document);
 }
 
 bool knowsResult(const TomoDocument& document) {
@@ -53,7 +63,7 @@ ResultMember resultOf(const TomoDocument& document) {
 }
 
 Status installResult(ResultMember result, TomoDocument& document) {
-  if (document.model->grid == nullptr || !hasResult(document) || !fits(result, document)) {
+  if (!hasResult(document) || !fits(result, document)) {
     return Status::failure(Message::tr(
         "its coverage and figures do not go with the grid and the inversion of the project"));
   }

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "base/Status.h"
-#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What an inversion left beside the section: without it neither the coverage nor the misfit of a
 /// project would be the same when it is opened again. Of both only what no other member has counts.
@@ -14,6 +15,9 @@ struct ResultMember {
 };
 
 bool hasResult(const TomoDocument& document);
+/// Whether a result has a coverage of every cell; without it the project has nothing to keep that
+/// would fit its grid. Results of earlier versions have none until their rays are traced.
+bool hasCoverage(const TomoDocument& document);
 /// Whether rays of an inversion are known: not so where only their times were traced anew.
 bool knowsResult(const TomoDocument& document);
 /// What a project keeps of the last inversion, and what is read from it fills.

@@ -3,9 +3,11 @@
 #include "base/Console.h"
 #include "base/FileReplacement.h"
 #include "io/TemporaryFolder.h"
+#include "io/project/ProjectMembers.h"
 #include "io/project/ProjectZip.h"
 #include "io/project/SourceCopies.h"
 #include "model/Recordings.h"
+#include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 
 #include <algorithm>

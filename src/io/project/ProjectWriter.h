@@ -2,13 +2,15 @@
 
 #include "base/Message.h"
 #include "io/project/OwnMembers.h"
-#include "io/project/ProjectMembers.h"
+#include "view/SectionViewSettings.h"
 
 #include <QObject>
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+class ColorPaletteList;
 
 /// Saves a project: five XML members, those of our own and the shot files that its traces come
 /// from, in one archive.

@@ -27,7 +27,7 @@ bool copyOver(const std::string& source, const std::string& target) {
   return fs::copy_file(source, target, fs::copy_options::overwrite_existing, error) && !error;
 }
 
-bool sameSamples(const TraceSet& kept, TraceSet& read) {
+bool sameSamples(const TraceSet& kept, TraceSet read) {
   if (kept.size() != read.size()) return false;
   for (std::size_t i = 0; i < kept.size(); ++i) {
     dropFirstSamples(read[i], kept[i].droppedSamples);
@@ -38,6 +38,42 @@ bool sameSamples(const TraceSet& kept, TraceSet& read) {
   }
   return true;
 }
+
+/// The traces that the files of a set give. Sets that are shots of one file have it read once.
+class SetReader {
+ public:
+  explicit SetReader(const std::string& folder) : mFolder(folder) {}
+
+  /// None when the files cannot be read. \param state in: as before these files
+  const TraceSet* read(const SetFiles& names, const SegyState& state) {
+    if (mKnown && same(names, mNames)) return mReadable ? &mTraces : nullptr;
+    Message why;
+    mAfter = state;
+    mTraces.clear();
+    mNames = names;
+    mReadable = readSetFiles(mFolder, names, mAfter, mTraces, why);
+    mKnown = true;
+    return mReadable ? &mTraces : nullptr;
+  }
+
+  /// What the readers remember when they go on from the files that were read last.
+  SegyState goOn() {
+    mKnown = false;  // what comes of the same files again may be something else
+    return mAfter;
+  }
+
+ private:
+  static bool same(const SetFiles& a, const SetFiles& b) {
+    return a.main == b.main && a.dx == b.dx && a.sx == b.sx;
+  }
+
+  std::string mFolder;
+  SetFiles mNames;
+  SegyState mAfter;
+  TraceSet mTraces;
+  bool mKnown = false;
+  bool mReadable = false;
+};
 
 }  // namespace
 
@@ -76,18 +112,16 @@ SourceCopies copySources(const std::vector<const std::vector<std::string>*>& lis
 std::vector<bool> setsWithoutFile(const TomoDocument& document, const std::string& folder) {
   std::vector<bool> without(document.recordings->traceSets.size(), true);
   SegyState state;
+  SetReader reader(folder);
   for (std::size_t set = 0; set < without.size(); ++set) {
     SetFiles names = filesOfSet(document.recordings->filenames, document.recordings->filenames_DX,
                                 document.recordings->filenames_SX, set);
     for (std::string* name : {&names.main, &names.dx, &names.sx}) *name = bareName(*name);
     if (names.none()) continue;
-    SegyState after = state;
-    TraceSet read;
-    Message why;
-    if (!readSetFiles(folder, names, after, read, why)) continue;
-    if (!sameSamples(document.recordings->traceSets[set], read)) continue;
+    const TraceSet* read = reader.read(names, state);
+    if (read == nullptr || !sameSamples(document.recordings->traceSets[set], *read)) continue;
     without[set] = false;
-    state = after;
+    state = reader.goOn();
   }
   return without;
 }

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/Message.h"
-#include "model/TomoDocument.h"
 
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
 
 /// What became of the shot files of a survey that was to be saved.
 struct SourceCopies {
@@ -21,7 +22,8 @@ SourceCopies copySources(const std::vector<const std::vector<std::string>*>& lis
 
 /// Reads the shot files in the folder as a loader will, and says per trace set whether its samples
 /// must be written beside them: they have no file, or the file gives other samples, be it that it
-/// was overwritten since or that another shot of its name took its place.
+/// was overwritten since, that another shot of its name took its place, or that they were read by
+/// the standard of its format, which no loader of these files goes by.
 std::vector<bool> setsWithoutFile(const TomoDocument& document, const std::string& folder);
 
 }  // namespace talvesk

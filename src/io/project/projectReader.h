@@ -3,7 +3,6 @@
 #include "base/Message.h"
 #include "io/SegyFile.h"
 #include "io/Survey.h"
-#include "io/project/ProjectMembers.h"
 
 #include <QObject>
 #include <memory>
@@ -11,6 +10,8 @@
 #include <vector>
 
 namespace talvesk {
+
+struct SurveyMember;
 
 /// What a project file holds, ready for work.
 struct LoadedProject : Survey {

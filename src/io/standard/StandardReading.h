@@ -21,9 +21,11 @@ struct StandardReading {
     std::string name;   ///< of the record in its file, "FFID 12"; empty where the file holds one
   };
 
-  std::string format;             ///< "seg2", "segy", "su" or "mseed"
-  std::vector<Shot> shots;        ///< in the order of the file; at least one after a success
-  Message split;                  ///< by what many records were told apart; empty for one shot
+  std::string format;       ///< "seg2", "segy", "su" or "mseed"
+  std::vector<Shot> shots;  ///< in the order of the file; at least one after a success
+  /// By what many records were told apart, "SOURCE_LOCATION"; from readByStandard() and
+  /// parseByStandard() a sentence of it. Empty for one shot.
+  Message split;
   std::vector<Message> warnings;  ///< about the file as a whole, without its path
 };
 

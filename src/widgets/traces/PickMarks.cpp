@@ -1,5 +1,6 @@
 #include "widgets/traces/PickMarks.h"
 
+#include "model/TravelTime.h"
 #include "widgets/traces/TraceTags.h"
 
 #include <QFontMetricsF>

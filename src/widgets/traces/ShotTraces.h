@@ -1,12 +1,15 @@
 #pragma once
 
-#include "model/TomoDocument.h"
+#include "model/Trace.h"
 
 #include <cstddef>
 #include <limits>
 #include <vector>
 
 namespace talvesk {
+
+class TomoDocument;
+struct TravelTime;
 
 /// One record of a document as the trace view sees it: samples, times and positions by channel.
 /// Looks everything up anew, so that a document that changed behind its back is read within its

@@ -1,6 +1,7 @@
 #include "widgets/traces/TraceGuides.h"
 
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 
 #include <algorithm>
 #include <cmath>

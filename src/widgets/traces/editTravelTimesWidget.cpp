@@ -1,5 +1,6 @@
 #include "widgets/traces/editTravelTimesWidget.h"
 
+#include "model/TomoDocument.h"
 #include "widgets/traces/TraceGuides.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
 

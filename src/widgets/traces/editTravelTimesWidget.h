@@ -116,6 +116,8 @@ class editTravelTimesWidget : public QWidget {
 
  signals:
   void editRefused(const talvesk::Status& reason);  ///< the picks are as they were
+  /// A trace has no place for the pick that it was given; those of others are set.
+  void pickLeftOut(const talvesk::Status& why);
   void pick_added();            ///< a trace without a pick got one; pick_edited() follows
   void pick_edited();           ///< picks changed, undo and redo included
   void mouse_moved(int trace);  ///< trace under the cursor, from 0; -1 none

@@ -1,15 +1,23 @@
+#include "io/Survey.h"
 #include "widgets/traces/PickSnap.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
 
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <string>
 
 namespace talvesk {
 namespace {
 
 /// A pick at 0 would be none: the earliest time that is one, seconds.
 constexpr double kEarliest = 1e-6;
+
+/// Each editor counts its own nudges.
+std::string idOf(const editTravelTimesWidget& editor) {
+  return std::to_string(reinterpret_cast<std::uintptr_t>(&editor));
+}
 
 }  // namespace
 
@@ -49,6 +57,8 @@ void editTravelTimesWidget::State::push(Edit edit, Message text, int record,
                                         const std::vector<PickChange>& changes,
                                         const std::string& mergeKey) {
   if (changes.empty() || session == nullptr) return;
+  const Status may = mayPick(*document, record, changes);
+  if (!may.ok()) emit widget.pickLeftOut(may);
   const auto change = [&](Survey& survey) {
     changePicks(survey.document, record, changes);
     return Status();
@@ -122,7 +132,8 @@ void editTravelTimesWidget::State::nudge(double seconds, bool keyHeld) {
   // The first step of a key begins an edit, those of the key held go on with it.
   if (!keyHeld) ++nudges;
   edit(Message::tr("Nudge pick"), {{current, time}},
-       "nudge " + std::to_string(nudges) + ' ' + std::to_string(current));
+       "nudge " + std::to_string(nudges) + ' ' + std::to_string(shot) + ' ' +
+           std::to_string(current) + ' ' + idOf(widget));
   reveal(current);
 }
 

@@ -1,3 +1,5 @@
+#include "model/Mending.h"
+#include "model/TravelTime.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
 
 #include <algorithm>
@@ -56,6 +58,8 @@ TraceCursor editTravelTimesWidget::State::cursorFor(int trace, std::optional<dou
     }
   }
   if (hasPick(traces.measured(trace))) cursor.pick = traces.measured(trace);
+  cursor.takesPart =
+      document == nullptr || takesPart(*document, shot, static_cast<std::size_t>(trace));
   cursor.pickIsAutomatic = waits(trace);
   return cursor;
 }

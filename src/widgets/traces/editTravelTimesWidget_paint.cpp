@@ -1,3 +1,6 @@
+#include "figures/FigureWords.h"
+#include "model/Mending.h"
+#include "model/TomoDocument.h"
 #include "widgets/GuideMarks.h"
 #include "widgets/traces/PickMarks.h"
 #include "widgets/traces/TraceAxes.h"
@@ -5,6 +8,7 @@
 #include "widgets/traces/editTravelTimesWidget_state.h"
 
 #include <QFocusEvent>
+#include <QLocale>
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
@@ -78,6 +82,13 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
   painter.restore();
   if (!options.showOnlyTraces) paintLegend(painter, scene(), plot);
   paintAxes(painter, map, traces, layout, widget.palette().color(QPalette::WindowText));
+  const QStringList words = document != nullptr
+                                ? FigureWords::mends(mendsOfRecord(*document, shot), QLocale())
+                                : QStringList();
+  if (!words.isEmpty()) {  // at the end of the records, where nobody picks
+    paintTag(painter, colors, plot.bottomRight(), FigureWords::joined(words),
+             plot.adjusted(8.0, 8.0, -8.0, -8.0));
+  }
   if (!traces.hasSamples()) {
     paintTag(painter, colors, plot.topLeft() + QPointF(8.0, 8.0),
              editTravelTimesWidget::tr("No samples, only picks"), plot);

@@ -1,3 +1,4 @@
+#include "model/TravelTime.h"
 #include "widgets/traces/TraceAxes.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
 

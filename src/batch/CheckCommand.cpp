@@ -1,0 +1,125 @@
+#include "batch/CheckJson.h"
+#include "batch/Commands.h"
+#include "batch/Diagnostics.h"
+#include "batch/Failure.h"
+#include "batch/OutputFiles.h"
+#include "batch/ProjectFiles.h"
+#include "batch/ShotPicking.h"
+#include "doctor/Doctor.h"
+#include "doctor/FindingTexts.h"
+#include "model/Recordings.h"
+#include "model/SurveyGeometry.h"
+#include "session/TableRules.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ostream>
+#include <vector>
+
+namespace talvesk {
+namespace {
+
+using doctor::Finding;
+using doctor::Proposal;
+using Findings = std::vector<Finding>;
+
+constexpr int kMostRounds = 6;  // geometry, then triggers, then traces, and what they uncover
+
+bool isProposed(const Finding& finding) {
+  return finding.proposal.has_value();
+}
+
+std::string shotName(const TomoDocument& document, std::size_t shot) {
+  const std::string path = shotFile(document, shot);
+  return path.empty() ? std::string()
+                      : " (" + asOneLine(path.substr(path.find_last_of('/') + 1)) + ")";
+}
+
+void tell(const Findings& findings, const TomoDocument& document, std::ostream& out) {
+  if (findings.empty()) out << "Nothing is doubtful.\n";
+  for (const Finding& finding : findings) {
+    if (finding.shot) {
+      out << "shot " << *finding.shot + 1 << shotName(document, *finding.shot);
+    } else {
+      out << "survey";
+    }
+    out << "\n  " << doctor::nameOf(finding.kind) << ", " << std::lround(100.0 * finding.confidence)
+        << " % sure: " << finding.text << '\n';
+    if (finding.proposal) out << "  proposal: " << doctor::describe(*finding.proposal) << '\n';
+  }
+}
+
+Status load(const CheckOptions& options, std::ostream& out, LoadedProject& project) {
+  if (!options.input.empty()) return readProject(options.input, project);
+  PickingManner manner;
+  manner.quiet = options.quiet;
+  manner.summary = &out;
+  return loadShotFiles(options.shots, manner, project);
+}
+
+Status carryOut(const Finding& finding, Survey& survey) {
+  const bool geometry = finding.proposal->kind == Proposal::Kind::kMoveShot ||
+                        finding.proposal->kind == Proposal::Kind::kMoveGeophones;
+  return editSurvey(geometry ? Edit::kGeometry : Edit::kMend, survey, [&](Survey& next) {
+    return doctor::carryOut(finding, *finding.proposal, next.document);
+  });
+}
+
+/// Carries out what is proposed and looks again, until nothing is. \return what is left
+Findings mend(Findings findings, const CheckOptions& options, std::ostream& out, Survey& survey) {
+  std::size_t done = 0;
+  for (int round = 0; round < kMostRounds; ++round) {
+    if (std::none_of(findings.begin(), findings.end(), isProposed)) break;
+    for (const Finding& finding : findings) {
+      if (!finding.proposal) continue;
+      const Status status = carryOut(finding, survey);
+      if (status.ok()) {
+        ++done;
+      } else {
+        warn("a proposal was not carried out: " + status.message());
+      }
+    }
+    findings = doctor::checkRecordings(survey.document);
+    out << "\nMended, and checked again:\n";
+    tell(findings, survey.document, out);
+  }
+  out << done << " proposals carried out.\n";
+  const Status counted = countFromShot(options.shots, options.quiet, out, survey);
+  if (!counted.ok()) warn(counted.message());
+  return findings;
+}
+
+}  // namespace
+
+int run(const CheckOptions& options) {
+  const std::vector<OutputFile> outputs = {{"--json", options.json}, {"--mend", options.project}};
+  const Channels channels = openChannels(outputs, options.quiet);
+  const Status places = checkOutputFiles(outputs, surveyFiles(options.input, options.shots));
+  if (places.code() == kWrongUsage) return wrongUsage("check", places.message());
+  if (!places.ok()) return failed(places.message());
+
+  std::ostream& out = *channels.summary;
+  LoadedProject project;
+  const Status loaded = load(options, out, project);
+  if (!loaded.ok()) return failed(loaded.message());
+  if (project.document.recordings->traceSets.empty()) {
+    return failed(options.input + ": it holds no recordings to check");
+  }
+  const Findings findings = doctor::checkRecordings(project.document);
+  tell(findings, project.document, out);
+  Findings left = findings;
+  if (!options.project.empty()) left = mend(findings, options, out, project);
+  out.flush();
+
+  OutputAttempts attempt(&out);
+  attempt(options.project,
+          [&](const auto& path) { return writeProject(path, options.quiet, project); });
+  attempt(options.json, [&](const auto& path) {
+    return writeOutput(path, checkJson(project.document, findings, left));
+  });
+  if (attempt.exitCode() != kDone) return attempt.exitCode();
+  const bool doubtful = std::any_of(left.begin(), left.end(), isProposed);
+  return options.strict && doubtful ? kDoubtful : kDone;
+}
+
+}  // namespace talvesk

@@ -1,0 +1,71 @@
+#include "doctor/FindingParts.h"
+
+#include "doctor/Placing.h"
+#include "doctor/RunForEach.h"
+
+#include <string>
+#include <utility>
+
+namespace talvesk::doctor {
+
+Message metres(double value) {
+  return Message::number(value, 5);
+}
+
+Message milliseconds(double seconds) {
+  return Message::number(seconds * 1e3, 4);
+}
+
+Finding aboutShot(Finding::Kind kind, const ShotView& shot, double confidence, Message text) {
+  Finding finding;
+  finding.kind = kind;
+  finding.shot = shot.shot;
+  finding.confidence = confidence;
+  finding.text = std::move(text);
+  finding.measured = arrivalsOver(shot, shot.geophones);
+  return finding;
+}
+
+Proposal moveGeophones(std::vector<Point2D> points) {
+  Proposal proposal;
+  proposal.kind = Proposal::Kind::kMoveGeophones;
+  proposal.points = std::move(points);
+  return proposal;
+}
+
+Proposal moveShot(Point2D point) {
+  Proposal proposal;
+  proposal.kind = Proposal::Kind::kMoveShot;
+  proposal.points = {point};
+  return proposal;
+}
+
+Proposal ofTraces(Proposal::Kind kind, std::vector<std::size_t> traces) {
+  Proposal proposal;
+  proposal.kind = kind;
+  proposal.traces = std::move(traces);
+  return proposal;
+}
+
+Message traceList(const std::vector<std::size_t>& traces) {
+  std::string list;
+  for (std::size_t i = 0; i + 1 < traces.size(); ++i) {
+    list += (i == 0 ? "" : ", ") + std::to_string(traces[i] + 1);
+  }
+  if (traces.empty()) return {};
+  const Message last(std::to_string(traces.back() + 1));
+  return list.empty() ? last : Message::tr("%1 and %2").arg(list).arg(last);
+}
+
+std::vector<Finding> findInEachShot(
+    const SurveyView& view, const std::function<std::vector<Finding>(const ShotView&)>& check) {
+  std::vector<std::vector<Finding>> found(view.shots.size());
+  runForEach(found.size(), [&](std::size_t i) { found[i] = check(view.shots[i]); });
+  std::vector<Finding> findings;
+  for (std::vector<Finding>& ofShot : found) {
+    for (Finding& finding : ofShot) findings.push_back(std::move(finding));
+  }
+  return findings;
+}
+
+}  // namespace talvesk::doctor

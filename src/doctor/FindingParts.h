@@ -1,0 +1,30 @@
+#pragma once
+
+#include "doctor/Finding.h"
+#include "doctor/SurveyView.h"
+
+#include <functional>
+#include <vector>
+
+namespace talvesk::doctor {
+
+// What findings are put together of.
+
+Message metres(double value);          ///< as a number, without the unit
+Message milliseconds(double seconds);  ///< the same
+
+/// A finding about a shot that shows its arrivals.
+Finding aboutShot(Finding::Kind kind, const ShotView& shot, double confidence, Message text);
+
+Proposal moveShot(Point2D point);
+Proposal moveGeophones(std::vector<Point2D> points);
+Proposal ofTraces(Proposal::Kind kind, std::vector<std::size_t> traces);
+
+/// The numbers of traces as users count them: "3, 5 and 17".
+Message traceList(const std::vector<std::size_t>& traces);
+
+/// What a check finds in each shot, in the order of the shots. It runs on several threads.
+std::vector<Finding> findInEachShot(
+    const SurveyView& view, const std::function<std::vector<Finding>(const ShotView&)>& check);
+
+}  // namespace talvesk::doctor
