@@ -7,6 +7,7 @@
 #include "batch/ShotPicking.h"
 #include "doctor/Doctor.h"
 #include "doctor/FindingTexts.h"
+#include "io/project/projectReader.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "session/TableRules.h"
@@ -49,12 +50,9 @@ void tell(const Findings& findings, const TomoDocument& document, std::ostream& 
   }
 }
 
-Status load(const CheckOptions& options, std::ostream& out, LoadedProject& project) {
+Status load(const CheckOptions& options, LoadedProject& project) {
   if (!options.input.empty()) return readProject(options.input, project);
-  PickingManner manner;
-  manner.quiet = options.quiet;
-  manner.summary = &out;
-  return loadShotFiles(options.shots, manner, project);
+  return loadShotFiles(options.shots, project);
 }
 
 Status carryOut(const Finding& finding, Survey& survey) {
@@ -84,7 +82,7 @@ Findings mend(Findings findings, const CheckOptions& options, std::ostream& out,
     tell(findings, survey.document, out);
   }
   out << done << " proposals carried out.\n";
-  const Status counted = countFromShot(options.shots, options.quiet, out, survey);
+  const Status counted = countFromShot(options.shots, out, survey);
   if (!counted.ok()) warn(counted.message());
   return findings;
 }
@@ -100,7 +98,7 @@ int run(const CheckOptions& options) {
 
   std::ostream& out = *channels.summary;
   LoadedProject project;
-  const Status loaded = load(options, out, project);
+  const Status loaded = load(options, project);
   if (!loaded.ok()) return failed(loaded.message());
   if (project.document.recordings->traceSets.empty()) {
     return failed(options.input + ": it holds no recordings to check");
@@ -112,8 +110,7 @@ int run(const CheckOptions& options) {
   out.flush();
 
   OutputAttempts attempt(&out);
-  attempt(options.project,
-          [&](const auto& path) { return writeProject(path, options.quiet, project); });
+  attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   attempt(options.json, [&](const auto& path) {
     return writeOutput(path, checkJson(project.document, findings, left));
   });

@@ -72,12 +72,11 @@ void addRecords(CLI::App& app, RecordsOptions& options) {
 int run(const RecordsOptions& options) {
   const Channels channels = openChannels({}, options.quiet);
   LoadedProject project;
-  PickingManner manner;
-  manner.quiet = options.quiet;
-  manner.summary = channels.summary;
-  Status status = options.project.empty()
-                      ? loadShotFiles(options.shots, manner, project)
-                      : readSurvey(options.project, {}, options.shots, manner, project);
+  Status status = options.project.empty() ? loadShotFiles(options.shots, project)
+                                          : readProject(options.project, project);
+  if (status.ok()) {
+    status = layOntoElevations(options.shots.elevations, *channels.summary, project);
+  }
   if (!status.ok()) return failed(status.message());
   if (!QDir().mkpath(QString::fromStdString(options.folder))) {
     return failed("Cannot make the folder " + options.folder);

@@ -146,7 +146,7 @@ void warnOfHeap(const TomoDocument& document) {
 
 }  // namespace
 
-Status countFromShot(const ShotOptions& options, bool quiet, std::ostream& out, Survey& survey) {
+Status countFromShot(const ShotOptions& options, std::ostream& out, Survey& survey) {
   const std::vector<TraceSet>& traceSets = survey.document.recordings->traceSets;
   const auto early = [](const Trace& trace) { return trace.delay < 0.0; };
   const bool anyEarly = std::any_of(traceSets.begin(), traceSets.end(), [&](const TraceSet& set) {
@@ -213,8 +213,7 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
 
 }  // namespace
 
-Status layOntoElevations(const ElevationOptions& options, const PickingManner& manner,
-                         Survey& survey) {
+Status layOntoElevations(const ElevationOptions& options, std::ostream& out, Survey& survey) {
   if (options.table.empty()) return {};
   std::vector<Point2D> points;
   Status status = readElevationTable(options.table, points);
@@ -230,8 +229,8 @@ Status layOntoElevations(const ElevationOptions& options, const PickingManner& m
     return Status();
   });
   if (!status.ok()) return status;
-  *manner.summary << "Elevations of " << options.table << ": " << outcome.geophones
-                  << " geophones, " << outcome.shots << " shots\n";
+  out << "Elevations of " << options.table << ": " << outcome.geophones << " geophones, "
+      << outcome.shots << " shots\n";
   if (outcome.beyond > 0) {
     warn(options.table + ": " + std::to_string(outcome.beyond) +
          " positions lie beyond its ends and got the elevation there");
@@ -239,19 +238,19 @@ Status layOntoElevations(const ElevationOptions& options, const PickingManner& m
   return {};
 }
 
-Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
+Status loadShotFiles(const ShotOptions& options, Survey& survey) {
   TomoDocument& document = survey.document;
   Status status = load(options, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
-  if (!status.ok()) return status;
-  if (options.elevations.table.empty()) return levelShots(options, survey);
-  return layOntoElevations(options.elevations, manner, survey);
+  if (!status.ok() || !options.elevations.table.empty()) return status;
+  return levelShots(options, survey);
 }
 
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
   TomoDocument& document = survey.document;
-  Status status = loadShotFiles(options, manner, survey);
+  Status status = loadShotFiles(options, survey);
+  if (status.ok()) status = layOntoElevations(options.elevations, *manner.summary, survey);
   if (!status.ok()) return status;
 
   std::vector<std::int32_t> shots;
@@ -260,7 +259,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   }
   if (shots.empty()) return Status::failure("the shot files hold no traces");
   if (!manner.quiet) warnOfHeap(document);
-  status = countFromShot(options, manner.quiet, *manner.summary, survey);
+  status = countFromShot(options, *manner.summary, survey);
   if (status.ok()) status = filter(options, shots, survey);
   if (status.ok()) {
     status = editSurvey(Edit::kAutoPick, survey, [&](Survey& next) {
@@ -279,7 +278,7 @@ Status readSurvey(const std::string& file, const TravelTimeReading& picks, const
   if (file.empty()) return pickShotFiles(shots, manner, project);
   if (isProjectFile(file)) {
     const Status status = readProject(file, project);
-    return status.ok() ? layOntoElevations(shots.elevations, manner, project) : status;
+    return status.ok() ? layOntoElevations(shots.elevations, *manner.summary, project) : status;
   }
   TravelTimeData data;
   TravelTimeReading reading = picks;
@@ -288,7 +287,7 @@ Status readSurvey(const std::string& file, const TravelTimeReading& picks, const
   if (!status.ok()) return status;
   if (const Message lost = lostInSurvey(data); !lost.empty()) warn(file + ": " + lost.english());
   status = importTravelTimes(std::move(data), project.document);
-  return status.ok() ? layOntoElevations(shots.elevations, manner, project) : status;
+  return status.ok() ? layOntoElevations(shots.elevations, *manner.summary, project) : status;
 }
 
 Status checkPicks(const TomoDocument& document, const std::vector<std::string>& files) {

@@ -20,12 +20,16 @@ struct PickingManner {
   std::ostream* summary = nullptr;  ///< what the user came to know
 };
 
-/// Loads shot files into an empty survey and takes positions and elevations from files. One
-/// file that cannot be read, or geometry that does not fit the files, fails the whole.
-Status loadShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey);
+/// Loads shot files into an empty survey and takes positions from geometry files. One file that
+/// cannot be read, or geometry that does not fit the files, fails the whole. Leaves the table
+/// of elevations to the next function, for which shots at 0 stay there.
+Status loadShotFiles(const ShotOptions& options, Survey& survey);
+
+/// Gives all geophones and shots the elevations of a table; nothing where none was given.
+Status layOntoElevations(const ElevationOptions& options, std::ostream& out, Survey& survey);
 
 /// Counts time from the shot where records begin before it, unless asked not to, and says so.
-Status countFromShot(const ShotOptions& options, bool quiet, std::ostream& out, Survey& survey);
+Status countFromShot(const ShotOptions& options, std::ostream& out, Survey& survey);
 
 /// loadShotFiles(), then counts time from the shot, filters, picks every trace and screens every
 /// shot. One file that cannot be read, or

@@ -1,11 +1,10 @@
 #include "doctor/FindingParts.h"
-#include "doctor/NeighbourTimes.h"
 #include "doctor/TraceChecks.h"
 #include "doctor/Waveforms.h"
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
+#include <limits>
 #include <utility>
 
 namespace talvesk::doctor {
@@ -36,12 +35,20 @@ std::vector<double> slopesOf(const std::vector<double>& samples) {
   return slopes;
 }
 
-/// By how much the arrival of a trace is off those of its neighbours, seconds; 0 where they do not
-/// say.
+/// By how much the arrival of a trace is off the nearest in time of its neighbours', seconds; 0
+/// where none of them has one.
 double misfitOf(const ShotView& shot, std::size_t trace) {
-  const std::optional<NeighbourTime> around = timeByNeighbours(shot, trace);
-  if (!around || !shot.onsets[trace].found) return 0.0;
-  return std::fabs(shot.onsets[trace].time - around->time);
+  constexpr std::size_t kReach = 2;
+  if (!shot.onsets[trace].found) return 0.0;
+  const std::size_t here = shot.rank[trace];
+  double least = std::numeric_limits<double>::infinity();
+  for (std::size_t i = here > kReach ? here - kReach : 0;
+       i < std::min(shot.order.size(), here + kReach + 1); ++i) {
+    const Onset& other = shot.onsets[shot.order[i]];
+    if (i == here || !isClear(other)) continue;
+    least = std::min(least, std::fabs(shot.onsets[trace].time - other.time));
+  }
+  return std::isfinite(least) ? least : 0.0;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 namespace talvesk {
 
+struct Trace;
 class TomoDocument;
 
 /// What counting time from the shot did to the traces of a document.

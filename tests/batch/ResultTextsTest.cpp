@@ -1,6 +1,7 @@
 #include "batch/Progress.h"
 #include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
+#include "io/project/projectReader.h"
 #include "io/TravelTimeData.h"
 #include "model/Mending.h"
 #include "support/ShotDocument.h"

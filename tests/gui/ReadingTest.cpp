@@ -2,6 +2,7 @@
 #include "app/dialogs/ShotFileDialog.h"
 #include "gui/WindowTest.h"
 #include "model/Recordings.h"
+#include "model/TomoDocument.h"
 #include "support/ShotFiles.h"
 
 #include <QAbstractButton>

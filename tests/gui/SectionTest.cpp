@@ -2,6 +2,7 @@
 #include "figures/SectionFigure.h"
 #include "figures/SectionPaper.h"
 #include "gui/WindowTest.h"
+#include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"

@@ -275,15 +275,13 @@ TEST(Mending, makesAStackAnewWithItsParts) {
 TEST(Mending, forgetsFilteredCopiesOfTracesThatChangeOnly) {
   TomoDocument document = repeats(1);
   for (Trace& each : document.recordings.edit().traceSets[0]) each.filtered = Values(6, 1.0);
-  document.recordings.edit().noteOf(0).filtered = true;
   std::vector<Message> notes;
   ASSERT_TRUE(setMends(0, trace(1, {true, false, 0.0}), document, &notes).ok());
   EXPECT_FALSE(document.recordings->traceSets[0][0].filtered.empty());
   EXPECT_TRUE(document.recordings->traceSets[0][1].filtered.empty());
-  EXPECT_TRUE(document.recordings->notes[0].filtered);
   EXPECT_EQ(notes.size(), 2U) << "a pick that is set aside, and the copy";
   ASSERT_TRUE(setMends(0, shift(0.001), document, &notes).ok());
-  EXPECT_FALSE(document.recordings->notes[0].filtered);
+  EXPECT_TRUE(document.recordings->traceSets[0][0].filtered.empty());
 }
 
 TEST(Mending, takesAShiftInWholeSamplesAndSaysSo) {

@@ -1,3 +1,4 @@
+#include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 #include "model/Mending.h"
 #include "session/FullSurvey.h"
