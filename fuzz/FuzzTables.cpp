@@ -1,9 +1,12 @@
-// Throws any bytes at the readers of small tables: positions, layers of traces, and what is pasted.
-// The first byte chooses the reader and its separator.
+// Throws any bytes at the readers of small tables: positions, elevations, layers of traces, and
+// what is pasted. The first byte chooses the reader and its separator.
 #include "Demand.h"
 #include "base/TypedTable.h"
+#include "io/ElevationTable.h"
 #include "io/GeometryFile.h"
 #include "io/LayerFile.h"
+#include "io/NamedPositions.h"
+#include "model/ElevationProfile.h"
 #include "model/TomoDocument.h"
 
 #include <algorithm>
@@ -75,15 +78,45 @@ void tryPasted(std::string_view text, bool decimalComma) {
   }
 }
 
+void demandPlaces(const std::vector<Point2D>& points) {
+  for (const Point2D& point : points) demand(isFinite(point), "finite points");
+}
+
+void tryElevations(std::string_view text) {
+  std::vector<Point2D> points;
+  const Status status = parseElevationTable(text, "a.csv", points);
+  demand(status.ok() != points.empty(), "points after a success only");
+  demandPlaces(points);
+  if (!status.ok()) return;
+  for (const auto course :
+       {ElevationProfile::Course::kStraight, ElevationProfile::Course::kSmooth}) {
+    const ElevationProfile profile(points, course);
+    for (const double x : {-1e9, 0.0, 7.5, points.front().x}) {
+      demand(std::isfinite(profile.at(x)), "elevations everywhere");
+    }
+  }
+}
+
+void tryNamed(std::string_view text, PositionsOf what) {
+  PositionTable table;
+  const Status status = parseNamedPositions(text, "a.csv", {what, 0, 0}, table);
+  demand(status.ok() == status.message().empty(), "a message with every failure");
+  std::vector<Point2D> points;
+  if (status.ok()) demand(positionsOf(table, points).ok(), "positions with an elevation");
+  demandPlaces(points);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   if (size == 0) return 0;
   static const char* const separators[] = {";", ",", kBlankSeparator};
   const std::string_view text(reinterpret_cast<const char*>(bytes) + 1, size - 1);
-  const int choice = bytes[0] % 9;
+  const int choice = bytes[0] % 12;
   if (choice < 6) tryPositions(text, separators[choice % 3], choice >= 3);
   if (choice == 6) tryLayers(text);
-  if (choice > 6) tryPasted(text, choice == 8);
+  if (choice == 7 || choice == 8) tryPasted(text, choice == 8);
+  if (choice == 9) tryElevations(text);
+  if (choice > 9) tryNamed(text, choice == 10 ? PositionsOf::kShots : PositionsOf::kGeophones);
   return 0;
 }

@@ -2,7 +2,7 @@
 """Writes the seed corpora of the fuzz targets, one folder each: a small survey in every format.
 
 usage: make_seeds.py FOLDER
-The first byte of a travel-time seed chooses the reader, that of an SU seed the state that an earlier
+The first byte of a travel-time seed chooses the suffix and the reading, that of an SU seed the state that an earlier
 file left, that of an isovalue seed the separator, that of a table seed the reader and the separator,
 that of a project seed the member that the rest stands for, 0 for the whole archive; the rest is the
 file.
@@ -66,14 +66,48 @@ def csv(receivers, sources, times):
     return lines + [row([*source, *line], ";") for source, line in zip(sources, times)]
 
 
+def picks(receivers, sources, times):
+    for source, line in zip(sources, times):
+        yield from ((source, receiver, t) for receiver, t in zip(receivers, line))
+
+
+def unified(receivers, sources, times):
+    places = sorted({*receivers, *sources})
+    lines = [f"{len(places)} # shot/geophone points", "#x z"] + [row(p, " ") for p in places]
+    found = [[places.index(s) + 1, places.index(r) + 1, 0.001 * t, 0.001, t > 0]
+             for s, r, t in picks(receivers, sources, times)]
+    lines += [f"{len(found)} # measurements", "#s g t err valid"] + [row(f, "\t") for f in found]
+    return lines + ["1 # topography", "0 100"]
+
+
+def headed(receivers, sources, times, separator, heading):
+    rows = [row([*s, *r, t], separator) for s, r, t in picks(receivers, sources, times)]
+    if separator == ";":
+        rows = [line.replace(".", ",") for line in rows]
+    return [separator.join(heading)] + rows
+
+
+def content_seeds(data):
+    named = ["shot_x", "sz", '"receiver x"', "gz", "t (ms)"]
+    return [(4, unified(*data)), (5, unified(*data)), (3, headed(*data, ";", named)),
+            (5, headed(*data, "\t", named)), (0x21, headed(*data, ",", ["sx", "sz", "gx", "gz", "t"])),
+            (0x45, headed(*data, " ", ["sx", "sz", "gx", "gz", "t[s]"])),
+            (3, [line + ";" * 250 for line in csv(*data)])]
+
+
+def joined(lines, end):
+    return "".join(line + end for line in lines).encode("ascii")
+
+
 def travel_time_seeds():
     for size in ((0, 1), (1, 1), (2, 3), (4, 12)):
         data = survey(*size)
         for reader, lines in enumerate([otte(*data), tx_curves(*data), pick_table(*data),
                                         csv(*data), otte(*data, strings=2)]):
             for end in ("\n", "\r\n"):
-                text = "".join(line + end for line in lines)
-                yield bytes([reader % 4]) + text.encode("ascii")
+                yield bytes([reader % 4]) + joined(lines, end)
+        for reader, lines in content_seeds(data):
+            yield bytes([reader]) + joined(lines, "\n")
 
 
 def write(folder, seeds):

@@ -23,8 +23,18 @@ def pasted_seeds():
             yield reader, text
 
 
+def named_seeds():
+    for text in ("0 100,5\n5 101\n", "x (m);z (cm)\n0;1\n5;2,5\n", '"distance","elevation"\n"0","1"\n',
+                 "1 2 3\n", "x\tz\n1\tup\n"):
+        yield 9, text
+    for reader in (10, 11):
+        for text in ("kind,spread,x,z\ngeophone,1,0,100\nshot,,2.5,99\n", "gx gz sx sz\n0 1 2 3\n",
+                     "# shot_x;shot_z;gx;elevation\n1;2;3;4\n1;2\n"):
+            yield reader, text
+
+
 def table_seeds():
-    for seeds in (position_seeds(), layer_seeds(), pasted_seeds()):
+    for seeds in (position_seeds(), layer_seeds(), pasted_seeds(), named_seeds()):
         yield from (bytes([reader]) + text.encode("ascii") for reader, text in seeds)
 
 

@@ -35,6 +35,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionOpen_shot_files", ":/icons/open-shots.png"},
     {"actionLoad_TT", ":/icons/import.png"},
     {"actionExport_TravelTimes", ":/icons/export.png"},
+    {"actionExport_recordings", ":/icons/export.png"},
     {"actionSet_geography_coordinates", ":/icons/globe.png"},
     {"actionExportTomographic_profile_2_KML", ":/icons/globe.png"},
     {"actionExportSeismic_line", ":/icons/globe.png"},

@@ -8,7 +8,7 @@ const QString kHelp = QStringLiteral(
     "Usage: talvesk [FILES...]\n"
     "\n"
     "Opens the window of Talvesk and loads the files: a project (.tvsk), shot files (SEG-2,\n"
-    "SEG-Y, SU) and a travel-time file (.otte, .txt, .xyz, .csv).\n"
+    "SEG-Y, SU) and a travel-time file (.otte, .txt, .xyz, .csv, .sgt).\n"
     "\n"
     "  -h, --help     print this text\n"
     "  -V, --version  print the version\n"

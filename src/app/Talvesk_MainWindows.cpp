@@ -7,6 +7,7 @@
 #include "app/presenters/Presenters.h"
 #include "io/FileFormats.h"
 #include "io/Survey.h"
+#include "io/TravelTimeFile.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/traces/editTravelTimesWidget.h"
@@ -100,9 +101,11 @@ void Talvesk_MainWindows::openFiles(const QStringList& files) {
   QStringList travelTimes;
   QStringList projects;
   for (const QString& file : files) {
-    QStringList& kind = hasSuffixOf(projectFormat(), file.toStdString()) ? projects
-                        : looksLikeTravelTimes(file.toStdString())       ? travelTimes
-                                                                         : shots;
+    QStringList& kind =
+        hasSuffixOf(projectFormat(), file.toStdString()) ? projects
+        : looksLikeTravelTimes(file.toStdString()) || holdsTravelTimes(file.toStdString())
+            ? travelTimes
+            : shots;
     kind << QFileInfo(file).absoluteFilePath();
   }
   // Each would take the place of the one before.

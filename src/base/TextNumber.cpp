@@ -88,6 +88,13 @@ std::string formatDouble(double value, int significantDigits) {
   return {buffer.data(), result.ptr};
 }
 
+std::string exactDouble(double value) {
+  std::array<char, 1200> buffer;  // the smallest of all numbers has 1077 characters
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value + 0.0,
+                                    std::chars_format::fixed);
+  return {buffer.data(), result.ptr};
+}
+
 std::vector<std::string_view> splitFields(std::string_view text, char separator) {
   std::vector<std::string_view> fields;
   while (!text.empty()) {

@@ -22,6 +22,9 @@ NumberError parseInt(std::string_view text, int& value);
 /// Six significant digits, as a C++ stream prints by default.
 std::string formatDouble(double value, int significantDigits = 6);
 
+/// As few digits as bring the number back, without an exponent, which not every reader knows.
+std::string exactDouble(double value);
+
 /// Splits at every separator. An empty rest after a last separator is no field; an empty text has
 /// no field at all.
 std::vector<std::string_view> splitFields(std::string_view text, char separator);

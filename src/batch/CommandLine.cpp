@@ -24,6 +24,7 @@ void addInfo(CLI::App& app, InfoOptions& info) {
       addPath(command, "--json", info.json,
               "Write positions (metres) and times (seconds) as JSON; '-' is standard output. "
               "Several files make one array");
+  addPickReading(command, info.picks);
   command.add_flag("--samples", info.samples, "Write the samples of shot files, too")->needs(json);
   addReader(command, info.reader)
       ->description(
@@ -43,6 +44,7 @@ void addPick(CLI::App& app, PickOptions& pick) {
   CLI::App& command =
       *app.add_subcommand("pick", "Find the first breaks of shot files and drop implausible ones");
   command.add_option("SHOTS", pick.shots.files, "Shot files: " + shotSuffixes())->required();
+  addElevationOptions(command, pick.shots.elevations);
   const ShotOptionGroup shots = addShotOptions(command, pick.shots);
   mustEndIn(addPath(command, "-o,--otte", pick.otte,
                     "The travel-time exchange file to write, named *.otte; not needed with "
@@ -103,12 +105,23 @@ void addCheck(CLI::App& app, CheckOptions& check) {
 
 void addConvert(CLI::App& app, ConvertOptions& convert) {
   CLI::App& command = *app.add_subcommand(
-      "convert", "Rewrite a travel-time file in the exchange format .otte (metres, milliseconds)");
-  command.add_option("INPUT", convert.input, "Travel-time file: " + travelTimeSuffixes())
+      "convert",
+      "Rewrite a travel-time file in the exchange format .otte (metres, milliseconds) or in the "
+      "unified data format .sgt of pyGIMLi and BERT (metres, seconds)");
+  command
+      .add_option("INPUT", convert.input,
+                  "Travel-time file: " + travelTimeSuffixes() +
+                      ", or of any suffix a table with a heading or the unified data format")
       ->required();
   mustEndIn(
-      command.add_option("OUT", convert.output, "The file to write, named *.otte")->required(),
-      {".otte"}, false);
+      command
+          .add_option("OUT", convert.output,
+                      "The file to write; its suffix, .otte or .sgt, tells the format; a pipe "
+                      "gets .otte")
+          ->required(),
+      writtenTravelTimeSuffixes(), false, true);
+  addPickReader(command, convert.picks);
+  addPickReading(command, convert.picks);
   command.add_flag("--quiet", convert.quiet, kQuietHelp);
 }
 
@@ -130,6 +143,7 @@ struct AllOptions {
   RefractOptions refract;
   ExportOptions exports;
   ConvertOptions convert;
+  RecordsOptions records;
   DemoOptions demo;
 };
 
@@ -148,6 +162,7 @@ void addCommands(CLI::App& app, AllOptions& all) {
   addInfo(app, all.info);
   addExport(app, all.exports);
   addConvert(app, all.convert);
+  addRecords(app, all.records);
   addDemo(app, all.demo);
 }
 
@@ -180,7 +195,9 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
 
   if (chosenCommand(app) == nullptr) {
     result.exitCode = wrongUsage(
-        "", "a command is required: info, pick, check, invert, refract, export, convert or demo");
+        "",
+        "a command is required: info, pick, check, invert, refract, export, convert, records or "
+        "demo");
     return result;
   }
   const std::string name = chosenCommand(app)->get_name();
@@ -198,6 +215,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     result.command = std::move(all.exports);
   } else if (name == "convert") {
     result.command = std::move(all.convert);
+  } else if (name == "records") {
+    result.command = std::move(all.records);
   } else {
     result.command = std::move(all.demo);
   }

@@ -14,6 +14,7 @@ int run(const InvertOptions& options);
 int run(const RefractOptions& options);
 int run(const ExportOptions& options);
 int run(const ConvertOptions& options);
+int run(const RecordsOptions& options);
 int run(const DemoOptions& options);
 
 }  // namespace talvesk

@@ -7,7 +7,7 @@
 #include "model/TomoDocument.h"
 
 #include <ostream>
-#include <utility>
+#include <vector>
 
 namespace talvesk {
 
@@ -19,12 +19,12 @@ int run(const ConvertOptions& options) {
   if (!places.ok()) return failed(places.message());
 
   TravelTimeData data;
-  Status status = readPicks(options.input, data);
-  TomoDocument document;
-  if (status.ok()) status = importTravelTimes(std::move(data), document);
-  if (status.ok()) status = writeTravelTimes(options.output, document);
+  std::vector<Message> losses;
+  Status status = readPicks(options.input, options.picks, data);
+  if (status.ok()) status = writeTravelTimes(options.output, data, losses);
   if (!status.ok()) return failed(status.message());
-  *channels.summary << "Wrote " << options.output << ": " << document.ttArray.size() << " shots"
+  for (const std::string& loss : losses) warn(options.output + ": " + loss);
+  *channels.summary << "Wrote " << options.output << ": " << data.records.size() << " shots"
                     << std::endl;
   return kDone;
 }

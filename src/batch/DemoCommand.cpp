@@ -60,7 +60,7 @@ Status writePositions(const TomoDocument& line, const DemoPlaces& places) {
 }
 
 Status writeRecords(const TomoDocument& line, const DemoPlaces& places) {
-  const std::vector<Seg2Record> records = demoShots(line);
+  const std::vector<WrittenShot> records = demoShots(line);
   for (std::size_t i = 0; i < records.size(); ++i) {
     Status status = writeFileAtomically(places.records[i], formatSeg2(records[i]));
     if (!status.ok()) return status;

@@ -103,13 +103,13 @@ double demoSignalToNoise(double offset) {
   return swingAt(offset) / kNoiseLevel;
 }
 
-std::vector<Seg2Record> demoShots(const TomoDocument& line) {
-  std::vector<Seg2Record> records;
+std::vector<WrittenShot> demoShots(const TomoDocument& line) {
+  std::vector<WrittenShot> records;
   std::uint64_t traceNumber = 0;
   for (const TravelTime& shot : line.ttArray) {
     const auto& geophones =
         line.line->goephonesStringSet[static_cast<std::size_t>(shot.indexStesa)];
-    Seg2Record record;
+    WrittenShot record;
     record.source = shot.shotPos2d;
     record.receivers = geophones;
     record.sampleInterval = kSampleInterval;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "batch/Seg2Writer.h"
+#include "io/WrittenShot.h"
 
 #include <vector>
 
@@ -19,6 +19,6 @@ double demoSignalToNoise(double offset);
 /// A record for each shot of the line, in order, its first breaks at the measured times of the
 /// line. Recorders start a hundredth of a second before the shot. The same every time, and without
 /// functions whose last bit depends on the system.
-std::vector<Seg2Record> demoShots(const TomoDocument& line);
+std::vector<WrittenShot> demoShots(const TomoDocument& line);
 
 }  // namespace talvesk

@@ -36,10 +36,11 @@ void warnOfLosses(const std::string& path, const std::vector<Message>& losses) {
   warn(path + ": " + clauses + ". Add --reader standard to read it by the standard of its format");
 }
 
-Status readPicks(const std::string& path, TravelTimeData& data) {
-  Status status = readTravelTimes(path, data);
+Status readPicks(const std::string& path, const TravelTimeReading& reading, TravelTimeData& data) {
+  Status status = readTravelTimes(path, data, reading);
   for (const std::string& warning : data.warnings) warn(path + ": " + warning);
-  return status;
+  if (status.ok() || reading.timeUnit || !asksForTimeUnit(path)) return status;
+  return Status::failure(status.message() + "; say it with --time-unit");
 }
 
 Status writePicks(const std::string& path, const TomoDocument& document) {

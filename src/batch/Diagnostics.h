@@ -3,6 +3,7 @@
 #include "base/Message.h"
 #include "batch/OutputFiles.h"
 #include "batch/Progress.h"
+#include "io/TravelTimeFile.h"
 
 #include <iosfwd>
 #include <string>
@@ -32,7 +33,7 @@ Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool v
 void warnOfLosses(const std::string& path, const std::vector<Message>& losses);
 
 /// Reads picks, and warns on standard error of what the reader repaired or left out.
-Status readPicks(const std::string& path, TravelTimeData& data);
+Status readPicks(const std::string& path, const TravelTimeReading& reading, TravelTimeData& data);
 
 /// Writes picks, and warns on standard error where the format cannot hold the survey, which its
 /// writer tells the console only.

@@ -107,7 +107,8 @@ class Inventory {
 
   void add(const std::string& file) {
     if (isProjectFile(file)) return addProject(file);
-    travelTimeFormatOf(file) != nullptr ? addTravelTimes(file) : addShot(file);
+    const bool picks = travelTimeFormatOf(file) != nullptr || holdsTravelTimes(file);
+    picks ? addTravelTimes(file) : addShot(file);
   }
 
   int exitCode() const { return mExitCode; }
@@ -128,7 +129,9 @@ class Inventory {
 
   void addTravelTimes(const std::string& file) {
     TravelTimeData data;
-    const Status status = readPicks(file, data);
+    TravelTimeReading reading = mOptions.picks;
+    reading.byContent = mOptions.reader == ShotReader::kStandard;
+    const Status status = readPicks(file, reading, data);
     take(file, status, data, [&] { return travelTimesJson(data); });
   }
 

@@ -205,7 +205,7 @@ int run(const InvertOptions& options) {
   manner.threads = options.parameters.singleThread ? 1 : 0;
   manner.quiet = options.quiet;
   manner.summary = channels.summary;
-  Status status = readSurvey(options.input, options.shots, manner, project);
+  Status status = readSurvey(options.input, options.picks, options.shots, manner, project);
   if (status.ok()) status = checkPicks(document, inputsOf(options));
   if (status.ok()) status = setUpModel(options, project, log);
   if (status.ok()) status = tellWhatIsLeftOut(document);

@@ -169,6 +169,8 @@ void addInvert(CLI::App& app, InvertOptions& options) {
                       ". A project brings its grid and velocities to start from, "
                       "unless an option of the grid is given")
       ->required();
+  addPickReading(command, options.picks);
+  addElevationOptions(command, options.shots.elevations);
   const ShotOptionGroup shots = addShotOptions(command, options.shots);
   addGridOptions(command, options);
   addRunOptions(command, options);

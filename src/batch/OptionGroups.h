@@ -38,8 +38,20 @@ bool isShotFile(const std::string& path, ShotReader reader);
 /// must outlive the parsing.
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots);
 
+/// Those of them that say where shots and geophones stand.
+ShotOptionGroup addPlaceOptions(CLI::App& command, ShotOptions& shots);
+
 /// Those of them that say where shots and geophones stand, and from when time counts.
 ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots);
+
+/// --elevations and --smooth-elevations, which go with every kind of input.
+void addElevationOptions(CLI::App& command, ElevationOptions& elevations);
+
+/// --reader, of a command that takes picks only.
+CLI::Option* addPickReader(CLI::App& command, TravelTimeReading& picks);
+
+/// --time-unit, of picks in tables. `picks` must outlive the parsing.
+void addPickReading(CLI::App& command, TravelTimeReading& picks);
 
 /// A repeatable --image with names that a picture can have.
 CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
@@ -60,6 +72,9 @@ void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, s
 /// The commands `invert` and `refract`.
 void addInvert(CLI::App& app, InvertOptions& options);
 void addRefract(CLI::App& app, RefractOptions& options);
+
+/// The command `records`.
+void addRecords(CLI::App& app, RecordsOptions& options);
 
 /// The command `export`.
 void addExport(CLI::App& app, ExportOptions& options);

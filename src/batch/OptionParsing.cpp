@@ -56,10 +56,12 @@ CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,
   return app.add_option(name, path, help)->type_name("FILE");
 }
 
-CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase) {
-  return option->check([suffixes = std::move(suffixes), anyCase](const std::string& path) {
+CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase,
+                       bool pipesToo) {
+  const bool pipes = pipesToo || suffixes.size() == 1;
+  return option->check([suffixes = std::move(suffixes), anyCase, pipes](const std::string& path) {
     if (isDiscarded(path)) return std::string();
-    if (suffixes.size() == 1 && isStreamPlace(path)) return std::string();
+    if (pipes && isStreamPlace(path)) return std::string();
     for (const std::string& suffix : suffixes) {
       if (endsWith(path, suffix, anyCase)) return std::string();
     }

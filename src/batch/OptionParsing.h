@@ -95,7 +95,9 @@ CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,
 
 /// A path to write that must end in one of the suffixes (in lower case). Where there is no choice
 /// of formats, a pipe or a device may have any name. \param anyCase whether ".PNG" ends in ".png"
-CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase);
+/// \param pipesToo whether that holds with a choice, too: one of the formats goes without saying
+CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase,
+                       bool pipesToo = false);
 
 /// Breaks the help texts of a command and its subcommands into lines that fit a terminal.
 void wrapHelp(CLI::App& app);

@@ -2,6 +2,8 @@
 
 #include "export/GriddedText.h"
 #include "grid/VelocityLayers.h"
+#include "io/RecordExport.h"
+#include "io/TravelTimeFile.h"
 #include "model/GeographicsCoord.h"
 #include "model/Parameters.h"
 #include "model/Recordings.h"
@@ -27,6 +29,7 @@ inline constexpr const char* kStandardOutput = "-";
 
 struct InfoOptions {
   std::vector<std::string> files;  ///< at least one
+  TravelTimeReading picks;
   std::string json;
   bool samples = false;
   ShotReader reader = ShotReader::kRules;  ///< whose failure is that of the command
@@ -34,6 +37,12 @@ struct InfoOptions {
 
 /// On what the first breaks are picked.
 enum class PickFilter { kNone, kAgc, kHushel, kBand };
+
+/// Elevations for all positions of a survey.
+struct ElevationOptions {
+  std::string table;    ///< file of distances and elevations
+  bool smooth = false;  ///< along a smooth curve between its points
+};
 
 /// How shot files become picks.
 struct ShotOptions {
@@ -44,6 +53,7 @@ struct ShotOptions {
   std::string geophones;        ///< geometry file
   std::string shots;            ///< geometry file
   std::string separator = ";";  ///< of the geometry files
+  ElevationOptions elevations;  ///< of picks and projects, too
   bool asRecorded = false;      ///< time counts from the first sample, wherever the shot was
 };
 
@@ -77,6 +87,7 @@ struct ReportFields {
 
 struct InvertOptions {
   std::string input;  ///< travel-time file or project; none: shot files
+  TravelTimeReading picks;
   ShotOptions shots;
   std::optional<double> cellSize;          ///< metres; none: as proposed
   std::optional<double> depth;             ///< metres; none: half the array length
@@ -103,6 +114,7 @@ struct InvertOptions {
 
 struct RefractOptions {
   std::string input;  ///< travel-time file; none: shot files
+  TravelTimeReading picks;
   ShotOptions shots;
   std::string layers;        ///< file of marks; none: as proposed
   std::optional<double> xy;  ///< metres, of the family; none: that of the project, else 0
@@ -142,7 +154,17 @@ struct ExportOptions {
 
 struct ConvertOptions {
   std::string input;
+  TravelTimeReading picks;
   std::string output;
+  bool quiet = false;
+};
+
+struct RecordsOptions {
+  std::string project;  ///< none: shot files
+  ShotOptions shots;
+  std::string folder;
+  RecordFormat format = RecordFormat::kSegy;
+  bool together = false;  ///< in one file
   bool quiet = false;
 };
 
@@ -151,7 +173,8 @@ struct DemoOptions {
   bool quiet = false;
 };
 
-using CommandOptions = std::variant<InfoOptions, PickOptions, CheckOptions, InvertOptions,
-                                    RefractOptions, ExportOptions, ConvertOptions, DemoOptions>;
+using CommandOptions =
+    std::variant<InfoOptions, PickOptions, CheckOptions, InvertOptions, RefractOptions,
+                 ExportOptions, ConvertOptions, RecordsOptions, DemoOptions>;
 
 }  // namespace talvesk

@@ -153,7 +153,7 @@ int run(const RefractOptions& options) {
   PickingManner manner;
   manner.quiet = options.quiet;
   manner.summary = channels.summary;
-  Status status = readSurvey(options.input, options.shots, manner, project);
+  Status status = readSurvey(options.input, options.picks, options.shots, manner, project);
   if (!status.ok()) return failed(status.message());
   if (!options.quiet && !document.picksComplete()) {
     warn("uncomplete set of picks; the interpretation is run anyway");

@@ -12,6 +12,8 @@ void addRefract(CLI::App& app, RefractOptions& options) {
                                           "of one or two refractors under the line");
   const auto inputs = std::make_shared<std::vector<std::string>>();
   command.add_option("INPUT", *inputs, kindsOfInput())->required();
+  addPickReading(command, options.picks);
+  addElevationOptions(command, options.shots.elevations);
   const ShotOptionGroup shots = addShotOptions(command, options.shots);
   CLI::Option* layers = addPath(
       command, "--layers", options.layers,

@@ -2,6 +2,7 @@
 #include "batch/OptionParsing.h"
 #include "io/FileFormats.h"
 #include "io/GeometryFile.h"
+#include "io/TravelTimeFile.h"
 
 #include <algorithm>
 
@@ -28,6 +29,12 @@ std::string readSeparator(const std::string& text) {
   if (text == ";" || text == "," || text == " ") return text;
   if (text == kBlankSeparator || text == "blank") return " ";
   throw CLI::ValidationError("--separator", "'" + text + "' is none of ';', ',', ' '");
+}
+
+TimeUnit readTimeUnit(const std::string& text) {
+  if (text == "ms") return TimeUnit::kMilliseconds;
+  if (text == "s") return TimeUnit::kSeconds;
+  throw CLI::ValidationError("--time-unit", "'" + text + "' is none of ms, s");
 }
 
 /// Cut-off and order of one end of the band.
@@ -82,20 +89,17 @@ CLI::Option* addReader(CLI::App& command, ShotReader& reader) {
 }
 
 bool isShotFile(const std::string& path, ShotReader reader) {
-  if (reader == ShotReader::kRules) return shotFormatOf(path) != nullptr;
-  return travelTimeFormatOf(path) == nullptr && !hasSuffixOf(projectFormat(), path);
+  if (reader == ShotReader::kRules) return shotFormatOf(path) != nullptr && !holdsTravelTimes(path);
+  return travelTimeFormatOf(path) == nullptr && !hasSuffixOf(projectFormat(), path) &&
+         !holdsTravelTimes(path);
 }
 
-ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots) {
+ShotOptionGroup addPlaceOptions(CLI::App& command, ShotOptions& shots) {
   ShotOptionGroup group;
   const auto add = [&](CLI::Option* option) {
     option->group(kGroup);
     group.options.push_back(option);
-    return option;
   };
-  add(command.add_flag("--as-recorded", shots.asRecorded,
-                       "Count time from the first sample of a record, also when recording began "
-                       "before the shot"));
   add(addPath(command, "--geophones", shots.geophones,
               "Positions of the geophones, a line 'x;z' (metres) per trace, instead of those "
               "in the shot files; the same for all shots"));
@@ -109,6 +113,35 @@ ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots) {
               "Separator of --geophones and --shots: ';', ',' or ' ' (default: ';')")
           ->type_name("CHAR"));
   return group;
+}
+
+ShotOptionGroup addPositionOptions(CLI::App& command, ShotOptions& shots) {
+  ShotOptionGroup group;
+  const auto add = [&](CLI::Option* option) {
+    option->group(kGroup);
+    group.options.push_back(option);
+    return option;
+  };
+  add(command.add_flag("--as-recorded", shots.asRecorded,
+                       "Count time from the first sample of a record, also when recording began "
+                       "before the shot"));
+  for (CLI::Option* option : addPlaceOptions(command, shots).options) {
+    group.options.push_back(option);
+  }
+  return group;
+}
+
+void addElevationOptions(CLI::App& command, ElevationOptions& elevations) {
+  CLI::Option* table = addPath(
+      command, "--elevations", elevations.table,
+      "Elevations of all geophones and shots: a table of distances and elevations (metres), "
+      "whose heading names both or that has two columns");
+  CLI::Option* smooth =
+      command.add_flag("--smooth-elevations", elevations.smooth,
+                       "Follow a smooth curve through the points of --elevations, instead of "
+                       "straight lines");
+  smooth->needs(table);
+  for (CLI::Option* option : {table, smooth}) option->group("Positions");
 }
 
 ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
@@ -135,6 +168,28 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
     group.options.push_back(option);
   }
   return group;
+}
+
+CLI::Option* addPickReader(CLI::App& command, TravelTimeReading& picks) {
+  return command
+      .add_option_function<std::string>(
+          "--reader",
+          [&picks](const std::string& text) {
+            picks.byContent = readReader(text) == ShotReader::kStandard;
+          },
+          "By what a file is read: rules, by its suffix and only where that fails by its content; "
+          "standard, by its content first (default: rules)")
+      ->type_name("READER")
+      ->group("Travel times");
+}
+
+void addPickReading(CLI::App& command, TravelTimeReading& picks) {
+  command
+      .add_option_function<std::string>(
+          "--time-unit", [&](const std::string& text) { picks.timeUnit = readTimeUnit(text); },
+          "Unit of the times in a table whose heading names none: ms or s")
+      ->type_name("UNIT")
+      ->group("Travel times");
 }
 
 CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,

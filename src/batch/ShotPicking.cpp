@@ -3,12 +3,14 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/ProjectFiles.h"
-#include "io/GeometryFile.h"
+#include "io/ElevationTable.h"
+#include "io/NamedPositions.h"
 #include "io/ReadingComparison.h"
 #include "io/ShotLoader.h"
 #include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 #include "io/project/projectReader.h"
+#include "model/ElevationProfile.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
@@ -49,14 +51,15 @@ Status load(const ShotOptions& options, TomoDocument& document) {
   return status;
 }
 
-Status readPositions(const std::string& path, const std::string& separator, bool labelled,
-                     std::vector<Point2D>& positions) {
+Status readPositions(const std::string& path, const std::string& separator,
+                     const WantedPositions& wanted, std::vector<Point2D>& positions) {
   PositionTable table;
-  Status status =
-      labelled ? readLabelledRecords(path, separator, table) : readRecords(path, separator, table);
+  bool byName = false;
+  Status status = readPositions(path, separator, wanted, table, byName);
   if (!status.ok()) return status;
   for (const std::string& remark : describe(table.remarks)) warn(path + ": " + remark);
-  if (cutsNumbers(lookAtGeometryFile(path), separator)) {
+  if (byName) warn(path + ": it was read by the names of its columns");
+  if (!byName && cutsNumbers(lookAtGeometryFile(path), separator)) {
     warn(path + ": numbers were cut at their decimal commas; they need points");
   }
   status = positionsOf(table, positions);
@@ -65,7 +68,10 @@ Status readPositions(const std::string& path, const std::string& separator, bool
 
 Status placeGeophones(const ShotOptions& options, TomoDocument& document) {
   std::vector<Point2D> geophones;
-  Status status = readPositions(options.geophones, options.separator, false, geophones);
+  const std::vector<TraceSet>& traceSets = document.recordings->traceSets;
+  const WantedPositions wanted = {PositionsOf::kGeophones,
+                                  traceSets.empty() ? 0 : traceSets.front().size(), 0};
+  Status status = readPositions(options.geophones, options.separator, wanted, geophones);
   if (!status.ok()) return status;
   for (std::size_t i = 0; i < document.recordings->traceSets.size(); ++i) {
     TraceSet& traces = document.recordings.edit().traceSets[i];
@@ -83,7 +89,8 @@ Status placeGeophones(const ShotOptions& options, TomoDocument& document) {
 
 Status placeShots(const ShotOptions& options, TomoDocument& document) {
   std::vector<Point2D> shots;
-  Status status = readPositions(options.shots, options.separator, true, shots);
+  const WantedPositions wanted = {PositionsOf::kShots, document.recordings->traceSets.size(), 0};
+  Status status = readPositions(options.shots, options.separator, wanted, shots);
   if (!status.ok()) return status;
   if (shots.size() != document.recordings->traceSets.size()) {
     return Status::failure(
@@ -206,17 +213,44 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
 
 }  // namespace
 
+Status layOntoElevations(const ElevationOptions& options, std::ostream& out, Survey& survey) {
+  if (options.table.empty()) return {};
+  std::vector<Point2D> points;
+  Status status = readElevationTable(options.table, points);
+  if (!status.ok()) return status;
+  const ElevationProfile profile(std::move(points), options.smooth
+                                                        ? ElevationProfile::Course::kSmooth
+                                                        : ElevationProfile::Course::kStraight);
+  ElevationOutcome outcome;
+  status = editSurvey(Edit::kGeometry, survey, [&](Survey& next) {
+    SurveyGeometry geometry = geometryOf(next.document);
+    outcome = layOnto(profile, geometry);
+    applyGeometry(geometry, next.document);
+    return Status();
+  });
+  if (!status.ok()) return status;
+  out << "Elevations of " << options.table << ": " << outcome.geophones << " geophones, "
+      << outcome.shots << " shots\n";
+  if (outcome.beyond > 0) {
+    warn(options.table + ": " + std::to_string(outcome.beyond) +
+         " positions lie beyond its ends and got the elevation there");
+  }
+  return {};
+}
+
 Status loadShotFiles(const ShotOptions& options, Survey& survey) {
   TomoDocument& document = survey.document;
   Status status = load(options, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
-  return status.ok() ? levelShots(options, survey) : status;
+  if (!status.ok() || !options.elevations.table.empty()) return status;
+  return levelShots(options, survey);
 }
 
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
   TomoDocument& document = survey.document;
   Status status = loadShotFiles(options, survey);
+  if (status.ok()) status = layOntoElevations(options.elevations, *manner.summary, survey);
   if (!status.ok()) return status;
 
   std::vector<std::int32_t> shots;
@@ -239,14 +273,21 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   return status;
 }
 
-Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
-                  LoadedProject& project) {
+Status readSurvey(const std::string& file, const TravelTimeReading& picks, const ShotOptions& shots,
+                  const PickingManner& manner, LoadedProject& project) {
   if (file.empty()) return pickShotFiles(shots, manner, project);
-  if (isProjectFile(file)) return readProject(file, project);
+  if (isProjectFile(file)) {
+    const Status status = readProject(file, project);
+    return status.ok() ? layOntoElevations(shots.elevations, *manner.summary, project) : status;
+  }
   TravelTimeData data;
-  const Status status = readPicks(file, data);
+  TravelTimeReading reading = picks;
+  reading.byContent = shots.reader == ShotReader::kStandard;
+  Status status = readPicks(file, reading, data);
   if (!status.ok()) return status;
-  return importTravelTimes(std::move(data), project.document);
+  if (const Message lost = lostInSurvey(data); !lost.empty()) warn(file + ": " + lost.english());
+  status = importTravelTimes(std::move(data), project.document);
+  return status.ok() ? layOntoElevations(shots.elevations, *manner.summary, project) : status;
 }
 
 Status checkPicks(const TomoDocument& document, const std::vector<std::string>& files) {
@@ -257,13 +298,15 @@ Status checkPicks(const TomoDocument& document, const std::vector<std::string>& 
 }
 
 std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions& shots) {
-  if (!file.empty()) return {file};
-  return filesOf(shots);
+  if (file.empty()) return filesOf(shots);
+  std::vector<std::string> files = {file};
+  if (!shots.elevations.table.empty()) files.push_back(shots.elevations.table);
+  return files;
 }
 
 std::vector<std::string> filesOf(const ShotOptions& options) {
   std::vector<std::string> files = options.files;
-  for (const std::string& geometry : {options.geophones, options.shots}) {
+  for (const std::string& geometry : {options.geophones, options.shots, options.elevations.table}) {
     if (!geometry.empty()) files.push_back(geometry);
   }
   return files;

@@ -21,22 +21,26 @@ struct PickingManner {
 };
 
 /// Loads shot files into an empty survey and takes positions from geometry files. One file that
-/// cannot be read, or geometry that does not fit the files, fails the whole.
+/// cannot be read, or geometry that does not fit the files, fails the whole. Leaves the table
+/// of elevations to the next function, for which shots at 0 stay there.
 Status loadShotFiles(const ShotOptions& options, Survey& survey);
+
+/// Gives all geophones and shots the elevations of a table; nothing where none was given.
+Status layOntoElevations(const ElevationOptions& options, std::ostream& out, Survey& survey);
 
 /// Counts time from the shot where records begin before it, unless asked not to, and says so.
 Status countFromShot(const ShotOptions& options, std::ostream& out, Survey& survey);
 
-/// Loads shot files into an empty survey, takes positions from geometry files, counts time from
-/// the shot, filters, picks every trace and screens every shot. One file that cannot be read, or
+/// loadShotFiles(), then counts time from the shot, filters, picks every trace and screens every
+/// shot. One file that cannot be read, or
 /// geometry that does not fit the files, fails the whole: a survey with a shot missing would be
 /// another survey.
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey);
 
 /// A survey with picks: that of the project or travel-time file, or without one that of
 /// pickShotFiles(). What only a project holds is left as it was by the others.
-Status readSurvey(const std::string& file, const ShotOptions& shots, const PickingManner& manner,
-                  LoadedProject& project);
+Status readSurvey(const std::string& file, const TravelTimeReading& picks, const ShotOptions& shots,
+                  const PickingManner& manner, LoadedProject& project);
 
 /// Fails when not a single trace has a pick: there is nothing to write or to invert.
 /// \param files that the survey came from

@@ -1,5 +1,7 @@
 #include "io/CsvPickFile.h"
 
+#include "base/TextNumber.h"
+
 #include <string>
 #include <utility>
 
@@ -11,7 +13,8 @@ constexpr std::size_t kLeadingFields = 2;  ///< unused above the distance and el
 
 class CsvPickReader : private PickReader {
  public:
-  explicit CsvPickReader(std::string_view bytes) : PickReader(bytes) {}
+  CsvPickReader(std::string_view bytes, std::size_t lineLimit)
+      : PickReader(bytes), mLineLimit(lineLimit) {}
 
   std::optional<Refusal> read(TravelTimeData& data) {
     const bool whole = readReceivers() && readShots();
@@ -23,7 +26,7 @@ class CsvPickReader : private PickReader {
   bool readLine(std::string_view& line) {
     line = {};
     mText.nextLine(line);
-    return line.size() <= kLineLimit ||
+    return line.size() <= mLineLimit ||
            refuse(Message::tr("the line holds %1 characters, more than the limit of %2; split the "
                               "table into one file per spread")
                       .arg(line.size())
@@ -128,12 +131,34 @@ class CsvPickReader : private PickReader {
     }
     return refuseNumber(what, field, Fault::kNotFinite);
   }
+
+  std::size_t mLineLimit;
 };
 
 }  // namespace
 
 std::optional<Refusal> readCsvPicks(std::string_view bytes, TravelTimeData& data) {
-  return CsvPickReader(bytes).read(data);
+  return CsvPickReader(bytes, kLineLimit).read(data);
+}
+
+std::optional<Refusal> readLongCsvPicks(std::string_view bytes, TravelTimeData& data) {
+  return CsvPickReader(bytes, bytes.size()).read(data);
+}
+
+bool looksLikeLongCsvPicks(std::string_view bytes) {
+  TextCursor text(bytes);
+  std::string_view line;
+  if (!text.nextLine(line)) return false;
+  FieldCursor fields(line, ';');
+  std::string_view field;
+  for (std::size_t i = 0; i <= kLeadingFields; ++i) {
+    if (!fields.next(field)) return false;
+  }
+  double distance = 0.0;
+  if (parseDouble(field, distance) != NumberError::kNone) return false;
+  while (line.size() <= kLineLimit && text.nextLine(line)) {
+  }
+  return line.size() > kLineLimit;
 }
 
 }  // namespace talvesk

@@ -14,4 +14,8 @@ namespace talvesk {
 /// \param data out; untouched when the file is refused
 std::optional<Refusal> readCsvPicks(std::string_view bytes, TravelTimeData& data);
 
+/// The same table with lines of any length, and whether a text is one of longer lines.
+std::optional<Refusal> readLongCsvPicks(std::string_view bytes, TravelTimeData& data);
+bool looksLikeLongCsvPicks(std::string_view bytes);
+
 }  // namespace talvesk

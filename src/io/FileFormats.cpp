@@ -7,6 +7,7 @@
 #include "io/Seg2File.h"
 #include "io/SegyFile.h"
 #include "io/TxCurveFile.h"
+#include "io/UnifiedDataFile.h"
 
 #include <algorithm>
 #include <ostream>
@@ -110,7 +111,10 @@ const std::vector<TravelTimeFormat>& travelTimeFormats() {
        formatOtte},
       {{"txt", {".txt"}, Message::tr("T-x curves (%1)")}, readTxCurves, nullptr},
       {{"xyz", {".xyz", ".XYZ"}, Message::tr("Sectioned pick table (%1)")}, readPickTable, nullptr},
-      {{"csv", {".csv", ".CSV"}, Message::tr("Pick table (%1)")}, readCsvPicks, nullptr}};
+      {{"csv", {".csv", ".CSV"}, Message::tr("Pick table (%1)")}, readCsvPicks, nullptr},
+      {{"sgt", {".sgt"}, Message::tr("Unified data format (%1)")},
+       readUnifiedData,
+       formatUnifiedData}};
   return kFormats;
 }
 
@@ -121,6 +125,11 @@ const FileFormat& projectFormat() {
 
 const TravelTimeFormat& exchangeFormat() {
   return travelTimeFormats().front();
+}
+
+const TravelTimeFormat& writtenFormatOf(std::string_view path) {
+  const TravelTimeFormat* format = formatWith(travelTimeFormats(), inLowerCase(suffixOf(path)));
+  return format != nullptr && format->write != nullptr ? *format : exchangeFormat();
 }
 
 const ShotFormat* shotFormatOf(std::string_view path) {
@@ -155,6 +164,15 @@ std::vector<Message> travelTimeFileFilters() {
   return filtersOfAll(Message::tr("Travel times (%1)"), travelTimeFormats());
 }
 
+std::vector<Message> writtenTravelTimeFilters() {
+  std::vector<Message> lines;
+  for (const TravelTimeFormat& format : travelTimeFormats()) {
+    if (format.write != nullptr) lines.push_back(filterLine(format.filter, format.suffixes));
+  }
+  lines.push_back(Message::tr("All Files (*)"));
+  return lines;
+}
+
 std::vector<Message> filtersOf(const FileFormat& format) {
   return {filterLine(format.filter, format.suffixes), Message::tr("All Files (*)")};
 }
@@ -165,6 +183,15 @@ std::string shotSuffixes() {
 
 std::string travelTimeSuffixes() {
   return sentenceOf(travelTimeFormats());
+}
+
+std::vector<std::string> writtenTravelTimeSuffixes() {
+  std::vector<std::string> suffixes;
+  for (const TravelTimeFormat& format : travelTimeFormats()) {
+    if (format.write == nullptr) continue;
+    suffixes.insert(suffixes.end(), format.suffixes.begin(), format.suffixes.end());
+  }
+  return suffixes;
 }
 
 }  // namespace talvesk

@@ -11,7 +11,6 @@
 
 namespace talvesk {
 
-class TomoDocument;
 struct SegyState;
 struct ShotFileData;
 
@@ -37,15 +36,18 @@ struct ShotFormat : FileFormat {
 /// A format of picks. Its suffixes are compared exactly.
 struct TravelTimeFormat : FileFormat {
   std::optional<Refusal> (*read)(std::string_view bytes, TravelTimeData& data);
-  /// The text of a file; null where the format is read only.
-  std::string (*write)(const TomoDocument& document);
+  /// The text of a file; null where the format is read only. Positions must be finite.
+  std::string (*write)(const TravelTimeData& data);
 };
 
 const std::vector<ShotFormat>& shotFormats();
 const std::vector<TravelTimeFormat>& travelTimeFormats();
 
 const FileFormat& projectFormat();
-const TravelTimeFormat& exchangeFormat();  ///< the one that travel times are written in
+const TravelTimeFormat& exchangeFormat();  ///< the first that travel times are written in
+/// The format that picks are written in to a file of that name: the exchange format unless its
+/// suffix, in either case, is that of another one that is written.
+const TravelTimeFormat& writtenFormatOf(std::string_view path);
 
 /// The format of a file by the suffix of its path; null when it has none of the table.
 const ShotFormat* shotFormatOf(std::string_view path);
@@ -63,11 +65,15 @@ bool looksLikeTravelTimes(std::string_view path);
 /// stands there first, then one by one, then all files.
 std::vector<Message> shotFileFilters();
 std::vector<Message> travelTimeFileFilters();
+/// The lines of a dialog that writes picks: each format that is written, then all files.
+std::vector<Message> writtenTravelTimeFilters();
 /// The lines of a dialog for files of one format: those, then all files.
 std::vector<Message> filtersOf(const FileFormat& format);
 
-/// Suffixes for a sentence, each once whatever its case: ".otte, .txt, .xyz, .csv".
+/// Suffixes for a sentence, each once whatever its case: ".otte, .txt, .xyz, .csv, .sgt".
 std::string shotSuffixes();
 std::string travelTimeSuffixes();
+/// Of the formats that picks are written in, each with its dot.
+std::vector<std::string> writtenTravelTimeSuffixes();
 
 }  // namespace talvesk

@@ -1,8 +1,5 @@
 #include "io/OtteFile.h"
 
-#include "model/SurveyLine.h"
-#include "model/TomoDocument.h"
-
 #include <algorithm>
 #include <cmath>
 #include <locale>
@@ -244,23 +241,21 @@ std::optional<Refusal> readOtte(std::string_view bytes, std::string& version,
   return OtteReader(bytes).read(version, data);
 }
 
-std::string formatOtte(const TomoDocument& document) {
+std::string formatOtte(const TravelTimeData& data) {
   std::ostringstream out;
   out.imbue(std::locale::classic());
   std::vector<Point2D> geophones;
-  for (const auto& string : document.line->goephonesStringSet) {
+  for (const auto& string : data.strings) {
     geophones.insert(geophones.end(), string.begin(), string.end());
   }
-  out << "otte\n1.0\n"
-      << kFormatConstant << '\n'
-      << document.line->goephonesStringSet.size() << '\n';
+  out << "otte\n1.0\n" << kFormatConstant << '\n' << data.strings.size() << '\n';
   printRow(out, geophones, &Point2D::x);
   printRow(out, geophones, &Point2D::z);
   std::vector<Point2D> shots;
-  for (const TravelTime& record : document.ttArray) shots.push_back(record.shotPos2d);
+  for (const TravelTime& record : data.records) shots.push_back(record.shotPos2d);
   printRow(out, shots, &Point2D::x);
   printRow(out, shots, &Point2D::z);
-  for (const TravelTime& record : document.ttArray) {
+  for (const TravelTime& record : data.records) {
     out << record.indexStesa << '\n' << record.traceSetID << '\n';
     for (const double seconds : record.ttMisurati) {
       const double time = seconds * kMillisecondsPerSecond;
@@ -269,6 +264,10 @@ std::string formatOtte(const TomoDocument& document) {
     out << '\n';
   }
   return out.str();
+}
+
+std::string formatOtte(const TomoDocument& document) {
+  return formatOtte(travelTimesOf(document));
 }
 
 }  // namespace talvesk

@@ -23,8 +23,9 @@ class TomoDocument;
 /// \param data out; untouched when the file is refused
 std::optional<Refusal> readOtte(std::string_view bytes, std::string& version, TravelTimeData& data);
 
-/// The document in the travel-time exchange format. A measured time that is not finite is no pick
-/// and stands as kNoTime. Positions must be finite.
-std::string formatOtte(const TomoDocument& document);
+/// Picks in the travel-time exchange format. A measured time that is not finite is no pick and
+/// stands as kNoTime. Positions must be finite.
+std::string formatOtte(const TravelTimeData& data);
+std::string formatOtte(const TomoDocument& document);  ///< the same of a survey
 
 }  // namespace talvesk

@@ -166,6 +166,11 @@ void fitToRecords(TravelTimeData& data, const TomoDocument& document) {
   }
 }
 
+Message lostInSurvey(const TravelTimeData& data) {
+  if (data.errors.empty()) return {};
+  return Message::tr("the file tells errors of its picks, which the survey does not keep");
+}
+
 Status checkImport(TravelTimeData& data, const TomoDocument& document, ImportCost& cost) {
   Plan plan;
   Status status = makePlan(data, document, plan);

@@ -25,7 +25,7 @@ std::vector<std::string> arguments(const std::vector<std::string>& files,
 std::vector<std::string> shotsWithDeadTraces(const Folder& folder) {
   std::vector<std::string> files;
   for (const double x : {-1.0, 11.0, 25.0}) {
-    Seg2Record record = smallShot(x);
+    WrittenShot record = smallShot(x);
     if (x == 11.0) {
       for (const std::size_t trace : {2, 9}) {
         std::fill(record.traces[trace].begin(), record.traces[trace].end(), 0.0F);

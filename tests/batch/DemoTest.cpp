@@ -169,7 +169,7 @@ TEST(DemoFolder, isMadeWithTheSameBytesEveryTime) {
   const TomoDocument document = demoLine();
   ASSERT_TRUE(writeTravelTimes(again, document).ok());
   EXPECT_EQ(contentsOf(demo + "/demo.otte"), contentsOf(again));
-  const std::vector<Seg2Record> records = demoShots(document);
+  const std::vector<WrittenShot> records = demoShots(document);
   const std::vector<std::string> shots = shotsIn(demo);
   ASSERT_EQ(records.size(), shots.size());
   for (std::size_t i = 0; i < records.size(); ++i) {

@@ -11,7 +11,8 @@
 namespace talvesk::batchtest {
 namespace {
 
-const char* const kCommands[] = {"info", "pick", "invert", "refract", "export", "convert", "demo"};
+const char* const kCommands[] = {"info",   "pick",    "invert",  "refract",
+                                 "export", "convert", "records", "demo"};
 
 std::set<std::string> longOptions(const std::string& help) {
   std::set<std::string> options;

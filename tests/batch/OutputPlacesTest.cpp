@@ -134,7 +134,7 @@ TEST(Losses, areToldWhateverQuietSays) {
   EXPECT_THAT(zero.err, HasSubstr("g.csv: 1 field that is no number was taken as 0: line 6 \"?\""));
   EXPECT_THAT(zero.err, Not(HasSubstr("uncomplete")));
 
-  Seg2Record early = smallShot(0.5);
+  WrittenShot early = smallShot(0.5);
   early.delay = -1.0;  // longer than the record
   early.source.z = 0.0;
   const std::string odd = folder.write("bell\a.sg2", formatSeg2(early));

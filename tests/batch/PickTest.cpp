@@ -140,7 +140,7 @@ TEST_F(Picking, geometryFilesReplaceThePositionsOfTheHeaders) {
 }
 
 TEST_F(Picking, shotsWithoutElevationsComeOntoTheLineOfTheGeophones) {
-  Seg2Record record = smallShot(0.5);
+  WrittenShot record = smallShot(0.5);
   record.source.z = 0.0;
   mFiles = {mFolder.write("flat.sg2", formatSeg2(record))};
   const std::string places = geophones(13, 3.0, ";");
@@ -251,8 +251,8 @@ TEST_F(Picking, leavesEveryPickOfAProjectUnconfirmed) {
 }
 
 TEST_F(Picking, receiversAtTooFewPlacesAreWarnedOf) {
-  Seg2Record heap = smallShot(0.5);
-  Seg2Record two = heap;
+  WrittenShot heap = smallShot(0.5);
+  WrittenShot two = heap;
   for (std::size_t i = 0; i < heap.receivers.size(); ++i) {
     heap.receivers[i] = {0.0, 0.0};
     two.receivers[i] = {i < 6 ? 0.0 : 24.0, 0.0};
@@ -270,7 +270,7 @@ TEST_F(Picking, receiversAtTooFewPlacesAreWarnedOf) {
 }
 
 TEST_F(Picking, notASinglePickIsAFailureWithoutResult) {
-  Seg2Record heap = smallShot(0.5);
+  WrittenShot heap = smallShot(0.5);
   for (Point2D& receiver : heap.receivers) receiver = {0.0, 0.0};
   const std::string file = mFolder.write("heap.sg2", formatSeg2(heap));
   const std::size_t files = mFolder.fileCount();

@@ -16,7 +16,7 @@ using ::testing::Not;
 std::string twoShots() {
   std::vector<talvesk::testing::Seg2Channel> channels;
   for (const double source : {0.5, 12.5}) {
-    const Seg2Record shot = smallShot(source);
+    const WrittenShot shot = smallShot(source);
     for (std::size_t i = 0; i < shot.traces.size(); ++i) {
       const auto place = [](const Point2D& point) {
         return std::to_string(point.x) + " 0 " + std::to_string(point.z);

@@ -108,7 +108,7 @@ TEST(ShotInfo, truncatedFilesGiveZerosAndAWarning) {
 
 TEST(ShotInfo, forReadersSaysWhatIsCommonAndWhatDiffers) {
   const Folder folder;
-  Seg2Record record = smallShot(0.5);
+  WrittenShot record = smallShot(0.5);
   record.traces[5].resize(100);
   const Outcome outcome = runBatch({"info", folder.write("a.sg2", formatSeg2(record))});
   EXPECT_EQ(outcome.code, 0);

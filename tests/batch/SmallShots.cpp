@@ -56,8 +56,8 @@ std::string bigEndianTrace(const std::vector<float>& samples) {
 
 }  // namespace
 
-Seg2Record smallShot(double x) {
-  Seg2Record record;
+WrittenShot smallShot(double x) {
+  WrittenShot record;
   record.source = {x, 10.0 + 0.05 * x};
   record.sampleInterval = kSmallInterval;
   record.delay = -static_cast<double>(kSmallLead) * kSmallInterval;

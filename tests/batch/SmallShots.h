@@ -1,7 +1,7 @@
 #pragma once
 
 #include "batch/BatchRunner.h"
-#include "batch/Seg2Writer.h"
+#include "io/Seg2Writer.h"
 
 #include <string>
 #include <vector>
@@ -13,7 +13,7 @@ inline constexpr std::size_t kSmallLead = 80;      // samples before the shot
 
 /// The record of a shot at `x` on 13 geophones every 2 m over 600 m/s above 1800 m/s: a sharp swing
 /// on faint noise. Starts 20 ms before the shot.
-Seg2Record smallShot(double x);
+WrittenShot smallShot(double x);
 
 /// Three of them as files in the folder.
 std::vector<std::string> writeSmallShots(const Folder& folder);

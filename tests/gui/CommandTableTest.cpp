@@ -288,6 +288,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
        {"actionSave_Project",
         "actionSave_Project_As",
         "actionExport_TravelTimes",
+        "actionExport_recordings",
         "actionExportSeismic_line",
         "actionImages",
         "actionPDF",
@@ -340,11 +341,16 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
 
 /// What these need is not on the way to a section: a filtered copy, a layered profile, a view that
 /// was zoomed, a step that was undone, picks that were made.
-const std::set<std::string> kBesideTheWay = {"show_filtered_cb",     "actionShow_refraction",
-                                             "actionZoom_back",      "actionZoom_forward",
-                                             "actionRedo",           "actionConfirm_picks",
-                                             "actionRemove_picks",   "actionRemove_unconfirmed",
-                                             "actionCount_from_shot", "actionTake_back_mends"};
+const std::set<std::string> kBesideTheWay = {"show_filtered_cb",
+                                             "actionShow_refraction",
+                                             "actionZoom_back",
+                                             "actionZoom_forward",
+                                             "actionRedo",
+                                             "actionConfirm_picks",
+                                             "actionRemove_picks",
+                                             "actionRemove_unconfirmed",
+                                             "actionCount_from_shot",
+                                             "actionTake_back_mends"};
 
 class GrowingSurvey : public Commands {
  protected:

@@ -38,9 +38,12 @@ TEST(FileFormats, listAllFormatsFirstInDialogsThenEach) {
             "Seismic files (*.sg2 *.dat *.seg2 *.sgy *.segy *.su);;SEG2 format (*.sg2 *.dat "
             "*.seg2);;SEGY format (*.sgy *.segy);;SU format (*.su);;All Files (*)");
   EXPECT_EQ(joinedLines(travelTimeFileFilters()),
-            "Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV);;Open Travel Time Exchange "
+            "Travel times (*.otte *.txt *.xyz *.XYZ *.csv *.CSV *.sgt);;Open Travel Time Exchange "
             "format (*.otte);;T-x curves (*.txt);;Sectioned pick table (*.xyz *.XYZ);;Pick table "
-            "(*.csv *.CSV);;All Files (*)");
+            "(*.csv *.CSV);;Unified data format (*.sgt);;All Files (*)");
+  EXPECT_EQ(
+      joinedLines(writtenTravelTimeFilters()),
+      "Open Travel Time Exchange format (*.otte);;Unified data format (*.sgt);;All Files (*)");
   EXPECT_EQ(joinedLines(filtersOf(exchangeFormat())),
             "Open Travel Time Exchange format (*.otte);;All Files (*)");
   EXPECT_EQ(joinedLines(filtersOf(projectFormat())), "Talvesk projects (*.tvsk);;All Files (*)");
@@ -48,7 +51,7 @@ TEST(FileFormats, listAllFormatsFirstInDialogsThenEach) {
 
 TEST(FileFormats, listEverySuffixOnceInSentences) {
   EXPECT_EQ(shotSuffixes(), ".sg2, .dat, .seg2, .sgy, .segy, .su");
-  EXPECT_EQ(travelTimeSuffixes(), ".otte, .txt, .xyz, .csv");
+  EXPECT_EQ(travelTimeSuffixes(), ".otte, .txt, .xyz, .csv, .sgt");
 }
 
 TEST(FileFormats, haveNoSuffixInCommon) {
@@ -65,6 +68,10 @@ TEST(FileFormats, tellWhatAFileIsMeantToBeByItsName) {
   EXPECT_TRUE(looksLikeTravelTimes("a.OTTE"));  // for the reader to refuse with its reason
   EXPECT_EQ(travelTimeFormatOf("a.OTTE"), nullptr);
   EXPECT_FALSE(looksLikeTravelTimes("folder.otte/a"));
+  EXPECT_STREQ(writtenFormatOf("line.SGT").id, "sgt");
+  for (const char* path : {"line.otte", "line.csv", "line", "a.sgt/line"}) {
+    EXPECT_STREQ(writtenFormatOf(path).id, "otte") << path;
+  }
   EXPECT_TRUE(hasSuffixOf(projectFormat(), "line.TVSK"));
   EXPECT_FALSE(hasSuffixOf(projectFormat(), ".tvsk"));
   EXPECT_FALSE(hasSuffixOf(projectFormat(), "tvsk"));

@@ -1,4 +1,5 @@
 #include "Samples.h"
+#include "io/CsvPickFile.h"
 #include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 #include "support/CommaLocale.h"
@@ -193,8 +194,6 @@ const std::vector<Refused> kRefused = {
      "stod argument out of range\n"},
     {"a.csv", replaced(kCsv, "20;0", "20;0;1"), "line 4: there are 4 times for 3 receivers"},
     {"a.csv", kCsv + "5\n", "line 5: the shot has no elevation"},
-    {"a.csv", replaced(kCsv, "12.5;102.5", "12.5;" + std::string(250, '1')),
-     "line 4: the line holds 263 characters, more than the limit of 256"},
 };
 
 TEST(Readers, nameFileLineAndFaultOfWhatTheyRefuse) {
@@ -257,10 +256,28 @@ TEST(OtteReader, printsTheVersionWordEvenWhenItRefusesTheRest) {
 TEST(CsvReader, takesLinesOfTheFullLengthAndNotOneMore) {
   const std::string longLine = "12.5;102.5;" + std::string(238, '0') + ";20;30";
   const std::string text = ";;0;5;10\r\n;;1;1;1\r\n" + longLine;
-  const ConsoleCapture console;
   TravelTimeData data;
-  EXPECT_TRUE(parseTravelTimes(text + ";\r\n", "a.csv", data).ok());
-  EXPECT_FALSE(parseTravelTimes(text + "0;\r\n", "a.csv", data).ok());
+  EXPECT_FALSE(readCsvPicks(text + ";\r\n", data));
+  const auto refusal = readCsvPicks(text + "0;\r\n", data);
+  ASSERT_TRUE(refusal);
+  EXPECT_EQ(refusal->line, 3u);
+  EXPECT_THAT(refusal->reason.english(), HasSubstr("holds 257 characters, more than the limit"));
+}
+
+TEST(ReadTravelTimes, takesPickTablesOfLongerLinesThanTheirReaderAndSaysSo) {
+  const std::string wide = replaced(kCsv, "12.5;102.5", "12.5;102.5" + std::string(250, '0'));
+  for (const char* path : {"a.csv", "a.txt", "a.tab"}) {
+    TravelTimeData data;
+    ASSERT_TRUE(parseTravelTimes(wide, path, data).ok()) << path;
+    expectTheSurvey(data);
+  }
+  TravelTimeData data;
+  ASSERT_TRUE(parseTravelTimes(wide, "a.csv", data).ok());
+  EXPECT_THAT(data.warnings, ElementsAre(HasSubstr("it was read as a pick table of long lines")));
+  // With a fault of its own both reasons are told, that of the suffix first.
+  const Status status = parseTravelTimes(replaced(wide, "30;20", "30;x"), "a.csv", data);
+  EXPECT_THAT(status.message(), HasSubstr("a.csv, line 4: the line holds 267 characters"));
+  EXPECT_THAT(status.message(), HasSubstr("line 4: invalid stod argument"));
 }
 
 TEST(TxCurveReader, takesAMissingShotElevationFromTheReceivers) {

@@ -107,6 +107,13 @@ void DialogSetGeometry::connectCommands() {
   auto* copies = new QMenu(this);
   mUi->copyStringButton->setMenu(copies);
   connect(copies, &QMenu::aboutToShow, this, &Self::fillCopyMenu);
+  using Course = ElevationProfile::Course;
+  auto* elevations = new QMenu(this);
+  mUi->elevationsButton->setMenu(elevations);
+  elevations->addAction(tr("&Straight from point to point ..."), this,
+                        [this] { loadElevations(Course::kStraight); });
+  elevations->addAction(tr("Along a s&mooth curve ..."), this,
+                        [this] { loadElevations(Course::kSmooth); });
   connect(mUi->stringCBox, QOverload<int>::of(&QComboBox::activated), mSession,
           &GeometrySession::setCurrentString);
   for (QLineEdit* edit : {mUi->firstEdit, mUi->spacingEdit}) {

@@ -2,6 +2,7 @@
 
 #include "base/Point2D.h"
 #include "base/Status.h"
+#include "model/ElevationProfile.h"
 #include "model/SurveyGeometry.h"
 
 #include <QDialog>
@@ -22,6 +23,7 @@ class ShotTable;
 struct GeometryMistake;
 struct PositionTable;
 struct SegyState;
+struct WantedPositions;
 
 /// Edits where the geophones and shots of a survey stand, and which recordings S-wave shots are
 /// made of, with a plan of the line that follows. It changes a copy: after OK, geometry() is what
@@ -73,11 +75,9 @@ class DialogSetGeometry : public QDialog {
 
   // Files
   struct PositionsFile;
-  using RecordReader = Status (*)(const std::string& path, const std::string& separator,
-                                  PositionTable& table);
   QString askForFile(bool save, const QString& filter);
   static QString takePositions(std::size_t count, const Status& read, PositionsFile& file);
-  bool askForPositions(std::size_t count, RecordReader read, const QString& invalid,
+  bool askForPositions(const WantedPositions& wanted, const QString& invalid,
                        PositionsFile& chosen);
   void tellLoaded(const QString& text, const PositionsFile& file);
   bool tellsOfGaps(bool shots);
@@ -85,6 +85,7 @@ class DialogSetGeometry : public QDialog {
   void loadGeophones();
   void saveShots();
   void loadShots();
+  void loadElevations(ElevationProfile::Course course);
   bool takesPairs() const;
   QStringList askForRecordings(const QString& title, bool several);
   void choosePairOfShot();

@@ -9,8 +9,9 @@
 #include "app/dialogs/GeometryTexts.h"
 #include "app/dialogs/SelectCSVDelimiterDialog.h"
 #include "base/Console.h"
+#include "io/ElevationTable.h"
 #include "io/FileFormats.h"
-#include "io/GeometryFile.h"
+#include "io/NamedPositions.h"
 #include "io/SWavePairFile.h"
 #include "model/GeometryCheck.h"
 #include "model/Recordings.h"
@@ -33,7 +34,8 @@ struct DialogSetGeometry::PositionsFile {
   QString name;
   PositionTable table;
   std::vector<Point2D> positions;
-  bool cut = false;  ///< numbers ended at their decimal commas
+  bool cut = false;     ///< numbers ended at their decimal commas
+  bool byName = false;  ///< its columns were told apart by their names
 };
 
 /// The positions of a file that has exactly one for each of `count` places; else why it has not.
@@ -89,6 +91,7 @@ void DialogSetGeometry::tellLoaded(const QString& text, const PositionsFile& fil
   if (file.cut) {
     sentences << tr("Its numbers were cut at their decimal commas: they need points.");
   }
+  if (file.byName) sentences << tr("It was read by the names of its columns.");
   if (file.table.remarks.skippedHeading) sentences << headingText(file.table.remarks);
   const QString rest = sentences.join(QLatin1Char(' '));
   notice(rest.isEmpty() ? text : text + QStringLiteral(". ") + rest, file.cut);
@@ -110,19 +113,20 @@ void DialogSetGeometry::saveGeophones() {
   notice(tr("Geophones saved in %1").arg(QFileInfo(file).fileName()));
 }
 
-/// Asks for a file with one position for each of `count` places. False when the user gave up or the
+/// Asks for a file with one position for each place. False when the user gave up or the
 /// file has others, which he is told.
-bool DialogSetGeometry::askForPositions(std::size_t count, RecordReader read,
-                                        const QString& invalid, PositionsFile& chosen) {
+bool DialogSetGeometry::askForPositions(const WantedPositions& wanted, const QString& invalid,
+                                        PositionsFile& chosen) {
   const QString file = askForFile(false, tr("CSV format (*.csv)"));
   if (file.isEmpty()) return false;
   const GeometryFileLook look = lookAtGeometryFile(file.toStdString());
   const auto separator = SelectCSVDelimiterDialog::ask(this, look.separator);
   if (!separator) return false;
   chosen.name = QFileInfo(file).fileName();
-  chosen.cut = cutsNumbers(look, *separator);
-  const Status status = read(file.toStdString(), *separator, chosen.table);
-  const QString why = takePositions(count, status, chosen);
+  const Status status =
+      readPositions(file.toStdString(), *separator, wanted, chosen.table, chosen.byName);
+  chosen.cut = !chosen.byName && cutsNumbers(look, *separator);
+  const QString why = takePositions(wanted.count, status, chosen);
   if (why.isEmpty()) return true;
   notice(why, true);
   showError(this, windowTitle(), tr("Error Message"),
@@ -132,10 +136,9 @@ bool DialogSetGeometry::askForPositions(std::size_t count, RecordReader read,
 
 void DialogSetGeometry::loadGeophones() {
   PositionsFile file;
-  if (!askForPositions(mSession->string().size(), readRecords, tr("Invalid geometry file. "),
-                       file)) {
-    return;
-  }
+  const WantedPositions wanted = {PositionsOf::kGeophones, mSession->string().size(),
+                                  static_cast<std::size_t>(mSession->currentString())};
+  if (!askForPositions(wanted, tr("Invalid geometry file. "), file)) return;
   mSession->edit([&](SurveyGeometry& next) {
     GeophoneString& string = next.strings[static_cast<std::size_t>(mSession->currentString())];
     for (std::size_t i = 0; i < file.positions.size(); ++i) {
@@ -167,10 +170,8 @@ void DialogSetGeometry::saveShots() {
 
 void DialogSetGeometry::loadShots() {
   PositionsFile file;
-  if (!askForPositions(geometry().shots.size(), readLabelledRecords, tr("Invalid shot file. "),
-                       file)) {
-    return;
-  }
+  const WantedPositions wanted = {PositionsOf::kShots, geometry().shots.size(), 0};
+  if (!askForPositions(wanted, tr("Invalid shot file. "), file)) return;
   console::out() << "LOADED\nTo be updated: " << file.positions.size() << '\n';
   mSession->edit([&](SurveyGeometry& next) {
     for (std::size_t i = 0; i < file.positions.size(); ++i) {
@@ -180,6 +181,35 @@ void DialogSetGeometry::loadShots() {
   });
   console::out().flush();
   tellLoaded(tr("Shots loaded from %1").arg(file.name), file);
+}
+
+void DialogSetGeometry::loadElevations(ElevationProfile::Course course) {
+  const QString file = QFileDialog::getOpenFileName(
+      this, tr("Open Elevations"), mFolders.toOpen(),
+      tr("Tables of distances and elevations (*.csv *.txt *.dat *.xyz *.tsv);;All Files (*)"));
+  if (file.isEmpty()) return;
+  mFolders.opened(file);
+  std::vector<Point2D> points;
+  const Status status =
+      whileWaiting([&] { return readElevationTable(file.toStdString(), points); });
+  if (!status.ok()) {
+    showError(this, windowTitle(), tr("The elevations have not been taken."),
+              textOf(status.text()));
+    return;
+  }
+  const ElevationProfile profile(std::move(points), course);
+  ElevationOutcome outcome;
+  mSession->edit([&](SurveyGeometry& next) { outcome = layOnto(profile, next); });
+  QString text = tr("%n elevation(s) taken from the table.", nullptr,
+                    static_cast<int>(outcome.geophones + outcome.shots));
+  if (outcome.beyond > 0) {
+    text += QLatin1Char(' ') + tr("%n position(s) lie beyond its ends, %1 to %2 m, and got the "
+                                  "elevation there.",
+                                  nullptr, static_cast<int>(outcome.beyond))
+                                   .arg(profile.firstX())
+                                   .arg(profile.lastX());
+  }
+  notice(text, outcome.beyond > 0);
 }
 
 /// Picks without traces stay what they are: every record of a survey has traces, or none has.

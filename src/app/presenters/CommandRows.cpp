@@ -53,6 +53,8 @@ Rows fileRows(Desk& desk, Presenters& p) {
 
       {"actionExport_TravelTimes", &State::records,
        call(p.travelTimes, &TravelTimesPresenter::exportTimes)},
+      {"actionExport_recordings", &State::traces,
+       call(p.records, &RecordExportPresenter::exportRecordings)},
       {"actionExport_tomographic_data", &State::grid,
        call(p.exports, &ExportPresenter::exportSection)},
       {"actionGridded_Data", &State::grid, call(p.exports, &ExportPresenter::exportGriddedText)},

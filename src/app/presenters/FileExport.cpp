@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace talvesk {
 namespace {
@@ -22,6 +23,12 @@ QString fileNameOf(const QString& title) {
     name += plain ? letter : QLatin1Char('_');
   }
   return name.replace(QLatin1Char(' '), QLatin1Char('_')).left(60);
+}
+
+/// The suffix of a line of a file dialog that names one only: "sgt" of "... (*.sgt)".
+QString suffixOfFilter(const QString& filter) {
+  static const QRegularExpression kOnlySuffix(QStringLiteral("\\(\\*\\.(\\w+)\\)$"));
+  return kOnlySuffix.match(filter).captured(1);
 }
 
 }  // namespace
@@ -47,6 +54,10 @@ QString askForExport(Desk& desk, const QString& title, const QString& filter, co
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(QLatin1String(suffix));
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& chosen) {
+    const QString own = suffixOfFilter(chosen);
+    dialog.setDefaultSuffix(own.isEmpty() ? QString::fromLatin1(suffix) : own);
+  });
   proposeName(dialog, desk, suffix);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   desk.folders.saved(dialog.selectedFiles().front());

@@ -21,6 +21,7 @@ Presenters::Presenters(Desk& desk)
       processing(desk),
       refraction(desk),
       exports(desk),
+      records(desk),
       reports(desk),
       help(desk) {
   settings.changed = [this] { traceOptions.refresh(); };

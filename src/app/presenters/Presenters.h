@@ -10,6 +10,7 @@
 #include "app/presenters/PalettePresenter.h"
 #include "app/presenters/ProcessingPresenter.h"
 #include "app/presenters/ProjectPresenter.h"
+#include "app/presenters/RecordExportPresenter.h"
 #include "app/presenters/RecoveryPresenter.h"
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
@@ -49,6 +50,7 @@ struct Presenters {
   ProcessingPresenter processing;
   RefractionPresenter refraction;
   ExportPresenter exports;
+  RecordExportPresenter records;
   ReportPresenter reports;
   HelpPresenter help;
 

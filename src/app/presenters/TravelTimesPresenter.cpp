@@ -15,6 +15,8 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
+#include <utility>
 
 namespace talvesk {
 
@@ -30,13 +32,19 @@ void TravelTimesPresenter::import() {
 void TravelTimesPresenter::importFile(const QString& file) {
   TravelTimeData times;
   ImportCost cost;
+  TravelTimeReading reading;
+  if (asksForTimeUnit(file.toStdString())) {
+    reading.timeUnit = askForTimeUnit(file);
+    if (!reading.timeUnit) return;
+  }
   Status status = whileWaiting([&] {
-    Status read = readTravelTimes(file.toStdString(), times);
+    Status read = readTravelTimes(file.toStdString(), times, reading);
     if (!read.ok()) return read;
     fitToRecords(times, mDesk.document());
     return checkImport(times, mDesk.document(), cost);
   });
-  const std::vector<Message> warnings = times.warnings;
+  std::vector<Message> warnings = times.warnings;
+  if (Message lost = lostInSurvey(times); !lost.empty()) warnings.push_back(std::move(lost));
   if (status.ok()) {
     // An import replaces the picks at least.
     if (hasPicks(mDesk.document()) && !mProjects.mayLoseChanges()) return;
@@ -72,15 +80,33 @@ void TravelTimesPresenter::importFile(const QString& file) {
   }
 }
 
+std::optional<TimeUnit> TravelTimesPresenter::askForTimeUnit(const QString& file) {
+  const QStringList units = {tr("milliseconds"), tr("seconds")};
+  bool answered = false;
+  const QString unit = QInputDialog::getItem(
+      &mDesk.window, tr("Import TravelTimes"),
+      tr("%1 does not say in which unit its times are.").arg(QFileInfo(file).fileName()), units, 0,
+      false, &answered);
+  if (!answered) return std::nullopt;
+  return unit == units.front() ? TimeUnit::kMilliseconds : TimeUnit::kSeconds;
+}
+
 void TravelTimesPresenter::exportTimes() {
   const QString file = askForExport(mDesk, tr("Save TravelTimeExchange"),
-                                    dialogFilter(filtersOf(exchangeFormat())), "otte");
+                                    dialogFilter(writtenTravelTimeFilters()), "otte");
   if (file.isEmpty()) return;
-  if (const Status status = writeTravelTimes(file.toStdString(), mDesk.document()); !status.ok()) {
+  std::vector<Message> losses;
+  const Status status =
+      writeTravelTimes(file.toStdString(), travelTimesOf(mDesk.document()), losses);
+  if (!status.ok()) {
     mDesk.tellFailure(tr("The travel times have not been saved."), status);
     return;
   }
   mDesk.tell(tr("Travel times saved in %1").arg(file));
+  if (losses.empty()) return;
+  showNote(&mDesk.window, tr("Warning"),
+           tr("%1 does not hold all of the survey.").arg(QFileInfo(file).fileName()),
+           shortList(linesOf(losses)));
 }
 
 }  // namespace talvesk

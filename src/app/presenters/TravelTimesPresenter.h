@@ -1,8 +1,10 @@
 #pragma once
 
 #include "app/presenters/Desk.h"
+#include "io/HeadedPicks.h"
 
 #include <QObject>
+#include <optional>
 
 namespace talvesk {
 
@@ -20,6 +22,9 @@ class TravelTimesPresenter : public QObject {
   void exportTimes();  ///< asks for the file
 
  private:
+  /// None when the user gave up.
+  std::optional<TimeUnit> askForTimeUnit(const QString& file);
+
   Desk& mDesk;
   ProjectPresenter& mProjects;
 };

@@ -1,4 +1,4 @@
-#include "batch/Seg2Writer.h"
+#include "io/Seg2Writer.h"
 
 #include "base/TextNumber.h"
 
@@ -37,27 +37,38 @@ void endTexts(std::string& bytes) {
   bytes.resize((bytes.size() + 3) / 4 * 4);
 }
 
+/// The text of a value, or a longer one where that is not the value any more.
+std::string broughtBack(std::string text, double value) {
+  double read = 0.0;
+  const bool same = parseWholeDouble(text, read) == NumberError::kNone && read == value;
+  return same ? text : exactDouble(value);
+}
+
 /// Decimals only: not every reader knows an exponent.
 std::string seconds(double value) {
   constexpr int kDecimals = 7;
   std::array<char, 64> text{};
   const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
                                  std::chars_format::fixed, kDecimals);
-  return {text.data(), end.ptr};
+  return broughtBack({text.data(), end.ptr}, value);
+}
+
+std::string metres(double value) {
+  return broughtBack(formatDouble(value, 8), value);
 }
 
 std::string location(const Point2D& point) {
-  return formatDouble(point.x, 8) + " 0 " + formatDouble(point.z, 8);
+  return metres(point.x) + " 0 " + metres(point.z);
 }
 
-std::string traceBlock(const Seg2Record& record, std::size_t trace) {
-  const std::vector<float>& samples = record.traces[trace];
+std::string traceBlock(const WrittenShot& shot, std::size_t trace) {
+  const std::vector<float>& samples = shot.traces[trace];
   std::string bytes(kDescriptorSize, '\0');
   appendText(bytes, "CHANNEL_NUMBER " + std::to_string(trace + 1));
-  appendText(bytes, "DELAY " + seconds(record.delay));
-  appendText(bytes, "RECEIVER_LOCATION " + location(record.receivers[trace]));
-  appendText(bytes, "SAMPLE_INTERVAL " + seconds(record.sampleInterval));
-  appendText(bytes, "SOURCE_LOCATION " + location(record.source));
+  appendText(bytes, "DELAY " + seconds(shot.delay));
+  appendText(bytes, "RECEIVER_LOCATION " + location(shot.receivers[trace]));
+  appendText(bytes, "SAMPLE_INTERVAL " + seconds(shot.sampleInterval));
+  appendText(bytes, "SOURCE_LOCATION " + location(shot.source));
   endTexts(bytes);
   put(bytes, 0, 0x4422, 2);
   put(bytes, 2, static_cast<std::uint32_t>(bytes.size()), 2);
@@ -74,8 +85,8 @@ std::string traceBlock(const Seg2Record& record, std::size_t trace) {
 
 }  // namespace
 
-std::string formatSeg2(const Seg2Record& record) {
-  const std::size_t count = record.traces.size();
+std::string formatSeg2(const WrittenShot& shot) {
+  const std::size_t count = shot.traces.size();
   std::string head(kDescriptorSize + 4 * count, '\0');
   appendText(head, "TRACE_SORT AS_ACQUIRED");
   appendText(head, "UNITS METERS");
@@ -92,7 +103,7 @@ std::string formatSeg2(const Seg2Record& record) {
   for (std::size_t trace = 0; trace < count; ++trace) {
     put(head, kDescriptorSize + 4 * trace, static_cast<std::uint32_t>(head.size() + body.size()),
         4);
-    body += traceBlock(record, trace);
+    body += traceBlock(shot, trace);
   }
   return head + body;
 }
