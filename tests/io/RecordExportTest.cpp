@@ -3,6 +3,7 @@
 #include "io/ShotLoader.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "model/TomoDocument.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestFolder.h"
 
