@@ -498,6 +498,52 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Its numbers were cut at their decimal commas: they need points.</source>
         <translation>Die Zahlen wurden am Dezimalkomma abgeschnitten: sie brauchen Punkte.</translation>
     </message>
+    <message>
+        <source>Elevations from table</source>
+        <translation>Höhen aus Tabelle</translation>
+    </message>
+    <message>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
+        <translation>Gibt allen Geophonen und Schüssen die Höhen einer Tabelle mit Entfernungen und Höhen</translation>
+    </message>
+    <message>
+        <source>&amp;Straight from point to point ...</source>
+        <translation>&amp;Geradlinig von Punkt zu Punkt ...</translation>
+    </message>
+    <message>
+        <source>Along a s&amp;mooth curve ...</source>
+        <translation>Entlang einer glatten &amp;Kurve ...</translation>
+    </message>
+    <message>
+        <source>It was read by the names of its columns.</source>
+        <translation>Die Datei wurde nach den Namen ihrer Spalten gelesen.</translation>
+    </message>
+    <message>
+        <source>Open Elevations</source>
+        <translation>Höhen öffnen</translation>
+    </message>
+    <message>
+        <source>Tables of distances and elevations (*.csv *.txt *.dat *.xyz *.tsv);;All Files (*)</source>
+        <translation>Tabellen mit Entfernungen und Höhen (*.csv *.txt *.dat *.xyz *.tsv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The elevations have not been taken.</source>
+        <translation>Die Höhen wurden nicht übernommen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) taken from the table.</source>
+        <translation>
+            <numerusform>%n Höhe aus der Tabelle übernommen.</numerusform>
+            <numerusform>%n Höhen aus der Tabelle übernommen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <translation>
+            <numerusform>%n Position liegt jenseits ihrer Enden, %1 bis %2 m, und hat die dortige Höhe erhalten.</numerusform>
+            <numerusform>%n Positionen liegen jenseits ihrer Enden, %1 bis %2 m, und haben die dortige Höhe erhalten.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -788,6 +834,38 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>smoothed since the inversion</source>
         <translation>seit der Inversion geglättet</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>Schuss deaktiviert</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>um %1 ms verschoben</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>Reihenfolge umgekehrt</translation>
+    </message>
+    <message>
+        <source>stacked with %1</source>
+        <comment>shots</comment>
+        <translation>%1 dazugestapelt</translation>
+    </message>
+    <message>
+        <source>%1 killed</source>
+        <comment>traces</comment>
+        <translation>%1 ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>%1 of reversed polarity</source>
+        <comment>traces</comment>
+        <translation>%1 mit umgekehrter Polarität</translation>
+    </message>
+    <message>
+        <source>%1 muted</source>
+        <comment>traces</comment>
+        <translation>%1 stummgeschaltet</translation>
     </message>
 </context>
 <context>
@@ -1382,12 +1460,92 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Warnung</translation>
     </message>
     <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>Die Messung ändert sich. Verloren gehen:</translation>
-    </message>
-    <message>
         <source>Do you want to continue?</source>
         <translation>Möchten Sie fortfahren?</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be removed (Undo brings it back):</source>
+        <translation>Die Messung ändert sich. Entfernt werden („Rückgängig“ bringt es zurück):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MendDialog</name>
+    <message>
+        <source>Mend recording</source>
+        <translation>Aufzeichnung korrigieren</translation>
+    </message>
+    <message>
+        <source>What was recorded is kept: everything here can be taken back at any time. Picks move with the recording.</source>
+        <translation>Das Aufgezeichnete bleibt erhalten: Alles hier lässt sich jederzeit zurücknehmen. Picks wandern mit der Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>&amp;The record was late by:</source>
+        <translation>Aufzeichnung &amp;verspätet um:</translation>
+    </message>
+    <message>
+        <source>Positive: the front of the record goes, and picks become earlier. Negative: the record was early. Whole samples are taken.</source>
+        <translation>Positiv: Der Anfang der Aufzeichnung entfällt, und Picks werden früher. Negativ: Die Aufzeichnung kam zu früh. Genommen werden ganze Abtastwerte.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Its picks are set aside and come back with it</source>
+        <translation>Seine Picks werden beiseitegelegt und kommen mit ihm zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Disabled: the shot has no picks and takes no part</source>
+        <translation>&amp;Deaktiviert: Der Schuss hat keine Picks und nimmt nicht teil</translation>
+    </message>
+    <message>
+        <source>The last channel goes to the first geophone, with its pick</source>
+        <translation>Der letzte Kanal geht an das erste Geophon, mit seinem Pick</translation>
+    </message>
+    <message>
+        <source>&amp;Order reversed: the channels run against the geophones</source>
+        <translation>&amp;Reihenfolge umgekehrt: Die Kanäle laufen gegen die Geophone</translation>
+    </message>
+    <message>
+        <source>&amp;Stack with:</source>
+        <translation>&amp;Stapeln mit:</translation>
+    </message>
+    <message>
+        <source>Shots of the same place and geophones; the mean of their samples is shown and picked</source>
+        <translation>Schüsse an derselben Stelle mit denselben Geophonen; gezeigt und gepickt wird der Mittelwert ihrer Abtastwerte</translation>
+    </message>
+    <message>
+        <source>Disable &amp;the shots that it is stacked with</source>
+        <translation>Die &amp;mitgestapelten Schüsse deaktivieren</translation>
+    </message>
+    <message>
+        <source>No other shot has the same place, geophones and sample interval.</source>
+        <translation>Kein anderer Schuss hat dieselbe Stelle, dieselben Geophone und dasselbe Abtastintervall.</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Spuren des Schusses</translation>
+    </message>
+    <message>
+        <source>Killed</source>
+        <translation>Ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>Polarity reversed</source>
+        <translation>Polarität umgekehrt</translation>
+    </message>
+    <message>
+        <source>Muted before</source>
+        <translation>Stumm vor</translation>
+    </message>
+    <message>
+        <source>Mend recording of shot %1</source>
+        <translation>Aufzeichnung von Schuss %1 korrigieren</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3434,6 +3592,104 @@ Bitte legen Sie die Positionen der Geophone fest
     </message>
 </context>
 <context>
+    <name>talvesk::ReadingPanel</name>
+    <message>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
+        <source>Shots:</source>
+        <translation>Schüsse:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Spuren:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Abtastwerte pro Spur:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Abtastintervall:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Aufzeichnungsverzögerung:</translation>
+    </message>
+    <message>
+        <source>Shot at:</source>
+        <translation>Schuss bei:</translation>
+    </message>
+    <message>
+        <source>Geophones at:</source>
+        <translation>Geophone bei:</translation>
+    </message>
+    <message>
+        <source>Shot in view:</source>
+        <translation>Gezeigter Schuss:</translation>
+    </message>
+    <message>
+        <source>No trace</source>
+        <translation>Keine Spur</translation>
+    </message>
+    <message>
+        <source>No warnings</source>
+        <translation>Keine Warnungen</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>nicht gelesen</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Nothing was read.</source>
+        <translation>Es wurde nichts gelesen.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReadingsDialog</name>
+    <message>
+        <source>The standard reads more</source>
+        <translation>Der Standard liest mehr</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules cannot carry all that these files hold. Read by the standard of their format they give more:</source>
+        <translation>Die Regeln des Programms erfassen nicht alles, was diese Dateien enthalten. Nach dem Standard ihres Formats gelesen, ergeben sie mehr:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>What gets lost by the program&apos;s rules</source>
+        <translation>Was nach den Regeln des Programms verloren geht</translation>
+    </message>
+    <message>
+        <source>By the program&apos;s rules</source>
+        <translation>Nach den Regeln des Programms</translation>
+    </message>
+    <message>
+        <source>By the standard</source>
+        <translation>Nach dem Standard</translation>
+    </message>
+    <message>
+        <source>Use the &amp;standard for these files</source>
+        <translation>Für diese Dateien den &amp;Standard verwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the program&apos;s rules</source>
+        <translation>Regeln des Programms &amp;beibehalten</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -3527,6 +3783,26 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Read by:</source>
+        <translation>Gelesen nach:</translation>
+    </message>
+    <message>
+        <source>Mends:</source>
+        <translation>Korrekturen:</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>den Regeln des Programms</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>dem Standard des Formats</translation>
+    </message>
+    <message>
+        <source>the standard of its format; record %1 of the file, %2</source>
+        <translation>dem Standard des Formats; Aufzeichnung %1 der Datei, %2</translation>
     </message>
 </context>
 <context>
@@ -4191,20 +4467,12 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Es wurde kein Gitter erstellt und nichts invertiert.</translation>
     </message>
     <message>
-        <source>Nothing has been inverted: the grid holds its starting model.</source>
-        <translation>Es wurde nichts invertiert: Das Gitter enthält sein Startmodell.</translation>
-    </message>
-    <message>
         <source>The parameters of the inversion are not known.</source>
         <translation>Die Parameter der Inversion sind nicht bekannt.</translation>
     </message>
     <message>
         <source>Velocity section</source>
         <translation>Geschwindigkeitsschnitt</translation>
-    </message>
-    <message>
-        <source>Velocity of the starting model</source>
-        <translation>Geschwindigkeit des Startmodells</translation>
     </message>
     <message>
         <source>Misfit</source>
@@ -4690,44 +4958,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>%1: %2 x %3 pixels</source>
         <translation>%1: %2 x %3 Pixel</translation>
-    </message>
-</context>
-<context>
-    <name>talvesk::SectionSheet</name>
-    <message>
-        <source>Geophones</source>
-        <translation>Geophone</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Schüsse</translation>
-    </message>
-    <message>
-        <source>Contours</source>
-        <translation>Isolinien</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ray(s)</source>
-        <translation>
-            <numerusform>%n Strahl</numerusform>
-            <numerusform>%n Strahlen</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Coverage limit</source>
-        <translation>Grenze der Abdeckung</translation>
-    </message>
-    <message>
-        <source>Distance [m]</source>
-        <translation>Entfernung [m]</translation>
-    </message>
-    <message>
-        <source>Elevation [m]</source>
-        <translation>Höhe [m]</translation>
-    </message>
-    <message>
-        <source>Vertical exaggeration %1×</source>
-        <translation>Überhöhung %1×</translation>
     </message>
 </context>
 <context>
@@ -7043,10 +7273,6 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>So kleine Zellen machen eine Inversion sehr langsam, und sie hält nur zwischen Iterationen an. Ein Viertel des Geophonabstands ist %1 m.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Die Ergebnisse der letzten Inversion gehen verloren.</translation>
-    </message>
-    <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
         <translation>Ein Viertel des kleinsten Geophonabstands, mindestens 0,1 m. Nicht angekreuzt: die Zellengröße des vorhandenen Gitters, ohne Gitter die kleinste.</translation>
     </message>
@@ -7345,10 +7571,6 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>The layers make no velocity model.</source>
         <translation>Die Schichten ergeben kein Geschwindigkeitsmodell.</translation>
-    </message>
-    <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Die Ergebnisse der letzten Inversion gehen verloren.</translation>
     </message>
     <message>
         <source>Do you want to put them into the grid all the same?</source>
