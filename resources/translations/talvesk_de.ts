@@ -4814,6 +4814,30 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
         <translation>Schüsse: %1; Geophone: %2; Picks: %3 von %4</translation>
     </message>
+    <message>
+        <source>No result of an inversion is known: the grid has the velocities that it was left with.</source>
+        <translation>Es ist kein Ergebnis einer Inversion bekannt: Das Gitter hat die Geschwindigkeiten, mit denen es zurückgelassen wurde.</translation>
+    </message>
+    <message>
+        <source>Velocities of the grid</source>
+        <translation>Geschwindigkeiten des Gitters</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Korrektur</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Korrekturen</translation>
+    </message>
+    <message>
+        <source>The recordings of these shots are put right as listed. All figures and times of this report are of the mended recordings.</source>
+        <translation>Die Aufzeichnungen dieser Schüsse sind wie aufgeführt korrigiert. Alle Abbildungen und Zeiten dieses Berichts beziehen sich auf die korrigierten Aufzeichnungen.</translation>
+    </message>
+    <message>
+        <source>Mends of recordings</source>
+        <translation>Korrekturen der Aufzeichnungen</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -5099,6 +5123,25 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source> MB</source>
         <translation> MB</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotFileDialog</name>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>den Regeln des Programms</translation>
+    </message>
+    <message>
+        <source>the standard</source>
+        <translation>dem Standard</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules read shot files as this program always has. The standard reads what their content says, whatever their suffix: other sample formats and byte orders, scaled coordinates, delays, files of several shots.</source>
+        <translation>Die Regeln des Programms lesen Schussdateien wie seit jeher. Der Standard liest, was ihr Inhalt sagt, gleich mit welcher Endung: weitere Abtastformate und Bytereihenfolgen, skalierte Koordinaten, Verzögerungen, Dateien mit mehreren Schüssen.</translation>
+    </message>
+    <message>
+        <source>&amp;Read shot files by:</source>
+        <translation>Schussdateien &amp;lesen nach:</translation>
     </message>
 </context>
 <context>
@@ -6651,6 +6694,146 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
         <translation>Die ältesten Schritte lassen sich nicht mehr rückgängig machen: Sie brauchten mehr als %1 MB.</translation>
     </message>
+    <message>
+        <source>Export recordings...</source>
+        <translation>Aufzeichnungen exportieren...</translation>
+    </message>
+    <message>
+        <source>Write the traces of all shots, with the positions of the survey, as SEG-Y or SEG-2 files</source>
+        <translation>Schreibt die Spuren aller Schüsse mit den Positionen der Messung als SEG-Y- oder SEG-2-Dateien</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Zeiten ab dem Schuss zählen</translation>
+    </message>
+    <message>
+        <source>Drop what was recorded before the shot; picks move with their traces</source>
+        <translation>Verwirft, was vor dem Schuss aufgezeichnet wurde; Picks wandern mit ihren Spuren</translation>
+    </message>
+    <message>
+        <source>Mend recording...</source>
+        <translation>Aufzeichnung korrigieren...</translation>
+    </message>
+    <message>
+        <source>Put right the time, the order or single traces of the shot in view; what was recorded is kept</source>
+        <translation>Korrigiert die Zeit, die Reihenfolge oder einzelne Spuren des gezeigten Schusses; das Aufgezeichnete bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>Take back all mends</source>
+        <translation>Alle Korrekturen zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Show all recordings as they were recorded, with their picks</source>
+        <translation>Zeigt alle Aufzeichnungen, wie sie aufgezeichnet wurden, mit ihren Picks</translation>
+    </message>
+    <message>
+        <source>%1 of them are of disabled shots or killed and left unpicked.</source>
+        <translation>%1 davon gehören zu deaktivierten Schüssen oder sind ausgeschaltet und bleiben ohne Pick.</translation>
+    </message>
+    <message>
+        <source>SEG-Y, a file for each shot</source>
+        <translation>SEG-Y, eine Datei je Schuss</translation>
+    </message>
+    <message>
+        <source>SEG-Y, all shots in one file</source>
+        <translation>SEG-Y, alle Schüsse in einer Datei</translation>
+    </message>
+    <message>
+        <source>SEG-2, a file for each shot</source>
+        <translation>SEG-2, eine Datei je Schuss</translation>
+    </message>
+    <message>
+        <source>Export recordings</source>
+        <translation>Aufzeichnungen exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message>
+        <source>Folder for the recordings</source>
+        <translation>Ordner für die Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey.</source>
+        <translation>%1 ist eine der Schussdateien dieser Messung.</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Writing recordings ...</source>
+        <translation>Aufzeichnungen werden geschrieben ...</translation>
+    </message>
+    <message>
+        <source>The export to %1 was stopped; some files are missing.</source>
+        <translation>Der Export nach %1 wurde angehalten; einige Dateien fehlen.</translation>
+    </message>
+    <message>
+        <source>The recordings have not been exported.</source>
+        <translation>Die Aufzeichnungen wurden nicht exportiert.</translation>
+    </message>
+    <message>
+        <source>Recordings saved in %1</source>
+        <translation>Aufzeichnungen gespeichert in %1</translation>
+    </message>
+    <message>
+        <source>The recordings have been saved.</source>
+        <translation>Die Aufzeichnungen wurden gespeichert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The times of %n trace(s) count from the shot now.</source>
+        <translation>
+            <numerusform>Die Zeiten von %n Spur zählen jetzt ab dem Schuss.</numerusform>
+            <numerusform>Die Zeiten von %n Spuren zählen jetzt ab dem Schuss.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pick(s) lay before it and are removed.</source>
+        <translation>
+            <numerusform>%n Pick lag davor und ist entfernt.</numerusform>
+            <numerusform>%n Picks lagen davor und sind entfernt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The recording of shot %1 has not been mended.</source>
+        <translation>Die Aufzeichnung von Schuss %1 wurde nicht korrigiert.</translation>
+    </message>
+    <message>
+        <source>The mends have not been taken back.</source>
+        <translation>Die Korrekturen wurden nicht zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>%1 (disabled)</source>
+        <comment>shot</comment>
+        <translation>%1 (deaktiviert)</translation>
+    </message>
+    <message>
+        <source>%1 (mended)</source>
+        <comment>shot</comment>
+        <translation>%1 (korrigiert)</translation>
+    </message>
+    <message>
+        <source>disabled or killed</source>
+        <translation>deaktiviert oder ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>Millisekunden</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>%1 does not say in which unit its times are.</source>
+        <translation>%1 sagt nicht, in welcher Einheit die Zeiten sind.</translation>
+    </message>
+    <message>
+        <source>%1 does not hold all of the survey.</source>
+        <translation>%1 enthält nicht die ganze Messung.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -7292,6 +7475,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Die Ergebnisse der letzten Inversion werden entfernt („Rückgängig“ bringt sie zurück).</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::progressDialog</name>
@@ -7579,6 +7766,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>You have not changed the layers.</source>
         <translation>Sie haben die Schichten nicht geändert.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Die Ergebnisse der letzten Inversion werden entfernt („Rückgängig“ bringt sie zurück).</translation>
     </message>
 </context>
 <context>
