@@ -3406,6 +3406,394 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>Draw picks</source>
         <translation>Picks zeichnen</translation>
     </message>
+    <message>
+        <source>the survey has no such shot; check the recordings again</source>
+        <translation>die Messung hat keinen solchen Schuss; prüfen Sie die Aufzeichnungen erneut</translation>
+    </message>
+    <message>
+        <source>shot %1: a position is missing, no number or absurdly far away</source>
+        <translation>Schuss %1: eine Position fehlt, ist keine Zahl oder unsinnig weit entfernt</translation>
+    </message>
+    <message>
+        <source>shot %1: its geophone string has another number of geophones than the proposal; check the recordings again</source>
+        <translation>Schuss %1: seine Geophonauslage hat eine andere Anzahl von Geophonen als der Vorschlag; prüfen Sie die Aufzeichnungen erneut</translation>
+    </message>
+    <message>
+        <source>there is no trace %1; check the recordings again</source>
+        <translation>es gibt keine Spur %1; prüfen Sie die Aufzeichnungen erneut</translation>
+    </message>
+    <message>
+        <source>no trace of the record holds anything</source>
+        <translation>keine Spur der Aufzeichnung enthält ein Signal</translation>
+    </message>
+    <message>
+        <source>dead: the samples of %1 are all the same</source>
+        <translation>tot: die Abtastwerte von %1 sind alle gleich</translation>
+    </message>
+    <message>
+        <source>as good as dead: %1, at down to %2 % of the strength of the neighbours</source>
+        <translation>so gut wie tot: %1, mit nur noch bis zu %2 % der Stärke der Nachbarn</translation>
+    </message>
+    <message>
+        <source>clipped: the swings of %1 are cut off flat, up to %2 times; first breaks can be picked, amplitudes mean nothing</source>
+        <translation>übersteuert: die Ausschläge von %1 sind flach abgeschnitten, bis zu %2-mal; Ersteinsätze lassen sich picken, Amplituden bedeuten nichts</translation>
+    </message>
+    <message>
+        <source>noisy: before the first arrival of %1 there is up to %2 times the noise of the neighbours, and it drowns the arrival</source>
+        <translation>verrauscht: vor dem Ersteinsatz von %1 ist das Rauschen bis zu %2-mal so stark wie bei den Nachbarn und überdeckt den Einsatz</translation>
+    </message>
+    <message>
+        <source>doubled: trace %1 is trace %2 once more (correlation %3); the arrivals around say that it belongs to the latter</source>
+        <translation>doppelt: Spur %1 ist noch einmal Spur %2 (Korrelation %3); nach den Einsätzen ringsum gehört sie zu letzterer</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>traces %1</source>
+        <translation>Spuren %1</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>Schüsse %1</translation>
+    </message>
+    <message>
+        <source>shot position</source>
+        <translation>Schussposition</translation>
+    </message>
+    <message>
+        <source>station numbers</source>
+        <translation>Stationsnummern</translation>
+    </message>
+    <message>
+        <source>repeated positions</source>
+        <translation>mehrfache Positionen</translation>
+    </message>
+    <message>
+        <source>reversed order</source>
+        <translation>umgekehrte Reihenfolge</translation>
+    </message>
+    <message>
+        <source>doubled trace</source>
+        <translation>doppelte Spur</translation>
+    </message>
+    <message>
+        <source>moved traces</source>
+        <translation>vertauschte Spuren</translation>
+    </message>
+    <message>
+        <source>geophone off the line</source>
+        <translation>Geophon abseits der Messlinie</translation>
+    </message>
+    <message>
+        <source>trigger time</source>
+        <translation>Triggerzeit</translation>
+    </message>
+    <message>
+        <source>dead traces</source>
+        <translation>tote Spuren</translation>
+    </message>
+    <message>
+        <source>clipped traces</source>
+        <translation>übersteuerte Spuren</translation>
+    </message>
+    <message>
+        <source>noisy traces</source>
+        <translation>verrauschte Spuren</translation>
+    </message>
+    <message>
+        <source>reversed polarity</source>
+        <translation>umgekehrte Polarität</translation>
+    </message>
+    <message>
+        <source>mistimed trace</source>
+        <translation>zeitversetzte Spur</translation>
+    </message>
+    <message>
+        <source>sample intervals</source>
+        <translation>Abtastintervalle</translation>
+    </message>
+    <message>
+        <source>repeated shot</source>
+        <translation>wiederholter Schuss</translation>
+    </message>
+    <message>
+        <source>overlapping spreads</source>
+        <translation>überlappende Auslagen</translation>
+    </message>
+    <message>
+        <source>no elevations</source>
+        <translation>keine Höhen</translation>
+    </message>
+    <message>
+        <source>move the record later by %1 ms</source>
+        <translation>die Aufzeichnung um %1 ms nach später verschieben</translation>
+    </message>
+    <message>
+        <source>move the record earlier by %1 ms</source>
+        <translation>die Aufzeichnung um %1 ms nach früher verschieben</translation>
+    </message>
+    <message>
+        <source>kill %1</source>
+        <translation>%1 ausschalten</translation>
+    </message>
+    <message>
+        <source>reverse the polarity of %1</source>
+        <translation>die Polarität von %1 umkehren</translation>
+    </message>
+    <message>
+        <source>mute %1 before %2 ms</source>
+        <translation>%1 vor %2 ms stummschalten</translation>
+    </message>
+    <message>
+        <source>read the channels from the last to the first</source>
+        <translation>die Kanäle vom letzten zum ersten lesen</translation>
+    </message>
+    <message>
+        <source>put the shot at %1 m</source>
+        <translation>den Schuss auf %1 m setzen</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3 m</source>
+        <translation>die %1 Geophone seiner Auslage auf %2 bis %3 m setzen</translation>
+    </message>
+    <message>
+        <source>stack it with %1; the stack alone counts then</source>
+        <translation>stapeln mit: %1; dann zählt nur noch die Stapelung</translation>
+    </message>
+    <message>
+        <source>disable the shot</source>
+        <translation>den Schuss deaktivieren</translation>
+    </message>
+    <message>
+        <source>exchanged: over all shots the arrivals of trace %1 belong to the place of trace %2, and the other way round</source>
+        <translation>vertauscht: über alle Schüsse gehören die Einsätze von Spur %1 an die Stelle von Spur %2 und umgekehrt</translation>
+    </message>
+    <message>
+        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
+        <translation>abseits: Geophon %1 soll bei %2 m stehen; von beiden Seiten sind seine Einsätze die von %3 m</translation>
+    </message>
+    <message>
+        <source>%1 geophones are said to be at %2 places only</source>
+        <translation>%1 Geophone sollen an nur %2 Stellen stehen</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
+        <translation>%1; über %2 Schüsse wandern die kürzesten Zeiten um %3 Kanäle je Meter des Schusses, also steht Geophon 1 bei %4 m und das letzte bei %5 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>der Schuss soll bei %1 m liegen; der Dateiname sagt %2 m, und die kürzesten Zeiten der Messung folgen den Namen</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
+        <translation>der Schuss soll auf einer Höhe von %1 m liegen, und die Geophone haben keine Höhen, die ihre sein könnten</translation>
+    </message>
+    <message>
+        <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
+        <translation>die Kanäle laufen gegen die Geophone: die kürzesten Zeiten von %1 von %2 Schüssen liegen nur dann neben dem Schuss, wenn die Auslage vom letzten zum ersten Geophon gelesen wird</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>alle Schüsse sollen bei %1 m liegen; der Dateiname sagt %2 m, und die kürzesten Zeiten der Messung folgen den Namen</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
+        <translation>alle Schüsse sollen bei %1 m liegen; die Zeiten dieses Schusses sind bei %2 m am kürzesten</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
+        <translation>alle Schüsse sollen bei %1 m liegen; dieser lag an einem Ende der Geophone oder außerhalb</translation>
+    </message>
+    <message>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
+        <translation>die Kanäle dieser Aufzeichnung laufen gegen die Geophone: vom letzten zum ersten gelesen sind die Zeiten neben dem Schuss bei %1 m am kürzesten</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>der Schuss soll bei %1 m liegen, aber die Zeiten wachsen ab %2 m über alle Geophone hinweg: er lag an diesem Ende der Geophone oder außerhalb</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
+        <translation>der Schuss soll bei %1 m liegen, aber die Zeiten sind bei %2 m am kürzesten, neben Geophon %3, und wachsen nach beiden Seiten</translation>
+    </message>
+    <message>
+        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
+        <translation>%1; oder die Geophone stehen %2 m statt %3 m auseinander, was kein anderer Schuss entscheiden kann</translation>
+    </message>
+    <message>
+        <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
+        <translation>zeitversetzt: Spur %1 hat ihren Ersteinsatz bei %2 ms, nach den Nachbarn ist er bei %3 ms zu erwarten, und von dort an gleicht sie ihnen (Korrelation %4)</translation>
+    </message>
+    <message>
+        <source>reversed: the first swings of %1 go against those of the neighbours, which agree with each other (correlation -%2 at least)</source>
+        <translation>umgekehrt: die ersten Ausschläge von %1 laufen denen der Nachbarn entgegen, die untereinander übereinstimmen (Korrelation mindestens -%2)</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
+        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2 m, mit dem %3-fachen Signal-Rausch-Verhältnis</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
+        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2 m; seine Einsätze kommen %3 ms später</translation>
+    </message>
+    <message>
+        <source>the record is that of shot %1 once more, sample for sample</source>
+        <translation>die Aufzeichnung ist noch einmal die von Schuss %1, Abtastwert für Abtastwert</translation>
+    </message>
+    <message>
+        <source>the sample intervals of its traces differ, %1 to %2 ms: the times of some are wrong unless the recorder meant it</source>
+        <translation>die Abtastintervalle der Spuren unterscheiden sich, %1 bis %2 ms: manche Zeiten sind falsch, sofern die Apparatur nicht so eingestellt war</translation>
+    </message>
+    <message>
+        <source>its traces have no sample interval: they have no times</source>
+        <translation>die Spuren haben kein Abtastintervall: sie haben keine Zeiten</translation>
+    </message>
+    <message>
+        <source>the sample interval is %2 ms in %1, and %3 ms in most others: right if the recorder was set so</source>
+        <translation>%1: das Abtastintervall ist %2 ms, bei den meisten anderen %3 ms; richtig, wenn die Apparatur so eingestellt war</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>zwischen %1 und %2 m steht kein Geophon: der Untergrund dort wird von keiner Seite gesehen, sofern nicht Schüsse darüber hinwegreichen</translation>
+    </message>
+    <message>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
+        <translation>die Auslagen %1 und %2 überlappen sich und haben an %3 Stellen verschiedene Höhen, um bis zu %4 m bei %5 m</translation>
+    </message>
+    <message>
+        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>keine Höhen: alle Schüsse und Geophone liegen auf %1 m; ist das Gelände nicht eben, lesen Sie die Höhen in der Geometrie der Messung aus einer Tabelle</translation>
+    </message>
+    <message>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
+        <translation>die Position %1 des Schusses zählt Stationen: über %2 Schüsse wandern die kürzesten Zeiten um %3 m je 1 in der Position</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
+        <translation>die Positionen der Geophone sind keine Meter: über %1 Schüsse wandern die kürzesten Zeiten um %2 je Meter des Schusses; mit Geophonen im Abstand von %3 m ab %4 m liegen sie neben den Schüssen</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation>zu spät</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation>zu früh</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: %3 times to the places of other shots differ by that from the times back, give or take %4 ms</source>
+        <translation>die Aufzeichnung kommt %1 ms %2: %3 Zeiten zu den Stellen anderer Schüsse weichen um so viel von den Zeiten zurück ab, auf %4 ms genau</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: its times differ by that from those of %3 other shots at equal distances, give or take %4 ms</source>
+        <translation>die Aufzeichnung kommt etwa %1 ms %2: ihre Zeiten weichen um so viel von denen von %3 anderen Schüssen bei gleichen Entfernungen ab, auf %4 ms genau</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
+        <translation>die Aufzeichnung kommt %1 ms %2: alle Kanäle haben bei %3 ms gleichzeitig eine Spitze, bevor etwas eingetroffen sein kann</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>die Aufzeichnung kommt etwa %1 ms %2: nach den nächsten Geophonen, %3 m vom Schuss, läge der Schlag zwischen %4 und %5 ms, gleich in welchem Untergrund</translation>
+    </message>
+    <message>
+        <source>a trace without a sample interval cannot be shifted in time</source>
+        <translation>eine Spur ohne Abtastintervall kann nicht in der Zeit verschoben werden</translation>
+    </message>
+    <message>
+        <source>a shift of %1 ms is longer than the record</source>
+        <translation>eine Verschiebung um %1 ms ist länger als die Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>a shot is stacked with other shots of the survey, each once</source>
+        <translation>ein Schuss wird mit anderen Schüssen der Messung gestapelt, mit jedem einmal</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with it: its traces are of another number, sample interval or kind</source>
+        <translation>Schuss %1 kann nicht mit ihm gestapelt werden: Anzahl, Abtastintervall oder Art seiner Spuren sind andere</translation>
+    </message>
+    <message>
+        <source>shot %1 has no traces to mend</source>
+        <translation>Schuss %1 hat keine Spuren, die korrigiert werden könnten</translation>
+    </message>
+    <message>
+        <source>shot %1 has %2 traces, and mends of %3</source>
+        <translation>Schuss %1 hat %2 Spuren und Korrekturen für %3</translation>
+    </message>
+    <message>
+        <source>a trace cannot be muted before %1 ms</source>
+        <translation>eine Spur kann nicht vor %1 ms stummgeschaltet werden</translation>
+    </message>
+    <message>
+        <source>a record cannot be shifted by %1 ms</source>
+        <translation>eine Aufzeichnung kann nicht um %1 ms verschoben werden</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that have no place any more and are set aside: %2</source>
+        <translation>Schuss %1: Picks, die keinen Platz mehr haben und beiseitegelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that were set aside and are back: %2</source>
+        <translation>Schuss %1: Picks, die beiseitegelegt waren und wieder da sind: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: filtered copies of traces that have changed are forgotten: %2; filter again if you need them</source>
+        <translation>Schuss %1: verworfene gefilterte Kopien von Spuren, die sich geändert haben: %2; filtern Sie erneut, wenn Sie sie brauchen</translation>
+    </message>
+    <message>
+        <source>shot %1: its shift is taken as %2 ms, whole samples</source>
+        <translation>Schuss %1: als Verschiebung werden %2 ms genommen, ganze Abtastwerte</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with shot %2: they have other places, or geophones</source>
+        <translation>Schuss %1 kann nicht mit Schuss %2 gestapelt werden: Stelle oder Geophone sind andere</translation>
+    </message>
+    <message>
+        <source>traces killed: %1</source>
+        <translation>ausgeschaltete Spuren: %1</translation>
+    </message>
+    <message>
+        <source>traces with their polarity reversed: %1</source>
+        <translation>Spuren mit umgekehrter Polarität: %1</translation>
+    </message>
+    <message>
+        <source>traces muted before %1 ms: %2</source>
+        <translation>vor %1 ms stummgeschaltete Spuren: %2</translation>
+    </message>
+    <message>
+        <source>disabled: it has no picks and takes no part in anything</source>
+        <translation>deaktiviert: er hat keine Picks und nimmt an nichts teil</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was late</source>
+        <translation>um %1 ms verschoben: die Aufzeichnung kam zu spät</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was early</source>
+        <translation>um %1 ms verschoben: die Aufzeichnung kam zu früh</translation>
+    </message>
+    <message>
+        <source>order reversed: its channels ran against the geophones</source>
+        <translation>Reihenfolge umgekehrt: die Kanäle liefen gegen die Geophone</translation>
+    </message>
+    <message>
+        <source>stacked with shots: %1</source>
+        <translation>gestapelt mit den Schüssen: %1</translation>
+    </message>
+    <message>
+        <source>Mend recordings</source>
+        <translation>Aufzeichnungen korrigieren</translation>
+    </message>
+    <message>
+        <source>Shot %1 is disabled and takes no picks; Mend recording enables it.</source>
+        <translation>Schuss %1 ist deaktiviert und nimmt keine Picks an; „Aufzeichnung korrigieren“ aktiviert ihn wieder.</translation>
+    </message>
+    <message>
+        <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
+        <translation>Spur %1 ist ausgeschaltet und nimmt keinen Pick an; „Aufzeichnung korrigieren“ holt sie zurück.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
