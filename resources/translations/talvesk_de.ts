@@ -3699,6 +3699,346 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Aufzeichnung kommt etwa %1 ms %2: nach den nächsten Geophonen, %3 m vom Schuss, läge der Schlag zwischen %4 und %5 ms, gleich in welchem Untergrund</translation>
     </message>
     <message>
+        <source>it is empty</source>
+        <translation>sie ist leer</translation>
+    </message>
+    <message>
+        <source>it has %1 columns and no heading that names one for the distance and one for the elevation</source>
+        <translation>sie hat %1 Spalten und keine Überschrift, die eine davon für die Entfernung und eine für die Höhe nennt</translation>
+    </message>
+    <message>
+        <source>it holds no point</source>
+        <translation>sie enthält keinen Punkt</translation>
+    </message>
+    <message>
+        <source>Unified data format (%1)</source>
+        <translation>Unified-Data-Format (%1)</translation>
+    </message>
+    <message>
+        <source>no heading names shot, geophone and time</source>
+        <translation>keine Überschrift nennt Schuss, Geophon und Zeit</translation>
+    </message>
+    <message>
+        <source>%1 lines above the heading were ignored</source>
+        <translation>%1 Zeilen über der Überschrift wurden ignoriert</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 were taken for positions in metres</source>
+        <translation>die Spalten %1 und %2 wurden als Positionen in Metern genommen</translation>
+    </message>
+    <message>
+        <source>the heading does not say whether its times are in ms or in s</source>
+        <translation>die Überschrift sagt nicht, ob die Zeiten in ms oder in s sind</translation>
+    </message>
+    <message>
+        <source>no row follows the heading</source>
+        <translation>auf die Überschrift folgt keine Zeile</translation>
+    </message>
+    <message>
+        <source>there are more than %1 geophones</source>
+        <translation>es gibt mehr als %1 Geophone</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows have no time above 0, or are not valid, and are no picks</source>
+        <translation>%1 von %2 Zeilen haben keine Zeit über 0 oder sind nicht gültig und sind keine Picks</translation>
+    </message>
+    <message>
+        <source>%1 shots and %2 geophones are far too many for %3 rows</source>
+        <translation>%1 Schüsse und %2 Geophone sind viel zu viele für %3 Zeilen</translation>
+    </message>
+    <message>
+        <source>no column tells the elevations of the shots; they were put on the line of the geophones</source>
+        <translation>keine Spalte nennt die Höhen der Schüsse; sie wurden auf die Linie der Geophone gesetzt</translation>
+    </message>
+    <message>
+        <source>no heading names a column for the distance and one for the elevation</source>
+        <translation>keine Überschrift nennt eine Spalte für die Entfernung und eine für die Höhe</translation>
+    </message>
+    <message>
+        <source>the unified data format</source>
+        <translation>Unified-Data-Format</translation>
+    </message>
+    <message>
+        <source>a table with a heading</source>
+        <translation>Tabelle mit Überschrift</translation>
+    </message>
+    <message>
+        <source>a pick table of long lines</source>
+        <translation>Pick-Tabelle mit langen Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 times are of a shot and geophone that had one already; the first of them counts</source>
+        <translation>%1 Zeiten gehören zu einem Schuss und Geophon, die schon eine hatten; die jeweils erste gilt</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>number of positions</source>
+        <translation>Anzahl der Positionen</translation>
+    </message>
+    <message>
+        <source>number of measurements</source>
+        <translation>Anzahl der Messwerte</translation>
+    </message>
+    <message>
+        <source>number of points of topography</source>
+        <translation>Anzahl der Geländepunkte</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is not a number</source>
+        <translation>in %1 steht %2, was keine Zahl ist</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is out of range</source>
+        <translation>in %1 steht %2, was außerhalb des Bereichs liegt</translation>
+    </message>
+    <message>
+        <source>all shot files count as read by the program&apos;s rules; the traces are those that were saved</source>
+        <translation>alle Schussdateien gelten als nach den Regeln des Programms gelesen; die Spuren sind die gespeicherten</translation>
+    </message>
+    <message>
+        <source>what was mended in its recordings is not known; traces and picks stay as they are</source>
+        <translation>was an den Aufzeichnungen korrigiert wurde, ist nicht bekannt; Spuren und Picks bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>there is a grid, but a position lies more than 100 000 km away</source>
+        <translation>es gibt ein Gitter, aber eine Position liegt mehr als 100 000 km entfernt</translation>
+    </message>
+    <message>
+        <source>mends.xml: the mends of these shots are not those of their traces, and are left out; traces and picks stay as they are: %1</source>
+        <translation>mends.xml: die Korrekturen dieser Schüsse passen nicht zu ihren Spuren und werden weggelassen; Spuren und Picks bleiben, wie sie sind: %1</translation>
+    </message>
+    <message>
+        <source>it is about other shot files than those of the project</source>
+        <translation>es betrifft andere Schussdateien als die des Projekts</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m</source>
+        <translation>%1 bis %2 m</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules find no trace in it</source>
+        <translation>die Regeln des Programms finden keine Spur darin</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces of %3 shots</source>
+        <translation>die Regeln des Programms lesen %1 der %2 Spuren von %3 Schüssen</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces</source>
+        <translation>die Regeln des Programms lesen %1 der %2 Spuren</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules make one shot of its %1</source>
+        <translation>die Regeln des Programms machen aus %1 Schüssen einen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are all zeros by the program&apos;s rules</source>
+        <translation>%1 von %2 Spuren sind nach den Regeln des Programms lauter Nullen</translation>
+    </message>
+    <message>
+        <source>the samples of %1 of %2 traces are not those of the standard, and not for their scale alone</source>
+        <translation>die Abtastwerte von %1 von %2 Spuren sind nicht die des Standards, und nicht nur im Maßstab verschieden</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are shorter by the program&apos;s rules</source>
+        <translation>%1 von %2 Spuren sind nach den Regeln des Programms kürzer</translation>
+    </message>
+    <message>
+        <source>the sample interval is %1 ms by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>das Abtastintervall ist nach den Regeln des Programms %1 ms, nach dem Standard %2 ms</translation>
+    </message>
+    <message>
+        <source>its records start %1 ms from the shot by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>die Aufzeichnungen beginnen nach den Regeln des Programms %1 ms vom Schuss entfernt, nach dem Standard %2 ms</translation>
+    </message>
+    <message>
+        <source>its geophones are at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>die Geophone stehen nach den Regeln des Programms bei %1, nach dem Standard bei %2</translation>
+    </message>
+    <message>
+        <source>its shot is at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>der Schuss liegt nach den Regeln des Programms bei %1, nach dem Standard bei %2</translation>
+    </message>
+    <message>
+        <source>the elevations of %1 of %2 traces are others by the program&apos;s rules</source>
+        <translation>die Höhen von %1 von %2 Spuren sind nach den Regeln des Programms andere</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules cannot read it</source>
+        <translation>die Regeln des Programms können die Datei nicht lesen</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>the traces of shot %1 differ in sample interval or in the time of their first sample; they cannot be in one record</source>
+        <translation>die Spuren von Schuss %1 unterscheiden sich im Abtastintervall oder in der Zeit des ersten Abtastwerts; sie können nicht in einer Aufzeichnung stehen</translation>
+    </message>
+    <message>
+        <source>it has no sample interval</source>
+        <translation>er hat kein Abtastintervall</translation>
+    </message>
+    <message>
+        <source>its traces have %1 samples; a file holds %2</source>
+        <translation>seine Spuren haben %1 Abtastwerte; eine Datei fasst %2</translation>
+    </message>
+    <message>
+        <source>it has %1 traces; a SEG-2 file holds %2</source>
+        <translation>er hat %1 Spuren; eine SEG-2-Datei fasst %2</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>Schuss %1: %2</translation>
+    </message>
+    <message>
+        <source>read by the program&apos;s rules, the files have no elevations, and no positions that are not whole metres; read them by the standard</source>
+        <translation>nach den Regeln des Programms gelesen, haben die Dateien keine Höhen und keine Positionen außer ganzen Metern; lesen Sie sie nach dem Standard</translation>
+    </message>
+    <message>
+        <source>%1 shots are disabled or have no samples and were left out</source>
+        <translation>%1 Schüsse sind deaktiviert oder haben keine Abtastwerte und wurden weggelassen</translation>
+    </message>
+    <message>
+        <source>%1 traces begin at the shot; what was recorded before is not in the files</source>
+        <translation>%1 Spuren beginnen am Schuss; was davor aufgezeichnet wurde, ist nicht in den Dateien</translation>
+    </message>
+    <message>
+        <source>%1 samples were rounded to the seven digits of a 32-bit float</source>
+        <translation>%1 Abtastwerte wurden auf die sieben Stellen einer 32-Bit-Gleitkommazahl gerundet</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>der Vorgang wurde angehalten</translation>
+    </message>
+    <message>
+        <source>shot %1 has no samples</source>
+        <translation>Schuss %1 hat keine Abtastwerte</translation>
+    </message>
+    <message>
+        <source>shot %1, trace %2: a sample is too large for a file</source>
+        <translation>Schuss %1, Spur %2: ein Abtastwert ist zu groß für eine Datei</translation>
+    </message>
+    <message>
+        <source>the survey has no records to be written</source>
+        <translation>die Messung hat keine Aufzeichnungen, die geschrieben werden könnten</translation>
+    </message>
+    <message>
+        <source>its sample interval of %1 ms is no whole number of microseconds up to 65535, which is all that SEG-Y can hold; write SEG-2</source>
+        <translation>das Abtastintervall von %1 ms ist keine ganze Anzahl von Mikrosekunden bis 65535, und nur solche kann SEG-Y aufnehmen; schreiben Sie SEG-2</translation>
+    </message>
+    <message>
+        <source>it begins %1 ms after the shot, which SEG-Y cannot hold; write SEG-2</source>
+        <translation>die Aufzeichnung beginnt %1 ms nach dem Schuss, was SEG-Y nicht aufnehmen kann; schreiben Sie SEG-2</translation>
+    </message>
+    <message>
+        <source>all %1 traces</source>
+        <translation>allen %1 Spuren</translation>
+    </message>
+    <message>
+        <source>it cannot be read back: %1</source>
+        <translation>die Datei kann nicht zurückgelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>read back, string %1 will have another number of geophones</source>
+        <translation>zurückgelesen wird Auslage %1 eine andere Anzahl von Geophonen haben</translation>
+    </message>
+    <message>
+        <source>the format has no place for the errors of the picks</source>
+        <translation>das Format hat keinen Platz für die Fehler der Picks</translation>
+    </message>
+    <message>
+        <source>it was read as %1; the reader of its suffix cannot read line %2</source>
+        <translation>die Datei wurde als %1 gelesen; nach ihrer Endung lässt sich Zeile %2 nicht lesen</translation>
+    </message>
+    <message>
+        <source>%1; as %2, line %3: %4</source>
+        <translation>%1; als %2, Zeile %3: %4</translation>
+    </message>
+    <message>
+        <source>shot %1: picks left out, as the shot is disabled or their traces are killed: %2</source>
+        <translation>Schuss %1: ausgelassene Picks, da der Schuss deaktiviert ist oder ihre Spuren ausgeschaltet sind: %2</translation>
+    </message>
+    <message>
+        <source>the file tells errors of its picks, which the survey does not keep</source>
+        <translation>die Datei nennt Fehler ihrer Picks, die die Messung nicht aufbewahrt</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 lines</source>
+        <translation>die Datei endet nach %1 von %2 Zeilen</translation>
+    </message>
+    <message>
+        <source>the file holds no measurement</source>
+        <translation>die Datei enthält keinen Messwert</translation>
+    </message>
+    <message>
+        <source>no columns &quot;s&quot;, &quot;g&quot; and &quot;t&quot; are named above the numbers</source>
+        <translation>über den Zahlen werden keine Spalten „s“, „g“ und „t“ genannt</translation>
+    </message>
+    <message>
+        <source>the unit of the column %1 is none of time</source>
+        <translation>die Einheit der Spalte %1 ist keine der Zeit</translation>
+    </message>
+    <message>
+        <source>the line holds %1</source>
+        <translation>die Zeile enthält %1</translation>
+    </message>
+    <message>
+        <source>the %1 %2 is none of the %3 positions</source>
+        <translation>%1 %2 ist keine der %3 Positionen</translation>
+    </message>
+    <message>
+        <source>after the measurements neither the end nor a number of points of topography follows</source>
+        <translation>nach den Messwerten folgt weder das Ende noch eine Anzahl von Geländepunkten</translation>
+    </message>
+    <message>
+        <source>the second of three coordinates was not read</source>
+        <translation>die zweite von drei Koordinaten wurde nicht gelesen</translation>
+    </message>
+    <message>
+        <source>the third coordinate is 0 everywhere; the second one was taken for the elevation</source>
+        <translation>die dritte Koordinate ist überall 0; die zweite wurde als Höhe genommen</translation>
+    </message>
+    <message>
+        <source>the positions have elevations; the topography was not used</source>
+        <translation>die Positionen haben Höhen; die Geländepunkte wurden nicht verwendet</translation>
+    </message>
+    <message>
+        <source>%1 positions are no shot and no geophone of any time; they were left out</source>
+        <translation>%1 Positionen sind weder Schuss noch Geophon einer Zeit; sie wurden weggelassen</translation>
+    </message>
+    <message>
+        <source>%1 times are marked as not valid and are no picks</source>
+        <translation>%1 Zeiten sind als nicht gültig gekennzeichnet und sind keine Picks</translation>
+    </message>
+    <message>
+        <source>%1 times are not above 0 and are no picks</source>
+        <translation>%1 Zeiten liegen nicht über 0 und sind keine Picks</translation>
+    </message>
+    <message>
+        <source>%1 shots have no pick and are not in the file</source>
+        <translation>%1 Schüsse haben keinen Pick und sind nicht in der Datei</translation>
+    </message>
+    <message>
+        <source>%1 geophones have no pick; the file has their positions only</source>
+        <translation>%1 Geophone haben keinen Pick; die Datei enthält nur ihre Positionen</translation>
+    </message>
+    <message>
+        <source>%1 shots lie at the place of another one; the file does not tell their picks apart</source>
+        <translation>%1 Schüsse liegen an der Stelle eines anderen; die Datei hält ihre Picks nicht auseinander</translation>
+    </message>
+    <message>
         <source>a trace without a sample interval cannot be shifted in time</source>
         <translation>eine Spur ohne Abtastintervall kann nicht in der Zeit verschoben werden</translation>
     </message>
