@@ -3943,6 +3943,334 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Aufzeichnung beginnt %1 ms nach dem Schuss, was SEG-Y nicht aufnehmen kann; schreiben Sie SEG-2</translation>
     </message>
     <message>
+        <source>it is miniSEED of version 3; version 2 is read</source>
+        <translation>es ist miniSEED der Version 3; gelesen wird Version 2</translation>
+    </message>
+    <message>
+        <source>it is no miniSEED file</source>
+        <translation>es ist keine miniSEED-Datei</translation>
+    </message>
+    <message>
+        <source>its records have no blockette 1000, which tells their encoding</source>
+        <translation>die Datensätze haben keine Blockette 1000, die ihre Kodierung nennt</translation>
+    </message>
+    <message>
+        <source>its samples have the encoding %1; 1, 3, 4, 5, 10 and 11 are read</source>
+        <translation>die Abtastwerte haben die Kodierung %1; gelesen werden 1, 3, 4, 5, 10 und 11</translation>
+    </message>
+    <message>
+        <source>none of its records has samples of a series</source>
+        <translation>keiner der Datensätze enthält Abtastwerte einer Zeitreihe</translation>
+    </message>
+    <message>
+        <source>miniSEED tells neither positions nor the time of the shot: all positions are 0 and times count from the first sample; give the survey its geometry</source>
+        <translation>miniSEED nennt weder Positionen noch die Zeit des Schusses: alle Positionen sind 0, und Zeiten zählen ab dem ersten Abtastwert; geben Sie der Messung ihre Geometrie</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others; zeros stand in front</source>
+        <translation>die Aufzeichnung von %1 beginnt später als andere; davor stehen Nullen</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others, by longer than it lasts; that is not applied and its times do not compare</source>
+        <translation>die Aufzeichnung von %1 beginnt später als andere, um mehr als ihre Dauer; das wird nicht angewandt, und ihre Zeiten sind nicht vergleichbar</translation>
+    </message>
+    <message>
+        <source>zeros stand for gaps in the record of %1</source>
+        <translation>für Lücken in der Aufzeichnung von %1 stehen Nullen</translation>
+    </message>
+    <message>
+        <source>records of %1 overlap; the later ones count</source>
+        <translation>Datensätze von %1 überlappen sich; die späteren gelten</translation>
+    </message>
+    <message>
+        <source>records left out after a gap that is longer than what was recorded: %1</source>
+        <translation>ausgelassene Datensätze nach einer Lücke, die länger ist als das Aufgezeichnete: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose sample rate is not that of the first of their channel: %1</source>
+        <translation>ausgelassene Datensätze, deren Abtastrate nicht die des ersten ihres Kanals ist: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose encoding, such as %1, is not read: %2</source>
+        <translation>ausgelassene Datensätze, deren Kodierung, etwa %1, nicht gelesen wird: %2</translation>
+    </message>
+    <message>
+        <source>records left out that have no samples of a series: %1</source>
+        <translation>ausgelassene Datensätze ohne Abtastwerte einer Zeitreihe: %1</translation>
+    </message>
+    <message>
+        <source>records left out that have no blockette 1000: %1</source>
+        <translation>ausgelassene Datensätze ohne Blockette 1000: %1</translation>
+    </message>
+    <message>
+        <source>bytes left out that are of no record: %1</source>
+        <translation>ausgelassene Bytes, die zu keinem Datensatz gehören: %1</translation>
+    </message>
+    <message>
+        <source>samples that headers promise and records do not hold: %1</source>
+        <translation>Abtastwerte, die Header versprechen und Datensätze nicht enthalten: %1</translation>
+    </message>
+    <message>
+        <source>damaged records, which do not end at the sample that they tell: %1</source>
+        <translation>beschädigte Datensätze, die nicht mit dem angegebenen Abtastwert enden: %1</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins after the shot, by up to %2 ms; zeros stand in front, in whole samples</source>
+        <translation>die Aufzeichnung von %1 beginnt nach dem Schuss, um bis zu %2 ms; davor stehen Nullen, in ganzen Abtastwerten</translation>
+    </message>
+    <message>
+        <source>the header of %1 says that the record begins up to %2 ms after the shot, longer than it lasts; that delay is not applied</source>
+        <translation>nach dem Header von %1 beginnt die Aufzeichnung bis zu %2 ms nach dem Schuss, um mehr als ihre Dauer; diese Verzögerung wird nicht angewandt</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells no %2; 0 stands for it</source>
+        <translation>der Header von %1 nennt diesen Wert nicht: %2; dafür steht 0</translation>
+    </message>
+    <message>
+        <source>the UNITS of its header, %1, are not known; its positions were taken as metres</source>
+        <translation>die UNITS des Headers, %1, sind nicht bekannt; die Positionen wurden als Meter genommen</translation>
+    </message>
+    <message>
+        <source>its positions are in %1 and were converted to metres, %2 m each</source>
+        <translation>die Positionen sind in %1 und wurden in Meter umgerechnet, je %2 m</translation>
+    </message>
+    <message>
+        <source>its receiver positions look like longitude and latitude in degrees, not like metres; give the survey its geometry</source>
+        <translation>die Empfängerpositionen sehen nach Länge und Breite in Grad aus, nicht nach Metern; geben Sie der Messung ihre Geometrie</translation>
+    </message>
+    <message>
+        <source>its geophones differ in y but not in x; y was taken as the position along the line</source>
+        <translation>die Geophone unterscheiden sich in y, aber nicht in x; y wurde als Position entlang der Messlinie genommen</translation>
+    </message>
+    <message>
+        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
+        <translation>alle Geophone stehen bei x = %1 m; geben Sie der Messung ihre Geometrie</translation>
+    </message>
+    <message>
+        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
+        <translation>die Geophone unterscheiden sich um bis zu %1 m in y, das nicht verwendet wird; Positionen entlang der Messlinie sind x</translation>
+    </message>
+    <message>
+        <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
+        <translation>die Kanalnummern steigen nicht an; die Spuren bleiben in der Reihenfolge der Datei</translation>
+    </message>
+    <message>
+        <source>every trace tells a source position of its own; the file was read as one shot, at the first of them</source>
+        <translation>jede Spur nennt eine eigene Quellposition; die Datei wurde als ein Schuss gelesen, an der ersten davon</translation>
+    </message>
+    <message>
+        <source>it is no SEG-2 file</source>
+        <translation>es ist keine SEG-2-Datei</translation>
+    </message>
+    <message>
+        <source>it holds no trace</source>
+        <translation>sie enthält keine Spur</translation>
+    </message>
+    <message>
+        <source>the samples of its trace %1 have the data format code %2; the codes of SEG-2 are 1 to 5</source>
+        <translation>die Abtastwerte der Spur %1 haben den Datenformatcode %2; die Codes von SEG-2 sind 1 bis 5</translation>
+    </message>
+    <message>
+        <source>none of its traces has a usable SAMPLE_INTERVAL</source>
+        <translation>keine der Spuren hat ein brauchbares SAMPLE_INTERVAL</translation>
+    </message>
+    <message>
+        <source>nothing is read of %1 since no trace block is where the pointer leads</source>
+        <translation>von %1 wird nichts gelesen, da dort, wohin der Zeiger führt, kein Spurblock steht</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no usable SAMPLE_INTERVAL; that of another was taken</source>
+        <translation>der Header von %1 hat kein brauchbares SAMPLE_INTERVAL; das einer anderen Spur wurde genommen</translation>
+    </message>
+    <message>
+        <source>the DESCALING_FACTOR of %1 is no usable number; those samples are as stored</source>
+        <translation>der DESCALING_FACTOR von %1 ist keine brauchbare Zahl; diese Abtastwerte bleiben wie gespeichert</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no DESCALING_FACTOR, as others have; those samples are as stored</source>
+        <translation>der Header von %1 hat keinen DESCALING_FACTOR, wie ihn andere haben; diese Abtastwerte bleiben wie gespeichert</translation>
+    </message>
+    <message>
+        <source>the STACK of %1 is no usable number and was taken as 1</source>
+        <translation>STACK von %1 ist keine brauchbare Zahl und wurde als 1 genommen</translation>
+    </message>
+    <message>
+        <source>the DELAY of %1 is no finite number and was taken as 0</source>
+        <translation>DELAY von %1 ist keine endliche Zahl und wurde als 0 genommen</translation>
+    </message>
+    <message>
+        <source>the SKEW of %1 is up to %2 ms beyond whole samples; that part is not applied</source>
+        <translation>SKEW von %1 geht bis zu %2 ms über ganze Abtastwerte hinaus; dieser Teil wird nicht angewandt</translation>
+    </message>
+    <message>
+        <source>%1 bytes after its traces, zeros or too few for another one, were not read</source>
+        <translation>%1 Bytes nach den Spuren, Nullen oder zu wenige für eine weitere, wurden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>the number of samples in %1 is not the %2 of the header of the file; the trace headers were believed</source>
+        <translation>die Anzahl der Abtastwerte von %1 ist nicht die des Dateiheaders, %2; den Spurheadern wurde geglaubt</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells %2 samples, with which the traces do not fit the size of the file; %3 were taken</source>
+        <translation>der Header von %1 nennt %2 Abtastwerte, womit die Spuren nicht zur Größe der Datei passen; genommen wurden %3</translation>
+    </message>
+    <message>
+        <source>the traces, %1 among them, do not fit the size of the file with the %2 samples that its header tells; %3 were taken</source>
+        <translation>mit den %2 Abtastwerten, die der Dateiheader nennt, passen die Spuren nicht zur Größe der Datei, so bei %1; genommen wurden %3</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells a sample interval of %2 microseconds; the %3 of the header of the file were taken</source>
+        <translation>der Header von %1 nennt ein Abtastintervall von %2 Mikrosekunden; genommen wurden die %3 des Dateiheaders</translation>
+    </message>
+    <message>
+        <source>the sample interval of %1 is not the %2 microseconds of the header of the file; the trace headers were believed</source>
+        <translation>das Abtastintervall von %1 ist nicht das des Dateiheaders, %2 Mikrosekunden; den Spurheadern wurde geglaubt</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the coordinates of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>ein Skalar von %1 für die Koordinaten von %2 ist keiner, den der Standard kennt; sie wurden unverändert genommen</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the elevations of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>ein Skalar von %1 für die Höhen von %2 ist keiner, den der Standard kennt; sie wurden unverändert genommen</translation>
+    </message>
+    <message>
+        <source>the coordinates of %1 are degrees or seconds of arc, no metres; x was taken as it stands, so load a geometry file</source>
+        <translation>die Koordinaten von %1 sind Grad oder Bogensekunden, keine Meter; x wurde unverändert genommen, laden Sie also eine Geometriedatei</translation>
+    </message>
+    <message>
+        <source>its coordinates do not tell the geophones apart; they were placed by their offsets (bytes 37 to 40) from the shot</source>
+        <translation>die Koordinaten unterscheiden die Geophone nicht; sie wurden nach ihren Entfernungen vom Schuss (Bytes 37 bis 40) gesetzt</translation>
+    </message>
+    <message>
+        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
+        <translation>die Header nennen keine Positionen; Schüsse und Geophone stehen alle bei %1 m, laden Sie also eine Geometriedatei</translation>
+    </message>
+    <message>
+        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
+        <translation>nach den Headern stehen die Geophone aller Spuren bei %1 m; laden Sie eine Geometriedatei, wenn es mehr als eines gab</translation>
+    </message>
+    <message>
+        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
+        <translation>Schüsse liegen bis zu %1 m neben der Linie der Geophone; x wird unverändert genommen</translation>
+    </message>
+    <message>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
+        <translation>die Koordinaten liegen nicht entlang x; Entfernungen sind die entlang der Geraden durch die Geophone ab dem ersten Geophon dieser Datei, das bei x %1, y %2 steht; Geophone stehen bis zu %3 m daneben, Schüsse bis zu %4 m</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>nach den Headern stehen die Geophone über %1 km verteilt; wahrscheinlich ist ihr Skalar oder ihre Einheit falsch, prüfen Sie sie also oder laden Sie eine Geometriedatei</translation>
+    </message>
+    <message>
+        <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
+        <translation>die Höhen oder Schusstiefen von %1 liegen jenseits jedes Geländes; die Höhen der Datei wurden als 0 genommen</translation>
+    </message>
+    <message>
+        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>Schüsse liegen bis zu %1 m unter Gelände; ihre Höhen sind die der Schüsse, nicht die des Geländes darüber</translation>
+    </message>
+    <message>
+        <source>the shot depth of %1 is negative and was taken as 0</source>
+        <translation>die Schusstiefe von %1 ist negativ und wurde als 0 genommen</translation>
+    </message>
+    <message>
+        <source>its headers tell the elevations of geophones alone; shots were put at that of the geophone nearest to them</source>
+        <translation>die Header nennen nur Höhen der Geophone; Schüsse wurden auf die des jeweils nächsten Geophons gesetzt</translation>
+    </message>
+    <message>
+        <source>the time scalar of %1 is none that the standard knows; the delay was taken as it stands</source>
+        <translation>der Zeitskalar von %1 ist keiner, den der Standard kennt; die Verzögerung wurde unverändert genommen</translation>
+    </message>
+    <message>
+        <source>all of its traces are marked as dead or auxiliary (bytes 29 and 30); the marks were not believed</source>
+        <translation>alle Spuren sind als tot oder Hilfsspuren gekennzeichnet (Bytes 29 und 30); den Kennzeichen wurde nicht geglaubt</translation>
+    </message>
+    <message>
+        <source>zeros stand for the samples of %1, marked as dead or as dummies (bytes 29 and 30)</source>
+        <translation>für die Abtastwerte von %1 stehen Nullen, da als tot oder Platzhalter gekennzeichnet (Bytes 29 und 30)</translation>
+    </message>
+    <message>
+        <source>the samples of %1 were left out, marked as auxiliary (bytes 29 and 30: time breaks, upholes, sweeps and the like)</source>
+        <translation>die Abtastwerte von %1 wurden ausgelassen, da als Hilfsspuren gekennzeichnet (Bytes 29 und 30: Abrisse, Aufzeiten, Sweeps und dergleichen)</translation>
+    </message>
+    <message>
+        <source>its traces are not in the order of shots, or the headers do not tell which belong together; they were taken as one shot</source>
+        <translation>die Spuren stehen nicht in der Reihenfolge der Schüsse, oder die Header sagen nicht, welche zusammengehören; sie wurden als ein Schuss genommen</translation>
+    </message>
+    <message>
+        <source>its extended textual headers do not end in the file; it was read as if there were none</source>
+        <translation>die erweiterten Textheader enden nicht innerhalb der Datei; sie wurde gelesen, als gäbe es keine</translation>
+    </message>
+    <message>
+        <source>its lengths are in feet (bytes 3255 and 3256) and were taken to metres</source>
+        <translation>die Längen sind in Fuß (Bytes 3255 und 3256) und wurden in Meter umgerechnet</translation>
+    </message>
+    <message>
+        <source>its headers tell no number of samples</source>
+        <translation>die Header nennen keine Anzahl der Abtastwerte</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code 4 (fixed point with gain), which is not read; have the recording software export another one</source>
+        <translation>die Abtastwerte haben den Datenformatcode 4 (Festkomma mit Verstärkung), der nicht gelesen wird; lassen Sie das Aufnahmeprogramm einen anderen exportieren</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code %1, which the standard does not know; the file is damaged or no SEG-Y file</source>
+        <translation>die Abtastwerte haben den Datenformatcode %1, den der Standard nicht kennt; die Datei ist beschädigt oder keine SEG-Y-Datei</translation>
+    </message>
+    <message>
+        <source>the place of the first trace in its header (bytes 3521 to 3528) is not in the file and was not believed</source>
+        <translation>die Stelle der ersten Spur nach dem Header (Bytes 3521 bis 3528) liegt nicht in der Datei, und ihr wurde nicht geglaubt</translation>
+    </message>
+    <message>
+        <source>it is too short for a SEG-Y file with a trace</source>
+        <translation>sie ist zu kurz für eine SEG-Y-Datei mit einer Spur</translation>
+    </message>
+    <message>
+        <source>its bytes are swapped in pairs, which is not read</source>
+        <translation>die Bytes sind paarweise vertauscht, was nicht gelesen wird</translation>
+    </message>
+    <message>
+        <source>field record (bytes 9 to 12)</source>
+        <translation>Feldaufzeichnung (Bytes 9 bis 12)</translation>
+    </message>
+    <message>
+        <source>energy source point (bytes 17 to 20)</source>
+        <translation>Quellpunkt (Bytes 17 bis 20)</translation>
+    </message>
+    <message>
+        <source>position of the source</source>
+        <translation>Position der Quelle</translation>
+    </message>
+    <message>
+        <source>number of the trace in its record (bytes 13 to 16), which starts again</source>
+        <translation>Nummer der Spur in ihrer Aufzeichnung (Bytes 13 bis 16), die neu beginnt</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it is a text file, and no record of shots in %1; open a table of picks or positions as travel times or geometry</source>
+        <translation>es ist eine Textdatei und keine Aufzeichnung von Schüssen in %1; öffnen Sie eine Tabelle von Picks oder Positionen als Laufzeiten oder Geometrie</translation>
+    </message>
+    <message>
+        <source>by its content it is no file of %1</source>
+        <translation>dem Inhalt nach ist es keine Datei dieser Formate: %1</translation>
+    </message>
+    <message>
+        <source>it holds %1 shots, told apart by %2</source>
+        <translation>sie enthält %1 Schüsse, unterschieden nach: %2</translation>
+    </message>
+    <message>
+        <source>it is too short for an SU file with a trace</source>
+        <translation>sie ist zu kurz für eine SU-Datei mit einer Spur</translation>
+    </message>
+    <message>
+        <source>its first trace tells no number of samples</source>
+        <translation>die erste Spur nennt keine Anzahl der Abtastwerte</translation>
+    </message>
+    <message>
         <source>all %1 traces</source>
         <translation>allen %1 Spuren</translation>
     </message>
