@@ -1382,10 +1382,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Avertissement</translation>
     </message>
     <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>Le levé change. Ceci sera perdu&#xa0;:</translation>
-    </message>
-    <message>
         <source>Do you want to continue?</source>
         <translation>Voulez-vous continuer&#xa0;?</translation>
     </message>
@@ -3106,19 +3102,19 @@ Veuillez définir la position des géophones
     </message>
     <message>
         <source>%1 and what else this version does not know, %2 in all, is too much to be kept; it will not be in the next save</source>
-        <translation>%1 et ce que cette version ne connaît pas non plus, %2 en tout, est trop volumineux pour être conservé ; cela manquera au prochain enregistrement</translation>
+        <translation>%1 et ce que cette version ne connaît pas non plus, %2 en tout, est trop volumineux pour être conservé&#xa0;; cela manquera au prochain enregistrement</translation>
     </message>
     <message>
         <source>%1 was written by a newer version of Talvesk; it stays as it is, but %2</source>
-        <translation>%1 a été écrit par une version plus récente de Talvesk ; il reste tel quel, mais %2</translation>
+        <translation>%1 a été écrit par une version plus récente de Talvesk&#xa0;; il reste tel quel, mais %2</translation>
     </message>
     <message>
         <source>%1 is of another version of Talvesk; it stays as it is, but is not used</source>
-        <translation>%1 provient d&apos;une autre version de Talvesk ; il reste tel quel, mais n&apos;est pas utilisé</translation>
+        <translation>%1 provient d&apos;une autre version de Talvesk&#xa0;; il reste tel quel, mais n&apos;est pas utilisé</translation>
     </message>
     <message>
         <source>%1 of a newer version of Talvesk gave way to that of this version: what it told of has changed.</source>
-        <translation>%1 d&apos;une version plus récente de Talvesk a cédé la place à celui de cette version : ce qu&apos;il décrivait a changé.</translation>
+        <translation>%1 d&apos;une version plus récente de Talvesk a cédé la place à celui de cette version&#xa0;: ce qu&apos;il décrivait a changé.</translation>
     </message>
     <message>
         <source>it is about other picks than those of the project</source>
@@ -3126,11 +3122,11 @@ Veuillez définir la position des géophones
     </message>
     <message>
         <source>its suffix is none of %1</source>
-        <translation>son suffixe n&apos;est aucun de ceux-ci : %1</translation>
+        <translation>son suffixe n&apos;est aucun de ceux-ci&#xa0;: %1</translation>
     </message>
     <message>
         <source>Invalid input TT file : %1 (its suffix is none of %2)</source>
-        <translation>Fichier TT d&apos;entrée non valide : %1 (son suffixe n&apos;est aucun de ceux-ci : %2)</translation>
+        <translation>Fichier TT d&apos;entrée non valide&#xa0;: %1 (son suffixe n&apos;est aucun de ceux-ci&#xa0;: %2)</translation>
     </message>
     <message>
         <source>Open shot files</source>
@@ -3210,11 +3206,11 @@ Veuillez définir la position des géophones
     </message>
     <message>
         <source>another edit is under way; try again when it is through</source>
-        <translation>une autre modification est en cours ; réessayez quand elle sera terminée</translation>
+        <translation>une autre modification est en cours&#xa0;; réessayez quand elle sera terminée</translation>
     </message>
     <message>
         <source>the edit failed: %1</source>
-        <translation>la modification a échoué : %1</translation>
+        <translation>la modification a échoué&#xa0;: %1</translation>
     </message>
     <message>
         <source>no edit is under way</source>
@@ -3222,7 +3218,7 @@ Veuillez définir la position des géophones
     </message>
     <message>
         <source>%1 would change what it must not; nothing was changed</source>
-        <translation>« %1 » modifierait ce qui ne doit pas l&apos;être ; rien n&apos;a été modifié</translation>
+        <translation>«&#xa0;%1&#xa0;» modifierait ce qui ne doit pas l&apos;être&#xa0;; rien n&apos;a été modifié</translation>
     </message>
     <message>
         <source>Remove picks</source>
@@ -4191,20 +4187,12 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Aucune grille n&apos;a été construite et rien n&apos;a été inversé.</translation>
     </message>
     <message>
-        <source>Nothing has been inverted: the grid holds its starting model.</source>
-        <translation>Rien n&apos;a été inversé&#xa0;: la grille contient son modèle initial.</translation>
-    </message>
-    <message>
         <source>The parameters of the inversion are not known.</source>
         <translation>Les paramètres de l&apos;inversion ne sont pas connus.</translation>
     </message>
     <message>
         <source>Velocity section</source>
         <translation>Coupe de vitesse</translation>
-    </message>
-    <message>
-        <source>Velocity of the starting model</source>
-        <translation>Vitesse du modèle initial</translation>
     </message>
     <message>
         <source>Misfit</source>
@@ -4693,44 +4681,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
 </context>
 <context>
-    <name>talvesk::SectionSheet</name>
-    <message>
-        <source>Geophones</source>
-        <translation>Géophones</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Tirs</translation>
-    </message>
-    <message>
-        <source>Contours</source>
-        <translation>Isolignes</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ray(s)</source>
-        <translation>
-            <numerusform>%n rai</numerusform>
-            <numerusform>%n rais</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Coverage limit</source>
-        <translation>Limite de couverture</translation>
-    </message>
-    <message>
-        <source>Distance [m]</source>
-        <translation>Distance [m]</translation>
-    </message>
-    <message>
-        <source>Elevation [m]</source>
-        <translation>Altitude [m]</translation>
-    </message>
-    <message>
-        <source>Vertical exaggeration %1×</source>
-        <translation>Exagération verticale %1×</translation>
-    </message>
-</context>
-<context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
@@ -4860,7 +4810,7 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
     <message>
         <source>&amp;Memory for undo:</source>
-        <translation>&amp;Mémoire pour défaire :</translation>
+        <translation>&amp;Mémoire pour défaire&#xa0;:</translation>
     </message>
     <message>
         <source>When the steps that can be undone need more, the oldest go.</source>
@@ -6395,11 +6345,11 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     </message>
     <message>
         <source>Undo &quot;%1&quot;</source>
-        <translation>Défaire « %1 »</translation>
+        <translation>Défaire «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Redo &quot;%1&quot;</source>
-        <translation>Refaire « %1 »</translation>
+        <translation>Refaire «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Undone: %1</source>
@@ -6415,11 +6365,11 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     </message>
     <message>
         <source>Shot %1 is removed; Undo brings it back.</source>
-        <translation>Le tir %1 est supprimé ; « Défaire » le rétablit.</translation>
+        <translation>Le tir %1 est supprimé&#xa0;; «&#xa0;Défaire&#xa0;» le rétablit.</translation>
     </message>
     <message>
         <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
-        <translation>Les modifications les plus anciennes ne peuvent plus être défaites : elles demandaient plus de %1 Mo.</translation>
+        <translation>Les modifications les plus anciennes ne peuvent plus être défaites&#xa0;: elles demandaient plus de %1 Mo.</translation>
     </message>
 </context>
 <context>
@@ -7043,10 +6993,6 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Des cellules si petites rendent l&apos;inversion très lente, et elle ne s&apos;arrête qu&apos;entre deux itérations. Le quart de l&apos;espacement des géophones est de %1&#xa0;m.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Les résultats de la dernière inversion seront perdus.</translation>
-    </message>
-    <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
         <translation>Le quart du plus petit espacement des géophones, 0,1 m au moins. Décochée&#xa0;: la taille des cellules de la grille existante, la plus petite s&apos;il n&apos;y en a pas.</translation>
     </message>
@@ -7345,10 +7291,6 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>The layers make no velocity model.</source>
         <translation>Les couches ne forment pas un modèle de vitesse.</translation>
-    </message>
-    <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Les résultats de la dernière inversion seront perdus.</translation>
     </message>
     <message>
         <source>Do you want to put them into the grid all the same?</source>
