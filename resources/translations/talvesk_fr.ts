@@ -3244,6 +3244,298 @@ Veuillez définir la position des géophones
         <source>Draw picks</source>
         <translation>Tracer les pointés</translation>
     </message>
+    <message>
+        <source>the survey has no such shot; check the recordings again</source>
+        <translation>le levé n&apos;a pas ce tir&#xa0;; vérifiez à nouveau les enregistrements</translation>
+    </message>
+    <message>
+        <source>shot %1: a position is missing, no number or absurdly far away</source>
+        <translation>tir %1&#xa0;: une position manque, n&apos;est pas un nombre ou est absurdement lointaine</translation>
+    </message>
+    <message>
+        <source>shot %1: its geophone string has another number of geophones than the proposal; check the recordings again</source>
+        <translation>tir %1&#xa0;: son dispositif n&apos;a pas le même nombre de géophones que la proposition&#xa0;; vérifiez à nouveau les enregistrements</translation>
+    </message>
+    <message>
+        <source>there is no trace %1; check the recordings again</source>
+        <translation>il n&apos;y a pas de trace %1&#xa0;; vérifiez à nouveau les enregistrements</translation>
+    </message>
+    <message>
+        <source>no trace of the record holds anything</source>
+        <translation>aucune trace de l&apos;enregistrement ne contient quoi que ce soit</translation>
+    </message>
+    <message>
+        <source>dead: the samples of %1 are all the same</source>
+        <translation>trace morte&#xa0;: tous les échantillons sont identiques (%1)</translation>
+    </message>
+    <message>
+        <source>as good as dead: %1, at down to %2 % of the strength of the neighbours</source>
+        <translation>signal presque mort (%1)&#xa0;: l&apos;amplitude descend jusqu&apos;à %2&#xa0;% de celle des voisines</translation>
+    </message>
+    <message>
+        <source>clipped: the swings of %1 are cut off flat, up to %2 times; first breaks can be picked, amplitudes mean nothing</source>
+        <translation>écrêtage (%1)&#xa0;: les oscillations sont coupées à plat, jusqu&apos;à %2 fois&#xa0;; les premières arrivées peuvent être pointées, les amplitudes n&apos;ont pas de sens</translation>
+    </message>
+    <message>
+        <source>noisy: before the first arrival of %1 there is up to %2 times the noise of the neighbours, and it drowns the arrival</source>
+        <translation>bruit (%1)&#xa0;: avant la première arrivée, il atteint jusqu&apos;à %2 fois celui des voisines et noie l&apos;arrivée</translation>
+    </message>
+    <message>
+        <source>doubled: trace %1 is trace %2 once more (correlation %3); the arrivals around say that it belongs to the latter</source>
+        <translation>doublon&#xa0;: la trace %1 répète la trace %2 (corrélation %3)&#xa0;; d&apos;après les arrivées alentour, le signal appartient à cette dernière</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>traces %1</source>
+        <translation>traces %1</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>tirs %1</translation>
+    </message>
+    <message>
+        <source>shot position</source>
+        <translation>position du tir</translation>
+    </message>
+    <message>
+        <source>station numbers</source>
+        <translation>numéros de station</translation>
+    </message>
+    <message>
+        <source>repeated positions</source>
+        <translation>positions répétées</translation>
+    </message>
+    <message>
+        <source>reversed order</source>
+        <translation>ordre inversé</translation>
+    </message>
+    <message>
+        <source>doubled trace</source>
+        <translation>trace en double</translation>
+    </message>
+    <message>
+        <source>moved traces</source>
+        <translation>traces déplacées</translation>
+    </message>
+    <message>
+        <source>geophone off the line</source>
+        <translation>géophone hors de la ligne</translation>
+    </message>
+    <message>
+        <source>trigger time</source>
+        <translation>instant de déclenchement</translation>
+    </message>
+    <message>
+        <source>dead traces</source>
+        <translation>traces mortes</translation>
+    </message>
+    <message>
+        <source>clipped traces</source>
+        <translation>traces écrêtées</translation>
+    </message>
+    <message>
+        <source>noisy traces</source>
+        <translation>traces bruitées</translation>
+    </message>
+    <message>
+        <source>reversed polarity</source>
+        <translation>polarité inversée</translation>
+    </message>
+    <message>
+        <source>mistimed trace</source>
+        <translation>trace décalée en temps</translation>
+    </message>
+    <message>
+        <source>sample intervals</source>
+        <translation>pas d&apos;échantillonnage</translation>
+    </message>
+    <message>
+        <source>repeated shot</source>
+        <translation>tir répété</translation>
+    </message>
+    <message>
+        <source>overlapping spreads</source>
+        <translation>dispositifs en recouvrement</translation>
+    </message>
+    <message>
+        <source>no elevations</source>
+        <translation>aucune altitude</translation>
+    </message>
+    <message>
+        <source>move the record later by %1 ms</source>
+        <translation>retarder l&apos;enregistrement de %1 ms</translation>
+    </message>
+    <message>
+        <source>move the record earlier by %1 ms</source>
+        <translation>avancer l&apos;enregistrement de %1 ms</translation>
+    </message>
+    <message>
+        <source>kill %1</source>
+        <translation>neutraliser&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>reverse the polarity of %1</source>
+        <translation>inverser la polarité&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>mute %1 before %2 ms</source>
+        <translation>mute avant %2 ms&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>read the channels from the last to the first</source>
+        <translation>lire les canaux du dernier au premier</translation>
+    </message>
+    <message>
+        <source>put the shot at %1 m</source>
+        <translation>placer le tir à %1 m</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3 m</source>
+        <translation>placer les %1 géophones de son dispositif de %2 à %3 m</translation>
+    </message>
+    <message>
+        <source>stack it with %1; the stack alone counts then</source>
+        <translation>sommer avec&#xa0;: %1&#xa0;; seule la somme compte alors</translation>
+    </message>
+    <message>
+        <source>disable the shot</source>
+        <translation>désactiver le tir</translation>
+    </message>
+    <message>
+        <source>exchanged: over all shots the arrivals of trace %1 belong to the place of trace %2, and the other way round</source>
+        <translation>traces échangées&#xa0;: sur tous les tirs, les arrivées de la trace %1 appartiennent à la place de la trace %2, et inversement</translation>
+    </message>
+    <message>
+        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
+        <translation>hors de la ligne&#xa0;: le géophone %1 est indiqué à %2 m&#xa0;; des deux côtés, ses arrivées sont celles de %3 m</translation>
+    </message>
+    <message>
+        <source>%1 geophones are said to be at %2 places only</source>
+        <translation>%1 géophones sont indiqués à %2 positions seulement</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
+        <translation>%1&#xa0;; sur %2 tirs, les temps minimaux se déplacent de %3 canaux pour chaque mètre du tir&#xa0;: le géophone 1 est donc à %4 m et le dernier à %5 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>le tir est indiqué à %1 m&#xa0;; le nom du fichier dit %2 m, et les temps minimaux du levé suivent les noms</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
+        <translation>le tir est indiqué à une altitude de %1 m, et aucune altitude des géophones ne peut être la sienne</translation>
+    </message>
+    <message>
+        <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
+        <translation>les canaux vont à rebours des géophones&#xa0;: pour %1 tirs sur %2, les temps ne sont minimaux à côté du tir que si le dispositif est lu du dernier géophone au premier</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>tous les tirs sont indiqués à %1 m&#xa0;; le nom du fichier dit %2 m, et les temps minimaux du levé suivent les noms</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
+        <translation>tous les tirs sont indiqués à %1 m&#xa0;; les temps de celui-ci sont minimaux à %2 m</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
+        <translation>tous les tirs sont indiqués à %1 m&#xa0;; celui-ci était à une extrémité des géophones ou au-delà</translation>
+    </message>
+    <message>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
+        <translation>les canaux de cet enregistrement vont à rebours des géophones&#xa0;: lus du dernier au premier, les temps sont minimaux à côté du tir, à %1 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>le tir est indiqué à %1 m, mais les temps croissent à partir de %2 m tout au long des géophones&#xa0;: il était à cette extrémité ou au-delà</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
+        <translation>le tir est indiqué à %1 m, mais les temps sont minimaux à %2 m, à côté du géophone %3, et croissent de part et d&apos;autre</translation>
+    </message>
+    <message>
+        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
+        <translation>%1&#xa0;; ou bien les géophones sont espacés de %2 m et non de %3 m, ce qu&apos;aucun autre tir ne permet de trancher</translation>
+    </message>
+    <message>
+        <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
+        <translation>trace décalée en temps&#xa0;: la trace %1 a sa première arrivée à %2 ms, ses voisines la laissent attendre à %3 ms, et à partir de là elle leur ressemble (corrélation %4)</translation>
+    </message>
+    <message>
+        <source>reversed: the first swings of %1 go against those of the neighbours, which agree with each other (correlation -%2 at least)</source>
+        <translation>polarité inversée (%1)&#xa0;: les premières oscillations vont à l&apos;encontre de celles des voisines, qui concordent entre elles (corrélation d&apos;au moins -%2)</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
+        <translation>le tir %1 a été enregistré au même point, à %2 m, avec %3 fois le rapport signal sur bruit de celui-ci</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
+        <translation>le tir %1 a été enregistré au même point, à %2 m&#xa0;; ses arrivées sont plus tardives de %3 ms</translation>
+    </message>
+    <message>
+        <source>the record is that of shot %1 once more, sample for sample</source>
+        <translation>l&apos;enregistrement répète celui du tir %1, échantillon par échantillon</translation>
+    </message>
+    <message>
+        <source>the sample intervals of its traces differ, %1 to %2 ms: the times of some are wrong unless the recorder meant it</source>
+        <translation>les pas d&apos;échantillonnage de ses traces diffèrent, de %1 à %2 ms&#xa0;: les temps de certaines sont faux, sauf si le sismographe était réglé ainsi</translation>
+    </message>
+    <message>
+        <source>its traces have no sample interval: they have no times</source>
+        <translation>ses traces n&apos;ont pas de pas d&apos;échantillonnage&#xa0;: elles n&apos;ont pas de temps</translation>
+    </message>
+    <message>
+        <source>the sample interval is %2 ms in %1, and %3 ms in most others: right if the recorder was set so</source>
+        <translation>le pas d&apos;échantillonnage est de %2 ms (%1), et de %3 ms pour la plupart des autres&#xa0;: correct si le sismographe était réglé ainsi</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>aucun géophone entre %1 et %2 m&#xa0;: le terrain n&apos;y est vu d&apos;aucun côté, sauf si des tirs portent au-delà</translation>
+    </message>
+    <message>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
+        <translation>les dispositifs %1 et %2 se recouvrent et ont des altitudes différentes en %3 endroits, de %4 m au plus, à %5 m</translation>
+    </message>
+    <message>
+        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>aucune altitude&#xa0;: tous les tirs et géophones sont à %1 m&#xa0;; si le terrain n&apos;est pas plat, lisez-les dans un tableau, dans la géométrie du levé</translation>
+    </message>
+    <message>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
+        <translation>la position %1 du tir compte des stations&#xa0;: sur %2 tirs, les temps minimaux se déplacent de %3 m pour chaque unité de la position</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
+        <translation>les positions des géophones ne sont pas des mètres&#xa0;: sur %1 tirs, les temps minimaux se déplacent de %2 pour chaque mètre du tir&#xa0;; des géophones espacés de %3 m à partir de %4 m les ont à côté des tirs</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation>en retard</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation>en avance</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: %3 times to the places of other shots differ by that from the times back, give or take %4 ms</source>
+        <translation>l&apos;enregistrement est %2 de %1 ms&#xa0;: %3 temps vers les emplacements d&apos;autres tirs diffèrent d&apos;autant des temps de retour, à %4 ms près</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: its times differ by that from those of %3 other shots at equal distances, give or take %4 ms</source>
+        <translation>l&apos;enregistrement est %2 d&apos;environ %1 ms&#xa0;: ses temps diffèrent d&apos;autant de ceux de %3 autres tirs à distances égales, à %4 ms près</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
+        <translation>l&apos;enregistrement est %2 de %1 ms&#xa0;: tous les canaux ont une impulsion simultanée à %3 ms, avant que quoi que ce soit ait pu arriver</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>l&apos;enregistrement est %2 d&apos;environ %1 ms&#xa0;: les géophones les plus proches du tir, à %3 m, situeraient le coup entre %4 et %5 ms, quel que soit le terrain</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
