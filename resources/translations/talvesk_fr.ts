@@ -3536,6 +3536,346 @@ Veuillez définir la position des géophones
         <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
         <translation>l&apos;enregistrement est %2 d&apos;environ %1 ms&#xa0;: les géophones les plus proches du tir, à %3 m, situeraient le coup entre %4 et %5 ms, quel que soit le terrain</translation>
     </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it has %1 columns and no heading that names one for the distance and one for the elevation</source>
+        <translation>il a %1 colonnes et aucun en-tête qui en nomme une pour la distance et une pour l&apos;altitude</translation>
+    </message>
+    <message>
+        <source>it holds no point</source>
+        <translation>il ne contient aucun point</translation>
+    </message>
+    <message>
+        <source>Unified data format (%1)</source>
+        <translation>Format de données unifié (%1)</translation>
+    </message>
+    <message>
+        <source>no heading names shot, geophone and time</source>
+        <translation>aucun en-tête ne nomme tir, géophone et temps</translation>
+    </message>
+    <message>
+        <source>%1 lines above the heading were ignored</source>
+        <translation>%1 lignes au-dessus de l&apos;en-tête ont été ignorées</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 were taken for positions in metres</source>
+        <translation>les colonnes %1 et %2 ont été prises comme positions en mètres</translation>
+    </message>
+    <message>
+        <source>the heading does not say whether its times are in ms or in s</source>
+        <translation>l&apos;en-tête ne dit pas si ses temps sont en ms ou en s</translation>
+    </message>
+    <message>
+        <source>no row follows the heading</source>
+        <translation>aucune ligne ne suit l&apos;en-tête</translation>
+    </message>
+    <message>
+        <source>there are more than %1 geophones</source>
+        <translation>il y a plus de %1 géophones</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows have no time above 0, or are not valid, and are no picks</source>
+        <translation>%1 lignes sur %2 n&apos;ont pas de temps supérieur à 0, ou ne sont pas valides, et ne sont pas des pointés</translation>
+    </message>
+    <message>
+        <source>%1 shots and %2 geophones are far too many for %3 rows</source>
+        <translation>%1 tirs et %2 géophones sont bien trop nombreux pour %3 lignes</translation>
+    </message>
+    <message>
+        <source>no column tells the elevations of the shots; they were put on the line of the geophones</source>
+        <translation>aucune colonne ne donne les altitudes des tirs&#xa0;; ils ont été placés sur la ligne des géophones</translation>
+    </message>
+    <message>
+        <source>no heading names a column for the distance and one for the elevation</source>
+        <translation>aucun en-tête ne nomme une colonne pour la distance et une pour l&apos;altitude</translation>
+    </message>
+    <message>
+        <source>the unified data format</source>
+        <translation>format de données unifié</translation>
+    </message>
+    <message>
+        <source>a table with a heading</source>
+        <translation>tableau avec en-tête</translation>
+    </message>
+    <message>
+        <source>a pick table of long lines</source>
+        <translation>tableau de pointés à longues lignes</translation>
+    </message>
+    <message>
+        <source>%1 times are of a shot and geophone that had one already; the first of them counts</source>
+        <translation>%1 temps concernent un tir et un géophone qui en avaient déjà un&#xa0;; le premier compte</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>position</translation>
+    </message>
+    <message>
+        <source>number of positions</source>
+        <translation>nombre de positions</translation>
+    </message>
+    <message>
+        <source>number of measurements</source>
+        <translation>nombre de mesures</translation>
+    </message>
+    <message>
+        <source>number of points of topography</source>
+        <translation>nombre de points de topographie</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>colonne %1</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is not a number</source>
+        <translation>%2 (%1) n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is out of range</source>
+        <translation>%2 (%1) est hors limites</translation>
+    </message>
+    <message>
+        <source>all shot files count as read by the program&apos;s rules; the traces are those that were saved</source>
+        <translation>tous les fichiers de tirs comptent comme lus selon les règles du programme&#xa0;; les traces sont celles qui ont été enregistrées dans le projet</translation>
+    </message>
+    <message>
+        <source>what was mended in its recordings is not known; traces and picks stay as they are</source>
+        <translation>ce qui a été corrigé dans ses enregistrements n&apos;est pas connu&#xa0;; les traces et les pointés restent tels quels</translation>
+    </message>
+    <message>
+        <source>there is a grid, but a position lies more than 100 000 km away</source>
+        <translation>il y a une grille, mais une position se trouve à plus de 100&#xa0;000 km</translation>
+    </message>
+    <message>
+        <source>mends.xml: the mends of these shots are not those of their traces, and are left out; traces and picks stay as they are: %1</source>
+        <translation>mends.xml&#xa0;: les corrections de ces tirs ne sont pas celles de leurs traces et sont écartées&#xa0;; les traces et les pointés restent tels quels&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it is about other shot files than those of the project</source>
+        <translation>il porte sur d&apos;autres fichiers de tirs que ceux du projet</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m</source>
+        <translation>%1 à %2 m</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules find no trace in it</source>
+        <translation>les règles du programme n&apos;y trouvent aucune trace</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces of %3 shots</source>
+        <translation>les règles du programme lisent %1 de ses %2 traces de %3 tirs</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces</source>
+        <translation>les règles du programme lisent %1 de ses %2 traces</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules make one shot of its %1</source>
+        <translation>les règles du programme font un seul tir de ses %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are all zeros by the program&apos;s rules</source>
+        <translation>%1 traces sur %2 sont toutes nulles selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>the samples of %1 of %2 traces are not those of the standard, and not for their scale alone</source>
+        <translation>les échantillons de %1 traces sur %2 ne sont pas ceux de la norme, et pas seulement par leur échelle</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are shorter by the program&apos;s rules</source>
+        <translation>%1 traces sur %2 sont plus courtes selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>the sample interval is %1 ms by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>le pas d&apos;échantillonnage est de %1 ms selon les règles du programme, de %2 ms selon la norme</translation>
+    </message>
+    <message>
+        <source>its records start %1 ms from the shot by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>ses enregistrements commencent à %1 ms du tir selon les règles du programme, à %2 ms selon la norme</translation>
+    </message>
+    <message>
+        <source>its geophones are at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>positions de ses géophones&#xa0;: %1 selon les règles du programme, %2 selon la norme</translation>
+    </message>
+    <message>
+        <source>its shot is at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>position de son tir&#xa0;: %1 selon les règles du programme, %2 selon la norme</translation>
+    </message>
+    <message>
+        <source>the elevations of %1 of %2 traces are others by the program&apos;s rules</source>
+        <translation>les altitudes de %1 traces sur %2 sont autres selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules cannot read it</source>
+        <translation>les règles du programme ne peuvent pas le lire</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 de plus</translation>
+    </message>
+    <message>
+        <source>the traces of shot %1 differ in sample interval or in the time of their first sample; they cannot be in one record</source>
+        <translation>les traces du tir %1 n&apos;ont pas toutes le même pas d&apos;échantillonnage ou le même temps du premier échantillon&#xa0;; elles ne peuvent pas être dans un même enregistrement</translation>
+    </message>
+    <message>
+        <source>it has no sample interval</source>
+        <translation>il n&apos;a pas de pas d&apos;échantillonnage</translation>
+    </message>
+    <message>
+        <source>its traces have %1 samples; a file holds %2</source>
+        <translation>ses traces ont %1 échantillons&#xa0;; un fichier en contient au plus %2</translation>
+    </message>
+    <message>
+        <source>it has %1 traces; a SEG-2 file holds %2</source>
+        <translation>il a %1 traces&#xa0;; un fichier SEG-2 en contient au plus %2</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>tir %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>read by the program&apos;s rules, the files have no elevations, and no positions that are not whole metres; read them by the standard</source>
+        <translation>lus selon les règles du programme, les fichiers n&apos;ont pas d&apos;altitudes, ni de positions qui ne soient pas des mètres entiers&#xa0;; lisez-les selon la norme</translation>
+    </message>
+    <message>
+        <source>%1 shots are disabled or have no samples and were left out</source>
+        <translation>%1 tirs sont désactivés ou sans échantillons et ont été écartés</translation>
+    </message>
+    <message>
+        <source>%1 traces begin at the shot; what was recorded before is not in the files</source>
+        <translation>%1 traces commencent au tir&#xa0;; ce qui a été enregistré avant n&apos;est pas dans les fichiers</translation>
+    </message>
+    <message>
+        <source>%1 samples were rounded to the seven digits of a 32-bit float</source>
+        <translation>%1 échantillons ont été arrondis aux sept chiffres d&apos;un flottant de 32 bits</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>interruption demandée</translation>
+    </message>
+    <message>
+        <source>shot %1 has no samples</source>
+        <translation>le tir %1 n&apos;a pas d&apos;échantillons</translation>
+    </message>
+    <message>
+        <source>shot %1, trace %2: a sample is too large for a file</source>
+        <translation>tir %1, trace %2&#xa0;: un échantillon est trop grand pour un fichier</translation>
+    </message>
+    <message>
+        <source>the survey has no records to be written</source>
+        <translation>le levé n&apos;a pas d&apos;enregistrements à écrire</translation>
+    </message>
+    <message>
+        <source>its sample interval of %1 ms is no whole number of microseconds up to 65535, which is all that SEG-Y can hold; write SEG-2</source>
+        <translation>son pas d&apos;échantillonnage de %1 ms n&apos;est pas un nombre entier de microsecondes jusqu&apos;à 65535, tout ce que SEG-Y peut contenir&#xa0;; écrivez en SEG-2</translation>
+    </message>
+    <message>
+        <source>it begins %1 ms after the shot, which SEG-Y cannot hold; write SEG-2</source>
+        <translation>il commence %1 ms après le tir, ce que SEG-Y ne peut pas contenir&#xa0;; écrivez en SEG-2</translation>
+    </message>
+    <message>
+        <source>all %1 traces</source>
+        <translation>les %1 traces</translation>
+    </message>
+    <message>
+        <source>it cannot be read back: %1</source>
+        <translation>il ne peut pas être relu&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>read back, string %1 will have another number of geophones</source>
+        <translation>à la relecture, le dispositif %1 aura un autre nombre de géophones</translation>
+    </message>
+    <message>
+        <source>the format has no place for the errors of the picks</source>
+        <translation>le format n&apos;a pas de place pour les erreurs des pointés</translation>
+    </message>
+    <message>
+        <source>it was read as %1; the reader of its suffix cannot read line %2</source>
+        <translation>il a été lu comme %1&#xa0;; le lecteur de son suffixe ne peut pas lire la ligne %2</translation>
+    </message>
+    <message>
+        <source>%1; as %2, line %3: %4</source>
+        <translation>%1&#xa0;; comme %2, ligne %3&#xa0;: %4</translation>
+    </message>
+    <message>
+        <source>shot %1: picks left out, as the shot is disabled or their traces are killed: %2</source>
+        <translation>tir %1&#xa0;: pointés écartés, car le tir est désactivé ou leurs traces sont neutralisées&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the file tells errors of its picks, which the survey does not keep</source>
+        <translation>le fichier indique des erreurs de ses pointés, que le levé ne conserve pas</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 lines</source>
+        <translation>le fichier se termine après %1 lignes sur %2</translation>
+    </message>
+    <message>
+        <source>the file holds no measurement</source>
+        <translation>le fichier ne contient aucune mesure</translation>
+    </message>
+    <message>
+        <source>no columns &quot;s&quot;, &quot;g&quot; and &quot;t&quot; are named above the numbers</source>
+        <translation>aucune colonne «&#xa0;s&#xa0;», «&#xa0;g&#xa0;» et «&#xa0;t&#xa0;» n&apos;est nommée au-dessus des nombres</translation>
+    </message>
+    <message>
+        <source>the unit of the column %1 is none of time</source>
+        <translation>l&apos;unité de la colonne %1 n&apos;est pas une unité de temps</translation>
+    </message>
+    <message>
+        <source>the line holds %1</source>
+        <translation>la ligne contient %1</translation>
+    </message>
+    <message>
+        <source>the %1 %2 is none of the %3 positions</source>
+        <translation>la valeur %2 (%1) n&apos;est aucune des %3 positions</translation>
+    </message>
+    <message>
+        <source>after the measurements neither the end nor a number of points of topography follows</source>
+        <translation>après les mesures ne suit ni la fin ni un nombre de points de topographie</translation>
+    </message>
+    <message>
+        <source>the second of three coordinates was not read</source>
+        <translation>la deuxième de trois coordonnées n&apos;a pas été lue</translation>
+    </message>
+    <message>
+        <source>the third coordinate is 0 everywhere; the second one was taken for the elevation</source>
+        <translation>la troisième coordonnée est partout 0&#xa0;; la deuxième a été prise comme altitude</translation>
+    </message>
+    <message>
+        <source>the positions have elevations; the topography was not used</source>
+        <translation>les positions ont des altitudes&#xa0;; la topographie n&apos;a pas été utilisée</translation>
+    </message>
+    <message>
+        <source>%1 positions are no shot and no geophone of any time; they were left out</source>
+        <translation>%1 positions ne sont ni le tir ni le géophone d&apos;aucun temps&#xa0;; elles ont été écartées</translation>
+    </message>
+    <message>
+        <source>%1 times are marked as not valid and are no picks</source>
+        <translation>%1 temps sont marqués comme non valides et ne sont pas des pointés</translation>
+    </message>
+    <message>
+        <source>%1 times are not above 0 and are no picks</source>
+        <translation>%1 temps ne sont pas supérieurs à 0 et ne sont pas des pointés</translation>
+    </message>
+    <message>
+        <source>%1 shots have no pick and are not in the file</source>
+        <translation>%1 tirs n&apos;ont aucun pointé et ne sont pas dans le fichier</translation>
+    </message>
+    <message>
+        <source>%1 geophones have no pick; the file has their positions only</source>
+        <translation>%1 géophones n&apos;ont aucun pointé&#xa0;; le fichier n&apos;a que leurs positions</translation>
+    </message>
+    <message>
+        <source>%1 shots lie at the place of another one; the file does not tell their picks apart</source>
+        <translation>%1 tirs sont à l&apos;endroit d&apos;un autre&#xa0;; le fichier ne distingue pas leurs pointés</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
