@@ -3781,6 +3781,334 @@ Veuillez définir la position des géophones
         <translation>il commence %1 ms après le tir, ce que SEG-Y ne peut pas contenir&#xa0;; écrivez en SEG-2</translation>
     </message>
     <message>
+        <source>it is miniSEED of version 3; version 2 is read</source>
+        <translation>c&apos;est du miniSEED de version 3&#xa0;; la version 2 est lue</translation>
+    </message>
+    <message>
+        <source>it is no miniSEED file</source>
+        <translation>ce n&apos;est pas un fichier miniSEED</translation>
+    </message>
+    <message>
+        <source>its records have no blockette 1000, which tells their encoding</source>
+        <translation>ses enregistrements n&apos;ont pas de blockette 1000, qui indique leur codage</translation>
+    </message>
+    <message>
+        <source>its samples have the encoding %1; 1, 3, 4, 5, 10 and 11 are read</source>
+        <translation>ses échantillons ont le codage %1&#xa0;; 1, 3, 4, 5, 10 et 11 sont lus</translation>
+    </message>
+    <message>
+        <source>none of its records has samples of a series</source>
+        <translation>aucun de ses enregistrements n&apos;a d&apos;échantillons d&apos;une série</translation>
+    </message>
+    <message>
+        <source>miniSEED tells neither positions nor the time of the shot: all positions are 0 and times count from the first sample; give the survey its geometry</source>
+        <translation>miniSEED n&apos;indique ni les positions ni l&apos;instant du tir&#xa0;: toutes les positions sont à 0 et les temps comptent à partir du premier échantillon&#xa0;; donnez au levé sa géométrie</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others; zeros stand in front</source>
+        <translation>enregistrement commençant plus tard que d&apos;autres (%1)&#xa0;; des zéros le précèdent</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others, by longer than it lasts; that is not applied and its times do not compare</source>
+        <translation>enregistrement commençant plus tard que d&apos;autres, de plus que sa durée (%1)&#xa0;; ce retard n&apos;est pas appliqué et les temps ne sont pas comparables</translation>
+    </message>
+    <message>
+        <source>zeros stand for gaps in the record of %1</source>
+        <translation>lacunes dans l&apos;enregistrement remplacées par des zéros (%1)</translation>
+    </message>
+    <message>
+        <source>records of %1 overlap; the later ones count</source>
+        <translation>enregistrements qui se recouvrent (%1)&#xa0;; les plus tardifs comptent</translation>
+    </message>
+    <message>
+        <source>records left out after a gap that is longer than what was recorded: %1</source>
+        <translation>enregistrements écartés après une lacune plus longue que ce qui a été enregistré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose sample rate is not that of the first of their channel: %1</source>
+        <translation>enregistrements écartés, de fréquence d&apos;échantillonnage autre que celle du premier de leur canal&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose encoding, such as %1, is not read: %2</source>
+        <translation>enregistrements écartés dont le codage, par exemple %1, n&apos;est pas lu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>records left out that have no samples of a series: %1</source>
+        <translation>enregistrements écartés, sans échantillons d&apos;une série&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>records left out that have no blockette 1000: %1</source>
+        <translation>enregistrements écartés, sans blockette 1000&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>bytes left out that are of no record: %1</source>
+        <translation>octets écartés qui ne sont d&apos;aucun enregistrement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>samples that headers promise and records do not hold: %1</source>
+        <translation>échantillons promis par les en-têtes et absents des enregistrements&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>damaged records, which do not end at the sample that they tell: %1</source>
+        <translation>enregistrements endommagés, qui ne finissent pas à l&apos;échantillon qu&apos;ils indiquent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins after the shot, by up to %2 ms; zeros stand in front, in whole samples</source>
+        <translation>enregistrement commençant après le tir, jusqu&apos;à %2 ms plus tard (%1)&#xa0;; des zéros le précèdent, en échantillons entiers</translation>
+    </message>
+    <message>
+        <source>the header of %1 says that the record begins up to %2 ms after the shot, longer than it lasts; that delay is not applied</source>
+        <translation>d&apos;après l&apos;en-tête, l&apos;enregistrement commence jusqu&apos;à %2 ms après le tir, plus que sa durée (%1)&#xa0;; ce délai n&apos;est pas appliqué</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells no %2; 0 stands for it</source>
+        <translation>donnée absente de l&apos;en-tête&#xa0;: %2 (%1)&#xa0;; 0 la remplace</translation>
+    </message>
+    <message>
+        <source>the UNITS of its header, %1, are not known; its positions were taken as metres</source>
+        <translation>la valeur UNITS de son en-tête, %1, n&apos;est pas connue&#xa0;; ses positions ont été prises en mètres</translation>
+    </message>
+    <message>
+        <source>its positions are in %1 and were converted to metres, %2 m each</source>
+        <translation>ses positions sont en %1 et ont été converties en mètres, à raison de %2 m</translation>
+    </message>
+    <message>
+        <source>its receiver positions look like longitude and latitude in degrees, not like metres; give the survey its geometry</source>
+        <translation>ses positions de récepteurs ressemblent à des longitudes et latitudes en degrés, pas à des mètres&#xa0;; donnez au levé sa géométrie</translation>
+    </message>
+    <message>
+        <source>its geophones differ in y but not in x; y was taken as the position along the line</source>
+        <translation>ses géophones diffèrent en y mais pas en x&#xa0;; y a été pris comme position le long de la ligne</translation>
+    </message>
+    <message>
+        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
+        <translation>tous ses géophones sont à x = %1 m&#xa0;; donnez au levé sa géométrie</translation>
+    </message>
+    <message>
+        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
+        <translation>ses géophones diffèrent jusqu&apos;à %1 m en y, qui n&apos;est pas utilisé&#xa0;; les positions le long de la ligne sont x</translation>
+    </message>
+    <message>
+        <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
+        <translation>ses numéros de canal ne sont pas croissants&#xa0;; les traces restent dans l&apos;ordre du fichier</translation>
+    </message>
+    <message>
+        <source>every trace tells a source position of its own; the file was read as one shot, at the first of them</source>
+        <translation>chaque trace indique sa propre position de source&#xa0;; le fichier a été lu comme un seul tir, à la première de ces positions</translation>
+    </message>
+    <message>
+        <source>it is no SEG-2 file</source>
+        <translation>ce n&apos;est pas un fichier SEG-2</translation>
+    </message>
+    <message>
+        <source>it holds no trace</source>
+        <translation>il ne contient aucune trace</translation>
+    </message>
+    <message>
+        <source>the samples of its trace %1 have the data format code %2; the codes of SEG-2 are 1 to 5</source>
+        <translation>les échantillons de sa trace %1 ont le code de format de données %2&#xa0;; les codes de SEG-2 vont de 1 à 5</translation>
+    </message>
+    <message>
+        <source>none of its traces has a usable SAMPLE_INTERVAL</source>
+        <translation>aucune de ses traces n&apos;a de SAMPLE_INTERVAL utilisable</translation>
+    </message>
+    <message>
+        <source>nothing is read of %1 since no trace block is where the pointer leads</source>
+        <translation>rien n&apos;est lu, car il n&apos;y a pas de bloc de trace là où mène le pointeur (%1)</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no usable SAMPLE_INTERVAL; that of another was taken</source>
+        <translation>l&apos;en-tête n&apos;a pas de SAMPLE_INTERVAL utilisable (%1)&#xa0;; celui d&apos;une autre trace a été retenu</translation>
+    </message>
+    <message>
+        <source>the DESCALING_FACTOR of %1 is no usable number; those samples are as stored</source>
+        <translation>DESCALING_FACTOR n&apos;est pas un nombre utilisable (%1)&#xa0;; ces échantillons sont tels qu&apos;écrits dans le fichier</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no DESCALING_FACTOR, as others have; those samples are as stored</source>
+        <translation>l&apos;en-tête n&apos;a pas de DESCALING_FACTOR, contrairement à d&apos;autres (%1)&#xa0;; ces échantillons sont tels qu&apos;écrits dans le fichier</translation>
+    </message>
+    <message>
+        <source>the STACK of %1 is no usable number and was taken as 1</source>
+        <translation>STACK n&apos;est pas un nombre utilisable et a été pris égal à 1 (%1)</translation>
+    </message>
+    <message>
+        <source>the DELAY of %1 is no finite number and was taken as 0</source>
+        <translation>DELAY n&apos;est pas un nombre fini et a été pris égal à 0 (%1)</translation>
+    </message>
+    <message>
+        <source>the SKEW of %1 is up to %2 ms beyond whole samples; that part is not applied</source>
+        <translation>SKEW dépasse les échantillons entiers, de %2 ms au plus (%1)&#xa0;; cette partie n&apos;est pas appliquée</translation>
+    </message>
+    <message>
+        <source>%1 bytes after its traces, zeros or too few for another one, were not read</source>
+        <translation>%1 octets après ses traces, des zéros ou trop peu pour une autre, n&apos;ont pas été lus</translation>
+    </message>
+    <message>
+        <source>the number of samples in %1 is not the %2 of the header of the file; the trace headers were believed</source>
+        <translation>le nombre d&apos;échantillons n&apos;est pas celui de l&apos;en-tête du fichier, %2 (%1)&#xa0;; les en-têtes de trace ont été crus</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells %2 samples, with which the traces do not fit the size of the file; %3 were taken</source>
+        <translation>l&apos;en-tête indique %2 échantillons (%1), avec lesquels les traces ne correspondent pas à la taille du fichier&#xa0;; %3 ont été retenus</translation>
+    </message>
+    <message>
+        <source>the traces, %1 among them, do not fit the size of the file with the %2 samples that its header tells; %3 were taken</source>
+        <translation>les traces, dont %1, ne correspondent pas à la taille du fichier avec les %2 échantillons indiqués par son en-tête&#xa0;; %3 ont été retenus</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells a sample interval of %2 microseconds; the %3 of the header of the file were taken</source>
+        <translation>l&apos;en-tête indique un pas d&apos;échantillonnage de %2 microsecondes (%1)&#xa0;; les %3 de l&apos;en-tête du fichier ont été retenues</translation>
+    </message>
+    <message>
+        <source>the sample interval of %1 is not the %2 microseconds of the header of the file; the trace headers were believed</source>
+        <translation>le pas d&apos;échantillonnage n&apos;est pas celui de l&apos;en-tête du fichier, %2 microsecondes (%1)&#xa0;; les en-têtes de trace ont été crus</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the coordinates of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>le facteur d&apos;échelle %1 des coordonnées n&apos;est pas de ceux que connaît la norme (%2)&#xa0;; elles ont été prises telles quelles</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the elevations of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>le facteur d&apos;échelle %1 des altitudes n&apos;est pas de ceux que connaît la norme (%2)&#xa0;; elles ont été prises telles quelles</translation>
+    </message>
+    <message>
+        <source>the coordinates of %1 are degrees or seconds of arc, no metres; x was taken as it stands, so load a geometry file</source>
+        <translation>les coordonnées sont en degrés ou en secondes d&apos;arc, pas en mètres (%1)&#xa0;; x a été pris tel quel, chargez donc un fichier de géométrie</translation>
+    </message>
+    <message>
+        <source>its coordinates do not tell the geophones apart; they were placed by their offsets (bytes 37 to 40) from the shot</source>
+        <translation>ses coordonnées ne distinguent pas les géophones&#xa0;; ils ont été placés d&apos;après leur déport (octets 37 à 40) par rapport au tir</translation>
+    </message>
+    <message>
+        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
+        <translation>ses en-têtes n&apos;indiquent aucune position&#xa0;; tirs et géophones sont tous à %1 m, chargez donc un fichier de géométrie</translation>
+    </message>
+    <message>
+        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
+        <translation>ses en-têtes placent les géophones de toutes les traces à %1 m&#xa0;; chargez un fichier de géométrie s&apos;il y en avait plus d&apos;un</translation>
+    </message>
+    <message>
+        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
+        <translation>des tirs sont jusqu&apos;à %1 m à côté de la ligne des géophones&#xa0;; x est pris tel quel</translation>
+    </message>
+    <message>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
+        <translation>ses coordonnées ne suivent pas x&#xa0;; les distances sont celles le long de la droite passant par les géophones, depuis le premier géophone de ce fichier, qui est à x %1, y %2&#xa0;; des géophones s&apos;en écartent jusqu&apos;à %3 m, des tirs jusqu&apos;à %4 m</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>d&apos;après ses en-têtes, les géophones s&apos;étendent sur %1 km&#xa0;; leur facteur d&apos;échelle ou leur unité est sans doute faux, vérifiez-les donc ou chargez un fichier de géométrie</translation>
+    </message>
+    <message>
+        <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
+        <translation>les altitudes ou les profondeurs de tir sont hors de tout terrain possible (%1)&#xa0;; les altitudes du fichier ont été prises égales à 0</translation>
+    </message>
+    <message>
+        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>des tirs sont jusqu&apos;à %1 m sous le sol&#xa0;; leurs altitudes sont celles des tirs, pas celles du sol au-dessus</translation>
+    </message>
+    <message>
+        <source>the shot depth of %1 is negative and was taken as 0</source>
+        <translation>la profondeur de tir est négative et a été prise égale à 0 (%1)</translation>
+    </message>
+    <message>
+        <source>its headers tell the elevations of geophones alone; shots were put at that of the geophone nearest to them</source>
+        <translation>ses en-têtes n&apos;indiquent que les altitudes des géophones&#xa0;; les tirs ont été placés à celle du géophone le plus proche</translation>
+    </message>
+    <message>
+        <source>the time scalar of %1 is none that the standard knows; the delay was taken as it stands</source>
+        <translation>le facteur d&apos;échelle des temps n&apos;est pas de ceux que connaît la norme (%1)&#xa0;; le délai a été pris tel quel</translation>
+    </message>
+    <message>
+        <source>all of its traces are marked as dead or auxiliary (bytes 29 and 30); the marks were not believed</source>
+        <translation>toutes ses traces sont marquées comme mortes ou auxiliaires (octets 29 et 30)&#xa0;; ces marques n&apos;ont pas été crues</translation>
+    </message>
+    <message>
+        <source>zeros stand for the samples of %1, marked as dead or as dummies (bytes 29 and 30)</source>
+        <translation>échantillons remplacés par des zéros (%1), marqués comme morts ou factices (octets 29 et 30)</translation>
+    </message>
+    <message>
+        <source>the samples of %1 were left out, marked as auxiliary (bytes 29 and 30: time breaks, upholes, sweeps and the like)</source>
+        <translation>échantillons écartés (%1), marqués comme auxiliaires (octets 29 et 30&#xa0;: instants de tir, temps verticaux, sweeps et autres)</translation>
+    </message>
+    <message>
+        <source>its traces are not in the order of shots, or the headers do not tell which belong together; they were taken as one shot</source>
+        <translation>ses traces ne sont pas dans l&apos;ordre des tirs, ou les en-têtes n&apos;indiquent pas lesquelles vont ensemble&#xa0;; elles ont été prises comme un seul tir</translation>
+    </message>
+    <message>
+        <source>its extended textual headers do not end in the file; it was read as if there were none</source>
+        <translation>ses en-têtes textuels étendus ne se terminent pas dans le fichier&#xa0;; il a été lu comme s&apos;il n&apos;y en avait pas</translation>
+    </message>
+    <message>
+        <source>its lengths are in feet (bytes 3255 and 3256) and were taken to metres</source>
+        <translation>ses longueurs sont en pieds (octets 3255 et 3256) et ont été converties en mètres</translation>
+    </message>
+    <message>
+        <source>its headers tell no number of samples</source>
+        <translation>ses en-têtes n&apos;indiquent pas le nombre d&apos;échantillons</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code 4 (fixed point with gain), which is not read; have the recording software export another one</source>
+        <translation>ses échantillons ont le code de format de données 4 (virgule fixe avec gain), qui n&apos;est pas lu&#xa0;; faites exporter un autre code par le logiciel d&apos;acquisition</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code %1, which the standard does not know; the file is damaged or no SEG-Y file</source>
+        <translation>ses échantillons ont le code de format de données %1, que la norme ne connaît pas&#xa0;; le fichier est endommagé ou n&apos;est pas un fichier SEG-Y</translation>
+    </message>
+    <message>
+        <source>the place of the first trace in its header (bytes 3521 to 3528) is not in the file and was not believed</source>
+        <translation>la position de la première trace dans son en-tête (octets 3521 à 3528) n&apos;est pas dans le fichier et n&apos;a pas été crue</translation>
+    </message>
+    <message>
+        <source>it is too short for a SEG-Y file with a trace</source>
+        <translation>il est trop court pour un fichier SEG-Y avec une trace</translation>
+    </message>
+    <message>
+        <source>its bytes are swapped in pairs, which is not read</source>
+        <translation>ses octets sont permutés deux à deux, ce qui n&apos;est pas lu</translation>
+    </message>
+    <message>
+        <source>field record (bytes 9 to 12)</source>
+        <translation>enregistrement de terrain (octets 9 à 12)</translation>
+    </message>
+    <message>
+        <source>energy source point (bytes 17 to 20)</source>
+        <translation>point source d&apos;énergie (octets 17 à 20)</translation>
+    </message>
+    <message>
+        <source>position of the source</source>
+        <translation>position de la source</translation>
+    </message>
+    <message>
+        <source>number of the trace in its record (bytes 13 to 16), which starts again</source>
+        <translation>numéro de la trace dans son enregistrement (octets 13 à 16), qui recommence</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>le fichier est vide</translation>
+    </message>
+    <message>
+        <source>it is a text file, and no record of shots in %1; open a table of picks or positions as travel times or geometry</source>
+        <translation>c&apos;est un fichier texte, pas un enregistrement de tirs en %1&#xa0;; ouvrez un tableau de pointés ou de positions comme temps de parcours ou géométrie</translation>
+    </message>
+    <message>
+        <source>by its content it is no file of %1</source>
+        <translation>d&apos;après son contenu, ce n&apos;est pas un fichier de l&apos;un des formats lus&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it holds %1 shots, told apart by %2</source>
+        <translation>il contient %1 tirs, distingués par&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>it is too short for an SU file with a trace</source>
+        <translation>il est trop court pour un fichier SU avec une trace</translation>
+    </message>
+    <message>
+        <source>its first trace tells no number of samples</source>
+        <translation>sa première trace n&apos;indique pas le nombre d&apos;échantillons</translation>
+    </message>
+    <message>
         <source>all %1 traces</source>
         <translation>les %1 traces</translation>
     </message>
