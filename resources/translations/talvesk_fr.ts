@@ -789,6 +789,38 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>smoothed since the inversion</source>
         <translation>lissée depuis l&apos;inversion</translation>
     </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>tir désactivé</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>décalé de %1 ms</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>ordre inversé</translation>
+    </message>
+    <message>
+        <source>stacked with %1</source>
+        <comment>shots</comment>
+        <translation>sommé avec %1</translation>
+    </message>
+    <message>
+        <source>%1 killed</source>
+        <comment>traces</comment>
+        <translation>neutralisation de %1</translation>
+    </message>
+    <message>
+        <source>%1 of reversed polarity</source>
+        <comment>traces</comment>
+        <translation>%1 à polarité inversée</translation>
+    </message>
+    <message>
+        <source>%1 muted</source>
+        <comment>traces</comment>
+        <translation>%1 avec mute</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -1384,6 +1416,90 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Do you want to continue?</source>
         <translation>Voulez-vous continuer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be removed (Undo brings it back):</source>
+        <translation>Le levé change. Ceci sera supprimé («&#xa0;Défaire&#xa0;» le rétablit)&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MendDialog</name>
+    <message>
+        <source>Mend recording</source>
+        <translation>Corriger l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>What was recorded is kept: everything here can be taken back at any time. Picks move with the recording.</source>
+        <translation>Ce qui a été enregistré est conservé&#xa0;: tout ici peut être retiré à tout moment. Les pointés suivent l&apos;enregistrement.</translation>
+    </message>
+    <message>
+        <source>&amp;The record was late by:</source>
+        <translation>&amp;Retard de l&apos;enregistrement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Positive: the front of the record goes, and picks become earlier. Negative: the record was early. Whole samples are taken.</source>
+        <translation>Positif&#xa0;: le début de l&apos;enregistrement est retiré et les pointés sont avancés. Négatif&#xa0;: l&apos;enregistrement était en avance. Le décalage se fait en échantillons entiers.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Its picks are set aside and come back with it</source>
+        <translation>Ses pointés sont mis de côté et reviennent avec lui</translation>
+    </message>
+    <message>
+        <source>&amp;Disabled: the shot has no picks and takes no part</source>
+        <translation>&amp;Désactivé&#xa0;: le tir n&apos;a pas de pointés et ne participe à rien</translation>
+    </message>
+    <message>
+        <source>The last channel goes to the first geophone, with its pick</source>
+        <translation>Le dernier canal va au premier géophone, avec son pointé</translation>
+    </message>
+    <message>
+        <source>&amp;Order reversed: the channels run against the geophones</source>
+        <translation>&amp;Ordre inversé&#xa0;: les canaux vont à rebours des géophones</translation>
+    </message>
+    <message>
+        <source>&amp;Stack with:</source>
+        <translation>&amp;Sommer avec&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shots of the same place and geophones; the mean of their samples is shown and picked</source>
+        <translation>Tirs au même endroit et aux mêmes géophones&#xa0;; la moyenne de leurs échantillons est affichée et pointée</translation>
+    </message>
+    <message>
+        <source>Disable &amp;the shots that it is stacked with</source>
+        <translation>Désactiver les &amp;tirs avec lesquels il est sommé</translation>
+    </message>
+    <message>
+        <source>No other shot has the same place, geophones and sample interval.</source>
+        <translation>Aucun autre tir n&apos;a le même endroit, les mêmes géophones et le même pas d&apos;échantillonnage.</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Traces du tir</translation>
+    </message>
+    <message>
+        <source>Killed</source>
+        <translation>Neutralisée</translation>
+    </message>
+    <message>
+        <source>Polarity reversed</source>
+        <translation>Polarité inversée</translation>
+    </message>
+    <message>
+        <source>Muted before</source>
+        <translation>Mute avant</translation>
+    </message>
+    <message>
+        <source>Mend recording of shot %1</source>
+        <translation>Corriger l&apos;enregistrement du tir %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -4204,6 +4320,102 @@ Veuillez définir la position des géophones
         <source>%1 shots lie at the place of another one; the file does not tell their picks apart</source>
         <translation>%1 tirs sont à l&apos;endroit d&apos;un autre&#xa0;; le fichier ne distingue pas leurs pointés</translation>
     </message>
+    <message>
+        <source>a trace without a sample interval cannot be shifted in time</source>
+        <translation>une trace sans pas d&apos;échantillonnage ne peut pas être décalée en temps</translation>
+    </message>
+    <message>
+        <source>a shift of %1 ms is longer than the record</source>
+        <translation>un décalage de %1 ms est plus long que l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>a shot is stacked with other shots of the survey, each once</source>
+        <translation>un tir se somme avec d&apos;autres tirs du levé, chacun une fois</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with it: its traces are of another number, sample interval or kind</source>
+        <translation>le tir %1 ne peut pas être sommé avec lui&#xa0;: ses traces sont d&apos;un autre nombre, pas d&apos;échantillonnage ou type</translation>
+    </message>
+    <message>
+        <source>shot %1 has no traces to mend</source>
+        <translation>le tir %1 n&apos;a pas de traces à corriger</translation>
+    </message>
+    <message>
+        <source>shot %1 has %2 traces, and mends of %3</source>
+        <translation>le tir %1 a %2 traces, et des corrections pour %3</translation>
+    </message>
+    <message>
+        <source>a trace cannot be muted before %1 ms</source>
+        <translation>une trace ne peut pas avoir de mute avant %1 ms</translation>
+    </message>
+    <message>
+        <source>a record cannot be shifted by %1 ms</source>
+        <translation>un enregistrement ne peut pas être décalé de %1 ms</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that have no place any more and are set aside: %2</source>
+        <translation>tir %1&#xa0;: pointés qui n&apos;ont plus de place et sont mis de côté&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that were set aside and are back: %2</source>
+        <translation>tir %1&#xa0;: pointés qui étaient mis de côté et sont revenus&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: filtered copies of traces that have changed are forgotten: %2; filter again if you need them</source>
+        <translation>tir %1&#xa0;: copies filtrées abandonnées de traces qui ont changé&#xa0;: %2&#xa0;; filtrez à nouveau si vous en avez besoin</translation>
+    </message>
+    <message>
+        <source>shot %1: its shift is taken as %2 ms, whole samples</source>
+        <translation>tir %1&#xa0;: son décalage est pris à %2 ms, en échantillons entiers</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with shot %2: they have other places, or geophones</source>
+        <translation>le tir %1 ne peut pas être sommé avec le tir %2&#xa0;: leurs endroits, ou leurs géophones, diffèrent</translation>
+    </message>
+    <message>
+        <source>traces killed: %1</source>
+        <translation>traces neutralisées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>traces with their polarity reversed: %1</source>
+        <translation>traces à polarité inversée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>traces muted before %1 ms: %2</source>
+        <translation>traces avec mute avant %1 ms&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>disabled: it has no picks and takes no part in anything</source>
+        <translation>désactivé&#xa0;: il n&apos;a pas de pointés et ne participe à rien</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was late</source>
+        <translation>décalé de %1 ms&#xa0;: son enregistrement était en retard</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was early</source>
+        <translation>décalé de %1 ms&#xa0;: son enregistrement était en avance</translation>
+    </message>
+    <message>
+        <source>order reversed: its channels ran against the geophones</source>
+        <translation>ordre inversé&#xa0;: ses canaux allaient à rebours des géophones</translation>
+    </message>
+    <message>
+        <source>stacked with shots: %1</source>
+        <translation>sommé avec les tirs&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Mend recordings</source>
+        <translation>Corriger les enregistrements</translation>
+    </message>
+    <message>
+        <source>Shot %1 is disabled and takes no picks; Mend recording enables it.</source>
+        <translation>Le tir %1 est désactivé et n&apos;accepte pas de pointés&#xa0;; «&#xa0;Corriger l&apos;enregistrement&#xa0;» le réactive.</translation>
+    </message>
+    <message>
+        <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
+        <translation>La trace %1 est neutralisée et n&apos;accepte pas de pointé&#xa0;; «&#xa0;Corriger l&apos;enregistrement&#xa0;» la rétablit.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -4390,6 +4602,104 @@ Veuillez définir la position des géophones
     </message>
 </context>
 <context>
+    <name>talvesk::ReadingPanel</name>
+    <message>
+        <source>Format:</source>
+        <translation>Format&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shots:</source>
+        <translation>Tirs&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Traces&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Échantillons par trace&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Pas d&apos;échantillonnage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Délai d&apos;enregistrement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shot at:</source>
+        <translation>Tir à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Geophones at:</source>
+        <translation>Géophones à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shot in view:</source>
+        <translation>Tir affiché&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No trace</source>
+        <translation>Aucune trace</translation>
+    </message>
+    <message>
+        <source>No warnings</source>
+        <translation>Aucun avertissement</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>non lu</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Nothing was read.</source>
+        <translation>Rien n&apos;a été lu.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReadingsDialog</name>
+    <message>
+        <source>The standard reads more</source>
+        <translation>La norme lit davantage</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules cannot carry all that these files hold. Read by the standard of their format they give more:</source>
+        <translation>Les règles du programme ne peuvent pas reprendre tout ce que contiennent ces fichiers. Lus selon la norme de leur format, ils donnent davantage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>What gets lost by the program&apos;s rules</source>
+        <translation>Ce qui est perdu selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>By the program&apos;s rules</source>
+        <translation>Selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>By the standard</source>
+        <translation>Selon la norme</translation>
+    </message>
+    <message>
+        <source>Use the &amp;standard for these files</source>
+        <translation>&amp;Utiliser la norme pour ces fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the program&apos;s rules</source>
+        <translation>&amp;Garder les règles du programme</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -4483,6 +4793,26 @@ Veuillez définir la position des géophones
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Read by:</source>
+        <translation>Lu selon&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Mends:</source>
+        <translation>Corrections&#xa0;:</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>les règles du programme</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>la norme de son format</translation>
+    </message>
+    <message>
+        <source>the standard of its format; record %1 of the file, %2</source>
+        <translation>la norme de son format&#xa0;; enregistrement %1 du fichier, %2</translation>
     </message>
 </context>
 <context>
@@ -5494,6 +5824,30 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
         <translation>Tirs : %1 ; géophones : %2 ; pointés : %3 sur %4</translation>
     </message>
+    <message>
+        <source>No result of an inversion is known: the grid has the velocities that it was left with.</source>
+        <translation>Aucun résultat d&apos;inversion n&apos;est connu&#xa0;: la grille a les vitesses dans lesquelles elle a été laissée.</translation>
+    </message>
+    <message>
+        <source>Velocities of the grid</source>
+        <translation>Vitesses de la grille</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Corrections</translation>
+    </message>
+    <message>
+        <source>The recordings of these shots are put right as listed. All figures and times of this report are of the mended recordings.</source>
+        <translation>Les enregistrements de ces tirs sont corrigés comme indiqué. Toutes les figures et tous les temps de ce rapport sont ceux des enregistrements corrigés.</translation>
+    </message>
+    <message>
+        <source>Mends of recordings</source>
+        <translation>Corrections des enregistrements</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -5779,6 +6133,25 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source> MB</source>
         <translation> Mo</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotFileDialog</name>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>les règles du programme</translation>
+    </message>
+    <message>
+        <source>the standard</source>
+        <translation>la norme</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules read shot files as this program always has. The standard reads what their content says, whatever their suffix: other sample formats and byte orders, scaled coordinates, delays, files of several shots.</source>
+        <translation>Les règles du programme lisent les fichiers de tirs comme ce programme l&apos;a toujours fait. La norme lit ce que dit leur contenu, quel que soit leur suffixe&#xa0;: autres formats d&apos;échantillons et ordres des octets, coordonnées avec facteur d&apos;échelle, délais, fichiers de plusieurs tirs.</translation>
+    </message>
+    <message>
+        <source>&amp;Read shot files by:</source>
+        <translation>&amp;Lire les fichiers de tirs selon&#xa0;:</translation>
     </message>
 </context>
 <context>
