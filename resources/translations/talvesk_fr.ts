@@ -498,6 +498,52 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Its numbers were cut at their decimal commas: they need points.</source>
         <translation>Ses nombres ont été coupés à la virgule : il leur faut le point décimal.</translation>
     </message>
+    <message>
+        <source>Elevations from table</source>
+        <translation>Altitudes depuis un tableau</translation>
+    </message>
+    <message>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
+        <translation>Donner à tous les géophones et à tous les tirs les altitudes d&apos;un tableau de distances et d&apos;altitudes</translation>
+    </message>
+    <message>
+        <source>&amp;Straight from point to point ...</source>
+        <translation>&amp;Droite d&apos;un point à l&apos;autre ...</translation>
+    </message>
+    <message>
+        <source>Along a s&amp;mooth curve ...</source>
+        <translation>Selon une &amp;courbe lisse ...</translation>
+    </message>
+    <message>
+        <source>It was read by the names of its columns.</source>
+        <translation>Il a été lu d&apos;après les noms de ses colonnes.</translation>
+    </message>
+    <message>
+        <source>Open Elevations</source>
+        <translation>Ouvrir des altitudes</translation>
+    </message>
+    <message>
+        <source>Tables of distances and elevations (*.csv *.txt *.dat *.xyz *.tsv);;All Files (*)</source>
+        <translation>Tableaux de distances et d&apos;altitudes (*.csv *.txt *.dat *.xyz *.tsv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The elevations have not been taken.</source>
+        <translation>Les altitudes n&apos;ont pas été reprises.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) taken from the table.</source>
+        <translation>
+            <numerusform>%n altitude reprise du tableau.</numerusform>
+            <numerusform>%n altitudes reprises du tableau.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <translation>
+            <numerusform>%n position se trouve au-delà de ses extrémités, %1 à %2 m, et a reçu l&apos;altitude de l&apos;extrémité.</numerusform>
+            <numerusform>%n positions se trouvent au-delà de ses extrémités, %1 à %2 m, et ont reçu l&apos;altitude de l&apos;extrémité.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -7704,6 +7750,146 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
         <translation>Les modifications les plus anciennes ne peuvent plus être défaites&#xa0;: elles demandaient plus de %1 Mo.</translation>
     </message>
+    <message>
+        <source>Export recordings...</source>
+        <translation>Exporter les enregistrements...</translation>
+    </message>
+    <message>
+        <source>Write the traces of all shots, with the positions of the survey, as SEG-Y or SEG-2 files</source>
+        <translation>Écrire les traces de tous les tirs, avec les positions du levé, en fichiers SEG-Y ou SEG-2</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Compter les temps à partir du tir</translation>
+    </message>
+    <message>
+        <source>Drop what was recorded before the shot; picks move with their traces</source>
+        <translation>Retirer ce qui a été enregistré avant le tir&#xa0;; les pointés suivent leurs traces</translation>
+    </message>
+    <message>
+        <source>Mend recording...</source>
+        <translation>Corriger l&apos;enregistrement...</translation>
+    </message>
+    <message>
+        <source>Put right the time, the order or single traces of the shot in view; what was recorded is kept</source>
+        <translation>Rectifier le temps, l&apos;ordre ou certaines traces du tir affiché&#xa0;; ce qui a été enregistré est conservé</translation>
+    </message>
+    <message>
+        <source>Take back all mends</source>
+        <translation>Retirer toutes les corrections</translation>
+    </message>
+    <message>
+        <source>Show all recordings as they were recorded, with their picks</source>
+        <translation>Afficher tous les enregistrements tels qu&apos;enregistrés, avec leurs pointés</translation>
+    </message>
+    <message>
+        <source>%1 of them are of disabled shots or killed and left unpicked.</source>
+        <translation>%1 d&apos;entre elles, de tirs désactivés ou neutralisées, n&apos;ont pas été pointées.</translation>
+    </message>
+    <message>
+        <source>SEG-Y, a file for each shot</source>
+        <translation>SEG-Y, un fichier par tir</translation>
+    </message>
+    <message>
+        <source>SEG-Y, all shots in one file</source>
+        <translation>SEG-Y, tous les tirs dans un fichier</translation>
+    </message>
+    <message>
+        <source>SEG-2, a file for each shot</source>
+        <translation>SEG-2, un fichier par tir</translation>
+    </message>
+    <message>
+        <source>Export recordings</source>
+        <translation>Exporter les enregistrements</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Folder for the recordings</source>
+        <translation>Dossier des enregistrements</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey.</source>
+        <translation>%1 est l&apos;un des fichiers de tirs de ce levé.</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>Writing recordings ...</source>
+        <translation>Écriture des enregistrements ...</translation>
+    </message>
+    <message>
+        <source>The export to %1 was stopped; some files are missing.</source>
+        <translation>L&apos;exportation vers %1 a été interrompue&#xa0;; des fichiers manquent.</translation>
+    </message>
+    <message>
+        <source>The recordings have not been exported.</source>
+        <translation>Les enregistrements n&apos;ont pas été exportés.</translation>
+    </message>
+    <message>
+        <source>Recordings saved in %1</source>
+        <translation>Enregistrements sauvegardés dans %1</translation>
+    </message>
+    <message>
+        <source>The recordings have been saved.</source>
+        <translation>Les enregistrements ont été sauvegardés.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The times of %n trace(s) count from the shot now.</source>
+        <translation>
+            <numerusform>Les temps de %n trace comptent maintenant à partir du tir.</numerusform>
+            <numerusform>Les temps de %n traces comptent maintenant à partir du tir.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pick(s) lay before it and are removed.</source>
+        <translation>
+            <numerusform>%n pointé se trouvait avant et est supprimé.</numerusform>
+            <numerusform>%n pointés se trouvaient avant et sont supprimés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The recording of shot %1 has not been mended.</source>
+        <translation>L&apos;enregistrement du tir %1 n&apos;a pas été corrigé.</translation>
+    </message>
+    <message>
+        <source>The mends have not been taken back.</source>
+        <translation>Les corrections n&apos;ont pas été retirées.</translation>
+    </message>
+    <message>
+        <source>%1 (disabled)</source>
+        <comment>shot</comment>
+        <translation>%1 (désactivé)</translation>
+    </message>
+    <message>
+        <source>%1 (mended)</source>
+        <comment>shot</comment>
+        <translation>%1 (corrigé)</translation>
+    </message>
+    <message>
+        <source>disabled or killed</source>
+        <translation>tir désactivé ou trace neutralisée</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>millisecondes</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>secondes</translation>
+    </message>
+    <message>
+        <source>%1 does not say in which unit its times are.</source>
+        <translation>%1 n&apos;indique pas dans quelle unité sont ses temps.</translation>
+    </message>
+    <message>
+        <source>%1 does not hold all of the survey.</source>
+        <translation>%1 ne contient pas tout le levé.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -8345,6 +8531,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Les résultats de la dernière inversion seront supprimés («&#xa0;Défaire&#xa0;» les rétablit).</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::progressDialog</name>
@@ -8632,6 +8822,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>You have not changed the layers.</source>
         <translation>Vous n&apos;avez pas modifié les couches.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Les résultats de la dernière inversion seront supprimés («&#xa0;Défaire&#xa0;» les rétablit).</translation>
     </message>
 </context>
 <context>
