@@ -3248,6 +3248,298 @@ Defina la posición de los geófonos
         <source>Draw picks</source>
         <translation>Trazar picados</translation>
     </message>
+    <message>
+        <source>the survey has no such shot; check the recordings again</source>
+        <translation>el levantamiento no tiene ese disparo; vuelva a revisar los registros</translation>
+    </message>
+    <message>
+        <source>shot %1: a position is missing, no number or absurdly far away</source>
+        <translation>disparo %1: una posición falta, no es un número o queda absurdamente lejos</translation>
+    </message>
+    <message>
+        <source>shot %1: its geophone string has another number of geophones than the proposal; check the recordings again</source>
+        <translation>disparo %1: su tendido tiene distinto número de geófonos que la propuesta; vuelva a revisar los registros</translation>
+    </message>
+    <message>
+        <source>there is no trace %1; check the recordings again</source>
+        <translation>no hay traza %1; vuelva a revisar los registros</translation>
+    </message>
+    <message>
+        <source>no trace of the record holds anything</source>
+        <translation>ninguna traza del registro contiene nada</translation>
+    </message>
+    <message>
+        <source>dead: the samples of %1 are all the same</source>
+        <translation>sin señal: son todas iguales las muestras de %1</translation>
+    </message>
+    <message>
+        <source>as good as dead: %1, at down to %2 % of the strength of the neighbours</source>
+        <translation>casi sin señal: %1, con una intensidad de hasta solo el %2 % de la de las vecinas</translation>
+    </message>
+    <message>
+        <source>clipped: the swings of %1 are cut off flat, up to %2 times; first breaks can be picked, amplitudes mean nothing</source>
+        <translation>saturación: las oscilaciones de %1 están recortadas en plano, hasta %2 veces; las primeras llegadas se pueden picar, las amplitudes carecen de sentido</translation>
+    </message>
+    <message>
+        <source>noisy: before the first arrival of %1 there is up to %2 times the noise of the neighbours, and it drowns the arrival</source>
+        <translation>ruido: antes de la primera llegada de %1 hay hasta %2 veces el ruido de las vecinas, y tapa la llegada</translation>
+    </message>
+    <message>
+        <source>doubled: trace %1 is trace %2 once more (correlation %3); the arrivals around say that it belongs to the latter</source>
+        <translation>duplicada: la traza %1 es de nuevo la traza %2 (correlación %3); las llegadas vecinas indican que corresponde a esta última</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>traces %1</source>
+        <translation>las trazas %1</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>disparos %1</translation>
+    </message>
+    <message>
+        <source>shot position</source>
+        <translation>posición del disparo</translation>
+    </message>
+    <message>
+        <source>station numbers</source>
+        <translation>números de estación</translation>
+    </message>
+    <message>
+        <source>repeated positions</source>
+        <translation>posiciones repetidas</translation>
+    </message>
+    <message>
+        <source>reversed order</source>
+        <translation>orden invertido</translation>
+    </message>
+    <message>
+        <source>doubled trace</source>
+        <translation>traza duplicada</translation>
+    </message>
+    <message>
+        <source>moved traces</source>
+        <translation>trazas cambiadas de sitio</translation>
+    </message>
+    <message>
+        <source>geophone off the line</source>
+        <translation>geófono fuera de la línea</translation>
+    </message>
+    <message>
+        <source>trigger time</source>
+        <translation>tiempo de disparo</translation>
+    </message>
+    <message>
+        <source>dead traces</source>
+        <translation>trazas muertas</translation>
+    </message>
+    <message>
+        <source>clipped traces</source>
+        <translation>trazas saturadas</translation>
+    </message>
+    <message>
+        <source>noisy traces</source>
+        <translation>trazas ruidosas</translation>
+    </message>
+    <message>
+        <source>reversed polarity</source>
+        <translation>polaridad invertida</translation>
+    </message>
+    <message>
+        <source>mistimed trace</source>
+        <translation>traza desfasada</translation>
+    </message>
+    <message>
+        <source>sample intervals</source>
+        <translation>intervalos de muestreo</translation>
+    </message>
+    <message>
+        <source>repeated shot</source>
+        <translation>disparo repetido</translation>
+    </message>
+    <message>
+        <source>overlapping spreads</source>
+        <translation>tendidos solapados</translation>
+    </message>
+    <message>
+        <source>no elevations</source>
+        <translation>sin cotas</translation>
+    </message>
+    <message>
+        <source>move the record later by %1 ms</source>
+        <translation>retrasar el registro %1 ms</translation>
+    </message>
+    <message>
+        <source>move the record earlier by %1 ms</source>
+        <translation>adelantar el registro %1 ms</translation>
+    </message>
+    <message>
+        <source>kill %1</source>
+        <translation>anular %1</translation>
+    </message>
+    <message>
+        <source>reverse the polarity of %1</source>
+        <translation>invertir la polaridad de %1</translation>
+    </message>
+    <message>
+        <source>mute %1 before %2 ms</source>
+        <translation>silenciar %1 antes de %2 ms</translation>
+    </message>
+    <message>
+        <source>read the channels from the last to the first</source>
+        <translation>leer los canales del último al primero</translation>
+    </message>
+    <message>
+        <source>put the shot at %1 m</source>
+        <translation>situar el disparo en %1 m</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3 m</source>
+        <translation>situar los %1 geófonos de su tendido de %2 a %3 m</translation>
+    </message>
+    <message>
+        <source>stack it with %1; the stack alone counts then</source>
+        <translation>apilarlo con otros (%1); después solo cuenta el apilado</translation>
+    </message>
+    <message>
+        <source>disable the shot</source>
+        <translation>desactivar el disparo</translation>
+    </message>
+    <message>
+        <source>exchanged: over all shots the arrivals of trace %1 belong to the place of trace %2, and the other way round</source>
+        <translation>intercambiadas: en todos los disparos las llegadas de la traza %1 corresponden al lugar de la traza %2, y viceversa</translation>
+    </message>
+    <message>
+        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
+        <translation>fuera de la línea: el geófono %1 figura en %2 m; desde ambos lados sus llegadas son las de %3 m</translation>
+    </message>
+    <message>
+        <source>%1 geophones are said to be at %2 places only</source>
+        <translation>%1 geófonos figuran en solo %2 lugares</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
+        <translation>%1; en %2 disparos los tiempos mínimos se desplazan %3 canales por cada metro del disparo, así que el geófono 1 está en %4 m y el último en %5 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>el disparo figura en %1 m; el nombre del archivo dice %2 m, y los tiempos mínimos del levantamiento siguen los nombres</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
+        <translation>el disparo figura a una cota de %1 m, y los geófonos no tienen ninguna que pueda ser la suya</translation>
+    </message>
+    <message>
+        <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
+        <translation>los canales van contra los geófonos: los tiempos mínimos de %1 de %2 disparos quedan junto al disparo solo si el tendido se lee del último geófono al primero</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>todos los disparos figuran en %1 m; el nombre del archivo dice %2 m, y los tiempos mínimos del levantamiento siguen los nombres</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
+        <translation>todos los disparos figuran en %1 m; los tiempos de este son mínimos en %2 m</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
+        <translation>todos los disparos figuran en %1 m; este estaba en un extremo de los geófonos o más allá</translation>
+    </message>
+    <message>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
+        <translation>los canales de este registro van contra los geófonos: leídos del último al primero, los tiempos son mínimos junto al disparo, en %1 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>el disparo figura en %1 m, pero los tiempos crecen desde %2 m a lo largo de todos los geófonos: estaba en ese extremo o más allá</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
+        <translation>el disparo figura en %1 m, pero los tiempos son mínimos en %2 m, junto al geófono %3, y crecen a ambos lados de él</translation>
+    </message>
+    <message>
+        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
+        <translation>%1; o bien los geófonos están separados %2 m y no %3 m, lo que ningún otro disparo puede decidir</translation>
+    </message>
+    <message>
+        <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
+        <translation>desfasada: la traza %1 tiene su primera llegada en %2 ms, sus vecinas la hacen esperar en %3 ms, y a partir de ahí se parece a ellas (correlación %4)</translation>
+    </message>
+    <message>
+        <source>reversed: the first swings of %1 go against those of the neighbours, which agree with each other (correlation -%2 at least)</source>
+        <translation>polaridad invertida: las primeras oscilaciones de %1 van contra las de las vecinas, que concuerdan entre sí (correlación -%2 como mínimo)</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
+        <translation>el disparo %1 se registró en el mismo punto, en %2 m, con una relación señal/ruido %3 veces la de este</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
+        <translation>el disparo %1 se registró en el mismo punto, en %2 m; sus llegadas son %3 ms posteriores</translation>
+    </message>
+    <message>
+        <source>the record is that of shot %1 once more, sample for sample</source>
+        <translation>el registro es de nuevo el del disparo %1, muestra a muestra</translation>
+    </message>
+    <message>
+        <source>the sample intervals of its traces differ, %1 to %2 ms: the times of some are wrong unless the recorder meant it</source>
+        <translation>los intervalos de muestreo de sus trazas difieren, de %1 a %2 ms: los tiempos de algunas son erróneos, salvo que el sismógrafo se configurara así</translation>
+    </message>
+    <message>
+        <source>its traces have no sample interval: they have no times</source>
+        <translation>sus trazas no tienen intervalo de muestreo: no tienen tiempos</translation>
+    </message>
+    <message>
+        <source>the sample interval is %2 ms in %1, and %3 ms in most others: right if the recorder was set so</source>
+        <translation>%1: el intervalo de muestreo es de %2 ms, y de %3 ms en la mayoría de los demás; es correcto si el sismógrafo se configuró así</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>no hay ningún geófono entre %1 y %2 m: el terreno de ahí no se ve desde ningún lado, salvo que haya disparos que lo rebasen</translation>
+    </message>
+    <message>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
+        <translation>los tendidos %1 y %2 se solapan y sus cotas difieren en %3 lugares, hasta %4 m en %5 m</translation>
+    </message>
+    <message>
+        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>sin cotas: todos los disparos y geófonos están a %1 m; si el terreno no es llano, léalas de una tabla en la geometría del levantamiento</translation>
+    </message>
+    <message>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
+        <translation>la posición del disparo, %1, cuenta estaciones: en %2 disparos los tiempos mínimos se desplazan %3 m por cada 1 de la posición</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
+        <translation>las posiciones de los geófonos no son metros: en %1 disparos los tiempos mínimos se desplazan %2 por cada metro del disparo; con geófonos cada %3 m a partir de %4 m quedan junto a los disparos</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation>retrasado</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation>adelantado</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: %3 times to the places of other shots differ by that from the times back, give or take %4 ms</source>
+        <translation>el registro está %2 en %1 ms: %3 tiempos hasta los puntos de otros disparos difieren en eso de los tiempos de vuelta, con un margen de %4 ms</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: its times differ by that from those of %3 other shots at equal distances, give or take %4 ms</source>
+        <translation>el registro está %2 en unos %1 ms: sus tiempos difieren en eso de los de otros %3 disparos a iguales distancias, con un margen de %4 ms</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
+        <translation>el registro está %2 en %1 ms: todos los canales tienen a la vez un pico en %3 ms, antes de que pudiera llegar nada</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>el registro está %2 en unos %1 ms: los geófonos más próximos al disparo, a %3 m, situarían el golpe entre %4 y %5 ms, sea cual sea el terreno</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
