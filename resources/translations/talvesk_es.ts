@@ -3540,6 +3540,250 @@ Defina la posición de los geófonos
         <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
         <translation>el registro está %2 en unos %1 ms: los geófonos más próximos al disparo, a %3 m, situarían el golpe entre %4 y %5 ms, sea cual sea el terreno</translation>
     </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it has %1 columns and no heading that names one for the distance and one for the elevation</source>
+        <translation>tiene %1 columnas y ningún encabezado que nombre una para la distancia y otra para la cota</translation>
+    </message>
+    <message>
+        <source>it holds no point</source>
+        <translation>no contiene ningún punto</translation>
+    </message>
+    <message>
+        <source>Unified data format (%1)</source>
+        <translation>Formato de datos unificado (%1)</translation>
+    </message>
+    <message>
+        <source>no heading names shot, geophone and time</source>
+        <translation>ningún encabezado nombra disparo, geófono y tiempo</translation>
+    </message>
+    <message>
+        <source>%1 lines above the heading were ignored</source>
+        <translation>se han pasado por alto %1 líneas anteriores al encabezado</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 were taken for positions in metres</source>
+        <translation>las columnas %1 y %2 se han tomado por posiciones en metros</translation>
+    </message>
+    <message>
+        <source>the heading does not say whether its times are in ms or in s</source>
+        <translation>el encabezado no dice si los tiempos están en ms o en s</translation>
+    </message>
+    <message>
+        <source>no row follows the heading</source>
+        <translation>ninguna fila sigue al encabezado</translation>
+    </message>
+    <message>
+        <source>there are more than %1 geophones</source>
+        <translation>hay más de %1 geófonos</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows have no time above 0, or are not valid, and are no picks</source>
+        <translation>%1 de %2 filas no tienen un tiempo mayor que 0, o no son válidas, y no son picados</translation>
+    </message>
+    <message>
+        <source>%1 shots and %2 geophones are far too many for %3 rows</source>
+        <translation>%1 disparos y %2 geófonos son muchos más de los posibles para %3 filas</translation>
+    </message>
+    <message>
+        <source>no column tells the elevations of the shots; they were put on the line of the geophones</source>
+        <translation>ninguna columna indica las cotas de los disparos; se han puesto en la línea de los geófonos</translation>
+    </message>
+    <message>
+        <source>no heading names a column for the distance and one for the elevation</source>
+        <translation>ningún encabezado nombra una columna para la distancia y otra para la cota</translation>
+    </message>
+    <message>
+        <source>the unified data format</source>
+        <translation>formato de datos unificado</translation>
+    </message>
+    <message>
+        <source>a table with a heading</source>
+        <translation>tabla con encabezado</translation>
+    </message>
+    <message>
+        <source>a pick table of long lines</source>
+        <translation>tabla de picados de líneas largas</translation>
+    </message>
+    <message>
+        <source>%1 times are of a shot and geophone that had one already; the first of them counts</source>
+        <translation>%1 tiempos son de un disparo y un geófono que ya tenían uno; cuenta el primero de ellos</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>posición</translation>
+    </message>
+    <message>
+        <source>number of positions</source>
+        <translation>número de posiciones</translation>
+    </message>
+    <message>
+        <source>number of measurements</source>
+        <translation>número de mediciones</translation>
+    </message>
+    <message>
+        <source>number of points of topography</source>
+        <translation>número de puntos de topografía</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>columna %1</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is not a number</source>
+        <translation>%1: %2 no es un número</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is out of range</source>
+        <translation>%1: %2 está fuera de rango</translation>
+    </message>
+    <message>
+        <source>all shot files count as read by the program&apos;s rules; the traces are those that were saved</source>
+        <translation>se considera que todos los archivos de disparos se leyeron según las reglas del programa; las trazas son las que se guardaron</translation>
+    </message>
+    <message>
+        <source>what was mended in its recordings is not known; traces and picks stay as they are</source>
+        <translation>no se sabe qué se corrigió en sus registros; las trazas y los picados quedan como están</translation>
+    </message>
+    <message>
+        <source>there is a grid, but a position lies more than 100 000 km away</source>
+        <translation>hay una malla, pero una posición queda a más de 100 000 km</translation>
+    </message>
+    <message>
+        <source>mends.xml: the mends of these shots are not those of their traces, and are left out; traces and picks stay as they are: %1</source>
+        <translation>mends.xml: las correcciones de estos disparos no son las de sus trazas y se omiten; las trazas y los picados quedan como están: %1</translation>
+    </message>
+    <message>
+        <source>it is about other shot files than those of the project</source>
+        <translation>se refiere a archivos de disparos distintos de los del proyecto</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m</source>
+        <translation>de %1 a %2 m</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules find no trace in it</source>
+        <translation>las reglas del programa no encuentran ninguna traza en él</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces of %3 shots</source>
+        <translation>las reglas del programa leen %1 de sus %2 trazas de %3 disparos</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces</source>
+        <translation>las reglas del programa leen %1 de sus %2 trazas</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules make one shot of its %1</source>
+        <translation>las reglas del programa hacen un solo disparo de sus %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are all zeros by the program&apos;s rules</source>
+        <translation>%1 de %2 trazas son todo ceros según las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the samples of %1 of %2 traces are not those of the standard, and not for their scale alone</source>
+        <translation>las muestras de %1 de %2 trazas no son las del estándar, y no solo por su escala</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are shorter by the program&apos;s rules</source>
+        <translation>%1 de %2 trazas son más cortas según las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the sample interval is %1 ms by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>el intervalo de muestreo es de %1 ms según las reglas del programa y de %2 ms según el estándar</translation>
+    </message>
+    <message>
+        <source>its records start %1 ms from the shot by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>sus registros empiezan a %1 ms del disparo según las reglas del programa y a %2 ms según el estándar</translation>
+    </message>
+    <message>
+        <source>its geophones are at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>posición de sus geófonos: %1 según las reglas del programa, %2 según el estándar</translation>
+    </message>
+    <message>
+        <source>its shot is at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>posición de su disparo: %1 según las reglas del programa, %2 según el estándar</translation>
+    </message>
+    <message>
+        <source>the elevations of %1 of %2 traces are others by the program&apos;s rules</source>
+        <translation>las cotas de %1 de %2 trazas son otras según las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules cannot read it</source>
+        <translation>las reglas del programa no lo pueden leer</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>the traces of shot %1 differ in sample interval or in the time of their first sample; they cannot be in one record</source>
+        <translation>las trazas del disparo %1 difieren en el intervalo de muestreo o en el tiempo de su primera muestra; no pueden ir en un mismo registro</translation>
+    </message>
+    <message>
+        <source>it has no sample interval</source>
+        <translation>no tiene intervalo de muestreo</translation>
+    </message>
+    <message>
+        <source>its traces have %1 samples; a file holds %2</source>
+        <translation>sus trazas tienen %1 muestras; en un archivo caben %2</translation>
+    </message>
+    <message>
+        <source>it has %1 traces; a SEG-2 file holds %2</source>
+        <translation>tiene %1 trazas; en un archivo SEG-2 caben %2</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>disparo %1: %2</translation>
+    </message>
+    <message>
+        <source>read by the program&apos;s rules, the files have no elevations, and no positions that are not whole metres; read them by the standard</source>
+        <translation>leídos según las reglas del programa, los archivos no tienen cotas ni posiciones que no sean metros enteros; léalos según el estándar</translation>
+    </message>
+    <message>
+        <source>%1 shots are disabled or have no samples and were left out</source>
+        <translation>%1 disparos están desactivados o no tienen muestras y se han omitido</translation>
+    </message>
+    <message>
+        <source>%1 traces begin at the shot; what was recorded before is not in the files</source>
+        <translation>%1 trazas empiezan en el disparo; lo registrado antes no está en los archivos</translation>
+    </message>
+    <message>
+        <source>%1 samples were rounded to the seven digits of a 32-bit float</source>
+        <translation>%1 muestras se han redondeado a las siete cifras de un número de coma flotante de 32 bits</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>se ha detenido</translation>
+    </message>
+    <message>
+        <source>shot %1 has no samples</source>
+        <translation>el disparo %1 no tiene muestras</translation>
+    </message>
+    <message>
+        <source>shot %1, trace %2: a sample is too large for a file</source>
+        <translation>disparo %1, traza %2: una muestra es demasiado grande para un archivo</translation>
+    </message>
+    <message>
+        <source>the survey has no records to be written</source>
+        <translation>el levantamiento no tiene registros que escribir</translation>
+    </message>
+    <message>
+        <source>its sample interval of %1 ms is no whole number of microseconds up to 65535, which is all that SEG-Y can hold; write SEG-2</source>
+        <translation>su intervalo de muestreo de %1 ms no es un número entero de microsegundos hasta 65535, que es todo lo que admite SEG-Y; escriba SEG-2</translation>
+    </message>
+    <message>
+        <source>it begins %1 ms after the shot, which SEG-Y cannot hold; write SEG-2</source>
+        <translation>empieza %1 ms después del disparo, lo que SEG-Y no admite; escriba SEG-2</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
