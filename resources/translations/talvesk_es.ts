@@ -3784,6 +3784,338 @@ Defina la posición de los geófonos
         <source>it begins %1 ms after the shot, which SEG-Y cannot hold; write SEG-2</source>
         <translation>empieza %1 ms después del disparo, lo que SEG-Y no admite; escriba SEG-2</translation>
     </message>
+    <message>
+        <source>it is miniSEED of version 3; version 2 is read</source>
+        <translation>es miniSEED versión 3; se lee la versión 2</translation>
+    </message>
+    <message>
+        <source>it is no miniSEED file</source>
+        <translation>no es un archivo miniSEED</translation>
+    </message>
+    <message>
+        <source>its records have no blockette 1000, which tells their encoding</source>
+        <translation>sus registros no tienen blockette 1000, que indica su codificación</translation>
+    </message>
+    <message>
+        <source>its samples have the encoding %1; 1, 3, 4, 5, 10 and 11 are read</source>
+        <translation>sus muestras tienen la codificación %1; se leen 1, 3, 4, 5, 10 y 11</translation>
+    </message>
+    <message>
+        <source>none of its records has samples of a series</source>
+        <translation>ninguno de sus registros tiene muestras de una serie</translation>
+    </message>
+    <message>
+        <source>miniSEED tells neither positions nor the time of the shot: all positions are 0 and times count from the first sample; give the survey its geometry</source>
+        <translation>miniSEED no indica ni posiciones ni el tiempo del disparo: todas las posiciones son 0 y los tiempos se cuentan desde la primera muestra; dé su geometría al levantamiento</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others; zeros stand in front</source>
+        <translation>el registro de %1 empieza después que otros; se han puesto ceros delante</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others, by longer than it lasts; that is not applied and its times do not compare</source>
+        <translation>el registro de %1 empieza después que otros, con un retraso mayor que su duración; ese retraso no se aplica y sus tiempos no son comparables</translation>
+    </message>
+    <message>
+        <source>zeros stand for gaps in the record of %1</source>
+        <translation>se han puesto ceros en los huecos del registro de %1</translation>
+    </message>
+    <message>
+        <source>records of %1 overlap; the later ones count</source>
+        <translation>se solapan registros de %1; cuentan los posteriores</translation>
+    </message>
+    <message>
+        <source>records left out after a gap that is longer than what was recorded: %1</source>
+        <translation>registros omitidos tras un hueco más largo que lo registrado: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose sample rate is not that of the first of their channel: %1</source>
+        <translation>registros omitidos cuya frecuencia de muestreo no es la del primero de su canal: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose encoding, such as %1, is not read: %2</source>
+        <translation>registros omitidos cuya codificación, como %1, no se lee: %2</translation>
+    </message>
+    <message>
+        <source>records left out that have no samples of a series: %1</source>
+        <translation>registros omitidos que no tienen muestras de una serie: %1</translation>
+    </message>
+    <message>
+        <source>records left out that have no blockette 1000: %1</source>
+        <translation>registros omitidos que no tienen blockette 1000: %1</translation>
+    </message>
+    <message>
+        <source>bytes left out that are of no record: %1</source>
+        <translation>bytes omitidos que no son de ningún registro: %1</translation>
+    </message>
+    <message>
+        <source>samples that headers promise and records do not hold: %1</source>
+        <translation>muestras que anuncian las cabeceras y que los registros no contienen: %1</translation>
+    </message>
+    <message>
+        <source>damaged records, which do not end at the sample that they tell: %1</source>
+        <translation>registros dañados, que no terminan en la muestra que indican: %1</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins after the shot, by up to %2 ms; zeros stand in front, in whole samples</source>
+        <translation>el registro empieza después del disparo, hasta %2 ms, en %1; se han puesto ceros delante, en muestras enteras</translation>
+    </message>
+    <message>
+        <source>the header of %1 says that the record begins up to %2 ms after the shot, longer than it lasts; that delay is not applied</source>
+        <translation>el registro empieza hasta %2 ms después del disparo, más de lo que dura, según la cabecera de %1; ese retardo no se aplica</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells no %2; 0 stands for it</source>
+        <translation>no hay %2 en la cabecera de %1; se ha tomado como 0</translation>
+    </message>
+    <message>
+        <source>the UNITS of its header, %1, are not known; its positions were taken as metres</source>
+        <translation>las UNITS de su cabecera, %1, no se conocen; sus posiciones se han tomado como metros</translation>
+    </message>
+    <message>
+        <source>its positions are in %1 and were converted to metres, %2 m each</source>
+        <translation>sus posiciones están en %1 y se han convertido a metros, %2 m por unidad</translation>
+    </message>
+    <message>
+        <source>its receiver positions look like longitude and latitude in degrees, not like metres; give the survey its geometry</source>
+        <translation>las posiciones de sus receptores parecen longitud y latitud en grados, no metros; dé su geometría al levantamiento</translation>
+    </message>
+    <message>
+        <source>its geophones differ in y but not in x; y was taken as the position along the line</source>
+        <translation>sus geófonos difieren en y pero no en x; se ha tomado y como posición a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
+        <translation>todos sus geófonos están en x = %1 m; dé su geometría al levantamiento</translation>
+    </message>
+    <message>
+        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
+        <translation>sus geófonos difieren hasta %1 m en y, que no se usa; las posiciones a lo largo de la línea son x</translation>
+    </message>
+    <message>
+        <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
+        <translation>sus números de canal no son ascendentes; las trazas conservan el orden del archivo</translation>
+    </message>
+    <message>
+        <source>every trace tells a source position of its own; the file was read as one shot, at the first of them</source>
+        <translation>cada traza indica una posición de la fuente distinta; el archivo se ha leído como un solo disparo, en la primera de ellas</translation>
+    </message>
+    <message>
+        <source>it is no SEG-2 file</source>
+        <translation>no es un archivo SEG-2</translation>
+    </message>
+    <message>
+        <source>it holds no trace</source>
+        <translation>no contiene ninguna traza</translation>
+    </message>
+    <message>
+        <source>the samples of its trace %1 have the data format code %2; the codes of SEG-2 are 1 to 5</source>
+        <translation>las muestras de su traza %1 tienen el código de formato de datos %2; los códigos de SEG-2 son de 1 a 5</translation>
+    </message>
+    <message>
+        <source>none of its traces has a usable SAMPLE_INTERVAL</source>
+        <translation>ninguna de sus trazas tiene un SAMPLE_INTERVAL utilizable</translation>
+    </message>
+    <message>
+        <source>nothing is read of %1 since no trace block is where the pointer leads</source>
+        <translation>no hay ningún bloque de traza donde lleva el puntero de %1; no se ha leído nada de ahí</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no usable SAMPLE_INTERVAL; that of another was taken</source>
+        <translation>no hay un SAMPLE_INTERVAL utilizable en la cabecera de %1; se ha tomado el de otra</translation>
+    </message>
+    <message>
+        <source>the DESCALING_FACTOR of %1 is no usable number; those samples are as stored</source>
+        <translation>DESCALING_FACTOR de %1: no es un número utilizable; esas muestras quedan como están almacenadas</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no DESCALING_FACTOR, as others have; those samples are as stored</source>
+        <translation>no hay DESCALING_FACTOR, que otras tienen, en la cabecera de %1; esas muestras quedan como están almacenadas</translation>
+    </message>
+    <message>
+        <source>the STACK of %1 is no usable number and was taken as 1</source>
+        <translation>STACK de %1: no es un número utilizable y se ha tomado como 1</translation>
+    </message>
+    <message>
+        <source>the DELAY of %1 is no finite number and was taken as 0</source>
+        <translation>DELAY de %1: no es un número finito y se ha tomado como 0</translation>
+    </message>
+    <message>
+        <source>the SKEW of %1 is up to %2 ms beyond whole samples; that part is not applied</source>
+        <translation>SKEW de %1: excede hasta %2 ms de muestras enteras; esa parte no se aplica</translation>
+    </message>
+    <message>
+        <source>%1 bytes after its traces, zeros or too few for another one, were not read</source>
+        <translation>no se han leído %1 bytes posteriores a sus trazas, que son ceros o demasiado pocos para otra traza</translation>
+    </message>
+    <message>
+        <source>the number of samples in %1 is not the %2 of the header of the file; the trace headers were believed</source>
+        <translation>el número de muestras no es el de la cabecera del archivo, %2, en %1; se ha dado crédito a las cabeceras de traza</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells %2 samples, with which the traces do not fit the size of the file; %3 were taken</source>
+        <translation>se indican %2 muestras, con las que las trazas no concuerdan con el tamaño del archivo, en la cabecera de %1; se han tomado %3</translation>
+    </message>
+    <message>
+        <source>the traces, %1 among them, do not fit the size of the file with the %2 samples that its header tells; %3 were taken</source>
+        <translation>las trazas (entre ellas %1) no concuerdan con el tamaño del archivo con las %2 muestras que indica su cabecera; se han tomado %3</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells a sample interval of %2 microseconds; the %3 of the header of the file were taken</source>
+        <translation>se indica un intervalo de muestreo de %2 microsegundos en la cabecera de %1; se han tomado los %3 de la cabecera del archivo</translation>
+    </message>
+    <message>
+        <source>the sample interval of %1 is not the %2 microseconds of the header of the file; the trace headers were believed</source>
+        <translation>el intervalo de muestreo no es el de la cabecera del archivo, %2 microsegundos, en %1; se ha dado crédito a las cabeceras de traza</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the coordinates of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>el estándar no conoce el factor de escala %1 de las coordenadas de %2; se han tomado tal cual</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the elevations of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>el estándar no conoce el factor de escala %1 de las cotas de %2; se han tomado tal cual</translation>
+    </message>
+    <message>
+        <source>the coordinates of %1 are degrees or seconds of arc, no metres; x was taken as it stands, so load a geometry file</source>
+        <translation>son grados o segundos de arco, no metros, las coordenadas de %1; x se ha tomado tal cual, así que cargue un archivo de geometría</translation>
+    </message>
+    <message>
+        <source>its coordinates do not tell the geophones apart; they were placed by their offsets (bytes 37 to 40) from the shot</source>
+        <translation>sus coordenadas no distinguen los geófonos; se han situado por sus distancias al disparo (bytes 37 a 40)</translation>
+    </message>
+    <message>
+        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
+        <translation>sus cabeceras no indican posiciones; todos los disparos y geófonos están en %1 m, así que cargue un archivo de geometría</translation>
+    </message>
+    <message>
+        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
+        <translation>sus cabeceras sitúan los geófonos de todas las trazas en %1 m; cargue un archivo de geometría si había más de uno</translation>
+    </message>
+    <message>
+        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
+        <translation>hay disparos hasta a %1 m a un lado de la línea de geófonos; x se toma tal cual</translation>
+    </message>
+    <message>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
+        <translation>sus coordenadas no siguen x; las distancias son las medidas a lo largo de la recta que pasa por los geófonos, desde el primer geófono de este archivo, que está en x %1, y %2; los geófonos quedan hasta a %3 m de ella y los disparos hasta a %4 m</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>según sus cabeceras los geófonos se extienden a lo largo de %1 km; es probable que su factor de escala o su unidad sean erróneos, así que compruébelos o cargue un archivo de geometría</translation>
+    </message>
+    <message>
+        <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
+        <translation>no pueden corresponder a ningún terreno las cotas o profundidades de disparo de %1; las cotas del archivo se han tomado como 0</translation>
+    </message>
+    <message>
+        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>hay disparos hasta a %1 m bajo el terreno; sus cotas son las de los disparos, no las del terreno sobre ellos</translation>
+    </message>
+    <message>
+        <source>the shot depth of %1 is negative and was taken as 0</source>
+        <translation>es negativa la profundidad de disparo de %1; se ha tomado como 0</translation>
+    </message>
+    <message>
+        <source>its headers tell the elevations of geophones alone; shots were put at that of the geophone nearest to them</source>
+        <translation>sus cabeceras solo indican las cotas de los geófonos; los disparos se han puesto a la del geófono más próximo</translation>
+    </message>
+    <message>
+        <source>the time scalar of %1 is none that the standard knows; the delay was taken as it stands</source>
+        <translation>el estándar no conoce el factor de escala de tiempos de %1; el retardo se ha tomado tal cual</translation>
+    </message>
+    <message>
+        <source>all of its traces are marked as dead or auxiliary (bytes 29 and 30); the marks were not believed</source>
+        <translation>todas sus trazas están marcadas como muertas o auxiliares (bytes 29 y 30); no se ha dado crédito a las marcas</translation>
+    </message>
+    <message>
+        <source>zeros stand for the samples of %1, marked as dead or as dummies (bytes 29 and 30)</source>
+        <translation>se han puesto ceros en lugar de muestras con la marca de traza muerta o ficticia (bytes 29 y 30), las de %1</translation>
+    </message>
+    <message>
+        <source>the samples of %1 were left out, marked as auxiliary (bytes 29 and 30: time breaks, upholes, sweeps and the like)</source>
+        <translation>se han omitido muestras con la marca de traza auxiliar (bytes 29 y 30: instante del disparo, tiempos de pozo, barridos y similares), las de %1</translation>
+    </message>
+    <message>
+        <source>its traces are not in the order of shots, or the headers do not tell which belong together; they were taken as one shot</source>
+        <translation>sus trazas no están en el orden de los disparos, o las cabeceras no indican cuáles van juntas; se han tomado como un solo disparo</translation>
+    </message>
+    <message>
+        <source>its extended textual headers do not end in the file; it was read as if there were none</source>
+        <translation>sus cabeceras textuales extendidas no terminan dentro del archivo; se ha leído como si no las hubiera</translation>
+    </message>
+    <message>
+        <source>its lengths are in feet (bytes 3255 and 3256) and were taken to metres</source>
+        <translation>sus longitudes están en pies (bytes 3255 y 3256) y se han convertido a metros</translation>
+    </message>
+    <message>
+        <source>its headers tell no number of samples</source>
+        <translation>sus cabeceras no indican el número de muestras</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code 4 (fixed point with gain), which is not read; have the recording software export another one</source>
+        <translation>sus muestras tienen el código de formato de datos 4 (coma fija con ganancia), que no se lee; haga que el programa del sismógrafo exporte otro</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code %1, which the standard does not know; the file is damaged or no SEG-Y file</source>
+        <translation>sus muestras tienen el código de formato de datos %1, que el estándar no conoce; el archivo está dañado o no es un archivo SEG-Y</translation>
+    </message>
+    <message>
+        <source>the place of the first trace in its header (bytes 3521 to 3528) is not in the file and was not believed</source>
+        <translation>el lugar de la primera traza que indica su cabecera (bytes 3521 a 3528) no está en el archivo y no se le ha dado crédito</translation>
+    </message>
+    <message>
+        <source>it is too short for a SEG-Y file with a trace</source>
+        <translation>es demasiado corto para un archivo SEG-Y con una traza</translation>
+    </message>
+    <message>
+        <source>its bytes are swapped in pairs, which is not read</source>
+        <translation>sus bytes están intercambiados por pares, lo que no se lee</translation>
+    </message>
+    <message>
+        <source>field record (bytes 9 to 12)</source>
+        <translation>el registro de campo (bytes 9 a 12)</translation>
+    </message>
+    <message>
+        <source>energy source point (bytes 17 to 20)</source>
+        <translation>el punto de la fuente de energía (bytes 17 a 20)</translation>
+    </message>
+    <message>
+        <source>position of the source</source>
+        <translation>la posición de la fuente</translation>
+    </message>
+    <message>
+        <source>number of the trace in its record (bytes 13 to 16), which starts again</source>
+        <translation>el número de la traza en su registro (bytes 13 a 16), que vuelve a empezar</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>el archivo está vacío</translation>
+    </message>
+    <message>
+        <source>it is a text file, and no record of shots in %1; open a table of picks or positions as travel times or geometry</source>
+        <translation>es un archivo de texto y no un registro de disparos en %1; abra una tabla de picados o posiciones como tiempos de recorrido o geometría</translation>
+    </message>
+    <message>
+        <source>by its content it is no file of %1</source>
+        <translation>por su contenido no es un archivo %1</translation>
+    </message>
+    <message>
+        <source>it holds %1 shots, told apart by %2</source>
+        <translation>contiene %1 disparos, distinguidos por %2</translation>
+    </message>
+    <message>
+        <source>it is too short for an SU file with a trace</source>
+        <translation>es demasiado corto para un archivo SU con una traza</translation>
+    </message>
+    <message>
+        <source>its first trace tells no number of samples</source>
+        <translation>su primera traza no indica el número de muestras</translation>
+    </message>
+    <message>
+        <source>all %1 traces</source>
+        <translation>todas las %1 trazas</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
