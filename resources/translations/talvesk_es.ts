@@ -4116,6 +4116,194 @@ Defina la posición de los geófonos
         <source>all %1 traces</source>
         <translation>todas las %1 trazas</translation>
     </message>
+    <message>
+        <source>it cannot be read back: %1</source>
+        <translation>no se puede volver a leer: %1</translation>
+    </message>
+    <message>
+        <source>read back, string %1 will have another number of geophones</source>
+        <translation>al volver a leerlo, el tendido %1 tendrá otro número de geófonos</translation>
+    </message>
+    <message>
+        <source>the format has no place for the errors of the picks</source>
+        <translation>el formato no tiene lugar para los errores de los picados</translation>
+    </message>
+    <message>
+        <source>it was read as %1; the reader of its suffix cannot read line %2</source>
+        <translation>se ha leído como %1; el lector de su extensión no puede leer la línea %2</translation>
+    </message>
+    <message>
+        <source>%1; as %2, line %3: %4</source>
+        <translation>%1; como %2, línea %3: %4</translation>
+    </message>
+    <message>
+        <source>shot %1: picks left out, as the shot is disabled or their traces are killed: %2</source>
+        <translation>disparo %1: picados omitidos porque el disparo está desactivado o sus trazas anuladas: %2</translation>
+    </message>
+    <message>
+        <source>the file tells errors of its picks, which the survey does not keep</source>
+        <translation>el archivo indica errores de sus picados, que el levantamiento no conserva</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 lines</source>
+        <translation>el archivo termina tras %1 de %2 líneas</translation>
+    </message>
+    <message>
+        <source>the file holds no measurement</source>
+        <translation>el archivo no contiene ninguna medición</translation>
+    </message>
+    <message>
+        <source>no columns &quot;s&quot;, &quot;g&quot; and &quot;t&quot; are named above the numbers</source>
+        <translation>encima de los números no se nombran las columnas «s», «g» y «t»</translation>
+    </message>
+    <message>
+        <source>the unit of the column %1 is none of time</source>
+        <translation>la unidad de la columna %1 no es de tiempo</translation>
+    </message>
+    <message>
+        <source>the line holds %1</source>
+        <translation>la línea contiene %1</translation>
+    </message>
+    <message>
+        <source>the %1 %2 is none of the %3 positions</source>
+        <translation>el %1 %2 no es ninguna de las %3 posiciones</translation>
+    </message>
+    <message>
+        <source>after the measurements neither the end nor a number of points of topography follows</source>
+        <translation>tras las mediciones no sigue ni el final ni un número de puntos de topografía</translation>
+    </message>
+    <message>
+        <source>the second of three coordinates was not read</source>
+        <translation>no se ha leído la segunda de las tres coordenadas</translation>
+    </message>
+    <message>
+        <source>the third coordinate is 0 everywhere; the second one was taken for the elevation</source>
+        <translation>la tercera coordenada es 0 en todas partes; se ha tomado la segunda por la cota</translation>
+    </message>
+    <message>
+        <source>the positions have elevations; the topography was not used</source>
+        <translation>las posiciones tienen cotas; no se ha usado la topografía</translation>
+    </message>
+    <message>
+        <source>%1 positions are no shot and no geophone of any time; they were left out</source>
+        <translation>%1 posiciones no son disparo ni geófono de ningún tiempo; se han omitido</translation>
+    </message>
+    <message>
+        <source>%1 times are marked as not valid and are no picks</source>
+        <translation>%1 tiempos están marcados como no válidos y no son picados</translation>
+    </message>
+    <message>
+        <source>%1 times are not above 0 and are no picks</source>
+        <translation>%1 tiempos no son mayores que 0 y no son picados</translation>
+    </message>
+    <message>
+        <source>%1 shots have no pick and are not in the file</source>
+        <translation>%1 disparos no tienen picados y no están en el archivo</translation>
+    </message>
+    <message>
+        <source>%1 geophones have no pick; the file has their positions only</source>
+        <translation>%1 geófonos no tienen picados; el archivo solo tiene sus posiciones</translation>
+    </message>
+    <message>
+        <source>%1 shots lie at the place of another one; the file does not tell their picks apart</source>
+        <translation>%1 disparos están en el punto de otro; el archivo no distingue sus picados</translation>
+    </message>
+    <message>
+        <source>a trace without a sample interval cannot be shifted in time</source>
+        <translation>una traza sin intervalo de muestreo no se puede desplazar en el tiempo</translation>
+    </message>
+    <message>
+        <source>a shift of %1 ms is longer than the record</source>
+        <translation>un desplazamiento de %1 ms es más largo que el registro</translation>
+    </message>
+    <message>
+        <source>a shot is stacked with other shots of the survey, each once</source>
+        <translation>un disparo se apila con otros disparos del levantamiento, cada uno una sola vez</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with it: its traces are of another number, sample interval or kind</source>
+        <translation>el disparo %1 no se puede apilar con él: sus trazas son de otro número, intervalo de muestreo o tipo</translation>
+    </message>
+    <message>
+        <source>shot %1 has no traces to mend</source>
+        <translation>el disparo %1 no tiene trazas que corregir</translation>
+    </message>
+    <message>
+        <source>shot %1 has %2 traces, and mends of %3</source>
+        <translation>el disparo %1 tiene %2 trazas, y correcciones de %3</translation>
+    </message>
+    <message>
+        <source>a trace cannot be muted before %1 ms</source>
+        <translation>una traza no se puede silenciar antes de %1 ms</translation>
+    </message>
+    <message>
+        <source>a record cannot be shifted by %1 ms</source>
+        <translation>un registro no se puede desplazar %1 ms</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that have no place any more and are set aside: %2</source>
+        <translation>disparo %1: picados que ya no tienen lugar y se apartan: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that were set aside and are back: %2</source>
+        <translation>disparo %1: picados apartados que vuelven: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: filtered copies of traces that have changed are forgotten: %2; filter again if you need them</source>
+        <translation>disparo %1: copias filtradas descartadas por haber cambiado sus trazas: %2; vuelva a filtrar si las necesita</translation>
+    </message>
+    <message>
+        <source>shot %1: its shift is taken as %2 ms, whole samples</source>
+        <translation>disparo %1: su desplazamiento se toma como %2 ms, en muestras enteras</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with shot %2: they have other places, or geophones</source>
+        <translation>el disparo %1 no se puede apilar con el disparo %2: tienen otros puntos u otros geófonos</translation>
+    </message>
+    <message>
+        <source>traces killed: %1</source>
+        <translation>trazas anuladas: %1</translation>
+    </message>
+    <message>
+        <source>traces with their polarity reversed: %1</source>
+        <translation>trazas con polaridad invertida: %1</translation>
+    </message>
+    <message>
+        <source>traces muted before %1 ms: %2</source>
+        <translation>trazas silenciadas antes de %1 ms: %2</translation>
+    </message>
+    <message>
+        <source>disabled: it has no picks and takes no part in anything</source>
+        <translation>desactivado: no tiene picados ni participa en nada</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was late</source>
+        <translation>desplazado %1 ms: su registro estaba retrasado</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was early</source>
+        <translation>desplazado %1 ms: su registro estaba adelantado</translation>
+    </message>
+    <message>
+        <source>order reversed: its channels ran against the geophones</source>
+        <translation>orden invertido: sus canales iban contra los geófonos</translation>
+    </message>
+    <message>
+        <source>stacked with shots: %1</source>
+        <translation>apilado con los disparos: %1</translation>
+    </message>
+    <message>
+        <source>Mend recordings</source>
+        <translation>Corregir registros</translation>
+    </message>
+    <message>
+        <source>Shot %1 is disabled and takes no picks; Mend recording enables it.</source>
+        <translation>El disparo %1 está desactivado y no admite picados; Corregir registro lo activa.</translation>
+    </message>
+    <message>
+        <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
+        <translation>La traza %1 está anulada y no admite picado; Corregir registro la recupera.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
