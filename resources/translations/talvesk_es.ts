@@ -498,6 +498,52 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Its numbers were cut at their decimal commas: they need points.</source>
         <translation>Sus números se cortaron en la coma decimal: necesitan puntos.</translation>
     </message>
+    <message>
+        <source>Elevations from table</source>
+        <translation>Cotas de una tabla</translation>
+    </message>
+    <message>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
+        <translation>Da a todos los geófonos y disparos las cotas de una tabla de distancias y cotas</translation>
+    </message>
+    <message>
+        <source>&amp;Straight from point to point ...</source>
+        <translation>&amp;Recta de punto a punto ...</translation>
+    </message>
+    <message>
+        <source>Along a s&amp;mooth curve ...</source>
+        <translation>&amp;Curva suave ...</translation>
+    </message>
+    <message>
+        <source>It was read by the names of its columns.</source>
+        <translation>Se ha leído por los nombres de sus columnas.</translation>
+    </message>
+    <message>
+        <source>Open Elevations</source>
+        <translation>Abrir cotas</translation>
+    </message>
+    <message>
+        <source>Tables of distances and elevations (*.csv *.txt *.dat *.xyz *.tsv);;All Files (*)</source>
+        <translation>Tablas de distancias y cotas (*.csv *.txt *.dat *.xyz *.tsv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The elevations have not been taken.</source>
+        <translation>No se han tomado las cotas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) taken from the table.</source>
+        <translation>
+            <numerusform>%n cota tomada de la tabla.</numerusform>
+            <numerusform>%n cotas tomadas de la tabla.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <translation>
+            <numerusform>%n posición queda más allá de sus extremos, de %1 a %2 m, y ha recibido la cota de allí.</numerusform>
+            <numerusform>%n posiciones quedan más allá de sus extremos, de %1 a %2 m, y han recibido la cota de allí.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -1388,6 +1434,10 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Do you want to continue?</source>
         <translation>¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be removed (Undo brings it back):</source>
+        <translation>El levantamiento cambia. Se quitará lo siguiente (Deshacer lo recupera):</translation>
     </message>
 </context>
 <context>
@@ -5928,6 +5978,25 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     </message>
 </context>
 <context>
+    <name>talvesk::ShotFileDialog</name>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the standard</source>
+        <translation>el estándar</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules read shot files as this program always has. The standard reads what their content says, whatever their suffix: other sample formats and byte orders, scaled coordinates, delays, files of several shots.</source>
+        <translation>Las reglas del programa leen los archivos de disparos como siempre lo ha hecho este programa. El estándar lee lo que dice su contenido, sea cual sea su extensión: otros formatos de muestra y órdenes de bytes, coordenadas con factor de escala, retardos, archivos de varios disparos.</translation>
+    </message>
+    <message>
+        <source>&amp;Read shot files by:</source>
+        <translation>&amp;Leer los archivos de disparos según:</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ShotTable</name>
     <message>
         <source>String</source>
@@ -7477,6 +7546,146 @@ Do you want to run refraction processing anyway? </source>
         <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
         <translation>Los cambios más antiguos ya no se pueden deshacer: necesitaban más de %1 MB.</translation>
     </message>
+    <message>
+        <source>Export recordings...</source>
+        <translation>Exportar registros...</translation>
+    </message>
+    <message>
+        <source>Write the traces of all shots, with the positions of the survey, as SEG-Y or SEG-2 files</source>
+        <translation>Escribe las trazas de todos los disparos, con las posiciones del levantamiento, como archivos SEG-Y o SEG-2</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Contar los tiempos desde el disparo</translation>
+    </message>
+    <message>
+        <source>Drop what was recorded before the shot; picks move with their traces</source>
+        <translation>Descarta lo registrado antes del disparo; los picados se desplazan con sus trazas</translation>
+    </message>
+    <message>
+        <source>Mend recording...</source>
+        <translation>Corregir registro...</translation>
+    </message>
+    <message>
+        <source>Put right the time, the order or single traces of the shot in view; what was recorded is kept</source>
+        <translation>Corrige el tiempo, el orden o trazas sueltas del disparo a la vista; lo registrado se conserva</translation>
+    </message>
+    <message>
+        <source>Take back all mends</source>
+        <translation>Revertir todas las correcciones</translation>
+    </message>
+    <message>
+        <source>Show all recordings as they were recorded, with their picks</source>
+        <translation>Muestra todos los registros tal como se registraron, con sus picados</translation>
+    </message>
+    <message>
+        <source>%1 of them are of disabled shots or killed and left unpicked.</source>
+        <translation>%1 de ellas son de disparos desactivados o están anuladas y quedan sin picar.</translation>
+    </message>
+    <message>
+        <source>SEG-Y, a file for each shot</source>
+        <translation>SEG-Y, un archivo por disparo</translation>
+    </message>
+    <message>
+        <source>SEG-Y, all shots in one file</source>
+        <translation>SEG-Y, todos los disparos en un archivo</translation>
+    </message>
+    <message>
+        <source>SEG-2, a file for each shot</source>
+        <translation>SEG-2, un archivo por disparo</translation>
+    </message>
+    <message>
+        <source>Export recordings</source>
+        <translation>Exportar registros</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message>
+        <source>Folder for the recordings</source>
+        <translation>Carpeta de los registros</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey.</source>
+        <translation>%1 es uno de los archivos de disparos de este levantamiento.</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>Writing recordings ...</source>
+        <translation>Escribiendo registros ...</translation>
+    </message>
+    <message>
+        <source>The export to %1 was stopped; some files are missing.</source>
+        <translation>La exportación a %1 se ha detenido; faltan algunos archivos.</translation>
+    </message>
+    <message>
+        <source>The recordings have not been exported.</source>
+        <translation>No se han exportado los registros.</translation>
+    </message>
+    <message>
+        <source>Recordings saved in %1</source>
+        <translation>Registros guardados en %1</translation>
+    </message>
+    <message>
+        <source>The recordings have been saved.</source>
+        <translation>Se han guardado los registros.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The times of %n trace(s) count from the shot now.</source>
+        <translation>
+            <numerusform>Los tiempos de %n traza se cuentan ahora desde el disparo.</numerusform>
+            <numerusform>Los tiempos de %n trazas se cuentan ahora desde el disparo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pick(s) lay before it and are removed.</source>
+        <translation>
+            <numerusform>%n picado estaba antes y se ha quitado.</numerusform>
+            <numerusform>%n picados estaban antes y se han quitado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The recording of shot %1 has not been mended.</source>
+        <translation>No se ha corregido el registro del disparo %1.</translation>
+    </message>
+    <message>
+        <source>The mends have not been taken back.</source>
+        <translation>No se han revertido las correcciones.</translation>
+    </message>
+    <message>
+        <source>%1 (disabled)</source>
+        <comment>shot</comment>
+        <translation>%1 (desactivado)</translation>
+    </message>
+    <message>
+        <source>%1 (mended)</source>
+        <comment>shot</comment>
+        <translation>%1 (corregido)</translation>
+    </message>
+    <message>
+        <source>disabled or killed</source>
+        <translation>disparo desactivado o traza anulada</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>milisegundos</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>segundos</translation>
+    </message>
+    <message>
+        <source>%1 does not say in which unit its times are.</source>
+        <translation>%1 no indica en qué unidad están sus tiempos.</translation>
+    </message>
+    <message>
+        <source>%1 does not hold all of the survey.</source>
+        <translation>%1 no contiene todo el levantamiento.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -8122,6 +8331,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Los resultados de la última inversión se quitarán (Deshacer los recupera).</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::progressDialog</name>
@@ -8413,6 +8626,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>You have not changed the layers.</source>
         <translation>No ha modificado las capas.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Los resultados de la última inversión se quitarán (Deshacer los recupera).</translation>
     </message>
 </context>
 <context>
