@@ -835,6 +835,38 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>smoothed since the inversion</source>
         <translation>suavizada desde la inversión</translation>
     </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>disparo desactivado</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>desplazado %1 ms</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>orden invertido</translation>
+    </message>
+    <message>
+        <source>stacked with %1</source>
+        <comment>shots</comment>
+        <translation>apilado con %1</translation>
+    </message>
+    <message>
+        <source>%1 killed</source>
+        <comment>traces</comment>
+        <translation>anulación de %1</translation>
+    </message>
+    <message>
+        <source>%1 of reversed polarity</source>
+        <comment>traces</comment>
+        <translation>%1 con polaridad invertida</translation>
+    </message>
+    <message>
+        <source>%1 muted</source>
+        <comment>traces</comment>
+        <translation>silenciado de %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -1428,16 +1460,92 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Advertencia</translation>
     </message>
     <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>El levantamiento cambia. Se perderán:</translation>
-    </message>
-    <message>
         <source>Do you want to continue?</source>
         <translation>¿Desea continuar?</translation>
     </message>
     <message>
         <source>The survey changes. This will be removed (Undo brings it back):</source>
         <translation>El levantamiento cambia. Se quitará lo siguiente (Deshacer lo recupera):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MendDialog</name>
+    <message>
+        <source>Mend recording</source>
+        <translation>Corregir registro</translation>
+    </message>
+    <message>
+        <source>What was recorded is kept: everything here can be taken back at any time. Picks move with the recording.</source>
+        <translation>Lo registrado se conserva: todo lo que haga aquí se puede revertir en cualquier momento. Los picados se desplazan con el registro.</translation>
+    </message>
+    <message>
+        <source>&amp;The record was late by:</source>
+        <translation>&amp;Retraso del registro:</translation>
+    </message>
+    <message>
+        <source>Positive: the front of the record goes, and picks become earlier. Negative: the record was early. Whole samples are taken.</source>
+        <translation>Positivo: se quita el principio del registro y los picados se adelantan. Negativo: el registro estaba adelantado. Se toman muestras enteras.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Its picks are set aside and come back with it</source>
+        <translation>Sus picados se apartan y vuelven con él</translation>
+    </message>
+    <message>
+        <source>&amp;Disabled: the shot has no picks and takes no part</source>
+        <translation>&amp;Desactivado: el disparo no tiene picados ni participa</translation>
+    </message>
+    <message>
+        <source>The last channel goes to the first geophone, with its pick</source>
+        <translation>El último canal pasa al primer geófono, con su picado</translation>
+    </message>
+    <message>
+        <source>&amp;Order reversed: the channels run against the geophones</source>
+        <translation>&amp;Orden invertido: los canales van contra los geófonos</translation>
+    </message>
+    <message>
+        <source>&amp;Stack with:</source>
+        <translation>&amp;Apilar con:</translation>
+    </message>
+    <message>
+        <source>Shots of the same place and geophones; the mean of their samples is shown and picked</source>
+        <translation>Disparos del mismo punto y los mismos geófonos; se muestra y se pica la media de sus muestras</translation>
+    </message>
+    <message>
+        <source>Disable &amp;the shots that it is stacked with</source>
+        <translation>Desactivar los disparos con los &amp;que se apila</translation>
+    </message>
+    <message>
+        <source>No other shot has the same place, geophones and sample interval.</source>
+        <translation>Ningún otro disparo tiene el mismo punto, los mismos geófonos y el mismo intervalo de muestreo.</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Trazas del disparo</translation>
+    </message>
+    <message>
+        <source>Killed</source>
+        <translation>Anulada</translation>
+    </message>
+    <message>
+        <source>Polarity reversed</source>
+        <translation>Polaridad invertida</translation>
+    </message>
+    <message>
+        <source>Muted before</source>
+        <translation>Silenciada antes de</translation>
+    </message>
+    <message>
+        <source>Mend recording of shot %1</source>
+        <translation>Corregir registro del disparo %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -4540,6 +4648,104 @@ Defina la posición de los geófonos
     </message>
 </context>
 <context>
+    <name>talvesk::ReadingPanel</name>
+    <message>
+        <source>Format:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Shots:</source>
+        <translation>Disparos:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Trazas:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Muestras por traza:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Intervalo de muestreo:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Retardo del registro:</translation>
+    </message>
+    <message>
+        <source>Shot at:</source>
+        <translation>Disparo en:</translation>
+    </message>
+    <message>
+        <source>Geophones at:</source>
+        <translation>Geófonos en:</translation>
+    </message>
+    <message>
+        <source>Shot in view:</source>
+        <translation>Disparo a la vista:</translation>
+    </message>
+    <message>
+        <source>No trace</source>
+        <translation>Ninguna traza</translation>
+    </message>
+    <message>
+        <source>No warnings</source>
+        <translation>Sin advertencias</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>no leído</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Nothing was read.</source>
+        <translation>No se ha leído nada.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReadingsDialog</name>
+    <message>
+        <source>The standard reads more</source>
+        <translation>El estándar lee más</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules cannot carry all that these files hold. Read by the standard of their format they give more:</source>
+        <translation>Las reglas del programa no pueden recoger todo lo que contienen estos archivos. Leídos según el estándar de su formato dan más:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>What gets lost by the program&apos;s rules</source>
+        <translation>Lo que se pierde con las reglas del programa</translation>
+    </message>
+    <message>
+        <source>By the program&apos;s rules</source>
+        <translation>Según las reglas del programa</translation>
+    </message>
+    <message>
+        <source>By the standard</source>
+        <translation>Según el estándar</translation>
+    </message>
+    <message>
+        <source>Use the &amp;standard for these files</source>
+        <translation>Usar el &amp;estándar para estos archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the program&apos;s rules</source>
+        <translation>&amp;Mantener las reglas del programa</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -4633,6 +4839,26 @@ Defina la posición de los geófonos
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Read by:</source>
+        <translation>Leído según:</translation>
+    </message>
+    <message>
+        <source>Mends:</source>
+        <translation>Correcciones:</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>el estándar de su formato</translation>
+    </message>
+    <message>
+        <source>the standard of its format; record %1 of the file, %2</source>
+        <translation>el estándar de su formato; registro %1 del archivo, %2</translation>
     </message>
 </context>
 <context>
@@ -5297,20 +5523,12 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>No se ha construido ninguna malla ni se ha invertido nada.</translation>
     </message>
     <message>
-        <source>Nothing has been inverted: the grid holds its starting model.</source>
-        <translation>No se ha invertido nada: la malla contiene su modelo inicial.</translation>
-    </message>
-    <message>
         <source>The parameters of the inversion are not known.</source>
         <translation>No se conocen los parámetros de la inversión.</translation>
     </message>
     <message>
         <source>Velocity section</source>
         <translation>Sección de velocidad</translation>
-    </message>
-    <message>
-        <source>Velocity of the starting model</source>
-        <translation>Velocidad del modelo inicial</translation>
     </message>
     <message>
         <source>Misfit</source>
@@ -5652,6 +5870,30 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
         <translation>Disparos: %1; geófonos: %2; picados: %3 de %4</translation>
     </message>
+    <message>
+        <source>No result of an inversion is known: the grid has the velocities that it was left with.</source>
+        <translation>No consta ningún resultado de una inversión: la malla tiene las velocidades con las que quedó.</translation>
+    </message>
+    <message>
+        <source>Velocities of the grid</source>
+        <translation>Velocidades de la malla</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Corrección</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Correcciones</translation>
+    </message>
+    <message>
+        <source>The recordings of these shots are put right as listed. All figures and times of this report are of the mended recordings.</source>
+        <translation>Los registros de estos disparos se han corregido como se indica. Todas las figuras y los tiempos de este informe son de los registros corregidos.</translation>
+    </message>
+    <message>
+        <source>Mends of recordings</source>
+        <translation>Correcciones de los registros</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -5796,44 +6038,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>%1: %2 x %3 pixels</source>
         <translation>%1: %2 x %3 píxeles</translation>
-    </message>
-</context>
-<context>
-    <name>talvesk::SectionSheet</name>
-    <message>
-        <source>Geophones</source>
-        <translation>Geófonos</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Disparos</translation>
-    </message>
-    <message>
-        <source>Contours</source>
-        <translation>Isolíneas</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ray(s)</source>
-        <translation>
-            <numerusform>%n rayo</numerusform>
-            <numerusform>%n rayos</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Coverage limit</source>
-        <translation>Límite de cobertura</translation>
-    </message>
-    <message>
-        <source>Distance [m]</source>
-        <translation>Distancia [m]</translation>
-    </message>
-    <message>
-        <source>Elevation [m]</source>
-        <translation>Cota [m]</translation>
-    </message>
-    <message>
-        <source>Vertical exaggeration %1×</source>
-        <translation>Exageración vertical %1×</translation>
     </message>
 </context>
 <context>
@@ -8308,10 +8512,6 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Celdas tan pequeñas hacen muy lenta la inversión, que solo se detiene entre iteraciones. Un cuarto de la separación entre geófonos es %1 m.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Los resultados de la última inversión se perderán.</translation>
-    </message>
-    <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
         <translation>Un cuarto de la menor separación entre geófonos, 0,1 m como mínimo. Sin marcar: el tamaño de celda de la malla existente, o el menor si no hay malla.</translation>
     </message>
@@ -8614,10 +8814,6 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>The layers make no velocity model.</source>
         <translation>Las capas no forman un modelo de velocidad.</translation>
-    </message>
-    <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Los resultados de la última inversión se perderán.</translation>
     </message>
     <message>
         <source>Do you want to put them into the grid all the same?</source>
