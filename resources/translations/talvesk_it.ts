@@ -498,6 +498,52 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Its numbers were cut at their decimal commas: they need points.</source>
         <translation>I numeri sono stati troncati alla virgola: serve il punto decimale.</translation>
     </message>
+    <message>
+        <source>Elevations from table</source>
+        <translation>Quote da tabella</translation>
+    </message>
+    <message>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
+        <translation>Dà a tutti i geofoni e i tiri le quote di una tabella di distanze e quote</translation>
+    </message>
+    <message>
+        <source>&amp;Straight from point to point ...</source>
+        <translation>In linea &amp;retta da punto a punto ...</translation>
+    </message>
+    <message>
+        <source>Along a s&amp;mooth curve ...</source>
+        <translation>Lungo una c&amp;urva continua ...</translation>
+    </message>
+    <message>
+        <source>It was read by the names of its columns.</source>
+        <translation>Il file è stato letto secondo i nomi delle colonne.</translation>
+    </message>
+    <message>
+        <source>Open Elevations</source>
+        <translation>Apri quote</translation>
+    </message>
+    <message>
+        <source>Tables of distances and elevations (*.csv *.txt *.dat *.xyz *.tsv);;All Files (*)</source>
+        <translation>Tabelle di distanze e quote (*.csv *.txt *.dat *.xyz *.tsv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>The elevations have not been taken.</source>
+        <translation>Le quote non sono state prese.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) taken from the table.</source>
+        <translation>
+            <numerusform>%n quota presa dalla tabella.</numerusform>
+            <numerusform>%n quote prese dalla tabella.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <translation>
+            <numerusform>%n posizione è oltre i suoi estremi, da %1 a %2 m, e ha ricevuto la quota dell&apos;estremo.</numerusform>
+            <numerusform>%n posizioni sono oltre i suoi estremi, da %1 a %2 m, e hanno ricevuto la quota dell&apos;estremo.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -788,6 +834,38 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>smoothed since the inversion</source>
         <translation>smussata dopo l&apos;inversione</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>tiro disattivato</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>traslazione di %1 ms</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>ordine invertito</translation>
+    </message>
+    <message>
+        <source>stacked with %1</source>
+        <comment>shots</comment>
+        <translation>somma con %1</translation>
+    </message>
+    <message>
+        <source>%1 killed</source>
+        <comment>traces</comment>
+        <translation>esclusione di %1</translation>
+    </message>
+    <message>
+        <source>%1 of reversed polarity</source>
+        <comment>traces</comment>
+        <translation>%1 con polarità invertita</translation>
+    </message>
+    <message>
+        <source>%1 muted</source>
+        <comment>traces</comment>
+        <translation>azzeramento iniziale di %1</translation>
     </message>
 </context>
 <context>
@@ -1382,12 +1460,92 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Attenzione</translation>
     </message>
     <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>Il rilievo cambia. Andranno persi:</translation>
-    </message>
-    <message>
         <source>Do you want to continue?</source>
         <translation>Vuoi continuare?</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be removed (Undo brings it back):</source>
+        <translation>Il rilievo cambia. Verranno tolti (&quot;Annulla modifica&quot; li ripristina):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MendDialog</name>
+    <message>
+        <source>Mend recording</source>
+        <translation>Correggi la registrazione</translation>
+    </message>
+    <message>
+        <source>What was recorded is kept: everything here can be taken back at any time. Picks move with the recording.</source>
+        <translation>Ciò che è stato registrato si conserva: qui tutto si può togliere in qualsiasi momento. I primi arrivi si spostano con la registrazione.</translation>
+    </message>
+    <message>
+        <source>&amp;The record was late by:</source>
+        <translation>La registrazione era in &amp;ritardo di:</translation>
+    </message>
+    <message>
+        <source>Positive: the front of the record goes, and picks become earlier. Negative: the record was early. Whole samples are taken.</source>
+        <translation>Positivo: l&apos;inizio della registrazione viene tolto e i primi arrivi si anticipano. Negativo: la registrazione era in anticipo. Si prendono campioni interi.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Its picks are set aside and come back with it</source>
+        <translation>I suoi primi arrivi sono messi da parte e tornano con esso</translation>
+    </message>
+    <message>
+        <source>&amp;Disabled: the shot has no picks and takes no part</source>
+        <translation>&amp;Disattivato: il tiro non ha primi arrivi e non partecipa a nulla</translation>
+    </message>
+    <message>
+        <source>The last channel goes to the first geophone, with its pick</source>
+        <translation>L&apos;ultimo canale va al primo geofono, con il suo primo arrivo</translation>
+    </message>
+    <message>
+        <source>&amp;Order reversed: the channels run against the geophones</source>
+        <translation>&amp;Ordine invertito: i canali vanno in senso contrario ai geofoni</translation>
+    </message>
+    <message>
+        <source>&amp;Stack with:</source>
+        <translation>&amp;Somma con:</translation>
+    </message>
+    <message>
+        <source>Shots of the same place and geophones; the mean of their samples is shown and picked</source>
+        <translation>Tiri con stessa posizione e stessi geofoni; si mostra la media dei campioni, e su di essa si segnano i primi arrivi</translation>
+    </message>
+    <message>
+        <source>Disable &amp;the shots that it is stacked with</source>
+        <translation>Disattiva &amp;i tiri con cui è sommato</translation>
+    </message>
+    <message>
+        <source>No other shot has the same place, geophones and sample interval.</source>
+        <translation>Nessun altro tiro ha la stessa posizione, gli stessi geofoni e lo stesso intervallo di campionamento.</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Tracce del tiro</translation>
+    </message>
+    <message>
+        <source>Killed</source>
+        <translation>Esclusa</translation>
+    </message>
+    <message>
+        <source>Polarity reversed</source>
+        <translation>Polarità invertita</translation>
+    </message>
+    <message>
+        <source>Muted before</source>
+        <translation>Azzerata prima di</translation>
+    </message>
+    <message>
+        <source>Mend recording of shot %1</source>
+        <translation>Correggi la registrazione del tiro %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3434,6 +3592,104 @@ Impostare la posizione dei geofoni
     </message>
 </context>
 <context>
+    <name>talvesk::ReadingPanel</name>
+    <message>
+        <source>Format:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Shots:</source>
+        <translation>Tiri:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Tracce:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Campioni per traccia:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Intervallo di campionamento:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Ritardo di registrazione:</translation>
+    </message>
+    <message>
+        <source>Shot at:</source>
+        <translation>Posizione del tiro:</translation>
+    </message>
+    <message>
+        <source>Geophones at:</source>
+        <translation>Posizioni dei geofoni:</translation>
+    </message>
+    <message>
+        <source>Shot in view:</source>
+        <translation>Tiro in vista:</translation>
+    </message>
+    <message>
+        <source>No trace</source>
+        <translation>Nessuna traccia</translation>
+    </message>
+    <message>
+        <source>No warnings</source>
+        <translation>Nessun avvertimento</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>non letto</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Nothing was read.</source>
+        <translation>Non è stato letto nulla.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReadingsDialog</name>
+    <message>
+        <source>The standard reads more</source>
+        <translation>Lo standard legge di più</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules cannot carry all that these files hold. Read by the standard of their format they give more:</source>
+        <translation>Le regole del programma non possono rendere tutto ciò che questi file contengono. Letti secondo lo standard del loro formato danno di più:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>What gets lost by the program&apos;s rules</source>
+        <translation>Che cosa va perso con le regole del programma</translation>
+    </message>
+    <message>
+        <source>By the program&apos;s rules</source>
+        <translation>Secondo le regole del programma</translation>
+    </message>
+    <message>
+        <source>By the standard</source>
+        <translation>Secondo lo standard</translation>
+    </message>
+    <message>
+        <source>Use the &amp;standard for these files</source>
+        <translation>Usa lo &amp;standard per questi file</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the program&apos;s rules</source>
+        <translation>&amp;Mantieni le regole del programma</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -3527,6 +3783,26 @@ Impostare la posizione dei geofoni
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Read by:</source>
+        <translation>Letto secondo:</translation>
+    </message>
+    <message>
+        <source>Mends:</source>
+        <translation>Correzioni:</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>le regole del programma</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>lo standard del suo formato</translation>
+    </message>
+    <message>
+        <source>the standard of its format; record %1 of the file, %2</source>
+        <translation>lo standard del suo formato; registrazione %1 del file, %2</translation>
     </message>
 </context>
 <context>
@@ -4191,20 +4467,12 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Nessuna griglia è stata costruita e nulla è stato invertito.</translation>
     </message>
     <message>
-        <source>Nothing has been inverted: the grid holds its starting model.</source>
-        <translation>Nulla è stato invertito: la griglia contiene il modello iniziale.</translation>
-    </message>
-    <message>
         <source>The parameters of the inversion are not known.</source>
         <translation>I parametri dell&apos;inversione non sono noti.</translation>
     </message>
     <message>
         <source>Velocity section</source>
         <translation>Sezione di velocità</translation>
-    </message>
-    <message>
-        <source>Velocity of the starting model</source>
-        <translation>Velocità del modello iniziale</translation>
     </message>
     <message>
         <source>Misfit</source>
@@ -4546,6 +4814,30 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
         <translation>Tiri: %1; geofoni: %2; primi arrivi: %3 di %4</translation>
     </message>
+    <message>
+        <source>No result of an inversion is known: the grid has the velocities that it was left with.</source>
+        <translation>Nessun risultato di un&apos;inversione è noto: la griglia ha le velocità che le sono rimaste.</translation>
+    </message>
+    <message>
+        <source>Velocities of the grid</source>
+        <translation>Velocità della griglia</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Correzione</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Correzioni</translation>
+    </message>
+    <message>
+        <source>The recordings of these shots are put right as listed. All figures and times of this report are of the mended recordings.</source>
+        <translation>Le registrazioni di questi tiri sono corrette come indicato nell&apos;elenco. Tutte le figure e i tempi di questa relazione sono delle registrazioni corrette.</translation>
+    </message>
+    <message>
+        <source>Mends of recordings</source>
+        <translation>Correzioni delle registrazioni</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -4693,44 +4985,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
 </context>
 <context>
-    <name>talvesk::SectionSheet</name>
-    <message>
-        <source>Geophones</source>
-        <translation>Geofoni</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Tiri</translation>
-    </message>
-    <message>
-        <source>Contours</source>
-        <translation>Isolinee</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ray(s)</source>
-        <translation>
-            <numerusform>%n raggio</numerusform>
-            <numerusform>%n raggi</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Coverage limit</source>
-        <translation>Limite di copertura</translation>
-    </message>
-    <message>
-        <source>Distance [m]</source>
-        <translation>Distanza [m]</translation>
-    </message>
-    <message>
-        <source>Elevation [m]</source>
-        <translation>Quota [m]</translation>
-    </message>
-    <message>
-        <source>Vertical exaggeration %1×</source>
-        <translation>Esagerazione verticale %1×</translation>
-    </message>
-</context>
-<context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
@@ -4869,6 +5123,25 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source> MB</source>
         <translation> MB</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotFileDialog</name>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>le regole del programma</translation>
+    </message>
+    <message>
+        <source>the standard</source>
+        <translation>lo standard</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules read shot files as this program always has. The standard reads what their content says, whatever their suffix: other sample formats and byte orders, scaled coordinates, delays, files of several shots.</source>
+        <translation>Le regole del programma leggono i file dei tiri come questo programma ha sempre fatto. Lo standard legge ciò che dice il contenuto, qualunque sia l&apos;estensione: altri formati dei campioni e ordini dei byte, coordinate con fattore di scala, ritardi, file con più tiri.</translation>
+    </message>
+    <message>
+        <source>&amp;Read shot files by:</source>
+        <translation>&amp;Leggi i file dei tiri secondo:</translation>
     </message>
 </context>
 <context>
@@ -6421,6 +6694,146 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
         <translation>Le modifiche più vecchie non si possono più annullare: richiedevano più di %1 MB.</translation>
     </message>
+    <message>
+        <source>Export recordings...</source>
+        <translation>Esporta registrazioni...</translation>
+    </message>
+    <message>
+        <source>Write the traces of all shots, with the positions of the survey, as SEG-Y or SEG-2 files</source>
+        <translation>Scrive le tracce di tutti i tiri, con le posizioni del rilievo, in file SEG-Y o SEG-2</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Conta i tempi dal tiro</translation>
+    </message>
+    <message>
+        <source>Drop what was recorded before the shot; picks move with their traces</source>
+        <translation>Toglie ciò che è stato registrato prima del tiro; i primi arrivi si spostano con le tracce</translation>
+    </message>
+    <message>
+        <source>Mend recording...</source>
+        <translation>Correggi la registrazione...</translation>
+    </message>
+    <message>
+        <source>Put right the time, the order or single traces of the shot in view; what was recorded is kept</source>
+        <translation>Corregge il tempo, l&apos;ordine o singole tracce del tiro in vista; ciò che è stato registrato si conserva</translation>
+    </message>
+    <message>
+        <source>Take back all mends</source>
+        <translation>Togli tutte le correzioni</translation>
+    </message>
+    <message>
+        <source>Show all recordings as they were recorded, with their picks</source>
+        <translation>Mostra tutte le registrazioni com&apos;erano all&apos;origine, con i loro primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 of them are of disabled shots or killed and left unpicked.</source>
+        <translation>Di queste, %1 sono escluse o di tiri disattivati e restano senza primo arrivo.</translation>
+    </message>
+    <message>
+        <source>SEG-Y, a file for each shot</source>
+        <translation>SEG-Y, un file per ogni tiro</translation>
+    </message>
+    <message>
+        <source>SEG-Y, all shots in one file</source>
+        <translation>SEG-Y, tutti i tiri in un solo file</translation>
+    </message>
+    <message>
+        <source>SEG-2, a file for each shot</source>
+        <translation>SEG-2, un file per ogni tiro</translation>
+    </message>
+    <message>
+        <source>Export recordings</source>
+        <translation>Esporta registrazioni</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message>
+        <source>Folder for the recordings</source>
+        <translation>Cartella per le registrazioni</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey.</source>
+        <translation>%1 è uno dei file dei tiri di questo rilievo.</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Scegli un&apos;altra cartella.</translation>
+    </message>
+    <message>
+        <source>Writing recordings ...</source>
+        <translation>Scrittura delle registrazioni ...</translation>
+    </message>
+    <message>
+        <source>The export to %1 was stopped; some files are missing.</source>
+        <translation>L&apos;esportazione in %1 è stata interrotta; mancano alcuni file.</translation>
+    </message>
+    <message>
+        <source>The recordings have not been exported.</source>
+        <translation>Le registrazioni non sono state esportate.</translation>
+    </message>
+    <message>
+        <source>Recordings saved in %1</source>
+        <translation>Registrazioni salvate in %1</translation>
+    </message>
+    <message>
+        <source>The recordings have been saved.</source>
+        <translation>Le registrazioni sono state salvate.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The times of %n trace(s) count from the shot now.</source>
+        <translation>
+            <numerusform>I tempi di %n traccia si contano ora dal tiro.</numerusform>
+            <numerusform>I tempi di %n tracce si contano ora dal tiro.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pick(s) lay before it and are removed.</source>
+        <translation>
+            <numerusform>%n primo arrivo era prima del tiro ed è stato tolto.</numerusform>
+            <numerusform>%n primi arrivi erano prima del tiro e sono stati tolti.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The recording of shot %1 has not been mended.</source>
+        <translation>La registrazione del tiro %1 non è stata corretta.</translation>
+    </message>
+    <message>
+        <source>The mends have not been taken back.</source>
+        <translation>Le correzioni non sono state tolte.</translation>
+    </message>
+    <message>
+        <source>%1 (disabled)</source>
+        <comment>shot</comment>
+        <translation>%1 (disattivato)</translation>
+    </message>
+    <message>
+        <source>%1 (mended)</source>
+        <comment>shot</comment>
+        <translation>%1 (corretto)</translation>
+    </message>
+    <message>
+        <source>disabled or killed</source>
+        <translation>esclusa o di un tiro disattivato</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>millisecondi</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>secondi</translation>
+    </message>
+    <message>
+        <source>%1 does not say in which unit its times are.</source>
+        <translation>%1 non dice in quale unità sono i tempi.</translation>
+    </message>
+    <message>
+        <source>%1 does not hold all of the survey.</source>
+        <translation>%1 non contiene tutto il rilievo.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -7043,10 +7456,6 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Celle così piccole rendono l&apos;inversione molto lenta, e si ferma solo tra un&apos;iterazione e l&apos;altra. Un quarto della distanza fra i geofoni è %1 m.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>I risultati dell&apos;ultima inversione andranno persi.</translation>
-    </message>
-    <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
         <translation>Un quarto della distanza più piccola fra i geofoni, almeno 0,1 m. Se non è spuntato: il lato delle celle della griglia esistente, o il più piccolo se non ce n&apos;è una.</translation>
     </message>
@@ -7065,6 +7474,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>I risultati dell&apos;ultima inversione verranno tolti (&quot;Annulla modifica&quot; li ripristina).</translation>
     </message>
 </context>
 <context>
@@ -7347,16 +7760,16 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Gli strati non formano un modello di velocità.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>I risultati dell&apos;ultima inversione andranno persi.</translation>
-    </message>
-    <message>
         <source>Do you want to put them into the grid all the same?</source>
         <translation>Vuoi metterli comunque nella griglia?</translation>
     </message>
     <message>
         <source>You have not changed the layers.</source>
         <translation>Gli strati non sono stati cambiati.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>I risultati dell&apos;ultima inversione verranno tolti (&quot;Annulla modifica&quot; li ripristina).</translation>
     </message>
 </context>
 <context>
