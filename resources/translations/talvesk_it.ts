@@ -3406,6 +3406,298 @@ Impostare la posizione dei geofoni
         <source>Draw picks</source>
         <translation>Traccia i primi arrivi</translation>
     </message>
+    <message>
+        <source>the survey has no such shot; check the recordings again</source>
+        <translation>il rilievo non ha questo tiro; controllare di nuovo le registrazioni</translation>
+    </message>
+    <message>
+        <source>shot %1: a position is missing, no number or absurdly far away</source>
+        <translation>tiro %1: una posizione manca, non è un numero o è assurdamente lontana</translation>
+    </message>
+    <message>
+        <source>shot %1: its geophone string has another number of geophones than the proposal; check the recordings again</source>
+        <translation>tiro %1: la sua stesa ha un numero di geofoni diverso dalla proposta; controllare di nuovo le registrazioni</translation>
+    </message>
+    <message>
+        <source>there is no trace %1; check the recordings again</source>
+        <translation>la traccia %1 non esiste; controllare di nuovo le registrazioni</translation>
+    </message>
+    <message>
+        <source>no trace of the record holds anything</source>
+        <translation>nessuna traccia della registrazione contiene qualcosa</translation>
+    </message>
+    <message>
+        <source>dead: the samples of %1 are all the same</source>
+        <translation>segnale assente (%1): i campioni sono tutti uguali</translation>
+    </message>
+    <message>
+        <source>as good as dead: %1, at down to %2 % of the strength of the neighbours</source>
+        <translation>segnale quasi assente (%1): fino al %2 % dell&apos;ampiezza delle tracce vicine</translation>
+    </message>
+    <message>
+        <source>clipped: the swings of %1 are cut off flat, up to %2 times; first breaks can be picked, amplitudes mean nothing</source>
+        <translation>saturazione (%1): le oscillazioni sono troncate in piano, fino a %2 volte; i primi arrivi si possono segnare, le ampiezze non hanno significato</translation>
+    </message>
+    <message>
+        <source>noisy: before the first arrival of %1 there is up to %2 times the noise of the neighbours, and it drowns the arrival</source>
+        <translation>rumore (%1): prima del primo arrivo il rumore è fino a %2 volte quello delle tracce vicine, e copre l&apos;arrivo</translation>
+    </message>
+    <message>
+        <source>doubled: trace %1 is trace %2 once more (correlation %3); the arrivals around say that it belongs to the latter</source>
+        <translation>doppione: la traccia %1 è di nuovo la traccia %2 (correlazione %3); secondo gli arrivi vicini il segnale è di quest&apos;ultima</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>traces %1</source>
+        <translation>tracce %1</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>tiri %1</translation>
+    </message>
+    <message>
+        <source>shot position</source>
+        <translation>posizione del tiro</translation>
+    </message>
+    <message>
+        <source>station numbers</source>
+        <translation>numeri di stazione</translation>
+    </message>
+    <message>
+        <source>repeated positions</source>
+        <translation>posizioni ripetute</translation>
+    </message>
+    <message>
+        <source>reversed order</source>
+        <translation>ordine invertito</translation>
+    </message>
+    <message>
+        <source>doubled trace</source>
+        <translation>traccia doppia</translation>
+    </message>
+    <message>
+        <source>moved traces</source>
+        <translation>tracce scambiate</translation>
+    </message>
+    <message>
+        <source>geophone off the line</source>
+        <translation>geofono fuori posto</translation>
+    </message>
+    <message>
+        <source>trigger time</source>
+        <translation>tempo di trigger</translation>
+    </message>
+    <message>
+        <source>dead traces</source>
+        <translation>tracce morte</translation>
+    </message>
+    <message>
+        <source>clipped traces</source>
+        <translation>tracce saturate</translation>
+    </message>
+    <message>
+        <source>noisy traces</source>
+        <translation>tracce rumorose</translation>
+    </message>
+    <message>
+        <source>reversed polarity</source>
+        <translation>polarità invertita</translation>
+    </message>
+    <message>
+        <source>mistimed trace</source>
+        <translation>traccia fuori tempo</translation>
+    </message>
+    <message>
+        <source>sample intervals</source>
+        <translation>intervalli di campionamento</translation>
+    </message>
+    <message>
+        <source>repeated shot</source>
+        <translation>tiro ripetuto</translation>
+    </message>
+    <message>
+        <source>overlapping spreads</source>
+        <translation>stese sovrapposte</translation>
+    </message>
+    <message>
+        <source>no elevations</source>
+        <translation>quote assenti</translation>
+    </message>
+    <message>
+        <source>move the record later by %1 ms</source>
+        <translation>ritardare la registrazione di %1 ms</translation>
+    </message>
+    <message>
+        <source>move the record earlier by %1 ms</source>
+        <translation>anticipare la registrazione di %1 ms</translation>
+    </message>
+    <message>
+        <source>kill %1</source>
+        <translation>escludere: %1</translation>
+    </message>
+    <message>
+        <source>reverse the polarity of %1</source>
+        <translation>invertire la polarità: %1</translation>
+    </message>
+    <message>
+        <source>mute %1 before %2 ms</source>
+        <translation>azzerare prima di %2 ms: %1</translation>
+    </message>
+    <message>
+        <source>read the channels from the last to the first</source>
+        <translation>leggere i canali dall&apos;ultimo al primo</translation>
+    </message>
+    <message>
+        <source>put the shot at %1 m</source>
+        <translation>mettere il tiro a %1 m</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3 m</source>
+        <translation>mettere i %1 geofoni della sua stesa da %2 a %3 m</translation>
+    </message>
+    <message>
+        <source>stack it with %1; the stack alone counts then</source>
+        <translation>sommarlo con altri (%1); conta allora soltanto la somma</translation>
+    </message>
+    <message>
+        <source>disable the shot</source>
+        <translation>disattivare il tiro</translation>
+    </message>
+    <message>
+        <source>exchanged: over all shots the arrivals of trace %1 belong to the place of trace %2, and the other way round</source>
+        <translation>scambio: in tutti i tiri gli arrivi della traccia %1 corrispondono al posto della traccia %2, e viceversa</translation>
+    </message>
+    <message>
+        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
+        <translation>fuori posto: il geofono %1 è indicato a %2 m; da entrambi i lati i suoi arrivi sono quelli di %3 m</translation>
+    </message>
+    <message>
+        <source>%1 geophones are said to be at %2 places only</source>
+        <translation>%1 geofoni sono indicati in sole %2 posizioni</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
+        <translation>%1; su %2 tiri i tempi minimi si spostano di %3 canali per ogni metro del tiro: il geofono 1 è quindi a %4 m e l&apos;ultimo a %5 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>il tiro è indicato a %1 m; il nome del file dice %2 m, e i tempi minimi del rilievo seguono i nomi</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
+        <translation>il tiro è indicato alla quota di %1 m, e i geofoni non hanno quote plausibili</translation>
+    </message>
+    <message>
+        <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
+        <translation>i canali vanno in senso contrario ai geofoni: i tempi minimi di %1 tiri su %2 sono accanto al tiro solo se la stesa si legge dall&apos;ultimo geofono al primo</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>tutti i tiri sono indicati a %1 m; il nome del file dice %2 m, e i tempi minimi del rilievo seguono i nomi</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
+        <translation>tutti i tiri sono indicati a %1 m; i tempi di questo sono minimi a %2 m</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
+        <translation>tutti i tiri sono indicati a %1 m; questo era a un estremo dei geofoni o oltre</translation>
+    </message>
+    <message>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
+        <translation>i canali di questa registrazione vanno in senso contrario ai geofoni: letti dall&apos;ultimo al primo, i tempi sono minimi accanto al tiro a %1 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>il tiro è indicato a %1 m, ma i tempi crescono da %2 m in poi lungo tutti i geofoni: era a quell&apos;estremo o oltre</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
+        <translation>il tiro è indicato a %1 m, ma i tempi sono minimi a %2 m, accanto al geofono %3, e crescono da entrambi i lati</translation>
+    </message>
+    <message>
+        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
+        <translation>%1; oppure i geofoni distano %2 m e non %3 m, e nessun altro tiro permette di deciderlo</translation>
+    </message>
+    <message>
+        <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
+        <translation>fuori tempo: la traccia %1 ha il primo arrivo a %2 ms, le vicine lo fanno attendere a %3 ms, e dall&apos;arrivo in poi somiglia a loro (correlazione %4)</translation>
+    </message>
+    <message>
+        <source>reversed: the first swings of %1 go against those of the neighbours, which agree with each other (correlation -%2 at least)</source>
+        <translation>polarità invertita (%1): le prime oscillazioni sono opposte a quelle delle tracce vicine, concordi fra loro (correlazione almeno -%2)</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
+        <translation>il tiro %1 è stato registrato nello stesso punto, a %2 m, con un rapporto segnale/rumore %3 volte quello di questo</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
+        <translation>il tiro %1 è stato registrato nello stesso punto, a %2 m; i suoi arrivi sono in ritardo di %3 ms</translation>
+    </message>
+    <message>
+        <source>the record is that of shot %1 once more, sample for sample</source>
+        <translation>la registrazione è di nuovo quella del tiro %1, campione per campione</translation>
+    </message>
+    <message>
+        <source>the sample intervals of its traces differ, %1 to %2 ms: the times of some are wrong unless the recorder meant it</source>
+        <translation>gli intervalli di campionamento delle tracce sono diversi, da %1 a %2 ms: i tempi di alcune sono sbagliati, a meno che lo strumento non fosse impostato così</translation>
+    </message>
+    <message>
+        <source>its traces have no sample interval: they have no times</source>
+        <translation>le tracce non hanno intervallo di campionamento, quindi nemmeno tempi</translation>
+    </message>
+    <message>
+        <source>the sample interval is %2 ms in %1, and %3 ms in most others: right if the recorder was set so</source>
+        <translation>l&apos;intervallo di campionamento è %2 ms (%1), e %3 ms in quasi tutti gli altri tiri: va bene se lo strumento era impostato così</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>nessun geofono fra %1 e %2 m: il terreno lì non si vede da nessun lato, se non vi sono tiri che lo attraversano</translation>
+    </message>
+    <message>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
+        <translation>le stese %1 e %2 si sovrappongono e hanno quote diverse in %3 punti, fino a %4 m di differenza a %5 m</translation>
+    </message>
+    <message>
+        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>quote assenti: tutti i tiri e i geofoni sono a %1 m; se il terreno non è piano, leggerle da una tabella nella geometria del rilievo</translation>
+    </message>
+    <message>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
+        <translation>la posizione %1 del tiro conta stazioni: su %2 tiri i tempi minimi si spostano di %3 m per ogni unità della posizione</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
+        <translation>le posizioni dei geofoni non sono metri: su %1 tiri i tempi minimi si spostano di %2 per ogni metro del tiro; con geofoni ogni %3 m a partire da %4 m cadono accanto ai tiri</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation>in ritardo</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation>in anticipo</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: %3 times to the places of other shots differ by that from the times back, give or take %4 ms</source>
+        <translation>la registrazione è %2 di %1 ms: di tanto differiscono %3 tempi verso le posizioni di altri tiri dai loro reciproci, con un margine di %4 ms</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: its times differ by that from those of %3 other shots at equal distances, give or take %4 ms</source>
+        <translation>la registrazione è %2 di circa %1 ms: di tanto differiscono i suoi tempi da quelli di altri %3 tiri a pari distanza, con un margine di %4 ms</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
+        <translation>la registrazione è %2 di %1 ms: tutti i canali hanno insieme un impulso a %3 ms, prima che qualcosa possa essere arrivato</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>la registrazione è %2 di circa %1 ms: secondo i geofoni più vicini al tiro, a %3 m, l&apos;energizzazione sarebbe fra %4 e %5 ms, qualunque sia il terreno</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
