@@ -3698,6 +3698,394 @@ Impostare la posizione dei geofoni
         <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
         <translation>la registrazione è %2 di circa %1 ms: secondo i geofoni più vicini al tiro, a %3 m, l&apos;energizzazione sarebbe fra %4 e %5 ms, qualunque sia il terreno</translation>
     </message>
+    <message>
+        <source>the program&apos;s rules find no trace in it</source>
+        <translation>le regole del programma non vi trovano tracce</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces of %3 shots</source>
+        <translation>le regole del programma leggono %1 delle sue %2 tracce di %3 tiri</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces</source>
+        <translation>le regole del programma leggono %1 delle sue %2 tracce</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules make one shot of its %1</source>
+        <translation>le regole del programma fanno un solo tiro dei suoi %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are all zeros by the program&apos;s rules</source>
+        <translation>%1 tracce su %2 sono tutte zeri secondo le regole del programma</translation>
+    </message>
+    <message>
+        <source>the samples of %1 of %2 traces are not those of the standard, and not for their scale alone</source>
+        <translation>i campioni di %1 tracce su %2 non sono quelli dello standard, e non solo per la scala</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are shorter by the program&apos;s rules</source>
+        <translation>%1 tracce su %2 sono più corte secondo le regole del programma</translation>
+    </message>
+    <message>
+        <source>the sample interval is %1 ms by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>l&apos;intervallo di campionamento è %1 ms secondo le regole del programma, %2 ms secondo lo standard</translation>
+    </message>
+    <message>
+        <source>its records start %1 ms from the shot by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>le registrazioni cominciano a %1 ms dal tiro secondo le regole del programma, a %2 ms secondo lo standard</translation>
+    </message>
+    <message>
+        <source>its geophones are at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>posizioni dei geofoni: %1 secondo le regole del programma, %2 secondo lo standard</translation>
+    </message>
+    <message>
+        <source>its shot is at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>posizione del tiro: %1 secondo le regole del programma, %2 secondo lo standard</translation>
+    </message>
+    <message>
+        <source>the elevations of %1 of %2 traces are others by the program&apos;s rules</source>
+        <translation>le quote di %1 tracce su %2 sono diverse secondo le regole del programma</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules cannot read it</source>
+        <translation>le regole del programma non possono leggerlo</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 e altri %2</translation>
+    </message>
+    <message>
+        <source>it is miniSEED of version 3; version 2 is read</source>
+        <translation>è miniSEED versione 3; si legge la versione 2</translation>
+    </message>
+    <message>
+        <source>it is no miniSEED file</source>
+        <translation>non è un file miniSEED</translation>
+    </message>
+    <message>
+        <source>its records have no blockette 1000, which tells their encoding</source>
+        <translation>i suoi record non hanno il blockette 1000, che ne indica la codifica</translation>
+    </message>
+    <message>
+        <source>its samples have the encoding %1; 1, 3, 4, 5, 10 and 11 are read</source>
+        <translation>i suoi campioni hanno la codifica %1; si leggono 1, 3, 4, 5, 10 e 11</translation>
+    </message>
+    <message>
+        <source>none of its records has samples of a series</source>
+        <translation>nessuno dei suoi record ha campioni di una serie temporale</translation>
+    </message>
+    <message>
+        <source>miniSEED tells neither positions nor the time of the shot: all positions are 0 and times count from the first sample; give the survey its geometry</source>
+        <translation>miniSEED non indica né posizioni né il tempo del tiro: tutte le posizioni sono 0 e i tempi si contano dal primo campione; definire la geometria del rilievo</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others; zeros stand in front</source>
+        <translation>%1: la registrazione comincia dopo le altre; è preceduta da zeri</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others, by longer than it lasts; that is not applied and its times do not compare</source>
+        <translation>%1: la registrazione comincia dopo le altre, di più della sua durata; ciò non viene applicato e i tempi non sono confrontabili</translation>
+    </message>
+    <message>
+        <source>zeros stand for gaps in the record of %1</source>
+        <translation>%1: zeri al posto delle lacune della registrazione</translation>
+    </message>
+    <message>
+        <source>records of %1 overlap; the later ones count</source>
+        <translation>%1: record sovrapposti; valgono gli ultimi</translation>
+    </message>
+    <message>
+        <source>records left out after a gap that is longer than what was recorded: %1</source>
+        <translation>record tralasciati dopo una lacuna più lunga di quanto registrato: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose sample rate is not that of the first of their channel: %1</source>
+        <translation>record tralasciati con frequenza di campionamento diversa dal primo del loro canale: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose encoding, such as %1, is not read: %2</source>
+        <translation>record tralasciati con una codifica che non si legge, come %1: %2</translation>
+    </message>
+    <message>
+        <source>records left out that have no samples of a series: %1</source>
+        <translation>record tralasciati senza campioni di una serie temporale: %1</translation>
+    </message>
+    <message>
+        <source>records left out that have no blockette 1000: %1</source>
+        <translation>record tralasciati senza blockette 1000: %1</translation>
+    </message>
+    <message>
+        <source>bytes left out that are of no record: %1</source>
+        <translation>byte tralasciati che non appartengono a nessun record: %1</translation>
+    </message>
+    <message>
+        <source>samples that headers promise and records do not hold: %1</source>
+        <translation>campioni promessi dalle intestazioni e assenti nei record: %1</translation>
+    </message>
+    <message>
+        <source>damaged records, which do not end at the sample that they tell: %1</source>
+        <translation>record danneggiati, che non finiscono con il campione indicato: %1</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins after the shot, by up to %2 ms; zeros stand in front, in whole samples</source>
+        <translation>%1: la registrazione comincia dopo il tiro, fino a %2 ms; è preceduta da zeri, in campioni interi</translation>
+    </message>
+    <message>
+        <source>the header of %1 says that the record begins up to %2 ms after the shot, longer than it lasts; that delay is not applied</source>
+        <translation>%1: secondo l&apos;intestazione la registrazione comincia fino a %2 ms dopo il tiro, più della sua durata; questo ritardo non viene applicato</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells no %2; 0 stands for it</source>
+        <translation>%1: l&apos;intestazione non indica %2; al suo posto vale 0</translation>
+    </message>
+    <message>
+        <source>the UNITS of its header, %1, are not known; its positions were taken as metres</source>
+        <translation>le UNITS dell&apos;intestazione, %1, non sono note; le posizioni sono state prese in metri</translation>
+    </message>
+    <message>
+        <source>its positions are in %1 and were converted to metres, %2 m each</source>
+        <translation>le posizioni sono in %1 e sono state convertite in metri, %2 m per unità</translation>
+    </message>
+    <message>
+        <source>its receiver positions look like longitude and latitude in degrees, not like metres; give the survey its geometry</source>
+        <translation>le posizioni dei ricevitori sembrano longitudine e latitudine in gradi, non metri; definire la geometria del rilievo</translation>
+    </message>
+    <message>
+        <source>its geophones differ in y but not in x; y was taken as the position along the line</source>
+        <translation>i geofoni differiscono in y ma non in x; y è stata presa come posizione lungo la linea</translation>
+    </message>
+    <message>
+        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
+        <translation>tutti i geofoni sono a x = %1 m; definire la geometria del rilievo</translation>
+    </message>
+    <message>
+        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
+        <translation>i geofoni differiscono fino a %1 m in y, che non viene usata; le posizioni lungo la linea sono x</translation>
+    </message>
+    <message>
+        <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
+        <translation>i numeri dei canali non sono crescenti; le tracce restano nell&apos;ordine del file</translation>
+    </message>
+    <message>
+        <source>every trace tells a source position of its own; the file was read as one shot, at the first of them</source>
+        <translation>ogni traccia indica una propria posizione della sorgente; il file è stato letto come un solo tiro, nella prima posizione</translation>
+    </message>
+    <message>
+        <source>it is no SEG-2 file</source>
+        <translation>non è un file SEG-2</translation>
+    </message>
+    <message>
+        <source>it holds no trace</source>
+        <translation>non contiene tracce</translation>
+    </message>
+    <message>
+        <source>the samples of its trace %1 have the data format code %2; the codes of SEG-2 are 1 to 5</source>
+        <translation>i campioni della traccia %1 hanno il codice di formato dei dati %2; i codici di SEG-2 vanno da 1 a 5</translation>
+    </message>
+    <message>
+        <source>none of its traces has a usable SAMPLE_INTERVAL</source>
+        <translation>nessuna traccia ha un SAMPLE_INTERVAL utilizzabile</translation>
+    </message>
+    <message>
+        <source>nothing is read of %1 since no trace block is where the pointer leads</source>
+        <translation>%1: non si legge nulla, perché dove porta il puntatore non c&apos;è un blocco di traccia</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no usable SAMPLE_INTERVAL; that of another was taken</source>
+        <translation>%1: l&apos;intestazione non ha un SAMPLE_INTERVAL utilizzabile; è stato preso quello di un&apos;altra traccia</translation>
+    </message>
+    <message>
+        <source>the DESCALING_FACTOR of %1 is no usable number; those samples are as stored</source>
+        <translation>%1: DESCALING_FACTOR non è un numero utilizzabile; i campioni sono come memorizzati</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no DESCALING_FACTOR, as others have; those samples are as stored</source>
+        <translation>%1: l&apos;intestazione non ha DESCALING_FACTOR, che altre hanno; i campioni sono come memorizzati</translation>
+    </message>
+    <message>
+        <source>the STACK of %1 is no usable number and was taken as 1</source>
+        <translation>%1: STACK non è un numero utilizzabile ed è stato preso come 1</translation>
+    </message>
+    <message>
+        <source>the DELAY of %1 is no finite number and was taken as 0</source>
+        <translation>%1: DELAY non è un numero finito ed è stato preso come 0</translation>
+    </message>
+    <message>
+        <source>the SKEW of %1 is up to %2 ms beyond whole samples; that part is not applied</source>
+        <translation>%1: SKEW eccede fino a %2 ms i campioni interi; questa parte non viene applicata</translation>
+    </message>
+    <message>
+        <source>%1 bytes after its traces, zeros or too few for another one, were not read</source>
+        <translation>%1 byte dopo le tracce, zeri o troppo pochi per un&apos;altra traccia, non sono stati letti</translation>
+    </message>
+    <message>
+        <source>the number of samples in %1 is not the %2 of the header of the file; the trace headers were believed</source>
+        <translation>%1: il numero di campioni non è %2 come nell&apos;intestazione del file; valgono le intestazioni delle tracce</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells %2 samples, with which the traces do not fit the size of the file; %3 were taken</source>
+        <translation>%1: l&apos;intestazione indica %2 campioni, con i quali le tracce non corrispondono alla dimensione del file; ne sono stati presi %3</translation>
+    </message>
+    <message>
+        <source>the traces, %1 among them, do not fit the size of the file with the %2 samples that its header tells; %3 were taken</source>
+        <translation>le tracce (fra cui %1) non corrispondono alla dimensione del file con i %2 campioni indicati dalla sua intestazione; ne sono stati presi %3</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells a sample interval of %2 microseconds; the %3 of the header of the file were taken</source>
+        <translation>%1: l&apos;intestazione indica un intervallo di campionamento di %2 microsecondi; sono stati presi i %3 dell&apos;intestazione del file</translation>
+    </message>
+    <message>
+        <source>the sample interval of %1 is not the %2 microseconds of the header of the file; the trace headers were believed</source>
+        <translation>%1: l&apos;intervallo di campionamento non è di %2 microsecondi come nell&apos;intestazione del file; valgono le intestazioni delle tracce</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the coordinates of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>%2: il fattore di scala %1 per le coordinate non è previsto dallo standard; sono state prese come sono</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the elevations of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>%2: il fattore di scala %1 per le quote non è previsto dallo standard; sono state prese come sono</translation>
+    </message>
+    <message>
+        <source>the coordinates of %1 are degrees or seconds of arc, no metres; x was taken as it stands, so load a geometry file</source>
+        <translation>%1: le coordinate sono gradi o secondi d&apos;arco, non metri; x è stata presa com&apos;è, perciò caricare un file di geometria</translation>
+    </message>
+    <message>
+        <source>its coordinates do not tell the geophones apart; they were placed by their offsets (bytes 37 to 40) from the shot</source>
+        <translation>le coordinate non distinguono i geofoni; sono stati posti secondo la loro distanza dal tiro (byte da 37 a 40)</translation>
+    </message>
+    <message>
+        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
+        <translation>le intestazioni non indicano posizioni; tiri e geofoni sono tutti a %1 m, perciò caricare un file di geometria</translation>
+    </message>
+    <message>
+        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
+        <translation>le intestazioni mettono i geofoni di tutte le tracce a %1 m; caricare un file di geometria se ce n&apos;era più d&apos;uno</translation>
+    </message>
+    <message>
+        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
+        <translation>i tiri sono fino a %1 m di lato alla linea dei geofoni; x viene presa com&apos;è</translation>
+    </message>
+    <message>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
+        <translation>le coordinate non sono lungo x; le distanze sono quelle lungo la retta dei geofoni a partire dal primo geofono di questo file, che è a x %1, y %2; i geofoni sono fino a %3 m di lato alla retta, i tiri fino a %4 m</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>secondo le intestazioni i geofoni si estendono per %1 km; il loro fattore di scala o la loro unità è probabilmente sbagliata: controllarli o caricare un file di geometria</translation>
+    </message>
+    <message>
+        <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
+        <translation>%1: le quote o le profondità del tiro sono fuori da ogni terreno possibile; le quote del file sono state prese come 0</translation>
+    </message>
+    <message>
+        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>i tiri sono fino a %1 m sotto il suolo; le loro quote sono quelle dei tiri, non del suolo sopra di essi</translation>
+    </message>
+    <message>
+        <source>the shot depth of %1 is negative and was taken as 0</source>
+        <translation>%1: la profondità del tiro è negativa ed è stata presa come 0</translation>
+    </message>
+    <message>
+        <source>its headers tell the elevations of geophones alone; shots were put at that of the geophone nearest to them</source>
+        <translation>le intestazioni indicano le quote dei soli geofoni; i tiri sono stati messi a quella del geofono più vicino</translation>
+    </message>
+    <message>
+        <source>the time scalar of %1 is none that the standard knows; the delay was taken as it stands</source>
+        <translation>il fattore di scala dei tempi %1 non è previsto dallo standard; il ritardo è stato preso com&apos;è</translation>
+    </message>
+    <message>
+        <source>all of its traces are marked as dead or auxiliary (bytes 29 and 30); the marks were not believed</source>
+        <translation>tutte le tracce sono marcate come morte o ausiliarie (byte 29 e 30); le marcature sono state ignorate</translation>
+    </message>
+    <message>
+        <source>zeros stand for the samples of %1, marked as dead or as dummies (bytes 29 and 30)</source>
+        <translation>%1: zeri al posto dei campioni, marcati come morti o fittizi (byte 29 e 30)</translation>
+    </message>
+    <message>
+        <source>the samples of %1 were left out, marked as auxiliary (bytes 29 and 30: time breaks, upholes, sweeps and the like)</source>
+        <translation>%1: campioni tralasciati, marcati come ausiliari (byte 29 e 30: time break, uphole, sweep e simili)</translation>
+    </message>
+    <message>
+        <source>its traces are not in the order of shots, or the headers do not tell which belong together; they were taken as one shot</source>
+        <translation>le tracce non sono nell&apos;ordine dei tiri, o le intestazioni non dicono quali vanno insieme; sono state prese come un solo tiro</translation>
+    </message>
+    <message>
+        <source>its extended textual headers do not end in the file; it was read as if there were none</source>
+        <translation>le intestazioni testuali estese non finiscono nel file; è stato letto come se non ce ne fossero</translation>
+    </message>
+    <message>
+        <source>its lengths are in feet (bytes 3255 and 3256) and were taken to metres</source>
+        <translation>le lunghezze sono in piedi (byte 3255 e 3256) e sono state convertite in metri</translation>
+    </message>
+    <message>
+        <source>its headers tell no number of samples</source>
+        <translation>le intestazioni non indicano il numero di campioni</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code 4 (fixed point with gain), which is not read; have the recording software export another one</source>
+        <translation>i campioni hanno il codice di formato dei dati 4 (virgola fissa con guadagno), che non si legge; esportarli in un altro formato con il programma di registrazione</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code %1, which the standard does not know; the file is damaged or no SEG-Y file</source>
+        <translation>i campioni hanno il codice di formato dei dati %1, che lo standard non prevede; il file è danneggiato o non è un file SEG-Y</translation>
+    </message>
+    <message>
+        <source>the place of the first trace in its header (bytes 3521 to 3528) is not in the file and was not believed</source>
+        <translation>la posizione della prima traccia indicata dall&apos;intestazione (byte da 3521 a 3528) non è nel file ed è stata ignorata</translation>
+    </message>
+    <message>
+        <source>it is too short for a SEG-Y file with a trace</source>
+        <translation>è troppo corto per un file SEG-Y con una traccia</translation>
+    </message>
+    <message>
+        <source>its bytes are swapped in pairs, which is not read</source>
+        <translation>i byte sono scambiati a coppie, e così non si legge</translation>
+    </message>
+    <message>
+        <source>field record (bytes 9 to 12)</source>
+        <translation>record di campagna (byte da 9 a 12)</translation>
+    </message>
+    <message>
+        <source>energy source point (bytes 17 to 20)</source>
+        <translation>punto di energizzazione (byte da 17 a 20)</translation>
+    </message>
+    <message>
+        <source>position of the source</source>
+        <translation>posizione della sorgente</translation>
+    </message>
+    <message>
+        <source>number of the trace in its record (bytes 13 to 16), which starts again</source>
+        <translation>numero della traccia nella registrazione (byte da 13 a 16), che ricomincia</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>il file è vuoto</translation>
+    </message>
+    <message>
+        <source>it is a text file, and no record of shots in %1; open a table of picks or positions as travel times or geometry</source>
+        <translation>è un file di testo, non una registrazione di tiri (%1); aprire una tabella di primi arrivi o di posizioni come tempi di arrivo o geometria</translation>
+    </message>
+    <message>
+        <source>by its content it is no file of %1</source>
+        <translation>secondo il contenuto non è un file di nessuno di questi formati: %1</translation>
+    </message>
+    <message>
+        <source>it holds %1 shots, told apart by %2</source>
+        <translation>contiene %1 tiri, distinti secondo: %2</translation>
+    </message>
+    <message>
+        <source>it is too short for an SU file with a trace</source>
+        <translation>è troppo corto per un file SU con una traccia</translation>
+    </message>
+    <message>
+        <source>its first trace tells no number of samples</source>
+        <translation>la prima traccia non indica il numero di campioni</translation>
+    </message>
+    <message>
+        <source>all %1 traces</source>
+        <translation>tutte le %1 tracce</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
