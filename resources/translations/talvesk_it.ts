@@ -3699,6 +3699,134 @@ Impostare la posizione dei geofoni
         <translation>la registrazione è %2 di circa %1 ms: secondo i geofoni più vicini al tiro, a %3 m, l&apos;energizzazione sarebbe fra %4 e %5 ms, qualunque sia il terreno</translation>
     </message>
     <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it has %1 columns and no heading that names one for the distance and one for the elevation</source>
+        <translation>ha %1 colonne e nessuna intestazione che ne indichi una per la distanza e una per la quota</translation>
+    </message>
+    <message>
+        <source>it holds no point</source>
+        <translation>non contiene punti</translation>
+    </message>
+    <message>
+        <source>Unified data format (%1)</source>
+        <translation>Formato di dati unificato (%1)</translation>
+    </message>
+    <message>
+        <source>no heading names shot, geophone and time</source>
+        <translation>nessuna intestazione indica tiro, geofono e tempo</translation>
+    </message>
+    <message>
+        <source>%1 lines above the heading were ignored</source>
+        <translation>le righe sopra l&apos;intestazione (%1) sono state ignorate</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 were taken for positions in metres</source>
+        <translation>le colonne %1 e %2 sono state prese come posizioni in metri</translation>
+    </message>
+    <message>
+        <source>the heading does not say whether its times are in ms or in s</source>
+        <translation>l&apos;intestazione non dice se i tempi sono in ms o in s</translation>
+    </message>
+    <message>
+        <source>no row follows the heading</source>
+        <translation>nessuna riga segue l&apos;intestazione</translation>
+    </message>
+    <message>
+        <source>there are more than %1 geophones</source>
+        <translation>ci sono più di %1 geofoni</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows have no time above 0, or are not valid, and are no picks</source>
+        <translation>%1 righe su %2 non hanno un tempo maggiore di 0, o non sono valide, e non sono primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 shots and %2 geophones are far too many for %3 rows</source>
+        <translation>%1 tiri e %2 geofoni sono troppi per %3 righe</translation>
+    </message>
+    <message>
+        <source>no column tells the elevations of the shots; they were put on the line of the geophones</source>
+        <translation>nessuna colonna indica le quote dei tiri; sono stati messi sulla linea dei geofoni</translation>
+    </message>
+    <message>
+        <source>no heading names a column for the distance and one for the elevation</source>
+        <translation>nessuna intestazione indica una colonna per la distanza e una per la quota</translation>
+    </message>
+    <message>
+        <source>the unified data format</source>
+        <translation>formato di dati unificato</translation>
+    </message>
+    <message>
+        <source>a table with a heading</source>
+        <translation>tabella con intestazione</translation>
+    </message>
+    <message>
+        <source>a pick table of long lines</source>
+        <translation>tabella di primi arrivi con righe lunghe</translation>
+    </message>
+    <message>
+        <source>%1 times are of a shot and geophone that had one already; the first of them counts</source>
+        <translation>%1 tempi sono di un tiro e di un geofono che ne avevano già uno; vale il primo</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>posizione</translation>
+    </message>
+    <message>
+        <source>number of positions</source>
+        <translation>numero delle posizioni</translation>
+    </message>
+    <message>
+        <source>number of measurements</source>
+        <translation>numero delle misure</translation>
+    </message>
+    <message>
+        <source>number of points of topography</source>
+        <translation>numero dei punti della topografia</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>colonna %1</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is not a number</source>
+        <translation>%1: %2 non è un numero</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is out of range</source>
+        <translation>%1: %2 è fuori intervallo</translation>
+    </message>
+    <message>
+        <source>all shot files count as read by the program&apos;s rules; the traces are those that were saved</source>
+        <translation>tutti i file dei tiri valgono come letti secondo le regole del programma; le tracce sono quelle salvate</translation>
+    </message>
+    <message>
+        <source>what was mended in its recordings is not known; traces and picks stay as they are</source>
+        <translation>le correzioni alle sue registrazioni non sono note; tracce e primi arrivi restano come sono</translation>
+    </message>
+    <message>
+        <source>there is a grid, but a position lies more than 100 000 km away</source>
+        <translation>c&apos;è una griglia, ma una posizione è a più di 100 000 km</translation>
+    </message>
+    <message>
+        <source>mends.xml: the mends of these shots are not those of their traces, and are left out; traces and picks stay as they are: %1</source>
+        <translation>mends.xml: le correzioni di questi tiri non sono quelle delle loro tracce e sono state tralasciate; tracce e primi arrivi restano come sono: %1</translation>
+    </message>
+    <message>
+        <source>it is about other shot files than those of the project</source>
+        <translation>riguarda file dei tiri diversi da quelli del progetto</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m</source>
+        <translation>da %1 a %2 m</translation>
+    </message>
+    <message>
         <source>the program&apos;s rules find no trace in it</source>
         <translation>le regole del programma non vi trovano tracce</translation>
     </message>
@@ -3753,6 +3881,66 @@ Impostare la posizione dei geofoni
     <message>
         <source>%1 and %2 more</source>
         <translation>%1 e altri %2</translation>
+    </message>
+    <message>
+        <source>the traces of shot %1 differ in sample interval or in the time of their first sample; they cannot be in one record</source>
+        <translation>le tracce del tiro %1 differiscono nell&apos;intervallo di campionamento o nel tempo del primo campione; non possono stare in una sola registrazione</translation>
+    </message>
+    <message>
+        <source>it has no sample interval</source>
+        <translation>non ha un intervallo di campionamento</translation>
+    </message>
+    <message>
+        <source>its traces have %1 samples; a file holds %2</source>
+        <translation>le tracce hanno %1 campioni; un file ne contiene %2</translation>
+    </message>
+    <message>
+        <source>it has %1 traces; a SEG-2 file holds %2</source>
+        <translation>ha %1 tracce; un file SEG-2 ne contiene %2</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>tiro %1: %2</translation>
+    </message>
+    <message>
+        <source>read by the program&apos;s rules, the files have no elevations, and no positions that are not whole metres; read them by the standard</source>
+        <translation>letti secondo le regole del programma, i file non hanno quote, e hanno solo posizioni in metri interi; leggerli secondo lo standard</translation>
+    </message>
+    <message>
+        <source>%1 shots are disabled or have no samples and were left out</source>
+        <translation>%1 tiri sono disattivati o senza campioni e sono stati tralasciati</translation>
+    </message>
+    <message>
+        <source>%1 traces begin at the shot; what was recorded before is not in the files</source>
+        <translation>%1 tracce cominciano dal tiro; ciò che è stato registrato prima non è nei file</translation>
+    </message>
+    <message>
+        <source>%1 samples were rounded to the seven digits of a 32-bit float</source>
+        <translation>%1 campioni sono stati arrotondati alle sette cifre di un numero in virgola mobile a 32 bit</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>è stato interrotto</translation>
+    </message>
+    <message>
+        <source>shot %1 has no samples</source>
+        <translation>il tiro %1 non ha campioni</translation>
+    </message>
+    <message>
+        <source>shot %1, trace %2: a sample is too large for a file</source>
+        <translation>tiro %1, traccia %2: un campione è troppo grande per un file</translation>
+    </message>
+    <message>
+        <source>the survey has no records to be written</source>
+        <translation>il rilievo non ha registrazioni da scrivere</translation>
+    </message>
+    <message>
+        <source>its sample interval of %1 ms is no whole number of microseconds up to 65535, which is all that SEG-Y can hold; write SEG-2</source>
+        <translation>il suo intervallo di campionamento di %1 ms non è un numero intero di microsecondi fino a 65535, il solo che SEG-Y può contenere; scrivere SEG-2</translation>
+    </message>
+    <message>
+        <source>it begins %1 ms after the shot, which SEG-Y cannot hold; write SEG-2</source>
+        <translation>comincia %1 ms dopo il tiro, e SEG-Y non può indicarlo; scrivere SEG-2</translation>
     </message>
     <message>
         <source>it is miniSEED of version 3; version 2 is read</source>
@@ -4085,6 +4273,194 @@ Impostare la posizione dei geofoni
     <message>
         <source>all %1 traces</source>
         <translation>tutte le %1 tracce</translation>
+    </message>
+    <message>
+        <source>it cannot be read back: %1</source>
+        <translation>non può essere riletto: %1</translation>
+    </message>
+    <message>
+        <source>read back, string %1 will have another number of geophones</source>
+        <translation>alla rilettura la stesa %1 avrà un altro numero di geofoni</translation>
+    </message>
+    <message>
+        <source>the format has no place for the errors of the picks</source>
+        <translation>il formato non ha posto per gli errori dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>it was read as %1; the reader of its suffix cannot read line %2</source>
+        <translation>è stato letto come %1; il lettore della sua estensione non può leggere la riga %2</translation>
+    </message>
+    <message>
+        <source>%1; as %2, line %3: %4</source>
+        <translation>%1; come %2, riga %3: %4</translation>
+    </message>
+    <message>
+        <source>shot %1: picks left out, as the shot is disabled or their traces are killed: %2</source>
+        <translation>tiro %1: primi arrivi tralasciati, poiché il tiro è disattivato o le loro tracce sono escluse: %2</translation>
+    </message>
+    <message>
+        <source>the file tells errors of its picks, which the survey does not keep</source>
+        <translation>il file indica errori dei primi arrivi, che il rilievo non conserva</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 lines</source>
+        <translation>il file finisce dopo %1 righe su %2</translation>
+    </message>
+    <message>
+        <source>the file holds no measurement</source>
+        <translation>il file non contiene misure</translation>
+    </message>
+    <message>
+        <source>no columns &quot;s&quot;, &quot;g&quot; and &quot;t&quot; are named above the numbers</source>
+        <translation>sopra i numeri non sono indicate le colonne &quot;s&quot;, &quot;g&quot; e &quot;t&quot;</translation>
+    </message>
+    <message>
+        <source>the unit of the column %1 is none of time</source>
+        <translation>l&apos;unità della colonna %1 non è un&apos;unità di tempo</translation>
+    </message>
+    <message>
+        <source>the line holds %1</source>
+        <translation>la riga contiene %1</translation>
+    </message>
+    <message>
+        <source>the %1 %2 is none of the %3 positions</source>
+        <translation>%1 %2: non è nessuna delle %3 posizioni</translation>
+    </message>
+    <message>
+        <source>after the measurements neither the end nor a number of points of topography follows</source>
+        <translation>dopo le misure non segue né la fine né il numero dei punti della topografia</translation>
+    </message>
+    <message>
+        <source>the second of three coordinates was not read</source>
+        <translation>la seconda di tre coordinate non è stata letta</translation>
+    </message>
+    <message>
+        <source>the third coordinate is 0 everywhere; the second one was taken for the elevation</source>
+        <translation>la terza coordinata è 0 ovunque; la seconda è stata presa come quota</translation>
+    </message>
+    <message>
+        <source>the positions have elevations; the topography was not used</source>
+        <translation>le posizioni hanno quote; la topografia non è stata usata</translation>
+    </message>
+    <message>
+        <source>%1 positions are no shot and no geophone of any time; they were left out</source>
+        <translation>%1 posizioni non sono né tiro né geofono di alcun tempo; sono state tralasciate</translation>
+    </message>
+    <message>
+        <source>%1 times are marked as not valid and are no picks</source>
+        <translation>%1 tempi sono marcati come non validi e non sono primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 times are not above 0 and are no picks</source>
+        <translation>%1 tempi non sono maggiori di 0 e non sono primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 shots have no pick and are not in the file</source>
+        <translation>%1 tiri non hanno primi arrivi e non sono nel file</translation>
+    </message>
+    <message>
+        <source>%1 geophones have no pick; the file has their positions only</source>
+        <translation>%1 geofoni non hanno primi arrivi; il file ne ha solo le posizioni</translation>
+    </message>
+    <message>
+        <source>%1 shots lie at the place of another one; the file does not tell their picks apart</source>
+        <translation>%1 tiri sono nello stesso punto di un altro; il file non distingue i loro primi arrivi</translation>
+    </message>
+    <message>
+        <source>a trace without a sample interval cannot be shifted in time</source>
+        <translation>una traccia senza intervallo di campionamento non può essere traslata nel tempo</translation>
+    </message>
+    <message>
+        <source>a shift of %1 ms is longer than the record</source>
+        <translation>una traslazione di %1 ms è più lunga della registrazione</translation>
+    </message>
+    <message>
+        <source>a shot is stacked with other shots of the survey, each once</source>
+        <translation>un tiro si somma con altri tiri del rilievo, ognuno una volta sola</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with it: its traces are of another number, sample interval or kind</source>
+        <translation>il tiro %1 non può essere sommato con questo: le sue tracce sono diverse per numero, intervallo di campionamento o tipo</translation>
+    </message>
+    <message>
+        <source>shot %1 has no traces to mend</source>
+        <translation>il tiro %1 non ha tracce da correggere</translation>
+    </message>
+    <message>
+        <source>shot %1 has %2 traces, and mends of %3</source>
+        <translation>il tiro %1 ha %2 tracce, e correzioni di %3</translation>
+    </message>
+    <message>
+        <source>a trace cannot be muted before %1 ms</source>
+        <translation>una traccia non può essere azzerata prima di %1 ms</translation>
+    </message>
+    <message>
+        <source>a record cannot be shifted by %1 ms</source>
+        <translation>una registrazione non può essere traslata di %1 ms</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that have no place any more and are set aside: %2</source>
+        <translation>tiro %1: primi arrivi che non hanno più posto e sono messi da parte: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that were set aside and are back: %2</source>
+        <translation>tiro %1: primi arrivi che erano messi da parte e sono tornati: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: filtered copies of traces that have changed are forgotten: %2; filter again if you need them</source>
+        <translation>tiro %1: copie filtrate di tracce cambiate, non più conservate: %2; filtrare di nuovo se servono</translation>
+    </message>
+    <message>
+        <source>shot %1: its shift is taken as %2 ms, whole samples</source>
+        <translation>tiro %1: la traslazione è presa come %2 ms, in campioni interi</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with shot %2: they have other places, or geophones</source>
+        <translation>il tiro %1 non può essere sommato con il tiro %2: hanno posizioni o geofoni diversi</translation>
+    </message>
+    <message>
+        <source>traces killed: %1</source>
+        <translation>tracce escluse: %1</translation>
+    </message>
+    <message>
+        <source>traces with their polarity reversed: %1</source>
+        <translation>tracce con polarità invertita: %1</translation>
+    </message>
+    <message>
+        <source>traces muted before %1 ms: %2</source>
+        <translation>tracce azzerate prima di %1 ms: %2</translation>
+    </message>
+    <message>
+        <source>disabled: it has no picks and takes no part in anything</source>
+        <translation>disattivato: non ha primi arrivi e non partecipa a nulla</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was late</source>
+        <translation>traslazione di %1 ms: la registrazione era in ritardo</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was early</source>
+        <translation>traslazione di %1 ms: la registrazione era in anticipo</translation>
+    </message>
+    <message>
+        <source>order reversed: its channels ran against the geophones</source>
+        <translation>ordine invertito: i canali andavano in senso contrario ai geofoni</translation>
+    </message>
+    <message>
+        <source>stacked with shots: %1</source>
+        <translation>somma con i tiri: %1</translation>
+    </message>
+    <message>
+        <source>Mend recordings</source>
+        <translation>Correggi le registrazioni</translation>
+    </message>
+    <message>
+        <source>Shot %1 is disabled and takes no picks; Mend recording enables it.</source>
+        <translation>Il tiro %1 è disattivato e non accetta primi arrivi; &quot;Correggi la registrazione&quot; lo riattiva.</translation>
+    </message>
+    <message>
+        <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
+        <translation>La traccia %1 è esclusa e non accetta primi arrivi; &quot;Correggi la registrazione&quot; la ripristina.</translation>
     </message>
 </context>
 <context>
