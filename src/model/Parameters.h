@@ -91,6 +91,16 @@ inline constexpr FixedNumber kHushelHigh = {"hushel-high", 14.0};
 inline constexpr FixedNumber kSlowestPick = {"slowest-pick", 200.0};
 inline constexpr FixedNumber kFastestPick = {"fastest-pick", 4500.0};
 
+// The picker of whole gathers.
+inline constexpr Parameter<double> kSlowestJoint = {
+    "slowest", 140.0, {10.0, 20000.0}, "m/s", "Least apparent velocity of a first arrival"};
+inline constexpr Parameter<double> kFastestJoint = {
+    "fastest", 7000.0, {10.0, 20000.0}, "m/s", "Greatest apparent velocity of a first arrival"};
+inline constexpr Parameter<double> kWorstPick = {
+    "worst-error", 6.0, {0.5, 1000.0, 1}, "ms", "Error beyond which a pick is left out"};
+/// Up to this a pick is good, ms.
+inline constexpr FixedNumber kGoodPick = {"good-pick", 2.5};
+
 // The layered interpretation.
 inline constexpr Parameter<int> kXY = {
     "xy",
