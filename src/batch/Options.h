@@ -45,11 +45,18 @@ struct ElevationOptions {
 };
 
 /// How shot files become picks.
+/// How first breaks are picked.
+enum class PickMethod {
+  kSingle,  ///< trace by trace, with a screening
+  kJoint    ///< a gather at once, see processing/joint/JointPicker.h
+};
+
 struct ShotOptions {
   std::vector<std::string> files;
   ShotReader reader = ShotReader::kRules;
   PickFilter filter = PickFilter::kNone;
-  BandFilter band;              ///< of kBand: one corner at least
+  BandFilter band;  ///< of kBand: one corner at least
+  PickMethod method = PickMethod::kSingle;
   std::string geophones;        ///< geometry file
   std::string shots;            ///< geometry file
   std::string separator = ";";  ///< of the geometry files

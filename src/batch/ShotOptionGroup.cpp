@@ -19,6 +19,12 @@ PickFilter readFilter(const std::string& text) {
   throw CLI::ValidationError("--filter", "'" + text + "' is none of none, agc, hushel, band");
 }
 
+PickMethod readMethod(const std::string& text) {
+  if (text == "single") return PickMethod::kSingle;
+  if (text == "joint") return PickMethod::kJoint;
+  throw CLI::ValidationError("--method", "'" + text + "' is none of single, joint");
+}
+
 ShotReader readReader(const std::string& text) {
   if (text == "rules") return ShotReader::kRules;
   if (text == "standard") return ShotReader::kStandard;
@@ -152,6 +158,14 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
     group.options.push_back(option);
     return option;
   };
+  add(command
+          .add_option_function<std::string>(
+              "--method", [&](const std::string& text) { shots.method = readMethod(text); },
+              "How first breaks are picked: single, trace by trace with a screening by apparent "
+              "velocity; joint, along the line, all channels of a shot at once, leaving out picks "
+              "that are not sure to " +
+                  plainNumber(parameters::kWorstPick.initial) + " ms (default: single)")
+          ->type_name("METHOD"));
   add(command
           .add_option_function<std::string>(
               "--filter", [&](const std::string& text) { shots.filter = readFilter(text); },

@@ -1,5 +1,6 @@
 #include "batch/ShotPicking.h"
 
+#include "base/TextNumber.h"
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/ProjectFiles.h"
@@ -11,6 +12,7 @@
 #include "io/TravelTimeFile.h"
 #include "io/project/projectReader.h"
 #include "model/ElevationProfile.h"
+#include "model/Parameters.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyGeometry.h"
@@ -19,6 +21,7 @@
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
 #include "processing/ShotTime.h"
+#include "processing/joint/JointPicker.h"
 #include "session/PickEdits.h"
 #include "session/TableRules.h"
 
@@ -198,6 +201,20 @@ Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots
   return {};
 }
 
+Status pickAlongTheLine(const ShotOptions& options, const PickingManner& manner,
+                        const std::vector<std::int32_t>& shots, TomoDocument& document) {
+  JointPickOptions joint;
+  joint.useFiltered = options.filter != PickFilter::kNone;
+  joint.threads = manner.threads;
+  JointPickOutcome outcome;
+  const Status status = pickJointly(document, shots, joint, outcome);
+  if (!status.ok()) return status;
+  *manner.summary << "Picked along the line: " << outcome.good << " picks are sure to "
+                  << formatDouble(parameters::kGoodPick.value) << " ms, " << outcome.doubtful
+                  << " are doubtful.\n";
+  return status;
+}
+
 void summarize(const ShotOptions& options, const TomoDocument& document, std::ostream& out) {
   std::size_t traces = 0;
   std::size_t picks = 0;
@@ -263,6 +280,9 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
   if (status.ok()) status = filter(options, shots, survey);
   if (status.ok()) {
     status = editSurvey(Edit::kAutoPick, survey, [&](Survey& next) {
+      if (options.method == PickMethod::kJoint) {
+        return pickAlongTheLine(options, manner, shots, next.document);
+      }
       Status picked =
           pickShots(next.document, shots, options.filter != PickFilter::kNone, manner.threads);
       for (const std::int32_t shot : shots) markPicksAutomatic(next.document, shot);

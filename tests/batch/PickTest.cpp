@@ -49,6 +49,22 @@ class Picking : public testing::Test {
   std::vector<std::string> mFiles = writeSmallShots(mFolder);
 };
 
+TEST_F(Picking, goesAlongTheLineWhenAskedTo) {
+  const Outcome joint =
+      pick({"-o", mFolder / "out.otte", "--method", "joint", "--json", mFolder / "out.json"});
+  ASSERT_EQ(joint.code, 0) << joint.err;
+  EXPECT_THAT(joint.out, HasSubstr("Picked along the line: "));
+  const ordered_json json = ordered_json::parse(contentsOf(mFolder / "out.json"));
+  std::size_t picks = 0;
+  for (const auto& shot : json["shots"]) {
+    picks += shot["accepted"].get<std::size_t>();
+  }
+  EXPECT_GT(picks, 30U);
+  const Outcome unknown = pick({"-o", mFolder / "out.otte", "--method", "best"});
+  EXPECT_NE(unknown.code, 0);
+  EXPECT_THAT(unknown.err, HasSubstr("'best' is none of single, joint"));
+}
+
 TEST_F(Picking, writesThePicksThatItTellsOf) {
   const Outcome outcome = pick({"-o", mFolder / "out.otte", "--json", mFolder / "out.json"});
   ASSERT_EQ(outcome.code, 0) << outcome.err;
