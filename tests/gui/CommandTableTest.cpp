@@ -296,6 +296,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionSet_geography_coordinates",
         "actionGrid",
         "actionAutoPick",
+        "actionAutoPick_line",
         "actionFilter",
         "actionAGC",
         "actionApply_Hushel",

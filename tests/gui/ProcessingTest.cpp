@@ -65,6 +65,23 @@ TEST_F(Processing, givesPicksByHandBackWhenTheAutopickerIsUndone) {
   EXPECT_EQ(picksOf(0) + picksOf(2), 0);
 }
 
+TEST_F(Processing, picksAlongTheLineAndLeavesWhatAPersonPicked) {
+  const SharedVector<TravelTime>& records = window->document().ttArray;
+  child<editTravelTimesWidget>("showTracesWidget").editPick(1, 3, 0.05);
+  action("actionShow_all_traces").trigger();
+  action("actionAutoPick_line").trigger();
+  EXPECT_GT(picksOf(0), 6);
+  EXPECT_GT(picksOf(2), 6);
+  EXPECT_EQ(records[1].ttMisurati[3], 0.05);
+  EXPECT_FALSE(records[1].waits(3));
+  EXPECT_THAT(child<QStatusBar>("statusBar").currentMessage().toStdString(),
+              ::testing::HasSubstr("1 picks that you made stay"));
+  EXPECT_THAT(action("actionUndo").text().toStdString(),
+              ::testing::HasSubstr("AutoPick along the line"));
+  action("actionUndo").trigger();
+  EXPECT_EQ(picksOf(0) + picksOf(2), 0);
+}
+
 TEST_F(Processing, tellsOfTheShotInViewAndOnlyBesideItsTraces) {
   auto& view = child<editTravelTimesWidget>("showTracesWidget");
   auto& read = child<QLabel>("cursorLabel");

@@ -86,6 +86,8 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
       {"actionSet_title", always, call(p.survey, &SurveyPresenter::askForTitle)},
 
       {"actionAutoPick", &State::shotInView, call(p.processing, &ProcessingPresenter::autoPick)},
+      {"actionAutoPick_line", &State::shotInView,
+       call(p.processing, &ProcessingPresenter::autoPickAlongLine)},
       {"actionFilter", &State::shotInView, call(p.processing, &ProcessingPresenter::filter)},
       {"actionAGC", &State::shotInView, call(p.processing, &ProcessingPresenter::agc)},
       {"actionApply_Hushel", &State::shotInView, call(p.processing, &ProcessingPresenter::hushel),

@@ -12,6 +12,7 @@
 #include "processing/NoiseReduction.h"
 #include "processing/ShotFilters.h"
 #include "processing/ShotList.h"
+#include "processing/joint/JointPicker.h"
 #include "session/PickEdits.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/traces/editTravelTimesWidget.h"
@@ -73,6 +74,45 @@ void ProcessingPresenter::autoPick() {
     showError(&mDesk.window, tr("Warning"), tr("Not every shot could be picked."),
               textOf(failed.text()));
   }
+}
+
+void ProcessingPresenter::autoPickAlongLine() {
+  const std::vector<std::int32_t> shots = shotsToProcess();
+  if (shots.empty()) return;
+  TomoDocument work = mDesk.document();
+  JointPickOptions options;
+  options.keepConfirmed = true;
+  options.useFiltered = mDesk.ui.show_filtered_cb->isChecked();
+  JointPickOutcome outcome;
+  QProgressDialog progress(tr("Picking first breaks ..."), tr("Stop"), 0, 0, &mDesk.window);
+  progress.setWindowModality(Qt::WindowModal);
+  progress.setMinimumDuration(500);
+  progress.setWindowTitle(QApplication::applicationName());
+  const WaitCursor waiting;
+  const Status status = pickJointly(work, shots, options, outcome, [&progress] {
+    progress.setValue(0);
+    return !progress.wasCanceled();
+  });
+  progress.reset();
+  if (!status.ok()) {
+    mDesk.log.write(status.message(), 1);
+    showError(&mDesk.window, tr("Warning"), tr("Not every shot could be picked."),
+              textOf(status.text()));
+    return;
+  }
+  if (outcome.stopped) return;
+  if (!mDesk.edit(
+          Edit::kAutoPick, [&](Survey& survey) { survey.document = work; },
+          Message::tr("AutoPick along the line"))) {
+    return;
+  }
+  mDesk.tell(tr("Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks "
+                "that you made stay.")
+                 .arg(outcome.traces)
+                 .arg(outcome.good)
+                 .arg(parameters::kGoodPick.value)
+                 .arg(outcome.doubtful)
+                 .arg(outcome.kept));
 }
 
 void ProcessingPresenter::makeFilteredCopies(

@@ -21,6 +21,8 @@ class ProcessingPresenter : public QObject {
   // Of the shot in view, or of all shots where all traces are shown (Settings::showAllTraces).
 
   void autoPick();
+  /// By the joint picker; picks that a person made stay.
+  void autoPickAlongLine();
   void filter();  ///< by its dialog
   void agc();
   void hushel();
