@@ -5,6 +5,7 @@
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "processing/FirstBreak.h"
+#include "processing/joint/JointPicker.h"
 
 #include <cmath>
 #include <ostream>
@@ -70,10 +71,31 @@ void wholeShots(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * 20 * kTraces);
 }
 
+/// The same shots by whole gathers, two passes.
+void alongTheLine(benchmark::State& state) {
+  TomoDocument document = shots(20);
+  std::vector<std::int32_t> list;
+  for (std::int32_t s = 0; s < 20; ++s) list.push_back(s);
+  JointPickOptions options;
+  options.threads = static_cast<unsigned>(state.range(0));
+  for (auto _ : state) {
+    JointPickOutcome outcome;
+    const Status status = pickJointly(document, list, options, outcome);
+    if (!status.ok()) state.SkipWithError(status.message().c_str());
+  }
+  state.SetItemsProcessed(state.iterations() * 20 * kTraces);
+}
+
 }  // namespace
 
 BENCHMARK(detector)->Unit(benchmark::kMicrosecond);
 BENCHMARK(wholeShots)
+    ->ArgName("threads")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Arg(1)
+    ->Arg(2);
+BENCHMARK(alongTheLine)
     ->ArgName("threads")
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime()
