@@ -49,6 +49,152 @@
     </message>
 </context>
 <context>
+    <name>talvesk::CheckDialog</name>
+    <message>
+        <source>Check recordings</source>
+        <translation>Vérifier les enregistrements</translation>
+    </message>
+    <message>
+        <source>The recordings are being looked at...</source>
+        <translation>Examen des enregistrements en cours...</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>Arrê&amp;ter</translation>
+    </message>
+    <message>
+        <source>What is doubtful</source>
+        <translation>Ce qui est douteux</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Traces</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>Douteux</translation>
+    </message>
+    <message>
+        <source>Sure</source>
+        <translation>Certitude</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Proposition</translation>
+    </message>
+    <message>
+        <source>What is doubtful, and why</source>
+        <translation>Ce qui est douteux, et pourquoi</translation>
+    </message>
+    <message>
+        <source>The figure of the proposal, to be altered</source>
+        <translation>La valeur de la proposition, modifiable</translation>
+    </message>
+    <message>
+        <source>The shot comes into view in the window; a double click on its line does the same</source>
+        <translation>Affiche le tir dans la fenêtre&#xa0;; un double clic sur sa ligne fait de même</translation>
+    </message>
+    <message>
+        <source>&amp;Show traces</source>
+        <translation>Affi&amp;cher les traces</translation>
+    </message>
+    <message>
+        <source>The record was &amp;late by:</source>
+        <translation>&amp;Retard de l&apos;enregistrement&#xa0;:</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Muted before:</source>
+        <translation>&amp;Mute avant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The shot is &amp;at:</source>
+        <translation>&amp;Position du tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>share</comment>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Carry &amp;out</source>
+        <translation>Appli&amp;quer</translation>
+    </message>
+    <message>
+        <source>Distance, m</source>
+        <translation>Distance, m</translation>
+    </message>
+    <message>
+        <source>Time, ms</source>
+        <translation>Temps, ms</translation>
+    </message>
+    <message>
+        <source>There are no times to draw.</source>
+        <translation>Il n&apos;y a pas de temps à tracer.</translation>
+    </message>
+    <message>
+        <source>Nothing is doubtful.</source>
+        <translation>Rien n&apos;est douteux.</translation>
+    </message>
+    <message>
+        <source>Nothing was found so far.</source>
+        <translation>Rien n&apos;a été trouvé jusqu&apos;ici.</translation>
+    </message>
+    <message>
+        <source>Carried out when it is ticked; the space bar does it, too</source>
+        <translation>Appliquée si la case est cochée&#xa0;; la barre d&apos;espace la coche aussi</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>shots</comment>
+        <translation>tous</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>traces</comment>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Mesurés</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Attendus</translation>
+    </message>
+    <message>
+        <source>The check was stopped: not all shots were looked at.</source>
+        <translation>La vérification a été interrompue&#xa0;: tous les tirs n&apos;ont pas été examinés.</translation>
+    </message>
+    <message>
+        <source>Findings: %1, with a proposal: %2, ticked to be carried out: %3. What was recorded is kept, and Undo takes everything back.</source>
+        <translation>Anomalies&#xa0;: %1, avec une proposition&#xa0;: %2, cochées pour être appliquées&#xa0;: %3. Ce qui a été enregistré est conservé, et Défaire annule tout.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -4462,6 +4608,22 @@ Veuillez définir la position des géophones
         <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
         <translation>La trace %1 est neutralisée et n&apos;accepte pas de pointé&#xa0;; «&#xa0;Corriger l&apos;enregistrement&#xa0;» la rétablit.</translation>
     </message>
+    <message>
+        <source>The check failed: %1</source>
+        <translation>La vérification a échoué&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>AutoPick along the line</source>
+        <translation>AutoPick le long de la ligne</translation>
+    </message>
+    <message>
+        <source>no trace has a place and a sample interval; give the line its geometry</source>
+        <translation>aucune trace n&apos;a à la fois une position et un pas d&apos;échantillonnage&#xa0;; indiquez la géométrie de la ligne</translation>
+    </message>
+    <message>
+        <source>shot %1, %2: %3</source>
+        <translation>tir %1, %2&#xa0;: %3</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7889,6 +8051,34 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>%1 does not hold all of the survey.</source>
         <translation>%1 ne contient pas tout le levé.</translation>
+    </message>
+    <message>
+        <source>AutoPick along the line</source>
+        <translation>AutoPick le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Pick all traces of a shot together, and follow the picks that you made; picks that are not sure are left out</source>
+        <translation>Pointer ensemble toutes les traces d&apos;un tir, en suivant vos propres pointés&#xa0;; les pointés peu sûrs sont omis</translation>
+    </message>
+    <message>
+        <source>Check recordings...</source>
+        <translation>Vérifier les enregistrements...</translation>
+    </message>
+    <message>
+        <source>List what is doubtful about positions, triggers and traces, with a mend for each that you take or leave</source>
+        <translation>Énumérer ce qui est douteux dans les positions, les déclenchements et les traces, avec chaque fois une correction à prendre ou à laisser</translation>
+    </message>
+    <message>
+        <source>Proposals carried out: %1 of %2.</source>
+        <translation>Propositions appliquées&#xa0;: %1 sur %2.</translation>
+    </message>
+    <message>
+        <source>Some proposals have not been carried out.</source>
+        <translation>Certaines propositions n&apos;ont pas été appliquées.</translation>
+    </message>
+    <message>
+        <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
+        <translation>Traces&#xa0;: %1, dont %2 avec un pointé sûr à %3 ms près et %4 avec un pointé douteux&#xa0;; vos propres pointés conservés&#xa0;: %5.</translation>
     </message>
 </context>
 <context>
