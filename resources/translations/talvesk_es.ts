@@ -49,6 +49,152 @@
     </message>
 </context>
 <context>
+    <name>talvesk::CheckDialog</name>
+    <message>
+        <source>Check recordings</source>
+        <translation>Revisar registros</translation>
+    </message>
+    <message>
+        <source>The recordings are being looked at...</source>
+        <translation>Se están examinando los registros...</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>What is doubtful</source>
+        <translation>Lo que es dudoso</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Trazas</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>Dudoso</translation>
+    </message>
+    <message>
+        <source>Sure</source>
+        <translation>Certeza</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Propuesta</translation>
+    </message>
+    <message>
+        <source>What is doubtful, and why</source>
+        <translation>Qué es dudoso y por qué</translation>
+    </message>
+    <message>
+        <source>The figure of the proposal, to be altered</source>
+        <translation>El valor de la propuesta, que se puede cambiar</translation>
+    </message>
+    <message>
+        <source>The shot comes into view in the window; a double click on its line does the same</source>
+        <translation>Muestra el disparo en la ventana; un doble clic en su fila hace lo mismo</translation>
+    </message>
+    <message>
+        <source>&amp;Show traces</source>
+        <translation>&amp;Mostrar trazas</translation>
+    </message>
+    <message>
+        <source>The record was &amp;late by:</source>
+        <translation>&amp;Retraso del registro:</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Muted before:</source>
+        <translation>&amp;Silenciadas antes de:</translation>
+    </message>
+    <message>
+        <source>The shot is &amp;at:</source>
+        <translation>&amp;Posición del disparo:</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>share</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Carry &amp;out</source>
+        <translation>Ap&amp;licar</translation>
+    </message>
+    <message>
+        <source>Distance, m</source>
+        <translation>Distancia, m</translation>
+    </message>
+    <message>
+        <source>Time, ms</source>
+        <translation>Tiempo, ms</translation>
+    </message>
+    <message>
+        <source>There are no times to draw.</source>
+        <translation>No hay tiempos que dibujar.</translation>
+    </message>
+    <message>
+        <source>Nothing is doubtful.</source>
+        <translation>No hay nada dudoso.</translation>
+    </message>
+    <message>
+        <source>Nothing was found so far.</source>
+        <translation>Hasta ahora no se ha encontrado nada.</translation>
+    </message>
+    <message>
+        <source>Carried out when it is ticked; the space bar does it, too</source>
+        <translation>Se aplica si está marcada; también se marca con la barra espaciadora</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>shots</comment>
+        <translation>todos</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>traces</comment>
+        <translation>todas</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Medidos</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Esperados</translation>
+    </message>
+    <message>
+        <source>The check was stopped: not all shots were looked at.</source>
+        <translation>La revisión se ha detenido: no se han examinado todos los disparos.</translation>
+    </message>
+    <message>
+        <source>Findings: %1, with a proposal: %2, ticked to be carried out: %3. What was recorded is kept, and Undo takes everything back.</source>
+        <translation>Hallazgos: %1, con propuesta: %2, marcados para aplicar: %3. Lo registrado se conserva, y Deshacer lo revierte todo.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -4462,6 +4608,22 @@ Defina la posición de los geófonos
         <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
         <translation>La traza %1 está anulada y no admite picado; Corregir registro la recupera.</translation>
     </message>
+    <message>
+        <source>The check failed: %1</source>
+        <translation>La revisión ha fallado: %1</translation>
+    </message>
+    <message>
+        <source>AutoPick along the line</source>
+        <translation>AutoPick a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>no trace has a place and a sample interval; give the line its geometry</source>
+        <translation>ninguna traza tiene a la vez posición e intervalo de muestreo; indique la geometría de la línea</translation>
+    </message>
+    <message>
+        <source>shot %1, %2: %3</source>
+        <translation>disparo %1, %2: %3</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7889,6 +8051,34 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>%1 does not hold all of the survey.</source>
         <translation>%1 no contiene todo el levantamiento.</translation>
+    </message>
+    <message>
+        <source>AutoPick along the line</source>
+        <translation>AutoPick a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Pick all traces of a shot together, and follow the picks that you made; picks that are not sure are left out</source>
+        <translation>Pica juntas todas las trazas de un disparo y sigue los picados hechos por usted; los picados poco seguros se omiten</translation>
+    </message>
+    <message>
+        <source>Check recordings...</source>
+        <translation>Revisar registros...</translation>
+    </message>
+    <message>
+        <source>List what is doubtful about positions, triggers and traces, with a mend for each that you take or leave</source>
+        <translation>Enumera lo dudoso de las posiciones, los tiempos de disparo y las trazas, con una corrección para cada caso que usted acepta o no</translation>
+    </message>
+    <message>
+        <source>Proposals carried out: %1 of %2.</source>
+        <translation>Propuestas aplicadas: %1 de %2.</translation>
+    </message>
+    <message>
+        <source>Some proposals have not been carried out.</source>
+        <translation>Algunas propuestas no se han aplicado.</translation>
+    </message>
+    <message>
+        <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
+        <translation>Trazas: %1; con un picado seguro (±%3 ms): %2; con uno dudoso: %4. Picados hechos por usted que se conservan: %5.</translation>
     </message>
 </context>
 <context>
