@@ -49,6 +49,152 @@
     </message>
 </context>
 <context>
+    <name>talvesk::CheckDialog</name>
+    <message>
+        <source>Check recordings</source>
+        <translation>Aufzeichnungen prüfen</translation>
+    </message>
+    <message>
+        <source>The recordings are being looked at...</source>
+        <translation>Die Aufzeichnungen werden durchgesehen...</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>What is doubtful</source>
+        <translation>Was zweifelhaft ist</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Ausführen</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Spuren</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>Zweifelhaft</translation>
+    </message>
+    <message>
+        <source>Sure</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Vorschlag</translation>
+    </message>
+    <message>
+        <source>What is doubtful, and why</source>
+        <translation>Was zweifelhaft ist, und warum</translation>
+    </message>
+    <message>
+        <source>The figure of the proposal, to be altered</source>
+        <translation>Der Wert des Vorschlags, hier änderbar</translation>
+    </message>
+    <message>
+        <source>The shot comes into view in the window; a double click on its line does the same</source>
+        <translation>Bringt den Schuss im Fenster ins Bild; ein Doppelklick auf seine Zeile tut dasselbe</translation>
+    </message>
+    <message>
+        <source>&amp;Show traces</source>
+        <translation>Spuren an&amp;zeigen</translation>
+    </message>
+    <message>
+        <source>The record was &amp;late by:</source>
+        <translation>Aufzeichnung &amp;verspätet um:</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Muted before:</source>
+        <translation>Stumm &amp;vor:</translation>
+    </message>
+    <message>
+        <source>The shot is &amp;at:</source>
+        <translation>Der Schuss liegt &amp;bei:</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>share</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Carry &amp;out</source>
+        <translation>&amp;Ausführen</translation>
+    </message>
+    <message>
+        <source>Distance, m</source>
+        <translation>Entfernung, m</translation>
+    </message>
+    <message>
+        <source>Time, ms</source>
+        <translation>Zeit, ms</translation>
+    </message>
+    <message>
+        <source>There are no times to draw.</source>
+        <translation>Es gibt keine Zeiten zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>Nothing is doubtful.</source>
+        <translation>Nichts ist zweifelhaft.</translation>
+    </message>
+    <message>
+        <source>Nothing was found so far.</source>
+        <translation>Bisher wurde nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Carried out when it is ticked; the space bar does it, too</source>
+        <translation>Wird ausgeführt, wenn angekreuzt; die Leertaste kreuzt ebenfalls an</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>shots</comment>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>traces</comment>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Erwartet</translation>
+    </message>
+    <message>
+        <source>The check was stopped: not all shots were looked at.</source>
+        <translation>Die Prüfung wurde angehalten: Nicht alle Schüsse wurden durchgesehen.</translation>
+    </message>
+    <message>
+        <source>Findings: %1, with a proposal: %2, ticked to be carried out: %3. What was recorded is kept, and Undo takes everything back.</source>
+        <translation>Befunde: %1, mit Vorschlag: %2, zum Ausführen angekreuzt: %3. Das Aufgezeichnete bleibt erhalten, und Rückgängig nimmt alles zurück.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -4462,6 +4608,22 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
         <translation>Spur %1 ist ausgeschaltet und nimmt keinen Pick an; „Aufzeichnung korrigieren“ holt sie zurück.</translation>
     </message>
+    <message>
+        <source>The check failed: %1</source>
+        <translation>Die Prüfung ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>AutoPick along the line</source>
+        <translation>AutoPick entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>no trace has a place and a sample interval; give the line its geometry</source>
+        <translation>keine Spur hat eine Position und ein Abtastintervall; legen Sie die Geometrie der Messlinie fest</translation>
+    </message>
+    <message>
+        <source>shot %1, %2: %3</source>
+        <translation>Schuss %1, %2: %3</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7889,6 +8051,34 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     <message>
         <source>%1 does not hold all of the survey.</source>
         <translation>%1 enthält nicht die ganze Messung.</translation>
+    </message>
+    <message>
+        <source>AutoPick along the line</source>
+        <translation>AutoPick entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Pick all traces of a shot together, and follow the picks that you made; picks that are not sure are left out</source>
+        <translation>Pickt alle Spuren eines Schusses gemeinsam und folgt den von Ihnen gesetzten Picks; unsichere Picks werden weggelassen</translation>
+    </message>
+    <message>
+        <source>Check recordings...</source>
+        <translation>Aufzeichnungen prüfen...</translation>
+    </message>
+    <message>
+        <source>List what is doubtful about positions, triggers and traces, with a mend for each that you take or leave</source>
+        <translation>Listet auf, was an Positionen, Triggern und Spuren zweifelhaft ist, jeweils mit einer Korrektur, die Sie annehmen oder nicht</translation>
+    </message>
+    <message>
+        <source>Proposals carried out: %1 of %2.</source>
+        <translation>Ausgeführte Vorschläge: %1 von %2.</translation>
+    </message>
+    <message>
+        <source>Some proposals have not been carried out.</source>
+        <translation>Einige Vorschläge wurden nicht ausgeführt.</translation>
+    </message>
+    <message>
+        <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
+        <translation>Von %1 Spuren haben %2 einen auf %3 ms sicheren Pick und %4 einen zweifelhaften; %5 von Ihnen gesetzte Picks bleiben.</translation>
     </message>
 </context>
 <context>

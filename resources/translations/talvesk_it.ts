@@ -49,6 +49,152 @@
     </message>
 </context>
 <context>
+    <name>talvesk::CheckDialog</name>
+    <message>
+        <source>Check recordings</source>
+        <translation>Controlla le registrazioni</translation>
+    </message>
+    <message>
+        <source>The recordings are being looked at...</source>
+        <translation>Controllo delle registrazioni in corso...</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Ferma</translation>
+    </message>
+    <message>
+        <source>What is doubtful</source>
+        <translation>Che cosa è dubbio</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Esegui</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Tracce</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>Dubbio</translation>
+    </message>
+    <message>
+        <source>Sure</source>
+        <translation>Certezza</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Proposta</translation>
+    </message>
+    <message>
+        <source>What is doubtful, and why</source>
+        <translation>Che cosa è dubbio, e perché</translation>
+    </message>
+    <message>
+        <source>The figure of the proposal, to be altered</source>
+        <translation>Il valore della proposta, modificabile</translation>
+    </message>
+    <message>
+        <source>The shot comes into view in the window; a double click on its line does the same</source>
+        <translation>Il tiro viene in vista nella finestra; un doppio clic sulla sua riga fa lo stesso</translation>
+    </message>
+    <message>
+        <source>&amp;Show traces</source>
+        <translation>&amp;Mostra le tracce</translation>
+    </message>
+    <message>
+        <source>The record was &amp;late by:</source>
+        <translation>La registrazione era in &amp;ritardo di:</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Muted before:</source>
+        <translation>A&amp;zzerate prima di:</translation>
+    </message>
+    <message>
+        <source>The shot is &amp;at:</source>
+        <translation>Il &amp;tiro è a:</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>share</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Carry &amp;out</source>
+        <translation>&amp;Esegui</translation>
+    </message>
+    <message>
+        <source>Distance, m</source>
+        <translation>Distanza, m</translation>
+    </message>
+    <message>
+        <source>Time, ms</source>
+        <translation>Tempo, ms</translation>
+    </message>
+    <message>
+        <source>There are no times to draw.</source>
+        <translation>Non ci sono tempi da disegnare.</translation>
+    </message>
+    <message>
+        <source>Nothing is doubtful.</source>
+        <translation>Nulla è dubbio.</translation>
+    </message>
+    <message>
+        <source>Nothing was found so far.</source>
+        <translation>Finora non è stato trovato nulla.</translation>
+    </message>
+    <message>
+        <source>Carried out when it is ticked; the space bar does it, too</source>
+        <translation>Se spuntata, la proposta viene eseguita; si spunta anche con la barra spaziatrice</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>shots</comment>
+        <translation>tutti</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>traces</comment>
+        <translation>tutte</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuna</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Misurati</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Attesi</translation>
+    </message>
+    <message>
+        <source>The check was stopped: not all shots were looked at.</source>
+        <translation>Il controllo è stato interrotto: non tutti i tiri sono stati esaminati.</translation>
+    </message>
+    <message>
+        <source>Findings: %1, with a proposal: %2, ticked to be carried out: %3. What was recorded is kept, and Undo takes everything back.</source>
+        <translation>Punti dubbi: %1, con una proposta: %2, spuntati per l&apos;esecuzione: %3. Ciò che è stato registrato si conserva, e Annulla modifica riporta tutto com&apos;era.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -4462,6 +4608,22 @@ Impostare la posizione dei geofoni
         <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
         <translation>La traccia %1 è esclusa e non accetta primi arrivi; &quot;Correggi la registrazione&quot; la ripristina.</translation>
     </message>
+    <message>
+        <source>The check failed: %1</source>
+        <translation>Il controllo non è riuscito: %1</translation>
+    </message>
+    <message>
+        <source>AutoPick along the line</source>
+        <translation>AutoPick lungo la linea</translation>
+    </message>
+    <message>
+        <source>no trace has a place and a sample interval; give the line its geometry</source>
+        <translation>nessuna traccia ha una posizione e un intervallo di campionamento; definire la geometria della linea</translation>
+    </message>
+    <message>
+        <source>shot %1, %2: %3</source>
+        <translation>tiro %1, %2: %3</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7889,6 +8051,34 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>%1 does not hold all of the survey.</source>
         <translation>%1 non contiene tutto il rilievo.</translation>
+    </message>
+    <message>
+        <source>AutoPick along the line</source>
+        <translation>AutoPick lungo la linea</translation>
+    </message>
+    <message>
+        <source>Pick all traces of a shot together, and follow the picks that you made; picks that are not sure are left out</source>
+        <translation>Trova i primi arrivi di tutte le tracce di un tiro insieme, seguendo quelli messi da te; quelli non sicuri restano esclusi</translation>
+    </message>
+    <message>
+        <source>Check recordings...</source>
+        <translation>Controlla le registrazioni...</translation>
+    </message>
+    <message>
+        <source>List what is doubtful about positions, triggers and traces, with a mend for each that you take or leave</source>
+        <translation>Elenca ciò che è dubbio in posizioni, trigger e tracce, con una correzione per ciascun caso, da prendere o lasciare</translation>
+    </message>
+    <message>
+        <source>Proposals carried out: %1 of %2.</source>
+        <translation>Proposte eseguite: %1 di %2.</translation>
+    </message>
+    <message>
+        <source>Some proposals have not been carried out.</source>
+        <translation>Alcune proposte non sono state eseguite.</translation>
+    </message>
+    <message>
+        <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
+        <translation>Su %1 tracce, %2 hanno un primo arrivo sicuro entro %3 ms e %4 uno dubbio; %5 primi arrivi messi da te restano.</translation>
     </message>
 </context>
 <context>
