@@ -6,6 +6,7 @@
 #include "batch/Failure.h"
 #include "batch/OutputFiles.h"
 #include "io/GeometryFile.h"
+#include "io/Seg2Writer.h"
 #include "io/TravelTimeFile.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"

@@ -6,6 +6,7 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/ShotPicking.h"
+#include "io/project/projectReader.h"
 
 #include <QDir>
 #include <memory>

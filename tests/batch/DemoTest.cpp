@@ -1,6 +1,7 @@
 #include "batch/BatchRunner.h"
 #include "batch/DemoLine.h"
 #include "batch/DemoShots.h"
+#include "io/Seg2Writer.h"
 #include "io/ShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
