@@ -4,6 +4,7 @@
 #include "app/Messages.h"
 #include "io/RecordExport.h"
 #include "model/Recordings.h"
+#include "model/TomoDocument.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
