@@ -498,6 +498,52 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Its numbers were cut at their decimal commas: they need points.</source>
         <translation>Die Zahlen wurden am Dezimalkomma abgeschnitten: sie brauchen Punkte.</translation>
     </message>
+    <message>
+        <source>Elevations from table</source>
+        <translation>Höhen aus Tabelle</translation>
+    </message>
+    <message>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
+        <translation>Gibt allen Geophonen und Schüssen die Höhen einer Tabelle mit Entfernungen und Höhen</translation>
+    </message>
+    <message>
+        <source>&amp;Straight from point to point ...</source>
+        <translation>&amp;Geradlinig von Punkt zu Punkt ...</translation>
+    </message>
+    <message>
+        <source>Along a s&amp;mooth curve ...</source>
+        <translation>Entlang einer glatten &amp;Kurve ...</translation>
+    </message>
+    <message>
+        <source>It was read by the names of its columns.</source>
+        <translation>Die Datei wurde nach den Namen ihrer Spalten gelesen.</translation>
+    </message>
+    <message>
+        <source>Open Elevations</source>
+        <translation>Höhen öffnen</translation>
+    </message>
+    <message>
+        <source>Tables of distances and elevations (*.csv *.txt *.dat *.xyz *.tsv);;All Files (*)</source>
+        <translation>Tabellen mit Entfernungen und Höhen (*.csv *.txt *.dat *.xyz *.tsv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The elevations have not been taken.</source>
+        <translation>Die Höhen wurden nicht übernommen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) taken from the table.</source>
+        <translation>
+            <numerusform>%n Höhe aus der Tabelle übernommen.</numerusform>
+            <numerusform>%n Höhen aus der Tabelle übernommen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <translation>
+            <numerusform>%n Position liegt jenseits ihrer Enden, %1 bis %2 m, und hat die dortige Höhe erhalten.</numerusform>
+            <numerusform>%n Positionen liegen jenseits ihrer Enden, %1 bis %2 m, und haben die dortige Höhe erhalten.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -788,6 +834,38 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>smoothed since the inversion</source>
         <translation>seit der Inversion geglättet</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>Schuss deaktiviert</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>um %1 ms verschoben</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>Reihenfolge umgekehrt</translation>
+    </message>
+    <message>
+        <source>stacked with %1</source>
+        <comment>shots</comment>
+        <translation>%1 dazugestapelt</translation>
+    </message>
+    <message>
+        <source>%1 killed</source>
+        <comment>traces</comment>
+        <translation>%1 ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>%1 of reversed polarity</source>
+        <comment>traces</comment>
+        <translation>%1 mit umgekehrter Polarität</translation>
+    </message>
+    <message>
+        <source>%1 muted</source>
+        <comment>traces</comment>
+        <translation>%1 stummgeschaltet</translation>
     </message>
 </context>
 <context>
@@ -1382,12 +1460,92 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Warnung</translation>
     </message>
     <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>Die Messung ändert sich. Verloren gehen:</translation>
-    </message>
-    <message>
         <source>Do you want to continue?</source>
         <translation>Möchten Sie fortfahren?</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be removed (Undo brings it back):</source>
+        <translation>Die Messung ändert sich. Entfernt werden („Rückgängig“ bringt es zurück):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MendDialog</name>
+    <message>
+        <source>Mend recording</source>
+        <translation>Aufzeichnung korrigieren</translation>
+    </message>
+    <message>
+        <source>What was recorded is kept: everything here can be taken back at any time. Picks move with the recording.</source>
+        <translation>Das Aufgezeichnete bleibt erhalten: Alles hier lässt sich jederzeit zurücknehmen. Picks wandern mit der Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>&amp;The record was late by:</source>
+        <translation>Aufzeichnung &amp;verspätet um:</translation>
+    </message>
+    <message>
+        <source>Positive: the front of the record goes, and picks become earlier. Negative: the record was early. Whole samples are taken.</source>
+        <translation>Positiv: Der Anfang der Aufzeichnung entfällt, und Picks werden früher. Negativ: Die Aufzeichnung kam zu früh. Genommen werden ganze Abtastwerte.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Its picks are set aside and come back with it</source>
+        <translation>Seine Picks werden beiseitegelegt und kommen mit ihm zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Disabled: the shot has no picks and takes no part</source>
+        <translation>&amp;Deaktiviert: Der Schuss hat keine Picks und nimmt nicht teil</translation>
+    </message>
+    <message>
+        <source>The last channel goes to the first geophone, with its pick</source>
+        <translation>Der letzte Kanal geht an das erste Geophon, mit seinem Pick</translation>
+    </message>
+    <message>
+        <source>&amp;Order reversed: the channels run against the geophones</source>
+        <translation>&amp;Reihenfolge umgekehrt: Die Kanäle laufen gegen die Geophone</translation>
+    </message>
+    <message>
+        <source>&amp;Stack with:</source>
+        <translation>&amp;Stapeln mit:</translation>
+    </message>
+    <message>
+        <source>Shots of the same place and geophones; the mean of their samples is shown and picked</source>
+        <translation>Schüsse an derselben Stelle mit denselben Geophonen; gezeigt und gepickt wird der Mittelwert ihrer Abtastwerte</translation>
+    </message>
+    <message>
+        <source>Disable &amp;the shots that it is stacked with</source>
+        <translation>Die &amp;mitgestapelten Schüsse deaktivieren</translation>
+    </message>
+    <message>
+        <source>No other shot has the same place, geophones and sample interval.</source>
+        <translation>Kein anderer Schuss hat dieselbe Stelle, dieselben Geophone und dasselbe Abtastintervall.</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Spuren des Schusses</translation>
+    </message>
+    <message>
+        <source>Killed</source>
+        <translation>Ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>Polarity reversed</source>
+        <translation>Polarität umgekehrt</translation>
+    </message>
+    <message>
+        <source>Muted before</source>
+        <translation>Stumm vor</translation>
+    </message>
+    <message>
+        <source>Mend recording of shot %1</source>
+        <translation>Aufzeichnung von Schuss %1 korrigieren</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3248,6 +3406,1062 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>Draw picks</source>
         <translation>Picks zeichnen</translation>
     </message>
+    <message>
+        <source>the survey has no such shot; check the recordings again</source>
+        <translation>die Messung hat keinen solchen Schuss; prüfen Sie die Aufzeichnungen erneut</translation>
+    </message>
+    <message>
+        <source>shot %1: a position is missing, no number or absurdly far away</source>
+        <translation>Schuss %1: eine Position fehlt, ist keine Zahl oder unsinnig weit entfernt</translation>
+    </message>
+    <message>
+        <source>shot %1: its geophone string has another number of geophones than the proposal; check the recordings again</source>
+        <translation>Schuss %1: seine Geophonauslage hat eine andere Anzahl von Geophonen als der Vorschlag; prüfen Sie die Aufzeichnungen erneut</translation>
+    </message>
+    <message>
+        <source>there is no trace %1; check the recordings again</source>
+        <translation>es gibt keine Spur %1; prüfen Sie die Aufzeichnungen erneut</translation>
+    </message>
+    <message>
+        <source>no trace of the record holds anything</source>
+        <translation>keine Spur der Aufzeichnung enthält ein Signal</translation>
+    </message>
+    <message>
+        <source>dead: the samples of %1 are all the same</source>
+        <translation>tot: die Abtastwerte von %1 sind alle gleich</translation>
+    </message>
+    <message>
+        <source>as good as dead: %1, at down to %2 % of the strength of the neighbours</source>
+        <translation>so gut wie tot: %1, mit nur noch bis zu %2 % der Stärke der Nachbarn</translation>
+    </message>
+    <message>
+        <source>clipped: the swings of %1 are cut off flat, up to %2 times; first breaks can be picked, amplitudes mean nothing</source>
+        <translation>übersteuert: die Ausschläge von %1 sind flach abgeschnitten, bis zu %2-mal; Ersteinsätze lassen sich picken, Amplituden bedeuten nichts</translation>
+    </message>
+    <message>
+        <source>noisy: before the first arrival of %1 there is up to %2 times the noise of the neighbours, and it drowns the arrival</source>
+        <translation>verrauscht: vor dem Ersteinsatz von %1 ist das Rauschen bis zu %2-mal so stark wie bei den Nachbarn und überdeckt den Einsatz</translation>
+    </message>
+    <message>
+        <source>doubled: trace %1 is trace %2 once more (correlation %3); the arrivals around say that it belongs to the latter</source>
+        <translation>doppelt: Spur %1 ist noch einmal Spur %2 (Korrelation %3); nach den Einsätzen ringsum gehört sie zu letzterer</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>traces %1</source>
+        <translation>Spuren %1</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>Schüsse %1</translation>
+    </message>
+    <message>
+        <source>shot position</source>
+        <translation>Schussposition</translation>
+    </message>
+    <message>
+        <source>station numbers</source>
+        <translation>Stationsnummern</translation>
+    </message>
+    <message>
+        <source>repeated positions</source>
+        <translation>mehrfache Positionen</translation>
+    </message>
+    <message>
+        <source>reversed order</source>
+        <translation>umgekehrte Reihenfolge</translation>
+    </message>
+    <message>
+        <source>doubled trace</source>
+        <translation>doppelte Spur</translation>
+    </message>
+    <message>
+        <source>moved traces</source>
+        <translation>vertauschte Spuren</translation>
+    </message>
+    <message>
+        <source>geophone off the line</source>
+        <translation>Geophon abseits der Messlinie</translation>
+    </message>
+    <message>
+        <source>trigger time</source>
+        <translation>Triggerzeit</translation>
+    </message>
+    <message>
+        <source>dead traces</source>
+        <translation>tote Spuren</translation>
+    </message>
+    <message>
+        <source>clipped traces</source>
+        <translation>übersteuerte Spuren</translation>
+    </message>
+    <message>
+        <source>noisy traces</source>
+        <translation>verrauschte Spuren</translation>
+    </message>
+    <message>
+        <source>reversed polarity</source>
+        <translation>umgekehrte Polarität</translation>
+    </message>
+    <message>
+        <source>mistimed trace</source>
+        <translation>zeitversetzte Spur</translation>
+    </message>
+    <message>
+        <source>sample intervals</source>
+        <translation>Abtastintervalle</translation>
+    </message>
+    <message>
+        <source>repeated shot</source>
+        <translation>wiederholter Schuss</translation>
+    </message>
+    <message>
+        <source>overlapping spreads</source>
+        <translation>überlappende Auslagen</translation>
+    </message>
+    <message>
+        <source>no elevations</source>
+        <translation>keine Höhen</translation>
+    </message>
+    <message>
+        <source>move the record later by %1 ms</source>
+        <translation>die Aufzeichnung um %1 ms nach später verschieben</translation>
+    </message>
+    <message>
+        <source>move the record earlier by %1 ms</source>
+        <translation>die Aufzeichnung um %1 ms nach früher verschieben</translation>
+    </message>
+    <message>
+        <source>kill %1</source>
+        <translation>%1 ausschalten</translation>
+    </message>
+    <message>
+        <source>reverse the polarity of %1</source>
+        <translation>die Polarität von %1 umkehren</translation>
+    </message>
+    <message>
+        <source>mute %1 before %2 ms</source>
+        <translation>%1 vor %2 ms stummschalten</translation>
+    </message>
+    <message>
+        <source>read the channels from the last to the first</source>
+        <translation>die Kanäle vom letzten zum ersten lesen</translation>
+    </message>
+    <message>
+        <source>put the shot at %1 m</source>
+        <translation>den Schuss auf %1 m setzen</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3 m</source>
+        <translation>die %1 Geophone seiner Auslage auf %2 bis %3 m setzen</translation>
+    </message>
+    <message>
+        <source>stack it with %1; the stack alone counts then</source>
+        <translation>stapeln mit: %1; dann zählt nur noch die Stapelung</translation>
+    </message>
+    <message>
+        <source>disable the shot</source>
+        <translation>den Schuss deaktivieren</translation>
+    </message>
+    <message>
+        <source>exchanged: over all shots the arrivals of trace %1 belong to the place of trace %2, and the other way round</source>
+        <translation>vertauscht: über alle Schüsse gehören die Einsätze von Spur %1 an die Stelle von Spur %2 und umgekehrt</translation>
+    </message>
+    <message>
+        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
+        <translation>abseits: Geophon %1 soll bei %2 m stehen; von beiden Seiten sind seine Einsätze die von %3 m</translation>
+    </message>
+    <message>
+        <source>%1 geophones are said to be at %2 places only</source>
+        <translation>%1 Geophone sollen an nur %2 Stellen stehen</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
+        <translation>%1; über %2 Schüsse wandern die kürzesten Zeiten um %3 Kanäle je Meter des Schusses, also steht Geophon 1 bei %4 m und das letzte bei %5 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>der Schuss soll bei %1 m liegen; der Dateiname sagt %2 m, und die kürzesten Zeiten der Messung folgen den Namen</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
+        <translation>der Schuss soll auf einer Höhe von %1 m liegen, und die Geophone haben keine Höhen, die ihre sein könnten</translation>
+    </message>
+    <message>
+        <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
+        <translation>die Kanäle laufen gegen die Geophone: die kürzesten Zeiten von %1 von %2 Schüssen liegen nur dann neben dem Schuss, wenn die Auslage vom letzten zum ersten Geophon gelesen wird</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>alle Schüsse sollen bei %1 m liegen; der Dateiname sagt %2 m, und die kürzesten Zeiten der Messung folgen den Namen</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
+        <translation>alle Schüsse sollen bei %1 m liegen; die Zeiten dieses Schusses sind bei %2 m am kürzesten</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
+        <translation>alle Schüsse sollen bei %1 m liegen; dieser lag an einem Ende der Geophone oder außerhalb</translation>
+    </message>
+    <message>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
+        <translation>die Kanäle dieser Aufzeichnung laufen gegen die Geophone: vom letzten zum ersten gelesen sind die Zeiten neben dem Schuss bei %1 m am kürzesten</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>der Schuss soll bei %1 m liegen, aber die Zeiten wachsen ab %2 m über alle Geophone hinweg: er lag an diesem Ende der Geophone oder außerhalb</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
+        <translation>der Schuss soll bei %1 m liegen, aber die Zeiten sind bei %2 m am kürzesten, neben Geophon %3, und wachsen nach beiden Seiten</translation>
+    </message>
+    <message>
+        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
+        <translation>%1; oder die Geophone stehen %2 m statt %3 m auseinander, was kein anderer Schuss entscheiden kann</translation>
+    </message>
+    <message>
+        <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
+        <translation>zeitversetzt: Spur %1 hat ihren Ersteinsatz bei %2 ms, nach den Nachbarn ist er bei %3 ms zu erwarten, und von dort an gleicht sie ihnen (Korrelation %4)</translation>
+    </message>
+    <message>
+        <source>reversed: the first swings of %1 go against those of the neighbours, which agree with each other (correlation -%2 at least)</source>
+        <translation>umgekehrt: die ersten Ausschläge von %1 laufen denen der Nachbarn entgegen, die untereinander übereinstimmen (Korrelation mindestens -%2)</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
+        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2 m, mit dem %3-fachen Signal-Rausch-Verhältnis</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
+        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2 m; seine Einsätze kommen %3 ms später</translation>
+    </message>
+    <message>
+        <source>the record is that of shot %1 once more, sample for sample</source>
+        <translation>die Aufzeichnung ist noch einmal die von Schuss %1, Abtastwert für Abtastwert</translation>
+    </message>
+    <message>
+        <source>the sample intervals of its traces differ, %1 to %2 ms: the times of some are wrong unless the recorder meant it</source>
+        <translation>die Abtastintervalle der Spuren unterscheiden sich, %1 bis %2 ms: manche Zeiten sind falsch, sofern die Apparatur nicht so eingestellt war</translation>
+    </message>
+    <message>
+        <source>its traces have no sample interval: they have no times</source>
+        <translation>die Spuren haben kein Abtastintervall: sie haben keine Zeiten</translation>
+    </message>
+    <message>
+        <source>the sample interval is %2 ms in %1, and %3 ms in most others: right if the recorder was set so</source>
+        <translation>%1: das Abtastintervall ist %2 ms, bei den meisten anderen %3 ms; richtig, wenn die Apparatur so eingestellt war</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>zwischen %1 und %2 m steht kein Geophon: der Untergrund dort wird von keiner Seite gesehen, sofern nicht Schüsse darüber hinwegreichen</translation>
+    </message>
+    <message>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
+        <translation>die Auslagen %1 und %2 überlappen sich und haben an %3 Stellen verschiedene Höhen, um bis zu %4 m bei %5 m</translation>
+    </message>
+    <message>
+        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>keine Höhen: alle Schüsse und Geophone liegen auf %1 m; ist das Gelände nicht eben, lesen Sie die Höhen in der Geometrie der Messung aus einer Tabelle</translation>
+    </message>
+    <message>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
+        <translation>die Position %1 des Schusses zählt Stationen: über %2 Schüsse wandern die kürzesten Zeiten um %3 m je 1 in der Position</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
+        <translation>die Positionen der Geophone sind keine Meter: über %1 Schüsse wandern die kürzesten Zeiten um %2 je Meter des Schusses; mit Geophonen im Abstand von %3 m ab %4 m liegen sie neben den Schüssen</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation>zu spät</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation>zu früh</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: %3 times to the places of other shots differ by that from the times back, give or take %4 ms</source>
+        <translation>die Aufzeichnung kommt %1 ms %2: %3 Zeiten zu den Stellen anderer Schüsse weichen um so viel von den Zeiten zurück ab, auf %4 ms genau</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: its times differ by that from those of %3 other shots at equal distances, give or take %4 ms</source>
+        <translation>die Aufzeichnung kommt etwa %1 ms %2: ihre Zeiten weichen um so viel von denen von %3 anderen Schüssen bei gleichen Entfernungen ab, auf %4 ms genau</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
+        <translation>die Aufzeichnung kommt %1 ms %2: alle Kanäle haben bei %3 ms gleichzeitig eine Spitze, bevor etwas eingetroffen sein kann</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>die Aufzeichnung kommt etwa %1 ms %2: nach den nächsten Geophonen, %3 m vom Schuss, läge der Schlag zwischen %4 und %5 ms, gleich in welchem Untergrund</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>sie ist leer</translation>
+    </message>
+    <message>
+        <source>it has %1 columns and no heading that names one for the distance and one for the elevation</source>
+        <translation>sie hat %1 Spalten und keine Überschrift, die eine davon für die Entfernung und eine für die Höhe nennt</translation>
+    </message>
+    <message>
+        <source>it holds no point</source>
+        <translation>sie enthält keinen Punkt</translation>
+    </message>
+    <message>
+        <source>Unified data format (%1)</source>
+        <translation>Unified-Data-Format (%1)</translation>
+    </message>
+    <message>
+        <source>no heading names shot, geophone and time</source>
+        <translation>keine Überschrift nennt Schuss, Geophon und Zeit</translation>
+    </message>
+    <message>
+        <source>%1 lines above the heading were ignored</source>
+        <translation>%1 Zeilen über der Überschrift wurden ignoriert</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 were taken for positions in metres</source>
+        <translation>die Spalten %1 und %2 wurden als Positionen in Metern genommen</translation>
+    </message>
+    <message>
+        <source>the heading does not say whether its times are in ms or in s</source>
+        <translation>die Überschrift sagt nicht, ob die Zeiten in ms oder in s sind</translation>
+    </message>
+    <message>
+        <source>no row follows the heading</source>
+        <translation>auf die Überschrift folgt keine Zeile</translation>
+    </message>
+    <message>
+        <source>there are more than %1 geophones</source>
+        <translation>es gibt mehr als %1 Geophone</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows have no time above 0, or are not valid, and are no picks</source>
+        <translation>%1 von %2 Zeilen haben keine Zeit über 0 oder sind nicht gültig und sind keine Picks</translation>
+    </message>
+    <message>
+        <source>%1 shots and %2 geophones are far too many for %3 rows</source>
+        <translation>%1 Schüsse und %2 Geophone sind viel zu viele für %3 Zeilen</translation>
+    </message>
+    <message>
+        <source>no column tells the elevations of the shots; they were put on the line of the geophones</source>
+        <translation>keine Spalte nennt die Höhen der Schüsse; sie wurden auf die Linie der Geophone gesetzt</translation>
+    </message>
+    <message>
+        <source>no heading names a column for the distance and one for the elevation</source>
+        <translation>keine Überschrift nennt eine Spalte für die Entfernung und eine für die Höhe</translation>
+    </message>
+    <message>
+        <source>the unified data format</source>
+        <translation>Unified-Data-Format</translation>
+    </message>
+    <message>
+        <source>a table with a heading</source>
+        <translation>Tabelle mit Überschrift</translation>
+    </message>
+    <message>
+        <source>a pick table of long lines</source>
+        <translation>Pick-Tabelle mit langen Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 times are of a shot and geophone that had one already; the first of them counts</source>
+        <translation>%1 Zeiten gehören zu einem Schuss und Geophon, die schon eine hatten; die jeweils erste gilt</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>number of positions</source>
+        <translation>Anzahl der Positionen</translation>
+    </message>
+    <message>
+        <source>number of measurements</source>
+        <translation>Anzahl der Messwerte</translation>
+    </message>
+    <message>
+        <source>number of points of topography</source>
+        <translation>Anzahl der Geländepunkte</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is not a number</source>
+        <translation>in %1 steht %2, was keine Zahl ist</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is out of range</source>
+        <translation>in %1 steht %2, was außerhalb des Bereichs liegt</translation>
+    </message>
+    <message>
+        <source>all shot files count as read by the program&apos;s rules; the traces are those that were saved</source>
+        <translation>alle Schussdateien gelten als nach den Regeln des Programms gelesen; die Spuren sind die gespeicherten</translation>
+    </message>
+    <message>
+        <source>what was mended in its recordings is not known; traces and picks stay as they are</source>
+        <translation>was an den Aufzeichnungen korrigiert wurde, ist nicht bekannt; Spuren und Picks bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>there is a grid, but a position lies more than 100 000 km away</source>
+        <translation>es gibt ein Gitter, aber eine Position liegt mehr als 100 000 km entfernt</translation>
+    </message>
+    <message>
+        <source>mends.xml: the mends of these shots are not those of their traces, and are left out; traces and picks stay as they are: %1</source>
+        <translation>mends.xml: die Korrekturen dieser Schüsse passen nicht zu ihren Spuren und werden weggelassen; Spuren und Picks bleiben, wie sie sind: %1</translation>
+    </message>
+    <message>
+        <source>it is about other shot files than those of the project</source>
+        <translation>es betrifft andere Schussdateien als die des Projekts</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m</source>
+        <translation>%1 bis %2 m</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules find no trace in it</source>
+        <translation>die Regeln des Programms finden keine Spur darin</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces of %3 shots</source>
+        <translation>die Regeln des Programms lesen %1 der %2 Spuren von %3 Schüssen</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces</source>
+        <translation>die Regeln des Programms lesen %1 der %2 Spuren</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules make one shot of its %1</source>
+        <translation>die Regeln des Programms machen aus %1 Schüssen einen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are all zeros by the program&apos;s rules</source>
+        <translation>%1 von %2 Spuren sind nach den Regeln des Programms lauter Nullen</translation>
+    </message>
+    <message>
+        <source>the samples of %1 of %2 traces are not those of the standard, and not for their scale alone</source>
+        <translation>die Abtastwerte von %1 von %2 Spuren sind nicht die des Standards, und nicht nur im Maßstab verschieden</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are shorter by the program&apos;s rules</source>
+        <translation>%1 von %2 Spuren sind nach den Regeln des Programms kürzer</translation>
+    </message>
+    <message>
+        <source>the sample interval is %1 ms by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>das Abtastintervall ist nach den Regeln des Programms %1 ms, nach dem Standard %2 ms</translation>
+    </message>
+    <message>
+        <source>its records start %1 ms from the shot by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>die Aufzeichnungen beginnen nach den Regeln des Programms %1 ms vom Schuss entfernt, nach dem Standard %2 ms</translation>
+    </message>
+    <message>
+        <source>its geophones are at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>die Geophone stehen nach den Regeln des Programms bei %1, nach dem Standard bei %2</translation>
+    </message>
+    <message>
+        <source>its shot is at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>der Schuss liegt nach den Regeln des Programms bei %1, nach dem Standard bei %2</translation>
+    </message>
+    <message>
+        <source>the elevations of %1 of %2 traces are others by the program&apos;s rules</source>
+        <translation>die Höhen von %1 von %2 Spuren sind nach den Regeln des Programms andere</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules cannot read it</source>
+        <translation>die Regeln des Programms können die Datei nicht lesen</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>the traces of shot %1 differ in sample interval or in the time of their first sample; they cannot be in one record</source>
+        <translation>die Spuren von Schuss %1 unterscheiden sich im Abtastintervall oder in der Zeit des ersten Abtastwerts; sie können nicht in einer Aufzeichnung stehen</translation>
+    </message>
+    <message>
+        <source>it has no sample interval</source>
+        <translation>er hat kein Abtastintervall</translation>
+    </message>
+    <message>
+        <source>its traces have %1 samples; a file holds %2</source>
+        <translation>seine Spuren haben %1 Abtastwerte; eine Datei fasst %2</translation>
+    </message>
+    <message>
+        <source>it has %1 traces; a SEG-2 file holds %2</source>
+        <translation>er hat %1 Spuren; eine SEG-2-Datei fasst %2</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>Schuss %1: %2</translation>
+    </message>
+    <message>
+        <source>read by the program&apos;s rules, the files have no elevations, and no positions that are not whole metres; read them by the standard</source>
+        <translation>nach den Regeln des Programms gelesen, haben die Dateien keine Höhen und keine Positionen außer ganzen Metern; lesen Sie sie nach dem Standard</translation>
+    </message>
+    <message>
+        <source>%1 shots are disabled or have no samples and were left out</source>
+        <translation>%1 Schüsse sind deaktiviert oder haben keine Abtastwerte und wurden weggelassen</translation>
+    </message>
+    <message>
+        <source>%1 traces begin at the shot; what was recorded before is not in the files</source>
+        <translation>%1 Spuren beginnen am Schuss; was davor aufgezeichnet wurde, ist nicht in den Dateien</translation>
+    </message>
+    <message>
+        <source>%1 samples were rounded to the seven digits of a 32-bit float</source>
+        <translation>%1 Abtastwerte wurden auf die sieben Stellen einer 32-Bit-Gleitkommazahl gerundet</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>der Vorgang wurde angehalten</translation>
+    </message>
+    <message>
+        <source>shot %1 has no samples</source>
+        <translation>Schuss %1 hat keine Abtastwerte</translation>
+    </message>
+    <message>
+        <source>shot %1, trace %2: a sample is too large for a file</source>
+        <translation>Schuss %1, Spur %2: ein Abtastwert ist zu groß für eine Datei</translation>
+    </message>
+    <message>
+        <source>the survey has no records to be written</source>
+        <translation>die Messung hat keine Aufzeichnungen, die geschrieben werden könnten</translation>
+    </message>
+    <message>
+        <source>its sample interval of %1 ms is no whole number of microseconds up to 65535, which is all that SEG-Y can hold; write SEG-2</source>
+        <translation>das Abtastintervall von %1 ms ist keine ganze Anzahl von Mikrosekunden bis 65535, und nur solche kann SEG-Y aufnehmen; schreiben Sie SEG-2</translation>
+    </message>
+    <message>
+        <source>it begins %1 ms after the shot, which SEG-Y cannot hold; write SEG-2</source>
+        <translation>die Aufzeichnung beginnt %1 ms nach dem Schuss, was SEG-Y nicht aufnehmen kann; schreiben Sie SEG-2</translation>
+    </message>
+    <message>
+        <source>it is miniSEED of version 3; version 2 is read</source>
+        <translation>es ist miniSEED der Version 3; gelesen wird Version 2</translation>
+    </message>
+    <message>
+        <source>it is no miniSEED file</source>
+        <translation>es ist keine miniSEED-Datei</translation>
+    </message>
+    <message>
+        <source>its records have no blockette 1000, which tells their encoding</source>
+        <translation>die Datensätze haben keine Blockette 1000, die ihre Kodierung nennt</translation>
+    </message>
+    <message>
+        <source>its samples have the encoding %1; 1, 3, 4, 5, 10 and 11 are read</source>
+        <translation>die Abtastwerte haben die Kodierung %1; gelesen werden 1, 3, 4, 5, 10 und 11</translation>
+    </message>
+    <message>
+        <source>none of its records has samples of a series</source>
+        <translation>keiner der Datensätze enthält Abtastwerte einer Zeitreihe</translation>
+    </message>
+    <message>
+        <source>miniSEED tells neither positions nor the time of the shot: all positions are 0 and times count from the first sample; give the survey its geometry</source>
+        <translation>miniSEED nennt weder Positionen noch die Zeit des Schusses: alle Positionen sind 0, und Zeiten zählen ab dem ersten Abtastwert; geben Sie der Messung ihre Geometrie</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others; zeros stand in front</source>
+        <translation>die Aufzeichnung von %1 beginnt später als andere; davor stehen Nullen</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others, by longer than it lasts; that is not applied and its times do not compare</source>
+        <translation>die Aufzeichnung von %1 beginnt später als andere, um mehr als ihre Dauer; das wird nicht angewandt, und ihre Zeiten sind nicht vergleichbar</translation>
+    </message>
+    <message>
+        <source>zeros stand for gaps in the record of %1</source>
+        <translation>für Lücken in der Aufzeichnung von %1 stehen Nullen</translation>
+    </message>
+    <message>
+        <source>records of %1 overlap; the later ones count</source>
+        <translation>Datensätze von %1 überlappen sich; die späteren gelten</translation>
+    </message>
+    <message>
+        <source>records left out after a gap that is longer than what was recorded: %1</source>
+        <translation>ausgelassene Datensätze nach einer Lücke, die länger ist als das Aufgezeichnete: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose sample rate is not that of the first of their channel: %1</source>
+        <translation>ausgelassene Datensätze, deren Abtastrate nicht die des ersten ihres Kanals ist: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose encoding, such as %1, is not read: %2</source>
+        <translation>ausgelassene Datensätze, deren Kodierung, etwa %1, nicht gelesen wird: %2</translation>
+    </message>
+    <message>
+        <source>records left out that have no samples of a series: %1</source>
+        <translation>ausgelassene Datensätze ohne Abtastwerte einer Zeitreihe: %1</translation>
+    </message>
+    <message>
+        <source>records left out that have no blockette 1000: %1</source>
+        <translation>ausgelassene Datensätze ohne Blockette 1000: %1</translation>
+    </message>
+    <message>
+        <source>bytes left out that are of no record: %1</source>
+        <translation>ausgelassene Bytes, die zu keinem Datensatz gehören: %1</translation>
+    </message>
+    <message>
+        <source>samples that headers promise and records do not hold: %1</source>
+        <translation>Abtastwerte, die Header versprechen und Datensätze nicht enthalten: %1</translation>
+    </message>
+    <message>
+        <source>damaged records, which do not end at the sample that they tell: %1</source>
+        <translation>beschädigte Datensätze, die nicht mit dem angegebenen Abtastwert enden: %1</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins after the shot, by up to %2 ms; zeros stand in front, in whole samples</source>
+        <translation>die Aufzeichnung von %1 beginnt nach dem Schuss, um bis zu %2 ms; davor stehen Nullen, in ganzen Abtastwerten</translation>
+    </message>
+    <message>
+        <source>the header of %1 says that the record begins up to %2 ms after the shot, longer than it lasts; that delay is not applied</source>
+        <translation>nach dem Header von %1 beginnt die Aufzeichnung bis zu %2 ms nach dem Schuss, um mehr als ihre Dauer; diese Verzögerung wird nicht angewandt</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells no %2; 0 stands for it</source>
+        <translation>der Header von %1 nennt diesen Wert nicht: %2; dafür steht 0</translation>
+    </message>
+    <message>
+        <source>the UNITS of its header, %1, are not known; its positions were taken as metres</source>
+        <translation>die UNITS des Headers, %1, sind nicht bekannt; die Positionen wurden als Meter genommen</translation>
+    </message>
+    <message>
+        <source>its positions are in %1 and were converted to metres, %2 m each</source>
+        <translation>die Positionen sind in %1 und wurden in Meter umgerechnet, je %2 m</translation>
+    </message>
+    <message>
+        <source>its receiver positions look like longitude and latitude in degrees, not like metres; give the survey its geometry</source>
+        <translation>die Empfängerpositionen sehen nach Länge und Breite in Grad aus, nicht nach Metern; geben Sie der Messung ihre Geometrie</translation>
+    </message>
+    <message>
+        <source>its geophones differ in y but not in x; y was taken as the position along the line</source>
+        <translation>die Geophone unterscheiden sich in y, aber nicht in x; y wurde als Position entlang der Messlinie genommen</translation>
+    </message>
+    <message>
+        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
+        <translation>alle Geophone stehen bei x = %1 m; geben Sie der Messung ihre Geometrie</translation>
+    </message>
+    <message>
+        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
+        <translation>die Geophone unterscheiden sich um bis zu %1 m in y, das nicht verwendet wird; Positionen entlang der Messlinie sind x</translation>
+    </message>
+    <message>
+        <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
+        <translation>die Kanalnummern steigen nicht an; die Spuren bleiben in der Reihenfolge der Datei</translation>
+    </message>
+    <message>
+        <source>every trace tells a source position of its own; the file was read as one shot, at the first of them</source>
+        <translation>jede Spur nennt eine eigene Quellposition; die Datei wurde als ein Schuss gelesen, an der ersten davon</translation>
+    </message>
+    <message>
+        <source>it is no SEG-2 file</source>
+        <translation>es ist keine SEG-2-Datei</translation>
+    </message>
+    <message>
+        <source>it holds no trace</source>
+        <translation>sie enthält keine Spur</translation>
+    </message>
+    <message>
+        <source>the samples of its trace %1 have the data format code %2; the codes of SEG-2 are 1 to 5</source>
+        <translation>die Abtastwerte der Spur %1 haben den Datenformatcode %2; die Codes von SEG-2 sind 1 bis 5</translation>
+    </message>
+    <message>
+        <source>none of its traces has a usable SAMPLE_INTERVAL</source>
+        <translation>keine der Spuren hat ein brauchbares SAMPLE_INTERVAL</translation>
+    </message>
+    <message>
+        <source>nothing is read of %1 since no trace block is where the pointer leads</source>
+        <translation>von %1 wird nichts gelesen, da dort, wohin der Zeiger führt, kein Spurblock steht</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no usable SAMPLE_INTERVAL; that of another was taken</source>
+        <translation>der Header von %1 hat kein brauchbares SAMPLE_INTERVAL; das einer anderen Spur wurde genommen</translation>
+    </message>
+    <message>
+        <source>the DESCALING_FACTOR of %1 is no usable number; those samples are as stored</source>
+        <translation>der DESCALING_FACTOR von %1 ist keine brauchbare Zahl; diese Abtastwerte bleiben wie gespeichert</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no DESCALING_FACTOR, as others have; those samples are as stored</source>
+        <translation>der Header von %1 hat keinen DESCALING_FACTOR, wie ihn andere haben; diese Abtastwerte bleiben wie gespeichert</translation>
+    </message>
+    <message>
+        <source>the STACK of %1 is no usable number and was taken as 1</source>
+        <translation>STACK von %1 ist keine brauchbare Zahl und wurde als 1 genommen</translation>
+    </message>
+    <message>
+        <source>the DELAY of %1 is no finite number and was taken as 0</source>
+        <translation>DELAY von %1 ist keine endliche Zahl und wurde als 0 genommen</translation>
+    </message>
+    <message>
+        <source>the SKEW of %1 is up to %2 ms beyond whole samples; that part is not applied</source>
+        <translation>SKEW von %1 geht bis zu %2 ms über ganze Abtastwerte hinaus; dieser Teil wird nicht angewandt</translation>
+    </message>
+    <message>
+        <source>%1 bytes after its traces, zeros or too few for another one, were not read</source>
+        <translation>%1 Bytes nach den Spuren, Nullen oder zu wenige für eine weitere, wurden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>the number of samples in %1 is not the %2 of the header of the file; the trace headers were believed</source>
+        <translation>die Anzahl der Abtastwerte von %1 ist nicht die des Dateiheaders, %2; den Spurheadern wurde geglaubt</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells %2 samples, with which the traces do not fit the size of the file; %3 were taken</source>
+        <translation>der Header von %1 nennt %2 Abtastwerte, womit die Spuren nicht zur Größe der Datei passen; genommen wurden %3</translation>
+    </message>
+    <message>
+        <source>the traces, %1 among them, do not fit the size of the file with the %2 samples that its header tells; %3 were taken</source>
+        <translation>mit den %2 Abtastwerten, die der Dateiheader nennt, passen die Spuren nicht zur Größe der Datei, so bei %1; genommen wurden %3</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells a sample interval of %2 microseconds; the %3 of the header of the file were taken</source>
+        <translation>der Header von %1 nennt ein Abtastintervall von %2 Mikrosekunden; genommen wurden die %3 des Dateiheaders</translation>
+    </message>
+    <message>
+        <source>the sample interval of %1 is not the %2 microseconds of the header of the file; the trace headers were believed</source>
+        <translation>das Abtastintervall von %1 ist nicht das des Dateiheaders, %2 Mikrosekunden; den Spurheadern wurde geglaubt</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the coordinates of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>ein Skalar von %1 für die Koordinaten von %2 ist keiner, den der Standard kennt; sie wurden unverändert genommen</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the elevations of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>ein Skalar von %1 für die Höhen von %2 ist keiner, den der Standard kennt; sie wurden unverändert genommen</translation>
+    </message>
+    <message>
+        <source>the coordinates of %1 are degrees or seconds of arc, no metres; x was taken as it stands, so load a geometry file</source>
+        <translation>die Koordinaten von %1 sind Grad oder Bogensekunden, keine Meter; x wurde unverändert genommen, laden Sie also eine Geometriedatei</translation>
+    </message>
+    <message>
+        <source>its coordinates do not tell the geophones apart; they were placed by their offsets (bytes 37 to 40) from the shot</source>
+        <translation>die Koordinaten unterscheiden die Geophone nicht; sie wurden nach ihren Entfernungen vom Schuss (Bytes 37 bis 40) gesetzt</translation>
+    </message>
+    <message>
+        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
+        <translation>die Header nennen keine Positionen; Schüsse und Geophone stehen alle bei %1 m, laden Sie also eine Geometriedatei</translation>
+    </message>
+    <message>
+        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
+        <translation>nach den Headern stehen die Geophone aller Spuren bei %1 m; laden Sie eine Geometriedatei, wenn es mehr als eines gab</translation>
+    </message>
+    <message>
+        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
+        <translation>Schüsse liegen bis zu %1 m neben der Linie der Geophone; x wird unverändert genommen</translation>
+    </message>
+    <message>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
+        <translation>die Koordinaten liegen nicht entlang x; Entfernungen sind die entlang der Geraden durch die Geophone ab dem ersten Geophon dieser Datei, das bei x %1, y %2 steht; Geophone stehen bis zu %3 m daneben, Schüsse bis zu %4 m</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>nach den Headern stehen die Geophone über %1 km verteilt; wahrscheinlich ist ihr Skalar oder ihre Einheit falsch, prüfen Sie sie also oder laden Sie eine Geometriedatei</translation>
+    </message>
+    <message>
+        <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
+        <translation>die Höhen oder Schusstiefen von %1 liegen jenseits jedes Geländes; die Höhen der Datei wurden als 0 genommen</translation>
+    </message>
+    <message>
+        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>Schüsse liegen bis zu %1 m unter Gelände; ihre Höhen sind die der Schüsse, nicht die des Geländes darüber</translation>
+    </message>
+    <message>
+        <source>the shot depth of %1 is negative and was taken as 0</source>
+        <translation>die Schusstiefe von %1 ist negativ und wurde als 0 genommen</translation>
+    </message>
+    <message>
+        <source>its headers tell the elevations of geophones alone; shots were put at that of the geophone nearest to them</source>
+        <translation>die Header nennen nur Höhen der Geophone; Schüsse wurden auf die des jeweils nächsten Geophons gesetzt</translation>
+    </message>
+    <message>
+        <source>the time scalar of %1 is none that the standard knows; the delay was taken as it stands</source>
+        <translation>der Zeitskalar von %1 ist keiner, den der Standard kennt; die Verzögerung wurde unverändert genommen</translation>
+    </message>
+    <message>
+        <source>all of its traces are marked as dead or auxiliary (bytes 29 and 30); the marks were not believed</source>
+        <translation>alle Spuren sind als tot oder Hilfsspuren gekennzeichnet (Bytes 29 und 30); den Kennzeichen wurde nicht geglaubt</translation>
+    </message>
+    <message>
+        <source>zeros stand for the samples of %1, marked as dead or as dummies (bytes 29 and 30)</source>
+        <translation>für die Abtastwerte von %1 stehen Nullen, da als tot oder Platzhalter gekennzeichnet (Bytes 29 und 30)</translation>
+    </message>
+    <message>
+        <source>the samples of %1 were left out, marked as auxiliary (bytes 29 and 30: time breaks, upholes, sweeps and the like)</source>
+        <translation>die Abtastwerte von %1 wurden ausgelassen, da als Hilfsspuren gekennzeichnet (Bytes 29 und 30: Abrisse, Aufzeiten, Sweeps und dergleichen)</translation>
+    </message>
+    <message>
+        <source>its traces are not in the order of shots, or the headers do not tell which belong together; they were taken as one shot</source>
+        <translation>die Spuren stehen nicht in der Reihenfolge der Schüsse, oder die Header sagen nicht, welche zusammengehören; sie wurden als ein Schuss genommen</translation>
+    </message>
+    <message>
+        <source>its extended textual headers do not end in the file; it was read as if there were none</source>
+        <translation>die erweiterten Textheader enden nicht innerhalb der Datei; sie wurde gelesen, als gäbe es keine</translation>
+    </message>
+    <message>
+        <source>its lengths are in feet (bytes 3255 and 3256) and were taken to metres</source>
+        <translation>die Längen sind in Fuß (Bytes 3255 und 3256) und wurden in Meter umgerechnet</translation>
+    </message>
+    <message>
+        <source>its headers tell no number of samples</source>
+        <translation>die Header nennen keine Anzahl der Abtastwerte</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code 4 (fixed point with gain), which is not read; have the recording software export another one</source>
+        <translation>die Abtastwerte haben den Datenformatcode 4 (Festkomma mit Verstärkung), der nicht gelesen wird; lassen Sie das Aufnahmeprogramm einen anderen exportieren</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code %1, which the standard does not know; the file is damaged or no SEG-Y file</source>
+        <translation>die Abtastwerte haben den Datenformatcode %1, den der Standard nicht kennt; die Datei ist beschädigt oder keine SEG-Y-Datei</translation>
+    </message>
+    <message>
+        <source>the place of the first trace in its header (bytes 3521 to 3528) is not in the file and was not believed</source>
+        <translation>die Stelle der ersten Spur nach dem Header (Bytes 3521 bis 3528) liegt nicht in der Datei, und ihr wurde nicht geglaubt</translation>
+    </message>
+    <message>
+        <source>it is too short for a SEG-Y file with a trace</source>
+        <translation>sie ist zu kurz für eine SEG-Y-Datei mit einer Spur</translation>
+    </message>
+    <message>
+        <source>its bytes are swapped in pairs, which is not read</source>
+        <translation>die Bytes sind paarweise vertauscht, was nicht gelesen wird</translation>
+    </message>
+    <message>
+        <source>field record (bytes 9 to 12)</source>
+        <translation>Feldaufzeichnung (Bytes 9 bis 12)</translation>
+    </message>
+    <message>
+        <source>energy source point (bytes 17 to 20)</source>
+        <translation>Quellpunkt (Bytes 17 bis 20)</translation>
+    </message>
+    <message>
+        <source>position of the source</source>
+        <translation>Position der Quelle</translation>
+    </message>
+    <message>
+        <source>number of the trace in its record (bytes 13 to 16), which starts again</source>
+        <translation>Nummer der Spur in ihrer Aufzeichnung (Bytes 13 bis 16), die neu beginnt</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it is a text file, and no record of shots in %1; open a table of picks or positions as travel times or geometry</source>
+        <translation>es ist eine Textdatei und keine Aufzeichnung von Schüssen in %1; öffnen Sie eine Tabelle von Picks oder Positionen als Laufzeiten oder Geometrie</translation>
+    </message>
+    <message>
+        <source>by its content it is no file of %1</source>
+        <translation>dem Inhalt nach ist es keine Datei dieser Formate: %1</translation>
+    </message>
+    <message>
+        <source>it holds %1 shots, told apart by %2</source>
+        <translation>sie enthält %1 Schüsse, unterschieden nach: %2</translation>
+    </message>
+    <message>
+        <source>it is too short for an SU file with a trace</source>
+        <translation>sie ist zu kurz für eine SU-Datei mit einer Spur</translation>
+    </message>
+    <message>
+        <source>its first trace tells no number of samples</source>
+        <translation>die erste Spur nennt keine Anzahl der Abtastwerte</translation>
+    </message>
+    <message>
+        <source>all %1 traces</source>
+        <translation>allen %1 Spuren</translation>
+    </message>
+    <message>
+        <source>it cannot be read back: %1</source>
+        <translation>die Datei kann nicht zurückgelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>read back, string %1 will have another number of geophones</source>
+        <translation>zurückgelesen wird Auslage %1 eine andere Anzahl von Geophonen haben</translation>
+    </message>
+    <message>
+        <source>the format has no place for the errors of the picks</source>
+        <translation>das Format hat keinen Platz für die Fehler der Picks</translation>
+    </message>
+    <message>
+        <source>it was read as %1; the reader of its suffix cannot read line %2</source>
+        <translation>die Datei wurde als %1 gelesen; nach ihrer Endung lässt sich Zeile %2 nicht lesen</translation>
+    </message>
+    <message>
+        <source>%1; as %2, line %3: %4</source>
+        <translation>%1; als %2, Zeile %3: %4</translation>
+    </message>
+    <message>
+        <source>shot %1: picks left out, as the shot is disabled or their traces are killed: %2</source>
+        <translation>Schuss %1: ausgelassene Picks, da der Schuss deaktiviert ist oder ihre Spuren ausgeschaltet sind: %2</translation>
+    </message>
+    <message>
+        <source>the file tells errors of its picks, which the survey does not keep</source>
+        <translation>die Datei nennt Fehler ihrer Picks, die die Messung nicht aufbewahrt</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 lines</source>
+        <translation>die Datei endet nach %1 von %2 Zeilen</translation>
+    </message>
+    <message>
+        <source>the file holds no measurement</source>
+        <translation>die Datei enthält keinen Messwert</translation>
+    </message>
+    <message>
+        <source>no columns &quot;s&quot;, &quot;g&quot; and &quot;t&quot; are named above the numbers</source>
+        <translation>über den Zahlen werden keine Spalten „s“, „g“ und „t“ genannt</translation>
+    </message>
+    <message>
+        <source>the unit of the column %1 is none of time</source>
+        <translation>die Einheit der Spalte %1 ist keine der Zeit</translation>
+    </message>
+    <message>
+        <source>the line holds %1</source>
+        <translation>die Zeile enthält %1</translation>
+    </message>
+    <message>
+        <source>the %1 %2 is none of the %3 positions</source>
+        <translation>%1 %2 ist keine der %3 Positionen</translation>
+    </message>
+    <message>
+        <source>after the measurements neither the end nor a number of points of topography follows</source>
+        <translation>nach den Messwerten folgt weder das Ende noch eine Anzahl von Geländepunkten</translation>
+    </message>
+    <message>
+        <source>the second of three coordinates was not read</source>
+        <translation>die zweite von drei Koordinaten wurde nicht gelesen</translation>
+    </message>
+    <message>
+        <source>the third coordinate is 0 everywhere; the second one was taken for the elevation</source>
+        <translation>die dritte Koordinate ist überall 0; die zweite wurde als Höhe genommen</translation>
+    </message>
+    <message>
+        <source>the positions have elevations; the topography was not used</source>
+        <translation>die Positionen haben Höhen; die Geländepunkte wurden nicht verwendet</translation>
+    </message>
+    <message>
+        <source>%1 positions are no shot and no geophone of any time; they were left out</source>
+        <translation>%1 Positionen sind weder Schuss noch Geophon einer Zeit; sie wurden weggelassen</translation>
+    </message>
+    <message>
+        <source>%1 times are marked as not valid and are no picks</source>
+        <translation>%1 Zeiten sind als nicht gültig gekennzeichnet und sind keine Picks</translation>
+    </message>
+    <message>
+        <source>%1 times are not above 0 and are no picks</source>
+        <translation>%1 Zeiten liegen nicht über 0 und sind keine Picks</translation>
+    </message>
+    <message>
+        <source>%1 shots have no pick and are not in the file</source>
+        <translation>%1 Schüsse haben keinen Pick und sind nicht in der Datei</translation>
+    </message>
+    <message>
+        <source>%1 geophones have no pick; the file has their positions only</source>
+        <translation>%1 Geophone haben keinen Pick; die Datei enthält nur ihre Positionen</translation>
+    </message>
+    <message>
+        <source>%1 shots lie at the place of another one; the file does not tell their picks apart</source>
+        <translation>%1 Schüsse liegen an der Stelle eines anderen; die Datei hält ihre Picks nicht auseinander</translation>
+    </message>
+    <message>
+        <source>a trace without a sample interval cannot be shifted in time</source>
+        <translation>eine Spur ohne Abtastintervall kann nicht in der Zeit verschoben werden</translation>
+    </message>
+    <message>
+        <source>a shift of %1 ms is longer than the record</source>
+        <translation>eine Verschiebung um %1 ms ist länger als die Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>a shot is stacked with other shots of the survey, each once</source>
+        <translation>ein Schuss wird mit anderen Schüssen der Messung gestapelt, mit jedem einmal</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with it: its traces are of another number, sample interval or kind</source>
+        <translation>Schuss %1 kann nicht mit ihm gestapelt werden: Anzahl, Abtastintervall oder Art seiner Spuren sind andere</translation>
+    </message>
+    <message>
+        <source>shot %1 has no traces to mend</source>
+        <translation>Schuss %1 hat keine Spuren, die korrigiert werden könnten</translation>
+    </message>
+    <message>
+        <source>shot %1 has %2 traces, and mends of %3</source>
+        <translation>Schuss %1 hat %2 Spuren und Korrekturen für %3</translation>
+    </message>
+    <message>
+        <source>a trace cannot be muted before %1 ms</source>
+        <translation>eine Spur kann nicht vor %1 ms stummgeschaltet werden</translation>
+    </message>
+    <message>
+        <source>a record cannot be shifted by %1 ms</source>
+        <translation>eine Aufzeichnung kann nicht um %1 ms verschoben werden</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that have no place any more and are set aside: %2</source>
+        <translation>Schuss %1: Picks, die keinen Platz mehr haben und beiseitegelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that were set aside and are back: %2</source>
+        <translation>Schuss %1: Picks, die beiseitegelegt waren und wieder da sind: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: filtered copies of traces that have changed are forgotten: %2; filter again if you need them</source>
+        <translation>Schuss %1: verworfene gefilterte Kopien von Spuren, die sich geändert haben: %2; filtern Sie erneut, wenn Sie sie brauchen</translation>
+    </message>
+    <message>
+        <source>shot %1: its shift is taken as %2 ms, whole samples</source>
+        <translation>Schuss %1: als Verschiebung werden %2 ms genommen, ganze Abtastwerte</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with shot %2: they have other places, or geophones</source>
+        <translation>Schuss %1 kann nicht mit Schuss %2 gestapelt werden: Stelle oder Geophone sind andere</translation>
+    </message>
+    <message>
+        <source>traces killed: %1</source>
+        <translation>ausgeschaltete Spuren: %1</translation>
+    </message>
+    <message>
+        <source>traces with their polarity reversed: %1</source>
+        <translation>Spuren mit umgekehrter Polarität: %1</translation>
+    </message>
+    <message>
+        <source>traces muted before %1 ms: %2</source>
+        <translation>vor %1 ms stummgeschaltete Spuren: %2</translation>
+    </message>
+    <message>
+        <source>disabled: it has no picks and takes no part in anything</source>
+        <translation>deaktiviert: er hat keine Picks und nimmt an nichts teil</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was late</source>
+        <translation>um %1 ms verschoben: die Aufzeichnung kam zu spät</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was early</source>
+        <translation>um %1 ms verschoben: die Aufzeichnung kam zu früh</translation>
+    </message>
+    <message>
+        <source>order reversed: its channels ran against the geophones</source>
+        <translation>Reihenfolge umgekehrt: die Kanäle liefen gegen die Geophone</translation>
+    </message>
+    <message>
+        <source>stacked with shots: %1</source>
+        <translation>gestapelt mit den Schüssen: %1</translation>
+    </message>
+    <message>
+        <source>Mend recordings</source>
+        <translation>Aufzeichnungen korrigieren</translation>
+    </message>
+    <message>
+        <source>Shot %1 is disabled and takes no picks; Mend recording enables it.</source>
+        <translation>Schuss %1 ist deaktiviert und nimmt keine Picks an; „Aufzeichnung korrigieren“ aktiviert ihn wieder.</translation>
+    </message>
+    <message>
+        <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
+        <translation>Spur %1 ist ausgeschaltet und nimmt keinen Pick an; „Aufzeichnung korrigieren“ holt sie zurück.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -3434,6 +4648,104 @@ Bitte legen Sie die Positionen der Geophone fest
     </message>
 </context>
 <context>
+    <name>talvesk::ReadingPanel</name>
+    <message>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
+        <source>Shots:</source>
+        <translation>Schüsse:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Spuren:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Abtastwerte pro Spur:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Abtastintervall:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Aufzeichnungsverzögerung:</translation>
+    </message>
+    <message>
+        <source>Shot at:</source>
+        <translation>Schuss bei:</translation>
+    </message>
+    <message>
+        <source>Geophones at:</source>
+        <translation>Geophone bei:</translation>
+    </message>
+    <message>
+        <source>Shot in view:</source>
+        <translation>Gezeigter Schuss:</translation>
+    </message>
+    <message>
+        <source>No trace</source>
+        <translation>Keine Spur</translation>
+    </message>
+    <message>
+        <source>No warnings</source>
+        <translation>Keine Warnungen</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>nicht gelesen</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Nothing was read.</source>
+        <translation>Es wurde nichts gelesen.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReadingsDialog</name>
+    <message>
+        <source>The standard reads more</source>
+        <translation>Der Standard liest mehr</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules cannot carry all that these files hold. Read by the standard of their format they give more:</source>
+        <translation>Die Regeln des Programms erfassen nicht alles, was diese Dateien enthalten. Nach dem Standard ihres Formats gelesen, ergeben sie mehr:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>What gets lost by the program&apos;s rules</source>
+        <translation>Was nach den Regeln des Programms verloren geht</translation>
+    </message>
+    <message>
+        <source>By the program&apos;s rules</source>
+        <translation>Nach den Regeln des Programms</translation>
+    </message>
+    <message>
+        <source>By the standard</source>
+        <translation>Nach dem Standard</translation>
+    </message>
+    <message>
+        <source>Use the &amp;standard for these files</source>
+        <translation>Für diese Dateien den &amp;Standard verwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the program&apos;s rules</source>
+        <translation>Regeln des Programms &amp;beibehalten</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -3527,6 +4839,26 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Read by:</source>
+        <translation>Gelesen nach:</translation>
+    </message>
+    <message>
+        <source>Mends:</source>
+        <translation>Korrekturen:</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>den Regeln des Programms</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>dem Standard des Formats</translation>
+    </message>
+    <message>
+        <source>the standard of its format; record %1 of the file, %2</source>
+        <translation>dem Standard des Formats; Aufzeichnung %1 der Datei, %2</translation>
     </message>
 </context>
 <context>
@@ -4191,20 +5523,12 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Es wurde kein Gitter erstellt und nichts invertiert.</translation>
     </message>
     <message>
-        <source>Nothing has been inverted: the grid holds its starting model.</source>
-        <translation>Es wurde nichts invertiert: Das Gitter enthält sein Startmodell.</translation>
-    </message>
-    <message>
         <source>The parameters of the inversion are not known.</source>
         <translation>Die Parameter der Inversion sind nicht bekannt.</translation>
     </message>
     <message>
         <source>Velocity section</source>
         <translation>Geschwindigkeitsschnitt</translation>
-    </message>
-    <message>
-        <source>Velocity of the starting model</source>
-        <translation>Geschwindigkeit des Startmodells</translation>
     </message>
     <message>
         <source>Misfit</source>
@@ -4546,6 +5870,30 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
         <translation>Schüsse: %1; Geophone: %2; Picks: %3 von %4</translation>
     </message>
+    <message>
+        <source>No result of an inversion is known: the grid has the velocities that it was left with.</source>
+        <translation>Es ist kein Ergebnis einer Inversion bekannt: Das Gitter hat die Geschwindigkeiten, mit denen es zurückgelassen wurde.</translation>
+    </message>
+    <message>
+        <source>Velocities of the grid</source>
+        <translation>Geschwindigkeiten des Gitters</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Korrektur</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Korrekturen</translation>
+    </message>
+    <message>
+        <source>The recordings of these shots are put right as listed. All figures and times of this report are of the mended recordings.</source>
+        <translation>Die Aufzeichnungen dieser Schüsse sind wie aufgeführt korrigiert. Alle Abbildungen und Zeiten dieses Berichts beziehen sich auf die korrigierten Aufzeichnungen.</translation>
+    </message>
+    <message>
+        <source>Mends of recordings</source>
+        <translation>Korrekturen der Aufzeichnungen</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -4693,44 +6041,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     </message>
 </context>
 <context>
-    <name>talvesk::SectionSheet</name>
-    <message>
-        <source>Geophones</source>
-        <translation>Geophone</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Schüsse</translation>
-    </message>
-    <message>
-        <source>Contours</source>
-        <translation>Isolinien</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ray(s)</source>
-        <translation>
-            <numerusform>%n Strahl</numerusform>
-            <numerusform>%n Strahlen</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Coverage limit</source>
-        <translation>Grenze der Abdeckung</translation>
-    </message>
-    <message>
-        <source>Distance [m]</source>
-        <translation>Entfernung [m]</translation>
-    </message>
-    <message>
-        <source>Elevation [m]</source>
-        <translation>Höhe [m]</translation>
-    </message>
-    <message>
-        <source>Vertical exaggeration %1×</source>
-        <translation>Überhöhung %1×</translation>
-    </message>
-</context>
-<context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
@@ -4869,6 +6179,25 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source> MB</source>
         <translation> MB</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotFileDialog</name>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>den Regeln des Programms</translation>
+    </message>
+    <message>
+        <source>the standard</source>
+        <translation>dem Standard</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules read shot files as this program always has. The standard reads what their content says, whatever their suffix: other sample formats and byte orders, scaled coordinates, delays, files of several shots.</source>
+        <translation>Die Regeln des Programms lesen Schussdateien wie seit jeher. Der Standard liest, was ihr Inhalt sagt, gleich mit welcher Endung: weitere Abtastformate und Bytereihenfolgen, skalierte Koordinaten, Verzögerungen, Dateien mit mehreren Schüssen.</translation>
+    </message>
+    <message>
+        <source>&amp;Read shot files by:</source>
+        <translation>Schussdateien &amp;lesen nach:</translation>
     </message>
 </context>
 <context>
@@ -6421,6 +7750,146 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
         <translation>Die ältesten Schritte lassen sich nicht mehr rückgängig machen: Sie brauchten mehr als %1 MB.</translation>
     </message>
+    <message>
+        <source>Export recordings...</source>
+        <translation>Aufzeichnungen exportieren...</translation>
+    </message>
+    <message>
+        <source>Write the traces of all shots, with the positions of the survey, as SEG-Y or SEG-2 files</source>
+        <translation>Schreibt die Spuren aller Schüsse mit den Positionen der Messung als SEG-Y- oder SEG-2-Dateien</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Zeiten ab dem Schuss zählen</translation>
+    </message>
+    <message>
+        <source>Drop what was recorded before the shot; picks move with their traces</source>
+        <translation>Verwirft, was vor dem Schuss aufgezeichnet wurde; Picks wandern mit ihren Spuren</translation>
+    </message>
+    <message>
+        <source>Mend recording...</source>
+        <translation>Aufzeichnung korrigieren...</translation>
+    </message>
+    <message>
+        <source>Put right the time, the order or single traces of the shot in view; what was recorded is kept</source>
+        <translation>Korrigiert die Zeit, die Reihenfolge oder einzelne Spuren des gezeigten Schusses; das Aufgezeichnete bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>Take back all mends</source>
+        <translation>Alle Korrekturen zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Show all recordings as they were recorded, with their picks</source>
+        <translation>Zeigt alle Aufzeichnungen, wie sie aufgezeichnet wurden, mit ihren Picks</translation>
+    </message>
+    <message>
+        <source>%1 of them are of disabled shots or killed and left unpicked.</source>
+        <translation>%1 davon gehören zu deaktivierten Schüssen oder sind ausgeschaltet und bleiben ohne Pick.</translation>
+    </message>
+    <message>
+        <source>SEG-Y, a file for each shot</source>
+        <translation>SEG-Y, eine Datei je Schuss</translation>
+    </message>
+    <message>
+        <source>SEG-Y, all shots in one file</source>
+        <translation>SEG-Y, alle Schüsse in einer Datei</translation>
+    </message>
+    <message>
+        <source>SEG-2, a file for each shot</source>
+        <translation>SEG-2, eine Datei je Schuss</translation>
+    </message>
+    <message>
+        <source>Export recordings</source>
+        <translation>Aufzeichnungen exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message>
+        <source>Folder for the recordings</source>
+        <translation>Ordner für die Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey.</source>
+        <translation>%1 ist eine der Schussdateien dieser Messung.</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Writing recordings ...</source>
+        <translation>Aufzeichnungen werden geschrieben ...</translation>
+    </message>
+    <message>
+        <source>The export to %1 was stopped; some files are missing.</source>
+        <translation>Der Export nach %1 wurde angehalten; einige Dateien fehlen.</translation>
+    </message>
+    <message>
+        <source>The recordings have not been exported.</source>
+        <translation>Die Aufzeichnungen wurden nicht exportiert.</translation>
+    </message>
+    <message>
+        <source>Recordings saved in %1</source>
+        <translation>Aufzeichnungen gespeichert in %1</translation>
+    </message>
+    <message>
+        <source>The recordings have been saved.</source>
+        <translation>Die Aufzeichnungen wurden gespeichert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The times of %n trace(s) count from the shot now.</source>
+        <translation>
+            <numerusform>Die Zeiten von %n Spur zählen jetzt ab dem Schuss.</numerusform>
+            <numerusform>Die Zeiten von %n Spuren zählen jetzt ab dem Schuss.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pick(s) lay before it and are removed.</source>
+        <translation>
+            <numerusform>%n Pick lag davor und ist entfernt.</numerusform>
+            <numerusform>%n Picks lagen davor und sind entfernt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The recording of shot %1 has not been mended.</source>
+        <translation>Die Aufzeichnung von Schuss %1 wurde nicht korrigiert.</translation>
+    </message>
+    <message>
+        <source>The mends have not been taken back.</source>
+        <translation>Die Korrekturen wurden nicht zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>%1 (disabled)</source>
+        <comment>shot</comment>
+        <translation>%1 (deaktiviert)</translation>
+    </message>
+    <message>
+        <source>%1 (mended)</source>
+        <comment>shot</comment>
+        <translation>%1 (korrigiert)</translation>
+    </message>
+    <message>
+        <source>disabled or killed</source>
+        <translation>deaktiviert oder ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>Millisekunden</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>%1 does not say in which unit its times are.</source>
+        <translation>%1 sagt nicht, in welcher Einheit die Zeiten sind.</translation>
+    </message>
+    <message>
+        <source>%1 does not hold all of the survey.</source>
+        <translation>%1 enthält nicht die ganze Messung.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -7043,10 +8512,6 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>So kleine Zellen machen eine Inversion sehr langsam, und sie hält nur zwischen Iterationen an. Ein Viertel des Geophonabstands ist %1 m.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Die Ergebnisse der letzten Inversion gehen verloren.</translation>
-    </message>
-    <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
         <translation>Ein Viertel des kleinsten Geophonabstands, mindestens 0,1 m. Nicht angekreuzt: die Zellengröße des vorhandenen Gitters, ohne Gitter die kleinste.</translation>
     </message>
@@ -7065,6 +8530,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Die Ergebnisse der letzten Inversion werden entfernt („Rückgängig“ bringt sie zurück).</translation>
     </message>
 </context>
 <context>
@@ -7347,16 +8816,16 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Die Schichten ergeben kein Geschwindigkeitsmodell.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Die Ergebnisse der letzten Inversion gehen verloren.</translation>
-    </message>
-    <message>
         <source>Do you want to put them into the grid all the same?</source>
         <translation>Möchten Sie sie trotzdem in das Gitter übernehmen?</translation>
     </message>
     <message>
         <source>You have not changed the layers.</source>
         <translation>Sie haben die Schichten nicht geändert.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Die Ergebnisse der letzten Inversion werden entfernt („Rückgängig“ bringt sie zurück).</translation>
     </message>
 </context>
 <context>

@@ -38,6 +38,20 @@
             <numerusform>%n S-wave shots added.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n elevation(s) taken from the table.</source>
+        <translation>
+            <numerusform>%n elevation taken from the table.</numerusform>
+            <numerusform>%n elevations taken from the table.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <translation>
+            <numerusform>%n position lies beyond its ends, %1 to %2 m, and got the elevation there.</numerusform>
+            <numerusform>%n positions lie beyond its ends, %1 to %2 m, and got the elevation there.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTexts</name>
@@ -202,16 +216,6 @@
     </message>
 </context>
 <context>
-    <name>talvesk::SectionSheet</name>
-    <message numerus="yes">
-        <source>%n ray(s)</source>
-        <translation>
-            <numerusform>%n ray</numerusform>
-            <numerusform>%n rays</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>talvesk::TableTexts</name>
     <message numerus="yes">
         <source>and %n more</source>
@@ -284,6 +288,20 @@
         <translation>
             <numerusform>%n picture saved.</numerusform>
             <numerusform>%n pictures saved.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The times of %n trace(s) count from the shot now.</source>
+        <translation>
+            <numerusform>The times of %n trace count from the shot now.</numerusform>
+            <numerusform>The times of %n traces count from the shot now.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pick(s) lay before it and are removed.</source>
+        <translation>
+            <numerusform>%n pick lay before it and is removed.</numerusform>
+            <numerusform>%n picks lay before it and are removed.</numerusform>
         </translation>
     </message>
 </context>

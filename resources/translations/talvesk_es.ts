@@ -498,6 +498,52 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Its numbers were cut at their decimal commas: they need points.</source>
         <translation>Sus números se cortaron en la coma decimal: necesitan puntos.</translation>
     </message>
+    <message>
+        <source>Elevations from table</source>
+        <translation>Cotas de una tabla</translation>
+    </message>
+    <message>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
+        <translation>Da a todos los geófonos y disparos las cotas de una tabla de distancias y cotas</translation>
+    </message>
+    <message>
+        <source>&amp;Straight from point to point ...</source>
+        <translation>&amp;Recta de punto a punto ...</translation>
+    </message>
+    <message>
+        <source>Along a s&amp;mooth curve ...</source>
+        <translation>&amp;Curva suave ...</translation>
+    </message>
+    <message>
+        <source>It was read by the names of its columns.</source>
+        <translation>Se ha leído por los nombres de sus columnas.</translation>
+    </message>
+    <message>
+        <source>Open Elevations</source>
+        <translation>Abrir cotas</translation>
+    </message>
+    <message>
+        <source>Tables of distances and elevations (*.csv *.txt *.dat *.xyz *.tsv);;All Files (*)</source>
+        <translation>Tablas de distancias y cotas (*.csv *.txt *.dat *.xyz *.tsv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The elevations have not been taken.</source>
+        <translation>No se han tomado las cotas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) taken from the table.</source>
+        <translation>
+            <numerusform>%n cota tomada de la tabla.</numerusform>
+            <numerusform>%n cotas tomadas de la tabla.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <translation>
+            <numerusform>%n posición queda más allá de sus extremos, de %1 a %2 m, y ha recibido la cota de allí.</numerusform>
+            <numerusform>%n posiciones quedan más allá de sus extremos, de %1 a %2 m, y han recibido la cota de allí.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -788,6 +834,38 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>smoothed since the inversion</source>
         <translation>suavizada desde la inversión</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>disparo desactivado</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>desplazado %1 ms</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>orden invertido</translation>
+    </message>
+    <message>
+        <source>stacked with %1</source>
+        <comment>shots</comment>
+        <translation>apilado con %1</translation>
+    </message>
+    <message>
+        <source>%1 killed</source>
+        <comment>traces</comment>
+        <translation>anulación de %1</translation>
+    </message>
+    <message>
+        <source>%1 of reversed polarity</source>
+        <comment>traces</comment>
+        <translation>%1 con polaridad invertida</translation>
+    </message>
+    <message>
+        <source>%1 muted</source>
+        <comment>traces</comment>
+        <translation>silenciado de %1</translation>
     </message>
 </context>
 <context>
@@ -1382,12 +1460,92 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Advertencia</translation>
     </message>
     <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>El levantamiento cambia. Se perderán:</translation>
-    </message>
-    <message>
         <source>Do you want to continue?</source>
         <translation>¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be removed (Undo brings it back):</source>
+        <translation>El levantamiento cambia. Se quitará lo siguiente (Deshacer lo recupera):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MendDialog</name>
+    <message>
+        <source>Mend recording</source>
+        <translation>Corregir registro</translation>
+    </message>
+    <message>
+        <source>What was recorded is kept: everything here can be taken back at any time. Picks move with the recording.</source>
+        <translation>Lo registrado se conserva: todo lo que haga aquí se puede revertir en cualquier momento. Los picados se desplazan con el registro.</translation>
+    </message>
+    <message>
+        <source>&amp;The record was late by:</source>
+        <translation>&amp;Retraso del registro:</translation>
+    </message>
+    <message>
+        <source>Positive: the front of the record goes, and picks become earlier. Negative: the record was early. Whole samples are taken.</source>
+        <translation>Positivo: se quita el principio del registro y los picados se adelantan. Negativo: el registro estaba adelantado. Se toman muestras enteras.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Its picks are set aside and come back with it</source>
+        <translation>Sus picados se apartan y vuelven con él</translation>
+    </message>
+    <message>
+        <source>&amp;Disabled: the shot has no picks and takes no part</source>
+        <translation>&amp;Desactivado: el disparo no tiene picados ni participa</translation>
+    </message>
+    <message>
+        <source>The last channel goes to the first geophone, with its pick</source>
+        <translation>El último canal pasa al primer geófono, con su picado</translation>
+    </message>
+    <message>
+        <source>&amp;Order reversed: the channels run against the geophones</source>
+        <translation>&amp;Orden invertido: los canales van contra los geófonos</translation>
+    </message>
+    <message>
+        <source>&amp;Stack with:</source>
+        <translation>&amp;Apilar con:</translation>
+    </message>
+    <message>
+        <source>Shots of the same place and geophones; the mean of their samples is shown and picked</source>
+        <translation>Disparos del mismo punto y los mismos geófonos; se muestra y se pica la media de sus muestras</translation>
+    </message>
+    <message>
+        <source>Disable &amp;the shots that it is stacked with</source>
+        <translation>Desactivar los disparos con los &amp;que se apila</translation>
+    </message>
+    <message>
+        <source>No other shot has the same place, geophones and sample interval.</source>
+        <translation>Ningún otro disparo tiene el mismo punto, los mismos geófonos y el mismo intervalo de muestreo.</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Trazas del disparo</translation>
+    </message>
+    <message>
+        <source>Killed</source>
+        <translation>Anulada</translation>
+    </message>
+    <message>
+        <source>Polarity reversed</source>
+        <translation>Polaridad invertida</translation>
+    </message>
+    <message>
+        <source>Muted before</source>
+        <translation>Silenciada antes de</translation>
+    </message>
+    <message>
+        <source>Mend recording of shot %1</source>
+        <translation>Corregir registro del disparo %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3248,6 +3406,1062 @@ Defina la posición de los geófonos
         <source>Draw picks</source>
         <translation>Trazar picados</translation>
     </message>
+    <message>
+        <source>the survey has no such shot; check the recordings again</source>
+        <translation>el levantamiento no tiene ese disparo; vuelva a revisar los registros</translation>
+    </message>
+    <message>
+        <source>shot %1: a position is missing, no number or absurdly far away</source>
+        <translation>disparo %1: una posición falta, no es un número o queda absurdamente lejos</translation>
+    </message>
+    <message>
+        <source>shot %1: its geophone string has another number of geophones than the proposal; check the recordings again</source>
+        <translation>disparo %1: su tendido tiene distinto número de geófonos que la propuesta; vuelva a revisar los registros</translation>
+    </message>
+    <message>
+        <source>there is no trace %1; check the recordings again</source>
+        <translation>no hay traza %1; vuelva a revisar los registros</translation>
+    </message>
+    <message>
+        <source>no trace of the record holds anything</source>
+        <translation>ninguna traza del registro contiene nada</translation>
+    </message>
+    <message>
+        <source>dead: the samples of %1 are all the same</source>
+        <translation>sin señal: son todas iguales las muestras de %1</translation>
+    </message>
+    <message>
+        <source>as good as dead: %1, at down to %2 % of the strength of the neighbours</source>
+        <translation>casi sin señal: %1, con una intensidad de hasta solo el %2 % de la de las vecinas</translation>
+    </message>
+    <message>
+        <source>clipped: the swings of %1 are cut off flat, up to %2 times; first breaks can be picked, amplitudes mean nothing</source>
+        <translation>saturación: las oscilaciones de %1 están recortadas en plano, hasta %2 veces; las primeras llegadas se pueden picar, las amplitudes carecen de sentido</translation>
+    </message>
+    <message>
+        <source>noisy: before the first arrival of %1 there is up to %2 times the noise of the neighbours, and it drowns the arrival</source>
+        <translation>ruido: antes de la primera llegada de %1 hay hasta %2 veces el ruido de las vecinas, y tapa la llegada</translation>
+    </message>
+    <message>
+        <source>doubled: trace %1 is trace %2 once more (correlation %3); the arrivals around say that it belongs to the latter</source>
+        <translation>duplicada: la traza %1 es de nuevo la traza %2 (correlación %3); las llegadas vecinas indican que corresponde a esta última</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>traces %1</source>
+        <translation>las trazas %1</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>disparos %1</translation>
+    </message>
+    <message>
+        <source>shot position</source>
+        <translation>posición del disparo</translation>
+    </message>
+    <message>
+        <source>station numbers</source>
+        <translation>números de estación</translation>
+    </message>
+    <message>
+        <source>repeated positions</source>
+        <translation>posiciones repetidas</translation>
+    </message>
+    <message>
+        <source>reversed order</source>
+        <translation>orden invertido</translation>
+    </message>
+    <message>
+        <source>doubled trace</source>
+        <translation>traza duplicada</translation>
+    </message>
+    <message>
+        <source>moved traces</source>
+        <translation>trazas cambiadas de sitio</translation>
+    </message>
+    <message>
+        <source>geophone off the line</source>
+        <translation>geófono fuera de la línea</translation>
+    </message>
+    <message>
+        <source>trigger time</source>
+        <translation>tiempo de disparo</translation>
+    </message>
+    <message>
+        <source>dead traces</source>
+        <translation>trazas muertas</translation>
+    </message>
+    <message>
+        <source>clipped traces</source>
+        <translation>trazas saturadas</translation>
+    </message>
+    <message>
+        <source>noisy traces</source>
+        <translation>trazas ruidosas</translation>
+    </message>
+    <message>
+        <source>reversed polarity</source>
+        <translation>polaridad invertida</translation>
+    </message>
+    <message>
+        <source>mistimed trace</source>
+        <translation>traza desfasada</translation>
+    </message>
+    <message>
+        <source>sample intervals</source>
+        <translation>intervalos de muestreo</translation>
+    </message>
+    <message>
+        <source>repeated shot</source>
+        <translation>disparo repetido</translation>
+    </message>
+    <message>
+        <source>overlapping spreads</source>
+        <translation>tendidos solapados</translation>
+    </message>
+    <message>
+        <source>no elevations</source>
+        <translation>sin cotas</translation>
+    </message>
+    <message>
+        <source>move the record later by %1 ms</source>
+        <translation>retrasar el registro %1 ms</translation>
+    </message>
+    <message>
+        <source>move the record earlier by %1 ms</source>
+        <translation>adelantar el registro %1 ms</translation>
+    </message>
+    <message>
+        <source>kill %1</source>
+        <translation>anular %1</translation>
+    </message>
+    <message>
+        <source>reverse the polarity of %1</source>
+        <translation>invertir la polaridad de %1</translation>
+    </message>
+    <message>
+        <source>mute %1 before %2 ms</source>
+        <translation>silenciar %1 antes de %2 ms</translation>
+    </message>
+    <message>
+        <source>read the channels from the last to the first</source>
+        <translation>leer los canales del último al primero</translation>
+    </message>
+    <message>
+        <source>put the shot at %1 m</source>
+        <translation>situar el disparo en %1 m</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3 m</source>
+        <translation>situar los %1 geófonos de su tendido de %2 a %3 m</translation>
+    </message>
+    <message>
+        <source>stack it with %1; the stack alone counts then</source>
+        <translation>apilarlo con otros (%1); después solo cuenta el apilado</translation>
+    </message>
+    <message>
+        <source>disable the shot</source>
+        <translation>desactivar el disparo</translation>
+    </message>
+    <message>
+        <source>exchanged: over all shots the arrivals of trace %1 belong to the place of trace %2, and the other way round</source>
+        <translation>intercambiadas: en todos los disparos las llegadas de la traza %1 corresponden al lugar de la traza %2, y viceversa</translation>
+    </message>
+    <message>
+        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
+        <translation>fuera de la línea: el geófono %1 figura en %2 m; desde ambos lados sus llegadas son las de %3 m</translation>
+    </message>
+    <message>
+        <source>%1 geophones are said to be at %2 places only</source>
+        <translation>%1 geófonos figuran en solo %2 lugares</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
+        <translation>%1; en %2 disparos los tiempos mínimos se desplazan %3 canales por cada metro del disparo, así que el geófono 1 está en %4 m y el último en %5 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>el disparo figura en %1 m; el nombre del archivo dice %2 m, y los tiempos mínimos del levantamiento siguen los nombres</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
+        <translation>el disparo figura a una cota de %1 m, y los geófonos no tienen ninguna que pueda ser la suya</translation>
+    </message>
+    <message>
+        <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
+        <translation>los canales van contra los geófonos: los tiempos mínimos de %1 de %2 disparos quedan junto al disparo solo si el tendido se lee del último geófono al primero</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>todos los disparos figuran en %1 m; el nombre del archivo dice %2 m, y los tiempos mínimos del levantamiento siguen los nombres</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
+        <translation>todos los disparos figuran en %1 m; los tiempos de este son mínimos en %2 m</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
+        <translation>todos los disparos figuran en %1 m; este estaba en un extremo de los geófonos o más allá</translation>
+    </message>
+    <message>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
+        <translation>los canales de este registro van contra los geófonos: leídos del último al primero, los tiempos son mínimos junto al disparo, en %1 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>el disparo figura en %1 m, pero los tiempos crecen desde %2 m a lo largo de todos los geófonos: estaba en ese extremo o más allá</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
+        <translation>el disparo figura en %1 m, pero los tiempos son mínimos en %2 m, junto al geófono %3, y crecen a ambos lados de él</translation>
+    </message>
+    <message>
+        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
+        <translation>%1; o bien los geófonos están separados %2 m y no %3 m, lo que ningún otro disparo puede decidir</translation>
+    </message>
+    <message>
+        <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
+        <translation>desfasada: la traza %1 tiene su primera llegada en %2 ms, sus vecinas la hacen esperar en %3 ms, y a partir de ahí se parece a ellas (correlación %4)</translation>
+    </message>
+    <message>
+        <source>reversed: the first swings of %1 go against those of the neighbours, which agree with each other (correlation -%2 at least)</source>
+        <translation>polaridad invertida: las primeras oscilaciones de %1 van contra las de las vecinas, que concuerdan entre sí (correlación -%2 como mínimo)</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
+        <translation>el disparo %1 se registró en el mismo punto, en %2 m, con una relación señal/ruido %3 veces la de este</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
+        <translation>el disparo %1 se registró en el mismo punto, en %2 m; sus llegadas son %3 ms posteriores</translation>
+    </message>
+    <message>
+        <source>the record is that of shot %1 once more, sample for sample</source>
+        <translation>el registro es de nuevo el del disparo %1, muestra a muestra</translation>
+    </message>
+    <message>
+        <source>the sample intervals of its traces differ, %1 to %2 ms: the times of some are wrong unless the recorder meant it</source>
+        <translation>los intervalos de muestreo de sus trazas difieren, de %1 a %2 ms: los tiempos de algunas son erróneos, salvo que el sismógrafo se configurara así</translation>
+    </message>
+    <message>
+        <source>its traces have no sample interval: they have no times</source>
+        <translation>sus trazas no tienen intervalo de muestreo: no tienen tiempos</translation>
+    </message>
+    <message>
+        <source>the sample interval is %2 ms in %1, and %3 ms in most others: right if the recorder was set so</source>
+        <translation>%1: el intervalo de muestreo es de %2 ms, y de %3 ms en la mayoría de los demás; es correcto si el sismógrafo se configuró así</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>no hay ningún geófono entre %1 y %2 m: el terreno de ahí no se ve desde ningún lado, salvo que haya disparos que lo rebasen</translation>
+    </message>
+    <message>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
+        <translation>los tendidos %1 y %2 se solapan y sus cotas difieren en %3 lugares, hasta %4 m en %5 m</translation>
+    </message>
+    <message>
+        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>sin cotas: todos los disparos y geófonos están a %1 m; si el terreno no es llano, léalas de una tabla en la geometría del levantamiento</translation>
+    </message>
+    <message>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
+        <translation>la posición del disparo, %1, cuenta estaciones: en %2 disparos los tiempos mínimos se desplazan %3 m por cada 1 de la posición</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
+        <translation>las posiciones de los geófonos no son metros: en %1 disparos los tiempos mínimos se desplazan %2 por cada metro del disparo; con geófonos cada %3 m a partir de %4 m quedan junto a los disparos</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation>retrasado</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation>adelantado</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: %3 times to the places of other shots differ by that from the times back, give or take %4 ms</source>
+        <translation>el registro está %2 en %1 ms: %3 tiempos hasta los puntos de otros disparos difieren en eso de los tiempos de vuelta, con un margen de %4 ms</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: its times differ by that from those of %3 other shots at equal distances, give or take %4 ms</source>
+        <translation>el registro está %2 en unos %1 ms: sus tiempos difieren en eso de los de otros %3 disparos a iguales distancias, con un margen de %4 ms</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
+        <translation>el registro está %2 en %1 ms: todos los canales tienen a la vez un pico en %3 ms, antes de que pudiera llegar nada</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>el registro está %2 en unos %1 ms: los geófonos más próximos al disparo, a %3 m, situarían el golpe entre %4 y %5 ms, sea cual sea el terreno</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it has %1 columns and no heading that names one for the distance and one for the elevation</source>
+        <translation>tiene %1 columnas y ningún encabezado que nombre una para la distancia y otra para la cota</translation>
+    </message>
+    <message>
+        <source>it holds no point</source>
+        <translation>no contiene ningún punto</translation>
+    </message>
+    <message>
+        <source>Unified data format (%1)</source>
+        <translation>Formato de datos unificado (%1)</translation>
+    </message>
+    <message>
+        <source>no heading names shot, geophone and time</source>
+        <translation>ningún encabezado nombra disparo, geófono y tiempo</translation>
+    </message>
+    <message>
+        <source>%1 lines above the heading were ignored</source>
+        <translation>se han pasado por alto %1 líneas anteriores al encabezado</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 were taken for positions in metres</source>
+        <translation>las columnas %1 y %2 se han tomado por posiciones en metros</translation>
+    </message>
+    <message>
+        <source>the heading does not say whether its times are in ms or in s</source>
+        <translation>el encabezado no dice si los tiempos están en ms o en s</translation>
+    </message>
+    <message>
+        <source>no row follows the heading</source>
+        <translation>ninguna fila sigue al encabezado</translation>
+    </message>
+    <message>
+        <source>there are more than %1 geophones</source>
+        <translation>hay más de %1 geófonos</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows have no time above 0, or are not valid, and are no picks</source>
+        <translation>%1 de %2 filas no tienen un tiempo mayor que 0, o no son válidas, y no son picados</translation>
+    </message>
+    <message>
+        <source>%1 shots and %2 geophones are far too many for %3 rows</source>
+        <translation>%1 disparos y %2 geófonos son muchos más de los posibles para %3 filas</translation>
+    </message>
+    <message>
+        <source>no column tells the elevations of the shots; they were put on the line of the geophones</source>
+        <translation>ninguna columna indica las cotas de los disparos; se han puesto en la línea de los geófonos</translation>
+    </message>
+    <message>
+        <source>no heading names a column for the distance and one for the elevation</source>
+        <translation>ningún encabezado nombra una columna para la distancia y otra para la cota</translation>
+    </message>
+    <message>
+        <source>the unified data format</source>
+        <translation>formato de datos unificado</translation>
+    </message>
+    <message>
+        <source>a table with a heading</source>
+        <translation>tabla con encabezado</translation>
+    </message>
+    <message>
+        <source>a pick table of long lines</source>
+        <translation>tabla de picados de líneas largas</translation>
+    </message>
+    <message>
+        <source>%1 times are of a shot and geophone that had one already; the first of them counts</source>
+        <translation>%1 tiempos son de un disparo y un geófono que ya tenían uno; cuenta el primero de ellos</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>posición</translation>
+    </message>
+    <message>
+        <source>number of positions</source>
+        <translation>número de posiciones</translation>
+    </message>
+    <message>
+        <source>number of measurements</source>
+        <translation>número de mediciones</translation>
+    </message>
+    <message>
+        <source>number of points of topography</source>
+        <translation>número de puntos de topografía</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>columna %1</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is not a number</source>
+        <translation>%1: %2 no es un número</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is out of range</source>
+        <translation>%1: %2 está fuera de rango</translation>
+    </message>
+    <message>
+        <source>all shot files count as read by the program&apos;s rules; the traces are those that were saved</source>
+        <translation>se considera que todos los archivos de disparos se leyeron según las reglas del programa; las trazas son las que se guardaron</translation>
+    </message>
+    <message>
+        <source>what was mended in its recordings is not known; traces and picks stay as they are</source>
+        <translation>no se sabe qué se corrigió en sus registros; las trazas y los picados quedan como están</translation>
+    </message>
+    <message>
+        <source>there is a grid, but a position lies more than 100 000 km away</source>
+        <translation>hay una malla, pero una posición queda a más de 100 000 km</translation>
+    </message>
+    <message>
+        <source>mends.xml: the mends of these shots are not those of their traces, and are left out; traces and picks stay as they are: %1</source>
+        <translation>mends.xml: las correcciones de estos disparos no son las de sus trazas y se omiten; las trazas y los picados quedan como están: %1</translation>
+    </message>
+    <message>
+        <source>it is about other shot files than those of the project</source>
+        <translation>se refiere a archivos de disparos distintos de los del proyecto</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m</source>
+        <translation>de %1 a %2 m</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules find no trace in it</source>
+        <translation>las reglas del programa no encuentran ninguna traza en él</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces of %3 shots</source>
+        <translation>las reglas del programa leen %1 de sus %2 trazas de %3 disparos</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces</source>
+        <translation>las reglas del programa leen %1 de sus %2 trazas</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules make one shot of its %1</source>
+        <translation>las reglas del programa hacen un solo disparo de sus %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are all zeros by the program&apos;s rules</source>
+        <translation>%1 de %2 trazas son todo ceros según las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the samples of %1 of %2 traces are not those of the standard, and not for their scale alone</source>
+        <translation>las muestras de %1 de %2 trazas no son las del estándar, y no solo por su escala</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are shorter by the program&apos;s rules</source>
+        <translation>%1 de %2 trazas son más cortas según las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the sample interval is %1 ms by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>el intervalo de muestreo es de %1 ms según las reglas del programa y de %2 ms según el estándar</translation>
+    </message>
+    <message>
+        <source>its records start %1 ms from the shot by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>sus registros empiezan a %1 ms del disparo según las reglas del programa y a %2 ms según el estándar</translation>
+    </message>
+    <message>
+        <source>its geophones are at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>posición de sus geófonos: %1 según las reglas del programa, %2 según el estándar</translation>
+    </message>
+    <message>
+        <source>its shot is at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>posición de su disparo: %1 según las reglas del programa, %2 según el estándar</translation>
+    </message>
+    <message>
+        <source>the elevations of %1 of %2 traces are others by the program&apos;s rules</source>
+        <translation>las cotas de %1 de %2 trazas son otras según las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules cannot read it</source>
+        <translation>las reglas del programa no lo pueden leer</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>the traces of shot %1 differ in sample interval or in the time of their first sample; they cannot be in one record</source>
+        <translation>las trazas del disparo %1 difieren en el intervalo de muestreo o en el tiempo de su primera muestra; no pueden ir en un mismo registro</translation>
+    </message>
+    <message>
+        <source>it has no sample interval</source>
+        <translation>no tiene intervalo de muestreo</translation>
+    </message>
+    <message>
+        <source>its traces have %1 samples; a file holds %2</source>
+        <translation>sus trazas tienen %1 muestras; en un archivo caben %2</translation>
+    </message>
+    <message>
+        <source>it has %1 traces; a SEG-2 file holds %2</source>
+        <translation>tiene %1 trazas; en un archivo SEG-2 caben %2</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>disparo %1: %2</translation>
+    </message>
+    <message>
+        <source>read by the program&apos;s rules, the files have no elevations, and no positions that are not whole metres; read them by the standard</source>
+        <translation>leídos según las reglas del programa, los archivos no tienen cotas ni posiciones que no sean metros enteros; léalos según el estándar</translation>
+    </message>
+    <message>
+        <source>%1 shots are disabled or have no samples and were left out</source>
+        <translation>%1 disparos están desactivados o no tienen muestras y se han omitido</translation>
+    </message>
+    <message>
+        <source>%1 traces begin at the shot; what was recorded before is not in the files</source>
+        <translation>%1 trazas empiezan en el disparo; lo registrado antes no está en los archivos</translation>
+    </message>
+    <message>
+        <source>%1 samples were rounded to the seven digits of a 32-bit float</source>
+        <translation>%1 muestras se han redondeado a las siete cifras de un número de coma flotante de 32 bits</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>se ha detenido</translation>
+    </message>
+    <message>
+        <source>shot %1 has no samples</source>
+        <translation>el disparo %1 no tiene muestras</translation>
+    </message>
+    <message>
+        <source>shot %1, trace %2: a sample is too large for a file</source>
+        <translation>disparo %1, traza %2: una muestra es demasiado grande para un archivo</translation>
+    </message>
+    <message>
+        <source>the survey has no records to be written</source>
+        <translation>el levantamiento no tiene registros que escribir</translation>
+    </message>
+    <message>
+        <source>its sample interval of %1 ms is no whole number of microseconds up to 65535, which is all that SEG-Y can hold; write SEG-2</source>
+        <translation>su intervalo de muestreo de %1 ms no es un número entero de microsegundos hasta 65535, que es todo lo que admite SEG-Y; escriba SEG-2</translation>
+    </message>
+    <message>
+        <source>it begins %1 ms after the shot, which SEG-Y cannot hold; write SEG-2</source>
+        <translation>empieza %1 ms después del disparo, lo que SEG-Y no admite; escriba SEG-2</translation>
+    </message>
+    <message>
+        <source>it is miniSEED of version 3; version 2 is read</source>
+        <translation>es miniSEED versión 3; se lee la versión 2</translation>
+    </message>
+    <message>
+        <source>it is no miniSEED file</source>
+        <translation>no es un archivo miniSEED</translation>
+    </message>
+    <message>
+        <source>its records have no blockette 1000, which tells their encoding</source>
+        <translation>sus registros no tienen blockette 1000, que indica su codificación</translation>
+    </message>
+    <message>
+        <source>its samples have the encoding %1; 1, 3, 4, 5, 10 and 11 are read</source>
+        <translation>sus muestras tienen la codificación %1; se leen 1, 3, 4, 5, 10 y 11</translation>
+    </message>
+    <message>
+        <source>none of its records has samples of a series</source>
+        <translation>ninguno de sus registros tiene muestras de una serie</translation>
+    </message>
+    <message>
+        <source>miniSEED tells neither positions nor the time of the shot: all positions are 0 and times count from the first sample; give the survey its geometry</source>
+        <translation>miniSEED no indica ni posiciones ni el tiempo del disparo: todas las posiciones son 0 y los tiempos se cuentan desde la primera muestra; dé su geometría al levantamiento</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others; zeros stand in front</source>
+        <translation>el registro de %1 empieza después que otros; se han puesto ceros delante</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others, by longer than it lasts; that is not applied and its times do not compare</source>
+        <translation>el registro de %1 empieza después que otros, con un retraso mayor que su duración; ese retraso no se aplica y sus tiempos no son comparables</translation>
+    </message>
+    <message>
+        <source>zeros stand for gaps in the record of %1</source>
+        <translation>se han puesto ceros en los huecos del registro de %1</translation>
+    </message>
+    <message>
+        <source>records of %1 overlap; the later ones count</source>
+        <translation>se solapan registros de %1; cuentan los posteriores</translation>
+    </message>
+    <message>
+        <source>records left out after a gap that is longer than what was recorded: %1</source>
+        <translation>registros omitidos tras un hueco más largo que lo registrado: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose sample rate is not that of the first of their channel: %1</source>
+        <translation>registros omitidos cuya frecuencia de muestreo no es la del primero de su canal: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose encoding, such as %1, is not read: %2</source>
+        <translation>registros omitidos cuya codificación, como %1, no se lee: %2</translation>
+    </message>
+    <message>
+        <source>records left out that have no samples of a series: %1</source>
+        <translation>registros omitidos que no tienen muestras de una serie: %1</translation>
+    </message>
+    <message>
+        <source>records left out that have no blockette 1000: %1</source>
+        <translation>registros omitidos que no tienen blockette 1000: %1</translation>
+    </message>
+    <message>
+        <source>bytes left out that are of no record: %1</source>
+        <translation>bytes omitidos que no son de ningún registro: %1</translation>
+    </message>
+    <message>
+        <source>samples that headers promise and records do not hold: %1</source>
+        <translation>muestras que anuncian las cabeceras y que los registros no contienen: %1</translation>
+    </message>
+    <message>
+        <source>damaged records, which do not end at the sample that they tell: %1</source>
+        <translation>registros dañados, que no terminan en la muestra que indican: %1</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins after the shot, by up to %2 ms; zeros stand in front, in whole samples</source>
+        <translation>el registro empieza después del disparo, hasta %2 ms, en %1; se han puesto ceros delante, en muestras enteras</translation>
+    </message>
+    <message>
+        <source>the header of %1 says that the record begins up to %2 ms after the shot, longer than it lasts; that delay is not applied</source>
+        <translation>el registro empieza hasta %2 ms después del disparo, más de lo que dura, según la cabecera de %1; ese retardo no se aplica</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells no %2; 0 stands for it</source>
+        <translation>no hay %2 en la cabecera de %1; se ha tomado como 0</translation>
+    </message>
+    <message>
+        <source>the UNITS of its header, %1, are not known; its positions were taken as metres</source>
+        <translation>las UNITS de su cabecera, %1, no se conocen; sus posiciones se han tomado como metros</translation>
+    </message>
+    <message>
+        <source>its positions are in %1 and were converted to metres, %2 m each</source>
+        <translation>sus posiciones están en %1 y se han convertido a metros, %2 m por unidad</translation>
+    </message>
+    <message>
+        <source>its receiver positions look like longitude and latitude in degrees, not like metres; give the survey its geometry</source>
+        <translation>las posiciones de sus receptores parecen longitud y latitud en grados, no metros; dé su geometría al levantamiento</translation>
+    </message>
+    <message>
+        <source>its geophones differ in y but not in x; y was taken as the position along the line</source>
+        <translation>sus geófonos difieren en y pero no en x; se ha tomado y como posición a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
+        <translation>todos sus geófonos están en x = %1 m; dé su geometría al levantamiento</translation>
+    </message>
+    <message>
+        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
+        <translation>sus geófonos difieren hasta %1 m en y, que no se usa; las posiciones a lo largo de la línea son x</translation>
+    </message>
+    <message>
+        <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
+        <translation>sus números de canal no son ascendentes; las trazas conservan el orden del archivo</translation>
+    </message>
+    <message>
+        <source>every trace tells a source position of its own; the file was read as one shot, at the first of them</source>
+        <translation>cada traza indica una posición de la fuente distinta; el archivo se ha leído como un solo disparo, en la primera de ellas</translation>
+    </message>
+    <message>
+        <source>it is no SEG-2 file</source>
+        <translation>no es un archivo SEG-2</translation>
+    </message>
+    <message>
+        <source>it holds no trace</source>
+        <translation>no contiene ninguna traza</translation>
+    </message>
+    <message>
+        <source>the samples of its trace %1 have the data format code %2; the codes of SEG-2 are 1 to 5</source>
+        <translation>las muestras de su traza %1 tienen el código de formato de datos %2; los códigos de SEG-2 son de 1 a 5</translation>
+    </message>
+    <message>
+        <source>none of its traces has a usable SAMPLE_INTERVAL</source>
+        <translation>ninguna de sus trazas tiene un SAMPLE_INTERVAL utilizable</translation>
+    </message>
+    <message>
+        <source>nothing is read of %1 since no trace block is where the pointer leads</source>
+        <translation>no hay ningún bloque de traza donde lleva el puntero de %1; no se ha leído nada de ahí</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no usable SAMPLE_INTERVAL; that of another was taken</source>
+        <translation>no hay un SAMPLE_INTERVAL utilizable en la cabecera de %1; se ha tomado el de otra</translation>
+    </message>
+    <message>
+        <source>the DESCALING_FACTOR of %1 is no usable number; those samples are as stored</source>
+        <translation>DESCALING_FACTOR de %1: no es un número utilizable; esas muestras quedan como están almacenadas</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no DESCALING_FACTOR, as others have; those samples are as stored</source>
+        <translation>no hay DESCALING_FACTOR, que otras tienen, en la cabecera de %1; esas muestras quedan como están almacenadas</translation>
+    </message>
+    <message>
+        <source>the STACK of %1 is no usable number and was taken as 1</source>
+        <translation>STACK de %1: no es un número utilizable y se ha tomado como 1</translation>
+    </message>
+    <message>
+        <source>the DELAY of %1 is no finite number and was taken as 0</source>
+        <translation>DELAY de %1: no es un número finito y se ha tomado como 0</translation>
+    </message>
+    <message>
+        <source>the SKEW of %1 is up to %2 ms beyond whole samples; that part is not applied</source>
+        <translation>SKEW de %1: excede hasta %2 ms de muestras enteras; esa parte no se aplica</translation>
+    </message>
+    <message>
+        <source>%1 bytes after its traces, zeros or too few for another one, were not read</source>
+        <translation>no se han leído %1 bytes posteriores a sus trazas, que son ceros o demasiado pocos para otra traza</translation>
+    </message>
+    <message>
+        <source>the number of samples in %1 is not the %2 of the header of the file; the trace headers were believed</source>
+        <translation>el número de muestras no es el de la cabecera del archivo, %2, en %1; se ha dado crédito a las cabeceras de traza</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells %2 samples, with which the traces do not fit the size of the file; %3 were taken</source>
+        <translation>se indican %2 muestras, con las que las trazas no concuerdan con el tamaño del archivo, en la cabecera de %1; se han tomado %3</translation>
+    </message>
+    <message>
+        <source>the traces, %1 among them, do not fit the size of the file with the %2 samples that its header tells; %3 were taken</source>
+        <translation>las trazas (entre ellas %1) no concuerdan con el tamaño del archivo con las %2 muestras que indica su cabecera; se han tomado %3</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells a sample interval of %2 microseconds; the %3 of the header of the file were taken</source>
+        <translation>se indica un intervalo de muestreo de %2 microsegundos en la cabecera de %1; se han tomado los %3 de la cabecera del archivo</translation>
+    </message>
+    <message>
+        <source>the sample interval of %1 is not the %2 microseconds of the header of the file; the trace headers were believed</source>
+        <translation>el intervalo de muestreo no es el de la cabecera del archivo, %2 microsegundos, en %1; se ha dado crédito a las cabeceras de traza</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the coordinates of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>el estándar no conoce el factor de escala %1 de las coordenadas de %2; se han tomado tal cual</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the elevations of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>el estándar no conoce el factor de escala %1 de las cotas de %2; se han tomado tal cual</translation>
+    </message>
+    <message>
+        <source>the coordinates of %1 are degrees or seconds of arc, no metres; x was taken as it stands, so load a geometry file</source>
+        <translation>son grados o segundos de arco, no metros, las coordenadas de %1; x se ha tomado tal cual, así que cargue un archivo de geometría</translation>
+    </message>
+    <message>
+        <source>its coordinates do not tell the geophones apart; they were placed by their offsets (bytes 37 to 40) from the shot</source>
+        <translation>sus coordenadas no distinguen los geófonos; se han situado por sus distancias al disparo (bytes 37 a 40)</translation>
+    </message>
+    <message>
+        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
+        <translation>sus cabeceras no indican posiciones; todos los disparos y geófonos están en %1 m, así que cargue un archivo de geometría</translation>
+    </message>
+    <message>
+        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
+        <translation>sus cabeceras sitúan los geófonos de todas las trazas en %1 m; cargue un archivo de geometría si había más de uno</translation>
+    </message>
+    <message>
+        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
+        <translation>hay disparos hasta a %1 m a un lado de la línea de geófonos; x se toma tal cual</translation>
+    </message>
+    <message>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
+        <translation>sus coordenadas no siguen x; las distancias son las medidas a lo largo de la recta que pasa por los geófonos, desde el primer geófono de este archivo, que está en x %1, y %2; los geófonos quedan hasta a %3 m de ella y los disparos hasta a %4 m</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>según sus cabeceras los geófonos se extienden a lo largo de %1 km; es probable que su factor de escala o su unidad sean erróneos, así que compruébelos o cargue un archivo de geometría</translation>
+    </message>
+    <message>
+        <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
+        <translation>no pueden corresponder a ningún terreno las cotas o profundidades de disparo de %1; las cotas del archivo se han tomado como 0</translation>
+    </message>
+    <message>
+        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>hay disparos hasta a %1 m bajo el terreno; sus cotas son las de los disparos, no las del terreno sobre ellos</translation>
+    </message>
+    <message>
+        <source>the shot depth of %1 is negative and was taken as 0</source>
+        <translation>es negativa la profundidad de disparo de %1; se ha tomado como 0</translation>
+    </message>
+    <message>
+        <source>its headers tell the elevations of geophones alone; shots were put at that of the geophone nearest to them</source>
+        <translation>sus cabeceras solo indican las cotas de los geófonos; los disparos se han puesto a la del geófono más próximo</translation>
+    </message>
+    <message>
+        <source>the time scalar of %1 is none that the standard knows; the delay was taken as it stands</source>
+        <translation>el estándar no conoce el factor de escala de tiempos de %1; el retardo se ha tomado tal cual</translation>
+    </message>
+    <message>
+        <source>all of its traces are marked as dead or auxiliary (bytes 29 and 30); the marks were not believed</source>
+        <translation>todas sus trazas están marcadas como muertas o auxiliares (bytes 29 y 30); no se ha dado crédito a las marcas</translation>
+    </message>
+    <message>
+        <source>zeros stand for the samples of %1, marked as dead or as dummies (bytes 29 and 30)</source>
+        <translation>se han puesto ceros en lugar de muestras con la marca de traza muerta o ficticia (bytes 29 y 30), las de %1</translation>
+    </message>
+    <message>
+        <source>the samples of %1 were left out, marked as auxiliary (bytes 29 and 30: time breaks, upholes, sweeps and the like)</source>
+        <translation>se han omitido muestras con la marca de traza auxiliar (bytes 29 y 30: instante del disparo, tiempos de pozo, barridos y similares), las de %1</translation>
+    </message>
+    <message>
+        <source>its traces are not in the order of shots, or the headers do not tell which belong together; they were taken as one shot</source>
+        <translation>sus trazas no están en el orden de los disparos, o las cabeceras no indican cuáles van juntas; se han tomado como un solo disparo</translation>
+    </message>
+    <message>
+        <source>its extended textual headers do not end in the file; it was read as if there were none</source>
+        <translation>sus cabeceras textuales extendidas no terminan dentro del archivo; se ha leído como si no las hubiera</translation>
+    </message>
+    <message>
+        <source>its lengths are in feet (bytes 3255 and 3256) and were taken to metres</source>
+        <translation>sus longitudes están en pies (bytes 3255 y 3256) y se han convertido a metros</translation>
+    </message>
+    <message>
+        <source>its headers tell no number of samples</source>
+        <translation>sus cabeceras no indican el número de muestras</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code 4 (fixed point with gain), which is not read; have the recording software export another one</source>
+        <translation>sus muestras tienen el código de formato de datos 4 (coma fija con ganancia), que no se lee; haga que el programa del sismógrafo exporte otro</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code %1, which the standard does not know; the file is damaged or no SEG-Y file</source>
+        <translation>sus muestras tienen el código de formato de datos %1, que el estándar no conoce; el archivo está dañado o no es un archivo SEG-Y</translation>
+    </message>
+    <message>
+        <source>the place of the first trace in its header (bytes 3521 to 3528) is not in the file and was not believed</source>
+        <translation>el lugar de la primera traza que indica su cabecera (bytes 3521 a 3528) no está en el archivo y no se le ha dado crédito</translation>
+    </message>
+    <message>
+        <source>it is too short for a SEG-Y file with a trace</source>
+        <translation>es demasiado corto para un archivo SEG-Y con una traza</translation>
+    </message>
+    <message>
+        <source>its bytes are swapped in pairs, which is not read</source>
+        <translation>sus bytes están intercambiados por pares, lo que no se lee</translation>
+    </message>
+    <message>
+        <source>field record (bytes 9 to 12)</source>
+        <translation>el registro de campo (bytes 9 a 12)</translation>
+    </message>
+    <message>
+        <source>energy source point (bytes 17 to 20)</source>
+        <translation>el punto de la fuente de energía (bytes 17 a 20)</translation>
+    </message>
+    <message>
+        <source>position of the source</source>
+        <translation>la posición de la fuente</translation>
+    </message>
+    <message>
+        <source>number of the trace in its record (bytes 13 to 16), which starts again</source>
+        <translation>el número de la traza en su registro (bytes 13 a 16), que vuelve a empezar</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>el archivo está vacío</translation>
+    </message>
+    <message>
+        <source>it is a text file, and no record of shots in %1; open a table of picks or positions as travel times or geometry</source>
+        <translation>es un archivo de texto y no un registro de disparos en %1; abra una tabla de picados o posiciones como tiempos de recorrido o geometría</translation>
+    </message>
+    <message>
+        <source>by its content it is no file of %1</source>
+        <translation>por su contenido no es un archivo %1</translation>
+    </message>
+    <message>
+        <source>it holds %1 shots, told apart by %2</source>
+        <translation>contiene %1 disparos, distinguidos por %2</translation>
+    </message>
+    <message>
+        <source>it is too short for an SU file with a trace</source>
+        <translation>es demasiado corto para un archivo SU con una traza</translation>
+    </message>
+    <message>
+        <source>its first trace tells no number of samples</source>
+        <translation>su primera traza no indica el número de muestras</translation>
+    </message>
+    <message>
+        <source>all %1 traces</source>
+        <translation>todas las %1 trazas</translation>
+    </message>
+    <message>
+        <source>it cannot be read back: %1</source>
+        <translation>no se puede volver a leer: %1</translation>
+    </message>
+    <message>
+        <source>read back, string %1 will have another number of geophones</source>
+        <translation>al volver a leerlo, el tendido %1 tendrá otro número de geófonos</translation>
+    </message>
+    <message>
+        <source>the format has no place for the errors of the picks</source>
+        <translation>el formato no tiene lugar para los errores de los picados</translation>
+    </message>
+    <message>
+        <source>it was read as %1; the reader of its suffix cannot read line %2</source>
+        <translation>se ha leído como %1; el lector de su extensión no puede leer la línea %2</translation>
+    </message>
+    <message>
+        <source>%1; as %2, line %3: %4</source>
+        <translation>%1; como %2, línea %3: %4</translation>
+    </message>
+    <message>
+        <source>shot %1: picks left out, as the shot is disabled or their traces are killed: %2</source>
+        <translation>disparo %1: picados omitidos porque el disparo está desactivado o sus trazas anuladas: %2</translation>
+    </message>
+    <message>
+        <source>the file tells errors of its picks, which the survey does not keep</source>
+        <translation>el archivo indica errores de sus picados, que el levantamiento no conserva</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 lines</source>
+        <translation>el archivo termina tras %1 de %2 líneas</translation>
+    </message>
+    <message>
+        <source>the file holds no measurement</source>
+        <translation>el archivo no contiene ninguna medición</translation>
+    </message>
+    <message>
+        <source>no columns &quot;s&quot;, &quot;g&quot; and &quot;t&quot; are named above the numbers</source>
+        <translation>encima de los números no se nombran las columnas «s», «g» y «t»</translation>
+    </message>
+    <message>
+        <source>the unit of the column %1 is none of time</source>
+        <translation>la unidad de la columna %1 no es de tiempo</translation>
+    </message>
+    <message>
+        <source>the line holds %1</source>
+        <translation>la línea contiene %1</translation>
+    </message>
+    <message>
+        <source>the %1 %2 is none of the %3 positions</source>
+        <translation>el %1 %2 no es ninguna de las %3 posiciones</translation>
+    </message>
+    <message>
+        <source>after the measurements neither the end nor a number of points of topography follows</source>
+        <translation>tras las mediciones no sigue ni el final ni un número de puntos de topografía</translation>
+    </message>
+    <message>
+        <source>the second of three coordinates was not read</source>
+        <translation>no se ha leído la segunda de las tres coordenadas</translation>
+    </message>
+    <message>
+        <source>the third coordinate is 0 everywhere; the second one was taken for the elevation</source>
+        <translation>la tercera coordenada es 0 en todas partes; se ha tomado la segunda por la cota</translation>
+    </message>
+    <message>
+        <source>the positions have elevations; the topography was not used</source>
+        <translation>las posiciones tienen cotas; no se ha usado la topografía</translation>
+    </message>
+    <message>
+        <source>%1 positions are no shot and no geophone of any time; they were left out</source>
+        <translation>%1 posiciones no son disparo ni geófono de ningún tiempo; se han omitido</translation>
+    </message>
+    <message>
+        <source>%1 times are marked as not valid and are no picks</source>
+        <translation>%1 tiempos están marcados como no válidos y no son picados</translation>
+    </message>
+    <message>
+        <source>%1 times are not above 0 and are no picks</source>
+        <translation>%1 tiempos no son mayores que 0 y no son picados</translation>
+    </message>
+    <message>
+        <source>%1 shots have no pick and are not in the file</source>
+        <translation>%1 disparos no tienen picados y no están en el archivo</translation>
+    </message>
+    <message>
+        <source>%1 geophones have no pick; the file has their positions only</source>
+        <translation>%1 geófonos no tienen picados; el archivo solo tiene sus posiciones</translation>
+    </message>
+    <message>
+        <source>%1 shots lie at the place of another one; the file does not tell their picks apart</source>
+        <translation>%1 disparos están en el punto de otro; el archivo no distingue sus picados</translation>
+    </message>
+    <message>
+        <source>a trace without a sample interval cannot be shifted in time</source>
+        <translation>una traza sin intervalo de muestreo no se puede desplazar en el tiempo</translation>
+    </message>
+    <message>
+        <source>a shift of %1 ms is longer than the record</source>
+        <translation>un desplazamiento de %1 ms es más largo que el registro</translation>
+    </message>
+    <message>
+        <source>a shot is stacked with other shots of the survey, each once</source>
+        <translation>un disparo se apila con otros disparos del levantamiento, cada uno una sola vez</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with it: its traces are of another number, sample interval or kind</source>
+        <translation>el disparo %1 no se puede apilar con él: sus trazas son de otro número, intervalo de muestreo o tipo</translation>
+    </message>
+    <message>
+        <source>shot %1 has no traces to mend</source>
+        <translation>el disparo %1 no tiene trazas que corregir</translation>
+    </message>
+    <message>
+        <source>shot %1 has %2 traces, and mends of %3</source>
+        <translation>el disparo %1 tiene %2 trazas, y correcciones de %3</translation>
+    </message>
+    <message>
+        <source>a trace cannot be muted before %1 ms</source>
+        <translation>una traza no se puede silenciar antes de %1 ms</translation>
+    </message>
+    <message>
+        <source>a record cannot be shifted by %1 ms</source>
+        <translation>un registro no se puede desplazar %1 ms</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that have no place any more and are set aside: %2</source>
+        <translation>disparo %1: picados que ya no tienen lugar y se apartan: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that were set aside and are back: %2</source>
+        <translation>disparo %1: picados apartados que vuelven: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: filtered copies of traces that have changed are forgotten: %2; filter again if you need them</source>
+        <translation>disparo %1: copias filtradas descartadas por haber cambiado sus trazas: %2; vuelva a filtrar si las necesita</translation>
+    </message>
+    <message>
+        <source>shot %1: its shift is taken as %2 ms, whole samples</source>
+        <translation>disparo %1: su desplazamiento se toma como %2 ms, en muestras enteras</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with shot %2: they have other places, or geophones</source>
+        <translation>el disparo %1 no se puede apilar con el disparo %2: tienen otros puntos u otros geófonos</translation>
+    </message>
+    <message>
+        <source>traces killed: %1</source>
+        <translation>trazas anuladas: %1</translation>
+    </message>
+    <message>
+        <source>traces with their polarity reversed: %1</source>
+        <translation>trazas con polaridad invertida: %1</translation>
+    </message>
+    <message>
+        <source>traces muted before %1 ms: %2</source>
+        <translation>trazas silenciadas antes de %1 ms: %2</translation>
+    </message>
+    <message>
+        <source>disabled: it has no picks and takes no part in anything</source>
+        <translation>desactivado: no tiene picados ni participa en nada</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was late</source>
+        <translation>desplazado %1 ms: su registro estaba retrasado</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was early</source>
+        <translation>desplazado %1 ms: su registro estaba adelantado</translation>
+    </message>
+    <message>
+        <source>order reversed: its channels ran against the geophones</source>
+        <translation>orden invertido: sus canales iban contra los geófonos</translation>
+    </message>
+    <message>
+        <source>stacked with shots: %1</source>
+        <translation>apilado con los disparos: %1</translation>
+    </message>
+    <message>
+        <source>Mend recordings</source>
+        <translation>Corregir registros</translation>
+    </message>
+    <message>
+        <source>Shot %1 is disabled and takes no picks; Mend recording enables it.</source>
+        <translation>El disparo %1 está desactivado y no admite picados; Corregir registro lo activa.</translation>
+    </message>
+    <message>
+        <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
+        <translation>La traza %1 está anulada y no admite picado; Corregir registro la recupera.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -3434,6 +4648,104 @@ Defina la posición de los geófonos
     </message>
 </context>
 <context>
+    <name>talvesk::ReadingPanel</name>
+    <message>
+        <source>Format:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Shots:</source>
+        <translation>Disparos:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Trazas:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Muestras por traza:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Intervalo de muestreo:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Retardo del registro:</translation>
+    </message>
+    <message>
+        <source>Shot at:</source>
+        <translation>Disparo en:</translation>
+    </message>
+    <message>
+        <source>Geophones at:</source>
+        <translation>Geófonos en:</translation>
+    </message>
+    <message>
+        <source>Shot in view:</source>
+        <translation>Disparo a la vista:</translation>
+    </message>
+    <message>
+        <source>No trace</source>
+        <translation>Ninguna traza</translation>
+    </message>
+    <message>
+        <source>No warnings</source>
+        <translation>Sin advertencias</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>no leído</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Nothing was read.</source>
+        <translation>No se ha leído nada.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReadingsDialog</name>
+    <message>
+        <source>The standard reads more</source>
+        <translation>El estándar lee más</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules cannot carry all that these files hold. Read by the standard of their format they give more:</source>
+        <translation>Las reglas del programa no pueden recoger todo lo que contienen estos archivos. Leídos según el estándar de su formato dan más:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>What gets lost by the program&apos;s rules</source>
+        <translation>Lo que se pierde con las reglas del programa</translation>
+    </message>
+    <message>
+        <source>By the program&apos;s rules</source>
+        <translation>Según las reglas del programa</translation>
+    </message>
+    <message>
+        <source>By the standard</source>
+        <translation>Según el estándar</translation>
+    </message>
+    <message>
+        <source>Use the &amp;standard for these files</source>
+        <translation>Usar el &amp;estándar para estos archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the program&apos;s rules</source>
+        <translation>&amp;Mantener las reglas del programa</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -3527,6 +4839,26 @@ Defina la posición de los geófonos
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Read by:</source>
+        <translation>Leído según:</translation>
+    </message>
+    <message>
+        <source>Mends:</source>
+        <translation>Correcciones:</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>el estándar de su formato</translation>
+    </message>
+    <message>
+        <source>the standard of its format; record %1 of the file, %2</source>
+        <translation>el estándar de su formato; registro %1 del archivo, %2</translation>
     </message>
 </context>
 <context>
@@ -4191,20 +5523,12 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>No se ha construido ninguna malla ni se ha invertido nada.</translation>
     </message>
     <message>
-        <source>Nothing has been inverted: the grid holds its starting model.</source>
-        <translation>No se ha invertido nada: la malla contiene su modelo inicial.</translation>
-    </message>
-    <message>
         <source>The parameters of the inversion are not known.</source>
         <translation>No se conocen los parámetros de la inversión.</translation>
     </message>
     <message>
         <source>Velocity section</source>
         <translation>Sección de velocidad</translation>
-    </message>
-    <message>
-        <source>Velocity of the starting model</source>
-        <translation>Velocidad del modelo inicial</translation>
     </message>
     <message>
         <source>Misfit</source>
@@ -4546,6 +5870,30 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
         <translation>Disparos: %1; geófonos: %2; picados: %3 de %4</translation>
     </message>
+    <message>
+        <source>No result of an inversion is known: the grid has the velocities that it was left with.</source>
+        <translation>No consta ningún resultado de una inversión: la malla tiene las velocidades con las que quedó.</translation>
+    </message>
+    <message>
+        <source>Velocities of the grid</source>
+        <translation>Velocidades de la malla</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Corrección</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Correcciones</translation>
+    </message>
+    <message>
+        <source>The recordings of these shots are put right as listed. All figures and times of this report are of the mended recordings.</source>
+        <translation>Los registros de estos disparos se han corregido como se indica. Todas las figuras y los tiempos de este informe son de los registros corregidos.</translation>
+    </message>
+    <message>
+        <source>Mends of recordings</source>
+        <translation>Correcciones de los registros</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -4693,44 +6041,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     </message>
 </context>
 <context>
-    <name>talvesk::SectionSheet</name>
-    <message>
-        <source>Geophones</source>
-        <translation>Geófonos</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Disparos</translation>
-    </message>
-    <message>
-        <source>Contours</source>
-        <translation>Isolíneas</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ray(s)</source>
-        <translation>
-            <numerusform>%n rayo</numerusform>
-            <numerusform>%n rayos</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Coverage limit</source>
-        <translation>Límite de cobertura</translation>
-    </message>
-    <message>
-        <source>Distance [m]</source>
-        <translation>Distancia [m]</translation>
-    </message>
-    <message>
-        <source>Elevation [m]</source>
-        <translation>Cota [m]</translation>
-    </message>
-    <message>
-        <source>Vertical exaggeration %1×</source>
-        <translation>Exageración vertical %1×</translation>
-    </message>
-</context>
-<context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
@@ -4869,6 +6179,25 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source> MB</source>
         <translation> MB</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotFileDialog</name>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the standard</source>
+        <translation>el estándar</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules read shot files as this program always has. The standard reads what their content says, whatever their suffix: other sample formats and byte orders, scaled coordinates, delays, files of several shots.</source>
+        <translation>Las reglas del programa leen los archivos de disparos como siempre lo ha hecho este programa. El estándar lee lo que dice su contenido, sea cual sea su extensión: otros formatos de muestra y órdenes de bytes, coordenadas con factor de escala, retardos, archivos de varios disparos.</translation>
+    </message>
+    <message>
+        <source>&amp;Read shot files by:</source>
+        <translation>&amp;Leer los archivos de disparos según:</translation>
     </message>
 </context>
 <context>
@@ -6421,6 +7750,146 @@ Do you want to run refraction processing anyway? </source>
         <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
         <translation>Los cambios más antiguos ya no se pueden deshacer: necesitaban más de %1 MB.</translation>
     </message>
+    <message>
+        <source>Export recordings...</source>
+        <translation>Exportar registros...</translation>
+    </message>
+    <message>
+        <source>Write the traces of all shots, with the positions of the survey, as SEG-Y or SEG-2 files</source>
+        <translation>Escribe las trazas de todos los disparos, con las posiciones del levantamiento, como archivos SEG-Y o SEG-2</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Contar los tiempos desde el disparo</translation>
+    </message>
+    <message>
+        <source>Drop what was recorded before the shot; picks move with their traces</source>
+        <translation>Descarta lo registrado antes del disparo; los picados se desplazan con sus trazas</translation>
+    </message>
+    <message>
+        <source>Mend recording...</source>
+        <translation>Corregir registro...</translation>
+    </message>
+    <message>
+        <source>Put right the time, the order or single traces of the shot in view; what was recorded is kept</source>
+        <translation>Corrige el tiempo, el orden o trazas sueltas del disparo a la vista; lo registrado se conserva</translation>
+    </message>
+    <message>
+        <source>Take back all mends</source>
+        <translation>Revertir todas las correcciones</translation>
+    </message>
+    <message>
+        <source>Show all recordings as they were recorded, with their picks</source>
+        <translation>Muestra todos los registros tal como se registraron, con sus picados</translation>
+    </message>
+    <message>
+        <source>%1 of them are of disabled shots or killed and left unpicked.</source>
+        <translation>%1 de ellas son de disparos desactivados o están anuladas y quedan sin picar.</translation>
+    </message>
+    <message>
+        <source>SEG-Y, a file for each shot</source>
+        <translation>SEG-Y, un archivo por disparo</translation>
+    </message>
+    <message>
+        <source>SEG-Y, all shots in one file</source>
+        <translation>SEG-Y, todos los disparos en un archivo</translation>
+    </message>
+    <message>
+        <source>SEG-2, a file for each shot</source>
+        <translation>SEG-2, un archivo por disparo</translation>
+    </message>
+    <message>
+        <source>Export recordings</source>
+        <translation>Exportar registros</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message>
+        <source>Folder for the recordings</source>
+        <translation>Carpeta de los registros</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey.</source>
+        <translation>%1 es uno de los archivos de disparos de este levantamiento.</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>Writing recordings ...</source>
+        <translation>Escribiendo registros ...</translation>
+    </message>
+    <message>
+        <source>The export to %1 was stopped; some files are missing.</source>
+        <translation>La exportación a %1 se ha detenido; faltan algunos archivos.</translation>
+    </message>
+    <message>
+        <source>The recordings have not been exported.</source>
+        <translation>No se han exportado los registros.</translation>
+    </message>
+    <message>
+        <source>Recordings saved in %1</source>
+        <translation>Registros guardados en %1</translation>
+    </message>
+    <message>
+        <source>The recordings have been saved.</source>
+        <translation>Se han guardado los registros.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The times of %n trace(s) count from the shot now.</source>
+        <translation>
+            <numerusform>Los tiempos de %n traza se cuentan ahora desde el disparo.</numerusform>
+            <numerusform>Los tiempos de %n trazas se cuentan ahora desde el disparo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pick(s) lay before it and are removed.</source>
+        <translation>
+            <numerusform>%n picado estaba antes y se ha quitado.</numerusform>
+            <numerusform>%n picados estaban antes y se han quitado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The recording of shot %1 has not been mended.</source>
+        <translation>No se ha corregido el registro del disparo %1.</translation>
+    </message>
+    <message>
+        <source>The mends have not been taken back.</source>
+        <translation>No se han revertido las correcciones.</translation>
+    </message>
+    <message>
+        <source>%1 (disabled)</source>
+        <comment>shot</comment>
+        <translation>%1 (desactivado)</translation>
+    </message>
+    <message>
+        <source>%1 (mended)</source>
+        <comment>shot</comment>
+        <translation>%1 (corregido)</translation>
+    </message>
+    <message>
+        <source>disabled or killed</source>
+        <translation>disparo desactivado o traza anulada</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>milisegundos</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>segundos</translation>
+    </message>
+    <message>
+        <source>%1 does not say in which unit its times are.</source>
+        <translation>%1 no indica en qué unidad están sus tiempos.</translation>
+    </message>
+    <message>
+        <source>%1 does not hold all of the survey.</source>
+        <translation>%1 no contiene todo el levantamiento.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -7043,10 +8512,6 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Celdas tan pequeñas hacen muy lenta la inversión, que solo se detiene entre iteraciones. Un cuarto de la separación entre geófonos es %1 m.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Los resultados de la última inversión se perderán.</translation>
-    </message>
-    <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
         <translation>Un cuarto de la menor separación entre geófonos, 0,1 m como mínimo. Sin marcar: el tamaño de celda de la malla existente, o el menor si no hay malla.</translation>
     </message>
@@ -7065,6 +8530,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Los resultados de la última inversión se quitarán (Deshacer los recupera).</translation>
     </message>
 </context>
 <context>
@@ -7347,16 +8816,16 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Las capas no forman un modelo de velocidad.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Los resultados de la última inversión se perderán.</translation>
-    </message>
-    <message>
         <source>Do you want to put them into the grid all the same?</source>
         <translation>¿Desea ponerlas de todos modos en la malla?</translation>
     </message>
     <message>
         <source>You have not changed the layers.</source>
         <translation>No ha modificado las capas.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Los resultados de la última inversión se quitarán (Deshacer los recupera).</translation>
     </message>
 </context>
 <context>

@@ -498,6 +498,52 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Its numbers were cut at their decimal commas: they need points.</source>
         <translation>Ses nombres ont été coupés à la virgule : il leur faut le point décimal.</translation>
     </message>
+    <message>
+        <source>Elevations from table</source>
+        <translation>Altitudes depuis un tableau</translation>
+    </message>
+    <message>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
+        <translation>Donner à tous les géophones et à tous les tirs les altitudes d&apos;un tableau de distances et d&apos;altitudes</translation>
+    </message>
+    <message>
+        <source>&amp;Straight from point to point ...</source>
+        <translation>&amp;Droite d&apos;un point à l&apos;autre ...</translation>
+    </message>
+    <message>
+        <source>Along a s&amp;mooth curve ...</source>
+        <translation>Selon une &amp;courbe lisse ...</translation>
+    </message>
+    <message>
+        <source>It was read by the names of its columns.</source>
+        <translation>Il a été lu d&apos;après les noms de ses colonnes.</translation>
+    </message>
+    <message>
+        <source>Open Elevations</source>
+        <translation>Ouvrir des altitudes</translation>
+    </message>
+    <message>
+        <source>Tables of distances and elevations (*.csv *.txt *.dat *.xyz *.tsv);;All Files (*)</source>
+        <translation>Tableaux de distances et d&apos;altitudes (*.csv *.txt *.dat *.xyz *.tsv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The elevations have not been taken.</source>
+        <translation>Les altitudes n&apos;ont pas été reprises.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) taken from the table.</source>
+        <translation>
+            <numerusform>%n altitude reprise du tableau.</numerusform>
+            <numerusform>%n altitudes reprises du tableau.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <translation>
+            <numerusform>%n position se trouve au-delà de ses extrémités, %1 à %2 m, et a reçu l&apos;altitude de l&apos;extrémité.</numerusform>
+            <numerusform>%n positions se trouvent au-delà de ses extrémités, %1 à %2 m, et ont reçu l&apos;altitude de l&apos;extrémité.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -788,6 +834,38 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>smoothed since the inversion</source>
         <translation>lissée depuis l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>tir désactivé</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>décalé de %1 ms</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>ordre inversé</translation>
+    </message>
+    <message>
+        <source>stacked with %1</source>
+        <comment>shots</comment>
+        <translation>sommé avec %1</translation>
+    </message>
+    <message>
+        <source>%1 killed</source>
+        <comment>traces</comment>
+        <translation>neutralisation de %1</translation>
+    </message>
+    <message>
+        <source>%1 of reversed polarity</source>
+        <comment>traces</comment>
+        <translation>%1 à polarité inversée</translation>
+    </message>
+    <message>
+        <source>%1 muted</source>
+        <comment>traces</comment>
+        <translation>%1 avec mute</translation>
     </message>
 </context>
 <context>
@@ -1382,12 +1460,92 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Avertissement</translation>
     </message>
     <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>Le levé change. Ceci sera perdu&#xa0;:</translation>
-    </message>
-    <message>
         <source>Do you want to continue?</source>
         <translation>Voulez-vous continuer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be removed (Undo brings it back):</source>
+        <translation>Le levé change. Ceci sera supprimé («&#xa0;Défaire&#xa0;» le rétablit)&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MendDialog</name>
+    <message>
+        <source>Mend recording</source>
+        <translation>Corriger l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>What was recorded is kept: everything here can be taken back at any time. Picks move with the recording.</source>
+        <translation>Ce qui a été enregistré est conservé&#xa0;: tout ici peut être retiré à tout moment. Les pointés suivent l&apos;enregistrement.</translation>
+    </message>
+    <message>
+        <source>&amp;The record was late by:</source>
+        <translation>&amp;Retard de l&apos;enregistrement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Positive: the front of the record goes, and picks become earlier. Negative: the record was early. Whole samples are taken.</source>
+        <translation>Positif&#xa0;: le début de l&apos;enregistrement est retiré et les pointés sont avancés. Négatif&#xa0;: l&apos;enregistrement était en avance. Le décalage se fait en échantillons entiers.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Its picks are set aside and come back with it</source>
+        <translation>Ses pointés sont mis de côté et reviennent avec lui</translation>
+    </message>
+    <message>
+        <source>&amp;Disabled: the shot has no picks and takes no part</source>
+        <translation>&amp;Désactivé&#xa0;: le tir n&apos;a pas de pointés et ne participe à rien</translation>
+    </message>
+    <message>
+        <source>The last channel goes to the first geophone, with its pick</source>
+        <translation>Le dernier canal va au premier géophone, avec son pointé</translation>
+    </message>
+    <message>
+        <source>&amp;Order reversed: the channels run against the geophones</source>
+        <translation>&amp;Ordre inversé&#xa0;: les canaux vont à rebours des géophones</translation>
+    </message>
+    <message>
+        <source>&amp;Stack with:</source>
+        <translation>&amp;Sommer avec&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shots of the same place and geophones; the mean of their samples is shown and picked</source>
+        <translation>Tirs au même endroit et aux mêmes géophones&#xa0;; la moyenne de leurs échantillons est affichée et pointée</translation>
+    </message>
+    <message>
+        <source>Disable &amp;the shots that it is stacked with</source>
+        <translation>Désactiver les &amp;tirs avec lesquels il est sommé</translation>
+    </message>
+    <message>
+        <source>No other shot has the same place, geophones and sample interval.</source>
+        <translation>Aucun autre tir n&apos;a le même endroit, les mêmes géophones et le même pas d&apos;échantillonnage.</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Traces du tir</translation>
+    </message>
+    <message>
+        <source>Killed</source>
+        <translation>Neutralisée</translation>
+    </message>
+    <message>
+        <source>Polarity reversed</source>
+        <translation>Polarité inversée</translation>
+    </message>
+    <message>
+        <source>Muted before</source>
+        <translation>Mute avant</translation>
+    </message>
+    <message>
+        <source>Mend recording of shot %1</source>
+        <translation>Corriger l&apos;enregistrement du tir %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -3106,19 +3264,19 @@ Veuillez définir la position des géophones
     </message>
     <message>
         <source>%1 and what else this version does not know, %2 in all, is too much to be kept; it will not be in the next save</source>
-        <translation>%1 et ce que cette version ne connaît pas non plus, %2 en tout, est trop volumineux pour être conservé ; cela manquera au prochain enregistrement</translation>
+        <translation>%1 et ce que cette version ne connaît pas non plus, %2 en tout, est trop volumineux pour être conservé&#xa0;; cela manquera au prochain enregistrement</translation>
     </message>
     <message>
         <source>%1 was written by a newer version of Talvesk; it stays as it is, but %2</source>
-        <translation>%1 a été écrit par une version plus récente de Talvesk ; il reste tel quel, mais %2</translation>
+        <translation>%1 a été écrit par une version plus récente de Talvesk&#xa0;; il reste tel quel, mais %2</translation>
     </message>
     <message>
         <source>%1 is of another version of Talvesk; it stays as it is, but is not used</source>
-        <translation>%1 provient d&apos;une autre version de Talvesk ; il reste tel quel, mais n&apos;est pas utilisé</translation>
+        <translation>%1 provient d&apos;une autre version de Talvesk&#xa0;; il reste tel quel, mais n&apos;est pas utilisé</translation>
     </message>
     <message>
         <source>%1 of a newer version of Talvesk gave way to that of this version: what it told of has changed.</source>
-        <translation>%1 d&apos;une version plus récente de Talvesk a cédé la place à celui de cette version : ce qu&apos;il décrivait a changé.</translation>
+        <translation>%1 d&apos;une version plus récente de Talvesk a cédé la place à celui de cette version&#xa0;: ce qu&apos;il décrivait a changé.</translation>
     </message>
     <message>
         <source>it is about other picks than those of the project</source>
@@ -3126,11 +3284,11 @@ Veuillez définir la position des géophones
     </message>
     <message>
         <source>its suffix is none of %1</source>
-        <translation>son suffixe n&apos;est aucun de ceux-ci : %1</translation>
+        <translation>son suffixe n&apos;est aucun de ceux-ci&#xa0;: %1</translation>
     </message>
     <message>
         <source>Invalid input TT file : %1 (its suffix is none of %2)</source>
-        <translation>Fichier TT d&apos;entrée non valide : %1 (son suffixe n&apos;est aucun de ceux-ci : %2)</translation>
+        <translation>Fichier TT d&apos;entrée non valide&#xa0;: %1 (son suffixe n&apos;est aucun de ceux-ci&#xa0;: %2)</translation>
     </message>
     <message>
         <source>Open shot files</source>
@@ -3210,11 +3368,11 @@ Veuillez définir la position des géophones
     </message>
     <message>
         <source>another edit is under way; try again when it is through</source>
-        <translation>une autre modification est en cours ; réessayez quand elle sera terminée</translation>
+        <translation>une autre modification est en cours&#xa0;; réessayez quand elle sera terminée</translation>
     </message>
     <message>
         <source>the edit failed: %1</source>
-        <translation>la modification a échoué : %1</translation>
+        <translation>la modification a échoué&#xa0;: %1</translation>
     </message>
     <message>
         <source>no edit is under way</source>
@@ -3222,7 +3380,7 @@ Veuillez définir la position des géophones
     </message>
     <message>
         <source>%1 would change what it must not; nothing was changed</source>
-        <translation>« %1 » modifierait ce qui ne doit pas l&apos;être ; rien n&apos;a été modifié</translation>
+        <translation>«&#xa0;%1&#xa0;» modifierait ce qui ne doit pas l&apos;être&#xa0;; rien n&apos;a été modifié</translation>
     </message>
     <message>
         <source>Remove picks</source>
@@ -3247,6 +3405,1062 @@ Veuillez définir la position des géophones
     <message>
         <source>Draw picks</source>
         <translation>Tracer les pointés</translation>
+    </message>
+    <message>
+        <source>the survey has no such shot; check the recordings again</source>
+        <translation>le levé n&apos;a pas ce tir&#xa0;; vérifiez à nouveau les enregistrements</translation>
+    </message>
+    <message>
+        <source>shot %1: a position is missing, no number or absurdly far away</source>
+        <translation>tir %1&#xa0;: une position manque, n&apos;est pas un nombre ou est absurdement lointaine</translation>
+    </message>
+    <message>
+        <source>shot %1: its geophone string has another number of geophones than the proposal; check the recordings again</source>
+        <translation>tir %1&#xa0;: son dispositif n&apos;a pas le même nombre de géophones que la proposition&#xa0;; vérifiez à nouveau les enregistrements</translation>
+    </message>
+    <message>
+        <source>there is no trace %1; check the recordings again</source>
+        <translation>il n&apos;y a pas de trace %1&#xa0;; vérifiez à nouveau les enregistrements</translation>
+    </message>
+    <message>
+        <source>no trace of the record holds anything</source>
+        <translation>aucune trace de l&apos;enregistrement ne contient quoi que ce soit</translation>
+    </message>
+    <message>
+        <source>dead: the samples of %1 are all the same</source>
+        <translation>trace morte&#xa0;: tous les échantillons sont identiques (%1)</translation>
+    </message>
+    <message>
+        <source>as good as dead: %1, at down to %2 % of the strength of the neighbours</source>
+        <translation>signal presque mort (%1)&#xa0;: l&apos;amplitude descend jusqu&apos;à %2&#xa0;% de celle des voisines</translation>
+    </message>
+    <message>
+        <source>clipped: the swings of %1 are cut off flat, up to %2 times; first breaks can be picked, amplitudes mean nothing</source>
+        <translation>écrêtage (%1)&#xa0;: les oscillations sont coupées à plat, jusqu&apos;à %2 fois&#xa0;; les premières arrivées peuvent être pointées, les amplitudes n&apos;ont pas de sens</translation>
+    </message>
+    <message>
+        <source>noisy: before the first arrival of %1 there is up to %2 times the noise of the neighbours, and it drowns the arrival</source>
+        <translation>bruit (%1)&#xa0;: avant la première arrivée, il atteint jusqu&apos;à %2 fois celui des voisines et noie l&apos;arrivée</translation>
+    </message>
+    <message>
+        <source>doubled: trace %1 is trace %2 once more (correlation %3); the arrivals around say that it belongs to the latter</source>
+        <translation>doublon&#xa0;: la trace %1 répète la trace %2 (corrélation %3)&#xa0;; d&apos;après les arrivées alentour, le signal appartient à cette dernière</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>traces %1</source>
+        <translation>traces %1</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>tirs %1</translation>
+    </message>
+    <message>
+        <source>shot position</source>
+        <translation>position du tir</translation>
+    </message>
+    <message>
+        <source>station numbers</source>
+        <translation>numéros de station</translation>
+    </message>
+    <message>
+        <source>repeated positions</source>
+        <translation>positions répétées</translation>
+    </message>
+    <message>
+        <source>reversed order</source>
+        <translation>ordre inversé</translation>
+    </message>
+    <message>
+        <source>doubled trace</source>
+        <translation>trace en double</translation>
+    </message>
+    <message>
+        <source>moved traces</source>
+        <translation>traces déplacées</translation>
+    </message>
+    <message>
+        <source>geophone off the line</source>
+        <translation>géophone hors de la ligne</translation>
+    </message>
+    <message>
+        <source>trigger time</source>
+        <translation>instant de déclenchement</translation>
+    </message>
+    <message>
+        <source>dead traces</source>
+        <translation>traces mortes</translation>
+    </message>
+    <message>
+        <source>clipped traces</source>
+        <translation>traces écrêtées</translation>
+    </message>
+    <message>
+        <source>noisy traces</source>
+        <translation>traces bruitées</translation>
+    </message>
+    <message>
+        <source>reversed polarity</source>
+        <translation>polarité inversée</translation>
+    </message>
+    <message>
+        <source>mistimed trace</source>
+        <translation>trace décalée en temps</translation>
+    </message>
+    <message>
+        <source>sample intervals</source>
+        <translation>pas d&apos;échantillonnage</translation>
+    </message>
+    <message>
+        <source>repeated shot</source>
+        <translation>tir répété</translation>
+    </message>
+    <message>
+        <source>overlapping spreads</source>
+        <translation>dispositifs en recouvrement</translation>
+    </message>
+    <message>
+        <source>no elevations</source>
+        <translation>aucune altitude</translation>
+    </message>
+    <message>
+        <source>move the record later by %1 ms</source>
+        <translation>retarder l&apos;enregistrement de %1 ms</translation>
+    </message>
+    <message>
+        <source>move the record earlier by %1 ms</source>
+        <translation>avancer l&apos;enregistrement de %1 ms</translation>
+    </message>
+    <message>
+        <source>kill %1</source>
+        <translation>neutraliser&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>reverse the polarity of %1</source>
+        <translation>inverser la polarité&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>mute %1 before %2 ms</source>
+        <translation>mute avant %2 ms&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>read the channels from the last to the first</source>
+        <translation>lire les canaux du dernier au premier</translation>
+    </message>
+    <message>
+        <source>put the shot at %1 m</source>
+        <translation>placer le tir à %1 m</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3 m</source>
+        <translation>placer les %1 géophones de son dispositif de %2 à %3 m</translation>
+    </message>
+    <message>
+        <source>stack it with %1; the stack alone counts then</source>
+        <translation>sommer avec&#xa0;: %1&#xa0;; seule la somme compte alors</translation>
+    </message>
+    <message>
+        <source>disable the shot</source>
+        <translation>désactiver le tir</translation>
+    </message>
+    <message>
+        <source>exchanged: over all shots the arrivals of trace %1 belong to the place of trace %2, and the other way round</source>
+        <translation>traces échangées&#xa0;: sur tous les tirs, les arrivées de la trace %1 appartiennent à la place de la trace %2, et inversement</translation>
+    </message>
+    <message>
+        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
+        <translation>hors de la ligne&#xa0;: le géophone %1 est indiqué à %2 m&#xa0;; des deux côtés, ses arrivées sont celles de %3 m</translation>
+    </message>
+    <message>
+        <source>%1 geophones are said to be at %2 places only</source>
+        <translation>%1 géophones sont indiqués à %2 positions seulement</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
+        <translation>%1&#xa0;; sur %2 tirs, les temps minimaux se déplacent de %3 canaux pour chaque mètre du tir&#xa0;: le géophone 1 est donc à %4 m et le dernier à %5 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>le tir est indiqué à %1 m&#xa0;; le nom du fichier dit %2 m, et les temps minimaux du levé suivent les noms</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
+        <translation>le tir est indiqué à une altitude de %1 m, et aucune altitude des géophones ne peut être la sienne</translation>
+    </message>
+    <message>
+        <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
+        <translation>les canaux vont à rebours des géophones&#xa0;: pour %1 tirs sur %2, les temps ne sont minimaux à côté du tir que si le dispositif est lu du dernier géophone au premier</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>tous les tirs sont indiqués à %1 m&#xa0;; le nom du fichier dit %2 m, et les temps minimaux du levé suivent les noms</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
+        <translation>tous les tirs sont indiqués à %1 m&#xa0;; les temps de celui-ci sont minimaux à %2 m</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
+        <translation>tous les tirs sont indiqués à %1 m&#xa0;; celui-ci était à une extrémité des géophones ou au-delà</translation>
+    </message>
+    <message>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
+        <translation>les canaux de cet enregistrement vont à rebours des géophones&#xa0;: lus du dernier au premier, les temps sont minimaux à côté du tir, à %1 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>le tir est indiqué à %1 m, mais les temps croissent à partir de %2 m tout au long des géophones&#xa0;: il était à cette extrémité ou au-delà</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
+        <translation>le tir est indiqué à %1 m, mais les temps sont minimaux à %2 m, à côté du géophone %3, et croissent de part et d&apos;autre</translation>
+    </message>
+    <message>
+        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
+        <translation>%1&#xa0;; ou bien les géophones sont espacés de %2 m et non de %3 m, ce qu&apos;aucun autre tir ne permet de trancher</translation>
+    </message>
+    <message>
+        <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
+        <translation>trace décalée en temps&#xa0;: la trace %1 a sa première arrivée à %2 ms, ses voisines la laissent attendre à %3 ms, et à partir de là elle leur ressemble (corrélation %4)</translation>
+    </message>
+    <message>
+        <source>reversed: the first swings of %1 go against those of the neighbours, which agree with each other (correlation -%2 at least)</source>
+        <translation>polarité inversée (%1)&#xa0;: les premières oscillations vont à l&apos;encontre de celles des voisines, qui concordent entre elles (corrélation d&apos;au moins -%2)</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
+        <translation>le tir %1 a été enregistré au même point, à %2 m, avec %3 fois le rapport signal sur bruit de celui-ci</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
+        <translation>le tir %1 a été enregistré au même point, à %2 m&#xa0;; ses arrivées sont plus tardives de %3 ms</translation>
+    </message>
+    <message>
+        <source>the record is that of shot %1 once more, sample for sample</source>
+        <translation>l&apos;enregistrement répète celui du tir %1, échantillon par échantillon</translation>
+    </message>
+    <message>
+        <source>the sample intervals of its traces differ, %1 to %2 ms: the times of some are wrong unless the recorder meant it</source>
+        <translation>les pas d&apos;échantillonnage de ses traces diffèrent, de %1 à %2 ms&#xa0;: les temps de certaines sont faux, sauf si le sismographe était réglé ainsi</translation>
+    </message>
+    <message>
+        <source>its traces have no sample interval: they have no times</source>
+        <translation>ses traces n&apos;ont pas de pas d&apos;échantillonnage&#xa0;: elles n&apos;ont pas de temps</translation>
+    </message>
+    <message>
+        <source>the sample interval is %2 ms in %1, and %3 ms in most others: right if the recorder was set so</source>
+        <translation>le pas d&apos;échantillonnage est de %2 ms (%1), et de %3 ms pour la plupart des autres&#xa0;: correct si le sismographe était réglé ainsi</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>aucun géophone entre %1 et %2 m&#xa0;: le terrain n&apos;y est vu d&apos;aucun côté, sauf si des tirs portent au-delà</translation>
+    </message>
+    <message>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
+        <translation>les dispositifs %1 et %2 se recouvrent et ont des altitudes différentes en %3 endroits, de %4 m au plus, à %5 m</translation>
+    </message>
+    <message>
+        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>aucune altitude&#xa0;: tous les tirs et géophones sont à %1 m&#xa0;; si le terrain n&apos;est pas plat, lisez-les dans un tableau, dans la géométrie du levé</translation>
+    </message>
+    <message>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
+        <translation>la position %1 du tir compte des stations&#xa0;: sur %2 tirs, les temps minimaux se déplacent de %3 m pour chaque unité de la position</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
+        <translation>les positions des géophones ne sont pas des mètres&#xa0;: sur %1 tirs, les temps minimaux se déplacent de %2 pour chaque mètre du tir&#xa0;; des géophones espacés de %3 m à partir de %4 m les ont à côté des tirs</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation>en retard</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation>en avance</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: %3 times to the places of other shots differ by that from the times back, give or take %4 ms</source>
+        <translation>l&apos;enregistrement est %2 de %1 ms&#xa0;: %3 temps vers les emplacements d&apos;autres tirs diffèrent d&apos;autant des temps de retour, à %4 ms près</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: its times differ by that from those of %3 other shots at equal distances, give or take %4 ms</source>
+        <translation>l&apos;enregistrement est %2 d&apos;environ %1 ms&#xa0;: ses temps diffèrent d&apos;autant de ceux de %3 autres tirs à distances égales, à %4 ms près</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
+        <translation>l&apos;enregistrement est %2 de %1 ms&#xa0;: tous les canaux ont une impulsion simultanée à %3 ms, avant que quoi que ce soit ait pu arriver</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>l&apos;enregistrement est %2 d&apos;environ %1 ms&#xa0;: les géophones les plus proches du tir, à %3 m, situeraient le coup entre %4 et %5 ms, quel que soit le terrain</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it has %1 columns and no heading that names one for the distance and one for the elevation</source>
+        <translation>il a %1 colonnes et aucun en-tête qui en nomme une pour la distance et une pour l&apos;altitude</translation>
+    </message>
+    <message>
+        <source>it holds no point</source>
+        <translation>il ne contient aucun point</translation>
+    </message>
+    <message>
+        <source>Unified data format (%1)</source>
+        <translation>Format de données unifié (%1)</translation>
+    </message>
+    <message>
+        <source>no heading names shot, geophone and time</source>
+        <translation>aucun en-tête ne nomme tir, géophone et temps</translation>
+    </message>
+    <message>
+        <source>%1 lines above the heading were ignored</source>
+        <translation>%1 lignes au-dessus de l&apos;en-tête ont été ignorées</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 were taken for positions in metres</source>
+        <translation>les colonnes %1 et %2 ont été prises comme positions en mètres</translation>
+    </message>
+    <message>
+        <source>the heading does not say whether its times are in ms or in s</source>
+        <translation>l&apos;en-tête ne dit pas si ses temps sont en ms ou en s</translation>
+    </message>
+    <message>
+        <source>no row follows the heading</source>
+        <translation>aucune ligne ne suit l&apos;en-tête</translation>
+    </message>
+    <message>
+        <source>there are more than %1 geophones</source>
+        <translation>il y a plus de %1 géophones</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows have no time above 0, or are not valid, and are no picks</source>
+        <translation>%1 lignes sur %2 n&apos;ont pas de temps supérieur à 0, ou ne sont pas valides, et ne sont pas des pointés</translation>
+    </message>
+    <message>
+        <source>%1 shots and %2 geophones are far too many for %3 rows</source>
+        <translation>%1 tirs et %2 géophones sont bien trop nombreux pour %3 lignes</translation>
+    </message>
+    <message>
+        <source>no column tells the elevations of the shots; they were put on the line of the geophones</source>
+        <translation>aucune colonne ne donne les altitudes des tirs&#xa0;; ils ont été placés sur la ligne des géophones</translation>
+    </message>
+    <message>
+        <source>no heading names a column for the distance and one for the elevation</source>
+        <translation>aucun en-tête ne nomme une colonne pour la distance et une pour l&apos;altitude</translation>
+    </message>
+    <message>
+        <source>the unified data format</source>
+        <translation>format de données unifié</translation>
+    </message>
+    <message>
+        <source>a table with a heading</source>
+        <translation>tableau avec en-tête</translation>
+    </message>
+    <message>
+        <source>a pick table of long lines</source>
+        <translation>tableau de pointés à longues lignes</translation>
+    </message>
+    <message>
+        <source>%1 times are of a shot and geophone that had one already; the first of them counts</source>
+        <translation>%1 temps concernent un tir et un géophone qui en avaient déjà un&#xa0;; le premier compte</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>position</translation>
+    </message>
+    <message>
+        <source>number of positions</source>
+        <translation>nombre de positions</translation>
+    </message>
+    <message>
+        <source>number of measurements</source>
+        <translation>nombre de mesures</translation>
+    </message>
+    <message>
+        <source>number of points of topography</source>
+        <translation>nombre de points de topographie</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>colonne %1</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is not a number</source>
+        <translation>%2 (%1) n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is out of range</source>
+        <translation>%2 (%1) est hors limites</translation>
+    </message>
+    <message>
+        <source>all shot files count as read by the program&apos;s rules; the traces are those that were saved</source>
+        <translation>tous les fichiers de tirs comptent comme lus selon les règles du programme&#xa0;; les traces sont celles qui ont été enregistrées dans le projet</translation>
+    </message>
+    <message>
+        <source>what was mended in its recordings is not known; traces and picks stay as they are</source>
+        <translation>ce qui a été corrigé dans ses enregistrements n&apos;est pas connu&#xa0;; les traces et les pointés restent tels quels</translation>
+    </message>
+    <message>
+        <source>there is a grid, but a position lies more than 100 000 km away</source>
+        <translation>il y a une grille, mais une position se trouve à plus de 100&#xa0;000 km</translation>
+    </message>
+    <message>
+        <source>mends.xml: the mends of these shots are not those of their traces, and are left out; traces and picks stay as they are: %1</source>
+        <translation>mends.xml&#xa0;: les corrections de ces tirs ne sont pas celles de leurs traces et sont écartées&#xa0;; les traces et les pointés restent tels quels&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it is about other shot files than those of the project</source>
+        <translation>il porte sur d&apos;autres fichiers de tirs que ceux du projet</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m</source>
+        <translation>%1 à %2 m</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules find no trace in it</source>
+        <translation>les règles du programme n&apos;y trouvent aucune trace</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces of %3 shots</source>
+        <translation>les règles du programme lisent %1 de ses %2 traces de %3 tirs</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces</source>
+        <translation>les règles du programme lisent %1 de ses %2 traces</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules make one shot of its %1</source>
+        <translation>les règles du programme font un seul tir de ses %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are all zeros by the program&apos;s rules</source>
+        <translation>%1 traces sur %2 sont toutes nulles selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>the samples of %1 of %2 traces are not those of the standard, and not for their scale alone</source>
+        <translation>les échantillons de %1 traces sur %2 ne sont pas ceux de la norme, et pas seulement par leur échelle</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are shorter by the program&apos;s rules</source>
+        <translation>%1 traces sur %2 sont plus courtes selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>the sample interval is %1 ms by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>le pas d&apos;échantillonnage est de %1 ms selon les règles du programme, de %2 ms selon la norme</translation>
+    </message>
+    <message>
+        <source>its records start %1 ms from the shot by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>ses enregistrements commencent à %1 ms du tir selon les règles du programme, à %2 ms selon la norme</translation>
+    </message>
+    <message>
+        <source>its geophones are at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>positions de ses géophones&#xa0;: %1 selon les règles du programme, %2 selon la norme</translation>
+    </message>
+    <message>
+        <source>its shot is at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>position de son tir&#xa0;: %1 selon les règles du programme, %2 selon la norme</translation>
+    </message>
+    <message>
+        <source>the elevations of %1 of %2 traces are others by the program&apos;s rules</source>
+        <translation>les altitudes de %1 traces sur %2 sont autres selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules cannot read it</source>
+        <translation>les règles du programme ne peuvent pas le lire</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 de plus</translation>
+    </message>
+    <message>
+        <source>the traces of shot %1 differ in sample interval or in the time of their first sample; they cannot be in one record</source>
+        <translation>les traces du tir %1 n&apos;ont pas toutes le même pas d&apos;échantillonnage ou le même temps du premier échantillon&#xa0;; elles ne peuvent pas être dans un même enregistrement</translation>
+    </message>
+    <message>
+        <source>it has no sample interval</source>
+        <translation>il n&apos;a pas de pas d&apos;échantillonnage</translation>
+    </message>
+    <message>
+        <source>its traces have %1 samples; a file holds %2</source>
+        <translation>ses traces ont %1 échantillons&#xa0;; un fichier en contient au plus %2</translation>
+    </message>
+    <message>
+        <source>it has %1 traces; a SEG-2 file holds %2</source>
+        <translation>il a %1 traces&#xa0;; un fichier SEG-2 en contient au plus %2</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>tir %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>read by the program&apos;s rules, the files have no elevations, and no positions that are not whole metres; read them by the standard</source>
+        <translation>lus selon les règles du programme, les fichiers n&apos;ont pas d&apos;altitudes, ni de positions qui ne soient pas des mètres entiers&#xa0;; lisez-les selon la norme</translation>
+    </message>
+    <message>
+        <source>%1 shots are disabled or have no samples and were left out</source>
+        <translation>%1 tirs sont désactivés ou sans échantillons et ont été écartés</translation>
+    </message>
+    <message>
+        <source>%1 traces begin at the shot; what was recorded before is not in the files</source>
+        <translation>%1 traces commencent au tir&#xa0;; ce qui a été enregistré avant n&apos;est pas dans les fichiers</translation>
+    </message>
+    <message>
+        <source>%1 samples were rounded to the seven digits of a 32-bit float</source>
+        <translation>%1 échantillons ont été arrondis aux sept chiffres d&apos;un flottant de 32 bits</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>interruption demandée</translation>
+    </message>
+    <message>
+        <source>shot %1 has no samples</source>
+        <translation>le tir %1 n&apos;a pas d&apos;échantillons</translation>
+    </message>
+    <message>
+        <source>shot %1, trace %2: a sample is too large for a file</source>
+        <translation>tir %1, trace %2&#xa0;: un échantillon est trop grand pour un fichier</translation>
+    </message>
+    <message>
+        <source>the survey has no records to be written</source>
+        <translation>le levé n&apos;a pas d&apos;enregistrements à écrire</translation>
+    </message>
+    <message>
+        <source>its sample interval of %1 ms is no whole number of microseconds up to 65535, which is all that SEG-Y can hold; write SEG-2</source>
+        <translation>son pas d&apos;échantillonnage de %1 ms n&apos;est pas un nombre entier de microsecondes jusqu&apos;à 65535, tout ce que SEG-Y peut contenir&#xa0;; écrivez en SEG-2</translation>
+    </message>
+    <message>
+        <source>it begins %1 ms after the shot, which SEG-Y cannot hold; write SEG-2</source>
+        <translation>il commence %1 ms après le tir, ce que SEG-Y ne peut pas contenir&#xa0;; écrivez en SEG-2</translation>
+    </message>
+    <message>
+        <source>it is miniSEED of version 3; version 2 is read</source>
+        <translation>c&apos;est du miniSEED de version 3&#xa0;; la version 2 est lue</translation>
+    </message>
+    <message>
+        <source>it is no miniSEED file</source>
+        <translation>ce n&apos;est pas un fichier miniSEED</translation>
+    </message>
+    <message>
+        <source>its records have no blockette 1000, which tells their encoding</source>
+        <translation>ses enregistrements n&apos;ont pas de blockette 1000, qui indique leur codage</translation>
+    </message>
+    <message>
+        <source>its samples have the encoding %1; 1, 3, 4, 5, 10 and 11 are read</source>
+        <translation>ses échantillons ont le codage %1&#xa0;; 1, 3, 4, 5, 10 et 11 sont lus</translation>
+    </message>
+    <message>
+        <source>none of its records has samples of a series</source>
+        <translation>aucun de ses enregistrements n&apos;a d&apos;échantillons d&apos;une série</translation>
+    </message>
+    <message>
+        <source>miniSEED tells neither positions nor the time of the shot: all positions are 0 and times count from the first sample; give the survey its geometry</source>
+        <translation>miniSEED n&apos;indique ni les positions ni l&apos;instant du tir&#xa0;: toutes les positions sont à 0 et les temps comptent à partir du premier échantillon&#xa0;; donnez au levé sa géométrie</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others; zeros stand in front</source>
+        <translation>enregistrement commençant plus tard que d&apos;autres (%1)&#xa0;; des zéros le précèdent</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others, by longer than it lasts; that is not applied and its times do not compare</source>
+        <translation>enregistrement commençant plus tard que d&apos;autres, de plus que sa durée (%1)&#xa0;; ce retard n&apos;est pas appliqué et les temps ne sont pas comparables</translation>
+    </message>
+    <message>
+        <source>zeros stand for gaps in the record of %1</source>
+        <translation>lacunes dans l&apos;enregistrement remplacées par des zéros (%1)</translation>
+    </message>
+    <message>
+        <source>records of %1 overlap; the later ones count</source>
+        <translation>enregistrements qui se recouvrent (%1)&#xa0;; les plus tardifs comptent</translation>
+    </message>
+    <message>
+        <source>records left out after a gap that is longer than what was recorded: %1</source>
+        <translation>enregistrements écartés après une lacune plus longue que ce qui a été enregistré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose sample rate is not that of the first of their channel: %1</source>
+        <translation>enregistrements écartés, de fréquence d&apos;échantillonnage autre que celle du premier de leur canal&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose encoding, such as %1, is not read: %2</source>
+        <translation>enregistrements écartés dont le codage, par exemple %1, n&apos;est pas lu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>records left out that have no samples of a series: %1</source>
+        <translation>enregistrements écartés, sans échantillons d&apos;une série&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>records left out that have no blockette 1000: %1</source>
+        <translation>enregistrements écartés, sans blockette 1000&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>bytes left out that are of no record: %1</source>
+        <translation>octets écartés qui ne sont d&apos;aucun enregistrement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>samples that headers promise and records do not hold: %1</source>
+        <translation>échantillons promis par les en-têtes et absents des enregistrements&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>damaged records, which do not end at the sample that they tell: %1</source>
+        <translation>enregistrements endommagés, qui ne finissent pas à l&apos;échantillon qu&apos;ils indiquent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins after the shot, by up to %2 ms; zeros stand in front, in whole samples</source>
+        <translation>enregistrement commençant après le tir, jusqu&apos;à %2 ms plus tard (%1)&#xa0;; des zéros le précèdent, en échantillons entiers</translation>
+    </message>
+    <message>
+        <source>the header of %1 says that the record begins up to %2 ms after the shot, longer than it lasts; that delay is not applied</source>
+        <translation>d&apos;après l&apos;en-tête, l&apos;enregistrement commence jusqu&apos;à %2 ms après le tir, plus que sa durée (%1)&#xa0;; ce délai n&apos;est pas appliqué</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells no %2; 0 stands for it</source>
+        <translation>donnée absente de l&apos;en-tête&#xa0;: %2 (%1)&#xa0;; 0 la remplace</translation>
+    </message>
+    <message>
+        <source>the UNITS of its header, %1, are not known; its positions were taken as metres</source>
+        <translation>la valeur UNITS de son en-tête, %1, n&apos;est pas connue&#xa0;; ses positions ont été prises en mètres</translation>
+    </message>
+    <message>
+        <source>its positions are in %1 and were converted to metres, %2 m each</source>
+        <translation>ses positions sont en %1 et ont été converties en mètres, à raison de %2 m</translation>
+    </message>
+    <message>
+        <source>its receiver positions look like longitude and latitude in degrees, not like metres; give the survey its geometry</source>
+        <translation>ses positions de récepteurs ressemblent à des longitudes et latitudes en degrés, pas à des mètres&#xa0;; donnez au levé sa géométrie</translation>
+    </message>
+    <message>
+        <source>its geophones differ in y but not in x; y was taken as the position along the line</source>
+        <translation>ses géophones diffèrent en y mais pas en x&#xa0;; y a été pris comme position le long de la ligne</translation>
+    </message>
+    <message>
+        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
+        <translation>tous ses géophones sont à x = %1 m&#xa0;; donnez au levé sa géométrie</translation>
+    </message>
+    <message>
+        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
+        <translation>ses géophones diffèrent jusqu&apos;à %1 m en y, qui n&apos;est pas utilisé&#xa0;; les positions le long de la ligne sont x</translation>
+    </message>
+    <message>
+        <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
+        <translation>ses numéros de canal ne sont pas croissants&#xa0;; les traces restent dans l&apos;ordre du fichier</translation>
+    </message>
+    <message>
+        <source>every trace tells a source position of its own; the file was read as one shot, at the first of them</source>
+        <translation>chaque trace indique sa propre position de source&#xa0;; le fichier a été lu comme un seul tir, à la première de ces positions</translation>
+    </message>
+    <message>
+        <source>it is no SEG-2 file</source>
+        <translation>ce n&apos;est pas un fichier SEG-2</translation>
+    </message>
+    <message>
+        <source>it holds no trace</source>
+        <translation>il ne contient aucune trace</translation>
+    </message>
+    <message>
+        <source>the samples of its trace %1 have the data format code %2; the codes of SEG-2 are 1 to 5</source>
+        <translation>les échantillons de sa trace %1 ont le code de format de données %2&#xa0;; les codes de SEG-2 vont de 1 à 5</translation>
+    </message>
+    <message>
+        <source>none of its traces has a usable SAMPLE_INTERVAL</source>
+        <translation>aucune de ses traces n&apos;a de SAMPLE_INTERVAL utilisable</translation>
+    </message>
+    <message>
+        <source>nothing is read of %1 since no trace block is where the pointer leads</source>
+        <translation>rien n&apos;est lu, car il n&apos;y a pas de bloc de trace là où mène le pointeur (%1)</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no usable SAMPLE_INTERVAL; that of another was taken</source>
+        <translation>l&apos;en-tête n&apos;a pas de SAMPLE_INTERVAL utilisable (%1)&#xa0;; celui d&apos;une autre trace a été retenu</translation>
+    </message>
+    <message>
+        <source>the DESCALING_FACTOR of %1 is no usable number; those samples are as stored</source>
+        <translation>DESCALING_FACTOR n&apos;est pas un nombre utilisable (%1)&#xa0;; ces échantillons sont tels qu&apos;écrits dans le fichier</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no DESCALING_FACTOR, as others have; those samples are as stored</source>
+        <translation>l&apos;en-tête n&apos;a pas de DESCALING_FACTOR, contrairement à d&apos;autres (%1)&#xa0;; ces échantillons sont tels qu&apos;écrits dans le fichier</translation>
+    </message>
+    <message>
+        <source>the STACK of %1 is no usable number and was taken as 1</source>
+        <translation>STACK n&apos;est pas un nombre utilisable et a été pris égal à 1 (%1)</translation>
+    </message>
+    <message>
+        <source>the DELAY of %1 is no finite number and was taken as 0</source>
+        <translation>DELAY n&apos;est pas un nombre fini et a été pris égal à 0 (%1)</translation>
+    </message>
+    <message>
+        <source>the SKEW of %1 is up to %2 ms beyond whole samples; that part is not applied</source>
+        <translation>SKEW dépasse les échantillons entiers, de %2 ms au plus (%1)&#xa0;; cette partie n&apos;est pas appliquée</translation>
+    </message>
+    <message>
+        <source>%1 bytes after its traces, zeros or too few for another one, were not read</source>
+        <translation>%1 octets après ses traces, des zéros ou trop peu pour une autre, n&apos;ont pas été lus</translation>
+    </message>
+    <message>
+        <source>the number of samples in %1 is not the %2 of the header of the file; the trace headers were believed</source>
+        <translation>le nombre d&apos;échantillons n&apos;est pas celui de l&apos;en-tête du fichier, %2 (%1)&#xa0;; les en-têtes de trace ont été crus</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells %2 samples, with which the traces do not fit the size of the file; %3 were taken</source>
+        <translation>l&apos;en-tête indique %2 échantillons (%1), avec lesquels les traces ne correspondent pas à la taille du fichier&#xa0;; %3 ont été retenus</translation>
+    </message>
+    <message>
+        <source>the traces, %1 among them, do not fit the size of the file with the %2 samples that its header tells; %3 were taken</source>
+        <translation>les traces, dont %1, ne correspondent pas à la taille du fichier avec les %2 échantillons indiqués par son en-tête&#xa0;; %3 ont été retenus</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells a sample interval of %2 microseconds; the %3 of the header of the file were taken</source>
+        <translation>l&apos;en-tête indique un pas d&apos;échantillonnage de %2 microsecondes (%1)&#xa0;; les %3 de l&apos;en-tête du fichier ont été retenues</translation>
+    </message>
+    <message>
+        <source>the sample interval of %1 is not the %2 microseconds of the header of the file; the trace headers were believed</source>
+        <translation>le pas d&apos;échantillonnage n&apos;est pas celui de l&apos;en-tête du fichier, %2 microsecondes (%1)&#xa0;; les en-têtes de trace ont été crus</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the coordinates of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>le facteur d&apos;échelle %1 des coordonnées n&apos;est pas de ceux que connaît la norme (%2)&#xa0;; elles ont été prises telles quelles</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the elevations of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>le facteur d&apos;échelle %1 des altitudes n&apos;est pas de ceux que connaît la norme (%2)&#xa0;; elles ont été prises telles quelles</translation>
+    </message>
+    <message>
+        <source>the coordinates of %1 are degrees or seconds of arc, no metres; x was taken as it stands, so load a geometry file</source>
+        <translation>les coordonnées sont en degrés ou en secondes d&apos;arc, pas en mètres (%1)&#xa0;; x a été pris tel quel, chargez donc un fichier de géométrie</translation>
+    </message>
+    <message>
+        <source>its coordinates do not tell the geophones apart; they were placed by their offsets (bytes 37 to 40) from the shot</source>
+        <translation>ses coordonnées ne distinguent pas les géophones&#xa0;; ils ont été placés d&apos;après leur déport (octets 37 à 40) par rapport au tir</translation>
+    </message>
+    <message>
+        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
+        <translation>ses en-têtes n&apos;indiquent aucune position&#xa0;; tirs et géophones sont tous à %1 m, chargez donc un fichier de géométrie</translation>
+    </message>
+    <message>
+        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
+        <translation>ses en-têtes placent les géophones de toutes les traces à %1 m&#xa0;; chargez un fichier de géométrie s&apos;il y en avait plus d&apos;un</translation>
+    </message>
+    <message>
+        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
+        <translation>des tirs sont jusqu&apos;à %1 m à côté de la ligne des géophones&#xa0;; x est pris tel quel</translation>
+    </message>
+    <message>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
+        <translation>ses coordonnées ne suivent pas x&#xa0;; les distances sont celles le long de la droite passant par les géophones, depuis le premier géophone de ce fichier, qui est à x %1, y %2&#xa0;; des géophones s&apos;en écartent jusqu&apos;à %3 m, des tirs jusqu&apos;à %4 m</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>d&apos;après ses en-têtes, les géophones s&apos;étendent sur %1 km&#xa0;; leur facteur d&apos;échelle ou leur unité est sans doute faux, vérifiez-les donc ou chargez un fichier de géométrie</translation>
+    </message>
+    <message>
+        <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
+        <translation>les altitudes ou les profondeurs de tir sont hors de tout terrain possible (%1)&#xa0;; les altitudes du fichier ont été prises égales à 0</translation>
+    </message>
+    <message>
+        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>des tirs sont jusqu&apos;à %1 m sous le sol&#xa0;; leurs altitudes sont celles des tirs, pas celles du sol au-dessus</translation>
+    </message>
+    <message>
+        <source>the shot depth of %1 is negative and was taken as 0</source>
+        <translation>la profondeur de tir est négative et a été prise égale à 0 (%1)</translation>
+    </message>
+    <message>
+        <source>its headers tell the elevations of geophones alone; shots were put at that of the geophone nearest to them</source>
+        <translation>ses en-têtes n&apos;indiquent que les altitudes des géophones&#xa0;; les tirs ont été placés à celle du géophone le plus proche</translation>
+    </message>
+    <message>
+        <source>the time scalar of %1 is none that the standard knows; the delay was taken as it stands</source>
+        <translation>le facteur d&apos;échelle des temps n&apos;est pas de ceux que connaît la norme (%1)&#xa0;; le délai a été pris tel quel</translation>
+    </message>
+    <message>
+        <source>all of its traces are marked as dead or auxiliary (bytes 29 and 30); the marks were not believed</source>
+        <translation>toutes ses traces sont marquées comme mortes ou auxiliaires (octets 29 et 30)&#xa0;; ces marques n&apos;ont pas été crues</translation>
+    </message>
+    <message>
+        <source>zeros stand for the samples of %1, marked as dead or as dummies (bytes 29 and 30)</source>
+        <translation>échantillons remplacés par des zéros (%1), marqués comme morts ou factices (octets 29 et 30)</translation>
+    </message>
+    <message>
+        <source>the samples of %1 were left out, marked as auxiliary (bytes 29 and 30: time breaks, upholes, sweeps and the like)</source>
+        <translation>échantillons écartés (%1), marqués comme auxiliaires (octets 29 et 30&#xa0;: instants de tir, temps verticaux, sweeps et autres)</translation>
+    </message>
+    <message>
+        <source>its traces are not in the order of shots, or the headers do not tell which belong together; they were taken as one shot</source>
+        <translation>ses traces ne sont pas dans l&apos;ordre des tirs, ou les en-têtes n&apos;indiquent pas lesquelles vont ensemble&#xa0;; elles ont été prises comme un seul tir</translation>
+    </message>
+    <message>
+        <source>its extended textual headers do not end in the file; it was read as if there were none</source>
+        <translation>ses en-têtes textuels étendus ne se terminent pas dans le fichier&#xa0;; il a été lu comme s&apos;il n&apos;y en avait pas</translation>
+    </message>
+    <message>
+        <source>its lengths are in feet (bytes 3255 and 3256) and were taken to metres</source>
+        <translation>ses longueurs sont en pieds (octets 3255 et 3256) et ont été converties en mètres</translation>
+    </message>
+    <message>
+        <source>its headers tell no number of samples</source>
+        <translation>ses en-têtes n&apos;indiquent pas le nombre d&apos;échantillons</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code 4 (fixed point with gain), which is not read; have the recording software export another one</source>
+        <translation>ses échantillons ont le code de format de données 4 (virgule fixe avec gain), qui n&apos;est pas lu&#xa0;; faites exporter un autre code par le logiciel d&apos;acquisition</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code %1, which the standard does not know; the file is damaged or no SEG-Y file</source>
+        <translation>ses échantillons ont le code de format de données %1, que la norme ne connaît pas&#xa0;; le fichier est endommagé ou n&apos;est pas un fichier SEG-Y</translation>
+    </message>
+    <message>
+        <source>the place of the first trace in its header (bytes 3521 to 3528) is not in the file and was not believed</source>
+        <translation>la position de la première trace dans son en-tête (octets 3521 à 3528) n&apos;est pas dans le fichier et n&apos;a pas été crue</translation>
+    </message>
+    <message>
+        <source>it is too short for a SEG-Y file with a trace</source>
+        <translation>il est trop court pour un fichier SEG-Y avec une trace</translation>
+    </message>
+    <message>
+        <source>its bytes are swapped in pairs, which is not read</source>
+        <translation>ses octets sont permutés deux à deux, ce qui n&apos;est pas lu</translation>
+    </message>
+    <message>
+        <source>field record (bytes 9 to 12)</source>
+        <translation>enregistrement de terrain (octets 9 à 12)</translation>
+    </message>
+    <message>
+        <source>energy source point (bytes 17 to 20)</source>
+        <translation>point source d&apos;énergie (octets 17 à 20)</translation>
+    </message>
+    <message>
+        <source>position of the source</source>
+        <translation>position de la source</translation>
+    </message>
+    <message>
+        <source>number of the trace in its record (bytes 13 to 16), which starts again</source>
+        <translation>numéro de la trace dans son enregistrement (octets 13 à 16), qui recommence</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>le fichier est vide</translation>
+    </message>
+    <message>
+        <source>it is a text file, and no record of shots in %1; open a table of picks or positions as travel times or geometry</source>
+        <translation>c&apos;est un fichier texte, pas un enregistrement de tirs en %1&#xa0;; ouvrez un tableau de pointés ou de positions comme temps de parcours ou géométrie</translation>
+    </message>
+    <message>
+        <source>by its content it is no file of %1</source>
+        <translation>d&apos;après son contenu, ce n&apos;est pas un fichier de l&apos;un des formats lus&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it holds %1 shots, told apart by %2</source>
+        <translation>il contient %1 tirs, distingués par&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>it is too short for an SU file with a trace</source>
+        <translation>il est trop court pour un fichier SU avec une trace</translation>
+    </message>
+    <message>
+        <source>its first trace tells no number of samples</source>
+        <translation>sa première trace n&apos;indique pas le nombre d&apos;échantillons</translation>
+    </message>
+    <message>
+        <source>all %1 traces</source>
+        <translation>les %1 traces</translation>
+    </message>
+    <message>
+        <source>it cannot be read back: %1</source>
+        <translation>il ne peut pas être relu&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>read back, string %1 will have another number of geophones</source>
+        <translation>à la relecture, le dispositif %1 aura un autre nombre de géophones</translation>
+    </message>
+    <message>
+        <source>the format has no place for the errors of the picks</source>
+        <translation>le format n&apos;a pas de place pour les erreurs des pointés</translation>
+    </message>
+    <message>
+        <source>it was read as %1; the reader of its suffix cannot read line %2</source>
+        <translation>il a été lu comme %1&#xa0;; le lecteur de son suffixe ne peut pas lire la ligne %2</translation>
+    </message>
+    <message>
+        <source>%1; as %2, line %3: %4</source>
+        <translation>%1&#xa0;; comme %2, ligne %3&#xa0;: %4</translation>
+    </message>
+    <message>
+        <source>shot %1: picks left out, as the shot is disabled or their traces are killed: %2</source>
+        <translation>tir %1&#xa0;: pointés écartés, car le tir est désactivé ou leurs traces sont neutralisées&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the file tells errors of its picks, which the survey does not keep</source>
+        <translation>le fichier indique des erreurs de ses pointés, que le levé ne conserve pas</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 lines</source>
+        <translation>le fichier se termine après %1 lignes sur %2</translation>
+    </message>
+    <message>
+        <source>the file holds no measurement</source>
+        <translation>le fichier ne contient aucune mesure</translation>
+    </message>
+    <message>
+        <source>no columns &quot;s&quot;, &quot;g&quot; and &quot;t&quot; are named above the numbers</source>
+        <translation>aucune colonne «&#xa0;s&#xa0;», «&#xa0;g&#xa0;» et «&#xa0;t&#xa0;» n&apos;est nommée au-dessus des nombres</translation>
+    </message>
+    <message>
+        <source>the unit of the column %1 is none of time</source>
+        <translation>l&apos;unité de la colonne %1 n&apos;est pas une unité de temps</translation>
+    </message>
+    <message>
+        <source>the line holds %1</source>
+        <translation>la ligne contient %1</translation>
+    </message>
+    <message>
+        <source>the %1 %2 is none of the %3 positions</source>
+        <translation>la valeur %2 (%1) n&apos;est aucune des %3 positions</translation>
+    </message>
+    <message>
+        <source>after the measurements neither the end nor a number of points of topography follows</source>
+        <translation>après les mesures ne suit ni la fin ni un nombre de points de topographie</translation>
+    </message>
+    <message>
+        <source>the second of three coordinates was not read</source>
+        <translation>la deuxième de trois coordonnées n&apos;a pas été lue</translation>
+    </message>
+    <message>
+        <source>the third coordinate is 0 everywhere; the second one was taken for the elevation</source>
+        <translation>la troisième coordonnée est partout 0&#xa0;; la deuxième a été prise comme altitude</translation>
+    </message>
+    <message>
+        <source>the positions have elevations; the topography was not used</source>
+        <translation>les positions ont des altitudes&#xa0;; la topographie n&apos;a pas été utilisée</translation>
+    </message>
+    <message>
+        <source>%1 positions are no shot and no geophone of any time; they were left out</source>
+        <translation>%1 positions ne sont ni le tir ni le géophone d&apos;aucun temps&#xa0;; elles ont été écartées</translation>
+    </message>
+    <message>
+        <source>%1 times are marked as not valid and are no picks</source>
+        <translation>%1 temps sont marqués comme non valides et ne sont pas des pointés</translation>
+    </message>
+    <message>
+        <source>%1 times are not above 0 and are no picks</source>
+        <translation>%1 temps ne sont pas supérieurs à 0 et ne sont pas des pointés</translation>
+    </message>
+    <message>
+        <source>%1 shots have no pick and are not in the file</source>
+        <translation>%1 tirs n&apos;ont aucun pointé et ne sont pas dans le fichier</translation>
+    </message>
+    <message>
+        <source>%1 geophones have no pick; the file has their positions only</source>
+        <translation>%1 géophones n&apos;ont aucun pointé&#xa0;; le fichier n&apos;a que leurs positions</translation>
+    </message>
+    <message>
+        <source>%1 shots lie at the place of another one; the file does not tell their picks apart</source>
+        <translation>%1 tirs sont à l&apos;endroit d&apos;un autre&#xa0;; le fichier ne distingue pas leurs pointés</translation>
+    </message>
+    <message>
+        <source>a trace without a sample interval cannot be shifted in time</source>
+        <translation>une trace sans pas d&apos;échantillonnage ne peut pas être décalée en temps</translation>
+    </message>
+    <message>
+        <source>a shift of %1 ms is longer than the record</source>
+        <translation>un décalage de %1 ms est plus long que l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>a shot is stacked with other shots of the survey, each once</source>
+        <translation>un tir se somme avec d&apos;autres tirs du levé, chacun une fois</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with it: its traces are of another number, sample interval or kind</source>
+        <translation>le tir %1 ne peut pas être sommé avec lui&#xa0;: ses traces sont d&apos;un autre nombre, pas d&apos;échantillonnage ou type</translation>
+    </message>
+    <message>
+        <source>shot %1 has no traces to mend</source>
+        <translation>le tir %1 n&apos;a pas de traces à corriger</translation>
+    </message>
+    <message>
+        <source>shot %1 has %2 traces, and mends of %3</source>
+        <translation>le tir %1 a %2 traces, et des corrections pour %3</translation>
+    </message>
+    <message>
+        <source>a trace cannot be muted before %1 ms</source>
+        <translation>une trace ne peut pas avoir de mute avant %1 ms</translation>
+    </message>
+    <message>
+        <source>a record cannot be shifted by %1 ms</source>
+        <translation>un enregistrement ne peut pas être décalé de %1 ms</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that have no place any more and are set aside: %2</source>
+        <translation>tir %1&#xa0;: pointés qui n&apos;ont plus de place et sont mis de côté&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that were set aside and are back: %2</source>
+        <translation>tir %1&#xa0;: pointés qui étaient mis de côté et sont revenus&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: filtered copies of traces that have changed are forgotten: %2; filter again if you need them</source>
+        <translation>tir %1&#xa0;: copies filtrées abandonnées de traces qui ont changé&#xa0;: %2&#xa0;; filtrez à nouveau si vous en avez besoin</translation>
+    </message>
+    <message>
+        <source>shot %1: its shift is taken as %2 ms, whole samples</source>
+        <translation>tir %1&#xa0;: son décalage est pris à %2 ms, en échantillons entiers</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with shot %2: they have other places, or geophones</source>
+        <translation>le tir %1 ne peut pas être sommé avec le tir %2&#xa0;: leurs endroits, ou leurs géophones, diffèrent</translation>
+    </message>
+    <message>
+        <source>traces killed: %1</source>
+        <translation>traces neutralisées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>traces with their polarity reversed: %1</source>
+        <translation>traces à polarité inversée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>traces muted before %1 ms: %2</source>
+        <translation>traces avec mute avant %1 ms&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>disabled: it has no picks and takes no part in anything</source>
+        <translation>désactivé&#xa0;: il n&apos;a pas de pointés et ne participe à rien</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was late</source>
+        <translation>décalé de %1 ms&#xa0;: son enregistrement était en retard</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was early</source>
+        <translation>décalé de %1 ms&#xa0;: son enregistrement était en avance</translation>
+    </message>
+    <message>
+        <source>order reversed: its channels ran against the geophones</source>
+        <translation>ordre inversé&#xa0;: ses canaux allaient à rebours des géophones</translation>
+    </message>
+    <message>
+        <source>stacked with shots: %1</source>
+        <translation>sommé avec les tirs&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Mend recordings</source>
+        <translation>Corriger les enregistrements</translation>
+    </message>
+    <message>
+        <source>Shot %1 is disabled and takes no picks; Mend recording enables it.</source>
+        <translation>Le tir %1 est désactivé et n&apos;accepte pas de pointés&#xa0;; «&#xa0;Corriger l&apos;enregistrement&#xa0;» le réactive.</translation>
+    </message>
+    <message>
+        <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
+        <translation>La trace %1 est neutralisée et n&apos;accepte pas de pointé&#xa0;; «&#xa0;Corriger l&apos;enregistrement&#xa0;» la rétablit.</translation>
     </message>
 </context>
 <context>
@@ -3434,6 +4648,104 @@ Veuillez définir la position des géophones
     </message>
 </context>
 <context>
+    <name>talvesk::ReadingPanel</name>
+    <message>
+        <source>Format:</source>
+        <translation>Format&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shots:</source>
+        <translation>Tirs&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Traces&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Échantillons par trace&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Pas d&apos;échantillonnage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Délai d&apos;enregistrement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shot at:</source>
+        <translation>Tir à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Geophones at:</source>
+        <translation>Géophones à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shot in view:</source>
+        <translation>Tir affiché&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No trace</source>
+        <translation>Aucune trace</translation>
+    </message>
+    <message>
+        <source>No warnings</source>
+        <translation>Aucun avertissement</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>non lu</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Nothing was read.</source>
+        <translation>Rien n&apos;a été lu.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReadingsDialog</name>
+    <message>
+        <source>The standard reads more</source>
+        <translation>La norme lit davantage</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules cannot carry all that these files hold. Read by the standard of their format they give more:</source>
+        <translation>Les règles du programme ne peuvent pas reprendre tout ce que contiennent ces fichiers. Lus selon la norme de leur format, ils donnent davantage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>What gets lost by the program&apos;s rules</source>
+        <translation>Ce qui est perdu selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>By the program&apos;s rules</source>
+        <translation>Selon les règles du programme</translation>
+    </message>
+    <message>
+        <source>By the standard</source>
+        <translation>Selon la norme</translation>
+    </message>
+    <message>
+        <source>Use the &amp;standard for these files</source>
+        <translation>&amp;Utiliser la norme pour ces fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the program&apos;s rules</source>
+        <translation>&amp;Garder les règles du programme</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -3527,6 +4839,26 @@ Veuillez définir la position des géophones
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Read by:</source>
+        <translation>Lu selon&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Mends:</source>
+        <translation>Corrections&#xa0;:</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>les règles du programme</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>la norme de son format</translation>
+    </message>
+    <message>
+        <source>the standard of its format; record %1 of the file, %2</source>
+        <translation>la norme de son format&#xa0;; enregistrement %1 du fichier, %2</translation>
     </message>
 </context>
 <context>
@@ -4191,20 +5523,12 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Aucune grille n&apos;a été construite et rien n&apos;a été inversé.</translation>
     </message>
     <message>
-        <source>Nothing has been inverted: the grid holds its starting model.</source>
-        <translation>Rien n&apos;a été inversé&#xa0;: la grille contient son modèle initial.</translation>
-    </message>
-    <message>
         <source>The parameters of the inversion are not known.</source>
         <translation>Les paramètres de l&apos;inversion ne sont pas connus.</translation>
     </message>
     <message>
         <source>Velocity section</source>
         <translation>Coupe de vitesse</translation>
-    </message>
-    <message>
-        <source>Velocity of the starting model</source>
-        <translation>Vitesse du modèle initial</translation>
     </message>
     <message>
         <source>Misfit</source>
@@ -4546,6 +5870,30 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
         <translation>Tirs : %1 ; géophones : %2 ; pointés : %3 sur %4</translation>
     </message>
+    <message>
+        <source>No result of an inversion is known: the grid has the velocities that it was left with.</source>
+        <translation>Aucun résultat d&apos;inversion n&apos;est connu&#xa0;: la grille a les vitesses dans lesquelles elle a été laissée.</translation>
+    </message>
+    <message>
+        <source>Velocities of the grid</source>
+        <translation>Vitesses de la grille</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Corrections</translation>
+    </message>
+    <message>
+        <source>The recordings of these shots are put right as listed. All figures and times of this report are of the mended recordings.</source>
+        <translation>Les enregistrements de ces tirs sont corrigés comme indiqué. Toutes les figures et tous les temps de ce rapport sont ceux des enregistrements corrigés.</translation>
+    </message>
+    <message>
+        <source>Mends of recordings</source>
+        <translation>Corrections des enregistrements</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -4693,44 +6041,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
 </context>
 <context>
-    <name>talvesk::SectionSheet</name>
-    <message>
-        <source>Geophones</source>
-        <translation>Géophones</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Tirs</translation>
-    </message>
-    <message>
-        <source>Contours</source>
-        <translation>Isolignes</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ray(s)</source>
-        <translation>
-            <numerusform>%n rai</numerusform>
-            <numerusform>%n rais</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Coverage limit</source>
-        <translation>Limite de couverture</translation>
-    </message>
-    <message>
-        <source>Distance [m]</source>
-        <translation>Distance [m]</translation>
-    </message>
-    <message>
-        <source>Elevation [m]</source>
-        <translation>Altitude [m]</translation>
-    </message>
-    <message>
-        <source>Vertical exaggeration %1×</source>
-        <translation>Exagération verticale %1×</translation>
-    </message>
-</context>
-<context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
@@ -4860,7 +6170,7 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
     <message>
         <source>&amp;Memory for undo:</source>
-        <translation>&amp;Mémoire pour défaire :</translation>
+        <translation>&amp;Mémoire pour défaire&#xa0;:</translation>
     </message>
     <message>
         <source>When the steps that can be undone need more, the oldest go.</source>
@@ -4869,6 +6179,25 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source> MB</source>
         <translation> Mo</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotFileDialog</name>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>les règles du programme</translation>
+    </message>
+    <message>
+        <source>the standard</source>
+        <translation>la norme</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules read shot files as this program always has. The standard reads what their content says, whatever their suffix: other sample formats and byte orders, scaled coordinates, delays, files of several shots.</source>
+        <translation>Les règles du programme lisent les fichiers de tirs comme ce programme l&apos;a toujours fait. La norme lit ce que dit leur contenu, quel que soit leur suffixe&#xa0;: autres formats d&apos;échantillons et ordres des octets, coordonnées avec facteur d&apos;échelle, délais, fichiers de plusieurs tirs.</translation>
+    </message>
+    <message>
+        <source>&amp;Read shot files by:</source>
+        <translation>&amp;Lire les fichiers de tirs selon&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -6395,11 +7724,11 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     </message>
     <message>
         <source>Undo &quot;%1&quot;</source>
-        <translation>Défaire « %1 »</translation>
+        <translation>Défaire «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Redo &quot;%1&quot;</source>
-        <translation>Refaire « %1 »</translation>
+        <translation>Refaire «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Undone: %1</source>
@@ -6415,11 +7744,151 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     </message>
     <message>
         <source>Shot %1 is removed; Undo brings it back.</source>
-        <translation>Le tir %1 est supprimé ; « Défaire » le rétablit.</translation>
+        <translation>Le tir %1 est supprimé&#xa0;; «&#xa0;Défaire&#xa0;» le rétablit.</translation>
     </message>
     <message>
         <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
-        <translation>Les modifications les plus anciennes ne peuvent plus être défaites : elles demandaient plus de %1 Mo.</translation>
+        <translation>Les modifications les plus anciennes ne peuvent plus être défaites&#xa0;: elles demandaient plus de %1 Mo.</translation>
+    </message>
+    <message>
+        <source>Export recordings...</source>
+        <translation>Exporter les enregistrements...</translation>
+    </message>
+    <message>
+        <source>Write the traces of all shots, with the positions of the survey, as SEG-Y or SEG-2 files</source>
+        <translation>Écrire les traces de tous les tirs, avec les positions du levé, en fichiers SEG-Y ou SEG-2</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Compter les temps à partir du tir</translation>
+    </message>
+    <message>
+        <source>Drop what was recorded before the shot; picks move with their traces</source>
+        <translation>Retirer ce qui a été enregistré avant le tir&#xa0;; les pointés suivent leurs traces</translation>
+    </message>
+    <message>
+        <source>Mend recording...</source>
+        <translation>Corriger l&apos;enregistrement...</translation>
+    </message>
+    <message>
+        <source>Put right the time, the order or single traces of the shot in view; what was recorded is kept</source>
+        <translation>Rectifier le temps, l&apos;ordre ou certaines traces du tir affiché&#xa0;; ce qui a été enregistré est conservé</translation>
+    </message>
+    <message>
+        <source>Take back all mends</source>
+        <translation>Retirer toutes les corrections</translation>
+    </message>
+    <message>
+        <source>Show all recordings as they were recorded, with their picks</source>
+        <translation>Afficher tous les enregistrements tels qu&apos;enregistrés, avec leurs pointés</translation>
+    </message>
+    <message>
+        <source>%1 of them are of disabled shots or killed and left unpicked.</source>
+        <translation>%1 d&apos;entre elles, de tirs désactivés ou neutralisées, n&apos;ont pas été pointées.</translation>
+    </message>
+    <message>
+        <source>SEG-Y, a file for each shot</source>
+        <translation>SEG-Y, un fichier par tir</translation>
+    </message>
+    <message>
+        <source>SEG-Y, all shots in one file</source>
+        <translation>SEG-Y, tous les tirs dans un fichier</translation>
+    </message>
+    <message>
+        <source>SEG-2, a file for each shot</source>
+        <translation>SEG-2, un fichier par tir</translation>
+    </message>
+    <message>
+        <source>Export recordings</source>
+        <translation>Exporter les enregistrements</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Folder for the recordings</source>
+        <translation>Dossier des enregistrements</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey.</source>
+        <translation>%1 est l&apos;un des fichiers de tirs de ce levé.</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>Writing recordings ...</source>
+        <translation>Écriture des enregistrements ...</translation>
+    </message>
+    <message>
+        <source>The export to %1 was stopped; some files are missing.</source>
+        <translation>L&apos;exportation vers %1 a été interrompue&#xa0;; des fichiers manquent.</translation>
+    </message>
+    <message>
+        <source>The recordings have not been exported.</source>
+        <translation>Les enregistrements n&apos;ont pas été exportés.</translation>
+    </message>
+    <message>
+        <source>Recordings saved in %1</source>
+        <translation>Enregistrements sauvegardés dans %1</translation>
+    </message>
+    <message>
+        <source>The recordings have been saved.</source>
+        <translation>Les enregistrements ont été sauvegardés.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The times of %n trace(s) count from the shot now.</source>
+        <translation>
+            <numerusform>Les temps de %n trace comptent maintenant à partir du tir.</numerusform>
+            <numerusform>Les temps de %n traces comptent maintenant à partir du tir.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pick(s) lay before it and are removed.</source>
+        <translation>
+            <numerusform>%n pointé se trouvait avant et est supprimé.</numerusform>
+            <numerusform>%n pointés se trouvaient avant et sont supprimés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The recording of shot %1 has not been mended.</source>
+        <translation>L&apos;enregistrement du tir %1 n&apos;a pas été corrigé.</translation>
+    </message>
+    <message>
+        <source>The mends have not been taken back.</source>
+        <translation>Les corrections n&apos;ont pas été retirées.</translation>
+    </message>
+    <message>
+        <source>%1 (disabled)</source>
+        <comment>shot</comment>
+        <translation>%1 (désactivé)</translation>
+    </message>
+    <message>
+        <source>%1 (mended)</source>
+        <comment>shot</comment>
+        <translation>%1 (corrigé)</translation>
+    </message>
+    <message>
+        <source>disabled or killed</source>
+        <translation>tir désactivé ou trace neutralisée</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>millisecondes</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>secondes</translation>
+    </message>
+    <message>
+        <source>%1 does not say in which unit its times are.</source>
+        <translation>%1 n&apos;indique pas dans quelle unité sont ses temps.</translation>
+    </message>
+    <message>
+        <source>%1 does not hold all of the survey.</source>
+        <translation>%1 ne contient pas tout le levé.</translation>
     </message>
 </context>
 <context>
@@ -7043,10 +8512,6 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Des cellules si petites rendent l&apos;inversion très lente, et elle ne s&apos;arrête qu&apos;entre deux itérations. Le quart de l&apos;espacement des géophones est de %1&#xa0;m.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Les résultats de la dernière inversion seront perdus.</translation>
-    </message>
-    <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
         <translation>Le quart du plus petit espacement des géophones, 0,1 m au moins. Décochée&#xa0;: la taille des cellules de la grille existante, la plus petite s&apos;il n&apos;y en a pas.</translation>
     </message>
@@ -7065,6 +8530,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Les résultats de la dernière inversion seront supprimés («&#xa0;Défaire&#xa0;» les rétablit).</translation>
     </message>
 </context>
 <context>
@@ -7347,16 +8816,16 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Les couches ne forment pas un modèle de vitesse.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>Les résultats de la dernière inversion seront perdus.</translation>
-    </message>
-    <message>
         <source>Do you want to put them into the grid all the same?</source>
         <translation>Voulez-vous tout de même les mettre dans la grille&#xa0;?</translation>
     </message>
     <message>
         <source>You have not changed the layers.</source>
         <translation>Vous n&apos;avez pas modifié les couches.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Les résultats de la dernière inversion seront supprimés («&#xa0;Défaire&#xa0;» les rétablit).</translation>
     </message>
 </context>
 <context>

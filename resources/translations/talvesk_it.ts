@@ -498,6 +498,52 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Its numbers were cut at their decimal commas: they need points.</source>
         <translation>I numeri sono stati troncati alla virgola: serve il punto decimale.</translation>
     </message>
+    <message>
+        <source>Elevations from table</source>
+        <translation>Quote da tabella</translation>
+    </message>
+    <message>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
+        <translation>Dà a tutti i geofoni e i tiri le quote di una tabella di distanze e quote</translation>
+    </message>
+    <message>
+        <source>&amp;Straight from point to point ...</source>
+        <translation>In linea &amp;retta da punto a punto ...</translation>
+    </message>
+    <message>
+        <source>Along a s&amp;mooth curve ...</source>
+        <translation>Lungo una c&amp;urva continua ...</translation>
+    </message>
+    <message>
+        <source>It was read by the names of its columns.</source>
+        <translation>Il file è stato letto secondo i nomi delle colonne.</translation>
+    </message>
+    <message>
+        <source>Open Elevations</source>
+        <translation>Apri quote</translation>
+    </message>
+    <message>
+        <source>Tables of distances and elevations (*.csv *.txt *.dat *.xyz *.tsv);;All Files (*)</source>
+        <translation>Tabelle di distanze e quote (*.csv *.txt *.dat *.xyz *.tsv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>The elevations have not been taken.</source>
+        <translation>Le quote non sono state prese.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elevation(s) taken from the table.</source>
+        <translation>
+            <numerusform>%n quota presa dalla tabella.</numerusform>
+            <numerusform>%n quote prese dalla tabella.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <translation>
+            <numerusform>%n posizione è oltre i suoi estremi, da %1 a %2 m, e ha ricevuto la quota dell&apos;estremo.</numerusform>
+            <numerusform>%n posizioni sono oltre i suoi estremi, da %1 a %2 m, e hanno ricevuto la quota dell&apos;estremo.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ExportTomoVelData</name>
@@ -788,6 +834,38 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>smoothed since the inversion</source>
         <translation>smussata dopo l&apos;inversione</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>tiro disattivato</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>traslazione di %1 ms</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>ordine invertito</translation>
+    </message>
+    <message>
+        <source>stacked with %1</source>
+        <comment>shots</comment>
+        <translation>somma con %1</translation>
+    </message>
+    <message>
+        <source>%1 killed</source>
+        <comment>traces</comment>
+        <translation>esclusione di %1</translation>
+    </message>
+    <message>
+        <source>%1 of reversed polarity</source>
+        <comment>traces</comment>
+        <translation>%1 con polarità invertita</translation>
+    </message>
+    <message>
+        <source>%1 muted</source>
+        <comment>traces</comment>
+        <translation>azzeramento iniziale di %1</translation>
     </message>
 </context>
 <context>
@@ -1382,12 +1460,92 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Attenzione</translation>
     </message>
     <message>
-        <source>The survey changes. This will be lost:</source>
-        <translation>Il rilievo cambia. Andranno persi:</translation>
-    </message>
-    <message>
         <source>Do you want to continue?</source>
         <translation>Vuoi continuare?</translation>
+    </message>
+    <message>
+        <source>The survey changes. This will be removed (Undo brings it back):</source>
+        <translation>Il rilievo cambia. Verranno tolti (&quot;Annulla modifica&quot; li ripristina):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MendDialog</name>
+    <message>
+        <source>Mend recording</source>
+        <translation>Correggi la registrazione</translation>
+    </message>
+    <message>
+        <source>What was recorded is kept: everything here can be taken back at any time. Picks move with the recording.</source>
+        <translation>Ciò che è stato registrato si conserva: qui tutto si può togliere in qualsiasi momento. I primi arrivi si spostano con la registrazione.</translation>
+    </message>
+    <message>
+        <source>&amp;The record was late by:</source>
+        <translation>La registrazione era in &amp;ritardo di:</translation>
+    </message>
+    <message>
+        <source>Positive: the front of the record goes, and picks become earlier. Negative: the record was early. Whole samples are taken.</source>
+        <translation>Positivo: l&apos;inizio della registrazione viene tolto e i primi arrivi si anticipano. Negativo: la registrazione era in anticipo. Si prendono campioni interi.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Its picks are set aside and come back with it</source>
+        <translation>I suoi primi arrivi sono messi da parte e tornano con esso</translation>
+    </message>
+    <message>
+        <source>&amp;Disabled: the shot has no picks and takes no part</source>
+        <translation>&amp;Disattivato: il tiro non ha primi arrivi e non partecipa a nulla</translation>
+    </message>
+    <message>
+        <source>The last channel goes to the first geophone, with its pick</source>
+        <translation>L&apos;ultimo canale va al primo geofono, con il suo primo arrivo</translation>
+    </message>
+    <message>
+        <source>&amp;Order reversed: the channels run against the geophones</source>
+        <translation>&amp;Ordine invertito: i canali vanno in senso contrario ai geofoni</translation>
+    </message>
+    <message>
+        <source>&amp;Stack with:</source>
+        <translation>&amp;Somma con:</translation>
+    </message>
+    <message>
+        <source>Shots of the same place and geophones; the mean of their samples is shown and picked</source>
+        <translation>Tiri con stessa posizione e stessi geofoni; si mostra la media dei campioni, e su di essa si segnano i primi arrivi</translation>
+    </message>
+    <message>
+        <source>Disable &amp;the shots that it is stacked with</source>
+        <translation>Disattiva &amp;i tiri con cui è sommato</translation>
+    </message>
+    <message>
+        <source>No other shot has the same place, geophones and sample interval.</source>
+        <translation>Nessun altro tiro ha la stessa posizione, gli stessi geofoni e lo stesso intervallo di campionamento.</translation>
+    </message>
+    <message>
+        <source>Traces of the shot</source>
+        <translation>Tracce del tiro</translation>
+    </message>
+    <message>
+        <source>Killed</source>
+        <translation>Esclusa</translation>
+    </message>
+    <message>
+        <source>Polarity reversed</source>
+        <translation>Polarità invertita</translation>
+    </message>
+    <message>
+        <source>Muted before</source>
+        <translation>Azzerata prima di</translation>
+    </message>
+    <message>
+        <source>Mend recording of shot %1</source>
+        <translation>Correggi la registrazione del tiro %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>shot number, file name</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3248,6 +3406,1062 @@ Impostare la posizione dei geofoni
         <source>Draw picks</source>
         <translation>Traccia i primi arrivi</translation>
     </message>
+    <message>
+        <source>the survey has no such shot; check the recordings again</source>
+        <translation>il rilievo non ha questo tiro; controllare di nuovo le registrazioni</translation>
+    </message>
+    <message>
+        <source>shot %1: a position is missing, no number or absurdly far away</source>
+        <translation>tiro %1: una posizione manca, non è un numero o è assurdamente lontana</translation>
+    </message>
+    <message>
+        <source>shot %1: its geophone string has another number of geophones than the proposal; check the recordings again</source>
+        <translation>tiro %1: la sua stesa ha un numero di geofoni diverso dalla proposta; controllare di nuovo le registrazioni</translation>
+    </message>
+    <message>
+        <source>there is no trace %1; check the recordings again</source>
+        <translation>la traccia %1 non esiste; controllare di nuovo le registrazioni</translation>
+    </message>
+    <message>
+        <source>no trace of the record holds anything</source>
+        <translation>nessuna traccia della registrazione contiene qualcosa</translation>
+    </message>
+    <message>
+        <source>dead: the samples of %1 are all the same</source>
+        <translation>segnale assente (%1): i campioni sono tutti uguali</translation>
+    </message>
+    <message>
+        <source>as good as dead: %1, at down to %2 % of the strength of the neighbours</source>
+        <translation>segnale quasi assente (%1): fino al %2 % dell&apos;ampiezza delle tracce vicine</translation>
+    </message>
+    <message>
+        <source>clipped: the swings of %1 are cut off flat, up to %2 times; first breaks can be picked, amplitudes mean nothing</source>
+        <translation>saturazione (%1): le oscillazioni sono troncate in piano, fino a %2 volte; i primi arrivi si possono segnare, le ampiezze non hanno significato</translation>
+    </message>
+    <message>
+        <source>noisy: before the first arrival of %1 there is up to %2 times the noise of the neighbours, and it drowns the arrival</source>
+        <translation>rumore (%1): prima del primo arrivo il rumore è fino a %2 volte quello delle tracce vicine, e copre l&apos;arrivo</translation>
+    </message>
+    <message>
+        <source>doubled: trace %1 is trace %2 once more (correlation %3); the arrivals around say that it belongs to the latter</source>
+        <translation>doppione: la traccia %1 è di nuovo la traccia %2 (correlazione %3); secondo gli arrivi vicini il segnale è di quest&apos;ultima</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>traces %1</source>
+        <translation>tracce %1</translation>
+    </message>
+    <message>
+        <source>shots %1</source>
+        <translation>tiri %1</translation>
+    </message>
+    <message>
+        <source>shot position</source>
+        <translation>posizione del tiro</translation>
+    </message>
+    <message>
+        <source>station numbers</source>
+        <translation>numeri di stazione</translation>
+    </message>
+    <message>
+        <source>repeated positions</source>
+        <translation>posizioni ripetute</translation>
+    </message>
+    <message>
+        <source>reversed order</source>
+        <translation>ordine invertito</translation>
+    </message>
+    <message>
+        <source>doubled trace</source>
+        <translation>traccia doppia</translation>
+    </message>
+    <message>
+        <source>moved traces</source>
+        <translation>tracce scambiate</translation>
+    </message>
+    <message>
+        <source>geophone off the line</source>
+        <translation>geofono fuori posto</translation>
+    </message>
+    <message>
+        <source>trigger time</source>
+        <translation>tempo di trigger</translation>
+    </message>
+    <message>
+        <source>dead traces</source>
+        <translation>tracce morte</translation>
+    </message>
+    <message>
+        <source>clipped traces</source>
+        <translation>tracce saturate</translation>
+    </message>
+    <message>
+        <source>noisy traces</source>
+        <translation>tracce rumorose</translation>
+    </message>
+    <message>
+        <source>reversed polarity</source>
+        <translation>polarità invertita</translation>
+    </message>
+    <message>
+        <source>mistimed trace</source>
+        <translation>traccia fuori tempo</translation>
+    </message>
+    <message>
+        <source>sample intervals</source>
+        <translation>intervalli di campionamento</translation>
+    </message>
+    <message>
+        <source>repeated shot</source>
+        <translation>tiro ripetuto</translation>
+    </message>
+    <message>
+        <source>overlapping spreads</source>
+        <translation>stese sovrapposte</translation>
+    </message>
+    <message>
+        <source>no elevations</source>
+        <translation>quote assenti</translation>
+    </message>
+    <message>
+        <source>move the record later by %1 ms</source>
+        <translation>ritardare la registrazione di %1 ms</translation>
+    </message>
+    <message>
+        <source>move the record earlier by %1 ms</source>
+        <translation>anticipare la registrazione di %1 ms</translation>
+    </message>
+    <message>
+        <source>kill %1</source>
+        <translation>escludere: %1</translation>
+    </message>
+    <message>
+        <source>reverse the polarity of %1</source>
+        <translation>invertire la polarità: %1</translation>
+    </message>
+    <message>
+        <source>mute %1 before %2 ms</source>
+        <translation>azzerare prima di %2 ms: %1</translation>
+    </message>
+    <message>
+        <source>read the channels from the last to the first</source>
+        <translation>leggere i canali dall&apos;ultimo al primo</translation>
+    </message>
+    <message>
+        <source>put the shot at %1 m</source>
+        <translation>mettere il tiro a %1 m</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3 m</source>
+        <translation>mettere i %1 geofoni della sua stesa da %2 a %3 m</translation>
+    </message>
+    <message>
+        <source>stack it with %1; the stack alone counts then</source>
+        <translation>sommarlo con altri (%1); conta allora soltanto la somma</translation>
+    </message>
+    <message>
+        <source>disable the shot</source>
+        <translation>disattivare il tiro</translation>
+    </message>
+    <message>
+        <source>exchanged: over all shots the arrivals of trace %1 belong to the place of trace %2, and the other way round</source>
+        <translation>scambio: in tutti i tiri gli arrivi della traccia %1 corrispondono al posto della traccia %2, e viceversa</translation>
+    </message>
+    <message>
+        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
+        <translation>fuori posto: il geofono %1 è indicato a %2 m; da entrambi i lati i suoi arrivi sono quelli di %3 m</translation>
+    </message>
+    <message>
+        <source>%1 geophones are said to be at %2 places only</source>
+        <translation>%1 geofoni sono indicati in sole %2 posizioni</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
+        <translation>%1; su %2 tiri i tempi minimi si spostano di %3 canali per ogni metro del tiro: il geofono 1 è quindi a %4 m e l&apos;ultimo a %5 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>il tiro è indicato a %1 m; il nome del file dice %2 m, e i tempi minimi del rilievo seguono i nomi</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
+        <translation>il tiro è indicato alla quota di %1 m, e i geofoni non hanno quote plausibili</translation>
+    </message>
+    <message>
+        <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
+        <translation>i canali vanno in senso contrario ai geofoni: i tempi minimi di %1 tiri su %2 sono accanto al tiro solo se la stesa si legge dall&apos;ultimo geofono al primo</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
+        <translation>tutti i tiri sono indicati a %1 m; il nome del file dice %2 m, e i tempi minimi del rilievo seguono i nomi</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
+        <translation>tutti i tiri sono indicati a %1 m; i tempi di questo sono minimi a %2 m</translation>
+    </message>
+    <message>
+        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
+        <translation>tutti i tiri sono indicati a %1 m; questo era a un estremo dei geofoni o oltre</translation>
+    </message>
+    <message>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
+        <translation>i canali di questa registrazione vanno in senso contrario ai geofoni: letti dall&apos;ultimo al primo, i tempi sono minimi accanto al tiro a %1 m</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>il tiro è indicato a %1 m, ma i tempi crescono da %2 m in poi lungo tutti i geofoni: era a quell&apos;estremo o oltre</translation>
+    </message>
+    <message>
+        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
+        <translation>il tiro è indicato a %1 m, ma i tempi sono minimi a %2 m, accanto al geofono %3, e crescono da entrambi i lati</translation>
+    </message>
+    <message>
+        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
+        <translation>%1; oppure i geofoni distano %2 m e non %3 m, e nessun altro tiro permette di deciderlo</translation>
+    </message>
+    <message>
+        <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
+        <translation>fuori tempo: la traccia %1 ha il primo arrivo a %2 ms, le vicine lo fanno attendere a %3 ms, e dall&apos;arrivo in poi somiglia a loro (correlazione %4)</translation>
+    </message>
+    <message>
+        <source>reversed: the first swings of %1 go against those of the neighbours, which agree with each other (correlation -%2 at least)</source>
+        <translation>polarità invertita (%1): le prime oscillazioni sono opposte a quelle delle tracce vicine, concordi fra loro (correlazione almeno -%2)</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
+        <translation>il tiro %1 è stato registrato nello stesso punto, a %2 m, con un rapporto segnale/rumore %3 volte quello di questo</translation>
+    </message>
+    <message>
+        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
+        <translation>il tiro %1 è stato registrato nello stesso punto, a %2 m; i suoi arrivi sono in ritardo di %3 ms</translation>
+    </message>
+    <message>
+        <source>the record is that of shot %1 once more, sample for sample</source>
+        <translation>la registrazione è di nuovo quella del tiro %1, campione per campione</translation>
+    </message>
+    <message>
+        <source>the sample intervals of its traces differ, %1 to %2 ms: the times of some are wrong unless the recorder meant it</source>
+        <translation>gli intervalli di campionamento delle tracce sono diversi, da %1 a %2 ms: i tempi di alcune sono sbagliati, a meno che lo strumento non fosse impostato così</translation>
+    </message>
+    <message>
+        <source>its traces have no sample interval: they have no times</source>
+        <translation>le tracce non hanno intervallo di campionamento, quindi nemmeno tempi</translation>
+    </message>
+    <message>
+        <source>the sample interval is %2 ms in %1, and %3 ms in most others: right if the recorder was set so</source>
+        <translation>l&apos;intervallo di campionamento è %2 ms (%1), e %3 ms in quasi tutti gli altri tiri: va bene se lo strumento era impostato così</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>nessun geofono fra %1 e %2 m: il terreno lì non si vede da nessun lato, se non vi sono tiri che lo attraversano</translation>
+    </message>
+    <message>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
+        <translation>le stese %1 e %2 si sovrappongono e hanno quote diverse in %3 punti, fino a %4 m di differenza a %5 m</translation>
+    </message>
+    <message>
+        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>quote assenti: tutti i tiri e i geofoni sono a %1 m; se il terreno non è piano, leggerle da una tabella nella geometria del rilievo</translation>
+    </message>
+    <message>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
+        <translation>la posizione %1 del tiro conta stazioni: su %2 tiri i tempi minimi si spostano di %3 m per ogni unità della posizione</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
+        <translation>le posizioni dei geofoni non sono metri: su %1 tiri i tempi minimi si spostano di %2 per ogni metro del tiro; con geofoni ogni %3 m a partire da %4 m cadono accanto ai tiri</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation>in ritardo</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation>in anticipo</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: %3 times to the places of other shots differ by that from the times back, give or take %4 ms</source>
+        <translation>la registrazione è %2 di %1 ms: di tanto differiscono %3 tempi verso le posizioni di altri tiri dai loro reciproci, con un margine di %4 ms</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: its times differ by that from those of %3 other shots at equal distances, give or take %4 ms</source>
+        <translation>la registrazione è %2 di circa %1 ms: di tanto differiscono i suoi tempi da quelli di altri %3 tiri a pari distanza, con un margine di %4 ms</translation>
+    </message>
+    <message>
+        <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
+        <translation>la registrazione è %2 di %1 ms: tutti i canali hanno insieme un impulso a %3 ms, prima che qualcosa possa essere arrivato</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>la registrazione è %2 di circa %1 ms: secondo i geofoni più vicini al tiro, a %3 m, l&apos;energizzazione sarebbe fra %4 e %5 ms, qualunque sia il terreno</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it has %1 columns and no heading that names one for the distance and one for the elevation</source>
+        <translation>ha %1 colonne e nessuna intestazione che ne indichi una per la distanza e una per la quota</translation>
+    </message>
+    <message>
+        <source>it holds no point</source>
+        <translation>non contiene punti</translation>
+    </message>
+    <message>
+        <source>Unified data format (%1)</source>
+        <translation>Formato di dati unificato (%1)</translation>
+    </message>
+    <message>
+        <source>no heading names shot, geophone and time</source>
+        <translation>nessuna intestazione indica tiro, geofono e tempo</translation>
+    </message>
+    <message>
+        <source>%1 lines above the heading were ignored</source>
+        <translation>le righe sopra l&apos;intestazione (%1) sono state ignorate</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 were taken for positions in metres</source>
+        <translation>le colonne %1 e %2 sono state prese come posizioni in metri</translation>
+    </message>
+    <message>
+        <source>the heading does not say whether its times are in ms or in s</source>
+        <translation>l&apos;intestazione non dice se i tempi sono in ms o in s</translation>
+    </message>
+    <message>
+        <source>no row follows the heading</source>
+        <translation>nessuna riga segue l&apos;intestazione</translation>
+    </message>
+    <message>
+        <source>there are more than %1 geophones</source>
+        <translation>ci sono più di %1 geofoni</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows have no time above 0, or are not valid, and are no picks</source>
+        <translation>%1 righe su %2 non hanno un tempo maggiore di 0, o non sono valide, e non sono primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 shots and %2 geophones are far too many for %3 rows</source>
+        <translation>%1 tiri e %2 geofoni sono troppi per %3 righe</translation>
+    </message>
+    <message>
+        <source>no column tells the elevations of the shots; they were put on the line of the geophones</source>
+        <translation>nessuna colonna indica le quote dei tiri; sono stati messi sulla linea dei geofoni</translation>
+    </message>
+    <message>
+        <source>no heading names a column for the distance and one for the elevation</source>
+        <translation>nessuna intestazione indica una colonna per la distanza e una per la quota</translation>
+    </message>
+    <message>
+        <source>the unified data format</source>
+        <translation>formato di dati unificato</translation>
+    </message>
+    <message>
+        <source>a table with a heading</source>
+        <translation>tabella con intestazione</translation>
+    </message>
+    <message>
+        <source>a pick table of long lines</source>
+        <translation>tabella di primi arrivi con righe lunghe</translation>
+    </message>
+    <message>
+        <source>%1 times are of a shot and geophone that had one already; the first of them counts</source>
+        <translation>%1 tempi sono di un tiro e di un geofono che ne avevano già uno; vale il primo</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>posizione</translation>
+    </message>
+    <message>
+        <source>number of positions</source>
+        <translation>numero delle posizioni</translation>
+    </message>
+    <message>
+        <source>number of measurements</source>
+        <translation>numero delle misure</translation>
+    </message>
+    <message>
+        <source>number of points of topography</source>
+        <translation>numero dei punti della topografia</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>colonna %1</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is not a number</source>
+        <translation>%1: %2 non è un numero</translation>
+    </message>
+    <message>
+        <source>in %1 stands %2, which is out of range</source>
+        <translation>%1: %2 è fuori intervallo</translation>
+    </message>
+    <message>
+        <source>all shot files count as read by the program&apos;s rules; the traces are those that were saved</source>
+        <translation>tutti i file dei tiri valgono come letti secondo le regole del programma; le tracce sono quelle salvate</translation>
+    </message>
+    <message>
+        <source>what was mended in its recordings is not known; traces and picks stay as they are</source>
+        <translation>le correzioni alle sue registrazioni non sono note; tracce e primi arrivi restano come sono</translation>
+    </message>
+    <message>
+        <source>there is a grid, but a position lies more than 100 000 km away</source>
+        <translation>c&apos;è una griglia, ma una posizione è a più di 100 000 km</translation>
+    </message>
+    <message>
+        <source>mends.xml: the mends of these shots are not those of their traces, and are left out; traces and picks stay as they are: %1</source>
+        <translation>mends.xml: le correzioni di questi tiri non sono quelle delle loro tracce e sono state tralasciate; tracce e primi arrivi restano come sono: %1</translation>
+    </message>
+    <message>
+        <source>it is about other shot files than those of the project</source>
+        <translation>riguarda file dei tiri diversi da quelli del progetto</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m</source>
+        <translation>da %1 a %2 m</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules find no trace in it</source>
+        <translation>le regole del programma non vi trovano tracce</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces of %3 shots</source>
+        <translation>le regole del programma leggono %1 delle sue %2 tracce di %3 tiri</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules read %1 of its %2 traces</source>
+        <translation>le regole del programma leggono %1 delle sue %2 tracce</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules make one shot of its %1</source>
+        <translation>le regole del programma fanno un solo tiro dei suoi %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are all zeros by the program&apos;s rules</source>
+        <translation>%1 tracce su %2 sono tutte zeri secondo le regole del programma</translation>
+    </message>
+    <message>
+        <source>the samples of %1 of %2 traces are not those of the standard, and not for their scale alone</source>
+        <translation>i campioni di %1 tracce su %2 non sono quelli dello standard, e non solo per la scala</translation>
+    </message>
+    <message>
+        <source>%1 of %2 traces are shorter by the program&apos;s rules</source>
+        <translation>%1 tracce su %2 sono più corte secondo le regole del programma</translation>
+    </message>
+    <message>
+        <source>the sample interval is %1 ms by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>l&apos;intervallo di campionamento è %1 ms secondo le regole del programma, %2 ms secondo lo standard</translation>
+    </message>
+    <message>
+        <source>its records start %1 ms from the shot by the program&apos;s rules, %2 ms by the standard</source>
+        <translation>le registrazioni cominciano a %1 ms dal tiro secondo le regole del programma, a %2 ms secondo lo standard</translation>
+    </message>
+    <message>
+        <source>its geophones are at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>posizioni dei geofoni: %1 secondo le regole del programma, %2 secondo lo standard</translation>
+    </message>
+    <message>
+        <source>its shot is at %1 by the program&apos;s rules, at %2 by the standard</source>
+        <translation>posizione del tiro: %1 secondo le regole del programma, %2 secondo lo standard</translation>
+    </message>
+    <message>
+        <source>the elevations of %1 of %2 traces are others by the program&apos;s rules</source>
+        <translation>le quote di %1 tracce su %2 sono diverse secondo le regole del programma</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules cannot read it</source>
+        <translation>le regole del programma non possono leggerlo</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 e altri %2</translation>
+    </message>
+    <message>
+        <source>the traces of shot %1 differ in sample interval or in the time of their first sample; they cannot be in one record</source>
+        <translation>le tracce del tiro %1 differiscono nell&apos;intervallo di campionamento o nel tempo del primo campione; non possono stare in una sola registrazione</translation>
+    </message>
+    <message>
+        <source>it has no sample interval</source>
+        <translation>non ha un intervallo di campionamento</translation>
+    </message>
+    <message>
+        <source>its traces have %1 samples; a file holds %2</source>
+        <translation>le tracce hanno %1 campioni; un file ne contiene %2</translation>
+    </message>
+    <message>
+        <source>it has %1 traces; a SEG-2 file holds %2</source>
+        <translation>ha %1 tracce; un file SEG-2 ne contiene %2</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>tiro %1: %2</translation>
+    </message>
+    <message>
+        <source>read by the program&apos;s rules, the files have no elevations, and no positions that are not whole metres; read them by the standard</source>
+        <translation>letti secondo le regole del programma, i file non hanno quote, e hanno solo posizioni in metri interi; leggerli secondo lo standard</translation>
+    </message>
+    <message>
+        <source>%1 shots are disabled or have no samples and were left out</source>
+        <translation>%1 tiri sono disattivati o senza campioni e sono stati tralasciati</translation>
+    </message>
+    <message>
+        <source>%1 traces begin at the shot; what was recorded before is not in the files</source>
+        <translation>%1 tracce cominciano dal tiro; ciò che è stato registrato prima non è nei file</translation>
+    </message>
+    <message>
+        <source>%1 samples were rounded to the seven digits of a 32-bit float</source>
+        <translation>%1 campioni sono stati arrotondati alle sette cifre di un numero in virgola mobile a 32 bit</translation>
+    </message>
+    <message>
+        <source>it was stopped</source>
+        <translation>è stato interrotto</translation>
+    </message>
+    <message>
+        <source>shot %1 has no samples</source>
+        <translation>il tiro %1 non ha campioni</translation>
+    </message>
+    <message>
+        <source>shot %1, trace %2: a sample is too large for a file</source>
+        <translation>tiro %1, traccia %2: un campione è troppo grande per un file</translation>
+    </message>
+    <message>
+        <source>the survey has no records to be written</source>
+        <translation>il rilievo non ha registrazioni da scrivere</translation>
+    </message>
+    <message>
+        <source>its sample interval of %1 ms is no whole number of microseconds up to 65535, which is all that SEG-Y can hold; write SEG-2</source>
+        <translation>il suo intervallo di campionamento di %1 ms non è un numero intero di microsecondi fino a 65535, il solo che SEG-Y può contenere; scrivere SEG-2</translation>
+    </message>
+    <message>
+        <source>it begins %1 ms after the shot, which SEG-Y cannot hold; write SEG-2</source>
+        <translation>comincia %1 ms dopo il tiro, e SEG-Y non può indicarlo; scrivere SEG-2</translation>
+    </message>
+    <message>
+        <source>it is miniSEED of version 3; version 2 is read</source>
+        <translation>è miniSEED versione 3; si legge la versione 2</translation>
+    </message>
+    <message>
+        <source>it is no miniSEED file</source>
+        <translation>non è un file miniSEED</translation>
+    </message>
+    <message>
+        <source>its records have no blockette 1000, which tells their encoding</source>
+        <translation>i suoi record non hanno il blockette 1000, che ne indica la codifica</translation>
+    </message>
+    <message>
+        <source>its samples have the encoding %1; 1, 3, 4, 5, 10 and 11 are read</source>
+        <translation>i suoi campioni hanno la codifica %1; si leggono 1, 3, 4, 5, 10 e 11</translation>
+    </message>
+    <message>
+        <source>none of its records has samples of a series</source>
+        <translation>nessuno dei suoi record ha campioni di una serie temporale</translation>
+    </message>
+    <message>
+        <source>miniSEED tells neither positions nor the time of the shot: all positions are 0 and times count from the first sample; give the survey its geometry</source>
+        <translation>miniSEED non indica né posizioni né il tempo del tiro: tutte le posizioni sono 0 e i tempi si contano dal primo campione; definire la geometria del rilievo</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others; zeros stand in front</source>
+        <translation>%1: la registrazione comincia dopo le altre; è preceduta da zeri</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins later than others, by longer than it lasts; that is not applied and its times do not compare</source>
+        <translation>%1: la registrazione comincia dopo le altre, di più della sua durata; ciò non viene applicato e i tempi non sono confrontabili</translation>
+    </message>
+    <message>
+        <source>zeros stand for gaps in the record of %1</source>
+        <translation>%1: zeri al posto delle lacune della registrazione</translation>
+    </message>
+    <message>
+        <source>records of %1 overlap; the later ones count</source>
+        <translation>%1: record sovrapposti; valgono gli ultimi</translation>
+    </message>
+    <message>
+        <source>records left out after a gap that is longer than what was recorded: %1</source>
+        <translation>record tralasciati dopo una lacuna più lunga di quanto registrato: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose sample rate is not that of the first of their channel: %1</source>
+        <translation>record tralasciati con frequenza di campionamento diversa dal primo del loro canale: %1</translation>
+    </message>
+    <message>
+        <source>records left out whose encoding, such as %1, is not read: %2</source>
+        <translation>record tralasciati con una codifica che non si legge, come %1: %2</translation>
+    </message>
+    <message>
+        <source>records left out that have no samples of a series: %1</source>
+        <translation>record tralasciati senza campioni di una serie temporale: %1</translation>
+    </message>
+    <message>
+        <source>records left out that have no blockette 1000: %1</source>
+        <translation>record tralasciati senza blockette 1000: %1</translation>
+    </message>
+    <message>
+        <source>bytes left out that are of no record: %1</source>
+        <translation>byte tralasciati che non appartengono a nessun record: %1</translation>
+    </message>
+    <message>
+        <source>samples that headers promise and records do not hold: %1</source>
+        <translation>campioni promessi dalle intestazioni e assenti nei record: %1</translation>
+    </message>
+    <message>
+        <source>damaged records, which do not end at the sample that they tell: %1</source>
+        <translation>record danneggiati, che non finiscono con il campione indicato: %1</translation>
+    </message>
+    <message>
+        <source>the record of %1 begins after the shot, by up to %2 ms; zeros stand in front, in whole samples</source>
+        <translation>%1: la registrazione comincia dopo il tiro, fino a %2 ms; è preceduta da zeri, in campioni interi</translation>
+    </message>
+    <message>
+        <source>the header of %1 says that the record begins up to %2 ms after the shot, longer than it lasts; that delay is not applied</source>
+        <translation>%1: secondo l&apos;intestazione la registrazione comincia fino a %2 ms dopo il tiro, più della sua durata; questo ritardo non viene applicato</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells no %2; 0 stands for it</source>
+        <translation>%1: l&apos;intestazione non indica %2; al suo posto vale 0</translation>
+    </message>
+    <message>
+        <source>the UNITS of its header, %1, are not known; its positions were taken as metres</source>
+        <translation>le UNITS dell&apos;intestazione, %1, non sono note; le posizioni sono state prese in metri</translation>
+    </message>
+    <message>
+        <source>its positions are in %1 and were converted to metres, %2 m each</source>
+        <translation>le posizioni sono in %1 e sono state convertite in metri, %2 m per unità</translation>
+    </message>
+    <message>
+        <source>its receiver positions look like longitude and latitude in degrees, not like metres; give the survey its geometry</source>
+        <translation>le posizioni dei ricevitori sembrano longitudine e latitudine in gradi, non metri; definire la geometria del rilievo</translation>
+    </message>
+    <message>
+        <source>its geophones differ in y but not in x; y was taken as the position along the line</source>
+        <translation>i geofoni differiscono in y ma non in x; y è stata presa come posizione lungo la linea</translation>
+    </message>
+    <message>
+        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
+        <translation>tutti i geofoni sono a x = %1 m; definire la geometria del rilievo</translation>
+    </message>
+    <message>
+        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
+        <translation>i geofoni differiscono fino a %1 m in y, che non viene usata; le posizioni lungo la linea sono x</translation>
+    </message>
+    <message>
+        <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
+        <translation>i numeri dei canali non sono crescenti; le tracce restano nell&apos;ordine del file</translation>
+    </message>
+    <message>
+        <source>every trace tells a source position of its own; the file was read as one shot, at the first of them</source>
+        <translation>ogni traccia indica una propria posizione della sorgente; il file è stato letto come un solo tiro, nella prima posizione</translation>
+    </message>
+    <message>
+        <source>it is no SEG-2 file</source>
+        <translation>non è un file SEG-2</translation>
+    </message>
+    <message>
+        <source>it holds no trace</source>
+        <translation>non contiene tracce</translation>
+    </message>
+    <message>
+        <source>the samples of its trace %1 have the data format code %2; the codes of SEG-2 are 1 to 5</source>
+        <translation>i campioni della traccia %1 hanno il codice di formato dei dati %2; i codici di SEG-2 vanno da 1 a 5</translation>
+    </message>
+    <message>
+        <source>none of its traces has a usable SAMPLE_INTERVAL</source>
+        <translation>nessuna traccia ha un SAMPLE_INTERVAL utilizzabile</translation>
+    </message>
+    <message>
+        <source>nothing is read of %1 since no trace block is where the pointer leads</source>
+        <translation>%1: non si legge nulla, perché dove porta il puntatore non c&apos;è un blocco di traccia</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no usable SAMPLE_INTERVAL; that of another was taken</source>
+        <translation>%1: l&apos;intestazione non ha un SAMPLE_INTERVAL utilizzabile; è stato preso quello di un&apos;altra traccia</translation>
+    </message>
+    <message>
+        <source>the DESCALING_FACTOR of %1 is no usable number; those samples are as stored</source>
+        <translation>%1: DESCALING_FACTOR non è un numero utilizzabile; i campioni sono come memorizzati</translation>
+    </message>
+    <message>
+        <source>the header of %1 has no DESCALING_FACTOR, as others have; those samples are as stored</source>
+        <translation>%1: l&apos;intestazione non ha DESCALING_FACTOR, che altre hanno; i campioni sono come memorizzati</translation>
+    </message>
+    <message>
+        <source>the STACK of %1 is no usable number and was taken as 1</source>
+        <translation>%1: STACK non è un numero utilizzabile ed è stato preso come 1</translation>
+    </message>
+    <message>
+        <source>the DELAY of %1 is no finite number and was taken as 0</source>
+        <translation>%1: DELAY non è un numero finito ed è stato preso come 0</translation>
+    </message>
+    <message>
+        <source>the SKEW of %1 is up to %2 ms beyond whole samples; that part is not applied</source>
+        <translation>%1: SKEW eccede fino a %2 ms i campioni interi; questa parte non viene applicata</translation>
+    </message>
+    <message>
+        <source>%1 bytes after its traces, zeros or too few for another one, were not read</source>
+        <translation>%1 byte dopo le tracce, zeri o troppo pochi per un&apos;altra traccia, non sono stati letti</translation>
+    </message>
+    <message>
+        <source>the number of samples in %1 is not the %2 of the header of the file; the trace headers were believed</source>
+        <translation>%1: il numero di campioni non è %2 come nell&apos;intestazione del file; valgono le intestazioni delle tracce</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells %2 samples, with which the traces do not fit the size of the file; %3 were taken</source>
+        <translation>%1: l&apos;intestazione indica %2 campioni, con i quali le tracce non corrispondono alla dimensione del file; ne sono stati presi %3</translation>
+    </message>
+    <message>
+        <source>the traces, %1 among them, do not fit the size of the file with the %2 samples that its header tells; %3 were taken</source>
+        <translation>le tracce (fra cui %1) non corrispondono alla dimensione del file con i %2 campioni indicati dalla sua intestazione; ne sono stati presi %3</translation>
+    </message>
+    <message>
+        <source>the header of %1 tells a sample interval of %2 microseconds; the %3 of the header of the file were taken</source>
+        <translation>%1: l&apos;intestazione indica un intervallo di campionamento di %2 microsecondi; sono stati presi i %3 dell&apos;intestazione del file</translation>
+    </message>
+    <message>
+        <source>the sample interval of %1 is not the %2 microseconds of the header of the file; the trace headers were believed</source>
+        <translation>%1: l&apos;intervallo di campionamento non è di %2 microsecondi come nell&apos;intestazione del file; valgono le intestazioni delle tracce</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the coordinates of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>%2: il fattore di scala %1 per le coordinate non è previsto dallo standard; sono state prese come sono</translation>
+    </message>
+    <message>
+        <source>a scalar of %1 for the elevations of %2 is none that the standard knows; they were taken as they stand</source>
+        <translation>%2: il fattore di scala %1 per le quote non è previsto dallo standard; sono state prese come sono</translation>
+    </message>
+    <message>
+        <source>the coordinates of %1 are degrees or seconds of arc, no metres; x was taken as it stands, so load a geometry file</source>
+        <translation>%1: le coordinate sono gradi o secondi d&apos;arco, non metri; x è stata presa com&apos;è, perciò caricare un file di geometria</translation>
+    </message>
+    <message>
+        <source>its coordinates do not tell the geophones apart; they were placed by their offsets (bytes 37 to 40) from the shot</source>
+        <translation>le coordinate non distinguono i geofoni; sono stati posti secondo la loro distanza dal tiro (byte da 37 a 40)</translation>
+    </message>
+    <message>
+        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
+        <translation>le intestazioni non indicano posizioni; tiri e geofoni sono tutti a %1 m, perciò caricare un file di geometria</translation>
+    </message>
+    <message>
+        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
+        <translation>le intestazioni mettono i geofoni di tutte le tracce a %1 m; caricare un file di geometria se ce n&apos;era più d&apos;uno</translation>
+    </message>
+    <message>
+        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
+        <translation>i tiri sono fino a %1 m di lato alla linea dei geofoni; x viene presa com&apos;è</translation>
+    </message>
+    <message>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
+        <translation>le coordinate non sono lungo x; le distanze sono quelle lungo la retta dei geofoni a partire dal primo geofono di questo file, che è a x %1, y %2; i geofoni sono fino a %3 m di lato alla retta, i tiri fino a %4 m</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>secondo le intestazioni i geofoni si estendono per %1 km; il loro fattore di scala o la loro unità è probabilmente sbagliata: controllarli o caricare un file di geometria</translation>
+    </message>
+    <message>
+        <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
+        <translation>%1: le quote o le profondità del tiro sono fuori da ogni terreno possibile; le quote del file sono state prese come 0</translation>
+    </message>
+    <message>
+        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>i tiri sono fino a %1 m sotto il suolo; le loro quote sono quelle dei tiri, non del suolo sopra di essi</translation>
+    </message>
+    <message>
+        <source>the shot depth of %1 is negative and was taken as 0</source>
+        <translation>%1: la profondità del tiro è negativa ed è stata presa come 0</translation>
+    </message>
+    <message>
+        <source>its headers tell the elevations of geophones alone; shots were put at that of the geophone nearest to them</source>
+        <translation>le intestazioni indicano le quote dei soli geofoni; i tiri sono stati messi a quella del geofono più vicino</translation>
+    </message>
+    <message>
+        <source>the time scalar of %1 is none that the standard knows; the delay was taken as it stands</source>
+        <translation>il fattore di scala dei tempi %1 non è previsto dallo standard; il ritardo è stato preso com&apos;è</translation>
+    </message>
+    <message>
+        <source>all of its traces are marked as dead or auxiliary (bytes 29 and 30); the marks were not believed</source>
+        <translation>tutte le tracce sono marcate come morte o ausiliarie (byte 29 e 30); le marcature sono state ignorate</translation>
+    </message>
+    <message>
+        <source>zeros stand for the samples of %1, marked as dead or as dummies (bytes 29 and 30)</source>
+        <translation>%1: zeri al posto dei campioni, marcati come morti o fittizi (byte 29 e 30)</translation>
+    </message>
+    <message>
+        <source>the samples of %1 were left out, marked as auxiliary (bytes 29 and 30: time breaks, upholes, sweeps and the like)</source>
+        <translation>%1: campioni tralasciati, marcati come ausiliari (byte 29 e 30: time break, uphole, sweep e simili)</translation>
+    </message>
+    <message>
+        <source>its traces are not in the order of shots, or the headers do not tell which belong together; they were taken as one shot</source>
+        <translation>le tracce non sono nell&apos;ordine dei tiri, o le intestazioni non dicono quali vanno insieme; sono state prese come un solo tiro</translation>
+    </message>
+    <message>
+        <source>its extended textual headers do not end in the file; it was read as if there were none</source>
+        <translation>le intestazioni testuali estese non finiscono nel file; è stato letto come se non ce ne fossero</translation>
+    </message>
+    <message>
+        <source>its lengths are in feet (bytes 3255 and 3256) and were taken to metres</source>
+        <translation>le lunghezze sono in piedi (byte 3255 e 3256) e sono state convertite in metri</translation>
+    </message>
+    <message>
+        <source>its headers tell no number of samples</source>
+        <translation>le intestazioni non indicano il numero di campioni</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code 4 (fixed point with gain), which is not read; have the recording software export another one</source>
+        <translation>i campioni hanno il codice di formato dei dati 4 (virgola fissa con guadagno), che non si legge; esportarli in un altro formato con il programma di registrazione</translation>
+    </message>
+    <message>
+        <source>its samples have the data format code %1, which the standard does not know; the file is damaged or no SEG-Y file</source>
+        <translation>i campioni hanno il codice di formato dei dati %1, che lo standard non prevede; il file è danneggiato o non è un file SEG-Y</translation>
+    </message>
+    <message>
+        <source>the place of the first trace in its header (bytes 3521 to 3528) is not in the file and was not believed</source>
+        <translation>la posizione della prima traccia indicata dall&apos;intestazione (byte da 3521 a 3528) non è nel file ed è stata ignorata</translation>
+    </message>
+    <message>
+        <source>it is too short for a SEG-Y file with a trace</source>
+        <translation>è troppo corto per un file SEG-Y con una traccia</translation>
+    </message>
+    <message>
+        <source>its bytes are swapped in pairs, which is not read</source>
+        <translation>i byte sono scambiati a coppie, e così non si legge</translation>
+    </message>
+    <message>
+        <source>field record (bytes 9 to 12)</source>
+        <translation>record di campagna (byte da 9 a 12)</translation>
+    </message>
+    <message>
+        <source>energy source point (bytes 17 to 20)</source>
+        <translation>punto di energizzazione (byte da 17 a 20)</translation>
+    </message>
+    <message>
+        <source>position of the source</source>
+        <translation>posizione della sorgente</translation>
+    </message>
+    <message>
+        <source>number of the trace in its record (bytes 13 to 16), which starts again</source>
+        <translation>numero della traccia nella registrazione (byte da 13 a 16), che ricomincia</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>il file è vuoto</translation>
+    </message>
+    <message>
+        <source>it is a text file, and no record of shots in %1; open a table of picks or positions as travel times or geometry</source>
+        <translation>è un file di testo, non una registrazione di tiri (%1); aprire una tabella di primi arrivi o di posizioni come tempi di arrivo o geometria</translation>
+    </message>
+    <message>
+        <source>by its content it is no file of %1</source>
+        <translation>secondo il contenuto non è un file di nessuno di questi formati: %1</translation>
+    </message>
+    <message>
+        <source>it holds %1 shots, told apart by %2</source>
+        <translation>contiene %1 tiri, distinti secondo: %2</translation>
+    </message>
+    <message>
+        <source>it is too short for an SU file with a trace</source>
+        <translation>è troppo corto per un file SU con una traccia</translation>
+    </message>
+    <message>
+        <source>its first trace tells no number of samples</source>
+        <translation>la prima traccia non indica il numero di campioni</translation>
+    </message>
+    <message>
+        <source>all %1 traces</source>
+        <translation>tutte le %1 tracce</translation>
+    </message>
+    <message>
+        <source>it cannot be read back: %1</source>
+        <translation>non può essere riletto: %1</translation>
+    </message>
+    <message>
+        <source>read back, string %1 will have another number of geophones</source>
+        <translation>alla rilettura la stesa %1 avrà un altro numero di geofoni</translation>
+    </message>
+    <message>
+        <source>the format has no place for the errors of the picks</source>
+        <translation>il formato non ha posto per gli errori dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>it was read as %1; the reader of its suffix cannot read line %2</source>
+        <translation>è stato letto come %1; il lettore della sua estensione non può leggere la riga %2</translation>
+    </message>
+    <message>
+        <source>%1; as %2, line %3: %4</source>
+        <translation>%1; come %2, riga %3: %4</translation>
+    </message>
+    <message>
+        <source>shot %1: picks left out, as the shot is disabled or their traces are killed: %2</source>
+        <translation>tiro %1: primi arrivi tralasciati, poiché il tiro è disattivato o le loro tracce sono escluse: %2</translation>
+    </message>
+    <message>
+        <source>the file tells errors of its picks, which the survey does not keep</source>
+        <translation>il file indica errori dei primi arrivi, che il rilievo non conserva</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 lines</source>
+        <translation>il file finisce dopo %1 righe su %2</translation>
+    </message>
+    <message>
+        <source>the file holds no measurement</source>
+        <translation>il file non contiene misure</translation>
+    </message>
+    <message>
+        <source>no columns &quot;s&quot;, &quot;g&quot; and &quot;t&quot; are named above the numbers</source>
+        <translation>sopra i numeri non sono indicate le colonne &quot;s&quot;, &quot;g&quot; e &quot;t&quot;</translation>
+    </message>
+    <message>
+        <source>the unit of the column %1 is none of time</source>
+        <translation>l&apos;unità della colonna %1 non è un&apos;unità di tempo</translation>
+    </message>
+    <message>
+        <source>the line holds %1</source>
+        <translation>la riga contiene %1</translation>
+    </message>
+    <message>
+        <source>the %1 %2 is none of the %3 positions</source>
+        <translation>%1 %2: non è nessuna delle %3 posizioni</translation>
+    </message>
+    <message>
+        <source>after the measurements neither the end nor a number of points of topography follows</source>
+        <translation>dopo le misure non segue né la fine né il numero dei punti della topografia</translation>
+    </message>
+    <message>
+        <source>the second of three coordinates was not read</source>
+        <translation>la seconda di tre coordinate non è stata letta</translation>
+    </message>
+    <message>
+        <source>the third coordinate is 0 everywhere; the second one was taken for the elevation</source>
+        <translation>la terza coordinata è 0 ovunque; la seconda è stata presa come quota</translation>
+    </message>
+    <message>
+        <source>the positions have elevations; the topography was not used</source>
+        <translation>le posizioni hanno quote; la topografia non è stata usata</translation>
+    </message>
+    <message>
+        <source>%1 positions are no shot and no geophone of any time; they were left out</source>
+        <translation>%1 posizioni non sono né tiro né geofono di alcun tempo; sono state tralasciate</translation>
+    </message>
+    <message>
+        <source>%1 times are marked as not valid and are no picks</source>
+        <translation>%1 tempi sono marcati come non validi e non sono primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 times are not above 0 and are no picks</source>
+        <translation>%1 tempi non sono maggiori di 0 e non sono primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 shots have no pick and are not in the file</source>
+        <translation>%1 tiri non hanno primi arrivi e non sono nel file</translation>
+    </message>
+    <message>
+        <source>%1 geophones have no pick; the file has their positions only</source>
+        <translation>%1 geofoni non hanno primi arrivi; il file ne ha solo le posizioni</translation>
+    </message>
+    <message>
+        <source>%1 shots lie at the place of another one; the file does not tell their picks apart</source>
+        <translation>%1 tiri sono nello stesso punto di un altro; il file non distingue i loro primi arrivi</translation>
+    </message>
+    <message>
+        <source>a trace without a sample interval cannot be shifted in time</source>
+        <translation>una traccia senza intervallo di campionamento non può essere traslata nel tempo</translation>
+    </message>
+    <message>
+        <source>a shift of %1 ms is longer than the record</source>
+        <translation>una traslazione di %1 ms è più lunga della registrazione</translation>
+    </message>
+    <message>
+        <source>a shot is stacked with other shots of the survey, each once</source>
+        <translation>un tiro si somma con altri tiri del rilievo, ognuno una volta sola</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with it: its traces are of another number, sample interval or kind</source>
+        <translation>il tiro %1 non può essere sommato con questo: le sue tracce sono diverse per numero, intervallo di campionamento o tipo</translation>
+    </message>
+    <message>
+        <source>shot %1 has no traces to mend</source>
+        <translation>il tiro %1 non ha tracce da correggere</translation>
+    </message>
+    <message>
+        <source>shot %1 has %2 traces, and mends of %3</source>
+        <translation>il tiro %1 ha %2 tracce, e correzioni di %3</translation>
+    </message>
+    <message>
+        <source>a trace cannot be muted before %1 ms</source>
+        <translation>una traccia non può essere azzerata prima di %1 ms</translation>
+    </message>
+    <message>
+        <source>a record cannot be shifted by %1 ms</source>
+        <translation>una registrazione non può essere traslata di %1 ms</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that have no place any more and are set aside: %2</source>
+        <translation>tiro %1: primi arrivi che non hanno più posto e sono messi da parte: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: picks that were set aside and are back: %2</source>
+        <translation>tiro %1: primi arrivi che erano messi da parte e sono tornati: %2</translation>
+    </message>
+    <message>
+        <source>shot %1: filtered copies of traces that have changed are forgotten: %2; filter again if you need them</source>
+        <translation>tiro %1: copie filtrate di tracce cambiate, non più conservate: %2; filtrare di nuovo se servono</translation>
+    </message>
+    <message>
+        <source>shot %1: its shift is taken as %2 ms, whole samples</source>
+        <translation>tiro %1: la traslazione è presa come %2 ms, in campioni interi</translation>
+    </message>
+    <message>
+        <source>shot %1 cannot be stacked with shot %2: they have other places, or geophones</source>
+        <translation>il tiro %1 non può essere sommato con il tiro %2: hanno posizioni o geofoni diversi</translation>
+    </message>
+    <message>
+        <source>traces killed: %1</source>
+        <translation>tracce escluse: %1</translation>
+    </message>
+    <message>
+        <source>traces with their polarity reversed: %1</source>
+        <translation>tracce con polarità invertita: %1</translation>
+    </message>
+    <message>
+        <source>traces muted before %1 ms: %2</source>
+        <translation>tracce azzerate prima di %1 ms: %2</translation>
+    </message>
+    <message>
+        <source>disabled: it has no picks and takes no part in anything</source>
+        <translation>disattivato: non ha primi arrivi e non partecipa a nulla</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was late</source>
+        <translation>traslazione di %1 ms: la registrazione era in ritardo</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms: its record was early</source>
+        <translation>traslazione di %1 ms: la registrazione era in anticipo</translation>
+    </message>
+    <message>
+        <source>order reversed: its channels ran against the geophones</source>
+        <translation>ordine invertito: i canali andavano in senso contrario ai geofoni</translation>
+    </message>
+    <message>
+        <source>stacked with shots: %1</source>
+        <translation>somma con i tiri: %1</translation>
+    </message>
+    <message>
+        <source>Mend recordings</source>
+        <translation>Correggi le registrazioni</translation>
+    </message>
+    <message>
+        <source>Shot %1 is disabled and takes no picks; Mend recording enables it.</source>
+        <translation>Il tiro %1 è disattivato e non accetta primi arrivi; &quot;Correggi la registrazione&quot; lo riattiva.</translation>
+    </message>
+    <message>
+        <source>Trace %1 is killed and takes no pick; Mend recording brings it back.</source>
+        <translation>La traccia %1 è esclusa e non accetta primi arrivi; &quot;Correggi la registrazione&quot; la ripristina.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -3434,6 +4648,104 @@ Impostare la posizione dei geofoni
     </message>
 </context>
 <context>
+    <name>talvesk::ReadingPanel</name>
+    <message>
+        <source>Format:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Shots:</source>
+        <translation>Tiri:</translation>
+    </message>
+    <message>
+        <source>Traces:</source>
+        <translation>Tracce:</translation>
+    </message>
+    <message>
+        <source>Samples per trace:</source>
+        <translation>Campioni per traccia:</translation>
+    </message>
+    <message>
+        <source>Sample interval:</source>
+        <translation>Intervallo di campionamento:</translation>
+    </message>
+    <message>
+        <source>Recording delay:</source>
+        <translation>Ritardo di registrazione:</translation>
+    </message>
+    <message>
+        <source>Shot at:</source>
+        <translation>Posizione del tiro:</translation>
+    </message>
+    <message>
+        <source>Geophones at:</source>
+        <translation>Posizioni dei geofoni:</translation>
+    </message>
+    <message>
+        <source>Shot in view:</source>
+        <translation>Tiro in vista:</translation>
+    </message>
+    <message>
+        <source>No trace</source>
+        <translation>Nessuna traccia</translation>
+    </message>
+    <message>
+        <source>No warnings</source>
+        <translation>Nessun avvertimento</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>non letto</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Nothing was read.</source>
+        <translation>Non è stato letto nulla.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReadingsDialog</name>
+    <message>
+        <source>The standard reads more</source>
+        <translation>Lo standard legge di più</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules cannot carry all that these files hold. Read by the standard of their format they give more:</source>
+        <translation>Le regole del programma non possono rendere tutto ciò che questi file contengono. Letti secondo lo standard del loro formato danno di più:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>What gets lost by the program&apos;s rules</source>
+        <translation>Che cosa va perso con le regole del programma</translation>
+    </message>
+    <message>
+        <source>By the program&apos;s rules</source>
+        <translation>Secondo le regole del programma</translation>
+    </message>
+    <message>
+        <source>By the standard</source>
+        <translation>Secondo lo standard</translation>
+    </message>
+    <message>
+        <source>Use the &amp;standard for these files</source>
+        <translation>Usa lo &amp;standard per questi file</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the program&apos;s rules</source>
+        <translation>&amp;Mantieni le regole del programma</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -3527,6 +4839,26 @@ Impostare la posizione dei geofoni
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Read by:</source>
+        <translation>Letto secondo:</translation>
+    </message>
+    <message>
+        <source>Mends:</source>
+        <translation>Correzioni:</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>le regole del programma</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>lo standard del suo formato</translation>
+    </message>
+    <message>
+        <source>the standard of its format; record %1 of the file, %2</source>
+        <translation>lo standard del suo formato; registrazione %1 del file, %2</translation>
     </message>
 </context>
 <context>
@@ -4191,20 +5523,12 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Nessuna griglia è stata costruita e nulla è stato invertito.</translation>
     </message>
     <message>
-        <source>Nothing has been inverted: the grid holds its starting model.</source>
-        <translation>Nulla è stato invertito: la griglia contiene il modello iniziale.</translation>
-    </message>
-    <message>
         <source>The parameters of the inversion are not known.</source>
         <translation>I parametri dell&apos;inversione non sono noti.</translation>
     </message>
     <message>
         <source>Velocity section</source>
         <translation>Sezione di velocità</translation>
-    </message>
-    <message>
-        <source>Velocity of the starting model</source>
-        <translation>Velocità del modello iniziale</translation>
     </message>
     <message>
         <source>Misfit</source>
@@ -4546,6 +5870,30 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>Shots: %1; geophones: %2; picks: %3 of %4</source>
         <translation>Tiri: %1; geofoni: %2; primi arrivi: %3 di %4</translation>
     </message>
+    <message>
+        <source>No result of an inversion is known: the grid has the velocities that it was left with.</source>
+        <translation>Nessun risultato di un&apos;inversione è noto: la griglia ha le velocità che le sono rimaste.</translation>
+    </message>
+    <message>
+        <source>Velocities of the grid</source>
+        <translation>Velocità della griglia</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Correzione</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Correzioni</translation>
+    </message>
+    <message>
+        <source>The recordings of these shots are put right as listed. All figures and times of this report are of the mended recordings.</source>
+        <translation>Le registrazioni di questi tiri sono corrette come indicato nell&apos;elenco. Tutte le figure e i tempi di questa relazione sono delle registrazioni corrette.</translation>
+    </message>
+    <message>
+        <source>Mends of recordings</source>
+        <translation>Correzioni delle registrazioni</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -4693,44 +6041,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
 </context>
 <context>
-    <name>talvesk::SectionSheet</name>
-    <message>
-        <source>Geophones</source>
-        <translation>Geofoni</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Tiri</translation>
-    </message>
-    <message>
-        <source>Contours</source>
-        <translation>Isolinee</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ray(s)</source>
-        <translation>
-            <numerusform>%n raggio</numerusform>
-            <numerusform>%n raggi</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Coverage limit</source>
-        <translation>Limite di copertura</translation>
-    </message>
-    <message>
-        <source>Distance [m]</source>
-        <translation>Distanza [m]</translation>
-    </message>
-    <message>
-        <source>Elevation [m]</source>
-        <translation>Quota [m]</translation>
-    </message>
-    <message>
-        <source>Vertical exaggeration %1×</source>
-        <translation>Esagerazione verticale %1×</translation>
-    </message>
-</context>
-<context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
@@ -4869,6 +6179,25 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source> MB</source>
         <translation> MB</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ShotFileDialog</name>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>le regole del programma</translation>
+    </message>
+    <message>
+        <source>the standard</source>
+        <translation>lo standard</translation>
+    </message>
+    <message>
+        <source>The program&apos;s rules read shot files as this program always has. The standard reads what their content says, whatever their suffix: other sample formats and byte orders, scaled coordinates, delays, files of several shots.</source>
+        <translation>Le regole del programma leggono i file dei tiri come questo programma ha sempre fatto. Lo standard legge ciò che dice il contenuto, qualunque sia l&apos;estensione: altri formati dei campioni e ordini dei byte, coordinate con fattore di scala, ritardi, file con più tiri.</translation>
+    </message>
+    <message>
+        <source>&amp;Read shot files by:</source>
+        <translation>&amp;Leggi i file dei tiri secondo:</translation>
     </message>
 </context>
 <context>
@@ -6421,6 +7750,146 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>The oldest steps can no longer be undone: they needed more than %1 MB.</source>
         <translation>Le modifiche più vecchie non si possono più annullare: richiedevano più di %1 MB.</translation>
     </message>
+    <message>
+        <source>Export recordings...</source>
+        <translation>Esporta registrazioni...</translation>
+    </message>
+    <message>
+        <source>Write the traces of all shots, with the positions of the survey, as SEG-Y or SEG-2 files</source>
+        <translation>Scrive le tracce di tutti i tiri, con le posizioni del rilievo, in file SEG-Y o SEG-2</translation>
+    </message>
+    <message>
+        <source>Count times from the shot</source>
+        <translation>Conta i tempi dal tiro</translation>
+    </message>
+    <message>
+        <source>Drop what was recorded before the shot; picks move with their traces</source>
+        <translation>Toglie ciò che è stato registrato prima del tiro; i primi arrivi si spostano con le tracce</translation>
+    </message>
+    <message>
+        <source>Mend recording...</source>
+        <translation>Correggi la registrazione...</translation>
+    </message>
+    <message>
+        <source>Put right the time, the order or single traces of the shot in view; what was recorded is kept</source>
+        <translation>Corregge il tempo, l&apos;ordine o singole tracce del tiro in vista; ciò che è stato registrato si conserva</translation>
+    </message>
+    <message>
+        <source>Take back all mends</source>
+        <translation>Togli tutte le correzioni</translation>
+    </message>
+    <message>
+        <source>Show all recordings as they were recorded, with their picks</source>
+        <translation>Mostra tutte le registrazioni com&apos;erano all&apos;origine, con i loro primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 of them are of disabled shots or killed and left unpicked.</source>
+        <translation>Di queste, %1 sono escluse o di tiri disattivati e restano senza primo arrivo.</translation>
+    </message>
+    <message>
+        <source>SEG-Y, a file for each shot</source>
+        <translation>SEG-Y, un file per ogni tiro</translation>
+    </message>
+    <message>
+        <source>SEG-Y, all shots in one file</source>
+        <translation>SEG-Y, tutti i tiri in un solo file</translation>
+    </message>
+    <message>
+        <source>SEG-2, a file for each shot</source>
+        <translation>SEG-2, un file per ogni tiro</translation>
+    </message>
+    <message>
+        <source>Export recordings</source>
+        <translation>Esporta registrazioni</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message>
+        <source>Folder for the recordings</source>
+        <translation>Cartella per le registrazioni</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey.</source>
+        <translation>%1 è uno dei file dei tiri di questo rilievo.</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Scegli un&apos;altra cartella.</translation>
+    </message>
+    <message>
+        <source>Writing recordings ...</source>
+        <translation>Scrittura delle registrazioni ...</translation>
+    </message>
+    <message>
+        <source>The export to %1 was stopped; some files are missing.</source>
+        <translation>L&apos;esportazione in %1 è stata interrotta; mancano alcuni file.</translation>
+    </message>
+    <message>
+        <source>The recordings have not been exported.</source>
+        <translation>Le registrazioni non sono state esportate.</translation>
+    </message>
+    <message>
+        <source>Recordings saved in %1</source>
+        <translation>Registrazioni salvate in %1</translation>
+    </message>
+    <message>
+        <source>The recordings have been saved.</source>
+        <translation>Le registrazioni sono state salvate.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The times of %n trace(s) count from the shot now.</source>
+        <translation>
+            <numerusform>I tempi di %n traccia si contano ora dal tiro.</numerusform>
+            <numerusform>I tempi di %n tracce si contano ora dal tiro.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pick(s) lay before it and are removed.</source>
+        <translation>
+            <numerusform>%n primo arrivo era prima del tiro ed è stato tolto.</numerusform>
+            <numerusform>%n primi arrivi erano prima del tiro e sono stati tolti.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The recording of shot %1 has not been mended.</source>
+        <translation>La registrazione del tiro %1 non è stata corretta.</translation>
+    </message>
+    <message>
+        <source>The mends have not been taken back.</source>
+        <translation>Le correzioni non sono state tolte.</translation>
+    </message>
+    <message>
+        <source>%1 (disabled)</source>
+        <comment>shot</comment>
+        <translation>%1 (disattivato)</translation>
+    </message>
+    <message>
+        <source>%1 (mended)</source>
+        <comment>shot</comment>
+        <translation>%1 (corretto)</translation>
+    </message>
+    <message>
+        <source>disabled or killed</source>
+        <translation>esclusa o di un tiro disattivato</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>millisecondi</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>secondi</translation>
+    </message>
+    <message>
+        <source>%1 does not say in which unit its times are.</source>
+        <translation>%1 non dice in quale unità sono i tempi.</translation>
+    </message>
+    <message>
+        <source>%1 does not hold all of the survey.</source>
+        <translation>%1 non contiene tutto il rilievo.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -7043,10 +8512,6 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Celle così piccole rendono l&apos;inversione molto lenta, e si ferma solo tra un&apos;iterazione e l&apos;altra. Un quarto della distanza fra i geofoni è %1 m.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>I risultati dell&apos;ultima inversione andranno persi.</translation>
-    </message>
-    <message>
         <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
         <translation>Un quarto della distanza più piccola fra i geofoni, almeno 0,1 m. Se non è spuntato: il lato delle celle della griglia esistente, o il più piccolo se non ce n&apos;è una.</translation>
     </message>
@@ -7065,6 +8530,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>I risultati dell&apos;ultima inversione verranno tolti (&quot;Annulla modifica&quot; li ripristina).</translation>
     </message>
 </context>
 <context>
@@ -7347,16 +8816,16 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Gli strati non formano un modello di velocità.</translation>
     </message>
     <message>
-        <source>The results of the last inversion will be lost.</source>
-        <translation>I risultati dell&apos;ultima inversione andranno persi.</translation>
-    </message>
-    <message>
         <source>Do you want to put them into the grid all the same?</source>
         <translation>Vuoi metterli comunque nella griglia?</translation>
     </message>
     <message>
         <source>You have not changed the layers.</source>
         <translation>Gli strati non sono stati cambiati.</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>I risultati dell&apos;ultima inversione verranno tolti (&quot;Annulla modifica&quot; li ripristina).</translation>
     </message>
 </context>
 <context>

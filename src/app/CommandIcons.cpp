@@ -50,6 +50,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionShow_rays", ":/icons/rays.png"},
     {"actionReset_View", ":/icons/fit.png"},
     {"actionRecording_details", ":/icons/info.png"},
+    {"actionCheck_recordings", ":/icons/check-recordings.png"},
     {"actionSettings", ":/icons/preferences.png"},
     {"actionHelp", ":/icons/help.png"},
     {"actionUser_guide", ":/icons/guide.png"},

@@ -21,7 +21,6 @@ namespace talvesk {
 namespace {
 
 using doctor::Finding;
-using doctor::Proposal;
 using Findings = std::vector<Finding>;
 
 constexpr int kMostRounds = 6;  // geometry, then triggers, then traces, and what they uncover
@@ -56,8 +55,7 @@ Status load(const CheckOptions& options, LoadedProject& project) {
 }
 
 Status carryOut(const Finding& finding, Survey& survey) {
-  const bool geometry = finding.proposal->kind == Proposal::Kind::kMoveShot ||
-                        finding.proposal->kind == Proposal::Kind::kMoveGeophones;
+  const bool geometry = doctor::changesGeometry(*finding.proposal);
   return editSurvey(geometry ? Edit::kGeometry : Edit::kMend, survey, [&](Survey& next) {
     return doctor::carryOut(finding, *finding.proposal, next.document);
   });
@@ -81,7 +79,7 @@ Findings mend(Findings findings, const CheckOptions& options, std::ostream& out,
     out << "\nMended, and checked again:\n";
     tell(findings, survey.document, out);
   }
-  out << done << " proposals carried out.\n";
+  out << done << (done == 1 ? " proposal" : " proposals") << " carried out.\n";
   const Status counted = countFromShot(options.shots, out, survey);
   if (!counted.ok()) warn(counted.message());
   return findings;

@@ -101,7 +101,8 @@ std::size_t setOf(const TomoDocument& document, std::size_t shot) {
   return set < 0 ? document.recordings->traceSets.size() : static_cast<std::size_t>(set);
 }
 
-Status stack(const Proposal& proposal, std::size_t shot, TomoDocument& document) {
+Status stack(const Proposal& proposal, std::size_t shot, TomoDocument& document,
+             std::vector<Message>* notes) {
   const std::size_t set = setOf(document, shot);
   ShotMends mends = mendsOf(*document.recordings, set);
   for (const std::size_t other : proposal.others) {
@@ -112,38 +113,46 @@ Status stack(const Proposal& proposal, std::size_t shot, TomoDocument& document)
       mends.stackedWith.push_back(partner);
     }
   }
-  Status status = setMends(set, std::move(mends), document);
+  Status status = setMends(set, std::move(mends), document, notes);
   for (const std::size_t other : proposal.others) {
     if (!status.ok()) break;
     ShotMends off = mendsOf(*document.recordings, setOf(document, other));
     off.disabled = true;
-    status = setMends(setOf(document, other), std::move(off), document);
+    status = setMends(setOf(document, other), std::move(off), document, notes);
   }
   return status;
 }
 
-Status mend(std::size_t shot, const Proposal& proposal, TomoDocument& document) {
+Status mend(std::size_t shot, const Proposal& proposal, TomoDocument& document,
+            std::vector<Message>* notes) {
   const std::size_t set = setOf(document, shot);
   if (set >= document.recordings->traceSets.size()) return noSuchShot();
-  if (proposal.kind == Kind::kStack) return stack(proposal, shot, document);
+  if (proposal.kind == Kind::kStack) return stack(proposal, shot, document, notes);
   const std::size_t count = document.recordings->traceSets[set].size();
   ShotMends mends = mendsOf(*document.recordings, set);
   if (proposal.kind == Kind::kTimeShift) mends.timeShift += proposal.seconds;
   if (proposal.kind == Kind::kDisableShot) mends.disabled = true;
   if (proposal.kind == Kind::kReverseOrder) reverseOrder(count, mends);
   const Status status = mendTraces(proposal, count, mends);
-  return status.ok() ? setMends(set, std::move(mends), document) : status;
+  return status.ok() ? setMends(set, std::move(mends), document, notes) : status;
 }
 
 }  // namespace
 
-Status carryOut(const Finding& finding, const Proposal& proposal, TomoDocument& document) {
+bool changesGeometry(const Proposal& proposal) {
+  return proposal.kind == Kind::kMoveShot || proposal.kind == Kind::kMoveGeophones;
+}
+
+Status carryOut(const Finding& finding, const Proposal& proposal, TomoDocument& document,
+                std::vector<Message>* notes) {
   if (!finding.shot || *finding.shot >= document.ttArray.size()) return noSuchShot();
   TomoDocument next = document;
-  const bool geometry = proposal.kind == Kind::kMoveShot || proposal.kind == Kind::kMoveGeophones;
-  Status status =
-      geometry ? editGeometry(*finding.shot, proposal, next) : mend(*finding.shot, proposal, next);
-  if (status.ok()) document = std::move(next);
+  std::vector<Message> said;
+  Status status = changesGeometry(proposal) ? editGeometry(*finding.shot, proposal, next)
+                                            : mend(*finding.shot, proposal, next, &said);
+  if (!status.ok()) return status;
+  document = std::move(next);
+  if (notes != nullptr) notes->insert(notes->end(), said.begin(), said.end());
   return status;
 }
 

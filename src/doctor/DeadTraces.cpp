@@ -103,11 +103,9 @@ std::vector<Finding> checkDeadTraces(const ShotView& shot) {
     findings.back().traces = traces;
     findings.back().proposal = ofTraces(Proposal::Kind::kKillTraces, traces);
   };
-  add(silent, 1.0,
-      Message::tr("dead: the samples of traces %1 are all the same").arg(traceList(silent)));
+  add(silent, 1.0, Message::tr("dead: the samples of %1 are all the same").arg(traceList(silent)));
   add(weak, 0.9,
-      Message::tr(
-          "as good as dead: traces %1 have down to %2 % of the strength of their neighbours")
+      Message::tr("as good as dead: %1, at down to %2 % of the strength of the neighbours")
           .arg(traceList(weak))
           .arg(Message::number(weakest * 100.0, 2)));
   return findings;
@@ -127,7 +125,7 @@ std::vector<Finding> checkClippedTraces(const ShotView& shot) {
   if (clipped.empty()) return {};
   Finding finding = aboutShot(
       Finding::Kind::kClippedTrace, shot, 0.9,
-      Message::tr("clipped: the swings of traces %1 are cut off flat, up to %2 times; first breaks "
+      Message::tr("clipped: the swings of %1 are cut off flat, up to %2 times; first breaks "
                   "can be picked, amplitudes mean nothing")
           .arg(traceList(clipped))
           .arg(most));
@@ -154,13 +152,12 @@ std::vector<Finding> checkNoisyTraces(const ShotView& shot) {
     loudest = std::max(loudest, noise / around);
   }
   if (noisy.empty()) return {};
-  Finding finding = aboutShot(
-      Finding::Kind::kNoisyTrace, shot, 0.8,
-      Message::tr(
-          "noisy: before the first arrival traces %1 have up to %2 times the noise of their "
-          "neighbours, and it drowns the arrival")
-          .arg(traceList(noisy))
-          .arg(Message::number(loudest, 2)));
+  Finding finding =
+      aboutShot(Finding::Kind::kNoisyTrace, shot, 0.8,
+                Message::tr("noisy: before the first arrival of %1 there is up to %2 times the "
+                            "noise of the neighbours, and it drowns the arrival")
+                    .arg(traceList(noisy))
+                    .arg(Message::number(loudest, 2)));
   finding.proposal = ofTraces(Proposal::Kind::kKillTraces, noisy);
   finding.traces = std::move(noisy);
   return {finding};

@@ -7,6 +7,20 @@
 #include <utility>
 
 namespace talvesk::doctor {
+namespace {
+
+/// From 1: "3, 5 and 17".
+Message numberList(const std::vector<std::size_t>& indices) {
+  if (indices.empty()) return {};
+  std::string list;
+  for (std::size_t i = 0; i + 1 < indices.size(); ++i) {
+    list += (i == 0 ? "" : ", ") + std::to_string(indices[i] + 1);
+  }
+  const Message last(std::to_string(indices.back() + 1));
+  return list.empty() ? last : Message::tr("%1 and %2").arg(list).arg(last);
+}
+
+}  // namespace
 
 Message metres(double value) {
   return Message::number(value, 5);
@@ -48,13 +62,13 @@ Proposal ofTraces(Proposal::Kind kind, std::vector<std::size_t> traces) {
 }
 
 Message traceList(const std::vector<std::size_t>& traces) {
-  std::string list;
-  for (std::size_t i = 0; i + 1 < traces.size(); ++i) {
-    list += (i == 0 ? "" : ", ") + std::to_string(traces[i] + 1);
-  }
-  if (traces.empty()) return {};
-  const Message last(std::to_string(traces.back() + 1));
-  return list.empty() ? last : Message::tr("%1 and %2").arg(list).arg(last);
+  return traces.size() == 1 ? Message::tr("trace %1").arg(traces.front() + 1)
+                            : Message::tr("traces %1").arg(numberList(traces));
+}
+
+Message shotList(const std::vector<std::size_t>& shots) {
+  return shots.size() == 1 ? Message::tr("shot %1").arg(shots.front() + 1)
+                           : Message::tr("shots %1").arg(numberList(shots));
 }
 
 std::vector<Finding> findInEachShot(

@@ -20,8 +20,9 @@ Proposal moveShot(Point2D point);
 Proposal moveGeophones(std::vector<Point2D> points);
 Proposal ofTraces(Proposal::Kind kind, std::vector<std::size_t> traces);
 
-/// The numbers of traces as users count them: "3, 5 and 17".
+/// Traces, or shots, as users count them: "trace 3", "traces 3, 5 and 17".
 Message traceList(const std::vector<std::size_t>& traces);
+Message shotList(const std::vector<std::size_t>& shots);
 
 /// What a check finds in each shot, in the order of the shots. It runs on several threads.
 std::vector<Finding> findInEachShot(

@@ -83,11 +83,11 @@ Message describe(const Proposal& proposal) {
                                     : Message::tr("move the record earlier by %1 ms")
                                           .arg(milliseconds(proposal.seconds));
     case Proposal::Kind::kKillTraces:
-      return Message::tr("kill traces %1").arg(traceList(proposal.traces));
+      return Message::tr("kill %1").arg(traceList(proposal.traces));
     case Proposal::Kind::kReverseTraces:
-      return Message::tr("reverse the polarity of traces %1").arg(traceList(proposal.traces));
+      return Message::tr("reverse the polarity of %1").arg(traceList(proposal.traces));
     case Proposal::Kind::kMuteTraces:
-      return Message::tr("mute traces %1 before %2 ms")
+      return Message::tr("mute %1 before %2 ms")
           .arg(traceList(proposal.traces))
           .arg(milliseconds(proposal.seconds));
     case Proposal::Kind::kReverseOrder:
@@ -100,8 +100,8 @@ Message describe(const Proposal& proposal) {
           .arg(metres(first().x))
           .arg(metres(last().x));
     case Proposal::Kind::kStack:
-      return Message::tr("stack it with shots %1, which are disabled")
-          .arg(traceList(proposal.others));
+      return Message::tr("stack it with %1; the stack alone counts then")
+          .arg(shotList(proposal.others));
     case Proposal::Kind::kDisableShot:
       break;
   }

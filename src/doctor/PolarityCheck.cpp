@@ -137,12 +137,12 @@ std::vector<Finding> checkPolarity(const std::vector<const ShotView*>& shots) {
       least = std::min(least, std::fabs(swing.own));
     }
     if (against.empty()) continue;
-    Finding finding = aboutShot(
-        Finding::Kind::kReversedPolarity, shot, std::min(0.95, 0.4 + 0.6 * least),
-        Message::tr("reversed: the first swings of traces %1 go against those of their neighbours, "
-                    "which agree with each other (correlation -%2 at least)")
-            .arg(traceList(against))
-            .arg(Message::number(least, 2)));
+    Finding finding =
+        aboutShot(Finding::Kind::kReversedPolarity, shot, std::min(0.95, 0.4 + 0.6 * least),
+                  Message::tr("reversed: the first swings of %1 go against those of the "
+                              "neighbours, which agree with each other (correlation -%2 at least)")
+                      .arg(traceList(against))
+                      .arg(Message::number(least, 2)));
     finding.proposal = ofTraces(Proposal::Kind::kReverseTraces, against);
     finding.traces = std::move(against);
     findings.push_back(std::move(finding));

@@ -159,9 +159,9 @@ std::vector<Finding> checkIntervals(const SurveyView& view) {
     finding.kind = Finding::Kind::kSampleIntervals;
     finding.confidence = 0.3;
     finding.text = Message::tr(
-                       "shots %1 have a sample interval of %2 ms, most others %3 ms: right if "
-                       "the recorder was set so")
-                       .arg(traceList(shots))
+                       "the sample interval is %2 ms in %1, and %3 ms in most others: right if the "
+                       "recorder was set so")
+                       .arg(shotList(shots))
                        .arg(intervalText(interval))
                        .arg(intervalText(most->first));
     findings.push_back(std::move(finding));

@@ -71,7 +71,7 @@ TEST(Check, mendsIntoAProjectThatHasNothingLeftToMend) {
   const std::string project = folder / "mended.tvsk";
   const Outcome mended = runBatch(arguments(shotsWithDeadTraces(folder), {"--mend", project}));
   ASSERT_EQ(mended.code, 0) << mended.err;
-  EXPECT_THAT(mended.out, HasSubstr("1 proposals carried out."));
+  EXPECT_THAT(mended.out, HasSubstr("1 proposal carried out."));
   const Outcome again = runBatch({"check", project, "--json", "-"});
   ASSERT_EQ(again.code, 0) << again.err;
   for (const ordered_json& finding : ordered_json::parse(again.out)["findings"]) {

@@ -1,8 +1,8 @@
 #include "batch/Progress.h"
 #include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
-#include "io/project/projectReader.h"
 #include "io/TravelTimeData.h"
+#include "io/project/projectReader.h"
 #include "model/Mending.h"
 #include "support/ShotDocument.h"
 

@@ -304,6 +304,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionNext_file",
         "actionPrev_file",
         "actionRecording_details",
+        "actionCheck_recordings",
         "actionMend_recording",
         "actionRemove_shot",
         "actionUndo",

@@ -5,6 +5,7 @@ namespace talvesk {
 Presenters::Presenters(Desk& desk)
     : settings(desk),
       traces(desk),
+      checks(desk),
       traceOptions(desk),
       curves(desk),
       section(desk),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/presenters/CheckPresenter.h"
 #include "app/presenters/ContoursPresenter.h"
 #include "app/presenters/CurvesPresenter.h"
 #include "app/presenters/ExportPresenter.h"
@@ -34,6 +35,7 @@ struct Presenters {
   // They hear of a change in this order.
   SettingsPresenter settings;
   TracesPresenter traces;
+  CheckPresenter checks;
   TraceOptionsPresenter traceOptions;
   CurvesPresenter curves;
   SectionPresenter section;
