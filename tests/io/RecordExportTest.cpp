@@ -1,6 +1,7 @@
 #include "io/RecordExport.h"
 #include "io/SegyWriter.h"
 #include "io/ShotLoader.h"
+#include "io/standard/StandardReader.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
@@ -111,6 +112,37 @@ TEST_F(RecordExporting, comesBackFromSegyAsFarAsItsReaderGoes) {
   EXPECT_EQ(samplesOf(after, 1, 2), samplesOf(before, 1, 2));
   EXPECT_EQ(samplesOf(after, 0, 2).size(), 41u);
   EXPECT_EQ(after.recordings->traceSets[1][0].sampleInterval, 0.00025);
+}
+
+TEST_F(RecordExporting, comesBackFromBothFormatsByTheStandard) {
+  TomoDocument before = survey();
+  for (Trace& trace : tracesOf(before, 0)) trace.delay = -0.0125;
+  for (const auto& [format, together] : {std::pair{RecordFormat::kSeg2, false},
+                                         {RecordFormat::kSegy, false},
+                                         {RecordFormat::kSegy, true}}) {
+    std::vector<StandardReading::Shot> shots;
+    for (const std::string& file : write(before, format, together)) {
+      StandardReading reading;
+      ASSERT_TRUE(readByStandard(file, reading).ok()) << file;
+      for (const Message& warning : reading.warnings) ADD_FAILURE() << warning;
+      shots.insert(shots.end(), reading.shots.begin(), reading.shots.end());
+    }
+    ASSERT_EQ(shots.size(), 2u);
+    for (std::size_t s = 0; s < 2; ++s) {
+      const ShotFileData& data = shots[s].data;
+      for (const Message& warning : data.warnings) ADD_FAILURE() << warning;
+      ASSERT_EQ(data.traces.size(), 3u);
+      for (std::size_t t = 0; t < 3; ++t) {
+        std::vector<double> samples = samplesOf(before, s, t);
+        samples.resize(data.traces[t].samples.size(), 0.0);
+        EXPECT_EQ(data.traces[t].samples, samples);
+        EXPECT_EQ(data.traces[t].receiver, before.line->goephonesStringSet[0][t]);
+        EXPECT_EQ(data.traces[t].source, before.ttArray[s].shotPos2d);
+        EXPECT_EQ(data.traces[t].sampleInterval, 0.00025);
+        EXPECT_DOUBLE_EQ(data.traces[t].delay, s == 0 ? -0.0125 : 0.0);
+      }
+    }
+  }
 }
 
 std::int64_t field(const std::string& file, std::size_t at, std::size_t bytes) {
