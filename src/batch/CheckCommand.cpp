@@ -56,9 +56,13 @@ Status load(const CheckOptions& options, LoadedProject& project) {
 
 Status carryOut(const Finding& finding, Survey& survey) {
   const bool geometry = doctor::changesGeometry(*finding.proposal);
-  return editSurvey(geometry ? Edit::kGeometry : Edit::kMend, survey, [&](Survey& next) {
-    return doctor::carryOut(finding, *finding.proposal, next.document);
+  std::vector<Message> notes;
+  Status status = editSurvey(geometry ? Edit::kGeometry : Edit::kMend, survey, [&](Survey& next) {
+    return doctor::carryOut(finding, *finding.proposal, next.document, &notes);
   });
+  if (!status.ok()) return status;
+  for (const Message& note : notes) warn(note);
+  return status;
 }
 
 /// Carries out what is proposed and looks again, until nothing is. \return what is left
