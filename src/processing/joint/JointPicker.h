@@ -20,7 +20,7 @@ struct JointPickOptions {
   double slowest = parameters::kSlowestJoint.initial;  ///< apparent velocity, m/s
   double fastest = parameters::kFastestJoint.initial;  ///< m/s, above `slowest`
   double worst = parameters::kWorstPick.initial;       ///< ms; picks of a larger error are left out
-  bool useFiltered = false;                            ///< pick the filtered samples where there are any
+  bool useFiltered = false;    ///< pick the filtered samples where there are any
   bool keepConfirmed = false;  ///< picks that a person made stay, and the rest follows them
   unsigned threads = 0;        ///< 0 takes as many as the machine has processors
 };
