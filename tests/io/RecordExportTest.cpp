@@ -146,10 +146,11 @@ TEST_F(RecordExporting, comesBackFromBothFormatsByTheStandard) {
 }
 
 std::int64_t field(const std::string& file, std::size_t at, std::size_t bytes) {
-  std::int64_t value = static_cast<signed char>(file[at]);
-  for (std::size_t i = 1; i < bytes; ++i)
+  std::int64_t value = 0;
+  for (std::size_t i = 0; i < bytes; ++i)
     value = value * 256 + static_cast<unsigned char>(file[at + i]);
-  return value;
+  const std::int64_t range = std::int64_t{1} << (8 * bytes);
+  return value < range / 2 ? value : value - range;
 }
 
 TEST_F(RecordExporting, fillsTheHeadersOfSegyThatOtherProgramsRead) {
