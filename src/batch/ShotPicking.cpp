@@ -212,6 +212,10 @@ Status pickAlongTheLine(const ShotOptions& options, const PickingManner& manner,
   *manner.summary << "Picked along the line: " << outcome.good << " picks are sure to "
                   << formatDouble(parameters::kGoodPick.value) << " ms, " << outcome.doubtful
                   << " are doubtful.\n";
+  if (outcome.mended > 0) {
+    *manner.summary << outcome.mended
+                    << " traces are of disabled shots or killed and left unpicked.\n";
+  }
   return status;
 }
 

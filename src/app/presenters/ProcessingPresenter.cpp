@@ -106,13 +106,19 @@ void ProcessingPresenter::autoPickAlongLine() {
           Message::tr("AutoPick along the line"))) {
     return;
   }
-  mDesk.tell(tr("Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks "
-                "that you made stay.")
-                 .arg(outcome.traces)
-                 .arg(outcome.good)
-                 .arg(parameters::kGoodPick.value)
-                 .arg(outcome.doubtful)
-                 .arg(outcome.kept));
+  QString text =
+      tr("Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks "
+         "that you made stay.")
+          .arg(outcome.traces)
+          .arg(outcome.good)
+          .arg(parameters::kGoodPick.value)
+          .arg(outcome.doubtful)
+          .arg(outcome.kept);
+  if (outcome.mended > 0) {
+    text += QLatin1Char(' ') +
+            tr("%1 of them are of disabled shots or killed and left unpicked.").arg(outcome.mended);
+  }
+  mDesk.tell(text);
 }
 
 void ProcessingPresenter::makeFilteredCopies(

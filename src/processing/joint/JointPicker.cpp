@@ -72,6 +72,7 @@ Gather gatherOf(const TomoDocument& document, std::int32_t shot, const JointPick
   for (std::size_t t = 0; t < count; ++t) {
     const Trace& trace = (*traces)[t];
     const bool part = takesPart(document, shot, t);
+    ++outcome.traces;
     if (!part) ++outcome.mended;
     const bool taken = part && usable(trace, gather.receivers[t], gather.source);
     gather.traces.push_back(taken ? &trace : nullptr);
@@ -195,7 +196,6 @@ void store(const Gather& gather, TomoDocument& document, JointPickOutcome& outco
   if (times.size() < gather.times.size()) times.resize(gather.times.size(), kUnpicked);
   for (std::size_t t = 0; t < gather.times.size(); ++t) {
     if (gather.traces[t] == nullptr) continue;
-    ++outcome.traces;
     if (!std::isnan(gather.channels[t].fixed)) {
       ++outcome.kept;
       continue;

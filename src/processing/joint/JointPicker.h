@@ -26,7 +26,7 @@ struct JointPickOptions {
 };
 
 struct JointPickOutcome {
-  std::size_t traces = 0;
+  std::size_t traces = 0;    ///< of the shots, those that cannot be picked among them
   std::size_t good = 0;      ///< picks of an error up to parameters::kGoodPick
   std::size_t doubtful = 0;  ///< picks of a larger one
   std::size_t kept = 0;      ///< that a person made
