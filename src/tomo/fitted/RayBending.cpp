@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kMostSteps = 12;        ///< of Newton's method; four to six are usual
 constexpr int kMostHalvings = 6;      ///< of a step that leads too far
-constexpr int kMostRounds = 4;        ///< of passing corners; the second seldom finds any
+constexpr int kMostRounds = 8;        ///< of passing corners; the second seldom finds any
 constexpr double kEnoughGain = 1e-7;  ///< of the time; a tenth of a microsecond in a second
 constexpr double kOff = 0.1;          ///< of a side: where crossings near a corner begin
 
@@ -228,7 +228,7 @@ bool RayBending::passCorner(Path& path, std::size_t i) {
   for (RayCrossing& crossing : way.crossings) {
     if (crossing.at() == corner) crossing.place = std::clamp(crossing.place, kOff, 1.0 - kOff);
   }
-  if (!(straighten(way) < before * (1.0 - kEnoughGain))) return false;
+  if (!(straighten(way) < before * (1.0 - 1e-2 * kEnoughGain))) return false;
 
   path.cells.erase(path.cells.begin() + first, path.cells.begin() + last + 1);
   path.cells.insert(path.cells.begin() + first, way.cells.begin(), way.cells.end());

@@ -9,8 +9,9 @@ namespace talvesk {
 namespace {
 
 constexpr std::uint32_t kNotWaiting = SearchField::kNotQueued;
-constexpr std::uint32_t kBucketMask = 0x7FFFFFFFU;
+constexpr std::int64_t kBucketMask = 0x7FFFFFFFU;
 constexpr double kMostBuckets = 65536.0;
+constexpr double kFlat = 1e-9;
 constexpr double kNever = std::numeric_limits<double>::infinity();
 
 double distance(const Point2D& a, const Point2D& b) {
@@ -19,11 +20,14 @@ double distance(const Point2D& a, const Point2D& b) {
   return std::sqrt(dx * dx + dz * dz);
 }
 
-/// A piece of a cell's boundary with times that change linearly along it, seen from a cell of
-/// slowness s: the waves that leave it inside make one angle with it.
+/// A piece of a cell's boundary whose ends have times, seen from a cell of slowness s. Between the
+/// ends the times are interpolated linearly, which finds where a wave leaves the piece. advance()
+/// corrects for the roundness of a wave that spreads from the source: without that, near a source
+/// direct waves would be late and lose against refracted ones.
 class Front {
  public:
-  Front(const Point2D& a, const Point2D& b, double timeA, double timeB, double s)
+  Front(const Point2D& a, const Point2D& b, double timeA, double timeB, double s,
+        const Point2D& source)
       : mA(a), mTimeA(timeA), mLength(distance(a, b)) {
     if (!(mLength > 0.0)) return;
     mX = (b.x - a.x) / mLength;
@@ -33,6 +37,11 @@ class Front {
     if (!(normal > 0.0)) return;
     mNormal = std::sqrt(normal);
     mSlant = mGradient / mNormal;
+    const double x = 0.5 * (a.x + b.x) - source.x;
+    const double z = 0.5 * (a.z + b.z) - source.z;
+    const double square = x * x + z * z;
+    const double across = x * mZ - z * mX;
+    mRoundness = 0.25 * (timeA + timeB) * (across * across) / (square * square);
   }
 
   bool radiates() const { return mNormal > 0.0; }
@@ -45,8 +54,11 @@ class Front {
     const double along = dx * mX + dz * mZ;
     const double across = std::fabs(dx * mZ - dz * mX);
     time = mTimeA + mGradient * along + across * mNormal;
-    return along - across * mSlant;
+    // A point of the piece itself is reached from its ends.
+    return across > kFlat * mLength ? along - across * mSlant : -1.0;
   }
+  /// By how much a round wave passes the place earlier than the interpolation says, seconds.
+  double advance(double origin) const { return mRoundness * origin * (mLength - origin); }
   double length() const { return mLength; }
   double timeAt(double origin) const { return mTimeA + mGradient * origin; }
   Point2D at(double origin) const { return {mA.x + mX * origin, mA.z + mZ * origin}; }
@@ -57,6 +69,7 @@ class Front {
   double mLength;
   double mX = 0.0, mZ = 0.0;  ///< direction from a to b
   double mGradient = 0.0, mNormal = 0.0, mSlant = 0.0;
+  double mRoundness = 0.0;  ///< half the second derivative of time, s/m^2
 };
 
 /// Whether node k of a ring lies on the side that steps i to i + 1 of the ring belong to.
@@ -102,7 +115,8 @@ void TimeField::spread(const SurfacePoint& source, const std::vector<double>& sl
   mTime.assign(mMesh->nodeCount(), kNever);
   mWaiting.assign(mMesh->nodeCount(), kNotWaiting);
   start(source);
-  for (std::uint32_t current = 0; !mBuckets.empty(); current = (current + 1) & kBucketMask) {
+  for (; !mBuckets.empty(); ++mNow) {
+    const auto current = static_cast<std::uint32_t>(mNow & kBucketMask);
     BucketRing::Bucket& bucket = mBuckets.at(current);
     for (std::uint32_t i = 0; i < bucket.size; ++i) {  // it may grow meanwhile
       const std::uint32_t node = bucket.nodes[i];
@@ -116,6 +130,7 @@ void TimeField::spread(const SurfacePoint& source, const std::vector<double>& sl
 
 void TimeField::start(const SurfacePoint& source) {
   mSource = source;
+  mNow = 0;
   const auto [fastest, slowest] = std::minmax_element(mSlowness->begin(), mSlowness->end());
   double longest = mMesh->longestChord();
   for (const std::uint32_t cell : source.cells) {
@@ -137,8 +152,9 @@ void TimeField::start(const SurfacePoint& source) {
 void TimeField::offer(std::uint32_t node, double time) {
   if (!(time < mTime[node])) return;
   mTime[node] = time;
-  const auto bucket =
-      static_cast<std::uint32_t>(static_cast<std::int64_t>(time * mBucketsPerSecond)) & kBucketMask;
+  // Waves from between nodes may come earlier than the later of the two, which is settled now.
+  const std::int64_t due = std::max(static_cast<std::int64_t>(time * mBucketsPerSecond), mNow);
+  const auto bucket = static_cast<std::uint32_t>(due & kBucketMask);
   if (mWaiting[node] == bucket) return;
   mWaiting[node] = bucket;
   mBuckets.push(bucket, node);
@@ -162,15 +178,18 @@ void TimeField::reachAcross(const Around& cell, std::uint32_t from, std::uint32_
   if (!isSettled(cell.ring[partner])) return;
   const double timeA = mTime[cell.ring[from]];
   const double timeB = mTime[cell.ring[partner]];
-  const Front front(cell.at[from], cell.at[partner], timeA, timeB, cell.s);
+  const Front front(cell.at[from], cell.at[partner], timeA, timeB, cell.s, mSource.at);
   if (!front.radiates()) return;
   const double first = std::min(timeA, timeB);
   const std::uint32_t place = (from + 1) % CellMesh::kRing == partner ? from : partner;
   for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) {
-    if (!(mTime[cell.ring[k]] > first) || onSideOf(k, place)) continue;
+    if (!(mTime[cell.ring[k]] > timeA) || onSideOf(k, place)) continue;
     double time = 0.0;
     const double origin = front.origin(cell.at[k], time);
-    if (origin > 0.0 && origin < front.length()) offer(cell.ring[k], time);
+    if (!(origin > 0.0 && origin < front.length())) continue;
+    // Never earlier than both ends: from every node an earlier one can be seen.
+    const double round = time - front.advance(origin);
+    if (round > first) offer(cell.ring[k], round);
   }
 }
 
@@ -191,7 +210,7 @@ void TimeField::findStep(std::uint32_t cell, const Point2D& from, double below, 
   if (nodesOnly) return;
   for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) {
     const std::uint32_t next = (k + 1) % CellMesh::kRing;
-    const Front front(a.at[k], a.at[next], mTime[a.ring[k]], mTime[a.ring[next]], a.s);
+    const Front front(a.at[k], a.at[next], mTime[a.ring[k]], mTime[a.ring[next]], a.s, mSource.at);
     if (!front.radiates()) continue;
     double arrival = 0.0;
     const double origin = front.origin(from, arrival);
@@ -205,6 +224,7 @@ void TimeField::descend(const SurfacePoint& receiver, std::vector<RayLeg>& legs)
   std::vector<std::uint32_t> cells = receiver.cells;
   Point2D from = receiver.at;
   double below = kNever;
+  bool atNode = false;
   // A ray that winds for so long has met a flaw of the interpolation; from node to node the times
   // fall for certain.
   const std::size_t patience = 8 * (std::size_t{mMesh->rows()} + mMesh->cols());
@@ -213,7 +233,7 @@ void TimeField::descend(const SurfacePoint& receiver, std::vector<RayLeg>& legs)
     for (const std::uint32_t cell : cells) {
       findStep(cell, from, below, legs.size() > patience, step);
     }
-    if (step.arrival == kNever) {
+    if (step.arrival == kNever && !atNode) {
       // Interpolated times need not fall: on to the earlier end of the piece, which is a node.
       for (const std::uint32_t cell : cells) {
         findStep(cell, from, std::nextafter(below, kNever), true, step);
@@ -221,11 +241,12 @@ void TimeField::descend(const SurfacePoint& receiver, std::vector<RayLeg>& legs)
     }
     if (step.arrival == kNever) throw std::runtime_error("a ray has lost its way to the source");
     legs.push_back(step.leg);
-    if (step.time == 0.0 && step.node == CellMesh::kNone && step.leg.exit == mSource.at) return;
+    if (step.time == 0.0) return;
     from = step.leg.exit;
+    atNode = step.node != CellMesh::kNone;
     below = step.time;
     cells.clear();
-    if (step.node != CellMesh::kNone) {
+    if (atNode) {
       mMesh->forEachCellAt(step.node,
                            [&](std::uint32_t cell, std::uint32_t) { cells.push_back(cell); });
       continue;

@@ -55,6 +55,7 @@ class TimeField {
   const std::vector<double>* mSlowness = nullptr;
   SurfacePoint mSource;
   double mBucketsPerSecond = 1.0;
+  std::int64_t mNow = 0;                ///< bucket that is being worked through
   std::vector<double> mTime;            ///< seconds per node; infinite: not reached
   std::vector<std::uint32_t> mWaiting;  ///< bucket per node
   BucketRing mBuckets;
