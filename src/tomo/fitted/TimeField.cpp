@@ -12,7 +12,10 @@ constexpr std::uint32_t kNotWaiting = SearchField::kNotQueued;
 constexpr std::int64_t kBucketMask = 0x7FFFFFFFU;
 constexpr double kMostBuckets = 65536.0;
 constexpr double kFlat = 1e-9;
-constexpr double kNever = std::numeric_limits<double>::infinity();
+constexpr double kNever = FieldStep::kNever;
+// Of two waves that come so close together, relative to their time, the field may have the wrong
+// one first.
+constexpr double kRival = 0.003;
 
 double distance(const Point2D& a, const Point2D& b) {
   const double dx = a.x - b.x;
@@ -26,84 +29,67 @@ double distance(const Point2D& a, const Point2D& b) {
 /// direct waves would be late and lose against refracted ones.
 class Front {
  public:
-  Front(const Point2D& a, const Point2D& b, double timeA, double timeB, double s,
-        const Point2D& source)
-      : mA(a), mTimeA(timeA), mLength(distance(a, b)) {
-    if (!(mLength > 0.0)) return;
-    mX = (b.x - a.x) / mLength;
-    mZ = (b.z - a.z) / mLength;
-    mGradient = (timeB - timeA) / mLength;
-    const double normal = s * s - mGradient * mGradient;
+  Front(const Point2D& a, const Point2D& b, double timeA, double timeB, double s)
+      : mA(a), mX(b.x - a.x), mZ(b.z - a.z), mTime(timeA), mRise(timeB - timeA) {
+    const double square = mX * mX + mZ * mZ;
+    const double normal = s * s * square - mRise * mRise;
     if (!(normal > 0.0)) return;
     mNormal = std::sqrt(normal);
-    mSlant = mGradient / mNormal;
-    const double x = 0.5 * (a.x + b.x) - source.x;
-    const double z = 0.5 * (a.z + b.z) - source.z;
-    const double square = x * x + z * z;
-    const double across = x * mZ - z * mX;
-    mRoundness = 0.25 * (timeA + timeB) * (across * across) / (square * square);
+    mSlant = mRise / mNormal;
+    mPerSquare = 1.0 / square;
   }
 
   bool radiates() const { return mNormal > 0.0; }
 
-  /// Where the wave to `p` leaves the piece, metres from a; outside of 0 .. length: from no place
-  /// between a and b.
+  /// Where the wave to `p` leaves the piece: 0 at a, 1 at b; outside: from no place between them.
   double origin(const Point2D& p, double& time) const {
     const double dx = p.x - mA.x;
     const double dz = p.z - mA.z;
-    const double along = dx * mX + dz * mZ;
-    const double across = std::fabs(dx * mZ - dz * mX);
-    time = mTimeA + mGradient * along + across * mNormal;
+    const double along = (dx * mX + dz * mZ) * mPerSquare;
+    const double across = std::fabs(dx * mZ - dz * mX) * mPerSquare;
+    time = mTime + mRise * along + across * mNormal;
     // A point of the piece itself is reached from its ends.
-    return across > kFlat * mLength ? along - across * mSlant : -1.0;
+    return across > kFlat ? along - across * mSlant : -1.0;
   }
   /// By how much a round wave passes the place earlier than the interpolation says, seconds.
-  double advance(double origin) const { return mRoundness * origin * (mLength - origin); }
-  double length() const { return mLength; }
-  double timeAt(double origin) const { return mTimeA + mGradient * origin; }
+  double advance(double origin, const Point2D& source) const {
+    const double x = mA.x + 0.5 * mX - source.x;
+    const double z = mA.z + 0.5 * mZ - source.z;
+    const double square = x * x + z * z;
+    const double across = x * mZ - z * mX;
+    return 0.5 * (mTime + 0.5 * mRise) * (across * across) / (square * square) * origin *
+           (1.0 - origin);
+  }
+  double timeAt(double origin) const { return mTime + mRise * origin; }
   Point2D at(double origin) const { return {mA.x + mX * origin, mA.z + mZ * origin}; }
 
  private:
   Point2D mA;
-  double mTimeA;
-  double mLength;
-  double mX = 0.0, mZ = 0.0;  ///< direction from a to b
-  double mGradient = 0.0, mNormal = 0.0, mSlant = 0.0;
-  double mRoundness = 0.0;  ///< half the second derivative of time, s/m^2
+  double mX, mZ;  ///< from a to b
+  double mTime, mRise;
+  double mNormal = 0.0, mSlant = 0.0, mPerSquare = 0.0;
 };
 
-/// Whether node k of a ring lies on the side that steps i to i + 1 of the ring belong to.
-bool onSideOf(std::uint32_t k, std::uint32_t i) {
+/// Nodes of a ring, one bit each.
+using RingSet = std::uint32_t;
+
+template <typename Visit>
+void forEach(RingSet set, Visit visit) {
+  for (; set != 0; set &= set - 1) visit(static_cast<std::uint32_t>(__builtin_ctz(set)));
+}
+
+/// The nodes of the side that steps i to i + 1 of a ring belong to.
+RingSet sideOf(std::uint32_t i) {
+  constexpr RingSet kAll = (1U << CellMesh::kRing) - 1;
+  constexpr RingSet kSide = (1U << (CellMesh::kSteps + 1)) - 1;
   const std::uint32_t first = i / CellMesh::kSteps * CellMesh::kSteps;
-  return (k + CellMesh::kRing - first) % CellMesh::kRing <= CellMesh::kSteps;
+  return (kSide << first | kSide >> (CellMesh::kRing - first)) & kAll;
 }
 
 }  // namespace
 
 bool SurfacePoint::isIn(std::uint32_t cell) const {
   return std::find(cells.begin(), cells.end(), cell) != cells.end();
-}
-
-struct TimeField::Around {
-  double s = 0.0;  ///< slowness of the cell
-  CellMesh::Ring ring{};
-  std::array<Point2D, CellMesh::kRing> at;
-};
-
-struct TimeField::Step {
-  double arrival = kNever;  ///< at the point that is looked back from
-  double time = kNever;     ///< at `leg.exit`
-  RayLeg leg;
-  std::uint32_t node = CellMesh::kNone;  ///< where the exit is one
-  std::uint32_t place = 0;               ///< step of the cell's ring where it is none
-};
-
-TimeField::Around TimeField::around(std::uint32_t cell) const {
-  Around a;
-  a.s = (*mSlowness)[cell];
-  a.ring = mMesh->ring(cell);
-  for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) a.at[k] = mMesh->node(a.ring[k]);
-  return a;
 }
 
 bool TimeField::isSettled(std::uint32_t node) const {
@@ -162,98 +148,130 @@ void TimeField::offer(std::uint32_t node, double time) {
 
 void TimeField::settle(std::uint32_t node) {
   const double time = mTime[node];
+  const Point2D at = mMesh->node(node);
   mMesh->forEachCellAt(node, [&](std::uint32_t cell, std::uint32_t k) {
-    const Around a = around(cell);
+    const CellMesh::Ring& ring = mMesh->ring(cell);
+    RingSet later = 0;
     for (std::uint32_t i = 0; i < CellMesh::kRing; ++i) {
-      if (mTime[a.ring[i]] > time) {
-        offer(a.ring[i], time + a.s * distance(a.at[i], mMesh->node(node)));
-      }
+      if (mTime[ring[i]] > time) later |= 1U << i;
     }
-    reachAcross(a, k, (k + 1) % CellMesh::kRing);
-    reachAcross(a, k, (k + CellMesh::kRing - 1) % CellMesh::kRing);
+    if (later == 0) return;
+    const double s = (*mSlowness)[cell];
+    forEach(later, [&](std::uint32_t i) {
+      offer(ring[i], time + s * distance(mMesh->node(ring[i]), at));
+    });
+    reachAcross(ring, s, k, (k + 1) % CellMesh::kRing, later);
+    reachAcross(ring, s, k, (k + CellMesh::kRing - 1) % CellMesh::kRing, later);
   });
 }
 
-void TimeField::reachAcross(const Around& cell, std::uint32_t from, std::uint32_t partner) {
-  if (!isSettled(cell.ring[partner])) return;
-  const double timeA = mTime[cell.ring[from]];
-  const double timeB = mTime[cell.ring[partner]];
-  const Front front(cell.at[from], cell.at[partner], timeA, timeB, cell.s, mSource.at);
-  if (!front.radiates()) return;
-  const double first = std::min(timeA, timeB);
+/// Reaches the later nodes of a cell from between two neighbours of its ring.
+void TimeField::reachAcross(const CellMesh::Ring& ring, double s, std::uint32_t from,
+                            std::uint32_t partner, std::uint32_t later) {
   const std::uint32_t place = (from + 1) % CellMesh::kRing == partner ? from : partner;
-  for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) {
-    if (!(mTime[cell.ring[k]] > timeA) || onSideOf(k, place)) continue;
+  const RingSet reached = later & ~sideOf(place);
+  if (reached == 0 || !isSettled(ring[partner])) return;
+  const double timeA = mTime[ring[from]];
+  const double timeB = mTime[ring[partner]];
+  const Front front(mMesh->node(ring[from]), mMesh->node(ring[partner]), timeA, timeB, s);
+  if (!front.radiates()) return;
+  forEach(reached, [&](std::uint32_t k) {
     double time = 0.0;
-    const double origin = front.origin(cell.at[k], time);
-    if (!(origin > 0.0 && origin < front.length())) continue;
+    const double origin = front.origin(mMesh->node(ring[k]), time);
+    if (!(origin > 0.0 && origin < 1.0)) return;
     // Never earlier than both ends: from every node an earlier one can be seen.
-    const double round = time - front.advance(origin);
-    if (round > first) offer(cell.ring[k], round);
-  }
+    const double round = time - front.advance(origin, mSource.at);
+    if (round > std::min(timeA, timeB)) offer(ring[k], round);
+  });
 }
 
-void TimeField::findStep(std::uint32_t cell, const Point2D& from, double below, bool nodesOnly,
-                         Step& best) const {
-  const Around a = around(cell);
-  const auto consider = [&](double arrival, double time, const Point2D& exit, std::uint32_t node,
-                            std::uint32_t place) {
-    if (time < below && arrival < best.arrival) best = {arrival, time, {cell, exit}, node, place};
-  };
-  if (mSource.isIn(cell)) {
-    consider(a.s * distance(from, mSource.at), 0.0, mSource.at, CellMesh::kNone, 0);
+/// Calls visit(step) for the places of a cell from where a wave may come to `from`, as far as they
+/// were reached before the time `below`.
+template <typename Visit>
+void TimeField::lookAround(std::uint32_t cell, const Point2D& from, double below, bool nodesOnly,
+                           Visit visit) const {
+  const CellMesh::Ring& ring = mMesh->ring(cell);
+  const double s = (*mSlowness)[cell];
+  if (mSource.isIn(cell) && below > 0.0) {
+    visit(FieldStep{s * distance(from, mSource.at), 0.0, {cell, mSource.at}, CellMesh::kNone, 0});
   }
   for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) {
-    const double time = mTime[a.ring[k]];
-    consider(time + a.s * distance(from, a.at[k]), time, a.at[k], a.ring[k], k);
+    const double time = mTime[ring[k]];
+    if (!(time < below)) continue;
+    visit(FieldStep{time + s * distance(from, mMesh->node(ring[k])),
+                    time,
+                    {cell, mMesh->node(ring[k])},
+                    ring[k],
+                    k});
   }
   if (nodesOnly) return;
   for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) {
     const std::uint32_t next = (k + 1) % CellMesh::kRing;
-    const Front front(a.at[k], a.at[next], mTime[a.ring[k]], mTime[a.ring[next]], a.s, mSource.at);
+    const Front front(mMesh->node(ring[k]), mMesh->node(ring[next]), mTime[ring[k]],
+                      mTime[ring[next]], s);
     if (!front.radiates()) continue;
     double arrival = 0.0;
     const double origin = front.origin(from, arrival);
-    if (!(origin > 0.0 && origin < front.length())) continue;
-    consider(arrival, front.timeAt(origin), front.at(origin), CellMesh::kNone, k);
+    if (!(origin > 0.0 && origin < 1.0)) continue;
+    const double time = front.timeAt(origin);
+    if (!(time < below)) continue;
+    visit(FieldStep{arrival, time, {cell, front.at(origin)}, CellMesh::kNone, k});
   }
 }
 
-void TimeField::descend(const SurfacePoint& receiver, std::vector<RayLeg>& legs) const {
+void TimeField::departures(const SurfacePoint& receiver, std::vector<FieldStep>& steps) const {
+  steps.clear();
+  for (const std::uint32_t cell : receiver.cells) {
+    std::array<FieldStep, 4> bySide;
+    lookAround(cell, receiver.at, kNever, false, [&](const FieldStep& step) {
+      FieldStep& best = bySide[step.place / CellMesh::kSteps];
+      if (step.arrival < best.arrival) best = step;
+    });
+    for (const FieldStep& step : bySide) {
+      if (step.arrival < kNever) steps.push_back(step);
+    }
+  }
+  std::sort(steps.begin(), steps.end(),
+            [](const FieldStep& a, const FieldStep& b) { return a.arrival < b.arrival; });
+  const double latest = steps.front().arrival * (1.0 + kRival);
+  while (steps.back().arrival > latest) steps.pop_back();
+}
+
+void TimeField::descend(const FieldStep& departure, std::vector<RayLeg>& legs) const {
   legs.clear();
-  std::vector<std::uint32_t> cells = receiver.cells;
-  Point2D from = receiver.at;
-  double below = kNever;
-  bool atNode = false;
+  std::vector<std::uint32_t> cells;
+  FieldStep step = departure;
   // A ray that winds for so long has met a flaw of the interpolation; from node to node the times
   // fall for certain.
   const std::size_t patience = 8 * (std::size_t{mMesh->rows()} + mMesh->cols());
   while (true) {
-    Step step;
-    for (const std::uint32_t cell : cells) {
-      findStep(cell, from, below, legs.size() > patience, step);
-    }
-    if (step.arrival == kNever && !atNode) {
-      // Interpolated times need not fall: on to the earlier end of the piece, which is a node.
-      for (const std::uint32_t cell : cells) {
-        findStep(cell, from, std::nextafter(below, kNever), true, step);
-      }
-    }
-    if (step.arrival == kNever) throw std::runtime_error("a ray has lost its way to the source");
     legs.push_back(step.leg);
     if (step.time == 0.0) return;
-    from = step.leg.exit;
-    atNode = step.node != CellMesh::kNone;
-    below = step.time;
+    const Point2D from = step.leg.exit;
+    const double below = step.time;
+    const bool atNode = step.node != CellMesh::kNone;
     cells.clear();
     if (atNode) {
       mMesh->forEachCellAt(step.node,
                            [&](std::uint32_t cell, std::uint32_t) { cells.push_back(cell); });
-      continue;
+    } else {
+      const std::uint32_t other = mMesh->beyond(step.leg.cell, step.place / CellMesh::kSteps);
+      cells.push_back(step.leg.cell);
+      if (other != CellMesh::kNone) cells.push_back(other);
     }
-    const std::uint32_t other = mMesh->beyond(step.leg.cell, step.place / CellMesh::kSteps);
-    cells.push_back(step.leg.cell);
-    if (other != CellMesh::kNone) cells.push_back(other);
+    step = {};
+    const auto choose = [&step](const FieldStep& s) {
+      if (s.arrival < step.arrival) step = s;
+    };
+    for (const std::uint32_t cell : cells) {
+      lookAround(cell, from, below, legs.size() > patience, choose);
+    }
+    if (step.arrival < kNever) continue;
+    // Interpolated times need not fall: on to the earlier end of the piece, which is a node.
+    for (const std::uint32_t cell : cells) {
+      if (!atNode) lookAround(cell, from, std::nextafter(below, kNever), true, choose);
+    }
+    if (step.arrival == kNever) throw std::runtime_error("a ray has lost its way to the source");
   }
 }
 
