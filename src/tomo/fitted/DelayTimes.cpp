@@ -43,7 +43,35 @@ Terms sharesOf(const LinePicks& line, const LinePick& pick) {
   return shares;
 }
 
+/// How much each position's delay counts in a pick's: as if delays ran evenly between positions.
+Terms endTerms(const LinePicks& line, const DelayTimes& refractor, const LinePick& pick) {
+  Terms terms;
+  const auto add = [&](std::size_t from, std::size_t to) {
+    const std::vector<double>& x = line.positions;
+    const double shift =
+        refractor.shifts.empty() ? 0.0 : std::min(refractor.shifts[from], 0.5 * pick.offset);
+    const double place = x[from] + (to > from ? shift : -shift);
+    const auto after = std::upper_bound(x.begin(), x.end(), place);
+    const auto right = std::min(static_cast<std::size_t>(after - x.begin()), x.size() - 1);
+    const std::size_t left = right - 1;
+    const double part = std::clamp((place - x[left]) / (x[right] - x[left]), 0.0, 1.0);
+    if (part < 1.0) terms.push_back({left, 1.0 - part});
+    if (part > 0.0) terms.push_back({right, part});
+  };
+  add(pick.source, pick.receiver);
+  add(pick.receiver, pick.source);
+  return terms;
+}
+
 }  // namespace
+
+double DelayTimes::delaysOf(const LinePicks& line, const LinePick& pick) const {
+  double sum = 0.0;
+  for (const RobustFit::Term& term : endTerms(line, *this, pick)) {
+    sum += term.factor * delays[term.unknown];
+  }
+  return sum;
+}
 
 DelayTimes fitDelays(const LinePicks& line, const std::vector<LinePick>& used,
                      const DelayTimes& guess) {
@@ -52,12 +80,14 @@ DelayTimes fitDelays(const LinePicks& line, const std::vector<LinePick>& used,
   RobustFit fit(n + 1);
   std::vector<bool> seen(n, false);
   for (const LinePick& pick : used) {
-    fit.measure({{pick.source, 1.0}, {pick.receiver, 1.0}, {n, pick.offset / reach}}, pick.time,
-                pick.sigma, pick.time - guess.at(pick));
-    seen[pick.source] = seen[pick.receiver] = true;
+    Terms terms = endTerms(line, guess, pick);
+    for (const RobustFit::Term& term : terms) seen[term.unknown] = true;
+    terms.push_back({n, pick.offset / reach});
+    fit.measure(terms, pick.time, pick.sigma, pick.time - guess.at(line, pick));
   }
   expectSmoothness(line, fit);
   DelayTimes result;
+  result.shifts = guess.shifts;
   std::vector<double> solution = fit.solve();
   if (solution.empty()) return result;
   result.slowness = solution.back() / reach;

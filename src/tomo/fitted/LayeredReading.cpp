@@ -18,6 +18,7 @@ constexpr std::size_t kLeastNear = 3;  // picks of waves along the surface
 constexpr std::size_t kLeastFar = 5;   // picks of waves along a refractor: more than the unknowns
 constexpr double kFaster = 1.1;        // than the ground above a refractor
 constexpr double kLeastGrowth = 0.1;   // of the velocity from the surface to the refractor
+constexpr double kSteepest = 0.95;     // sine of the angle at which waves come down at most
 constexpr int kHalvings = 60;
 
 /// Seconds along the surface.
@@ -71,7 +72,7 @@ Sorted sortPicks(const LinePicks& line, const LayeredReading& reading) {
     std::vector<LinePick>* wave = &sorted.near;
     for (std::size_t i = 0; i < reading.refractors.size(); ++i) {
       const DelayTimes& below = reading.refractors[i];
-      const double later = below.delays[pick.source] + below.delays[pick.receiver];
+      const double later = below.delaysOf(line, pick);
       const double gain = slowness - below.slowness;
       if (!(pick.offset * kBefore * gain > later - intercept)) break;
       begin = (later - intercept) / gain;
@@ -136,7 +137,7 @@ void begin(const LinePicks& line, LayeredReading& reading) {
   reading.gradient = near.slowness > 0.0 ? 2.0 * near.curvature / near.slowness : 0.0;
   for (const TimeBranch& branch : reading.branches.far) {
     reading.refractors.push_back(
-        {std::vector<double>(line.positions.size(), 0.5 * branch.intercept), branch.slowness});
+        {std::vector<double>(line.positions.size(), 0.5 * branch.intercept), branch.slowness, {}});
   }
 }
 
@@ -158,20 +159,9 @@ bool refine(const LinePicks& line, const Sorted& sorted, NearShape shape, Layere
   return true;
 }
 
-/// Sorts the picks and reads the line again; says why that cannot be.
-Message readOnce(const LinePicks& line, NearShape shape, const VelocityBounds& bounds,
-                 LayeredReading& reading) {
-  const Sorted sorted = sortPicks(line, reading);
-  Message refused = tooFew(sorted);
-  if (!refused.empty()) return refused;
-  if (!refine(line, sorted, shape, reading)) {
-    return Message::tr("the picks do not settle its delay times");
-  }
-  return unlikely(reading, bounds);
-}
-
 /// Depths from delays, refractor by refractor: each tells of what the ones above leave.
 void findDepths(const LinePicks& line, LayeredReading& reading) {
+  reading.depths.clear();
   for (std::size_t i = 0; i < reading.refractors.size(); ++i) {
     const DelayTimes& refractor = reading.refractors[i];
     std::vector<double> depths;
@@ -191,6 +181,45 @@ void findDepths(const LinePicks& line, LayeredReading& reading) {
   }
 }
 
+/// How far along the line a wave of slowness p gets on its way down through a layer.
+double alongThrough(double height, double velocity, double p) {
+  const double u = std::min(kSteepest, p * velocity);
+  return height * u / std::sqrt(1.0 - u * u);
+}
+
+/// Where waves meet the refractors, from their depths.
+void findShifts(const LinePicks& line, LayeredReading& reading) {
+  for (std::size_t i = 0; i < reading.refractors.size(); ++i) {
+    DelayTimes& refractor = reading.refractors[i];
+    refractor.shifts.clear();
+    for (std::size_t at = 0; at < line.positions.size(); ++at) {
+      const double first = reading.depths[0][at];
+      const double velocity = 1.0 / reading.nearSlownesses[at] + 0.5 * reading.gradient * first;
+      double shift = alongThrough(first, velocity, refractor.slowness);
+      if (i > 0) {
+        const double height = reading.depths[i][at] - first;
+        shift += alongThrough(height, 1.0 / reading.refractors[0].slowness, refractor.slowness);
+      }
+      refractor.shifts.push_back(shift);
+    }
+  }
+}
+
+/// Sorts the picks and reads the line again; says why that cannot be.
+Message readOnce(const LinePicks& line, NearShape shape, const VelocityBounds& bounds,
+                 LayeredReading& reading) {
+  if (!reading.depths.empty()) findShifts(line, reading);
+  const Sorted sorted = sortPicks(line, reading);
+  Message refused = tooFew(sorted);
+  if (!refused.empty()) return refused;
+  if (!refine(line, sorted, shape, reading)) {
+    return Message::tr("the picks do not settle its delay times");
+  }
+  refused = unlikely(reading, bounds);
+  if (refused.empty()) findDepths(line, reading);
+  return refused;
+}
+
 /// Whether a curved overburden is worth a model beside the one of a steady overburden.
 bool grows(const LayeredReading& reading) {
   const double rise = reading.gradient * medianOf(reading.depths.front(), 0.0);
@@ -201,7 +230,7 @@ bool grows(const LayeredReading& reading) {
 
 double LayeredReading::at(const LinePicks& line, const LinePick& pick) const {
   double time = nearTime(line, *this, pick);
-  for (const DelayTimes& refractor : refractors) time = std::min(time, refractor.at(pick));
+  for (const DelayTimes& refractor : refractors) time = std::min(time, refractor.at(line, pick));
   return time;
 }
 
@@ -241,7 +270,6 @@ LayeredReading readLayers(const LinePicks& line, std::size_t refractors, NearSha
   }
   if (!best.refractors.empty()) reading = std::move(best);
   if (!reading.refused.empty()) return reading;
-  findDepths(line, reading);
   if (shape == NearShape::kCurved && !grows(reading)) {
     reading.refused = Message::tr("the velocity above the refractor grows by less than a tenth");
   }
