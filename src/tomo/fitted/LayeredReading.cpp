@@ -10,9 +10,10 @@ namespace talvesk {
 namespace {
 
 constexpr int kRounds = 5;
-constexpr double kBefore =
-    1.1;  // a wave is surely the first up to its cross-over distance over it,
-constexpr double kBeyond = 1.2;  // and the next wave from that distance times this
+// A wave is surely the first up to where the next one overtakes it over kBefore, and the next one
+// from there times kBeyond.
+constexpr double kBefore = 1.1;
+constexpr double kBeyond = 1.2;
 
 constexpr std::size_t kLeastNear = 3;  // picks of waves along the surface
 constexpr std::size_t kLeastFar = 5;   // picks of waves along a refractor: more than the unknowns
