@@ -1,0 +1,217 @@
+#include "tomo/fitted/ReferenceModels.h"
+
+#include "numerics/Medians.h"
+#include "tomo/fitted/GradientProfile.h"
+#include "tomo/fitted/LayeredReading.h"
+#include "tomo/fitted/RobustFit.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr int kCurvePoints = 100;
+constexpr double kHuber = 1.345;  // robust deviations; 95 % as good as squares on clean data
+
+Message nameOf(ReferenceKind kind) {
+  switch (kind) {
+    case ReferenceKind::kGradient:
+      return Message::tr("Gradient");
+    case ReferenceKind::kTwoLayers:
+      return Message::tr("Two layers");
+    case ReferenceKind::kThreeLayers:
+      return Message::tr("Three layers");
+    case ReferenceKind::kOverburdenGradient:
+      return Message::tr("Overburden gradient");
+    case ReferenceKind::kGiven:
+      break;
+  }
+  return {};
+}
+
+Message speed(double value) {
+  return Message::number(std::round(value));
+}
+
+Message metres(double value) {
+  return Message::number(std::round(10.0 * value) / 10.0);
+}
+
+/// "4 to 6.5": the depths along the line but for the tenth at either end.
+Message rangeOf(std::vector<double> depths) {
+  std::sort(depths.begin(), depths.end());
+  const std::size_t tenth = depths.size() / 10;
+  const Message least = metres(depths[tenth]);
+  const Message most = metres(depths[depths.size() - 1 - tenth]);
+  return least == most ? least : Message::tr("%1 to %2").arg(least).arg(most);
+}
+
+Message describe(const GradientProfile& profile) {
+  return Message::tr("%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down")
+      .arg(speed(profile.velocities.front()))
+      .arg(speed(interpolated(profile.depths, profile.velocities, profile.deepestTurn)))
+      .arg(metres(profile.deepestTurn));
+}
+
+Message describe(const ReferenceModel& model) {
+  const Message near = speed(medianOf(model.nearVelocities, 0.0));
+  const ReferenceRefractor& first = model.refractors.front();
+  if (model.kind == ReferenceKind::kThreeLayers) {
+    const ReferenceRefractor& second = model.refractors.back();
+    return Message::tr("%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down")
+        .arg(near)
+        .arg(speed(first.velocity))
+        .arg(rangeOf(first.depths))
+        .arg(speed(second.velocity))
+        .arg(rangeOf(second.depths));
+  }
+  if (model.kind == ReferenceKind::kOverburdenGradient) {
+    return Message::tr("%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down")
+        .arg(near)
+        .arg(speed(model.gradient))
+        .arg(speed(first.velocity))
+        .arg(rangeOf(first.depths));
+  }
+  return Message::tr("%1 m/s, %2 m/s from %3 m down")
+      .arg(near)
+      .arg(speed(first.velocity))
+      .arg(rangeOf(first.depths));
+}
+
+/// The level ground that is the usual one of the line.
+TimeCurve usualCurve(const LinePicks& line, const ReferenceModel& model,
+                     const std::vector<DelayTimes>& refractors) {
+  const double slowness = 1.0 / medianOf(model.nearVelocities, 1.0);
+  TimeBranches usual{{slowness, 0.5 * model.gradient * slowness}, {}, 0.0};
+  for (const DelayTimes& refractor : refractors) {
+    usual.far.push_back({2.0 * medianOf(refractor.delays, 0.0), refractor.slowness});
+  }
+  TimeCurve curve;
+  for (int i = 0; i <= kCurvePoints; ++i) {
+    curve.offsets.push_back(line.picks.back().offset * i / kCurvePoints);
+    curve.times.push_back(usual.at(curve.offsets.back()));
+  }
+  return curve;
+}
+
+/// Where the wave of each refractor overtakes the wave before it on a line's usual curve.
+double crossOver(const TimeCurve& curve, const DelayTimes& refractor) {
+  const double intercept = 2.0 * medianOf(refractor.delays, 0.0);
+  for (std::size_t i = 0; i < curve.offsets.size(); ++i) {
+    const double time = intercept + curve.offsets[i] * refractor.slowness;
+    if (time <= curve.times[i] * (1.0 + 1e-9)) return curve.offsets[i];
+  }
+  return curve.offsets.back();
+}
+
+void addLayers(ReferenceKind kind, const LinePicks& line, const FitData& data,
+               const GridGeometry& geometry, const VelocityBounds& bounds,
+               ReferenceModels& result) {
+  const std::size_t refractors = kind == ReferenceKind::kThreeLayers ? 2 : 1;
+  const bool curved = kind == ReferenceKind::kOverburdenGradient;
+  const LayeredReading reading =
+      readLayers(line, refractors, curved ? NearShape::kCurved : NearShape::kStraight, bounds);
+  if (!reading.refused.empty()) {
+    result.refused.push_back(joined(nameOf(kind), reading.refused));
+    return;
+  }
+  ReferenceModel model;
+  model.kind = kind;
+  model.name = nameOf(kind);
+  model.positions = line.positions;
+  for (const double slowness : reading.nearSlownesses)
+    model.nearVelocities.push_back(1.0 / slowness);
+  model.gradient = reading.gradient;
+  model.curve = usualCurve(line, model, reading.refractors);
+  for (std::size_t i = 0; i < refractors; ++i) {
+    const DelayTimes& refractor = reading.refractors[i];
+    model.refractors.push_back(
+        {1.0 / refractor.slowness, crossOver(model.curve, refractor), reading.depths[i]});
+  }
+  model.slownesses = cellSlownesses(
+      geometry, [&](double x) { return reading.column(line, x); }, bounds);
+  model.times.assign(data.picks.size(), 0.0);
+  for (const LinePick& pick : line.picks) model.times[pick.pick] = reading.at(line, pick);
+  model.description = describe(model);
+  result.models.push_back(std::move(model));
+}
+
+void addGradient(const LinePicks& line, const FitData& data, const GridGeometry& geometry,
+                 const VelocityBounds& bounds, ReferenceModels& result) {
+  const GradientProfile profile = gradientProfile(line, bounds);
+  if (profile.depths.empty()) {
+    result.refused.push_back(
+        joined(nameOf(ReferenceKind::kGradient),
+               Message::tr("it takes times that grow with offset, at three offsets or more")));
+    return;
+  }
+  ReferenceModel model;
+  model.kind = ReferenceKind::kGradient;
+  model.name = nameOf(model.kind);
+  model.positions = line.positions;
+  model.nearVelocities.assign(line.positions.size(), profile.velocities.front());
+  model.profile = {profile.depths, profile.velocities};
+  model.curve = {profile.offsets, profile.times};
+  const GroundColumn column = profile.column();
+  model.slownesses = cellSlownesses(
+      geometry, [&column](double) { return column; }, bounds);
+  model.times.assign(data.picks.size(), 0.0);
+  for (const LinePick& pick : line.picks) {
+    model.times[pick.pick] = interpolated(profile.offsets, profile.times, pick.offset);
+  }
+  model.description = describe(profile);
+  result.models.push_back(std::move(model));
+}
+
+StartFit fitOf(const FitData& data, std::vector<double> times) {
+  StartFit fit;
+  std::vector<double> residuals;
+  for (std::size_t i = 0; i < data.picks.size(); ++i) {
+    residuals.push_back((data.picks[i].time - times[i]) / data.picks[i].sigma);
+  }
+  const double limit = kHuber * robustScale(residuals);
+  for (const double residual : residuals) {
+    const double size = std::fabs(residual);
+    fit.chi2 += size * size;
+    fit.huber += size <= limit ? size * size : limit * (2.0 * size - limit);
+  }
+  const double count = std::max<double>(1.0, static_cast<double>(residuals.size()));
+  fit.chi2 /= count;
+  fit.huber /= count;
+  fit.times = std::move(times);
+  fit.known = true;
+  return fit;
+}
+
+}  // namespace
+
+ReferenceModels referenceModels(const FitData& data, const GridGeometry& geometry,
+                                const VelocityBounds& bounds) {
+  ReferenceModels result;
+  const LinePicks line = linePicksOf(data, geometry);
+  addGradient(line, data, geometry, bounds, result);
+  for (const ReferenceKind kind : {ReferenceKind::kTwoLayers, ReferenceKind::kThreeLayers,
+                                   ReferenceKind::kOverburdenGradient}) {
+    addLayers(kind, line, data, geometry, bounds, result);
+  }
+  return result;
+}
+
+bool rankByStart(std::vector<ReferenceModel>& models, const FitData& data, RayTracer& tracer,
+                 const std::function<bool()>& goOn) {
+  std::vector<StartFit> fits;
+  for (const ReferenceModel& model : models) {
+    TracedRays traced;
+    if (!tracer.trace(model.slownesses, traced, goOn)) return false;
+    fits.push_back(fitOf(data, std::move(traced.times)));
+  }
+  for (std::size_t i = 0; i < models.size(); ++i) models[i].fit = std::move(fits[i]);
+  std::stable_sort(
+      models.begin(), models.end(),
+      [](const ReferenceModel& a, const ReferenceModel& b) { return a.fit.huber < b.fit.huber; });
+  return true;
+}
+
+}  // namespace talvesk
