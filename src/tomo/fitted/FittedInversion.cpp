@@ -263,6 +263,7 @@ FittedResult FittedInversion::Fit::resultOf(Section best) const {
   FittedResult result;
   result.slownesses = std::move(best.slownesses);
   result.traced = std::move(best.traced);
+  result.scaled = std::move(best.scaled);
   result.fit = std::move(best.fit);
   result.lambda = best.lambda;
   result.kept = best.iteration;
@@ -329,6 +330,12 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
   Section best = section;
   mHistory = {section.fit.chi2};
   LambdaSearch lambda(firstLambda());
+  const auto tell = [&] {
+    if (!progress) return;
+    progress({section.iteration, mOptions.mostIterations, section.fit, section.lambda,
+              section.traced.times});
+  };
+  tell();
   std::optional<FitEnd> end;
   while (!end) {
     section.lambda = lambda.lambda();
@@ -339,10 +346,7 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
     mHistory.push_back(section.fit.chi2);
     section.iteration = static_cast<int>(mHistory.size()) - 1;
     if (section.distance() < best.distance()) best = section;
-    if (progress) {
-      progress({section.iteration, mOptions.mostIterations, section.fit, section.lambda,
-                section.traced.times});
-    }
+    tell();
     end = ended();
     lambda.tell(std::max(section.fit.chi2, kLeastChi2));
   }

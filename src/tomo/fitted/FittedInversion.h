@@ -51,6 +51,7 @@ struct FittedResult {
   int iterations = 0;               ///< completed; 0 after an early stop: the section is the start
   std::vector<double> slownesses;   ///< s/m, of the section whose chi-square is nearest to 1
   TracedRays traced;                ///< through that section
+  std::vector<double> scaled;       ///< computed minus measured over the error, with statics
   std::vector<double> statics;      ///< seconds per shot of the data, late is positive; or empty
   ChiSquare fit;                    ///< of the times with the statics; suspects are pick indices
   double lambda = 0.0;              ///< with which the section was found; 0 for the start
@@ -74,7 +75,8 @@ class FittedInversion {
                   FittedOptions options);
   ~FittedInversion();
 
-  /// \param progress told after every iteration, from the calling thread; may be empty
+  /// \param progress told of the start and after every iteration, from the calling thread; may
+  /// be empty
   /// \param goOn asked between the rays of shots; false ends the fit with the best section so far;
   /// may be empty
   FittedResult run(const std::function<void(const FitProgress&)>& progress = {},
