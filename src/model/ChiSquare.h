@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Parameters.h"
+
 #include <cstddef>
 #include <vector>
 
@@ -11,8 +13,8 @@ struct TravelTime;
 
 /// The error of a pick that states none: the floor, or a share of its time where that is more.
 struct PickErrorRule {
-  double floor = 0.0005;  ///< seconds, positive
-  double share = 0.03;    ///< of the time, not negative
+  double floor = parameters::kErrorFloor.initial / 1000.0;  ///< seconds, positive
+  double share = parameters::kErrorShare.initial / 100.0;   ///< of the time, not negative
 };
 
 /// One standard deviation of a pick, seconds: its own where it states one, else that of the rule.

@@ -100,6 +100,7 @@ Status install(const FittedResult& fit, InversionRecord record, unsigned threads
   }
   outcome.info_density = smoothRayDensity(kUsualSmoothing, *grid, outcome.hitCounts,
                                           record.smoothing, verticalRatio(record.symmetric), log);
+  outcome.excluded.clear();  // every run names anew what it leaves out
   outcome.has_tomographic_info = true;
   outcome.smoothedResult = false;
   outcome.sectionHistory = record.sectionHistory;
@@ -179,6 +180,7 @@ FittedRunResult runOnCopy(TomoDocument& document, const FittedSettings& settings
   document.result.edit().RMSE_tomography =
       result.run.misfit.count > 0 ? result.run.misfit.relativeRms * 100.0 : -1.0;
   describeFit(data, std::move(fit), document, result);
+  result.reference = settings.reference;
   log.write(result.outcome);
   return result;
 }

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace talvesk {
@@ -13,6 +14,7 @@ namespace talvesk {
 /// What the user chooses before a section is fitted to the errors of its picks.
 struct FittedSettings {
   FittedOptions fit;  ///< without a start: the velocities that the document's grid has
+  std::string reference = "start";  ///< what the reference is called
   PickErrorRule errors;
   bool singleThread = false;
   std::optional<std::chrono::steady_clock::time_point> asked;  ///< see TomographyParameters
@@ -40,6 +42,7 @@ struct FittedRunResult {
   /// As of the other inversion. There is no last solver pass beside the section: its misfit and
   /// times are those of the section.
   TomographyResult run;
+  std::string reference;  ///< as the settings call it
   FitEnd end = FitEnd::kStopped;
   Message outcome;                    ///< whether the section explains the picks, in words
   ChiSquare fit;                      ///< of the section, statics included
