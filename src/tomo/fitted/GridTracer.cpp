@@ -1,6 +1,7 @@
 #include "tomo/fitted/GridTracer.h"
 
 #include "base/TextNumber.h"
+#include "grid/GridGraph.h"
 #include "tomo/fitted/ShotRays.h"
 
 #include <algorithm>

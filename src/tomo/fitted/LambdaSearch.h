@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
+
 namespace talvesk {
 
 /// Finds the weight of the roughness with which chi-square is 1, one iteration of a fit after the
 /// other. The weight is halved until chi-square falls below 1; from then on it follows the secant
-/// through the last two iterations, both on logarithmic scales.
+/// between the last iterations on either side of 1, both on logarithmic scales.
 class LambdaSearch {
  public:
   explicit LambdaSearch(double first) : mLambda(first) {}
@@ -14,12 +16,15 @@ class LambdaSearch {
   void tell(double chi2);
 
  private:
+  struct Point {
+    double logLambda;
+    double logChi2;
+  };
+
   double mLambda;
-  double mLastLogLambda = 0.0;
-  double mLastLogChi2 = 0.0;
-  bool mAny = false;
-  bool mAbove = false;  ///< chi-square was above 1 before
-  bool mBelow = false;
+  std::optional<Point> mAbove;  ///< the last iteration with a chi-square above 1
+  std::optional<Point> mBelow;
+  std::optional<bool> mLastAbove;
 };
 
 }  // namespace talvesk

@@ -5,7 +5,7 @@
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
-#include "tomo/fitted/GridTracer.h"
+#include "tomo/fitted/FineTracer.h"
 
 #include <algorithm>
 #include <utility>
@@ -66,7 +66,7 @@ FitData receiversToTrace(const TomoDocument& document) {
 
 std::unique_ptr<RayTracer> fitTracer(const std::shared_ptr<const GridGeometry>& geometry,
                                      const FitData& data, unsigned threads) {
-  return std::make_unique<GridTracer>(geometry, data, threads);
+  return std::make_unique<FineTracer>(*geometry, data, threads);
 }
 
 void putTimes(const FitData& data, const std::vector<double>& times, TomoDocument& document) {
