@@ -2,6 +2,7 @@
 #include "batch/Commands.h"
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
+#include "batch/FittedSection.h"
 #include "batch/Images.h"
 #include "batch/Interrupt.h"
 #include "batch/OutputFiles.h"
@@ -71,11 +72,12 @@ Status setUpModel(const InvertOptions& options, Survey& survey, Log& log) {
 }
 
 /// What the window would ask about; nobody is there to answer.
-void warnAboutChoices(const TomographyParameters& parameters, const TomoDocument& document) {
+void warnAboutChoices(const TomographyParameters& parameters, const TomoDocument& document,
+                      bool fits) {
   if (!document.picksComplete()) {
     warn("uncomplete set of picks; the inversion is run anyway");
   }
-  if (parameters.minVelocity > parameters.maxVelocity) {
+  if (!fits && parameters.minVelocity > parameters.maxVelocity) {
     warn("the minimum velocity is above the maximum; every cell that changes ends at the maximum");
   }
 }
@@ -108,13 +110,14 @@ TomographyParameters parametersOf(const InvertOptions& options, const TomoDocume
   TomographyParameters parameters = options.parameters;
   parameters.minVelocity = options.minVelocity.value_or(document.model->minVelocity);
   parameters.maxVelocity = options.maxVelocity.value_or(document.model->maxVelocity);
+  parameters.externalIterations = options.iterations.value_or(parameters.externalIterations);
   return parameters;
 }
 
 TomographyResult invert(const InvertOptions& options, const TomographyParameters& parameters,
                         const Channels& channels, Survey& survey, Log& log) {
   listenForInterrupt(!options.quiet);
-  Progress progress(channels.progress, std::cerr, options.parameters.externalIterations);
+  Progress progress(channels.progress, std::cerr, parameters.externalIterations);
   TomographyResult result;
   const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
     result = runInversion(
@@ -137,15 +140,27 @@ void summarizeSection(const SectionMisfit& misfit, std::ostream& out) {
       << misfit.maxShot + 1 << ", receiver " << misfit.maxReceiver + 1 << "\n";
 }
 
-void summarize(const InvertOptions& options, const TomoDocument& document,
-               const TomographyResult& result, std::ostream& out) {
+void summarizeGrid(const TomoDocument& document, std::ostream& out) {
   const Grid& grid = *document.model->grid;
-  const Misfit& misfit = result.misfit;
   out << "Grid: " << grid.righe() << " rows, " << grid.col() << " columns of "
-      << formatDouble(grid.aLato()) << " m, " << grid.nV() << " nodes per side\n"
-      << "External iterations: " << result.iterationsDone << " of "
-      << options.parameters.externalIterations << (result.stopped ? ", stopped by the user" : "")
-      << "\n";
+      << formatDouble(grid.aLato()) << " m, " << grid.nV() << " nodes per side\n";
+}
+
+void summarizeFitted(const TomoDocument& document, const FittedRunResult& fit, std::ostream& out) {
+  summarizeGrid(document, out);
+  summarizeFit(fit, out);
+  summarizeSection(fit.run.sectionMisfit, out);
+  out << "Computing time: [s] " << formatDouble(fit.run.computingSeconds) << "\n"
+      << "Picks used: " << fit.fit.count << " of "
+      << leftOut(document, document.result->excluded).of << std::endl;
+}
+
+void summarize(const TomographyParameters& parameters, const TomoDocument& document,
+               const TomographyResult& result, std::ostream& out) {
+  const Misfit& misfit = result.misfit;
+  summarizeGrid(document, out);
+  out << "External iterations: " << result.iterationsDone << " of " << parameters.externalIterations
+      << (result.stopped ? ", stopped by the user" : "") << "\n";
   summarizeSection(result.sectionMisfit, out);
   out << "Computing time: [s] " << formatDouble(result.computingSeconds) << "\n"
       << "Last solver pass:\n"
@@ -160,11 +175,12 @@ void summarize(const InvertOptions& options, const TomoDocument& document,
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
 int writeResults(const InvertOptions& options, const LoadedProject& project,
-                 const TomographyResult& result) {
+                 const TomographyResult& result, const FittedRunResult* fit) {
   const TomoDocument& document = project.document;
   OutputAttempts attempt;
-  attempt(options.json,
-          [&](const auto& path) { return writeOutput(path, inversionJson(document, result)); });
+  attempt(options.json, [&](const auto& path) {
+    return writeOutput(path, inversionJson(document, result, options.fitted.errors, fit));
+  });
   attempt(options.gridded, [&](const auto& path) {
     announceGriddedText(path);
     return writeGriddedText(path, document, {options.lineY, options.zOffset});
@@ -211,14 +227,23 @@ int run(const InvertOptions& options) {
   if (status.ok()) status = tellWhatIsLeftOut(document);
   if (!status.ok()) return failed(status.message());
   const TomographyParameters parameters = parametersOf(options, document);
-  if (!options.quiet) warnAboutChoices(parameters, document);
+  const bool fits = options.method == InversionMethod::kFitted;
+  if (!options.quiet) warnAboutChoices(parameters, document, fits);
 
-  const TomographyResult result = invert(options, parameters, channels, project, log);
+  std::optional<FittedRunResult> fit;
+  if (fits) fit = fitSection(options, channels, project, log);
+  const TomographyResult result =
+      fits ? fit->run : invert(options, parameters, channels, project, log);
   // What the completed iterations found is not lost with the one that failed.
   const int runCode = result.status.ok() ? kDone : failed(result.status.message());
   if (result.iterationsDone == 0) return runCode;
-  const int exitCode = writeResults(options, project, result);
-  summarize(options, document, result, *channels.summary);
+  if (fit) warnAboutFit(*fit);
+  const int exitCode = writeResults(options, project, result, fit ? &*fit : nullptr);
+  if (fit) {
+    summarizeFitted(document, *fit, *channels.summary);
+  } else {
+    summarize(parameters, document, result, *channels.summary);
+  }
   return runCode != kDone ? runCode : exitCode;
 }
 

@@ -87,39 +87,109 @@ SmoothingType readSmoothing(const std::string& text) {
   throw CLI::ValidationError("--smoothing-type", "'" + text + "' is none of " + all);
 }
 
-void addRunOptions(CLI::App& app, InvertOptions& options) {
-  TomographyParameters& run = options.parameters;
-  const auto count = [&](const Parameter<int>& parameter, int& target) {
-    addParameter(app, parameter, "N", meaningOf(parameter) + defaultOf(parameter),
-                 [&target](int value) { target = value; })
-        ->group("Inversion");
+InversionMethod readInversionMethod(const std::string& text) {
+  if (text == "smoothed") return InversionMethod::kSmoothed;
+  if (text == "fitted") return InversionMethod::kFitted;
+  throw CLI::ValidationError("--method", "'" + text +
+                                             "' is none of smoothed, fitted (how first breaks are "
+                                             "picked is said by --pick-method)");
+}
+
+/// "A,B": a floor in milliseconds and a share in percent.
+PickErrorRule readErrors(const std::string& text) {
+  const auto fields = splitFields(text, ',');
+  if (fields.size() != 2 || text.back() == ',') {
+    throw CLI::ValidationError("--sigma", "'" + text + "' is not A,B");
+  }
+  const auto field = [&](std::size_t i, const Parameter<double>& parameter) {
+    return numberWithin("--sigma " + text, std::string(fields[i]), rangeOf(parameter));
   };
-  count(parameters::kIterations, run.externalIterations);
+  return {field(0, parameters::kErrorFloor) / 1000.0, field(1, parameters::kErrorShare) / 100.0};
+}
+
+/// What only a fit to the errors of the picks has.
+/// \return the options that it alone has
+std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
+  app.add_option_function<std::string>(
+         "--sigma", [&](const std::string& text) { options.fitted.errors = readErrors(text); },
+         "Errors of picks that state none, one standard deviation: A milliseconds, or B percent "
+         "of the time where that is more; chi-square is measured by them (default: " +
+             plainNumber(parameters::kErrorFloor.initial) + "," +
+             plainNumber(parameters::kErrorShare.initial) + ")")
+      ->type_name("A,B")
+      ->group("Inversion");
+  CLI::Option* blocky =
+      app.add_flag("--blocky", options.fitted.fit.blocky,
+                   "Of a fitted section: few sharp steps rather than gentle slopes");
+  CLI::Option* statics =
+      app.add_flag("--statics", options.fitted.fit.statics,
+                   "With --method fitted: find a time shift of every shot, too, zero on the whole");
+  for (CLI::Option* option : {blocky, statics}) option->group("Inversion");
+  return {blocky, statics};
+}
+
+/// \return the options that only the smoothed method has
+std::vector<CLI::Option*> addRunOptions(CLI::App& app, InvertOptions& options) {
+  TomographyParameters& run = options.parameters;
+  std::vector<CLI::Option*> own;
+  app.add_option_function<std::string>(
+         "--method", [&](const std::string& text) { options.method = readInversionMethod(text); },
+         "How the section is found: smoothed, by solver passes and a smoothing of stated size; "
+         "fitted, as close to the picks as their errors are and no closer, stopping by itself "
+         "(default: smoothed)")
+      ->type_name("METHOD")
+      ->group("Inversion");
+  addParameter(app, parameters::kIterations, "N",
+               meaningOf(parameters::kIterations) + defaultOf(parameters::kIterations) +
+                   "; with --method fitted at most so many (default: " +
+                   plainNumber(options.fitted.fit.mostIterations) + ")",
+               [&](int value) { options.iterations = value; })
+      ->group("Inversion");
+  const auto count = [&](const Parameter<int>& parameter, int& target) {
+    own.push_back(addParameter(app, parameter, "N", meaningOf(parameter) + defaultOf(parameter),
+                               [&target](int value) { target = value; }));
+    own.back()->group("Inversion");
+  };
   count(parameters::kSolverIterations, run.solverIterations);
   count(parameters::kSmoothing, run.smoothing);
   const auto& words = parameters::kSmoothingType.words;
-  app.add_option_function<std::string>(
-         std::string("--") + parameters::kSmoothingType.key,
-         [&](const std::string& text) { run.smoothingType = readSmoothing(text); },
-         std::string(words[0]) + ", " + words[1] + ", " + words[2] + " or " + words[3] +
-             " (default: " + words[parameters::kSmoothingType.initial] + ")")
-      ->type_name("TYPE")
-      ->group("Inversion");
-  app.add_flag("--symmetric", run.symmetric,
-               "Smooth as far up and down as sideways, instead of " +
-                   plainNumber(parameters::kFlatness.value) + " times as far")
-      ->group("Inversion");
-  const auto velocity = [&](const Parameter<double>& parameter, std::optional<double>& target) {
+  own.push_back(app.add_option_function<std::string>(
+                       std::string("--") + parameters::kSmoothingType.key,
+                       [&](const std::string& text) { run.smoothingType = readSmoothing(text); },
+                       std::string(words[0]) + ", " + words[1] + ", " + words[2] + " or " +
+                           words[3] + " (default: " + words[parameters::kSmoothingType.initial] +
+                           ")")
+                    ->type_name("TYPE")
+                    ->group("Inversion"));
+  own.push_back(app.add_flag("--symmetric", run.symmetric,
+                             "Smooth as far up and down as sideways, instead of " +
+                                 plainNumber(parameters::kFlatness.value) + " times as far")
+                    ->group("Inversion"));
+  const auto velocity = [&](const Parameter<double>& parameter, double fitted,
+                            std::optional<double>& target) {
     addParameter(app, parameter, "M/S",
-                 meaningOf(parameter) + defaultOf(parameter, "that of the project, else "),
+                 meaningOf(parameter) + defaultOf(parameter, "that of the project, else ") +
+                     "; with --method fitted " + plainNumber(fitted),
                  [&target](double value) { target = value; })
         ->group("Inversion");
   };
-  velocity(parameters::kMinVelocity, options.minVelocity);
-  velocity(parameters::kMaxVelocity, options.maxVelocity);
+  velocity(parameters::kMinVelocity, options.fitted.fit.minVelocity, options.minVelocity);
+  velocity(parameters::kMaxVelocity, options.fitted.fit.maxVelocity, options.maxVelocity);
   app.add_flag("--single-thread", run.singleThread,
                "Trace rays on one processor; the results are the same")
       ->group("Inversion");
+  return own;
+}
+
+/// Throws CLI::ValidationError for options that the method has no use for.
+void checkMethod(const InvertOptions& options, const std::vector<CLI::Option*>& smoothed,
+                 const std::vector<CLI::Option*>& fitted) {
+  const bool fits = options.method == InversionMethod::kFitted;
+  for (const CLI::Option* option : fits ? smoothed : fitted) {
+    if (option->count() == 0) continue;
+    throw CLI::ValidationError(option->get_name(), std::string("does not go with --method ") +
+                                                       (fits ? "fitted" : "smoothed"));
+  }
 }
 
 void addOutputOptions(CLI::App& app, InvertOptions& options) {
@@ -171,9 +241,10 @@ void addInvert(CLI::App& app, InvertOptions& options) {
       ->required();
   addPickReading(command, options.picks);
   addElevationOptions(command, options.shots.elevations);
-  const ShotOptionGroup shots = addShotOptions(command, options.shots);
+  const ShotOptionGroup shots = addShotOptions(command, options.shots, "--pick-method");
   addGridOptions(command, options);
-  addRunOptions(command, options);
+  const auto smoothed = addRunOptions(command, options);
+  const auto fitted = addFitOptions(command, options);
   addOutputOptions(command, options);
   addReport(command, options.report, options.reportFields);
   CLI::Option* quiet = command.add_flag("--quiet", options.quiet, kQuietHelp);
@@ -183,7 +254,8 @@ void addInvert(CLI::App& app, InvertOptions& options) {
           "Print the messages of the readers, the picker and the engine, and lines instead of "
           "a progress bar")
       ->excludes(quiet);
-  command.final_callback([inputs, shots, &options] {
+  command.final_callback([inputs, shots, smoothed, fitted, &options] {
+    checkMethod(options, smoothed, fitted);
     sortInputs(*inputs, shots.anyGiven(), options.input, options.shots);
     shots.check(options.shots);
     if (options.contours > 0 && options.images.empty() && options.report.empty()) {
@@ -193,7 +265,8 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   command.footer(
       std::string("In JSON velocities are in m/s, cell by cell with row 0 at the surface, and\n"
                   "times in seconds. Ctrl-C stops after the external iteration that is running\n"
-                  "and still writes the results; a second one ends the program at once.\n") +
+                  "(at once with --method fitted) and still writes the results; a second one ends "
+                  "the program at once.\n") +
       kExitCodes);
 }
 

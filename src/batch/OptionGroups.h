@@ -35,8 +35,10 @@ bool isShotFile(const std::string& path, ShotReader reader);
 
 /// The options with which shot files become picks, --reader among them, which is no part of the
 /// group: other files are read by the standard, too. `shots`
-/// must outlive the parsing.
-ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots);
+/// must outlive the parsing. \param methodOption what the choice of the picker is called: a command
+/// may have another method to be chosen
+ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots,
+                               const std::string& methodOption = "--method");
 
 /// Those of them that say where shots and geophones stand.
 ShotOptionGroup addPlaceOptions(CLI::App& command, ShotOptions& shots);

@@ -9,6 +9,7 @@
 #include "model/Recordings.h"
 #include "processing/ShotFilters.h"
 #include "tomo/TomographyRun.h"
+#include "tomo/fitted/FittedRun.h"
 #include "view/ColorPalette.h"
 
 #include <optional>
@@ -93,6 +94,12 @@ struct ReportFields {
   std::string date;  ///< empty: today
 };
 
+/// How a section is found.
+enum class InversionMethod {
+  kSmoothed,  ///< solver passes and a smoothing of stated size, see tomo/TomographyRun.h
+  kFitted     ///< as close to the picks as their errors are, see tomo/fitted/FittedRun.h
+};
+
 struct InvertOptions {
   std::string input;  ///< travel-time file or project; none: shot files
   TravelTimeReading picks;
@@ -102,10 +109,13 @@ struct InvertOptions {
   int nodes = parameters::kNodes.initial;  ///< per cell side
   std::vector<VelocityLayer> layers;       ///< none: the grid's default model
   bool ownGrid = false;                    ///< one of the above was given
-  TomographyParameters parameters;         ///< but the velocities: those are the next two
-  std::optional<double> minVelocity;       ///< m/s; none: that of the survey
-  std::optional<double> maxVelocity;       ///< m/s; none: that of the survey
-  std::string project;                     ///< to save the survey in
+  InversionMethod method = InversionMethod::kSmoothed;
+  FittedSettings fitted;              ///< but what follows, which both methods have
+  TomographyParameters parameters;    ///< but the velocities: those are the next two
+  std::optional<double> minVelocity;  ///< m/s; none: that of the survey or of the fit
+  std::optional<double> maxVelocity;  ///< m/s; none: that of the survey or of the fit
+  std::optional<int> iterations;      ///< none: as many as the method has of its own
+  std::string project;                ///< to save the survey in
   std::string gridded;
   double lineY = 0.0;               ///< metres
   double zOffset = 0.0;             ///< metres

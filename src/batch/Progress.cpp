@@ -67,15 +67,31 @@ std::string progressBar(const TomographyProgress& progress, int width) {
                                              : text;
 }
 
+std::string progressLine(const FittedRunProgress& progress) {
+  return "Iteration " + std::to_string(progress.completed) + ", " + std::to_string(progress.most) +
+         " at most: chi-square " + formatDouble(progress.fit.chi2, 4) + ", section " +
+         rms(progress.section) + ", elapsed " + clock(progress.elapsedSeconds);
+}
+
+std::string progressBar(const FittedRunProgress& progress) {
+  return "Iteration " + std::to_string(progress.completed) + ": chi-square " +
+         formatDouble(progress.fit.chi2, 4) + ", section " + rms(progress.section);
+}
+
 Progress::Progress(ProgressStyle style, std::ostream& stream, int total)
     : mStyle(style), mStream(stream) {
   TomographyProgress nothingYet;
   nothingYet.total = total;
-  if (mStyle == ProgressStyle::kBar) drawBar(nothingYet);
+  if (mStyle == ProgressStyle::kBar) drawBar(progressBar(nothingYet, kBarWidth));
 }
 
 void Progress::show(const TomographyProgress& progress) {
-  if (mStyle == ProgressStyle::kBar) drawBar(progress);
+  if (mStyle == ProgressStyle::kBar) drawBar(progressBar(progress, kBarWidth));
+  if (mStyle == ProgressStyle::kLines) mStream << progressLine(progress) << std::endl;
+}
+
+void Progress::show(const FittedRunProgress& progress) {
+  if (mStyle == ProgressStyle::kBar) drawBar(progressBar(progress));
   if (mStyle == ProgressStyle::kLines) mStream << progressLine(progress) << std::endl;
 }
 
@@ -84,9 +100,9 @@ void Progress::finish() {
   mBarDrawn = false;
 }
 
-void Progress::drawBar(const TomographyProgress& progress) {
+void Progress::drawBar(const std::string& bar) {
   // Erase to the end of the line: the text may be shorter than the one before.
-  mStream << '\r' << progressBar(progress, kBarWidth) << "\x1b[K" << std::flush;
+  mStream << '\r' << bar << "\x1b[K" << std::flush;
   mBarDrawn = true;
 }
 

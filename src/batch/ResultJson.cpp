@@ -4,6 +4,7 @@
 #include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
+#include "model/ChiSquare.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
 #include "model/Mending.h"
@@ -15,6 +16,7 @@
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "tomo/TomographyRun.h"
+#include "tomo/fitted/FittedRun.h"
 
 namespace talvesk {
 namespace {
@@ -135,6 +137,36 @@ Json sectionTimesJson(const TomoDocument& document) {
   return times;
 }
 
+void putChiSquare(Json& json, const char* method, const ChiSquare& fit) {
+  json["method"] = method;
+  json["chi2"] = ofPicks(fit, fit.chi2);
+  json["chi2_all"] = ofPicks(fit, fit.all);
+  json["suspect_count"] = fit.suspects.size();
+}
+
+/// Shots and receivers count from 0.
+void putFit(Json& json, const FittedRunResult& fit) {
+  putChiSquare(json, "fitted", fit.fit);
+  json["chi2_history"] = fit.chi2History;
+  json["reference"] = fit.reference;
+  json["lambda"] = fit.lambda;
+  json["outcome"] = fit.outcome.english();
+  Json suspects = Json::array();
+  for (const SuspectPick& each : fit.suspects) {
+    Json suspect = Json::object();
+    suspect["shot"] = each.record;
+    suspect["receiver"] = each.receiver;
+    suspect["time"] = each.measured;
+    suspect["residual_ms"] = each.residual * 1000.0;
+    suspect["sigma_ms"] = each.sigma * 1000.0;
+    suspects.push_back(std::move(suspect));
+  }
+  json["suspects"] = std::move(suspects);
+  Json statics = Json::array();
+  for (const double shift : fit.statics) statics.push_back(shift * 1000.0);
+  json["statics_ms"] = fit.statics.empty() ? Json(nullptr) : std::move(statics);
+}
+
 Json tracesJson(const ShotFileData& data, bool samples) {
   Json traces = Json::array();
   for (const ShotRecord& record : data.traces) {
@@ -188,7 +220,8 @@ Json standardJson(const ReadShotFile& file, const std::vector<Message>& losses, 
 
 }  // namespace
 
-std::string inversionJson(const TomoDocument& document, const TomographyResult& result) {
+std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
+                          const PickErrorRule& errors, const FittedRunResult* fit) {
   const Misfit& misfit = result.misfit;
   Json json = Json::object();
   json["grid"] = gridJson(document);
@@ -215,6 +248,11 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   json["section_history"] = sectionHistoryJson(document.result->sectionHistory);
   json["section_times"] = sectionTimesJson(document);
   json["computing_s"] = result.computingSeconds;
+  if (fit != nullptr) {
+    putFit(json, *fit);
+  } else {
+    putChiSquare(json, "smoothed", chiSquareOf(document, residualsOf(document), errors));
+  }
   return linePerKey(json) + "\n";
 }
 

@@ -9,7 +9,9 @@
 namespace talvesk {
 
 class TomoDocument;
+struct FittedRunResult;
 struct LoadedProject;
+struct PickErrorRule;
 struct ReadShotFile;
 struct TomographyResult;
 struct TravelTimeData;
@@ -20,8 +22,10 @@ struct TravelTimeData;
 
 /// Grid, misfit and all cell values (cell order, row 0 at the surface) of a finished inversion, one
 /// key per line. "elapsed_s" is the only value that differs between two runs. Misfit values are
-/// null when no pick was used.
-std::string inversionJson(const TomoDocument& document, const TomographyResult& result);
+/// null when no pick was used. Chi-square is of the section; that of a fitted one counts its
+/// statics. \param errors of picks that state none \param fit of a fitted section, else null
+std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
+                          const PickErrorRule& errors, const FittedRunResult* fit);
 
 /// Positions in metres, times in seconds.
 std::string travelTimesJson(const TravelTimeData& data);

@@ -19,10 +19,10 @@ PickFilter readFilter(const std::string& text) {
   throw CLI::ValidationError("--filter", "'" + text + "' is none of none, agc, hushel, band");
 }
 
-PickMethod readMethod(const std::string& text) {
+PickMethod readMethod(const std::string& option, const std::string& text) {
   if (text == "single") return PickMethod::kSingle;
   if (text == "joint") return PickMethod::kJoint;
-  throw CLI::ValidationError("--method", "'" + text + "' is none of single, joint");
+  throw CLI::ValidationError(option, "'" + text + "' is none of single, joint");
 }
 
 ShotReader readReader(const std::string& text) {
@@ -150,7 +150,8 @@ void addElevationOptions(CLI::App& command, ElevationOptions& elevations) {
   for (CLI::Option* option : {table, smooth}) option->group("Positions");
 }
 
-ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
+ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots,
+                               const std::string& methodOption) {
   addReader(command, shots.reader);
   ShotOptionGroup group;
   const auto add = [&](CLI::Option* option) {
@@ -160,7 +161,10 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots) {
   };
   add(command
           .add_option_function<std::string>(
-              "--method", [&](const std::string& text) { shots.method = readMethod(text); },
+              methodOption,
+              [&shots, methodOption](const std::string& text) {
+                shots.method = readMethod(methodOption, text);
+              },
               "How first breaks are picked: single, trace by trace with a screening by apparent "
               "velocity; joint, along the line, all channels of a shot at once, leaving out picks "
               "that are not sure to " +

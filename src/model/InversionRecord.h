@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace talvesk {
@@ -27,6 +28,20 @@ struct SectionMisfit {
   std::int32_t maxReceiver = -1;  ///< and geophone of its string, from 0
 };
 
+/// How a section was fitted to the errors of its picks, and what came of it.
+struct FitRecord {
+  double errorFloor = 0.0;  ///< of picks that state no error, seconds
+  double errorShare = 0.0;  ///< of their times
+  bool robust = false;
+  bool blocky = false;
+  bool statics = false;
+  double lambda = 0.0;  ///< weight of the roughness that the section was found with
+  double chi2 = 0.0;    ///< of the section, suspects left out
+  double chi2All = 0.0;
+  int suspects = 0;     ///< picks
+  bool target = false;  ///< whether chi-square has come to 1 as nearly as wanted
+};
+
 /// How the inversion was run that the results of the document come from, for who must tell of it
 /// later.
 struct InversionRecord {
@@ -46,6 +61,8 @@ struct InversionRecord {
   /// Through the starting model, and through the section after every completed external iteration;
   /// empty: not known.
   std::vector<SectionMisfit> sectionHistory;
+  /// Of a section that was fitted to the errors of its picks; none: by solver passes and smoothing.
+  std::optional<FitRecord> fit;
   std::uint64_t picks = 0;  ///< fingerprintOfPicks() of those that it was run with; 0: not known
 };
 

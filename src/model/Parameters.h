@@ -74,6 +74,12 @@ inline constexpr Parameter<double> kMinVelocity = {
 inline constexpr Parameter<double> kMaxVelocity = {
     "max-velocity", 3500.0, {1.0, 999999999.0}, "m/s", "Greatest velocity of a cell"};
 
+// Errors of picks that state none.
+inline constexpr Parameter<double> kErrorFloor = {
+    "error-floor", 0.5, {0.01, 1000.0, 2}, "ms", "Least error of a pick"};
+inline constexpr Parameter<double> kErrorShare = {
+    "error-share", 3.0, {0.0, 100.0, 1}, "percent", "Error of a pick as a share of its time"};
+
 // Filters of traces.
 inline constexpr Parameter<double> kLowPass = {
     "low", 150.0, {1e-6, 1e6, 2}, "Hz", "Low-pass: keep what is below this frequency"};

@@ -4,8 +4,10 @@
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
+#include "tomo/fitted/SurveyFit.h"
 
 #include <exception>
+#include <optional>
 #include <string>
 
 namespace talvesk {
@@ -18,6 +20,8 @@ Status trace(TomoDocument& document, unsigned threads, Log& log, ThreadLines lin
     const Status status = pass.run("", nullptr, nullptr);
     if (!status.ok()) return status;
     pass.appendRaysTo(document.result.edit().rays.edit());
+    const std::optional<InversionRecord>& run = document.result->lastInversion;
+    if (run && run->fit) traceFittedTimes(document, threads);
     document.result.edit().timesOfSection = true;
     return status;
   } catch (const std::exception& error) {

@@ -3,6 +3,7 @@
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
+#include "tomo/Coverage.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/Smoothing.h"
 #include "tomo/Solver.h"
@@ -25,23 +26,6 @@ void tellEnd(std::chrono::steady_clock::time_point start) {
       std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
   console::out() << "finished iteration at " << text << "elapsed time: " << seconds.count()
                  << "s\n";
-}
-
-/// Draw flags of the new grid, and in the document the lower limit of what rays covered.
-void setCoverage(TomoDocument& document, Grid& grid) {
-  std::vector<Point2D> limit;
-  for (std::uint32_t column = 0; column < grid.col(); ++column) {
-    bool covered = false;
-    for (std::uint32_t row = grid.righe() - 1; row >= 1; --row) {
-      const std::uint32_t cell = grid.cellIndex(row, column);
-      if (!covered && document.result->hitCounts[cell] > 0) {
-        covered = true;
-        limit.push_back(grid.cellCentre(cell));
-      }
-      grid.setDraw(cell, covered);
-    }
-  }
-  document.result.edit().setCoverageLimit(std::move(limit));
 }
 
 }  // namespace

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "model/Parameters.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace talvesk {
+
+class TomoDocument;
+struct Residual;
+struct TravelTime;
+
+/// The error of a pick that states none: the floor, or a share of its time where that is more.
+struct PickErrorRule {
+  double floor = parameters::kErrorFloor.initial / 1000.0;  ///< seconds, positive
+  double share = parameters::kErrorShare.initial / 100.0;   ///< of the time, not negative
+};
+
+/// One standard deviation of a pick, seconds: its own where it states one, else that of the rule.
+double sigmaOf(const TravelTime& record, std::size_t receiver, const PickErrorRule& rule);
+
+/// How times fit picks, measured by the errors of the picks: 1 is a fit as good as they are.
+struct ChiSquare {
+  double chi2 = 0.0;      ///< mean square of the residuals over their errors, suspects left out
+  double all = 0.0;       ///< the same of all picks
+  double robust = 0.0;    ///< from the median of the sizes, which gross errors hardly change
+  std::size_t count = 0;  ///< picks, suspects included; 0 means that nothing here is valid
+  std::vector<std::size_t> suspects;  ///< indices of the residuals, ascending
+};
+
+/// A pick is suspect when it is off by more than five of its errors and, where the times do not fit
+/// the picks at all yet, stands out from the rest by 3.5 robust deviations.
+/// \param scaled residuals over their errors, all finite
+ChiSquare chiSquareOf(const std::vector<double>& scaled);
+
+/// Of the computed times of a document, whatever they come from. \param residuals residualsOf()
+ChiSquare chiSquareOf(const TomoDocument& document, const std::vector<Residual>& residuals,
+                      const PickErrorRule& rule);
+
+}  // namespace talvesk

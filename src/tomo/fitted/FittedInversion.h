@@ -1,0 +1,90 @@
+#pragma once
+
+#include "base/Message.h"
+#include "base/Status.h"
+#include "grid/GridGeometry.h"
+#include "model/ChiSquare.h"
+#include "tomo/fitted/FitData.h"
+#include "tomo/fitted/RayTracer.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace talvesk {
+
+/// What the fit starts from and what it may do.
+struct FittedOptions {
+  std::vector<double> start;      ///< s/m, one per cell
+  std::vector<double> reference;  ///< s/m, what a section departs from no more than picks ask for;
+                                  ///< empty: the start
+  double minVelocity = 50.0;      ///< m/s
+  double maxVelocity = 8000.0;    ///< m/s, above the least
+  int mostIterations = 25;        ///< at least 1
+  bool robust = true;             ///< picks that are far off count less than by their square
+  bool blocky = false;            ///< few sharp steps rather than gentle slopes
+  bool statics = false;           ///< find a time shift of every shot, too
+  double triggerError = 0.002;    ///< seconds, how far shots are thought to be off; positive
+};
+
+/// Why a fit has ended.
+enum class FitEnd {
+  kTarget,      ///< chi-square is 1 within 5 %
+  kNoGain,      ///< it is above and does not come down any further
+  kFitsBetter,  ///< it is below and stays there however smooth the section is
+  kIterations,  ///< none of these within the iterations allowed
+  kStopped      ///< by the caller
+};
+
+struct FitProgress {
+  int iteration = 0;                 ///< completed, from 1
+  int most = 0;                      ///< that are allowed; few fits need them
+  ChiSquare fit;                     ///< through the section of this iteration, fresh rays
+  double lambda = 0.0;               ///< weight of the roughness
+  const std::vector<double>& times;  ///< through the section, seconds per pick
+};
+
+struct FittedResult {
+  /// Failed: nothing else holds. Not so after a stop.
+  Status status;
+  FitEnd end = FitEnd::kStopped;
+  int iterations = 0;               ///< completed; 0 after an early stop: the section is the start
+  std::vector<double> slownesses;   ///< s/m, of the section whose chi-square is nearest to 1
+  TracedRays traced;                ///< through that section
+  std::vector<double> scaled;       ///< computed minus measured over the error, with statics
+  std::vector<double> statics;      ///< seconds per shot of the data, late is positive; or empty
+  ChiSquare fit;                    ///< of the times with the statics; suspects are pick indices
+  double lambda = 0.0;              ///< with which the section was found; 0 for the start
+  int kept = 0;                     ///< the iteration that found it; 0 is the start
+  std::vector<double> chi2History;  ///< through the start, then after every iteration
+};
+
+/// Whether a section explains its picks, in words; says what is missing where it does not.
+Message describe(const FittedResult& result);
+
+/// Fits a section to picks as closely as their errors demand, and no closer: Gauss-Newton steps on
+/// the logarithm of slowness, each with fresh rays and a weight of the roughness that comes nearer
+/// to a chi-square of 1. See docs/fitted-inversion.md.
+///
+/// Knows nothing of a document. Objects of their own may run in threads of their own. Results are
+/// the same to the last bit whatever the number of threads that the tracer uses.
+class FittedInversion {
+ public:
+  /// \param data, tracer must outlive the object; the tracer traces the rays of the data
+  FittedInversion(const GridSize& size, const FitData& data, RayTracer& tracer,
+                  FittedOptions options);
+  ~FittedInversion();
+
+  /// \param progress told of the start and after every iteration, from the calling thread; may
+  /// be empty
+  /// \param goOn asked between the rays of shots; false ends the fit with the best section so far;
+  /// may be empty
+  FittedResult run(const std::function<void(const FitProgress&)>& progress = {},
+                   const std::function<bool()>& goOn = {});
+
+ private:
+  class Fit;
+  std::unique_ptr<Fit> mFit;
+};
+
+}  // namespace talvesk
