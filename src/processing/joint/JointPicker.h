@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Point2D.h"
 #include "base/Status.h"
 #include "model/Parameters.h"
 
@@ -13,8 +14,9 @@ namespace talvesk {
 class TomoDocument;
 
 /// First breaks of whole gathers at once: the path of first arrivals that goes best through the
-/// onsets of all channels of a shot, see ArrivalPath.h and OnsetTrace.h, with an error for every
-/// pick, see PickError.h. Beside the picker of single traces in FirstBreak.h, which stays as it is.
+/// onsets of all channels of a shot, see ArrivalPath.h and OnsetTrace.h, then each where it begins,
+/// see PickRefinement.h, with an error for every pick, see PickError.h. Beside the picker of single
+/// traces in FirstBreak.h, which stays as it is.
 
 struct JointPickOptions {
   double slowest = parameters::kSlowestJoint.initial;  ///< apparent velocity, m/s
@@ -37,6 +39,14 @@ struct JointPickOutcome {
   std::vector<std::vector<double>> errors;
 };
 
+/// Where a person drew the first breaks of a shot, roughly.
+struct GuideLine {
+  /// x: receiver along the line, metres; z: seconds from the first sample, as picks are. In any
+  /// order; traces before the first and behind the last have no guide.
+  std::vector<Point2D> points;
+  double reach = 10e-3;  ///< seconds that a pick may be off the line, at least 0
+};
+
 /// Picks the shots, in two passes: what the records of other shots say of the same way, where shot
 /// and geophone change places within half a spacing, holds back later picks in the second. Sets
 /// times, and that they wait to be confirmed. Traces that take no part stay as they are. The result
@@ -46,5 +56,13 @@ struct JointPickOutcome {
 Status pickJointly(TomoDocument& document, const std::vector<std::int32_t>& shots,
                    const JointPickOptions& options, JointPickOutcome& outcome,
                    const std::function<bool()>& goOn = nullptr);
+
+/// Fills a shot: picks that a person made stay and the others go through them, whatever
+/// options.keepConfirmed says. Those under the guide are within its reach or left out; the nearer
+/// to it the likelier. Without points it guides nothing. Otherwise as pickJointly(). \return
+/// failure, and nothing changed, when the shot has no traces with a place and a sample interval, or
+/// the guide holds what is not finite or a negative reach
+Status fillAlong(TomoDocument& document, std::int32_t shot, const GuideLine& guide,
+                 const JointPickOptions& options, JointPickOutcome& outcome);
 
 }  // namespace talvesk
