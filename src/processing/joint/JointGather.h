@@ -2,7 +2,7 @@
 
 #include "base/Point2D.h"
 #include "processing/joint/ArrivalPath.h"
-#include "processing/joint/JointPicker.h"
+#include "processing/joint/JointPickOptions.h"
 #include "processing/joint/OnsetTrace.h"
 #include "processing/joint/Reciprocity.h"
 
@@ -14,6 +14,7 @@
 namespace talvesk {
 
 struct Trace;
+class TomoDocument;
 
 /// A shot while it is picked along the line. It looks at the document's traces, which have to stay.
 class JointGather {
