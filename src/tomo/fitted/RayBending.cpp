@@ -8,11 +8,12 @@ namespace {
 
 constexpr int kMostSteps = 12;        ///< of Newton's method; four to six are usual
 constexpr int kMostHalvings = 6;      ///< of a step that leads too far
-constexpr int kMostRounds = 8;        ///< of passing corners; the second seldom finds any
+constexpr int kMostRounds = 4;        ///< of passing corners; the second seldom finds any
 constexpr double kLittleGain = 1e-5;  ///< of the time; less than a step usually brings
 constexpr double kEnoughGain = 1e-7;  ///< of the time; a tenth of a microsecond in a second
 constexpr double kRounding[] = {3e-2, 1e-3, 1e-4};
-constexpr double kSmallTurn = 0.02;  ///< square of an angle that is always looked at
+constexpr double kWorth = 1e-5;       ///< of the time: what passing a corner must gain
+constexpr double kSmallTurn = 1e-3;  ///< square of an angle that is always looked at
 constexpr double kNear = 1e-3;       ///< of a side, to a corner
 constexpr double kOff = 0.1;         ///< of a side: where crossings near a corner begin
 
@@ -49,8 +50,8 @@ void RayBending::bend(const Point2D& from, const std::vector<RayLeg>& legs,
     at = leg.exit;
   }
   loosen(path);
-  straighten(path);
-  for (int round = 0; round < kMostRounds && passCorners(path); ++round) straighten(path);
+  mWorth = kWorth * straighten(path);
+  for (int round = 0; round < kMostRounds && passCorners(path); ++round) descend(path);
 
   pieces.clear();
   for (std::size_t i = 0; i < path.cells.size(); ++i) {
@@ -269,7 +270,7 @@ bool RayBending::passCorner(Path& path, std::size_t i) {
     }
   }
   loosen(way);
-  if (!(straighten(way) < before * (1.0 - kEnoughGain))) return false;
+  if (!(straighten(way) < before - mWorth)) return false;
 
   path.cells.erase(path.cells.begin() + first, path.cells.begin() + last + 1);
   path.cells.insert(path.cells.begin() + first, way.cells.begin(), way.cells.end());
