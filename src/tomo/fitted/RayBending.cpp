@@ -9,10 +9,10 @@ namespace {
 constexpr int kMostSteps = 12;        ///< of Newton's method; four to six are usual
 constexpr int kMostHalvings = 6;      ///< of a step that leads too far
 constexpr int kMostRounds = 4;        ///< of passing corners; the second seldom finds any
-constexpr double kLittleGain = 1e-5;  ///< of the time; less than a step usually brings
+constexpr double kLittleGain = 1e-6;  ///< of the time; less than a step usually brings
 constexpr double kEnoughGain = 1e-7;  ///< of the time; a tenth of a microsecond in a second
 constexpr double kRounding[] = {3e-2, 1e-3, 1e-4};
-constexpr double kWorth = 1e-5;       ///< of the time: what passing a corner must gain
+constexpr double kWorth = 1e-5;      ///< of the time: what passing a corner must gain
 constexpr double kSmallTurn = 1e-3;  ///< square of an angle that is always looked at
 constexpr double kNear = 1e-3;       ///< of a side, to a corner
 constexpr double kOff = 0.1;         ///< of a side: where crossings near a corner begin
@@ -70,7 +70,8 @@ RayCrossing RayBending::crossing(std::uint32_t from, std::uint32_t into,
   return c;
 }
 
-/// Lets a path go on into `cell`, crossing near `at`. A cell that it only turned in is left out.
+/// Lets a path go on into `cell`, crossing near `at`. A slower cell that it only turned in is left
+/// out.
 void RayBending::enter(Path& path, std::uint32_t cell, const Point2D& at) const {
   std::vector<std::uint32_t>& cells = path.cells;
   if (cells.empty()) {
@@ -79,7 +80,9 @@ void RayBending::enter(Path& path, std::uint32_t cell, const Point2D& at) const 
   }
   const std::uint32_t last = cells.back();
   if (cell == last) return;
-  if (cells.size() > 1 && cells[cells.size() - 2] == cell) {
+  // A faster cell is worth a visit: waves run along its side.
+  if (cells.size() > 1 && cells[cells.size() - 2] == cell &&
+      (*mSlowness)[last] >= (*mSlowness)[cell]) {
     cells.pop_back();
     path.crossings.pop_back();
     return;
