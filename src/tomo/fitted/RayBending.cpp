@@ -8,9 +8,11 @@ namespace {
 
 constexpr int kMostSteps = 12;        ///< of Newton's method; four to six are usual
 constexpr int kMostHalvings = 6;      ///< of a step that leads too far
-constexpr int kMostRounds = 4;        ///< of passing corners; the second seldom finds any
+constexpr int kMostRounds = 4;        ///< of passing corners; more bring nothing that was seen
 constexpr double kLittleGain = 1e-6;  ///< of the time; less than a step usually brings
 constexpr double kEnoughGain = 1e-7;  ///< of the time; a tenth of a microsecond in a second
+// Of the longest chord of a cell. A length has a corner at zero, where Newton's method stops; it is
+// rounded, less and less.
 constexpr double kRounding[] = {3e-2, 1e-3, 1e-4};
 constexpr double kWorth = 1e-5;      ///< of the time: what passing a corner must gain
 constexpr double kSmallTurn = 1e-3;  ///< square of an angle that is always looked at
