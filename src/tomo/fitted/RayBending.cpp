@@ -8,11 +8,14 @@ namespace {
 
 constexpr int kMostSteps = 12;        ///< of Newton's method; four to six are usual
 constexpr int kMostHalvings = 6;      ///< of a step that leads too far
-constexpr int kMostRounds = 8;        ///< of passing corners; the second seldom finds any
-constexpr double kLittleGain = 1e-5;  ///< of the time; less than a step usually brings
+constexpr int kMostRounds = 4;        ///< of passing corners; more bring nothing that was seen
+constexpr double kLittleGain = 1e-6;  ///< of the time; less than a step usually brings
 constexpr double kEnoughGain = 1e-7;  ///< of the time; a tenth of a microsecond in a second
+// Of the longest chord of a cell. A length has a corner at zero, where Newton's method stops; it is
+// rounded, less and less.
 constexpr double kRounding[] = {3e-2, 1e-3, 1e-4};
-constexpr double kSmallTurn = 0.02;  ///< square of an angle that is always looked at
+constexpr double kWorth = 1e-5;      ///< of the time: what passing a corner must gain
+constexpr double kSmallTurn = 1e-3;  ///< square of an angle that is always looked at
 constexpr double kNear = 1e-3;       ///< of a side, to a corner
 constexpr double kOff = 0.1;         ///< of a side: where crossings near a corner begin
 
@@ -49,8 +52,8 @@ void RayBending::bend(const Point2D& from, const std::vector<RayLeg>& legs,
     at = leg.exit;
   }
   loosen(path);
-  straighten(path);
-  for (int round = 0; round < kMostRounds && passCorners(path); ++round) straighten(path);
+  mWorth = kWorth * straighten(path);
+  for (int round = 0; round < kMostRounds && passCorners(path); ++round) descend(path);
 
   pieces.clear();
   for (std::size_t i = 0; i < path.cells.size(); ++i) {
@@ -69,7 +72,8 @@ RayCrossing RayBending::crossing(std::uint32_t from, std::uint32_t into,
   return c;
 }
 
-/// Lets a path go on into `cell`, crossing near `at`. A cell that it only turned in is left out.
+/// Lets a path go on into `cell`, crossing near `at`. A slower cell that it only turned in is left
+/// out.
 void RayBending::enter(Path& path, std::uint32_t cell, const Point2D& at) const {
   std::vector<std::uint32_t>& cells = path.cells;
   if (cells.empty()) {
@@ -78,7 +82,9 @@ void RayBending::enter(Path& path, std::uint32_t cell, const Point2D& at) const 
   }
   const std::uint32_t last = cells.back();
   if (cell == last) return;
-  if (cells.size() > 1 && cells[cells.size() - 2] == cell) {
+  // A faster cell is worth a visit: waves run along its side.
+  if (cells.size() > 1 && cells[cells.size() - 2] == cell &&
+      (*mSlowness)[last] >= (*mSlowness)[cell]) {
     cells.pop_back();
     path.crossings.pop_back();
     return;
@@ -269,7 +275,7 @@ bool RayBending::passCorner(Path& path, std::size_t i) {
     }
   }
   loosen(way);
-  if (!(straighten(way) < before * (1.0 - kEnoughGain))) return false;
+  if (!(straighten(way) < before - mWorth)) return false;
 
   path.cells.erase(path.cells.begin() + first, path.cells.begin() + last + 1);
   path.cells.insert(path.cells.begin() + first, way.cells.begin(), way.cells.end());

@@ -56,7 +56,8 @@ class RayBending {
 
   const CellMesh* mMesh;
   const std::vector<double>* mSlowness = nullptr;
-  double mTiny = 0.0;  ///< metres; rounds the corner that a length has at zero
+  double mTiny = 0.0;   ///< metres; rounds the corner that a length has at zero
+  double mWorth = 0.0;  ///< seconds that passing a corner must gain
   Path mPath, mTrial, mWindow;
   std::vector<double> mStep, mDiagonal, mUpper;
 };

@@ -49,7 +49,7 @@ class TimeField {
   void spread(const SurfacePoint& source, const std::vector<double>& slownesses);
 
   /// Ways to leave a receiver's cells towards the source, the earliest first: one for every side of
-  /// a cell whose wave comes at most kRival of its time after the first.
+  /// a cell whose wave comes nearly as early as the first.
   void departures(const SurfacePoint& receiver, std::vector<FieldStep>& steps) const;
 
   /// The way from a receiver down the field to the source, where the last leg ends.
