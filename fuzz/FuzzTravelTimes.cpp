@@ -33,10 +33,11 @@ void demandSane(const TravelTimeData& data) {
     demand(isFinite(record.shotPos2d), "finite shots");
     for (const double time : record.ttMisurati) demand(std::isfinite(time), "finite times");
   }
-  demand(data.errors.empty() || data.errors.size() == data.records.size(), "errors of every shot");
-  for (std::size_t i = 0; i < data.errors.size(); ++i) {
-    demand(data.errors[i].size() == data.records[i].ttMisurati.size(), "an error for every time");
-    for (const double error : data.errors[i]) demand(error >= 0.0, "errors that are none below 0");
+  for (const TravelTime& record : data.records) {
+    demand(record.pickErrors.size() <= record.ttMisurati.size(), "errors of times that there are");
+    for (const PickError& error : record.pickErrors) {
+      demand(error.sigma == 0.0 || isPickError(error.sigma), "errors that are unknown or can be");
+    }
   }
 }
 

@@ -309,7 +309,6 @@ Status readSurvey(const std::string& file, const TravelTimeReading& picks, const
   reading.byContent = shots.reader == ShotReader::kStandard;
   Status status = readPicks(file, reading, data);
   if (!status.ok()) return status;
-  if (const Message lost = lostInSurvey(data); !lost.empty()) warn(file + ": " + lost.english());
   status = importTravelTimes(std::move(data), project.document);
   return status.ok() ? layOntoElevations(shots.elevations, *manner.summary, project) : status;
 }

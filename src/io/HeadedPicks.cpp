@@ -196,7 +196,6 @@ class HeadedPickReader : private PickReader {
   bool makeSurvey() {
     orderGeophones();
     levelShots();
-    mList.hasErrors = mLayout.error != kNone;
     if (mWithoutTime > 0) {
       warn(Message::tr("%1 of %2 rows have no time above 0, or are not valid, and are no picks")
                .arg(mWithoutTime)

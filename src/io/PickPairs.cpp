@@ -20,10 +20,8 @@ bool takePickList(const PickList& list, TravelTimeData& data) {
   if (!affordable(list)) return false;
   std::vector<std::vector<double>> times(list.shots.size(),
                                          std::vector<double>(list.geophones.size(), kNoTime));
-  std::vector<std::vector<double>> errors;
-  if (list.hasErrors) {
-    errors.assign(list.shots.size(), std::vector<double>(list.geophones.size(), 0.0));
-  }
+  std::vector<std::vector<double>> errors(list.shots.size(),
+                                          std::vector<double>(list.geophones.size(), 0.0));
   std::size_t repeated = 0;
   for (const PickPair& pair : list.pairs) {
     if (!hasPick(pair.time)) continue;
@@ -33,7 +31,7 @@ bool takePickList(const PickList& list, TravelTimeData& data) {
       continue;
     }
     time = pair.time;
-    if (list.hasErrors) errors[pair.shot][pair.geophone] = pair.error;
+    errors[pair.shot][pair.geophone] = pair.error;
   }
   if (repeated > 0) {
     data.warnings.push_back(
@@ -48,8 +46,8 @@ bool takePickList(const PickList& list, TravelTimeData& data) {
     record.traceSetID = static_cast<std::int32_t>(i);
     record.ttCalcolati = std::vector<double>(times[i].size(), kNoTime);
     record.ttMisurati = std::move(times[i]);
+    for (std::size_t j = 0; j < errors[i].size(); ++j) record.setError(j, errors[i][j]);
   }
-  data.errors = std::move(errors);
   return true;
 }
 

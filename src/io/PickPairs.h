@@ -22,7 +22,6 @@ struct PickList {
   std::vector<Point2D> shots;
   std::vector<Point2D> geophones;
   std::vector<PickPair> pairs;  ///< within shots and geophones
-  bool hasErrors = false;       ///< whether the list tells errors at all
 };
 
 /// Puts strings, records and errors into `data`, and warnings about pairs that come several times:

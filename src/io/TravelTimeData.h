@@ -17,11 +17,11 @@ struct TravelTimeData {
   std::string format;  ///< "otte", "txt", "xyz", "csv", "sgt" or "table"
   std::vector<std::vector<Point2D>> strings;
   std::vector<TravelTime> records;
-  /// Of the measured times, seconds, by record; 0 where it is not known. Empty where the file tells
-  /// no errors. A survey does not keep them: they only go from file to file.
-  std::vector<std::vector<double>> errors;
   std::vector<Message> warnings;  ///< what was repaired or ignored while reading
 };
+
+/// Whether the error of any pick is known.
+bool tellsErrors(const TravelTimeData& data);
 
 /// The picks of a survey.
 TravelTimeData travelTimesOf(const TomoDocument& document);

@@ -100,7 +100,7 @@ std::vector<Message> lostInOtte(const std::string& text, const TravelTimeData& d
         Message::tr("read back, string %1 will have another number of geophones").arg(i + 1));
     break;
   }
-  if (!data.errors.empty()) {
+  if (tellsErrors(data)) {
     lost.push_back(Message::tr("the format has no place for the errors of the picks"));
   }
   return lost;

@@ -43,9 +43,6 @@ bool asksForTimeUnit(const std::string& path);
 /// data.
 void fitToRecords(TravelTimeData& data, const TomoDocument& document);
 
-/// What of the data a survey has no place for; empty where it takes all.
-Message lostInSurvey(const TravelTimeData& data);
-
 /// What an import takes from a document besides its picks.
 struct ImportCost {
   ModelLoss model = ModelLoss::kNothing;

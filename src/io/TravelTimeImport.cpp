@@ -138,6 +138,7 @@ void fillRecords(const Plan& plan, TomoDocument& document) {
     record.indexStesa = read.indexStesa;
     record.ttMisurati = std::move(read.ttMisurati);
     record.unconfirmed = {};  // the marks were those of the picks that go
+    record.pickErrors = std::move(read.pickErrors);
     dropPicksWithoutPart(document, record);
     if (plan.moved) record.ttCalcolati.edit().assign(record.ttMisurati.size(), kNoTime);
   }
@@ -164,11 +165,6 @@ void fitToRecords(TravelTimeData& data, const TomoDocument& document) {
             .arg(record.traceSetID + std::int64_t{1})
             .arg(count));
   }
-}
-
-Message lostInSurvey(const TravelTimeData& data) {
-  if (data.errors.empty()) return {};
-  return Message::tr("the file tells errors of its picks, which the survey does not keep");
 }
 
 Status checkImport(TravelTimeData& data, const TomoDocument& document, ImportCost& cost) {

@@ -275,7 +275,6 @@ class UnifiedDataReader : private PickReader {
     std::vector<bool> used(points.size(), false);
     mList.shots = compact(mList.pairs, &PickPair::shot, points, used);
     mList.geophones = compact(mList.pairs, &PickPair::geophone, points, used);
-    mList.hasErrors = mLayout.error != kNone;
     const auto unused = std::count(used.begin(), used.end(), false);
     if (unused > 0) {
       warn(Message::tr("%1 positions are no shot and no geophone of any time; they were left out")

@@ -39,11 +39,6 @@ std::map<Place, std::size_t> placesOf(const TravelTimeData& data) {
   return places;
 }
 
-double errorOf(const TravelTimeData& data, std::size_t record, std::size_t time) {
-  if (record >= data.errors.size() || time >= data.errors[record].size()) return 0.0;
-  return data.errors[record][time];
-}
-
 }  // namespace
 
 std::string formatUnifiedData(const TravelTimeData& data) {
@@ -52,7 +47,7 @@ std::string formatUnifiedData(const TravelTimeData& data) {
   for (const auto& place : places) {
     text += exactDouble(place.first.first) + ' ' + exactDouble(place.first.second) + '\n';
   }
-  const bool errors = !data.errors.empty();
+  const bool errors = tellsErrors(data);
   std::size_t count = 0;
   std::string lines;
   forEachPick(data, [&](std::size_t record, std::size_t time, const Point2D& geophone) {
@@ -60,7 +55,7 @@ std::string formatUnifiedData(const TravelTimeData& data) {
     lines += std::to_string(places.at(placeOf(shot.shotPos2d))) + ' ' +
              std::to_string(places.at(placeOf(geophone))) + ' ' +
              exactDouble(shot.ttMisurati[time]);
-    if (errors) lines += ' ' + exactDouble(errorOf(data, record, time));
+    if (errors) lines += ' ' + exactDouble(shot.errorOf(time));
     lines += " 1\n";
     ++count;
   });
@@ -74,8 +69,10 @@ std::vector<Message> lostInUnifiedData(const TravelTimeData& data) {
   for (const auto& string : data.strings) {
     for (const Point2D& geophone : string) geophones.emplace(placeOf(geophone), false);
   }
-  forEachPick(data, [&](std::size_t record, std::size_t, const Point2D& geophone) {
+  std::size_t unknown = 0;
+  forEachPick(data, [&](std::size_t record, std::size_t time, const Point2D& geophone) {
     picked[record] = true;
+    if (!(data.records[record].errorOf(time) > 0.0)) ++unknown;
     geophones[placeOf(geophone)] = true;
   });
   std::map<Place, std::size_t> shots;
@@ -99,6 +96,10 @@ std::vector<Message> lostInUnifiedData(const TravelTimeData& data) {
     lost.push_back(Message::tr("%1 shots lie at the place of another one; the file does not tell "
                                "their picks apart")
                        .arg(mixed));
+  }
+  if (tellsErrors(data) && unknown > 0) {
+    lost.push_back(
+        Message::tr("the error of %1 picks is not known; the file has 0 for it").arg(unknown));
   }
   return lost;
 }

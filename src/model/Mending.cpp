@@ -71,7 +71,8 @@ PicksOfRecord picksOfRecord(const TomoDocument& document, std::size_t set) {
     if (hasPick(now)) {
       const bool same = hasPlace && memory->time - shift == now;
       result.picks.push_back({static_cast<std::uint32_t>(channel),
-                              same ? memory->time : now + shift, record->waits(j)});
+                              same ? memory->time : now + shift, record->waits(j),
+                              record->errorOf(j)});
       result.active[channel] = true;
     } else {
       result.unpicked[channel] = now;
@@ -92,6 +93,7 @@ Moved placePicks(const PicksOfRecord& recorded, const ShotMends& mends, const Tr
   const std::vector<const RecordedPick*> picks = byChannel(recorded.picks, traces.size());
   std::vector<double> times = record.ttMisurati;
   if (times.size() < traces.size()) times.resize(traces.size(), kUnpicked);
+  std::vector<double> errors(traces.size(), 0.0);
   Moved moved;
   for (std::size_t j = 0; j < traces.size(); ++j) {
     const std::size_t channel = channelAt(mends, j, traces.size());
@@ -104,10 +106,12 @@ Moved placePicks(const PicksOfRecord& recorded, const ShotMends& mends, const Tr
       times[j] = active ? time : takesPart(mends, j) ? kNoTime : kUnpicked;
     }
     record.setWaiting(j, active && pick->waits);
+    if (active) errors[j] = pick->error;
     if (recorded.active[channel] && !active) ++moved.aside;
     if (!recorded.active[channel] && active) ++moved.back;
   }
   if (record.ttMisurati != times) record.ttMisurati = std::move(times);
+  for (std::size_t j = 0; j < errors.size(); ++j) record.setError(j, errors[j]);
   return moved;
 }
 

@@ -22,6 +22,7 @@ struct RecordedPick {
   std::uint32_t channel = 0;  ///< of the record, from 0: order and geophones may be reversed
   double time = 0.0;          ///< seconds of recorded time
   bool waits = false;         ///< for confirmation
+  double error = 0.0;         ///< one standard deviation, seconds; 0: not known
 };
 
 /// What is put right of the recording of one shot: kept beside the data, never in them, so that it

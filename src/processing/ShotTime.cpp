@@ -55,7 +55,9 @@ void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
 void movePick(TravelTime& record, std::size_t trace, double earlier, ShotTimeOutcome& outcome) {
   if (earlier == 0.0 || !hasPick(record.ttMisurati[trace])) return;
   const double time = record.ttMisurati[trace] - earlier;
+  const double error = record.errorOf(trace);
   record.ttMisurati.edit()[trace] = hasPick(time) ? time : kNoTime;
+  record.setError(trace, error);
   if (hasPick(time)) return;
   record.setWaiting(trace, false);
   ++outcome.picksRemoved;

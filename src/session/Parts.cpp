@@ -30,7 +30,8 @@ void compareRecords(const SharedVector<TravelTime>& a, const SharedVector<Travel
     for (const Part part : {Part::kPicks, Part::kGeometry}) parts.add(part);
   }
   for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i) {
-    if (a[i].ttMisurati != b[i].ttMisurati || a[i].unconfirmed != b[i].unconfirmed) {
+    if (a[i].ttMisurati != b[i].ttMisurati || a[i].unconfirmed != b[i].unconfirmed ||
+        a[i].pickErrors != b[i].pickErrors) {
       parts.add(Part::kPicks);
     }
     if (!samePoint(a[i].shotPos2d, b[i].shotPos2d) || a[i].indexStesa != b[i].indexStesa ||

@@ -24,6 +24,7 @@ void changePicks(TomoDocument& document, std::int32_t shot,
     if (hasPick(change.time) && !takesPart(document, shot, trace)) continue;
     if (record.ttMisurati[trace] != change.time) record.ttMisurati.edit()[trace] = change.time;
     record.setWaiting(trace, change.waits);
+    if (change.error) record.setError(trace, *change.error);
   }
 }
 
@@ -56,7 +57,8 @@ std::vector<std::int32_t> shotsWithOtherPicks(const TomoDocument& before,
   for (std::size_t i = 0; i < after.ttArray.size(); ++i) {
     const TravelTime& now = after.ttArray[i];
     if (i < before.ttArray.size() && before.ttArray[i].ttMisurati == now.ttMisurati &&
-        before.ttArray[i].unconfirmed == now.unconfirmed) {
+        before.ttArray[i].unconfirmed == now.unconfirmed &&
+        before.ttArray[i].pickErrors == now.pickErrors) {
       continue;
     }
     shots.push_back(static_cast<std::int32_t>(i));

@@ -3,6 +3,7 @@
 #include "base/Status.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace talvesk {
@@ -14,6 +15,9 @@ struct PickChange {
   std::int32_t trace = 0;
   double time = 0.0;   ///< seconds; kNoTime removes the pick
   bool waits = false;  ///< for confirmation
+  /// One standard deviation, seconds; 0 makes it unknown. None: that of the pick stays as long as
+  /// its time does.
+  std::optional<double> error = std::nullopt;
 };
 
 /// Gives traces of a shot their times. Those that the shot does not have are left out, and so are
@@ -29,7 +33,8 @@ Status mayPick(const TomoDocument& document, std::int32_t shot,
 /// All picks of a shot are those of an autopicker, and wait for confirmation.
 void markPicksAutomatic(TomoDocument& document, std::int32_t shot);
 
-/// The records whose measured times, or whose confirmations, are not those of the other document.
+/// The records whose measured times, their errors, or whose confirmations, are not those of the
+/// other document.
 std::vector<std::int32_t> shotsWithOtherPicks(const TomoDocument& before,
                                               const TomoDocument& after);
 

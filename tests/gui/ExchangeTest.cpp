@@ -47,13 +47,12 @@ class Exchange : public Geometry {
 };
 
 TEST_F(Exchange, importsPicksOfShotSuffixesByTheirContent) {
-  dialogs.expectBox("Warning", "picks.dat was loaded with warnings.",
-                    "the file tells errors of its picks", QMessageBox::Ok);
   window->openFiles({put("picks.dat",
                          "3 # points\n#x z\n0 10\n5 11\n10 12\n2 # measurements\n"
                          "#s g t err\n1 2 0.005 0.001\n1 3 0.01 0.002\n")});
   ASSERT_EQ(writable().ttArray.size(), 1u);
   EXPECT_THAT(writable().ttArray[0].ttMisurati, ElementsAre(0.005, 0.01));
+  EXPECT_EQ(writable().ttArray[0].errorOf(1), 0.002);
 }
 
 TEST_F(Exchange, asksForTheUnitOfATableThatTellsNone) {

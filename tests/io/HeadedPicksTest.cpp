@@ -108,7 +108,7 @@ TEST(HeadedPicks, putShotsWithoutElevationsOnTheLineOfTheGeophones) {
   EXPECT_DOUBLE_EQ(data.records[1].shotPos2d.x, 3.048);
   EXPECT_DOUBLE_EQ(data.records[1].shotPos2d.z, 11.524);
   EXPECT_THAT(data.warnings, Contains(HasSubstr("were put on the line of the geophones")));
-  EXPECT_THAT(data.errors, ElementsAre(ElementsAre(0.0002, 0.0), ElementsAre(0.001, 0.0)));
+  EXPECT_THAT(errorsOf(data), ElementsAre(ElementsAre(0.0002, 0.0), ElementsAre(0.001, 0.0)));
 }
 
 TEST(HeadedPicks, joinAUnitToTheNameBeforeItEvenIfThatIsEmpty) {

@@ -28,6 +28,9 @@ class MendedProject : public ProjectTest {
   void mend() {
     project.document.ttArray.edit()[0].setWaiting(2, true);
     project.document.ttArray.edit()[1].setWaiting(3, true);
+    for (TravelTime& record : project.document.ttArray.edit()) {
+      for (const std::size_t trace : {1U, 3U}) record.setError(trace, 0.0015);
+    }
     recorded = project.document;
     ShotMends first;
     first.timeShift = 0.003;
@@ -52,6 +55,7 @@ class MendedProject : public ProjectTest {
         EXPECT_EQ(x.samplesDX, y.samplesDX) << s << ", " << t;
         EXPECT_EQ(x.samplesSX, y.samplesSX) << s << ", " << t;
         EXPECT_EQ(a.ttArray[s].waits(t), b.ttArray[s].waits(t)) << s << ", " << t;
+        EXPECT_EQ(a.ttArray[s].errorOf(t), b.ttArray[s].errorOf(t)) << s << ", " << t;
       }
     }
   }

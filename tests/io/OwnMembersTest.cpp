@@ -95,6 +95,33 @@ TEST_F(OwnMember, keepsWhichPicksAreUnconfirmed) {
   EXPECT_EQ(savedAgain(back), entriesOf(archive()));
 }
 
+TEST_F(OwnMember, keepsTheErrorsOfPicks) {
+  project.document.ttArray.edit()[0].setError(1, 0.0005);
+  project.document.ttArray.edit()[2].setError(5, 1.0 / 3000.0);
+  ASSERT_EQ(save(), 0);
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
+  for (std::size_t shot = 0; shot < 3; ++shot) {
+    for (std::size_t trace = 0; trace < 6; ++trace) {
+      EXPECT_EQ(back.document.ttArray[shot].errorOf(trace),
+                project.document.ttArray[shot].errorOf(trace))
+          << shot << ", " << trace;
+    }
+  }
+  EXPECT_EQ(savedAgain(back), entriesOf(archive()));
+  const std::string sound = entriesOf(archive()).at("errors.xml");
+  for (const auto& [before, after] : std::vector<std::pair<std::string, std::string>>{
+           {"<sigma>", "<sigma>-"}, {"<sigma>", "<sigma>9999999"}, {"<sigma>", "<sigma>x"}}) {
+    LoadedProject other;
+    ASSERT_EQ(load(withMember("errors.xml", with(sound, before, after)), other), 0) << after;
+    EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("errors.xml"))) << after;
+    EXPECT_EQ(other.document.ttArray[2].errorOf(5), 0.0) << after;
+  }
+  LoadedProject other;
+  ASSERT_EQ(load(withMember("errors.xml", with(sound, "<of>1<", "<of>4294967295<")), other), 0);
+  EXPECT_EQ(other.document.ttArray[2].errorOf(5), 1.0 / 3000.0);
+}
+
 TEST_F(OwnMember, isNotThereWhenItHasNothingToTell) {
   project.document.ttArray.edit()[0].ttMisurati.edit()[1] = kNoTime;
   project.document.ttArray.edit()[0].setWaiting(1, true);  // no pick, and so none that waits

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "io/TravelTimeData.h"
+
 #include <string>
+#include <vector>
 
 /// One small valid file of each travel-time format: two shots into three receivers.
 namespace talvesk::testing {
@@ -30,6 +33,16 @@ inline const std::string kPickTable =
 
 inline const std::string kCsv =
     ";;0;5;10\n;;100;101;102\n-2.5;99;5.5;10.25;-99000\n12.5;102.5;30;20;0\n";
+
+/// Of all traces, record by record; 0 where there is none.
+inline std::vector<std::vector<double>> errorsOf(const TravelTimeData& data) {
+  std::vector<std::vector<double>> errors;
+  for (const TravelTime& record : data.records) {
+    std::vector<double>& row = errors.emplace_back();
+    for (std::size_t j = 0; j < record.ttMisurati.size(); ++j) row.push_back(record.errorOf(j));
+  }
+  return errors;
+}
 
 /// Every occurrence of `from` replaced.
 inline std::string replaced(std::string text, const std::string& from, const std::string& to) {

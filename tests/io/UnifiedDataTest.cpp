@@ -39,7 +39,7 @@ TEST(UnifiedData, becomesOneStringWithATimePerShotAndGeophone) {
   EXPECT_EQ(data.records[1].traceSetID, 1);
   EXPECT_THAT(data.records[0].ttMisurati, ElementsAre(0.0055, 0.01025, kNoTime));
   EXPECT_THAT(data.records[1].ttMisurati, ElementsAre(0.03, 0.02, kNoTime));
-  EXPECT_THAT(data.errors, ElementsAre(ElementsAre(0.001, 0.002, 0.0), ElementsAre(0.001, 0, 0)));
+  EXPECT_THAT(errorsOf(data), ElementsAre(ElementsAre(0.001, 0.002, 0), ElementsAre(0.001, 0, 0)));
   EXPECT_THAT(data.warnings, ElementsAre(HasSubstr("1 times are marked as not valid")));
 }
 
@@ -106,7 +106,7 @@ TEST(UnifiedData, takesMillisecondsAndColumnsInAnyOrder) {
       read("3\n0\n5\n10\n2\n# err/ms t/ms g s\n2 10.25 2 1\n1 5.5 2 3 # near\n");
   EXPECT_THAT(data.records[0].ttMisurati, ElementsAre(0.01025));
   EXPECT_THAT(data.records[1].ttMisurati, ElementsAre(0.0055));
-  EXPECT_THAT(data.errors, ElementsAre(ElementsAre(0.002), ElementsAre(0.001)));
+  EXPECT_THAT(errorsOf(data), ElementsAre(ElementsAre(0.002), ElementsAre(0.001)));
 }
 
 TEST(UnifiedData, tellsWhatItLeavesOut) {
@@ -173,14 +173,14 @@ TEST(UnifiedData, comesBackAsItWasWritten) {
   EXPECT_EQ(back.records[1].shotPos2d, data.records[1].shotPos2d);
   EXPECT_THAT(back.records[0].ttMisurati, ElementsAre(1.0 / 3.0, 0.02, 0.01025));
   EXPECT_THAT(back.records[1].ttMisurati, ElementsAre(0.03, kNoTime, 0.02));
-  EXPECT_THAT(back.errors[0], ElementsAre(0.001, 0.001, 0.002));
+  EXPECT_THAT(errorsOf(back)[0], ElementsAre(0, 0.001, 0.002));
   EXPECT_THAT(back.warnings, IsEmpty());
 }
 
 TEST(UnifiedData, writesNoErrorsThatNobodyTold) {
   const std::string text = formatUnifiedData(read(kOtte, "a.otte"));
   EXPECT_THAT(text, HasSubstr("4 # measurements\n#s g t valid\n1 2 0.0055 1\n1 3 0.01025 1\n"));
-  EXPECT_EQ(read(text).errors.size(), 0u);
+  EXPECT_FALSE(tellsErrors(read(text)));
 }
 
 TEST(UnifiedData, saysWhatDoesNotComeBackFromIt) {
@@ -193,9 +193,11 @@ TEST(UnifiedData, saysWhatDoesNotComeBackFromIt) {
   ASSERT_TRUE(writeTravelTimes(folder.file("a.sgt"), data, losses).ok());
   EXPECT_THAT(losses, ElementsAre(HasSubstr("1 shots have no pick"), HasSubstr("1 geophones have"),
                                   HasSubstr("1 shots lie at the place of another one")));
-  data.errors.assign(4, {});
+  data.records[0].setError(1, 0.001);
   ASSERT_TRUE(writeTravelTimes(folder.file("a.otte"), data, losses).ok());
   EXPECT_THAT(losses, ElementsAre(HasSubstr("no place for the errors of the picks")));
+  ASSERT_TRUE(writeTravelTimes(folder.file("a.sgt"), data, losses).ok());
+  EXPECT_THAT(losses, Contains(HasSubstr("the error of 5 picks is not known")));
 }
 
 }  // namespace

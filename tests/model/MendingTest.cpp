@@ -42,6 +42,8 @@ TomoDocument repeats(std::size_t shots) {
     record.ttMisurati = {0.0021, 0.0032, kNoTime};
     record.ttCalcolati = {kNoTime, kNoTime, kNoTime};
     record.setWaiting(1, true);
+    record.setError(0, 0.0005);
+    record.setError(1, 0.0025);
     document.ttArray.edit().push_back(record);
     document.recordings.edit().traceSets.push_back(set);
   }
@@ -95,6 +97,7 @@ void expectSame(const TomoDocument& a, const TomoDocument& b, const std::string&
       EXPECT_EQ(x.droppedSamples, y.droppedSamples) << what;
       EXPECT_EQ(x.furtherValue2, y.furtherValue2) << what;
       EXPECT_EQ(a.ttArray[s].waits(t), b.ttArray[s].waits(t)) << what;
+      EXPECT_EQ(a.ttArray[s].errorOf(t), b.ttArray[s].errorOf(t)) << what;
     }
   }
   EXPECT_EQ(a.recordings->mends.size(), b.recordings->mends.size()) << what;

@@ -61,6 +61,31 @@ TEST_F(Sessions, goBackAndForthStepByStep) {
   EXPECT_FALSE(session.canRedo()) << "what was undone is gone with another edit";
 }
 
+TEST_F(Sessions, takeTheErrorOfAPickWithItsTime) {
+  const auto change = [&](const PickChange& pick) {
+    ASSERT_TRUE(session
+                    .apply(Edit::kPick,
+                           [&](Survey& survey) {
+                             changePicks(survey.document, 0, {pick});
+                             return Status();
+                           })
+                    .ok());
+  };
+  const auto error = [&] { return session.document().ttArray[0].errorOf(4); };
+  change({4, 0.030, false, 0.001});
+  EXPECT_EQ(error(), 0.001);
+  change({4, 0.030, true});
+  EXPECT_EQ(error(), 0.001) << "the pick is the same";
+  change({4, 0.031, false});
+  EXPECT_EQ(error(), 0.0) << "nobody said how far this one may be off";
+  change({4, 0.031, false, 0.0025});
+  EXPECT_EQ(session.steps(), 4U) << "a new error alone is an edit";
+  change({4, kNoTime, false});
+  EXPECT_EQ(error(), 0.0);
+  for (int steps = 0; steps < 4; ++steps) session.undo();
+  EXPECT_EQ(error(), 0.001);
+}
+
 TEST_F(Sessions, areCleanWhereTheyWereSaved) {
   setTitle("One");
   session.markSaved();

@@ -44,7 +44,6 @@ void TravelTimesPresenter::importFile(const QString& file) {
     return checkImport(times, mDesk.document(), cost);
   });
   std::vector<Message> warnings = times.warnings;
-  if (Message lost = lostInSurvey(times); !lost.empty()) warnings.push_back(std::move(lost));
   if (status.ok()) {
     // An import replaces the picks at least.
     if (hasPicks(mDesk.document()) && !mProjects.mayLoseChanges()) return;

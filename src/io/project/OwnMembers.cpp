@@ -156,7 +156,20 @@ const std::vector<OwnMember>& ownMembers() {
       {"mends.xml", 1, "Mends",
        Message::tr("what was mended in its recordings is not known; traces and picks stay as they "
                    "are"),
-       hasMends, hasMends, writeMends, readMends}};
+       hasMends, hasMends, writeMends, readMends},
+      // Behind the mends, for it tells of the picks that they keep.
+      {"errors.xml", 1, "Pick errors", Message::tr("no error of a pick is known"),
+       [](const TomoDocument& document, const Interpretation&) { return hasPicks(document); },
+       [](const TomoDocument& document, const Interpretation&) {
+         return pickErrorsOf(document).has_value();
+       },
+       writes([](const TomoDocument& document, const Interpretation&) {
+         return pickErrorsOf(document);
+       }),
+       reads([](const TomoDocument&) { return PickErrorsMember(); },
+             [](const PickErrorsMember& member, TomoDocument& document, Interpretation&) {
+               return installPickErrors(member, document);
+             })}};
   return kMembers;
 }
 

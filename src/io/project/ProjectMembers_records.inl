@@ -141,6 +141,19 @@ void describe(V& fields, UnconfirmedMember& member) {
 }
 
 template <class V>
+void describe(V& fields, StoredError& error) {
+  fields("of", error.of);
+  fields("time", error.time);
+  fields("sigma", error.sigma);
+}
+
+template <class V>
+void describe(V& fields, PickErrorsMember& member) {
+  fields("errors", member.errors);
+  fields("recorded", member.recorded);
+}
+
+template <class V>
 void describe(V& fields, StoredReader& stored) {
   fields("file", stored.file);
   fields("reader", stored.reader);

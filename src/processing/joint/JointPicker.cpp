@@ -205,6 +205,7 @@ void store(const Gather& gather, TomoDocument& document, JointPickOutcome& outco
     record.setWaiting(t, picked);
     if (!picked) continue;
     errors[t] = gather.errors[t];
+    record.setError(t, errors[t]);
     ++(errors[t] <= 1e-3 * parameters::kGoodPick.value ? outcome.good : outcome.doubtful);
   }
 }
