@@ -39,7 +39,9 @@ CellMesh::CellMesh(const GridGeometry& geometry)
   }
   // Sides that the relief squeezes to nothing must not set the pace.
   mShortest = std::max(lowest, 0.1 * geometry.aLato()) / kSteps;
+  mRings.reserve(cellCount());
   for (std::uint32_t cell = 0; cell < mRows * mCols; ++cell) {
+    mRings.push_back(makeRing(cell));
     for (std::uint32_t a = 0; a < 4; ++a) {
       for (std::uint32_t b = 0; b < a; ++b) {
         const Point2D& p = this->corner(cell, a);
@@ -50,7 +52,7 @@ CellMesh::CellMesh(const GridGeometry& geometry)
   }
 }
 
-CellMesh::Ring CellMesh::ring(std::uint32_t cell) const {
+CellMesh::Ring CellMesh::makeRing(std::uint32_t cell) const {
   const std::uint32_t row = cell / mCols;
   const std::uint32_t column = cell % mCols;
   const std::uint32_t top = lineNode(row, column * kSteps);

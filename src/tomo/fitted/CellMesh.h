@@ -31,7 +31,7 @@ class CellMesh {
 
   using Ring = std::array<std::uint32_t, kRing>;
   /// Nodes around a cell: clockwise as seen on the section, from the upper left corner.
-  Ring ring(std::uint32_t cell) const;
+  const Ring& ring(std::uint32_t cell) const { return mRings[cell]; }
 
   /// Calls visit(cell, k) for the cells around a node; k is its place in their rings.
   template <typename Visit>
@@ -45,6 +45,7 @@ class CellMesh {
   const Point2D& corner(std::uint32_t cell, std::uint32_t k) const;
 
  private:
+  Ring makeRing(std::uint32_t cell) const;
   std::uint32_t lineNode(std::uint32_t line, std::uint32_t i) const { return line * mLine + i; }
   std::uint32_t sideNode(std::uint32_t row, std::uint32_t v) const {
     return mSideBase + (row * (mCols + 1) + v) * (kSteps - 1);
@@ -55,6 +56,7 @@ class CellMesh {
   std::uint32_t mSideBase;  ///< first node inside a vertical side
   double mShortest, mLongest;
   std::vector<Point2D> mNodes;
+  std::vector<Ring> mRings;
 };
 
 template <typename Visit>

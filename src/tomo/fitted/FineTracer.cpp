@@ -31,6 +31,12 @@ const GridGeometry& withCells(const GridGeometry& geometry) {
   return geometry;
 }
 
+double timeOf(const std::vector<RayPiece>& pieces, const std::vector<double>& slownesses) {
+  double time = 0.0;
+  for (const RayPiece& piece : pieces) time += piece.length * slownesses[piece.cell];
+  return time;
+}
+
 }  // namespace
 
 FineTracer::FineTracer(const GridGeometry& geometry, const FitData& data, unsigned threads)
@@ -43,6 +49,33 @@ FineTracer::FineTracer(const GridGeometry& geometry, const FitData& data, unsign
   for (unsigned w = 0; w < std::max(threads, 1U); ++w) mWorkers.emplace_back(mMesh);
 }
 
+/// Leaves the fastest ray in worker.pieces. Rivals that go as deep are the same wave, and bending
+/// takes them to the same ray.
+void FineTracer::traceRay(Worker& worker, const SurfacePoint& receiver,
+                          const std::vector<double>& slownesses) const {
+  constexpr double kNever = FieldStep::kNever;
+  constexpr std::uint32_t kSameWave = 1;  // rows
+  double least = kNever;
+  std::uint32_t first = 0;
+  const auto deepest = [cols = mMesh.cols()](const std::vector<RayLeg>& legs) {
+    std::uint32_t row = 0;
+    for (const RayLeg& leg : legs) row = std::max(row, leg.cell / cols);
+    return row;
+  };
+  worker.field.departures(receiver, worker.departures);
+  for (const FieldStep& departure : worker.departures) {
+    worker.field.descend(departure, worker.legs);
+    const std::uint32_t depth = deepest(worker.legs);
+    if (least < kNever && (depth > first ? depth - first : first - depth) < kSameWave) continue;
+    if (!(least < kNever)) first = depth;
+    worker.bending.bend(receiver.at, worker.legs, slownesses, worker.rival);
+    const double time = timeOf(worker.rival, slownesses);
+    if (!(time < least)) continue;
+    least = time;
+    worker.pieces.swap(worker.rival);
+  }
+}
+
 bool FineTracer::trace(const std::vector<double>& slownesses, TracedRays& traced,
                        const std::function<bool()>& goOn) {
   if (slownesses.size() != mMesh.cellCount()) {
@@ -53,8 +86,7 @@ bool FineTracer::trace(const std::vector<double>& slownesses, TracedRays& traced
     Worker& worker = mWorkers[number];
     worker.field.spread(mShots[shot].source, slownesses);
     for (const SurfacePoint& receiver : mShots[shot].receivers) {
-      worker.field.descend(receiver, worker.legs);
-      worker.bending.bend(receiver.at, worker.legs, slownesses, worker.pieces);
+      traceRay(worker, receiver, slownesses);
       shots[shot].add(worker.pieces, slownesses);
     }
   };

@@ -35,9 +35,13 @@ class FineTracer : public RayTracer {
     explicit Worker(const CellMesh& mesh) : field(mesh), bending(mesh) {}
     TimeField field;
     RayBending bending;
+    std::vector<FieldStep> departures;
     std::vector<RayLeg> legs;
-    std::vector<RayPiece> pieces;
+    std::vector<RayPiece> pieces, rival;
   };
+
+  void traceRay(Worker& worker, const SurfacePoint& receiver,
+                const std::vector<double>& slownesses) const;
 
   CellMesh mMesh;
   std::vector<Shot> mShots;

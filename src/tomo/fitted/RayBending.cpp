@@ -9,8 +9,13 @@ namespace {
 constexpr int kMostSteps = 12;        ///< of Newton's method; four to six are usual
 constexpr int kMostHalvings = 6;      ///< of a step that leads too far
 constexpr int kMostRounds = 4;        ///< of passing corners; the second seldom finds any
+constexpr double kLittleGain = 1e-5;  ///< of the time; less than a step usually brings
 constexpr double kEnoughGain = 1e-7;  ///< of the time; a tenth of a microsecond in a second
-constexpr double kOff = 0.1;          ///< of a side: where crossings near a corner begin
+constexpr double kRounding[] = {3e-2, 1e-3, 1e-4};
+constexpr double kWorth = 1e-5;       ///< of the time: what passing a corner must gain
+constexpr double kSmallTurn = 1e-3;  ///< square of an angle that is always looked at
+constexpr double kNear = 1e-3;       ///< of a side, to a corner
+constexpr double kOff = 0.1;         ///< of a side: where crossings near a corner begin
 
 Point2D operator-(const Point2D& a, const Point2D& b) {
   return {a.x - b.x, a.z - b.z};
@@ -22,9 +27,9 @@ double length(const Point2D& v) {
   return std::sqrt(dot(v, v));
 }
 
-/// Whether the least time lies beyond the corner that a crossing has come to.
-bool held(const RayCrossing& c) {
-  return (c.place <= 0.0 && c.slope > 0.0) || (c.place >= 1.0 && c.slope < 0.0);
+/// Whether a crossing ends up in a corner, perhaps because its side goes no further.
+bool inCorner(const RayCrossing& c) {
+  return c.place < kNear || c.place > 1.0 - kNear;
 }
 
 }  // namespace
@@ -44,8 +49,9 @@ void RayBending::bend(const Point2D& from, const std::vector<RayLeg>& legs,
     enter(path, leg.cell, at);
     at = leg.exit;
   }
-  straighten(path);
-  for (int round = 0; round < kMostRounds && passCorners(path); ++round) straighten(path);
+  loosen(path);
+  mWorth = kWorth * straighten(path);
+  for (int round = 0; round < kMostRounds && passCorners(path); ++round) descend(path);
 
   pieces.clear();
   for (std::size_t i = 0; i < path.cells.size(); ++i) {
@@ -103,31 +109,68 @@ double RayBending::time(const Path& path) const {
   return sum;
 }
 
+/// Moves crossings that meet in a corner apart: a piece without length has no direction in which
+/// the time falls.
+void RayBending::loosen(Path& path) const {
+  for (std::size_t i = 1; i < path.crossings.size(); ++i) {
+    RayCrossing& a = path.crossings[i - 1];
+    RayCrossing& b = path.crossings[i];
+    if (length(b.at() - a.at()) > mTiny) continue;
+    for (RayCrossing* c : {&a, &b}) c->place = std::clamp(c->place, kOff, 1.0 - kOff);
+  }
+}
+
 /// Moves the crossings to where the time is least, and returns it.
 double RayBending::straighten(Path& path) {
+  for (const double round : kRounding) {
+    mTiny = round * mMesh->longestChord();
+    descend(path);
+  }
+  return time(path);
+}
+
+void RayBending::descend(Path& path) {
   double least = time(path);
   for (int step = 0; step < kMostSteps; ++step) {
     findStep(path);
+    const double before = least;
     mTrial.crossings = path.crossings;
-    double reached = least;
     double part = 1.0;
     for (int halving = 0; halving <= kMostHalvings; ++halving, part *= 0.5) {
       for (std::size_t i = 0; i < path.crossings.size(); ++i) {
         path.crossings[i].place = std::clamp(mTrial.crossings[i].place + part * mStep[i], 0.0, 1.0);
       }
-      reached = time(path);
-      if (reached < least) break;
+      const double reached = time(path);
+      if (reached < least) {
+        least = reached;
+        break;
+      }
     }
-    if (!(reached < least)) {
-      path.crossings = mTrial.crossings;
-      return least;
-    }
-    const double gain = least - reached;
-    least = reached;
-    if (gain < kEnoughGain * least) break;
+    if (!(least < before)) path.crossings = mTrial.crossings;
+    if (before - least > kLittleGain * before) continue;
+    // Corners have cut the step short; one by one the crossings find what remains.
+    relax(path);
+    least = time(path);
+    if (before - least < kEnoughGain * before) return;
   }
-  findStep(path);
-  return least;
+}
+
+/// Moves one crossing after the other. Each step uses a curvature that the true one never exceeds,
+/// so that the time falls for certain.
+void RayBending::relax(Path& path) const {
+  for (std::size_t i = 0; i < path.crossings.size(); ++i) {
+    RayCrossing& c = path.crossings[i];
+    double slope = 0.0;
+    double curvature = 0.0;
+    const auto add = [&](const Point2D& v, std::uint32_t cell) {
+      const double s = (*mSlowness)[cell] / std::sqrt(dot(v, v) + mTiny * mTiny);
+      slope += s * dot(v, c.span);
+      curvature += s * dot(c.span, c.span);
+    };
+    add(c.at() - path.start(i), path.cells[i]);
+    add(c.at() - path.end(i + 1), path.cells[i + 1]);
+    if (curvature > 0.0) c.place = std::clamp(c.place - slope / curvature, 0.0, 1.0);
+  }
 }
 
 /// Newton's step of all crossings that are not held at a corner, and the slopes where they are. The
@@ -157,7 +200,8 @@ void RayBending::findStep(Path& path) {
     if (a != nullptr && b != nullptr) mUpper[i - 1] = -s * (dot(a->span, b->span) - va * vb);
   }
   for (std::size_t i = 0; i < n; ++i) {
-    if (!held(path.crossings[i])) {
+    const RayCrossing& c = path.crossings[i];
+    if (!((c.place <= 0.0 && c.slope > 0.0) || (c.place >= 1.0 && c.slope < 0.0))) {
       mStep[i] = -path.crossings[i].slope;
       mDiagonal[i] *= 1.0 + 1e-9;
       continue;
@@ -180,7 +224,7 @@ void RayBending::findStep(Path& path) {
 bool RayBending::passCorners(Path& path) {
   bool any = false;
   for (std::size_t i = 0; i < path.crossings.size(); ++i) {
-    if (held(path.crossings[i]) && passCorner(path, i)) any = true;
+    if (inCorner(path.crossings[i]) && passCorner(path, i)) any = true;
   }
   return any;
 }
@@ -192,7 +236,7 @@ bool RayBending::passCorner(Path& path, std::size_t i) {
   const std::uint32_t b = path.cells[i + 1];
   const std::uint32_t side = mMesh->sideTowards(a, b);
   const RayCrossing& c = path.crossings[i];
-  const bool atFirst = c.place <= 0.0;
+  const bool atFirst = c.place < 0.5;
   // Crossings may have been laid from the other cell, but `first` is a corner of both.
   const bool sameWay = mMesh->corner(a, side) == c.first;
   const std::uint32_t other = (side + (atFirst == sameWay ? 3 : 1)) % 4;
@@ -204,7 +248,7 @@ bool RayBending::passCorner(Path& path, std::size_t i) {
   const std::vector<double>& s = *mSlowness;
   const double here = std::min(s[a], s[b]);
   const double turn = c.slope / (here * length(c.span));
-  if (std::min(s[besideA], s[besideB]) > here * (1.0 + turn * turn)) return false;
+  if (std::min(s[besideA], s[besideB]) > here * (1.0 + kSmallTurn + turn * turn)) return false;
 
   const std::size_t first = i >= 2 ? i - 2 : 0;
   const std::size_t last = std::min(i + 3, path.crossings.size());  // cells first .. last
@@ -225,10 +269,8 @@ bool RayBending::passCorner(Path& path, std::size_t i) {
       enter(way, cell, corner);
     }
   }
-  for (RayCrossing& crossing : way.crossings) {
-    if (crossing.at() == corner) crossing.place = std::clamp(crossing.place, kOff, 1.0 - kOff);
-  }
-  if (!(straighten(way) < before * (1.0 - kEnoughGain))) return false;
+  loosen(way);
+  if (!(straighten(way) < before - mWorth)) return false;
 
   path.cells.erase(path.cells.begin() + first, path.cells.begin() + last + 1);
   path.cells.insert(path.cells.begin() + first, way.cells.begin(), way.cells.end());

@@ -46,6 +46,9 @@ class RayBending {
   void enter(Path& path, std::uint32_t cell, const Point2D& at) const;
   RayCrossing crossing(std::uint32_t from, std::uint32_t into, const Point2D& near) const;
   double time(const Path& path) const;
+  void loosen(Path& path) const;
+  void descend(Path& path);
+  void relax(Path& path) const;
   double straighten(Path& path);
   void findStep(Path& path);
   bool passCorners(Path& path);
@@ -54,6 +57,7 @@ class RayBending {
   const CellMesh* mMesh;
   const std::vector<double>* mSlowness = nullptr;
   double mTiny = 0.0;  ///< metres; rounds the corner that a length has at zero
+  double mWorth = 0.0;  ///< seconds that passing a corner must gain
   Path mPath, mTrial, mWindow;
   std::vector<double> mStep, mDiagonal, mUpper;
 };

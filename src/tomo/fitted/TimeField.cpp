@@ -9,9 +9,13 @@ namespace talvesk {
 namespace {
 
 constexpr std::uint32_t kNotWaiting = SearchField::kNotQueued;
-constexpr std::uint32_t kBucketMask = 0x7FFFFFFFU;
+constexpr std::int64_t kBucketMask = 0x7FFFFFFFU;
 constexpr double kMostBuckets = 65536.0;
-constexpr double kNever = std::numeric_limits<double>::infinity();
+constexpr double kFlat = 1e-9;
+constexpr double kNever = FieldStep::kNever;
+// Of two waves that come so close together, relative to their time, the field may have the wrong
+// one first.
+constexpr double kRival = 0.003;
 
 double distance(const Point2D& a, const Point2D& b) {
   const double dx = a.x - b.x;
@@ -19,78 +23,73 @@ double distance(const Point2D& a, const Point2D& b) {
   return std::sqrt(dx * dx + dz * dz);
 }
 
-/// A piece of a cell's boundary with times that change linearly along it, seen from a cell of
-/// slowness s: the waves that leave it inside make one angle with it.
+/// A piece of a cell's boundary whose ends have times, seen from a cell of slowness s. Between the
+/// ends the times are interpolated linearly, which finds where a wave leaves the piece. advance()
+/// corrects for the roundness of a wave that spreads from the source: without that, near a source
+/// direct waves would be late and lose against refracted ones.
 class Front {
  public:
   Front(const Point2D& a, const Point2D& b, double timeA, double timeB, double s)
-      : mA(a), mTimeA(timeA), mLength(distance(a, b)) {
-    if (!(mLength > 0.0)) return;
-    mX = (b.x - a.x) / mLength;
-    mZ = (b.z - a.z) / mLength;
-    mGradient = (timeB - timeA) / mLength;
-    const double normal = s * s - mGradient * mGradient;
+      : mA(a), mX(b.x - a.x), mZ(b.z - a.z), mTime(timeA), mRise(timeB - timeA) {
+    const double square = mX * mX + mZ * mZ;
+    const double normal = s * s * square - mRise * mRise;
     if (!(normal > 0.0)) return;
     mNormal = std::sqrt(normal);
-    mSlant = mGradient / mNormal;
+    mSlant = mRise / mNormal;
+    mPerSquare = 1.0 / square;
   }
 
   bool radiates() const { return mNormal > 0.0; }
 
-  /// Where the wave to `p` leaves the piece, metres from a; outside of 0 .. length: from no place
-  /// between a and b.
+  /// Where the wave to `p` leaves the piece: 0 at a, 1 at b; outside: from no place between them.
   double origin(const Point2D& p, double& time) const {
     const double dx = p.x - mA.x;
     const double dz = p.z - mA.z;
-    const double along = dx * mX + dz * mZ;
-    const double across = std::fabs(dx * mZ - dz * mX);
-    time = mTimeA + mGradient * along + across * mNormal;
-    return along - across * mSlant;
+    const double along = (dx * mX + dz * mZ) * mPerSquare;
+    const double across = std::fabs(dx * mZ - dz * mX) * mPerSquare;
+    time = mTime + mRise * along + across * mNormal;
+    // A point of the piece itself is reached from its ends.
+    return across > kFlat ? along - across * mSlant : -1.0;
   }
-  double length() const { return mLength; }
-  double timeAt(double origin) const { return mTimeA + mGradient * origin; }
+  /// By how much a round wave passes the place earlier than the interpolation says, seconds.
+  double advance(double origin, const Point2D& source) const {
+    const double x = mA.x + 0.5 * mX - source.x;
+    const double z = mA.z + 0.5 * mZ - source.z;
+    const double square = x * x + z * z;
+    const double across = x * mZ - z * mX;
+    return 0.5 * (mTime + 0.5 * mRise) * (across * across) / (square * square) * origin *
+           (1.0 - origin);
+  }
+  double timeAt(double origin) const { return mTime + mRise * origin; }
   Point2D at(double origin) const { return {mA.x + mX * origin, mA.z + mZ * origin}; }
 
  private:
   Point2D mA;
-  double mTimeA;
-  double mLength;
-  double mX = 0.0, mZ = 0.0;  ///< direction from a to b
-  double mGradient = 0.0, mNormal = 0.0, mSlant = 0.0;
+  double mX, mZ;  ///< from a to b
+  double mTime, mRise;
+  double mNormal = 0.0, mSlant = 0.0, mPerSquare = 0.0;
 };
 
-/// Whether node k of a ring lies on the side that steps i to i + 1 of the ring belong to.
-bool onSideOf(std::uint32_t k, std::uint32_t i) {
+/// Nodes of a ring, one bit each.
+using RingSet = std::uint32_t;
+
+template <typename Visit>
+void forEach(RingSet set, Visit visit) {
+  for (; set != 0; set &= set - 1) visit(static_cast<std::uint32_t>(__builtin_ctz(set)));
+}
+
+/// The nodes of the side that steps i to i + 1 of a ring belong to.
+RingSet sideOf(std::uint32_t i) {
+  constexpr RingSet kAll = (1U << CellMesh::kRing) - 1;
+  constexpr RingSet kSide = (1U << (CellMesh::kSteps + 1)) - 1;
   const std::uint32_t first = i / CellMesh::kSteps * CellMesh::kSteps;
-  return (k + CellMesh::kRing - first) % CellMesh::kRing <= CellMesh::kSteps;
+  return (kSide << first | kSide >> (CellMesh::kRing - first)) & kAll;
 }
 
 }  // namespace
 
 bool SurfacePoint::isIn(std::uint32_t cell) const {
   return std::find(cells.begin(), cells.end(), cell) != cells.end();
-}
-
-struct TimeField::Around {
-  double s = 0.0;  ///< slowness of the cell
-  CellMesh::Ring ring{};
-  std::array<Point2D, CellMesh::kRing> at;
-};
-
-struct TimeField::Step {
-  double arrival = kNever;  ///< at the point that is looked back from
-  double time = kNever;     ///< at `leg.exit`
-  RayLeg leg;
-  std::uint32_t node = CellMesh::kNone;  ///< where the exit is one
-  std::uint32_t place = 0;               ///< step of the cell's ring where it is none
-};
-
-TimeField::Around TimeField::around(std::uint32_t cell) const {
-  Around a;
-  a.s = (*mSlowness)[cell];
-  a.ring = mMesh->ring(cell);
-  for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) a.at[k] = mMesh->node(a.ring[k]);
-  return a;
 }
 
 bool TimeField::isSettled(std::uint32_t node) const {
@@ -102,7 +101,8 @@ void TimeField::spread(const SurfacePoint& source, const std::vector<double>& sl
   mTime.assign(mMesh->nodeCount(), kNever);
   mWaiting.assign(mMesh->nodeCount(), kNotWaiting);
   start(source);
-  for (std::uint32_t current = 0; !mBuckets.empty(); current = (current + 1) & kBucketMask) {
+  for (; !mBuckets.empty(); ++mNow) {
+    const auto current = static_cast<std::uint32_t>(mNow & kBucketMask);
     BucketRing::Bucket& bucket = mBuckets.at(current);
     for (std::uint32_t i = 0; i < bucket.size; ++i) {  // it may grow meanwhile
       const std::uint32_t node = bucket.nodes[i];
@@ -116,6 +116,7 @@ void TimeField::spread(const SurfacePoint& source, const std::vector<double>& sl
 
 void TimeField::start(const SurfacePoint& source) {
   mSource = source;
+  mNow = 0;
   const auto [fastest, slowest] = std::minmax_element(mSlowness->begin(), mSlowness->end());
   double longest = mMesh->longestChord();
   for (const std::uint32_t cell : source.cells) {
@@ -137,8 +138,9 @@ void TimeField::start(const SurfacePoint& source) {
 void TimeField::offer(std::uint32_t node, double time) {
   if (!(time < mTime[node])) return;
   mTime[node] = time;
-  const auto bucket =
-      static_cast<std::uint32_t>(static_cast<std::int64_t>(time * mBucketsPerSecond)) & kBucketMask;
+  // Waves from between nodes may come earlier than the later of the two, which is settled now.
+  const std::int64_t due = std::max(static_cast<std::int64_t>(time * mBucketsPerSecond), mNow);
+  const auto bucket = static_cast<std::uint32_t>(due & kBucketMask);
   if (mWaiting[node] == bucket) return;
   mWaiting[node] = bucket;
   mBuckets.push(bucket, node);
@@ -146,93 +148,130 @@ void TimeField::offer(std::uint32_t node, double time) {
 
 void TimeField::settle(std::uint32_t node) {
   const double time = mTime[node];
+  const Point2D at = mMesh->node(node);
   mMesh->forEachCellAt(node, [&](std::uint32_t cell, std::uint32_t k) {
-    const Around a = around(cell);
+    const CellMesh::Ring& ring = mMesh->ring(cell);
+    RingSet later = 0;
     for (std::uint32_t i = 0; i < CellMesh::kRing; ++i) {
-      if (mTime[a.ring[i]] > time) {
-        offer(a.ring[i], time + a.s * distance(a.at[i], mMesh->node(node)));
-      }
+      if (mTime[ring[i]] > time) later |= 1U << i;
     }
-    reachAcross(a, k, (k + 1) % CellMesh::kRing);
-    reachAcross(a, k, (k + CellMesh::kRing - 1) % CellMesh::kRing);
+    if (later == 0) return;
+    const double s = (*mSlowness)[cell];
+    forEach(later, [&](std::uint32_t i) {
+      offer(ring[i], time + s * distance(mMesh->node(ring[i]), at));
+    });
+    reachAcross(ring, s, k, (k + 1) % CellMesh::kRing, later);
+    reachAcross(ring, s, k, (k + CellMesh::kRing - 1) % CellMesh::kRing, later);
   });
 }
 
-void TimeField::reachAcross(const Around& cell, std::uint32_t from, std::uint32_t partner) {
-  if (!isSettled(cell.ring[partner])) return;
-  const double timeA = mTime[cell.ring[from]];
-  const double timeB = mTime[cell.ring[partner]];
-  const Front front(cell.at[from], cell.at[partner], timeA, timeB, cell.s);
-  if (!front.radiates()) return;
-  const double first = std::min(timeA, timeB);
+/// Reaches the later nodes of a cell from between two neighbours of its ring.
+void TimeField::reachAcross(const CellMesh::Ring& ring, double s, std::uint32_t from,
+                            std::uint32_t partner, std::uint32_t later) {
   const std::uint32_t place = (from + 1) % CellMesh::kRing == partner ? from : partner;
-  for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) {
-    if (!(mTime[cell.ring[k]] > first) || onSideOf(k, place)) continue;
+  const RingSet reached = later & ~sideOf(place);
+  if (reached == 0 || !isSettled(ring[partner])) return;
+  const double timeA = mTime[ring[from]];
+  const double timeB = mTime[ring[partner]];
+  const Front front(mMesh->node(ring[from]), mMesh->node(ring[partner]), timeA, timeB, s);
+  if (!front.radiates()) return;
+  forEach(reached, [&](std::uint32_t k) {
     double time = 0.0;
-    const double origin = front.origin(cell.at[k], time);
-    if (origin > 0.0 && origin < front.length()) offer(cell.ring[k], time);
-  }
+    const double origin = front.origin(mMesh->node(ring[k]), time);
+    if (!(origin > 0.0 && origin < 1.0)) return;
+    // Never earlier than both ends: from every node an earlier one can be seen.
+    const double round = time - front.advance(origin, mSource.at);
+    if (round > std::min(timeA, timeB)) offer(ring[k], round);
+  });
 }
 
-void TimeField::findStep(std::uint32_t cell, const Point2D& from, double below, bool nodesOnly,
-                         Step& best) const {
-  const Around a = around(cell);
-  const auto consider = [&](double arrival, double time, const Point2D& exit, std::uint32_t node,
-                            std::uint32_t place) {
-    if (time < below && arrival < best.arrival) best = {arrival, time, {cell, exit}, node, place};
-  };
-  if (mSource.isIn(cell)) {
-    consider(a.s * distance(from, mSource.at), 0.0, mSource.at, CellMesh::kNone, 0);
+/// Calls visit(step) for the places of a cell from where a wave may come to `from`, as far as they
+/// were reached before the time `below`.
+template <typename Visit>
+void TimeField::lookAround(std::uint32_t cell, const Point2D& from, double below, bool nodesOnly,
+                           Visit visit) const {
+  const CellMesh::Ring& ring = mMesh->ring(cell);
+  const double s = (*mSlowness)[cell];
+  if (mSource.isIn(cell) && below > 0.0) {
+    visit(FieldStep{s * distance(from, mSource.at), 0.0, {cell, mSource.at}, CellMesh::kNone, 0});
   }
   for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) {
-    const double time = mTime[a.ring[k]];
-    consider(time + a.s * distance(from, a.at[k]), time, a.at[k], a.ring[k], k);
+    const double time = mTime[ring[k]];
+    if (!(time < below)) continue;
+    visit(FieldStep{time + s * distance(from, mMesh->node(ring[k])),
+                    time,
+                    {cell, mMesh->node(ring[k])},
+                    ring[k],
+                    k});
   }
   if (nodesOnly) return;
   for (std::uint32_t k = 0; k < CellMesh::kRing; ++k) {
     const std::uint32_t next = (k + 1) % CellMesh::kRing;
-    const Front front(a.at[k], a.at[next], mTime[a.ring[k]], mTime[a.ring[next]], a.s);
+    const Front front(mMesh->node(ring[k]), mMesh->node(ring[next]), mTime[ring[k]],
+                      mTime[ring[next]], s);
     if (!front.radiates()) continue;
     double arrival = 0.0;
     const double origin = front.origin(from, arrival);
-    if (!(origin > 0.0 && origin < front.length())) continue;
-    consider(arrival, front.timeAt(origin), front.at(origin), CellMesh::kNone, k);
+    if (!(origin > 0.0 && origin < 1.0)) continue;
+    const double time = front.timeAt(origin);
+    if (!(time < below)) continue;
+    visit(FieldStep{arrival, time, {cell, front.at(origin)}, CellMesh::kNone, k});
   }
 }
 
-void TimeField::descend(const SurfacePoint& receiver, std::vector<RayLeg>& legs) const {
+void TimeField::departures(const SurfacePoint& receiver, std::vector<FieldStep>& steps) const {
+  steps.clear();
+  for (const std::uint32_t cell : receiver.cells) {
+    std::array<FieldStep, 4> bySide;
+    lookAround(cell, receiver.at, kNever, false, [&](const FieldStep& step) {
+      FieldStep& best = bySide[step.place / CellMesh::kSteps];
+      if (step.arrival < best.arrival) best = step;
+    });
+    for (const FieldStep& step : bySide) {
+      if (step.arrival < kNever) steps.push_back(step);
+    }
+  }
+  std::sort(steps.begin(), steps.end(),
+            [](const FieldStep& a, const FieldStep& b) { return a.arrival < b.arrival; });
+  const double latest = steps.front().arrival * (1.0 + kRival);
+  while (steps.back().arrival > latest) steps.pop_back();
+}
+
+void TimeField::descend(const FieldStep& departure, std::vector<RayLeg>& legs) const {
   legs.clear();
-  std::vector<std::uint32_t> cells = receiver.cells;
-  Point2D from = receiver.at;
-  double below = kNever;
+  std::vector<std::uint32_t> cells;
+  FieldStep step = departure;
   // A ray that winds for so long has met a flaw of the interpolation; from node to node the times
   // fall for certain.
   const std::size_t patience = 8 * (std::size_t{mMesh->rows()} + mMesh->cols());
   while (true) {
-    Step step;
-    for (const std::uint32_t cell : cells) {
-      findStep(cell, from, below, legs.size() > patience, step);
-    }
-    if (step.arrival == kNever) {
-      // Interpolated times need not fall: on to the earlier end of the piece, which is a node.
-      for (const std::uint32_t cell : cells) {
-        findStep(cell, from, std::nextafter(below, kNever), true, step);
-      }
-    }
-    if (step.arrival == kNever) throw std::runtime_error("a ray has lost its way to the source");
     legs.push_back(step.leg);
-    if (step.time == 0.0 && step.node == CellMesh::kNone && step.leg.exit == mSource.at) return;
-    from = step.leg.exit;
-    below = step.time;
+    if (step.time == 0.0) return;
+    const Point2D from = step.leg.exit;
+    const double below = step.time;
+    const bool atNode = step.node != CellMesh::kNone;
     cells.clear();
-    if (step.node != CellMesh::kNone) {
+    if (atNode) {
       mMesh->forEachCellAt(step.node,
                            [&](std::uint32_t cell, std::uint32_t) { cells.push_back(cell); });
-      continue;
+    } else {
+      const std::uint32_t other = mMesh->beyond(step.leg.cell, step.place / CellMesh::kSteps);
+      cells.push_back(step.leg.cell);
+      if (other != CellMesh::kNone) cells.push_back(other);
     }
-    const std::uint32_t other = mMesh->beyond(step.leg.cell, step.place / CellMesh::kSteps);
-    cells.push_back(step.leg.cell);
-    if (other != CellMesh::kNone) cells.push_back(other);
+    step = {};
+    const auto choose = [&step](const FieldStep& s) {
+      if (s.arrival < step.arrival) step = s;
+    };
+    for (const std::uint32_t cell : cells) {
+      lookAround(cell, from, below, legs.size() > patience, choose);
+    }
+    if (step.arrival < kNever) continue;
+    // Interpolated times need not fall: on to the earlier end of the piece, which is a node.
+    for (const std::uint32_t cell : cells) {
+      if (!atNode) lookAround(cell, from, std::nextafter(below, kNever), true, choose);
+    }
+    if (step.arrival == kNever) throw std::runtime_error("a ray has lost its way to the source");
   }
 }
 
