@@ -2,8 +2,8 @@
 
 #include "grid/GridGeometry.h"
 #include "numerics/Splines.h"
-#include "tomo/fitted/FittedInversion.h"
 #include "tomo/fitted/FineTracer.h"
+#include "tomo/fitted/FittedInversion.h"
 
 #include <algorithm>
 #include <cmath>
@@ -58,11 +58,11 @@ struct FitLine {
 
 struct FitLineSize {
   int geophones = 24;
-  double spacing = 2.0;  ///< metres
-  int shots = 7;         ///< from end to end
-  double depth = 12.0;   ///< of the grid, metres
-  double cell = 1.0;     ///< metres
-  double sigma = 0.0005; ///< seconds
+  double spacing = 2.0;   ///< metres
+  int shots = 7;          ///< from end to end
+  double depth = 12.0;    ///< of the grid, metres
+  double cell = 1.0;      ///< metres
+  double sigma = 0.0005;  ///< seconds
 };
 
 inline FitLine fitLine(const FitLineSize& size, const TimeBetween& time, unsigned seed = 1) {

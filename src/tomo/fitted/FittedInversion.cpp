@@ -25,12 +25,20 @@ constexpr double kNearTarget = 0.05;    // of chi-square from 1
 constexpr double kGain = 0.03;          // of chi-square, that an iteration should bring
 constexpr int kPoorGains = 3;
 constexpr double kStandstill = 0.01;
+constexpr double kShortStep = 0.6;  // of a step, as a share of the whole one
+constexpr double kDampingFactor = 3.0;
+constexpr double kNearEnough = 2.0;  // chi-square from which a step may end where it crosses 1
+constexpr double kLeastChange = 1e-12;
 constexpr double kBlockyFrom = 3.0;  // chi-square below which steps of the section mean something
 
 constexpr double kLeastChi2 = 1e-12;  // stands for a perfect fit, which has no logarithm
 
 Eigen::Index index(std::size_t i) {
   return static_cast<Eigen::Index>(i);
+}
+
+bool nearTarget(double chi2) {
+  return std::fabs(chi2 - 1.0) < kNearTarget;
 }
 
 /// A section with the rays and times through it.
@@ -76,7 +84,9 @@ class FittedInversion::Fit {
   bool advance(Section& section, const std::function<bool()>& goOn);
   bool search(const Section& from, const Vector& step, double slope, double huber, Section& best,
               const std::function<bool()>& goOn);
+  double nextDamping() const;
   std::optional<FitEnd> ended();
+  bool cross(const Section& from, Section& to, const std::function<bool()>& goOn);
   FittedResult resultOf(Section best) const;
 
   const GridSize mSize;
@@ -88,8 +98,11 @@ class FittedInversion::Fit {
   Roughness mRoughness;
   StepSolver mSolver;
   Vector mReference;
-  std::vector<double> mHistory;        ///< chi-square of the start and after every iteration
-  int mPoorGains = 0;                  ///< one after the other
+  std::vector<double> mHistory;  ///< chi-square of the start and after every iteration
+  int mPoorGains = 0;            ///< one after the other
+  int mStandstills = 0;          ///< the same
+  double mLength = 1.0;          ///< of the last step, as a share of the whole one
+  double mDamping = 0.0;         ///< of the next step, as a share of the weight of the roughness
   Eigen::SparseMatrix<double> mPrior;  ///< with the weight of the roughness, of all unknowns
 };
 
@@ -200,6 +213,7 @@ LinearStep FittedInversion::Fit::linearize(const Section& section, double huber)
   problem.gradient = -(problem.jacobian.transpose() * residuals);
   problem.gradient -= mPrior * (section.unknowns - mReference);
   problem.shifts = mShifts;
+  problem.prior *= 1.0 + mDamping;
   const double least = -std::log(mOptions.maxVelocity);
   const double most = -std::log(mOptions.minVelocity);
   problem.held.resize(static_cast<std::size_t>(mCells));
@@ -217,7 +231,7 @@ bool FittedInversion::Fit::search(const Section& from, const Vector& step, doubl
                                   double huber, Section& best, const std::function<bool()>& goOn) {
   const double before = objective(from, huber);
   const double largest = step.head(mCells).cwiseAbs().maxCoeff();
-  double length = std::min(1.0, kLargestChange / std::max(largest, 1e-12));
+  double length = std::min(1.0, kLargestChange / std::max(largest, kLeastChange));
   double least = std::numeric_limits<double>::infinity();
   for (int tries = 0; tries < kTries; ++tries) {
     Section there;
@@ -230,12 +244,39 @@ bool FittedInversion::Fit::search(const Section& from, const Vector& step, doubl
       least = value;
       best = std::move(there);
     }
-    if (value < before) return true;
+    if (value < before) {
+      mLength = length;
+      return true;
+    }
     const double bottom = bend > 0.0 ? -0.5 * slope * length * length / bend : 0.5 * length;
     length = std::clamp(bottom, 0.1 * length, 0.5 * length);
   }
+  mLength = 0.0;
   // Rays jump where others overtake them; a section that no try improves stays as it is.
   best = from;
+  return true;
+}
+
+/// Where a step from one section to the next goes past a chi-square of 1, it ends there: between
+/// the two the times change steadily. Not so with steps from far away, whose ends alone are what
+/// picks and roughness ask for. \return false when it was stopped
+bool FittedInversion::Fit::cross(const Section& from, Section& to,
+                                 const std::function<bool()>& goOn) {
+  const double farthest = std::log(kNearEnough);
+  Section low = from;
+  if (from.distance() > farthest || (from.fit.chi2 > 1.0) == (to.fit.chi2 > 1.0)) return true;
+  for (int tries = 0; tries < kTries && !nearTarget(to.fit.chi2); ++tries) {
+    const double a = std::log(std::max(low.fit.chi2, kLeastChi2));
+    const double b = std::log(std::max(to.fit.chi2, kLeastChi2));
+    Section there;
+    there.unknowns = low.unknowns + (a / (a - b)) * (to.unknowns - low.unknowns);
+    if (!evaluate(there, goOn)) return false;
+    if ((there.fit.chi2 > 1.0) == (low.fit.chi2 > 1.0) && !nearTarget(there.fit.chi2)) {
+      low = std::move(there);
+    } else {
+      to = std::move(there);
+    }
+  }
   return true;
 }
 
@@ -254,6 +295,7 @@ bool FittedInversion::Fit::advance(Section& section, const std::function<bool()>
   }
   Section next;
   if (!search(section, step, -2.0 * problem.gradient.dot(step), huber, next, goOn)) return false;
+  if (!cross(section, next, goOn)) return false;
   next.lambda = section.lambda;
   section = std::move(next);
   return true;
@@ -308,14 +350,23 @@ Message FittedInversion::Fit::invalid() const {
   return {};
 }
 
+/// Steps that had to be cut short were too rough for rays that bend with the section. A damping of
+/// their roughness keeps their length where a mere cut would take it from all of the step alike.
+double FittedInversion::Fit::nextDamping() const {
+  if (mLength < kShortStep) return std::max(1.0, mDamping * kDampingFactor);
+  return mDamping > 0.5 ? mDamping / kDampingFactor : 0.0;
+}
+
 /// Why a fit ends after its last iteration; none: it goes on.
 std::optional<FitEnd> FittedInversion::Fit::ended() {
   const double chi2 = mHistory.back();
   const double before = mHistory[mHistory.size() - 2];
   mPoorGains = chi2 > 1.0 && chi2 > before * (1.0 - kGain) ? mPoorGains + 1 : 0;
-  if (std::fabs(chi2 - 1.0) < kNearTarget) return FitEnd::kTarget;
+  if (nearTarget(chi2)) return FitEnd::kTarget;
   if (mPoorGains == kPoorGains) return FitEnd::kNoGain;
-  if (chi2 < 1.0 && std::fabs(chi2 - before) < kStandstill * before) return FitEnd::kFitsBetter;
+  mStandstills =
+      chi2 < 1.0 && std::fabs(chi2 - before) < kStandstill * before ? mStandstills + 1 : 0;
+  if (mStandstills == kPoorGains) return FitEnd::kFitsBetter;
   if (mHistory.size() > static_cast<std::size_t>(mOptions.mostIterations)) {
     return FitEnd::kIterations;
   }
@@ -347,6 +398,8 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
     section.iteration = static_cast<int>(mHistory.size()) - 1;
     if (section.distance() < best.distance()) best = section;
     tell();
+    if (mDamping > 0.0 && section.fit.chi2 < 1.0) lambda.restart(section.lambda * (1.0 + mDamping));
+    mDamping = nextDamping();
     end = ended();
     lambda.tell(std::max(section.fit.chi2, kLeastChi2));
   }

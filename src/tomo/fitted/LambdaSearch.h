@@ -14,6 +14,8 @@ class LambdaSearch {
   double lambda() const { return mLambda; }
   /// \param chi2 what the iteration with lambda() has come to, positive
   void tell(double chi2);
+  /// Takes another weight for that of the last iteration. To be followed by tell().
+  void restart(double lambda) { mLambda = lambda; }
 
  private:
   struct Point {
@@ -24,7 +26,9 @@ class LambdaSearch {
   double mLambda;
   std::optional<Point> mAbove;  ///< the last iteration with a chi-square above 1
   std::optional<Point> mBelow;
-  std::optional<bool> mLastAbove;
+  bool mLastAbove = true;
+  int mRepeats = 0;         ///< iterations on one side of 1, but the first
+  bool mBracketed = false;  ///< chi-square was on either side of 1
 };
 
 }  // namespace talvesk
