@@ -48,7 +48,8 @@ TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool wi
   curve.record = index;
   for (const std::size_t i : order) {
     if (i >= record.ttMisurati.size() || !isDrawableTime(record.ttMisurati[i])) continue;
-    curve.picks.push_back({i, {positions[i].x, 1e3 * record.ttMisurati[i]}});
+    curve.picks.push_back(
+        {i, {positions[i].x, 1e3 * record.ttMisurati[i]}, 1e3 * record.errorOf(i)});
   }
   curve.measuredLines = linesThrough(record.ttMisurati, order, positions);
   if (withComputed) curve.computedLines = linesThrough(record.ttCalcolati, order, positions);
@@ -67,6 +68,7 @@ void takeInTimes(TravelTimeCurves& result, const TravelTimeCurve& curve) {
   for (const auto& pick : curve.picks) {
     takeIn(result, pick.point, result.picks + result.computedTimes == 0);
     ++result.picks;
+    if (pick.errorMs > 0.0) ++result.errors;
   }
   for (const auto& line : curve.computedLines) {
     for (const Point2D& p : line) {
