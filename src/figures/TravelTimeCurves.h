@@ -36,7 +36,7 @@ struct TravelTimeCurves {
   std::size_t computedTimes = 0;
   double low = 0.0;  ///< metres, all receivers of the curves and shots; 0 without a time
   double high = 0.0;
-  double latestMs = 0.0;  ///< milliseconds; errors do not count
+  double latestMs = 0.0;  ///< milliseconds, with some room for error bars
 };
 
 /// Removed and missing times leave a gap. Receiver positions are those of the record's geophone
