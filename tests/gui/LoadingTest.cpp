@@ -375,6 +375,9 @@ TEST_F(Loading, showsWhatAFileHolds) {
     EXPECT_EQ(dialog.findChild<QLabel*>("intervalValue")->text().toStdString(), "0.25 ms");
     const auto* table = dialog.findChild<QTableWidget*>("tracesTable");
     ASSERT_EQ(table->rowCount(), 12);
+    const QRect mends = dialog.findChild<QLabel*>("mendsValue")->geometry();
+    EXPECT_FALSE(mends.intersects(dialog.findChild<QLabel*>("droppedValue")->geometry()));
+    EXPECT_FALSE(mends.intersects(dialog.findChild<QComboBox*>("fileCBox")->geometry()));
     EXPECT_EQ(table->item(3, 1)->text().toStdString(), "16");
     EXPECT_EQ(table->item(3, 8)->text().toStdString(), "12.50");
     EXPECT_EQ(table->item(3, 9)->text().toStdString(), "1.50");
