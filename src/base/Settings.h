@@ -26,6 +26,7 @@ class Settings {
   bool showAllTraces = false;     ///< show all traces
   bool twoColors = false;         ///< wiggles in two colours
   bool savePngHColorbar = false;  ///< horizontal colour bar in saved pictures
+  bool errorBars = true;          ///< over picks whose error is known
   /// What the steps of undo may cost, MB; kLeastUndo to kMostUndo.
   int undoMegabytes = 512;
   static constexpr int kLeastUndo = 16;

@@ -7,6 +7,7 @@
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
 #include "model/Mending.h"
+#include "model/PickGrades.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -49,12 +50,30 @@ Json stringsJson(const std::vector<std::vector<Point2D>>& strings) {
   return list;
 }
 
+/// Null where it is not known, milliseconds.
+Json errorsJson(const TravelTime& record) {
+  Json errors = Json::array();
+  for (std::size_t trace = 0; trace < record.ttMisurati.size(); ++trace) {
+    const double sigma = record.errorOf(trace);
+    errors.push_back(sigma > 0.0 ? Json(1e3 * sigma) : Json(nullptr));
+  }
+  return errors;
+}
+
+void putGrades(Json& json, const PickGrades& grades) {
+  json["picks_good"] = grades.good;
+  json["picks_doubtful"] = grades.doubtful;
+  json["picks_of_unknown_error"] = grades.unknown;
+}
+
 Json recordJson(const TravelTime& record) {
   Json shot = Json::object();
   shot["position"] = pointJson(record.shotPos2d);
   shot["string"] = record.indexStesa;
   shot["trace_set"] = record.traceSetID;
   shot["times"] = record.ttMisurati;
+  shot["errors_ms"] = errorsJson(record);
+  putGrades(shot, gradesOf(record));
   return shot;
 }
 
@@ -133,6 +152,12 @@ Json sectionTimesJson(const TomoDocument& document) {
   Json times = Json::array();
   for (const TravelTime& record : document.ttArray) times.push_back(record.ttCalcolati);
   return times;
+}
+
+Json pickErrorsJson(const TomoDocument& document) {
+  Json errors = Json::array();
+  for (const TravelTime& record : document.ttArray) errors.push_back(errorsJson(record));
+  return errors;
 }
 
 Json tracesJson(const ShotFileData& data, bool samples) {
@@ -214,6 +239,8 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   putSectionMisfit(json, result.sectionMisfit);
   json["section_history"] = sectionHistoryJson(document.result->sectionHistory);
   json["section_times"] = sectionTimesJson(document);
+  json["errors_ms"] = pickErrorsJson(document);
+  putGrades(json, gradesOf(document.ttArray));
   json["computing_s"] = result.computingSeconds;
   return linePerKey(json) + "\n";
 }

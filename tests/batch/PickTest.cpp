@@ -60,6 +60,22 @@ TEST_F(Picking, goesAlongTheLineWhenAskedTo) {
     picks += shot["accepted"].get<std::size_t>();
   }
   EXPECT_GT(picks, 30U);
+  std::size_t good = 0;
+  std::size_t doubtful = 0;
+  for (const auto& shot : json["shots"]) {
+    for (std::size_t i = 0; i < shot["times"].size(); ++i) {
+      EXPECT_EQ(shot["errors_ms"][i].is_null(), shot["times"][i] < 0.0) << i;
+      if (shot["errors_ms"][i].is_null()) continue;
+      EXPECT_GE(shot["errors_ms"][i], 0.1);
+      EXPECT_LE(shot["errors_ms"][i], 6.0);
+      ++(shot["errors_ms"][i] <= 2.5 ? good : doubtful);
+    }
+    EXPECT_EQ(shot["picks_of_unknown_error"], 0);
+    good -= shot["picks_good"].get<std::size_t>();
+    doubtful -= shot["picks_doubtful"].get<std::size_t>();
+  }
+  EXPECT_EQ(good, 0U) << "as many as each shot says";
+  EXPECT_EQ(doubtful, 0U);
   const Outcome unknown = pick({"-o", mFolder / "out.otte", "--method", "best"});
   EXPECT_NE(unknown.code, 0);
   EXPECT_THAT(unknown.err, HasSubstr("'best' is none of single, joint"));
@@ -75,9 +91,10 @@ TEST_F(Picking, writesThePicksThatItTellsOf) {
   std::string keys;
   for (const auto& item : json.items()) keys += item.key() + " ";
   for (const auto& item : json["shots"][0].items()) keys += item.key() + " ";
-  EXPECT_EQ(keys,
-            "filter strings shots position string trace_set times file samples_before_shot "
-            "accepted rejected ");
+  EXPECT_EQ(
+      keys,
+      "filter strings shots position string trace_set times errors_ms picks_good picks_doubtful "
+      "picks_of_unknown_error file samples_before_shot accepted rejected ");
   const ordered_json written =
       ordered_json::parse(runBatch({"info", mFolder / "out.otte", "--json", "-"}).out);
   EXPECT_EQ(written["strings"], json["strings"]);
@@ -94,6 +111,8 @@ TEST_F(Picking, writesThePicksThatItTellsOf) {
     }
     EXPECT_EQ(json["shots"][shot]["accepted"], picks);
     EXPECT_EQ(json["shots"][shot]["rejected"], 13 - picks);
+    EXPECT_EQ(json["shots"][shot]["errors_ms"], ordered_json(std::vector<std::nullptr_t>(13)));
+    EXPECT_EQ(json["shots"][shot]["picks_of_unknown_error"], picks);
     accepted += picks;
   }
   EXPECT_GT(accepted, 30U);

@@ -1,4 +1,5 @@
 #include "gui/WindowTest.h"
+#include "model/PickGrades.h"
 #include "model/Recordings.h"
 #include "support/ShotDocument.h"
 #include "widgets/traces/editTravelTimesWidget.h"
@@ -80,6 +81,46 @@ TEST_F(Processing, picksAlongTheLineAndLeavesWhatAPersonPicked) {
               ::testing::HasSubstr("AutoPick along the line"));
   action("actionUndo").trigger();
   EXPECT_EQ(picksOf(0) + picksOf(2), 0);
+}
+
+TEST_F(Processing, gradesThePicksAlongTheLineByTheirErrors) {
+  action("actionAutoPick_line").trigger();
+  const PickGrades grades = gradesOf(window->document().ttArray[0]);
+  ASSERT_GT(grades.good + grades.doubtful, 6U);
+  EXPECT_EQ(grades.unknown, 0U);
+  const std::string told = child<QStatusBar>("statusBar").currentMessage().toStdString();
+  EXPECT_THAT(told, ::testing::HasSubstr(std::to_string(grades.good) + " have a pick"));
+  EXPECT_THAT(told, ::testing::HasSubstr(std::to_string(grades.doubtful) + " a doubtful one"));
+}
+
+TEST_F(Processing, setsErrorsByKeyAndMenuAndTellsThem) {
+  auto& view = child<editTravelTimesWidget>("showTracesWidget");
+  const auto& read = child<QLabel>("cursorLabel");
+  const SharedVector<TravelTime>& records = window->document().ttArray;
+  view.editPick(0, 3, 0.05);
+  view.editPick(0, 4, 0.05);
+  view.setCurrentTrace(2);
+  QTest::keyClick(&view, Qt::Key_Right);
+  EXPECT_THAT(read.text().toStdString(), ::testing::HasSubstr("Error \u2013 ms"));
+  EXPECT_TRUE(action("actionError_unknown").isChecked());
+  QTest::keyClick(&view, Qt::Key_1);
+  EXPECT_THAT(read.text().toStdString(), ::testing::HasSubstr("Error 0.50 ms"));
+  EXPECT_TRUE(action("actionError_05").isChecked()) << "that is what further picks get";
+  EXPECT_EQ(action("actionUndo").text().toStdString(), "Undo \"Set error of pick\"");
+
+  view.selectTraces(3, 4);
+  const std::pair<const char*, double> commands[] = {{"actionError_1", 0.001},
+                                                     {"actionError_25", 0.0025},
+                                                     {"actionError_5", 0.005},
+                                                     {"actionError_unknown", 0.0},
+                                                     {"actionError_05", 0.0005}};
+  for (const auto& [name, sigma] : commands) {
+    action(name).trigger();
+    EXPECT_DOUBLE_EQ(records[0].errorOf(3), sigma) << name;
+    EXPECT_DOUBLE_EQ(records[0].errorOf(4), sigma) << name;
+  }
+  action("actionUndo").trigger();
+  EXPECT_EQ(records[0].errorOf(4), 0.0);
 }
 
 TEST_F(Processing, tellsOfTheShotInViewAndOnlyBesideItsTraces) {

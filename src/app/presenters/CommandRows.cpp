@@ -128,7 +128,7 @@ Rows shotRows(Desk& desk, Presenters& p) {
   };
 }
 
-Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
+Rows traceViewRows(Desk& desk, Presenters& p) {
   TraceOptionsPresenter& view = p.traceOptions;
   using Options = TraceViewOptions;
   const auto setting = [&view](const char* object, bool Settings::*what) {
@@ -155,9 +155,20 @@ Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
                    nullptr,
                    "snap"};
   };
+  editTravelTimesWidget& traces = *desk.ui.showTracesWidget;
+  const auto error = [&traces](const char* object, std::size_t key) {
+    const double sigma = 1e-3 * kKeyErrors[key];
+    return Command{object,
+                   &State::recordInView,
+                   call(traces, &editTravelTimesWidget::setPickErrors, sigma),
+                   [sigma](const State& state) { return state.traceView.pickError == sigma; },
+                   nullptr,
+                   "error"};
+  };
   return {
       setting("actionFill_wiggle", &Settings::fillWiggle),
       setting("actionTwo_colors", &Settings::twoColors),
+      setting("actionError_bars", &Settings::errorBars),
       setting("actionCut_horizontal", &Settings::cutHorizontal),
       setting("actionZoom_in", &Settings::zoomIn),
       setting("actionShow_filtered", &Settings::showFiltered),
@@ -176,6 +187,11 @@ Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
       snap("actionSnap_onset", PickSnap::Onset),
       snap("actionSnap_zero", PickSnap::ZeroCrossing),
       snap("actionSnap_peak", PickSnap::Peak),
+      error("actionError_unknown", 0),
+      error("actionError_05", 1),
+      error("actionError_1", 2),
+      error("actionError_25", 3),
+      error("actionError_5", 4),
       {"show_filtered_cb", &State::filteredCopy,
        turn(view, &TraceOptionsPresenter::setSetting, &Settings::showFiltered),
        [](const State& state) { return state.filteredCopy && state.settings.showFiltered; }},

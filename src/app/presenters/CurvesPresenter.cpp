@@ -59,6 +59,7 @@ void CurvesPresenter::exportPicture() {
   if (file.isEmpty()) return;
   TravelTimeFigureOptions options;
   options.computed = mDesk.ui.travelTimeCurves->showsComputed();
+  options.errorBars = mDesk.ui.travelTimeCurves->showsErrorBars();
   if (const Status status = writeTravelTimeFigure(mDesk.document(), options, file.toStdString());
       !status.ok()) {
     mDesk.tellFailure(tr("The picture has not been saved."), status);

@@ -16,7 +16,8 @@ struct TraceColors {
   QColor positive;  ///< filled lobes
   QColor negative;  ///< filled lobes of the other sign, in two colours
   QColor pick;
-  QColor halo;  ///< around picks, so that they show on filled lobes
+  QColor doubtful;  ///< error bar of a pick that is not sure
+  QColor halo;      ///< around picks, so that they show on filled lobes
   QColor otherPicks;
   QColor computed;
   QColor airWave;

@@ -4,6 +4,7 @@
 #include "widgets/traces/TraceViewOptions.h"
 
 #include <QWidget>
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -17,7 +18,8 @@ class TomoDocument;
 struct ViewWindow;
 
 /// What the left mouse button does. Whatever the tool, Ctrl + left drag zooms to a rectangle,
-/// Shift + left drag selects traces, and the right button removes picks.
+/// Shift + left drag selects traces, Ctrl + Shift + left drag pulls the error bar of a pick, and
+/// the right button removes picks.
 enum class TraceTool {
   Pick,   ///< click sets, drag moves, drag across traces draws a run
   Zoom,   ///< drag a rectangle; a click zooms in
@@ -25,6 +27,9 @@ enum class TraceTool {
   Ruler,  ///< drag a line and read its apparent velocity
   Select  ///< drag over the traces to confirm or clear together
 };
+
+/// The errors that the keys 0 to 4 give picks, milliseconds; 0: not known.
+inline constexpr std::array<double, 5> kKeyErrors = {0.0, 0.5, 1.0, 2.5, 5.0};
 
 /// The traces of one shot, time downward, with its first breaks to be picked by mouse and keys.
 ///
@@ -36,7 +41,8 @@ enum class TraceTool {
 /// The view is moved with the gestures of all plots, see PlotGestures. Keys beside those: Left and
 /// Right walk along the traces (Shift selects), Home and End go to the first and the last; Up and
 /// Down move the pick by a sample (Shift 10 samples, Ctrl 1 ms); Return sets a pick like that of
-/// the neighbour; Delete removes, C confirms; [ and ] change the gain, as the wheel does with Alt;
+/// the neighbour; Delete removes, C confirms; 1 to 4 give the errors of kKeyErrors and 0
+/// takes them away; [ and ] change the gain, as the wheel does with Alt;
 /// M magnifier, R ruler, Escape gives up. H shows the opening view. A double click with the tool
 /// Pick picks twice, and shows not everything.
 class editTravelTimesWidget : public QWidget {
@@ -110,7 +116,10 @@ class editTravelTimesWidget : public QWidget {
   void zoomForward();
 
   /// Over the selected traces, or the current one without a selection.
-  void confirmPicks();            ///< automatic picks become the user's own
+  void confirmPicks();  ///< automatic picks become the user's own
+  /// Seconds, 0: not known. Picks that are set or dragged afterwards get it as well, and where no
+  /// trace of these has a pick it is only for those.
+  void setPickErrors(double sigma);
   void removePicks();             ///< of whatever origin
   void removeUnconfirmedPicks();  ///< automatic ones that nobody confirmed
 

@@ -70,7 +70,7 @@ bool editTravelTimesWidget::State::pickKey(const QKeyEvent& event) {
       confirmRange();
       return true;
     default:
-      return false;
+      return errorKey(event);
   }
 }
 

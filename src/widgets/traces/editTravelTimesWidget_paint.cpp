@@ -77,6 +77,7 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
   }
   if (!options.showOnlyTraces && document != nullptr) {
     paintGuides(painter, scene(), map, *document);
+    if (options.errorBars) paintErrorBars(painter, scene(), map, stroke.times(), pulled);
     paintPicks(painter, scene(), map, stroke.times());
   }
   painter.restore();
@@ -113,7 +114,7 @@ void editTravelTimesWidget::State::paintLive(QPainter& painter) {
   }
   paintCrosshair(painter, scene(), map, hoverTrace, map.timeAt(hover->y()));
   if (options.magnifier && atWork != selectTool.get()) {
-    paintMagnifier(painter, scene(), map, stroke.times(),
+    paintMagnifier(painter, scene(), map, stroke.times(), pulled,
                    {map.positionAt(hover->x()), map.timeAt(hover->y())});
   }
 }

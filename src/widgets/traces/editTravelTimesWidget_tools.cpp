@@ -149,6 +149,7 @@ editTravelTimesWidget::State::State(editTravelTimesWidget& owner)
       zoomTool(std::make_unique<BandTool>(
           gestures, [this](const QPointF& at) { gestures.zoomAbout(at, kClickZoom, kClickZoom); })),
       rulerTool(std::make_unique<RulerTool>(*this)),
-      selectTool(std::make_unique<SelectTool>(*this)) {}
+      selectTool(std::make_unique<SelectTool>(*this)),
+      errorTool(makeErrorTool()) {}
 
 }  // namespace talvesk
