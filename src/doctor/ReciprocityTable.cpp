@@ -15,8 +15,9 @@
 namespace talvesk::doctor {
 namespace {
 
-constexpr double kStandsOut = 4.0;         // standard deviations
-constexpr double kNormal = 1.4826;         // median of magnitudes to standard deviation
+constexpr double kStandsOut = 4.0;  // standard deviations
+constexpr double kNormal = 1.4826;  // median of magnitudes to standard deviation
+constexpr int kRounds = 3;
 constexpr double kFinestPick = 1e-5;       // seconds: what two picks may always differ by
 constexpr std::size_t kTogether = 256;     // shots: the work grows with the third power
 constexpr std::ptrdiff_t kAlongCurve = 3;  // picks beyond the last one that give its slope
@@ -39,9 +40,8 @@ struct Curve {
 /// What a curve has at the place of another shot.
 struct End {
   Pick nearest;
-  double beyond = 0.0;  ///< seconds to add: the place lies past the last pick
-  bool acrossShot =
-      false;  ///< between picks on both sides of the shot, where the curve turns round
+  double beyond = 0.0;      ///< seconds to add: the place lies past the last pick
+  bool acrossShot = false;  ///< the shot stands there itself, where its curve turns round
 };
 
 std::vector<Curve> curvesOf(const TomoDocument& document) {
@@ -87,18 +87,24 @@ End endAt(const Curve& curve, double x) {
   const auto right =
       std::lower_bound(curve.picks.begin(), curve.picks.end(), x,
                        [](const Pick& pick, double value) { return pick.x < value; });
+  const bool first = right == curve.picks.begin();
+  const bool past = right == curve.picks.end();
   End end;
-  if (right == curve.picks.end()) {
-    end.nearest = curve.picks.back();
-    end.beyond = pastTheEnd(curve, curve.picks.size() - 1, -1, x);
-  } else if (right == curve.picks.begin() || right->x == x) {
+  double from = x;  // the curve is read between here and `to`
+  double to = x;
+  if (past || (first && right->x > x)) {
+    end.nearest = past ? curve.picks.back() : curve.picks.front();
+    end.beyond =
+        past ? pastTheEnd(curve, curve.picks.size() - 1, -1, x) : pastTheEnd(curve, 0, 1, x);
+    (past ? from : to) = end.nearest.x;
+  } else if (right->x == x) {
     end.nearest = *right;
-    if (right->x != x) end.beyond = pastTheEnd(curve, 0, 1, x);
   } else {
-    const Pick& left = *(right - 1);
-    end.nearest = x - left.x <= right->x - x ? left : *right;
-    end.acrossShot = left.x < curve.source && curve.source < right->x;
+    from = (right - 1)->x;
+    to = right->x;
+    end.nearest = x - from <= to - x ? *(right - 1) : *right;
   }
+  end.acrossShot = x == curve.source || (from < curve.source && curve.source < to);
   return end;
 }
 
@@ -193,9 +199,20 @@ std::vector<ClockShift> adjust(const Group& group, double scatter,
   return clockShifts(std::vector<ClockBounds>(group.shots.size()), pairs);
 }
 
-double scatterOf(std::vector<double> off) {
-  for (double& value : off) value = std::fabs(value);
-  return std::max(kNormal * medianOf(std::move(off), 0.0), kFinestPick);
+/// What differences scatter by, from what is left of them. As many as there are shifts can be
+/// fitted to the last bit and tell nothing: the median of the others does (R. Koenker, 2005,
+/// Quantile Regression).
+double scatterOf(std::vector<double> left, std::size_t shifts) {
+  for (double& value : left) value = std::fabs(value);
+  std::sort(left.begin(), left.end());
+  left.erase(left.begin(), left.begin() + static_cast<std::ptrdiff_t>(shifts));
+  return std::max(kNormal * medianOf(std::move(left), 0.0), kFinestPick);
+}
+
+double rmsOf(const std::vector<ReciprocalTimes>& pairs) {
+  double squares = 0.0;
+  for (const ReciprocalTimes& pair : pairs) squares += pair.difference() * pair.difference();
+  return pairs.empty() ? 0.0 : std::sqrt(squares / static_cast<double>(pairs.size()));
 }
 
 /// The shifts of a group beside the median of them; none where each pair is needed to know one.
@@ -204,17 +221,20 @@ std::vector<ClockShift> shiftsOf(const Group& group) {
   if (group.pairs.size() <= known) return {};
   std::map<std::size_t, std::size_t> place;
   for (std::size_t i = 0; i < group.shots.size(); ++i) place[group.shots[i]] = i;
-  std::vector<double> off;
-  for (const ReciprocalTimes& pair : group.pairs) off.push_back(pair.difference());
-  std::vector<ClockShift> shifts = adjust(group, scatterOf(off), place);
-  for (std::size_t i = 0; i < off.size(); ++i) {
-    const ReciprocalTimes& pair = group.pairs[i];
-    off[i] -= shifts[place[pair.first]].seconds - shifts[place[pair.second]].seconds;
+  // From everything being possible down to what the pairs bear out: what is dropped at first as
+  // contradicting the rest never comes back.
+  double scatter = std::max(rmsOf(group.pairs), kFinestPick);
+  std::vector<ClockShift> shifts;
+  for (int round = 0; round < kRounds; ++round) {
+    shifts = adjust(group, scatter, place);
+    std::vector<double> left;
+    for (const ReciprocalTimes& pair : group.pairs) {
+      const double fitted = shifts[place[pair.first]].seconds - shifts[place[pair.second]].seconds;
+      left.push_back(pair.difference() - fitted);
+    }
+    scatter = std::min(scatter, scatterOf(std::move(left), known));
   }
-  // What the shifts were fitted to is closer to them than the truth is.
-  const auto count = static_cast<double>(off.size());
-  const double freedom = std::sqrt(count / (count - static_cast<double>(known)));
-  shifts = adjust(group, freedom * scatterOf(off), place);
+  shifts = adjust(group, scatter, place);
   std::vector<double> all;
   for (const ClockShift& shift : shifts) all.push_back(shift.seconds);
   const double usual = medianOf(all, 0.0);
@@ -235,19 +255,16 @@ void judge(const TomoDocument& document, std::size_t shot, const ClockShift& shi
 }
 
 void sumUp(ReciprocityTable& table) {
-  double all = 0.0;
   for (const ReciprocalTimes& pair : table.pairs) {
-    const double square = pair.difference() * pair.difference();
-    all += square;
     for (const std::size_t shot : {pair.first, pair.second}) {
-      table.shots[shot].rms += square;
+      table.shots[shot].rms += pair.difference() * pair.difference();
       ++table.shots[shot].pairs;
     }
   }
   for (ShotReciprocity& shot : table.shots) {
     if (shot.pairs > 0) shot.rms = std::sqrt(shot.rms / static_cast<double>(shot.pairs));
   }
-  if (!table.pairs.empty()) table.rms = std::sqrt(all / static_cast<double>(table.pairs.size()));
+  table.rms = rmsOf(table.pairs);
 }
 
 }  // namespace
