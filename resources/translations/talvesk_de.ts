@@ -1661,7 +1661,7 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Schüsse an derselben Stelle mit denselben Geophonen; gezeigt und gepickt wird der Mittelwert ihrer Abtastwerte</translation>
     </message>
     <message>
-        <source>Disable &amp;the shots that it is stacked with</source>
+        <source>Dis&amp;able the shots that it is stacked with</source>
         <translation>Die &amp;mitgestapelten Schüsse deaktivieren</translation>
     </message>
     <message>

@@ -1661,7 +1661,7 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Disparos del mismo punto y los mismos geófonos; se muestra y se pica la media de sus muestras</translation>
     </message>
     <message>
-        <source>Disable &amp;the shots that it is stacked with</source>
+        <source>Dis&amp;able the shots that it is stacked with</source>
         <translation>Desactivar los disparos con los &amp;que se apila</translation>
     </message>
     <message>

@@ -1661,7 +1661,7 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Tirs au même endroit et aux mêmes géophones&#xa0;; la moyenne de leurs échantillons est affichée et pointée</translation>
     </message>
     <message>
-        <source>Disable &amp;the shots that it is stacked with</source>
+        <source>Dis&amp;able the shots that it is stacked with</source>
         <translation>Désactiver les &amp;tirs avec lesquels il est sommé</translation>
     </message>
     <message>

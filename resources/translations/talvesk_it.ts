@@ -1661,7 +1661,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Tiri con stessa posizione e stessi geofoni; si mostra la media dei campioni, e su di essa si segnano i primi arrivi</translation>
     </message>
     <message>
-        <source>Disable &amp;the shots that it is stacked with</source>
+        <source>Dis&amp;able the shots that it is stacked with</source>
         <translation>Disattiva &amp;i tiri con cui è sommato</translation>
     </message>
     <message>

@@ -67,13 +67,14 @@ Status carryOut(const Finding& finding, Survey& survey) {
   return status;
 }
 
-/// Carries out what is proposed and looks again, until nothing is. \return what is left
+/// Carries out what is proposed and sure, and looks again, until nothing is. \return what is left
 Findings mend(Findings findings, const CheckOptions& options, std::ostream& out, Survey& survey) {
+  const auto isSure = [&](const Finding& finding) { return doctor::isSure(finding, options.sure); };
   std::size_t done = 0;
   for (int round = 0; round < kMostRounds; ++round) {
-    if (std::none_of(findings.begin(), findings.end(), isProposed)) break;
+    if (std::none_of(findings.begin(), findings.end(), isSure)) break;
     for (const Finding& finding : findings) {
-      if (!finding.proposal) continue;
+      if (!isSure(finding)) continue;
       const Status status = carryOut(finding, survey);
       if (status.ok()) {
         ++done;
@@ -86,6 +87,12 @@ Findings mend(Findings findings, const CheckOptions& options, std::ostream& out,
     tell(findings, survey.document, out);
   }
   out << done << (done == 1 ? " proposal" : " proposals") << " carried out.\n";
+  const auto left = std::count_if(findings.begin(), findings.end(), isProposed);
+  if (left > 0) {
+    out << left << (left == 1 ? " proposal is" : " proposals are") << " left that "
+        << (left == 1 ? "was" : "were") << " less than " << options.sure
+        << " % sure, or could not be carried out; --sure P carries out less sure ones.\n";
+  }
   const Status counted = countFromShot(options.shots, out, survey);
   if (!counted.ok()) warn(counted.message());
   return findings;

@@ -82,9 +82,12 @@ void addCheck(CLI::App& app, CheckOptions& check) {
       "Write the findings as JSON, shots and traces from 0, metres and seconds; '-' is standard "
       "output");
   mustEndIn(addPath(command, "--mend", check.project,
-                    "Carry out all proposals, check again until nothing is proposed, and save the "
+                    "Carry out the proposals, check again until nothing is proposed, and save the "
                     "mended survey as a project named *.tvsk"),
             {".tvsk"}, false);
+  addParameter(command, parameters::kSureMend, "PERCENT",
+               meaningOf(parameters::kSureMend) + defaultOf(parameters::kSureMend),
+               [&check](double value) { check.sure = value; });
   command.add_flag("--strict", check.strict,
                    "End with exit code 3 when something is proposed, or left after --mend");
   command.add_flag("--quiet", check.quiet, kQuietHelp);

@@ -78,7 +78,8 @@ struct CheckOptions {
   std::string input;  ///< project; none: shot files
   ShotOptions shots;
   std::string json;
-  std::string project;  ///< to save the mended survey in
+  std::string project;                          ///< to save the mended survey in
+  double sure = parameters::kSureMend.initial;  ///< percent, of proposals to carry out
   bool strict = false;  ///< what is left with a proposal makes an exit code of its own
   bool quiet = false;
 };

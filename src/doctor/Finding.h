@@ -68,4 +68,9 @@ struct Finding {
   std::vector<Point2D> expected;
 };
 
+/// Whether it proposes something and is that sure of it, percent.
+inline bool isSure(const Finding& finding, double percent) {
+  return finding.proposal && 100.0 * finding.confidence >= percent;
+}
+
 }  // namespace talvesk::doctor

@@ -101,6 +101,11 @@ inline constexpr Parameter<double> kWorstPick = {
 /// Up to this a pick is good, ms.
 inline constexpr FixedNumber kGoodPick = {"good-pick", 2.5};
 
+/// How sure a proposal to mend a recording must be, to be carried out unless the user says
+/// otherwise.
+inline constexpr Parameter<double> kSureMend = {
+    "sure", 80.0, {0.0, 100.0}, "percent", "How sure a proposal must be to be carried out"};
+
 // The layered interpretation.
 inline constexpr Parameter<int> kXY = {
     "xy",

@@ -68,6 +68,22 @@ TEST(Check, endsWithACodeOfItsOwnOnlyWhenAskedTo) {
   EXPECT_EQ(sound.code, 0) << sound.out;
 }
 
+TEST(Check, leavesProposalsThatAreNotSure) {
+  const Folder folder;
+  std::vector<std::string> files;
+  for (const double x : {-1.0, 11.0, 25.0}) {
+    WrittenShot record = smallShot(x);
+    for (float& sample : record.traces[4]) sample = -sample;
+    files.push_back(folder.write("at" + std::to_string(files.size()) + ".sg2", formatSeg2(record)));
+  }
+  const auto mended = [&](const char* sure) {
+    return runBatch(arguments(files, {"--mend", folder / "mended.tvsk", "--sure", sure})).out;
+  };
+  EXPECT_THAT(mended("100"), HasSubstr("0 proposals carried out."));
+  EXPECT_THAT(mended("100"), HasSubstr("left that were less than 100 % sure"));
+  EXPECT_THAT(mended("1"), Not(HasSubstr("0 proposals carried out.")));
+}
+
 TEST(Check, mendsIntoAProjectThatHasNothingLeftToMend) {
   const Folder folder;
   const std::string project = folder / "mended.tvsk";

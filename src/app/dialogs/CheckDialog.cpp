@@ -3,6 +3,7 @@
 #include "app/MessageText.h"
 #include "app/dialogs/GeometryTexts.h"
 #include "doctor/FindingTexts.h"
+#include "model/Parameters.h"
 #include "model/SurveyGeometry.h"
 #include "ui_CheckDialog.h"
 
@@ -32,9 +33,8 @@ namespace {
 
 constexpr double kMilliseconds = 1e3;
 constexpr double kMostOfScreen = 0.92;
-constexpr double kSureEnough = 0.8;  ///< to be taken unless the user leaves it
-constexpr double kFarthest = 1e6;    ///< metres
-constexpr int kWidestColumn = 240;   ///< pixels, at first
+constexpr double kFarthest = 1e6;   ///< metres
+constexpr int kWidestColumn = 240;  ///< pixels, at first
 
 enum Column { kTake, kShot, kFile, kTraces, kDoubtful, kSure, kProposal };
 
@@ -182,7 +182,7 @@ void CheckDialog::takeOver(std::vector<Finding> findings) {
     const bool left = std::any_of(before.begin(), before.end(), [&](const Row& row) {
       return !row.taken && isSame(row.finding, finding);
     });
-    const bool taken = finding.proposal && finding.confidence >= kSureEnough && !left;
+    const bool taken = doctor::isSure(finding, parameters::kSureMend.initial) && !left;
     mRows.push_back({std::move(finding), taken});
   }
 }

@@ -1,5 +1,6 @@
 #include "processing/joint/OnsetTrace.h"
 
+#include "numerics/Medians.h"
 #include "processing/joint/ZeroPhase.h"
 
 #include <algorithm>
@@ -23,12 +24,6 @@ struct Windows {
 constexpr Windows kVariance = {40e-3, 15e-3};
 constexpr Windows kRatio = {15e-3, 8e-3};
 constexpr double kShortestBefore = 1e-3;
-
-double medianOf(std::vector<double> values) {
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
-}
 
 /// Sums of the energy up to every sample.
 std::vector<double> energySums(const std::vector<double>& y) {
@@ -116,7 +111,7 @@ OnsetTrace prepareOnset(const std::vector<double>& samples, double interval, dou
   const std::size_t least = samplesIn(kShortestBefore, interval, 2);
   if (samples.size() < 2 * least + 2 || !(interval > 0.0)) return trace;
   trace.signal = samples;
-  const double middle = medianOf(samples);
+  const double middle = medianOf(samples, 0.0);
   for (double& sample : trace.signal) sample -= middle;
   bandPassZeroPhase(trace.signal, interval, kLowCut, kHighCut);
   trace.likelihood.assign(samples.size(), 0.0F);
