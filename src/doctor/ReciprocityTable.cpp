@@ -303,12 +303,16 @@ std::optional<Finding> lateShot(const TomoDocument& document, const ReciprocityT
   Finding finding;
   finding.kind = Finding::Kind::kTriggerTime;
   finding.shot = shot;
-  finding.text = lateByOthers(own.shift, own.shiftError, own.agreeing);
+  finding.text = describe(own);
   finding.confidence = 1.0 - 0.5 * kStandsOut * own.shiftError / std::fabs(own.shift);
   finding.proposal.emplace();
   finding.proposal->kind = Proposal::Kind::kTimeShift;
   finding.proposal->seconds = *own.mend;
   return finding;
+}
+
+Message describe(const ShotReciprocity& shot) {
+  return lateByOthers(shot.shift, shot.shiftError, shot.agreeing);
 }
 
 Message whyNoPairs(const TomoDocument& document) {

@@ -64,6 +64,9 @@ ReciprocityTable reciprocityOf(const TomoDocument& document);
 std::optional<Finding> lateShot(const TomoDocument& document, const ReciprocityTable& table,
                                 std::size_t shot);
 
+/// That the record of a shot that stands out is late or early, and what says so.
+Message describe(const ShotReciprocity& shot);
+
 /// Why a survey has no pairs, for users.
 Message whyNoPairs(const TomoDocument& document);
 
