@@ -202,6 +202,7 @@ Status addTravelTimes(ReportBuilder& builder) {
   if (!residuals.empty() && picksChangedSince(document)) {
     builder.paragraph(ReportWords::tr("Picks have changed since the inversion."));
   }
+  addReciprocity(builder);
   return {};
 }
 
