@@ -16,8 +16,10 @@ namespace talvesk::doctor {
 namespace {
 
 constexpr double kStandsOut = 4.0;  // standard deviations
+constexpr double kException = 2.0;  // usual shifts
 constexpr double kNormal = 1.4826;  // median of magnitudes to standard deviation
 constexpr int kRounds = 3;
+constexpr double kTold = 1e-5;             // seconds: more digits than picks have
 constexpr double kFinestPick = 1e-5;       // seconds: what two picks may always differ by
 constexpr std::size_t kTogether = 256;     // shots: the work grows with the third power
 constexpr std::ptrdiff_t kAlongCurve = 3;  // picks beyond the last one that give its slope
@@ -242,13 +244,22 @@ std::vector<ClockShift> shiftsOf(const Group& group) {
   return shifts;
 }
 
-void judge(const TomoDocument& document, std::size_t shot, const ClockShift& shift,
+/// How far the shifts of a group lie from its median as a rule, seconds: where every record is a
+/// little late or early, none is an exception for it.
+double usualShift(const std::vector<ClockShift>& shifts) {
+  std::vector<double> sizes;
+  for (const ClockShift& shift : shifts) sizes.push_back(std::fabs(shift.seconds));
+  return kNormal * medianOf(std::move(sizes), 0.0);
+}
+
+/// \param usual as of usualShift()
+void judge(const TomoDocument& document, std::size_t shot, const ClockShift& shift, double usual,
            ShotReciprocity& own) {
   own.shift = shift.seconds;
   own.shiftError = shift.error;
   own.agreeing = shift.pairs;
   const double interval = sampleInterval(document, shot);
-  const double least = std::max(kStandsOut * shift.error, interval);
+  const double least = std::max({kStandsOut * shift.error, kException * usual, interval});
   const bool most = 2 * shift.pairs > own.pairs && shift.pairs >= kFewestPairs;
   if (!most || std::fabs(shift.seconds) <= least) return;
   own.mend = interval > 0.0 ? std::round(shift.seconds / interval) * interval : shift.seconds;
@@ -289,8 +300,9 @@ ReciprocityTable reciprocityOf(const TomoDocument& document) {
   sumUp(table);
   for (const Group& group : groupsOf(table)) {
     const std::vector<ClockShift> shifts = shiftsOf(group);
+    const double usual = usualShift(shifts);
     for (std::size_t i = 0; i < shifts.size(); ++i) {
-      judge(document, group.shots[i], shifts[i], table.shots[group.shots[i]]);
+      judge(document, group.shots[i], shifts[i], usual, table.shots[group.shots[i]]);
     }
   }
   return table;
@@ -312,7 +324,8 @@ std::optional<Finding> lateShot(const TomoDocument& document, const ReciprocityT
 }
 
 Message describe(const ShotReciprocity& shot) {
-  return lateByOthers(shot.shift, shot.shiftError, shot.agreeing);
+  const auto rounded = [](double seconds) { return std::round(seconds / kTold) * kTold; };
+  return lateByOthers(rounded(shot.shift), rounded(shot.shiftError), shot.agreeing);
 }
 
 Message whyNoPairs(const TomoDocument& document) {

@@ -55,8 +55,9 @@ inline constexpr std::size_t kFewestPairs = 3;
 
 /// Compares the picks of all shots that reach each other: within half a spacing of a pick,
 /// interpolated between two of them, and not across a shot, where a curve turns round. A shift
-/// stands out where at least kFewestPairs agree with it, and it is above four times its error and a
-/// sample interval. Shots are compared with at most 255 others, those next to them.
+/// stands out where at least kFewestPairs agree with it, and it is above four times its error,
+/// twice what the shots are late or early by as a rule, and a sample interval. Shots are compared
+/// with at most 255 others, those next to them.
 ReciprocityTable reciprocityOf(const TomoDocument& document);
 
 /// What puts a shot right that stands out, to be carried out as other findings are. None without

@@ -148,6 +148,8 @@ QColor ReciprocityMatrix::colorOf(double seconds) const {
 
 void ReciprocityMatrix::paintCells(QPainter& painter, const QRectF& area) const {
   painter.fillRect(area, palette().color(QPalette::Base));
+  // What is not known must not look like no difference.
+  painter.fillRect(area, QBrush(palette().color(QPalette::Mid), Qt::BDiagPattern));
   const std::size_t count = mOrder.size();
   for (std::size_t row = 0; row < count; ++row) {
     for (std::size_t column = 0; column < count; ++column) {
@@ -187,9 +189,8 @@ void ReciprocityMatrix::paintNumbers(QPainter& painter, const QRectF& area) cons
   painter.setFont(font());
   painter.drawText(QRectF(area.left(), 0.0, width() - area.left(), metrics.height()),
                    Qt::AlignLeft | Qt::AlignVCenter,
-                   metrics.elidedText(tr("From the shot of the row to that of the column, longer "
-                                         "than back by [ms]"),
-                                      Qt::ElideRight, width() - area.left()));
+                   metrics.elidedText(tr("Row to column, longer than back by [ms]"), Qt::ElideRight,
+                                      width() - area.left()));
 }
 
 /// The ends stand for all that is beyond them.

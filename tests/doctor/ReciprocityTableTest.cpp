@@ -177,6 +177,14 @@ TEST(ReciprocityTable, seldomNamesAShotForTheScatterOfItsPicks) {
   EXPECT_GE(found, 38U);
 }
 
+/// Crews whose clocks all wander have no shot that is late against the others.
+TEST(ReciprocityTable, namesOnlyTheExceptions) {
+  std::vector<double> late = {0.001, -0.0012, 0.0004, -0.0003, 0.0008, -0.0011, 0.0005, -0.0006};
+  EXPECT_TRUE(named(reciprocityOf(pickedLine(late))).empty());
+  late[4] = 0.006;
+  EXPECT_EQ(named(reciprocityOf(pickedLine(late))), std::vector<std::size_t>{4});
+}
+
 /// A line that rolls along has hardly more pairs than shots: any shifts fit most of them.
 TEST(ReciprocityTable, namesNoShotWhereFewPairsFitByChance) {
   std::mt19937 random(11);

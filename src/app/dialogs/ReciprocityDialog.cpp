@@ -1,6 +1,7 @@
 #include "app/dialogs/ReciprocityDialog.h"
 
 #include "app/MessageText.h"
+#include "app/Messages.h"
 #include "app/dialogs/ReciprocityModel.h"
 #include "doctor/FindingTexts.h"
 #include "model/TomoDocument.h"
@@ -19,6 +20,8 @@ namespace {
 
 constexpr double kMilliseconds = 1e3;
 constexpr double kMostOfScreen = 0.92;
+constexpr int kRoomInLine = 6;  ///< pixels
+constexpr int kMostNamed = 4;   ///< shots above the tables; the list has them all
 
 enum ShotColumn { kShot, kAt, kPairs, kRms, kLateBy, kMend };
 
@@ -34,10 +37,12 @@ ReciprocityDialog::ReciprocityDialog(QWidget* parent)
       mModel(new ReciprocityModel(this)) {
   mUi->setupUi(this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
-  mUi->splitter->setStretchFactor(0, 1);
-  mUi->splitter->setStretchFactor(1, 1);
+  mUi->splitter->setSizes({3 * width() / 5, 2 * width() / 5});
   mUi->tablesSplitter->setStretchFactor(0, 3);
   mUi->tablesSplitter->setStretchFactor(1, 2);
+  const int lineHeight = fontMetrics().height() + kRoomInLine;
+  mUi->pairsTable->verticalHeader()->setDefaultSectionSize(lineHeight);
+  mUi->shotsTable->verticalHeader()->setDefaultSectionSize(lineHeight);
   mUi->pairsTable->setModel(mModel);
   mUi->pairsTable->sortByColumn(ReciprocityModel::kDifference, Qt::DescendingOrder);
   mUi->buttonBox->button(QDialogButtonBox::Close)->setAutoDefault(false);
@@ -110,10 +115,12 @@ void ReciprocityDialog::summarize(const TomoDocument& document) {
                  .arg(all.pairs.size())
                  .arg(milliseconds(all.rms));
   }
+  QStringList named;
   for (std::size_t i = 0; i < all.shots.size(); ++i) {
     if (!all.shots[i].standsOut()) continue;
-    lines << tr("Shot %1: %2.").arg(i + 1).arg(textOf(describe(all.shots[i])));
+    named << tr("Shot %1: %2.").arg(i + 1).arg(textOf(describe(all.shots[i])));
   }
+  if (!named.isEmpty()) lines << shortList(named, kMostNamed);
   mUi->summaryLabel->setText(lines.join(QLatin1Char('\n')));
 }
 
@@ -142,6 +149,7 @@ void ReciprocityDialog::fillShot(int row) {
     QFont font = item->font();
     font.setBold(shot.standsOut());
     item->setFont(font);
+    if (!isNumber) item->setToolTip(text);
     mUi->shotsTable->setItem(row, column, item);
   };
   const QString unknown = tr("–", "not known");
