@@ -51,6 +51,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionReset_View", ":/icons/fit.png"},
     {"actionRecording_details", ":/icons/info.png"},
     {"actionCheck_recordings", ":/icons/check-recordings.png"},
+    {"actionReciprocity", ":/icons/reciprocity.png"},
     {"actionSettings", ":/icons/preferences.png"},
     {"actionHelp", ":/icons/help.png"},
     {"actionUser_guide", ":/icons/guide.png"},

@@ -1,6 +1,7 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "batch/ReciprocityText.h"
 #include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
@@ -273,7 +274,8 @@ std::string unreadableJson(const std::string& file, const Status& status) {
   return jsonText(failureJson(file, status)) + "\n";
 }
 
-std::string picksJson(const TomoDocument& document, const std::string& filter) {
+std::string picksJson(const TomoDocument& document, const std::string& filter,
+                      const doctor::ReciprocityTable& reciprocity) {
   Json shots = Json::array();
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const TravelTime& record = document.ttArray[i];
@@ -291,6 +293,7 @@ std::string picksJson(const TomoDocument& document, const std::string& filter) {
   json["filter"] = filter;
   json["strings"] = stringsJson(document.line->goephonesStringSet);
   json["shots"] = std::move(shots);
+  json["reciprocity"] = reciprocityJson(reciprocity);
   return linePerKey(json) + "\n";
 }
 

@@ -81,6 +81,38 @@ TEST_F(Picking, goesAlongTheLineWhenAskedTo) {
   EXPECT_THAT(unknown.err, HasSubstr("'best' is none of single, joint"));
 }
 
+TEST_F(Picking, namesTheShotWhoseRecordIsLateBesideTheOthers) {
+  std::vector<std::string> files;
+  for (const double x : {0.0, 6.0, 12.0, 18.0, 24.0}) {
+    WrittenShot record = smallShot(x);
+    for (std::vector<float>& samples : record.traces) {
+      if (x == 12.0)
+        samples.insert(samples.begin(), samples.begin(), samples.begin() + 24);  // 6 ms
+    }
+    files.push_back(
+        mFolder.write("late" + std::to_string(files.size()) + ".sg2", formatSeg2(record)));
+  }
+  const std::string project = mFolder / "late.tvsk";
+  const Outcome outcome = runBatch(arguments(
+      "pick", files, {"--method", "joint", "--project", project, "--json", mFolder / "late.json"}));
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("Reciprocity: 10 pairs of shots, RMS "));
+  EXPECT_THAT(outcome.out, HasSubstr("shot 3: 4 pairs, RMS "));
+  EXPECT_THAT(outcome.out, HasSubstr(" ms late by 4 of them"));
+  EXPECT_THAT(outcome.out, HasSubstr("  largest differences:\n  shots "));
+  const ordered_json found = ordered_json::parse(contentsOf(mFolder / "late.json"))["reciprocity"];
+  EXPECT_NEAR(found["shots"][2]["mend_ms"].get<double>(), 6.0, 0.3) << found;
+  EXPECT_TRUE(found["shots"][1]["mend_ms"].is_null());
+  EXPECT_EQ(found["pairs"].size(), 10U);
+  EXPECT_EQ(found["pairs"][0]["shots"], ordered_json({0, 1}));
+  EXPECT_EQ(found["pairs"][0]["traces"], ordered_json({3, 0}));
+  EXPECT_NEAR(found["pairs"][0]["difference_ms"].get<double>(), 0.0, 0.6);
+
+  const Outcome checked = runBatch({"check", project, "--json", "-"});
+  ASSERT_EQ(checked.code, 0) << checked.err;
+  EXPECT_EQ(ordered_json::parse(checked.out)["reciprocity"]["pairs"], found["pairs"]);
+}
+
 TEST_F(Picking, writesThePicksThatItTellsOf) {
   const Outcome outcome = pick({"-o", mFolder / "out.otte", "--json", mFolder / "out.json"});
   ASSERT_EQ(outcome.code, 0) << outcome.err;
@@ -91,10 +123,10 @@ TEST_F(Picking, writesThePicksThatItTellsOf) {
   std::string keys;
   for (const auto& item : json.items()) keys += item.key() + " ";
   for (const auto& item : json["shots"][0].items()) keys += item.key() + " ";
-  EXPECT_EQ(
-      keys,
-      "filter strings shots position string trace_set times errors_ms picks_good picks_doubtful "
-      "picks_of_unknown_error file samples_before_shot accepted rejected ");
+  EXPECT_EQ(keys,
+            "filter strings shots reciprocity position string trace_set times errors_ms picks_good "
+            "picks_doubtful "
+            "picks_of_unknown_error file samples_before_shot accepted rejected ");
   const ordered_json written =
       ordered_json::parse(runBatch({"info", mFolder / "out.otte", "--json", "-"}).out);
   EXPECT_EQ(written["strings"], json["strings"]);

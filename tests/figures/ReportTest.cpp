@@ -184,6 +184,23 @@ TEST(Report, tellsOfWhatTheSurveyHas) {
   }
 }
 
+TEST(Report, tellsHowPicksGoWithEachOtherThereAndBack) {
+  TomoDocument line = pickedLine(5);
+  const auto tables = [&] { return textsOf(reportOn({line}), Kind::kTable); };
+  EXPECT_THAT(textsOf(reportOn({line}), Kind::kSubheading), Contains("Reciprocity"));
+  for (double& time : line.ttArray.edit()[2].ttMisurati.edit()) {
+    if (hasPick(time)) time += 0.004;
+  }
+  const ReportContent content = reportOn({line});
+  EXPECT_THAT(textsOf(content, Kind::kParagraph),
+              Contains(HasSubstr("Shot 3: the record is 4 ms late")));
+  EXPECT_THAT(tables(), Contains(HasSubstr("Reciprocity of every shot")));
+  EXPECT_THAT(tables(), Contains(HasSubstr("Pairs of shots")));
+
+  line.ttArray.edit().resize(1);
+  EXPECT_THAT(textsOf(reportOn({line}), Kind::kSubheading), Not(Contains("Reciprocity")));
+}
+
 TEST(Report, leavesOutWhatIsNotWanted) {
   const TomoDocument line = invertedLine();
   ReportOptions options;

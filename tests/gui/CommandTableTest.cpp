@@ -303,6 +303,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionApply_Hushel",
         "actionRun_tomography_inversion",
         "actionRefraction",
+        "actionReciprocity",
         "actionNext_file",
         "actionPrev_file",
         "actionRecording_details",

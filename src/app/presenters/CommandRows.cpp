@@ -106,6 +106,7 @@ Rows shotRows(Desk& desk, Presenters& p) {
       {"actionPrev_file", &State::records, call(desk.shot, &ShotInView::showPrevious)},
       {"actionRecording_details", &State::traces, call(p.traces, &TracesPresenter::showDetails)},
       {"actionCheck_recordings", &State::traces, call(p.checks, &CheckPresenter::check)},
+      {"actionReciprocity", &State::records, call(p.reciprocity, &ReciprocityPresenter::show)},
       {"actionCount_from_shot", &State::beforeShot, [&desk](bool) { countTimesFromShot(desk); }},
       {"actionMend_recording", &State::shotInView, call(p.traces, &TracesPresenter::mendRecording)},
       {"actionTake_back_mends", &State::mends, call(p.traces, &TracesPresenter::takeBackMends)},

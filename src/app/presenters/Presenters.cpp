@@ -6,6 +6,7 @@ Presenters::Presenters(Desk& desk)
     : settings(desk),
       traces(desk),
       checks(desk),
+      reciprocity(desk),
       traceOptions(desk),
       curves(desk),
       section(desk),
@@ -31,6 +32,7 @@ Presenters::Presenters(Desk& desk)
 
 void Presenters::retranslate() {
   traces.retranslate();
+  reciprocity.retranslate();
   projects.retranslate();
   section.refresh();
   survey.refresh();

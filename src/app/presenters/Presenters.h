@@ -11,6 +11,7 @@
 #include "app/presenters/PalettePresenter.h"
 #include "app/presenters/ProcessingPresenter.h"
 #include "app/presenters/ProjectPresenter.h"
+#include "app/presenters/ReciprocityPresenter.h"
 #include "app/presenters/RecordExportPresenter.h"
 #include "app/presenters/RecoveryPresenter.h"
 #include "app/presenters/RefractionPresenter.h"
@@ -36,6 +37,7 @@ struct Presenters {
   SettingsPresenter settings;
   TracesPresenter traces;
   CheckPresenter checks;
+  ReciprocityPresenter reciprocity;
   TraceOptionsPresenter traceOptions;
   CurvesPresenter curves;
   SectionPresenter section;

@@ -47,6 +47,7 @@ void addSurvey(ReportBuilder& builder);
 void addPosition(ReportBuilder& builder);
 Status addTravelTimes(ReportBuilder& builder);
 void addPickErrors(ReportBuilder& builder);  ///< nothing where none is known
+void addReciprocity(ReportBuilder& builder);
 void addInversion(ReportBuilder& builder);
 Status addSections(ReportBuilder& builder);
 Status addMisfit(ReportBuilder& builder);

@@ -203,6 +203,7 @@ Status addTravelTimes(ReportBuilder& builder) {
     builder.paragraph(ReportWords::tr("Picks have changed since the inversion."));
   }
   addPickErrors(builder);
+  addReciprocity(builder);
   return {};
 }
 
