@@ -9,6 +9,8 @@ namespace talvesk {
 namespace {
 
 constexpr double kGrab = 5.0;       ///< pixels from a pick within which a drag moves it alone
+constexpr double kLeave = 8.0;      ///< pixels aside that a hand goes while it moves a pick
+constexpr double kSteep = 4.0;      ///< a move up or down goes so many times as far as aside
 constexpr double kClickZoom = 2.0;  ///< of a click with the tool Zoom
 
 QPointF clamped(const QPointF& point, const QRectF& plot) {
@@ -44,6 +46,9 @@ class editTravelTimesWidget::State::PickTool : public PlotTool {
     // A hand that shakes while it clicks between two traces must not pick both.
     mStrayed = mStrayed || isDrag({event.at.x() - mFrom.x(), 0.0});
     const int trace = mStrayed ? s.traceAt(at) : mTrace;
+    if (s.stroke.kind() == PickStroke::Kind::Move && trace != mTrace && goesAside(at)) {
+      s.stroke.drawOn();
+    }
     s.stroke.moveTo(trace, placeOf(at), s.layout, adjuster(event));
     if (s.stroke.kind() != PickStroke::Kind::Move && trace >= 0) s.setCurrent(trace);
     s.redrawMarks();
@@ -77,6 +82,11 @@ class editTravelTimesWidget::State::PickTool : public PlotTool {
   }
   PickStroke::Adjust adjuster(const ToolEvent& event) const {
     return mState.adjuster(!(event.keys & Qt::AltModifier));
+  }
+  /// A hand that moves a pick far does not keep to the width of a trace.
+  bool goesAside(const QPointF& at) const {
+    const double aside = std::fabs(at.x() - mFrom.x());
+    return aside > kLeave && kSteep * aside > std::fabs(at.y() - mFrom.y());
   }
   bool nearPick() const {
     const double pick = mState.traces.measured(mTrace);
