@@ -309,6 +309,8 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionMend_recording",
         "actionRemove_shot",
         "actionUndo",
+        "actionNext_doubtful",
+        "actionPrevious_doubtful",
         "actionGain_up",
         "actionGain_down",
         "actionFit",

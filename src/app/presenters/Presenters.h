@@ -15,6 +15,7 @@
 #include "app/presenters/RecoveryPresenter.h"
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
+#include "app/presenters/ReviewPresenter.h"
 #include "app/presenters/SectionPresenter.h"
 #include "app/presenters/SettingsPresenter.h"
 #include "app/presenters/ShotFilesPresenter.h"
@@ -50,6 +51,7 @@ struct Presenters {
   ModelPresenter models;
   InversionPresenter inversion;
   ProcessingPresenter processing;
+  ReviewPresenter review;
   RefractionPresenter refraction;
   ExportPresenter exports;
   RecordExportPresenter records;

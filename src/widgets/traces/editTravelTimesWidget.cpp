@@ -139,6 +139,10 @@ void editTravelTimesWidget::setCurrentTrace(int trace) {
   mState->setCurrent(trace);
 }
 
+void editTravelTimesWidget::goToTrace(int trace) {
+  mState->goTo(trace);
+}
+
 int editTravelTimesWidget::selectedFirst() const {
   return mState->selectedFirst;
 }

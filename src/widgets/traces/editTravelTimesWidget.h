@@ -76,6 +76,8 @@ class editTravelTimesWidget : public QWidget {
   /// waits. Follows selectionChanged() and the session.
   bool hasPicksInRange(bool unconfirmedOnly) const;
   void setCurrentTrace(int trace);
+  /// Makes a trace the current one, alone, and moves the view so that it and its pick are in sight.
+  void goToTrace(int trace);
   int selectedFirst() const;  ///< channels selected, from 0; -1 none
   int selectedLast() const;
   void selectTraces(int first, int last);  ///< -1, -1 clears

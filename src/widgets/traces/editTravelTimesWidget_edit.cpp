@@ -162,6 +162,13 @@ void editTravelTimesWidget::State::setCurrent(int trace) {
   emit widget.selectionChanged();
 }
 
+void editTravelTimesWidget::State::goTo(int trace) {
+  select(-1, -1);
+  setCurrent(trace);
+  reveal(trace);
+  tellCurrent();
+}
+
 void editTravelTimesWidget::State::select(int first, int last) {
   if (first > last) std::swap(first, last);
   if (first < 0 || last >= layout.count()) first = last = -1;

@@ -20,12 +20,12 @@ void editTravelTimesWidget::State::walk(int steps, bool selecting) {
     const bool started = selectedFirst >= 0 && (from == selectedFirst || from == selectedLast);
     const int anchor = !started ? from : from == selectedLast ? selectedFirst : selectedLast;
     select(anchor < 0 ? to : anchor, to);
+    setCurrent(to);
+    reveal(to);
+    tellCurrent();
   } else {
-    select(-1, -1);
+    goTo(to);
   }
-  setCurrent(to);
-  reveal(to);
-  tellCurrent();
 }
 
 bool editTravelTimesWidget::State::walkKey(const QKeyEvent& event) {

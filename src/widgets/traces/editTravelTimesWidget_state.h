@@ -64,6 +64,7 @@ struct editTravelTimesWidget::State : PlotSurface {
   void nudge(double seconds, bool keyHeld);
   void pickLikeNeighbour();
   void setCurrent(int trace);
+  void goTo(int trace);  ///< without a selection, in sight, and told
   void select(int first, int last);
   void describe();  ///< tells assistive technology what is current
 
