@@ -274,6 +274,8 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionBy_distance",
         "actionTrue_amplitudes",
         "actionAir_wave",
+        "actionGuide_neighbour",
+        "actionGuide_reciprocal",
         "actionMagnifier",
         "actionTool_pick",
         "actionTool_zoom",
@@ -339,7 +341,8 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionShow_title",
         "actionReset_View"}},
       {Stage::kResult,
-       {"actionShow_rays", "actionShow_Information_Density_Layer", "showSimTT_CB"}}};
+       {"actionShow_rays", "actionShow_Information_Density_Layer", "showSimTT_CB",
+        "actionGuide_computed"}}};
   return stages;
 }
 

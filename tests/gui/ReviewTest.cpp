@@ -112,6 +112,23 @@ TEST_F(Review, saysWhatIsNotKnownOfThePicks) {
   EXPECT_EQ(told(), "No pick waits for confirmation.");
 }
 
+TEST_F(Review, remembersWhichGuidesAreDrawn) {
+  for (const char* name : {"actionGuide_neighbour", "actionGuide_reciprocal"}) {
+    EXPECT_FALSE(action(name).isChecked());
+    action(name).trigger();
+  }
+  const auto drawn = [this] {
+    const TraceViewOptions& options = traces().options();
+    return std::make_pair(options.showNeighbour, options.showReciprocal);
+  };
+  EXPECT_EQ(drawn(), std::make_pair(true, true));
+  action("actionGuide_reciprocal").trigger();
+  EXPECT_EQ(drawn(), std::make_pair(true, false));
+  open();
+  EXPECT_EQ(drawn(), std::make_pair(true, false));
+  EXPECT_TRUE(action("actionGuide_neighbour").isChecked());
+}
+
 TEST_F(Review, restsWhilePicksAreHidden) {
   child<QCheckBox>("showTravelTimeCB").click();
   EXPECT_FALSE(action("actionNext_doubtful").isEnabled());

@@ -139,6 +139,15 @@ Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
     return Command{object, always, turn(view, &TraceOptionsPresenter::setSetting, what),
                    [what](const State& state) { return state.settings.*what; }};
   };
+  const auto computedTimes = [&p](const char* object) {
+    return Command{
+        object, &State::computed,
+        [&p](bool shown) {
+          p.traceOptions.setSetting(&Settings::showComputedTimes, shown);
+          p.curves.refresh();
+        },
+        [](const State& state) { return state.computed && state.settings.showComputedTimes; }};
+  };
   const auto option = [&view](const char* object, bool Options::*what) {
     return Command{object, always, turn(view, &TraceOptionsPresenter::setOption, what),
                    [what](const State& state) { return state.traceView.*what; }};
@@ -187,11 +196,10 @@ Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
        turn(view, &TraceOptionsPresenter::setOption, &Options::showAllPicks)},
       {"showTravelTimeCB", &State::records, turn(view, &TraceOptionsPresenter::setOnlyTraces),
        nullptr, "update_show_traces"},
-      {"showSimTT_CB", &State::computed,
-       [&p](bool shown) {
-         p.traceOptions.setOption(&Options::showComputedTimes, shown);
-         p.curves.refresh();
-       }},
+      computedTimes("showSimTT_CB"),
+      computedTimes("actionGuide_computed"),
+      setting("actionGuide_neighbour", &Settings::showNeighbour),
+      setting("actionGuide_reciprocal", &Settings::showReciprocalTimes),
   };
 }
 

@@ -26,6 +26,9 @@ void TraceOptionsPresenter::refresh() {
     view.showFiltered = settings.showFiltered;
     view.showAllTraces = settings.showAllTraces;
     view.twoColors = settings.twoColors;
+    view.showComputedTimes = settings.showComputedTimes;
+    view.showNeighbour = settings.showNeighbour;
+    view.showReciprocal = settings.showReciprocalTimes;
   });
 }
 
