@@ -193,6 +193,25 @@ TEST(ArrivalPath, NeverPassesAFixedArrivalBy) {
   EXPECT_EQ(followArrivals(channels, 1.0), std::vector<double>(std::begin(fixed), std::end(fixed)));
 }
 
+TEST(ArrivalPath, SeesNothingOutOfAGuidesReach) {
+  OnsetTrace two;  // a clear onset at 20 ms, a weaker one at 60 ms
+  two.interval = 1e-3;
+  two.signal.assign(200, 0.0);
+  two.likelihood.assign(200, 0.0F);
+  two.likelihood[20] = two.largest = 30.0F;
+  two.likelihood[60] = 10.0F;
+  two.to = 200;
+  ArrivalChannel channel;
+  channel.onset = &two;
+  channel.offset = 5.0;
+  EXPECT_NEAR(followArrivals({channel}, 1.0)[0], 20e-3, 1e-9);
+  channel.reach = 15e-3;
+  channel.guide = 55e-3;
+  EXPECT_NEAR(followArrivals({channel}, 1.0)[0], 60e-3, 1e-9);
+  channel.guide = 100e-3;
+  EXPECT_TRUE(std::isnan(followArrivals({channel}, 1.0)[0]));
+}
+
 TEST(JointPicker, KeepsWithinReachOfADrawnLine) {
   const Ground ground = common([](Ground& g) { g.surface = 20.0; });
   TomoDocument document = lineOver(ground, {-2.5});
