@@ -110,6 +110,17 @@ Status takePicks(TomoDocument& document, std::int32_t shot,
   return status;
 }
 
+std::size_t picksAtFirstSample(const TomoDocument& document, std::int32_t shot) {
+  const TraceSet* traces = tracesOf(document, shot);
+  if (traces == nullptr) return 0;
+  const std::vector<double>& times = document.ttArray[static_cast<std::size_t>(shot)].ttMisurati;
+  std::size_t picks = 0;
+  for (std::size_t t = 0; t < std::min(times.size(), traces->size()); ++t) {
+    if (hasPick(times[t]) && times[t] == kPickWindow * (*traces)[t].sampleInterval) ++picks;
+  }
+  return picks;
+}
+
 struct Job {
   const Trace* trace;
   std::int32_t* index;
@@ -144,6 +155,32 @@ Status runJobs(const std::vector<Job>& jobs, bool useFiltered, unsigned threads)
 }
 
 }  // namespace
+
+Message describePicksAtFirstSample(const TomoDocument& document,
+                                   const std::vector<std::int32_t>& shots) {
+  constexpr std::size_t kMostNamed = 10;
+  std::size_t picks = 0;
+  std::size_t concerned = 0;
+  std::string named;
+  for (const std::int32_t shot : shots) {
+    const std::size_t here = picksAtFirstSample(document, shot);
+    if (here == 0) continue;
+    picks += here;
+    if (++concerned > kMostNamed) continue;
+    if (!named.empty()) named += ", ";
+    named += std::to_string(shot + std::int64_t{1});
+  }
+  if (picks == 0) return {};
+  const Message shotsNamed =
+      concerned > kMostNamed ? Message::tr("%1 and %2 more").arg(named).arg(concerned - kMostNamed)
+                             : Message(named);
+  return Message::
+      tr("Picks at sample %1, before which AutoPick cannot look: %2, on shots %3. Where the wave "
+         "came earlier, pick by hand or use AutoPick along the line.")
+          .arg(kPickWindow)
+          .arg(picks)
+          .arg(shotsNamed);
+}
 
 std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t trace,
                        bool useFiltered) {
