@@ -161,25 +161,27 @@ Message describePicksAtFirstSample(const TomoDocument& document,
   constexpr std::size_t kMostNamed = 10;
   std::size_t picks = 0;
   std::size_t concerned = 0;
-  std::string named;
+  Message named;
   for (const std::int32_t shot : shots) {
     const std::size_t here = picksAtFirstSample(document, shot);
     if (here == 0) continue;
     picks += here;
     if (++concerned > kMostNamed) continue;
-    if (!named.empty()) named += ", ";
-    named += std::to_string(shot + std::int64_t{1});
+    const std::string separator = named.empty() ? "" : ", ";
+    named = named.english() + separator + std::to_string(shot + std::int64_t{1});
   }
   if (picks == 0) return {};
-  const Message shotsNamed =
-      concerned > kMostNamed ? Message::tr("%1 and %2 more").arg(named).arg(concerned - kMostNamed)
-                             : Message(named);
-  return Message::
-      tr("Picks at sample %1, before which AutoPick cannot look: %2, on shots %3. Where the wave "
-         "came earlier, pick by hand or use AutoPick along the line.")
-          .arg(kPickWindow)
-          .arg(picks)
-          .arg(shotsNamed);
+  if (concerned > kMostNamed) {
+    named = Message::tr("%1 and %2 more").arg(named).arg(concerned - kMostNamed);
+  }
+  Message where = concerned == 1 ? Message::tr("shot %1").arg(std::move(named))
+                                 : Message::tr("shots %1").arg(std::move(named));
+  return Message::tr(
+             "Picks at sample %1, before which AutoPick cannot look: %2, on %3. Where the wave "
+             "came earlier, pick by hand or use AutoPick along the line.")
+      .arg(kPickWindow)
+      .arg(picks)
+      .arg(std::move(where));
 }
 
 std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t trace,

@@ -51,7 +51,7 @@ TEST(FirstSample, isToldWithTheShotsWherePicksLieThere) {
   document.ttArray.edit()[4].ttMisurati.edit()[2] = 20 * kInterval;
   EXPECT_THAT(say(all), HasSubstr("at sample 20, before which AutoPick cannot look: 3, on shots "
                                   "2, 5. Where"));
-  EXPECT_THAT(say({4}), HasSubstr(": 1, on shots 5. Where"));
+  EXPECT_THAT(say({4}), HasSubstr(": 1, on shot 5. Where"));
   EXPECT_EQ(say({0, 7, -1, 99}), "");
   for (TravelTime& record : document.ttArray.edit()) record.ttMisurati.edit()[0] = 20 * kInterval;
   EXPECT_THAT(say(all), HasSubstr("on shots 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 and 2 more."));
