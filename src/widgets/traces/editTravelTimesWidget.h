@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Point2D.h"
 #include "widgets/traces/TraceCursor.h"
 #include "widgets/traces/TraceViewOptions.h"
 
@@ -19,11 +20,12 @@ struct ViewWindow;
 /// What the left mouse button does. Whatever the tool, Ctrl + left drag zooms to a rectangle,
 /// Shift + left drag selects traces, and the right button removes picks.
 enum class TraceTool {
-  Pick,   ///< click sets, drag moves, drag across traces draws a run
-  Zoom,   ///< drag a rectangle; a click zooms in
-  Pan,    ///< drag the picture
-  Ruler,  ///< drag a line and read its apparent velocity
-  Select  ///< drag over the traces to confirm or clear together
+  Pick,    ///< click sets, drag moves, drag across traces draws a run
+  Zoom,    ///< drag a rectangle; a click zooms in
+  Pan,     ///< drag the picture
+  Ruler,   ///< drag a line and read its apparent velocity
+  Select,  ///< drag over the traces to confirm or clear together
+  Guide    ///< drag a line along the first breaks that a picker is to follow
 };
 
 /// The traces of one shot, time downward, with its first breaks to be picked by mouse and keys.
@@ -37,8 +39,8 @@ enum class TraceTool {
 /// Right walk along the traces (Shift selects), Home and End go to the first and the last; Up and
 /// Down move the pick by a sample (Shift 10 samples, Ctrl 1 ms); Return sets a pick like that of
 /// the neighbour; Delete removes, C confirms; [ and ] change the gain, as the wheel does with Alt;
-/// M magnifier, R ruler, Escape gives up. H shows the opening view. A double click with the tool
-/// Pick picks twice, and shows not everything.
+/// M magnifier, R ruler, G guide line, Escape gives up. H shows the opening view. A double click
+/// with the tool Pick picks twice, and shows not everything.
 class editTravelTimesWidget : public QWidget {
   Q_OBJECT
 
@@ -128,6 +130,9 @@ class editTravelTimesWidget : public QWidget {
   void optionsChanged();  ///< by keys or wheel, not by setOptions()
   void toolChanged();
   void selectionChanged();  ///< current trace or selected ones
+  /// A line was drawn over traces of the shot, for a picker to follow. \param points x: receiver,
+  /// metres along the line; z: seconds
+  void guideDrawn(const std::vector<talvesk::Point2D>& points);
   /// Picks of a shot that is not shown changed.
   void shotEdited(int shot);
 

@@ -89,6 +89,9 @@ bool editTravelTimesWidget::State::lookKey(const QKeyEvent& event) {
     case Qt::Key_R:
       widget.setTool(tool == TraceTool::Ruler ? TraceTool::Pick : TraceTool::Ruler);
       return true;
+    case Qt::Key_G:
+      widget.setTool(tool == TraceTool::Guide ? TraceTool::Pick : TraceTool::Guide);
+      return true;
     default:
       return false;
   }

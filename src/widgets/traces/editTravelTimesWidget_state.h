@@ -30,6 +30,7 @@ struct editTravelTimesWidget::State : PlotSurface {
   class PickTool;
   class RulerTool;
   class SelectTool;
+  class GuideTool;
 
   explicit State(editTravelTimesWidget& owner);
 
@@ -127,6 +128,7 @@ struct editTravelTimesWidget::State : PlotSurface {
   std::unique_ptr<PlotTool> zoomTool;
   std::unique_ptr<PlotTool> rulerTool;
   std::unique_ptr<PlotTool> selectTool;
+  std::unique_ptr<PlotTool> guideTool;
   PickStroke stroke;                                 ///< of the drag that picks or removes
   std::optional<std::pair<QPointF, QPointF>> ruler;  ///< positions, seconds
   std::optional<QPointF> hover;                      ///< cursor, when over the plot

@@ -2,6 +2,7 @@
 #include "widgets/PlotGestures_tools.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
 
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
@@ -151,6 +152,59 @@ class editTravelTimesWidget::State::SelectTool : public PlotTool {
   int mFrom = -1;
 };
 
+/// Draws a line along the first breaks and hands it over to whoever picks.
+class editTravelTimesWidget::State::GuideTool : public PlotTool {
+ public:
+  explicit GuideTool(State& state) : mState(state) {}
+
+  bool press(const ToolEvent& event) override {
+    const int trace = mState.traceAt(event.at);
+    if (!mState.canEdit() || trace < 0) return false;
+    mLine.begin(PickStroke::Kind::Run, trace, placeOf(event.at), mState.layout,
+                mState.adjuster(false));
+    return true;
+  }
+  void move(const ToolEvent& event) override {
+    const QPointF at = clamped(event.at, mState.plot);
+    mLine.moveTo(mState.traceAt(at), placeOf(at), mState.layout, mState.adjuster(false));
+  }
+  void release(const ToolEvent&) override {
+    std::vector<Point2D> points;
+    for (const auto& [trace, time] : mLine.times()) {
+      const double x = mState.traces.receiverX(trace);
+      if (std::isfinite(x)) points.push_back({x, time});
+    }
+    mLine.clear();
+    if (points.size() > 1) emit mState.widget.guideDrawn(points);
+  }
+  void giveUp() override { mLine.clear(); }
+
+  void paint(QPainter& painter) const override {
+    QPolygonF line;
+    for (const int trace : mState.layout.order()) {
+      const auto at = mLine.times().find(trace);
+      if (at == mLine.times().end()) continue;
+      line.append(mState.mapping().point(mState.layout.position(trace), at->second));
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(mState.colors.halo, 5.0));
+    painter.drawPolyline(line);
+    painter.setPen(QPen(mState.colors.ruler, 2.5));
+    painter.drawPolyline(line);
+    painter.restore();
+  }
+
+ private:
+  PickStroke::Place placeOf(const QPointF& point) const {
+    const QPointF place = mState.placeAt(point);
+    return {place.x(), place.y()};
+  }
+
+  State& mState;
+  PickStroke mLine;
+};
+
 editTravelTimesWidget::State::State(editTravelTimesWidget& owner)
     : widget(owner),
       gestures(*this, owner, owner),
@@ -159,6 +213,7 @@ editTravelTimesWidget::State::State(editTravelTimesWidget& owner)
       zoomTool(std::make_unique<BandTool>(
           gestures, [this](const QPointF& at) { gestures.zoomAbout(at, kClickZoom, kClickZoom); })),
       rulerTool(std::make_unique<RulerTool>(*this)),
-      selectTool(std::make_unique<SelectTool>(*this)) {}
+      selectTool(std::make_unique<SelectTool>(*this)),
+      guideTool(std::make_unique<GuideTool>(*this)) {}
 
 }  // namespace talvesk
