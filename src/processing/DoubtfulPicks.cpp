@@ -4,7 +4,7 @@
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
-#include "processing/joint/Reciprocity.h"
+#include "processing/PickCurve.h"
 
 #include <algorithm>
 #include <cmath>
@@ -110,28 +110,8 @@ void takeResiduals(const TomoDocument& document, Doubts& doubts) {
   }
 }
 
-/// A shot with the picks that have a place, and which traces these are.
-struct Curve {
-  ArrivalCurve arrivals;
-  std::vector<std::size_t> traces;
-};
-
-Curve curveOf(const TomoDocument& document, const TravelTime& record) {
-  Curve curve;
-  curve.arrivals.source = record.shotPos2d.x;
-  if (!std::isfinite(curve.arrivals.source)) return curve;
-  const std::vector<Point2D> receivers = document.receiversOf(record);
-  for (std::size_t t = 0; t < std::min(receivers.size(), record.ttMisurati.size()); ++t) {
-    const double time = record.ttMisurati[t];
-    if (!hasPick(time) || !std::isfinite(time) || !std::isfinite(receivers[t].x)) continue;
-    curve.arrivals.points.push_back({receivers[t].x, time});
-    curve.traces.push_back(t);
-  }
-  return curve;
-}
-
 /// The traces nearest to a place: two where it lies in the middle between them.
-std::vector<std::size_t> nearestTraces(const Curve& curve, double x) {
+std::vector<std::size_t> nearestTraces(const PickCurve& curve, double x) {
   double nearest = std::numeric_limits<double>::infinity();
   for (const Point2D& p : curve.arrivals.points) nearest = std::min(nearest, std::fabs(p.x - x));
   const double rounding = 1e-6 * nearest;
@@ -150,10 +130,10 @@ double meanError(const TravelTime& record, const std::vector<std::size_t>& trace
 }
 
 void takeReciprocals(const TomoDocument& document, Doubts& doubts) {
-  std::vector<Curve> curves;
+  std::vector<PickCurve> curves;
   std::vector<ArrivalCurve> arrivals;
   for (const TravelTime& record : document.ttArray) {
-    curves.push_back(curveOf(document, record));
+    curves.push_back(pickCurveOf(document, record));
     arrivals.push_back(curves.back().arrivals);
   }
   for (const ReciprocalPair& pair : Reciprocity(arrivals).pairs()) {

@@ -2,7 +2,7 @@
 
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
-#include "processing/joint/Reciprocity.h"
+#include "processing/PickCurve.h"
 
 #include <algorithm>
 #include <cmath>
@@ -76,19 +76,6 @@ std::vector<std::vector<QPointF>> linesThrough(const TraceLayout& layout, TimeOf
     lines.back().emplace_back(layout.position(trace), time);
   }
   return lines;
-}
-
-/// The first arrivals of a record where they and their places are known.
-ArrivalCurve curveOf(const TomoDocument& document, const TravelTime& record) {
-  ArrivalCurve curve;
-  curve.source = record.shotPos2d.x;
-  const std::vector<Point2D> receivers = document.receiversOf(record);
-  for (std::size_t i = 0; i < std::min(receivers.size(), record.ttMisurati.size()); ++i) {
-    const double time = record.ttMisurati[i];
-    if (!hasPick(time) || !std::isfinite(time) || !std::isfinite(receivers[i].x)) continue;
-    curve.points.push_back({receivers[i].x, time});
-  }
-  return curve;
 }
 
 /// The trace at a place of the line, or -1.
@@ -179,7 +166,7 @@ std::vector<QPointF> reciprocalTimes(const TomoDocument& document, const ShotTra
     if (!position || *position < layout.first() - beyond || *position > layout.last() + beyond) {
       continue;
     }
-    const Reciprocity back({curveOf(document, record)});
+    const Reciprocity back({pickCurveOf(document, record).arrivals});
     const double time = back.timeBack(own->shotPos2d.x, record.shotPos2d.x);
     if (std::isfinite(time)) times.emplace_back(*position, time);
   }
