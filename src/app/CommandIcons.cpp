@@ -59,6 +59,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionTool_zoom", ":/icons/tool-zoom.png"},
     {"actionTool_pan", ":/icons/tool-pan.png"},
     {"actionTool_ruler", ":/icons/tool-ruler.png"},
+    {"actionTool_guide", ":/icons/tool-guide.png"},
     {"actionTool_select", ":/icons/tool-select.png"},
     {"actionFit", ":/icons/fit.png"},
     {"actionZoom_back", ":/icons/zoom-back.png"},

@@ -278,6 +278,10 @@ TEST_F(Picking, thePickerIsHeardOnlyOnRequestAndQuietSaysNothing) {
   const Outcome verbose = pick({"-o", mFolder / "out.otte", "--verbose"});
   EXPECT_THAT(verbose.out, HasSubstr("opening seg2 file "));
   EXPECT_THAT(verbose.out, HasSubstr("[FIRST BREAK] TRACE 12 : "));
+  EXPECT_THAT(verbose.err, HasSubstr("Picks at sample 20, before which AutoPick cannot look: 5, on "
+                                     "shots 1, 2, 3."));
+  EXPECT_THAT(pick({"-o", mFolder / "out.otte", "--method", "joint"}).err,
+              Not(HasSubstr("at sample 20")));
   const Outcome quiet = pick({"-o", mFolder / "out.otte", "--quiet"});
   EXPECT_EQ(quiet.code, 0);
   EXPECT_EQ(quiet.out + quiet.err, "");

@@ -275,12 +275,15 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionError_bars",
         "actionTrue_amplitudes",
         "actionAir_wave",
+        "actionGuide_neighbour",
+        "actionGuide_reciprocal",
         "actionMagnifier",
         "actionTool_pick",
         "actionTool_zoom",
         "actionTool_pan",
         "actionTool_ruler",
         "actionTool_select",
+        "actionTool_guide",
         "actionSnap_none",
         "actionSnap_onset",
         "actionSnap_zero",
@@ -298,6 +301,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionGrid",
         "actionAutoPick",
         "actionAutoPick_line",
+        "actionFill_along",
         "actionFilter",
         "actionAGC",
         "actionApply_Hushel",
@@ -316,6 +320,8 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionError_25",
         "actionError_5",
         "actionUndo",
+        "actionNext_doubtful",
+        "actionPrevious_doubtful",
         "actionGain_up",
         "actionGain_down",
         "actionFit",
@@ -344,7 +350,8 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionShow_title",
         "actionReset_View"}},
       {Stage::kResult,
-       {"actionShow_rays", "actionShow_Information_Density_Layer", "showSimTT_CB"}}};
+       {"actionShow_rays", "actionShow_Information_Density_Layer", "showSimTT_CB",
+        "actionGuide_computed"}}};
   return stages;
 }
 

@@ -123,6 +123,80 @@ TEST_F(Processing, setsErrorsByKeyAndMenuAndTellsThem) {
   EXPECT_EQ(records[0].errorOf(4), 0.0);
 }
 
+TEST_F(Processing, fillsAShotThroughThePicksOfAPersonInOneStep) {
+  const SharedVector<TravelTime>& records = window->document().ttArray;
+  const auto told = [this] {
+    return child<QStatusBar>("statusBar").currentMessage().toStdString();
+  };
+  action("actionShow_all_traces").trigger();  // of the shot in view all the same
+  action("actionFill_along").trigger();
+  EXPECT_THAT(told(), ::testing::StartsWith("Set or confirm some picks"));
+  EXPECT_EQ(picksOf(0), 0);
+  const double late = testing::firstBreak(7) + 0.003;
+  child<editTravelTimesWidget>("showTracesWidget").editPick(0, 7, late);
+  action("actionFill_along").trigger();
+  EXPECT_GT(picksOf(0), 6);
+  EXPECT_EQ(picksOf(1), 0);
+  EXPECT_EQ(records[0].ttMisurati[7], late);
+  EXPECT_FALSE(records[0].waits(7));
+  EXPECT_TRUE(records[0].waits(8));
+  EXPECT_THAT(told(), ::testing::MatchesRegex(
+                          "Shot 1: [0-9]+ traces filled, .* 1 picks that you made stay.*"));
+  EXPECT_THAT(action("actionUndo").text().toStdString(),
+              ::testing::HasSubstr("Fill along the line"));
+  action("actionUndo").trigger();
+  EXPECT_EQ(picksOf(0), 1);
+}
+
+TEST_F(Processing, fillsTheTracesUnderALineThatIsDrawn) {
+  auto& view = child<editTravelTimesWidget>("showTracesWidget");
+  action("actionTool_guide").trigger();
+  EXPECT_EQ(view.tool(), TraceTool::Guide);
+  const auto at = [&view](int trace, double off) {
+    const double time = testing::firstBreak(static_cast<std::size_t>(trace)) + off;
+    return view.pointOf(trace, time).toPoint();
+  };
+  const auto drag = [&](int from, int to) {
+    QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, at(from, 0.001));
+    for (int trace = from; trace <= to; ++trace) {
+      QMouseEvent move(QEvent::MouseMove, at(trace, 0.001), Qt::NoButton, Qt::LeftButton,
+                       Qt::NoModifier);
+      QApplication::sendEvent(&view, &move);
+    }
+    QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, at(to, 0.001));
+  };
+  drag(5, 5);
+  EXPECT_FALSE(action("actionUndo").text().contains("Fill")) << "a click is no line";
+  drag(2, 10);
+  EXPECT_THAT(action("actionUndo").text().toStdString(),
+              ::testing::HasSubstr("Fill along the line"));
+  for (std::size_t trace = 2; trace <= 10; ++trace) {
+    const double time = window->document().ttArray[0].ttMisurati[trace];
+    if (!hasPick(time)) continue;
+    EXPECT_NEAR(time, testing::firstBreak(trace), 0.011) << trace;
+  }
+  EXPECT_GT(picksOf(0), 6);
+}
+
+TEST_F(Processing, tellsAfterAutoPickHowManyPicksLieWhereItCannotLookBefore) {
+  const auto told = [this] {
+    return child<QStatusBar>("statusBar").currentMessage().toStdString();
+  };
+  action("actionAutoPick").trigger();
+  EXPECT_THAT(told(), ::testing::Not(::testing::HasSubstr("at sample 20")));
+  for (Trace& trace : writable().recordings.edit().traceSets[0]) {
+    // Already shaking where the picker begins to look.
+    for (std::size_t k = 0; k < trace.samples.size(); ++k) {
+      trace.samples.edit()[k] = k < 10 ? 0.0 : k % 2 == 0 ? 1e3 : -1e3;
+    }
+  }
+  showWritten();
+  action("actionAutoPick").trigger();
+  ASSERT_GT(picksOf(0), 6);
+  EXPECT_THAT(told(), ::testing::HasSubstr("at sample 20, before which AutoPick cannot look: " +
+                                           std::to_string(picksOf(0)) + ", on shot 1."));
+}
+
 TEST_F(Processing, tellsOfTheShotInViewAndOnlyBesideItsTraces) {
   auto& view = child<editTravelTimesWidget>("showTracesWidget");
   auto& read = child<QLabel>("cursorLabel");

@@ -88,6 +88,7 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
       {"actionAutoPick", &State::shotInView, call(p.processing, &ProcessingPresenter::autoPick)},
       {"actionAutoPick_line", &State::shotInView,
        call(p.processing, &ProcessingPresenter::autoPickAlongLine)},
+      {"actionFill_along", &State::shotInView, [&p](bool) { p.processing.fillAlong(); }},
       {"actionFilter", &State::shotInView, call(p.processing, &ProcessingPresenter::filter)},
       {"actionAGC", &State::shotInView, call(p.processing, &ProcessingPresenter::agc)},
       {"actionApply_Hushel", &State::shotInView, call(p.processing, &ProcessingPresenter::hushel),
@@ -119,6 +120,10 @@ Rows shotRows(Desk& desk, Presenters& p) {
        call(traces, &editTravelTimesWidget::removePicks)},
       {"actionRemove_unconfirmed", &State::unconfirmedInRange,
        call(traces, &editTravelTimesWidget::removeUnconfirmedPicks)},
+      {"actionNext_doubtful", &State::picksToReview,
+       call(p.review, &ReviewPresenter::showNextDoubtful)},
+      {"actionPrevious_doubtful", &State::picksToReview,
+       call(p.review, &ReviewPresenter::showPreviousDoubtful)},
       {"actionGain_up", &State::shotInView, call(p.traceOptions, &TraceOptionsPresenter::gainUp)},
       {"actionGain_down", &State::shotInView,
        call(p.traceOptions, &TraceOptionsPresenter::gainDown)},
@@ -135,6 +140,15 @@ Rows traceViewRows(Desk& desk, Presenters& p) {
   const auto setting = [&view](const char* object, bool Settings::*what) {
     return Command{object, always, turn(view, &TraceOptionsPresenter::setSetting, what),
                    [what](const State& state) { return state.settings.*what; }};
+  };
+  const auto computedTimes = [&p](const char* object) {
+    return Command{
+        object, &State::computed,
+        [&p](bool shown) {
+          p.traceOptions.setSetting(&Settings::showComputedTimes, shown);
+          p.curves.refresh();
+        },
+        [](const State& state) { return state.computed && state.settings.showComputedTimes; }};
   };
   const auto option = [&view](const char* object, bool Options::*what) {
     return Command{object, always, turn(view, &TraceOptionsPresenter::setOption, what),
@@ -184,6 +198,7 @@ Rows traceViewRows(Desk& desk, Presenters& p) {
       tool("actionTool_pan", TraceTool::Pan),
       tool("actionTool_ruler", TraceTool::Ruler),
       tool("actionTool_select", TraceTool::Select),
+      tool("actionTool_guide", TraceTool::Guide),
       snap("actionSnap_none", PickSnap::None),
       snap("actionSnap_onset", PickSnap::Onset),
       snap("actionSnap_zero", PickSnap::ZeroCrossing),
@@ -200,11 +215,10 @@ Rows traceViewRows(Desk& desk, Presenters& p) {
        turn(view, &TraceOptionsPresenter::setOption, &Options::showAllPicks)},
       {"showTravelTimeCB", &State::records, turn(view, &TraceOptionsPresenter::setOnlyTraces),
        nullptr, "update_show_traces"},
-      {"showSimTT_CB", &State::computed,
-       [&p](bool shown) {
-         p.traceOptions.setOption(&Options::showComputedTimes, shown);
-         p.curves.refresh();
-       }},
+      computedTimes("showSimTT_CB"),
+      computedTimes("actionGuide_computed"),
+      setting("actionGuide_neighbour", &Settings::showNeighbour),
+      setting("actionGuide_reciprocal", &Settings::showReciprocalTimes),
   };
 }
 

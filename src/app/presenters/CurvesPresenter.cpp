@@ -29,19 +29,8 @@ CurvesPresenter::CurvesPresenter(Desk& desk) : mDesk(desk) {
       for (TravelTimePlot* plot : mDesk.plots()) plot->setDocument(&mDesk.document());
     }
     if (!change.parts.has(Part::kGeometry) && !change.parts.has(Part::kResult)) return;
-    if (!mDesk.document().result->has_tomographic_info) hideComputed();
     refresh();
   });
-}
-
-/// In the traces, too: times of a result to come are shown when they are asked for.
-void CurvesPresenter::hideComputed() {
-  mDesk.ui.showSimTT_CB->setChecked(false);
-  for (editTravelTimesWidget* editor : mDesk.editors()) {
-    TraceViewOptions view = editor->options();
-    view.showComputedTimes = false;
-    editor->setOptions(view);
-  }
 }
 
 void CurvesPresenter::refresh() {
@@ -49,7 +38,8 @@ void CurvesPresenter::refresh() {
     plot->refresh();
     plot->setCurrentShot(mDesk.shot.index());
   }
-  mDesk.ui.travelTimePreview->setShowComputed(mDesk.ui.showSimTT_CB->isChecked());
+  mDesk.ui.travelTimePreview->setShowComputed(mDesk.settings.showComputedTimes &&
+                                              mDesk.document().result->has_tomographic_info);
 }
 
 void CurvesPresenter::exportPicture() {

@@ -21,6 +21,7 @@ Presenters::Presenters(Desk& desk)
       models(desk, geometry),
       inversion(desk, models),
       processing(desk),
+      review(desk),
       refraction(desk),
       exports(desk),
       records(desk),

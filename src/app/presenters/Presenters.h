@@ -16,6 +16,7 @@
 #include "app/presenters/RecoveryPresenter.h"
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
+#include "app/presenters/ReviewPresenter.h"
 #include "app/presenters/SectionPresenter.h"
 #include "app/presenters/SettingsPresenter.h"
 #include "app/presenters/ShotFilesPresenter.h"
@@ -52,6 +53,7 @@ struct Presenters {
   ModelPresenter models;
   InversionPresenter inversion;
   ProcessingPresenter processing;
+  ReviewPresenter review;
   RefractionPresenter refraction;
   ExportPresenter exports;
   RecordExportPresenter records;

@@ -27,6 +27,9 @@ void TraceOptionsPresenter::refresh() {
     view.showAllTraces = settings.showAllTraces;
     view.twoColors = settings.twoColors;
     view.errorBars = settings.errorBars;
+    view.showComputedTimes = settings.showComputedTimes;
+    view.showNeighbour = settings.showNeighbour;
+    view.showReciprocal = settings.showReciprocalTimes;
   });
   for (TravelTimePlot* plot : mDesk.plots()) plot->setErrorBars(mDesk.settings.errorBars);
 }

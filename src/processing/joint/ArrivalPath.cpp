@@ -22,17 +22,26 @@ constexpr double kLaterLoss = 3.0;         ///< per millisecond
 constexpr double kEarlierLoss = 0.4;       ///< per millisecond
 constexpr double kMostBend = 20.0;         ///< milliseconds that count
 constexpr double kStepOfBends = 5.0;       ///< milliseconds; longer steps bend in proportion
-constexpr double kClearLikelihood = 25.0;  ///< beyond it no onset counts for more
-constexpr double kEarlierShare = 0.5;      ///< of what an earlier onset gains
-constexpr double kApart = 15.0;            ///< ms: what is nearer is one onset
+constexpr double kClearLikelihood = 15.0;  ///< beyond it no onset counts for more
+constexpr double kEarlierShare = 0.8;      ///< of what an earlier onset gains
+constexpr double kApart = 12.0;            ///< ms: what is nearer is one onset
 constexpr double kReciprocalSigma = 2.0;   ///< milliseconds
 constexpr double kMostReciprocal = 15.0;
-constexpr double kLikenessFrom = -4e-3;  // seconds about the onsets
-constexpr double kLikenessTo = 15e-3;
-constexpr double kLikenessStep = 0.5e-3;
+constexpr double kMostOffGuide = 10.0;  ///< what an onset at the edge of a guide's reach loses
+constexpr double kLikenessFrom = -4.0;  ///< milliseconds about the onsets
+constexpr double kLikenessTo = 15.0;
+constexpr double kLikenessStep = 0.5;
+
+/// Milliseconds of the constants above, which stretch with the arrivals' period.
+struct Clock {
+  double second;  ///< how many are in one
+  explicit Clock(double stretch) : second(1e3 / stretch) {}
+  double fromSeconds(double seconds) const { return seconds * second; }
+  double toSeconds(double time) const { return time / second; }
+};
 
 struct Onset {
-  double time;  ///< milliseconds after the shot
+  double time;  ///< after the shot, of the clock
   double gain;
 };
 
@@ -40,6 +49,7 @@ struct Station {
   std::size_t channel;
   double offset;  ///< metres, at least 0
   std::vector<Onset> onsets;
+  bool fixed = false;
 };
 
 /// A path up to some station.
@@ -72,11 +82,24 @@ std::vector<std::size_t> peaksOf(const OnsetTrace& trace, double least) {
   return peaks;
 }
 
-double reciprocalLoss(const ArrivalChannel& channel, double time) {
-  const double late = time - 1e3 * channel.reciprocal;
+double reciprocalLoss(const ArrivalChannel& channel, double time, const Clock& clock) {
+  const double late = time - clock.fromSeconds(channel.reciprocal);
   if (!(late > 0.0)) return 0.0;
   const double sigmas = late / kReciprocalSigma;
   return std::min(0.5 * sigmas * sigmas, kMostReciprocal);
+}
+
+/// What is out of a guide's reach goes, and what is off it is less likely.
+void heedGuide(const ArrivalChannel& channel, const Clock& clock, std::vector<Onset>& onsets) {
+  if (std::isnan(channel.guide)) return;
+  const double guide = clock.fromSeconds(channel.guide);
+  const double reach = clock.fromSeconds(channel.reach);
+  const auto out = [&](const Onset& onset) { return !(std::fabs(onset.time - guide) <= reach); };
+  onsets.erase(std::remove_if(onsets.begin(), onsets.end(), out), onsets.end());
+  for (Onset& onset : onsets) {
+    const double off = reach > 0.0 ? (onset.time - guide) / reach : 0.0;
+    onset.gain -= kMostOffGuide * off * off;
+  }
 }
 
 /// What begins after something else has begun is no first arrival, so far as that is sure.
@@ -90,11 +113,13 @@ void forgetLater(std::vector<Onset>& onsets) {
   }
 }
 
-Station stationOf(const std::vector<ArrivalChannel>& channels, std::size_t c, double reference) {
+Station stationOf(const std::vector<ArrivalChannel>& channels, std::size_t c, double reference,
+                  const Clock& clock) {
   const ArrivalChannel& channel = channels[c];
   Station station{c, std::fabs(channel.offset), {}};
   if (!std::isnan(channel.fixed)) {
-    station.onsets.push_back({1e3 * (channel.fixed - channel.zero), kLargestGain});
+    station.fixed = true;
+    station.onsets.push_back({clock.fromSeconds(channel.fixed - channel.zero), kLargestGain});
     return station;
   }
   const OnsetTrace& trace = *channel.onset;
@@ -103,11 +128,12 @@ Station stationOf(const std::vector<ArrivalChannel>& channels, std::size_t c, do
   if (!(scale > 0.0)) return station;
   for (const std::size_t i : peaksOf(trace, kLeastShare * scale)) {
     const double share = std::min(static_cast<double>(trace.likelihood[i]) / scale, 1.0);
-    const double time = 1e3 * (static_cast<double>(i) * trace.interval - channel.zero);
+    const double time = clock.fromSeconds(static_cast<double>(i) * trace.interval - channel.zero);
     station.onsets.push_back({time, kLargestGain * share * share});
   }
+  heedGuide(channel, clock, station.onsets);
   forgetLater(station.onsets);
-  for (Onset& onset : station.onsets) onset.gain -= reciprocalLoss(channel, onset.time);
+  for (Onset& onset : station.onsets) onset.gain -= reciprocalLoss(channel, onset.time, clock);
   return station;
 }
 
@@ -122,11 +148,11 @@ double sampleAt(const OnsetTrace& trace, double seconds) {
 
 class Side {
  public:
-  Side(const std::vector<ArrivalChannel>& channels, std::vector<Station> stations)
-      : mChannels(channels), mStations(std::move(stations)) {}
+  Side(const std::vector<ArrivalChannel>& channels, std::vector<Station> stations,
+       const Clock& clock)
+      : mChannels(channels), mStations(std::move(stations)), mClock(clock) {}
 
-  /// \param start ms per m that the path is expected to begin with; not a number when unknown
-  double follow(double start, std::vector<double>& times);
+  void follow(std::vector<double>& times);
 
  private:
   double likeness(const Path& path, std::size_t station, std::size_t onset);
@@ -136,6 +162,7 @@ class Side {
 
   const std::vector<ArrivalChannel>& mChannels;
   std::vector<Station> mStations;
+  Clock mClock;
   std::vector<Path> mPaths;
   std::map<std::pair<std::uint64_t, std::uint64_t>, double> mLikeness;
 };
@@ -151,13 +178,16 @@ double Side::likeness(const Path& path, std::size_t s, std::size_t onset) {
   if (known != mLikeness.end()) return known->second;
   const ArrivalChannel& a = mChannels[mStations[last].channel];
   const ArrivalChannel& b = mChannels[mStations[s].channel];
-  const double atA = 1e-3 * path.time + a.zero;
-  const double atB = 1e-3 * mStations[s].onsets[onset].time + b.zero;
-  const double step = std::max({kLikenessStep, a.onset->interval, b.onset->interval});
+  const double atA = mClock.toSeconds(path.time) + a.zero;
+  const double atB = mClock.toSeconds(mStations[s].onsets[onset].time) + b.zero;
+  const double from = mClock.toSeconds(kLikenessFrom);
+  const double to = mClock.toSeconds(kLikenessTo);
+  const double step =
+      std::max({mClock.toSeconds(kLikenessStep), a.onset->interval, b.onset->interval});
   double ab = 0.0;
   double aa = 0.0;
   double bb = 0.0;
-  for (double t = kLikenessFrom; t <= kLikenessTo; t += step) {
+  for (double t = from; t <= to; t += step) {
     const double x = sampleAt(*a.onset, atA + t);
     const double y = sampleAt(*b.onset, atB + t);
     ab += x * y;
@@ -182,14 +212,17 @@ void Side::extend(const std::vector<std::int32_t>& live, std::size_t s, std::vec
   const Station& station = mStations[s];
   for (const std::int32_t p : live) {
     const Path path = mPaths[static_cast<std::size_t>(p)];
-    Path passing = path;
-    passing.score += kPassingGain;
-    passing.parent = p;
-    next.push_back(passing);
+    if (!station.fixed) {
+      Path passing = path;
+      passing.score += kPassingGain;
+      passing.parent = p;
+      next.push_back(passing);
+    }
     for (std::size_t o = 0; o < station.onsets.size(); ++o) {
       const Onset& onset = station.onsets[o];
       const double loss = bendLoss(path, station, onset.time);
-      if (path.station >= 0 && onset.time < path.time - kMostBend) continue;
+      const bool backward = path.station >= 0 && onset.time < path.time - kMostBend;
+      if (backward && !station.fixed) continue;
       Path longer = path;
       longer.score += onset.gain - loss;
       if (loss < kLaterLoss * kMostBend) longer.score += kLikenessGain * likeness(path, s, o);
@@ -239,10 +272,8 @@ std::vector<std::int32_t> Side::keep(std::vector<Path> next) {
   return live;
 }
 
-double Side::follow(double start, std::vector<double>& times) {
-  Path origin;
-  origin.slope = start;
-  mPaths = {origin};
+void Side::follow(std::vector<double>& times) {
+  mPaths = {Path()};
   std::vector<std::int32_t> live = {0};
   for (std::size_t s = 0; s < mStations.size(); ++s) {
     std::vector<Path> next;
@@ -259,9 +290,9 @@ double Side::follow(double start, std::vector<double>& times) {
     if (path.station < 0) continue;
     const Station& station = mStations[static_cast<std::size_t>(path.station)];
     const ArrivalChannel& channel = mChannels[station.channel];
-    times[station.channel] = 1e-3 * path.time + channel.zero;
+    times[station.channel] =
+        station.fixed ? channel.fixed : mClock.toSeconds(path.time) + channel.zero;
   }
-  return mPaths[static_cast<std::size_t>(best)].score;
 }
 
 double referenceOf(const std::vector<ArrivalChannel>& channels) {
@@ -277,18 +308,19 @@ double referenceOf(const std::vector<ArrivalChannel>& channels) {
 
 }  // namespace
 
-std::vector<double> followArrivals(const std::vector<ArrivalChannel>& channels) {
+std::vector<double> followArrivals(const std::vector<ArrivalChannel>& channels, double stretch) {
+  const Clock clock(stretch);
   std::vector<double> times(channels.size(), kNone);
   const double reference = referenceOf(channels);
   for (const bool right : {false, true}) {
     std::vector<Station> stations;
     for (std::size_t c = 0; c < channels.size(); ++c) {
       if ((channels[c].offset > 0.0) == right)
-        stations.push_back(stationOf(channels, c, reference));
+        stations.push_back(stationOf(channels, c, reference, clock));
     }
     std::stable_sort(stations.begin(), stations.end(),
                      [](const Station& a, const Station& b) { return a.offset < b.offset; });
-    if (!stations.empty()) Side(channels, std::move(stations)).follow(kNone, times);
+    if (!stations.empty()) Side(channels, std::move(stations), clock).follow(times);
   }
   return times;
 }

@@ -1,19 +1,15 @@
 #include "processing/joint/JointPicker.h"
 
-#include "model/Mending.h"
-#include "model/Recordings.h"
 #include "model/TomoDocument.h"
-#include "processing/joint/ArrivalPath.h"
-#include "processing/joint/OnsetTrace.h"
-#include "processing/joint/PickError.h"
+#include "processing/joint/ArrivalPeriod.h"
+#include "processing/joint/JointGather.h"
 #include "processing/joint/Reciprocity.h"
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <cmath>
-#include <limits>
 #include <new>
+#include <optional>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -21,110 +17,8 @@
 namespace talvesk {
 namespace {
 
-constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-constexpr double kEarlySlack = 2e-3;   // seconds that an arrival may be earlier than the fastest
-constexpr double kLateSlack = 20e-3;   // seconds that it may be later than the slowest
-constexpr double kMedianWeight = 0.5;  // of the single-trace picks, beside the path
-constexpr double kMostPolish = 1e-3;   // seconds that they may move a pick
-
-/// A shot to be picked, and what became of it.
-struct Gather {
-  std::int32_t shot = 0;
-  std::size_t place = 0;  ///< in the list of shots
-  std::vector<const Trace*> traces;
-  std::vector<Point2D> receivers;
-  Point2D source;
-  std::vector<OnsetTrace> onsets;
-  std::vector<ArrivalChannel> channels;
-  std::vector<double> times;   ///< seconds from the first sample; not a number without a pick
-  std::vector<double> errors;  ///< seconds
-};
-
-const std::vector<double>& samplesOf(const Trace& trace, const JointPickOptions& options) {
-  const bool filtered = options.useFiltered && !trace.filtered.empty();
-  return filtered ? *trace.filtered : *trace.samples;
-}
-
-/// Seconds from the first sample to the shot: records may begin before it.
-double zeroOf(const Trace& trace) {
-  const double dropped = static_cast<double>(trace.droppedSamples) * trace.sampleInterval;
-  return std::max(0.0, -trace.delay - dropped);
-}
-
-bool usable(const Trace& trace, const Point2D& receiver, const Point2D& source) {
-  return trace.sampleInterval > 0.0 && std::isfinite(trace.sampleInterval) &&
-         std::isfinite(trace.delay) && std::isfinite(receiver.x) && std::isfinite(source.x);
-}
-
-Gather gatherOf(const TomoDocument& document, std::int32_t shot, const JointPickOptions& options,
-                JointPickOutcome& outcome) {
-  Gather gather;
-  gather.shot = shot;
-  const auto index = static_cast<std::size_t>(shot);
-  if (shot < 0 || index >= document.ttArray.size()) return gather;
-  const TravelTime& record = document.ttArray[index];
-  const TraceSet* traces = document.tracesOf(record);
-  if (traces == nullptr) return gather;
-  gather.source = record.shotPos2d;
-  gather.receivers = document.receiversOf(record);
-  const std::size_t count = std::min(traces->size(), gather.receivers.size());
-  gather.channels.resize(count);
-  for (std::size_t t = 0; t < count; ++t) {
-    const Trace& trace = (*traces)[t];
-    const bool part = takesPart(document, shot, t);
-    ++outcome.traces;
-    if (!part) ++outcome.mended;
-    const bool taken = part && usable(trace, gather.receivers[t], gather.source);
-    gather.traces.push_back(taken ? &trace : nullptr);
-    if (!taken) continue;
-    ArrivalChannel& channel = gather.channels[t];
-    channel.offset = gather.receivers[t].x - gather.source.x;
-    channel.zero = zeroOf(trace);
-    const bool fixed = options.keepConfirmed && t < record.ttMisurati.size() &&
-                       hasPick(record.ttMisurati[t]) && !record.waits(t);
-    if (fixed) channel.fixed = record.ttMisurati[t];
-  }
-  return gather;
-}
-
-void prepare(Gather& gather, const JointPickOptions& options) {
-  gather.onsets.resize(gather.channels.size());
-  for (std::size_t t = 0; t < gather.channels.size(); ++t) {
-    ArrivalChannel& channel = gather.channels[t];
-    channel.onset = &gather.onsets[t];
-    if (gather.traces[t] == nullptr) continue;
-    const double distance = std::fabs(channel.offset);
-    gather.onsets[t] =
-        prepareOnset(samplesOf(*gather.traces[t], options), gather.traces[t]->sampleInterval,
-                     channel.zero + distance / options.fastest - kEarlySlack,
-                     channel.zero + distance / options.slowest + kLateSlack);
-  }
-}
-
-/// The path goes through onsets as the energy tells them, which is early where a break stands far
-/// out of the noise. Six other opinions put that right by half of what they differ.
-double polished(const OnsetTrace& onset, const std::vector<double>& samples, double time) {
-  std::array<double, 6> single = singlePicks(onset, samples, time);
-  std::sort(single.begin(), single.end());
-  const double median = 0.5e-3 * (single[2] + single[3]);
-  return time + std::clamp(kMedianWeight * (median - time), -kMostPolish, kMostPolish);
-}
-
-void follow(Gather& gather, const JointPickOptions& options) {
-  gather.times = followArrivals(gather.channels);
-  gather.errors.assign(gather.times.size(), kNone);
-  for (std::size_t t = 0; t < gather.times.size(); ++t) {
-    double& time = gather.times[t];
-    if (std::isnan(time) || !std::isnan(gather.channels[t].fixed)) continue;
-    const std::vector<double>& samples = samplesOf(*gather.traces[t], options);
-    gather.errors[t] = pickError(gather.onsets[t], samples, time);
-    if (gather.errors[t] > 1e-3 * options.worst) {
-      time = kNone;
-    } else {
-      time = polished(gather.onsets[t], samples, time);
-    }
-  }
-}
+constexpr std::size_t kMostLooks = 5;  // gathers that tell the frequency of all
+constexpr int kLooks = 2;              // the second with what the first found
 
 /// Runs a step over all gathers on several threads, each gather on one. False when it was stopped
 /// or the machine has no memory.
@@ -135,7 +29,7 @@ class Crew {
   }
 
   template <typename Step>
-  bool run(std::vector<Gather>& gathers, Step step) {
+  bool run(std::vector<JointGather>& gathers, Step step) {
     std::atomic<std::size_t> next{0};
     const auto work = [&](bool asks) noexcept {
       try {
@@ -168,46 +62,73 @@ class Crew {
   std::atomic<bool> mFailed{false};
 };
 
-/// What the other gathers say of the ways of each.
-void takeReciprocals(std::vector<Gather>& gathers) {
-  std::vector<ArrivalCurve> curves;
-  for (const Gather& gather : gathers) {
-    ArrivalCurve& curve = curves.emplace_back();
-    curve.source = gather.source.x;
-    for (std::size_t t = 0; t < gather.times.size(); ++t) {
-      if (std::isnan(gather.times[t])) continue;
-      curve.points.push_back({gather.receivers[t].x, gather.times[t] - gather.channels[t].zero});
-    }
+/// The median of what gathers of a line say, some of them from its beginning to its end.
+std::optional<double> frequencyOf(const std::vector<JointGather>& gathers, double stretch,
+                                  Crew& crew) {
+  std::vector<JointGather> some;
+  const std::size_t count = std::min(gathers.size(), kMostLooks);
+  for (std::size_t i = 0; i < count; ++i) some.push_back(gathers[i * gathers.size() / count]);
+  std::vector<std::optional<double>> found(count);
+  crew.run(some, [&](JointGather& gather) {
+    found[static_cast<std::size_t>(&gather - some.data())] = gather.look(stretch);
+  });
+  std::vector<double> frequencies;
+  for (const std::optional<double>& one : found) {
+    if (one) frequencies.push_back(*one);
   }
-  const Reciprocity reciprocity(curves);
-  for (Gather& gather : gathers) {
-    for (std::size_t t = 0; t < gather.channels.size(); ++t) {
-      if (gather.traces[t] == nullptr) continue;
-      gather.channels[t].reciprocal = reciprocity.timeBack(gather.source.x, gather.receivers[t].x);
-    }
-  }
+  if (frequencies.empty()) return std::nullopt;
+  std::sort(frequencies.begin(), frequencies.end());
+  return frequencies[frequencies.size() / 2];
 }
 
-void store(const Gather& gather, TomoDocument& document, JointPickOutcome& outcome,
-           std::vector<double>& errors) {
-  errors.assign(gather.times.size(), kNone);
-  TravelTime& record = document.ttArray.edit()[static_cast<std::size_t>(gather.shot)];
-  std::vector<double>& times = record.ttMisurati.edit();
-  if (times.size() < gather.times.size()) times.resize(gather.times.size(), kUnpicked);
-  for (std::size_t t = 0; t < gather.times.size(); ++t) {
-    if (gather.traces[t] == nullptr) continue;
-    if (!std::isnan(gather.channels[t].fixed)) {
-      ++outcome.kept;
-      continue;
-    }
-    const bool picked = gather.times[t] > 0.0;
-    times[t] = picked ? gather.times[t] : kNoTime;
-    record.setWaiting(t, picked);
-    if (!picked) continue;
-    errors[t] = gather.errors[t];
-    record.setError(t, errors[t]);
-    ++(errors[t] <= 1e-3 * parameters::kGoodPick.value ? outcome.good : outcome.doubtful);
+double stretchOf(const std::vector<JointGather>& gathers, Crew& crew) {
+  double stretch = 1.0;
+  for (int look = 0; look < kLooks; ++look) {
+    const std::optional<double> frequency = frequencyOf(gathers, stretch, crew);
+    const double better = frequency ? stretchFor(*frequency) : stretch;
+    if (better == stretch) break;
+    stretch = better;
   }
+  return stretch;
+}
+
+void takeReciprocals(std::vector<JointGather>& gathers) {
+  std::vector<ArrivalCurve> curves;
+  for (const JointGather& gather : gathers) curves.push_back(gather.curve());
+  const Reciprocity reciprocity(curves);
+  for (JointGather& gather : gathers) gather.heed(reciprocity);
+}
+
+/// All but storing. False when it was stopped.
+bool pick(std::vector<JointGather>& gathers, Crew& crew) {
+  const double stretch = stretchOf(gathers, crew);
+  const bool first = crew.run(gathers, [&](JointGather& gather) {
+    gather.prepare(stretch);
+    gather.follow();
+    gather.refine();
+  });
+  if (!first) return false;
+  takeReciprocals(gathers);
+  return crew.run(gathers, [](JointGather& gather) {
+    gather.follow();
+    gather.refine();
+  });
+}
+
+Status noPlaces() {
+  return Status::failure(
+      Message::tr("no trace has a place and a sample interval; give the line its geometry"));
+}
+
+Status noMemory() {
+  return Status::failure(Message::tr("the machine has no memory left to pick first breaks"));
+}
+
+bool sound(const GuideLine& guide) {
+  return guide.reach >= 0.0 && std::isfinite(guide.reach) &&
+         std::all_of(guide.points.begin(), guide.points.end(), [](const Point2D& point) {
+           return std::isfinite(point.x) && std::isfinite(point.z);
+         });
 }
 
 }  // namespace
@@ -216,35 +137,46 @@ Status pickJointly(TomoDocument& document, const std::vector<std::int32_t>& shot
                    const JointPickOptions& options, JointPickOutcome& outcome,
                    const std::function<bool()>& goOn) {
   outcome = {};
-  std::vector<Gather> gathers;
+  std::vector<JointGather> gathers;
+  std::vector<std::size_t> places;
   for (std::size_t place = 0; place < shots.size(); ++place) {
-    Gather gather = gatherOf(document, shots[place], options, outcome);
-    gather.place = place;
-    const auto known = [](const Trace* trace) { return trace != nullptr; };
-    if (std::any_of(gather.traces.begin(), gather.traces.end(), known)) {
-      gathers.push_back(std::move(gather));
-    }
+    JointGather gather(document, shots[place], options);
+    outcome.traces += gather.traceCount();
+    outcome.mended += gather.mendedCount();
+    if (!gather.usable()) continue;
+    gathers.push_back(std::move(gather));
+    places.push_back(place);
   }
-  if (gathers.empty()) {
-    return Status::failure(
-        Message::tr("no trace has a place and a sample interval; give the line its geometry"));
-  }
+  if (gathers.empty()) return noPlaces();
   Crew crew(options.threads, goOn);
-  const bool done = crew.run(gathers, [&](Gather& gather) {
-    prepare(gather, options);
-    follow(gather, options);
-  }) && (takeReciprocals(gathers), crew.run(gathers, [&](Gather& gather) {
-                      follow(gather, options);
-                    }));
-  if (crew.failed()) {
-    return Status::failure(Message::tr("the machine has no memory left to pick first breaks"));
-  }
+  const bool done = pick(gathers, crew);
+  if (crew.failed()) return noMemory();
   outcome.stopped = !done;
   if (!done) return {};
   outcome.errors.resize(shots.size());
-  for (const Gather& gather : gathers) {
-    store(gather, document, outcome, outcome.errors[gather.place]);
+  for (std::size_t g = 0; g < gathers.size(); ++g) {
+    outcome.errors[places[g]] = gathers[g].store(document, outcome);
   }
+  return {};
+}
+
+Status fillAlong(TomoDocument& document, std::int32_t shot, const GuideLine& guide,
+                 const JointPickOptions& options, JointPickOutcome& outcome) {
+  outcome = {};
+  if (!sound(guide)) return Status::failure(Message::tr("the guide line has no times to follow"));
+  JointPickOptions filling = options;
+  filling.keepConfirmed = true;
+  std::vector<JointGather> gathers;
+  gathers.emplace_back(document, shot, filling);
+  outcome.traces = gathers[0].traceCount();
+  outcome.mended = gathers[0].mendedCount();
+  if (!gathers[0].usable()) return noPlaces();
+  gathers[0].heed(guide);
+  const std::function<bool()> always;
+  Crew crew(1, always);
+  pick(gathers, crew);
+  if (crew.failed()) return noMemory();
+  outcome.errors = {gathers[0].store(document, outcome)};
   return {};
 }
 

@@ -1,7 +1,7 @@
 #include "processing/joint/OnsetTrace.h"
 
 #include "numerics/Medians.h"
-#include "processing/joint/ZeroPhase.h"
+#include "processing/joint/OnsetFilters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,8 +10,9 @@
 namespace talvesk {
 namespace {
 
-constexpr double kLowCut = 8.0;     // Hz
-constexpr double kHighCut = 200.0;  // Hz
+constexpr double kLowCut = 8.0;  // Hz
+constexpr double kPi = 3.14159265358979323846;
+constexpr double kChangeCut = 20.0;  // Hz, of a wave whose change counts as much as itself
 constexpr double kFloorWindow = 10e-3;
 constexpr double kFloorShare = 0.03;
 /// Samples in a quarter of a millisecond count as one: neighbours are not independent.
@@ -26,18 +27,12 @@ constexpr Windows kRatio = {15e-3, 8e-3};
 constexpr double kShortestBefore = 1e-3;
 
 /// Sums of the energy up to every sample.
-std::vector<double> energySums(const std::vector<double>& y) {
-  double amplitude = 0.0;
-  double change = 0.0;
-  for (std::size_t i = 1; i < y.size(); ++i) {
-    amplitude += y[i] * y[i];
-    change += (y[i] - y[i - 1]) * (y[i] - y[i - 1]);
-  }
-  const double scale = change > 0.0 ? amplitude / change : 0.0;
+std::vector<double> energySums(const std::vector<double>& y, double interval) {
+  const double scale = 1.0 / (2.0 * kPi * kChangeCut * interval);
   std::vector<double> sums(y.size() + 1, 0.0);
   for (std::size_t i = 0; i < y.size(); ++i) {
-    const double slope = i == 0 ? 0.0 : y[i] - y[i - 1];
-    sums[i + 1] = sums[i] + y[i] * y[i] + slope * slope * scale;
+    const double change = i == 0 ? 0.0 : scale * (y[i] - y[i - 1]);
+    sums[i + 1] = sums[i] + y[i] * y[i] + change * change;
   }
   return sums;
 }
@@ -65,7 +60,7 @@ struct Sides {
 class Energy {
  public:
   Energy(const std::vector<double>& signal, double interval)
-      : mSums(energySums(signal)),
+      : mSums(energySums(signal, interval)),
         mInterval(interval),
         mFloor(floorOf(mSums, samplesIn(kFloorWindow, interval, 2))) {}
 
@@ -104,20 +99,23 @@ double energyRatio(const Sides& s) {
 
 }  // namespace
 
-OnsetTrace prepareOnset(const std::vector<double>& samples, double interval, double from,
-                        double to) {
+OnsetTrace prepareOnset(const std::vector<double>& samples, double interval, double from, double to,
+                        const OnsetView& view) {
   OnsetTrace trace;
   trace.interval = interval;
-  const std::size_t least = samplesIn(kShortestBefore, interval, 2);
-  if (samples.size() < 2 * least + 2 || !(interval > 0.0)) return trace;
+  if (!(interval > 0.0) || !(view.stretch > 0.0)) return trace;
+  const double step = interval / view.stretch;  // as the lengths above see it
+  const std::size_t least = samplesIn(kShortestBefore, step, 2);
+  if (samples.size() < 2 * least + 2) return trace;
   trace.signal = samples;
   const double middle = medianOf(samples, 0.0);
   for (double& sample : trace.signal) sample -= middle;
-  bandPassZeroPhase(trace.signal, interval, kLowCut, kHighCut);
+  highPassForward(trace.signal, step, kLowCut);
+  lowPassZeroPhase(trace.signal, step, view.highCut);
   trace.likelihood.assign(samples.size(), 0.0F);
   trace.likeliest = trace.likelihood;
   trace.energyRatio = trace.likelihood;
-  const Energy energy(trace.signal, interval);
+  const Energy energy(trace.signal, step);
   if (energy.silent()) return trace;
 
   const auto last = static_cast<double>(samples.size() - least);
@@ -125,10 +123,10 @@ OnsetTrace prepareOnset(const std::vector<double>& samples, double interval, dou
       std::clamp(std::ceil(from / interval), static_cast<double>(least), last));
   trace.to = static_cast<std::size_t>(
       std::clamp(std::floor(to / interval) + 1.0, static_cast<double>(trace.from), last));
-  const std::size_t varianceBefore = samplesIn(kVariance.before, interval, least);
-  const std::size_t varianceAfter = samplesIn(kVariance.after, interval, 2);
-  const std::size_t ratioBefore = samplesIn(kRatio.before, interval, least);
-  const std::size_t ratioAfter = samplesIn(kRatio.after, interval, 2);
+  const std::size_t varianceBefore = samplesIn(kVariance.before, step, least);
+  const std::size_t varianceAfter = samplesIn(kVariance.after, step, 2);
+  const std::size_t ratioBefore = samplesIn(kRatio.before, step, least);
+  const std::size_t ratioAfter = samplesIn(kRatio.after, step, 2);
   for (std::size_t i = trace.from; i < trace.to; ++i) {
     const double a = likelihoodRatio(energy.around(i, varianceBefore, varianceAfter));
     const double b = energyRatio(energy.around(i, ratioBefore, ratioAfter));

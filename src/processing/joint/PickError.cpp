@@ -8,11 +8,12 @@
 namespace talvesk {
 namespace {
 
-constexpr double kReach = 8e-3;  // seconds about the pick
-constexpr double kOwnError = 0.5;
-constexpr double kSpreadShare = 0.7;
-constexpr double kMedianShare = 0.5;
-constexpr double kNoiseScale = 28.0;
+constexpr double kReach = 8e-3;    // seconds about the pick
+constexpr double kOwnError = 0.2;  // milliseconds
+constexpr double kSpreadShare = 0.9;
+constexpr double kMedianShare = 0.3;
+constexpr double kNoiseScale = 120.0;  // of the square
+constexpr double kIntervalShare = 0.3;
 constexpr double kLongest = 1.0;  // seconds: an error that is none
 
 struct Range {
@@ -116,17 +117,21 @@ std::size_t byAverages(const std::vector<double>& y, double interval, Range with
 }  // namespace
 
 std::array<double, 6> singlePicks(const OnsetTrace& trace, const std::vector<double>& samples,
-                                  double pick) {
-  const Range within = rangeOf(pick - kReach, pick + kReach, trace);
-  const Range stretch = rangeOf(pick - 40e-3, pick + 15e-3, trace);
-  const double noise = rmsOf(trace.signal, rangeOf(pick - 30e-3, pick - 2e-3, trace));
-  const double peak = peakOf(trace.signal, rangeOf(pick, pick + 15e-3, trace));
+                                  double pick, double stretch) {
+  const auto about = [&](double from, double to) {
+    return rangeOf(pick + stretch * from, pick + stretch * to, trace);
+  };
+  const Range within = about(-kReach, kReach);
+  const Range stretchOf = about(-40e-3, 15e-3);
+  const double noise = rmsOf(trace.signal, about(-30e-3, -2e-3));
+  const double peak = peakOf(trace.signal, about(0.0, 15e-3));
+  const double step = trace.interval / stretch;
   const std::array<std::size_t, 6> found = {largestIn(trace.likeliest, within),
                                             largestIn(trace.energyRatio, within),
-                                            byInformation(trace.signal, stretch, within),
-                                            byInformation(samples, stretch, within),
+                                            byInformation(trace.signal, stretchOf, within),
+                                            byInformation(samples, stretchOf, within),
                                             byThreshold(trace.signal, noise, peak, within),
-                                            byAverages(trace.signal, trace.interval, within)};
+                                            byAverages(trace.signal, step, within)};
   std::array<double, 6> ms{};
   for (std::size_t i = 0; i < found.size(); ++i) {
     ms[i] = 1e3 * static_cast<double>(found[i]) * trace.interval;
@@ -134,25 +139,34 @@ std::array<double, 6> singlePicks(const OnsetTrace& trace, const std::vector<dou
   return ms;
 }
 
-double pickError(const OnsetTrace& trace, const std::vector<double>& samples, double pick) {
-  const Range within = rangeOf(pick - kReach, pick + kReach, trace);
-  const Range before = rangeOf(pick - 30e-3, pick - 2e-3, trace);
-  const Range swing = rangeOf(pick, pick + 15e-3, trace);
+double noiseShare(const OnsetTrace& trace, double pick, double stretch) {
+  const auto about = [&](double from, double to) {
+    return rangeOf(pick + stretch * from, pick + stretch * to, trace);
+  };
+  const double peak = peakOf(trace.signal, about(0.0, 15e-3));
+  return peak > 0.0 ? rmsOf(trace.signal, about(-30e-3, -5e-3)) / peak : 1.0;
+}
+
+double pickError(const OnsetTrace& trace, const std::vector<double>& samples, double pick,
+                 double stretch) {
+  const double reach = stretch * kReach;
+  const Range within = rangeOf(pick - reach, pick + reach, trace);
+  const Range swing = rangeOf(pick, pick + stretch * 15e-3, trace);
   if (within.to - within.from < 3 || swing.to <= swing.from) return kLongest;
-  const double noise = rmsOf(trace.signal, before);
-  const double peak = peakOf(trace.signal, swing);
-  if (!(peak > 0.0)) return kLongest;
-  std::array<double, 6> ms = singlePicks(trace, samples, pick);
+  if (!(peakOf(trace.signal, swing) > 0.0)) return kLongest;
+  std::array<double, 6> ms = singlePicks(trace, samples, pick, stretch);
   std::sort(ms.begin(), ms.end());
   double mean = 0.0;
   for (const double time : ms) mean += time / 6.0;
   double square = 0.0;
   for (const double time : ms) square += (time - mean) * (time - mean) / 6.0;
   const double median = 0.5 * (ms[2] + ms[3]);
-  const double noisy = noise > 0.0 ? kNoiseScale * noise / peak : 0.0;
   const double off = kMedianShare * (median - 1e3 * pick);
+  const double noise = noiseShare(trace, pick, stretch);
+  const double noisy = kNoiseScale * noise * noise;
+  const double coarse = kIntervalShare * 1e3 * trace.interval;
   return 1e-3 * std::sqrt(kOwnError * kOwnError + kSpreadShare * kSpreadShare * square + off * off +
-                          noisy * noisy);
+                          noisy * noisy + coarse * coarse);
 }
 
 }  // namespace talvesk

@@ -37,6 +37,7 @@ TraceColors traceColors(const QPalette& palette, bool twoColors) {
   colors.halo = colors.background;
   colors.otherPicks = choose("#7a3fbf", "#c3a0ff");
   colors.computed = choose("#00853e", "#4fdc8c");
+  colors.reciprocal = choose("#8f5600", "#ffd75e");
   colors.airWave = choose("#0077a8", "#5ccbf2");
   colors.ruler = choose("#a04400", "#ffb066");
   const QColor highlight = palette.color(QPalette::Highlight);

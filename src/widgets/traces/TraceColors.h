@@ -20,6 +20,7 @@ struct TraceColors {
   QColor halo;      ///< around picks, so that they show on filled lobes
   QColor otherPicks;
   QColor computed;
+  QColor reciprocal;
   QColor airWave;
   QColor ruler;
   QColor current;    ///< band of the current trace, translucent

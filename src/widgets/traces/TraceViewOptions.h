@@ -38,9 +38,11 @@ struct TraceViewOptions {
 
   bool showAllPicks = false;       ///< picks of the other shots at the same geophones
   bool showComputedTimes = false;  ///< times through the current velocity model
-  bool showOnlyTraces = false;     ///< neither picks nor guides; picking rests
-  bool airWave = false;            ///< line of the sound that travels through the air
-  double airVelocity = 340.0;      ///< m/s, above 0
+  bool showNeighbour = false;      ///< picks of the nearest other shot of the string
+  bool showReciprocal = false;  ///< what other shots say of the same ways, in the other direction
+  bool showOnlyTraces = false;  ///< neither picks nor guides; picking rests
+  bool airWave = false;         ///< line of the sound that travels through the air
+  double airVelocity = 340.0;   ///< m/s, above 0
 
   static constexpr double kMinGain = 0.01;
   static constexpr double kMaxGain = 1e5;
@@ -54,6 +56,7 @@ inline bool operator==(const TraceViewOptions& a, const TraceViewOptions& b) {
          a.normalise == b.normalise && a.snap == b.snap && a.snapRadius == b.snapRadius &&
          a.pickError == b.pickError && a.magnifier == b.magnifier &&
          a.showAllPicks == b.showAllPicks && a.showComputedTimes == b.showComputedTimes &&
+         a.showNeighbour == b.showNeighbour && a.showReciprocal == b.showReciprocal &&
          a.showOnlyTraces == b.showOnlyTraces && a.airWave == b.airWave &&
          a.airVelocity == b.airVelocity;
 }

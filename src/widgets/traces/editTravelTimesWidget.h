@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Point2D.h"
 #include "widgets/traces/TraceCursor.h"
 #include "widgets/traces/TraceViewOptions.h"
 
@@ -21,11 +22,12 @@ struct ViewWindow;
 /// Shift + left drag selects traces, Ctrl + Shift + left drag pulls the error bar of a pick, and
 /// the right button removes picks.
 enum class TraceTool {
-  Pick,   ///< click sets, drag moves, drag across traces draws a run
-  Zoom,   ///< drag a rectangle; a click zooms in
-  Pan,    ///< drag the picture
-  Ruler,  ///< drag a line and read its apparent velocity
-  Select  ///< drag over the traces to confirm or clear together
+  Pick,    ///< click sets, drag moves, drag across traces draws a run
+  Zoom,    ///< drag a rectangle; a click zooms in
+  Pan,     ///< drag the picture
+  Ruler,   ///< drag a line and read its apparent velocity
+  Select,  ///< drag over the traces to confirm or clear together
+  Guide    ///< drag a line along the first breaks that a picker is to follow
 };
 
 /// The errors that the keys 0 to 4 give picks, milliseconds; 0: not known.
@@ -43,8 +45,8 @@ inline constexpr std::array<double, 5> kKeyErrors = {0.0, 0.5, 1.0, 2.5, 5.0};
 /// Down move the pick by a sample (Shift 10 samples, Ctrl 1 ms); Return sets a pick like that of
 /// the neighbour; Delete removes, C confirms; 1 to 4 give the errors of kKeyErrors and 0
 /// takes them away; [ and ] change the gain, as the wheel does with Alt;
-/// M magnifier, R ruler, Escape gives up. H shows the opening view. A double click with the tool
-/// Pick picks twice, and shows not everything.
+/// M magnifier, R ruler, G guide line, Escape gives up. H shows the opening view. A double click
+/// with the tool Pick picks twice, and shows not everything.
 class editTravelTimesWidget : public QWidget {
   Q_OBJECT
 
@@ -137,6 +139,9 @@ class editTravelTimesWidget : public QWidget {
   void optionsChanged();  ///< by keys or wheel, not by setOptions()
   void toolChanged();
   void selectionChanged();  ///< current trace or selected ones
+  /// A line was drawn over traces of the shot, for a picker to follow. \param points x: receiver,
+  /// metres along the line; z: seconds
+  void guideDrawn(const std::vector<talvesk::Point2D>& points);
   /// Picks of a shot that is not shown changed.
   void shotEdited(int shot);
 

@@ -40,6 +40,8 @@ PlotTool* editTravelTimesWidget::State::toolFor(Qt::MouseButton button, Qt::Keyb
       return rulerTool.get();
     case TraceTool::Select:
       return selectTool.get();
+    case TraceTool::Guide:
+      return guideTool.get();
   }
   return nullptr;
 }

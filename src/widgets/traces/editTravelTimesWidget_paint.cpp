@@ -81,7 +81,9 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
     paintPicks(painter, scene(), map, stroke.times());
   }
   painter.restore();
-  if (!options.showOnlyTraces) paintLegend(painter, scene(), plot);
+  if (!options.showOnlyTraces && document != nullptr) {
+    paintLegend(painter, scene(), plot, *document);
+  }
   paintAxes(painter, map, traces, layout, widget.palette().color(QPalette::WindowText));
   const QStringList words = document != nullptr
                                 ? FigureWords::mends(mendsOfRecord(*document, shot), QLocale())

@@ -32,6 +32,7 @@ struct editTravelTimesWidget::State : PlotSurface {
   class RulerTool;
   class SelectTool;
   class ErrorTool;
+  class GuideTool;
 
   explicit State(editTravelTimesWidget& owner);
 
@@ -136,7 +137,8 @@ struct editTravelTimesWidget::State : PlotSurface {
   std::unique_ptr<PlotTool> rulerTool;
   std::unique_ptr<PlotTool> selectTool;
   std::unique_ptr<PlotTool> errorTool;
-  DraftError pulled;                                 ///< of the drag that pulls an error bar
+  DraftError pulled;  ///< of the drag that pulls an error bar
+  std::unique_ptr<PlotTool> guideTool;
   PickStroke stroke;                                 ///< of the drag that picks or removes
   std::optional<std::pair<QPointF, QPointF>> ruler;  ///< positions, seconds
   std::optional<QPointF> hover;                      ///< cursor, when over the plot
