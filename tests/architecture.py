@@ -24,7 +24,7 @@ ALLOWED = {
     "io": ENGINE | ALGORITHMS | {"view"},
     "export": ENGINE | ALGORITHMS | {"view"},
     "session": ENGINE | ALGORITHMS | {"view", "io", "export"},
-    "figures": ENGINE | {"refraction", "view"},
+    "figures": ENGINE | {"doctor", "refraction", "view"},
     "widgets": ENGINE | ALGORITHMS | {"view", "io", "export", "session", "figures"},
     "app": ENGINE | ALGORITHMS | {"view", "io", "export", "session", "figures", "widgets"},
     "batch": ENGINE | ALGORITHMS | {"view", "io", "export", "session", "figures"},

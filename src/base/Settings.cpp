@@ -82,6 +82,10 @@ void readStages(cereal::XMLInputArchive& archive, Settings& settings) {
   readLater(archive, "twoColors", settings.twoColors, "2020.2");
   readOwn(archive, "undoMegabytes", Settings::kLeastUndo, Settings::kMostUndo,
           settings.undoMegabytes);
+  read(archive, "errorBars", settings.errorBars);  // an own one as well
+  read(archive, "showComputedTimes", settings.showComputedTimes);
+  read(archive, "showNeighbour", settings.showNeighbour);
+  read(archive, "showReciprocalTimes", settings.showReciprocalTimes);
 }
 
 }  // namespace
@@ -109,7 +113,9 @@ Status Settings::save() const {
     cereal::XMLOutputArchive archive(stream);
     archive(CEREAL_NVP(language), CEREAL_NVP(zoomIn), CEREAL_NVP(cutHorizontal),
             CEREAL_NVP(fillWiggle), CEREAL_NVP(showFiltered), CEREAL_NVP(showAllTraces),
-            CEREAL_NVP(savePngHColorbar), CEREAL_NVP(twoColors), CEREAL_NVP(undoMegabytes));
+            CEREAL_NVP(savePngHColorbar), CEREAL_NVP(twoColors), CEREAL_NVP(undoMegabytes),
+            CEREAL_NVP(errorBars), CEREAL_NVP(showComputedTimes), CEREAL_NVP(showNeighbour),
+            CEREAL_NVP(showReciprocalTimes));
   } catch (const std::exception& error) {  // the archive writes its text as it goes out of scope
     return Status::failure(Message::tr("Cannot write %1: %2").arg(mPath).arg(error.what()));
   }

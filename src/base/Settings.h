@@ -26,6 +26,11 @@ class Settings {
   bool showAllTraces = false;     ///< show all traces
   bool twoColors = false;         ///< wiggles in two colours
   bool savePngHColorbar = false;  ///< horizontal colour bar in saved pictures
+  bool errorBars = true;          ///< over picks whose error is known
+  // Guides in the traces.
+  bool showComputedTimes = false;    ///< times through the section
+  bool showNeighbour = false;        ///< picks of the nearest shot
+  bool showReciprocalTimes = false;  ///< of other shots along the same ways
   /// What the steps of undo may cost, MB; kLeastUndo to kMostUndo.
   int undoMegabytes = 512;
   static constexpr int kLeastUndo = 16;

@@ -4,9 +4,11 @@
 #include "batch/Failure.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
+#include "batch/ReciprocityText.h"
 #include "batch/ShotPicking.h"
 #include "doctor/Doctor.h"
 #include "doctor/FindingTexts.h"
+#include "doctor/ReciprocityTable.h"
 #include "io/project/projectReader.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
@@ -114,6 +116,8 @@ int run(const CheckOptions& options) {
   }
   const Findings findings = doctor::checkRecordings(project.document);
   tell(findings, project.document, out);
+  const doctor::ReciprocityTable reciprocity = doctor::reciprocityOf(project.document);
+  tellReciprocity(reciprocity, project.document, out);
   Findings left = findings;
   if (!options.project.empty()) left = mend(findings, options, out, project);
   out.flush();
@@ -121,7 +125,7 @@ int run(const CheckOptions& options) {
   OutputAttempts attempt(&out);
   attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   attempt(options.json, [&](const auto& path) {
-    return writeOutput(path, checkJson(project.document, findings, left));
+    return writeOutput(path, checkJson(project.document, findings, left, reciprocity));
   });
   if (attempt.exitCode() != kDone) return attempt.exitCode();
   const bool doubtful = std::any_of(left.begin(), left.end(), isProposed);

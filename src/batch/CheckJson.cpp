@@ -1,6 +1,7 @@
 #include "batch/CheckJson.h"
 
 #include "batch/JsonText.h"
+#include "batch/ReciprocityText.h"
 #include "doctor/FindingTexts.h"
 #include "model/SurveyGeometry.h"
 
@@ -46,13 +47,15 @@ Json listJson(const std::vector<doctor::Finding>& findings) {
 }  // namespace
 
 std::string checkJson(const TomoDocument& document, const std::vector<doctor::Finding>& findings,
-                      const std::vector<doctor::Finding>& left) {
+                      const std::vector<doctor::Finding>& left,
+                      const doctor::ReciprocityTable& reciprocity) {
   Json files = Json::array();
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) files.push_back(shotFile(document, i));
   Json json = Json::object();
   json["files"] = std::move(files);
   json["findings"] = listJson(findings);
   json["left"] = listJson(left);
+  json["reciprocity"] = reciprocityJson(reciprocity);
   return linePerKey(json) + "\n";
 }
 

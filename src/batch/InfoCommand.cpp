@@ -12,7 +12,6 @@
 #include "io/ShotFile.h"
 #include "io/TravelTimeFile.h"
 #include "io/project/projectReader.h"
-#include "model/SurveyFacts.h"
 
 #include <algorithm>
 #include <ostream>
@@ -28,18 +27,13 @@ std::string padded(std::string text, std::size_t width) {
 void describe(const std::string& file, const TravelTimeData& data, std::ostream& out) {
   std::vector<Point2D> shots;
   std::size_t geophones = 0;
-  std::size_t times = 0;
-  std::size_t picks = 0;
   for (const auto& string : data.strings) geophones += string.size();
-  for (const TravelTime& record : data.records) {
-    shots.push_back(record.shotPos2d);
-    times += record.ttMisurati.size();
-    picks += pickCount(record);
-  }
+  for (const TravelTime& record : data.records) shots.push_back(record.shotPos2d);
   const SurveyProfile profile = measureSurvey(data.strings, shots);
   out << asOneLine(file) << "\n  format      " << data.format << "\n  strings     "
       << data.strings.size() << "\n  geophones   " << geophones << "\n  shots       "
-      << data.records.size() << "\n  picks       " << picks << " of " << times << " times\n";
+      << data.records.size() << "\n"
+      << picksText(data.records);
   if (profile.hasGeometry()) {
     out << "  spacing     " << formatDouble(profile.minSpacing) << " m (smallest)\n";
   }

@@ -4,6 +4,7 @@
 #include "batch/Images.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
+#include "batch/ReciprocityText.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
 #include "io/project/projectReader.h"
@@ -12,13 +13,14 @@ namespace talvesk {
 namespace {
 
 /// Tries every output: a picture that cannot be drawn must not cost the picks.
-int writeResults(const PickOptions& options, const LoadedProject& project) {
+int writeResults(const PickOptions& options, const LoadedProject& project,
+                 const doctor::ReciprocityTable& reciprocity) {
   const TomoDocument& document = project.document;
   OutputAttempts attempt;
   attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
   attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   attempt(options.json, [&](const auto& path) {
-    return writeOutput(path, picksJson(document, nameOf(options.shots.filter)));
+    return writeOutput(path, picksJson(document, nameOf(options.shots.filter), reciprocity));
   });
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) {
@@ -47,7 +49,10 @@ int run(const PickOptions& options) {
   Status status = pickShotFiles(options.shots, manner, project);
   if (status.ok()) status = checkPicks(project.document, options.shots.files);
   if (!status.ok()) return failed(status.message());
-  return writeResults(options, project);
+  const doctor::ReciprocityTable reciprocity = doctor::reciprocityOf(project.document);
+  tellReciprocity(reciprocity, project.document, *channels.summary);
+  channels.summary->flush();
+  return writeResults(options, project, reciprocity);
 }
 
 }  // namespace talvesk

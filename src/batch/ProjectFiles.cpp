@@ -12,6 +12,7 @@
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
 #include "model/Mending.h"
+#include "model/PickGrades.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -117,23 +118,33 @@ Status writeProject(const std::string& path, const LoadedProject& project) {
   return {};
 }
 
+std::string picksText(const std::vector<TravelTime>& records) {
+  std::size_t times = 0;
+  std::size_t picks = 0;
+  for (const TravelTime& record : records) {
+    times += record.ttMisurati.size();
+    picks += pickCount(record);
+  }
+  const PickGrades grades = gradesOf(records);
+  std::string text = "  picks       " + std::to_string(picks) + " of " + std::to_string(times) +
+                     " times\n  errors      ";
+  if (!grades.any()) return text + "-\n";
+  return text + std::to_string(grades.good) + " sure to " +
+         formatDouble(parameters::kGoodPick.value) + " ms, " + std::to_string(grades.doubtful) +
+         " doubtful, " + std::to_string(grades.unknown) + " not known\n";
+}
+
 void describe(const std::string& path, const LoadedProject& project, std::ostream& out) {
   const TomoDocument& document = project.document;
   std::size_t geophones = 0;
   std::size_t traces = 0;
-  std::size_t times = 0;
-  std::size_t picks = 0;
   for (const auto& string : document.line->goephonesStringSet) geophones += string.size();
   for (const TraceSet& set : document.recordings->traceSets) traces += set.size();
-  for (const TravelTime& record : document.ttArray) {
-    times += record.ttMisurati.size();
-    picks += pickCount(record);
-  }
   out << asOneLine(path) << "\n  format      project\n  title       " << asOneLine(document.title)
       << "\n  strings     " << document.line->goephonesStringSet.size() << "\n  geophones   "
       << geophones << "\n  shots       " << document.ttArray.size() << "\n  traces      " << traces
-      << " of " << countOf(document.recordings->traceSets.size(), "file") << "\n  picks       "
-      << picks << " of " << times << " times\n  grid        ";
+      << " of " << countOf(document.recordings->traceSets.size(), "file") << "\n"
+      << picksText(document.ttArray) << "  grid        ";
   if (const Grid* grid = document.model->grid.get()) {
     out << countOf(grid->righe(), "row") << ", " << countOf(grid->col(), "column") << " of "
         << formatDouble(grid->aLato()) << " m\n";

@@ -4,10 +4,12 @@
 
 #include <iosfwd>
 #include <string>
+#include <vector>
 
 namespace talvesk {
 
 struct LoadedProject;
+struct TravelTime;
 
 /// Whether a name ends in ".tvsk", whatever its case.
 bool isProjectFile(const std::string& path);
@@ -18,6 +20,9 @@ Status readProject(const std::string& path, LoadedProject& project);
 
 /// Saves a project. What the user should know about its shot files is warned of.
 Status writeProject(const std::string& path, const LoadedProject& project);
+
+/// The lines of a description that tell how many times are picks, and how sure these are.
+std::string picksText(const std::vector<TravelTime>& records);
 
 /// A few lines on what a project holds.
 void describe(const std::string& path, const LoadedProject& project, std::ostream& out);

@@ -1,6 +1,7 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "batch/ReciprocityText.h"
 #include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
@@ -8,6 +9,7 @@
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
 #include "model/Mending.h"
+#include "model/PickGrades.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -51,12 +53,30 @@ Json stringsJson(const std::vector<std::vector<Point2D>>& strings) {
   return list;
 }
 
+/// Null where it is not known, milliseconds.
+Json errorsJson(const TravelTime& record) {
+  Json errors = Json::array();
+  for (std::size_t trace = 0; trace < record.ttMisurati.size(); ++trace) {
+    const double sigma = record.errorOf(trace);
+    errors.push_back(sigma > 0.0 ? Json(1e3 * sigma) : Json(nullptr));
+  }
+  return errors;
+}
+
+void putGrades(Json& json, const PickGrades& grades) {
+  json["picks_good"] = grades.good;
+  json["picks_doubtful"] = grades.doubtful;
+  json["picks_of_unknown_error"] = grades.unknown;
+}
+
 Json recordJson(const TravelTime& record) {
   Json shot = Json::object();
   shot["position"] = pointJson(record.shotPos2d);
   shot["string"] = record.indexStesa;
   shot["trace_set"] = record.traceSetID;
   shot["times"] = record.ttMisurati;
+  shot["errors_ms"] = errorsJson(record);
+  putGrades(shot, gradesOf(record));
   return shot;
 }
 
@@ -167,6 +187,12 @@ void putFit(Json& json, const FittedRunResult& fit) {
   json["statics_ms"] = fit.statics.empty() ? Json(nullptr) : std::move(statics);
 }
 
+Json pickErrorsJson(const TomoDocument& document) {
+  Json errors = Json::array();
+  for (const TravelTime& record : document.ttArray) errors.push_back(errorsJson(record));
+  return errors;
+}
+
 Json tracesJson(const ShotFileData& data, bool samples) {
   Json traces = Json::array();
   for (const ShotRecord& record : data.traces) {
@@ -247,6 +273,8 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   putSectionMisfit(json, result.sectionMisfit);
   json["section_history"] = sectionHistoryJson(document.result->sectionHistory);
   json["section_times"] = sectionTimesJson(document);
+  json["errors_ms"] = pickErrorsJson(document);
+  putGrades(json, gradesOf(document.ttArray));
   json["computing_s"] = result.computingSeconds;
   if (fit != nullptr) {
     putFit(json, *fit);
@@ -284,7 +312,8 @@ std::string unreadableJson(const std::string& file, const Status& status) {
   return jsonText(failureJson(file, status)) + "\n";
 }
 
-std::string picksJson(const TomoDocument& document, const std::string& filter) {
+std::string picksJson(const TomoDocument& document, const std::string& filter,
+                      const doctor::ReciprocityTable& reciprocity) {
   Json shots = Json::array();
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const TravelTime& record = document.ttArray[i];
@@ -302,6 +331,7 @@ std::string picksJson(const TomoDocument& document, const std::string& filter) {
   json["filter"] = filter;
   json["strings"] = stringsJson(document.line->goephonesStringSet);
   json["shots"] = std::move(shots);
+  json["reciprocity"] = reciprocityJson(reciprocity);
   return linePerKey(json) + "\n";
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/Message.h"
 #include "base/Status.h"
+#include "doctor/ReciprocityTable.h"
 
 #include <string>
 #include <vector>
@@ -43,7 +44,8 @@ std::string unreadableJson(const std::string& file, const Status& status);
 
 /// Positions and picks of a survey of shot files: the keys of travelTimesJson, and what became of
 /// the traces of each shot. \param filter what was picked on
-std::string picksJson(const TomoDocument& document, const std::string& filter);
+std::string picksJson(const TomoDocument& document, const std::string& filter,
+                      const doctor::ReciprocityTable& reciprocity);
 
 /// What a project holds: positions in metres, times in seconds, velocities in m/s; keys that it has
 /// nothing for are null.

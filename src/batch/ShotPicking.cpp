@@ -290,6 +290,8 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
       Status picked =
           pickShots(next.document, shots, options.filter != PickFilter::kNone, manner.threads);
       for (const std::int32_t shot : shots) markPicksAutomatic(next.document, shot);
+      const Message early = describePicksAtFirstSample(next.document, shots);
+      if (!early.empty() && !manner.quiet) warn(early);
       return picked;
     });
   }

@@ -3,6 +3,7 @@
 #include "doctor/Placing.h"
 #include "doctor/RunForEach.h"
 
+#include <cmath>
 #include <string>
 #include <utility>
 
@@ -28,6 +29,20 @@ Message metres(double value) {
 
 Message milliseconds(double seconds) {
   return Message::number(seconds * 1e3, 4);
+}
+
+Message lateOrEarly(double shift) {
+  return shift > 0.0 ? Message::tr("late") : Message::tr("early");
+}
+
+Message lateByOthers(double shift, double error, std::size_t pairs) {
+  return Message::tr(
+             "the record is %1 ms %2: %3 times to the places of other shots differ "
+             "by that from the times back, give or take %4 ms")
+      .arg(milliseconds(std::fabs(shift)))
+      .arg(lateOrEarly(shift))
+      .arg(pairs)
+      .arg(milliseconds(error));
 }
 
 Finding aboutShot(Finding::Kind kind, const ShotView& shot, double confidence, Message text) {

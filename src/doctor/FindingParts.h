@@ -13,6 +13,11 @@ namespace talvesk::doctor {
 Message metres(double value);          ///< as a number, without the unit
 Message milliseconds(double seconds);  ///< the same
 
+/// That a record is late, or early, by what the times to other shots and back say.
+/// \param shift, error seconds; positive is late \param pairs that agree
+Message lateByOthers(double shift, double error, std::size_t pairs);
+Message lateOrEarly(double shift);
+
 /// A finding about a shot that shows its arrivals.
 Finding aboutShot(Finding::Kind kind, const ShotView& shot, double confidence, Message text);
 

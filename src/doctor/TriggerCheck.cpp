@@ -102,10 +102,6 @@ Finding ofShift(const ShotView& shot, double shift, double confidence, Message t
   return finding;
 }
 
-Message lateOrEarly(double shift) {
-  return shift > 0.0 ? Message::tr("late") : Message::tr("early");
-}
-
 /// How surely a shift is more than errors explain, 0.5 to 1; none when it is not. Noise may
 /// hide a swing up to its top, a quarter of its period.
 std::optional<double> sureness(double shift, double error, const ShotView& shot) {
@@ -121,13 +117,7 @@ std::optional<Finding> byOthers(std::size_t i, const Clocks& clocks, const ShotV
   const double shift = own.seconds - clocks.usual;
   const std::optional<double> confidence = sureness(shift, own.error, shot);
   if (!confidence) return std::nullopt;
-  return ofShift(shot, shift, *confidence,
-                 Message::tr("the record is %1 ms %2: %3 times to the places of other shots differ "
-                             "by that from the times back, give or take %4 ms")
-                     .arg(milliseconds(std::fabs(shift)))
-                     .arg(lateOrEarly(shift))
-                     .arg(own.pairs)
-                     .arg(milliseconds(own.error)));
+  return ofShift(shot, shift, *confidence, lateByOthers(shift, own.error, own.pairs));
 }
 
 /// By times at equal distances.

@@ -66,6 +66,23 @@ QStringList FigureWords::mends(const ShotMends& mends, const QLocale& locale) {
   return words;
 }
 
+QString FigureWords::pickError(double sigma, const QLocale& locale) {
+  return sigma > 0.0 ? locale.toString(1e3 * sigma, 'f', 2) : QString(QChar(0x2013));
+}
+
+QString FigureWords::errorBars() {
+  return tr("bars of one standard deviation, dashed above %1 ms")
+      .arg(QString::fromStdString(formatDouble(parameters::kGoodPick.value)));
+}
+
+QString FigureWords::grades(const PickGrades& grades) {
+  QStringList words;
+  if (grades.good > 0) words += tr("%1 good", "picks").arg(grades.good);
+  if (grades.doubtful > 0) words += tr("%1 doubtful", "picks").arg(grades.doubtful);
+  if (grades.unknown > 0) words += tr("%1 of unknown error", "picks").arg(grades.unknown);
+  return words.isEmpty() ? QString(QChar(0x2013)) : words.join(QStringLiteral(", "));
+}
+
 QString FigureWords::quantity(SectionQuantity quantity) {
   switch (quantity) {
     case SectionQuantity::kVerticalGradient:

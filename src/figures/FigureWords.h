@@ -2,6 +2,7 @@
 
 #include "base/Message.h"
 #include "model/Mends.h"
+#include "model/PickGrades.h"
 #include "view/SectionScene.h"
 
 #include <QCoreApplication>
@@ -28,6 +29,12 @@ struct FigureWords {
 
   static QString traces(std::size_t count);
   static QString picks(std::size_t count);
+  /// Milliseconds without their unit; a dash where it is not known. \param sigma seconds
+  static QString pickError(double sigma, const QLocale& locale = QLocale::c());
+  /// "20 good, 3 doubtful, 1 of unknown error"; a dash for none.
+  static QString grades(const PickGrades& grades);
+  /// What error bars in a picture are.
+  static QString errorBars();
   static QString shots(std::size_t count);
   static QString computedTimes(std::size_t count);
   static QString misfit(const SectionMisfit& misfit,

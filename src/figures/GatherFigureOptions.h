@@ -42,6 +42,7 @@ struct GatherFigureOptions {
   bool byChannel = false;
 
   bool picks = true;
+  bool errorBars = true;  ///< where errors of picks are known
   RgbColor pickColor{0.85, 0.05, 0.1};
   std::string title;  ///< UTF-8, above every shot; empty: the name of the shot's file
 };

@@ -1,5 +1,6 @@
 #include "figures/GatherItems.h"
 
+#include "figures/ErrorBar.h"
 #include "figures/FigureItem.h"
 #include "figures/FigureWords.h"
 #include "figures/GatherScene.h"
@@ -199,6 +200,13 @@ QwtPlotItem* picks(const GatherScene& scene, const QColor& color) {
     const double half = std::clamp(0.4 * spacing, 2.0, 9.0);
     for (const GatherTrace& trace : scene.traces) {
       if (!trace.pickMs) continue;
+      if (trace.errorMs > 0.0) {
+        const ErrorBar bar(xMap.transform(trace.x),
+                           timeMap.transform(*trace.pickMs - trace.errorMs),
+                           timeMap.transform(*trace.pickMs + trace.errorMs), 1e-3 * trace.errorMs,
+                           timeMap.p1(), timeMap.p2());
+        paintErrorBar(painter, bar, {color, 1.0, 2.5, Qt::white});
+      }
       drawBar(painter, color, {xMap.transform(trace.x), timeMap.transform(*trace.pickMs)}, half);
     }
   };

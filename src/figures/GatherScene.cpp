@@ -198,6 +198,7 @@ struct Counts {
   std::size_t filtered = 0;
   std::size_t picks = 0;
   std::size_t hiddenPicks = 0;
+  std::size_t errors = 0;  ///< bars of picks in the window
 };
 
 std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& mends,
@@ -225,6 +226,7 @@ std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& m
     parts += FigureWords::tr("%1 outside the times shown", "picks")
                  .arg(FigureWords::picks(counts.hiddenPicks));
   }
+  if (counts.errors > 0) parts += FigureWords::errorBars();
   parts += FigureWords::mends(mends);
   return FigureWords::joined(parts).toStdString();
 }
@@ -258,7 +260,11 @@ void addTrace(const TraceSet& set, std::size_t channel, double x, const TravelTi
       isDrawableTime(record->ttMisurati[channel])) {
     const double ms = 1e3 * record->ttMisurati[channel];
     const bool inside = ms >= scene.window.beginMs && ms <= scene.window.endMs;
-    if (inside) trace.pickMs = ms;
+    if (inside) {
+      trace.pickMs = ms;
+      if (options.errorBars) trace.errorMs = 1e3 * record->errorOf(channel);
+      if (trace.errorMs > 0.0) ++counts.errors;
+    }
     ++(inside ? counts.picks : counts.hiddenPicks);
   }
   const bool filtered = options.filtered && !source.filtered.empty();

@@ -26,6 +26,7 @@ struct GatherTrace {
   double level = 0.0;            ///< median of all samples
   double scale = kFlat;          ///< largest distance from the level within the window
   std::optional<double> pickMs;  ///< within the window
+  double errorMs = 0.0;          ///< of the pick, one standard deviation; 0: not known
 
   double timeMs(std::size_t sample) const { return static_cast<double>(sample) * intervalMs; }
   /// From -1 to 1 for a trace scaled by itself; not a number where the sample is none.

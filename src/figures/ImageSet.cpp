@@ -47,6 +47,7 @@ class Planner {
       setSize(figure);
       figure.shot = shot;
       figure.filtered = mOptions.filtered;
+      figure.errorBars = mOptions.errorBars;
       add("shot_" + withZeros(shot + 1, count),
           [&document = mDocument, figure](const std::string& path) {
             std::vector<std::string> written;
@@ -59,6 +60,7 @@ class Planner {
     if (!hasPicks(mDocument)) return;
     TravelTimeFigureOptions figure;
     setSize(figure);
+    figure.errorBars = mOptions.errorBars;
     add("traveltimes", [&document = mDocument, figure](const std::string& path) {
       return writeTravelTimeFigure(document, figure, path);
     });

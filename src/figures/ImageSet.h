@@ -21,6 +21,7 @@ struct ImageSetOptions {
   std::optional<std::size_t> shot;  ///< the one gather to draw, from 0; none: all of them
   bool filtered = false;            ///< the filtered copies of the traces
   bool travelTimes = false;
+  bool errorBars = true;                    ///< over picks whose error is known
   bool section = false;                     ///< of each of the quantities, as the view shows it
   std::vector<SectionQuantity> quantities;  ///< in this order, each once
   bool cells = true;                        ///< as cells, or in bands where contours are filled

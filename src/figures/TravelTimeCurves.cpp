@@ -8,6 +8,8 @@
 namespace talvesk {
 namespace {
 
+constexpr double kBarRoom = 0.1;  ///< of the time of a pick, for its error bar
+
 /// Geophones with a known position, by ascending x.
 std::vector<std::size_t> alongTheLine(const std::vector<Point2D>& positions) {
   std::vector<std::size_t> order;
@@ -48,7 +50,8 @@ TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool wi
   curve.record = index;
   for (const std::size_t i : order) {
     if (i >= record.ttMisurati.size() || !isDrawableTime(record.ttMisurati[i])) continue;
-    curve.picks.push_back({i, {positions[i].x, 1e3 * record.ttMisurati[i]}});
+    curve.picks.push_back(
+        {i, {positions[i].x, 1e3 * record.ttMisurati[i]}, 1e3 * record.errorOf(i)});
   }
   curve.measuredLines = linesThrough(record.ttMisurati, order, positions);
   if (withComputed) curve.computedLines = linesThrough(record.ttCalcolati, order, positions);
@@ -66,7 +69,11 @@ void takeIn(TravelTimeCurves& result, const Point2D& point, bool first) {
 void takeInTimes(TravelTimeCurves& result, const TravelTimeCurve& curve) {
   for (const auto& pick : curve.picks) {
     takeIn(result, pick.point, result.picks + result.computedTimes == 0);
+    // Of a very doubtful pick the bar is cut, lest the curves become flat.
+    const double bar = std::min(pick.errorMs, kBarRoom * pick.point.z);
+    result.latestMs = std::max(result.latestMs, pick.point.z + bar);
     ++result.picks;
+    if (pick.errorMs > 0.0) ++result.errors;
   }
   for (const auto& line : curve.computedLines) {
     for (const Point2D& p : line) {

@@ -14,6 +14,7 @@ struct TravelTimeCurve {
   struct Pick {
     std::size_t geophone = 0;  ///< of the record's string, from 0
     Point2D point;
+    double errorMs = 0.0;  ///< one standard deviation; 0: not known
   };
 
   std::size_t record = 0;   ///< from 0; chooses the colour
@@ -31,10 +32,11 @@ struct TravelTimeCurve {
 struct TravelTimeCurves {
   std::vector<TravelTimeCurve> curves;  ///< of the records with a time to draw, in order
   std::size_t picks = 0;
+  std::size_t errors = 0;  ///< picks whose error is known
   std::size_t computedTimes = 0;
   double low = 0.0;  ///< metres, all receivers of the curves and shots; 0 without a time
   double high = 0.0;
-  double latestMs = 0.0;  ///< milliseconds
+  double latestMs = 0.0;  ///< milliseconds, with some room for error bars
 };
 
 /// Removed and missing times leave a gap. Receiver positions are those of the record's geophone

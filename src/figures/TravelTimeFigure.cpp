@@ -60,6 +60,7 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
   }
   mLayout.computedTimes = mCurves.computedTimes;
   mLook.joined = mCurves.computedTimes == 0;
+  mLook.errorBars = options.errorBars;
   mCaption = caption(misfitOfTimes(document), picksChangedSince(document));
   mPlot.addAxis(QwtPlot::xBottom, FigureWords::distanceAxis());
   mPlot.addAxis(QwtPlot::yLeft, FigureWords::timeAxis());
@@ -72,6 +73,7 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
 std::string TravelTimeSheet::caption(const SectionMisfit& misfit, bool picksChanged) const {
   QStringList parts{FigureWords::shots(mCurves.curves.size()),
                     FigureWords::picks(mLayout.picks.size())};
+  if (mLook.errorBars && mCurves.errors > 0) parts += FigureWords::errorBars();
   if (mLayout.computedTimes > 0) {
     parts += FigureWords::computedTimes(mLayout.computedTimes);
     if (misfit.count > 0) parts += FigureWords::misfit(misfit);

@@ -19,6 +19,7 @@ struct TravelTimeFigureOptions {
   double heightMm = 160.0;
   double dpi = 150.0;     ///< pixels per inch of a PNG
   bool computed = true;   ///< computed times, where there are any
+  bool errorBars = true;  ///< where errors of picks are known
   std::string title;      ///< UTF-8; empty: the document's title, and without one "Travel times"
   bool showTitle = true;  ///< false: the title is for the properties of the file only
 };
@@ -40,8 +41,10 @@ struct TravelTimeFigureLayout {
 /// Draws the T-x curves of a survey and replaces the file at `path` by them, whole or not at all;
 /// the suffix decides between PNG, SVG and PDF. The picks of a shot are symbols of one colour, as
 /// is the star at the shot; its computed times are a thin line of that colour, and without them the
-/// line joins the picks of neighbouring geophones. Removed and missing picks leave a gap. Receiver
-/// positions are those of the record's geophone string, else of the headers of its traces.
+/// line joins the picks of neighbouring geophones. Removed and missing picks leave a gap.
+/// Over a pick whose error is known stands a bar of one standard deviation to either side; that of
+/// a doubtful one is dashed, and its symbol is a ring. Receiver positions are those of the record's
+/// geophone string, else of the headers of its traces.
 ///
 /// Needs the QApplication and must run on its thread. Fails without a time to draw, for a size that
 /// makes no picture, and when the file cannot be written; then a file that was there before is

@@ -1,8 +1,10 @@
 #include "figures/TravelTimeItems.h"
 
+#include "figures/ErrorBar.h"
 #include "figures/FigureItem.h"
 #include "figures/FigureWords.h"
 #include "figures/SectionItems.h"
+#include "model/PickGrades.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -15,6 +17,7 @@ namespace {
 
 constexpr double kSymbol = 4.6;  ///< points of 1/96 inch across
 constexpr double kStar = 9.0;
+constexpr double kBarEnd = 5.0;   ///< width of the ends of an error bar
 constexpr double kLarger = 1.5;   ///< symbols of the current curve, times the others
 constexpr double kThicker = 2.2;  ///< its lines
 constexpr double kFaintOnLight = 0.68;
@@ -65,6 +68,25 @@ void drawLines(QPainter& painter, const std::vector<std::vector<Point2D>>& lines
   }
 }
 
+bool isDoubtful(const TravelTimeCurve::Pick& pick) {
+  return isDoubtfulPick(1e-3 * pick.errorMs);
+}
+
+void drawErrorBar(QPainter& painter, const QColor& color, const TravelTimeCurve::Pick& pick,
+                  const QwtScaleMap& xMap, const QwtScaleMap& timeMap) {
+  const ErrorBar bar(xMap.transform(pick.point.x), timeMap.transform(pick.point.z - pick.errorMs),
+                     timeMap.transform(pick.point.z + pick.errorMs), 1e-3 * pick.errorMs,
+                     timeMap.p1(), timeMap.p2());
+  paintErrorBar(painter, bar, {color, 0.8, 0.5 * kBarEnd, {}});
+}
+
+void drawRing(QPainter& painter, const QColor& color, const QColor& ground, const QPointF& middle,
+              double size) {
+  painter.setPen(QPen(color, 1.0));
+  painter.setBrush(ground);
+  painter.drawEllipse(middle, 0.5 * size, 0.5 * size);
+}
+
 /// A ring of the ground keeps symbols apart where curves cross.
 void drawSymbol(QPainter& painter, const QColor& color, const QColor& ground, const QPointF& middle,
                 double size) {
@@ -97,9 +119,11 @@ QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, const TravelTi
       painter.setPen(QPen(color, by.lines * 0.9));
       if (look.joined) drawLines(painter, curve.measuredLines, xMap, timeMap);
       for (const auto& pick : curve.picks) {
-        drawSymbol(painter, color, look.ground,
-                   {xMap.transform(pick.point.x), timeMap.transform(pick.point.z)},
-                   by.symbols * kSymbol);
+        const bool bar = look.errorBars && pick.errorMs > 0.0;
+        if (bar) drawErrorBar(painter, color, pick, xMap, timeMap);
+        const auto draw = bar && isDoubtful(pick) ? drawRing : drawSymbol;
+        draw(painter, color, look.ground,
+             {xMap.transform(pick.point.x), timeMap.transform(pick.point.z)}, by.symbols * kSymbol);
       }
     });
   };

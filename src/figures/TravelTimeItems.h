@@ -16,6 +16,7 @@ struct TravelTimeLook {
   static constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
 
   bool joined = true;           ///< lines through the picks
+  bool errorBars = true;        ///< of picks whose error is known
   std::size_t current = kNone;  ///< record that is drawn over the others, and stronger
   bool othersFaint = false;
   QColor ground = Qt::white;  ///< what is behind; the colours of the curves stand out from it
@@ -26,6 +27,7 @@ struct TravelTimeLook {
 /// must outlive the plot; changes show when the plot is painted next.
 namespace travel_time_items {
 
+/// Picks; doubtful ones are rings where error bars are shown, and their bars are dashed.
 QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);
 QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);
 QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);

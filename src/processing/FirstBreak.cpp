@@ -110,6 +110,17 @@ Status takePicks(TomoDocument& document, std::int32_t shot,
   return status;
 }
 
+std::size_t picksAtFirstSample(const TomoDocument& document, std::int32_t shot) {
+  const TraceSet* traces = tracesOf(document, shot);
+  if (traces == nullptr) return 0;
+  const std::vector<double>& times = document.ttArray[static_cast<std::size_t>(shot)].ttMisurati;
+  std::size_t picks = 0;
+  for (std::size_t t = 0; t < std::min(times.size(), traces->size()); ++t) {
+    if (hasPick(times[t]) && times[t] == kPickWindow * (*traces)[t].sampleInterval) ++picks;
+  }
+  return picks;
+}
+
 struct Job {
   const Trace* trace;
   std::int32_t* index;
@@ -144,6 +155,34 @@ Status runJobs(const std::vector<Job>& jobs, bool useFiltered, unsigned threads)
 }
 
 }  // namespace
+
+Message describePicksAtFirstSample(const TomoDocument& document,
+                                   const std::vector<std::int32_t>& shots) {
+  constexpr std::size_t kMostNamed = 10;
+  std::size_t picks = 0;
+  std::size_t concerned = 0;
+  Message named;
+  for (const std::int32_t shot : shots) {
+    const std::size_t here = picksAtFirstSample(document, shot);
+    if (here == 0) continue;
+    picks += here;
+    if (++concerned > kMostNamed) continue;
+    const std::string separator = named.empty() ? "" : ", ";
+    named = named.english() + separator + std::to_string(shot + std::int64_t{1});
+  }
+  if (picks == 0) return {};
+  if (concerned > kMostNamed) {
+    named = Message::tr("%1 and %2 more").arg(named).arg(concerned - kMostNamed);
+  }
+  Message where = concerned == 1 ? Message::tr("shot %1").arg(std::move(named))
+                                 : Message::tr("shots %1").arg(std::move(named));
+  return Message::tr(
+             "Picks at sample %1, before which AutoPick cannot look: %2, on %3. Where the wave "
+             "came earlier, pick by hand or use AutoPick along the line.")
+      .arg(kPickWindow)
+      .arg(picks)
+      .arg(std::move(where));
+}
 
 std::int32_t pickTrace(TomoDocument& document, std::int32_t shot, std::int32_t trace,
                        bool useFiltered) {

@@ -45,4 +45,10 @@ Status pickShot(TomoDocument& document, std::int32_t shot, bool useFiltered);
 Status pickShots(TomoDocument& document, const std::vector<std::int32_t>& shots, bool useFiltered,
                  unsigned threads = 0);
 
+/// The picks of these shots at exactly sample kPickWindow, the first that the detector looks at:
+/// their waves may have come before. Says how many there are, on which shots, and what to do; empty
+/// when there are none.
+Message describePicksAtFirstSample(const TomoDocument& document,
+                                   const std::vector<std::int32_t>& shots);
+
 }  // namespace talvesk

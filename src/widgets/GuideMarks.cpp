@@ -1,6 +1,7 @@
 #include "widgets/GuideMarks.h"
 
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 #include "widgets/traces/TraceGuides.h"
 #include "widgets/traces/TraceTags.h"
 
@@ -10,7 +11,6 @@
 #include <QVector>
 #include <algorithm>
 #include <cmath>
-#include <utility>
 #include <vector>
 
 namespace talvesk {
@@ -30,6 +30,10 @@ QPolygonF toScreen(const std::vector<QPointF>& points, const TraceMapping& mappi
     line.append({std::clamp(q.x(), -kFar, kFar), std::clamp(q.y(), -kFar, kFar)});
   }
   return line;
+}
+
+QPen neighbourPen(const TraceColors& colors) {
+  return QPen(colors.otherPicks, 1.25, Qt::DashLine);
 }
 
 void paintAirWave(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping) {
@@ -69,6 +73,34 @@ void paintOtherPicks(QPainter& painter, const WiggleScene& scene, const TraceMap
   painter.drawLines(bars);
 }
 
+void paintNeighbour(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
+                    const TomoDocument& document) {
+  for (const auto& piece : nearestCurve(document, scene.traces, scene.layout).lines) {
+    const QPolygonF line = toScreen(piece, mapping);
+    painter.setPen(QPen(scene.colors.halo, 3.0));
+    painter.drawPolyline(line);
+    painter.setPen(neighbourPen(scene.colors));
+    painter.drawPolyline(line);
+  }
+}
+
+void paintDiamond(QPainter& painter, const TraceColors& colors, const QPointF& at) {
+  constexpr double kHalf = 4.5;
+  painter.setBrush(colors.reciprocal);
+  painter.setPen(QPen(colors.halo, 1.0));
+  painter.drawPolygon(QPolygonF({at + QPointF(0.0, -kHalf), at + QPointF(kHalf, 0.0),
+                                 at + QPointF(0.0, kHalf), at + QPointF(-kHalf, 0.0)}));
+  painter.setBrush(Qt::NoBrush);
+}
+
+void paintReciprocal(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
+                     const TomoDocument& document) {
+  for (const QPointF& time : reciprocalTimes(document, scene.traces, scene.layout)) {
+    const QPointF at = mapping.point(time.x(), time.y());
+    if (mapping.plot.contains(at)) paintDiamond(painter, scene.colors, at);
+  }
+}
+
 QString rulerText(const WiggleScene& scene, const QPointF& from, const QPointF& to) {
   const QString time = screenNumber(1e3 * std::fabs(to.y() - from.y()), 2);
   const auto a = distanceAt(scene.traces, scene.layout, from.x());
@@ -80,6 +112,47 @@ QString rulerText(const WiggleScene& scene, const QPointF& from, const QPointF& 
   return Texts::tr("%1 m/s (%2 m, %3 ms)").arg(screenNumber(*velocity, 0), way, time);
 }
 
+/// A row of the legend. One that names what is missing has no pen.
+struct LegendEntry {
+  QPen pen;
+  QString text;
+  bool isMark = false;
+};
+
+LegendEntry neighbourEntry(const WiggleScene& scene, const TomoDocument& document) {
+  const NeighbourCurve curve = nearestCurve(document, scene.traces, scene.layout);
+  if (curve.record < 0) return {Qt::NoPen, Texts::tr("No other shot of the string is picked")};
+  return {neighbourPen(scene.colors), Texts::tr("Shot %1 at %2 m", "number, place")
+                                          .arg(curve.record + 1)
+                                          .arg(screenNumber(curve.x, 1))};
+}
+
+std::vector<LegendEntry> legendOf(const WiggleScene& scene, const TomoDocument& document) {
+  const TraceViewOptions& options = scene.options;
+  std::vector<LegendEntry> entries;
+  if (options.showAllPicks) {
+    entries.push_back({QPen(scene.colors.otherPicks, 1.5), Texts::tr("Other shots")});
+  }
+  if (options.showNeighbour) entries.push_back(neighbourEntry(scene, document));
+  if (options.showComputedTimes) {
+    if (!computedLines(scene.traces, scene.layout).empty()) {
+      entries.push_back({QPen(scene.colors.computed, 2.0), Texts::tr("Computed")});
+    } else if (document.result->has_tomographic_info) {
+      entries.push_back({Qt::NoPen, Texts::tr("No computed times")});
+    }
+  }
+  if (options.showReciprocal) {
+    const bool any = !reciprocalTimes(document, scene.traces, scene.layout).empty();
+    entries.push_back(any ? LegendEntry{QPen(), Texts::tr("Reciprocal times"), true}
+                          : LegendEntry{Qt::NoPen, Texts::tr("No reciprocal times")});
+  }
+  if (options.airWave) {
+    entries.push_back({QPen(scene.colors.airWave, 1.5, Qt::DashLine),
+                       Texts::tr("Air %1 m/s").arg(screenNumber(options.airVelocity, 0))});
+  }
+  return entries;
+}
+
 }  // namespace
 
 void paintGuides(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
@@ -88,30 +161,22 @@ void paintGuides(QPainter& painter, const WiggleScene& scene, const TraceMapping
   painter.setRenderHint(QPainter::Antialiasing);
   if (scene.options.airWave) paintAirWave(painter, scene, mapping);
   if (scene.options.showAllPicks) paintOtherPicks(painter, scene, mapping, document);
+  if (scene.options.showNeighbour) paintNeighbour(painter, scene, mapping, document);
   if (scene.options.showComputedTimes) paintComputed(painter, scene, mapping);
+  if (scene.options.showReciprocal) paintReciprocal(painter, scene, mapping, document);
   painter.restore();
 }
 
-void paintLegend(QPainter& painter, const WiggleScene& scene, const QRectF& plot) {
-  const TraceViewOptions& options = scene.options;
-  std::vector<std::pair<QPen, QString>> entries;
-  if (options.showAllPicks) {
-    entries.emplace_back(QPen(scene.colors.otherPicks, 1.5), Texts::tr("Other shots"));
-  }
-  if (options.showComputedTimes) {
-    entries.emplace_back(QPen(scene.colors.computed, 2.0), Texts::tr("Computed"));
-  }
-  if (options.airWave) {
-    entries.emplace_back(QPen(scene.colors.airWave, 1.5, Qt::DashLine),
-                         Texts::tr("Air %1 m/s").arg(screenNumber(options.airVelocity, 0)));
-  }
+void paintLegend(QPainter& painter, const WiggleScene& scene, const QRectF& plot,
+                 const TomoDocument& document) {
+  const std::vector<LegendEntry> entries = legendOf(scene, document);
   if (entries.empty()) return;
   constexpr double kLine = 22.0;
   constexpr double kPad = 6.0;
   const QFontMetricsF metrics(painter.font());
   double width = 0.0;
   for (const auto& entry : entries) {
-    width = std::max(width, metrics.horizontalAdvance(entry.second));
+    width = std::max(width, metrics.horizontalAdvance(entry.text));
   }
   const QSizeF size(width + kLine + 3.0 * kPad,
                     metrics.height() * static_cast<double>(entries.size()) + kPad);
@@ -125,10 +190,17 @@ void paintLegend(QPainter& painter, const WiggleScene& scene, const QRectF& plot
   painter.drawRect(plate);
   painter.setBrush(Qt::NoBrush);
   QRectF row(plate.left() + kPad, plate.top() + 0.5 * kPad, width + kLine + kPad, metrics.height());
-  for (const auto& [pen, text] : entries) {
+  for (const auto& [pen, text, isMark] : entries) {
     painter.setPen(pen);
-    painter.drawLine(QPointF(row.left(), row.center().y()),
-                     QPointF(row.left() + kLine, row.center().y()));
+    if (isMark) {
+      painter.save();
+      painter.setRenderHint(QPainter::Antialiasing);
+      paintDiamond(painter, scene.colors, {row.left() + 0.5 * kLine, row.center().y()});
+      painter.restore();
+    } else {
+      painter.drawLine(QPointF(row.left(), row.center().y()),
+                       QPointF(row.left() + kLine, row.center().y()));
+    }
     painter.setPen(scene.colors.text);
     painter.drawText(row.adjusted(kLine + kPad, 0.0, 0.0, 0.0), Qt::AlignVCenter, text);
     row.translate(0.0, metrics.height());

@@ -13,8 +13,10 @@ namespace talvesk {
 void paintGuides(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                  const TomoDocument& document);
 
-/// Names the guides that are switched on, in the lower right corner of the plot.
-void paintLegend(QPainter& painter, const WiggleScene& scene, const QRectF& plot);
+/// Names the guides that are switched on, or says that there is nothing to show of them, in the
+/// lower right corner of the plot.
+void paintLegend(QPainter& painter, const WiggleScene& scene, const QRectF& plot,
+                 const TomoDocument& document);
 
 /// A line between two points (positions, seconds) with what it reads.
 void paintRuler(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,

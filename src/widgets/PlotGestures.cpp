@@ -107,10 +107,12 @@ PlotTool* PlotGestures::toolFor(const QMouseEvent& event) {
   const bool left = event.button() == Qt::LeftButton;
   const bool within = mSurface.area().contains(event.localPos());
   if (event.button() == Qt::MiddleButton || (left && mSpaceHeld)) return mPan.get();
-  if (left && (event.modifiers() & Qt::ControlModifier)) return within ? mBand.get() : nullptr;
+  const bool ctrl = (event.modifiers() & Qt::ControlModifier) != 0;
+  const bool shift = (event.modifiers() & Qt::ShiftModifier) != 0;
+  if (left && ctrl && !shift) return within ? mBand.get() : nullptr;
   PlotTool* own = mSurface.toolFor(event.button(), event.modifiers(), event.localPos());
   if (own != nullptr || !left || !within) return own;
-  return event.modifiers() & Qt::ShiftModifier ? mPan.get() : mBand.get();
+  return shift && !ctrl ? mPan.get() : mBand.get();
 }
 
 bool PlotGestures::press(const QMouseEvent& event, bool twice) {

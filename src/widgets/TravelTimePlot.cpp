@@ -1,5 +1,6 @@
 #include "widgets/TravelTimePlot.h"
 
+#include "figures/FigureWords.h"
 #include "model/TomoDocument.h"
 #include "widgets/TravelTimePlot_state.h"
 #include "widgets/traces/TraceColors.h"
@@ -55,6 +56,7 @@ void TravelTimePlot::State::buildLegend() {
   row->addWidget(shotIcon);
   row->addWidget(shotLabel);
   currentLabel = new QLabel(bar);
+  currentLabel->setObjectName(QStringLiteral("currentLabel"));
   currentLabel->setTextFormat(Qt::PlainText);
   row->addWidget(currentLabel, 1, Qt::AlignCenter);
   fitButton = new QToolButton(bar);
@@ -130,6 +132,8 @@ void TravelTimePlot::State::describeCurrent() {
     const double x = document->ttArray[static_cast<std::size_t>(current)].shotPos2d.x;
     text =
         TravelTimePlot::tr("Shot %1 at %2 m").arg(current + 1).arg(QLocale().toString(x, 'f', 1));
+    const PickGrades grades = gradesOf(document->ttArray[static_cast<std::size_t>(current)]);
+    if (grades.any()) text += QStringLiteral(": ") + FigureWords::grades(grades);
   } else if (current >= 0) {
     text = TravelTimePlot::tr("Shot %1 has no travel times yet").arg(current + 1);
   } else {
@@ -232,6 +236,16 @@ void TravelTimePlot::setShowMeasured(bool show) {
   mState->measuredShown = show;
   mState->measuredBox->setChecked(show);
   mState->followVisibility();
+}
+
+bool TravelTimePlot::showsErrorBars() const {
+  return mState->look.errorBars;
+}
+
+void TravelTimePlot::setErrorBars(bool show) {
+  if (mState->look.errorBars == show) return;
+  mState->look.errorBars = show;
+  repaintPlot();
 }
 
 void TravelTimePlot::setShowComputed(bool show) {

@@ -46,6 +46,7 @@ class TravelTimePlot : public PlotPage {
   void setHighlightedTrace(int trace);
 
   bool showsComputed() const;
+  bool showsErrorBars() const;
   bool isEmpty() const;  ///< there is no time to draw; a text says what to do
 
   /// Where a pick is, in coordinates of canvas(); none without one.
@@ -59,6 +60,7 @@ class TravelTimePlot : public PlotPage {
   void refresh();  ///< times, positions or shots of the document changed
   void setShowMeasured(bool show);
   void setShowComputed(bool show);
+  void setErrorBars(bool show);  ///< of picks whose error is known
 
  signals:
   void shotChosen(int shot);             ///< by mouse or keys, from 0

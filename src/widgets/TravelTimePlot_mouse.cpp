@@ -1,3 +1,4 @@
+#include "figures/FigureWords.h"
 #include "model/Recordings.h"
 #include "model/TomoDocument.h"
 #include "widgets/PlotGestures_tools.h"
@@ -240,6 +241,8 @@ void TravelTimePlot::State::tell(const QHelpEvent& event) {
                      .arg(pick->shot + 1)
                      .arg(pick->trace + 1)
                      .arg(milliseconds(record.ttMisurati[trace]));
+  text += QLatin1Char('\n') + TravelTimePlot::tr("Error: %1 ms")
+                                  .arg(FigureWords::pickError(record.errorOf(trace), QLocale()));
   if (trace < record.ttCalcolati.size() && record.ttCalcolati[trace] >= 0.0 &&
       curves.computedTimes > 0) {
     text += QLatin1Char('\n') +

@@ -23,7 +23,8 @@ const std::string kOf2020_2 =
 
 auto values(const Settings& s) {
   return std::make_tuple(s.language, s.fillWiggle, s.zoomIn, s.cutHorizontal, s.showFiltered,
-                         s.showAllTraces, s.twoColors, s.savePngHColorbar, s.undoMegabytes);
+                         s.showAllTraces, s.twoColors, s.savePngHColorbar, s.undoMegabytes,
+                         s.errorBars, s.showComputedTimes, s.showNeighbour, s.showReciprocalTimes);
 }
 
 std::string xml(const std::string& content) {
@@ -42,6 +43,8 @@ TEST(Settings, comeBackAsTheyWereSaved) {
   saved.fillWiggle = saved.cutHorizontal = saved.showFiltered = false;
   saved.zoomIn = saved.showAllTraces = saved.twoColors = saved.savePngHColorbar = true;
   saved.undoMegabytes = 128;
+  saved.errorBars = false;
+  saved.showComputedTimes = saved.showNeighbour = saved.showReciprocalTimes = true;
   ASSERT_TRUE(saved.save().ok());
   Settings loaded(saved.path());
   EXPECT_TRUE(loaded.load());
@@ -77,7 +80,8 @@ TEST(Settings, areWrittenInTheOrderOfTheFile) {
   for (const char* element :
        {"<language>en<", "<zoomIn>false<", "<cutHorizontal>true<", "<fillWiggle>true<",
         "<showFiltered>true<", "<showAllTraces>false<", "<savePngHColorbar>false<",
-        "<twoColors>false<", "<undoMegabytes>512<"}) {
+        "<twoColors>false<", "<undoMegabytes>512<", "<errorBars>true<", "<showComputedTimes>false<",
+        "<showNeighbour>false<", "<showReciprocalTimes>false<"}) {
     const std::size_t at = text.find(element);
     ASSERT_NE(at, std::string::npos) << element << " in\n" << text;
     EXPECT_GT(at, last) << element;
@@ -113,8 +117,9 @@ TEST_P(SettingsOfOlderVersions, keepWhatTheyHold) {
   Settings settings(folder.put("settings.xml", xml(content)));
   settings.twoColors = settings.savePngHColorbar = settings.showAllTraces = true;
   EXPECT_TRUE(settings.load());
-  EXPECT_EQ(values(settings), std::make_tuple(std::string("fr"), false, true, false, false,
-                                              GetParam().showAllTraces, false, false, 512));
+  EXPECT_EQ(values(settings),
+            std::make_tuple(std::string("fr"), false, true, false, false, GetParam().showAllTraces,
+                            false, false, 512, true, false, false, false));
   EXPECT_EQ(console.error(), GetParam().error);
   EXPECT_EQ(console.out(), GetParam().out);
 }
@@ -137,8 +142,8 @@ TEST(Settings, areReadByNameInAnyOrder) {
                           "<showAllTraces>true</showAllTraces>" +
                           kGroupOf2019 + "<language>de</language>")));
   EXPECT_TRUE(settings.load());
-  EXPECT_EQ(values(settings),
-            std::make_tuple(std::string("de"), false, true, false, false, true, true, true, 512));
+  EXPECT_EQ(values(settings), std::make_tuple(std::string("de"), false, true, false, false, true,
+                                              true, true, 512, true, false, false, false));
   EXPECT_EQ(console.out() + console.error(), "");
 }
 

@@ -44,8 +44,10 @@ TEST(Check, tellsWhatIsDoubtfulAndWhatIsProposed) {
   EXPECT_THAT(outcome.out, HasSubstr("shot 2 (at1.sg2)\n  dead traces, 100 % sure: dead: the "
                                      "samples of traces 3 and 10 are all the same\n  proposal: "
                                      "kill traces 3 and 10\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("Reciprocity: There are no picks yet.\n"));
   const ordered_json json = ordered_json::parse(contentsOf(folder / "found.json"));
   EXPECT_EQ(json["files"].size(), 3U);
+  EXPECT_TRUE(json["reciprocity"]["rms_ms"].is_null());
   ASSERT_EQ(json["left"], json["findings"]);
   const ordered_json& dead = json["findings"][0];
   EXPECT_EQ(dead["kind"], "dead_trace");

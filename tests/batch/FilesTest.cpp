@@ -162,7 +162,9 @@ TEST(Files, infoWritesItsKeysInOrderAndTimesInSeconds) {
   std::string keys;
   for (const auto& item : info.items()) keys += item.key() + " ";
   for (const auto& item : info["shots"][1].items()) keys += item.key() + " ";
-  EXPECT_EQ(keys, "format strings shots position string trace_set times ");
+  EXPECT_EQ(keys,
+            "format strings shots position string trace_set times errors_ms picks_good "
+            "picks_doubtful picks_of_unknown_error ");
   EXPECT_EQ(info["shots"][1]["trace_set"], 1);
   EXPECT_NEAR(info["shots"][1]["times"][6].get<double>(), 0.5 / 600.0, 1e-8);
 }
@@ -186,8 +188,9 @@ TEST(Files, infoForReadersCountsWhatIsThere) {
   const Outcome outcome = runBatch({"info", folder.write("line.otte", smallLine())});
   EXPECT_EQ(outcome.code, 0);
   EXPECT_EQ(outcome.err, "");
-  for (const char* text : {"format      otte", "strings     1", "geophones   13", "shots       3",
-                           "picks       39 of 39", "spacing     2 m", "0 to 24 m"}) {
+  for (const char* text :
+       {"format      otte", "strings     1", "geophones   13", "shots       3",
+        "picks       39 of 39", "errors      -", "spacing     2 m", "0 to 24 m"}) {
     EXPECT_THAT(outcome.out, HasSubstr(text));
   }
 }

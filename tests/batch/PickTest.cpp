@@ -60,9 +60,57 @@ TEST_F(Picking, goesAlongTheLineWhenAskedTo) {
     picks += shot["accepted"].get<std::size_t>();
   }
   EXPECT_GT(picks, 30U);
+  std::size_t good = 0;
+  std::size_t doubtful = 0;
+  for (const auto& shot : json["shots"]) {
+    for (std::size_t i = 0; i < shot["times"].size(); ++i) {
+      EXPECT_EQ(shot["errors_ms"][i].is_null(), shot["times"][i] < 0.0) << i;
+      if (shot["errors_ms"][i].is_null()) continue;
+      EXPECT_GE(shot["errors_ms"][i], 0.1);
+      EXPECT_LE(shot["errors_ms"][i], 6.0);
+      ++(shot["errors_ms"][i] <= 2.5 ? good : doubtful);
+    }
+    EXPECT_EQ(shot["picks_of_unknown_error"], 0);
+    good -= shot["picks_good"].get<std::size_t>();
+    doubtful -= shot["picks_doubtful"].get<std::size_t>();
+  }
+  EXPECT_EQ(good, 0U) << "as many as each shot says";
+  EXPECT_EQ(doubtful, 0U);
   const Outcome unknown = pick({"-o", mFolder / "out.otte", "--method", "best"});
   EXPECT_NE(unknown.code, 0);
   EXPECT_THAT(unknown.err, HasSubstr("'best' is none of single, joint"));
+}
+
+TEST_F(Picking, namesTheShotWhoseRecordIsLateBesideTheOthers) {
+  std::vector<std::string> files;
+  for (const double x : {0.0, 6.0, 12.0, 18.0, 24.0}) {
+    WrittenShot record = smallShot(x);
+    for (std::vector<float>& samples : record.traces) {
+      if (x == 12.0)
+        samples.insert(samples.begin(), samples.begin(), samples.begin() + 24);  // 6 ms
+    }
+    files.push_back(
+        mFolder.write("late" + std::to_string(files.size()) + ".sg2", formatSeg2(record)));
+  }
+  const std::string project = mFolder / "late.tvsk";
+  const Outcome outcome = runBatch(arguments(
+      "pick", files, {"--method", "joint", "--project", project, "--json", mFolder / "late.json"}));
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("Reciprocity: 10 pairs of shots, RMS "));
+  EXPECT_THAT(outcome.out, HasSubstr("shot 3: 4 pairs, RMS "));
+  EXPECT_THAT(outcome.out, HasSubstr(" ms late by 4 of them"));
+  EXPECT_THAT(outcome.out, HasSubstr("  largest differences:\n  shots "));
+  const ordered_json found = ordered_json::parse(contentsOf(mFolder / "late.json"))["reciprocity"];
+  EXPECT_NEAR(found["shots"][2]["mend_ms"].get<double>(), 6.0, 0.3) << found;
+  EXPECT_TRUE(found["shots"][1]["mend_ms"].is_null());
+  EXPECT_EQ(found["pairs"].size(), 10U);
+  EXPECT_EQ(found["pairs"][0]["shots"], ordered_json({0, 1}));
+  EXPECT_EQ(found["pairs"][0]["traces"], ordered_json({3, 0}));
+  EXPECT_NEAR(found["pairs"][0]["difference_ms"].get<double>(), 0.0, 0.6);
+
+  const Outcome checked = runBatch({"check", project, "--json", "-"});
+  ASSERT_EQ(checked.code, 0) << checked.err;
+  EXPECT_EQ(ordered_json::parse(checked.out)["reciprocity"]["pairs"], found["pairs"]);
 }
 
 TEST_F(Picking, writesThePicksThatItTellsOf) {
@@ -76,8 +124,9 @@ TEST_F(Picking, writesThePicksThatItTellsOf) {
   for (const auto& item : json.items()) keys += item.key() + " ";
   for (const auto& item : json["shots"][0].items()) keys += item.key() + " ";
   EXPECT_EQ(keys,
-            "filter strings shots position string trace_set times file samples_before_shot "
-            "accepted rejected ");
+            "filter strings shots reciprocity position string trace_set times errors_ms picks_good "
+            "picks_doubtful "
+            "picks_of_unknown_error file samples_before_shot accepted rejected ");
   const ordered_json written =
       ordered_json::parse(runBatch({"info", mFolder / "out.otte", "--json", "-"}).out);
   EXPECT_EQ(written["strings"], json["strings"]);
@@ -94,6 +143,8 @@ TEST_F(Picking, writesThePicksThatItTellsOf) {
     }
     EXPECT_EQ(json["shots"][shot]["accepted"], picks);
     EXPECT_EQ(json["shots"][shot]["rejected"], 13 - picks);
+    EXPECT_EQ(json["shots"][shot]["errors_ms"], ordered_json(std::vector<std::nullptr_t>(13)));
+    EXPECT_EQ(json["shots"][shot]["picks_of_unknown_error"], picks);
     accepted += picks;
   }
   EXPECT_GT(accepted, 30U);
@@ -227,6 +278,10 @@ TEST_F(Picking, thePickerIsHeardOnlyOnRequestAndQuietSaysNothing) {
   const Outcome verbose = pick({"-o", mFolder / "out.otte", "--verbose"});
   EXPECT_THAT(verbose.out, HasSubstr("opening seg2 file "));
   EXPECT_THAT(verbose.out, HasSubstr("[FIRST BREAK] TRACE 12 : "));
+  EXPECT_THAT(verbose.err, HasSubstr("Picks at sample 20, before which AutoPick cannot look: 5, on "
+                                     "shots 1, 2, 3."));
+  EXPECT_THAT(pick({"-o", mFolder / "out.otte", "--method", "joint"}).err,
+              Not(HasSubstr("at sample 20")));
   const Outcome quiet = pick({"-o", mFolder / "out.otte", "--quiet"});
   EXPECT_EQ(quiet.code, 0);
   EXPECT_EQ(quiet.out + quiet.err, "");

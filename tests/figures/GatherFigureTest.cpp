@@ -80,6 +80,27 @@ TEST(GatherFigure, picksAreMarkedAtTheirTraceAndTime) {
   }
 }
 
+TEST(GatherFigure, standsABarOverThePicksWhoseErrorIsKnown) {
+  TomoDocument document = shotDocument(1, 12, 400);
+  const auto isRed = [](const QColor& color) { return color.red() > color.green() + 80; };
+  const auto redOver = [&](const GatherFigureOptions& options, std::size_t pick, double off) {
+    const Gather gather = gatherOf(document, options, FigureFormat::kPng);
+    const auto& at = gather.layout.picks[pick];
+    return isRed(colorAt(gather.image(), gather.layout.place, at.x, at.timeMs - off));
+  };
+  EXPECT_FALSE(redOver(kDefaults, 4, 1.5));
+  document.ttArray.edit()[0].setError(4, 0.002);
+  EXPECT_TRUE(redOver(kDefaults, 4, 1.5));
+  EXPECT_FALSE(redOver(kDefaults, 4, 2.5)) << "no longer than its error";
+  EXPECT_FALSE(redOver(kDefaults, 5, 1.5)) << "nothing is known there";
+  GatherFigureOptions bare;
+  bare.errorBars = false;
+  EXPECT_FALSE(redOver(bare, 4, 1.5));
+  const std::string words = "bars of one standard deviation, dashed above 2.5 ms";
+  EXPECT_THAT(gatherOf(document, kDefaults, FigureFormat::kSvg).bytes, HasSubstr(words));
+  EXPECT_THAT(gatherOf(document, bare, FigureFormat::kSvg).bytes, ::testing::Not(HasSubstr(words)));
+}
+
 TEST(GatherFigure, wigglesLeaveTheBaseLineWhereTheirSamplesDo) {
   TomoDocument document = shotDocument(1, 8, 400);
   for (std::size_t i = 0; i < 8; ++i) {

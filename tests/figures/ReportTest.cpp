@@ -184,6 +184,23 @@ TEST(Report, tellsOfWhatTheSurveyHas) {
   }
 }
 
+TEST(Report, tellsHowPicksGoWithEachOtherThereAndBack) {
+  TomoDocument line = pickedLine(5);
+  const auto tables = [&] { return textsOf(reportOn({line}), Kind::kTable); };
+  EXPECT_THAT(textsOf(reportOn({line}), Kind::kSubheading), Contains("Reciprocity"));
+  for (double& time : line.ttArray.edit()[2].ttMisurati.edit()) {
+    if (hasPick(time)) time += 0.004;
+  }
+  const ReportContent content = reportOn({line});
+  EXPECT_THAT(textsOf(content, Kind::kParagraph),
+              Contains(HasSubstr("Shot 3: the record is 4 ms late")));
+  EXPECT_THAT(tables(), Contains(HasSubstr("Reciprocity of every shot")));
+  EXPECT_THAT(tables(), Contains(HasSubstr("Pairs of shots")));
+
+  line.ttArray.edit().resize(1);
+  EXPECT_THAT(textsOf(reportOn({line}), Kind::kSubheading), Not(Contains("Reciprocity")));
+}
+
 TEST(Report, leavesOutWhatIsNotWanted) {
   const TomoDocument line = invertedLine();
   ReportOptions options;
@@ -258,6 +275,26 @@ TEST(Report, givesEveryShotItsMisfitByHand) {
   const std::vector<Residual> residuals = residualsOf(line);
   ASSERT_EQ(residuals.size(), 2u);
   EXPECT_DOUBLE_EQ(residuals[1].offset, 2.0);
+}
+
+TEST(Report, countsThePicksOfEveryShotByTheirErrors) {
+  TomoDocument line = testing::testLine(4, 2.0, {0.0, 4.0, 6.0});
+  line.ttArray.edit()[0].ttMisurati.edit() = {0.010, 0.020, 0.030, kUnpicked};
+  line.ttArray.edit()[1].ttMisurati.edit() = {0.010, 0.020, 0.030, kNoTime};
+  for (const ReportItem& item : reportOn({line}).items) {
+    EXPECT_FALSE(item.text.contains("Errors of the picks")) << "nothing is known of any";
+  }
+  line.ttArray.edit()[0].setError(0, 0.0005);
+  line.ttArray.edit()[0].setError(1, 0.0025);
+  line.ttArray.edit()[0].setError(2, 0.004);
+  line.ttArray.edit()[1].setError(2, 0.003);
+  const ReportTable table = tableOf(reportOn({line}), "Errors of the picks of every shot");
+  const QString none = QStringLiteral("\u2013");
+  ASSERT_EQ(table.rows.size(), 4u);
+  EXPECT_EQ(table.rows[0], QStringList({"1", "3", "2", "1", "0", "2.50", "4.00"}));
+  EXPECT_EQ(table.rows[1], QStringList({"2", "3", "0", "1", "2", "3.00", "3.00"}));
+  EXPECT_EQ(table.rows[2], QStringList({"3", "0", "0", "0", "0", none, none}));
+  EXPECT_EQ(table.rows[3], QStringList({"All", "6", "2", "2", "2", "3.00", "4.00"}));
 }
 
 TEST(Report, keepsItsOwnNumbersAndThoseOfTheRun) {

@@ -18,6 +18,7 @@ namespace {
 
 using testing::firstBreak;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using testing::shotDocument;
 using ::testing::StartsWith;
 using testing::TestFolder;
@@ -79,6 +80,36 @@ TEST(TravelTimeFigure, aMissingPickBreaksTheLine) {
     EXPECT_EQ(lightnessBetween(2, 4), 255) << none;
     EXPECT_LT(lightnessBetween(4, 5), 200) << none;
   }
+}
+
+TEST(TravelTimeFigure, standsABarOverThePicksWhoseErrorIsKnown) {
+  TomoDocument document = shotDocument(1, 6, 0);
+  const std::string without = curvesOf(document, FigureFormat::kSvg).bytes;
+  EXPECT_THAT(without, Not(HasSubstr("standard deviation")));
+  document.ttArray.edit()[0].setError(2, 0.002);
+  document.ttArray.edit()[0].setError(3, 0.006);
+  const Curves curves = curvesOf(document, FigureFormat::kPng);
+  const auto darkRows = [&](std::size_t pick, double fromMs, double toMs) {
+    int dark = 0;
+    for (double off = fromMs; off <= toMs; off += 0.05) {
+      const auto& at = curves.layout.picks[pick];
+      if (curves.colorAt(at.x, at.timeMs + off).lightness() < 200) ++dark;
+    }
+    return dark / ((toMs - fromMs) / 0.05);
+  };
+  EXPECT_GT(darkRows(2, 0.9, 1.9), 0.9) << "drawn through";
+  EXPECT_EQ(darkRows(2, 2.4, 3.0), 0.0) << "and no longer than that";
+  EXPECT_LT(darkRows(3, 1.0, 5.0), 0.9) << "dashed";
+  EXPECT_GT(darkRows(3, 1.0, 5.0), 0.4);
+  EXPECT_EQ(darkRows(1, 1.5, 3.0), 0.0) << "nothing is known there";
+  EXPECT_GT(curves.colorAt(curves.layout.picks[3].x, curves.layout.picks[3].timeMs).lightness(),
+            200)
+      << "a ring";
+  EXPECT_THAT(curvesOf(document, FigureFormat::kSvg).bytes,
+              HasSubstr("bars of one standard deviation, dashed above 2.5 ms"));
+  TravelTimeFigureOptions bare;
+  bare.errorBars = false;
+  EXPECT_EQ(curvesOf(document, FigureFormat::kSvg, bare).bytes, without);
 }
 
 TEST(TravelTimeFigure, computedTimesAreTheLinesWhenThereAreAny) {

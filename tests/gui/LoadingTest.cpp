@@ -364,6 +364,8 @@ TEST_F(Loading, dropsAndNamesPicksThatCannotBe) {
 
 TEST_F(Loading, showsWhatAFileHolds) {
   loadShots(2);
+  writable().ttArray.edit()[1].ttMisurati.edit()[3] = 0.0125;
+  writable().ttArray.edit()[1].setError(3, 0.0015);
   action("actionNext_file").trigger();
   dialogs.expect([this](QWidget& dialog) {
     EXPECT_EQ(dialog.findChild<QComboBox*>("fileCBox")->currentText().toStdString(),
@@ -373,7 +375,14 @@ TEST_F(Loading, showsWhatAFileHolds) {
     EXPECT_EQ(dialog.findChild<QLabel*>("intervalValue")->text().toStdString(), "0.25 ms");
     const auto* table = dialog.findChild<QTableWidget*>("tracesTable");
     ASSERT_EQ(table->rowCount(), 12);
+    const QRect mends = dialog.findChild<QLabel*>("mendsValue")->geometry();
+    EXPECT_FALSE(mends.intersects(dialog.findChild<QLabel*>("droppedValue")->geometry()));
+    EXPECT_FALSE(mends.intersects(dialog.findChild<QComboBox*>("fileCBox")->geometry()));
     EXPECT_EQ(table->item(3, 1)->text().toStdString(), "16");
+    EXPECT_EQ(table->item(3, 8)->text().toStdString(), "12.50");
+    EXPECT_EQ(table->item(3, 9)->text().toStdString(), "1.50");
+    EXPECT_EQ(table->item(4, 8)->text(), QStringLiteral("\u2013")) << "not picked";
+    EXPECT_EQ(table->item(4, 9)->text(), QStringLiteral("\u2013"));
     dialog.close();
   });
   action("actionRecording_details").trigger();

@@ -2,6 +2,7 @@
 #include "app/LineIcon.h"
 #include "base/Log.h"
 #include "gui/WindowTest.h"
+#include "widgets/TravelTimePlot.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QApplication>
@@ -127,6 +128,23 @@ TEST_F(Preferences, areOneStateWithTheMenuAndSurviveARestart) {
   EXPECT_TRUE(window->settings().savePngHColorbar);
   EXPECT_TRUE(window->settings().twoColors);
   EXPECT_TRUE(child<editTravelTimesWidget>("showTracesWidget").options().twoColors);
+}
+
+TEST_F(Preferences, rememberWhetherErrorBarsAreShown) {
+  const auto shown = [this] {
+    return std::make_tuple(action("actionError_bars").isChecked(),
+                           child<editTravelTimesWidget>("showTracesWidget").options().errorBars,
+                           child<TravelTimePlot>("travelTimeCurves").showsErrorBars(),
+                           child<TravelTimePlot>("travelTimePreview").showsErrorBars());
+  };
+  open();
+  EXPECT_EQ(shown(), std::make_tuple(true, true, true, true));
+  action("actionError_bars").trigger();
+  EXPECT_EQ(shown(), std::make_tuple(false, false, false, false));
+  open();
+  EXPECT_EQ(shown(), std::make_tuple(false, false, false, false));
+  action("actionError_bars").trigger();
+  EXPECT_EQ(shown(), std::make_tuple(true, true, true, true));
 }
 
 TEST_F(Preferences, bringTheWindowBackInItsSize) {

@@ -1,4 +1,5 @@
 #include "gui/WindowTest.h"
+#include "model/PickGrades.h"
 #include "model/Recordings.h"
 #include "support/ShotDocument.h"
 #include "widgets/traces/editTravelTimesWidget.h"
@@ -80,6 +81,120 @@ TEST_F(Processing, picksAlongTheLineAndLeavesWhatAPersonPicked) {
               ::testing::HasSubstr("AutoPick along the line"));
   action("actionUndo").trigger();
   EXPECT_EQ(picksOf(0) + picksOf(2), 0);
+}
+
+TEST_F(Processing, gradesThePicksAlongTheLineByTheirErrors) {
+  action("actionAutoPick_line").trigger();
+  const PickGrades grades = gradesOf(window->document().ttArray[0]);
+  ASSERT_GT(grades.good + grades.doubtful, 6U);
+  EXPECT_EQ(grades.unknown, 0U);
+  const std::string told = child<QStatusBar>("statusBar").currentMessage().toStdString();
+  EXPECT_THAT(told, ::testing::HasSubstr(std::to_string(grades.good) + " have a pick"));
+  EXPECT_THAT(told, ::testing::HasSubstr(std::to_string(grades.doubtful) + " a doubtful one"));
+}
+
+TEST_F(Processing, setsErrorsByKeyAndMenuAndTellsThem) {
+  auto& view = child<editTravelTimesWidget>("showTracesWidget");
+  const auto& read = child<QLabel>("cursorLabel");
+  const SharedVector<TravelTime>& records = window->document().ttArray;
+  view.editPick(0, 3, 0.05);
+  view.editPick(0, 4, 0.05);
+  view.setCurrentTrace(2);
+  QTest::keyClick(&view, Qt::Key_Right);
+  EXPECT_THAT(read.text().toStdString(), ::testing::HasSubstr("Error \u2013 ms"));
+  EXPECT_TRUE(action("actionError_unknown").isChecked());
+  QTest::keyClick(&view, Qt::Key_1);
+  EXPECT_THAT(read.text().toStdString(), ::testing::HasSubstr("Error 0.50 ms"));
+  EXPECT_TRUE(action("actionError_05").isChecked()) << "that is what further picks get";
+  EXPECT_EQ(action("actionUndo").text().toStdString(), "Undo \"Set error of pick\"");
+
+  view.selectTraces(3, 4);
+  const std::pair<const char*, double> commands[] = {{"actionError_1", 0.001},
+                                                     {"actionError_25", 0.0025},
+                                                     {"actionError_5", 0.005},
+                                                     {"actionError_unknown", 0.0},
+                                                     {"actionError_05", 0.0005}};
+  for (const auto& [name, sigma] : commands) {
+    action(name).trigger();
+    EXPECT_DOUBLE_EQ(records[0].errorOf(3), sigma) << name;
+    EXPECT_DOUBLE_EQ(records[0].errorOf(4), sigma) << name;
+  }
+  action("actionUndo").trigger();
+  EXPECT_EQ(records[0].errorOf(4), 0.0);
+}
+
+TEST_F(Processing, fillsAShotThroughThePicksOfAPersonInOneStep) {
+  const SharedVector<TravelTime>& records = window->document().ttArray;
+  const auto told = [this] {
+    return child<QStatusBar>("statusBar").currentMessage().toStdString();
+  };
+  action("actionShow_all_traces").trigger();  // of the shot in view all the same
+  action("actionFill_along").trigger();
+  EXPECT_THAT(told(), ::testing::StartsWith("Set or confirm some picks"));
+  EXPECT_EQ(picksOf(0), 0);
+  const double late = testing::firstBreak(7) + 0.003;
+  child<editTravelTimesWidget>("showTracesWidget").editPick(0, 7, late);
+  action("actionFill_along").trigger();
+  EXPECT_GT(picksOf(0), 6);
+  EXPECT_EQ(picksOf(1), 0);
+  EXPECT_EQ(records[0].ttMisurati[7], late);
+  EXPECT_FALSE(records[0].waits(7));
+  EXPECT_TRUE(records[0].waits(8));
+  EXPECT_THAT(told(), ::testing::MatchesRegex(
+                          "Shot 1: [0-9]+ traces filled, .* 1 picks that you made stay.*"));
+  EXPECT_THAT(action("actionUndo").text().toStdString(),
+              ::testing::HasSubstr("Fill along the line"));
+  action("actionUndo").trigger();
+  EXPECT_EQ(picksOf(0), 1);
+}
+
+TEST_F(Processing, fillsTheTracesUnderALineThatIsDrawn) {
+  auto& view = child<editTravelTimesWidget>("showTracesWidget");
+  action("actionTool_guide").trigger();
+  EXPECT_EQ(view.tool(), TraceTool::Guide);
+  const auto at = [&view](int trace, double off) {
+    const double time = testing::firstBreak(static_cast<std::size_t>(trace)) + off;
+    return view.pointOf(trace, time).toPoint();
+  };
+  const auto drag = [&](int from, int to) {
+    QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, at(from, 0.001));
+    for (int trace = from; trace <= to; ++trace) {
+      QMouseEvent move(QEvent::MouseMove, at(trace, 0.001), Qt::NoButton, Qt::LeftButton,
+                       Qt::NoModifier);
+      QApplication::sendEvent(&view, &move);
+    }
+    QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, at(to, 0.001));
+  };
+  drag(5, 5);
+  EXPECT_FALSE(action("actionUndo").text().contains("Fill")) << "a click is no line";
+  drag(2, 10);
+  EXPECT_THAT(action("actionUndo").text().toStdString(),
+              ::testing::HasSubstr("Fill along the line"));
+  for (std::size_t trace = 2; trace <= 10; ++trace) {
+    const double time = window->document().ttArray[0].ttMisurati[trace];
+    if (!hasPick(time)) continue;
+    EXPECT_NEAR(time, testing::firstBreak(trace), 0.011) << trace;
+  }
+  EXPECT_GT(picksOf(0), 6);
+}
+
+TEST_F(Processing, tellsAfterAutoPickHowManyPicksLieWhereItCannotLookBefore) {
+  const auto told = [this] {
+    return child<QStatusBar>("statusBar").currentMessage().toStdString();
+  };
+  action("actionAutoPick").trigger();
+  EXPECT_THAT(told(), ::testing::Not(::testing::HasSubstr("at sample 20")));
+  for (Trace& trace : writable().recordings.edit().traceSets[0]) {
+    // Already shaking where the picker begins to look.
+    for (std::size_t k = 0; k < trace.samples.size(); ++k) {
+      trace.samples.edit()[k] = k < 10 ? 0.0 : k % 2 == 0 ? 1e3 : -1e3;
+    }
+  }
+  showWritten();
+  action("actionAutoPick").trigger();
+  ASSERT_GT(picksOf(0), 6);
+  EXPECT_THAT(told(), ::testing::HasSubstr("at sample 20, before which AutoPick cannot look: " +
+                                           std::to_string(picksOf(0)) + ", on shot 1."));
 }
 
 TEST_F(Processing, tellsOfTheShotInViewAndOnlyBesideItsTraces) {

@@ -34,6 +34,29 @@ std::vector<double> screened(const std::vector<double>& geophones, std::vector<d
   return document.ttArray[0].ttMisurati;
 }
 
+TEST(FirstSample, isToldWithTheShotsWherePicksLieThere) {
+  TomoDocument document;
+  const auto say = [&document](const std::vector<std::int32_t>& shots) {
+    return describePicksAtFirstSample(document, shots).english();
+  };
+  std::vector<std::int32_t> all;
+  for (std::int32_t shot = 0; shot < 12; ++shot) {
+    addShot(document, {10.0, 20.0, 30.0}, {traceOf({}), traceOf({}), traceOf({})});
+    document.ttArray.edit()[static_cast<std::size_t>(shot)].ttMisurati.edit() = {
+        19 * kInterval, 21 * kInterval, kNoTime};
+    all.push_back(shot);
+  }
+  EXPECT_EQ(say(all), "");
+  document.ttArray.edit()[1].ttMisurati.edit() = {20 * kInterval, 20 * kInterval, 0.1};
+  document.ttArray.edit()[4].ttMisurati.edit()[2] = 20 * kInterval;
+  EXPECT_THAT(say(all), HasSubstr("at sample 20, before which AutoPick cannot look: 3, on shots "
+                                  "2, 5. Where"));
+  EXPECT_THAT(say({4}), HasSubstr(": 1, on shot 5. Where"));
+  EXPECT_EQ(say({0, 7, -1, 99}), "");
+  for (TravelTime& record : document.ttArray.edit()) record.ttMisurati.edit()[0] = 20 * kInterval;
+  EXPECT_THAT(say(all), HasSubstr("on shots 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 and 2 more."));
+}
+
 TEST(Screening, keepsWhatTheApparentVelocityAllows) {
   constexpr double no = kNoTime;
   const struct {

@@ -63,6 +63,18 @@ TEST(PickStroke, aMovedPickStaysOnItsTrace) {
   EXPECT_THAT(stroke.times(), ElementsAre(Pair(3, 0.020)));
 }
 
+TEST(PickStroke, aMovedPickThatIsDrawnOverIsSetWhereTheStrokeBegan) {
+  const TraceLayout layout = TraceLayout::byChannel(8);
+  PickStroke stroke;
+  stroke.begin(PickStroke::Kind::Move, 3, {3.0, 0.010}, layout, kAsItIs);
+  stroke.moveTo(3, {3.4, 0.011}, layout, kAsItIs);
+  stroke.drawOn();
+  stroke.moveTo(5, {5.0, 0.030}, layout, kAsItIs);
+  EXPECT_THAT(
+      stroke.times(),
+      ElementsAre(Pair(3, 0.010), Pair(4, DoubleEq(0.011 + 0.019 * 0.6 / 1.6)), Pair(5, 0.030)));
+}
+
 TEST(PickStroke, removingPassesOverTraces) {
   const TraceLayout layout = TraceLayout::byChannel(8);
   PickStroke stroke;

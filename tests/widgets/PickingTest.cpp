@@ -59,11 +59,13 @@ TEST_F(Picking, clicksBesideTheTracesDoNothing) {
   EXPECT_FALSE(mUser.session.canUndo());
 }
 
-TEST_F(Picking, aDragMovesThePickOfItsTraceOnly) {
+TEST_F(Picking, aDragUpOrDownMovesThePickOfItsTraceOnly) {
   mUser.setPick(4, 0.05);
-  mUser.dragTo(mUser.at(4, 0.05), mUser.at(7, 0.12));
+  const QPoint wandering((mUser.at(4, 0.12) + mUser.at(5, 0.12)) / 2 + QPoint(8, 0));
+  ASSERT_EQ(mWidget.traceAt(wandering), 5);
+  mUser.dragTo(mUser.at(4, 0.05), wandering);
   EXPECT_NEAR(mUser.pick(4), 0.12, mUser.pixel());
-  EXPECT_EQ(mUser.pick(7), kUnpicked);
+  EXPECT_EQ(mUser.pick(5), kUnpicked);
   EXPECT_EQ(mAdded.count(), 0);
   EXPECT_EQ(mEdited.count(), 1) << "one edit, when the button is up";
   mUser.session.undo();
@@ -80,6 +82,29 @@ TEST_F(Picking, aDragAcrossTracesDrawsARunAndIsOneEdit) {
   EXPECT_EQ(mUser.session.steps(), 1U);
   mUser.session.undo();
   EXPECT_EQ(mUser.pick(5), kUnpicked);
+}
+
+TEST_F(Picking, aStrokeThatBeginsOnAPickSetsIt) {
+  for (int trace = 3; trace <= 9; ++trace) mUser.setPick(trace, 0.06);
+  mUser.dragTo(mUser.at(4, 0.06), mUser.at(8, 0.08));
+  EXPECT_NEAR(mUser.pick(4), 0.06, mUser.pixel()) << "it was not dragged away";
+  for (int trace = 4; trace <= 8; ++trace) {
+    EXPECT_NEAR(mUser.pick(trace), 0.06 + 0.005 * (trace - 4), mUser.pixel()) << trace;
+  }
+  EXPECT_EQ(mUser.pick(3), 0.06);
+  EXPECT_EQ(mUser.pick(9), 0.06);
+  EXPECT_EQ(mUser.session.undoText().english(), "Draw picks");
+  mUser.session.undo();
+  EXPECT_EQ(mUser.pick(6), 0.06);
+  EXPECT_FALSE(mUser.session.canUndo());
+}
+
+TEST_F(Picking, aStrokeOverPicksSetsThoseThatItCrosses) {
+  for (int trace = 0; trace < 12; ++trace) mUser.setPick(trace, 0.09);
+  mUser.dragTo(mUser.at(2, 0.05), mUser.at(10, 0.13));
+  for (int trace = 2; trace <= 10; ++trace) {
+    EXPECT_NEAR(mUser.pick(trace), 0.05 + 0.01 * (trace - 2), mUser.pixel()) << trace;
+  }
 }
 
 TEST_F(Picking, aShakingHandPicksOneTrace) {

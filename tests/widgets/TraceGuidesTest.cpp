@@ -78,6 +78,41 @@ TEST(TraceGuides, otherShotsCountAtTheSamePlaces) {
                           QPointF(3.0, 0.022)));
 }
 
+TEST(TraceGuides, theNearestShotOfTheStringIsTheNextOneThatIsPicked) {
+  TomoDocument document = testShots(5, 10, {0.0, 2.0, 3.0, 8.0, -3.0});
+  document.ttArray.edit()[1].indexStesa = 1;  // nearest, but of another string
+  document.ttArray.edit()[1].ttMisurati.edit().assign(5, 0.9);
+  document.ttArray.edit()[3].ttMisurati.edit().assign(5, 0.8);
+  const auto nearest = [&document](int shot = 0) {
+    const Seen seen(document, shot);
+    return nearestCurve(document, seen.traces, seen.layout);
+  };
+  EXPECT_EQ(nearest().record, 3) << "nearer ones are not picked";
+  document.ttArray.edit()[4].ttMisurati.edit().assign(5, 0.7);
+  document.ttArray.edit()[2].ttMisurati.edit() = {0.01, 0.02, kNoTime, 0.03, kUnpicked};
+  const NeighbourCurve curve = nearest();
+  EXPECT_EQ(curve.record, 2) << "of two equally near ones the first";
+  EXPECT_EQ(curve.x, 3.0);
+  ASSERT_EQ(curve.lines.size(), 2U);
+  EXPECT_THAT(curve.lines[0], ElementsAre(QPointF(0.0, 0.01), QPointF(1.0, 0.02)));
+  EXPECT_THAT(curve.lines[1], ElementsAre(QPointF(3.0, 0.03)));
+  EXPECT_EQ(nearest(1).record, -1) << "alone on its string";
+}
+
+TEST(TraceGuides, reciprocalTimesStandWhereTheOtherShotsAre) {
+  TomoDocument document = testShots(5, 10, {1.0, 5.0, 8.0, 30.0});
+  document.ttArray.edit()[1].ttMisurati.edit() = {0.04, 0.06, 0.01, 0.01, 0.01};
+  document.ttArray.edit()[2].ttMisurati.edit() = {kUnpicked, kUnpicked, 0.01, 0.01, 0.01};
+  document.ttArray.edit()[3].ttMisurati.edit().assign(5, 0.1);
+  const Seen seen(document);
+  const auto times = reciprocalTimes(document, seen.traces, seen.layout);
+  ASSERT_EQ(times.size(), 1U) << "the third did not see the shot, the fourth is not among traces";
+  EXPECT_DOUBLE_EQ(times[0].x(), 2.5);
+  EXPECT_NEAR(times[0].y(), 0.05, 1e-12) << "between its two nearest geophones";
+  document.ttArray.edit()[0].shotPos2d.x = NAN;
+  EXPECT_TRUE(reciprocalTimes(document, seen.traces, seen.layout).empty());
+}
+
 TEST(ShotTraces, readWhatThereIs) {
   TomoDocument document = testShots(3, 100);
   document.recordings.edit().traceSets[0][1].filtered.edit().assign(50, 8.0);

@@ -196,9 +196,9 @@ TEST_F(TraceView, everyGuideShowsAndGoesAgain) {
   mDocument.ttArray.edit()[1].ttMisurati.edit().assign(24, 0.35);
   const QImage bare = picture();
   const TraceViewOptions none = mWidget.options();
-  const std::vector<bool TraceViewOptions::*> guides{&TraceViewOptions::airWave,
-                                                     &TraceViewOptions::showAllPicks,
-                                                     &TraceViewOptions::showComputedTimes};
+  const std::vector<bool TraceViewOptions::*> guides{
+      &TraceViewOptions::airWave, &TraceViewOptions::showAllPicks, &TraceViewOptions::showNeighbour,
+      &TraceViewOptions::showReciprocal, &TraceViewOptions::showComputedTimes};
   for (const auto guide : guides) {
     TraceViewOptions one = none;
     one.*guide = true;
@@ -247,6 +247,7 @@ TEST_F(TraceView, survivesWhateverTheDocumentHolds) {
     options.snapRadius = nan;
     options.airVelocity = 0.0;
     options.airWave = options.showAllPicks = options.showComputedTimes = options.magnifier = true;
+    options.showNeighbour = options.showReciprocal = true;
     options.snap = PickSnap::Onset;
     mWidget.setOptions(options);
     mWidget.documentChanged();

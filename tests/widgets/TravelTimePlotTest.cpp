@@ -266,6 +266,26 @@ TEST_F(TravelTimes, hiddenPicksCannotBeDraggedAndComputedTimesNeedSome) {
   EXPECT_TRUE(plot.showsComputed());
 }
 
+TEST_F(TravelTimes, standBarsOverPicksWhoseErrorIsKnown) {
+  const QPoint above = at(0, 6) - QPoint(0, static_cast<int>(0.003 / secondsPerPixel()));
+  const auto marked = [&] {
+    const QImage image = plot.canvas()->grab().toImage();
+    return image.pixelColor(above) != plot.palette().color(QPalette::Base) ||
+           image.pixelColor(above - QPoint(1, 0)) != plot.palette().color(QPalette::Base);
+  };
+  const auto* label = plot.findChild<QLabel*>("currentLabel");
+  ASSERT_FALSE(marked());
+  EXPECT_EQ(label->text().toStdString(), "Shot 1 at -1.0 m");
+  document.ttArray.edit()[0].setError(6, 0.004);
+  document.ttArray.edit()[0].setError(7, 0.001);
+  plot.refresh();
+  EXPECT_TRUE(marked());
+  EXPECT_EQ(label->text().toStdString(),
+            "Shot 1 at -1.0 m: 1 good, 1 doubtful, 10 of unknown error");
+  plot.setErrorBars(false);
+  EXPECT_FALSE(marked());
+}
+
 TEST_F(TravelTimes, previewFadesTheOtherShotsOnLightAndDarkGround) {
   plot.setRole(TravelTimePlot::Role::CurrentShot);
   for (const bool dark : {false, true}) {

@@ -1,6 +1,7 @@
 #include "app/dialogs/RecordingDetailsDialog.h"
 
 #include "app/MessageText.h"
+#include "figures/FigureWords.h"
 #include "io/ReadShotFile.h"
 #include "model/Mending.h"
 #include "model/Recordings.h"
@@ -48,6 +49,21 @@ QString pathsOf(const TomoDocument& document, std::size_t set) {
   if (pair)
     paths += QLatin1Char('\n') + QString::fromStdString(document.recordings->filenames_SX[set]);
   return paths.isEmpty() ? QStringLiteral("-") : paths;
+}
+
+/// The times of a trace set; none where it has no record.
+TravelTime timesOf(const TomoDocument& document, int set) {
+  const std::vector<TravelTime>& records = document.ttArray;
+  const auto found = std::find_if(records.begin(), records.end(), [set](const TravelTime& record) {
+    return record.traceSetID == set;
+  });
+  return found == records.end() ? TravelTime() : *found;
+}
+
+QString pickText(const TravelTime& record, std::size_t trace) {
+  const bool picked = trace < record.ttMisurati.size() && hasPick(record.ttMisurati[trace]);
+  return picked ? QLocale().toString(1e3 * record.ttMisurati[trace], 'f', 2)
+                : QString(QChar(0x2013));
 }
 
 QString formatName(const QString& id) {
@@ -134,6 +150,7 @@ void RecordingDetailsDialog::showSet(int index) {
 
 void RecordingDetailsDialog::fillTable(int index) {
   const TraceSet& traces = mDocument.recordings->traceSets[static_cast<std::size_t>(index)];
+  const TravelTime record = timesOf(mDocument, index);
   QTableWidget& table = *mUi->tracesTable;
   table.setRowCount(static_cast<int>(traces.size()));
   for (std::size_t row = 0; row < traces.size(); ++row) {
@@ -145,7 +162,9 @@ void RecordingDetailsDialog::fillTable(int index) {
                               number(trace.sourcePosition.z),
                               QLocale().toString(static_cast<qulonglong>(trace.samples.size())),
                               number(1000.0 * trace.sampleInterval),
-                              number(1000.0 * trace.delay)};
+                              number(1000.0 * trace.delay),
+                              pickText(record, row),
+                              FigureWords::pickError(record.errorOf(row), QLocale())};
     int column = 0;
     for (const QString& value : values) {
       auto* item = new QTableWidgetItem(value);

@@ -88,6 +88,7 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
       {"actionAutoPick", &State::shotInView, call(p.processing, &ProcessingPresenter::autoPick)},
       {"actionAutoPick_line", &State::shotInView,
        call(p.processing, &ProcessingPresenter::autoPickAlongLine)},
+      {"actionFill_along", &State::shotInView, [&p](bool) { p.processing.fillAlong(); }},
       {"actionFilter", &State::shotInView, call(p.processing, &ProcessingPresenter::filter)},
       {"actionAGC", &State::shotInView, call(p.processing, &ProcessingPresenter::agc)},
       {"actionApply_Hushel", &State::shotInView, call(p.processing, &ProcessingPresenter::hushel),
@@ -106,6 +107,7 @@ Rows shotRows(Desk& desk, Presenters& p) {
       {"actionPrev_file", &State::records, call(desk.shot, &ShotInView::showPrevious)},
       {"actionRecording_details", &State::traces, call(p.traces, &TracesPresenter::showDetails)},
       {"actionCheck_recordings", &State::traces, call(p.checks, &CheckPresenter::check)},
+      {"actionReciprocity", &State::records, call(p.reciprocity, &ReciprocityPresenter::show)},
       {"actionCount_from_shot", &State::beforeShot, [&desk](bool) { countTimesFromShot(desk); }},
       {"actionMend_recording", &State::shotInView, call(p.traces, &TracesPresenter::mendRecording)},
       {"actionTake_back_mends", &State::mends, call(p.traces, &TracesPresenter::takeBackMends)},
@@ -118,6 +120,10 @@ Rows shotRows(Desk& desk, Presenters& p) {
        call(traces, &editTravelTimesWidget::removePicks)},
       {"actionRemove_unconfirmed", &State::unconfirmedInRange,
        call(traces, &editTravelTimesWidget::removeUnconfirmedPicks)},
+      {"actionNext_doubtful", &State::picksToReview,
+       call(p.review, &ReviewPresenter::showNextDoubtful)},
+      {"actionPrevious_doubtful", &State::picksToReview,
+       call(p.review, &ReviewPresenter::showPreviousDoubtful)},
       {"actionGain_up", &State::shotInView, call(p.traceOptions, &TraceOptionsPresenter::gainUp)},
       {"actionGain_down", &State::shotInView,
        call(p.traceOptions, &TraceOptionsPresenter::gainDown)},
@@ -128,12 +134,21 @@ Rows shotRows(Desk& desk, Presenters& p) {
   };
 }
 
-Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
+Rows traceViewRows(Desk& desk, Presenters& p) {
   TraceOptionsPresenter& view = p.traceOptions;
   using Options = TraceViewOptions;
   const auto setting = [&view](const char* object, bool Settings::*what) {
     return Command{object, always, turn(view, &TraceOptionsPresenter::setSetting, what),
                    [what](const State& state) { return state.settings.*what; }};
+  };
+  const auto computedTimes = [&p](const char* object) {
+    return Command{
+        object, &State::computed,
+        [&p](bool shown) {
+          p.traceOptions.setSetting(&Settings::showComputedTimes, shown);
+          p.curves.refresh();
+        },
+        [](const State& state) { return state.computed && state.settings.showComputedTimes; }};
   };
   const auto option = [&view](const char* object, bool Options::*what) {
     return Command{object, always, turn(view, &TraceOptionsPresenter::setOption, what),
@@ -155,9 +170,20 @@ Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
                    nullptr,
                    "snap"};
   };
+  editTravelTimesWidget& traces = *desk.ui.showTracesWidget;
+  const auto error = [&traces](const char* object, std::size_t key) {
+    const double sigma = 1e-3 * kKeyErrors[key];
+    return Command{object,
+                   &State::recordInView,
+                   call(traces, &editTravelTimesWidget::setPickErrors, sigma),
+                   [sigma](const State& state) { return state.traceView.pickError == sigma; },
+                   nullptr,
+                   "error"};
+  };
   return {
       setting("actionFill_wiggle", &Settings::fillWiggle),
       setting("actionTwo_colors", &Settings::twoColors),
+      setting("actionError_bars", &Settings::errorBars),
       setting("actionCut_horizontal", &Settings::cutHorizontal),
       setting("actionZoom_in", &Settings::zoomIn),
       setting("actionShow_filtered", &Settings::showFiltered),
@@ -172,10 +198,16 @@ Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
       tool("actionTool_pan", TraceTool::Pan),
       tool("actionTool_ruler", TraceTool::Ruler),
       tool("actionTool_select", TraceTool::Select),
+      tool("actionTool_guide", TraceTool::Guide),
       snap("actionSnap_none", PickSnap::None),
       snap("actionSnap_onset", PickSnap::Onset),
       snap("actionSnap_zero", PickSnap::ZeroCrossing),
       snap("actionSnap_peak", PickSnap::Peak),
+      error("actionError_unknown", 0),
+      error("actionError_05", 1),
+      error("actionError_1", 2),
+      error("actionError_25", 3),
+      error("actionError_5", 4),
       {"show_filtered_cb", &State::filteredCopy,
        turn(view, &TraceOptionsPresenter::setSetting, &Settings::showFiltered),
        [](const State& state) { return state.filteredCopy && state.settings.showFiltered; }},
@@ -183,11 +215,10 @@ Rows traceViewRows(Desk& /*desk*/, Presenters& p) {
        turn(view, &TraceOptionsPresenter::setOption, &Options::showAllPicks)},
       {"showTravelTimeCB", &State::records, turn(view, &TraceOptionsPresenter::setOnlyTraces),
        nullptr, "update_show_traces"},
-      {"showSimTT_CB", &State::computed,
-       [&p](bool shown) {
-         p.traceOptions.setOption(&Options::showComputedTimes, shown);
-         p.curves.refresh();
-       }},
+      computedTimes("showSimTT_CB"),
+      computedTimes("actionGuide_computed"),
+      setting("actionGuide_neighbour", &Settings::showNeighbour),
+      setting("actionGuide_reciprocal", &Settings::showReciprocalTimes),
   };
 }
 

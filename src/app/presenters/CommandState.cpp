@@ -41,6 +41,7 @@ CommandState::CommandState(const Desk& desk)
   beforeShot = anyStartsBeforeShot(document.recordings->traceSets);
   picksInRange = editor.hasPicksInRange(false);
   unconfirmedInRange = editor.hasPicksInRange(true);
+  picksToReview = records && !traceView.showOnlyTraces;
   canZoomBack = recordInView && editor.canZoomBack();
   canZoomForward = recordInView && editor.canZoomForward();
   canUndo = desk.session.canUndo();

@@ -21,6 +21,7 @@ struct CommandState {
   bool beforeShot;    ///< traces still begin before their shot
   bool picksInRange;  ///< where the traces are selected
   bool unconfirmedInRange;
+  bool picksToReview;  ///< they are shown
   bool canZoomBack;
   bool canZoomForward;
   bool canUndo;

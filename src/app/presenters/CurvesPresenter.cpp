@@ -29,19 +29,8 @@ CurvesPresenter::CurvesPresenter(Desk& desk) : mDesk(desk) {
       for (TravelTimePlot* plot : mDesk.plots()) plot->setDocument(&mDesk.document());
     }
     if (!change.parts.has(Part::kGeometry) && !change.parts.has(Part::kResult)) return;
-    if (!mDesk.document().result->has_tomographic_info) hideComputed();
     refresh();
   });
-}
-
-/// In the traces, too: times of a result to come are shown when they are asked for.
-void CurvesPresenter::hideComputed() {
-  mDesk.ui.showSimTT_CB->setChecked(false);
-  for (editTravelTimesWidget* editor : mDesk.editors()) {
-    TraceViewOptions view = editor->options();
-    view.showComputedTimes = false;
-    editor->setOptions(view);
-  }
 }
 
 void CurvesPresenter::refresh() {
@@ -49,7 +38,8 @@ void CurvesPresenter::refresh() {
     plot->refresh();
     plot->setCurrentShot(mDesk.shot.index());
   }
-  mDesk.ui.travelTimePreview->setShowComputed(mDesk.ui.showSimTT_CB->isChecked());
+  mDesk.ui.travelTimePreview->setShowComputed(mDesk.settings.showComputedTimes &&
+                                              mDesk.document().result->has_tomographic_info);
 }
 
 void CurvesPresenter::exportPicture() {
@@ -59,6 +49,7 @@ void CurvesPresenter::exportPicture() {
   if (file.isEmpty()) return;
   TravelTimeFigureOptions options;
   options.computed = mDesk.ui.travelTimeCurves->showsComputed();
+  options.errorBars = mDesk.ui.travelTimeCurves->showsErrorBars();
   if (const Status status = writeTravelTimeFigure(mDesk.document(), options, file.toStdString());
       !status.ok()) {
     mDesk.tellFailure(tr("The picture has not been saved."), status);

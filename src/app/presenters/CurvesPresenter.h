@@ -17,7 +17,6 @@ class CurvesPresenter : public QObject {
 
  private:
   void exportPicture();
-  void hideComputed();
 
   Desk& mDesk;
   Session::Subscription mSubscription;

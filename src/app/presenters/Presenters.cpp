@@ -6,6 +6,7 @@ Presenters::Presenters(Desk& desk)
     : settings(desk),
       traces(desk),
       checks(desk),
+      reciprocity(desk),
       traceOptions(desk),
       curves(desk),
       section(desk),
@@ -20,6 +21,7 @@ Presenters::Presenters(Desk& desk)
       models(desk, geometry),
       inversion(desk, models),
       processing(desk),
+      review(desk),
       refraction(desk),
       exports(desk),
       records(desk),
@@ -31,6 +33,7 @@ Presenters::Presenters(Desk& desk)
 
 void Presenters::retranslate() {
   traces.retranslate();
+  reciprocity.retranslate();
   projects.retranslate();
   section.refresh();
   survey.refresh();

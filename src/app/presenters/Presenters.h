@@ -11,10 +11,12 @@
 #include "app/presenters/PalettePresenter.h"
 #include "app/presenters/ProcessingPresenter.h"
 #include "app/presenters/ProjectPresenter.h"
+#include "app/presenters/ReciprocityPresenter.h"
 #include "app/presenters/RecordExportPresenter.h"
 #include "app/presenters/RecoveryPresenter.h"
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
+#include "app/presenters/ReviewPresenter.h"
 #include "app/presenters/SectionPresenter.h"
 #include "app/presenters/SettingsPresenter.h"
 #include "app/presenters/ShotFilesPresenter.h"
@@ -36,6 +38,7 @@ struct Presenters {
   SettingsPresenter settings;
   TracesPresenter traces;
   CheckPresenter checks;
+  ReciprocityPresenter reciprocity;
   TraceOptionsPresenter traceOptions;
   CurvesPresenter curves;
   SectionPresenter section;
@@ -50,6 +53,7 @@ struct Presenters {
   ModelPresenter models;
   InversionPresenter inversion;
   ProcessingPresenter processing;
+  ReviewPresenter review;
   RefractionPresenter refraction;
   ExportPresenter exports;
   RecordExportPresenter records;

@@ -23,6 +23,17 @@
 
 namespace talvesk {
 
+ProcessingPresenter::ProcessingPresenter(Desk& desk) : mDesk(desk) {
+  for (editTravelTimesWidget* editor : desk.editors()) {
+    connect(editor, &editTravelTimesWidget::guideDrawn, this,
+            [this](const std::vector<Point2D>& points) {
+              GuideLine guide;
+              guide.points = points;
+              fillAlong(guide);
+            });
+  }
+}
+
 std::vector<std::int32_t> ProcessingPresenter::shotsToProcess() const {
   return shotList(mDesk.document(), mDesk.settings.showAllTraces, mDesk.shot.index());
 }
@@ -51,7 +62,9 @@ void ProcessingPresenter::autoPick() {
   std::size_t found = 0;
   std::size_t leftOut = 0;
   Status failed;
+  std::vector<std::int32_t> picked;
   forEachShot(shotsToProcess(), tr("Picking first breaks ..."), [&](std::int32_t shot) {
+    picked.push_back(shot);
     // A shot without a filtered copy has nothing to pick there.
     Status status = pickShots(work, {shot}, useFiltered && mDesk.hasFilteredCopy(shot));
     if (!status.ok() && failed.ok()) failed = std::move(status);
@@ -67,6 +80,11 @@ void ProcessingPresenter::autoPick() {
   if (leftOut > 0) {
     outcome += QLatin1Char(' ') +
                tr("%1 of them are of disabled shots or killed and left unpicked.").arg(leftOut);
+  }
+  const Message early = describePicksAtFirstSample(work, picked);
+  if (!early.empty()) {
+    outcome += QLatin1Char(' ') + textOf(early);
+    mDesk.log.write(early, 1);
   }
   mDesk.tell(outcome);
   if (!failed.ok()) {
@@ -114,6 +132,52 @@ void ProcessingPresenter::autoPickAlongLine() {
           .arg(parameters::kGoodPick.value)
           .arg(outcome.doubtful)
           .arg(outcome.kept);
+  if (outcome.mended > 0) {
+    text += QLatin1Char(' ') +
+            tr("%1 of them are of disabled shots or killed and left unpicked.").arg(outcome.mended);
+  }
+  mDesk.tell(text);
+}
+
+void ProcessingPresenter::fillAlong() {
+  const int shot = mDesk.shot.index();
+  if (shot < 0) return;
+  const TravelTime& record = mDesk.document().ttArray[static_cast<std::size_t>(shot)];
+  for (std::size_t trace = 0; trace < record.ttMisurati.size(); ++trace) {
+    if (hasPick(record.ttMisurati[trace]) && !record.waits(trace)) return fillAlong(GuideLine());
+  }
+  mDesk.tell(
+      tr("Set or confirm some picks of this shot first, or draw a line with the tool Guide "
+         "line."));
+}
+
+void ProcessingPresenter::fillAlong(const GuideLine& guide) {
+  const int shot = mDesk.shot.index();
+  if (shot < 0) return;
+  TomoDocument work = mDesk.document();
+  JointPickOptions options;
+  options.useFiltered = mDesk.ui.show_filtered_cb->isChecked();
+  JointPickOutcome outcome;
+  const WaitCursor waiting;
+  const Status status = talvesk::fillAlong(work, shot, guide, options, outcome);
+  if (!status.ok()) {
+    return mDesk.tellFailure(tr("Shot %1 has not been filled.").arg(shot + 1), status);
+  }
+  if (!mDesk.edit(
+          Edit::kAutoPick, [&](Survey& survey) { survey.document = work; },
+          Message::tr("Fill along the line"))) {
+    return;
+  }
+  const std::size_t filled = outcome.good + outcome.doubtful;
+  QString text = tr("Shot %1: %2 traces filled, %3 sure to %4 ms and %5 doubtful; %6 are without a "
+                    "pick, %7 picks that you made stay.")
+                     .arg(shot + 1)
+                     .arg(filled)
+                     .arg(outcome.good)
+                     .arg(parameters::kGoodPick.value)
+                     .arg(outcome.doubtful)
+                     .arg(outcome.traces - filled - outcome.kept)
+                     .arg(outcome.kept);
   if (outcome.mended > 0) {
     text += QLatin1Char(' ') +
             tr("%1 of them are of disabled shots or killed and left unpicked.").arg(outcome.mended);

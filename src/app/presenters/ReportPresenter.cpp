@@ -54,6 +54,7 @@ void ReportPresenter::writePictures() {
   look.palette = mDesk.palettes().current();
   look.refractors = refractors();
   look.horizontalColorBar = mDesk.settings.savePngHColorbar;
+  look.errorBars = mDesk.settings.errorBars;
   ImagesDialog dialog(mDesk.document(), mDesk.interpretation(), look, mDesk.shot.index(),
                       &mDesk.window);
   QSettings remembered(mDesk.windowStateFile(), QSettings::IniFormat);

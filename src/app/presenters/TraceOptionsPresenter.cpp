@@ -26,7 +26,12 @@ void TraceOptionsPresenter::refresh() {
     view.showFiltered = settings.showFiltered;
     view.showAllTraces = settings.showAllTraces;
     view.twoColors = settings.twoColors;
+    view.errorBars = settings.errorBars;
+    view.showComputedTimes = settings.showComputedTimes;
+    view.showNeighbour = settings.showNeighbour;
+    view.showReciprocal = settings.showReciprocalTimes;
   });
+  for (TravelTimePlot* plot : mDesk.plots()) plot->setErrorBars(mDesk.settings.errorBars);
 }
 
 void TraceOptionsPresenter::change(const std::function<void(TraceViewOptions&)>& change) {

@@ -4,6 +4,7 @@
 #include "app/MessageText.h"
 #include "app/dialogs/MendDialog.h"
 #include "app/dialogs/RecordingDetailsDialog.h"
+#include "figures/FigureWords.h"
 #include "io/Survey.h"
 #include "model/Mending.h"
 #include "model/Recordings.h"
@@ -164,6 +165,7 @@ void TracesPresenter::showCursor(const TraceCursor& cursor) {
     const QString pick = locale.toString(1000.0 * *cursor.pick, 'f', 2);
     parts << (cursor.pickIsAutomatic ? tr("Pick %1 ms (automatic)").arg(pick)
                                      : tr("Pick %1 ms").arg(pick));
+    parts << tr("Error %1 ms").arg(FigureWords::pickError(cursor.pickError.value_or(0.0), locale));
   }
   if (cursor.amplitude) {
     parts << tr("Amplitude %1").arg(locale.toString(*cursor.amplitude, 'g', 4));

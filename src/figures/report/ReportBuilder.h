@@ -46,6 +46,8 @@ void addTitlePage(ReportBuilder& builder);
 void addSurvey(ReportBuilder& builder);
 void addPosition(ReportBuilder& builder);
 Status addTravelTimes(ReportBuilder& builder);
+void addPickErrors(ReportBuilder& builder);  ///< nothing where none is known
+void addReciprocity(ReportBuilder& builder);
 void addInversion(ReportBuilder& builder);
 Status addSections(ReportBuilder& builder);
 Status addMisfit(ReportBuilder& builder);

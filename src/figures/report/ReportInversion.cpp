@@ -202,6 +202,8 @@ Status addTravelTimes(ReportBuilder& builder) {
   if (!residuals.empty() && picksChangedSince(document)) {
     builder.paragraph(ReportWords::tr("Picks have changed since the inversion."));
   }
+  addPickErrors(builder);
+  addReciprocity(builder);
   return {};
 }
 

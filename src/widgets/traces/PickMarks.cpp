@@ -1,5 +1,6 @@
 #include "widgets/traces/PickMarks.h"
 
+#include "figures/ErrorBar.h"
 #include "model/TravelTime.h"
 #include "widgets/traces/TraceTags.h"
 
@@ -8,8 +9,15 @@
 #include <QVector>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace talvesk {
+
+double shownPick(const ShotTraces& traces, const std::map<int, double>& draft, int trace) {
+  const auto drafted = draft.find(trace);
+  return drafted != draft.end() ? drafted->second : traces.measured(trace);
+}
+
 namespace {
 
 double barHalf(const WiggleScene& scene, const TraceMapping& mapping) {
@@ -32,11 +40,36 @@ QVector<QLineF> pickBars(const WiggleScene& scene, const TraceMapping& mapping,
   return bars;
 }
 
+std::vector<ErrorBar> errorBars(const WiggleScene& scene, const TraceMapping& mapping,
+                                const std::map<int, double>& draft, const DraftError& pulled) {
+  std::vector<ErrorBar> bars;
+  const double left = mapping.plot.left() - barHalf(scene, mapping);
+  const double right = mapping.plot.right() + barHalf(scene, mapping);
+  for (int trace = 0; trace < scene.layout.count(); ++trace) {
+    const double time = shownPick(scene.traces, draft, trace);
+    const double sigma = trace == pulled.trace    ? pulled.sigma
+                         : draft.count(trace) > 0 ? scene.options.pickError
+                                                  : scene.traces.error(trace);
+    if (!(sigma > 0.0) || !hasPick(time)) continue;
+    const ErrorBar bar(mapping.x(scene.layout.position(trace)), mapping.y(time - sigma),
+                       mapping.y(time + sigma), sigma, mapping.plot.top(), mapping.plot.bottom());
+    if (bar.x >= left && bar.x <= right) bars.push_back(bar);
+  }
+  return bars;
+}
+
 }  // namespace
 
-double shownPick(const ShotTraces& traces, const std::map<int, double>& draft, int trace) {
-  const auto drafted = draft.find(trace);
-  return drafted != draft.end() ? drafted->second : traces.measured(trace);
+void paintErrorBars(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
+                    const std::map<int, double>& draft, const DraftError& pulled) {
+  const double half = std::clamp(0.6 * barHalf(scene, mapping), 2.0, 4.5);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const ErrorBar& bar : errorBars(scene, mapping, draft, pulled)) {
+    const QColor& color = bar.doubtful ? scene.colors.doubtful : scene.colors.pick;
+    paintErrorBar(painter, bar, {color, 1.5, half, scene.colors.halo});
+  }
+  painter.restore();
 }
 
 void paintPicks(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
@@ -76,7 +109,8 @@ void paintCrosshair(QPainter& painter, const WiggleScene& scene, const TraceMapp
 }
 
 void paintMagnifier(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
-                    const std::map<int, double>& draft, const QPointF& at) {
+                    const std::map<int, double>& draft, const DraftError& pulled,
+                    const QPointF& at) {
   constexpr double kTimes = 4.0;
   constexpr double kAway = 24.0;
   const QRectF& plot = mapping.plot;
@@ -104,7 +138,10 @@ void paintMagnifier(QPainter& painter, const WiggleScene& scene, const TraceMapp
   const QPointF centre = lens.plot.center();
   painter.drawLine(QPointF(lens.plot.left(), centre.y()), QPointF(lens.plot.right(), centre.y()));
   painter.drawLine(QPointF(centre.x(), lens.plot.top()), QPointF(centre.x(), lens.plot.bottom()));
-  if (!scene.options.showOnlyTraces) paintPicks(painter, scene, lens, draft);
+  if (!scene.options.showOnlyTraces) {
+    if (scene.options.errorBars) paintErrorBars(painter, scene, lens, draft, pulled);
+    paintPicks(painter, scene, lens, draft);
+  }
   painter.setClipping(false);
   painter.setPen(QPen(scene.colors.focus, 1.5));
   painter.drawRect(lens.plot);

@@ -42,7 +42,11 @@ void PickStroke::approach(const Place& to, const TraceLayout& layout) {
 void PickStroke::moveTo(int trace, const Place& place, const TraceLayout& layout,
                         const Adjust& adjust) {
   if (!active()) return;
-  if (mKind == Kind::Move) return set(mTrace, place.time, adjust);
+  if (mKind == Kind::Move) {
+    approach(place, layout);
+    mPlace = place;
+    return set(mTrace, place.time, adjust);
+  }
   if (trace < 0) trace = mTrace;
   approach(place, layout);
   if (trace != mTrace || mTimes.size() > 1) {

@@ -32,6 +32,8 @@ class PickStroke {
   /// a run has one trace, that follows the pointer up and down.
   /// \param trace -1, or any for Kind::Move: stays on its trace
   void moveTo(int trace, const Place& place, const TraceLayout& layout, const Adjust& adjust);
+  /// A pick that was to be moved is drawn over: the stroke is a run from where it began.
+  void drawOn() { mKind = Kind::Run; }
   void clear() { mTimes.clear(); }
 
   bool active() const { return !mTimes.empty(); }

@@ -145,6 +145,11 @@ double ShotTraces::measured(int trace) const {
   return record != nullptr ? timeAmong(record->ttMisurati, trace) : kNoTime;
 }
 
+double ShotTraces::error(int trace) const {
+  const TravelTime* record = times();
+  return record == nullptr || trace < 0 ? 0.0 : record->errorOf(index(trace));
+}
+
 double ShotTraces::computed(int trace) const {
   const TravelTime* record = times();
   return record != nullptr ? timeAmong(record->ttCalcolati, trace) : kNoTime;

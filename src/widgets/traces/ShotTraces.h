@@ -41,6 +41,7 @@ class ShotTraces {
 
   bool canPick(int trace) const;  ///< the record has a time for the trace
   double measured(int trace) const;
+  double error(int trace) const;  ///< of the pick, seconds; 0: not known
   double computed(int trace) const;
   const TravelTime* times() const;
 

@@ -33,9 +33,11 @@ TraceColors traceColors(const QPalette& palette, bool twoColors) {
       twoColors ? choose("#2f6fc4", "#5b9bef") : mixed(colors.text, colors.background, 0.62);
   colors.negative = choose("#e0952b", "#d98a26");
   colors.pick = choose("#e0003c", "#ff5c7c");
+  colors.doubtful = choose("#9a5b00", "#ffc24d");
   colors.halo = colors.background;
   colors.otherPicks = choose("#7a3fbf", "#c3a0ff");
   colors.computed = choose("#00853e", "#4fdc8c");
+  colors.reciprocal = choose("#8f5600", "#ffd75e");
   colors.airWave = choose("#0077a8", "#5ccbf2");
   colors.ruler = choose("#a04400", "#ffb066");
   const QColor highlight = palette.color(QPalette::Highlight);

@@ -16,9 +16,11 @@ struct TraceColors {
   QColor positive;  ///< filled lobes
   QColor negative;  ///< filled lobes of the other sign, in two colours
   QColor pick;
-  QColor halo;  ///< around picks, so that they show on filled lobes
+  QColor doubtful;  ///< error bar of a pick that is not sure
+  QColor halo;      ///< around picks, so that they show on filled lobes
   QColor otherPicks;
   QColor computed;
+  QColor reciprocal;
   QColor airWave;
   QColor ruler;
   QColor current;    ///< band of the current trace, translucent

@@ -13,6 +13,7 @@ struct TraceCursor {
   std::optional<double> distance;   ///< geophone along the line, metres
   std::optional<double> amplitude;  ///< nearest sample, as stored
   std::optional<double> pick;       ///< measured time of the trace, seconds
+  std::optional<double> pickError;  ///< one standard deviation of it, seconds
   bool takesPart = true;            ///< false: its shot is disabled, or it is killed
   bool pickIsAutomatic = false;     ///< set by the autopicker and not confirmed yet
 };

@@ -2,9 +2,11 @@
 
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
+#include "processing/PickCurve.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace talvesk {
@@ -48,6 +50,34 @@ double interpolate(const Placed& points, double x) {
   return onLine(*(right - 1), *right, x);
 }
 
+/// Where a distance along the line lies in the layout.
+std::optional<double> positionOf(double x, const ShotTraces& traces, const TraceLayout& layout) {
+  if (!std::isfinite(x)) return std::nullopt;
+  if (layout.isByDistance()) return x;
+  const Placed placed = placedByDistance(traces, layout);
+  if (placed.empty()) return std::nullopt;
+  return interpolate(placed, x);
+}
+
+/// The times of traces from left to right, in pieces between those that have none.
+template <typename TimeOf, typename IsTime>
+std::vector<std::vector<QPointF>> linesThrough(const TraceLayout& layout, TimeOf timeOf,
+                                               IsTime isTime) {
+  std::vector<std::vector<QPointF>> lines;
+  bool open = false;
+  for (const int trace : layout.order()) {
+    const double time = timeOf(trace);
+    if (!isTime(time) || !std::isfinite(time)) {
+      open = false;
+      continue;
+    }
+    if (!open) lines.emplace_back();
+    open = true;
+    lines.back().emplace_back(layout.position(trace), time);
+  }
+  return lines;
+}
+
 /// The trace at a place of the line, or -1.
 int traceNear(const std::vector<std::pair<double, int>>& places, double x, double tolerance) {
   const auto right =
@@ -58,12 +88,7 @@ int traceNear(const std::vector<std::pair<double, int>>& places, double x, doubl
 }  // namespace
 
 std::optional<double> shotPlace(const ShotTraces& traces, const TraceLayout& layout) {
-  const double shot = traces.shotX();
-  if (!std::isfinite(shot)) return std::nullopt;
-  if (layout.isByDistance()) return shot;
-  const Placed placed = placedByDistance(traces, layout);
-  if (placed.empty()) return std::nullopt;
-  return interpolate(placed, shot);
+  return positionOf(traces.shotX(), traces, layout);
 }
 
 std::optional<double> distanceAt(const ShotTraces& traces, const TraceLayout& layout,
@@ -94,19 +119,58 @@ std::vector<QPointF> airWaveLine(const ShotTraces& traces, const TraceLayout& la
 
 std::vector<std::vector<QPointF>> computedLines(const ShotTraces& traces,
                                                 const TraceLayout& layout) {
-  std::vector<std::vector<QPointF>> lines;
-  bool open = false;
-  for (const int trace : layout.order()) {
-    const double time = traces.computed(trace);
-    if (!(time >= 0.0) || !std::isfinite(time)) {
-      open = false;
+  return linesThrough(
+      layout, [&](int trace) { return traces.computed(trace); },
+      [](double time) { return time >= 0.0; });
+}
+
+NeighbourCurve nearestCurve(const TomoDocument& document, const ShotTraces& traces,
+                            const TraceLayout& layout) {
+  NeighbourCurve curve;
+  const TravelTime* own = traces.times();
+  if (own == nullptr) return curve;
+  double nearest = std::numeric_limits<double>::infinity();
+  for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
+    const TravelTime& record = document.ttArray[i];
+    const double away = std::fabs(record.shotPos2d.x - own->shotPos2d.x);
+    const bool picked = std::any_of(record.ttMisurati.begin(), record.ttMisurati.end(), hasPick);
+    if (&record == own || record.indexStesa != own->indexStesa || !picked || !(away < nearest)) {
       continue;
     }
-    if (!open) lines.emplace_back();
-    open = true;
-    lines.back().emplace_back(layout.position(trace), time);
+    nearest = away;
+    curve.record = static_cast<int>(i);
+    curve.x = record.shotPos2d.x;
   }
-  return lines;
+  if (curve.record < 0) return curve;
+  const std::vector<double>& times =
+      document.ttArray[static_cast<std::size_t>(curve.record)].ttMisurati;
+  curve.lines = linesThrough(
+      layout,
+      [&](int trace) {
+        const auto i = static_cast<std::size_t>(trace);
+        return i < times.size() ? times[i] : kNoTime;
+      },
+      hasPick);
+  return curve;
+}
+
+std::vector<QPointF> reciprocalTimes(const TomoDocument& document, const ShotTraces& traces,
+                                     const TraceLayout& layout) {
+  std::vector<QPointF> times;
+  const TravelTime* own = traces.times();
+  if (own == nullptr) return times;
+  const double beyond = 0.5 * layout.spacing();
+  for (const TravelTime& record : document.ttArray) {
+    if (&record == own) continue;
+    const std::optional<double> position = positionOf(record.shotPos2d.x, traces, layout);
+    if (!position || *position < layout.first() - beyond || *position > layout.last() + beyond) {
+      continue;
+    }
+    const Reciprocity back({pickCurveOf(document, record).arrivals});
+    const double time = back.timeBack(own->shotPos2d.x, record.shotPos2d.x);
+    if (std::isfinite(time)) times.emplace_back(*position, time);
+  }
+  return times;
 }
 
 std::vector<QPointF> otherPicks(const TomoDocument& document, const ShotTraces& traces,

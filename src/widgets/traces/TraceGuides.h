@@ -27,6 +27,22 @@ std::vector<QPointF> airWaveLine(const ShotTraces& traces, const TraceLayout& la
 std::vector<std::vector<QPointF>> computedLines(const ShotTraces& traces,
                                                 const TraceLayout& layout);
 
+/// The picks of another shot, as lines from left to right, in pieces where they are missing.
+struct NeighbourCurve {
+  int record = -1;  ///< from 0; -1: none
+  double x = 0.0;   ///< where that shot stands, metres along the line
+  std::vector<std::vector<QPointF>> lines;
+};
+
+/// Of the picked shot nearest to this one on the same string; of equally near ones the first.
+NeighbourCurve nearestCurve(const TomoDocument& document, const ShotTraces& traces,
+                            const TraceLayout& layout);
+
+/// Where other shots stand among the traces, and after what time they saw this one: the curve of
+/// this shot should pass there.
+std::vector<QPointF> reciprocalTimes(const TomoDocument& document, const ShotTraces& traces,
+                                     const TraceLayout& layout);
+
 /// The picks of the other records at the geophones of this one: of the same string by channel, of
 /// other strings where they stand at the same place.
 std::vector<QPointF> otherPicks(const TomoDocument& document, const ShotTraces& traces,

@@ -22,6 +22,7 @@ double within(double value, double low, double high, double otherwise) {
 TraceViewOptions sane(TraceViewOptions options) {
   options.gain = within(options.gain, TraceViewOptions::kMinGain, TraceViewOptions::kMaxGain, 1.0);
   options.snapRadius = within(options.snapRadius, 0.0, 10.0, TraceViewOptions().snapRadius);
+  options.pickError = within(options.pickError, 0.0, kLargestPickError, 0.0);
   options.airVelocity = within(options.airVelocity, 1.0, 1e5, TraceViewOptions().airVelocity);
   return options;
 }
@@ -139,6 +140,10 @@ void editTravelTimesWidget::setCurrentTrace(int trace) {
   mState->setCurrent(trace);
 }
 
+void editTravelTimesWidget::goToTrace(int trace) {
+  mState->goTo(trace);
+}
+
 int editTravelTimesWidget::selectedFirst() const {
   return mState->selectedFirst;
 }
@@ -233,6 +238,10 @@ void editTravelTimesWidget::zoomForward() {
 
 void editTravelTimesWidget::confirmPicks() {
   mState->confirmRange();
+}
+
+void editTravelTimesWidget::setPickErrors(double sigma) {
+  mState->setErrors(sigma);
 }
 
 void editTravelTimesWidget::removePicks() {

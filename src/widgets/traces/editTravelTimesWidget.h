@@ -1,9 +1,11 @@
 #pragma once
 
+#include "base/Point2D.h"
 #include "widgets/traces/TraceCursor.h"
 #include "widgets/traces/TraceViewOptions.h"
 
 #include <QWidget>
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -17,14 +19,19 @@ class TomoDocument;
 struct ViewWindow;
 
 /// What the left mouse button does. Whatever the tool, Ctrl + left drag zooms to a rectangle,
-/// Shift + left drag selects traces, and the right button removes picks.
+/// Shift + left drag selects traces, Ctrl + Shift + left drag pulls the error bar of a pick, and
+/// the right button removes picks.
 enum class TraceTool {
-  Pick,   ///< click sets, drag moves, drag across traces draws a run
-  Zoom,   ///< drag a rectangle; a click zooms in
-  Pan,    ///< drag the picture
-  Ruler,  ///< drag a line and read its apparent velocity
-  Select  ///< drag over the traces to confirm or clear together
+  Pick,    ///< click sets, drag moves, drag across traces draws a run
+  Zoom,    ///< drag a rectangle; a click zooms in
+  Pan,     ///< drag the picture
+  Ruler,   ///< drag a line and read its apparent velocity
+  Select,  ///< drag over the traces to confirm or clear together
+  Guide    ///< drag a line along the first breaks that a picker is to follow
 };
+
+/// The errors that the keys 0 to 4 give picks, milliseconds; 0: not known.
+inline constexpr std::array<double, 5> kKeyErrors = {0.0, 0.5, 1.0, 2.5, 5.0};
 
 /// The traces of one shot, time downward, with its first breaks to be picked by mouse and keys.
 ///
@@ -36,9 +43,10 @@ enum class TraceTool {
 /// The view is moved with the gestures of all plots, see PlotGestures. Keys beside those: Left and
 /// Right walk along the traces (Shift selects), Home and End go to the first and the last; Up and
 /// Down move the pick by a sample (Shift 10 samples, Ctrl 1 ms); Return sets a pick like that of
-/// the neighbour; Delete removes, C confirms; [ and ] change the gain, as the wheel does with Alt;
-/// M magnifier, R ruler, Escape gives up. H shows the opening view. A double click with the tool
-/// Pick picks twice, and shows not everything.
+/// the neighbour; Delete removes, C confirms; 1 to 4 give the errors of kKeyErrors and 0
+/// takes them away; [ and ] change the gain, as the wheel does with Alt;
+/// M magnifier, R ruler, G guide line, Escape gives up. H shows the opening view. A double click
+/// with the tool Pick picks twice, and shows not everything.
 class editTravelTimesWidget : public QWidget {
   Q_OBJECT
 
@@ -76,6 +84,8 @@ class editTravelTimesWidget : public QWidget {
   /// waits. Follows selectionChanged() and the session.
   bool hasPicksInRange(bool unconfirmedOnly) const;
   void setCurrentTrace(int trace);
+  /// Makes a trace the current one, alone, and moves the view so that it and its pick are in sight.
+  void goToTrace(int trace);
   int selectedFirst() const;  ///< channels selected, from 0; -1 none
   int selectedLast() const;
   void selectTraces(int first, int last);  ///< -1, -1 clears
@@ -110,7 +120,10 @@ class editTravelTimesWidget : public QWidget {
   void zoomForward();
 
   /// Over the selected traces, or the current one without a selection.
-  void confirmPicks();            ///< automatic picks become the user's own
+  void confirmPicks();  ///< automatic picks become the user's own
+  /// Seconds, 0: not known. Picks that are set or dragged afterwards get it as well, and where no
+  /// trace of these has a pick it is only for those.
+  void setPickErrors(double sigma);
   void removePicks();             ///< of whatever origin
   void removeUnconfirmedPicks();  ///< automatic ones that nobody confirmed
 
@@ -126,6 +139,9 @@ class editTravelTimesWidget : public QWidget {
   void optionsChanged();  ///< by keys or wheel, not by setOptions()
   void toolChanged();
   void selectionChanged();  ///< current trace or selected ones
+  /// A line was drawn over traces of the shot, for a picker to follow. \param points x: receiver,
+  /// metres along the line; z: seconds
+  void guideDrawn(const std::vector<talvesk::Point2D>& points);
   /// Picks of a shot that is not shown changed.
   void shotEdited(int shot);
 

@@ -1,3 +1,4 @@
+#include "figures/FigureWords.h"
 #include "io/Survey.h"
 #include "widgets/traces/PickSnap.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
@@ -48,7 +49,7 @@ void editTravelTimesWidget::State::edit(Message text, const std::map<int, double
     if (!traces.canPick(trace)) continue;
     const double before = traces.measured(trace);
     const bool nothing = hasPick(time) ? time == before : !hasPick(before);
-    if (!nothing) changes.push_back({trace, time, false});
+    if (!nothing) changes.push_back({trace, time, false, options.pickError});
   }
   push(Edit::kPick, std::move(text), shot, changes, mergeKey);
 }
@@ -131,9 +132,13 @@ void editTravelTimesWidget::State::nudge(double seconds, bool keyHeld) {
   const double time = adjusted(current, traces.measured(current) + seconds, false);
   // The first step of a key begins an edit, those of the key held go on with it.
   if (!keyHeld) ++nudges;
-  edit(Message::tr("Nudge pick"), {{current, time}},
-       "nudge " + std::to_string(nudges) + ' ' + std::to_string(shot) + ' ' +
-           std::to_string(current) + ' ' + idOf(widget));
+  if (time != traces.measured(current)) {
+    // It is the same break still, only placed more exactly.
+    push(Edit::kPick, Message::tr("Nudge pick"), shot,
+         {{current, time, false, traces.error(current)}},
+         "nudge " + std::to_string(nudges) + ' ' + std::to_string(shot) + ' ' +
+             std::to_string(current) + ' ' + idOf(widget));
+  }
   reveal(current);
 }
 
@@ -162,6 +167,13 @@ void editTravelTimesWidget::State::setCurrent(int trace) {
   emit widget.selectionChanged();
 }
 
+void editTravelTimesWidget::State::goTo(int trace) {
+  select(-1, -1);
+  setCurrent(trace);
+  reveal(trace);
+  tellCurrent();
+}
+
 void editTravelTimesWidget::State::select(int first, int last) {
   if (first > last) std::swap(first, last);
   if (first < 0 || last >= layout.count()) first = last = -1;
@@ -176,10 +188,14 @@ void editTravelTimesWidget::State::describe() {
   QString text;
   if (current >= 0 && current < layout.count()) {
     const double pick = traces.measured(current);
-    text = hasPick(pick) ? editTravelTimesWidget::tr("Trace %1, picked at %2 ms")
-                               .arg(current + 1)
-                               .arg(QLocale().toString(1e3 * pick, 'f', 2))
-                         : editTravelTimesWidget::tr("Trace %1, not picked").arg(current + 1);
+    const QString ms = QLocale().toString(1e3 * pick, 'f', 2);
+    const double sigma = traces.error(current);
+    text = !hasPick(pick) ? editTravelTimesWidget::tr("Trace %1, not picked").arg(current + 1)
+           : sigma > 0.0
+               ? editTravelTimesWidget::tr("Trace %1, picked at %2 ms, error %3 ms")
+                     .arg(current + 1)
+                     .arg(ms, FigureWords::pickError(sigma, QLocale()))
+               : editTravelTimesWidget::tr("Trace %1, picked at %2 ms").arg(current + 1).arg(ms);
   }
   if (widget.accessibleDescription() != text) widget.setAccessibleDescription(text);
 }
@@ -195,7 +211,7 @@ void editTravelTimesWidget::editPick(int shot, int trace, double seconds) {
   if (!hasPick(seconds) || !std::isfinite(seconds)) seconds = kNoTime;
   if (hasPick(seconds) ? seconds == before : !hasPick(before)) return;
   state.push(Edit::kPick, hasPick(seconds) ? Message::tr("Move pick") : Message::tr("Remove pick"),
-             shot, {{trace, seconds, false}});
+             shot, {{trace, seconds, false, state.options.pickError}});
 }
 
 }  // namespace talvesk

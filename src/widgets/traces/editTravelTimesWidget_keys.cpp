@@ -20,12 +20,12 @@ void editTravelTimesWidget::State::walk(int steps, bool selecting) {
     const bool started = selectedFirst >= 0 && (from == selectedFirst || from == selectedLast);
     const int anchor = !started ? from : from == selectedLast ? selectedFirst : selectedLast;
     select(anchor < 0 ? to : anchor, to);
+    setCurrent(to);
+    reveal(to);
+    tellCurrent();
   } else {
-    select(-1, -1);
+    goTo(to);
   }
-  setCurrent(to);
-  reveal(to);
-  tellCurrent();
 }
 
 bool editTravelTimesWidget::State::walkKey(const QKeyEvent& event) {
@@ -70,7 +70,7 @@ bool editTravelTimesWidget::State::pickKey(const QKeyEvent& event) {
       confirmRange();
       return true;
     default:
-      return false;
+      return errorKey(event);
   }
 }
 
@@ -88,6 +88,9 @@ bool editTravelTimesWidget::State::lookKey(const QKeyEvent& event) {
       return true;
     case Qt::Key_R:
       widget.setTool(tool == TraceTool::Ruler ? TraceTool::Pick : TraceTool::Ruler);
+      return true;
+    case Qt::Key_G:
+      widget.setTool(tool == TraceTool::Guide ? TraceTool::Pick : TraceTool::Guide);
       return true;
     default:
       return false;

@@ -27,6 +27,7 @@ PlotTool* editTravelTimesWidget::State::toolFor(Qt::MouseButton button, Qt::Keyb
   const bool above = point.y() < plot.top() && point.x() >= plot.left();
   if (button == Qt::RightButton && within) return removeTool.get();
   if (button != Qt::LeftButton || (!within && !above)) return nullptr;
+  if (within && (keys & Qt::ControlModifier)) return errorTool.get();
   if (above || (keys & Qt::ShiftModifier)) return selectTool.get();
   switch (tool) {
     case TraceTool::Pick:
@@ -39,6 +40,8 @@ PlotTool* editTravelTimesWidget::State::toolFor(Qt::MouseButton button, Qt::Keyb
       return rulerTool.get();
     case TraceTool::Select:
       return selectTool.get();
+    case TraceTool::Guide:
+      return guideTool.get();
   }
   return nullptr;
 }
@@ -58,6 +61,7 @@ TraceCursor editTravelTimesWidget::State::cursorFor(int trace, std::optional<dou
     }
   }
   if (hasPick(traces.measured(trace))) cursor.pick = traces.measured(trace);
+  if (traces.error(trace) > 0.0) cursor.pickError = traces.error(trace);
   cursor.takesPart =
       document == nullptr || takesPart(*document, shot, static_cast<std::size_t>(trace));
   cursor.pickIsAutomatic = waits(trace);

@@ -77,10 +77,13 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
   }
   if (!options.showOnlyTraces && document != nullptr) {
     paintGuides(painter, scene(), map, *document);
+    if (options.errorBars) paintErrorBars(painter, scene(), map, stroke.times(), pulled);
     paintPicks(painter, scene(), map, stroke.times());
   }
   painter.restore();
-  if (!options.showOnlyTraces) paintLegend(painter, scene(), plot);
+  if (!options.showOnlyTraces && document != nullptr) {
+    paintLegend(painter, scene(), plot, *document);
+  }
   paintAxes(painter, map, traces, layout, widget.palette().color(QPalette::WindowText));
   const QStringList words = document != nullptr
                                 ? FigureWords::mends(mendsOfRecord(*document, shot), QLocale())
@@ -113,7 +116,7 @@ void editTravelTimesWidget::State::paintLive(QPainter& painter) {
   }
   paintCrosshair(painter, scene(), map, hoverTrace, map.timeAt(hover->y()));
   if (options.magnifier && atWork != selectTool.get()) {
-    paintMagnifier(painter, scene(), map, stroke.times(),
+    paintMagnifier(painter, scene(), map, stroke.times(), pulled,
                    {map.positionAt(hover->x()), map.timeAt(hover->y())});
   }
 }

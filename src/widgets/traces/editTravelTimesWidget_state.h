@@ -3,6 +3,7 @@
 #include "session/PickEdits.h"
 #include "session/Session.h"
 #include "widgets/PlotGestures.h"
+#include "widgets/traces/PickMarks.h"
 #include "widgets/traces/PickStroke.h"
 #include "widgets/traces/ShotTraces.h"
 #include "widgets/traces/TraceColors.h"
@@ -23,13 +24,15 @@ class QScrollBar;
 namespace talvesk {
 
 /// What the trace view remembers between events. Its functions stand in the file of their purpose:
-/// _view.cpp, _edit.cpp, _mouse.cpp, _keys.cpp, _paint.cpp, and the tools of the mouse in
-/// _tools.cpp.
+/// _view.cpp, _edit.cpp, _errors.cpp, _mouse.cpp, _keys.cpp, _paint.cpp, and the tools of the mouse
+/// in _tools.cpp.
 struct editTravelTimesWidget::State : PlotSurface {
   using Step = Viewport::Step;
   class PickTool;
   class RulerTool;
   class SelectTool;
+  class ErrorTool;
+  class GuideTool;
 
   explicit State(editTravelTimesWidget& owner);
 
@@ -64,8 +67,15 @@ struct editTravelTimesWidget::State : PlotSurface {
   void nudge(double seconds, bool keyHeld);
   void pickLikeNeighbour();
   void setCurrent(int trace);
+  void goTo(int trace);  ///< without a selection, in sight, and told
   void select(int first, int last);
   void describe();  ///< tells assistive technology what is current
+
+  // --- Errors of picks.
+  void setErrors(double sigma);  ///< of the range; seconds, 0: not known
+  void pushErrors(const std::vector<std::pair<int, double>>& errors);
+  bool errorKey(const QKeyEvent& event);
+  std::unique_ptr<PlotTool> makeErrorTool();
 
   // --- Mouse.
   bool hasNothing() const override { return layout.count() == 0; }
@@ -126,6 +136,9 @@ struct editTravelTimesWidget::State : PlotSurface {
   std::unique_ptr<PlotTool> zoomTool;
   std::unique_ptr<PlotTool> rulerTool;
   std::unique_ptr<PlotTool> selectTool;
+  std::unique_ptr<PlotTool> errorTool;
+  DraftError pulled;  ///< of the drag that pulls an error bar
+  std::unique_ptr<PlotTool> guideTool;
   PickStroke stroke;                                 ///< of the drag that picks or removes
   std::optional<std::pair<QPointF, QPointF>> ruler;  ///< positions, seconds
   std::optional<QPointF> hover;                      ///< cursor, when over the plot

@@ -2,6 +2,7 @@
 #include "widgets/PlotGestures_tools.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
 
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
@@ -9,6 +10,8 @@ namespace talvesk {
 namespace {
 
 constexpr double kGrab = 5.0;       ///< pixels from a pick within which a drag moves it alone
+constexpr double kLeave = 8.0;      ///< pixels aside that a hand goes while it moves a pick
+constexpr double kSteep = 4.0;      ///< a move up or down goes so many times as far as aside
 constexpr double kClickZoom = 2.0;  ///< of a click with the tool Zoom
 
 QPointF clamped(const QPointF& point, const QRectF& plot) {
@@ -44,6 +47,9 @@ class editTravelTimesWidget::State::PickTool : public PlotTool {
     // A hand that shakes while it clicks between two traces must not pick both.
     mStrayed = mStrayed || isDrag({event.at.x() - mFrom.x(), 0.0});
     const int trace = mStrayed ? s.traceAt(at) : mTrace;
+    if (s.stroke.kind() == PickStroke::Kind::Move && trace != mTrace && goesAside(at)) {
+      s.stroke.drawOn();
+    }
     s.stroke.moveTo(trace, placeOf(at), s.layout, adjuster(event));
     if (s.stroke.kind() != PickStroke::Kind::Move && trace >= 0) s.setCurrent(trace);
     s.redrawMarks();
@@ -77,6 +83,11 @@ class editTravelTimesWidget::State::PickTool : public PlotTool {
   }
   PickStroke::Adjust adjuster(const ToolEvent& event) const {
     return mState.adjuster(!(event.keys & Qt::AltModifier));
+  }
+  /// A hand that moves a pick far does not keep to the width of a trace.
+  bool goesAside(const QPointF& at) const {
+    const double aside = std::fabs(at.x() - mFrom.x());
+    return aside > kLeave && kSteep * aside > std::fabs(at.y() - mFrom.y());
   }
   bool nearPick() const {
     const double pick = mState.traces.measured(mTrace);
@@ -141,6 +152,59 @@ class editTravelTimesWidget::State::SelectTool : public PlotTool {
   int mFrom = -1;
 };
 
+/// Draws a line along the first breaks and hands it over to whoever picks.
+class editTravelTimesWidget::State::GuideTool : public PlotTool {
+ public:
+  explicit GuideTool(State& state) : mState(state) {}
+
+  bool press(const ToolEvent& event) override {
+    const int trace = mState.traceAt(event.at);
+    if (!mState.canEdit() || trace < 0) return false;
+    mLine.begin(PickStroke::Kind::Run, trace, placeOf(event.at), mState.layout,
+                mState.adjuster(false));
+    return true;
+  }
+  void move(const ToolEvent& event) override {
+    const QPointF at = clamped(event.at, mState.plot);
+    mLine.moveTo(mState.traceAt(at), placeOf(at), mState.layout, mState.adjuster(false));
+  }
+  void release(const ToolEvent&) override {
+    std::vector<Point2D> points;
+    for (const auto& [trace, time] : mLine.times()) {
+      const double x = mState.traces.receiverX(trace);
+      if (std::isfinite(x)) points.push_back({x, time});
+    }
+    mLine.clear();
+    if (points.size() > 1) emit mState.widget.guideDrawn(points);
+  }
+  void giveUp() override { mLine.clear(); }
+
+  void paint(QPainter& painter) const override {
+    QPolygonF line;
+    for (const int trace : mState.layout.order()) {
+      const auto at = mLine.times().find(trace);
+      if (at == mLine.times().end()) continue;
+      line.append(mState.mapping().point(mState.layout.position(trace), at->second));
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(mState.colors.halo, 5.0));
+    painter.drawPolyline(line);
+    painter.setPen(QPen(mState.colors.ruler, 2.5));
+    painter.drawPolyline(line);
+    painter.restore();
+  }
+
+ private:
+  PickStroke::Place placeOf(const QPointF& point) const {
+    const QPointF place = mState.placeAt(point);
+    return {place.x(), place.y()};
+  }
+
+  State& mState;
+  PickStroke mLine;
+};
+
 editTravelTimesWidget::State::State(editTravelTimesWidget& owner)
     : widget(owner),
       gestures(*this, owner, owner),
@@ -149,6 +213,8 @@ editTravelTimesWidget::State::State(editTravelTimesWidget& owner)
       zoomTool(std::make_unique<BandTool>(
           gestures, [this](const QPointF& at) { gestures.zoomAbout(at, kClickZoom, kClickZoom); })),
       rulerTool(std::make_unique<RulerTool>(*this)),
-      selectTool(std::make_unique<SelectTool>(*this)) {}
+      selectTool(std::make_unique<SelectTool>(*this)),
+      errorTool(makeErrorTool()),
+      guideTool(std::make_unique<GuideTool>(*this)) {}
 
 }  // namespace talvesk

@@ -1,0 +1,148 @@
+#include "app/dialogs/ReciprocityModel.h"
+
+#include <QLocale>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr double kMilliseconds = 1e3;
+constexpr int kColumns = 8;
+
+}  // namespace
+
+void ReciprocityModel::setTable(doctor::ReciprocityTable table) {
+  beginResetModel();
+  mTable = std::move(table);
+  mOrder.resize(mTable.pairs.size());
+  arrange();
+  endResetModel();
+}
+
+const doctor::ReciprocalTimes& ReciprocityModel::pairAt(int row) const {
+  return mTable.pairs[mOrder[static_cast<std::size_t>(row)]];
+}
+
+int ReciprocityModel::rowOf(std::size_t shot, std::size_t other) const {
+  const std::size_t first = std::min(shot, other);
+  const std::size_t second = std::max(shot, other);
+  const auto found = std::find_if(mOrder.begin(), mOrder.end(), [&](std::size_t pair) {
+    return mTable.pairs[pair].first == first && mTable.pairs[pair].second == second;
+  });
+  return found == mOrder.end() ? -1 : static_cast<int>(found - mOrder.begin());
+}
+
+int ReciprocityModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(mOrder.size());
+}
+
+int ReciprocityModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kColumns;
+}
+
+/// As it is shown: numbers from 1, metres, milliseconds; not a number where it is not known.
+double ReciprocityModel::valueOf(const doctor::ReciprocalTimes& pair, int column) const {
+  switch (column) {
+    case kFirst:
+      return static_cast<double>(pair.first + 1);
+    case kFirstAt:
+      return mTable.shots[pair.first].x;
+    case kThere:
+      return kMilliseconds * pair.there;
+    case kSecond:
+      return static_cast<double>(pair.second + 1);
+    case kSecondAt:
+      return mTable.shots[pair.second].x;
+    case kBack:
+      return kMilliseconds * pair.back;
+    case kDifference:
+      return kMilliseconds * pair.difference();
+    default:
+      return pair.error > 0.0 ? std::fabs(pair.difference()) / pair.error
+                              : std::numeric_limits<double>::quiet_NaN();
+  }
+}
+
+QVariant ReciprocityModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const doctor::ReciprocalTimes& pair = pairAt(index.row());
+  if (role == Qt::TextAlignmentRole) return int(Qt::AlignRight | Qt::AlignVCenter);
+  if (role == Qt::ToolTipRole) {
+    const bool back = index.column() >= kSecond && index.column() <= kBack;
+    return tr("Shows trace %1 of shot %2")
+        .arg((back ? pair.backTrace : pair.thereTrace) + 1)
+        .arg((back ? pair.second : pair.first) + 1);
+  }
+  if (role != Qt::DisplayRole) return {};
+  const double value = valueOf(pair, index.column());
+  if (std::isnan(value)) return tr("–", "not known");
+  const bool whole = index.column() == kFirst || index.column() == kSecond;
+  const bool sigmas = index.column() == kSigmas;
+  return QLocale().toString(value, 'f', whole ? 0 : sigmas ? 1 : 2);
+}
+
+QVariant ReciprocityModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::ToolTipRole && section == kSigmas) {
+    return tr("The difference in standard deviations, where both picks have an error");
+  }
+  if (role != Qt::DisplayRole) return {};
+  switch (section) {
+    case kFirst:
+    case kSecond:
+      return tr("Shot");
+    case kFirstAt:
+    case kSecondAt:
+      return tr("At [m]");
+    case kThere:
+      return tr("There [ms]");
+    case kBack:
+      return tr("Back [ms]");
+    case kDifference:
+      return tr("Difference [ms]");
+    default:
+      return tr("Sigmas");
+  }
+}
+
+/// Differences by their size: it does not matter which of two shots came first. What is not known
+/// stands last, whatever the order.
+void ReciprocityModel::arrange() {
+  std::iota(mOrder.begin(), mOrder.end(), std::size_t{0});
+  const bool down = mSortOrder == Qt::DescendingOrder;
+  const auto key = [&](std::size_t i) {
+    const double value = valueOf(mTable.pairs[i], mColumn);
+    if (std::isnan(value)) return std::numeric_limits<double>::infinity();
+    const double size = mColumn == kDifference ? std::fabs(value) : value;
+    return down ? -size : size;
+  };
+  std::stable_sort(mOrder.begin(), mOrder.end(),
+                   [&](std::size_t a, std::size_t b) { return key(a) < key(b); });
+}
+
+void ReciprocityModel::sort(int column, Qt::SortOrder order) {
+  if (column < 0 || column >= kColumns) return;
+  emit layoutAboutToBeChanged();
+  std::vector<std::size_t> pairs;
+  const QModelIndexList before = persistentIndexList();
+  for (const QModelIndex& index : before) {
+    pairs.push_back(mOrder[static_cast<std::size_t>(index.row())]);
+  }
+  mColumn = column;
+  mSortOrder = order;
+  arrange();
+  std::vector<int> rows(mOrder.size());
+  for (std::size_t i = 0; i < mOrder.size(); ++i) rows[mOrder[i]] = static_cast<int>(i);
+  QModelIndexList after;
+  for (int i = 0; i < before.size(); ++i) {
+    after << index(rows[pairs[static_cast<std::size_t>(i)]], before[i].column());
+  }
+  changePersistentIndexList(before, after);
+  emit layoutChanged();
+}
+
+}  // namespace talvesk
