@@ -47,7 +47,8 @@ TEST(Inversion, standardOutputIsPureJsonWithItsKeysInOrder) {
             "to_be_draw computed_times section_rmse_ms section_rms_percent section_bias_ms "
             "section_max_abs_ms section_max_abs_shot section_max_abs_receiver section_history "
             "section_times errors_ms picks_good picks_doubtful picks_of_unknown_error computing_s "
-            "righe col nV aLato x_offset iteration rmse_ms rms_percent ");
+            "method chi2 chi2_all suspect_count righe col nV aLato "
+            "x_offset iteration rmse_ms rms_percent ");
   // 26 m of array, half of it deep, in cells of 1 m.
   EXPECT_EQ(json["grid"],
             ordered_json::parse(R"({"righe":13,"col":26,"nV":6,"aLato":1.0,"x_offset":1.0})"));
@@ -78,6 +79,59 @@ TEST(Inversion, fitsTheSmallLine) {
   EXPECT_LT(json["rmse_ms"].get<double>(), json["misfit_history"][0]["rmse_ms"].get<double>());
   for (const ordered_json& velocity : json["velocities"]) {
     EXPECT_LE(velocity.get<double>(), 3500.0 * (1.0 + 1e-9));
+  }
+}
+
+TEST(Inversion, fitsToTheErrorsOfThePicksOnDemand) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const std::vector<std::string> command = {
+      "invert",  input,   "--cell-size", "1",      "--method", "fitted",
+      "--sigma", "0.5,3", "--statics",   "--json", "-"};
+  const Outcome outcome = runBatch(command);
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  EXPECT_EQ(json["method"], "fitted");
+  EXPECT_NEAR(json["chi2"].get<double>(), 1.0, 0.05) << json["chi2_history"];
+  EXPECT_GE(json["chi2_all"], json["chi2"]);
+  EXPECT_EQ(json["chi2_history"].size(), json["iterations_done"].get<std::size_t>() + 1);
+  EXPECT_EQ(json["suspects"].size(), json["suspect_count"].get<std::size_t>());
+  EXPECT_EQ(json["statics_ms"].size(), 3U);
+  EXPECT_GT(json["lambda"].get<double>(), 0.0);
+  EXPECT_EQ(json["computed_times"], json["section_times"]) << "there is no last solver pass";
+  EXPECT_THAT(outcome.err, HasSubstr("Chi-square: "));
+  EXPECT_THAT(outcome.err, HasSubstr("Time shifts of shots: [ms]"));
+  std::vector<std::string> single = command;
+  single.push_back("--single-thread");
+  EXPECT_EQ(withoutElapsed(runBatch(single).out), withoutElapsed(outcome.out));
+}
+
+TEST(Inversion, saysOnStandardErrorWhatAFitLeavesOut) {
+  const Folder folder;
+  const Outcome outcome =
+      runBatch({"invert", folder.write("line.otte", smallLine()), "--cell-size", "1", "--method",
+                "fitted", "--sigma", "0.01,0", "--quiet", "--iterations", "3"});
+  EXPECT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("target not reached"));
+}
+
+TEST(Inversion, refusesOptionsThatItsMethodHasNoUseFor) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const std::vector<std::vector<std::string>> wrong = {{"--blocky"},
+                                                       {"--statics", "--method", "smoothed"},
+                                                       {"--method", "fitted", "--smoothing", "3"},
+                                                       {"--method", "fitted", "--symmetric"},
+                                                       {"--method", "joint"},
+                                                       {"--sigma", "0.5"},
+                                                       {"--sigma", "0,3"},
+                                                       {"--sigma", "0.5,3,"}};
+  for (const std::vector<std::string>& options : wrong) {
+    std::vector<std::string> command = {"invert", input};
+    command.insert(command.end(), options.begin(), options.end());
+    const Outcome outcome = runBatch(command);
+    EXPECT_EQ(outcome.code, 2) << options.front() << outcome.err;
+    EXPECT_THAT(outcome.err, HasSubstr("--"));
   }
 }
 

@@ -154,6 +154,11 @@ TEST_F(ProjectTest, tellsTheSameFiguresOfItsSectionBeforeAndAfter) {
   TomoDocument& document = project.document;
   invert(document);
   document.result.edit().smoothedResult = true;
+  FitRecord fit;
+  fit.errorFloor = 0.0005;
+  fit.chi2 = 0.98;
+  fit.suspects = 3;
+  document.result.edit().lastInversion->fit = fit;
   ASSERT_EQ(save(), 0) << console.error();
   LoadedProject loaded;
   ASSERT_EQ(load(archive(), loaded), 0) << reader.message();
@@ -169,6 +174,10 @@ TEST_F(ProjectTest, tellsTheSameFiguresOfItsSectionBeforeAndAfter) {
             document.result->lastInversion->sectionHistory[0].rmse);
   EXPECT_EQ(back.result->lastInversion->computingSeconds,
             document.result->lastInversion->computingSeconds);
+  ASSERT_TRUE(back.result->lastInversion->fit);
+  EXPECT_EQ(back.result->lastInversion->fit->errorFloor, fit.errorFloor);
+  EXPECT_EQ(back.result->lastInversion->fit->chi2, fit.chi2);
+  EXPECT_EQ(back.result->lastInversion->fit->suspects, fit.suspects);
   EXPECT_EQ(back.result->hitCounts, document.result->hitCounts);
   EXPECT_EQ(back.result->coorcount, document.result->coorcount);
   EXPECT_TRUE(back.result->smoothedResult);
