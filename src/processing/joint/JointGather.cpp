@@ -4,7 +4,6 @@
 #include "model/Recordings.h"
 #include "model/TomoDocument.h"
 #include "processing/joint/ArrivalPeriod.h"
-#include "processing/joint/PickRefinement.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +16,11 @@ constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 constexpr double kEarlySlack = 2e-3;    // seconds that an arrival may be earlier than the fastest
 constexpr double kLateSlack = 20e-3;    // seconds that it may be later than the slowest
 constexpr double kFirstCutOff = 300.0;  // Hz, of the first look
+
+// Of how much later an arrival is than expected, milliseconds: more than usual may be the wrong
+// one.
+constexpr double kUsuallyLater = 2.0;
+constexpr double kLaterShare = 0.5;
 
 /// Seconds from the first sample to the shot: records may begin before it.
 double zeroOf(const Trace& trace) {
@@ -121,17 +125,56 @@ void JointGather::follow() {
 
 void JointGather::refine() {
   mErrors.assign(mTimes.size(), kNone);
+  mRefined.assign(mTimes.size(), {});
+  for (std::size_t t = 0; t < mTimes.size(); ++t) {
+    if (std::isnan(mTimes[t]) || !std::isnan(mChannels[t].fixed)) continue;
+    mRefined[t] = refinePick(samplesOf(t), mOnsets[t], mTimes[t], mStretch);
+    mErrors[t] = mRefined[t].scatter;
+  }
+  smooth(false);
+  smooth(true);
+}
+
+void JointGather::smooth(bool right) {
+  const auto distance = [this](std::size_t t) { return std::fabs(mChannels[t].offset); };
+  std::vector<std::size_t> side;
+  for (std::size_t t = 0; t < mTimes.size(); ++t) {
+    if (!std::isnan(mErrors[t]) && (mChannels[t].offset > 0.0) == right) side.push_back(t);
+  }
+  std::stable_sort(side.begin(), side.end(),
+                   [&](std::size_t a, std::size_t b) { return distance(a) < distance(b); });
+  const double ms = 1e-3 * mStretch;
+  std::vector<SmoothArrival> arrivals;
+  for (const std::size_t t : side) {
+    const double time = mRefined[t].time - mChannels[t].zero;
+    arrivals.push_back({distance(t), time / ms, mRefined[t].scatter / ms});
+  }
+  smoothArrivals(arrivals);
+  for (std::size_t i = 0; i < side.size(); ++i) {
+    mTimes[side[i]] = arrivals[i].time * ms + mChannels[side[i]].zero;
+    mErrors[side[i]] = errorOf(side[i], arrivals[i]);
+  }
+}
+
+double JointGather::errorOf(std::size_t trace, const SmoothArrival& arrival) const {
+  const double ms = 1e-3 * mStretch;
+  const double error = std::hypot(ms * arrival.error, mRefined[trace].beginning);
+  // Which arrival it is, a person said who drew a guide.
+  if (!std::isnan(mChannels[trace].guide)) return error;
+  const double later = kLaterShare * std::max(arrival.later - kUsuallyLater, 0.0);
+  return std::hypot(error, ms * later, mRefined[trace].arrival);
+}
+
+void JointGather::leaveOutDoubtful() {
   for (std::size_t t = 0; t < mTimes.size(); ++t) {
     const ArrivalChannel& channel = mChannels[t];
-    if (std::isnan(mTimes[t]) || !std::isnan(channel.fixed)) continue;
-    const RefinedPick pick = refinePick(samplesOf(t), mOnsets[t], mTimes[t], mStretch);
-    const bool sure = pick.error <= 1e-3 * mOptions.worst;
-    mTimes[t] = sure ? pick.time : kNone;
-    if (!sure) continue;
-    mErrors[t] = pick.error;
-    if (std::isnan(channel.guide)) continue;
-    const double guide = channel.guide + channel.zero;
-    mTimes[t] = std::clamp(pick.time, guide - channel.reach, guide + channel.reach);
+    if (std::isnan(mErrors[t])) continue;
+    if (!(mErrors[t] <= 1e-3 * mOptions.worst)) {
+      mTimes[t] = kNone;
+    } else if (!std::isnan(channel.guide)) {
+      const double guide = channel.guide + channel.zero;
+      mTimes[t] = std::clamp(mTimes[t], guide - channel.reach, guide + channel.reach);
+    }
   }
 }
 

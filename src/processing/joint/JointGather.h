@@ -2,8 +2,10 @@
 
 #include "base/Point2D.h"
 #include "processing/joint/ArrivalPath.h"
+#include "processing/joint/ArrivalSmoothing.h"
 #include "processing/joint/JointPickOptions.h"
 #include "processing/joint/OnsetTrace.h"
+#include "processing/joint/PickRefinement.h"
 #include "processing/joint/Reciprocity.h"
 
 #include <cstddef>
@@ -38,8 +40,10 @@ class JointGather {
   void prepare(double stretch);
   /// Finds the arrivals: the way of all, not yet where exactly each begins.
   void follow();
-  /// Where each begins and how far it may be off; what is too far off goes.
+  /// Where each begins, in agreement with its neighbours, and how far it may be off.
   void refine();
+  /// What may be further off than the worst pick asked for goes.
+  void leaveOutDoubtful();
 
   /// The arrivals found.
   ArrivalCurve curve() const;
@@ -52,6 +56,8 @@ class JointGather {
 
  private:
   void ready(const OnsetView& view);
+  void smooth(bool right);
+  double errorOf(std::size_t trace, const SmoothArrival& arrival) const;
   const std::vector<double>& samplesOf(std::size_t trace) const;
 
   std::int32_t mShot;
@@ -65,6 +71,7 @@ class JointGather {
   std::vector<ArrivalChannel> mChannels;
   std::vector<double> mTimes;  ///< seconds from the first sample; not a number without a pick
   std::vector<double> mErrors;
+  std::vector<RefinedPick> mRefined;  ///< per trace; of those that have an error
 };
 
 }  // namespace talvesk

@@ -112,6 +112,7 @@ bool pick(std::vector<JointGather>& gathers, Crew& crew) {
   return crew.run(gathers, [](JointGather& gather) {
     gather.follow();
     gather.refine();
+    gather.leaveOutDoubtful();
   });
 }
 
@@ -124,11 +125,10 @@ Status noMemory() {
   return Status::failure(Message::tr("the machine has no memory left to pick first breaks"));
 }
 
-bool sound(const GuideLine& guide) {
-  return guide.reach >= 0.0 && std::isfinite(guide.reach) &&
-         std::all_of(guide.points.begin(), guide.points.end(), [](const Point2D& point) {
-           return std::isfinite(point.x) && std::isfinite(point.z);
-         });
+bool hasTimes(const GuideLine& guide) {
+  return std::all_of(guide.points.begin(), guide.points.end(), [](const Point2D& point) {
+    return std::isfinite(point.x) && std::isfinite(point.z);
+  });
 }
 
 }  // namespace
@@ -163,7 +163,12 @@ Status pickJointly(TomoDocument& document, const std::vector<std::int32_t>& shot
 Status fillAlong(TomoDocument& document, std::int32_t shot, const GuideLine& guide,
                  const JointPickOptions& options, JointPickOutcome& outcome) {
   outcome = {};
-  if (!sound(guide)) return Status::failure(Message::tr("the guide line has no times to follow"));
+  if (!hasTimes(guide)) {
+    return Status::failure(Message::tr("the guide line has no times to follow"));
+  }
+  if (!(guide.reach >= 0.0)) {
+    return Status::failure(Message::tr("the reach of the guide line has to be at least 0 ms"));
+  }
   JointPickOptions filling = options;
   filling.keepConfirmed = true;
   std::vector<JointGather> gathers;

@@ -13,8 +13,9 @@ class TomoDocument;
 
 /// First breaks of whole gathers at once: the path of first arrivals that goes best through the
 /// onsets of all channels of a shot, see ArrivalPath.h and OnsetTrace.h, then each where it begins,
-/// see PickRefinement.h, with an error for every pick, see PickError.h. Beside the picker of single
-/// traces in FirstBreak.h, which stays as it is.
+/// see PickRefinement.h, in agreement with its neighbours, see ArrivalSmoothing.h, with an error
+/// for every pick, see PickError.h. Beside the picker of single traces in FirstBreak.h, which stays
+/// as it is.
 
 /// Picks the shots, in two passes: what the records of other shots say of the same way, where shot
 /// and geophone change places within half a spacing, holds back later picks in the second. Sets

@@ -8,12 +8,24 @@
 namespace talvesk {
 namespace {
 
-constexpr double kReach = 8e-3;    // seconds about the pick
-constexpr double kOwnError = 0.2;  // milliseconds
-constexpr double kSpreadShare = 0.9;
-constexpr double kMedianShare = 0.3;
-constexpr double kNoiseScale = 120.0;  // of the square
+constexpr double kReach = 8e-3;   // seconds about the pick
+constexpr double kSwing = 15e-3;  // seconds that the first swing takes at most
+
+// Of the scatter, milliseconds.
+constexpr double kOwnError = 0.08;
+constexpr double kSpreadShare = 0.36;
+constexpr double kMedianShare = 0.12;
+constexpr double kNoiseScale = 48.0;  // of the square
 constexpr double kIntervalShare = 0.3;
+constexpr double kMostScatter = 5.0;
+
+// Of what neighbours share, milliseconds.
+constexpr double kRisen = 0.2;      // of the first swing
+constexpr double kSharpRise = 1.3;  // of a break as sharp as they come
+constexpr double kLeastOfRise = 0.15;
+constexpr double kMostOfRise = 2.4;
+constexpr double kClearNoise = 0.1;  // an arrival that stands out of so much is the first one
+constexpr double kDoubtOfNoise = 30.0;
 constexpr double kLongest = 1.0;  // seconds: an error that is none
 
 struct Range {
@@ -114,6 +126,26 @@ std::size_t byAverages(const std::vector<double>& y, double interval, Range with
   return best;
 }
 
+/// Seconds from a pick to where the motion has come a fifth of the way to the swing's peak; between
+/// samples by a straight line.
+double riseTime(const OnsetTrace& trace, double pick, Range swing) {
+  const double start = trace.signal[swing.from];
+  double peak = 0.0;
+  for (std::size_t i = swing.from; i < swing.to; ++i) {
+    peak = std::max(peak, std::fabs(trace.signal[i] - start));
+  }
+  double before = 0.0;
+  for (std::size_t i = swing.from; i < swing.to; ++i) {
+    const double away = std::fabs(trace.signal[i] - start);
+    if (away >= kRisen * peak && away > before) {
+      const double part = (away - kRisen * peak) / (away - before);
+      return (static_cast<double>(i) - part) * trace.interval - pick;
+    }
+    before = away;
+  }
+  return 0.0;
+}
+
 }  // namespace
 
 std::array<double, 6> singlePicks(const OnsetTrace& trace, const std::vector<double>& samples,
@@ -124,7 +156,7 @@ std::array<double, 6> singlePicks(const OnsetTrace& trace, const std::vector<dou
   const Range within = about(-kReach, kReach);
   const Range stretchOf = about(-40e-3, 15e-3);
   const double noise = rmsOf(trace.signal, about(-30e-3, -2e-3));
-  const double peak = peakOf(trace.signal, about(0.0, 15e-3));
+  const double peak = peakOf(trace.signal, about(0.0, kSwing));
   const double step = trace.interval / stretch;
   const std::array<std::size_t, 6> found = {largestIn(trace.likeliest, within),
                                             largestIn(trace.energyRatio, within),
@@ -143,17 +175,17 @@ double noiseShare(const OnsetTrace& trace, double pick, double stretch) {
   const auto about = [&](double from, double to) {
     return rangeOf(pick + stretch * from, pick + stretch * to, trace);
   };
-  const double peak = peakOf(trace.signal, about(0.0, 15e-3));
+  const double peak = peakOf(trace.signal, about(0.0, kSwing));
   return peak > 0.0 ? rmsOf(trace.signal, about(-30e-3, -5e-3)) / peak : 1.0;
 }
 
-double pickError(const OnsetTrace& trace, const std::vector<double>& samples, double pick,
-                 double stretch) {
+double pickScatter(const OnsetTrace& trace, const std::vector<double>& samples, double pick,
+                   double stretch) {
   const double reach = stretch * kReach;
   const Range within = rangeOf(pick - reach, pick + reach, trace);
-  const Range swing = rangeOf(pick, pick + stretch * 15e-3, trace);
-  if (within.to - within.from < 3 || swing.to <= swing.from) return kLongest;
-  if (!(peakOf(trace.signal, swing) > 0.0)) return kLongest;
+  const Range swing = rangeOf(pick, pick + stretch * kSwing, trace);
+  const bool nothing = within.to - within.from < 3 || !(peakOf(trace.signal, swing) > 0.0);
+  if (nothing) return 1e-3 * kMostScatter;
   std::array<double, 6> ms = singlePicks(trace, samples, pick, stretch);
   std::sort(ms.begin(), ms.end());
   double mean = 0.0;
@@ -165,8 +197,22 @@ double pickError(const OnsetTrace& trace, const std::vector<double>& samples, do
   const double noise = noiseShare(trace, pick, stretch);
   const double noisy = kNoiseScale * noise * noise;
   const double coarse = kIntervalShare * 1e3 * trace.interval;
-  return 1e-3 * std::sqrt(kOwnError * kOwnError + kSpreadShare * kSpreadShare * square + off * off +
-                          noisy * noisy + coarse * coarse);
+  const double scatter = std::sqrt(kOwnError * kOwnError + kSpreadShare * kSpreadShare * square +
+                                   off * off + noisy * noisy + coarse * coarse);
+  return 1e-3 * std::min(scatter, kMostScatter);
+}
+
+double beginningError(const OnsetTrace& trace, double pick, double stretch) {
+  const Range swing = rangeOf(pick, pick + stretch * kSwing, trace);
+  if (!(peakOf(trace.signal, swing) > 0.0)) return kLongest;
+  const double ms = 1e-3 * stretch;
+  const double rise = riseTime(trace, pick, swing) / ms;
+  return std::hypot(1e-3 * kLeastOfRise, ms * std::clamp(rise - kSharpRise, 0.0, kMostOfRise));
+}
+
+double arrivalError(const OnsetTrace& trace, double pick, double stretch) {
+  const double noise = noiseShare(trace, pick, stretch);
+  return 1e-3 * stretch * kDoubtOfNoise * std::max(noise - kClearNoise, 0.0);
 }
 
 }  // namespace talvesk

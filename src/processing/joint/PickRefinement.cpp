@@ -73,10 +73,18 @@ RefinedPick refinePick(const std::vector<double>& samples, const OnsetTrace& tra
   const OnsetView view{stretch, cutOffFor(trace, time, stretch)};
   const OnsetTrace sharp =
       prepareOnset(near, interval, within - stretch * kLook, within + stretch * kLook, view);
-  if (sharp.dead()) return {time, pickError(trace, samples, time, stretch)};
-  const double onset = likeliestNear(sharp, within, stretch);
-  const double error = pickError(sharp, near, onset, stretch);
-  return {start + polished(sharp, near, onset, stretch) - 0.5 * interval, error};
+  RefinedPick pick;
+  if (sharp.dead()) {
+    pick.time = time;
+    pick.scatter = pickScatter(trace, samples, time, stretch);
+  } else {
+    const double onset = likeliestNear(sharp, within, stretch);
+    pick.time = start + polished(sharp, near, onset, stretch) - 0.5 * interval;
+    pick.scatter = pickScatter(sharp, near, onset, stretch);
+  }
+  pick.beginning = beginningError(trace, pick.time, stretch);
+  pick.arrival = arrivalError(trace, pick.time, stretch);
+  return pick;
 }
 
 }  // namespace talvesk

@@ -7,8 +7,10 @@
 namespace talvesk {
 
 struct RefinedPick {
-  double time;   ///< seconds from the first sample
-  double error;  ///< seconds, see pickError()
+  double time = 0.0;       ///< seconds from the first sample
+  double scatter = 0.0;    ///< seconds, see pickScatter()
+  double beginning = 0.0;  ///< seconds, see beginningError()
+  double arrival = 0.0;    ///< seconds, see arrivalError()
 };
 
 /// Where exactly an arrival begins that a path went through. The path goes by well smoothed
