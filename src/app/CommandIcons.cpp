@@ -22,6 +22,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionSave_Project_As", ":/icons/save.png"},
     {"actionImages", ":/icons/png.png"},
     {"actionAutoPick", ":/icons/autopickingICO.png"},
+    {"actionAutoPick_line", ":/icons/autopick-line.png"},
     {"actionGeometry", ":/icons/settings.png"},
     {"actionGrid", ":/icons/grid.png"},
     {"actionPDF", ":/icons/pdf.png"},
