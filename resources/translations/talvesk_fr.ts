@@ -8546,6 +8546,202 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
         <translation>Traces&#xa0;: %1, dont %2 avec un pointé sûr à %3 ms près et %4 avec un pointé douteux&#xa0;; vos propres pointés conservés&#xa0;: %5.</translation>
     </message>
+    <message>
+        <source>Guides in the traces</source>
+        <translation>Repères sur les traces</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Temps calculés</translation>
+    </message>
+    <message>
+        <source>Draw the times through the section over the traces</source>
+        <translation>Dessiner sur les traces les temps à travers la coupe</translation>
+    </message>
+    <message>
+        <source>Curve of the nearest shot</source>
+        <translation>Courbe du tir le plus proche</translation>
+    </message>
+    <message>
+        <source>Draw the picks of the nearest other shot on the same geophones, dashed</source>
+        <translation>Dessiner en tirets les pointés de l&apos;autre tir le plus proche aux mêmes géophones</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Temps réciproques</translation>
+    </message>
+    <message>
+        <source>Mark when other shots recorded the same ways in the other direction: the picks should pass there</source>
+        <translation>Marquer les temps auxquels d&apos;autres tirs ont enregistré les mêmes parcours dans l&apos;autre sens&#xa0;: les pointés devraient y passer</translation>
+    </message>
+    <message>
+        <source>Guide line</source>
+        <translation>Ligne guide</translation>
+    </message>
+    <message>
+        <source>Drag along the first breaks: the picker fills the traces near that line (key G)</source>
+        <translation>Glisser le long des premières arrivées&#xa0;: le pointage automatique complète les traces près de cette ligne (touche G)</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Compléter le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Pick the rest of the current shot through the picks that you set or confirmed</source>
+        <translation>Pointer le reste du tir affiché en suivant les pointés que vous avez placés ou confirmés</translation>
+    </message>
+    <message>
+        <source>Error 0.5 ms</source>
+        <translation>Erreur 0,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 0.5 ms, and so may those that you set next (key 1)</source>
+        <translation>Les pointés des traces sélectionnées, et ceux que vous placerez ensuite, sont justes à 0,5 ms près (touche 1)</translation>
+    </message>
+    <message>
+        <source>Error 1 ms</source>
+        <translation>Erreur 1 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 1 ms, and so may those that you set next (key 2)</source>
+        <translation>Les pointés des traces sélectionnées, et ceux que vous placerez ensuite, sont justes à 1 ms près (touche 2)</translation>
+    </message>
+    <message>
+        <source>Error 2.5 ms</source>
+        <translation>Erreur 2,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 2.5 ms, and so may those that you set next (key 3)</source>
+        <translation>Les pointés des traces sélectionnées, et ceux que vous placerez ensuite, sont justes à 2,5 ms près (touche 3)</translation>
+    </message>
+    <message>
+        <source>Error 5 ms</source>
+        <translation>Erreur 5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 5 ms, and so may those that you set next (key 4)</source>
+        <translation>Les pointés des traces sélectionnées, et ceux que vous placerez ensuite, sont justes à 5 ms près (touche 4)</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Erreur inconnue</translation>
+    </message>
+    <message>
+        <source>Nothing is told of how far the picks of the selected traces may be off, nor those that you set next (key 0)</source>
+        <translation>Rien n&apos;est dit de l&apos;erreur des pointés des traces sélectionnées, ni de ceux que vous placerez ensuite (touche 0)</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Barres d&apos;erreur</translation>
+    </message>
+    <message>
+        <source>Show how far picks may be off, in the traces and in the travel-time curves; bars of doubtful picks are dashed</source>
+        <translation>Afficher l&apos;erreur possible des pointés, sur les traces et dans les dromochroniques&#xa0;; les barres des pointés douteux sont en tirets</translation>
+    </message>
+    <message>
+        <source>Next doubtful pick</source>
+        <translation>Pointé douteux suivant</translation>
+    </message>
+    <message>
+        <source>Go to the next pick of all shots that is doubtful by its error, the section or the reciprocal time, worst first</source>
+        <translation>Aller au prochain pointé, tous tirs confondus, douteux par son erreur, la coupe ou le temps réciproque, le pire d&apos;abord</translation>
+    </message>
+    <message>
+        <source>Previous doubtful pick</source>
+        <translation>Pointé douteux précédent</translation>
+    </message>
+    <message>
+        <source>Go back to the doubtful pick before, a worse one</source>
+        <translation>Revenir au pointé douteux précédent, qui est pire</translation>
+    </message>
+    <message>
+        <source>Reciprocity...</source>
+        <translation>Réciprocité...</translation>
+    </message>
+    <message>
+        <source>Compare the picks of all shots there and back, and find the shots that are late</source>
+        <translation>Comparer les pointés de tous les tirs à l&apos;aller et au retour, et trouver les tirs en retard</translation>
+    </message>
+    <message>
+        <source>Set or confirm some picks of this shot first, or draw a line with the tool Guide line.</source>
+        <translation>Placez ou confirmez d&apos;abord quelques pointés de ce tir, ou tracez une ligne avec l&apos;outil «&#xa0;Ligne guide&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Shot %1 has not been filled.</source>
+        <translation>Le tir %1 n&apos;a pas été complété.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2 traces filled, %3 sure to %4 ms and %5 doubtful; %6 are without a pick, %7 picks that you made stay.</source>
+        <translation>Tir %1&#xa0;: traces complétées&#xa0;: %2, dont %3 avec un pointé sûr à %4 ms près et %5 avec un pointé douteux&#xa0;; sans pointé&#xa0;: %6&#xa0;; vos propres pointés conservés&#xa0;: %7.</translation>
+    </message>
+    <message>
+        <source>The record of shot %1 is mended; Undo takes it back.</source>
+        <translation>L&apos;enregistrement du tir %1 est corrigé&#xa0;; «&#xa0;Défaire&#xa0;» annule la correction.</translation>
+    </message>
+    <message>
+        <source>The recording has not been mended.</source>
+        <translation>L&apos;enregistrement n&apos;a pas été corrigé.</translation>
+    </message>
+    <message>
+        <source>Save Reciprocal Times</source>
+        <translation>Enregistrer les temps réciproques</translation>
+    </message>
+    <message>
+        <source>Table (*.csv);;All Files (*)</source>
+        <translation>Tableau (*.csv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Doubtful pick %1 of %2, shot %3, trace %4: %5</source>
+        <translation>Pointé douteux %1 sur %2, tir %3, trace %4&#xa0;: %5</translation>
+    </message>
+    <message>
+        <source>after the last one, the worst again</source>
+        <translation>après le dernier, de nouveau le pire</translation>
+    </message>
+    <message>
+        <source>before the worst, the last</source>
+        <translation>avant le pire, le dernier</translation>
+    </message>
+    <message>
+        <source>error %1 ms</source>
+        <translation>erreur %1 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms later</source>
+        <translation>calculé %1 ms plus tard</translation>
+    </message>
+    <message>
+        <source>computed %1 ms earlier</source>
+        <translation>calculé %1 ms plus tôt</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms later</source>
+        <translation>temps réciproque %1 ms plus tard</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms earlier</source>
+        <translation>temps réciproque %1 ms plus tôt</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Il n&apos;y a pas encore de pointés.</translation>
+    </message>
+    <message>
+        <source>No pick waits for confirmation.</source>
+        <translation>Aucun pointé n&apos;attend de confirmation.</translation>
+    </message>
+    <message>
+        <source>None of the %1 picks that wait for confirmation is doubtful.</source>
+        <translation>Pointés en attente de confirmation&#xa0;: %1&#xa0;; aucun n&apos;est douteux.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of %1 of them: no error, no computed time, no reciprocal one.</source>
+        <translation>On ne sait rien de %1 d&apos;entre eux&#xa0;: ni erreur, ni temps calculé, ni temps réciproque.</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Erreur %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -8587,6 +8783,27 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Air %1 m/s</source>
         <translation>Air %1 m/s</translation>
+    </message>
+    <message>
+        <source>No other shot of the string is picked</source>
+        <translation>Aucun autre tir du dispositif n&apos;est pointé</translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <comment>number, place</comment>
+        <translation>Tir %1 à %2 m</translation>
+    </message>
+    <message>
+        <source>No computed times</source>
+        <translation>Pas de temps calculés</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Temps réciproques</translation>
+    </message>
+    <message>
+        <source>No reciprocal times</source>
+        <translation>Pas de temps réciproques</translation>
     </message>
 </context>
 <context>
@@ -8674,6 +8891,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Error: %1 ms</source>
+        <translation>Erreur&#xa0;: %1 ms</translation>
     </message>
 </context>
 <context>
@@ -9072,6 +9293,14 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>This shot has no traces</source>
         <translation>Ce tir n&apos;a pas de traces</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms, error %3 ms</source>
+        <translation>Trace %1, pointée à %2 ms, erreur %3 ms</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Erreur %1 ms</translation>
     </message>
 </context>
 <context>
