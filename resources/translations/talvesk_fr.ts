@@ -1013,6 +1013,25 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <comment>traces</comment>
         <translation>%1 avec mute</translation>
     </message>
+    <message>
+        <source>bars of one standard deviation, dashed above %1 ms</source>
+        <translation>barres d&apos;un écart type, en tirets au-delà de %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 good</source>
+        <comment>picks</comment>
+        <translation>bons&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 doubtful</source>
+        <comment>picks</comment>
+        <translation>douteux&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 of unknown error</source>
+        <comment>picks</comment>
+        <translation>d&apos;erreur inconnue&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -4445,10 +4464,6 @@ Veuillez définir la position des géophones
         <translation>tir %1&#xa0;: pointés écartés, car le tir est désactivé ou leurs traces sont neutralisées&#xa0;: %2</translation>
     </message>
     <message>
-        <source>the file tells errors of its picks, which the survey does not keep</source>
-        <translation>le fichier indique des erreurs de ses pointés, que le levé ne conserve pas</translation>
-    </message>
-    <message>
         <source>the file ends after %1 of %2 lines</source>
         <translation>le fichier se termine après %1 lignes sur %2</translation>
     </message>
@@ -4623,6 +4638,166 @@ Veuillez définir la position des géophones
     <message>
         <source>shot %1, %2: %3</source>
         <translation>tir %1, %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Compléter le long de la ligne</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Il n&apos;y a pas encore de pointés.</translation>
+    </message>
+    <message>
+        <source>Only one shot has picks.</source>
+        <translation>Un seul tir a des pointés.</translation>
+    </message>
+    <message>
+        <source>No two shots have picks within half a geophone spacing of each other&apos;s place.</source>
+        <translation>Il n&apos;y a pas deux tirs qui aient des pointés à moins d&apos;un demi-écartement de géophones de l&apos;emplacement l&apos;un de l&apos;autre.</translation>
+    </message>
+    <message>
+        <source>no error of a pick is known</source>
+        <translation>aucune erreur de pointé n&apos;est connue</translation>
+    </message>
+    <message>
+        <source>it tells errors of picks that cannot be</source>
+        <translation>il indique des erreurs de pointés impossibles</translation>
+    </message>
+    <message>
+        <source>the error of %1 picks is not known; the file has 0 for it</source>
+        <translation>l&apos;erreur de %1 pointés n&apos;est pas connue&#xa0;; le fichier indique 0</translation>
+    </message>
+    <message>
+        <source>Picks at sample %1, before which AutoPick cannot look: %2, on %3. Where the wave came earlier, pick by hand or use AutoPick along the line.</source>
+        <translation>Pointés à l&apos;échantillon %1, avant lequel AutoPick ne peut pas chercher&#xa0;: %2, sur %3. Là où l&apos;onde est arrivée plus tôt, pointez à la main ou utilisez AutoPick le long de la ligne.</translation>
+    </message>
+    <message>
+        <source>the guide line has no times to follow</source>
+        <translation>la ligne guide n&apos;a pas de temps à suivre</translation>
+    </message>
+    <message>
+        <source>the reach of the guide line has to be at least 0 ms</source>
+        <translation>la portée de la ligne guide doit être d&apos;au moins 0 ms</translation>
+    </message>
+    <message>
+        <source>The model to start from has not one valid velocity per cell of the grid.</source>
+        <translation>Le modèle initial n&apos;a pas une vitesse valide pour chaque cellule de la grille.</translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 m/s are not.</source>
+        <translation>Les limites de vitesse doivent être des nombres positifs, la plus petite inférieure à la plus grande&#xa0;; %1 et %2 m/s ne le sont pas.</translation>
+    </message>
+    <message>
+        <source>The fit needs one iteration at least and a positive trigger error.</source>
+        <translation>L&apos;ajustement exige au moins une itération et une erreur de déclenchement positive.</translation>
+    </message>
+    <message>
+        <source>There is no pick that a section could be fitted to.</source>
+        <translation>Il n&apos;y a aucun pointé auquel ajuster une coupe.</translation>
+    </message>
+    <message>
+        <source>The pick of shot %1, receiver %2 has no positive time and error.</source>
+        <translation>Le pointé du tir %1, récepteur %2, n&apos;a pas un temps et une erreur positifs.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1.</source>
+        <translation>La coupe explique les pointés à leurs erreurs près&#xa0;: khi-deux %1.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square stays at %1. The errors of the picks may be stated too small, shots may be shifted in time, or cells too large.</source>
+        <translation>objectif non atteint&#xa0;: le khi-deux reste à %1. Les erreurs des pointés sont peut-être sous-estimées, des tirs décalés en temps, ou les cellules trop grandes.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks better than their errors demand: chi-square %1, however smooth it is. The errors may be stated too large.</source>
+        <translation>La coupe explique les pointés mieux que leurs erreurs ne le demandent&#xa0;: khi-deux %1, si lisse soit-elle. Les erreurs sont peut-être surestimées.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square is %1 after %2 iterations.</source>
+        <translation>objectif non atteint&#xa0;: le khi-deux est de %1 après %2 itérations.</translation>
+    </message>
+    <message>
+        <source>Stopped by the user after %1 iterations: chi-square %2.</source>
+        <translation>Arrêté par l&apos;utilisateur après %1 itérations&#xa0;: khi-deux %2.</translation>
+    </message>
+    <message>
+        <source>only %1 picks are of waves along the surface; it takes %2</source>
+        <translation>seuls %1 pointés sont d&apos;ondes directes&#xa0;; il en faut %2</translation>
+    </message>
+    <message>
+        <source>only %1 picks are surely of waves along refractor %2; it takes %3</source>
+        <translation>seuls %1 pointés sont avec certitude d&apos;ondes réfractées par le réfracteur %2&#xa0;; il en faut %3</translation>
+    </message>
+    <message>
+        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
+        <translation>les ondes directes, à %1 m/s, sont plus lentes que les limites ne le permettent</translation>
+    </message>
+    <message>
+        <source>the times of a refractor grow too little with offset for the bounds</source>
+        <translation>les temps d&apos;un réfracteur croissent trop peu avec le déport pour les limites</translation>
+    </message>
+    <message>
+        <source>velocities of %1 and %2 m/s do not increase with depth</source>
+        <translation>des vitesses de %1 et %2 m/s n&apos;augmentent pas avec la profondeur</translation>
+    </message>
+    <message>
+        <source>the picks do not settle its delay times</source>
+        <translation>les pointés ne suffisent pas à déterminer ses temps de retard</translation>
+    </message>
+    <message>
+        <source>the times over offset show no cross-over to a faster branch</source>
+        <translation>les temps en fonction du déport ne montrent pas de rupture de pente vers une branche plus rapide</translation>
+    </message>
+    <message>
+        <source>the velocity above the refractor grows by less than a tenth</source>
+        <translation>la vitesse au-dessus du réfracteur croît de moins d&apos;un dixième</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Gradient</translation>
+    </message>
+    <message>
+        <source>Two layers</source>
+        <translation>Deux couches</translation>
+    </message>
+    <message>
+        <source>Three layers</source>
+        <translation>Trois couches</translation>
+    </message>
+    <message>
+        <source>Overburden gradient</source>
+        <translation>Gradient dans la couverture</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down</source>
+        <translation>%1 m/s en surface, %2 m/s au point bas du rai le plus profond, à %3 m de profondeur</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down</source>
+        <translation>%1 m/s, %2 m/s à partir de %3 m de profondeur, %4 m/s à partir de %5 m</translation>
+    </message>
+    <message>
+        <source>%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down</source>
+        <translation>%1 m/s et %2 m/s de plus par mètre, %3 m/s à partir de %4 m de profondeur</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down</source>
+        <translation>%1 m/s, %2 m/s à partir de %3 m de profondeur</translation>
+    </message>
+    <message>
+        <source>it takes times that grow with offset, at three offsets or more</source>
+        <translation>il faut des temps qui croissent avec le déport, pour au moins trois déports</translation>
+    </message>
+    <message>
+        <source>Set errors of picks</source>
+        <translation>Fixer les erreurs des pointés</translation>
+    </message>
+    <message>
+        <source>Set error of pick</source>
+        <translation>Fixer l&apos;erreur du pointé</translation>
     </message>
 </context>
 <context>
@@ -4908,6 +5083,165 @@ Veuillez définir la position des géophones
     </message>
 </context>
 <context>
+    <name>talvesk::ReciprocityDialog</name>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Réciprocité</translation>
+    </message>
+    <message>
+        <source>Times there and back</source>
+        <translation>Temps à l&apos;aller et au retour</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>À [m]</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Paires</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Retard [ms]</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>Differences of times there and back, shot by shot</source>
+        <translation>Différences des temps à l&apos;aller et au retour, tir par tir</translation>
+    </message>
+    <message>
+        <source>The pick of the first shot at the place of the second comes into view in the window; a click on a line or a cell does the same</source>
+        <translation>Affiche dans la fenêtre le pointé du premier tir à l&apos;emplacement du second&#xa0;; un clic sur une ligne ou une case fait de même</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;there</source>
+        <translation>Afficher le pointé &amp;aller</translation>
+    </message>
+    <message>
+        <source>The pick of the second shot at the place of the first comes into view; so does a click on the second shot of a line, or on the cell across the diagonal</source>
+        <translation>Affiche le pointé du second tir à l&apos;emplacement du premier&#xa0;; un clic sur le second tir d&apos;une ligne, ou sur la case symétrique par rapport à la diagonale, fait de même</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;back</source>
+        <translation>Afficher le pointé &amp;retour</translation>
+    </message>
+    <message>
+        <source>Shifts the record of the chosen shot, with its picks, by the time that mends it; Undo takes it back</source>
+        <translation>Décale l&apos;enregistrement du tir choisi, avec ses pointés, du temps qui le corrige&#xa0;; «&#xa0;Défaire&#xa0;» l&apos;annule</translation>
+    </message>
+    <message>
+        <source>&amp;Mend</source>
+        <translation>&amp;Corriger</translation>
+    </message>
+    <message>
+        <source>Saves all pairs as a table (.csv)</source>
+        <translation>Enregistre toutes les paires dans un tableau (.csv)</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Enregistrer le tableau...</translation>
+    </message>
+    <message>
+        <source>Pairs of shots: %1, RMS of their differences: %2 ms. A wave takes as long on the way back: what differs is a pick, or a clock.</source>
+        <translation>Paires de tirs&#xa0;: %1, RMS de leurs différences&#xa0;: %2 ms. L&apos;onde met autant de temps au retour&#xa0;: ce qui diffère est un pointé, ou une horloge.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Tir %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>none: there is no recording to shift</source>
+        <translation>aucune&#xa0;: il n&apos;y a pas d&apos;enregistrement à décaler</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityMatrix</name>
+    <message>
+        <source>Row to column, longer than back by [ms]</source>
+        <translation>Ligne vers colonne, excès sur le retour [ms]</translation>
+    </message>
+    <message>
+        <source>Shot %1 to shot %2</source>
+        <translation>Tir %1 vers tir %2</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tir %1</translation>
+    </message>
+    <message>
+        <source>%1: no picks along both ways</source>
+        <translation>%1&#xa0;: pas de pointés dans les deux sens</translation>
+    </message>
+    <message>
+        <source>%1: %2 ms, back %3 ms, difference %4 ms</source>
+        <translation>%1&#xa0;: %2 ms, retour %3 ms, différence %4 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityModel</name>
+    <message>
+        <source>Shows trace %1 of shot %2</source>
+        <translation>Affiche la trace %1 du tir %2</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>The difference in standard deviations, where both picks have an error</source>
+        <translation>La différence en écarts types, si les deux pointés ont une erreur</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>À [m]</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Aller [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Retour [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Différence [ms]</translation>
+    </message>
+    <message>
+        <source>Sigmas</source>
+        <translation>Sigmas</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -5021,6 +5355,14 @@ Veuillez définir la position des géophones
     <message>
         <source>the standard of its format; record %1 of the file, %2</source>
         <translation>la norme de son format&#xa0;; enregistrement %1 du fichier, %2</translation>
+    </message>
+    <message>
+        <source>Pick (ms)</source>
+        <translation>Pointé (ms)</translation>
+    </message>
+    <message>
+        <source>Error (ms)</source>
+        <translation>Erreur (ms)</translation>
     </message>
 </context>
 <context>
@@ -6055,6 +6397,130 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Mends of recordings</source>
         <translation>Corrections des enregistrements</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Bons</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>Douteux</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Erreur inconnue</translation>
+    </message>
+    <message>
+        <source>Median error [ms]</source>
+        <translation>Erreur médiane [ms]</translation>
+    </message>
+    <message>
+        <source>Largest error [ms]</source>
+        <translation>Erreur maximale [ms]</translation>
+    </message>
+    <message>
+        <source>Errors of the picks of every shot</source>
+        <translation>Erreurs des pointés de chaque tir</translation>
+    </message>
+    <message>
+        <source>The error of a pick is one standard deviation. A pick is good up to %1 ms and doubtful beyond.</source>
+        <translation>L&apos;erreur d&apos;un pointé est d&apos;un écart type. Un pointé est bon jusqu&apos;à %1 ms et douteux au-delà.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Ajustement aux erreurs des pointés</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none</source>
+        <translation>Erreurs des pointés qui n&apos;en indiquent pas</translation>
+    </message>
+    <message>
+        <source>%1 ms, or %2 % of the time where that is more</source>
+        <translation>%1 ms, ou %2&#xa0;% du temps si c&apos;est davantage</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Khi-deux</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2</source>
+        <translation>%1&#xa0;; de tous les pointés %2</translation>
+    </message>
+    <message>
+        <source>Target reached</source>
+        <translation>Objectif atteint</translation>
+    </message>
+    <message>
+        <source>Suspect picks, left out of chi-square</source>
+        <translation>Pointés suspects, exclus du khi-deux</translation>
+    </message>
+    <message>
+        <source>Iterations to this section</source>
+        <translation>Itérations jusqu&apos;à cette coupe</translation>
+    </message>
+    <message>
+        <source>Few sharp steps rather than gentle slopes</source>
+        <translation>Peu de sauts nets plutôt que des transitions douces</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots fitted, too</source>
+        <translation>Décalages temporels des tirs ajustés aussi</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Paires</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Retard [ms]</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Reciprocity of every shot</source>
+        <translation>Réciprocité de chaque tir</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Aller [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Retour [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Différence [ms]</translation>
+    </message>
+    <message>
+        <source>The pairs of shots that differ most</source>
+        <translation>Les paires de tirs qui diffèrent le plus</translation>
+    </message>
+    <message>
+        <source>Pairs of shots</source>
+        <translation>Paires de tirs</translation>
+    </message>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Réciprocité</translation>
+    </message>
+    <message>
+        <source>A wave takes as long from one shot to the place of another as back. Pairs of shots with picks along both ways: %1; RMS of their differences: %2 ms.</source>
+        <translation>D&apos;un tir à l&apos;emplacement d&apos;un autre, l&apos;onde met autant de temps qu&apos;au retour. Paires de tirs avec des pointés dans les deux sens&#xa0;: %1&#xa0;; RMS de leurs différences&#xa0;: %2 ms.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Tir %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -8080,6 +8546,202 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
         <translation>Traces&#xa0;: %1, dont %2 avec un pointé sûr à %3 ms près et %4 avec un pointé douteux&#xa0;; vos propres pointés conservés&#xa0;: %5.</translation>
     </message>
+    <message>
+        <source>Guides in the traces</source>
+        <translation>Repères sur les traces</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Temps calculés</translation>
+    </message>
+    <message>
+        <source>Draw the times through the section over the traces</source>
+        <translation>Dessiner sur les traces les temps à travers la coupe</translation>
+    </message>
+    <message>
+        <source>Curve of the nearest shot</source>
+        <translation>Courbe du tir le plus proche</translation>
+    </message>
+    <message>
+        <source>Draw the picks of the nearest other shot on the same geophones, dashed</source>
+        <translation>Dessiner en tirets les pointés de l&apos;autre tir le plus proche aux mêmes géophones</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Temps réciproques</translation>
+    </message>
+    <message>
+        <source>Mark when other shots recorded the same ways in the other direction: the picks should pass there</source>
+        <translation>Marquer les temps auxquels d&apos;autres tirs ont enregistré les mêmes parcours dans l&apos;autre sens&#xa0;: les pointés devraient y passer</translation>
+    </message>
+    <message>
+        <source>Guide line</source>
+        <translation>Ligne guide</translation>
+    </message>
+    <message>
+        <source>Drag along the first breaks: the picker fills the traces near that line (key G)</source>
+        <translation>Glisser le long des premières arrivées&#xa0;: le pointage automatique complète les traces près de cette ligne (touche G)</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Compléter le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Pick the rest of the current shot through the picks that you set or confirmed</source>
+        <translation>Pointer le reste du tir affiché en suivant les pointés que vous avez placés ou confirmés</translation>
+    </message>
+    <message>
+        <source>Error 0.5 ms</source>
+        <translation>Erreur 0,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 0.5 ms, and so may those that you set next (key 1)</source>
+        <translation>Les pointés des traces sélectionnées, et ceux que vous placerez ensuite, sont justes à 0,5 ms près (touche 1)</translation>
+    </message>
+    <message>
+        <source>Error 1 ms</source>
+        <translation>Erreur 1 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 1 ms, and so may those that you set next (key 2)</source>
+        <translation>Les pointés des traces sélectionnées, et ceux que vous placerez ensuite, sont justes à 1 ms près (touche 2)</translation>
+    </message>
+    <message>
+        <source>Error 2.5 ms</source>
+        <translation>Erreur 2,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 2.5 ms, and so may those that you set next (key 3)</source>
+        <translation>Les pointés des traces sélectionnées, et ceux que vous placerez ensuite, sont justes à 2,5 ms près (touche 3)</translation>
+    </message>
+    <message>
+        <source>Error 5 ms</source>
+        <translation>Erreur 5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 5 ms, and so may those that you set next (key 4)</source>
+        <translation>Les pointés des traces sélectionnées, et ceux que vous placerez ensuite, sont justes à 5 ms près (touche 4)</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Erreur inconnue</translation>
+    </message>
+    <message>
+        <source>Nothing is told of how far the picks of the selected traces may be off, nor those that you set next (key 0)</source>
+        <translation>Rien n&apos;est dit de l&apos;erreur des pointés des traces sélectionnées, ni de ceux que vous placerez ensuite (touche 0)</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Barres d&apos;erreur</translation>
+    </message>
+    <message>
+        <source>Show how far picks may be off, in the traces and in the travel-time curves; bars of doubtful picks are dashed</source>
+        <translation>Afficher l&apos;erreur possible des pointés, sur les traces et dans les dromochroniques&#xa0;; les barres des pointés douteux sont en tirets</translation>
+    </message>
+    <message>
+        <source>Next doubtful pick</source>
+        <translation>Pointé douteux suivant</translation>
+    </message>
+    <message>
+        <source>Go to the next pick of all shots that is doubtful by its error, the section or the reciprocal time, worst first</source>
+        <translation>Aller au prochain pointé, tous tirs confondus, douteux par son erreur, la coupe ou le temps réciproque, le pire d&apos;abord</translation>
+    </message>
+    <message>
+        <source>Previous doubtful pick</source>
+        <translation>Pointé douteux précédent</translation>
+    </message>
+    <message>
+        <source>Go back to the doubtful pick before, a worse one</source>
+        <translation>Revenir au pointé douteux précédent, qui est pire</translation>
+    </message>
+    <message>
+        <source>Reciprocity...</source>
+        <translation>Réciprocité...</translation>
+    </message>
+    <message>
+        <source>Compare the picks of all shots there and back, and find the shots that are late</source>
+        <translation>Comparer les pointés de tous les tirs à l&apos;aller et au retour, et trouver les tirs en retard</translation>
+    </message>
+    <message>
+        <source>Set or confirm some picks of this shot first, or draw a line with the tool Guide line.</source>
+        <translation>Placez ou confirmez d&apos;abord quelques pointés de ce tir, ou tracez une ligne avec l&apos;outil «&#xa0;Ligne guide&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Shot %1 has not been filled.</source>
+        <translation>Le tir %1 n&apos;a pas été complété.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2 traces filled, %3 sure to %4 ms and %5 doubtful; %6 are without a pick, %7 picks that you made stay.</source>
+        <translation>Tir %1&#xa0;: traces complétées&#xa0;: %2, dont %3 avec un pointé sûr à %4 ms près et %5 avec un pointé douteux&#xa0;; sans pointé&#xa0;: %6&#xa0;; vos propres pointés conservés&#xa0;: %7.</translation>
+    </message>
+    <message>
+        <source>The record of shot %1 is mended; Undo takes it back.</source>
+        <translation>L&apos;enregistrement du tir %1 est corrigé&#xa0;; «&#xa0;Défaire&#xa0;» annule la correction.</translation>
+    </message>
+    <message>
+        <source>The recording has not been mended.</source>
+        <translation>L&apos;enregistrement n&apos;a pas été corrigé.</translation>
+    </message>
+    <message>
+        <source>Save Reciprocal Times</source>
+        <translation>Enregistrer les temps réciproques</translation>
+    </message>
+    <message>
+        <source>Table (*.csv);;All Files (*)</source>
+        <translation>Tableau (*.csv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Doubtful pick %1 of %2, shot %3, trace %4: %5</source>
+        <translation>Pointé douteux %1 sur %2, tir %3, trace %4&#xa0;: %5</translation>
+    </message>
+    <message>
+        <source>after the last one, the worst again</source>
+        <translation>après le dernier, de nouveau le pire</translation>
+    </message>
+    <message>
+        <source>before the worst, the last</source>
+        <translation>avant le pire, le dernier</translation>
+    </message>
+    <message>
+        <source>error %1 ms</source>
+        <translation>erreur %1 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms later</source>
+        <translation>calculé %1 ms plus tard</translation>
+    </message>
+    <message>
+        <source>computed %1 ms earlier</source>
+        <translation>calculé %1 ms plus tôt</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms later</source>
+        <translation>temps réciproque %1 ms plus tard</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms earlier</source>
+        <translation>temps réciproque %1 ms plus tôt</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Il n&apos;y a pas encore de pointés.</translation>
+    </message>
+    <message>
+        <source>No pick waits for confirmation.</source>
+        <translation>Aucun pointé n&apos;attend de confirmation.</translation>
+    </message>
+    <message>
+        <source>None of the %1 picks that wait for confirmation is doubtful.</source>
+        <translation>Pointés en attente de confirmation&#xa0;: %1&#xa0;; aucun n&apos;est douteux.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of %1 of them: no error, no computed time, no reciprocal one.</source>
+        <translation>On ne sait rien de %1 d&apos;entre eux&#xa0;: ni erreur, ni temps calculé, ni temps réciproque.</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Erreur %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -8121,6 +8783,27 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Air %1 m/s</source>
         <translation>Air %1 m/s</translation>
+    </message>
+    <message>
+        <source>No other shot of the string is picked</source>
+        <translation>Aucun autre tir du dispositif n&apos;est pointé</translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <comment>number, place</comment>
+        <translation>Tir %1 à %2 m</translation>
+    </message>
+    <message>
+        <source>No computed times</source>
+        <translation>Pas de temps calculés</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Temps réciproques</translation>
+    </message>
+    <message>
+        <source>No reciprocal times</source>
+        <translation>Pas de temps réciproques</translation>
     </message>
 </context>
 <context>
@@ -8208,6 +8891,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Error: %1 ms</source>
+        <translation>Erreur&#xa0;: %1 ms</translation>
     </message>
 </context>
 <context>
@@ -8606,6 +9293,14 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>This shot has no traces</source>
         <translation>Ce tir n&apos;a pas de traces</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms, error %3 ms</source>
+        <translation>Trace %1, pointée à %2 ms, erreur %3 ms</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Erreur %1 ms</translation>
     </message>
 </context>
 <context>

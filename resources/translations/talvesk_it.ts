@@ -1013,6 +1013,25 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <comment>traces</comment>
         <translation>azzeramento iniziale di %1</translation>
     </message>
+    <message>
+        <source>bars of one standard deviation, dashed above %1 ms</source>
+        <translation>barre di una deviazione standard, tratteggiate oltre %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 good</source>
+        <comment>picks</comment>
+        <translation>%1 buoni</translation>
+    </message>
+    <message>
+        <source>%1 doubtful</source>
+        <comment>picks</comment>
+        <translation>%1 dubbi</translation>
+    </message>
+    <message>
+        <source>%1 of unknown error</source>
+        <comment>picks</comment>
+        <translation>%1 con errore ignoto</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -4445,10 +4464,6 @@ Impostare la posizione dei geofoni
         <translation>tiro %1: primi arrivi tralasciati, poiché il tiro è disattivato o le loro tracce sono escluse: %2</translation>
     </message>
     <message>
-        <source>the file tells errors of its picks, which the survey does not keep</source>
-        <translation>il file indica errori dei primi arrivi, che il rilievo non conserva</translation>
-    </message>
-    <message>
         <source>the file ends after %1 of %2 lines</source>
         <translation>il file finisce dopo %1 righe su %2</translation>
     </message>
@@ -4623,6 +4638,166 @@ Impostare la posizione dei geofoni
     <message>
         <source>shot %1, %2: %3</source>
         <translation>tiro %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Completa lungo la linea</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Non ci sono ancora primi arrivi.</translation>
+    </message>
+    <message>
+        <source>Only one shot has picks.</source>
+        <translation>Un solo tiro ha primi arrivi.</translation>
+    </message>
+    <message>
+        <source>No two shots have picks within half a geophone spacing of each other&apos;s place.</source>
+        <translation>Non ci sono due tiri con primi arrivi entro mezzo passo dei geofoni dalla posizione l&apos;uno dell&apos;altro.</translation>
+    </message>
+    <message>
+        <source>no error of a pick is known</source>
+        <translation>non è noto l&apos;errore di alcun primo arrivo</translation>
+    </message>
+    <message>
+        <source>it tells errors of picks that cannot be</source>
+        <translation>indica errori dei primi arrivi che non sono possibili</translation>
+    </message>
+    <message>
+        <source>the error of %1 picks is not known; the file has 0 for it</source>
+        <translation>l&apos;errore di %1 primi arrivi non è noto; nel file vale 0</translation>
+    </message>
+    <message>
+        <source>Picks at sample %1, before which AutoPick cannot look: %2, on %3. Where the wave came earlier, pick by hand or use AutoPick along the line.</source>
+        <translation>Primi arrivi al campione %1, prima del quale l&apos;AutoPick non può cercare: %2 (%3). Dove l&apos;onda è arrivata prima, segnarli a mano o usare AutoPick lungo la linea.</translation>
+    </message>
+    <message>
+        <source>the guide line has no times to follow</source>
+        <translation>la linea guida non ha tempi da seguire</translation>
+    </message>
+    <message>
+        <source>the reach of the guide line has to be at least 0 ms</source>
+        <translation>la tolleranza della linea guida deve essere almeno 0 ms</translation>
+    </message>
+    <message>
+        <source>The model to start from has not one valid velocity per cell of the grid.</source>
+        <translation>Il modello di partenza non ha una velocità valida per ogni cella della griglia.</translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 m/s are not.</source>
+        <translation>I limiti di velocità devono essere numeri positivi, il minimo sotto il massimo; %1 e %2 m/s non lo sono.</translation>
+    </message>
+    <message>
+        <source>The fit needs one iteration at least and a positive trigger error.</source>
+        <translation>L&apos;adattamento richiede almeno un&apos;iterazione e un errore del trigger positivo.</translation>
+    </message>
+    <message>
+        <source>There is no pick that a section could be fitted to.</source>
+        <translation>Non c&apos;è alcun primo arrivo a cui adattare una sezione.</translation>
+    </message>
+    <message>
+        <source>The pick of shot %1, receiver %2 has no positive time and error.</source>
+        <translation>Il primo arrivo del tiro %1, ricevitore %2 non ha tempo ed errore positivi.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1.</source>
+        <translation>La sezione si adatta ai primi arrivi entro i loro errori: chi quadrato %1.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square stays at %1. The errors of the picks may be stated too small, shots may be shifted in time, or cells too large.</source>
+        <translation>obiettivo non raggiunto: il chi quadrato resta a %1. Gli errori dei primi arrivi potrebbero essere indicati troppo piccoli, alcuni tiri traslati nel tempo, o le celle troppo grandi.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks better than their errors demand: chi-square %1, however smooth it is. The errors may be stated too large.</source>
+        <translation>La sezione si adatta ai primi arrivi meglio di quanto i loro errori richiedano: chi quadrato %1, per quanto sia smussata. Gli errori potrebbero essere indicati troppo grandi.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square is %1 after %2 iterations.</source>
+        <translation>obiettivo non raggiunto: il chi quadrato è %1 dopo %2 iterazioni.</translation>
+    </message>
+    <message>
+        <source>Stopped by the user after %1 iterations: chi-square %2.</source>
+        <translation>Interrotta dall&apos;utente dopo %1 iterazioni: chi quadrato %2.</translation>
+    </message>
+    <message>
+        <source>only %1 picks are of waves along the surface; it takes %2</source>
+        <translation>i primi arrivi di onde lungo la superficie sono solo %1; ne servono %2</translation>
+    </message>
+    <message>
+        <source>only %1 picks are surely of waves along refractor %2; it takes %3</source>
+        <translation>i primi arrivi sicuramente di onde lungo il rifrattore %2 sono solo %1; ne servono %3</translation>
+    </message>
+    <message>
+        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
+        <translation>le onde lungo la superficie, a %1 m/s, sono più lente di quanto i limiti permettano</translation>
+    </message>
+    <message>
+        <source>the times of a refractor grow too little with offset for the bounds</source>
+        <translation>i tempi di un rifrattore crescono troppo poco con la distanza per rispettare i limiti</translation>
+    </message>
+    <message>
+        <source>velocities of %1 and %2 m/s do not increase with depth</source>
+        <translation>velocità di %1 e %2 m/s non crescono con la profondità</translation>
+    </message>
+    <message>
+        <source>the picks do not settle its delay times</source>
+        <translation>i primi arrivi non bastano a determinare i suoi tempi di ritardo</translation>
+    </message>
+    <message>
+        <source>the times over offset show no cross-over to a faster branch</source>
+        <translation>i tempi in funzione della distanza non mostrano un punto di ginocchio verso un ramo più veloce</translation>
+    </message>
+    <message>
+        <source>the velocity above the refractor grows by less than a tenth</source>
+        <translation>la velocità sopra il rifrattore cresce di meno di un decimo</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Gradiente</translation>
+    </message>
+    <message>
+        <source>Two layers</source>
+        <translation>Due strati</translation>
+    </message>
+    <message>
+        <source>Three layers</source>
+        <translation>Tre strati</translation>
+    </message>
+    <message>
+        <source>Overburden gradient</source>
+        <translation>Copertura a gradiente</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down</source>
+        <translation>%1 m/s in superficie, %2 m/s dove il raggio più profondo risale, a %3 m di profondità</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down</source>
+        <translation>%1 m/s, %2 m/s oltre %3 m di profondità, %4 m/s oltre %5 m</translation>
+    </message>
+    <message>
+        <source>%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down</source>
+        <translation>%1 m/s e %2 m/s in più per metro, %3 m/s oltre %4 m di profondità</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down</source>
+        <translation>%1 m/s, %2 m/s oltre %3 m di profondità</translation>
+    </message>
+    <message>
+        <source>it takes times that grow with offset, at three offsets or more</source>
+        <translation>servono tempi che crescono con la distanza, ad almeno tre distanze dal tiro</translation>
+    </message>
+    <message>
+        <source>Set errors of picks</source>
+        <translation>Imposta gli errori dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>Set error of pick</source>
+        <translation>Imposta l&apos;errore del primo arrivo</translation>
     </message>
 </context>
 <context>
@@ -4908,6 +5083,165 @@ Impostare la posizione dei geofoni
     </message>
 </context>
 <context>
+    <name>talvesk::ReciprocityDialog</name>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Reciprocità</translation>
+    </message>
+    <message>
+        <source>Times there and back</source>
+        <translation>Tempi di andata e di ritorno</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tiri</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>Posizione [m]</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Coppie</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>In ritardo di [ms]</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Correzione</translation>
+    </message>
+    <message>
+        <source>Differences of times there and back, shot by shot</source>
+        <translation>Differenze fra i tempi di andata e di ritorno, tiro per tiro</translation>
+    </message>
+    <message>
+        <source>The pick of the first shot at the place of the second comes into view in the window; a click on a line or a cell does the same</source>
+        <translation>Il primo arrivo del primo tiro alla posizione del secondo viene in vista nella finestra; un clic su una riga o una cella fa lo stesso</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;there</source>
+        <translation>Mostra l&apos;&amp;andata</translation>
+    </message>
+    <message>
+        <source>The pick of the second shot at the place of the first comes into view; so does a click on the second shot of a line, or on the cell across the diagonal</source>
+        <translation>Il primo arrivo del secondo tiro alla posizione del primo viene in vista; lo stesso fa un clic sul secondo tiro di una riga, o sulla cella opposta rispetto alla diagonale</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;back</source>
+        <translation>Mostra il &amp;ritorno</translation>
+    </message>
+    <message>
+        <source>Shifts the record of the chosen shot, with its picks, by the time that mends it; Undo takes it back</source>
+        <translation>Trasla la registrazione del tiro scelto, con i suoi primi arrivi, del tempo che la corregge; &quot;Annulla modifica&quot; ripristina tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Mend</source>
+        <translation>&amp;Correggi</translation>
+    </message>
+    <message>
+        <source>Saves all pairs as a table (.csv)</source>
+        <translation>Salva tutte le coppie come tabella (.csv)</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Salva tabella...</translation>
+    </message>
+    <message>
+        <source>Pairs of shots: %1, RMS of their differences: %2 ms. A wave takes as long on the way back: what differs is a pick, or a clock.</source>
+        <translation>Coppie di tiri: %1, RMS delle loro differenze: %2 ms. Un&apos;onda impiega al ritorno lo stesso tempo: se c&apos;è una differenza, è di un primo arrivo o di un orologio.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Tiro %1: %2.</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>none: there is no recording to shift</source>
+        <translation>nessuna: non c&apos;è una registrazione da traslare</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityMatrix</name>
+    <message>
+        <source>Row to column, longer than back by [ms]</source>
+        <translation>Da riga a colonna, più lungo del ritorno di [ms]</translation>
+    </message>
+    <message>
+        <source>Shot %1 to shot %2</source>
+        <translation>Dal tiro %1 al tiro %2</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tiro %1</translation>
+    </message>
+    <message>
+        <source>%1: no picks along both ways</source>
+        <translation>%1: mancano primi arrivi in entrambi i versi</translation>
+    </message>
+    <message>
+        <source>%1: %2 ms, back %3 ms, difference %4 ms</source>
+        <translation>%1: %2 ms, ritorno %3 ms, differenza %4 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityModel</name>
+    <message>
+        <source>Shows trace %1 of shot %2</source>
+        <translation>Mostra la traccia %1 del tiro %2</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>The difference in standard deviations, where both picks have an error</source>
+        <translation>La differenza in deviazioni standard, dove entrambi i primi arrivi hanno un errore</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>Posizione [m]</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Andata [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Ritorno [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Differenza [ms]</translation>
+    </message>
+    <message>
+        <source>Sigmas</source>
+        <translation>Sigma</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -5021,6 +5355,14 @@ Impostare la posizione dei geofoni
     <message>
         <source>the standard of its format; record %1 of the file, %2</source>
         <translation>lo standard del suo formato; registrazione %1 del file, %2</translation>
+    </message>
+    <message>
+        <source>Pick (ms)</source>
+        <translation>Primo arrivo (ms)</translation>
+    </message>
+    <message>
+        <source>Error (ms)</source>
+        <translation>Errore (ms)</translation>
     </message>
 </context>
 <context>
@@ -6055,6 +6397,130 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Mends of recordings</source>
         <translation>Correzioni delle registrazioni</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Buoni</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>Dubbi</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Errore ignoto</translation>
+    </message>
+    <message>
+        <source>Median error [ms]</source>
+        <translation>Errore mediano [ms]</translation>
+    </message>
+    <message>
+        <source>Largest error [ms]</source>
+        <translation>Errore massimo [ms]</translation>
+    </message>
+    <message>
+        <source>Errors of the picks of every shot</source>
+        <translation>Errori dei primi arrivi di ogni tiro</translation>
+    </message>
+    <message>
+        <source>The error of a pick is one standard deviation. A pick is good up to %1 ms and doubtful beyond.</source>
+        <translation>L&apos;errore di un primo arrivo è una deviazione standard. Un primo arrivo è buono fino a %1 ms, dubbio oltre.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sì</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Adattamento entro gli errori dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none</source>
+        <translation>Errori dei primi arrivi che non ne indicano</translation>
+    </message>
+    <message>
+        <source>%1 ms, or %2 % of the time where that is more</source>
+        <translation>%1 ms, o il %2 % del tempo dove è di più</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi quadrato</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2</source>
+        <translation>%1; di tutti i primi arrivi %2</translation>
+    </message>
+    <message>
+        <source>Target reached</source>
+        <translation>Obiettivo raggiunto</translation>
+    </message>
+    <message>
+        <source>Suspect picks, left out of chi-square</source>
+        <translation>Primi arrivi sospetti, esclusi dal chi quadrato</translation>
+    </message>
+    <message>
+        <source>Iterations to this section</source>
+        <translation>Iterazioni fino a questa sezione</translation>
+    </message>
+    <message>
+        <source>Few sharp steps rather than gentle slopes</source>
+        <translation>Pochi salti netti invece di variazioni graduali</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots fitted, too</source>
+        <translation>Traslazioni temporali dei tiri incluse nell&apos;adattamento</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Coppie</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>In ritardo di [ms]</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Reciprocity of every shot</source>
+        <translation>Reciprocità di ogni tiro</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Andata [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Ritorno [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Differenza [ms]</translation>
+    </message>
+    <message>
+        <source>The pairs of shots that differ most</source>
+        <translation>Le coppie di tiri che differiscono di più</translation>
+    </message>
+    <message>
+        <source>Pairs of shots</source>
+        <translation>Coppie di tiri</translation>
+    </message>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Reciprocità</translation>
+    </message>
+    <message>
+        <source>A wave takes as long from one shot to the place of another as back. Pairs of shots with picks along both ways: %1; RMS of their differences: %2 ms.</source>
+        <translation>Un&apos;onda impiega da un tiro alla posizione di un altro lo stesso tempo che al ritorno. Coppie di tiri con primi arrivi in entrambi i versi: %1; RMS delle loro differenze: %2 ms.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Tiro %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -8080,6 +8546,202 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
         <translation>Su %1 tracce, %2 hanno un primo arrivo sicuro entro %3 ms e %4 uno dubbio; %5 primi arrivi messi da te restano.</translation>
     </message>
+    <message>
+        <source>Guides in the traces</source>
+        <translation>Riferimenti nelle tracce</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Tempi calcolati</translation>
+    </message>
+    <message>
+        <source>Draw the times through the section over the traces</source>
+        <translation>Disegna sulle tracce i tempi attraverso la sezione</translation>
+    </message>
+    <message>
+        <source>Curve of the nearest shot</source>
+        <translation>Dromocrona del tiro più vicino</translation>
+    </message>
+    <message>
+        <source>Draw the picks of the nearest other shot on the same geophones, dashed</source>
+        <translation>Disegna, tratteggiati, i primi arrivi dell&apos;altro tiro più vicino agli stessi geofoni</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Tempi reciproci</translation>
+    </message>
+    <message>
+        <source>Mark when other shots recorded the same ways in the other direction: the picks should pass there</source>
+        <translation>Segna quando altri tiri hanno registrato gli stessi percorsi nell&apos;altro verso: i primi arrivi dovrebbero passare di lì</translation>
+    </message>
+    <message>
+        <source>Guide line</source>
+        <translation>Linea guida</translation>
+    </message>
+    <message>
+        <source>Drag along the first breaks: the picker fills the traces near that line (key G)</source>
+        <translation>Trascina lungo i primi arrivi: vengono cercati sulle tracce vicino a quella linea (tasto G)</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Completa lungo la linea</translation>
+    </message>
+    <message>
+        <source>Pick the rest of the current shot through the picks that you set or confirmed</source>
+        <translation>Trova gli altri primi arrivi del tiro in vista passando per quelli messi o confermati da te</translation>
+    </message>
+    <message>
+        <source>Error 0.5 ms</source>
+        <translation>Errore 0,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 0.5 ms, and so may those that you set next (key 1)</source>
+        <translation>I primi arrivi delle tracce scelte possono sbagliare di 0,5 ms, e così quelli che metti in seguito (tasto 1)</translation>
+    </message>
+    <message>
+        <source>Error 1 ms</source>
+        <translation>Errore 1 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 1 ms, and so may those that you set next (key 2)</source>
+        <translation>I primi arrivi delle tracce scelte possono sbagliare di 1 ms, e così quelli che metti in seguito (tasto 2)</translation>
+    </message>
+    <message>
+        <source>Error 2.5 ms</source>
+        <translation>Errore 2,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 2.5 ms, and so may those that you set next (key 3)</source>
+        <translation>I primi arrivi delle tracce scelte possono sbagliare di 2,5 ms, e così quelli che metti in seguito (tasto 3)</translation>
+    </message>
+    <message>
+        <source>Error 5 ms</source>
+        <translation>Errore 5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 5 ms, and so may those that you set next (key 4)</source>
+        <translation>I primi arrivi delle tracce scelte possono sbagliare di 5 ms, e così quelli che metti in seguito (tasto 4)</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Errore ignoto</translation>
+    </message>
+    <message>
+        <source>Nothing is told of how far the picks of the selected traces may be off, nor those that you set next (key 0)</source>
+        <translation>Non si indica di quanto possono sbagliare i primi arrivi delle tracce scelte, né quelli che metti in seguito (tasto 0)</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Barre d&apos;errore</translation>
+    </message>
+    <message>
+        <source>Show how far picks may be off, in the traces and in the travel-time curves; bars of doubtful picks are dashed</source>
+        <translation>Mostra di quanto possono sbagliare i primi arrivi, nelle tracce e nelle dromocrone; le barre di quelli dubbi sono tratteggiate</translation>
+    </message>
+    <message>
+        <source>Next doubtful pick</source>
+        <translation>Primo arrivo dubbio successivo</translation>
+    </message>
+    <message>
+        <source>Go to the next pick of all shots that is doubtful by its error, the section or the reciprocal time, worst first</source>
+        <translation>Va al successivo, fra tutti i tiri, dei primi arrivi dubbi per l&apos;errore, la sezione o il tempo reciproco, a partire dal peggiore</translation>
+    </message>
+    <message>
+        <source>Previous doubtful pick</source>
+        <translation>Primo arrivo dubbio precedente</translation>
+    </message>
+    <message>
+        <source>Go back to the doubtful pick before, a worse one</source>
+        <translation>Torna al primo arrivo dubbio che precede, uno peggiore</translation>
+    </message>
+    <message>
+        <source>Reciprocity...</source>
+        <translation>Reciprocità...</translation>
+    </message>
+    <message>
+        <source>Compare the picks of all shots there and back, and find the shots that are late</source>
+        <translation>Confronta i primi arrivi di tutti i tiri nei due versi e trova i tiri in ritardo</translation>
+    </message>
+    <message>
+        <source>Set or confirm some picks of this shot first, or draw a line with the tool Guide line.</source>
+        <translation>Metti o conferma prima alcuni primi arrivi di questo tiro, o traccia una linea con lo strumento &quot;Linea guida&quot;.</translation>
+    </message>
+    <message>
+        <source>Shot %1 has not been filled.</source>
+        <translation>Il tiro %1 non è stato completato.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2 traces filled, %3 sure to %4 ms and %5 doubtful; %6 are without a pick, %7 picks that you made stay.</source>
+        <translation>Tiro %1: %2 tracce completate, %3 con un primo arrivo sicuro entro %4 ms e %5 con uno dubbio; %6 ne sono senza, %7 primi arrivi messi da te restano.</translation>
+    </message>
+    <message>
+        <source>The record of shot %1 is mended; Undo takes it back.</source>
+        <translation>La registrazione del tiro %1 è corretta; &quot;Annulla modifica&quot; la ripristina.</translation>
+    </message>
+    <message>
+        <source>The recording has not been mended.</source>
+        <translation>La registrazione non è stata corretta.</translation>
+    </message>
+    <message>
+        <source>Save Reciprocal Times</source>
+        <translation>Salva tempi reciproci</translation>
+    </message>
+    <message>
+        <source>Table (*.csv);;All Files (*)</source>
+        <translation>Tabella (*.csv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Doubtful pick %1 of %2, shot %3, trace %4: %5</source>
+        <translation>Primo arrivo dubbio %1 di %2, tiro %3, traccia %4: %5</translation>
+    </message>
+    <message>
+        <source>after the last one, the worst again</source>
+        <translation>dopo l&apos;ultimo, di nuovo il peggiore</translation>
+    </message>
+    <message>
+        <source>before the worst, the last</source>
+        <translation>prima del peggiore, l&apos;ultimo</translation>
+    </message>
+    <message>
+        <source>error %1 ms</source>
+        <translation>errore %1 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms later</source>
+        <translation>calcolato %1 ms più tardi</translation>
+    </message>
+    <message>
+        <source>computed %1 ms earlier</source>
+        <translation>calcolato %1 ms prima</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms later</source>
+        <translation>tempo reciproco %1 ms più tardi</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms earlier</source>
+        <translation>tempo reciproco %1 ms prima</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Non ci sono ancora primi arrivi.</translation>
+    </message>
+    <message>
+        <source>No pick waits for confirmation.</source>
+        <translation>Nessun primo arrivo attende conferma.</translation>
+    </message>
+    <message>
+        <source>None of the %1 picks that wait for confirmation is doubtful.</source>
+        <translation>Nessuno dei %1 primi arrivi che attendono conferma è dubbio.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of %1 of them: no error, no computed time, no reciprocal one.</source>
+        <translation>Di %1 di essi non si sa nulla: né errore, né tempo calcolato, né tempo reciproco.</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Errore %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -8121,6 +8783,27 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>Air %1 m/s</source>
         <translation>Aria %1 m/s</translation>
+    </message>
+    <message>
+        <source>No other shot of the string is picked</source>
+        <translation>Nessun altro tiro della stesa ha primi arrivi</translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <comment>number, place</comment>
+        <translation>Tiro %1 a %2 m</translation>
+    </message>
+    <message>
+        <source>No computed times</source>
+        <translation>Nessun tempo calcolato</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Tempi reciproci</translation>
+    </message>
+    <message>
+        <source>No reciprocal times</source>
+        <translation>Nessun tempo reciproco</translation>
     </message>
 </context>
 <context>
@@ -8208,6 +8891,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Error: %1 ms</source>
+        <translation>Errore: %1 ms</translation>
     </message>
 </context>
 <context>
@@ -8606,6 +9293,14 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>This shot has no traces</source>
         <translation>Questo tiro non ha tracce</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms, error %3 ms</source>
+        <translation>Traccia %1, primo arrivo a %2 ms, errore %3 ms</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Errore %1 ms</translation>
     </message>
 </context>
 <context>
