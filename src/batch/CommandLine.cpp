@@ -48,8 +48,9 @@ void addPick(CLI::App& app, PickOptions& pick) {
   const ShotOptionGroup shots = addShotOptions(command, pick.shots);
   mustEndIn(addPath(command, "-o,--otte", pick.otte,
                     "The travel-time exchange file to write, named *.otte; not needed with "
-                    "--project"),
+                    "--sgt or --project"),
             {".otte"}, false);
+  mustEndIn(addPath(command, "--sgt", pick.sgt, kUnifiedHelp), {".sgt"}, false);
   mustEndIn(addPath(command, "--project", pick.project,
                     "Save the survey with its picks and traces as a project named *.tvsk"),
             {".tvsk"}, false);
@@ -63,7 +64,9 @@ void addPick(CLI::App& app, PickOptions& pick) {
   command.add_flag("--verbose", pick.verbose, "Print the messages of the readers and the picker")
       ->excludes(quiet);
   command.final_callback([shots, &pick] {
-    if (pick.otte.empty() && pick.project.empty()) throw CLI::RequiredError("--otte or --project");
+    if ((pick.otte + pick.sgt + pick.project).empty()) {
+      throw CLI::RequiredError("--otte, --sgt or --project");
+    }
     shots.check(pick.shots);
   });
 }

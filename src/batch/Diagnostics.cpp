@@ -53,4 +53,11 @@ Status writePicks(const std::string& path, const TomoDocument& document) {
   return status;
 }
 
+Status writePicksWithErrors(const std::string& path, const TomoDocument& document) {
+  std::vector<Message> losses;
+  const Status status = writeTravelTimes(path, travelTimesOf(document), losses);
+  for (const Message& loss : losses) warn(path + ": " + loss.english());
+  return status;
+}
+
 }  // namespace talvesk

@@ -38,5 +38,7 @@ Status readPicks(const std::string& path, const TravelTimeReading& reading, Trav
 /// Writes picks, and warns on standard error where the format cannot hold the survey, which its
 /// writer tells the console only.
 Status writePicks(const std::string& path, const TomoDocument& document);
+/// The same in the format that the name tells; .sgt takes their errors along.
+Status writePicksWithErrors(const std::string& path, const TomoDocument& document);
 
 }  // namespace talvesk

@@ -26,11 +26,14 @@ namespace talvesk {
 namespace {
 
 std::vector<OutputFile> outputsOf(const ExportOptions& options) {
-  std::vector<OutputFile> outputs = {
-      {"--gridded", options.gridded},  {"--otte", options.otte},
-      {"--vtk", options.vtk},          {"--grd", options.surfer},
-      {"--kml-line", options.kmlLine}, {"--kml-section", options.kmlSection},
-      {"--report", options.report}};
+  std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
+                                     {"--otte", options.otte},
+                                     {"--sgt", options.sgt},
+                                     {"--vtk", options.vtk},
+                                     {"--grd", options.surfer},
+                                     {"--kml-line", options.kmlLine},
+                                     {"--kml-section", options.kmlSection},
+                                     {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   return outputs;
 }
@@ -72,6 +75,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
     return writeGriddedText(path, document, options.griddedText);
   });
   attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
+  attempt(options.sgt, [&](const auto& path) { return writePicksWithErrors(path, document); });
   attempt(options.vtk, [&](const auto& path) { return writeVtkGrid(path, document); });
   attempt(options.surfer, [&](const auto& path) { return writeSurferGrid(path, document); });
   attempt(options.kmlLine, [&](const auto& path) {

@@ -65,6 +65,7 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
   output("--grd", options.surfer, ".grd",
          "Velocities on a regular raster as a Surfer ASCII grid, named *.grd");
   output("--otte", options.otte, ".otte", "The picks as a travel-time exchange file");
+  output("--sgt", options.sgt, ".sgt", kUnifiedHelp);
   CLI::Option* line = output("--kml-line", options.kmlLine, ".kml",
                              "Geophones and shots as marks on the globe, named *.kml");
   CLI::Option* section = output("--kml-section", options.kmlSection, ".kml",

@@ -14,6 +14,8 @@ namespace talvesk {
 
 inline constexpr const char* kExitCodes = "Exit code: 0 done, 1 failed, 2 wrong usage.";
 
+inline constexpr const char* kUnifiedHelp =
+    "The picks with their errors in the unified data format, named *.sgt";
 inline constexpr const char* kQuietHelp =
     "Print nothing but errors and what was left out, repaired or taken as 0 while reading";
 

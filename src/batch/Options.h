@@ -68,7 +68,8 @@ struct ShotOptions {
 struct PickOptions {
   ShotOptions shots;
   std::string otte;
-  std::string project;  ///< to save the survey in; it or `otte` is given
+  std::string sgt;
+  std::string project;  ///< to save the survey in; it, `otte` or `sgt` is given
   std::string json;
   std::vector<std::string> images;
   bool quiet = false;
@@ -152,6 +153,7 @@ struct ExportOptions {
   std::string gridded;
   GriddedTextOptions griddedText;
   std::string otte;
+  std::string sgt;
   std::string vtk;
   std::string surfer;
   std::string kmlLine;
@@ -166,7 +168,7 @@ struct ExportOptions {
 
   bool anyOutput() const {
     return !images.empty() ||
-           !(gridded + otte + vtk + surfer + kmlLine + kmlSection + report).empty();
+           !(gridded + otte + sgt + vtk + surfer + kmlLine + kmlSection + report).empty();
   }
 };
 

@@ -18,6 +18,7 @@ int writeResults(const PickOptions& options, const LoadedProject& project,
   const TomoDocument& document = project.document;
   OutputAttempts attempt;
   attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
+  attempt(options.sgt, [&](const auto& path) { return writePicksWithErrors(path, document); });
   attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   attempt(options.json, [&](const auto& path) {
     return writeOutput(path, picksJson(document, nameOf(options.shots.filter), reciprocity));
@@ -33,8 +34,10 @@ int writeResults(const PickOptions& options, const LoadedProject& project,
 }  // namespace
 
 int run(const PickOptions& options) {
-  std::vector<OutputFile> outputs = {
-      {"--otte", options.otte}, {"--json", options.json}, {"--project", options.project}};
+  std::vector<OutputFile> outputs = {{"--otte", options.otte},
+                                     {"--sgt", options.sgt},
+                                     {"--json", options.json},
+                                     {"--project", options.project}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   const Channels channels = openChannels(outputs, options.quiet, options.verbose);
   const Status places = checkOutputFiles(outputs, filesOf(options.shots));

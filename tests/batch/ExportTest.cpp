@@ -44,10 +44,27 @@ std::string writeProject(const Folder& folder, bool onGlobe = true,
 TEST(Export, writesEverythingOfAProject) {
   const Folder folder;
   const std::string project = writeProject(folder);
-  const Outcome outcome = runBatch(
-      {"export", project, "--gridded", folder / "s.txt", "--survey-x", "--y", "7", "--z-offset",
-       "-100", "--vtk", folder / "s.vtu", "--grd", folder / "s.grd", "--otte", folder / "s.otte",
-       "--kml-line", folder / "line.kml", "--kml-section", folder / "section.kml"});
+  const Outcome outcome = runBatch({"export",
+                                    project,
+                                    "--gridded",
+                                    folder / "s.txt",
+                                    "--survey-x",
+                                    "--y",
+                                    "7",
+                                    "--z-offset",
+                                    "-100",
+                                    "--vtk",
+                                    folder / "s.vtu",
+                                    "--grd",
+                                    folder / "s.grd",
+                                    "--otte",
+                                    folder / "s.otte",
+                                    "--sgt",
+                                    folder / "s.sgt",
+                                    "--kml-line",
+                                    folder / "line.kml",
+                                    "--kml-section",
+                                    folder / "section.kml"});
   ASSERT_EQ(outcome.code, 0) << outcome.err;
   EXPECT_THAT(contentsOf(folder / "s.txt"), StartsWith("99.5 7 -0.5 500\n"));
   EXPECT_THAT(contentsOf(folder / "s.vtu"), HasSubstr("NumberOfCells=\"30\""));
@@ -57,7 +74,8 @@ TEST(Export, writesEverythingOfAProject) {
   EXPECT_THAT(contentsOf(folder / "section.kml"),
               AllOf(HasSubstr("<name>Valley Profile</name>"), HasSubstr("ff430034"),
                     HasSubstr("ff00e7fd")));
-  EXPECT_EQ(folder.fileCount(), 7U) << "nothing is left of what was unpacked";
+  EXPECT_THAT(contentsOf(folder / "s.sgt"), HasSubstr("#s g t"));
+  EXPECT_EQ(folder.fileCount(), 8U) << "nothing is left of what was unpacked";
 }
 
 TEST(Export, drawsAndReportsWithoutADisplay) {
