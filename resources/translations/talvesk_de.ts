@@ -1013,6 +1013,25 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <comment>traces</comment>
         <translation>%1 stummgeschaltet</translation>
     </message>
+    <message>
+        <source>bars of one standard deviation, dashed above %1 ms</source>
+        <translation>Balken von einer Standardabweichung, über %1 ms gestrichelt</translation>
+    </message>
+    <message>
+        <source>%1 good</source>
+        <comment>picks</comment>
+        <translation>%1 gut</translation>
+    </message>
+    <message>
+        <source>%1 doubtful</source>
+        <comment>picks</comment>
+        <translation>%1 zweifelhaft</translation>
+    </message>
+    <message>
+        <source>%1 of unknown error</source>
+        <comment>picks</comment>
+        <translation>%1 mit unbekanntem Fehler</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -4445,10 +4464,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Schuss %1: ausgelassene Picks, da der Schuss deaktiviert ist oder ihre Spuren ausgeschaltet sind: %2</translation>
     </message>
     <message>
-        <source>the file tells errors of its picks, which the survey does not keep</source>
-        <translation>die Datei nennt Fehler ihrer Picks, die die Messung nicht aufbewahrt</translation>
-    </message>
-    <message>
         <source>the file ends after %1 of %2 lines</source>
         <translation>die Datei endet nach %1 von %2 Zeilen</translation>
     </message>
@@ -4623,6 +4638,166 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>shot %1, %2: %3</source>
         <translation>Schuss %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Entlang der Messlinie ergänzen</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Es gibt noch keine Picks.</translation>
+    </message>
+    <message>
+        <source>Only one shot has picks.</source>
+        <translation>Nur ein Schuss hat Picks.</translation>
+    </message>
+    <message>
+        <source>No two shots have picks within half a geophone spacing of each other&apos;s place.</source>
+        <translation>Keine zwei Schüsse haben Picks innerhalb eines halben Geophonabstands von der Stelle des jeweils anderen.</translation>
+    </message>
+    <message>
+        <source>no error of a pick is known</source>
+        <translation>von keinem Pick ist der Fehler bekannt</translation>
+    </message>
+    <message>
+        <source>it tells errors of picks that cannot be</source>
+        <translation>darin stehen unmögliche Fehler von Picks</translation>
+    </message>
+    <message>
+        <source>the error of %1 picks is not known; the file has 0 for it</source>
+        <translation>von %1 Picks ist der Fehler nicht bekannt; in der Datei steht dafür 0</translation>
+    </message>
+    <message>
+        <source>Picks at sample %1, before which AutoPick cannot look: %2, on %3. Where the wave came earlier, pick by hand or use AutoPick along the line.</source>
+        <translation>Picks bei Abtastwert %1, vor dem AutoPick nicht suchen kann: %2 (%3). Wo die Welle früher ankam, picken Sie von Hand oder mit „AutoPick entlang der Messlinie“.</translation>
+    </message>
+    <message>
+        <source>the guide line has no times to follow</source>
+        <translation>die Leitlinie hat keine Zeiten, denen gefolgt werden könnte</translation>
+    </message>
+    <message>
+        <source>the reach of the guide line has to be at least 0 ms</source>
+        <translation>die Reichweite der Leitlinie muss mindestens 0 ms betragen</translation>
+    </message>
+    <message>
+        <source>The model to start from has not one valid velocity per cell of the grid.</source>
+        <translation>Das Startmodell hat nicht für jede Zelle des Gitters eine gültige Geschwindigkeit.</translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 m/s are not.</source>
+        <translation>Die Geschwindigkeitsgrenzen müssen positive Zahlen sein, die untere kleiner als die obere; %1 und %2 m/s sind es nicht.</translation>
+    </message>
+    <message>
+        <source>The fit needs one iteration at least and a positive trigger error.</source>
+        <translation>Die Anpassung braucht mindestens eine Iteration und einen positiven Triggerfehler.</translation>
+    </message>
+    <message>
+        <source>There is no pick that a section could be fitted to.</source>
+        <translation>Es gibt keinen Pick, an den ein Schnitt angepasst werden könnte.</translation>
+    </message>
+    <message>
+        <source>The pick of shot %1, receiver %2 has no positive time and error.</source>
+        <translation>Der Pick von Schuss %1, Empfänger %2 hat keine positive Zeit mit positivem Fehler.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1.</source>
+        <translation>Der Schnitt passt im Rahmen ihrer Fehler zu den Picks: Chi-Quadrat %1.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square stays at %1. The errors of the picks may be stated too small, shots may be shifted in time, or cells too large.</source>
+        <translation>Ziel nicht erreicht: Chi-Quadrat bleibt bei %1. Vielleicht sind die Fehler der Picks zu klein angegeben, Schüsse zeitlich verschoben oder die Zellen zu groß.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks better than their errors demand: chi-square %1, however smooth it is. The errors may be stated too large.</source>
+        <translation>Der Schnitt passt besser zu den Picks, als ihre Fehler verlangen: Chi-Quadrat %1, wie glatt er auch ist. Vielleicht sind die Fehler zu groß angegeben.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square is %1 after %2 iterations.</source>
+        <translation>Ziel nicht erreicht: Chi-Quadrat ist nach %2 Iterationen %1.</translation>
+    </message>
+    <message>
+        <source>Stopped by the user after %1 iterations: chi-square %2.</source>
+        <translation>Vom Benutzer nach %1 Iterationen angehalten: Chi-Quadrat %2.</translation>
+    </message>
+    <message>
+        <source>only %1 picks are of waves along the surface; it takes %2</source>
+        <translation>nur %1 Picks gehören zu Wellen entlang der Oberfläche; nötig sind %2</translation>
+    </message>
+    <message>
+        <source>only %1 picks are surely of waves along refractor %2; it takes %3</source>
+        <translation>nur %1 Picks gehören sicher zu Wellen entlang Refraktor %2; nötig sind %3</translation>
+    </message>
+    <message>
+        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
+        <translation>Wellen entlang der Oberfläche sind mit %1 m/s langsamer, als die Grenzen zulassen</translation>
+    </message>
+    <message>
+        <source>the times of a refractor grow too little with offset for the bounds</source>
+        <translation>die Zeiten eines Refraktors wachsen mit dem Offset weniger, als die Grenzen zulassen</translation>
+    </message>
+    <message>
+        <source>velocities of %1 and %2 m/s do not increase with depth</source>
+        <translation>Geschwindigkeiten von %1 und %2 m/s nehmen nicht mit der Tiefe zu</translation>
+    </message>
+    <message>
+        <source>the picks do not settle its delay times</source>
+        <translation>die Picks legen die Verzögerungszeiten nicht fest</translation>
+    </message>
+    <message>
+        <source>the times over offset show no cross-over to a faster branch</source>
+        <translation>die Zeiten über dem Offset zeigen keinen Knick zu einem schnelleren Ast</translation>
+    </message>
+    <message>
+        <source>the velocity above the refractor grows by less than a tenth</source>
+        <translation>die Geschwindigkeit über dem Refraktor wächst um weniger als ein Zehntel</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Gradient</translation>
+    </message>
+    <message>
+        <source>Two layers</source>
+        <translation>Zwei Schichten</translation>
+    </message>
+    <message>
+        <source>Three layers</source>
+        <translation>Drei Schichten</translation>
+    </message>
+    <message>
+        <source>Overburden gradient</source>
+        <translation>Gradient in der Deckschicht</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down</source>
+        <translation>%1 m/s an der Oberfläche, %2 m/s am Scheitel des tiefsten Strahls in %3 m Tiefe</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down</source>
+        <translation>%1 m/s, ab %3 m Tiefe %2 m/s, ab %5 m Tiefe %4 m/s</translation>
+    </message>
+    <message>
+        <source>%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down</source>
+        <translation>%1 m/s und je Meter %2 m/s mehr, ab %4 m Tiefe %3 m/s</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down</source>
+        <translation>%1 m/s, ab %3 m Tiefe %2 m/s</translation>
+    </message>
+    <message>
+        <source>it takes times that grow with offset, at three offsets or more</source>
+        <translation>nötig sind Zeiten, die mit dem Offset wachsen, bei mindestens drei Offsets</translation>
+    </message>
+    <message>
+        <source>Set errors of picks</source>
+        <translation>Fehler von Picks setzen</translation>
+    </message>
+    <message>
+        <source>Set error of pick</source>
+        <translation>Fehler eines Picks setzen</translation>
     </message>
 </context>
 <context>
@@ -4908,6 +5083,165 @@ Bitte legen Sie die Positionen der Geophone fest
     </message>
 </context>
 <context>
+    <name>talvesk::ReciprocityDialog</name>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Reziprozität</translation>
+    </message>
+    <message>
+        <source>Times there and back</source>
+        <translation>Zeiten hin und zurück</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>Bei [m]</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Paare</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Verspätet um [ms]</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Korrektur</translation>
+    </message>
+    <message>
+        <source>Differences of times there and back, shot by shot</source>
+        <translation>Differenzen der Zeiten hin und zurück, Schuss für Schuss</translation>
+    </message>
+    <message>
+        <source>The pick of the first shot at the place of the second comes into view in the window; a click on a line or a cell does the same</source>
+        <translation>Bringt den Pick des ersten Schusses an der Stelle des zweiten im Fenster ins Bild; ein Klick auf eine Zeile oder ein Feld tut dasselbe</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;there</source>
+        <translation>Pick &amp;hin anzeigen</translation>
+    </message>
+    <message>
+        <source>The pick of the second shot at the place of the first comes into view; so does a click on the second shot of a line, or on the cell across the diagonal</source>
+        <translation>Bringt den Pick des zweiten Schusses an der Stelle des ersten ins Bild; ein Klick auf den zweiten Schuss einer Zeile oder auf das Feld jenseits der Diagonale tut dasselbe</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;back</source>
+        <translation>Pick &amp;zurück anzeigen</translation>
+    </message>
+    <message>
+        <source>Shifts the record of the chosen shot, with its picks, by the time that mends it; Undo takes it back</source>
+        <translation>Verschiebt die Aufzeichnung des gewählten Schusses mit ihren Picks um die Zeit, die sie korrigiert; „Rückgängig“ nimmt es zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Mend</source>
+        <translation>&amp;Korrigieren</translation>
+    </message>
+    <message>
+        <source>Saves all pairs as a table (.csv)</source>
+        <translation>Speichert alle Paare als Tabelle (.csv)</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Tabelle speichern...</translation>
+    </message>
+    <message>
+        <source>Pairs of shots: %1, RMS of their differences: %2 ms. A wave takes as long on the way back: what differs is a pick, or a clock.</source>
+        <translation>Schusspaare: %1, RMS ihrer Differenzen: %2 ms. Eine Welle braucht für den Rückweg ebenso lange: Was abweicht, ist ein Pick oder eine Uhr.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Schuss %1: %2.</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>none: there is no recording to shift</source>
+        <translation>keine: es gibt keine Aufzeichnung zu verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityMatrix</name>
+    <message>
+        <source>Row to column, longer than back by [ms]</source>
+        <translation>Von Zeile zu Spalte, länger als zurück um [ms]</translation>
+    </message>
+    <message>
+        <source>Shot %1 to shot %2</source>
+        <translation>Schuss %1 zu Schuss %2</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Schuss %1</translation>
+    </message>
+    <message>
+        <source>%1: no picks along both ways</source>
+        <translation>%1: keine Picks auf beiden Wegen</translation>
+    </message>
+    <message>
+        <source>%1: %2 ms, back %3 ms, difference %4 ms</source>
+        <translation>%1: %2 ms, zurück %3 ms, Differenz %4 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityModel</name>
+    <message>
+        <source>Shows trace %1 of shot %2</source>
+        <translation>Zeigt Spur %1 von Schuss %2</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>The difference in standard deviations, where both picks have an error</source>
+        <translation>Die Differenz in Standardabweichungen, wo beide Picks einen Fehler haben</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>Bei [m]</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Hin [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Zurück [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Differenz [ms]</translation>
+    </message>
+    <message>
+        <source>Sigmas</source>
+        <translation>Sigma</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -5021,6 +5355,14 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>the standard of its format; record %1 of the file, %2</source>
         <translation>dem Standard des Formats; Aufzeichnung %1 der Datei, %2</translation>
+    </message>
+    <message>
+        <source>Pick (ms)</source>
+        <translation>Pick (ms)</translation>
+    </message>
+    <message>
+        <source>Error (ms)</source>
+        <translation>Fehler (ms)</translation>
     </message>
 </context>
 <context>
@@ -6055,6 +6397,130 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Mends of recordings</source>
         <translation>Korrekturen der Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Gut</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>Zweifelhaft</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Fehler unbekannt</translation>
+    </message>
+    <message>
+        <source>Median error [ms]</source>
+        <translation>Median der Fehler [ms]</translation>
+    </message>
+    <message>
+        <source>Largest error [ms]</source>
+        <translation>Größter Fehler [ms]</translation>
+    </message>
+    <message>
+        <source>Errors of the picks of every shot</source>
+        <translation>Fehler der Picks jedes Schusses</translation>
+    </message>
+    <message>
+        <source>The error of a pick is one standard deviation. A pick is good up to %1 ms and doubtful beyond.</source>
+        <translation>Der Fehler eines Picks ist eine Standardabweichung. Bis %1 ms ist ein Pick gut, darüber zweifelhaft.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Anpassung an die Fehler der Picks</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none</source>
+        <translation>Fehler von Picks ohne Fehlerangabe</translation>
+    </message>
+    <message>
+        <source>%1 ms, or %2 % of the time where that is more</source>
+        <translation>%1 ms oder %2 % der Zeit, wo das mehr ist</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi-Quadrat</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2</source>
+        <translation>%1; mit allen Picks %2</translation>
+    </message>
+    <message>
+        <source>Target reached</source>
+        <translation>Ziel erreicht</translation>
+    </message>
+    <message>
+        <source>Suspect picks, left out of chi-square</source>
+        <translation>Verdächtige Picks, in Chi-Quadrat nicht enthalten</translation>
+    </message>
+    <message>
+        <source>Iterations to this section</source>
+        <translation>Iterationen bis zu diesem Schnitt</translation>
+    </message>
+    <message>
+        <source>Few sharp steps rather than gentle slopes</source>
+        <translation>Wenige scharfe Stufen statt sanfter Übergänge</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots fitted, too</source>
+        <translation>Zeitverschiebungen der Schüsse mit angepasst</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Paare</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Verspätet um [ms]</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Reciprocity of every shot</source>
+        <translation>Reziprozität jedes Schusses</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Hin [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Zurück [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Differenz [ms]</translation>
+    </message>
+    <message>
+        <source>The pairs of shots that differ most</source>
+        <translation>Die Schusspaare mit den größten Differenzen</translation>
+    </message>
+    <message>
+        <source>Pairs of shots</source>
+        <translation>Schusspaare</translation>
+    </message>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Reziprozität</translation>
+    </message>
+    <message>
+        <source>A wave takes as long from one shot to the place of another as back. Pairs of shots with picks along both ways: %1; RMS of their differences: %2 ms.</source>
+        <translation>Eine Welle braucht von einem Schuss zur Stelle eines anderen ebenso lange wie zurück. Schusspaare mit Picks auf beiden Wegen: %1; RMS ihrer Differenzen: %2 ms.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Schuss %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -8080,6 +8546,202 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
         <translation>Von %1 Spuren haben %2 einen auf %3 ms sicheren Pick und %4 einen zweifelhaften; %5 von Ihnen gesetzte Picks bleiben.</translation>
     </message>
+    <message>
+        <source>Guides in the traces</source>
+        <translation>Hilfslinien in den Spuren</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Berechnete Zeiten</translation>
+    </message>
+    <message>
+        <source>Draw the times through the section over the traces</source>
+        <translation>Zeichnet die Zeiten durch den Schnitt über die Spuren</translation>
+    </message>
+    <message>
+        <source>Curve of the nearest shot</source>
+        <translation>Kurve des nächstgelegenen Schusses</translation>
+    </message>
+    <message>
+        <source>Draw the picks of the nearest other shot on the same geophones, dashed</source>
+        <translation>Zeichnet die Picks des nächstgelegenen anderen Schusses an denselben Geophonen gestrichelt</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Reziproke Zeiten</translation>
+    </message>
+    <message>
+        <source>Mark when other shots recorded the same ways in the other direction: the picks should pass there</source>
+        <translation>Markiert, wann andere Schüsse dieselben Wege in der anderen Richtung aufgezeichnet haben: Dort sollten die Picks verlaufen</translation>
+    </message>
+    <message>
+        <source>Guide line</source>
+        <translation>Leitlinie</translation>
+    </message>
+    <message>
+        <source>Drag along the first breaks: the picker fills the traces near that line (key G)</source>
+        <translation>Entlang der Ersteinsätze ziehen: Die Spuren werden nahe dieser Linie gepickt (Taste G)</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Entlang der Messlinie ergänzen</translation>
+    </message>
+    <message>
+        <source>Pick the rest of the current shot through the picks that you set or confirmed</source>
+        <translation>Pickt den Rest des aktuellen Schusses durch die von Ihnen gesetzten oder bestätigten Picks</translation>
+    </message>
+    <message>
+        <source>Error 0.5 ms</source>
+        <translation>Fehler 0,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 0.5 ms, and so may those that you set next (key 1)</source>
+        <translation>Die Picks der ausgewählten Spuren und die, die Sie danach setzen, können um 0,5 ms danebenliegen (Taste 1)</translation>
+    </message>
+    <message>
+        <source>Error 1 ms</source>
+        <translation>Fehler 1 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 1 ms, and so may those that you set next (key 2)</source>
+        <translation>Die Picks der ausgewählten Spuren und die, die Sie danach setzen, können um 1 ms danebenliegen (Taste 2)</translation>
+    </message>
+    <message>
+        <source>Error 2.5 ms</source>
+        <translation>Fehler 2,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 2.5 ms, and so may those that you set next (key 3)</source>
+        <translation>Die Picks der ausgewählten Spuren und die, die Sie danach setzen, können um 2,5 ms danebenliegen (Taste 3)</translation>
+    </message>
+    <message>
+        <source>Error 5 ms</source>
+        <translation>Fehler 5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 5 ms, and so may those that you set next (key 4)</source>
+        <translation>Die Picks der ausgewählten Spuren und die, die Sie danach setzen, können um 5 ms danebenliegen (Taste 4)</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Fehler unbekannt</translation>
+    </message>
+    <message>
+        <source>Nothing is told of how far the picks of the selected traces may be off, nor those that you set next (key 0)</source>
+        <translation>Wie weit die Picks der ausgewählten Spuren und die, die Sie danach setzen, danebenliegen können, bleibt offen (Taste 0)</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Fehlerbalken</translation>
+    </message>
+    <message>
+        <source>Show how far picks may be off, in the traces and in the travel-time curves; bars of doubtful picks are dashed</source>
+        <translation>Zeigt in den Spuren und in den Laufzeitkurven, wie weit Picks danebenliegen können; Balken zweifelhafter Picks sind gestrichelt</translation>
+    </message>
+    <message>
+        <source>Next doubtful pick</source>
+        <translation>Nächster zweifelhafter Pick</translation>
+    </message>
+    <message>
+        <source>Go to the next pick of all shots that is doubtful by its error, the section or the reciprocal time, worst first</source>
+        <translation>Geht zum nächsten Pick aller Schüsse, der nach seinem Fehler, dem Schnitt oder der reziproken Zeit zweifelhaft ist, der schlechteste zuerst</translation>
+    </message>
+    <message>
+        <source>Previous doubtful pick</source>
+        <translation>Voriger zweifelhafter Pick</translation>
+    </message>
+    <message>
+        <source>Go back to the doubtful pick before, a worse one</source>
+        <translation>Geht zum vorigen zweifelhaften Pick zurück, einem schlechteren</translation>
+    </message>
+    <message>
+        <source>Reciprocity...</source>
+        <translation>Reziprozität...</translation>
+    </message>
+    <message>
+        <source>Compare the picks of all shots there and back, and find the shots that are late</source>
+        <translation>Vergleicht die Picks aller Schüsse hin und zurück und findet verspätete Schüsse</translation>
+    </message>
+    <message>
+        <source>Set or confirm some picks of this shot first, or draw a line with the tool Guide line.</source>
+        <translation>Setzen oder bestätigen Sie zuerst einige Picks dieses Schusses, oder ziehen Sie eine Linie mit dem Werkzeug „Leitlinie“.</translation>
+    </message>
+    <message>
+        <source>Shot %1 has not been filled.</source>
+        <translation>Schuss %1 wurde nicht ergänzt.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2 traces filled, %3 sure to %4 ms and %5 doubtful; %6 are without a pick, %7 picks that you made stay.</source>
+        <translation>Schuss %1: %2 Spuren ergänzt, %3 auf %4 ms sicher und %5 zweifelhaft; %6 sind ohne Pick, %7 von Ihnen gesetzte Picks bleiben.</translation>
+    </message>
+    <message>
+        <source>The record of shot %1 is mended; Undo takes it back.</source>
+        <translation>Die Aufzeichnung von Schuss %1 ist korrigiert; „Rückgängig“ nimmt es zurück.</translation>
+    </message>
+    <message>
+        <source>The recording has not been mended.</source>
+        <translation>Die Aufzeichnung wurde nicht korrigiert.</translation>
+    </message>
+    <message>
+        <source>Save Reciprocal Times</source>
+        <translation>Reziproke Zeiten speichern</translation>
+    </message>
+    <message>
+        <source>Table (*.csv);;All Files (*)</source>
+        <translation>Tabelle (*.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Doubtful pick %1 of %2, shot %3, trace %4: %5</source>
+        <translation>Zweifelhafter Pick %1 von %2, Schuss %3, Spur %4: %5</translation>
+    </message>
+    <message>
+        <source>after the last one, the worst again</source>
+        <translation>nach dem letzten wieder der schlechteste</translation>
+    </message>
+    <message>
+        <source>before the worst, the last</source>
+        <translation>vor dem schlechtesten der letzte</translation>
+    </message>
+    <message>
+        <source>error %1 ms</source>
+        <translation>Fehler %1 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms later</source>
+        <translation>berechnet %1 ms später</translation>
+    </message>
+    <message>
+        <source>computed %1 ms earlier</source>
+        <translation>berechnet %1 ms früher</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms later</source>
+        <translation>reziproke Zeit %1 ms später</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms earlier</source>
+        <translation>reziproke Zeit %1 ms früher</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Es gibt noch keine Picks.</translation>
+    </message>
+    <message>
+        <source>No pick waits for confirmation.</source>
+        <translation>Kein Pick wartet auf Bestätigung.</translation>
+    </message>
+    <message>
+        <source>None of the %1 picks that wait for confirmation is doubtful.</source>
+        <translation>Keiner der %1 Picks, die auf Bestätigung warten, ist zweifelhaft.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of %1 of them: no error, no computed time, no reciprocal one.</source>
+        <translation>Über %1 davon ist nichts bekannt: kein Fehler, keine berechnete und keine reziproke Zeit.</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Fehler %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -8121,6 +8783,27 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     <message>
         <source>Air %1 m/s</source>
         <translation>Luft %1 m/s</translation>
+    </message>
+    <message>
+        <source>No other shot of the string is picked</source>
+        <translation>Kein anderer Schuss der Auslage ist gepickt</translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <comment>number, place</comment>
+        <translation>Schuss %1 bei %2 m</translation>
+    </message>
+    <message>
+        <source>No computed times</source>
+        <translation>Keine berechneten Zeiten</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Reziproke Zeiten</translation>
+    </message>
+    <message>
+        <source>No reciprocal times</source>
+        <translation>Keine reziproken Zeiten</translation>
     </message>
 </context>
 <context>
@@ -8208,6 +8891,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Error: %1 ms</source>
+        <translation>Fehler: %1 ms</translation>
     </message>
 </context>
 <context>
@@ -8606,6 +9293,14 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>This shot has no traces</source>
         <translation>Dieser Schuss hat keine Spuren</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms, error %3 ms</source>
+        <translation>Spur %1, gepickt bei %2 ms, Fehler %3 ms</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Fehler %1 ms</translation>
     </message>
 </context>
 <context>
