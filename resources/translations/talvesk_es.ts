@@ -1013,6 +1013,25 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <comment>traces</comment>
         <translation>silenciado de %1</translation>
     </message>
+    <message>
+        <source>bars of one standard deviation, dashed above %1 ms</source>
+        <translation>barras de una desviación estándar, discontinuas por encima de %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 good</source>
+        <comment>picks</comment>
+        <translation>buenos: %1</translation>
+    </message>
+    <message>
+        <source>%1 doubtful</source>
+        <comment>picks</comment>
+        <translation>dudosos: %1</translation>
+    </message>
+    <message>
+        <source>%1 of unknown error</source>
+        <comment>picks</comment>
+        <translation>de error desconocido: %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -4445,10 +4464,6 @@ Defina la posición de los geófonos
         <translation>disparo %1: picados omitidos porque el disparo está desactivado o sus trazas anuladas: %2</translation>
     </message>
     <message>
-        <source>the file tells errors of its picks, which the survey does not keep</source>
-        <translation>el archivo indica errores de sus picados, que el levantamiento no conserva</translation>
-    </message>
-    <message>
         <source>the file ends after %1 of %2 lines</source>
         <translation>el archivo termina tras %1 de %2 líneas</translation>
     </message>
@@ -4623,6 +4638,166 @@ Defina la posición de los geófonos
     <message>
         <source>shot %1, %2: %3</source>
         <translation>disparo %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Completar a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Aún no hay picados.</translation>
+    </message>
+    <message>
+        <source>Only one shot has picks.</source>
+        <translation>Solo un disparo tiene picados.</translation>
+    </message>
+    <message>
+        <source>No two shots have picks within half a geophone spacing of each other&apos;s place.</source>
+        <translation>No hay dos disparos con picados a menos de media separación entre geófonos del punto del otro.</translation>
+    </message>
+    <message>
+        <source>no error of a pick is known</source>
+        <translation>no se conoce el error de ningún picado</translation>
+    </message>
+    <message>
+        <source>it tells errors of picks that cannot be</source>
+        <translation>indica errores de picados imposibles</translation>
+    </message>
+    <message>
+        <source>the error of %1 picks is not known; the file has 0 for it</source>
+        <translation>no se conoce el error de %1 picados; el archivo lleva 0 en su lugar</translation>
+    </message>
+    <message>
+        <source>Picks at sample %1, before which AutoPick cannot look: %2, on %3. Where the wave came earlier, pick by hand or use AutoPick along the line.</source>
+        <translation>Picados en la muestra %1, antes de la cual AutoPick no puede buscar: %2, en %3. Donde la onda llegó antes, pique a mano o use AutoPick a lo largo de la línea.</translation>
+    </message>
+    <message>
+        <source>the guide line has no times to follow</source>
+        <translation>la línea guía no tiene tiempos que seguir</translation>
+    </message>
+    <message>
+        <source>the reach of the guide line has to be at least 0 ms</source>
+        <translation>el alcance de la línea guía debe ser de 0 ms como mínimo</translation>
+    </message>
+    <message>
+        <source>The model to start from has not one valid velocity per cell of the grid.</source>
+        <translation>El modelo inicial no tiene una velocidad válida por cada celda de la malla.</translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 m/s are not.</source>
+        <translation>Los límites de velocidad deben ser números positivos, el mínimo menor que el máximo; %1 y %2 m/s no lo son.</translation>
+    </message>
+    <message>
+        <source>The fit needs one iteration at least and a positive trigger error.</source>
+        <translation>El ajuste necesita al menos una iteración y un error positivo del tiempo de disparo.</translation>
+    </message>
+    <message>
+        <source>There is no pick that a section could be fitted to.</source>
+        <translation>No hay ningún picado al que se pueda ajustar una sección.</translation>
+    </message>
+    <message>
+        <source>The pick of shot %1, receiver %2 has no positive time and error.</source>
+        <translation>El picado del disparo %1, receptor %2 no tiene un tiempo y un error positivos.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1.</source>
+        <translation>La sección se ajusta a los picados dentro de sus errores: chi cuadrado %1.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square stays at %1. The errors of the picks may be stated too small, shots may be shifted in time, or cells too large.</source>
+        <translation>objetivo no alcanzado: chi cuadrado se queda en %1. Quizá los errores indicados de los picados sean demasiado pequeños, haya disparos desplazados en el tiempo o las celdas sean demasiado grandes.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks better than their errors demand: chi-square %1, however smooth it is. The errors may be stated too large.</source>
+        <translation>La sección se ajusta a los picados mejor de lo que exigen sus errores: chi cuadrado %1, por suave que sea. Quizá los errores indicados sean demasiado grandes.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square is %1 after %2 iterations.</source>
+        <translation>objetivo no alcanzado: chi cuadrado es %1 tras %2 iteraciones.</translation>
+    </message>
+    <message>
+        <source>Stopped by the user after %1 iterations: chi-square %2.</source>
+        <translation>Detenida por el usuario tras %1 iteraciones: chi cuadrado %2.</translation>
+    </message>
+    <message>
+        <source>only %1 picks are of waves along the surface; it takes %2</source>
+        <translation>solo %1 picados son de ondas directas; se necesitan %2</translation>
+    </message>
+    <message>
+        <source>only %1 picks are surely of waves along refractor %2; it takes %3</source>
+        <translation>solo %1 picados son con seguridad de ondas que viajan por el refractor %2; se necesitan %3</translation>
+    </message>
+    <message>
+        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
+        <translation>las ondas directas, a %1 m/s, son más lentas de lo que permiten los límites</translation>
+    </message>
+    <message>
+        <source>the times of a refractor grow too little with offset for the bounds</source>
+        <translation>los tiempos de un refractor crecen con la distancia al disparo menos de lo que permiten los límites</translation>
+    </message>
+    <message>
+        <source>velocities of %1 and %2 m/s do not increase with depth</source>
+        <translation>las velocidades de %1 y %2 m/s no aumentan con la profundidad</translation>
+    </message>
+    <message>
+        <source>the picks do not settle its delay times</source>
+        <translation>los picados no bastan para determinar sus tiempos de retardo</translation>
+    </message>
+    <message>
+        <source>the times over offset show no cross-over to a faster branch</source>
+        <translation>los tiempos frente a la distancia al disparo no muestran ningún punto de cruce con una rama más rápida</translation>
+    </message>
+    <message>
+        <source>the velocity above the refractor grows by less than a tenth</source>
+        <translation>la velocidad por encima del refractor aumenta menos de una décima parte</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Gradiente</translation>
+    </message>
+    <message>
+        <source>Two layers</source>
+        <translation>Dos capas</translation>
+    </message>
+    <message>
+        <source>Three layers</source>
+        <translation>Tres capas</translation>
+    </message>
+    <message>
+        <source>Overburden gradient</source>
+        <translation>Gradiente en el recubrimiento</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1–%2</translation>
+    </message>
+    <message>
+        <source>%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down</source>
+        <translation>%1 m/s en la superficie, %2 m/s en el punto de retorno del rayo más profundo, a %3 m de profundidad</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down</source>
+        <translation>%1 m/s, %2 m/s a partir de %3 m de profundidad, %4 m/s a partir de %5 m de profundidad</translation>
+    </message>
+    <message>
+        <source>%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down</source>
+        <translation>%1 m/s más %2 m/s por metro, %3 m/s a partir de %4 m de profundidad</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down</source>
+        <translation>%1 m/s, %2 m/s a partir de %3 m de profundidad</translation>
+    </message>
+    <message>
+        <source>it takes times that grow with offset, at three offsets or more</source>
+        <translation>se necesitan tiempos que crezcan con la distancia al disparo, en tres distancias o más</translation>
+    </message>
+    <message>
+        <source>Set errors of picks</source>
+        <translation>Fijar errores de los picados</translation>
+    </message>
+    <message>
+        <source>Set error of pick</source>
+        <translation>Fijar error del picado</translation>
     </message>
 </context>
 <context>
