@@ -5083,6 +5083,165 @@ Defina la posición de los geófonos
     </message>
 </context>
 <context>
+    <name>talvesk::ReciprocityDialog</name>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Reciprocidad</translation>
+    </message>
+    <message>
+        <source>Times there and back</source>
+        <translation>Tiempos en ambos sentidos</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>Posición [m]</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Pares</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Retraso [ms]</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Corrección</translation>
+    </message>
+    <message>
+        <source>Differences of times there and back, shot by shot</source>
+        <translation>Diferencias entre los tiempos de ida y los de vuelta, disparo a disparo</translation>
+    </message>
+    <message>
+        <source>The pick of the first shot at the place of the second comes into view in the window; a click on a line or a cell does the same</source>
+        <translation>Muestra en la ventana el picado del primer disparo en el punto del segundo; un clic en una fila o una celda hace lo mismo</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;there</source>
+        <translation>Mostrar picado de &amp;ida</translation>
+    </message>
+    <message>
+        <source>The pick of the second shot at the place of the first comes into view; so does a click on the second shot of a line, or on the cell across the diagonal</source>
+        <translation>Muestra el picado del segundo disparo en el punto del primero; un clic en el segundo disparo de una fila o en la celda simétrica respecto a la diagonal hace lo mismo</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;back</source>
+        <translation>Mostrar picado de &amp;vuelta</translation>
+    </message>
+    <message>
+        <source>Shifts the record of the chosen shot, with its picks, by the time that mends it; Undo takes it back</source>
+        <translation>Desplaza el registro del disparo elegido, con sus picados, el tiempo que lo corrige; Deshacer lo revierte</translation>
+    </message>
+    <message>
+        <source>&amp;Mend</source>
+        <translation>&amp;Corregir</translation>
+    </message>
+    <message>
+        <source>Saves all pairs as a table (.csv)</source>
+        <translation>Guarda todos los pares como tabla (.csv)</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Guardar tabla...</translation>
+    </message>
+    <message>
+        <source>Pairs of shots: %1, RMS of their differences: %2 ms. A wave takes as long on the way back: what differs is a pick, or a clock.</source>
+        <translation>Pares de disparos: %1, RMS de sus diferencias: %2 ms. Una onda tarda lo mismo a la vuelta: si los tiempos difieren, falla un picado o un reloj.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Disparo %1: %2.</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>none: there is no recording to shift</source>
+        <translation>ninguna: no hay registro que desplazar</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityMatrix</name>
+    <message>
+        <source>Row to column, longer than back by [ms]</source>
+        <translation>Ida (de fila a columna) menos vuelta [ms]</translation>
+    </message>
+    <message>
+        <source>Shot %1 to shot %2</source>
+        <translation>Del disparo %1 al disparo %2</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>%1: no picks along both ways</source>
+        <translation>%1: sin picados en ambos sentidos</translation>
+    </message>
+    <message>
+        <source>%1: %2 ms, back %3 ms, difference %4 ms</source>
+        <translation>%1: %2 ms, vuelta %3 ms, diferencia %4 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityModel</name>
+    <message>
+        <source>Shows trace %1 of shot %2</source>
+        <translation>Muestra la traza %1 del disparo %2</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>The difference in standard deviations, where both picks have an error</source>
+        <translation>La diferencia en desviaciones estándar, si ambos picados tienen error</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>Posición [m]</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Ida [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Vuelta [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Diferencia [ms]</translation>
+    </message>
+    <message>
+        <source>Sigmas</source>
+        <translation>Sigmas</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -5196,6 +5355,14 @@ Defina la posición de los geófonos
     <message>
         <source>the standard of its format; record %1 of the file, %2</source>
         <translation>el estándar de su formato; registro %1 del archivo, %2</translation>
+    </message>
+    <message>
+        <source>Pick (ms)</source>
+        <translation>Picado (ms)</translation>
+    </message>
+    <message>
+        <source>Error (ms)</source>
+        <translation>Error (ms)</translation>
     </message>
 </context>
 <context>
@@ -6230,6 +6397,130 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Mends of recordings</source>
         <translation>Correcciones de los registros</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Buenos</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>Dudosos</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Error desconocido</translation>
+    </message>
+    <message>
+        <source>Median error [ms]</source>
+        <translation>Mediana del error [ms]</translation>
+    </message>
+    <message>
+        <source>Largest error [ms]</source>
+        <translation>Error máximo [ms]</translation>
+    </message>
+    <message>
+        <source>Errors of the picks of every shot</source>
+        <translation>Errores de los picados de cada disparo</translation>
+    </message>
+    <message>
+        <source>The error of a pick is one standard deviation. A pick is good up to %1 ms and doubtful beyond.</source>
+        <translation>El error de un picado es una desviación estándar. Un picado es bueno hasta %1 ms y dudoso a partir de ahí.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Ajuste a los errores de los picados</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none</source>
+        <translation>Error de los picados que no indican ninguno</translation>
+    </message>
+    <message>
+        <source>%1 ms, or %2 % of the time where that is more</source>
+        <translation>%1 ms, o el %2 % del tiempo si es mayor</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi cuadrado</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2</source>
+        <translation>%1; de todos los picados, %2</translation>
+    </message>
+    <message>
+        <source>Target reached</source>
+        <translation>Objetivo alcanzado</translation>
+    </message>
+    <message>
+        <source>Suspect picks, left out of chi-square</source>
+        <translation>Picados sospechosos, excluidos de chi cuadrado</translation>
+    </message>
+    <message>
+        <source>Iterations to this section</source>
+        <translation>Iteraciones hasta esta sección</translation>
+    </message>
+    <message>
+        <source>Few sharp steps rather than gentle slopes</source>
+        <translation>Pocos saltos bruscos en lugar de variaciones suaves</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots fitted, too</source>
+        <translation>Ajuste también de desplazamientos en tiempo de los disparos</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Pares</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Retraso [ms]</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Reciprocity of every shot</source>
+        <translation>Reciprocidad de cada disparo</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Ida [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Vuelta [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Diferencia [ms]</translation>
+    </message>
+    <message>
+        <source>The pairs of shots that differ most</source>
+        <translation>Los pares de disparos que más difieren</translation>
+    </message>
+    <message>
+        <source>Pairs of shots</source>
+        <translation>Pares de disparos</translation>
+    </message>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Reciprocidad</translation>
+    </message>
+    <message>
+        <source>A wave takes as long from one shot to the place of another as back. Pairs of shots with picks along both ways: %1; RMS of their differences: %2 ms.</source>
+        <translation>Una onda tarda lo mismo de un disparo al punto de otro que a la vuelta. Pares de disparos con picados en ambos sentidos: %1; RMS de sus diferencias: %2 ms.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Disparo %1: %2.</translation>
     </message>
 </context>
 <context>
