@@ -8546,6 +8546,202 @@ Do you want to run refraction processing anyway? </source>
         <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
         <translation>Trazas: %1; con un picado seguro (±%3 ms): %2; con uno dudoso: %4. Picados hechos por usted que se conservan: %5.</translation>
     </message>
+    <message>
+        <source>Guides in the traces</source>
+        <translation>Guías en las trazas</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Tiempos calculados</translation>
+    </message>
+    <message>
+        <source>Draw the times through the section over the traces</source>
+        <translation>Dibuja sobre las trazas los tiempos calculados a través de la sección</translation>
+    </message>
+    <message>
+        <source>Curve of the nearest shot</source>
+        <translation>Dromocrona del disparo más cercano</translation>
+    </message>
+    <message>
+        <source>Draw the picks of the nearest other shot on the same geophones, dashed</source>
+        <translation>Dibuja con línea discontinua los picados del disparo más cercano en los mismos geófonos</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Tiempos recíprocos</translation>
+    </message>
+    <message>
+        <source>Mark when other shots recorded the same ways in the other direction: the picks should pass there</source>
+        <translation>Marca los tiempos de otros disparos que registraron los mismos caminos en sentido contrario: los picados deberían pasar por ahí</translation>
+    </message>
+    <message>
+        <source>Guide line</source>
+        <translation>Línea guía</translation>
+    </message>
+    <message>
+        <source>Drag along the first breaks: the picker fills the traces near that line (key G)</source>
+        <translation>Arrastre a lo largo de las primeras llegadas: se pican las trazas cerca de esa línea (tecla G)</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Completar a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Pick the rest of the current shot through the picks that you set or confirmed</source>
+        <translation>Pica el resto del disparo actual pasando por los picados que usted puso o confirmó</translation>
+    </message>
+    <message>
+        <source>Error 0.5 ms</source>
+        <translation>Error 0,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 0.5 ms, and so may those that you set next (key 1)</source>
+        <translation>Da un error de 0,5 ms a los picados de las trazas seleccionadas y a los que ponga después (tecla 1)</translation>
+    </message>
+    <message>
+        <source>Error 1 ms</source>
+        <translation>Error 1 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 1 ms, and so may those that you set next (key 2)</source>
+        <translation>Da un error de 1 ms a los picados de las trazas seleccionadas y a los que ponga después (tecla 2)</translation>
+    </message>
+    <message>
+        <source>Error 2.5 ms</source>
+        <translation>Error 2,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 2.5 ms, and so may those that you set next (key 3)</source>
+        <translation>Da un error de 2,5 ms a los picados de las trazas seleccionadas y a los que ponga después (tecla 3)</translation>
+    </message>
+    <message>
+        <source>Error 5 ms</source>
+        <translation>Error 5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 5 ms, and so may those that you set next (key 4)</source>
+        <translation>Da un error de 5 ms a los picados de las trazas seleccionadas y a los que ponga después (tecla 4)</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Error desconocido</translation>
+    </message>
+    <message>
+        <source>Nothing is told of how far the picks of the selected traces may be off, nor those that you set next (key 0)</source>
+        <translation>Deja sin error los picados de las trazas seleccionadas y los que ponga después (tecla 0)</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Barras de error</translation>
+    </message>
+    <message>
+        <source>Show how far picks may be off, in the traces and in the travel-time curves; bars of doubtful picks are dashed</source>
+        <translation>Muestra el error de los picados en las trazas y en las dromocronas; las barras de los picados dudosos son discontinuas</translation>
+    </message>
+    <message>
+        <source>Next doubtful pick</source>
+        <translation>Picado dudoso siguiente</translation>
+    </message>
+    <message>
+        <source>Go to the next pick of all shots that is doubtful by its error, the section or the reciprocal time, worst first</source>
+        <translation>Va al siguiente picado de todos los disparos que es dudoso por su error, la sección o el tiempo recíproco, empezando por el peor</translation>
+    </message>
+    <message>
+        <source>Previous doubtful pick</source>
+        <translation>Picado dudoso anterior</translation>
+    </message>
+    <message>
+        <source>Go back to the doubtful pick before, a worse one</source>
+        <translation>Vuelve al picado dudoso anterior, que es peor</translation>
+    </message>
+    <message>
+        <source>Reciprocity...</source>
+        <translation>Reciprocidad...</translation>
+    </message>
+    <message>
+        <source>Compare the picks of all shots there and back, and find the shots that are late</source>
+        <translation>Compara los picados de todos los disparos en ambos sentidos y encuentra los disparos retrasados</translation>
+    </message>
+    <message>
+        <source>Set or confirm some picks of this shot first, or draw a line with the tool Guide line.</source>
+        <translation>Ponga o confirme antes algunos picados de este disparo, o trace una línea con la herramienta Línea guía.</translation>
+    </message>
+    <message>
+        <source>Shot %1 has not been filled.</source>
+        <translation>No se ha completado el disparo %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2 traces filled, %3 sure to %4 ms and %5 doubtful; %6 are without a pick, %7 picks that you made stay.</source>
+        <translation>Disparo %1: trazas completadas: %2; con un picado seguro (±%4 ms): %3; con uno dudoso: %5; sin picado: %6. Picados hechos por usted que se conservan: %7.</translation>
+    </message>
+    <message>
+        <source>The record of shot %1 is mended; Undo takes it back.</source>
+        <translation>El registro del disparo %1 se ha corregido; Deshacer lo revierte.</translation>
+    </message>
+    <message>
+        <source>The recording has not been mended.</source>
+        <translation>No se ha corregido el registro.</translation>
+    </message>
+    <message>
+        <source>Save Reciprocal Times</source>
+        <translation>Guardar tiempos recíprocos</translation>
+    </message>
+    <message>
+        <source>Table (*.csv);;All Files (*)</source>
+        <translation>Tabla (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Doubtful pick %1 of %2, shot %3, trace %4: %5</source>
+        <translation>Picado dudoso %1 de %2, disparo %3, traza %4: %5</translation>
+    </message>
+    <message>
+        <source>after the last one, the worst again</source>
+        <translation>tras el último, de nuevo el peor</translation>
+    </message>
+    <message>
+        <source>before the worst, the last</source>
+        <translation>antes del peor, el último</translation>
+    </message>
+    <message>
+        <source>error %1 ms</source>
+        <translation>error %1 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms later</source>
+        <translation>calculado %1 ms más tarde</translation>
+    </message>
+    <message>
+        <source>computed %1 ms earlier</source>
+        <translation>calculado %1 ms antes</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms later</source>
+        <translation>tiempo recíproco %1 ms más tarde</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms earlier</source>
+        <translation>tiempo recíproco %1 ms antes</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Aún no hay picados.</translation>
+    </message>
+    <message>
+        <source>No pick waits for confirmation.</source>
+        <translation>Ningún picado espera confirmación.</translation>
+    </message>
+    <message>
+        <source>None of the %1 picks that wait for confirmation is doubtful.</source>
+        <translation>Ninguno de los %1 picados que esperan confirmación es dudoso.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of %1 of them: no error, no computed time, no reciprocal one.</source>
+        <translation>De %1 de ellos no se sabe nada: ni error, ni tiempo calculado, ni tiempo recíproco.</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Error %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -8587,6 +8783,27 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Air %1 m/s</source>
         <translation>Aire %1 m/s</translation>
+    </message>
+    <message>
+        <source>No other shot of the string is picked</source>
+        <translation>Ningún otro disparo del tendido está picado</translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <comment>number, place</comment>
+        <translation>Disparo %1 en %2 m</translation>
+    </message>
+    <message>
+        <source>No computed times</source>
+        <translation>Sin tiempos calculados</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Tiempos recíprocos</translation>
+    </message>
+    <message>
+        <source>No reciprocal times</source>
+        <translation>Sin tiempos recíprocos</translation>
     </message>
 </context>
 <context>
@@ -8674,6 +8891,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Error: %1 ms</source>
+        <translation>Error: %1 ms</translation>
     </message>
 </context>
 <context>
@@ -9072,6 +9293,14 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>This shot has no traces</source>
         <translation>Este disparo no tiene trazas</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms, error %3 ms</source>
+        <translation>Traza %1, picada en %2 ms, error %3 ms</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Error %1 ms</translation>
     </message>
 </context>
 <context>
