@@ -1013,6 +1013,25 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <comment>traces</comment>
         <translation>silenciado de %1</translation>
     </message>
+    <message>
+        <source>bars of one standard deviation, dashed above %1 ms</source>
+        <translation>barras de una desviación estándar, discontinuas por encima de %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 good</source>
+        <comment>picks</comment>
+        <translation>buenos: %1</translation>
+    </message>
+    <message>
+        <source>%1 doubtful</source>
+        <comment>picks</comment>
+        <translation>dudosos: %1</translation>
+    </message>
+    <message>
+        <source>%1 of unknown error</source>
+        <comment>picks</comment>
+        <translation>de error desconocido: %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -4445,10 +4464,6 @@ Defina la posición de los geófonos
         <translation>disparo %1: picados omitidos porque el disparo está desactivado o sus trazas anuladas: %2</translation>
     </message>
     <message>
-        <source>the file tells errors of its picks, which the survey does not keep</source>
-        <translation>el archivo indica errores de sus picados, que el levantamiento no conserva</translation>
-    </message>
-    <message>
         <source>the file ends after %1 of %2 lines</source>
         <translation>el archivo termina tras %1 de %2 líneas</translation>
     </message>
@@ -4623,6 +4638,166 @@ Defina la posición de los geófonos
     <message>
         <source>shot %1, %2: %3</source>
         <translation>disparo %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Completar a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Aún no hay picados.</translation>
+    </message>
+    <message>
+        <source>Only one shot has picks.</source>
+        <translation>Solo un disparo tiene picados.</translation>
+    </message>
+    <message>
+        <source>No two shots have picks within half a geophone spacing of each other&apos;s place.</source>
+        <translation>No hay dos disparos con picados a menos de media separación entre geófonos del punto del otro.</translation>
+    </message>
+    <message>
+        <source>no error of a pick is known</source>
+        <translation>no se conoce el error de ningún picado</translation>
+    </message>
+    <message>
+        <source>it tells errors of picks that cannot be</source>
+        <translation>indica errores de picados imposibles</translation>
+    </message>
+    <message>
+        <source>the error of %1 picks is not known; the file has 0 for it</source>
+        <translation>no se conoce el error de %1 picados; el archivo lleva 0 en su lugar</translation>
+    </message>
+    <message>
+        <source>Picks at sample %1, before which AutoPick cannot look: %2, on %3. Where the wave came earlier, pick by hand or use AutoPick along the line.</source>
+        <translation>Picados en la muestra %1, antes de la cual AutoPick no puede buscar: %2, en %3. Donde la onda llegó antes, pique a mano o use AutoPick a lo largo de la línea.</translation>
+    </message>
+    <message>
+        <source>the guide line has no times to follow</source>
+        <translation>la línea guía no tiene tiempos que seguir</translation>
+    </message>
+    <message>
+        <source>the reach of the guide line has to be at least 0 ms</source>
+        <translation>el alcance de la línea guía debe ser de 0 ms como mínimo</translation>
+    </message>
+    <message>
+        <source>The model to start from has not one valid velocity per cell of the grid.</source>
+        <translation>El modelo inicial no tiene una velocidad válida por cada celda de la malla.</translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 m/s are not.</source>
+        <translation>Los límites de velocidad deben ser números positivos, el mínimo menor que el máximo; %1 y %2 m/s no lo son.</translation>
+    </message>
+    <message>
+        <source>The fit needs one iteration at least and a positive trigger error.</source>
+        <translation>El ajuste necesita al menos una iteración y un error positivo del tiempo de disparo.</translation>
+    </message>
+    <message>
+        <source>There is no pick that a section could be fitted to.</source>
+        <translation>No hay ningún picado al que se pueda ajustar una sección.</translation>
+    </message>
+    <message>
+        <source>The pick of shot %1, receiver %2 has no positive time and error.</source>
+        <translation>El picado del disparo %1, receptor %2 no tiene un tiempo y un error positivos.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1.</source>
+        <translation>La sección se ajusta a los picados dentro de sus errores: chi cuadrado %1.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square stays at %1. The errors of the picks may be stated too small, shots may be shifted in time, or cells too large.</source>
+        <translation>objetivo no alcanzado: chi cuadrado se queda en %1. Quizá los errores indicados de los picados sean demasiado pequeños, haya disparos desplazados en el tiempo o las celdas sean demasiado grandes.</translation>
+    </message>
+    <message>
+        <source>The section fits the picks better than their errors demand: chi-square %1, however smooth it is. The errors may be stated too large.</source>
+        <translation>La sección se ajusta a los picados mejor de lo que exigen sus errores: chi cuadrado %1, por suave que sea. Quizá los errores indicados sean demasiado grandes.</translation>
+    </message>
+    <message>
+        <source>target not reached: chi-square is %1 after %2 iterations.</source>
+        <translation>objetivo no alcanzado: chi cuadrado es %1 tras %2 iteraciones.</translation>
+    </message>
+    <message>
+        <source>Stopped by the user after %1 iterations: chi-square %2.</source>
+        <translation>Detenida por el usuario tras %1 iteraciones: chi cuadrado %2.</translation>
+    </message>
+    <message>
+        <source>only %1 picks are of waves along the surface; it takes %2</source>
+        <translation>solo %1 picados son de ondas directas; se necesitan %2</translation>
+    </message>
+    <message>
+        <source>only %1 picks are surely of waves along refractor %2; it takes %3</source>
+        <translation>solo %1 picados son con seguridad de ondas que viajan por el refractor %2; se necesitan %3</translation>
+    </message>
+    <message>
+        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
+        <translation>las ondas directas, a %1 m/s, son más lentas de lo que permiten los límites</translation>
+    </message>
+    <message>
+        <source>the times of a refractor grow too little with offset for the bounds</source>
+        <translation>los tiempos de un refractor crecen con la distancia al disparo menos de lo que permiten los límites</translation>
+    </message>
+    <message>
+        <source>velocities of %1 and %2 m/s do not increase with depth</source>
+        <translation>las velocidades de %1 y %2 m/s no aumentan con la profundidad</translation>
+    </message>
+    <message>
+        <source>the picks do not settle its delay times</source>
+        <translation>los picados no bastan para determinar sus tiempos de retardo</translation>
+    </message>
+    <message>
+        <source>the times over offset show no cross-over to a faster branch</source>
+        <translation>los tiempos frente a la distancia al disparo no muestran ningún punto de cruce con una rama más rápida</translation>
+    </message>
+    <message>
+        <source>the velocity above the refractor grows by less than a tenth</source>
+        <translation>la velocidad por encima del refractor aumenta menos de una décima parte</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Gradiente</translation>
+    </message>
+    <message>
+        <source>Two layers</source>
+        <translation>Dos capas</translation>
+    </message>
+    <message>
+        <source>Three layers</source>
+        <translation>Tres capas</translation>
+    </message>
+    <message>
+        <source>Overburden gradient</source>
+        <translation>Gradiente en el recubrimiento</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1–%2</translation>
+    </message>
+    <message>
+        <source>%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down</source>
+        <translation>%1 m/s en la superficie, %2 m/s en el punto de retorno del rayo más profundo, a %3 m de profundidad</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down</source>
+        <translation>%1 m/s, %2 m/s a partir de %3 m de profundidad, %4 m/s a partir de %5 m de profundidad</translation>
+    </message>
+    <message>
+        <source>%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down</source>
+        <translation>%1 m/s más %2 m/s por metro, %3 m/s a partir de %4 m de profundidad</translation>
+    </message>
+    <message>
+        <source>%1 m/s, %2 m/s from %3 m down</source>
+        <translation>%1 m/s, %2 m/s a partir de %3 m de profundidad</translation>
+    </message>
+    <message>
+        <source>it takes times that grow with offset, at three offsets or more</source>
+        <translation>se necesitan tiempos que crezcan con la distancia al disparo, en tres distancias o más</translation>
+    </message>
+    <message>
+        <source>Set errors of picks</source>
+        <translation>Fijar errores de los picados</translation>
+    </message>
+    <message>
+        <source>Set error of pick</source>
+        <translation>Fijar error del picado</translation>
     </message>
 </context>
 <context>
@@ -4908,6 +5083,165 @@ Defina la posición de los geófonos
     </message>
 </context>
 <context>
+    <name>talvesk::ReciprocityDialog</name>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Reciprocidad</translation>
+    </message>
+    <message>
+        <source>Times there and back</source>
+        <translation>Tiempos en ambos sentidos</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>Posición [m]</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Pares</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Retraso [ms]</translation>
+    </message>
+    <message>
+        <source>Mend</source>
+        <translation>Corrección</translation>
+    </message>
+    <message>
+        <source>Differences of times there and back, shot by shot</source>
+        <translation>Diferencias entre los tiempos de ida y los de vuelta, disparo a disparo</translation>
+    </message>
+    <message>
+        <source>The pick of the first shot at the place of the second comes into view in the window; a click on a line or a cell does the same</source>
+        <translation>Muestra en la ventana el picado del primer disparo en el punto del segundo; un clic en una fila o una celda hace lo mismo</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;there</source>
+        <translation>Mostrar picado de &amp;ida</translation>
+    </message>
+    <message>
+        <source>The pick of the second shot at the place of the first comes into view; so does a click on the second shot of a line, or on the cell across the diagonal</source>
+        <translation>Muestra el picado del segundo disparo en el punto del primero; un clic en el segundo disparo de una fila o en la celda simétrica respecto a la diagonal hace lo mismo</translation>
+    </message>
+    <message>
+        <source>Show pick &amp;back</source>
+        <translation>Mostrar picado de &amp;vuelta</translation>
+    </message>
+    <message>
+        <source>Shifts the record of the chosen shot, with its picks, by the time that mends it; Undo takes it back</source>
+        <translation>Desplaza el registro del disparo elegido, con sus picados, el tiempo que lo corrige; Deshacer lo revierte</translation>
+    </message>
+    <message>
+        <source>&amp;Mend</source>
+        <translation>&amp;Corregir</translation>
+    </message>
+    <message>
+        <source>Saves all pairs as a table (.csv)</source>
+        <translation>Guarda todos los pares como tabla (.csv)</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Guardar tabla...</translation>
+    </message>
+    <message>
+        <source>Pairs of shots: %1, RMS of their differences: %2 ms. A wave takes as long on the way back: what differs is a pick, or a clock.</source>
+        <translation>Pares de disparos: %1, RMS de sus diferencias: %2 ms. Una onda tarda lo mismo a la vuelta: si los tiempos difieren, falla un picado o un reloj.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Disparo %1: %2.</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>none: there is no recording to shift</source>
+        <translation>ninguna: no hay registro que desplazar</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityMatrix</name>
+    <message>
+        <source>Row to column, longer than back by [ms]</source>
+        <translation>Ida (de fila a columna) menos vuelta [ms]</translation>
+    </message>
+    <message>
+        <source>Shot %1 to shot %2</source>
+        <translation>Del disparo %1 al disparo %2</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>%1: no picks along both ways</source>
+        <translation>%1: sin picados en ambos sentidos</translation>
+    </message>
+    <message>
+        <source>%1: %2 ms, back %3 ms, difference %4 ms</source>
+        <translation>%1: %2 ms, vuelta %3 ms, diferencia %4 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ReciprocityModel</name>
+    <message>
+        <source>Shows trace %1 of shot %2</source>
+        <translation>Muestra la traza %1 del disparo %2</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <comment>not known</comment>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>The difference in standard deviations, where both picks have an error</source>
+        <translation>La diferencia en desviaciones estándar, si ambos picados tienen error</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>At [m]</source>
+        <translation>Posición [m]</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Ida [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Vuelta [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Diferencia [ms]</translation>
+    </message>
+    <message>
+        <source>Sigmas</source>
+        <translation>Sigmas</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RecordingDetailsDialog</name>
     <message>
         <source>Recording details</source>
@@ -5021,6 +5355,14 @@ Defina la posición de los geófonos
     <message>
         <source>the standard of its format; record %1 of the file, %2</source>
         <translation>el estándar de su formato; registro %1 del archivo, %2</translation>
+    </message>
+    <message>
+        <source>Pick (ms)</source>
+        <translation>Picado (ms)</translation>
+    </message>
+    <message>
+        <source>Error (ms)</source>
+        <translation>Error (ms)</translation>
     </message>
 </context>
 <context>
@@ -6055,6 +6397,130 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Mends of recordings</source>
         <translation>Correcciones de los registros</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Buenos</translation>
+    </message>
+    <message>
+        <source>Doubtful</source>
+        <translation>Dudosos</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Error desconocido</translation>
+    </message>
+    <message>
+        <source>Median error [ms]</source>
+        <translation>Mediana del error [ms]</translation>
+    </message>
+    <message>
+        <source>Largest error [ms]</source>
+        <translation>Error máximo [ms]</translation>
+    </message>
+    <message>
+        <source>Errors of the picks of every shot</source>
+        <translation>Errores de los picados de cada disparo</translation>
+    </message>
+    <message>
+        <source>The error of a pick is one standard deviation. A pick is good up to %1 ms and doubtful beyond.</source>
+        <translation>El error de un picado es una desviación estándar. Un picado es bueno hasta %1 ms y dudoso a partir de ahí.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Ajuste a los errores de los picados</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none</source>
+        <translation>Error de los picados que no indican ninguno</translation>
+    </message>
+    <message>
+        <source>%1 ms, or %2 % of the time where that is more</source>
+        <translation>%1 ms, o el %2 % del tiempo si es mayor</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi cuadrado</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2</source>
+        <translation>%1; de todos los picados, %2</translation>
+    </message>
+    <message>
+        <source>Target reached</source>
+        <translation>Objetivo alcanzado</translation>
+    </message>
+    <message>
+        <source>Suspect picks, left out of chi-square</source>
+        <translation>Picados sospechosos, excluidos de chi cuadrado</translation>
+    </message>
+    <message>
+        <source>Iterations to this section</source>
+        <translation>Iteraciones hasta esta sección</translation>
+    </message>
+    <message>
+        <source>Few sharp steps rather than gentle slopes</source>
+        <translation>Pocos saltos bruscos en lugar de variaciones suaves</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots fitted, too</source>
+        <translation>Ajuste también de desplazamientos en tiempo de los disparos</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>Pares</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Retraso [ms]</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Reciprocity of every shot</source>
+        <translation>Reciprocidad de cada disparo</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Ida [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Vuelta [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Diferencia [ms]</translation>
+    </message>
+    <message>
+        <source>The pairs of shots that differ most</source>
+        <translation>Los pares de disparos que más difieren</translation>
+    </message>
+    <message>
+        <source>Pairs of shots</source>
+        <translation>Pares de disparos</translation>
+    </message>
+    <message>
+        <source>Reciprocity</source>
+        <translation>Reciprocidad</translation>
+    </message>
+    <message>
+        <source>A wave takes as long from one shot to the place of another as back. Pairs of shots with picks along both ways: %1; RMS of their differences: %2 ms.</source>
+        <translation>Una onda tarda lo mismo de un disparo al punto de otro que a la vuelta. Pares de disparos con picados en ambos sentidos: %1; RMS de sus diferencias: %2 ms.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2.</source>
+        <translation>Disparo %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -8080,6 +8546,202 @@ Do you want to run refraction processing anyway? </source>
         <source>Of %1 traces %2 have a pick that is sure to %3 ms and %4 a doubtful one; %5 picks that you made stay.</source>
         <translation>Trazas: %1; con un picado seguro (±%3 ms): %2; con uno dudoso: %4. Picados hechos por usted que se conservan: %5.</translation>
     </message>
+    <message>
+        <source>Guides in the traces</source>
+        <translation>Guías en las trazas</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Tiempos calculados</translation>
+    </message>
+    <message>
+        <source>Draw the times through the section over the traces</source>
+        <translation>Dibuja sobre las trazas los tiempos calculados a través de la sección</translation>
+    </message>
+    <message>
+        <source>Curve of the nearest shot</source>
+        <translation>Dromocrona del disparo más cercano</translation>
+    </message>
+    <message>
+        <source>Draw the picks of the nearest other shot on the same geophones, dashed</source>
+        <translation>Dibuja con línea discontinua los picados del disparo más cercano en los mismos geófonos</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Tiempos recíprocos</translation>
+    </message>
+    <message>
+        <source>Mark when other shots recorded the same ways in the other direction: the picks should pass there</source>
+        <translation>Marca los tiempos de otros disparos que registraron los mismos caminos en sentido contrario: los picados deberían pasar por ahí</translation>
+    </message>
+    <message>
+        <source>Guide line</source>
+        <translation>Línea guía</translation>
+    </message>
+    <message>
+        <source>Drag along the first breaks: the picker fills the traces near that line (key G)</source>
+        <translation>Arrastre a lo largo de las primeras llegadas: se pican las trazas cerca de esa línea (tecla G)</translation>
+    </message>
+    <message>
+        <source>Fill along the line</source>
+        <translation>Completar a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Pick the rest of the current shot through the picks that you set or confirmed</source>
+        <translation>Pica el resto del disparo actual pasando por los picados que usted puso o confirmó</translation>
+    </message>
+    <message>
+        <source>Error 0.5 ms</source>
+        <translation>Error 0,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 0.5 ms, and so may those that you set next (key 1)</source>
+        <translation>Da un error de 0,5 ms a los picados de las trazas seleccionadas y a los que ponga después (tecla 1)</translation>
+    </message>
+    <message>
+        <source>Error 1 ms</source>
+        <translation>Error 1 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 1 ms, and so may those that you set next (key 2)</source>
+        <translation>Da un error de 1 ms a los picados de las trazas seleccionadas y a los que ponga después (tecla 2)</translation>
+    </message>
+    <message>
+        <source>Error 2.5 ms</source>
+        <translation>Error 2,5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 2.5 ms, and so may those that you set next (key 3)</source>
+        <translation>Da un error de 2,5 ms a los picados de las trazas seleccionadas y a los que ponga después (tecla 3)</translation>
+    </message>
+    <message>
+        <source>Error 5 ms</source>
+        <translation>Error 5 ms</translation>
+    </message>
+    <message>
+        <source>The picks of the selected traces may be off by 5 ms, and so may those that you set next (key 4)</source>
+        <translation>Da un error de 5 ms a los picados de las trazas seleccionadas y a los que ponga después (tecla 4)</translation>
+    </message>
+    <message>
+        <source>Error unknown</source>
+        <translation>Error desconocido</translation>
+    </message>
+    <message>
+        <source>Nothing is told of how far the picks of the selected traces may be off, nor those that you set next (key 0)</source>
+        <translation>Deja sin error los picados de las trazas seleccionadas y los que ponga después (tecla 0)</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Barras de error</translation>
+    </message>
+    <message>
+        <source>Show how far picks may be off, in the traces and in the travel-time curves; bars of doubtful picks are dashed</source>
+        <translation>Muestra el error de los picados en las trazas y en las dromocronas; las barras de los picados dudosos son discontinuas</translation>
+    </message>
+    <message>
+        <source>Next doubtful pick</source>
+        <translation>Picado dudoso siguiente</translation>
+    </message>
+    <message>
+        <source>Go to the next pick of all shots that is doubtful by its error, the section or the reciprocal time, worst first</source>
+        <translation>Va al siguiente picado de todos los disparos que es dudoso por su error, la sección o el tiempo recíproco, empezando por el peor</translation>
+    </message>
+    <message>
+        <source>Previous doubtful pick</source>
+        <translation>Picado dudoso anterior</translation>
+    </message>
+    <message>
+        <source>Go back to the doubtful pick before, a worse one</source>
+        <translation>Vuelve al picado dudoso anterior, que es peor</translation>
+    </message>
+    <message>
+        <source>Reciprocity...</source>
+        <translation>Reciprocidad...</translation>
+    </message>
+    <message>
+        <source>Compare the picks of all shots there and back, and find the shots that are late</source>
+        <translation>Compara los picados de todos los disparos en ambos sentidos y encuentra los disparos retrasados</translation>
+    </message>
+    <message>
+        <source>Set or confirm some picks of this shot first, or draw a line with the tool Guide line.</source>
+        <translation>Ponga o confirme antes algunos picados de este disparo, o trace una línea con la herramienta Línea guía.</translation>
+    </message>
+    <message>
+        <source>Shot %1 has not been filled.</source>
+        <translation>No se ha completado el disparo %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2 traces filled, %3 sure to %4 ms and %5 doubtful; %6 are without a pick, %7 picks that you made stay.</source>
+        <translation>Disparo %1: trazas completadas: %2; con un picado seguro (±%4 ms): %3; con uno dudoso: %5; sin picado: %6. Picados hechos por usted que se conservan: %7.</translation>
+    </message>
+    <message>
+        <source>The record of shot %1 is mended; Undo takes it back.</source>
+        <translation>El registro del disparo %1 se ha corregido; Deshacer lo revierte.</translation>
+    </message>
+    <message>
+        <source>The recording has not been mended.</source>
+        <translation>No se ha corregido el registro.</translation>
+    </message>
+    <message>
+        <source>Save Reciprocal Times</source>
+        <translation>Guardar tiempos recíprocos</translation>
+    </message>
+    <message>
+        <source>Table (*.csv);;All Files (*)</source>
+        <translation>Tabla (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Doubtful pick %1 of %2, shot %3, trace %4: %5</source>
+        <translation>Picado dudoso %1 de %2, disparo %3, traza %4: %5</translation>
+    </message>
+    <message>
+        <source>after the last one, the worst again</source>
+        <translation>tras el último, de nuevo el peor</translation>
+    </message>
+    <message>
+        <source>before the worst, the last</source>
+        <translation>antes del peor, el último</translation>
+    </message>
+    <message>
+        <source>error %1 ms</source>
+        <translation>error %1 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms later</source>
+        <translation>calculado %1 ms más tarde</translation>
+    </message>
+    <message>
+        <source>computed %1 ms earlier</source>
+        <translation>calculado %1 ms antes</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms later</source>
+        <translation>tiempo recíproco %1 ms más tarde</translation>
+    </message>
+    <message>
+        <source>reciprocal time %1 ms earlier</source>
+        <translation>tiempo recíproco %1 ms antes</translation>
+    </message>
+    <message>
+        <source>There are no picks yet.</source>
+        <translation>Aún no hay picados.</translation>
+    </message>
+    <message>
+        <source>No pick waits for confirmation.</source>
+        <translation>Ningún picado espera confirmación.</translation>
+    </message>
+    <message>
+        <source>None of the %1 picks that wait for confirmation is doubtful.</source>
+        <translation>Ninguno de los %1 picados que esperan confirmación es dudoso.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of %1 of them: no error, no computed time, no reciprocal one.</source>
+        <translation>De %1 de ellos no se sabe nada: ni error, ni tiempo calculado, ni tiempo recíproco.</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Error %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -8121,6 +8783,27 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Air %1 m/s</source>
         <translation>Aire %1 m/s</translation>
+    </message>
+    <message>
+        <source>No other shot of the string is picked</source>
+        <translation>Ningún otro disparo del tendido está picado</translation>
+    </message>
+    <message>
+        <source>Shot %1 at %2 m</source>
+        <comment>number, place</comment>
+        <translation>Disparo %1 en %2 m</translation>
+    </message>
+    <message>
+        <source>No computed times</source>
+        <translation>Sin tiempos calculados</translation>
+    </message>
+    <message>
+        <source>Reciprocal times</source>
+        <translation>Tiempos recíprocos</translation>
+    </message>
+    <message>
+        <source>No reciprocal times</source>
+        <translation>Sin tiempos recíprocos</translation>
     </message>
 </context>
 <context>
@@ -8208,6 +8891,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Error: %1 ms</source>
+        <translation>Error: %1 ms</translation>
     </message>
 </context>
 <context>
@@ -8606,6 +9293,14 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>This shot has no traces</source>
         <translation>Este disparo no tiene trazas</translation>
+    </message>
+    <message>
+        <source>Trace %1, picked at %2 ms, error %3 ms</source>
+        <translation>Traza %1, picada en %2 ms, error %3 ms</translation>
+    </message>
+    <message>
+        <source>Error %1 ms</source>
+        <translation>Error %1 ms</translation>
     </message>
 </context>
 <context>
