@@ -21,6 +21,7 @@
 #include "tomo/ForwardPass.h"
 #include "tomo/GridPreview.h"
 
+#include <cmath>
 #include <iostream>
 #include <utility>
 
@@ -155,12 +156,26 @@ void summarizeFitted(const TomoDocument& document, const FittedRunResult& fit, s
       << leftOut(document, document.result->excluded).of << std::endl;
 }
 
+/// Which iteration the section is of, where it need not be the last.
+void summarizeCoarseToFine(const TomographyResult& result, std::ostream& out) {
+  if (!result.coarseToFine) return;
+  const CoarseToFineResult& all = *result.coarseToFine;
+  out << "From coarse to fine: iteration " << all.kept << " of " << result.iterationsDone
+      << " is kept, smoothing radius " << all.radii[static_cast<std::size_t>(all.kept) - 1]
+      << "; section RMS [ms] after each:";
+  for (std::size_t i = 1; i < all.sections.size(); ++i) {
+    out << ' ' << formatDouble(std::round(all.sections[i].rmse * 1e6) / 1000.0);
+  }
+  out << "\n";
+}
+
 void summarize(const TomographyParameters& parameters, const TomoDocument& document,
                const TomographyResult& result, std::ostream& out) {
   const Misfit& misfit = result.misfit;
   summarizeGrid(document, out);
   out << "External iterations: " << result.iterationsDone << " of " << parameters.externalIterations
       << (result.stopped ? ", stopped by the user" : "") << "\n";
+  summarizeCoarseToFine(result, out);
   summarizeSection(result.sectionMisfit, out);
   out << "Computing time: [s] " << formatDouble(result.computingSeconds) << "\n"
       << "Last solver pass:\n"

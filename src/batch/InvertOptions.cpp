@@ -165,6 +165,10 @@ std::vector<CLI::Option*> addRunOptions(CLI::App& app, InvertOptions& options) {
                              "Smooth as far up and down as sideways, instead of " +
                                  plainNumber(parameters::kFlatness.value) + " times as far")
                     ->group("Inversion"));
+  own.push_back(app.add_flag("--coarse-to-fine", run.coarseToFine,
+                             "Let the smoothing radius shrink to a fifth over the external "
+                             "iterations, and keep the one whose section fits the picks best")
+                    ->group("Inversion"));
   const auto velocity = [&](const Parameter<double>& parameter, double fitted,
                             std::optional<double>& target) {
     addParameter(app, parameter, "M/S",

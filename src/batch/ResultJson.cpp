@@ -131,6 +131,20 @@ Json sectionHistoryJson(const std::vector<SectionMisfit>& history) {
   return list;
 }
 
+/// Null where the smoothing radius stayed the same. Entry 0 of the misfits is the starting model.
+Json coarseToFineJson(const std::optional<CoarseToFineResult>& all) {
+  if (!all) return nullptr;
+  Json json = Json::object();
+  json["kept_iteration"] = all->kept;
+  json["radii"] = all->radii;
+  Json misfits = Json::array();
+  for (const SectionMisfit& each : all->sections) {
+    misfits.push_back(ofPicks(each, each.rmse * 1000.0));
+  }
+  json["section_rmse_ms"] = std::move(misfits);
+  return json;
+}
+
 Json sectionTimesJson(const TomoDocument& document) {
   Json times = Json::array();
   for (const TravelTime& record : document.ttArray) times.push_back(record.ttCalcolati);
@@ -246,6 +260,7 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   json["computed_times"] = result.lastPassTimes;
   putSectionMisfit(json, result.sectionMisfit);
   json["section_history"] = sectionHistoryJson(document.result->sectionHistory);
+  json["coarse_to_fine"] = coarseToFineJson(result.coarseToFine);
   json["section_times"] = sectionTimesJson(document);
   json["computing_s"] = result.computingSeconds;
   if (fit != nullptr) {
