@@ -1,6 +1,7 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "batch/Resolution.h"
 #include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
@@ -131,14 +132,13 @@ Json sectionHistoryJson(const std::vector<SectionMisfit>& history) {
   return list;
 }
 
-/// Null where the smoothing radius stayed the same. Entry 0 of the misfits is the starting model.
-Json coarseToFineJson(const std::optional<CoarseToFineResult>& all) {
-  if (!all) return nullptr;
+/// Entry 0 of the misfits is the starting model.
+Json coarseToFineJson(const CoarseToFineResult& all) {
   Json json = Json::object();
-  json["kept_iteration"] = all->kept;
-  json["radii"] = all->radii;
+  json["kept_iteration"] = all.kept;
+  json["radii"] = all.radii;
   Json misfits = Json::array();
-  for (const SectionMisfit& each : all->sections) {
+  for (const SectionMisfit& each : all.sections) {
     misfits.push_back(ofPicks(each, each.rmse * 1000.0));
   }
   json["section_rmse_ms"] = std::move(misfits);
@@ -235,7 +235,8 @@ Json standardJson(const ReadShotFile& file, const std::vector<Message>& losses, 
 }  // namespace
 
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
-                          const PickErrorRule& errors, const FittedRunResult* fit) {
+                          const PickErrorRule& errors, const FittedRunResult* fit,
+                          const ResolutionReport* resolution) {
   const Misfit& misfit = result.misfit;
   Json json = Json::object();
   json["grid"] = gridJson(document);
@@ -260,7 +261,7 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   json["computed_times"] = result.lastPassTimes;
   putSectionMisfit(json, result.sectionMisfit);
   json["section_history"] = sectionHistoryJson(document.result->sectionHistory);
-  json["coarse_to_fine"] = coarseToFineJson(result.coarseToFine);
+  if (result.coarseToFine) json["coarse_to_fine"] = coarseToFineJson(*result.coarseToFine);
   json["section_times"] = sectionTimesJson(document);
   json["computing_s"] = result.computingSeconds;
   if (fit != nullptr) {
@@ -268,6 +269,7 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   } else {
     putChiSquare(json, "smoothed", chiSquareOf(document, residualsOf(document), errors));
   }
+  if (resolution != nullptr) json["resolution"] = resolutionJson(*resolution);
   return linePerKey(json) + "\n";
 }
 

@@ -153,7 +153,6 @@ void addParameters(ReportBuilder& builder, const InversionRecord& run) {
   if (run.fit) return addFit(builder, run);
   ReportTable facts = ReportTable::ofFacts();
   const int done = static_cast<int>(run.history.size());
-  QString iterations = ReportWords::tr("%1 of %2").arg(done).arg(run.externalIterations);
   QString iterations = run.coarseToFine > 0
                            ? ReportWords::tr("%1, the best of %2 from coarse to fine")
                                  .arg(done)
