@@ -40,6 +40,14 @@ QString inversionResultsText(const TomographyResult& result) {
   const Misfit& misfit = result.misfit;
   QString text;
   if (result.sectionMisfit.count > 0) text = ofSection(result.sectionMisfit);
+  if (result.coarseToFine) {
+    text += Words::tr("From coarse to fine: iteration %1 of %2 is kept, smoothing parameter %3\n")
+                .arg(result.coarseToFine->kept)
+                .arg(result.iterationsDone)
+                .arg(result.coarseToFine
+                         ->radii[static_cast<std::size_t>(result.coarseToFine->kept - 1)]) +
+            QLatin1Char('\n');
+  }
   text += Words::tr("Computing time: [s] %1\n").arg(general(result.computingSeconds)) +
           QLatin1Char('\n') + Words::tr("Last solver pass\n");
   return text + Words::tr("Elapsed time: [s] %1\n").arg(general(result.elapsedSeconds)) +

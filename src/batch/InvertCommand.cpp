@@ -8,6 +8,7 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/Reports.h"
+#include "batch/Resolution.h"
 #include "batch/ResultJson.h"
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
@@ -21,6 +22,7 @@
 #include "tomo/ForwardPass.h"
 #include "tomo/GridPreview.h"
 
+#include <cmath>
 #include <iostream>
 #include <utility>
 
@@ -155,12 +157,26 @@ void summarizeFitted(const TomoDocument& document, const FittedRunResult& fit, s
       << leftOut(document, document.result->excluded).of << std::endl;
 }
 
+/// Which iteration the section is of, where it need not be the last.
+void summarizeCoarseToFine(const TomographyResult& result, std::ostream& out) {
+  if (!result.coarseToFine) return;
+  const CoarseToFineResult& all = *result.coarseToFine;
+  out << "From coarse to fine: iteration " << all.kept << " of " << result.iterationsDone
+      << " is kept, smoothing radius " << all.radii[static_cast<std::size_t>(all.kept) - 1]
+      << "; section RMS [ms] after each:";
+  for (std::size_t i = 1; i < all.sections.size(); ++i) {
+    out << ' ' << formatDouble(std::round(all.sections[i].rmse * 1e6) / 1000.0);
+  }
+  out << "\n";
+}
+
 void summarize(const TomographyParameters& parameters, const TomoDocument& document,
                const TomographyResult& result, std::ostream& out) {
   const Misfit& misfit = result.misfit;
   summarizeGrid(document, out);
   out << "External iterations: " << result.iterationsDone << " of " << parameters.externalIterations
       << (result.stopped ? ", stopped by the user" : "") << "\n";
+  summarizeCoarseToFine(result, out);
   summarizeSection(result.sectionMisfit, out);
   out << "Computing time: [s] " << formatDouble(result.computingSeconds) << "\n"
       << "Last solver pass:\n"
@@ -175,11 +191,13 @@ void summarize(const TomographyParameters& parameters, const TomoDocument& docum
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
 int writeResults(const InvertOptions& options, const LoadedProject& project,
-                 const TomographyResult& result, const FittedRunResult* fit) {
+                 const TomographyResult& result, const FittedRunResult* fit,
+                 const ResolutionReport* resolution) {
   const TomoDocument& document = project.document;
   OutputAttempts attempt;
   attempt(options.json, [&](const auto& path) {
-    return writeOutput(path, inversionJson(document, result, options.fitted.errors, fit));
+    return writeOutput(path,
+                       inversionJson(document, result, options.fitted.errors, fit, resolution));
   });
   attempt(options.gridded, [&](const auto& path) {
     announceGriddedText(path);
@@ -192,6 +210,8 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
       return writeSectionFigure(document, sectionFigure(options), path);
     });
   }
+  attempt(resolution == nullptr || resolution->tests.empty() ? "" : options.resolutionImage,
+          [&](const auto& path) { return drawResolution(*resolution, document, path); });
   attempt(options.report, [&](const auto& path) {
     return writeReportFile({document, &*project.interpretation}, options.reportFields,
                            sectionFigure(options), path);
@@ -202,17 +222,18 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
 }  // namespace
 
 int run(const InvertOptions& options) {
-  std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
-                                     {"--otte", options.otte},
-                                     {"--json", options.json},
-                                     {"--project", options.project},
-                                     {"--report", options.report}};
+  std::vector<OutputFile> outputs = {
+      {"--gridded", options.gridded}, {"--otte", options.otte},
+      {"--json", options.json},       {"--project", options.project},
+      {"--report", options.report},   {"--resolution-image", options.resolutionImage}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   const Channels channels = openChannels(outputs, options.quiet, options.verbose);
   const Status places = checkOutputFiles(outputs, inputsOf(options));
   if (places.code() == kWrongUsage) return wrongUsage("invert", places.message());
   if (!places.ok()) return failed(places.message());
-  if (!options.images.empty() || !options.report.empty()) prepareDrawing();
+  if (!options.images.empty() || !(options.report + options.resolutionImage).empty()) {
+    prepareDrawing();
+  }
 
   Log log;
   LoadedProject project;
@@ -238,12 +259,17 @@ int run(const InvertOptions& options) {
   const int runCode = result.status.ok() ? kDone : failed(result.status.message());
   if (result.iterationsDone == 0) return runCode;
   if (fit) warnAboutFit(*fit);
-  const int exitCode = writeResults(options, project, result, fit ? &*fit : nullptr);
+  std::optional<ResolutionReport> resolution;
+  if (options.resolution) resolution = resolve(options, document);
+  const int exitCode = writeResults(options, project, result, fit ? &*fit : nullptr,
+                                    resolution ? &*resolution : nullptr);
   if (fit) {
     summarizeFitted(document, *fit, *channels.summary);
   } else {
     summarize(parameters, document, result, *channels.summary);
   }
+  if (resolution) summarizeResolution(*resolution, *channels.summary);
+  if (resolution && !resolution->status.ok()) return failed(resolution->status.message());
   return runCode != kDone ? runCode : exitCode;
 }
 

@@ -107,6 +107,54 @@ PickErrorRule readErrors(const std::string& text) {
   return {field(0, parameters::kErrorFloor) / 1000.0, field(1, parameters::kErrorShare) / 100.0};
 }
 
+ResolutionPattern readPattern(const std::string& text, const std::string& word) {
+  if (word == "checkerboard") return ResolutionPattern::kCheckerboard;
+  if (word == "spike") return ResolutionPattern::kSpikes;
+  if (word == "layer") return ResolutionPattern::kLayers;
+  throw CLI::ValidationError(
+      "--resolution", "'" + text + "': '" + word + "' is none of checkerboard, spike, layer");
+}
+
+/// "PATTERN:SIZE:STRENGTH": metres, several with commas or "all", and percent.
+ResolutionRequest readResolution(const std::string& text) {
+  const auto fields = splitFields(text, ':');
+  if (fields.size() != 3 || text.back() == ':') {
+    throw CLI::ValidationError("--resolution", "'" + text + "' is not PATTERN:SIZE:STRENGTH");
+  }
+  const std::string what = "--resolution " + text;
+  ResolutionRequest request;
+  request.test.pattern = readPattern(text, std::string(fields[0]));
+  request.trySizes = fields[1] == "all";
+  if (!request.trySizes) {
+    for (const std::string_view size : splitFields(fields[1], ',')) {
+      request.sizes.push_back(
+          numberWithin(what, std::string(size), rangeOf(parameters::kPatternSize)));
+    }
+    request.test.size = request.sizes.front();
+  }
+  request.test.strength =
+      numberWithin(what, std::string(fields[2]), rangeOf(parameters::kPatternStrength)) / 100.0;
+  return request;
+}
+
+void addResolutionOption(CLI::App& app, InvertOptions& options) {
+  CLI::Option* resolution =
+      app.add_option_function<std::string>(
+             "--resolution",
+             [&](const std::string& text) { options.resolution = readResolution(text); },
+             "Test afterwards what the survey resolves: disturb the section by a checkerboard, "
+             "spike or layer of SIZE metres, STRENGTH percent faster and slower, and find it again "
+             "from the times through it with noise by the picks' errors. Several sizes with "
+             "commas between them, or 'all', tell the smallest that is resolved at each depth")
+          ->type_name("PATTERN:SIZE:STRENGTH");
+  resolution->group("Inversion");
+  CLI::Option* image =
+      addPath(app, "--resolution-image", options.resolutionImage,
+              "Draw the first test of --resolution: true and recovered side by side and their "
+              "correlation by depth; .png, .svg or .pdf");
+  mustEndIn(image, {".png", ".svg", ".pdf"}, true)->needs(resolution)->group("Inversion");
+}
+
 /// What only a fit to the errors of the picks has.
 /// \return the options that it alone has
 std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
@@ -164,6 +212,10 @@ std::vector<CLI::Option*> addRunOptions(CLI::App& app, InvertOptions& options) {
   own.push_back(app.add_flag("--symmetric", run.symmetric,
                              "Smooth as far up and down as sideways, instead of " +
                                  plainNumber(parameters::kFlatness.value) + " times as far")
+                    ->group("Inversion"));
+  own.push_back(app.add_flag("--coarse-to-fine", run.coarseToFine,
+                             "Let the smoothing radius shrink to a fifth over the external "
+                             "iterations, and keep the one whose section fits the picks best")
                     ->group("Inversion"));
   const auto velocity = [&](const Parameter<double>& parameter, double fitted,
                             std::optional<double>& target) {
@@ -245,6 +297,7 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   addGridOptions(command, options);
   const auto smoothed = addRunOptions(command, options);
   const auto fitted = addFitOptions(command, options);
+  addResolutionOption(command, options);
   addOutputOptions(command, options);
   addReport(command, options.report, options.reportFields);
   CLI::Option* quiet = command.add_flag("--quiet", options.quiet, kQuietHelp);

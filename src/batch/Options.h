@@ -10,6 +10,7 @@
 #include "processing/ShotFilters.h"
 #include "tomo/TomographyRun.h"
 #include "tomo/fitted/FittedRun.h"
+#include "tomo/fitted/ResolutionRun.h"
 #include "view/ColorPalette.h"
 
 #include <optional>
@@ -111,15 +112,17 @@ struct InvertOptions {
   std::vector<VelocityLayer> layers;       ///< none: the grid's default model
   bool ownGrid = false;                    ///< one of the above was given
   InversionMethod method = InversionMethod::kSmoothed;
-  FittedSettings fitted;              ///< but what follows, which both methods have
-  TomographyParameters parameters;    ///< but the velocities: those are the next two
-  std::optional<double> minVelocity;  ///< m/s; none: that of the survey or of the fit
-  std::optional<double> maxVelocity;  ///< m/s; none: that of the survey or of the fit
-  std::optional<int> iterations;      ///< none: as many as the method has of its own
-  std::string project;                ///< to save the survey in
+  FittedSettings fitted;                        ///< but what follows, which both methods have
+  TomographyParameters parameters;              ///< but the velocities: those are the next two
+  std::optional<double> minVelocity;            ///< m/s; none: that of the survey or of the fit
+  std::optional<double> maxVelocity;            ///< m/s; none: that of the survey or of the fit
+  std::optional<int> iterations;                ///< none: as many as the method has of its own
+  std::optional<ResolutionRequest> resolution;  ///< asked for of the section that was found
+  std::string project;                          ///< to save the survey in
   std::string gridded;
   double lineY = 0.0;               ///< metres
   double zOffset = 0.0;             ///< metres
+  std::string resolutionImage;      ///< picture of the first resolution test
   std::vector<std::string> images;  ///< one picture per path
   bool rays = false;
   int contours = 0;  ///< number of contour lines

@@ -2,6 +2,7 @@
 
 #include "batch/JsonText.h"
 #include "batch/ReciprocityText.h"
+#include "batch/Resolution.h"
 #include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
@@ -151,6 +152,19 @@ Json sectionHistoryJson(const std::vector<SectionMisfit>& history) {
   return list;
 }
 
+/// Entry 0 of the misfits is the starting model.
+Json coarseToFineJson(const CoarseToFineResult& all) {
+  Json json = Json::object();
+  json["kept_iteration"] = all.kept;
+  json["radii"] = all.radii;
+  Json misfits = Json::array();
+  for (const SectionMisfit& each : all.sections) {
+    misfits.push_back(ofPicks(each, each.rmse * 1000.0));
+  }
+  json["section_rmse_ms"] = std::move(misfits);
+  return json;
+}
+
 Json sectionTimesJson(const TomoDocument& document) {
   Json times = Json::array();
   for (const TravelTime& record : document.ttArray) times.push_back(record.ttCalcolati);
@@ -247,7 +261,8 @@ Json standardJson(const ReadShotFile& file, const std::vector<Message>& losses, 
 }  // namespace
 
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
-                          const PickErrorRule& errors, const FittedRunResult* fit) {
+                          const PickErrorRule& errors, const FittedRunResult* fit,
+                          const ResolutionReport* resolution) {
   const Misfit& misfit = result.misfit;
   Json json = Json::object();
   json["grid"] = gridJson(document);
@@ -272,6 +287,7 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   json["computed_times"] = result.lastPassTimes;
   putSectionMisfit(json, result.sectionMisfit);
   json["section_history"] = sectionHistoryJson(document.result->sectionHistory);
+  if (result.coarseToFine) json["coarse_to_fine"] = coarseToFineJson(*result.coarseToFine);
   json["section_times"] = sectionTimesJson(document);
   json["errors_ms"] = pickErrorsJson(document);
   putGrades(json, gradesOf(document.ttArray));
@@ -281,6 +297,7 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   } else {
     putChiSquare(json, "smoothed", chiSquareOf(document, residualsOf(document), errors));
   }
+  if (resolution != nullptr) json["resolution"] = resolutionJson(*resolution);
   return linePerKey(json) + "\n";
 }
 

@@ -14,6 +14,7 @@ struct FittedRunResult;
 struct LoadedProject;
 struct PickErrorRule;
 struct ReadShotFile;
+struct ResolutionReport;
 struct TomographyResult;
 struct TravelTimeData;
 
@@ -25,8 +26,10 @@ struct TravelTimeData;
 /// key per line. "elapsed_s" is the only value that differs between two runs. Misfit values are
 /// null when no pick was used. Chi-square is of the section; that of a fitted one counts its
 /// statics. \param errors of picks that state none \param fit of a fitted section, else null
+/// \param resolution where it was tested, else null
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
-                          const PickErrorRule& errors, const FittedRunResult* fit);
+                          const PickErrorRule& errors, const FittedRunResult* fit,
+                          const ResolutionReport* resolution);
 
 /// Positions in metres, times in seconds.
 std::string travelTimesJson(const TravelTimeData& data);

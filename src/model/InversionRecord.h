@@ -61,6 +61,9 @@ struct InversionRecord {
   /// Through the starting model, and through the section after every completed external iteration;
   /// empty: not known.
   std::vector<SectionMisfit> sectionHistory;
+  /// External iterations that were completed while the smoothing radius shrank; the histories end
+  /// with the best of them, whose section was kept. 0: the radius stayed the same.
+  int coarseToFine = 0;
   /// Of a section that was fitted to the errors of its picks; none: by solver passes and smoothing.
   std::optional<FitRecord> fit;
   std::uint64_t picks = 0;  ///< fingerprintOfPicks() of those that it was run with; 0: not known

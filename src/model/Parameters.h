@@ -80,6 +80,12 @@ inline constexpr Parameter<double> kErrorFloor = {
 inline constexpr Parameter<double> kErrorShare = {
     "error-share", 3.0, {0.0, 100.0, 1}, "percent", "Error of a pick as a share of its time"};
 
+// A resolution test.
+inline constexpr Parameter<double> kPatternSize = {
+    "pattern-size", 5.0, {0.1, 1e6, 2}, "metres", "Size of a pattern's squares or layers"};
+inline constexpr Parameter<double> kPatternStrength = {
+    "pattern-strength", 10.0, {0.1, 90.0, 1}, "percent", "Strength of a pattern in the velocity"};
+
 // Filters of traces.
 inline constexpr Parameter<double> kLowPass = {
     "low", 150.0, {1e-6, 1e6, 2}, "Hz", "Low-pass: keep what is below this frequency"};

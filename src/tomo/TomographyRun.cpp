@@ -7,6 +7,7 @@
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
+#include "tomo/CoarseToFine.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"
 
@@ -59,6 +60,7 @@ InversionRecord recordOf(const TomographyParameters& p, const TomographyResult& 
   record.stopped = result.stopped;
   record.history = result.history;
   record.sectionHistory = document.result->sectionHistory;
+  if (result.coarseToFine) record.coarseToFine = result.iterationsDone;
   record.picks = fingerprintOfPicks(document.ttArray);
   return record;
 }
@@ -75,7 +77,7 @@ Status traceFinished(TomoDocument& document, const TomographyParameters& p,
     result.lastPassTimes.push_back(record.ttCalcolati);
   }
   // An iteration that failed may have been through this section before.
-  document.result.edit().sectionHistory.resize(static_cast<std::size_t>(result.iterationsDone));
+  document.result.edit().sectionHistory.resize(result.history.size());
   const Status status = traceSection(document, p.singleThread ? 1U : searchThreads(), log);
   if (!status.ok()) return status;
   result.sectionMisfit = sectionMisfitOf(document);
@@ -92,9 +94,48 @@ void tellEnd(const TomographyResult& result, Log& log) {
                  << std::endl;
 }
 
+void begin(TomoDocument& document, const TomographyParameters& p, Log& log) {
+  document.stopRequested = false;
+  // Every run names anew what it leaves out, and the record is that of the one before.
+  document.result.edit().excluded.clear();
+  document.result.edit().lastInversion.reset();
+  document.result.edit().sectionHistory.clear();
+  document.model.edit().minVelocity = p.minVelocity;
+  document.model.edit().maxVelocity = p.maxVelocity;
+  log.write(std::string("Running Tomography :") +
+            (p.singleThread ? "Single thread mode. " : "Multi thread mode. "));
+}
+
+/// The document becomes that of the best iteration. The last one's section has had no rays yet.
+Status keepBest(TomoDocument& document, const TomographyParameters& p, BestIteration& best,
+                TomographyResult& result, Log& log) {
+  TomoDocument last = document;
+  const Status status = traceSection(last, p.singleThread ? 1U : searchThreads(), log);
+  if (!status.ok()) return status;
+  const SectionMisfit misfit = sectionMisfitOf(last);
+  best.judge(misfit);
+  CoarseToFineResult& all = result.coarseToFine.emplace();
+  all.kept = best.number();
+  all.sections = document.result->sectionHistory;
+  all.sections.resize(result.history.size());
+  all.sections.push_back(misfit);
+  for (int i = 0; i < result.iterationsDone; ++i) {
+    all.radii.push_back(coarseToFineRadius(p.smoothing, i, p.externalIterations));
+  }
+  log.write("The best of " + std::to_string(result.iterationsDone) +
+            " iterations is kept: " + std::to_string(all.kept));
+  const bool stop = document.stopRequested;
+  document = best.document();
+  document.stopRequested = stop;
+  result.history.resize(static_cast<std::size_t>(all.kept));
+  result.misfit = result.history.back();
+  return status;
+}
+
 /// What comes after the iterations.
-Status finish(TomoDocument& document, const TomographyParameters& p, const Stopwatch& watch,
-              TomographyResult& result, Log& log) {
+/// \param radius of smoothing with which the section was found
+Status finish(TomoDocument& document, const TomographyParameters& p, int radius,
+              const Stopwatch& watch, TomographyResult& result, Log& log) {
   const auto seconds = [&] {
     result.computingSeconds = watch.seconds();
     result.elapsedSeconds = p.asked ? Stopwatch(*p.asked).seconds() : result.computingSeconds;
@@ -102,8 +143,8 @@ Status finish(TomoDocument& document, const TomographyParameters& p, const Stopw
   Status status;
   try {
     document.result.edit().info_density =
-        smoothRayDensity(p.smoothingType, *document.model->grid, document.result->hitCounts,
-                         p.smoothing, verticalRatio(p.symmetric), log);
+        smoothRayDensity(p.smoothingType, *document.model->grid, document.result->hitCounts, radius,
+                         verticalRatio(p.symmetric), log);
     status = traceFinished(document, p, result, log);
     seconds();
     tellEnd(result, log);
@@ -125,29 +166,26 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   result.status = checkParameters(p);
   if (!result.status.ok()) return result;
   const Stopwatch watch;
-  document.stopRequested = false;
   const Shared<TomographyOutcome> before = document.result;
-  // Every run names anew what it leaves out, and the record is that of the one before.
-  document.result.edit().excluded.clear();
-  document.result.edit().lastInversion.reset();
-  document.result.edit().sectionHistory.clear();
-  document.model.edit().minVelocity = p.minVelocity;
-  document.model.edit().maxVelocity = p.maxVelocity;
-  log.write(std::string("Running Tomography :") +
-            (p.singleThread ? "Single thread mode. " : "Multi thread mode. "));
-
+  begin(document, p, log);
+  BestIteration best;
+  const auto radiusOf = [&](int iteration) {
+    return p.coarseToFine ? coarseToFineRadius(p.smoothing, iteration, p.externalIterations)
+                          : p.smoothing;
+  };
   for (int i = 0; i < p.externalIterations; ++i) {
     const std::string line = "Running Tomography - external iteration " + std::to_string(i);
     log.write(line);
     std::vector<double> slownesses;
     result.status =
-        document.runTomography(slownesses, p.solverIterations, p.smoothing, !p.singleThread,
+        document.runTomography(slownesses, p.solverIterations, radiusOf(i), !p.singleThread,
                                p.symmetric, static_cast<int>(p.smoothingType), log);
     if (!result.status.ok()) break;
     log.write(line + " ... COMPLETED. ");
     result.iterationsDone = i + 1;
     result.history.push_back(computeMisfit(document));
     document.result.edit().RMSE_tomography = percentOf(result.history.back());
+    if (p.coarseToFine) best.add(document);
     log.write("Updating tomographic profile ... ");
     if (progress) {
       progress({i + 1, p.externalIterations, watch.seconds(), result.history.back(),
@@ -168,8 +206,12 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
     return result;
   }
   result.misfit = result.history.back();
-  const Status finished = finish(document, p, watch, result, log);
-  if (result.status.ok()) result.status = finished;
+  const Status kept = p.coarseToFine ? keepBest(document, p, best, result, log) : Status();
+  const int radius = radiusOf(static_cast<int>(result.history.size()) - 1);
+  const Status finished = finish(document, p, radius, watch, result, log);
+  for (const Status& status : {kept, finished}) {
+    if (result.status.ok()) result.status = status;
+  }
   return result;
 }
 

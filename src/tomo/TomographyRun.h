@@ -23,6 +23,9 @@ struct TomographyParameters {
   int smoothing = parameters::kSmoothing.initial;  ///< smoothing parameter, cells, at least 1
   SmoothingType smoothingType = kUsualSmoothing;
   bool symmetric = false;
+  /// The radius shrinks to a fifth, see CoarseToFine.h, and the best iteration is kept: that whose
+  /// section fits the picks best along fresh rays.
+  bool coarseToFine = false;
   bool singleThread = false;
   double minVelocity = parameters::kMinVelocity.initial;  ///< m/s
   double maxVelocity = parameters::kMaxVelocity.initial;  ///< m/s
@@ -41,6 +44,14 @@ struct TomographyProgress {
   SectionMisfit sectionBefore;
 };
 
+/// An inversion whose smoothing radius shrank.
+struct CoarseToFineResult {
+  int kept = 0;            ///< external iteration whose section the document holds, from 1
+  std::vector<int> radii;  ///< cells, of every completed iteration
+  /// Through the starting model and the section after every completed iteration, fresh rays.
+  std::vector<SectionMisfit> sections;
+};
+
 struct TomographyResult {
   Status status;
   int iterationsDone = 0;
@@ -48,10 +59,12 @@ struct TomographyResult {
   double elapsedSeconds = 0.0;    ///< since the inversion was asked for, questions included
   double computingSeconds = 0.0;  ///< of the run alone
   Misfit misfit;                  ///< of the last solver pass; count 0 without any pick
-  std::vector<Misfit> history;    ///< one per completed external iteration
+  /// One per completed external iteration; from coarse to fine up to the one that is kept.
+  std::vector<Misfit> history;
   std::vector<std::vector<double>> lastPassTimes;  ///< computed, seconds, per record
   /// Through the section that the document holds now, along fresh rays; count 0 without any pick.
   SectionMisfit sectionMisfit;
+  std::optional<CoarseToFineResult> coarseToFine;  ///< none: the radius stayed the same
 };
 
 /// A whole inversion: external iterations until done or stopped, then the information density, the

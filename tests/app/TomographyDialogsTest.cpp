@@ -205,6 +205,29 @@ TEST(RunTomographyDialog, returnsWhatIsChosen) {
   EXPECT_TRUE(p.symmetric && p.singleThread);
 }
 
+TEST(RunTomographyDialog, goesFromCoarseToFineOnDemandOnly) {
+  const runTomography_Dialog dialog(250.0, 3500.0);
+  EXPECT_FALSE(dialog.parameters().coarseToFine);
+  child<QCheckBox>(dialog, "coarseToFineCBox").setChecked(true);
+  EXPECT_TRUE(dialog.parameters().coarseToFine);
+}
+
+TEST(RunTomographyDialog, proposesWhenItsButtonIsPressed) {
+  runTomography_Dialog dialog(250.0, 3500.0);
+  EXPECT_FALSE(child<QPushButton>(dialog, "proposeButton").isEnabled());
+  dialog.setProposal(RunProposal{180.0, 4200.0, 11.5, 4}, 24.0);
+  EXPECT_EQ(dialog.parameters().minVelocity, 250.0);
+  EXPECT_EQ(dialog.parameters().smoothing, 5);
+  child<QPushButton>(dialog, "proposeButton").click();
+  const TomographyParameters p = dialog.parameters();
+  EXPECT_EQ(p.minVelocity, 180.0);
+  EXPECT_EQ(p.maxVelocity, 4200.0);
+  EXPECT_EQ(p.smoothing, 4);
+  const auto metres = [](double value) { return QLocale().toString(value, 'f', 1).toStdString(); };
+  EXPECT_EQ(text(dialog, "proposalLabel"), "Rays are expected down to " + metres(11.5) +
+                                               " m; the grid reaches " + metres(24.0) + " m.");
+}
+
 TEST(RunTomographyDialog, leavesAMinimumAboveTheMaximumAndTells) {
   const runTomography_Dialog dialog(250.0, 3500.0);
   EXPECT_EQ(text(dialog, "hintLabel"), "");

@@ -135,6 +135,51 @@ TEST(Inversion, refusesOptionsThatItsMethodHasNoUseFor) {
   }
 }
 
+TEST(Inversion, goesFromCoarseToFineWhenAsked) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const Outcome plain = runBatch(quickRun(input, {"--json", "-"}));
+  const Outcome outcome =
+      runBatch(quickRun(input, {"--json", "-", "--coarse-to-fine", "--smoothing", "4"}));
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  const ordered_json& all = json["coarse_to_fine"];
+  EXPECT_EQ(all["radii"], ordered_json::parse("[4, 2]"));
+  ASSERT_EQ(all["section_rmse_ms"].size(), 3U);
+  const std::size_t kept = all["kept_iteration"];
+  EXPECT_EQ(json["section_rmse_ms"], all["section_rmse_ms"][kept]);
+  EXPECT_LE(all["section_rmse_ms"][kept], all["section_rmse_ms"][3 - kept]);
+  EXPECT_EQ(json["misfit_history"].size(), kept);
+  EXPECT_THAT(outcome.err, HasSubstr("From coarse to fine: iteration " + std::to_string(kept) +
+                                     " of 2 is kept"));
+  EXPECT_FALSE(ordered_json::parse(plain.out).contains("coarse_to_fine"));
+  EXPECT_EQ(runBatch(quickRun(input, {"--coarse-to-fine", "--method", "fitted"})).code, 2);
+}
+
+TEST(Inversion, testsWhatItResolves) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const Outcome outcome =
+      runBatch(quickRun(input, {"--json", "-", "--resolution", "checkerboard:2,5:20"}));
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  const ordered_json& resolution = json["resolution"];
+  ASSERT_EQ(resolution["tests"].size(), 2U);
+  EXPECT_EQ(resolution["tests"][1]["size"], 5.0);
+  EXPECT_EQ(resolution["tests"][1]["by_depth"].size(), 13U);
+  EXPECT_EQ(resolution["tests"][1]["recovered"].size(), json["velocities"].size());
+  EXPECT_EQ(resolution["tests"][1]["true"][0], 1.2);
+  EXPECT_EQ(resolution["smallest_size"].size(), 13U);
+  EXPECT_THAT(outcome.err, HasSubstr("Resolution, checkerboard of 20 %"));
+  for (const char* wrong :
+       {"checkerboard", "rings:2:10", "spike:0:10", "layer:2:100", "spike:2:"}) {
+    EXPECT_EQ(runBatch({"invert", input, "--resolution", wrong}).code, 2) << wrong;
+  }
+  const Outcome tooSmall = runBatch(quickRun(input, {"--resolution", "checkerboard:0.5:10"}));
+  EXPECT_EQ(tooSmall.code, 1);
+  EXPECT_THAT(tooSmall.err, HasSubstr("less than a cell of the grid"));
+}
+
 TEST(Inversion, resultsDoNotDependOnThreadsOrRuns) {
   const Folder folder;
   const std::string input = folder.write("line.otte", smallLine());

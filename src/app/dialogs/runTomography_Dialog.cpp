@@ -5,6 +5,8 @@
 #include "app/dialogs/ParameterField.h"
 #include "ui_runTomography_Dialog.h"
 
+#include <QLocale>
+#include <QPushButton>
 #include <algorithm>
 #include <cmath>
 
@@ -55,6 +57,7 @@ TomographyParameters runTomography_Dialog::parameters() const {
   parameters.smoothing = mUi->smooth_Edit->value();
   parameters.smoothingType = smoothingTypeOf(mUi->typeOfSmoothingCBox->currentIndex());
   parameters.symmetric = mUi->symmetricSmoothCBox->isChecked();
+  parameters.coarseToFine = mUi->coarseToFineCBox->isChecked();
   parameters.singleThread = mUi->checkBox->isChecked();
   parameters.minVelocity = mUi->minVelEdit->value();
   parameters.maxVelocity = mUi->maxVelEdit->value();
@@ -83,6 +86,21 @@ void runTomography_Dialog::setStartingModel(StartingModel model) {
       break;
   }
   mUi->startLabel->setText(text);
+}
+
+void runTomography_Dialog::setProposal(const std::optional<RunProposal>& proposal,
+                                       double gridDepth) {
+  mUi->proposeButton->setEnabled(proposal.has_value());
+  if (!proposal) return;
+  const RunProposal values = *proposal;
+  connect(mUi->proposeButton, &QPushButton::clicked, this, [this, values, gridDepth] {
+    mUi->minVelEdit->setValue(wholeNumber(values.minVelocity));
+    mUi->maxVelEdit->setValue(wholeNumber(values.maxVelocity));
+    mUi->smooth_Edit->setValue(values.smoothing);
+    mUi->proposalLabel->setText(
+        tr("Rays are expected down to %1 m; the grid reaches %2 m.")
+            .arg(QLocale().toString(values.depth, 'f', 1), QLocale().toString(gridDepth, 'f', 1)));
+  });
 }
 
 void runTomography_Dialog::checkMinWRTMax(int value) {

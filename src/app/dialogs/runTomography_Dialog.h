@@ -2,6 +2,7 @@
 
 #include "tomo/StartingModel.h"
 #include "tomo/TomographyRun.h"
+#include "tomo/fitted/RunProposal.h"
 
 #include <QDialog>
 #include <memory>
@@ -25,6 +26,10 @@ class runTomography_Dialog : public QDialog {
 
   /// Shows what the inversion begins with.
   void setStartingModel(StartingModel model);
+
+  /// What the button "Propose" sets; without a proposal it is out of reach.
+  /// \param gridDepth metres, to be compared with the depth that rays will reach
+  void setProposal(const std::optional<RunProposal>& proposal, double gridDepth);
 
  public slots:
   /// Each compares the new value with the box that has just got it, so neither ever moves the other

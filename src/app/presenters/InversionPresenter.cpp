@@ -43,6 +43,8 @@ void InversionPresenter::run() {
     if (!mModels.makeGrid()) return;
   }
   dialog.setStartingModel(startingModelOf(mDesk.document()));
+  const Grid& grid = *mDesk.document().model->grid;
+  dialog.setProposal(proposeRun(mDesk.document()), grid.righe() * grid.aLato());
   if (dialog.exec() != QDialog::Accepted) return;
   TomographyParameters parameters = dialog.parameters();
   parameters.asked = asked;

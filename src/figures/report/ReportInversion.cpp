@@ -142,11 +142,22 @@ void addFit(ReportBuilder& builder, const InversionRecord& run) {
   builder.table(ReportWords::tr("Parameters of the inversion"), facts);
 }
 
+QString radiusText(const InversionRecord& run) {
+  const QString radius = run.smoothing == 1 ? ReportWords::tr("1 cell")
+                                            : ReportWords::tr("%1 cells").arg(run.smoothing);
+  if (run.coarseToFine == 0) return radius;
+  return ReportWords::tr("%1, shrinking to a fifth").arg(radius);
+}
+
 void addParameters(ReportBuilder& builder, const InversionRecord& run) {
   if (run.fit) return addFit(builder, run);
   ReportTable facts = ReportTable::ofFacts();
   const int done = static_cast<int>(run.history.size());
-  QString iterations = ReportWords::tr("%1 of %2").arg(done).arg(run.externalIterations);
+  QString iterations = run.coarseToFine > 0
+                           ? ReportWords::tr("%1, the best of %2 from coarse to fine")
+                                 .arg(done)
+                                 .arg(run.coarseToFine)
+                           : ReportWords::tr("%1 of %2").arg(done).arg(run.externalIterations);
   if (run.stopped) iterations = ReportWords::tr("%1, stopped by the user").arg(iterations);
   const double ratio = verticalRatio(run.symmetric);
   facts.rows = {{ReportWords::tr("External iterations"), iterations},
@@ -155,9 +166,7 @@ void addParameters(ReportBuilder& builder, const InversionRecord& run) {
                 {ReportWords::tr("Velocity limits"),
                  ReportWords::tr("%1 m/s").arg(span(run.minVelocity, run.maxVelocity, 0))},
                 {ReportWords::tr("Smoothing"), smoothingName(run.smoothingType)},
-                {ReportWords::tr("Smoothing radius"),
-                 run.smoothing == 1 ? ReportWords::tr("1 cell")
-                                    : ReportWords::tr("%1 cells").arg(run.smoothing)},
+                {ReportWords::tr("Smoothing radius"), radiusText(run)},
                 {ReportWords::tr("Height over width of the smoothing window"), number(ratio, 1)},
                 timeRow(run)};
   builder.table(ReportWords::tr("Parameters of the inversion"), facts);

@@ -147,6 +147,7 @@ void describe(V& fields, ResultMember& result) {
   fields("picks", result.run.picks);
   fields("section_history", result.run.sectionHistory);
   fields.optional("fit", result.fits);
+  fields.optional("coarse_to_fine", result.run.coarseToFine);
 }
 
 template <class V>

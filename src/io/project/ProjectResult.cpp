@@ -91,7 +91,10 @@ bool canHaveBeen(const InversionRecord& run) {
          run.smoothingType >= 0 && positive(run.minVelocity) && positive(run.maxVelocity) &&
          finite({run.elapsedSeconds, run.computingSeconds}) &&
          run.history.size() <= static_cast<std::size_t>(run.externalIterations) &&
-         std::all_of(run.history.begin(), run.history.end(), isMisfit) &&
+         std::all_of(run.history.begin(), run.history.end(), isMisfit) && run.coarseToFine >= 0 &&
+         run.coarseToFine <= run.externalIterations &&
+         (run.coarseToFine == 0 ||
+          run.history.size() <= static_cast<std::size_t>(run.coarseToFine)) &&
          (run.sectionHistory.empty() || run.sectionHistory.size() == run.history.size() + 1) &&
          std::all_of(run.sectionHistory.begin(), run.sectionHistory.end(), isSectionMisfit);
 }
