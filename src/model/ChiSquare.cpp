@@ -11,6 +11,7 @@ namespace {
 
 constexpr double kSuspectErrors = 5.0;
 constexpr double kSuspectDeviations = 3.5;  // Iglewicz and Hoaglin, How to detect outliers, 1993
+constexpr double kLeastError = 1e-5;        // seconds; no instrument samples as finely
 constexpr double kNormalMedian = 0.6745;    // of the sizes of normal deviates
 
 double medianSize(const std::vector<double>& scaled) {
@@ -27,7 +28,8 @@ double medianSize(const std::vector<double>& scaled) {
 
 double sigmaOf(const TravelTime& record, std::size_t receiver, const PickErrorRule& rule) {
   const double own = record.errorOf(receiver);
-  return own > 0.0 ? own : std::max(rule.floor, rule.share * record.ttMisurati[receiver]);
+  if (own > 0.0) return std::max(own, kLeastError);
+  return std::max(rule.floor, rule.share * record.ttMisurati[receiver]);
 }
 
 ChiSquare chiSquareOf(const std::vector<double>& scaled) {

@@ -109,7 +109,41 @@ void addLayers(ReportBuilder& builder) {
                 table);
 }
 
+QStringList timeRow(const InversionRecord& run) {
+  return run.computingSeconds > 0.0
+             ? QStringList{ReportWords::tr("Computing time"),
+                           ReportWords::tr("%1 s").arg(number(run.computingSeconds, 1))}
+             : QStringList{ReportWords::tr("Elapsed time"),
+                           ReportWords::tr("%1 s").arg(number(run.elapsedSeconds, 1))};
+}
+
+/// Of a section that was fitted to the errors of its picks.
+void addFit(ReportBuilder& builder, const InversionRecord& run) {
+  const FitRecord& fit = *run.fit;
+  const auto yesNo = [](bool yes) { return yes ? ReportWords::tr("yes") : ReportWords::tr("no"); };
+  QString iterations = QString::number(run.history.size());
+  if (run.stopped) iterations = ReportWords::tr("%1, stopped by the user").arg(iterations);
+  ReportTable facts = ReportTable::ofFacts();
+  facts.rows = {
+      {ReportWords::tr("Method"), ReportWords::tr("Fit to the picks' errors")},
+      {ReportWords::tr("Errors of picks that state none"),
+       ReportWords::tr("%1 ms, or %2 % of the time where that is more")
+           .arg(number(1e3 * fit.errorFloor, 2), number(1e2 * fit.errorShare, 1))},
+      {ReportWords::tr("Chi-square"),
+       ReportWords::tr("%1; of all picks %2").arg(number(fit.chi2, 2), number(fit.chi2All, 2))},
+      {ReportWords::tr("Target reached"), yesNo(fit.target)},
+      {ReportWords::tr("Suspect picks, left out of chi-square"), QString::number(fit.suspects)},
+      {ReportWords::tr("Iterations to this section"), iterations},
+      {ReportWords::tr("Velocity limits"),
+       ReportWords::tr("%1 m/s").arg(span(run.minVelocity, run.maxVelocity, 0))},
+      {ReportWords::tr("Few sharp steps rather than gentle slopes"), yesNo(fit.blocky)},
+      {ReportWords::tr("Time shifts of shots fitted, too"), yesNo(fit.statics)},
+      timeRow(run)};
+  builder.table(ReportWords::tr("Parameters of the inversion"), facts);
+}
+
 void addParameters(ReportBuilder& builder, const InversionRecord& run) {
+  if (run.fit) return addFit(builder, run);
   ReportTable facts = ReportTable::ofFacts();
   const int done = static_cast<int>(run.history.size());
   QString iterations = ReportWords::tr("%1 of %2").arg(done).arg(run.externalIterations);
@@ -125,11 +159,7 @@ void addParameters(ReportBuilder& builder, const InversionRecord& run) {
                  run.smoothing == 1 ? ReportWords::tr("1 cell")
                                     : ReportWords::tr("%1 cells").arg(run.smoothing)},
                 {ReportWords::tr("Height over width of the smoothing window"), number(ratio, 1)},
-                run.computingSeconds > 0.0
-                    ? QStringList{ReportWords::tr("Computing time"),
-                                  ReportWords::tr("%1 s").arg(number(run.computingSeconds, 1))}
-                    : QStringList{ReportWords::tr("Elapsed time"),
-                                  ReportWords::tr("%1 s").arg(number(run.elapsedSeconds, 1))}};
+                timeRow(run)};
   builder.table(ReportWords::tr("Parameters of the inversion"), facts);
 }
 

@@ -124,6 +124,20 @@ void describe(V& fields, SectionMisfit& misfit) {
 }
 
 template <class V>
+void describe(V& fields, FitRecord& fit) {
+  fields("error_floor", fit.errorFloor);
+  fields("error_share", fit.errorShare);
+  fields("robust", fit.robust);
+  fields("blocky", fit.blocky);
+  fields("statics", fit.statics);
+  fields("lambda", fit.lambda);
+  fields("chi2", fit.chi2);
+  fields("chi2_all", fit.chi2All);
+  fields("suspects", fit.suspects);
+  fields("target", fit.target);
+}
+
+template <class V>
 void describe(V& fields, ResultMember& result) {
   fields("hit_counts", result.outcome.hitCounts);
   fields("coorcount", result.outcome.coorcount);
@@ -132,6 +146,7 @@ void describe(V& fields, ResultMember& result) {
   fields("computing_seconds", result.run.computingSeconds);
   fields("picks", result.run.picks);
   fields("section_history", result.run.sectionHistory);
+  fields.optional("fit", result.fits);
 }
 
 template <class V>

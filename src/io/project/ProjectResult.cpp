@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <optional>
 #include <utility>
 
 namespace talvesk {
@@ -27,6 +28,11 @@ bool isSectionMisfit(const SectionMisfit& m) {
   return m.count >= 0 && finite({m.rmse, m.relativeRms, m.bias, m.maxAbs});
 }
 
+bool isFit(const FitRecord& fit) {
+  return positive(fit.errorFloor) && fit.suspects >= 0 &&
+         finite({fit.errorShare, fit.lambda, fit.chi2, fit.chi2All});
+}
+
 bool coversGrid(const TomographyOutcome& outcome, const TomoDocument& document) {
   if (document.model->grid == nullptr) return false;
   const std::size_t cells = document.model->grid->cellCount();
@@ -38,6 +44,7 @@ bool fits(const ResultMember& result, const TomoDocument& document) {
   if (!coversGrid(outcome, document)) return false;
   const auto length = [](double metres) { return std::isfinite(metres) && metres >= 0.0; };
   if (!std::all_of(outcome.coorcount.begin(), outcome.coorcount.end(), length)) return false;
+  if (!std::all_of(result.fits.begin(), result.fits.end(), isFit)) return false;
   if (outcome.lastInversion) return canHaveBeen(result.run);
   return std::isfinite(result.run.computingSeconds) && result.run.sectionHistory.empty();
 }
@@ -59,7 +66,10 @@ bool knowsResult(const TomoDocument& document) {
 }
 
 ResultMember resultOf(const TomoDocument& document) {
-  return {*document.result, document.result->lastInversion.value_or(InversionRecord())};
+  ResultMember result{
+      *document.result, document.result->lastInversion.value_or(InversionRecord()), {}};
+  if (result.run.fit) result.fits.push_back(*result.run.fit);
+  return result;
 }
 
 Status installResult(ResultMember result, TomoDocument& document) {
@@ -69,6 +79,7 @@ Status installResult(ResultMember result, TomoDocument& document) {
   }
   if (result.outcome.lastInversion) {
     result.outcome.sectionHistory = result.run.sectionHistory;
+    result.run.fit = result.fits.empty() ? std::nullopt : std::make_optional(result.fits.front());
     result.outcome.lastInversion = std::move(result.run);
   }
   document.result = std::move(result.outcome);

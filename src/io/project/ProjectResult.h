@@ -3,6 +3,8 @@
 #include "base/Status.h"
 #include "model/TomographyOutcome.h"
 
+#include <vector>
+
 namespace talvesk {
 
 class TomoDocument;
@@ -11,7 +13,8 @@ class TomoDocument;
 /// project would be the same when it is opened again. Of both only what no other member has counts.
 struct ResultMember {
   TomographyOutcome outcome;
-  InversionRecord run;  ///< that of the outcome; as new when nothing is known of it
+  InversionRecord run;          ///< that of the outcome; as new when nothing is known of it
+  std::vector<FitRecord> fits;  ///< how a section was fitted to errors: one, or none for others
 };
 
 bool hasResult(const TomoDocument& document);
