@@ -9,7 +9,7 @@
 #include "model/Recordings.h"
 #include "processing/ShotFilters.h"
 #include "tomo/TomographyRun.h"
-#include "tomo/fitted/FittedRun.h"
+#include "tomo/fitted/References.h"
 #include "view/ColorPalette.h"
 
 #include <optional>
@@ -110,12 +110,13 @@ struct InvertOptions {
   std::vector<VelocityLayer> layers;       ///< none: the grid's default model
   bool ownGrid = false;                    ///< one of the above was given
   InversionMethod method = InversionMethod::kSmoothed;
-  FittedSettings fitted;              ///< but what follows, which both methods have
-  TomographyParameters parameters;    ///< but the velocities: those are the next two
-  std::optional<double> minVelocity;  ///< m/s; none: that of the survey or of the fit
-  std::optional<double> maxVelocity;  ///< m/s; none: that of the survey or of the fit
-  std::optional<int> iterations;      ///< none: as many as the method has of its own
-  std::string project;                ///< to save the survey in
+  FittedSettings fitted;                   ///< but what follows, which both methods have
+  std::string reference = kBestReference;  ///< of a fit: a key of References.h
+  TomographyParameters parameters;         ///< but the velocities: those are the next two
+  std::optional<double> minVelocity;       ///< m/s; none: that of the survey or of the fit
+  std::optional<double> maxVelocity;       ///< m/s; none: that of the survey or of the fit
+  std::optional<int> iterations;           ///< none: as many as the method has of its own
+  std::string project;                     ///< to save the survey in
   std::string gridded;
   double lineY = 0.0;               ///< metres
   double zOffset = 0.0;             ///< metres

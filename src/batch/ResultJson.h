@@ -9,10 +9,10 @@
 namespace talvesk {
 
 class TomoDocument;
-struct FittedRunResult;
 struct LoadedProject;
 struct PickErrorRule;
 struct ReadShotFile;
+struct ReferencedRun;
 struct TomographyResult;
 struct TravelTimeData;
 
@@ -25,7 +25,7 @@ struct TravelTimeData;
 /// null when no pick was used. Chi-square is of the section; that of a fitted one counts its
 /// statics. \param errors of picks that state none \param fit of a fitted section, else null
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
-                          const PickErrorRule& errors, const FittedRunResult* fit);
+                          const PickErrorRule& errors, const ReferencedRun* fit);
 
 /// Positions in metres, times in seconds.
 std::string travelTimesJson(const TravelTimeData& data);

@@ -1,5 +1,6 @@
 #include "figures/MisfitFigures.h"
 #include "figures/report/ReportBuilder.h"
+#include "model/ChiSquare.h"
 #include "model/LeftOut.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
@@ -19,6 +20,14 @@ QString millisecondsAndPercent(double seconds, double fraction) {
   return ReportWords::tr("%1 ms, %2 %").arg(number(1e3 * seconds, 3), number(1e2 * fraction, 2));
 }
 
+/// With how many picks it leaves out.
+QString chiSquareText(const ChiSquare& fit) {
+  const QString text = ReportWords::tr("%1; of all picks %2; suspect picks %3")
+                           .arg(number(fit.chi2, 2), number(fit.all, 2))
+                           .arg(fit.suspects.size());
+  return fit.shifted ? ReportWords::tr("%1; with the time shifts of shots").arg(text) : text;
+}
+
 void addSectionMisfit(ReportBuilder& builder, const SectionMisfit& misfit) {
   const TomoDocument& document = builder.source.document;
   ReportTable facts = ReportTable::ofFacts();
@@ -26,6 +35,7 @@ void addSectionMisfit(ReportBuilder& builder, const SectionMisfit& misfit) {
     facts.rows = {
         {ReportWords::tr("Picks used"), QString::number(misfit.count)},
         {ReportWords::tr("RMS misfit"), millisecondsAndPercent(misfit.rmse, misfit.relativeRms)},
+        {ReportWords::tr("Chi-square"), chiSquareText(sectionChiSquareOf(document))},
         {ReportWords::tr("Mean of computed minus measured"),
          ReportWords::tr("%1 ms").arg(number(1e3 * misfit.bias, 3))},
         {ReportWords::tr("Largest difference"), ReportWords::tr("%1 ms, shot %2, receiver %3")
