@@ -18,6 +18,7 @@ Presenters::Presenters(Desk& desk)
       survey(desk),
       geometry(desk),
       models(desk, geometry),
+      secondLook(desk),
       inversion(desk, models),
       processing(desk),
       refraction(desk),

@@ -15,6 +15,7 @@
 #include "app/presenters/RecoveryPresenter.h"
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
+#include "app/presenters/SecondLookPresenter.h"
 #include "app/presenters/SectionPresenter.h"
 #include "app/presenters/SettingsPresenter.h"
 #include "app/presenters/ShotFilesPresenter.h"
@@ -48,6 +49,7 @@ struct Presenters {
   SurveyPresenter survey;
   GeometryPresenter geometry;
   ModelPresenter models;
+  SecondLookPresenter secondLook;
   InversionPresenter inversion;
   ProcessingPresenter processing;
   RefractionPresenter refraction;
