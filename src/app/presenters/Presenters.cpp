@@ -19,7 +19,7 @@ Presenters::Presenters(Desk& desk)
       geometry(desk),
       models(desk, geometry),
       secondLook(desk),
-      inversion(desk, models),
+      inversion(desk, models, secondLook),
       processing(desk),
       refraction(desk),
       exports(desk),
