@@ -46,7 +46,8 @@ TEST(Inversion, standardOutputIsPureJsonWithItsKeysInOrder) {
             "picks_used excluded misfit_history velocities hit_counts coverage_m info_density "
             "to_be_draw computed_times section_rmse_ms section_rms_percent section_bias_ms "
             "section_max_abs_ms section_max_abs_shot section_max_abs_receiver section_history "
-            "section_times computing_s righe col nV aLato x_offset iteration rmse_ms rms_percent ");
+            "section_times computing_s method chi2 chi2_all suspect_count righe col nV aLato "
+            "x_offset iteration rmse_ms rms_percent ");
   // 26 m of array, half of it deep, in cells of 1 m.
   EXPECT_EQ(json["grid"],
             ordered_json::parse(R"({"righe":13,"col":26,"nV":6,"aLato":1.0,"x_offset":1.0})"));
