@@ -69,7 +69,8 @@ void lookAtPicks(const TomoDocument& document, SecondLook& look) {
                    });
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const double late = outstandingShift(document, i);
-    if (late != 0.0) look.shifts.push_back({i, late, hasRecording(document, i)});
+    if (late != 0.0)
+      look.shifts.push_back({i, late, hasRecording(document, i), std::fabs(late) > rule.floor});
   }
 }
 

@@ -21,6 +21,7 @@ struct ShotShift {
   std::size_t record = 0;
   double late = 0.0;       ///< seconds that the record begins too late by
   bool recording = false;  ///< there are traces that can be shifted
+  bool clear = false;      ///< it is more than the least error of a pick
 };
 
 /// Cells that have something in common: how many, and the box around them.

@@ -237,8 +237,11 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.fit = sectionChiSquareOf(document);
   scene.picksChanged = picksChangedSince(document);
   scene.smoothed = document.result->has_tomographic_info && document.result->smoothedResult;
-  if (document.result->has_tomographic_info)
+  const auto& run = document.result->lastInversion;
+  const bool fitted = run && run->fit;  // without solver passes
+  if (document.result->has_tomographic_info && !fitted) {
     scene.lastPassPercent = document.result->RMSE_tomography;
+  }
   out = std::move(scene);
   return {};
 }

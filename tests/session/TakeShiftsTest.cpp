@@ -14,9 +14,9 @@ using testing::isSame;
 TEST(TakeShifts, addsToWhatIsMendedInOneStepAndLeavesOutShotsWithoutARecording) {
   Session session;
   session.open(fullSurvey(), true);
-  ASSERT_EQ(takeShifts({{1, 0.001, true}}, session).done, 1);
+  ASSERT_EQ(takeShifts({{1, 0.001, true, true}}, session).done, 1);
   const Survey before = session.survey();
-  const TakenShifts taken = takeShifts({{0, 0.002, false}, {1, 0.002, true}}, session);
+  const TakenShifts taken = takeShifts({{0, 0.002, false, true}, {1, 0.002, true, true}}, session);
   EXPECT_EQ(taken.done, 1);
   EXPECT_TRUE(taken.failures.empty());
   EXPECT_DOUBLE_EQ(mendsOfRecord(session.document(), 1).timeShift, 0.003);
@@ -30,8 +30,8 @@ TEST(TakeShifts, isNoStepWhereNothingCanBeShifted) {
   Session session;
   session.open(fullSurvey(), true);
   const std::size_t steps = session.steps();
-  EXPECT_EQ(takeShifts({{0, 0.002, false}}, session).done, 0);
-  const TakenShifts taken = takeShifts({{0, 100.0, true}}, session);
+  EXPECT_EQ(takeShifts({{0, 0.002, false, true}}, session).done, 0);
+  const TakenShifts taken = takeShifts({{0, 100.0, true, true}}, session);
   EXPECT_EQ(taken.done, 0);
   EXPECT_EQ(taken.failures.size(), 1U);
   EXPECT_EQ(session.steps(), steps);

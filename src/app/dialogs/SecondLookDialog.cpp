@@ -93,7 +93,7 @@ void SecondLookDialog::fillShifts() {
     const ShotShift& shift = mLook.shifts[static_cast<std::size_t>(row)];
     put(table, row, kShiftShot, QString::number(shift.record + 1));
     QTableWidgetItem* box = table.item(row, kShiftShot);
-    box->setCheckState(shift.recording ? Qt::Checked : Qt::Unchecked);
+    box->setCheckState(shift.recording && shift.clear ? Qt::Checked : Qt::Unchecked);
     if (!shift.recording)
       box->setFlags(box->flags() & ~Qt::ItemIsUserCheckable & ~Qt::ItemIsEnabled);
     put(table, row, kLate, number(kMilliseconds * shift.late, 2));

@@ -15,7 +15,7 @@ namespace {
 constexpr int kHintLines = 2;  // that the place for the hint holds without moving the buttons
 
 constexpr int kFitWidth = 1000;  // a table and a plot beside the fields
-constexpr int kFitHeight = 590;
+constexpr int kFitHeight = 640;
 
 int wholeNumber(double velocity) {
   constexpr double kMost = parameters::kMaxVelocity.limits.most;
