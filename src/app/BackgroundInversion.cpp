@@ -8,45 +8,65 @@
 
 namespace talvesk {
 
-BackgroundInversion::BackgroundInversion(const TomoDocument& document,
-                                         const TomographyParameters& parameters, Log& log)
-    : mCopy(document), mParameters(parameters), mLog(log) {}
-
-TomographyResult BackgroundInversion::run(const IterationDone& iterationDone) {
+TomographyResult BackgroundInversion::run(const TomographyParameters& parameters,
+                                          const IterationDone& iterationDone) {
   TomographyResult result;
-  const std::unique_ptr<QThread> thread(
-      QThread::create([this, &result, &iterationDone] { result = work(iterationDone); }));
+  runBeside([&] {
+    try {
+      result = runInversion(
+          mCopy, parameters, mLog,
+          [&](const TomographyProgress& progress) {
+            handOver([this, progress, &iterationDone] { iterationDone(progress, mCopy); });
+          },
+          [this] { return mStop.load(); });
+    } catch (const std::exception& error) {
+      result = {};
+      result.status = Status::failure(Message::tr("The inversion failed: %1").arg(error.what()));
+    }
+  });
+  return result;
+}
+
+ReferencedRun BackgroundInversion::fit(const FittedSettings& settings,
+                                       const FitIterationDone& iterationDone) {
+  ReferencedRun result;
+  runBeside([&] {
+    result = fitFromReference(
+        mCopy, settings, mLog,
+        [&](const FittedRunProgress& progress) {
+          handOver([progress, &iterationDone] { iterationDone(progress); });
+        },
+        [this] { return mStop.load(); });
+  });
+  return result;
+}
+
+void BackgroundInversion::runBeside(const std::function<void()>& work) {
+  const std::unique_ptr<QThread> thread(QThread::create(work));
   QEventLoop loop;
   connect(thread.get(), &QThread::finished, &loop, &QEventLoop::quit);
   thread->start();
   loop.exec();
   // The loop also ends when the program quits. Nobody looks at iterations any more then.
   requestStop();
-  mSeen.release(mParameters.externalIterations);
+  mLeft = true;
+  mSeen.release();
   thread->wait();
-  // An iteration that waits to be looked at refers to `iterationDone`, which ends here.
+  // An iteration that waits to be looked at refers to what its caller has told, which ends here.
   QCoreApplication::removePostedEvents(this);
-  return result;
 }
 
-TomographyResult BackgroundInversion::work(const IterationDone& iterationDone) {
-  const auto handOver = [&](const TomographyProgress& progress) {
-    QMetaObject::invokeMethod(
-        this,
-        [this, progress, &iterationDone] {
-          iterationDone(progress, mCopy);
-          mSeen.release();
-        },
-        Qt::QueuedConnection);
-    mSeen.acquire();
-  };
-  try {
-    return runInversion(mCopy, mParameters, mLog, handOver, [this] { return mStop.load(); });
-  } catch (const std::exception& error) {
-    TomographyResult failed;
-    failed.status = Status::failure(Message::tr("The inversion failed: %1").arg(error.what()));
-    return failed;
-  }
+/// \param look for the thread that has begun the inversion
+void BackgroundInversion::handOver(const std::function<void()>& look) {
+  if (mLeft) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this, look] {
+        look();
+        mSeen.release();
+      },
+      Qt::QueuedConnection);
+  mSeen.acquire();
 }
 
 }  // namespace talvesk

@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "model/TomoDocument.h"
 #include "tomo/TomographyRun.h"
+#include "tomo/fitted/References.h"
 
 #include <QObject>
 #include <QSemaphore>
@@ -13,35 +14,39 @@ namespace talvesk {
 
 /// An inversion beside a window that goes on answering: a thread of its own works on a copy of the
 /// survey, so that nothing on the screen changes under the eyes of who draws it. Between two
-/// external iterations it waits until the window has looked at the copy.
+/// iterations it waits until the window has looked at them. An object runs one inversion.
 class BackgroundInversion : public QObject {
  public:
   /// Told on the thread of run(), while the inversion waits; `copy` holds the iteration's results.
   using IterationDone =
       std::function<void(const TomographyProgress& progress, const TomoDocument& copy)>;
+  /// The same of a fit, whose copy holds no results before it has ended.
+  using FitIterationDone = std::function<void(const FittedRunProgress& progress)>;
 
   /// \param document holds a grid; it is copied \param log is written to from the other thread
-  BackgroundInversion(const TomoDocument& document, const TomographyParameters& parameters,
-                      Log& log);
+  BackgroundInversion(const TomoDocument& document, Log& log) : mCopy(document), mLog(log) {}
 
-  /// Runs the inversion, and the events of the calling thread meanwhile. If the program ends before
+  /// Runs an inversion, and the events of the calling thread meanwhile. If the program ends before
   /// the inversion does, the iteration under way is waited for.
-  TomographyResult run(const IterationDone& iterationDone);
+  TomographyResult run(const TomographyParameters& parameters, const IterationDone& iterationDone);
+  ReferencedRun fit(const FittedSettings& settings, const FitIterationDone& iterationDone);
 
-  /// Ends the inversion when the external iteration under way is through. From any thread.
+  /// Ends the inversion when the external iteration under way is through, a fit at once. From any
+  /// thread.
   void requestStop() { mStop = true; }
 
-  /// The survey with the results; not to be read while run() runs, but from IterationDone.
+  /// The survey with the results; not to be read while an inversion runs, but from IterationDone.
   const TomoDocument& copy() const { return mCopy; }
 
  private:
-  TomographyResult work(const IterationDone& iterationDone);
+  void runBeside(const std::function<void()>& work);
+  void handOver(const std::function<void()>& look);
 
   TomoDocument mCopy;
-  TomographyParameters mParameters;
   Log& mLog;
   QSemaphore mSeen;  ///< one for every iteration that the window has looked at
   std::atomic<bool> mStop{false};
+  std::atomic<bool> mLeft{false};  ///< nobody looks at iterations any more
 };
 
 }  // namespace talvesk

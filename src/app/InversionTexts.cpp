@@ -1,7 +1,14 @@
 #include "app/InversionTexts.h"
 
+#include "app/MessageText.h"
+#include "model/Residuals.h"
+#include "model/TomoDocument.h"
+#include "tomo/fitted/References.h"
+
 #include <QCoreApplication>
 #include <QLocale>
+#include <QStringList>
+#include <cmath>
 
 namespace talvesk {
 namespace {
@@ -16,10 +23,18 @@ QString general(double value, int digits = 6) {
   return locale.toString(value, 'g', digits);
 }
 
-QString ofSection(const SectionMisfit& misfit) {
+/// Hundredths, but none of a number that has none.
+QString rounded(double value) {
+  return general(std::round(100.0 * value) / 100.0);
+}
+
+QString ofSection(const SectionMisfit& misfit, const ChiSquare& fit) {
   return Words::tr("Section, along fresh rays\n") +
          Words::tr("RMS: [ms] %1; [%] %2\n")
              .arg(general(misfit.rmse * 1000.0), general(misfit.relativeRms * 100.0)) +
+         Words::tr("Chi-square: %1; of all picks %2; suspect picks %3\n")
+             .arg(general(fit.chi2, 3), general(fit.all, 3))
+             .arg(fit.suspects.size()) +
          Words::tr("Mean: [ms] %1\n").arg(general(misfit.bias * 1000.0)) +
          Words::tr("Largest difference: [ms] %1; shot %2, receiver %3\n")
              .arg(general(misfit.maxAbs * 1000.0))
@@ -30,16 +45,23 @@ QString ofSection(const SectionMisfit& misfit) {
 
 }  // namespace
 
-QString sectionMisfitText(const SectionMisfit& misfit) {
+QString sectionMisfitText(const TomoDocument& document) {
+  const SectionMisfit misfit = sectionMisfitOf(document);
   if (misfit.count == 0) return {};
-  return Words::tr("Misfit of the section: RMS %1 ms (%2 %).")
-      .arg(general(misfit.rmse * 1000.0, 3), general(misfit.relativeRms * 100.0, 3));
+  const ChiSquare fit = sectionChiSquareOf(document);
+  const QString text = fit.shifted
+                           ? Words::tr(
+                                 "Misfit of the section: RMS %1 ms (%2 %), chi-square %3 "
+                                 "with the time shifts of shots.")
+                           : Words::tr("Misfit of the section: RMS %1 ms (%2 %), chi-square %3.");
+  return text.arg(general(misfit.rmse * 1000.0, 3), general(misfit.relativeRms * 100.0, 3),
+                  general(fit.chi2, 3));
 }
 
-QString inversionResultsText(const TomographyResult& result) {
+QString inversionResultsText(const TomographyResult& result, const ChiSquare& fit) {
   const Misfit& misfit = result.misfit;
   QString text;
-  if (result.sectionMisfit.count > 0) text = ofSection(result.sectionMisfit);
+  if (result.sectionMisfit.count > 0) text = ofSection(result.sectionMisfit, fit);
   if (result.coarseToFine) {
     text += Words::tr("From coarse to fine: iteration %1 of %2 is kept, smoothing parameter %3\n")
                 .arg(result.coarseToFine->kept)
@@ -55,6 +77,32 @@ QString inversionResultsText(const TomographyResult& result) {
              .arg(general(misfit.rmse * 1000.0), general(misfit.relativeRms * 100.0)) +
          Words::tr("MaxError: [ms] %1; [%] %2\n")
              .arg(general(misfit.maxError * 1000.0), general(misfit.maxRelativeError * 100.0));
+}
+
+QString fitResultsText(const FittedRunResult& result) {
+  QString text = textOf(result.outcome) + QStringLiteral("\n\n");
+  text += ofSection(result.run.sectionMisfit, result.fit);
+  text += Words::tr("Iterations: %1\n").arg(result.run.iterationsDone) +
+          Words::tr("Weight of the roughness: %1\n").arg(general(result.lambda, 3)) +
+          Words::tr("Started from and held to: %1\n").arg(referenceText(result.reference)) +
+          Words::tr("Computing time: [s] %1\n").arg(general(result.run.computingSeconds, 3));
+  const QString shifts = shiftsText(result.statics);
+  return shifts.isEmpty() ? text : text + Words::tr("Time shifts of shots: [ms] %1\n").arg(shifts);
+}
+
+QString shiftsText(const std::vector<double>& shifts) {
+  QStringList texts;
+  for (std::size_t i = 0; i < shifts.size(); ++i) {
+    if (!std::isfinite(shifts[i])) continue;
+    texts += Words::tr("shot %1: %2").arg(i + 1).arg(rounded(1000.0 * shifts[i]));
+  }
+  return texts.join(QStringLiteral(", "));
+}
+
+QString referenceText(const std::string& key) {
+  if (key == kBestReference) return Words::tr("Best of the picks' models");
+  const std::optional<ReferenceKind> kind = referenceKindOf(key);
+  return kind ? textOf(nameOf(*kind)) : QString::fromStdString(key);
 }
 
 }  // namespace talvesk

@@ -17,6 +17,7 @@ constexpr std::size_t kMostSuspectsNamed = 12;
 
 FittedSettings settingsOf(const InvertOptions& options) {
   FittedSettings settings = options.fitted;
+  settings.reference = options.reference;
   settings.singleThread = options.parameters.singleThread;
   FittedOptions& fit = settings.fit;
   fit.minVelocity = options.minVelocity.value_or(fit.minVelocity);
@@ -29,6 +30,10 @@ std::string inMilliseconds(double seconds) {
   return formatDouble(std::round(seconds * 1e5) / 100.0);
 }
 
+std::string threeDigits(double value) {
+  return Message::number(value, 3).english();
+}
+
 /// "shot 3, receiver 7 late by 21.3 ms".
 std::string nameOf(const SuspectPick& pick) {
   return "shot " + std::to_string(pick.record + 1) + ", receiver " +
@@ -38,21 +43,21 @@ std::string nameOf(const SuspectPick& pick) {
 
 }  // namespace
 
-FittedRunResult fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,
-                           Log& log) {
+ReferencedRun fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,
+                         Log& log) {
   listenForInterrupt(!options.quiet);
   const FittedSettings settings = settingsOf(options);
   Progress progress(channels.progress, std::cerr, settings.fit.mostIterations);
-  FittedRunResult result;
+  ReferencedRun run;
   const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
-    result = runFittedInversion(
+    run = fitFromReference(
         next.document, settings, log, [&](const FittedRunProgress& state) { progress.show(state); },
         interruptRequested);
-    return result.run.status;
+    return run.fit.run.status;
   });
   progress.finish();
-  if (result.run.status.ok()) result.run.status = edited;
-  return result;
+  if (run.fit.run.status.ok()) run.fit.run.status = edited;
+  return run;
 }
 
 void warnAboutFit(const FittedRunResult& fit) {
@@ -70,9 +75,16 @@ void warnAboutFit(const FittedRunResult& fit) {
   warn(text);
 }
 
-void summarizeFit(const FittedRunResult& fit, std::ostream& out) {
-  out << fit.outcome << "\n"
-      << "Iterations: " << fit.run.iterationsDone
+void summarizeFit(const ReferencedRun& run, std::ostream& out) {
+  const FittedRunResult& fit = run.fit;
+  out << fit.outcome << "\n";
+  for (const ReferenceModel& model : run.references.models) {
+    const bool taken = keyOf(model.kind) == fit.reference;
+    out << (taken ? "Started from: " : "Not from: ") << model.name << ", " << model.description
+        << ", chi-square " << threeDigits(model.fit.chi2) << "\n";
+  }
+  for (const Message& refused : run.references.refused) out << "Not from: " << refused << "\n";
+  out << "Iterations: " << fit.run.iterationsDone
       << (fit.run.stopped ? ", stopped by the user" : "") << "\n"
       << "Chi-square: " << formatDouble(fit.fit.chi2) << "; of all picks "
       << formatDouble(fit.fit.all) << "; suspects " << fit.suspects.size() << "\n";

@@ -148,9 +148,11 @@ void summarizeGrid(const TomoDocument& document, std::ostream& out) {
       << formatDouble(grid.aLato()) << " m, " << grid.nV() << " nodes per side\n";
 }
 
-void summarizeFitted(const TomoDocument& document, const FittedRunResult& fit, std::ostream& out) {
+void summarizeFitted(const TomoDocument& document, const ReferencedRun& referenced,
+                     std::ostream& out) {
+  const FittedRunResult& fit = referenced.fit;
   summarizeGrid(document, out);
-  summarizeFit(fit, out);
+  summarizeFit(referenced, out);
   summarizeSection(fit.run.sectionMisfit, out);
   out << "Computing time: [s] " << formatDouble(fit.run.computingSeconds) << "\n"
       << "Picks used: " << fit.fit.count << " of "
@@ -191,7 +193,7 @@ void summarize(const TomographyParameters& parameters, const TomoDocument& docum
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
 int writeResults(const InvertOptions& options, const LoadedProject& project,
-                 const TomographyResult& result, const FittedRunResult* fit,
+                 const TomographyResult& result, const ReferencedRun* fit,
                  const ResolutionReport* resolution) {
   const TomoDocument& document = project.document;
   OutputAttempts attempt;
@@ -251,14 +253,14 @@ int run(const InvertOptions& options) {
   const bool fits = options.method == InversionMethod::kFitted;
   if (!options.quiet) warnAboutChoices(parameters, document, fits);
 
-  std::optional<FittedRunResult> fit;
+  std::optional<ReferencedRun> fit;
   if (fits) fit = fitSection(options, channels, project, log);
   const TomographyResult result =
-      fits ? fit->run : invert(options, parameters, channels, project, log);
+      fits ? fit->fit.run : invert(options, parameters, channels, project, log);
   // What the completed iterations found is not lost with the one that failed.
   const int runCode = result.status.ok() ? kDone : failed(result.status.message());
   if (result.iterationsDone == 0) return runCode;
-  if (fit) warnAboutFit(*fit);
+  if (fit) warnAboutFit(fit->fit);
   std::optional<ResolutionReport> resolution;
   if (options.resolution) resolution = resolve(options, document);
   const int exitCode = writeResults(options, project, result, fit ? &*fit : nullptr,

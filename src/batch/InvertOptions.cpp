@@ -155,6 +155,13 @@ void addResolutionOption(CLI::App& app, InvertOptions& options) {
   mustEndIn(image, {".png", ".svg", ".pdf"}, true)->needs(resolution)->group("Inversion");
 }
 
+std::string readReference(const std::string& text) {
+  if (text == kBestReference || referenceKindOf(text)) return text;
+  throw CLI::ValidationError("--reference", "'" + text +
+                                                "' is none of best, gradient, two-layers, "
+                                                "three-layers, overburden, default, start");
+}
+
 /// What only a fit to the errors of the picks has.
 /// \return the options that it alone has
 std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
@@ -172,8 +179,18 @@ std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
   CLI::Option* statics =
       app.add_flag("--statics", options.fitted.fit.statics,
                    "With --method fitted: find a time shift of every shot, too, zero on the whole");
-  for (CLI::Option* option : {blocky, statics}) option->group("Inversion");
-  return {blocky, statics};
+  CLI::Option* reference =
+      app.add_option_function<std::string>(
+             "--reference",
+             [&](const std::string& text) { options.reference = readReference(text); },
+             "With --method fitted: what the section starts from and departs from no more than the "
+             "picks ask for. gradient, two-layers, three-layers and overburden (a velocity that "
+             "grows with depth over a refractor) are made from the picks; default is the model of "
+             "a new grid, start what the grid has; best takes that of the picks whose times come "
+             "nearest to them (default: best)")
+          ->type_name("MODEL");
+  for (CLI::Option* option : {blocky, statics, reference}) option->group("Inversion");
+  return {blocky, statics, reference};
 }
 
 /// \return the options that only the smoothed method has

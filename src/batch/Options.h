@@ -9,7 +9,7 @@
 #include "model/Recordings.h"
 #include "processing/ShotFilters.h"
 #include "tomo/TomographyRun.h"
-#include "tomo/fitted/FittedRun.h"
+#include "tomo/fitted/References.h"
 #include "tomo/fitted/ResolutionRun.h"
 #include "view/ColorPalette.h"
 
@@ -113,6 +113,7 @@ struct InvertOptions {
   bool ownGrid = false;                    ///< one of the above was given
   InversionMethod method = InversionMethod::kSmoothed;
   FittedSettings fitted;                        ///< but what follows, which both methods have
+  std::string reference = kBestReference;       ///< of a fit: a key of References.h
   TomographyParameters parameters;              ///< but the velocities: those are the next two
   std::optional<double> minVelocity;            ///< m/s; none: that of the survey or of the fit
   std::optional<double> maxVelocity;            ///< m/s; none: that of the survey or of the fit

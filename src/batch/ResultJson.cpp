@@ -19,7 +19,7 @@
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "tomo/TomographyRun.h"
-#include "tomo/fitted/FittedRun.h"
+#include "tomo/fitted/References.h"
 
 namespace talvesk {
 namespace {
@@ -178,11 +178,34 @@ void putChiSquare(Json& json, const char* method, const ChiSquare& fit) {
   json["suspect_count"] = fit.suspects.size();
 }
 
+Json textsJson(const std::vector<Message>& messages) {
+  Json texts = Json::array();
+  for (const Message& message : messages) texts.push_back(message.english());
+  return texts;
+}
+
+/// What could have been started from; those of the picks come first, the best of them first.
+Json referencesJson(const References& references) {
+  Json list = Json::array();
+  for (const ReferenceModel& model : references.models) {
+    Json json = Json::object();
+    json["name"] = keyOf(model.kind);
+    json["description"] = model.description.english();
+    json["chi2"] = model.fit.chi2;
+    json["chi2_huber"] = model.fit.huber;
+    list.push_back(std::move(json));
+  }
+  return list;
+}
+
 /// Shots and receivers count from 0.
-void putFit(Json& json, const FittedRunResult& fit) {
+void putFit(Json& json, const ReferencedRun& run) {
+  const FittedRunResult& fit = run.fit;
   putChiSquare(json, "fitted", fit.fit);
   json["chi2_history"] = fit.chi2History;
   json["reference"] = fit.reference;
+  json["references"] = referencesJson(run.references);
+  json["references_refused"] = textsJson(run.references.refused);
   json["lambda"] = fit.lambda;
   json["outcome"] = fit.outcome.english();
   Json suspects = Json::array();
@@ -230,12 +253,6 @@ Json failureJson(const std::string& file, const Status& status) {
   return json;
 }
 
-Json textsJson(const std::vector<Message>& messages) {
-  Json texts = Json::array();
-  for (const Message& message : messages) texts.push_back(message.english());
-  return texts;
-}
-
 /// What the standard makes of a shot file.
 Json standardJson(const ReadShotFile& file, const std::vector<Message>& losses, bool samples) {
   Json json = Json::object();
@@ -261,7 +278,7 @@ Json standardJson(const ReadShotFile& file, const std::vector<Message>& losses, 
 }  // namespace
 
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
-                          const PickErrorRule& errors, const FittedRunResult* fit,
+                          const PickErrorRule& errors, const ReferencedRun* fit,
                           const ResolutionReport* resolution) {
   const Misfit& misfit = result.misfit;
   Json json = Json::object();
@@ -378,6 +395,11 @@ std::string projectJson(const LoadedProject& project) {
                             ? Json(nullptr)
                             : Json(document.result->RMSE_tomography);
   putSectionMisfit(json, sectionMisfitOf(document));
+  const auto& run = document.result->lastInversion;
+  const bool fitted = run && run->fit;
+  putChiSquare(json, fitted ? "fitted" : "smoothed", sectionChiSquareOf(document));
+  if (!document.result->has_tomographic_info) json["method"] = nullptr;
+  json["reference"] = fitted ? Json(run->fit->reference) : Json(nullptr);
   json["crs"] = document.map->geoCoord_isSet ? Json(document.map->geoCoord.CRS) : Json(nullptr);
   json["palette"] = project.palettes->current().name;
   json["layered_shots"] = project.interpretation->ttLayer.size();

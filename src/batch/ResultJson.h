@@ -10,10 +10,10 @@
 namespace talvesk {
 
 class TomoDocument;
-struct FittedRunResult;
 struct LoadedProject;
 struct PickErrorRule;
 struct ReadShotFile;
+struct ReferencedRun;
 struct ResolutionReport;
 struct TomographyResult;
 struct TravelTimeData;
@@ -28,7 +28,7 @@ struct TravelTimeData;
 /// statics. \param errors of picks that state none \param fit of a fitted section, else null
 /// \param resolution where it was tested, else null
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
-                          const PickErrorRule& errors, const FittedRunResult* fit,
+                          const PickErrorRule& errors, const ReferencedRun* fit,
                           const ResolutionReport* resolution);
 
 /// Positions in metres, times in seconds.

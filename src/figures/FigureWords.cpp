@@ -127,6 +127,13 @@ QString FigureWords::misfit(const SectionMisfit& misfit, const QLocale& locale) 
            number(formatDouble(1e2 * misfit.relativeRms, 3), locale));
 }
 
+QString FigureWords::chiSquare(const ChiSquare& fit, const QLocale& locale) {
+  if (fit.count == 0) return {};
+  const QString value = number(formatDouble(fit.chi2, 3), locale);
+  return fit.shifted ? tr("chi-square %1 with the time shifts of shots").arg(value)
+                     : tr("chi-square %1").arg(value);
+}
+
 QString FigureWords::lastPassMisfit(double percent, const QLocale& locale) {
   return tr("last solver pass %1 %").arg(number(formatDouble(percent, 3), locale));
 }
@@ -171,6 +178,7 @@ QStringList FigureWords::sectionFacts(const SectionScene& scene, double vertical
     facts += scene.rays.size() == 1 ? tr("1 ray") : tr("%1 rays").arg(scene.rays.size());
   }
   if (scene.misfit.count > 0) facts += misfit(scene.misfit, locale);
+  if (scene.fit.count > 0) facts += chiSquare(scene.fit, locale);
   if (scene.picksChanged) facts += picksChanged();
   if (scene.smoothed) facts += tr("smoothed since the inversion");
   if (scene.lastPassPercent >= 0.0) facts += lastPassMisfit(scene.lastPassPercent, locale);

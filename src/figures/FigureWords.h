@@ -39,6 +39,8 @@ struct FigureWords {
   static QString computedTimes(std::size_t count);
   static QString misfit(const SectionMisfit& misfit,
                         const QLocale& locale = QLocale::c());  ///< "RMS misfit 1.21 ms, 2.34 %"
+  /// "chi-square 1.02"; empty without a pick.
+  static QString chiSquare(const ChiSquare& fit, const QLocale& locale = QLocale::c());
   static QString lastPassMisfit(
       double percent,
       const QLocale& locale = QLocale::c());  ///< of the solver, before its last smoothing

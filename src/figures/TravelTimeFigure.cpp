@@ -4,6 +4,7 @@
 #include "figures/FigureWords.h"
 #include "figures/TravelTimeCurves.h"
 #include "figures/TravelTimeItems.h"
+#include "model/ChiSquare.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
 
@@ -36,7 +37,7 @@ class TravelTimeSheet {
 
  private:
   void setScales(double width, double height);
-  std::string caption(const SectionMisfit& misfit, bool picksChanged) const;
+  std::string caption(const TomoDocument& document) const;
 
   TravelTimeFigureOptions mOptions;
   TravelTimeCurves mCurves;
@@ -61,7 +62,7 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
   mLayout.computedTimes = mCurves.computedTimes;
   mLook.joined = mCurves.computedTimes == 0;
   mLook.errorBars = options.errorBars;
-  mCaption = caption(misfitOfTimes(document), picksChangedSince(document));
+  mCaption = caption(document);
   mPlot.addAxis(QwtPlot::xBottom, FigureWords::distanceAxis());
   mPlot.addAxis(QwtPlot::yLeft, FigureWords::timeAxis());
   using namespace travel_time_items;
@@ -70,14 +71,17 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
   mPlot.add(shots(mCurves.curves, mLook));
 }
 
-std::string TravelTimeSheet::caption(const SectionMisfit& misfit, bool picksChanged) const {
+std::string TravelTimeSheet::caption(const TomoDocument& document) const {
   QStringList parts{FigureWords::shots(mCurves.curves.size()),
                     FigureWords::picks(mLayout.picks.size())};
   if (mLook.errorBars && mCurves.errors > 0) parts += FigureWords::errorBars();
   if (mLayout.computedTimes > 0) {
     parts += FigureWords::computedTimes(mLayout.computedTimes);
+    const SectionMisfit misfit = misfitOfTimes(document);
     if (misfit.count > 0) parts += FigureWords::misfit(misfit);
-    if (picksChanged) parts += FigureWords::picksChanged();
+    const ChiSquare fit = sectionChiSquareOf(document);
+    if (fit.count > 0) parts += FigureWords::chiSquare(fit);
+    if (picksChangedSince(document)) parts += FigureWords::picksChanged();
   }
   return FigureWords::joined(parts).toStdString();
 }

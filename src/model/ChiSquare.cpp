@@ -1,7 +1,9 @@
 #include "model/ChiSquare.h"
 
+#include "model/Mending.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,6 +66,36 @@ ChiSquare chiSquareOf(const TomoDocument& document, const std::vector<Residual>&
     scaled.push_back(each.residual / sigmaOf(document.ttArray[each.record], each.receiver, rule));
   }
   return chiSquareOf(scaled);
+}
+
+PickErrorRule errorRuleOf(const TomoDocument& document) {
+  const auto& run = document.result->lastInversion;
+  if (!document.result->has_tomographic_info || !run || !run->fit) return {};
+  return {run->fit->errorFloor, run->fit->errorShare};
+}
+
+double outstandingShift(const TomoDocument& document, std::size_t record) {
+  const auto& run = document.result->lastInversion;
+  if (!document.result->has_tomographic_info || !run || !run->fit) return 0.0;
+  const std::vector<FoundShift>& shifts = run->fit->shifts;
+  if (record >= shifts.size() || shifts[record].late == 0.0) return 0.0;
+  const ShotMends& mends = mendsOfRecord(document, static_cast<std::int32_t>(record));
+  return mends.timeShift == shifts[record].mended ? shifts[record].late : 0.0;
+}
+
+std::vector<Residual> sectionResidualsOf(const TomoDocument& document) {
+  if (sectionMisfitOf(document).count == 0) return {};
+  std::vector<Residual> residuals = residualsOf(document);
+  for (Residual& each : residuals) each.residual += outstandingShift(document, each.record);
+  return residuals;
+}
+
+ChiSquare sectionChiSquareOf(const TomoDocument& document) {
+  ChiSquare fit = chiSquareOf(document, sectionResidualsOf(document), errorRuleOf(document));
+  for (std::size_t i = 0; i < document.ttArray.size() && !fit.shifted; ++i) {
+    fit.shifted = fit.count > 0 && outstandingShift(document, i) != 0.0;
+  }
+  return fit;
 }
 
 }  // namespace talvesk

@@ -27,6 +27,7 @@ struct ChiSquare {
   double robust = 0.0;    ///< from the median of the sizes, which gross errors hardly change
   std::size_t count = 0;  ///< picks, suspects included; 0 means that nothing here is valid
   std::vector<std::size_t> suspects;  ///< indices of the residuals, ascending
+  bool shifted = false;               ///< counts time shifts of shots, see outstandingShift()
 };
 
 /// A pick is suspect when it is off by more than five of its errors and, where the times do not fit
@@ -37,5 +38,21 @@ ChiSquare chiSquareOf(const std::vector<double>& scaled);
 /// Of the computed times of a document, whatever they come from. \param residuals residualsOf()
 ChiSquare chiSquareOf(const TomoDocument& document, const std::vector<Residual>& residuals,
                       const PickErrorRule& rule);
+
+/// By what rule picks that state no error are told of: that of the fit that the section comes from,
+/// the usual one for other sections.
+PickErrorRule errorRuleOf(const TomoDocument& document);
+
+/// Seconds that a record begins too late by, as the fit of its section has found; 0 as soon as the
+/// record has been given another time shift than it had by then.
+double outstandingShift(const TomoDocument& document, std::size_t record);
+
+/// The residuals of the section that the document holds, with outstanding shifts; none when the
+/// computed times are not those through it.
+std::vector<Residual> sectionResidualsOf(const TomoDocument& document);
+
+/// Of the section that the document holds: those residuals over their errors; count 0 without any.
+/// The suspects are indices of them.
+ChiSquare sectionChiSquareOf(const TomoDocument& document);
 
 }  // namespace talvesk

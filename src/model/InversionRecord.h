@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace talvesk {
@@ -28,6 +29,12 @@ struct SectionMisfit {
   std::int32_t maxReceiver = -1;  ///< and geophone of its string, from 0
 };
 
+/// A time shift of a shot that a fit has found.
+struct FoundShift {
+  double late = 0.0;    ///< seconds that its record begins too late by, beyond what is mended; 0: none
+  double mended = 0.0;  ///< time shift that the record had been given by then, seconds
+};
+
 /// How a section was fitted to the errors of its picks, and what came of it.
 struct FitRecord {
   double errorFloor = 0.0;  ///< of picks that state no error, seconds
@@ -40,6 +47,8 @@ struct FitRecord {
   double chi2All = 0.0;
   int suspects = 0;     ///< picks
   bool target = false;  ///< whether chi-square has come to 1 as nearly as wanted
+  std::string reference;  ///< key of the model that it was held to, see tomo/fitted/References.h
+  std::vector<FoundShift> shifts;  ///< per record of the document; empty when none were asked for
 };
 
 /// How the inversion was run that the results of the document come from, for who must tell of it

@@ -1,6 +1,7 @@
 #include "view/SectionScene.h"
 
 #include "base/RoundStep.h"
+#include "model/ChiSquare.h"
 #include "model/GroundModel.h"
 #include "model/Residuals.h"
 #include "model/SurveyLine.h"
@@ -233,10 +234,14 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.geophones = allGeophones(document);
   scene.shots = eachPlaceOnce(document.shotPoints());
   scene.misfit = sectionMisfitOf(document);
+  scene.fit = sectionChiSquareOf(document);
   scene.picksChanged = picksChangedSince(document);
   scene.smoothed = document.result->has_tomographic_info && document.result->smoothedResult;
-  if (document.result->has_tomographic_info)
+  const auto& run = document.result->lastInversion;
+  const bool fitted = run && run->fit;  // without solver passes
+  if (document.result->has_tomographic_info && !fitted) {
     scene.lastPassPercent = document.result->RMSE_tomography;
+  }
   out = std::move(scene);
   return {};
 }

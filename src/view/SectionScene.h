@@ -2,6 +2,7 @@
 
 #include "base/Point2D.h"
 #include "base/Status.h"
+#include "model/ChiSquare.h"
 #include "model/InversionRecord.h"
 #include "model/Parameters.h"
 #include "view/ColorPalette.h"
@@ -75,6 +76,7 @@ struct SectionScene {
   std::vector<Point2D> geophones;  ///< of all strings, ascending x, each place once
   std::vector<Point2D> shots;      ///< of all records, ascending x, each place once
   SectionMisfit misfit;            ///< of an inverted section; count 0: none
+  ChiSquare fit;                   ///< the same by the errors of the picks
   bool picksChanged = false;       ///< since the inversion, which knew others
   bool smoothed = false;           ///< since the inversion
   double lastPassPercent = -1.0;   ///< relative RMS of the solver's last pass; negative: none

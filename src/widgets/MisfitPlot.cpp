@@ -39,6 +39,11 @@ void MisfitPlot::setTotal(int iterations) {
   draw();
 }
 
+void MisfitPlot::showSectionOnly() {
+  mPassCurve->setItemAttribute(QwtPlotItem::Legend, false);
+  draw();
+}
+
 void MisfitPlot::addMisfit(double sectionBefore, double lastPass) {
   mSection.push_back(1000.0 * sectionBefore);
   mPass.push_back(1000.0 * lastPass);

@@ -20,7 +20,9 @@ class MisfitPlot : public PlotPage {
 
   /// How many iterations there will be, 1 at least.
   void setTotal(int iterations);
-  /// Of the next iteration, seconds.
+  /// Of an inversion without solver passes: there is one curve only.
+  void showSectionOnly();
+  /// Of the next iteration, seconds; not a number where one is not known.
   /// \param sectionBefore of the section that it started from \param lastPass of its solver
   void addMisfit(double sectionBefore, double lastPass);
 

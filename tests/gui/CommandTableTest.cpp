@@ -350,8 +350,8 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionShow_title",
         "actionReset_View"}},
       {Stage::kResult,
-       {"actionShow_rays", "actionShow_Information_Density_Layer", "showSimTT_CB",
-        "actionGuide_computed"}}};
+       {"actionSecond_look", "actionShow_rays", "actionShow_Information_Density_Layer",
+        "showSimTT_CB", "actionGuide_computed"}}};
   return stages;
 }
 

@@ -1,5 +1,7 @@
+#include "model/ChiSquare.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
@@ -184,6 +186,35 @@ TEST_F(ProjectTest, tellsTheSameFiguresOfItsSectionBeforeAndAfter) {
   EXPECT_FALSE(picksChangedSince(back));
   loaded.document.ttArray.edit()[0].ttMisurati.edit()[1] *= 1.1;
   EXPECT_TRUE(picksChangedSince(back));
+}
+
+TEST_F(ProjectTest, keepsHowItsSectionWasFittedAndTheShiftsThatWereFound) {
+  TomoDocument& document = project.document;
+  invert(document);
+  FitRecord fit;
+  fit.errorFloor = 0.0007;
+  fit.errorShare = 0.02;
+  fit.reference = "two-layers";
+  fit.shifts.assign(document.ttArray.size(), {0.0, 0.0});
+  fit.shifts[1] = {0.004, mendsOfRecord(document, 1).timeShift};
+  document.result.edit().lastInversion->fit = fit;
+  ASSERT_EQ(save(), 0) << console.error();
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  ASSERT_TRUE(back.document.result->lastInversion && back.document.result->lastInversion->fit);
+  EXPECT_EQ(back.document.result->lastInversion->fit->reference, "two-layers");
+  EXPECT_EQ(outstandingShift(back.document, 1), 0.004);
+  const ChiSquare before = sectionChiSquareOf(document);
+  const ChiSquare after = sectionChiSquareOf(back.document);
+  ASSERT_GT(before.count, 0U);
+  EXPECT_TRUE(after.shifted);
+  EXPECT_EQ(after.chi2, before.chi2);
+  EXPECT_EQ(after.suspects, before.suspects);
+
+  document.result.edit().lastInversion->fit->shifts.pop_back();  // of another survey
+  ASSERT_EQ(save(), 0) << console.error();
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("result.xml")));
 }
 
 TEST_F(ProjectTest, losesCoverageAndFiguresWithAWordWhenTheyDoNotGoWithItsGrid) {

@@ -3,8 +3,10 @@
 #include "app/ToolTips.h"
 #include "ui_progressTomographyDialog.h"
 
+#include <QLocale>
 #include <QTimer>
 #include <algorithm>
+#include <cmath>
 
 namespace talvesk {
 namespace {
@@ -46,9 +48,7 @@ void progressTomographyDialog::setTotal(double iterations) {
 
 void progressTomographyDialog::addCompleted() {
   mCompleted += 1.0;
-  mText += tr("Completed iteration %1").arg(mCompleted) + QLatin1Char('\n');
-  mUi->textBrowser->setPlainText(mText);
-  mUi->textBrowser->moveCursor(QTextCursor::End);
+  addLine(tr("Completed iteration %1").arg(mCompleted));
   mUi->progressBar->setValue(static_cast<int>(mCompleted / mTotal * 100.0));
   mSecondsAtLast = static_cast<double>(mClock.elapsed()) / 1000.0;
   showTimes();
@@ -57,6 +57,36 @@ void progressTomographyDialog::addCompleted() {
 void progressTomographyDialog::addMisfit(const TomographyProgress& progress) {
   if (progress.misfit.count == 0) return;
   mUi->misfitPlot->addMisfit(progress.sectionBefore.rmse, progress.misfit.rmse);
+}
+
+void progressTomographyDialog::beginFit(int mostIterations) {
+  setTotal(mostIterations);
+  mFits = true;
+  mUi->misfitPlot->showSectionOnly();
+  // The start is not told of; iterations count from 1.
+  const double unknown = std::nan("");
+  mUi->misfitPlot->addMisfit(unknown, unknown);
+  mUi->progressBar->setRange(0, 0);
+  mUi->remainingLabel->hide();
+  mUi->stateLabel->setText(tr("The models to start from are being traced."));
+}
+
+void progressTomographyDialog::addFit(const FittedRunProgress& progress) {
+  mUi->stateLabel->setText(
+      tr("Ends by itself, after %1 iterations at the latest.").arg(progress.most));
+  const QLocale locale;
+  addLine(tr("Iteration %1: chi-square %2, RMS %3 ms (%4 %)")
+              .arg(progress.completed)
+              .arg(locale.toString(progress.fit.chi2, 'g', 3),
+                   locale.toString(1000.0 * progress.section.rmse, 'g', 3),
+                   locale.toString(100.0 * progress.section.relativeRms, 'g', 3)));
+  mUi->misfitPlot->addMisfit(progress.section.rmse, std::nan(""));
+}
+
+void progressTomographyDialog::addLine(const QString& line) {
+  mText += line + QLatin1Char('\n');
+  mUi->textBrowser->setPlainText(mText);
+  mUi->textBrowser->moveCursor(QTextCursor::End);
 }
 
 void progressTomographyDialog::showTimes() {
@@ -70,7 +100,8 @@ void progressTomographyDialog::showTimes() {
 
 void progressTomographyDialog::showStopping() {
   mUi->stopButton->setEnabled(false);
-  mUi->stateLabel->setText(tr("Stops when the iteration under way is completed."));
+  mUi->stateLabel->setText(mFits ? tr("Stops, with the best section so far.")
+                                 : tr("Stops when the iteration under way is completed."));
 }
 
 void progressTomographyDialog::stop() {

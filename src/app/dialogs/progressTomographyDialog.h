@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tomo/TomographyRun.h"
+#include "tomo/fitted/FittedRun.h"
 
 #include <QDialog>
 #include <QElapsedTimer>
@@ -29,6 +30,10 @@ class progressTomographyDialog : public QDialog {
   /// The misfit of the section that it started from and of its last solver pass, if there is any
   /// pick.
   void addMisfit(const TomographyProgress& progress);
+  /// In place of setTotal(), of a fit: nobody knows how many iterations it takes.
+  void beginFit(int mostIterations);
+  /// In place of addCompleted() and addMisfit().
+  void addFit(const FittedRunProgress& progress);
   /// That the wish to stop was heard.
   void showStopping();
 
@@ -38,6 +43,7 @@ class progressTomographyDialog : public QDialog {
   void stopped();
 
  private:
+  void addLine(const QString& line);
   void showTimes();
   void stop();
 
@@ -47,6 +53,7 @@ class progressTomographyDialog : public QDialog {
   double mTotal = 1.0;
   double mSecondsAtLast = 0.0;  ///< when the last iteration was through
   QString mText;
+  bool mFits = false;
 };
 
 }  // namespace talvesk

@@ -15,6 +15,9 @@ namespace {
 
 constexpr int kHintLines = 2;  // that the place for the hint holds without moving the buttons
 
+constexpr int kFitWidth = 1000;  // a table and a plot beside the fields
+constexpr int kFitHeight = 640;
+
 int wholeNumber(double velocity) {
   constexpr double kMost = parameters::kMaxVelocity.limits.most;
   return std::isfinite(velocity) ? static_cast<int>(std::clamp(velocity, 0.0, kMost)) : 0;
@@ -43,12 +46,42 @@ runTomography_Dialog::runTomography_Dialog(double minVelocity, double maxVelocit
   for (QSpinBox* box : {mUi->minVelEdit, mUi->maxVelEdit}) {
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] { showHint(); });
   }
-  showHint();
+  connect(mUi->methodBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          [this] { showMethod(); });
+  connect(mUi->fitPanel, &FitPanel::changed, this, [this] { showHint(); });
+  showMethod();
   mUi->extIter_edit->setFocus();
   mUi->extIter_edit->selectAll();
 }
 
 runTomography_Dialog::~runTomography_Dialog() = default;
+
+void runTomography_Dialog::setSurvey(const TomoDocument& document) {
+  mUi->fitPanel->setDocument(document);
+}
+
+bool runTomography_Dialog::fits() const {
+  return mUi->methodPages->currentWidget() == mUi->fitPanel;
+}
+
+FittedSettings runTomography_Dialog::fitSettings() const {
+  return mUi->fitPanel->settings();
+}
+
+/// The dialog is as large as the page that is shown needs it.
+void runTomography_Dialog::showMethod() {
+  mUi->methodPages->setCurrentIndex(mUi->methodBox->currentIndex());
+  for (QWidget* page :
+       {static_cast<QWidget*>(mUi->smoothedPage), static_cast<QWidget*>(mUi->fitPanel)}) {
+    const auto policy =
+        page == mUi->methodPages->currentWidget() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+    page->setSizePolicy(policy, policy);
+  }
+  mUi->startLabel->setVisible(!fits());
+  showHint();
+  if (fits()) resize(size().expandedTo(QSize(kFitWidth, kFitHeight)));
+  if (!fits()) adjustSize();
+}
 
 TomographyParameters runTomography_Dialog::parameters() const {
   TomographyParameters parameters;
@@ -112,6 +145,13 @@ void runTomography_Dialog::checkMaxWRTMin(int value) {
 }
 
 void runTomography_Dialog::showHint() {
+  const bool fitCrossed = fits() && mUi->fitPanel->limitsCross();
+  mUi->buttonBox->button(QDialogButtonBox::Ok)->setEnabled(!fitCrossed);
+  if (fits()) {
+    mUi->hintLabel->setText(fitCrossed ? tr("The minimum velocity must be below the maximum.")
+                                       : QString());
+    return;
+  }
   const bool crossed = mUi->minVelEdit->value() > mUi->maxVelEdit->value();
   mUi->hintLabel->setText(crossed ? tr("The minimum is above the maximum: every cell that changes "
                                        "will end at the maximum.")

@@ -2,6 +2,7 @@
 
 #include "tomo/StartingModel.h"
 #include "tomo/TomographyRun.h"
+#include "tomo/fitted/FittedRun.h"
 #include "tomo/fitted/RunProposal.h"
 
 #include <QDialog>
@@ -13,7 +14,7 @@ namespace Ui {
 class runTomography_Dialog;
 }
 
-/// Asks for the parameters of an inversion.
+/// Asks how to invert, and for the parameters of that.
 class runTomography_Dialog : public QDialog {
   Q_OBJECT
 
@@ -22,7 +23,12 @@ class runTomography_Dialog : public QDialog {
   runTomography_Dialog(double minVelocity, double maxVelocity, QWidget* parent = nullptr);
   ~runTomography_Dialog() override;
 
-  TomographyParameters parameters() const;
+  /// Makes a fit to the errors of the picks possible. \param document holds a grid; it is copied
+  void setSurvey(const TomoDocument& document);
+
+  bool fits() const;  ///< to the errors of the picks, instead of solver passes and smoothing
+  TomographyParameters parameters() const;  ///< of solver passes and smoothing
+  FittedSettings fitSettings() const;       ///< of a fit
 
   /// Shows what the inversion begins with.
   void setStartingModel(StartingModel model);
@@ -38,6 +44,7 @@ class runTomography_Dialog : public QDialog {
   void checkMaxWRTMin(int value);
 
  private:
+  void showMethod();
   void showHint();
 
   std::unique_ptr<Ui::runTomography_Dialog> mUi;

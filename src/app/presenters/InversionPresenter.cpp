@@ -4,11 +4,14 @@
 #include "app/CommandLock.h"
 #include "app/InversionTexts.h"
 #include "app/LeftOutText.h"
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/dialogs/progressTomographyDialog.h"
 #include "app/dialogs/runTomography_Dialog.h"
 #include "app/presenters/ModelPresenter.h"
+#include "app/presenters/SecondLookPresenter.h"
 #include "io/Survey.h"
+#include "model/ChiSquare.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
 #include "model/TomographyOutcome.h"
@@ -45,48 +48,48 @@ void InversionPresenter::run() {
   dialog.setStartingModel(startingModelOf(mDesk.document()));
   const Grid& grid = *mDesk.document().model->grid;
   dialog.setProposal(proposeRun(mDesk.document()), grid.righe() * grid.aLato());
+  dialog.setSurvey(mDesk.document());
   if (dialog.exec() != QDialog::Accepted) return;
-  TomographyParameters parameters = dialog.parameters();
-  parameters.asked = asked;
-  const TomographyResult result = runBeside(parameters);
-  if (mCloseAfterwards) {
-    mCloseAfterwards = false;
-    closeLater();
-    return;
+  if (dialog.fits()) {
+    FittedSettings settings = dialog.fitSettings();
+    settings.asked = asked;
+    fit(settings);
+  } else {
+    TomographyParameters parameters = dialog.parameters();
+    parameters.asked = asked;
+    invert(parameters);
   }
-  showResult(result);
+}
+
+void InversionPresenter::invert(const TomographyParameters& parameters) {
+  const TomographyResult result = runBeside(parameters);
+  if (!closesAfterwards()) showResult(result);
+}
+
+void InversionPresenter::fit(const FittedSettings& settings) {
+  const FittedRunResult result = fitBeside(settings);
+  if (!closesAfterwards()) showFit(result);
 }
 
 /// The inversion works on a copy, and whatever could change the document is out of reach until it
 /// is through; the views stay, to be looked at.
 TomographyResult InversionPresenter::runBeside(const TomographyParameters& parameters) {
-  BackgroundInversion inversion(mDesk.document(), parameters, mDesk.log);
+  BackgroundInversion inversion(mDesk.document(), mDesk.log);
   progressTomographyDialog progress(&mDesk.window);
-  connect(&progress, &progressTomographyDialog::stopped, this, stopWanted);
   progress.setTotal(parameters.externalIterations);
   OpenEdit edit(mDesk.session, Edit::kInversion, true);
-  mRunning = &inversion;
-  mDesk.inversionRuns = true;
-  mProgress = &progress;
   TomographyResult result;
-  {
-    const CommandLock lock(mDesk.window, {mDesk.ui.actionExit}, documentEditors());
-    progress.show();
-    mDesk.ui.statusBar->showMessage(tr("An inversion is under way; the survey cannot be edited."));
-    result = inversion.run([&](const TomographyProgress& state, const TomoDocument& copy) {
-      progress.addCompleted();
-      progress.addMisfit(state);
-      mDesk.tellUnlessDone(edit.preview([&](Survey& survey) {
-        survey.document = copy;
-        return Status();
-      }));
-    });
-  }
-  mRunning = nullptr;
-  mDesk.inversionRuns = false;
-  mProgress = nullptr;
-  progress.hide();
-  mDesk.ui.statusBar->clearMessage();
+  beside(inversion, progress, [&] {
+    result =
+        inversion.run(parameters, [&](const TomographyProgress& state, const TomoDocument& copy) {
+          progress.addCompleted();
+          progress.addMisfit(state);
+          mDesk.tellUnlessDone(edit.preview([&](Survey& survey) {
+            survey.document = copy;
+            return Status();
+          }));
+        });
+  });
   mDesk.tellUnlessDone(edit.commit([&](Survey& survey) {
     if (result.iterationsDone > 0) survey.document = inversion.copy();
     // The limits are those that were asked for last, however the run has ended.
@@ -99,6 +102,55 @@ TomographyResult InversionPresenter::runBeside(const TomographyParameters& param
     return Status();
   }));
   return result;
+}
+
+/// The same of a fit, which has nothing to show before it has ended. Its limits of the velocities
+/// are its own, and the survey keeps those of the solver.
+FittedRunResult InversionPresenter::fitBeside(const FittedSettings& settings) {
+  BackgroundInversion inversion(mDesk.document(), mDesk.log);
+  progressTomographyDialog progress(&mDesk.window);
+  progress.beginFit(settings.fit.mostIterations);
+  OpenEdit edit(mDesk.session, Edit::kInversion);
+  FittedRunResult result;
+  beside(inversion, progress, [&] {
+    result =
+        inversion.fit(settings, [&](const FittedRunProgress& state) { progress.addFit(state); })
+            .fit;
+  });
+  if (result.run.iterationsDone == 0) return result;
+  const bool done = mDesk.tellUnlessDone(edit.commit([&](Survey& survey) {
+    survey.document = inversion.copy();
+    return Status();
+  }));
+  if (!done) result.run.iterationsDone = 0;
+  return result;
+}
+
+/// Runs an inversion with its progress in view while nothing can be edited.
+void InversionPresenter::beside(BackgroundInversion& inversion, progressTomographyDialog& progress,
+                                const std::function<void()>& work) {
+  connect(&progress, &progressTomographyDialog::stopped, this, stopWanted);
+  mRunning = &inversion;
+  mDesk.inversionRuns = true;
+  mProgress = &progress;
+  {
+    const CommandLock lock(mDesk.window, {mDesk.ui.actionExit}, documentEditors());
+    progress.show();
+    mDesk.ui.statusBar->showMessage(tr("An inversion is under way; the survey cannot be edited."));
+    work();
+  }
+  mRunning = nullptr;
+  mDesk.inversionRuns = false;
+  mProgress = nullptr;
+  progress.hide();
+  mDesk.ui.statusBar->clearMessage();
+}
+
+bool InversionPresenter::closesAfterwards() {
+  if (!mCloseAfterwards) return false;
+  mCloseAfterwards = false;
+  closeLater();
+  return true;
 }
 
 /// The widgets through which the document can be edited.
@@ -134,23 +186,41 @@ void InversionPresenter::askToStopAndClose() {
 }
 
 void InversionPresenter::showResult(const TomographyResult& result) {
-  if (!result.status.ok()) {
-    mDesk.tellFailure(tr("The inversion could not be completed."), result.status);
-  }
-  if (result.iterationsDone == 0) return;
-  mDesk.showSection();
-  const QStringList left =
-      leftOutNames(leftOut(mDesk.document(), mDesk.document().result->excluded));
-  QString outcome = tr("%n external iteration(s) completed.", nullptr, result.iterationsDone);
-  if (!left.isEmpty()) {
-    outcome += QLatin1Char(' ') + tr("Left out: %1.").arg(left.join(QStringLiteral("; ")));
-  }
-  mDesk.tell(outcome);
+  QStringList left;
+  const QString completed =
+      tr("%n external iteration(s) completed.", nullptr, result.iterationsDone);
+  if (!tellOutcome(result, completed, left)) return;
   if (result.misfit.count == 0) {
     if (!left.isEmpty()) showWarning(&mDesk.window, tr("Inversion results"), leftOutBox(left));
     return;
   }
-  showNote(&mDesk.window, tr("Inversion results"), inversionResultsText(result), leftOutBox(left));
+  showNote(&mDesk.window, tr("Inversion results"),
+           inversionResultsText(result, sectionChiSquareOf(mDesk.document())), leftOutBox(left));
+}
+
+void InversionPresenter::showFit(const FittedRunResult& result) {
+  QStringList left;
+  if (!tellOutcome(result.run, textOf(result.outcome), left)) return;
+  showNote(&mDesk.window, tr("Inversion results"), fitResultsText(result), leftOutBox(left));
+  mSecondLook.showIfAny();
+}
+
+/// Shows the section that was found, if there is one, and says so in the status bar.
+/// \param left out: what took no part \return false when there is nothing to show
+bool InversionPresenter::tellOutcome(const TomographyResult& result, const QString& completed,
+                                     QStringList& left) {
+  if (!result.status.ok()) {
+    mDesk.tellFailure(tr("The inversion could not be completed."), result.status);
+  }
+  if (result.iterationsDone == 0) return false;
+  mDesk.showSection();
+  left = leftOutNames(leftOut(mDesk.document(), mDesk.document().result->excluded));
+  QString outcome = completed;
+  if (!left.isEmpty()) {
+    outcome += QLatin1Char(' ') + tr("Left out: %1.").arg(left.join(QStringLiteral("; ")));
+  }
+  mDesk.tell(outcome);
+  return true;
 }
 
 void InversionPresenter::closeLater() {

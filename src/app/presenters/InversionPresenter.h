@@ -12,7 +12,10 @@ namespace talvesk {
 
 class BackgroundInversion;
 class ModelPresenter;
+class SecondLookPresenter;
 class progressTomographyDialog;
+struct FittedRunResult;
+struct FittedSettings;
 struct TomographyParameters;
 struct TomographyResult;
 
@@ -21,7 +24,8 @@ class InversionPresenter : public QObject {
   Q_DECLARE_TR_FUNCTIONS(talvesk::Talvesk_MainWindows)
 
  public:
-  InversionPresenter(Desk& desk, ModelPresenter& models) : mDesk(desk), mModels(models) {}
+  InversionPresenter(Desk& desk, ModelPresenter& models, SecondLookPresenter& secondLook)
+      : mDesk(desk), mModels(models), mSecondLook(secondLook) {}
 
   void run();   ///< returns when it has ended; the window answers meanwhile
   void stop();  ///< when the iteration under way is through
@@ -31,13 +35,22 @@ class InversionPresenter : public QObject {
   std::function<void()> stopWanted;  ///< by the user, in the progress dialog
 
  private:
+  void invert(const TomographyParameters& parameters);
+  void fit(const FittedSettings& settings);
   TomographyResult runBeside(const TomographyParameters& parameters);
+  FittedRunResult fitBeside(const FittedSettings& settings);
+  void beside(BackgroundInversion& inversion, progressTomographyDialog& progress,
+              const std::function<void()>& work);
+  bool closesAfterwards();
   std::vector<QWidget*> documentEditors() const;
   void showResult(const TomographyResult& result);
+  void showFit(const FittedRunResult& result);
+  bool tellOutcome(const TomographyResult& result, const QString& completed, QStringList& left);
   void closeLater();
 
   Desk& mDesk;
   ModelPresenter& mModels;
+  SecondLookPresenter& mSecondLook;
   BackgroundInversion* mRunning = nullptr;
   progressTomographyDialog* mProgress = nullptr;
   bool mCloseAfterwards = false;

@@ -17,6 +17,7 @@
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
 #include "app/presenters/ReviewPresenter.h"
+#include "app/presenters/SecondLookPresenter.h"
 #include "app/presenters/SectionPresenter.h"
 #include "app/presenters/SettingsPresenter.h"
 #include "app/presenters/ShotFilesPresenter.h"
@@ -51,6 +52,7 @@ struct Presenters {
   SurveyPresenter survey;
   GeometryPresenter geometry;
   ModelPresenter models;
+  SecondLookPresenter secondLook;
   InversionPresenter inversion;
   ProcessingPresenter processing;
   ReviewPresenter review;

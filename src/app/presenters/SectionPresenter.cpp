@@ -2,6 +2,7 @@
 
 #include "figures/ProfileLines.h"
 #include "io/Survey.h"
+#include "model/ChiSquare.h"
 #include "model/GroundModel.h"
 #include "model/Residuals.h"
 #include "model/SurveyFacts.h"
@@ -77,7 +78,9 @@ bool SectionPresenter::picksShowOtherwise(const SectionScene& scene) const {
   const TomoDocument& document = mDesk.document();
   if (!document.result->has_tomographic_info) return false;
   const SectionMisfit misfit = sectionMisfitOf(document);
-  return misfit.count != scene.misfit.count || misfit.rmse != scene.misfit.rmse ||
+  const ChiSquare fit = sectionChiSquareOf(document);
+  return misfit.count != scene.misfit.count || fit.chi2 != scene.fit.chi2 ||
+         fit.shifted != scene.fit.shifted || misfit.rmse != scene.misfit.rmse ||
          misfit.relativeRms != scene.misfit.relativeRms ||
          picksChangedSince(document) != scene.picksChanged;
 }

@@ -80,7 +80,7 @@ void SurveyPresenter::askForTitle() {
 /// The misfit of the section stays in view, and whether it still is that of the picks it was fitted
 /// to.
 void SurveyPresenter::refreshMisfit() {
-  QString text = sectionMisfitText(sectionMisfitOf(mDesk.document()));
+  QString text = sectionMisfitText(mDesk.document());
   if (!text.isEmpty() && picksChangedSince(mDesk.document())) {
     text += QLatin1Char(' ') + tr("Picks have changed since.");
   }

@@ -117,6 +117,18 @@ QStringList timeRow(const InversionRecord& run) {
                            ReportWords::tr("%1 s").arg(number(run.elapsedSeconds, 1))};
 }
 
+/// \param key of a model, see tomo/fitted/References.h
+QString referenceName(const std::string& key) {
+  if (key == "gradient") return ReportWords::tr("gradient read from the picks");
+  if (key == "two-layers") return ReportWords::tr("two layers read from the picks");
+  if (key == "three-layers") return ReportWords::tr("three layers read from the picks");
+  if (key == "overburden") {
+    return ReportWords::tr("gradient over a refractor, read from the picks");
+  }
+  if (key == "default") return ReportWords::tr("default model");
+  return ReportWords::tr("velocities that the grid had");
+}
+
 /// Of a section that was fitted to the errors of its picks.
 void addFit(ReportBuilder& builder, const InversionRecord& run) {
   const FitRecord& fit = *run.fit;
@@ -126,6 +138,7 @@ void addFit(ReportBuilder& builder, const InversionRecord& run) {
   ReportTable facts = ReportTable::ofFacts();
   facts.rows = {
       {ReportWords::tr("Method"), ReportWords::tr("Fit to the picks' errors")},
+      {ReportWords::tr("Started from and held to"), referenceName(fit.reference)},
       {ReportWords::tr("Errors of picks that state none"),
        ReportWords::tr("%1 ms, or %2 % of the time where that is more")
            .arg(number(1e3 * fit.errorFloor, 2), number(1e2 * fit.errorShare, 1))},

@@ -1,5 +1,6 @@
 #include "figures/MisfitFigures.h"
 #include "figures/report/ReportBuilder.h"
+#include "model/ChiSquare.h"
 #include "model/LeftOut.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
@@ -14,9 +15,18 @@ namespace talvesk::report {
 namespace {
 
 constexpr double kMisfitHeightMm = 65.0;
+constexpr int kSectionColumns = 5;  // of the history, before those of the solver
 
 QString millisecondsAndPercent(double seconds, double fraction) {
   return ReportWords::tr("%1 ms, %2 %").arg(number(1e3 * seconds, 3), number(1e2 * fraction, 2));
+}
+
+/// With how many picks it leaves out.
+QString chiSquareText(const ChiSquare& fit) {
+  const QString text = ReportWords::tr("%1; of all picks %2; suspect picks %3")
+                           .arg(number(fit.chi2, 2), number(fit.all, 2))
+                           .arg(fit.suspects.size());
+  return fit.shifted ? ReportWords::tr("%1; with the time shifts of shots").arg(text) : text;
 }
 
 void addSectionMisfit(ReportBuilder& builder, const SectionMisfit& misfit) {
@@ -26,6 +36,7 @@ void addSectionMisfit(ReportBuilder& builder, const SectionMisfit& misfit) {
     facts.rows = {
         {ReportWords::tr("Picks used"), QString::number(misfit.count)},
         {ReportWords::tr("RMS misfit"), millisecondsAndPercent(misfit.rmse, misfit.relativeRms)},
+        {ReportWords::tr("Chi-square"), chiSquareText(sectionChiSquareOf(document))},
         {ReportWords::tr("Mean of computed minus measured"),
          ReportWords::tr("%1 ms").arg(number(1e3 * misfit.bias, 3))},
         {ReportWords::tr("Largest difference"), ReportWords::tr("%1 ms, shot %2, receiver %3")
@@ -100,6 +111,13 @@ void addHistory(ReportBuilder& builder, const InversionRecord& run) {
                           ofSection(1e3 * section.maxAbs, 3), ofPass(1e3 * pass.rmse, 3),
                           ofPass(1e2 * pass.relativeRms, 2)});
   }
+  if (run.fit) {  // nothing else than the section
+    table.columns.erase(table.columns.begin() + kSectionColumns, table.columns.end());
+    for (QStringList& row : table.rows) row = row.mid(0, kSectionColumns);
+    builder.table(ReportWords::tr("Misfit after every iteration, 0 being the starting model"),
+                  table);
+    return;
+  }
   builder.table(ReportWords::tr("Misfit after every external iteration"), table);
   builder.paragraph(ReportWords::tr(
       "The misfit of the section is that of fresh rays through the section that an iteration has "
@@ -118,7 +136,9 @@ Status addMisfit(ReportBuilder& builder) {
   if (misfit.count == 0 && document.result->RMSE_tomography < 0.0) return {};
   builder.heading(ReportWords::tr("Misfit"));
   addSectionMisfit(builder, misfit);
-  addLastPass(builder);
+  const auto& run = document.result->lastInversion;
+  const bool fitted = run && run->fit;  // without solver passes
+  if (!fitted) addLastPass(builder);
   FigureDrawing drawing;
   if (misfit.count > 0 &&
       prepareResidualFigure(document, builder.widthMm(), kMisfitHeightMm, drawing).ok()) {
@@ -132,8 +152,11 @@ Status addMisfit(ReportBuilder& builder) {
                                  kMisfitHeightMm, drawing)
           .ok()) {
     builder.figure(
-        ReportWords::tr("RMS misfit of the section after every external iteration (blue), 0 being "
-                        "the starting model, and of the last solver pass of each (grey)"),
+        fitted ? ReportWords::tr("RMS misfit of the section after every iteration, 0 being the "
+                                 "starting model")
+               : ReportWords::tr(
+                     "RMS misfit of the section after every external iteration (blue), 0 being "
+                     "the starting model, and of the last solver pass of each (grey)"),
         drawing);
   }
   addHistory(builder, *document.result->lastInversion);

@@ -124,6 +124,12 @@ void describe(V& fields, SectionMisfit& misfit) {
 }
 
 template <class V>
+void describe(V& fields, FoundShift& shift) {
+  fields("late", shift.late);
+  fields("mended", shift.mended);
+}
+
+template <class V>
 void describe(V& fields, FitRecord& fit) {
   fields("error_floor", fit.errorFloor);
   fields("error_share", fit.errorShare);
@@ -135,6 +141,8 @@ void describe(V& fields, FitRecord& fit) {
   fields("chi2_all", fit.chi2All);
   fields("suspects", fit.suspects);
   fields("target", fit.target);
+  fields("reference", fit.reference);
+  fields("shifts", fit.shifts);
 }
 
 template <class V>

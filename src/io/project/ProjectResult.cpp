@@ -28,9 +28,16 @@ bool isSectionMisfit(const SectionMisfit& m) {
   return m.count >= 0 && finite({m.rmse, m.relativeRms, m.bias, m.maxAbs});
 }
 
-bool isFit(const FitRecord& fit) {
-  return positive(fit.errorFloor) && fit.suspects >= 0 &&
-         finite({fit.errorShare, fit.lambda, fit.chi2, fit.chi2All});
+bool isShift(const FoundShift& shift) {
+  return finite({shift.late, shift.mended});
+}
+
+/// \param records of the survey
+bool isFit(const FitRecord& fit, std::size_t records) {
+  return positive(fit.errorFloor) && fit.errorShare >= 0.0 && fit.suspects >= 0 &&
+         finite({fit.errorShare, fit.lambda, fit.chi2, fit.chi2All}) &&
+         (fit.shifts.empty() || fit.shifts.size() == records) &&
+         std::all_of(fit.shifts.begin(), fit.shifts.end(), isShift);
 }
 
 bool coversGrid(const TomographyOutcome& outcome, const TomoDocument& document) {
@@ -44,7 +51,10 @@ bool fits(const ResultMember& result, const TomoDocument& document) {
   if (!coversGrid(outcome, document)) return false;
   const auto length = [](double metres) { return std::isfinite(metres) && metres >= 0.0; };
   if (!std::all_of(outcome.coorcount.begin(), outcome.coorcount.end(), length)) return false;
-  if (!std::all_of(result.fits.begin(), result.fits.end(), isFit)) return false;
+  const std::size_t records = document.ttArray.size();
+  for (const FitRecord& fit : result.fits) {
+    if (!isFit(fit, records)) return false;
+  }
   if (outcome.lastInversion) return canHaveBeen(result.run);
   return std::isfinite(result.run.computingSeconds) && result.run.sectionHistory.empty();
 }

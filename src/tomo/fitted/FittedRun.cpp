@@ -1,6 +1,7 @@
 #include "tomo/fitted/FittedRun.h"
 
 #include "model/GroundModel.h"
+#include "model/Mending.h"
 #include "model/PickFingerprint.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
@@ -55,6 +56,18 @@ class MisfitHistory {
   std::vector<SectionMisfit> mSections;
 };
 
+std::vector<FoundShift> shiftsOf(const FitData& data, const FittedResult& fit,
+                                 const TomoDocument& document) {
+  std::vector<FoundShift> shifts;
+  if (!fit.statics.empty()) shifts.resize(document.ttArray.size());
+  for (std::size_t s = 0; s < fit.statics.size(); ++s) {
+    const std::uint32_t record = data.shots[s].record;
+    shifts[record] = {fit.statics[s],
+                      mendsOfRecord(document, static_cast<std::int32_t>(record)).timeShift};
+  }
+  return shifts;
+}
+
 FitRecord fitRecordOf(const FittedSettings& settings, const FittedResult& fit) {
   FitRecord record;
   record.errorFloor = settings.errors.floor;
@@ -67,6 +80,7 @@ FitRecord fitRecordOf(const FittedSettings& settings, const FittedResult& fit) {
   record.chi2All = fit.fit.all;
   record.suspects = static_cast<int>(fit.fit.suspects.size());
   record.target = fit.end == FitEnd::kTarget;
+  record.reference = settings.reference;
   return record;
 }
 
@@ -171,6 +185,7 @@ FittedRunResult runOnCopy(TomoDocument& document, const FittedSettings& settings
   if (result.run.iterationsDone == 0) return result;
 
   InversionRecord record = recordOf(settings, fit, document);
+  record.fit->shifts = shiftsOf(data, fit, document);
   history.putInto(record, fit.kept);
   result.run.status = install(fit, std::move(record), threads, log, document);
   complete(document, settings, start, result.run);

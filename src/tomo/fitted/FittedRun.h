@@ -1,9 +1,9 @@
 #pragma once
 
+#include "tomo/SecondLook.h"
 #include "tomo/TomographyRun.h"
 #include "tomo/fitted/FittedInversion.h"
 
-#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -27,15 +27,6 @@ struct FittedRunProgress {
   double elapsedSeconds = 0.0;
   ChiSquare fit;          ///< through the section of this iteration
   SectionMisfit section;  ///< the same in times
-};
-
-/// A pick that the section cannot explain within its error.
-struct SuspectPick {
-  std::size_t record = 0;
-  std::size_t receiver = 0;  ///< trace of the record, from 0
-  double measured = 0.0;     ///< seconds
-  double residual = 0.0;     ///< computed minus measured, statics included, seconds
-  double sigma = 0.0;        ///< seconds
 };
 
 struct FittedRunResult {

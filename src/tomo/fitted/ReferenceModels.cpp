@@ -15,22 +15,6 @@ namespace {
 constexpr int kCurvePoints = 100;
 constexpr double kHuber = 1.345;  // robust deviations; 95 % as good as squares on clean data
 
-Message nameOf(ReferenceKind kind) {
-  switch (kind) {
-    case ReferenceKind::kGradient:
-      return Message::tr("Gradient");
-    case ReferenceKind::kTwoLayers:
-      return Message::tr("Two layers");
-    case ReferenceKind::kThreeLayers:
-      return Message::tr("Three layers");
-    case ReferenceKind::kOverburdenGradient:
-      return Message::tr("Overburden gradient");
-    case ReferenceKind::kGiven:
-      break;
-  }
-  return {};
-}
-
 Message speed(double value) {
   return Message::number(std::round(value));
 }
@@ -186,6 +170,26 @@ StartFit fitOf(const FitData& data, std::vector<double> times) {
 }
 
 }  // namespace
+
+Message nameOf(ReferenceKind kind) {
+  switch (kind) {
+    case ReferenceKind::kGradient:
+      return Message::tr("Gradient");
+    case ReferenceKind::kTwoLayers:
+      return Message::tr("Two layers");
+    case ReferenceKind::kThreeLayers:
+      return Message::tr("Three layers");
+    case ReferenceKind::kOverburdenGradient:
+      return Message::tr("Overburden gradient");
+    case ReferenceKind::kDefault:
+      return Message::tr("Default model");
+    case ReferenceKind::kPresent:
+      return Message::tr("Present section");
+    case ReferenceKind::kGiven:
+      break;
+  }
+  return {};
+}
 
 ReferenceModels referenceModels(const FitData& data, const GridGeometry& geometry,
                                 const VelocityBounds& bounds) {

@@ -18,8 +18,12 @@ enum class ReferenceKind {
   kTwoLayers,           ///< a layer on a refractor, by the delay times of the positions
   kThreeLayers,         ///< two layers on a refractor, likewise from above downward
   kOverburdenGradient,  ///< velocity that grows evenly with depth down to a refractor
-  kGiven                ///< from outside: the default model, a section, a file
+  kDefault,             ///< the default model of a new grid
+  kPresent,             ///< the velocities that the grid has
+  kGiven                ///< anything else from outside
 };
+
+Message nameOf(ReferenceKind kind);  ///< as users choose it; empty for kGiven
 
 /// A refractor of a reference model.
 struct ReferenceRefractor {

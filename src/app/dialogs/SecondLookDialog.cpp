@@ -1,0 +1,166 @@
+#include "app/dialogs/SecondLookDialog.h"
+
+#include "app/ToolTips.h"
+#include "ui_SecondLookDialog.h"
+
+#include <QHeaderView>
+#include <QLocale>
+#include <QStringList>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace talvesk {
+namespace {
+
+constexpr double kMilliseconds = 1000.0;
+
+enum SuspectColumn { kShot, kReceiver, kPick, kOff, kErrors };
+enum ShiftColumn { kShiftShot, kLate, kWhy };
+
+QString number(double value, int decimals) {
+  return QLocale().toString(value, 'f', decimals);
+}
+
+void put(QTableWidget& table, int row, int column, const QString& text) {
+  auto* item = new QTableWidgetItem(text);
+  item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  table.setItem(row, column, item);
+}
+
+}  // namespace
+
+SecondLookDialog::SecondLookDialog(QWidget* parent)
+    : QDialog(parent), mUi(std::make_unique<Ui::SecondLookDialog>()) {
+  mUi->setupUi(this);
+  wrapToolTips(*this);
+  setModal(false);
+  for (QTableWidget* table : {mUi->suspectsTable, mUi->shiftsTable}) {
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setStretchLastSection(true);
+  }
+  // By click and by key alike.
+  connect(mUi->suspectsTable, &QTableWidget::currentCellChanged, this,
+          [this](int row) { showSuspect(row); });
+  connect(mUi->suspectsTable, &QTableWidget::cellClicked, this,
+          [this](int row) { showSuspect(row); });
+  connect(mUi->shiftsTable, &QTableWidget::cellDoubleClicked, this,
+          [this](int row) { showShift(row); });
+  connect(mUi->takeOverButton, &QPushButton::clicked, this, &SecondLookDialog::takeOverWanted);
+  connect(mUi->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  setLook({});
+}
+
+SecondLookDialog::~SecondLookDialog() = default;
+
+void SecondLookDialog::setLook(SecondLook look) {
+  mLook = std::move(look);
+  fillSuspects();
+  fillShifts();
+  showTexts();
+}
+
+std::vector<ShotShift> SecondLookDialog::taken() const {
+  std::vector<ShotShift> taken;
+  for (std::size_t i = 0; i < mLook.shifts.size(); ++i) {
+    const QTableWidgetItem* item = mUi->shiftsTable->item(static_cast<int>(i), kShiftShot);
+    if (item->checkState() == Qt::Checked) taken.push_back(mLook.shifts[i]);
+  }
+  return taken;
+}
+
+void SecondLookDialog::fillSuspects() {
+  QTableWidget& table = *mUi->suspectsTable;
+  const QSignalBlocker quiet(&table);
+  table.clearContents();
+  table.setRowCount(static_cast<int>(mLook.suspects.size()));
+  for (int row = 0; row < table.rowCount(); ++row) {
+    const SuspectPick& pick = mLook.suspects[static_cast<std::size_t>(row)];
+    put(table, row, kShot, QString::number(pick.record + 1));
+    put(table, row, kReceiver, QString::number(pick.receiver + 1));
+    put(table, row, kPick, number(kMilliseconds * pick.measured, 1));
+    put(table, row, kOff, number(kMilliseconds * pick.residual, 1));
+    put(table, row, kErrors, number(std::fabs(pick.residual / pick.sigma), 1));
+  }
+  table.setCurrentCell(-1, -1);
+}
+
+void SecondLookDialog::fillShifts() {
+  QTableWidget& table = *mUi->shiftsTable;
+  table.clearContents();
+  table.setRowCount(static_cast<int>(mLook.shifts.size()));
+  for (int row = 0; row < table.rowCount(); ++row) {
+    const ShotShift& shift = mLook.shifts[static_cast<std::size_t>(row)];
+    put(table, row, kShiftShot, QString::number(shift.record + 1));
+    QTableWidgetItem* box = table.item(row, kShiftShot);
+    box->setCheckState(shift.recording && shift.clear ? Qt::Checked : Qt::Unchecked);
+    if (!shift.recording)
+      box->setFlags(box->flags() & ~Qt::ItemIsUserCheckable & ~Qt::ItemIsEnabled);
+    put(table, row, kLate, number(kMilliseconds * shift.late, 2));
+    auto* why = new QTableWidgetItem(shift.recording ? QString()
+                                                     : tr("no recording that could be shifted"));
+    table.setItem(row, kWhy, why);
+  }
+  mUi->takeOverButton->setEnabled(
+      std::any_of(mLook.shifts.begin(), mLook.shifts.end(),
+                  [](const ShotShift& shift) { return shift.recording; }));
+}
+
+void SecondLookDialog::showTexts() {
+  QStringList head;
+  if (!mLook.known) head << tr("There is no section yet whose times could be looked at.");
+  if (mLook.picksChanged) {
+    head << tr("Picks have changed since the section was found: it was fitted to others.");
+  }
+  mUi->headLabel->setText(head.join(QLatin1Char('\n')));
+  mUi->headLabel->setVisible(!head.isEmpty());
+  mUi->suspectsPage->setVisible(mLook.known);
+  mUi->suspectsTable->setVisible(!mLook.suspects.empty());
+  mUi->suspectsLabel->setText(
+      mLook.suspects.empty()
+          ? tr("No pick is off by more than five of its errors.")
+          : tr("Picks off by more than five of their errors; a click shows the trace:"));
+  mUi->shiftsPage->setVisible(!mLook.shifts.empty());
+  mUi->shiftsLabel->setText(tr("Time shifts of shots that the fit has found:"));
+  mUi->cellsLabel->setText(cellsText());
+  mUi->cellsLabel->setVisible(mLook.known);
+}
+
+QString SecondLookDialog::cellsText() const {
+  QStringList lines;
+  const auto where = [this](const CellPatch& patch) {
+    return tr("%1 to %2 m, depth %3 to %4 m")
+        .arg(number(patch.left, 1), number(patch.right, 1), number(patch.top, 1),
+             number(patch.bottom, 1));
+  };
+  const auto atLimit = [&](const CellPatch& patch, double limit) {
+    if (patch.cells == 0) return;
+    lines << tr("Cells at the limit of %1 m/s: %2 (%3)")
+                 .arg(number(limit, 0))
+                 .arg(patch.cells)
+                 .arg(where(patch));
+  };
+  atLimit(mLook.atLeast, mLook.least);
+  atLimit(mLook.atGreatest, mLook.greatest);
+  if (mLook.withoutRays.cells > 0) {
+    lines << tr("Cells shown that no ray crosses: %1 of %2 (%3)")
+                 .arg(mLook.withoutRays.cells)
+                 .arg(mLook.drawn)
+                 .arg(where(mLook.withoutRays));
+  }
+  if (lines.isEmpty()) lines << tr("No velocity is at a limit, and rays cross all cells shown.");
+  return lines.join(QLatin1Char('\n'));
+}
+
+void SecondLookDialog::showSuspect(int row) {
+  if (row < 0 || row >= static_cast<int>(mLook.suspects.size())) return;
+  const SuspectPick& pick = mLook.suspects[static_cast<std::size_t>(row)];
+  emit pickWanted(static_cast<int>(pick.record), static_cast<int>(pick.receiver));
+}
+
+void SecondLookDialog::showShift(int row) {
+  if (row < 0 || row >= static_cast<int>(mLook.shifts.size())) return;
+  emit shotWanted(static_cast<int>(mLook.shifts[static_cast<std::size_t>(row)].record));
+}
+
+}  // namespace talvesk

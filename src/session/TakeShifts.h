@@ -1,0 +1,24 @@
+#pragma once
+
+#include "base/Message.h"
+#include "tomo/SecondLook.h"
+
+#include <vector>
+
+namespace talvesk {
+
+class Session;
+
+/// What became of time shifts that were to be taken over.
+struct TakenShifts {
+  int done = 0;                ///< records
+  std::vector<Message> notes;  ///< what the user should know, such as shifts in whole samples
+  std::vector<Message> failures;
+};
+
+/// Shifts the records of shots by what the fit of a section has found, in addition to the time
+/// shifts that they have: one step to be undone, and none where nothing could be done. Shots
+/// without a recording are left out.
+TakenShifts takeShifts(const std::vector<ShotShift>& shifts, Session& session);
+
+}  // namespace talvesk

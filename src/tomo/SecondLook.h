@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+namespace talvesk {
+
+class TomoDocument;
+
+/// A pick that a section cannot explain within its error.
+struct SuspectPick {
+  std::size_t record = 0;
+  std::size_t receiver = 0;  ///< trace of the record, from 0
+  double measured = 0.0;     ///< seconds
+  double residual = 0.0;     ///< computed minus measured, time shifts of shots counted, seconds
+  double sigma = 0.0;        ///< seconds
+};
+
+/// A time shift of a shot that the fit of a section has found and that nobody has taken over yet.
+struct ShotShift {
+  std::size_t record = 0;
+  double late = 0.0;       ///< seconds that the record begins too late by
+  bool recording = false;  ///< there are traces that can be shifted
+  bool clear = false;      ///< it is more than the least error of a pick
+};
+
+/// Cells that have something in common: how many, and the box around them.
+struct CellPatch {
+  std::size_t cells = 0;
+  double left = 0.0;  ///< survey abscissas, metres
+  double right = 0.0;
+  double top = 0.0;  ///< metres below the surface
+  double bottom = 0.0;
+};
+
+/// What deserves a second look in the section that a document holds.
+struct SecondLook {
+  bool known = false;                 ///< there is a section with times of its own
+  bool picksChanged = false;          ///< since it was inverted
+  std::vector<SuspectPick> suspects;  ///< those furthest off, by their errors, first
+  std::vector<ShotShift> shifts;      ///< in the order of the records
+  double least = 0.0;                 ///< m/s, what cells were held to
+  double greatest = 0.0;
+  CellPatch atLeast;  ///< crossed by rays, at the least velocity allowed
+  CellPatch atGreatest;
+  CellPatch withoutRays;  ///< drawn, and crossed by none
+  std::size_t drawn = 0;  ///< cells
+};
+
+SecondLook secondLook(const TomoDocument& document);
+
+}  // namespace talvesk
