@@ -8,6 +8,7 @@
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
+#include "tomo/KeepRun.h"
 #include "tomo/RayRecomputation.h"
 
 #include <chrono>
@@ -169,6 +170,7 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   }
   result.misfit = result.history.back();
   const Status finished = finish(document, p, watch, result, log);
+  if (finished.ok()) result.runsGone = keepRun(document);
   if (result.status.ok()) result.status = finished;
   return result;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Log.h"
+#include "base/Message.h"
 #include "base/Status.h"
 #include "model/Parameters.h"
 #include "tomo/Misfit.h"
@@ -52,6 +53,8 @@ struct TomographyResult {
   std::vector<std::vector<double>> lastPassTimes;  ///< computed, seconds, per record
   /// Through the section that the document holds now, along fresh rays; count 0 without any pick.
   SectionMisfit sectionMisfit;
+  /// Titles of runs that were kept and had to go for this one.
+  std::vector<Message> runsGone;
 };
 
 /// A whole inversion: external iterations until done or stopped, then the information density, the
