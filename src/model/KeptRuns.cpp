@@ -7,68 +7,34 @@
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 
-#include <algorithm>
-#include <utility>
+#include <cmath>
 
 namespace talvesk {
 namespace {
-
-std::size_t numbersOf(const std::vector<KeptRun>& runs) {
-  std::size_t numbers = 0;
-  for (const KeptRun& run : runs) numbers += run.numbers();
-  return numbers;
-}
 
 void take(const Point2D& point, Fingerprint& positions) {
   positions.take(point.x);
   positions.take(point.z);
 }
 
-}  // namespace
+/// Metres: what interpolating between two points may lose, as where a shot has come between two
+/// geophones.
+constexpr double kSameElevation = 1e-9;
 
-Message KeptRun::title() const {
-  return name.empty() ? Message::tr("Run %1").arg(number) : Message(name);
-}
-
-SectionMisfit KeptRun::misfit() const {
-  return record.sectionHistory.empty() ? SectionMisfit() : record.sectionHistory.back();
-}
-
-std::size_t KeptRun::numbers() const {
-  std::size_t count = slowness.size() + coorcount.size() + hitCounts.size();
-  for (const SharedVector<double>& shot : times) count += shot.size();
-  return count;
-}
-
-std::vector<Message> addRun(KeptRun run, std::vector<KeptRun>& runs) {
-  std::uint32_t last = 0;
-  for (const KeptRun& each : runs) last = std::max(last, each.number);
-  run.number = last + 1;
-  const std::size_t room = kMostRunNumbers - std::min(kMostRunNumbers, run.numbers());
-  std::vector<Message> gone;
-  while (!runs.empty() && (runs.size() >= kMostRuns || numbersOf(runs) > room)) {
-    auto oldest = std::find_if(runs.begin(), runs.end(),
-                               [](const KeptRun& each) { return each.name.empty(); });
-    if (oldest == runs.end()) oldest = runs.begin();
-    gone.push_back(oldest->title());
-    runs.erase(oldest);
+/// Whether a surface has the other's elevations wherever the other bends.
+bool follows(Splines::LinearSpline surface, const Splines::LinearSpline& other) {
+  for (std::uint32_t i = 0; i < other.npts(); ++i) {
+    if (!(std::fabs(surface(other.X()[i]) - other.Y()[i]) <= kSameElevation)) return false;
   }
-  runs.push_back(std::move(run));
-  return gone;
+  return true;
 }
 
-std::optional<std::size_t> findRun(const std::vector<KeptRun>& runs, const std::string& called) {
-  const auto last = [&](auto isIt) -> std::optional<std::size_t> {
-    for (std::size_t i = runs.size(); i-- > 0;) {
-      if (isIt(runs[i])) return i;
-    }
-    return std::nullopt;
-  };
-  const auto byNumber =
-      last([&](const KeptRun& run) { return std::to_string(run.number) == called; });
-  if (byNumber) return byNumber;
-  return last([&](const KeptRun& run) { return !called.empty() && run.title() == called; });
+bool sameSurface(const Splines::LinearSpline& a, const Splines::LinearSpline& b) {
+  return a.npts() > 1 && b.npts() > 1 && a.X().front() == b.X().front() &&
+         a.X().back() == b.X().back() && follows(a, b) && follows(b, a);
 }
+
+}  // namespace
 
 std::optional<std::size_t> shownRun(const TomoDocument& document) {
   const Grid* grid = document.model->grid.get();
@@ -81,10 +47,6 @@ std::optional<std::size_t> shownRun(const TomoDocument& document) {
     }
   }
   return std::nullopt;
-}
-
-bool sameCells(const GridSize& a, const GridSize& b) {
-  return a.righe == b.righe && a.col == b.col && a.nV == b.nV && a.aLato == b.aLato;
 }
 
 std::uint64_t fingerprintOfPositions(const TomoDocument& document) {
@@ -105,9 +67,8 @@ RunChanges changesSince(const KeptRun& run, const TomoDocument& document) {
   changes.picks = run.record.picks != fingerprintOfPicks(document.ttArray);
   changes.positions = run.positions != fingerprintOfPositions(document);
   const SurveyProfile profile = document.surveyProfile();
-  const Splines::LinearSpline surface = profile.surface();
   changes.ground = !profile.hasGeometry() || run.xOffset != profile.xOffset ||
-                   run.surface.X() != surface.X() || run.surface.Y() != surface.Y();
+                   !sameSurface(run.surface, profile.surface());
   return changes;
 }
 

@@ -2,7 +2,7 @@
 
 #include "io/Survey.h"
 #include "model/GroundModel.h"
-#include "model/KeptRuns.h"
+#include "model/KeptRun.h"
 #include "model/Recordings.h"
 #include "model/RefractionDataStructure.h"
 #include "model/SurveyLine.h"

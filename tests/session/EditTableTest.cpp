@@ -1,4 +1,4 @@
-#include "model/KeptRuns.h"
+#include "model/KeptRun.h"
 #include "session/EditTable.h"
 #include "session/FullSurvey.h"
 #include "session/Session.h"
