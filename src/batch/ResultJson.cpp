@@ -1,6 +1,7 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "batch/RunList.h"
 #include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
@@ -332,6 +333,7 @@ std::string projectJson(const LoadedProject& project) {
                             : Json(document.result->RMSE_tomography);
   putSectionMisfit(json, sectionMisfitOf(document));
   json["crs"] = document.map->geoCoord_isSet ? Json(document.map->geoCoord.CRS) : Json(nullptr);
+  json["runs"] = runsJson(document);
   json["palette"] = project.palettes->current().name;
   json["layered_shots"] = project.interpretation->ttLayer.size();
   const auto& profile = project.interpretation->refractData;
