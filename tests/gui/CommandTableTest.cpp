@@ -301,6 +301,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionAGC",
         "actionApply_Hushel",
         "actionRun_tomography_inversion",
+        "actionInversion_runs",
         "actionRefraction",
         "actionNext_file",
         "actionPrev_file",

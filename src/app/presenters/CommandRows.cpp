@@ -94,6 +94,7 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
        nullptr, "on_actionAuto_improve_triggered"},
       {"actionRun_tomography_inversion", &State::records,
        call(p.inversion, &InversionPresenter::run)},
+      {"actionInversion_runs", &State::records, call(p.runs, &RunsPresenter::show)},
       {"actionApply_smoothing", &State::cells, call(p.models, &ModelPresenter::smooth)},
       {"actionRefraction", &State::records, call(p.refraction, &RefractionPresenter::interpret)},
   };

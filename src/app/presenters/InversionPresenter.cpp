@@ -4,6 +4,7 @@
 #include "app/CommandLock.h"
 #include "app/InversionTexts.h"
 #include "app/LeftOutText.h"
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/dialogs/progressTomographyDialog.h"
 #include "app/dialogs/runTomography_Dialog.h"
@@ -142,6 +143,10 @@ void InversionPresenter::showResult(const TomographyResult& result) {
   QString outcome = tr("%n external iteration(s) completed.", nullptr, result.iterationsDone);
   if (!left.isEmpty()) {
     outcome += QLatin1Char(' ') + tr("Left out: %1.").arg(left.join(QStringLiteral("; ")));
+  }
+  for (const Message& gone : result.runsGone) {
+    outcome += QLatin1Char(' ') +
+               tr("The list of inversion runs is full; \"%1\" has gone.").arg(textOf(gone));
   }
   mDesk.tell(outcome);
   if (result.misfit.count == 0) {

@@ -15,6 +15,7 @@
 #include "app/presenters/RecoveryPresenter.h"
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
+#include "app/presenters/RunsPresenter.h"
 #include "app/presenters/SectionPresenter.h"
 #include "app/presenters/SettingsPresenter.h"
 #include "app/presenters/ShotFilesPresenter.h"
@@ -49,6 +50,7 @@ struct Presenters {
   GeometryPresenter geometry;
   ModelPresenter models;
   InversionPresenter inversion;
+  RunsPresenter runs;
   ProcessingPresenter processing;
   RefractionPresenter refraction;
   ExportPresenter exports;
