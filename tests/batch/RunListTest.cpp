@@ -18,11 +18,11 @@ class RunList : public testing::Test {
   void SetUp() override {
     const std::string line = folder.write("line.otte", smallLine());
     ASSERT_EQ(run({"invert", line, "--cell-size", "1", "--depth", "5", "--iterations", "2", "-o",
-                   project, "--gridded", folder / "smoothed.txt"})
+                   folder / "start.tvsk", "--gridded", folder / "smoothed.txt"})
                   .code,
               0);
-    ASSERT_EQ(run({"invert", project, "--method", "fitted", "-o", project, "--gridded",
-                   folder / "fitted.txt"})
+    ASSERT_EQ(run({"invert", folder / "start.tvsk", "--method", "fitted", "-o", project,
+                   "--gridded", folder / "fitted.txt"})
                   .code,
               0);
   }
