@@ -51,6 +51,7 @@ Status prepareDifference(const RunComparison& comparison, FigureDrawing& drawing
   SectionFigureOptions options = plainLook(comparison, comparison.widthMm);
   CellValues values{Message::tr("Difference of velocity"), "%",
                     velocityDifference(comparison.right, comparison.left)};
+  options.scene.coverageLimit = false;  // each has its own; what is drawn lies within both
   options.scene.range = differenceRange(values.values);
   options.scene.values = std::move(values);
   options.palette = differencePalette();

@@ -72,7 +72,8 @@ TEST_F(RunList, startsAnInversionFromARun) {
   const ordered_json list = runs(next);
   ASSERT_EQ(list.size(), 3U);
   EXPECT_EQ(list[2]["number"], 3);
-  const double start = ordered_json::parse(contentsOf(json))["section_history"][0]["rmse_ms"];
+  const double start =
+      ordered_json::parse(contentsOf(json))["section_history"][0]["section_rmse_ms"];
   EXPECT_NEAR(start, list[0]["section_rmse_ms"].get<double>(), 1e-9);
 }
 

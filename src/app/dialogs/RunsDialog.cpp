@@ -187,10 +187,7 @@ void RunsDialog::takeName(QTableWidgetItem* item) {
   const unsigned number = item->data(kNumber).toUInt();
   for (const KeptRun& run : mDocument.runs) {
     if (run.number != number || runTitle(run) == item->text()) continue;
-    const QString name = item->text().simplified();
-    // Told later: the list is filled anew then, and the editor is still at it.
-    QMetaObject::invokeMethod(
-        this, [this, number, name] { emit nameWanted(number, name); }, Qt::QueuedConnection);
+    emit nameWanted(number, item->text().simplified());
     return;
   }
 }

@@ -31,7 +31,8 @@ class RunsDialog : public QDialog {
 
  signals:
   void useWanted(unsigned number);
-  void nameWanted(unsigned number, const QString& name);  ///< empty: none
+  /// Empty: none. Told while the list takes the name in; it can be filled anew afterwards.
+  void nameWanted(unsigned number, const QString& name);
   void deleteWanted(const std::vector<unsigned>& numbers);
   void comparisonWanted(unsigned left, unsigned right);
 

@@ -52,7 +52,7 @@ void RunsPresenter::show() {
   });
   connect(&dialog, &RunsDialog::nameWanted, this, [&](unsigned number, const QString& name) {
     rename(number, name);
-    refresh();
+    QMetaObject::invokeMethod(&dialog, refresh, Qt::QueuedConnection);
   });
   connect(&dialog, &RunsDialog::deleteWanted, this, [&](const std::vector<unsigned>& numbers) {
     remove(numbers);
