@@ -51,7 +51,7 @@ std::shared_ptr<const GridGeometry> geometryOf(const KeptRun& run, const GroundM
   return std::make_shared<GridGeometry>(run.size, run.surface);
 }
 
-void putOutcome(const KeptRun& run, const Grid& grid, TomoDocument& document, Log& log) {
+void putOutcome(const KeptRun& run, const Grid& grid, TomoDocument& document) {
   const InversionRecord& record = run.record;
   TomographyOutcome outcome;
   outcome.has_tomographic_info = true;
@@ -59,9 +59,7 @@ void putOutcome(const KeptRun& run, const Grid& grid, TomoDocument& document, Lo
   outcome.sectionHistory = record.sectionHistory;
   outcome.coorcount = *run.coorcount;
   outcome.hitCounts = *run.hitCounts;
-  outcome.info_density =
-      smoothRayDensity(static_cast<SmoothingType>(record.smoothingType), grid, outcome.hitCounts,
-                       record.smoothing, verticalRatio(record.symmetric), log);
+  outcome.info_density.assign(grid.cellCount(), -1.0);
   outcome.lastInversion = record;
   document.result = std::move(outcome);
 }
@@ -86,6 +84,20 @@ void putTimes(const KeptRun& run, TomoDocument& document) {
   document.result.edit().timesOfSection = known;
 }
 
+Status putDensity(const KeptRun& run, TomoDocument& document, Log& log) {
+  const InversionRecord& record = run.record;
+  try {
+    TomographyOutcome& outcome = document.result.edit();
+    outcome.info_density =
+        smoothRayDensity(static_cast<SmoothingType>(record.smoothingType), *document.model->grid,
+                         outcome.hitCounts, record.smoothing, verticalRatio(record.symmetric), log);
+    return {};
+  } catch (const std::exception& error) {
+    return Status::failure(
+        Message::tr("\"%1\" cannot be used: %2").arg(run.title()).arg(error.what()));
+  }
+}
+
 }  // namespace
 
 std::vector<Message> keepRun(TomoDocument& document) {
@@ -107,12 +119,12 @@ std::vector<Message> keepRun(TomoDocument& document) {
   return addRun(std::move(run), document.runs.edit());
 }
 
-Status putRun(const KeptRun& run, TomoDocument& document, Log& log) {
+Status putRun(const KeptRun& run, TomoDocument& document) {
   try {
     if (Status status = checkGridSize(run.size, 1); !status.ok()) return status;
     TomoDocument next = document;
     auto grid = std::make_unique<Grid>(geometryOf(run, *document.model), *run.slowness);
-    putOutcome(run, *grid, next, log);
+    putOutcome(run, *grid, next);
     setCoverage(next, *grid);
     putTimes(run, next);
     GroundModel& model = next.model.edit();
@@ -139,7 +151,8 @@ Status useRun(std::size_t index, unsigned threads, TomoDocument& document, Log& 
             .arg(run.title()));
   }
   TomoDocument next = document;
-  Status status = putRun(run, next, log);
+  Status status = putRun(run, next);
+  if (status.ok()) status = putDensity(run, next, log);
   if (status.ok()) status = traceSection(next, threads, log);
   if (status.ok()) document = std::move(next);
   return status;

@@ -113,7 +113,7 @@ TEST_F(RunsOfAProject, thatCannotHaveBeenAreLeftOut) {
                {"<nV>6", "<nV>100000"},
                {"<aLato>", "<aLato>-"},
                {"<x_offset>", "<x_offset>9999999999"},
-               {"<smoothing>", "<smoothing>100000"},
+               {"<smoothing>", "<smoothing>-"},
                {"<smoothingType>", "<smoothingType>9"},
                {"<number>1", "<number>0"},
                {"<number>1", "<number>2"}};

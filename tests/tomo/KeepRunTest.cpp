@@ -107,7 +107,7 @@ TEST_F(KeptRuns, ofAnotherLineAreShownAndNotUsed) {
   const Status status = useRun(0, 1, line, log);
   EXPECT_NE(status.message().find("Run 1"), std::string::npos) << status.message();
   EXPECT_EQ(line.model->grid, nullptr) << "a failure leaves the survey as it was";
-  ASSERT_TRUE(putRun(KeptRun(line.runs[0]), line, log).ok());
+  ASSERT_TRUE(putRun(KeptRun(line.runs[0]), line).ok());
   EXPECT_EQ(line.model->grid->slownesses(), found);
   EXPECT_EQ(sectionMisfitOf(line).count, 0) << "its times are those of other places";
 }

@@ -39,11 +39,8 @@ std::optional<double> timesApart(const KeptRun& a, const KeptRun& b) {
 }  // namespace
 
 CompareRunsDialog::CompareRunsDialog(const TomoDocument& document, const SectionFigureOptions& look,
-                                     bool lockedRange, Log& log, QWidget* parent)
-    : QDialog(parent),
-      mUi(std::make_unique<Ui::CompareRunsDialog>()),
-      mDocument(document),
-      mLog(log) {
+                                     bool lockedRange, QWidget* parent)
+    : QDialog(parent), mUi(std::make_unique<Ui::CompareRunsDialog>()), mDocument(document) {
   mUi->setupUi(this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mComparison.look = look;
@@ -97,8 +94,8 @@ Status CompareRunsDialog::makeComparison() {
   const KeptRun& left = mDocument.runs[indexIn(*mUi->leftBox)];
   const KeptRun& right = mDocument.runs[indexIn(*mUi->rightBox)];
   mComparison.left = mComparison.right = mDocument;
-  Status status = putRun(left, mComparison.left, mLog);
-  if (status.ok()) status = putRun(right, mComparison.right, mLog);
+  Status status = putRun(left, mComparison.left);
+  if (status.ok()) status = putRun(right, mComparison.right);
   mComparison.leftTitle = runTitle(left).toStdString();
   mComparison.rightTitle = runTitle(right).toStdString();
   mComparison.differenceTitle =

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Log.h"
+#include "base/Status.h"
 #include "figures/RunComparison.h"
 #include "model/TomoDocument.h"
 
@@ -25,9 +25,9 @@ class CompareRunsDialog : public QDialog {
 
  public:
   /// \param look palette, markers and the like of the sections \param lockedRange the palette's
-  /// scale is to stay \param log outlives the dialog
+  /// scale is to stay
   CompareRunsDialog(const TomoDocument& document, const SectionFigureOptions& look,
-                    bool lockedRange, Log& log, QWidget* parent = nullptr);
+                    bool lockedRange, QWidget* parent = nullptr);
   ~CompareRunsDialog() override;
 
   void choose(unsigned left, unsigned right);  ///< by their numbers
@@ -43,7 +43,6 @@ class CompareRunsDialog : public QDialog {
 
   std::unique_ptr<Ui::CompareRunsDialog> mUi;
   const TomoDocument mDocument;
-  Log& mLog;
   RunComparison mComparison;
   FigureSheetWidget* mSheet;
 };

@@ -113,8 +113,7 @@ void RunsPresenter::remove(const std::vector<unsigned>& numbers) {
 void RunsPresenter::compare(unsigned left, unsigned right, RunsDialog& dialog) {
   const SectionFigureOptions look =
       sectionFigureOptions(mDesk.section(), mDesk.palettes().current());
-  CompareRunsDialog comparison(mDesk.document(), look, mDesk.section().lockRange, mDesk.log,
-                               &dialog);
+  CompareRunsDialog comparison(mDesk.document(), look, mDesk.section().lockRange, &dialog);
   comparison.saveWanted = [this](const RunComparison& shown) { save(shown); };
   comparison.choose(left, right);
   comparison.exec();
