@@ -15,6 +15,7 @@ struct CommandIcon {
 constexpr CommandIcon kIcons[] = {
     {"actionNew", ":/icons/new-file.png"},
     {"actionRun_tomography_inversion", ":/icons/speed.png"},
+    {"actionInversion_runs", ":/icons/table.png"},
     {"actionDefine_model_velocity", ":/icons/layers.png"},
     {"actionNext_file", ":/icons/next.png"},
     {"actionPrev_file", ":/icons/back.png"},

@@ -26,16 +26,23 @@ void addInfo(CLI::App& app, InfoOptions& info) {
               "Several files make one array");
   addPickReading(command, info.picks);
   command.add_flag("--samples", info.samples, "Write the samples of shot files, too")->needs(json);
+  CLI::Option* list = command.add_flag(
+      "--list", info.listRuns,
+      "List the inversion runs that projects keep, the one that is shown with a star; --json has "
+      "them in any case");
   addReader(command, info.reader)
       ->description(
           "By what shot files must be readable: rules, as this program always has; standard, by "
           "the "
           "published standard of their format, whatever their suffix (default: rules). What either "
           "makes of a file is told in any case");
-  command.final_callback([&info] {
+  command.final_callback([&info, list] {
     const auto isShot = [&info](const std::string& file) { return isShotFile(file, info.reader); };
     if (info.samples && std::none_of(info.files.begin(), info.files.end(), isShot)) {
       throw CLI::ValidationError("--samples", "only shot files have samples to write");
+    }
+    if (list->count() > 0 && std::none_of(info.files.begin(), info.files.end(), isProjectFile)) {
+      throw CLI::ValidationError("--list", "only projects have inversion runs to list");
     }
   });
 }

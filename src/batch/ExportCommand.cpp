@@ -5,6 +5,7 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/Reports.h"
+#include "batch/RunList.h"
 #include "export/ExportFailure.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"
@@ -133,6 +134,10 @@ int run(const ExportOptions& options) {
 
   LoadedProject project;
   Status status = readProject(options.project, project);
+  if (status.ok() && !options.run.empty()) {
+    Log log;
+    status = chooseRun(options.run, project, log);
+  }
   if (status.ok()) status = prepareFigures(options, project.document);
   if (!status.ok()) return failed(status.message());
   KmlColors colors;

@@ -126,6 +126,11 @@ void addExport(CLI::App& app, ExportOptions& options) {
       "Write the section of a project for other programs, each output as it is asked for");
   mustEndIn(command.add_option("PROJECT", options.project, "The project, named *.tvsk")->required(),
             {".tvsk"}, true);
+  command
+      .add_option("--use", options.run,
+                  "The inversion run whose section is written, by its number or name; 'info "
+                  "PROJECT --list' lists them (default: that which the project shows)")
+      ->type_name("RUN");
   addOutputs(command, options);
   command.add_flag("--quiet", options.quiet, kQuietHelp);
   command.final_callback([&options] {

@@ -5,6 +5,7 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
+#include "batch/RunList.h"
 #include "grid/SurveyProfile.h"
 #include "io/FileFormats.h"
 #include "io/ReadingComparison.h"
@@ -133,6 +134,7 @@ class Inventory {
     LoadedProject project;
     const Status status = readProject(file, project);
     take(file, status, project, [&] { return projectJson(project); });
+    if (status.ok() && mOptions.listRuns && mOptions.json.empty()) listRuns(project.document, mOut);
   }
 
   ReadShotFile readByRules(const std::string& file) {

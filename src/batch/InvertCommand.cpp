@@ -10,6 +10,7 @@
 #include "batch/Reports.h"
 #include "batch/Resolution.h"
 #include "batch/ResultJson.h"
+#include "batch/RunList.h"
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
 #include "grid/GridBuilder.h"
@@ -246,6 +247,7 @@ int run(const InvertOptions& options) {
   manner.summary = channels.summary;
   Status status = readSurvey(options.input, options.picks, options.shots, manner, project);
   if (status.ok()) status = checkPicks(document, inputsOf(options));
+  if (status.ok() && !options.run.empty()) status = chooseRun(options.run, project, log);
   if (status.ok()) status = setUpModel(options, project, log);
   if (status.ok()) status = tellWhatIsLeftOut(document);
   if (!status.ok()) return failed(status.message());
@@ -261,6 +263,9 @@ int run(const InvertOptions& options) {
   const int runCode = result.status.ok() ? kDone : failed(result.status.message());
   if (result.iterationsDone == 0) return runCode;
   if (fit) warnAboutFit(fit->fit);
+  for (const Message& gone : result.runsGone) {
+    warn("the list of inversion runs is full; its oldest has gone: " + gone.english());
+  }
   std::optional<ResolutionReport> resolution;
   if (options.resolution) resolution = resolve(options, document);
   const int exitCode = writeResults(options, project, result, fit ? &*fit : nullptr,

@@ -1,5 +1,6 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
+#include "batch/ProjectFiles.h"
 #include "tomo/GridSetup.h"
 
 #include <algorithm>
@@ -312,6 +313,12 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   addElevationOptions(command, options.shots.elevations);
   const ShotOptionGroup shots = addShotOptions(command, options.shots, "--pick-method");
   addGridOptions(command, options);
+  command
+      .add_option("--use", options.run,
+                  "The inversion run of the project whose grid and velocities it starts from, by "
+                  "its number or name (default: that which the project shows)")
+      ->type_name("RUN")
+      ->group("Inversion");
   const auto smoothed = addRunOptions(command, options);
   const auto fitted = addFitOptions(command, options);
   addResolutionOption(command, options);
@@ -328,6 +335,12 @@ void addInvert(CLI::App& app, InvertOptions& options) {
     checkMethod(options, smoothed, fitted);
     sortInputs(*inputs, shots.anyGiven(), options.input, options.shots);
     shots.check(options.shots);
+    if (!options.run.empty() && !isProjectFile(options.input)) {
+      throw CLI::ValidationError("--use", "only a project keeps inversion runs");
+    }
+    if (!options.run.empty() && options.ownGrid) {
+      throw CLI::ValidationError("--use", "does not go with a grid of its own");
+    }
     if (options.contours > 0 && options.images.empty() && options.report.empty()) {
       throw CLI::RequiresError("--contours", "--image or --report");
     }

@@ -34,6 +34,7 @@ struct InfoOptions {
   TravelTimeReading picks;
   std::string json;
   bool samples = false;
+  bool listRuns = false;
   ShotReader reader = ShotReader::kRules;  ///< whose failure is that of the command
 };
 
@@ -111,6 +112,7 @@ struct InvertOptions {
   int nodes = parameters::kNodes.initial;  ///< per cell side
   std::vector<VelocityLayer> layers;       ///< none: the grid's default model
   bool ownGrid = false;                    ///< one of the above was given
+  std::string run;  ///< of the project, to start from; empty: from the section that it has
   InversionMethod method = InversionMethod::kSmoothed;
   FittedSettings fitted;                        ///< but what follows, which both methods have
   std::string reference = kBestReference;       ///< of a fit: a key of References.h
@@ -154,6 +156,7 @@ struct RefractOptions {
 /// What is written of the section of a project.
 struct ExportOptions {
   std::string project;
+  std::string run;  ///< whose section it is to be; empty: that of the project
   std::string gridded;
   GriddedTextOptions griddedText;
   std::string otte;

@@ -3,6 +3,7 @@
 #include "batch/JsonText.h"
 #include "batch/ReciprocityText.h"
 #include "batch/Resolution.h"
+#include "batch/RunList.h"
 #include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
@@ -401,6 +402,7 @@ std::string projectJson(const LoadedProject& project) {
   if (!document.result->has_tomographic_info) json["method"] = nullptr;
   json["reference"] = fitted ? Json(run->fit->reference) : Json(nullptr);
   json["crs"] = document.map->geoCoord_isSet ? Json(document.map->geoCoord.CRS) : Json(nullptr);
+  json["runs"] = runsJson(document);
   json["palette"] = project.palettes->current().name;
   json["layered_shots"] = project.interpretation->ttLayer.size();
   const auto& profile = project.interpretation->refractData;

@@ -35,6 +35,10 @@ class LanguageOfProgram : public Message::Language {
   const QLocale& mLocale;
 };
 
+QString unitOf(const SectionScene& scene) {
+  return qt(scene.values ? scene.values->unit : quantityUnit(scene.quantity));
+}
+
 template <typename Is>
 std::size_t countOf(const std::vector<TraceMend>& traces, Is is) {
   return static_cast<std::size_t>(std::count_if(traces.begin(), traces.end(), is));
@@ -97,9 +101,13 @@ QString FigureWords::quantity(SectionQuantity quantity) {
   return tr("Velocity");
 }
 
-QString FigureWords::quantityAxis(SectionQuantity kind) {
-  const QString unit = qt(quantityUnit(kind));
-  return unit.isEmpty() ? quantity(kind) : QStringLiteral("%1 [%2]").arg(quantity(kind), unit);
+QString FigureWords::quantity(const SectionScene& scene) {
+  return scene.values ? message(scene.values->name, QLocale::c()) : quantity(scene.quantity);
+}
+
+QString FigureWords::quantityAxis(const SectionScene& scene) {
+  const QString unit = unitOf(scene);
+  return unit.isEmpty() ? quantity(scene) : QStringLiteral("%1 [%2]").arg(quantity(scene), unit);
 }
 
 // Counts are spelt out instead of left to the plurals of a translation: the headless program has no
@@ -163,12 +171,12 @@ QStringList FigureWords::sectionFacts(const SectionScene& scene, double vertical
     return number(valueText(value, step), locale);
   };
   const double step = scene.range.span() / 100.0;
-  QString unit = qt(quantityUnit(scene.quantity));
+  QString unit = unitOf(scene);
   if (!unit.isEmpty()) unit.prepend(QLatin1Char(' '));
   QStringList facts;
   if (scene.fill != SectionFill::kNone) {
     facts += tr("%1 %2 to %3", "quantity, least and greatest value with its unit")
-                 .arg(quantity(scene.quantity), text(scene.dataRange.min, step),
+                 .arg(quantity(scene), text(scene.dataRange.min, step),
                       text(scene.dataRange.max, step) + unit);
   }
   if (const double spacing = levelSpacing(scene.contourLevels); spacing > 0.0) {
@@ -189,7 +197,7 @@ QStringList FigureWords::sectionFacts(const SectionScene& scene, double vertical
 
 QString FigureWords::sectionTitle(const SectionScene& scene) {
   const QString title = qt(scene.title).simplified();
-  return title.isEmpty() && scene.fill != SectionFill::kNone ? quantity(scene.quantity) : title;
+  return title.isEmpty() && scene.fill != SectionFill::kNone ? quantity(scene) : title;
 }
 
 QString FigureWords::joined(const QStringList& parts) {

@@ -20,8 +20,9 @@ struct FigureWords {
 
  public:
   static QString quantity(SectionQuantity quantity);
+  static QString quantity(const SectionScene& scene);
   /// With its unit: "Velocity [m/s]".
-  static QString quantityAxis(SectionQuantity quantity);
+  static QString quantityAxis(const SectionScene& scene);
   static QString distanceAxis() { return tr("Distance [m]"); }
   static QString elevationAxis() { return tr("Elevation [m]"); }
   static QString timeAxis() { return tr("Time [ms]"); }

@@ -145,7 +145,7 @@ void SectionPaperPainter::paintColorBar() {
 
   Axis axis;
   axis.room = QRectF(QPointF(0.0, 0.0), mSize);
-  axis.title = FigureWords::quantityAxis(mScene.quantity);
+  axis.title = FigureWords::quantityAxis(mScene);
   if (upright) {
     axis.ticks = barTicks(mScene, mColors, bar.height(), kBarSpacing * mLine);
     axis.outward = {1.0, 0.0};

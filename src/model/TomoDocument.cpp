@@ -3,6 +3,7 @@
 #include "base/Console.h"
 #include "base/TextNumber.h"
 #include "model/GroundModel.h"
+#include "model/KeptRun.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"

@@ -17,6 +17,7 @@ namespace talvesk {
 
 class Log;
 struct GroundModel;
+struct KeptRun;
 struct Recordings;
 struct SurveyLine;
 struct TomographyOutcome;
@@ -47,6 +48,7 @@ class TomoDocument {
   Shared<GroundModel> model;         ///< model/GroundModel.h
   Shared<TomographyOutcome> result;  ///< of the last inversion, model/TomographyOutcome.h
   Shared<MapPosition> map;           ///< model/GeographicsCoord.h
+  SharedVector<KeptRun> runs;        ///< inversions so far, oldest first; model/KeptRun.h
   /// Metres, one more for every look at the survey. What was proposed is remembered, be the edits
   /// since undone or not, so it is no part of the model.
   SharedVector<double> proposedCellSizes;

@@ -10,29 +10,31 @@ Fate EditRule::fate(Part part) const {
 }
 
 const std::vector<EditRule>& editTable() {
-  // Parts: recordings, picks, geometry, model, result, marks, profile, look, map.
+  // Parts: recordings, picks, geometry, model, result, marks, profile, look, map, runs.
   static const std::vector<EditRule> table = {
-      {Edit::kOpenShots, Message::tr("Open shot files"), "CCCGVC..S"},
-      {Edit::kRemoveShot, Message::tr("Remove shot"), "CCCGVCV.S"},
-      {Edit::kImport, Message::tr("Import travel times"), ".CCGGCV.S"},
-      {Edit::kImportSurvey, Message::tr("Import travel times"), "CCCGVVVCV"},
-      {Edit::kShotTime, Message::tr("Count times from the shot"), "CC..S.S.."},
-      {Edit::kMend, Message::tr("Mend recordings"), "CC..S.S.."},
-      {Edit::kPick, Message::tr("Edit picks"), ".C..S.S.."},
-      {Edit::kConfirmPicks, Message::tr("Confirm picks"), ".C......."},
-      {Edit::kAutoPick, Message::tr("AutoPick"), "CC..S.S.."},
-      {Edit::kFilter, Message::tr("Filter"), "C........"},
-      {Edit::kGeometry, Message::tr("Geometry"), "..CVV.V.S"},
-      {Edit::kRecordPairs, Message::tr("S-wave recordings"), "CCCVVCV.S"},
-      {Edit::kGrid, Message::tr("Grid"), "...CC...."},
-      {Edit::kStartingModel, Message::tr("Define model velocity"), "...CC...."},
-      {Edit::kSmoothing, Message::tr("Apply smoothing"), "...CC...."},
-      {Edit::kInversion, Message::tr("Run tomography inversion"), "...CC...."},
-      {Edit::kRefraction, Message::tr("Refraction"), ".....CC.."},
-      {Edit::kTitle, Message::tr("Set title"), ".......C."},
-      {Edit::kPalette, Message::tr("Palette"), ".......C."},
-      {Edit::kContours, Message::tr("Contour lines"), ".......C."},
-      {Edit::kMapPosition, Message::tr("Set geographic coordinates"), "........C"},
+      {Edit::kOpenShots, Message::tr("Open shot files"), "CCCGVC..SS"},
+      {Edit::kRemoveShot, Message::tr("Remove shot"), "CCCGVCV.SS"},
+      {Edit::kImport, Message::tr("Import travel times"), ".CCGGCV.SS"},
+      {Edit::kImportSurvey, Message::tr("Import travel times"), "CCCGVVVCVV"},
+      {Edit::kShotTime, Message::tr("Count times from the shot"), "CC..S.S..S"},
+      {Edit::kMend, Message::tr("Mend recordings"), "CC..S.S..S"},
+      {Edit::kPick, Message::tr("Edit picks"), ".C..S.S..S"},
+      {Edit::kConfirmPicks, Message::tr("Confirm picks"), ".C........"},
+      {Edit::kAutoPick, Message::tr("AutoPick"), "CC..S.S..S"},
+      {Edit::kFilter, Message::tr("Filter"), "C........."},
+      {Edit::kGeometry, Message::tr("Geometry"), "..CVV.V.SS"},
+      {Edit::kRecordPairs, Message::tr("S-wave recordings"), "CCCVVCV.SS"},
+      {Edit::kGrid, Message::tr("Grid"), "...CC....."},
+      {Edit::kStartingModel, Message::tr("Define model velocity"), "...CC....."},
+      {Edit::kSmoothing, Message::tr("Apply smoothing"), "...CC....."},
+      {Edit::kInversion, Message::tr("Run tomography inversion"), "...CC....C"},
+      {Edit::kUseRun, Message::tr("Use run"), "...CC....."},
+      {Edit::kRuns, Message::tr("Inversion runs"), ".........C"},
+      {Edit::kRefraction, Message::tr("Refraction"), ".....CC..."},
+      {Edit::kTitle, Message::tr("Set title"), ".......C.."},
+      {Edit::kPalette, Message::tr("Palette"), ".......C.."},
+      {Edit::kContours, Message::tr("Contour lines"), ".......C.."},
+      {Edit::kMapPosition, Message::tr("Set geographic coordinates"), "........C."},
   };
   return table;
 }

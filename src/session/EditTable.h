@@ -26,6 +26,8 @@ enum class Edit {
   kStartingModel,
   kSmoothing,
   kInversion,
+  kUseRun,
+  kRuns,
   kRefraction,
   kTitle,
   kPalette,

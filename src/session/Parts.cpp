@@ -2,6 +2,7 @@
 
 #include "io/Survey.h"
 #include "model/GroundModel.h"
+#include "model/KeptRun.h"
 #include "model/Recordings.h"
 #include "model/RefractionDataStructure.h"
 #include "model/SurveyLine.h"
@@ -190,6 +191,20 @@ void addResult(const TomographyOutcome& survey, const TomographyOutcome& other, 
   for (const auto& ray : survey.rays) sum.add(ray);
 }
 
+/// Of runs that the other survey does not have.
+void addRuns(const SharedVector<KeptRun>& runs, const SharedVector<KeptRun>& other, Sum& sum) {
+  for (const KeptRun& run : runs) {
+    const bool shared = std::any_of(other.begin(), other.end(), [&](const KeptRun& each) {
+      return each.slowness.isSharedWith(run.slowness);
+    });
+    if (shared) continue;
+    sum.add(*run.slowness);
+    sum.add(*run.coorcount);
+    sum.add(*run.hitCounts);
+    for (const auto& times : run.times) sum.add(*times);
+  }
+}
+
 void addInterpretation(const Interpretation& interpretation, Sum& sum) {
   for (const auto& shot : interpretation.ttLayer) {
     sum.add(shot.layer);
@@ -241,6 +256,7 @@ PartSet differingParts(const Survey& a, const Survey& b) {
             a.section.contours != b.section.contours || a.section.lockRange != b.section.lockRange,
         Part::kLook);
   addIf(!a.document.map.isSharedWith(b.document.map), Part::kMap);
+  addIf(!a.document.runs.isSharedWith(b.document.runs), Part::kRuns);
   addIf(!sameView(a.section, b.section), Part::kView);
   return parts;
 }
@@ -253,6 +269,7 @@ std::size_t bytesNotShared(const Survey& survey, const Survey& other) {
   if (!a.ttArray.isSharedWith(b.ttArray)) addRecords(a.ttArray, b.ttArray, sum);
   if (!a.model.isSharedWith(b.model)) addModel(*a.model, *b.model, sum);
   if (!a.result.isSharedWith(b.result)) addResult(*a.result, *b.result, sum);
+  if (!a.runs.isSharedWith(b.runs)) addRuns(a.runs, b.runs, sum);
   if (!survey.interpretation.isSharedWith(other.interpretation)) {
     addInterpretation(*survey.interpretation, sum);
   }
@@ -289,6 +306,9 @@ void forgetPart(Part part, Survey& survey) {
       break;
     case Part::kMap:
       document.map = {};
+      break;
+    case Part::kRuns:
+      if (!document.runs.empty()) document.runs = {};
       break;
   }
 }

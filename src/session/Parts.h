@@ -19,11 +19,12 @@ enum class Part {
   kProfile,
   kLook,  ///< title, palettes, contours
   kMap,
-  kView  ///< what the section shows of all that; it is saved, but no edit
+  kRuns,  ///< the list of inversions that have been run
+  kView   ///< what the section shows of all that; it is saved, but no edit
 };
-inline constexpr std::array<Part, 10> kParts = {
-    Part::kRecordings, Part::kPicks,   Part::kGeometry, Part::kModel, Part::kResult,
-    Part::kMarks,      Part::kProfile, Part::kLook,     Part::kMap,   Part::kView};
+inline constexpr std::array<Part, 11> kParts = {
+    Part::kRecordings, Part::kPicks, Part::kGeometry, Part::kModel, Part::kResult, Part::kMarks,
+    Part::kProfile,    Part::kLook,  Part::kMap,      Part::kRuns,  Part::kView};
 
 /// Some of the parts.
 class PartSet {

@@ -9,6 +9,7 @@
 #include "model/TomographyOutcome.h"
 #include "tomo/CoarseToFine.h"
 #include "tomo/ForwardPass.h"
+#include "tomo/KeepRun.h"
 #include "tomo/RayRecomputation.h"
 
 #include <chrono>
@@ -212,6 +213,7 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   for (const Status& status : {kept, finished}) {
     if (result.status.ok()) result.status = status;
   }
+  if (finished.ok()) result.runsGone = keepRun(document);
   return result;
 }
 

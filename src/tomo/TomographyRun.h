@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Log.h"
+#include "base/Message.h"
 #include "base/Status.h"
 #include "model/Parameters.h"
 #include "tomo/Misfit.h"
@@ -65,6 +66,8 @@ struct TomographyResult {
   /// Through the section that the document holds now, along fresh rays; count 0 without any pick.
   SectionMisfit sectionMisfit;
   std::optional<CoarseToFineResult> coarseToFine;  ///< none: the radius stayed the same
+  /// Titles of runs that were kept and had to go for this one.
+  std::vector<Message> runsGone;
 };
 
 /// A whole inversion: external iterations until done or stopped, then the information density, the

@@ -143,7 +143,9 @@ void addContours(const SectionSceneOptions& options, SectionScene& scene) {
 Status fillIn(const TomoDocument& document, const SectionSceneOptions& options,
               SectionScene& scene) {
   scene.velocities = document.model->grid->velocities();
-  scene.cellValues = valuesOf(document, options.quantity);
+  scene.values = options.values;
+  scene.cellValues = options.values ? options.values->values : valuesOf(document, options.quantity);
+  scene.cellValues.resize(scene.velocities.size(), std::numeric_limits<double>::quiet_NaN());
   const bool filled = scene.fill != SectionFill::kNone;
   if (filled) drawOnlyValues(scene.mesh, scene.cellValues);
   scene.dataRange = drawnRange(scene.mesh, scene.cellValues);
@@ -159,6 +161,19 @@ Status fillIn(const TomoDocument& document, const SectionSceneOptions& options,
   scene.cornerValues = cornerMeans(scene.mesh, scene.cellValues);
   if (filled) addContours(options, scene);
   return {};
+}
+
+/// What its inversion tells of a section.
+void putInversion(const TomoDocument& document, SectionScene& scene) {
+  scene.misfit = sectionMisfitOf(document);
+  scene.fit = sectionChiSquareOf(document);
+  scene.picksChanged = picksChangedSince(document);
+  scene.smoothed = document.result->has_tomographic_info && document.result->smoothedResult;
+  const auto& run = document.result->lastInversion;
+  const bool fitted = run && run->fit;  // without solver passes
+  if (document.result->has_tomographic_info && !fitted) {
+    scene.lastPassPercent = document.result->RMSE_tomography;
+  }
 }
 
 template <typename Less>
@@ -233,15 +248,8 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.surface = surfaceLine(*document.model->grid, document.model->xOffset);
   scene.geophones = allGeophones(document);
   scene.shots = eachPlaceOnce(document.shotPoints());
-  scene.misfit = sectionMisfitOf(document);
-  scene.fit = sectionChiSquareOf(document);
-  scene.picksChanged = picksChangedSince(document);
-  scene.smoothed = document.result->has_tomographic_info && document.result->smoothedResult;
-  const auto& run = document.result->lastInversion;
-  const bool fitted = run && run->fit;  // without solver passes
-  if (document.result->has_tomographic_info && !fitted) {
-    scene.lastPassPercent = document.result->RMSE_tomography;
-  }
+  // The figures of an inversion are none of values that it did not find.
+  if (!options.values) putInversion(document, scene);
   out = std::move(scene);
   return {};
 }

@@ -39,6 +39,13 @@ struct SectionLine {
   std::vector<std::vector<Point2D>> pieces;  ///< survey positions, two at least in each
 };
 
+/// Values of the cells that are of no quantity which a survey has, such as a comparison.
+struct CellValues {
+  Message name;                ///< as that of a quantity
+  std::string unit;            ///< may be empty
+  std::vector<double> values;  ///< per cell; not a number where there is none
+};
+
 struct SectionSceneOptions {
   SectionQuantity quantity = SectionQuantity::kVelocity;
   SectionFill fill = SectionFill::kCells;
@@ -50,6 +57,7 @@ struct SectionSceneOptions {
   bool contourLines = true;  ///< false: levels for the bands only
   bool rays = false;
   bool coverageLimit = true;
+  std::optional<CellValues> values;     ///< shown in place of the quantity
   std::vector<SectionLine> refractors;  ///< shown as they are
 };
 
@@ -59,6 +67,7 @@ struct SectionSceneOptions {
 struct SectionScene {
   std::string title;
   SectionQuantity quantity = SectionQuantity::kVelocity;
+  std::optional<CellValues> values;  ///< in place of the quantity
   SectionFill fill = SectionFill::kCells;
   SectionMesh mesh;                   ///< a cell counts as drawn when it has a value, too
   std::vector<double> cellValues;     ///< per cell, drawn or not; not a number where undefined

@@ -86,8 +86,8 @@ TEST(Inversion, fitsToTheErrorsOfThePicksOnDemand) {
   const Folder folder;
   const std::string input = folder.write("line.otte", smallLine());
   const std::vector<std::string> command = {
-      "invert",  input,   "--cell-size", "1",      "--method", "fitted",
-      "--sigma", "0.5,3", "--statics",   "--json", "-"};
+      "invert", input,     "--cell-size", "1",         "--method", "fitted", "--reference",
+      "start",  "--sigma", "0.5,3",       "--statics", "--json",   "-"};
   const Outcome outcome = runBatch(command);
   ASSERT_EQ(outcome.code, 0) << outcome.err;
   const ordered_json json = ordered_json::parse(outcome.out);

@@ -45,10 +45,12 @@ TEST(FigureWords, theCaptionStatesWhatTheReaderCannotSee) {
   document.result.edit().lastInversion = InversionRecord();
   document.result.edit().lastInversion->picks = fingerprintOfPicks(document.ttArray);
   EXPECT_THAT(captionOf(sceneOf(document), 1.0),
-              HasSubstr("   \u00B7   RMS misfit 1.58 ms, 10 %   \u00B7   last solver pass 2.35 %"));
+              HasSubstr("   \u00B7   RMS misfit 1.58 ms, 10 %   \u00B7   chi-square 7.56   "
+                        "\u00B7   last solver pass 2.35 %"));
   document.ttArray.edit().front().ttMisurati.edit()[2] = 0.5;
   EXPECT_THAT(captionOf(sceneOf(document), 1.0),
-              HasSubstr("1.29 ms, 8.16 %   \u00B7   picks have changed since the inversion"));
+              HasSubstr("1.29 ms, 8.16 %   \u00B7   chi-square 5.04   \u00B7   "
+                        "picks have changed since the inversion"));
   EXPECT_THAT(captionOf(scene, 2.0), HasSubstr("Vertical exaggeration 2.0"));
   EXPECT_THAT(captionOf(scene, 1.25), HasSubstr("Vertical exaggeration 1.25"));
   document.result.edit().has_tomographic_info = false;

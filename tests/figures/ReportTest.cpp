@@ -349,7 +349,7 @@ TEST(Report, tellsOneMisfitOfTheSectionBeforeAndAfterItsRaysAreTracedAnew) {
     return tableOf(reportOn({line}), "Misfit of the section, along fresh rays").rows;
   };
   const std::vector<QStringList> before = misfit();
-  ASSERT_EQ(before.size(), 4u);
+  ASSERT_EQ(before.size(), 5u);
   {
     const testing::ConsoleCapture console;
     Log log;

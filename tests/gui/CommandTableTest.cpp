@@ -306,6 +306,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionAGC",
         "actionApply_Hushel",
         "actionRun_tomography_inversion",
+        "actionInversion_runs",
         "actionRefraction",
         "actionReciprocity",
         "actionNext_file",

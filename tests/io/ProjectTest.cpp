@@ -132,7 +132,7 @@ TEST_F(ProjectTest, isTheSameByteForByteAfterLoadingAndSavingAgain) {
   ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
   const auto first = entriesOf(archive());
   EXPECT_EQ(entriesOf(folder.file("again.tvsk")), first);
-  EXPECT_THAT(first, SizeIs(9));
+  EXPECT_THAT(first, SizeIs(10));
   EXPECT_THAT(first.at("traces.xml"), HasSubstr("<TAB size=\"dynamic\"/>"));
   EXPECT_EQ(first.at("2.dat"), TestFolder::get(shots[1]));
 }

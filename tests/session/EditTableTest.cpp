@@ -1,3 +1,4 @@
+#include "model/KeptRun.h"
 #include "session/EditTable.h"
 #include "session/FullSurvey.h"
 #include "session/Session.h"
@@ -44,6 +45,9 @@ void touch(Part part, Survey& survey) {
       break;
     case Part::kMap:
       document.map.edit().geoCoord.CRS = 4326;
+      break;
+    case Part::kRuns:
+      document.runs.edit().emplace_back();
       break;
     case Part::kView:
       survey.section.rays = !survey.section.rays;

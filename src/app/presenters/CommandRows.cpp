@@ -96,6 +96,7 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
       {"actionRun_tomography_inversion", &State::records,
        call(p.inversion, &InversionPresenter::run)},
       {"actionSecond_look", &State::computed, call(p.secondLook, &SecondLookPresenter::show)},
+      {"actionInversion_runs", &State::records, call(p.runs, &RunsPresenter::show)},
       {"actionApply_smoothing", &State::cells, call(p.models, &ModelPresenter::smooth)},
       {"actionRefraction", &State::records, call(p.refraction, &RefractionPresenter::interpret)},
   };

@@ -219,6 +219,10 @@ bool InversionPresenter::tellOutcome(const TomographyResult& result, const QStri
   if (!left.isEmpty()) {
     outcome += QLatin1Char(' ') + tr("Left out: %1.").arg(left.join(QStringLiteral("; ")));
   }
+  for (const Message& gone : result.runsGone) {
+    outcome += QLatin1Char(' ') +
+               tr("The list of inversion runs is full; \"%1\" has gone.").arg(textOf(gone));
+  }
   mDesk.tell(outcome);
   return true;
 }

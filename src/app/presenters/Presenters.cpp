@@ -21,6 +21,7 @@ Presenters::Presenters(Desk& desk)
       models(desk, geometry),
       secondLook(desk),
       inversion(desk, models, secondLook),
+      runs(desk),
       processing(desk),
       review(desk),
       refraction(desk),

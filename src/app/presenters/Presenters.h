@@ -17,6 +17,7 @@
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
 #include "app/presenters/ReviewPresenter.h"
+#include "app/presenters/RunsPresenter.h"
 #include "app/presenters/SecondLookPresenter.h"
 #include "app/presenters/SectionPresenter.h"
 #include "app/presenters/SettingsPresenter.h"
@@ -54,6 +55,7 @@ struct Presenters {
   ModelPresenter models;
   SecondLookPresenter secondLook;
   InversionPresenter inversion;
+  RunsPresenter runs;
   ProcessingPresenter processing;
   ReviewPresenter review;
   RefractionPresenter refraction;

@@ -8,6 +8,7 @@
 #include "io/project/ProjectPicks.h"
 #include "io/project/ProjectReaders.h"
 #include "io/project/ProjectResult.h"
+#include "io/project/ProjectRuns.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 
@@ -115,6 +116,27 @@ bool hasMends(const TomoDocument& document, const Interpretation&) {
   return !document.recordings->mends.empty();
 }
 
+Written writeRuns(const std::string& path, const OwnMember& row, const TomoDocument& document,
+                  const Interpretation&) {
+  return writeRecord(path, row, runsOf(document));
+}
+
+Status readRuns(const std::string& path, const OwnMember& row, TomoDocument& document,
+                Interpretation&, std::vector<Message>& repairs) {
+  RunsMember member;
+  Status status = readOwnRecord(path, row, member);
+  if (status.ok()) installRuns(std::move(member), document, repairs);
+  return status;
+}
+
+bool hasRuns(const TomoDocument& document, const Interpretation&) {
+  return !document.runs.empty();
+}
+
+bool canHaveRuns(const TomoDocument& document, const Interpretation&) {
+  return !document.ttArray.empty();
+}
+
 const std::vector<OwnMember>& ownMembers() {
   static const std::vector<OwnMember> kMembers = {
       {"result.xml", 1, "Result",
@@ -169,7 +191,10 @@ const std::vector<OwnMember>& ownMembers() {
        reads([](const TomoDocument&) { return PickErrorsMember(); },
              [](const PickErrorsMember& member, TomoDocument& document, Interpretation&) {
                return installPickErrors(member, document);
-             })}};
+             })},
+      {"runs.xml", 1, "Inversion runs",
+       Message::tr("its inversion runs but the last one are not known"), canHaveRuns, hasRuns,
+       writeRuns, readRuns}};
   return kMembers;
 }
 

@@ -10,6 +10,7 @@
 #include "io/project/ProjectPicks.h"
 #include "io/project/ProjectReaders.h"
 #include "io/project/ProjectResult.h"
+#include "io/project/ProjectRuns.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
 #include "model/SurveyLine.h"
@@ -242,6 +243,39 @@ void describe(V& fields, InversionRecord& run) {
   fields("elapsedSeconds", run.elapsedSeconds);
   fields("stopped", run.stopped);
   fields("history", run.history);
+}
+
+template <class V>
+void describe(V& fields, StoredRun& stored) {
+  KeptRun& run = stored.run;
+  fields("number", run.number);
+  fields("name", run.name);
+  fields("when", run.when);
+  fields("run", run.record);
+  fields("computing_seconds", run.record.computingSeconds);
+  fields("picks", run.record.picks);
+  fields("section_history", run.record.sectionHistory);
+  fields("fit", stored.fits);
+  fields("rms_percent", run.rmsPercent);
+  fields("chi2", run.chi2);
+  fields("chi2_all", run.chi2All);
+  fields("positions", run.positions);
+  fields("righe", run.size.righe);
+  fields("col", run.size.col);
+  fields("nV", run.size.nV);
+  fields("aLato", run.size.aLato);
+  fields("x_offset", run.xOffset);
+  fields("surface_x", stored.surfaceX);
+  fields("surface_z", stored.surfaceZ);
+  fields("velocities", stored.velocities);
+  fields("coorcount", run.coorcount);
+  fields("hit_counts", run.hitCounts);
+  fields("times", run.times);
+}
+
+template <class V>
+void describe(V& fields, RunsMember& member) {
+  fields("runs", member.runs);
 }
 
 /// The elements of a survey, at the top of its member.

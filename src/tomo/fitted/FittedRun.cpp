@@ -8,6 +8,7 @@
 #include "model/TomographyOutcome.h"
 #include "tomo/Coverage.h"
 #include "tomo/ForwardPass.h"
+#include "tomo/KeepRun.h"
 #include "tomo/RayRecomputation.h"
 #include "tomo/fitted/SurveyFit.h"
 
@@ -194,6 +195,7 @@ FittedRunResult runOnCopy(TomoDocument& document, const FittedSettings& settings
   installed.elapsedSeconds = result.run.elapsedSeconds;
   document.result.edit().RMSE_tomography =
       result.run.misfit.count > 0 ? result.run.misfit.relativeRms * 100.0 : -1.0;
+  if (result.run.status.ok()) result.run.runsGone = keepRun(document);
   describeFit(data, std::move(fit), document, result);
   result.reference = settings.reference;
   log.write(result.outcome);
