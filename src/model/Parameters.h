@@ -80,6 +80,12 @@ inline constexpr Parameter<double> kErrorFloor = {
 inline constexpr Parameter<double> kErrorShare = {
     "error-share", 3.0, {0.0, 100.0, 1}, "percent", "Error of a pick as a share of its time"};
 
+// How sure a section is.
+inline constexpr Parameter<int> kMembers = {
+    "certainty", 24, {2, 1000}, "", "Sections that are compared to see how sure the section is"};
+inline constexpr Parameter<int> kSeed = {
+    "seed", 1, {0, 999999999}, "", "Number that the errors of the compared sections come from"};
+
 // Filters of traces.
 inline constexpr Parameter<double> kLowPass = {
     "low", 150.0, {1e-6, 1e6, 2}, "Hz", "Low-pass: keep what is below this frequency"};
