@@ -28,6 +28,7 @@ const std::vector<EditRule>& editTable() {
       {Edit::kStartingModel, Message::tr("Define model velocity"), "...CC...."},
       {Edit::kSmoothing, Message::tr("Apply smoothing"), "...CC...."},
       {Edit::kInversion, Message::tr("Run tomography inversion"), "...CC...."},
+      {Edit::kCertainty, Message::tr("Certainty"), "....C...."},
       {Edit::kRefraction, Message::tr("Refraction"), ".....CC.."},
       {Edit::kTitle, Message::tr("Set title"), ".......C."},
       {Edit::kPalette, Message::tr("Palette"), ".......C."},

@@ -1,8 +1,10 @@
 #include "tomo/fitted/CertaintyRun.h"
 
+#include "base/Fingerprint.h"
 #include "model/GroundModel.h"
 #include "model/PickFingerprint.h"
 #include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/fitted/SurveyFit.h"
 
@@ -38,6 +40,50 @@ std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
   if (options.fit.start.empty()) options.fit.start = grid.slownesses();
   return std::make_unique<Ensemble>(grid.sharedGeometry(), picksToFit(document, settings.errors),
                                     std::move(options));
+}
+
+CertaintySettings certaintySettings(const TomoDocument& document) {
+  CertaintySettings settings;
+  const std::optional<InversionRecord>& run = document.result->lastInversion;
+  if (!run || !run->fit) return settings;
+  FittedOptions& fit = settings.ensemble.fit;
+  fit.minVelocity = run->minVelocity;
+  fit.maxVelocity = run->maxVelocity;
+  fit.robust = run->fit->robust;
+  fit.blocky = run->fit->blocky;
+  fit.statics = run->fit->statics;
+  settings.errors = {run->fit->errorFloor, run->fit->errorShare};
+  return settings;
+}
+
+std::uint64_t ensembleKey(const TomoDocument& document, const CertaintySettings& settings) {
+  Fingerprint key;
+  const EnsembleOptions& options = settings.ensemble;
+  const FittedOptions& fit = options.fit;
+  const Grid& grid = *document.model->grid;
+  const FitData data = picksToFit(document, settings.errors);
+  for (const FitPick& pick : data.picks) {
+    key.take(std::uint64_t{pick.record} << 32 | pick.receiver);
+    key.take(pick.time);
+    key.take(pick.sigma);
+  }
+  for (const FitShot& shot : data.shots) {
+    key.take(shot.source);
+    for (const double x : shot.receivers) key.take(x);
+  }
+  for (const double z : grid.geometry().surfaceProfile()) key.take(z);
+  for (const auto* model : {&grid.slownesses(), &fit.start}) {
+    for (const double slowness : *model) key.take(slowness);
+  }
+  for (const double value : {grid.aLato(), fit.minVelocity, fit.maxVelocity, fit.triggerError}) {
+    key.take(value);
+  }
+  for (const double isovalue : options.isovalues) key.take(isovalue);
+  key.take(std::uint64_t{fit.robust} << 2 | std::uint64_t{fit.blocky} << 1 |
+           std::uint64_t{fit.statics});
+  key.take(static_cast<std::uint64_t>(fit.mostIterations));
+  key.take(options.seed);
+  return key.value();
 }
 
 Status runCertainty(Ensemble& ensemble, const TomoDocument& document,

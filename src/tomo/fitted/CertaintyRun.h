@@ -26,6 +26,12 @@ struct CertaintySettings {
 std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
                                      const CertaintySettings& settings);
 
+/// The settings with which the section of a document was fitted; where it was not, the usual ones.
+CertaintySettings certaintySettings(const TomoDocument& document);
+
+/// Tells ensembles apart: members of ensembles with one key are the same.
+std::uint64_t ensembleKey(const TomoDocument& document, const CertaintySettings& settings);
+
 /// How sure a document's section is. Whatever stops the run, what is found of members until then is
 /// kept in `ensemble`, with which it can go on.
 /// \param ensemble of ensembleOf() for this document and these settings
