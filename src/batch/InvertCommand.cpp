@@ -149,6 +149,7 @@ void summarizeGrid(const TomoDocument& document, std::ostream& out) {
 void summarizeFitted(const TomoDocument& document, const FittedRunResult& fit, std::ostream& out) {
   summarizeGrid(document, out);
   summarizeFit(fit, out);
+  if (document.result->certainty) summarizeCertainty(*document.result->certainty, out);
   summarizeSection(fit.run.sectionMisfit, out);
   out << "Computing time: [s] " << formatDouble(fit.run.computingSeconds) << "\n"
       << "Picks used: " << fit.fit.count << " of "
@@ -235,9 +236,13 @@ int run(const InvertOptions& options) {
   const TomographyResult result =
       fits ? fit->run : invert(options, parameters, channels, project, log);
   // What the completed iterations found is not lost with the one that failed.
-  const int runCode = result.status.ok() ? kDone : failed(result.status.message());
+  int runCode = result.status.ok() ? kDone : failed(result.status.message());
   if (result.iterationsDone == 0) return runCode;
   if (fit) warnAboutFit(*fit);
+  if (fit && options.members) {
+    const Status sure = findCertainty(options, channels, project);
+    if (!sure.ok()) runCode = failed(sure.message());
+  }
   const int exitCode = writeResults(options, project, result, fit ? &*fit : nullptr);
   if (fit) {
     summarizeFitted(document, *fit, *channels.summary);

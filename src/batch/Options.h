@@ -110,7 +110,10 @@ struct InvertOptions {
   std::vector<VelocityLayer> layers;       ///< none: the grid's default model
   bool ownGrid = false;                    ///< one of the above was given
   InversionMethod method = InversionMethod::kSmoothed;
-  FittedSettings fitted;              ///< but what follows, which both methods have
+  FittedSettings fitted;       ///< but what follows, which both methods have
+  std::optional<int> members;  ///< to see how sure the section is; none: not asked
+  int seed = parameters::kSeed.initial;
+  std::vector<double> isovalues;      ///< m/s, whose depths are asked for
   TomographyParameters parameters;    ///< but the velocities: those are the next two
   std::optional<double> minVelocity;  ///< m/s; none: that of the survey or of the fit
   std::optional<double> maxVelocity;  ///< m/s; none: that of the survey or of the fit
