@@ -94,6 +94,7 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
        nullptr, "on_actionAuto_improve_triggered"},
       {"actionRun_tomography_inversion", &State::records,
        call(p.inversion, &InversionPresenter::run)},
+      {"actionCertainty", &State::inverted, call(p.certainty, &CertaintyPresenter::ask)},
       {"actionApply_smoothing", &State::cells, call(p.models, &ModelPresenter::smooth)},
       {"actionRefraction", &State::records, call(p.refraction, &RefractionPresenter::interpret)},
   };
@@ -224,6 +225,7 @@ Rows sectionRows(Desk& /*desk*/, Presenters& p) {
        }},
       quantity("actionShow_Information_Density_Layer", &State::density,
                SectionQuantity::kInformationDensity),
+      quantity("actionShow_Certainty_Layer", &State::certainty, SectionQuantity::kCertainty),
       quantity("actionVertical_Gradient", &State::cells, SectionQuantity::kVerticalGradient),
       quantity("actionLaplacian_Gradient", &State::cells, SectionQuantity::kLaplacian),
       {"actionShow_refraction", &State::refractors,

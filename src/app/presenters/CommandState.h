@@ -21,6 +21,7 @@ struct CommandState {
   bool beforeShot;    ///< traces still begin before their shot
   bool picksInRange;  ///< where the traces are selected
   bool unconfirmedInRange;
+  bool picksToReview;  ///< they are shown
   bool canZoomBack;
   bool canZoomForward;
   bool canUndo;
@@ -37,6 +38,9 @@ struct CommandState {
   bool line;     ///< geophones at two ends
   bool lineAndGrid;
   bool drawable;  ///< records or a grid: something to make pictures of
+
+  bool inverted;   ///< cells with the velocities of an inversion
+  bool certainty;  ///< of these
 
   const Settings& settings;
   const TraceViewOptions& traceView;

@@ -19,6 +19,7 @@ Presenters::Presenters(Desk& desk)
       geometry(desk),
       models(desk, geometry),
       inversion(desk, models),
+      certainty(desk),
       processing(desk),
       refraction(desk),
       exports(desk),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
 #include "app/presenters/ContoursPresenter.h"
 #include "app/presenters/CurvesPresenter.h"
@@ -49,6 +50,7 @@ struct Presenters {
   GeometryPresenter geometry;
   ModelPresenter models;
   InversionPresenter inversion;
+  CertaintyPresenter certainty;
   ProcessingPresenter processing;
   RefractionPresenter refraction;
   ExportPresenter exports;
