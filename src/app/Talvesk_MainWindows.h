@@ -95,6 +95,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void on_actionFilter_triggered() { run(__func__); }
   void on_actionAGC_triggered() { run(__func__); }
   void on_actionRun_tomography_inversion_triggered() { run(__func__); }
+  void on_actionCertainty_triggered() { run(__func__); }
   void on_actionApply_smoothing_triggered() { run(__func__); }
   void on_actionRefraction_triggered() { run(__func__); }
   void on_actionShow_Tomographic_Profile_triggered() { run(__func__); }
@@ -103,6 +104,7 @@ class Talvesk_MainWindows : public QMainWindow {
   void on_actionShow_rays_triggered() { run(__func__); }
   void on_actionShow_Contour_Lines_triggered() { run(__func__); }
   void on_actionShow_Information_Density_Layer_triggered() { run(__func__); }
+  void on_actionShow_Certainty_Layer_triggered() { run(__func__); }
   void on_actionVertical_Gradient_triggered() { run(__func__); }
   void on_actionLaplacian_Gradient_triggered() { run(__func__); }
   void on_actionShow_refraction_triggered() { run(__func__); }

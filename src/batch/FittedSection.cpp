@@ -5,7 +5,10 @@
 #include "batch/Failure.h"
 #include "batch/Interrupt.h"
 #include "io/Survey.h"
+#include "model/TomographyOutcome.h"
+#include "numerics/Medians.h"
 #include "session/TableRules.h"
+#include "tomo/fitted/CertaintyRun.h"
 
 #include <cmath>
 #include <iostream>
@@ -60,6 +63,38 @@ ReferencedRun fitSection(const InvertOptions& options, const Channels& channels,
   return run;
 }
 
+Status findCertainty(const InvertOptions& options, const Channels& channels, Survey& survey) {
+  if (interruptRequested()) {
+    warn("How sure the section is was not found out: stopped before");
+    return {};
+  }
+  const FittedSettings fitted = settingsOf(options);
+  CertaintySettings settings;
+  settings.members = *options.members;
+  settings.errors = fitted.errors;
+  settings.singleThread = fitted.singleThread;
+  settings.ensemble = {fitted.fit, static_cast<std::uint64_t>(options.seed), options.isovalues};
+  Progress progress(channels.progress, std::cerr);
+  int done = 0;
+  Status status = editSurvey(Edit::kCertainty, survey, [&](Survey& next) {
+    TomographyOutcome& outcome = next.document.result.edit();
+    const std::unique_ptr<Ensemble> ensemble = ensembleOf(next.document, settings);
+    Certainty certainty;
+    const Status run = runCertainty(
+        *ensemble, next.document, settings, certainty,
+        [&](const EnsembleProgress& state) { progress.show(state); }, interruptRequested);
+    done = ensemble->done();
+    if (run.ok() && certainty.members > 0) outcome.certainty = std::move(certainty);
+    return run;
+  });
+  progress.finish();
+  if (status.ok() && done < settings.members) {
+    warn("How sure the section is rests on " + std::to_string(done) + " of " +
+         std::to_string(settings.members) + " members: stopped by the user");
+  }
+  return status;
+}
+
 void warnAboutFit(const FittedRunResult& fit) {
   if (fit.end != FitEnd::kTarget && fit.end != FitEnd::kStopped) warn(fit.outcome);
   if (fit.suspects.empty()) return;
@@ -94,6 +129,16 @@ void summarizeFit(const ReferencedRun& run, std::ostream& out) {
     out << ' ' << (std::isfinite(shift) ? inMilliseconds(shift) : "-");
   }
   out << "\n";
+}
+
+void summarizeCertainty(const Certainty& certainty, std::ostream& out) {
+  std::vector<double> spreads;
+  for (std::size_t cell = 0; cell < certainty.touched.size(); ++cell) {
+    if (certainty.touched[cell] > 0) spreads.push_back(certainty.spread(cell));
+  }
+  out << "Certainty: " << certainty.members << " members";
+  if (certainty.leftOut > 0) out << ", " << certainty.leftOut << " left out";
+  out << "; spread where rays pass [%] " << formatDouble(medianOf(spreads, 0.0), 3) << "\n";
 }
 
 }  // namespace talvesk

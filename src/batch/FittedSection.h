@@ -15,10 +15,15 @@ struct Survey;
 ReferencedRun fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,
                          Log& log);
 
+/// `invert --certainty`: how sure the fitted section of a survey is, with its progress shown. What
+/// an interrupt leaves is kept, and said on standard error.
+Status findCertainty(const InvertOptions& options, const Channels& channels, Survey& survey);
+
 /// Says on standard error what the section does not explain.
 void warnAboutFit(const FittedRunResult& fit);
 
 /// Lines of the summary.
 void summarizeFit(const ReferencedRun& run, std::ostream& out);
+void summarizeCertainty(const Certainty& certainty, std::ostream& out);
 
 }  // namespace talvesk

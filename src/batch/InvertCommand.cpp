@@ -154,6 +154,7 @@ void summarizeFitted(const TomoDocument& document, const ReferencedRun& referenc
   const FittedRunResult& fit = referenced.fit;
   summarizeGrid(document, out);
   summarizeFit(referenced, out);
+  if (document.result->certainty) summarizeCertainty(*document.result->certainty, out);
   summarizeSection(fit.run.sectionMisfit, out);
   out << "Computing time: [s] " << formatDouble(fit.run.computingSeconds) << "\n"
       << "Picks used: " << fit.fit.count << " of "
@@ -260,11 +261,15 @@ int run(const InvertOptions& options) {
   const TomographyResult result =
       fits ? fit->fit.run : invert(options, parameters, channels, project, log);
   // What the completed iterations found is not lost with the one that failed.
-  const int runCode = result.status.ok() ? kDone : failed(result.status.message());
+  int runCode = result.status.ok() ? kDone : failed(result.status.message());
   if (result.iterationsDone == 0) return runCode;
   if (fit) warnAboutFit(fit->fit);
   for (const Message& gone : result.runsGone) {
     warn("the list of inversion runs is full; its oldest has gone: " + gone.english());
+  }
+  if (fit && options.members) {
+    const Status sure = findCertainty(options, channels, project);
+    if (!sure.ok()) runCode = failed(sure.message());
   }
   std::optional<ResolutionReport> resolution;
   if (options.resolution) resolution = resolve(options, document);

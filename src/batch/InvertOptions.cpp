@@ -194,6 +194,40 @@ std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
   return {blocky, statics, reference};
 }
 
+/// "600,1500".
+std::vector<double> readVelocities(const std::string& option, const std::string& text) {
+  std::vector<double> velocities;
+  for (const std::string_view field : splitFields(text, ',')) {
+    velocities.push_back(
+        numberWithin(option, std::string(field), rangeOf(parameters::kMinVelocity)));
+  }
+  return velocities;
+}
+
+/// \return the options, which go with a fitted section alone
+std::vector<CLI::Option*> addCertaintyOptions(CLI::App& app, InvertOptions& options) {
+  using parameters::kMembers, parameters::kSeed;
+  CLI::Option* members = addParameter(
+      app, kMembers, "N",
+      "With --method fitted: say how sure the section is, by N sections of picks that are moved by "
+      "their errors, from all models that explain them; --json has median, 16 and 84 percent",
+      [&](int value) { options.members = value; });
+  CLI::Option* seed = addParameter(app, kSeed, "N", meaningOf(kSeed) + defaultOf(kSeed),
+                                   [&](int value) { options.seed = value; });
+  const std::string name = "--certainty-depths";
+  CLI::Option* depths =
+      app.add_option_function<std::string>(
+             name,
+             [&options, name](const std::string& text) {
+               options.isovalues = readVelocities(name, text);
+             },
+             "With --certainty: velocities in m/s; --json has the depths at which they are reached")
+          ->type_name("V,V...");
+  for (CLI::Option* option : {seed, depths}) option->needs(members);
+  for (CLI::Option* option : {members, seed, depths}) option->group("Inversion");
+  return {members, seed, depths};
+}
+
 /// \return the options that only the smoothed method has
 std::vector<CLI::Option*> addRunOptions(CLI::App& app, InvertOptions& options) {
   TomographyParameters& run = options.parameters;
@@ -320,7 +354,8 @@ void addInvert(CLI::App& app, InvertOptions& options) {
       ->type_name("RUN")
       ->group("Inversion");
   const auto smoothed = addRunOptions(command, options);
-  const auto fitted = addFitOptions(command, options);
+  auto fitted = addFitOptions(command, options);
+  for (CLI::Option* option : addCertaintyOptions(command, options)) fitted.push_back(option);
   addResolutionOption(command, options);
   addOutputOptions(command, options);
   addReport(command, options.report, options.reportFields);

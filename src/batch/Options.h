@@ -114,8 +114,11 @@ struct InvertOptions {
   bool ownGrid = false;                    ///< one of the above was given
   std::string run;  ///< of the project, to start from; empty: from the section that it has
   InversionMethod method = InversionMethod::kSmoothed;
-  FittedSettings fitted;                        ///< but what follows, which both methods have
-  std::string reference = kBestReference;       ///< of a fit: a key of References.h
+  FittedSettings fitted;                   ///< but what follows, which both methods have
+  std::string reference = kBestReference;  ///< of a fit: a key of References.h
+  std::optional<int> members;              ///< to see how sure the section is; none: not asked
+  int seed = parameters::kSeed.initial;
+  std::vector<double> isovalues;                ///< m/s, whose depths are asked for
   TomographyParameters parameters;              ///< but the velocities: those are the next two
   std::optional<double> minVelocity;            ///< m/s; none: that of the survey or of the fit
   std::optional<double> maxVelocity;            ///< m/s; none: that of the survey or of the fit

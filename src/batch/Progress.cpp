@@ -78,6 +78,17 @@ std::string progressBar(const FittedRunProgress& progress) {
          formatDouble(progress.fit.chi2, 4) + ", section " + rms(progress.section);
 }
 
+std::string progressLine(const EnsembleProgress& progress) {
+  const auto of = [](int part, int whole) {
+    return std::to_string(part) + " of " + std::to_string(whole);
+  };
+  if (progress.members == 0) {
+    return "Certainty: " + of(progress.models, progress.ofModels) + " models";
+  }
+  return "Certainty: " + of(progress.members, progress.ofMembers) + " members" +
+         (progress.leftOut > 0 ? ", " + std::to_string(progress.leftOut) + " left out" : "");
+}
+
 Progress::Progress(ProgressStyle style, std::ostream& stream, int total)
     : mStyle(style), mStream(stream) {
   TomographyProgress nothingYet;
@@ -92,6 +103,11 @@ void Progress::show(const TomographyProgress& progress) {
 
 void Progress::show(const FittedRunProgress& progress) {
   if (mStyle == ProgressStyle::kBar) drawBar(progressBar(progress));
+  if (mStyle == ProgressStyle::kLines) mStream << progressLine(progress) << std::endl;
+}
+
+void Progress::show(const EnsembleProgress& progress) {
+  if (mStyle == ProgressStyle::kBar) drawBar(progressLine(progress));
   if (mStyle == ProgressStyle::kLines) mStream << progressLine(progress) << std::endl;
 }
 

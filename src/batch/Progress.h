@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tomo/TomographyRun.h"
+#include "tomo/fitted/Ensemble.h"
 #include "tomo/fitted/FittedRun.h"
 
 #include <iosfwd>
@@ -19,9 +20,12 @@ class Progress {
  public:
   /// \param total external iterations; \param stream must outlive the object
   Progress(ProgressStyle style, std::ostream& stream, int total);
+  /// Of what is not counted in external iterations.
+  Progress(ProgressStyle style, std::ostream& stream) : mStyle(style), mStream(stream) {}
 
   void show(const TomographyProgress& progress);
   void show(const FittedRunProgress& progress);
+  void show(const EnsembleProgress& progress);
   void finish();  ///< leaves the bar's line
 
  private:
@@ -41,6 +45,9 @@ std::string progressBar(const TomographyProgress& progress, int width);
 
 /// "Iteration 3, 25 at most: chi-square 1.52, section 0.84 ms (3.1 %), elapsed 0:02".
 std::string progressLine(const FittedRunProgress& progress);
+
+/// "Certainty: 3 of 24 members, 1 left out"; while there is none yet "Certainty: 2 of 5 models".
+std::string progressLine(const EnsembleProgress& progress);
 
 /// Says no more than that, as nobody knows how many iterations are to come.
 std::string progressBar(const FittedRunProgress& progress);

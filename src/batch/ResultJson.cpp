@@ -231,6 +231,42 @@ Json pickErrorsJson(const TomoDocument& document) {
   return errors;
 }
 
+/// Not reached is null, as all that is no number.
+Json quantilesJson(const Quantiles& quantiles) {
+  Json json = Json::object();
+  json["median"] = quantiles.median;
+  json["low"] = quantiles.low;
+  json["high"] = quantiles.high;
+  return json;
+}
+
+/// Cells in the order of the velocities, columns along the line; low and high are 16 and 84 %.
+Json certaintyJson(const Certainty& certainty) {
+  Json json = quantilesJson(certainty.velocities);
+  json["members"] = certainty.members;
+  json["left_out"] = certainty.leftOut;
+  json["seed"] = certainty.seed;
+  json["deviation"] = certainty.deviations;
+  json["members_with_rays"] = certainty.touched;
+  Json models = Json::array();
+  for (const CertaintyModel& model : certainty.models) {
+    Json each = Json::object();
+    each["name"] = model.name;
+    each["chi2"] = model.chi2;
+    each["members"] = model.members;
+    models.push_back(std::move(each));
+  }
+  json["models"] = std::move(models);
+  Json bands = Json::array();
+  for (const IsovalueBand& band : certainty.bands) {
+    Json each = quantilesJson(band.depths);
+    each["velocity"] = band.velocity;
+    bands.push_back(std::move(each));
+  }
+  json["depths"] = std::move(bands);
+  return json;
+}
+
 Json tracesJson(const ShotFileData& data, bool samples) {
   Json traces = Json::array();
   for (const ShotRecord& record : data.traces) {
@@ -312,6 +348,7 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   json["computing_s"] = result.computingSeconds;
   if (fit != nullptr) {
     putFit(json, *fit);
+    if (document.result->certainty) json["certainty"] = certaintyJson(*document.result->certainty);
   } else {
     putChiSquare(json, "smoothed", chiSquareOf(document, residualsOf(document), errors));
   }

@@ -95,6 +95,8 @@ QString FigureWords::quantity(SectionQuantity quantity) {
       return tr("Laplacian of velocity");
     case SectionQuantity::kInformationDensity:
       return tr("Information density");
+    case SectionQuantity::kCertainty:
+      return tr("Uncertainty of velocity");
     case SectionQuantity::kVelocity:
       break;
   }

@@ -26,6 +26,8 @@ const char* nameOf(SectionQuantity quantity) {
       return "laplacian";
     case SectionQuantity::kInformationDensity:
       return "density";
+    case SectionQuantity::kCertainty:
+      return "certainty";
     case SectionQuantity::kVelocity:
       break;
   }
@@ -68,8 +70,10 @@ class Planner {
 
   void addSection(SectionQuantity quantity, bool smooth) {
     const bool density = quantity == SectionQuantity::kInformationDensity;
-    if (mDocument.model->grid == nullptr || (density && !mDocument.result->has_tomographic_info))
+    if (mDocument.model->grid == nullptr || (density && !mDocument.result->has_tomographic_info) ||
+        (quantity == SectionQuantity::kCertainty && !mDocument.result->certainty)) {
       return;
+    }
     SectionViewSettings view = mOptions.view;
     view.quantity = quantity;
     view.profile = true;

@@ -85,6 +85,11 @@ inline constexpr Parameter<double> kPatternSize = {
     "pattern-size", 5.0, {0.1, 1e6, 2}, "metres", "Size of a pattern's squares or layers"};
 inline constexpr Parameter<double> kPatternStrength = {
     "pattern-strength", 10.0, {0.1, 90.0, 1}, "percent", "Strength of a pattern in the velocity"};
+// How sure a section is.
+inline constexpr Parameter<int> kMembers = {
+    "certainty", 24, {2, 1000}, "", "Sections that are compared to see how sure the section is"};
+inline constexpr Parameter<int> kSeed = {
+    "seed", 1, {0, 999999999}, "", "Number that the errors of the compared sections come from"};
 
 // Filters of traces.
 inline constexpr Parameter<double> kLowPass = {

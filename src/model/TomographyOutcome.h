@@ -2,6 +2,7 @@
 
 #include "base/Point2D.h"
 #include "base/Shared.h"
+#include "model/Certainty.h"
 #include "model/InversionRecord.h"
 #include "numerics/Splines.h"
 
@@ -39,6 +40,7 @@ struct TomographyOutcome {
   std::vector<Point2D> coverageLimit;  ///< centres of the deepest covered cells, grid coordinates
   std::optional<Splines::BesselSpline> coverageSpline;  ///< through them; none for fewer than two
   std::optional<InversionRecord> lastInversion;         ///< none when nothing is known of it
+  std::optional<Certainty> certainty;                   ///< of the section that is shown
 
   /// Takes the centres of the deepest covered cells, column by column, and lays the curve through
   /// them.

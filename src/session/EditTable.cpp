@@ -28,6 +28,7 @@ const std::vector<EditRule>& editTable() {
       {Edit::kStartingModel, Message::tr("Define model velocity"), "...CC....."},
       {Edit::kSmoothing, Message::tr("Apply smoothing"), "...CC....."},
       {Edit::kInversion, Message::tr("Run tomography inversion"), "...CC....C"},
+      {Edit::kCertainty, Message::tr("Certainty"), "....C....."},
       {Edit::kUseRun, Message::tr("Use run"), "...CC....."},
       {Edit::kRuns, Message::tr("Inversion runs"), ".........C"},
       {Edit::kRefraction, Message::tr("Refraction"), ".....CC..."},

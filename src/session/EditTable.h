@@ -26,6 +26,7 @@ enum class Edit {
   kStartingModel,
   kSmoothing,
   kInversion,
+  kCertainty,
   kUseRun,
   kRuns,
   kRefraction,

@@ -154,6 +154,7 @@ Status smoothGrid(TomoDocument& document, SmoothingType type, int radius, bool s
     copy.model.edit().grid = std::move(smoothed);
     if (copy.result->has_tomographic_info) {
       copy.result.edit().smoothedResult = true;
+      copy.result.edit().certainty.reset();
       if (Status status = traceSection(copy, searchThreads(), log); !status.ok()) return status;
     }
     document = std::move(copy);

@@ -101,6 +101,7 @@ void begin(TomoDocument& document, const TomographyParameters& p, Log& log) {
   document.result.edit().excluded.clear();
   document.result.edit().lastInversion.reset();
   document.result.edit().sectionHistory.clear();
+  document.result.edit().certainty.reset();
   document.model.edit().minVelocity = p.minVelocity;
   document.model.edit().maxVelocity = p.maxVelocity;
   log.write(std::string("Running Tomography :") +

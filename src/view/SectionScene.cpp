@@ -22,6 +22,17 @@ namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
+/// Where no ray of a member passes, what the members agree in is their models, not the picks.
+std::vector<double> spreads(const TomoDocument& document) {
+  std::vector<double> values(document.model->grid->cellCount(),
+                             std::numeric_limits<double>::quiet_NaN());
+  const std::optional<Certainty>& certainty = document.result->certainty;
+  for (std::size_t cell = 0; certainty && cell < certainty->touched.size(); ++cell) {
+    if (certainty->touched[cell] > 0) values[cell] = certainty->spread(cell);
+  }
+  return values;
+}
+
 std::vector<double> valuesOf(const TomoDocument& document, SectionQuantity quantity) {
   const Grid& grid = *document.model->grid;
   switch (quantity) {
@@ -31,6 +42,8 @@ std::vector<double> valuesOf(const TomoDocument& document, SectionQuantity quant
       return verticalGradientValues(grid);
     case SectionQuantity::kLaplacian:
       return laplacianValues(grid);
+    case SectionQuantity::kCertainty:
+      return spreads(document);
     case SectionQuantity::kInformationDensity:
       break;
   }
@@ -274,6 +287,8 @@ Message quantityName(SectionQuantity quantity) {
       return Message::tr("Laplacian of velocity");
     case SectionQuantity::kInformationDensity:
       return Message::tr("Information density");
+    case SectionQuantity::kCertainty:
+      return Message::tr("Uncertainty of velocity");
     case SectionQuantity::kVelocity:
       break;
   }
@@ -288,6 +303,8 @@ std::string quantityUnit(SectionQuantity quantity) {
       return "1/(m\xC2\xB7s)";
     case SectionQuantity::kInformationDensity:
       return "";
+    case SectionQuantity::kCertainty:
+      return "%";
     case SectionQuantity::kVelocity:
       break;
   }

@@ -23,6 +23,7 @@ enum class SectionQuantity {
   kVerticalGradient,    ///< dv/dz over depth, 1/s, positive where velocity grows downward
   kLaplacian,           ///< second derivatives of velocity along the line and over depth, 1/(m s)
   kInformationDensity,  ///< of the last inversion, as it comes
+  kCertainty,           ///< Certainty::spread() where rays pass, percent
 };
 
 /// How the values fill the section.

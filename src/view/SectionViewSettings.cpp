@@ -53,7 +53,9 @@ bool SectionViewSettings::operator==(const SectionViewSettings& other) const {
 }
 
 SectionQuantity contouredQuantity(SectionQuantity shown) {
-  return shown == SectionQuantity::kInformationDensity ? SectionQuantity::kVelocity : shown;
+  const bool bare =
+      shown == SectionQuantity::kInformationDensity || shown == SectionQuantity::kCertainty;
+  return bare ? SectionQuantity::kVelocity : shown;
 }
 
 std::vector<double> ContourSettings::*contourList(SectionQuantity quantity) {
@@ -83,6 +85,7 @@ bool showsContours(const ContourSettings& settings, SectionQuantity quantity) {
     case SectionQuantity::kLaplacian:
       return settings.onLaplacian;
     case SectionQuantity::kInformationDensity:
+    case SectionQuantity::kCertainty:
       return false;
   }
   return false;

@@ -31,8 +31,8 @@ struct ContourSettings {
   bool operator!=(const ContourSettings& other) const { return !(*this == other); }
 };
 
-/// The quantity whose contours are meant where one is shown: the information density has none, and
-/// who asks for contours there means those of velocity.
+/// The quantity whose contours are meant where one is shown: information density and uncertainty
+/// have none, and who asks for contours there means those of velocity.
 SectionQuantity contouredQuantity(SectionQuantity shown);
 
 /// Which list holds the custom values of a quantity: `settings.*contourList(quantity)`.

@@ -360,5 +360,50 @@ TEST(Inversion, quietSaysNothing) {
   EXPECT_TRUE(folder.holds("out.txt"));
 }
 
+TEST(Inversion, saysHowSureAFittedSectionIs) {
+  const Folder folder;
+  const std::string line = folder.write("line.otte", smallLine());
+  const auto run = [&](const std::vector<std::string>& more) {
+    std::vector<std::string> arguments = {
+        "invert",      line, "--cell-size",        "2",         "--method", "fitted",
+        "--certainty", "5",  "--certainty-depths", "1000,9000", "--json",   "-"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return runBatch(arguments);
+  };
+  const Outcome outcome = run({"--verbose", "--project", folder / "sure.tvsk"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("Certainty: 5 of 5 members"));
+  const ordered_json json = ordered_json::parse(outcome.out);
+  const ordered_json& certainty = json["certainty"];
+  const std::size_t cells = json["velocities"].size();
+  const int members = certainty["members"].get<int>();
+  ASSERT_GT(members, 0);
+  EXPECT_EQ(members + certainty["left_out"].get<int>(), 5);
+  for (const char* key : {"median", "low", "high", "deviation", "members_with_rays"}) {
+    ASSERT_EQ(certainty[key].size(), cells) << key;
+  }
+  for (std::size_t cell = 0; cell < cells; ++cell) {
+    EXPECT_LE(certainty["low"][cell], certainty["median"][cell]);
+    EXPECT_LE(certainty["median"][cell], certainty["high"][cell]);
+  }
+  ASSERT_EQ(certainty["depths"].size(), 2U);
+  EXPECT_EQ(certainty["depths"][0]["velocity"], 1000.0);
+  EXPECT_EQ(certainty["depths"][0]["median"].size(), json["grid"]["col"].get<std::size_t>());
+  EXPECT_TRUE(certainty["depths"][1]["median"][0].is_null()) << "nowhere so fast";
+
+  const Outcome again = run({"--single-thread"});
+  EXPECT_EQ(ordered_json::parse(again.out)["certainty"], certainty);
+  const Outcome other = run({"--seed", "2"});
+  EXPECT_NE(ordered_json::parse(other.out)["certainty"]["median"], certainty["median"]);
+}
+
+TEST(Inversion, asksForCertaintyOfFittedSectionsOnly) {
+  const Folder folder;
+  const Outcome outcome =
+      runBatch(quickRun(folder.write("line.otte", smallLine()), {"--certainty", "5"}));
+  EXPECT_NE(outcome.code, 0);
+  EXPECT_THAT(outcome.err, HasSubstr("--certainty: does not go with --method smoothed"));
+}
+
 }  // namespace
 }  // namespace talvesk::batchtest

@@ -351,23 +351,18 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionShow_title",
         "actionReset_View"}},
       {Stage::kResult,
-       {"actionSecond_look", "actionShow_rays", "actionShow_Information_Density_Layer",
-        "showSimTT_CB", "actionGuide_computed"}}};
+       {"actionCertainty", "actionSecond_look", "actionShow_rays",
+        "actionShow_Information_Density_Layer", "showSimTT_CB", "actionGuide_computed"}}};
   return stages;
 }
 
 /// What these need is not on the way to a section: a filtered copy, a layered profile, a view that
 /// was zoomed, a step that was undone, picks that were made.
-const std::set<std::string> kBesideTheWay = {"show_filtered_cb",
-                                             "actionShow_refraction",
-                                             "actionZoom_back",
-                                             "actionZoom_forward",
-                                             "actionRedo",
-                                             "actionConfirm_picks",
-                                             "actionRemove_picks",
-                                             "actionRemove_unconfirmed",
-                                             "actionCount_from_shot",
-                                             "actionTake_back_mends"};
+const std::set<std::string> kBesideTheWay = {
+    "show_filtered_cb",      "actionShow_refraction", "actionShow_Certainty_Layer",
+    "actionZoom_back",       "actionZoom_forward",    "actionRedo",
+    "actionConfirm_picks",   "actionRemove_picks",    "actionRemove_unconfirmed",
+    "actionCount_from_shot", "actionTake_back_mends"};
 
 class GrowingSurvey : public Commands {
  protected:

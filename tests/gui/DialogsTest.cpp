@@ -1,5 +1,7 @@
+#include "app/BackgroundCertainty.h"
 #include "app/FileFolders.h"
 #include "app/Languages.h"
+#include "app/dialogs/CertaintyDialog.h"
 #include "app/dialogs/DialogSetGeometry.h"
 #include "app/dialogs/ExportTomoVelData.h"
 #include "app/dialogs/ImagesDialog.h"
@@ -88,6 +90,7 @@ class Dialogs : public WindowTest {
            return make<contourlines_dialog>(mContours, SectionQuantity::kVelocity,
                                             ValueRange{250.0, 900.0}, mFolders);
          }},
+        {"certainty", [&] { return make<CertaintyDialog>(document, mCertainty); }},
         {"filters",
          [&] { return make<doFilteringDialog>(document, 0, std::vector<std::int32_t>{1}); }},
         {"grid",
@@ -131,6 +134,7 @@ class Dialogs : public WindowTest {
   Languages mLanguages;
   Settings mSettings{home.file("settings.xml")};
   ContourSettings mContours;
+  BackgroundCertainty mCertainty;
 };
 
 bool takesTab(const QWidget& widget) {

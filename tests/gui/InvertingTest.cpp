@@ -189,6 +189,61 @@ TEST_F(Inverting, keepsTheMisfitInViewAndSaysWhenPicksHaveChanged) {
   EXPECT_THAT(told(), HasSubstr("Picks have changed since."));
 }
 
+TEST_F(Inverting, findsOutHowSureTheSectionIsAndShowsIt) {
+  openLine();
+  answerGrid(12.0, 2.0);
+  answerParameters(1, 2);
+  expectResults();
+  run();
+  const double velocity = window->document().model->grid->velocity(0);
+  script.expect([](QWidget& dialog) {
+    auto* members = dialog.findChild<QSpinBox*>(QStringLiteral("membersField"));
+    EXPECT_EQ(members->value(), 24);
+    members->setValue(4);
+    dialog.findChild<QPushButton*>(QStringLiteral("startButton"))->click();
+    EXPECT_FALSE(members->isEnabled());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); }, 60000));
+  });
+  action("actionCertainty").trigger();
+  const auto& certainty = window->document().result->certainty;
+  ASSERT_TRUE(certainty);
+  EXPECT_EQ(certainty->members + certainty->leftOut, 4);
+  EXPECT_EQ(window->document().model->grid->velocity(0), velocity) << "the section stays";
+  const SectionScene& scene = *child<SectionView>("vtk_widget").scene();
+  EXPECT_EQ(scene.quantity, SectionQuantity::kCertainty);
+  EXPECT_TRUE(action("actionShow_Certainty_Layer").isChecked());
+  EXPECT_GT(scene.dataRange.span(), 0.0);
+
+  // One step of undo, after which the layer has nothing to show.
+  window->session().undo();
+  EXPECT_FALSE(window->document().result->certainty);
+  EXPECT_FALSE(action("actionShow_Certainty_Layer").isEnabled());
+  EXPECT_EQ(child<SectionView>("vtk_widget").scene()->quantity, SectionQuantity::kVelocity);
+}
+
+TEST_F(Inverting, keepsTheMembersOfACertaintyThatIsStopped) {
+  openLine();
+  answerGrid(12.0, 2.0);
+  answerParameters(1, 2);
+  expectResults();
+  run();
+  script.expect([](QWidget& dialog) {
+    dialog.findChild<QSpinBox*>(QStringLiteral("membersField"))->setValue(1000);
+    dialog.findChild<QPushButton*>(QStringLiteral("startButton"))->click();
+    auto& label = *dialog.findChild<QLabel*>(QStringLiteral("progressLabel"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return label.text().contains("members are done"); }, 60000));
+    auto* stop = dialog.findChild<QPushButton*>(QStringLiteral("stopButton"));
+    stop->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !stop->isEnabled(); }, 60000));
+    EXPECT_TRUE(label.text().startsWith("Stopped with")) << label.text().toStdString();
+    EXPECT_TRUE(dialog.isVisible());
+    dialog.findChild<QPushButton*>(QStringLiteral("closeButton"))->click();
+  });
+  action("actionCertainty").trigger();
+  ASSERT_TRUE(window->document().result->certainty);
+  EXPECT_LT(window->document().result->certainty->members, 1000);
+}
+
 TEST_F(Inverting, tellsBelowTheSectionHowItFitsThePicksAsTheyAre) {
   openLine();
   answerGrid(12.0, 1.0);

@@ -122,6 +122,55 @@ TEST_F(OwnMember, keepsTheErrorsOfPicks) {
   EXPECT_EQ(other.document.ttArray[2].errorOf(5), 1.0 / 3000.0);
 }
 
+TEST_F(OwnMember, keepsHowSureTheSectionIs) {
+  invert(project.document);
+  const std::size_t cells = project.document.model->grid->cellCount();
+  const std::uint32_t columns = project.document.model->grid->col();
+  Certainty sure;
+  sure.members = 22;
+  sure.leftOut = 2;
+  sure.seed = 7;
+  sure.velocities = {std::vector<double>(cells, 1000.0 / 3.0), std::vector<double>(cells, 300.0),
+                     std::vector<double>(cells, 400.0)};
+  sure.deviations.assign(cells, 0.1);
+  sure.touched.assign(cells, 21);
+  const std::vector<double> depths(columns, 2.5);
+  const std::vector<double> never(columns, std::nan(""));
+  sure.bands.push_back({900.0, {depths, depths, never}});
+  sure.models.push_back({"Two layers", 1.02, 22});
+  sure.picks = 5;
+  project.document.result.edit().certainty = sure;
+  ASSERT_EQ(save(), 0);
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
+  ASSERT_TRUE(back.document.result->certainty);
+  const Certainty& read = *back.document.result->certainty;
+  EXPECT_EQ(read.members, 22);
+  EXPECT_EQ(read.leftOut, 2);
+  EXPECT_EQ(read.velocities.median, sure.velocities.median);
+  EXPECT_EQ(read.velocities.high, sure.velocities.high);
+  EXPECT_EQ(read.touched, sure.touched);
+  ASSERT_THAT(read.bands, SizeIs(1));
+  EXPECT_EQ(read.bands[0].depths.median, depths);
+  EXPECT_TRUE(std::isnan(read.bands[0].depths.high[0]));
+  EXPECT_EQ(read.models[0].name, "Two layers");
+  EXPECT_EQ(read.picks, 5U);
+  EXPECT_EQ(savedAgain(back), entriesOf(archive()));
+
+  // What tells of another section, or cannot be, is left out.
+  const std::string sound = entriesOf(archive()).at("certainty.xml");
+  for (const auto& [before, after] :
+       std::vector<std::pair<std::string, std::string>>{{"<section>", "<section>1"},
+                                                        {"<members>22", "<members>0"},
+                                                        {">400<", ">-400<"},
+                                                        {"<left_out>2", "<left_out>-2"}}) {
+    LoadedProject other;
+    ASSERT_EQ(load(withMember("certainty.xml", with(sound, before, after)), other), 0) << after;
+    EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("certainty.xml"))) << after;
+    EXPECT_FALSE(other.document.result->certainty) << after;
+  }
+}
+
 TEST_F(OwnMember, isNotThereWhenItHasNothingToTell) {
   project.document.ttArray.edit()[0].ttMisurati.edit()[1] = kNoTime;
   project.document.ttArray.edit()[0].setWaiting(1, true);  // no pick, and so none that waits

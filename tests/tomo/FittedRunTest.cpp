@@ -5,6 +5,8 @@
 #include "support/ConsoleCapture.h"
 #include "tomo/GridSetup.h"
 #include "tomo/RayRecomputation.h"
+#include "tomo/TomographyRun.h"
+#include "tomo/fitted/CertaintyRun.h"
 #include "tomo/fitted/FittedRun.h"
 
 #include <gtest/gtest.h>
@@ -101,6 +103,39 @@ TEST(FittedRun, namesSuspectsAndShiftsByTheirRecords) {
   ASSERT_EQ(result.statics.size(), 5U);
   EXPECT_TRUE(std::isnan(result.statics[0]));
   EXPECT_FALSE(std::isnan(result.statics[1]));
+}
+
+TEST(FittedRun, knowsHowSureItIsUntilTheSectionChanges) {
+  Fitted fitted = run();
+  CertaintySettings settings = certaintySettings(fitted.line);
+  EXPECT_EQ(settings.ensemble.fit.maxVelocity, FittedOptions().maxVelocity);
+  settings.members = 3;
+  const std::unique_ptr<Ensemble> ensemble = ensembleOf(fitted.line, settings);
+  Certainty certainty;
+  const Status status = runCertainty(*ensemble, fitted.line, settings, certainty);
+  ASSERT_TRUE(status.ok()) << status.message();
+  EXPECT_EQ(certainty.members + certainty.leftOut, 3);
+  EXPECT_EQ(certainty.velocities.median.size(), fitted.line.model->grid->cellCount());
+  fitted.line.result.edit().certainty = certainty;
+
+  const std::uint64_t key = ensembleKey(fitted.line, settings);
+  settings.members = 9;
+  EXPECT_EQ(ensembleKey(fitted.line, settings), key) << "more members go on from the first";
+  settings.ensemble.seed = 5;
+  EXPECT_NE(ensembleKey(fitted.line, settings), key);
+
+  const testing::ConsoleCapture console;
+  Log log;
+  TomoDocument smoothed = fitted.line;
+  ASSERT_TRUE(smoothGrid(smoothed, kUsualSmoothing, 1, false, log).ok());
+  EXPECT_FALSE(smoothed.result->certainty);
+  TomoDocument again = fitted.line;
+  ASSERT_TRUE(runFittedInversion(again, {}, log).run.status.ok());
+  EXPECT_FALSE(again.result->certainty);
+  TomographyParameters parameters;
+  parameters.externalIterations = 1;
+  ASSERT_TRUE(runInversion(fitted.line, parameters, log).status.ok());
+  EXPECT_FALSE(fitted.line.result->certainty);
 }
 
 }  // namespace

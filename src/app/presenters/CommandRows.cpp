@@ -97,6 +97,7 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
        call(p.inversion, &InversionPresenter::run)},
       {"actionSecond_look", &State::computed, call(p.secondLook, &SecondLookPresenter::show)},
       {"actionInversion_runs", &State::records, call(p.runs, &RunsPresenter::show)},
+      {"actionCertainty", &State::inverted, call(p.certainty, &CertaintyPresenter::ask)},
       {"actionApply_smoothing", &State::cells, call(p.models, &ModelPresenter::smooth)},
       {"actionRefraction", &State::records, call(p.refraction, &RefractionPresenter::interpret)},
   };
@@ -257,6 +258,7 @@ Rows sectionRows(Desk& /*desk*/, Presenters& p) {
        }},
       quantity("actionShow_Information_Density_Layer", &State::density,
                SectionQuantity::kInformationDensity),
+      quantity("actionShow_Certainty_Layer", &State::certainty, SectionQuantity::kCertainty),
       quantity("actionVertical_Gradient", &State::cells, SectionQuantity::kVerticalGradient),
       quantity("actionLaplacian_Gradient", &State::cells, SectionQuantity::kLaplacian),
       {"actionShow_refraction", &State::refractors,

@@ -53,6 +53,8 @@ CommandState::CommandState(const Desk& desk)
   computed = document.result->has_tomographic_info;
   rays = cells && !document.result->rays.empty();
   density = cells && hasInformationDensity(document);
+  inverted = cells && computed;
+  certainty = cells && document.result->certainty.has_value();
   refractors = !refractorLines(desk.interpretation()).empty();
   picture = cells || (section.refraction && refractors);
   line = lineEnds(document).has_value();

@@ -39,6 +39,9 @@ struct CommandState {
   bool lineAndGrid;
   bool drawable;  ///< records or a grid: something to make pictures of
 
+  bool inverted;   ///< cells with the velocities of an inversion
+  bool certainty;  ///< of these
+
   const Settings& settings;
   const TraceViewOptions& traceView;
   TraceTool tool;

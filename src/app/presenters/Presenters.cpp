@@ -22,6 +22,7 @@ Presenters::Presenters(Desk& desk)
       secondLook(desk),
       inversion(desk, models, secondLook),
       runs(desk),
+      certainty(desk),
       processing(desk),
       review(desk),
       refraction(desk),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
 #include "app/presenters/ContoursPresenter.h"
 #include "app/presenters/CurvesPresenter.h"
@@ -56,6 +57,7 @@ struct Presenters {
   SecondLookPresenter secondLook;
   InversionPresenter inversion;
   RunsPresenter runs;
+  CertaintyPresenter certainty;
   ProcessingPresenter processing;
   ReviewPresenter review;
   RefractionPresenter refraction;

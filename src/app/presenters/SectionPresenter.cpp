@@ -109,9 +109,11 @@ QString SectionPresenter::whyNoSection() const {
 }
 
 void SectionPresenter::refresh() {
-  // A new grid has no information density until it is inverted.
-  if (mDesk.section().quantity == SectionQuantity::kInformationDensity &&
-      !hasInformationDensity(mDesk.document())) {
+  // A new grid has no information density until it is inverted, and a new section no certainty.
+  const SectionQuantity quantity = mDesk.section().quantity;
+  if ((quantity == SectionQuantity::kInformationDensity &&
+       !hasInformationDensity(mDesk.document())) ||
+      (quantity == SectionQuantity::kCertainty && !mDesk.document().result->certainty)) {
     mDesk.session.amend(
         [](Survey& survey) { survey.section.quantity = SectionQuantity::kVelocity; });
   }
@@ -141,6 +143,8 @@ void SectionPresenter::showCursor(const SectionReading& reading) {
                   ? tr("Gradient %1 1/s").arg(value)
               : mDesk.section().quantity == SectionQuantity::kLaplacian
                   ? tr("Laplacian %1 1/(m\u00B7s)").arg(value)
+              : mDesk.section().quantity == SectionQuantity::kCertainty
+                  ? tr("Uncertainty %1 %").arg(value)
                   : tr("Information density %1").arg(value));
   }
   mDesk.cursorLabel->setText(parts.join(QStringLiteral("   ")));

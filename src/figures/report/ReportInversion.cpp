@@ -300,6 +300,15 @@ Status addSections(ReportBuilder& builder) {
         ReportWords::tr(
             "Information density: how completely rays cross the surroundings of each cell"));
   }
+  if (status.ok() && document.result->certainty) {
+    options = sectionOptions(builder, SectionQuantity::kCertainty);
+    options.scene.rays = false;
+    status = addSection(
+        builder, options,
+        ReportWords::tr("Uncertainty: half of the range from 16 to 84 % of %1 sections that "
+                        "explain the picks as well, in percent")
+            .arg(document.result->certainty->members));
+  }
   return status;
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/AtomicFile.h"
 #include "io/MemberFile.h"
+#include "io/project/ProjectCertainty.h"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectMembers_records.inl"
 #include "io/project/ProjectMends.h"
@@ -194,7 +195,20 @@ const std::vector<OwnMember>& ownMembers() {
              })},
       {"runs.xml", 1, "Inversion runs",
        Message::tr("its inversion runs but the last one are not known"), canHaveRuns, hasRuns,
-       writeRuns, readRuns}};
+       writeRuns, readRuns},
+      // Behind the result, of which it is part.
+      {"certainty.xml", 1, "Certainty", Message::tr("how sure the section is is not known"),
+       [](const TomoDocument& document, const Interpretation&) { return hasResult(document); },
+       [](const TomoDocument& document, const Interpretation&) {
+         return document.result->certainty.has_value();
+       },
+       writes([](const TomoDocument& document, const Interpretation&) {
+         return certaintyOf(document);
+       }),
+       reads([](const TomoDocument&) { return CertaintyMember(); },
+             [](CertaintyMember member, TomoDocument& document, Interpretation&) {
+               return installCertainty(std::move(member), document);
+             })}};
   return kMembers;
 }
 

@@ -6,6 +6,7 @@
 #include "base/Console.h"
 #include "io/XmlRecords.inl"
 #include "io/project/MendsMember.h"
+#include "io/project/ProjectCertainty.h"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectPicks.h"
 #include "io/project/ProjectReaders.h"
@@ -176,6 +177,40 @@ template <class V>
 void describe(V& fields, PickErrorsMember& member) {
   fields("errors", member.errors);
   fields("recorded", member.recorded);
+}
+
+template <class V>
+void describe(V& fields, Quantiles& quantiles) {
+  fields("median", quantiles.median);
+  fields("low", quantiles.low);
+  fields("high", quantiles.high);
+}
+
+template <class V>
+void describe(V& fields, IsovalueBand& band) {
+  fields("velocity", band.velocity);
+  fields("depths", band.depths);
+}
+
+template <class V>
+void describe(V& fields, CertaintyModel& model) {
+  fields("name", model.name);
+  fields("chi2", model.chi2);
+  fields("members", model.members);
+}
+
+template <class V>
+void describe(V& fields, CertaintyMember& member) {
+  fields("section", member.section);
+  fields("picks", member.certainty.picks);
+  fields("seed", member.certainty.seed);
+  fields("members", member.certainty.members);
+  fields("left_out", member.certainty.leftOut);
+  fields("velocities", member.certainty.velocities);
+  fields("deviations", member.certainty.deviations);
+  fields("members_with_rays", member.certainty.touched);
+  fields("depths", member.certainty.bands);
+  fields("models", member.certainty.models);
 }
 
 template <class V>

@@ -155,7 +155,7 @@ void repairContours(ContourSettings& contours, Repairs& repairs) {
 void repairSection(SectionViewSettings& section, Repairs& repairs) {
   const SectionViewSettings fresh;
   if (section.quantity < SectionQuantity::kVelocity ||
-      section.quantity > SectionQuantity::kInformationDensity) {
+      section.quantity > SectionQuantity::kCertainty) {
     section.quantity = fresh.quantity;
     repairs.push_back(
         Message::tr("its section shows a quantity that does not exist; it is the velocity now"));

@@ -28,6 +28,7 @@ constexpr double kStandstill = 0.01;
 constexpr double kShortStep = 0.6;  // of a step, as a share of the whole one
 constexpr double kDampingFactor = 3.0;
 constexpr double kNearEnough = 2.0;  // chi-square from which a step may end where it crosses 1
+constexpr double kSettled = 0.01;    // mean change of ln slowness, of a step that hardly counts
 constexpr double kLeastChange = 1e-12;
 constexpr double kBlockyFrom = 3.0;  // chi-square below which steps of the section mean something
 
@@ -71,6 +72,7 @@ class FittedInversion::Fit {
   Message invalid() const;
   FittedResult run(const std::function<void(const FitProgress&)>& progress,
                    const std::function<bool()>& goOn);
+  FittedResult settle(double lambda, const std::function<bool()>& goOn);
 
  private:
   Section start();
@@ -81,6 +83,7 @@ class FittedInversion::Fit {
   double huberLimit(const Section& section) const;
   double objective(const Section& section, double huber) const;
   LinearStep linearize(const Section& section, double huber) const;
+  bool improve(const Section& from, Section& next, const std::function<bool()>& goOn);
   bool advance(Section& section, const std::function<bool()>& goOn);
   bool search(const Section& from, const Vector& step, double slope, double huber, Section& best,
               const std::function<bool()>& goOn);
@@ -280,25 +283,51 @@ bool FittedInversion::Fit::cross(const Section& from, Section& to,
   return true;
 }
 
-/// One iteration: a step with fresh rays. Throws when no ray constrains the section.
+/// A step with fresh rays. Throws when no ray constrains the section.
 /// \return false when it was stopped
-bool FittedInversion::Fit::advance(Section& section, const std::function<bool()>& goOn) {
-  if (mOptions.blocky && section.fit.chi2 < kBlockyFrom) {
-    mRoughness.sharpen((section.unknowns - mReference).head(mCells));
+bool FittedInversion::Fit::improve(const Section& from, Section& next,
+                                   const std::function<bool()>& goOn) {
+  if (mOptions.blocky && from.fit.chi2 < kBlockyFrom) {
+    mRoughness.sharpen((from.unknowns - mReference).head(mCells));
   }
-  makePrior(section.lambda);
-  const double huber = huberLimit(section);
-  const LinearStep problem = linearize(section, huber);
+  makePrior(from.lambda);
+  const double huber = huberLimit(from);
+  const LinearStep problem = linearize(from, huber);
   Vector step;
   if (!mSolver.solve(problem, step)) {
     throw std::runtime_error("no ray constrains the section");
   }
+  if (!search(from, step, -2.0 * problem.gradient.dot(step), huber, next, goOn)) return false;
+  next.lambda = from.lambda;
+  return true;
+}
+
+/// One iteration of a fit. \return false when it was stopped
+bool FittedInversion::Fit::advance(Section& section, const std::function<bool()>& goOn) {
   Section next;
-  if (!search(section, step, -2.0 * problem.gradient.dot(step), huber, next, goOn)) return false;
-  if (!cross(section, next, goOn)) return false;
+  if (!improve(section, next, goOn) || !cross(section, next, goOn)) return false;
   next.lambda = section.lambda;
   section = std::move(next);
   return true;
+}
+
+FittedResult FittedInversion::Fit::settle(double lambda, const std::function<bool()>& goOn) {
+  Section section = start();
+  section.lambda = lambda > 0.0 ? lambda : firstLambda();
+  if (!evaluate(section, goOn)) return {};
+  mHistory = {section.fit.chi2};
+  for (int iteration = 1; iteration <= mOptions.mostIterations; ++iteration) {
+    Section next;
+    if (!improve(section, next, goOn)) return {};
+    const Vector change = (next.unknowns - section.unknowns).head(mCells);
+    section = std::move(next);
+    section.iteration = iteration;
+    mHistory.push_back(section.fit.chi2);
+    if (change.squaredNorm() < kSettled * kSettled * static_cast<double>(mCells)) break;
+  }
+  FittedResult result = resultOf(std::move(section));
+  result.end = FitEnd::kIterations;
+  return result;
 }
 
 FittedResult FittedInversion::Fit::resultOf(Section best) const {
@@ -443,13 +472,21 @@ FittedInversion::~FittedInversion() = default;
 
 FittedResult FittedInversion::run(const std::function<void(const FitProgress&)>& progress,
                                   const std::function<bool()>& goOn) {
+  return attempt([&] { return mFit->run(progress, goOn); });
+}
+
+FittedResult FittedInversion::settle(double lambda, const std::function<bool()>& goOn) {
+  return attempt([&] { return mFit->settle(lambda, goOn); });
+}
+
+FittedResult FittedInversion::attempt(const std::function<FittedResult()>& fit) {
   FittedResult result;
   if (Message wrong = mFit->invalid(); !wrong.empty()) {
     result.status = Status::failure(std::move(wrong));
     return result;
   }
   try {
-    return mFit->run(progress, goOn);
+    return fit();
   } catch (const std::exception& error) {
     result.status = Status::failure(Message::tr("The inversion failed: %1").arg(error.what()));
     return result;

@@ -82,7 +82,14 @@ class FittedInversion {
   FittedResult run(const std::function<void(const FitProgress&)>& progress = {},
                    const std::function<bool()>& goOn = {});
 
+  /// Instead of run(), for picks that are those of an earlier fit but for other errors: the section
+  /// that a given weight of the roughness leads to, whatever its chi-square. `end` is kStopped or
+  /// kIterations. \param lambda as of the earlier result; 0: the weight that run() begins with
+  FittedResult settle(double lambda, const std::function<bool()>& goOn = {});
+
  private:
+  FittedResult attempt(const std::function<FittedResult()>& fit);
+
   class Fit;
   std::unique_ptr<Fit> mFit;
 };

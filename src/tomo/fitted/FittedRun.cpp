@@ -118,6 +118,7 @@ Status install(const FittedResult& fit, InversionRecord record, unsigned threads
   outcome.excluded.clear();  // every run names anew what it leaves out
   outcome.has_tomographic_info = true;
   outcome.smoothedResult = false;
+  outcome.certainty.reset();
   outcome.sectionHistory = record.sectionHistory;
   outcome.lastInversion = std::move(record);
   setCoverage(document, *grid);

@@ -1,0 +1,111 @@
+#include "tomo/fitted/CertaintyRun.h"
+
+#include "base/Fingerprint.h"
+#include "model/GroundModel.h"
+#include "model/PickFingerprint.h"
+#include "model/TomoDocument.h"
+#include "model/TomographyOutcome.h"
+#include "tomo/ForwardPass.h"
+#include "tomo/fitted/SurveyFit.h"
+
+#include <exception>
+
+namespace talvesk {
+namespace {
+
+Certainty gathered(const Ensemble& ensemble, const TomoDocument& document,
+                   const CertaintySettings& settings) {
+  Certainty certainty;
+  const EnsembleCounts& counts = ensemble.counts();
+  certainty.members = counts.members();
+  certainty.leftOut = ensemble.leftOut();
+  certainty.seed = settings.ensemble.seed;
+  certainty.velocities = counts.velocities();
+  certainty.deviations = counts.deviations();
+  certainty.touched = counts.touched();
+  certainty.bands = counts.bands();
+  for (const EnsembleModel& model : ensemble.models()) {
+    certainty.models.push_back({model.name.english(), model.chi2, model.members});
+  }
+  certainty.picks = fingerprintOfPicks(document.ttArray);
+  return certainty;
+}
+
+}  // namespace
+
+std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
+                                     const CertaintySettings& settings) {
+  const Grid& grid = *document.model->grid;
+  EnsembleOptions options = settings.ensemble;
+  if (options.fit.start.empty()) options.fit.start = grid.slownesses();
+  return std::make_unique<Ensemble>(grid.sharedGeometry(), picksToFit(document, settings.errors),
+                                    std::move(options));
+}
+
+CertaintySettings certaintySettings(const TomoDocument& document) {
+  CertaintySettings settings;
+  const std::optional<InversionRecord>& run = document.result->lastInversion;
+  if (!run || !run->fit) return settings;
+  FittedOptions& fit = settings.ensemble.fit;
+  fit.minVelocity = run->minVelocity;
+  fit.maxVelocity = run->maxVelocity;
+  fit.robust = run->fit->robust;
+  fit.blocky = run->fit->blocky;
+  fit.statics = run->fit->statics;
+  settings.errors = {run->fit->errorFloor, run->fit->errorShare};
+  return settings;
+}
+
+std::uint64_t ensembleKey(const TomoDocument& document, const CertaintySettings& settings) {
+  Fingerprint key;
+  const EnsembleOptions& options = settings.ensemble;
+  const FittedOptions& fit = options.fit;
+  const Grid& grid = *document.model->grid;
+  const FitData data = picksToFit(document, settings.errors);
+  for (const FitPick& pick : data.picks) {
+    key.take(std::uint64_t{pick.record} << 32 | pick.receiver);
+    key.take(pick.time);
+    key.take(pick.sigma);
+  }
+  for (const FitShot& shot : data.shots) {
+    key.take(shot.source);
+    for (const double x : shot.receivers) key.take(x);
+  }
+  for (const double z : grid.geometry().surfaceProfile()) key.take(z);
+  for (const auto* model : {&grid.slownesses(), &fit.start}) {
+    for (const double slowness : *model) key.take(slowness);
+  }
+  for (const double value : {grid.aLato(), fit.minVelocity, fit.maxVelocity, fit.triggerError}) {
+    key.take(value);
+  }
+  for (const double isovalue : options.isovalues) key.take(isovalue);
+  key.take(std::uint64_t{fit.robust} << 2 | std::uint64_t{fit.blocky} << 1 |
+           std::uint64_t{fit.statics});
+  key.take(static_cast<std::uint64_t>(fit.mostIterations));
+  key.take(options.seed);
+  return key.value();
+}
+
+Status runCertainty(Ensemble& ensemble, const TomoDocument& document,
+                    const CertaintySettings& settings, Certainty& certainty,
+                    const std::function<void(const EnsembleProgress&)>& progress,
+                    const std::function<bool()>& cancelled) {
+  try {
+    const unsigned threads = settings.singleThread ? 1U : searchThreads();
+    const Status status = ensemble.run(settings.members, threads, progress,
+                                       [&] { return !cancelled || !cancelled(); });
+    if (ensemble.counts().members() > 0) certainty = gathered(ensemble, document, settings);
+    if (!status.ok() || ensemble.counts().members() > 0 || ensemble.done() < settings.members) {
+      return status;
+    }
+    return Status::failure(
+        Message::tr("None of the %1 members explains the picks to within their errors; how sure "
+                    "the section is stays unknown.")
+            .arg(settings.members));
+  } catch (const std::exception& error) {
+    return Status::failure(
+        Message::tr("How sure the section is could not be found out: %1").arg(error.what()));
+  }
+}
+
+}  // namespace talvesk

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "base/Status.h"
+#include "model/Certainty.h"
+#include "model/ChiSquare.h"
+#include "model/Parameters.h"
+#include "tomo/fitted/Ensemble.h"
+
+#include <functional>
+#include <memory>
+
+namespace talvesk {
+
+class TomoDocument;
+
+/// What the user chooses before it is asked how sure a section is.
+struct CertaintySettings {
+  int members = parameters::kMembers.initial;
+  EnsembleOptions ensemble;  ///< without a start: the section of the document is
+  PickErrorRule errors;
+  bool singleThread = false;
+};
+
+/// The ensemble of a document's section, with no member yet. The document holds a grid whose rays
+/// can be traced (checkTraceable()). May throw.
+std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
+                                     const CertaintySettings& settings);
+
+/// The settings with which the section of a document was fitted; where it was not, the usual ones.
+CertaintySettings certaintySettings(const TomoDocument& document);
+
+/// Tells ensembles apart: members of ensembles with one key are the same.
+std::uint64_t ensembleKey(const TomoDocument& document, const CertaintySettings& settings);
+
+/// How sure a document's section is. Whatever stops the run, what is found of members until then is
+/// kept in `ensemble`, with which it can go on.
+/// \param ensemble of ensembleOf() for this document and these settings
+/// \param certainty out: of all members that are done; as before where there is none
+/// \param progress, cancelled as of Ensemble::run(), from any thread
+Status runCertainty(Ensemble& ensemble, const TomoDocument& document,
+                    const CertaintySettings& settings, Certainty& certainty,
+                    const std::function<void(const EnsembleProgress&)>& progress = {},
+                    const std::function<bool()>& cancelled = {});
+
+}  // namespace talvesk
