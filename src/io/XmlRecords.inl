@@ -112,9 +112,13 @@ void read(XmlReader& reader, T& value) {
     reader.countSequence();
     value.clear();
     while (reader.nextChild()) {
-      typename T::value_type item{};
-      read(reader, item);
-      value.push_back(std::move(item));
+      if constexpr (std::is_same_v<typename T::value_type, bool>) {
+        bool item = false;
+        read(reader, item);
+        value.push_back(item);
+      } else {
+        read(reader, value.emplace_back());
+      }
     }
   } else {
     readRecord(reader, value);
