@@ -196,7 +196,7 @@ TEST_F(Inverting, findsOutHowSureTheSectionIsAndShowsIt) {
   expectResults();
   run();
   const double velocity = window->document().model->grid->velocity(0);
-  script.expect([](QWidget& dialog) {
+  dialogs.expect([](QWidget& dialog) {
     auto* members = dialog.findChild<QSpinBox*>(QStringLiteral("membersField"));
     EXPECT_EQ(members->value(), 24);
     members->setValue(4);
@@ -227,7 +227,7 @@ TEST_F(Inverting, keepsTheMembersOfACertaintyThatIsStopped) {
   answerParameters(1, 2);
   expectResults();
   run();
-  script.expect([](QWidget& dialog) {
+  dialogs.expect([](QWidget& dialog) {
     dialog.findChild<QSpinBox*>(QStringLiteral("membersField"))->setValue(1000);
     dialog.findChild<QPushButton*>(QStringLiteral("startButton"))->click();
     auto& label = *dialog.findChild<QLabel*>(QStringLiteral("progressLabel"));
