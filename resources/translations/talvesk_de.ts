@@ -7012,6 +7012,62 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>Shot %1: %2.</source>
         <translation>Schuss %1: %2.</translation>
     </message>
+    <message>
+        <source>gradient read from the picks</source>
+        <translation>Gradient aus den Picks</translation>
+    </message>
+    <message>
+        <source>two layers read from the picks</source>
+        <translation>zwei Schichten aus den Picks</translation>
+    </message>
+    <message>
+        <source>three layers read from the picks</source>
+        <translation>drei Schichten aus den Picks</translation>
+    </message>
+    <message>
+        <source>gradient over a refractor, read from the picks</source>
+        <translation>Gradient über einem Refraktor, aus den Picks</translation>
+    </message>
+    <message>
+        <source>default model</source>
+        <translation>Standardmodell</translation>
+    </message>
+    <message>
+        <source>velocities that the grid had</source>
+        <translation>Geschwindigkeiten, die das Gitter hatte</translation>
+    </message>
+    <message>
+        <source>Started from and held to</source>
+        <translation>Ausgangs- und Referenzmodell</translation>
+    </message>
+    <message>
+        <source>%1, shrinking to a fifth</source>
+        <translation>%1, auf ein Fünftel abnehmend</translation>
+    </message>
+    <message>
+        <source>%1, the best of %2 from coarse to fine</source>
+        <translation>%1, die beste von %2 von grob nach fein</translation>
+    </message>
+    <message>
+        <source>Uncertainty: half of the range from 16 to 84 % of %1 sections that explain the picks as well, in percent</source>
+        <translation>Unsicherheit: halber Bereich von 16 bis 84 % von %1 Schnitten, die die Picks ebenso gut erklären, in Prozent</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2; suspect picks %3</source>
+        <translation>%1; mit allen Picks %2; verdächtige Picks %3</translation>
+    </message>
+    <message>
+        <source>%1; with the time shifts of shots</source>
+        <translation>%1; mit den Zeitverschiebungen der Schüsse</translation>
+    </message>
+    <message>
+        <source>Misfit after every iteration, 0 being the starting model</source>
+        <translation>Abweichung nach jeder Iteration, 0 ist das Startmodell</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
+        <translation>RMS-Abweichung des Schnitts nach jeder Iteration, 0 ist das Startmodell</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -7128,6 +7184,160 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     </message>
 </context>
 <context>
+    <name>talvesk::RunTexts</name>
+    <message>
+        <source>Fitted to errors</source>
+        <translation>An Fehler angepasst</translation>
+    </message>
+    <message>
+        <source>Smoothed</source>
+        <translation>Geglättet</translation>
+    </message>
+    <message>
+        <source>%1 rows and %2 columns of %3 m</source>
+        <translation>%1 Zeilen und %2 Spalten zu %3 m</translation>
+    </message>
+    <message>
+        <source>velocities from %1 to %2 m/s</source>
+        <translation>Geschwindigkeiten von %1 bis %2 m/s</translation>
+    </message>
+    <message>
+        <source>errors of %1 ms or %2 %</source>
+        <translation>Fehler von %1 ms oder %2 %</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robust</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>blockig</translation>
+    </message>
+    <message>
+        <source>with shot statics</source>
+        <translation>mit Schussstatik</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>verdächtige Picks: %1</translation>
+    </message>
+    <message>
+        <source>%1 solver iterations</source>
+        <translation>%1 Löser-Iterationen</translation>
+    </message>
+    <message>
+        <source>smoothing parameter %1</source>
+        <translation>Glättungsparameter %1</translation>
+    </message>
+    <message>
+        <source>symmetric</source>
+        <translation>symmetrisch</translation>
+    </message>
+    <message>
+        <source>stopped by the user</source>
+        <translation>vom Benutzer angehalten</translation>
+    </message>
+    <message>
+        <source>picks have changed since</source>
+        <translation>Picks seither geändert</translation>
+    </message>
+    <message>
+        <source>the surface or the ends of the line have changed since</source>
+        <translation>Oberfläche oder Enden der Messlinie seither geändert</translation>
+    </message>
+    <message>
+        <source>positions have changed since</source>
+        <translation>Positionen seither geändert</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RunsDialog</name>
+    <message>
+        <source>Inversion runs</source>
+        <translation>Inversionsläufe</translation>
+    </message>
+    <message>
+        <source>Every inversion is kept here, at most 50 of them. The run in use is the section that the window shows; exports and reports are of it.</source>
+        <translation>Jede Inversion wird hier aufbewahrt, höchstens 50. Der verwendete Lauf ist der Schnitt, den das Fenster zeigt; Exporte und Berichte beziehen sich auf ihn.</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Lauf</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi-Quadrat</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [%]</source>
+        <translation>RMS [%]</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Iterationen</translation>
+    </message>
+    <message>
+        <source>Time [s]</source>
+        <translation>Dauer [s]</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Wann</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Bemerkungen</translation>
+    </message>
+    <message>
+        <source>No inversion has been run yet. Run one with Processing, Run tomography inversion.</source>
+        <translation>Noch keine Inversion gerechnet. Starten Sie eine mit „Verarbeitung“, „Tomographische Inversion starten“.</translation>
+    </message>
+    <message>
+        <source>Make the section of the selected run the one that the window shows</source>
+        <translation>Macht den Schnitt des ausgewählten Laufs zu dem, den das Fenster zeigt</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <translation>&amp;Verwenden</translation>
+    </message>
+    <message>
+        <source>Show two runs side by side: the selected one beside another that is selected, else beside the one in use</source>
+        <translation>Zeigt zwei Läufe nebeneinander: den ausgewählten neben einem zweiten ausgewählten, sonst neben dem verwendeten</translation>
+    </message>
+    <message>
+        <source>&amp;Compare ...</source>
+        <translation>Ver&amp;gleichen ...</translation>
+    </message>
+    <message>
+        <source>Name the selected run; runs with a name are the last to go when the list is full</source>
+        <translation>Benennt den ausgewählten Lauf; Läufe mit Namen entfallen zuletzt, wenn die Liste voll ist</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Take the selected runs out of the list; Undo brings them back</source>
+        <translation>Nimmt die ausgewählten Läufe aus der Liste; „Rückgängig“ bringt sie zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>verwendet</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ScreenshotDialog</name>
     <message>
         <source>Screenshot</source>
@@ -7156,6 +7366,97 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>%1: %2 x %3 pixels</source>
         <translation>%1: %2 x %3 Pixel</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SecondLookDialog</name>
+    <message>
+        <source>Second look</source>
+        <translation>Zweiter Blick</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Pick [ms]</source>
+        <translation>Pick [ms]</translation>
+    </message>
+    <message>
+        <source>Off by [ms]</source>
+        <translation>Daneben um [ms]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured: the pick is late where this is negative.</source>
+        <translation>Berechnet minus gemessen: Wo das negativ ist, ist der Pick zu spät.</translation>
+    </message>
+    <message>
+        <source>In errors</source>
+        <translation>In Fehlern</translation>
+    </message>
+    <message>
+        <source>Off by how many of its errors</source>
+        <translation>Um wie viele seiner Fehler der Pick danebenliegt</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Verspätet um [ms]</translation>
+    </message>
+    <message>
+        <source>Positive: the record begins too late, and its picks are late.</source>
+        <translation>Positiv: Die Aufzeichnung beginnt zu spät, und ihre Picks sind zu spät.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
+        <translation>Verschiebt die Aufzeichnungen der angekreuzten Schüsse mit ihren Picks, wie „Aufzeichnung korrigieren“ es tut. Ein Schritt, der sich rückgängig machen lässt.</translation>
+    </message>
+    <message>
+        <source>&amp;Take over as time shifts of the records</source>
+        <translation>Als Zeitverschiebungen der Aufzeichnungen &amp;übernehmen</translation>
+    </message>
+    <message>
+        <source>no recording that could be shifted</source>
+        <translation>keine Aufzeichnung, die sich verschieben ließe</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Es gibt noch keinen Schnitt, dessen Zeiten man prüfen könnte.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>Die Picks haben sich geändert, seit der Schnitt bestimmt wurde: Er wurde an andere angepasst.</translation>
+    </message>
+    <message>
+        <source>No pick is off by more than five of its errors.</source>
+        <translation>Kein Pick liegt um mehr als fünf seiner Fehler daneben.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than five of their errors; a click shows the trace:</source>
+        <translation>Picks, die um mehr als fünf ihrer Fehler danebenliegen; ein Klick zeigt die Spur:</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found:</source>
+        <translation>Zeitverschiebungen der Schüsse, die die Anpassung gefunden hat:</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m, depth %3 to %4 m</source>
+        <translation>%1 bis %2 m, Tiefe %3 bis %4 m</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
+        <translation>Zellen an der Grenze von %1 m/s: %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
+        <translation>Gezeigte Zellen, die kein Strahl durchquert: %1 von %2 (%3)</translation>
+    </message>
+    <message>
+        <source>No velocity is at a limit, and rays cross all cells shown.</source>
+        <translation>Keine Geschwindigkeit liegt an einer Grenze, und Strahlen durchqueren alle gezeigten Zellen.</translation>
     </message>
 </context>
 <context>
@@ -9232,6 +9533,85 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Error %1 ms</source>
         <translation>Fehler %1 ms</translation>
     </message>
+    <message>
+        <source>Second look ...</source>
+        <translation>Zweiter Blick ...</translation>
+    </message>
+    <message>
+        <source>List the picks that the section cannot explain, time shifts of shots, velocities at their limits and ground without rays</source>
+        <translation>Listet Picks auf, die der Schnitt nicht erklären kann, Zeitverschiebungen der Schüsse, Geschwindigkeiten an ihren Grenzen und Untergrund ohne Strahlen</translation>
+    </message>
+    <message>
+        <source>Inversion runs ...</source>
+        <translation>Inversionsläufe ...</translation>
+    </message>
+    <message>
+        <source>List the inversions that have been run, compare them, and use one of them as the section</source>
+        <translation>Listet die gerechneten Inversionen auf, vergleicht sie und verwendet eine davon als Schnitt</translation>
+    </message>
+    <message>
+        <source>Certainty ...</source>
+        <translation>Zuverlässigkeit ...</translation>
+    </message>
+    <message>
+        <source>Find out how sure the section is, by many sections that explain the picks as well</source>
+        <translation>Ermittelt, wie zuverlässig der Schnitt ist, mit vielen Schnitten, die die Picks ebenso gut erklären</translation>
+    </message>
+    <message>
+        <source>Show Certainty Layer</source>
+        <translation>Zuverlässigkeit anzeigen</translation>
+    </message>
+    <message>
+        <source>Colour the section by how far its velocities may be off</source>
+        <translation>Färbt den Schnitt danach, wie ungenau seine Geschwindigkeiten sein können</translation>
+    </message>
+    <message>
+        <source>Certainty: %1 members, %2 left out.</source>
+        <translation>Zuverlässigkeit: %1 Mitglieder, %2 weggelassen.</translation>
+    </message>
+    <message>
+        <source>The list of inversion runs is full; &quot;%1&quot; has gone.</source>
+        <translation>Die Liste der Inversionsläufe ist voll; „%1“ ist entfallen.</translation>
+    </message>
+    <message>
+        <source>Tracing the rays of the run anew ...</source>
+        <translation>Strahlen des Laufs neu verfolgen ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used.</source>
+        <translation>„%1“ kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>The section is that of &quot;%1&quot;.</source>
+        <translation>Der Schnitt ist der von „%1“.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n inversion run(s) deleted.</source>
+        <translation>
+            <numerusform>%n Inversionslauf gelöscht.</numerusform>
+            <numerusform>%n Inversionsläufe gelöscht.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save picture of both runs</source>
+        <translation>Bild beider Läufe speichern</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png);;SVG picture (*.svg);;PDF document (*.pdf)</source>
+        <translation>PNG-Bild (*.png);;SVG-Bild (*.svg);;PDF-Dokument (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Time shifts taken over: %1 of %2. Invert again to see what they change.</source>
+        <translation>Zeitverschiebungen übernommen: %1 von %2. Invertieren Sie noch einmal, um zu sehen, was sie ändern.</translation>
+    </message>
+    <message>
+        <source>Some time shifts have not been taken over.</source>
+        <translation>Einige Zeitverschiebungen wurden nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>Uncertainty %1 %</source>
+        <translation>Unsicherheit %1 %</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -10044,6 +10424,22 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <source>Stops when the iteration under way is completed.</source>
         <translation>Hält an, sobald die laufende Iteration abgeschlossen ist.</translation>
     </message>
+    <message>
+        <source>The models to start from are being traced.</source>
+        <translation>Die möglichen Startmodelle werden durchstrahlt.</translation>
+    </message>
+    <message>
+        <source>Ends by itself, after %1 iterations at the latest.</source>
+        <translation>Endet von selbst, spätestens nach %1 Iterationen.</translation>
+    </message>
+    <message>
+        <source>Iteration %1: chi-square %2, RMS %3 ms (%4 %)</source>
+        <translation>Iteration %1: Chi-Quadrat %2, RMS %3 ms (%4 %)</translation>
+    </message>
+    <message>
+        <source>Stops, with the best section so far.</source>
+        <translation>Hält an, mit dem bisher besten Schnitt.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::runTomography_Dialog</name>
@@ -10154,6 +10550,46 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
         <translation>Jede äußere Iteration verfolgt die Strahlen neu durch das bisherige Modell. Mehr Iterationen bringen die Strahlen der Wirklichkeit näher und senken die Abweichung; die Zeit wächst mit der Anzahl. Ist die Abweichungskurve flach geworden, ändern weitere wenig. Die 5 der Beschriftung genügt für einen ersten Blick; das Feld selbst beginnt mit 10.</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Solver passes correct the velocities along traced rays and smooth them, as often as is said here. A fit to the picks&apos; errors chooses its own smoothing, ends by itself, and comes as close to the picks as their errors are and no closer.</source>
+        <translation>Löserdurchgänge korrigieren die Geschwindigkeiten entlang verfolgter Strahlen und glätten sie, so oft wie hier angegeben. Eine Anpassung an die Fehler der Picks wählt ihre Glättung selbst, endet von selbst und kommt den Picks so nahe, wie deren Fehler es erlauben, und nicht näher.</translation>
+    </message>
+    <message>
+        <source>Solver passes and smoothing</source>
+        <translation>Löserdurchgänge und Glättung</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Anpassung an die Fehler der Picks</translation>
+    </message>
+    <message>
+        <source>Lets the smoothing parameter shrink to a fifth over the external iterations, and keeps the iteration whose section fits the picks best along fresh rays, which need not be the last one.</source>
+        <translation>Lässt den Glättungsparameter über die äußeren Iterationen auf ein Fünftel abnehmen und behält die Iteration, deren Schnitt entlang neuer Strahlen am besten zu den Picks passt; das muss nicht die letzte sein.</translation>
+    </message>
+    <message>
+        <source>From coarse to fine, keeping the best iteration</source>
+        <translation>Von grob nach fein, beste Iteration behalten</translation>
+    </message>
+    <message>
+        <source>Sets the velocity limits and the smoothing parameter as the picks and the distance between geophones suggest them.</source>
+        <translation>Setzt die Geschwindigkeitsgrenzen und den Glättungsparameter so, wie die Picks und der Geophonabstand es nahelegen.</translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation>Vorschlagen</translation>
+    </message>
+    <message>
+        <source>Rays are expected down to %1 m; the grid reaches %2 m.</source>
+        <translation>Strahlen sind bis %1 m Tiefe zu erwarten; das Gitter reicht bis %2 m.</translation>
+    </message>
+    <message>
+        <source>The minimum velocity must be below the maximum.</source>
+        <translation>Die minimale Geschwindigkeit muss unter der maximalen liegen.</translation>
     </message>
 </context>
 <context>
