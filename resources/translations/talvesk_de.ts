@@ -49,6 +49,72 @@
     </message>
 </context>
 <context>
+    <name>talvesk::CertaintyDialog</name>
+    <message>
+        <source>Certainty</source>
+        <translation>Zuverlässigkeit</translation>
+    </message>
+    <message>
+        <source>Many sections explain the picks as well as the one that is shown. Each member is fitted to picks that are moved by their errors, from another model that explains them. Where the members agree the section is sure.</source>
+        <translation>Viele Schnitte erklären die Picks ebenso gut wie der gezeigte. Jedes Mitglied wird an Picks angepasst, die um ihre Fehler verschoben sind, ausgehend von einem anderen Modell, das sie erklärt. Wo die Mitglieder übereinstimmen, ist der Schnitt zuverlässig.</translation>
+    </message>
+    <message>
+        <source>&amp;Members:</source>
+        <translation>&amp;Mitglieder:</translation>
+    </message>
+    <message>
+        <source>How many sections are compared. More of them tell the spread more exactly and take longer.</source>
+        <translation>Wie viele Schnitte verglichen werden. Mehr davon geben die Streuung genauer an und dauern länger.</translation>
+    </message>
+    <message>
+        <source>S&amp;eed:</source>
+        <translation>Start&amp;wert:</translation>
+    </message>
+    <message>
+        <source>The number that the errors of all members come from. The same survey and seed give the same members.</source>
+        <translation>Die Zahl, aus der die Fehler aller Mitglieder erzeugt werden. Dieselbe Messung mit demselben Startwert ergibt dieselben Mitglieder.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Starten</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Models are being tried.</source>
+        <translation>Modelle werden probiert.</translation>
+    </message>
+    <message>
+        <source>Models are being tried: %1 of %2.</source>
+        <translation>Modelle werden probiert: %1 von %2.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 members are done; %3 left out.</source>
+        <translation>%1 von %2 Mitgliedern sind fertig; %3 weggelassen.</translation>
+    </message>
+    <message>
+        <source>How sure the section is stays unknown.</source>
+        <translation>Wie zuverlässig der Schnitt ist, bleibt unbekannt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <translation>
+            <numerusform>Mit %n Mitglied angehalten; „Starten“ setzt dort fort.</numerusform>
+            <numerusform>Mit %n Mitgliedern angehalten; „Starten“ setzt dort fort.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped before the first member was done; Start goes on.</source>
+        <translation>Angehalten, bevor das erste Mitglied fertig war; „Starten“ setzt fort.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CheckDialog</name>
     <message>
         <source>Check recordings</source>
@@ -289,6 +355,51 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source> of %1</source>
         <translation> von %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CompareRunsDialog</name>
+    <message>
+        <source>Compare inversion runs</source>
+        <translation>Inversionsläufe vergleichen</translation>
+    </message>
+    <message>
+        <source>&amp;Left:</source>
+        <translation>&amp;Links:</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>&amp;Rechts:</translation>
+    </message>
+    <message>
+        <source>Save both sections and their difference as PNG, SVG or PDF</source>
+        <translation>Beide Schnitte und ihre Differenz als PNG, SVG oder PDF speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Bild &amp;speichern ...</translation>
+    </message>
+    <message>
+        <source>%1 against %2</source>
+        <comment>right run, left run</comment>
+        <translation>%1 gegen %2</translation>
+    </message>
+    <message>
+        <source>Chi-square %1</source>
+        <translation>Chi-Quadrat %1</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 ms</source>
+        <translation>RMS-Abweichung %1 ms</translation>
+    </message>
+    <message>
+        <source>their computed times differ by %1 ms RMS</source>
+        <translation>ihre berechneten Zeiten unterscheiden sich um %1 ms RMS</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>run, remarks</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1032,6 +1143,177 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <comment>picks</comment>
         <translation>%1 mit unbekanntem Fehler</translation>
     </message>
+    <message>
+        <source>Uncertainty of velocity</source>
+        <translation>Unsicherheit der Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>chi-square %1 with the time shifts of shots</source>
+        <translation>Chi-Quadrat %1 mit den Zeitverschiebungen der Schüsse</translation>
+    </message>
+    <message>
+        <source>chi-square %1</source>
+        <translation>Chi-Quadrat %1</translation>
+    </message>
+    <message>
+        <source>Correlation by depth</source>
+        <translation>Korrelation nach Tiefe</translation>
+    </message>
+    <message>
+        <source>Correlation of true and recovered</source>
+        <translation>Korrelation zwischen wahr und rekonstruiert</translation>
+    </message>
+    <message>
+        <source>-%1 % to +%1 % of the section&apos;s velocity; grey: no ray</source>
+        <translation>-%1 % bis +%1 % der Geschwindigkeit des Schnitts; grau: kein Strahl</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>Wahr</translation>
+    </message>
+    <message>
+        <source>Recovered</source>
+        <translation>Rekonstruiert</translation>
+    </message>
+    <message>
+        <source>[m]</source>
+        <translation>[m]</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FitPanel</name>
+    <message>
+        <source>Errors of picks that state none</source>
+        <translation>Fehler von Picks ohne Fehlerangabe</translation>
+    </message>
+    <message>
+        <source>Least error [ms]</source>
+        <translation>Kleinster Fehler [ms]</translation>
+    </message>
+    <message>
+        <source>How far off a pick is at least, one standard deviation. A small error makes the section follow every pick, and its noise; a large one lets it pass by.</source>
+        <translation>Wie ungenau ein Pick mindestens ist, als Standardabweichung. Mit einem kleinen Fehler folgt der Schnitt jedem Pick samt seinem Rauschen, mit einem großen darf er von ihm abweichen.</translation>
+    </message>
+    <message>
+        <source>Share of the time [%]</source>
+        <translation>Anteil an der Zeit [%]</translation>
+    </message>
+    <message>
+        <source>The error of a late pick is this share of its time, where that is more than the least error.</source>
+        <translation>Der Fehler eines späten Picks ist dieser Anteil seiner Zeit, wo das mehr ist als der kleinste Fehler.</translation>
+    </message>
+    <message>
+        <source>Minimum velocity [m/s]</source>
+        <translation>Minimale Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get slower than this.</source>
+        <translation>Keine Zelle wird langsamer.</translation>
+    </message>
+    <message>
+        <source>Maximum velocity [m/s]</source>
+        <translation>Maximale Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get faster than this.</source>
+        <translation>Keine Zelle wird schneller.</translation>
+    </message>
+    <message>
+        <source>Iterations at most</source>
+        <translation>Iterationen höchstens</translation>
+    </message>
+    <message>
+        <source>The fit ends by itself, as a rule after 5 to 15 iterations.</source>
+        <translation>Die Anpassung endet von selbst, in der Regel nach 5 bis 15 Iterationen.</translation>
+    </message>
+    <message>
+        <source>Picks that are far off count by how far they are off, and no more by its square: some gross errors then hardly change the section.</source>
+        <translation>Weit abliegende Picks zählen mit ihrer Abweichung statt mit deren Quadrat: Einzelne grobe Fehler ändern den Schnitt dann kaum.</translation>
+    </message>
+    <message>
+        <source>Robust against gross errors of picks</source>
+        <translation>Robust gegen grobe Fehler der Picks</translation>
+    </message>
+    <message>
+        <source>Looks for few sharp steps of the velocity rather than for gentle slopes.</source>
+        <translation>Sucht wenige scharfe Sprünge der Geschwindigkeit statt sanfter Übergänge.</translation>
+    </message>
+    <message>
+        <source>Blocky: sharp steps rather than slopes</source>
+        <translation>Blockig: scharfe Sprünge statt Übergänge</translation>
+    </message>
+    <message>
+        <source>Also finds by how much the record of every shot begins too early or too late, zero on the whole. The shifts are listed after the run and change nothing by themselves.</source>
+        <translation>Bestimmt auch, um wie viel die Aufzeichnung jedes Schusses zu früh oder zu spät beginnt, insgesamt null. Die Verschiebungen werden nach der Rechnung aufgelistet und ändern von sich aus nichts.</translation>
+    </message>
+    <message>
+        <source>Find time shifts of shots</source>
+        <translation>Zeitverschiebungen der Schüsse bestimmen</translation>
+    </message>
+    <message>
+        <source>Trigger error [ms]</source>
+        <translation>Triggerfehler [ms]</translation>
+    </message>
+    <message>
+        <source>How far the shots are thought to be off. Shifts that are large beside it are less welcome.</source>
+        <translation>Wie ungenau die Schusszeiten vermutlich sind. Verschiebungen, die im Vergleich dazu groß sind, werden gedämpft.</translation>
+    </message>
+    <message>
+        <source>Uses one processor only. The result is the same to the last digit; it just takes longer.</source>
+        <translation>Verwendet nur einen Prozessor. Das Ergebnis ist bis zur letzten Stelle dasselbe; es dauert nur länger.</translation>
+    </message>
+    <message>
+        <source>Run in single thread mode</source>
+        <translation>Mit nur einem Thread rechnen</translation>
+    </message>
+    <message>
+        <source>The section starts from this model, and departs from it no more than the picks ask for:</source>
+        <translation>Der Schnitt beginnt mit diesem Modell und weicht nur so weit davon ab, wie die Picks es verlangen:</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi-Quadrat</translation>
+    </message>
+    <message>
+        <source>Of the times through the model as it is, suspect picks included: 1 is a fit as good as the picks are.</source>
+        <translation>Der Zeiten durch das unveränderte Modell, verdächtige Picks eingeschlossen: 1 heißt, es passt so gut, wie die Picks sind.</translation>
+    </message>
+    <message>
+        <source>What it is</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Distance from the shot (m)</source>
+        <translation>Entfernung vom Schuss (m)</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Zeit (ms)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks state an error of their own.</source>
+        <translation>%1 von %2 Picks geben einen eigenen Fehler an.</translation>
+    </message>
+    <message>
+        <source>By these errors the present section has chi-square %1, with %2 suspect picks left out.</source>
+        <translation>Mit diesen Fehlern hat der jetzige Schnitt Chi-Quadrat %1, ohne %2 verdächtige Picks.</translation>
+    </message>
+    <message>
+        <source>The models are being made and traced...</source>
+        <translation>Die Modelle werden erstellt und durchstrahlt...</translation>
+    </message>
+    <message>
+        <source>Not supported</source>
+        <translation>Nicht gestützt</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picks</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -1457,10 +1739,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
 </translation>
     </message>
     <message>
-        <source>Misfit of the section: RMS %1 ms (%2 %).</source>
-        <translation>Abweichung des Schnitts: RMS %1 ms (%2 %).</translation>
-    </message>
-    <message>
         <source>Computing time: [s] %1
 </source>
         <translation>Rechenzeit: [s] %1
@@ -1489,6 +1767,58 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
 </source>
         <translation>Größter Fehler: [ms] %1; [%] %2
 </translation>
+    </message>
+    <message>
+        <source>Chi-square: %1; of all picks %2; suspect picks %3
+</source>
+        <translation>Chi-Quadrat: %1; mit allen Picks %2; verdächtige Picks %3
+</translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %), chi-square %3 with the time shifts of shots.</source>
+        <translation>Abweichung des Schnitts: RMS %1 ms (%2 %), Chi-Quadrat %3 mit den Zeitverschiebungen der Schüsse.</translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %), chi-square %3.</source>
+        <translation>Abweichung des Schnitts: RMS %1 ms (%2 %), Chi-Quadrat %3.</translation>
+    </message>
+    <message>
+        <source>From coarse to fine: iteration %1 of %2 is kept, smoothing parameter %3
+</source>
+        <translation>Von grob nach fein: Iteration %1 von %2 wurde behalten, Glättungsparameter %3
+</translation>
+    </message>
+    <message>
+        <source>Iterations: %1
+</source>
+        <translation>Iterationen: %1
+</translation>
+    </message>
+    <message>
+        <source>Weight of the roughness: %1
+</source>
+        <translation>Gewicht der Rauigkeit: %1
+</translation>
+    </message>
+    <message>
+        <source>Started from and held to: %1
+</source>
+        <translation>Ausgangs- und Referenzmodell: %1
+</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots: [ms] %1
+</source>
+        <translation>Zeitverschiebungen der Schüsse: [ms] %1
+</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>Schuss %1: %2</translation>
+    </message>
+    <message>
+        <source>Best of the picks&apos; models</source>
+        <translation>Bestes der Modelle aus den Picks</translation>
     </message>
 </context>
 <context>
@@ -4799,6 +5129,166 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>Set error of pick</source>
         <translation>Fehler eines Picks setzen</translation>
     </message>
+    <message>
+        <source>How sure the section is could not be found out: %1</source>
+        <translation>Wie zuverlässig der Schnitt ist, konnte nicht ermittelt werden: %1</translation>
+    </message>
+    <message>
+        <source>The models could not be made: %1</source>
+        <translation>Die Modelle konnten nicht erstellt werden: %1</translation>
+    </message>
+    <message>
+        <source>Rename run</source>
+        <translation>Lauf umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete runs</source>
+        <translation>Läufe löschen</translation>
+    </message>
+    <message>
+        <source>There is no resolution test to draw.</source>
+        <translation>Es gibt keinen Auflösungstest, der gezeichnet werden könnte.</translation>
+    </message>
+    <message>
+        <source>Difference of velocity</source>
+        <translation>Differenz der Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>its inversion runs but the last one are not known</source>
+        <translation>die Inversionsläufe außer dem letzten sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known</source>
+        <translation>wie zuverlässig der Schnitt ist, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>it does not go with the section of the project, which another program may have changed</source>
+        <translation>passt nicht zum Schnitt des Projekts, den ein anderes Programm geändert haben kann</translation>
+    </message>
+    <message>
+        <source>%1 rows of %2 columns do not go with %3 velocities</source>
+        <translation>%1 Zeilen mit %2 Spalten passen nicht zu %3 Geschwindigkeiten</translation>
+    </message>
+    <message>
+        <source>a velocity is none that ground can have</source>
+        <translation>eine Geschwindigkeit kommt im Untergrund nicht vor</translation>
+    </message>
+    <message>
+        <source>its grid cannot be</source>
+        <translation>das Gitter ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>its settings or figures cannot be</source>
+        <translation>die Einstellungen oder Zahlenwerte sind nicht möglich</translation>
+    </message>
+    <message>
+        <source>its number is 0 or that of another</source>
+        <translation>die Nummer ist 0 oder die eines anderen</translation>
+    </message>
+    <message>
+        <source>there are more than can be kept</source>
+        <translation>es sind mehr, als aufbewahrt werden können</translation>
+    </message>
+    <message>
+        <source>inversion run %1 is left out: %2</source>
+        <translation>Inversionslauf %1 wird weggelassen: %2</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>Lauf %1</translation>
+    </message>
+    <message>
+        <source>Certainty</source>
+        <translation>Zuverlässigkeit</translation>
+    </message>
+    <message>
+        <source>Use run</source>
+        <translation>Lauf verwenden</translation>
+    </message>
+    <message>
+        <source>Inversion runs</source>
+        <translation>Inversionsläufe</translation>
+    </message>
+    <message>
+        <source>Take over time shifts</source>
+        <translation>Zeitverschiebungen übernehmen</translation>
+    </message>
+    <message>
+        <source>None of the %1 members explains the picks to within their errors; how sure the section is stays unknown.</source>
+        <translation>Keines der %1 Mitglieder erklärt die Picks innerhalb ihrer Fehler; wie zuverlässig der Schnitt ist, bleibt unbekannt.</translation>
+    </message>
+    <message>
+        <source>Default model</source>
+        <translation>Standardmodell</translation>
+    </message>
+    <message>
+        <source>Present section</source>
+        <translation>Jetziger Schnitt</translation>
+    </message>
+    <message>
+        <source>No model explains the picks to within their errors (chi-square up to %1), so that nothing can be said of how sure the section is. Their errors may be stated too small, or shots may be shifted in time.</source>
+        <translation>Kein Modell erklärt die Picks innerhalb ihrer Fehler (Chi-Quadrat bis %1), sodass sich nicht sagen lässt, wie zuverlässig der Schnitt ist. Vielleicht sind die Fehler zu klein angegeben oder Schüsse zeitlich verschoben.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m/s</source>
+        <translation>%1 bis %2 m/s</translation>
+    </message>
+    <message>
+        <source>There is no reference model &quot;%1&quot;.</source>
+        <translation>Es gibt kein Referenzmodell „%1“.</translation>
+    </message>
+    <message>
+        <source>The picks do not support the reference model. %1</source>
+        <translation>Die Picks stützen das Referenzmodell nicht. %1</translation>
+    </message>
+    <message>
+        <source>The picks do not support the reference model &quot;%1&quot;.</source>
+        <translation>Die Picks stützen das Referenzmodell „%1“ nicht.</translation>
+    </message>
+    <message>
+        <source>The resolution test failed: %1</source>
+        <translation>Der Auflösungstest ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>The size of the pattern must be positive; %1 m is not.</source>
+        <translation>Die Größe des Musters muss positiv sein; %1 m ist es nicht.</translation>
+    </message>
+    <message>
+        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
+        <translation>Das Muster hat %1 m, weniger als eine Zelle des Gitters mit %2 m; wählen Sie ein größeres.</translation>
+    </message>
+    <message>
+        <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
+        <translation>Die Stärke des Musters muss über 0 und unter 100 % liegen; %1 % tut es nicht.</translation>
+    </message>
+    <message>
+        <source>There are no picks to test the resolution with.</source>
+        <translation>Es gibt keine Picks, mit denen sich die Auflösung testen ließe.</translation>
+    </message>
+    <message>
+        <source>The section to be disturbed has velocities that cannot be computed with.</source>
+        <translation>Der Schnitt, der gestört werden soll, hat Geschwindigkeiten, mit denen sich nicht rechnen lässt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>„%1“ kann nicht verwendet werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be shown: %2</source>
+        <translation>„%1“ kann nicht angezeigt werden: %2</translation>
+    </message>
+    <message>
+        <source>There is no such run any more.</source>
+        <translation>Diesen Lauf gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The surface or the ends of the line have changed since &quot;%1&quot;; its section can be compared with others, but is none of this line any more.</source>
+        <translation>Die Oberfläche oder die Enden der Messlinie haben sich seit „%1“ geändert; der Schnitt lässt sich mit anderen vergleichen, gehört aber nicht mehr zu dieser Messlinie.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of velocity</source>
+        <translation>Unsicherheit der Geschwindigkeit</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -6522,6 +7012,62 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>Shot %1: %2.</source>
         <translation>Schuss %1: %2.</translation>
     </message>
+    <message>
+        <source>gradient read from the picks</source>
+        <translation>Gradient aus den Picks</translation>
+    </message>
+    <message>
+        <source>two layers read from the picks</source>
+        <translation>zwei Schichten aus den Picks</translation>
+    </message>
+    <message>
+        <source>three layers read from the picks</source>
+        <translation>drei Schichten aus den Picks</translation>
+    </message>
+    <message>
+        <source>gradient over a refractor, read from the picks</source>
+        <translation>Gradient über einem Refraktor, aus den Picks</translation>
+    </message>
+    <message>
+        <source>default model</source>
+        <translation>Standardmodell</translation>
+    </message>
+    <message>
+        <source>velocities that the grid had</source>
+        <translation>Geschwindigkeiten, die das Gitter hatte</translation>
+    </message>
+    <message>
+        <source>Started from and held to</source>
+        <translation>Ausgangs- und Referenzmodell</translation>
+    </message>
+    <message>
+        <source>%1, shrinking to a fifth</source>
+        <translation>%1, auf ein Fünftel abnehmend</translation>
+    </message>
+    <message>
+        <source>%1, the best of %2 from coarse to fine</source>
+        <translation>%1, die beste von %2 von grob nach fein</translation>
+    </message>
+    <message>
+        <source>Uncertainty: half of the range from 16 to 84 % of %1 sections that explain the picks as well, in percent</source>
+        <translation>Unsicherheit: halber Bereich von 16 bis 84 % von %1 Schnitten, die die Picks ebenso gut erklären, in Prozent</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2; suspect picks %3</source>
+        <translation>%1; mit allen Picks %2; verdächtige Picks %3</translation>
+    </message>
+    <message>
+        <source>%1; with the time shifts of shots</source>
+        <translation>%1; mit den Zeitverschiebungen der Schüsse</translation>
+    </message>
+    <message>
+        <source>Misfit after every iteration, 0 being the starting model</source>
+        <translation>Abweichung nach jeder Iteration, 0 ist das Startmodell</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
+        <translation>RMS-Abweichung des Schnitts nach jeder Iteration, 0 ist das Startmodell</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -6638,6 +7184,160 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     </message>
 </context>
 <context>
+    <name>talvesk::RunTexts</name>
+    <message>
+        <source>Fitted to errors</source>
+        <translation>An Fehler angepasst</translation>
+    </message>
+    <message>
+        <source>Smoothed</source>
+        <translation>Geglättet</translation>
+    </message>
+    <message>
+        <source>%1 rows and %2 columns of %3 m</source>
+        <translation>%1 Zeilen und %2 Spalten zu %3 m</translation>
+    </message>
+    <message>
+        <source>velocities from %1 to %2 m/s</source>
+        <translation>Geschwindigkeiten von %1 bis %2 m/s</translation>
+    </message>
+    <message>
+        <source>errors of %1 ms or %2 %</source>
+        <translation>Fehler von %1 ms oder %2 %</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robust</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>blockig</translation>
+    </message>
+    <message>
+        <source>with shot statics</source>
+        <translation>mit Schussstatik</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>verdächtige Picks: %1</translation>
+    </message>
+    <message>
+        <source>%1 solver iterations</source>
+        <translation>%1 Löser-Iterationen</translation>
+    </message>
+    <message>
+        <source>smoothing parameter %1</source>
+        <translation>Glättungsparameter %1</translation>
+    </message>
+    <message>
+        <source>symmetric</source>
+        <translation>symmetrisch</translation>
+    </message>
+    <message>
+        <source>stopped by the user</source>
+        <translation>vom Benutzer angehalten</translation>
+    </message>
+    <message>
+        <source>picks have changed since</source>
+        <translation>Picks seither geändert</translation>
+    </message>
+    <message>
+        <source>the surface or the ends of the line have changed since</source>
+        <translation>Oberfläche oder Enden der Messlinie seither geändert</translation>
+    </message>
+    <message>
+        <source>positions have changed since</source>
+        <translation>Positionen seither geändert</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RunsDialog</name>
+    <message>
+        <source>Inversion runs</source>
+        <translation>Inversionsläufe</translation>
+    </message>
+    <message>
+        <source>Every inversion is kept here, at most 50 of them. The run in use is the section that the window shows; exports and reports are of it.</source>
+        <translation>Jede Inversion wird hier aufbewahrt, höchstens 50. Der verwendete Lauf ist der Schnitt, den das Fenster zeigt; Exporte und Berichte beziehen sich auf ihn.</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Lauf</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi-Quadrat</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [%]</source>
+        <translation>RMS [%]</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Iterationen</translation>
+    </message>
+    <message>
+        <source>Time [s]</source>
+        <translation>Dauer [s]</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Wann</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Bemerkungen</translation>
+    </message>
+    <message>
+        <source>No inversion has been run yet. Run one with Processing, Run tomography inversion.</source>
+        <translation>Noch keine Inversion gerechnet. Starten Sie eine mit „Verarbeitung“, „Tomographische Inversion starten“.</translation>
+    </message>
+    <message>
+        <source>Make the section of the selected run the one that the window shows</source>
+        <translation>Macht den Schnitt des ausgewählten Laufs zu dem, den das Fenster zeigt</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <translation>&amp;Verwenden</translation>
+    </message>
+    <message>
+        <source>Show two runs side by side: the selected one beside another that is selected, else beside the one in use</source>
+        <translation>Zeigt zwei Läufe nebeneinander: den ausgewählten neben einem zweiten ausgewählten, sonst neben dem verwendeten</translation>
+    </message>
+    <message>
+        <source>&amp;Compare ...</source>
+        <translation>Ver&amp;gleichen ...</translation>
+    </message>
+    <message>
+        <source>Name the selected run; runs with a name are the last to go when the list is full</source>
+        <translation>Benennt den ausgewählten Lauf; Läufe mit Namen entfallen zuletzt, wenn die Liste voll ist</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Take the selected runs out of the list; Undo brings them back</source>
+        <translation>Nimmt die ausgewählten Läufe aus der Liste; „Rückgängig“ bringt sie zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>verwendet</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ScreenshotDialog</name>
     <message>
         <source>Screenshot</source>
@@ -6666,6 +7366,97 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>%1: %2 x %3 pixels</source>
         <translation>%1: %2 x %3 Pixel</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SecondLookDialog</name>
+    <message>
+        <source>Second look</source>
+        <translation>Zweiter Blick</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Pick [ms]</source>
+        <translation>Pick [ms]</translation>
+    </message>
+    <message>
+        <source>Off by [ms]</source>
+        <translation>Daneben um [ms]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured: the pick is late where this is negative.</source>
+        <translation>Berechnet minus gemessen: Wo das negativ ist, ist der Pick zu spät.</translation>
+    </message>
+    <message>
+        <source>In errors</source>
+        <translation>In Fehlern</translation>
+    </message>
+    <message>
+        <source>Off by how many of its errors</source>
+        <translation>Um wie viele seiner Fehler der Pick danebenliegt</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Verspätet um [ms]</translation>
+    </message>
+    <message>
+        <source>Positive: the record begins too late, and its picks are late.</source>
+        <translation>Positiv: Die Aufzeichnung beginnt zu spät, und ihre Picks sind zu spät.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
+        <translation>Verschiebt die Aufzeichnungen der angekreuzten Schüsse mit ihren Picks, wie „Aufzeichnung korrigieren“ es tut. Ein Schritt, der sich rückgängig machen lässt.</translation>
+    </message>
+    <message>
+        <source>&amp;Take over as time shifts of the records</source>
+        <translation>Als Zeitverschiebungen der Aufzeichnungen &amp;übernehmen</translation>
+    </message>
+    <message>
+        <source>no recording that could be shifted</source>
+        <translation>keine Aufzeichnung, die sich verschieben ließe</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Es gibt noch keinen Schnitt, dessen Zeiten man prüfen könnte.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>Die Picks haben sich geändert, seit der Schnitt bestimmt wurde: Er wurde an andere angepasst.</translation>
+    </message>
+    <message>
+        <source>No pick is off by more than five of its errors.</source>
+        <translation>Kein Pick liegt um mehr als fünf seiner Fehler daneben.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than five of their errors; a click shows the trace:</source>
+        <translation>Picks, die um mehr als fünf ihrer Fehler danebenliegen; ein Klick zeigt die Spur:</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found:</source>
+        <translation>Zeitverschiebungen der Schüsse, die die Anpassung gefunden hat:</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m, depth %3 to %4 m</source>
+        <translation>%1 bis %2 m, Tiefe %3 bis %4 m</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
+        <translation>Zellen an der Grenze von %1 m/s: %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
+        <translation>Gezeigte Zellen, die kein Strahl durchquert: %1 von %2 (%3)</translation>
+    </message>
+    <message>
+        <source>No velocity is at a limit, and rays cross all cells shown.</source>
+        <translation>Keine Geschwindigkeit liegt an einer Grenze, und Strahlen durchqueren alle gezeigten Zellen.</translation>
     </message>
 </context>
 <context>
@@ -8742,6 +9533,85 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Error %1 ms</source>
         <translation>Fehler %1 ms</translation>
     </message>
+    <message>
+        <source>Second look ...</source>
+        <translation>Zweiter Blick ...</translation>
+    </message>
+    <message>
+        <source>List the picks that the section cannot explain, time shifts of shots, velocities at their limits and ground without rays</source>
+        <translation>Listet Picks auf, die der Schnitt nicht erklären kann, Zeitverschiebungen der Schüsse, Geschwindigkeiten an ihren Grenzen und Untergrund ohne Strahlen</translation>
+    </message>
+    <message>
+        <source>Inversion runs ...</source>
+        <translation>Inversionsläufe ...</translation>
+    </message>
+    <message>
+        <source>List the inversions that have been run, compare them, and use one of them as the section</source>
+        <translation>Listet die gerechneten Inversionen auf, vergleicht sie und verwendet eine davon als Schnitt</translation>
+    </message>
+    <message>
+        <source>Certainty ...</source>
+        <translation>Zuverlässigkeit ...</translation>
+    </message>
+    <message>
+        <source>Find out how sure the section is, by many sections that explain the picks as well</source>
+        <translation>Ermittelt, wie zuverlässig der Schnitt ist, mit vielen Schnitten, die die Picks ebenso gut erklären</translation>
+    </message>
+    <message>
+        <source>Show Certainty Layer</source>
+        <translation>Zuverlässigkeit anzeigen</translation>
+    </message>
+    <message>
+        <source>Colour the section by how far its velocities may be off</source>
+        <translation>Färbt den Schnitt danach, wie ungenau seine Geschwindigkeiten sein können</translation>
+    </message>
+    <message>
+        <source>Certainty: %1 members, %2 left out.</source>
+        <translation>Zuverlässigkeit: %1 Mitglieder, %2 weggelassen.</translation>
+    </message>
+    <message>
+        <source>The list of inversion runs is full; &quot;%1&quot; has gone.</source>
+        <translation>Die Liste der Inversionsläufe ist voll; „%1“ ist entfallen.</translation>
+    </message>
+    <message>
+        <source>Tracing the rays of the run anew ...</source>
+        <translation>Strahlen des Laufs neu verfolgen ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used.</source>
+        <translation>„%1“ kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>The section is that of &quot;%1&quot;.</source>
+        <translation>Der Schnitt ist der von „%1“.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n inversion run(s) deleted.</source>
+        <translation>
+            <numerusform>%n Inversionslauf gelöscht.</numerusform>
+            <numerusform>%n Inversionsläufe gelöscht.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save picture of both runs</source>
+        <translation>Bild beider Läufe speichern</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png);;SVG picture (*.svg);;PDF document (*.pdf)</source>
+        <translation>PNG-Bild (*.png);;SVG-Bild (*.svg);;PDF-Dokument (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Time shifts taken over: %1 of %2. Invert again to see what they change.</source>
+        <translation>Zeitverschiebungen übernommen: %1 von %2. Invertieren Sie noch einmal, um zu sehen, was sie ändern.</translation>
+    </message>
+    <message>
+        <source>Some time shifts have not been taken over.</source>
+        <translation>Einige Zeitverschiebungen wurden nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>Uncertainty %1 %</source>
+        <translation>Unsicherheit %1 %</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -9554,6 +10424,22 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <source>Stops when the iteration under way is completed.</source>
         <translation>Hält an, sobald die laufende Iteration abgeschlossen ist.</translation>
     </message>
+    <message>
+        <source>The models to start from are being traced.</source>
+        <translation>Die möglichen Startmodelle werden durchstrahlt.</translation>
+    </message>
+    <message>
+        <source>Ends by itself, after %1 iterations at the latest.</source>
+        <translation>Endet von selbst, spätestens nach %1 Iterationen.</translation>
+    </message>
+    <message>
+        <source>Iteration %1: chi-square %2, RMS %3 ms (%4 %)</source>
+        <translation>Iteration %1: Chi-Quadrat %2, RMS %3 ms (%4 %)</translation>
+    </message>
+    <message>
+        <source>Stops, with the best section so far.</source>
+        <translation>Hält an, mit dem bisher besten Schnitt.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::runTomography_Dialog</name>
@@ -9664,6 +10550,46 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
         <translation>Jede äußere Iteration verfolgt die Strahlen neu durch das bisherige Modell. Mehr Iterationen bringen die Strahlen der Wirklichkeit näher und senken die Abweichung; die Zeit wächst mit der Anzahl. Ist die Abweichungskurve flach geworden, ändern weitere wenig. Die 5 der Beschriftung genügt für einen ersten Blick; das Feld selbst beginnt mit 10.</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Solver passes correct the velocities along traced rays and smooth them, as often as is said here. A fit to the picks&apos; errors chooses its own smoothing, ends by itself, and comes as close to the picks as their errors are and no closer.</source>
+        <translation>Löserdurchgänge korrigieren die Geschwindigkeiten entlang verfolgter Strahlen und glätten sie, so oft wie hier angegeben. Eine Anpassung an die Fehler der Picks wählt ihre Glättung selbst, endet von selbst und kommt den Picks so nahe, wie deren Fehler es erlauben, und nicht näher.</translation>
+    </message>
+    <message>
+        <source>Solver passes and smoothing</source>
+        <translation>Löserdurchgänge und Glättung</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Anpassung an die Fehler der Picks</translation>
+    </message>
+    <message>
+        <source>Lets the smoothing parameter shrink to a fifth over the external iterations, and keeps the iteration whose section fits the picks best along fresh rays, which need not be the last one.</source>
+        <translation>Lässt den Glättungsparameter über die äußeren Iterationen auf ein Fünftel abnehmen und behält die Iteration, deren Schnitt entlang neuer Strahlen am besten zu den Picks passt; das muss nicht die letzte sein.</translation>
+    </message>
+    <message>
+        <source>From coarse to fine, keeping the best iteration</source>
+        <translation>Von grob nach fein, beste Iteration behalten</translation>
+    </message>
+    <message>
+        <source>Sets the velocity limits and the smoothing parameter as the picks and the distance between geophones suggest them.</source>
+        <translation>Setzt die Geschwindigkeitsgrenzen und den Glättungsparameter so, wie die Picks und der Geophonabstand es nahelegen.</translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation>Vorschlagen</translation>
+    </message>
+    <message>
+        <source>Rays are expected down to %1 m; the grid reaches %2 m.</source>
+        <translation>Strahlen sind bis %1 m Tiefe zu erwarten; das Gitter reicht bis %2 m.</translation>
+    </message>
+    <message>
+        <source>The minimum velocity must be below the maximum.</source>
+        <translation>Die minimale Geschwindigkeit muss unter der maximalen liegen.</translation>
     </message>
 </context>
 <context>
