@@ -49,6 +49,72 @@
     </message>
 </context>
 <context>
+    <name>talvesk::CertaintyDialog</name>
+    <message>
+        <source>Certainty</source>
+        <translation>Certitude</translation>
+    </message>
+    <message>
+        <source>Many sections explain the picks as well as the one that is shown. Each member is fitted to picks that are moved by their errors, from another model that explains them. Where the members agree the section is sure.</source>
+        <translation>Bien des coupes expliquent les pointés aussi bien que celle qui est affichée. Chaque membre est ajusté à des pointés déplacés selon leurs erreurs, à partir d&apos;un autre modèle qui les explique. Là où les membres concordent, la coupe est sûre.</translation>
+    </message>
+    <message>
+        <source>&amp;Members:</source>
+        <translation>&amp;Membres&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How many sections are compared. More of them tell the spread more exactly and take longer.</source>
+        <translation>Nombre de coupes comparées. Un plus grand nombre donne la dispersion plus exactement et prend plus de temps.</translation>
+    </message>
+    <message>
+        <source>S&amp;eed:</source>
+        <translation>&amp;Graine aléatoire&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The number that the errors of all members come from. The same survey and seed give the same members.</source>
+        <translation>Le nombre d&apos;où sont tirées les erreurs de tous les membres. Le même levé et la même graine donnent les mêmes membres.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>Arrê&amp;ter</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Models are being tried.</source>
+        <translation>Essai des modèles en cours.</translation>
+    </message>
+    <message>
+        <source>Models are being tried: %1 of %2.</source>
+        <translation>Essai des modèles en cours&#xa0;: %1 sur %2.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 members are done; %3 left out.</source>
+        <translation>%1 membres sur %2 sont calculés&#xa0;; %3 écartés.</translation>
+    </message>
+    <message>
+        <source>How sure the section is stays unknown.</source>
+        <translation>La certitude de la coupe reste inconnue.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <translation>
+            <numerusform>Arrêté avec %n membre&#xa0;; «&#xa0;Démarrer&#xa0;» reprend à partir de là.</numerusform>
+            <numerusform>Arrêté avec %n membres&#xa0;; «&#xa0;Démarrer&#xa0;» reprend à partir de là.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped before the first member was done; Start goes on.</source>
+        <translation>Arrêté avant la fin du premier membre&#xa0;; «&#xa0;Démarrer&#xa0;» reprend.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CheckDialog</name>
     <message>
         <source>Check recordings</source>
@@ -289,6 +355,51 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source> of %1</source>
         <translation> sur %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CompareRunsDialog</name>
+    <message>
+        <source>Compare inversion runs</source>
+        <translation>Comparer des calculs d&apos;inversion</translation>
+    </message>
+    <message>
+        <source>&amp;Left:</source>
+        <translation>À &amp;gauche&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>À &amp;droite&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Save both sections and their difference as PNG, SVG or PDF</source>
+        <translation>Enregistrer les deux coupes et leur différence en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Enregistrer l&apos;image ...</translation>
+    </message>
+    <message>
+        <source>%1 against %2</source>
+        <comment>right run, left run</comment>
+        <translation>%1 par rapport à %2</translation>
+    </message>
+    <message>
+        <source>Chi-square %1</source>
+        <translation>Khi-deux %1</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 ms</source>
+        <translation>Écart quadratique moyen %1 ms</translation>
+    </message>
+    <message>
+        <source>their computed times differ by %1 ms RMS</source>
+        <translation>leurs temps calculés diffèrent de %1 ms RMS</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>run, remarks</comment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1032,6 +1143,177 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <comment>picks</comment>
         <translation>d&apos;erreur inconnue&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Uncertainty of velocity</source>
+        <translation>Incertitude de la vitesse</translation>
+    </message>
+    <message>
+        <source>chi-square %1 with the time shifts of shots</source>
+        <translation>khi-deux %1 avec les décalages temporels des tirs</translation>
+    </message>
+    <message>
+        <source>chi-square %1</source>
+        <translation>khi-deux %1</translation>
+    </message>
+    <message>
+        <source>Correlation by depth</source>
+        <translation>Corrélation selon la profondeur</translation>
+    </message>
+    <message>
+        <source>Correlation of true and recovered</source>
+        <translation>Corrélation entre vrai et restitué</translation>
+    </message>
+    <message>
+        <source>-%1 % to +%1 % of the section&apos;s velocity; grey: no ray</source>
+        <translation>de -%1&#xa0;% à +%1&#xa0;% de la vitesse de la coupe&#xa0;; gris&#xa0;: aucun rai</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>Vrai</translation>
+    </message>
+    <message>
+        <source>Recovered</source>
+        <translation>Restitué</translation>
+    </message>
+    <message>
+        <source>[m]</source>
+        <translation>[m]</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FitPanel</name>
+    <message>
+        <source>Errors of picks that state none</source>
+        <translation>Erreurs des pointés qui n&apos;en indiquent pas</translation>
+    </message>
+    <message>
+        <source>Least error [ms]</source>
+        <translation>Erreur minimale [ms]</translation>
+    </message>
+    <message>
+        <source>How far off a pick is at least, one standard deviation. A small error makes the section follow every pick, and its noise; a large one lets it pass by.</source>
+        <translation>L&apos;erreur d&apos;un pointé est au moins celle-ci (un écart type). Une petite erreur fait suivre à la coupe chaque pointé, et son bruit&#xa0;; une grande la laisse passer à côté.</translation>
+    </message>
+    <message>
+        <source>Share of the time [%]</source>
+        <translation>Part du temps [%]</translation>
+    </message>
+    <message>
+        <source>The error of a late pick is this share of its time, where that is more than the least error.</source>
+        <translation>L&apos;erreur d&apos;un pointé tardif est cette part de son temps, là où elle dépasse l&apos;erreur minimale.</translation>
+    </message>
+    <message>
+        <source>Minimum velocity [m/s]</source>
+        <translation>Vitesse minimale [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get slower than this.</source>
+        <translation>Aucune cellule ne devient plus lente.</translation>
+    </message>
+    <message>
+        <source>Maximum velocity [m/s]</source>
+        <translation>Vitesse maximale [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get faster than this.</source>
+        <translation>Aucune cellule ne devient plus rapide.</translation>
+    </message>
+    <message>
+        <source>Iterations at most</source>
+        <translation>Itérations au plus</translation>
+    </message>
+    <message>
+        <source>The fit ends by itself, as a rule after 5 to 15 iterations.</source>
+        <translation>L&apos;ajustement se termine de lui-même, en général après 5 à 15 itérations.</translation>
+    </message>
+    <message>
+        <source>Picks that are far off count by how far they are off, and no more by its square: some gross errors then hardly change the section.</source>
+        <translation>Les pointés très écartés comptent selon leur écart, et non plus selon son carré&#xa0;: quelques erreurs grossières ne changent alors guère la coupe.</translation>
+    </message>
+    <message>
+        <source>Robust against gross errors of picks</source>
+        <translation>Robuste aux erreurs grossières de pointé</translation>
+    </message>
+    <message>
+        <source>Looks for few sharp steps of the velocity rather than for gentle slopes.</source>
+        <translation>Cherche quelques sauts nets de vitesse plutôt que des pentes douces.</translation>
+    </message>
+    <message>
+        <source>Blocky: sharp steps rather than slopes</source>
+        <translation>Par blocs&#xa0;: sauts nets plutôt que pentes</translation>
+    </message>
+    <message>
+        <source>Also finds by how much the record of every shot begins too early or too late, zero on the whole. The shifts are listed after the run and change nothing by themselves.</source>
+        <translation>Trouve aussi de combien l&apos;enregistrement de chaque tir commence trop tôt ou trop tard, avec une moyenne nulle. Les décalages sont énumérés après le calcul et ne changent rien par eux-mêmes.</translation>
+    </message>
+    <message>
+        <source>Find time shifts of shots</source>
+        <translation>Chercher les décalages temporels des tirs</translation>
+    </message>
+    <message>
+        <source>Trigger error [ms]</source>
+        <translation>Erreur de déclenchement [ms]</translation>
+    </message>
+    <message>
+        <source>How far the shots are thought to be off. Shifts that are large beside it are less welcome.</source>
+        <translation>Décalage attendu pour les tirs. Les décalages grands devant lui sont pénalisés.</translation>
+    </message>
+    <message>
+        <source>Uses one processor only. The result is the same to the last digit; it just takes longer.</source>
+        <translation>N&apos;utilise qu&apos;un seul processeur. Le résultat est le même jusqu&apos;au dernier chiffre&#xa0;; cela prend seulement plus de temps.</translation>
+    </message>
+    <message>
+        <source>Run in single thread mode</source>
+        <translation>Exécuter en un seul thread</translation>
+    </message>
+    <message>
+        <source>The section starts from this model, and departs from it no more than the picks ask for:</source>
+        <translation>La coupe part de ce modèle et ne s&apos;en éloigne pas plus que les pointés ne l&apos;exigent&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Khi-deux</translation>
+    </message>
+    <message>
+        <source>Of the times through the model as it is, suspect picks included: 1 is a fit as good as the picks are.</source>
+        <translation>Des temps à travers le modèle tel quel, pointés suspects compris&#xa0;: 1 est un ajustement aussi bon que les pointés.</translation>
+    </message>
+    <message>
+        <source>What it is</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Distance from the shot (m)</source>
+        <translation>Distance au tir (m)</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Temps (ms)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks state an error of their own.</source>
+        <translation>%1 pointés sur %2 indiquent leur propre erreur.</translation>
+    </message>
+    <message>
+        <source>By these errors the present section has chi-square %1, with %2 suspect picks left out.</source>
+        <translation>Avec ces erreurs, la coupe actuelle a un khi-deux de %1, %2 pointés suspects étant exclus.</translation>
+    </message>
+    <message>
+        <source>The models are being made and traced...</source>
+        <translation>Construction et tracé des modèles...</translation>
+    </message>
+    <message>
+        <source>Not supported</source>
+        <translation>Non étayé</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Pointés</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -1457,10 +1739,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
 </translation>
     </message>
     <message>
-        <source>Misfit of the section: RMS %1 ms (%2 %).</source>
-        <translation>Écart de la coupe&#xa0;: RMS %1 ms (%2&#xa0;%).</translation>
-    </message>
-    <message>
         <source>Computing time: [s] %1
 </source>
         <translation>Temps de calcul&#xa0;: [s] %1
@@ -1489,6 +1767,58 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
 </source>
         <translation>Erreur maximale&#xa0;: [ms] %1&#xa0;; [%] %2
 </translation>
+    </message>
+    <message>
+        <source>Chi-square: %1; of all picks %2; suspect picks %3
+</source>
+        <translation>Khi-deux&#xa0;: %1&#xa0;; de tous les pointés %2&#xa0;; pointés suspects %3
+</translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %), chi-square %3 with the time shifts of shots.</source>
+        <translation>Écart de la coupe&#xa0;: RMS %1 ms (%2&#xa0;%), khi-deux %3 avec les décalages temporels des tirs.</translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %), chi-square %3.</source>
+        <translation>Écart de la coupe&#xa0;: RMS %1 ms (%2&#xa0;%), khi-deux %3.</translation>
+    </message>
+    <message>
+        <source>From coarse to fine: iteration %1 of %2 is kept, smoothing parameter %3
+</source>
+        <translation>Du grossier au fin&#xa0;: itération %1 sur %2 conservée, paramètre de lissage %3
+</translation>
+    </message>
+    <message>
+        <source>Iterations: %1
+</source>
+        <translation>Itérations&#xa0;: %1
+</translation>
+    </message>
+    <message>
+        <source>Weight of the roughness: %1
+</source>
+        <translation>Poids de la rugosité&#xa0;: %1
+</translation>
+    </message>
+    <message>
+        <source>Started from and held to: %1
+</source>
+        <translation>Modèle de départ et de référence&#xa0;: %1
+</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots: [ms] %1
+</source>
+        <translation>Décalages temporels des tirs&#xa0;: [ms] %1
+</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>tir %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Best of the picks&apos; models</source>
+        <translation>Meilleur modèle tiré des pointés</translation>
     </message>
 </context>
 <context>
@@ -4799,6 +5129,166 @@ Veuillez définir la position des géophones
         <source>Set error of pick</source>
         <translation>Fixer l&apos;erreur du pointé</translation>
     </message>
+    <message>
+        <source>How sure the section is could not be found out: %1</source>
+        <translation>La certitude de la coupe n&apos;a pas pu être déterminée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The models could not be made: %1</source>
+        <translation>Les modèles n&apos;ont pas pu être construits&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Rename run</source>
+        <translation>Renommer le calcul</translation>
+    </message>
+    <message>
+        <source>Delete runs</source>
+        <translation>Supprimer des calculs</translation>
+    </message>
+    <message>
+        <source>There is no resolution test to draw.</source>
+        <translation>Il n&apos;y a pas de test de résolution à dessiner.</translation>
+    </message>
+    <message>
+        <source>Difference of velocity</source>
+        <translation>Différence de vitesse</translation>
+    </message>
+    <message>
+        <source>its inversion runs but the last one are not known</source>
+        <translation>ses calculs d&apos;inversion, hormis le dernier, ne sont pas connus</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known</source>
+        <translation>la certitude de la coupe n&apos;est pas connue</translation>
+    </message>
+    <message>
+        <source>it does not go with the section of the project, which another program may have changed</source>
+        <translation>elle ne correspond pas à la coupe du projet, qu&apos;un autre programme a peut-être modifiée</translation>
+    </message>
+    <message>
+        <source>%1 rows of %2 columns do not go with %3 velocities</source>
+        <translation>%1 lignes de %2 colonnes ne correspondent pas à %3 vitesses</translation>
+    </message>
+    <message>
+        <source>a velocity is none that ground can have</source>
+        <translation>une vitesse est impossible pour un terrain</translation>
+    </message>
+    <message>
+        <source>its grid cannot be</source>
+        <translation>sa grille est impossible</translation>
+    </message>
+    <message>
+        <source>its settings or figures cannot be</source>
+        <translation>ses réglages ou ses chiffres sont impossibles</translation>
+    </message>
+    <message>
+        <source>its number is 0 or that of another</source>
+        <translation>son numéro est 0 ou celui d&apos;un autre</translation>
+    </message>
+    <message>
+        <source>there are more than can be kept</source>
+        <translation>il y en a plus qu&apos;il n&apos;en peut être conservé</translation>
+    </message>
+    <message>
+        <source>inversion run %1 is left out: %2</source>
+        <translation>le calcul d&apos;inversion %1 est écarté&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>Calcul %1</translation>
+    </message>
+    <message>
+        <source>Certainty</source>
+        <translation>Certitude</translation>
+    </message>
+    <message>
+        <source>Use run</source>
+        <translation>Utiliser le calcul</translation>
+    </message>
+    <message>
+        <source>Inversion runs</source>
+        <translation>Calculs d&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Take over time shifts</source>
+        <translation>Reprendre les décalages temporels</translation>
+    </message>
+    <message>
+        <source>None of the %1 members explains the picks to within their errors; how sure the section is stays unknown.</source>
+        <translation>Aucun des %1 membres n&apos;explique les pointés à leurs erreurs près&#xa0;; la certitude de la coupe reste inconnue.</translation>
+    </message>
+    <message>
+        <source>Default model</source>
+        <translation>Modèle par défaut</translation>
+    </message>
+    <message>
+        <source>Present section</source>
+        <translation>Coupe actuelle</translation>
+    </message>
+    <message>
+        <source>No model explains the picks to within their errors (chi-square up to %1), so that nothing can be said of how sure the section is. Their errors may be stated too small, or shots may be shifted in time.</source>
+        <translation>Aucun modèle n&apos;explique les pointés à leurs erreurs près (khi-deux jusqu&apos;à %1)&#xa0;; on ne peut donc rien dire de la certitude de la coupe. Leurs erreurs sont peut-être indiquées trop petites, ou des tirs décalés dans le temps.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m/s</source>
+        <translation>%1 à %2 m/s</translation>
+    </message>
+    <message>
+        <source>There is no reference model &quot;%1&quot;.</source>
+        <translation>Il n&apos;y a pas de modèle de référence «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The picks do not support the reference model. %1</source>
+        <translation>Les pointés n&apos;étayent pas le modèle de référence. %1</translation>
+    </message>
+    <message>
+        <source>The picks do not support the reference model &quot;%1&quot;.</source>
+        <translation>Les pointés n&apos;étayent pas le modèle de référence «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The resolution test failed: %1</source>
+        <translation>Le test de résolution a échoué&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The size of the pattern must be positive; %1 m is not.</source>
+        <translation>La taille du motif doit être positive&#xa0;; %1 m ne l&apos;est pas.</translation>
+    </message>
+    <message>
+        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
+        <translation>Le motif a %1 m, moins qu&apos;une cellule de la grille, qui en a %2 m&#xa0;; choisissez-en un plus grand.</translation>
+    </message>
+    <message>
+        <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
+        <translation>L&apos;amplitude du motif doit être supérieure à 0 et inférieure à 100&#xa0;%&#xa0;; %1&#xa0;% ne l&apos;est pas.</translation>
+    </message>
+    <message>
+        <source>There are no picks to test the resolution with.</source>
+        <translation>Il n&apos;y a pas de pointés avec lesquels tester la résolution.</translation>
+    </message>
+    <message>
+        <source>The section to be disturbed has velocities that cannot be computed with.</source>
+        <translation>La coupe à perturber a des vitesses avec lesquelles on ne peut pas calculer.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être utilisé&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be shown: %2</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être affiché&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>There is no such run any more.</source>
+        <translation>Ce calcul n&apos;existe plus.</translation>
+    </message>
+    <message>
+        <source>The surface or the ends of the line have changed since &quot;%1&quot;; its section can be compared with others, but is none of this line any more.</source>
+        <translation>La surface ou les extrémités de la ligne ont changé depuis «&#xa0;%1&#xa0;»&#xa0;; sa coupe peut être comparée à d&apos;autres, mais n&apos;est plus celle de cette ligne.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of velocity</source>
+        <translation>Incertitude de la vitesse</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -6522,6 +7012,62 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>Shot %1: %2.</source>
         <translation>Tir %1&#xa0;: %2.</translation>
     </message>
+    <message>
+        <source>gradient read from the picks</source>
+        <translation>gradient lu sur les pointés</translation>
+    </message>
+    <message>
+        <source>two layers read from the picks</source>
+        <translation>deux couches lues sur les pointés</translation>
+    </message>
+    <message>
+        <source>three layers read from the picks</source>
+        <translation>trois couches lues sur les pointés</translation>
+    </message>
+    <message>
+        <source>gradient over a refractor, read from the picks</source>
+        <translation>gradient au-dessus d&apos;un réfracteur, lu sur les pointés</translation>
+    </message>
+    <message>
+        <source>default model</source>
+        <translation>modèle par défaut</translation>
+    </message>
+    <message>
+        <source>velocities that the grid had</source>
+        <translation>vitesses qu&apos;avait la grille</translation>
+    </message>
+    <message>
+        <source>Started from and held to</source>
+        <translation>Modèle de départ et de référence</translation>
+    </message>
+    <message>
+        <source>%1, shrinking to a fifth</source>
+        <translation>%1, réduit progressivement au cinquième</translation>
+    </message>
+    <message>
+        <source>%1, the best of %2 from coarse to fine</source>
+        <translation>%1, la meilleure de %2 du grossier au fin</translation>
+    </message>
+    <message>
+        <source>Uncertainty: half of the range from 16 to 84 % of %1 sections that explain the picks as well, in percent</source>
+        <translation>Incertitude&#xa0;: moitié de l&apos;intervalle de 16 à 84&#xa0;% de %1 coupes qui expliquent aussi bien les pointés, en pour cent</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2; suspect picks %3</source>
+        <translation>%1&#xa0;; de tous les pointés %2&#xa0;; pointés suspects %3</translation>
+    </message>
+    <message>
+        <source>%1; with the time shifts of shots</source>
+        <translation>%1&#xa0;; avec les décalages temporels des tirs</translation>
+    </message>
+    <message>
+        <source>Misfit after every iteration, 0 being the starting model</source>
+        <translation>Écart après chaque itération, 0 étant le modèle initial</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
+        <translation>Écart quadratique moyen de la coupe après chaque itération, 0 étant le modèle initial</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -6638,6 +7184,160 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
 </context>
 <context>
+    <name>talvesk::RunTexts</name>
+    <message>
+        <source>Fitted to errors</source>
+        <translation>Ajusté aux erreurs</translation>
+    </message>
+    <message>
+        <source>Smoothed</source>
+        <translation>Lissé</translation>
+    </message>
+    <message>
+        <source>%1 rows and %2 columns of %3 m</source>
+        <translation>%1 lignes et %2 colonnes de %3 m</translation>
+    </message>
+    <message>
+        <source>velocities from %1 to %2 m/s</source>
+        <translation>vitesses de %1 à %2 m/s</translation>
+    </message>
+    <message>
+        <source>errors of %1 ms or %2 %</source>
+        <translation>erreurs de %1 ms ou %2&#xa0;%</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robuste</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>par blocs</translation>
+    </message>
+    <message>
+        <source>with shot statics</source>
+        <translation>avec statiques de tir</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>pointés suspects&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 solver iterations</source>
+        <translation>%1 itérations du solveur</translation>
+    </message>
+    <message>
+        <source>smoothing parameter %1</source>
+        <translation>paramètre de lissage %1</translation>
+    </message>
+    <message>
+        <source>symmetric</source>
+        <translation>symétrique</translation>
+    </message>
+    <message>
+        <source>stopped by the user</source>
+        <translation>arrêté par l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>picks have changed since</source>
+        <translation>les pointés ont changé depuis</translation>
+    </message>
+    <message>
+        <source>the surface or the ends of the line have changed since</source>
+        <translation>la surface ou les extrémités de la ligne ont changé depuis</translation>
+    </message>
+    <message>
+        <source>positions have changed since</source>
+        <translation>les positions ont changé depuis</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RunsDialog</name>
+    <message>
+        <source>Inversion runs</source>
+        <translation>Calculs d&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Every inversion is kept here, at most 50 of them. The run in use is the section that the window shows; exports and reports are of it.</source>
+        <translation>Chaque inversion est conservée ici, 50 au plus. Le calcul utilisé est la coupe que la fenêtre affiche&#xa0;; les exportations et les rapports s&apos;y rapportent.</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Calcul</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Méthode</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Khi-deux</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [%]</source>
+        <translation>RMS [%]</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Itérations</translation>
+    </message>
+    <message>
+        <source>Time [s]</source>
+        <translation>Durée [s]</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Remarques</translation>
+    </message>
+    <message>
+        <source>No inversion has been run yet. Run one with Processing, Run tomography inversion.</source>
+        <translation>Aucune inversion n&apos;a encore été lancée. Lancez-en une par Traitement, Lancer l&apos;inversion tomographique.</translation>
+    </message>
+    <message>
+        <source>Make the section of the selected run the one that the window shows</source>
+        <translation>Faire de la coupe du calcul sélectionné celle que la fenêtre affiche</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <translation>&amp;Utiliser</translation>
+    </message>
+    <message>
+        <source>Show two runs side by side: the selected one beside another that is selected, else beside the one in use</source>
+        <translation>Montrer deux calculs côte à côte&#xa0;: celui qui est sélectionné à côté d&apos;un autre sélectionné, sinon à côté de celui qui est utilisé</translation>
+    </message>
+    <message>
+        <source>&amp;Compare ...</source>
+        <translation>&amp;Comparer ...</translation>
+    </message>
+    <message>
+        <source>Name the selected run; runs with a name are the last to go when the list is full</source>
+        <translation>Nommer le calcul sélectionné&#xa0;; les calculs nommés sont les derniers à disparaître quand la liste est pleine</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>Take the selected runs out of the list; Undo brings them back</source>
+        <translation>Ôter de la liste les calculs sélectionnés&#xa0;; «&#xa0;Défaire&#xa0;» les rétablit</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>utilisé</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ScreenshotDialog</name>
     <message>
         <source>Screenshot</source>
@@ -6666,6 +7366,97 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>%1: %2 x %3 pixels</source>
         <translation>%1&#xa0;: %2 x %3 pixels</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SecondLookDialog</name>
+    <message>
+        <source>Second look</source>
+        <translation>À revoir</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Récepteur</translation>
+    </message>
+    <message>
+        <source>Pick [ms]</source>
+        <translation>Pointé [ms]</translation>
+    </message>
+    <message>
+        <source>Off by [ms]</source>
+        <translation>Écart [ms]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured: the pick is late where this is negative.</source>
+        <translation>Calculé moins mesuré&#xa0;: le pointé est en retard là où il est négatif.</translation>
+    </message>
+    <message>
+        <source>In errors</source>
+        <translation>En erreurs</translation>
+    </message>
+    <message>
+        <source>Off by how many of its errors</source>
+        <translation>Écart exprimé en nombre de fois son erreur</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Retard [ms]</translation>
+    </message>
+    <message>
+        <source>Positive: the record begins too late, and its picks are late.</source>
+        <translation>Positif&#xa0;: l&apos;enregistrement commence trop tard, et ses pointés sont en retard.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
+        <translation>Décale les enregistrements des tirs cochés avec leurs pointés, comme «&#xa0;Corriger l&apos;enregistrement&#xa0;». Défait en une seule fois.</translation>
+    </message>
+    <message>
+        <source>&amp;Take over as time shifts of the records</source>
+        <translation>&amp;Reprendre comme décalages des enregistrements</translation>
+    </message>
+    <message>
+        <source>no recording that could be shifted</source>
+        <translation>aucun enregistrement à décaler</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Il n&apos;y a pas encore de coupe dont examiner les temps.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>Les pointés ont changé depuis le calcul de la coupe&#xa0;: elle a été ajustée à d&apos;autres.</translation>
+    </message>
+    <message>
+        <source>No pick is off by more than five of its errors.</source>
+        <translation>Aucun pointé ne s&apos;écarte de plus de cinq fois son erreur.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than five of their errors; a click shows the trace:</source>
+        <translation>Pointés écartés de plus de cinq fois leur erreur&#xa0;; un clic montre la trace&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found:</source>
+        <translation>Décalages temporels des tirs trouvés par l&apos;ajustement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m, depth %3 to %4 m</source>
+        <translation>%1 à %2 m, profondeur %3 à %4 m</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
+        <translation>Cellules à la limite de %1 m/s&#xa0;: %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
+        <translation>Cellules affichées qu&apos;aucun rai ne traverse&#xa0;: %1 sur %2 (%3)</translation>
+    </message>
+    <message>
+        <source>No velocity is at a limit, and rays cross all cells shown.</source>
+        <translation>Aucune vitesse n&apos;est à une limite, et des rais traversent toutes les cellules affichées.</translation>
     </message>
 </context>
 <context>
@@ -8742,6 +9533,85 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Error %1 ms</source>
         <translation>Erreur %1 ms</translation>
     </message>
+    <message>
+        <source>Second look ...</source>
+        <translation>À revoir ...</translation>
+    </message>
+    <message>
+        <source>List the picks that the section cannot explain, time shifts of shots, velocities at their limits and ground without rays</source>
+        <translation>Énumérer les pointés que la coupe n&apos;explique pas, les décalages temporels des tirs, les vitesses à leurs limites et le terrain sans rais</translation>
+    </message>
+    <message>
+        <source>Inversion runs ...</source>
+        <translation>Calculs d&apos;inversion ...</translation>
+    </message>
+    <message>
+        <source>List the inversions that have been run, compare them, and use one of them as the section</source>
+        <translation>Énumérer les inversions effectuées, les comparer et utiliser l&apos;une d&apos;elles comme coupe</translation>
+    </message>
+    <message>
+        <source>Certainty ...</source>
+        <translation>Certitude ...</translation>
+    </message>
+    <message>
+        <source>Find out how sure the section is, by many sections that explain the picks as well</source>
+        <translation>Déterminer la certitude de la coupe, par de nombreuses coupes qui expliquent aussi bien les pointés</translation>
+    </message>
+    <message>
+        <source>Show Certainty Layer</source>
+        <translation>Afficher la certitude</translation>
+    </message>
+    <message>
+        <source>Colour the section by how far its velocities may be off</source>
+        <translation>Colorer la coupe selon l&apos;erreur possible de ses vitesses</translation>
+    </message>
+    <message>
+        <source>Certainty: %1 members, %2 left out.</source>
+        <translation>Certitude&#xa0;: %1 membres, %2 écartés.</translation>
+    </message>
+    <message>
+        <source>The list of inversion runs is full; &quot;%1&quot; has gone.</source>
+        <translation>La liste des calculs d&apos;inversion est pleine&#xa0;; «&#xa0;%1&#xa0;» en a disparu.</translation>
+    </message>
+    <message>
+        <source>Tracing the rays of the run anew ...</source>
+        <translation>Nouveau tracé des rais du calcul ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être utilisé.</translation>
+    </message>
+    <message>
+        <source>The section is that of &quot;%1&quot;.</source>
+        <translation>La coupe est celle de «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n inversion run(s) deleted.</source>
+        <translation>
+            <numerusform>%n calcul d&apos;inversion supprimé.</numerusform>
+            <numerusform>%n calculs d&apos;inversion supprimés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save picture of both runs</source>
+        <translation>Enregistrer l&apos;image des deux calculs</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png);;SVG picture (*.svg);;PDF document (*.pdf)</source>
+        <translation>Image PNG (*.png);;Image SVG (*.svg);;Document PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Time shifts taken over: %1 of %2. Invert again to see what they change.</source>
+        <translation>Décalages temporels repris&#xa0;: %1 sur %2. Relancez l&apos;inversion pour voir ce qu&apos;ils changent.</translation>
+    </message>
+    <message>
+        <source>Some time shifts have not been taken over.</source>
+        <translation>Certains décalages temporels n&apos;ont pas été repris.</translation>
+    </message>
+    <message>
+        <source>Uncertainty %1 %</source>
+        <translation>Incertitude %1&#xa0;%</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -9554,6 +10424,22 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <source>Stops when the iteration under way is completed.</source>
         <translation>S&apos;arrêtera à la fin de l&apos;itération en cours.</translation>
     </message>
+    <message>
+        <source>The models to start from are being traced.</source>
+        <translation>Tracé des modèles de départ en cours.</translation>
+    </message>
+    <message>
+        <source>Ends by itself, after %1 iterations at the latest.</source>
+        <translation>Se termine de lui-même, après %1 itérations au plus.</translation>
+    </message>
+    <message>
+        <source>Iteration %1: chi-square %2, RMS %3 ms (%4 %)</source>
+        <translation>Itération %1&#xa0;: khi-deux %2, RMS %3 ms (%4&#xa0;%)</translation>
+    </message>
+    <message>
+        <source>Stops, with the best section so far.</source>
+        <translation>S&apos;arrête, avec la meilleure coupe jusqu&apos;ici.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::runTomography_Dialog</name>
@@ -9664,6 +10550,46 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
         <translation>Chaque itération externe retrace les rais à travers le modèle obtenu jusque-là. Davantage d&apos;itérations courbent les rais plus près de la réalité et réduisent l&apos;écart&#xa0;; le temps croît avec leur nombre. Quand la courbe de l&apos;écart s&apos;est aplatie, de nouvelles itérations changent peu. Le 5 de l&apos;intitulé suffit pour un premier aperçu&#xa0;; le champ lui-même commence à 10.</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Méthode</translation>
+    </message>
+    <message>
+        <source>Solver passes correct the velocities along traced rays and smooth them, as often as is said here. A fit to the picks&apos; errors chooses its own smoothing, ends by itself, and comes as close to the picks as their errors are and no closer.</source>
+        <translation>Les passes du solveur corrigent les vitesses le long des rais tracés et les lissent, autant de fois qu&apos;indiqué ici. Un ajustement aux erreurs des pointés choisit son propre lissage, se termine de lui-même et approche les pointés d&apos;aussi près que leurs erreurs le justifient, sans plus.</translation>
+    </message>
+    <message>
+        <source>Solver passes and smoothing</source>
+        <translation>Passes du solveur et lissage</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Ajustement aux erreurs des pointés</translation>
+    </message>
+    <message>
+        <source>Lets the smoothing parameter shrink to a fifth over the external iterations, and keeps the iteration whose section fits the picks best along fresh rays, which need not be the last one.</source>
+        <translation>Réduit le paramètre de lissage au cinquième au fil des itérations externes, et conserve l&apos;itération dont la coupe s&apos;ajuste le mieux aux pointés le long de nouveaux rais, qui n&apos;est pas forcément la dernière.</translation>
+    </message>
+    <message>
+        <source>From coarse to fine, keeping the best iteration</source>
+        <translation>Du grossier au fin, en conservant la meilleure itération</translation>
+    </message>
+    <message>
+        <source>Sets the velocity limits and the smoothing parameter as the picks and the distance between geophones suggest them.</source>
+        <translation>Fixe les limites de vitesse et le paramètre de lissage comme le suggèrent les pointés et la distance entre géophones.</translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation>Proposer</translation>
+    </message>
+    <message>
+        <source>Rays are expected down to %1 m; the grid reaches %2 m.</source>
+        <translation>Des rais sont attendus jusqu&apos;à %1 m de profondeur&#xa0;; la grille descend à %2 m.</translation>
+    </message>
+    <message>
+        <source>The minimum velocity must be below the maximum.</source>
+        <translation>La vitesse minimale doit être inférieure à la maximale.</translation>
     </message>
 </context>
 <context>
