@@ -49,6 +49,72 @@
     </message>
 </context>
 <context>
+    <name>talvesk::CertaintyDialog</name>
+    <message>
+        <source>Certainty</source>
+        <translation>Certeza</translation>
+    </message>
+    <message>
+        <source>Many sections explain the picks as well as the one that is shown. Each member is fitted to picks that are moved by their errors, from another model that explains them. Where the members agree the section is sure.</source>
+        <translation>Muchas secciones explican los picados tan bien como la que se muestra. Cada miembro se ajusta a picados desplazados según sus errores, partiendo de otro modelo que los explica. Donde los miembros coinciden, la sección es fiable.</translation>
+    </message>
+    <message>
+        <source>&amp;Members:</source>
+        <translation>&amp;Miembros:</translation>
+    </message>
+    <message>
+        <source>How many sections are compared. More of them tell the spread more exactly and take longer.</source>
+        <translation>Cuántas secciones se comparan. Con más, la dispersión se conoce con más exactitud y se tarda más.</translation>
+    </message>
+    <message>
+        <source>S&amp;eed:</source>
+        <translation>S&amp;emilla:</translation>
+    </message>
+    <message>
+        <source>The number that the errors of all members come from. The same survey and seed give the same members.</source>
+        <translation>El número del que salen los errores de todos los miembros. El mismo levantamiento y la misma semilla dan los mismos miembros.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Models are being tried.</source>
+        <translation>Se están probando los modelos.</translation>
+    </message>
+    <message>
+        <source>Models are being tried: %1 of %2.</source>
+        <translation>Se están probando los modelos: %1 de %2.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 members are done; %3 left out.</source>
+        <translation>%1 de %2 miembros terminados; %3 excluidos.</translation>
+    </message>
+    <message>
+        <source>How sure the section is stays unknown.</source>
+        <translation>La certeza de la sección sigue sin conocerse.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <translation>
+            <numerusform>Detenido con %n miembro; Iniciar continúa desde ahí.</numerusform>
+            <numerusform>Detenido con %n miembros; Iniciar continúa desde ahí.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped before the first member was done; Start goes on.</source>
+        <translation>Detenido antes de terminar el primer miembro; Iniciar continúa.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CheckDialog</name>
     <message>
         <source>Check recordings</source>
@@ -289,6 +355,51 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source> of %1</source>
         <translation> de %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CompareRunsDialog</name>
+    <message>
+        <source>Compare inversion runs</source>
+        <translation>Comparar inversiones</translation>
+    </message>
+    <message>
+        <source>&amp;Left:</source>
+        <translation>&amp;Izquierda:</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>&amp;Derecha:</translation>
+    </message>
+    <message>
+        <source>Save both sections and their difference as PNG, SVG or PDF</source>
+        <translation>Guarda ambas secciones y su diferencia como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Guardar imagen ...</translation>
+    </message>
+    <message>
+        <source>%1 against %2</source>
+        <comment>right run, left run</comment>
+        <translation>%1 frente a %2</translation>
+    </message>
+    <message>
+        <source>Chi-square %1</source>
+        <translation>Chi cuadrado %1</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 ms</source>
+        <translation>Desajuste RMS %1 ms</translation>
+    </message>
+    <message>
+        <source>their computed times differ by %1 ms RMS</source>
+        <translation>sus tiempos calculados difieren en %1 ms RMS</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>run, remarks</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1032,6 +1143,177 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <comment>picks</comment>
         <translation>de error desconocido: %1</translation>
     </message>
+    <message>
+        <source>Uncertainty of velocity</source>
+        <translation>Incertidumbre de la velocidad</translation>
+    </message>
+    <message>
+        <source>chi-square %1 with the time shifts of shots</source>
+        <translation>chi cuadrado %1 con los desplazamientos en tiempo de los disparos</translation>
+    </message>
+    <message>
+        <source>chi-square %1</source>
+        <translation>chi cuadrado %1</translation>
+    </message>
+    <message>
+        <source>Correlation by depth</source>
+        <translation>Correlación según la profundidad</translation>
+    </message>
+    <message>
+        <source>Correlation of true and recovered</source>
+        <translation>Correlación entre verdadero y recuperado</translation>
+    </message>
+    <message>
+        <source>-%1 % to +%1 % of the section&apos;s velocity; grey: no ray</source>
+        <translation>De -%1 % a +%1 % de la velocidad de la sección; gris: sin rayos</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>Verdadero</translation>
+    </message>
+    <message>
+        <source>Recovered</source>
+        <translation>Recuperado</translation>
+    </message>
+    <message>
+        <source>[m]</source>
+        <translation>[m]</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FitPanel</name>
+    <message>
+        <source>Errors of picks that state none</source>
+        <translation>Error de los picados que no indican ninguno</translation>
+    </message>
+    <message>
+        <source>Least error [ms]</source>
+        <translation>Error mínimo [ms]</translation>
+    </message>
+    <message>
+        <source>How far off a pick is at least, one standard deviation. A small error makes the section follow every pick, and its noise; a large one lets it pass by.</source>
+        <translation>Cuánto se desvía un picado como mínimo, una desviación estándar. Con un error pequeño la sección sigue cada picado, y su ruido; con uno grande puede apartarse de ellos.</translation>
+    </message>
+    <message>
+        <source>Share of the time [%]</source>
+        <translation>Parte del tiempo [%]</translation>
+    </message>
+    <message>
+        <source>The error of a late pick is this share of its time, where that is more than the least error.</source>
+        <translation>El error de un picado tardío es esta parte de su tiempo, cuando supera el error mínimo.</translation>
+    </message>
+    <message>
+        <source>Minimum velocity [m/s]</source>
+        <translation>Velocidad mínima [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get slower than this.</source>
+        <translation>Ninguna celda llega a ser más lenta.</translation>
+    </message>
+    <message>
+        <source>Maximum velocity [m/s]</source>
+        <translation>Velocidad máxima [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get faster than this.</source>
+        <translation>Ninguna celda llega a ser más rápida.</translation>
+    </message>
+    <message>
+        <source>Iterations at most</source>
+        <translation>Iteraciones como máximo</translation>
+    </message>
+    <message>
+        <source>The fit ends by itself, as a rule after 5 to 15 iterations.</source>
+        <translation>El ajuste termina por sí solo, por lo general tras 5 a 15 iteraciones.</translation>
+    </message>
+    <message>
+        <source>Picks that are far off count by how far they are off, and no more by its square: some gross errors then hardly change the section.</source>
+        <translation>Los picados muy desviados cuentan según su desviación, y ya no según su cuadrado: así unos pocos errores graves apenas cambian la sección.</translation>
+    </message>
+    <message>
+        <source>Robust against gross errors of picks</source>
+        <translation>Robusto frente a errores graves de los picados</translation>
+    </message>
+    <message>
+        <source>Looks for few sharp steps of the velocity rather than for gentle slopes.</source>
+        <translation>Busca pocos saltos bruscos de la velocidad en vez de pendientes suaves.</translation>
+    </message>
+    <message>
+        <source>Blocky: sharp steps rather than slopes</source>
+        <translation>Por bloques: saltos bruscos en vez de pendientes</translation>
+    </message>
+    <message>
+        <source>Also finds by how much the record of every shot begins too early or too late, zero on the whole. The shifts are listed after the run and change nothing by themselves.</source>
+        <translation>Halla también cuánto se adelanta o se retrasa el comienzo del registro de cada disparo, cero en conjunto. Los desplazamientos se enumeran tras la ejecución y no cambian nada por sí solos.</translation>
+    </message>
+    <message>
+        <source>Find time shifts of shots</source>
+        <translation>Hallar desplazamientos en tiempo de los disparos</translation>
+    </message>
+    <message>
+        <source>Trigger error [ms]</source>
+        <translation>Error del tiempo de disparo [ms]</translation>
+    </message>
+    <message>
+        <source>How far the shots are thought to be off. Shifts that are large beside it are less welcome.</source>
+        <translation>Cuánto se supone que se desvían los disparos. Los desplazamientos grandes frente a este valor son menos bienvenidos.</translation>
+    </message>
+    <message>
+        <source>Uses one processor only. The result is the same to the last digit; it just takes longer.</source>
+        <translation>Usa un solo procesador. El resultado es el mismo hasta la última cifra; solo tarda más.</translation>
+    </message>
+    <message>
+        <source>Run in single thread mode</source>
+        <translation>Ejecutar en un solo hilo</translation>
+    </message>
+    <message>
+        <source>The section starts from this model, and departs from it no more than the picks ask for:</source>
+        <translation>La sección parte de este modelo, y no se aparta de él más de lo que piden los picados:</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi cuadrado</translation>
+    </message>
+    <message>
+        <source>Of the times through the model as it is, suspect picks included: 1 is a fit as good as the picks are.</source>
+        <translation>De los tiempos a través del modelo tal cual, incluidos los picados sospechosos: 1 es un ajuste tan bueno como los picados.</translation>
+    </message>
+    <message>
+        <source>What it is</source>
+        <translation>Qué es</translation>
+    </message>
+    <message>
+        <source>Distance from the shot (m)</source>
+        <translation>Distancia al disparo (m)</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Tiempo (ms)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks state an error of their own.</source>
+        <translation>%1 de %2 picados indican su propio error.</translation>
+    </message>
+    <message>
+        <source>By these errors the present section has chi-square %1, with %2 suspect picks left out.</source>
+        <translation>Según estos errores la sección actual tiene chi cuadrado %1, con %2 picados sospechosos excluidos.</translation>
+    </message>
+    <message>
+        <source>The models are being made and traced...</source>
+        <translation>Se están construyendo y trazando los modelos...</translation>
+    </message>
+    <message>
+        <source>Not supported</source>
+        <translation>Sin respaldo de los picados</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picados</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -1457,10 +1739,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
 </translation>
     </message>
     <message>
-        <source>Misfit of the section: RMS %1 ms (%2 %).</source>
-        <translation>Desajuste de la sección: RMS %1 ms (%2 %).</translation>
-    </message>
-    <message>
         <source>Computing time: [s] %1
 </source>
         <translation>Tiempo de cálculo: [s] %1
@@ -1489,6 +1767,58 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
 </source>
         <translation>Error máximo: [ms] %1; [%] %2
 </translation>
+    </message>
+    <message>
+        <source>Chi-square: %1; of all picks %2; suspect picks %3
+</source>
+        <translation>Chi cuadrado: %1; de todos los picados, %2; picados sospechosos, %3
+</translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %), chi-square %3 with the time shifts of shots.</source>
+        <translation>Desajuste de la sección: RMS %1 ms (%2 %), chi cuadrado %3 con los desplazamientos en tiempo de los disparos.</translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %), chi-square %3.</source>
+        <translation>Desajuste de la sección: RMS %1 ms (%2 %), chi cuadrado %3.</translation>
+    </message>
+    <message>
+        <source>From coarse to fine: iteration %1 of %2 is kept, smoothing parameter %3
+</source>
+        <translation>De grueso a fino: se conserva la iteración %1 de %2, parámetro de suavizado %3
+</translation>
+    </message>
+    <message>
+        <source>Iterations: %1
+</source>
+        <translation>Iteraciones: %1
+</translation>
+    </message>
+    <message>
+        <source>Weight of the roughness: %1
+</source>
+        <translation>Peso de la rugosidad: %1
+</translation>
+    </message>
+    <message>
+        <source>Started from and held to: %1
+</source>
+        <translation>Modelo de partida y de referencia: %1
+</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots: [ms] %1
+</source>
+        <translation>Desplazamientos en tiempo de los disparos: [ms] %1
+</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>disparo %1: %2</translation>
+    </message>
+    <message>
+        <source>Best of the picks&apos; models</source>
+        <translation>El mejor modelo de los picados</translation>
     </message>
 </context>
 <context>
@@ -4799,6 +5129,166 @@ Defina la posición de los geófonos
         <source>Set error of pick</source>
         <translation>Fijar error del picado</translation>
     </message>
+    <message>
+        <source>How sure the section is could not be found out: %1</source>
+        <translation>No se ha podido determinar la certeza de la sección: %1</translation>
+    </message>
+    <message>
+        <source>The models could not be made: %1</source>
+        <translation>No se han podido construir los modelos: %1</translation>
+    </message>
+    <message>
+        <source>Rename run</source>
+        <translation>Cambiar nombre de inversión</translation>
+    </message>
+    <message>
+        <source>Delete runs</source>
+        <translation>Eliminar inversiones</translation>
+    </message>
+    <message>
+        <source>There is no resolution test to draw.</source>
+        <translation>No hay ninguna prueba de resolución que dibujar.</translation>
+    </message>
+    <message>
+        <source>Difference of velocity</source>
+        <translation>Diferencia de velocidad</translation>
+    </message>
+    <message>
+        <source>its inversion runs but the last one are not known</source>
+        <translation>no se conocen sus inversiones, salvo la última</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known</source>
+        <translation>no se conoce la certeza de la sección</translation>
+    </message>
+    <message>
+        <source>it does not go with the section of the project, which another program may have changed</source>
+        <translation>no corresponde a la sección del proyecto, que otro programa puede haber cambiado</translation>
+    </message>
+    <message>
+        <source>%1 rows of %2 columns do not go with %3 velocities</source>
+        <translation>%1 filas de %2 columnas no corresponden a %3 velocidades</translation>
+    </message>
+    <message>
+        <source>a velocity is none that ground can have</source>
+        <translation>una velocidad no es posible en el terreno</translation>
+    </message>
+    <message>
+        <source>its grid cannot be</source>
+        <translation>su malla es imposible</translation>
+    </message>
+    <message>
+        <source>its settings or figures cannot be</source>
+        <translation>sus ajustes o sus cifras son imposibles</translation>
+    </message>
+    <message>
+        <source>its number is 0 or that of another</source>
+        <translation>su número es 0 o el de otra</translation>
+    </message>
+    <message>
+        <source>there are more than can be kept</source>
+        <translation>hay más de las que se pueden conservar</translation>
+    </message>
+    <message>
+        <source>inversion run %1 is left out: %2</source>
+        <translation>la inversión %1 se ha descartado: %2</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>Inversión %1</translation>
+    </message>
+    <message>
+        <source>Certainty</source>
+        <translation>Certeza</translation>
+    </message>
+    <message>
+        <source>Use run</source>
+        <translation>Usar inversión</translation>
+    </message>
+    <message>
+        <source>Inversion runs</source>
+        <translation>Inversiones realizadas</translation>
+    </message>
+    <message>
+        <source>Take over time shifts</source>
+        <translation>Adoptar desplazamientos en tiempo</translation>
+    </message>
+    <message>
+        <source>None of the %1 members explains the picks to within their errors; how sure the section is stays unknown.</source>
+        <translation>Ninguno de los %1 miembros explica los picados dentro de sus errores; la certeza de la sección sigue sin conocerse.</translation>
+    </message>
+    <message>
+        <source>Default model</source>
+        <translation>Modelo predeterminado</translation>
+    </message>
+    <message>
+        <source>Present section</source>
+        <translation>Sección actual</translation>
+    </message>
+    <message>
+        <source>No model explains the picks to within their errors (chi-square up to %1), so that nothing can be said of how sure the section is. Their errors may be stated too small, or shots may be shifted in time.</source>
+        <translation>Ningún modelo explica los picados dentro de sus errores (chi cuadrado hasta %1), de modo que nada se puede decir de la certeza de la sección. Quizá los errores indicados sean demasiado pequeños, o haya disparos desplazados en tiempo.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m/s</source>
+        <translation>%1 a %2 m/s</translation>
+    </message>
+    <message>
+        <source>There is no reference model &quot;%1&quot;.</source>
+        <translation>No hay ningún modelo de referencia «%1».</translation>
+    </message>
+    <message>
+        <source>The picks do not support the reference model. %1</source>
+        <translation>Los picados no respaldan el modelo de referencia. %1</translation>
+    </message>
+    <message>
+        <source>The picks do not support the reference model &quot;%1&quot;.</source>
+        <translation>Los picados no respaldan el modelo de referencia «%1».</translation>
+    </message>
+    <message>
+        <source>The resolution test failed: %1</source>
+        <translation>La prueba de resolución ha fallado: %1</translation>
+    </message>
+    <message>
+        <source>The size of the pattern must be positive; %1 m is not.</source>
+        <translation>El tamaño del patrón debe ser positivo; %1 m no lo es.</translation>
+    </message>
+    <message>
+        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
+        <translation>El patrón tiene %1 m, menos que una celda de la malla, que tiene %2 m; elija uno mayor.</translation>
+    </message>
+    <message>
+        <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
+        <translation>La intensidad del patrón debe ser mayor que 0 y menor que 100 %; %1 % no lo es.</translation>
+    </message>
+    <message>
+        <source>There are no picks to test the resolution with.</source>
+        <translation>No hay picados con los que probar la resolución.</translation>
+    </message>
+    <message>
+        <source>The section to be disturbed has velocities that cannot be computed with.</source>
+        <translation>La sección que se va a perturbar tiene velocidades con las que no se puede calcular.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>«%1» no se puede usar: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be shown: %2</source>
+        <translation>«%1» no se puede mostrar: %2</translation>
+    </message>
+    <message>
+        <source>There is no such run any more.</source>
+        <translation>Esa inversión ya no existe.</translation>
+    </message>
+    <message>
+        <source>The surface or the ends of the line have changed since &quot;%1&quot;; its section can be compared with others, but is none of this line any more.</source>
+        <translation>La superficie o los extremos de la línea han cambiado desde «%1»; su sección se puede comparar con otras, pero ya no es de esta línea.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of velocity</source>
+        <translation>Incertidumbre de la velocidad</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -6522,6 +7012,62 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>Shot %1: %2.</source>
         <translation>Disparo %1: %2.</translation>
     </message>
+    <message>
+        <source>gradient read from the picks</source>
+        <translation>gradiente leído de los picados</translation>
+    </message>
+    <message>
+        <source>two layers read from the picks</source>
+        <translation>dos capas leídas de los picados</translation>
+    </message>
+    <message>
+        <source>three layers read from the picks</source>
+        <translation>tres capas leídas de los picados</translation>
+    </message>
+    <message>
+        <source>gradient over a refractor, read from the picks</source>
+        <translation>gradiente sobre un refractor, leído de los picados</translation>
+    </message>
+    <message>
+        <source>default model</source>
+        <translation>modelo predeterminado</translation>
+    </message>
+    <message>
+        <source>velocities that the grid had</source>
+        <translation>velocidades que tenía la malla</translation>
+    </message>
+    <message>
+        <source>Started from and held to</source>
+        <translation>Modelo de partida y de referencia</translation>
+    </message>
+    <message>
+        <source>%1, shrinking to a fifth</source>
+        <translation>%1, que se reduce a la quinta parte</translation>
+    </message>
+    <message>
+        <source>%1, the best of %2 from coarse to fine</source>
+        <translation>%1, la mejor de %2, de grueso a fino</translation>
+    </message>
+    <message>
+        <source>Uncertainty: half of the range from 16 to 84 % of %1 sections that explain the picks as well, in percent</source>
+        <translation>Incertidumbre: mitad del intervalo del 16 al 84 % de %1 secciones que explican igual de bien los picados, en porcentaje</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2; suspect picks %3</source>
+        <translation>%1; de todos los picados, %2; picados sospechosos, %3</translation>
+    </message>
+    <message>
+        <source>%1; with the time shifts of shots</source>
+        <translation>%1; con los desplazamientos en tiempo de los disparos</translation>
+    </message>
+    <message>
+        <source>Misfit after every iteration, 0 being the starting model</source>
+        <translation>Desajuste tras cada iteración; 0 es el modelo inicial</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
+        <translation>Desajuste RMS de la sección tras cada iteración; 0 es el modelo inicial</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -6638,6 +7184,160 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     </message>
 </context>
 <context>
+    <name>talvesk::RunTexts</name>
+    <message>
+        <source>Fitted to errors</source>
+        <translation>Ajuste a errores</translation>
+    </message>
+    <message>
+        <source>Smoothed</source>
+        <translation>Suavizado</translation>
+    </message>
+    <message>
+        <source>%1 rows and %2 columns of %3 m</source>
+        <translation>%1 filas y %2 columnas de %3 m</translation>
+    </message>
+    <message>
+        <source>velocities from %1 to %2 m/s</source>
+        <translation>velocidades de %1 a %2 m/s</translation>
+    </message>
+    <message>
+        <source>errors of %1 ms or %2 %</source>
+        <translation>errores de %1 ms o %2 %</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robusto</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>por bloques</translation>
+    </message>
+    <message>
+        <source>with shot statics</source>
+        <translation>con estáticas de disparo</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>picados sospechosos: %1</translation>
+    </message>
+    <message>
+        <source>%1 solver iterations</source>
+        <translation>%1 iteraciones del solucionador</translation>
+    </message>
+    <message>
+        <source>smoothing parameter %1</source>
+        <translation>parámetro de suavizado %1</translation>
+    </message>
+    <message>
+        <source>symmetric</source>
+        <translation>simétrico</translation>
+    </message>
+    <message>
+        <source>stopped by the user</source>
+        <translation>detenida por el usuario</translation>
+    </message>
+    <message>
+        <source>picks have changed since</source>
+        <translation>los picados han cambiado desde entonces</translation>
+    </message>
+    <message>
+        <source>the surface or the ends of the line have changed since</source>
+        <translation>la superficie o los extremos de la línea han cambiado desde entonces</translation>
+    </message>
+    <message>
+        <source>positions have changed since</source>
+        <translation>las posiciones han cambiado desde entonces</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RunsDialog</name>
+    <message>
+        <source>Inversion runs</source>
+        <translation>Inversiones realizadas</translation>
+    </message>
+    <message>
+        <source>Every inversion is kept here, at most 50 of them. The run in use is the section that the window shows; exports and reports are of it.</source>
+        <translation>Aquí se conservan todas las inversiones, 50 como máximo. La inversión en uso es la sección que muestra la ventana; de ella son las exportaciones y los informes.</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Inversión</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Método</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi cuadrado</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [%]</source>
+        <translation>RMS [%]</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Iteraciones</translation>
+    </message>
+    <message>
+        <source>Time [s]</source>
+        <translation>Tiempo [s]</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Cuándo</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Observaciones</translation>
+    </message>
+    <message>
+        <source>No inversion has been run yet. Run one with Processing, Run tomography inversion.</source>
+        <translation>Aún no se ha ejecutado ninguna inversión. Ejecute una con Procesamiento, Ejecutar inversión tomográfica.</translation>
+    </message>
+    <message>
+        <source>Make the section of the selected run the one that the window shows</source>
+        <translation>Hace que la ventana muestre la sección de la inversión seleccionada</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <translation>&amp;Usar</translation>
+    </message>
+    <message>
+        <source>Show two runs side by side: the selected one beside another that is selected, else beside the one in use</source>
+        <translation>Muestra dos inversiones una junto a otra: la seleccionada con otra también seleccionada o, si no la hay, con la que está en uso</translation>
+    </message>
+    <message>
+        <source>&amp;Compare ...</source>
+        <translation>C&amp;omparar ...</translation>
+    </message>
+    <message>
+        <source>Name the selected run; runs with a name are the last to go when the list is full</source>
+        <translation>Da nombre a la inversión seleccionada; las que tienen nombre son las últimas en irse cuando la lista está llena</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Cambiar &amp;nombre</translation>
+    </message>
+    <message>
+        <source>Take the selected runs out of the list; Undo brings them back</source>
+        <translation>Quita de la lista las inversiones seleccionadas; Deshacer las recupera</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>en uso</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ScreenshotDialog</name>
     <message>
         <source>Screenshot</source>
@@ -6666,6 +7366,97 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>%1: %2 x %3 pixels</source>
         <translation>%1: %2 x %3 píxeles</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SecondLookDialog</name>
+    <message>
+        <source>Second look</source>
+        <translation>Segunda revisión</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Receptor</translation>
+    </message>
+    <message>
+        <source>Pick [ms]</source>
+        <translation>Picado [ms]</translation>
+    </message>
+    <message>
+        <source>Off by [ms]</source>
+        <translation>Desvío [ms]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured: the pick is late where this is negative.</source>
+        <translation>Calculado menos medido: si es negativo, el picado llega tarde.</translation>
+    </message>
+    <message>
+        <source>In errors</source>
+        <translation>En errores</translation>
+    </message>
+    <message>
+        <source>Off by how many of its errors</source>
+        <translation>A cuántos de sus errores equivale el desvío</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>Retraso [ms]</translation>
+    </message>
+    <message>
+        <source>Positive: the record begins too late, and its picks are late.</source>
+        <translation>Positivo: el registro comienza demasiado tarde, y sus picados llegan tarde.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
+        <translation>Desplaza los registros de los disparos marcados con sus picados, como hace Corregir registro. Se deshace en un solo paso.</translation>
+    </message>
+    <message>
+        <source>&amp;Take over as time shifts of the records</source>
+        <translation>&amp;Adoptar como desplazamientos en tiempo de los registros</translation>
+    </message>
+    <message>
+        <source>no recording that could be shifted</source>
+        <translation>sin registro que se pueda desplazar</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Aún no hay sección cuyos tiempos se puedan revisar.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>Los picados han cambiado desde que se obtuvo la sección: se ajustó a otros.</translation>
+    </message>
+    <message>
+        <source>No pick is off by more than five of its errors.</source>
+        <translation>Ningún picado se desvía más de cinco de sus errores.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than five of their errors; a click shows the trace:</source>
+        <translation>Picados que se desvían más de cinco de sus errores; un clic muestra la traza:</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found:</source>
+        <translation>Desplazamientos en tiempo de los disparos que ha hallado el ajuste:</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m, depth %3 to %4 m</source>
+        <translation>%1 a %2 m, profundidad %3 a %4 m</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
+        <translation>Celdas en el límite de %1 m/s: %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
+        <translation>Celdas mostradas que no cruza ningún rayo: %1 de %2 (%3)</translation>
+    </message>
+    <message>
+        <source>No velocity is at a limit, and rays cross all cells shown.</source>
+        <translation>Ninguna velocidad está en un límite, y los rayos cruzan todas las celdas mostradas.</translation>
     </message>
 </context>
 <context>
@@ -8742,6 +9533,85 @@ Do you want to run refraction processing anyway? </source>
         <source>Error %1 ms</source>
         <translation>Error %1 ms</translation>
     </message>
+    <message>
+        <source>Second look ...</source>
+        <translation>Segunda revisión ...</translation>
+    </message>
+    <message>
+        <source>List the picks that the section cannot explain, time shifts of shots, velocities at their limits and ground without rays</source>
+        <translation>Enumera los picados que la sección no puede explicar, los desplazamientos en tiempo de los disparos, las velocidades en sus límites y el terreno sin rayos</translation>
+    </message>
+    <message>
+        <source>Inversion runs ...</source>
+        <translation>Inversiones realizadas ...</translation>
+    </message>
+    <message>
+        <source>List the inversions that have been run, compare them, and use one of them as the section</source>
+        <translation>Enumera las inversiones ejecutadas, las compara y usa una de ellas como sección</translation>
+    </message>
+    <message>
+        <source>Certainty ...</source>
+        <translation>Certeza ...</translation>
+    </message>
+    <message>
+        <source>Find out how sure the section is, by many sections that explain the picks as well</source>
+        <translation>Determina la certeza de la sección mediante muchas secciones que explican igual de bien los picados</translation>
+    </message>
+    <message>
+        <source>Show Certainty Layer</source>
+        <translation>Mostrar certeza</translation>
+    </message>
+    <message>
+        <source>Colour the section by how far its velocities may be off</source>
+        <translation>Colorea la sección según cuánto pueden desviarse sus velocidades</translation>
+    </message>
+    <message>
+        <source>Certainty: %1 members, %2 left out.</source>
+        <translation>Certeza: %1 miembros, %2 excluidos.</translation>
+    </message>
+    <message>
+        <source>The list of inversion runs is full; &quot;%1&quot; has gone.</source>
+        <translation>La lista de inversiones está llena; se ha quitado «%1».</translation>
+    </message>
+    <message>
+        <source>Tracing the rays of the run anew ...</source>
+        <translation>Trazando de nuevo los rayos de la inversión ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used.</source>
+        <translation>«%1» no se puede usar.</translation>
+    </message>
+    <message>
+        <source>The section is that of &quot;%1&quot;.</source>
+        <translation>La sección es la de «%1».</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n inversion run(s) deleted.</source>
+        <translation>
+            <numerusform>%n inversión eliminada.</numerusform>
+            <numerusform>%n inversiones eliminadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save picture of both runs</source>
+        <translation>Guardar imagen de ambas inversiones</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png);;SVG picture (*.svg);;PDF document (*.pdf)</source>
+        <translation>Imagen PNG (*.png);;Imagen SVG (*.svg);;Documento PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Time shifts taken over: %1 of %2. Invert again to see what they change.</source>
+        <translation>Desplazamientos en tiempo adoptados: %1 de %2. Invierta de nuevo para ver qué cambian.</translation>
+    </message>
+    <message>
+        <source>Some time shifts have not been taken over.</source>
+        <translation>Algunos desplazamientos en tiempo no se han adoptado.</translation>
+    </message>
+    <message>
+        <source>Uncertainty %1 %</source>
+        <translation>Incertidumbre %1 %</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -9554,6 +10424,22 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <source>Stops when the iteration under way is completed.</source>
         <translation>Se detiene cuando termine la iteración en curso.</translation>
     </message>
+    <message>
+        <source>The models to start from are being traced.</source>
+        <translation>Se están trazando los modelos de partida.</translation>
+    </message>
+    <message>
+        <source>Ends by itself, after %1 iterations at the latest.</source>
+        <translation>Termina por sí solo, como muy tarde tras %1 iteraciones.</translation>
+    </message>
+    <message>
+        <source>Iteration %1: chi-square %2, RMS %3 ms (%4 %)</source>
+        <translation>Iteración %1: chi cuadrado %2, RMS %3 ms (%4 %)</translation>
+    </message>
+    <message>
+        <source>Stops, with the best section so far.</source>
+        <translation>Se detiene, con la mejor sección hasta ahora.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::runTomography_Dialog</name>
@@ -9664,6 +10550,46 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
         <translation>Cada iteración externa vuelve a trazar los rayos a través del modelo obtenido hasta entonces. Con más iteraciones los rayos se curvan de forma más fiel a la realidad y el desajuste disminuye; el tiempo crece con el número. Cuando la curva del desajuste se ha aplanado, más iteraciones cambian poco. El 5 de la etiqueta basta para una primera impresión; el campo empieza en 10.</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Método</translation>
+    </message>
+    <message>
+        <source>Solver passes correct the velocities along traced rays and smooth them, as often as is said here. A fit to the picks&apos; errors chooses its own smoothing, ends by itself, and comes as close to the picks as their errors are and no closer.</source>
+        <translation>Las pasadas del solucionador corrigen las velocidades a lo largo de los rayos trazados y las suavizan, tantas veces como se indica aquí. Un ajuste a los errores de los picados elige su propio suavizado, termina por sí solo y se acerca a los picados tanto como lo permiten sus errores, y no más.</translation>
+    </message>
+    <message>
+        <source>Solver passes and smoothing</source>
+        <translation>Pasadas del solucionador y suavizado</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Ajuste a los errores de los picados</translation>
+    </message>
+    <message>
+        <source>Lets the smoothing parameter shrink to a fifth over the external iterations, and keeps the iteration whose section fits the picks best along fresh rays, which need not be the last one.</source>
+        <translation>Reduce el parámetro de suavizado a la quinta parte a lo largo de las iteraciones externas, y conserva la iteración cuya sección se ajusta mejor a los picados a lo largo de rayos nuevos, que no tiene por qué ser la última.</translation>
+    </message>
+    <message>
+        <source>From coarse to fine, keeping the best iteration</source>
+        <translation>De grueso a fino, conservando la mejor iteración</translation>
+    </message>
+    <message>
+        <source>Sets the velocity limits and the smoothing parameter as the picks and the distance between geophones suggest them.</source>
+        <translation>Fija los límites de velocidad y el parámetro de suavizado que sugieren los picados y la distancia entre geófonos.</translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation>Proponer</translation>
+    </message>
+    <message>
+        <source>Rays are expected down to %1 m; the grid reaches %2 m.</source>
+        <translation>Se esperan rayos hasta %1 m de profundidad; la malla llega a %2 m.</translation>
+    </message>
+    <message>
+        <source>The minimum velocity must be below the maximum.</source>
+        <translation>La velocidad mínima debe ser menor que la máxima.</translation>
     </message>
 </context>
 <context>
