@@ -49,6 +49,72 @@
     </message>
 </context>
 <context>
+    <name>talvesk::CertaintyDialog</name>
+    <message>
+        <source>Certainty</source>
+        <translation>Affidabilità</translation>
+    </message>
+    <message>
+        <source>Many sections explain the picks as well as the one that is shown. Each member is fitted to picks that are moved by their errors, from another model that explains them. Where the members agree the section is sure.</source>
+        <translation>Molte sezioni spiegano i primi arrivi altrettanto bene di quella mostrata. Ogni membro si adatta a primi arrivi spostati secondo i loro errori, a partire da un altro modello che li spiega. Dove i membri concordano la sezione è sicura.</translation>
+    </message>
+    <message>
+        <source>&amp;Members:</source>
+        <translation>&amp;Membri:</translation>
+    </message>
+    <message>
+        <source>How many sections are compared. More of them tell the spread more exactly and take longer.</source>
+        <translation>Quante sezioni si confrontano. Con più sezioni la dispersione è nota con più precisione, e ci vuole più tempo.</translation>
+    </message>
+    <message>
+        <source>S&amp;eed:</source>
+        <translation>S&amp;eme:</translation>
+    </message>
+    <message>
+        <source>The number that the errors of all members come from. The same survey and seed give the same members.</source>
+        <translation>Il numero da cui derivano gli errori di tutti i membri. Lo stesso rilievo e lo stesso seme danno gli stessi membri.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Avvia</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Ferma</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+    <message>
+        <source>Models are being tried.</source>
+        <translation>Si provano i modelli.</translation>
+    </message>
+    <message>
+        <source>Models are being tried: %1 of %2.</source>
+        <translation>Si provano i modelli: %1 di %2.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 members are done; %3 left out.</source>
+        <translation>%1 di %2 membri completati; %3 esclusi.</translation>
+    </message>
+    <message>
+        <source>How sure the section is stays unknown.</source>
+        <translation>Quanto sia sicura la sezione resta ignoto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <translation>
+            <numerusform>Fermato con %n membro; &quot;Avvia&quot; riprende da lì.</numerusform>
+            <numerusform>Fermato con %n membri; &quot;Avvia&quot; riprende da lì.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped before the first member was done; Start goes on.</source>
+        <translation>Fermato prima di completare il primo membro; &quot;Avvia&quot; riprende.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CheckDialog</name>
     <message>
         <source>Check recordings</source>
@@ -289,6 +355,51 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source> of %1</source>
         <translation> di %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CompareRunsDialog</name>
+    <message>
+        <source>Compare inversion runs</source>
+        <translation>Confronta le inversioni</translation>
+    </message>
+    <message>
+        <source>&amp;Left:</source>
+        <translation>&amp;Sinistra:</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>&amp;Destra:</translation>
+    </message>
+    <message>
+        <source>Save both sections and their difference as PNG, SVG or PDF</source>
+        <translation>Salva le due sezioni e la loro differenza in PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>%1 against %2</source>
+        <comment>right run, left run</comment>
+        <translation>%1 rispetto a %2</translation>
+    </message>
+    <message>
+        <source>Chi-square %1</source>
+        <translation>Chi quadrato %1</translation>
+    </message>
+    <message>
+        <source>RMS misfit %1 ms</source>
+        <translation>Scarto RMS %1 ms</translation>
+    </message>
+    <message>
+        <source>their computed times differ by %1 ms RMS</source>
+        <translation>i loro tempi calcolati differiscono di %1 ms RMS</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>run, remarks</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1032,6 +1143,177 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <comment>picks</comment>
         <translation>%1 con errore ignoto</translation>
     </message>
+    <message>
+        <source>Uncertainty of velocity</source>
+        <translation>Incertezza della velocità</translation>
+    </message>
+    <message>
+        <source>chi-square %1 with the time shifts of shots</source>
+        <translation>chi quadrato %1 con le traslazioni temporali dei tiri</translation>
+    </message>
+    <message>
+        <source>chi-square %1</source>
+        <translation>chi quadrato %1</translation>
+    </message>
+    <message>
+        <source>Correlation by depth</source>
+        <translation>Correlazione secondo la profondità</translation>
+    </message>
+    <message>
+        <source>Correlation of true and recovered</source>
+        <translation>Correlazione fra vero e ricostruito</translation>
+    </message>
+    <message>
+        <source>-%1 % to +%1 % of the section&apos;s velocity; grey: no ray</source>
+        <translation>da -%1 % a +%1 % della velocità della sezione; grigio: nessun raggio</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>Vero</translation>
+    </message>
+    <message>
+        <source>Recovered</source>
+        <translation>Ricostruito</translation>
+    </message>
+    <message>
+        <source>[m]</source>
+        <translation>[m]</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FitPanel</name>
+    <message>
+        <source>Errors of picks that state none</source>
+        <translation>Errori dei primi arrivi che non ne indicano</translation>
+    </message>
+    <message>
+        <source>Least error [ms]</source>
+        <translation>Errore minimo [ms]</translation>
+    </message>
+    <message>
+        <source>How far off a pick is at least, one standard deviation. A small error makes the section follow every pick, and its noise; a large one lets it pass by.</source>
+        <translation>Di quanto sbaglia almeno un primo arrivo, una deviazione standard. Con un errore piccolo la sezione segue ogni primo arrivo, e il suo rumore; con uno grande lo trascura.</translation>
+    </message>
+    <message>
+        <source>Share of the time [%]</source>
+        <translation>Quota del tempo [%]</translation>
+    </message>
+    <message>
+        <source>The error of a late pick is this share of its time, where that is more than the least error.</source>
+        <translation>L&apos;errore di un primo arrivo tardo è questa quota del suo tempo, dove è più dell&apos;errore minimo.</translation>
+    </message>
+    <message>
+        <source>Minimum velocity [m/s]</source>
+        <translation>Velocità minima [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get slower than this.</source>
+        <translation>Le celle non diventano mai più lente di così.</translation>
+    </message>
+    <message>
+        <source>Maximum velocity [m/s]</source>
+        <translation>Velocità massima [m/s]</translation>
+    </message>
+    <message>
+        <source>Cells never get faster than this.</source>
+        <translation>Le celle non diventano mai più veloci di così.</translation>
+    </message>
+    <message>
+        <source>Iterations at most</source>
+        <translation>Iterazioni al massimo</translation>
+    </message>
+    <message>
+        <source>The fit ends by itself, as a rule after 5 to 15 iterations.</source>
+        <translation>L&apos;adattamento finisce da sé, di regola dopo 5 - 15 iterazioni.</translation>
+    </message>
+    <message>
+        <source>Picks that are far off count by how far they are off, and no more by its square: some gross errors then hardly change the section.</source>
+        <translation>I primi arrivi molto lontani contano in proporzione a quanto sono lontani, e non più al quadrato: qualche errore grossolano cambia allora appena la sezione.</translation>
+    </message>
+    <message>
+        <source>Robust against gross errors of picks</source>
+        <translation>Robusto contro errori grossolani dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>Looks for few sharp steps of the velocity rather than for gentle slopes.</source>
+        <translation>Cerca pochi salti netti della velocità invece di variazioni graduali.</translation>
+    </message>
+    <message>
+        <source>Blocky: sharp steps rather than slopes</source>
+        <translation>A blocchi: salti netti invece di variazioni graduali</translation>
+    </message>
+    <message>
+        <source>Also finds by how much the record of every shot begins too early or too late, zero on the whole. The shifts are listed after the run and change nothing by themselves.</source>
+        <translation>Trova anche di quanto la registrazione di ogni tiro comincia troppo presto o troppo tardi, zero nel complesso. Le traslazioni sono elencate dopo l&apos;inversione e da sole non cambiano nulla.</translation>
+    </message>
+    <message>
+        <source>Find time shifts of shots</source>
+        <translation>Trova le traslazioni temporali dei tiri</translation>
+    </message>
+    <message>
+        <source>Trigger error [ms]</source>
+        <translation>Errore del trigger [ms]</translation>
+    </message>
+    <message>
+        <source>How far the shots are thought to be off. Shifts that are large beside it are less welcome.</source>
+        <translation>Di quanto si pensa che sbaglino i tiri. Traslazioni grandi rispetto a questo sono meno gradite.</translation>
+    </message>
+    <message>
+        <source>Uses one processor only. The result is the same to the last digit; it just takes longer.</source>
+        <translation>Usa un solo processore. Il risultato è lo stesso fino all&apos;ultima cifra; ci vuole solo più tempo.</translation>
+    </message>
+    <message>
+        <source>Run in single thread mode</source>
+        <translation>Esegui con un solo thread</translation>
+    </message>
+    <message>
+        <source>The section starts from this model, and departs from it no more than the picks ask for:</source>
+        <translation>La sezione parte da questo modello, e se ne scosta non più di quanto i primi arrivi richiedano:</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modello</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi quadrato</translation>
+    </message>
+    <message>
+        <source>Of the times through the model as it is, suspect picks included: 1 is a fit as good as the picks are.</source>
+        <translation>Dei tempi attraverso il modello così com&apos;è, primi arrivi sospetti inclusi: 1 è un accordo buono quanto i primi arrivi.</translation>
+    </message>
+    <message>
+        <source>What it is</source>
+        <translation>Che cos&apos;è</translation>
+    </message>
+    <message>
+        <source>Distance from the shot (m)</source>
+        <translation>Distanza dal tiro (m)</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Tempo (ms)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks state an error of their own.</source>
+        <translation>Primi arrivi che indicano un errore proprio: %1 di %2.</translation>
+    </message>
+    <message>
+        <source>By these errors the present section has chi-square %1, with %2 suspect picks left out.</source>
+        <translation>Con questi errori la sezione attuale ha chi quadrato %1, esclusi %2 primi arrivi sospetti.</translation>
+    </message>
+    <message>
+        <source>The models are being made and traced...</source>
+        <translation>Si costruiscono i modelli e si tracciano i raggi...</translation>
+    </message>
+    <message>
+        <source>Not supported</source>
+        <translation>Non sostenuto dai primi arrivi</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Primi arrivi</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -1457,10 +1739,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
 </translation>
     </message>
     <message>
-        <source>Misfit of the section: RMS %1 ms (%2 %).</source>
-        <translation>Scarto della sezione: RMS %1 ms (%2 %).</translation>
-    </message>
-    <message>
         <source>Computing time: [s] %1
 </source>
         <translation>Tempo di calcolo: [s] %1
@@ -1489,6 +1767,58 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
 </source>
         <translation>Errore massimo: [ms] %1; [%] %2
 </translation>
+    </message>
+    <message>
+        <source>Chi-square: %1; of all picks %2; suspect picks %3
+</source>
+        <translation>Chi quadrato: %1; di tutti i primi arrivi %2; primi arrivi sospetti %3
+</translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %), chi-square %3 with the time shifts of shots.</source>
+        <translation>Scarto della sezione: RMS %1 ms (%2 %), chi quadrato %3 con le traslazioni temporali dei tiri.</translation>
+    </message>
+    <message>
+        <source>Misfit of the section: RMS %1 ms (%2 %), chi-square %3.</source>
+        <translation>Scarto della sezione: RMS %1 ms (%2 %), chi quadrato %3.</translation>
+    </message>
+    <message>
+        <source>From coarse to fine: iteration %1 of %2 is kept, smoothing parameter %3
+</source>
+        <translation>Dal grosso al fine: si conserva l&apos;iterazione %1 di %2, parametro di smussamento %3
+</translation>
+    </message>
+    <message>
+        <source>Iterations: %1
+</source>
+        <translation>Iterazioni: %1
+</translation>
+    </message>
+    <message>
+        <source>Weight of the roughness: %1
+</source>
+        <translation>Peso della rugosità: %1
+</translation>
+    </message>
+    <message>
+        <source>Started from and held to: %1
+</source>
+        <translation>Modello di partenza e di riferimento: %1
+</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots: [ms] %1
+</source>
+        <translation>Traslazioni temporali dei tiri: [ms] %1
+</translation>
+    </message>
+    <message>
+        <source>shot %1: %2</source>
+        <translation>tiro %1: %2</translation>
+    </message>
+    <message>
+        <source>Best of the picks&apos; models</source>
+        <translation>Il migliore dei modelli dai primi arrivi</translation>
     </message>
 </context>
 <context>
@@ -4799,6 +5129,166 @@ Impostare la posizione dei geofoni
         <source>Set error of pick</source>
         <translation>Imposta l&apos;errore del primo arrivo</translation>
     </message>
+    <message>
+        <source>How sure the section is could not be found out: %1</source>
+        <translation>Non è stato possibile stabilire quanto sia sicura la sezione: %1</translation>
+    </message>
+    <message>
+        <source>The models could not be made: %1</source>
+        <translation>Non è stato possibile costruire i modelli: %1</translation>
+    </message>
+    <message>
+        <source>Rename run</source>
+        <translation>Rinomina inversione</translation>
+    </message>
+    <message>
+        <source>Delete runs</source>
+        <translation>Elimina inversioni</translation>
+    </message>
+    <message>
+        <source>There is no resolution test to draw.</source>
+        <translation>Non c&apos;è una prova di risoluzione da disegnare.</translation>
+    </message>
+    <message>
+        <source>Difference of velocity</source>
+        <translation>Differenza di velocità</translation>
+    </message>
+    <message>
+        <source>its inversion runs but the last one are not known</source>
+        <translation>le sue inversioni, tranne l&apos;ultima, non sono note</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known</source>
+        <translation>non è noto quanto sia sicura la sezione</translation>
+    </message>
+    <message>
+        <source>it does not go with the section of the project, which another program may have changed</source>
+        <translation>non corrisponde alla sezione del progetto, che un altro programma potrebbe aver cambiato</translation>
+    </message>
+    <message>
+        <source>%1 rows of %2 columns do not go with %3 velocities</source>
+        <translation>%1 righe di %2 colonne non corrispondono a %3 velocità</translation>
+    </message>
+    <message>
+        <source>a velocity is none that ground can have</source>
+        <translation>una velocità non è possibile per un terreno</translation>
+    </message>
+    <message>
+        <source>its grid cannot be</source>
+        <translation>la sua griglia non è possibile</translation>
+    </message>
+    <message>
+        <source>its settings or figures cannot be</source>
+        <translation>le sue impostazioni o i suoi valori non sono possibili</translation>
+    </message>
+    <message>
+        <source>its number is 0 or that of another</source>
+        <translation>il suo numero è 0 o quello di un&apos;altra</translation>
+    </message>
+    <message>
+        <source>there are more than can be kept</source>
+        <translation>ce ne sono più di quante se ne possano conservare</translation>
+    </message>
+    <message>
+        <source>inversion run %1 is left out: %2</source>
+        <translation>l&apos;inversione %1 è stata tralasciata: %2</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>Inversione %1</translation>
+    </message>
+    <message>
+        <source>Certainty</source>
+        <translation>Affidabilità</translation>
+    </message>
+    <message>
+        <source>Use run</source>
+        <translation>Usa inversione</translation>
+    </message>
+    <message>
+        <source>Inversion runs</source>
+        <translation>Inversioni eseguite</translation>
+    </message>
+    <message>
+        <source>Take over time shifts</source>
+        <translation>Applica le traslazioni temporali</translation>
+    </message>
+    <message>
+        <source>None of the %1 members explains the picks to within their errors; how sure the section is stays unknown.</source>
+        <translation>Nessuno dei %1 membri spiega i primi arrivi entro i loro errori; quanto sia sicura la sezione resta ignoto.</translation>
+    </message>
+    <message>
+        <source>Default model</source>
+        <translation>Modello predefinito</translation>
+    </message>
+    <message>
+        <source>Present section</source>
+        <translation>Sezione attuale</translation>
+    </message>
+    <message>
+        <source>No model explains the picks to within their errors (chi-square up to %1), so that nothing can be said of how sure the section is. Their errors may be stated too small, or shots may be shifted in time.</source>
+        <translation>Nessun modello spiega i primi arrivi entro i loro errori (chi quadrato fino a %1), perciò non si può dire quanto sia sicura la sezione. I loro errori potrebbero essere indicati troppo piccoli, o alcuni tiri traslati nel tempo.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m/s</source>
+        <translation>da %1 a %2 m/s</translation>
+    </message>
+    <message>
+        <source>There is no reference model &quot;%1&quot;.</source>
+        <translation>Non c&apos;è un modello di riferimento &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The picks do not support the reference model. %1</source>
+        <translation>I primi arrivi non sostengono il modello di riferimento. %1</translation>
+    </message>
+    <message>
+        <source>The picks do not support the reference model &quot;%1&quot;.</source>
+        <translation>I primi arrivi non sostengono il modello di riferimento &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The resolution test failed: %1</source>
+        <translation>La prova di risoluzione non è riuscita: %1</translation>
+    </message>
+    <message>
+        <source>The size of the pattern must be positive; %1 m is not.</source>
+        <translation>La dimensione del motivo deve essere positiva; %1 m non lo è.</translation>
+    </message>
+    <message>
+        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
+        <translation>Il motivo ha %1 m, meno di una cella della griglia, che ha %2 m; sceglierne uno più grande.</translation>
+    </message>
+    <message>
+        <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
+        <translation>L&apos;intensità del motivo deve essere sopra 0 e sotto 100 %; %1 % non lo è.</translation>
+    </message>
+    <message>
+        <source>There are no picks to test the resolution with.</source>
+        <translation>Non ci sono primi arrivi con cui provare la risoluzione.</translation>
+    </message>
+    <message>
+        <source>The section to be disturbed has velocities that cannot be computed with.</source>
+        <translation>La sezione da perturbare ha velocità con cui non si può calcolare.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used: %2</source>
+        <translation>&quot;%1&quot; non si può usare: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be shown: %2</source>
+        <translation>&quot;%1&quot; non si può mostrare: %2</translation>
+    </message>
+    <message>
+        <source>There is no such run any more.</source>
+        <translation>Questa inversione non c&apos;è più.</translation>
+    </message>
+    <message>
+        <source>The surface or the ends of the line have changed since &quot;%1&quot;; its section can be compared with others, but is none of this line any more.</source>
+        <translation>La superficie o gli estremi della linea sono cambiati dopo &quot;%1&quot;; la sua sezione si può confrontare con altre, ma non è più di questa linea.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of velocity</source>
+        <translation>Incertezza della velocità</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -6522,6 +7012,62 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>Shot %1: %2.</source>
         <translation>Tiro %1: %2.</translation>
     </message>
+    <message>
+        <source>gradient read from the picks</source>
+        <translation>gradiente ricavato dai primi arrivi</translation>
+    </message>
+    <message>
+        <source>two layers read from the picks</source>
+        <translation>due strati ricavati dai primi arrivi</translation>
+    </message>
+    <message>
+        <source>three layers read from the picks</source>
+        <translation>tre strati ricavati dai primi arrivi</translation>
+    </message>
+    <message>
+        <source>gradient over a refractor, read from the picks</source>
+        <translation>gradiente sopra un rifrattore, ricavato dai primi arrivi</translation>
+    </message>
+    <message>
+        <source>default model</source>
+        <translation>modello predefinito</translation>
+    </message>
+    <message>
+        <source>velocities that the grid had</source>
+        <translation>velocità che la griglia aveva</translation>
+    </message>
+    <message>
+        <source>Started from and held to</source>
+        <translation>Modello di partenza e di riferimento</translation>
+    </message>
+    <message>
+        <source>%1, shrinking to a fifth</source>
+        <translation>%1, ridotto fino a un quinto</translation>
+    </message>
+    <message>
+        <source>%1, the best of %2 from coarse to fine</source>
+        <translation>%1, la migliore di %2 dal grosso al fine</translation>
+    </message>
+    <message>
+        <source>Uncertainty: half of the range from 16 to 84 % of %1 sections that explain the picks as well, in percent</source>
+        <translation>Incertezza: metà dell&apos;intervallo dal 16 all&apos;84 % di %1 sezioni che spiegano i primi arrivi altrettanto bene, in percento</translation>
+    </message>
+    <message>
+        <source>%1; of all picks %2; suspect picks %3</source>
+        <translation>%1; di tutti i primi arrivi %2; primi arrivi sospetti %3</translation>
+    </message>
+    <message>
+        <source>%1; with the time shifts of shots</source>
+        <translation>%1; con le traslazioni temporali dei tiri</translation>
+    </message>
+    <message>
+        <source>Misfit after every iteration, 0 being the starting model</source>
+        <translation>Scarto dopo ogni iterazione, 0 essendo il modello iniziale</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
+        <translation>Scarto quadratico medio della sezione dopo ogni iterazione, 0 essendo il modello iniziale</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -6638,6 +7184,160 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
 </context>
 <context>
+    <name>talvesk::RunTexts</name>
+    <message>
+        <source>Fitted to errors</source>
+        <translation>Adattata agli errori</translation>
+    </message>
+    <message>
+        <source>Smoothed</source>
+        <translation>Smussata</translation>
+    </message>
+    <message>
+        <source>%1 rows and %2 columns of %3 m</source>
+        <translation>%1 righe e %2 colonne di %3 m</translation>
+    </message>
+    <message>
+        <source>velocities from %1 to %2 m/s</source>
+        <translation>velocità da %1 a %2 m/s</translation>
+    </message>
+    <message>
+        <source>errors of %1 ms or %2 %</source>
+        <translation>errori di %1 ms o del %2 %</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robusta</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>a blocchi</translation>
+    </message>
+    <message>
+        <source>with shot statics</source>
+        <translation>con statiche dei tiri</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>primi arrivi sospetti: %1</translation>
+    </message>
+    <message>
+        <source>%1 solver iterations</source>
+        <translation>%1 iterazioni del risolutore</translation>
+    </message>
+    <message>
+        <source>smoothing parameter %1</source>
+        <translation>parametro di smussamento %1</translation>
+    </message>
+    <message>
+        <source>symmetric</source>
+        <translation>simmetrico</translation>
+    </message>
+    <message>
+        <source>stopped by the user</source>
+        <translation>interrotta dall&apos;utente</translation>
+    </message>
+    <message>
+        <source>picks have changed since</source>
+        <translation>primi arrivi cambiati in seguito</translation>
+    </message>
+    <message>
+        <source>the surface or the ends of the line have changed since</source>
+        <translation>superficie o estremi della linea cambiati in seguito</translation>
+    </message>
+    <message>
+        <source>positions have changed since</source>
+        <translation>posizioni cambiate in seguito</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RunsDialog</name>
+    <message>
+        <source>Inversion runs</source>
+        <translation>Inversioni eseguite</translation>
+    </message>
+    <message>
+        <source>Every inversion is kept here, at most 50 of them. The run in use is the section that the window shows; exports and reports are of it.</source>
+        <translation>Ogni inversione è conservata qui, al massimo 50. Quella in uso è la sezione che la finestra mostra; esportazioni e relazioni la riguardano.</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Inversione</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Metodo</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi quadrato</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [%]</source>
+        <translation>RMS [%]</translation>
+    </message>
+    <message>
+        <source>Iterations</source>
+        <translation>Iterazioni</translation>
+    </message>
+    <message>
+        <source>Time [s]</source>
+        <translation>Tempo [s]</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quando</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>No inversion has been run yet. Run one with Processing, Run tomography inversion.</source>
+        <translation>Non è ancora stata eseguita alcuna inversione. Eseguirne una con Elaborazione, Esegui l&apos;inversione tomografica.</translation>
+    </message>
+    <message>
+        <source>Make the section of the selected run the one that the window shows</source>
+        <translation>Fa dell&apos;inversione scelta la sezione che la finestra mostra</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <translation>&amp;Usa</translation>
+    </message>
+    <message>
+        <source>Show two runs side by side: the selected one beside another that is selected, else beside the one in use</source>
+        <translation>Mostra due inversioni affiancate: quella scelta accanto a un&apos;altra scelta, altrimenti accanto a quella in uso</translation>
+    </message>
+    <message>
+        <source>&amp;Compare ...</source>
+        <translation>&amp;Confronta ...</translation>
+    </message>
+    <message>
+        <source>Name the selected run; runs with a name are the last to go when the list is full</source>
+        <translation>Dà un nome all&apos;inversione scelta; quelle con un nome sono le ultime a uscire quando l&apos;elenco è pieno</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rinomina</translation>
+    </message>
+    <message>
+        <source>Take the selected runs out of the list; Undo brings them back</source>
+        <translation>Toglie dall&apos;elenco le inversioni scelte; &quot;Annulla modifica&quot; le ripristina</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>in uso</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ScreenshotDialog</name>
     <message>
         <source>Screenshot</source>
@@ -6666,6 +7366,97 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>%1: %2 x %3 pixels</source>
         <translation>%1: %2 x %3 pixel</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SecondLookDialog</name>
+    <message>
+        <source>Second look</source>
+        <translation>Da riguardare</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Ricevitore</translation>
+    </message>
+    <message>
+        <source>Pick [ms]</source>
+        <translation>Primo arrivo [ms]</translation>
+    </message>
+    <message>
+        <source>Off by [ms]</source>
+        <translation>Scarto [ms]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured: the pick is late where this is negative.</source>
+        <translation>Calcolato meno misurato: il primo arrivo è in ritardo dove è negativo.</translation>
+    </message>
+    <message>
+        <source>In errors</source>
+        <translation>In errori</translation>
+    </message>
+    <message>
+        <source>Off by how many of its errors</source>
+        <translation>Scarto in multipli del suo errore</translation>
+    </message>
+    <message>
+        <source>Late by [ms]</source>
+        <translation>In ritardo di [ms]</translation>
+    </message>
+    <message>
+        <source>Positive: the record begins too late, and its picks are late.</source>
+        <translation>Positivo: la registrazione comincia troppo tardi, e i suoi primi arrivi sono in ritardo.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
+        <translation>Trasla le registrazioni dei tiri spuntati con i loro primi arrivi, come &quot;Correggi la registrazione&quot;. Un solo passo da annullare.</translation>
+    </message>
+    <message>
+        <source>&amp;Take over as time shifts of the records</source>
+        <translation>&amp;Applica come traslazioni delle registrazioni</translation>
+    </message>
+    <message>
+        <source>no recording that could be shifted</source>
+        <translation>nessuna registrazione da traslare</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Non c&apos;è ancora una sezione di cui guardare i tempi.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>I primi arrivi sono cambiati dopo il calcolo della sezione: era adattata ad altri.</translation>
+    </message>
+    <message>
+        <source>No pick is off by more than five of its errors.</source>
+        <translation>Nessun primo arrivo è lontano più di cinque dei suoi errori.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than five of their errors; a click shows the trace:</source>
+        <translation>Primi arrivi lontani più di cinque dei loro errori; un clic mostra la traccia:</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found:</source>
+        <translation>Traslazioni temporali dei tiri trovate dall&apos;adattamento:</translation>
+    </message>
+    <message>
+        <source>%1 to %2 m, depth %3 to %4 m</source>
+        <translation>da %1 a %2 m, profondità da %3 a %4 m</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
+        <translation>Celle al limite di %1 m/s: %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
+        <translation>Celle mostrate che nessun raggio attraversa: %1 di %2 (%3)</translation>
+    </message>
+    <message>
+        <source>No velocity is at a limit, and rays cross all cells shown.</source>
+        <translation>Nessuna velocità è a un limite, e i raggi attraversano tutte le celle mostrate.</translation>
     </message>
 </context>
 <context>
@@ -8742,6 +9533,85 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Error %1 ms</source>
         <translation>Errore %1 ms</translation>
     </message>
+    <message>
+        <source>Second look ...</source>
+        <translation>Da riguardare ...</translation>
+    </message>
+    <message>
+        <source>List the picks that the section cannot explain, time shifts of shots, velocities at their limits and ground without rays</source>
+        <translation>Elenca i primi arrivi che la sezione non sa spiegare, le traslazioni temporali dei tiri, le velocità ai limiti e il terreno senza raggi</translation>
+    </message>
+    <message>
+        <source>Inversion runs ...</source>
+        <translation>Inversioni eseguite ...</translation>
+    </message>
+    <message>
+        <source>List the inversions that have been run, compare them, and use one of them as the section</source>
+        <translation>Elenca le inversioni eseguite, le confronta, e ne usa una come sezione</translation>
+    </message>
+    <message>
+        <source>Certainty ...</source>
+        <translation>Affidabilità ...</translation>
+    </message>
+    <message>
+        <source>Find out how sure the section is, by many sections that explain the picks as well</source>
+        <translation>Stabilisce quanto è sicura la sezione, con molte sezioni che spiegano i primi arrivi altrettanto bene</translation>
+    </message>
+    <message>
+        <source>Show Certainty Layer</source>
+        <translation>Mostra l&apos;affidabilità</translation>
+    </message>
+    <message>
+        <source>Colour the section by how far its velocities may be off</source>
+        <translation>Colora la sezione secondo quanto possono sbagliare le sue velocità</translation>
+    </message>
+    <message>
+        <source>Certainty: %1 members, %2 left out.</source>
+        <translation>Affidabilità: %1 membri, %2 esclusi.</translation>
+    </message>
+    <message>
+        <source>The list of inversion runs is full; &quot;%1&quot; has gone.</source>
+        <translation>L&apos;elenco delle inversioni è pieno; &quot;%1&quot; ne è uscita.</translation>
+    </message>
+    <message>
+        <source>Tracing the rays of the run anew ...</source>
+        <translation>Si tracciano di nuovo i raggi dell&apos;inversione ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used.</source>
+        <translation>&quot;%1&quot; non si può usare.</translation>
+    </message>
+    <message>
+        <source>The section is that of &quot;%1&quot;.</source>
+        <translation>La sezione è quella di &quot;%1&quot;.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n inversion run(s) deleted.</source>
+        <translation>
+            <numerusform>%n inversione eliminata.</numerusform>
+            <numerusform>%n inversioni eliminate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save picture of both runs</source>
+        <translation>Salva immagine delle due inversioni</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png);;SVG picture (*.svg);;PDF document (*.pdf)</source>
+        <translation>Immagine PNG (*.png);;Immagine SVG (*.svg);;Documento PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Time shifts taken over: %1 of %2. Invert again to see what they change.</source>
+        <translation>Traslazioni temporali applicate: %1 di %2. Invertire di nuovo per vedere che cosa cambiano.</translation>
+    </message>
+    <message>
+        <source>Some time shifts have not been taken over.</source>
+        <translation>Alcune traslazioni temporali non sono state applicate.</translation>
+    </message>
+    <message>
+        <source>Uncertainty %1 %</source>
+        <translation>Incertezza %1 %</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -9554,6 +10424,22 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <source>Stops when the iteration under way is completed.</source>
         <translation>Si ferma al termine dell&apos;iterazione in corso.</translation>
     </message>
+    <message>
+        <source>The models to start from are being traced.</source>
+        <translation>Si tracciano i raggi dei modelli di partenza.</translation>
+    </message>
+    <message>
+        <source>Ends by itself, after %1 iterations at the latest.</source>
+        <translation>Finisce da sé, al più tardi dopo %1 iterazioni.</translation>
+    </message>
+    <message>
+        <source>Iteration %1: chi-square %2, RMS %3 ms (%4 %)</source>
+        <translation>Iterazione %1: chi quadrato %2, RMS %3 ms (%4 %)</translation>
+    </message>
+    <message>
+        <source>Stops, with the best section so far.</source>
+        <translation>Si ferma, con la migliore sezione finora.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::runTomography_Dialog</name>
@@ -9664,6 +10550,46 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Each external iteration traces the rays anew through the model so far. More of them bend the rays closer to the truth and lower the misfit; the time grows with the number. When the misfit curve has levelled off, more change little. The 5 of the label is enough for a first look; the box itself starts at 10.</source>
         <translation>Ogni iterazione esterna traccia di nuovo i raggi attraverso il modello ottenuto finora. Con più iterazioni i raggi si avvicinano alla realtà e lo scarto diminuisce; il tempo cresce con il numero. Quando la curva dello scarto si è appiattita, altre cambiano poco. Il 5 dell&apos;etichetta basta per una prima occhiata; il campo parte da 10.</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Metodo</translation>
+    </message>
+    <message>
+        <source>Solver passes correct the velocities along traced rays and smooth them, as often as is said here. A fit to the picks&apos; errors chooses its own smoothing, ends by itself, and comes as close to the picks as their errors are and no closer.</source>
+        <translation>I passaggi del risolutore correggono le velocità lungo i raggi tracciati e le smussano, tante volte quante sono indicate qui. Un adattamento entro gli errori dei primi arrivi sceglie da sé lo smussamento, finisce da sé, e si avvicina ai primi arrivi quanto i loro errori e non di più.</translation>
+    </message>
+    <message>
+        <source>Solver passes and smoothing</source>
+        <translation>Passaggi del risolutore e smussamento</translation>
+    </message>
+    <message>
+        <source>Fit to the picks&apos; errors</source>
+        <translation>Adattamento entro gli errori dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>Lets the smoothing parameter shrink to a fifth over the external iterations, and keeps the iteration whose section fits the picks best along fresh rays, which need not be the last one.</source>
+        <translation>Riduce il parametro di smussamento fino a un quinto nel corso delle iterazioni esterne, e conserva l&apos;iterazione la cui sezione si accorda meglio con i primi arrivi lungo raggi nuovi, che non è necessariamente l&apos;ultima.</translation>
+    </message>
+    <message>
+        <source>From coarse to fine, keeping the best iteration</source>
+        <translation>Dal grosso al fine, conservando l&apos;iterazione migliore</translation>
+    </message>
+    <message>
+        <source>Sets the velocity limits and the smoothing parameter as the picks and the distance between geophones suggest them.</source>
+        <translation>Imposta i limiti di velocità e il parametro di smussamento come suggeriscono i primi arrivi e la distanza fra i geofoni.</translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation>Proponi</translation>
+    </message>
+    <message>
+        <source>Rays are expected down to %1 m; the grid reaches %2 m.</source>
+        <translation>I raggi dovrebbero scendere fino a %1 m; la griglia arriva a %2 m.</translation>
+    </message>
+    <message>
+        <source>The minimum velocity must be below the maximum.</source>
+        <translation>La velocità minima deve essere sotto la massima.</translation>
     </message>
 </context>
 <context>
