@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>talvesk::CertaintyDialog</name>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <translation>
+            <numerusform>Stopped with %n member; Start goes on from there.</numerusform>
+            <numerusform>Stopped with %n members; Start goes on from there.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::DialogSetGeometry</name>
     <message numerus="yes">
         <source>%1: %n geophone(s)</source>
@@ -234,6 +244,13 @@
 </context>
 <context>
     <name>talvesk::Talvesk_MainWindows</name>
+    <message numerus="yes">
+        <source>%n inversion run(s) deleted.</source>
+        <translation>
+            <numerusform>%n inversion run deleted.</numerusform>
+            <numerusform>%n inversion runs deleted.</numerusform>
+        </translation>
+    </message>
     <message numerus="yes">
         <source>%n shot file(s) loaded.</source>
         <translation>
