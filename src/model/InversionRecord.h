@@ -31,7 +31,8 @@ struct SectionMisfit {
 
 /// A time shift of a shot that a fit has found.
 struct FoundShift {
-  double late = 0.0;    ///< seconds that its record begins too late by, beyond what is mended; 0: none
+  double late =
+      0.0;  ///< seconds that its record begins too late by, beyond what is mended; 0: none
   double mended = 0.0;  ///< time shift that the record had been given by then, seconds
 };
 
@@ -45,8 +46,8 @@ struct FitRecord {
   double lambda = 0.0;  ///< weight of the roughness that the section was found with
   double chi2 = 0.0;    ///< of the section, suspects left out
   double chi2All = 0.0;
-  int suspects = 0;     ///< picks
-  bool target = false;  ///< whether chi-square has come to 1 as nearly as wanted
+  int suspects = 0;       ///< picks
+  bool target = false;    ///< whether chi-square has come to 1 as nearly as wanted
   std::string reference;  ///< key of the model that it was held to, see tomo/fitted/References.h
   std::vector<FoundShift> shifts;  ///< per record of the document; empty when none were asked for
 };
