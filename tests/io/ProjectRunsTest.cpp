@@ -29,6 +29,7 @@ class RunsOfAProject : public ProjectTest {
     putGrid(project.document, 12, 1.5);
     TomographyParameters parameters;
     parameters.externalIterations = 1;
+    parameters.coarseToFine = true;
     ASSERT_TRUE(runInversion(project.document, parameters, log).status.ok());
     const FittedSettings usual;
     ASSERT_TRUE(runFittedInversion(project.document, usual, log).run.status.ok());
@@ -62,6 +63,7 @@ TEST_F(RunsOfAProject, comeBackAsTheyWere) {
     EXPECT_EQ(is.misfit().rmse, was.misfit().rmse);
     EXPECT_EQ(is.record.computingSeconds, was.record.computingSeconds);
     EXPECT_EQ(is.record.fit.has_value(), was.record.fit.has_value());
+    EXPECT_EQ(is.record.coarseToFine, i == 0 ? 1 : 0);
     EXPECT_EQ(is.coorcount, was.coorcount);
     EXPECT_EQ(is.hitCounts, was.hitCounts);
     EXPECT_EQ(is.times, was.times);

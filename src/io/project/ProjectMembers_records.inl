@@ -290,6 +290,7 @@ void describe(V& fields, StoredRun& stored) {
   fields("computing_seconds", run.record.computingSeconds);
   fields("picks", run.record.picks);
   fields("section_history", run.record.sectionHistory);
+  fields.optional("coarse_to_fine", run.record.coarseToFine);
   fields("fit", stored.fits);
   fields("rms_percent", run.rmsPercent);
   fields("chi2", run.chi2);
