@@ -9566,8 +9566,8 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>Färbt den Schnitt danach, wie ungenau seine Geschwindigkeiten sein können</translation>
     </message>
     <message>
-        <source>Certainty: %1 members, %2 left out.</source>
-        <translation>Zuverlässigkeit: %1 Mitglieder, %2 weggelassen.</translation>
+        <source>Certainty: %1 members, %2 left out. The section shown lies beyond two deviations in %3 % of the cells with rays.</source>
+        <translation>Zuverlässigkeit: %1 Mitglieder, %2 weggelassen. Der gezeigte Schnitt liegt in %3 % der Zellen mit Strahlen außerhalb von zwei Abweichungen.</translation>
     </message>
     <message>
         <source>The list of inversion runs is full; &quot;%1&quot; has gone.</source>

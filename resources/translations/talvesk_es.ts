@@ -9566,8 +9566,8 @@ Do you want to run refraction processing anyway? </source>
         <translation>Colorea la sección según cuánto pueden desviarse sus velocidades</translation>
     </message>
     <message>
-        <source>Certainty: %1 members, %2 left out.</source>
-        <translation>Certeza: %1 miembros, %2 excluidos.</translation>
+        <source>Certainty: %1 members, %2 left out. The section shown lies beyond two deviations in %3 % of the cells with rays.</source>
+        <translation>Certeza: %1 miembros, %2 excluidos. La sección mostrada queda fuera de dos desviaciones en el %3 % de las celdas con rayos.</translation>
     </message>
     <message>
         <source>The list of inversion runs is full; &quot;%1&quot; has gone.</source>

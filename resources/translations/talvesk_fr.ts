@@ -9566,8 +9566,8 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>Colorer la coupe selon l&apos;erreur possible de ses vitesses</translation>
     </message>
     <message>
-        <source>Certainty: %1 members, %2 left out.</source>
-        <translation>Certitude&#xa0;: %1 membres, %2 écartés.</translation>
+        <source>Certainty: %1 members, %2 left out. The section shown lies beyond two deviations in %3 % of the cells with rays.</source>
+        <translation>Certitude&#xa0;: %1 membres, %2 écartés. La section affichée sort de deux écarts types dans %3&#xa0;% des cellules avec rayons.</translation>
     </message>
     <message>
         <source>The list of inversion runs is full; &quot;%1&quot; has gone.</source>

@@ -9566,8 +9566,8 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>Colora la sezione secondo quanto possono sbagliare le sue velocità</translation>
     </message>
     <message>
-        <source>Certainty: %1 members, %2 left out.</source>
-        <translation>Affidabilità: %1 membri, %2 esclusi.</translation>
+        <source>Certainty: %1 members, %2 left out. The section shown lies beyond two deviations in %3 % of the cells with rays.</source>
+        <translation>Affidabilità: %1 membri, %2 esclusi. La sezione mostrata è oltre due deviazioni nel %3 % delle celle con raggi.</translation>
     </message>
     <message>
         <source>The list of inversion runs is full; &quot;%1&quot; has gone.</source>

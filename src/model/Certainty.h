@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -41,6 +43,19 @@ struct Certainty {
   /// Half of what lies between 16 and 84 %, in percent of the median.
   double spread(std::size_t cell) const {
     return 50.0 * (velocities.high[cell] - velocities.low[cell]) / velocities.median[cell];
+  }
+  /// In what share of the cells with rays, percent, a section lies more than two deviations from
+  /// the median: much where it does not explain the picks. \param section m/s per cell
+  double percentBeyond(const std::vector<double>& section) const {
+    std::size_t cells = 0;
+    std::size_t beyond = 0;
+    for (std::size_t cell = 0; cell < touched.size(); ++cell) {
+      if (touched[cell] == 0) continue;
+      ++cells;
+      const double off = std::fabs(std::log(section[cell] / velocities.median[cell]));
+      if (off > 2.0 * deviations[cell]) ++beyond;
+    }
+    return cells == 0 ? 0.0 : 100.0 * static_cast<double>(beyond) / static_cast<double>(cells);
   }
 };
 

@@ -241,7 +241,14 @@ TEST_F(Inverting, keepsTheMembersOfACertaintyThatIsStopped) {
   });
   action("actionCertainty").trigger();
   ASSERT_TRUE(window->document().result->certainty);
-  EXPECT_LT(window->document().result->certainty->members, 1000);
+  const Certainty& found = *window->document().result->certainty;
+  EXPECT_LT(found.members, 1000);
+  EXPECT_EQ(found.percentBeyond(found.velocities.median), 0.0);
+  std::vector<double> tooFast = found.velocities.median;
+  for (double& velocity : tooFast) velocity *= 1e3;
+  EXPECT_EQ(found.percentBeyond(tooFast), 100.0);
+  const std::string told = child<QStatusBar>("statusBar").currentMessage().toStdString();
+  EXPECT_NE(told.find(" % of the cells with rays."), std::string::npos) << told;
 }
 
 TEST_F(Inverting, tellsBelowTheSectionHowItFitsThePicksAsTheyAre) {

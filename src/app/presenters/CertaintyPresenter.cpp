@@ -2,7 +2,10 @@
 
 #include "app/dialogs/CertaintyDialog.h"
 #include "io/Survey.h"
+#include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
+
+#include <QLocale>
 
 namespace talvesk {
 
@@ -20,7 +23,12 @@ void CertaintyPresenter::ask() {
     section.quantity = SectionQuantity::kCertainty;
     section.profile = true;
   });
-  mDesk.tell(tr("Certainty: %1 members, %2 left out.").arg(found.members).arg(found.leftOut));
+  const double beyond = found.percentBeyond(mDesk.document().model->grid->velocities());
+  mDesk.tell(tr("Certainty: %1 members, %2 left out. The section shown lies beyond two deviations "
+                "in %3 % of the cells with rays.")
+                 .arg(found.members)
+                 .arg(found.leftOut)
+                 .arg(QLocale().toString(beyond, 'f', 0)));
 }
 
 }  // namespace talvesk
