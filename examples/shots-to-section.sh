@@ -16,9 +16,9 @@ folder=$1
 shift
 mkdir -p "$folder"
 
-"$batch" pick "$@" --filter "${FILTER:-none}" \
-  -o "$folder/picks.otte" --json "$folder/picks.json" --image "$folder/shots.pdf"
-"$batch" invert "$folder/picks.otte" \
+"$batch" pick "$@" --filter "${FILTER:-none}" --method joint \
+  --sgt "$folder/picks.sgt" --json "$folder/picks.json" --image "$folder/shots.pdf"
+"$batch" invert "$folder/picks.sgt" --method fitted \
   --json "$folder/section.json" --image "$folder/section.png" --contours 8 > "$folder/log.txt"
 
 tail -n 4 "$folder/log.txt"

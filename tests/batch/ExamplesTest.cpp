@@ -30,8 +30,8 @@ TEST(Examples, shotsToSectionLeavesPicksAndPictures) {
   const Outcome outcome = runExample("shots-to-section.sh", arguments);
   ASSERT_EQ(outcome.code, 0) << outcome.err;
   EXPECT_THAT(outcome.out, HasSubstr("Picks: "));
-  EXPECT_THAT(outcome.out, HasSubstr("RMSE: [ms] "));
-  for (const char* name : {"picks.otte", "picks.json", "shots.pdf", "section.png"}) {
+  EXPECT_THAT(outcome.out, HasSubstr("Section: RMS [ms] "));
+  for (const char* name : {"picks.sgt", "picks.json", "shots.pdf", "section.png"}) {
     EXPECT_TRUE(folder.holds(std::string("results/") + name)) << name;
   }
 }
