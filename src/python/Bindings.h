@@ -8,6 +8,7 @@ namespace talvesk::python {
 void bindSurvey(pybind11::module_& module);
 void bindGrid(pybind11::module_& module);
 void bindInversion(pybind11::module_& module);
+void bindCertainty(pybind11::module_& module);
 void bindRays(pybind11::module_& module);
 void bindLayers(pybind11::module_& module);
 

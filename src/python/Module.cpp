@@ -16,6 +16,7 @@ PYBIND11_MODULE(_talvesk, module) {
   python::bindSurvey(module);
   python::bindGrid(module);
   python::bindInversion(module);
+  python::bindCertainty(module);
   python::bindRays(module);
   python::bindLayers(module);
 }

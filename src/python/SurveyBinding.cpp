@@ -1,4 +1,5 @@
 #include "io/Survey.h"
+#include "io/TravelTimeData.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyLine.h"
@@ -129,6 +130,37 @@ double sampleInterval(const Survey& survey, std::size_t shot) {
 double firstSample(const Survey& survey, std::size_t shot) {
   const Trace& first = tracesOf(survey, shot).front();
   return first.delay + static_cast<double>(first.droppedSamples) * first.sampleInterval;
+}
+
+std::vector<Point2D> placesOf(const GivenArray& points, const char* name) {
+  if (points.ndim() != 2 || points.shape(1) != 2) {
+    throw Error(std::string(name) + " must be an array (places, 2) of x and elevation");
+  }
+  std::vector<Point2D> places;
+  for (py::ssize_t i = 0; i < points.shape(0); ++i) {
+    const Point2D place = {points.at(i, 0), points.at(i, 1)};
+    if (!std::isfinite(place.x) || !std::isfinite(place.z)) {
+      throw Error(std::string(name) + " must be finite numbers");
+    }
+    places.push_back(place);
+  }
+  return places;
+}
+
+std::shared_ptr<Survey> layOut(const GivenArray& geophones, const GivenArray& shots) {
+  TravelTimeData data;
+  data.strings = {placesOf(geophones, "geophones")};
+  for (const Point2D& place : placesOf(shots, "shots")) {
+    TravelTime record;
+    record.shotPos2d = place;
+    record.traceSetID = static_cast<std::int32_t>(data.records.size());
+    record.ttMisurati = std::vector<double>(data.strings.front().size(), kUnpicked);
+    record.ttCalcolati = std::vector<double>(data.strings.front().size(), kNoTime);
+    data.records.push_back(std::move(record));
+  }
+  auto survey = std::make_shared<Survey>();
+  raiseUnless(importTravelTimes(std::move(data), survey->document));
+  return survey;
 }
 
 /// Where picks are times of traces, those before their first sample are none.
@@ -347,6 +379,10 @@ void bindSurvey(py::module_& module) {
             return py::module_::import("talvesk._tables").attr("picks_of")(self);
           },
           "All picks as a pandas table, a row per shot and channel.");
+  module.def(
+      "lay_out", layOut, py::arg("geophones"), py::arg("shots"),
+      "A survey without traces or picks: arrays (places, 2) of x and elevation. All geophones "
+      "record all shots; set_picks() gives them times.");
   module.def("read", read, py::arg("paths"), py::kw_only(), py::arg("reader") = "rules",
              py::arg("time_unit") = py::none(), py::arg("as_recorded") = false,
              "Reads shot files, one travel-time file, or one project.\n\n"

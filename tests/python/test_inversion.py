@@ -134,3 +134,31 @@ def test_layers_are_those_of_the_batch_program(line, picks):
         numpy.testing.assert_array_equal(mine["depth"], depth)
     with pytest.raises(talvesk.Error, match="per shot"):
         talvesk.refract(picks, marks=[[1]])
+
+
+def test_certainty_is_that_of_the_batch_program_whatever_the_threads(line, picks):
+    result = talvesk.invert(picks, talvesk.Grid(picks, cell=2.0, depth=16.0), "fitted")
+    seen = []
+    sure = talvesk.certainty(result, 3, seed=7, isovalues=[2000.0], progress=seen.append)
+    said = batch(
+        "invert", line / "demo.otte", "--method", "fitted", "--cell-size", 2, "--depth", 16,
+        "--certainty", 3, "--seed", 7, "--certainty-depths", 2000, "--json", "-",
+    )["certainty"]
+    alone = talvesk.certainty(result, 3, seed=7, isovalues=[2000.0], single_thread=True)
+    for one in (sure, alone):
+        assert one.median.ravel().tolist() == said["median"]
+        assert one.p84.ravel().tolist() == said["high"]
+    assert seen[-1]["completed"] == 3 and list(sure.isovalues) == [2000.0]
+    with pytest.raises(talvesk.Error, match="members must be"):
+        talvesk.certainty(result, 1)
+
+
+def test_a_layout_of_ones_own(picks):
+    line = numpy.column_stack([numpy.arange(12) * 2.0, numpy.zeros(12)])
+    survey = talvesk.lay_out(line, line[::5])
+    assert len(survey) == 3 and numpy.isnan(survey.times(0)).all()
+    with pytest.raises(talvesk.Error, match="not a single usable pick"):
+        talvesk.invert(survey)
+    for wrong in (line[:, 0], line * numpy.nan):
+        with pytest.raises(talvesk.Error, match="geophones must be"):
+            talvesk.lay_out(wrong, line)

@@ -14,13 +14,16 @@ raises talvesk.Error; what had to be repaired or left out is a UserWarning.
 """
 
 from ._talvesk import (
+    Certainty,
     Error,
     Grid,
     Layers,
     Result,
     Survey,
     __version__,
+    certainty,
     invert,
+    lay_out,
     read,
     refract,
     trace_rays,
@@ -28,13 +31,16 @@ from ._talvesk import (
 )
 
 __all__ = [
+    "Certainty",
     "Error",
     "Grid",
     "Layers",
     "Result",
     "Survey",
     "__version__",
+    "certainty",
     "invert",
+    "lay_out",
     "read",
     "refract",
     "trace_rays",
