@@ -265,6 +265,9 @@ void bindInversion(py::module_& module) {
   read(
       "chi2_all", [](const Result& r) { return r.chi2.all; }, "The same of all picks.");
   read(
+      "suspect_count", [](const Result& r) { return r.chi2.suspects.size(); },
+      "Picks off by more than five errors.");
+  read(
       "chi2_history",
       [](const Result& r) { return r.fit ? r.fit->fit.chi2History : std::vector<double>(); },
       "Of the start and after every iteration of a fit.");

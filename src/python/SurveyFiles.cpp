@@ -64,19 +64,6 @@ void levelShots(Survey& survey, std::vector<std::string>& warnings) {
                      " shots were put on the line of the geophones");
 }
 
-void countFromShot(Survey& survey, std::vector<std::string>& warnings) {
-  ShotTimeOutcome outcome;
-  raiseUnless(editSurvey(Edit::kShotTime, survey, [&](Survey& next) {
-    outcome = countTimeFromShot(next.document);
-    return Status();
-  }));
-  for (const Message& note : outcome.notes) warnings.push_back(note.english());
-  if (outcome.leftAsRecorded == 0) return;
-  warnings.push_back(std::to_string(outcome.leftAsRecorded) +
-                     " traces end before the shot, or their delay is no number of samples; their "
-                     "times count from the first sample");
-}
-
 Survey readShots(const std::vector<std::string>& paths, const Reading& reading,
                  std::vector<std::string>& warnings) {
   Survey survey;
@@ -91,6 +78,19 @@ Survey readShots(const std::vector<std::string>& paths, const Reading& reading,
 }
 
 }  // namespace
+
+void countFromShot(Survey& survey, std::vector<std::string>& warnings) {
+  ShotTimeOutcome outcome;
+  raiseUnless(editSurvey(Edit::kShotTime, survey, [&](Survey& next) {
+    outcome = countTimeFromShot(next.document);
+    return Status();
+  }));
+  for (const Message& note : outcome.notes) warnings.push_back(note.english());
+  if (outcome.leftAsRecorded == 0) return;
+  warnings.push_back(std::to_string(outcome.leftAsRecorded) +
+                     " traces end before the shot, or their delay is no number of samples; their "
+                     "times count from the first sample");
+}
 
 Survey readSurvey(const std::vector<std::string>& paths, const Reading& reading,
                   std::vector<std::string>& warnings) {

@@ -24,6 +24,9 @@ struct Reading {
 Survey readSurvey(const std::vector<std::string>& paths, const Reading& reading,
                   std::vector<std::string>& warnings);
 
+/// Sample 0 of every trace becomes that at the shot, where recording began before it.
+void countFromShot(Survey& survey, std::vector<std::string>& warnings);
+
 /// Saves a project (*.tvsk).
 void saveProject(const std::string& path, const Survey& survey, std::vector<std::string>& warnings);
 

@@ -5,11 +5,16 @@
 #include <cmath>
 #include <limits>
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace py = pybind11;
 
 namespace talvesk::python {
 namespace {
+
+/// Of the thread, while it collects.
+thread_local std::optional<std::vector<std::string>> collected;
 
 constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 
@@ -20,7 +25,19 @@ void raiseUnless(const Status& status) {
 }
 
 void warn(const std::string& text) {
+  if (collected) {
+    collected->push_back(text);
+    return;
+  }
   if (PyErr_WarnEx(PyExc_UserWarning, text.c_str(), 1) != 0) throw py::error_already_set();
+}
+
+void collectWarnings() {
+  collected.emplace();
+}
+
+std::vector<std::string> collectedWarnings() {
+  return std::exchange(collected, std::nullopt).value_or(std::vector<std::string>());
 }
 
 Array arrayOf(const std::vector<double>& values) {

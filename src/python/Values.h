@@ -20,6 +20,12 @@ namespace python {
 /// As a UserWarning; raises where the user has made warnings errors.
 void warn(const std::string& text);
 
+/// From now on warnings of this thread are kept instead: Python's own way to record them is for one
+/// thread at a time.
+void collectWarnings();
+/// Ends that, and hands out what was kept.
+std::vector<std::string> collectedWarnings();
+
 using Array = pybind11::array_t<double>;
 /// What a caller gives: converted when it is of another type or order.
 using GivenArray = pybind11::array_t<double, pybind11::array::c_style | pybind11::array::forcecast>;
