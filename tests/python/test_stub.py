@@ -1,6 +1,7 @@
 """The type hints name what there is, with the same parameters."""
 
 import ast
+import inspect
 import pathlib
 import re
 
@@ -18,6 +19,8 @@ def parameters(function):
 
 
 def documented(function):
+    if inspect.isfunction(function):
+        return set(inspect.signature(function).parameters)
     head = function.__doc__.split("\n")[0]
     return set(re.findall(r"(\w+): ", head[head.index("(") :])) - {"self"}
 

@@ -13,6 +13,7 @@ Lengths are metres, times seconds, velocities m/s. Shots and channels count from
 raises talvesk.Error; what had to be repaired or left out is a UserWarning.
 """
 
+from ._campaign import campaign
 from ._talvesk import (
     Certainty,
     Error,
@@ -38,6 +39,7 @@ __all__ = [
     "Result",
     "Survey",
     "__version__",
+    "campaign",
     "certainty",
     "invert",
     "lay_out",
