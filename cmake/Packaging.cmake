@@ -1,4 +1,6 @@
-# What an installed Talvesk consists of, and the Debian package that cpack makes of it.
+# What an installed Talvesk consists of, and the Debian packages that cpack makes of it: the programs,
+# and the package for Python.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME talvesk)
 set(docs ${CMAKE_INSTALL_DATADIR}/doc/talvesk)
 set(desktop ${PROJECT_SOURCE_DIR}/resources/desktop)
 install(TARGETS talvesk talvesk-batch RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
@@ -43,7 +45,21 @@ talvesk_install_compressed(${generated}/man/talvesk-batch.1 talvesk-batch.1
 install(FILES ${generated}/bash/talvesk-batch
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 
+if(TALVESK_PYTHON)
+  set(package lib/python3/dist-packages/talvesk)
+  set(python_docs ${CMAKE_INSTALL_DATADIR}/doc/python3-talvesk)
+  install(TARGETS talvesk_python LIBRARY DESTINATION ${package} COMPONENT python)
+  install(DIRECTORY src/python/talvesk/ DESTINATION ${package} COMPONENT python)
+  install(DIRECTORY examples/python/ DESTINATION ${python_docs}/examples COMPONENT python)
+  install(FILES docs/python.md DESTINATION ${python_docs} COMPONENT python)
+  install(FILES LICENSE DESTINATION ${python_docs} RENAME copyright COMPONENT python)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/packed/changelog.gz DESTINATION ${python_docs}
+          COMPONENT python)
+endif()
+
 set(CPACK_GENERATOR DEB)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_PACKAGE_NAME talvesk)
 set(CPACK_PACKAGE_VENDOR "The Talvesk developers")
 set(CPACK_PACKAGE_CONTACT "The Talvesk developers <developers@talvesk.example>")
@@ -58,9 +74,25 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://talvesk.example/)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Found at run time and not by the linker: tables of coordinate systems, Qt's own texts in other
 # languages, and a font for figures made without a display.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "proj-data, qttranslations5-l10n, fonts-dejavu-core")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libgl1-mesa-dri")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+set(CPACK_DEBIAN_TALVESK_PACKAGE_DEPENDS "proj-data, qttranslations5-l10n, fonts-dejavu-core")
+set(CPACK_DEBIAN_TALVESK_PACKAGE_RECOMMENDS "libgl1-mesa-dri")
+set(CPACK_DEBIAN_TALVESK_PACKAGE_NAME talvesk)
+if(TALVESK_PYTHON)
+  # A compiled module is for one minor version of Python.
+  find_package(Python3 REQUIRED COMPONENTS Interpreter)
+  math(EXPR next_minor "${Python3_VERSION_MINOR} + 1")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-talvesk)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+    "python3 (>= 3.${Python3_VERSION_MINOR}), python3 (<< 3.${next_minor}), python3-numpy, proj-data")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_RECOMMENDS "python3-pandas, python3-xarray, python3-matplotlib")
+  set(CPACK_DEBIAN_PYTHON_DESCRIPTION
+"Talvesk inverts first breaks of seismic refraction surveys into velocity
+sections of the ground. This package is its engine for Python 3: surveys,
+picks, grids and sections as NumPy arrays, with the same results as the
+programs of the package talvesk.")
+endif()
+set(CPACK_DEBIAN_TALVESK_DESCRIPTION
 "Talvesk turns a seismic refraction survey into a velocity section of the
 ground. It loads the records of the shots (SEG-2, SEG-Y, SU), picks the first
 breaks by hand or by itself, and inverts the travel times by tomography: rays

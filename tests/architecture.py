@@ -28,6 +28,7 @@ ALLOWED = {
     "widgets": ENGINE | ALGORITHMS | {"view", "io", "export", "session", "figures"},
     "app": ENGINE | ALGORITHMS | {"view", "io", "export", "session", "figures", "widgets"},
     "batch": ENGINE | ALGORITHMS | {"view", "io", "export", "session", "figures"},
+    "python": ENGINE | ALGORITHMS | {"view", "io", "export", "session"},
 }
 # Heavy libraries stay out of headers, and out of the rooms that never draw or archive.
 HEAVY_IN_HEADER = re.compile(r"^(vtk|qwt_|cereal/)")

@@ -12,11 +12,12 @@
 #include "io/project/projectReader.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
-#include "session/TableRules.h"
+#include "session/SureMends.h"
 
 #include <algorithm>
 #include <cmath>
 #include <ostream>
+#include <utility>
 #include <vector>
 
 namespace talvesk {
@@ -24,8 +25,6 @@ namespace {
 
 using doctor::Finding;
 using Findings = std::vector<Finding>;
-
-constexpr int kMostRounds = 6;  // geometry, then triggers, then traces, and what they uncover
 
 bool isProposed(const Finding& finding) {
   return finding.proposal.has_value();
@@ -56,36 +55,16 @@ Status load(const CheckOptions& options, LoadedProject& project) {
   return loadShotFiles(options.shots, project);
 }
 
-Status carryOut(const Finding& finding, Survey& survey) {
-  const bool geometry = doctor::changesGeometry(*finding.proposal);
-  std::vector<Message> notes;
-  Status status = editSurvey(geometry ? Edit::kGeometry : Edit::kMend, survey, [&](Survey& next) {
-    return doctor::carryOut(finding, *finding.proposal, next.document, &notes);
-  });
-  if (!status.ok()) return status;
-  for (const Message& note : notes) warn(note);
-  return status;
-}
-
 /// Carries out what is proposed and sure, and looks again, until nothing is. \return what is left
 Findings mend(Findings findings, const CheckOptions& options, std::ostream& out, Survey& survey) {
-  const auto isSure = [&](const Finding& finding) { return doctor::isSure(finding, options.sure); };
-  std::size_t done = 0;
-  for (int round = 0; round < kMostRounds; ++round) {
-    if (std::none_of(findings.begin(), findings.end(), isSure)) break;
-    for (const Finding& finding : findings) {
-      if (!isSure(finding)) continue;
-      const Status status = carryOut(finding, survey);
-      if (status.ok()) {
-        ++done;
-      } else {
-        warn("a proposal was not carried out: " + status.message());
-      }
-    }
-    findings = doctor::checkRecordings(survey.document);
-    out << "\nMended, and checked again:\n";
-    tell(findings, survey.document, out);
-  }
+  const SureMends mends =
+      mendWhatIsSure(std::move(findings), options.sure, survey, [&](const Findings& again) {
+        out << "\nMended, and checked again:\n";
+        tell(again, survey.document, out);
+      });
+  for (const Message& note : mends.notes) warn(note);
+  const std::size_t done = mends.done;
+  findings = mends.left;
   out << done << (done == 1 ? " proposal" : " proposals") << " carried out.\n";
   const auto left = std::count_if(findings.begin(), findings.end(), isProposed);
   if (left > 0) {
