@@ -3,6 +3,8 @@ import os
 import pathlib
 import shutil
 import signal
+import subprocess
+import sys
 
 import pytest
 from conftest import batch
@@ -105,3 +107,21 @@ def refuse(text):
 def test_what_a_task_raises_is_raised(client):
     with pytest.raises(ValueError, match="no good"):
         list(_cluster.each(client, refuse, {1: ("no good",)}))
+
+
+def test_the_example_of_machines_runs_on_this_one(lines, tmp_path):
+    if shutil.which("dask-scheduler") is None:
+        pytest.skip("no Dask")
+    examples = pathlib.Path(__file__).parents[2] / "examples" / "cluster"
+    recipe = tmp_path / "recipe.toml"
+    recipe.write_text("[grid]\ncell = 2.0\ndepth = 16.0\n[invert]\niterations = 2\n")
+    done = subprocess.run(
+        ["sh", examples / "machines.sh", lines, recipe, tmp_path / "out", "localhost"],
+        capture_output=True,
+        text=True,
+        timeout=240,
+        env={**os.environ, "PYTHON": sys.executable},
+    )
+    assert done.returncode == 1, done.stderr  # two lines are bad
+    assert "2 of 4 lines inverted" in done.stdout
+    assert "torn failed" in done.stderr and (tmp_path / "out" / "south.otte.tvsk").exists()

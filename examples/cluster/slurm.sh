@@ -1,0 +1,29 @@
+#!/bin/sh
+#SBATCH --job-name=talvesk
+#SBATCH --ntasks=16
+#SBATCH --cpus-per-task=1
+#SBATCH --mem-per-cpu=1G
+#SBATCH --time=02:00:00
+#
+# A campaign on a Slurm cluster: one worker of Dask per task, each inverting a line at a time on one core.
+#
+#   sbatch slurm.sh FOLDER RECIPE.toml OUT
+#
+# Folders must be on a file system that all nodes share. A node that dies costs the lines that its
+# workers had in hand, which others take over.
+set -eu
+
+here=$(dirname "$(readlink -f "$0")")
+[ -z "${SLURM_JOB_ID:-}" ] || here=${SLURM_SUBMIT_DIR:-$here}
+meet=$(mktemp -u "$PWD/scheduler-XXXXXX.json")
+
+dask-scheduler --scheduler-file "$meet" --no-dashboard &
+scheduler=$!
+trap 'kill $scheduler 2> /dev/null; rm -f "$meet"' EXIT
+while [ ! -s "$meet" ]; do
+  kill -0 $scheduler
+  sleep 0.2
+done
+
+srun dask-worker --scheduler-file "$meet" --nthreads 1 --no-dashboard --death-timeout 60 &
+${PYTHON:-python3} "$here/campaign.py" "$meet" "$1" "$2" "$3"
