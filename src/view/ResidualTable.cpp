@@ -239,8 +239,11 @@ std::vector<ResidualSpread> spreadOverOffset(const ResidualTable& table, Residua
   for (std::size_t first = 0; first + width <= order.size(); first += step) {
     const auto from = order.begin() + static_cast<std::ptrdiff_t>(first);
     const Picks window(from, from + static_cast<std::ptrdiff_t>(width));
+    const double at = table.picks[window[width / 2]].offset;
+    // Many picks may have one offset, which gets one value only.
+    if (!spreads.empty() && at <= spreads.back().at) continue;
     spreads.push_back(spreadOf(table, window, unit));
-    spreads.back().at = table.picks[window[width / 2]].offset;
+    spreads.back().at = at;
   }
   return spreads;
 }

@@ -7,13 +7,17 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <cmath>
 #include <utility>
+
+#include <qwt_plot.h>
 
 namespace talvesk {
 namespace {
 
 constexpr double kReach = 9.0;  // pixels around a point
 constexpr double kRing = 6.0;   // radius, pixels
+constexpr double kMostNumbers = 12.0;
 
 }  // namespace
 
@@ -65,6 +69,14 @@ std::optional<std::size_t> PointPlot::pointAt(const QPointF& at) const {
   return nearest;
 }
 
+void PointPlot::scaleAxes() {
+  PlotPage::scaleAxes();
+  if (!mWholeNumbers) return;
+  plot().setAxisMaxMinor(QwtPlot::xBottom, 0);
+  plot().setAxisScale(QwtPlot::xBottom, window().left, window().right,
+                      std::ceil(window().width() / kMostNumbers));
+}
+
 PlotTool* PointPlot::toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys,
                              const QPointF& /*at*/) {
   return button == Qt::LeftButton && keys == Qt::NoModifier ? mTool.get() : nullptr;
@@ -90,7 +102,7 @@ bool PointPlot::keyPressed(const QKeyEvent& event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (mCurrent) emit pointChosen(*mCurrent);
-      return mCurrent.has_value();
+      return true;  // else a button of the dialog takes it
     default:
       return false;
   }

@@ -26,6 +26,8 @@ class PointPlot : public SeriesPlot {
   void setTexts(std::function<QString(std::size_t point)> textOf) { mTextOf = std::move(textOf); }
   using PlotPage::setTexts;
 
+  void setWholeNumbers() { mWholeNumbers = true; }  ///< along the lower axis
+
   std::optional<std::size_t> current() const { return mCurrent; }
   void setCurrent(std::optional<std::size_t> point);  ///< tells nobody
 
@@ -34,6 +36,7 @@ class PointPlot : public SeriesPlot {
   void pointChosen(std::size_t point);
 
  protected:
+  void scaleAxes() override;
   PlotTool* toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys, const QPointF& at) override;
   bool keyPressed(const QKeyEvent& event) override;
   void hovered(const std::optional<QPointF>& at) override;
@@ -48,6 +51,7 @@ class PointPlot : public SeriesPlot {
   std::vector<std::size_t> mOrder;  ///< of the finite ones, from left to right
   std::function<QString(std::size_t)> mTextOf;
   std::optional<std::size_t> mCurrent;
+  bool mWholeNumbers = false;
   std::unique_ptr<BandTool> mTool;
 };
 

@@ -55,6 +55,7 @@ ResidualsDialog::ResidualsDialog(QWidget* parent)
     return spreadText(tr("Geophone at %1 m").arg(QLocale().toString(mGeophones[i].at, 'f', 1)),
                       mGeophones[i]);
   });
+  mUi->shotsPlot->setWholeNumbers();
   connectAll();
   showSurvey({}, {});
 }
@@ -180,8 +181,11 @@ void ResidualsDialog::showViews() {
 void ResidualsDialog::showGroups(const ResidualLook& look) {
   mShots = spreadOfShots(mTable, look.unit);
   mGeophones = spreadOfGeophones(mTable, look.unit);
-  mUi->shotsPlot->PlotPage::setTexts({}, tr("Shot"), residualAxis(look.unit));
-  mUi->geophonesPlot->PlotPage::setTexts({}, tr("Geophone at [m]"), residualAxis(look.unit));
+  // These are too low for more.
+  const QString unit =
+      look.unit == ResidualUnit::kErrors ? tr("Median [pick errors]") : tr("Median [ms]");
+  mUi->shotsPlot->PlotPage::setTexts({}, tr("Shot"), unit);
+  mUi->geophonesPlot->PlotPage::setTexts({}, tr("Geophone at [m]"), unit);
   for (const bool shots : {true, false}) {
     PointPlot& plot = shots ? *mUi->shotsPlot : *mUi->geophonesPlot;
     const std::vector<ResidualSpread>& spreads = shots ? mShots : mGeophones;
