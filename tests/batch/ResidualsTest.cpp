@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -13,7 +12,6 @@ namespace talvesk::batchtest {
 namespace {
 
 using nlohmann::ordered_json;
-using ::testing::HasSubstr;
 
 std::vector<std::string> fieldsOf(const std::string& line) {
   std::vector<std::string> fields;
@@ -63,17 +61,6 @@ TEST(ResidualTables, areThoseOfTheMisfitThatIsToldWhateverTheMethod) {
     ASSERT_EQ(again.code, 0) << again.err;
     EXPECT_EQ(contentsOf(folder / "again.csv"), table) << method;
   }
-}
-
-TEST(ResidualTables, needASection) {
-  const Folder folder;
-  const std::string project = folder / "line.tvsk";
-  const Outcome made =
-      runBatch({"refract", folder.write("line.otte", smallLine()), "--project", project});
-  ASSERT_EQ(made.code, 0) << made.err;
-  const Outcome outcome = runBatch({"export", project, "--residuals", folder / "r.csv"});
-  EXPECT_EQ(outcome.code, 1);
-  EXPECT_THAT(outcome.err, HasSubstr("there is no section whose times could be compared"));
 }
 
 }  // namespace

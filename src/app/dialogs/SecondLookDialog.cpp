@@ -150,6 +150,9 @@ void SecondLookDialog::fillCells() {
   addCells(mLook.withoutRays, tr("Cells shown that no ray crosses: %1 of %2")
                                   .arg(mLook.withoutRays.cells)
                                   .arg(mLook.drawn));
+  // No higher than its lines; the room is the tables'.
+  mUi->cellsList->setMaximumHeight((mUi->cellsList->count() + 1) *
+                                   std::max(mUi->cellsList->sizeHintForRow(0), 1));
 }
 
 void SecondLookDialog::addCells(const CellPatch& patch, const QString& text) {
