@@ -28,6 +28,7 @@ constexpr Page kPages[] = {
     {"gridDialog", "inversion.html"},
     {"select_speed_Dialog", "inversion.html"},
     {"runTomography_Dialog", "inversion.html"},
+    {"ResidualsDialog", "fit.html"},
     {"SecondLookDialog", "fit.html"},
     {"progressTomographyDialog", "inversion.html"},
     {"smoothingDialog", "inversion.html"},

@@ -7,6 +7,7 @@
 #include "batch/Reports.h"
 #include "batch/RunList.h"
 #include "export/ExportFailure.h"
+#include "export/ResidualText.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
@@ -27,14 +28,12 @@ namespace talvesk {
 namespace {
 
 std::vector<OutputFile> outputsOf(const ExportOptions& options) {
-  std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
-                                     {"--otte", options.otte},
-                                     {"--sgt", options.sgt},
-                                     {"--vtk", options.vtk},
-                                     {"--grd", options.surfer},
-                                     {"--kml-line", options.kmlLine},
-                                     {"--kml-section", options.kmlSection},
-                                     {"--report", options.report}};
+  std::vector<OutputFile> outputs = {
+      {"--gridded", options.gridded},  {"--otte", options.otte},
+      {"--sgt", options.sgt},          {"--residuals", options.residuals},
+      {"--vtk", options.vtk},          {"--grd", options.surfer},
+      {"--kml-line", options.kmlLine}, {"--kml-section", options.kmlSection},
+      {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   return outputs;
 }
@@ -77,6 +76,8 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
   });
   attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
   attempt(options.sgt, [&](const auto& path) { return writePicksWithErrors(path, document); });
+  attempt(options.residuals,
+          [&](const auto& path) { return writeResiduals(path, residualTableOf(document)); });
   attempt(options.vtk, [&](const auto& path) { return writeVtkGrid(path, document); });
   attempt(options.surfer, [&](const auto& path) { return writeSurferGrid(path, document); });
   attempt(options.kmlLine, [&](const auto& path) {
@@ -100,10 +101,11 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
   return attempt.exitCode();
 }
 
-/// Makes ready what figures need: rays are not in a project.
+/// Makes ready what figures and residuals need: rays are not in a project.
 Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
-  if (options.images.empty() && options.report.empty()) return {};
-  prepareDrawing();
+  const bool draws = !options.images.empty() || !options.report.empty();
+  if (!draws && options.residuals.empty()) return {};
+  if (draws) prepareDrawing();
   Log log;
   if (!document.result->has_tomographic_info) return {};
   const Status status = recomputeRays(document, log);

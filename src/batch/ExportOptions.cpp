@@ -66,6 +66,7 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
          "Velocities on a regular raster as a Surfer ASCII grid, named *.grd");
   output("--otte", options.otte, ".otte", "The picks as a travel-time exchange file");
   output("--sgt", options.sgt, ".sgt", kUnifiedHelp);
+  addPath(app, "--residuals", options.residuals, kResidualsHelp)->group(kOutputGroup);
   CLI::Option* line = output("--kml-line", options.kmlLine, ".kml",
                              "Geophones and shots as marks on the globe, named *.kml");
   CLI::Option* section = output("--kml-section", options.kmlSection, ".kml",

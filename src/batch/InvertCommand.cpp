@@ -13,6 +13,7 @@
 #include "batch/RunList.h"
 #include "batch/ShotPicking.h"
 #include "export/GriddedText.h"
+#include "export/ResidualText.h"
 #include "grid/GridBuilder.h"
 #include "io/project/projectReader.h"
 #include "model/GroundModel.h"
@@ -208,6 +209,8 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
     return writeGriddedText(path, document, {options.lineY, options.zOffset});
   });
   attempt(options.otte, [&](const auto& path) { return writePicks(path, document); });
+  attempt(options.residuals,
+          [&](const auto& path) { return writeResiduals(path, residualTableOf(document)); });
   attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) {
@@ -226,10 +229,13 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
 }  // namespace
 
 int run(const InvertOptions& options) {
-  std::vector<OutputFile> outputs = {
-      {"--gridded", options.gridded}, {"--otte", options.otte},
-      {"--json", options.json},       {"--project", options.project},
-      {"--report", options.report},   {"--resolution-image", options.resolutionImage}};
+  std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
+                                     {"--otte", options.otte},
+                                     {"--residuals", options.residuals},
+                                     {"--json", options.json},
+                                     {"--project", options.project},
+                                     {"--report", options.report},
+                                     {"--resolution-image", options.resolutionImage}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   const Channels channels = openChannels(outputs, options.quiet, options.verbose);
   const Status places = checkOutputFiles(outputs, inputsOf(options));

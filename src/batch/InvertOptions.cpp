@@ -316,6 +316,7 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
   rays->needs(image);
   CLI::Option* otte =
       addPath(app, "--otte", options.otte, "Write the picks as a travel-time exchange file");
+  CLI::Option* residuals = addPath(app, "--residuals", options.residuals, kResidualsHelp);
   CLI::Option* json = addPath(app, "--json", options.json,
                               "Write the results as JSON; '-' is standard output, and then all "
                               "diagnostics go to standard error");
@@ -324,7 +325,7 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
               "Save the survey with its picks, traces and section as a project named *.tvsk"),
       {".tvsk"}, false);
   for (CLI::Option* option :
-       {gridded, lineY, zOffset, image, rays, contours, otte, json, project}) {
+       {gridded, lineY, zOffset, image, rays, contours, otte, residuals, json, project}) {
     option->group("Output");
   }
 }

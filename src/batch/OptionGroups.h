@@ -16,6 +16,9 @@ inline constexpr const char* kExitCodes = "Exit code: 0 done, 1 failed, 2 wrong 
 
 inline constexpr const char* kUnifiedHelp =
     "The picks with their errors in the unified data format, named *.sgt";
+inline constexpr const char* kResidualsHelp =
+    "Write what the section leaves of every pick as a table (CSV): measured and computed times, "
+    "residuals, errors, suspects";
 inline constexpr const char* kQuietHelp =
     "Print nothing but errors and what was left out, repaired or taken as 0 while reading";
 

@@ -134,6 +134,7 @@ struct InvertOptions {
   int contours = 0;  ///< number of contour lines
   std::string report;
   ReportFields reportFields;
+  std::string residuals;  ///< table
   std::string otte;
   std::string json;
   bool quiet = false;
@@ -164,6 +165,7 @@ struct ExportOptions {
   GriddedTextOptions griddedText;
   std::string otte;
   std::string sgt;
+  std::string residuals;  ///< table
   std::string vtk;
   std::string surfer;
   std::string kmlLine;
@@ -178,7 +180,8 @@ struct ExportOptions {
 
   bool anyOutput() const {
     return !images.empty() ||
-           !(gridded + otte + sgt + vtk + surfer + kmlLine + kmlSection + report).empty();
+           !(gridded + otte + sgt + residuals + vtk + surfer + kmlLine + kmlSection + report)
+                .empty();
   }
 };
 

@@ -3,11 +3,13 @@
 #include "figures/FigureOutput.h"
 #include "figures/GatherFigure.h"
 #include "figures/RefractionFigure.h"
+#include "figures/ResidualFigures.h"
 #include "figures/TravelTimeFigure.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
+#include "view/RayLines.h"
 
 #include <algorithm>
 #include <utility>
@@ -92,6 +94,23 @@ class Planner {
         });
   }
 
+  void addResiduals() {
+    const ResidualTable table = residualTableOf(mDocument);
+    if (table.picks.empty()) return;
+    SectionFigureOptions sheet =
+        sectionFigureOptions(mOptions.view, mOptions.palette, mOptions.refractors);
+    sheet.widthMm = mOptions.widthMm;
+    sheet.heightMm = mOptions.heightMm;
+    sheet.dpi = mOptions.dpi;
+    const auto write = [&](ResidualView view) {
+      return [&document = mDocument, table, view, sheet](const std::string& path) {
+        return writeResidualFigure(document, table, view, {}, sheet, path);
+      };
+    };
+    add("residuals", write(ResidualView::kMap));
+    if (!rayOwners(mDocument).empty()) add("residuals_section", write(ResidualView::kSection));
+  }
+
   void addRefraction(const refractionDataStructure::processingData& results) {
     RefractionFigureOptions figure;
     setSize(figure);
@@ -140,6 +159,7 @@ std::vector<PlannedImage> planImages(const TomoDocument& document,
       if (options.smooth) planner.addSection(quantity, true);
     }
   }
+  if (options.residuals) planner.addResiduals();
   if (options.refraction && interpretation != nullptr) {
     planner.addRefraction(interpretation->refractData);
   }

@@ -27,6 +27,7 @@ struct ImageSetOptions {
   bool cells = true;                        ///< as cells, or in bands where contours are filled
   bool smooth = false;                      ///< blended, in pictures of their own
   bool refraction = false;
+  bool residuals = false;  ///< of the section: shot by geophone, and along the rays
 
   FigureFormat format = FigureFormat::kPng;
   double widthMm = 280.0;

@@ -5,7 +5,6 @@
 
 namespace talvesk {
 
-class TomoDocument;
 struct InversionRecord;
 
 /// RMS misfit in milliseconds through the starting model and through the section after every
@@ -13,9 +12,5 @@ struct InversionRecord;
 /// draw.
 Status prepareMisfitHistoryFigure(const InversionRecord& record, double widthMm, double heightMm,
                                   FigureDrawing& drawing);
-
-/// Residuals in milliseconds against offset. Fails without any.
-Status prepareResidualFigure(const TomoDocument& document, double widthMm, double heightMm,
-                             FigureDrawing& drawing);
 
 }  // namespace talvesk

@@ -11,38 +11,36 @@
 #include <utility>
 
 namespace talvesk {
-namespace {
 
-/// Per ray, whether its receiver has a pick: rays follow each other shot by shot, receivers in
-/// order, without the shots that were left out as a whole.
-std::vector<bool> picked(const TomoDocument& document) {
+std::vector<RayOwner> rayOwners(const TomoDocument& document) {
   std::vector<bool> traced(document.ttArray.size(), true);
   for (const ExcludedPosition& position : document.result->excluded) {
     const auto shot = static_cast<std::size_t>(position.shot);
     if (position.receiver < 0 && shot < traced.size()) traced[shot] = false;
   }
-  std::vector<bool> found;
+  std::vector<RayOwner> owners;
   for (std::size_t shot = 0; shot < document.ttArray.size(); ++shot) {
     const TravelTime& record = document.ttArray[shot];
     const auto string = static_cast<std::size_t>(record.indexStesa);
     if (!traced[shot] || string >= document.line->goephonesStringSet.size()) continue;
     const std::size_t receivers =
         std::min(document.line->goephonesStringSet[string].size(), record.ttMisurati.size());
-    for (std::size_t i = 0; i < receivers; ++i) found.push_back(hasPick(record.ttMisurati[i]));
+    for (std::size_t i = 0; i < receivers; ++i) owners.push_back({shot, i});
   }
-  return found;
+  if (owners.size() != document.result->rays.size()) owners.clear();
+  return owners;
 }
-
-}  // namespace
 
 std::vector<std::vector<Point2D>> rayLines(const TomoDocument& document) {
   const GridGeometry& geometry = document.model->grid->geometry();
-  const std::vector<bool> withPick = picked(document);
-  const bool known = withPick.size() == document.result->rays.size();
+  const std::vector<RayOwner> owners = rayOwners(document);
   std::vector<std::vector<Point2D>> lines;
   lines.reserve(document.result->rays.size());
   for (std::size_t i = 0; i < document.result->rays.size(); ++i) {
-    if (known && !withPick[i]) continue;
+    if (!owners.empty() &&
+        !hasPick(document.ttArray[owners[i].record].ttMisurati[owners[i].receiver])) {
+      continue;
+    }
     std::vector<Point2D> line;
     line.reserve(document.result->rays[i].size());
     for (const std::uint32_t node : document.result->rays[i]) {

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "doctor/ReciprocityTable.h"
+#include "widgets/MatrixView.h"
 
-#include <QColor>
-#include <QRectF>
-#include <QWidget>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -15,9 +13,7 @@ namespace talvesk {
 /// The differences of times there and back as a picture: a row and a column for each shot in the
 /// order of the line, in each cell by how much the time from the shot of its row to that of its
 /// column is longer than the way back. A shot that is late is a row of one colour.
-///
-/// The arrow keys, Home and End walk over the cells; Return or a click chooses one.
-class ReciprocityMatrix : public QWidget {
+class ReciprocityMatrix : public MatrixView {
   Q_OBJECT
 
  public:
@@ -33,46 +29,28 @@ class ReciprocityMatrix : public QWidget {
 
     bool operator==(const Cell& other) const { return from == other.from && to == other.to; }
   };
-  std::optional<Cell> current() const { return mCurrent; }
+  std::optional<Cell> current() const;
   void setCurrent(const Cell& cell);  ///< tells nobody
 
   /// Seconds, there less back; none where the shots have no pair.
   std::optional<double> difference(const Cell& cell) const;
-  double limit() const { return mLimit; }  ///< seconds, from which on the colour is full
-  QRectF rectOf(const Cell& cell) const;   ///< on the widget; null for a shot without pairs
-  std::optional<Cell> cellAt(const QPointF& point) const;
-
-  QSize sizeHint() const override { return {420, 380}; }
-  QSize minimumSizeHint() const override { return {180, 160}; }
+  QRectF rectOf(const Cell& cell) const;  ///< on the widget; null for a shot without pairs
 
  signals:
-  void currentChanged();                          ///< by the user
   void chosen(std::size_t from, std::size_t to);  ///< a cell that has a difference
 
- protected:
-  bool event(QEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-
  private:
-  QRectF grid() const;
-  QColor colorOf(double seconds) const;
+  void arrange();
+  MatrixPicture pictureOfTable() const;
   QString describe(const Cell& cell) const;
-  QString legendText(double share) const;
   const doctor::ReciprocalTimes* pairOf(const Cell& cell) const;
-  void walk(std::ptrdiff_t down, std::ptrdiff_t right);
-  void moveTo(const Cell& cell);
-  void paintCells(QPainter& painter, const QRectF& area) const;
-  void paintNumbers(QPainter& painter, const QRectF& area) const;
-  void paintLegend(QPainter& painter, const QRectF& area) const;
+  Cell cellOf(const Place& place) const { return {mOrder[place.row], mOrder[place.column]}; }
+  std::optional<Place> placeOf(const Cell& cell) const;
 
   doctor::ReciprocityTable mTable;
   std::vector<std::size_t> mOrder;    ///< shots with pairs, along the line
   std::vector<std::size_t> mRank;     ///< of each shot in it; mOrder.size() without pairs
-  std::vector<std::uint32_t> mPairs;  ///< by rank and rank: the number of the pair from 1, or 0
-  std::optional<Cell> mCurrent;
-  double mLimit = 1e-3;
+  std::vector<std::uint32_t> mPairs;  ///< by ranks: index of the pair, from 1; 0 is none
 };
 
 }  // namespace talvesk

@@ -140,6 +140,15 @@ TEST(Export, writesTheOthersWhenOneFails) {
 }
 
 /// The strings of picks are told apart by the shots that they recorded.
+TEST(Export, hasResidualsOfASectionOnly) {
+  const Folder folder;
+  const Outcome outcome =
+      runBatch({"export", writeProject(folder), "--residuals", folder / "r.csv"});
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("there is no section whose times could be compared"));
+  EXPECT_EQ(folder.fileCount(), 1U);
+}
+
 TEST(Export, tellsOfStringsThatAnExchangeFileCannotHoldEvenWhenQuiet) {
   const Folder folder;
   const std::string project = writeProject(folder, true, {1, 4});

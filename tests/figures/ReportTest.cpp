@@ -172,7 +172,7 @@ TEST(Report, tellsOfWhatTheSurveyHas) {
       {{placed, &interpretation},
        {"1  Survey", "2  Position", "3  Travel times", "4  Grid and inversion",
         "5  Velocity section", "6  Misfit", "7  Refraction interpretation", "8  Method"},
-       6,
+       7,
        "Coordinate reference system: EPSG:32632, WGS 84 / UTM zone 32N."},
   };
   for (const auto& fact : facts) {
@@ -213,7 +213,8 @@ TEST(Report, leavesOutWhatIsNotWanted) {
   EXPECT_THAT(textsOf(content, Kind::kFigure),
               ElementsAre("Figure 1. Velocity section",
                           "Figure 2. Residuals of the picks against the distance from their shot",
-                          HasSubstr("Figure 3. RMS misfit of the section after every")));
+                          "Figure 3. Residuals of the picks, shot by geophone",
+                          HasSubstr("Figure 4. RMS misfit of the section after every")));
 }
 
 TEST(Report, refusesASurveyOfNothing) {
@@ -437,7 +438,7 @@ TEST(Report, writesOdtThatHoldsItsTextsTablesAndPictures) {
   const std::string text = textOfXml(content);
   for (const char* part :
        {"Line <3> & \xE2\x82\xAC", "Ünal", "First.", "Second.", "Survey", "Table 1. The line",
-        "Figure 5. RMS misfit of the section after every"}) {
+        "Figure 6. RMS misfit of the section after every"}) {
     EXPECT_THAT(text, HasSubstr(part));
   }
   EXPECT_THAT(content, HasSubstr("table:table-header-rows"));
@@ -447,7 +448,7 @@ TEST(Report, writesOdtThatHoldsItsTextsTablesAndPictures) {
   const QImage picture =
       QImage::fromData(QByteArray::fromStdString(memberOf(path, "Pictures/figure5.png")), "PNG");
   EXPECT_EQ(picture.width(), 2008);  // 170 mm at 300 dots per inch
-  EXPECT_EQ(memberOf(path, "Pictures/figure6.png"), "no member");
+  EXPECT_EQ(memberOf(path, "Pictures/figure7.png"), "no member");
 }
 
 TEST(Report, leavesTheFileAloneWhenItCannotBeWrittenOrIsStopped) {

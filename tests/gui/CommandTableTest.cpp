@@ -351,7 +351,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionShow_title",
         "actionReset_View"}},
       {Stage::kResult,
-       {"actionCertainty", "actionSecond_look", "actionShow_rays",
+       {"actionCertainty", "actionSecond_look", "actionResiduals", "actionShow_rays",
         "actionShow_Information_Density_Layer", "showSimTT_CB", "actionGuide_computed"}}};
   return stages;
 }

@@ -2,6 +2,7 @@
 #include "app/dialogs/SecondLookDialog.h"
 #include "app/dialogs/progressTomographyDialog.h"
 #include "app/dialogs/runTomography_Dialog.h"
+#include "figures/SectionCamera.h"
 #include "gui/WindowTest.h"
 #include "model/ChiSquare.h"
 #include "model/GroundModel.h"
@@ -18,11 +19,14 @@
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
+#include <QToolButton>
 #include <cmath>
 #include <functional>
 
@@ -189,6 +193,50 @@ TEST_F(Fitting, leadsFromASuspectToItsTrace) {
               HasSubstr("Picks have changed"));
 }
 
+/// After solver passes, too, and whatever there is to look at.
+TEST_F(Fitting, leadsFromTheStatusBarToGroundAtALimit) {
+  openShots();
+  auto& notice = child<QToolButton>("secondLookNotice");
+  EXPECT_FALSE(notice.isVisible());
+  dialogs.expect([](QWidget& widget) {
+    widget.findChild<QSpinBox*>("extIter_edit")->setValue(2);
+    widget.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Ok)->click();
+  });
+  expectResults();
+  run();
+  TomoDocument& line = writable();
+  ASSERT_FALSE(line.result->lastInversion->fit);
+  const Grid& grid = *line.model->grid;
+  std::uint32_t column = 0;
+  while (line.result->hitCounts[grid.cellIndex(1, column)] == 0) ++column;
+  std::vector<double> slownesses = grid.slownesses();
+  slownesses[grid.cellIndex(1, column)] = 1.0 / line.result->lastInversion->maxVelocity;
+  line.model.edit().grid = std::make_shared<const Grid>(grid.sharedGeometry(), slownesses);
+  showWritten();
+  child<QTabWidget>("tabWidget").setCurrentIndex(0);
+  const QString limit = QStringLiteral("cells at a limit of the velocity: ");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return notice.toolTip().contains(limit); }, 5000))
+      << notice.toolTip().toStdString();
+  EXPECT_TRUE(notice.isVisible());
+  EXPECT_THAT(notice.text().toStdString(), HasSubstr("Second look ("));
+  notice.click();
+  auto& cells = *secondLookDialog().findChild<QListWidget*>("cellsList");
+  ASSERT_GE(cells.count(), 1);
+  int atLimit = -1;
+  for (int row = 0; row < cells.count(); ++row) {
+    if (cells.item(row)->text().contains(QStringLiteral("at the limit of"))) atLimit = row;
+  }
+  ASSERT_GE(atLimit, 0);
+  cells.setCurrentRow(atLimit);
+  EXPECT_EQ(child<QTabWidget>("tabWidget").currentWidget(), &child<QWidget>("vtk_tab"));
+  auto& view = child<SectionView>("vtk_widget");
+  const double near = view.camera().metresPerPixel;
+  const Point2D cell{column - line.model->xOffset + 0.5, line.model->surface(column + 0.5) - 1.5};
+  EXPECT_TRUE(QRectF(view.plotRect()).contains(view.pointOf(cell)));
+  view.resetView();
+  EXPECT_LT(near, view.camera().metresPerPixel);
+}
+
 TEST_F(Fitting, takesFoundTimeShiftsOverAsMends) {
   openShots(1, 0.005);
   const double picked = window->document().ttArray[1].ttMisurati[5];
@@ -205,6 +253,9 @@ TEST_F(Fitting, takesFoundTimeShiftsOverAsMends) {
   auto& table = *look.findChild<QTableWidget*>("shiftsTable");
   ASSERT_EQ(table.rowCount(), 5);
   EXPECT_NEAR(table.item(1, 1)->text().toDouble(), 4.0, 1.2) << "5 ms, less the mean of all shots";
+  table.setCurrentCell(1, 1);
+  EXPECT_EQ(child<QTabWidget>("tabWidget").currentWidget(), &child<QWidget>("tab_3"));
+  EXPECT_EQ(child<editTravelTimesWidget>("showTracesWidget").shot(), 1);
   look.findChild<QPushButton*>("takeOverButton")->click();
   const TomoDocument& line = window->document();
   ASSERT_GE(line.recordings->mends.size(), 2U);

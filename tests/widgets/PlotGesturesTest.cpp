@@ -2,6 +2,7 @@
 #include "widgets/LayerCurvesPlot.h"
 #include "widgets/LinePlan.h"
 #include "widgets/MisfitPlot.h"
+#include "widgets/PointPlot.h"
 #include "widgets/RefractionProfilePlot.h"
 #include "widgets/SeriesPlot.h"
 #include "widgets/SpectrumPlot.h"
@@ -101,6 +102,12 @@ void makeLayers(Plot& plot) {
 
 void makeSeries(Plot& plot) {
   makePage<SeriesPlot>(plot).setSeries({{"tV", {{0.0, 1.0}, {10.0, 5.0}}, Qt::black}});
+}
+
+void makePoints(Plot& plot) {
+  auto& points = makePage<PointPlot>(plot);
+  points.setSeries({{"Picks", {{0.0, 1.0}, {10.0, 5.0}}, Qt::black}});
+  points.setPoints({{0.0, 1.0}, {10.0, 5.0}});
 }
 
 void makeProfile(Plot& plot) {
@@ -341,6 +348,7 @@ const PlotKind kKinds[] = {{"traces", makeTraces, Qt::ControlModifier, false},
                            {"plan", makePlan, Qt::NoModifier, true},
                            {"layers", makeLayers, Qt::ControlModifier, false},
                            {"series", makeSeries, Qt::NoModifier, true},
+                           {"points", makePoints, Qt::NoModifier, true},
                            {"profile", makeProfile, Qt::NoModifier, true},
                            {"spectrum", makeSpectrum, Qt::NoModifier, true},
                            {"misfit", makeMisfit, Qt::NoModifier, true},

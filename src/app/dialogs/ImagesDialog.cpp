@@ -4,6 +4,7 @@
 #include "figures/FigureOutput.h"
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
+#include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
 #include "ui_ImagesDialog.h"
@@ -73,6 +74,7 @@ void ImagesDialog::offerWhatThereIs() {
     offer(box, section);
   }
   offer(mUi->densityBox, section && mDocument.result->has_tomographic_info);
+  offer(mUi->residualsBox, sectionMisfitOf(mDocument).count > 0);
   offer(mUi->refractionBox, !mInterpretation.refractData.cData.empty());
   mUi->smoothBox->setChecked(section && mLook.view.smooth);
   mUi->cellsBox->setChecked(section && !mLook.view.smooth);
@@ -113,6 +115,7 @@ ImageSetOptions ImagesDialog::options() const {
   options.section = !options.quantities.empty();
   options.cells = mUi->cellsBox->isChecked();
   options.smooth = mUi->smoothBox->isChecked();
+  options.residuals = mUi->residualsBox->isChecked();
   options.refraction = mUi->refractionBox->isChecked();
   constexpr FigureFormat kFormats[] = {FigureFormat::kPng, FigureFormat::kSvg, FigureFormat::kPdf};
   options.format = kFormats[std::max(mUi->formatCBox->currentIndex(), 0)];

@@ -44,8 +44,12 @@ SecondLookDialog::SecondLookDialog(QWidget* parent)
           [this](int row) { showSuspect(row); });
   connect(mUi->suspectsTable, &QTableWidget::cellClicked, this,
           [this](int row) { showSuspect(row); });
-  connect(mUi->shiftsTable, &QTableWidget::cellDoubleClicked, this,
+  connect(mUi->shiftsTable, &QTableWidget::currentCellChanged, this,
           [this](int row) { showShift(row); });
+  connect(mUi->shiftsTable, &QTableWidget::cellClicked, this, [this](int row) { showShift(row); });
+  connect(mUi->cellsList, &QListWidget::currentRowChanged, this, &SecondLookDialog::showGround);
+  connect(mUi->cellsList, &QListWidget::itemClicked, this,
+          [this] { showGround(mUi->cellsList->currentRow()); });
   connect(mUi->takeOverButton, &QPushButton::clicked, this, &SecondLookDialog::takeOverWanted);
   connect(mUi->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
   setLook({});
@@ -57,6 +61,7 @@ void SecondLookDialog::setLook(SecondLook look) {
   mLook = std::move(look);
   fillSuspects();
   fillShifts();
+  fillCells();
   showTexts();
 }
 
@@ -87,6 +92,7 @@ void SecondLookDialog::fillSuspects() {
 
 void SecondLookDialog::fillShifts() {
   QTableWidget& table = *mUi->shiftsTable;
+  const QSignalBlocker quiet(&table);
   table.clearContents();
   table.setRowCount(static_cast<int>(mLook.shifts.size()));
   for (int row = 0; row < table.rowCount(); ++row) {
@@ -101,6 +107,7 @@ void SecondLookDialog::fillShifts() {
                                                      : tr("no recording that could be shifted"));
     table.setItem(row, kWhy, why);
   }
+  table.setCurrentCell(-1, -1);
   mUi->takeOverButton->setEnabled(
       std::any_of(mLook.shifts.begin(), mLook.shifts.end(),
                   [](const ShotShift& shift) { return shift.recording; }));
@@ -121,35 +128,39 @@ void SecondLookDialog::showTexts() {
           ? tr("No pick is off by more than five of its errors.")
           : tr("Picks off by more than five of their errors; a click shows the trace:"));
   mUi->shiftsPage->setVisible(!mLook.shifts.empty());
-  mUi->shiftsLabel->setText(tr("Time shifts of shots that the fit has found:"));
-  mUi->cellsLabel->setText(cellsText());
+  mUi->shiftsLabel->setText(
+      tr("Time shifts of shots that the fit has found; a click shows the shot:"));
+  mUi->cellsLabel->setText(mPatches.empty()
+                               ? tr("No velocity is at a limit, and rays cross all cells shown.")
+                               : tr("Ground to look at; a click shows it in the section:"));
   mUi->cellsLabel->setVisible(mLook.known);
+  mUi->cellsList->setVisible(!mPatches.empty());
 }
 
-QString SecondLookDialog::cellsText() const {
-  QStringList lines;
-  const auto where = [this](const CellPatch& patch) {
-    return tr("%1 to %2 m, depth %3 to %4 m")
-        .arg(number(patch.left, 1), number(patch.right, 1), number(patch.top, 1),
-             number(patch.bottom, 1));
+void SecondLookDialog::fillCells() {
+  const QSignalBlocker quiet(mUi->cellsList);
+  mUi->cellsList->clear();
+  mPatches.clear();
+  if (!mLook.known) return;
+  const auto atLimit = [](const CellPatch& patch, double limit) {
+    return tr("Cells at the limit of %1 m/s: %2").arg(number(limit, 0)).arg(patch.cells);
   };
-  const auto atLimit = [&](const CellPatch& patch, double limit) {
-    if (patch.cells == 0) return;
-    lines << tr("Cells at the limit of %1 m/s: %2 (%3)")
-                 .arg(number(limit, 0))
-                 .arg(patch.cells)
-                 .arg(where(patch));
-  };
-  atLimit(mLook.atLeast, mLook.least);
-  atLimit(mLook.atGreatest, mLook.greatest);
-  if (mLook.withoutRays.cells > 0) {
-    lines << tr("Cells shown that no ray crosses: %1 of %2 (%3)")
-                 .arg(mLook.withoutRays.cells)
-                 .arg(mLook.drawn)
-                 .arg(where(mLook.withoutRays));
-  }
-  if (lines.isEmpty()) lines << tr("No velocity is at a limit, and rays cross all cells shown.");
-  return lines.join(QLatin1Char('\n'));
+  addCells(mLook.atLeast, atLimit(mLook.atLeast, mLook.least));
+  addCells(mLook.atGreatest, atLimit(mLook.atGreatest, mLook.greatest));
+  addCells(mLook.withoutRays, tr("Cells shown that no ray crosses: %1 of %2")
+                                  .arg(mLook.withoutRays.cells)
+                                  .arg(mLook.drawn));
+  // No higher than its lines; the room is the tables'.
+  mUi->cellsList->setMaximumHeight((mUi->cellsList->count() + 1) *
+                                   std::max(mUi->cellsList->sizeHintForRow(0), 1));
+}
+
+void SecondLookDialog::addCells(const CellPatch& patch, const QString& text) {
+  if (patch.cells == 0) return;
+  mPatches.push_back(patch);
+  mUi->cellsList->addItem(tr("%1 (%2 to %3 m, depth %4 to %5 m)")
+                              .arg(text, number(patch.left, 1), number(patch.right, 1),
+                                   number(patch.top, 1), number(patch.bottom, 1)));
 }
 
 void SecondLookDialog::showSuspect(int row) {
@@ -161,6 +172,11 @@ void SecondLookDialog::showSuspect(int row) {
 void SecondLookDialog::showShift(int row) {
   if (row < 0 || row >= static_cast<int>(mLook.shifts.size())) return;
   emit shotWanted(static_cast<int>(mLook.shifts[static_cast<std::size_t>(row)].record));
+}
+
+void SecondLookDialog::showGround(int row) {
+  if (row < 0 || row >= static_cast<int>(mPatches.size())) return;
+  emit groundWanted(mPatches[static_cast<std::size_t>(row)]);
 }
 
 }  // namespace talvesk

@@ -26,8 +26,9 @@ class SecondLookDialog : public QDialog {
   std::vector<ShotShift> taken() const;  ///< those that are checked
 
  signals:
-  void pickWanted(int shot, int trace);  ///< from 0, to be shown in the window
-  void shotWanted(int shot);             ///< from 0
+  void pickWanted(int shot, int trace);                ///< from 0, to be shown in the window
+  void shotWanted(int shot);                           ///< from 0
+  void groundWanted(const talvesk::CellPatch& patch);  ///< to be shown in the section
   void takeOverWanted();
 
  private:
@@ -36,10 +37,13 @@ class SecondLookDialog : public QDialog {
   void showTexts();
   void showSuspect(int row);
   void showShift(int row);
-  QString cellsText() const;
+  void showGround(int row);
+  void fillCells();
+  void addCells(const CellPatch& patch, const QString& text);
 
   std::unique_ptr<Ui::SecondLookDialog> mUi;
   SecondLook mLook;
+  std::vector<CellPatch> mPatches;  ///< one for each line of the list
 };
 
 }  // namespace talvesk

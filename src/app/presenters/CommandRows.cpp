@@ -96,6 +96,7 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
       {"actionRun_tomography_inversion", &State::records,
        call(p.inversion, &InversionPresenter::run)},
       {"actionSecond_look", &State::computed, call(p.secondLook, &SecondLookPresenter::show)},
+      {"actionResiduals", &State::computed, call(p.residuals, &ResidualsPresenter::show)},
       {"actionInversion_runs", &State::records, call(p.runs, &RunsPresenter::show)},
       {"actionCertainty", &State::inverted, call(p.certainty, &CertaintyPresenter::ask)},
       {"actionApply_smoothing", &State::cells, call(p.models, &ModelPresenter::smooth)},

@@ -19,6 +19,7 @@ Presenters::Presenters(Desk& desk)
       survey(desk),
       geometry(desk),
       models(desk, geometry),
+      residuals(desk),
       secondLook(desk),
       inversion(desk, models, secondLook),
       runs(desk),
@@ -37,6 +38,8 @@ Presenters::Presenters(Desk& desk)
 void Presenters::retranslate() {
   traces.retranslate();
   reciprocity.retranslate();
+  residuals.retranslate();
+  secondLook.retranslate();
   projects.retranslate();
   section.refresh();
   survey.refresh();

@@ -17,6 +17,7 @@
 #include "app/presenters/RecoveryPresenter.h"
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
+#include "app/presenters/ResidualsPresenter.h"
 #include "app/presenters/ReviewPresenter.h"
 #include "app/presenters/RunsPresenter.h"
 #include "app/presenters/SecondLookPresenter.h"
@@ -54,6 +55,7 @@ struct Presenters {
   SurveyPresenter survey;
   GeometryPresenter geometry;
   ModelPresenter models;
+  ResidualsPresenter residuals;
   SecondLookPresenter secondLook;
   InversionPresenter inversion;
   RunsPresenter runs;

@@ -1,4 +1,5 @@
 #include "figures/MisfitFigures.h"
+#include "figures/ResidualFigures.h"
 #include "figures/report/ReportBuilder.h"
 #include "model/ChiSquare.h"
 #include "model/LeftOut.h"
@@ -85,6 +86,22 @@ void addLastPass(ReportBuilder& builder) {
   builder.table(ReportWords::tr("Last solver pass of the inversion"), facts);
 }
 
+void addResiduals(ReportBuilder& builder) {
+  const TomoDocument& document = builder.source.document;
+  const ResidualTable table = residualTableOf(document);
+  const auto add = [&](ResidualView view, double heightMm, const QString& caption) {
+    SectionFigureOptions sheet;
+    sheet.widthMm = builder.widthMm();
+    sheet.heightMm = heightMm;
+    FigureDrawing drawing;
+    const Status status = prepareResidualFigure(document, table, view, {}, sheet, drawing);
+    if (status.ok()) builder.figure(caption, drawing);
+  };
+  add(ResidualView::kOffset, kMisfitHeightMm,
+      ReportWords::tr("Residuals of the picks against the distance from their shot"));
+  add(ResidualView::kMap, 0.0, ReportWords::tr("Residuals of the picks, shot by geophone"));
+}
+
 void addHistory(ReportBuilder& builder, const InversionRecord& run) {
   ReportTable table{{{ReportWords::tr("External iteration"), true},
                      {ReportWords::tr("Section, RMS [ms]"), true},
@@ -139,14 +156,9 @@ Status addMisfit(ReportBuilder& builder) {
   const auto& run = document.result->lastInversion;
   const bool fitted = run && run->fit;  // without solver passes
   if (!fitted) addLastPass(builder);
-  FigureDrawing drawing;
-  if (misfit.count > 0 &&
-      prepareResidualFigure(document, builder.widthMm(), kMisfitHeightMm, drawing).ok()) {
-    builder.figure(ReportWords::tr("Residuals of the picks against the distance from their shot"),
-                   drawing);
-  }
+  if (misfit.count > 0) addResiduals(builder);
   if (!document.result->lastInversion) return {};
-  drawing = FigureDrawing();
+  FigureDrawing drawing;
   if (document.result->lastInversion->history.size() > 1 &&
       prepareMisfitHistoryFigure(*document.result->lastInversion, builder.widthMm(),
                                  kMisfitHeightMm, drawing)

@@ -234,6 +234,15 @@ void SectionView::resetView() {
   layOut();
 }
 
+void SectionView::showPart(const Point2D& lowerLeft, const Point2D& upperRight) {
+  State& s = *mState;
+  s.fits = false;
+  s.camera.turn = 0.0;
+  s.camera.tilt = 0.0;
+  s.camera.fit(lowerLeft, upperRight, plotRect().size(), {});
+  layOut();
+}
+
 void SectionView::setVerticalExaggeration(double factor) {
   State& s = *mState;
   const double before = s.camera.exaggeration;

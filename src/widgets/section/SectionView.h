@@ -52,6 +52,8 @@ class SectionView : public QWidget {
 
  public slots:
   void resetView();
+  /// Zooms to a rectangle, seen from the front. \param lowerLeft, upperRight survey positions
+  void showPart(const Point2D& lowerLeft, const Point2D& upperRight);
   void zoomIn();
   void zoomOut();
   void setVerticalExaggeration(double factor);  ///< bounded, and told by exaggerationChanged()
