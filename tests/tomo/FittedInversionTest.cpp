@@ -108,6 +108,35 @@ TEST(FittedInversion, findsTheShiftOfAShotThatIsLate) {
   EXPECT_FALSE(without.fit.suspects.empty()) << "it needs the shift";
 }
 
+/// Errors that are stated too large leave room for a shift that is found by half.
+TEST(FittedInversion, findsALateShotAndThreeGrossPicksWhereErrorsAreLarge) {
+  const double depth = 4.0;
+  FitLine line = fitLine({}, twoLayerTimes(500.0, 2000.0, depth));
+  for (FitPick& pick : line.data.picks) pick.sigma = 0.0008;
+  const FitShot& late = line.data.shots[2];
+  for (std::size_t i = 0; i < late.receivers.size(); ++i) {
+    line.data.picks[late.firstPick + i].time += 0.005;
+  }
+  const std::vector<std::size_t> gross{5, late.firstPick + 12, line.data.picks.size() - 3};
+  for (const std::size_t i : gross) line.data.picks[i].time += 0.025;
+  FittedOptions options = line.options();
+  options.start = twoLayerModel(line, 500.0, 2000.0, depth);
+  options.statics = true;
+  const FittedResult result = fit(line, options);
+  EXPECT_EQ(result.end, FitEnd::kTarget) << describe(result);
+  EXPECT_EQ(result.fit.suspects, gross);
+  const double mean = 0.005 / static_cast<double>(result.statics.size());
+  for (std::size_t s = 0; s < result.statics.size(); ++s) {
+    EXPECT_NEAR(result.statics[s], (s == 2 ? 0.005 : 0.0) - mean, 0.0005) << s;
+  }
+  options.statics = false;
+  const std::vector<std::size_t> without = fit(line, options).fit.suspects;
+  const auto ofLateShot = std::count_if(without.begin(), without.end(), [&](std::size_t i) {
+    return i >= late.firstPick && i < late.firstPick + late.receivers.size();
+  });
+  EXPECT_GT(ofLateShot, 5) << "of 23";
+}
+
 TEST(FittedInversion, isTheSameWithAnyNumberOfThreads) {
   const FitLine line = fitLine({}, twoLayerTimes(500.0, 1800.0, 2.5, 0.08));
   FittedOptions options = line.options();

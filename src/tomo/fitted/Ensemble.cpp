@@ -4,6 +4,7 @@
 #include "tomo/fitted/MemberNoise.h"
 #include "tomo/fitted/ReferenceModels.h"
 #include "tomo/fitted/ShotRays.h"
+#include "tomo/fitted/ShotShifts.h"
 #include "tomo/fitted/SurveyFit.h"
 
 #include <algorithm>
@@ -70,7 +71,8 @@ void Ensemble::addModel(Message name, bool layered, std::vector<double> slowness
 
 void Ensemble::findModels() {
   const VelocityBounds bounds{mOptions.fit.minVelocity, mOptions.fit.maxVelocity};
-  ReferenceModels read = referenceModels(mData, *mGeometry, bounds);
+  ReferenceModels read =
+      referenceModels(picksOnTime(mData, mOptions.fit.triggerError), *mGeometry, bounds);
   mRefused = std::move(read.refused);
   for (ReferenceModel& model : read.models) {
     const bool layered = !model.refractors.empty();

@@ -1,5 +1,7 @@
 #include "tomo/fitted/FitProblem.h"
 
+#include "tomo/fitted/ShotShifts.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -11,7 +13,6 @@ namespace {
 using Vector = Eigen::VectorXd;
 
 constexpr double kFirstLambda = 1e-3;  // of the sum of squares of the times over their errors
-constexpr double kHuber = 1.345;       // 95 % efficient on normal errors
 constexpr double kBlockyFrom = 3.0;    // chi-square below which steps of the section mean something
 
 Eigen::Index index(std::size_t i) {
@@ -100,6 +101,13 @@ bool FitProblem::evaluate(FitSection& section, const std::function<bool()>& goOn
                                        1.0 / mOptions.maxVelocity, 1.0 / mOptions.minVelocity);
   }
   if (!mTracer.trace(section.slownesses, section.traced, goOn)) return false;
+  // Shifts are found anew for every section. Picks of a shot that is late would be suspect, and be
+  // heeded no more, before steps from section to section had come to its shift.
+  if (mShifts > 0) {
+    const std::vector<double> shifts =
+        shotShifts(mData, section.traced.times, mOptions.triggerError, mOptions.robust);
+    for (std::size_t s = 0; s < shifts.size(); ++s) section.unknowns[mCells + index(s)] = shifts[s];
+  }
   section.scaled.resize(mData.picks.size());
   for (std::size_t s = 0; s < mData.shots.size(); ++s) {
     const FitShot& shot = mData.shots[s];
@@ -117,22 +125,23 @@ void FitProblem::weigh(const FitSection& section) {
   if (mOptions.blocky && section.fit.chi2 < kBlockyFrom) {
     mRoughness.sharpen((section.unknowns - mReference).head(mCells));
   }
-  makePrior(section.lambda);
+  makePrior(section);
   mHuber = huberLimit(section);
 }
 
-void FitProblem::makePrior(double lambda) {
+void FitProblem::makePrior(const FitSection& section) {
   const Eigen::SparseMatrix<double>& roughness = mRoughness.matrix();
   std::vector<Eigen::Triplet<double>> entries;
   entries.reserve(static_cast<std::size_t>(roughness.nonZeros() + mCells + mShifts));
   for (Eigen::Index column = 0; column < roughness.outerSize(); ++column) {
     for (Eigen::SparseMatrix<double>::InnerIterator it(roughness, column); it; ++it) {
-      entries.emplace_back(it.row(), it.col(), lambda * it.value());
+      entries.emplace_back(it.row(), it.col(), section.lambda * it.value());
     }
   }
   const double damping = 1.0 / (mOptions.triggerError * mOptions.triggerError);
-  for (Eigen::Index i = 0; i < mCells + mShifts; ++i) {
-    entries.emplace_back(i, i, i < mCells ? 0.0 : damping);
+  for (Eigen::Index i = 0; i < mCells; ++i) entries.emplace_back(i, i, 0.0);
+  for (Eigen::Index i = mCells; i < mCells + mShifts; ++i) {
+    entries.emplace_back(i, i, damping * shiftWeight(section.unknowns[i], mOptions.triggerError));
   }
   mPrior.resize(mCells + mShifts, mCells + mShifts);
   mPrior.setFromTriplets(entries.begin(), entries.end());

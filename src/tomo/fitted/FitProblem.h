@@ -45,7 +45,8 @@ class FitProblem {
   /// The section to start from, not evaluated, which also sets the reference.
   FitSection start();
   void limit(Eigen::VectorXd& unknowns) const;
-  /// Completes a section of which the unknowns are known. \return false when it was stopped
+  /// Completes a section of which the cells are known, time shifts included. \return false when it
+  /// was stopped
   bool evaluate(FitSection& section, const std::function<bool()>& goOn);
 
   /// For the steps from a section with its weight of the roughness: must come before the following.
@@ -54,7 +55,7 @@ class FitProblem {
   LinearStep linearize(const FitSection& section, double damping) const;
 
  private:
-  void makePrior(double lambda);
+  void makePrior(const FitSection& section);
   double huberLimit(const FitSection& section) const;
 
   const FitData& mData;
