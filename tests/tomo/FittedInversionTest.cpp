@@ -137,6 +137,30 @@ TEST(FittedInversion, findsALateShotAndThreeGrossPicksWhereErrorsAreLarge) {
   EXPECT_GT(ofLateShot, 5) << "of 23";
 }
 
+TEST(FittedInversion, smoothsAStartThatFitsBetterThanTheErrorsDemand) {
+  const double depth = 4.0;
+  FitLine line = fitLine({}, twoLayerTimes(500.0, 2000.0, depth));
+  for (FitPick& pick : line.data.picks) pick.sigma = 0.001;
+  FittedOptions options = line.options();
+  options.start = twoLayerModel(line, 500.0, 2000.0, depth);
+  const FittedResult result = fit(line, options);
+  ASSERT_LT(result.chi2History.front(), 0.5) << "or the test is lame";
+  EXPECT_EQ(result.end, FitEnd::kTarget);
+  EXPECT_NEAR(result.fit.chi2, 1.0, 0.05);
+  EXPECT_GT(result.kept, 0);
+  EXPECT_LE(result.iterations, 10);
+  EXPECT_NE(describe(result).english().find("smoothed"), std::string::npos) << describe(result);
+  const std::size_t columns = line.geometry->col();
+  const auto steepest = [&](const std::vector<double>& slownesses) {
+    double most = 0.0;
+    for (std::size_t c = columns; c < slownesses.size(); ++c) {
+      most = std::max(most, std::fabs(std::log(slownesses[c] / slownesses[c - columns])));
+    }
+    return most;
+  };
+  EXPECT_LT(steepest(result.slownesses), 0.8 * steepest(options.start));
+}
+
 TEST(FittedInversion, isTheSameWithAnyNumberOfThreads) {
   const FitLine line = fitLine({}, twoLayerTimes(500.0, 1800.0, 2.5, 0.08));
   FittedOptions options = line.options();

@@ -121,6 +121,16 @@ bool FitProblem::evaluate(FitSection& section, const std::function<bool()>& goOn
   return true;
 }
 
+FitSection FitProblem::smoothed(const FitSection& section, double amount) const {
+  Eigen::SparseMatrix<double> matrix = amount * mRoughness.matrix();
+  for (Eigen::Index c = 0; c < mCells; ++c) matrix.coeffRef(c, c) += 1.0;
+  const Eigen::SimplicialLDLT<Eigen::SparseMatrix<double>> factor(matrix);
+  FitSection smooth;
+  smooth.unknowns = section.unknowns;
+  smooth.unknowns.head(mCells) = factor.solve(Vector(section.unknowns.head(mCells)));
+  return smooth;
+}
+
 void FitProblem::weigh(const FitSection& section) {
   if (mOptions.blocky && section.fit.chi2 < kBlockyFrom) {
     mRoughness.sharpen((section.unknowns - mReference).head(mCells));

@@ -49,6 +49,10 @@ class FitProblem {
   /// was stopped
   bool evaluate(FitSection& section, const std::function<bool()>& goOn);
 
+  /// The section nearest to another for what it is smoother, not evaluated.
+  /// \param amount weight of the roughness beside the squared departures, positive
+  FitSection smoothed(const FitSection& section, double amount) const;
+
   /// For the steps from a section with its weight of the roughness: must come before the following.
   void weigh(const FitSection& section);
   double objective(const FitSection& section) const;

@@ -16,7 +16,9 @@ namespace {
 constexpr double kGain = 0.03;  // of chi-square, that an iteration should bring
 constexpr int kPoorGains = 3;
 constexpr double kStandstill = 0.01;
-constexpr double kSettled = 0.01;  // mean change of ln slowness, of a step that hardly counts
+constexpr double kFirstSmoothing = 0.1;  // of a start that is too good: less than to the next cell
+constexpr double kSmoothedTo = 0.97;     // chi-square: no smoother than it must be
+constexpr double kSettled = 0.01;        // mean change of ln slowness, of a step that hardly counts
 
 }  // namespace
 
@@ -31,6 +33,9 @@ class FittedInversion::Fit {
   FittedResult settle(double lambda, const std::function<bool()>& goOn);
 
  private:
+  bool tooGood(const FitSection& start) const;
+  bool next(const FitSection& start, double weight, FitSection& section,
+            const std::function<bool()>& goOn);
   std::optional<FitEnd> ended();
   FittedResult resultOf(FitSection best) const;
 
@@ -92,14 +97,33 @@ std::optional<FitEnd> FittedInversion::Fit::ended() {
   return std::nullopt;
 }
 
+/// Whether the model that the fit is held to shows more than the picks can tell. Steps would only
+/// take it closer to them.
+bool FittedInversion::Fit::tooGood(const FitSection& start) const {
+  const FittedOptions& options = mProblem.options();
+  const bool held = options.reference.empty() || options.reference == options.start;
+  return held && start.fit.chi2 < 1.0 && !nearTarget(start.fit.chi2);
+}
+
+/// One iteration. \param weight of the roughness. \return false when it was stopped
+bool FittedInversion::Fit::next(const FitSection& start, double weight, FitSection& section,
+                                const std::function<bool()>& goOn) {
+  if (tooGood(start)) {
+    section = mProblem.smoothed(start, weight);
+    return mProblem.evaluate(section, goOn);
+  }
+  section.lambda = weight;
+  return mStepper.advance(section, goOn);
+}
+
 FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgress&)>& progress,
                                        const std::function<bool()>& goOn) {
-  FittedResult stopped;
   FitSection section = mProblem.start();
-  if (!mProblem.evaluate(section, goOn)) return stopped;
+  if (!mProblem.evaluate(section, goOn)) return {};
+  const FitSection start = section;
   FitSection best = section;
   mHistory = {section.fit.chi2};
-  LambdaSearch lambda(mProblem.firstLambda());
+  LambdaSearch weight(tooGood(start) ? kFirstSmoothing : mProblem.firstLambda());
   const auto tell = [&] {
     if (!progress) return;
     progress({section.iteration, mProblem.options().mostIterations, section.fit, section.lambda,
@@ -108,8 +132,7 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
   tell();
   std::optional<FitEnd> end;
   while (!end) {
-    section.lambda = lambda.lambda();
-    if (!mStepper.advance(section, goOn)) {
+    if (!next(start, weight.lambda(), section, goOn)) {
       end = FitEnd::kStopped;
       break;
     }
@@ -118,10 +141,10 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
     if (section.distance() < best.distance()) best = section;
     tell();
     const double damping = mStepper.damping();
-    if (damping > 0.0 && section.fit.chi2 < 1.0) lambda.restart(section.lambda * (1.0 + damping));
+    if (damping > 0.0 && section.fit.chi2 < 1.0) weight.restart(section.lambda * (1.0 + damping));
     mStepper.adaptDamping();
     end = ended();
-    lambda.tell(std::max(section.fit.chi2, kLeastChi2));
+    weight.tell(std::max(section.fit.chi2, kLeastChi2) / (tooGood(start) ? kSmoothedTo : 1.0));
   }
   FittedResult result = resultOf(std::move(best));
   result.end = *end;
@@ -130,8 +153,18 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
 
 Message describe(const FittedResult& result) {
   const double chi2 = result.fit.chi2;
+  const double first = result.chi2History.empty() ? chi2 : result.chi2History.front();
   switch (result.end) {
     case FitEnd::kTarget:
+      if (result.kept > 0 && result.lambda == 0.0) {
+        return Message::tr(
+                   "The section fits the picks to their errors: chi-square %1. The model that it "
+                   "started from fits them better than that, chi-square %2, and was smoothed as "
+                   "far as the errors allow. State errors %3 times as large to keep it sharp.")
+            .arg(chi2)
+            .arg(first)
+            .arg(std::sqrt(first));
+      }
       return Message::tr("The section fits the picks to their errors: chi-square %1.").arg(chi2);
     case FitEnd::kNoGain:
       return Message::tr(
