@@ -161,6 +161,19 @@ TEST(FittedInversion, smoothsAStartThatFitsBetterThanTheErrorsDemand) {
   EXPECT_LT(steepest(result.slownesses), 0.8 * steepest(options.start));
 }
 
+TEST(FittedInversion, letsGoOfStepsInTheWrongPlaces) {
+  const FitLine line = fitLine({}, twoLayerTimes(500.0, 2000.0, 3.0));
+  FittedOptions options = line.options();
+  options.start = twoLayerModel(line, 700.0, 1500.0, 8.0);
+  const FittedResult result = fit(line, options);
+  EXPECT_EQ(result.end, FitEnd::kTarget) << describe(result);
+  EXPECT_LE(result.iterations, 15);
+  EXPECT_TRUE(result.loosened);
+  EXPECT_NE(result.reference, options.start);
+  EXPECT_NE(describe(result).english().find("smoothed first"), std::string::npos);
+  EXPECT_FALSE(fit(line, line.options()).loosened) << "it has no steps";
+}
+
 TEST(FittedInversion, isTheSameWithAnyNumberOfThreads) {
   const FitLine line = fitLine({}, twoLayerTimes(500.0, 1800.0, 2.5, 0.08));
   FittedOptions options = line.options();

@@ -98,6 +98,7 @@ Status Ensemble::fitModel(std::size_t number, RayTracer& tracer, const Run& run)
   if (!fit.status.ok() || fit.end == FitEnd::kStopped) return fit.status;
   const std::lock_guard<std::mutex> lock(mMutex);
   start.section = std::move(fit.slownesses);
+  if (fit.loosened) start.reference = std::move(fit.reference);
   start.lambda = fit.lambda;
   mModels[number].chi2 = fit.fit.chi2;
   mModels[number].plausible = fit.fit.chi2 <= kPlausible;

@@ -13,6 +13,8 @@ namespace {
 using Vector = Eigen::VectorXd;
 
 constexpr double kFirstLambda = 1e-3;  // of the sum of squares of the times over their errors
+constexpr double kLoosening = 100.0;   // of steps: over some ten cells along, five across
+constexpr double kStep = 0.3;          // of ln slowness, from a cell to the one below
 constexpr double kBlockyFrom = 3.0;    // chi-square below which steps of the section mean something
 
 Eigen::Index index(std::size_t i) {
@@ -30,6 +32,7 @@ FitProblem::FitProblem(const GridSize& size, const FitData& data, RayTracer& tra
     : mData(data),
       mTracer(tracer),
       mOptions(std::move(options)),
+      mColumns(size.col),
       mCells(index(static_cast<std::size_t>(size.cellCount()))),
       mShifts(mOptions.statics ? index(data.shots.size()) : 0),
       mRoughness(size.righe, size.col) {}
@@ -121,6 +124,30 @@ bool FitProblem::evaluate(FitSection& section, const std::function<bool()>& goOn
   return true;
 }
 
+bool FitProblem::heldToStart() const {
+  return mOptions.reference.empty() || mOptions.reference == mOptions.start;
+}
+
+bool FitProblem::hasSteps(const FitSection& section) const {
+  for (Eigen::Index c = mColumns; c < mCells; ++c) {
+    if (std::fabs(section.unknowns[c] - section.unknowns[c - mColumns]) > kStep) return true;
+  }
+  return false;
+}
+
+FitSection FitProblem::loosened(const FitSection& start) {
+  FitSection loose = smoothed(start, kLoosening);
+  mReference.head(mCells) = loose.unknowns.head(mCells);
+  return loose;
+}
+
+std::vector<double> FitProblem::reference() const {
+  std::vector<double> slownesses(static_cast<std::size_t>(mCells));
+  for (std::size_t c = 0; c < slownesses.size(); ++c)
+    slownesses[c] = std::exp(mReference[index(c)]);
+  return slownesses;
+}
+
 FitSection FitProblem::smoothed(const FitSection& section, double amount) const {
   Eigen::SparseMatrix<double> matrix = amount * mRoughness.matrix();
   for (Eigen::Index c = 0; c < mCells; ++c) matrix.coeffRef(c, c) += 1.0;
@@ -157,10 +184,12 @@ void FitProblem::makePrior(const FitSection& section) {
   mPrior.setFromTriplets(entries.begin(), entries.end());
 }
 
-/// While nothing fits yet, all residuals are large.
+/// While nothing fits yet, all residuals are large. Their mean square without suspects says how
+/// large: by their median, picks that the section has yet to come to would be heeded as little as
+/// gross errors, and stay away from it.
 double FitProblem::huberLimit(const FitSection& section) const {
   if (!mOptions.robust) return std::numeric_limits<double>::infinity();
-  return kHuber * std::max(1.0, std::sqrt(section.fit.robust));
+  return kHuber * std::max(1.0, std::sqrt(section.fit.chi2));
 }
 
 double FitProblem::objective(const FitSection& section) const {

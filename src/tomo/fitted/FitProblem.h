@@ -1,7 +1,10 @@
 #pragma once
 
+#include "base/Message.h"
+#include "grid/GridGeometry.h"
 #include "model/ChiSquare.h"
-#include "tomo/fitted/FittedInversion.h"
+#include "tomo/fitted/FitOptions.h"
+#include "tomo/fitted/RayTracer.h"
 #include "tomo/fitted/Roughness.h"
 #include "tomo/fitted/StepSolver.h"
 
@@ -52,6 +55,13 @@ class FitProblem {
   /// The section nearest to another for what it is smoother, not evaluated.
   /// \param amount weight of the roughness beside the squared departures, positive
   FitSection smoothed(const FitSection& section, double amount) const;
+  /// Whether the section is held to what it starts from.
+  bool heldToStart() const;
+  bool hasSteps(const FitSection& section) const;  ///< sharp ones, from one row to the next
+  /// Holds the section to a smooth version of the start from now on, which is returned, not
+  /// evaluated.
+  FitSection loosened(const FitSection& start);
+  std::vector<double> reference() const;  ///< s/m, one per cell, as of now
 
   /// For the steps from a section with its weight of the roughness: must come before the following.
   void weigh(const FitSection& section);
@@ -65,6 +75,7 @@ class FitProblem {
   const FitData& mData;
   RayTracer& mTracer;
   const FittedOptions mOptions;
+  const Eigen::Index mColumns;
   const Eigen::Index mCells;
   const Eigen::Index mShifts;
   Roughness mRoughness;

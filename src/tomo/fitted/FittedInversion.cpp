@@ -16,6 +16,7 @@ namespace {
 constexpr double kGain = 0.03;  // of chi-square, that an iteration should bring
 constexpr int kPoorGains = 3;
 constexpr double kStandstill = 0.01;
+constexpr double kFarOff = 10.0;         // chi-square of a start with its steps in wrong places
 constexpr double kFirstSmoothing = 0.1;  // of a start that is too good: less than to the next cell
 constexpr double kSmoothedTo = 0.97;     // chi-square: no smoother than it must be
 constexpr double kSettled = 0.01;        // mean change of ln slowness, of a step that hardly counts
@@ -34,6 +35,7 @@ class FittedInversion::Fit {
 
  private:
   bool tooGood(const FitSection& start) const;
+  bool loosen(FitSection& start, const std::function<bool()>& goOn);
   bool next(const FitSection& start, double weight, FitSection& section,
             const std::function<bool()>& goOn);
   std::optional<FitEnd> ended();
@@ -44,6 +46,7 @@ class FittedInversion::Fit {
   std::vector<double> mHistory;  ///< chi-square of the start and after every iteration
   int mPoorGains = 0;            ///< one after the other
   int mStandstills = 0;          ///< the same
+  bool mLoosened = false;        ///< see FittedResult
 };
 
 FittedResult FittedInversion::Fit::settle(double lambda, const std::function<bool()>& goOn) {
@@ -69,6 +72,8 @@ FittedResult FittedInversion::Fit::resultOf(FitSection best) const {
   FittedResult result;
   result.slownesses = std::move(best.slownesses);
   result.traced = std::move(best.traced);
+  result.reference = mProblem.reference();
+  result.loosened = mLoosened;
   result.scaled = std::move(best.scaled);
   result.fit = std::move(best.fit);
   result.lambda = best.lambda;
@@ -100,9 +105,16 @@ std::optional<FitEnd> FittedInversion::Fit::ended() {
 /// Whether the model that the fit is held to shows more than the picks can tell. Steps would only
 /// take it closer to them.
 bool FittedInversion::Fit::tooGood(const FitSection& start) const {
-  const FittedOptions& options = mProblem.options();
-  const bool held = options.reference.empty() || options.reference == options.start;
-  return held && start.fit.chi2 < 1.0 && !nearTarget(start.fit.chi2);
+  return mProblem.heldToStart() && start.fit.chi2 < 1.0 && !nearTarget(start.fit.chi2);
+}
+
+/// Sharp steps of a model that is far from the picks are not where they should be, and rays that
+/// keep to them do not let go of them. \return false when it was stopped
+bool FittedInversion::Fit::loosen(FitSection& start, const std::function<bool()>& goOn) {
+  mLoosened = start.fit.chi2 > kFarOff && mProblem.heldToStart() && mProblem.hasSteps(start);
+  if (!mLoosened) return true;
+  start = mProblem.loosened(start);
+  return mProblem.evaluate(start, goOn);
 }
 
 /// One iteration. \param weight of the roughness. \return false when it was stopped
@@ -131,6 +143,7 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
   };
   tell();
   std::optional<FitEnd> end;
+  if (!loosen(section, goOn)) end = FitEnd::kStopped;
   while (!end) {
     if (!next(start, weight.lambda(), section, goOn)) {
       end = FitEnd::kStopped;
@@ -151,7 +164,9 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
   return result;
 }
 
-Message describe(const FittedResult& result) {
+namespace {
+
+Message outcomeOf(const FittedResult& result) {
   const double chi2 = result.fit.chi2;
   const double first = result.chi2History.empty() ? chi2 : result.chi2History.front();
   switch (result.end) {
@@ -186,6 +201,18 @@ Message describe(const FittedResult& result) {
   return Message::tr("Stopped by the user after %1 iterations: chi-square %2.")
       .arg(result.iterations)
       .arg(chi2);
+}
+
+}  // namespace
+
+Message describe(const FittedResult& result) {
+  Message outcome = outcomeOf(result);
+  if (!result.loosened) return outcome;
+  return Message::tr(
+             "%1 The model that it started from was too far from the picks, chi-square %2, to hold "
+             "the section to its sharp steps: they were smoothed first.")
+      .arg(outcome)
+      .arg(result.chi2History.front());
 }
 
 FittedInversion::FittedInversion(const GridSize& size, const FitData& data, RayTracer& tracer,
