@@ -108,6 +108,72 @@ TEST(FittedInversion, findsTheShiftOfAShotThatIsLate) {
   EXPECT_FALSE(without.fit.suspects.empty()) << "it needs the shift";
 }
 
+/// Errors that are stated too large leave room for a shift that is found by half.
+TEST(FittedInversion, findsALateShotAndThreeGrossPicksWhereErrorsAreLarge) {
+  const double depth = 4.0;
+  FitLine line = fitLine({}, twoLayerTimes(500.0, 2000.0, depth));
+  for (FitPick& pick : line.data.picks) pick.sigma = 0.0008;
+  const FitShot& late = line.data.shots[2];
+  for (std::size_t i = 0; i < late.receivers.size(); ++i) {
+    line.data.picks[late.firstPick + i].time += 0.005;
+  }
+  const std::vector<std::size_t> gross{5, late.firstPick + 12, line.data.picks.size() - 3};
+  for (const std::size_t i : gross) line.data.picks[i].time += 0.025;
+  FittedOptions options = line.options();
+  options.start = twoLayerModel(line, 500.0, 2000.0, depth);
+  options.statics = true;
+  const FittedResult result = fit(line, options);
+  EXPECT_EQ(result.end, FitEnd::kTarget) << describe(result);
+  EXPECT_EQ(result.fit.suspects, gross);
+  const double mean = 0.005 / static_cast<double>(result.statics.size());
+  for (std::size_t s = 0; s < result.statics.size(); ++s) {
+    EXPECT_NEAR(result.statics[s], (s == 2 ? 0.005 : 0.0) - mean, 0.0005) << s;
+  }
+  options.statics = false;
+  const std::vector<std::size_t> without = fit(line, options).fit.suspects;
+  const auto ofLateShot = std::count_if(without.begin(), without.end(), [&](std::size_t i) {
+    return i >= late.firstPick && i < late.firstPick + late.receivers.size();
+  });
+  EXPECT_GT(ofLateShot, 5) << "of 23";
+}
+
+TEST(FittedInversion, smoothsAStartThatFitsBetterThanTheErrorsDemand) {
+  const double depth = 4.0;
+  FitLine line = fitLine({}, twoLayerTimes(500.0, 2000.0, depth));
+  for (FitPick& pick : line.data.picks) pick.sigma = 0.001;
+  FittedOptions options = line.options();
+  options.start = twoLayerModel(line, 500.0, 2000.0, depth);
+  const FittedResult result = fit(line, options);
+  ASSERT_LT(result.chi2History.front(), 0.5) << "or the test is lame";
+  EXPECT_EQ(result.end, FitEnd::kTarget);
+  EXPECT_NEAR(result.fit.chi2, 1.0, 0.05);
+  EXPECT_GT(result.kept, 0);
+  EXPECT_LE(result.iterations, 10);
+  EXPECT_NE(describe(result).english().find("smoothed"), std::string::npos) << describe(result);
+  const std::size_t columns = line.geometry->col();
+  const auto steepest = [&](const std::vector<double>& slownesses) {
+    double most = 0.0;
+    for (std::size_t c = columns; c < slownesses.size(); ++c) {
+      most = std::max(most, std::fabs(std::log(slownesses[c] / slownesses[c - columns])));
+    }
+    return most;
+  };
+  EXPECT_LT(steepest(result.slownesses), 0.8 * steepest(options.start));
+}
+
+TEST(FittedInversion, letsGoOfStepsInTheWrongPlaces) {
+  const FitLine line = fitLine({}, twoLayerTimes(500.0, 2000.0, 3.0));
+  FittedOptions options = line.options();
+  options.start = twoLayerModel(line, 700.0, 1500.0, 8.0);
+  const FittedResult result = fit(line, options);
+  EXPECT_EQ(result.end, FitEnd::kTarget) << describe(result);
+  EXPECT_LE(result.iterations, 15);
+  EXPECT_TRUE(result.loosened);
+  EXPECT_NE(result.reference, options.start);
+  EXPECT_NE(describe(result).english().find("smoothed first"), std::string::npos);
+  EXPECT_FALSE(fit(line, line.options()).loosened) << "it has no steps";
+}
+
 TEST(FittedInversion, isTheSameWithAnyNumberOfThreads) {
   const FitLine line = fitLine({}, twoLayerTimes(500.0, 1800.0, 2.5, 0.08));
   FittedOptions options = line.options();

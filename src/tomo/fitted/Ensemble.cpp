@@ -4,6 +4,7 @@
 #include "tomo/fitted/MemberNoise.h"
 #include "tomo/fitted/ReferenceModels.h"
 #include "tomo/fitted/ShotRays.h"
+#include "tomo/fitted/ShotShifts.h"
 #include "tomo/fitted/SurveyFit.h"
 
 #include <algorithm>
@@ -70,7 +71,8 @@ void Ensemble::addModel(Message name, bool layered, std::vector<double> slowness
 
 void Ensemble::findModels() {
   const VelocityBounds bounds{mOptions.fit.minVelocity, mOptions.fit.maxVelocity};
-  ReferenceModels read = referenceModels(mData, *mGeometry, bounds);
+  ReferenceModels read =
+      referenceModels(picksOnTime(mData, mOptions.fit.triggerError), *mGeometry, bounds);
   mRefused = std::move(read.refused);
   for (ReferenceModel& model : read.models) {
     const bool layered = !model.refractors.empty();
@@ -96,6 +98,7 @@ Status Ensemble::fitModel(std::size_t number, RayTracer& tracer, const Run& run)
   if (!fit.status.ok() || fit.end == FitEnd::kStopped) return fit.status;
   const std::lock_guard<std::mutex> lock(mMutex);
   start.section = std::move(fit.slownesses);
+  if (fit.loosened) start.reference = std::move(fit.reference);
   start.lambda = fit.lambda;
   mModels[number].chi2 = fit.fit.chi2;
   mModels[number].plausible = fit.fit.chi2 <= kPlausible;

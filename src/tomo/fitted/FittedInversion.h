@@ -5,6 +5,7 @@
 #include "grid/GridGeometry.h"
 #include "model/ChiSquare.h"
 #include "tomo/fitted/FitData.h"
+#include "tomo/fitted/FitOptions.h"
 #include "tomo/fitted/RayTracer.h"
 
 #include <functional>
@@ -12,20 +13,6 @@
 #include <vector>
 
 namespace talvesk {
-
-/// What the fit starts from and what it may do.
-struct FittedOptions {
-  std::vector<double> start;      ///< s/m, one per cell
-  std::vector<double> reference;  ///< s/m, what a section departs from no more than picks ask for;
-                                  ///< empty: the start
-  double minVelocity = 50.0;      ///< m/s
-  double maxVelocity = 8000.0;    ///< m/s, above the least
-  int mostIterations = 25;        ///< at least 1
-  bool robust = true;             ///< picks that are far off count less than by their square
-  bool blocky = false;            ///< few sharp steps rather than gentle slopes
-  bool statics = false;           ///< find a time shift of every shot, too
-  double triggerError = 0.002;    ///< seconds, how far shots are thought to be off; positive
-};
 
 /// Why a fit has ended.
 enum class FitEnd {
@@ -50,6 +37,8 @@ struct FittedResult {
   FitEnd end = FitEnd::kStopped;
   int iterations = 0;               ///< completed; 0 after an early stop: the section is the start
   std::vector<double> slownesses;   ///< s/m, of the section whose chi-square is nearest to 1
+  std::vector<double> reference;    ///< s/m, that the section was held to
+  bool loosened = false;            ///< the reference is a smooth version of the one asked for
   TracedRays traced;                ///< through that section
   std::vector<double> scaled;       ///< computed minus measured over the error, with statics
   std::vector<double> statics;      ///< seconds per shot of the data, late is positive; or empty

@@ -4,6 +4,7 @@
 #include "model/GroundModel.h"
 #include "model/TomoDocument.h"
 #include "tomo/ForwardPass.h"
+#include "tomo/fitted/ShotShifts.h"
 #include "tomo/fitted/SurveyFit.h"
 
 #include <algorithm>
@@ -107,12 +108,14 @@ std::optional<References> referencesOf(const TomoDocument& document, const Fitte
   const FitData data = picksToFit(document, settings.errors);
   const unsigned threads = settings.singleThread ? 1U : searchThreads();
   const auto tracer = fitTracer(grid.sharedGeometry(), data, threads);
-  ReferenceModels made = referenceModels(data, grid.geometry(), bounds);
+  const FitData onTime = picksOnTime(data, settings.fit.triggerError);
+  ReferenceModels made = referenceModels(onTime, grid.geometry(), bounds);
   References references{std::move(made.models), std::move(made.refused)};
   std::vector<ReferenceModel>& models = references.models;
   models.push_back(givenModel(ReferenceKind::kDefault, defaultSlownesses(grid), bounds));
   models.push_back(givenModel(ReferenceKind::kPresent, grid.slownesses(), bounds));
-  if (!rankByStart(models, data, *tracer, goOn)) return std::nullopt;
+  if (!rankByStart(models, settings.fit.statics ? onTime : data, *tracer, goOn))
+    return std::nullopt;
   std::stable_partition(models.begin(), models.end(), ofPicks);
   return references;
 }

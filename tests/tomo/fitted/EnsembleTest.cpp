@@ -161,7 +161,7 @@ TEST(Ensemble, dependsOnItsSeed) {
 
 TEST(Ensemble, countsMembersThatDoNotExplainThePicks) {
   FitLine line = fitLine(kSmall, twoLayerTimes(500.0, 1800.0, 3.0));
-  for (FitPick& pick : line.data.picks) pick.sigma *= 0.83;
+  for (FitPick& pick : line.data.picks) pick.sigma *= 0.76;
   Ensemble ensemble = ensembleOf(line);
   EnsembleProgress last;
   ASSERT_TRUE(ensemble.run(12, 2, [&](const EnsembleProgress& state) { last = state; }).ok());
