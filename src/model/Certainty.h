@@ -30,6 +30,10 @@ struct CertaintyModel {
 /// How sure a section is: in what the many sections agree that explain its picks as well. Belongs
 /// to the section and the picks that it was found with. See docs/certainty.md.
 struct Certainty {
+  /// percentBeyond() up to which a section counts as one of those that the certainty tells of: a
+  /// twentieth is what chance leaves out, and as much again the choice of the members.
+  static constexpr double kMostBeyond = 10.0;
+
   int members = 0;  ///< that count
   int leftOut = 0;  ///< that do not explain the picks
   std::uint64_t seed = 0;
