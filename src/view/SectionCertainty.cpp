@@ -1,5 +1,6 @@
 #include "view/SectionCertainty.h"
 
+#include "base/TextNumber.h"
 #include "model/GroundModel.h"
 #include "model/PickFingerprint.h"
 #include "model/TomoDocument.h"
@@ -9,6 +10,8 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <sstream>
+#include <string_view>
 
 namespace talvesk {
 namespace {
@@ -153,6 +156,30 @@ CertaintyNote certaintyNoteOf(const TomoDocument& document) {
   note.picksChanged = certainty.picks != fingerprintOfPicks(document.ttArray);
   note.percentBeyond = certainty.percentBeyond(document.model->grid->velocities());
   return note;
+}
+
+bool areBandVelocities(const std::vector<double>& velocities) {
+  return velocities.size() <= kMostDepthBands &&
+         std::all_of(velocities.begin(), velocities.end(),
+                     [](double v) { return std::isfinite(v) && v > 0.0; });
+}
+
+std::optional<std::vector<double>> bandVelocitiesIn(const std::string& text) {
+  std::vector<double> velocities;
+  std::istringstream words(text);
+  for (std::string list; words >> list;) {
+    std::replace(list.begin(), list.end(), ',', ';');
+    for (const std::string_view word : splitFields(list, ';')) {
+      if (word.empty()) continue;
+      double velocity = 0.0;
+      if (parseWholeDouble(word, velocity) != NumberError::kNone) return std::nullopt;
+      velocities.push_back(velocity);
+    }
+  }
+  std::sort(velocities.begin(), velocities.end());
+  velocities.erase(std::unique(velocities.begin(), velocities.end()), velocities.end());
+  if (!areBandVelocities(velocities)) return std::nullopt;
+  return velocities;
 }
 
 ColorPalette certaintyPalette(int colors) {

@@ -6,6 +6,8 @@
 #include "view/ColorPalette.h"
 
 #include <cstddef>
+#include <optional>
+#include <string>
 #include <vector>
 
 // What a section shows of how sure it is. See docs/certainty.md.
@@ -68,5 +70,13 @@ ColorPalette certaintyPalette(int colors);
 
 /// How many velocities have their band drawn at once.
 inline constexpr std::size_t kMostDepthBands = 5;
+
+/// Whether bands of these can be drawn: numbers above 0, at most kMostDepthBands.
+bool areBandVelocities(const std::vector<double>& velocities);
+
+/// Velocities that a user has typed, between blanks, commas or semicolons: ascending, each once;
+/// none for an empty text. No value where one is no number above 0 or there are more than
+/// kMostDepthBands.
+std::optional<std::vector<double>> bandVelocitiesIn(const std::string& text);
 
 }  // namespace talvesk

@@ -77,6 +77,25 @@ TEST(SectionCertainty, depthsThatMembersWereAskedForComeFirst) {
   EXPECT_THAT(band.shallow.at(0), Each(Field(&Point2D::z, DoubleNear(96.75, 1e-9))));
 }
 
+TEST(SectionCertainty, velocitiesOfBandsAreNumbersAboveZeroAndNotTooMany) {
+  using Velocities = std::optional<std::vector<double>>;
+  const struct {
+    const char* text;
+    Velocities velocities;
+  } facts[] = {{"", Velocities({})},
+               {" 1500;800 ", Velocities({800.0, 1500.0})},
+               {"800, 1500 800.5;", Velocities({800.0, 800.5, 1500.0})},
+               {"800;800", Velocities({800.0})},
+               {"800 m/s", std::nullopt},
+               {"0", std::nullopt},
+               {"-5", std::nullopt},
+               {"nan", std::nullopt},
+               {"1e999", std::nullopt},
+               {"1 2 3 4 5 6", std::nullopt}};
+  for (const auto& fact : facts)
+    EXPECT_EQ(bandVelocitiesIn(fact.text), fact.velocities) << fact.text;
+}
+
 TEST(SectionCertainty, theSpreadHasAScaleFromNoneOnAndAPaletteOfItsOwn) {
   SectionSceneOptions options;
   options.quantity = SectionQuantity::kCertainty;
