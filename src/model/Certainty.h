@@ -3,10 +3,13 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+struct EnsembleState;
 
 /// Median, and what 16 and 84 % of the members of an ensemble stay below: one robust deviation to
 /// either side.
@@ -43,6 +46,7 @@ struct Certainty {
   std::vector<IsovalueBand> bands;
   std::vector<CertaintyModel> models;
   std::uint64_t picks = 0;  ///< fingerprintOfPicks() of those that it was found with
+  std::shared_ptr<const EnsembleState> state;  ///< with which its ensemble goes on; or none
 
   /// Half of what lies between 16 and 84 %, in percent of the median.
   double spread(std::size_t cell) const {
