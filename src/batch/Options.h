@@ -166,6 +166,7 @@ struct ExportOptions {
   std::string sgt;
   std::string vtk;
   std::string surfer;
+  std::string certainty;  ///< table of how sure the section is
   std::string kmlLine;
   std::string kmlSection;
   std::vector<std::string> images;  ///< one picture of the section per path
@@ -178,7 +179,7 @@ struct ExportOptions {
 
   bool anyOutput() const {
     return !images.empty() ||
-           !(gridded + otte + sgt + vtk + surfer + kmlLine + kmlSection + report).empty();
+           !(gridded + otte + sgt + vtk + surfer + certainty + kmlLine + kmlSection + report).empty();
   }
 };
 
