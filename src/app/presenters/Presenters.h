@@ -17,6 +17,7 @@
 #include "app/presenters/RecoveryPresenter.h"
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
+#include "app/presenters/ResolutionPresenter.h"
 #include "app/presenters/ReviewPresenter.h"
 #include "app/presenters/RunsPresenter.h"
 #include "app/presenters/SecondLookPresenter.h"
@@ -58,6 +59,7 @@ struct Presenters {
   InversionPresenter inversion;
   RunsPresenter runs;
   CertaintyPresenter certainty;
+  ResolutionPresenter resolution;
   ProcessingPresenter processing;
   ReviewPresenter review;
   RefractionPresenter refraction;
