@@ -179,7 +179,8 @@ struct ExportOptions {
 
   bool anyOutput() const {
     return !images.empty() ||
-           !(gridded + otte + sgt + vtk + surfer + certainty + kmlLine + kmlSection + report).empty();
+           !(gridded + otte + sgt + vtk + surfer + certainty + kmlLine + kmlSection + report)
+                .empty();
   }
 };
 

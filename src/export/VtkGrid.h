@@ -12,8 +12,8 @@ class TomoDocument;
 /// x distance along the line as surveyed, y 0, z elevation (metres). Per cell "Velocity (m/s)",
 /// "Slowness (s/m)", "Vertical gradient (1/s)", and "Information density" where an inversion left
 /// one; of a certainty "Median velocity (m/s)", "16 % velocity (m/s)", "84 % velocity (m/s)" and
-/// "Uncertainty (%)". Values that do not exist are not a number. Fails, with nothing written, where no cell is
-/// drawn.
+/// "Uncertainty (%)". Values that do not exist are not a number. Fails, with nothing written, where
+/// no cell is drawn.
 Status writeVtkGrid(const std::string& path, const TomoDocument& document);
 
 }  // namespace talvesk
