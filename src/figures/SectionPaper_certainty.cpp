@@ -13,7 +13,7 @@ using namespace section_items;
 
 namespace {
 
-constexpr double kHalo = 2.4;
+constexpr double kHalo = 1.6;
 const QColor kBetween(0, 0, 0, 60);
 
 QPen boundPen() {
@@ -28,7 +28,7 @@ void paintOverGround(QPainter& painter, const QPolygonF& line, const QPen& pen) 
   painter.drawPolyline(line);
 }
 
-/// Where a band carries its velocity: on the middle of its longest line.
+/// Where a band carries its velocity: on its longest line.
 const std::vector<Point2D>* labelledLine(const DepthBand& band) {
   const std::vector<Point2D>* longest = nullptr;
   for (const auto* lines : {&band.shallow, &band.deep}) {
@@ -55,13 +55,16 @@ void SectionPaperPainter::paintDepthBands() {
       for (const auto& piece : *lines) paintOverGround(mPainter, thinned(piece, mMap), boundPen());
     }
   }
-  for (const DepthBand& band : mScene.depthBands) {
-    if (const auto* line = labelledLine(band)) paintVelocity(band.velocity, *line);
+  // Bands lie over each other: each has its velocity in a place of its own along the line.
+  for (std::size_t i = 0; i < mScene.depthBands.size(); ++i) {
+    const DepthBand& band = mScene.depthBands[i];
+    const auto* line = labelledLine(band);
+    if (line == nullptr) continue;
+    paintVelocity(band.velocity, (*line)[(i + 1) * line->size() / (mScene.depthBands.size() + 1)]);
   }
 }
 
-void SectionPaperPainter::paintVelocity(double velocity, const std::vector<Point2D>& line) {
-  const Point2D& middle = line[line.size() / 2];
+void SectionPaperPainter::paintVelocity(double velocity, const Point2D& middle) {
   const QString text = FigureWords::velocity(velocity, mDress.locale);
   QPainterPath letters;
   letters.addText(QPointF(), mPainter.font(), text);

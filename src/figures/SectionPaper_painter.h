@@ -57,7 +57,7 @@ class SectionPaperPainter {
 
   void paintFading();
   void paintDepthBands();
-  void paintVelocity(double velocity, const std::vector<Point2D>& line);
+  void paintVelocity(double velocity, const Point2D& middle);
   void paintGridLines();
   void paintLines();
   void paintContourValues();
