@@ -37,7 +37,7 @@ void BackgroundCertainty::start(const TomoDocument& document, const CertaintySet
 void BackgroundCertainty::work() {
   try {
     const std::uint64_t key = ensembleKey(mDocument, mSettings);
-    if (mEnsemble == nullptr || key != mKey) mEnsemble = ensembleOf(mDocument, mSettings);
+    if (mEnsemble == nullptr || key != mKey) mEnsemble = resumedEnsemble(mDocument, mSettings);
     mKey = key;
     Certainty certainty;
     mStatus = runCertainty(

@@ -43,6 +43,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionExportSeismic_line", ":/icons/globe.png"},
     {"actionGridded_Data", ":/icons/table.png"},
     {"actionExport_tomographic_data", ":/icons/table.png"},
+    {"actionExport_certainty", ":/icons/table.png"},
     {"actionExport_VTK", ":/icons/mesh.png"},
     {"actionExport_Surfer", ":/icons/mesh.png"},
     {"actionFilter", ":/icons/filter.png"},

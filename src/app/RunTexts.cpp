@@ -1,6 +1,7 @@
 #include "app/RunTexts.h"
 
 #include "app/MessageText.h"
+#include "model/ChiSquare.h"
 #include "model/KeptRuns.h"
 #include "model/TomoDocument.h"
 
@@ -60,6 +61,11 @@ QString runSettings(const KeptRun& run) {
     words += RunTexts::tr("%1 solver iterations").arg(record.solverIterations);
     words += RunTexts::tr("smoothing parameter %1").arg(record.smoothing);
     if (record.symmetric) words += RunTexts::tr("symmetric");
+    if (run.chi2 >= 0.0) {
+      const PickErrorRule rule;
+      words += RunTexts::tr("chi-square by errors of %1 ms or %2 % where picks state none")
+                   .arg(number(rule.floor * 1000.0), number(rule.share * 100.0));
+    }
   }
   if (record.stopped) words += RunTexts::tr("stopped by the user");
   return words.join(QStringLiteral("; "));

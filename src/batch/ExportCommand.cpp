@@ -1,11 +1,13 @@
 #include "batch/Commands.h"
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
+#include "batch/FittedSection.h"
 #include "batch/Images.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/Reports.h"
 #include "batch/RunList.h"
+#include "export/CertaintyTable.h"
 #include "export/ExportFailure.h"
 #include "export/ResidualText.h"
 #include "export/SectionKml.h"
@@ -28,12 +30,16 @@ namespace talvesk {
 namespace {
 
 std::vector<OutputFile> outputsOf(const ExportOptions& options) {
-  std::vector<OutputFile> outputs = {
-      {"--gridded", options.gridded},  {"--otte", options.otte},
-      {"--sgt", options.sgt},          {"--residuals", options.residuals},
-      {"--vtk", options.vtk},          {"--grd", options.surfer},
-      {"--kml-line", options.kmlLine}, {"--kml-section", options.kmlSection},
-      {"--report", options.report}};
+  std::vector<OutputFile> outputs = {{"--gridded", options.gridded},
+                                     {"--otte", options.otte},
+                                     {"--sgt", options.sgt},
+                                     {"--residuals", options.residuals},
+                                     {"--vtk", options.vtk},
+                                     {"--grd", options.surfer},
+                                     {"--certainty-table", options.certainty},
+                                     {"--kml-line", options.kmlLine},
+                                     {"--kml-section", options.kmlSection},
+                                     {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   return outputs;
 }
@@ -80,6 +86,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
           [&](const auto& path) { return writeResiduals(path, residualTableOf(document)); });
   attempt(options.vtk, [&](const auto& path) { return writeVtkGrid(path, document); });
   attempt(options.surfer, [&](const auto& path) { return writeSurferGrid(path, document); });
+  attempt(options.certainty, [&](const auto& path) { return writeCertaintyTable(path, document); });
   attempt(options.kmlLine, [&](const auto& path) {
     const Status system = checkSystem(options);
     return system.ok() ? writeSeismicLineKml(path, document) : cannotWrite(path, system.message());
@@ -89,6 +96,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
     return system.ok() ? writeSectionKml(path, document, *colors.palette, colors.range)
                        : cannotWrite(path, system.message());
   });
+  warnAboutCertainty(document);
   const SectionFigureOptions section = sectionFigureOptions(
       project.section, project.palettes->current(), profileLines(document, project.interpretation));
   for (const std::string& image : options.images) {

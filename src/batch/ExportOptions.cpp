@@ -64,6 +64,9 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
   output("--vtk", options.vtk, ".vtu", "The drawn cells as a VTK unstructured grid, named *.vtu");
   output("--grd", options.surfer, ".grd",
          "Velocities on a regular raster as a Surfer ASCII grid, named *.grd");
+  output("--certainty-table", options.certainty, ".csv",
+         "How sure the section is, a line per drawn cell: median, 16 and 84 % and spread, named "
+         "*.csv");
   output("--otte", options.otte, ".otte", "The picks as a travel-time exchange file");
   output("--sgt", options.sgt, ".sgt", kUnifiedHelp);
   addPath(app, "--residuals", options.residuals, kResidualsHelp)->group(kOutputGroup);

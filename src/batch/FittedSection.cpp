@@ -5,10 +5,12 @@
 #include "batch/Failure.h"
 #include "batch/Interrupt.h"
 #include "io/Survey.h"
+#include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
 #include "numerics/Medians.h"
 #include "session/TableRules.h"
 #include "tomo/fitted/CertaintyRun.h"
+#include "view/SectionCertainty.h"
 
 #include <cmath>
 #include <iostream>
@@ -63,6 +65,18 @@ ReferencedRun fitSection(const InvertOptions& options, const Channels& channels,
   return run;
 }
 
+void warnAboutCertainty(const TomoDocument& document) {
+  if (!document.result->certainty || document.model->grid == nullptr) return;
+  const CertaintyNote note = certaintyNoteOf(document);
+  if (note.picksChanged) {
+    warn("how sure the section is was found out with other picks than there are now");
+  }
+  if (!note.fits()) {
+    warn("the certainty is that of other sections: this one lies beyond two deviations in " +
+         formatDouble(note.percentBeyond, 2) + " % of the cells with rays");
+  }
+}
+
 Status findCertainty(const InvertOptions& options, const Channels& channels, Survey& survey) {
   if (interruptRequested()) {
     warn("How sure the section is was not found out: stopped before");
@@ -88,6 +102,7 @@ Status findCertainty(const InvertOptions& options, const Channels& channels, Sur
     return run;
   });
   progress.finish();
+  warnAboutCertainty(survey.document);
   if (status.ok() && done < settings.members) {
     warn("How sure the section is rests on " + std::to_string(done) + " of " +
          std::to_string(settings.members) + " members: stopped by the user");

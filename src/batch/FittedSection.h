@@ -15,6 +15,9 @@ struct Survey;
 ReferencedRun fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,
                          Log& log);
 
+/// Says on standard error where the certainty of a document is not that of its section.
+void warnAboutCertainty(const TomoDocument& document);
+
 /// `invert --certainty`: how sure the fitted section of a survey is, with its progress shown. What
 /// an interrupt leaves is kept, and said on standard error.
 Status findCertainty(const InvertOptions& options, const Channels& channels, Survey& survey);

@@ -168,6 +168,7 @@ struct ExportOptions {
   std::string residuals;  ///< table
   std::string vtk;
   std::string surfer;
+  std::string certainty;  ///< table of how sure the section is
   std::string kmlLine;
   std::string kmlSection;
   std::vector<std::string> images;  ///< one picture of the section per path
@@ -179,9 +180,9 @@ struct ExportOptions {
   bool quiet = false;
 
   bool anyOutput() const {
-    return !images.empty() ||
-           !(gridded + otte + sgt + residuals + vtk + surfer + kmlLine + kmlSection + report)
-                .empty();
+    return !images.empty() || !(gridded + otte + sgt + residuals + vtk + surfer + certainty +
+                                kmlLine + kmlSection + report)
+                                   .empty();
   }
 };
 

@@ -100,20 +100,7 @@ void summarizeResolution(const ResolutionReport& report, std::ostream& out) {
 
 Status drawResolution(const ResolutionReport& report, const TomoDocument& document,
                       const std::string& path) {
-  const ResolutionResult& test = report.tests.front();
-  ResolutionPanels panels;
-  panels.geometry = document.model->grid->sharedGeometry();
-  panels.xOffset = document.model->xOffset;
-  panels.truth = test.truth;
-  panels.recovered = test.recovered;
-  panels.covered = test.covered;
-  panels.strength = test.settings.strength;
-  panels.threshold = kResolved;
-  for (const DepthResolution& each : test.byDepth) {
-    panels.depths.push_back(each.depth);
-    panels.correlations.push_back(each.correlation);
-  }
-  return writeResolutionFigure(panels, path);
+  return writeResolutionFigure(panelsOf(document, report.tests.front(), kResolved), path);
 }
 
 Json resolutionJson(const ResolutionReport& report) {

@@ -21,6 +21,7 @@
 #include "refraction/PicksFingerprint.h"
 #include "tomo/TomographyRun.h"
 #include "tomo/fitted/References.h"
+#include "view/SectionCertainty.h"
 
 namespace talvesk {
 namespace {
@@ -241,8 +242,14 @@ Json quantilesJson(const Quantiles& quantiles) {
 }
 
 /// Cells in the order of the velocities, columns along the line; low and high are 16 and 84 %.
-Json certaintyJson(const Certainty& certainty) {
+Json certaintyJson(const TomoDocument& document) {
+  const Certainty& certainty = *document.result->certainty;
+  const CertaintyNote note = certaintyNoteOf(document);
   Json json = quantilesJson(certainty.velocities);
+  json["spread_percent"] = certaintySpreads(certainty);
+  json["percent_beyond"] = note.percentBeyond;
+  json["fits"] = note.fits();
+  json["picks_changed"] = note.picksChanged;
   json["members"] = certainty.members;
   json["left_out"] = certainty.leftOut;
   json["seed"] = certainty.seed;
@@ -348,7 +355,7 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   json["computing_s"] = result.computingSeconds;
   if (fit != nullptr) {
     putFit(json, *fit);
-    if (document.result->certainty) json["certainty"] = certaintyJson(*document.result->certainty);
+    if (document.result->certainty) json["certainty"] = certaintyJson(document);
   } else {
     putChiSquare(json, "smoothed", chiSquareOf(document, residualsOf(document), errors));
   }

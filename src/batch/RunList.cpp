@@ -4,6 +4,7 @@
 #include "base/TextNumber.h"
 #include "batch/Failure.h"
 #include "io/Survey.h"
+#include "model/ChiSquare.h"
 #include "model/KeptRuns.h"
 #include "session/TableRules.h"
 #include "tomo/ForwardPass.h"
@@ -33,7 +34,15 @@ std::string changesText(const RunChanges& changes) {
 
 void list(const KeptRun& run, bool shown, const TomoDocument& document, std::ostream& out) {
   out << (shown ? "  * " : "    ") << run.number << "  " << methodOf(run);
-  if (run.chi2 >= 0.0) out << ", chi-square " << formatDouble(run.chi2);
+  if (run.chi2 >= 0.0) {
+    out << ", chi-square " << formatDouble(run.chi2);
+    // A fit has errors of its own among its settings.
+    const PickErrorRule rule;
+    if (!run.record.fit) {
+      out << " (" << formatDouble(rule.floor * kMsPerSecond) << " ms or "
+          << formatDouble(rule.share * 100.0) << " % where picks state no error)";
+    }
+  }
   if (const SectionMisfit misfit = run.misfit(); misfit.count > 0) {
     out << ", RMS " << formatDouble(misfit.rmse * kMsPerSecond) << " ms, "
         << formatDouble(misfit.relativeRms * 100.0) << " %";
@@ -62,6 +71,9 @@ Json settingsJson(const InversionRecord& record) {
     json["lambda"] = record.fit->lambda;
     return json;
   }
+  const PickErrorRule rule;  // of its chi-square
+  json["sigma_ms"] = rule.floor * kMsPerSecond;
+  json["sigma_percent"] = rule.share * 100.0;
   json["solver_iterations"] = record.solverIterations;
   json["smoothing"] = record.smoothing;
   json["smoothing_type"] = record.smoothingType;

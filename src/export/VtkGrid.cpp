@@ -5,6 +5,7 @@
 #include "model/GroundModel.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
+#include "view/SectionCertainty.h"
 #include "view/SectionValues.h"
 
 #include <QByteArray>
@@ -126,6 +127,14 @@ void writeCellData(VtuWriter& vtu, const Cells& cells, const TomoDocument& docum
       if (value < 0.0) value = kNone;  // no inversion came by this cell
     }
     vtu.array("Float64", "Information density", ofCells(cells, density));
+  }
+  const std::optional<Certainty>& certainty = document.result->certainty;
+  if (certainty && certainty->touched.size() == document.model->grid->cellCount()) {
+    const Quantiles& velocities = certainty->velocities;
+    vtu.array("Float64", "Median velocity (m/s)", ofCells(cells, velocities.median));
+    vtu.array("Float64", "16 % velocity (m/s)", ofCells(cells, velocities.low));
+    vtu.array("Float64", "84 % velocity (m/s)", ofCells(cells, velocities.high));
+    vtu.array("Float64", "Uncertainty (%)", ofCells(cells, certaintySpreads(*certainty)));
   }
   vtu.end();
 }

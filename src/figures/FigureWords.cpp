@@ -108,7 +108,7 @@ QString FigureWords::quantity(const SectionScene& scene) {
 }
 
 QString FigureWords::quantityAxis(const SectionScene& scene) {
-  const QString unit = unitOf(scene);
+  const QString unit = showsSpread(scene) ? QStringLiteral("\u00B1 %") : unitOf(scene);
   return unit.isEmpty() ? quantity(scene) : QStringLiteral("%1 [%2]").arg(quantity(scene), unit);
 }
 
@@ -152,6 +152,32 @@ QString FigureWords::picksChanged() {
   return tr("picks have changed since the inversion");
 }
 
+QString FigureWords::velocity(double velocity, const QLocale& locale) {
+  return QStringLiteral("%1 m/s").arg(number(formatDouble(velocity, 6), locale));
+}
+
+QString FigureWords::depthBand(double value, const QLocale& locale) {
+  return tr("Depth of %1, 16 to 84 %").arg(velocity(value, locale));
+}
+
+QString FigureWords::fading() {
+  return tr("Pale: uncertain, \u00B1 %1 to %2 % and no ray").arg(kSureSpread).arg(kUnsureSpread);
+}
+
+QStringList FigureWords::certaintyWarnings(const SectionScene& scene, const QLocale& locale) {
+  QStringList warnings;
+  if (!scene.certainty) return warnings;
+  if (scene.certainty->picksChanged) {
+    warnings += tr("picks have changed since the certainty was found out");
+  }
+  if (!scene.certainty->fits()) {
+    warnings += tr("certainty of other sections than this one: %1 % of its cells with rays lie "
+                   "beyond two deviations")
+                    .arg(locale.toString(scene.certainty->percentBeyond, 'f', 0));
+  }
+  return warnings;
+}
+
 QString FigureWords::refractor(std::size_t index) {
   return tr("Refractor %1").arg(index + 1);
 }
@@ -192,6 +218,14 @@ QStringList FigureWords::sectionFacts(const SectionScene& scene, double vertical
   if (scene.picksChanged) facts += picksChanged();
   if (scene.smoothed) facts += tr("smoothed since the inversion");
   if (scene.lastPassPercent >= 0.0) facts += lastPassMisfit(scene.lastPassPercent, locale);
+  if (scene.certainty) {
+    const int members = scene.certainty->members;
+    facts += showsSpread(scene)
+                 ? tr("\u00B1: half of the range from 16 to 84 % of %1 members").arg(members)
+                 : tr("certainty of %1 members").arg(members);
+    if (scene.certainty->leftOut > 0) facts += tr("%1 left out").arg(scene.certainty->leftOut);
+    facts += certaintyWarnings(scene, locale);
+  }
   const QString factor = exaggeration(verticalExaggeration, locale);
   if (!factor.isEmpty()) facts += factor;
   return facts;

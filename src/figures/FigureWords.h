@@ -53,10 +53,18 @@ struct FigureWords {
   static QString refractor(std::size_t index);     ///< "Refractor 1" for 0, the shallowest
   static QString oldRefractor(std::size_t index);  ///< the same of a profile of other picks
 
+  static QString velocity(double velocity, const QLocale& locale = QLocale::c());  ///< "800 m/s"
+  /// What the legend calls a DepthBand, and ground that fades.
+  static QString depthBand(double velocity, const QLocale& locale = QLocale::c());
+  static QString fading();
+  /// Why a section's certainty may not be its own; as a rule nothing.
+  static QStringList certaintyWarnings(const SectionScene& scene,
+                                       const QLocale& locale = QLocale::c());
+
   /// "Vertical exaggeration 2.0": height of a metre over its width; empty for 1.
   static QString exaggeration(double factor, const QLocale& locale = QLocale::c());
   /// What a reader must know of a section beside its axes: values shown, contour distance, number
-  /// of rays, misfit, and a vertical exaggeration other than 1.
+  /// of rays, misfit, what its certainty is, and a vertical exaggeration other than 1.
   static QStringList sectionFacts(const SectionScene& scene, double verticalExaggeration,
                                   const QLocale& locale = QLocale::c());
   /// The title of a document without one: what the section shows. Empty when that is no value.

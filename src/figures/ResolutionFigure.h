@@ -2,13 +2,13 @@
 
 #include "base/Status.h"
 #include "figures/FigureFile.h"
+#include "model/GroundModel.h"
+#include "model/TomoDocument.h"
 
 #include <memory>
 #include <vector>
 
 namespace talvesk {
-
-class GridGeometry;
 
 /// A pattern that was laid over a section, what came back of it, and how far they agree.
 struct ResolutionPanels {
@@ -27,6 +27,25 @@ struct ResolutionPanels {
 /// and the correlation over depth. Fails without cells.
 Status prepareResolutionFigure(const ResolutionPanels& panels, double widthMm,
                                FigureDrawing& drawing);
+
+/// The panels of a test on the grid of a document.
+/// \param test as tomo/fitted/ResolutionTest gives it, which stands beside this room
+template <typename Test>
+ResolutionPanels panelsOf(const TomoDocument& document, const Test& test, double threshold) {
+  ResolutionPanels panels;
+  panels.geometry = document.model->grid->sharedGeometry();
+  panels.xOffset = document.model->xOffset;
+  panels.truth = test.truth;
+  panels.recovered = test.recovered;
+  panels.covered = test.covered;
+  panels.strength = test.settings.strength;
+  panels.threshold = threshold;
+  for (const auto& each : test.byDepth) {
+    panels.depths.push_back(each.depth);
+    panels.correlations.push_back(each.correlation);
+  }
+  return panels;
+}
 
 Status writeResolutionFigure(const ResolutionPanels& panels, const std::string& path);
 

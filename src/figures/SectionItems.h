@@ -36,6 +36,11 @@ void paintCells(QPainter& painter, const SectionScene& scene, const ColorTable& 
 void paintSmoothCells(QPainter& painter, const SectionScene& scene, const ColorTable& colors,
                       const QTransform& map, const QRectF& canvas);
 
+/// The white of the paper over the drawn cells, as much of it as they fade. A picture of pixels in
+/// a vector file. \param canvas that it fills
+void paintFading(QPainter& painter, const SectionScene& scene, const QTransform& map,
+                 const QRectF& canvas);
+
 void paintRays(QPainter& painter, const SectionScene& scene, const QTransform& map);
 
 /// The iso-lines without their values.

@@ -130,8 +130,9 @@ SectionPaperLayout::SectionPaperLayout(const SectionScene& scene, const SectionE
     QStringList facts;
     if (!low) {
       facts = FigureWords::sectionFacts(scene, factor, dress.locale);
-    } else if (factor != 1.0) {
-      facts << FigureWords::exaggeration(factor, dress.locale);
+    } else {
+      facts = FigureWords::certaintyWarnings(scene, dress.locale);
+      if (factor != 1.0) facts << FigureWords::exaggeration(factor, dress.locale);
     }
     flow(dress, sectionLegend(scene, dress), facts, left, size.width() - kGap);
   }

@@ -38,6 +38,8 @@ struct LegendEntry {
   std::function<void(QPainter&, const QPointF& middle)> symbol;
 };
 std::vector<LegendEntry> sectionLegend(const SectionScene& scene, const SectionDress& dress);
+/// Of what is drawn of its certainty.
+std::vector<LegendEntry> certaintyLegend(const SectionScene& scene, const QLocale& locale);
 
 /// What goes where on a sheet of some size.
 struct SectionPaperLayout {

@@ -10,6 +10,7 @@
 #include <QLineF>
 #include <QPainterPath>
 #include <algorithm>
+#include <utility>
 
 // What lies on the section itself, and the legend that explains it.
 
@@ -36,8 +37,10 @@ QPen refractorPen(std::size_t index) {
 void SectionPaperPainter::paintMarks() {
   mPainter.save();
   mPainter.setClipRect(mPlot);
+  paintFading();
   mPainter.setRenderHint(QPainter::Antialiasing);
   if (mDress.gridLines) paintGridLines();
+  paintDepthBands();
   paintLines();
   paintContourValues();
   paintMarkers();
@@ -146,6 +149,8 @@ std::vector<LegendEntry> sectionLegend(const SectionScene& scene, const SectionD
     entries.push_back({name.empty() ? FigureWords::refractor(i) : QString::fromStdString(name),
                        line(refractorPen(i))});
   }
+  for (LegendEntry& entry : certaintyLegend(scene, dress.locale))
+    entries.push_back(std::move(entry));
   return entries;
 }
 

@@ -55,6 +55,9 @@ class SectionPaperPainter {
                  double angle = 0.0);
   void put(const QString& text, const QPointF& middle, double angle = 0.0);
 
+  void paintFading();
+  void paintDepthBands();
+  void paintVelocity(double velocity, const Point2D& middle);
   void paintGridLines();
   void paintLines();
   void paintContourValues();

@@ -140,6 +140,7 @@ void XmlWriter::putInteger(const char* name, Integer value) {
 template void XmlWriter::putInteger(const char*, std::int32_t);
 template void XmlWriter::putInteger(const char*, std::uint32_t);
 template void XmlWriter::putInteger(const char*, std::uint64_t);
+template void XmlWriter::putInteger(const char*, std::int64_t);
 
 bool XmlWriter::finish() {
   if (!mLevels.empty()) {

@@ -31,6 +31,7 @@ class XmlWriter {
   void put(const char* name, std::int32_t value) { putInteger(name, value); }
   void put(const char* name, std::uint32_t value) { putInteger(name, value); }
   void put(const char* name, std::uint64_t value) { putInteger(name, value); }
+  void put(const char* name, std::int64_t value) { putInteger(name, value); }
   /// Characters that XML cannot hold become blanks.
   void put(const char* name, const std::string& value);
 

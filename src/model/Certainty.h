@@ -3,10 +3,13 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace talvesk {
+
+struct EnsembleState;
 
 /// Median, and what 16 and 84 % of the members of an ensemble stay below: one robust deviation to
 /// either side.
@@ -30,6 +33,10 @@ struct CertaintyModel {
 /// How sure a section is: in what the many sections agree that explain its picks as well. Belongs
 /// to the section and the picks that it was found with. See docs/certainty.md.
 struct Certainty {
+  /// percentBeyond() up to which a section counts as one of those that the certainty tells of: a
+  /// twentieth is what chance leaves out, and as much again the choice of the members.
+  static constexpr double kMostBeyond = 10.0;
+
   int members = 0;  ///< that count
   int leftOut = 0;  ///< that do not explain the picks
   std::uint64_t seed = 0;
@@ -39,6 +46,7 @@ struct Certainty {
   std::vector<IsovalueBand> bands;
   std::vector<CertaintyModel> models;
   std::uint64_t picks = 0;  ///< fingerprintOfPicks() of those that it was found with
+  std::shared_ptr<const EnsembleState> state;  ///< with which its ensemble goes on; or none
 
   /// Half of what lies between 16 and 84 %, in percent of the median.
   double spread(std::size_t cell) const {

@@ -22,13 +22,12 @@ namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-/// Where no ray of a member passes, what the members agree in is their models, not the picks.
-std::vector<double> spreads(const TomoDocument& document) {
-  std::vector<double> values(document.model->grid->cellCount(),
-                             std::numeric_limits<double>::quiet_NaN());
-  const std::optional<Certainty>& certainty = document.result->certainty;
-  for (std::size_t cell = 0; certainty && cell < certainty->touched.size(); ++cell) {
-    if (certainty->touched[cell] > 0) values[cell] = certainty->spread(cell);
+/// Negative numbers say that a cell has no information density yet.
+std::vector<double> densities(const TomoDocument& document) {
+  std::vector<double> values = document.result->info_density;
+  values.resize(document.model->grid->cellCount(), -1.0);
+  for (double& value : values) {
+    if (value < 0.0) value = std::numeric_limits<double>::quiet_NaN();
   }
   return values;
 }
@@ -43,17 +42,12 @@ std::vector<double> valuesOf(const TomoDocument& document, SectionQuantity quant
     case SectionQuantity::kLaplacian:
       return laplacianValues(grid);
     case SectionQuantity::kCertainty:
-      return spreads(document);
+      if (!document.result->certainty) break;
+      return certaintySpreads(*document.result->certainty);
     case SectionQuantity::kInformationDensity:
-      break;
+      return densities(document);
   }
-  // Negative numbers say that a cell has no information density yet.
-  std::vector<double> values = document.result->info_density;
-  values.resize(grid.cellCount(), -1.0);
-  for (double& value : values) {
-    if (value < 0.0) value = std::numeric_limits<double>::quiet_NaN();
-  }
-  return values;
+  return std::vector<double>(grid.cellCount(), std::numeric_limits<double>::quiet_NaN());
 }
 
 /// A cell without a value is nothing to draw.
@@ -170,10 +164,33 @@ Status fillIn(const TomoDocument& document, const SectionSceneOptions& options,
     }
     scene.dataRange = {};
   }
-  scene.range = options.range ? *options.range : niceRange(scene.dataRange);
+  ValueRange shown = scene.dataRange;
+  // Half as sure is to look so: from none on.
+  if (showsSpread(scene)) shown.min = std::min(shown.min, 0.0);
+  scene.range = options.range ? *options.range : niceRange(shown);
   scene.cornerValues = cornerMeans(scene.mesh, scene.cellValues);
   if (filled) addContours(options, scene);
   return {};
+}
+
+/// What the section's certainty adds to it.
+void putCertainty(const TomoDocument& document, const SectionSceneOptions& options,
+                  SectionScene& scene) {
+  const Certainty& certainty = *document.result->certainty;
+  const bool velocities = scene.quantity == SectionQuantity::kVelocity && !scene.values.has_value();
+  if (options.fadeUncertain && velocities && scene.fill != SectionFill::kNone) {
+    scene.fading = fadingOf(certainty);
+  }
+  for (const double velocity : options.bandVelocities) {
+    if (scene.depthBands.size() >= kMostDepthBands) break;
+    DepthBand band =
+        depthBandOf(certainty, document.model->grid->geometry(), document.model->xOffset, velocity);
+    if (!band.empty()) scene.depthBands.push_back(std::move(band));
+  }
+  const bool spread = showsSpread(scene) && scene.fill != SectionFill::kNone;
+  if (spread || !scene.fading.empty() || !scene.depthBands.empty()) {
+    scene.certainty = certaintyNoteOf(document);
+  }
 }
 
 /// What its inversion tells of a section.
@@ -219,6 +236,10 @@ Point2D extreme(const SectionScene& scene, double start, Less better) {
 
 }  // namespace
 
+bool showsSpread(const SectionScene& scene) {
+  return scene.quantity == SectionQuantity::kCertainty && !scene.values;
+}
+
 Point2D SectionScene::lowerLeft() const {
   return extreme(*this, kInfinity, std::less<double>());
 }
@@ -236,6 +257,7 @@ std::vector<double> SectionScene::bandLevels() const {
 }
 
 ColorTable sectionColors(const SectionScene& scene, const ColorPalette& palette) {
+  if (showsSpread(scene)) return {certaintyPalette(palette.n_colors), scene.range};
   if (scene.fill == SectionFill::kBands) return {palette, scene.range, scene.bandLevels()};
   return {palette, scene.range};
 }
@@ -255,6 +277,10 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.mesh = sectionMesh(*document.model->grid, document.model->xOffset);
   if (Status status = fillIn(document, options, scene); !status.ok()) return status;
 
+  const std::optional<Certainty>& certainty = document.result->certainty;
+  if (certainty && certainty->touched.size() == scene.velocities.size()) {
+    putCertainty(document, options, scene);
+  }
   if (options.rays) scene.rays = rayLines(document);
   if (options.coverageLimit) scene.coverageLimit = coverageCurve(document);
   scene.refractors = options.refractors;

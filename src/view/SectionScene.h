@@ -8,6 +8,7 @@
 #include "view/ColorPalette.h"
 #include "view/ContourBands.h"
 #include "view/ContourLines.h"
+#include "view/SectionCertainty.h"
 
 #include <optional>
 #include <string>
@@ -60,6 +61,8 @@ struct SectionSceneOptions {
   bool coverageLimit = true;
   std::optional<CellValues> values;     ///< shown in place of the quantity
   std::vector<SectionLine> refractors;  ///< shown as they are
+  bool fadeUncertain = false;           ///< the velocity section, where its certainty is known
+  std::vector<double> bandVelocities;   ///< m/s, the first kMostDepthBands; the same
 };
 
 /// What a section shows, without a word on how it is drawn: every program and every output takes
@@ -82,14 +85,17 @@ struct SectionScene {
   std::vector<std::vector<Point2D>> rays;  ///< of picks; empty when not asked for
   std::vector<Point2D> coverageLimit;      ///< a curve; empty when there is none
   std::vector<SectionLine> refractors;
-  std::vector<Point2D> surface;    ///< top line of the grid, left to right
-  std::vector<Point2D> geophones;  ///< of all strings, ascending x, each place once
-  std::vector<Point2D> shots;      ///< of all records, ascending x, each place once
-  SectionMisfit misfit;            ///< of an inverted section; count 0: none
-  ChiSquare fit;                   ///< the same by the errors of the picks
-  bool picksChanged = false;       ///< since the inversion, which knew others
-  bool smoothed = false;           ///< since the inversion
-  double lastPassPercent = -1.0;   ///< relative RMS of the solver's last pass; negative: none
+  std::vector<double> fading;              ///< fadingOf() per cell; empty: none
+  std::vector<DepthBand> depthBands;       ///< in the order of their velocities
+  std::optional<CertaintyNote> certainty;  ///< where anything shown comes from it
+  std::vector<Point2D> surface;            ///< top line of the grid, left to right
+  std::vector<Point2D> geophones;          ///< of all strings, ascending x, each place once
+  std::vector<Point2D> shots;              ///< of all records, ascending x, each place once
+  SectionMisfit misfit;                    ///< of an inverted section; count 0: none
+  ChiSquare fit;                           ///< the same by the errors of the picks
+  bool picksChanged = false;               ///< since the inversion, which knew others
+  bool smoothed = false;                   ///< since the inversion
+  double lastPassPercent = -1.0;  ///< relative RMS of the solver's last pass; negative: none
 
   /// Lower left and upper right of the drawn cells, geophones and shots; without a grid, of the
   /// refractors instead of the cells.
@@ -100,6 +106,9 @@ struct SectionScene {
   std::vector<double> bandLevels() const;
 };
 
+/// Whether its colours are those of Certainty::spread().
+bool showsSpread(const SectionScene& scene);
+
 /// Puts together what the section of a document shows. Fails, with `out` unchanged, when the
 /// document has no grid, when no cell is drawn or has a value (unless the section is not filled),
 /// and for a range that is empty or not finite.
@@ -109,7 +118,8 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
 /// What there is to show before a survey has a grid: the layered profile under the geophones.
 SectionScene sceneWithoutGrid(const TomoDocument& document, std::vector<SectionLine> refractors);
 
-/// The colours that fill a section, and the bar beside it.
+/// The colours that fill a section, and the bar beside it. How sure a section is has a palette of
+/// its own.
 ColorTable sectionColors(const SectionScene& scene, const ColorPalette& palette);
 
 /// "Velocity", "Vertical gradient of velocity", ...

@@ -71,7 +71,9 @@ struct SectionViewSettings {
   bool gridLines = false;
   GeophoneMarkers geophones = GeophoneMarkers::kNormal;
   double verticalExaggeration = parameters::kExaggeration.initial;
-  bool lockRange = false;  ///< the palette's range stays when another line is shown
+  bool fadeUncertain = false;          ///< the velocity section, where it is not sure
+  std::vector<double> bandVelocities;  ///< m/s, whose band of depths is drawn; ascending
+  bool lockRange = false;              ///< the palette's range stays when another line is shown
   ContourSettings contours;
 
   bool operator==(const SectionViewSettings& other) const;

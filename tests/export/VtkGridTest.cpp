@@ -1,8 +1,8 @@
 #include "export/VtkGrid.h"
 #include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
+#include "support/CertainDocument.h"
 #include "support/ConsoleCapture.h"
-#include "support/SectionDocument.h"
 #include "support/TestFolder.h"
 
 #include <cmath>
@@ -75,6 +75,19 @@ TEST(VtkGrid, isReadByVtkWithItsCellsAndValues) {
     EXPECT_LT(bounds[4], -document.model->grid->cellCentre(cell).z);
     EXPECT_GT(bounds[5], -document.model->grid->cellCentre(cell).z);
   }
+}
+
+TEST(VtkGrid, holdsTheCertaintyWhereItIsKnown) {
+  const ConsoleCapture console;
+  const TestFolder folder;
+  ASSERT_TRUE(writeVtkGrid(folder.file("s.vtu"), certainDocument(2, 6)).ok());
+  vtkNew<vtkXMLUnstructuredGridReader> reader;
+  vtkCellData& data = *readBack(*reader, folder.file("s.vtu"))->GetCellData();
+  EXPECT_EQ(data.GetArray("Median velocity (m/s)")->GetComponent(6, 0), 500.0);
+  EXPECT_EQ(data.GetArray("16 % velocity (m/s)")->GetComponent(6, 0), 475.0);
+  EXPECT_EQ(data.GetArray("84 % velocity (m/s)")->GetComponent(6, 0), 525.0);
+  EXPECT_NEAR(data.GetArray("Uncertainty (%)")->GetComponent(6, 0), 5.0, 1e-12);
+  EXPECT_TRUE(std::isnan(data.GetArray("Uncertainty (%)")->GetComponent(5, 0)));
 }
 
 TEST(VtkGrid, holdsTheGradientOfALinearModelEverywhere) {

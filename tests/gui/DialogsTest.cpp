@@ -11,6 +11,7 @@
 #include "app/dialogs/RecordingDetailsDialog.h"
 #include "app/dialogs/RefractionProcessingDialog.h"
 #include "app/dialogs/ReportDialog.h"
+#include "app/dialogs/ResolutionDialog.h"
 #include "app/dialogs/ScreenshotDialog.h"
 #include "app/dialogs/SelectCSVDelimiterDialog.h"
 #include "app/dialogs/SettingsDialog.h"
@@ -90,6 +91,7 @@ class Dialogs : public WindowTest {
            return make<contourlines_dialog>(mContours, SectionQuantity::kVelocity,
                                             ValueRange{250.0, 900.0}, mFolders);
          }},
+        {"resolution", [&] { return make<ResolutionDialog>(document); }},
         {"certainty", [&] { return make<CertaintyDialog>(document, mCertainty); }},
         {"filters",
          [&] { return make<doFilteringDialog>(document, 0, std::vector<std::int32_t>{1}); }},

@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QDragEnterEvent>
 #include <QJsonArray>
@@ -249,6 +250,47 @@ TEST_F(Inverting, keepsTheMembersOfACertaintyThatIsStopped) {
   EXPECT_EQ(found.percentBeyond(tooFast), 100.0);
   const std::string told = child<QStatusBar>("statusBar").currentMessage().toStdString();
   EXPECT_NE(told.find(" % of the cells with rays."), std::string::npos) << told;
+}
+
+TEST_F(Inverting, testsWhatTheSurveyResolves) {
+  openLine();
+  // Without a grid the dialog says what to do.
+  dialogs.expect([](QWidget& dialog) {
+    EXPECT_FALSE(dialog.findChild<QPushButton*>(QStringLiteral("startButton"))->isEnabled());
+    static_cast<QDialog&>(dialog).reject();
+  });
+  action("actionResolution").trigger();
+  answerGrid(12.0, 2.0);
+  answerParameters(1, 2);
+  expectResults();
+  run();
+  const std::string table = home.file("resolution.csv");
+  dialogs.expect([&](QWidget& dialog) {
+    const auto button = [&](const char* name) {
+      return dialog.findChild<QPushButton*>(QLatin1String(name));
+    };
+    EXPECT_FALSE(button("tableButton")->isEnabled());
+    dialog.findChild<QCheckBox*>(QStringLiteral("severalBox"))->setChecked(false);
+    dialog.findChild<QDoubleSpinBox*>(QStringLiteral("sizeField"))->setValue(4.0);
+    // Stopped before the first test is completed, it has nothing to show and can begin again.
+    button("startButton")->click();
+    button("stopButton")->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button("startButton")->isEnabled(); }, 60000));
+    button("startButton")->click();
+    EXPECT_FALSE(button("startButton")->isEnabled());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button("tableButton")->isEnabled(); }, 60000));
+    EXPECT_EQ(dialog.findChild<QComboBox*>(QStringLiteral("shownBox"))->currentText(), "4 m");
+    EXPECT_TRUE(dialog.findChild<QLabel*>(QStringLiteral("smallestLabel"))
+                    ->text()
+                    .startsWith("Smallest size that is resolved"));
+    dialogs.expectFiles(QStringLiteral("Save table of the resolution test"),
+                        {QString::fromStdString(table)});
+    button("tableButton")->click();
+    button("closeButton")->click();
+  });
+  action("actionResolution").trigger();
+  EXPECT_THAT(TestFolder::get(table),
+              StartsWith("depth_m,size_m,cells,correlation,share,smallest_resolved_m\n1,4,"));
 }
 
 TEST_F(Inverting, tellsBelowTheSectionHowItFitsThePicksAsTheyAre) {

@@ -5,13 +5,16 @@
 #include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
-#include "support/SectionDocument.h"
+#include "support/CertainDocument.h"
+#include "view/SectionCertainty.h"
 #include "view/SectionScene.h"
 #include "widgets/section/SectionView.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QApplication>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -437,6 +440,68 @@ TEST_F(Section, aPictureOfAnySizeShowsTheWholeSection) {
   }
   EXPECT_TRUE(view().picture({0, 10}).isNull());
   EXPECT_TRUE(view().picture({100000, 100000}).isNull());
+}
+
+TEST_F(Section, uncertainGroundFadesAlikeOnTheScreenAndInFiles) {
+  const TomoDocument document = testing::certainDocument();
+  openWith(document);
+  ASSERT_TRUE(action("actionFade_uncertain").isEnabled());
+  const QImage before = view().picture(view().sheet()->size());
+  action("actionFade_uncertain").trigger();
+  EXPECT_TRUE(action("actionFade_uncertain").isChecked());
+  const QImage screen = view().picture(view().sheet()->size());
+
+  const SectionFigureOptions options = sectionFigureOptions(
+      window->session().survey().section, window->session().survey().palettes->current());
+  SectionFigureLayout layout;
+  QByteArray bytes;
+  ASSERT_TRUE(renderSectionFigure(document, options, FigureFormat::kPng, bytes, &layout).ok());
+  const QImage file = QImage::fromData(bytes);
+  const auto inFile = [&](const Point2D& p) {
+    return file.pixel(
+        static_cast<int>(layout.xToMm(p.x) / layout.widthMm * file.width()),
+        static_cast<int>(layout.elevationToMm(p.z) / layout.heightMm * file.height()));
+  };
+  const struct {
+    double x;
+    double fading;
+  } facts[] = {{105.5, 0.0}, {130.5, 0.6}, {138.5, kMostFading}};
+  for (const auto& fact : facts) {
+    for (const double z : {98.5, 94.5}) {
+      const Point2D p{fact.x, z};
+      const QPoint at = view().pointOf(p).toPoint();
+      EXPECT_LE(difference(screen.pixel(at), inFile(p)), 2) << p.x << ' ' << p.z;
+      const QColor full(before.pixel(at));
+      const auto faded = [&](int part) { return part + fact.fading * (255 - part); };
+      EXPECT_NEAR(QColor(screen.pixel(at)).red(), faded(full.red()), 9.0) << p.x;
+      EXPECT_NEAR(QColor(screen.pixel(at)).blue(), faded(full.blue()), 9.0) << p.x;
+    }
+  }
+}
+
+TEST_F(Section, depthBandsAreThoseOfTheVelocitiesAskedFor) {
+  openWith(testing::certainDocument());
+  dialogs.expect([&](QWidget& dialog) {
+    auto* field = dialog.findChild<QLineEdit*>();
+    EXPECT_FALSE(field->text().isEmpty()) << "one is proposed";
+    field->setText(QStringLiteral("700; fast"));
+    dialogs.expect([&](QWidget& warning) {
+      dialogs.expect([](QWidget& again) {
+        again.findChild<QLineEdit*>()->setText(QStringLiteral("900; 700"));
+        static_cast<QDialog&>(again).accept();
+      });
+      static_cast<QDialog&>(warning).accept();
+    });
+    static_cast<QDialog&>(dialog).accept();
+  });
+  action("actionDepth_bands").trigger();
+  EXPECT_EQ(window->session().survey().section.bandVelocities, (std::vector<double>{700.0, 900.0}));
+  EXPECT_TRUE(action("actionDepth_bands").isChecked());
+  ASSERT_EQ(view().scene()->depthBands.size(), 2U);
+  // Picks that change make it the certainty of others, which the picture says at once.
+  EXPECT_FALSE(view().scene()->certainty->picksChanged);
+  child<editTravelTimesWidget>("showTracesWidget").editPick(0, 3, 0.011);
+  EXPECT_TRUE(view().scene()->certainty->picksChanged);
 }
 
 TEST_F(Section, oddSectionsAreDrawnOrExplained) {

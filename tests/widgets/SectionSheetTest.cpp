@@ -1,6 +1,6 @@
 #include "figures/SectionFigure.h"
 #include "model/TomographyOutcome.h"
-#include "support/SectionDocument.h"
+#include "support/CertainDocument.h"
 #include "widgets/section/SectionSheet.h"
 
 #include <QBuffer>
@@ -46,6 +46,7 @@ TEST(SectionSheet, onTheScreenAndInAFileHasTheSameTicksAndTexts) {
     return 400.0 + 110.0 * row + 5.0 * c;
   });
   document.title = "Line 7";
+  document.result.edit().certainty = testing::certainDocument(14, 60).result->certainty;
   document.result.edit().rays = {{0, 5, 10}};
   const std::vector<SectionLine> refractors = {{"", {{{105.0, 95.0}, {150.0, 96.0}}}},
                                                {"Bedrock", {{{105.0, 90.0}, {150.0, 91.0}}}}};
@@ -64,7 +65,12 @@ TEST(SectionSheet, onTheScreenAndInAFileHasTheSameTicksAndTexts) {
   gradient.title = gradient.scalarBar = false;
   SectionViewSettings lines;
   lines.profile = false;
-  for (const SectionViewSettings& settings : {plain, rich, gradient, lines}) {
+  SectionViewSettings sure;
+  sure.fadeUncertain = true;
+  sure.bandVelocities = {700.0, 900.0};
+  SectionViewSettings spread;
+  spread.quantity = SectionQuantity::kCertainty;
+  for (const SectionViewSettings& settings : {plain, rich, gradient, lines, sure, spread}) {
     for (const QSize& size : {QSize(700, 500), QSize(1100, 700), QSize(1600, 1000)}) {
       auto scene = std::make_shared<SectionScene>();
       ASSERT_TRUE(buildSectionScene(document, settings, palette, refractors, *scene).ok());

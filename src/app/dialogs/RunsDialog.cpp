@@ -95,6 +95,7 @@ void RunsDialog::fillRow(int row, std::size_t run) {
   };
   put(kMethod, runMethod(each), false);
   put(kChi2, runFigure(each.chi2, each.chi2 >= 0.0));
+  table.item(row, kChi2)->setToolTip(runSettings(each));
   put(kRms, runFigure(misfit.rmse * 1000.0, known));
   put(kRelative, runFigure(misfit.relativeRms * 100.0, known));
   put(kIterations, QLocale().toString(static_cast<qulonglong>(each.iterations())));

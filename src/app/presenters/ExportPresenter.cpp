@@ -4,6 +4,7 @@
 #include "app/dialogs/ExportTomoVelData.h"
 #include "app/dialogs/setGeographyDialog.h"
 #include "app/presenters/FileExport.h"
+#include "export/CertaintyTable.h"
 #include "export/GriddedText.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"
@@ -12,6 +13,7 @@
 #include "io/Survey.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 
 namespace talvesk {
 namespace {
@@ -52,6 +54,15 @@ void ExportPresenter::exportGriddedText() {
   exportTo(mDesk, file, [&](const std::string& path) {
     return writeGriddedText(path, mDesk.document(), dialog.options());
   });
+}
+
+void ExportPresenter::exportCertainty() {
+  if (!mDesk.document().result->certainty) return;
+  const QString file = askForExport(mDesk, tr("Export Certainty Table"),
+                                    tr("Table of the certainty (*.csv);;All Files (*)"), "csv");
+  if (file.isEmpty()) return;
+  exportTo(mDesk, file,
+           [this](const std::string& path) { return writeCertaintyTable(path, mDesk.document()); });
 }
 
 void ExportPresenter::exportVtk() {

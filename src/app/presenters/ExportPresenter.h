@@ -17,6 +17,7 @@ class ExportPresenter : public QObject {
 
   void exportSection();      ///< gridded text, elevations counted from the reference one
   void exportGriddedText();  ///< the same, with Y and elevations that the user asks for
+  void exportCertainty();
   void exportVtk();
   void exportSurfer();
   void exportSectionKml();

@@ -24,6 +24,7 @@ Presenters::Presenters(Desk& desk)
       inversion(desk, models, secondLook),
       runs(desk),
       certainty(desk),
+      resolution(desk),
       processing(desk),
       review(desk),
       refraction(desk),

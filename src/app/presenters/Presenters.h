@@ -18,6 +18,7 @@
 #include "app/presenters/RefractionPresenter.h"
 #include "app/presenters/ReportPresenter.h"
 #include "app/presenters/ResidualsPresenter.h"
+#include "app/presenters/ResolutionPresenter.h"
 #include "app/presenters/ReviewPresenter.h"
 #include "app/presenters/RunsPresenter.h"
 #include "app/presenters/SecondLookPresenter.h"
@@ -60,6 +61,7 @@ struct Presenters {
   InversionPresenter inversion;
   RunsPresenter runs;
   CertaintyPresenter certainty;
+  ResolutionPresenter resolution;
   ProcessingPresenter processing;
   ReviewPresenter review;
   RefractionPresenter refraction;

@@ -1,5 +1,8 @@
 #include "app/presenters/SectionPresenter.h"
 
+#include "app/Messages.h"
+#include "app/presenters/PlainSection.h"
+#include "base/TextNumber.h"
 #include "figures/ProfileLines.h"
 #include "io/Survey.h"
 #include "model/ChiSquare.h"
@@ -10,8 +13,10 @@
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/section/SectionView.h"
 
+#include <QInputDialog>
 #include <QLabel>
 #include <QLocale>
+#include <optional>
 #include <utility>
 
 namespace talvesk {
@@ -53,6 +58,47 @@ void SectionPresenter::chooseGeophones(GeophoneMarkers size) {
   change([size](SectionViewSettings& section) { section.geophones = size; });
 }
 
+QString SectionPresenter::proposedBands() const {
+  std::vector<double> velocities = mDesk.section().bandVelocities;
+  const std::vector<IsovalueBand>& known = mDesk.document().result->certainty->bands;
+  for (std::size_t i = 0; velocities.empty() && i < known.size(); ++i) {
+    if (i < kMostDepthBands) velocities.push_back(known[i].velocity);
+  }
+  const auto scene = plainSection(mDesk.document(), SectionQuantity::kVelocity);
+  if (velocities.empty() && scene) {
+    const std::vector<double> round = roundValues(scene->dataRange, kMostRoundContours);
+    if (!round.empty()) velocities.push_back(round[round.size() / 2]);
+  }
+  QStringList words;
+  for (const double velocity : velocities) {
+    words += QString::fromStdString(exactDouble(velocity));
+  }
+  return words.join(QStringLiteral("; "));
+}
+
+void SectionPresenter::chooseDepthBands() {
+  if (!mDesk.document().result->certainty) return;
+  QString text = proposedBands();
+  std::optional<std::vector<double>> velocities;
+  while (!velocities) {
+    bool accepted = false;
+    text = QInputDialog::getText(
+        &mDesk.window, tr("Depth Bands"),
+        tr("Up to %1 &velocities in m/s; the depths at which the middle 68 % of the members "
+           "reach them are drawn as a band. None takes the bands away.")
+            .arg(kMostDepthBands),
+        QLineEdit::Normal, text, &accepted);
+    if (!accepted) return;
+    velocities = bandVelocitiesIn(text.toStdString());
+    if (!velocities) {
+      showWarning(&mDesk.window, tr("Warning"), tr("\"%1\" is no list of velocities.").arg(text),
+                  tr("Give up to %1 numbers above 0 with semicolons between them: 800; 1500")
+                      .arg(kMostDepthBands));
+    }
+  }
+  change([&](SectionViewSettings& section) { section.bandVelocities = *velocities; });
+}
+
 void SectionPresenter::resetView() {
   mDesk.showSection();
   mDesk.ui.vtk_widget->resetView();
@@ -68,6 +114,10 @@ bool SectionPresenter::showsOtherwise(const SurveyChange& change) const {
   if (change.parts.any(drawn)) return true;
   const SectionScene* scene = mDesk.ui.vtk_widget->scene();
   if (scene == nullptr) return false;
+  if (scene->certainty && change.parts.has(Part::kPicks) &&
+      certaintyNoteOf(mDesk.document()).picksChanged != scene->certainty->picksChanged) {
+    return true;
+  }
   if (change.parts.has(Part::kPicks) && picksShowOtherwise(*scene)) return true;
   if (scene->refractors.empty()) return false;
   const std::vector<SectionLine> now = refractors();

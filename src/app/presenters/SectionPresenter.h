@@ -24,6 +24,8 @@ class SectionPresenter : public QObject {
   /// Gradient, Laplacian and information density take turns; without any of them it is velocity.
   void chooseQuantity(SectionQuantity quantity, bool chosen);
   void chooseGeophones(GeophoneMarkers size);
+  /// Asks for the velocities whose depth bands are drawn; none takes them away.
+  void chooseDepthBands();
   void resetView();
 
  private:
@@ -31,6 +33,7 @@ class SectionPresenter : public QObject {
   bool showsOtherwise(const SurveyChange& change) const;
   bool picksShowOtherwise(const SectionScene& scene) const;
   std::vector<SectionLine> refractors() const;
+  QString proposedBands() const;
   QString whyNoSection() const;
   void showCursor(const SectionReading& reading);
 

@@ -208,6 +208,20 @@ const std::vector<OwnMember>& ownMembers() {
        reads([](const TomoDocument&) { return CertaintyMember(); },
              [](CertaintyMember member, TomoDocument& document, Interpretation&) {
                return installCertainty(std::move(member), document);
+             })},
+      // Behind the certainty, which it belongs to.
+      {"ensemble.xml", 1, "Ensemble",
+       Message::tr("finding out how sure the section is begins anew instead of going on"),
+       [](const TomoDocument& document, const Interpretation&) { return hasResult(document); },
+       [](const TomoDocument& document, const Interpretation&) {
+         return ensembleStateOf(document).has_value();
+       },
+       writes([](const TomoDocument& document, const Interpretation&) {
+         return ensembleStateOf(document);
+       }),
+       reads([](const TomoDocument&) { return EnsembleState(); },
+             [](EnsembleState state, TomoDocument& document, Interpretation&) {
+               return installEnsembleState(std::move(state), document);
              })}};
   return kMembers;
 }

@@ -4,10 +4,12 @@
 #include "model/GroundModel.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
+#include "tomo/fitted/CertaintyRun.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <utility>
 
 namespace talvesk {
@@ -84,6 +86,28 @@ Status installCertainty(CertaintyMember member, TomoDocument& document) {
     if (depth == kNotReached) depth = std::numeric_limits<double>::quiet_NaN();
   });
   document.result.edit().certainty = std::move(member.certainty);
+  return {};
+}
+
+std::optional<EnsembleState> ensembleStateOf(const TomoDocument& document) {
+  const std::optional<Certainty>& certainty = document.result->certainty;
+  if (!certainty || certainty->state == nullptr) return std::nullopt;
+  return *certainty->state;
+}
+
+Status installEnsembleState(EnsembleState state, TomoDocument& document) {
+  const std::optional<Certainty>& certainty = document.result->certainty;
+  if (!certainty || !isStateOf(state, document)) {
+    return Status::failure(Message::tr("it does not go with the certainty of the project"));
+  }
+  // Read once to see whether it can be: what asks for it later would only begin anew.
+  std::vector<double> isovalues;
+  for (const IsovalueBand& band : certainty->bands) isovalues.push_back(band.velocity);
+  EnsembleCounts counts(document.model->grid->geometry(), isovalues);
+  if (!counts.restore(state, certainty->members) || counts.touched() != certainty->touched) {
+    return Status::failure(Message::tr("what it counts cannot be"));
+  }
+  document.result.edit().certainty->state = std::make_shared<const EnsembleState>(std::move(state));
   return {};
 }
 

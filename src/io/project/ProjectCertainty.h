@@ -2,6 +2,7 @@
 
 #include "base/Status.h"
 #include "model/Certainty.h"
+#include "model/EnsembleState.h"
 
 #include <optional>
 
@@ -20,5 +21,11 @@ std::optional<CertaintyMember> certaintyOf(const TomoDocument& document);
 /// Gives a document, whose grid and result are there, what its project kept. Fails, with the
 /// document as it was, when the member is about another section or tells what cannot be.
 Status installCertainty(CertaintyMember member, TomoDocument& document);
+
+/// What its ensemble goes on with, where the certainty has it.
+std::optional<EnsembleState> ensembleStateOf(const TomoDocument& document);
+/// Gives it to a certainty that is there already. Fails, with the document as it was, when it is of
+/// another section or tells what cannot be.
+Status installEnsembleState(EnsembleState state, TomoDocument& document);
 
 }  // namespace talvesk

@@ -93,6 +93,8 @@ void describe(V& fields, SectionViewSettings& section) {
   fields.optional("verticalExaggeration", section.verticalExaggeration);
   fields.optional("lockRange", section.lockRange);
   fields.optional("contours", section.contours);
+  fields.optional("fade_uncertain", section.fadeUncertain);
+  fields.optional("depth_bands", section.bandVelocities);
 }
 
 template <class V>
@@ -211,6 +213,17 @@ void describe(V& fields, CertaintyMember& member) {
   fields("members_with_rays", member.certainty.touched);
   fields("depths", member.certainty.bands);
   fields("models", member.certainty.models);
+}
+
+template <class V>
+void describe(V& fields, EnsembleState& state) {
+  fields("key", state.key);
+  fields("start", state.start);
+  fields("members", state.members);
+  fields("bins", state.bins);
+  fields("sums", state.sums);
+  fields("squares", state.squares);
+  fields("members_with_rays", state.touched);
 }
 
 template <class V>

@@ -167,6 +167,10 @@ void repairSection(SectionViewSettings& section, Repairs& repairs) {
   }
   repairExaggeration(section.verticalExaggeration, repairs);
   repairContours(section.contours, repairs);
+  if (!areBandVelocities(section.bandVelocities)) {
+    section.bandVelocities.clear();
+    repairs.push_back(Message::tr("its depth bands cannot be drawn so; there are none now"));
+  }
 }
 
 /// What is not a number is not known; what is one must be small enough.

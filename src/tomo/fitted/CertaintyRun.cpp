@@ -8,6 +8,7 @@
 #include "tomo/ForwardPass.h"
 #include "tomo/fitted/SurveyFit.h"
 
+#include <cmath>
 #include <exception>
 
 namespace talvesk {
@@ -28,7 +29,16 @@ Certainty gathered(const Ensemble& ensemble, const TomoDocument& document,
     certainty.models.push_back({model.name.english(), model.chi2, model.members});
   }
   certainty.picks = fingerprintOfPicks(document.ttArray);
+  EnsembleState state = ensemble.state();
+  state.key = ensembleKey(document, settings);
+  if (state.numbers() <= EnsembleState::kMostNumbers) {
+    certainty.state = std::make_shared<const EnsembleState>(std::move(state));
+  }
   return certainty;
+}
+
+std::uint64_t rounded(double slowness) {
+  return static_cast<std::uint64_t>(std::llround(1000.0 / slowness));
 }
 
 }  // namespace
@@ -40,6 +50,30 @@ std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
   if (options.fit.start.empty()) options.fit.start = grid.slownesses();
   return std::make_unique<Ensemble>(grid.sharedGeometry(), picksToFit(document, settings.errors),
                                     std::move(options));
+}
+
+std::unique_ptr<Ensemble> resumedEnsemble(const TomoDocument& document,
+                                          const CertaintySettings& settings) {
+  const std::optional<Certainty>& known = document.result->certainty;
+  if (known && known->state && known->state->key == ensembleKey(document, settings) &&
+      isStateOf(*known->state, document)) {
+    CertaintySettings kept = settings;
+    kept.ensemble.fit.start = known->state->start;
+    auto ensemble = ensembleOf(document, kept);
+    if (ensemble->restore(*known->state)) return ensemble;
+  }
+  return ensembleOf(document, settings);
+}
+
+bool isStateOf(const EnsembleState& state, const TomoDocument& document) {
+  if (document.model->grid == nullptr) return false;
+  const std::vector<double>& section = document.model->grid->slownesses();
+  return state.numbers() <= EnsembleState::kMostNumbers &&
+         state.members.size() <= static_cast<std::size_t>(parameters::kMembers.limits.most) &&
+         std::equal(state.start.begin(), state.start.end(), section.begin(), section.end(),
+                    [](double a, double b) {
+                      return std::isfinite(a) && a > 0.0 && rounded(a) == rounded(b);
+                    });
 }
 
 CertaintySettings certaintySettings(const TomoDocument& document) {
@@ -73,7 +107,7 @@ std::uint64_t ensembleKey(const TomoDocument& document, const CertaintySettings&
   }
   for (const double z : grid.geometry().surfaceProfile()) key.take(z);
   for (const auto* model : {&grid.slownesses(), &fit.start}) {
-    for (const double slowness : *model) key.take(slowness);
+    for (const double slowness : *model) key.take(rounded(slowness));
   }
   for (const double value : {grid.aLato(), fit.minVelocity, fit.maxVelocity, fit.triggerError}) {
     key.take(value);

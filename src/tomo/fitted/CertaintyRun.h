@@ -29,7 +29,16 @@ std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
 /// The settings with which the section of a document was fitted; where it was not, the usual ones.
 CertaintySettings certaintySettings(const TomoDocument& document);
 
-/// Tells ensembles apart: members of ensembles with one key are the same.
+/// The same, with the members that are done where a certainty of the document keeps them for these
+/// settings.
+std::unique_ptr<Ensemble> resumedEnsemble(const TomoDocument& document,
+                                          const CertaintySettings& settings);
+
+/// Whether the state of an ensemble, as a project has kept it, can be one of a document's section.
+bool isStateOf(const EnsembleState& state, const TomoDocument& document);
+
+/// Tells ensembles apart: members of ensembles with one key are the same. The section counts to a
+/// millimetre per second, as it comes back from a project.
 std::uint64_t ensembleKey(const TomoDocument& document, const CertaintySettings& settings);
 
 /// How sure a document's section is. Whatever stops the run, what is found of members until then is

@@ -58,7 +58,42 @@ Ensemble::Ensemble(std::shared_ptr<const GridGeometry> geometry, FitData data,
 Ensemble::~Ensemble() = default;
 
 int Ensemble::done() const {
-  return static_cast<int>(std::count(mDone.begin(), mDone.end(), true));
+  return static_cast<int>(
+      mMembers.size() -
+      static_cast<std::size_t>(std::count(mMembers.begin(), mMembers.end(), EnsembleState::kOpen)));
+}
+
+int Ensemble::leftOut() const {
+  return static_cast<int>(std::count(mMembers.begin(), mMembers.end(), EnsembleState::kLeftOut));
+}
+
+EnsembleState Ensemble::state() const {
+  EnsembleState state;
+  state.start = mOptions.fit.start;
+  state.members = mMembers;
+  mCounts.save(state);
+  return state;
+}
+
+bool Ensemble::restore(const EnsembleState& state) {
+  const auto& members = state.members;
+  const bool known = std::all_of(members.begin(), members.end(),
+                                 [](std::uint8_t m) { return m <= EnsembleState::kLeftOut; });
+  const auto counting = std::count(members.begin(), members.end(), EnsembleState::kCounts);
+  if (!known || state.start != mOptions.fit.start ||
+      !mCounts.restore(state, static_cast<int>(counting))) {
+    return false;
+  }
+  mMembers = members;
+  return true;
+}
+
+/// How many of its members each model has, of those that were done by an earlier run, too.
+void Ensemble::countMembers() {
+  for (EnsembleModel& model : mModels) model.members = 0;
+  for (std::size_t k = 0; k < mMembers.size(); ++k) {
+    if (mMembers[k] == EnsembleState::kCounts) ++mModels[modelOf(k)].members;
+  }
 }
 
 void Ensemble::addModel(Message name, bool layered, std::vector<double> slownesses) {
@@ -147,12 +182,10 @@ Status Ensemble::fitMember(std::size_t number, RayTracer& tracer, const Run& run
   const bool counts = chi2AsMeasured(fit) <= kPlausible;
   const std::vector<bool> touched = touchedCells(fit.traced.rays, fit.slownesses.size());
   const std::lock_guard<std::mutex> lock(mMutex);
-  mDone[number] = true;
+  mMembers[number] = counts ? EnsembleState::kCounts : EnsembleState::kLeftOut;
   if (counts) {
     mCounts.add(fit.slownesses, touched);
     ++mModels[model].members;
-  } else {
-    ++mLeftOut;
   }
   tell(run);
   return {};
@@ -166,7 +199,7 @@ void Ensemble::tell(const Run& run) const {
       mStarts.begin(), mStarts.end(), [](const Start& each) { return !each.section.empty(); }));
   state.members = done();
   state.ofMembers = run.members;
-  state.leftOut = mLeftOut;
+  state.leftOut = leftOut();
   run.progress(state);
 }
 
@@ -210,12 +243,13 @@ Status Ensemble::run(int members, unsigned threads,
                     "stated too small, or shots may be shifted in time.")
             .arg(kPlausible));
   }
-  if (mDone.size() < static_cast<std::size_t>(members)) {
-    mDone.resize(static_cast<std::size_t>(members), false);
+  countMembers();
+  if (mMembers.size() < static_cast<std::size_t>(members)) {
+    mMembers.resize(static_cast<std::size_t>(members), EnsembleState::kOpen);
   }
   open.clear();
   for (std::size_t k = 0; k < static_cast<std::size_t>(members); ++k) {
-    if (!mDone[k]) open.push_back(k);
+    if (mMembers[k] == EnsembleState::kOpen) open.push_back(k);
   }
   return forEach(open, run, &Ensemble::fitMember);
 }

@@ -3,6 +3,7 @@
 #include "base/Message.h"
 #include "base/Status.h"
 #include "grid/GridGeometry.h"
+#include "model/EnsembleState.h"
 #include "tomo/fitted/EnsembleCounts.h"
 #include "tomo/fitted/FitData.h"
 #include "tomo/fitted/FittedInversion.h"
@@ -64,8 +65,12 @@ class Ensemble {
              const std::function<bool()>& goOn = {});
 
   // Not to be called while run() runs.
-  int done() const;                         ///< members, those left out included
-  int leftOut() const { return mLeftOut; }  ///< members that do not explain the picks as measured
+  /// What is done, for an ensemble of the same survey and options; without a key.
+  EnsembleState state() const;
+  /// Goes on from there. False, with nothing changed, where the state is none of this ensemble.
+  bool restore(const EnsembleState& state);
+  int done() const;     ///< members, those left out included
+  int leftOut() const;  ///< members that do not explain the picks as measured
   const EnsembleCounts& counts() const { return mCounts; }  ///< of the other ones
   const std::vector<EnsembleModel>& models() const { return mModels; }
   const std::vector<Message>& refused() const { return mRefused; }  ///< models, with the reason
@@ -83,16 +88,16 @@ class Ensemble {
   Status fitMember(std::size_t number, RayTracer& tracer, const Run& run);
   FittedOptions optionsFrom(std::vector<double> start, const std::vector<double>& reference) const;
   double chi2AsMeasured(const FittedResult& fit) const;
+  void countMembers();
   void tell(const Run& run) const;
 
   const std::shared_ptr<const GridGeometry> mGeometry;
   const FitData mData;
   const EnsembleOptions mOptions;
   std::vector<EnsembleModel> mModels;
-  std::vector<Start> mStarts;  ///< of the models, as many
-  std::vector<bool> mDone;     ///< per member
+  std::vector<Start> mStarts;          ///< of the models, as many
+  std::vector<std::uint8_t> mMembers;  ///< EnsembleState::Member of each
   std::vector<Message> mRefused;
-  int mLeftOut = 0;
   EnsembleCounts mCounts;
   std::mutex mMutex;  ///< of what the parts of a run add to
 };

@@ -1,5 +1,7 @@
 #include "tomo/fitted/EnsembleCounts.h"
 
+#include "model/EnsembleState.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -15,6 +17,9 @@ constexpr double kFixedPoint = 1 << 20;  // ln v < 10: squares of 65536 members 
 std::int32_t binAt(double place) {
   return static_cast<std::int32_t>(std::floor(place));
 }
+// What a stored count can be: far beyond any velocity and depth, and far from an overflow.
+constexpr std::int64_t kMostBin = 1000000;
+constexpr std::int64_t kMostSquare = 100 * (std::int64_t{1} << 40);  // of ln v < 10, fixed point
 
 template <typename Value>
 Quantiles quantilesOf(const std::vector<BinCounts>& counts, Value value) {
@@ -130,6 +135,69 @@ void EnsembleCounts::add(const EnsembleCounts& other) {
       mDepthCounts[i][column].add(other.mDepthCounts[i][column]);
     }
   }
+}
+
+template <typename Self, typename Visit>
+void EnsembleCounts::forEachBins(Self& self, Visit visit) {
+  for (auto& cell : self.mCells) visit(cell, false);
+  for (auto& columns : self.mDepthCounts) {
+    for (auto& column : columns) visit(column, true);
+  }
+}
+
+void EnsembleCounts::save(EnsembleState& state) const {
+  state.bins.clear();
+  forEachBins(*this, [&](const BinCounts& counts, bool) {
+    state.bins.push_back(static_cast<std::int64_t>(counts.bins().size()));
+    for (const auto& [bin, times] : counts.bins()) {
+      state.bins.push_back(bin);
+      state.bins.push_back(times);
+    }
+  });
+  state.sums = mSums;
+  state.squares = mSquares;
+  state.touched = mTouched;
+}
+
+bool EnsembleCounts::restore(const EnsembleState& state, int members) {
+  const std::size_t cells = mCells.size();
+  if (members < 0 || state.sums.size() != cells || state.squares.size() != cells ||
+      state.touched.size() != cells) {
+    return false;
+  }
+  const auto isShare = [&](std::int64_t count) { return count >= 0 && count <= members; };
+  const auto within = [](std::int64_t value, std::int64_t most) {
+    return value >= -most && value <= most;
+  };
+  const auto isSum = [&](std::int64_t sum) { return within(sum, members * kMostSquare); };
+  EnsembleCounts read = *this;
+  std::size_t at = 0;
+  bool sound = std::all_of(state.touched.begin(), state.touched.end(), isShare) &&
+               std::all_of(state.sums.begin(), state.sums.end(), isSum) &&
+               std::all_of(state.squares.begin(), state.squares.end(), isSum);
+  forEachBins(read, [&](BinCounts& counts, bool depths) {
+    counts = {};
+    sound = sound && at < state.bins.size();
+    const std::int64_t size = sound ? state.bins[at++] : -1;
+    sound =
+        sound && isShare(size) && static_cast<std::size_t>(size) <= (state.bins.size() - at) / 2;
+    for (std::int64_t i = 0; sound && i < size; ++i, at += 2) {
+      const std::int64_t bin = state.bins[at];
+      const std::int64_t times = state.bins[at + 1];
+      sound = (within(bin, kMostBin) || (depths && bin == BinCounts::kBeyond)) && times > 0 &&
+              isShare(times);
+      if (sound) counts.add(static_cast<std::int32_t>(bin), static_cast<std::uint32_t>(times));
+    }
+    sound = sound && counts.count() == static_cast<std::uint64_t>(members) &&
+            counts.bins().size() == static_cast<std::size_t>(size);
+  });
+  if (!sound || at != state.bins.size()) return false;
+  read.mSums = state.sums;
+  read.mSquares = state.squares;
+  read.mTouched = state.touched;
+  read.mMembers = members;
+  *this = std::move(read);
+  return true;
 }
 
 Quantiles EnsembleCounts::velocities() const {

@@ -9,6 +9,8 @@
 
 namespace talvesk {
 
+struct EnsembleState;
+
 /// How many values fell into each of many narrow bins. What is asked of it does not depend on the
 /// order in which they came, to the last bit, nor does its memory grow for ever with their number.
 class BinCounts {
@@ -17,6 +19,7 @@ class BinCounts {
 
   void add(std::int32_t bin, std::uint32_t times = 1);
   void add(const BinCounts& other);
+  const std::vector<std::pair<std::int32_t, std::uint32_t>>& bins() const { return mBins; }
   std::uint64_t count() const { return mCount; }
 
   /// The place of a quantile, in bins: 2.5 is the middle of bin 2. Between two values it lies on
@@ -45,6 +48,12 @@ class EnsembleCounts {
   /// Of the same grid and isovalues.
   void add(const EnsembleCounts& other);
 
+  /// Puts what there is to know of the counts into a state.
+  void save(EnsembleState& state) const;
+  /// Takes the counts of one. False, with these as they were, where they are none of this grid and
+  /// these isovalues. \param members that they are of
+  bool restore(const EnsembleState& state, int members);
+
   int members() const { return mMembers; }
   Quantiles velocities() const;            ///< m/s per cell; empty vectors without members
   std::vector<double> deviations() const;  ///< of ln velocity, per cell
@@ -52,6 +61,8 @@ class EnsembleCounts {
   std::vector<IsovalueBand> bands() const;
 
  private:
+  template <typename Self, typename Visit>
+  static void forEachBins(Self& self, Visit visit);  ///< in the order of a state
   double depthOf(double velocity, std::uint32_t column,
                  const std::vector<double>& slownesses) const;
 

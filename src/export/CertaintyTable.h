@@ -1,0 +1,18 @@
+#pragma once
+
+#include "base/Status.h"
+
+#include <string>
+
+namespace talvesk {
+
+class TomoDocument;
+
+/// Writes how sure a section is as a table with a heading, fields separated by commas, a line per
+/// drawn cell: distance along the line, elevation and depth of its centre (metres), velocity of the
+/// section, median and what 16 and 84 % of the members stay below (m/s), spread (half of that range
+/// in percent of the median) and how many members have a ray in it. The spread is empty where none
+/// has. Fails, with nothing written, without a grid and where no certainty is known.
+Status writeCertaintyTable(const std::string& path, const TomoDocument& document);
+
+}  // namespace talvesk
