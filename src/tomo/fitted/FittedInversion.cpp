@@ -1,5 +1,7 @@
 #include "tomo/fitted/FittedInversion.h"
 
+#include "tomo/fitted/KnownPrior.h"
+#include "tomo/fitted/KnownReference.h"
 #include "tomo/fitted/LambdaSearch.h"
 #include "tomo/fitted/Roughness.h"
 #include "tomo/fitted/StepSolver.h"
@@ -67,7 +69,10 @@ class FittedInversion::Fit {
         mOptions(std::move(options)),
         mCells(index(static_cast<std::size_t>(size.cellCount()))),
         mShifts(mOptions.statics ? index(data.shots.size()) : 0),
-        mRoughness(size.righe, size.col) {}
+        mKnown(mOptions.known),
+        mRoughness(size.righe, size.col) {
+    if (!mKnown.loose().empty()) mRoughness.loosen(mKnown.loose());
+  }
 
   Message invalid() const;
   FittedResult run(const std::function<void(const FitProgress&)>& progress,
@@ -98,6 +103,7 @@ class FittedInversion::Fit {
   const FittedOptions mOptions;
   const Eigen::Index mCells;
   const Eigen::Index mShifts;  ///< shots with a time shift of their own
+  const KnownPrior mKnown;
   Roughness mRoughness;
   StepSolver mSolver;
   Vector mReference;
@@ -115,9 +121,14 @@ Section FittedInversion::Fit::start() {
     for (std::size_t c = 0; c < slownesses.size(); ++c) values[index(c)] = std::log(slownesses[c]);
     return values;
   };
-  mReference = logarithms(mOptions.reference.empty() ? mOptions.start : mOptions.reference);
+  const auto bent = [&](const std::vector<double>& slownesses) {
+    return bentToKnown(mKnown.cells(), mSize, slownesses);
+  };
+  const bool ownReference = !mOptions.reference.empty() && mOptions.reference != mOptions.start;
+  mReference = logarithms(bent(ownReference ? mOptions.reference : mOptions.start));
+  mKnown.fix(mReference);
   Section section;
-  section.unknowns = logarithms(mOptions.start);
+  section.unknowns = ownReference ? logarithms(mOptions.start) : mReference;
   limit(section.unknowns);
   return section;
 }
@@ -132,6 +143,7 @@ void FittedInversion::Fit::limit(Vector& unknowns) const {
   const double least = -std::log(mOptions.maxVelocity);
   const double most = -std::log(mOptions.minVelocity);
   unknowns.head(mCells) = unknowns.head(mCells).cwiseMax(least).cwiseMin(most);
+  mKnown.fix(unknowns);
 }
 
 /// \return false when it was stopped
@@ -142,6 +154,7 @@ bool FittedInversion::Fit::evaluate(Section& section, const std::function<bool()
     section.slownesses[c] = std::clamp(std::exp(section.unknowns[index(c)]),
                                        1.0 / mOptions.maxVelocity, 1.0 / mOptions.minVelocity);
   }
+  mKnown.fix(section.slownesses);
   if (!mTracer.trace(section.slownesses, section.traced, goOn)) return false;
   section.scaled.resize(mData.picks.size());
   for (std::size_t s = 0; s < mData.shots.size(); ++s) {
@@ -186,7 +199,7 @@ double FittedInversion::Fit::objective(const Section& section, double huber) con
     sum += size <= huber ? u * u : 2.0 * huber * size - huber * huber;
   }
   const Vector departure = section.unknowns - mReference;
-  return sum + departure.dot(mPrior * departure);
+  return sum + departure.dot(mPrior * departure) + mKnown.cost(section.unknowns);
 }
 
 LinearStep FittedInversion::Fit::linearize(const Section& section, double huber) const {
@@ -220,11 +233,13 @@ LinearStep FittedInversion::Fit::linearize(const Section& section, double huber)
   const double least = -std::log(mOptions.maxVelocity);
   const double most = -std::log(mOptions.minVelocity);
   problem.held.resize(static_cast<std::size_t>(mCells));
+  mKnown.addTo(section.unknowns, problem);
   for (Eigen::Index c = 0; c < mCells; ++c) {
     const double value = section.unknowns[c];
     const double pull = problem.gradient[c];
-    problem.held[static_cast<std::size_t>(c)] =
-        (value <= least && pull < 0.0) || (value >= most && pull > 0.0);
+    if ((value <= least && pull < 0.0) || (value >= most && pull > 0.0)) {
+      problem.held[static_cast<std::size_t>(c)] = true;
+    }
   }
   return problem;
 }
@@ -265,6 +280,7 @@ bool FittedInversion::Fit::search(const Section& from, const Vector& step, doubl
 /// picks and roughness ask for. \return false when it was stopped
 bool FittedInversion::Fit::cross(const Section& from, Section& to,
                                  const std::function<bool()>& goOn) {
+  if (from.iteration == 0 && mKnown.any()) return true;  // half-way there is half of what is known
   const double farthest = std::log(kNearEnough);
   Section low = from;
   if (from.distance() > farthest || (from.fit.chi2 > 1.0) == (to.fit.chi2 > 1.0)) return true;
@@ -425,7 +441,9 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
     }
     mHistory.push_back(section.fit.chi2);
     section.iteration = static_cast<int>(mHistory.size()) - 1;
-    if (section.distance() < best.distance()) best = section;
+    // A start knows nothing of the ground that a section is held to.
+    const bool first = section.iteration == 1 && mKnown.any();
+    if (first || section.distance() < best.distance()) best = section;
     tell();
     if (mDamping > 0.0 && section.fit.chi2 < 1.0) lambda.restart(section.lambda * (1.0 + mDamping));
     mDamping = nextDamping();

@@ -5,6 +5,7 @@
 #include "grid/GridGeometry.h"
 #include "model/ChiSquare.h"
 #include "tomo/fitted/FitData.h"
+#include "tomo/fitted/KnownCells.h"
 #include "tomo/fitted/RayTracer.h"
 
 #include <functional>
@@ -25,6 +26,7 @@ struct FittedOptions {
   bool blocky = false;            ///< few sharp steps rather than gentle slopes
   bool statics = false;           ///< find a time shift of every shot, too
   double triggerError = 0.002;    ///< seconds, how far shots are thought to be off; positive
+  std::shared_ptr<const KnownCells> known;  ///< of the same grid; null: nothing is known
 };
 
 /// Why a fit has ended.
