@@ -39,6 +39,7 @@ void SectionPaperPainter::paintMarks() {
   mPainter.setRenderHint(QPainter::Antialiasing);
   if (mDress.gridLines) paintGridLines();
   paintLines();
+  paintKnown();
   paintContourValues();
   paintMarkers();
   mPainter.restore();
@@ -145,6 +146,24 @@ std::vector<LegendEntry> sectionLegend(const SectionScene& scene, const SectionD
     const std::string& name = scene.refractors[i].name;
     entries.push_back({name.empty() ? FigureWords::refractor(i) : QString::fromStdString(name),
                        line(refractorPen(i))});
+  }
+  const auto outlined = [](const QPen& pen) {
+    return [pen](QPainter& painter, const QPointF& middle) {
+      painter.setPen(pen);
+      painter.setBrush(Qt::NoBrush);
+      painter.drawRect(QRectF(middle - QPointF(7, 4), middle + QPointF(7, 4)));
+    };
+  };
+  if (!scene.known.boreholes.empty()) {
+    entries.push_back({FigureWords::tr("Boreholes"), outlined(kSurfacePen)});
+  }
+  if (!scene.known.depths.empty()) {
+    entries.push_back({FigureWords::tr("Known depths"), [](QPainter& painter, const QPointF& at) {
+                         paintKnownDepth(painter, at, 7.0, 7.0);
+                       }});
+  }
+  if (!scene.known.bodies.empty()) {
+    entries.push_back({FigureWords::tr("Fixed bodies"), outlined({Qt::black, 1.6, Qt::DashLine})});
   }
   return entries;
 }

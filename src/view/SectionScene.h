@@ -8,6 +8,7 @@
 #include "view/ColorPalette.h"
 #include "view/ContourBands.h"
 #include "view/ContourLines.h"
+#include "view/KnownMarks.h"
 
 #include <optional>
 #include <string>
@@ -58,6 +59,7 @@ struct SectionSceneOptions {
   bool contourLines = true;  ///< false: levels for the bands only
   bool rays = false;
   bool coverageLimit = true;
+  bool known = true;                    ///< what is known of the ground from elsewhere
   std::optional<CellValues> values;     ///< shown in place of the quantity
   std::vector<SectionLine> refractors;  ///< shown as they are
 };
@@ -82,6 +84,7 @@ struct SectionScene {
   std::vector<std::vector<Point2D>> rays;  ///< of picks; empty when not asked for
   std::vector<Point2D> coverageLimit;      ///< a curve; empty when there is none
   std::vector<SectionLine> refractors;
+  KnownMarks known;                ///< empty when it is not asked for
   std::vector<Point2D> surface;    ///< top line of the grid, left to right
   std::vector<Point2D> geophones;  ///< of all strings, ascending x, each place once
   std::vector<Point2D> shots;      ///< of all records, ascending x, each place once

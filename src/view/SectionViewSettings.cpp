@@ -46,8 +46,9 @@ bool ContourSettings::operator==(const ContourSettings& other) const {
 
 bool SectionViewSettings::operator==(const SectionViewSettings& other) const {
   const auto parts = [](const SectionViewSettings& s) {
-    return std::tie(s.profile, s.smooth, s.quantity, s.rays, s.refraction, s.scalarBar, s.title,
-                    s.gridLines, s.geophones, s.verticalExaggeration, s.lockRange, s.contours);
+    return std::tie(s.profile, s.smooth, s.quantity, s.rays, s.refraction, s.known, s.scalarBar,
+                    s.title, s.gridLines, s.geophones, s.verticalExaggeration, s.lockRange,
+                    s.contours);
   };
   return parts(*this) == parts(other);
 }
@@ -139,6 +140,7 @@ SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const Colo
   }
   options.contourLines = settings.quantity != SectionQuantity::kVelocity || contours.onProfile;
   options.rays = settings.rays;
+  options.known = settings.known;
   return options;
 }
 
