@@ -29,6 +29,7 @@ constexpr Page kPages[] = {
     {"select_speed_Dialog", "inversion.html"},
     {"runTomography_Dialog", "inversion.html"},
     {"SecondLookDialog", "fit.html"},
+    {"KnownGroundDialog", "fit.html"},
     {"progressTomographyDialog", "inversion.html"},
     {"smoothingDialog", "inversion.html"},
     {"RefractionProcessingDialog", "refraction.html"},
