@@ -21,6 +21,7 @@ Presenters::Presenters(Desk& desk)
       models(desk, geometry),
       secondLook(desk),
       inversion(desk, models, secondLook),
+      known(desk),
       runs(desk),
       certainty(desk),
       processing(desk),

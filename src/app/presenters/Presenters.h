@@ -8,6 +8,7 @@
 #include "app/presenters/GeometryPresenter.h"
 #include "app/presenters/HelpPresenter.h"
 #include "app/presenters/InversionPresenter.h"
+#include "app/presenters/KnownGroundPresenter.h"
 #include "app/presenters/ModelPresenter.h"
 #include "app/presenters/PalettePresenter.h"
 #include "app/presenters/ProcessingPresenter.h"
@@ -56,6 +57,7 @@ struct Presenters {
   ModelPresenter models;
   SecondLookPresenter secondLook;
   InversionPresenter inversion;
+  KnownGroundPresenter known;
   RunsPresenter runs;
   CertaintyPresenter certainty;
   ProcessingPresenter processing;
