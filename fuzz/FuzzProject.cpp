@@ -7,6 +7,7 @@
 #include "io/project/ProjectZip.h"
 #include "io/project/projectReader.h"
 #include "model/GroundModel.h"
+#include "model/KnownGround.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyLine.h"
@@ -23,8 +24,8 @@ namespace {
 
 using namespace talvesk;
 
-const char* const kMembers[] = {kSurveyMember,   kGridMember,       kTracesMember,
-                                kPalettesMember, kRefractionMember, "picks.xml"};
+const char* const kMembers[] = {kSurveyMember,     kGridMember, kTracesMember, kPalettesMember,
+                                kRefractionMember, "picks.xml", "known.xml"};
 
 void put(const std::string& path, const std::uint8_t* bytes, std::size_t size) {
   std::ofstream stream(path, std::ios::binary | std::ios::trunc);
@@ -58,6 +59,8 @@ LoadedProject soundProject() {
     project.interpretation.edit().ttLayer.push_back(
         {static_cast<std::uint32_t>(shot), {1, 2, 3}, {0, 0, 0}, true});
   }
+  project.document.known.edit().boreholes = {{"B1", 5.0, 0.0, {{0, 2, 400, 20}}}};
+  project.document.known.edit().depths = {{"P1", 5.0, 3.0}};
   return project;
 }
 
@@ -116,6 +119,7 @@ void demandWhole(const LoadedProject& project) {
     demand(document.result->info_density.size() == document.model->grid->cellCount(),
            "a density per cell");
   }
+  demand(faultOf(*document.known).empty(), "ground that can be");
   demand(project.palettes->currentIndex() < project.palettes->size(), "a current palette");
 }
 

@@ -1,9 +1,10 @@
-// Throws any bytes at the readers of small tables: positions, elevations, layers of traces, and
-// what is pasted. The first byte chooses the reader and its separator.
+// Throws any bytes at the readers of small tables: positions, elevations, layers of traces, known
+// ground, and what is pasted. The first byte chooses the reader and its separator.
 #include "Demand.h"
 #include "base/TypedTable.h"
 #include "io/ElevationTable.h"
 #include "io/GeometryFile.h"
+#include "io/KnownGroundFile.h"
 #include "io/LayerFile.h"
 #include "io/NamedPositions.h"
 #include "model/ElevationProfile.h"
@@ -106,17 +107,27 @@ void tryNamed(std::string_view text, PositionsOf what) {
   demandPlaces(points);
 }
 
+void tryKnownGround(std::string_view text) {
+  KnownGround known;
+  const Status status = parseKnownGround(text, "a.csv", known);
+  demand(status.ok() == status.message().empty(), "a message with every failure");
+  demand(status.ok() != known.empty(), "ground after a success only");
+  demand(faultOf(known).empty(), "ground that can be");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   if (size == 0) return 0;
   static const char* const separators[] = {";", ",", kBlankSeparator};
   const std::string_view text(reinterpret_cast<const char*>(bytes) + 1, size - 1);
-  const int choice = bytes[0] % 12;
+  const int choice = bytes[0] % 13;
   if (choice < 6) tryPositions(text, separators[choice % 3], choice >= 3);
   if (choice == 6) tryLayers(text);
   if (choice == 7 || choice == 8) tryPasted(text, choice == 8);
   if (choice == 9) tryElevations(text);
-  if (choice > 9) tryNamed(text, choice == 10 ? PositionsOf::kShots : PositionsOf::kGeophones);
+  if (choice == 12) tryKnownGround(text);
+  if (choice == 10 || choice == 11)
+    tryNamed(text, choice == 10 ? PositionsOf::kShots : PositionsOf::kGeophones);
   return 0;
 }

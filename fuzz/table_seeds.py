@@ -33,8 +33,18 @@ def named_seeds():
             yield reader, text
 
 
+def known_seeds():
+    heading = "kind,name,x,depth,bottom,velocity,error,refractor\n"
+    rows = ("borehole,B1,5,0,2,400,20,\nborehole,B1,5,2,9,1500,,\n", "depth,P1,8,4.1,,1200,0.4,1\n",
+            "body,W,1,0,,340,,\nbody,W,2,0,,,,\nbody,W,2,1,,,,\n", "borehole,B1,5,2,1,400,,\n",
+            "depth,,nan,1e999,,,,\n", "body,W,1,0,,340,,\n", "")
+    for row in (*rows, "".join(rows[:3])):
+        yield 12, heading + row
+    yield 12, rows[0]
+
+
 def table_seeds():
-    for seeds in (position_seeds(), layer_seeds(), pasted_seeds(), named_seeds()):
+    for seeds in (position_seeds(), layer_seeds(), pasted_seeds(), named_seeds(), known_seeds()):
         yield from (bytes([reader]) + text.encode("ascii") for reader, text in seeds)
 
 

@@ -16,6 +16,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionNew", ":/icons/new-file.png"},
     {"actionRun_tomography_inversion", ":/icons/speed.png"},
     {"actionInversion_runs", ":/icons/table.png"},
+    {"actionKnown_ground", ":/icons/layers.png"},
     {"actionDefine_model_velocity", ":/icons/layers.png"},
     {"actionNext_file", ":/icons/next.png"},
     {"actionPrev_file", ":/icons/back.png"},

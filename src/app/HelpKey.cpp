@@ -30,6 +30,7 @@ constexpr Page kPages[] = {
     {"runTomography_Dialog", "inversion.html"},
     {"ResidualsDialog", "fit.html"},
     {"SecondLookDialog", "fit.html"},
+    {"KnownGroundDialog", "fit.html"},
     {"progressTomographyDialog", "inversion.html"},
     {"smoothingDialog", "inversion.html"},
     {"RefractionProcessingDialog", "refraction.html"},

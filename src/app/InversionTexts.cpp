@@ -43,6 +43,21 @@ QString ofSection(const SectionMisfit& misfit, const ChiSquare& fit) {
          QLatin1Char('\n');
 }
 
+/// How the section goes with what it was held to, and what could not be.
+QString knownText(const KnownFit& known) {
+  const std::vector<KnownFit::Departure> missed = known.missed();
+  QString text = Words::tr("Known ground: %1 conditions, RMS %2 of their errors; fixed cells %3\n")
+                     .arg(known.all.size())
+                     .arg(general(known.rms(), 3))
+                     .arg(known.fixedCells);
+  for (const KnownFit::Departure& each : missed) {
+    text += Words::tr("The section does not go with %1: off by %2 of its errors\n")
+                .arg(textOf(each.name), general(each.inErrors, 3));
+  }
+  for (const Message& unused : known.unused) text += textOf(unused) + QLatin1Char('\n');
+  return text;
+}
+
 }  // namespace
 
 QString sectionMisfitText(const TomoDocument& document) {
@@ -86,6 +101,7 @@ QString fitResultsText(const FittedRunResult& result) {
           Words::tr("Weight of the roughness: %1\n").arg(general(result.lambda, 3)) +
           Words::tr("Started from and held to: %1\n").arg(referenceText(result.reference)) +
           Words::tr("Computing time: [s] %1\n").arg(general(result.run.computingSeconds, 3));
+  if (result.known) text += knownText(*result.known);
   const QString shifts = shiftsText(result.statics);
   return shifts.isEmpty() ? text : text + Words::tr("Time shifts of shots: [ms] %1\n").arg(shifts);
 }

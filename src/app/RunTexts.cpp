@@ -56,6 +56,7 @@ QString runSettings(const KeptRun& run) {
     if (record.fit->robust) words += RunTexts::tr("robust");
     if (record.fit->blocky) words += RunTexts::tr("blocky");
     if (record.fit->statics) words += RunTexts::tr("with shot statics");
+    if (record.fit->known != 0) words += RunTexts::tr("held to known ground");
     words += RunTexts::tr("suspect picks: %1").arg(record.fit->suspects);
   } else {
     words += RunTexts::tr("%1 solver iterations").arg(record.solverIterations);

@@ -4,8 +4,10 @@
 #include "base/TextNumber.h"
 #include "batch/Failure.h"
 #include "batch/Interrupt.h"
+#include "io/KnownGroundFile.h"
 #include "io/Survey.h"
 #include "model/GroundModel.h"
+#include "model/KnownGround.h"
 #include "model/TomographyOutcome.h"
 #include "numerics/Medians.h"
 #include "session/TableRules.h"
@@ -23,6 +25,7 @@ constexpr std::size_t kMostSuspectsNamed = 12;
 FittedSettings settingsOf(const InvertOptions& options) {
   FittedSettings settings = options.fitted;
   settings.reference = options.reference;
+  settings.holdKnown = !options.constraints.empty();
   settings.singleThread = options.parameters.singleThread;
   FittedOptions& fit = settings.fit;
   fit.minVelocity = options.minVelocity.value_or(fit.minVelocity);
@@ -46,7 +49,36 @@ std::string nameOf(const SuspectPick& pick) {
          inMilliseconds(std::fabs(pick.residual)) + " ms";
 }
 
+/// What the section does not go with, and what the grid could not hold.
+void warnAboutKnown(const KnownFit& known) {
+  for (const Message& unused : known.unused) warn(unused);
+  for (const KnownFit::Departure& each : known.missed()) {
+    warn("the section does not go with known ground: " + each.name.english() + ", off by " +
+         threeDigits(each.inErrors) + " of its errors");
+  }
+}
+
 }  // namespace
+
+Status takeKnownGround(const InvertOptions& options, Survey& survey) {
+  const bool fits = options.method == InversionMethod::kFitted;
+  if (options.constraints.empty()) {
+    if (fits && !survey.document.known->empty()) {
+      warn(
+          "the project knows of ground that the section is not held to; --constraints project "
+          "holds it");
+    }
+    return {};
+  }
+  if (options.constraints == kProjectsOwn) {
+    return survey.document.known->empty()
+               ? Status::failure(options.input + ": it knows of no ground to hold the section to")
+               : Status();
+  }
+  return editSurvey(Edit::kKnownGround, survey, [&](Survey& next) {
+    return readKnownGround(options.constraints, next.document.known.edit());
+  });
+}
 
 ReferencedRun fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,
                          Log& log) {
@@ -86,6 +118,7 @@ Status findCertainty(const InvertOptions& options, const Channels& channels, Sur
   CertaintySettings settings;
   settings.members = *options.members;
   settings.errors = fitted.errors;
+  settings.holdKnown = fitted.holdKnown;
   settings.singleThread = fitted.singleThread;
   settings.ensemble = {fitted.fit, static_cast<std::uint64_t>(options.seed), options.isovalues};
   Progress progress(channels.progress, std::cerr);
@@ -112,6 +145,7 @@ Status findCertainty(const InvertOptions& options, const Channels& channels, Sur
 
 void warnAboutFit(const FittedRunResult& fit) {
   if (fit.end != FitEnd::kTarget && fit.end != FitEnd::kStopped) warn(fit.outcome);
+  if (fit.known) warnAboutKnown(*fit.known);
   if (fit.suspects.empty()) return;
   std::string text = std::to_string(fit.suspects.size()) + " of " + std::to_string(fit.fit.count) +
                      " picks are suspect and left out of chi-square: ";
@@ -138,6 +172,11 @@ void summarizeFit(const ReferencedRun& run, std::ostream& out) {
       << (fit.run.stopped ? ", stopped by the user" : "") << "\n"
       << "Chi-square: " << formatDouble(fit.fit.chi2) << "; of all picks "
       << formatDouble(fit.fit.all) << "; suspects " << fit.suspects.size() << "\n";
+  if (fit.known) {
+    out << "Known ground: " << fit.known->all.size() << " conditions, RMS in their errors "
+        << threeDigits(fit.known->rms()) << "; beyond " << KnownFit::kHonoured << " errors "
+        << fit.known->missed().size() << "; fixed cells " << fit.known->fixedCells << "\n";
+  }
   if (fit.statics.empty()) return;
   out << "Time shifts of shots: [ms]";
   for (const double shift : fit.statics) {

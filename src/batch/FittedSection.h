@@ -10,6 +10,10 @@ namespace talvesk {
 class Log;
 struct Survey;
 
+/// `invert --constraints`: what is known of the ground becomes part of the survey. Says on standard
+/// error when a survey knows of some that its fit will not be held to.
+Status takeKnownGround(const InvertOptions& options, Survey& survey);
+
 /// `invert --method fitted`: the fit of a survey's section, with its progress shown. The survey has
 /// a grid; it is as before where nothing came of it.
 ReferencedRun fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,

@@ -46,7 +46,11 @@ Status checkDepth(const GridSettings& settings, const SurveyProfile& profile) {
 }
 
 std::vector<std::string> inputsOf(const InvertOptions& options) {
-  return surveyFiles(options.input, options.shots);
+  std::vector<std::string> files = surveyFiles(options.input, options.shots);
+  if (!options.constraints.empty() && options.constraints != kProjectsOwn) {
+    files.push_back(options.constraints);
+  }
+  return files;
 }
 
 /// A project continues from the grid that it has, as it would in the window.
@@ -255,6 +259,7 @@ int run(const InvertOptions& options) {
   Status status = readSurvey(options.input, options.picks, options.shots, manner, project);
   if (status.ok()) status = checkPicks(document, inputsOf(options));
   if (status.ok() && !options.run.empty()) status = chooseRun(options.run, project, log);
+  if (status.ok()) status = takeKnownGround(options, project);
   if (status.ok()) status = setUpModel(options, project, log);
   if (status.ok()) status = tellWhatIsLeftOut(document);
   if (!status.ok()) return failed(status.message());

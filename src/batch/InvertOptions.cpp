@@ -190,8 +190,14 @@ std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
              "a new grid, start what the grid has; best takes that of the picks whose times come "
              "nearest to them (default: best)")
           ->type_name("MODEL");
-  for (CLI::Option* option : {blocky, statics, reference}) option->group("Inversion");
-  return {blocky, statics, reference};
+  CLI::Option* constraints = addPath(
+      app, "--constraints", options.constraints,
+      "With --method fitted: hold the section to what is known of the ground, a table of "
+      "boreholes, "
+      "depths and bodies of known velocity; 'project' takes what the project knows. --json tells "
+      "how the section goes with it; chi-square is of the picks alone");
+  for (CLI::Option* option : {blocky, statics, reference, constraints}) option->group("Inversion");
+  return {blocky, statics, reference, constraints};
 }
 
 /// "600,1500".
@@ -373,6 +379,9 @@ void addInvert(CLI::App& app, InvertOptions& options) {
     shots.check(options.shots);
     if (!options.run.empty() && !isProjectFile(options.input)) {
       throw CLI::ValidationError("--use", "only a project keeps inversion runs");
+    }
+    if (options.constraints == kProjectsOwn && !isProjectFile(options.input)) {
+      throw CLI::ValidationError("--constraints", "there is no project that knows of ground");
     }
     if (!options.run.empty() && options.ownGrid) {
       throw CLI::ValidationError("--use", "does not go with a grid of its own");

@@ -103,6 +103,9 @@ enum class InversionMethod {
   kFitted     ///< as close to the picks as their errors are, see tomo/fitted/FittedRun.h
 };
 
+/// Of `--constraints`: the known ground that the project has.
+inline constexpr const char* kProjectsOwn = "project";
+
 struct InvertOptions {
   std::string input;  ///< travel-time file or project; none: shot files
   TravelTimeReading picks;
@@ -116,7 +119,8 @@ struct InvertOptions {
   InversionMethod method = InversionMethod::kSmoothed;
   FittedSettings fitted;                   ///< but what follows, which both methods have
   std::string reference = kBestReference;  ///< of a fit: a key of References.h
-  std::optional<int> members;              ///< to see how sure the section is; none: not asked
+  std::string constraints;     ///< table of known ground, or kProjectsOwn; empty: held to none
+  std::optional<int> members;  ///< to see how sure the section is; none: not asked
   int seed = parameters::kSeed.initial;
   std::vector<double> isovalues;                ///< m/s, whose depths are asked for
   TomographyParameters parameters;              ///< but the velocities: those are the next two

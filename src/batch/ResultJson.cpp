@@ -1,6 +1,7 @@
 #include "batch/ResultJson.h"
 
 #include "batch/JsonText.h"
+#include "batch/KnownJson.h"
 #include "batch/ReciprocityText.h"
 #include "batch/Resolution.h"
 #include "batch/RunList.h"
@@ -210,6 +211,7 @@ void putFit(Json& json, const ReferencedRun& run) {
   json["references_refused"] = textsJson(run.references.refused);
   json["lambda"] = fit.lambda;
   json["outcome"] = fit.outcome.english();
+  json["constraints"] = constraintsJson(fit.known);
   Json suspects = Json::array();
   for (const SuspectPick& each : fit.suspects) {
     Json suspect = Json::object();
@@ -445,6 +447,7 @@ std::string projectJson(const LoadedProject& project) {
   putChiSquare(json, fitted ? "fitted" : "smoothed", sectionChiSquareOf(document));
   if (!document.result->has_tomographic_info) json["method"] = nullptr;
   json["reference"] = fitted ? Json(run->fit->reference) : Json(nullptr);
+  putKnownGround(json, document);
   json["crs"] = document.map->geoCoord_isSet ? Json(document.map->geoCoord.CRS) : Json(nullptr);
   json["runs"] = runsJson(document);
   json["palette"] = project.palettes->current().name;

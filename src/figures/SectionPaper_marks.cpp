@@ -42,6 +42,7 @@ void SectionPaperPainter::paintMarks() {
   if (mDress.gridLines) paintGridLines();
   paintDepthBands();
   paintLines();
+  paintKnown();
   paintContourValues();
   paintMarkers();
   mPainter.restore();
@@ -151,6 +152,24 @@ std::vector<LegendEntry> sectionLegend(const SectionScene& scene, const SectionD
   }
   for (LegendEntry& entry : certaintyLegend(scene, dress.locale))
     entries.push_back(std::move(entry));
+  const auto outlined = [](const QPen& pen) {
+    return [pen](QPainter& painter, const QPointF& middle) {
+      painter.setPen(pen);
+      painter.setBrush(Qt::NoBrush);
+      painter.drawRect(QRectF(middle - QPointF(7, 4), middle + QPointF(7, 4)));
+    };
+  };
+  if (!scene.known.boreholes.empty()) {
+    entries.push_back({FigureWords::tr("Boreholes"), outlined(kSurfacePen)});
+  }
+  if (!scene.known.depths.empty()) {
+    entries.push_back({FigureWords::tr("Known depths"), [](QPainter& painter, const QPointF& at) {
+                         paintKnownDepth(painter, at, 7.0, 7.0);
+                       }});
+  }
+  if (!scene.known.bodies.empty()) {
+    entries.push_back({FigureWords::tr("Fixed bodies"), outlined({Qt::black, 1.6, Qt::DashLine})});
+  }
   return entries;
 }
 

@@ -62,6 +62,9 @@ class SectionPaperPainter {
   void paintLines();
   void paintContourValues();
   void paintMarkers();
+  void paintKnown();
+  void putOnSection(const QString& text, const QPointF& middle);
+  QString velocityWords(double velocity) const;  ///< without its unit
 
   const SectionScene& mScene;
   const SectionExtent& mExtent;
@@ -76,5 +79,8 @@ class SectionPaperPainter {
   QFontMetricsF mMetrics;
   double mLine;  ///< height of a line of text
 };
+
+/// A known depth with the bar of its error. \param up, down lengths of the bar on the sheet
+void paintKnownDepth(QPainter& painter, const QPointF& at, double up, double down);
 
 }  // namespace talvesk

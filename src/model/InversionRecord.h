@@ -46,9 +46,10 @@ struct FitRecord {
   double lambda = 0.0;  ///< weight of the roughness that the section was found with
   double chi2 = 0.0;    ///< of the section, suspects left out
   double chi2All = 0.0;
-  int suspects = 0;       ///< picks
-  bool target = false;    ///< whether chi-square has come to 1 as nearly as wanted
-  std::string reference;  ///< key of the model that it was held to, see tomo/fitted/References.h
+  int suspects = 0;         ///< picks
+  bool target = false;      ///< whether chi-square has come to 1 as nearly as wanted
+  std::string reference;    ///< key of the model that it was held to, see tomo/fitted/References.h
+  std::uint64_t known = 0;  ///< fingerprintOf() the known ground that it was held to; 0: to none
   std::vector<FoundShift> shifts;  ///< per record of the document; empty when none were asked for
 };
 

@@ -4,6 +4,7 @@
 #include "base/TextNumber.h"
 #include "model/GroundModel.h"
 #include "model/KeptRun.h"
+#include "model/KnownGround.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"

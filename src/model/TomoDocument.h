@@ -18,6 +18,7 @@ namespace talvesk {
 class Log;
 struct GroundModel;
 struct KeptRun;
+struct KnownGround;
 struct Recordings;
 struct SurveyLine;
 struct TomographyOutcome;
@@ -49,6 +50,7 @@ class TomoDocument {
   Shared<TomographyOutcome> result;  ///< of the last inversion, model/TomographyOutcome.h
   Shared<MapPosition> map;           ///< model/GeographicsCoord.h
   SharedVector<KeptRun> runs;        ///< inversions so far, oldest first; model/KeptRun.h
+  Shared<KnownGround> known;         ///< from elsewhere than the picks, model/KnownGround.h
   /// Metres, one more for every look at the survey. What was proposed is remembered, be the edits
   /// since undone or not, so it is no part of the model.
   SharedVector<double> proposedCellSizes;

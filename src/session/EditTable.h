@@ -29,6 +29,7 @@ enum class Edit {
   kCertainty,
   kUseRun,
   kRuns,
+  kKnownGround,
   kRefraction,
   kTitle,
   kPalette,

@@ -3,6 +3,7 @@
 #include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/KeptRun.h"
+#include "model/KnownGround.h"
 #include "model/Recordings.h"
 #include "model/RefractionDataStructure.h"
 #include "model/SurveyLine.h"
@@ -257,6 +258,8 @@ PartSet differingParts(const Survey& a, const Survey& b) {
         Part::kLook);
   addIf(!a.document.map.isSharedWith(b.document.map), Part::kMap);
   addIf(!a.document.runs.isSharedWith(b.document.runs), Part::kRuns);
+  addIf(!a.document.known.isSharedWith(b.document.known) && *a.document.known != *b.document.known,
+        Part::kKnown);
   addIf(!sameView(a.section, b.section), Part::kView);
   return parts;
 }
@@ -309,6 +312,9 @@ void forgetPart(Part part, Survey& survey) {
       break;
     case Part::kRuns:
       if (!document.runs.empty()) document.runs = {};
+      break;
+    case Part::kKnown:
+      if (!document.known->empty()) document.known = {};
       break;
   }
 }

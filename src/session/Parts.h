@@ -19,12 +19,13 @@ enum class Part {
   kProfile,
   kLook,  ///< title, palettes, contours
   kMap,
-  kRuns,  ///< the list of inversions that have been run
-  kView   ///< what the section shows of all that; it is saved, but no edit
+  kRuns,   ///< the list of inversions that have been run
+  kKnown,  ///< what is known of the ground from elsewhere
+  kView    ///< what the section shows of all that; it is saved, but no edit
 };
-inline constexpr std::array<Part, 11> kParts = {
+inline constexpr std::array<Part, 12> kParts = {
     Part::kRecordings, Part::kPicks, Part::kGeometry, Part::kModel, Part::kResult, Part::kMarks,
-    Part::kProfile,    Part::kLook,  Part::kMap,      Part::kRuns,  Part::kView};
+    Part::kProfile,    Part::kLook,  Part::kMap,      Part::kRuns,  Part::kKnown,  Part::kView};
 
 /// Some of the parts.
 class PartSet {

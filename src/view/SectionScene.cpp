@@ -284,6 +284,7 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   if (options.rays) scene.rays = rayLines(document);
   if (options.coverageLimit) scene.coverageLimit = coverageCurve(document);
   scene.refractors = options.refractors;
+  if (options.known) scene.known = knownMarks(document);
   scene.surface = surfaceLine(*document.model->grid, document.model->xOffset);
   scene.geophones = allGeophones(document);
   scene.shots = eachPlaceOnce(document.shotPoints());

@@ -8,6 +8,7 @@
 #include "view/ColorPalette.h"
 #include "view/ContourBands.h"
 #include "view/ContourLines.h"
+#include "view/KnownMarks.h"
 #include "view/SectionCertainty.h"
 
 #include <optional>
@@ -59,6 +60,7 @@ struct SectionSceneOptions {
   bool contourLines = true;  ///< false: levels for the bands only
   bool rays = false;
   bool coverageLimit = true;
+  bool known = true;                    ///< what is known of the ground from elsewhere
   std::optional<CellValues> values;     ///< shown in place of the quantity
   std::vector<SectionLine> refractors;  ///< shown as they are
   bool fadeUncertain = false;           ///< the velocity section, where its certainty is known
@@ -88,6 +90,7 @@ struct SectionScene {
   std::vector<double> fading;              ///< fadingOf() per cell; empty: none
   std::vector<DepthBand> depthBands;       ///< in the order of their velocities
   std::optional<CertaintyNote> certainty;  ///< where anything shown comes from it
+  KnownMarks known;                        ///< empty when it is not asked for
   std::vector<Point2D> surface;            ///< top line of the grid, left to right
   std::vector<Point2D> geophones;          ///< of all strings, ascending x, each place once
   std::vector<Point2D> shots;              ///< of all records, ascending x, each place once

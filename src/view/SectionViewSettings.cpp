@@ -46,8 +46,8 @@ bool ContourSettings::operator==(const ContourSettings& other) const {
 
 bool SectionViewSettings::operator==(const SectionViewSettings& other) const {
   const auto parts = [](const SectionViewSettings& s) {
-    return std::tie(s.profile, s.smooth, s.quantity, s.rays, s.refraction, s.scalarBar, s.title,
-                    s.gridLines, s.geophones, s.verticalExaggeration, s.fadeUncertain,
+    return std::tie(s.profile, s.smooth, s.quantity, s.rays, s.refraction, s.known, s.scalarBar,
+                    s.title, s.gridLines, s.geophones, s.verticalExaggeration, s.fadeUncertain,
                     s.bandVelocities, s.lockRange, s.contours);
   };
   return parts(*this) == parts(other);
@@ -142,6 +142,7 @@ SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const Colo
   options.rays = settings.rays;
   options.fadeUncertain = settings.fadeUncertain;
   options.bandVelocities = settings.bandVelocities;
+  options.known = settings.known;
   return options;
 }
 

@@ -66,6 +66,7 @@ struct SectionViewSettings {
   SectionQuantity quantity = SectionQuantity::kVelocity;
   bool rays = false;
   bool refraction = false;  ///< the layered profile over the section
+  bool known = true;        ///< what is known of the ground from elsewhere
   bool scalarBar = true;
   bool title = true;
   bool gridLines = false;

@@ -52,5 +52,55 @@ TEST(Fitted, refusesAModelThatThereIsNot) {
   EXPECT_THAT(unknown.err, HasSubstr("three-layers"));
 }
 
+constexpr const char* kKnown =
+    "kind,name,x,depth,bottom,velocity,error\n"
+    "borehole,B1,10,0,2,500,25\n"
+    "borehole,B1,10,2,4,1800,90\n"
+    "borehole,far,9000,0,2,500,25\n";
+
+TEST(Fitted, holdsTheSectionToKnownGround) {
+  const Folder folder;
+  const std::string table = folder.write("known.csv", kKnown);
+  const Outcome held =
+      fit(folder, {"--constraints", table, "--quiet", "--project", folder / "line.tvsk"});
+  ASSERT_EQ(held.code, 0) << held.err;
+  EXPECT_THAT(held.err, HasSubstr("borehole far at 9000 m stands beyond the grid"));
+  const ordered_json json = ordered_json::parse(held.out);
+  const ordered_json& known = json["constraints"];
+  EXPECT_EQ(known["count"], 2);
+  EXPECT_EQ(known["residuals"].size(), 2U);
+  EXPECT_EQ(known["unused"].size(), 1U);
+  EXPECT_GE(known["rms_sigma"], 0.0);
+
+  // What the project keeps is what it can be held to again.
+  const std::vector<std::string> again = {
+      "invert",  folder / "line.tvsk", "--method",       "fitted", "--json", "-",
+      "--quiet", "--reference",        json["reference"]};
+  const Outcome forgot = runBatch(again);
+  EXPECT_THAT(forgot.err, HasSubstr("--constraints project"));
+  EXPECT_TRUE(ordered_json::parse(forgot.out)["constraints"].is_null());
+  std::vector<std::string> own = again;
+  own.insert(own.end(), {"--constraints", "project"});
+  const ordered_json same = ordered_json::parse(runBatch(own).out);
+  EXPECT_EQ(same["constraints"]["count"], 2);
+  EXPECT_NE(same["velocities"], ordered_json::parse(forgot.out)["velocities"]);
+
+  const Outcome info = runBatch({"info", "--json", "-", folder / "line.tvsk"});
+  const ordered_json kept = ordered_json::parse(info.out);
+  const ordered_json& project = kept.is_array() ? kept[0] : kept;
+  EXPECT_EQ(project["known_ground"]["boreholes"], 2);
+  EXPECT_EQ(project["known_ground_changed_since"], false);
+}
+
+TEST(Fitted, refusesKnownGroundThatCannotBe) {
+  const Folder folder;
+  const std::string table = folder.write("known.csv", "kind,x,depth\nbody,1,2\n");
+  const Outcome wrong = fit(folder, {"--constraints", table});
+  EXPECT_EQ(wrong.code, 1);
+  EXPECT_THAT(wrong.err, HasSubstr("known.csv, line 2: there is no velocity"));
+  EXPECT_EQ(fit(folder, {"--constraints", folder / "none.csv"}).code, 1);
+  EXPECT_EQ(fit(folder, {"--constraints", "project"}).code, 2);
+}
+
 }  // namespace
 }  // namespace talvesk::batchtest

@@ -69,6 +69,23 @@ class SectionPaperOf : public ::testing::Test {
   SectionDress dress;
 };
 
+TEST_F(SectionPaperOf, showsWhatIsKnownOfTheGround) {
+  const auto shown = [this] {
+    const SectionPaper sheet = paper();
+    const QSize size(1100, 700);
+    return words(textsOf(sheet, size, fitted(sheet, size, 1.0)));
+  };
+  EXPECT_THAT(shown(), Not(Contains("Boreholes")));
+  scene.known.boreholes = {{"B1", 120.0, -2.5, {{98.0, 95.0, 450.0}, {95.0, 90.0, 1600.0}}}};
+  scene.known.depths = {{"P1", {135.0, 94.0}, 1.0, 1200.0}};
+  scene.known.bodies = {{"wall", 3200.0, {{142.0, 97.0}, {150.0, 97.0}, {150.0, 92.0}}}};
+  const std::vector<std::string> found = shown();
+  for (const char* word : {"Boreholes", "Known depths", "Fixed bodies", "450", "1600",
+                           "B1 (-2.5 m beside the line)", "P1: 1200 m/s", "wall: 3200 m/s"}) {
+    EXPECT_THAT(found, Contains(word));
+  }
+}
+
 /// Every text is on the sheet, and none on another.
 void expectApart(const std::vector<PlacedText>& texts, const QSize& size,
                  const std::string& where) {

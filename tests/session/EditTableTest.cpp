@@ -1,4 +1,5 @@
 #include "model/KeptRun.h"
+#include "model/KnownGround.h"
 #include "session/EditTable.h"
 #include "session/FullSurvey.h"
 #include "session/Session.h"
@@ -48,6 +49,9 @@ void touch(Part part, Survey& survey) {
       break;
     case Part::kRuns:
       document.runs.edit().emplace_back();
+      break;
+    case Part::kKnown:
+      document.known.edit().depths.push_back({"P2", 3.0, 4.0});
       break;
     case Part::kView:
       survey.section.rays = !survey.section.rays;

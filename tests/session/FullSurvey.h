@@ -3,6 +3,7 @@
 #include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/KeptRun.h"
+#include "model/KnownGround.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
@@ -30,6 +31,7 @@ inline Survey fullSurvey(std::size_t shots = 3, std::size_t traces = 12,
   result.rays = {{1, 2, 3}, {4, 5}};
   result.lastInversion = InversionRecord();
   document.runs.edit().emplace_back().number = 1;
+  document.known.edit().depths.push_back({"P1", 2.0, 3.0});
   document.map = MapPosition{{32632, 1.0, 2.0, 3.0, 4.0}, true};
   auto& interpretation = survey.interpretation.edit();
   for (std::size_t i = 0; i < shots; ++i) {
@@ -54,7 +56,7 @@ inline bool isSame(const Survey& a, const Survey& b) {
   return x.recordings.isSharedWith(y.recordings) && x.ttArray.isSharedWith(y.ttArray) &&
          x.line.isSharedWith(y.line) && x.model.isSharedWith(y.model) &&
          x.result.isSharedWith(y.result) && x.map.isSharedWith(y.map) &&
-         x.runs.isSharedWith(y.runs) && x.title == y.title &&
+         x.runs.isSharedWith(y.runs) && x.known.isSharedWith(y.known) && x.title == y.title &&
          a.interpretation.isSharedWith(b.interpretation) && a.palettes.isSharedWith(b.palettes) &&
          a.section == b.section;
 }

@@ -82,10 +82,10 @@ TEST(SectionCertainty, velocitiesOfBandsAreNumbersAboveZeroAndNotTooMany) {
   const struct {
     const char* text;
     Velocities velocities;
-  } facts[] = {{"", Velocities({})},
-               {" 1500;800 ", Velocities({800.0, 1500.0})},
-               {"800, 1500 800.5;", Velocities({800.0, 800.5, 1500.0})},
-               {"800;800", Velocities({800.0})},
+  } facts[] = {{"", Velocities(std::vector<double>())},
+               {" 1500;800 ", Velocities(std::vector<double>{800.0, 1500.0})},
+               {"800, 1500 800.5;", Velocities(std::vector<double>{800.0, 800.5, 1500.0})},
+               {"800;800", Velocities(std::vector<double>{800.0})},
                {"800 m/s", std::nullopt},
                {"0", std::nullopt},
                {"-5", std::nullopt},

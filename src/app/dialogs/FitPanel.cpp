@@ -5,6 +5,7 @@
 #include "app/ToolTips.h"
 #include "app/dialogs/ParameterField.h"
 #include "model/ChiSquare.h"
+#include "model/KnownGround.h"
 #include "model/Residuals.h"
 #include "tomo/fitted/SurveyFit.h"
 #include "ui_FitPanel.h"
@@ -163,6 +164,9 @@ void FitPanel::connectAll() {
 
 void FitPanel::setDocument(const TomoDocument& document) {
   mDocument = document;
+  const bool known = !document.known->empty();
+  mUi->knownBox->setEnabled(known);
+  mUi->knownBox->setChecked(known);
   mReferences = {};
   mBegun = false;
   showErrors();
@@ -179,6 +183,7 @@ FittedSettings FitPanel::settings() const {
   settings.fit.blocky = mUi->blockyBox->isChecked();
   settings.fit.statics = mUi->staticsBox->isChecked();
   settings.fit.triggerError = mUi->triggerEdit->value() / kMilliseconds;
+  settings.holdKnown = mUi->knownBox->isChecked();
   settings.singleThread = mUi->fitSingleThreadBox->isChecked();
   settings.reference = chosen();
   return settings;

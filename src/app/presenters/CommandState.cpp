@@ -3,6 +3,7 @@
 #include "app/presenters/Desk.h"
 #include "export/LinePlacement.h"
 #include "model/GroundModel.h"
+#include "model/KnownGround.h"
 #include "model/SurveyFacts.h"
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
@@ -56,6 +57,7 @@ CommandState::CommandState(const Desk& desk)
   inverted = cells && computed;
   certainty = cells && document.result->certainty.has_value();
   refractors = !refractorLines(desk.interpretation()).empty();
+  known = cells && !document.known->empty();
   picture = cells || (section.refraction && refractors);
   line = lineEnds(document).has_value();
   lineAndGrid = line && grid;

@@ -34,6 +34,7 @@ struct CommandState {
   bool rays;      ///< over cells
   bool density;   ///< information density of cells
   bool refractors;
+  bool known;    ///< ground, over cells
   bool picture;  ///< cells, or the layered profile alone
   bool line;     ///< geophones at two ends
   bool lineAndGrid;

@@ -22,6 +22,7 @@ Presenters::Presenters(Desk& desk)
       residuals(desk),
       secondLook(desk),
       inversion(desk, models, secondLook),
+      known(desk),
       runs(desk),
       certainty(desk),
       resolution(desk),

@@ -8,6 +8,7 @@
 #include "app/presenters/GeometryPresenter.h"
 #include "app/presenters/HelpPresenter.h"
 #include "app/presenters/InversionPresenter.h"
+#include "app/presenters/KnownGroundPresenter.h"
 #include "app/presenters/ModelPresenter.h"
 #include "app/presenters/PalettePresenter.h"
 #include "app/presenters/ProcessingPresenter.h"
@@ -59,6 +60,7 @@ struct Presenters {
   ResidualsPresenter residuals;
   SecondLookPresenter secondLook;
   InversionPresenter inversion;
+  KnownGroundPresenter known;
   RunsPresenter runs;
   CertaintyPresenter certainty;
   ResolutionPresenter resolution;

@@ -3,6 +3,7 @@
 #include "base/AtomicFile.h"
 #include "io/MemberFile.h"
 #include "io/project/ProjectCertainty.h"
+#include "io/project/ProjectKnownGround.h"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectMembers_records.inl"
 #include "io/project/ProjectMends.h"
@@ -138,6 +139,14 @@ bool canHaveRuns(const TomoDocument& document, const Interpretation&) {
   return !document.ttArray.empty();
 }
 
+bool hasKnown(const TomoDocument& document, const Interpretation&) {
+  return !document.known->empty();
+}
+
+bool canHaveKnown(const TomoDocument&, const Interpretation&) {
+  return true;
+}
+
 const std::vector<OwnMember>& ownMembers() {
   static const std::vector<OwnMember> kMembers = {
       {"result.xml", 1, "Result",
@@ -196,6 +205,14 @@ const std::vector<OwnMember>& ownMembers() {
       {"runs.xml", 1, "Inversion runs",
        Message::tr("its inversion runs but the last one are not known"), canHaveRuns, hasRuns,
        writeRuns, readRuns},
+      {"known.xml", 1, "Known ground", Message::tr("what was known of its ground is lost"),
+       canHaveKnown, hasKnown, writes([](const TomoDocument& document, const Interpretation&) {
+         return knownGroundOf(document);
+       }),
+       reads([](const TomoDocument&) { return KnownGroundMember(); },
+             [](KnownGroundMember member, TomoDocument& document, Interpretation&) {
+               return installKnownGround(std::move(member), document);
+             })},
       // Behind the result, of which it is part.
       {"certainty.xml", 1, "Certainty", Message::tr("how sure the section is is not known"),
        [](const TomoDocument& document, const Interpretation&) { return hasResult(document); },

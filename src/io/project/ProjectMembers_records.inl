@@ -7,6 +7,7 @@
 #include "io/XmlRecords.inl"
 #include "io/project/MendsMember.h"
 #include "io/project/ProjectCertainty.h"
+#include "io/project/ProjectKnownGround.h"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectPicks.h"
 #include "io/project/ProjectReaders.h"
@@ -86,6 +87,7 @@ void describe(V& fields, SectionViewSettings& section) {
   fields.optional("quantity", section.quantity);
   fields.optional("rays", section.rays);
   fields.optional("refraction", section.refraction);
+  fields.optional("known", section.known);
   fields.optional("scalarBar", section.scalarBar);
   fields.optional("title", section.title);
   fields.optional("gridLines", section.gridLines);
@@ -147,6 +149,7 @@ void describe(V& fields, FitRecord& fit) {
   fields("target", fit.target);
   fields("reference", fit.reference);
   fields("shifts", fit.shifts);
+  fields.optional("known", fit.known);
 }
 
 template <class V>
@@ -320,6 +323,54 @@ void describe(V& fields, StoredRun& stored) {
   fields("coorcount", run.coorcount);
   fields("hit_counts", run.hitCounts);
   fields("times", run.times);
+}
+
+template <class V>
+void describe(V& fields, KnownLayer& layer) {
+  fields("top", layer.top);
+  fields("bottom", layer.bottom);
+  fields("velocity", layer.velocity);
+  fields("error", layer.error);
+}
+
+template <class V>
+void describe(V& fields, KnownBorehole& borehole) {
+  fields("name", borehole.name);
+  fields("x", borehole.x);
+  fields("offset", borehole.offset);
+  fields("layers", borehole.layers);
+}
+
+template <class V>
+void describe(V& fields, KnownDepth& point) {
+  fields("name", point.name);
+  fields("x", point.x);
+  fields("depth", point.depth);
+  fields("error", point.error);
+  fields("refractor", point.refractor);
+  fields("isovalue", point.isovalue);
+  fields("above", point.above);
+  fields("below", point.below);
+}
+
+template <class V>
+void describe(V& fields, KnownCorner& corner) {
+  fields("x", corner.x);
+  fields("depth", corner.depth);
+}
+
+template <class V>
+void describe(V& fields, KnownBody& body) {
+  fields("name", body.name);
+  fields("velocity", body.velocity);
+  fields("outline", body.outline);
+}
+
+template <class V>
+void describe(V& fields, KnownGroundMember& member) {
+  fields("boreholes", member.known.boreholes);
+  fields("depths", member.known.depths);
+  fields("bodies", member.known.bodies);
 }
 
 template <class V>

@@ -2,6 +2,7 @@
 
 #include "base/Fingerprint.h"
 #include "model/GroundModel.h"
+#include "model/KnownGround.h"
 #include "model/PickFingerprint.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
@@ -48,6 +49,7 @@ std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
   const Grid& grid = *document.model->grid;
   EnsembleOptions options = settings.ensemble;
   if (options.fit.start.empty()) options.fit.start = grid.slownesses();
+  if (settings.holdKnown) options.fit.known = knownCellsOf(document);
   return std::make_unique<Ensemble>(grid.sharedGeometry(), picksToFit(document, settings.errors),
                                     std::move(options));
 }
@@ -86,6 +88,7 @@ CertaintySettings certaintySettings(const TomoDocument& document) {
   fit.robust = run->fit->robust;
   fit.blocky = run->fit->blocky;
   fit.statics = run->fit->statics;
+  settings.holdKnown = run->fit->known != 0;
   settings.errors = {run->fit->errorFloor, run->fit->errorShare};
   return settings;
 }
@@ -117,6 +120,7 @@ std::uint64_t ensembleKey(const TomoDocument& document, const CertaintySettings&
            std::uint64_t{fit.statics});
   key.take(static_cast<std::uint64_t>(fit.mostIterations));
   key.take(options.seed);
+  key.take(settings.holdKnown ? fingerprintOf(*document.known) : std::uint64_t{0});
   return key.value();
 }
 

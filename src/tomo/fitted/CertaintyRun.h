@@ -18,6 +18,7 @@ struct CertaintySettings {
   int members = parameters::kMembers.initial;
   EnsembleOptions ensemble;  ///< without a start: the section of the document is
   PickErrorRule errors;
+  bool holdKnown = false;  ///< members are held to the document's known ground, too
   bool singleThread = false;
 };
 

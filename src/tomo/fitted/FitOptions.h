@@ -1,5 +1,8 @@
 #pragma once
 
+#include "tomo/fitted/KnownCells.h"
+
+#include <memory>
 #include <vector>
 
 namespace talvesk {
@@ -16,6 +19,7 @@ struct FittedOptions {
   bool blocky = false;            ///< few sharp steps rather than gentle slopes
   bool statics = false;           ///< find a time shift of every shot, too
   double triggerError = 0.002;    ///< seconds, how far shots are thought to be off; positive
+  std::shared_ptr<const KnownCells> known;  ///< of the same grid; null: nothing is known
 };
 
 }  // namespace talvesk

@@ -1,5 +1,6 @@
 #include "tomo/fitted/FitProblem.h"
 
+#include "tomo/fitted/KnownReference.h"
 #include "tomo/fitted/ShotShifts.h"
 
 #include <algorithm>
@@ -32,10 +33,13 @@ FitProblem::FitProblem(const GridSize& size, const FitData& data, RayTracer& tra
     : mData(data),
       mTracer(tracer),
       mOptions(std::move(options)),
-      mColumns(size.col),
+      mSize(size),
       mCells(index(static_cast<std::size_t>(size.cellCount()))),
       mShifts(mOptions.statics ? index(data.shots.size()) : 0),
-      mRoughness(size.righe, size.col) {}
+      mKnown(mOptions.known),
+      mRoughness(size.righe, size.col) {
+  if (!mKnown.loose().empty()) mRoughness.loosen(mKnown.loose());
+}
 
 Message FitProblem::invalid() const {
   const FittedOptions& o = mOptions;
@@ -77,9 +81,13 @@ FitSection FitProblem::start() {
     for (std::size_t c = 0; c < slownesses.size(); ++c) values[index(c)] = std::log(slownesses[c]);
     return values;
   };
-  mReference = logarithms(mOptions.reference.empty() ? mOptions.start : mOptions.reference);
+  const auto bent = [&](const std::vector<double>& slownesses) {
+    return bentToKnown(mKnown.cells(), mSize, slownesses);
+  };
+  mReference = logarithms(bent(heldToStart() ? mOptions.start : mOptions.reference));
+  mKnown.fix(mReference);
   FitSection section;
-  section.unknowns = logarithms(mOptions.start);
+  section.unknowns = heldToStart() ? mReference : logarithms(mOptions.start);
   limit(section.unknowns);
   return section;
 }
@@ -94,6 +102,7 @@ void FitProblem::limit(Vector& unknowns) const {
   const double least = -std::log(mOptions.maxVelocity);
   const double most = -std::log(mOptions.minVelocity);
   unknowns.head(mCells) = unknowns.head(mCells).cwiseMax(least).cwiseMin(most);
+  mKnown.fix(unknowns);
 }
 
 bool FitProblem::evaluate(FitSection& section, const std::function<bool()>& goOn) {
@@ -103,6 +112,7 @@ bool FitProblem::evaluate(FitSection& section, const std::function<bool()>& goOn
     section.slownesses[c] = std::clamp(std::exp(section.unknowns[index(c)]),
                                        1.0 / mOptions.maxVelocity, 1.0 / mOptions.minVelocity);
   }
+  mKnown.fix(section.slownesses);
   if (!mTracer.trace(section.slownesses, section.traced, goOn)) return false;
   // Shifts are found anew for every section. Picks of a shot that is late would be suspect, and be
   // heeded no more, before steps from section to section had come to its shift.
@@ -129,8 +139,9 @@ bool FitProblem::heldToStart() const {
 }
 
 bool FitProblem::hasSteps(const FitSection& section) const {
-  for (Eigen::Index c = mColumns; c < mCells; ++c) {
-    if (std::fabs(section.unknowns[c] - section.unknowns[c - mColumns]) > kStep) return true;
+  const Eigen::Index columns = mSize.col;
+  for (Eigen::Index c = columns; c < mCells; ++c) {
+    if (std::fabs(section.unknowns[c] - section.unknowns[c - columns]) > kStep) return true;
   }
   return false;
 }
@@ -155,6 +166,7 @@ FitSection FitProblem::smoothed(const FitSection& section, double amount) const 
   FitSection smooth;
   smooth.unknowns = section.unknowns;
   smooth.unknowns.head(mCells) = factor.solve(Vector(section.unknowns.head(mCells)));
+  mKnown.fix(smooth.unknowns);
   return smooth;
 }
 
@@ -199,7 +211,7 @@ double FitProblem::objective(const FitSection& section) const {
     sum += size <= mHuber ? u * u : 2.0 * mHuber * size - mHuber * mHuber;
   }
   const Vector departure = section.unknowns - mReference;
-  return sum + departure.dot(mPrior * departure);
+  return sum + departure.dot(mPrior * departure) + mKnown.cost(section.unknowns);
 }
 
 LinearStep FitProblem::linearize(const FitSection& section, double damping) const {
@@ -233,11 +245,13 @@ LinearStep FitProblem::linearize(const FitSection& section, double damping) cons
   const double least = -std::log(mOptions.maxVelocity);
   const double most = -std::log(mOptions.minVelocity);
   problem.held.resize(static_cast<std::size_t>(mCells));
+  mKnown.addTo(section.unknowns, problem);
   for (Eigen::Index c = 0; c < mCells; ++c) {
     const double value = section.unknowns[c];
     const double pull = problem.gradient[c];
-    problem.held[static_cast<std::size_t>(c)] =
-        (value <= least && pull < 0.0) || (value >= most && pull > 0.0);
+    if ((value <= least && pull < 0.0) || (value >= most && pull > 0.0)) {
+      problem.held[static_cast<std::size_t>(c)] = true;
+    }
   }
   return problem;
 }

@@ -4,6 +4,7 @@
 #include "grid/GridGeometry.h"
 #include "model/ChiSquare.h"
 #include "tomo/fitted/FitOptions.h"
+#include "tomo/fitted/KnownPrior.h"
 #include "tomo/fitted/RayTracer.h"
 #include "tomo/fitted/Roughness.h"
 #include "tomo/fitted/StepSolver.h"
@@ -43,6 +44,7 @@ class FitProblem {
   const FittedOptions& options() const { return mOptions; }
   Eigen::Index cells() const { return mCells; }
   Eigen::Index shifts() const { return mShifts; }  ///< shots with a time shift of their own
+  const KnownPrior& known() const { return mKnown; }
   double firstLambda() const;
 
   /// The section to start from, not evaluated, which also sets the reference.
@@ -75,9 +77,10 @@ class FitProblem {
   const FitData& mData;
   RayTracer& mTracer;
   const FittedOptions mOptions;
-  const Eigen::Index mColumns;
+  const GridSize mSize;
   const Eigen::Index mCells;
   const Eigen::Index mShifts;
+  const KnownPrior mKnown;
   Roughness mRoughness;
   Eigen::VectorXd mReference;
   double mHuber = 0.0;                 ///< up to how many errors a residual counts by its square

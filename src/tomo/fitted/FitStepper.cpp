@@ -60,6 +60,8 @@ bool FitStepper::search(const FitSection& from, const Vector& step, double slope
 /// the two the times change steadily. Not so with steps from far away, whose ends alone are what
 /// picks and roughness ask for.
 bool FitStepper::cross(const FitSection& from, FitSection& to, const std::function<bool()>& goOn) {
+  // Half-way there is half of what is known.
+  if (from.iteration == 0 && mProblem.known().any()) return true;
   const double farthest = std::log(kNearEnough);
   FitSection low = from;
   if (from.distance() > farthest || (from.fit.chi2 > 1.0) == (to.fit.chi2 > 1.0)) return true;

@@ -151,7 +151,9 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
     }
     mHistory.push_back(section.fit.chi2);
     section.iteration = static_cast<int>(mHistory.size()) - 1;
-    if (section.distance() < best.distance()) best = section;
+    // A start knows nothing of the ground that a section is held to.
+    const bool first = section.iteration == 1 && mProblem.known().any();
+    if (first || section.distance() < best.distance()) best = section;
     tell();
     const double damping = mStepper.damping();
     if (damping > 0.0 && section.fit.chi2 < 1.0) weight.restart(section.lambda * (1.0 + damping));

@@ -1,6 +1,7 @@
 #include "tomo/fitted/FittedRun.h"
 
 #include "model/GroundModel.h"
+#include "model/KnownGround.h"
 #include "model/Mending.h"
 #include "model/PickFingerprint.h"
 #include "model/Residuals.h"
@@ -97,6 +98,7 @@ InversionRecord recordOf(const FittedSettings& settings, const FittedResult& fit
   record.maxVelocity = settings.fit.maxVelocity;
   record.stopped = fit.end == FitEnd::kStopped;
   record.fit = fitRecordOf(settings, fit);
+  if (settings.holdKnown) record.fit->known = fingerprintOf(*document.known);
   record.picks = fingerprintOfPicks(document.ttArray);
   return record;
 }
@@ -169,6 +171,8 @@ FittedRunResult runOnCopy(TomoDocument& document, const FittedSettings& settings
   const Grid& grid = *document.model->grid;
   FittedOptions options = settings.fit;
   if (options.start.empty()) options.start = grid.slownesses();
+  if (settings.holdKnown) options.known = knownCellsOf(document);
+  const std::shared_ptr<const KnownCells> known = options.known;
   const std::unique_ptr<RayTracer> tracer = fitTracer(grid.sharedGeometry(), data, threads);
   MisfitHistory history(document, data);
   FittedInversion inversion(grid.geometry().size(), data, *tracer, std::move(options));
@@ -197,6 +201,7 @@ FittedRunResult runOnCopy(TomoDocument& document, const FittedSettings& settings
   document.result.edit().RMSE_tomography =
       result.run.misfit.count > 0 ? result.run.misfit.relativeRms * 100.0 : -1.0;
   if (result.run.status.ok()) result.run.runsGone = keepRun(document);
+  if (known) result.known = fitOf(*known, grid.geometry().size(), fit.slownesses);
   describeFit(data, std::move(fit), document, result);
   result.reference = settings.reference;
   log.write(result.outcome);

@@ -16,6 +16,7 @@ struct FittedSettings {
   FittedOptions fit;  ///< without a start: the velocities that the document's grid has
   std::string reference = "start";  ///< what the reference is called
   PickErrorRule errors;
+  bool holdKnown = false;  ///< held to the document's known ground, too
   bool singleThread = false;
   std::optional<std::chrono::steady_clock::time_point> asked;  ///< see TomographyParameters
 };
@@ -39,6 +40,7 @@ struct FittedRunResult {
   ChiSquare fit;                      ///< of the section, statics included
   std::vector<double> chi2History;    ///< of the start and after every iteration
   double lambda = 0.0;                ///< see FittedResult
+  std::optional<KnownFit> known;      ///< with what it was held to; none: with nothing
   std::vector<SuspectPick> suspects;  ///< in the order of the records
   /// Seconds per record, late is positive; not a number for shots that took no part; empty when
   /// none were asked for. A shot's times come true when its time shift grows by as much.

@@ -1,6 +1,9 @@
 #include "tomo/fitted/Roughness.h"
 
+#include "tomo/fitted/KnownCells.h"
+
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace talvesk {
@@ -10,6 +13,9 @@ constexpr double kAlong = 1.0;    // squared weight of neighbours in a row
 constexpr double kAcross = 0.25;  // in a column: ground is layered
 /// Differences of ln slowness below this count by their squares.
 constexpr double kSmallStep = 0.02;
+/// Share of their weight that neighbours keep which may differ. Not nothing: ground that no ray
+/// reaches is tied to the rest by it.
+constexpr double kLoose = 1e-3;
 
 }  // namespace
 
@@ -18,8 +24,10 @@ void Roughness::forEachPair(Visit visit) const {
   for (std::uint32_t row = 0; row < mRows; ++row) {
     for (std::uint32_t column = 0; column < mColumns; ++column) {
       const Eigen::Index cell = static_cast<Eigen::Index>(row) * mColumns + column;
-      if (column + 1 < mColumns) visit(cell, cell + 1, kAlong);
-      if (row + 1 < mRows) visit(cell, cell + mColumns, kAcross);
+      const int loose = mLoose.empty() ? 0 : mLoose[static_cast<std::size_t>(cell)];
+      const auto share = [loose](int side) { return (loose & side) != 0 ? kLoose : 1.0; };
+      if (column + 1 < mColumns) visit(cell, cell + 1, kAlong * share(KnownCells::kRight));
+      if (row + 1 < mRows) visit(cell, cell + mColumns, kAcross * share(KnownCells::kBelow));
     }
   }
 }
@@ -41,6 +49,11 @@ void Roughness::assemble(Weight weight) {
 }
 
 Roughness::Roughness(std::uint32_t rows, std::uint32_t columns) : mRows(rows), mColumns(columns) {
+  assemble([](Eigen::Index, Eigen::Index, double base) { return base; });
+}
+
+void Roughness::loosen(std::vector<std::uint8_t> loose) {
+  mLoose = std::move(loose);
   assemble([](Eigen::Index, Eigen::Index, double base) { return base; });
 }
 

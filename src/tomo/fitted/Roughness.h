@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include <Eigen/SparseCore>
 
@@ -11,6 +12,10 @@ namespace talvesk {
 class Roughness {
  public:
   Roughness(std::uint32_t rows, std::uint32_t columns);
+
+  /// Lets neighbours differ at next to no cost.
+  /// \param loose per cell which of its neighbours, as of KnownCells; empty: none
+  void loosen(std::vector<std::uint8_t> loose);
 
   /// Makes sharp steps count less than many small ones, as the sum of sizes instead of squares
   /// would (iteratively reweighted least squares). The weights are scaled so that these very values
@@ -31,6 +36,7 @@ class Roughness {
 
   std::uint32_t mRows;
   std::uint32_t mColumns;
+  std::vector<std::uint8_t> mLoose;  ///< per cell, or empty
   Eigen::SparseMatrix<double> mMatrix;
 };
 

@@ -1,11 +1,13 @@
 #include "tomo/fitted/SurveyFit.h"
 
 #include "model/GroundModel.h"
+#include "model/KnownGround.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/fitted/FineTracer.h"
+#include "tomo/fitted/KnownCells.h"
 
 #include <algorithm>
 #include <utility>
@@ -62,6 +64,13 @@ FitData receiversToTrace(const TomoDocument& document) {
   return gather(
       document, [](const TravelTime&, std::size_t) { return true; },
       [](const TravelTime&, std::size_t) { return 0.0; });
+}
+
+std::shared_ptr<const KnownCells> knownCellsOf(const TomoDocument& document) {
+  if (document.known->empty()) return nullptr;
+  const Grid& grid = *document.model->grid;
+  return std::make_shared<KnownCells>(
+      knownCells(*document.known, grid.geometry(), document.model->xOffset));
 }
 
 std::unique_ptr<RayTracer> fitTracer(const std::shared_ptr<const GridGeometry>& geometry,

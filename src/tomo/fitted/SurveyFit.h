@@ -11,6 +11,7 @@ namespace talvesk {
 
 class GridGeometry;
 class TomoDocument;
+struct KnownCells;
 
 /// The picks of a survey as a fit takes them: all but those that its grid does not reach, which
 /// findExcluded() names. The document holds a grid.
@@ -18,6 +19,9 @@ FitData picksToFit(const TomoDocument& document, const PickErrorRule& errors);
 
 /// The same of every receiver that the grid reaches, picked or not; errors and missing times are 0.
 FitData receiversToTrace(const TomoDocument& document);
+
+/// What a document's known ground asks of the cells of its grid; null where nothing is known.
+std::shared_ptr<const KnownCells> knownCellsOf(const TomoDocument& document);
 
 /// The tracer with which sections are fitted, and with which the times of a fitted section are
 /// computed ever after. \param threads at least 1
