@@ -1,6 +1,7 @@
 #include "refraction/LayeredGround.h"
 
 #include "numerics/Medians.h"
+#include "refraction/Course.h"
 #include "refraction/LinearFit.h"
 #include "refraction/PlausibleResults.h"
 
@@ -18,42 +19,6 @@ constexpr double kNodesPerReceiver = 4.0;
 constexpr double kLeastNodes = 200.0;
 constexpr double kMostNodes = 1200.0;
 constexpr std::size_t kEndParts = 3;
-
-/// A quantity over ascending x, straight between its points.
-struct Course {
-  std::vector<double> x;
-  std::vector<double> y;
-
-  /// The same beyond the ends as at them.
-  double at(double place) const {
-    const auto upper = std::upper_bound(x.begin(), x.end(), place);
-    if (upper == x.begin()) return y.front();
-    if (upper == x.end()) return y.back();
-    const auto i = static_cast<std::size_t>(upper - x.begin());
-    const double w = (place - x[i - 1]) / (x[i] - x[i - 1]);
-    return (1.0 - w) * y[i - 1] + w * y[i];
-  }
-};
-
-/// Elevation of the surface from all shots and receivers; of several at one x the first counts.
-Course surfaceOf(const std::vector<ShotArrivals>& shots) {
-  std::vector<Point2D> points;
-  for (const ShotArrivals& shot : shots) {
-    for (const Point2D& receiver : shot.receivers) {
-      if (isFinite(receiver)) points.push_back(receiver);
-    }
-    if (isFinite(shot.shot)) points.push_back(shot.shot);
-  }
-  std::stable_sort(points.begin(), points.end(),
-                   [](const Point2D& a, const Point2D& b) { return a.x < b.x; });
-  Course surface;
-  for (const Point2D& point : points) {
-    if (!surface.x.empty() && point.x == surface.x.back()) continue;
-    surface.x.push_back(point.x);
-    surface.y.push_back(point.z);
-  }
-  return surface;
-}
 
 std::vector<double> nodesOver(const Course& surface) {
   const double first = surface.x.front();
