@@ -145,14 +145,23 @@ struct InvertOptions {
   bool verbose = false;
 };
 
+/// How layers are proposed.
+enum class ProposalMethod {
+  kCurves,  ///< every curve by itself, see refraction/LayerProposal.h
+  kSurvey   ///< all curves together, see refraction/SurveyProposal.h
+};
+
 struct RefractOptions {
   std::string input;  ///< travel-time file; none: shot files
   TravelTimeReading picks;
   ShotOptions shots;
-  std::string layers;        ///< file of marks; none: as proposed
+  std::string layers;                     ///< file of marks; none: as proposed
+  std::optional<ProposalMethod> propose;  ///< none: by curves, if the project has no marks
+  std::uint32_t layerCount = 0;           ///< of a proposal over the survey; 0: as fits best
   std::optional<double> xy;  ///< metres, of the family; none: that of the project, else 0
   std::string json;
   std::string table;
+  std::string misfit;               ///< table of computed times against picks
   std::string project;              ///< to save the survey and its layers in
   std::vector<std::string> images;  ///< one picture per path
   std::string report;

@@ -15,13 +15,17 @@
 #include "refraction/Branches.h"
 #include "refraction/BuildProfiles.h"
 #include "refraction/LayerProposal.h"
+#include "refraction/LayeredFit.h"
 #include "refraction/Profile.h"
+#include "refraction/SurveyProposal.h"
+#include "refraction/WeighedPicks.h"
 #include "session/TableRules.h"
 #include "tomo/RayRecomputation.h"
 #include "view/RefractorLines.h"
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <ostream>
 
 namespace talvesk {
@@ -30,12 +34,31 @@ namespace {
 using refractionDataStructure::computedData;
 using refractionDataStructure::Interpretation;
 
+/// The picks of a survey and what is found from them.
+struct Work {
+  std::vector<ShotArrivals> shots;
+  std::vector<std::vector<double>> errors;  ///< of the picks
+  std::optional<SurveyProposal> proposal;   ///< over the survey
+  ProfileOutcome outcome;
+  LayeredFit fit;
+};
+
+void propose(const RefractOptions& options, Interpretation& interpretation, Work& work) {
+  if (options.propose != ProposalMethod::kSurvey) {
+    interpretation.ttLayer = proposeLayers(work.shots, interpretation.ttLayer);
+    return;
+  }
+  work.proposal =
+      proposeFromSurvey(work.shots, work.errors, interpretation.ttLayer, options.layerCount);
+  interpretation.ttLayer = work.proposal->marks;
+}
+
 Status markLayers(const RefractOptions& options, const TomoDocument& document,
-                  const std::vector<ShotArrivals>& shots, Interpretation& interpretation) {
+                  Interpretation& interpretation, Work& work) {
   fitToSurvey(document, interpretation);
   if (options.layers.empty()) {
-    if (hasMarks(interpretation.ttLayer)) return {};  // those of the project
-    interpretation.ttLayer = proposeLayers(shots, interpretation.ttLayer);
+    const bool kept = !options.propose && hasMarks(interpretation.ttLayer);
+    if (!kept) propose(options, interpretation, work);  // else those of the project
     return {};
   }
   LayerMarks marks;
@@ -47,16 +70,19 @@ Status markLayers(const RefractOptions& options, const TomoDocument& document,
   return {};
 }
 
-ProfileOutcome interpret(const RefractOptions& options, const std::vector<ShotArrivals>& shots,
-                         Interpretation& interpretation) {
+void interpret(const RefractOptions& options, Interpretation& interpretation, Work& work) {
   if (options.xy) {
     chooseXY(interpretation, 2, *options.xy);
     chooseXY(interpretation, 3, *options.xy);
   }
-  return buildProfiles(shots, interpretation);
+  work.outcome = buildProfiles(work.shots, interpretation);
+  if (work.outcome.built) work.fit = fitOfProfile(work.shots, work.errors, interpretation);
 }
 
-std::string reasonOf(const ProfileOutcome& outcome, const ShotPairReach& reach) {
+std::string reasonOf(const Work& work, const ShotPairReach& reach) {
+  const ProfileOutcome& outcome = work.outcome;
+  const auto& proposal = work.proposal;
+  if (proposal && !proposal->hasLayers()) return proposal->statement();
   if (outcome.warnings.empty()) return "there is nothing to build a profile of";
   const RefractionWarning& last = outcome.warnings.back();
   if (last.kind != RefractionWarning::Kind::kNoShotPair) return last.text();
@@ -75,32 +101,45 @@ std::string rangeOf(const std::vector<double>& values, const std::string& unit) 
   return formatDouble(*ends.first, 4) + " to " + formatDouble(*ends.second, 4) + ' ' + unit;
 }
 
-void summarize(const Interpretation& interpretation, std::ostream& out) {
+std::string misfitOf(const LayeredFit& fit, std::uint32_t layer) {
+  const auto found = std::find_if(fit.perLayer.begin(), fit.perLayer.end(),
+                                  [layer](const LayerMisfit& one) { return one.layer == layer; });
+  if (found == fit.perLayer.end()) return {};
+  return ", misfit " + formatDouble(found->rms * 1000.0, 2) + " ms (chi2 " +
+         formatDouble(found->chi2, 2) + ") of " + std::to_string(found->picks) + " picks";
+}
+
+void summarize(const Interpretation& interpretation, const Work& work, std::ostream& out) {
   const auto& results = interpretation.refractData;
+  if (work.proposal) out << "Proposal: " << work.proposal->statement() << '\n';
   out << "Layer 1: "
-      << (std::isfinite(results.v1) ? formatDouble(results.v1, 4) + " m/s" : "no velocity") << '\n';
+      << (std::isfinite(results.v1) ? formatDouble(results.v1, 4) + " m/s" : "no velocity")
+      << misfitOf(work.fit, 1) << '\n';
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
     const computedData& refractor = results.cData[i];
     out << "Layer " << i + 2 << ": shots " << interpretation.phnt_A[i].shotID + 1 << " and "
         << interpretation.phnt_R[i].shotID + 1 << ", " << refractor.x.size()
         << " receivers, velocity " << rangeOf(refractor.velocity, "m/s") << ", depth "
-        << rangeOf(refractor.depth, "m") << '\n';
+        << rangeOf(refractor.depth, "m") << misfitOf(work.fit, static_cast<std::uint32_t>(i) + 2)
+        << '\n';
   }
   out.flush();
 }
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
-int writeResults(const RefractOptions& options, const LoadedProject& project,
-                 const std::vector<RefractionWarning>& warnings) {
+int writeResults(const RefractOptions& options, const LoadedProject& project, const Work& work) {
   const TomoDocument& document = project.document;
   const Interpretation& interpretation = *project.interpretation;
   OutputAttempts attempt;
   attempt(options.json, [&](const auto& path) {
-    return writeOutput(path, refractionJson(interpretation, warnings));
+    return writeOutput(
+        path, refractionJson(interpretation, work.fit, work.proposal, work.outcome.warnings));
   });
   attempt(options.table, [&](const auto& path) {
     return writeOutput(path, profileTable(interpretation.refractData));
   });
+  attempt(options.misfit,
+          [&](const auto& path) { return writeOutput(path, misfitTable(work.fit)); });
   attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) {
@@ -119,6 +158,7 @@ int writeResults(const RefractOptions& options, const LoadedProject& project,
 std::vector<OutputFile> outputsOf(const RefractOptions& options) {
   std::vector<OutputFile> outputs = {{"--json", options.json},
                                      {"--table", options.table},
+                                     {"--misfit", options.misfit},
                                      {"--project", options.project},
                                      {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
@@ -159,25 +199,31 @@ int run(const RefractOptions& options) {
     warn("uncomplete set of picks; the interpretation is run anyway");
   }
 
-  const std::vector<ShotArrivals> shots = shotArrivals(document);
-  ProfileOutcome outcome;
+  Work work;
+  work.shots = shotArrivals(document);
+  work.errors = pickErrors(document, work.shots);
   status = editSurvey(Edit::kRefraction, project, [&](Survey& next) {
-    Interpretation& work = next.interpretation.edit();
-    Status marked = markLayers(options, document, shots, work);
-    if (marked.ok()) outcome = interpret(options, shots, work);
+    Interpretation& edited = next.interpretation.edit();
+    Status marked = markLayers(options, document, edited, work);
+    if (marked.ok()) interpret(options, edited, work);
     return marked;
   });
   if (!status.ok()) return failed(status.message());
   const Interpretation& interpretation = *project.interpretation;
-  if (!outcome.built) {
-    return failed(reasonOf(outcome, shotPairReach(shots, interpretation.ttLayer, 2)));
+  if (!work.outcome.built) {
+    const std::string reason = reasonOf(work, shotPairReach(work.shots, interpretation.ttLayer, 2));
+    const bool layered = work.proposal && work.proposal->hasLayers();
+    return failed(layered ? work.proposal->statement().english() + ": " + reason : reason);
   }
   // What is left out or replaced is told even who wants to hear nothing else.
-  for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
+  if (work.proposal) {
+    for (const Message& remark : work.proposal->remarks()) warn(remark);
+  }
+  for (const RefractionWarning& warning : work.outcome.warnings) warn(warning.text());
   status = prepareReport(options, document);
   if (!status.ok()) return failed(status.message());
-  const int exitCode = writeResults(options, project, outcome.warnings);
-  summarize(interpretation, *channels.summary);
+  const int exitCode = writeResults(options, project, work);
+  summarize(interpretation, work, *channels.summary);
   return exitCode;
 }
 

@@ -4,6 +4,32 @@
 #include <memory>
 
 namespace talvesk {
+namespace {
+
+void addProposal(CLI::App& command, RefractOptions& options, CLI::Option* layers) {
+  command
+      .add_option_function<std::string>(
+          "--propose",
+          [&options](const std::string& text) {
+            if (text != "curves" && text != "survey") {
+              throw CLI::ValidationError("--propose", "'" + text + "' is none of curves, survey");
+            }
+            options.propose = text == "survey" ? ProposalMethod::kSurvey : ProposalMethod::kCurves;
+          },
+          "How layers are proposed: curves, from the break points of every curve by itself, or "
+          "survey, from all picks together by their errors, which says how many layers there are "
+          "and how they fit; marks of a project are then replaced (default: curves, if the "
+          "project has no marks)")
+      ->type_name("HOW")
+      ->group("Interpretation")
+      ->excludes(layers);
+  addNumber<int>(command, "--layer-count", "N", {1, 3},
+                 "Number of layers that --propose survey gives (default: as many as fit best)",
+                 [&options](int count) { options.layerCount = static_cast<std::uint32_t>(count); })
+      ->group("Interpretation");
+}
+
+}  // namespace
 
 void addRefract(CLI::App& app, RefractOptions& options) {
   CLI::App& command = *app.add_subcommand("refract",
@@ -24,6 +50,7 @@ void addRefract(CLI::App& app, RefractOptions& options) {
       command, parameters::kXY, "M",
       meaningOf(parameters::kXY) + defaultOf(parameters::kXY, "that of the project, else "),
       [&](int value) { options.xy = value; });
+  addProposal(command, options, layers);
   for (CLI::Option* option : {layers, xy}) option->group("Interpretation");
   CLI::Option* json = addPath(command, "--json", options.json,
                               "Write the results as JSON; '-' is standard output, and then all "
@@ -31,6 +58,10 @@ void addRefract(CLI::App& app, RefractOptions& options) {
   CLI::Option* table = addPath(command, "--table", options.table,
                                "Write a text line per receiver: x, depths (metres), tV, tG "
                                "(seconds) and velocities (m/s) of both refractors");
+  CLI::Option* misfit = addPath(
+      command, "--misfit", options.misfit,
+      "Write how arrivals computed through the profile fit the picks, a text line per shot and "
+      "layer: number of picks, RMS and mean (ms), chi2 by the errors of the picks");
   CLI::Option* image = addImages(command, options.images,
                                  "Draw the section of layers: .png, .svg or .pdf; once per "
                                  "picture");
@@ -38,7 +69,7 @@ void addRefract(CLI::App& app, RefractOptions& options) {
       addPath(command, "--project", options.project,
               "Save the survey with its picks, traces and layers as a project named *.tvsk"),
       {".tvsk"}, false);
-  for (CLI::Option* option : {json, table, image, project}) option->group("Output");
+  for (CLI::Option* option : {json, table, misfit, image, project}) option->group("Output");
   addReport(command, options.report, options.reportFields);
   CLI::Option* quiet = command.add_flag("--quiet", options.quiet, kQuietHelp);
   command
@@ -46,9 +77,12 @@ void addRefract(CLI::App& app, RefractOptions& options) {
                 "Print the messages of the readers, the picker and the interpretation")
       ->excludes(quiet);
   command.final_callback([inputs, shots, &options] {
-    if (options.json.empty() && options.table.empty() && options.images.empty() &&
-        options.project.empty() && options.report.empty()) {
-      throw CLI::RequiredError("one of --json, --table, --image, --project and --report");
+    if (options.json.empty() && options.table.empty() && options.misfit.empty() &&
+        options.images.empty() && options.project.empty() && options.report.empty()) {
+      throw CLI::RequiredError("one of --json, --table, --misfit, --image, --project and --report");
+    }
+    if (options.layerCount > 0 && options.propose != ProposalMethod::kSurvey) {
+      throw CLI::RequiredError("--layer-count: --propose survey");
     }
     sortInputs(*inputs, shots.anyGiven(), options.input, options.shots);
     shots.check(options.shots);

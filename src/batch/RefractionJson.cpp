@@ -55,9 +55,84 @@ Json refractorJson(const Interpretation& all, std::size_t index) {
   return json;
 }
 
+Json misfitJson(const LayerMisfit& one) {
+  Json json = Json::object();
+  json["picks"] = one.picks;
+  json["rms"] = one.rms;
+  json["mean"] = one.mean;
+  json["chi2"] = one.chi2;
+  return json;
+}
+
+Json fitJson(const LayeredFit& fit) {
+  Json shots = Json::array();
+  for (const LayerMisfit& one : fit.perShot) {
+    Json json = Json::object();
+    json["shot"] = one.shot;
+    json["layer"] = one.layer;
+    json.update(misfitJson(one));
+    shots.push_back(std::move(json));
+  }
+  Json layers = Json::array();
+  for (const LayerMisfit& one : fit.perLayer) {
+    Json json = Json::object();
+    json["layer"] = one.layer;
+    json.update(misfitJson(one));
+    layers.push_back(std::move(json));
+  }
+  Json json = Json::object();
+  json["all"] = misfitJson(fit.total);
+  json["layers"] = std::move(layers);
+  json["shots"] = std::move(shots);
+  return json;
+}
+
+Json groundJson(const GroundFit& ground) {
+  Json json = Json::object();
+  json["layers"] = ground.layers;
+  json["misfit"] = ground.misfit;
+  json["chi2"] = ground.chi2;
+  json["unknowns"] = ground.unknowns;
+  json["criterion"] = ground.criterion;
+  json["velocities"] = ground.velocities;
+  if (ground.layers == 0) json["gradient"] = ground.gradient;
+  return json;
+}
+
+Json proposalJson(const SurveyProposal& proposal) {
+  Json grounds = Json::array();
+  for (const GroundFit& ground : proposal.grounds) {
+    if (ground.fitted) grounds.push_back(groundJson(ground));
+  }
+  Json pieces = Json::array();
+  for (const ShortPiece& piece : proposal.shortPieces) {
+    Json json = Json::object();
+    json["shot"] = piece.shot;
+    json["side"] = piece.side == Side::kRight ? "right" : "left";
+    json["layer"] = piece.layer;
+    json["picks"] = piece.picks;
+    pieces.push_back(std::move(json));
+  }
+  Json left = Json::array();
+  for (const TraceRef& pick : proposal.standOut) {
+    Json json = Json::object();
+    json["shot"] = pick.shot;
+    json["trace"] = pick.trace;
+    left.push_back(std::move(json));
+  }
+  Json json = Json::object();
+  json["statement"] = proposal.statement().english();
+  json["layers"] = proposal.hasLayers() ? proposal.grounds[*proposal.chosen].layers : 0U;
+  json["grounds"] = std::move(grounds);
+  json["short_pieces"] = std::move(pieces);
+  json["stand_out"] = std::move(left);
+  return json;
+}
+
 }  // namespace
 
-std::string refractionJson(const Interpretation& interpretation,
+std::string refractionJson(const Interpretation& interpretation, const LayeredFit& fit,
+                           const std::optional<SurveyProposal>& proposal,
                            const std::vector<RefractionWarning>& warnings) {
   Json shots = Json::array();
   for (const layerStruct& marks : interpretation.ttLayer) {
@@ -66,6 +141,7 @@ std::string refractionJson(const Interpretation& interpretation,
     shot["enabled"] = marks.enabled;
     shot["layers"] = marks.layer;
     shot["shifts"] = marks.trasla;
+    if (marks.shotID < fit.times.size()) shot["times"] = fit.times[marks.shotID];
     shots.push_back(std::move(shot));
   }
   Json refractors = Json::array();
@@ -79,6 +155,8 @@ std::string refractionJson(const Interpretation& interpretation,
   json["xy_family"] = kXYFamily;
   json["refractors"] = std::move(refractors);
   json["shots"] = std::move(shots);
+  if (proposal) json["proposal"] = proposalJson(*proposal);
+  if (fit.total.picks > 0) json["misfit"] = fitJson(fit);
   json["warnings"] = std::move(texts);
   return linePerKey(json) + "\n";
 }

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "model/RefractionDataStructure.h"
+#include "refraction/LayeredFit.h"
 #include "refraction/RefractionWarning.h"
+#include "refraction/SurveyProposal.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,8 +13,11 @@ namespace talvesk {
 
 /// A finished interpretation as JSON, one key per line, numbers as in the other results: layers and
 /// time shifts (seconds) per trace of every shot, both arrival curves and what follows from them
-/// per refractor. Positions, depths and XY in metres, times in seconds, velocities in m/s.
+/// per refractor, the times through the profile and how they fit the picks; the proposal over the
+/// survey where the layers come from one. Positions, depths and XY in metres, times in seconds,
+/// velocities in m/s.
 std::string refractionJson(const refractionDataStructure::Interpretation& interpretation,
+                           const LayeredFit& fit, const std::optional<SurveyProposal>& proposal,
                            const std::vector<RefractionWarning>& warnings);
 
 }  // namespace talvesk

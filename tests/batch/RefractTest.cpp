@@ -7,6 +7,7 @@
 #include "support/RefractionLines.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -145,6 +146,46 @@ TEST(Refract, saysWhatKeepsItFromAProfile) {
     EXPECT_THAT(outcome.err, HasSubstr(c.message)) << c.what;
     EXPECT_FALSE(survey.folder.holds("r.json")) << c.what;
   }
+}
+
+TEST(Refract, proposesOverTheSurveyAndSaysHowTheProfileFits) {
+  const Survey survey;
+  const std::string misfit = survey.folder / "misfit.txt";
+  const Outcome outcome =
+      runBatch({"refract", survey.picks, "--propose", "survey", "--json", "-", "--misfit", misfit});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  EXPECT_EQ(json["proposal"]["layers"], 3);
+  EXPECT_EQ(json["proposal"]["grounds"].size(), 4U);
+  EXPECT_NEAR(json["proposal"]["grounds"][2]["velocities"][1].get<double>(), 1200.0, 12.0);
+  EXPECT_THAT(outcome.err, HasSubstr("Proposal: 3 layers, misfit 0 ms; 2 layers, misfit "));
+  EXPECT_THAT(outcome.err, HasSubstr(" receivers, velocity "));
+  EXPECT_THAT(outcome.err, HasSubstr(" m, misfit "));
+  ASSERT_EQ(json["misfit"]["layers"].size(), 3U);
+  EXPECT_LT(json["misfit"]["layers"][0]["rms"].get<double>(), 0.001);
+  EXPECT_EQ(json["shots"][2]["times"].size(), 60U);
+  EXPECT_THAT(contentsOf(misfit), HasSubstr("shot layer picks rms_ms mean_ms chi2\n1 "));
+}
+
+TEST(Refract, claimsNoLayersOnGroundWithASteadyGradient) {
+  TomoDocument line = testing::testLine(24, 3.0, {-20.0, -1.5, 34.5, 70.5, 89.0});
+  for (TravelTime& record : line.ttArray.edit()) {
+    for (int i = 0; i < 24; ++i) {
+      const double offset = std::fabs(3.0 * i - record.shotPos2d.x);
+      record.ttMisurati.edit()[static_cast<std::size_t>(i)] =
+          2.0 / 30.0 * std::asinh(0.5 * 30.0 / 400.0 * offset);
+    }
+  }
+  Folder folder;
+  const std::string picks = folder / "gradient.otte";
+  ASSERT_TRUE(writeTravelTimes(picks, line).ok());
+  const std::string out = folder / "r.json";
+  const Outcome outcome = runBatch({"refract", picks, "--propose", "survey", "--json", out});
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("no layers: a velocity that grows steadily with depth, from "
+                                     "400 m/s by 30 m/s per metre"));
+  EXPECT_EQ(runBatch({"refract", picks, "--layer-count", "2", "--json", out}).code, 2);
+  EXPECT_EQ(runBatch({"refract", picks, "--propose", "guess", "--json", out}).code, 2);
 }
 
 TEST(Refract, leavesOutWhatNoGroundHasAndSaysSoEvenWhenQuiet) {
