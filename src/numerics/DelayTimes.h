@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tomo/fitted/LinePicks.h"
+#include "numerics/LinePicks.h"
 
 #include <vector>
 
