@@ -8,6 +8,7 @@
 #include "model/Parameters.h"
 #include "model/Recordings.h"
 #include "processing/ShotFilters.h"
+#include "refraction/methods/MethodResult.h"
 #include "tomo/TomographyRun.h"
 #include "tomo/fitted/References.h"
 #include "tomo/fitted/ResolutionRun.h"
@@ -140,12 +141,24 @@ struct InvertOptions {
   bool verbose = false;
 };
 
+/// Which XY the reciprocal method takes.
+enum class XYRule { kGiven, kSmoothest, kMostEven };
+
+/// How layers are interpreted beside the prescribed profile.
+struct LayerMethodOptions {
+  std::vector<LayerMethod> methods = {LayerMethod::kReciprocal};
+  std::optional<int> bounds;  ///< interpretations of moved picks; none: as many as the methods ask
+  int seed = parameters::kSeed.initial;
+  XYRule xyRule = XYRule::kGiven;
+};
+
 struct RefractOptions {
   std::string input;  ///< travel-time file; none: shot files
   TravelTimeReading picks;
   ShotOptions shots;
   std::string layers;        ///< file of marks; none: as proposed
-  std::optional<double> xy;  ///< metres, of the family; none: that of the project, else 0
+  std::optional<double> xy;  ///< metres; none: that of the project, else 0
+  LayerMethodOptions layering;
   std::string json;
   std::string table;
   std::string project;              ///< to save the survey and its layers in

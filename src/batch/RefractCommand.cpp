@@ -3,6 +3,7 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/Images.h"
+#include "batch/LayerFindings.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/RefractionJson.h"
@@ -47,15 +48,6 @@ Status markLayers(const RefractOptions& options, const TomoDocument& document,
   return {};
 }
 
-ProfileOutcome interpret(const RefractOptions& options, const std::vector<ShotArrivals>& shots,
-                         Interpretation& interpretation) {
-  if (options.xy) {
-    chooseXY(interpretation, 2, *options.xy);
-    chooseXY(interpretation, 3, *options.xy);
-  }
-  return buildProfiles(shots, interpretation);
-}
-
 std::string reasonOf(const ProfileOutcome& outcome, const ShotPairReach& reach) {
   if (outcome.warnings.empty()) return "there is nothing to build a profile of";
   const RefractionWarning& last = outcome.warnings.back();
@@ -75,10 +67,11 @@ std::string rangeOf(const std::vector<double>& values, const std::string& unit) 
   return formatDouble(*ends.first, 4) + " to " + formatDouble(*ends.second, 4) + ' ' + unit;
 }
 
-void summarize(const Interpretation& interpretation, std::ostream& out) {
+void summarize(const Interpretation& interpretation, const LayerFindings& findings,
+               std::ostream& out) {
   const auto& results = interpretation.refractData;
-  out << "Layer 1: "
-      << (std::isfinite(results.v1) ? formatDouble(results.v1, 4) + " m/s" : "no velocity") << '\n';
+  out << "Layer 1: " << (results.v1 > 0.0 ? formatDouble(results.v1, 4) + " m/s" : "no velocity")
+      << '\n';
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
     const computedData& refractor = results.cData[i];
     out << "Layer " << i + 2 << ": shots " << interpretation.phnt_A[i].shotID + 1 << " and "
@@ -86,20 +79,22 @@ void summarize(const Interpretation& interpretation, std::ostream& out) {
         << " receivers, velocity " << rangeOf(refractor.velocity, "m/s") << ", depth "
         << rangeOf(refractor.depth, "m") << '\n';
   }
+  summarizeFindings(findings, out);
   out.flush();
 }
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
 int writeResults(const RefractOptions& options, const LoadedProject& project,
-                 const std::vector<RefractionWarning>& warnings) {
+                 const std::vector<RefractionWarning>& warnings, const LayerFindings& findings) {
   const TomoDocument& document = project.document;
   const Interpretation& interpretation = *project.interpretation;
   OutputAttempts attempt;
   attempt(options.json, [&](const auto& path) {
-    return writeOutput(path, refractionJson(interpretation, warnings));
+    return writeOutput(path, refractionJson(interpretation, warnings, findings));
   });
   attempt(options.table, [&](const auto& path) {
-    return writeOutput(path, profileTable(interpretation.refractData));
+    return writeOutput(path, findings.comparison ? comparisonTable(*findings.comparison)
+                                                 : profileTable(interpretation.refractData));
   });
   attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   for (const std::string& image : options.images) {
@@ -108,7 +103,7 @@ int writeResults(const RefractOptions& options, const LoadedProject& project,
     });
   }
   attempt(options.report, [&](const auto& path) {
-    return writeReportFile({document, &interpretation}, options.reportFields,
+    return writeReportFile({document, &interpretation, findings.methods()}, options.reportFields,
                            sectionFigureOptions(project.section, project.palettes->current(),
                                                 refractorLines(interpretation)),
                            path);
@@ -164,20 +159,24 @@ int run(const RefractOptions& options) {
   status = editSurvey(Edit::kRefraction, project, [&](Survey& next) {
     Interpretation& work = next.interpretation.edit();
     Status marked = markLayers(options, document, shots, work);
-    if (marked.ok()) outcome = interpret(options, shots, work);
+    if (marked.ok()) outcome = buildWithXY(options, shots, work, marked);
     return marked;
   });
   if (!status.ok()) return failed(status.message());
   const Interpretation& interpretation = *project.interpretation;
+  const LayerFindings findings = findLayers(options.layering, document, interpretation);
   if (!outcome.built) {
-    return failed(reasonOf(outcome, shotPairReach(shots, interpretation.ttLayer, 2)));
+    const std::string reason = reasonOf(outcome, shotPairReach(shots, interpretation.ttLayer, 2));
+    if (!findings.foundLayers()) return failed(reason);
+    warn("no profile by the reciprocal method: " + reason);
   }
   // What is left out or replaced is told even who wants to hear nothing else.
   for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
+  for (const std::string& remark : remarksOf(findings)) warn(remark);
   status = prepareReport(options, document);
   if (!status.ok()) return failed(status.message());
-  const int exitCode = writeResults(options, project, outcome.warnings);
-  summarize(interpretation, *channels.summary);
+  const int exitCode = writeResults(options, project, outcome.warnings, findings);
+  summarize(interpretation, findings, *channels.summary);
   return exitCode;
 }
 
