@@ -70,8 +70,10 @@ std::string rangeOf(const std::vector<double>& values, const std::string& unit) 
 void summarize(const Interpretation& interpretation, const LayerFindings& findings,
                std::ostream& out) {
   const auto& results = interpretation.refractData;
-  out << "Layer 1: " << (results.v1 > 0.0 ? formatDouble(results.v1, 4) + " m/s" : "no velocity")
-      << '\n';
+  if (!results.cData.empty()) {
+    out << "Layer 1: " << (results.v1 > 0.0 ? formatDouble(results.v1, 4) + " m/s" : "no velocity")
+        << '\n';
+  }
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
     const computedData& refractor = results.cData[i];
     out << "Layer " << i + 2 << ": shots " << interpretation.phnt_A[i].shotID + 1 << " and "
@@ -171,6 +173,8 @@ int run(const RefractOptions& options) {
     warn("no profile by the reciprocal method: " + reason);
   }
   // What is left out or replaced is told even who wants to hear nothing else.
+  // The last one has been told as the reason.
+  if (!outcome.built && !outcome.warnings.empty()) outcome.warnings.pop_back();
   for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
   for (const std::string& remark : remarksOf(findings)) warn(remark);
   status = prepareReport(options, document);
