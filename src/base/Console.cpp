@@ -17,6 +17,14 @@ Streams& streams() {
   return instance;
 }
 
+thread_local bool silent = false;
+
+/// One for every thread: writing to a stream changes its state.
+std::ostream& silence() {
+  static thread_local std::ostream stream(nullptr);
+  return stream;
+}
+
 void writeLine(std::ostream& stream, const std::string& line, bool isError) {
   stream << line << std::endl;
   if (streams().logger) streams().logger(line, isError);
@@ -25,7 +33,7 @@ void writeLine(std::ostream& stream, const std::string& line, bool isError) {
 }  // namespace
 
 std::ostream& out() {
-  return *streams().out;
+  return silent ? silence() : *streams().out;
 }
 std::ostream& error() {
   return *streams().error;
@@ -46,10 +54,18 @@ void setLogger(Logger logger) {
   streams().logger = std::move(logger);
 }
 void log(const std::string& line) {
+  if (silent) return;
   writeLine(out(), line, false);
 }
 void logError(const std::string& line) {
   writeLine(error(), line, true);
+}
+
+Silence::Silence() : mBefore(silent) {
+  silent = true;
+}
+Silence::~Silence() {
+  silent = mBefore;
 }
 
 }  // namespace talvesk::console

@@ -28,5 +28,18 @@ void log(const std::string& line);
 /// The same to error().
 void logError(const std::string& line);
 
+/// As long as it lives, what its thread writes to out() and log() goes nowhere: for a computation
+/// that repeats another one many times over, of which only the first is told.
+class Silence {
+ public:
+  Silence();
+  ~Silence();
+  Silence(const Silence&) = delete;
+  Silence& operator=(const Silence&) = delete;
+
+ private:
+  bool mBefore;
+};
+
 }  // namespace console
 }  // namespace talvesk

@@ -80,6 +80,9 @@ void sortInputs(const std::vector<std::string>& inputs, bool shotOptionsGiven, s
 void addInvert(CLI::App& app, InvertOptions& options);
 void addRefract(CLI::App& app, RefractOptions& options);
 
+/// Those of `refract` that say by which methods and how surely: --method, --xy, --bounds, --seed.
+void addLayerMethods(CLI::App& command, RefractOptions& options);
+
 /// The command `records`.
 void addRecords(CLI::App& app, RecordsOptions& options);
 

@@ -8,6 +8,7 @@
 #include "model/Parameters.h"
 #include "model/Recordings.h"
 #include "processing/ShotFilters.h"
+#include "refraction/methods/MethodResult.h"
 #include "tomo/TomographyRun.h"
 #include "tomo/fitted/References.h"
 #include "tomo/fitted/ResolutionRun.h"
@@ -151,6 +152,17 @@ enum class ProposalMethod {
   kSurvey   ///< all curves together, see refraction/SurveyProposal.h
 };
 
+/// Which XY the reciprocal method takes.
+enum class XYRule { kGiven, kSmoothest, kMostEven };
+
+/// How layers are interpreted beside the prescribed profile.
+struct LayerMethodOptions {
+  std::vector<LayerMethod> methods = {LayerMethod::kReciprocal};
+  std::optional<int> bounds;  ///< interpretations of moved picks; none: as many as the methods ask
+  int seed = parameters::kSeed.initial;
+  XYRule xyRule = XYRule::kGiven;
+};
+
 struct RefractOptions {
   std::string input;  ///< travel-time file; none: shot files
   TravelTimeReading picks;
@@ -158,7 +170,8 @@ struct RefractOptions {
   std::string layers;                     ///< file of marks; none: as proposed
   std::optional<ProposalMethod> propose;  ///< none: by curves, if the project has no marks
   std::uint32_t layerCount = 0;           ///< of a proposal over the survey; 0: as fits best
-  std::optional<double> xy;  ///< metres, of the family; none: that of the project, else 0
+  std::optional<double> xy;               ///< metres; none: that of the project, else 0
+  LayerMethodOptions layering;
   std::string json;
   std::string table;
   std::string misfit;               ///< table of computed times against picks

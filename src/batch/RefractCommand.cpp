@@ -3,6 +3,7 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/Images.h"
+#include "batch/LayerFindings.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/RefractionJson.h"
@@ -41,6 +42,7 @@ struct Work {
   std::optional<SurveyProposal> proposal;   ///< over the survey
   ProfileOutcome outcome;
   LayeredFit fit;
+  LayerFindings findings;
 };
 
 void propose(const RefractOptions& options, Interpretation& interpretation, Work& work) {
@@ -68,15 +70,6 @@ Status markLayers(const RefractOptions& options, const TomoDocument& document,
     interpretation.ttLayer[shot].layer = std::move(marks[shot]);
   }
   return {};
-}
-
-void interpret(const RefractOptions& options, Interpretation& interpretation, Work& work) {
-  if (options.xy) {
-    chooseXY(interpretation, 2, *options.xy);
-    chooseXY(interpretation, 3, *options.xy);
-  }
-  work.outcome = buildProfiles(work.shots, interpretation);
-  if (work.outcome.built) work.fit = fitOfProfile(work.shots, work.errors, interpretation);
 }
 
 std::string reasonOf(const Work& work, const ShotPairReach& reach) {
@@ -112,9 +105,10 @@ std::string misfitOf(const LayeredFit& fit, std::uint32_t layer) {
 void summarize(const Interpretation& interpretation, const Work& work, std::ostream& out) {
   const auto& results = interpretation.refractData;
   if (work.proposal) out << "Proposal: " << work.proposal->statement() << '\n';
-  out << "Layer 1: "
-      << (std::isfinite(results.v1) ? formatDouble(results.v1, 4) + " m/s" : "no velocity")
-      << misfitOf(work.fit, 1) << '\n';
+  if (!results.cData.empty()) {
+    out << "Layer 1: " << (results.v1 > 0.0 ? formatDouble(results.v1, 4) + " m/s" : "no velocity")
+        << misfitOf(work.fit, 1) << '\n';
+  }
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
     const computedData& refractor = results.cData[i];
     out << "Layer " << i + 2 << ": shots " << interpretation.phnt_A[i].shotID + 1 << " and "
@@ -123,6 +117,7 @@ void summarize(const Interpretation& interpretation, const Work& work, std::ostr
         << rangeOf(refractor.depth, "m") << misfitOf(work.fit, static_cast<std::uint32_t>(i) + 2)
         << '\n';
   }
+  summarizeFindings(work.findings, out);
   out.flush();
 }
 
@@ -132,11 +127,12 @@ int writeResults(const RefractOptions& options, const LoadedProject& project, co
   const Interpretation& interpretation = *project.interpretation;
   OutputAttempts attempt;
   attempt(options.json, [&](const auto& path) {
-    return writeOutput(
-        path, refractionJson(interpretation, work.fit, work.proposal, work.outcome.warnings));
+    return writeOutput(path, refractionJson(interpretation, work.fit, work.proposal,
+                                            work.outcome.warnings, work.findings));
   });
   attempt(options.table, [&](const auto& path) {
-    return writeOutput(path, profileTable(interpretation.refractData));
+    return writeOutput(path, work.findings.comparison ? comparisonTable(*work.findings.comparison)
+                                                      : profileTable(interpretation.refractData));
   });
   attempt(options.misfit,
           [&](const auto& path) { return writeOutput(path, misfitTable(work.fit)); });
@@ -147,7 +143,7 @@ int writeResults(const RefractOptions& options, const LoadedProject& project, co
     });
   }
   attempt(options.report, [&](const auto& path) {
-    return writeReportFile({document, &interpretation}, options.reportFields,
+    return writeReportFile({document, &interpretation, findings.methods()}, options.reportFields,
                            sectionFigureOptions(project.section, project.palettes->current(),
                                                 refractorLines(interpretation)),
                            path);
@@ -205,21 +201,30 @@ int run(const RefractOptions& options) {
   status = editSurvey(Edit::kRefraction, project, [&](Survey& next) {
     Interpretation& edited = next.interpretation.edit();
     Status marked = markLayers(options, document, edited, work);
-    if (marked.ok()) interpret(options, edited, work);
+    if (marked.ok()) work.outcome = buildWithXY(options, work.shots, edited, marked);
+    if (work.outcome.built) work.fit = fitOfProfile(work.shots, work.errors, edited);
     return marked;
   });
   if (!status.ok()) return failed(status.message());
   const Interpretation& interpretation = *project.interpretation;
-  if (!work.outcome.built) {
+  work.findings = findLayers(options.layering, document, interpretation);
+  ProfileOutcome& outcome = work.outcome;
+  if (!outcome.built) {
     const std::string reason = reasonOf(work, shotPairReach(work.shots, interpretation.ttLayer, 2));
     const bool layered = work.proposal && work.proposal->hasLayers();
-    return failed(layered ? work.proposal->statement().english() + ": " + reason : reason);
+    if (!work.findings.foundLayers()) {
+      return failed(layered ? work.proposal->statement().english() + ": " + reason : reason);
+    }
+    warn("no profile by the reciprocal method: " + reason);
   }
   // What is left out or replaced is told even who wants to hear nothing else.
   if (work.proposal) {
     for (const Message& remark : work.proposal->remarks()) warn(remark);
   }
-  for (const RefractionWarning& warning : work.outcome.warnings) warn(warning.text());
+  // The last one has been told as the reason.
+  if (!outcome.built && !outcome.warnings.empty()) outcome.warnings.pop_back();
+  for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
+  for (const std::string& remark : remarksOf(work.findings)) warn(remark);
   status = prepareReport(options, document);
   if (!status.ok()) return failed(status.message());
   const int exitCode = writeResults(options, project, work);

@@ -40,24 +40,22 @@ void addRefract(CLI::App& app, RefractOptions& options) {
   command.add_option("INPUT", *inputs, kindsOfInput())->required();
   addPickReading(command, options.picks);
   addElevationOptions(command, options.shots.elevations);
-  const ShotOptionGroup shots = addShotOptions(command, options.shots);
+  const ShotOptionGroup shots = addShotOptions(command, options.shots, "--pick-method");
   CLI::Option* layers = addPath(
       command, "--layers", options.layers,
       "Which layer every trace belongs to: a line per shot, a number per trace separated by "
       "';', 1 the direct wave, 2 and 3 the refractors, 0 none (default: those of the project, else "
       "as proposed from the break points of the branches)");
-  CLI::Option* xy = addParameter(
-      command, parameters::kXY, "M",
-      meaningOf(parameters::kXY) + defaultOf(parameters::kXY, "that of the project, else "),
-      [&](int value) { options.xy = value; });
   addProposal(command, options, layers);
-  for (CLI::Option* option : {layers, xy}) option->group("Interpretation");
+  layers->group("Interpretation");
+  addLayerMethods(command, options);
   CLI::Option* json = addPath(command, "--json", options.json,
                               "Write the results as JSON; '-' is standard output, and then all "
                               "diagnostics go to standard error");
   CLI::Option* table = addPath(command, "--table", options.table,
                                "Write a text line per receiver: x, depths (metres), tV, tG "
-                               "(seconds) and velocities (m/s) of both refractors");
+                               "(seconds) and velocities (m/s) of both refractors; with other "
+                               "methods or --bounds what all of them find, side by side");
   CLI::Option* misfit = addPath(
       command, "--misfit", options.misfit,
       "Write how arrivals computed through the profile fit the picks, a text line per shot and "

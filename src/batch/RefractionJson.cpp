@@ -4,6 +4,7 @@
 #include "refraction/ReciprocalMethod.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace talvesk {
 namespace {
@@ -133,7 +134,8 @@ Json proposalJson(const SurveyProposal& proposal) {
 
 std::string refractionJson(const Interpretation& interpretation, const LayeredFit& fit,
                            const std::optional<SurveyProposal>& proposal,
-                           const std::vector<RefractionWarning>& warnings) {
+                           const std::vector<RefractionWarning>& warnings,
+                           const LayerFindings& findings) {
   Json shots = Json::array();
   for (const layerStruct& marks : interpretation.ttLayer) {
     Json shot = Json::object();
@@ -147,16 +149,19 @@ std::string refractionJson(const Interpretation& interpretation, const LayeredFi
   Json refractors = Json::array();
   for (std::size_t i = 0; i < interpretation.refractData.cData.size(); ++i) {
     refractors.push_back(refractorJson(interpretation, i));
+    addFindings(findings, i, refractors.back());
   }
   Json texts = Json::array();
   for (const RefractionWarning& warning : warnings) texts.push_back(warning.text());
   Json json = Json::object();
-  json["v1"] = interpretation.refractData.v1;
+  const double v1 = interpretation.refractData.v1;
+  json["v1"] = v1 > 0.0 ? v1 : std::nan("");  // 0 before anything was built
   json["xy_family"] = kXYFamily;
   json["refractors"] = std::move(refractors);
   json["shots"] = std::move(shots);
   if (proposal) json["proposal"] = proposalJson(*proposal);
   if (fit.total.picks > 0) json["misfit"] = fitJson(fit);
+  if (findings.comparison) json["comparison"] = comparisonJson(*findings.comparison);
   json["warnings"] = std::move(texts);
   return linePerKey(json) + "\n";
 }

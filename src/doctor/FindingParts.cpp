@@ -1,7 +1,7 @@
 #include "doctor/FindingParts.h"
 
+#include "base/RunForEach.h"
 #include "doctor/Placing.h"
-#include "doctor/RunForEach.h"
 
 #include <cmath>
 #include <string>

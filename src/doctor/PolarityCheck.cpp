@@ -1,6 +1,6 @@
+#include "base/RunForEach.h"
 #include "doctor/FindingParts.h"
 #include "doctor/NeighbourTimes.h"
-#include "doctor/RunForEach.h"
 #include "doctor/TraceChecks.h"
 #include "doctor/Waveforms.h"
 #include "numerics/Medians.h"

@@ -1,6 +1,6 @@
 #include "doctor/SurveyView.h"
 
-#include "doctor/RunForEach.h"
+#include "base/RunForEach.h"
 #include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"

@@ -28,6 +28,7 @@ using Warnings = std::vector<RefractionWarning>;
 constexpr std::uint32_t kFirstRefractor = 2;
 constexpr std::uint32_t kSecondRefractor = 3;
 constexpr std::size_t kSkippedEnds = 0;
+constexpr double kRounding = 1e-9;
 constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
 
 struct Curves {
@@ -73,6 +74,11 @@ bool makeCurves(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
   return false;
 }
 
+/// Whether an XY is beyond the family, and allowed all the same.
+bool isWide(double xy, const std::vector<double>& x) {
+  return !isOfFamily(xy) && std::fabs(xy) <= widestXY(x) * (1.0 + kRounding);
+}
+
 /// tV and tG of a refractor from its curves.
 void interpretRefractor(const std::vector<ShotArrivals>& shots, std::uint32_t refractor,
                         Curves& curves, computedData& result) {
@@ -87,12 +93,16 @@ void interpretRefractor(const std::vector<ShotArrivals>& shots, std::uint32_t re
     result.x.push_back(point.x);
     result.elevation.push_back(point.z);
   }
+  const bool wide = isWide(result.chosenXY, result.x);
   const std::size_t chosen = indexOfXY(result.chosenXY);
-  result.chosenXY = kXYFamily[chosen];
+  if (!wide) result.chosenXY = kXYFamily[chosen];
+  const double xy = result.chosenXY;
   result.tVs = buildTV(curves.forward, curves.reverse, result.x, tAB);
-  result.tV = memberOf(result.tVs, chosen);
+  result.tV =
+      wide ? tVAt(xy, curves.forward, curves.reverse, result.x, tAB) : memberOf(result.tVs, chosen);
   result.tGs = buildTG(curves.forward, curves.reverse, result.x, tAB, result.tV);
-  result.tG = memberOf(result.tGs, chosen);
+  result.tG = wide ? tGAt(xy, curves.forward, curves.reverse, result.x, tAB, result.tV)
+                   : memberOf(result.tGs, chosen);
 }
 
 void findVelocity(std::uint32_t refractor, computedData& result, Warnings& warnings) {
@@ -229,7 +239,7 @@ void chooseXY(Interpretation& interpretation, std::uint32_t refractor, double xy
   auto& data = interpretation.refractData.cData;
   const std::size_t index = refractor - kFirstRefractor;
   if (data.size() <= index) data.resize(index + 1);
-  data[index].chosenXY = kXYFamily[indexOfXY(xy)];
+  data[index].chosenXY = std::isfinite(xy) ? xy : kXYFamily[indexOfXY(xy)];
 }
 
 }  // namespace talvesk

@@ -31,7 +31,8 @@ std::vector<RefractionWarning> buildPhantoms(
     const std::vector<ShotArrivals>& shots,
     refractionDataStructure::Interpretation& interpretation);
 
-/// Sets the XY of a refractor (2 or 3) for the next buildProfiles(), metres; a value of kXYFamily.
+/// Sets the XY of a refractor (2 or 3) for the next buildProfiles(), metres: a value of kXYFamily,
+/// or any other one up to widestXY(). Beyond that it counts as 0.
 void chooseXY(refractionDataStructure::Interpretation& interpretation, std::uint32_t refractor,
               double xy);
 

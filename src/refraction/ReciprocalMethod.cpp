@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "numerics/Medians.h"
 #include "numerics/Splines.h"
 #include "refraction/LinearFit.h"
 
@@ -35,6 +36,30 @@ void logRow(std::size_t j, std::initializer_list<double> values) {
   console::log(row);
 }
 
+/// Adds the velocity-analysis function of one XY to a family.
+void addTV(double xy, const Splines::BesselSpline& fromA, const Splines::BesselSpline& fromB,
+           const std::vector<double>& x, double tAB, std::vector<double>& family) {
+  for (std::size_t j = 0; j < x.size(); ++j) {
+    const double tY = fromA(x[j] + xy);
+    const double tX = fromB(x[j] - xy);
+    family.push_back((tY - tX + tAB) * 0.5);
+    logRow(j, {xy, tY, tX, tAB, family.back()});
+  }
+}
+
+/// The same of the time-depth function. \param along the travel time along the refractor
+void addTG(double xy, const Splines::BesselSpline& fromA, const Splines::BesselSpline& fromB,
+           const Splines::BesselSpline& along, const std::vector<double>& x, double tAB,
+           std::vector<double>& family) {
+  for (std::size_t j = 0; j < x.size(); ++j) {
+    const double tY = fromA(x[j] + xy);
+    const double tX = fromB(x[j] - xy);
+    const double delta = along(x[j] + xy) - along(x[j] - xy);
+    family.push_back((tY + tX - tAB - delta) * 0.5);
+    logRow(j, {xy, tY, tX, tAB, delta});
+  }
+}
+
 /// The mean of the four values before, the value itself and the three behind it, as many as exist.
 /// Those before are smoothed already: the sequence is overwritten as it goes.
 void smoothInPlace(std::vector<double>& values) {
@@ -58,6 +83,14 @@ std::size_t indexOfXY(double xy) {
   const auto found = std::find(kXYFamily.begin(), kXYFamily.end(), xy);
   return found == kXYFamily.end() ? kXYFamily.size() / 2
                                   : static_cast<std::size_t>(found - kXYFamily.begin());
+}
+
+bool isOfFamily(double xy) {
+  return kXYFamily[indexOfXY(xy)] == xy;
+}
+
+double widestXY(const std::vector<double>& x) {
+  return kMostSpacings * medianGap(x);
 }
 
 VelocityFallback fallbackOf(const std::vector<double>& velocities) {
@@ -94,6 +127,13 @@ double reciprocalTime(phantom& forward, phantom& reverse, double xA, double xB) 
   return tAB;
 }
 
+std::vector<double> tVAt(double xy, const phantom& forward, const phantom& reverse,
+                         const std::vector<double>& x, double tAB) {
+  std::vector<double> tV;
+  addTV(xy, arrivals(forward), arrivals(reverse), x, tAB, tV);
+  return tV;
+}
+
 std::vector<double> buildTV(const phantom& forward, const phantom& reverse,
                             const std::vector<double>& x, double tAB) {
   const Splines::BesselSpline fromA = arrivals(forward);
@@ -101,14 +141,18 @@ std::vector<double> buildTV(const phantom& forward, const phantom& reverse,
   std::vector<double> family;
   for (const double xy : kXYFamily) {
     console::log("j xy tY tX tAB tVsJ");
-    for (std::size_t j = 0; j < x.size(); ++j) {
-      const double tY = fromA(x[j] + xy);
-      const double tX = fromB(x[j] - xy);
-      family.push_back((tY - tX + tAB) * 0.5);
-      logRow(j, {xy, tY, tX, tAB, family.back()});
-    }
+    addTV(xy, fromA, fromB, x, tAB, family);
   }
   return family;
+}
+
+std::vector<double> tGAt(double xy, const phantom& forward, const phantom& reverse,
+                         const std::vector<double>& x, double tAB, const std::vector<double>& tV) {
+  Splines::BesselSpline along;
+  along.build(x, tV);
+  std::vector<double> tG;
+  addTG(xy, arrivals(forward), arrivals(reverse), along, x, tAB, tG);
+  return tG;
 }
 
 std::vector<double> buildTG(const phantom& forward, const phantom& reverse,
@@ -122,13 +166,7 @@ std::vector<double> buildTG(const phantom& forward, const phantom& reverse,
   std::vector<double> family;
   for (const double xy : kXYFamily) {
     console::log("j xy tY tX tAB delta");
-    for (std::size_t j = 0; j < x.size(); ++j) {
-      const double tY = fromA(x[j] + xy);
-      const double tX = fromB(x[j] - xy);
-      const double delta = along(x[j] + xy) - along(x[j] - xy);
-      family.push_back((tY + tX - tAB - delta) * 0.5);
-      logRow(j, {xy, tY, tX, tAB, delta});
-    }
+    addTG(xy, fromA, fromB, along, x, tAB, family);
   }
   return family;
 }

@@ -27,6 +27,15 @@ static_assert(kXYFamily.front() == parameters::kXY.limits.least &&
 /// Index of a value of kXYFamily; a value that is not of the family counts as 0 m.
 std::size_t indexOfXY(double xy);
 
+/// Whether a value is one of kXYFamily.
+bool isOfFamily(double xy);
+
+/// Beyond the family XY may be chosen up to six spacings of the receivers either way: farther apart
+/// the two points have little to do with the ground between them.
+inline constexpr int kMostSpacings = 6;
+/// That in metres. \param x receivers, ascending, two at least
+double widestXY(const std::vector<double>& x);
+
 /// One curve of a family of n receivers.
 std::vector<double> memberOf(const std::vector<double>& family, std::size_t index);
 
@@ -48,6 +57,14 @@ std::vector<double> buildTG(const refractionDataStructure::phantom& forward,
                             const refractionDataStructure::phantom& reverse,
                             const std::vector<double>& x, double tAB,
                             const std::vector<double>& tV);
+
+/// One curve of such a family, of any XY, metres.
+std::vector<double> tVAt(double xy, const refractionDataStructure::phantom& forward,
+                         const refractionDataStructure::phantom& reverse,
+                         const std::vector<double>& x, double tAB);
+std::vector<double> tGAt(double xy, const refractionDataStructure::phantom& forward,
+                         const refractionDataStructure::phantom& reverse,
+                         const std::vector<double>& x, double tAB, const std::vector<double>& tV);
 
 /// Why the velocities of a refractor are one constant.
 enum class VelocityFallback { kNone, kNotPositive, kStrongVariation };

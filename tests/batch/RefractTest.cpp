@@ -131,7 +131,15 @@ TEST(Refract, saysWhatKeepsItFromAProfile) {
   }());
   const Case cases[] = {
       {"no output", {survey.picks}, 2, "one of --json, --table"},
-      {"no XY of the family", {survey.picks, "--json", out, "--xy", "0.5"}, 2, "from -4 to 4"},
+      {"no number", {survey.picks, "--json", out, "--xy", "wide"}, 2, "'wide' is not a number"},
+      {"XY too wide",
+       {survey.picks, "--json", out, "--xy", "15.5"},
+       1,
+       "the XY of layer 2 must be within 15 m, six spacings of its geophones"},
+      {"no method",
+       {survey.picks, "--json", out, "--method", "guess"},
+       2,
+       "none of reciprocal, delay-times, intercept, plus-minus, all"},
       {"output on input", {survey.picks, "--json", survey.picks}, 2, "line.otte"},
       {"broken marks", {survey.picks, "--json", out, "--layers", bad}, 1, "bad.csv, line 1"},
       {"no refractor",
@@ -203,6 +211,92 @@ TEST(Refract, leavesOutWhatNoGroundHasAndSaysSoEvenWhenQuiet) {
   EXPECT_TRUE(json["refractors"][0]["depth"][7].is_null());
   EXPECT_TRUE(json["refractors"][0]["velocity"][7].is_number());
   EXPECT_THAT(contentsOf(table), Not(AnyOf(HasSubstr("nan"), HasSubstr("inf"))));
+}
+
+TEST(Refract, comparesMethodsInJsonTableAndReport) {
+  const Survey survey;
+  const std::string table = survey.folder / "methods.txt";
+  const std::string report = survey.folder / "methods.odt";
+  const Outcome outcome =
+      runBatch({"refract", survey.picks, "--layers", survey.layers, "--method", "all", "--bounds",
+                "5", "--seed", "7", "--json", "-", "--table", table, "--report", report});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  const ordered_json& comparison = json["comparison"];
+  EXPECT_EQ(comparison["members"], 5);
+  EXPECT_EQ(comparison["seed"], 7);
+  ASSERT_EQ(comparison["methods"].size(), 4U);
+  for (const ordered_json& method : comparison["methods"]) {
+    ASSERT_EQ(method["layers"].size(), 2U) << method["method"];
+    for (std::size_t i = 0; i < 2; ++i) {
+      const ordered_json& layer = method["layers"][i];
+      const double truth = testing::threeDippingLayers().depth(i, comparison["x"][30]);
+      EXPECT_NEAR(layer["depth"][30].get<double>(), truth, 0.03 * truth) << method["method"];
+      EXPECT_LT(layer["depth_band"]["low"][30], layer["depth_band"]["high"][30]);
+    }
+  }
+  EXPECT_EQ(comparison["disagreements"][1]["depth"].size(), 60U);
+  EXPECT_EQ(json["refractors"][0]["depth_support"].size(), json["refractors"][0]["depth"].size());
+  EXPECT_EQ(json["refractors"][0]["xy_choice"]["tried"].size(), 13U);
+  EXPECT_THAT(contentsOf(table), HasSubstr("Layer 3\nx elevation reciprocal-depth "));
+  EXPECT_THAT(outcome.err, HasSubstr("Layer 2, delay-times: 1200"));
+  EXPECT_TRUE(survey.folder.holds("methods.odt"));
+}
+
+TEST(Refract, asItAlwaysWasHasNoComparison) {
+  const Survey survey;
+  const auto jsonOf = [&](std::vector<std::string> more) {
+    std::vector<std::string> arguments = {"refract", survey.picks, "--json", "-"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return ordered_json::parse(runBatch(arguments).out);
+  };
+  const ordered_json plain = jsonOf({});
+  const ordered_json bounded = jsonOf({"--bounds", "2", "--method", "intercept"});
+  EXPECT_FALSE(plain.contains("comparison"));
+  EXPECT_EQ(bounded["comparison"]["methods"].size(), 2U);
+  EXPECT_EQ(plain["refractors"], bounded["refractors"]);
+}
+
+/// The shots beyond the ends are off, and those within can make no pair.
+TEST(Refract, goesOnWithOtherMethodsWhereTheReciprocalOneCannot) {
+  const Survey survey;
+  std::string marks;
+  std::size_t shot = 0;
+  for (std::size_t at = 0; at < contentsOf(survey.layers).size(); ++shot) {
+    const std::string text = contentsOf(survey.layers);
+    const std::size_t end = text.find('\n', at);
+    std::string line = text.substr(at, end + 1 - at);
+    if (shot < 4 || shot > 15) std::replace(line.begin(), line.end(), '2', '0');
+    std::replace(line.begin(), line.end(), '3', '0');
+    marks += line;
+    at = end + 1;
+  }
+  const std::string layers = survey.folder.write("inner.csv", marks);
+  const auto run = [&](const char* method) {
+    return runBatch(
+        {"refract", survey.picks, "--layers", layers, "--method", method, "--json", "-"});
+  };
+  EXPECT_EQ(run("reciprocal").code, 1);
+  const Outcome outcome = run("plus-minus");
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("no profile by the reciprocal method: Unable to find"));
+  const ordered_json json = ordered_json::parse(outcome.out);
+  EXPECT_TRUE(json["v1"].is_null());
+  EXPECT_TRUE(json["refractors"].empty());
+  EXPECT_NEAR(json["comparison"]["methods"][1]["layers"][0]["depth"][30].get<double>(),
+              testing::threeDippingLayers().depth(0, 75.0), 0.1);
+}
+
+TEST(Refract, takesAnXYThatItFinds) {
+  const Survey survey;
+  const Outcome outcome = runBatch(
+      {"refract", survey.picks, "--xy", "smoothest", "--json", "-", "--method", "reciprocal"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const ordered_json json = ordered_json::parse(outcome.out);
+  for (const ordered_json& refractor : json["refractors"]) {
+    EXPECT_EQ(refractor["xy"], refractor["xy_choice"]["smoothest"]["xy"]);
+  }
+  EXPECT_THAT(outcome.err, HasSubstr("XY by smoothest tV "));
 }
 
 TEST(Refract, ofAProjectTellsWhetherPicksHaveChangedSince) {

@@ -45,6 +45,7 @@ Status buildReport(const ReportSource& source, const ReportOptions& options,
   if (status.ok() && sections.section) status = report::addSections(builder);
   if (status.ok() && sections.misfit) status = report::addMisfit(builder);
   if (status.ok() && sections.refraction) status = report::addRefraction(builder);
+  if (status.ok() && sections.refraction) report::addLayerMethods(builder);
   if (!status.ok()) return status;
   if (sections.method) report::addMethod(builder);
   if (made.items.size() == front) made.items.pop_back();

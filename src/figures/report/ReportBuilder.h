@@ -52,6 +52,7 @@ void addInversion(ReportBuilder& builder);
 Status addSections(ReportBuilder& builder);
 Status addMisfit(ReportBuilder& builder);
 Status addRefraction(ReportBuilder& builder);
+void addLayerMethods(ReportBuilder& builder);  ///< nothing where only the profile was built
 void addMethod(ReportBuilder& builder);
 
 /// A number with as many places, "." before them in every language; "–" for what is no number.

@@ -9,6 +9,7 @@
 namespace talvesk {
 
 class TomoDocument;
+struct MethodComparison;
 
 /// Which parts of a survey a report tells of. A part that the survey has nothing of is left out;
 /// the inversion and the travel times then say so in a line.
@@ -45,6 +46,7 @@ struct ReportOptions {
 struct ReportSource {
   const TomoDocument& document;
   const refractionDataStructure::Interpretation* interpretation = nullptr;
+  const MethodComparison* methods = nullptr;  ///< of the layers; null: only the profile
 };
 
 }  // namespace talvesk

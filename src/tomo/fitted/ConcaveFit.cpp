@@ -1,6 +1,6 @@
 #include "tomo/fitted/ConcaveFit.h"
 
-#include "tomo/fitted/RobustFit.h"
+#include "numerics/RobustFit.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Message.h"
-#include "tomo/fitted/DelayTimes.h"
+#include "numerics/DelayTimes.h"
 #include "tomo/fitted/GroundColumn.h"
 #include "tomo/fitted/LinePicks.h"
 #include "tomo/fitted/TimeBranches.h"

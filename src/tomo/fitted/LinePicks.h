@@ -1,40 +1,16 @@
 #pragma once
 
 #include "grid/GridGeometry.h"
+#include "numerics/LinePicks.h"
 #include "tomo/fitted/FitData.h"
-
-#include <cstddef>
-#include <vector>
 
 namespace talvesk {
 
-/// A pick seen from the line: between which of its positions the wave went, and how far.
-struct LinePick {
-  std::size_t pick = 0;      ///< in FitData::picks
-  std::size_t source = 0;    ///< in LinePicks::positions
-  std::size_t receiver = 0;  ///< in LinePicks::positions
-  double offset = 0.0;       ///< along the line, metres, positive
-  double distance = 0.0;     ///< straight from source to receiver, metres
-  double time = 0.0;         ///< seconds, positive
-  double sigma = 0.0;        ///< seconds, positive
-};
-
-/// The picks of a line as refraction methods want them: by offset, between positions that shots and
-/// receivers share. Picks without a way to go or with numbers that are none are passed over.
-struct LinePicks {
-  std::vector<double> positions;  ///< grid abscissas, metres, ascending
-  std::vector<LinePick> picks;    ///< by ascending offset
-  double gap = 1.0;               ///< the usual distance of neighbouring positions, metres
-  double sigma = 0.0;             ///< median of the picks', seconds
-};
-
+/// The picks of a survey on the abscissas of its grid. Picks without a way to go or with numbers
+/// that are none are passed over. LinePick::pick is that of FitData::picks.
 LinePicks linePicksOf(const FitData& data, const GridGeometry& geometry);
 
 /// Elevation of the surface of a grid, metres; level beyond its ends.
 double surfaceElevation(const GridGeometry& geometry, double x);
-
-/// The value at x of what is known at ascending abscissas; that of the nearest beyond their ends.
-double interpolated(const std::vector<double>& abscissas, const std::vector<double>& values,
-                    double x);
 
 }  // namespace talvesk

@@ -3,7 +3,7 @@
 #include "numerics/Medians.h"
 #include "tomo/fitted/GradientProfile.h"
 #include "tomo/fitted/LayeredReading.h"
-#include "tomo/fitted/RobustFit.h"
+#include "numerics/RobustFit.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "tomo/fitted/TimeBranches.h"
 
 #include "numerics/Medians.h"
-#include "tomo/fitted/RobustFit.h"
+#include "numerics/RobustFit.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "doctor/RunForEach.h"
+#include "base/RunForEach.h"
 
 #include <algorithm>
 #include <atomic>
@@ -6,10 +6,10 @@
 #include <thread>
 #include <vector>
 
-namespace talvesk::doctor {
+namespace talvesk {
 
 void runForEach(std::size_t count, const std::function<void(std::size_t)>& work,
-                const std::function<bool()>& goOn) {
+                const std::function<bool()>& goOn, unsigned threads) {
   std::atomic<std::size_t> next{0};
   std::atomic<bool> stopped{false};
   const auto run = [&](bool asks) {
@@ -21,7 +21,7 @@ void runForEach(std::size_t count, const std::function<void(std::size_t)>& work,
     }
   };
   std::vector<std::thread> pool;
-  const unsigned threads = std::max(std::thread::hardware_concurrency(), 1U);
+  if (threads == 0) threads = std::max(std::thread::hardware_concurrency(), 1U);
   try {
     for (unsigned t = 1; t < threads && t < count; ++t) pool.emplace_back(run, false);
   } catch (const std::system_error&) {
@@ -31,4 +31,4 @@ void runForEach(std::size_t count, const std::function<void(std::size_t)>& work,
   for (std::thread& thread : pool) thread.join();
 }
 
-}  // namespace talvesk::doctor
+}  // namespace talvesk

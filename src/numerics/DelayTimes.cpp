@@ -1,6 +1,6 @@
-#include "tomo/fitted/DelayTimes.h"
+#include "numerics/DelayTimes.h"
 
-#include "tomo/fitted/RobustFit.h"
+#include "numerics/RobustFit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +14,8 @@ namespace {
 constexpr double kBend = 0.5;         // sigmas per gap
 constexpr double kDifference = 30.0;  // sigmas per gap
 constexpr double kVariety = 0.15;     // of the slowness
+constexpr std::size_t kNodeGaps = 5;  // positions from one place of a varying slowness to the next
+constexpr std::size_t kMostPieces = 24;  // between them, or memory grows with the line's square
 
 using Terms = std::vector<RobustFit::Term>;
 
@@ -63,7 +65,78 @@ Terms endTerms(const LinePicks& line, const DelayTimes& refractor, const LinePic
   return terms;
 }
 
+/// The places between which the slowness of a refractor varies evenly, as indices of positions.
+std::vector<std::size_t> nodesOf(const LinePicks& line, AlongRefractor along) {
+  const std::size_t last = line.positions.size() - 1;
+  if (along == AlongRefractor::kOneSlowness) return {0};
+  std::vector<std::size_t> nodes;
+  const std::size_t pieces = std::clamp<std::size_t>(last / kNodeGaps, 1, kMostPieces);
+  for (std::size_t i = 0; i <= pieces; ++i) nodes.push_back(i * last / pieces);
+  return nodes;
+}
+
+/// How much the slowness at each node counts in that at a position.
+void addNodeShares(const LinePicks& line, const std::vector<std::size_t>& nodes, std::size_t at,
+                   double share, std::vector<double>& shares) {
+  const auto after = std::upper_bound(nodes.begin(), nodes.end(), at);
+  const auto right = std::min(static_cast<std::size_t>(after - nodes.begin()), nodes.size() - 1);
+  const std::size_t left = right - 1;
+  const std::vector<double>& x = line.positions;
+  const double part = (x[at] - x[nodes[left]]) / (x[nodes[right]] - x[nodes[left]]);
+  shares[left] += share * (1.0 - part);
+  shares[right] += share * part;
+}
+
+/// The part of a pick's time that the way along the refractor takes.
+Terms alongTerms(const LinePicks& line, const std::vector<std::size_t>& nodes, std::size_t first,
+                 double reach, const LinePick& pick) {
+  if (nodes.size() == 1) return {{first, pick.offset / reach}};
+  std::vector<double> shares(nodes.size(), 0.0);
+  for (const RobustFit::Term& share : sharesOf(line, pick)) {
+    addNodeShares(line, nodes, share.unknown, share.factor, shares);
+  }
+  Terms terms;
+  for (std::size_t i = 0; i < shares.size(); ++i) {
+    if (shares[i] != 0.0) terms.push_back({first + i, shares[i] * pick.offset / reach});
+  }
+  return terms;
+}
+
+void expectEvenness(const LinePicks& line, const std::vector<std::size_t>& nodes, double time,
+                    RobustFit& fit) {
+  const std::size_t n = line.positions.size();
+  for (std::size_t i = 0; i + 1 < nodes.size(); ++i) {
+    const double gaps = (line.positions[nodes[i + 1]] - line.positions[nodes[i]]) / line.gap;
+    fit.expect({{n + i, -1.0}, {n + i + 1, 1.0}}, 0.0, kVariety * time * std::sqrt(gaps / 10.0));
+  }
+}
+
+/// Takes the slownesses of a solution over, \param reach metres that they are multiplied by in it.
+void takeSlownesses(const LinePicks& line, const std::vector<std::size_t>& nodes, double reach,
+                    const std::vector<double>& solution, DelayTimes& result) {
+  const std::size_t n = line.positions.size();
+  if (nodes.size() == 1) {
+    result.slowness = solution[n] / reach;
+    return;
+  }
+  for (std::size_t at = 0; at < n; ++at) {
+    std::vector<double> shares(nodes.size(), 0.0);
+    addNodeShares(line, nodes, at, 1.0, shares);
+    double slowness = 0.0;
+    for (std::size_t i = 0; i < nodes.size(); ++i) slowness += shares[i] * solution[n + i] / reach;
+    result.slownesses.push_back(slowness);
+  }
+  LinePick whole;
+  whole.receiver = n - 1;
+  result.slowness = meanSlowness(line, result.slownesses, whole);
+}
+
 }  // namespace
+
+double DelayTimes::at(const LinePicks& line, const LinePick& pick) const {
+  const double mean = slownesses.empty() ? slowness : meanSlowness(line, slownesses, pick);
+  return delaysOf(line, pick) + pick.offset * mean;
+}
 
 double DelayTimes::delaysOf(const LinePicks& line, const LinePick& pick) const {
   double sum = 0.0;
@@ -74,25 +147,29 @@ double DelayTimes::delaysOf(const LinePicks& line, const LinePick& pick) const {
 }
 
 DelayTimes fitDelays(const LinePicks& line, const std::vector<LinePick>& used,
-                     const DelayTimes& guess) {
+                     const DelayTimes& guess, AlongRefractor along) {
   const std::size_t n = line.positions.size();
   const double reach = line.positions.back() - line.positions.front();
-  RobustFit fit(n + 1);
+  const std::vector<std::size_t> nodes = nodesOf(line, along);
+  RobustFit fit(n + nodes.size());
   std::vector<bool> seen(n, false);
   for (const LinePick& pick : used) {
     Terms terms = endTerms(line, guess, pick);
     for (const RobustFit::Term& term : terms) seen[term.unknown] = true;
-    terms.push_back({n, pick.offset / reach});
+    const Terms ways = alongTerms(line, nodes, n, reach, pick);
+    terms.insert(terms.end(), ways.begin(), ways.end());
     fit.measure(terms, pick.time, pick.sigma, pick.time - guess.at(line, pick));
   }
   expectSmoothness(line, fit);
+  expectEvenness(line, nodes, guess.slowness * reach, fit);
   DelayTimes result;
   result.shifts = guess.shifts;
   std::vector<double> solution = fit.solve();
   if (solution.empty()) return result;
-  result.slowness = solution.back() / reach;
-  solution.pop_back();
+  takeSlownesses(line, nodes, reach, solution, result);
+  solution.resize(n);
   result.delays = std::move(solution);
+  result.told = seen;
 
   const auto first =
       static_cast<std::size_t>(std::find(seen.begin(), seen.end(), true) - seen.begin());

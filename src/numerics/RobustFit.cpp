@@ -1,4 +1,4 @@
-#include "tomo/fitted/RobustFit.h"
+#include "numerics/RobustFit.h"
 
 #include "numerics/Medians.h"
 
