@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace talvesk {
@@ -149,13 +150,19 @@ void addGradient(const LinePicks& line, const FitData& data, const GridGeometry&
   result.models.push_back(std::move(model));
 }
 
-StartFit fitOf(const FitData& data, std::vector<double> times) {
-  StartFit fit;
+/// Residuals over their errors.
+std::vector<double> scaledResiduals(const FitData& data, const std::vector<double>& times) {
   std::vector<double> residuals;
   for (std::size_t i = 0; i < data.picks.size(); ++i) {
     residuals.push_back((data.picks[i].time - times[i]) / data.picks[i].sigma);
   }
-  const double limit = kHuber * robustScale(residuals);
+  return residuals;
+}
+
+/// \param limit of the residuals that count by their square in the Huber mean
+StartFit fitOf(const FitData& data, std::vector<double> times, double limit) {
+  StartFit fit;
+  const std::vector<double> residuals = scaledResiduals(data, times);
   for (const double residual : residuals) {
     const double size = std::fabs(residual);
     fit.chi2 += size * size;
@@ -205,13 +212,19 @@ ReferenceModels referenceModels(const FitData& data, const GridGeometry& geometr
 
 bool rankByStart(std::vector<ReferenceModel>& models, const FitData& data, RayTracer& tracer,
                  const std::function<bool()>& goOn) {
-  std::vector<StartFit> fits;
+  std::vector<std::vector<double>> times;
+  // One limit for all: with limits of their own the model with the narrower one would win by what
+  // its gross errors cost less.
+  double limit = std::numeric_limits<double>::infinity();
   for (const ReferenceModel& model : models) {
     TracedRays traced;
     if (!tracer.trace(model.slownesses, traced, goOn)) return false;
-    fits.push_back(fitOf(data, std::move(traced.times)));
+    limit = std::min(limit, kHuber * robustScale(scaledResiduals(data, traced.times)));
+    times.push_back(std::move(traced.times));
   }
-  for (std::size_t i = 0; i < models.size(); ++i) models[i].fit = std::move(fits[i]);
+  for (std::size_t i = 0; i < models.size(); ++i) {
+    models[i].fit = fitOf(data, std::move(times[i]), limit);
+  }
   std::stable_sort(
       models.begin(), models.end(),
       [](const ReferenceModel& a, const ReferenceModel& b) { return a.fit.huber < b.fit.huber; });
