@@ -19,14 +19,6 @@ std::function<double(double)> waves(double mean, double length, double size) {
   return [=](double x) { return mean + size * std::sin(kTurn * x / length); };
 }
 
-Ground gradientOverRefractor(double v0, double k, double below,
-                             const std::function<double(double)>& depth) {
-  Ground ground = gradientGround(v0, k);
-  ground.refractors = {depth};
-  ground.velocity = [=](double x, double z) { return z < depth(x) ? v0 + k * z : below; };
-  return ground;
-}
-
 }  // namespace
 
 std::function<double(double)> level(double value) {
@@ -53,6 +45,14 @@ Ground layeredGround(std::vector<double> velocities,
   return ground;
 }
 
+Ground wavyGround(double v0, double k, double below, double depth, double length, double size) {
+  const auto refractor = waves(depth, length, size);
+  Ground ground = gradientGround(v0, k);
+  ground.refractors = {refractor};
+  ground.velocity = [=](double x, double z) { return z < refractor(x) ? v0 + k * z : below; };
+  return ground;
+}
+
 std::vector<Ground> studyGrounds() {
   const auto dip = [](double x) { return 3.0 + x * std::tan(kTurn * 5.0 / 360.0); };
   const auto step = [](double x) { return x < 47.0 ? 4.0 : 7.0; };
@@ -70,7 +70,7 @@ std::vector<Ground> studyGrounds() {
       named("thin-middle", "400 / 1500 / 3500 m/s, 3 and 8 m",
             layeredGround({400.0, 1500.0, 3500.0}, {level(3.0), level(8.0)})),
       named("wavy", "400 + 40 z over waves of 2 m at 8 m, 3000 m/s",
-            gradientOverRefractor(400.0, 40.0, 3000.0, waves(8.0, 40.0, 2.0))),
+            wavyGround(400.0, 40.0, 3000.0, 8.0, 40.0, 2.0)),
       named("hills", "500 / 2000 m/s, 6 m with waves of 1.5 m below hills of 5 m", hills),
   };
 }

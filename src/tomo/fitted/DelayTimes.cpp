@@ -1,7 +1,5 @@
 #include "tomo/fitted/DelayTimes.h"
 
-#include "tomo/fitted/RobustFit.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -88,8 +86,10 @@ DelayTimes fitDelays(const LinePicks& line, const std::vector<LinePick>& used,
   expectSmoothness(line, fit);
   DelayTimes result;
   result.shifts = guess.shifts;
-  std::vector<double> solution = fit.solve();
+  RobustFit::Solution solved = fit.solve();
+  std::vector<double>& solution = solved.unknowns;
   if (solution.empty()) return result;
+  result.decided = solved.decided;
   result.slowness = solution.back() / reach;
   solution.pop_back();
   result.delays = std::move(solution);
@@ -113,7 +113,7 @@ double meanSlowness(const LinePicks& line, const std::vector<double>& slownesses
   return mean;
 }
 
-std::vector<double> fitNearSlownesses(const LinePicks& line, const std::vector<LinePick>& used,
+RobustFit::Solution fitNearSlownesses(const LinePicks& line, const std::vector<LinePick>& used,
                                       double mean) {
   const std::size_t n = line.positions.size();
   RobustFit fit(n);
@@ -126,9 +126,9 @@ std::vector<double> fitNearSlownesses(const LinePicks& line, const std::vector<L
     const double gaps = (line.positions[i + 1] - line.positions[i]) / line.gap;
     fit.expect({{i, -1.0}, {i + 1, 1.0}}, 0.0, kVariety * mean * std::sqrt(gaps / 10.0));
   }
-  std::vector<double> slownesses = fit.solve();
-  for (double& p : slownesses) p = std::clamp(p, 0.5 * mean, 2.0 * mean);
-  return slownesses;
+  RobustFit::Solution solved = fit.solve();
+  for (double& p : solved.unknowns) p = std::clamp(p, 0.5 * mean, 2.0 * mean);
+  return solved;
 }
 
 }  // namespace talvesk

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tomo/fitted/LinePicks.h"
+#include "tomo/fitted/RobustFit.h"
 
 #include <vector>
 
@@ -13,6 +14,7 @@ struct DelayTimes {
   std::vector<double> delays;  ///< seconds, per position of the line, none negative
   double slowness = 0.0;       ///< s/m
   std::vector<double> shifts;  ///< those metres, per position; empty: none are known yet
+  double decided = 0.0;        ///< unknowns' worth that picks have decided, see RobustFit
 
   /// Seconds of both ends of a pick's wave.
   double delaysOf(const LinePicks& line, const LinePick& pick) const;
@@ -29,9 +31,9 @@ DelayTimes fitDelays(const LinePicks& line, const std::vector<LinePick>& used,
                      const DelayTimes& guess);
 
 /// Slownesses of the ground near the surface, s/m, per position of the line, from waves along it,
-/// in the same way; empty where the picks do not settle them.
+/// in the same way; no unknowns where the picks do not settle them.
 /// \param mean slowness to vary about
-std::vector<double> fitNearSlownesses(const LinePicks& line, const std::vector<LinePick>& used,
+RobustFit::Solution fitNearSlownesses(const LinePicks& line, const std::vector<LinePick>& used,
                                       double mean);
 
 /// Mean slowness between source and receiver of a pick, s/m.

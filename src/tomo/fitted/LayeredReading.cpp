@@ -1,6 +1,7 @@
 #include "tomo/fitted/LayeredReading.h"
 
 #include "numerics/Medians.h"
+#include "tomo/fitted/RobustFit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +20,8 @@ constexpr std::size_t kLeastNear = 3;  // picks of waves along the surface
 constexpr std::size_t kLeastFar = 5;   // picks of waves along a refractor: more than the unknowns
 constexpr double kFaster = 1.1;        // than the ground above a refractor
 constexpr double kLeastGrowth = 0.1;   // of the velocity from the surface to the refractor
+constexpr double kLeastGain = 9.0;     // that a curve is worth: three standard deviations
+constexpr double kGross = 3.0;         // errors that a residual counts at most then
 constexpr double kSteepest = 0.95;     // sine of the angle at which waves come down at most
 constexpr int kHalvings = 60;
 
@@ -142,6 +145,26 @@ void begin(const LinePicks& line, LayeredReading& reading) {
   }
 }
 
+/// How much less a curved near branch leaves of picks than a straight one, in squares of their
+/// errors, or of the width of what it leaves where that is more; gross residuals count as much as
+/// any that is three such errors wide.
+double gainOf(const std::vector<LinePick>& picks, const NearBranch& curved) {
+  const auto residuals = [&](const NearBranch& near) {
+    std::vector<double> off;
+    for (const LinePick& pick : picks)
+      off.push_back((pick.time - near.at(pick.distance)) / pick.sigma);
+    return off;
+  };
+  const std::vector<double> left = residuals(curved);
+  const double scale = robustScale(left);
+  const auto squares = [scale](const std::vector<double>& off) {
+    double sum = 0.0;
+    for (const double r : off) sum += std::min(std::pow(r / scale, 2), kGross * kGross);
+    return sum;
+  };
+  return squares(residuals(fitNearBranch(picks, NearShape::kStraight))) - squares(left);
+}
+
 /// Reads the line again by sorted picks; false where they do not settle it.
 bool refine(const LinePicks& line, const Sorted& sorted, NearShape shape, LayeredReading& reading) {
   const NearBranch near = fitNearBranch(sorted.near, shape);
@@ -149,9 +172,13 @@ bool refine(const LinePicks& line, const Sorted& sorted, NearShape shape, Layere
   if (shape == NearShape::kCurved) {
     reading.nearSlownesses.assign(line.positions.size(), near.slowness);
     reading.gradient = 2.0 * near.curvature / near.slowness;
+    reading.nearDecided = 2.0;
+    reading.curveGain = gainOf(sorted.near, near);
   } else {
-    reading.nearSlownesses = fitNearSlownesses(line, sorted.near, near.slowness);
-    if (reading.nearSlownesses.empty()) return false;
+    RobustFit::Solution solved = fitNearSlownesses(line, sorted.near, near.slowness);
+    if (solved.unknowns.empty()) return false;
+    reading.nearSlownesses = std::move(solved.unknowns);
+    reading.nearDecided = solved.decided;
   }
   for (std::size_t i = 0; i < reading.refractors.size(); ++i) {
     reading.refractors[i] = fitDelays(line, sorted.far[i], reading.refractors[i]);
@@ -221,13 +248,27 @@ Message readOnce(const LinePicks& line, NearShape shape, const VelocityBounds& b
   return refused;
 }
 
-/// Whether a curved overburden is worth a model beside the one of a steady overburden.
-bool grows(const LayeredReading& reading) {
+/// Whether a curved overburden is worth a model beside the one of a steady overburden: it grows,
+/// and the picks know of it.
+Message notCurved(const LayeredReading& reading) {
   const double rise = reading.gradient * medianOf(reading.depths.front(), 0.0);
-  return rise * medianOf(reading.nearSlownesses, 0.0) >= kLeastGrowth;
+  if (!(rise * medianOf(reading.nearSlownesses, 0.0) >= kLeastGrowth)) {
+    return Message::tr("the velocity above the refractor grows by less than a tenth");
+  }
+  if (!(reading.curveGain >= kLeastGain)) {
+    return Message::tr(
+        "the waves along the surface do not tell a growing velocity from an even one");
+  }
+  return {};
 }
 
 }  // namespace
+
+double LayeredReading::decided() const {
+  double sum = nearDecided;
+  for (const DelayTimes& refractor : refractors) sum += refractor.decided;
+  return sum;
+}
 
 double LayeredReading::at(const LinePicks& line, const LinePick& pick) const {
   double time = nearTime(line, *this, pick);
@@ -271,9 +312,7 @@ LayeredReading readLayers(const LinePicks& line, std::size_t refractors, NearSha
   }
   if (!best.refractors.empty()) reading = std::move(best);
   if (!reading.refused.empty()) return reading;
-  if (shape == NearShape::kCurved && !grows(reading)) {
-    reading.refused = Message::tr("the velocity above the refractor grows by less than a tenth");
-  }
+  if (shape == NearShape::kCurved) reading.refused = notCurved(reading);
   return reading;
 }
 

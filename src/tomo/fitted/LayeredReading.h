@@ -19,6 +19,10 @@ struct LayeredReading {
   double gradient = 0.0;                    ///< of the overburden, 1/s
   std::vector<DelayTimes> refractors;       ///< from above
   std::vector<std::vector<double>> depths;  ///< of each, metres below the surface, per position
+  double nearDecided = 0.0;  ///< unknowns' worth that picks have decided near the surface
+  double curveGain = 0.0;    ///< what a curved near branch leaves less of (residual / sigma)^2
+
+  double decided() const;  ///< of all of it
 
   /// Seconds of the earliest wave of a pick.
   double at(const LinePicks& line, const LinePick& pick) const;

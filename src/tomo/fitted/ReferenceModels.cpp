@@ -14,6 +14,7 @@ namespace talvesk {
 namespace {
 
 constexpr int kCurvePoints = 100;
+constexpr double kSameSlope = 1e-6;
 constexpr double kHuber = 1.345;  // robust deviations; 95 % as good as squares on clean data
 
 Message speed(double value) {
@@ -119,8 +120,21 @@ void addLayers(ReferenceKind kind, const LinePicks& line, const FitData& data,
       geometry, [&](double x) { return reading.column(line, x); }, bounds);
   model.times.assign(data.picks.size(), 0.0);
   for (const LinePick& pick : line.picks) model.times[pick.pick] = reading.at(line, pick);
+  model.decided = reading.decided();
   model.description = describe(model);
   result.models.push_back(std::move(model));
+}
+
+/// How many stretches of a line a curve consists of.
+double slopesOf(const TimeCurve& curve) {
+  double count = 0.0, before = 0.0;
+  for (std::size_t i = 1; i < curve.offsets.size(); ++i) {
+    const double slope =
+        (curve.times[i] - curve.times[i - 1]) / (curve.offsets[i] - curve.offsets[i - 1]);
+    if (i == 1 || std::fabs(slope - before) > kSameSlope * before) ++count;
+    before = slope;
+  }
+  return count;
 }
 
 void addGradient(const LinePicks& line, const FitData& data, const GridGeometry& geometry,
@@ -146,6 +160,7 @@ void addGradient(const LinePicks& line, const FitData& data, const GridGeometry&
   for (const LinePick& pick : line.picks) {
     model.times[pick.pick] = interpolated(profile.offsets, profile.times, pick.offset);
   }
+  model.decided = slopesOf(model.curve);
   model.description = describe(profile);
   result.models.push_back(std::move(model));
 }
@@ -160,7 +175,8 @@ std::vector<double> scaledResiduals(const FitData& data, const std::vector<doubl
 }
 
 /// \param limit of the residuals that count by their square in the Huber mean
-StartFit fitOf(const FitData& data, std::vector<double> times, double limit) {
+/// \param decided as of the model
+StartFit fitOf(const FitData& data, std::vector<double> times, double limit, double decided) {
   StartFit fit;
   const std::vector<double> residuals = scaledResiduals(data, times);
   for (const double residual : residuals) {
@@ -171,6 +187,7 @@ StartFit fitOf(const FitData& data, std::vector<double> times, double limit) {
   const double count = std::max<double>(1.0, static_cast<double>(residuals.size()));
   fit.chi2 /= count;
   fit.huber /= count;
+  fit.score = fit.huber + decided * std::log(count) / count;
   fit.times = std::move(times);
   fit.known = true;
   return fit;
@@ -223,11 +240,11 @@ bool rankByStart(std::vector<ReferenceModel>& models, const FitData& data, RayTr
     times.push_back(std::move(traced.times));
   }
   for (std::size_t i = 0; i < models.size(); ++i) {
-    models[i].fit = fitOf(data, std::move(times[i]), limit);
+    models[i].fit = fitOf(data, std::move(times[i]), limit, models[i].decided);
   }
   std::stable_sort(
       models.begin(), models.end(),
-      [](const ReferenceModel& a, const ReferenceModel& b) { return a.fit.huber < b.fit.huber; });
+      [](const ReferenceModel& a, const ReferenceModel& b) { return a.fit.score < b.fit.score; });
   return true;
 }
 
