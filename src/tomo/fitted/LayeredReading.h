@@ -20,7 +20,8 @@ struct LayeredReading {
   std::vector<DelayTimes> refractors;       ///< from above
   std::vector<std::vector<double>> depths;  ///< of each, metres below the surface, per position
   double nearDecided = 0.0;  ///< unknowns' worth that picks have decided near the surface
-  double curveGain = 0.0;    ///< what a curved near branch leaves less of (residual / sigma)^2
+  double curveGain = 0.0;    ///< squared errors that a curved overburden leaves less of waves along
+                             ///< the surface than an even one
 
   double decided() const;  ///< of all of it
 

@@ -14,6 +14,8 @@ namespace talvesk {
 namespace {
 
 constexpr int kCurvePoints = 100;
+constexpr double kLeastCurveGain = 9.0;  // three standard deviations
+constexpr double kDoubt = 1.25;
 constexpr double kSameSlope = 1e-6;
 constexpr double kHuber = 1.345;  // robust deviations; 95 % as good as squares on clean data
 
@@ -92,16 +94,17 @@ double crossOver(const TimeCurve& curve, const DelayTimes& refractor) {
   return curve.offsets.back();
 }
 
-void addLayers(ReferenceKind kind, const LinePicks& line, const FitData& data,
-               const GridGeometry& geometry, const VelocityBounds& bounds,
-               ReferenceModels& result) {
+/// \return squared errors that a curve gains, see LayeredReading
+double addLayers(ReferenceKind kind, const LinePicks& line, const FitData& data,
+                 const GridGeometry& geometry, const VelocityBounds& bounds,
+                 ReferenceModels& result) {
   const std::size_t refractors = kind == ReferenceKind::kThreeLayers ? 2 : 1;
   const bool curved = kind == ReferenceKind::kOverburdenGradient;
   const LayeredReading reading =
       readLayers(line, refractors, curved ? NearShape::kCurved : NearShape::kStraight, bounds);
   if (!reading.refused.empty()) {
     result.refused.push_back(joined(nameOf(kind), reading.refused));
-    return;
+    return 0.0;
   }
   ReferenceModel model;
   model.kind = kind;
@@ -123,6 +126,21 @@ void addLayers(ReferenceKind kind, const LinePicks& line, const FitData& data,
   model.decided = reading.decided();
   model.description = describe(model);
   result.models.push_back(std::move(model));
+  return reading.curveGain;
+}
+
+/// By rays two layers and an overburden gradient often fit alike, as a depth makes up for a
+/// gradient; errors of the delays decide then. The waves along the surface alone do not know of
+/// them.
+void doubtOneOverburden(double curveGain, std::vector<ReferenceModel>& models) {
+  const auto find = [&](ReferenceKind kind) {
+    return std::find_if(models.begin(), models.end(),
+                        [kind](const ReferenceModel& model) { return model.kind == kind; });
+  };
+  const auto even = find(ReferenceKind::kTwoLayers);
+  const auto curved = find(ReferenceKind::kOverburdenGradient);
+  if (even == models.end() || curved == models.end()) return;
+  (curveGain >= kLeastCurveGain ? even : curved)->doubt = kDoubt;
 }
 
 /// How many stretches of a line a curve consists of.
@@ -175,8 +193,8 @@ std::vector<double> scaledResiduals(const FitData& data, const std::vector<doubl
 }
 
 /// \param limit of the residuals that count by their square in the Huber mean
-/// \param decided as of the model
-StartFit fitOf(const FitData& data, std::vector<double> times, double limit, double decided) {
+StartFit fitOf(const FitData& data, const ReferenceModel& model, std::vector<double> times,
+               double limit) {
   StartFit fit;
   const std::vector<double> residuals = scaledResiduals(data, times);
   for (const double residual : residuals) {
@@ -187,7 +205,7 @@ StartFit fitOf(const FitData& data, std::vector<double> times, double limit, dou
   const double count = std::max<double>(1.0, static_cast<double>(residuals.size()));
   fit.chi2 /= count;
   fit.huber /= count;
-  fit.score = fit.huber + decided * std::log(count) / count;
+  fit.score = model.doubt * (fit.huber + model.decided * std::log(count) / count);
   fit.times = std::move(times);
   fit.known = true;
   return fit;
@@ -220,10 +238,12 @@ ReferenceModels referenceModels(const FitData& data, const GridGeometry& geometr
   ReferenceModels result;
   const LinePicks line = linePicksOf(data, geometry);
   addGradient(line, data, geometry, bounds, result);
-  for (const ReferenceKind kind : {ReferenceKind::kTwoLayers, ReferenceKind::kThreeLayers,
-                                   ReferenceKind::kOverburdenGradient}) {
-    addLayers(kind, line, data, geometry, bounds, result);
-  }
+  const auto add = [&](ReferenceKind kind) {
+    return addLayers(kind, line, data, geometry, bounds, result);
+  };
+  add(ReferenceKind::kTwoLayers);
+  add(ReferenceKind::kThreeLayers);
+  doubtOneOverburden(add(ReferenceKind::kOverburdenGradient), result.models);
   return result;
 }
 
@@ -240,7 +260,7 @@ bool rankByStart(std::vector<ReferenceModel>& models, const FitData& data, RayTr
     times.push_back(std::move(traced.times));
   }
   for (std::size_t i = 0; i < models.size(); ++i) {
-    models[i].fit = fitOf(data, std::move(times[i]), limit, models[i].decided);
+    models[i].fit = fitOf(data, models[i], std::move(times[i]), limit);
   }
   std::stable_sort(
       models.begin(), models.end(),

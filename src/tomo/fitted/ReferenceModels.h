@@ -43,7 +43,7 @@ struct StartFit {
   bool known = false;         ///< whether they were traced
   double chi2 = 0.0;          ///< mean of (residual / sigma)^2
   double huber = 0.0;         ///< the same with gross residuals counted by size, not by square
-  double score = 0.0;         ///< huber, charged for what was fitted: see rankByStart()
+  double score = 0.0;         ///< huber, charged for unknowns and doubt: see rankByStart()
   std::vector<double> times;  ///< seconds by rays, per pick
 };
 
@@ -64,6 +64,7 @@ struct ReferenceModel {
   std::vector<double> times;  ///< seconds per pick by the model's own method; 0 where it has none
 
   double decided = 0.0;  ///< unknowns' worth that picks have decided; 0 for what is from outside
+  double doubt = 1.0;    ///< factor of its score, for what speaks against it beside its times
 
   StartFit fit;  ///< by rankByStart()
 };
