@@ -25,8 +25,8 @@ Ground gradientGround(double v0, double k);
 Ground layeredGround(std::vector<double> velocities,
                      std::vector<std::function<double(double x)>> depths);
 
-/// Velocity v0 + k z, level at the surface, down to a refractor with waves of a length and size about
-/// its mean depth.
+/// Velocity v0 + k z, level at the surface, down to a refractor with waves of a length and size
+/// about its mean depth.
 Ground wavyGround(double v0, double k, double below, double depth, double length, double size);
 
 /// The grounds of the study, for a line from 0 to 94 m.

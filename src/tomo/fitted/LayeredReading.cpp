@@ -172,6 +172,7 @@ bool readNear(const LinePicks& line, const std::vector<LinePick>& picks, NearSha
               LayeredReading& reading) {
   const NearBranch even = fitNearBranch(picks, NearShape::kStraight);
   if (!(even.slowness > 0.0)) return false;
+  const double price = std::log(static_cast<double>(picks.size()));
   const auto byEven = [&](const LinePick& pick) { return even.at(pick.distance); };
   reading.nearSlownesses.assign(line.positions.size(), even.slowness);
   reading.nearDecided = 1.0;
@@ -181,8 +182,10 @@ bool readNear(const LinePicks& line, const std::vector<LinePick>& picks, NearSha
     reading.nearSlownesses.assign(line.positions.size(), near.slowness);
     reading.gradient = 2.0 * near.curvature / near.slowness;
     reading.nearDecided = 2.0;
-    reading.curveGain = gainOf(
-        picks, [&](const LinePick& pick) { return near.at(pick.distance); }, byEven);
+    reading.curveGain =
+        gainOf(
+            picks, [&](const LinePick& pick) { return near.at(pick.distance); }, byEven) -
+        price;
     return true;
   }
   RobustFit::Solution varied = fitNearSlownesses(line, picks, even.slowness);
@@ -190,8 +193,7 @@ bool readNear(const LinePicks& line, const std::vector<LinePick>& picks, NearSha
   const auto byVaried = [&](const LinePick& pick) {
     return pick.distance * meanSlowness(line, varied.unknowns, pick);
   };
-  const double price = std::log(static_cast<double>(picks.size())) * (varied.decided - 1.0);
-  if (!(gainOf(picks, byVaried, byEven) > price)) return true;
+  if (!(gainOf(picks, byVaried, byEven) > price * (varied.decided - 1.0))) return true;
   reading.nearSlownesses = std::move(varied.unknowns);
   reading.nearDecided = varied.decided;
   return true;

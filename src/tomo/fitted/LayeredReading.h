@@ -20,8 +20,9 @@ struct LayeredReading {
   std::vector<DelayTimes> refractors;       ///< from above
   std::vector<std::vector<double>> depths;  ///< of each, metres below the surface, per position
   double nearDecided = 0.0;  ///< unknowns' worth that picks have decided near the surface
-  double curveGain = 0.0;    ///< squared errors that a curved overburden leaves less of waves along
-                             ///< the surface than an even one
+  /// Squared errors that a curved overburden leaves less of waves along the surface than an even
+  /// one, beyond those that its unknown is charged.
+  double curveGain = 0.0;
 
   double decided() const;  ///< of all of it
 

@@ -14,7 +14,6 @@ namespace talvesk {
 namespace {
 
 constexpr int kCurvePoints = 100;
-constexpr double kLeastCurveGain = 9.0;  // three standard deviations
 constexpr double kDoubt = 1.25;
 constexpr double kSameSlope = 1e-6;
 constexpr double kHuber = 1.345;  // robust deviations; 95 % as good as squares on clean data
@@ -140,7 +139,7 @@ void doubtOneOverburden(double curveGain, std::vector<ReferenceModel>& models) {
   const auto even = find(ReferenceKind::kTwoLayers);
   const auto curved = find(ReferenceKind::kOverburdenGradient);
   if (even == models.end() || curved == models.end()) return;
-  (curveGain >= kLeastCurveGain ? even : curved)->doubt = kDoubt;
+  (curveGain > 0.0 ? even : curved)->doubt = kDoubt;
 }
 
 /// How many stretches of a line a curve consists of.
