@@ -4,7 +4,9 @@
 #include "base/TextNumber.h"
 #include "batch/Failure.h"
 #include "batch/Interrupt.h"
-#include "io/Survey.h"
+#include "batch/ProjectFiles.h"
+#include "io/project/projectReader.h"
+#include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
 #include "numerics/Medians.h"
 #include "session/TableRules.h"
@@ -29,6 +31,24 @@ FittedSettings settingsOf(const InvertOptions& options) {
   return settings;
 }
 
+/// Adds the models that are not of the picks to what a fit may start from.
+Status addGiven(const InvertOptions& options, const Survey& survey, FittedSettings& settings) {
+  const std::optional<GivenModel> layers =
+      layersModel(survey.interpretation->refractData, survey.document);
+  if (layers) settings.given.push_back(*layers);
+  if (!isProjectFile(options.reference)) return {};
+  LoadedProject project;
+  const Status status = readProject(options.reference, project);
+  if (!status.ok()) return status;
+  const std::shared_ptr<const Grid> grid = project.document.model->grid;
+  if (grid == nullptr || grid->cellCount() == 0) {
+    return Status::failure(options.reference + ": the project has no section to start from");
+  }
+  settings.given.push_back(sectionModel(project.document, survey.document));
+  settings.reference = keyOf(ReferenceKind::kFile);
+  return {};
+}
+
 std::string inMilliseconds(double seconds) {
   return formatDouble(std::round(seconds * 1e5) / 100.0);
 }
@@ -49,9 +69,11 @@ std::string nameOf(const SuspectPick& pick) {
 ReferencedRun fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,
                          Log& log) {
   listenForInterrupt(!options.quiet);
-  const FittedSettings settings = settingsOf(options);
-  Progress progress(channels.progress, std::cerr, settings.fit.mostIterations);
+  FittedSettings settings = settingsOf(options);
   ReferencedRun run;
+  run.fit.run.status = addGiven(options, survey, settings);
+  if (!run.fit.run.status.ok()) return run;
+  Progress progress(channels.progress, std::cerr, settings.fit.mostIterations);
   const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
     run = fitFromReference(
         next.document, settings, log, [&](const FittedRunProgress& state) { progress.show(state); },

@@ -226,6 +226,10 @@ Message nameOf(ReferenceKind kind) {
       return Message::tr("Default model");
     case ReferenceKind::kPresent:
       return Message::tr("Present section");
+    case ReferenceKind::kLayers:
+      return Message::tr("Layered interpretation");
+    case ReferenceKind::kFile:
+      return Message::tr("Section of another project");
     case ReferenceKind::kGiven:
       break;
   }

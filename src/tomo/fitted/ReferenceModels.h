@@ -20,6 +20,8 @@ enum class ReferenceKind {
   kOverburdenGradient,  ///< velocity that grows evenly with depth down to a refractor
   kDefault,             ///< the default model of a new grid
   kPresent,             ///< the velocities that the grid has
+  kLayers,              ///< the layered interpretation of the survey
+  kFile,                ///< the section of another project
   kGiven                ///< anything else from outside
 };
 
