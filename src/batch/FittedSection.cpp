@@ -8,6 +8,8 @@
 #include "io/Survey.h"
 #include "model/GroundModel.h"
 #include "model/KnownGround.h"
+#include "batch/ProjectFiles.h"
+#include "io/project/projectReader.h"
 #include "model/TomographyOutcome.h"
 #include "numerics/Medians.h"
 #include "session/TableRules.h"
@@ -32,6 +34,24 @@ FittedSettings settingsOf(const InvertOptions& options) {
   fit.maxVelocity = options.maxVelocity.value_or(fit.maxVelocity);
   fit.mostIterations = options.iterations.value_or(fit.mostIterations);
   return settings;
+}
+
+/// Adds the models that are not of the picks to what a fit may start from.
+Status addGiven(const InvertOptions& options, const Survey& survey, FittedSettings& settings) {
+  const std::optional<GivenModel> layers =
+      layersModel(survey.interpretation->refractData, survey.document);
+  if (layers) settings.given.push_back(*layers);
+  if (!isProjectFile(options.reference)) return {};
+  LoadedProject project;
+  const Status status = readProject(options.reference, project);
+  if (!status.ok()) return status;
+  const std::shared_ptr<const Grid> grid = project.document.model->grid;
+  if (grid == nullptr || grid->cellCount() == 0) {
+    return Status::failure(options.reference + ": the project has no section to start from");
+  }
+  settings.given.push_back(sectionModel(project.document, survey.document));
+  settings.reference = keyOf(ReferenceKind::kFile);
+  return {};
 }
 
 std::string inMilliseconds(double seconds) {
@@ -83,9 +103,11 @@ Status takeKnownGround(const InvertOptions& options, Survey& survey) {
 ReferencedRun fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,
                          Log& log) {
   listenForInterrupt(!options.quiet);
-  const FittedSettings settings = settingsOf(options);
-  Progress progress(channels.progress, std::cerr, settings.fit.mostIterations);
+  FittedSettings settings = settingsOf(options);
   ReferencedRun run;
+  run.fit.run.status = addGiven(options, survey, settings);
+  if (!run.fit.run.status.ok()) return run;
+  Progress progress(channels.progress, std::cerr, settings.fit.mostIterations);
   const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
     run = fitFromReference(
         next.document, settings, log, [&](const FittedRunProgress& state) { progress.show(state); },

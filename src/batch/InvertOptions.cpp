@@ -157,10 +157,13 @@ void addResolutionOption(CLI::App& app, InvertOptions& options) {
 }
 
 std::string readReference(const std::string& text) {
-  if (text == kBestReference || referenceKindOf(text)) return text;
+  const std::optional<ReferenceKind> kind = referenceKindOf(text);
+  if (text == kBestReference || isProjectFile(text)) return text;
+  if (kind && kind != ReferenceKind::kFile) return text;
   throw CLI::ValidationError("--reference", "'" + text +
                                                 "' is none of best, gradient, two-layers, "
-                                                "three-layers, overburden, default, start");
+                                                "three-layers, overburden, default, start, "
+                                                "layers and no project (*.tvsk)");
 }
 
 /// What only a fit to the errors of the picks has.
@@ -187,8 +190,10 @@ std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
              "With --method fitted: what the section starts from and departs from no more than the "
              "picks ask for. gradient, two-layers, three-layers and overburden (a velocity that "
              "grows with depth over a refractor) are made from the picks; default is the model of "
-             "a new grid, start what the grid has; best takes that of the picks whose times come "
-             "nearest to them (default: best)")
+             "a new grid, start what the grid has, layers the layered interpretation of the "
+             "project, a project FILE (.tvsk) its section; best takes that of the picks whose "
+             "times "
+             "come nearest to them (default: best)")
           ->type_name("MODEL");
   CLI::Option* constraints = addPath(
       app, "--constraints", options.constraints,

@@ -119,7 +119,7 @@ struct InvertOptions {
   std::string run;  ///< of the project, to start from; empty: from the section that it has
   InversionMethod method = InversionMethod::kSmoothed;
   FittedSettings fitted;                   ///< but what follows, which both methods have
-  std::string reference = kBestReference;  ///< of a fit: a key of References.h
+  std::string reference = kBestReference;  ///< of a fit: a key of References.h, or a project file
   std::string constraints;     ///< table of known ground, or kProjectsOwn; empty: held to none
   std::optional<int> members;  ///< to see how sure the section is; none: not asked
   int seed = parameters::kSeed.initial;

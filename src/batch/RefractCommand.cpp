@@ -143,7 +143,7 @@ int writeResults(const RefractOptions& options, const LoadedProject& project, co
     });
   }
   attempt(options.report, [&](const auto& path) {
-    return writeReportFile({document, &interpretation, findings.methods()}, options.reportFields,
+    return writeReportFile({document, &interpretation, work.findings.methods()}, options.reportFields,
                            sectionFigureOptions(project.section, project.palettes->current(),
                                                 refractorLines(interpretation)),
                            path);

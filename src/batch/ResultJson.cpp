@@ -196,6 +196,8 @@ Json referencesJson(const References& references) {
     json["description"] = model.description.english();
     json["chi2"] = model.fit.chi2;
     json["chi2_huber"] = model.fit.huber;
+    json["unknowns"] = model.decided;
+    json["score"] = model.fit.score;
     list.push_back(std::move(json));
   }
   return list;

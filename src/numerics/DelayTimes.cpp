@@ -164,8 +164,10 @@ DelayTimes fitDelays(const LinePicks& line, const std::vector<LinePick>& used,
   expectEvenness(line, nodes, guess.slowness * reach, fit);
   DelayTimes result;
   result.shifts = guess.shifts;
-  std::vector<double> solution = fit.solve();
+  RobustFit::Solution solved = fit.solve();
+  std::vector<double>& solution = solved.unknowns;
   if (solution.empty()) return result;
+  result.decided = solved.decided;
   takeSlownesses(line, nodes, reach, solution, result);
   solution.resize(n);
   result.delays = std::move(solution);
@@ -190,7 +192,7 @@ double meanSlowness(const LinePicks& line, const std::vector<double>& slownesses
   return mean;
 }
 
-std::vector<double> fitNearSlownesses(const LinePicks& line, const std::vector<LinePick>& used,
+RobustFit::Solution fitNearSlownesses(const LinePicks& line, const std::vector<LinePick>& used,
                                       double mean) {
   const std::size_t n = line.positions.size();
   RobustFit fit(n);
@@ -203,9 +205,9 @@ std::vector<double> fitNearSlownesses(const LinePicks& line, const std::vector<L
     const double gaps = (line.positions[i + 1] - line.positions[i]) / line.gap;
     fit.expect({{i, -1.0}, {i + 1, 1.0}}, 0.0, kVariety * mean * std::sqrt(gaps / 10.0));
   }
-  std::vector<double> slownesses = fit.solve();
-  for (double& p : slownesses) p = std::clamp(p, 0.5 * mean, 2.0 * mean);
-  return slownesses;
+  RobustFit::Solution solved = fit.solve();
+  for (double& p : solved.unknowns) p = std::clamp(p, 0.5 * mean, 2.0 * mean);
+  return solved;
 }
 
 }  // namespace talvesk

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "numerics/LinePicks.h"
+#include "numerics/RobustFit.h"
 
 #include <vector>
 
@@ -15,6 +16,7 @@ struct DelayTimes {
   std::vector<double> shifts;           ///< those metres, per position; empty: none are known yet
   std::vector<double> slownesses = {};  ///< s/m, per position; empty: the same everywhere
   std::vector<bool> told = {};          ///< positions that a pick tells of
+  double decided = 0.0;                 ///< unknowns' worth that picks have decided, see RobustFit
 
   /// Seconds of both ends of a pick's wave.
   double delaysOf(const LinePicks& line, const LinePick& pick) const;
@@ -36,9 +38,9 @@ DelayTimes fitDelays(const LinePicks& line, const std::vector<LinePick>& used,
                      const DelayTimes& guess, AlongRefractor along = AlongRefractor::kOneSlowness);
 
 /// Slownesses of the ground near the surface, s/m, per position of the line, from waves along it,
-/// in the same way; empty where the picks do not settle them.
+/// in the same way; no unknowns where the picks do not settle them.
 /// \param mean slowness to vary about
-std::vector<double> fitNearSlownesses(const LinePicks& line, const std::vector<LinePick>& used,
+RobustFit::Solution fitNearSlownesses(const LinePicks& line, const std::vector<LinePick>& used,
                                       double mean);
 
 /// Mean slowness between source and receiver of a pick, s/m.

@@ -48,7 +48,7 @@ void RobustFit::expect(const std::vector<Term>& terms, double value, double sigm
   mExpected.add(terms, value, sigma);
 }
 
-std::vector<double> RobustFit::solve() const {
+RobustFit::Solution RobustFit::solve() const {
   using Matrix = Eigen::SparseMatrix<double>;
   const auto matrix = [this](const Rows& rows) {
     std::vector<Eigen::Triplet<double>> triplets;
@@ -68,6 +68,7 @@ std::vector<double> RobustFit::solve() const {
 
   std::vector<double> residuals = mResiduals;
   Eigen::VectorXd x;
+  double decided = 0.0;
   for (int round = 0; round < kRounds; ++round) {
     const double scale = robustScale(residuals);
     Eigen::VectorXd w(b.size());
@@ -75,15 +76,19 @@ std::vector<double> RobustFit::solve() const {
       w[i] = cauchyWeight(residuals[static_cast<std::size_t>(i)], scale);
     }
     const Matrix weighted = w.asDiagonal() * a;
-    const Matrix normal = Matrix(a.transpose() * weighted) + expected;
+    const Matrix measured = a.transpose() * weighted;
+    const Matrix normal = measured + expected;
     const Eigen::SimplicialLDLT<Matrix> factor(normal);
     if (factor.info() != Eigen::Success) return {};
     x = factor.solve(Eigen::VectorXd(weighted.transpose() * b + expectedRight));
     if (!x.allFinite()) return {};
     const Eigen::VectorXd r = b - a * x;
     residuals.assign(r.data(), r.data() + r.size());
+    if (round + 1 == kRounds) {
+      decided = Eigen::MatrixXd(factor.solve(Eigen::MatrixXd(measured))).trace();
+    }
   }
-  return {x.data(), x.data() + x.size()};
+  return {{x.data(), x.data() + x.size()}, decided};
 }
 
 }  // namespace talvesk

@@ -19,8 +19,13 @@ class RobustFit {
   void measure(const std::vector<Term>& terms, double value, double sigma, double residual);
   void expect(const std::vector<Term>& terms, double value, double sigma);
 
-  /// The unknowns; empty where the equations do not settle them.
-  std::vector<double> solve() const;
+  struct Solution {
+    std::vector<double> unknowns;  ///< empty where the equations do not settle them
+    /// How many unknowns' worth what is measured has decided, rather than what is expected: the
+    /// trace of the matrix that makes fitted values of measured ones.
+    double decided = 0.0;
+  };
+  Solution solve() const;
 
  private:
   struct Entry {

@@ -45,6 +45,20 @@ TEST(Fitted, tellsWhatItStartedFromAndWhatElseThereWas) {
   }
 }
 
+TEST(Fitted, startsFromTheSectionOfAnotherProject) {
+  const Folder folder;
+  ASSERT_EQ(fit(folder, {"--quiet", "--project", folder / "known.tvsk"}).code, 0);
+  const Outcome outcome = fit(folder, {"--quiet", "--reference", folder / "known.tvsk"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_EQ(ordered_json::parse(outcome.out)["reference"], "file");
+  const Outcome none = fit(folder, {"--quiet", "--reference", folder / "none.tvsk"});
+  EXPECT_EQ(none.code, 1);
+  EXPECT_THAT(none.err, HasSubstr("none.tvsk"));
+  const Outcome layers = fit(folder, {"--quiet", "--reference", "layers"});
+  EXPECT_EQ(layers.code, 1);
+  EXPECT_THAT(layers.err, HasSubstr("no layered interpretation"));
+}
+
 TEST(Fitted, refusesAModelThatThereIsNot) {
   const Folder folder;
   const Outcome unknown = fit(folder, {"--reference", "five-layers"});

@@ -206,6 +206,20 @@ TEST(ReferenceModels, keepTheirOrderBesideGrossErrors) {
   EXPECT_LT(made.models.front().fit.huber, 10.0);
 }
 
+TEST(ReferenceModels, comeFirstByFewerUnknownsWhereTheyFitAlike) {
+  const auto grid = lineGrid();
+  const FitData data = pickLine(planeRefractor(500, 2000, 6, 0.0));
+  GridTracer tracer(grid, data, 1);
+  ReferenceModel plain = referenceModels(data, *grid).models.at(1);
+  ASSERT_GT(plain.decided, 2.0);
+  ReferenceModel rich = plain;
+  rich.decided += 20.0;
+  std::vector<ReferenceModel> models = {rich, plain};
+  ASSERT_TRUE(rankByStart(models, data, tracer, {}));
+  EXPECT_EQ(models.front().decided, plain.decided);
+  EXPECT_EQ(models.front().fit.huber, models.back().fit.huber);
+}
+
 TEST(ReferenceModels, stayAsTheyAreWhenRankingIsStopped) {
   const auto grid = lineGrid();
   const FitData data = pickLine(planeRefractor(500, 2000, 6, 0.0));

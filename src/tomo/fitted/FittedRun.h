@@ -3,6 +3,7 @@
 #include "tomo/SecondLook.h"
 #include "tomo/TomographyRun.h"
 #include "tomo/fitted/FittedInversion.h"
+#include "tomo/fitted/GivenModels.h"
 
 #include <functional>
 #include <optional>
@@ -15,6 +16,7 @@ namespace talvesk {
 struct FittedSettings {
   FittedOptions fit;  ///< without a start: the velocities that the document's grid has
   std::string reference = "start";  ///< what the reference is called
+  std::vector<GivenModel> given;    ///< models from outside, beside those that References.h makes
   PickErrorRule errors;
   bool holdKnown = false;  ///< held to the document's known ground, too
   bool singleThread = false;

@@ -1,9 +1,11 @@
 #include "tomo/fitted/LayeredReading.h"
 
 #include "numerics/Medians.h"
+#include "numerics/RobustFit.h"
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 
 namespace talvesk {
@@ -19,8 +21,11 @@ constexpr std::size_t kLeastNear = 3;  // picks of waves along the surface
 constexpr std::size_t kLeastFar = 5;   // picks of waves along a refractor: more than the unknowns
 constexpr double kFaster = 1.1;        // than the ground above a refractor
 constexpr double kLeastGrowth = 0.1;   // of the velocity from the surface to the refractor
+constexpr double kGross = 3.0;         // errors that a residual counts at most
 constexpr double kSteepest = 0.95;     // sine of the angle at which waves come down at most
 constexpr int kHalvings = 60;
+
+using TimeOf = std::function<double(const LinePick& pick)>;
 
 /// Seconds along the surface.
 double nearTime(const LinePicks& line, const LayeredReading& reading, const LinePick& pick) {
@@ -142,17 +147,61 @@ void begin(const LinePicks& line, LayeredReading& reading) {
   }
 }
 
-/// Reads the line again by sorted picks; false where they do not settle it.
-bool refine(const LinePicks& line, const Sorted& sorted, NearShape shape, LayeredReading& reading) {
-  const NearBranch near = fitNearBranch(sorted.near, shape);
-  if (!(near.slowness > 0.0)) return false;
+/// How many squared errors one way to explain picks leaves less than another. Errors are those of
+/// the picks, or the width of what the better way leaves where that is more; gross residuals count
+/// as much as any that is three such errors wide.
+double gainOf(const std::vector<LinePick>& picks, const TimeOf& better, const TimeOf& simpler) {
+  const auto residuals = [&](const TimeOf& time) {
+    std::vector<double> off;
+    for (const LinePick& pick : picks) off.push_back((pick.time - time(pick)) / pick.sigma);
+    return off;
+  };
+  const std::vector<double> left = residuals(better);
+  const double scale = robustScale(left);
+  const auto squares = [scale](const std::vector<double>& off) {
+    double sum = 0.0;
+    for (const double r : off) sum += std::min(std::pow(r / scale, 2), kGross * kGross);
+    return sum;
+  };
+  return squares(residuals(simpler)) - squares(left);
+}
+
+/// Reads slownesses near the surface; false where the picks do not settle them. They vary along the
+/// line where that is worth its unknowns, ln(n) squared errors for each (Schwarz).
+bool readNear(const LinePicks& line, const std::vector<LinePick>& picks, NearShape shape,
+              LayeredReading& reading) {
+  const NearBranch even = fitNearBranch(picks, NearShape::kStraight);
+  if (!(even.slowness > 0.0)) return false;
+  const double price = std::log(static_cast<double>(picks.size()));
+  const auto byEven = [&](const LinePick& pick) { return even.at(pick.distance); };
+  reading.nearSlownesses.assign(line.positions.size(), even.slowness);
+  reading.nearDecided = 1.0;
   if (shape == NearShape::kCurved) {
+    const NearBranch near = fitNearBranch(picks, shape);
+    if (!(near.slowness > 0.0)) return false;
     reading.nearSlownesses.assign(line.positions.size(), near.slowness);
     reading.gradient = 2.0 * near.curvature / near.slowness;
-  } else {
-    reading.nearSlownesses = fitNearSlownesses(line, sorted.near, near.slowness);
-    if (reading.nearSlownesses.empty()) return false;
+    reading.nearDecided = 2.0;
+    reading.curveGain =
+        gainOf(
+            picks, [&](const LinePick& pick) { return near.at(pick.distance); }, byEven) -
+        price;
+    return true;
   }
+  RobustFit::Solution varied = fitNearSlownesses(line, picks, even.slowness);
+  if (varied.unknowns.empty()) return false;
+  const auto byVaried = [&](const LinePick& pick) {
+    return pick.distance * meanSlowness(line, varied.unknowns, pick);
+  };
+  if (!(gainOf(picks, byVaried, byEven) > price * (varied.decided - 1.0))) return true;
+  reading.nearSlownesses = std::move(varied.unknowns);
+  reading.nearDecided = varied.decided;
+  return true;
+}
+
+/// Reads the line again by sorted picks; false where they do not settle it.
+bool refine(const LinePicks& line, const Sorted& sorted, NearShape shape, LayeredReading& reading) {
+  if (!readNear(line, sorted.near, shape, reading)) return false;
   for (std::size_t i = 0; i < reading.refractors.size(); ++i) {
     reading.refractors[i] = fitDelays(line, sorted.far[i], reading.refractors[i]);
     if (reading.refractors[i].delays.empty()) return false;
@@ -228,6 +277,12 @@ bool grows(const LayeredReading& reading) {
 }
 
 }  // namespace
+
+double LayeredReading::decided() const {
+  double sum = nearDecided;
+  for (const DelayTimes& refractor : refractors) sum += refractor.decided;
+  return sum;
+}
 
 double LayeredReading::at(const LinePicks& line, const LinePick& pick) const {
   double time = nearTime(line, *this, pick);

@@ -19,6 +19,12 @@ struct LayeredReading {
   double gradient = 0.0;                    ///< of the overburden, 1/s
   std::vector<DelayTimes> refractors;       ///< from above
   std::vector<std::vector<double>> depths;  ///< of each, metres below the surface, per position
+  double nearDecided = 0.0;  ///< unknowns' worth that picks have decided near the surface
+  /// Squared errors that a curved overburden leaves less of waves along the surface than an even
+  /// one, beyond those that its unknown is charged.
+  double curveGain = 0.0;
+
+  double decided() const;  ///< of all of it
 
   /// Seconds of the earliest wave of a pick.
   double at(const LinePicks& line, const LinePick& pick) const;

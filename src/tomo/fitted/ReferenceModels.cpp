@@ -7,12 +7,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace talvesk {
 namespace {
 
 constexpr int kCurvePoints = 100;
+constexpr double kDoubt = 1.25;
+constexpr double kSameSlope = 1e-6;
 constexpr double kHuber = 1.345;  // robust deviations; 95 % as good as squares on clean data
 
 Message speed(double value) {
@@ -90,16 +93,17 @@ double crossOver(const TimeCurve& curve, const DelayTimes& refractor) {
   return curve.offsets.back();
 }
 
-void addLayers(ReferenceKind kind, const LinePicks& line, const FitData& data,
-               const GridGeometry& geometry, const VelocityBounds& bounds,
-               ReferenceModels& result) {
+/// \return squared errors that a curve gains, see LayeredReading
+double addLayers(ReferenceKind kind, const LinePicks& line, const FitData& data,
+                 const GridGeometry& geometry, const VelocityBounds& bounds,
+                 ReferenceModels& result) {
   const std::size_t refractors = kind == ReferenceKind::kThreeLayers ? 2 : 1;
   const bool curved = kind == ReferenceKind::kOverburdenGradient;
   const LayeredReading reading =
       readLayers(line, refractors, curved ? NearShape::kCurved : NearShape::kStraight, bounds);
   if (!reading.refused.empty()) {
     result.refused.push_back(joined(nameOf(kind), reading.refused));
-    return;
+    return 0.0;
   }
   ReferenceModel model;
   model.kind = kind;
@@ -118,8 +122,36 @@ void addLayers(ReferenceKind kind, const LinePicks& line, const FitData& data,
       geometry, [&](double x) { return reading.column(line, x); }, bounds);
   model.times.assign(data.picks.size(), 0.0);
   for (const LinePick& pick : line.picks) model.times[pick.pick] = reading.at(line, pick);
+  model.decided = reading.decided();
   model.description = describe(model);
   result.models.push_back(std::move(model));
+  return reading.curveGain;
+}
+
+/// By rays two layers and an overburden gradient often fit alike, as a depth makes up for a
+/// gradient; errors of the delays decide then. The waves along the surface alone do not know of
+/// them.
+void doubtOneOverburden(double curveGain, std::vector<ReferenceModel>& models) {
+  const auto find = [&](ReferenceKind kind) {
+    return std::find_if(models.begin(), models.end(),
+                        [kind](const ReferenceModel& model) { return model.kind == kind; });
+  };
+  const auto even = find(ReferenceKind::kTwoLayers);
+  const auto curved = find(ReferenceKind::kOverburdenGradient);
+  if (even == models.end() || curved == models.end()) return;
+  (curveGain > 0.0 ? even : curved)->doubt = kDoubt;
+}
+
+/// How many stretches of a line a curve consists of.
+double slopesOf(const TimeCurve& curve) {
+  double count = 0.0, before = 0.0;
+  for (std::size_t i = 1; i < curve.offsets.size(); ++i) {
+    const double slope =
+        (curve.times[i] - curve.times[i - 1]) / (curve.offsets[i] - curve.offsets[i - 1]);
+    if (i == 1 || std::fabs(slope - before) > kSameSlope * before) ++count;
+    before = slope;
+  }
+  return count;
 }
 
 void addGradient(const LinePicks& line, const FitData& data, const GridGeometry& geometry,
@@ -145,17 +177,25 @@ void addGradient(const LinePicks& line, const FitData& data, const GridGeometry&
   for (const LinePick& pick : line.picks) {
     model.times[pick.pick] = interpolated(profile.offsets, profile.times, pick.offset);
   }
+  model.decided = slopesOf(model.curve);
   model.description = describe(profile);
   result.models.push_back(std::move(model));
 }
 
-StartFit fitOf(const FitData& data, std::vector<double> times) {
-  StartFit fit;
+/// Residuals over their errors.
+std::vector<double> scaledResiduals(const FitData& data, const std::vector<double>& times) {
   std::vector<double> residuals;
   for (std::size_t i = 0; i < data.picks.size(); ++i) {
     residuals.push_back((data.picks[i].time - times[i]) / data.picks[i].sigma);
   }
-  const double limit = kHuber * robustScale(residuals);
+  return residuals;
+}
+
+/// \param limit of the residuals that count by their square in the Huber mean
+StartFit fitOf(const FitData& data, const ReferenceModel& model, std::vector<double> times,
+               double limit) {
+  StartFit fit;
+  const std::vector<double> residuals = scaledResiduals(data, times);
   for (const double residual : residuals) {
     const double size = std::fabs(residual);
     fit.chi2 += size * size;
@@ -164,6 +204,7 @@ StartFit fitOf(const FitData& data, std::vector<double> times) {
   const double count = std::max<double>(1.0, static_cast<double>(residuals.size()));
   fit.chi2 /= count;
   fit.huber /= count;
+  fit.score = model.doubt * (fit.huber + model.decided * std::log(count) / count);
   fit.times = std::move(times);
   fit.known = true;
   return fit;
@@ -185,6 +226,10 @@ Message nameOf(ReferenceKind kind) {
       return Message::tr("Default model");
     case ReferenceKind::kPresent:
       return Message::tr("Present section");
+    case ReferenceKind::kLayers:
+      return Message::tr("Layered interpretation");
+    case ReferenceKind::kFile:
+      return Message::tr("Section of another project");
     case ReferenceKind::kGiven:
       break;
   }
@@ -196,25 +241,33 @@ ReferenceModels referenceModels(const FitData& data, const GridGeometry& geometr
   ReferenceModels result;
   const LinePicks line = linePicksOf(data, geometry);
   addGradient(line, data, geometry, bounds, result);
-  for (const ReferenceKind kind : {ReferenceKind::kTwoLayers, ReferenceKind::kThreeLayers,
-                                   ReferenceKind::kOverburdenGradient}) {
-    addLayers(kind, line, data, geometry, bounds, result);
-  }
+  const auto add = [&](ReferenceKind kind) {
+    return addLayers(kind, line, data, geometry, bounds, result);
+  };
+  add(ReferenceKind::kTwoLayers);
+  add(ReferenceKind::kThreeLayers);
+  doubtOneOverburden(add(ReferenceKind::kOverburdenGradient), result.models);
   return result;
 }
 
 bool rankByStart(std::vector<ReferenceModel>& models, const FitData& data, RayTracer& tracer,
                  const std::function<bool()>& goOn) {
-  std::vector<StartFit> fits;
+  std::vector<std::vector<double>> times;
+  // One limit for all: with limits of their own the model with the narrower one would win by what
+  // its gross errors cost less.
+  double limit = std::numeric_limits<double>::infinity();
   for (const ReferenceModel& model : models) {
     TracedRays traced;
     if (!tracer.trace(model.slownesses, traced, goOn)) return false;
-    fits.push_back(fitOf(data, std::move(traced.times)));
+    limit = std::min(limit, kHuber * robustScale(scaledResiduals(data, traced.times)));
+    times.push_back(std::move(traced.times));
   }
-  for (std::size_t i = 0; i < models.size(); ++i) models[i].fit = std::move(fits[i]);
+  for (std::size_t i = 0; i < models.size(); ++i) {
+    models[i].fit = fitOf(data, models[i], std::move(times[i]), limit);
+  }
   std::stable_sort(
       models.begin(), models.end(),
-      [](const ReferenceModel& a, const ReferenceModel& b) { return a.fit.huber < b.fit.huber; });
+      [](const ReferenceModel& a, const ReferenceModel& b) { return a.fit.score < b.fit.score; });
   return true;
 }
 

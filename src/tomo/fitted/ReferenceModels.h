@@ -20,6 +20,8 @@ enum class ReferenceKind {
   kOverburdenGradient,  ///< velocity that grows evenly with depth down to a refractor
   kDefault,             ///< the default model of a new grid
   kPresent,             ///< the velocities that the grid has
+  kLayers,              ///< the layered interpretation of the survey
+  kFile,                ///< the section of another project
   kGiven                ///< anything else from outside
 };
 
@@ -43,6 +45,7 @@ struct StartFit {
   bool known = false;         ///< whether they were traced
   double chi2 = 0.0;          ///< mean of (residual / sigma)^2
   double huber = 0.0;         ///< the same with gross residuals counted by size, not by square
+  double score = 0.0;         ///< huber, charged for unknowns and doubt: see rankByStart()
   std::vector<double> times;  ///< seconds by rays, per pick
 };
 
@@ -62,6 +65,9 @@ struct ReferenceModel {
   TimeCurve curve;                             ///< as if the ground were the same along the line
   std::vector<double> times;  ///< seconds per pick by the model's own method; 0 where it has none
 
+  double decided = 0.0;  ///< unknowns' worth that picks have decided; 0 for what is from outside
+  double doubt = 1.0;    ///< factor of its score, for what speaks against it beside its times
+
   StartFit fit;  ///< by rankByStart()
 };
 
@@ -80,7 +86,9 @@ ReferenceModels referenceModels(const FitData& data, const GridGeometry& geometr
                                 const VelocityBounds& bounds = {});
 
 /// Traces each model and puts the one first that fits best: by the Huber mean, as gross errors of
-/// picks say nothing about a model; equal ones keep their order.
+/// picks say nothing about a model, and ln(n) / n for each unknown that the n picks have decided
+/// (Schwarz 1978, Annals of Statistics 6, 461-464), as a model with more of them comes nearer to
+/// any picks. Equal ones keep their order.
 /// \param models not empty of cells, of the tracer's grid
 /// \param goOn as for RayTracer::trace()
 /// \return false when it was stopped; the models are then as they were

@@ -22,16 +22,19 @@ struct Named {
   const char* key;
 };
 
-constexpr std::array<Named, 6> kNamed = {{{ReferenceKind::kGradient, "gradient"},
+constexpr std::array<Named, 8> kNamed = {{{ReferenceKind::kGradient, "gradient"},
                                           {ReferenceKind::kTwoLayers, "two-layers"},
                                           {ReferenceKind::kThreeLayers, "three-layers"},
                                           {ReferenceKind::kOverburdenGradient, "overburden"},
                                           {ReferenceKind::kDefault, "default"},
-                                          {ReferenceKind::kPresent, "start"}}};
+                                          {ReferenceKind::kPresent, "start"},
+                                          {ReferenceKind::kLayers, "layers"},
+                                          {ReferenceKind::kFile, "file"}}};
 
 bool ofPicks(const ReferenceModel& model) {
-  return model.kind != ReferenceKind::kDefault && model.kind != ReferenceKind::kPresent &&
-         model.kind != ReferenceKind::kGiven;
+  return model.kind == ReferenceKind::kGradient || model.kind == ReferenceKind::kTwoLayers ||
+         model.kind == ReferenceKind::kThreeLayers ||
+         model.kind == ReferenceKind::kOverburdenGradient;
 }
 
 /// \param slownesses of the cells, taken into the bounds
@@ -61,6 +64,10 @@ std::vector<double> defaultSlownesses(const Grid& grid) {
 Status unsupported(const References& references, const std::string& key) {
   const std::optional<ReferenceKind> kind = referenceKindOf(key);
   if (!kind) return Status::failure(Message::tr("There is no reference model \"%1\".").arg(key));
+  if (*kind == ReferenceKind::kLayers) {
+    return Status::failure(
+        Message::tr("There is no layered interpretation to start from. Build one first."));
+  }
   const std::string name = nameOf(*kind).english();
   for (const Message& refused : references.refused) {
     if (refused.english().rfind(name, 0) == 0) {
@@ -114,6 +121,9 @@ std::optional<References> referencesOf(const TomoDocument& document, const Fitte
   std::vector<ReferenceModel>& models = references.models;
   models.push_back(givenModel(ReferenceKind::kDefault, defaultSlownesses(grid), bounds));
   models.push_back(givenModel(ReferenceKind::kPresent, grid.slownesses(), bounds));
+  for (const GivenModel& given : settings.given) {
+    models.push_back(givenModel(given.kind, given.slownesses, bounds));
+  }
   if (!rankByStart(models, settings.fit.statics ? onTime : data, *tracer, goOn))
     return std::nullopt;
   std::stable_partition(models.begin(), models.end(), ofPicks);

@@ -19,8 +19,8 @@ std::optional<ReferenceKind> referenceKindOf(const std::string& key);
 
 /// What the fit of a survey can start from and be held to.
 struct References {
-  /// Those of the picks, then the default model and the present section; of both the one first that
-  /// fits best.
+  /// Those of the picks, then the default model, the present section and what is given; of both the
+  /// one first that fits best.
   std::vector<ReferenceModel> models;
   std::vector<Message> refused;  ///< by the picks, each with the name of its model
 };
@@ -30,10 +30,9 @@ struct References {
 const ReferenceModel* find(const References& references, const std::string& key);
 
 /// Makes them all and traces them. The document holds a grid that rays can be traced through. Only
-/// errors, threads and limits of the velocities count of the settings; the least is below the
-/// greatest.
-/// \param goOn as for RayTracer::trace(); may be empty
-/// \return nothing when it was stopped
+/// errors, threads, given models and limits of the velocities count of the settings; the least is
+/// below the greatest. \param goOn as for RayTracer::trace(); may be empty \return nothing when it
+/// was stopped
 std::optional<References> referencesOf(const TomoDocument& document, const FittedSettings& settings,
                                        const std::function<bool()>& goOn);
 

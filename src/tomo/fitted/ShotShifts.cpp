@@ -1,7 +1,7 @@
 #include "tomo/fitted/ShotShifts.h"
 
 #include "numerics/Medians.h"
-#include "tomo/fitted/RobustFit.h"
+#include "numerics/RobustFit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -150,7 +150,7 @@ std::vector<double> reciprocalShifts(const FitData& data, double triggerError) {
     fit.measure({{pair.first, 1.0}, {pair.second, -1.0}}, pair.later, pair.sigma,
                 pair.later - guess);
   }
-  std::vector<double> shifts = fit.solve();
+  std::vector<double> shifts = fit.solve().unknowns;
   if (shifts.empty()) return std::vector<double>(count, 0.0);
   for (const Pair& pair : pairs) {
     residuals.push_back((pair.later - shifts[pair.first] + shifts[pair.second]) / pair.sigma);
