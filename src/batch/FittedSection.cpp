@@ -48,9 +48,10 @@ std::string nameOf(const SuspectPick& pick) {
 
 ReferencedRun fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,
                          Log& log) {
-  listenForInterrupt(!options.quiet);
+  listenForInterrupt(Interruptible::kAtOnce, !options.quiet);
   const FittedSettings settings = settingsOf(options);
-  Progress progress(channels.progress, std::cerr, settings.fit.mostIterations);
+  Progress progress(channels.progress, std::cerr);
+  progress.begin("Tracing the models that it can start from");
   ReferencedRun run;
   const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
     run = fitFromReference(

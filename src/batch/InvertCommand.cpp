@@ -119,7 +119,7 @@ TomographyParameters parametersOf(const InvertOptions& options, const TomoDocume
 
 TomographyResult invert(const InvertOptions& options, const TomographyParameters& parameters,
                         const Channels& channels, Survey& survey, Log& log) {
-  listenForInterrupt(!options.quiet);
+  listenForInterrupt(Interruptible::kExternalIterations, !options.quiet);
   Progress progress(channels.progress, std::cerr, parameters.externalIterations);
   TomographyResult result;
   const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
@@ -262,7 +262,10 @@ int run(const InvertOptions& options) {
       fits ? fit->fit.run : invert(options, parameters, channels, project, log);
   // What the completed iterations found is not lost with the one that failed.
   int runCode = result.status.ok() ? kDone : failed(result.status.message());
-  if (result.iterationsDone == 0) return runCode;
+  if (result.iterationsDone == 0) {
+    return runCode != kDone ? runCode
+                            : failed("stopped before anything was found; nothing was written");
+  }
   if (fit) warnAboutFit(fit->fit);
   for (const Message& gone : result.runsGone) {
     warn("the list of inversion runs is full; its oldest has gone: " + gone.english());

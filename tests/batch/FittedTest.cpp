@@ -45,6 +45,19 @@ TEST(Fitted, tellsWhatItStartedFromAndWhatElseThereWas) {
   }
 }
 
+TEST(Fitted, isNoSuccessWhereItIsStoppedBeforeAnythingIsFound) {
+  const Folder folder;
+  // So fine a grid that it is stopped while models are traced.
+  const Outcome outcome = interruptBatch(
+      {"invert", folder.write("line.otte", smallLine()), "--cell-size", "0.1", "--nodes", "20",
+       "--method", "fitted", "--verbose", "--json", folder / "out.json"},
+      "Tracing the models");
+  EXPECT_EQ(outcome.code, 1) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("stopped before anything was found; nothing was written"));
+  EXPECT_THAT(outcome.err, HasSubstr("Stopping; what has been found so far is kept."));
+  EXPECT_FALSE(folder.holds("out.json"));
+}
+
 TEST(Fitted, refusesAModelThatThereIsNot) {
   const Folder folder;
   const Outcome unknown = fit(folder, {"--reference", "five-layers"});
