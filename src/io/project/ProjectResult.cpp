@@ -112,6 +112,7 @@ bool canHaveBeen(const InversionRecord& run) {
          run.history.size() <= static_cast<std::size_t>(run.externalIterations) &&
          std::all_of(run.history.begin(), run.history.end(), isMisfit) && run.coarseToFine >= 0 &&
          run.coarseToFine <= run.externalIterations &&
+         (run.errorFloor == 0.0 || isErrorRule(run.errorFloor, run.errorShare)) &&
          (run.coarseToFine == 0 ||
           run.history.size() <= static_cast<std::size_t>(run.coarseToFine)) &&
          (run.sectionHistory.empty() || run.sectionHistory.size() == run.history.size() + 1) &&
@@ -120,8 +121,8 @@ bool canHaveBeen(const InversionRecord& run) {
 
 bool canHaveBeen(const FitRecord& fit, std::size_t records) {
   const auto isFigure = [](double value) { return std::isfinite(value) && value >= 0.0; };
-  return isErrorRule(fit.errorFloor, fit.errorShare) && isFigure(fit.lambda) &&
-         isFigure(fit.chi2) && isFigure(fit.chi2All) && fit.suspects >= 0 &&
+  return isErrorRule(fit.errorFloor, fit.errorShare) && positive(fit.triggerError) &&
+         isFigure(fit.lambda) && isFigure(fit.chi2) && isFigure(fit.chi2All) && fit.suspects >= 0 &&
          isReference(fit.reference) && (fit.shifts.empty() || fit.shifts.size() == records) &&
          std::all_of(fit.shifts.begin(), fit.shifts.end(), isShift);
 }

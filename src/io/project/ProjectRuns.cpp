@@ -54,7 +54,7 @@ bool areSettings(const StoredRun& stored) {
          record.smoothingType <= static_cast<int>(SmoothingType::kRayBased) &&
          stored.fits.size() <= 1 && all(stored.fits, isFit) &&
          std::isfinite(stored.run.rmsPercent) && std::isfinite(stored.run.chi2) &&
-         std::isfinite(stored.run.chi2All);
+         std::isfinite(stored.run.chi2All) && std::isfinite(stored.run.trustedRms);
 }
 
 bool areTimes(const SharedVector<double>& times) {

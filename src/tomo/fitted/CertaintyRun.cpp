@@ -52,6 +52,7 @@ CertaintySettings certaintySettings(const TomoDocument& document) {
   fit.robust = run->fit->robust;
   fit.blocky = run->fit->blocky;
   fit.statics = run->fit->statics;
+  fit.triggerError = run->fit->triggerError;
   settings.errors = {run->fit->errorFloor, run->fit->errorShare};
   return settings;
 }
