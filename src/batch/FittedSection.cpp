@@ -5,9 +5,12 @@
 #include "batch/Failure.h"
 #include "batch/Interrupt.h"
 #include "io/Survey.h"
+#include "model/ChiSquare.h"
+#include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
 #include "numerics/Medians.h"
 #include "session/TableRules.h"
+#include "tomo/SecondLook.h"
 #include "tomo/fitted/CertaintyRun.h"
 
 #include <cmath>
@@ -30,7 +33,7 @@ FittedSettings settingsOf(const InvertOptions& options) {
 }
 
 std::string inMilliseconds(double seconds) {
-  return formatDouble(std::round(seconds * 1e5) / 100.0);
+  return formatDouble(std::round(seconds * 1e5) / 100.0 + 0.0);  // no -0
 }
 
 std::string threeDigits(double value) {
@@ -51,7 +54,10 @@ ReferencedRun fitSection(const InvertOptions& options, const Channels& channels,
   listenForInterrupt(Interruptible::kAtOnce, !options.quiet);
   const FittedSettings settings = settingsOf(options);
   Progress progress(channels.progress, std::cerr);
-  progress.begin("Tracing the models that it can start from");
+  const Grid& grid = *survey.document.model->grid;
+  progress.begin("Tracing the models that it can start from through " +
+                 std::to_string(grid.righe()) + " rows and " + std::to_string(grid.col()) +
+                 " columns of cells");
   ReferencedRun run;
   const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
     run = fitFromReference(
@@ -98,14 +104,25 @@ Status findCertainty(const InvertOptions& options, const Channels& channels, Sur
 
 void warnAboutFit(const FittedRunResult& fit) {
   if (fit.end != FitEnd::kTarget && fit.end != FitEnd::kStopped) warn(fit.outcome);
-  if (fit.suspects.empty()) return;
-  std::string text = std::to_string(fit.suspects.size()) + " of " + std::to_string(fit.fit.count) +
-                     " picks are suspect and left out of chi-square: ";
-  for (std::size_t i = 0; i < fit.suspects.size() && i < kMostSuspectsNamed; ++i) {
-    text += (i > 0 ? "; " : "") + nameOf(fit.suspects[i]);
+}
+
+void warnAboutPicks(const TomoDocument& document) {
+  if (const std::size_t raised = raisedErrors(document); raised > 0) {
+    const std::string least = formatDouble(kLeastPickError * 1000.0);
+    warn(std::to_string(raised) + " picks state errors below " + least + " ms; they count as " +
+         least + " ms");
   }
-  if (fit.suspects.size() > kMostSuspectsNamed) {
-    text += " and " + std::to_string(fit.suspects.size() - kMostSuspectsNamed) +
+  const std::vector<SuspectPick> suspects = suspectsOf(document);
+  if (suspects.empty()) return;
+  const ChiSquare fit = sectionChiSquareOf(document);
+  std::string text = std::to_string(suspects.size()) + " of " + std::to_string(fit.count) +
+                     " picks are suspect and left out of chi-square, off by more than " +
+                     threeDigits(fit.limit) + " of their errors: ";
+  for (std::size_t i = 0; i < suspects.size() && i < kMostSuspectsNamed; ++i) {
+    text += (i > 0 ? "; " : "") + nameOf(suspects[i]);
+  }
+  if (suspects.size() > kMostSuspectsNamed) {
+    text += " and " + std::to_string(suspects.size() - kMostSuspectsNamed) +
             " more, all of which --json names";
   }
   warn(text);
@@ -121,9 +138,7 @@ void summarizeFit(const ReferencedRun& run, std::ostream& out) {
   }
   for (const Message& refused : run.references.refused) out << "Not from: " << refused << "\n";
   out << "Iterations: " << fit.run.iterationsDone
-      << (fit.run.stopped ? ", stopped by the user" : "") << "\n"
-      << "Chi-square: " << formatDouble(fit.fit.chi2) << "; of all picks "
-      << formatDouble(fit.fit.all) << "; suspects " << fit.suspects.size() << "\n";
+      << (fit.run.stopped ? ", stopped by the user" : "") << "; kept " << fit.kept << "\n";
   if (fit.statics.empty()) return;
   out << "Time shifts of shots: [ms]";
   for (const double shift : fit.statics) {

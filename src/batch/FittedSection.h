@@ -8,6 +8,7 @@
 namespace talvesk {
 
 class Log;
+class TomoDocument;
 struct Survey;
 
 /// `invert --method fitted`: the fit of a survey's section, with its progress shown. The survey has
@@ -19,8 +20,10 @@ ReferencedRun fitSection(const InvertOptions& options, const Channels& channels,
 /// an interrupt leaves is kept, and said on standard error.
 Status findCertainty(const InvertOptions& options, const Channels& channels, Survey& survey);
 
-/// Says on standard error what the section does not explain.
+/// Says on standard error where a fit has not come to its target.
 void warnAboutFit(const FittedRunResult& fit);
+/// The same of picks that the section of a survey does not explain, and of errors that are raised.
+void warnAboutPicks(const TomoDocument& document);
 
 /// Lines of the summary.
 void summarizeFit(const ReferencedRun& run, std::ostream& out);
