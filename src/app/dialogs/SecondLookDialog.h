@@ -36,6 +36,7 @@ class SecondLookDialog : public QDialog {
   void showTexts();
   void showSuspect(int row);
   void showShift(int row);
+  QString suspectsText() const;
   QString cellsText() const;
 
   std::unique_ptr<Ui::SecondLookDialog> mUi;
