@@ -75,13 +75,14 @@ TEST_F(RunList, measuresARunByTheErrorsThatItWasRunWith) {
 
 TEST_F(RunList, tellsAllSettingsOfARun) {
   const std::string file = folder / "set.tvsk";
+  const std::string both = folder / "both.tvsk";
   ASSERT_EQ(
       run({"invert", folder / "line.otte", "--cell-size", "1", "--method", "fitted", "--statics",
            "--trigger-error", "5", "--no-robust", "--reference", "default", "-o", file})
           .code,
       0);
-  ASSERT_EQ(run({"invert", file, "--coarse-to-fine", "--iterations", "2", "-o", file}).code, 0);
-  const ordered_json list = runs(file);
+  ASSERT_EQ(run({"invert", file, "--coarse-to-fine", "--iterations", "2", "-o", both}).code, 0);
+  const ordered_json list = runs(both);
   const ordered_json& fitted = list[0]["settings"];
   EXPECT_EQ(fitted["trigger_error_ms"], 5.0);
   EXPECT_EQ(fitted["robust"], false);
