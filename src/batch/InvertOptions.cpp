@@ -319,7 +319,10 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
                                    [&](double value) { options.zOffset = value; });
   CLI::Option* image =
       addImages(app, options.images, "Draw the section: .png, .svg or .pdf; once per picture");
-  CLI::Option* rays = app.add_flag("--rays", options.rays, "Draw the rays in --image");
+  CLI::Option* rays = app.add_flag(
+      "--rays", options.rays,
+      "Draw the rays in --image; those of a fitted section along the nodes of the grid, "
+      "not the finer ones that its times are of");
   CLI::Option* contours =
       addNumber(app, "--contours", "N", Range<int>{0, parameters::kContours.limits.most},
                 meaningOf(parameters::kContours) + " in --image and --report (default: 0)",
