@@ -90,7 +90,7 @@ TEST(CoarseToFine, letsNoGrossPickDecide) {
   const auto sections = [](bool gross) {
     TomoDocument line = testing::twoLayers(1.5);
     if (gross) {
-      for (std::size_t i = 0; i < 3; ++i) line.ttArray.edit()[i].ttMisurati.edit()[5] += 0.2;
+      for (std::size_t i = 0; i < 3; ++i) line.ttArray.edit()[i].ttMisurati.edit()[5] += 0.5;
     }
     const testing::ConsoleCapture console;
     Log log;
