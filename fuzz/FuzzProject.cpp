@@ -13,7 +13,9 @@
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
 
+#include <QFile>
 #include <QTemporaryDir>
+#include <cmath>
 #include <cstdint>
 #include <fstream>
 #include <iterator>
@@ -24,8 +26,9 @@ namespace {
 
 using namespace talvesk;
 
-const char* const kMembers[] = {kSurveyMember,     kGridMember, kTracesMember, kPalettesMember,
-                                kRefractionMember, "picks.xml", "known.xml"};
+const char* const kMembers[] = {kSurveyMember,   kGridMember,       kTracesMember,
+                                kPalettesMember, kRefractionMember, "picks.xml",
+                                "errors.xml",    "runs.xml",        "known.xml"};
 
 void put(const std::string& path, const std::uint8_t* bytes, std::size_t size) {
   std::ofstream stream(path, std::ios::binary | std::ios::trunc);
@@ -87,12 +90,32 @@ void build(const Workshop& shop, std::uint8_t place, const std::uint8_t* bytes, 
            const std::string& archive) {
   if (place == 0) return put(archive, bytes, size);
   std::vector<std::string> files;
-  for (const char* member : kMembers) files.push_back(shop.loose() + member);
   const std::string changed = shop.root() + kMembers[place - 1];
   put(changed, bytes, size);
-  files[place - 1] = changed;
+  for (const char* member : kMembers) {
+    const std::string sound = shop.loose() + member;
+    if (member == kMembers[place - 1]) {
+      files.push_back(changed);
+    } else if (QFile::exists(QString::fromStdString(sound))) {
+      files.push_back(sound);
+    }
+  }
   Message why;
   demand(writeZip(archive, files, why) == 0, "an archive of any members");
+}
+
+void demandRun(const KeptRun& run) {
+  const std::size_t cells = run.size.cellCount();
+  demand(run.slowness.size() == cells && run.coorcount.size() == cells &&
+             run.hitCounts.size() == cells,
+         "a value per cell of a run");
+  if (!run.record.fit) return;
+  demand(run.record.fit->errorFloor > 0.0 && std::isfinite(run.record.fit->errorFloor),
+         "errors that residuals can be divided by");
+  demand(run.record.fit->reference.size() < 100, "the name of a model");
+  for (const FoundShift& shift : run.record.fit->shifts) {
+    demand(std::isfinite(shift.late) && std::isfinite(shift.mended), "a time shift");
+  }
 }
 
 void demandWhole(const LoadedProject& project) {
@@ -120,6 +143,7 @@ void demandWhole(const LoadedProject& project) {
            "a density per cell");
   }
   demand(faultOf(*document.known).empty(), "ground that can be");
+  for (const KeptRun& run : document.runs) demandRun(run);
   demand(project.palettes->currentIndex() < project.palettes->size(), "a current palette");
 }
 

@@ -6,9 +6,12 @@ HEAD = '<?xml version="1.0" encoding="utf-8"?>\n<cereal>\n'
 TAIL = "</cereal>\n\n"
 
 
+def values(items, tag="value"):
+    return "".join(f"<{tag}{i}>{item}</{tag}{i}>" for i, item in enumerate(items))
+
+
 def sequence(name, items, tag="value"):
-    inner = "".join(f"<{tag}{i}>{item}</{tag}{i}>" for i, item in enumerate(items))
-    return f'<{name} size="dynamic">{inner}</{name}>\n'
+    return f'<{name} size="dynamic">{values(items, tag)}</{name}>\n'
 
 
 def point(x, z):
@@ -65,6 +68,38 @@ def picks(version=1, traces=(0,)):
                                                for i, t in enumerate(traces)), ""]) + TAIL)
 
 
+def errors(version=1, time=0.01, sigma=0.001, trace=0):
+    error = f"<of>{trace}</of><time>{time}</time><sigma>{sigma}</sigma>"
+    return (HEAD + f"<version>{version}</version>" + sequence("errors", [values([error]), ""])
+            + sequence("recorded", []) + TAIL)
+
+
+def fit(floor=0.0005, late=0.001, reference="two-layers"):
+    shifts = [f"<late>{value}</late><mended>0</mended>" for value in (late, -0.001)]
+    return (f"<error_floor>{floor}</error_floor><error_share>0.03</error_share><robust>true</robust>"
+            "<blocky>false</blocky><statics>true</statics><lambda>0.5</lambda><chi2>1</chi2>"
+            "<chi2_all>1.5</chi2_all><suspects>1</suspects><target>true</target>"
+            f"<reference>{reference}</reference>" + sequence("shifts", shifts))
+
+
+def runs(rows=2, columns=6, fits=(fit(),), count=None, version=1):
+    cells = rows * columns if count is None else count
+    record = ("<externalIterations>1</externalIterations><solverIterations>1</solverIterations>"
+              "<smoothing>5</smoothing><smoothingType>0</smoothingType><symmetric>false</symmetric>"
+              "<minVelocity>50</minVelocity><maxVelocity>8000</maxVelocity>"
+              "<elapsedSeconds>1</elapsedSeconds><stopped>false</stopped>" + sequence("history", []))
+    run = ("<number>1</number><name>one</name><when></when><run>" + record
+           + "</run><computing_seconds>1</computing_seconds><picks>1</picks>"
+           + sequence("section_history", []) + sequence("fit", fits)
+           + "<rms_percent>1</rms_percent><chi2>1</chi2><chi2_all>1</chi2_all><positions>1</positions>"
+           f"<righe>{rows}</righe><col>{columns}</col><nV>6</nV><aLato>2</aLato><x_offset>1</x_offset>"
+           + sequence("surface_x", [0, 12]) + sequence("surface_z", [100, 100])
+           + sequence("velocities", [400] * cells) + sequence("coorcount", [1] * cells)
+           + sequence("hit_counts", [1] * cells)
+           + sequence("times", [values([0.01, -99, 0.02])] * 2))
+    return HEAD + f"<version>{version}</version>" + sequence("runs", [run]) + TAIL
+
+
 MEMBERS = {
     "tomodoc.xml": [survey(), survey(0), survey(2, 7), survey(2, -1),
                     survey(extra="<title>a &lt; b</title><has_tomographic_info>true"
@@ -76,6 +111,11 @@ MEMBERS = {
     "palettes.xml": [palettes(), palettes(0), palettes(1, 99)],
     "refraction.xml": [refraction(), refraction(9), refraction(0, 9)],
     "picks.xml": [picks(), picks(traces=(4294967295,)), picks(2), picks("x"), HEAD + TAIL],
+    "errors.xml": [errors(), errors(trace=4294967295), errors(sigma="nan"), errors(sigma=-1),
+                   errors(time=0.02), errors(2)],
+    "runs.xml": [runs(), runs(fits=()), runs(fits=(fit(floor=0),)), runs(fits=(fit(late="nan"),)),
+                 runs(fits=(fit(late=1e300),)), runs(fits=(fit(reference="x" * 20000),)),
+                 runs(4294967295, 4294967295, count=4), runs(count=4), runs(version=2)],
 }
 
 

@@ -1,6 +1,7 @@
 #include "app/InversionTexts.h"
 
 #include "app/MessageText.h"
+#include "model/ChiSquare.h"
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
 #include "tomo/fitted/References.h"
@@ -25,13 +26,29 @@ QString general(double value, int digits = 6) {
 
 /// Hundredths, but none of a number that has none.
 QString rounded(double value) {
-  return general(std::round(100.0 * value) / 100.0);
+  return general(std::round(100.0 * value) / 100.0 + 0.0);  // no -0
 }
 
-QString ofSection(const SectionMisfit& misfit, const ChiSquare& fit) {
-  return Words::tr("Section, along fresh rays\n") +
-         Words::tr("RMS: [ms] %1; [%] %2\n")
-             .arg(general(misfit.rmse * 1000.0), general(misfit.relativeRms * 100.0)) +
+QString rmsOf(const SectionMisfit& misfit) {
+  return Words::tr("RMS: [ms] %1; [%] %2\n")
+      .arg(general(misfit.rmse * 1000.0), general(misfit.relativeRms * 100.0));
+}
+
+/// What chi-square counts, where that is not all picks as they are.
+QString trustedText(const TomoDocument& document, const ChiSquare& fit) {
+  if (fit.suspects.empty() && !fit.shifted) return {};
+  const QString what = fit.suspects.empty() ? Words::tr("With the time shifts of shots")
+                       : fit.shifted ? Words::tr("Without suspects, with the time shifts of shots")
+                                     : Words::tr("Without suspects");
+  return what + QStringLiteral(", ") + rmsOf(trustedMisfitOf(document));
+}
+
+QString ofSection(const TomoDocument& document) {
+  const SectionMisfit misfit = sectionMisfitOf(document);
+  if (misfit.count == 0) return {};
+  const ChiSquare fit = sectionChiSquareOf(document);
+  return Words::tr("Section, along fresh rays\n") + Words::tr("All picks as they are, ") +
+         rmsOf(misfit) + trustedText(document, fit) +
          Words::tr("Chi-square: %1; of all picks %2; suspect picks %3\n")
              .arg(general(fit.chi2, 3), general(fit.all, 3))
              .arg(fit.suspects.size()) +
@@ -64,19 +81,21 @@ QString sectionMisfitText(const TomoDocument& document) {
   const SectionMisfit misfit = sectionMisfitOf(document);
   if (misfit.count == 0) return {};
   const ChiSquare fit = sectionChiSquareOf(document);
-  const QString text = fit.shifted
-                           ? Words::tr(
-                                 "Misfit of the section: RMS %1 ms (%2 %), chi-square %3 "
-                                 "with the time shifts of shots.")
-                           : Words::tr("Misfit of the section: RMS %1 ms (%2 %), chi-square %3.");
-  return text.arg(general(misfit.rmse * 1000.0, 3), general(misfit.relativeRms * 100.0, 3),
+  QString text = fit.shifted ? Words::tr(
+                                   "Misfit of the section: RMS %1 ms (%2 %), chi-square %3 "
+                                   "with the time shifts of shots.")
+                             : Words::tr("Misfit of the section: RMS %1 ms (%2 %), chi-square %3.");
+  text = text.arg(general(misfit.rmse * 1000.0, 3), general(misfit.relativeRms * 100.0, 3),
                   general(fit.chi2, 3));
+  if (!fit.shifted && fit.suspects.empty()) return text;
+  return text + QLatin1Char(' ') +
+         Words::tr("RMS of what chi-square counts: %1 ms.")
+             .arg(general(trustedMisfitOf(document).rmse * 1000.0, 3));
 }
 
-QString inversionResultsText(const TomographyResult& result, const ChiSquare& fit) {
+QString inversionResultsText(const TomographyResult& result, const TomoDocument& document) {
   const Misfit& misfit = result.misfit;
-  QString text;
-  if (result.sectionMisfit.count > 0) text = ofSection(result.sectionMisfit, fit);
+  QString text = ofSection(document);
   if (result.coarseToFine) {
     text += Words::tr("From coarse to fine: iteration %1 of %2 is kept, smoothing parameter %3\n")
                 .arg(result.coarseToFine->kept)
@@ -94,9 +113,8 @@ QString inversionResultsText(const TomographyResult& result, const ChiSquare& fi
              .arg(general(misfit.maxError * 1000.0), general(misfit.maxRelativeError * 100.0));
 }
 
-QString fitResultsText(const FittedRunResult& result) {
-  QString text = textOf(result.outcome) + QStringLiteral("\n\n");
-  text += ofSection(result.run.sectionMisfit, result.fit);
+QString fitResultsText(const FittedRunResult& result, const TomoDocument& document) {
+  QString text = textOf(result.outcome) + QStringLiteral("\n\n") + ofSection(document);
   text += Words::tr("Iterations: %1\n").arg(result.run.iterationsDone) +
           Words::tr("Weight of the roughness: %1\n").arg(general(result.lambda, 3)) +
           Words::tr("Started from and held to: %1\n").arg(referenceText(result.reference)) +

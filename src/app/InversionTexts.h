@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/ChiSquare.h"
 #include "tomo/TomographyRun.h"
 
 #include <QString>
@@ -17,11 +16,11 @@ struct FittedRunResult;
 QString sectionMisfitText(const TomoDocument& document);
 
 /// The box of results: the section that is shown first, then what the solver saw last.
-/// \param fit of that section
-QString inversionResultsText(const TomographyResult& result, const ChiSquare& fit);
+/// \param document with that section
+QString inversionResultsText(const TomographyResult& result, const TomoDocument& document);
 
 /// The box of results of a section that was fitted to the errors of its picks.
-QString fitResultsText(const FittedRunResult& result);
+QString fitResultsText(const FittedRunResult& result, const TomoDocument& document);
 
 /// The time shifts that were found, in milliseconds: "shot 1: 0.2, shot 2: -3.1"; empty without
 /// any.

@@ -1,5 +1,6 @@
 #include "app/RunTexts.h"
 
+#include "app/InversionTexts.h"
 #include "app/MessageText.h"
 #include "model/ChiSquare.h"
 #include "model/KeptRuns.h"
@@ -35,6 +36,11 @@ QString runFigure(double value, bool known) {
   return known ? QLocale().toString(value, 'g', 3) : QStringLiteral("\u2013");
 }
 
+QString runErrors(const KeptRun& run) {
+  const PickErrorRule rule = errorRuleOf(run.record);
+  return RunTexts::tr("%1 ms or %2 %").arg(number(rule.floor * 1000.0), number(rule.share * 100.0));
+}
+
 QString runTime(const KeptRun& run) {
   const QDateTime when = QDateTime::fromString(QString::fromStdString(run.when), Qt::ISODate);
   return when.isValid() ? QLocale().toString(when.toLocalTime(), QLocale::ShortFormat) : QString();
@@ -49,24 +55,22 @@ QString runSettings(const KeptRun& run) {
                .arg(number(run.size.aLato));
   words += RunTexts::tr("velocities from %1 to %2 m/s")
                .arg(number(record.minVelocity), number(record.maxVelocity));
+  words += RunTexts::tr("errors of %1").arg(runErrors(run));
   if (record.fit) {
-    words +=
-        RunTexts::tr("errors of %1 ms or %2 %")
-            .arg(number(record.fit->errorFloor * 1000.0), number(record.fit->errorShare * 100.0));
-    if (record.fit->robust) words += RunTexts::tr("robust");
+    words += RunTexts::tr("from \"%1\"").arg(referenceText(record.fit->reference));
+    words += record.fit->robust ? RunTexts::tr("robust") : RunTexts::tr("not robust");
     if (record.fit->blocky) words += RunTexts::tr("blocky");
-    if (record.fit->statics) words += RunTexts::tr("with shot statics");
+    if (record.fit->statics) {
+      words += RunTexts::tr("with shot statics, trigger error %1 ms")
+                   .arg(number(record.fit->triggerError * 1000.0));
+    }
     if (record.fit->known != 0) words += RunTexts::tr("held to known ground");
     words += RunTexts::tr("suspect picks: %1").arg(record.fit->suspects);
   } else {
     words += RunTexts::tr("%1 solver iterations").arg(record.solverIterations);
     words += RunTexts::tr("smoothing parameter %1").arg(record.smoothing);
     if (record.symmetric) words += RunTexts::tr("symmetric");
-    if (run.chi2 >= 0.0) {
-      const PickErrorRule rule;
-      words += RunTexts::tr("chi-square by errors of %1 ms or %2 % where picks state none")
-                   .arg(number(rule.floor * 1000.0), number(rule.share * 100.0));
-    }
+    if (record.coarseToFine > 0) words += RunTexts::tr("from coarse to fine");
   }
   if (record.stopped) words += RunTexts::tr("stopped by the user");
   return words.join(QStringLiteral("; "));

@@ -17,6 +17,8 @@ QString runFigure(double value, bool known);
 QString runTime(const KeptRun& run);
 /// How it was run, in one line.
 QString runSettings(const KeptRun& run);
+/// By what errors of picks its chi-square is: "0.5 ms or 3 %".
+QString runErrors(const KeptRun& run);
 /// What the survey has got since that the run did not know; empty when nothing.
 QString runRemarks(const KeptRun& run, const TomoDocument& document);
 

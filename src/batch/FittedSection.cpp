@@ -4,15 +4,17 @@
 #include "base/TextNumber.h"
 #include "batch/Failure.h"
 #include "batch/Interrupt.h"
+#include "batch/ProjectFiles.h"
 #include "io/KnownGroundFile.h"
 #include "io/Survey.h"
+#include "io/project/projectReader.h"
+#include "model/ChiSquare.h"
 #include "model/GroundModel.h"
 #include "model/KnownGround.h"
-#include "batch/ProjectFiles.h"
-#include "io/project/projectReader.h"
 #include "model/TomographyOutcome.h"
 #include "numerics/Medians.h"
 #include "session/TableRules.h"
+#include "tomo/SecondLook.h"
 #include "tomo/fitted/CertaintyRun.h"
 #include "view/SectionCertainty.h"
 
@@ -55,7 +57,7 @@ Status addGiven(const InvertOptions& options, const Survey& survey, FittedSettin
 }
 
 std::string inMilliseconds(double seconds) {
-  return formatDouble(std::round(seconds * 1e5) / 100.0);
+  return formatDouble(std::round(seconds * 1e5) / 100.0 + 0.0);  // no -0
 }
 
 std::string threeDigits(double value) {
@@ -102,12 +104,16 @@ Status takeKnownGround(const InvertOptions& options, Survey& survey) {
 
 ReferencedRun fitSection(const InvertOptions& options, const Channels& channels, Survey& survey,
                          Log& log) {
-  listenForInterrupt(!options.quiet);
+  listenForInterrupt(Interruptible::kAtOnce, !options.quiet);
   FittedSettings settings = settingsOf(options);
   ReferencedRun run;
   run.fit.run.status = addGiven(options, survey, settings);
   if (!run.fit.run.status.ok()) return run;
-  Progress progress(channels.progress, std::cerr, settings.fit.mostIterations);
+  Progress progress(channels.progress, std::cerr);
+  const Grid& grid = *survey.document.model->grid;
+  progress.begin("Tracing the models that it can start from through " +
+                 std::to_string(grid.righe()) + " rows and " + std::to_string(grid.col()) +
+                 " columns of cells");
   const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
     run = fitFromReference(
         next.document, settings, log, [&](const FittedRunProgress& state) { progress.show(state); },
@@ -168,14 +174,25 @@ Status findCertainty(const InvertOptions& options, const Channels& channels, Sur
 void warnAboutFit(const FittedRunResult& fit) {
   if (fit.end != FitEnd::kTarget && fit.end != FitEnd::kStopped) warn(fit.outcome);
   if (fit.known) warnAboutKnown(*fit.known);
-  if (fit.suspects.empty()) return;
-  std::string text = std::to_string(fit.suspects.size()) + " of " + std::to_string(fit.fit.count) +
-                     " picks are suspect and left out of chi-square: ";
-  for (std::size_t i = 0; i < fit.suspects.size() && i < kMostSuspectsNamed; ++i) {
-    text += (i > 0 ? "; " : "") + nameOf(fit.suspects[i]);
+}
+
+void warnAboutPicks(const TomoDocument& document) {
+  if (const std::size_t raised = raisedErrors(document); raised > 0) {
+    const std::string least = formatDouble(kLeastPickError * 1000.0);
+    warn(std::to_string(raised) + " picks state errors below " + least + " ms; they count as " +
+         least + " ms");
   }
-  if (fit.suspects.size() > kMostSuspectsNamed) {
-    text += " and " + std::to_string(fit.suspects.size() - kMostSuspectsNamed) +
+  const std::vector<SuspectPick> suspects = suspectsOf(document);
+  if (suspects.empty()) return;
+  const ChiSquare fit = sectionChiSquareOf(document);
+  std::string text = std::to_string(suspects.size()) + " of " + std::to_string(fit.count) +
+                     " picks are suspect and left out of chi-square, off by more than " +
+                     threeDigits(fit.limit) + " of their errors: ";
+  for (std::size_t i = 0; i < suspects.size() && i < kMostSuspectsNamed; ++i) {
+    text += (i > 0 ? "; " : "") + nameOf(suspects[i]);
+  }
+  if (suspects.size() > kMostSuspectsNamed) {
+    text += " and " + std::to_string(suspects.size() - kMostSuspectsNamed) +
             " more, all of which --json names";
   }
   warn(text);
@@ -191,9 +208,7 @@ void summarizeFit(const ReferencedRun& run, std::ostream& out) {
   }
   for (const Message& refused : run.references.refused) out << "Not from: " << refused << "\n";
   out << "Iterations: " << fit.run.iterationsDone
-      << (fit.run.stopped ? ", stopped by the user" : "") << "\n"
-      << "Chi-square: " << formatDouble(fit.fit.chi2) << "; of all picks "
-      << formatDouble(fit.fit.all) << "; suspects " << fit.suspects.size() << "\n";
+      << (fit.run.stopped ? ", stopped by the user" : "") << "; kept " << fit.kept << "\n";
   if (fit.known) {
     out << "Known ground: " << fit.known->all.size() << " conditions, RMS in their errors "
         << threeDigits(fit.known->rms()) << "; beyond " << KnownFit::kHonoured << " errors "

@@ -8,6 +8,7 @@
 namespace talvesk {
 
 class Log;
+class TomoDocument;
 struct Survey;
 
 /// `invert --constraints`: what is known of the ground becomes part of the survey. Says on standard
@@ -26,8 +27,10 @@ void warnAboutCertainty(const TomoDocument& document);
 /// an interrupt leaves is kept, and said on standard error.
 Status findCertainty(const InvertOptions& options, const Channels& channels, Survey& survey);
 
-/// Says on standard error what the section does not explain.
+/// Says on standard error where a fit has not come to its target.
 void warnAboutFit(const FittedRunResult& fit);
+/// The same of picks that the section of a survey does not explain, and of errors that are raised.
+void warnAboutPicks(const TomoDocument& document);
 
 /// Lines of the summary.
 void summarizeFit(const ReferencedRun& run, std::ostream& out);

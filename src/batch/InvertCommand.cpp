@@ -16,8 +16,10 @@
 #include "export/ResidualText.h"
 #include "grid/GridBuilder.h"
 #include "io/project/projectReader.h"
+#include "model/ChiSquare.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
+#include "model/Residuals.h"
 #include "model/SurveyFacts.h"
 #include "model/TomographyOutcome.h"
 #include "session/TableRules.h"
@@ -116,6 +118,7 @@ Status tellWhatIsLeftOut(const TomoDocument& document) {
 
 TomographyParameters parametersOf(const InvertOptions& options, const TomoDocument& document) {
   TomographyParameters parameters = options.parameters;
+  parameters.errors = options.fitted.errors;
   parameters.minVelocity = options.minVelocity.value_or(document.model->minVelocity);
   parameters.maxVelocity = options.maxVelocity.value_or(document.model->maxVelocity);
   parameters.externalIterations = options.iterations.value_or(parameters.externalIterations);
@@ -124,7 +127,7 @@ TomographyParameters parametersOf(const InvertOptions& options, const TomoDocume
 
 TomographyResult invert(const InvertOptions& options, const TomographyParameters& parameters,
                         const Channels& channels, Survey& survey, Log& log) {
-  listenForInterrupt(!options.quiet);
+  listenForInterrupt(Interruptible::kExternalIterations, !options.quiet);
   Progress progress(channels.progress, std::cerr, parameters.externalIterations);
   TomographyResult result;
   const Status edited = editSurvey(Edit::kInversion, survey, [&](Survey& next) {
@@ -138,12 +141,28 @@ TomographyResult invert(const InvertOptions& options, const TomographyParameters
   return result;
 }
 
-/// The misfit of the section that was found, along fresh rays.
-void summarizeSection(const SectionMisfit& misfit, std::ostream& out) {
+std::string rmsText(const SectionMisfit& misfit) {
+  return "RMS [ms] " + formatDouble(misfit.rmse * 1000.0) + "; [%] " +
+         formatDouble(misfit.relativeRms * 100.0);
+}
+
+/// The misfit of the section that was found, along fresh rays: of all picks as they are, and of
+/// what chi-square counts where that is something else.
+void summarizeSection(const TomoDocument& document, std::ostream& out) {
+  const SectionMisfit misfit = sectionMisfitOf(document);
   if (misfit.count == 0) return;
-  out << "Section: RMS [ms] " << formatDouble(misfit.rmse * 1000.0) << "; [%] "
-      << formatDouble(misfit.relativeRms * 100.0) << "; mean [ms] "
-      << formatDouble(misfit.bias * 1000.0) << "\n"
+  const ChiSquare fit = sectionChiSquareOf(document);
+  const PickErrorRule rule = errorRuleOf(document);
+  out << "Section: " << rmsText(misfit) << "; mean [ms] " << formatDouble(misfit.bias * 1000.0)
+      << "; of all " << misfit.count << " picks as they are\n";
+  if (!fit.suspects.empty() || fit.shifted) {
+    out << "Section" << (fit.suspects.empty() ? "" : " without suspects")
+        << (fit.shifted ? " with the time shifts of shots" : "") << ": "
+        << rmsText(trustedMisfitOf(document)) << "\n";
+  }
+  out << "Chi-square: " << formatDouble(fit.chi2) << "; of all picks " << formatDouble(fit.all)
+      << "; suspects " << fit.suspects.size() << "; errors [ms] "
+      << formatDouble(rule.floor * 1000.0) << " or [%] " << formatDouble(rule.share * 100.0) << "\n"
       << "Largest difference: [ms] " << formatDouble(misfit.maxAbs * 1000.0) << "; shot "
       << misfit.maxShot + 1 << ", receiver " << misfit.maxReceiver + 1 << "\n";
 }
@@ -160,7 +179,7 @@ void summarizeFitted(const TomoDocument& document, const ReferencedRun& referenc
   summarizeGrid(document, out);
   summarizeFit(referenced, out);
   if (document.result->certainty) summarizeCertainty(*document.result->certainty, out);
-  summarizeSection(fit.run.sectionMisfit, out);
+  summarizeSection(document, out);
   out << "Computing time: [s] " << formatDouble(fit.run.computingSeconds) << "\n"
       << "Picks used: " << fit.fit.count << " of "
       << leftOut(document, document.result->excluded).of << std::endl;
@@ -172,9 +191,9 @@ void summarizeCoarseToFine(const TomographyResult& result, std::ostream& out) {
   const CoarseToFineResult& all = *result.coarseToFine;
   out << "From coarse to fine: iteration " << all.kept << " of " << result.iterationsDone
       << " is kept, smoothing radius " << all.radii[static_cast<std::size_t>(all.kept) - 1]
-      << "; section RMS [ms] after each:";
+      << "; section RMS [ms] without gross errors after each:";
   for (std::size_t i = 1; i < all.sections.size(); ++i) {
-    out << ' ' << formatDouble(std::round(all.sections[i].rmse * 1e6) / 1000.0);
+    out << ' ' << formatDouble(std::round(all.sections[i].trimmed * 1e6) / 1000.0);
   }
   out << "\n";
 }
@@ -186,7 +205,7 @@ void summarize(const TomographyParameters& parameters, const TomoDocument& docum
   out << "External iterations: " << result.iterationsDone << " of " << parameters.externalIterations
       << (result.stopped ? ", stopped by the user" : "") << "\n";
   summarizeCoarseToFine(result, out);
-  summarizeSection(result.sectionMisfit, out);
+  summarizeSection(document, out);
   out << "Computing time: [s] " << formatDouble(result.computingSeconds) << "\n"
       << "Last solver pass:\n"
       << "Elapsed time: [s] " << formatDouble(result.elapsedSeconds) << "\n"
@@ -205,8 +224,7 @@ int writeResults(const InvertOptions& options, const LoadedProject& project,
   const TomoDocument& document = project.document;
   OutputAttempts attempt;
   attempt(options.json, [&](const auto& path) {
-    return writeOutput(path,
-                       inversionJson(document, result, options.fitted.errors, fit, resolution));
+    return writeOutput(path, inversionJson(document, result, fit, resolution));
   });
   attempt(options.gridded, [&](const auto& path) {
     announceGriddedText(path);
@@ -273,8 +291,12 @@ int run(const InvertOptions& options) {
       fits ? fit->fit.run : invert(options, parameters, channels, project, log);
   // What the completed iterations found is not lost with the one that failed.
   int runCode = result.status.ok() ? kDone : failed(result.status.message());
-  if (result.iterationsDone == 0) return runCode;
+  if (result.iterationsDone == 0) {
+    return runCode != kDone ? runCode
+                            : failed("stopped before anything was found; nothing was written");
+  }
   if (fit) warnAboutFit(fit->fit);
+  warnAboutPicks(document);
   for (const Message& gone : result.runsGone) {
     warn("the list of inversion runs is full; its oldest has gone: " + gone.english());
   }

@@ -183,6 +183,15 @@ std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
   CLI::Option* statics =
       app.add_flag("--statics", options.fitted.fit.statics,
                    "With --method fitted: find a time shift of every shot, too, zero on the whole");
+  CLI::Option* trigger =
+      addNumber(app, "--trigger-error", "MS", Range<double>{0.1, 1000.0},
+                "With --statics: how far shots are thought to be off (default: " +
+                    plainNumber(1000.0 * options.fitted.fit.triggerError) + ")",
+                [&](double value) { options.fitted.fit.triggerError = value / 1000.0; });
+  trigger->needs(statics);
+  CLI::Option* plain = app.add_flag_callback(
+      "--no-robust", [&] { options.fitted.fit.robust = false; },
+      "With --method fitted: let picks that are far off count by the square of their residuals");
   CLI::Option* reference =
       app.add_option_function<std::string>(
              "--reference",
@@ -201,8 +210,9 @@ std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
       "boreholes, "
       "depths and bodies of known velocity; 'project' takes what the project knows. --json tells "
       "how the section goes with it; chi-square is of the picks alone");
-  for (CLI::Option* option : {blocky, statics, reference, constraints}) option->group("Inversion");
-  return {blocky, statics, reference, constraints};
+  const std::vector<CLI::Option*> own = {blocky, statics, trigger, plain, reference, constraints};
+  for (CLI::Option* option : own) option->group("Inversion");
+  return own;
 }
 
 /// "600,1500".
@@ -276,10 +286,12 @@ std::vector<CLI::Option*> addRunOptions(CLI::App& app, InvertOptions& options) {
                              "Smooth as far up and down as sideways, instead of " +
                                  plainNumber(parameters::kFlatness.value) + " times as far")
                     ->group("Inversion"));
-  own.push_back(app.add_flag("--coarse-to-fine", run.coarseToFine,
-                             "Let the smoothing radius shrink to a fifth over the external "
-                             "iterations, and keep the one whose section fits the picks best")
-                    ->group("Inversion"));
+  own.push_back(
+      app.add_flag("--coarse-to-fine", run.coarseToFine,
+                   "Let the smoothing radius shrink to a fifth over the external "
+                   "iterations, and keep the one whose section fits the picks best, gross "
+                   "errors left out")
+          ->group("Inversion"));
   const auto velocity = [&](const Parameter<double>& parameter, double fitted,
                             std::optional<double>& target) {
     addParameter(app, parameter, "M/S",
@@ -318,7 +330,10 @@ void addOutputOptions(CLI::App& app, InvertOptions& options) {
                                    [&](double value) { options.zOffset = value; });
   CLI::Option* image =
       addImages(app, options.images, "Draw the section: .png, .svg or .pdf; once per picture");
-  CLI::Option* rays = app.add_flag("--rays", options.rays, "Draw the rays in --image");
+  CLI::Option* rays = app.add_flag(
+      "--rays", options.rays,
+      "Draw the rays in --image; those of a fitted section along the nodes of the grid, "
+      "not the finer ones that its times are of");
   CLI::Option* contours =
       addNumber(app, "--contours", "N", Range<int>{0, parameters::kContours.limits.most},
                 meaningOf(parameters::kContours) + " in --image and --report (default: 0)",

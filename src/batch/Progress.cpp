@@ -96,6 +96,11 @@ Progress::Progress(ProgressStyle style, std::ostream& stream, int total)
   if (mStyle == ProgressStyle::kBar) drawBar(progressBar(nothingYet, kBarWidth));
 }
 
+void Progress::begin(const std::string& what) {
+  if (mStyle == ProgressStyle::kBar) drawBar(what);
+  if (mStyle == ProgressStyle::kLines) mStream << what << std::endl;
+}
+
 void Progress::show(const TomographyProgress& progress) {
   if (mStyle == ProgressStyle::kBar) drawBar(progressBar(progress, kBarWidth));
   if (mStyle == ProgressStyle::kLines) mStream << progressLine(progress) << std::endl;

@@ -23,6 +23,8 @@ class Progress {
   /// Of what is not counted in external iterations.
   Progress(ProgressStyle style, std::ostream& stream) : mStyle(style), mStream(stream) {}
 
+  /// Says what goes on before there is anything to count.
+  void begin(const std::string& what);
   void show(const TomographyProgress& progress);
   void show(const FittedRunProgress& progress);
   void show(const EnsembleProgress& progress);

@@ -9,6 +9,7 @@
 #include "io/project/ProjectLock.h"
 #include "io/project/ProjectWriter.h"
 #include "io/project/projectReader.h"
+#include "model/ChiSquare.h"
 #include "model/GroundModel.h"
 #include "model/LeftOut.h"
 #include "model/Mending.h"
@@ -49,14 +50,27 @@ std::string countOf(std::size_t count, const std::string& what) {
   return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
+std::string methodOf(const TomoDocument& document) {
+  const auto& run = document.result->lastInversion;
+  if (!run) return "done";
+  return run->fit ? "fitted" : "smoothed";
+}
+
 void describeInversion(const TomoDocument& document, std::ostream& out) {
   const SectionMisfit misfit = sectionMisfitOf(document);
-  out << "done";
+  out << methodOf(document);
   if (misfit.count > 0) {
     out << ", RMS misfit of the section " << formatDouble(misfit.rmse * 1000.0) << " ms, "
         << formatDouble(misfit.relativeRms * 100.0) << " %";
   }
-  if (document.result->RMSE_tomography >= 0.0) {
+  if (const ChiSquare fit = sectionChiSquareOf(document); fit.count > 0) {
+    const PickErrorRule rule = errorRuleOf(document);
+    out << ", chi-square " << formatDouble(fit.chi2, 4) << " by errors of "
+        << formatDouble(rule.floor * 1000.0) << " ms or " << formatDouble(rule.share * 100.0)
+        << " %, suspects " << fit.suspects.size();
+  }
+  // A fit has no solver pass beside the section.
+  if (methodOf(document) != "fitted" && document.result->RMSE_tomography >= 0.0) {
     out << ", last solver pass " << formatDouble(document.result->RMSE_tomography) << " %";
   }
   if (document.result->smoothedResult) out << "; smoothed since";

@@ -73,6 +73,7 @@ ResolutionReport resolve(const InvertOptions& options, const TomoDocument& docum
   request.singleThread = options.parameters.singleThread;
   request.test.fit = options.fitted.fit;
   request.test.fit.statics = false;
+  listenForInterrupt(Interruptible::kAtOnce, !options.quiet);
   ResolutionReport report =
       runResolution(document, request, {}, [] { return !interruptRequested(); });
   if (report.stopped) warn("the resolution test was stopped; what it had not completed is missing");

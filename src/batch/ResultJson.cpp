@@ -5,6 +5,7 @@
 #include "batch/ReciprocityText.h"
 #include "batch/Resolution.h"
 #include "batch/RunList.h"
+#include "batch/SectionJson.h"
 #include "io/ReadShotFile.h"
 #include "io/TravelTimeData.h"
 #include "io/project/projectReader.h"
@@ -20,6 +21,7 @@
 #include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
+#include "tomo/SecondLook.h"
 #include "tomo/TomographyRun.h"
 #include "tomo/fitted/References.h"
 #include "view/SectionCertainty.h"
@@ -155,16 +157,19 @@ Json sectionHistoryJson(const std::vector<SectionMisfit>& history) {
   return list;
 }
 
-/// Entry 0 of the misfits is the starting model.
+/// Entry 0 of the misfits is the starting model. The trimmed ones, without gross errors, decide.
 Json coarseToFineJson(const CoarseToFineResult& all) {
   Json json = Json::object();
   json["kept_iteration"] = all.kept;
   json["radii"] = all.radii;
   Json misfits = Json::array();
+  Json trimmed = Json::array();
   for (const SectionMisfit& each : all.sections) {
     misfits.push_back(ofPicks(each, each.rmse * 1000.0));
+    trimmed.push_back(ofPicks(each, each.trimmed * 1000.0));
   }
   json["section_rmse_ms"] = std::move(misfits);
+  json["trimmed_rmse_ms"] = std::move(trimmed);
   return json;
 }
 
@@ -214,20 +219,24 @@ void putFit(Json& json, const ReferencedRun& run) {
   json["lambda"] = fit.lambda;
   json["outcome"] = fit.outcome.english();
   json["constraints"] = constraintsJson(fit.known);
-  Json suspects = Json::array();
-  for (const SuspectPick& each : fit.suspects) {
-    Json suspect = Json::object();
-    suspect["shot"] = each.record;
-    suspect["receiver"] = each.receiver;
-    suspect["time"] = each.measured;
-    suspect["residual_ms"] = each.residual * 1000.0;
-    suspect["sigma_ms"] = each.sigma * 1000.0;
-    suspects.push_back(std::move(suspect));
-  }
-  json["suspects"] = std::move(suspects);
+  json["suspects"] = suspectsJson(fit.suspects);
   Json statics = Json::array();
-  for (const double shift : fit.statics) statics.push_back(shift * 1000.0);
+  for (const double shift : fit.statics) statics.push_back(shift * 1000.0 + 0.0);  // no -0
   json["statics_ms"] = fit.statics.empty() ? Json(nullptr) : std::move(statics);
+}
+
+/// The keys of a fit, of a section that is none.
+void putSmoothed(Json& json, const TomoDocument& document) {
+  putChiSquare(json, "smoothed", sectionChiSquareOf(document));
+  for (const char* key : {"chi2_history", "reference", "lambda"}) json[key] = nullptr;
+  json["suspects"] = suspectsJson(suspectsOf(document));
+  json["statics_ms"] = nullptr;
+}
+
+/// The iteration whose section is kept; 0 is the model that it started from.
+int keptIteration(const TomographyResult& result, const ReferencedRun* fit) {
+  if (fit != nullptr) return fit->fit.kept;
+  return result.coarseToFine ? result.coarseToFine->kept : result.iterationsDone;
 }
 
 Json pickErrorsJson(const TomoDocument& document) {
@@ -326,12 +335,12 @@ Json standardJson(const ReadShotFile& file, const std::vector<Message>& losses, 
 }  // namespace
 
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
-                          const PickErrorRule& errors, const ReferencedRun* fit,
-                          const ResolutionReport* resolution) {
+                          const ReferencedRun* fit, const ResolutionReport* resolution) {
   const Misfit& misfit = result.misfit;
   Json json = Json::object();
   json["grid"] = gridJson(document);
   json["iterations_done"] = result.iterationsDone;
+  json["kept_iteration"] = keptIteration(result, fit);
   json["elapsed_s"] = result.elapsedSeconds;
   json["rmse_ms"] = ofPicks(misfit, misfit.rmse * 1000.0);
   json["rms_percent"] = ofPicks(misfit, misfit.relativeRms * 100.0);
@@ -351,17 +360,19 @@ std::string inversionJson(const TomoDocument& document, const TomographyResult& 
   json["to_be_draw"] = std::move(drawn);
   json["computed_times"] = result.lastPassTimes;
   putSectionMisfit(json, result.sectionMisfit);
+  putTrusted(json, document);
   json["section_history"] = sectionHistoryJson(document.result->sectionHistory);
   if (result.coarseToFine) json["coarse_to_fine"] = coarseToFineJson(*result.coarseToFine);
   json["section_times"] = sectionTimesJson(document);
   json["errors_ms"] = pickErrorsJson(document);
+  putErrors(json, document);
   putGrades(json, gradesOf(document.ttArray));
   json["computing_s"] = result.computingSeconds;
   if (fit != nullptr) {
     putFit(json, *fit);
     if (document.result->certainty) json["certainty"] = certaintyJson(document);
   } else {
-    putChiSquare(json, "smoothed", chiSquareOf(document, residualsOf(document), errors));
+    putSmoothed(json, document);
   }
   if (resolution != nullptr) json["resolution"] = resolutionJson(*resolution);
   return linePerKey(json) + "\n";
@@ -444,6 +455,7 @@ std::string projectJson(const LoadedProject& project) {
                             ? Json(nullptr)
                             : Json(document.result->RMSE_tomography);
   putSectionMisfit(json, sectionMisfitOf(document));
+  putTrusted(json, document);
   const auto& run = document.result->lastInversion;
   const bool fitted = run && run->fit;
   putChiSquare(json, fitted ? "fitted" : "smoothed", sectionChiSquareOf(document));

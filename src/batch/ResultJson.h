@@ -11,7 +11,6 @@ namespace talvesk {
 
 class TomoDocument;
 struct LoadedProject;
-struct PickErrorRule;
 struct ReadShotFile;
 struct ReferencedRun;
 struct ResolutionReport;
@@ -25,11 +24,10 @@ struct TravelTimeData;
 /// Grid, misfit and all cell values (cell order, row 0 at the surface) of a finished inversion, one
 /// key per line. "elapsed_s" is the only value that differs between two runs. Misfit values are
 /// null when no pick was used. Chi-square is of the section; that of a fitted one counts its
-/// statics. \param errors of picks that state none \param fit of a fitted section, else null
+/// statics. \param fit of a fitted section, else null
 /// \param resolution where it was tested, else null
 std::string inversionJson(const TomoDocument& document, const TomographyResult& result,
-                          const PickErrorRule& errors, const ReferencedRun* fit,
-                          const ResolutionReport* resolution);
+                          const ReferencedRun* fit, const ResolutionReport* resolution);
 
 /// Positions in metres, times in seconds.
 std::string travelTimesJson(const TravelTimeData& data);

@@ -6,6 +6,7 @@
 #include "io/Survey.h"
 #include "model/ChiSquare.h"
 #include "model/KeptRuns.h"
+#include "model/TomographyOutcome.h"
 #include "session/TableRules.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/KeepRun.h"
@@ -34,17 +35,16 @@ std::string changesText(const RunChanges& changes) {
 
 void list(const KeptRun& run, bool shown, const TomoDocument& document, std::ostream& out) {
   out << (shown ? "  * " : "    ") << run.number << "  " << methodOf(run);
+  const PickErrorRule rule = errorRuleOf(run.record);
   if (run.chi2 >= 0.0) {
-    out << ", chi-square " << formatDouble(run.chi2);
-    // A fit has errors of its own among its settings.
-    const PickErrorRule rule;
-    if (!run.record.fit) {
-      out << " (" << formatDouble(rule.floor * kMsPerSecond) << " ms or "
-          << formatDouble(rule.share * 100.0) << " % where picks state no error)";
-    }
+    out << ", chi-square " << formatDouble(run.chi2) << " by errors of "
+        << formatDouble(rule.floor * kMsPerSecond) << " ms or " << formatDouble(rule.share * 100.0)
+        << " %";
   }
+  if (run.trustedRms >= 0.0)
+    out << ", RMS " << formatDouble(run.trustedRms * kMsPerSecond) << " ms";
   if (const SectionMisfit misfit = run.misfit(); misfit.count > 0) {
-    out << ", RMS " << formatDouble(misfit.rmse * kMsPerSecond) << " ms, "
+    out << ", RMS of all picks as they are " << formatDouble(misfit.rmse * kMsPerSecond) << " ms, "
         << formatDouble(misfit.relativeRms * 100.0) << " %";
   }
   out << ", iterations " << run.iterations() << ", " << formatDouble(run.record.computingSeconds, 3)
@@ -63,11 +63,16 @@ Json settingsJson(const InversionRecord& record) {
   json["iterations"] = record.externalIterations;
   json["min_velocity"] = record.minVelocity;
   json["max_velocity"] = record.maxVelocity;
+  const PickErrorRule rule = errorRuleOf(record);
+  json["sigma_ms"] = rule.floor * kMsPerSecond;
+  json["sigma_percent"] = rule.share * 100.0;
   if (record.fit) {
-    json["sigma_ms"] = record.fit->errorFloor * kMsPerSecond;
-    json["sigma_percent"] = record.fit->errorShare * 100.0;
+    json["reference"] = record.fit->reference;
+    json["robust"] = record.fit->robust;
     json["blocky"] = record.fit->blocky;
     json["statics"] = record.fit->statics;
+    json["trigger_error_ms"] =
+        record.fit->statics ? Json(record.fit->triggerError * kMsPerSecond) : Json(nullptr);
     json["lambda"] = record.fit->lambda;
     return json;
   }
@@ -78,6 +83,7 @@ Json settingsJson(const InversionRecord& record) {
   json["smoothing"] = record.smoothing;
   json["smoothing_type"] = record.smoothingType;
   json["symmetric"] = record.symmetric;
+  json["coarse_to_fine"] = record.coarseToFine > 0;
   return json;
 }
 
@@ -94,6 +100,7 @@ Json runJson(const KeptRun& run, bool shown, const TomoDocument& document) {
   json["iterations"] = run.iterations();
   json["chi2"] = known(run.chi2);
   json["chi2_all"] = known(run.chi2All);
+  json["trusted_rmse_ms"] = known(run.trustedRms * kMsPerSecond);
   json["section_rmse_ms"] = misfit.count > 0 ? Json(misfit.rmse * kMsPerSecond) : Json(nullptr);
   json["section_rms_percent"] = misfit.count > 0 ? Json(misfit.relativeRms * 100.0) : Json(nullptr);
   json["computing_s"] = run.record.computingSeconds;
@@ -142,11 +149,16 @@ Status chooseRun(const std::string& called, Survey& survey, Log& log) {
                            namesOf(survey.document.runs));
   }
   const KeptRun run = survey.document.runs[*index];
+  const bool wasSure = survey.document.result->certainty.has_value();
   const Status status = editSurvey(Edit::kUseRun, survey, [&](Survey& next) {
     return useRun(*index, searchThreads(), next.document, log);
   });
   const std::string changes = changesText(changesSince(run, survey.document));
   if (status.ok() && !changes.empty()) warn(run.title().english() + changes);
+  if (status.ok() && wasSure) {
+    warn("the certainty of the project is that of its section, and is left out beside " +
+         run.title().english());
+  }
   return status;
 }
 

@@ -4,49 +4,44 @@
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
+#include "numerics/Medians.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace talvesk {
-namespace {
-
-constexpr double kSuspectErrors = 5.0;
-constexpr double kSuspectDeviations = 3.5;  // Iglewicz and Hoaglin, How to detect outliers, 1993
-constexpr double kLeastError = 1e-5;        // seconds; no instrument samples as finely
-constexpr double kNormalMedian = 0.6745;    // of the sizes of normal deviates
-
-double medianSize(const std::vector<double>& scaled) {
-  std::vector<double> sizes;
-  sizes.reserve(scaled.size());
-  for (const double u : scaled) sizes.push_back(std::fabs(u));
-  const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
-  std::nth_element(sizes.begin(), middle, sizes.end());
-  if (sizes.size() % 2 == 1) return *middle;
-  return 0.5 * (*middle + *std::max_element(sizes.begin(), middle));
-}
-
-}  // namespace
 
 double sigmaOf(const TravelTime& record, std::size_t receiver, const PickErrorRule& rule) {
   const double own = record.errorOf(receiver);
-  if (own > 0.0) return std::max(own, kLeastError);
+  if (own > 0.0) return std::max(own, kLeastPickError);
   return std::max(rule.floor, rule.share * record.ttMisurati[receiver]);
+}
+
+std::size_t raisedErrors(const TomoDocument& document) {
+  std::size_t count = 0;
+  for (const TravelTime& record : *document.ttArray) {
+    for (std::size_t trace = 0; trace < record.ttMisurati.size(); ++trace) {
+      const double own = record.errorOf(trace);
+      if (own > 0.0 && own < kLeastPickError) ++count;
+    }
+  }
+  return count;
 }
 
 ChiSquare chiSquareOf(const std::vector<double>& scaled) {
   ChiSquare result;
   result.count = scaled.size();
   if (scaled.empty()) return result;
-  const double deviation = medianSize(scaled) / kNormalMedian;
+  const double deviation = robustDeviation(scaled);
   result.robust = deviation * deviation;
-  const double limit = std::max(kSuspectErrors, kSuspectDeviations * deviation);
+  result.limit = std::max(kSuspectErrors, kGrossDeviations * deviation);
   double kept = 0.0;
   double sum = 0.0;
   for (std::size_t i = 0; i < scaled.size(); ++i) {
     const double square = scaled[i] * scaled[i];
     sum += square;
-    if (std::fabs(scaled[i]) > limit) {
+    if (std::fabs(scaled[i]) > kSuspectErrors) ++result.beyond;
+    if (std::fabs(scaled[i]) > result.limit) {
       result.suspects.push_back(i);
     } else {
       kept += square;
@@ -68,10 +63,16 @@ ChiSquare chiSquareOf(const TomoDocument& document, const std::vector<Residual>&
   return chiSquareOf(scaled);
 }
 
+PickErrorRule errorRuleOf(const InversionRecord& run) {
+  if (run.fit) return {run.fit->errorFloor, run.fit->errorShare};
+  if (run.errorFloor > 0.0) return {run.errorFloor, run.errorShare};
+  return {};
+}
+
 PickErrorRule errorRuleOf(const TomoDocument& document) {
   const auto& run = document.result->lastInversion;
-  if (!document.result->has_tomographic_info || !run || !run->fit) return {};
-  return {run->fit->errorFloor, run->fit->errorShare};
+  if (!document.result->has_tomographic_info || !run) return {};
+  return errorRuleOf(*run);
 }
 
 double outstandingShift(const TomoDocument& document, std::size_t record) {
@@ -96,6 +97,16 @@ ChiSquare sectionChiSquareOf(const TomoDocument& document) {
     fit.shifted = fit.count > 0 && outstandingShift(document, i) != 0.0;
   }
   return fit;
+}
+
+SectionMisfit trustedMisfitOf(const TomoDocument& document) {
+  std::vector<Residual> residuals = sectionResidualsOf(document);
+  const std::vector<std::size_t> suspects =
+      chiSquareOf(document, residuals, errorRuleOf(document)).suspects;
+  for (auto each = suspects.rbegin(); each != suspects.rend(); ++each) {
+    residuals.erase(residuals.begin() + static_cast<std::ptrdiff_t>(*each));
+  }
+  return misfitOf(residuals);
 }
 
 }  // namespace talvesk

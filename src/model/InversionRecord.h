@@ -27,6 +27,9 @@ struct SectionMisfit {
   double maxAbs = 0.0;            ///< largest difference of either sign, seconds
   std::int32_t maxShot = -1;      ///< record with it, from 0
   std::int32_t maxReceiver = -1;  ///< and geophone of its string, from 0
+  /// The RMSE without what stands out by more than 3.5 robust deviations, seconds. No project keeps
+  /// it: 0 in one that was read.
+  double trimmed = 0.0;
 };
 
 /// A time shift of a shot that a fit has found.
@@ -43,8 +46,9 @@ struct FitRecord {
   bool robust = false;
   bool blocky = false;
   bool statics = false;
-  double lambda = 0.0;  ///< weight of the roughness that the section was found with
-  double chi2 = 0.0;    ///< of the section, suspects left out
+  double triggerError = 0.002;  ///< that statics were damped by, seconds
+  double lambda = 0.0;          ///< weight of the roughness that the section was found with
+  double chi2 = 0.0;            ///< of the section, suspects left out
   double chi2All = 0.0;
   int suspects = 0;         ///< picks
   bool target = false;      ///< whether chi-square has come to 1 as nearly as wanted
@@ -75,6 +79,10 @@ struct InversionRecord {
   /// External iterations that were completed while the smoothing radius shrank; the histories end
   /// with the best of them, whose section was kept. 0: the radius stayed the same.
   int coarseToFine = 0;
+  /// By what errors of picks that state none the section is told of where it was not fitted to any:
+  /// the least, seconds, and a share of their times. A least of 0: by the usual ones.
+  double errorFloor = 0.0;
+  double errorShare = 0.0;
   /// Of a section that was fitted to the errors of its picks; none: by solver passes and smoothing.
   std::optional<FitRecord> fit;
   std::uint64_t picks = 0;  ///< fingerprintOfPicks() of those that it was run with; 0: not known

@@ -25,6 +25,7 @@ struct KeptRun {
   double rmsPercent = -1.0;     ///< RMSE_tomography of its outcome
   double chi2 = -1.0;           ///< of the section by the errors of its picks; negative: not known
   double chi2All = -1.0;        ///< the same with suspects
+  double trustedRms = -1.0;     ///< of what chi-square counts, seconds; negative: not known
   std::uint64_t positions = 0;  ///< fingerprintOfPositions() of its line
 
   GridSize size;

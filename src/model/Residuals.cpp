@@ -4,6 +4,7 @@
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
+#include "numerics/Medians.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,6 +31,25 @@ std::vector<Residual> residualsOf(const TomoDocument& document) {
   return residuals;
 }
 
+namespace {
+
+double trimmedRms(const std::vector<Residual>& residuals) {
+  std::vector<double> values;
+  for (const Residual& each : residuals) values.push_back(each.residual);
+  const double limit = kGrossDeviations * robustDeviation(values);
+  double squares = 0.0;
+  std::size_t count = 0;
+  for (const double value : values) {
+    if (std::fabs(value) > limit) continue;
+    squares += value * value;
+    ++count;
+  }
+  // The least one never stands out.
+  return std::sqrt(squares / static_cast<double>(count));
+}
+
+}  // namespace
+
 SectionMisfit misfitOf(const std::vector<Residual>& residuals) {
   SectionMisfit misfit;
   double squares = 0.0;
@@ -50,6 +70,7 @@ SectionMisfit misfitOf(const std::vector<Residual>& residuals) {
   misfit.rmse = std::sqrt(squares / misfit.count);
   misfit.relativeRms = std::sqrt(relativeSquares / misfit.count);
   misfit.bias = sum / misfit.count;
+  misfit.trimmed = trimmedRms(residuals);
   return misfit;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -25,5 +26,21 @@ inline double medianGap(const std::vector<double>& ascending) {
   }
   return medianOf(std::move(gaps), 1.0);
 }
+
+/// The standard deviation from 0 of values that are normal but for some gross errors, which hardly
+/// change it: from the median of their sizes; 0 without values.
+inline double robustDeviation(std::vector<double> values) {
+  constexpr double kNormalMedian = 0.6745;  // of the sizes of normal deviates
+  if (values.empty()) return 0.0;
+  for (double& value : values) value = std::fabs(value);
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  if (values.size() % 2 == 1) return *middle / kNormalMedian;
+  return 0.5 * (*middle + *std::max_element(values.begin(), middle)) / kNormalMedian;
+}
+
+/// Such deviations by which a value stands out as a gross error: Iglewicz and Hoaglin, How to
+/// detect outliers, 1993.
+inline constexpr double kGrossDeviations = 3.5;
 
 }  // namespace talvesk

@@ -19,6 +19,7 @@ const std::vector<EditRule>& editTable() {
       {Edit::kImportSurvey, Message::tr("Import travel times"), "CCCGVVVCVVV"},
       {Edit::kShotTime, Message::tr("Count times from the shot"), "CC..S.S..S."},
       {Edit::kMend, Message::tr("Mend recordings"), "CC..S.S..S."},
+      {Edit::kTakeShifts, Message::tr("Take over time shifts"), "CC..C.S..C."},
       {Edit::kPick, Message::tr("Edit picks"), ".C..S.S..S."},
       {Edit::kConfirmPicks, Message::tr("Confirm picks"), ".C........."},
       {Edit::kAutoPick, Message::tr("AutoPick"), "CC..S.S..S."},

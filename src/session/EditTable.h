@@ -16,6 +16,7 @@ enum class Edit {
   kImportSurvey,
   kShotTime,
   kMend,
+  kTakeShifts,
   kPick,
   kConfirmPicks,
   kAutoPick,

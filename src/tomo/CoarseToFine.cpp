@@ -30,9 +30,9 @@ void BestIteration::add(const TomoDocument& document) {
 
 void BestIteration::judge(const SectionMisfit& misfit) {
   // Without any pick no iteration is better than another: the last one stays.
-  if (mBest == 0 || misfit.count == 0 || misfit.rmse < mRmse) {
+  if (mBest == 0 || misfit.count == 0 || misfit.trimmed < mLeast) {
     mBest = mAdded;
-    mRmse = misfit.rmse;
+    mLeast = misfit.trimmed;
     mDocument = std::move(mWaiting);
   }
   mWaiting.reset();

@@ -14,9 +14,9 @@ namespace talvesk {
 /// \return cells, at least 1
 int coarseToFineRadius(int radius, int iteration, int iterations);
 
-/// Finds the external iteration whose section fits the picks best along fresh rays. Rays go through
-/// a section for the first time when the next iteration begins, so that an iteration waits for its
-/// figure until then.
+/// Finds the external iteration whose section fits the picks best along fresh rays, gross errors
+/// left out: SectionMisfit::trimmed. Rays go through a section for the first time when the next
+/// iteration begins, so that an iteration waits for its figure until then.
 class BestIteration {
  public:
   /// \param document as an external iteration has left it, with the misfit of the one before
@@ -31,7 +31,7 @@ class BestIteration {
  private:
   int mAdded = 0;
   int mBest = 0;
-  double mRmse = 0.0;
+  double mLeast = 0.0;  ///< trimmed RMSE, seconds
   std::optional<TomoDocument> mWaiting;
   std::optional<TomoDocument> mDocument;
 };

@@ -29,15 +29,16 @@ std::string utcNow() {
   return {text, length};
 }
 
-/// Of a section that no fit has measured: by the errors that picks have unless somebody says more.
 void measure(const TomoDocument& document, KeptRun& run) {
+  const SectionMisfit trusted = trustedMisfitOf(document);
+  if (trusted.count > 0) run.trustedRms = trusted.rmse;
   if (run.record.fit) {
     run.chi2 = run.record.fit->chi2;
     run.chi2All = run.record.fit->chi2All;
     return;
   }
-  const ChiSquare fit = chiSquareOf(document, residualsOf(document), {});
-  if (fit.count == 0 || !document.result->timesOfSection) return;
+  const ChiSquare fit = sectionChiSquareOf(document);
+  if (fit.count == 0) return;
   run.chi2 = fit.chi2;
   run.chi2All = fit.all;
 }

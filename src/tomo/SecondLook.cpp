@@ -56,17 +56,16 @@ bool hasRecording(const TomoDocument& document, std::size_t record) {
 }
 
 void lookAtPicks(const TomoDocument& document, SecondLook& look) {
-  const PickErrorRule rule = errorRuleOf(document);
-  const std::vector<Residual> residuals = sectionResidualsOf(document);
-  for (const std::size_t i : chiSquareOf(document, residuals, rule).suspects) {
-    const Residual& each = residuals[i];
-    look.suspects.push_back({each.record, each.receiver, each.measured, each.residual,
-                             sigmaOf(document.ttArray[each.record], each.receiver, rule)});
-  }
+  look.suspects = suspectsOf(document);
+  const ChiSquare fit = sectionChiSquareOf(document);
+  look.limit = fit.limit;
+  look.beyond = fit.beyond;
+  look.raised = raisedErrors(document);
   std::stable_sort(look.suspects.begin(), look.suspects.end(),
                    [](const SuspectPick& a, const SuspectPick& b) {
                      return std::fabs(a.residual / a.sigma) > std::fabs(b.residual / b.sigma);
                    });
+  const PickErrorRule rule = errorRuleOf(document);
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
     const double late = outstandingShift(document, i);
     if (late != 0.0)
@@ -88,6 +87,18 @@ SecondLook secondLook(const TomoDocument& document) {
   look.greatest = run->maxVelocity;
   lookAtCells(document, look);
   return look;
+}
+
+std::vector<SuspectPick> suspectsOf(const TomoDocument& document) {
+  const PickErrorRule rule = errorRuleOf(document);
+  const std::vector<Residual> residuals = sectionResidualsOf(document);
+  std::vector<SuspectPick> suspects;
+  for (const std::size_t i : chiSquareOf(document, residuals, rule).suspects) {
+    const Residual& each = residuals[i];
+    suspects.push_back({each.record, each.receiver, each.measured, each.residual,
+                        sigmaOf(document.ttArray[each.record], each.receiver, rule)});
+  }
+  return suspects;
 }
 
 }  // namespace talvesk

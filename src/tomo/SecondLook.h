@@ -20,7 +20,7 @@ struct SuspectPick {
 struct ShotShift {
   std::size_t record = 0;
   double late = 0.0;       ///< seconds that the record begins too late by
-  bool recording = false;  ///< there are traces that can be shifted
+  bool recording = false;  ///< there are traces that can be shifted, else picks alone
   bool clear = false;      ///< it is more than the least error of a pick
 };
 
@@ -38,6 +38,9 @@ struct SecondLook {
   bool known = false;                 ///< there is a section with times of its own
   bool picksChanged = false;          ///< since it was inverted
   std::vector<SuspectPick> suspects;  ///< those furthest off, by their errors, first
+  double limit = 0.0;                 ///< errors that a pick must be off by to be suspect
+  std::size_t beyond = 0;             ///< picks off by more than five of their errors
+  std::size_t raised = 0;             ///< errors of picks taken as larger, see kLeastPickError
   std::vector<ShotShift> shifts;      ///< in the order of the records
   double least = 0.0;                 ///< m/s, what cells were held to
   double greatest = 0.0;
@@ -48,5 +51,8 @@ struct SecondLook {
 };
 
 SecondLook secondLook(const TomoDocument& document);
+
+/// Picks that the section of a document cannot explain, in the order of the records.
+std::vector<SuspectPick> suspectsOf(const TomoDocument& document);
 
 }  // namespace talvesk

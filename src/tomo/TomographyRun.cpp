@@ -62,6 +62,8 @@ InversionRecord recordOf(const TomographyParameters& p, const TomographyResult& 
   record.history = result.history;
   record.sectionHistory = document.result->sectionHistory;
   if (result.coarseToFine) record.coarseToFine = result.iterationsDone;
+  record.errorFloor = p.errors.floor;
+  record.errorShare = p.errors.share;
   record.picks = fingerprintOfPicks(document.ttArray);
   return record;
 }

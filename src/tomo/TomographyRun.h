@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "base/Message.h"
 #include "base/Status.h"
+#include "model/ChiSquare.h"
 #include "model/Parameters.h"
 #include "tomo/Misfit.h"
 #include "tomo/Smoothing.h"
@@ -30,6 +31,7 @@ struct TomographyParameters {
   bool singleThread = false;
   double minVelocity = parameters::kMinVelocity.initial;  ///< m/s
   double maxVelocity = parameters::kMaxVelocity.initial;  ///< m/s
+  PickErrorRule errors;  ///< of picks that state none; the section is told of by them
   /// From when the elapsed time of the result counts, such as the choice of a window's command with
   /// its questions; none: from the start of the run.
   std::optional<std::chrono::steady_clock::time_point> asked;

@@ -59,6 +59,68 @@ TEST(Fitted, startsFromTheSectionOfAnotherProject) {
   EXPECT_THAT(layers.err, HasSubstr("no layered interpretation"));
 }
 
+TEST(Fitted, isNoSuccessWhereItIsStoppedBeforeAnythingIsFound) {
+  const Folder folder;
+  // So fine a grid that it is stopped while models are traced.
+  const Outcome outcome = interruptBatch(
+      {"invert", folder.write("line.otte", smallLine()), "--cell-size", "0.1", "--nodes", "20",
+       "--method", "fitted", "--verbose", "--json", folder / "out.json"},
+      "Tracing the models");
+  EXPECT_EQ(outcome.code, 1) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("stopped before anything was found; nothing was written"));
+  EXPECT_THAT(outcome.err, HasSubstr("Stopping; what has been found so far is kept."));
+  EXPECT_FALSE(folder.holds("out.json"));
+}
+
+/// The line with one pick of its first shot, that of receiver 6, 60 ms too late.
+std::string lineWithAGrossPick() {
+  const std::string line = smallLine();
+  std::size_t at = 0;
+  for (int row = 0; row < 10; ++row) at = line.find('\n', at) + 1;
+  for (int field = 0; field < 5; ++field) at = line.find(';', at) + 1;
+  const std::size_t end = line.find(';', at);
+  return line.substr(0, at) + std::to_string(std::stod(line.substr(at, end - at)) + 60.0) +
+         line.substr(end);
+}
+
+TEST(Fitted, hasTheKeysOfAResultThatTheOtherMethodHasToo) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", lineWithAGrossPick());
+  const std::string file = folder / "out.json";
+  ordered_json results[2];
+  for (const std::string method : {"smoothed", "fitted"}) {
+    const Outcome outcome = runBatch({"invert", input, "--cell-size", "1", "--method", method,
+                                      "--iterations", "6", "--json", file});
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_THAT(outcome.out,
+                HasSubstr("; of all 39 picks as they are\nSection without suspects: RMS"))
+        << method;
+    EXPECT_THAT(outcome.out, HasSubstr("\nChi-square: ")) << method;
+    EXPECT_THAT(outcome.err, HasSubstr("shot 1, receiver 6 late by ")) << method;
+    const ordered_json json = ordered_json::parse(contentsOf(file));
+    ASSERT_FALSE(json["suspects"].empty()) << method;
+    EXPECT_EQ(json["suspects"].size(), json["suspect_count"]) << method;
+    EXPECT_EQ(json["suspects"][0]["shot"], 0) << method;
+    EXPECT_EQ(json["suspects"][0]["receiver"], 5) << method;
+    EXPECT_EQ(json["section_history"].size(), json["kept_iteration"].get<std::size_t>() + 1);
+    EXPECT_LT(json["trusted_rmse_ms"], json["section_rmse_ms"]) << method;
+    results[method == "fitted" ? 1 : 0] = json;
+  }
+  for (const char* key : {"chi2_history", "reference", "lambda", "statics_ms"}) {
+    EXPECT_TRUE(results[0].contains(key) && results[0][key].is_null()) << key;
+    EXPECT_TRUE(results[1].contains(key)) << key;
+  }
+  EXPECT_FALSE(results[1]["chi2_history"].empty());
+}
+
+TEST(Fitted, takesNoOptionsOfTheOtherMethod) {
+  const Folder folder;
+  const std::string line = folder.write("line.otte", smallLine());
+  EXPECT_EQ(runBatch({"invert", line, "--no-robust"}).code, 2);
+  EXPECT_EQ(fit(folder, {"--trigger-error", "5"}).code, 2) << "it needs --statics";
+  EXPECT_EQ(fit(folder, {"--statics", "--trigger-error", "0"}).code, 2);
+}
+
 TEST(Fitted, refusesAModelThatThereIsNot) {
   const Folder folder;
   const Outcome unknown = fit(folder, {"--reference", "five-layers"});

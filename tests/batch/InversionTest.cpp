@@ -42,12 +42,16 @@ TEST(Inversion, standardOutputIsPureJsonWithItsKeysInOrder) {
   for (const auto& item : json["grid"].items()) keys += item.key() + " ";
   for (const auto& item : json["misfit_history"][0].items()) keys += item.key() + " ";
   EXPECT_EQ(keys,
-            "grid iterations_done elapsed_s rmse_ms rms_percent max_error_ms max_error_percent "
+            "grid iterations_done kept_iteration elapsed_s rmse_ms rms_percent max_error_ms "
+            "max_error_percent "
             "picks_used excluded misfit_history velocities hit_counts coverage_m info_density "
             "to_be_draw computed_times section_rmse_ms section_rms_percent section_bias_ms "
-            "section_max_abs_ms section_max_abs_shot section_max_abs_receiver section_history "
-            "section_times errors_ms picks_good picks_doubtful picks_of_unknown_error computing_s "
-            "method chi2 chi2_all suspect_count righe col nV aLato "
+            "section_max_abs_ms section_max_abs_shot section_max_abs_receiver "
+            "trusted_rmse_ms trusted_rms_percent section_history section_times errors_ms "
+            "sigma_floor_ms sigma_percent least_error_ms errors_raised picks_good picks_doubtful "
+            "picks_of_unknown_error computing_s "
+            "method chi2 chi2_all suspect_count chi2_history reference lambda suspects statics_ms "
+            "righe col nV aLato "
             "x_offset iteration rmse_ms rms_percent ");
   // 26 m of array, half of it deep, in cells of 1 m.
   EXPECT_EQ(json["grid"],
@@ -148,7 +152,7 @@ TEST(Inversion, goesFromCoarseToFineWhenAsked) {
   ASSERT_EQ(all["section_rmse_ms"].size(), 3U);
   const std::size_t kept = all["kept_iteration"];
   EXPECT_EQ(json["section_rmse_ms"], all["section_rmse_ms"][kept]);
-  EXPECT_LE(all["section_rmse_ms"][kept], all["section_rmse_ms"][3 - kept]);
+  EXPECT_LE(all["trimmed_rmse_ms"][kept], all["trimmed_rmse_ms"][3 - kept]);
   EXPECT_EQ(json["misfit_history"].size(), kept);
   EXPECT_THAT(outcome.err, HasSubstr("From coarse to fine: iteration " + std::to_string(kept) +
                                      " of 2 is kept"));

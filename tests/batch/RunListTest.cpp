@@ -54,6 +54,43 @@ TEST_F(RunList, isToldAsTextAndAsJson) {
   EXPECT_EQ(list[1]["picks_changed"], false);
 }
 
+TEST_F(RunList, measuresARunByTheErrorsThatItWasRunWith) {
+  const std::string line = folder / "line.otte";
+  for (const std::string method : {"smoothed", "fitted"}) {
+    const std::string file = folder / "sigma.tvsk";
+    const Outcome outcome = run({"invert", line, "--cell-size", "1", "--method", method, "--sigma",
+                                 "0.3,0", "--iterations", "3", "-o", file, "--json", "-"});
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    const ordered_json json = ordered_json::parse(outcome.out);
+    const ordered_json info = ordered_json::parse(run({"info", file, "--json", "-"}).out);
+    EXPECT_EQ(info["chi2"], json["chi2"]) << method;
+    EXPECT_EQ(info["runs"][0]["chi2"], json["chi2"]) << method;
+    EXPECT_EQ(info["runs"][0]["trusted_rmse_ms"], json["trusted_rmse_ms"]) << method;
+    EXPECT_EQ(info["runs"][0]["settings"]["sigma_ms"], 0.3) << method;
+    const std::string list = run({"info", file, "--list"}).out;
+    EXPECT_THAT(list, HasSubstr(" by errors of 0.3 ms or 0 %, RMS ")) << method;
+    EXPECT_THAT(list, HasSubstr("  inversion   " + method + ", ")) << method;
+    EXPECT_THAT(list, Not(HasSubstr(method == "fitted" ? "last solver pass" : "fitted")));
+  }
+}
+
+TEST_F(RunList, tellsAllSettingsOfARun) {
+  const std::string file = folder / "set.tvsk";
+  const std::string both = folder / "both.tvsk";
+  ASSERT_EQ(
+      run({"invert", folder / "line.otte", "--cell-size", "1", "--method", "fitted", "--statics",
+           "--trigger-error", "5", "--no-robust", "--reference", "default", "-o", file})
+          .code,
+      0);
+  ASSERT_EQ(run({"invert", file, "--coarse-to-fine", "--iterations", "2", "-o", both}).code, 0);
+  const ordered_json list = runs(both);
+  const ordered_json& fitted = list[0]["settings"];
+  EXPECT_EQ(fitted["trigger_error_ms"], 5.0);
+  EXPECT_EQ(fitted["robust"], false);
+  EXPECT_EQ(fitted["reference"], "default");
+  EXPECT_EQ(list[1]["settings"]["coarse_to_fine"], true);
+}
+
 TEST_F(RunList, letsExportsBeOfAnyRun) {
   for (const auto& [number, file] :
        {std::pair("1", "smoothed.txt"), std::pair("2", "fitted.txt")}) {

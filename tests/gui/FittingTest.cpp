@@ -14,6 +14,7 @@
 #include "widgets/section/SectionView.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -21,12 +22,14 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSlider>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
+#include <QWheelEvent>
 #include <cmath>
 #include <functional>
 
@@ -170,6 +173,36 @@ TEST_F(Fitting, tellsAtOnceWhatAnErrorMeans) {
   run();
 }
 
+TEST_F(Fitting, takesTheErrorFromItsSliderHoweverThatIsMoved) {
+  openShots();
+  answerFit([](QDialog& dialog) {
+    auto& slider = *dialog.findChild<QSlider*>("floorSlider");
+    auto& field = *dialog.findChild<QDoubleSpinBox*>("floorEdit");
+    const auto moves = [&](const char* how, const std::function<void()>& move) {
+      const double before = field.value();
+      const int step = slider.value();
+      move();
+      EXPECT_GT(field.value(), before) << how;
+      EXPECT_GT(slider.value(), step) << how;
+    };
+    moves("key", [&] { QTest::keyClick(&slider, Qt::Key_PageUp); });
+    moves("groove", [&] { slider.triggerAction(QAbstractSlider::SliderPageStepAdd); });
+    moves("wheel", [&] {
+      const QPointF middle = slider.rect().center();
+      QWheelEvent wheel(middle, slider.mapToGlobal(middle.toPoint()), {}, {0, 1200}, Qt::NoButton,
+                        Qt::NoModifier, Qt::NoScrollPhase, false);
+      QApplication::sendEvent(&slider, &wheel);
+    });
+    field.setValue(0.01);
+    for (int i = 0; i < 40; ++i) QTest::keyClick(&slider, Qt::Key_Right);
+    EXPECT_GT(field.value(), 0.01) << "steps finer than the field add up";
+    field.setValue(0.37);
+    EXPECT_EQ(field.value(), 0.37) << "what is typed is no step of the slider";
+    dialog.reject();
+  });
+  run();
+}
+
 TEST_F(Fitting, leadsFromASuspectToItsTrace) {
   openShots(-1, 0.0, 2, 9);
   child<QTabWidget>("tabWidget").setCurrentIndex(0);
@@ -290,6 +323,8 @@ TEST_F(Fitting, leavesTheSurveyAloneWhenItIsStoppedAtOnce) {
   EXPECT_FALSE(window->document().result->has_tomographic_info);
   EXPECT_EQ(window->session().steps(), steps);
   EXPECT_TRUE(action("actionGrid").isEnabled());
+  EXPECT_EQ(child<QStatusBar>("statusBar").currentMessage().toStdString(),
+            "Stopped before anything was found; the section is as it was.");
 }
 
 }  // namespace

@@ -90,15 +90,16 @@ TEST_F(Runs, becomeTheSectionByUse) {
   withList([](RunsDialog& dialog, QTableWidget& table) {
     ASSERT_EQ(table.rowCount(), 2);
     EXPECT_EQ(cell(table, 0, 0), "Run 2");
-    EXPECT_THAT(cell(table, 0, 8), HasSubstr("in use"));
+    EXPECT_THAT(cell(table, 0, 10), HasSubstr("in use"));
     EXPECT_FALSE(table.item(1, 0)->icon().isNull());
+    EXPECT_EQ(cell(table, 0, 3), "0.5 ms or 3 %");
     EXPECT_FALSE(dialog.findChild<QPushButton*>(QStringLiteral("useButton"))->isEnabled());
     table.selectRow(1);
     EXPECT_THAT(dialog.findChild<QLabel*>(QStringLiteral("settingsLabel"))->text().toStdString(),
                 HasSubstr("smoothing parameter"));
     press(dialog, "useButton");
-    EXPECT_THAT(cell(table, 1, 8), HasSubstr("in use"));
-    EXPECT_EQ(cell(table, 0, 8), "");
+    EXPECT_THAT(cell(table, 1, 10), HasSubstr("in use"));
+    EXPECT_EQ(cell(table, 0, 10), "");
   });
   EXPECT_EQ(captionRms(), smoothed);
   EXPECT_FALSE(window->document().result->lastInversion->fit);

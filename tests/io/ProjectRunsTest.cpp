@@ -118,7 +118,8 @@ TEST_F(RunsOfAProject, thatCannotHaveBeenAreLeftOut) {
                {"<smoothing>", "<smoothing>-"},
                {"<smoothingType>", "<smoothingType>9"},
                {"<number>1", "<number>0"},
-               {"<number>1", "<number>2"}};
+               {"<number>1", "<number>2"},
+               {"<coarse_to_fine>", "<coarse_to_fine>-"}};
   for (const auto& c : cases) {
     LoadedProject other;
     ASSERT_EQ(load(changed(c.before, c.after), other), 0) << c.after << reader.message();
@@ -126,6 +127,42 @@ TEST_F(RunsOfAProject, thatCannotHaveBeenAreLeftOut) {
     ASSERT_EQ(other.document.runs.size(), 1U) << c.after;
     EXPECT_TRUE(useRun(0, 1, other.document, log).ok()) << c.after;
   }
+}
+
+/// What a section is told by comes from its run where the result of the project does not tell it.
+TEST_F(RunsOfAProject, giveASectionNoFitThatCannotHaveBeen) {
+  FittedSettings settings;
+  settings.fit.statics = true;
+  ASSERT_TRUE(runFittedInversion(project.document, settings, log).run.status.ok());
+  ASSERT_EQ(save(), 0) << writer.message();
+  auto entries = entriesOf(archive());
+  entries.erase("result.xml");
+  const std::string sound = entries.at("runs.xml");
+  const std::size_t fit = sound.rfind("<fit ");
+  const struct {
+    const char* element;
+    std::string value;
+  } cases[] = {{"<late", "nan"},         {"<late", "inf"},
+               {"<late", "1e300"},       {"<mended", "1e300"},
+               {"<error_floor", "0"},    {"<error_floor", "1e-300"},
+               {"<error_share", "nan"},  {"<error_share", "1e9"},
+               {"<suspects", "-1"},      {"<lambda", "nan"},
+               {"<chi2", "-1"},          {"<reference", "a\nb"},
+               {"<reference", "&lt;b>"}, {"<reference", std::string(300000, 'x')}};
+  for (const auto& c : cases) {
+    const std::size_t first = sound.find('>', sound.find(c.element, fit)) + 1;
+    entries["runs.xml"] = sound.substr(0, first) + c.value + sound.substr(sound.find('<', first));
+    LoadedProject other;
+    ASSERT_EQ(load(pack("other.tvsk", entries), other), 0) << c.element;
+    EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("inversion run 3")))
+        << c.element << c.value.substr(0, 9);
+    EXPECT_EQ(other.document.runs.size(), 2U) << c.element;
+    ASSERT_TRUE(other.document.result->lastInversion) << c.element;
+    EXPECT_FALSE(other.document.result->lastInversion->fit) << c.element << c.value.substr(0, 9);
+  }
+  entries["runs.xml"] = sound;
+  ASSERT_EQ(load(pack("other.tvsk", entries), back), 0);
+  EXPECT_TRUE(back.document.result->lastInversion->fit) << "as it was";
 }
 
 TEST_F(RunsOfAProject, haveVelocitiesThatGroundCanHave) {

@@ -55,7 +55,7 @@ TEST(CoarseToFine, keepsTheIterationWhoseSectionFitsBest) {
   ASSERT_EQ(all.sections.size(), 9U);
   const auto best = std::min_element(
       all.sections.begin() + 1, all.sections.end(),
-      [](const SectionMisfit& a, const SectionMisfit& b) { return a.rmse < b.rmse; });
+      [](const SectionMisfit& a, const SectionMisfit& b) { return a.trimmed < b.trimmed; });
   EXPECT_EQ(all.kept, best - all.sections.begin());
   EXPECT_EQ(sectionMisfitOf(made.line).rmse, best->rmse) << "rays through what is shown";
   EXPECT_EQ(made.result.sectionMisfit.rmse, best->rmse);
@@ -73,14 +73,35 @@ TEST(CoarseToFine, goesBackToAnEarlierIterationWhenLaterOnesAreWorse) {
   for (std::size_t i = 0; i < misfits.size(); ++i) {
     SectionMisfit before;
     before.count = 1;
-    before.rmse = i > 0 ? misfits[i - 1] : 0.1;  // the starting model's is never the best
+    before.trimmed = i > 0 ? misfits[i - 1] : 0.1;  // the starting model's is never the best
     line.result.edit().sectionHistory.push_back(before);
     line.title = std::to_string(i + 1);
     best.add(line);
   }
-  best.judge({1, misfits.back()});
+  SectionMisfit last;
+  last.count = 1;
+  last.trimmed = misfits.back();
+  best.judge(last);
   EXPECT_EQ(best.number(), 2);
   EXPECT_EQ(best.document().title, "2");
+}
+
+TEST(CoarseToFine, letsNoGrossPickDecide) {
+  const auto sections = [](bool gross) {
+    TomoDocument line = testing::twoLayers(1.5);
+    if (gross) {
+      for (std::size_t i = 0; i < 3; ++i) line.ttArray.edit()[i].ttMisurati.edit()[5] += 0.5;
+    }
+    const testing::ConsoleCapture console;
+    Log log;
+    TomographyParameters p = coarseToFine(1);
+    const auto result = runInversion(line, p, log);
+    return *result.coarseToFine;
+  };
+  const SectionMisfit sound = sections(false).sections.front();
+  const SectionMisfit wrong = sections(true).sections.front();
+  EXPECT_GT(wrong.rmse, 3.0 * sound.rmse);
+  EXPECT_NEAR(wrong.trimmed, sound.trimmed, 0.1 * sound.trimmed);
 }
 
 TEST(CoarseToFine, equalsAnIterationOfItsRadiusToTheLastBit) {

@@ -105,6 +105,51 @@ TEST(FittedRun, namesSuspectsAndShiftsByTheirRecords) {
   EXPECT_FALSE(std::isnan(result.statics[1]));
 }
 
+TEST(FittedRun, findsOutHowSureItIsInTheWayOfTheFit) {
+  TomoDocument line = run().line;
+  FitRecord& fit = *line.result.edit().lastInversion->fit;
+  fit.statics = true;
+  fit.triggerError = 0.007;
+  const CertaintySettings settings = certaintySettings(line);
+  EXPECT_TRUE(settings.ensemble.fit.statics);
+  EXPECT_EQ(settings.ensemble.fit.triggerError, 0.007);
+}
+
+TEST(FittedRun, tellsWhichPicksAreSuspectByWhatLimit) {
+  const std::vector<double> fitting = {0.5, -1.0, 0.8, -0.3, 1.2, 6.0};
+  const ChiSquare good = chiSquareOf(fitting);
+  EXPECT_EQ(good.limit, kSuspectErrors);
+  EXPECT_EQ(good.suspects, (std::vector<std::size_t>{5}));
+  EXPECT_EQ(good.beyond, 1U);
+  const std::vector<double> notYet = {5.5, -6.0, 8.0, -3.0, 7.0, 60.0};
+  const ChiSquare poor = chiSquareOf(notYet);
+  EXPECT_GT(poor.limit, 8.0) << "3.5 robust deviations";
+  EXPECT_EQ(poor.suspects, (std::vector<std::size_t>{5}));
+  EXPECT_EQ(poor.beyond, 5U);
+}
+
+TEST(FittedRun, countsErrorsThatAreTakenAsLarger) {
+  TomoDocument line = run().line;
+  EXPECT_EQ(raisedErrors(line), 0U);
+  line.ttArray.edit()[1].setError(3, 1e-7);
+  line.ttArray.edit()[1].setError(4, 0.001);
+  EXPECT_EQ(raisedErrors(line), 1U);
+  EXPECT_EQ(secondLook(line).raised, 1U);
+  EXPECT_EQ(sigmaOf(line.ttArray[1], 3, {}), kLeastPickError);
+}
+
+TEST(FittedRun, leavesSuspectsOutOfTheRmsBesideItsChiSquare) {
+  TomoDocument line = run().line;
+  line.ttArray.edit()[3].ttMisurati.edit()[5] += 0.05;
+  const ChiSquare fit = sectionChiSquareOf(line);
+  ASSERT_EQ(fit.suspects.size(), 1U);
+  const SectionMisfit all = sectionMisfitOf(line);
+  const SectionMisfit trusted = trustedMisfitOf(line);
+  EXPECT_EQ(trusted.count, all.count - 1);
+  EXPECT_LT(trusted.rmse, 0.5 * all.rmse);
+  EXPECT_LT(trusted.maxAbs, 0.01);
+}
+
 TEST(FittedRun, knowsHowSureItIsUntilTheSectionChanges) {
   Fitted fitted = run();
   CertaintySettings settings = certaintySettings(fitted.line);

@@ -112,10 +112,18 @@ QString CompareRunsDialog::figures() const {
   QStringList words;
   words +=
       tr("Chi-square %1").arg(pair(left.chi2, left.chi2 >= 0.0, right.chi2, right.chi2 >= 0.0));
+  const QString errors = runErrors(left);
+  const QString others = runErrors(right);
+  words += errors == others ? tr("by errors of %1").arg(errors)
+                            : tr("by other errors, so these do not compare: %1")
+                                  .arg(errors + QStringLiteral(" \u2192 ") + others);
+  words += tr("RMS misfit %1 ms")
+               .arg(pair(left.trustedRms * 1000.0, left.trustedRms >= 0.0,
+                         right.trustedRms * 1000.0, right.trustedRms >= 0.0));
   const SectionMisfit a = left.misfit();
   const SectionMisfit b = right.misfit();
-  words +=
-      tr("RMS misfit %1 ms").arg(pair(a.rmse * 1000.0, a.count > 0, b.rmse * 1000.0, b.count > 0));
+  words += tr("of all picks as they are %1 ms")
+               .arg(pair(a.rmse * 1000.0, a.count > 0, b.rmse * 1000.0, b.count > 0));
   if (const auto apart = timesApart(left, right)) {
     words += tr("their computed times differ by %1 ms RMS").arg(runFigure(*apart * 1000.0, true));
   }

@@ -137,11 +137,15 @@ void FitPanel::setUpFields() {
 }
 
 void FitPanel::connectAll() {
-  connect(mUi->floorSlider, &QSlider::sliderMoved, this,
+  connect(mUi->floorSlider, &QSlider::valueChanged, this,
           [this](int step) { mUi->floorEdit->setValue(errorOfSlider(step)); });
   const auto changesErrors = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
   connect(mUi->floorEdit, changesErrors, this, [this](double value) {
-    if (!mUi->floorSlider->isSliderDown()) mUi->floorSlider->setValue(sliderOf(value));
+    // Several steps of the slider are one number of the field: it stays where it was put.
+    const double rounding = 0.51 * std::pow(10.0, -mUi->floorEdit->decimals());
+    if (std::fabs(errorOfSlider(mUi->floorSlider->value()) - value) <= rounding) return;
+    const QSignalBlocker quiet(mUi->floorSlider);
+    mUi->floorSlider->setValue(sliderOf(value));
   });
   for (QDoubleSpinBox* box : {mUi->floorEdit, mUi->shareEdit}) {
     connect(box, changesErrors, this, [this] {

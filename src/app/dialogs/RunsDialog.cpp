@@ -17,7 +17,19 @@ namespace {
 constexpr double kMostOfScreen = 0.92;
 constexpr int kNumber = Qt::UserRole;
 
-enum Column { kRun, kMethod, kChi2, kRms, kRelative, kIterations, kSeconds, kWhen, kRemarks };
+enum Column {
+  kRun,
+  kMethod,
+  kChi2,
+  kErrors,
+  kTrusted,
+  kRms,
+  kRelative,
+  kIterations,
+  kSeconds,
+  kWhen,
+  kRemarks
+};
 
 /// A picture of the size of an icon, whole and without blending its cells.
 QIcon iconOf(const QImage& cells, const QSize& size) {
@@ -96,6 +108,8 @@ void RunsDialog::fillRow(int row, std::size_t run) {
   put(kMethod, runMethod(each), false);
   put(kChi2, runFigure(each.chi2, each.chi2 >= 0.0));
   table.item(row, kChi2)->setToolTip(runSettings(each));
+  put(kErrors, each.chi2 >= 0.0 ? runErrors(each) : QString(), false);
+  put(kTrusted, runFigure(each.trustedRms * 1000.0, each.trustedRms >= 0.0));
   put(kRms, runFigure(misfit.rmse * 1000.0, known));
   put(kRelative, runFigure(misfit.relativeRms * 100.0, known));
   put(kIterations, QLocale().toString(static_cast<qulonglong>(each.iterations())));

@@ -1,6 +1,7 @@
 #include "app/dialogs/SecondLookDialog.h"
 
 #include "app/ToolTips.h"
+#include "model/ChiSquare.h"
 #include "ui_SecondLookDialog.h"
 
 #include <QHeaderView>
@@ -98,19 +99,14 @@ void SecondLookDialog::fillShifts() {
   for (int row = 0; row < table.rowCount(); ++row) {
     const ShotShift& shift = mLook.shifts[static_cast<std::size_t>(row)];
     put(table, row, kShiftShot, QString::number(shift.record + 1));
-    QTableWidgetItem* box = table.item(row, kShiftShot);
-    box->setCheckState(shift.recording && shift.clear ? Qt::Checked : Qt::Unchecked);
-    if (!shift.recording)
-      box->setFlags(box->flags() & ~Qt::ItemIsUserCheckable & ~Qt::ItemIsEnabled);
+    table.item(row, kShiftShot)->setCheckState(shift.clear ? Qt::Checked : Qt::Unchecked);
     put(table, row, kLate, number(kMilliseconds * shift.late, 2));
     auto* why = new QTableWidgetItem(shift.recording ? QString()
-                                                     : tr("no recording that could be shifted"));
+                                                     : tr("no recording: its picks are shifted"));
     table.setItem(row, kWhy, why);
   }
   table.setCurrentCell(-1, -1);
-  mUi->takeOverButton->setEnabled(
-      std::any_of(mLook.shifts.begin(), mLook.shifts.end(),
-                  [](const ShotShift& shift) { return shift.recording; }));
+  mUi->takeOverButton->setEnabled(!mLook.shifts.empty());
 }
 
 void SecondLookDialog::showTexts() {
@@ -119,14 +115,16 @@ void SecondLookDialog::showTexts() {
   if (mLook.picksChanged) {
     head << tr("Picks have changed since the section was found: it was fitted to others.");
   }
+  if (mLook.raised > 0) {
+    head << tr("Errors of picks below %1 ms count as %1 ms: %2")
+                .arg(number(kMilliseconds * kLeastPickError, 2))
+                .arg(mLook.raised);
+  }
   mUi->headLabel->setText(head.join(QLatin1Char('\n')));
   mUi->headLabel->setVisible(!head.isEmpty());
   mUi->suspectsPage->setVisible(mLook.known);
   mUi->suspectsTable->setVisible(!mLook.suspects.empty());
-  mUi->suspectsLabel->setText(
-      mLook.suspects.empty()
-          ? tr("No pick is off by more than five of its errors.")
-          : tr("Picks off by more than five of their errors; a click shows the trace:"));
+  mUi->suspectsLabel->setText(suspectsText());
   mUi->shiftsPage->setVisible(!mLook.shifts.empty());
   mUi->shiftsLabel->setText(
       tr("Time shifts of shots that the fit has found; a click shows the shot:"));
@@ -135,6 +133,26 @@ void SecondLookDialog::showTexts() {
                                : tr("Ground to look at; a click shows it in the section:"));
   mUi->cellsLabel->setVisible(mLook.known);
   mUi->cellsList->setVisible(!mPatches.empty());
+}
+
+/// Where the section does not fit the picks yet only those count that stand out from the rest.
+QString SecondLookDialog::suspectsText() const {
+  const bool usual = mLook.limit <= kSuspectErrors;
+  const QString limit = number(mLook.limit, 1);
+  if (mLook.suspects.empty()) {
+    return usual
+               ? tr("No pick is off by more than five of its errors.")
+               : tr("No pick stands out: %1 are off by more than five of their errors, but none by "
+                    "more than %2, as the section does not fit the picks to their errors.")
+                     .arg(mLook.beyond)
+                     .arg(limit);
+  }
+  return usual
+             ? tr("Picks off by more than five of their errors; a click shows the trace:")
+             : tr("Picks off by more than %2 of their errors, which stand out where %1 are off by "
+                  "more than five; a click shows the trace:")
+                   .arg(mLook.beyond)
+                   .arg(limit);
 }
 
 void SecondLookDialog::fillCells() {

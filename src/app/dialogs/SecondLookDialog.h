@@ -40,6 +40,7 @@ class SecondLookDialog : public QDialog {
   void showGround(int row);
   void fillCells();
   void addCells(const CellPatch& patch, const QString& text);
+  QString suspectsText() const;
 
   std::unique_ptr<Ui::SecondLookDialog> mUi;
   SecondLook mLook;

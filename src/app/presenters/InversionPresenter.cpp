@@ -194,14 +194,15 @@ void InversionPresenter::showResult(const TomographyResult& result) {
     if (!left.isEmpty()) showWarning(&mDesk.window, tr("Inversion results"), leftOutBox(left));
     return;
   }
-  showNote(&mDesk.window, tr("Inversion results"),
-           inversionResultsText(result, sectionChiSquareOf(mDesk.document())), leftOutBox(left));
+  showNote(&mDesk.window, tr("Inversion results"), inversionResultsText(result, mDesk.document()),
+           leftOutBox(left));
 }
 
 void InversionPresenter::showFit(const FittedRunResult& result) {
   QStringList left;
   if (!tellOutcome(result.run, textOf(result.outcome), left)) return;
-  showNote(&mDesk.window, tr("Inversion results"), fitResultsText(result), leftOutBox(left));
+  showNote(&mDesk.window, tr("Inversion results"), fitResultsText(result, mDesk.document()),
+           leftOutBox(left));
   mSecondLook.showIfAny();
 }
 
@@ -212,7 +213,12 @@ bool InversionPresenter::tellOutcome(const TomographyResult& result, const QStri
   if (!result.status.ok()) {
     mDesk.tellFailure(tr("The inversion could not be completed."), result.status);
   }
-  if (result.iterationsDone == 0) return false;
+  if (result.iterationsDone == 0) {
+    if (result.status.ok()) {
+      mDesk.tell(tr("Stopped before anything was found; the section is as it was."));
+    }
+    return false;
+  }
   mDesk.showSection();
   left = leftOutNames(leftOut(mDesk.document(), mDesk.document().result->excluded));
   QString outcome = completed;

@@ -9,6 +9,7 @@
 #include "figures/SectionFigure.h"
 #include "io/Survey.h"
 #include "model/KeptRuns.h"
+#include "model/TomographyOutcome.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/KeepRun.h"
 #include "ui_Talvesk_MainWindows.h"
@@ -68,6 +69,7 @@ void RunsPresenter::use(unsigned number) {
   const auto index = indexOf(number, mDesk.document());
   if (!index) return;
   TomoDocument copy = mDesk.document();
+  const bool wasSure = copy.result->certainty.has_value();
   mDesk.ui.statusBar->showMessage(tr("Tracing the rays of the run anew ..."));
   Status status = useBeside(*index, copy, mDesk.log);
   mDesk.ui.statusBar->clearMessage();
@@ -83,7 +85,12 @@ void RunsPresenter::use(unsigned number) {
     return;
   }
   mDesk.showSection();
-  mDesk.tell(tr("The section is that of \"%1\".").arg(title));
+  QString told = tr("The section is that of \"%1\".").arg(title);
+  if (wasSure) {
+    told += QLatin1Char(' ') + tr("How sure the section before was is known no more; Undo brings "
+                                  "back both.");
+  }
+  mDesk.tell(told);
 }
 
 void RunsPresenter::rename(unsigned number, const QString& name) {

@@ -116,9 +116,14 @@ void SecondLookPresenter::takeOver() {
   const TakenShifts taken = takeShifts(wanted, mDesk.session);
   for (const Message& note : taken.notes) mDesk.log.write(note, 0);
   for (const Message& failure : taken.failures) mDesk.log.write(failure, 1);
-  mDesk.tell(tr("Time shifts taken over: %1 of %2. Invert again to see what they change.")
-                 .arg(taken.done)
-                 .arg(wanted.size()));
+  QString told = tr("Time shifts taken over: %1 of %2. Invert again to see what they change.")
+                     .arg(taken.done)
+                     .arg(wanted.size());
+  if (taken.picksOnly > 0) {
+    told += QLatin1Char(' ') +
+            tr("Shots without a recording, whose picks were shifted: %1.").arg(taken.picksOnly);
+  }
+  mDesk.tell(told);
   if (taken.failures.empty()) return;
   showErrors(mDialog, mDialog->windowTitle(), tr("Some time shifts have not been taken over."),
              linesOf(taken.failures));

@@ -150,6 +150,7 @@ void describe(V& fields, FitRecord& fit) {
   fields("reference", fit.reference);
   fields("shifts", fit.shifts);
   fields.optional("known", fit.known);
+  fields.optional("trigger_error", fit.triggerError);
 }
 
 template <class V>
@@ -163,6 +164,8 @@ void describe(V& fields, ResultMember& result) {
   fields("section_history", result.run.sectionHistory);
   fields.optional("fit", result.fits);
   fields.optional("coarse_to_fine", result.run.coarseToFine);
+  fields.optional("error_floor", result.run.errorFloor);
+  fields.optional("error_share", result.run.errorShare);
 }
 
 template <class V>
@@ -323,6 +326,9 @@ void describe(V& fields, StoredRun& stored) {
   fields("coorcount", run.coorcount);
   fields("hit_counts", run.hitCounts);
   fields("times", run.times);
+  fields.optional("error_floor", run.record.errorFloor);
+  fields.optional("error_share", run.record.errorShare);
+  fields.optional("trusted_rms", run.trustedRms);
 }
 
 template <class V>

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <initializer_list>
 #include <optional>
+#include <string>
 #include <utility>
 
 namespace talvesk {
@@ -29,15 +30,23 @@ bool isSectionMisfit(const SectionMisfit& m) {
 }
 
 bool isShift(const FoundShift& shift) {
-  return finite({shift.late, shift.mended});
+  constexpr double kLongest = 1000.0;  // seconds; no record of a shot lasts as long
+  return std::fabs(shift.late) <= kLongest && std::fabs(shift.mended) <= kLongest;
 }
 
-/// \param records of the survey
-bool isFit(const FitRecord& fit, std::size_t records) {
-  return positive(fit.errorFloor) && fit.errorShare >= 0.0 && fit.suspects >= 0 &&
-         finite({fit.errorShare, fit.lambda, fit.chi2, fit.chi2All}) &&
-         (fit.shifts.empty() || fit.shifts.size() == records) &&
-         std::all_of(fit.shifts.begin(), fit.shifts.end(), isShift);
+/// By what errors of picks residuals can have been weighed.
+bool isErrorRule(double floor, double share) {
+  constexpr double kLeast = 1e-9;  // seconds
+  constexpr double kMost = 1000.0;
+  return floor >= kLeast && floor <= kMost && share >= 0.0 && share <= kMost;
+}
+
+/// As models are called, those of later versions among them.
+bool isReference(const std::string& key) {
+  constexpr std::size_t kLongest = 64;
+  return key.size() <= kLongest && std::all_of(key.begin(), key.end(), [](char c) {
+           return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-';
+         });
 }
 
 bool coversGrid(const TomographyOutcome& outcome, const TomoDocument& document) {
@@ -53,7 +62,7 @@ bool fits(const ResultMember& result, const TomoDocument& document) {
   if (!std::all_of(outcome.coorcount.begin(), outcome.coorcount.end(), length)) return false;
   const std::size_t records = document.ttArray.size();
   for (const FitRecord& fit : result.fits) {
-    if (!isFit(fit, records)) return false;
+    if (!canHaveBeen(fit, records)) return false;
   }
   if (outcome.lastInversion) return canHaveBeen(result.run);
   return std::isfinite(result.run.computingSeconds) && result.run.sectionHistory.empty();
@@ -103,10 +112,19 @@ bool canHaveBeen(const InversionRecord& run) {
          run.history.size() <= static_cast<std::size_t>(run.externalIterations) &&
          std::all_of(run.history.begin(), run.history.end(), isMisfit) && run.coarseToFine >= 0 &&
          run.coarseToFine <= run.externalIterations &&
+         (run.errorFloor == 0.0 || isErrorRule(run.errorFloor, run.errorShare)) &&
          (run.coarseToFine == 0 ||
           run.history.size() <= static_cast<std::size_t>(run.coarseToFine)) &&
          (run.sectionHistory.empty() || run.sectionHistory.size() == run.history.size() + 1) &&
          std::all_of(run.sectionHistory.begin(), run.sectionHistory.end(), isSectionMisfit);
+}
+
+bool canHaveBeen(const FitRecord& fit, std::size_t records) {
+  const auto isFigure = [](double value) { return std::isfinite(value) && value >= 0.0; };
+  return isErrorRule(fit.errorFloor, fit.errorShare) && positive(fit.triggerError) &&
+         isFigure(fit.lambda) && isFigure(fit.chi2) && isFigure(fit.chi2All) && fit.suspects >= 0 &&
+         isReference(fit.reference) && (fit.shifts.empty() || fit.shifts.size() == records) &&
+         std::all_of(fit.shifts.begin(), fit.shifts.end(), isShift);
 }
 
 }  // namespace talvesk

@@ -3,6 +3,7 @@
 #include "base/Status.h"
 #include "model/TomographyOutcome.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace talvesk {
@@ -30,7 +31,10 @@ ResultMember resultOf(const TomoDocument& document);
 /// \param result resultOf() the document, with what was read
 Status installResult(ResultMember result, TomoDocument& document);
 
-/// Whether an inversion can have been run so, and have come to these figures.
+/// Whether an inversion can have been run so, and have come to these figures. Of a fit that it may
+/// have, the other tells.
 bool canHaveBeen(const InversionRecord& run);
+/// Whether a section can have been fitted so. \param records of the survey that it was fitted to
+bool canHaveBeen(const FitRecord& fit, std::size_t records);
 
 }  // namespace talvesk

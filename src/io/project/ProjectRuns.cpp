@@ -47,16 +47,14 @@ bool isSurface(const StoredRun& stored) {
 
 bool areSettings(const StoredRun& stored) {
   const InversionRecord& record = stored.run.record;
-  const auto isFit = [](const FitRecord& fit) {
-    return all(
-        std::vector<double>{fit.errorFloor, fit.errorShare, fit.lambda, fit.chi2, fit.chi2All},
-        [](double value) { return std::isfinite(value) && value >= 0.0; });
+  const auto isFit = [&](const FitRecord& fit) {
+    return canHaveBeen(fit, stored.run.times.size());
   };
   return canHaveBeen(record) && record.smoothing <= parameters::kSmoothing.limits.most &&
          record.smoothingType <= static_cast<int>(SmoothingType::kRayBased) &&
          stored.fits.size() <= 1 && all(stored.fits, isFit) &&
          std::isfinite(stored.run.rmsPercent) && std::isfinite(stored.run.chi2) &&
-         std::isfinite(stored.run.chi2All);
+         std::isfinite(stored.run.chi2All) && std::isfinite(stored.run.trustedRms);
 }
 
 bool areTimes(const SharedVector<double>& times) {
@@ -142,8 +140,10 @@ void installRuns(RunsMember member, TomoDocument& document, std::vector<Message>
   document.runs = std::move(runs);
   const auto shown = shownRun(document);
   const auto& last = document.result->lastInversion;
-  if (!shown || !last || last->fit || !document.runs[*shown].record.fit) return;
-  document.result.edit().lastInversion->fit = document.runs[*shown].record.fit;
+  if (!shown || !last || last->fit) return;
+  const std::optional<FitRecord>& fit = document.runs[*shown].record.fit;
+  if (!fit || !canHaveBeen(*fit, document.ttArray.size())) return;
+  document.result.edit().lastInversion->fit = fit;
 }
 
 }  // namespace talvesk

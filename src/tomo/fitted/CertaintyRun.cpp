@@ -89,6 +89,7 @@ CertaintySettings certaintySettings(const TomoDocument& document) {
   fit.blocky = run->fit->blocky;
   fit.statics = run->fit->statics;
   settings.holdKnown = run->fit->known != 0;
+  fit.triggerError = run->fit->triggerError;
   settings.errors = {run->fit->errorFloor, run->fit->errorShare};
   return settings;
 }

@@ -77,6 +77,7 @@ FitRecord fitRecordOf(const FittedSettings& settings, const FittedResult& fit) {
   record.robust = settings.fit.robust;
   record.blocky = settings.fit.blocky;
   record.statics = settings.fit.statics;
+  record.triggerError = settings.fit.triggerError;
   record.lambda = fit.lambda;
   record.chi2 = fit.fit.chi2;
   record.chi2All = fit.fit.all;
@@ -159,6 +160,7 @@ void describeFit(const FitData& data, FittedResult fit, const TomoDocument& docu
   result.fit = std::move(fit.fit);
   result.chi2History = std::move(fit.chi2History);
   result.lambda = fit.lambda;
+  result.kept = fit.kept;
 }
 
 FittedRunResult runOnCopy(TomoDocument& document, const FittedSettings& settings, Log& log,

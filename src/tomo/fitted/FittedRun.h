@@ -43,6 +43,7 @@ struct FittedRunResult {
   std::vector<double> chi2History;    ///< of the start and after every iteration
   double lambda = 0.0;                ///< see FittedResult
   std::optional<KnownFit> known;      ///< with what it was held to; none: with nothing
+  int kept = 0;                       ///< iteration that found the section; 0 is the start
   std::vector<SuspectPick> suspects;  ///< in the order of the records
   /// Seconds per record, late is positive; not a number for shots that took no part; empty when
   /// none were asked for. A shot's times come true when its time shift grows by as much.
