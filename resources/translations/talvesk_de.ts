@@ -5289,6 +5289,338 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>Uncertainty of velocity</source>
         <translation>Unsicherheit der Geschwindigkeit</translation>
     </message>
+    <message>
+        <source>There are no picks yet: a resolution test takes their positions and errors.</source>
+        <translation>Es gibt noch keine Picks: Ein Auflösungstest nimmt ihre Positionen und Fehler.</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known; find it out first</source>
+        <translation>wie zuverlässig der Schnitt ist, ist nicht bekannt; ermitteln Sie es zuerst</translation>
+    </message>
+    <message>
+        <source>there is no section whose times could be compared with the picks; run an inversion first</source>
+        <translation>es gibt keinen Schnitt, dessen Zeiten sich mit den Picks vergleichen ließen; starten Sie zuerst eine Inversion</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw.</source>
+        <translation>Es gibt nichts zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>There are no rays of this section.</source>
+        <translation>Es gibt keine Strahlen dieses Schnitts.</translation>
+    </message>
+    <message>
+        <source>it does not begin with a heading of the columns kind, name, x, depth, bottom, velocity, error, ...</source>
+        <translation>sie beginnt nicht mit einer Überschrift der Spalten kind, name, x, depth, bottom, velocity, error, ...</translation>
+    </message>
+    <message>
+        <source>there is no column %1</source>
+        <translation>die Spalte %1 fehlt</translation>
+    </message>
+    <message>
+        <source>column %1 is in another unit than m and m/s</source>
+        <translation>die Spalte %1 hat eine andere Einheit als m und m/s</translation>
+    </message>
+    <message>
+        <source>it has too many rows</source>
+        <translation>sie hat zu viele Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 is none of borehole, depth, body</source>
+        <translation>%1 ist weder borehole noch depth noch body</translation>
+    </message>
+    <message>
+        <source>%1 is no number for %2</source>
+        <translation>%1 ist keine Zahl für %2</translation>
+    </message>
+    <message>
+        <source>there is no row below its heading</source>
+        <translation>unter der Überschrift steht keine Zeile</translation>
+    </message>
+    <message>
+        <source>what was known of its ground is lost</source>
+        <translation>was über den Untergrund bekannt war, ist verloren</translation>
+    </message>
+    <message>
+        <source>finding out how sure the section is begins anew instead of going on</source>
+        <translation>die Ermittlung der Zuverlässigkeit des Schnitts beginnt von vorn, statt fortgesetzt zu werden</translation>
+    </message>
+    <message>
+        <source>it does not go with the certainty of the project</source>
+        <translation>es passt nicht zur Zuverlässigkeit des Projekts</translation>
+    </message>
+    <message>
+        <source>what it counts cannot be</source>
+        <translation>die gezählten Werte sind nicht möglich</translation>
+    </message>
+    <message>
+        <source>its depth bands cannot be drawn so; there are none now</source>
+        <translation>die Tiefenbänder lassen sich so nicht zeichnen; es gibt nun keine</translation>
+    </message>
+    <message>
+        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
+        <translation>%1 m/s ist keine Geschwindigkeit von Untergrund (%2 bis %3)</translation>
+    </message>
+    <message>
+        <source>%1 m is no depth below the surface (0 to %2)</source>
+        <translation>%1 m ist keine Tiefe unter der Oberfläche (0 bis %2)</translation>
+    </message>
+    <message>
+        <source>%1 m is no position along the line</source>
+        <translation>%1 m ist keine Position entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation>der Name fehlt</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 m has its bottom not below its top</source>
+        <translation>bei einer Schicht von %1 bis %2 m liegt die Unterkante nicht unter der Oberkante</translation>
+    </message>
+    <message>
+        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
+        <translation>ein Fehler von %1 m/s darf nicht negativ sein und muss kleiner sein als seine Geschwindigkeit, %2</translation>
+    </message>
+    <message>
+        <source>it has no layer</source>
+        <translation>die Schichten fehlen</translation>
+    </message>
+    <message>
+        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
+        <translation>die Schicht ab %1 m beginnt über der Unterkante der vorigen, %2 m</translation>
+    </message>
+    <message>
+        <source>%1 m is no error of a depth</source>
+        <translation>%1 m ist kein Fehler einer Tiefe</translation>
+    </message>
+    <message>
+        <source>refractors have the numbers 1 to %1</source>
+        <translation>Refraktoren haben die Nummern 1 bis %1</translation>
+    </message>
+    <message>
+        <source>the velocities above and below are the same, so nothing begins here</source>
+        <translation>die Geschwindigkeiten darüber und darunter sind gleich, hier beginnt also nichts</translation>
+    </message>
+    <message>
+        <source>its outline needs three corners at least</source>
+        <translation>der Umriss braucht mindestens drei Ecken</translation>
+    </message>
+    <message>
+        <source>more is known than can be held: %1 boreholes, depths and bodies at most, with %2 layers and corners</source>
+        <translation>es ist mehr bekannt, als aufgenommen werden kann: höchstens %1 Bohrungen, Tiefen und Körper mit %2 Schichten und Ecken</translation>
+    </message>
+    <message>
+        <source>borehole %1</source>
+        <translation>Bohrung %1</translation>
+    </message>
+    <message>
+        <source>known depth %1</source>
+        <translation>bekannte Tiefe %1</translation>
+    </message>
+    <message>
+        <source>body %1</source>
+        <translation>Körper %1</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>die Angabe %1 fehlt</translation>
+    </message>
+    <message>
+        <source>a %1 has no %2</source>
+        <translation>bei %1 gibt es die Angabe %2 nicht</translation>
+    </message>
+    <message>
+        <source>borehole %1 stands somewhere else in the rows above</source>
+        <translation>Bohrung %1 steht in den Zeilen darüber an einer anderen Stelle</translation>
+    </message>
+    <message>
+        <source>the number of a refractor is a whole one</source>
+        <translation>die Nummer eines Refraktors ist eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>body %1 has another velocity in the rows above</source>
+        <translation>Körper %1 hat in den Zeilen darüber eine andere Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>fewer than six picks of it</source>
+        <translation>weniger als sechs Picks von ihr</translation>
+    </message>
+    <message>
+        <source>picks of it from shots on one side only, which cannot tell a dip from a velocity</source>
+        <translation>Picks von ihr nur aus Schüssen von einer Seite, die eine Neigung nicht von einer Geschwindigkeit unterscheiden können</translation>
+    </message>
+    <message>
+        <source>no shot has three picks of it on one side, with waves the other way beside them, that are faster than the first layer</source>
+        <translation>kein Schuss hat auf einer Seite drei Picks von ihr, neben denen Wellen in der Gegenrichtung liegen und die schneller sind als die erste Schicht</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation>Schicht %1: keine Geschwindigkeit und keine Tiefe an %2 Empfängern, wo sich eine Geschwindigkeit außerhalb von 50 bis 12 000 m/s ergibt.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
+        <translation>Schicht %1: keine Tiefe an %2 Empfängern, wo sie sich größer als die Länge der Messlinie ergibt.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where the ground above it comes out to cost no time.</source>
+        <translation>Schicht %1: keine Tiefe an %2 Empfängern, wo sich für den Untergrund darüber keine Laufzeit ergibt.</translation>
+    </message>
+    <message>
+        <source>Layer %1: %2.</source>
+        <translation>Schicht %1: %2.</translation>
+    </message>
+    <message>
+        <source>The first layer has no velocity, so there are no depths.</source>
+        <translation>Die erste Schicht hat keine Geschwindigkeit, daher gibt es keine Tiefen.</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: nothing</source>
+        <translation>Schicht %1, %2: nichts</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s, no depth</source>
+        <translation>Schicht %1, %2: %3 m/s, keine Tiefe</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Schicht %1, %2: %3 m/s in einer Tiefe von %4 m (Mediane); Tiefen an %5 von %6 Geophonen, %7 davon dort nicht durch Picks gestützt</translation>
+    </message>
+    <message>
+        <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
+        <translation>Schicht %1: die Methoden weichen über die Fehler der Picks hinaus voneinander ab, in der Tiefe an %2 von %3 Geophonen, in der Geschwindigkeit an %4</translation>
+    </message>
+    <message>
+        <source>no two shots have picks of it at five geophones between them</source>
+        <translation>keine zwei Schüsse haben an fünf Geophonen zwischen sich Picks von ihr</translation>
+    </message>
+    <message>
+        <source>no second layer can be fitted</source>
+        <translation>eine zweite Schicht lässt sich nicht anpassen</translation>
+    </message>
+    <message>
+        <source>a second layer gains %1 ms</source>
+        <translation>eine zweite Schicht bringt %1 ms</translation>
+    </message>
+    <message>
+        <source>no third layer can be fitted</source>
+        <translation>eine dritte Schicht lässt sich nicht anpassen</translation>
+    </message>
+    <message>
+        <source>a third layer gains %1 ms</source>
+        <translation>eine dritte Schicht bringt %1 ms</translation>
+    </message>
+    <message>
+        <source>1 layer, misfit %1 ms</source>
+        <translation>1 Schicht, Abweichung %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 layers, misfit %2 ms</source>
+        <translation>%1 Schichten, Abweichung %2 ms</translation>
+    </message>
+    <message>
+        <source>no layers are proposed: there are too few picks to fit any</source>
+        <translation>keine Schichten vorgeschlagen: es gibt zu wenige Picks, um welche anzupassen</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
+        <translation>keine Schichten: eine Geschwindigkeit, die stetig mit der Tiefe zunimmt, von %1 m/s um %2 m/s pro Meter, hat eine Abweichung von %3 ms</translation>
+    </message>
+    <message>
+        <source>%1; without layers, by a steady gradient, %2 ms</source>
+        <translation>%1; ohne Schichten, mit einem stetigen Gradienten, %2 ms</translation>
+    </message>
+    <message>
+        <source>three layers fit better, but no shot at each end of the line has picks of the layer in between: two layers are proposed</source>
+        <translation>drei Schichten passen besser, aber es gibt nicht an jedem Ende der Messlinie einen Schuss mit Picks der mittleren Schicht: vorgeschlagen werden zwei Schichten</translation>
+    </message>
+    <message>
+        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>Schuss %1, rechts davon: Schicht %2 beruht auf weniger als vier Picks (%3)</translation>
+    </message>
+    <message>
+        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>Schuss %1, links davon: Schicht %2 beruht auf weniger als vier Picks (%3)</translation>
+    </message>
+    <message>
+        <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
+        <translation>%1 Picks passen zu keiner Schicht und bleiben ohne (Schuss/Spur): %2</translation>
+    </message>
+    <message>
+        <source>Known ground</source>
+        <translation>Bekannter Untergrund</translation>
+    </message>
+    <message>
+        <source>with %1 ms less, the pick of receiver %2 would come before the shot</source>
+        <translation>mit %1 ms weniger läge der Pick von Empfänger %2 vor dem Schuss</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>Der Schnitt passt im Rahmen der Fehler zu den Picks: Chi-Quadrat %1. Das Modell, mit dem er begann, passt noch besser, Chi-Quadrat %2, und wurde so weit geglättet, wie die Fehler es zulassen. Geben Sie %3-mal so große Fehler an, damit es scharf bleibt.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
+        <translation>%1 Das Modell, mit dem er begann, war zu weit von den Picks entfernt, Chi-Quadrat %2, um den Schnitt an dessen scharfe Sprünge zu binden: Sie wurden zuerst geglättet.</translation>
+    </message>
+    <message>
+        <source>%1 holds no cell of the grid: it is too small, or beyond it.</source>
+        <translation>%1 enthält keine Zelle des Gitters: zu klein oder außerhalb davon.</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m stands beyond the grid.</source>
+        <translation>%1 bei %2 m steht außerhalb des Gitters.</translation>
+    </message>
+    <message>
+        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
+        <translation>%1 reicht %2 m hinab, bis unter das Gitter; was unter %3 m liegt, zählt nicht.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3 m</source>
+        <translation>%1, %2 bis %3 m</translation>
+    </message>
+    <message>
+        <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
+        <translation>%1: Keine Zelle liegt überwiegend in dieser Schicht; sie zählt mit ihrem Anteil an Zellen oder liegt in einem festen Körper.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (%2 m entlang der Messlinie, %3 m tief) liegt außerhalb des Gitters oder näher an dessen Rand als der eigene Fehler oder eine Zelle.</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s at %3 m</source>
+        <translation>%1, %2 m/s bei %3 m</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s above</source>
+        <translation>%1, %2 m/s darüber</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s below</source>
+        <translation>%1, %2 m/s darunter</translation>
+    </message>
+    <message>
+        <source>Layered interpretation</source>
+        <translation>Schichtauswertung</translation>
+    </message>
+    <message>
+        <source>Section of another project</source>
+        <translation>Schnitt eines anderen Projekts</translation>
+    </message>
+    <message>
+        <source>There is no layered interpretation to start from. Build one first.</source>
+        <translation>Es gibt keine Schichtauswertung, mit der begonnen werden könnte. Erstellen Sie zuerst eine.</translation>
+    </message>
+    <message>
+        <source>Mean residual of the rays</source>
+        <translation>Mittleres Residuum der Strahlen</translation>
+    </message>
+    <message>
+        <source>Mean residual over pick error</source>
+        <translation>Mittleres Residuum in Pickfehlern</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7202,20 +7534,12 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Geschwindigkeiten von %1 bis %2 m/s</translation>
     </message>
     <message>
-        <source>errors of %1 ms or %2 %</source>
-        <translation>Fehler von %1 ms oder %2 %</translation>
-    </message>
-    <message>
         <source>robust</source>
         <translation>robust</translation>
     </message>
     <message>
         <source>blocky</source>
         <translation>blockig</translation>
-    </message>
-    <message>
-        <source>with shot statics</source>
-        <translation>mit Schussstatik</translation>
     </message>
     <message>
         <source>suspect picks: %1</source>
@@ -7275,10 +7599,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>RMS [ms]</source>
         <translation>RMS [ms]</translation>
-    </message>
-    <message>
-        <source>RMS [%]</source>
-        <translation>RMS [%]</translation>
     </message>
     <message>
         <source>Iterations</source>
@@ -7411,16 +7731,8 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Positiv: Die Aufzeichnung beginnt zu spät, und ihre Picks sind zu spät.</translation>
     </message>
     <message>
-        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
-        <translation>Verschiebt die Aufzeichnungen der angekreuzten Schüsse mit ihren Picks, wie „Aufzeichnung korrigieren“ es tut. Ein Schritt, der sich rückgängig machen lässt.</translation>
-    </message>
-    <message>
         <source>&amp;Take over as time shifts of the records</source>
         <translation>Als Zeitverschiebungen der Aufzeichnungen &amp;übernehmen</translation>
-    </message>
-    <message>
-        <source>no recording that could be shifted</source>
-        <translation>keine Aufzeichnung, die sich verschieben ließe</translation>
     </message>
     <message>
         <source>There is no section yet whose times could be looked at.</source>
@@ -7437,22 +7749,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Picks off by more than five of their errors; a click shows the trace:</source>
         <translation>Picks, die um mehr als fünf ihrer Fehler danebenliegen; ein Klick zeigt die Spur:</translation>
-    </message>
-    <message>
-        <source>Time shifts of shots that the fit has found:</source>
-        <translation>Zeitverschiebungen der Schüsse, die die Anpassung gefunden hat:</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m, depth %3 to %4 m</source>
-        <translation>%1 bis %2 m, Tiefe %3 bis %4 m</translation>
-    </message>
-    <message>
-        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
-        <translation>Zellen an der Grenze von %1 m/s: %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
-        <translation>Gezeigte Zellen, die kein Strahl durchquert: %1 von %2 (%3)</translation>
     </message>
     <message>
         <source>No velocity is at a limit, and rays cross all cells shown.</source>
