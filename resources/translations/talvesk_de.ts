@@ -1314,6 +1314,14 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Picks</source>
         <translation>Picks</translation>
     </message>
+    <message>
+        <source>The section is drawn to the velocities and depths of &quot;Known ground&quot; by their errors, and fixed bodies stay as they are. How the section goes with them is told after the run; chi-square is of the picks alone.</source>
+        <translation>Der Schnitt wird entsprechend ihren Fehlern zu den Geschwindigkeiten und Tiefen aus „Bekannter Untergrund“ gezogen, und feste Körper bleiben, wie sie sind. Wie der Schnitt dazu passt, wird nach der Rechnung gesagt; Chi-Quadrat gilt nur für die Picks.</translation>
+    </message>
+    <message>
+        <source>Hold to known ground</source>
+        <translation>An bekannten Untergrund halten</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::GeometryTable</name>
@@ -1819,6 +1827,176 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Best of the picks&apos; models</source>
         <translation>Bestes der Modelle aus den Picks</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownGroundDialog</name>
+    <message>
+        <source>Known ground</source>
+        <translation>Bekannter Untergrund</translation>
+    </message>
+    <message>
+        <source>&amp;Boreholes</source>
+        <translation>&amp;Bohrungen</translation>
+    </message>
+    <message>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Eine Zeile ist eine Schicht; Schichten mit demselben Namen gehören zu einer Bohrung, von oben nach unten. Tiefen sind Meter unter der Oberfläche. Ohne Fehler gilt eine Geschwindigkeit als auf 5 % genau bekannt.</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Bohrungen</translation>
+    </message>
+    <message>
+        <source>&amp;Depths</source>
+        <translation>&amp;Tiefen</translation>
+    </message>
+    <message>
+        <source>A row is a place where a refractor is known to lie: the velocity that is reached there, or those above and below. Without an error a depth counts as known to a tenth. Points of one refractor number belong together.</source>
+        <translation>Eine Zeile ist eine Stelle, an der die Lage eines Refraktors bekannt ist: die Geschwindigkeit, die dort erreicht wird, oder die darüber und die darunter. Ohne Fehler gilt eine Tiefe als auf ein Zehntel genau bekannt. Punkte mit derselben Refraktornummer gehören zusammen.</translation>
+    </message>
+    <message>
+        <source>Depths</source>
+        <translation>Tiefen</translation>
+    </message>
+    <message>
+        <source>B&amp;odies</source>
+        <translation>&amp;Körper</translation>
+    </message>
+    <message>
+        <source>A row is a corner; corners of one name go around a body of known velocity, which a fit leaves as it is.</source>
+        <translation>Eine Zeile ist eine Ecke; Ecken mit demselben Namen umschließen einen Körper bekannter Geschwindigkeit, den eine Anpassung unverändert lässt.</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Körper</translation>
+    </message>
+    <message>
+        <source>Insert a row above the current one. The last line of a table is always empty: type there to go on</source>
+        <translation>Fügt eine Zeile über der aktuellen ein. Die letzte Zeile einer Tabelle ist immer leer: Tippen Sie dort, um fortzufahren</translation>
+    </message>
+    <message>
+        <source>&amp;Add row</source>
+        <translation>Zeile &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the rows with selected cells</source>
+        <translation>Entfernt die Zeilen mit ausgewählten Zellen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>Zeilen ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>Take the last step in these tables back</source>
+        <translation>Nimmt den letzten Schritt in diesen Tabellen zurück</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Do it again</source>
+        <translation>Führt ihn wieder aus</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Read a table in place of all that stands here</source>
+        <translation>Liest eine Tabelle an die Stelle von allem, was hier steht</translation>
+    </message>
+    <message>
+        <source>&amp;Import ...</source>
+        <translation>&amp;Importieren ...</translation>
+    </message>
+    <message>
+        <source>Write all of it as one table</source>
+        <translation>Schreibt alles in eine Tabelle</translation>
+    </message>
+    <message>
+        <source>&amp;Export ...</source>
+        <translation>&amp;Exportieren ...</translation>
+    </message>
+    <message>
+        <source>Boreholes: %1, known depths: %2, bodies: %3.</source>
+        <translation>Bohrungen: %1, bekannte Tiefen: %2, Körper: %3.</translation>
+    </message>
+    <message>
+        <source>%1, row %2: %3.</source>
+        <translation>%1, Zeile %2: %3.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed in these tables?</source>
+        <translation>Änderungen in diesen Tabellen verwerfen?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownTable</name>
+    <message>
+        <source>Position [m]</source>
+        <translation>Position [m]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Offset [m]</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Oberkante [m]</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Tiefe [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Unterkante [m]</translation>
+    </message>
+    <message>
+        <source>Isovalue [m/s]</source>
+        <translation>Isowert [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Error [m]</source>
+        <translation>Fehler [m]</translation>
+    </message>
+    <message>
+        <source>Error [m/s]</source>
+        <translation>Fehler [m/s]</translation>
+    </message>
+    <message>
+        <source>Refractor</source>
+        <translation>Refraktor</translation>
+    </message>
+    <message>
+        <source>Above [m/s]</source>
+        <translation>Darüber [m/s]</translation>
+    </message>
+    <message>
+        <source>Below [m/s]</source>
+        <translation>Darunter [m/s]</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows of %2 columns do not fit from here on.</source>
+        <translation>Nichts eingefügt: %1 Zeilen mit %2 Spalten passen ab hier nicht hinein.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted. Row %1: %2</source>
+        <translation>Nichts eingefügt. Zeile %1: %2</translation>
     </message>
 </context>
 <context>
