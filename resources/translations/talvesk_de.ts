@@ -1179,6 +1179,102 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>[m]</source>
         <translation>[m]</translation>
     </message>
+    <message>
+        <source>Depth of %1, 16 to 84 %</source>
+        <translation>Tiefe von %1, 16 bis 84 %</translation>
+    </message>
+    <message>
+        <source>Pale: uncertain, ± %1 to %2 % and no ray</source>
+        <translation>Blass: unsicher, ± %1 bis %2 % und kein Strahl</translation>
+    </message>
+    <message>
+        <source>picks have changed since the certainty was found out</source>
+        <translation>Picks seit Ermittlung der Zuverlässigkeit geändert</translation>
+    </message>
+    <message>
+        <source>certainty of other sections than this one: %1 % of its cells with rays lie beyond two deviations</source>
+        <translation>Zuverlässigkeit anderer Schnitte als dieses: %1 % seiner Zellen mit Strahlen liegen außerhalb von zwei Abweichungen</translation>
+    </message>
+    <message>
+        <source>±: half of the range from 16 to 84 % of %1 members</source>
+        <translation>±: halber Bereich von 16 bis 84 % von %1 Mitgliedern</translation>
+    </message>
+    <message>
+        <source>certainty of %1 members</source>
+        <translation>Zuverlässigkeit aus %1 Mitgliedern</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 weggelassen</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geophon bei [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [pick errors]</source>
+        <translation>Berechnet minus gemessen [Pickfehler]</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Schuss %1, Geophon %2 bei %3 m, Offset %4 m: gemessen %5 ms, berechnet %6 ms, Residuum %7 ms, Fehler %8 ms (%9 Fehler)</translation>
+    </message>
+    <message>
+        <source>; suspect</source>
+        <translation>; verdächtig</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geophon bei [m]; schraffiert: kein Pick, mit Punkt: verdächtig</translation>
+    </message>
+    <message>
+        <source>Shot, along the line</source>
+        <translation>Schuss, entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>Suspect</source>
+        <translation>Verdächtig</translation>
+    </message>
+    <message>
+        <source>Running median</source>
+        <translation>Gleitender Median</translation>
+    </message>
+    <message>
+        <source>One standard deviation</source>
+        <translation>Eine Standardabweichung</translation>
+    </message>
+    <message>
+        <source>Stands out</source>
+        <translation>Auffällig</translation>
+    </message>
+    <message>
+        <source>Median and one standard deviation</source>
+        <translation>Median und eine Standardabweichung</translation>
+    </message>
+    <message>
+        <source>%1: %2 m/s</source>
+        <translation>%1: %2 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m beside the line)</source>
+        <translation>%1 (%2 m neben der Messlinie)</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Bohrungen</translation>
+    </message>
+    <message>
+        <source>Known depths</source>
+        <translation>Bekannte Tiefen</translation>
+    </message>
+    <message>
+        <source>Fixed bodies</source>
+        <translation>Feste Körper</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1718,6 +1814,14 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>%1 (exists)</source>
         <translation>%1 (vorhanden)</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks</source>
+        <translation>Residuen der Picks</translation>
+    </message>
+    <message>
+        <source>Shot by geophone, and in the section along the rays</source>
+        <translation>Schüsse gegen Geophone, und im Schnitt entlang der Strahlen</translation>
     </message>
 </context>
 <context>
@@ -7578,6 +7682,66 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
         <translation>RMS-Abweichung des Schnitts nach jeder Iteration, 0 ist das Startmodell</translation>
     </message>
+    <message>
+        <source>Reciprocal</source>
+        <translation>Reziprok</translation>
+    </message>
+    <message>
+        <source>Delay times</source>
+        <translation>Verzögerungszeiten</translation>
+    </message>
+    <message>
+        <source>Intercept times</source>
+        <translation>Interceptzeiten</translation>
+    </message>
+    <message>
+        <source>Plus-minus</source>
+        <translation>Plus-Minus</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>beidem</translation>
+    </message>
+    <message>
+        <source>depth</source>
+        <translation>Tiefe</translation>
+    </message>
+    <message>
+        <source>velocity</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>%1: depth [m]</source>
+        <translation>%1: Tiefe [m]</translation>
+    </message>
+    <message>
+        <source>%1: velocity [m/s]</source>
+        <translation>%1: Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Disagree in</source>
+        <translation>Uneinig in</translation>
+    </message>
+    <message>
+        <source>Layers by method</source>
+        <translation>Schichten nach Methode</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface. A value in parentheses is not carried by picks there, but by shifted arrivals of other shots, across a gap or by a continuation.</source>
+        <translation>Tiefen sind unter der Oberfläche. Ein Wert in Klammern ist dort nicht durch Picks gestützt, sondern durch verschobene Einsätze anderer Schüsse, über eine Lücke hinweg oder durch eine Fortsetzung.</translation>
+    </message>
+    <message>
+        <source>Errors are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations. Methods disagree where two of them differ by more than three times what their difference scatters by.</source>
+        <translation>Fehler sind die halbe Breite, in der 68 von 100 Ergebnissen liegen, wenn Picks um ihre Fehler verschoben werden, aus %1 solchen Auswertungen. Methoden sind uneinig, wo sich zwei von ihnen um mehr als das Dreifache der Streuung ihrer Differenz unterscheiden.</translation>
+    </message>
+    <message>
+        <source>Layer %1 by method</source>
+        <translation>Schicht %1 nach Methode</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks, shot by geophone</source>
+        <translation>Residuen der Picks, Schüsse gegen Geophone</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -7691,6 +7855,327 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
             <numerusform>%n Seite</numerusform>
             <numerusform>%n Seiten</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResidualsDialog</name>
+    <message>
+        <source>Residuals</source>
+        <translation>Residuen</translation>
+    </message>
+    <message>
+        <source>Residuals &amp;in:</source>
+        <translation>Residuen &amp;in:</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>Millisekunden</translation>
+    </message>
+    <message>
+        <source>Errors of the picks</source>
+        <translation>Fehlern der Picks</translation>
+    </message>
+    <message>
+        <source>&amp;Colour shot:</source>
+        <translation>Schuss &amp;farbig:</translation>
+    </message>
+    <message>
+        <source>Whose dots have a colour of their own in the picture over the offset</source>
+        <translation>Der Schuss, dessen Punkte im Bild über dem Offset eine eigene Farbe haben</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Karte</translation>
+    </message>
+    <message>
+        <source>Residuals, shot by geophone</source>
+        <translation>Residuen, Schüsse gegen Geophone</translation>
+    </message>
+    <message>
+        <source>Over the &amp;offset</source>
+        <translation>Über dem &amp;Offset</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residuen über dem Offset</translation>
+    </message>
+    <message>
+        <source>Shots and &amp;geophones</source>
+        <translation>Schüsse und &amp;Geophone</translation>
+    </message>
+    <message>
+        <source>Residuals per shot</source>
+        <translation>Residuen pro Schuss</translation>
+    </message>
+    <message>
+        <source>Residuals per geophone</source>
+        <translation>Residuen pro Geophon</translation>
+    </message>
+    <message>
+        <source>&amp;Along the rays</source>
+        <translation>Entlang der Strah&amp;len</translation>
+    </message>
+    <message>
+        <source>Every cell has the mean residual of the rays through it, by their lengths in it; suspect picks are left out.</source>
+        <translation>Jede Zelle zeigt das mittlere Residuum der Strahlen durch sie, gewichtet mit deren Länge darin; verdächtige Picks sind weggelassen.</translation>
+    </message>
+    <message>
+        <source>Shows the trace of the current pick in the window, as a click on it or Return does</source>
+        <translation>Zeigt die Spur des aktuellen Picks im Fenster, wie ein Klick darauf oder die Eingabetaste</translation>
+    </message>
+    <message>
+        <source>Show &amp;trace</source>
+        <translation>Spur &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Puts the picture in view on the clipboard</source>
+        <translation>Kopiert das sichtbare Bild in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>Bild ko&amp;pieren</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture...</source>
+        <translation>&amp;Bild speichern...</translation>
+    </message>
+    <message>
+        <source>All picks with their residuals, for spreadsheets</source>
+        <translation>Alle Picks mit ihren Residuen, für Tabellenkalkulationen</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Tabelle speichern...</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Schuss %1</translation>
+    </message>
+    <message>
+        <source>Geophone at %1 m</source>
+        <translation>Geophon bei %1 m</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Es gibt noch keinen Schnitt, dessen Zeiten man prüfen könnte.</translation>
+    </message>
+    <message>
+        <source>Section of &quot;%1&quot;: %2.</source>
+        <translation>Schnitt aus „%1“: %2.</translation>
+    </message>
+    <message>
+        <source>Picks: %1, suspect: %2.</source>
+        <translation>Picks: %1, verdächtig: %2.</translation>
+    </message>
+    <message>
+        <source>The section was smoothed afterwards.</source>
+        <translation>Der Schnitt wurde danach geglättet.</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found are counted.</source>
+        <translation>Die Zeitverschiebungen der Schüsse aus der Anpassung sind eingerechnet.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>Die Picks haben sich geändert, seit der Schnitt bestimmt wurde: Er wurde an andere angepasst.</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Offset [m]</translation>
+    </message>
+    <message>
+        <source>Median [pick errors]</source>
+        <translation>Median [Pickfehler]</translation>
+    </message>
+    <message>
+        <source>Median [ms]</source>
+        <translation>Median [ms]</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geophon bei [m]</translation>
+    </message>
+    <message>
+        <source>Click a pick, or walk to it with the arrow keys.</source>
+        <translation>Klicken Sie auf einen Pick, oder gehen Sie mit den Pfeiltasten zu ihm.</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
+        <translation>Schuss %1, Geophon bei %2 m: kein Pick mit berechneter Zeit</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: picks %2, median %3, two of three from %4 to %5</source>
+        <translation>%1: Picks %2, Median %3, zwei von drei zwischen %4 und %5</translation>
+    </message>
+    <message>
+        <source>; stands out</source>
+        <translation>; auffällig</translation>
+    </message>
+    <message>
+        <source>The picture cannot be made.</source>
+        <translation>Das Bild kann nicht erstellt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResolutionDialog</name>
+    <message>
+        <source>Resolution Test</source>
+        <translation>Auflösungstest</translation>
+    </message>
+    <message>
+        <source>Would the survey see it? A pattern is laid over the section, the times of all picks are computed through it with noise of their errors, and a section is fitted to them. Where what comes back correlates with what was put in, ground of that size is resolved.</source>
+        <translation>Würde die Messung es sehen? Ein Muster wird über den Schnitt gelegt, die Zeiten aller Picks werden dadurch mit Rauschen nach ihren Fehlern berechnet, und ein Schnitt wird daran angepasst. Wo das Rekonstruierte mit dem Vorgegebenen korreliert, ist Untergrund dieser Größe aufgelöst.</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Muster:</translation>
+    </message>
+    <message>
+        <source>What the section is disturbed by</source>
+        <translation>Wodurch der Schnitt gestört wird</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze [m]:</source>
+        <translation>G&amp;röße [m]:</translation>
+    </message>
+    <message>
+        <source>Side of a square, or thickness of a layer</source>
+        <translation>Seite eines Quadrats oder Mächtigkeit einer Schicht</translation>
+    </message>
+    <message>
+        <source>Se&amp;veral sizes</source>
+        <translation>Mehrere &amp;Größen</translation>
+    </message>
+    <message>
+        <source>Try sizes from the distance between positions up to the largest that fits the grid, and tell the smallest that is resolved at each depth</source>
+        <translation>Probiert Größen vom Abstand der Positionen bis zur größten, die ins Gitter passt, und nennt für jede Tiefe die kleinste, die aufgelöst wird</translation>
+    </message>
+    <message>
+        <source>St&amp;rength [%]:</source>
+        <translation>Stär&amp;ke [%]:</translation>
+    </message>
+    <message>
+        <source>How much faster and slower the pattern is than the section</source>
+        <translation>Um wie viel das Muster schneller und langsamer ist als der Schnitt</translation>
+    </message>
+    <message>
+        <source>&amp;Over:</source>
+        <translation>Ü&amp;ber:</translation>
+    </message>
+    <message>
+        <source>What the pattern is laid over</source>
+        <translation>Worüber das Muster gelegt wird</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Starten</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>S&amp;hown size:</source>
+        <translation>Gez&amp;eigte Größe:</translation>
+    </message>
+    <message>
+        <source>Of which of the tests the pictures are</source>
+        <translation>Zu welchem der Tests die Bilder gehören</translation>
+    </message>
+    <message>
+        <source>Save P&amp;icture ...</source>
+        <translation>B&amp;ild speichern ...</translation>
+    </message>
+    <message>
+        <source>Save Ta&amp;ble ...</source>
+        <translation>&amp;Tabelle speichern ...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Schachbrett</translation>
+    </message>
+    <message>
+        <source>Spikes</source>
+        <translation>Einzelne Quadrate</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Schichten</translation>
+    </message>
+    <message>
+        <source>the section</source>
+        <translation>der Schnitt</translation>
+    </message>
+    <message>
+        <source>its mean at each depth</source>
+        <translation>sein Mittel in jeder Tiefe</translation>
+    </message>
+    <message>
+        <source>Start shows here what was put in, what came back and how they agree.</source>
+        <translation>„Starten“ zeigt hier, was vorgegeben und was rekonstruiert wurde und wie beides übereinstimmt.</translation>
+    </message>
+    <message>
+        <source>The test is under way.</source>
+        <translation>Der Test läuft.</translation>
+    </message>
+    <message>
+        <source>Times are computed through the pattern.</source>
+        <translation>Zeiten durch das Muster werden berechnet.</translation>
+    </message>
+    <message>
+        <source>Size %1: iteration %2.</source>
+        <translation>Größe %1: Iteration %2.</translation>
+    </message>
+    <message>
+        <source>Stopped before the first test was completed.</source>
+        <translation>Angehalten, bevor der erste Test abgeschlossen war.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped: %n test(s) completed.</source>
+        <translation>
+            <numerusform>Angehalten: %n Test abgeschlossen.</numerusform>
+            <numerusform>Angehalten: %n Tests abgeschlossen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No test was completed.</source>
+        <translation>Kein Test wurde abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The resolution test could not be completed.</source>
+        <translation>Der Auflösungstest konnte nicht abgeschlossen werden.</translation>
+    </message>
+    <message>
+        <source>at %1 m none</source>
+        <translation>in %1 m keine</translation>
+    </message>
+    <message>
+        <source>at %1 m depth %2 m</source>
+        <translation>in %1 m Tiefe %2 m</translation>
+    </message>
+    <message>
+        <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
+        <translation>Kleinste aufgelöste Größe (Korrelation ab %1): %2.</translation>
     </message>
 </context>
 <context>
