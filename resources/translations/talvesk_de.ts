@@ -401,6 +401,18 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <comment>run, remarks</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>by errors of %1</source>
+        <translation>mit Fehlern von %1</translation>
+    </message>
+    <message>
+        <source>by other errors, so these do not compare: %1</source>
+        <translation>mit verschiedenen Fehlern, daher nicht vergleichbar: %1</translation>
+    </message>
+    <message>
+        <source>of all picks as they are %1 ms</source>
+        <translation>mit allen Picks unverändert %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::DialogSetGeometry</name>
@@ -1931,6 +1943,38 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Best of the picks&apos; models</source>
         <translation>Bestes der Modelle aus den Picks</translation>
+    </message>
+    <message>
+        <source>With the time shifts of shots</source>
+        <translation>Mit den Zeitverschiebungen der Schüsse</translation>
+    </message>
+    <message>
+        <source>Without suspects, with the time shifts of shots</source>
+        <translation>Ohne verdächtige, mit den Zeitverschiebungen der Schüsse</translation>
+    </message>
+    <message>
+        <source>Without suspects</source>
+        <translation>Ohne verdächtige</translation>
+    </message>
+    <message>
+        <source>All picks as they are, </source>
+        <translation>Alle Picks unverändert, </translation>
+    </message>
+    <message>
+        <source>Known ground: %1 conditions, RMS %2 of their errors; fixed cells %3
+</source>
+        <translation>Bekannter Untergrund: %1 Bedingungen, RMS %2 ihrer Fehler; feste Zellen %3
+</translation>
+    </message>
+    <message>
+        <source>The section does not go with %1: off by %2 of its errors
+</source>
+        <translation>Der Schnitt passt nicht zu %1: weicht um %2 seiner Fehler ab
+</translation>
+    </message>
+    <message>
+        <source>RMS of what chi-square counts: %1 ms.</source>
+        <translation>RMS dessen, was in Chi-Quadrat zählt: %1 ms.</translation>
     </message>
 </context>
 <context>
@@ -8236,6 +8280,34 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>positions have changed since</source>
         <translation>Positionen seither geändert</translation>
     </message>
+    <message>
+        <source>%1 ms or %2 %</source>
+        <translation>%1 ms oder %2 %</translation>
+    </message>
+    <message>
+        <source>errors of %1</source>
+        <translation>Fehler %1</translation>
+    </message>
+    <message>
+        <source>from &quot;%1&quot;</source>
+        <translation>ausgehend von „%1“</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>nicht robust</translation>
+    </message>
+    <message>
+        <source>with shot statics, trigger error %1 ms</source>
+        <translation>mit Schussstatik, Triggerfehler %1 ms</translation>
+    </message>
+    <message>
+        <source>held to known ground</source>
+        <translation>an bekannten Untergrund gehalten</translation>
+    </message>
+    <message>
+        <source>from coarse to fine</source>
+        <translation>von grob nach fein</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RunsDialog</name>
@@ -8318,6 +8390,30 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>in use</source>
         <translation>verwendet</translation>
+    </message>
+    <message>
+        <source>By errors of</source>
+        <translation>Mit Fehlern von</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none, by which chi-square is measured: figures by other errors do not compare.</source>
+        <translation>Fehler von Picks ohne Fehlerangabe, an denen Chi-Quadrat gemessen wird: Werte mit anderen Fehlern sind nicht vergleichbar.</translation>
+    </message>
+    <message>
+        <source>Of what chi-square counts: without suspect picks, with the time shifts of shots that a fit has found.</source>
+        <translation>Für das, was in Chi-Quadrat zählt: ohne verdächtige Picks, mit den Zeitverschiebungen der Schüsse aus einer Anpassung.</translation>
+    </message>
+    <message>
+        <source>RMS of all [ms]</source>
+        <translation>RMS aller [ms]</translation>
+    </message>
+    <message>
+        <source>Of all picks as they are, suspect ones among them, without time shifts.</source>
+        <translation>Für alle Picks unverändert, auch die verdächtigen, ohne Zeitverschiebungen.</translation>
+    </message>
+    <message>
+        <source>RMS of all [%]</source>
+        <translation>RMS aller [%]</translation>
     </message>
 </context>
 <context>
@@ -8416,6 +8512,46 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>No velocity is at a limit, and rays cross all cells shown.</source>
         <translation>Keine Geschwindigkeit liegt an einer Grenze, und Strahlen durchqueren alle gezeigten Zellen.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does; of shots without a recording the picks, with their errors. One step to be undone.</source>
+        <translation>Verschiebt die Aufzeichnungen der angekreuzten Schüsse mit ihren Picks, wie „Aufzeichnung korrigieren“ es tut; bei Schüssen ohne Aufzeichnung die Picks mit ihren Fehlern. Ein Schritt, der sich rückgängig machen lässt.</translation>
+    </message>
+    <message>
+        <source>no recording: its picks are shifted</source>
+        <translation>keine Aufzeichnung: die Picks werden verschoben</translation>
+    </message>
+    <message>
+        <source>Errors of picks below %1 ms count as %1 ms: %2</source>
+        <translation>Fehler von Picks unter %1 ms zählen als %1 ms: %2</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found; a click shows the shot:</source>
+        <translation>Zeitverschiebungen der Schüsse aus der Anpassung; ein Klick zeigt den Schuss:</translation>
+    </message>
+    <message>
+        <source>Ground to look at; a click shows it in the section:</source>
+        <translation>Stellen, die man ansehen sollte; ein Klick zeigt sie im Schnitt:</translation>
+    </message>
+    <message>
+        <source>No pick stands out: %1 are off by more than five of their errors, but none by more than %2, as the section does not fit the picks to their errors.</source>
+        <translation>Kein Pick ist auffällig: %1 liegen um mehr als fünf ihrer Fehler daneben, aber keiner um mehr als %2, da der Schnitt nicht im Rahmen der Fehler zu den Picks passt.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than %2 of their errors, which stand out where %1 are off by more than five; a click shows the trace:</source>
+        <translation>Picks, die um mehr als %2 ihrer Fehler danebenliegen und auffallen, wo %1 um mehr als fünf danebenliegen; ein Klick zeigt die Spur:</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2</source>
+        <translation>Zellen an der Grenze von %1 m/s: %2</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2</source>
+        <translation>Gezeigte Zellen, die kein Strahl durchquert: %1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
+        <translation>%1 (%2 bis %3 m, Tiefe %4 bis %5 m)</translation>
     </message>
 </context>
 <context>
@@ -10570,6 +10706,171 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     <message>
         <source>Uncertainty %1 %</source>
         <translation>Unsicherheit %1 %</translation>
+    </message>
+    <message>
+        <source>Residuals...</source>
+        <translation>Residuen...</translation>
+    </message>
+    <message>
+        <source>Look at what the section leaves of every pick: shot by geophone, over the offset, per shot and geophone, and along the rays</source>
+        <translation>Zeigt, was der Schnitt von jedem Pick übrig lässt: Schüsse gegen Geophone, über dem Offset, pro Schuss und Geophon und entlang der Strahlen</translation>
+    </message>
+    <message>
+        <source>Known ground ...</source>
+        <translation>Bekannter Untergrund ...</translation>
+    </message>
+    <message>
+        <source>Boreholes, known depths and bodies of known velocity, to be drawn and to hold a fit to</source>
+        <translation>Bohrungen, bekannte Tiefen und Körper bekannter Geschwindigkeit, zum Zeichnen und um eine Anpassung daran zu halten</translation>
+    </message>
+    <message>
+        <source>Show known ground</source>
+        <translation>Bekannten Untergrund anzeigen</translation>
+    </message>
+    <message>
+        <source>Draw boreholes, known depths and bodies over the section</source>
+        <translation>Zeichnet Bohrungen, bekannte Tiefen und Körper über den Schnitt</translation>
+    </message>
+    <message>
+        <source>Resolution test ...</source>
+        <translation>Auflösungstest ...</translation>
+    </message>
+    <message>
+        <source>Find out how small ground may be that this survey still sees, by patterns laid over the section</source>
+        <translation>Ermittelt mit Mustern über dem Schnitt, wie kleine Strukturen im Untergrund diese Messung noch sieht</translation>
+    </message>
+    <message>
+        <source>Fade Uncertain Ground</source>
+        <translation>Unsicheren Untergrund blass zeigen</translation>
+    </message>
+    <message>
+        <source>Let the colours of the velocity section pale where it is not sure</source>
+        <translation>Lässt die Farben des Geschwindigkeitsschnitts verblassen, wo er unsicher ist</translation>
+    </message>
+    <message>
+        <source>Depth Bands ...</source>
+        <translation>Tiefenbänder ...</translation>
+    </message>
+    <message>
+        <source>Draw between which depths velocities of your choice are reached, 16 to 84 %</source>
+        <translation>Zeichnet, zwischen welchen Tiefen Geschwindigkeiten Ihrer Wahl erreicht werden, 16 bis 84 %</translation>
+    </message>
+    <message>
+        <source>Certainty as table ...</source>
+        <translation>Zuverlässigkeit als Tabelle ...</translation>
+    </message>
+    <message>
+        <source>Export median, 16 and 84 % velocity and spread of every cell as a table (.csv)</source>
+        <translation>Exportiert Median, 16- und 84-%-Geschwindigkeit und Streuung jeder Zelle als Tabelle (.csv)</translation>
+    </message>
+    <message>
+        <source>Export Certainty Table</source>
+        <translation>Tabelle der Zuverlässigkeit exportieren</translation>
+    </message>
+    <message>
+        <source>Table of the certainty (*.csv);;All Files (*)</source>
+        <translation>Tabelle der Zuverlässigkeit (*.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Stopped before anything was found; the section is as it was.</source>
+        <translation>Angehalten, bevor etwas gefunden war; der Schnitt ist, wie er war.</translation>
+    </message>
+    <message>
+        <source>The section is not held to known ground.</source>
+        <translation>Der Schnitt ist nicht an bekannten Untergrund gehalten.</translation>
+    </message>
+    <message>
+        <source>The section is held to this.</source>
+        <translation>Der Schnitt ist daran gehalten.</translation>
+    </message>
+    <message>
+        <source>The section is held to known ground that was another: run the fit again.</source>
+        <translation>Der Schnitt ist an früheren bekannten Untergrund gehalten: Starten Sie die Anpassung erneut.</translation>
+    </message>
+    <message>
+        <source>Import known ground</source>
+        <translation>Bekannten Untergrund importieren</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv *.txt);;All files (*)</source>
+        <translation>Tabellen bekannten Untergrunds (*.csv *.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nichts wurde importiert.</translation>
+    </message>
+    <message>
+        <source>Export known ground</source>
+        <translation>Bekannten Untergrund exportieren</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv)</source>
+        <translation>Tabellen bekannten Untergrunds (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save picture of residuals</source>
+        <translation>Bild der Residuen speichern</translation>
+    </message>
+    <message>
+        <source>Save table of residuals</source>
+        <translation>Tabelle der Residuen speichern</translation>
+    </message>
+    <message>
+        <source>Save picture of the resolution test</source>
+        <translation>Bild des Auflösungstests speichern</translation>
+    </message>
+    <message>
+        <source>Save table of the resolution test</source>
+        <translation>Tabelle des Auflösungstests speichern</translation>
+    </message>
+    <message>
+        <source>Table of resolution by depth (*.csv)</source>
+        <translation>Tabelle der Auflösung nach Tiefe (*.csv)</translation>
+    </message>
+    <message>
+        <source>How sure the section before was is known no more; Undo brings back both.</source>
+        <translation>Wie zuverlässig der vorige Schnitt war, ist nicht mehr bekannt; „Rückgängig“ bringt beides zurück.</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>verdächtige Picks: %1</translation>
+    </message>
+    <message>
+        <source>time shifts of shots: %1</source>
+        <translation>Zeitverschiebungen von Schüssen: %1</translation>
+    </message>
+    <message>
+        <source>cells at a limit of the velocity: %1</source>
+        <translation>Zellen an einer Grenze der Geschwindigkeit: %1</translation>
+    </message>
+    <message>
+        <source>cells shown that no ray crosses: %1</source>
+        <translation>gezeigte Zellen, die kein Strahl durchquert: %1</translation>
+    </message>
+    <message>
+        <source>Second look (%1)</source>
+        <comment>kinds of things to look at</comment>
+        <translation>Zweiter Blick (%1)</translation>
+    </message>
+    <message>
+        <source>Shots without a recording, whose picks were shifted: %1.</source>
+        <translation>Schüsse ohne Aufzeichnung, deren Picks verschoben wurden: %1.</translation>
+    </message>
+    <message>
+        <source>Depth Bands</source>
+        <translation>Tiefenbänder</translation>
+    </message>
+    <message>
+        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Bis zu %1 &amp;Geschwindigkeiten in m/s; die Tiefen, in denen die mittleren 68 % der Mitglieder sie erreichen, werden als Band gezeichnet. Keine Angabe entfernt die Bänder.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list of velocities.</source>
+        <translation>„%1“ ist keine Liste von Geschwindigkeiten.</translation>
+    </message>
+    <message>
+        <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
+        <translation>Geben Sie bis zu %1 Zahlen über 0 mit Semikolons dazwischen an: 800; 1500</translation>
     </message>
 </context>
 <context>
