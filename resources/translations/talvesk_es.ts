@@ -401,6 +401,18 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <comment>run, remarks</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>by errors of %1</source>
+        <translation>con errores de %1</translation>
+    </message>
+    <message>
+        <source>by other errors, so these do not compare: %1</source>
+        <translation>con otros errores, así que no son comparables: %1</translation>
+    </message>
+    <message>
+        <source>of all picks as they are %1 ms</source>
+        <translation>de todos los picados tal como están, %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::DialogSetGeometry</name>
@@ -1179,6 +1191,102 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>[m]</source>
         <translation>[m]</translation>
     </message>
+    <message>
+        <source>Depth of %1, 16 to 84 %</source>
+        <translation>Profundidad de %1, del 16 al 84 %</translation>
+    </message>
+    <message>
+        <source>Pale: uncertain, ± %1 to %2 % and no ray</source>
+        <translation>Pálido: incierto, de ± %1 a %2 %, y sin rayos</translation>
+    </message>
+    <message>
+        <source>picks have changed since the certainty was found out</source>
+        <translation>los picados han cambiado desde que se determinó la certeza</translation>
+    </message>
+    <message>
+        <source>certainty of other sections than this one: %1 % of its cells with rays lie beyond two deviations</source>
+        <translation>certeza de secciones distintas de esta: el %1 % de sus celdas con rayos queda fuera de dos desviaciones</translation>
+    </message>
+    <message>
+        <source>±: half of the range from 16 to 84 % of %1 members</source>
+        <translation>±: mitad del intervalo del 16 al 84 % de %1 miembros</translation>
+    </message>
+    <message>
+        <source>certainty of %1 members</source>
+        <translation>certeza de %1 miembros</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 excluidos</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geófono en [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [pick errors]</source>
+        <translation>Calculado menos medido [errores de los picados]</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Disparo %1, geófono %2 en %3 m, distancia al disparo %4 m: medido %5 ms, calculado %6 ms, residuo %7 ms, error %8 ms (%9 errores)</translation>
+    </message>
+    <message>
+        <source>; suspect</source>
+        <translation>; sospechoso</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geófono en [m]; rayado: sin picado; con punto: sospechoso</translation>
+    </message>
+    <message>
+        <source>Shot, along the line</source>
+        <translation>Disparo, a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picados</translation>
+    </message>
+    <message>
+        <source>Suspect</source>
+        <translation>Sospechosos</translation>
+    </message>
+    <message>
+        <source>Running median</source>
+        <translation>Mediana móvil</translation>
+    </message>
+    <message>
+        <source>One standard deviation</source>
+        <translation>Una desviación estándar</translation>
+    </message>
+    <message>
+        <source>Stands out</source>
+        <translation>Anómalo</translation>
+    </message>
+    <message>
+        <source>Median and one standard deviation</source>
+        <translation>Mediana y una desviación estándar</translation>
+    </message>
+    <message>
+        <source>%1: %2 m/s</source>
+        <translation>%1: %2 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m beside the line)</source>
+        <translation>%1 (a %2 m de la línea)</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Sondeos</translation>
+    </message>
+    <message>
+        <source>Known depths</source>
+        <translation>Profundidades conocidas</translation>
+    </message>
+    <message>
+        <source>Fixed bodies</source>
+        <translation>Cuerpos fijos</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1313,6 +1421,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Picks</source>
         <translation>Picados</translation>
+    </message>
+    <message>
+        <source>The section is drawn to the velocities and depths of &quot;Known ground&quot; by their errors, and fixed bodies stay as they are. How the section goes with them is told after the run; chi-square is of the picks alone.</source>
+        <translation>La sección se acerca a las velocidades y profundidades de «Terreno conocido» según sus errores, y los cuerpos fijos quedan como están. Tras la inversión se indica cómo concuerda con ellos la sección; chi cuadrado es solo de los picados.</translation>
+    </message>
+    <message>
+        <source>Hold to known ground</source>
+        <translation>Condicionar al terreno conocido</translation>
     </message>
 </context>
 <context>
@@ -1711,6 +1827,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>%1 (exists)</source>
         <translation>%1 (ya existe)</translation>
     </message>
+    <message>
+        <source>Residuals of the picks</source>
+        <translation>Residuos de los picados</translation>
+    </message>
+    <message>
+        <source>Shot by geophone, and in the section along the rays</source>
+        <translation>Disparo por geófono, y en la sección a lo largo de los rayos</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::InversionTexts</name>
@@ -1819,6 +1943,208 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Best of the picks&apos; models</source>
         <translation>El mejor modelo de los picados</translation>
+    </message>
+    <message>
+        <source>With the time shifts of shots</source>
+        <translation>Con los desplazamientos en tiempo de los disparos</translation>
+    </message>
+    <message>
+        <source>Without suspects, with the time shifts of shots</source>
+        <translation>Sin sospechosos, con los desplazamientos en tiempo de los disparos</translation>
+    </message>
+    <message>
+        <source>Without suspects</source>
+        <translation>Sin sospechosos</translation>
+    </message>
+    <message>
+        <source>All picks as they are, </source>
+        <translation>Todos los picados tal como están, </translation>
+    </message>
+    <message>
+        <source>Known ground: %1 conditions, RMS %2 of their errors; fixed cells %3
+</source>
+        <translation>Terreno conocido: %1 condiciones, RMS %2 de sus errores; celdas fijas %3
+</translation>
+    </message>
+    <message>
+        <source>The section does not go with %1: off by %2 of its errors
+</source>
+        <translation>La sección no concuerda con %1: se desvía %2 veces su error
+</translation>
+    </message>
+    <message>
+        <source>RMS of what chi-square counts: %1 ms.</source>
+        <translation>RMS de lo que cuenta chi cuadrado: %1 ms.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownGroundDialog</name>
+    <message>
+        <source>Known ground</source>
+        <translation>Terreno conocido</translation>
+    </message>
+    <message>
+        <source>&amp;Boreholes</source>
+        <translation>&amp;Sondeos</translation>
+    </message>
+    <message>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Cada fila es una capa; las capas con el mismo nombre son de un mismo sondeo, de arriba abajo. Las profundidades son metros bajo la superficie. Sin error, una velocidad se considera conocida al 5 %.</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Sondeos</translation>
+    </message>
+    <message>
+        <source>&amp;Depths</source>
+        <translation>&amp;Profundidades</translation>
+    </message>
+    <message>
+        <source>A row is a place where a refractor is known to lie: the velocity that is reached there, or those above and below. Without an error a depth counts as known to a tenth. Points of one refractor number belong together.</source>
+        <translation>Cada fila es un punto donde se sabe que hay un refractor: la velocidad que se alcanza ahí, o las de encima y debajo. Sin error, una profundidad se considera conocida a una décima parte. Los puntos con el mismo número de refractor van juntos.</translation>
+    </message>
+    <message>
+        <source>Depths</source>
+        <translation>Profundidades</translation>
+    </message>
+    <message>
+        <source>B&amp;odies</source>
+        <translation>&amp;Cuerpos</translation>
+    </message>
+    <message>
+        <source>A row is a corner; corners of one name go around a body of known velocity, which a fit leaves as it is.</source>
+        <translation>Cada fila es un vértice; los vértices con el mismo nombre rodean un cuerpo de velocidad conocida, que el ajuste deja como está.</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Cuerpos</translation>
+    </message>
+    <message>
+        <source>Insert a row above the current one. The last line of a table is always empty: type there to go on</source>
+        <translation>Inserta una fila encima de la actual. La última línea de una tabla siempre está vacía: escriba ahí para continuar</translation>
+    </message>
+    <message>
+        <source>&amp;Add row</source>
+        <translation>&amp;Añadir fila</translation>
+    </message>
+    <message>
+        <source>Remove the rows with selected cells</source>
+        <translation>Quita las filas con celdas seleccionadas</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>&amp;Quitar filas</translation>
+    </message>
+    <message>
+        <source>Take the last step in these tables back</source>
+        <translation>Deshace el último cambio en estas tablas</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Do it again</source>
+        <translation>Lo rehace</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Read a table in place of all that stands here</source>
+        <translation>Lee una tabla en lugar de todo lo que hay aquí</translation>
+    </message>
+    <message>
+        <source>&amp;Import ...</source>
+        <translation>&amp;Importar ...</translation>
+    </message>
+    <message>
+        <source>Write all of it as one table</source>
+        <translation>Lo escribe todo como una sola tabla</translation>
+    </message>
+    <message>
+        <source>&amp;Export ...</source>
+        <translation>&amp;Exportar ...</translation>
+    </message>
+    <message>
+        <source>Boreholes: %1, known depths: %2, bodies: %3.</source>
+        <translation>Sondeos: %1, profundidades conocidas: %2, cuerpos: %3.</translation>
+    </message>
+    <message>
+        <source>%1, row %2: %3.</source>
+        <translation>%1, fila %2: %3.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed in these tables?</source>
+        <translation>¿Descartar los cambios de estas tablas?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownTable</name>
+    <message>
+        <source>Position [m]</source>
+        <translation>Posición [m]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Distancia a la línea [m]</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Techo [m]</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profundidad [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Base [m]</translation>
+    </message>
+    <message>
+        <source>Isovalue [m/s]</source>
+        <translation>Isovalor [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Error [m]</source>
+        <translation>Error [m]</translation>
+    </message>
+    <message>
+        <source>Error [m/s]</source>
+        <translation>Error [m/s]</translation>
+    </message>
+    <message>
+        <source>Refractor</source>
+        <translation>Refractor</translation>
+    </message>
+    <message>
+        <source>Above [m/s]</source>
+        <translation>Encima [m/s]</translation>
+    </message>
+    <message>
+        <source>Below [m/s]</source>
+        <translation>Debajo [m/s]</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>«%1» no es un número.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows of %2 columns do not fit from here on.</source>
+        <translation>No se ha pegado nada: %1 filas de %2 columnas no caben a partir de aquí.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted. Row %1: %2</source>
+        <translation>No se ha pegado nada. Fila %1: %2</translation>
     </message>
 </context>
 <context>
