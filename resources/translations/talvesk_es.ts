@@ -5615,6 +5615,338 @@ Defina la posición de los geófonos
         <source>Uncertainty of velocity</source>
         <translation>Incertidumbre de la velocidad</translation>
     </message>
+    <message>
+        <source>There are no picks yet: a resolution test takes their positions and errors.</source>
+        <translation>Aún no hay picados: una prueba de resolución usa sus posiciones y errores.</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known; find it out first</source>
+        <translation>no se conoce la certeza de la sección; determínela antes</translation>
+    </message>
+    <message>
+        <source>there is no section whose times could be compared with the picks; run an inversion first</source>
+        <translation>no hay ninguna sección cuyos tiempos se puedan comparar con los picados; ejecute antes una inversión</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw.</source>
+        <translation>No hay nada que dibujar.</translation>
+    </message>
+    <message>
+        <source>There are no rays of this section.</source>
+        <translation>No hay rayos de esta sección.</translation>
+    </message>
+    <message>
+        <source>it does not begin with a heading of the columns kind, name, x, depth, bottom, velocity, error, ...</source>
+        <translation>no empieza con un encabezado con las columnas kind, name, x, depth, bottom, velocity, error, ...</translation>
+    </message>
+    <message>
+        <source>there is no column %1</source>
+        <translation>no hay ninguna columna %1</translation>
+    </message>
+    <message>
+        <source>column %1 is in another unit than m and m/s</source>
+        <translation>la columna %1 está en una unidad distinta de m y m/s</translation>
+    </message>
+    <message>
+        <source>it has too many rows</source>
+        <translation>tiene demasiadas filas</translation>
+    </message>
+    <message>
+        <source>%1 is none of borehole, depth, body</source>
+        <translation>%1 no es borehole, depth ni body</translation>
+    </message>
+    <message>
+        <source>%1 is no number for %2</source>
+        <translation>%1 no es un número para %2</translation>
+    </message>
+    <message>
+        <source>there is no row below its heading</source>
+        <translation>no hay ninguna fila bajo el encabezado</translation>
+    </message>
+    <message>
+        <source>what was known of its ground is lost</source>
+        <translation>se ha perdido lo que se conocía de su terreno</translation>
+    </message>
+    <message>
+        <source>finding out how sure the section is begins anew instead of going on</source>
+        <translation>la determinación de la certeza de la sección empieza de nuevo en vez de continuar</translation>
+    </message>
+    <message>
+        <source>it does not go with the certainty of the project</source>
+        <translation>no concuerda con la certeza del proyecto</translation>
+    </message>
+    <message>
+        <source>what it counts cannot be</source>
+        <translation>sus recuentos son imposibles</translation>
+    </message>
+    <message>
+        <source>its depth bands cannot be drawn so; there are none now</source>
+        <translation>sus bandas de profundidad no se pueden dibujar así; ahora no hay ninguna</translation>
+    </message>
+    <message>
+        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
+        <translation>%1 m/s no es una velocidad del terreno (de %2 a %3)</translation>
+    </message>
+    <message>
+        <source>%1 m is no depth below the surface (0 to %2)</source>
+        <translation>%1 m no es una profundidad bajo la superficie (de 0 a %2)</translation>
+    </message>
+    <message>
+        <source>%1 m is no position along the line</source>
+        <translation>%1 m no es una posición a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation>no tiene nombre</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 m has its bottom not below its top</source>
+        <translation>una capa de %1 a %2 m no tiene la base por debajo del techo</translation>
+    </message>
+    <message>
+        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
+        <translation>un error de %1 m/s no debe ser negativo, y ha de ser menor que su velocidad, %2</translation>
+    </message>
+    <message>
+        <source>it has no layer</source>
+        <translation>no tiene ninguna capa</translation>
+    </message>
+    <message>
+        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
+        <translation>la capa desde %1 m empieza por encima de la base de la anterior, %2 m</translation>
+    </message>
+    <message>
+        <source>%1 m is no error of a depth</source>
+        <translation>%1 m no es un error de una profundidad</translation>
+    </message>
+    <message>
+        <source>refractors have the numbers 1 to %1</source>
+        <translation>los refractores se numeran de 1 a %1</translation>
+    </message>
+    <message>
+        <source>the velocities above and below are the same, so nothing begins here</source>
+        <translation>las velocidades de encima y debajo son iguales, así que aquí no empieza nada</translation>
+    </message>
+    <message>
+        <source>its outline needs three corners at least</source>
+        <translation>su contorno necesita al menos tres vértices</translation>
+    </message>
+    <message>
+        <source>more is known than can be held: %1 boreholes, depths and bodies at most, with %2 layers and corners</source>
+        <translation>se conoce más de lo que se puede guardar: como máximo %1 sondeos, profundidades y cuerpos, con %2 capas y vértices</translation>
+    </message>
+    <message>
+        <source>borehole %1</source>
+        <translation>sondeo %1</translation>
+    </message>
+    <message>
+        <source>known depth %1</source>
+        <translation>profundidad conocida %1</translation>
+    </message>
+    <message>
+        <source>body %1</source>
+        <translation>cuerpo %1</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>falta %1</translation>
+    </message>
+    <message>
+        <source>a %1 has no %2</source>
+        <translation>las filas %1 no llevan %2</translation>
+    </message>
+    <message>
+        <source>borehole %1 stands somewhere else in the rows above</source>
+        <translation>el sondeo %1 está en otro lugar en las filas anteriores</translation>
+    </message>
+    <message>
+        <source>the number of a refractor is a whole one</source>
+        <translation>el número de un refractor es un entero</translation>
+    </message>
+    <message>
+        <source>body %1 has another velocity in the rows above</source>
+        <translation>el cuerpo %1 tiene otra velocidad en las filas anteriores</translation>
+    </message>
+    <message>
+        <source>fewer than six picks of it</source>
+        <translation>tiene menos de seis picados</translation>
+    </message>
+    <message>
+        <source>picks of it from shots on one side only, which cannot tell a dip from a velocity</source>
+        <translation>solo tiene picados de disparos de un lado, que no permiten distinguir un buzamiento de una velocidad</translation>
+    </message>
+    <message>
+        <source>no shot has three picks of it on one side, with waves the other way beside them, that are faster than the first layer</source>
+        <translation>ningún disparo tiene en un lado tres picados de ella, con ondas en sentido contrario junto a ellos, que sean más rápidos que la primera capa</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation>Capa %1: sin velocidad ni profundidad en %2 receptores, donde la velocidad resulta fuera del rango de 50 a 12 000 m/s.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
+        <translation>Capa %1: sin profundidad en %2 receptores, donde resulta mayor que la longitud de la línea.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where the ground above it comes out to cost no time.</source>
+        <translation>Capa %1: sin profundidad en %2 receptores, donde el terreno por encima resulta no costar tiempo.</translation>
+    </message>
+    <message>
+        <source>Layer %1: %2.</source>
+        <translation>Capa %1: %2.</translation>
+    </message>
+    <message>
+        <source>The first layer has no velocity, so there are no depths.</source>
+        <translation>La primera capa no tiene velocidad, así que no hay profundidades.</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: nothing</source>
+        <translation>Capa %1, %2: nada</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s, no depth</source>
+        <translation>Capa %1, %2: %3 m/s, sin profundidad</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Capa %1, %2: %3 m/s a una profundidad de %4 m (medianas); profundidades en %5 de %6 geófonos, %7 de ellas sin picados que las respalden allí</translation>
+    </message>
+    <message>
+        <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
+        <translation>Capa %1: los métodos discrepan más allá de los errores de los picados en la profundidad en %2 de %3 geófonos, en la velocidad en %4</translation>
+    </message>
+    <message>
+        <source>no two shots have picks of it at five geophones between them</source>
+        <translation>no hay dos disparos con picados de ella en cinco geófonos situados entre ambos</translation>
+    </message>
+    <message>
+        <source>no second layer can be fitted</source>
+        <translation>no se puede ajustar una segunda capa</translation>
+    </message>
+    <message>
+        <source>a second layer gains %1 ms</source>
+        <translation>una segunda capa mejora %1 ms</translation>
+    </message>
+    <message>
+        <source>no third layer can be fitted</source>
+        <translation>no se puede ajustar una tercera capa</translation>
+    </message>
+    <message>
+        <source>a third layer gains %1 ms</source>
+        <translation>una tercera capa mejora %1 ms</translation>
+    </message>
+    <message>
+        <source>1 layer, misfit %1 ms</source>
+        <translation>1 capa, desajuste %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 layers, misfit %2 ms</source>
+        <translation>%1 capas, desajuste %2 ms</translation>
+    </message>
+    <message>
+        <source>no layers are proposed: there are too few picks to fit any</source>
+        <translation>no se proponen capas: hay muy pocos picados para ajustarlas</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
+        <translation>sin capas: una velocidad que crece de forma uniforme con la profundidad, desde %1 m/s y %2 m/s por metro, tiene un desajuste de %3 ms</translation>
+    </message>
+    <message>
+        <source>%1; without layers, by a steady gradient, %2 ms</source>
+        <translation>%1; sin capas, con un gradiente uniforme, %2 ms</translation>
+    </message>
+    <message>
+        <source>three layers fit better, but no shot at each end of the line has picks of the layer in between: two layers are proposed</source>
+        <translation>tres capas se ajustan mejor, pero no hay en cada extremo de la línea un disparo con picados de la capa intermedia: se proponen dos capas</translation>
+    </message>
+    <message>
+        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>disparo %1, a su derecha: la capa %2 se apoya en menos de cuatro picados (%3)</translation>
+    </message>
+    <message>
+        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>disparo %1, a su izquierda: la capa %2 se apoya en menos de cuatro picados (%3)</translation>
+    </message>
+    <message>
+        <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
+        <translation>%1 picados no encajan en ninguna capa y no se asignan (disparo/traza): %2</translation>
+    </message>
+    <message>
+        <source>Known ground</source>
+        <translation>Terreno conocido</translation>
+    </message>
+    <message>
+        <source>with %1 ms less, the pick of receiver %2 would come before the shot</source>
+        <translation>con %1 ms menos, el picado del receptor %2 quedaría antes del disparo</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>La sección se ajusta a los picados dentro de sus errores: chi cuadrado %1. El modelo de partida se ajusta mejor, chi cuadrado %2, y se suavizó hasta donde permiten los errores. Indique errores %3 veces como estos para conservarlo nítido.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
+        <translation>%1 El modelo de partida estaba demasiado lejos de los picados, chi cuadrado %2, para mantener la sección en sus saltos bruscos: estos se suavizaron antes.</translation>
+    </message>
+    <message>
+        <source>%1 holds no cell of the grid: it is too small, or beyond it.</source>
+        <translation>%1 no contiene ninguna celda de la malla: es demasiado pequeño o está fuera de ella.</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m stands beyond the grid.</source>
+        <translation>%1, en %2 m, está fuera de la malla.</translation>
+    </message>
+    <message>
+        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
+        <translation>%1 llega a %2 m de profundidad, por debajo de la malla; lo que está por debajo de %3 m no cuenta.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3 m</source>
+        <translation>%1, de %2 a %3 m</translation>
+    </message>
+    <message>
+        <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
+        <translation>%1: ninguna celda es en su mayor parte de esta capa; cuenta por su parte de las celdas, o está dentro de un cuerpo fijo.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (a %2 m a lo largo de la línea y %3 m de profundidad) está fuera de la malla, o más cerca de su borde que su error o una celda.</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s at %3 m</source>
+        <translation>%1, %2 m/s en %3 m</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s above</source>
+        <translation>%1, %2 m/s por encima</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s below</source>
+        <translation>%1, %2 m/s por debajo</translation>
+    </message>
+    <message>
+        <source>Layered interpretation</source>
+        <translation>Interpretación por capas</translation>
+    </message>
+    <message>
+        <source>Section of another project</source>
+        <translation>Sección de otro proyecto</translation>
+    </message>
+    <message>
+        <source>There is no layered interpretation to start from. Build one first.</source>
+        <translation>No hay ninguna interpretación por capas de la que partir. Construya antes una.</translation>
+    </message>
+    <message>
+        <source>Mean residual of the rays</source>
+        <translation>Residuo medio de los rayos</translation>
+    </message>
+    <message>
+        <source>Mean residual over pick error</source>
+        <translation>Residuo medio entre error del picado</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
