@@ -7726,6 +7726,66 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
         <translation>Desajuste RMS de la sección tras cada iteración; 0 es el modelo inicial</translation>
     </message>
+    <message>
+        <source>Reciprocal</source>
+        <translation>Recíproco</translation>
+    </message>
+    <message>
+        <source>Delay times</source>
+        <translation>Tiempos de retardo</translation>
+    </message>
+    <message>
+        <source>Intercept times</source>
+        <translation>Tiempos de intercepción</translation>
+    </message>
+    <message>
+        <source>Plus-minus</source>
+        <translation>Más-menos</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>ambas</translation>
+    </message>
+    <message>
+        <source>depth</source>
+        <translation>profundidad</translation>
+    </message>
+    <message>
+        <source>velocity</source>
+        <translation>velocidad</translation>
+    </message>
+    <message>
+        <source>%1: depth [m]</source>
+        <translation>%1: profundidad [m]</translation>
+    </message>
+    <message>
+        <source>%1: velocity [m/s]</source>
+        <translation>%1: velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Disagree in</source>
+        <translation>Discrepan en</translation>
+    </message>
+    <message>
+        <source>Layers by method</source>
+        <translation>Capas por método</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface. A value in parentheses is not carried by picks there, but by shifted arrivals of other shots, across a gap or by a continuation.</source>
+        <translation>Las profundidades son bajo la superficie. Un valor entre paréntesis no se apoya en picados de ese punto, sino en llegadas desplazadas de otros disparos, salvando un hueco o por prolongación.</translation>
+    </message>
+    <message>
+        <source>Errors are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations. Methods disagree where two of them differ by more than three times what their difference scatters by.</source>
+        <translation>Los errores son la mitad del ancho dentro del cual caen 68 de cada 100 resultados al desplazar los picados según sus errores, con %1 de estas interpretaciones. Los métodos discrepan donde dos de ellos difieren en más de tres veces la dispersión de su diferencia.</translation>
+    </message>
+    <message>
+        <source>Layer %1 by method</source>
+        <translation>Capa %1 por método</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks, shot by geophone</source>
+        <translation>Residuos de los picados, disparo por geófono</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -7839,6 +7899,327 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
             <numerusform>%n página</numerusform>
             <numerusform>%n páginas</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResidualsDialog</name>
+    <message>
+        <source>Residuals</source>
+        <translation>Residuos</translation>
+    </message>
+    <message>
+        <source>Residuals &amp;in:</source>
+        <translation>Residuos &amp;en:</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>Milisegundos</translation>
+    </message>
+    <message>
+        <source>Errors of the picks</source>
+        <translation>Errores de los picados</translation>
+    </message>
+    <message>
+        <source>&amp;Colour shot:</source>
+        <translation>&amp;Resaltar disparo:</translation>
+    </message>
+    <message>
+        <source>Whose dots have a colour of their own in the picture over the offset</source>
+        <translation>Disparo cuyos puntos tienen color propio en la imagen según la distancia</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mapa</translation>
+    </message>
+    <message>
+        <source>Residuals, shot by geophone</source>
+        <translation>Residuos, disparo por geófono</translation>
+    </message>
+    <message>
+        <source>Over the &amp;offset</source>
+        <translation>Según la &amp;distancia</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residuos según la distancia al disparo</translation>
+    </message>
+    <message>
+        <source>Shots and &amp;geophones</source>
+        <translation>Disparos y geó&amp;fonos</translation>
+    </message>
+    <message>
+        <source>Residuals per shot</source>
+        <translation>Residuos por disparo</translation>
+    </message>
+    <message>
+        <source>Residuals per geophone</source>
+        <translation>Residuos por geófono</translation>
+    </message>
+    <message>
+        <source>&amp;Along the rays</source>
+        <translation>A &amp;lo largo de los rayos</translation>
+    </message>
+    <message>
+        <source>Every cell has the mean residual of the rays through it, by their lengths in it; suspect picks are left out.</source>
+        <translation>Cada celda tiene el residuo medio de los rayos que la atraviesan, ponderado por su longitud en ella; los picados sospechosos se excluyen.</translation>
+    </message>
+    <message>
+        <source>Shows the trace of the current pick in the window, as a click on it or Return does</source>
+        <translation>Muestra en la ventana la traza del picado actual, como un clic en él o Intro</translation>
+    </message>
+    <message>
+        <source>Show &amp;trace</source>
+        <translation>Mostrar &amp;traza</translation>
+    </message>
+    <message>
+        <source>Puts the picture in view on the clipboard</source>
+        <translation>Copia en el portapapeles la imagen visible</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>&amp;Copiar imagen</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture...</source>
+        <translation>Guardar &amp;imagen...</translation>
+    </message>
+    <message>
+        <source>All picks with their residuals, for spreadsheets</source>
+        <translation>Todos los picados con sus residuos, para hojas de cálculo</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Guardar tabla...</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>Geophone at %1 m</source>
+        <translation>Geófono en %1 m</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Aún no hay sección cuyos tiempos se puedan revisar.</translation>
+    </message>
+    <message>
+        <source>Section of &quot;%1&quot;: %2.</source>
+        <translation>Sección de «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Picks: %1, suspect: %2.</source>
+        <translation>Picados: %1, sospechosos: %2.</translation>
+    </message>
+    <message>
+        <source>The section was smoothed afterwards.</source>
+        <translation>La sección se suavizó después.</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found are counted.</source>
+        <translation>Se tienen en cuenta los desplazamientos en tiempo de los disparos que ha hallado el ajuste.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>Los picados han cambiado desde que se obtuvo la sección: se ajustó a otros.</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Distancia al disparo [m]</translation>
+    </message>
+    <message>
+        <source>Median [pick errors]</source>
+        <translation>Mediana [errores de los picados]</translation>
+    </message>
+    <message>
+        <source>Median [ms]</source>
+        <translation>Mediana [ms]</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geófono en [m]</translation>
+    </message>
+    <message>
+        <source>Click a pick, or walk to it with the arrow keys.</source>
+        <translation>Haga clic en un picado, o llegue a él con las teclas de flecha.</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
+        <translation>Disparo %1, geófono en %2 m: ningún picado con tiempo calculado</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: picks %2, median %3, two of three from %4 to %5</source>
+        <translation>%1: picados %2, mediana %3, dos de cada tres de %4 a %5</translation>
+    </message>
+    <message>
+        <source>; stands out</source>
+        <translation>; anómalo</translation>
+    </message>
+    <message>
+        <source>The picture cannot be made.</source>
+        <translation>No se puede crear la imagen.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResolutionDialog</name>
+    <message>
+        <source>Resolution Test</source>
+        <translation>Prueba de resolución</translation>
+    </message>
+    <message>
+        <source>Would the survey see it? A pattern is laid over the section, the times of all picks are computed through it with noise of their errors, and a section is fitted to them. Where what comes back correlates with what was put in, ground of that size is resolved.</source>
+        <translation>¿Lo vería el levantamiento? Se superpone un patrón a la sección, se calculan a través de él los tiempos de todos los picados con ruido según sus errores, y se les ajusta una sección. Donde lo recuperado se correlaciona con lo introducido, se resuelve terreno de ese tamaño.</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Patrón:</translation>
+    </message>
+    <message>
+        <source>What the section is disturbed by</source>
+        <translation>Con qué se perturba la sección</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze [m]:</source>
+        <translation>Ta&amp;maño [m]:</translation>
+    </message>
+    <message>
+        <source>Side of a square, or thickness of a layer</source>
+        <translation>Lado de un cuadrado, o espesor de una capa</translation>
+    </message>
+    <message>
+        <source>Se&amp;veral sizes</source>
+        <translation>&amp;Varios tamaños</translation>
+    </message>
+    <message>
+        <source>Try sizes from the distance between positions up to the largest that fits the grid, and tell the smallest that is resolved at each depth</source>
+        <translation>Prueba tamaños desde la distancia entre posiciones hasta el mayor que cabe en la malla, e indica el menor que se resuelve a cada profundidad</translation>
+    </message>
+    <message>
+        <source>St&amp;rength [%]:</source>
+        <translation>Inte&amp;nsidad [%]:</translation>
+    </message>
+    <message>
+        <source>How much faster and slower the pattern is than the section</source>
+        <translation>Cuánto más rápido y más lento que la sección es el patrón</translation>
+    </message>
+    <message>
+        <source>&amp;Over:</source>
+        <translation>&amp;Sobre:</translation>
+    </message>
+    <message>
+        <source>What the pattern is laid over</source>
+        <translation>A qué se superpone el patrón</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>S&amp;hown size:</source>
+        <translation>Tamaño m&amp;ostrado:</translation>
+    </message>
+    <message>
+        <source>Of which of the tests the pictures are</source>
+        <translation>De cuál de las pruebas son las imágenes</translation>
+    </message>
+    <message>
+        <source>Save P&amp;icture ...</source>
+        <translation>Guardar ima&amp;gen ...</translation>
+    </message>
+    <message>
+        <source>Save Ta&amp;ble ...</source>
+        <translation>Guardar ta&amp;bla ...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Tablero de ajedrez</translation>
+    </message>
+    <message>
+        <source>Spikes</source>
+        <translation>Picos aislados</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Capas</translation>
+    </message>
+    <message>
+        <source>the section</source>
+        <translation>la sección</translation>
+    </message>
+    <message>
+        <source>its mean at each depth</source>
+        <translation>su media a cada profundidad</translation>
+    </message>
+    <message>
+        <source>Start shows here what was put in, what came back and how they agree.</source>
+        <translation>Iniciar muestra aquí lo introducido, lo recuperado y cómo concuerdan.</translation>
+    </message>
+    <message>
+        <source>The test is under way.</source>
+        <translation>La prueba está en curso.</translation>
+    </message>
+    <message>
+        <source>Times are computed through the pattern.</source>
+        <translation>Se calculan los tiempos a través del patrón.</translation>
+    </message>
+    <message>
+        <source>Size %1: iteration %2.</source>
+        <translation>Tamaño %1: iteración %2.</translation>
+    </message>
+    <message>
+        <source>Stopped before the first test was completed.</source>
+        <translation>Detenida antes de completar la primera prueba.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped: %n test(s) completed.</source>
+        <translation>
+            <numerusform>Detenida: %n prueba completada.</numerusform>
+            <numerusform>Detenida: %n pruebas completadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No test was completed.</source>
+        <translation>No se ha completado ninguna prueba.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The resolution test could not be completed.</source>
+        <translation>No se ha podido completar la prueba de resolución.</translation>
+    </message>
+    <message>
+        <source>at %1 m none</source>
+        <translation>a %1 m, ninguno</translation>
+    </message>
+    <message>
+        <source>at %1 m depth %2 m</source>
+        <translation>a %1 m de profundidad, %2 m</translation>
+    </message>
+    <message>
+        <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
+        <translation>Menor tamaño que se resuelve (correlación a partir de %1): %2.</translation>
     </message>
 </context>
 <context>
