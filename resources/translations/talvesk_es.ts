@@ -8241,20 +8241,12 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>velocidades de %1 a %2 m/s</translation>
     </message>
     <message>
-        <source>errors of %1 ms or %2 %</source>
-        <translation>errores de %1 ms o %2 %</translation>
-    </message>
-    <message>
         <source>robust</source>
         <translation>robusto</translation>
     </message>
     <message>
         <source>blocky</source>
         <translation>por bloques</translation>
-    </message>
-    <message>
-        <source>with shot statics</source>
-        <translation>con estáticas de disparo</translation>
     </message>
     <message>
         <source>suspect picks: %1</source>
@@ -8288,6 +8280,34 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>positions have changed since</source>
         <translation>las posiciones han cambiado desde entonces</translation>
     </message>
+    <message>
+        <source>%1 ms or %2 %</source>
+        <translation>%1 ms o %2 %</translation>
+    </message>
+    <message>
+        <source>errors of %1</source>
+        <translation>errores de %1</translation>
+    </message>
+    <message>
+        <source>from &quot;%1&quot;</source>
+        <translation>desde «%1»</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>no robusto</translation>
+    </message>
+    <message>
+        <source>with shot statics, trigger error %1 ms</source>
+        <translation>con estáticas de disparo, error de disparo %1 ms</translation>
+    </message>
+    <message>
+        <source>held to known ground</source>
+        <translation>condicionado al terreno conocido</translation>
+    </message>
+    <message>
+        <source>from coarse to fine</source>
+        <translation>de grueso a fino</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RunsDialog</name>
@@ -8314,10 +8334,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>RMS [ms]</source>
         <translation>RMS [ms]</translation>
-    </message>
-    <message>
-        <source>RMS [%]</source>
-        <translation>RMS [%]</translation>
     </message>
     <message>
         <source>Iterations</source>
@@ -8374,6 +8390,30 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>in use</source>
         <translation>en uso</translation>
+    </message>
+    <message>
+        <source>By errors of</source>
+        <translation>Con errores de</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none, by which chi-square is measured: figures by other errors do not compare.</source>
+        <translation>Errores de los picados que no indican ninguno, con los que se mide chi cuadrado: los valores con otros errores no son comparables.</translation>
+    </message>
+    <message>
+        <source>Of what chi-square counts: without suspect picks, with the time shifts of shots that a fit has found.</source>
+        <translation>De lo que cuenta chi cuadrado: sin los picados sospechosos, con los desplazamientos en tiempo de los disparos que ha hallado un ajuste.</translation>
+    </message>
+    <message>
+        <source>RMS of all [ms]</source>
+        <translation>RMS de todos [ms]</translation>
+    </message>
+    <message>
+        <source>Of all picks as they are, suspect ones among them, without time shifts.</source>
+        <translation>De todos los picados tal como están, incluidos los sospechosos, sin desplazamientos en tiempo.</translation>
+    </message>
+    <message>
+        <source>RMS of all [%]</source>
+        <translation>RMS de todos [%]</translation>
     </message>
 </context>
 <context>
@@ -8450,16 +8490,8 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Positivo: el registro comienza demasiado tarde, y sus picados llegan tarde.</translation>
     </message>
     <message>
-        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
-        <translation>Desplaza los registros de los disparos marcados con sus picados, como hace Corregir registro. Se deshace en un solo paso.</translation>
-    </message>
-    <message>
         <source>&amp;Take over as time shifts of the records</source>
         <translation>&amp;Adoptar como desplazamientos en tiempo de los registros</translation>
-    </message>
-    <message>
-        <source>no recording that could be shifted</source>
-        <translation>sin registro que se pueda desplazar</translation>
     </message>
     <message>
         <source>There is no section yet whose times could be looked at.</source>
@@ -8478,24 +8510,48 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Picados que se desvían más de cinco de sus errores; un clic muestra la traza:</translation>
     </message>
     <message>
-        <source>Time shifts of shots that the fit has found:</source>
-        <translation>Desplazamientos en tiempo de los disparos que ha hallado el ajuste:</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m, depth %3 to %4 m</source>
-        <translation>%1 a %2 m, profundidad %3 a %4 m</translation>
-    </message>
-    <message>
-        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
-        <translation>Celdas en el límite de %1 m/s: %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
-        <translation>Celdas mostradas que no cruza ningún rayo: %1 de %2 (%3)</translation>
-    </message>
-    <message>
         <source>No velocity is at a limit, and rays cross all cells shown.</source>
         <translation>Ninguna velocidad está en un límite, y los rayos cruzan todas las celdas mostradas.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does; of shots without a recording the picks, with their errors. One step to be undone.</source>
+        <translation>Desplaza los registros de los disparos marcados con sus picados, como hace Corregir registro; en los disparos sin registro, los picados con sus errores. Se deshace en un solo paso.</translation>
+    </message>
+    <message>
+        <source>no recording: its picks are shifted</source>
+        <translation>sin registro: se desplazan sus picados</translation>
+    </message>
+    <message>
+        <source>Errors of picks below %1 ms count as %1 ms: %2</source>
+        <translation>Errores de picados por debajo de %1 ms, contados como %1 ms: %2</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found; a click shows the shot:</source>
+        <translation>Desplazamientos en tiempo de los disparos que ha hallado el ajuste; un clic muestra el disparo:</translation>
+    </message>
+    <message>
+        <source>Ground to look at; a click shows it in the section:</source>
+        <translation>Terreno que revisar; un clic lo muestra en la sección:</translation>
+    </message>
+    <message>
+        <source>No pick stands out: %1 are off by more than five of their errors, but none by more than %2, as the section does not fit the picks to their errors.</source>
+        <translation>Ningún picado destaca: %1 se desvían más de cinco veces su error, pero ninguno más de %2, pues la sección no se ajusta a los picados dentro de sus errores.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than %2 of their errors, which stand out where %1 are off by more than five; a click shows the trace:</source>
+        <translation>Picados que se desvían más de %2 veces su error y destacan donde %1 se desvían más de cinco; un clic muestra la traza:</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2</source>
+        <translation>Celdas en el límite de %1 m/s: %2</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2</source>
+        <translation>Celdas mostradas que no cruza ningún rayo: %1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
+        <translation>%1 (de %2 a %3 m, profundidad de %4 a %5 m)</translation>
     </message>
 </context>
 <context>
@@ -10650,6 +10706,171 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Uncertainty %1 %</source>
         <translation>Incertidumbre %1 %</translation>
+    </message>
+    <message>
+        <source>Residuals...</source>
+        <translation>Residuos...</translation>
+    </message>
+    <message>
+        <source>Look at what the section leaves of every pick: shot by geophone, over the offset, per shot and geophone, and along the rays</source>
+        <translation>Muestra lo que la sección deja de cada picado: disparo por geófono, según la distancia, por disparo y geófono, y a lo largo de los rayos</translation>
+    </message>
+    <message>
+        <source>Known ground ...</source>
+        <translation>Terreno conocido ...</translation>
+    </message>
+    <message>
+        <source>Boreholes, known depths and bodies of known velocity, to be drawn and to hold a fit to</source>
+        <translation>Sondeos, profundidades conocidas y cuerpos de velocidad conocida, para dibujarlos y condicionar un ajuste</translation>
+    </message>
+    <message>
+        <source>Show known ground</source>
+        <translation>Mostrar terreno conocido</translation>
+    </message>
+    <message>
+        <source>Draw boreholes, known depths and bodies over the section</source>
+        <translation>Dibuja sondeos, profundidades conocidas y cuerpos sobre la sección</translation>
+    </message>
+    <message>
+        <source>Resolution test ...</source>
+        <translation>Prueba de resolución ...</translation>
+    </message>
+    <message>
+        <source>Find out how small ground may be that this survey still sees, by patterns laid over the section</source>
+        <translation>Determina lo pequeño que puede ser el terreno que este levantamiento aún ve, con patrones superpuestos a la sección</translation>
+    </message>
+    <message>
+        <source>Fade Uncertain Ground</source>
+        <translation>Atenuar terreno incierto</translation>
+    </message>
+    <message>
+        <source>Let the colours of the velocity section pale where it is not sure</source>
+        <translation>Hace palidecer los colores de la sección de velocidad donde no es segura</translation>
+    </message>
+    <message>
+        <source>Depth Bands ...</source>
+        <translation>Bandas de profundidad ...</translation>
+    </message>
+    <message>
+        <source>Draw between which depths velocities of your choice are reached, 16 to 84 %</source>
+        <translation>Dibuja entre qué profundidades se alcanzan las velocidades que usted elija, del 16 al 84 %</translation>
+    </message>
+    <message>
+        <source>Certainty as table ...</source>
+        <translation>Certeza como tabla ...</translation>
+    </message>
+    <message>
+        <source>Export median, 16 and 84 % velocity and spread of every cell as a table (.csv)</source>
+        <translation>Exporta como tabla (.csv) la velocidad mediana, la del 16 y 84 % y la dispersión de cada celda</translation>
+    </message>
+    <message>
+        <source>Export Certainty Table</source>
+        <translation>Exportar tabla de certeza</translation>
+    </message>
+    <message>
+        <source>Table of the certainty (*.csv);;All Files (*)</source>
+        <translation>Tabla de la certeza (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Stopped before anything was found; the section is as it was.</source>
+        <translation>Detenida antes de hallar nada; la sección está como estaba.</translation>
+    </message>
+    <message>
+        <source>The section is not held to known ground.</source>
+        <translation>La sección no está condicionada al terreno conocido.</translation>
+    </message>
+    <message>
+        <source>The section is held to this.</source>
+        <translation>La sección está condicionada a este terreno.</translation>
+    </message>
+    <message>
+        <source>The section is held to known ground that was another: run the fit again.</source>
+        <translation>La sección está condicionada a un terreno conocido distinto: ejecute de nuevo el ajuste.</translation>
+    </message>
+    <message>
+        <source>Import known ground</source>
+        <translation>Importar terreno conocido</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv *.txt);;All files (*)</source>
+        <translation>Tablas de terreno conocido (*.csv *.txt);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>Export known ground</source>
+        <translation>Exportar terreno conocido</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv)</source>
+        <translation>Tablas de terreno conocido (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save picture of residuals</source>
+        <translation>Guardar imagen de los residuos</translation>
+    </message>
+    <message>
+        <source>Save table of residuals</source>
+        <translation>Guardar tabla de los residuos</translation>
+    </message>
+    <message>
+        <source>Save picture of the resolution test</source>
+        <translation>Guardar imagen de la prueba de resolución</translation>
+    </message>
+    <message>
+        <source>Save table of the resolution test</source>
+        <translation>Guardar tabla de la prueba de resolución</translation>
+    </message>
+    <message>
+        <source>Table of resolution by depth (*.csv)</source>
+        <translation>Tabla de resolución por profundidad (*.csv)</translation>
+    </message>
+    <message>
+        <source>How sure the section before was is known no more; Undo brings back both.</source>
+        <translation>La certeza de la sección anterior ya no se conoce; Deshacer recupera ambas.</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>picados sospechosos: %1</translation>
+    </message>
+    <message>
+        <source>time shifts of shots: %1</source>
+        <translation>desplazamientos en tiempo de los disparos: %1</translation>
+    </message>
+    <message>
+        <source>cells at a limit of the velocity: %1</source>
+        <translation>celdas en un límite de velocidad: %1</translation>
+    </message>
+    <message>
+        <source>cells shown that no ray crosses: %1</source>
+        <translation>celdas mostradas que no cruza ningún rayo: %1</translation>
+    </message>
+    <message>
+        <source>Second look (%1)</source>
+        <comment>kinds of things to look at</comment>
+        <translation>Segunda revisión (%1)</translation>
+    </message>
+    <message>
+        <source>Shots without a recording, whose picks were shifted: %1.</source>
+        <translation>Disparos sin registro cuyos picados se han desplazado: %1.</translation>
+    </message>
+    <message>
+        <source>Depth Bands</source>
+        <translation>Bandas de profundidad</translation>
+    </message>
+    <message>
+        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Hasta %1 &amp;velocidades en m/s; las profundidades a las que las alcanza el 68 % central de los miembros se dibujan como banda. Sin ninguna se quitan las bandas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list of velocities.</source>
+        <translation>«%1» no es una lista de velocidades.</translation>
+    </message>
+    <message>
+        <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
+        <translation>Escriba hasta %1 números mayores que 0 separados por punto y coma: 800; 1500</translation>
     </message>
 </context>
 <context>
