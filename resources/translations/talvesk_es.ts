@@ -8298,7 +8298,7 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     </message>
     <message>
         <source>with shot statics, trigger error %1 ms</source>
-        <translation>con estáticas de disparo, error de disparo %1 ms</translation>
+        <translation>con estáticas de disparo, error del tiempo de disparo %1 ms</translation>
     </message>
     <message>
         <source>held to known ground</source>
