@@ -401,6 +401,18 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <comment>run, remarks</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>by errors of %1</source>
+        <translation>con errores de %1</translation>
+    </message>
+    <message>
+        <source>by other errors, so these do not compare: %1</source>
+        <translation>con otros errores, así que no son comparables: %1</translation>
+    </message>
+    <message>
+        <source>of all picks as they are %1 ms</source>
+        <translation>de todos los picados tal como están, %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::DialogSetGeometry</name>
@@ -1179,6 +1191,102 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>[m]</source>
         <translation>[m]</translation>
     </message>
+    <message>
+        <source>Depth of %1, 16 to 84 %</source>
+        <translation>Profundidad de %1, del 16 al 84 %</translation>
+    </message>
+    <message>
+        <source>Pale: uncertain, ± %1 to %2 % and no ray</source>
+        <translation>Pálido: incierto, de ± %1 a %2 %, y sin rayos</translation>
+    </message>
+    <message>
+        <source>picks have changed since the certainty was found out</source>
+        <translation>los picados han cambiado desde que se determinó la certeza</translation>
+    </message>
+    <message>
+        <source>certainty of other sections than this one: %1 % of its cells with rays lie beyond two deviations</source>
+        <translation>certeza de secciones distintas de esta: el %1 % de sus celdas con rayos queda fuera de dos desviaciones</translation>
+    </message>
+    <message>
+        <source>±: half of the range from 16 to 84 % of %1 members</source>
+        <translation>±: mitad del intervalo del 16 al 84 % de %1 miembros</translation>
+    </message>
+    <message>
+        <source>certainty of %1 members</source>
+        <translation>certeza de %1 miembros</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 excluidos</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geófono en [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [pick errors]</source>
+        <translation>Calculado menos medido [errores de los picados]</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Disparo %1, geófono %2 en %3 m, distancia al disparo %4 m: medido %5 ms, calculado %6 ms, residuo %7 ms, error %8 ms (%9 errores)</translation>
+    </message>
+    <message>
+        <source>; suspect</source>
+        <translation>; sospechoso</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geófono en [m]; rayado: sin picado; con punto: sospechoso</translation>
+    </message>
+    <message>
+        <source>Shot, along the line</source>
+        <translation>Disparo, a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picados</translation>
+    </message>
+    <message>
+        <source>Suspect</source>
+        <translation>Sospechosos</translation>
+    </message>
+    <message>
+        <source>Running median</source>
+        <translation>Mediana móvil</translation>
+    </message>
+    <message>
+        <source>One standard deviation</source>
+        <translation>Una desviación estándar</translation>
+    </message>
+    <message>
+        <source>Stands out</source>
+        <translation>Anómalo</translation>
+    </message>
+    <message>
+        <source>Median and one standard deviation</source>
+        <translation>Mediana y una desviación estándar</translation>
+    </message>
+    <message>
+        <source>%1: %2 m/s</source>
+        <translation>%1: %2 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m beside the line)</source>
+        <translation>%1 (a %2 m de la línea)</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Sondeos</translation>
+    </message>
+    <message>
+        <source>Known depths</source>
+        <translation>Profundidades conocidas</translation>
+    </message>
+    <message>
+        <source>Fixed bodies</source>
+        <translation>Cuerpos fijos</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1313,6 +1421,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Picks</source>
         <translation>Picados</translation>
+    </message>
+    <message>
+        <source>The section is drawn to the velocities and depths of &quot;Known ground&quot; by their errors, and fixed bodies stay as they are. How the section goes with them is told after the run; chi-square is of the picks alone.</source>
+        <translation>La sección se acerca a las velocidades y profundidades de «Terreno conocido» según sus errores, y los cuerpos fijos quedan como están. Tras la inversión se indica cómo concuerda con ellos la sección; chi cuadrado es solo de los picados.</translation>
+    </message>
+    <message>
+        <source>Hold to known ground</source>
+        <translation>Condicionar al terreno conocido</translation>
     </message>
 </context>
 <context>
@@ -1711,6 +1827,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>%1 (exists)</source>
         <translation>%1 (ya existe)</translation>
     </message>
+    <message>
+        <source>Residuals of the picks</source>
+        <translation>Residuos de los picados</translation>
+    </message>
+    <message>
+        <source>Shot by geophone, and in the section along the rays</source>
+        <translation>Disparo por geófono, y en la sección a lo largo de los rayos</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::InversionTexts</name>
@@ -1819,6 +1943,208 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Best of the picks&apos; models</source>
         <translation>El mejor modelo de los picados</translation>
+    </message>
+    <message>
+        <source>With the time shifts of shots</source>
+        <translation>Con los desplazamientos en tiempo de los disparos</translation>
+    </message>
+    <message>
+        <source>Without suspects, with the time shifts of shots</source>
+        <translation>Sin sospechosos, con los desplazamientos en tiempo de los disparos</translation>
+    </message>
+    <message>
+        <source>Without suspects</source>
+        <translation>Sin sospechosos</translation>
+    </message>
+    <message>
+        <source>All picks as they are, </source>
+        <translation>Todos los picados tal como están, </translation>
+    </message>
+    <message>
+        <source>Known ground: %1 conditions, RMS %2 of their errors; fixed cells %3
+</source>
+        <translation>Terreno conocido: %1 condiciones, RMS %2 de sus errores; celdas fijas %3
+</translation>
+    </message>
+    <message>
+        <source>The section does not go with %1: off by %2 of its errors
+</source>
+        <translation>La sección no concuerda con %1: se desvía %2 veces su error
+</translation>
+    </message>
+    <message>
+        <source>RMS of what chi-square counts: %1 ms.</source>
+        <translation>RMS de lo que cuenta chi cuadrado: %1 ms.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownGroundDialog</name>
+    <message>
+        <source>Known ground</source>
+        <translation>Terreno conocido</translation>
+    </message>
+    <message>
+        <source>&amp;Boreholes</source>
+        <translation>&amp;Sondeos</translation>
+    </message>
+    <message>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Cada fila es una capa; las capas con el mismo nombre son de un mismo sondeo, de arriba abajo. Las profundidades son metros bajo la superficie. Sin error, una velocidad se considera conocida al 5 %.</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Sondeos</translation>
+    </message>
+    <message>
+        <source>&amp;Depths</source>
+        <translation>&amp;Profundidades</translation>
+    </message>
+    <message>
+        <source>A row is a place where a refractor is known to lie: the velocity that is reached there, or those above and below. Without an error a depth counts as known to a tenth. Points of one refractor number belong together.</source>
+        <translation>Cada fila es un punto donde se sabe que hay un refractor: la velocidad que se alcanza ahí, o las de encima y debajo. Sin error, una profundidad se considera conocida a una décima parte. Los puntos con el mismo número de refractor van juntos.</translation>
+    </message>
+    <message>
+        <source>Depths</source>
+        <translation>Profundidades</translation>
+    </message>
+    <message>
+        <source>B&amp;odies</source>
+        <translation>&amp;Cuerpos</translation>
+    </message>
+    <message>
+        <source>A row is a corner; corners of one name go around a body of known velocity, which a fit leaves as it is.</source>
+        <translation>Cada fila es un vértice; los vértices con el mismo nombre rodean un cuerpo de velocidad conocida, que el ajuste deja como está.</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Cuerpos</translation>
+    </message>
+    <message>
+        <source>Insert a row above the current one. The last line of a table is always empty: type there to go on</source>
+        <translation>Inserta una fila encima de la actual. La última línea de una tabla siempre está vacía: escriba ahí para continuar</translation>
+    </message>
+    <message>
+        <source>&amp;Add row</source>
+        <translation>&amp;Añadir fila</translation>
+    </message>
+    <message>
+        <source>Remove the rows with selected cells</source>
+        <translation>Quita las filas con celdas seleccionadas</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>&amp;Quitar filas</translation>
+    </message>
+    <message>
+        <source>Take the last step in these tables back</source>
+        <translation>Deshace el último cambio en estas tablas</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Do it again</source>
+        <translation>Lo rehace</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Read a table in place of all that stands here</source>
+        <translation>Lee una tabla en lugar de todo lo que hay aquí</translation>
+    </message>
+    <message>
+        <source>&amp;Import ...</source>
+        <translation>&amp;Importar ...</translation>
+    </message>
+    <message>
+        <source>Write all of it as one table</source>
+        <translation>Lo escribe todo como una sola tabla</translation>
+    </message>
+    <message>
+        <source>&amp;Export ...</source>
+        <translation>&amp;Exportar ...</translation>
+    </message>
+    <message>
+        <source>Boreholes: %1, known depths: %2, bodies: %3.</source>
+        <translation>Sondeos: %1, profundidades conocidas: %2, cuerpos: %3.</translation>
+    </message>
+    <message>
+        <source>%1, row %2: %3.</source>
+        <translation>%1, fila %2: %3.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed in these tables?</source>
+        <translation>¿Descartar los cambios de estas tablas?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownTable</name>
+    <message>
+        <source>Position [m]</source>
+        <translation>Posición [m]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Distancia a la línea [m]</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Techo [m]</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profundidad [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Base [m]</translation>
+    </message>
+    <message>
+        <source>Isovalue [m/s]</source>
+        <translation>Isovalor [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Error [m]</source>
+        <translation>Error [m]</translation>
+    </message>
+    <message>
+        <source>Error [m/s]</source>
+        <translation>Error [m/s]</translation>
+    </message>
+    <message>
+        <source>Refractor</source>
+        <translation>Refractor</translation>
+    </message>
+    <message>
+        <source>Above [m/s]</source>
+        <translation>Encima [m/s]</translation>
+    </message>
+    <message>
+        <source>Below [m/s]</source>
+        <translation>Debajo [m/s]</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>«%1» no es un número.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows of %2 columns do not fit from here on.</source>
+        <translation>No se ha pegado nada: %1 filas de %2 columnas no caben a partir de aquí.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted. Row %1: %2</source>
+        <translation>No se ha pegado nada. Fila %1: %2</translation>
     </message>
 </context>
 <context>
@@ -5289,6 +5615,338 @@ Defina la posición de los geófonos
         <source>Uncertainty of velocity</source>
         <translation>Incertidumbre de la velocidad</translation>
     </message>
+    <message>
+        <source>There are no picks yet: a resolution test takes their positions and errors.</source>
+        <translation>Aún no hay picados: una prueba de resolución usa sus posiciones y errores.</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known; find it out first</source>
+        <translation>no se conoce la certeza de la sección; determínela antes</translation>
+    </message>
+    <message>
+        <source>there is no section whose times could be compared with the picks; run an inversion first</source>
+        <translation>no hay ninguna sección cuyos tiempos se puedan comparar con los picados; ejecute antes una inversión</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw.</source>
+        <translation>No hay nada que dibujar.</translation>
+    </message>
+    <message>
+        <source>There are no rays of this section.</source>
+        <translation>No hay rayos de esta sección.</translation>
+    </message>
+    <message>
+        <source>it does not begin with a heading of the columns kind, name, x, depth, bottom, velocity, error, ...</source>
+        <translation>no empieza con un encabezado con las columnas kind, name, x, depth, bottom, velocity, error, ...</translation>
+    </message>
+    <message>
+        <source>there is no column %1</source>
+        <translation>no hay ninguna columna %1</translation>
+    </message>
+    <message>
+        <source>column %1 is in another unit than m and m/s</source>
+        <translation>la columna %1 está en una unidad distinta de m y m/s</translation>
+    </message>
+    <message>
+        <source>it has too many rows</source>
+        <translation>tiene demasiadas filas</translation>
+    </message>
+    <message>
+        <source>%1 is none of borehole, depth, body</source>
+        <translation>%1 no es borehole, depth ni body</translation>
+    </message>
+    <message>
+        <source>%1 is no number for %2</source>
+        <translation>%1 no es un número para %2</translation>
+    </message>
+    <message>
+        <source>there is no row below its heading</source>
+        <translation>no hay ninguna fila bajo el encabezado</translation>
+    </message>
+    <message>
+        <source>what was known of its ground is lost</source>
+        <translation>se ha perdido lo que se conocía de su terreno</translation>
+    </message>
+    <message>
+        <source>finding out how sure the section is begins anew instead of going on</source>
+        <translation>la determinación de la certeza de la sección empieza de nuevo en vez de continuar</translation>
+    </message>
+    <message>
+        <source>it does not go with the certainty of the project</source>
+        <translation>no concuerda con la certeza del proyecto</translation>
+    </message>
+    <message>
+        <source>what it counts cannot be</source>
+        <translation>sus recuentos son imposibles</translation>
+    </message>
+    <message>
+        <source>its depth bands cannot be drawn so; there are none now</source>
+        <translation>sus bandas de profundidad no se pueden dibujar así; ahora no hay ninguna</translation>
+    </message>
+    <message>
+        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
+        <translation>%1 m/s no es una velocidad del terreno (de %2 a %3)</translation>
+    </message>
+    <message>
+        <source>%1 m is no depth below the surface (0 to %2)</source>
+        <translation>%1 m no es una profundidad bajo la superficie (de 0 a %2)</translation>
+    </message>
+    <message>
+        <source>%1 m is no position along the line</source>
+        <translation>%1 m no es una posición a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation>no tiene nombre</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 m has its bottom not below its top</source>
+        <translation>una capa de %1 a %2 m no tiene la base por debajo del techo</translation>
+    </message>
+    <message>
+        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
+        <translation>un error de %1 m/s no debe ser negativo, y ha de ser menor que su velocidad, %2</translation>
+    </message>
+    <message>
+        <source>it has no layer</source>
+        <translation>no tiene ninguna capa</translation>
+    </message>
+    <message>
+        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
+        <translation>la capa desde %1 m empieza por encima de la base de la anterior, %2 m</translation>
+    </message>
+    <message>
+        <source>%1 m is no error of a depth</source>
+        <translation>%1 m no es un error de una profundidad</translation>
+    </message>
+    <message>
+        <source>refractors have the numbers 1 to %1</source>
+        <translation>los refractores se numeran de 1 a %1</translation>
+    </message>
+    <message>
+        <source>the velocities above and below are the same, so nothing begins here</source>
+        <translation>las velocidades de encima y debajo son iguales, así que aquí no empieza nada</translation>
+    </message>
+    <message>
+        <source>its outline needs three corners at least</source>
+        <translation>su contorno necesita al menos tres vértices</translation>
+    </message>
+    <message>
+        <source>more is known than can be held: %1 boreholes, depths and bodies at most, with %2 layers and corners</source>
+        <translation>se conoce más de lo que se puede guardar: como máximo %1 sondeos, profundidades y cuerpos, con %2 capas y vértices</translation>
+    </message>
+    <message>
+        <source>borehole %1</source>
+        <translation>sondeo %1</translation>
+    </message>
+    <message>
+        <source>known depth %1</source>
+        <translation>profundidad conocida %1</translation>
+    </message>
+    <message>
+        <source>body %1</source>
+        <translation>cuerpo %1</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>falta %1</translation>
+    </message>
+    <message>
+        <source>a %1 has no %2</source>
+        <translation>las filas %1 no llevan %2</translation>
+    </message>
+    <message>
+        <source>borehole %1 stands somewhere else in the rows above</source>
+        <translation>el sondeo %1 está en otro lugar en las filas anteriores</translation>
+    </message>
+    <message>
+        <source>the number of a refractor is a whole one</source>
+        <translation>el número de un refractor es un entero</translation>
+    </message>
+    <message>
+        <source>body %1 has another velocity in the rows above</source>
+        <translation>el cuerpo %1 tiene otra velocidad en las filas anteriores</translation>
+    </message>
+    <message>
+        <source>fewer than six picks of it</source>
+        <translation>tiene menos de seis picados</translation>
+    </message>
+    <message>
+        <source>picks of it from shots on one side only, which cannot tell a dip from a velocity</source>
+        <translation>solo tiene picados de disparos de un lado, que no permiten distinguir un buzamiento de una velocidad</translation>
+    </message>
+    <message>
+        <source>no shot has three picks of it on one side, with waves the other way beside them, that are faster than the first layer</source>
+        <translation>ningún disparo tiene en un lado tres picados de ella, con ondas en sentido contrario junto a ellos, que sean más rápidos que la primera capa</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation>Capa %1: sin velocidad ni profundidad en %2 receptores, donde la velocidad resulta fuera del rango de 50 a 12 000 m/s.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
+        <translation>Capa %1: sin profundidad en %2 receptores, donde resulta mayor que la longitud de la línea.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where the ground above it comes out to cost no time.</source>
+        <translation>Capa %1: sin profundidad en %2 receptores, donde el terreno por encima resulta no costar tiempo.</translation>
+    </message>
+    <message>
+        <source>Layer %1: %2.</source>
+        <translation>Capa %1: %2.</translation>
+    </message>
+    <message>
+        <source>The first layer has no velocity, so there are no depths.</source>
+        <translation>La primera capa no tiene velocidad, así que no hay profundidades.</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: nothing</source>
+        <translation>Capa %1, %2: nada</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s, no depth</source>
+        <translation>Capa %1, %2: %3 m/s, sin profundidad</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Capa %1, %2: %3 m/s a una profundidad de %4 m (medianas); profundidades en %5 de %6 geófonos, %7 de ellas sin picados que las respalden allí</translation>
+    </message>
+    <message>
+        <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
+        <translation>Capa %1: los métodos discrepan más allá de los errores de los picados en la profundidad en %2 de %3 geófonos, en la velocidad en %4</translation>
+    </message>
+    <message>
+        <source>no two shots have picks of it at five geophones between them</source>
+        <translation>no hay dos disparos con picados de ella en cinco geófonos situados entre ambos</translation>
+    </message>
+    <message>
+        <source>no second layer can be fitted</source>
+        <translation>no se puede ajustar una segunda capa</translation>
+    </message>
+    <message>
+        <source>a second layer gains %1 ms</source>
+        <translation>una segunda capa mejora %1 ms</translation>
+    </message>
+    <message>
+        <source>no third layer can be fitted</source>
+        <translation>no se puede ajustar una tercera capa</translation>
+    </message>
+    <message>
+        <source>a third layer gains %1 ms</source>
+        <translation>una tercera capa mejora %1 ms</translation>
+    </message>
+    <message>
+        <source>1 layer, misfit %1 ms</source>
+        <translation>1 capa, desajuste %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 layers, misfit %2 ms</source>
+        <translation>%1 capas, desajuste %2 ms</translation>
+    </message>
+    <message>
+        <source>no layers are proposed: there are too few picks to fit any</source>
+        <translation>no se proponen capas: hay muy pocos picados para ajustarlas</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
+        <translation>sin capas: una velocidad que crece de forma uniforme con la profundidad, desde %1 m/s y %2 m/s por metro, tiene un desajuste de %3 ms</translation>
+    </message>
+    <message>
+        <source>%1; without layers, by a steady gradient, %2 ms</source>
+        <translation>%1; sin capas, con un gradiente uniforme, %2 ms</translation>
+    </message>
+    <message>
+        <source>three layers fit better, but no shot at each end of the line has picks of the layer in between: two layers are proposed</source>
+        <translation>tres capas se ajustan mejor, pero no hay en cada extremo de la línea un disparo con picados de la capa intermedia: se proponen dos capas</translation>
+    </message>
+    <message>
+        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>disparo %1, a su derecha: la capa %2 se apoya en menos de cuatro picados (%3)</translation>
+    </message>
+    <message>
+        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>disparo %1, a su izquierda: la capa %2 se apoya en menos de cuatro picados (%3)</translation>
+    </message>
+    <message>
+        <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
+        <translation>%1 picados no encajan en ninguna capa y no se asignan (disparo/traza): %2</translation>
+    </message>
+    <message>
+        <source>Known ground</source>
+        <translation>Terreno conocido</translation>
+    </message>
+    <message>
+        <source>with %1 ms less, the pick of receiver %2 would come before the shot</source>
+        <translation>con %1 ms menos, el picado del receptor %2 quedaría antes del disparo</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>La sección se ajusta a los picados dentro de sus errores: chi cuadrado %1. El modelo de partida se ajusta mejor, chi cuadrado %2, y se suavizó hasta donde permiten los errores. Indique errores %3 veces como estos para conservarlo nítido.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
+        <translation>%1 El modelo de partida estaba demasiado lejos de los picados, chi cuadrado %2, para mantener la sección en sus saltos bruscos: estos se suavizaron antes.</translation>
+    </message>
+    <message>
+        <source>%1 holds no cell of the grid: it is too small, or beyond it.</source>
+        <translation>%1 no contiene ninguna celda de la malla: es demasiado pequeño o está fuera de ella.</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m stands beyond the grid.</source>
+        <translation>%1, en %2 m, está fuera de la malla.</translation>
+    </message>
+    <message>
+        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
+        <translation>%1 llega a %2 m de profundidad, por debajo de la malla; lo que está por debajo de %3 m no cuenta.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3 m</source>
+        <translation>%1, de %2 a %3 m</translation>
+    </message>
+    <message>
+        <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
+        <translation>%1: ninguna celda es en su mayor parte de esta capa; cuenta por su parte de las celdas, o está dentro de un cuerpo fijo.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (a %2 m a lo largo de la línea y %3 m de profundidad) está fuera de la malla, o más cerca de su borde que su error o una celda.</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s at %3 m</source>
+        <translation>%1, %2 m/s en %3 m</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s above</source>
+        <translation>%1, %2 m/s por encima</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s below</source>
+        <translation>%1, %2 m/s por debajo</translation>
+    </message>
+    <message>
+        <source>Layered interpretation</source>
+        <translation>Interpretación por capas</translation>
+    </message>
+    <message>
+        <source>Section of another project</source>
+        <translation>Sección de otro proyecto</translation>
+    </message>
+    <message>
+        <source>There is no layered interpretation to start from. Build one first.</source>
+        <translation>No hay ninguna interpretación por capas de la que partir. Construya antes una.</translation>
+    </message>
+    <message>
+        <source>Mean residual of the rays</source>
+        <translation>Residuo medio de los rayos</translation>
+    </message>
+    <message>
+        <source>Mean residual over pick error</source>
+        <translation>Residuo medio entre error del picado</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7068,6 +7726,66 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
         <translation>Desajuste RMS de la sección tras cada iteración; 0 es el modelo inicial</translation>
     </message>
+    <message>
+        <source>Reciprocal</source>
+        <translation>Recíproco</translation>
+    </message>
+    <message>
+        <source>Delay times</source>
+        <translation>Tiempos de retardo</translation>
+    </message>
+    <message>
+        <source>Intercept times</source>
+        <translation>Tiempos de intercepción</translation>
+    </message>
+    <message>
+        <source>Plus-minus</source>
+        <translation>Más-menos</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>ambas</translation>
+    </message>
+    <message>
+        <source>depth</source>
+        <translation>profundidad</translation>
+    </message>
+    <message>
+        <source>velocity</source>
+        <translation>velocidad</translation>
+    </message>
+    <message>
+        <source>%1: depth [m]</source>
+        <translation>%1: profundidad [m]</translation>
+    </message>
+    <message>
+        <source>%1: velocity [m/s]</source>
+        <translation>%1: velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Disagree in</source>
+        <translation>Discrepan en</translation>
+    </message>
+    <message>
+        <source>Layers by method</source>
+        <translation>Capas por método</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface. A value in parentheses is not carried by picks there, but by shifted arrivals of other shots, across a gap or by a continuation.</source>
+        <translation>Las profundidades son bajo la superficie. Un valor entre paréntesis no se apoya en picados de ese punto, sino en llegadas desplazadas de otros disparos, salvando un hueco o por prolongación.</translation>
+    </message>
+    <message>
+        <source>Errors are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations. Methods disagree where two of them differ by more than three times what their difference scatters by.</source>
+        <translation>Los errores son la mitad del ancho dentro del cual caen 68 de cada 100 resultados al desplazar los picados según sus errores, con %1 de estas interpretaciones. Los métodos discrepan donde dos de ellos difieren en más de tres veces la dispersión de su diferencia.</translation>
+    </message>
+    <message>
+        <source>Layer %1 by method</source>
+        <translation>Capa %1 por método</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks, shot by geophone</source>
+        <translation>Residuos de los picados, disparo por geófono</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -7184,6 +7902,327 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     </message>
 </context>
 <context>
+    <name>talvesk::ResidualsDialog</name>
+    <message>
+        <source>Residuals</source>
+        <translation>Residuos</translation>
+    </message>
+    <message>
+        <source>Residuals &amp;in:</source>
+        <translation>Residuos &amp;en:</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>Milisegundos</translation>
+    </message>
+    <message>
+        <source>Errors of the picks</source>
+        <translation>Errores de los picados</translation>
+    </message>
+    <message>
+        <source>&amp;Colour shot:</source>
+        <translation>&amp;Resaltar disparo:</translation>
+    </message>
+    <message>
+        <source>Whose dots have a colour of their own in the picture over the offset</source>
+        <translation>Disparo cuyos puntos tienen color propio en la imagen según la distancia</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mapa</translation>
+    </message>
+    <message>
+        <source>Residuals, shot by geophone</source>
+        <translation>Residuos, disparo por geófono</translation>
+    </message>
+    <message>
+        <source>Over the &amp;offset</source>
+        <translation>Según la &amp;distancia</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residuos según la distancia al disparo</translation>
+    </message>
+    <message>
+        <source>Shots and &amp;geophones</source>
+        <translation>Disparos y geó&amp;fonos</translation>
+    </message>
+    <message>
+        <source>Residuals per shot</source>
+        <translation>Residuos por disparo</translation>
+    </message>
+    <message>
+        <source>Residuals per geophone</source>
+        <translation>Residuos por geófono</translation>
+    </message>
+    <message>
+        <source>&amp;Along the rays</source>
+        <translation>A &amp;lo largo de los rayos</translation>
+    </message>
+    <message>
+        <source>Every cell has the mean residual of the rays through it, by their lengths in it; suspect picks are left out.</source>
+        <translation>Cada celda tiene el residuo medio de los rayos que la atraviesan, ponderado por su longitud en ella; los picados sospechosos se excluyen.</translation>
+    </message>
+    <message>
+        <source>Shows the trace of the current pick in the window, as a click on it or Return does</source>
+        <translation>Muestra en la ventana la traza del picado actual, como un clic en él o Intro</translation>
+    </message>
+    <message>
+        <source>Show &amp;trace</source>
+        <translation>Mostrar &amp;traza</translation>
+    </message>
+    <message>
+        <source>Puts the picture in view on the clipboard</source>
+        <translation>Copia en el portapapeles la imagen visible</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>&amp;Copiar imagen</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture...</source>
+        <translation>Guardar &amp;imagen...</translation>
+    </message>
+    <message>
+        <source>All picks with their residuals, for spreadsheets</source>
+        <translation>Todos los picados con sus residuos, para hojas de cálculo</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Guardar tabla...</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>Geophone at %1 m</source>
+        <translation>Geófono en %1 m</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Aún no hay sección cuyos tiempos se puedan revisar.</translation>
+    </message>
+    <message>
+        <source>Section of &quot;%1&quot;: %2.</source>
+        <translation>Sección de «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Picks: %1, suspect: %2.</source>
+        <translation>Picados: %1, sospechosos: %2.</translation>
+    </message>
+    <message>
+        <source>The section was smoothed afterwards.</source>
+        <translation>La sección se suavizó después.</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found are counted.</source>
+        <translation>Se tienen en cuenta los desplazamientos en tiempo de los disparos que ha hallado el ajuste.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>Los picados han cambiado desde que se obtuvo la sección: se ajustó a otros.</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Distancia al disparo [m]</translation>
+    </message>
+    <message>
+        <source>Median [pick errors]</source>
+        <translation>Mediana [errores de los picados]</translation>
+    </message>
+    <message>
+        <source>Median [ms]</source>
+        <translation>Mediana [ms]</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geófono en [m]</translation>
+    </message>
+    <message>
+        <source>Click a pick, or walk to it with the arrow keys.</source>
+        <translation>Haga clic en un picado, o llegue a él con las teclas de flecha.</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
+        <translation>Disparo %1, geófono en %2 m: ningún picado con tiempo calculado</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: picks %2, median %3, two of three from %4 to %5</source>
+        <translation>%1: picados %2, mediana %3, dos de cada tres de %4 a %5</translation>
+    </message>
+    <message>
+        <source>; stands out</source>
+        <translation>; anómalo</translation>
+    </message>
+    <message>
+        <source>The picture cannot be made.</source>
+        <translation>No se puede crear la imagen.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResolutionDialog</name>
+    <message>
+        <source>Resolution Test</source>
+        <translation>Prueba de resolución</translation>
+    </message>
+    <message>
+        <source>Would the survey see it? A pattern is laid over the section, the times of all picks are computed through it with noise of their errors, and a section is fitted to them. Where what comes back correlates with what was put in, ground of that size is resolved.</source>
+        <translation>¿Lo vería el levantamiento? Se superpone un patrón a la sección, se calculan a través de él los tiempos de todos los picados con ruido según sus errores, y se les ajusta una sección. Donde lo recuperado se correlaciona con lo introducido, se resuelve terreno de ese tamaño.</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Patrón:</translation>
+    </message>
+    <message>
+        <source>What the section is disturbed by</source>
+        <translation>Con qué se perturba la sección</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze [m]:</source>
+        <translation>Ta&amp;maño [m]:</translation>
+    </message>
+    <message>
+        <source>Side of a square, or thickness of a layer</source>
+        <translation>Lado de un cuadrado, o espesor de una capa</translation>
+    </message>
+    <message>
+        <source>Se&amp;veral sizes</source>
+        <translation>&amp;Varios tamaños</translation>
+    </message>
+    <message>
+        <source>Try sizes from the distance between positions up to the largest that fits the grid, and tell the smallest that is resolved at each depth</source>
+        <translation>Prueba tamaños desde la distancia entre posiciones hasta el mayor que cabe en la malla, e indica el menor que se resuelve a cada profundidad</translation>
+    </message>
+    <message>
+        <source>St&amp;rength [%]:</source>
+        <translation>Inte&amp;nsidad [%]:</translation>
+    </message>
+    <message>
+        <source>How much faster and slower the pattern is than the section</source>
+        <translation>Cuánto más rápido y más lento que la sección es el patrón</translation>
+    </message>
+    <message>
+        <source>&amp;Over:</source>
+        <translation>&amp;Sobre:</translation>
+    </message>
+    <message>
+        <source>What the pattern is laid over</source>
+        <translation>A qué se superpone el patrón</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>S&amp;hown size:</source>
+        <translation>Tamaño m&amp;ostrado:</translation>
+    </message>
+    <message>
+        <source>Of which of the tests the pictures are</source>
+        <translation>De cuál de las pruebas son las imágenes</translation>
+    </message>
+    <message>
+        <source>Save P&amp;icture ...</source>
+        <translation>Guardar ima&amp;gen ...</translation>
+    </message>
+    <message>
+        <source>Save Ta&amp;ble ...</source>
+        <translation>Guardar ta&amp;bla ...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Tablero de ajedrez</translation>
+    </message>
+    <message>
+        <source>Spikes</source>
+        <translation>Picos aislados</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Capas</translation>
+    </message>
+    <message>
+        <source>the section</source>
+        <translation>la sección</translation>
+    </message>
+    <message>
+        <source>its mean at each depth</source>
+        <translation>su media a cada profundidad</translation>
+    </message>
+    <message>
+        <source>Start shows here what was put in, what came back and how they agree.</source>
+        <translation>Iniciar muestra aquí lo introducido, lo recuperado y cómo concuerdan.</translation>
+    </message>
+    <message>
+        <source>The test is under way.</source>
+        <translation>La prueba está en curso.</translation>
+    </message>
+    <message>
+        <source>Times are computed through the pattern.</source>
+        <translation>Se calculan los tiempos a través del patrón.</translation>
+    </message>
+    <message>
+        <source>Size %1: iteration %2.</source>
+        <translation>Tamaño %1: iteración %2.</translation>
+    </message>
+    <message>
+        <source>Stopped before the first test was completed.</source>
+        <translation>Detenida antes de completar la primera prueba.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped: %n test(s) completed.</source>
+        <translation>
+            <numerusform>Detenida: %n prueba completada.</numerusform>
+            <numerusform>Detenida: %n pruebas completadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No test was completed.</source>
+        <translation>No se ha completado ninguna prueba.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The resolution test could not be completed.</source>
+        <translation>No se ha podido completar la prueba de resolución.</translation>
+    </message>
+    <message>
+        <source>at %1 m none</source>
+        <translation>a %1 m, ninguno</translation>
+    </message>
+    <message>
+        <source>at %1 m depth %2 m</source>
+        <translation>a %1 m de profundidad, %2 m</translation>
+    </message>
+    <message>
+        <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
+        <translation>Menor tamaño que se resuelve (correlación a partir de %1): %2.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RunTexts</name>
     <message>
         <source>Fitted to errors</source>
@@ -7202,20 +8241,12 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>velocidades de %1 a %2 m/s</translation>
     </message>
     <message>
-        <source>errors of %1 ms or %2 %</source>
-        <translation>errores de %1 ms o %2 %</translation>
-    </message>
-    <message>
         <source>robust</source>
         <translation>robusto</translation>
     </message>
     <message>
         <source>blocky</source>
         <translation>por bloques</translation>
-    </message>
-    <message>
-        <source>with shot statics</source>
-        <translation>con estáticas de disparo</translation>
     </message>
     <message>
         <source>suspect picks: %1</source>
@@ -7249,6 +8280,34 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>positions have changed since</source>
         <translation>las posiciones han cambiado desde entonces</translation>
     </message>
+    <message>
+        <source>%1 ms or %2 %</source>
+        <translation>%1 ms o %2 %</translation>
+    </message>
+    <message>
+        <source>errors of %1</source>
+        <translation>errores de %1</translation>
+    </message>
+    <message>
+        <source>from &quot;%1&quot;</source>
+        <translation>desde «%1»</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>no robusto</translation>
+    </message>
+    <message>
+        <source>with shot statics, trigger error %1 ms</source>
+        <translation>con estáticas de disparo, error del tiempo de disparo %1 ms</translation>
+    </message>
+    <message>
+        <source>held to known ground</source>
+        <translation>condicionado al terreno conocido</translation>
+    </message>
+    <message>
+        <source>from coarse to fine</source>
+        <translation>de grueso a fino</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RunsDialog</name>
@@ -7275,10 +8334,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>RMS [ms]</source>
         <translation>RMS [ms]</translation>
-    </message>
-    <message>
-        <source>RMS [%]</source>
-        <translation>RMS [%]</translation>
     </message>
     <message>
         <source>Iterations</source>
@@ -7335,6 +8390,30 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>in use</source>
         <translation>en uso</translation>
+    </message>
+    <message>
+        <source>By errors of</source>
+        <translation>Con errores de</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none, by which chi-square is measured: figures by other errors do not compare.</source>
+        <translation>Errores de los picados que no indican ninguno, con los que se mide chi cuadrado: los valores con otros errores no son comparables.</translation>
+    </message>
+    <message>
+        <source>Of what chi-square counts: without suspect picks, with the time shifts of shots that a fit has found.</source>
+        <translation>De lo que cuenta chi cuadrado: sin los picados sospechosos, con los desplazamientos en tiempo de los disparos que ha hallado un ajuste.</translation>
+    </message>
+    <message>
+        <source>RMS of all [ms]</source>
+        <translation>RMS de todos [ms]</translation>
+    </message>
+    <message>
+        <source>Of all picks as they are, suspect ones among them, without time shifts.</source>
+        <translation>De todos los picados tal como están, incluidos los sospechosos, sin desplazamientos en tiempo.</translation>
+    </message>
+    <message>
+        <source>RMS of all [%]</source>
+        <translation>RMS de todos [%]</translation>
     </message>
 </context>
 <context>
@@ -7411,16 +8490,8 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Positivo: el registro comienza demasiado tarde, y sus picados llegan tarde.</translation>
     </message>
     <message>
-        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
-        <translation>Desplaza los registros de los disparos marcados con sus picados, como hace Corregir registro. Se deshace en un solo paso.</translation>
-    </message>
-    <message>
         <source>&amp;Take over as time shifts of the records</source>
         <translation>&amp;Adoptar como desplazamientos en tiempo de los registros</translation>
-    </message>
-    <message>
-        <source>no recording that could be shifted</source>
-        <translation>sin registro que se pueda desplazar</translation>
     </message>
     <message>
         <source>There is no section yet whose times could be looked at.</source>
@@ -7439,24 +8510,48 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Picados que se desvían más de cinco de sus errores; un clic muestra la traza:</translation>
     </message>
     <message>
-        <source>Time shifts of shots that the fit has found:</source>
-        <translation>Desplazamientos en tiempo de los disparos que ha hallado el ajuste:</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m, depth %3 to %4 m</source>
-        <translation>%1 a %2 m, profundidad %3 a %4 m</translation>
-    </message>
-    <message>
-        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
-        <translation>Celdas en el límite de %1 m/s: %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
-        <translation>Celdas mostradas que no cruza ningún rayo: %1 de %2 (%3)</translation>
-    </message>
-    <message>
         <source>No velocity is at a limit, and rays cross all cells shown.</source>
         <translation>Ninguna velocidad está en un límite, y los rayos cruzan todas las celdas mostradas.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does; of shots without a recording the picks, with their errors. One step to be undone.</source>
+        <translation>Desplaza los registros de los disparos marcados con sus picados, como hace Corregir registro; en los disparos sin registro, los picados con sus errores. Se deshace en un solo paso.</translation>
+    </message>
+    <message>
+        <source>no recording: its picks are shifted</source>
+        <translation>sin registro: se desplazan sus picados</translation>
+    </message>
+    <message>
+        <source>Errors of picks below %1 ms count as %1 ms: %2</source>
+        <translation>Errores de picados por debajo de %1 ms, contados como %1 ms: %2</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found; a click shows the shot:</source>
+        <translation>Desplazamientos en tiempo de los disparos que ha hallado el ajuste; un clic muestra el disparo:</translation>
+    </message>
+    <message>
+        <source>Ground to look at; a click shows it in the section:</source>
+        <translation>Terreno que revisar; un clic lo muestra en la sección:</translation>
+    </message>
+    <message>
+        <source>No pick stands out: %1 are off by more than five of their errors, but none by more than %2, as the section does not fit the picks to their errors.</source>
+        <translation>Ningún picado destaca: %1 se desvían más de cinco veces su error, pero ninguno más de %2, pues la sección no se ajusta a los picados dentro de sus errores.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than %2 of their errors, which stand out where %1 are off by more than five; a click shows the trace:</source>
+        <translation>Picados que se desvían más de %2 veces su error y destacan donde %1 se desvían más de cinco; un clic muestra la traza:</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2</source>
+        <translation>Celdas en el límite de %1 m/s: %2</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2</source>
+        <translation>Celdas mostradas que no cruza ningún rayo: %1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
+        <translation>%1 (de %2 a %3 m, profundidad de %4 a %5 m)</translation>
     </message>
 </context>
 <context>
@@ -9611,6 +10706,171 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Uncertainty %1 %</source>
         <translation>Incertidumbre %1 %</translation>
+    </message>
+    <message>
+        <source>Residuals...</source>
+        <translation>Residuos...</translation>
+    </message>
+    <message>
+        <source>Look at what the section leaves of every pick: shot by geophone, over the offset, per shot and geophone, and along the rays</source>
+        <translation>Muestra lo que la sección deja de cada picado: disparo por geófono, según la distancia, por disparo y geófono, y a lo largo de los rayos</translation>
+    </message>
+    <message>
+        <source>Known ground ...</source>
+        <translation>Terreno conocido ...</translation>
+    </message>
+    <message>
+        <source>Boreholes, known depths and bodies of known velocity, to be drawn and to hold a fit to</source>
+        <translation>Sondeos, profundidades conocidas y cuerpos de velocidad conocida, para dibujarlos y condicionar un ajuste</translation>
+    </message>
+    <message>
+        <source>Show known ground</source>
+        <translation>Mostrar terreno conocido</translation>
+    </message>
+    <message>
+        <source>Draw boreholes, known depths and bodies over the section</source>
+        <translation>Dibuja sondeos, profundidades conocidas y cuerpos sobre la sección</translation>
+    </message>
+    <message>
+        <source>Resolution test ...</source>
+        <translation>Prueba de resolución ...</translation>
+    </message>
+    <message>
+        <source>Find out how small ground may be that this survey still sees, by patterns laid over the section</source>
+        <translation>Determina lo pequeño que puede ser el terreno que este levantamiento aún ve, con patrones superpuestos a la sección</translation>
+    </message>
+    <message>
+        <source>Fade Uncertain Ground</source>
+        <translation>Atenuar terreno incierto</translation>
+    </message>
+    <message>
+        <source>Let the colours of the velocity section pale where it is not sure</source>
+        <translation>Hace palidecer los colores de la sección de velocidad donde no es segura</translation>
+    </message>
+    <message>
+        <source>Depth Bands ...</source>
+        <translation>Bandas de profundidad ...</translation>
+    </message>
+    <message>
+        <source>Draw between which depths velocities of your choice are reached, 16 to 84 %</source>
+        <translation>Dibuja entre qué profundidades se alcanzan las velocidades que usted elija, del 16 al 84 %</translation>
+    </message>
+    <message>
+        <source>Certainty as table ...</source>
+        <translation>Certeza como tabla ...</translation>
+    </message>
+    <message>
+        <source>Export median, 16 and 84 % velocity and spread of every cell as a table (.csv)</source>
+        <translation>Exporta como tabla (.csv) la velocidad mediana, la del 16 y 84 % y la dispersión de cada celda</translation>
+    </message>
+    <message>
+        <source>Export Certainty Table</source>
+        <translation>Exportar tabla de certeza</translation>
+    </message>
+    <message>
+        <source>Table of the certainty (*.csv);;All Files (*)</source>
+        <translation>Tabla de la certeza (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Stopped before anything was found; the section is as it was.</source>
+        <translation>Detenida antes de hallar nada; la sección está como estaba.</translation>
+    </message>
+    <message>
+        <source>The section is not held to known ground.</source>
+        <translation>La sección no está condicionada al terreno conocido.</translation>
+    </message>
+    <message>
+        <source>The section is held to this.</source>
+        <translation>La sección está condicionada a este terreno.</translation>
+    </message>
+    <message>
+        <source>The section is held to known ground that was another: run the fit again.</source>
+        <translation>La sección está condicionada a un terreno conocido distinto: ejecute de nuevo el ajuste.</translation>
+    </message>
+    <message>
+        <source>Import known ground</source>
+        <translation>Importar terreno conocido</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv *.txt);;All files (*)</source>
+        <translation>Tablas de terreno conocido (*.csv *.txt);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>Export known ground</source>
+        <translation>Exportar terreno conocido</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv)</source>
+        <translation>Tablas de terreno conocido (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save picture of residuals</source>
+        <translation>Guardar imagen de los residuos</translation>
+    </message>
+    <message>
+        <source>Save table of residuals</source>
+        <translation>Guardar tabla de los residuos</translation>
+    </message>
+    <message>
+        <source>Save picture of the resolution test</source>
+        <translation>Guardar imagen de la prueba de resolución</translation>
+    </message>
+    <message>
+        <source>Save table of the resolution test</source>
+        <translation>Guardar tabla de la prueba de resolución</translation>
+    </message>
+    <message>
+        <source>Table of resolution by depth (*.csv)</source>
+        <translation>Tabla de resolución por profundidad (*.csv)</translation>
+    </message>
+    <message>
+        <source>How sure the section before was is known no more; Undo brings back both.</source>
+        <translation>La certeza de la sección anterior ya no se conoce; Deshacer recupera ambas.</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>picados sospechosos: %1</translation>
+    </message>
+    <message>
+        <source>time shifts of shots: %1</source>
+        <translation>desplazamientos en tiempo de los disparos: %1</translation>
+    </message>
+    <message>
+        <source>cells at a limit of the velocity: %1</source>
+        <translation>celdas en un límite de velocidad: %1</translation>
+    </message>
+    <message>
+        <source>cells shown that no ray crosses: %1</source>
+        <translation>celdas mostradas que no cruza ningún rayo: %1</translation>
+    </message>
+    <message>
+        <source>Second look (%1)</source>
+        <comment>kinds of things to look at</comment>
+        <translation>Segunda revisión (%1)</translation>
+    </message>
+    <message>
+        <source>Shots without a recording, whose picks were shifted: %1.</source>
+        <translation>Disparos sin registro cuyos picados se han desplazado: %1.</translation>
+    </message>
+    <message>
+        <source>Depth Bands</source>
+        <translation>Bandas de profundidad</translation>
+    </message>
+    <message>
+        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Hasta %1 &amp;velocidades en m/s; las profundidades a las que las alcanza el 68 % central de los miembros se dibujan como banda. Sin ninguna se quitan las bandas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list of velocities.</source>
+        <translation>«%1» no es una lista de velocidades.</translation>
+    </message>
+    <message>
+        <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
+        <translation>Escriba hasta %1 números mayores que 0 separados por punto y coma: 800; 1500</translation>
     </message>
 </context>
 <context>
