@@ -401,6 +401,18 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <comment>run, remarks</comment>
         <translation>%1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>by errors of %1</source>
+        <translation>avec des erreurs de %1</translation>
+    </message>
+    <message>
+        <source>by other errors, so these do not compare: %1</source>
+        <translation>avec des erreurs différentes, donc non comparables&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>of all picks as they are %1 ms</source>
+        <translation>de tous les pointés tels quels %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::DialogSetGeometry</name>
@@ -1179,6 +1191,102 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>[m]</source>
         <translation>[m]</translation>
     </message>
+    <message>
+        <source>Depth of %1, 16 to 84 %</source>
+        <translation>Profondeur de %1, 16 à 84&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Pale: uncertain, ± %1 to %2 % and no ray</source>
+        <translation>Pâle&#xa0;: incertain, ± %1 à %2&#xa0;% et aucun rai</translation>
+    </message>
+    <message>
+        <source>picks have changed since the certainty was found out</source>
+        <translation>les pointés ont changé depuis le calcul de la certitude</translation>
+    </message>
+    <message>
+        <source>certainty of other sections than this one: %1 % of its cells with rays lie beyond two deviations</source>
+        <translation>certitude d&apos;autres coupes que celle-ci&#xa0;: %1&#xa0;% de ses cellules avec rais sortent de deux écarts types</translation>
+    </message>
+    <message>
+        <source>±: half of the range from 16 to 84 % of %1 members</source>
+        <translation>±&#xa0;: moitié de l&apos;intervalle de 16 à 84&#xa0;% de %1 membres</translation>
+    </message>
+    <message>
+        <source>certainty of %1 members</source>
+        <translation>certitude de %1 membres</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 écartés</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Géophone à [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [pick errors]</source>
+        <translation>Calculé moins mesuré [erreurs de pointé]</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Tir %1, géophone %2 à %3 m, déport %4 m&#xa0;: mesuré %5 ms, calculé %6 ms, résidu %7 ms, erreur %8 ms (%9 erreurs)</translation>
+    </message>
+    <message>
+        <source>; suspect</source>
+        <translation>&#xa0;; suspect</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
+        <translation>Géophone à [m]&#xa0;; hachuré&#xa0;: aucun pointé, avec un point&#xa0;: suspect</translation>
+    </message>
+    <message>
+        <source>Shot, along the line</source>
+        <translation>Tir, le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Pointés</translation>
+    </message>
+    <message>
+        <source>Suspect</source>
+        <translation>Suspect</translation>
+    </message>
+    <message>
+        <source>Running median</source>
+        <translation>Médiane glissante</translation>
+    </message>
+    <message>
+        <source>One standard deviation</source>
+        <translation>Un écart type</translation>
+    </message>
+    <message>
+        <source>Stands out</source>
+        <translation>Sort du lot</translation>
+    </message>
+    <message>
+        <source>Median and one standard deviation</source>
+        <translation>Médiane et un écart type</translation>
+    </message>
+    <message>
+        <source>%1: %2 m/s</source>
+        <translation>%1&#xa0;: %2 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m beside the line)</source>
+        <translation>%1 (%2 m à côté de la ligne)</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Forages</translation>
+    </message>
+    <message>
+        <source>Known depths</source>
+        <translation>Profondeurs connues</translation>
+    </message>
+    <message>
+        <source>Fixed bodies</source>
+        <translation>Corps fixes</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1313,6 +1421,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Picks</source>
         <translation>Pointés</translation>
+    </message>
+    <message>
+        <source>The section is drawn to the velocities and depths of &quot;Known ground&quot; by their errors, and fixed bodies stay as they are. How the section goes with them is told after the run; chi-square is of the picks alone.</source>
+        <translation>La coupe est tirée vers les vitesses et profondeurs du «&#xa0;Terrain connu&#xa0;» selon leurs erreurs, et les corps fixes restent tels quels. L&apos;accord de la coupe avec eux est indiqué après le calcul&#xa0;; le khi-deux est celui des pointés seuls.</translation>
+    </message>
+    <message>
+        <source>Hold to known ground</source>
+        <translation>Respecter le terrain connu</translation>
     </message>
 </context>
 <context>
@@ -1711,6 +1827,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>%1 (exists)</source>
         <translation>%1 (existe)</translation>
     </message>
+    <message>
+        <source>Residuals of the picks</source>
+        <translation>Résidus des pointés</translation>
+    </message>
+    <message>
+        <source>Shot by geophone, and in the section along the rays</source>
+        <translation>Par tir et géophone, et dans la coupe le long des rais</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::InversionTexts</name>
@@ -1819,6 +1943,208 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Best of the picks&apos; models</source>
         <translation>Meilleur modèle tiré des pointés</translation>
+    </message>
+    <message>
+        <source>With the time shifts of shots</source>
+        <translation>Avec les décalages temporels des tirs</translation>
+    </message>
+    <message>
+        <source>Without suspects, with the time shifts of shots</source>
+        <translation>Sans les suspects, avec les décalages temporels des tirs</translation>
+    </message>
+    <message>
+        <source>Without suspects</source>
+        <translation>Sans les suspects</translation>
+    </message>
+    <message>
+        <source>All picks as they are, </source>
+        <translation>Tous les pointés tels quels, </translation>
+    </message>
+    <message>
+        <source>Known ground: %1 conditions, RMS %2 of their errors; fixed cells %3
+</source>
+        <translation>Terrain connu&#xa0;: %1 conditions, RMS %2 de leurs erreurs&#xa0;; cellules fixes %3
+</translation>
+    </message>
+    <message>
+        <source>The section does not go with %1: off by %2 of its errors
+</source>
+        <translation>La coupe ne s&apos;accorde pas avec %1&#xa0;: écart de %2 fois son erreur
+</translation>
+    </message>
+    <message>
+        <source>RMS of what chi-square counts: %1 ms.</source>
+        <translation>RMS de ce que compte le khi-deux&#xa0;: %1 ms.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownGroundDialog</name>
+    <message>
+        <source>Known ground</source>
+        <translation>Terrain connu</translation>
+    </message>
+    <message>
+        <source>&amp;Boreholes</source>
+        <translation>&amp;Forages</translation>
+    </message>
+    <message>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Une ligne est une couche&#xa0;; les couches de même nom sont d&apos;un même forage, de haut en bas. Les profondeurs sont en mètres sous la surface. Sans erreur, une vitesse est supposée connue à 5&#xa0;% près.</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Forages</translation>
+    </message>
+    <message>
+        <source>&amp;Depths</source>
+        <translation>&amp;Profondeurs</translation>
+    </message>
+    <message>
+        <source>A row is a place where a refractor is known to lie: the velocity that is reached there, or those above and below. Without an error a depth counts as known to a tenth. Points of one refractor number belong together.</source>
+        <translation>Une ligne est un endroit où la position d&apos;un réfracteur est connue&#xa0;: la vitesse qui y est atteinte, ou celles au-dessus et au-dessous. Sans erreur, une profondeur est supposée connue à un dixième près. Les points d&apos;un même numéro de réfracteur vont ensemble.</translation>
+    </message>
+    <message>
+        <source>Depths</source>
+        <translation>Profondeurs</translation>
+    </message>
+    <message>
+        <source>B&amp;odies</source>
+        <translation>&amp;Corps</translation>
+    </message>
+    <message>
+        <source>A row is a corner; corners of one name go around a body of known velocity, which a fit leaves as it is.</source>
+        <translation>Une ligne est un sommet&#xa0;; les sommets de même nom entourent un corps de vitesse connue, que l&apos;ajustement laisse tel quel.</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Corps</translation>
+    </message>
+    <message>
+        <source>Insert a row above the current one. The last line of a table is always empty: type there to go on</source>
+        <translation>Insérer une ligne au-dessus de la ligne courante. La dernière ligne d&apos;un tableau est toujours vide&#xa0;: saisissez-y la suite</translation>
+    </message>
+    <message>
+        <source>&amp;Add row</source>
+        <translation>&amp;Ajouter une ligne</translation>
+    </message>
+    <message>
+        <source>Remove the rows with selected cells</source>
+        <translation>Supprimer les lignes dont des cellules sont sélectionnées</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>&amp;Supprimer les lignes</translation>
+    </message>
+    <message>
+        <source>Take the last step in these tables back</source>
+        <translation>Annuler la dernière étape dans ces tableaux</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Défaire</translation>
+    </message>
+    <message>
+        <source>Do it again</source>
+        <translation>La rétablir</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refaire</translation>
+    </message>
+    <message>
+        <source>Read a table in place of all that stands here</source>
+        <translation>Lire un tableau à la place de tout ce qui figure ici</translation>
+    </message>
+    <message>
+        <source>&amp;Import ...</source>
+        <translation>&amp;Importer ...</translation>
+    </message>
+    <message>
+        <source>Write all of it as one table</source>
+        <translation>Écrire le tout dans un seul tableau</translation>
+    </message>
+    <message>
+        <source>&amp;Export ...</source>
+        <translation>&amp;Exporter ...</translation>
+    </message>
+    <message>
+        <source>Boreholes: %1, known depths: %2, bodies: %3.</source>
+        <translation>Forages&#xa0;: %1, profondeurs connues&#xa0;: %2, corps&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>%1, row %2: %3.</source>
+        <translation>%1, ligne %2&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed in these tables?</source>
+        <translation>Abandonner les modifications de ces tableaux&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownTable</name>
+    <message>
+        <source>Position [m]</source>
+        <translation>Position [m]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Déport [m]</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Toit [m]</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profondeur [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Base [m]</translation>
+    </message>
+    <message>
+        <source>Isovalue [m/s]</source>
+        <translation>Isovaleur [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Error [m]</source>
+        <translation>Erreur [m]</translation>
+    </message>
+    <message>
+        <source>Error [m/s]</source>
+        <translation>Erreur [m/s]</translation>
+    </message>
+    <message>
+        <source>Refractor</source>
+        <translation>Réfracteur</translation>
+    </message>
+    <message>
+        <source>Above [m/s]</source>
+        <translation>Au-dessus [m/s]</translation>
+    </message>
+    <message>
+        <source>Below [m/s]</source>
+        <translation>Au-dessous [m/s]</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows of %2 columns do not fit from here on.</source>
+        <translation>Rien n&apos;a été collé&#xa0;: %1 lignes de %2 colonnes ne tiennent pas à partir d&apos;ici.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted. Row %1: %2</source>
+        <translation>Rien n&apos;a été collé. Ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -7202,20 +7528,12 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>vitesses de %1 à %2 m/s</translation>
     </message>
     <message>
-        <source>errors of %1 ms or %2 %</source>
-        <translation>erreurs de %1 ms ou %2&#xa0;%</translation>
-    </message>
-    <message>
         <source>robust</source>
         <translation>robuste</translation>
     </message>
     <message>
         <source>blocky</source>
         <translation>par blocs</translation>
-    </message>
-    <message>
-        <source>with shot statics</source>
-        <translation>avec statiques de tir</translation>
     </message>
     <message>
         <source>suspect picks: %1</source>
@@ -7275,10 +7593,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>RMS [ms]</source>
         <translation>RMS [ms]</translation>
-    </message>
-    <message>
-        <source>RMS [%]</source>
-        <translation>RMS [%]</translation>
     </message>
     <message>
         <source>Iterations</source>
@@ -7411,16 +7725,8 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Positif&#xa0;: l&apos;enregistrement commence trop tard, et ses pointés sont en retard.</translation>
     </message>
     <message>
-        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
-        <translation>Décale les enregistrements des tirs cochés avec leurs pointés, comme «&#xa0;Corriger l&apos;enregistrement&#xa0;». Défait en une seule fois.</translation>
-    </message>
-    <message>
         <source>&amp;Take over as time shifts of the records</source>
         <translation>&amp;Reprendre comme décalages des enregistrements</translation>
-    </message>
-    <message>
-        <source>no recording that could be shifted</source>
-        <translation>aucun enregistrement à décaler</translation>
     </message>
     <message>
         <source>There is no section yet whose times could be looked at.</source>
@@ -7437,22 +7743,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Picks off by more than five of their errors; a click shows the trace:</source>
         <translation>Pointés écartés de plus de cinq fois leur erreur&#xa0;; un clic montre la trace&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Time shifts of shots that the fit has found:</source>
-        <translation>Décalages temporels des tirs trouvés par l&apos;ajustement&#xa0;:</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m, depth %3 to %4 m</source>
-        <translation>%1 à %2 m, profondeur %3 à %4 m</translation>
-    </message>
-    <message>
-        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
-        <translation>Cellules à la limite de %1 m/s&#xa0;: %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
-        <translation>Cellules affichées qu&apos;aucun rai ne traverse&#xa0;: %1 sur %2 (%3)</translation>
     </message>
     <message>
         <source>No velocity is at a limit, and rays cross all cells shown.</source>
