@@ -5615,6 +5615,338 @@ Veuillez définir la position des géophones
         <source>Uncertainty of velocity</source>
         <translation>Incertitude de la vitesse</translation>
     </message>
+    <message>
+        <source>There are no picks yet: a resolution test takes their positions and errors.</source>
+        <translation>Il n&apos;y a pas encore de pointés&#xa0;: un test de résolution utilise leurs positions et leurs erreurs.</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known; find it out first</source>
+        <translation>la certitude de la coupe n&apos;est pas connue&#xa0;; calculez-la d&apos;abord</translation>
+    </message>
+    <message>
+        <source>there is no section whose times could be compared with the picks; run an inversion first</source>
+        <translation>il n&apos;y a pas de coupe dont comparer les temps aux pointés&#xa0;; lancez d&apos;abord une inversion</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw.</source>
+        <translation>Il n&apos;y a rien à dessiner.</translation>
+    </message>
+    <message>
+        <source>There are no rays of this section.</source>
+        <translation>Il n&apos;y a pas de rais de cette coupe.</translation>
+    </message>
+    <message>
+        <source>it does not begin with a heading of the columns kind, name, x, depth, bottom, velocity, error, ...</source>
+        <translation>il ne commence pas par un en-tête avec les colonnes kind, name, x, depth, bottom, velocity, error, ...</translation>
+    </message>
+    <message>
+        <source>there is no column %1</source>
+        <translation>il n&apos;y a pas de colonne %1</translation>
+    </message>
+    <message>
+        <source>column %1 is in another unit than m and m/s</source>
+        <translation>la colonne %1 est dans une autre unité que m et m/s</translation>
+    </message>
+    <message>
+        <source>it has too many rows</source>
+        <translation>il a trop de lignes</translation>
+    </message>
+    <message>
+        <source>%1 is none of borehole, depth, body</source>
+        <translation>%1 n&apos;est ni borehole, ni depth, ni body</translation>
+    </message>
+    <message>
+        <source>%1 is no number for %2</source>
+        <translation>%1 n&apos;est pas un nombre pour %2</translation>
+    </message>
+    <message>
+        <source>there is no row below its heading</source>
+        <translation>il n&apos;y a aucune ligne sous son en-tête</translation>
+    </message>
+    <message>
+        <source>what was known of its ground is lost</source>
+        <translation>ce qui était connu de son terrain est perdu</translation>
+    </message>
+    <message>
+        <source>finding out how sure the section is begins anew instead of going on</source>
+        <translation>le calcul de la certitude de la coupe recommence du début au lieu de reprendre</translation>
+    </message>
+    <message>
+        <source>it does not go with the certainty of the project</source>
+        <translation>il ne s&apos;accorde pas avec la certitude du projet</translation>
+    </message>
+    <message>
+        <source>what it counts cannot be</source>
+        <translation>ce qu&apos;il compte est impossible</translation>
+    </message>
+    <message>
+        <source>its depth bands cannot be drawn so; there are none now</source>
+        <translation>ses bandes de profondeur ne peuvent pas être dessinées ainsi&#xa0;; il n&apos;y en a plus aucune</translation>
+    </message>
+    <message>
+        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
+        <translation>%1 m/s n&apos;est pas une vitesse de terrain (%2 à %3)</translation>
+    </message>
+    <message>
+        <source>%1 m is no depth below the surface (0 to %2)</source>
+        <translation>%1 m n&apos;est pas une profondeur sous la surface (0 à %2)</translation>
+    </message>
+    <message>
+        <source>%1 m is no position along the line</source>
+        <translation>%1 m n&apos;est pas une position le long de la ligne</translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation>il n&apos;a pas de nom</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 m has its bottom not below its top</source>
+        <translation>une couche de %1 à %2 m n&apos;a pas sa base au-dessous de son toit</translation>
+    </message>
+    <message>
+        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
+        <translation>une erreur de %1 m/s ne doit pas être négative, et doit être inférieure à sa vitesse, %2</translation>
+    </message>
+    <message>
+        <source>it has no layer</source>
+        <translation>il n&apos;a pas de couche</translation>
+    </message>
+    <message>
+        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
+        <translation>la couche à partir de %1 m commence au-dessus de la base de la précédente, %2 m</translation>
+    </message>
+    <message>
+        <source>%1 m is no error of a depth</source>
+        <translation>%1 m n&apos;est pas une erreur de profondeur</translation>
+    </message>
+    <message>
+        <source>refractors have the numbers 1 to %1</source>
+        <translation>les réfracteurs portent les numéros 1 à %1</translation>
+    </message>
+    <message>
+        <source>the velocities above and below are the same, so nothing begins here</source>
+        <translation>les vitesses au-dessus et au-dessous sont les mêmes, donc rien ne commence ici</translation>
+    </message>
+    <message>
+        <source>its outline needs three corners at least</source>
+        <translation>son contour demande au moins trois sommets</translation>
+    </message>
+    <message>
+        <source>more is known than can be held: %1 boreholes, depths and bodies at most, with %2 layers and corners</source>
+        <translation>plus de données de terrain connu que possible&#xa0;: au plus %1 forages, profondeurs et corps, avec %2 couches et sommets</translation>
+    </message>
+    <message>
+        <source>borehole %1</source>
+        <translation>forage %1</translation>
+    </message>
+    <message>
+        <source>known depth %1</source>
+        <translation>profondeur connue %1</translation>
+    </message>
+    <message>
+        <source>body %1</source>
+        <translation>corps %1</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>il manque %1</translation>
+    </message>
+    <message>
+        <source>a %1 has no %2</source>
+        <translation>une ligne %1 n&apos;a pas de %2</translation>
+    </message>
+    <message>
+        <source>borehole %1 stands somewhere else in the rows above</source>
+        <translation>le forage %1 est placé ailleurs dans les lignes précédentes</translation>
+    </message>
+    <message>
+        <source>the number of a refractor is a whole one</source>
+        <translation>le numéro d&apos;un réfracteur est un entier</translation>
+    </message>
+    <message>
+        <source>body %1 has another velocity in the rows above</source>
+        <translation>le corps %1 a une autre vitesse dans les lignes précédentes</translation>
+    </message>
+    <message>
+        <source>fewer than six picks of it</source>
+        <translation>moins de six pointés de ce réfracteur</translation>
+    </message>
+    <message>
+        <source>picks of it from shots on one side only, which cannot tell a dip from a velocity</source>
+        <translation>des pointés de tirs d&apos;un seul côté, ce qui ne permet pas de distinguer un pendage d&apos;une vitesse</translation>
+    </message>
+    <message>
+        <source>no shot has three picks of it on one side, with waves the other way beside them, that are faster than the first layer</source>
+        <translation>aucun tir n&apos;a d&apos;un même côté trois pointés de ce réfracteur, accompagnés d&apos;ondes en sens inverse, qui soient plus rapides que la première couche</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation>Couche %1&#xa0;: ni vitesse ni profondeur à %2 récepteurs, où la vitesse calculée est hors de la plage de 50 à 12&#xa0;000 m/s.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
+        <translation>Couche %1&#xa0;: aucune profondeur à %2 récepteurs, où la profondeur calculée dépasse la longueur de la ligne.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where the ground above it comes out to cost no time.</source>
+        <translation>Couche %1&#xa0;: aucune profondeur à %2 récepteurs, où la traversée du terrain au-dessus ne prendrait aucun temps d&apos;après le calcul.</translation>
+    </message>
+    <message>
+        <source>Layer %1: %2.</source>
+        <translation>Couche %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The first layer has no velocity, so there are no depths.</source>
+        <translation>La première couche n&apos;a pas de vitesse, il n&apos;y a donc pas de profondeurs.</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: nothing</source>
+        <translation>Couche %1, %2&#xa0;: rien</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s, no depth</source>
+        <translation>Couche %1, %2&#xa0;: %3 m/s, aucune profondeur</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Couche %1, %2&#xa0;: %3 m/s à une profondeur de %4 m (médianes)&#xa0;; profondeurs à %5 des %6 géophones, dont %7 sans appui de pointés à cet endroit</translation>
+    </message>
+    <message>
+        <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
+        <translation>Couche %1&#xa0;: les méthodes divergent au-delà des erreurs des pointés, en profondeur à %2 des %3 géophones, en vitesse à %4</translation>
+    </message>
+    <message>
+        <source>no two shots have picks of it at five geophones between them</source>
+        <translation>il n&apos;y a pas deux tirs qui aient des pointés de ce réfracteur à cinq géophones situés entre eux</translation>
+    </message>
+    <message>
+        <source>no second layer can be fitted</source>
+        <translation>aucune deuxième couche ne peut être ajustée</translation>
+    </message>
+    <message>
+        <source>a second layer gains %1 ms</source>
+        <translation>une deuxième couche fait gagner %1 ms</translation>
+    </message>
+    <message>
+        <source>no third layer can be fitted</source>
+        <translation>aucune troisième couche ne peut être ajustée</translation>
+    </message>
+    <message>
+        <source>a third layer gains %1 ms</source>
+        <translation>une troisième couche fait gagner %1 ms</translation>
+    </message>
+    <message>
+        <source>1 layer, misfit %1 ms</source>
+        <translation>1 couche, écart %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 layers, misfit %2 ms</source>
+        <translation>%1 couches, écart %2 ms</translation>
+    </message>
+    <message>
+        <source>no layers are proposed: there are too few picks to fit any</source>
+        <translation>aucune couche n&apos;est proposée&#xa0;: il y a trop peu de pointés pour en ajuster</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
+        <translation>pas de couches&#xa0;: une vitesse qui croît régulièrement avec la profondeur, à partir de %1 m/s et de %2 m/s par mètre, a un écart de %3 ms</translation>
+    </message>
+    <message>
+        <source>%1; without layers, by a steady gradient, %2 ms</source>
+        <translation>%1&#xa0;; sans couches, avec un gradient constant, %2 ms</translation>
+    </message>
+    <message>
+        <source>three layers fit better, but no shot at each end of the line has picks of the layer in between: two layers are proposed</source>
+        <translation>trois couches s&apos;ajustent mieux, mais les deux bouts de la ligne n&apos;ont pas chacun un tir avec des pointés de la couche intermédiaire&#xa0;: deux couches sont proposées</translation>
+    </message>
+    <message>
+        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>tir %1, à sa droite&#xa0;: la couche %2 repose sur moins de quatre pointés (%3)</translation>
+    </message>
+    <message>
+        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>tir %1, à sa gauche&#xa0;: la couche %2 repose sur moins de quatre pointés (%3)</translation>
+    </message>
+    <message>
+        <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
+        <translation>%1 pointés ne s&apos;accordent avec aucune couche et ne sont attribués à aucune (tir/trace)&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Known ground</source>
+        <translation>Terrain connu</translation>
+    </message>
+    <message>
+        <source>with %1 ms less, the pick of receiver %2 would come before the shot</source>
+        <translation>avec %1 ms de moins, le pointé du récepteur %2 précéderait le tir</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>La coupe explique les pointés à leurs erreurs près&#xa0;: khi-deux %1. Le modèle dont elle est partie les explique mieux, khi-deux %2, et a été lissé autant que les erreurs le permettent. Indiquez des erreurs %3 fois aussi grandes pour le garder net.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
+        <translation>%1 Le modèle dont elle est partie était trop loin des pointés, khi-deux %2, pour maintenir la coupe sur ses sauts nets&#xa0;: ils ont d&apos;abord été lissés.</translation>
+    </message>
+    <message>
+        <source>%1 holds no cell of the grid: it is too small, or beyond it.</source>
+        <translation>%1 ne contient aucune cellule de la grille&#xa0;: trop petit, ou hors de celle-ci.</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m stands beyond the grid.</source>
+        <translation>%1, à %2 m, est hors de la grille.</translation>
+    </message>
+    <message>
+        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
+        <translation>%1 descend à %2 m, sous la grille&#xa0;; ce qui est au-dessous de %3 m ne compte pas.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3 m</source>
+        <translation>%1, %2 à %3 m</translation>
+    </message>
+    <message>
+        <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
+        <translation>%1&#xa0;: aucune cellule n&apos;est en majeure partie de cette couche&#xa0;; elle compte selon sa part des cellules, ou se trouve dans un corps fixe.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (à %2 m le long de la ligne, à %3 m de profondeur) est hors de la grille, ou plus près de son bord que son erreur ou qu&apos;une cellule.</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s at %3 m</source>
+        <translation>%1, %2 m/s à %3 m</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s above</source>
+        <translation>%1, %2 m/s au-dessus</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s below</source>
+        <translation>%1, %2 m/s au-dessous</translation>
+    </message>
+    <message>
+        <source>Layered interpretation</source>
+        <translation>Interprétation en couches</translation>
+    </message>
+    <message>
+        <source>Section of another project</source>
+        <translation>Coupe d&apos;un autre projet</translation>
+    </message>
+    <message>
+        <source>There is no layered interpretation to start from. Build one first.</source>
+        <translation>Il n&apos;y a pas d&apos;interprétation en couches dont partir. Construisez-en d&apos;abord une.</translation>
+    </message>
+    <message>
+        <source>Mean residual of the rays</source>
+        <translation>Résidu moyen des rais</translation>
+    </message>
+    <message>
+        <source>Mean residual over pick error</source>
+        <translation>Résidu moyen sur erreur de pointé</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
