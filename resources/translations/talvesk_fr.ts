@@ -7726,6 +7726,66 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
         <translation>Écart quadratique moyen de la coupe après chaque itération, 0 étant le modèle initial</translation>
     </message>
+    <message>
+        <source>Reciprocal</source>
+        <translation>Réciproque</translation>
+    </message>
+    <message>
+        <source>Delay times</source>
+        <translation>Temps de retard</translation>
+    </message>
+    <message>
+        <source>Intercept times</source>
+        <translation>Temps d&apos;intercept</translation>
+    </message>
+    <message>
+        <source>Plus-minus</source>
+        <translation>Plus-minus</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>les deux</translation>
+    </message>
+    <message>
+        <source>depth</source>
+        <translation>profondeur</translation>
+    </message>
+    <message>
+        <source>velocity</source>
+        <translation>vitesse</translation>
+    </message>
+    <message>
+        <source>%1: depth [m]</source>
+        <translation>%1&#xa0;: profondeur [m]</translation>
+    </message>
+    <message>
+        <source>%1: velocity [m/s]</source>
+        <translation>%1&#xa0;: vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Disagree in</source>
+        <translation>Désaccord sur</translation>
+    </message>
+    <message>
+        <source>Layers by method</source>
+        <translation>Couches selon la méthode</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface. A value in parentheses is not carried by picks there, but by shifted arrivals of other shots, across a gap or by a continuation.</source>
+        <translation>Les profondeurs sont comptées sous la surface. Une valeur entre parenthèses ne s&apos;appuie pas sur des pointés à cet endroit, mais sur des arrivées décalées d&apos;autres tirs, à travers une lacune ou par prolongement.</translation>
+    </message>
+    <message>
+        <source>Errors are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations. Methods disagree where two of them differ by more than three times what their difference scatters by.</source>
+        <translation>Les erreurs sont la moitié de la largeur où se trouvent 68 résultats sur 100 lorsque les pointés sont déplacés de leurs erreurs, d&apos;après %1 interprétations de ce genre. Les méthodes sont en désaccord là où deux d&apos;entre elles diffèrent de plus de trois fois la dispersion de leur différence.</translation>
+    </message>
+    <message>
+        <source>Layer %1 by method</source>
+        <translation>Couche %1 selon la méthode</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks, shot by geophone</source>
+        <translation>Résidus des pointés, par tir et géophone</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -7839,6 +7899,327 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
             <numerusform>%n page</numerusform>
             <numerusform>%n pages</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResidualsDialog</name>
+    <message>
+        <source>Residuals</source>
+        <translation>Résidus</translation>
+    </message>
+    <message>
+        <source>Residuals &amp;in:</source>
+        <translation>Résidus e&amp;n&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>Millisecondes</translation>
+    </message>
+    <message>
+        <source>Errors of the picks</source>
+        <translation>Erreurs des pointés</translation>
+    </message>
+    <message>
+        <source>&amp;Colour shot:</source>
+        <translation>&amp;Colorer le tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Whose dots have a colour of their own in the picture over the offset</source>
+        <translation>Le tir dont les points ont leur propre couleur dans la vue selon le déport</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>Ca&amp;rte</translation>
+    </message>
+    <message>
+        <source>Residuals, shot by geophone</source>
+        <translation>Résidus, par tir et géophone</translation>
+    </message>
+    <message>
+        <source>Over the &amp;offset</source>
+        <translation>Selon le &amp;déport</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Résidus selon le déport</translation>
+    </message>
+    <message>
+        <source>Shots and &amp;geophones</source>
+        <translation>Tirs et &amp;géophones</translation>
+    </message>
+    <message>
+        <source>Residuals per shot</source>
+        <translation>Résidus par tir</translation>
+    </message>
+    <message>
+        <source>Residuals per geophone</source>
+        <translation>Résidus par géophone</translation>
+    </message>
+    <message>
+        <source>&amp;Along the rays</source>
+        <translation>Le long des r&amp;ais</translation>
+    </message>
+    <message>
+        <source>Every cell has the mean residual of the rays through it, by their lengths in it; suspect picks are left out.</source>
+        <translation>Chaque cellule porte le résidu moyen des rais qui la traversent, pondéré par leur longueur dans la cellule&#xa0;; les pointés suspects sont exclus.</translation>
+    </message>
+    <message>
+        <source>Shows the trace of the current pick in the window, as a click on it or Return does</source>
+        <translation>Affiche la trace du pointé courant dans la fenêtre, comme un clic dessus ou la touche Entrée</translation>
+    </message>
+    <message>
+        <source>Show &amp;trace</source>
+        <translation>Afficher la &amp;trace</translation>
+    </message>
+    <message>
+        <source>Puts the picture in view on the clipboard</source>
+        <translation>Place l&apos;image affichée dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>Co&amp;pier l&apos;image</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture...</source>
+        <translation>Enregistrer l&apos;&amp;image...</translation>
+    </message>
+    <message>
+        <source>All picks with their residuals, for spreadsheets</source>
+        <translation>Tous les pointés avec leurs résidus, pour les tableurs</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Enregistrer le tableau...</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tir %1</translation>
+    </message>
+    <message>
+        <source>Geophone at %1 m</source>
+        <translation>Géophone à %1 m</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Il n&apos;y a pas encore de coupe dont examiner les temps.</translation>
+    </message>
+    <message>
+        <source>Section of &quot;%1&quot;: %2.</source>
+        <translation>Coupe de «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Picks: %1, suspect: %2.</source>
+        <translation>Pointés&#xa0;: %1, suspects&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The section was smoothed afterwards.</source>
+        <translation>La coupe a été lissée ensuite.</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found are counted.</source>
+        <translation>Les décalages temporels des tirs trouvés par l&apos;ajustement sont pris en compte.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>Les pointés ont changé depuis le calcul de la coupe&#xa0;: elle a été ajustée à d&apos;autres.</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Déport [m]</translation>
+    </message>
+    <message>
+        <source>Median [pick errors]</source>
+        <translation>Médiane [erreurs de pointé]</translation>
+    </message>
+    <message>
+        <source>Median [ms]</source>
+        <translation>Médiane [ms]</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Géophone à [m]</translation>
+    </message>
+    <message>
+        <source>Click a pick, or walk to it with the arrow keys.</source>
+        <translation>Cliquez sur un pointé, ou allez-y avec les touches fléchées.</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
+        <translation>Tir %1, géophone à %2 m&#xa0;: aucun pointé avec un temps calculé</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: picks %2, median %3, two of three from %4 to %5</source>
+        <translation>%1&#xa0;: pointés %2, médiane %3, deux sur trois de %4 à %5</translation>
+    </message>
+    <message>
+        <source>; stands out</source>
+        <translation>&#xa0;; sort du lot</translation>
+    </message>
+    <message>
+        <source>The picture cannot be made.</source>
+        <translation>L&apos;image ne peut pas être produite.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResolutionDialog</name>
+    <message>
+        <source>Resolution Test</source>
+        <translation>Test de résolution</translation>
+    </message>
+    <message>
+        <source>Would the survey see it? A pattern is laid over the section, the times of all picks are computed through it with noise of their errors, and a section is fitted to them. Where what comes back correlates with what was put in, ground of that size is resolved.</source>
+        <translation>Le levé le verrait-il&#xa0;? Un motif est superposé à la coupe, les temps de tous les pointés y sont calculés avec un bruit de leurs erreurs, et une coupe leur est ajustée. Là où ce qui revient est corrélé à ce qui a été introduit, un terrain de cette taille est résolu.</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Motif&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What the section is disturbed by</source>
+        <translation>Ce qui perturbe la coupe</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze [m]:</source>
+        <translation>Tai&amp;lle [m]&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Side of a square, or thickness of a layer</source>
+        <translation>Côté d&apos;un carré, ou épaisseur d&apos;une couche</translation>
+    </message>
+    <message>
+        <source>Se&amp;veral sizes</source>
+        <translation>&amp;Plusieurs tailles</translation>
+    </message>
+    <message>
+        <source>Try sizes from the distance between positions up to the largest that fits the grid, and tell the smallest that is resolved at each depth</source>
+        <translation>Essayer des tailles allant de l&apos;espacement des positions à la plus grande que la grille admet, et indiquer la plus petite qui est résolue à chaque profondeur</translation>
+    </message>
+    <message>
+        <source>St&amp;rength [%]:</source>
+        <translation>Amplit&amp;ude [%]&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How much faster and slower the pattern is than the section</source>
+        <translation>De combien le motif est plus rapide et plus lent que la coupe</translation>
+    </message>
+    <message>
+        <source>&amp;Over:</source>
+        <translation>Su&amp;r&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What the pattern is laid over</source>
+        <translation>Ce à quoi le motif est superposé</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>Arrê&amp;ter</translation>
+    </message>
+    <message>
+        <source>S&amp;hown size:</source>
+        <translation>Taille aff&amp;ichée&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Of which of the tests the pictures are</source>
+        <translation>Auquel des tests correspondent les images</translation>
+    </message>
+    <message>
+        <source>Save P&amp;icture ...</source>
+        <translation>Enregistrer l&apos;ima&amp;ge ...</translation>
+    </message>
+    <message>
+        <source>Save Ta&amp;ble ...</source>
+        <translation>Enregistrer le ta&amp;bleau ...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Damier</translation>
+    </message>
+    <message>
+        <source>Spikes</source>
+        <translation>Pics isolés</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Couches</translation>
+    </message>
+    <message>
+        <source>the section</source>
+        <translation>la coupe</translation>
+    </message>
+    <message>
+        <source>its mean at each depth</source>
+        <translation>sa moyenne à chaque profondeur</translation>
+    </message>
+    <message>
+        <source>Start shows here what was put in, what came back and how they agree.</source>
+        <translation>«&#xa0;Démarrer&#xa0;» affiche ici ce qui a été introduit, ce qui est revenu et leur accord.</translation>
+    </message>
+    <message>
+        <source>The test is under way.</source>
+        <translation>Le test est en cours.</translation>
+    </message>
+    <message>
+        <source>Times are computed through the pattern.</source>
+        <translation>Les temps sont calculés à travers le motif.</translation>
+    </message>
+    <message>
+        <source>Size %1: iteration %2.</source>
+        <translation>Taille %1&#xa0;: itération %2.</translation>
+    </message>
+    <message>
+        <source>Stopped before the first test was completed.</source>
+        <translation>Arrêté avant la fin du premier test.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped: %n test(s) completed.</source>
+        <translation>
+            <numerusform>Arrêté&#xa0;: %n test terminé.</numerusform>
+            <numerusform>Arrêté&#xa0;: %n tests terminés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No test was completed.</source>
+        <translation>Aucun test n&apos;a été terminé.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The resolution test could not be completed.</source>
+        <translation>Le test de résolution n&apos;a pas pu être terminé.</translation>
+    </message>
+    <message>
+        <source>at %1 m none</source>
+        <translation>à %1 m aucune</translation>
+    </message>
+    <message>
+        <source>at %1 m depth %2 m</source>
+        <translation>à %1 m de profondeur %2 m</translation>
+    </message>
+    <message>
+        <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
+        <translation>Plus petite taille résolue (corrélation à partir de %1)&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
