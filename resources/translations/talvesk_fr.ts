@@ -8280,6 +8280,34 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>positions have changed since</source>
         <translation>les positions ont changé depuis</translation>
     </message>
+    <message>
+        <source>%1 ms or %2 %</source>
+        <translation>%1 ms ou %2&#xa0;%</translation>
+    </message>
+    <message>
+        <source>errors of %1</source>
+        <translation>erreurs de %1</translation>
+    </message>
+    <message>
+        <source>from &quot;%1&quot;</source>
+        <translation>à partir de «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>non robuste</translation>
+    </message>
+    <message>
+        <source>with shot statics, trigger error %1 ms</source>
+        <translation>avec statiques de tir, erreur de déclenchement %1 ms</translation>
+    </message>
+    <message>
+        <source>held to known ground</source>
+        <translation>contraint par le terrain connu</translation>
+    </message>
+    <message>
+        <source>from coarse to fine</source>
+        <translation>du grossier au fin</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RunsDialog</name>
@@ -8362,6 +8390,30 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>in use</source>
         <translation>utilisé</translation>
+    </message>
+    <message>
+        <source>By errors of</source>
+        <translation>Avec erreurs de</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none, by which chi-square is measured: figures by other errors do not compare.</source>
+        <translation>Erreurs des pointés qui n&apos;en indiquent pas, par lesquelles le khi-deux est mesuré&#xa0;: des valeurs obtenues avec d&apos;autres erreurs ne se comparent pas.</translation>
+    </message>
+    <message>
+        <source>Of what chi-square counts: without suspect picks, with the time shifts of shots that a fit has found.</source>
+        <translation>De ce que compte le khi-deux&#xa0;: sans les pointés suspects, avec les décalages temporels des tirs trouvés par un ajustement.</translation>
+    </message>
+    <message>
+        <source>RMS of all [ms]</source>
+        <translation>RMS de tous [ms]</translation>
+    </message>
+    <message>
+        <source>Of all picks as they are, suspect ones among them, without time shifts.</source>
+        <translation>De tous les pointés tels quels, suspects compris, sans décalages temporels.</translation>
+    </message>
+    <message>
+        <source>RMS of all [%]</source>
+        <translation>RMS de tous [%]</translation>
     </message>
 </context>
 <context>
@@ -8460,6 +8512,46 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>No velocity is at a limit, and rays cross all cells shown.</source>
         <translation>Aucune vitesse n&apos;est à une limite, et des rais traversent toutes les cellules affichées.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does; of shots without a recording the picks, with their errors. One step to be undone.</source>
+        <translation>Décale les enregistrements des tirs cochés avec leurs pointés, comme «&#xa0;Corriger l&apos;enregistrement&#xa0;»&#xa0;; pour les tirs sans enregistrement, les pointés avec leurs erreurs. Une seule étape, annulable.</translation>
+    </message>
+    <message>
+        <source>no recording: its picks are shifted</source>
+        <translation>pas d&apos;enregistrement&#xa0;: ses pointés sont décalés</translation>
+    </message>
+    <message>
+        <source>Errors of picks below %1 ms count as %1 ms: %2</source>
+        <translation>Les erreurs de pointés inférieures à %1 ms comptent pour %1 ms&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found; a click shows the shot:</source>
+        <translation>Décalages temporels des tirs trouvés par l&apos;ajustement&#xa0;; un clic montre le tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Ground to look at; a click shows it in the section:</source>
+        <translation>Terrain à examiner&#xa0;; un clic le montre dans la coupe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No pick stands out: %1 are off by more than five of their errors, but none by more than %2, as the section does not fit the picks to their errors.</source>
+        <translation>Aucun pointé ne sort du lot&#xa0;: %1 s&apos;écartent de plus de cinq fois leur erreur, mais aucun de plus de %2, car la coupe n&apos;explique pas les pointés à leurs erreurs près.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than %2 of their errors, which stand out where %1 are off by more than five; a click shows the trace:</source>
+        <translation>Pointés écartés de plus de %2 fois leur erreur, qui sortent du lot là où %1 s&apos;écartent de plus de cinq&#xa0;; un clic montre la trace&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2</source>
+        <translation>Cellules à la limite de %1 m/s&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2</source>
+        <translation>Cellules affichées qu&apos;aucun rai ne traverse&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
+        <translation>%1 (%2 à %3 m, profondeur %4 à %5 m)</translation>
     </message>
 </context>
 <context>
@@ -10614,6 +10706,171 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Uncertainty %1 %</source>
         <translation>Incertitude %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Residuals...</source>
+        <translation>Résidus...</translation>
+    </message>
+    <message>
+        <source>Look at what the section leaves of every pick: shot by geophone, over the offset, per shot and geophone, and along the rays</source>
+        <translation>Examiner ce que la coupe laisse de chaque pointé&#xa0;: par tir et géophone, selon le déport, par tir, par géophone et le long des rais</translation>
+    </message>
+    <message>
+        <source>Known ground ...</source>
+        <translation>Terrain connu ...</translation>
+    </message>
+    <message>
+        <source>Boreholes, known depths and bodies of known velocity, to be drawn and to hold a fit to</source>
+        <translation>Forages, profondeurs connues et corps de vitesse connue, à dessiner et à respecter par l&apos;ajustement</translation>
+    </message>
+    <message>
+        <source>Show known ground</source>
+        <translation>Afficher le terrain connu</translation>
+    </message>
+    <message>
+        <source>Draw boreholes, known depths and bodies over the section</source>
+        <translation>Dessiner les forages, profondeurs connues et corps sur la coupe</translation>
+    </message>
+    <message>
+        <source>Resolution test ...</source>
+        <translation>Test de résolution ...</translation>
+    </message>
+    <message>
+        <source>Find out how small ground may be that this survey still sees, by patterns laid over the section</source>
+        <translation>Déterminer quelle taille minimale de terrain ce levé voit encore, par des motifs superposés à la coupe</translation>
+    </message>
+    <message>
+        <source>Fade Uncertain Ground</source>
+        <translation>Estomper le terrain incertain</translation>
+    </message>
+    <message>
+        <source>Let the colours of the velocity section pale where it is not sure</source>
+        <translation>Faire pâlir les couleurs de la coupe de vitesse là où elle n&apos;est pas sûre</translation>
+    </message>
+    <message>
+        <source>Depth Bands ...</source>
+        <translation>Bandes de profondeur ...</translation>
+    </message>
+    <message>
+        <source>Draw between which depths velocities of your choice are reached, 16 to 84 %</source>
+        <translation>Dessiner entre quelles profondeurs sont atteintes les vitesses de votre choix, 16 à 84&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Certainty as table ...</source>
+        <translation>Certitude en tableau ...</translation>
+    </message>
+    <message>
+        <source>Export median, 16 and 84 % velocity and spread of every cell as a table (.csv)</source>
+        <translation>Exporter la médiane, les vitesses à 16 et 84&#xa0;% et la dispersion de chaque cellule en tableau (.csv)</translation>
+    </message>
+    <message>
+        <source>Export Certainty Table</source>
+        <translation>Exporter le tableau de certitude</translation>
+    </message>
+    <message>
+        <source>Table of the certainty (*.csv);;All Files (*)</source>
+        <translation>Tableau de la certitude (*.csv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Stopped before anything was found; the section is as it was.</source>
+        <translation>Arrêté avant tout résultat&#xa0;; la coupe est inchangée.</translation>
+    </message>
+    <message>
+        <source>The section is not held to known ground.</source>
+        <translation>La coupe n&apos;est pas contrainte par le terrain connu.</translation>
+    </message>
+    <message>
+        <source>The section is held to this.</source>
+        <translation>La coupe y est contrainte.</translation>
+    </message>
+    <message>
+        <source>The section is held to known ground that was another: run the fit again.</source>
+        <translation>La coupe est contrainte par un terrain connu qui a changé depuis&#xa0;: relancez l&apos;ajustement.</translation>
+    </message>
+    <message>
+        <source>Import known ground</source>
+        <translation>Importer le terrain connu</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv *.txt);;All files (*)</source>
+        <translation>Tableaux du terrain connu (*.csv *.txt);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Rien n&apos;a été importé.</translation>
+    </message>
+    <message>
+        <source>Export known ground</source>
+        <translation>Exporter le terrain connu</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv)</source>
+        <translation>Tableaux du terrain connu (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save picture of residuals</source>
+        <translation>Enregistrer l&apos;image des résidus</translation>
+    </message>
+    <message>
+        <source>Save table of residuals</source>
+        <translation>Enregistrer le tableau des résidus</translation>
+    </message>
+    <message>
+        <source>Save picture of the resolution test</source>
+        <translation>Enregistrer l&apos;image du test de résolution</translation>
+    </message>
+    <message>
+        <source>Save table of the resolution test</source>
+        <translation>Enregistrer le tableau du test de résolution</translation>
+    </message>
+    <message>
+        <source>Table of resolution by depth (*.csv)</source>
+        <translation>Tableau de la résolution par profondeur (*.csv)</translation>
+    </message>
+    <message>
+        <source>How sure the section before was is known no more; Undo brings back both.</source>
+        <translation>La certitude de la coupe précédente n&apos;est plus connue&#xa0;; «&#xa0;Défaire&#xa0;» ramène les deux.</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>pointés suspects&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>time shifts of shots: %1</source>
+        <translation>décalages temporels des tirs&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>cells at a limit of the velocity: %1</source>
+        <translation>cellules à une limite de vitesse&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>cells shown that no ray crosses: %1</source>
+        <translation>cellules affichées qu&apos;aucun rai ne traverse&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Second look (%1)</source>
+        <comment>kinds of things to look at</comment>
+        <translation>À revoir (%1)</translation>
+    </message>
+    <message>
+        <source>Shots without a recording, whose picks were shifted: %1.</source>
+        <translation>Tirs sans enregistrement, dont les pointés ont été décalés&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Depth Bands</source>
+        <translation>Bandes de profondeur</translation>
+    </message>
+    <message>
+        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Jusqu&apos;à %1 &amp;vitesses en m/s&#xa0;; les profondeurs où les 68&#xa0;% centraux des membres les atteignent sont dessinées en bande. Une liste vide enlève les bandes.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list of velocities.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une liste de vitesses.</translation>
+    </message>
+    <message>
+        <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
+        <translation>Indiquez jusqu&apos;à %1 nombres supérieurs à 0, séparés par des points-virgules&#xa0;: 800; 1500</translation>
     </message>
 </context>
 <context>
