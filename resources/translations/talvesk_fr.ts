@@ -401,6 +401,18 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <comment>run, remarks</comment>
         <translation>%1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>by errors of %1</source>
+        <translation>avec des erreurs de %1</translation>
+    </message>
+    <message>
+        <source>by other errors, so these do not compare: %1</source>
+        <translation>avec des erreurs différentes, donc non comparables&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>of all picks as they are %1 ms</source>
+        <translation>de tous les pointés tels quels %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::DialogSetGeometry</name>
@@ -1179,6 +1191,102 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>[m]</source>
         <translation>[m]</translation>
     </message>
+    <message>
+        <source>Depth of %1, 16 to 84 %</source>
+        <translation>Profondeur de %1, 16 à 84&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Pale: uncertain, ± %1 to %2 % and no ray</source>
+        <translation>Pâle&#xa0;: incertain, ± %1 à %2&#xa0;% et aucun rai</translation>
+    </message>
+    <message>
+        <source>picks have changed since the certainty was found out</source>
+        <translation>les pointés ont changé depuis le calcul de la certitude</translation>
+    </message>
+    <message>
+        <source>certainty of other sections than this one: %1 % of its cells with rays lie beyond two deviations</source>
+        <translation>certitude d&apos;autres coupes que celle-ci&#xa0;: %1&#xa0;% de ses cellules avec rais sortent de deux écarts types</translation>
+    </message>
+    <message>
+        <source>±: half of the range from 16 to 84 % of %1 members</source>
+        <translation>±&#xa0;: moitié de l&apos;intervalle de 16 à 84&#xa0;% de %1 membres</translation>
+    </message>
+    <message>
+        <source>certainty of %1 members</source>
+        <translation>certitude de %1 membres</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 écartés</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Géophone à [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [pick errors]</source>
+        <translation>Calculé moins mesuré [erreurs de pointé]</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Tir %1, géophone %2 à %3 m, déport %4 m&#xa0;: mesuré %5 ms, calculé %6 ms, résidu %7 ms, erreur %8 ms (%9 erreurs)</translation>
+    </message>
+    <message>
+        <source>; suspect</source>
+        <translation>&#xa0;; suspect</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
+        <translation>Géophone à [m]&#xa0;; hachuré&#xa0;: aucun pointé, avec un point&#xa0;: suspect</translation>
+    </message>
+    <message>
+        <source>Shot, along the line</source>
+        <translation>Tir, le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Pointés</translation>
+    </message>
+    <message>
+        <source>Suspect</source>
+        <translation>Suspect</translation>
+    </message>
+    <message>
+        <source>Running median</source>
+        <translation>Médiane glissante</translation>
+    </message>
+    <message>
+        <source>One standard deviation</source>
+        <translation>Un écart type</translation>
+    </message>
+    <message>
+        <source>Stands out</source>
+        <translation>Sort du lot</translation>
+    </message>
+    <message>
+        <source>Median and one standard deviation</source>
+        <translation>Médiane et un écart type</translation>
+    </message>
+    <message>
+        <source>%1: %2 m/s</source>
+        <translation>%1&#xa0;: %2 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m beside the line)</source>
+        <translation>%1 (%2 m à côté de la ligne)</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Forages</translation>
+    </message>
+    <message>
+        <source>Known depths</source>
+        <translation>Profondeurs connues</translation>
+    </message>
+    <message>
+        <source>Fixed bodies</source>
+        <translation>Corps fixes</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1313,6 +1421,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Picks</source>
         <translation>Pointés</translation>
+    </message>
+    <message>
+        <source>The section is drawn to the velocities and depths of &quot;Known ground&quot; by their errors, and fixed bodies stay as they are. How the section goes with them is told after the run; chi-square is of the picks alone.</source>
+        <translation>La coupe est tirée vers les vitesses et profondeurs du «&#xa0;Terrain connu&#xa0;» selon leurs erreurs, et les corps fixes restent tels quels. L&apos;accord de la coupe avec eux est indiqué après le calcul&#xa0;; le khi-deux est celui des pointés seuls.</translation>
+    </message>
+    <message>
+        <source>Hold to known ground</source>
+        <translation>Respecter le terrain connu</translation>
     </message>
 </context>
 <context>
@@ -1711,6 +1827,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>%1 (exists)</source>
         <translation>%1 (existe)</translation>
     </message>
+    <message>
+        <source>Residuals of the picks</source>
+        <translation>Résidus des pointés</translation>
+    </message>
+    <message>
+        <source>Shot by geophone, and in the section along the rays</source>
+        <translation>Par tir et géophone, et dans la coupe le long des rais</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::InversionTexts</name>
@@ -1819,6 +1943,208 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Best of the picks&apos; models</source>
         <translation>Meilleur modèle tiré des pointés</translation>
+    </message>
+    <message>
+        <source>With the time shifts of shots</source>
+        <translation>Avec les décalages temporels des tirs</translation>
+    </message>
+    <message>
+        <source>Without suspects, with the time shifts of shots</source>
+        <translation>Sans les suspects, avec les décalages temporels des tirs</translation>
+    </message>
+    <message>
+        <source>Without suspects</source>
+        <translation>Sans les suspects</translation>
+    </message>
+    <message>
+        <source>All picks as they are, </source>
+        <translation>Tous les pointés tels quels, </translation>
+    </message>
+    <message>
+        <source>Known ground: %1 conditions, RMS %2 of their errors; fixed cells %3
+</source>
+        <translation>Terrain connu&#xa0;: %1 conditions, RMS %2 de leurs erreurs&#xa0;; cellules fixes %3
+</translation>
+    </message>
+    <message>
+        <source>The section does not go with %1: off by %2 of its errors
+</source>
+        <translation>La coupe ne s&apos;accorde pas avec %1&#xa0;: écart de %2 fois son erreur
+</translation>
+    </message>
+    <message>
+        <source>RMS of what chi-square counts: %1 ms.</source>
+        <translation>RMS de ce que compte le khi-deux&#xa0;: %1 ms.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownGroundDialog</name>
+    <message>
+        <source>Known ground</source>
+        <translation>Terrain connu</translation>
+    </message>
+    <message>
+        <source>&amp;Boreholes</source>
+        <translation>&amp;Forages</translation>
+    </message>
+    <message>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Une ligne est une couche&#xa0;; les couches de même nom sont d&apos;un même forage, de haut en bas. Les profondeurs sont en mètres sous la surface. Sans erreur, une vitesse est supposée connue à 5&#xa0;% près.</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Forages</translation>
+    </message>
+    <message>
+        <source>&amp;Depths</source>
+        <translation>&amp;Profondeurs</translation>
+    </message>
+    <message>
+        <source>A row is a place where a refractor is known to lie: the velocity that is reached there, or those above and below. Without an error a depth counts as known to a tenth. Points of one refractor number belong together.</source>
+        <translation>Une ligne est un endroit où la position d&apos;un réfracteur est connue&#xa0;: la vitesse qui y est atteinte, ou celles au-dessus et au-dessous. Sans erreur, une profondeur est supposée connue à un dixième près. Les points d&apos;un même numéro de réfracteur vont ensemble.</translation>
+    </message>
+    <message>
+        <source>Depths</source>
+        <translation>Profondeurs</translation>
+    </message>
+    <message>
+        <source>B&amp;odies</source>
+        <translation>&amp;Corps</translation>
+    </message>
+    <message>
+        <source>A row is a corner; corners of one name go around a body of known velocity, which a fit leaves as it is.</source>
+        <translation>Une ligne est un sommet&#xa0;; les sommets de même nom entourent un corps de vitesse connue, que l&apos;ajustement laisse tel quel.</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Corps</translation>
+    </message>
+    <message>
+        <source>Insert a row above the current one. The last line of a table is always empty: type there to go on</source>
+        <translation>Insérer une ligne au-dessus de la ligne courante. La dernière ligne d&apos;un tableau est toujours vide&#xa0;: saisissez-y la suite</translation>
+    </message>
+    <message>
+        <source>&amp;Add row</source>
+        <translation>&amp;Ajouter une ligne</translation>
+    </message>
+    <message>
+        <source>Remove the rows with selected cells</source>
+        <translation>Supprimer les lignes dont des cellules sont sélectionnées</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>&amp;Supprimer les lignes</translation>
+    </message>
+    <message>
+        <source>Take the last step in these tables back</source>
+        <translation>Annuler la dernière étape dans ces tableaux</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Défaire</translation>
+    </message>
+    <message>
+        <source>Do it again</source>
+        <translation>La rétablir</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refaire</translation>
+    </message>
+    <message>
+        <source>Read a table in place of all that stands here</source>
+        <translation>Lire un tableau à la place de tout ce qui figure ici</translation>
+    </message>
+    <message>
+        <source>&amp;Import ...</source>
+        <translation>&amp;Importer ...</translation>
+    </message>
+    <message>
+        <source>Write all of it as one table</source>
+        <translation>Écrire le tout dans un seul tableau</translation>
+    </message>
+    <message>
+        <source>&amp;Export ...</source>
+        <translation>&amp;Exporter ...</translation>
+    </message>
+    <message>
+        <source>Boreholes: %1, known depths: %2, bodies: %3.</source>
+        <translation>Forages&#xa0;: %1, profondeurs connues&#xa0;: %2, corps&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>%1, row %2: %3.</source>
+        <translation>%1, ligne %2&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed in these tables?</source>
+        <translation>Abandonner les modifications de ces tableaux&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownTable</name>
+    <message>
+        <source>Position [m]</source>
+        <translation>Position [m]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Déport [m]</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Toit [m]</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profondeur [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Base [m]</translation>
+    </message>
+    <message>
+        <source>Isovalue [m/s]</source>
+        <translation>Isovaleur [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Error [m]</source>
+        <translation>Erreur [m]</translation>
+    </message>
+    <message>
+        <source>Error [m/s]</source>
+        <translation>Erreur [m/s]</translation>
+    </message>
+    <message>
+        <source>Refractor</source>
+        <translation>Réfracteur</translation>
+    </message>
+    <message>
+        <source>Above [m/s]</source>
+        <translation>Au-dessus [m/s]</translation>
+    </message>
+    <message>
+        <source>Below [m/s]</source>
+        <translation>Au-dessous [m/s]</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows of %2 columns do not fit from here on.</source>
+        <translation>Rien n&apos;a été collé&#xa0;: %1 lignes de %2 colonnes ne tiennent pas à partir d&apos;ici.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted. Row %1: %2</source>
+        <translation>Rien n&apos;a été collé. Ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -5289,6 +5615,338 @@ Veuillez définir la position des géophones
         <source>Uncertainty of velocity</source>
         <translation>Incertitude de la vitesse</translation>
     </message>
+    <message>
+        <source>There are no picks yet: a resolution test takes their positions and errors.</source>
+        <translation>Il n&apos;y a pas encore de pointés&#xa0;: un test de résolution utilise leurs positions et leurs erreurs.</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known; find it out first</source>
+        <translation>la certitude de la coupe n&apos;est pas connue&#xa0;; calculez-la d&apos;abord</translation>
+    </message>
+    <message>
+        <source>there is no section whose times could be compared with the picks; run an inversion first</source>
+        <translation>il n&apos;y a pas de coupe dont comparer les temps aux pointés&#xa0;; lancez d&apos;abord une inversion</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw.</source>
+        <translation>Il n&apos;y a rien à dessiner.</translation>
+    </message>
+    <message>
+        <source>There are no rays of this section.</source>
+        <translation>Il n&apos;y a pas de rais de cette coupe.</translation>
+    </message>
+    <message>
+        <source>it does not begin with a heading of the columns kind, name, x, depth, bottom, velocity, error, ...</source>
+        <translation>il ne commence pas par un en-tête avec les colonnes kind, name, x, depth, bottom, velocity, error, ...</translation>
+    </message>
+    <message>
+        <source>there is no column %1</source>
+        <translation>il n&apos;y a pas de colonne %1</translation>
+    </message>
+    <message>
+        <source>column %1 is in another unit than m and m/s</source>
+        <translation>la colonne %1 est dans une autre unité que m et m/s</translation>
+    </message>
+    <message>
+        <source>it has too many rows</source>
+        <translation>il a trop de lignes</translation>
+    </message>
+    <message>
+        <source>%1 is none of borehole, depth, body</source>
+        <translation>%1 n&apos;est ni borehole, ni depth, ni body</translation>
+    </message>
+    <message>
+        <source>%1 is no number for %2</source>
+        <translation>%1 n&apos;est pas un nombre pour %2</translation>
+    </message>
+    <message>
+        <source>there is no row below its heading</source>
+        <translation>il n&apos;y a aucune ligne sous son en-tête</translation>
+    </message>
+    <message>
+        <source>what was known of its ground is lost</source>
+        <translation>ce qui était connu de son terrain est perdu</translation>
+    </message>
+    <message>
+        <source>finding out how sure the section is begins anew instead of going on</source>
+        <translation>le calcul de la certitude de la coupe recommence du début au lieu de reprendre</translation>
+    </message>
+    <message>
+        <source>it does not go with the certainty of the project</source>
+        <translation>il ne s&apos;accorde pas avec la certitude du projet</translation>
+    </message>
+    <message>
+        <source>what it counts cannot be</source>
+        <translation>ce qu&apos;il compte est impossible</translation>
+    </message>
+    <message>
+        <source>its depth bands cannot be drawn so; there are none now</source>
+        <translation>ses bandes de profondeur ne peuvent pas être dessinées ainsi&#xa0;; il n&apos;y en a plus aucune</translation>
+    </message>
+    <message>
+        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
+        <translation>%1 m/s n&apos;est pas une vitesse de terrain (%2 à %3)</translation>
+    </message>
+    <message>
+        <source>%1 m is no depth below the surface (0 to %2)</source>
+        <translation>%1 m n&apos;est pas une profondeur sous la surface (0 à %2)</translation>
+    </message>
+    <message>
+        <source>%1 m is no position along the line</source>
+        <translation>%1 m n&apos;est pas une position le long de la ligne</translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation>il n&apos;a pas de nom</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 m has its bottom not below its top</source>
+        <translation>une couche de %1 à %2 m n&apos;a pas sa base au-dessous de son toit</translation>
+    </message>
+    <message>
+        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
+        <translation>une erreur de %1 m/s ne doit pas être négative, et doit être inférieure à sa vitesse, %2</translation>
+    </message>
+    <message>
+        <source>it has no layer</source>
+        <translation>il n&apos;a pas de couche</translation>
+    </message>
+    <message>
+        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
+        <translation>la couche à partir de %1 m commence au-dessus de la base de la précédente, %2 m</translation>
+    </message>
+    <message>
+        <source>%1 m is no error of a depth</source>
+        <translation>%1 m n&apos;est pas une erreur de profondeur</translation>
+    </message>
+    <message>
+        <source>refractors have the numbers 1 to %1</source>
+        <translation>les réfracteurs portent les numéros 1 à %1</translation>
+    </message>
+    <message>
+        <source>the velocities above and below are the same, so nothing begins here</source>
+        <translation>les vitesses au-dessus et au-dessous sont les mêmes, donc rien ne commence ici</translation>
+    </message>
+    <message>
+        <source>its outline needs three corners at least</source>
+        <translation>son contour demande au moins trois sommets</translation>
+    </message>
+    <message>
+        <source>more is known than can be held: %1 boreholes, depths and bodies at most, with %2 layers and corners</source>
+        <translation>plus de données de terrain connu que possible&#xa0;: au plus %1 forages, profondeurs et corps, avec %2 couches et sommets</translation>
+    </message>
+    <message>
+        <source>borehole %1</source>
+        <translation>forage %1</translation>
+    </message>
+    <message>
+        <source>known depth %1</source>
+        <translation>profondeur connue %1</translation>
+    </message>
+    <message>
+        <source>body %1</source>
+        <translation>corps %1</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>il manque %1</translation>
+    </message>
+    <message>
+        <source>a %1 has no %2</source>
+        <translation>une ligne %1 n&apos;a pas de %2</translation>
+    </message>
+    <message>
+        <source>borehole %1 stands somewhere else in the rows above</source>
+        <translation>le forage %1 est placé ailleurs dans les lignes précédentes</translation>
+    </message>
+    <message>
+        <source>the number of a refractor is a whole one</source>
+        <translation>le numéro d&apos;un réfracteur est un entier</translation>
+    </message>
+    <message>
+        <source>body %1 has another velocity in the rows above</source>
+        <translation>le corps %1 a une autre vitesse dans les lignes précédentes</translation>
+    </message>
+    <message>
+        <source>fewer than six picks of it</source>
+        <translation>moins de six pointés de ce réfracteur</translation>
+    </message>
+    <message>
+        <source>picks of it from shots on one side only, which cannot tell a dip from a velocity</source>
+        <translation>des pointés de tirs d&apos;un seul côté, ce qui ne permet pas de distinguer un pendage d&apos;une vitesse</translation>
+    </message>
+    <message>
+        <source>no shot has three picks of it on one side, with waves the other way beside them, that are faster than the first layer</source>
+        <translation>aucun tir n&apos;a d&apos;un même côté trois pointés de ce réfracteur, accompagnés d&apos;ondes en sens inverse, qui soient plus rapides que la première couche</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation>Couche %1&#xa0;: ni vitesse ni profondeur à %2 récepteurs, où la vitesse calculée est hors de la plage de 50 à 12&#xa0;000 m/s.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
+        <translation>Couche %1&#xa0;: aucune profondeur à %2 récepteurs, où la profondeur calculée dépasse la longueur de la ligne.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where the ground above it comes out to cost no time.</source>
+        <translation>Couche %1&#xa0;: aucune profondeur à %2 récepteurs, où la traversée du terrain au-dessus ne prendrait aucun temps d&apos;après le calcul.</translation>
+    </message>
+    <message>
+        <source>Layer %1: %2.</source>
+        <translation>Couche %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The first layer has no velocity, so there are no depths.</source>
+        <translation>La première couche n&apos;a pas de vitesse, il n&apos;y a donc pas de profondeurs.</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: nothing</source>
+        <translation>Couche %1, %2&#xa0;: rien</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s, no depth</source>
+        <translation>Couche %1, %2&#xa0;: %3 m/s, aucune profondeur</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Couche %1, %2&#xa0;: %3 m/s à une profondeur de %4 m (médianes)&#xa0;; profondeurs à %5 des %6 géophones, dont %7 sans appui de pointés à cet endroit</translation>
+    </message>
+    <message>
+        <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
+        <translation>Couche %1&#xa0;: les méthodes divergent au-delà des erreurs des pointés, en profondeur à %2 des %3 géophones, en vitesse à %4</translation>
+    </message>
+    <message>
+        <source>no two shots have picks of it at five geophones between them</source>
+        <translation>il n&apos;y a pas deux tirs qui aient des pointés de ce réfracteur à cinq géophones situés entre eux</translation>
+    </message>
+    <message>
+        <source>no second layer can be fitted</source>
+        <translation>aucune deuxième couche ne peut être ajustée</translation>
+    </message>
+    <message>
+        <source>a second layer gains %1 ms</source>
+        <translation>une deuxième couche fait gagner %1 ms</translation>
+    </message>
+    <message>
+        <source>no third layer can be fitted</source>
+        <translation>aucune troisième couche ne peut être ajustée</translation>
+    </message>
+    <message>
+        <source>a third layer gains %1 ms</source>
+        <translation>une troisième couche fait gagner %1 ms</translation>
+    </message>
+    <message>
+        <source>1 layer, misfit %1 ms</source>
+        <translation>1 couche, écart %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 layers, misfit %2 ms</source>
+        <translation>%1 couches, écart %2 ms</translation>
+    </message>
+    <message>
+        <source>no layers are proposed: there are too few picks to fit any</source>
+        <translation>aucune couche n&apos;est proposée&#xa0;: il y a trop peu de pointés pour en ajuster</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
+        <translation>pas de couches&#xa0;: une vitesse qui croît régulièrement avec la profondeur, à partir de %1 m/s et de %2 m/s par mètre, a un écart de %3 ms</translation>
+    </message>
+    <message>
+        <source>%1; without layers, by a steady gradient, %2 ms</source>
+        <translation>%1&#xa0;; sans couches, avec un gradient constant, %2 ms</translation>
+    </message>
+    <message>
+        <source>three layers fit better, but no shot at each end of the line has picks of the layer in between: two layers are proposed</source>
+        <translation>trois couches s&apos;ajustent mieux, mais les deux bouts de la ligne n&apos;ont pas chacun un tir avec des pointés de la couche intermédiaire&#xa0;: deux couches sont proposées</translation>
+    </message>
+    <message>
+        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>tir %1, à sa droite&#xa0;: la couche %2 repose sur moins de quatre pointés (%3)</translation>
+    </message>
+    <message>
+        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>tir %1, à sa gauche&#xa0;: la couche %2 repose sur moins de quatre pointés (%3)</translation>
+    </message>
+    <message>
+        <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
+        <translation>%1 pointés ne s&apos;accordent avec aucune couche et ne sont attribués à aucune (tir/trace)&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Known ground</source>
+        <translation>Terrain connu</translation>
+    </message>
+    <message>
+        <source>with %1 ms less, the pick of receiver %2 would come before the shot</source>
+        <translation>avec %1 ms de moins, le pointé du récepteur %2 précéderait le tir</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>La coupe explique les pointés à leurs erreurs près&#xa0;: khi-deux %1. Le modèle dont elle est partie les explique mieux, khi-deux %2, et a été lissé autant que les erreurs le permettent. Indiquez des erreurs %3 fois aussi grandes pour le garder net.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
+        <translation>%1 Le modèle dont elle est partie était trop loin des pointés, khi-deux %2, pour maintenir la coupe sur ses sauts nets&#xa0;: ils ont d&apos;abord été lissés.</translation>
+    </message>
+    <message>
+        <source>%1 holds no cell of the grid: it is too small, or beyond it.</source>
+        <translation>%1 ne contient aucune cellule de la grille&#xa0;: trop petit, ou hors de celle-ci.</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m stands beyond the grid.</source>
+        <translation>%1, à %2 m, est hors de la grille.</translation>
+    </message>
+    <message>
+        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
+        <translation>%1 descend à %2 m, sous la grille&#xa0;; ce qui est au-dessous de %3 m ne compte pas.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3 m</source>
+        <translation>%1, %2 à %3 m</translation>
+    </message>
+    <message>
+        <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
+        <translation>%1&#xa0;: aucune cellule n&apos;est en majeure partie de cette couche&#xa0;; elle compte selon sa part des cellules, ou se trouve dans un corps fixe.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (à %2 m le long de la ligne, à %3 m de profondeur) est hors de la grille, ou plus près de son bord que son erreur ou qu&apos;une cellule.</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s at %3 m</source>
+        <translation>%1, %2 m/s à %3 m</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s above</source>
+        <translation>%1, %2 m/s au-dessus</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s below</source>
+        <translation>%1, %2 m/s au-dessous</translation>
+    </message>
+    <message>
+        <source>Layered interpretation</source>
+        <translation>Interprétation en couches</translation>
+    </message>
+    <message>
+        <source>Section of another project</source>
+        <translation>Coupe d&apos;un autre projet</translation>
+    </message>
+    <message>
+        <source>There is no layered interpretation to start from. Build one first.</source>
+        <translation>Il n&apos;y a pas d&apos;interprétation en couches dont partir. Construisez-en d&apos;abord une.</translation>
+    </message>
+    <message>
+        <source>Mean residual of the rays</source>
+        <translation>Résidu moyen des rais</translation>
+    </message>
+    <message>
+        <source>Mean residual over pick error</source>
+        <translation>Résidu moyen sur erreur de pointé</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7068,6 +7726,66 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
         <translation>Écart quadratique moyen de la coupe après chaque itération, 0 étant le modèle initial</translation>
     </message>
+    <message>
+        <source>Reciprocal</source>
+        <translation>Réciproque</translation>
+    </message>
+    <message>
+        <source>Delay times</source>
+        <translation>Temps de retard</translation>
+    </message>
+    <message>
+        <source>Intercept times</source>
+        <translation>Temps d&apos;intercept</translation>
+    </message>
+    <message>
+        <source>Plus-minus</source>
+        <translation>Plus-minus</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>les deux</translation>
+    </message>
+    <message>
+        <source>depth</source>
+        <translation>profondeur</translation>
+    </message>
+    <message>
+        <source>velocity</source>
+        <translation>vitesse</translation>
+    </message>
+    <message>
+        <source>%1: depth [m]</source>
+        <translation>%1&#xa0;: profondeur [m]</translation>
+    </message>
+    <message>
+        <source>%1: velocity [m/s]</source>
+        <translation>%1&#xa0;: vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Disagree in</source>
+        <translation>Désaccord sur</translation>
+    </message>
+    <message>
+        <source>Layers by method</source>
+        <translation>Couches selon la méthode</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface. A value in parentheses is not carried by picks there, but by shifted arrivals of other shots, across a gap or by a continuation.</source>
+        <translation>Les profondeurs sont comptées sous la surface. Une valeur entre parenthèses ne s&apos;appuie pas sur des pointés à cet endroit, mais sur des arrivées décalées d&apos;autres tirs, à travers une lacune ou par prolongement.</translation>
+    </message>
+    <message>
+        <source>Errors are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations. Methods disagree where two of them differ by more than three times what their difference scatters by.</source>
+        <translation>Les erreurs sont la moitié de la largeur où se trouvent 68 résultats sur 100 lorsque les pointés sont déplacés de leurs erreurs, d&apos;après %1 interprétations de ce genre. Les méthodes sont en désaccord là où deux d&apos;entre elles diffèrent de plus de trois fois la dispersion de leur différence.</translation>
+    </message>
+    <message>
+        <source>Layer %1 by method</source>
+        <translation>Couche %1 selon la méthode</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks, shot by geophone</source>
+        <translation>Résidus des pointés, par tir et géophone</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -7184,6 +7902,327 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     </message>
 </context>
 <context>
+    <name>talvesk::ResidualsDialog</name>
+    <message>
+        <source>Residuals</source>
+        <translation>Résidus</translation>
+    </message>
+    <message>
+        <source>Residuals &amp;in:</source>
+        <translation>Résidus e&amp;n&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>Millisecondes</translation>
+    </message>
+    <message>
+        <source>Errors of the picks</source>
+        <translation>Erreurs des pointés</translation>
+    </message>
+    <message>
+        <source>&amp;Colour shot:</source>
+        <translation>&amp;Colorer le tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Whose dots have a colour of their own in the picture over the offset</source>
+        <translation>Le tir dont les points ont leur propre couleur dans la vue selon le déport</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>Ca&amp;rte</translation>
+    </message>
+    <message>
+        <source>Residuals, shot by geophone</source>
+        <translation>Résidus, par tir et géophone</translation>
+    </message>
+    <message>
+        <source>Over the &amp;offset</source>
+        <translation>Selon le &amp;déport</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Résidus selon le déport</translation>
+    </message>
+    <message>
+        <source>Shots and &amp;geophones</source>
+        <translation>Tirs et &amp;géophones</translation>
+    </message>
+    <message>
+        <source>Residuals per shot</source>
+        <translation>Résidus par tir</translation>
+    </message>
+    <message>
+        <source>Residuals per geophone</source>
+        <translation>Résidus par géophone</translation>
+    </message>
+    <message>
+        <source>&amp;Along the rays</source>
+        <translation>Le long des r&amp;ais</translation>
+    </message>
+    <message>
+        <source>Every cell has the mean residual of the rays through it, by their lengths in it; suspect picks are left out.</source>
+        <translation>Chaque cellule porte le résidu moyen des rais qui la traversent, pondéré par leur longueur dans la cellule&#xa0;; les pointés suspects sont exclus.</translation>
+    </message>
+    <message>
+        <source>Shows the trace of the current pick in the window, as a click on it or Return does</source>
+        <translation>Affiche la trace du pointé courant dans la fenêtre, comme un clic dessus ou la touche Entrée</translation>
+    </message>
+    <message>
+        <source>Show &amp;trace</source>
+        <translation>Afficher la &amp;trace</translation>
+    </message>
+    <message>
+        <source>Puts the picture in view on the clipboard</source>
+        <translation>Place l&apos;image affichée dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>Co&amp;pier l&apos;image</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture...</source>
+        <translation>Enregistrer l&apos;&amp;image...</translation>
+    </message>
+    <message>
+        <source>All picks with their residuals, for spreadsheets</source>
+        <translation>Tous les pointés avec leurs résidus, pour les tableurs</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Enregistrer le tableau...</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tir %1</translation>
+    </message>
+    <message>
+        <source>Geophone at %1 m</source>
+        <translation>Géophone à %1 m</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Il n&apos;y a pas encore de coupe dont examiner les temps.</translation>
+    </message>
+    <message>
+        <source>Section of &quot;%1&quot;: %2.</source>
+        <translation>Coupe de «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Picks: %1, suspect: %2.</source>
+        <translation>Pointés&#xa0;: %1, suspects&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The section was smoothed afterwards.</source>
+        <translation>La coupe a été lissée ensuite.</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found are counted.</source>
+        <translation>Les décalages temporels des tirs trouvés par l&apos;ajustement sont pris en compte.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>Les pointés ont changé depuis le calcul de la coupe&#xa0;: elle a été ajustée à d&apos;autres.</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Déport [m]</translation>
+    </message>
+    <message>
+        <source>Median [pick errors]</source>
+        <translation>Médiane [erreurs de pointé]</translation>
+    </message>
+    <message>
+        <source>Median [ms]</source>
+        <translation>Médiane [ms]</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Géophone à [m]</translation>
+    </message>
+    <message>
+        <source>Click a pick, or walk to it with the arrow keys.</source>
+        <translation>Cliquez sur un pointé, ou allez-y avec les touches fléchées.</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
+        <translation>Tir %1, géophone à %2 m&#xa0;: aucun pointé avec un temps calculé</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: picks %2, median %3, two of three from %4 to %5</source>
+        <translation>%1&#xa0;: pointés %2, médiane %3, deux sur trois de %4 à %5</translation>
+    </message>
+    <message>
+        <source>; stands out</source>
+        <translation>&#xa0;; sort du lot</translation>
+    </message>
+    <message>
+        <source>The picture cannot be made.</source>
+        <translation>L&apos;image ne peut pas être produite.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResolutionDialog</name>
+    <message>
+        <source>Resolution Test</source>
+        <translation>Test de résolution</translation>
+    </message>
+    <message>
+        <source>Would the survey see it? A pattern is laid over the section, the times of all picks are computed through it with noise of their errors, and a section is fitted to them. Where what comes back correlates with what was put in, ground of that size is resolved.</source>
+        <translation>Le levé le verrait-il&#xa0;? Un motif est superposé à la coupe, les temps de tous les pointés y sont calculés avec un bruit de leurs erreurs, et une coupe leur est ajustée. Là où ce qui revient est corrélé à ce qui a été introduit, un terrain de cette taille est résolu.</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Motif&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What the section is disturbed by</source>
+        <translation>Ce qui perturbe la coupe</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze [m]:</source>
+        <translation>Tai&amp;lle [m]&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Side of a square, or thickness of a layer</source>
+        <translation>Côté d&apos;un carré, ou épaisseur d&apos;une couche</translation>
+    </message>
+    <message>
+        <source>Se&amp;veral sizes</source>
+        <translation>&amp;Plusieurs tailles</translation>
+    </message>
+    <message>
+        <source>Try sizes from the distance between positions up to the largest that fits the grid, and tell the smallest that is resolved at each depth</source>
+        <translation>Essayer des tailles allant de l&apos;espacement des positions à la plus grande que la grille admet, et indiquer la plus petite qui est résolue à chaque profondeur</translation>
+    </message>
+    <message>
+        <source>St&amp;rength [%]:</source>
+        <translation>Amplit&amp;ude [%]&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How much faster and slower the pattern is than the section</source>
+        <translation>De combien le motif est plus rapide et plus lent que la coupe</translation>
+    </message>
+    <message>
+        <source>&amp;Over:</source>
+        <translation>Su&amp;r&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What the pattern is laid over</source>
+        <translation>Ce à quoi le motif est superposé</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>Arrê&amp;ter</translation>
+    </message>
+    <message>
+        <source>S&amp;hown size:</source>
+        <translation>Taille aff&amp;ichée&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Of which of the tests the pictures are</source>
+        <translation>Auquel des tests correspondent les images</translation>
+    </message>
+    <message>
+        <source>Save P&amp;icture ...</source>
+        <translation>Enregistrer l&apos;ima&amp;ge ...</translation>
+    </message>
+    <message>
+        <source>Save Ta&amp;ble ...</source>
+        <translation>Enregistrer le ta&amp;bleau ...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Damier</translation>
+    </message>
+    <message>
+        <source>Spikes</source>
+        <translation>Pics isolés</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Couches</translation>
+    </message>
+    <message>
+        <source>the section</source>
+        <translation>la coupe</translation>
+    </message>
+    <message>
+        <source>its mean at each depth</source>
+        <translation>sa moyenne à chaque profondeur</translation>
+    </message>
+    <message>
+        <source>Start shows here what was put in, what came back and how they agree.</source>
+        <translation>«&#xa0;Démarrer&#xa0;» affiche ici ce qui a été introduit, ce qui est revenu et leur accord.</translation>
+    </message>
+    <message>
+        <source>The test is under way.</source>
+        <translation>Le test est en cours.</translation>
+    </message>
+    <message>
+        <source>Times are computed through the pattern.</source>
+        <translation>Les temps sont calculés à travers le motif.</translation>
+    </message>
+    <message>
+        <source>Size %1: iteration %2.</source>
+        <translation>Taille %1&#xa0;: itération %2.</translation>
+    </message>
+    <message>
+        <source>Stopped before the first test was completed.</source>
+        <translation>Arrêté avant la fin du premier test.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped: %n test(s) completed.</source>
+        <translation>
+            <numerusform>Arrêté&#xa0;: %n test terminé.</numerusform>
+            <numerusform>Arrêté&#xa0;: %n tests terminés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No test was completed.</source>
+        <translation>Aucun test n&apos;a été terminé.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The resolution test could not be completed.</source>
+        <translation>Le test de résolution n&apos;a pas pu être terminé.</translation>
+    </message>
+    <message>
+        <source>at %1 m none</source>
+        <translation>à %1 m aucune</translation>
+    </message>
+    <message>
+        <source>at %1 m depth %2 m</source>
+        <translation>à %1 m de profondeur %2 m</translation>
+    </message>
+    <message>
+        <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
+        <translation>Plus petite taille résolue (corrélation à partir de %1)&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RunTexts</name>
     <message>
         <source>Fitted to errors</source>
@@ -7202,20 +8241,12 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>vitesses de %1 à %2 m/s</translation>
     </message>
     <message>
-        <source>errors of %1 ms or %2 %</source>
-        <translation>erreurs de %1 ms ou %2&#xa0;%</translation>
-    </message>
-    <message>
         <source>robust</source>
         <translation>robuste</translation>
     </message>
     <message>
         <source>blocky</source>
         <translation>par blocs</translation>
-    </message>
-    <message>
-        <source>with shot statics</source>
-        <translation>avec statiques de tir</translation>
     </message>
     <message>
         <source>suspect picks: %1</source>
@@ -7249,6 +8280,34 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>positions have changed since</source>
         <translation>les positions ont changé depuis</translation>
     </message>
+    <message>
+        <source>%1 ms or %2 %</source>
+        <translation>%1 ms ou %2&#xa0;%</translation>
+    </message>
+    <message>
+        <source>errors of %1</source>
+        <translation>erreurs de %1</translation>
+    </message>
+    <message>
+        <source>from &quot;%1&quot;</source>
+        <translation>à partir de «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>non robuste</translation>
+    </message>
+    <message>
+        <source>with shot statics, trigger error %1 ms</source>
+        <translation>avec statiques de tir, erreur de déclenchement %1 ms</translation>
+    </message>
+    <message>
+        <source>held to known ground</source>
+        <translation>contraint par le terrain connu</translation>
+    </message>
+    <message>
+        <source>from coarse to fine</source>
+        <translation>du grossier au fin</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RunsDialog</name>
@@ -7275,10 +8334,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>RMS [ms]</source>
         <translation>RMS [ms]</translation>
-    </message>
-    <message>
-        <source>RMS [%]</source>
-        <translation>RMS [%]</translation>
     </message>
     <message>
         <source>Iterations</source>
@@ -7335,6 +8390,30 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>in use</source>
         <translation>utilisé</translation>
+    </message>
+    <message>
+        <source>By errors of</source>
+        <translation>Avec erreurs de</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none, by which chi-square is measured: figures by other errors do not compare.</source>
+        <translation>Erreurs des pointés qui n&apos;en indiquent pas, par lesquelles le khi-deux est mesuré&#xa0;: des valeurs obtenues avec d&apos;autres erreurs ne se comparent pas.</translation>
+    </message>
+    <message>
+        <source>Of what chi-square counts: without suspect picks, with the time shifts of shots that a fit has found.</source>
+        <translation>De ce que compte le khi-deux&#xa0;: sans les pointés suspects, avec les décalages temporels des tirs trouvés par un ajustement.</translation>
+    </message>
+    <message>
+        <source>RMS of all [ms]</source>
+        <translation>RMS de tous [ms]</translation>
+    </message>
+    <message>
+        <source>Of all picks as they are, suspect ones among them, without time shifts.</source>
+        <translation>De tous les pointés tels quels, suspects compris, sans décalages temporels.</translation>
+    </message>
+    <message>
+        <source>RMS of all [%]</source>
+        <translation>RMS de tous [%]</translation>
     </message>
 </context>
 <context>
@@ -7411,16 +8490,8 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Positif&#xa0;: l&apos;enregistrement commence trop tard, et ses pointés sont en retard.</translation>
     </message>
     <message>
-        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
-        <translation>Décale les enregistrements des tirs cochés avec leurs pointés, comme «&#xa0;Corriger l&apos;enregistrement&#xa0;». Défait en une seule fois.</translation>
-    </message>
-    <message>
         <source>&amp;Take over as time shifts of the records</source>
         <translation>&amp;Reprendre comme décalages des enregistrements</translation>
-    </message>
-    <message>
-        <source>no recording that could be shifted</source>
-        <translation>aucun enregistrement à décaler</translation>
     </message>
     <message>
         <source>There is no section yet whose times could be looked at.</source>
@@ -7439,24 +8510,48 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Pointés écartés de plus de cinq fois leur erreur&#xa0;; un clic montre la trace&#xa0;:</translation>
     </message>
     <message>
-        <source>Time shifts of shots that the fit has found:</source>
-        <translation>Décalages temporels des tirs trouvés par l&apos;ajustement&#xa0;:</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m, depth %3 to %4 m</source>
-        <translation>%1 à %2 m, profondeur %3 à %4 m</translation>
-    </message>
-    <message>
-        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
-        <translation>Cellules à la limite de %1 m/s&#xa0;: %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
-        <translation>Cellules affichées qu&apos;aucun rai ne traverse&#xa0;: %1 sur %2 (%3)</translation>
-    </message>
-    <message>
         <source>No velocity is at a limit, and rays cross all cells shown.</source>
         <translation>Aucune vitesse n&apos;est à une limite, et des rais traversent toutes les cellules affichées.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does; of shots without a recording the picks, with their errors. One step to be undone.</source>
+        <translation>Décale les enregistrements des tirs cochés avec leurs pointés, comme «&#xa0;Corriger l&apos;enregistrement&#xa0;»&#xa0;; pour les tirs sans enregistrement, les pointés avec leurs erreurs. Une seule étape, annulable.</translation>
+    </message>
+    <message>
+        <source>no recording: its picks are shifted</source>
+        <translation>pas d&apos;enregistrement&#xa0;: ses pointés sont décalés</translation>
+    </message>
+    <message>
+        <source>Errors of picks below %1 ms count as %1 ms: %2</source>
+        <translation>Les erreurs de pointés inférieures à %1 ms comptent pour %1 ms&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found; a click shows the shot:</source>
+        <translation>Décalages temporels des tirs trouvés par l&apos;ajustement&#xa0;; un clic montre le tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Ground to look at; a click shows it in the section:</source>
+        <translation>Terrain à examiner&#xa0;; un clic le montre dans la coupe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No pick stands out: %1 are off by more than five of their errors, but none by more than %2, as the section does not fit the picks to their errors.</source>
+        <translation>Aucun pointé ne sort du lot&#xa0;: %1 s&apos;écartent de plus de cinq fois leur erreur, mais aucun de plus de %2, car la coupe n&apos;explique pas les pointés à leurs erreurs près.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than %2 of their errors, which stand out where %1 are off by more than five; a click shows the trace:</source>
+        <translation>Pointés écartés de plus de %2 fois leur erreur, qui sortent du lot là où %1 s&apos;écartent de plus de cinq&#xa0;; un clic montre la trace&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2</source>
+        <translation>Cellules à la limite de %1 m/s&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2</source>
+        <translation>Cellules affichées qu&apos;aucun rai ne traverse&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
+        <translation>%1 (%2 à %3 m, profondeur %4 à %5 m)</translation>
     </message>
 </context>
 <context>
@@ -9611,6 +10706,171 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Uncertainty %1 %</source>
         <translation>Incertitude %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Residuals...</source>
+        <translation>Résidus...</translation>
+    </message>
+    <message>
+        <source>Look at what the section leaves of every pick: shot by geophone, over the offset, per shot and geophone, and along the rays</source>
+        <translation>Examiner ce que la coupe laisse de chaque pointé&#xa0;: par tir et géophone, selon le déport, par tir, par géophone et le long des rais</translation>
+    </message>
+    <message>
+        <source>Known ground ...</source>
+        <translation>Terrain connu ...</translation>
+    </message>
+    <message>
+        <source>Boreholes, known depths and bodies of known velocity, to be drawn and to hold a fit to</source>
+        <translation>Forages, profondeurs connues et corps de vitesse connue, à dessiner et à respecter par l&apos;ajustement</translation>
+    </message>
+    <message>
+        <source>Show known ground</source>
+        <translation>Afficher le terrain connu</translation>
+    </message>
+    <message>
+        <source>Draw boreholes, known depths and bodies over the section</source>
+        <translation>Dessiner les forages, profondeurs connues et corps sur la coupe</translation>
+    </message>
+    <message>
+        <source>Resolution test ...</source>
+        <translation>Test de résolution ...</translation>
+    </message>
+    <message>
+        <source>Find out how small ground may be that this survey still sees, by patterns laid over the section</source>
+        <translation>Déterminer quelle taille minimale de terrain ce levé voit encore, par des motifs superposés à la coupe</translation>
+    </message>
+    <message>
+        <source>Fade Uncertain Ground</source>
+        <translation>Estomper le terrain incertain</translation>
+    </message>
+    <message>
+        <source>Let the colours of the velocity section pale where it is not sure</source>
+        <translation>Faire pâlir les couleurs de la coupe de vitesse là où elle n&apos;est pas sûre</translation>
+    </message>
+    <message>
+        <source>Depth Bands ...</source>
+        <translation>Bandes de profondeur ...</translation>
+    </message>
+    <message>
+        <source>Draw between which depths velocities of your choice are reached, 16 to 84 %</source>
+        <translation>Dessiner entre quelles profondeurs sont atteintes les vitesses de votre choix, 16 à 84&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Certainty as table ...</source>
+        <translation>Certitude en tableau ...</translation>
+    </message>
+    <message>
+        <source>Export median, 16 and 84 % velocity and spread of every cell as a table (.csv)</source>
+        <translation>Exporter la médiane, les vitesses à 16 et 84&#xa0;% et la dispersion de chaque cellule en tableau (.csv)</translation>
+    </message>
+    <message>
+        <source>Export Certainty Table</source>
+        <translation>Exporter le tableau de certitude</translation>
+    </message>
+    <message>
+        <source>Table of the certainty (*.csv);;All Files (*)</source>
+        <translation>Tableau de la certitude (*.csv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Stopped before anything was found; the section is as it was.</source>
+        <translation>Arrêté avant tout résultat&#xa0;; la coupe est inchangée.</translation>
+    </message>
+    <message>
+        <source>The section is not held to known ground.</source>
+        <translation>La coupe n&apos;est pas contrainte par le terrain connu.</translation>
+    </message>
+    <message>
+        <source>The section is held to this.</source>
+        <translation>La coupe y est contrainte.</translation>
+    </message>
+    <message>
+        <source>The section is held to known ground that was another: run the fit again.</source>
+        <translation>La coupe est contrainte par un terrain connu qui a changé depuis&#xa0;: relancez l&apos;ajustement.</translation>
+    </message>
+    <message>
+        <source>Import known ground</source>
+        <translation>Importer le terrain connu</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv *.txt);;All files (*)</source>
+        <translation>Tableaux du terrain connu (*.csv *.txt);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Rien n&apos;a été importé.</translation>
+    </message>
+    <message>
+        <source>Export known ground</source>
+        <translation>Exporter le terrain connu</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv)</source>
+        <translation>Tableaux du terrain connu (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save picture of residuals</source>
+        <translation>Enregistrer l&apos;image des résidus</translation>
+    </message>
+    <message>
+        <source>Save table of residuals</source>
+        <translation>Enregistrer le tableau des résidus</translation>
+    </message>
+    <message>
+        <source>Save picture of the resolution test</source>
+        <translation>Enregistrer l&apos;image du test de résolution</translation>
+    </message>
+    <message>
+        <source>Save table of the resolution test</source>
+        <translation>Enregistrer le tableau du test de résolution</translation>
+    </message>
+    <message>
+        <source>Table of resolution by depth (*.csv)</source>
+        <translation>Tableau de la résolution par profondeur (*.csv)</translation>
+    </message>
+    <message>
+        <source>How sure the section before was is known no more; Undo brings back both.</source>
+        <translation>La certitude de la coupe précédente n&apos;est plus connue&#xa0;; «&#xa0;Défaire&#xa0;» ramène les deux.</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>pointés suspects&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>time shifts of shots: %1</source>
+        <translation>décalages temporels des tirs&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>cells at a limit of the velocity: %1</source>
+        <translation>cellules à une limite de vitesse&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>cells shown that no ray crosses: %1</source>
+        <translation>cellules affichées qu&apos;aucun rai ne traverse&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Second look (%1)</source>
+        <comment>kinds of things to look at</comment>
+        <translation>À revoir (%1)</translation>
+    </message>
+    <message>
+        <source>Shots without a recording, whose picks were shifted: %1.</source>
+        <translation>Tirs sans enregistrement, dont les pointés ont été décalés&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Depth Bands</source>
+        <translation>Bandes de profondeur</translation>
+    </message>
+    <message>
+        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Jusqu&apos;à %1 &amp;vitesses en m/s&#xa0;; les profondeurs où les 68&#xa0;% centraux des membres les atteignent sont dessinées en bande. Une liste vide enlève les bandes.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list of velocities.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une liste de vitesses.</translation>
+    </message>
+    <message>
+        <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
+        <translation>Indiquez jusqu&apos;à %1 nombres supérieurs à 0, séparés par des points-virgules&#xa0;: 800; 1500</translation>
     </message>
 </context>
 <context>
