@@ -401,6 +401,18 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <comment>run, remarks</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>by errors of %1</source>
+        <translation>con errori di %1</translation>
+    </message>
+    <message>
+        <source>by other errors, so these do not compare: %1</source>
+        <translation>con errori diversi, quindi non confrontabili: %1</translation>
+    </message>
+    <message>
+        <source>of all picks as they are %1 ms</source>
+        <translation>di tutti i primi arrivi così come sono %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::DialogSetGeometry</name>
@@ -1179,6 +1191,102 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>[m]</source>
         <translation>[m]</translation>
     </message>
+    <message>
+        <source>Depth of %1, 16 to 84 %</source>
+        <translation>Profondità di %1, dal 16 all&apos;84 %</translation>
+    </message>
+    <message>
+        <source>Pale: uncertain, ± %1 to %2 % and no ray</source>
+        <translation>Sbiadito: incerto, da ± %1 a %2 % e senza raggi</translation>
+    </message>
+    <message>
+        <source>picks have changed since the certainty was found out</source>
+        <translation>i primi arrivi sono cambiati dopo il calcolo dell&apos;affidabilità</translation>
+    </message>
+    <message>
+        <source>certainty of other sections than this one: %1 % of its cells with rays lie beyond two deviations</source>
+        <translation>affidabilità di sezioni diverse da questa: il %1 % delle sue celle con raggi sta oltre due deviazioni</translation>
+    </message>
+    <message>
+        <source>±: half of the range from 16 to 84 % of %1 members</source>
+        <translation>±: metà dell&apos;intervallo dal 16 all&apos;84 % di %1 membri</translation>
+    </message>
+    <message>
+        <source>certainty of %1 members</source>
+        <translation>affidabilità di %1 membri</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 esclusi</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geofono a [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [pick errors]</source>
+        <translation>Calcolato meno misurato [errori dei primi arrivi]</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Tiro %1, geofono %2 a %3 m, distanza %4 m: misurato %5 ms, calcolato %6 ms, residuo %7 ms, errore %8 ms (%9 errori)</translation>
+    </message>
+    <message>
+        <source>; suspect</source>
+        <translation>; sospetto</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geofono a [m]; tratteggiato: nessun primo arrivo, con un punto: sospetto</translation>
+    </message>
+    <message>
+        <source>Shot, along the line</source>
+        <translation>Tiro, lungo la linea</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Primi arrivi</translation>
+    </message>
+    <message>
+        <source>Suspect</source>
+        <translation>Sospetti</translation>
+    </message>
+    <message>
+        <source>Running median</source>
+        <translation>Mediana mobile</translation>
+    </message>
+    <message>
+        <source>One standard deviation</source>
+        <translation>Una deviazione standard</translation>
+    </message>
+    <message>
+        <source>Stands out</source>
+        <translation>Anomalo</translation>
+    </message>
+    <message>
+        <source>Median and one standard deviation</source>
+        <translation>Mediana e una deviazione standard</translation>
+    </message>
+    <message>
+        <source>%1: %2 m/s</source>
+        <translation>%1: %2 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m beside the line)</source>
+        <translation>%1 (%2 m di lato alla linea)</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Sondaggi</translation>
+    </message>
+    <message>
+        <source>Known depths</source>
+        <translation>Profondità note</translation>
+    </message>
+    <message>
+        <source>Fixed bodies</source>
+        <translation>Corpi fissi</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1313,6 +1421,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Picks</source>
         <translation>Primi arrivi</translation>
+    </message>
+    <message>
+        <source>The section is drawn to the velocities and depths of &quot;Known ground&quot; by their errors, and fixed bodies stay as they are. How the section goes with them is told after the run; chi-square is of the picks alone.</source>
+        <translation>La sezione è attratta verso le velocità e le profondità di &quot;Terreno noto&quot; secondo i loro errori, e i corpi fissi restano come sono. Come la sezione vi si accorda è detto dopo il calcolo; il chi quadrato è dei soli primi arrivi.</translation>
+    </message>
+    <message>
+        <source>Hold to known ground</source>
+        <translation>Vincola al terreno noto</translation>
     </message>
 </context>
 <context>
@@ -1711,6 +1827,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>%1 (exists)</source>
         <translation>%1 (esiste)</translation>
     </message>
+    <message>
+        <source>Residuals of the picks</source>
+        <translation>Residui dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>Shot by geophone, and in the section along the rays</source>
+        <translation>Tiro per geofono, e nella sezione lungo i raggi</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::InversionTexts</name>
@@ -1819,6 +1943,208 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Best of the picks&apos; models</source>
         <translation>Il migliore dei modelli dai primi arrivi</translation>
+    </message>
+    <message>
+        <source>With the time shifts of shots</source>
+        <translation>Con le traslazioni temporali dei tiri</translation>
+    </message>
+    <message>
+        <source>Without suspects, with the time shifts of shots</source>
+        <translation>Senza i sospetti, con le traslazioni temporali dei tiri</translation>
+    </message>
+    <message>
+        <source>Without suspects</source>
+        <translation>Senza i sospetti</translation>
+    </message>
+    <message>
+        <source>All picks as they are, </source>
+        <translation>Tutti i primi arrivi così come sono, </translation>
+    </message>
+    <message>
+        <source>Known ground: %1 conditions, RMS %2 of their errors; fixed cells %3
+</source>
+        <translation>Terreno noto: %1 condizioni, RMS %2 dei loro errori; celle fisse %3
+</translation>
+    </message>
+    <message>
+        <source>The section does not go with %1: off by %2 of its errors
+</source>
+        <translation>La sezione non si accorda con %1: scarto di %2 volte l&apos;errore
+</translation>
+    </message>
+    <message>
+        <source>RMS of what chi-square counts: %1 ms.</source>
+        <translation>RMS di ciò che conta nel chi quadrato: %1 ms.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownGroundDialog</name>
+    <message>
+        <source>Known ground</source>
+        <translation>Terreno noto</translation>
+    </message>
+    <message>
+        <source>&amp;Boreholes</source>
+        <translation>&amp;Sondaggi</translation>
+    </message>
+    <message>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Una riga è uno strato; gli strati con lo stesso nome sono di un solo sondaggio, dall&apos;alto in basso. Le profondità sono in metri dal suolo. Senza errore una velocità vale come nota al 5 %.</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Sondaggi</translation>
+    </message>
+    <message>
+        <source>&amp;Depths</source>
+        <translation>&amp;Profondità</translation>
+    </message>
+    <message>
+        <source>A row is a place where a refractor is known to lie: the velocity that is reached there, or those above and below. Without an error a depth counts as known to a tenth. Points of one refractor number belong together.</source>
+        <translation>Una riga è un punto in cui si sa che passa un rifrattore: la velocità che vi si raggiunge, o quelle sopra e sotto. Senza errore una profondità vale come nota a un decimo. I punti con lo stesso numero di rifrattore vanno insieme.</translation>
+    </message>
+    <message>
+        <source>Depths</source>
+        <translation>Profondità</translation>
+    </message>
+    <message>
+        <source>B&amp;odies</source>
+        <translation>&amp;Corpi</translation>
+    </message>
+    <message>
+        <source>A row is a corner; corners of one name go around a body of known velocity, which a fit leaves as it is.</source>
+        <translation>Una riga è un vertice; i vertici con lo stesso nome delimitano un corpo di velocità nota, che un adattamento lascia com&apos;è.</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Corpi</translation>
+    </message>
+    <message>
+        <source>Insert a row above the current one. The last line of a table is always empty: type there to go on</source>
+        <translation>Inserisce una riga sopra quella attuale. L&apos;ultima riga di una tabella è sempre vuota: per continuare basta scrivere lì</translation>
+    </message>
+    <message>
+        <source>&amp;Add row</source>
+        <translation>&amp;Aggiungi riga</translation>
+    </message>
+    <message>
+        <source>Remove the rows with selected cells</source>
+        <translation>Toglie le righe con celle selezionate</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>&amp;Rimuovi righe</translation>
+    </message>
+    <message>
+        <source>Take the last step in these tables back</source>
+        <translation>Annulla l&apos;ultimo passo in queste tabelle</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla modifica</translation>
+    </message>
+    <message>
+        <source>Do it again</source>
+        <translation>Rifà il passo annullato</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti modifica</translation>
+    </message>
+    <message>
+        <source>Read a table in place of all that stands here</source>
+        <translation>Legge una tabella al posto di tutto ciò che sta qui</translation>
+    </message>
+    <message>
+        <source>&amp;Import ...</source>
+        <translation>&amp;Importa ...</translation>
+    </message>
+    <message>
+        <source>Write all of it as one table</source>
+        <translation>Scrive tutto in un&apos;unica tabella</translation>
+    </message>
+    <message>
+        <source>&amp;Export ...</source>
+        <translation>&amp;Esporta ...</translation>
+    </message>
+    <message>
+        <source>Boreholes: %1, known depths: %2, bodies: %3.</source>
+        <translation>Sondaggi: %1, profondità note: %2, corpi: %3.</translation>
+    </message>
+    <message>
+        <source>%1, row %2: %3.</source>
+        <translation>%1, riga %2: %3.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed in these tables?</source>
+        <translation>Abbandonare le modifiche a queste tabelle?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownTable</name>
+    <message>
+        <source>Position [m]</source>
+        <translation>Posizione [m]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Scostamento [m]</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Tetto [m]</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profondità [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Letto [m]</translation>
+    </message>
+    <message>
+        <source>Isovalue [m/s]</source>
+        <translation>Isovalore [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Error [m]</source>
+        <translation>Errore [m]</translation>
+    </message>
+    <message>
+        <source>Error [m/s]</source>
+        <translation>Errore [m/s]</translation>
+    </message>
+    <message>
+        <source>Refractor</source>
+        <translation>Rifrattore</translation>
+    </message>
+    <message>
+        <source>Above [m/s]</source>
+        <translation>Sopra [m/s]</translation>
+    </message>
+    <message>
+        <source>Below [m/s]</source>
+        <translation>Sotto [m/s]</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>&quot;%1&quot; non è un numero.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows of %2 columns do not fit from here on.</source>
+        <translation>Non è stato incollato nulla: %1 righe di %2 colonne non entrano da qui in poi.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted. Row %1: %2</source>
+        <translation>Non è stato incollato nulla. Riga %1: %2</translation>
     </message>
 </context>
 <context>
@@ -7202,20 +7528,12 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>velocità da %1 a %2 m/s</translation>
     </message>
     <message>
-        <source>errors of %1 ms or %2 %</source>
-        <translation>errori di %1 ms o del %2 %</translation>
-    </message>
-    <message>
         <source>robust</source>
         <translation>robusta</translation>
     </message>
     <message>
         <source>blocky</source>
         <translation>a blocchi</translation>
-    </message>
-    <message>
-        <source>with shot statics</source>
-        <translation>con statiche dei tiri</translation>
     </message>
     <message>
         <source>suspect picks: %1</source>
@@ -7249,6 +7567,34 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>positions have changed since</source>
         <translation>posizioni cambiate in seguito</translation>
     </message>
+    <message>
+        <source>%1 ms or %2 %</source>
+        <translation>%1 ms o %2 %</translation>
+    </message>
+    <message>
+        <source>errors of %1</source>
+        <translation>errori di %1</translation>
+    </message>
+    <message>
+        <source>from &quot;%1&quot;</source>
+        <translation>da &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>non robusta</translation>
+    </message>
+    <message>
+        <source>with shot statics, trigger error %1 ms</source>
+        <translation>con statiche dei tiri, errore del trigger %1 ms</translation>
+    </message>
+    <message>
+        <source>held to known ground</source>
+        <translation>vincolata al terreno noto</translation>
+    </message>
+    <message>
+        <source>from coarse to fine</source>
+        <translation>dal grosso al fine</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RunsDialog</name>
@@ -7275,10 +7621,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>RMS [ms]</source>
         <translation>RMS [ms]</translation>
-    </message>
-    <message>
-        <source>RMS [%]</source>
-        <translation>RMS [%]</translation>
     </message>
     <message>
         <source>Iterations</source>
@@ -7335,6 +7677,30 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>in use</source>
         <translation>in uso</translation>
+    </message>
+    <message>
+        <source>By errors of</source>
+        <translation>Con errori di</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none, by which chi-square is measured: figures by other errors do not compare.</source>
+        <translation>Errori dei primi arrivi che non ne indicano, con cui si misura il chi quadrato: valori ottenuti con altri errori non sono confrontabili.</translation>
+    </message>
+    <message>
+        <source>Of what chi-square counts: without suspect picks, with the time shifts of shots that a fit has found.</source>
+        <translation>Di ciò che conta nel chi quadrato: senza primi arrivi sospetti, con le traslazioni temporali dei tiri trovate da un adattamento.</translation>
+    </message>
+    <message>
+        <source>RMS of all [ms]</source>
+        <translation>RMS di tutti [ms]</translation>
+    </message>
+    <message>
+        <source>Of all picks as they are, suspect ones among them, without time shifts.</source>
+        <translation>Di tutti i primi arrivi così come sono, sospetti compresi, senza traslazioni temporali.</translation>
+    </message>
+    <message>
+        <source>RMS of all [%]</source>
+        <translation>RMS di tutti [%]</translation>
     </message>
 </context>
 <context>
@@ -7411,16 +7777,8 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Positivo: la registrazione comincia troppo tardi, e i suoi primi arrivi sono in ritardo.</translation>
     </message>
     <message>
-        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
-        <translation>Trasla le registrazioni dei tiri spuntati con i loro primi arrivi, come &quot;Correggi la registrazione&quot;. Un solo passo da annullare.</translation>
-    </message>
-    <message>
         <source>&amp;Take over as time shifts of the records</source>
         <translation>&amp;Applica come traslazioni delle registrazioni</translation>
-    </message>
-    <message>
-        <source>no recording that could be shifted</source>
-        <translation>nessuna registrazione da traslare</translation>
     </message>
     <message>
         <source>There is no section yet whose times could be looked at.</source>
@@ -7439,24 +7797,48 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Primi arrivi lontani più di cinque dei loro errori; un clic mostra la traccia:</translation>
     </message>
     <message>
-        <source>Time shifts of shots that the fit has found:</source>
-        <translation>Traslazioni temporali dei tiri trovate dall&apos;adattamento:</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m, depth %3 to %4 m</source>
-        <translation>da %1 a %2 m, profondità da %3 a %4 m</translation>
-    </message>
-    <message>
-        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
-        <translation>Celle al limite di %1 m/s: %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
-        <translation>Celle mostrate che nessun raggio attraversa: %1 di %2 (%3)</translation>
-    </message>
-    <message>
         <source>No velocity is at a limit, and rays cross all cells shown.</source>
         <translation>Nessuna velocità è a un limite, e i raggi attraversano tutte le celle mostrate.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does; of shots without a recording the picks, with their errors. One step to be undone.</source>
+        <translation>Trasla le registrazioni dei tiri spuntati con i loro primi arrivi, come &quot;Correggi la registrazione&quot;; dei tiri senza registrazione i primi arrivi, con i loro errori. Un solo passo da annullare.</translation>
+    </message>
+    <message>
+        <source>no recording: its picks are shifted</source>
+        <translation>nessuna registrazione: si traslano i suoi primi arrivi</translation>
+    </message>
+    <message>
+        <source>Errors of picks below %1 ms count as %1 ms: %2</source>
+        <translation>Gli errori dei primi arrivi sotto %1 ms contano come %1 ms: %2</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found; a click shows the shot:</source>
+        <translation>Traslazioni temporali dei tiri trovate dall&apos;adattamento; un clic mostra il tiro:</translation>
+    </message>
+    <message>
+        <source>Ground to look at; a click shows it in the section:</source>
+        <translation>Terreno da riguardare; un clic lo mostra nella sezione:</translation>
+    </message>
+    <message>
+        <source>No pick stands out: %1 are off by more than five of their errors, but none by more than %2, as the section does not fit the picks to their errors.</source>
+        <translation>Nessun primo arrivo è anomalo: %1 scartano di più di cinque volte il loro errore, ma nessuno di più di %2, poiché la sezione non si adatta ai primi arrivi entro i loro errori.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than %2 of their errors, which stand out where %1 are off by more than five; a click shows the trace:</source>
+        <translation>Primi arrivi che scartano di più di %2 volte il loro errore, e sono anomali dove %1 scartano di più di cinque; un clic mostra la traccia:</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2</source>
+        <translation>Celle al limite di %1 m/s: %2</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2</source>
+        <translation>Celle mostrate che nessun raggio attraversa: %1 su %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
+        <translation>%1 (da %2 a %3 m, profondità da %4 a %5 m)</translation>
     </message>
 </context>
 <context>
