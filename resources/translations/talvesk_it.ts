@@ -5615,6 +5615,338 @@ Impostare la posizione dei geofoni
         <source>Uncertainty of velocity</source>
         <translation>Incertezza della velocità</translation>
     </message>
+    <message>
+        <source>There are no picks yet: a resolution test takes their positions and errors.</source>
+        <translation>Non ci sono ancora primi arrivi: una prova di risoluzione ne usa posizioni ed errori.</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known; find it out first</source>
+        <translation>quanto sia sicura la sezione non è noto; calcolare prima l&apos;affidabilità</translation>
+    </message>
+    <message>
+        <source>there is no section whose times could be compared with the picks; run an inversion first</source>
+        <translation>non c&apos;è una sezione di cui confrontare i tempi con i primi arrivi; eseguire prima un&apos;inversione</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw.</source>
+        <translation>Non c&apos;è nulla da disegnare.</translation>
+    </message>
+    <message>
+        <source>There are no rays of this section.</source>
+        <translation>Non ci sono raggi di questa sezione.</translation>
+    </message>
+    <message>
+        <source>it does not begin with a heading of the columns kind, name, x, depth, bottom, velocity, error, ...</source>
+        <translation>non comincia con un&apos;intestazione delle colonne kind, name, x, depth, bottom, velocity, error, ...</translation>
+    </message>
+    <message>
+        <source>there is no column %1</source>
+        <translation>non c&apos;è la colonna %1</translation>
+    </message>
+    <message>
+        <source>column %1 is in another unit than m and m/s</source>
+        <translation>la colonna %1 è in un&apos;unità diversa da m e m/s</translation>
+    </message>
+    <message>
+        <source>it has too many rows</source>
+        <translation>ha troppe righe</translation>
+    </message>
+    <message>
+        <source>%1 is none of borehole, depth, body</source>
+        <translation>%1 non è né borehole, né depth, né body</translation>
+    </message>
+    <message>
+        <source>%1 is no number for %2</source>
+        <translation>%1 non è un numero valido per %2</translation>
+    </message>
+    <message>
+        <source>there is no row below its heading</source>
+        <translation>nessuna riga segue la sua intestazione</translation>
+    </message>
+    <message>
+        <source>what was known of its ground is lost</source>
+        <translation>ciò che era noto del suo terreno è perso</translation>
+    </message>
+    <message>
+        <source>finding out how sure the section is begins anew instead of going on</source>
+        <translation>il calcolo dell&apos;affidabilità ricomincia da capo invece di riprendere</translation>
+    </message>
+    <message>
+        <source>it does not go with the certainty of the project</source>
+        <translation>non corrisponde all&apos;affidabilità del progetto</translation>
+    </message>
+    <message>
+        <source>what it counts cannot be</source>
+        <translation>i suoi conteggi non sono possibili</translation>
+    </message>
+    <message>
+        <source>its depth bands cannot be drawn so; there are none now</source>
+        <translation>le sue fasce di profondità non si possono disegnare così; ora non ce ne sono</translation>
+    </message>
+    <message>
+        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
+        <translation>%1 m/s non è una velocità del terreno (da %2 a %3)</translation>
+    </message>
+    <message>
+        <source>%1 m is no depth below the surface (0 to %2)</source>
+        <translation>%1 m non è una profondità dal suolo (da 0 a %2)</translation>
+    </message>
+    <message>
+        <source>%1 m is no position along the line</source>
+        <translation>%1 m non è una posizione lungo la linea</translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation>non ha un nome</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 m has its bottom not below its top</source>
+        <translation>uno strato da %1 a %2 m ha il letto non più in basso del tetto</translation>
+    </message>
+    <message>
+        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
+        <translation>un errore di %1 m/s non può essere negativo, e deve essere minore della velocità, %2</translation>
+    </message>
+    <message>
+        <source>it has no layer</source>
+        <translation>non ha strati</translation>
+    </message>
+    <message>
+        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
+        <translation>lo strato da %1 m comincia sopra il letto di quello precedente, %2 m</translation>
+    </message>
+    <message>
+        <source>%1 m is no error of a depth</source>
+        <translation>%1 m non è l&apos;errore di una profondità</translation>
+    </message>
+    <message>
+        <source>refractors have the numbers 1 to %1</source>
+        <translation>i rifrattori hanno i numeri da 1 a %1</translation>
+    </message>
+    <message>
+        <source>the velocities above and below are the same, so nothing begins here</source>
+        <translation>le velocità sopra e sotto sono uguali, quindi qui non comincia nulla</translation>
+    </message>
+    <message>
+        <source>its outline needs three corners at least</source>
+        <translation>il suo contorno richiede almeno tre vertici</translation>
+    </message>
+    <message>
+        <source>more is known than can be held: %1 boreholes, depths and bodies at most, with %2 layers and corners</source>
+        <translation>gli elementi noti sono troppi: al massimo %1 fra sondaggi, profondità e corpi, con %2 fra strati e vertici</translation>
+    </message>
+    <message>
+        <source>borehole %1</source>
+        <translation>sondaggio %1</translation>
+    </message>
+    <message>
+        <source>known depth %1</source>
+        <translation>profondità nota %1</translation>
+    </message>
+    <message>
+        <source>body %1</source>
+        <translation>corpo %1</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>manca %1</translation>
+    </message>
+    <message>
+        <source>a %1 has no %2</source>
+        <translation>un elemento %1 non ha %2</translation>
+    </message>
+    <message>
+        <source>borehole %1 stands somewhere else in the rows above</source>
+        <translation>il sondaggio %1 sta altrove nelle righe sopra</translation>
+    </message>
+    <message>
+        <source>the number of a refractor is a whole one</source>
+        <translation>il numero di un rifrattore deve essere intero</translation>
+    </message>
+    <message>
+        <source>body %1 has another velocity in the rows above</source>
+        <translation>il corpo %1 ha un&apos;altra velocità nelle righe sopra</translation>
+    </message>
+    <message>
+        <source>fewer than six picks of it</source>
+        <translation>ha meno di sei primi arrivi</translation>
+    </message>
+    <message>
+        <source>picks of it from shots on one side only, which cannot tell a dip from a velocity</source>
+        <translation>ha primi arrivi di tiri da un lato solo, che non distinguono una pendenza da una velocità</translation>
+    </message>
+    <message>
+        <source>no shot has three picks of it on one side, with waves the other way beside them, that are faster than the first layer</source>
+        <translation>nessun tiro ha tre suoi primi arrivi da un lato, accompagnati da onde in verso opposto, che siano più veloci del primo strato</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation>Strato %1: né velocità né profondità a %2 ricevitori, dove la velocità risulta fuori da 50-12 000 m/s.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
+        <translation>Strato %1: nessuna profondità a %2 ricevitori, dove risulta maggiore della lunghezza della linea.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where the ground above it comes out to cost no time.</source>
+        <translation>Strato %1: nessuna profondità a %2 ricevitori, dove il terreno sovrastante risulta attraversato in tempo nullo.</translation>
+    </message>
+    <message>
+        <source>Layer %1: %2.</source>
+        <translation>Strato %1: %2.</translation>
+    </message>
+    <message>
+        <source>The first layer has no velocity, so there are no depths.</source>
+        <translation>Il primo strato non ha velocità, quindi non ci sono profondità.</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: nothing</source>
+        <translation>Strato %1, %2: nulla</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s, no depth</source>
+        <translation>Strato %1, %2: %3 m/s, nessuna profondità</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Strato %1, %2: %3 m/s a una profondità di %4 m (mediane); profondità a %5 geofoni su %6, di cui %7 non sostenute da primi arrivi in quel punto</translation>
+    </message>
+    <message>
+        <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
+        <translation>Strato %1: i metodi discordano oltre gli errori dei primi arrivi, nella profondità a %2 geofoni su %3, nella velocità a %4</translation>
+    </message>
+    <message>
+        <source>no two shots have picks of it at five geophones between them</source>
+        <translation>nessuna coppia di tiri ne ha primi arrivi a cinque geofoni compresi fra i due</translation>
+    </message>
+    <message>
+        <source>no second layer can be fitted</source>
+        <translation>non è possibile adattare un secondo strato</translation>
+    </message>
+    <message>
+        <source>a second layer gains %1 ms</source>
+        <translation>un secondo strato migliora di %1 ms</translation>
+    </message>
+    <message>
+        <source>no third layer can be fitted</source>
+        <translation>non è possibile adattare un terzo strato</translation>
+    </message>
+    <message>
+        <source>a third layer gains %1 ms</source>
+        <translation>un terzo strato migliora di %1 ms</translation>
+    </message>
+    <message>
+        <source>1 layer, misfit %1 ms</source>
+        <translation>1 strato, scarto %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 layers, misfit %2 ms</source>
+        <translation>%1 strati, scarto %2 ms</translation>
+    </message>
+    <message>
+        <source>no layers are proposed: there are too few picks to fit any</source>
+        <translation>nessuno strato proposto: i primi arrivi sono troppo pochi per adattarne</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
+        <translation>nessuno strato: una velocità che cresce costantemente con la profondità, da %1 m/s di %2 m/s al metro, ha uno scarto di %3 ms</translation>
+    </message>
+    <message>
+        <source>%1; without layers, by a steady gradient, %2 ms</source>
+        <translation>%1; senza strati, con un gradiente costante, %2 ms</translation>
+    </message>
+    <message>
+        <source>three layers fit better, but no shot at each end of the line has picks of the layer in between: two layers are proposed</source>
+        <translation>tre strati si adattano meglio, ma non c&apos;è un tiro a ogni estremo della linea con primi arrivi dello strato intermedio: si propongono due strati</translation>
+    </message>
+    <message>
+        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>tiro %1, alla sua destra: lo strato %2 poggia su meno di quattro primi arrivi (%3)</translation>
+    </message>
+    <message>
+        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>tiro %1, alla sua sinistra: lo strato %2 poggia su meno di quattro primi arrivi (%3)</translation>
+    </message>
+    <message>
+        <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
+        <translation>%1 primi arrivi non si adattano ad alcuno strato e non sono assegnati (tiro/traccia): %2</translation>
+    </message>
+    <message>
+        <source>Known ground</source>
+        <translation>Terreno noto</translation>
+    </message>
+    <message>
+        <source>with %1 ms less, the pick of receiver %2 would come before the shot</source>
+        <translation>con %1 ms in meno, il primo arrivo del ricevitore %2 precederebbe il tiro</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>La sezione si adatta ai primi arrivi entro i loro errori: chi quadrato %1. Il modello da cui è partita vi si adatta meglio, chi quadrato %2, ed è stato smussato fin dove gli errori consentono. Per mantenerlo netto, indicare errori %3 volte più grandi.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
+        <translation>%1 Il modello da cui è partita era troppo lontano dai primi arrivi, chi quadrato %2, per vincolare la sezione ai suoi salti netti: prima sono stati smussati.</translation>
+    </message>
+    <message>
+        <source>%1 holds no cell of the grid: it is too small, or beyond it.</source>
+        <translation>%1 non contiene celle della griglia: è troppo piccolo, o ne è fuori.</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m stands beyond the grid.</source>
+        <translation>%1 a %2 m sta fuori dalla griglia.</translation>
+    </message>
+    <message>
+        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
+        <translation>%1 arriva a %2 m di profondità, sotto la griglia; ciò che sta sotto %3 m non conta.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3 m</source>
+        <translation>%1, da %2 a %3 m</translation>
+    </message>
+    <message>
+        <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
+        <translation>%1: nessuna cella è in maggior parte di questo strato; conta per la sua quota delle celle, o sta dentro un corpo fisso.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (a %2 m lungo la linea, profonda %3 m) è fuori dalla griglia, o più vicina al suo bordo del proprio errore o di una cella.</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s at %3 m</source>
+        <translation>%1, %2 m/s a %3 m</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s above</source>
+        <translation>%1, %2 m/s sopra</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s below</source>
+        <translation>%1, %2 m/s sotto</translation>
+    </message>
+    <message>
+        <source>Layered interpretation</source>
+        <translation>Interpretazione a strati</translation>
+    </message>
+    <message>
+        <source>Section of another project</source>
+        <translation>Sezione di un altro progetto</translation>
+    </message>
+    <message>
+        <source>There is no layered interpretation to start from. Build one first.</source>
+        <translation>Non c&apos;è un&apos;interpretazione a strati da cui partire. Crearne prima una.</translation>
+    </message>
+    <message>
+        <source>Mean residual of the rays</source>
+        <translation>Residuo medio dei raggi</translation>
+    </message>
+    <message>
+        <source>Mean residual over pick error</source>
+        <translation>Residuo medio rapportato all&apos;errore del primo arrivo</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7393,6 +7725,66 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
         <translation>Scarto quadratico medio della sezione dopo ogni iterazione, 0 essendo il modello iniziale</translation>
+    </message>
+    <message>
+        <source>Reciprocal</source>
+        <translation>Reciproco</translation>
+    </message>
+    <message>
+        <source>Delay times</source>
+        <translation>Tempi di ritardo</translation>
+    </message>
+    <message>
+        <source>Intercept times</source>
+        <translation>Tempi d&apos;intercetta</translation>
+    </message>
+    <message>
+        <source>Plus-minus</source>
+        <translation>Plus-minus</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>entrambe</translation>
+    </message>
+    <message>
+        <source>depth</source>
+        <translation>profondità</translation>
+    </message>
+    <message>
+        <source>velocity</source>
+        <translation>velocità</translation>
+    </message>
+    <message>
+        <source>%1: depth [m]</source>
+        <translation>%1: profondità [m]</translation>
+    </message>
+    <message>
+        <source>%1: velocity [m/s]</source>
+        <translation>%1: velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Disagree in</source>
+        <translation>Discordano in</translation>
+    </message>
+    <message>
+        <source>Layers by method</source>
+        <translation>Strati secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface. A value in parentheses is not carried by picks there, but by shifted arrivals of other shots, across a gap or by a continuation.</source>
+        <translation>Le profondità sono dal suolo. Un valore fra parentesi non è sostenuto da primi arrivi in quel punto, ma da arrivi traslati di altri tiri, attraverso una lacuna o per prolungamento.</translation>
+    </message>
+    <message>
+        <source>Errors are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations. Methods disagree where two of them differ by more than three times what their difference scatters by.</source>
+        <translation>Gli errori sono la semiampiezza entro cui cadono 68 risultati su 100 quando i primi arrivi si spostano secondo i loro errori, da %1 interpretazioni di questo tipo. I metodi discordano dove due di essi differiscono di più di tre volte la dispersione della loro differenza.</translation>
+    </message>
+    <message>
+        <source>Layer %1 by method</source>
+        <translation>Strato %1 secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks, shot by geophone</source>
+        <translation>Residui dei primi arrivi, tiro per geofono</translation>
     </message>
 </context>
 <context>
