@@ -7902,6 +7902,327 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
 </context>
 <context>
+    <name>talvesk::ResidualsDialog</name>
+    <message>
+        <source>Residuals</source>
+        <translation>Residui</translation>
+    </message>
+    <message>
+        <source>Residuals &amp;in:</source>
+        <translation>Residui &amp;in:</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>Millisecondi</translation>
+    </message>
+    <message>
+        <source>Errors of the picks</source>
+        <translation>Errori dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>&amp;Colour shot:</source>
+        <translation>&amp;Colora il tiro:</translation>
+    </message>
+    <message>
+        <source>Whose dots have a colour of their own in the picture over the offset</source>
+        <translation>Il tiro i cui punti hanno un colore proprio nell&apos;immagine in funzione della distanza</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mappa</translation>
+    </message>
+    <message>
+        <source>Residuals, shot by geophone</source>
+        <translation>Residui, tiro per geofono</translation>
+    </message>
+    <message>
+        <source>Over the &amp;offset</source>
+        <translation>Per &amp;distanza</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residui in funzione della distanza dal tiro</translation>
+    </message>
+    <message>
+        <source>Shots and &amp;geophones</source>
+        <translation>Tiri e geo&amp;foni</translation>
+    </message>
+    <message>
+        <source>Residuals per shot</source>
+        <translation>Residui per tiro</translation>
+    </message>
+    <message>
+        <source>Residuals per geophone</source>
+        <translation>Residui per geofono</translation>
+    </message>
+    <message>
+        <source>&amp;Along the rays</source>
+        <translation>&amp;Lungo i raggi</translation>
+    </message>
+    <message>
+        <source>Every cell has the mean residual of the rays through it, by their lengths in it; suspect picks are left out.</source>
+        <translation>Ogni cella ha il residuo medio dei raggi che la attraversano, pesato con la loro lunghezza in essa; i primi arrivi sospetti sono esclusi.</translation>
+    </message>
+    <message>
+        <source>Shows the trace of the current pick in the window, as a click on it or Return does</source>
+        <translation>Mostra nella finestra principale la traccia del primo arrivo attuale, come un clic su di esso o Invio</translation>
+    </message>
+    <message>
+        <source>Show &amp;trace</source>
+        <translation>Mostra la &amp;traccia</translation>
+    </message>
+    <message>
+        <source>Puts the picture in view on the clipboard</source>
+        <translation>Mette negli appunti l&apos;immagine in vista</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>C&amp;opia immagine</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture...</source>
+        <translation>Salva imma&amp;gine...</translation>
+    </message>
+    <message>
+        <source>All picks with their residuals, for spreadsheets</source>
+        <translation>Tutti i primi arrivi con i loro residui, per fogli di calcolo</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Salva tabella...</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tiro %1</translation>
+    </message>
+    <message>
+        <source>Geophone at %1 m</source>
+        <translation>Geofono a %1 m</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Non c&apos;è ancora una sezione di cui guardare i tempi.</translation>
+    </message>
+    <message>
+        <source>Section of &quot;%1&quot;: %2.</source>
+        <translation>Sezione di &quot;%1&quot;: %2.</translation>
+    </message>
+    <message>
+        <source>Picks: %1, suspect: %2.</source>
+        <translation>Primi arrivi: %1, sospetti: %2.</translation>
+    </message>
+    <message>
+        <source>The section was smoothed afterwards.</source>
+        <translation>La sezione è stata smussata in seguito.</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found are counted.</source>
+        <translation>Si tiene conto delle traslazioni temporali dei tiri trovate dall&apos;adattamento.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>I primi arrivi sono cambiati dopo il calcolo della sezione: era adattata ad altri.</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Distanza dal tiro [m]</translation>
+    </message>
+    <message>
+        <source>Median [pick errors]</source>
+        <translation>Mediana [errori dei primi arrivi]</translation>
+    </message>
+    <message>
+        <source>Median [ms]</source>
+        <translation>Mediana [ms]</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geofono a [m]</translation>
+    </message>
+    <message>
+        <source>Click a pick, or walk to it with the arrow keys.</source>
+        <translation>Fai clic su un primo arrivo, o raggiungilo con le frecce.</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
+        <translation>Tiro %1, geofono a %2 m: nessun primo arrivo con un tempo calcolato</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: picks %2, median %3, two of three from %4 to %5</source>
+        <translation>%1: primi arrivi %2, mediana %3, due su tre da %4 a %5</translation>
+    </message>
+    <message>
+        <source>; stands out</source>
+        <translation>; anomalo</translation>
+    </message>
+    <message>
+        <source>The picture cannot be made.</source>
+        <translation>Non è possibile creare l&apos;immagine.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResolutionDialog</name>
+    <message>
+        <source>Resolution Test</source>
+        <translation>Prova di risoluzione</translation>
+    </message>
+    <message>
+        <source>Would the survey see it? A pattern is laid over the section, the times of all picks are computed through it with noise of their errors, and a section is fitted to them. Where what comes back correlates with what was put in, ground of that size is resolved.</source>
+        <translation>Il rilievo lo vedrebbe? Alla sezione si sovrappone un motivo, i tempi di tutti i primi arrivi si calcolano attraverso di esso con rumore pari ai loro errori, e vi si adatta una sezione. Dove ciò che torna è correlato con ciò che è stato messo, il terreno di quella dimensione è risolto.</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Motivo:</translation>
+    </message>
+    <message>
+        <source>What the section is disturbed by</source>
+        <translation>Che cosa perturba la sezione</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze [m]:</source>
+        <translation>&amp;Dimensione [m]:</translation>
+    </message>
+    <message>
+        <source>Side of a square, or thickness of a layer</source>
+        <translation>Lato di un quadrato, o spessore di uno strato</translation>
+    </message>
+    <message>
+        <source>Se&amp;veral sizes</source>
+        <translation>&amp;Più dimensioni</translation>
+    </message>
+    <message>
+        <source>Try sizes from the distance between positions up to the largest that fits the grid, and tell the smallest that is resolved at each depth</source>
+        <translation>Prova dimensioni dalla distanza fra le posizioni fino alla massima che entra nella griglia, e indica la minima risolta a ogni profondità</translation>
+    </message>
+    <message>
+        <source>St&amp;rength [%]:</source>
+        <translation>&amp;Intensità [%]:</translation>
+    </message>
+    <message>
+        <source>How much faster and slower the pattern is than the section</source>
+        <translation>Di quanto il motivo è più veloce e più lento della sezione</translation>
+    </message>
+    <message>
+        <source>&amp;Over:</source>
+        <translation>&amp;Sopra:</translation>
+    </message>
+    <message>
+        <source>What the pattern is laid over</source>
+        <translation>A che cosa si sovrappone il motivo</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Avvia</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Ferma</translation>
+    </message>
+    <message>
+        <source>S&amp;hown size:</source>
+        <translation>Dimensione mos&amp;trata:</translation>
+    </message>
+    <message>
+        <source>Of which of the tests the pictures are</source>
+        <translation>Di quale delle prove sono le immagini</translation>
+    </message>
+    <message>
+        <source>Save P&amp;icture ...</source>
+        <translation>Salva immagi&amp;ne ...</translation>
+    </message>
+    <message>
+        <source>Save Ta&amp;ble ...</source>
+        <translation>Salva ta&amp;bella ...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Scacchiera</translation>
+    </message>
+    <message>
+        <source>Spikes</source>
+        <translation>Impulsi</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Strati</translation>
+    </message>
+    <message>
+        <source>the section</source>
+        <translation>la sezione</translation>
+    </message>
+    <message>
+        <source>its mean at each depth</source>
+        <translation>la sua media a ogni profondità</translation>
+    </message>
+    <message>
+        <source>Start shows here what was put in, what came back and how they agree.</source>
+        <translation>&quot;Avvia&quot; mostra qui ciò che è stato messo, ciò che è tornato e quanto si accordano.</translation>
+    </message>
+    <message>
+        <source>The test is under way.</source>
+        <translation>La prova è in corso.</translation>
+    </message>
+    <message>
+        <source>Times are computed through the pattern.</source>
+        <translation>Si calcolano i tempi attraverso il motivo.</translation>
+    </message>
+    <message>
+        <source>Size %1: iteration %2.</source>
+        <translation>Dimensione %1: iterazione %2.</translation>
+    </message>
+    <message>
+        <source>Stopped before the first test was completed.</source>
+        <translation>Fermata prima di completare la prima prova.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped: %n test(s) completed.</source>
+        <translation>
+            <numerusform>Fermata: %n prova completata.</numerusform>
+            <numerusform>Fermata: %n prove completate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No test was completed.</source>
+        <translation>Nessuna prova è stata completata.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The resolution test could not be completed.</source>
+        <translation>Non è stato possibile completare la prova di risoluzione.</translation>
+    </message>
+    <message>
+        <source>at %1 m none</source>
+        <translation>a %1 m nessuna</translation>
+    </message>
+    <message>
+        <source>at %1 m depth %2 m</source>
+        <translation>a %1 m di profondità %2 m</translation>
+    </message>
+    <message>
+        <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
+        <translation>Dimensione minima risolta (correlazione da %1 in su): %2.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RunTexts</name>
     <message>
         <source>Fitted to errors</source>
@@ -10385,6 +10706,171 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>Uncertainty %1 %</source>
         <translation>Incertezza %1 %</translation>
+    </message>
+    <message>
+        <source>Residuals...</source>
+        <translation>Residui...</translation>
+    </message>
+    <message>
+        <source>Look at what the section leaves of every pick: shot by geophone, over the offset, per shot and geophone, and along the rays</source>
+        <translation>Guarda che cosa la sezione lascia di ogni primo arrivo: tiro per geofono, in funzione della distanza, per tiro e geofono, e lungo i raggi</translation>
+    </message>
+    <message>
+        <source>Known ground ...</source>
+        <translation>Terreno noto ...</translation>
+    </message>
+    <message>
+        <source>Boreholes, known depths and bodies of known velocity, to be drawn and to hold a fit to</source>
+        <translation>Sondaggi, profondità note e corpi di velocità nota, da disegnare e a cui vincolare un adattamento</translation>
+    </message>
+    <message>
+        <source>Show known ground</source>
+        <translation>Mostra il terreno noto</translation>
+    </message>
+    <message>
+        <source>Draw boreholes, known depths and bodies over the section</source>
+        <translation>Disegna sondaggi, profondità note e corpi sopra la sezione</translation>
+    </message>
+    <message>
+        <source>Resolution test ...</source>
+        <translation>Prova di risoluzione ...</translation>
+    </message>
+    <message>
+        <source>Find out how small ground may be that this survey still sees, by patterns laid over the section</source>
+        <translation>Determina quanto può essere piccolo il terreno che questo rilievo vede ancora, con motivi sovrapposti alla sezione</translation>
+    </message>
+    <message>
+        <source>Fade Uncertain Ground</source>
+        <translation>Sbiadisci il terreno incerto</translation>
+    </message>
+    <message>
+        <source>Let the colours of the velocity section pale where it is not sure</source>
+        <translation>Sbiadisce i colori della sezione di velocità dove non è sicura</translation>
+    </message>
+    <message>
+        <source>Depth Bands ...</source>
+        <translation>Fasce di profondità ...</translation>
+    </message>
+    <message>
+        <source>Draw between which depths velocities of your choice are reached, 16 to 84 %</source>
+        <translation>Disegna fra quali profondità si raggiungono le velocità scelte, dal 16 all&apos;84 %</translation>
+    </message>
+    <message>
+        <source>Certainty as table ...</source>
+        <translation>Affidabilità come tabella ...</translation>
+    </message>
+    <message>
+        <source>Export median, 16 and 84 % velocity and spread of every cell as a table (.csv)</source>
+        <translation>Esporta mediana, velocità al 16 e all&apos;84 % e dispersione di ogni cella in una tabella (.csv)</translation>
+    </message>
+    <message>
+        <source>Export Certainty Table</source>
+        <translation>Esporta tabella dell&apos;affidabilità</translation>
+    </message>
+    <message>
+        <source>Table of the certainty (*.csv);;All Files (*)</source>
+        <translation>Tabella dell&apos;affidabilità (*.csv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Stopped before anything was found; the section is as it was.</source>
+        <translation>Fermato prima di trovare qualcosa; la sezione è com&apos;era.</translation>
+    </message>
+    <message>
+        <source>The section is not held to known ground.</source>
+        <translation>La sezione non è vincolata al terreno noto.</translation>
+    </message>
+    <message>
+        <source>The section is held to this.</source>
+        <translation>La sezione è vincolata a questo.</translation>
+    </message>
+    <message>
+        <source>The section is held to known ground that was another: run the fit again.</source>
+        <translation>La sezione è vincolata a un terreno noto che era diverso: ripetere l&apos;adattamento.</translation>
+    </message>
+    <message>
+        <source>Import known ground</source>
+        <translation>Importa terreno noto</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv *.txt);;All files (*)</source>
+        <translation>Tabelle del terreno noto (*.csv *.txt);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Non è stato importato nulla.</translation>
+    </message>
+    <message>
+        <source>Export known ground</source>
+        <translation>Esporta terreno noto</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv)</source>
+        <translation>Tabelle del terreno noto (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save picture of residuals</source>
+        <translation>Salva immagine dei residui</translation>
+    </message>
+    <message>
+        <source>Save table of residuals</source>
+        <translation>Salva tabella dei residui</translation>
+    </message>
+    <message>
+        <source>Save picture of the resolution test</source>
+        <translation>Salva immagine della prova di risoluzione</translation>
+    </message>
+    <message>
+        <source>Save table of the resolution test</source>
+        <translation>Salva tabella della prova di risoluzione</translation>
+    </message>
+    <message>
+        <source>Table of resolution by depth (*.csv)</source>
+        <translation>Tabella della risoluzione per profondità (*.csv)</translation>
+    </message>
+    <message>
+        <source>How sure the section before was is known no more; Undo brings back both.</source>
+        <translation>Quanto fosse sicura la sezione precedente non è più noto; &quot;Annulla modifica&quot; ripristina entrambe.</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>primi arrivi sospetti: %1</translation>
+    </message>
+    <message>
+        <source>time shifts of shots: %1</source>
+        <translation>traslazioni temporali dei tiri: %1</translation>
+    </message>
+    <message>
+        <source>cells at a limit of the velocity: %1</source>
+        <translation>celle a un limite della velocità: %1</translation>
+    </message>
+    <message>
+        <source>cells shown that no ray crosses: %1</source>
+        <translation>celle mostrate che nessun raggio attraversa: %1</translation>
+    </message>
+    <message>
+        <source>Second look (%1)</source>
+        <comment>kinds of things to look at</comment>
+        <translation>Da riguardare (%1)</translation>
+    </message>
+    <message>
+        <source>Shots without a recording, whose picks were shifted: %1.</source>
+        <translation>Tiri senza registrazione, di cui sono stati traslati i primi arrivi: %1.</translation>
+    </message>
+    <message>
+        <source>Depth Bands</source>
+        <translation>Fasce di profondità</translation>
+    </message>
+    <message>
+        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Fino a %1 &amp;velocità in m/s; le profondità a cui il 68 % centrale dei membri le raggiunge si disegnano come una fascia. Nessuna velocità toglie le fasce.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list of velocities.</source>
+        <translation>&quot;%1&quot; non è un elenco di velocità.</translation>
+    </message>
+    <message>
+        <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
+        <translation>Indicare fino a %1 numeri maggiori di 0 separati da punto e virgola: 800; 1500</translation>
     </message>
 </context>
 <context>
